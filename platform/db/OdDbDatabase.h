@@ -1,0 +1,41 @@
+#pragma once
+
+#include "platform/kernel/OdResBuf.h"
+
+/// A record of free data in a drawing: a chain of result buffers whose type codes are DXF group codes. Belongs to the
+/// drawing; valid until the next change of the dictionary that holds it.
+class KV_EXPORT OdDbXrecord
+{
+public:
+    virtual ~OdDbXrecord() = default;
+
+    /// The data, null when the record is empty.
+    virtual OdResBufPtr rbChain() const = 0;
+    /// Replaces the data. False when the drawing cannot take it; it is then as it was.
+    virtual bool setFromRbChain(const OdResBuf *chain) = 0;
+};
+
+/// Named objects of a drawing. Names are compared without regard to case.
+class KV_EXPORT OdDbDictionary
+{
+public:
+    virtual ~OdDbDictionary() = default;
+
+    /// The extension record under `name`; null when there is none or the entry is something else.
+    virtual OdDbXrecord *getAt(const OdString &name) = 0;
+    /// The extension record under `name`, made empty when there was none; null when the drawing's version has no
+    /// room for such records or the entry is something else.
+    virtual OdDbXrecord *setAt(const OdString &name) = 0;
+};
+
+/// The database of one open drawing. Owned by its document.
+class KV_EXPORT OdDbDatabase
+{
+public:
+    virtual ~OdDbDatabase() = default;
+
+    /// Full path of the drawing file; empty for a drawing that was never saved.
+    virtual OdString getFilename() const = 0;
+    /// The named-object dictionary; null when the drawing's version has none.
+    virtual OdDbDictionary *getNamedObjectsDictionary() = 0;
+};

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "platform/ed/OdEditorReactor.h"
+
+/// The editor of the process. A reactor is not owned and must be removed before it goes away. One that is also an
+/// OdEdCommandStackReactor or an OdEdLispEngineReactor hears of those events too.
+class KV_EXPORT OdEditor
+{
+public:
+    virtual ~OdEditor() = default;
+
+    /// Adding a reactor twice has no further effect.
+    virtual void addReactor(OdEditorReactor *reactor) = 0;
+    /// Removing one that was not added has no effect.
+    virtual void removeReactor(OdEditorReactor *reactor) = 0;
+};
+
+/// The editor; never null while a module is loaded.
+KV_EXPORT OdEditor *odedEditor();

@@ -1,0 +1,39 @@
+#pragma once
+
+#include "platform/kernel/OdResBuf.h"
+
+/// The Lisp engine of one document, as external functions use it.
+class KV_EXPORT CKvLispEngine
+{
+public:
+    /// An external function. It fetches its arguments from the engine of the active document, sets at most one
+    /// result there (none means nil) and returns a KvResult code. It must not throw.
+    using Handler = int (*)();
+
+    virtual ~CKvLispEngine() = default;
+
+    /// Makes `handler` callable from Lisp as `name`, in any mix of cases; one of that name is replaced.
+    virtual void defineFunction(const OdString &name, Handler handler) = 0;
+    /// Unknown names are ignored.
+    virtual void undefineFunction(const OdString &name) = 0;
+
+    /// The arguments of the running call in order, null when there are none. The chain belongs to the engine, which
+    /// frees what is left of it when the call ends.
+    virtual OdResBuf *arguments() = 0;
+    /// Gives back the arguments from `first` on before the call ends. Null is allowed.
+    virtual void releaseArguments(OdResBuf *first) = 0;
+
+    virtual void returnNil() = 0;
+    virtual void returnTrue() = 0;
+    virtual void returnInteger(qint32 value) = 0;
+    virtual void returnReal(double value) = 0;
+    virtual void returnString(const OdString &value) = 0;
+    virtual void returnPoint(const OdGePoint3d &point) = 0;
+    /// The links between a list begin (5016) and a list end (5017), with both.
+    virtual void returnList(OdResBufPtr chain) = 0;
+
+    /// Sets the Lisp variable `name` to the value of `value` (its first link only).
+    virtual void setSymbol(const OdString &name, const OdResBuf &value) = 0;
+    /// Prints on the document's command line as it is; a line break comes only where the text has one.
+    virtual void print(const OdString &text) = 0;
+};

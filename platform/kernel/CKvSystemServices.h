@@ -1,0 +1,26 @@
+#pragma once
+
+#include "platform/Export.h"
+#include "platform/rx/OdString.h"
+
+class CKvDocumentManager;
+class QWidget;
+
+/// What the host offers once for the whole process.
+class KV_EXPORT CKvSystemServices
+{
+public:
+    virtual ~CKvSystemServices() = default;
+
+    /// Null in a host that runs without documents.
+    virtual CKvDocumentManager *documentManager() = 0;
+    /// Parent of tool dialogs; null in a run without a window.
+    virtual QWidget *mainWindow() = 0;
+    /// The help file that the module's topics are in.
+    virtual OdString helpFile() const = 0;
+    /// Where a file dialog starts that has no folder of its own.
+    virtual OdString defaultFolder() const = 0;
+};
+
+/// The services; null before the host has started.
+KV_EXPORT CKvSystemServices *GetKvSystemServices();

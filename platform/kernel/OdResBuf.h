@@ -1,0 +1,86 @@
+#pragma once
+
+#include "platform/Export.h"
+#include "platform/rx/OdString.h"
+
+#include <memory>
+#include <variant>
+
+/// A point in three dimensions; the meaning of its coordinates (user or world) is said where it is used.
+struct OdGePoint3d
+{
+    double x = 0;
+    double y = 0;
+    double z = 0;
+
+    bool operator==(const OdGePoint3d &) const = default;
+};
+
+/// One link of a result-buffer chain: a type code, a value and the links after it, which it owns.
+///
+/// Reading a value as another kind than the stored one gives 0, an empty string or the origin; an integer may be read
+/// as a real and the other way round (cut towards zero).
+class KV_EXPORT OdResBuf
+{
+public:
+    /// What external functions and their arguments use.
+    enum Type : int
+    {
+        kRtReal = 5001,   ///< real
+        kRtPoint = 5002,  ///< point in two dimensions
+        kRtShort = 5003,  ///< 16-bit integer
+        kRtAngle = 5004,  ///< real, radians
+        kRtString = 5005, ///< string
+        kRtEntityName = 5006,
+        kRtPickSet = 5007,
+        kRtPoint3d = 5009, ///< point in three dimensions
+        kRtLong = 5010,    ///< 32-bit integer
+        kRtListBegin = 5016,
+        kRtListEnd = 5017,
+        kRtDottedPair = 5018,
+        kRtNil = 5019,
+        kRtTrue = 5021,
+    };
+
+    explicit OdResBuf(int type) : m_type(type) {}
+    /// Frees the chain without recursion, however long it is.
+    ~OdResBuf();
+    OdResBuf(const OdResBuf &) = delete;
+    OdResBuf &operator=(const OdResBuf &) = delete;
+
+    static std::unique_ptr<OdResBuf> newRb(int type) { return std::make_unique<OdResBuf>(type); }
+    static std::unique_ptr<OdResBuf> newString(int type, const OdString &value);
+    static std::unique_ptr<OdResBuf> newInteger(int type, qint64 value);
+    static std::unique_ptr<OdResBuf> newReal(int type, double value);
+    static std::unique_ptr<OdResBuf> newPoint(int type, const OdGePoint3d &value);
+
+    int restype() const { return m_type; }
+    OdString getString() const;
+    qint64 getInteger() const;
+    double getDouble() const;
+    OdGePoint3d getPoint3d() const;
+
+    /// The next link, null at the end.
+    OdResBuf *next() const { return m_next.get(); }
+    /// Puts `next` behind this link in place of what was there, and returns it.
+    OdResBuf *setNext(std::unique_ptr<OdResBuf> next);
+    /// Takes off what is behind this link.
+    std::unique_ptr<OdResBuf> takeNext() { return std::move(m_next); }
+
+private:
+    int m_type;
+    std::variant<std::monostate, qint64, double, OdString, OdGePoint3d> m_value;
+    std::unique_ptr<OdResBuf> m_next;
+};
+
+using OdResBufPtr = std::unique_ptr<OdResBuf>;
+
+/// Result codes of external functions and of user input.
+enum KvResult : int
+{
+    kRtNormal = 5100,   ///< done
+    kRtNone = 5000,     ///< an empty answer where no default was given
+    kRtError = -5001,   ///< wrong arguments
+    kRtCancel = -5002,  ///< the user cancelled
+    kRtKeyword = -5005, ///< a keyword was entered instead of a value
+};

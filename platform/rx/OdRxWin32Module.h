@@ -1,0 +1,58 @@
+#pragma once
+
+#include "platform/rx/OdAlloc.h"
+#include "platform/rx/OdRxModule.h"
+
+#include <atomic>
+#include <new>
+
+/// Full file name of the module that the loader knows under `handle`, cut to `capacity` characters with the ending
+/// zero, as the loader of the operating system does; empty for an unknown handle.
+KV_EXPORT OdString odrxModuleFileName(void *handle, int capacity);
+
+/// Turns a class with initApp() and uninitApp() into the single module object of a process.
+template <class T>
+class OdRxWin32Module final : public T
+{
+public:
+    /// The process's module object; made with the host's allocator on the first call. Throws std::bad_alloc when
+    /// there is no memory and the host installed no handler of its own.
+    static OdRxModule *instance(void *handle)
+    {
+        if (!s_module)
+            s_module = ::new (allocate()) OdRxWin32Module(handle);
+        return s_module;
+    }
+
+    void addRef() override { m_references.fetch_add(1); }
+    void release() override { m_references.fetch_sub(1); }
+    long numRefs() const override { return m_references.load(); }
+    void *sysData() override { return m_handle; }
+    OdString moduleName() const override { return odrxModuleFileName(m_handle, fileNameCapacity); }
+
+    void deleteModule() override
+    {
+        s_module = nullptr;
+        this->~OdRxWin32Module();
+        odrxFree(this);
+    }
+
+private:
+    static constexpr int fileNameCapacity = 260;
+
+    explicit OdRxWin32Module(void *handle) : m_handle(handle) {}
+
+    static void *allocate()
+    {
+        void *memory = odrxAlloc(sizeof(OdRxWin32Module));
+        if (memory)
+            return memory;
+        if (OdAllocationFailureHandler handler = odrxAllocationFailureHandler())
+            handler(sizeof(OdRxWin32Module));
+        throw std::bad_alloc();
+    }
+
+    inline static OdRxWin32Module *s_module = nullptr;
+    std::atomic<int> m_references{0};
+    void *m_handle;
+};

@@ -1,0 +1,6 @@
+#pragma once
+
+#include <QString>
+
+/// The host's string: UTF-16, shared on copy. A host whose string is another class maps it here.
+using OdString = QString;

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "platform/Export.h"
+
+#include <QComboBox>
+
+/// A combo box of the colours of a drawing. The text of an item is its index number in decimal, so that a number set
+/// as the current text picks the colour; what is shown is a swatch and the colour's name.
+class KV_EXPORT CKvQtColorComboBox : public QComboBox
+{
+    Q_OBJECT
+
+public:
+    explicit CKvQtColorComboBox(QWidget *parent = nullptr);
+
+    /// Colour index: 0 by block, 1 to 255, 256 by layer.
+    int colorIndex() const;
+    /// Picks the colour, adding an item for it when there was none. Numbers outside 0 to 256 are ignored.
+    void setColorIndex(int index);
+
+protected:
+    void initStyleOption(QStyleOptionComboBox *option) const override;
+};
