@@ -1,0 +1,53 @@
+#pragma once
+
+#include "host/drawing/Drawing.h"
+
+#include <optional>
+
+namespace host::drawing {
+
+/// Named objects of the OBJECTS section. R12 has none: there reading finds nothing and every change returns failure.
+/// Names are compared without regard to letter case.
+class Dictionaries
+{
+public:
+    struct Entry
+    {
+        QString name;
+        RecordId record = noRecord; ///< noRecord when the handle leads nowhere
+        Handle handle;
+    };
+
+    explicit Dictionaries(Drawing &drawing) : m_drawing(drawing) {}
+
+    /// The named-object dictionary; noRecord when the drawing has none (yet).
+    RecordId root() const;
+    /// The same, made with the OBJECTS section when missing; noRecord in R12.
+    RecordId ensureRoot();
+
+    std::vector<Entry> entries(RecordId dictionary) const;
+    RecordId find(RecordId dictionary, QStringView name) const;
+    /// Makes `name` lead to `object`, in place of what it led to. False in R12.
+    bool set(RecordId dictionary, const QString &name, RecordId object);
+    /// Takes the entry out and erases what it owned. False when there is none.
+    bool remove(RecordId dictionary, QStringView name);
+    /// The dictionary under that name, made when there is none; noRecord when the entry is something else, or in R12.
+    RecordId ensureDictionary(RecordId parent, const QString &name);
+
+    /// The data of the extension record under `name`: its fields behind the marker, the cloning flag (280) left out;
+    /// nothing when there is none.
+    std::optional<FieldList> xrecord(RecordId dictionary, QStringView name) const;
+    FieldList xrecordData(RecordId xrecord) const;
+    /// Creates or replaces the extension record under `name`; noRecord in R12, or when the entry is something else.
+    RecordId setXrecord(RecordId dictionary, const QString &name, const FieldList &data);
+
+    /// The extension dictionary of any record (102 {ACAD_XDICTIONARY); noRecord when it has none.
+    RecordId extensionDictionary(RecordId record) const;
+
+private:
+    RecordId insertObject(const QByteArray &type, Handle owner, const FieldList &body);
+
+    Drawing &m_drawing;
+};
+
+} // namespace host::drawing

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <QStringView>
+
+namespace host::drawing {
+
+/// Whether `text` matches a wild-card pattern of the CAD Lisp dialect: # a digit, @ a letter, . anything but digits and
+/// letters, * any run, ? any character, ~ at the start the opposite, [..] [~..] one of a set, commas between patterns,
+/// ` the next character as it is. Letter case counts only if asked for. Costs at most the product of both lengths.
+bool matchesWildcard(QStringView text, QStringView pattern, Qt::CaseSensitivity sensitivity = Qt::CaseInsensitive);
+
+} // namespace host::drawing
