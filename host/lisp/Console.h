@@ -1,0 +1,44 @@
+#pragma once
+
+#include "host/lisp/Value.h"
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace host::lisp {
+
+/// What the embedder answers when asked in the middle of an evaluation.
+enum class PollAnswer : std::uint8_t
+{
+    Continue,
+    Stop, ///< end the evaluation with an error of kind Interrupted
+};
+
+/// What the interpreter asks of the program it is embedded in. All calls come on the interpreter's thread, from inside
+/// an evaluation. The defaults suit a program without a user.
+class Console
+{
+public:
+    virtual ~Console() = default;
+
+    /// Text for the user, UTF-8, with its own line feeds.
+    virtual void write(std::string_view text) = 0;
+
+    /// Called every Settings::pollInterval evaluations: the time to process events and to see whether the user wants
+    /// to stop. May call into the interpreter.
+    virtual PollAnswer poll() { return PollAnswer::Continue; }
+
+    /// A line that the user types, without line feed; nothing when there is none to be had.
+    virtual std::optional<std::string> readLine() { return std::nullopt; }
+
+    /// The full path of the file that `findfile` and `load` mean by `name`; empty when there is none. The default looks
+    /// at the path itself only.
+    virtual std::string findFile(const std::string &name);
+
+    /// The value of a system variable (LUNITS, LUPREC, AUNITS, AUPREC, DIMZIN, ANGBASE, ANGDIR, ...), by which numbers
+    /// are converted when a program does not say how; nil for one that is unknown.
+    virtual Value systemVariable(std::string_view name);
+};
+
+} // namespace host::lisp

@@ -1,0 +1,210 @@
+#pragma once
+
+#include "host/lisp/Console.h"
+#include "host/lisp/Error.h"
+#include "host/lisp/Native.h"
+#include "host/lisp/SourceMap.h"
+#include "host/lisp/Symbol.h"
+#include "host/lisp/Value.h"
+
+#include <cstdint>
+#include <map>
+#include <memory>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace host::lisp {
+
+struct Settings
+{
+    /// Bytes of machine stack that an evaluation may use, counted from where the outermost run() or call() began.
+    /// Deeper calls get the error "stack overflow". The default leaves natives a quarter of an 8 MB main stack.
+    std::size_t stackBudget = 6 * 1024 * 1024;
+    /// Evaluations between two calls of Console::poll().
+    std::uint32_t pollInterval = 10'000;
+    /// The longest string, in bytes, that a program may make: a loop that doubles a string must not eat all memory.
+    std::size_t longestString = 256 * 1024 * 1024;
+};
+
+/// What came of a run.
+struct Outcome
+{
+    /// The value of the last form; nil after an error.
+    Value value;
+    /// What went wrong. When `handledByProgram` is set, the program's own `*error*` already dealt with it and there is
+    /// nothing to show.
+    std::optional<Error> error;
+
+    bool ok() const noexcept { return !error; }
+};
+
+/// A function that a symbol holds, for listings.
+struct FunctionEntry
+{
+    enum class Kind : std::uint8_t
+    {
+        Builtin,
+        SpecialForm,
+        External,
+        User
+    };
+
+    std::string name; ///< upper case
+    Kind kind = Kind::Builtin;
+    std::string arity;      ///< "2", "1-3", "1+"
+    std::string parameters; ///< of a user function, as written: "(A B / C)"; empty for natives
+    std::string file;       ///< where a user function was read; empty when unknown
+    int line = 0;
+};
+
+/// One engine of the CAD Lisp dialect: all its state, and nothing outside. Engines live side by side, one a document.
+///
+/// Everything happens on one thread. Integers have 32 bits and wrap around on overflow in + - * 1+ 1- lsh, as the
+/// dialect does. Strings are UTF-8; their functions count characters.
+///
+/// From outside an evaluation: run(), loadFile(), call(), evaluate(). These never throw and may also be called from
+/// inside a native function, where they are an evaluation of their own: its errors end there. From inside native
+/// functions: eval(), apply(), which throw Error; let it pass.
+class Interpreter
+{
+public:
+    /// `console` must outlive the interpreter.
+    explicit Interpreter(Console &console, Settings settings = {});
+    ~Interpreter();
+    Interpreter(const Interpreter &) = delete;
+    Interpreter &operator=(const Interpreter &) = delete;
+
+    Console &console() noexcept { return m_console; }
+    const Settings &settings() const noexcept { return m_settings; }
+
+    // Whole evaluations.
+
+    /// Evaluates all forms of `text` up to the first error.
+    Outcome run(std::string_view text, std::string_view sourceName = {});
+    /// The same with a file: UTF-8 with or without byte-order mark; a file that is no valid UTF-8 is taken as
+    /// Windows-1252. `path` is a real path, not searched for.
+    Outcome loadFile(const std::string &path);
+    /// Calls the function that symbol `name` holds.
+    Outcome call(std::string_view name, std::span<const Value> arguments = {});
+    /// Evaluates one form that was read already.
+    Outcome evaluate(const Value &form);
+    /// True while any evaluation is under way.
+    bool isRunning() const noexcept { return m_nesting > 0; }
+
+    // Functions and variables.
+
+    /// Makes `function` callable as `name`, in any mix of cases, in place of what the symbol held.
+    void define(std::string_view name, NativePointer function, Arity arity, NativeKind kind = NativeKind::Builtin);
+    void define(std::string_view name, NativeClosure function, Arity arity, NativeKind kind = NativeKind::External);
+    void define(std::span<const NativeRow> rows);
+    void defineSpecialForm(std::string_view name, SpecialFormPointer function);
+    /// Takes the function away; a symbol that holds something else than a native function is left alone.
+    void undefine(std::string_view name);
+    /// The symbol holds a function of any kind.
+    bool isDefined(std::string_view name) const;
+    /// All functions that symbols hold, sorted by name.
+    std::vector<FunctionEntry> functions() const;
+
+    Symbol &intern(std::string_view name) { return m_symbols.intern(name); }
+    const SymbolTable &symbols() const noexcept { return m_symbols; }
+    /// The value of a variable as it is bound now; nil when it has none.
+    Value variable(std::string_view name) const;
+    void setVariable(std::string_view name, Value value);
+
+    const Value &t() const noexcept { return m_t; }
+    Value boolean(bool truth) const noexcept { return truth ? m_t : Value(); }
+    Value symbol(std::string_view name) { return Value::symbol(intern(name)); }
+
+    /// A new selection set with the next number. Repeated entities are dropped.
+    Value makeSelectionSet(std::vector<std::uint64_t> entities);
+
+    // For native functions.
+
+    /// Evaluates a form.
+    Value eval(const Value &form);
+    /// Evaluates the forms of a list in turn; the value of the last, nil when there is none.
+    Value evalBody(const Value &forms);
+    /// Calls a function value, a symbol that holds one, or a list (lambda (...) ...).
+    Value apply(const Value &function, std::span<const Value> arguments);
+    /// What apply() does once before many calls with the same function: a lambda list becomes a function.
+    Value resolveFunction(const Value &function);
+    /// Reads a whole text and evaluates it, throwing: what `load` does.
+    Value evalText(std::string_view text, std::string_view sourceName);
+    /// Says that some work was done; every Settings::pollInterval of them the console is asked. For loops in natives.
+    void tick()
+    {
+        if (--m_pollCountdown == 0)
+            poll();
+    }
+    /// Calls `body` with `*error*` out of reach; an error that programs may catch comes back instead of passing on.
+    Value catchAll(const Value &function, std::span<const Value> arguments);
+    /// Throws when a string of that many bytes may not be made.
+    void checkStringLength(std::size_t bytes) const;
+
+    SourceMap &sources() noexcept { return m_sources; }
+    /// Values that (vl-bb-set) keeps, by upper-case name.
+    std::map<std::string, Value> &blackboard() noexcept { return m_blackboard; }
+    /// Functions whose calls are printed.
+    bool isTraced(const Symbol &symbol) const;
+    void setTraced(const Symbol &symbol, bool traced);
+
+private:
+    /// A user function under way. Lives on the machine stack.
+    struct CallFrame
+    {
+        CallFrame *outer;
+        const Function *function;
+        Location location; ///< of the calling form
+    };
+    class ValueStackFrame;
+    class Binding;
+    class FrameScope;
+    class TopLevel;
+    class HandlerScope;
+
+    Value evalList(const Value &form);
+    Value callNative(const NativeFunction &native, Value *values, std::size_t count);
+    Value callUser(const Value &function, ValueStackFrame &arguments, Location location);
+    Value callTraced(const Value &function, ValueStackFrame &arguments, Location location);
+    Value invoke(const Value &function, ValueStackFrame &arguments, Location location);
+    [[noreturn]] void raise(Error error);
+    [[noreturn]] void raiseNotAFunction(const Value &head, const Value &function);
+    [[noreturn]] void raiseStackOverflow();
+    void signal(Error &error, const NativeFunction *native);
+    void fillPlace(Error &error, const NativeFunction *native) const;
+    void callErrorHandler(Error &error);
+    void poll();
+
+    template <typename Body>
+    Outcome topLevel(Body &&body);
+
+    Console &m_console;
+    Settings m_settings;
+    SymbolTable m_symbols;
+    Value m_t;
+    Symbol *m_errorSymbol = nullptr;
+    Symbol *m_lambdaSymbol = nullptr;
+
+    std::unique_ptr<std::byte[]> m_stackMemory;
+    Value *m_stackTop = nullptr;
+    Value *m_stackEnd = nullptr;
+
+    std::uintptr_t m_stackLimit = 0;
+    std::uint32_t m_pollCountdown = 1;
+    int m_nesting = 0;
+    int m_catchDepth = 0;
+    bool m_inErrorHandler = false;
+    bool m_polling = false;
+    CallFrame *m_frame = nullptr;
+    Location m_location = 0; ///< of the list form evaluated last
+    std::vector<const Symbol *> m_traced;
+
+    SourceMap m_sources;
+    std::map<std::string, Value> m_blackboard;
+    std::uint32_t m_selectionSets = 0;
+};
+
+} // namespace host::lisp
