@@ -21,7 +21,7 @@ set(CMAKE_ARCHIVE_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/archive")
 find_program(ORTAKIT_CCACHE ccache)
 if(ORTAKIT_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
     set(CMAKE_CXX_COMPILER_LAUNCHER
-        "${ORTAKIT_CCACHE};sloppiness=pch_defines,time_macros,include_file_mtime,include_file_ctime")
+        "${CMAKE_COMMAND};-E;env;CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime;${ORTAKIT_CCACHE}")
 endif()
 find_program(ORTAKIT_MOLD mold)
 if(ORTAKIT_MOLD)
