@@ -1,0 +1,128 @@
+#include "platform/widgets/CKvQtColorComboBox.h"
+
+#include <QPainter>
+#include <QStyledItemDelegate>
+
+namespace {
+
+constexpr int byBlock = 0;
+constexpr int byLayer = 256;
+
+QString colorName(int index)
+{
+    static const char *const names[] = {
+        QT_TRANSLATE_NOOP("CKvQtColorComboBox", "ByBlock"), QT_TRANSLATE_NOOP("CKvQtColorComboBox", "Red"),
+        QT_TRANSLATE_NOOP("CKvQtColorComboBox", "Yellow"),  QT_TRANSLATE_NOOP("CKvQtColorComboBox", "Green"),
+        QT_TRANSLATE_NOOP("CKvQtColorComboBox", "Cyan"),    QT_TRANSLATE_NOOP("CKvQtColorComboBox", "Blue"),
+        QT_TRANSLATE_NOOP("CKvQtColorComboBox", "Magenta"), QT_TRANSLATE_NOOP("CKvQtColorComboBox", "White")};
+    if (index == byLayer)
+        return CKvQtColorComboBox::tr("ByLayer");
+    if (index >= 0 && index < int(std::size(names)))
+        return CKvQtColorComboBox::tr(names[index]);
+    return CKvQtColorComboBox::tr("Color %1").arg(index);
+}
+
+/// The colour number an item's text says; -1 for other text.
+int colorNumber(const QString &text)
+{
+    bool ok = false;
+    const int number = text.toInt(&ok);
+    return ok && number >= byBlock && number <= byLayer ? number : -1;
+}
+
+/// Red, green and blue of colour numbers 10 to 249: 24 hues, each in five darkening pairs of full and pale.
+QColor wheelColor(int index)
+{
+    static constexpr int values[] = {255, 189, 129, 104, 79};
+    const int hue = (index / 10 - 1) * 15;
+    const int value = values[index % 10 / 2];
+    return QColor::fromHsv(hue, index % 2 ? 85 : 255, value);
+}
+
+QColor swatchColor(int index)
+{
+    static const QColor basic[] = {Qt::gray,
+                                   Qt::red,
+                                   Qt::yellow,
+                                   Qt::green,
+                                   Qt::cyan,
+                                   Qt::blue,
+                                   Qt::magenta,
+                                   Qt::white,
+                                   QColor(128, 128, 128),
+                                   QColor(192, 192, 192)};
+    static constexpr int greys[] = {51, 91, 132, 173, 214, 255};
+    if (index == byLayer)
+        return Qt::white;
+    if (index < 10)
+        return basic[index];
+    if (index >= 250)
+        return QColor(greys[index - 250], greys[index - 250], greys[index - 250]);
+    return wheelColor(index);
+}
+
+QIcon swatch(int index)
+{
+    QPixmap picture(16, 16);
+    picture.fill(swatchColor(index));
+    QPainter painter(&picture);
+    painter.setPen(Qt::darkGray);
+    painter.drawRect(0, 0, 15, 15);
+    return QIcon(picture);
+}
+
+/// Shows the items of the list as swatch and name.
+class ColorDelegate final : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem *option, const QModelIndex &index) const override
+    {
+        QStyledItemDelegate::initStyleOption(option, index);
+        const int number = colorNumber(index.data().toString());
+        if (number < 0)
+            return;
+        option->text = colorName(number);
+        option->icon = swatch(number);
+        option->features |= QStyleOptionViewItem::HasDecoration;
+        option->decorationSize = QSize(16, 16);
+    }
+};
+
+} // namespace
+
+CKvQtColorComboBox::CKvQtColorComboBox(QWidget *parent) : QComboBox(parent)
+{
+    setItemDelegate(new ColorDelegate(this));
+    setMinimumContentsLength(9);
+    for (int index : {byLayer, byBlock, 1, 2, 3, 4, 5, 6, 7})
+        addItem(QString::number(index));
+}
+
+int CKvQtColorComboBox::colorIndex() const
+{
+    return std::max(colorNumber(currentText()), 0);
+}
+
+void CKvQtColorComboBox::setColorIndex(int index)
+{
+    if (index < byBlock || index > byLayer)
+        return;
+    const QString text = QString::number(index);
+    if (findText(text) < 0)
+        addItem(text);
+    setCurrentIndex(findText(text));
+}
+
+void CKvQtColorComboBox::initStyleOption(QStyleOptionComboBox *option) const
+{
+    QComboBox::initStyleOption(option);
+    const int number = colorNumber(currentText());
+    if (number < 0)
+        return;
+    option->currentText = colorName(number);
+    option->currentIcon = swatch(number);
+    option->iconSize = QSize(16, 16);
+}
