@@ -1,0 +1,161 @@
+#pragma once
+
+#include "platform/db/OdDbDatabase.h"
+#include "platform/kernel/CKvDocument.h"
+#include "platform/kernel/CKvLispEngine.h"
+#include "platform/kernel/CKvUserInput.h"
+
+#include <QHash>
+#include <QMap>
+#include <QVariant>
+
+#include <deque>
+#include <map>
+
+namespace ortakit::test {
+
+/// A chain of arguments: text, whole numbers (32-bit), reals, points, true (T) and invalid values (nil).
+OdResBufPtr makeChain(const QVariantList &values);
+
+/// A chain as Lisp would print it, its links with a blank between: 3 "text" T nil (1 2 3) ( "in a list" ).
+QString chainText(const OdResBuf *chain);
+
+/// A Lisp engine without a language: a test calls the functions that were defined and reads what they set.
+class FakeLispEngine final : public CKvLispEngine
+{
+public:
+    /// Runs the function `name` (any case) with `arguments` and gives its result code; 0 when there is none.
+    int call(const QString &name, const QVariantList &arguments = {});
+
+    /// What the last call gave back, printed; empty when it set no result.
+    QString result() const { return m_result; }
+    /// Types of the links of the last returned list.
+    QList<int> resultTypes() const { return m_resultTypes; }
+    /// How many arguments the last call gave back itself; -1 when it gave back none.
+    int releasedArguments() const { return m_released; }
+    /// Functions that are defined now, in lower case and alphabetical order.
+    QStringList functions() const { return m_functions.keys(); }
+    /// Defined and undefined names in the order they came in, as they were written; undefined ones after a minus.
+    QStringList definitions() const { return m_definitions; }
+    /// Lisp variables by lower-case name, printed.
+    const QMap<QString, QString> &symbols() const { return m_symbols; }
+    /// Everything printed on the command line since the last clearing.
+    QString printed() const { return m_printed; }
+    void clearPrinted() { m_printed.clear(); }
+
+    void defineFunction(const OdString &name, Handler handler) override;
+    void undefineFunction(const OdString &name) override;
+    OdResBuf *arguments() override { return m_arguments.get(); }
+    void releaseArguments(OdResBuf *first) override;
+    void returnNil() override { m_result = QStringLiteral("nil"); }
+    void returnTrue() override { m_result = QStringLiteral("T"); }
+    void returnInteger(qint32 value) override { m_result = QString::number(value); }
+    void returnReal(double value) override { m_result = QString::number(value); }
+    void returnString(const OdString &value) override;
+    void returnPoint(const OdGePoint3d &point) override;
+    void returnList(OdResBufPtr chain) override;
+    void setSymbol(const OdString &name, const OdResBuf &value) override;
+    void print(const OdString &text) override { m_printed += text; }
+
+private:
+    QMap<QString, Handler> m_functions;
+    QStringList m_definitions;
+    OdResBufPtr m_arguments;
+    int m_released = -1;
+    QString m_result;
+    QList<int> m_resultTypes;
+    QMap<QString, QString> m_symbols;
+    QString m_printed;
+};
+
+/// What the user answers to one request. An answer with code 5100 and no value takes the default.
+struct FakeAnswer
+{
+    int code = kRtNormal;
+    QVariant value;
+    QString keyword;
+};
+
+/// A user whose answers were written down before. With none left, every request is cancelled.
+class FakeUserInput final : public CKvUserInput
+{
+public:
+    void answer(const FakeAnswer &answer) { m_answers.push_back(answer); }
+    bool hasAnswersLeft() const { return !m_answers.empty(); }
+    /// Requests so far, each a line such as: getPoint "Corner: " from (1 2 3)
+    const QStringList &requests() const { return m_requests; }
+
+    void initget(int bits, const QStringList &keywords) override;
+    /// Prompt, keywords of the last initget() in brackets, default in angle brackets, colon.
+    OdString formatPrompt(const OdString &prompt, const OdString &defaultText) const override;
+    int getInteger(const OdString &prompt, bool hasDefault, qint32 &value) override;
+    int getReal(const OdString &prompt, bool hasDefault, double &value) override;
+    int getDistance(const OdString &prompt, const std::optional<OdGePoint3d> &base, bool hasDefault,
+                    double &value) override;
+    int getAngle(const OdString &prompt, const std::optional<OdGePoint3d> &base, bool hasDefault,
+                 double &value) override;
+    int getPoint(const OdString &prompt, const std::optional<OdGePoint3d> &base, OdGePoint3d &value) override;
+    int getCorner(const OdString &prompt, const OdGePoint3d &base, OdGePoint3d &value) override;
+    int getString(const OdString &prompt, bool allowSpaces, OdString &value) override;
+    int getKeyword(const OdString &prompt, OdString &value) override;
+    OdString input() const override { return m_input; }
+
+private:
+    FakeAnswer take(const QString &request);
+
+    std::deque<FakeAnswer> m_answers;
+    QStringList m_requests;
+    QStringList m_keywords;
+    QString m_input;
+};
+
+/// A drawing's database of nothing but extension records in the named-object dictionary.
+class FakeDatabase final : public OdDbDatabase, public OdDbDictionary
+{
+public:
+    void setFilename(const QString &path) { m_filename = path; }
+    /// A drawing of a version that has no dictionaries when false.
+    void setHasDictionary(bool has) { m_hasDictionary = has; }
+
+    OdString getFilename() const override { return m_filename; }
+    OdDbDictionary *getNamedObjectsDictionary() override { return m_hasDictionary ? this : nullptr; }
+    OdDbXrecord *getAt(const OdString &name) override;
+    OdDbXrecord *setAt(const OdString &name) override;
+
+private:
+    class Record;
+
+    QString m_filename;
+    bool m_hasDictionary = true;
+    std::map<QString, std::shared_ptr<OdDbXrecord>> m_records;
+};
+
+/// An open document. Its user coordinate system is moved by userOrigin().
+class FakeDocument final : public CKvDocument
+{
+public:
+    void setSystemVariable(const QString &name, const QString &value) { m_variables[name.toLower()] = value; }
+    void setUserOrigin(const OdGePoint3d &origin) { m_userOrigin = origin; }
+    /// Makes or takes away the Lisp engine.
+    void setHasLisp(bool has);
+
+    FakeLispEngine &lisp() { return *m_lisp; }
+    FakeUserInput &input() { return m_input; }
+    FakeDatabase &fakeDatabase() { return m_database; }
+
+    CKvLispEngine *lispEngine() override { return m_lisp.get(); }
+    CKvUserInput *userInput() override { return &m_input; }
+    OdDbDatabase *database() override { return &m_database; }
+    OdString systemVariable(const OdString &name) const override { return m_variables.value(name.toLower()); }
+    OdGePoint3d userToWorld(const OdGePoint3d &point) const override;
+    OdGePoint3d worldToUser(const OdGePoint3d &point) const override;
+
+private:
+    std::unique_ptr<FakeLispEngine> m_lisp = std::make_unique<FakeLispEngine>();
+    FakeUserInput m_input;
+    FakeDatabase m_database;
+    QHash<QString, QString> m_variables;
+    OdGePoint3d m_userOrigin;
+};
+
+} // namespace ortakit::test
