@@ -1,0 +1,10 @@
+;;; The support library of the drafting tools. It is loaded before the tools.
+;;;
+;;; support/run.lsp       a tool's run: undo step, system variables, errors
+;;; support/state.lsp     state files and the action words of dialogs
+;;; support/strings.lsp   splitting and trimming
+;;; support/entities.lsp  entity data, selections, bounding boxes
+
+(foreach file '("strings" "run" "state" "entities")
+  (load (strcat "support/" file ".lsp")))
+(princ)

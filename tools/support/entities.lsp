@@ -1,0 +1,88 @@
+;;; Entity data, selections, bounding boxes. Points are in world coordinates.
+
+;; (kora_field data code) -> the value under a group code, nil when there is none.
+(defun kora_field (data code) (cdr (assoc code data)))
+
+;; (kora_with_field data code value) -> data with the first field of this code replaced, or with one more at the end.
+(defun kora_with_field (data code value)
+  (if (assoc code data)
+    (subst (cons code value) (assoc code data) data)
+    (append data (list (cons code value)))))
+
+;; (kora_copy_data data) -> entity data fit to make another such entity from: without names, handle and owners.
+(defun kora_copy_data (data)
+  (vl-remove-if '(lambda (field) (member (car field) '(-1 5 102 330 360))) data))
+
+;; (kora_selection_to_list selection) -> the entity names of a selection set, nil for nil.
+(defun kora_selection_to_list (selection / index names)
+  (if selection
+    (repeat (setq index (sslength selection))
+      (setq names (cons (ssname selection (setq index (1- index))) names)))))
+
+;; (kora_block_entities name) -> the entity names of a block definition.
+(defun kora_block_entities (name / block entity names)
+  (if (setq block (tblsearch "BLOCK" name))
+    (progn
+      (setq entity (kora_field block -2))
+      (while entity
+        (setq names  (cons entity names)
+              entity (entnext entity)))))
+  (reverse names))
+
+;; (kora_bounding_box entities) -> (lower upper), two points, of what the entities draw; nil when nothing has an extent.
+;; Texts count with their insertion point, block references and curves of higher degree with their defining points.
+(defun kora_bounding_box (entities / points)
+  (foreach entity entities
+    (setq points (append (kora:extent_points (entget entity)) points)))
+  (if points
+    (list (apply 'mapcar (cons 'min (mapcar 'kora:point3d points)))
+          (apply 'mapcar (cons 'max (mapcar 'kora:point3d points))))))
+
+(defun kora:point3d (point)
+  (list (car point) (cadr point) (cond ((caddr point)) (0.0))))
+
+;; Points that lie in the corners of an entity's extent.
+(defun kora:extent_points (data / type)
+  (setq type (kora_field data 0))
+  (cond
+    ((= type "CIRCLE") (kora:arc_points (kora_field data 10) (kora_field data 40) 0.0 (* 2 pi)))
+    ((= type "ARC")
+     (kora:arc_points (kora_field data 10) (kora_field data 40) (kora_field data 50) (kora_field data 51)))
+    ((= type "LWPOLYLINE") (kora:polyline_points data))
+    ((member type '("TEXT" "MTEXT" "INSERT" "ATTRIB")) (list (kora_field data 10)))
+    (T (mapcar 'cdr (vl-remove-if-not '(lambda (field) (member (car field) '(10 11 12 13))) data)))))
+
+;; Ends of an arc and the points where it meets the axes through its centre. Angles in radians, counter-clockwise.
+(defun kora:arc_points (centre radius start end / points quarter)
+  (if (<= end start) (setq end (+ end (* 2 pi))))
+  (setq points  (list (polar centre start radius) (polar centre end radius))
+        quarter (* 0.5 pi (fix (/ start (* 0.5 pi)))))
+  (repeat 9
+    (if (<= start quarter end) (setq points (cons (polar centre quarter radius) points)))
+    (setq quarter (+ quarter (* 0.5 pi))))
+  points)
+
+;; Vertices, and for bulged parts the points of their arcs.
+(defun kora:polyline_points (data / vertices bulges points)
+  (foreach field data
+    (cond ((= (car field) 10) (setq vertices (cons (cdr field) vertices)
+                                    bulges   (cons 0.0 bulges)))
+          ((= (car field) 42) (setq bulges (cons (cdr field) (cdr bulges))))))
+  (setq vertices (reverse vertices)
+        bulges   (reverse bulges)
+        points   vertices)
+  (mapcar '(lambda (from to bulge)
+             (if (/= bulge 0.0) (setq points (append (kora:bulge_points from to bulge) points))))
+          vertices
+          (append (cdr vertices) (if (= 1 (logand 1 (cond ((kora_field data 70)) (0)))) (list (car vertices))))
+          bulges)
+  points)
+
+;; A bulge is the tangent of a quarter of the arc's angle, positive counter-clockwise; half is half of that angle.
+(defun kora:bulge_points (from to bulge / half radius centre)
+  (setq half (* 2 (atan bulge))
+        radius (/ (distance from to) 2 (sin half))
+        centre (polar from (+ (angle from to) (- (* 0.5 pi) half)) radius))
+  (if (> bulge 0)
+    (kora:arc_points centre (abs radius) (angle centre from) (angle centre to))
+    (kora:arc_points centre (abs radius) (angle centre to) (angle centre from))))
