@@ -1,0 +1,61 @@
+#pragma once
+
+#include "platform/kernel/CKvDialog.h"
+#include "state/DialogState.h"
+
+/// Base of every tool's dialog: owns its DialogState, applies it when the dialog is shown, opens its help page and
+/// asks and tells through the host's message boxes.
+///
+/// A dialog lives as long as its document and is shown many times. Each time, in this order: beforeShow(); then, as
+/// long as the state was never applied, beforeFirstShow() and the state is applied, and later the state is applied
+/// again where appliesAgain() says so; then afterShow(). Coming back from being minimized is not a showing.
+class ToolDialog : public CKvDialog
+{
+    Q_OBJECT
+
+public:
+    /// `helpTopic` is the tool's name in HelpTopicMap.
+    ToolDialog(QWidget *parent, const QString &helpTopic);
+    ~ToolDialog() override;
+
+    DialogState &state() { return m_state; }
+    const DialogState &state() const { return m_state; }
+
+public slots:
+    /// Opens the tool's help page.
+    void showHelp();
+
+protected:
+    /// To be called once behind setupUi(): gives the buttons "acceptButton", "ButtonCancel" and "buttonHelp" their
+    /// icons, and connects Help to showHelp() and Cancel to reject(). OK is the tool's own.
+    void setUpButtons();
+
+    /// Fills what depends on the drawing or the disk, each time.
+    virtual void beforeShow() {}
+    /// Fills what the state is then applied to, once.
+    virtual void beforeFirstShow() {}
+    /// Whether a showing after the first sets the widgets from the state again, commonly by the action that Lisp left
+    /// under "!action!".
+    virtual bool appliesAgain() const { return false; }
+    /// Brings everything that follows from the widgets up to date, each time.
+    virtual void afterShow() {}
+
+    /// Closes with acceptance, leaving `action` for the Lisp program.
+    void acceptWith(const QString &action);
+
+    /// Message boxes over this dialog, with one OK button.
+    void inform(const QString &text, const QString &title = {});
+    void warn(const QString &text, const QString &title = {});
+    void reportError(const QString &text, const QString &title = {});
+    /// A question; true only when it was answered with Yes.
+    bool ask(const QString &text, const QString &title = {});
+
+    void showEvent(QShowEvent *event) override;
+    void changeEvent(QEvent *event) override;
+
+private:
+    void applyState();
+
+    DialogState m_state;
+    QString m_helpTopic;
+};
