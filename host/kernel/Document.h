@@ -1,0 +1,177 @@
+#pragma once
+
+#include "host/drawing/Drawing.h"
+#include "host/drawing/Save.h"
+#include "host/kernel/UndoSteps.h"
+#include "platform/kernel/CKvDocument.h"
+
+#include <QObject>
+#include <QSize>
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+namespace host::lisp {
+class Interpreter;
+}
+
+namespace host::kernel {
+
+class CommandRun;
+class DrawingDatabase;
+class LispConsole;
+class LispEngine;
+class Session;
+class SystemVariables;
+class UserInput;
+
+/// What came of running a command, an expression or a file.
+struct RunResult
+{
+    bool ok = true;
+    QString value;                 ///< the last value as Lisp prints it; empty for a built-in command
+    QString error;                 ///< message, function and place in one line; empty when ok
+    QString report;                ///< the same with the calls under way, a line each
+    bool handledByProgram = false; ///< the program's own *error* took the message
+};
+
+/// What a window shows of the drawing: plan view of the current space.
+struct ViewState
+{
+    drawing::Vec2 centre;
+    double height = 297.0;      ///< drawing units from bottom to top
+    QSize pixels = {1280, 800}; ///< of the canvas
+
+    double unitsPerPixel() const { return pixels.height() > 0 ? height / pixels.height() : height; }
+};
+
+/// An open drawing: its tags, its Lisp engine, its system variables, its prompts and its undo steps. Made and owned by
+/// the DocumentManager.
+class KV_EXPORT Document final : public QObject, public CKvDocument
+{
+    Q_OBJECT
+
+public:
+    Document(Session &session, std::unique_ptr<drawing::Drawing> drawing, const QString &untitledName);
+    ~Document() override;
+
+    Session &session() { return m_session; }
+    drawing::Drawing &drawing() { return *m_drawing; }
+    const drawing::Drawing &drawing() const { return *m_drawing; }
+    lisp::Interpreter &interpreter();
+    SystemVariables &variables() { return *m_variables; }
+    const SystemVariables &variables() const { return *m_variables; }
+    UserInput &prompts() { return *m_userInput; }
+    UndoSteps &undoSteps() { return m_undoSteps; }
+    const UndoSteps &undoSteps() const { return m_undoSteps; }
+
+    /// Full path of the file; empty for a drawing that was never saved.
+    QString path() const { return m_drawing->path(); }
+    /// File name, or "Drawing1" for a new one.
+    QString title() const;
+    bool isModified() const;
+
+    // Running. A whole run is one undo step. Errors are printed on the command line. Output, prompts and reactors of
+    // the run happen during these calls.
+
+    /// Evaluates all forms of `text`. `sourceName` is what errors name.
+    RunResult run(const QString &text, const QString &sourceName = {});
+    /// Loads a Lisp file.
+    RunResult loadLisp(const QString &path);
+    /// A Lisp command (C:NAME) or else a built-in one, by its name as typed. What it asks is taken from the queue.
+    RunResult runCommand(const QString &name);
+    /// Takes the next command, expression or variable from the queue and runs it; an empty line repeats the last
+    /// command. Nothing happens when the queue is empty or holds but the beginning of an expression.
+    RunResult runQueued();
+    /// Runs `body` as a run of its own, for changes that the window makes.
+    void runAs(const QString &name, const std::function<void()> &body);
+    /// A program or command is under way.
+    bool isBusy() const { return m_runs > 0; }
+    /// Names of the commands under way as CMDNAMES has them: "LINE'ZOOM".
+    QString commandNames() const { return m_commandNames.join(u'\''); }
+
+    /// Writes the drawing; the reactors hear of it first. Of a drawing without a path, save() fails.
+    drawing::SaveResult save();
+    drawing::SaveResult saveAs(const QString &path);
+
+    // What is shown and chosen.
+
+    const ViewState &view() const { return m_view; }
+    void setView(const ViewState &view);
+    /// Shows a box of world coordinates with a margin; an empty box does nothing.
+    void zoomTo(const drawing::Box &box);
+    /// Entities shown highlighted; dead ones may be among them.
+    const std::vector<drawing::RecordId> &highlighted() const { return m_highlighted; }
+    void setHighlighted(std::vector<drawing::RecordId> entities);
+    /// What the last selection chose, for "Previous".
+    const std::vector<drawing::RecordId> &previousSelection() const { return m_previousSelection; }
+    void setPreviousSelection(std::vector<drawing::RecordId> entities);
+    /// What is chosen while no command runs, for commands that take what is chosen already.
+    const std::vector<drawing::RecordId> &impliedSelection() const { return m_impliedSelection; }
+    void setImpliedSelection(std::vector<drawing::RecordId> entities);
+
+    /// Prints on the command line as it is.
+    void print(const QString &text);
+    /// Prints a prompt and keeps it as LASTPROMPT.
+    void printPrompt(const QString &text);
+
+    // For the rooms inside: pieces of a run.
+
+    /// Where a file that Lisp names is: the path itself, the drawing's folder, the support folders; empty when nowhere.
+    QString findFile(const QString &name) const;
+    /// The command that waits for input from a Lisp program's next (command ...); null when none does.
+    CommandRun *pendingCommand() { return m_pendingCommand.get(); }
+    void setPendingCommand(std::unique_ptr<CommandRun> command);
+    std::unique_ptr<CommandRun> takePendingCommand();
+    void pushCommandName(const QString &name) { m_commandNames.append(name); }
+    void popCommandName() { m_commandNames.removeLast(); }
+    /// Made when the document is announced, gone after LispDocumentClosing.
+    void openLisp();
+    void closeLisp();
+
+    CKvLispEngine *lispEngine() override;
+    CKvUserInput *userInput() override;
+    OdDbDatabase *database() override;
+    OdString systemVariable(const OdString &name) const override;
+    OdGePoint3d userToWorld(const OdGePoint3d &point) const override;
+    OdGePoint3d worldToUser(const OdGePoint3d &point) const override;
+
+signals:
+    /// Text for the command line, with its own line feeds.
+    void printed(const QString &text);
+    void viewChanged();
+    void highlightChanged();
+    void impliedSelectionChanged();
+    /// The path or the modified mark may be another now.
+    void titleChanged();
+    /// A run ended: a good moment to update what depends on the drawing or on variables.
+    void runEnded();
+
+private:
+    class Run;
+    RunResult runBuiltIn(const QString &typed);
+    void finishPendingCommand();
+    RunResult reportOutcome(const struct LispOutcome &outcome);
+
+    Session &m_session;
+    std::unique_ptr<drawing::Drawing> m_drawing;
+    QString m_untitledName;
+    UndoSteps m_undoSteps;
+    std::unique_ptr<SystemVariables> m_variables;
+    std::unique_ptr<UserInput> m_userInput;
+    std::unique_ptr<DrawingDatabase> m_database;
+    std::unique_ptr<LispConsole> m_console;
+    std::unique_ptr<lisp::Interpreter> m_interpreter;
+    std::unique_ptr<LispEngine> m_lispEngine;
+    std::unique_ptr<CommandRun> m_pendingCommand;
+    QStringList m_commandNames;
+    QString m_lastCommand;
+    int m_runs = 0;
+    ViewState m_view;
+    std::vector<drawing::RecordId> m_highlighted;
+    std::vector<drawing::RecordId> m_previousSelection;
+    std::vector<drawing::RecordId> m_impliedSelection;
+};
+
+} // namespace host::kernel

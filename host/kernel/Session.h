@@ -1,0 +1,76 @@
+#pragma once
+
+#include "host/kernel/DocumentManager.h"
+#include "host/kernel/ModuleLoader.h"
+#include "host/kernel/Services.h"
+#include "host/kernel/input/InputFeeder.h"
+
+#include <QPointer>
+#include <QWidget>
+
+#include <memory>
+
+namespace host::kernel {
+
+class Editor;
+class HelpService;
+class SystemServices;
+
+/// How a session is set up.
+struct SessionOptions
+{
+    /// Folder of the user's data (LOGFILEPATH). Empty: the environment variable ORTAKIT_HOME, else a folder of this
+    /// program below the system's place for application data. Made when it does not exist.
+    QString home;
+    /// Where findfile, load and the drawing tools look after the drawing's own folder, in order.
+    QStringList supportFolders;
+    /// Folder with the help pages (<topic>.html, index.html).
+    QString helpFolder;
+};
+
+/// One running host: its documents, modules, reactors, help and input. Making one installs the platform's services;
+/// destroying it unloads the modules, closes the documents and puts back what was installed before.
+class KV_EXPORT Session
+{
+public:
+    explicit Session(const SessionOptions &options = {});
+    ~Session();
+    Session(const Session &) = delete;
+    Session &operator=(const Session &) = delete;
+
+    DocumentManager &documents() { return *m_documents; }
+    ModuleLoader &modules() { return *m_modules; }
+    Editor &editor() { return *m_editor; }
+    InputQueue &input() { return m_input; }
+
+    /// Who answers when the queue is empty; null (as in the beginning) for nobody. Not owned.
+    void setFeeder(InputFeeder *feeder) { m_feeder = feeder; }
+    InputFeeder *feeder() const { return m_feeder; }
+
+    /// Parent of tool dialogs; null in a run without a window, when nothing is ever shown: alerts are printed and files
+    /// asked for on the command line. The session must be destroyed before the window.
+    void setMainWindow(QWidget *window) { m_mainWindow = window; }
+    QWidget *mainWindow() const { return m_mainWindow; }
+
+    /// Absolute, without a separator at the end.
+    QString home() const { return m_home; }
+    const QStringList &supportFolders() const { return m_supportFolders; }
+    void setSupportFolders(const QStringList &folders) { m_supportFolders = folders; }
+    QString helpFolder() const { return m_helpFolder; }
+
+private:
+    QString m_home;
+    QStringList m_supportFolders;
+    QString m_helpFolder;
+    InputQueue m_input;
+    InputFeeder *m_feeder = nullptr;
+    QPointer<QWidget> m_mainWindow;
+    std::unique_ptr<Editor> m_editor;
+    std::unique_ptr<HelpService> m_help;
+    std::unique_ptr<SystemServices> m_services;
+    std::unique_ptr<DocumentManager> m_documents;
+    std::unique_ptr<ModuleLoader> m_modules;
+    Services m_servicesBefore;
+};
+
+} // namespace host::kernel

@@ -1,0 +1,68 @@
+#pragma once
+
+#include "host/drawing/Drawing.h"
+#include "platform/Export.h"
+
+#include <QHash>
+
+#include <functional>
+#include <optional>
+#include <variant>
+
+namespace host::kernel {
+
+class Document;
+struct HostVariable;
+
+/// The value of a system variable: an integer, a real, text or a point.
+using VariableValue = std::variant<qint32, double, QString, drawing::Vec2, drawing::Vec3>;
+
+/// What came of setting a variable.
+enum class SetOutcome
+{
+    Done,
+    Unknown,
+    ReadOnly,
+    WrongType,
+    OutOfRange
+};
+
+/// The system variables of one document, by name without regard to letter case: those of the drawing's header (named
+/// without the $ that the file has; changing one is an undoable change of the drawing) and those of the host. Angles
+/// are radians. Numbers given for a real variable may be integers; the other way round is refused.
+class KV_EXPORT SystemVariables
+{
+public:
+    explicit SystemVariables(Document &document);
+    ~SystemVariables();
+    SystemVariables(const SystemVariables &) = delete;
+    SystemVariables &operator=(const SystemVariables &) = delete;
+
+    /// Nothing for an unknown name.
+    std::optional<VariableValue> get(QStringView name) const;
+    /// Tells the editor's reactors first, when the value is acceptable.
+    SetOutcome set(QStringView name, const VariableValue &value);
+    /// As set(), for the host itself: read-only variables as well, and the range is not looked at.
+    void setInternally(QStringView name, const VariableValue &value);
+
+    // For readers who know what they want: `otherwise` for an unknown name or another kind of value.
+    qint32 integer(QStringView name, qint32 otherwise = 0) const;
+    double real(QStringView name, double otherwise = 0.0) const;
+    QString text(QStringView name) const;
+    /// As text, whatever its kind: what a prompt shows. Empty for an unknown name.
+    QString display(QStringView name) const;
+
+    bool isReadOnly(QStringView name) const;
+    /// All names, sorted.
+    QStringList names() const;
+
+private:
+    std::optional<VariableValue> headerValue(const QString &name) const;
+    SetOutcome setHeader(const QString &name, const VariableValue &value);
+    void store(const HostVariable &variable, const VariableValue &value);
+
+    Document &m_document;
+    QHash<QString, VariableValue> m_values; ///< host variables that were set, by upper-case name
+};
+
+} // namespace host::kernel

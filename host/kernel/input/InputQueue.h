@@ -1,0 +1,49 @@
+#pragma once
+
+#include "host/kernel/input/PromptRequest.h"
+#include "platform/Export.h"
+
+#include <QObject>
+
+#include <deque>
+
+namespace host::kernel {
+
+/// What waits to be asked for: the one place that command line, canvas, scripts and recorded sessions put answers
+/// into and all prompts of the process take them from, first in first out.
+///
+/// Typed text is a stream: each prompt takes as much of it as it wants, up to a blank or line end (a string with
+/// blanks: up to the line end; at the command level a Lisp expression: up to its closing parenthesis). Answers are
+/// taken whole.
+class KV_EXPORT InputQueue : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit InputQueue(QObject *parent = nullptr);
+
+    /// A typed line or a whole script. A line feed is put behind it when it has none.
+    void pushTyped(const QString &text);
+    void push(const InputAnswer &answer);
+
+    bool isEmpty() const { return m_items.empty(); }
+    /// Forgets everything, as Esc does.
+    void clear();
+
+    /// The next answer for such a request. Only when the queue is not empty. Nothing when what is left of the typed
+    /// text is the beginning of a Lisp expression, which stays until the rest was pushed.
+    std::optional<InputAnswer> take(const PromptRequest &request);
+
+signals:
+    /// Something was pushed.
+    void filled();
+
+private:
+    /// Typed text that is not used up yet, or one answer.
+    using Item = std::variant<QString, InputAnswer>;
+    std::optional<QString> takeTyped(const PromptRequest &request);
+
+    std::deque<Item> m_items;
+};
+
+} // namespace host::kernel

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "host/kernel/input/PromptRequest.h"
+
+namespace host::kernel {
+
+/// How a prompt ended.
+enum class ReplyKind
+{
+    Value,    ///< the value asked for
+    Empty,    ///< an empty answer: the default, where there is one
+    Keyword,  ///< text has the keyword as (initget) spelled it, or any text where that is allowed
+    Cancelled ///< Esc, or nobody there
+};
+
+/// A checked answer. Which member holds the value depends on the request's kind.
+struct PromptReply
+{
+    ReplyKind kind = ReplyKind::Value;
+    qint32 integer = 0;
+    double real = 0.0;                       ///< Real, Distance; Angle and Orientation in radians
+    drawing::Vec3 point;                     ///< Point, Corner, and where an Entity was picked; world coordinates
+    QString text;                            ///< String, Keyword, Command
+    std::vector<drawing::RecordId> entities; ///< Entity, Selection
+    bool isWindow = false;                   ///< Selection: two corners follow in `point` and `corner`
+    drawing::Vec3 corner;
+
+    bool hasValue() const { return kind == ReplyKind::Value; }
+    bool isEmpty() const { return kind == ReplyKind::Empty; }
+    bool isKeyword(QStringView keyword) const
+    {
+        return kind == ReplyKind::Keyword && text.compare(keyword, Qt::CaseInsensitive) == 0;
+    }
+};
+
+} // namespace host::kernel

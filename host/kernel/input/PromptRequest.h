@@ -1,0 +1,90 @@
+#pragma once
+
+#include "host/drawing/Record.h"
+#include "host/drawing/Vec.h"
+
+#include <QString>
+#include <QStringList>
+
+#include <optional>
+#include <variant>
+
+namespace host::kernel {
+
+/// What a prompt asks for.
+enum class PromptKind
+{
+    Command, ///< the next command, Lisp expression or `!variable`
+    Integer,
+    Real,
+    Distance,
+    Angle,       ///< relative to the ANGBASE direction, as getangle has it
+    Orientation, ///< absolute, as getorient has it
+    Point,
+    Corner, ///< the corner opposite to the base point
+    String,
+    Keyword,
+    Entity,   ///< one entity, with the point it was picked at
+    Selection ///< one step of a selection: an entity, a window, a word such as "ALL", or nothing to end it
+};
+
+/// Option bits of a request, as (initget) has them.
+enum InputBit : int
+{
+    NoEmptyAnswer = 1,
+    NoZero = 2,
+    NoNegative = 4,
+    OutsideLimits = 8,
+    DashedRubberBand = 32,
+    FlatDistance = 64,
+    AnyText = 128
+};
+
+/// A question to the user, with all that a window needs to show it and a batch run to report it.
+struct PromptRequest
+{
+    PromptKind kind = PromptKind::Command;
+    QString prompt;                    ///< as it is printed, line feeds included
+    QStringList keywords;              ///< as (initget) got them: "Auto", "LType,LT", a blank in a keyword is possible
+    QString defaultText;               ///< what an empty answer means; empty when there is no default
+    int bits = 0;                      ///< InputBit
+    std::optional<drawing::Vec3> base; ///< where a rubber band starts; world coordinates
+    bool allowSpaces = false;          ///< String: blanks belong to the answer
+    bool forCommand = false;           ///< asked by a command rather than by a Lisp program
+};
+
+/// Text as one whole answer: what a line edit or a recorded session hands over. Blanks do not split it.
+struct TextAnswer
+{
+    QString text;
+};
+/// A point that was picked; world coordinates.
+struct PointAnswer
+{
+    drawing::Vec3 point;
+};
+/// An entity that was picked, at a point in world coordinates.
+struct EntityAnswer
+{
+    drawing::RecordId entity = drawing::noRecord;
+    drawing::Vec3 point;
+};
+/// Several entities at once, for a Selection.
+struct EntitiesAnswer
+{
+    std::vector<drawing::RecordId> entities;
+};
+/// Two corners, world coordinates. From left to right it takes what lies within, from right to left what it crosses.
+struct WindowAnswer
+{
+    drawing::Vec3 first;
+    drawing::Vec3 second;
+};
+/// Esc.
+struct CancelAnswer
+{
+};
+
+using InputAnswer = std::variant<TextAnswer, PointAnswer, EntityAnswer, EntitiesAnswer, WindowAnswer, CancelAnswer>;
+
+} // namespace host::kernel
