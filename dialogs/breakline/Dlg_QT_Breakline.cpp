@@ -1,0 +1,137 @@
+#include "dialogs/breakline/Dlg_QT_Breakline.h"
+
+#include "platform/kernel/CKvDocument.h"
+#include "platform/kernel/CKvUtils.h"
+#include "state/DrawingPicker.h"
+#include "state/ElidedPathField.h"
+#include "state/ModuleFolder.h"
+#include "state/PathChecks.h"
+#include "ui_Dlg_QT_Breakline.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+namespace {
+
+QString symbolFolder()
+{
+    return ortakit::moduleFolder() + QStringLiteral("/BreakLine");
+}
+
+QString symbolFile(const QString &name)
+{
+    return symbolFolder() + u'/' + name + QStringLiteral(".dwg");
+}
+
+/// Only the presence of the extension in the name counts, so that backup copies ("plan.dwg.bak") are taken as well.
+bool isNamedLikeDrawing(const QString &path)
+{
+    const QString name = QFileInfo(path).fileName();
+    return name.contains(QLatin1String(".dwg"), Qt::CaseInsensitive) ||
+           name.contains(QLatin1String(".dxf"), Qt::CaseInsensitive);
+}
+
+} // namespace
+
+Dlg_QT_Breakline::Dlg_QT_Breakline(QWidget *parent)
+    : ToolDialog(parent, QStringLiteral("breakline")), m_ui(std::make_unique<Ui::Dlg_QT_Breakline>())
+{
+    m_ui->setupUi(this);
+    setUpButtons();
+    m_file = new ElidedPathField(m_ui->LbTitleblock);
+    m_ui->SelectEntities->setIcon(CKvUtils::icon(QStringLiteral(":/images/shared"), QStringLiteral("select_entities")));
+
+    QDir().mkpath(symbolFolder());
+    state().prependKeys({QStringLiteral("_dist_size"), QStringLiteral("_dist_offset")});
+
+    connect(m_ui->name, &QLineEdit::textChanged, this, &Dlg_QT_Breakline::setName);
+    connect(m_ui->LbTitleblock, &QLineEdit::returnPressed, this, &Dlg_QT_Breakline::pressEnterforName);
+    connect(m_file, &ElidedPathField::pathEntered, this, &Dlg_QT_Breakline::refreshSymbol);
+    connect(m_ui->Bt_selectBlock, &QPushButton::clicked, this, &Dlg_QT_Breakline::selectBlock);
+    connect(m_ui->SelectEntities, &QToolButton::clicked, this, &Dlg_QT_Breakline::CreateDesing);
+    connect(m_ui->acceptButton, &QPushButton::clicked, this, &Dlg_QT_Breakline::CloseAccept);
+    layout()->setSizeConstraint(QLayout::SetFixedSize);
+}
+
+Dlg_QT_Breakline::~Dlg_QT_Breakline() = default;
+
+bool Dlg_QT_Breakline::appliesAgain() const
+{
+    // Lisp has made a new symbol and put its path into the state.
+    return state().lookup(QStringLiteral("!Action!")) == QLatin1String("CREATE");
+}
+
+void Dlg_QT_Breakline::afterShow()
+{
+    OdDbDatabase *database = ACTIVE_DOCUMENT() ? ACTIVE_DOCUMENT()->database() : nullptr;
+    for (CKvQtUnitSpinBox *box : {m_ui->_dist_size, m_ui->_dist_offset}) {
+        box->clearFocus();
+        box->setDatabase(database);
+    }
+    m_ui->name->clear();
+    setName({});
+    refreshSymbol();
+    // In the file field Enter only takes the path, so the focus goes where Enter does what the user came for.
+    (hasSymbolFile() ? m_ui->acceptButton : m_ui->Bt_selectBlock)->setFocus();
+}
+
+void Dlg_QT_Breakline::setName(const QString &name)
+{
+    m_ui->SelectEntities->setEnabled(!name.isEmpty());
+    m_ui->label_entities->setEnabled(!name.isEmpty());
+}
+
+void Dlg_QT_Breakline::pressEnterforName()
+{
+    m_file->takeTypedPath();
+    refreshSymbol();
+}
+
+void Dlg_QT_Breakline::selectBlock()
+{
+    const QString start = m_file->path().isEmpty() ? symbolFolder() + QStringLiteral("/noname") : m_file->path();
+    const QString chosen = ortakit::pickDrawingFile(this, tr("Specify a drawing"), start,
+                                                    tr("Drawing files (*.dwg *.dxf)"));
+    if (chosen.isNull())
+        return;
+    m_file->setPath(isNamedLikeDrawing(chosen) ? chosen : QString());
+    refreshSymbol();
+}
+
+void Dlg_QT_Breakline::CloseAccept()
+{
+    // Enter in the file field also presses the default button; the path is taken first.
+    if (m_ui->LbTitleblock->hasFocus())
+        return;
+    if (!hasSymbolFile()) {
+        warn(tr("Cannot find the specified drawing file."));
+        return;
+    }
+    acceptWith(QStringLiteral("OK"));
+}
+
+void Dlg_QT_Breakline::CreateDesing()
+{
+    const QString name = m_ui->name->text();
+    if (!ortakit::confirmNewDrawingName(this, name, symbolFile(name))) {
+        m_ui->name->setFocus();
+        return;
+    }
+    acceptWith(QStringLiteral("CREATE"));
+}
+
+void Dlg_QT_Breakline::refreshSymbol()
+{
+    m_ui->PreviewBlock->showDrawing(m_file->path());
+    validateOk();
+}
+
+void Dlg_QT_Breakline::validateOk()
+{
+    m_ui->acceptButton->setEnabled(hasSymbolFile());
+}
+
+bool Dlg_QT_Breakline::hasSymbolFile() const
+{
+    return QFileInfo(m_file->path()).isFile();
+}

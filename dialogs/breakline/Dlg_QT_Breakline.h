@@ -1,0 +1,43 @@
+#pragma once
+
+#include "state/ToolDialog.h"
+
+#include <memory>
+
+class ElidedPathField;
+
+namespace Ui {
+class Dlg_QT_Breakline;
+}
+
+/// The break line dialog: which drawing holds the symbol, how large it is drawn and how much stays free beside it; or
+/// the name of a symbol yet to be made from entities of the drawing.
+///
+/// Closes with the action "OK" (draw with what the state file says) or "CREATE" (make the symbol `name` in the symbol
+/// folder, write its path to `LbTitleblock` and call again). Shown after "CREATE" it takes the state's values anew.
+class Dlg_QT_Breakline final : public ToolDialog
+{
+    Q_OBJECT
+
+public:
+    explicit Dlg_QT_Breakline(QWidget *parent = nullptr);
+    ~Dlg_QT_Breakline() override;
+
+protected:
+    bool appliesAgain() const override;
+    void afterShow() override;
+
+private:
+    void setName(const QString &name);
+    void pressEnterforName();
+    void selectBlock();
+    void CloseAccept();
+    void CreateDesing();
+
+    void refreshSymbol();
+    void validateOk();
+    bool hasSymbolFile() const;
+
+    std::unique_ptr<Ui::Dlg_QT_Breakline> m_ui;
+    ElidedPathField *m_file;
+};
