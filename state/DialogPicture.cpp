@@ -1,0 +1,58 @@
+#include "state/DialogPicture.h"
+
+#include "platform/kernel/CKvUtils.h"
+
+#include <QEvent>
+#include <QFileInfo>
+#include <QLabel>
+#include <QPainter>
+
+namespace {
+
+QString variantFor(const QString &picture)
+{
+    const QString dark =
+        QStringLiteral(":/images/svg_icons/dark/") + QFileInfo(picture).completeBaseName() + QStringLiteral(".svg");
+    return CKvUtils::isDarkStyle() && QFileInfo::exists(dark) ? dark : picture;
+}
+
+} // namespace
+
+DialogPicture::DialogPicture(QWidget *widget, const QString &picture)
+    : QObject(widget), m_widget(widget), m_picture(picture)
+{
+    choose();
+    widget->installEventFilter(this);
+}
+
+bool DialogPicture::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::PaletteChange)
+        choose();
+    if (event->type() == QEvent::Paint && !qobject_cast<QLabel *>(m_widget)) {
+        paint();
+        return true;
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+void DialogPicture::choose()
+{
+    const QString variant = variantFor(m_picture);
+    if (variant == m_shown)
+        return;
+    m_shown = variant;
+    m_icon = QIcon(variant);
+    if (auto *label = qobject_cast<QLabel *>(m_widget)) {
+        // Both variants take the room of the light one, which the dialog was laid out with.
+        const QSize size = QPixmap(m_picture).deviceIndependentSize().toSize();
+        label->setPixmap(m_icon.pixmap(size.isEmpty() ? label->size() : size));
+    }
+    m_widget->update();
+}
+
+void DialogPicture::paint()
+{
+    QPainter painter(m_widget);
+    m_icon.paint(&painter, m_widget->rect());
+}

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <QIcon>
+#include <QObject>
+
+class QWidget;
+
+/// An explanatory picture in a dialog: shown in the variant that suits the host's style, and changed with it.
+///
+/// A label gets it as its pixmap; any other widget is painted with it, fitted and centred.
+class DialogPicture : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Belongs to `widget`. `picture` is the light variant, such as ":/images/breakline.png"; the dark one is looked
+    /// for as ":/images/svg_icons/dark/breakline.svg", and the light one stays where there is none.
+    DialogPicture(QWidget *widget, const QString &picture);
+
+    /// Resource path of the variant that is shown.
+    QString shownPicture() const { return m_shown; }
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+private:
+    void choose();
+    void paint();
+
+    QWidget *m_widget;
+    QString m_picture;
+    QString m_shown;
+    QIcon m_icon;
+};

@@ -1,0 +1,96 @@
+#include "state/DialogState.h"
+
+#include "state/ModuleFolder.h"
+#include "state/StateFile.h"
+#include "state/WidgetValue.h"
+
+#include <QDialog>
+#include <QDir>
+#include <QPointer>
+
+namespace {
+
+QString actionLine(const QString &action)
+{
+    const QString separator = action.contains(u'=') ? QString() : QStringLiteral("=");
+    return QStringLiteral("!action!") + separator + action + u'\n';
+}
+
+/// The lines that `widget` writes; empty when it does not take part now.
+QString widgetLines(const QWidget &widget)
+{
+    const QString name = widget.objectName().toLower();
+    if (name.isEmpty())
+        return {};
+    const QString value = ortakit::writtenValue(widget);
+    if (value.isEmpty())
+        return {};
+    QString lines = name + u'=' + value + u'\n';
+    const QString index = ortakit::writtenIndex(widget);
+    if (!index.isEmpty())
+        lines += name + QStringLiteral("_index=") + index + u'\n';
+    return lines;
+}
+
+} // namespace
+
+DialogState::DialogState(QDialog *dialog) : m_dialog(dialog)
+{
+    const QString module = ortakit::moduleFolder();
+    m_favouritesFolder = module + QStringLiteral("/Favorites");
+    // Without a document the path would be relative to whatever folder the program was started in.
+    if (QDir::isAbsolutePath(module))
+        QDir().mkpath(m_favouritesFolder);
+    dialog->setWindowFlag(Qt::WindowContextHelpButtonHint, false);
+}
+
+void DialogState::load(const QString &path)
+{
+    const QRect place = m_dialog->geometry();
+    // A window whose geometry was set is not centred over its parent when it is shown again.
+    if (place.x() != 0 && place.y() != 0)
+        m_dialog->setGeometry(place);
+    if (path.isEmpty())
+        return;
+    m_path = path;
+    const auto lines = ortakit::readStateFile(path);
+    if (!lines)
+        return;
+    for (const QString &line : *lines)
+        m_lines.merge(line);
+}
+
+void DialogState::apply(const QString &nameFilter, const QStringList &excluded)
+{
+    const QString onlyName = nameFilter.toLower();
+    const QList<QWidget *> all = widgets();
+    // Setting one widget may run a slot that deletes others.
+    const QList<QPointer<QWidget>> living(all.cbegin(), all.cend());
+    for (const QPointer<QWidget> &widget : living) {
+        const QString name = widget ? widget->objectName().toLower() : QString();
+        if (name.isEmpty() || (!onlyName.isEmpty() && name != onlyName))
+            continue;
+        const QString value = lookup(name);
+        if (!value.isEmpty() && !excluded.contains(name + u'='))
+            ortakit::applyValue(*widget, value);
+    }
+    m_loaded = true;
+}
+
+void DialogState::save() const
+{
+    QString text;
+    for (const QWidget *widget : widgets()) {
+        const QString lines = widgetLines(*widget);
+        const bool isFirst = text.isEmpty() && !lines.isEmpty();
+        text += lines;
+        if (isFirst)
+            text += actionLine(m_action);
+    }
+    ortakit::writeStateFile(m_path, text);
+}
+
+QList<QWidget *> DialogState::widgets() const
+{
+    return m_dialog->findChildren<QWidget *>();
+}

@@ -1,0 +1,11 @@
+#pragma once
+
+#include <QStringList>
+
+namespace ortakit {
+
+/// Sorts rows whose fields are divided by `separator` by the text of field `column` (from 0): without regard to case,
+/// in the order of the user's language. Rows with equal fields keep their order; a missing field counts as empty.
+void sortRows(QStringList &rows, QChar separator, int column, Qt::SortOrder order);
+
+} // namespace ortakit

@@ -1,0 +1,91 @@
+#include "state/StateLines.h"
+
+#include <QStringMatcher>
+
+#include <algorithm>
+
+namespace {
+
+QStringView keyOf(QStringView line)
+{
+    const qsizetype end = line.indexOf(u'=');
+    return end < 0 ? line : line.first(end);
+}
+
+} // namespace
+
+void StateLines::merge(const QString &line)
+{
+    const QString key = keyOf(line).toString();
+    const QString wanted = key.toLower();
+    m_searchTextIsCurrent = false;
+
+    const auto found = m_linesByKey.find(wanted);
+    if (found == m_linesByKey.end()) {
+        m_linesByKey[key].append(m_lines.size());
+        m_lines.append(line);
+        return;
+    }
+    for (const qsizetype stored : std::as_const(*found))
+        m_lines[stored] = line;
+    if (key != wanted) {
+        // The lines carry the new spelling now. It has a capital, so no later merge looks for them.
+        const QList<qsizetype> renamed = m_linesByKey.take(wanted);
+        m_linesByKey[key].append(renamed);
+    }
+}
+
+void StateLines::prepend(const QStringList &lines)
+{
+    assign(lines + m_lines);
+}
+
+void StateLines::assign(const QStringList &lines)
+{
+    m_lines = lines;
+    indexLines();
+}
+
+QString StateLines::lookup(const QString &key) const
+{
+    if (key.isEmpty())
+        return {};
+    if (!m_searchTextIsCurrent)
+        buildSearchText();
+
+    const QStringMatcher matcher(key + u'=', Qt::CaseInsensitive);
+    const qsizetype position = matcher.indexIn(m_searchText);
+    if (position < 0)
+        return {};
+    const auto next = std::upper_bound(m_lineStarts.cbegin(), m_lineStarts.cend(), position);
+    return secondField(std::distance(m_lineStarts.cbegin(), next) - 1);
+}
+
+void StateLines::indexLines()
+{
+    m_searchTextIsCurrent = false;
+    m_linesByKey.clear();
+    for (qsizetype i = 0; i < m_lines.size(); ++i)
+        m_linesByKey[keyOf(m_lines[i]).toString()].append(i);
+}
+
+void StateLines::buildSearchText() const
+{
+    m_searchText.clear();
+    m_lineStarts.clear();
+    m_lineStarts.reserve(m_lines.size());
+    for (const QString &line : m_lines) {
+        m_lineStarts.append(m_searchText.size());
+        m_searchText += line;
+        m_searchText += u'\n';
+    }
+    m_searchTextIsCurrent = true;
+}
+
+QString StateLines::secondField(qsizetype line) const
+{
+    const QString &text = m_lines[line];
+    const qsizetype begin = text.indexOf(u'=') + 1;
+    const qsizetype end = text.indexOf(u'=', begin);
+    return text.mid(begin, end < 0 ? -1 : end - begin);
+}

@@ -1,0 +1,94 @@
+#include "state/TableSelection.h"
+
+#include <QHash>
+#include <QItemSelectionModel>
+#include <QTableWidget>
+
+#include <algorithm>
+
+namespace ortakit {
+
+namespace {
+
+using ItemsByText = QHash<QString, QList<QTableWidgetItem *>>;
+
+// Column by column, as the table's own search goes.
+ItemsByText itemsByFoldedText(const QTableWidget &table)
+{
+    ItemsByText items;
+    for (int column = 0; column < table.columnCount(); ++column) {
+        for (int row = 0; row < table.rowCount(); ++row) {
+            if (QTableWidgetItem *item = table.item(row, column))
+                items[item->text().toCaseFolded()].append(item);
+        }
+    }
+    return items;
+}
+
+QList<QTableWidgetItem *> itemsWithTexts(const QTableWidget &table, const QString &texts)
+{
+    ItemsByText items = itemsByFoldedText(table);
+    QList<QTableWidgetItem *> found;
+    // Taken, not looked up: a text that comes twice selects no more than once.
+    for (const QString &part : texts.split(u'^'))
+        found.append(items.take(part.toCaseFolded()));
+    return found;
+}
+
+// Neighbours become one range: what the selection model does with ranges grows with the square of their number.
+void addRanges(QItemSelection &selection, const QTableWidget &table, int firstColumn, int lastColumn, QList<int> rows)
+{
+    const QAbstractItemModel *model = table.model();
+    std::sort(rows.begin(), rows.end());
+    rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
+    for (qsizetype begin = 0; begin < rows.size();) {
+        qsizetype end = begin + 1;
+        while (end < rows.size() && rows[end] == rows[end - 1] + 1)
+            ++end;
+        selection.append(
+            QItemSelectionRange(model->index(rows[begin], firstColumn), model->index(rows[end - 1], lastColumn)));
+        begin = end;
+    }
+}
+
+QItemSelection selectionOf(const QTableWidget &table, const QList<QTableWidgetItem *> &items)
+{
+    QItemSelection selection;
+    const bool wholeRows = table.selectionBehavior() == QAbstractItemView::SelectRows;
+    QHash<int, QList<int>> rowsByColumn;
+    for (const QTableWidgetItem *item : items)
+        rowsByColumn[wholeRows ? 0 : item->column()].append(item->row());
+    for (auto column = rowsByColumn.cbegin(); column != rowsByColumn.cend(); ++column) {
+        const int last = wholeRows ? table.columnCount() - 1 : column.key();
+        addRanges(selection, table, column.key(), last, column.value());
+    }
+    return selection;
+}
+
+} // namespace
+
+QString selectedRowTexts(const QTableWidget &table)
+{
+    QList<int> rows;
+    for (const QItemSelectionRange &range : table.selectionModel()->selection()) {
+        for (int row = range.top(); row <= range.bottom(); ++row)
+            rows.append(row);
+    }
+    std::sort(rows.begin(), rows.end());
+    rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
+
+    QString texts;
+    for (const int row : rows)
+        texts += table.model()->index(row, 0).data(Qt::DisplayRole).toString() + u'^';
+    return texts;
+}
+
+void selectByTexts(QTableWidget &table, const QString &texts)
+{
+    const QList<QTableWidgetItem *> items = itemsWithTexts(table, texts);
+    table.selectionModel()->select(selectionOf(table, items), QItemSelectionModel::ClearAndSelect);
+    for (const QTableWidgetItem *item : items)
+        table.scrollToItem(item);
+}
+
+} // namespace ortakit

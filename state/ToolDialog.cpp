@@ -1,0 +1,83 @@
+#include "state/ToolDialog.h"
+
+#include "platform/kernel/CKvMessageBox.h"
+#include "state/ButtonIcons.h"
+#include "state/HelpTopicMap.h"
+
+#include <QAbstractButton>
+#include <QShowEvent>
+
+ToolDialog::ToolDialog(QWidget *parent, const QString &helpTopic)
+    : CKvDialog(parent), m_state(this), m_helpTopic(helpTopic)
+{
+}
+
+ToolDialog::~ToolDialog() = default;
+
+void ToolDialog::showHelp()
+{
+    HelpTopicMap::showHelp(m_helpTopic);
+}
+
+void ToolDialog::setUpButtons()
+{
+    ortakit::decorateButtons(*this);
+    if (const auto *help = findChild<QAbstractButton *>(QStringLiteral("buttonHelp")))
+        connect(help, &QAbstractButton::clicked, this, &ToolDialog::showHelp, Qt::UniqueConnection);
+    if (const auto *cancel = findChild<QAbstractButton *>(QStringLiteral("ButtonCancel")))
+        connect(cancel, &QAbstractButton::clicked, this, &ToolDialog::reject, Qt::UniqueConnection);
+}
+
+void ToolDialog::acceptWith(const QString &action)
+{
+    m_state.setAction(action);
+    accept();
+}
+
+void ToolDialog::inform(const QString &text, const QString &title)
+{
+    CKvMessageBox::information(this, title, text);
+}
+
+void ToolDialog::warn(const QString &text, const QString &title)
+{
+    CKvMessageBox::warning(this, title, text);
+}
+
+void ToolDialog::reportError(const QString &text, const QString &title)
+{
+    CKvMessageBox::critical(this, title, text);
+}
+
+bool ToolDialog::ask(const QString &text, const QString &title)
+{
+    return CKvMessageBox::question(this, title, text) == QMessageBox::Yes;
+}
+
+void ToolDialog::applyState()
+{
+    if (!m_state.isLoaded()) {
+        beforeFirstShow();
+        m_state.apply();
+    } else if (appliesAgain()) {
+        m_state.apply();
+    }
+}
+
+void ToolDialog::showEvent(QShowEvent *event)
+{
+    CKvDialog::showEvent(event);
+    if (event->spontaneous())
+        return;
+    beforeShow();
+    applyState();
+    afterShow();
+}
+
+void ToolDialog::changeEvent(QEvent *event)
+{
+    CKvDialog::changeEvent(event);
+    // Icons come in a light and a dark variant.
+    if (event->type() == QEvent::PaletteChange)
+        ortakit::decorateButtons(*this);
+}
