@@ -3,7 +3,6 @@
 #include "platform/db/OdDbDatabase.h"
 #include "platform/kernel/CKvDocument.h"
 #include "platform/kernel/CKvMessageBox.h"
-#include "platform/kernel/CKvUtils.h"
 #include "state/FolderPicker.h"
 
 #include <QCoreApplication>
@@ -48,7 +47,8 @@ QString startPath(const QString &start)
 
 } // namespace
 
-bool leadsBack(const QString &path, const QString &host)
+bool leadsBack(const QString &path, const QString &host,
+               const std::function<QStringList(const QString &)> &referencesOf)
 {
     const QString chosen = QFileInfo(path).canonicalFilePath();
     const QString own = host.isEmpty() ? QString() : QFileInfo(host).canonicalFilePath();
@@ -61,7 +61,7 @@ bool leadsBack(const QString &path, const QString &host)
     QStringList toOpen{chosen};
     for (qsizetype next = 0; next < std::min(toOpen.size(), mostDrawings); ++next) {
         const QDir folder = QFileInfo(toOpen[next]).dir();
-        for (const QString &reference : CKvUtils::externalReferences(toOpen[next])) {
+        for (const QString &reference : referencesOf(toOpen[next])) {
             const QString file = referencedFile(folder, reference);
             if (file.isEmpty())
                 continue;
@@ -89,7 +89,7 @@ QString pickDrawing(QWidget *parent, const DrawingPickerOptions &options)
     if (dialog.exec() != QDialog::Accepted)
         return {};
     const QString chosen = dialog.selectedFiles().value(0);
-    if (leadsBack(chosen, activeDrawing())) {
+    if (options.circularReferences == CircularReferences::Refuse && leadsBack(chosen, activeDrawing())) {
         CKvMessageBox::warning(parent, {},
                                QCoreApplication::translate("LispExtension", "Error: Xref contains circular reference"));
         return {};

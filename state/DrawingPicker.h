@@ -1,10 +1,20 @@
 #pragma once
 
-#include <QString>
+#include "platform/kernel/CKvUtils.h"
+
+#include <functional>
 
 class QWidget;
 
 namespace ortakit {
+
+/// Whether a drawing is refused that leads back to itself or to the active drawing: as a reference it could not be
+/// loaded, copied in as a block it does no harm.
+enum class CircularReferences
+{
+    Refuse,
+    Allow
+};
 
 /// How the drawing picker looks and starts. What is empty has the default that is said.
 struct DrawingPickerOptions
@@ -13,17 +23,19 @@ struct DrawingPickerOptions
     QString filter; ///< "Drawing files (*.dwg)"
     /// A folder, or a file in one, whose name is then proposed; the host's default folder when there is no such folder.
     QString start;
+    CircularReferences circularReferences = CircularReferences::Refuse;
 };
 
-/// Lets the user choose an existing drawing file; empty when cancelled. A drawing that leads back to itself or to the
-/// active drawing is refused with a warning, and the result is empty as well.
+/// Lets the user choose an existing drawing file; empty when cancelled, and after the warning about a circular
+/// reference.
 ///
 /// The dialog has the object name "drawingDialog". It is the system's own unless Qt::AA_DontUseNativeDialogs is set.
 QString pickDrawing(QWidget *parent, const DrawingPickerOptions &options = {});
 
 /// Whether the drawing file at `path`, followed through the drawings that it refers to, leads back to itself or to
 /// the drawing file at `host`, which is empty for a drawing without a file; also when both are the same file. At most
-/// 1,000 drawings are opened.
-bool leadsBack(const QString &path, const QString &host);
+/// 1,000 drawings are opened. `referencesOf` gives the paths that a drawing file has for its references.
+bool leadsBack(const QString &path, const QString &host,
+               const std::function<QStringList(const QString &)> &referencesOf = CKvUtils::externalReferences);
 
 } // namespace ortakit

@@ -2,10 +2,11 @@
 
 #include "platform/kernel/CKvDocument.h"
 #include "platform/kernel/CKvUtils.h"
+#include "state/DialogPicture.h"
 #include "state/DrawingPicker.h"
 #include "state/ElidedPathField.h"
 #include "state/ModuleFolder.h"
-#include "state/PathChecks.h"
+#include "state/PathMessages.h"
 #include "ui_Dlg_QT_Breakline.h"
 
 #include <QDir>
@@ -39,14 +40,14 @@ Dlg_QT_Breakline::Dlg_QT_Breakline(QWidget *parent)
     m_ui->setupUi(this);
     setUpButtons();
     m_file = new ElidedPathField(m_ui->LbTitleblock);
+    new DialogPicture(m_ui->widget_2, QStringLiteral(":/images/breakline.png"));
     m_ui->SelectEntities->setIcon(CKvUtils::icon(QStringLiteral(":/images/shared"), QStringLiteral("select_entities")));
 
     QDir().mkpath(symbolFolder());
     state().prependKeys({QStringLiteral("_dist_size"), QStringLiteral("_dist_offset")});
 
     connect(m_ui->name, &QLineEdit::textChanged, this, &Dlg_QT_Breakline::setName);
-    connect(m_ui->LbTitleblock, &QLineEdit::returnPressed, this, &Dlg_QT_Breakline::pressEnterforName);
-    connect(m_file, &ElidedPathField::pathEntered, this, &Dlg_QT_Breakline::refreshSymbol);
+    connect(m_file, &ElidedPathField::pathEntered, this, &Dlg_QT_Breakline::pressEnterforName);
     connect(m_ui->Bt_selectBlock, &QPushButton::clicked, this, &Dlg_QT_Breakline::selectBlock);
     connect(m_ui->SelectEntities, &QToolButton::clicked, this, &Dlg_QT_Breakline::CreateDesing);
     connect(m_ui->acceptButton, &QPushButton::clicked, this, &Dlg_QT_Breakline::CloseAccept);
@@ -83,18 +84,19 @@ void Dlg_QT_Breakline::setName(const QString &name)
 
 void Dlg_QT_Breakline::pressEnterforName()
 {
-    m_file->takeTypedPath();
     refreshSymbol();
 }
 
 void Dlg_QT_Breakline::selectBlock()
 {
-    const QString start = m_file->path().isEmpty() ? symbolFolder() + QStringLiteral("/noname") : m_file->path();
-    const QString chosen = ortakit::pickDrawingFile(this, tr("Specify a drawing"), start,
-                                                    tr("Drawing files (*.dwg *.dxf)"));
-    if (chosen.isNull())
+    const QString path = m_file->fullPath();
+    const QString chosen = ortakit::pickDrawing(
+        this, {.filter = tr("Drawing files (*.dwg *.dxf)"),
+               .start = path.isEmpty() ? symbolFolder() + QStringLiteral("/noname") : path,
+               .circularReferences = ortakit::CircularReferences::Allow});
+    if (chosen.isEmpty())
         return;
-    m_file->setPath(isNamedLikeDrawing(chosen) ? chosen : QString());
+    m_file->setFullPath(isNamedLikeDrawing(chosen) ? chosen : QString());
     refreshSymbol();
 }
 
@@ -113,7 +115,7 @@ void Dlg_QT_Breakline::CloseAccept()
 void Dlg_QT_Breakline::CreateDesing()
 {
     const QString name = m_ui->name->text();
-    if (!ortakit::confirmNewDrawingName(this, name, symbolFile(name))) {
+    if (!ortakit::acceptsNewDrawingName(this, name, symbolFile(name))) {
         m_ui->name->setFocus();
         return;
     }
@@ -122,7 +124,7 @@ void Dlg_QT_Breakline::CreateDesing()
 
 void Dlg_QT_Breakline::refreshSymbol()
 {
-    m_ui->PreviewBlock->showDrawing(m_file->path());
+    m_ui->PreviewBlock->setDrawing(m_file->fullPath());
     validateOk();
 }
 
@@ -133,5 +135,5 @@ void Dlg_QT_Breakline::validateOk()
 
 bool Dlg_QT_Breakline::hasSymbolFile() const
 {
-    return QFileInfo(m_file->path()).isFile();
+    return QFileInfo(m_file->fullPath()).isFile();
 }
