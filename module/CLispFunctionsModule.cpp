@@ -1,0 +1,54 @@
+#include "module/CLispFunctionsModule.h"
+
+#include "module/DialogRegistry.h"
+#include "module/LispFunctionTable.h"
+#include "platform/ed/OdEditor.h"
+#include "platform/kernel/CKvDocument.h"
+#include "platform/kernel/CKvSystemServices.h"
+
+namespace {
+
+CKvDocumentManager *documentManager()
+{
+    CKvSystemServices *services = GetKvSystemServices();
+    return services ? services->documentManager() : nullptr;
+}
+
+} // namespace
+
+void CLispFunctionsModule::initApp()
+{
+    if (CKvDocumentManager *manager = documentManager()) {
+        manager->addReactor(this);
+        for (int index = 0; index < manager->documentCount(); ++index)
+            LispDocumentReady(manager->document(index));
+    }
+    odedEditor()->addReactor(&m_editorReactor);
+}
+
+void CLispFunctionsModule::uninitApp()
+{
+    if (CKvDocumentManager *manager = documentManager()) {
+        manager->removeReactor(this);
+        for (int index = 0; index < manager->documentCount(); ++index)
+            LispDocumentClosing(manager->document(index));
+    }
+    odedEditor()->removeReactor(&m_editorReactor);
+}
+
+void CLispFunctionsModule::LispDocumentReady(CKvDocument *document)
+{
+    // A document that has no engine yet when the module is loaded is announced again when it has one.
+    CKvLispEngine *lisp = document->lispEngine();
+    if (!lisp)
+        return;
+    ortakit::defineFunctions(*lisp);
+    DialogRegistry::instance().append(document);
+}
+
+void CLispFunctionsModule::LispDocumentClosing(CKvDocument *document)
+{
+    if (CKvLispEngine *lisp = document->lispEngine())
+        ortakit::undefineFunctions(*lisp);
+    DialogRegistry::instance().remove(document);
+}

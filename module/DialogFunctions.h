@@ -1,0 +1,10 @@
+#pragma once
+
+namespace ortakit {
+
+/// The Dlg_ functions, each an external Lisp function that shows one dialog; see runDialog() for what they share.
+/// @{
+int dlgBreakLine();
+/// @}
+
+} // namespace ortakit

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "module/DocumentDialogSet.h"
+
+#include <vector>
+
+class QWidget;
+
+/// The records of all documents that have the Lisp functions, in the order they got them.
+class DialogRegistry
+{
+public:
+    /// The one of the process; records left in it go when the module's code is unloaded.
+    static DialogRegistry &instance();
+
+    /// Adds an empty record for `document` at the end.
+    void append(CKvDocument *document);
+    /// Destroys the first record of `document` with its dialogs; without one nothing happens.
+    void remove(const CKvDocument *document);
+
+    std::vector<DocumentDialogSet> &records() { return m_records; }
+
+    /// The dialog of `document` in `slot`, made by `create` with `parent` when the slot is empty; of two records the
+    /// later one's. Null when `document` has no record.
+    CKvDialog *dialog(const CKvDocument *document, DialogSlot slot, CKvDialog *(*create)(QWidget *parent),
+                      QWidget *parent);
+
+private:
+    std::vector<DocumentDialogSet> m_records;
+};

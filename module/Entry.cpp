@@ -1,0 +1,17 @@
+#include "module/CLispFunctionsModule.h"
+#include "platform/rx/OdRxWin32Module.h"
+
+// The two functions that the host finds by name; see platform/rx/OdRxModule.h for when it calls them.
+
+extern "C" KV_EXPORT void odrxGetAPIVersion(int *major, int *minor, int *majorBuild, int *minorBuild)
+{
+    *major = 26;
+    *minor = 8;
+    *majorBuild = 0;
+    *minorBuild = 54758;
+}
+
+extern "C" KV_EXPORT OdRxModule *odrxCreateModuleObject(void *handle)
+{
+    return OdRxWin32Module<CLispFunctionsModule>::instance(handle);
+}

@@ -1,0 +1,82 @@
+#include "module/LispFunctionTable.h"
+
+#include "lispfuncs/PromptFunctions.h"
+#include "module/DialogFunctions.h"
+#include "module/ExceptionGuard.h"
+#include "module/UnavailableFunction.h"
+
+namespace ortakit {
+
+namespace {
+
+/// A row of the table; one without a handler says that it is not available.
+template <LispName name, CKvLispEngine::Handler handler = unavailable<name>>
+constexpr LispFunction function(OnClose onClose = OnClose::Undefine)
+{
+    return {name.view(), guarded<handler>, onClose};
+}
+
+} // namespace
+
+constexpr LispFunctionTable lispFunctionTable = {{
+    function<"Dlg_LispExplorer">(),
+    function<"Dlg_PatternHatch">(OnClose::Keep),
+    function<"Dlg_BreakLine", dlgBreakLine>(),
+    function<"Dlg_getblockinfo">(),
+    function<"Dlg_edittextcase">(),
+    function<"Dlg_exportsetting">(OnClose::Keep),
+    function<"Dlg_replaceblock">(),
+    function<"Dlg_replaceblocktoxref">(),
+    function<"Dlg_convertsimplesnotes">(),
+    function<"Dlg_makelinestyle">(),
+    function<"Dlg_imporAttributes">(),
+    function<"Dlg_NumberText">(),
+    function<"Dlg_TextFrame">(),
+    function<"Dlg_TextMask">(),
+    function<"CreateRtext">(),
+    function<"Dlg_ExDimensionStyle">(),
+    function<"Dlg_ImDimensionStyle">(),
+    function<"Dlg_ShowLinks">(),
+    function<"Dlg_DrawOrderColor">(),
+    function<"Dlg_RedefinePaths">(),
+    function<"Dlg_MergeSheets">(),
+    function<"Dlg_ExportInfo">(),
+    function<"Dlg_EditAlias">(),
+    function<"Dlg_MakeShape">(),
+    function<"Dlg_MultiViewSetup">(),
+    function<"c:setbackupfolder">(OnClose::Keep),
+    function<"KORA_entfield">(),
+    function<"KORA_ssget">(),
+    function<"KORA_getpoint">(),
+    function<"KORA_getstring">(),
+    function<"KORA_getkword">(),
+    function<"KORA_EntSel">(),
+    function<"KORA_IsItDemoVersion">(),
+    function<"KORA_ssget_filter">(),
+    function<"initgetOrtakit", initgetOrtakit>(),
+    function<"getPointOrtakit", getPointOrtakit>(),
+    function<"getIntOrtakit", getIntOrtakit>(),
+    function<"getKwordOrtakit", getKwordOrtakit>(),
+    function<"getStringOrtakit", getStringOrtakit>(),
+    function<"getRealOrtakit", getRealOrtakit>(),
+    function<"getDistOrtakit", getDistOrtakit>(),
+    function<"getAngleOrtakit", getAngleOrtakit>(),
+    function<"getCornerOrtakit", getCornerOrtakit>(),
+    function<"acet-ss-drag-move">(),
+}};
+
+void defineFunctions(CKvLispEngine &lisp)
+{
+    for (const LispFunction &row : lispFunctionTable)
+        lisp.defineFunction(row.name, row.handler);
+}
+
+void undefineFunctions(CKvLispEngine &lisp)
+{
+    for (const LispFunction &row : lispFunctionTable) {
+        if (row.onClose == OnClose::Undefine)
+            lisp.undefineFunction(row.name);
+    }
+}
+
+} // namespace ortakit

@@ -1,0 +1,44 @@
+#include "module/RunDialog.h"
+
+#include "module/DialogRegistry.h"
+#include "platform/kernel/CKvSystemServices.h"
+
+namespace ortakit {
+
+CKvDialog *findDialog(const CKvDocument &document, DialogSlot slot, CKvDialog *(*create)(QWidget *parent))
+{
+    CKvSystemServices *services = GetKvSystemServices();
+    QWidget *mainWindow = services ? services->mainWindow() : nullptr;
+    return DialogRegistry::instance().dialog(&document, slot, create, mainWindow);
+}
+
+bool areAcceptable(const OdResBuf *first, FirstArgument firstArgument, ExtraArguments extra)
+{
+    if (extra == ExtraArguments::RequiredSecond && !(first && first->next()))
+        return false;
+    switch (firstArgument) {
+    case FirstArgument::String:
+        return first && first->restype() == OdResBuf::kRtString;
+    case FirstArgument::Present:
+        return first;
+    case FirstArgument::Optional:
+        return true;
+    }
+    return false;
+}
+
+void releaseArguments(CKvLispEngine &lisp, ExtraArguments extra)
+{
+    OdResBuf *first = lisp.arguments();
+    switch (extra) {
+    case ExtraArguments::None:
+        return lisp.releaseArguments(first);
+    case ExtraArguments::OptionalSecond:
+    case ExtraArguments::RequiredSecond:
+        return lisp.releaseArguments(first && first->next() ? first->next() : first);
+    case ExtraArguments::List:
+        return;
+    }
+}
+
+} // namespace ortakit
