@@ -27,7 +27,8 @@ DialogPicture::DialogPicture(QWidget *widget, const QString &picture)
 
 bool DialogPicture::eventFilter(QObject *watched, QEvent *event)
 {
-    if (event->type() == QEvent::PaletteChange)
+    // A widget that was never shown hears of no change.
+    if (event->type() == QEvent::PaletteChange || event->type() == QEvent::Show)
         choose();
     if (event->type() == QEvent::Paint && !qobject_cast<QLabel *>(m_widget)) {
         paint();

@@ -54,11 +54,15 @@ QString StateLines::lookup(const QString &key) const
         buildSearchText();
 
     const QStringMatcher matcher(key + u'=', Qt::CaseInsensitive);
-    const qsizetype position = matcher.indexIn(m_searchText);
-    if (position < 0)
-        return {};
-    const auto next = std::upper_bound(m_lineStarts.cbegin(), m_lineStarts.cend(), position);
-    return secondField(std::distance(m_lineStarts.cbegin(), next) - 1);
+    for (qsizetype position = matcher.indexIn(m_searchText); position >= 0;
+         position = matcher.indexIn(m_searchText, position + 1)) {
+        const auto next = std::upper_bound(m_lineStarts.cbegin(), m_lineStarts.cend(), position);
+        const qsizetype line = std::distance(m_lineStarts.cbegin(), next) - 1;
+        // A key with a line feed may match over the end of a line.
+        if (position + key.size() < m_lineStarts[line] + m_lines[line].size())
+            return secondField(line);
+    }
+    return {};
 }
 
 void StateLines::indexLines()

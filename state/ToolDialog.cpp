@@ -21,7 +21,6 @@ void ToolDialog::showHelp()
 
 void ToolDialog::setUpButtons()
 {
-    ortakit::decorateButtons(*this);
     if (const auto *help = findChild<QAbstractButton *>(QStringLiteral("buttonHelp")))
         connect(help, &QAbstractButton::clicked, this, &ToolDialog::showHelp, Qt::UniqueConnection);
     if (const auto *cancel = findChild<QAbstractButton *>(QStringLiteral("ButtonCancel")))
@@ -69,6 +68,7 @@ void ToolDialog::showEvent(QShowEvent *event)
     CKvDialog::showEvent(event);
     if (event->spontaneous())
         return;
+    ortakit::decorateButtons(*this);
     beforeShow();
     applyState();
     afterShow();
@@ -77,7 +77,6 @@ void ToolDialog::showEvent(QShowEvent *event)
 void ToolDialog::changeEvent(QEvent *event)
 {
     CKvDialog::changeEvent(event);
-    // Icons come in a light and a dark variant.
     if (event->type() == QEvent::PaletteChange)
         ortakit::decorateButtons(*this);
 }

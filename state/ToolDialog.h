@@ -26,8 +26,8 @@ public slots:
     void showHelp();
 
 protected:
-    /// To be called once behind setupUi(): gives the buttons "acceptButton", "ButtonCancel" and "buttonHelp" their
-    /// icons, and connects Help to showHelp() and Cancel to reject(). OK is the tool's own.
+    /// To be called once behind setupUi(): connects the buttons "buttonHelp" to showHelp() and "ButtonCancel" to
+    /// reject(); "acceptButton" is the tool's own. Their icons come with each showing and follow the host's style.
     void setUpButtons();
 
     /// Fills what depends on the drawing or the disk, each time.

@@ -1,0 +1,297 @@
+#include "state/DialogState.h"
+
+#include "tests/state/Gallery.h"
+#include "tests/support/FakeHost.h"
+#include "tests/support/QtTestPrinters.h"
+
+#include <QElapsedTimer>
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+using ortakit::test::FakeHost;
+
+namespace {
+
+/// A dialog of plain widgets with a state, and a host to find a folder in.
+struct Fixture : testing::Test
+{
+    FakeHost host;
+    QDialog dialog;
+    DialogState state{&dialog};
+
+    QLineEdit *addEdit(const QString &name, const QString &text = {})
+    {
+        auto *edit = new QLineEdit(text, &dialog);
+        edit->setObjectName(name);
+        edit->resize(500, 20);
+        return edit;
+    }
+
+    void loadText(const QByteArray &content) { state.load(host.writeFile(u"in"_s, content)); }
+
+    QByteArray saved()
+    {
+        state.save();
+        return FakeHost::readFile(state.filePath());
+    }
+};
+
+using DialogStateTest = Fixture;
+
+TEST_F(DialogStateTest, EveryWidgetOfADialogIsWrittenInOrder)
+{
+    Gallery gallery;
+    gallery.check->setChecked(true);
+    gallery.angle->setUnitValue(M_PI / 2);
+    gallery.real->setValue(0.5);
+    gallery.whole->setValue(3);
+    gallery.table->selectRow(1);
+    DialogState all(&gallery);
+    all.setAction(u"OK"_s);
+    all.load(host.path(u"state"_s));
+    all.save();
+    const QByteArray expected = "\xEF\xBB\xBF"
+                                "ck_flag=TRUE\n"
+                                "!action!=OK\n"
+                                "tx_edit=typed\n"
+                                "rd_choice=FALSE\n"
+                                "cb_color=256\n"
+                                "cb_color_index=0\n"
+                                "cb_fixed=one\n"
+                                "cb_fixed_index=0\n"
+                                "cb_free=anything\n"
+                                "cb_free_index=-1\n"
+                                "cb_favorits=mine\n"
+                                "cb_favorits_index=-1\n"
+                                "cb_font=Nowhere Sans\n"
+                                "cb_font_index=-1\n"
+                                "ls_names=second\n"
+                                "sp_length=0\n"
+                                "qt_spinbox_lineedit=0.000000\n"
+                                "sp_angle=90\n"
+                                "qt_spinbox_lineedit=90\n"
+                                "sp_rotation=0\n"
+                                "qt_spinbox_lineedit=0\n"
+                                "sp_real=0.5\n"
+                                "qt_spinbox_lineedit=0.500000\n"
+                                "qt_spinbox_lineedit=3\n"
+                                "tb_pages=0\n"
+                                "tb_rows=Window^\n";
+    EXPECT_EQ(FakeHost::readFile(host.path(u"state"_s)), expected);
+}
+
+TEST_F(DialogStateTest, AnIntegerBoxKeepsWhatWasLoadedAndIsNeverWritten)
+{
+    Gallery gallery;
+    DialogState all(&gallery);
+    all.load(host.writeFile(u"state"_s, "sp_whole=42\n"));
+    all.apply();
+    EXPECT_EQ(gallery.whole->value(), 42);
+    all.save();
+    const QByteArray written = FakeHost::readFile(host.path(u"state"_s));
+    EXPECT_FALSE(written.contains("sp_whole"));
+    EXPECT_TRUE(written.contains("qt_spinbox_lineedit=42\n"));
+    all.load(host.path(u"state"_s));
+    all.apply();
+    EXPECT_EQ(gallery.whole->value(), 42);
+}
+
+struct ActionRow
+{
+    QString action;
+    QByteArray line;
+    QString key;
+    QString readBack;
+};
+
+TEST_F(DialogStateTest, TheActionFollowsTheFirstWidget)
+{
+    addEdit(u"first"_s, u"1"_s);
+    addEdit(u"second"_s, u"2"_s);
+    const ActionRow rows[] = {
+        {{}, "!action!=\n", u"!action!"_s, {}},
+        {u"CREATE"_s, "!action!=CREATE\n", u"!Action!"_s, u"CREATE"_s},
+        {u"GET_BLOCK=Door"_s, "!action!GET_BLOCK=Door\n", u"!action!get_block"_s, u"Door"_s},
+    };
+    for (const ActionRow &row : rows) {
+        loadText("");
+        state.setAction(row.action);
+        EXPECT_EQ(saved(), "\xEF\xBB\xBF"
+                           "first=1\n" +
+                               row.line + "second=2\n");
+        DialogState reader(&dialog);
+        reader.load(state.filePath());
+        EXPECT_EQ(reader.lookup(row.key), row.readBack);
+    }
+}
+
+TEST_F(DialogStateTest, TheIndexOfAComboBoxStaysBeforeTheAction)
+{
+    QComboBox box(&dialog);
+    box.setObjectName(u"Scale"_s);
+    box.addItems({u"1:1"_s, u"1:2"_s});
+    loadText("");
+    state.setAction(u"OK"_s);
+    EXPECT_EQ(saved(), "\xEF\xBB\xBF"
+                       "scale=1:1\nscale_index=0\n!action!=OK\n");
+}
+
+TEST_F(DialogStateTest, ADialogWithoutValuesLeavesAnEmptyFile)
+{
+    addEdit(u"empty"_s);
+    addEdit({}, u"has no name"_s);
+    loadText("old content\n");
+    state.setAction(u"OK"_s);
+    EXPECT_EQ(saved(), QByteArray());
+}
+
+TEST_F(DialogStateTest, OnlyWhatTheFilterNamesAndNothingExcludedIsSet)
+{
+    const QLineEdit *one = addEdit(u"One"_s);
+    const QLineEdit *two = addEdit(u"Two"_s);
+    loadText("one=1\ntwo=2\n");
+    EXPECT_FALSE(state.isLoaded());
+    state.apply(u"ONE"_s);
+    EXPECT_TRUE(state.isLoaded());
+    EXPECT_EQ(one->text() + u'/' + two->text(), u"1/"_s);
+
+    loadText("one=3\ntwo=4\n");
+    state.apply({}, {u"one="_s, u"Two="_s, u"two"_s});
+    EXPECT_EQ(one->text() + u'/' + two->text(), u"1/4"_s) << "excluded keys are compared as they are";
+}
+
+TEST_F(DialogStateTest, ValuesStayUntilALineReplacesThem)
+{
+    const QLineEdit *edit = addEdit(u"name"_s);
+    loadText("name=first\nother=1\n");
+    loadText("other=2\n");
+    state.apply();
+    EXPECT_EQ(edit->text(), u"first"_s);
+    EXPECT_EQ(state.lines(), (QStringList{u"name=first"_s, u"other=2"_s}));
+    loadText("name=\n");
+    state.apply();
+    EXPECT_EQ(edit->text(), u"first"_s) << "an empty value sets nothing";
+}
+
+TEST_F(DialogStateTest, AKeyAtTheHeadAnswersForItsEndings)
+{
+    const QLineEdit *size = addEdit(u"size"_s);
+    state.prependKeys({u"_dist_size"_s, u"_dist_offset"_s});
+    loadText("size=1\n_dist_size=2\n");
+    state.apply();
+    EXPECT_EQ(size->text(), u"2"_s);
+    EXPECT_EQ(state.lines(), (QStringList{u"_dist_size=2"_s, u"_dist_offset"_s, u"size=1"_s}));
+}
+
+TEST_F(DialogStateTest, AValueIsCutAtItsEqualsSign)
+{
+    QLineEdit *edit = addEdit(u"formula"_s, u"a=b"_s);
+    loadText("");
+    state.save();
+    state.load(state.filePath());
+    state.apply();
+    EXPECT_EQ(edit->text(), u"a"_s);
+}
+
+TEST_F(DialogStateTest, SettingAWidgetMayDeleteAnother)
+{
+    auto *check = new QCheckBox(&dialog);
+    check->setObjectName(u"first"_s);
+    QPointer<QLineEdit> edit = addEdit(u"second"_s);
+    QObject::connect(check, &QCheckBox::toggled, &dialog, [edit] { delete edit; });
+    loadText("first=TRUE\nsecond=x\n");
+    state.apply();
+    EXPECT_FALSE(edit);
+}
+
+TEST_F(DialogStateTest, FilesThatCannotBeReadOrWrittenAreIgnored)
+{
+    QLineEdit *edit = addEdit(u"name"_s, u"kept"_s);
+    const QString file = host.writeFile(u"file"_s, "untouched");
+    for (const QString &path : {host.path(u"missing/state"_s), file + u"/below"_s, u"/dev/full"_s, host.path({})}) {
+        state.load(path);
+        state.apply();
+        state.save();
+        EXPECT_EQ(state.filePath(), path);
+        EXPECT_FALSE(QFileInfo(path).isFile());
+    }
+    EXPECT_EQ(edit->text(), u"kept"_s);
+    EXPECT_EQ(FakeHost::readFile(file), "untouched");
+    state.load({});
+    EXPECT_EQ(state.filePath(), host.path({})) << "an empty path changes nothing";
+}
+
+TEST_F(DialogStateTest, HostileFilesSetWhatTheySayAndNothingBreaks)
+{
+    const std::pair<const char *, QByteArray> files[] = {
+        {"no line feed", QByteArray(3'000'000, 'x')},
+        {"only line feeds", QByteArray(300'000, '\n')},
+        {"only equals signs", QByteArray(300'000, '=')},
+        {"null characters", QByteArray(300'000, '\0')},
+        {"broken UTF-8", QByteArray(300'000, '\xC3')},
+        {"one key over and over", QByteArray("name=x\n").repeated(100'000)},
+        {"one key with a capital over and over", QByteArray("Name=x\n").repeated(100'000)},
+    };
+    addEdit(u"name"_s);
+    addEdit(u"end"_s);
+    for (const auto &[name, content] : files) {
+        QElapsedTimer clock;
+        clock.start();
+        loadText(content + "\nend=reached\n");
+        state.apply();
+        EXPECT_EQ(state.lookup(u"end"_s), u"reached"_s) << name;
+        EXPECT_LT(clock.elapsed(), 5000) << name;
+        state.setLines({});
+    }
+}
+
+TEST_F(DialogStateTest, AMovedDialogKeepsItsPlace)
+{
+    dialog.setGeometry(40, 50, 300, 200);
+    dialog.setAttribute(Qt::WA_Moved, false);
+    loadText("a=1\n");
+    EXPECT_TRUE(dialog.testAttribute(Qt::WA_Moved)) << "a dialog with a place is not centred again";
+    QDialog fresh;
+    DialogState(&fresh).load({});
+    EXPECT_FALSE(fresh.testAttribute(Qt::WA_Moved));
+}
+
+TEST_F(DialogStateTest, TheFolderForFavouritesIsMade)
+{
+    EXPECT_EQ(state.favouritesFolder(), host.path(u"Ortakit/Favorites"_s));
+    EXPECT_TRUE(QFileInfo(state.favouritesFolder()).isDir());
+    EXPECT_FALSE(dialog.windowFlags() & Qt::WindowContextHelpButtonHint);
+
+    host.documents().close(&host.document());
+    QDialog other;
+    const DialogState without(&other);
+    EXPECT_EQ(without.favouritesFolder(), u"Ortakit/Favorites"_s);
+    EXPECT_FALSE(QFileInfo::exists(u"Ortakit"_s)) << "nothing appears in the current folder";
+}
+
+TEST_F(DialogStateTest, TenThousandLinesAndManyWidgetsAreQuick)
+{
+    for (int i = 0; i < 150; ++i)
+        addEdit(u"field_%1"_s.arg(i));
+    QByteArray content;
+    for (int i = 0; i < 10'000; ++i)
+        content += "some_longer_key_" + QByteArray::number(i) + "=value " + QByteArray::number(i) + "\n";
+    for (int i = 0; i < 150; ++i)
+        content += "field_" + QByteArray::number(i) + "=set " + QByteArray::number(i) + "\n";
+    const QString path = host.writeFile(u"large"_s, content);
+
+    QElapsedTimer clock;
+    clock.start();
+    state.load(path);
+    state.load(path);
+    const qint64 loaded = clock.restart();
+    state.apply();
+    const qint64 applied = clock.elapsed();
+    std::printf("10,150 lines loaded twice in %lld ms, applied to 150 widgets in %lld ms\n", loaded, applied);
+    EXPECT_EQ(state.lines().size(), 10'150);
+    EXPECT_EQ(dialog.findChild<QLineEdit *>(u"field_149"_s)->text(), u"set 149"_s);
+    EXPECT_LT(loaded + applied, 3000);
+}
+
+} // namespace

@@ -1,0 +1,114 @@
+#include "state/DrawingPicker.h"
+#include "state/FolderPicker.h"
+#include "tests/support/FakeHost.h"
+#include "tests/support/ModalAnswers.h"
+#include "tests/support/QtTestPrinters.h"
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+using namespace ortakit;
+using ortakit::test::FakeHost;
+using ortakit::test::ModalAnswers;
+
+namespace {
+
+TEST(FolderPicker, StartsWhereItIsToldOrAtTheHostsFolder)
+{
+    const FakeHost host;
+    const QString folder = host.path(u"sheets"_s);
+    ASSERT_TRUE(QDir().mkpath(folder));
+    const QString own = QDir(host.path({})).absolutePath();
+    const std::pair<QString, QString> rows[] = {{folder, folder}, {{}, own}, {host.path(u"missing"_s), own}};
+    for (const auto &[start, shownAt] : rows) {
+        ModalAnswers user;
+        user.choose(folder);
+        EXPECT_EQ(pickFolder(nullptr, start), folder);
+        ASSERT_EQ(user.shown().size(), 1);
+        EXPECT_TRUE(user.shown().first().startsWith(u"choose \"Select folder\" \"%1\""_s.arg(shownAt)))
+            << user.shown().first().toStdString();
+    }
+    ModalAnswers user;
+    user.choose({});
+    EXPECT_EQ(pickFolder(nullptr, folder, u"Specify folder"_s), QString()) << "cancelled";
+    EXPECT_TRUE(user.shown().first().startsWith(u"choose \"Specify folder\""_s));
+}
+
+TEST(DrawingPicker, GivesTheChosenDrawing)
+{
+    const FakeHost host;
+    const QString drawing = host.writeFile(u"door.dwg"_s, "x");
+    ModalAnswers user;
+    user.choose(drawing);
+    EXPECT_EQ(pickDrawing(nullptr), drawing);
+    user.choose(drawing);
+    EXPECT_EQ(pickDrawing(
+                  nullptr,
+                  {.title = u"Symbol"_s, .filter = u"Drawing files (*.dwg *.dxf)"_s, .start = host.path(u"noname"_s)}),
+              drawing);
+    const QString own = QDir(host.path({})).absolutePath();
+    EXPECT_EQ(user.shown(), (QStringList{u"choose \"Specify a drawing\" \"%1\" \"Drawing files (*.dwg)\""_s.arg(own),
+                                         u"choose \"Symbol\" \"%1\" \"Drawing files (*.dwg *.dxf)\""_s.arg(own)}));
+}
+
+TEST(DrawingPicker, RefusesTheDrawingThatItIsFor)
+{
+    FakeHost host;
+    const QString drawing = host.writeFile(u"plan.dwg"_s, "x");
+    host.document().fakeDatabase().setFilename(drawing);
+    ModalAnswers user;
+    user.choose(drawing);
+    user.press(QMessageBox::Ok);
+    EXPECT_EQ(pickDrawing(nullptr), QString());
+    EXPECT_EQ(user.shown().value(1), u"warning \"\" \"Error: Xref contains circular reference\" OK"_s);
+}
+
+struct CircleRow
+{
+    const char *name;
+    QMap<QString, QStringList> references;
+    bool expected;
+};
+
+TEST(DrawingPicker, FollowsReferencesBackToTheStart)
+{
+    const FakeHost host;
+    ASSERT_TRUE(QDir().mkpath(host.path(u"parts"_s)));
+    for (const QString &name : {u"host.dwg"_s, u"a.dwg"_s, u"b.dwg"_s, u"parts/c.dwg"_s})
+        host.writeFile(name, "x");
+    const CircleRow rows[] = {
+        {"no references", {}, false},
+        {"references without a circle", {{u"a.dwg"_s, {u"b.dwg"_s}}, {u"b.dwg"_s, {u"parts/c.dwg"_s}}}, false},
+        {"itself", {{u"a.dwg"_s, {u"a.dwg"_s}}}, true},
+        {"the drawing it goes into", {{u"a.dwg"_s, {u"./host.dwg"_s}}}, true},
+        {"over another drawing", {{u"a.dwg"_s, {u"b.dwg"_s}}, {u"b.dwg"_s, {u"A/../a.dwg"_s, u"a.dwg"_s}}}, true},
+        {"from another folder, backslashes",
+         {{u"a.dwg"_s, {u"parts\\c.dwg"_s}}, {u"c.dwg"_s, {u"..\\host.dwg"_s}}},
+         true},
+        {"a path of another machine", {{u"a.dwg"_s, {u"D:\\plans\\host.dwg"_s}}}, true},
+        {"a circle of others", {{u"a.dwg"_s, {u"b.dwg"_s}}, {u"b.dwg"_s, {u"b.dwg"_s}}}, false},
+        {"missing drawings", {{u"a.dwg"_s, {u"gone.dwg"_s, QString(), u"\\"_s}}}, false},
+    };
+    for (const CircleRow &row : rows) {
+        const auto referencesOf = [&](const QString &path) { return row.references.value(QFileInfo(path).fileName()); };
+        EXPECT_EQ(leadsBack(host.path(u"a.dwg"_s), host.path(u"host.dwg"_s), referencesOf), row.expected) << row.name;
+    }
+    EXPECT_TRUE(leadsBack(host.path(u"a.dwg"_s), host.path(u"parts/../a.dwg"_s)));
+    EXPECT_FALSE(leadsBack(host.path(u"missing.dwg"_s), host.path(u"missing.dwg"_s)));
+}
+
+TEST(DrawingPicker, OpensOnlySoManyDrawings)
+{
+    const FakeHost host;
+    int opened = 0;
+    host.writeFile(u"0.dwg"_s, "x");
+    const auto oneMore = [&](const QString &) {
+        const QString next = u"%1.dwg"_s.arg(++opened);
+        host.writeFile(next, "x");
+        return QStringList{next};
+    };
+    EXPECT_FALSE(leadsBack(host.path(u"0.dwg"_s), {}, oneMore));
+    EXPECT_EQ(opened, 1000);
+}
+
+} // namespace

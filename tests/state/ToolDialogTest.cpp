@@ -1,0 +1,110 @@
+#include "state/ToolDialog.h"
+
+#include "tests/support/FakeHost.h"
+#include "tests/support/ModalAnswers.h"
+#include "tests/support/QtTestPrinters.h"
+
+#include <QLineEdit>
+#include <QPushButton>
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+using ortakit::test::FakeHost;
+using ortakit::test::ModalAnswers;
+
+namespace {
+
+/// A tool that writes down what happens to it.
+class SampleTool final : public ToolDialog
+{
+public:
+    using ToolDialog::acceptWith;
+    using ToolDialog::ask;
+    using ToolDialog::inform;
+    using ToolDialog::reportError;
+    using ToolDialog::warn;
+
+    QStringList events;
+    QLineEdit *name = new QLineEdit(this);
+    QPushButton *help = new QPushButton(this);
+    QPushButton *cancel = new QPushButton(this);
+
+    SampleTool() : ToolDialog(nullptr, u"textframe"_s)
+    {
+        name->setObjectName(u"name"_s);
+        name->resize(400, 20);
+        help->setObjectName(u"buttonHelp"_s);
+        cancel->setObjectName(u"ButtonCancel"_s);
+        setUpButtons();
+    }
+
+protected:
+    void beforeShow() override { log(u"before"_s); }
+    void beforeFirstShow() override { log(u"first"_s); }
+    bool appliesAgain() const override { return state().lookup(u"!Action!"_s) == u"CREATE"_s; }
+    void afterShow() override { log(u"after"_s); }
+
+private:
+    void log(const QString &event) { events.append(event + u':' + name->text()); }
+};
+
+TEST(ToolDialog, AppliesTheStateWhenItIsFirstShownAndWhenTheActionSaysSo)
+{
+    const FakeHost host;
+    SampleTool tool;
+    tool.state().load(host.writeFile(u"state"_s, "name=a\n"));
+    tool.show();
+    EXPECT_EQ(tool.events, (QStringList{u"before:"_s, u"first:"_s, u"after:a"_s}));
+
+    tool.events.clear();
+    tool.hide();
+    tool.state().load(host.writeFile(u"state"_s, "name=b\n"));
+    tool.show();
+    EXPECT_EQ(tool.events, (QStringList{u"before:a"_s, u"after:a"_s})) << "what the user left stays";
+
+    tool.events.clear();
+    tool.hide();
+    tool.state().load(host.writeFile(u"state"_s, "name=c\n!action!=CREATE\n"));
+    tool.show();
+    EXPECT_EQ(tool.events, (QStringList{u"before:a"_s, u"after:c"_s}));
+}
+
+TEST(ToolDialog, AnswersTheLispProgramThroughTheStateFile)
+{
+    const FakeHost host;
+    SampleTool tool;
+    tool.state().load(host.writeFile(u"state"_s, "name=a\n"));
+    ModalAnswers user;
+    user.drive([&](QWidget *) { tool.acceptWith(u"CREATE"_s); });
+    EXPECT_EQ(tool.exec(), QDialog::Accepted);
+    tool.state().save();
+    EXPECT_EQ(FakeHost::readFile(tool.state().filePath()), "\xEF\xBB\xBFname=a\n!action!=CREATE\n");
+
+    user.drive([&](QWidget *) { tool.cancel->click(); });
+    EXPECT_EQ(tool.exec(), QDialog::Rejected);
+}
+
+TEST(ToolDialog, HelpAndMessages)
+{
+    FakeHost host;
+    SampleTool tool;
+    tool.help->click();
+    EXPECT_EQ(host.help().requests, QStringList{u"help.file 9113 new no-parent 16"_s});
+
+    ModalAnswers user;
+    for (const auto button : {QMessageBox::Ok, QMessageBox::Ok, QMessageBox::Ok, QMessageBox::Yes, QMessageBox::No})
+        user.press(button);
+    tool.inform(u"told"_s, u"Title"_s);
+    tool.warn(u"<refused>"_s);
+    tool.reportError(u"failed"_s);
+    EXPECT_TRUE(tool.ask(u"sure?"_s));
+    EXPECT_FALSE(tool.ask(u"sure?"_s, u"Again"_s));
+    EXPECT_FALSE(tool.ask(u"closed?"_s)) << "closing a question is no Yes";
+    EXPECT_EQ(user.shown(),
+              (QStringList{u"information \"Title\" \"told\" OK"_s, u"warning \"\" \"<refused>\" OK"_s,
+                           u"critical \"\" \"failed\" OK"_s, u"question \"\" \"sure?\" Yes/No"_s,
+                           u"question \"Again\" \"sure?\" Yes/No"_s, u"question \"\" \"closed?\" Yes/No"_s}));
+}
+
+} // namespace

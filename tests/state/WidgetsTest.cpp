@@ -1,0 +1,168 @@
+#include "state/ButtonIcons.h"
+#include "state/DialogPicture.h"
+#include "state/DrawingPreview.h"
+#include "state/ElidedPathField.h"
+#include "tests/support/QtTestPrinters.h"
+
+#include <QApplication>
+#include <QFocusEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QString longPath = u"/home/someone/drawings/"_s + QString(200, u'x') + u"/symbol.dwg"_s;
+
+void sendFocus(QLineEdit &edit, QEvent::Type type, Qt::FocusReason reason = Qt::OtherFocusReason)
+{
+    QFocusEvent event(type, reason);
+    QCoreApplication::sendEvent(&edit, &event);
+}
+
+struct ElidedField : testing::Test
+{
+    QLineEdit edit;
+    ElidedPathField *field = nullptr;
+    int entered = 0;
+
+    ElidedField()
+    {
+        edit.resize(200, 24);
+        field = new ElidedPathField(&edit);
+        QObject::connect(field, &ElidedPathField::pathEntered, &edit, [this] { ++entered; });
+    }
+};
+
+TEST_F(ElidedField, ShowsALongPathShortenedAndKeepsItWhole)
+{
+    field->setFullPath(longPath);
+    EXPECT_TRUE(edit.text().contains(u'\u2026'));
+    EXPECT_EQ(field->fullPath(), longPath);
+    sendFocus(edit, QEvent::FocusIn);
+    EXPECT_EQ(edit.text(), longPath);
+    sendFocus(edit, QEvent::FocusOut);
+    EXPECT_TRUE(edit.text().contains(u'\u2026'));
+    EXPECT_EQ(field->fullPath(), longPath);
+    EXPECT_EQ(entered, 1);
+}
+
+TEST_F(ElidedField, TakesWhatWasTypedButNoShortenedText)
+{
+    field->setFullPath(longPath);
+    sendFocus(edit, QEvent::FocusIn);
+    edit.setText(u"/tmp/other.dwg"_s);
+    sendFocus(edit, QEvent::FocusOut, Qt::PopupFocusReason);
+    EXPECT_EQ(field->fullPath(), longPath) << "a context menu is no leaving";
+    sendFocus(edit, QEvent::FocusOut);
+    EXPECT_EQ(field->fullPath(), u"/tmp/other.dwg"_s);
+
+    edit.setText(u"/tmp/…/third.dwg"_s);
+    sendFocus(edit, QEvent::FocusOut);
+    EXPECT_EQ(field->fullPath(), u"/tmp/other.dwg"_s);
+    EXPECT_EQ(edit.text(), u"/tmp/other.dwg"_s);
+}
+
+TEST_F(ElidedField, ReturnTakesTheTextToo)
+{
+    edit.setText(u"/tmp/typed.dwg"_s);
+    QMetaObject::invokeMethod(&edit, "returnPressed");
+    EXPECT_EQ(field->fullPath(), u"/tmp/typed.dwg"_s);
+    EXPECT_EQ(entered, 1);
+}
+
+TEST_F(ElidedField, ShortensAnewForAnotherWidth)
+{
+    edit.show();
+    field->setFullPath(longPath);
+    const QString narrow = edit.text();
+    edit.resize(4000, 24);
+    EXPECT_EQ(edit.text(), longPath);
+    edit.resize(200, 24);
+    EXPECT_EQ(edit.text(), narrow);
+    edit.setText(u"being typed"_s);
+    edit.resize(300, 24);
+    EXPECT_EQ(edit.text(), u"being typed"_s) << "a text that is not the path is left alone";
+}
+
+TEST(DrawingPreview, ShowsWhatItCanOnBlack)
+{
+    DrawingPreview preview;
+    preview.resize(60, 40);
+    const auto pixel = [&](int x, int y) { return preview.grab().toImage().pixelColor(x, y); };
+    EXPECT_EQ(pixel(30, 20), QColor(Qt::black));
+
+    QImage red(10, 10, QImage::Format_RGB32);
+    red.fill(Qt::red);
+    preview.setImage(red);
+    EXPECT_EQ(pixel(30, 20), QColor(Qt::red));
+    EXPECT_EQ(pixel(2, 20), QColor(Qt::black)) << "the picture keeps its proportions";
+    preview.resize(20, 200);
+    EXPECT_EQ(pixel(10, 100), QColor(Qt::red)) << "and is fitted again after resizing";
+    EXPECT_EQ(pixel(10, 20), QColor(Qt::black));
+
+    preview.setDrawing(u"/no/such/drawing.dwg"_s);
+    EXPECT_EQ(preview.drawing(), u"/no/such/drawing.dwg"_s);
+    EXPECT_EQ(pixel(1, 100), QColor(Qt::black));
+    preview.setDrawing({});
+    EXPECT_EQ(pixel(10, 100), QColor(Qt::black));
+}
+
+/// Gives the application a dark palette, and the one before back.
+struct DarkStyle
+{
+    QPalette before = QApplication::palette();
+    DarkStyle() { set(QPalette(QColor(30, 30, 30))); }
+    ~DarkStyle() { set(before); }
+
+    static void set(const QPalette &palette)
+    {
+        QApplication::setPalette(palette);
+        QCoreApplication::processEvents(); // windows are told through their event queue
+    }
+};
+
+TEST(DialogPicture, FollowsTheStyle)
+{
+    QLabel label;
+    QWidget plain;
+    plain.resize(40, 40);
+    const DialogPicture onLabel(&label, u":/images/sample.svg"_s);
+    const DialogPicture onPlain(&plain, u":/images/sample.svg"_s);
+    const DialogPicture lightOnly(new QLabel(&plain), u":/images/lightonly.svg"_s);
+    label.show();
+    plain.show();
+    const auto labelColor = [&] { return label.pixmap(Qt::ReturnByValue).toImage().pixelColor(5, 5); };
+    const auto plainColor = [&] { return plain.grab().toImage().pixelColor(20, 20); };
+    EXPECT_EQ(labelColor(), QColor(Qt::red));
+    EXPECT_EQ(plainColor(), QColor(Qt::red));
+    {
+        const DarkStyle dark;
+        EXPECT_EQ(labelColor(), QColor(Qt::blue));
+        EXPECT_EQ(plainColor(), QColor(Qt::blue));
+        EXPECT_EQ(lightOnly.shownPicture(), u":/images/lightonly.svg"_s);
+    }
+    EXPECT_EQ(labelColor(), QColor(Qt::red));
+    EXPECT_EQ(label.pixmap(Qt::ReturnByValue).size(), QSize(20, 10));
+}
+
+TEST(ButtonIcons, ButtonsOfADialogGetThoseThatThereAre)
+{
+    QWidget dialog;
+    QMap<QString, QPushButton *> buttons;
+    for (const QString &name : {u"acceptButton"_s, u"ButtonCancel"_s, u"buttonHelp"_s, u"other"_s}) {
+        buttons[name] = new QPushButton(&dialog);
+        buttons[name]->setObjectName(name);
+    }
+    ortakit::decorateButtons(dialog);
+    EXPECT_FALSE(buttons[u"acceptButton"_s]->icon().isNull());
+    EXPECT_FALSE(buttons[u"ButtonCancel"_s]->icon().isNull());
+    EXPECT_TRUE(buttons[u"buttonHelp"_s]->icon().isNull()) << "the host has no such icon here";
+    EXPECT_TRUE(buttons[u"other"_s]->icon().isNull());
+}
+
+} // namespace
