@@ -211,10 +211,10 @@ TEST(WidgetValue, ALargeTableIsQuick)
 TEST(WidgetValue, ALongTextIsShownShortenedAndWrittenWhole)
 {
     Gallery gallery;
-    const QString path = u"/home/someone/"_s + QString(300, u'x') + u"/symbol.dwg"_s;
+    const QString path = u"/srv/drawings/"_s + QString(300, u'x') + u"/symbol.dwg"_s;
     applyValue(*gallery.edit, path);
     EXPECT_LT(gallery.edit->text().size(), path.size());
-    EXPECT_TRUE(gallery.edit->text().startsWith(u"/home"_s) && gallery.edit->text().endsWith(u"dwg"_s));
+    EXPECT_TRUE(gallery.edit->text().startsWith(u"/srv"_s) && gallery.edit->text().endsWith(u"dwg"_s));
     EXPECT_EQ(writtenValue(*gallery.edit), path);
 }
 

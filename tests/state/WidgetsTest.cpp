@@ -16,7 +16,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString longPath = u"/home/someone/drawings/"_s + QString(200, u'x') + u"/symbol.dwg"_s;
+const QString longPath = u"/srv/drawings/plans/"_s + QString(200, u'x') + u"/symbol.dwg"_s;
 
 void sendFocus(QLineEdit &edit, QEvent::Type type, Qt::FocusReason reason = Qt::OtherFocusReason)
 {
