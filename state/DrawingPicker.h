@@ -19,10 +19,10 @@ enum class CircularReferences
 /// How the drawing picker looks and starts. What is empty has the default that is said.
 struct DrawingPickerOptions
 {
-    QString title;  ///< "Specify a drawing"
-    QString filter; ///< "Drawing files (*.dwg)"
+    QString title = {};  ///< "Specify a drawing"
+    QString filter = {}; ///< "Drawing files (*.dwg)"
     /// A folder, or a file in one, whose name is then proposed; the host's default folder when there is no such folder.
-    QString start;
+    QString start = {};
     CircularReferences circularReferences = CircularReferences::Refuse;
 };
 
