@@ -43,14 +43,17 @@ public:
     /// "*X", "*T" or "*E" and nothing behind is completed with the next free number. noRecord for an empty name and
     /// for the layouts.
     RecordId create(const QString &name, const Vec3 &basePoint, int flags = 0);
+    /// Takes a definition out, with its table entry. References to it are the caller's concern.
+    bool erase(RecordId block);
 
 private:
+    QString completedName(const QString &name) const;
     const QHash<QString, RecordId> &names() const;
     RecordId insertDefinition(const QString &name, const Vec3 &basePoint, int flags);
 
     Drawing &m_drawing;
     mutable QHash<QString, RecordId> m_names;
-    mutable quint64 m_revision = 0;
+    mutable quint64 m_revision = ~quint64(0);
 };
 
 } // namespace host::drawing

@@ -21,6 +21,7 @@ class HeaderVariables;
 class Journal;
 class Tables;
 struct IndexedFile;
+struct RecordState;
 
 /// The versions of the format, by the number in $ACADVER ("AC1009" is 1009). Files without it count as R12.
 enum class Version : int
@@ -130,8 +131,9 @@ public:
     /// Takes a record out of the drawing or brings it back, with its children and end marker, and for a TABLE, BLOCK or
     /// SECTION all within. False when it was so already or the record was never in the drawing as it now is.
     bool setErased(RecordId id, bool erased);
-    /// Adds a record directly behind `after`, as a part of `parent`. Writes exactly the fields given; only the handle
-    /// index is kept. Callers wanting a correct drawing use the parts instead.
+    /// Adds a record directly behind `after`, as a part of `parent`; from noRecord as the last before its end. Writes
+    /// exactly the fields given; only the handle index is kept. Callers wanting a correct drawing use the parts
+    /// instead.
     RecordId insert(RecordId after, RecordId parent, RecordKind kind, const FieldList &fields);
     /// The next free handle, and $HANDSEED moved on. Null in a file without handles ($HANDLING 0).
     Handle takeHandle();
@@ -143,10 +145,16 @@ public:
     quint64 revision() const;
     /// As revision(), for changes in one section only.
     quint64 revision(Section section) const;
+    /// As revision(Section), but only what can change names and places counts: not entities, not values of variables.
+    quint64 structureRevision(Section section) const;
 
 private:
     friend class Journal;
     explicit Drawing(IndexedFile &&file);
+
+    bool isInside(RecordId id, RecordId container) const;
+    void link(RecordId id, RecordId after);
+    void changeState(RecordId id, const RecordState &state);
 
     struct Private;
     std::unique_ptr<Private> d;

@@ -6,6 +6,8 @@
 
 namespace host::drawing {
 
+class EntityBuilder;
+
 enum class Space
 {
     Model,
@@ -79,6 +81,11 @@ private:
     Place placeIn(Space space) const;
     Place placeInBlock(RecordId block) const;
     CreateResult createAt(const Place &place, const FieldList &head, const std::vector<FieldList> *children);
+    QString checkChildren(const QString &type, const FieldList &head, const std::vector<FieldList> *children,
+                          std::vector<EntityBuilder> &parts) const;
+    RecordId insertBuilt(const EntityBuilder &entity, const Place &place, RecordId parent, RecordId after,
+                         RecordKind kind, Handle owner);
+    void markWithAttributes(RecordId block);
 
     Drawing &m_drawing;
 };

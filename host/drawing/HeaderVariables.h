@@ -2,6 +2,8 @@
 
 #include "host/drawing/Drawing.h"
 
+#include <QHash>
+
 #include <optional>
 
 namespace host::drawing {
@@ -30,8 +32,8 @@ public:
 
 private:
     Drawing &m_drawing;
-    mutable std::vector<std::pair<QByteArray, RecordId>> m_byName;
-    mutable quint64 m_revision = 0;
+    mutable QHash<QByteArray, RecordId> m_byName;
+    mutable quint64 m_revision = ~quint64(0);
 };
 
 } // namespace host::drawing

@@ -33,7 +33,7 @@ enum class Section : quint8
 /// section from one variable name (group 9) to the next.
 enum class RecordKind : quint8
 {
-    Preamble,    ///< tags before the first section, comments mostly
+    Preamble,    ///< the first record of every drawing: tags before the first section, comments mostly, or nothing
     Section,     ///< SECTION with its name
     EndSection,  ///< ENDSEC
     Variable,    ///< a header variable

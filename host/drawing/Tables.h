@@ -54,7 +54,7 @@ private:
     struct Cache
     {
         NameMap names;
-        quint64 revision = 0;
+        quint64 revision = ~quint64(0);
     };
     mutable std::array<Cache, 9> m_caches;
 };

@@ -1,0 +1,141 @@
+#include "host/drawing/Blocks.h"
+
+#include "host/drawing/Journal.h"
+#include "host/drawing/Structure.h"
+#include "host/drawing/Tables.h"
+
+namespace host::drawing {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// R12 spells the layouts with a dollar sign.
+bool isLayoutName(const QString &name)
+{
+    static const QString prefixes[] = {u"*Model_Space"_s, u"*Paper_Space"_s, u"$Model_Space"_s, u"$Paper_Space"_s};
+    return std::any_of(std::begin(prefixes), std::end(prefixes),
+                       [&](const QString &prefix) { return name.startsWith(prefix, Qt::CaseInsensitive); });
+}
+
+} // namespace
+
+bool Block::isLayout() const
+{
+    return isLayoutName(name);
+}
+
+RecordId Blocks::find(QStringView name) const
+{
+    return names().value(name.toString().toCaseFolded(), noRecord);
+}
+
+std::optional<Block> Blocks::get(QStringView name) const
+{
+    const RecordId record = find(name);
+    return isValid(record) ? std::optional<Block>(read(record)) : std::nullopt;
+}
+
+Block Blocks::read(RecordId record) const
+{
+    const TagList tags = m_drawing.tags(record);
+    Block block;
+    block.record = record;
+    block.name = tags.text(2);
+    block.tableEntry = m_drawing.tables().find(TableKind::BlockRecord, block.name);
+    block.basePoint = tags.point(10);
+    block.externalPath = tags.text(1);
+    block.flags = static_cast<int>(tags.integer(70));
+    return block;
+}
+
+std::vector<RecordId> Blocks::all() const
+{
+    const RecordId section = m_drawing.sectionRecord(Section::Blocks);
+    return isValid(section) ? m_drawing.children(section) : std::vector<RecordId>();
+}
+
+QString Blocks::name(RecordId block) const
+{
+    return m_drawing.tags(block).text(2);
+}
+
+const QHash<QString, RecordId> &Blocks::names() const
+{
+    const quint64 revision = m_drawing.structureRevision(Section::Blocks);
+    if (m_revision != revision) {
+        m_names.clear();
+        for (const RecordId block : all()) {
+            const QString key = name(block).toCaseFolded();
+            if (!m_names.contains(key))
+                m_names.insert(key, block);
+        }
+        m_revision = revision;
+    }
+    return m_names;
+}
+
+QString Blocks::completedName(const QString &name) const
+{
+    static const QStringList anonymous = {u"*U"_s, u"*D"_s, u"*X"_s, u"*T"_s, u"*E"_s};
+    if (!anonymous.contains(name.toUpper()))
+        return name;
+    int number = 0;
+    while (isValid(find(QString(name + QString::number(number)))))
+        ++number;
+    return name + QString::number(number);
+}
+
+RecordId Blocks::create(const QString &name, const Vec3 &basePoint, int flags)
+{
+    if (name.isEmpty() || isLayoutName(name))
+        return noRecord;
+    const JournalGroup group(m_drawing.journal(), {});
+    const QString wanted = completedName(name);
+    const RecordId existing = find(wanted);
+    if (!isValid(existing))
+        return insertDefinition(wanted, basePoint, flags);
+    for (const RecordId entity : m_drawing.children(existing))
+        m_drawing.setErased(entity, true);
+    FieldList fields = m_drawing.fields(existing);
+    setField(fields, 10, basePoint);
+    setField(fields, 70, qint64(flags));
+    m_drawing.setFields(existing, fields);
+    return existing;
+}
+
+RecordId Blocks::insertDefinition(const QString &name, const Vec3 &basePoint, int flags)
+{
+    const RecordId entry = m_drawing.tables().add(TableKind::BlockRecord, name);
+    const Handle owner = isValid(entry) ? m_drawing.handle(entry) : Handle{};
+    const bool withMarkers = hasMarkers(m_drawing);
+    FieldList begin = recordHead(m_drawing, u"BLOCK"_s, owner);
+    FieldList end = recordHead(m_drawing, u"ENDBLK"_s, owner);
+    for (FieldList *fields : {&begin, &end}) {
+        if (withMarkers)
+            fields->push_back({100, u"AcDbEntity"_s});
+        fields->push_back({8, u"0"_s});
+        if (withMarkers)
+            fields->push_back({100, fields == &begin ? u"AcDbBlockBegin"_s : u"AcDbBlockEnd"_s});
+    }
+    begin.push_back({2, name});
+    begin.push_back({70, qint64(flags)});
+    begin.push_back({10, basePoint});
+    begin.push_back({3, name});
+    begin.push_back({1, QString()});
+    const RecordId section = ensureSection(m_drawing, Section::Blocks);
+    const RecordId block = m_drawing.insert(noRecord, section, RecordKind::Block, begin);
+    m_drawing.insert(block, block, RecordKind::EndBlock, end);
+    return block;
+}
+
+bool Blocks::erase(RecordId block)
+{
+    const JournalGroup group(m_drawing.journal(), {});
+    const RecordId entry = read(block).tableEntry;
+    if (isValid(entry))
+        m_drawing.setErased(entry, true);
+    return m_drawing.setErased(block, true);
+}
+
+} // namespace host::drawing

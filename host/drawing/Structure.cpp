@@ -1,0 +1,113 @@
+#include "host/drawing/Structure.h"
+
+#include "host/drawing/Tables.h"
+
+namespace host::drawing {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString sectionName(Section section)
+{
+    switch (section) {
+    case Section::Header:
+        return u"HEADER"_s;
+    case Section::Classes:
+        return u"CLASSES"_s;
+    case Section::Tables:
+        return u"TABLES"_s;
+    case Section::Blocks:
+        return u"BLOCKS"_s;
+    case Section::Entities:
+        return u"ENTITIES"_s;
+    default:
+        return u"OBJECTS"_s;
+    }
+}
+
+struct ClassRule
+{
+    QLatin1StringView type;
+    QLatin1StringView className;
+    QLatin1StringView application;
+    int proxyFlags;
+};
+
+constexpr ClassRule classRules[] = {
+    {"IMAGE"_L1, "AcDbRasterImage"_L1, "ISM"_L1, 2175},
+    {"IMAGEDEF"_L1, "AcDbRasterImageDef"_L1, "ISM"_L1, 0},
+    {"WIPEOUT"_L1, "AcDbWipeout"_L1, "WipeOut"_L1, 2175},
+    {"RTEXT"_L1, "RText"_L1, "RText"_L1, 0},
+};
+
+bool hasClass(const Drawing &drawing, QLatin1StringView type)
+{
+    const RecordId section = drawing.sectionRecord(Section::Classes);
+    if (!isValid(section))
+        return false;
+    const std::vector<RecordId> classes = drawing.children(section);
+    return std::any_of(classes.begin(), classes.end(),
+                       [&](RecordId record) { return drawing.tags(record).text(1) == type; });
+}
+
+} // namespace
+
+RecordId ensureSection(Drawing &drawing, Section section)
+{
+    if (const RecordId existing = drawing.sectionRecord(section); isValid(existing))
+        return existing;
+    RecordId after{0};
+    for (RecordId id = drawing.first(); isValid(id); id = drawing.nextSibling(id)) {
+        const RecordKind kind = drawing.kind(id);
+        const bool isLater =
+            kind == RecordKind::EndOfFile || (kind == RecordKind::Section && drawing.section(id) > section);
+        if (isLater)
+            break;
+        after = isValid(drawing.endOf(id)) ? drawing.endOf(id) : id;
+    }
+    const RecordId record =
+        drawing.insert(after, noRecord, RecordKind::Section, {{0, u"SECTION"_s}, {2, sectionName(section)}});
+    drawing.insert(record, record, RecordKind::EndSection, {{0, u"ENDSEC"_s}});
+    return record;
+}
+
+void ensureClass(Drawing &drawing, const QString &type)
+{
+    const auto *rule = std::find_if(std::begin(classRules), std::end(classRules),
+                                    [&](const ClassRule &candidate) { return type == candidate.type; });
+    if (rule == std::end(classRules) || !hasMarkers(drawing) || hasClass(drawing, rule->type))
+        return;
+    FieldList fields = {{0, u"CLASS"_s},
+                        {1, QString(rule->type)},
+                        {2, QString(rule->className)},
+                        {3, QString(rule->application)},
+                        {90, qint64(rule->proxyFlags)}};
+    if (drawing.version() >= Version::R2004)
+        fields.push_back({91, qint64(1)});
+    fields.push_back({280, qint64(0)});
+    fields.push_back({281, qint64(rule->type == "IMAGEDEF"_L1 ? 0 : 1)});
+    drawing.insert(noRecord, ensureSection(drawing, Section::Classes), RecordKind::Class, fields);
+}
+
+void ensureNamed(Drawing &drawing, const FieldList &fields)
+{
+    for (const Field &field : fields) {
+        if (field.code == 8 && !field.text().isEmpty())
+            drawing.tables().add(TableKind::Layer, field.text());
+        else if (field.code == 1001 && !field.text().isEmpty())
+            drawing.tables().add(TableKind::AppId, field.text());
+    }
+}
+
+FieldList recordHead(Drawing &drawing, const QString &type, Handle owner)
+{
+    FieldList head = {{0, type}};
+    if (const Handle handle = drawing.takeHandle(); !handle.isNull())
+        head.push_back({type == "DIMSTYLE"_L1 ? 105 : 5, handle});
+    if (hasOwners(drawing))
+        head.push_back({330, owner});
+    return head;
+}
+
+} // namespace host::drawing

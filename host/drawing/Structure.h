@@ -1,0 +1,31 @@
+#pragma once
+
+#include "host/drawing/Drawing.h"
+
+namespace host::drawing {
+
+/// The section's record, made in its proper place when the file lacks it.
+RecordId ensureSection(Drawing &drawing, Section section);
+
+/// Entities that programs outside the format's core brought (IMAGE, WIPEOUT, RTEXT) need a class record from R13 on.
+/// Does nothing for other types.
+void ensureClass(Drawing &drawing, const QString &type);
+
+/// Layers and registered applications that fields name (groups 8 and 1001) are made when missing.
+void ensureNamed(Drawing &drawing, const FieldList &fields);
+
+/// Whether records have subclass markers (group 100): from R13 on.
+inline bool hasMarkers(const Drawing &drawing)
+{
+    return drawing.version() >= Version::R13;
+}
+/// Whether records name their owner (group 330): from R2000 on.
+inline bool hasOwners(const Drawing &drawing)
+{
+    return drawing.version() >= Version::R2000;
+}
+
+/// Type, handle and owner: the start of a new record. The handle is a new one.
+FieldList recordHead(Drawing &drawing, const QString &type, Handle owner);
+
+} // namespace host::drawing
