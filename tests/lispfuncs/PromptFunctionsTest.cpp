@@ -1,6 +1,7 @@
 #include "lispfuncs/PromptFunctions.h"
 
 #include "tests/support/FakeHost.h"
+#include "tests/support/QtTestPrinters.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,0 +1,127 @@
+#include "module/CEdReactor.h"
+
+#include "module/DialogRegistry.h"
+#include "tests/support/FakeHost.h"
+#include "tests/support/QtTestPrinters.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using namespace Qt::StringLiterals;
+using ortakit::test::FakeDocument;
+using ortakit::test::FakeHost;
+
+qint64 now = 0;
+
+qint64 testClock()
+{
+    return now;
+}
+
+/// Two documents, the second one active; time stands an hour after the last activity of every record.
+class EditorReactor : public testing::Test
+{
+protected:
+    EditorReactor()
+    {
+        m_reactor.setClock(testClock);
+        now = hour;
+        for (FakeDocument *document : {m_first, m_active}) {
+            registry().append(document);
+            registry().records().back().editingTime.isTracked = true;
+        }
+    }
+    ~EditorReactor() override { registry().records().clear(); }
+
+    static DialogRegistry &registry() { return DialogRegistry::instance(); }
+    static double hours(size_t record) { return registry().records().at(record).editingTime.hours; }
+    static bool hasRecord(FakeDocument *document) { return document->fakeDatabase().getAt(u"KORA_TRACKTIME"_s); }
+
+    static constexpr qint64 hour = 3600 * 1000;
+    FakeHost m_host;
+    FakeDocument *m_first = &m_host.document();
+    FakeDocument *m_active = m_host.documents().open();
+    OdStaticRxObject<CEdReactor> m_reactor;
+};
+
+struct NotificationRow
+{
+    const char *name;
+    void (*notify)(CEdReactor &reactor);
+    bool counts;
+    bool saves;
+};
+
+const NotificationRow notificationRows[] = {
+    {"save", [](CEdReactor &reactor) { reactor.beginSave(nullptr, u"plan.dxf"_s); }, true, true},
+    {"command", [](CEdReactor &reactor) { reactor.commandWillStart(nullptr, nullptr); }, true, false},
+    {"Lisp", [](CEdReactor &reactor) { reactor.lispWillStart(nullptr, u"(foo)"_s); }, true, false},
+    {"variable", [](CEdReactor &reactor) { reactor.sysVarWillChange(nullptr, u"CLAYER"_s); }, true, false},
+    {"nameless variable", [](CEdReactor &reactor) { reactor.sysVarWillChange(nullptr, {}); }, true, false},
+    {"longer name", [](CEdReactor &reactor) { reactor.sysVarWillChange(nullptr, u"LASTPROMPT2"_s); }, true, false},
+    {"prompt", [](CEdReactor &reactor) { reactor.sysVarWillChange(nullptr, u"LASTPROMPT"_s); }, false, false},
+    {"prompt, lower case", [](CEdReactor &reactor) { reactor.sysVarWillChange(nullptr, u"lastprompt"_s); }, false,
+     false},
+    {"prompt, mixed", [](CEdReactor &reactor) { reactor.sysVarWillChange(nullptr, u"LastPrompt"_s); }, false, false},
+};
+
+TEST_F(EditorReactor, ActivityCountsForTheActiveDocument)
+{
+    double expected = 0;
+    bool written = false;
+    for (const NotificationRow &row : notificationRows) {
+        SCOPED_TRACE(row.name);
+        registry().records()[1].editingTime.lastActivity = now - hour;
+        row.notify(m_reactor);
+        expected += row.counts ? 1 : 0;
+        written = written || row.saves;
+        EXPECT_NEAR(hours(1), expected, 1e-9);
+        EXPECT_EQ(hours(0), 0);
+        EXPECT_EQ(hasRecord(m_active), written);
+        EXPECT_FALSE(hasRecord(m_first));
+    }
+}
+
+TEST_F(EditorReactor, UntrackedDocumentsAreLeftAlone)
+{
+    registry().records()[1].editingTime = {};
+    m_reactor.beginSave(nullptr, {});
+    EXPECT_EQ(hours(1), 0);
+    EXPECT_EQ(registry().records()[1].editingTime.lastActivity, 0);
+    EXPECT_FALSE(hasRecord(m_active));
+}
+
+TEST_F(EditorReactor, EveryRecordOfTheDocumentCounts)
+{
+    registry().append(m_active);
+    registry().records().back().editingTime.isTracked = true;
+    m_reactor.commandWillStart(nullptr, nullptr);
+    EXPECT_NEAR(hours(1), 1, 1e-9);
+    EXPECT_NEAR(hours(2), 1, 1e-9);
+}
+
+TEST_F(EditorReactor, NoDocumentNoActivity)
+{
+    m_host.documents().activate(nullptr);
+    m_reactor.beginSave(nullptr, {});
+    EXPECT_EQ(hours(0), 0);
+    EXPECT_EQ(hours(1), 0);
+}
+
+TEST_F(EditorReactor, CountsForAnyKindOfEditorReactor)
+{
+    m_reactor.addRef();
+    m_reactor.release();
+    m_reactor.release();
+    OdEditorReactor *added = &m_reactor;
+    auto *commands = dynamic_cast<OdEdCommandStackReactor *>(added);
+    auto *lisp = dynamic_cast<OdEdLispEngineReactor *>(added);
+    ASSERT_TRUE(commands && lisp);
+    commands->commandWillStart(nullptr, nullptr);
+    now += hour;
+    lisp->lispWillStart(nullptr, {});
+    EXPECT_NEAR(hours(1), 2, 1e-9);
+}
+
+} // namespace

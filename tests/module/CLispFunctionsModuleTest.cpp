@@ -1,0 +1,168 @@
+#include "module/CLispFunctionsModule.h"
+
+#include "module/DialogRegistry.h"
+#include "platform/rx/OdRxWin32Module.h"
+#include "tests/support/FakeHost.h"
+#include "tests/support/QtTestPrinters.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace {
+
+using namespace Qt::StringLiterals;
+using ortakit::test::FakeDocument;
+using ortakit::test::FakeEditor;
+using ortakit::test::FakeHost;
+using testing::ElementsAre;
+using testing::ElementsAreArray;
+using testing::IsEmpty;
+
+/// In the order in which Lisp programs and other hosts know them.
+const char *const functionNames[] = {
+    "Dlg_LispExplorer",        "Dlg_PatternHatch",  "Dlg_BreakLine",       "Dlg_getblockinfo",
+    "Dlg_edittextcase",        "Dlg_exportsetting", "Dlg_replaceblock",    "Dlg_replaceblocktoxref",
+    "Dlg_convertsimplesnotes", "Dlg_makelinestyle", "Dlg_imporAttributes", "Dlg_NumberText",
+    "Dlg_TextFrame",           "Dlg_TextMask",      "CreateRtext",         "Dlg_ExDimensionStyle",
+    "Dlg_ImDimensionStyle",    "Dlg_ShowLinks",     "Dlg_DrawOrderColor",  "Dlg_RedefinePaths",
+    "Dlg_MergeSheets",         "Dlg_ExportInfo",    "Dlg_EditAlias",       "Dlg_MakeShape",
+    "Dlg_MultiViewSetup",      "c:setbackupfolder", "KORA_entfield",       "KORA_ssget",
+    "KORA_getpoint",           "KORA_getstring",    "KORA_getkword",       "KORA_EntSel",
+    "KORA_IsItDemoVersion",    "KORA_ssget_filter", "initgetOrtakit",      "getPointOrtakit",
+    "getIntOrtakit",           "getKwordOrtakit",   "getStringOrtakit",    "getRealOrtakit",
+    "getDistOrtakit",          "getAngleOrtakit",   "getCornerOrtakit",    "acet-ss-drag-move",
+};
+
+const QStringList keptNames = {u"Dlg_PatternHatch"_s, u"Dlg_exportsetting"_s, u"c:setbackupfolder"_s};
+
+QStringList definedNames()
+{
+    QStringList names;
+    for (const char *name : functionNames)
+        names.append(QString::fromLatin1(name));
+    return names;
+}
+
+QStringList undefinedNames()
+{
+    QStringList names;
+    for (const QString &name : definedNames()) {
+        if (!keptNames.contains(name))
+            names.append(u'-' + name);
+    }
+    return names;
+}
+
+using ModuleObject = OdRxWin32Module<CLispFunctionsModule>;
+
+class Module : public testing::Test
+{
+protected:
+    ~Module() override
+    {
+        m_module->uninitApp();
+        m_module->deleteModule();
+    }
+
+    static std::vector<CKvDocument *> records()
+    {
+        std::vector<CKvDocument *> documents;
+        for (const DocumentDialogSet &record : DialogRegistry::instance().records())
+            documents.push_back(record.document());
+        return documents;
+    }
+
+    FakeHost m_host;
+    FakeDocument *m_first = &m_host.document();
+    OdRxModule *m_module = ModuleObject::instance(nullptr);
+};
+
+TEST_F(Module, OpenDocumentsGetTheFunctionsAndLoseThem)
+{
+    FakeDocument *second = m_host.documents().open();
+    m_module->initApp();
+    EXPECT_EQ(m_first->lisp().definitions(), definedNames());
+    EXPECT_EQ(second->lisp().definitions(), definedNames());
+    EXPECT_THAT(records(), ElementsAre(m_first, second));
+    EXPECT_EQ(m_host.documents().reactorCount(), 1);
+    EXPECT_EQ(m_host.editor().reactors().size(), 1);
+
+    m_module->uninitApp();
+    for (FakeDocument *document : {m_first, second}) {
+        EXPECT_EQ(document->lisp().definitions(), definedNames() + undefinedNames());
+        EXPECT_THAT(document->lisp().functions(),
+                    ElementsAre(u"c:setbackupfolder", u"dlg_exportsetting", u"dlg_patternhatch"));
+    }
+    EXPECT_THAT(records(), IsEmpty());
+    EXPECT_EQ(m_host.documents().reactorCount(), 0);
+    EXPECT_THAT(m_host.editor().reactors(), IsEmpty());
+}
+
+TEST_F(Module, DocumentsComeAndGo)
+{
+    m_module->initApp();
+    FakeDocument *second = m_host.documents().open();
+    FakeDocument *third = m_host.documents().open();
+    EXPECT_EQ(second->lisp().definitions(), definedNames());
+    EXPECT_THAT(records(), ElementsAre(m_first, second, third));
+    m_host.documents().close(second);
+    EXPECT_THAT(records(), ElementsAre(m_first, third));
+    m_module->uninitApp();
+    EXPECT_THAT(records(), IsEmpty());
+}
+
+TEST_F(Module, EnginesThatComeLateAreServedOnce)
+{
+    m_first->setHasLisp(false);
+    m_module->initApp();
+    EXPECT_THAT(records(), IsEmpty());
+    m_first->setHasLisp(true);
+    static_cast<CLispFunctionsModule *>(m_module)->LispDocumentReady(m_first);
+    EXPECT_EQ(m_first->lisp().definitions(), definedNames());
+    EXPECT_THAT(records(), ElementsAre(m_first));
+}
+
+TEST_F(Module, ClosingADocumentWithoutRecordUndefinesAllTheSame)
+{
+    m_module->initApp();
+    DialogRegistry::instance().remove(m_first);
+    m_module->uninitApp();
+    EXPECT_EQ(m_first->lisp().functions().size(), keptNames.size());
+}
+
+TEST_F(Module, HostsWithoutDocumentsGetTheEditorReactor)
+{
+    FakeEditor editor;
+    const host::kernel::Services before =
+        host::kernel::installServices({.system = nullptr, .help = nullptr, .editor = &editor});
+    m_module->initApp();
+    EXPECT_EQ(editor.reactors().size(), 1);
+    EXPECT_THAT(m_first->lisp().definitions(), IsEmpty());
+    m_module->uninitApp();
+    EXPECT_THAT(editor.reactors(), IsEmpty());
+    host::kernel::installServices(before);
+}
+
+TEST_F(Module, FunctionsThatAreNotBuiltSaySo)
+{
+    m_module->initApp();
+    EXPECT_EQ(m_first->lisp().call(u"kora_ssget"_s, {u"x"_s}), kRtError);
+    EXPECT_EQ(m_first->lisp().printed(), u"\nKORA_ssget is not available in this build.");
+    EXPECT_EQ(m_first->lisp().result(), u"");
+    m_first->lisp().clearPrinted();
+    EXPECT_EQ(m_first->lisp().call(u"acet-ss-drag-move"_s), kRtError);
+    EXPECT_EQ(m_first->lisp().printed(), u"\nacet-ss-drag-move is not available in this build.");
+}
+
+TEST_F(Module, IsOneObjectThatCountsReferences)
+{
+    EXPECT_EQ(ModuleObject::instance(this), m_module);
+    EXPECT_EQ(m_module->sysData(), nullptr);
+    EXPECT_EQ(m_module->numRefs(), 0);
+    m_module->addRef();
+    m_module->addRef();
+    m_module->release();
+    EXPECT_EQ(m_module->numRefs(), 1);
+}
+
+} // namespace

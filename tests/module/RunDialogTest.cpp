@@ -1,0 +1,338 @@
+#include "module/RunDialog.h"
+
+#include "module/DialogRegistry.h"
+#include "module/ExceptionGuard.h"
+#include "tests/module/SampleDialog.h"
+#include "tests/support/FakeHost.h"
+#include "tests/support/ModalAnswers.h"
+#include "tests/support/QtTestPrinters.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <stdexcept>
+
+namespace {
+
+using namespace Qt::StringLiterals;
+using namespace ortakit;
+using ortakit::test::FakeDocument;
+using ortakit::test::FakeHost;
+using ortakit::test::ModalAnswers;
+using ortakit::test::SampleDialog;
+using testing::IsEmpty;
+
+QStringList strings(const OdResBuf *chain)
+{
+    QStringList found;
+    for (const OdResBuf *link = chain; link; link = link->next()) {
+        if (link->restype() == OdResBuf::kRtString)
+            found.append(link->getString());
+    }
+    return found;
+}
+
+int plain()
+{
+    return runDialog<SampleDialog>(DialogSlot::BreakLine, {});
+}
+
+int listIn()
+{
+    return runDialog<SampleDialog>(
+        DialogSlot::RedefinePaths,
+        {.extraArguments = ExtraArguments::List,
+         .takeExtra = [](auto &dialog, const OdResBuf *rest) { dialog.entries = strings(rest); },
+         .giveResult = [](auto &dialog, auto &lisp) { lisp.returnString(dialog.entries.join(u',')); }});
+}
+
+int anyFirst()
+{
+    return runDialog<SampleDialog>(DialogSlot::MergeSheets, {.firstArgument = FirstArgument::Present});
+}
+
+int loadOnly()
+{
+    return runDialog<SampleDialog>(
+        DialogSlot::PatternHatch,
+        {.stateFile = StateFile::LoadOnly,
+         .extraArguments = ExtraArguments::OptionalSecond,
+         .takeExtra = [](auto &dialog, const OdResBuf *rest) { dialog.entries = strings(rest); },
+         .giveResult = [](auto &dialog, auto &lisp) { lisp.returnString(dialog.name->text()); }});
+}
+
+int refused()
+{
+    return runDialog<SampleDialog>(DialogSlot::PatternHatch, {.isRefused = [](CKvDocument &) { return true; }});
+}
+
+int twoTexts()
+{
+    return runDialog<SampleDialog>(
+        DialogSlot::ExportSettings,
+        {.stateFile = StateFile::None,
+         .extraArguments = ExtraArguments::RequiredSecond,
+         .takeFirst = [](auto &dialog, const OdResBuf *first) { dialog.name->setText(first->getString()); },
+         .takeExtra = [](auto &dialog, const OdResBuf *rest) { dialog.entries = {rest->getString()}; }});
+}
+
+int noResult()
+{
+    return runDialog<SampleDialog>(
+        DialogSlot::LispExplorer,
+        {.firstArgument = FirstArgument::Optional,
+         .stateFile = StateFile::None,
+         .extraArguments = ExtraArguments::OptionalSecond,
+         .takeFirst = [](auto &dialog, const OdResBuf *first) { dialog.entries = strings(first); },
+         .giveResult = [](auto &, auto &lisp) { lisp.print(u"accepted"_s); },
+         .giveRejection = [](auto &, auto &lisp) { lisp.print(u"rejected"_s); }});
+}
+
+constexpr std::pair<const char *, CKvLispEngine::Handler> functions[] = {
+    {"plain", guarded<plain>},       {"listIn", guarded<listIn>},   {"anyFirst", guarded<anyFirst>},
+    {"loadOnly", guarded<loadOnly>}, {"refused", guarded<refused>}, {"twoTexts", guarded<twoTexts>},
+    {"noResult", guarded<noResult>},
+};
+
+SampleDialog *sample(QWidget *window)
+{
+    return dynamic_cast<SampleDialog *>(window);
+}
+
+class RunDialog : public testing::Test
+{
+protected:
+    RunDialog() { addDocument(m_host.document()); }
+    ~RunDialog() override { DialogRegistry::instance().records().clear(); }
+
+    static void addDocument(FakeDocument &document)
+    {
+        for (const auto &[name, handler] : functions)
+            document.lisp().defineFunction(QString::fromLatin1(name), handler);
+        DialogRegistry::instance().append(&document);
+    }
+
+    /// The user finds the field's text, puts `text` into it and accepts.
+    void userAccepts(const QString &text)
+    {
+        m_user.drive([this, text](QWidget *window) {
+            m_found.append(sample(window)->name->text());
+            m_dialogs.append(sample(window));
+            sample(window)->name->setText(text);
+            sample(window)->accept();
+        });
+    }
+
+    /// The user changes the field and cancels.
+    void userCancels()
+    {
+        m_user.drive([](QWidget *window) {
+            sample(window)->name->setText(u"thrown away"_s);
+            sample(window)->reject();
+        });
+    }
+
+    int call(const QString &name, const QVariantList &arguments) { return lisp().call(name, arguments); }
+    test::FakeLispEngine &lisp() { return m_host.document().lisp(); }
+    QString stateFile(const QByteArray &content) { return m_host.writeFile(u"state.txt"_s, content); }
+
+    FakeHost m_host;
+    ModalAnswers m_user;
+    /// What the user found in the field, and the dialogs that were shown.
+    QStringList m_found;
+    QList<SampleDialog *> m_dialogs;
+};
+
+TEST_F(RunDialog, AcceptingSavesAndGivesT)
+{
+    const QString path = stateFile("name=door\n");
+    userAccepts(u"gate"_s);
+    EXPECT_EQ(call(u"plain"_s, {path}), kRtNormal);
+    EXPECT_EQ(lisp().result(), u"T");
+    EXPECT_EQ(lisp().releasedArguments(), 1);
+    EXPECT_EQ(m_found, QStringList{u"door"_s});
+    EXPECT_EQ(FakeHost::readFile(path), "\xEF\xBB\xBFname=gate\n!action!=\n");
+}
+
+TEST_F(RunDialog, CancellingLeavesTheFileAndGivesNil)
+{
+    const QByteArray content = "\xEF\xBB\xBFname=door\r\nsomething else\n!action!=OK";
+    const QString path = stateFile(content);
+    userCancels();
+    EXPECT_EQ(call(u"plain"_s, {path}), kRtNormal);
+    EXPECT_EQ(lisp().result(), u"nil");
+    EXPECT_EQ(FakeHost::readFile(path), content);
+}
+
+TEST_F(RunDialog, TheSameDialogComesBackWithItsValues)
+{
+    userAccepts(u"gate"_s);
+    userAccepts(u"fence"_s);
+    call(u"plain"_s, {stateFile("name=door\n")});
+    call(u"plain"_s, {m_host.path(u"none.txt"_s)});
+    ASSERT_EQ(m_dialogs.size(), 2);
+    EXPECT_EQ(m_dialogs[0], m_dialogs[1]);
+    EXPECT_EQ(m_found, (QStringList{u"door"_s, u"door"_s}));
+    EXPECT_EQ(lisp().result(), u"T");
+}
+
+TEST_F(RunDialog, EachDocumentHasItsOwn)
+{
+    userAccepts(u"gate"_s);
+    call(u"plain"_s, {stateFile("name=door\n")});
+    addDocument(*m_host.documents().open());
+    userAccepts(u"fence"_s);
+    call(u"plain"_s, {m_host.path(u"none.txt"_s)});
+    ASSERT_EQ(m_dialogs.size(), 2);
+    EXPECT_NE(m_dialogs[0], m_dialogs[1]);
+    EXPECT_EQ(m_found, (QStringList{u"door"_s, u""_s}));
+    EXPECT_EQ(m_dialogs[0]->name->text(), u"gate");
+}
+
+struct ArgumentRow
+{
+    const char *name;
+    QString function;
+    QVariantList arguments;
+    int code;
+    int released;
+};
+
+const std::vector<ArgumentRow> argumentRows = {
+    {"nothing", u"plain"_s, {}, kRtError, -1},
+    {"an integer", u"plain"_s, {3}, kRtError, -1},
+    {"nil before a string", u"plain"_s, {QVariant(), u"x"_s}, kRtError, -1},
+    {"more than wanted", u"plain"_s, {u"x"_s, u"y"_s, 3}, kRtNormal, 3},
+    {"present: nothing", u"anyFirst"_s, {}, kRtError, -1},
+    {"present: an integer", u"anyFirst"_s, {3}, kRtNormal, 1},
+    {"list: nothing goes early", u"listIn"_s, {u"x"_s, u"a"_s, 3}, kRtNormal, -1},
+    {"second string", u"loadOnly"_s, {u"x"_s, u"a"_s, u"b"_s}, kRtNormal, 2},
+    {"second string missing", u"loadOnly"_s, {u"x"_s}, kRtNormal, 1},
+    {"required second missing", u"twoTexts"_s, {u"x"_s}, kRtError, -1},
+    {"required second, first wrong", u"twoTexts"_s, {1, u"x"_s}, kRtError, -1},
+    {"required second", u"twoTexts"_s, {u"x"_s, u"y"_s}, kRtNormal, 1},
+    {"optional: nothing", u"noResult"_s, {}, kRtNormal, -1},
+    {"optional: an integer", u"noResult"_s, {3}, kRtNormal, 1},
+};
+
+TEST_F(RunDialog, ArgumentsAreChecked)
+{
+    for (const ArgumentRow &row : argumentRows) {
+        SCOPED_TRACE(row.name);
+        const auto shownBefore = m_user.shown().size();
+        EXPECT_EQ(call(row.function, row.arguments), row.code);
+        EXPECT_EQ(m_user.shown().size() - shownBefore, row.code == kRtNormal ? 1 : 0);
+        EXPECT_EQ(lisp().releasedArguments(), row.released);
+        EXPECT_EQ(lisp().result(), row.code == kRtNormal && row.function != u"noResult" ? u"nil" : u"");
+    }
+}
+
+TEST_F(RunDialog, ExtraArgumentsGoInAndSpecialResultsComeBack)
+{
+    const QString path = stateFile("name=door\n");
+    for (int times = 0; times < 2; ++times) {
+        userAccepts(u"gate"_s);
+        EXPECT_EQ(call(u"listIn"_s, {path, u"a"_s, 7, u"b"_s}), kRtNormal);
+        EXPECT_EQ(lisp().result(), u"\"a,b\"");
+    }
+    EXPECT_THAT(FakeHost::readFile(path).toStdString(), testing::HasSubstr("name=gate"));
+}
+
+TEST_F(RunDialog, SomeOnlyLoad)
+{
+    const QString path = stateFile("name=door\n");
+    userAccepts(u"gate"_s);
+    EXPECT_EQ(call(u"loadOnly"_s, {path, u"a"_s}), kRtNormal);
+    EXPECT_EQ(m_found, QStringList{u"door"_s});
+    EXPECT_EQ(lisp().result(), u"\"gate\"");
+    EXPECT_EQ(FakeHost::readFile(path), "name=door\n");
+}
+
+TEST_F(RunDialog, SomeHaveNoStateFile)
+{
+    const QString path = stateFile("name=door\n");
+    userAccepts(u"gate"_s);
+    EXPECT_EQ(call(u"twoTexts"_s, {path, u"a"_s}), kRtNormal);
+    EXPECT_EQ(m_found, QStringList{path});
+    EXPECT_EQ(lisp().result(), u"T");
+    EXPECT_EQ(FakeHost::readFile(path), "name=door\n");
+}
+
+TEST_F(RunDialog, SomeSetNoResult)
+{
+    userAccepts({});
+    call(u"noResult"_s, {});
+    userCancels();
+    call(u"noResult"_s, {});
+    EXPECT_EQ(lisp().printed(), u"acceptedrejected");
+    EXPECT_EQ(lisp().result(), u"");
+}
+
+TEST_F(RunDialog, RefusalGivesNilAtOnce)
+{
+    EXPECT_EQ(call(u"refused"_s, {u"x"_s}), kRtNormal);
+    EXPECT_EQ(lisp().result(), u"nil");
+    EXPECT_THAT(m_user.shown(), IsEmpty());
+}
+
+TEST_F(RunDialog, WithoutARecordItIsAnError)
+{
+    DialogRegistry::instance().remove(&m_host.document());
+    EXPECT_EQ(call(u"plain"_s, {u"x"_s}), kRtError);
+    EXPECT_EQ(lisp().result(), u"");
+    m_host.documents().activate(nullptr);
+    EXPECT_EQ(plain(), kRtError);
+    EXPECT_THAT(m_user.shown(), IsEmpty());
+}
+
+TEST_F(RunDialog, DialogsAreChildrenOfTheMainWindow)
+{
+    QWidget window;
+    m_host.setMainWindow(&window);
+    m_user.drive([&window](QWidget *shown) {
+        EXPECT_EQ(shown->parentWidget(), &window);
+        EXPECT_TRUE(shown->isModal());
+        shown->close();
+    });
+    call(u"plain"_s, {u"x"_s});
+    EXPECT_TRUE(m_user.isDone());
+    DialogRegistry::instance().remove(&m_host.document());
+}
+
+TEST_F(RunDialog, ADialogDestroyedWhileItRunsGivesNoResult)
+{
+    m_user.drive([](QWidget *window) { delete window; });
+    EXPECT_EQ(call(u"plain"_s, {u"x"_s}), kRtNormal);
+    EXPECT_EQ(lisp().result(), u"");
+    userAccepts({});
+    EXPECT_EQ(call(u"plain"_s, {u"x"_s}), kRtNormal);
+    EXPECT_EQ(lisp().result(), u"T");
+}
+
+TEST_F(RunDialog, ClosingTheDocumentEndsTheRun)
+{
+    FakeDocument *second = m_host.documents().open();
+    addDocument(*second);
+    const int alive = SampleDialog::alive;
+    m_user.drive([&](QWidget *) {
+        DialogRegistry::instance().remove(second);
+        second->setHasLisp(false);
+        m_host.documents().close(second);
+    });
+    // Without the fake engine's call(), which would go on with the engine that is destroyed under it.
+    EXPECT_EQ(noResult(), kRtNormal);
+    EXPECT_EQ(SampleDialog::alive, alive);
+    EXPECT_EQ(DialogRegistry::instance().records().size(), 1u);
+}
+
+int failing()
+{
+    throw std::runtime_error("out of something");
+}
+
+TEST_F(RunDialog, ExceptionsBecomeErrors)
+{
+    lisp().defineFunction(u"failing"_s, guarded<failing>);
+    EXPECT_EQ(call(u"failing"_s, {}), kRtError);
+}
+
+} // namespace
