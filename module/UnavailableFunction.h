@@ -11,7 +11,7 @@ namespace ortakit {
 template <std::size_t length>
 struct LispName
 {
-    // NOLINTNEXTLINE: a literal in a template argument list converts
+    // Not explicit: a literal in a template argument list converts.
     constexpr LispName(const char (&literal)[length]) { std::copy_n(literal, length, text); }
 
     constexpr QLatin1StringView view() const { return {text, qsizetype(length) - 1}; }
