@@ -1,0 +1,270 @@
+#include "host/app/BatchRuns.h"
+
+#include "host/app/DrawingPicture.h"
+#include "host/app/ProgramOutput.h"
+#include "host/app/SessionPlayer.h"
+#include "host/app/UnattendedFeeder.h"
+#include "host/app/Workbench.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSet>
+#include <QWidget>
+
+using namespace Qt::StringLiterals;
+
+namespace host::app {
+
+namespace {
+
+WorkbenchOptions workbenchOptions(const ProgramOptions &options)
+{
+    return {.home = options.home, .module = options.module, .tools = options.tools};
+}
+
+/// Tells the problems from `told` on.
+void tellProblems(const Workbench &workbench, qsizetype &told)
+{
+    for (; told < workbench.problems().size(); ++told)
+        writeMessage(workbench.problems()[told]);
+}
+
+QString native(const QString &path)
+{
+    return QDir::toNativeSeparators(path);
+}
+
+/// One session over several drawings.
+class SessionBatch
+{
+public:
+    explicit SessionBatch(const ProgramOptions &options) : m_options(options) {}
+
+    int run();
+
+private:
+    bool prepareFolders();
+    bool hasClashingNames() const;
+    int runOne(Workbench &workbench, const QString &path);
+    int playOn(kernel::Document &document, const QString &path);
+    int writeOutcome(kernel::Document &document, const QString &path, const QStringList &written);
+    QString picturePath(const QString &drawing) const;
+
+    const ProgramOptions &m_options;
+    PlaybackScript m_script;
+    qsizetype m_told = 0;
+};
+
+bool makeFolder(const QString &folder)
+{
+    if (folder.isEmpty() || QDir().mkpath(folder))
+        return true;
+    writeMessage(u"%1: the folder cannot be made"_s.arg(native(folder)));
+    return false;
+}
+
+bool SessionBatch::prepareFolders()
+{
+    return makeFolder(m_options.outFolder) && makeFolder(m_options.pictureFolder);
+}
+
+/// Whether results of two drawings would go to the same file.
+bool SessionBatch::hasClashingNames() const
+{
+    if (m_options.outFolder.isEmpty() && m_options.pictureFolder.isEmpty())
+        return false;
+    QSet<QString> names;
+    for (const QString &path : m_options.drawings) {
+        const QString name = QFileInfo(path).completeBaseName().toLower();
+        if (names.contains(name)) {
+            writeMessage(u"two of the drawings are named %1: their results would have the same name"_s.arg(name));
+            return true;
+        }
+        names.insert(name);
+    }
+    return false;
+}
+
+int SessionBatch::run()
+{
+    m_script = readPlayback(m_options.session);
+    for (const ScriptError &error : m_script.errors)
+        writeMessage(error.line > 0 ? u"%1:%2: %3"_s.arg(native(m_options.session)).arg(error.line).arg(error.message)
+                                    : error.message);
+    if (!m_script.errors.isEmpty())
+        return m_script.errors.first().line > 0 ? ExitFailed : ExitFileError;
+    if (hasClashingNames())
+        return ExitUsage;
+    if (!prepareFolders())
+        return ExitFileError;
+    QWidget parentOfDialogs;
+    Workbench workbench(workbenchOptions(m_options), &parentOfDialogs);
+    QList<int> statuses;
+    for (const QString &path : m_options.drawings)
+        statuses.append(runOne(workbench, path));
+    const auto failed = statuses.size() - statuses.count(ExitDone);
+    if (failed == 0)
+        return ExitDone;
+    if (failed < statuses.size())
+        return ExitPartly;
+    return statuses.contains(ExitFailed) ? ExitFailed : ExitFileError;
+}
+
+/// The tools that a drawing loads when it opens have nobody to ask either.
+kernel::OpenOutcome openUnattended(Workbench &workbench, const QString &path)
+{
+    UnattendedFeeder nobody;
+    workbench.session().setFeeder(&nobody);
+    const kernel::OpenOutcome opened = workbench.documents().open(path);
+    workbench.session().setFeeder(nullptr);
+    return opened;
+}
+
+int SessionBatch::runOne(Workbench &workbench, const QString &path)
+{
+    const kernel::OpenOutcome opened = openUnattended(workbench, path);
+    tellProblems(workbench, m_told);
+    if (!opened) {
+        writeMessage(opened.error);
+        writeResult(u"%1: not read\n"_s.arg(native(path)));
+        return ExitFileError;
+    }
+    const int status = playOn(*opened.document, path);
+    workbench.documents().close(opened.document);
+    return status;
+}
+
+int SessionBatch::playOn(kernel::Document &document, const QString &path)
+{
+    PlaybackOptions playback;
+    playback.variables.insert(u"SESSION_DIR"_s, QFileInfo(m_options.session).absolutePath());
+    if (!m_options.outFolder.isEmpty())
+        playback.outFolder = QFileInfo(m_options.outFolder).absoluteFilePath();
+    if (!m_options.pictureFolder.isEmpty())
+        playback.pictureFolder = QFileInfo(m_options.pictureFolder).absoluteFilePath();
+    playback.timeLimit = m_options.timeLimit;
+    const PlaybackResult result = runSession(m_script, document, playback);
+    if (!result.ok) {
+        writeMessage(u"%1: %2: %3"_s.arg(native(path), native(m_options.session), result.message));
+        writeResult(u"%1: failed\n"_s.arg(native(path)));
+        return ExitFailed;
+    }
+    return writeOutcome(document, path, result.files);
+}
+
+QString SessionBatch::picturePath(const QString &drawing) const
+{
+    const QFileInfo file(drawing);
+    const QString folder = !m_options.pictureFolder.isEmpty() ? m_options.pictureFolder
+                           : !m_options.outFolder.isEmpty()   ? m_options.outFolder
+                                                              : file.path();
+    return QDir(folder).filePath(file.completeBaseName() + u".png"_s);
+}
+
+int SessionBatch::writeOutcome(kernel::Document &document, const QString &path, const QStringList &written)
+{
+    QStringList files;
+    for (const QString &file : written)
+        files.append(native(file));
+    QString error;
+    if (!m_options.outFolder.isEmpty() && document.isModified()) {
+        const QString target = QDir(m_options.outFolder).filePath(QFileInfo(path).completeBaseName() + u".dxf"_s);
+        error = drawing::saveCopy(document.drawing(), target).error;
+        files.append(native(target));
+    }
+    if (error.isEmpty() && m_options.withPictures) {
+        error = writeDrawingPicture(document.drawing(), picturePath(path));
+        files.append(native(picturePath(path)));
+    }
+    if (!error.isEmpty()) {
+        writeMessage(error);
+        writeResult(u"%1: not written\n"_s.arg(native(path)));
+        return ExitFileError;
+    }
+    writeResult(files.isEmpty() ? u"%1: done\n"_s.arg(native(path))
+                                : u"%1: done, %2\n"_s.arg(native(path), files.join(", "_L1)));
+    return ExitDone;
+}
+
+kernel::RunResult loadLisp(kernel::Document &document, const QString &file)
+{
+    if (file != "-"_L1)
+        return document.loadLisp(file);
+    QFile input;
+    if (!input.open(stdin, QIODevice::ReadOnly))
+        return {.ok = false, .value = {}, .error = input.errorString(), .report = {}};
+    return document.run(QString::fromUtf8(input.readAll()), u"standard input"_s);
+}
+
+bool isReadable(const QString &file)
+{
+    QFile probe(file);
+    if (file == "-"_L1 || (!QFileInfo(file).isDir() && probe.open(QIODevice::ReadOnly)))
+        return true;
+    writeMessage(u"%1: the file cannot be read"_s.arg(native(file)));
+    return false;
+}
+
+} // namespace
+
+int runSessions(const ProgramOptions &options)
+{
+    return SessionBatch(options).run();
+}
+
+int runLispFiles(const ProgramOptions &options)
+{
+    if (!std::all_of(options.lispFiles.begin(), options.lispFiles.end(), isReadable))
+        return ExitFileError;
+    Workbench workbench(workbenchOptions(options));
+    UnattendedFeeder nobody;
+    workbench.session().setFeeder(&nobody);
+    kernel::Document *document = nullptr;
+    if (options.drawing.isEmpty()) {
+        document = workbench.documents().create();
+    } else if (const auto opened = workbench.documents().open(options.drawing)) {
+        document = opened.document;
+    } else {
+        writeMessage(opened.error);
+        return ExitFileError;
+    }
+    qsizetype told = 0;
+    tellProblems(workbench, told);
+    QObject::connect(document, &kernel::Document::printed, document, writeResult);
+    int status = ExitDone;
+    for (const QString &file : options.lispFiles) {
+        const kernel::RunResult result = loadLisp(*document, file);
+        if (result.ok && nobody.problem().isEmpty())
+            continue;
+        writeMessage(native(file) + u": "_s + (nobody.problem().isEmpty() ? result.report : nobody.problem()));
+        status = ExitFailed;
+        break;
+    }
+    workbench.session().setFeeder(nullptr);
+    return status;
+}
+
+int convertDrawing(const ProgramOptions &options)
+{
+    const QString extension = QFileInfo(options.output).suffix().toLower();
+    const bool isPicture = pictureExtensions().contains(extension);
+    if (!isPicture && extension != "dxf"_L1) {
+        writeMessage(
+            u"%1: the extension must be dxf, %2"_s.arg(native(options.output), pictureExtensions().join(", "_L1)));
+        return ExitUsage;
+    }
+    const drawing::ReadResult read = drawing::Drawing::open(options.input);
+    if (!read) {
+        writeMessage(native(options.input) + u": "_s + read.error.message());
+        return ExitFileError;
+    }
+    const QString error = isPicture ? writeDrawingPicture(*read.drawing, options.output)
+                                    : drawing::saveCopy(*read.drawing, options.output).error;
+    if (error.isEmpty())
+        return ExitDone;
+    writeMessage(error);
+    return ExitFileError;
+}
+
+} // namespace host::app

@@ -1,0 +1,42 @@
+#include "host/app/DrawingPicture.h"
+
+#include "host/view/Export.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QPixmap>
+#include <QSaveFile>
+#include <QWidget>
+
+using namespace Qt::StringLiterals;
+
+namespace host::app {
+
+QString writeDrawingPicture(const drawing::Drawing &drawing, const QString &path)
+{
+    const QString extension = QFileInfo(path).suffix().toLower();
+    view::ExportOptions options;
+    if (extension == "svg"_L1)
+        return view::exportSvg(drawing, path, options).error;
+    if (extension == "pdf"_L1)
+        return view::exportPdf(drawing, path, options).error;
+    if (extension == "png"_L1)
+        return view::exportPng(drawing, path, options).error;
+    return u"%1: the extension must be %2"_s.arg(QDir::toNativeSeparators(path), pictureExtensions().join(", "_L1));
+}
+
+QString writeWidgetPicture(QWidget &widget, const QString &path)
+{
+    QSaveFile file(path);
+    const bool isWritten = file.open(QIODevice::WriteOnly) && widget.grab().save(&file, "PNG") && file.commit();
+    return isWritten
+               ? QString()
+               : u"%1: the picture cannot be written: %2"_s.arg(QDir::toNativeSeparators(path), file.errorString());
+}
+
+QStringList pictureExtensions()
+{
+    return {u"png"_s, u"svg"_s, u"pdf"_s};
+}
+
+} // namespace host::app

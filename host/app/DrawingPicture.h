@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+class QWidget;
+
+namespace host::drawing {
+class Drawing;
+}
+
+namespace host::app {
+
+// Each returns a sentence that names the file when it could not be written, empty when it was. A file is written whole
+// or not at all.
+
+/// The whole drawing as a picture: PNG, SVG or PDF by the extension of `path`.
+QString writeDrawingPicture(const drawing::Drawing &drawing, const QString &path);
+
+/// What the widget looks like now, as PNG.
+QString writeWidgetPicture(QWidget &widget, const QString &path);
+
+/// The extensions that writeDrawingPicture() takes, lower case, without dots.
+QStringList pictureExtensions();
+
+} // namespace host::app

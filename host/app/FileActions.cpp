@@ -1,0 +1,97 @@
+#include "host/app/FileActions.h"
+
+#include "host/app/DrawingPicture.h"
+
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QMessageBox>
+
+using namespace Qt::StringLiterals;
+
+namespace host::app {
+
+QString FileActions::startFolder(const kernel::Document *document) const
+{
+    return document && !document->path().isEmpty() ? QFileInfo(document->path()).absolutePath() : QDir::currentPath();
+}
+
+void FileActions::complain(const QString &text)
+{
+    QMessageBox box(QMessageBox::Warning, u"Ortakit"_s, text, QMessageBox::Ok, &m_window);
+    box.setTextFormat(Qt::PlainText);
+    box.exec();
+}
+
+void FileActions::open()
+{
+    const QStringList paths =
+        QFileDialog::getOpenFileNames(&m_window, tr("Open drawings"), startFolder(m_workbench.documents().active()),
+                                      tr("Drawings (*.dxf *.dwg);;All files (*)"));
+    for (const QString &path : paths)
+        openFile(path);
+}
+
+kernel::Document *FileActions::openFile(const QString &path)
+{
+    const kernel::OpenOutcome outcome = m_workbench.documents().open(QFileInfo(path).absoluteFilePath());
+    if (!outcome)
+        complain(outcome.error);
+    return outcome.document;
+}
+
+bool FileActions::save(kernel::Document &document)
+{
+    if (document.path().isEmpty())
+        return saveAs(document);
+    const drawing::SaveResult result = document.save();
+    if (!result)
+        complain(result.error);
+    return bool(result);
+}
+
+bool FileActions::saveAs(kernel::Document &document)
+{
+    const QString proposal =
+        QDir(startFolder(&document)).filePath(QFileInfo(document.title()).completeBaseName() + u".dxf"_s);
+    QString path = QFileDialog::getSaveFileName(&m_window, tr("Save drawing"), proposal, tr("DXF drawings (*.dxf)"));
+    if (path.isEmpty())
+        return false;
+    if (QFileInfo(path).suffix().isEmpty())
+        path += u".dxf"_s;
+    const drawing::SaveResult result = document.saveAs(path);
+    if (!result)
+        complain(result.error);
+    return bool(result);
+}
+
+void FileActions::exportPicture(kernel::Document &document, const QString &extension)
+{
+    const QString proposal =
+        QDir(startFolder(&document)).filePath(QFileInfo(document.title()).completeBaseName() + u'.' + extension);
+    QString path = QFileDialog::getSaveFileName(&m_window, tr("Export picture"), proposal,
+                                                tr("%1 pictures (*.%2)").arg(extension.toUpper(), extension));
+    if (path.isEmpty())
+        return;
+    if (QFileInfo(path).suffix().toLower() != extension)
+        path += u'.' + extension;
+    if (const QString error = writeDrawingPicture(document.drawing(), path); !error.isEmpty())
+        complain(error);
+    else
+        document.print(tr("\nWritten: %1\n").arg(QDir::toNativeSeparators(path)));
+}
+
+FileActions::Answer FileActions::askToSave(kernel::Document &document)
+{
+    if (!document.isModified())
+        return Answer::GoOn;
+    QMessageBox box(QMessageBox::Question, u"Ortakit"_s, tr("%1 was changed. Save it?").arg(document.title()),
+                    QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel, &m_window);
+    box.setTextFormat(Qt::PlainText);
+    const int button = box.exec();
+    if (button == QMessageBox::No)
+        return Answer::GoOn;
+    return button == QMessageBox::Yes && save(document) ? Answer::GoOn : Answer::Stay;
+}
+
+} // namespace host::app

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "host/app/Workbench.h"
+
+#include <QCoreApplication>
+
+class QWidget;
+
+namespace host::app {
+
+/// What the File menu does, with its dialogs and messages. Outcomes that a person must know are told in a message box.
+class FileActions
+{
+    Q_DECLARE_TR_FUNCTIONS(FileActions)
+
+public:
+    enum class Answer
+    {
+        GoOn,
+        Stay
+    };
+
+    FileActions(Workbench &workbench, QWidget &window) : m_workbench(workbench), m_window(window) {}
+
+    /// Asks for drawings and opens them.
+    void open();
+    /// Null when it could not be opened.
+    kernel::Document *openFile(const QString &path);
+    /// Under its own name, or asking for one when it has none. False when it was not saved.
+    bool save(kernel::Document &document);
+    bool saveAs(kernel::Document &document);
+    /// Asks for a file and writes the drawing as png, svg or pdf there.
+    void exportPicture(kernel::Document &document, const QString &extension);
+    /// Of a changed drawing, whether to save it; saves it on Yes.
+    Answer askToSave(kernel::Document &document);
+
+private:
+    QString startFolder(const kernel::Document *document) const;
+    void complain(const QString &text);
+
+    Workbench &m_workbench;
+    QWidget &m_window;
+};
+
+} // namespace host::app

@@ -1,0 +1,409 @@
+#include "host/app/MainWindow.h"
+
+#include "host/app/CommandLine.h"
+#include "host/app/DrawingCanvas.h"
+#include "host/app/WindowFeeder.h"
+#include "host/drawing/HeaderVariables.h"
+
+#include <QCloseEvent>
+#include <QDockWidget>
+#include <QDragEnterEvent>
+#include <QFileInfo>
+#include <QLabel>
+#include <QMimeData>
+#include <QStatusBar>
+#include <QTabBar>
+#include <QTabWidget>
+
+using namespace Qt::StringLiterals;
+
+namespace host::app {
+
+namespace {
+
+/// Counting what cannot be drawn looks at every record: not while someone is at it.
+constexpr int reportDelay = 150;
+
+QString versionName(drawing::Version version)
+{
+    using drawing::Version;
+    switch (version) {
+    case Version::R12:
+        return u"R12"_s;
+    case Version::R13:
+        return u"R13"_s;
+    case Version::R14:
+        return u"R14"_s;
+    case Version::R2000:
+        return u"2000"_s;
+    case Version::R2004:
+        return u"2004"_s;
+    case Version::R2007:
+        return u"2007"_s;
+    case Version::R2010:
+        return u"2010"_s;
+    case Version::R2013:
+        return u"2013"_s;
+    case Version::R2018:
+        return u"2018"_s;
+    }
+    return QString::number(static_cast<int>(version));
+}
+
+QStringList localFiles(const QMimeData &data)
+{
+    QStringList paths;
+    for (const QUrl &url : data.urls())
+        if (url.isLocalFile())
+            paths.append(url.toLocalFile());
+    return paths;
+}
+
+} // namespace
+
+MainWindow::MainWindow(const WorkbenchOptions &options)
+    : m_workbench(std::make_unique<Workbench>(options, this)),
+      m_feeder(std::make_unique<WindowFeeder>(m_workbench->session().input())), m_files(*m_workbench, *this),
+      m_tabs(new QTabWidget(this)), m_commandLine(new CommandLine(this)),
+      m_commandDock(new QDockWidget(tr("Command line"), this)), m_coordinates(new QLabel(this)),
+      m_status(new QLabel(this)), m_notDrawn(new QLabel(this))
+{
+    setObjectName(u"mainWindow"_s);
+    resize(1280, 800);
+    setAcceptDrops(true);
+    m_tabs->setDocumentMode(true);
+    m_tabs->setTabsClosable(true);
+    m_tabs->setFocusPolicy(Qt::NoFocus);
+    setCentralWidget(m_tabs);
+    m_commandDock->setObjectName(u"commandDock"_s);
+    m_commandDock->setWidget(m_commandLine);
+    m_commandDock->setFeatures(QDockWidget::DockWidgetMovable | QDockWidget::DockWidgetFloatable);
+    addDockWidget(Qt::BottomDockWidgetArea, m_commandDock);
+    resizeDocks({m_commandDock}, {150}, Qt::Vertical);
+    buildMenus();
+    buildStatusBar();
+    connectCommandLine();
+
+    m_workbench->session().setFeeder(m_feeder.get());
+    connect(m_feeder.get(), &WindowFeeder::requestChanged, this, &MainWindow::requestChanged);
+    connect(m_tabs, &QTabWidget::currentChanged, this, &MainWindow::activateTab);
+    connect(m_tabs, &QTabWidget::tabCloseRequested, this, &MainWindow::closeTab);
+    kernel::DocumentManager &documents = m_workbench->documents();
+    connect(&documents, &kernel::DocumentManager::opened, this, &MainWindow::addTab);
+    connect(&documents, &kernel::DocumentManager::aboutToClose, this, &MainWindow::removeTab);
+    connect(&documents, &kernel::DocumentManager::activeChanged, this, &MainWindow::showActive);
+    m_reportTimer.setSingleShot(true);
+    m_reportTimer.setInterval(reportDelay);
+    connect(&m_reportTimer, &QTimer::timeout, this, &MainWindow::updateReport);
+    for (const QString &problem : m_workbench->problems())
+        m_commandLine->print(problem + u'\n');
+    m_commandLine->setFocus();
+    updateState();
+}
+
+MainWindow::~MainWindow()
+{
+    m_workbench->session().setFeeder(nullptr);
+    // The canvases look at drawings that go with the workbench, and are removed by its signals.
+    m_workbench.reset();
+}
+
+void MainWindow::buildStatusBar()
+{
+    m_coordinates->setObjectName(u"coordinates"_s);
+    m_coordinates->setMinimumWidth(fontMetrics().horizontalAdvance(u"-000000.0000, -000000.0000"_s));
+    m_status->setObjectName(u"drawingStatus"_s);
+    m_notDrawn->setObjectName(u"notDrawn"_s);
+    statusBar()->addWidget(m_coordinates);
+    statusBar()->addWidget(m_status, 1);
+    statusBar()->addPermanentWidget(m_notDrawn);
+}
+
+void MainWindow::connectCommandLine()
+{
+    connect(m_commandLine, &CommandLine::entered, this, &MainWindow::enter);
+    connect(m_commandLine, &CommandLine::optionPicked, this,
+            [this](const QString &option) { answer(kernel::TextAnswer{option}); });
+    connect(m_commandLine, &CommandLine::cancelled, this, &MainWindow::cancel);
+}
+
+DrawingCanvas *MainWindow::canvas() const
+{
+    return qobject_cast<DrawingCanvas *>(m_tabs->currentWidget());
+}
+
+kernel::Document *MainWindow::document() const
+{
+    return m_workbench->documents().active();
+}
+
+void MainWindow::start(const QStringList &drawings)
+{
+    for (const QString &path : drawings)
+        m_files.openFile(path);
+    if (m_tabs->count() == 0)
+        m_workbench->documents().create();
+}
+
+// Tabs
+
+void MainWindow::addTab(kernel::Document *document)
+{
+    auto *canvas = new DrawingCanvas(*document);
+    canvas->setGround(m_ground);
+    connect(canvas, &DrawingCanvas::answered, this, &MainWindow::answer);
+    connect(canvas, &DrawingCanvas::enterPressed, this, [this] { enter({}); });
+    connect(canvas, &DrawingCanvas::keyPressed, this, [this](QKeyEvent *event) {
+        if (m_commandLine->takeKey(event))
+            event->accept();
+    });
+    connect(canvas, &DrawingCanvas::pointerMoved, this, [this](const drawing::Vec2 &point) {
+        m_coordinates->setText(u"%1, %2"_s.arg(point.x, 0, 'f', 4).arg(point.y, 0, 'f', 4));
+    });
+    connect(document, &kernel::Document::printed, m_commandLine, &CommandLine::print);
+    connect(document, &kernel::Document::titleChanged, this, &MainWindow::updateTitles);
+    connect(document, &kernel::Document::runEnded, this, &MainWindow::updateState);
+    const int index = m_tabs->addTab(canvas, document->title());
+    m_tabs->setCurrentIndex(index);
+    canvas->zoomExtents();
+    updateTitles();
+}
+
+int MainWindow::tabOf(const kernel::Document *document) const
+{
+    for (int i = 0; i < m_tabs->count(); ++i)
+        if (&static_cast<DrawingCanvas *>(m_tabs->widget(i))->document() == document)
+            return i;
+    return -1;
+}
+
+void MainWindow::removeTab(kernel::Document *document)
+{
+    const int index = tabOf(document);
+    if (index >= 0)
+        delete m_tabs->widget(index);
+}
+
+void MainWindow::activateTab(int)
+{
+    if (DrawingCanvas *current = canvas())
+        m_workbench->documents().setActive(&current->document());
+    updateState();
+}
+
+void MainWindow::showActive(kernel::Document *document)
+{
+    if (const int index = tabOf(document); index >= 0)
+        m_tabs->setCurrentIndex(index);
+    updateState();
+}
+
+bool MainWindow::closeTab(int index)
+{
+    auto *tab = qobject_cast<DrawingCanvas *>(m_tabs->widget(index));
+    if (!tab || isBusy())
+        return false;
+    m_tabs->setCurrentIndex(index);
+    kernel::Document &closing = tab->document();
+    if (m_files.askToSave(closing) == FileActions::Answer::Stay)
+        return false;
+    return m_workbench->documents().close(&closing);
+}
+
+// Running
+
+bool MainWindow::isBusy() const
+{
+    const auto &documents = m_workbench->documents().documents();
+    return m_isRunning ||
+           std::any_of(documents.begin(), documents.end(), [](const auto &open) { return open->isBusy(); });
+}
+
+void MainWindow::enter(const QString &text)
+{
+    kernel::InputQueue &queue = m_workbench->session().input();
+    if (m_feeder->request()) {
+        queue.pushTyped(text);
+    } else if (isBusy()) {
+        m_commandLine->print(tr("\nA command is running; Esc stops it.\n"));
+    } else if (!document()) {
+        m_commandLine->print(tr("\nNo drawing is open.\n"));
+    } else {
+        queue.pushTyped(text);
+        runQueue();
+    }
+}
+
+void MainWindow::answer(const kernel::InputAnswer &answer)
+{
+    if (m_feeder->request())
+        m_workbench->session().input().push(answer);
+}
+
+void MainWindow::runQueue()
+{
+    kernel::InputQueue &queue = m_workbench->session().input();
+    m_isRunning = true;
+    m_feeder->forgetCancel();
+    updateState();
+    // A run always prints something first; a queue with but the beginning of an expression gives no run.
+    bool hasRun = true;
+    while (document() && !queue.isEmpty() && hasRun) {
+        hasRun = false;
+        const auto heard = connect(document(), &kernel::Document::printed, this, [&hasRun] { hasRun = true; });
+        document()->runQueued();
+        disconnect(heard);
+    }
+    m_isRunning = false;
+    const bool isUnfinished = !queue.isEmpty();
+    m_commandLine->setUnfinished(isUnfinished);
+    m_commandLine->setPrompt(isUnfinished ? tr("(_>") : tr("Command:"));
+    if (document() && !document()->impliedSelection().empty())
+        document()->setImpliedSelection({});
+    updateState();
+    if (m_isCloseWanted)
+        QTimer::singleShot(0, this, &QWidget::close);
+}
+
+void MainWindow::cancel()
+{
+    if (canvas() && canvas()->abandonBox())
+        return;
+    m_feeder->cancel();
+    if (isBusy())
+        return;
+    m_workbench->session().input().clear();
+    m_commandLine->setUnfinished(false);
+    m_commandLine->setPrompt(tr("Command:"));
+    if (document())
+        document()->setImpliedSelection({});
+}
+
+void MainWindow::undoOrRedo(const QString &command)
+{
+    if (document() && !isBusy())
+        enter(command);
+}
+
+void MainWindow::requestChanged()
+{
+    const std::optional<kernel::PromptRequest> &request = m_feeder->request();
+    if (DrawingCanvas *current = canvas())
+        current->setRequest(request);
+    const bool takesBlanks = request && request->kind == kernel::PromptKind::String && request->allowSpaces;
+    m_commandLine->setSpace(takesBlanks ? CommandLine::Space::IsText : CommandLine::Space::Enters);
+    m_commandLine->setPrompt(request ? request->prompt : tr("Command:"));
+    m_commandLine->setFocus();
+    updateState();
+}
+
+// State
+
+void MainWindow::updateState()
+{
+    const kernel::Document *active = document();
+    const bool isIdle = !isBusy();
+    for (QAction *action : m_idleActions)
+        action->setEnabled(isIdle);
+    m_tabs->tabBar()->setEnabled(isIdle);
+    m_undo->setEnabled(isIdle && active && active->undoSteps().canUndo());
+    m_redo->setEnabled(isIdle && active && active->undoSteps().canRedo());
+    updateTitles();
+    m_reportTimer.start();
+}
+
+void MainWindow::updateTitles()
+{
+    for (int i = 0; i < m_tabs->count(); ++i) {
+        const kernel::Document &open = static_cast<DrawingCanvas *>(m_tabs->widget(i))->document();
+        // An & in a file name is no mnemonic.
+        const QString title = open.title().replace(u'&', u"&&"_s);
+        m_tabs->setTabText(i, open.isModified() ? title + u'*' : title);
+        m_tabs->setTabToolTip(i, QDir::toNativeSeparators(open.path()));
+    }
+    const kernel::Document *active = document();
+    setWindowTitle(active ? u"%1[*] - Ortakit"_s.arg(active->title()) : u"Ortakit"_s);
+    setWindowModified(active && active->isModified());
+}
+
+void MainWindow::updateReport()
+{
+    const kernel::Document *active = document();
+    DrawingCanvas *current = canvas();
+    if (!active || !current || isBusy()) {
+        m_status->setText(active ? m_status->text() : QString());
+        m_notDrawn->setText({});
+        return;
+    }
+    const view::RenderReport report = current->report();
+    const bool isModel = active->drawing().header().integer(u"$TILEMODE", 1) != 0;
+    m_status->setText(
+        tr("DXF %1, %2")
+            .arg(versionName(active->drawing().version()), isModel ? tr("model space") : tr("paper space")));
+    m_notDrawn->setText(report.skippedCount() > 0 ? tr("%1 entities not drawn").arg(report.skippedCount())
+                                                  : tr("All entities drawn"));
+    m_notDrawn->setToolTip(report.summary());
+}
+
+void MainWindow::setGround(view::Ground ground)
+{
+    m_ground = ground;
+    for (int i = 0; i < m_tabs->count(); ++i)
+        static_cast<DrawingCanvas *>(m_tabs->widget(i))->setGround(ground);
+}
+
+void MainWindow::setStyleOfWindows(Style style)
+{
+    applyStyle(style);
+    for (QAction *action : findChildren<QAction *>())
+        if (action->objectName() == (style == Style::Dark ? u"styleDark"_s : u"styleLight"_s))
+            action->setChecked(true);
+}
+
+// Closing and dropping
+
+void MainWindow::closeEvent(QCloseEvent *event)
+{
+    if (isBusy()) {
+        // The program under way ends first; the window closes when it has.
+        m_isCloseWanted = true;
+        m_feeder->cancel();
+        event->ignore();
+        return;
+    }
+    m_isCloseWanted = false;
+    while (m_tabs->count() > 0)
+        if (!closeTab(m_tabs->count() - 1)) {
+            event->ignore();
+            return;
+        }
+    event->accept();
+}
+
+void MainWindow::dragEnterEvent(QDragEnterEvent *event)
+{
+    if (!isBusy() && !localFiles(*event->mimeData()).isEmpty())
+        event->acceptProposedAction();
+}
+
+void MainWindow::dropEvent(QDropEvent *event)
+{
+    event->acceptProposedAction();
+    const QStringList paths = localFiles(*event->mimeData());
+    // The program that is dragged from waits for this call to end; a message box would hold it up.
+    QTimer::singleShot(0, this, [this, paths] { openDropped(paths); });
+}
+
+void MainWindow::openDropped(const QStringList &paths)
+{
+    for (const QString &path : paths) {
+        if (isBusy())
+            return;
+        if (path.endsWith(".lsp"_L1, Qt::CaseInsensitive) && document())
+            document()->loadLisp(path);
+        else
+            m_files.openFile(path);
+    }
+}
+
+} // namespace host::app

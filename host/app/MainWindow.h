@@ -1,0 +1,113 @@
+#pragma once
+
+#include "host/app/AppStyle.h"
+#include "host/app/FileActions.h"
+#include "host/app/Workbench.h"
+#include "host/kernel/input/PromptRequest.h"
+#include "host/view/AciColor.h"
+
+#include <QMainWindow>
+#include <QTimer>
+
+class QActionGroup;
+class QLabel;
+class QTabWidget;
+
+namespace host::app {
+
+class CommandLine;
+class DrawingCanvas;
+class WindowFeeder;
+
+/// The window: drawings in tabs, one command line for all, menus and a status bar.
+///
+/// One thing runs at a time. While a command or program runs, what is entered answers its prompts, and whatever would
+/// start another one is disabled. Esc cancels the prompt or stops the program.
+class MainWindow : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    explicit MainWindow(const WorkbenchOptions &options);
+    ~MainWindow() override;
+
+    Workbench &workbench() { return *m_workbench; }
+    CommandLine &commandLine() { return *m_commandLine; }
+    QTabWidget &tabs() { return *m_tabs; }
+    /// Null when no drawing is open.
+    DrawingCanvas *canvas() const;
+    kernel::Document *document() const;
+
+    /// Opens the drawings, or a new one when none of them could be.
+    void start(const QStringList &drawings);
+    /// Runs a line as if it was entered at the command line.
+    void enter(const QString &text);
+    void setStyleOfWindows(Style style);
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
+
+private:
+    enum class WhenBusy
+    {
+        Disabled,
+        Enabled
+    };
+
+    // Menus, in MainMenus.cpp.
+    void buildMenus();
+    void buildFileMenu();
+    void buildEditMenu();
+    void buildViewMenu();
+    void buildToolsMenu();
+    void buildHelpMenu();
+    QAction *addAction(QMenu &menu, const QString &text, const QKeySequence &shortcut, WhenBusy whenBusy,
+                       const std::function<void()> &body);
+    void addChoice(QMenu &menu, QActionGroup &group, const QString &text, bool isChecked,
+                   const std::function<void()> &body);
+    void showHelp();
+    void showAbout();
+
+    void buildStatusBar();
+    void connectCommandLine();
+    void addTab(kernel::Document *document);
+    void removeTab(kernel::Document *document);
+    void activateTab(int index);
+    void showActive(kernel::Document *document);
+    /// Whether the tab's drawing was closed.
+    bool closeTab(int index);
+    int tabOf(const kernel::Document *document) const;
+
+    bool isBusy() const;
+    void runQueue();
+    void answer(const kernel::InputAnswer &answer);
+    void cancel();
+    void undoOrRedo(const QString &command);
+    void requestChanged();
+    void updateState();
+    void updateTitles();
+    void updateReport();
+    void setGround(view::Ground ground);
+    void openDropped(const QStringList &paths);
+
+    std::unique_ptr<Workbench> m_workbench;
+    std::unique_ptr<WindowFeeder> m_feeder;
+    FileActions m_files;
+    QTabWidget *m_tabs;
+    CommandLine *m_commandLine;
+    QDockWidget *m_commandDock;
+    QLabel *m_coordinates;
+    QLabel *m_status;
+    QLabel *m_notDrawn;
+    QList<QAction *> m_idleActions; ///< disabled while something runs
+    QAction *m_undo = nullptr;
+    QAction *m_redo = nullptr;
+    view::Ground m_ground = view::Ground::Black;
+    QTimer m_reportTimer;
+    bool m_isRunning = false; ///< the queue is being worked off
+    bool m_isCloseWanted = false;
+};
+
+} // namespace host::app

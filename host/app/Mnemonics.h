@@ -1,0 +1,11 @@
+#pragma once
+
+#include <QStringList>
+
+namespace host::app {
+
+/// The captions of one menu with a mnemonic each, no letter twice: the first letter of a word where it is free, else
+/// any letter, else none. Captions that have a mnemonic keep it.
+QStringList withMnemonics(const QStringList &captions);
+
+} // namespace host::app

@@ -1,0 +1,122 @@
+#include "host/app/Program.h"
+
+#include "host/app/AppStyle.h"
+#include "host/app/BatchRuns.h"
+#include "host/app/DrawingPicture.h"
+#include "host/app/MainWindow.h"
+#include "host/app/ProgramOutput.h"
+#include "host/app/SessionPlayer.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFileInfo>
+
+#include <clocale>
+
+using namespace Qt::StringLiterals;
+
+namespace host::app {
+
+namespace {
+
+bool hasDisplay()
+{
+    return qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY") ||
+           qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
+}
+
+/// Plays the session that was asked for, if any, in the window.
+int playInWindow(MainWindow &window, const ProgramOptions &options)
+{
+    if (options.session.isEmpty())
+        return ExitDone;
+    PlaybackOptions playback;
+    playback.variables.insert(u"SESSION_DIR"_s, QFileInfo(options.session).absolutePath());
+    playback.pictureFolder = options.pictureFolder;
+    playback.outFolder = options.pictureFolder;
+    playback.timeLimit = options.timeLimit;
+    const PlaybackResult result = runSession(readPlayback(options.session), *window.document(), playback);
+    if (result.ok)
+        return ExitDone;
+    writeMessage(u"%1: %2"_s.arg(options.session, result.message));
+    return ExitFailed;
+}
+
+/// Shows the window for a picture and ends.
+int pictureOfWindow(MainWindow &window, const ProgramOptions &options)
+{
+    if (!QDir().mkpath(options.pictureFolder)) {
+        writeMessage(u"%1: the folder cannot be made"_s.arg(options.pictureFolder));
+        return ExitFileError;
+    }
+    const int status = playInWindow(window, options);
+    // Lets what waits for a quiet moment (status bar, canvas) come to an end.
+    QTimer::singleShot(500, qApp, &QCoreApplication::quit);
+    QApplication::exec();
+    const QString error = writeWidgetPicture(window, QDir(options.pictureFolder).filePath(u"window.png"_s));
+    if (error.isEmpty())
+        return status;
+    writeMessage(error);
+    return ExitFileError;
+}
+
+int runWindow(const ProgramOptions &options)
+{
+    MainWindow window({.home = options.home, .module = options.module, .tools = options.tools});
+    for (const QString &problem : window.workbench().problems())
+        writeMessage(problem);
+    window.show();
+    window.start(options.drawings);
+    if (!options.pictureFolder.isEmpty())
+        return pictureOfWindow(window, options);
+    QTimer::singleShot(0, &window, [&] { playInWindow(window, options); });
+    return QApplication::exec();
+}
+
+int runMode(const ProgramOptions &options)
+{
+    switch (options.mode) {
+    case Mode::Run:
+        return runSessions(options);
+    case Mode::Lisp:
+        return runLispFiles(options);
+    case Mode::Convert:
+        return convertDrawing(options);
+    default:
+        return runWindow(options);
+    }
+}
+
+} // namespace
+
+int runProgram(int argc, char **argv)
+{
+    QStringList arguments;
+    for (int i = 1; i < argc; ++i)
+        arguments.append(QString::fromLocal8Bit(argv[i]));
+    const ProgramOptions options = parseArguments(arguments);
+    if (!options.error.isEmpty()) {
+        writeMessage(options.error + u" (see ortakit --help)"_s);
+        return ExitUsage;
+    }
+    if (options.mode == Mode::Help || options.mode == Mode::Version) {
+        writeResult(options.mode == Mode::Help ? helpText(options.helpFor) : u"ortakit " ORTAKIT_VERSION "\n"_s);
+        return ExitDone;
+    }
+    if (!options.isUnattended() && !hasDisplay()) {
+        writeMessage(u"there is no display for the window; see ortakit --help for what goes without one"_s);
+        return ExitUsage;
+    }
+    if (options.mode != Mode::Window || !hasDisplay())
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    // The toolkit reads options of its own from the arguments; these are all this program's.
+    int count = 1;
+    QApplication application(count, argv);
+    std::setlocale(LC_NUMERIC, "C");
+    QCoreApplication::setApplicationName(u"ortakit"_s);
+    QCoreApplication::setApplicationVersion(u"" ORTAKIT_VERSION ""_s);
+    applyStyle(options.style.value_or(Style::Light));
+    return runMode(options);
+}
+
+} // namespace host::app

@@ -1,0 +1,68 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+#include <chrono>
+#include <optional>
+
+namespace host::app {
+
+/// What the program ends with.
+enum ExitStatus : int
+{
+    ExitDone = 0,
+    ExitFailed = 1,   ///< a tool, expression or session failed
+    ExitUsage = 2,    ///< wrong use of the program
+    ExitPartly = 3,   ///< part of a batch failed
+    ExitFileError = 4 ///< a file could not be read or written
+};
+
+enum class Mode
+{
+    Window,
+    Run,
+    Lisp,
+    Convert,
+    Help,
+    Version
+};
+
+enum class Style
+{
+    Light,
+    Dark
+};
+
+/// What the program was asked to do.
+struct ProgramOptions
+{
+    Mode mode = Mode::Window;
+    Mode helpFor = Mode::Window; ///< of Help: Window means the whole program
+    QString session;             ///< Run; in a window what is played first
+    QStringList drawings;        ///< Window, Run
+    QStringList lispFiles;       ///< Lisp
+    QString drawing;             ///< Lisp; empty: a new drawing
+    QString input;               ///< Convert
+    QString output;              ///< Convert
+    QString outFolder;           ///< Run
+    bool withPictures = false;   ///< Run
+    QString pictureFolder;
+    std::optional<Style> style;
+    QString home;
+    QString module;
+    QString tools;
+    std::chrono::milliseconds timeLimit = std::chrono::seconds(120); ///< of each session
+    QString error; ///< why the arguments make no sense; empty when they do
+
+    /// Nobody sits in front of it.
+    bool isUnattended() const { return mode != Mode::Window || !pictureFolder.isEmpty(); }
+};
+
+/// Reads the arguments behind the program's name.
+ProgramOptions parseArguments(const QStringList &arguments);
+
+/// The text of --help.
+QString helpText(Mode mode);
+
+} // namespace host::app

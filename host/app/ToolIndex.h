@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+
+namespace host::app {
+
+/// A tool as the Tools menu shows it.
+struct ToolEntry
+{
+    QString caption; ///< "Break line"
+    QString command; ///< "BREAKLINE"
+    QString tip;     ///< what it does, in a sentence
+    QString file;    ///< absolute path
+};
+
+/// The Lisp tools of a folder.
+struct ToolIndex
+{
+    QString folder;           ///< absolute; empty when there is none
+    QStringList files;        ///< what every document loads at its start: the support library, then the tools by name
+    QList<ToolEntry> entries; ///< by caption
+    QStringList problems;     ///< sentences about files that could not be read
+};
+
+/// Reads the folder's *.lsp files. A tool has a line at its begin that says what the menu shows:
+///     ;;; menu: Break line | BREAKLINE | Cuts a line open and draws a break symbol in the gap
+/// The support library is the file ortakit.lsp.
+ToolIndex readTools(const QString &folder);
+
+} // namespace host::app
