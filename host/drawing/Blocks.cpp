@@ -94,7 +94,7 @@ RecordId Blocks::create(const QString &name, const Vec3 &basePoint, int flags)
     const QString wanted = completedName(name);
     const RecordId existing = find(wanted);
     if (!isValid(existing))
-        return insertDefinition(wanted, basePoint, flags);
+        return insertBlockDefinition(m_drawing, wanted, basePoint, flags);
     for (const RecordId entity : m_drawing.children(existing))
         m_drawing.setErased(entity, true);
     FieldList fields = m_drawing.fields(existing);
@@ -102,31 +102,6 @@ RecordId Blocks::create(const QString &name, const Vec3 &basePoint, int flags)
     setField(fields, 70, qint64(flags));
     m_drawing.setFields(existing, fields);
     return existing;
-}
-
-RecordId Blocks::insertDefinition(const QString &name, const Vec3 &basePoint, int flags)
-{
-    const RecordId entry = m_drawing.tables().add(TableKind::BlockRecord, name);
-    const Handle owner = isValid(entry) ? m_drawing.handle(entry) : Handle{};
-    const bool withMarkers = hasMarkers(m_drawing);
-    FieldList begin = recordHead(m_drawing, u"BLOCK"_s, owner);
-    FieldList end = recordHead(m_drawing, u"ENDBLK"_s, owner);
-    for (FieldList *fields : {&begin, &end}) {
-        if (withMarkers)
-            fields->push_back({100, u"AcDbEntity"_s});
-        fields->push_back({8, u"0"_s});
-        if (withMarkers)
-            fields->push_back({100, fields == &begin ? u"AcDbBlockBegin"_s : u"AcDbBlockEnd"_s});
-    }
-    begin.push_back({2, name});
-    begin.push_back({70, qint64(flags)});
-    begin.push_back({10, basePoint});
-    begin.push_back({3, name});
-    begin.push_back({1, QString()});
-    const RecordId section = ensureSection(m_drawing, Section::Blocks);
-    const RecordId block = m_drawing.insert(noRecord, section, RecordKind::Block, begin);
-    m_drawing.insert(block, block, RecordKind::EndBlock, end);
-    return block;
 }
 
 bool Blocks::erase(RecordId block)

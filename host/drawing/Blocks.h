@@ -49,7 +49,6 @@ public:
 private:
     QString completedName(const QString &name) const;
     const QHash<QString, RecordId> &names() const;
-    RecordId insertDefinition(const QString &name, const Vec3 &basePoint, int flags);
 
     Drawing &m_drawing;
     mutable QHash<QString, RecordId> m_names;

@@ -166,9 +166,29 @@ QByteArray Drawing::toBytes() const
         return d->file.bytes;
     QByteArray bytes;
     bytes.reserve(d->file.bytes.size() + d->file.bytes.size() / 16);
-    for (RecordId id = first(); isValid(id); id = next(id))
-        bytes += d->entry(id).bytes();
+    forEachPiece([&](QByteArrayView piece) {
+        bytes += piece;
+        return true;
+    });
     return bytes;
+}
+
+bool Drawing::forEachPiece(const std::function<bool(QByteArrayView)> &take) const
+{
+    if (d->revision == 0)
+        return take(d->file.bytes);
+    QByteArrayView piece;
+    for (RecordId id = first(); isValid(id); id = next(id)) {
+        const QByteArrayView bytes = d->entry(id).bytes();
+        if (piece.end() == bytes.begin()) {
+            piece = QByteArrayView(piece.begin(), bytes.end());
+            continue;
+        }
+        if (!piece.isEmpty() && !take(piece))
+            return false;
+        piece = bytes;
+    }
+    return piece.isEmpty() || take(piece);
 }
 
 bool Drawing::isAlive(RecordId id) const

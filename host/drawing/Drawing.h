@@ -8,6 +8,7 @@
 #include <QByteArray>
 #include <QString>
 
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -68,6 +69,9 @@ public:
     const TextCodec &codec() const;
     /// The whole drawing as the bytes of a file.
     QByteArray toBytes() const;
+    /// The same in pieces, in order and without copying them; a drawing nobody changed is one piece. Stops when
+    /// `take` returns false.
+    bool forEachPiece(const std::function<bool(QByteArrayView)> &take) const;
 
     Journal &journal() { return *m_journal; }
     const Journal &journal() const { return *m_journal; }

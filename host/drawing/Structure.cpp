@@ -110,4 +110,29 @@ FieldList recordHead(Drawing &drawing, const QString &type, Handle owner)
     return head;
 }
 
+RecordId insertBlockDefinition(Drawing &drawing, const QString &name, const Vec3 &basePoint, int flags)
+{
+    const RecordId entry = drawing.tables().add(TableKind::BlockRecord, name);
+    const Handle owner = isValid(entry) ? drawing.handle(entry) : Handle{};
+    const bool withMarkers = hasMarkers(drawing);
+    FieldList begin = recordHead(drawing, u"BLOCK"_s, owner);
+    FieldList end = recordHead(drawing, u"ENDBLK"_s, owner);
+    for (FieldList *fields : {&begin, &end}) {
+        if (withMarkers)
+            fields->push_back({100, u"AcDbEntity"_s});
+        fields->push_back({8, u"0"_s});
+        if (withMarkers)
+            fields->push_back({100, fields == &begin ? u"AcDbBlockBegin"_s : u"AcDbBlockEnd"_s});
+    }
+    begin.push_back({2, name});
+    begin.push_back({70, qint64(flags)});
+    begin.push_back({10, basePoint});
+    begin.push_back({3, name});
+    begin.push_back({1, QString()});
+    const RecordId section = ensureSection(drawing, Section::Blocks);
+    const RecordId block = drawing.insert(noRecord, section, RecordKind::Block, begin);
+    drawing.insert(block, block, RecordKind::EndBlock, end);
+    return block;
+}
+
 } // namespace host::drawing

@@ -28,4 +28,7 @@ inline bool hasOwners(const Drawing &drawing)
 /// Type, handle and owner: the start of a new record. The handle is a new one.
 FieldList recordHead(Drawing &drawing, const QString &type, Handle owner);
 
+/// Adds BLOCK, ENDBLK and the table entry under a name that is free.
+RecordId insertBlockDefinition(Drawing &drawing, const QString &name, const Vec3 &basePoint, int flags);
+
 } // namespace host::drawing

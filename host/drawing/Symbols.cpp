@@ -103,7 +103,7 @@ Linetype readLinetype(const Drawing &drawing, RecordId entry)
     qint64 flags = 0;
     for (const Tag &tag : tags) {
         if (tag.code == 49) {
-            linetype.dashes.push_back({.length = tag.real().value_or(0.0)});
+            linetype.dashes.emplace_back().length = tag.real().value_or(0.0);
             flags = 0;
         } else if (!linetype.dashes.empty()) {
             readDashTag(linetype.dashes.back(), flags, tag, tags);

@@ -26,13 +26,13 @@ struct Layer
 struct LinetypeDash
 {
     double length = 0.0; ///< drawing units; negative is a gap, 0 a dot
-    QString text;        ///< text on the dash; empty when none or when it is a shape
+    QString text{};      ///< text on the dash; empty when none or when it is a shape
     int shape = 0;       ///< number of the shape in the style's file; 0 when none
-    Handle style;        ///< the text style of text or shape
+    Handle style{};      ///< the text style of text or shape
     double scale = 1.0;
     double rotation = 0.0; ///< degrees
     bool isRotationAbsolute = false;
-    Vec2 offset;
+    Vec2 offset{};
 };
 
 struct Linetype
