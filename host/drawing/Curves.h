@@ -11,7 +11,8 @@ using Path = std::vector<Vec3>;
 /// How finely curves become straight pieces.
 struct Flatness
 {
-    double chordError = 0.0; ///< largest distance between curve and chord, in drawing units; 0: by maximumAngle alone
+    /// Largest distance between curve and chord, in drawing units. 0: maximumAngle decides instead.
+    double chordError = 0.0;
     double maximumAngle = 0.0873; ///< largest turn of one piece, in radians (5 degrees)
     int maximumPieces = 2000;     ///< of one curve
 };

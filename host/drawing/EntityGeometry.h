@@ -14,10 +14,13 @@ struct Outline
     {
         Path points;           ///< one point alone: a dot
         bool isFilled = false; ///< the closed area counts, not just its edge (solids, text, wide polylines)
+        bool isHole = false;   ///< taken out of the filled ones (islands of a hatch)
     };
     std::vector<Piece> pieces;
     /// Whether the shape is a stand-in (the box of a text, whose glyphs only a font knows).
     bool isApproximate = false;
+    /// Whether it goes on for ever (RAY, XLINE); the piece given is very long then, and counts for no box.
+    bool isInfinite = false;
 };
 
 /// The outline of one entity, moved by `transform`. An INSERT gives that of its block and attributes, a DIMENSION that

@@ -1,0 +1,121 @@
+#include "host/drawing/EntityGeometry.h"
+
+#include "host/drawing/Blocks.h"
+
+#include <numbers>
+
+// What block references show, nested ones opened.
+
+namespace host::drawing {
+
+namespace {
+
+constexpr int maximumDepth = 32;
+/// Entities and array cells of one walk. Far above what drawings have, and soon reached by hostile counts.
+constexpr qint64 maximumSteps = 2'000'000;
+
+bool isReference(QByteArrayView type)
+{
+    return type == "INSERT" || type == "ACAD_TABLE" || type.endsWith("DIMENSION");
+}
+
+class InsertWalk
+{
+public:
+    InsertWalk(const Drawing &drawing, const std::function<bool(const VisitedEntity &)> &visitor)
+        : m_drawing(drawing), m_visitor(visitor)
+    {
+    }
+
+    void visit(RecordId entity, const Matrix &transform)
+    {
+        if (!mayGoOn())
+            return;
+        if (!isReference(m_drawing.typeName(entity))) {
+            m_isStopped = !m_visitor({entity, transform, m_inserts});
+            return;
+        }
+        if (m_inserts.size() >= maximumDepth)
+            return;
+        m_inserts.push_back(entity);
+        open(entity, transform);
+        m_inserts.pop_back();
+    }
+
+private:
+    bool mayGoOn()
+    {
+        m_isStopped = m_isStopped || ++m_steps > maximumSteps;
+        return !m_isStopped;
+    }
+
+    void open(RecordId insert, const Matrix &transform)
+    {
+        const TagList tags = m_drawing.tags(insert);
+        const RecordId block = m_drawing.blocks().find(tags.text(2));
+        const bool isInsert = m_drawing.isType(insert, "INSERT");
+        if (isValid(block) && isInsert)
+            visitCells(block, tags, transform);
+        else if (isValid(block) && m_drawing.isType(insert, "ACAD_TABLE"))
+            visitBlock(block, transform * insertTransform(m_drawing, tags));
+        else if (isValid(block)) // the picture of a dimension stands in world coordinates
+            visitBlock(block, transform);
+        for (const RecordId child : isInsert ? m_drawing.children(insert) : std::vector<RecordId>())
+            visit(child, transform);
+    }
+
+    void visitCells(RecordId block, const TagList &tags, const Matrix &transform)
+    {
+        const auto columns = static_cast<int>(std::clamp<qint64>(tags.integer(70, 1), 1, 32767));
+        const auto rows = static_cast<int>(std::clamp<qint64>(tags.integer(71, 1), 1, 32767));
+        for (int row = 0; row < rows; ++row) {
+            for (int column = 0; column < columns; ++column) {
+                if (!mayGoOn())
+                    return;
+                visitBlock(block, transform * insertTransform(m_drawing, tags, column, row));
+            }
+        }
+    }
+
+    void visitBlock(RecordId block, const Matrix &transform)
+    {
+        const bool isInItself = std::find(m_blocks.begin(), m_blocks.end(), block) != m_blocks.end();
+        if (isInItself)
+            return;
+        m_blocks.push_back(block);
+        for (RecordId entity = m_drawing.firstChild(block); isValid(entity) && !m_isStopped;
+             entity = m_drawing.nextSibling(entity)) {
+            if (!m_drawing.isType(entity, "ATTDEF"))
+                visit(entity, transform);
+        }
+        m_blocks.pop_back();
+    }
+
+    const Drawing &m_drawing;
+    const std::function<bool(const VisitedEntity &)> &m_visitor;
+    std::vector<RecordId> m_inserts;
+    std::vector<RecordId> m_blocks; ///< those being visited
+    qint64 m_steps = 0;
+    bool m_isStopped = false;
+};
+
+} // namespace
+
+Matrix insertTransform(const Drawing &drawing, const TagList &insert, int column, int row)
+{
+    const RecordId block = drawing.blocks().find(insert.text(2));
+    const Vec3 base = isValid(block) ? drawing.tags(block).point(10) : Vec3{};
+    const double angle = insert.real(50) * std::numbers::pi / 180.0;
+    const Vec3 scale{insert.real(41, 1.0), insert.real(42, 1.0), insert.real(43, 1.0)};
+    const Vec3 cell{column * insert.real(44), row * insert.real(45), 0.0};
+    return Matrix::fromExtrusion(insert.point(210, {0.0, 0.0, 1.0})) * Matrix::translation(insert.point(10)) *
+           Matrix::rotation(angle) * Matrix::translation(cell) * Matrix::scaling(scale) *
+           Matrix::translation(base * -1.0);
+}
+
+void visitInserted(const Drawing &drawing, RecordId insert, const std::function<bool(const VisitedEntity &)> &visitor)
+{
+    InsertWalk(drawing, visitor).visit(insert, {});
+}
+
+} // namespace host::drawing
