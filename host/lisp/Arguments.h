@@ -29,7 +29,7 @@ struct Point
 class Arguments
 {
 public:
-    Arguments(Interpreter &interpreter, const NativeFunction &callee, Value *values, std::size_t count)
+    Arguments(Interpreter &interpreter, const NativeFunction &callee, const Value *values, std::size_t count)
         : m_interpreter(interpreter), m_callee(callee), m_values(values), m_count(count)
     {
     }
@@ -80,7 +80,7 @@ public:
 private:
     Interpreter &m_interpreter;
     const NativeFunction &m_callee;
-    Value *m_values;
+    const Value *m_values;
     std::size_t m_count;
 };
 

@@ -97,9 +97,10 @@ public:
     // Functions and variables.
 
     /// Makes `function` callable as `name`, in any mix of cases, in place of what the symbol held.
-    void define(std::string_view name, NativePointer function, Arity arity, NativeKind kind = NativeKind::Builtin);
     void define(std::string_view name, NativeClosure function, Arity arity, NativeKind kind = NativeKind::External);
+    /// The same for a table of built-ins.
     void define(std::span<const NativeRow> rows);
+    /// `function` gets its arguments unevaluated; it fails by throwing Error, as natives do.
     void defineSpecialForm(std::string_view name, SpecialFormPointer function);
     /// Takes the function away; a symbol that holds something else than a native function is left alone.
     void undefine(std::string_view name);
@@ -119,7 +120,7 @@ public:
     Value symbol(std::string_view name) { return Value::symbol(intern(name)); }
 
     /// A new selection set with the next number. Repeated entities are dropped.
-    Value makeSelectionSet(std::vector<std::uint64_t> entities);
+    Value makeSelectionSet(const std::vector<std::uint64_t> &entities);
 
     // For native functions.
 
@@ -129,8 +130,11 @@ public:
     Value evalBody(const Value &forms);
     /// Calls a function value, a symbol that holds one, or a list (lambda (...) ...).
     Value apply(const Value &function, std::span<const Value> arguments);
-    /// What apply() does once before many calls with the same function: a lambda list becomes a function.
+    /// What apply() does first, to be done once before many calls: a symbol becomes the function it holds, a list
+    /// (lambda (...) ...) or ((...) ...) a function. Fails with "no function definition" or "bad function".
     Value resolveFunction(const Value &function);
+    /// A function of a parameter list, with "/" before the locals, and a body. `name` is null for a lambda.
+    Value makeFunction(Symbol *name, const Value &parameters, const Value &body);
     /// Reads a whole text and evaluates it, throwing: what `load` does.
     Value evalText(std::string_view text, std::string_view sourceName);
     /// Says that some work was done; every Settings::pollInterval of them the console is asked. For loops in natives.
@@ -139,17 +143,24 @@ public:
         if (--m_pollCountdown == 0)
             poll();
     }
-    /// Calls `body` with `*error*` out of reach; an error that programs may catch comes back instead of passing on.
+    /// apply() with `*error*` out of reach: an error that programs may catch comes back as a catch-all error object.
     Value catchAll(const Value &function, std::span<const Value> arguments);
+    /// Throws "stack overflow" when the machine stack is used up: for natives that recurse by themselves.
+    void checkStack()
+    {
+        if (reinterpret_cast<std::uintptr_t>(__builtin_frame_address(0)) < m_stackLimit)
+            raiseStackOverflow();
+    }
     /// Throws when a string of that many bytes may not be made.
     void checkStringLength(std::size_t bytes) const;
 
     SourceMap &sources() noexcept { return m_sources; }
     /// Values that (vl-bb-set) keeps, by upper-case name.
     std::map<std::string, Value> &blackboard() noexcept { return m_blackboard; }
-    /// Functions whose calls are printed.
-    bool isTraced(const Symbol &symbol) const;
-    void setTraced(const Symbol &symbol, bool traced);
+    /// What (setenv) keeps, by name; it comes before the environment of the process.
+    std::map<std::string, std::string> &environment() noexcept { return m_environment; }
+    /// Characters typed but not yet taken by (read-char).
+    std::string &typedAhead() noexcept { return m_typedAhead; }
 
 private:
     /// A user function under way. Lives on the machine stack.
@@ -159,22 +170,25 @@ private:
         const Function *function;
         Location location; ///< of the calling form
     };
-    class ValueStackFrame;
+    class ValueFrame;
     class Binding;
-    class FrameScope;
     class TopLevel;
-    class HandlerScope;
 
     Value evalList(const Value &form);
-    Value callNative(const NativeFunction &native, Value *values, std::size_t count);
-    Value callUser(const Value &function, ValueStackFrame &arguments, Location location);
-    Value callTraced(const Value &function, ValueStackFrame &arguments, Location location);
-    Value invoke(const Value &function, ValueStackFrame &arguments, Location location);
+    void evalArguments(const Value &forms, ValueFrame &values);
+    Value headFunction(const Value &head);
+    Value callNative(const NativeFunction &native, const Value *values, std::size_t count);
+    Value callUser(const Function &function, ValueFrame &values, Location location);
+    Value callTraced(const Function &function, ValueFrame &values, Location location);
+    Value callSpecialForm(const NativeFunction &form, const Value &arguments);
+    /// Throws `error` with place and chain, after calling `*error*`.
     [[noreturn]] void raise(Error error);
-    [[noreturn]] void raiseNotAFunction(const Value &head, const Value &function);
+    [[noreturn]] void raiseArgumentCount(const Function &function, std::size_t given);
     [[noreturn]] void raiseStackOverflow();
     void signal(Error &error, const NativeFunction *native);
+    [[noreturn]] void rethrowSignalled(const NativeFunction &native);
     void fillPlace(Error &error, const NativeFunction *native) const;
+    void fillChain(Error &error) const;
     void callErrorHandler(Error &error);
     void poll();
 
@@ -187,6 +201,7 @@ private:
     Value m_t;
     Symbol *m_errorSymbol = nullptr;
     Symbol *m_lambdaSymbol = nullptr;
+    Symbol *m_slashSymbol = nullptr;
 
     std::unique_ptr<std::byte[]> m_stackMemory;
     Value *m_stackTop = nullptr;
@@ -197,13 +212,13 @@ private:
     int m_nesting = 0;
     int m_catchDepth = 0;
     bool m_inErrorHandler = false;
-    bool m_polling = false;
     CallFrame *m_frame = nullptr;
     Location m_location = 0; ///< of the list form evaluated last
-    std::vector<const Symbol *> m_traced;
 
     SourceMap m_sources;
     std::map<std::string, Value> m_blackboard;
+    std::map<std::string, std::string> m_environment;
+    std::string m_typedAhead;
     std::uint32_t m_selectionSets = 0;
 };
 

@@ -42,7 +42,7 @@ public:
     /// Open parentheses.
     std::size_t depth() const noexcept { return m_depth; }
     /// In the middle of a string.
-    bool isInString() const noexcept { return m_state >= State::String && m_state <= State::UnicodeEscape; }
+    bool isInString() const noexcept { return m_state >= State::String; }
     /// Forgets an unfinished form and the text not read yet.
     void reset();
 
@@ -92,15 +92,23 @@ private:
     void checkUnfinished();
     [[noreturn]] void fail(const char *message);
 
+    Location here() const noexcept
+    {
+        return m_rangeBegin ? m_rangeBegin + static_cast<Location>(m_line - m_rangeLine) : 0;
+    }
+
     Interpreter &m_interpreter;
+    std::string m_sourceName;
     std::string m_text;
     std::size_t m_position = 0;
     bool m_finished = false;
 
     State m_state = State::Between;
     std::string m_token;
-    std::string m_escape;
-    Location m_location = 0;
+    std::string m_escape; ///< digits of a numeric escape
+    int m_line = 1;
+    Location m_rangeBegin = 0; ///< location of line m_rangeLine
+    int m_rangeLine = 1;
     std::vector<Frame> m_frames;
     std::size_t m_depth = 0;
     Value m_form;

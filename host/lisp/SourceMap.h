@@ -10,7 +10,8 @@ namespace host::lisp {
 /// A place in a source: what a list form remembers in 32 bits. 0 is no place.
 using Location = std::uint32_t;
 
-/// Turns places into file and line. Every text that is read gets a range of numbers of its own, one a line.
+/// Turns places into file and line. Every piece of text that is read gets a range of numbers of its own, one a line, so
+/// that texts may be read while others are half read.
 class SourceMap
 {
 public:
@@ -20,17 +21,17 @@ public:
         int line = 0; ///< from 1; 0 when the location is 0
     };
 
-    /// Begins a text and returns the location of its first line; line n is that plus n - 1. 0 when all numbers are
-    /// used up: its forms have no place then. `name` is empty for a text without a name.
-    Location begin(std::string_view name);
-    /// Says how far the lines of the text begun last (or of one begun earlier) go.
-    void reached(Location location);
+    /// Takes a range for `count` lines of the source `name`, from `firstLine` on, and returns the location of the
+    /// first; the following lines count up from there. 0 when the numbers are used up. Pieces of one source that come
+    /// one after the other share an entry.
+    Location begin(std::string_view name, int firstLine, std::size_t count);
     Place place(Location location) const;
 
 private:
     struct Source
     {
         Location first;
+        int firstLine;
         std::string name;
     };
     std::vector<Source> m_sources;

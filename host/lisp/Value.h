@@ -3,11 +3,13 @@
 #include <cassert>
 #include <cstddef>
 #include <cstdint>
+#include <deque>
 #include <initializer_list>
 #include <iterator>
 #include <span>
 #include <string>
 #include <string_view>
+#include <unordered_set>
 #include <utility>
 #include <vector>
 
@@ -154,7 +156,7 @@ private:
         Object *m_object;
         std::uint64_t m_bits;
     };
-    friend void destroyObject(Tag tag, Object *object) noexcept;
+    friend class Demolition;
 };
 
 static_assert(sizeof(Value) == 16);
@@ -186,7 +188,17 @@ struct StringObject : Object
 /// change it in place. `mark` is the number that it prints with. Made by Interpreter::makeSelectionSet.
 struct SelectionSet : Object
 {
-    std::vector<std::uint64_t> entities;
+    /// To be read only; add() and remove() change it.
+    std::deque<std::uint64_t> entities;
+
+    bool contains(std::uint64_t entity) const { return members.contains(entity); }
+    /// Puts it at the end; false when it was there already.
+    bool add(std::uint64_t entity);
+    /// False when it was not there. Quick at both ends, which is where programs take entities away.
+    bool remove(std::uint64_t entity);
+
+private:
+    std::unordered_set<std::uint64_t> members;
 };
 
 /// What vl-catch-all-apply gives back for an error.

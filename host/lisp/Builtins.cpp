@@ -1,0 +1,16 @@
+#include "host/lisp/Builtins.h"
+
+namespace host::lisp {
+
+void addBuiltins(Interpreter &interpreter)
+{
+    for (const auto add :
+         {addSpecialForms,        addFunctionFunctions,     addNumberFunctions,       addIntegerFunctions,
+          addComparisonFunctions, addListFunctions,         addListSearchFunctions,   addPairFunctions,
+          addSortFunctions,       addStringFunctions,       addStringSearchFunctions, addConversionFunctions,
+          addGeometryFunctions,   addSelectionSetFunctions, addOutputFunctions,       addInputFunctions,
+          addFileFunctions,       addFileNameFunctions,     addErrorFunctions,        addSystemFunctions})
+        add(interpreter);
+}
+
+} // namespace host::lisp

@@ -1,0 +1,97 @@
+// Equality and order.
+
+#include "host/lisp/Arguments.h"
+#include "host/lisp/Builtins.h"
+#include "host/lisp/Interpreter.h"
+#include "host/lisp/Printer.h"
+
+namespace host::lisp {
+
+static bool isNumericallyEqual(const Value &left, const Value &right)
+{
+    if (left.isNumber() && right.isNumber())
+        return left.asReal() == right.asReal();
+    return left.isSame(right);
+}
+
+// (= value...) -> T when each equals the next: numbers by value, strings by text, everything else by identity.
+static Value equalSign(Arguments &args)
+{
+    for (std::size_t i = 1; i < args.size(); ++i) {
+        if (!isNumericallyEqual(args[i - 1], args[i]))
+            return {};
+    }
+    return args.boolean(true);
+}
+
+// (/= value...) -> T when each differs from the next.
+static Value differs(Arguments &args)
+{
+    for (std::size_t i = 1; i < args.size(); ++i) {
+        if (isNumericallyEqual(args[i - 1], args[i]))
+            return {};
+    }
+    return args.boolean(true);
+}
+
+template <typename Compare>
+static bool isOrdered(const Value &left, const Value &right, Compare compare)
+{
+    if (left.isInteger() && right.isInteger())
+        return compare(left.asInteger(), right.asInteger());
+    if (left.isNumber() && right.isNumber())
+        return compare(left.asReal(), right.asReal());
+    if (left.isString() && right.isString())
+        return compare(left.asString().compare(right.asString()), 0);
+    throw Error("bad argument type for compare: " + toText(left) + " " + toText(right));
+}
+
+// (< value...), (<= ...), (> ...), (>= ...) -> T when each is in that order to the next. Only numbers and strings, not
+// mixed: bad argument type for compare.
+template <typename Compare>
+static Value ordered(Arguments &args)
+{
+    for (std::size_t i = 1; i < args.size(); ++i) {
+        if (!isOrdered(args[i - 1], args[i], Compare()))
+            return {};
+    }
+    return args.boolean(true);
+}
+
+// (eq a b) -> T for the same object, number or text.
+static Value eq(Arguments &args)
+{
+    return args.boolean(args[0].isSame(args[1]));
+}
+
+// (equal a b [fuzz]) -> T for the same structure; numbers may differ by fuzz.
+static Value equal(Arguments &args)
+{
+    return args.boolean(isEqual(args[0], args[1], args.realOr(2, 0.0)));
+}
+
+// (not value), (null value) -> T for nil.
+static Value isNull(Arguments &args)
+{
+    return args.boolean(args[0].isNil());
+}
+
+static constexpr NativeRow rows[] = {
+    {"=", equalSign, Arity::atLeast(1)},
+    {"/=", differs, Arity::atLeast(1)},
+    {"<", ordered<std::less<>>, Arity::atLeast(1)},
+    {"<=", ordered<std::less_equal<>>, Arity::atLeast(1)},
+    {">", ordered<std::greater<>>, Arity::atLeast(1)},
+    {">=", ordered<std::greater_equal<>>, Arity::atLeast(1)},
+    {"eq", eq, Arity::exactly(2)},
+    {"equal", equal, Arity::between(2, 3)},
+    {"not", isNull, Arity::exactly(1)},
+    {"null", isNull, Arity::exactly(1)},
+};
+
+void addComparisonFunctions(Interpreter &interpreter)
+{
+    interpreter.define(rows);
+}
+
+} // namespace host::lisp

@@ -1,0 +1,62 @@
+#pragma once
+
+#include "host/lisp/Value.h"
+
+#include <fstream>
+#include <memory>
+#include <optional>
+#include <string>
+
+namespace host::lisp {
+
+/// A text file that a program has open. It closes itself when the last value that refers to it goes.
+///
+/// A file opened for reading is taken into memory and decoded as a whole: UTF-8 with or without byte-order mark, else
+/// Windows-1252. Line ends of both kinds count as one line feed.
+class File : public Object
+{
+public:
+    enum class Mode : std::uint8_t
+    {
+        Read,
+        Write,
+        Append
+    };
+    enum class ByteOrderMark : std::uint8_t
+    {
+        No,
+        Yes
+    };
+
+    /// Null when the file cannot be opened, or is too large or no regular file to read.
+    static std::unique_ptr<File> open(const std::string &path, Mode mode, ByteOrderMark mark);
+
+    const std::string &path() const noexcept { return m_path; }
+    bool isOpen() const noexcept { return m_open; }
+    bool isReading() const noexcept { return m_mode == Mode::Read; }
+    void close();
+
+    /// The next line without its end; nothing at the end of the file.
+    std::optional<std::string> readLine();
+    /// The next character's code; nothing at the end of the file.
+    std::optional<char32_t> readCharacter();
+    void write(std::string_view text);
+
+private:
+    File(std::string path, Mode mode) : m_path(std::move(path)), m_mode(mode) {}
+
+    std::string m_path;
+    Mode m_mode;
+    bool m_open = true;
+    std::string m_text; ///< decoded content, when reading
+    std::size_t m_position = 0;
+    std::ofstream m_stream;
+};
+
+inline File &Value::asFile() const noexcept
+{
+    assert(m_tag == Tag::File);
+    return *static_cast<File *>(m_object);
+}
+
+} // namespace host::lisp

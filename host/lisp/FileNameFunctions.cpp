@@ -1,0 +1,93 @@
+// Parts of file names. "/" and "\" both separate folders, whatever the system.
+
+#include "host/lisp/Arguments.h"
+#include "host/lisp/Builtins.h"
+#include "host/lisp/Interpreter.h"
+#include "host/lisp/Paths.h"
+
+namespace host::lisp {
+
+/// A file name in three: "dir/", "base", ".ext".
+struct NameParts
+{
+    std::string_view folder;
+    std::string_view base;
+    std::string_view extension;
+};
+
+static NameParts split(std::string_view path)
+{
+    const std::size_t separator = path.find_last_of("/\\:");
+    const std::size_t nameBegin = separator == std::string_view::npos ? 0 : separator + 1;
+    const std::string_view name = path.substr(nameBegin);
+    const std::size_t dot = name.rfind('.');
+    const std::size_t baseLength = dot == std::string_view::npos || dot == 0 ? name.size() : dot;
+    return {path.substr(0, nameBegin), name.substr(0, baseLength), name.substr(baseLength)};
+}
+
+// (vl-filename-base path) -> the name without folder and extension.
+static Value base(Arguments &args)
+{
+    return Value::string(std::string(split(args.string(0)).base));
+}
+
+// (vl-filename-directory path) -> the folder without its last separator.
+static Value directory(Arguments &args)
+{
+    std::string_view folder = split(args.string(0)).folder;
+    if (folder.size() > 1 && (folder.ends_with('/') || folder.ends_with('\\')))
+        folder.remove_suffix(1);
+    return Value::string(std::string(folder));
+}
+
+// (vl-filename-extension path) -> the extension with its dot; nil without one.
+static Value extension(Arguments &args)
+{
+    const std::string_view part = split(args.string(0)).extension;
+    return part.empty() ? Value() : Value::string(std::string(part));
+}
+
+// (fnsplitl path) -> (folder base extension), each "" when missing.
+static Value splitName(Arguments &args)
+{
+    const NameParts parts = split(args.string(0));
+    return Value::list({Value::string(std::string(parts.folder)), Value::string(std::string(parts.base)),
+                        Value::string(std::string(parts.extension))});
+}
+
+// (vl-filename-mktemp [pattern [folder [extension]]]) -> a path that no file has yet. The pattern gives folder, base
+// and extension that are not given by themselves.
+static Value temporaryName(Arguments &args)
+{
+    const std::string pattern = args.stringOr(0, "$VL~~");
+    const NameParts parts = split(pattern);
+    std::error_code error;
+    std::string folder = args.stringOr(1, parts.folder);
+    if (folder.empty())
+        folder = fromPath(std::filesystem::temp_directory_path(error));
+    if (!folder.empty() && folder.back() != '/' && folder.back() != '\\')
+        folder.push_back('/');
+    const std::string end = args.stringOr(2, parts.extension);
+    static constexpr int mostTries = 100'000;
+    for (int number = 1; number <= mostTries; ++number) {
+        std::string path = folder + std::string(parts.base) + std::to_string(number) + end;
+        if (!std::filesystem::exists(toPath(path), error))
+            return Value::string(std::move(path));
+    }
+    return {};
+}
+
+static constexpr NativeRow rows[] = {
+    {"vl-filename-base", base, Arity::exactly(1)},
+    {"vl-filename-directory", directory, Arity::exactly(1)},
+    {"vl-filename-extension", extension, Arity::exactly(1)},
+    {"fnsplitl", splitName, Arity::exactly(1)},
+    {"vl-filename-mktemp", temporaryName, Arity::between(0, 3)},
+};
+
+void addFileNameFunctions(Interpreter &interpreter)
+{
+    interpreter.define(rows);
+}
+
+} // namespace host::lisp

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "host/lisp/SourceMap.h"
+#include "host/lisp/Symbol.h"
+#include "host/lisp/Value.h"
+
+#include <vector>
+
+namespace host::lisp {
+
+/// A function written in Lisp. `mark` is 1 while its calls are traced.
+struct Function : Object
+{
+    Symbol *name = nullptr;          ///< null for a lambda
+    std::size_t parameterCount = 0;  ///< how many of `variables` are parameters; the others are locals
+    std::vector<Symbol *> variables; ///< parameters, then locals
+    Value parameters;                ///< the list as written, with "/" before the locals
+    Value body;                      ///< list of forms
+    Location location = 0;           ///< of the first form of the body; 0 when unknown
+
+    std::string displayName() const { return name ? name->name() : "LAMBDA"; }
+};
+
+inline Function &Value::asFunction() const noexcept
+{
+    assert(m_tag == Tag::Function);
+    return *static_cast<Function *>(m_object);
+}
+
+} // namespace host::lisp

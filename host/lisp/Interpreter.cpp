@@ -1,0 +1,237 @@
+#include "host/lisp/Interpreter.h"
+
+#include "host/lisp/Arguments.h"
+#include "host/lisp/Builtins.h"
+#include "host/lisp/Function.h"
+#include "host/lisp/Paths.h"
+#include "host/lisp/Printer.h"
+#include "host/lisp/Reader.h"
+#include "host/lisp/Text.h"
+
+#include <new>
+#include <numbers>
+
+namespace host::lisp {
+
+/// Values that the arguments and saved variables of all calls under way may take.
+static constexpr std::size_t valueStackSize = 512U * 1024U;
+
+std::string Arity::text() const
+{
+    if (most < 0)
+        return std::to_string(least) + "+";
+    return least == most ? std::to_string(least) : std::to_string(least) + "-" + std::to_string(most);
+}
+
+Interpreter::Interpreter(Console &console, Settings settings)
+    : m_console(console), m_settings(settings), m_stackMemory(new std::byte[valueStackSize * sizeof(Value)]),
+      m_pollCountdown(std::max(1U, settings.pollInterval))
+{
+    static_assert(alignof(Value) <= __STDCPP_DEFAULT_NEW_ALIGNMENT__);
+    m_stackTop = reinterpret_cast<Value *>(m_stackMemory.get());
+    m_stackEnd = m_stackTop + valueStackSize;
+    m_t = symbol("T");
+    setVariable("T", m_t);
+    setVariable("PI", Value::real(std::numbers::pi));
+    setVariable("PAUSE", Value::string("\\"));
+    m_errorSymbol = &intern("*ERROR*");
+    m_lambdaSymbol = &intern("LAMBDA");
+    m_slashSymbol = &intern("/");
+    addBuiltins(*this);
+}
+
+Interpreter::~Interpreter() = default;
+
+/// One evaluation begun from outside: its errors, catches and calls are apart from those of the evaluation around it,
+/// the machine stack is shared.
+class Interpreter::TopLevel
+{
+public:
+    explicit TopLevel(Interpreter &interpreter)
+        : m_interpreter(interpreter), m_catchDepth(std::exchange(interpreter.m_catchDepth, 0)),
+          m_frame(std::exchange(interpreter.m_frame, nullptr)), m_location(std::exchange(interpreter.m_location, 0))
+    {
+        if (interpreter.m_nesting++ == 0) {
+            const auto here = reinterpret_cast<std::uintptr_t>(__builtin_frame_address(0));
+            interpreter.m_stackLimit = here - std::min<std::uintptr_t>(here, interpreter.m_settings.stackBudget);
+        }
+    }
+    ~TopLevel()
+    {
+        --m_interpreter.m_nesting;
+        m_interpreter.m_catchDepth = m_catchDepth;
+        m_interpreter.m_frame = m_frame;
+        m_interpreter.m_location = m_location;
+    }
+    TopLevel(const TopLevel &) = delete;
+    TopLevel &operator=(const TopLevel &) = delete;
+
+private:
+    Interpreter &m_interpreter;
+    int m_catchDepth;
+    CallFrame *m_frame;
+    Location m_location;
+};
+
+template <typename Body>
+Outcome Interpreter::topLevel(Body &&body)
+{
+    TopLevel scope(*this);
+    Outcome outcome;
+    try {
+        outcome.value = body();
+    } catch (Error &error) {
+        signal(error, nullptr);
+        outcome.error = std::move(error);
+    } catch (const std::bad_alloc &) {
+        outcome.error = Error("out of memory");
+    } catch (const std::exception &error) {
+        outcome.error = Error(error.what());
+    }
+    return outcome;
+}
+
+Outcome Interpreter::run(std::string_view text, std::string_view sourceName)
+{
+    return topLevel([&] { return evalText(text, sourceName); });
+}
+
+Outcome Interpreter::loadFile(const std::string &path)
+{
+    return topLevel([&] {
+        std::optional<std::string> bytes = readWholeFile(toPath(path), largestTextFile);
+        if (!bytes)
+            throw Error("LOAD failed: " + toText(Value::string(path)));
+        return evalText(decodeFile(std::move(*bytes)), path);
+    });
+}
+
+Outcome Interpreter::call(std::string_view name, std::span<const Value> arguments)
+{
+    return topLevel([&] { return apply(symbol(name), arguments); });
+}
+
+Outcome Interpreter::evaluate(const Value &form)
+{
+    return topLevel([&] { return eval(form); });
+}
+
+Value Interpreter::evalText(std::string_view text, std::string_view sourceName)
+{
+    Reader reader(*this, sourceName);
+    reader.feed(text);
+    reader.finish();
+    Value last;
+    while (std::optional<Value> form = reader.next())
+        last = eval(*form);
+    return last;
+}
+
+void Interpreter::define(std::string_view name, NativeClosure function, Arity arity, NativeKind kind)
+{
+    auto *native = new NativeFunction;
+    Value value = Value::adopt(Tag::Native, native);
+    native->function = [](Arguments &arguments) { return arguments.callee().closure(arguments); };
+    native->closure = std::move(function);
+    native->arity = arity;
+    native->kind = kind;
+    native->name = toUpperCase(name);
+    setVariable(name, std::move(value));
+}
+
+void Interpreter::define(std::span<const NativeRow> rows)
+{
+    for (const NativeRow &row : rows) {
+        auto *native = new NativeFunction;
+        Value value = Value::adopt(Tag::Native, native);
+        native->function = row.function;
+        native->arity = row.arity;
+        native->name = toUpperCase(row.name);
+        setVariable(row.name, std::move(value));
+    }
+}
+
+void Interpreter::defineSpecialForm(std::string_view name, SpecialFormPointer function)
+{
+    auto *native = new NativeFunction;
+    Value value = Value::adopt(Tag::Native, native);
+    native->specialForm = function;
+    native->kind = NativeKind::SpecialForm;
+    native->arity = Arity::any();
+    native->name = toUpperCase(name);
+    setVariable(name, std::move(value));
+}
+
+void Interpreter::undefine(std::string_view name)
+{
+    Symbol *symbol = m_symbols.find(name);
+    if (symbol && symbol->value().tag() == Tag::Native)
+        symbol->value() = Value();
+}
+
+bool Interpreter::isDefined(std::string_view name) const
+{
+    const Symbol *symbol = m_symbols.find(name);
+    return symbol && symbol->value().isFunction();
+}
+
+static FunctionEntry::Kind entryKind(NativeKind kind)
+{
+    switch (kind) {
+    case NativeKind::SpecialForm:
+        return FunctionEntry::Kind::SpecialForm;
+    case NativeKind::External:
+        return FunctionEntry::Kind::External;
+    default:
+        return FunctionEntry::Kind::Builtin;
+    }
+}
+
+std::vector<FunctionEntry> Interpreter::functions() const
+{
+    std::vector<FunctionEntry> entries;
+    for (const Symbol *symbol : m_symbols.all()) {
+        FunctionEntry entry;
+        entry.name = symbol->name();
+        if (symbol->value().tag() == Tag::Native) {
+            const NativeFunction &native = symbol->value().asNative();
+            entry.kind = entryKind(native.kind);
+            entry.arity = native.arity.text();
+        } else if (symbol->value().tag() == Tag::Function) {
+            const Function &function = symbol->value().asFunction();
+            SourceMap::Place place = m_sources.place(function.location);
+            entry.kind = FunctionEntry::Kind::User;
+            entry.arity = std::to_string(function.parameterCount);
+            entry.parameters = function.parameters.isNil() ? "()" : toText(function.parameters);
+            entry.file = std::move(place.file);
+            entry.line = place.line;
+        } else {
+            continue;
+        }
+        entries.push_back(std::move(entry));
+    }
+    return entries;
+}
+
+Value Interpreter::variable(std::string_view name) const
+{
+    const Symbol *symbol = m_symbols.find(name);
+    return symbol ? symbol->value() : Value();
+}
+
+void Interpreter::setVariable(std::string_view name, Value value)
+{
+    intern(name).value() = std::move(value);
+}
+
+Value Interpreter::makeSelectionSet(const std::vector<std::uint64_t> &entities)
+{
+    auto *set = new SelectionSet;
+    Value value = Value::adopt(Tag::SelectionSet, set);
+    for (const std::uint64_t entity : entities)
+        set->add(entity);
+    set->mark = ++m_selectionSets;
+    return value;
+}
+
+} // namespace host::lisp

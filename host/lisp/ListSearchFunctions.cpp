@@ -1,0 +1,151 @@
+// Finding, testing and removing list items.
+
+#include "host/lisp/Arguments.h"
+#include "host/lisp/Builtins.h"
+#include "host/lisp/Interpreter.h"
+
+namespace host::lisp {
+
+/// A function argument, made ready once for many calls.
+class Callback
+{
+public:
+    Callback(Arguments &args, std::size_t index)
+        : m_interpreter(args.interpreter()), m_function(m_interpreter.resolveFunction(args[index]))
+    {
+    }
+    Value operator()(std::span<const Value> arguments) const { return m_interpreter.apply(m_function, arguments); }
+    bool isTrueFor(const Value &item) const { return (*this)({&item, 1}).isTrue(); }
+
+private:
+    Interpreter &m_interpreter;
+    Value m_function;
+};
+
+// (member item list) -> the list from the first item that equals it; nil when there is none.
+static Value member(Arguments &args)
+{
+    const Value *rest = &args.list(1);
+    while (rest->isCons() && !isEqual(rest->car(), args[0]))
+        rest = &rest->cdr();
+    return rest->isCons() ? *rest : Value();
+}
+
+// (assoc key list) -> the first item whose own first item equals key. An item that is no list: bad association list.
+static Value assoc(Arguments &args)
+{
+    for (const Value &item : ListItems(args.list(1))) {
+        if (!item.isList())
+            args.badValue(1, "bad association list");
+        if (item.isCons() && isEqual(item.car(), args[0]))
+            return item;
+    }
+    return {};
+}
+
+// (vl-position item list) -> where the first equal item is, from 0; nil when there is none.
+static Value position(Arguments &args)
+{
+    std::int32_t index = 0;
+    for (const Value &item : ListItems(args.list(1))) {
+        if (isEqual(item, args[0]))
+            return Value::integer(index);
+        ++index;
+    }
+    return {};
+}
+
+enum class Wanted : std::uint8_t
+{
+    True,
+    False
+};
+
+// (vl-member-if test list), (vl-member-if-not test list) -> the list from the first item for which test gives not nil,
+// nil; nil when there is none.
+template <Wanted Which>
+static Value memberIf(Arguments &args)
+{
+    const Callback test(args, 0);
+    const Value *rest = &args.list(1);
+    while (rest->isCons() && test.isTrueFor(rest->car()) != (Which == Wanted::True))
+        rest = &rest->cdr();
+    return rest->isCons() ? *rest : Value();
+}
+
+// (vl-remove item list) -> the list without items that equal it.
+static Value remove(Arguments &args)
+{
+    ListBuilder kept;
+    for (const Value &item : ListItems(args.list(1))) {
+        if (!isEqual(item, args[0]))
+            kept.append(item);
+    }
+    return kept.take();
+}
+
+// (vl-remove-if test list), (vl-remove-if-not test list) -> the list without items for which test gives not nil, nil.
+template <Wanted Which>
+static Value removeIf(Arguments &args)
+{
+    const Callback test(args, 0);
+    ListBuilder kept;
+    for (const Value &item : ListItems(args.list(1))) {
+        if (test.isTrueFor(item) != (Which == Wanted::True))
+            kept.append(item);
+    }
+    return kept.take();
+}
+
+/// Calls a test for first items, second items, ... of all lists until its result is wanted.
+template <Wanted Which>
+static std::optional<Value> findResult(Arguments &args)
+{
+    const Callback test(args, 0);
+    std::vector<const Value *> rests;
+    for (std::size_t i = 1; i < args.size(); ++i)
+        rests.push_back(&args.list(i));
+    std::vector<Value> items(rests.size());
+    while (std::all_of(rests.begin(), rests.end(), [](const Value *rest) { return rest->isCons(); })) {
+        for (std::size_t i = 0; i < rests.size(); ++i) {
+            items[i] = rests[i]->car();
+            rests[i] = &rests[i]->cdr();
+        }
+        Value result = test(items);
+        if (result.isTrue() == (Which == Wanted::True))
+            return result;
+    }
+    return std::nullopt;
+}
+
+// (vl-some test list...) -> the first result that is not nil.
+static Value some(Arguments &args)
+{
+    return findResult<Wanted::True>(args).value_or(Value());
+}
+
+// (vl-every test list...) -> T when no result is nil.
+static Value every(Arguments &args)
+{
+    return args.boolean(!findResult<Wanted::False>(args));
+}
+
+static constexpr NativeRow rows[] = {
+    {"member", member, Arity::exactly(2)},
+    {"assoc", assoc, Arity::exactly(2)},
+    {"vl-position", position, Arity::exactly(2)},
+    {"vl-member-if", memberIf<Wanted::True>, Arity::exactly(2)},
+    {"vl-member-if-not", memberIf<Wanted::False>, Arity::exactly(2)},
+    {"vl-remove", remove, Arity::exactly(2)},
+    {"vl-remove-if", removeIf<Wanted::True>, Arity::exactly(2)},
+    {"vl-remove-if-not", removeIf<Wanted::False>, Arity::exactly(2)},
+    {"vl-some", some, Arity::atLeast(2)},
+    {"vl-every", every, Arity::atLeast(2)},
+};
+
+void addListSearchFunctions(Interpreter &interpreter)
+{
+    interpreter.define(rows);
+}
+
+} // namespace host::lisp

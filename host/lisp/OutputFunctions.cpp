@@ -1,0 +1,107 @@
+// Writing to the user and to files. A file argument that is not open: bad argument type: streamp.
+
+#include "host/lisp/Arguments.h"
+#include "host/lisp/Builtins.h"
+#include "host/lisp/File.h"
+#include "host/lisp/Interpreter.h"
+#include "host/lisp/Printer.h"
+#include "host/lisp/Text.h"
+
+namespace host::lisp {
+
+static void writeTo(Arguments &args, std::size_t fileIndex, std::string_view text)
+{
+    if (!args.has(fileIndex)) {
+        args.interpreter().console().write(text);
+        return;
+    }
+    File &file = args.file(fileIndex);
+    if (file.isReading())
+        args.badType(fileIndex, "streamp");
+    file.write(text);
+}
+
+/// What (princ) without arguments gives: a symbol without a name, so that a prompt that shows results shows nothing.
+static Value nothingToShow(Arguments &args)
+{
+    return args.interpreter().symbol({});
+}
+
+// (prin1 [value [file]]), (princ [value [file]]) -> value, written so that it can be read again, or plainly.
+template <PrintStyle Style>
+static Value write(Arguments &args)
+{
+    if (args.size() == 0)
+        return nothingToShow(args);
+    writeTo(args, 1, toText(args[0], Style));
+    return args[0];
+}
+
+// (print [value [file]]) -> value, written after a line feed and before a blank, so that it can be read again.
+static Value print(Arguments &args)
+{
+    if (args.size() == 0)
+        return nothingToShow(args);
+    writeTo(args, 1, "\n" + toText(args[0]) + " ");
+    return args[0];
+}
+
+// (prompt string) -> nil; writes it to the user.
+static Value prompt(Arguments &args)
+{
+    args.interpreter().console().write(args.string(0));
+    return {};
+}
+
+// (terpri) -> nil; a line feed for the user.
+static Value terpri(Arguments &args)
+{
+    args.interpreter().console().write("\n");
+    return {};
+}
+
+// (write-line string [file]) -> string, written with a line feed.
+static Value writeLine(Arguments &args)
+{
+    writeTo(args, 1, args.string(0) + "\n");
+    return args[0];
+}
+
+// (write-char code [file]) -> code, its character written.
+static Value writeChar(Arguments &args)
+{
+    std::string text;
+    const std::int32_t code = args.integer(0);
+    if (code >= 0)
+        appendCharacter(text, static_cast<char32_t>(code));
+    if (text.empty())
+        args.badValue(0);
+    writeTo(args, 1, text);
+    return args[0];
+}
+
+// (vl-princ-to-string value), (vl-prin1-to-string value) -> what princ and prin1 write.
+template <PrintStyle Style>
+static Value toString(Arguments &args)
+{
+    return Value::string(toText(args[0], Style));
+}
+
+static constexpr NativeRow rows[] = {
+    {"prin1", write<PrintStyle::Readable>, Arity::between(0, 2)},
+    {"princ", write<PrintStyle::Plain>, Arity::between(0, 2)},
+    {"print", print, Arity::between(0, 2)},
+    {"prompt", prompt, Arity::exactly(1)},
+    {"terpri", terpri, Arity::exactly(0)},
+    {"write-line", writeLine, Arity::between(1, 2)},
+    {"write-char", writeChar, Arity::between(1, 2)},
+    {"vl-princ-to-string", toString<PrintStyle::Plain>, Arity::exactly(1)},
+    {"vl-prin1-to-string", toString<PrintStyle::Readable>, Arity::exactly(1)},
+};
+
+void addOutputFunctions(Interpreter &interpreter)
+{
+    interpreter.define(rows);
+}
+
+} // namespace host::lisp

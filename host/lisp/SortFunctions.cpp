@@ -1,0 +1,86 @@
+// Sorting.
+
+#include "host/lisp/Arguments.h"
+#include "host/lisp/Builtins.h"
+#include "host/lisp/Interpreter.h"
+
+namespace host::lisp {
+
+/// Stable merge sort. Unlike the standard library's it is at ease with a comparison that contradicts itself or throws,
+/// as a program's may.
+template <typename Item, typename Less>
+static void mergeSort(std::vector<Item> &items, Less less)
+{
+    std::vector<Item> merged(items.size());
+    for (std::size_t width = 1; width < items.size(); width *= 2) {
+        for (std::size_t begin = 0; begin < items.size(); begin += 2 * width) {
+            const std::size_t middle = std::min(begin + width, items.size());
+            const std::size_t end = std::min(begin + 2 * width, items.size());
+            std::size_t left = begin;
+            std::size_t right = middle;
+            for (std::size_t to = begin; to < end; ++to) {
+                const bool takeRight = left == middle || (right < end && less(items[right], items[left]));
+                merged[to] = std::move(takeRight ? items[right++] : items[left++]);
+            }
+        }
+        items.swap(merged);
+    }
+}
+
+/// The places of the items of argument 0 in the order that function argument 1 gives.
+static std::vector<std::size_t> sortedPlaces(Arguments &args, const std::vector<Value> &items)
+{
+    Interpreter &interpreter = args.interpreter();
+    const Value function = interpreter.resolveFunction(args[1]);
+    std::vector<std::size_t> places(items.size());
+    for (std::size_t i = 0; i < places.size(); ++i)
+        places[i] = i;
+    mergeSort(places, [&](std::size_t left, std::size_t right) {
+        const Value pair[] = {items[left], items[right]};
+        return interpreter.apply(function, pair).isTrue();
+    });
+    return places;
+}
+
+// (vl-sort list before) -> the items in the order that (before a b) gives. Stable, and every item is kept: equal ones
+// are never dropped.
+static Value sort(Arguments &args)
+{
+    const std::vector<Value> items = listToVector(args.list(0));
+    ListBuilder sorted;
+    for (const std::size_t place : sortedPlaces(args, items))
+        sorted.append(items[place]);
+    return sorted.take();
+}
+
+// (vl-sort-i list before) -> where the items are in the list, in the order that (before a b) gives.
+static Value sortIndices(Arguments &args)
+{
+    ListBuilder indices;
+    for (const std::size_t place : sortedPlaces(args, listToVector(args.list(0))))
+        indices.append(Value::integer(static_cast<std::int32_t>(place)));
+    return indices.take();
+}
+
+// (acad_strlsort list) -> the strings in alphabetical order. Another item: bad argument type: stringp.
+static Value sortStrings(Arguments &args)
+{
+    std::vector<Value> strings = listToVector(args.list(0));
+    if (!std::all_of(strings.begin(), strings.end(), [](const Value &item) { return item.isString(); }))
+        args.badType(0, "stringp");
+    mergeSort(strings, [](const Value &left, const Value &right) { return left.asString() < right.asString(); });
+    return Value::list(strings);
+}
+
+static constexpr NativeRow rows[] = {
+    {"vl-sort", sort, Arity::exactly(2)},
+    {"vl-sort-i", sortIndices, Arity::exactly(2)},
+    {"acad_strlsort", sortStrings, Arity::exactly(1)},
+};
+
+void addSortFunctions(Interpreter &interpreter)
+{
+    interpreter.define(rows);
+}
+
+} // namespace host::lisp

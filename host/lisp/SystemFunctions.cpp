@@ -1,0 +1,95 @@
+// The engine and its surroundings.
+
+#include "host/lisp/Arguments.h"
+#include "host/lisp/Builtins.h"
+#include "host/lisp/Interpreter.h"
+#include "host/lisp/Text.h"
+
+#include <cstdlib>
+
+namespace host::lisp {
+
+// (getenv name) -> what setenv or the environment of the process holds; nil for nothing.
+static Value getEnvironment(Arguments &args)
+{
+    const auto &own = args.interpreter().environment();
+    if (const auto found = own.find(args.string(0)); found != own.end())
+        return Value::string(found->second);
+    const char *value = std::getenv(args.string(0).c_str());
+    return value ? Value::string(value) : Value();
+}
+
+// (setenv name value) -> value, kept by this engine. The process keeps its environment.
+static Value setEnvironment(Arguments &args)
+{
+    args.interpreter().environment()[args.string(0)] = args.string(1);
+    return args[1];
+}
+
+// (ver) -> the name of the language.
+static Value version(Arguments &)
+{
+    return Value::string("CAD Lisp");
+}
+
+// (vl-bb-set sym value) -> value, kept apart from the variable. (vl-bb-ref sym) -> it; nil for nothing.
+static Value blackboardSet(Arguments &args)
+{
+    args.interpreter().blackboard()[args.symbol(0).name()] = args[1];
+    return args[1];
+}
+
+static Value blackboardRef(Arguments &args)
+{
+    const auto &blackboard = args.interpreter().blackboard();
+    const auto found = blackboard.find(args.symbol(0).name());
+    return found == blackboard.end() ? Value() : found->second;
+}
+
+// (snvalid name [flag]) -> T when a table entry may have the name: not empty, none of < > / \ " : ; ? * , = ` and,
+// unless flag is 1, no |.
+static Value isValidSymbolName(Arguments &args)
+{
+    const std::string &name = args.string(0);
+    const bool allowsBar = args.integerOr(1, 0) == 1;
+    const bool hasRefused = name.find_first_of("<>/\\\":;?*,=`") != std::string::npos;
+    const bool hasBar = name.find('|') != std::string::npos;
+    const bool isBlankAtEnds = !name.empty() && (isBlank(name.front()) || isBlank(name.back()));
+    return args.boolean(!name.empty() && !hasRefused && !isBlankAtEnds && (allowsBar || !hasBar));
+}
+
+// (gc), (mem), (vl-load-com), ... -> nil. They concern what this engine does by itself or does not have.
+static Value nothing(Arguments &)
+{
+    return {};
+}
+
+// (alloc count), (expand count) -> count. Memory is taken as it is needed.
+static Value sameNumber(Arguments &args)
+{
+    return Value::integer(args.integer(0));
+}
+
+static constexpr NativeRow rows[] = {
+    {"getenv", getEnvironment, Arity::exactly(1)},
+    {"setenv", setEnvironment, Arity::exactly(2)},
+    {"ver", version, Arity::exactly(0)},
+    {"vl-bb-set", blackboardSet, Arity::exactly(2)},
+    {"vl-bb-ref", blackboardRef, Arity::exactly(1)},
+    {"snvalid", isValidSymbolName, Arity::between(1, 2)},
+    {"gc", nothing, Arity::exactly(0)},
+    {"mem", nothing, Arity::exactly(0)},
+    {"vmon", nothing, Arity::exactly(0)},
+    {"vl-load-com", nothing, Arity::exactly(0)},
+    {"vl-load-reactors", nothing, Arity::exactly(0)},
+    {"pragma", nothing, Arity::any()},
+    {"alloc", sameNumber, Arity::exactly(1)},
+    {"expand", sameNumber, Arity::exactly(1)},
+};
+
+void addSystemFunctions(Interpreter &interpreter)
+{
+    interpreter.define(rows);
+}
+
+} // namespace host::lisp

@@ -1,0 +1,224 @@
+#include "host/lisp/Text.h"
+
+#include <algorithm>
+#include <array>
+
+namespace host::lisp {
+
+bool isAscii(std::string_view text) noexcept
+{
+    return std::all_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+}
+
+/// The length of the valid character at `position`; 0 when the bytes there are none.
+static std::size_t validLength(std::string_view text, std::size_t position) noexcept
+{
+    const auto byte = [&](std::size_t offset) -> unsigned {
+        const std::size_t at = position + offset;
+        return at < text.size() ? static_cast<unsigned char>(text[at]) : 0U;
+    };
+    const auto follows = [&](std::size_t offset) { return (byte(offset) & 0xC0U) == 0x80U; };
+    const unsigned lead = byte(0);
+    if (lead < 0x80)
+        return 1;
+    if (lead >= 0xC2 && lead <= 0xDF)
+        return follows(1) ? 2 : 0;
+    if (lead >= 0xE0 && lead <= 0xEF) {
+        const bool overlong = lead == 0xE0 && byte(1) < 0xA0;
+        const bool surrogate = lead == 0xED && byte(1) > 0x9F;
+        return follows(1) && follows(2) && !overlong && !surrogate ? 3 : 0;
+    }
+    if (lead >= 0xF0 && lead <= 0xF4) {
+        const bool overlong = lead == 0xF0 && byte(1) < 0x90;
+        const bool tooLarge = lead == 0xF4 && byte(1) > 0x8F;
+        return follows(1) && follows(2) && follows(3) && !overlong && !tooLarge ? 4 : 0;
+    }
+    return 0;
+}
+
+bool isValidUtf8(std::string_view text) noexcept
+{
+    for (std::size_t position = 0; position < text.size();) {
+        const std::size_t length = validLength(text, position);
+        if (length == 0)
+            return false;
+        position += length;
+    }
+    return true;
+}
+
+char32_t takeCharacter(std::string_view text, std::size_t &position) noexcept
+{
+    const std::size_t length = std::max<std::size_t>(1, validLength(text, position));
+    const auto lead = static_cast<unsigned char>(text[position]);
+    if (length == 1) {
+        ++position;
+        return lead;
+    }
+    char32_t character = lead & (0x7FU >> length);
+    for (std::size_t i = 1; i < length; ++i)
+        character = (character << 6U) | (static_cast<unsigned char>(text[position + i]) & 0x3FU);
+    position += length;
+    return character;
+}
+
+std::size_t characterCount(std::string_view text) noexcept
+{
+    std::size_t count = 0;
+    for (std::size_t position = 0; position < text.size(); ++count)
+        position += std::max<std::size_t>(1, validLength(text, position));
+    return count;
+}
+
+std::size_t byteOffset(std::string_view text, std::size_t index) noexcept
+{
+    std::size_t position = 0;
+    for (; index > 0 && position < text.size(); --index)
+        position += std::max<std::size_t>(1, validLength(text, position));
+    return position;
+}
+
+void appendCharacter(std::string &text, char32_t character)
+{
+    const auto put = [&](char32_t byte) { text.push_back(static_cast<char>(byte)); };
+    const auto putTail = [&](unsigned shift) { put(0x80U | ((character >> shift) & 0x3FU)); };
+    if (character < 0x80) {
+        put(character);
+    } else if (character < 0x800) {
+        put(0xC0U | (character >> 6U));
+        putTail(0);
+    } else if (character >= 0xD800 && character <= 0xDFFF) {
+        return;
+    } else if (character < 0x10000) {
+        put(0xE0U | (character >> 12U));
+        putTail(6);
+        putTail(0);
+    } else if (character <= 0x10FFFF) {
+        put(0xF0U | (character >> 18U));
+        putTail(12);
+        putTail(6);
+        putTail(0);
+    }
+}
+
+std::vector<char32_t> toCharacters(std::string_view text)
+{
+    std::vector<char32_t> characters;
+    characters.reserve(text.size());
+    for (std::size_t position = 0; position < text.size();)
+        characters.push_back(takeCharacter(text, position));
+    return characters;
+}
+
+std::string fromCharacters(const std::vector<char32_t> &characters)
+{
+    std::string text;
+    text.reserve(characters.size());
+    for (const char32_t character : characters)
+        appendCharacter(text, character);
+    return text;
+}
+
+/// Letters that come in runs of upper case followed by lower case, a fixed distance apart.
+struct CaseRun
+{
+    char32_t firstUpper;
+    char32_t lastUpper;
+    char32_t distance;
+};
+
+static constexpr std::array<CaseRun, 8> caseRuns = {{
+    {U'A', U'Z', 32},
+    {0xC0, 0xD6, 32},
+    {0xD8, 0xDE, 32},
+    {0x391, 0x3A1, 32},
+    {0x3A3, 0x3AB, 32},
+    {0x400, 0x40F, 80},
+    {0x410, 0x42F, 32},
+    {0x388, 0x38A, 37},
+}};
+
+/// Latin and Cyrillic letters whose upper and lower case alternate. 1: upper case is odd, 0: even; -1: elsewhere.
+static int upperParity(char32_t c) noexcept
+{
+    const bool upperEven = (c >= 0x100 && c <= 0x12F) || (c >= 0x132 && c <= 0x137) || (c >= 0x14A && c <= 0x177) ||
+                           (c >= 0x460 && c <= 0x481) || (c >= 0x48A && c <= 0x4BF) || (c >= 0x4D0 && c <= 0x52F);
+    const bool upperOdd = (c >= 0x139 && c <= 0x148) || (c >= 0x179 && c <= 0x17E);
+    return upperEven ? 0 : upperOdd ? 1 : -1;
+}
+
+char32_t upperCharacter(char32_t c) noexcept
+{
+    if (c < 0x80)
+        return c >= U'a' && c <= U'z' ? c - 32 : c;
+    for (const CaseRun &run : caseRuns) {
+        if (c >= run.firstUpper + run.distance && c <= run.lastUpper + run.distance)
+            return c - run.distance;
+    }
+    const int parity = upperParity(c);
+    return parity >= 0 && static_cast<int>(c % 2) != parity ? c - 1 : c;
+}
+
+char32_t lowerCharacter(char32_t c) noexcept
+{
+    if (c < 0x80)
+        return c >= U'A' && c <= U'Z' ? c + 32 : c;
+    for (const CaseRun &run : caseRuns) {
+        if (c >= run.firstUpper && c <= run.lastUpper)
+            return c + run.distance;
+    }
+    const int parity = upperParity(c);
+    return parity >= 0 && static_cast<int>(c % 2) == parity ? c + 1 : c;
+}
+
+template <typename Map>
+static std::string mapCharacters(std::string_view text, Map map)
+{
+    std::string mapped;
+    mapped.reserve(text.size());
+    for (std::size_t position = 0; position < text.size();) {
+        const std::size_t begin = position;
+        const char32_t character = takeCharacter(text, position);
+        // A stray byte stays the byte it is: only whole characters are written anew.
+        if (position - begin == 1 && character >= 0x80)
+            mapped.push_back(text[begin]);
+        else
+            appendCharacter(mapped, map(character));
+    }
+    return mapped;
+}
+
+std::string toUpperCase(std::string_view text)
+{
+    return mapCharacters(text, upperCharacter);
+}
+
+std::string toLowerCase(std::string_view text)
+{
+    return mapCharacters(text, lowerCharacter);
+}
+
+static std::string decodeWindows1252(std::string_view bytes)
+{
+    static constexpr std::array<char16_t, 32> special = {
+        0x20AC, 0x81,   0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
+        0x2039, 0x0152, 0x8D,   0x017D, 0x8F,   0x90,   0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
+        0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x9D,   0x017E, 0x0178,
+    };
+    std::string text;
+    text.reserve(bytes.size() + bytes.size() / 8);
+    for (const char c : bytes) {
+        const auto byte = static_cast<unsigned char>(c);
+        appendCharacter(text, byte >= 0x80 && byte < 0xA0 ? special[byte - 0x80] : byte);
+    }
+    return text;
+}
+
+std::string decodeFile(std::string bytes)
+{
+    if (bytes.starts_with("\xEF\xBB\xBF"))
+        bytes.erase(0, 3);
+    return isValidUtf8(bytes) ? std::move(bytes) : decodeWindows1252(bytes);
+}
+
+} // namespace host::lisp

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace host::lisp {
+
+// UTF-8 text. Bytes that are no valid UTF-8 count as one character each, so that no function here can fail or run past
+// the end.
+
+bool isAscii(std::string_view text) noexcept;
+bool isValidUtf8(std::string_view text) noexcept;
+/// The number of characters.
+std::size_t characterCount(std::string_view text) noexcept;
+/// Where character number `index` begins; the length of `text` when there are not that many.
+std::size_t byteOffset(std::string_view text, std::size_t index) noexcept;
+/// Reads the character at `position`, which must be inside, and moves behind it. A stray byte gives its own value.
+char32_t takeCharacter(std::string_view text, std::size_t &position) noexcept;
+/// Appends the character; nothing for a value that is no character.
+void appendCharacter(std::string &text, char32_t character);
+std::vector<char32_t> toCharacters(std::string_view text);
+std::string fromCharacters(const std::vector<char32_t> &characters);
+
+/// Case by the one-to-one mappings of Latin, Greek and Cyrillic letters; other characters stay.
+std::string toUpperCase(std::string_view text);
+std::string toLowerCase(std::string_view text);
+char32_t upperCharacter(char32_t character) noexcept;
+char32_t lowerCharacter(char32_t character) noexcept;
+
+/// The text of a file: a byte-order mark is dropped, and what is no valid UTF-8 is taken as Windows-1252.
+std::string decodeFile(std::string bytes);
+
+/// Blank, tab, line feed, carriage return, form feed or vertical tab.
+constexpr bool isBlank(char c) noexcept
+{
+    return c == ' ' || (c >= '\t' && c <= '\r');
+}
+
+} // namespace host::lisp

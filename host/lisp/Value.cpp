@@ -1,0 +1,264 @@
+#include "host/lisp/Value.h"
+
+#include "host/lisp/File.h"
+#include "host/lisp/Function.h"
+#include "host/lisp/Native.h"
+
+namespace host::lisp {
+
+/// Takes objects apart whose last reference went. Chains of pairs and functions may be as long and as deep as memory
+/// allows, so nothing here calls itself: pairs that wait for their turn are linked through their own, now unused cells.
+class Demolition
+{
+public:
+    static void run(Tag tag, Object *object) noexcept
+    {
+        if (Cons *first = takeApart(tag, object))
+            freePairs(first);
+    }
+
+private:
+    /// Frees an object and, while it was the last to hold a function or list, that too, up to the first pair.
+    static Cons *takeApart(Tag tag, Object *object) noexcept
+    {
+        while (tag == Tag::Function) {
+            auto *function = static_cast<Function *>(object);
+            Value body;
+            body.swap(function->body);
+            delete function;
+            if (!loseReference(body))
+                return nullptr;
+            tag = body.m_tag;
+            object = body.m_object;
+            body.m_tag = Tag::Nil;
+        }
+        if (tag == Tag::Cons)
+            return static_cast<Cons *>(object);
+        deleteLeaf(tag, object);
+        return nullptr;
+    }
+
+    /// Whether `value` held the last reference to its object. It holds none afterwards, but still points there.
+    static bool loseReference(Value &value) noexcept
+    {
+        if (value.m_tag >= Tag::String && --value.m_object->references == 0)
+            return true;
+        value.m_tag = Tag::Nil;
+        return false;
+    }
+
+    /// Empties a cell; the pair that died with its content, or null.
+    static Cons *emptyCell(Value &cell) noexcept
+    {
+        if (!loseReference(cell))
+            return nullptr;
+        const Tag tag = cell.m_tag;
+        cell.m_tag = Tag::Nil;
+        return takeApart(tag, cell.m_object);
+    }
+
+    static void freePairs(Cons *pair) noexcept
+    {
+        Cons *waiting = nullptr;
+        while (pair) {
+            Cons *first = emptyCell(pair->car);
+            Cons *rest = emptyCell(pair->cdr);
+            if (first && rest) {
+                pair->car.m_object = first;
+                pair->cdr.m_object = waiting;
+                waiting = pair;
+                pair = rest;
+                continue;
+            }
+            delete pair;
+            pair = first ? first : rest;
+            if (!pair && waiting) {
+                Cons *next = static_cast<Cons *>(waiting->cdr.m_object);
+                pair = static_cast<Cons *>(waiting->car.m_object);
+                delete waiting;
+                waiting = next;
+            }
+        }
+    }
+
+    static void deleteLeaf(Tag tag, Object *object) noexcept
+    {
+        switch (tag) {
+        case Tag::String:
+            delete static_cast<StringObject *>(object);
+            break;
+        case Tag::Native:
+            delete static_cast<NativeFunction *>(object);
+            break;
+        case Tag::File:
+            delete static_cast<File *>(object);
+            break;
+        case Tag::SelectionSet:
+            delete static_cast<SelectionSet *>(object);
+            break;
+        case Tag::CaughtError:
+            delete static_cast<CaughtError *>(object);
+            break;
+        default:
+            assert(false);
+        }
+    }
+};
+
+void destroyObject(Tag tag, Object *object) noexcept
+{
+    Demolition::run(tag, object);
+}
+
+Value Value::string(std::string text)
+{
+    auto *object = new StringObject;
+    object->text = std::move(text);
+    return adopt(Tag::String, object);
+}
+
+Value Value::list(std::span<const Value> items)
+{
+    ListBuilder builder;
+    for (const Value &item : items)
+        builder.append(item);
+    return builder.take();
+}
+
+Value Value::list(std::initializer_list<Value> items)
+{
+    return list(std::span<const Value>(items.begin(), items.size()));
+}
+
+Value Value::point(double x, double y)
+{
+    return list({real(x), real(y)});
+}
+
+Value Value::point(double x, double y, double z)
+{
+    return list({real(x), real(y), real(z)});
+}
+
+bool Value::isSame(const Value &other) const noexcept
+{
+    if (m_tag != other.m_tag)
+        return false;
+    switch (m_tag) {
+    case Tag::Nil:
+        return true;
+    case Tag::Integer:
+        return m_integer == other.m_integer;
+    case Tag::Real:
+        return m_real == other.m_real;
+    case Tag::String:
+        // Nothing can tell two strings of the same text apart, so neither does eq.
+        return m_object == other.m_object || asString() == other.asString();
+    default:
+        return m_bits == other.m_bits;
+    }
+}
+
+bool SelectionSet::add(std::uint64_t entity)
+{
+    if (!members.insert(entity).second)
+        return false;
+    entities.push_back(entity);
+    return true;
+}
+
+bool SelectionSet::remove(std::uint64_t entity)
+{
+    if (members.erase(entity) == 0)
+        return false;
+    for (std::size_t i = 0;; ++i) {
+        const std::size_t fromEnd = entities.size() - 1 - i;
+        const std::size_t place = entities[i] == entity ? i : fromEnd;
+        if (entities[place] == entity) {
+            entities.erase(entities.begin() + static_cast<std::ptrdiff_t>(place));
+            return true;
+        }
+    }
+}
+
+void ListBuilder::append(Value item)
+{
+    Value pair = Value::cons(std::move(item), Value());
+    auto *added = const_cast<Cons *>(&pair.asCons());
+    if (m_last)
+        m_last->cdr = std::move(pair);
+    else
+        m_head = std::move(pair);
+    m_last = added;
+}
+
+void ListBuilder::setTail(Value tail)
+{
+    if (m_last)
+        m_last->cdr = std::move(tail);
+    else
+        m_head = std::move(tail);
+    m_last = nullptr;
+}
+
+Value ListBuilder::take()
+{
+    m_last = nullptr;
+    return std::exchange(m_head, Value());
+}
+
+std::size_t listLength(const Value &list)
+{
+    std::size_t length = 0;
+    for (const Value *rest = &list; rest->isCons(); rest = &rest->cdr())
+        ++length;
+    return length;
+}
+
+std::vector<Value> listToVector(const Value &list)
+{
+    std::vector<Value> items;
+    for (const Value &item : ListItems(list))
+        items.push_back(item);
+    return items;
+}
+
+static bool isEqualAtom(const Value &left, const Value &right, double fuzz)
+{
+    if (left.isNumber() && right.isNumber()) {
+        const double a = left.asReal();
+        const double b = right.asReal();
+        return a == b || std::fabs(a - b) <= fuzz;
+    }
+    return left.isSame(right);
+}
+
+bool isEqual(const Value &left, const Value &right, double fuzz)
+{
+    struct Pair
+    {
+        const Value *left;
+        const Value *right;
+    };
+    std::vector<Pair> waiting;
+    const Value *a = &left;
+    const Value *b = &right;
+    while (true) {
+        const bool bothPairs = a->isCons() && b->isCons();
+        if (bothPairs && &a->asCons() != &b->asCons()) {
+            waiting.push_back({&a->cdr(), &b->cdr()});
+            a = &a->car();
+            b = &b->car();
+            continue;
+        }
+        if (!bothPairs && !isEqualAtom(*a, *b, fuzz))
+            return false;
+        if (waiting.empty())
+            return true;
+        a = waiting.back().left;
+        b = waiting.back().right;
+        waiting.pop_back();
+    }
+}
+
+} // namespace host::lisp
