@@ -1,25 +1,34 @@
 #pragma once
 
 #include "host/drawing/Drawing.h"
+#include "host/drawing/Matrix.h"
 #include "host/drawing/Save.h"
 #include "host/kernel/UndoSteps.h"
 #include "platform/kernel/CKvDocument.h"
 
+#include <QHash>
 #include <QObject>
 #include <QSize>
+#include <QStringList>
 
 #include <functional>
 #include <memory>
 #include <vector>
 
+namespace host::drawing {
+class BoxCache;
+}
+
 namespace host::lisp {
 class Interpreter;
-}
+struct Outcome;
+} // namespace host::lisp
 
 namespace host::kernel {
 
 class CommandRun;
 class DrawingDatabase;
+class EntityMaker;
 class LispConsole;
 class LispEngine;
 class Session;
@@ -56,7 +65,7 @@ public:
     Document(Session &session, std::unique_ptr<drawing::Drawing> drawing, const QString &untitledName);
     ~Document() override;
 
-    Session &session() { return m_session; }
+    Session &session() const { return m_session; }
     drawing::Drawing &drawing() { return *m_drawing; }
     const drawing::Drawing &drawing() const { return *m_drawing; }
     lisp::Interpreter &interpreter();
@@ -126,7 +135,15 @@ public:
     std::unique_ptr<CommandRun> takePendingCommand();
     void pushCommandName(const QString &name) { m_commandNames.append(name); }
     void popCommandName() { m_commandNames.removeLast(); }
-    /// Made when the document is announced, gone after LispDocumentClosing.
+    /// From the current user coordinate system to world coordinates.
+    drawing::Matrix userAxes() const;
+    /// Boxes of entities, for picking.
+    drawing::BoxCache &boxes() { return *m_boxes; }
+    /// What (entmake) has collected of an entity or block that is made in pieces.
+    EntityMaker &entityMaker() { return *m_entityMaker; }
+    /// Where (tblnext) and (dictnext) stand, by table name or the dictionary's handle.
+    QHash<QString, drawing::RecordId> &cursors() { return m_cursors; }
+    /// The interpreter is made when the document is announced and gone after LispDocumentClosing.
     void openLisp();
     void closeLisp();
 
@@ -152,7 +169,7 @@ private:
     class Run;
     RunResult runBuiltIn(const QString &typed);
     void finishPendingCommand();
-    RunResult reportOutcome(const struct LispOutcome &outcome);
+    RunResult report(const lisp::Outcome &outcome);
 
     Session &m_session;
     std::unique_ptr<drawing::Drawing> m_drawing;
@@ -165,6 +182,9 @@ private:
     std::unique_ptr<lisp::Interpreter> m_interpreter;
     std::unique_ptr<LispEngine> m_lispEngine;
     std::unique_ptr<CommandRun> m_pendingCommand;
+    std::unique_ptr<drawing::BoxCache> m_boxes;
+    std::unique_ptr<EntityMaker> m_entityMaker;
+    QHash<QString, drawing::RecordId> m_cursors;
     QStringList m_commandNames;
     QString m_lastCommand;
     int m_runs = 0;

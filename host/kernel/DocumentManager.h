@@ -56,6 +56,7 @@ signals:
 
 private:
     Document *add(std::unique_ptr<drawing::Drawing> drawing);
+    void remove(Document *document);
     template <typename Call>
     void tell(Call &&call);
 

@@ -12,7 +12,6 @@
 namespace host::kernel {
 
 class Document;
-struct HostVariable;
 
 /// The value of a system variable: an integer, a real, text or a point.
 using VariableValue = std::variant<qint32, double, QString, drawing::Vec2, drawing::Vec3>;
@@ -48,6 +47,7 @@ public:
     // For readers who know what they want: `otherwise` for an unknown name or another kind of value.
     qint32 integer(QStringView name, qint32 otherwise = 0) const;
     double real(QStringView name, double otherwise = 0.0) const;
+    drawing::Vec3 point(QStringView name) const;
     QString text(QStringView name) const;
     /// As text, whatever its kind: what a prompt shows. Empty for an unknown name.
     QString display(QStringView name) const;
@@ -58,8 +58,6 @@ public:
 
 private:
     std::optional<VariableValue> headerValue(const QString &name) const;
-    SetOutcome setHeader(const QString &name, const VariableValue &value);
-    void store(const HostVariable &variable, const VariableValue &value);
 
     Document &m_document;
     QHash<QString, VariableValue> m_values; ///< host variables that were set, by upper-case name

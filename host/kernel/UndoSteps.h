@@ -54,9 +54,9 @@ private:
     };
     void closeJournalGroup();
     void openJournalGroup();
+    void absorbLooseChanges();
     void addStep(const QString &name, int depthBefore);
     void undoOne();
-    void undoToDepth(int depth);
     void mergeFrom(int depth, const QString &name);
 
     drawing::Journal &m_journal;

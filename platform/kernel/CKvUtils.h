@@ -16,8 +16,8 @@ public:
     static QIcon icon(const QString &folder, const QString &name);
     /// Whether the host's style is dark now.
     static bool isDarkStyle();
-    /// The drawing file at `path` fitted into an image of `size` pixels on `background`. A null image when the file
-    /// cannot be read as a drawing.
+    /// The drawing file at `path` fitted into an image of `size` pixels, on black or white, whichever `background` is
+    /// nearer to. A null image when the file cannot be read as a drawing.
     static QImage drawingPicture(const OdString &path, const QSize &size, const QColor &background);
     /// The drawings that the drawing file at `path` refers to, as the file has them; empty for an unreadable file.
     static QStringList externalReferences(const OdString &path);

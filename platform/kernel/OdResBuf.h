@@ -37,7 +37,7 @@ public:
         kRtLong = 5010,    ///< 32-bit integer
         kRtListBegin = 5016,
         kRtListEnd = 5017,
-        kRtDottedPair = 5018,
+        kRtDottedPair = 5018, ///< in place of the list end: the last item is what stands behind the dot
         kRtNil = 5019,
         kRtTrue = 5021,
     };

@@ -39,9 +39,16 @@ signals:
     void filled();
 
 private:
-    /// Typed text that is not used up yet, or one answer.
-    using Item = std::variant<QString, InputAnswer>;
-    std::optional<QString> takeTyped(const PromptRequest &request);
+    /// Typed text and how much of it is used up.
+    struct Typed
+    {
+        QString text;
+        qsizetype position = 0;
+    };
+    using Item = std::variant<Typed, InputAnswer>;
+
+    static std::optional<QString> takeTyped(Typed &typed, const PromptRequest &request);
+    static void skipDelimiter(Typed &typed, qsizetype end);
 
     std::deque<Item> m_items;
 };

@@ -1,5 +1,7 @@
 #include "platform/widgets/CKvQtColorComboBox.h"
 
+#include "host/view/AciColor.h"
+
 #include <QPainter>
 #include <QStyledItemDelegate>
 
@@ -30,41 +32,10 @@ int colorNumber(const QString &text)
     return ok && number >= byBlock && number <= byLayer ? number : -1;
 }
 
-/// Red, green and blue of colour numbers 10 to 249: 24 hues, each in five darkening pairs of full and pale.
-QColor wheelColor(int index)
-{
-    static constexpr int values[] = {255, 189, 129, 104, 79};
-    const int hue = (index / 10 - 1) * 15;
-    const int value = values[index % 10 / 2];
-    return QColor::fromHsv(hue, index % 2 ? 85 : 255, value);
-}
-
-QColor swatchColor(int index)
-{
-    static const QColor basic[] = {Qt::gray,
-                                   Qt::red,
-                                   Qt::yellow,
-                                   Qt::green,
-                                   Qt::cyan,
-                                   Qt::blue,
-                                   Qt::magenta,
-                                   Qt::white,
-                                   QColor(128, 128, 128),
-                                   QColor(192, 192, 192)};
-    static constexpr int greys[] = {51, 91, 132, 173, 214, 255};
-    if (index == byLayer)
-        return Qt::white;
-    if (index < 10)
-        return basic[index];
-    if (index >= 250)
-        return QColor(greys[index - 250], greys[index - 250], greys[index - 250]);
-    return wheelColor(index);
-}
-
 QIcon swatch(int index)
 {
     QPixmap picture(16, 16);
-    picture.fill(swatchColor(index));
+    picture.fill(host::view::aciColor(index, host::view::Ground::White));
     QPainter painter(&picture);
     painter.setPen(Qt::darkGray);
     painter.drawRect(0, 0, 15, 15);

@@ -1,13 +1,26 @@
+#include "host/drawing/Blocks.h"
+#include "host/drawing/Drawing.h"
+#include "host/view/Export.h"
 #include "platform/kernel/CKvUtils.h"
 
-// Nothing in the host reads drawing files yet: every file counts as one that cannot be read as a drawing.
-
-QImage CKvUtils::drawingPicture(const OdString &, const QSize &, const QColor &)
+QImage CKvUtils::drawingPicture(const OdString &path, const QSize &size, const QColor &background)
 {
-    return {};
+    // Pictures come on black or white, whichever the colours of the drawing suit on this background.
+    const bool isDark = background.lightness() < 128;
+    return host::view::picture(path, size, isDark ? host::view::Ground::Black : host::view::Ground::White);
 }
 
-QStringList CKvUtils::externalReferences(const OdString &)
+QStringList CKvUtils::externalReferences(const OdString &path)
 {
-    return {};
+    const host::drawing::ReadResult read = host::drawing::Drawing::open(path);
+    QStringList paths;
+    if (!read)
+        return paths;
+    const host::drawing::Blocks &blocks = read.drawing->blocks();
+    for (host::drawing::RecordId id : blocks.all()) {
+        const host::drawing::Block block = blocks.read(id);
+        if (block.isExternal() && !block.externalPath.isEmpty())
+            paths.append(block.externalPath);
+    }
+    return paths;
 }

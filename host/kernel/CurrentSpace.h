@@ -1,0 +1,19 @@
+#pragma once
+
+#include "host/drawing/Entities.h"
+
+namespace host::kernel {
+
+/// The space that TILEMODE makes current: new entities go there, "all" and picks look there.
+drawing::Space currentSpace(const drawing::Drawing &drawing);
+
+/// Name of the layout whose paper space is in use; "Layout1" where the file does not say.
+QString paperLayoutName(const drawing::Drawing &drawing);
+
+/// Name of the layout tab that is current: "Model" or that of the paper space in use.
+QString currentLayout(const drawing::Drawing &drawing);
+
+/// The layout's name as the drawing spells it: "Model", or the paper space in use; empty for any other name.
+QString layoutName(const drawing::Drawing &drawing, const QString &name);
+
+} // namespace host::kernel

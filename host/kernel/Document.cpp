@@ -1,0 +1,196 @@
+#include "host/kernel/Document.h"
+
+#include "host/drawing/EntityGeometry.h"
+#include "host/drawing/HeaderVariables.h"
+#include "host/drawing/Journal.h"
+#include "host/kernel/DrawingDatabase.h"
+#include "host/kernel/Editor.h"
+#include "host/kernel/LispConsole.h"
+#include "host/kernel/LispEngine.h"
+#include "host/kernel/Session.h"
+#include "host/kernel/SystemVariables.h"
+#include "host/kernel/commands/CommandRun.h"
+#include "host/kernel/functions/EntityMaker.h"
+#include "host/kernel/functions/NativeFunctions.h"
+#include "host/kernel/input/UserInput.h"
+#include "host/lisp/Interpreter.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+namespace host::kernel {
+
+Document::Document(Session &session, std::unique_ptr<drawing::Drawing> drawing, const QString &untitledName)
+    : m_session(session), m_drawing(std::move(drawing)), m_untitledName(untitledName),
+      m_undoSteps(m_drawing->journal()), m_variables(std::make_unique<SystemVariables>(*this)),
+      m_userInput(std::make_unique<UserInput>(*this)), m_database(std::make_unique<DrawingDatabase>(*this)),
+      m_console(std::make_unique<LispConsole>(*this)), m_boxes(std::make_unique<drawing::BoxCache>(*m_drawing)),
+      m_entityMaker(std::make_unique<EntityMaker>(*this))
+{
+}
+
+Document::~Document() = default;
+
+lisp::Interpreter &Document::interpreter()
+{
+    return *m_interpreter;
+}
+
+QString Document::title() const
+{
+    return path().isEmpty() ? m_untitledName : QFileInfo(path()).fileName();
+}
+
+bool Document::isModified() const
+{
+    return m_drawing->journal().isModified();
+}
+
+void Document::openLisp()
+{
+    m_interpreter = std::make_unique<lisp::Interpreter>(*m_console);
+    addNativeFunctions(*m_interpreter);
+    m_lispEngine = std::make_unique<LispEngine>(*this);
+}
+
+void Document::closeLisp()
+{
+    m_pendingCommand.reset();
+    m_lispEngine.reset();
+    m_interpreter.reset();
+}
+
+drawing::SaveResult Document::save()
+{
+    if (path().isEmpty())
+        return {QStringLiteral("%1 has no file yet.").arg(title())};
+    return saveAs(path());
+}
+
+drawing::SaveResult Document::saveAs(const QString &path)
+{
+    // What the reactors store belongs into the file.
+    runAs(QStringLiteral("SAVE"), [&] { m_session.editor().beginSave(m_database.get(), path); });
+    drawing::SaveResult result = drawing::save(*m_drawing, path);
+    emit titleChanged();
+    return result;
+}
+
+void Document::setView(const ViewState &view)
+{
+    m_view = view;
+    emit viewChanged();
+}
+
+void Document::zoomTo(const drawing::Box &box)
+{
+    if (box.isEmpty())
+        return;
+    constexpr double margin = 1.05;
+    const double aspect = m_view.pixels.isEmpty() ? 1.0 : double(m_view.pixels.width()) / m_view.pixels.height();
+    const double height = std::max(box.high.y - box.low.y, (box.high.x - box.low.x) / aspect) * margin;
+    ViewState view = m_view;
+    view.centre = ((box.low + box.high) * 0.5).xy();
+    view.height = height > 0.0 && std::isfinite(height) ? height : m_view.height;
+    setView(view);
+}
+
+void Document::setHighlighted(std::vector<drawing::RecordId> entities)
+{
+    m_highlighted = std::move(entities);
+    emit highlightChanged();
+}
+
+void Document::setPreviousSelection(std::vector<drawing::RecordId> entities)
+{
+    m_previousSelection = std::move(entities);
+}
+
+void Document::setImpliedSelection(std::vector<drawing::RecordId> entities)
+{
+    m_impliedSelection = std::move(entities);
+    emit impliedSelectionChanged();
+}
+
+void Document::print(const QString &text)
+{
+    emit printed(text);
+}
+
+void Document::printPrompt(const QString &text)
+{
+    if (text.isEmpty())
+        return;
+    m_session.editor().sysVarWillChange(m_database.get(), QStringLiteral("LASTPROMPT"));
+    m_variables->setInternally(u"LASTPROMPT", text.trimmed());
+    print(text);
+}
+
+QString Document::findFile(const QString &asked) const
+{
+    // Programs write both separators.
+    const QString name = QString(asked).replace(u'\\', u'/');
+    if (name.isEmpty())
+        return {};
+    const auto isFile = [](const QString &candidate) { return QFileInfo(candidate).isFile(); };
+    if (QDir::isAbsolutePath(name))
+        return isFile(name) ? QDir::cleanPath(name) : QString();
+    QStringList folders = {QDir::currentPath()};
+    if (!path().isEmpty())
+        folders.append(QFileInfo(path()).absolutePath());
+    folders += m_session.supportFolders();
+    folders.append(m_session.home());
+    for (const QString &folder : folders)
+        if (const QString candidate = folder + u'/' + name; isFile(candidate))
+            return QDir::cleanPath(QFileInfo(candidate).absoluteFilePath());
+    return {};
+}
+
+CKvLispEngine *Document::lispEngine()
+{
+    return m_lispEngine.get();
+}
+
+CKvUserInput *Document::userInput()
+{
+    return m_userInput.get();
+}
+
+OdDbDatabase *Document::database()
+{
+    return m_database.get();
+}
+
+OdString Document::systemVariable(const OdString &name) const
+{
+    return m_variables->display(name);
+}
+
+drawing::Matrix Document::userAxes() const
+{
+    const drawing::HeaderVariables &header = m_drawing->header();
+    const bool isModel = header.integer(u"$TILEMODE", 1) != 0;
+    const auto name = [&](const char *end) {
+        return (isModel ? QStringLiteral("$UCS") : QStringLiteral("$PUCS")) + QLatin1String(end);
+    };
+    drawing::Matrix axes;
+    axes.origin = header.point(name("ORG"));
+    axes.xAxis = drawing::normalized(header.point(name("XDIR"), axes.xAxis));
+    axes.yAxis = drawing::normalized(header.point(name("YDIR"), axes.yAxis));
+    axes.zAxis = drawing::cross(axes.xAxis, axes.yAxis);
+    return axes;
+}
+
+OdGePoint3d Document::userToWorld(const OdGePoint3d &point) const
+{
+    const drawing::Vec3 world = userAxes().point({point.x, point.y, point.z});
+    return {world.x, world.y, world.z};
+}
+
+OdGePoint3d Document::worldToUser(const OdGePoint3d &point) const
+{
+    const drawing::Vec3 user = userAxes().inverted().point({point.x, point.y, point.z});
+    return {user.x, user.y, user.z};
+}
+
+} // namespace host::kernel

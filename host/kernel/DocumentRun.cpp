@@ -1,0 +1,166 @@
+// How a document runs commands, expressions and files.
+
+#include "host/kernel/Document.h"
+#include "host/kernel/Editor.h"
+#include "host/kernel/Session.h"
+#include "host/kernel/commands/CommandRun.h"
+#include "host/kernel/commands/CommandTable.h"
+#include "host/kernel/functions/LispConversion.h"
+#include "host/kernel/input/UserInput.h"
+#include "host/lisp/Interpreter.h"
+#include "host/lisp/Printer.h"
+
+namespace host::kernel {
+
+/// One run: an undo step when it is the outermost. Ends in order whatever happened inside.
+class Document::Run
+{
+public:
+    Run(Document &document, const QString &name) : m_document(document)
+    {
+        ++m_document.m_runs;
+        m_document.m_undoSteps.beginRun(name);
+    }
+    ~Run()
+    {
+        if (m_document.m_runs == 1)
+            m_document.finishPendingCommand();
+        m_document.m_userInput->forgetOptions();
+        m_document.m_undoSteps.endRun();
+        if (--m_document.m_runs == 0) {
+            emit m_document.runEnded();
+            emit m_document.titleChanged();
+        }
+    }
+    Run(const Run &) = delete;
+    Run &operator=(const Run &) = delete;
+
+private:
+    Document &m_document;
+};
+
+namespace {
+
+QString firstLine(const QString &text)
+{
+    return text.trimmed().section(u'\n', 0, 0);
+}
+
+RunResult failure(const QString &message)
+{
+    RunResult result;
+    result.ok = false;
+    result.error = result.report = message;
+    return result;
+}
+
+} // namespace
+
+RunResult Document::run(const QString &text, const QString &sourceName)
+{
+    if (!m_interpreter)
+        return failure(QStringLiteral("The document has no Lisp engine."));
+    m_session.editor().lispWillStart(firstLine(text));
+    const Run scope(*this, QStringLiteral("LISP"));
+    return report(m_interpreter->run(text.toStdString(), sourceName.toStdString()));
+}
+
+RunResult Document::loadLisp(const QString &path)
+{
+    if (!m_interpreter)
+        return failure(QStringLiteral("The document has no Lisp engine."));
+    m_session.editor().lispWillStart(QStringLiteral("(load \"%1\")").arg(path));
+    const Run scope(*this, QStringLiteral("LOAD"));
+    return report(m_interpreter->loadFile(path.toStdString()));
+}
+
+RunResult Document::runCommand(const QString &name)
+{
+    const QString plain = CommandTable::plainName(name);
+    const QString function = QStringLiteral("C:") + plain;
+    m_lastCommand = name;
+    if (!m_interpreter || name.startsWith(u'.') || !m_interpreter->isDefined(function.toStdString()))
+        return runBuiltIn(name);
+    m_session.editor().lispWillStart(u'(' + function + u')');
+    const Run scope(*this, plain);
+    return report(m_interpreter->call(function.toStdString()));
+}
+
+RunResult Document::runBuiltIn(const QString &typed)
+{
+    const CommandRow *row = CommandTable::find(typed);
+    if (!row) {
+        const QString message = QStringLiteral("Unknown command \"%1\".").arg(CommandTable::plainName(typed));
+        print(u'\n' + message + u'\n');
+        return failure(message);
+    }
+    const Run scope(*this, QString::fromLatin1(row->name));
+    CommandRun command(*this, *row);
+    command.runToEnd();
+    if (!command.isCancelled())
+        return {};
+    return failure(QStringLiteral("%1 was cancelled.").arg(QString::fromLatin1(row->name)));
+}
+
+RunResult Document::runQueued()
+{
+    PromptRequest request;
+    request.kind = PromptKind::Command;
+    if (m_session.input().isEmpty())
+        return {};
+    const std::optional<InputAnswer> answer = m_session.input().take(request);
+    const TextAnswer *typed = answer ? std::get_if<TextAnswer>(&*answer) : nullptr;
+    if (!typed)
+        return {};
+    print(QStringLiteral("\nCommand: ") + typed->text + u'\n');
+    const bool isExpression = typed->text.startsWith(u'(') || typed->text.startsWith(u'!');
+    if (!isExpression) {
+        const QString name = typed->text.trimmed().isEmpty() ? m_lastCommand : typed->text.trimmed();
+        return name.isEmpty() ? RunResult() : runCommand(name);
+    }
+    const RunResult result = run(typed->text.startsWith(u'!') ? typed->text.mid(1) : typed->text);
+    if (result.ok && !result.value.isEmpty())
+        print(u'\n' + result.value);
+    return result;
+}
+
+void Document::runAs(const QString &name, const std::function<void()> &body)
+{
+    const Run scope(*this, name);
+    body();
+}
+
+RunResult Document::report(const lisp::Outcome &outcome)
+{
+    RunResult result;
+    result.ok = outcome.ok();
+    if (outcome.ok()) {
+        result.value = QString::fromStdString(lisp::toText(outcome.value));
+        return result;
+    }
+    const lisp::Error &error = *outcome.error;
+    result.error = QString::fromStdString(error.summary());
+    result.report = QString::fromStdString(error.report());
+    result.handledByProgram = error.handledByProgram;
+    if (!error.handledByProgram && error.kind() != lisp::ErrorKind::Quit)
+        print(QStringLiteral("\n; error: ") + result.report + u'\n');
+    return result;
+}
+
+void Document::setPendingCommand(std::unique_ptr<CommandRun> command)
+{
+    m_pendingCommand = std::move(command);
+}
+
+std::unique_ptr<CommandRun> Document::takePendingCommand()
+{
+    return std::move(m_pendingCommand);
+}
+
+void Document::finishPendingCommand()
+{
+    if (const std::unique_ptr<CommandRun> command = takePendingCommand())
+        command->runToEnd();
+}
+
+} // namespace host::kernel

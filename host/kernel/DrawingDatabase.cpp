@@ -1,0 +1,148 @@
+#include "host/kernel/DrawingDatabase.h"
+
+#include "host/drawing/Dictionaries.h"
+#include "host/drawing/Structure.h"
+#include "host/kernel/Document.h"
+
+namespace host::kernel {
+
+namespace {
+
+using drawing::Field;
+using drawing::FieldList;
+using drawing::RecordId;
+
+OdResBufPtr toResBuf(const Field &field)
+{
+    if (const auto *real = std::get_if<double>(&field.value))
+        return OdResBuf::newReal(field.code, *real);
+    if (const auto *integer = std::get_if<qint64>(&field.value))
+        return OdResBuf::newInteger(field.code, *integer);
+    if (std::holds_alternative<drawing::Vec2>(field.value) || std::holds_alternative<drawing::Vec3>(field.value)) {
+        const drawing::Vec3 point = field.point();
+        return OdResBuf::newPoint(field.code, {point.x, point.y, point.z});
+    }
+    if (const auto *bytes = std::get_if<QByteArray>(&field.value))
+        return OdResBuf::newString(field.code, QString::fromLatin1(bytes->toHex().toUpper()));
+    return OdResBuf::newString(field.code, field.text());
+}
+
+Field toField(const OdResBuf &link)
+{
+    const int code = link.restype();
+    switch (drawing::tagType(code)) {
+    case drawing::TagType::Real: {
+        const OdGePoint3d point = link.getPoint3d();
+        if (drawing::isPointCode(code) && (point != OdGePoint3d{} || link.getDouble() == 0.0))
+            return {code, drawing::Vec3{point.x, point.y, point.z}};
+        return {code, link.getDouble()};
+    }
+    case drawing::TagType::Int16:
+    case drawing::TagType::Int32:
+    case drawing::TagType::Int64:
+    case drawing::TagType::Bool:
+        return {code, link.getInteger()};
+    case drawing::TagType::Handle:
+        return {code, drawing::Handle::fromText(link.getString()).value_or(drawing::Handle{})};
+    case drawing::TagType::Binary:
+        return {code, QByteArray::fromHex(link.getString().toLatin1())};
+    case drawing::TagType::Text:
+        break;
+    }
+    return {code, link.getString()};
+}
+
+/// An extension record by its name in a dictionary: it stays right while the record is replaced or undone.
+class Xrecord final : public OdDbXrecord
+{
+public:
+    Xrecord(Document &document, const QString &name) : m_document(document), m_name(name) {}
+
+    OdResBufPtr rbChain() const override
+    {
+        const drawing::Dictionaries &dictionaries = m_document.drawing().dictionaries();
+        const std::optional<FieldList> data = dictionaries.xrecord(dictionaries.root(), m_name);
+        OdResBufPtr first;
+        OdResBuf *last = nullptr;
+        for (const Field &field : data.value_or(FieldList())) {
+            OdResBufPtr link = toResBuf(field);
+            if (last) {
+                last = last->setNext(std::move(link));
+            } else {
+                first = std::move(link);
+                last = first.get();
+            }
+        }
+        return first;
+    }
+
+    bool setFromRbChain(const OdResBuf *chain) override
+    {
+        FieldList data;
+        for (const OdResBuf *link = chain; link; link = link->next())
+            data.push_back(toField(*link));
+        bool isSet = false;
+        m_document.runAs(QStringLiteral("XRECORD"), [&] {
+            drawing::Dictionaries &dictionaries = m_document.drawing().dictionaries();
+            isSet = isValid(dictionaries.setXrecord(dictionaries.ensureRoot(), m_name, data));
+        });
+        return isSet;
+    }
+
+private:
+    Document &m_document;
+    QString m_name;
+};
+
+} // namespace
+
+class DrawingDatabase::Dictionary final : public OdDbDictionary
+{
+public:
+    explicit Dictionary(Document &document) : m_document(document) {}
+
+    OdDbXrecord *getAt(const OdString &name) override
+    {
+        const drawing::Dictionaries &dictionaries = m_document.drawing().dictionaries();
+        return dictionaries.xrecord(dictionaries.root(), name) ? record(name) : nullptr;
+    }
+
+    OdDbXrecord *setAt(const OdString &name) override
+    {
+        drawing::Dictionaries &dictionaries = m_document.drawing().dictionaries();
+        if (dictionaries.xrecord(dictionaries.root(), name))
+            return record(name);
+        return record(name)->setFromRbChain(nullptr) ? record(name) : nullptr;
+    }
+
+private:
+    Xrecord *record(const QString &name)
+    {
+        std::unique_ptr<Xrecord> &entry = m_records[name.toUpper()];
+        if (!entry)
+            entry = std::make_unique<Xrecord>(m_document, name);
+        return entry.get();
+    }
+
+    Document &m_document;
+    std::map<QString, std::unique_ptr<Xrecord>> m_records;
+};
+
+DrawingDatabase::DrawingDatabase(Document &document)
+    : m_document(document), m_namedObjects(std::make_unique<Dictionary>(document))
+{
+}
+
+DrawingDatabase::~DrawingDatabase() = default;
+
+OdString DrawingDatabase::getFilename() const
+{
+    return m_document.path();
+}
+
+OdDbDictionary *DrawingDatabase::getNamedObjectsDictionary()
+{
+    return drawing::hasMarkers(m_document.drawing()) ? m_namedObjects.get() : nullptr;
+}
+
+} // namespace host::kernel

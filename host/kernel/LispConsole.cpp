@@ -1,0 +1,43 @@
+#include "host/kernel/LispConsole.h"
+
+#include "host/kernel/Session.h"
+#include "host/kernel/SystemVariables.h"
+#include "host/kernel/functions/LispConversion.h"
+#include "host/kernel/input/UserInput.h"
+
+namespace host::kernel {
+
+void LispConsole::write(std::string_view text)
+{
+    m_document.print(fromUtf8(text));
+}
+
+lisp::PollAnswer LispConsole::poll()
+{
+    InputFeeder *feeder = m_document.session().feeder();
+    return feeder && feeder->poll() ? lisp::PollAnswer::Stop : lisp::PollAnswer::Continue;
+}
+
+std::optional<std::string> LispConsole::readLine()
+{
+    PromptRequest request;
+    request.kind = PromptKind::String;
+    request.allowSpaces = true;
+    const PromptReply reply = m_document.prompts().ask(request);
+    if (reply.kind == ReplyKind::Cancelled)
+        return {};
+    return reply.text.toStdString();
+}
+
+std::string LispConsole::findFile(const std::string &name)
+{
+    return m_document.findFile(QString::fromStdString(name)).toStdString();
+}
+
+lisp::Value LispConsole::systemVariable(std::string_view name)
+{
+    const std::optional<VariableValue> value = m_document.variables().get(fromUtf8(name));
+    return value ? toLisp(*value) : lisp::Value();
+}
+
+} // namespace host::kernel

@@ -1,0 +1,44 @@
+#include "host/kernel/Session.h"
+
+#include "host/kernel/Editor.h"
+#include "host/kernel/HelpService.h"
+#include "host/kernel/SystemServices.h"
+
+#include <QDir>
+#include <QStandardPaths>
+
+namespace host::kernel {
+
+namespace {
+
+QString homeFolder(const QString &wanted)
+{
+    QString folder = wanted.isEmpty() ? qEnvironmentVariable("ORTAKIT_HOME") : wanted;
+    if (folder.isEmpty()) {
+        folder = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + QStringLiteral("/ortakit");
+    }
+    // A folder that cannot be made shows when the first file is written to it, with that file's name.
+    QDir().mkpath(folder);
+    return QDir::cleanPath(QDir(folder).absolutePath());
+}
+
+} // namespace
+
+Session::Session(const SessionOptions &options)
+    : m_home(homeFolder(options.home)), m_supportFolders(options.supportFolders), m_helpFolder(options.helpFolder),
+      m_editor(std::make_unique<Editor>()), m_help(std::make_unique<HelpService>(*this)),
+      m_services(std::make_unique<SystemServices>(*this)), m_documents(std::make_unique<DocumentManager>(*this)),
+      m_modules(std::make_unique<ModuleLoader>())
+{
+    m_servicesBefore = installServices({m_services.get(), m_help.get(), m_editor.get()});
+}
+
+Session::~Session()
+{
+    // Modules first: they take their functions and dialogs out of the documents.
+    m_modules.reset();
+    m_documents.reset();
+    installServices(m_servicesBefore);
+}
+
+} // namespace host::kernel

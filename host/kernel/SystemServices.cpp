@@ -1,0 +1,33 @@
+#include "host/kernel/SystemServices.h"
+
+#include "host/kernel/Session.h"
+
+#include <QFileInfo>
+#include <QStandardPaths>
+
+namespace host::kernel {
+
+CKvDocumentManager *SystemServices::documentManager()
+{
+    return &m_session.documents();
+}
+
+QWidget *SystemServices::mainWindow()
+{
+    return m_session.mainWindow();
+}
+
+OdString SystemServices::helpFile() const
+{
+    return m_session.helpFolder();
+}
+
+OdString SystemServices::defaultFolder() const
+{
+    const Document *document = m_session.documents().active();
+    if (document && !document->path().isEmpty())
+        return QFileInfo(document->path()).absolutePath();
+    return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+}
+
+} // namespace host::kernel

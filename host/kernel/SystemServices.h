@@ -1,0 +1,26 @@
+#pragma once
+
+#include "platform/kernel/CKvSystemServices.h"
+
+namespace host::kernel {
+
+class Session;
+
+/// The platform's view of a session.
+class SystemServices final : public CKvSystemServices
+{
+public:
+    explicit SystemServices(Session &session) : m_session(session) {}
+
+    CKvDocumentManager *documentManager() override;
+    QWidget *mainWindow() override;
+    /// The folder of the help pages.
+    OdString helpFile() const override;
+    /// The active drawing's folder, else the user's documents.
+    OdString defaultFolder() const override;
+
+private:
+    Session &m_session;
+};
+
+} // namespace host::kernel

@@ -1,0 +1,136 @@
+#include "host/kernel/commands/CommandContext.h"
+
+#include "host/drawing/HeaderVariables.h"
+#include "host/kernel/CurrentSpace.h"
+#include "host/kernel/Document.h"
+
+namespace host::kernel {
+
+using drawing::FieldList;
+using drawing::Vec3;
+
+namespace {
+
+/// Adds the current properties that `fields` do not have.
+FieldList withCurrentProperties(const drawing::Drawing &drawing, FieldList fields)
+{
+    const drawing::HeaderVariables &header = drawing.header();
+    const auto addText = [&](int code, QStringView variable, const QString &usual) {
+        const QString value = header.text(variable, usual);
+        if (!drawing::findField(fields, code) && value.compare(usual, Qt::CaseInsensitive) != 0)
+            fields.push_back({code, value});
+    };
+    addText(8, u"$CLAYER", QString());
+    addText(6, u"$CELTYPE", QStringLiteral("ByLayer"));
+    const qint64 colour = header.integer(u"$CECOLOR", 256);
+    if (!drawing::findField(fields, 62) && colour != 256)
+        fields.push_back({62, colour});
+    const double scale = header.real(u"$CELTSCALE", 1.0);
+    if (!drawing::findField(fields, 48) && scale != 1.0)
+        fields.push_back({48, scale});
+    const qint64 weight = header.integer(u"$CELWEIGHT", -1);
+    if (!drawing::findField(fields, 370) && weight != -1 && drawing.version() >= drawing::Version::R2000)
+        fields.push_back({370, weight});
+    return fields;
+}
+
+} // namespace
+
+drawing::Drawing &CommandContext::drawing()
+{
+    return m_document.drawing();
+}
+
+void CommandContext::print(const QString &text)
+{
+    m_document.print(text);
+}
+
+CommandContext::Reply CommandContext::ask(PromptRequest request)
+{
+    m_request = std::move(request);
+    m_request.forCommand = true;
+    return Reply(*this);
+}
+
+CommandContext::Reply CommandContext::askFor(PromptKind kind, const QString &prompt, const QString &options,
+                                             const std::optional<Vec3> &base, const QString &defaultText)
+{
+    PromptRequest request;
+    request.kind = kind;
+    request.prompt = u'\n' + prompt;
+    request.keywords = options.split(u' ', Qt::SkipEmptyParts);
+    request.base = base;
+    request.defaultText = defaultText;
+    return ask(std::move(request));
+}
+
+CommandContext::Reply CommandContext::point(const QString &prompt, const QString &options,
+                                            const std::optional<Vec3> &base)
+{
+    return askFor(PromptKind::Point, prompt, options, base, {});
+}
+
+CommandContext::Reply CommandContext::distance(const QString &prompt, const QString &options,
+                                               const std::optional<Vec3> &base, const QString &defaultText)
+{
+    return askFor(PromptKind::Distance, prompt, options, base, defaultText);
+}
+
+CommandContext::Reply CommandContext::orientation(const QString &prompt, const QString &options,
+                                                  const std::optional<Vec3> &base, const QString &defaultText)
+{
+    return askFor(PromptKind::Orientation, prompt, options, base, defaultText);
+}
+
+CommandContext::Reply CommandContext::real(const QString &prompt, const QString &options, const QString &defaultText)
+{
+    return askFor(PromptKind::Real, prompt, options, {}, defaultText);
+}
+
+CommandContext::Reply CommandContext::integer(const QString &prompt, const QString &options, const QString &defaultText)
+{
+    return askFor(PromptKind::Integer, prompt, options, {}, defaultText);
+}
+
+CommandContext::Reply CommandContext::keyword(const QString &prompt, const QString &options, const QString &defaultText)
+{
+    return askFor(PromptKind::Keyword, prompt, options, {}, defaultText);
+}
+
+CommandContext::Reply CommandContext::text(const QString &prompt, const QString &defaultText)
+{
+    PromptRequest request;
+    request.kind = PromptKind::String;
+    request.prompt = u'\n' + prompt;
+    request.defaultText = defaultText;
+    request.allowSpaces = true;
+    return ask(std::move(request));
+}
+
+CommandContext::Reply CommandContext::name(const QString &prompt, const QString &defaultText)
+{
+    return askFor(PromptKind::String, prompt, {}, {}, defaultText);
+}
+
+drawing::RecordId CommandContext::create(const FieldList &fields)
+{
+    drawing::Entities &entities = drawing().entities();
+    const drawing::CreateResult made =
+        entities.create(withCurrentProperties(drawing(), fields), currentSpace(drawing()));
+    if (!made)
+        print(u'\n' + made.error);
+    return made.record;
+}
+
+drawing::RecordId CommandContext::createComplex(const FieldList &head, const std::vector<FieldList> &children)
+{
+    drawing::Entities &entities = drawing().entities();
+    const drawing::CreateResult made =
+        entities.createComplex(withCurrentProperties(drawing(), head), children, currentSpace(drawing()));
+    if (!made)
+        print(u'\n' + made.error);
+    return made.record;
+}
+
+} // namespace host::kernel

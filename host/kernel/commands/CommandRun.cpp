@@ -1,0 +1,84 @@
+#include "host/kernel/commands/CommandRun.h"
+
+#include "host/kernel/Document.h"
+#include "host/kernel/Editor.h"
+#include "host/kernel/Session.h"
+#include "host/kernel/SystemVariables.h"
+#include "host/kernel/input/UserInput.h"
+
+namespace host::kernel {
+
+CommandRun::CommandRun(Document &document, const CommandRow &row) : m_document(document), m_context(document)
+{
+    m_document.session().editor().commandWillStart();
+    m_document.pushCommandName(QString::fromLatin1(row.name));
+    m_task.emplace(row.body(m_context));
+    resume();
+}
+
+CommandRun::~CommandRun()
+{
+    finish();
+}
+
+void CommandRun::offer(const InputAnswer &answer)
+{
+    echoPrompt();
+    if (std::optional<PromptReply> given = m_dialogue->offer(answer))
+        reply(std::move(*given));
+}
+
+void CommandRun::askUser()
+{
+    reply(m_document.prompts().ask(m_dialogue->request()));
+}
+
+void CommandRun::runToEnd()
+{
+    while (!isDone())
+        askUser();
+}
+
+void CommandRun::reply(PromptReply given)
+{
+    if (given.kind == ReplyKind::Cancelled) {
+        m_isCancelled = true;
+        finish();
+        return;
+    }
+    m_context.m_reply = std::move(given);
+    resume();
+}
+
+void CommandRun::resume()
+{
+    m_dialogue.reset();
+    try {
+        m_task->resume();
+    } catch (...) {
+        finish();
+        throw;
+    }
+    if (m_task->isDone())
+        finish();
+    else
+        m_dialogue.emplace(m_document, m_context.m_request);
+}
+
+void CommandRun::finish()
+{
+    if (!m_task)
+        return;
+    m_task.reset();
+    m_dialogue.reset();
+    m_document.popCommandName();
+    m_document.undoSteps().boundary();
+}
+
+void CommandRun::echoPrompt()
+{
+    if (m_document.variables().integer(u"CMDECHO", 1) != 0)
+        m_document.printPrompt(m_dialogue->request().prompt);
+}
+
+} // namespace host::kernel

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "host/kernel/commands/CommandTable.h"
+
+#include <vector>
+
+namespace host::kernel {
+
+// The rows of each file of commands.
+std::vector<CommandRow> drawCommands();
+std::vector<CommandRow> editCommands();
+std::vector<CommandRow> blockCommands();
+std::vector<CommandRow> layerCommands();
+std::vector<CommandRow> fileCommands();
+std::vector<CommandRow> viewCommands();
+std::vector<CommandRow> undoCommands();
+
+} // namespace host::kernel

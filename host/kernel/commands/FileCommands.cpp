@@ -1,0 +1,112 @@
+#include "host/kernel/Document.h"
+#include "host/kernel/SystemVariables.h"
+#include "host/kernel/commands/CommandContext.h"
+#include "host/kernel/commands/Commands.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+using namespace Qt::StringLiterals;
+
+namespace host::kernel {
+
+namespace {
+
+/// A path as typed, from the current folder, with the ending that drawings have here when it has none.
+QString drawingPath(const QString &typed)
+{
+    const QString path = QFileInfo(QDir::current(), typed.trimmed()).absoluteFilePath();
+    return QFileInfo(path).suffix().isEmpty() ? path + u".dxf"_s : path;
+}
+
+void tell(CommandContext &context, const drawing::SaveResult &result, const QString &path)
+{
+    context.print(result ? u"\nSaved to %1."_s.arg(path) : u'\n' + result.error);
+}
+
+// Under the drawing's own name; asks for one when it has none.
+CommandTask quickSave(CommandContext &context)
+{
+    Document &document = context.document();
+    if (!document.path().isEmpty()) {
+        tell(context, document.save(), document.path());
+        co_return;
+    }
+    const PromptReply name = co_await context.text(u"Save drawing as: "_s);
+    if (!name.hasValue() || name.text.trimmed().isEmpty())
+        co_return;
+    const QString path = drawingPath(name.text);
+    tell(context, document.saveAs(path), path);
+}
+
+// File name; asks before an existing other file is replaced, unless EXPERT is 2 or more.
+CommandTask saveAs(CommandContext &context)
+{
+    Document &document = context.document();
+    const PromptReply name = co_await context.text(u"Save drawing as <%1>: "_s.arg(document.title()), document.path());
+    const QString typed = name.hasValue() ? name.text.trimmed() : document.path();
+    if (typed.isEmpty())
+        co_return;
+    const QString path = drawingPath(typed);
+    if (QFileInfo::exists(path) && path != document.path() && document.variables().integer(u"EXPERT") < 2) {
+        const PromptReply replace = co_await context.keyword(
+            u"%1 already exists. Replace it? [Yes/No] <No>: "_s.arg(path), u"Yes No"_s, u"No"_s);
+        if (replace.text != u"Yes"_s)
+            co_return;
+    }
+    tell(context, document.saveAs(path), path);
+}
+
+/// The value that text means for a variable of the kind that `like` is; nothing when it does not.
+std::optional<VariableValue> valueFromText(const VariableValue &like, const QString &text)
+{
+    bool isNumber = true;
+    const auto number = [&](const QString &part) { return isNumber ? part.trimmed().toDouble(&isNumber) : 0.0; };
+    std::optional<VariableValue> value;
+    if (std::holds_alternative<QString>(like))
+        value = text == u"."_s ? QString() : text;
+    else if (std::holds_alternative<qint32>(like))
+        value = text.toInt(&isNumber);
+    else if (std::holds_alternative<double>(like))
+        value = number(text);
+    else
+        value = drawing::Vec3{number(text.section(u',', 0, 0)), number(text.section(u',', 1, 1)),
+                              text.count(u',') > 1 ? number(text.section(u',', 2, 2)) : 0.0};
+    return isNumber ? value : std::nullopt;
+}
+
+// Name and new value of a system variable; an empty value leaves it.
+CommandTask setVariable(CommandContext &context)
+{
+    SystemVariables &variables = context.document().variables();
+    const PromptReply name = co_await context.name(u"Enter variable name: "_s);
+    const std::optional<VariableValue> present = variables.get(name.text);
+    if (!present) {
+        context.print(u"\nUnknown variable name."_s);
+        co_return;
+    }
+    const QString shown = variables.display(name.text);
+    if (variables.isReadOnly(name.text)) {
+        context.print(u"\n%1 = %2 (read only)"_s.arg(name.text.toUpper(), shown));
+        co_return;
+    }
+    const PromptReply typed =
+        co_await context.text(u"Enter new value for %1 <%2>: "_s.arg(name.text.toUpper(), shown), shown);
+    if (!typed.hasValue())
+        co_return;
+    const std::optional<VariableValue> value = valueFromText(*present, typed.text);
+    if (!value || variables.set(name.text, *value) != SetOutcome::Done)
+        context.print(u"\nCannot set %1 to that value."_s.arg(name.text.toUpper()));
+}
+
+} // namespace
+
+std::vector<CommandRow> fileCommands()
+{
+    return {{"QSAVE", quickSave, "Saves the drawing under its own name"},
+            {"SAVE", saveAs, "Saves the drawing under a name"},
+            {"SAVEAS", saveAs, "Saves the drawing under a name"},
+            {"SETVAR", setVariable, "Shows or sets a system variable"}};
+}
+
+} // namespace host::kernel

@@ -1,0 +1,182 @@
+// Entities by name: reading, changing, making, erasing.
+
+#include "host/drawing/Entities.h"
+#include "host/kernel/Document.h"
+#include "host/kernel/functions/EntityList.h"
+#include "host/kernel/functions/EntityMaker.h"
+#include "host/kernel/functions/LispConversion.h"
+#include "host/kernel/functions/NativeFunctions.h"
+#include "host/lisp/Interpreter.h"
+#include "host/lisp/Printer.h"
+
+namespace host::kernel {
+
+namespace {
+
+using drawing::RecordId;
+using drawing::RecordKind;
+using lisp::Arguments;
+using lisp::Value;
+
+bool isEntityKind(RecordKind kind)
+{
+    return kind == RecordKind::Entity || kind == RecordKind::Child || kind == RecordKind::EndChildren;
+}
+
+/// Runs `body`, turning a bad entity list into the dialect's error.
+template <typename Body>
+Value checkedList(Arguments &args, Body &&body)
+{
+    try {
+        return body();
+    } catch (const EntityListError &error) {
+        args.fail("bad DXF group: " + lisp::toText(error.item) + " (" + error.text.toStdString() + ")");
+    }
+}
+
+/// Prints why nothing was made or changed; the function gives nil then.
+Value refused(Arguments &args, const QString &reason)
+{
+    documentOf(args).print(u'\n' + reason + u'\n');
+    return {};
+}
+
+// (entget entity [applications]) -> the entity's list, nil for an erased one. `applications` is a list of patterns:
+// extended data of these is in it.
+Value entget(Arguments &args)
+{
+    const Document &document = documentOf(args);
+    const RecordId record = recordFrom(document, args.entity(0));
+    if (!document.drawing().isAlive(record))
+        return {};
+    QStringList applications;
+    for (const Value &pattern : lisp::ListItems(args.list(1))) {
+        if (!pattern.isString())
+            args.badType(1, "stringp");
+        applications.append(QString::fromStdString(pattern.asString()));
+    }
+    return entityList(document, record, applications);
+}
+
+Value modifyEntity(Arguments &args, RecordId record)
+{
+    Document &document = documentOf(args);
+    drawing::Drawing &drawing = document.drawing();
+    const drawing::FieldList given = fieldsFromList(document, args.list(0), angleForm(drawing, record));
+    const drawing::FieldList wanted = mergedFields(drawing.fields(record), given);
+    if (isEntityKind(drawing.kind(record))) {
+        const QString error = drawing.entities().modify(record, wanted);
+        return error.isEmpty() ? args[0] : refused(args, error);
+    }
+    drawing.setFields(record, wanted);
+    return args[0];
+}
+
+// (entmod list) -> the list, nil when the entity named in it by -1 cannot be changed so; the reason is printed.
+Value entmod(Arguments &args)
+{
+    return checkedList(args, [&] {
+        for (const Value &item : lisp::ListItems(args.list(0))) {
+            if (!item.car().isInteger() || item.car().asInteger() != -1 || !item.cdr().isEntityName())
+                continue;
+            const RecordId record = recordFrom(documentOf(args), item.cdr().asEntityName());
+            return documentOf(args).drawing().isAlive(record) ? modifyEntity(args, record) : Value();
+        }
+        args.badValue(0, "entity list without a name");
+    });
+}
+
+/// Makes what the list says. The record is noRecord while more lists have to follow.
+EntityMaker::Outcome makeEntity(Arguments &args)
+{
+    EntityMaker::Outcome outcome;
+    checkedList(args, [&] {
+        Document &document = documentOf(args);
+        if (!args.has(0))
+            args.badType(0, "consp");
+        outcome = document.entityMaker().make(fieldsFromList(document, args.list(0), AngleForm::Radians));
+        if (!outcome.ok)
+            refused(args, outcome.error);
+        return Value();
+    });
+    return outcome;
+}
+
+// (entmake list) -> the list, a block's name for the ENDBLK that completes it, nil when it cannot be made; the reason
+// is printed.
+Value entmake(Arguments &args)
+{
+    const EntityMaker::Outcome outcome = makeEntity(args);
+    if (!outcome.ok)
+        return {};
+    return outcome.blockName.isEmpty() ? args[0] : toLisp(outcome.blockName);
+}
+
+// (entmakex list) -> the name of the new entity, nil when it cannot be made or is not complete yet.
+Value entmakex(Arguments &args)
+{
+    const EntityMaker::Outcome outcome = makeEntity(args);
+    return outcome.ok && isValid(outcome.record) ? toLisp(outcome.record) : Value();
+}
+
+// (entdel entity) -> the name; erases it or brings it back. nil for parts of an entity and for table entries.
+Value entdel(Arguments &args)
+{
+    drawing::Drawing &drawing = documentOf(args).drawing();
+    const RecordId record = recordAt(args, 0);
+    const RecordKind kind = drawing.kind(record);
+    if (kind != RecordKind::Entity && kind != RecordKind::Object)
+        return {};
+    return drawing.setErased(record, drawing.isAlive(record)) ? args[0] : Value();
+}
+
+// (entupd entity) -> the name. The window follows every change by itself.
+Value entupd(Arguments &args)
+{
+    return documentOf(args).drawing().isAlive(recordAt(args, 0)) ? args[0] : Value();
+}
+
+// (entlast) -> the last entity of the drawing that is not a part of another, nil for an empty drawing.
+Value entlast(Arguments &args)
+{
+    const drawing::Drawing &drawing = documentOf(args).drawing();
+    const RecordId section = drawing.sectionRecord(drawing::Section::Entities);
+    RecordId last = isValid(section) ? drawing.previous(drawing.endOf(section)) : drawing::noRecord;
+    while (isValid(last) && (drawing.kind(last) == RecordKind::Child || drawing.kind(last) == RecordKind::EndChildren))
+        last = drawing.parent(last);
+    return isValid(last) && drawing.kind(last) == RecordKind::Entity ? toLisp(last) : Value();
+}
+
+// (entnext [entity]) -> the next entity, going into the parts of a POLYLINE or INSERT; in a block up to its end.
+// Without an argument the first entity of the drawing. nil behind the last.
+Value entnext(Arguments &args)
+{
+    const drawing::Drawing &drawing = documentOf(args).drawing();
+    const RecordId next =
+        args.has(0) ? drawing.next(recordAt(args, 0)) : drawing.entities().nextOfAll(drawing::noRecord);
+    return isValid(next) && isEntityKind(drawing.kind(next)) ? toLisp(next) : Value();
+}
+
+// (handent handle) -> the entity name of a handle, nil when the drawing never had it.
+Value handent(Arguments &args)
+{
+    const auto handle = drawing::Handle::fromText(stringAt(args, 0));
+    const RecordId record = handle ? documentOf(args).drawing().find(*handle) : drawing::noRecord;
+    return isValid(record) ? toLisp(record) : Value();
+}
+
+} // namespace
+
+void addEntityFunctions(lisp::Interpreter &interpreter)
+{
+    static constexpr lisp::NativeRow rows[] = {
+        {"entget", entget, lisp::Arity::between(1, 2)},   {"entmod", entmod, lisp::Arity::exactly(1)},
+        {"entmake", entmake, lisp::Arity::between(0, 1)}, {"entmakex", entmakex, lisp::Arity::between(0, 1)},
+        {"entdel", entdel, lisp::Arity::exactly(1)},      {"entupd", entupd, lisp::Arity::exactly(1)},
+        {"entlast", entlast, lisp::Arity::exactly(0)},    {"entnext", entnext, lisp::Arity::between(0, 1)},
+        {"handent", handent, lisp::Arity::exactly(1)},
+    };
+    interpreter.define(rows);
+}
+
+} // namespace host::kernel

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "host/drawing/Drawing.h"
+#include "host/lisp/Value.h"
+
+#include <functional>
+
+namespace host::kernel {
+
+class Document;
+
+/// A value that cannot stand in an entity list.
+struct EntityListError
+{
+    QString text;
+    lisp::Value item;
+};
+
+/// Whether a group code's handle is an entity name to programs (330, 340, 350, 360 and their kin) rather than text.
+bool isEntityNameCode(int code);
+
+/// One field as an item of an entity list: (40 . 2.5), (10 1.0 2.0 0.0), (330 . <Entity name: 1f>). Angles (50 to 58)
+/// become radians when `withAngles` says so.
+enum class AngleForm
+{
+    Degrees, ///< as the file has it: objects, extended records
+    Radians
+};
+lisp::Value toListItem(const Document &document, const drawing::Field &field, AngleForm angles);
+/// Back; throws EntityListError. Items with the codes -1 and -3 are the caller's business.
+drawing::Field fromListItem(const Document &document, const lisp::Value &item, AngleForm angles);
+
+/// How programs see the angles of a record.
+AngleForm angleForm(const drawing::Drawing &drawing, drawing::RecordId record);
+
+/// A record's whole entity list: its name first, then type, owner, handle and the rest in file order, with what the
+/// file leaves out because it is the usual value. `applications` are patterns of the applications whose extended data
+/// is wanted, in (-3 ...) at the end.
+lisp::Value entityList(const Document &document, drawing::RecordId record, const QStringList &applications);
+
+/// The fields of an entity list: (-1 ...) left out, extended data of (-3 ...) as fields from 1001 on. Throws
+/// EntityListError.
+drawing::FieldList fieldsFromList(const Document &document, const lisp::Value &list, AngleForm angles);
+
+/// What a record becomes when a program hands back a changed list: groups the list leaves out stay, extended data of
+/// applications it does not name stays, and what is the usual value and not in the file is not written.
+drawing::FieldList mergedFields(const drawing::FieldList &present, const drawing::FieldList &given);
+
+} // namespace host::kernel

@@ -1,0 +1,19 @@
+#include "host/kernel/functions/NativeFunctions.h"
+
+namespace host::kernel {
+
+void addNativeFunctions(lisp::Interpreter &interpreter)
+{
+    addEntityFunctions(interpreter);
+    addTableFunctions(interpreter);
+    addDictionaryFunctions(interpreter);
+    addSelectionFunctions(interpreter);
+    addPickFunctions(interpreter);
+    addPromptFunctions(interpreter);
+    addVariableFunctions(interpreter);
+    addCommandFunctions(interpreter);
+    addDialogFunctions(interpreter);
+    addCoordinateFunctions(interpreter);
+}
+
+} // namespace host::kernel

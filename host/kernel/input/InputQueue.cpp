@@ -1,0 +1,162 @@
+#include "host/kernel/input/InputQueue.h"
+
+#include <utility>
+
+namespace host::kernel {
+
+namespace {
+
+bool isBlank(QChar c)
+{
+    return c == u' ' || c == u'\t' || c == u'\n' || c == u'\r';
+}
+
+qsizetype lineEnd(const QString &text, qsizetype from)
+{
+    const qsizetype end = text.indexOf(u'\n', from);
+    return end < 0 ? text.size() : end;
+}
+
+/// Just behind a string in quotes that starts at `at`; -1 when it does not end.
+qsizetype behindString(const QString &text, qsizetype at)
+{
+    for (++at; at < text.size(); ++at) {
+        if (text[at] == u'\\')
+            ++at;
+        else if (text[at] == u'"')
+            return at + 1;
+    }
+    return -1;
+}
+
+/// Just behind a comment that starts at `at`.
+qsizetype behindComment(const QString &text, qsizetype at)
+{
+    if (at + 1 >= text.size() || text[at + 1] != u'|')
+        return lineEnd(text, at);
+    const qsizetype end = text.indexOf(QStringLiteral("|;"), at + 2);
+    return end < 0 ? -1 : end + 2;
+}
+
+/// Just behind the parenthesis that closes the one at `at`; -1 when it is not there.
+qsizetype behindExpression(const QString &text, qsizetype at)
+{
+    int depth = 0;
+    while (at >= 0 && at < text.size()) {
+        const QChar c = text[at];
+        if (c == u'"') {
+            at = behindString(text, at);
+            continue;
+        }
+        if (c == u';') {
+            at = behindComment(text, at);
+            continue;
+        }
+        ++at;
+        if (c == u'(')
+            ++depth;
+        else if (c == u')' && --depth == 0)
+            return at;
+    }
+    return -1;
+}
+
+/// Blanks, empty remains of lines and comment lines mean nothing between commands; an empty line does.
+qsizetype skipToCommand(const QString &text, qsizetype at)
+{
+    while (at < text.size()) {
+        if (text[at] == u' ' || text[at] == u'\t' || text[at] == u'\r')
+            ++at;
+        else if (text[at] == u';')
+            at = std::min(lineEnd(text, at) + 1, text.size());
+        else
+            break;
+    }
+    return at;
+}
+
+} // namespace
+
+InputQueue::InputQueue(QObject *parent) : QObject(parent) {}
+
+void InputQueue::pushTyped(const QString &text)
+{
+    QString line = text;
+    if (!line.endsWith(u'\n'))
+        line += u'\n';
+    if (auto *last = m_items.empty() ? nullptr : std::get_if<Typed>(&m_items.back()))
+        last->text += line;
+    else
+        m_items.push_back(Typed{line, 0});
+    emit filled();
+}
+
+void InputQueue::push(const InputAnswer &answer)
+{
+    m_items.push_back(answer);
+    emit filled();
+}
+
+void InputQueue::clear()
+{
+    m_items.clear();
+}
+
+std::optional<InputAnswer> InputQueue::take(const PromptRequest &request)
+{
+    if (auto *answer = std::get_if<InputAnswer>(&m_items.front())) {
+        InputAnswer taken = std::move(*answer);
+        m_items.pop_front();
+        return taken;
+    }
+    Typed &typed = std::get<Typed>(m_items.front());
+    const std::optional<QString> text = takeTyped(typed, request);
+    if (typed.position >= typed.text.size())
+        m_items.pop_front();
+    if (!text)
+        return {};
+    return TextAnswer{*text};
+}
+
+std::optional<QString> InputQueue::takeTyped(Typed &typed, const PromptRequest &request)
+{
+    const QString &text = typed.text;
+    const bool takesExpression = request.kind == PromptKind::Command || request.forCommand;
+    qsizetype start = typed.position;
+    if (request.kind == PromptKind::Command)
+        start = skipToCommand(text, start);
+    typed.position = start;
+    if (start >= text.size())
+        return {};
+    qsizetype end = start;
+    if (takesExpression && text[start] == u'(') {
+        end = behindExpression(text, start);
+        if (end < 0)
+            return {};
+    } else if (request.kind == PromptKind::String && request.allowSpaces) {
+        end = lineEnd(text, start);
+    } else {
+        while (end < text.size() && !isBlank(text[end]))
+            ++end;
+    }
+    QString taken = text.mid(start, end - start);
+    if (taken.endsWith(u'\r'))
+        taken.chop(1);
+    skipDelimiter(typed, end);
+    return taken;
+}
+
+void InputQueue::skipDelimiter(Typed &typed, qsizetype end)
+{
+    // The blank or line end that finished the answer goes with it; a line end written as two characters is one.
+    if (end + 1 < typed.text.size() && typed.text[end] == u'\r' && typed.text[end + 1] == u'\n')
+        ++end;
+    typed.position = std::min(end + 1, typed.text.size());
+    // A used-up beginning is cut off now and then, so that neither memory nor copying grows with a long script.
+    if (typed.position > typed.text.size() / 2) {
+        typed.text.remove(0, typed.position);
+        typed.position = 0;
+    }
+}
+
+} // namespace host::kernel

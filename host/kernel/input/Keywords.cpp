@@ -1,0 +1,88 @@
+#include "host/kernel/input/Keywords.h"
+
+#include <QRegularExpression>
+
+namespace host::kernel {
+
+namespace {
+
+/// The first run of upper-case letters and digits, with where it starts.
+struct Abbreviation
+{
+    qsizetype start = 0;
+    QString text;
+};
+
+bool isAbbreviating(QChar c)
+{
+    return c.isUpper() || c.isDigit();
+}
+
+Abbreviation abbreviationOf(const QString &keyword)
+{
+    qsizetype start = 0;
+    while (start < keyword.size() && !isAbbreviating(keyword[start]))
+        ++start;
+    qsizetype end = start;
+    while (end < keyword.size() && isAbbreviating(keyword[end]))
+        ++end;
+    return {start, keyword.mid(start, end - start)};
+}
+
+bool isShortFor(const QString &typed, const QString &keyword)
+{
+    const qsizetype comma = keyword.indexOf(u',');
+    if (comma >= 0) {
+        const QString shortest = keyword.mid(comma + 1);
+        return typed.startsWith(shortest, Qt::CaseInsensitive) &&
+               (typed.size() == shortest.size() || keyword.left(comma).startsWith(typed, Qt::CaseInsensitive));
+    }
+    const Abbreviation shortest = abbreviationOf(keyword);
+    if (shortest.text.isEmpty() || typed.size() < shortest.text.size())
+        return false;
+    // Typing may begin at the abbreviation ("xi" for "eXit") or at the word ("exi").
+    const bool fromAbbreviation = keyword.mid(shortest.start).startsWith(typed, Qt::CaseInsensitive);
+    const bool fromStart =
+        typed.size() >= shortest.start + shortest.text.size() && keyword.startsWith(typed, Qt::CaseInsensitive);
+    return fromAbbreviation || fromStart;
+}
+
+} // namespace
+
+QString keywordName(const QString &keyword)
+{
+    return keyword.section(u',', 0, 0);
+}
+
+std::optional<QString> matchKeyword(const QString &typed, const QStringList &keywords)
+{
+    const QString word = typed.startsWith(u'_') ? typed.mid(1) : typed;
+    if (word.isEmpty())
+        return {};
+    for (const QString &keyword : keywords)
+        if (keywordName(keyword).compare(word, Qt::CaseInsensitive) == 0)
+            return keywordName(keyword);
+    for (const QString &keyword : keywords)
+        if (isShortFor(word, keyword))
+            return keywordName(keyword);
+    return {};
+}
+
+QString formatPrompt(const QString &prompt, const QStringList &keywords, const QString &defaultText)
+{
+    QString shown = prompt;
+    while (!shown.isEmpty() && (shown.back().isSpace() || shown.back() == u':'))
+        shown.chop(1);
+    if (!keywords.isEmpty() && !shown.contains(u'[')) {
+        QStringList names;
+        for (const QString &keyword : keywords)
+            names.append(keywordName(keyword));
+        shown += QStringLiteral(" [%1]").arg(names.join(u'/'));
+    }
+    static const QRegularExpression shownDefault(QStringLiteral("<[^<>]*>$"));
+    if (!defaultText.isEmpty() && !shown.contains(shownDefault))
+        shown += QStringLiteral(" <%1>").arg(defaultText);
+    return shown + QStringLiteral(": ");
+}
+
+} // namespace host::kernel

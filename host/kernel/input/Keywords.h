@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QStringList>
+
+#include <optional>
+
+namespace host::kernel {
+
+/// The keyword that `typed` means, as the list spells it. Each keyword may be shortened down to its upper-case letters
+/// ("LTscale" by "LT"; "eXit" by "X"), or to what follows a comma ("LTYPE,LT"). Letter case does not matter, and a
+/// leading "_" is skipped. A whole keyword goes before an abbreviation, the first in the list before later ones.
+std::optional<QString> matchKeyword(const QString &typed, const QStringList &keywords);
+
+/// A keyword without the abbreviation behind its comma.
+QString keywordName(const QString &keyword);
+
+/// `prompt` as it is shown: keywords in brackets when the prompt does not list any itself, the default in angle
+/// brackets, and a colon, each only where it is not there already.
+QString formatPrompt(const QString &prompt, const QStringList &keywords, const QString &defaultText);
+
+} // namespace host::kernel

@@ -1,0 +1,169 @@
+#include "host/kernel/input/Picker.h"
+
+#include "host/drawing/Entities.h"
+#include "host/drawing/EntityGeometry.h"
+#include "host/drawing/PolygonSelection.h"
+#include "host/drawing/Symbols.h"
+#include "host/kernel/CurrentSpace.h"
+#include "host/kernel/Document.h"
+#include "host/kernel/SystemVariables.h"
+
+#include <QSet>
+
+namespace host::kernel {
+
+namespace {
+
+using drawing::Box;
+using drawing::RecordId;
+using drawing::Vec2;
+using drawing::Vec3;
+
+/// Entities of a list that are not on one of the layers and not made invisible themselves.
+std::vector<RecordId> without(const drawing::Drawing &drawing, std::vector<RecordId> entities,
+                              const QSet<QString> &layers)
+{
+    std::erase_if(entities, [&](RecordId id) {
+        const drawing::TagList tags = drawing.tags(id);
+        return tags.integer(60) != 0 || layers.contains(tags.text(8, QStringLiteral("0")).toUpper());
+    });
+    return entities;
+}
+
+template <typename Test>
+QSet<QString> layersThat(const drawing::Drawing &drawing, Test &&test)
+{
+    QSet<QString> names;
+    for (const drawing::Layer &layer : drawing::allLayers(drawing))
+        if (test(layer))
+            names.insert(layer.name.toUpper());
+    return names;
+}
+
+Box boxOf(const std::vector<Vec3> &corners)
+{
+    Box box;
+    for (const Vec3 &corner : corners)
+        box.add(corner);
+    return box;
+}
+
+Box boxAround(const Vec3 &point, double reach)
+{
+    Box box;
+    box.add(point + Vec3{reach, reach, reach});
+    box.add(point - Vec3{reach, reach, reach});
+    return box;
+}
+
+bool isChosen(const drawing::Outline &outline, ShapeKind kind, const std::vector<Vec3> &corners)
+{
+    switch (kind) {
+    case ShapeKind::Window:
+        return drawing::liesWithin(outline, boxOf(corners));
+    case ShapeKind::Crossing:
+        return drawing::crosses(outline, boxOf(corners));
+    case ShapeKind::WindowPolygon:
+        return drawing::liesWithin(outline, corners);
+    case ShapeKind::CrossingPolygon:
+        return drawing::crosses(outline, corners);
+    case ShapeKind::Fence:
+        break;
+    }
+    return drawing::crossesPath(outline, corners);
+}
+
+} // namespace
+
+std::vector<RecordId> Picker::visible() const
+{
+    const drawing::Drawing &drawing = m_document.drawing();
+    const auto isHidden = [](const drawing::Layer &layer) { return layer.isOff || layer.isFrozen; };
+    return without(drawing, drawing.entities().inSpace(currentSpace(drawing)), layersThat(drawing, isHidden));
+}
+
+std::vector<RecordId> Picker::thawed() const
+{
+    const drawing::Drawing &drawing = m_document.drawing();
+    const auto isOut = [](const drawing::Layer &layer) { return layer.isFrozen || layer.isLocked; };
+    return without(drawing, drawing.entities().inSpace(currentSpace(drawing)), layersThat(drawing, isOut));
+}
+
+RecordId Picker::entityAt(const Vec3 &point) const
+{
+    const double reach = m_document.variables().integer(u"PICKBOX", 3) * m_document.view().unitsPerPixel();
+    const std::vector<RecordId> near = m_document.boxes().touching(visible(), boxAround(point, reach));
+    RecordId best = drawing::noRecord;
+    double bestDistance = reach;
+    for (RecordId id : near) {
+        const double distance = drawing::flatDistance(drawing::entityOutline(m_document.drawing(), id), point.xy());
+        if (distance <= bestDistance) {
+            best = id;
+            bestDistance = distance;
+        }
+    }
+    return best;
+}
+
+std::vector<RecordId> Picker::inShape(ShapeKind kind, const std::vector<Vec3> &corners) const
+{
+    std::vector<RecordId> chosen = m_document.boxes().touching(visible(), boxOf(corners));
+    std::erase_if(chosen, [&](RecordId id) {
+        return !isChosen(drawing::entityOutline(m_document.drawing(), id), kind, corners);
+    });
+    return chosen;
+}
+
+NestedPick Picker::nestedAt(RecordId entity, const Vec3 &point) const
+{
+    const drawing::Drawing &drawing = m_document.drawing();
+    if (drawing.isType(entity, "INSERT") || drawing.isType(entity, "DIMENSION"))
+        return nearestInside(entity, point);
+    NestedPick pick;
+    pick.entity = drawing.isType(entity, "POLYLINE") ? nearestVertex(entity, point) : entity;
+    return pick;
+}
+
+NestedPick Picker::nearestInside(RecordId insert, const Vec3 &point) const
+{
+    const drawing::Drawing &drawing = m_document.drawing();
+    NestedPick pick;
+    pick.entity = insert;
+    double best = std::numeric_limits<double>::infinity();
+    drawing::visitInserted(drawing, insert, [&](const drawing::VisitedEntity &visited) {
+        const drawing::Outline outline = drawing::entityOutline(drawing, visited.entity, {}, visited.transform);
+        const double distance = drawing::flatDistance(outline, point.xy());
+        if (distance <= best) {
+            best = distance;
+            pick.entity = visited.entity;
+            pick.toWorld = visited.transform;
+            pick.inserts.assign(visited.inserts.rbegin(), visited.inserts.rend());
+        }
+        return true;
+    });
+    // An attribute stands beside its block, not in it.
+    if (drawing.kind(pick.entity) == drawing::RecordKind::Child)
+        return {pick.entity, {}, {}};
+    return pick;
+}
+
+RecordId Picker::nearestVertex(RecordId polyline, const Vec3 &point) const
+{
+    const drawing::Drawing &drawing = m_document.drawing();
+    const std::vector<RecordId> vertices = drawing.children(polyline);
+    RecordId best = polyline;
+    double bestDistance = std::numeric_limits<double>::infinity();
+    for (size_t i = 0; i < vertices.size(); ++i) {
+        const RecordId next = vertices[(i + 1) % vertices.size()];
+        drawing::Outline segment;
+        segment.pieces.push_back({{drawing.tags(vertices[i]).point(10), drawing.tags(next).point(10)}, false});
+        const double distance = drawing::flatDistance(segment, point.xy());
+        if (distance < bestDistance) {
+            bestDistance = distance;
+            best = vertices[i];
+        }
+    }
+    return best;
+}
+
+} // namespace host::kernel

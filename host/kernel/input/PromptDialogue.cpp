@@ -1,0 +1,310 @@
+#include "host/kernel/input/PromptDialogue.h"
+
+#include "host/kernel/Document.h"
+#include "host/kernel/SystemVariables.h"
+#include "host/kernel/functions/AnswerFromValue.h"
+#include "host/kernel/input/Keywords.h"
+#include "host/kernel/input/Picker.h"
+#include "host/kernel/input/PointEntry.h"
+#include "host/lisp/Interpreter.h"
+
+#include <cmath>
+
+namespace host::kernel {
+
+namespace {
+
+using drawing::Vec3;
+
+// Values of ERRNO that programs look at behind a pick.
+constexpr qint32 pickMissed = 7;
+constexpr qint32 emptyAnswer = 52;
+
+QString refusalText(PromptKind kind)
+{
+    switch (kind) {
+    case PromptKind::Integer:
+        return QStringLiteral("Requires an integer value.");
+    case PromptKind::Real:
+        return QStringLiteral("Requires numeric value.");
+    case PromptKind::Distance:
+        return QStringLiteral("Requires numeric distance or two points.");
+    case PromptKind::Angle:
+    case PromptKind::Orientation:
+        return QStringLiteral("Requires valid numeric angle or two points.");
+    case PromptKind::Keyword:
+        return QStringLiteral("Invalid option keyword.");
+    case PromptKind::Selection:
+        return QStringLiteral("Expects a point or Window/Last/Crossing/BOX/ALL/Fence/WPolygon/CPolygon/Add/Remove/"
+                              "Previous/Undo/Single.");
+    case PromptKind::Command:
+    case PromptKind::String:
+        return QStringLiteral("Invalid input.");
+    case PromptKind::Point:
+    case PromptKind::Corner:
+    case PromptKind::Entity:
+        break;
+    }
+    return QStringLiteral("Invalid point.");
+}
+
+PromptReply replyOf(ReplyKind kind, const QString &text = {})
+{
+    PromptReply reply;
+    reply.kind = kind;
+    reply.text = text;
+    return reply;
+}
+
+bool isTextual(PromptKind kind)
+{
+    return kind == PromptKind::String || kind == PromptKind::Command;
+}
+
+bool isAngle(PromptKind kind)
+{
+    return kind == PromptKind::Angle || kind == PromptKind::Orientation;
+}
+
+} // namespace
+
+PromptDialogue::PromptDialogue(Document &document, PromptRequest request)
+    : m_document(document), m_request(std::move(request))
+{
+}
+
+std::optional<PromptReply> PromptDialogue::offer(const InputAnswer &answer)
+{
+    const Reading reading = std::visit([this](const auto &given) { return read(given); }, answer);
+    if (!reading.refusal.isEmpty())
+        m_document.print(u'\n' + reading.refusal);
+    return reading.reply;
+}
+
+PromptDialogue::Reading PromptDialogue::read(const CancelAnswer &)
+{
+    return {replyOf(ReplyKind::Cancelled), {}};
+}
+
+PromptDialogue::Reading PromptDialogue::read(const TextAnswer &answer)
+{
+    const QString text = isTextual(m_request.kind) ? answer.text : answer.text.trimmed();
+    if (text.isEmpty())
+        return readEmpty();
+    if (m_request.forCommand && (text.startsWith(u'(') || text.startsWith(u'!')))
+        return readEvaluated(text);
+    if (const auto keyword = matchKeyword(text, m_request.keywords))
+        return {replyOf(m_request.kind == PromptKind::Keyword ? ReplyKind::Value : ReplyKind::Keyword, *keyword), {}};
+    Reading reading = readValue(text);
+    if (!reading.reply && !reading.refusal.isEmpty() && (m_request.bits & AnyText))
+        return {replyOf(ReplyKind::Keyword, text), {}};
+    return reading;
+}
+
+PromptDialogue::Reading PromptDialogue::readEmpty()
+{
+    const bool mayBeEmpty = !(m_request.bits & NoEmptyAnswer) || !m_request.defaultText.isEmpty();
+    if (!mayBeEmpty && m_request.kind != PromptKind::String)
+        return refuse();
+    if (m_request.kind == PromptKind::Entity)
+        m_document.variables().setInternally(u"ERRNO", emptyAnswer);
+    return {replyOf(ReplyKind::Empty), {}};
+}
+
+PromptDialogue::Reading PromptDialogue::readEvaluated(const QString &expression)
+{
+    // "!name" is the value of a variable.
+    const QString form = expression.startsWith(u'!') ? expression.mid(1) : expression;
+    const lisp::Outcome outcome = m_document.interpreter().run(form.toStdString());
+    if (!outcome.ok())
+        return {{}, QString::fromStdString(outcome.error->summary())};
+    const std::optional<InputAnswer> answer = answerFromValue(m_document, outcome.value);
+    if (!answer)
+        return refuse();
+    if (const auto *text = std::get_if<TextAnswer>(&*answer); text && text->text.startsWith(u'('))
+        return readValue(text->text);
+    return std::visit([this](const auto &given) { return read(given); }, *answer);
+}
+
+PromptDialogue::Reading PromptDialogue::readValue(const QString &text)
+{
+    switch (m_request.kind) {
+    case PromptKind::Integer:
+        return readInteger(text);
+    case PromptKind::Real:
+        return readReal(text);
+    case PromptKind::String:
+    case PromptKind::Command:
+        return {replyOf(ReplyKind::Value, text), {}};
+    case PromptKind::Keyword:
+        return refuse();
+    default:
+        break;
+    }
+    if (const std::optional<Vec3> point = typedPoint(text))
+        return takePoint(*point);
+    if (m_request.kind == PromptKind::Distance)
+        return readReal(text);
+    return isAngle(m_request.kind) ? readAngle(text) : refuse();
+}
+
+PromptDialogue::Reading PromptDialogue::readInteger(const QString &text)
+{
+    bool isInteger = false;
+    PromptReply reply;
+    reply.integer = text.toInt(&isInteger);
+    return isInteger ? checkNumber(reply.integer, reply) : refuse();
+}
+
+PromptDialogue::Reading PromptDialogue::readReal(const QString &text)
+{
+    const std::optional<double> value = UnitFormat::of(m_document.variables()).parseLength(text);
+    if (!value || !std::isfinite(*value))
+        return refuse();
+    PromptReply reply;
+    reply.real = *value;
+    return checkNumber(reply.real, reply);
+}
+
+PromptDialogue::Reading PromptDialogue::checkNumber(double value, PromptReply reply)
+{
+    if ((m_request.bits & NoZero) && value == 0.0)
+        return {{}, QStringLiteral("Value must be nonzero.")};
+    if ((m_request.bits & NoNegative) && value < 0.0)
+        return {{}, QStringLiteral("Value must not be negative.")};
+    return {std::move(reply), {}};
+}
+
+PromptDialogue::Reading PromptDialogue::readAngle(const QString &text)
+{
+    const UnitFormat units = UnitFormat::of(m_document.variables());
+    const std::optional<double> direction = units.parseDirection(text);
+    if (!direction)
+        return refuse();
+    PromptReply reply;
+    reply.real = normalizedAngle(m_request.kind == PromptKind::Orientation ? *direction : *direction - units.angleBase);
+    return checkNumber(reply.real, reply);
+}
+
+std::optional<Vec3> PromptDialogue::typedPoint(const QString &text) const
+{
+    const SystemVariables &variables = m_document.variables();
+    PointContext context{UnitFormat::of(variables), variables.point(u"LASTPOINT"), variables.real(u"ELEVATION")};
+    if (m_request.base) {
+        const OdGePoint3d base = m_document.worldToUser({m_request.base->x, m_request.base->y, m_request.base->z});
+        context.last = {base.x, base.y, base.z};
+    }
+    const std::optional<TypedPoint> typed = parsePoint(text, context);
+    if (!typed || typed->isWorld)
+        return typed ? std::optional(typed->point) : std::nullopt;
+    const OdGePoint3d world = m_document.userToWorld({typed->point.x, typed->point.y, typed->point.z});
+    return Vec3{world.x, world.y, world.z};
+}
+
+PromptDialogue::Reading PromptDialogue::read(const PointAnswer &answer)
+{
+    if (m_request.kind == PromptKind::Integer || m_request.kind == PromptKind::Real ||
+        m_request.kind == PromptKind::Keyword || isTextual(m_request.kind))
+        return refuse();
+    return takePoint(answer.point);
+}
+
+PromptDialogue::Reading PromptDialogue::takePoint(const Vec3 &world)
+{
+    if (m_request.kind == PromptKind::Entity || m_request.kind == PromptKind::Selection)
+        return pickAt(world);
+    if (isOutsideLimits(world))
+        return {{}, QStringLiteral("**Outside limits")};
+    const OdGePoint3d user = m_document.worldToUser({world.x, world.y, world.z});
+    m_document.variables().setInternally(u"LASTPOINT", Vec3{user.x, user.y, user.z});
+    if (m_request.kind == PromptKind::Distance || isAngle(m_request.kind))
+        return takeSecondPoint(world);
+    PromptReply reply;
+    reply.point = world;
+    return {reply, {}};
+}
+
+PromptDialogue::Reading PromptDialogue::takeSecondPoint(const Vec3 &world)
+{
+    if (!m_request.base) {
+        m_request.base = world;
+        m_request.prompt = QStringLiteral("\nSpecify second point: ");
+        return {};
+    }
+    const OdGePoint3d from = m_document.worldToUser({m_request.base->x, m_request.base->y, m_request.base->z});
+    const OdGePoint3d to = m_document.worldToUser({world.x, world.y, world.z});
+    PromptReply reply;
+    if (m_request.kind == PromptKind::Distance) {
+        const double rise = (m_request.bits & FlatDistance) ? 0.0 : to.z - from.z;
+        reply.real = std::hypot(to.x - from.x, to.y - from.y, rise);
+        return checkNumber(reply.real, reply);
+    }
+    const double absolute = std::atan2(to.y - from.y, to.x - from.x);
+    const double base = m_request.kind == PromptKind::Orientation ? 0.0 : m_document.variables().real(u"ANGBASE");
+    reply.real = normalizedAngle(absolute - base);
+    return {reply, {}};
+}
+
+PromptDialogue::Reading PromptDialogue::pickAt(const Vec3 &world)
+{
+    PromptReply reply;
+    reply.point = world;
+    const drawing::RecordId entity = Picker(m_document).entityAt(world);
+    if (isValid(entity))
+        reply.entities.push_back(entity);
+    else if (m_request.kind == PromptKind::Entity) {
+        m_document.variables().setInternally(u"ERRNO", pickMissed);
+        reply.kind = ReplyKind::Empty;
+    }
+    return {reply, {}};
+}
+
+PromptDialogue::Reading PromptDialogue::read(const EntityAnswer &answer)
+{
+    if (m_request.kind != PromptKind::Entity && m_request.kind != PromptKind::Selection)
+        return read(PointAnswer{answer.point});
+    if (!m_document.drawing().isAlive(answer.entity))
+        return refuse();
+    PromptReply reply;
+    reply.entities.push_back(answer.entity);
+    reply.point = answer.point;
+    return {reply, {}};
+}
+
+PromptDialogue::Reading PromptDialogue::read(const EntitiesAnswer &answer)
+{
+    if (m_request.kind != PromptKind::Selection)
+        return refuse();
+    PromptReply reply;
+    reply.entities = answer.entities;
+    std::erase_if(reply.entities, [this](drawing::RecordId id) { return !m_document.drawing().isAlive(id); });
+    return {reply, {}};
+}
+
+PromptDialogue::Reading PromptDialogue::read(const WindowAnswer &answer)
+{
+    if (m_request.kind != PromptKind::Selection)
+        return refuse();
+    PromptReply reply;
+    reply.isWindow = true;
+    reply.point = answer.first;
+    reply.corner = answer.second;
+    return {reply, {}};
+}
+
+PromptDialogue::Reading PromptDialogue::refuse() const
+{
+    return {{}, refusalText(m_request.kind)};
+}
+
+bool PromptDialogue::isOutsideLimits(const Vec3 &world) const
+{
+    const SystemVariables &variables = m_document.variables();
+    if ((m_request.bits & OutsideLimits) || variables.integer(u"LIMCHECK") == 0)
+        return false;
+    const Vec3 low = variables.point(u"LIMMIN");
+    const Vec3 high = variables.point(u"LIMMAX");
+    return world.x < low.x || world.y < low.y || world.x > high.x || world.y > high.y;
+}
+
+} // namespace host::kernel

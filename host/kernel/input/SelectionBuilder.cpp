@@ -1,0 +1,177 @@
+#include "host/kernel/input/SelectionBuilder.h"
+
+#include "host/drawing/Entities.h"
+#include "host/kernel/CurrentSpace.h"
+#include "host/kernel/Document.h"
+
+namespace host::kernel {
+
+namespace {
+
+using drawing::RecordId;
+
+const QStringList &selectionWords()
+{
+    static const QStringList words = {
+        QStringLiteral("Window"), QStringLiteral("Last"),   QStringLiteral("Crossing"), QStringLiteral("BOX"),
+        QStringLiteral("ALL"),    QStringLiteral("Fence"),  QStringLiteral("WPolygon"), QStringLiteral("CPolygon"),
+        QStringLiteral("Add"),    QStringLiteral("Remove"), QStringLiteral("Previous"), QStringLiteral("Undo"),
+        QStringLiteral("Single")};
+    return words;
+}
+
+} // namespace
+
+SelectionBuilder::SelectionBuilder(Document &document, SelectionSize size, std::function<bool(RecordId)> accepts)
+    : m_document(document), m_size(size), m_accepts(std::move(accepts)), m_adding(QStringLiteral("\nSelect objects: ")),
+      m_removing(QStringLiteral("\nRemove objects: "))
+{
+}
+
+void SelectionBuilder::setPrompts(const QString &adding, const QString &removing)
+{
+    m_adding = adding;
+    m_removing = removing;
+}
+
+bool SelectionBuilder::isPolygon() const
+{
+    return m_shape && m_shape != ShapeKind::Window && m_shape != ShapeKind::Crossing;
+}
+
+PromptRequest SelectionBuilder::request() const
+{
+    PromptRequest request;
+    request.forCommand = true;
+    request.bits = OutsideLimits;
+    if (!m_shape) {
+        request.kind = PromptKind::Selection;
+        request.prompt = m_isRemoving ? m_removing : m_adding;
+        request.keywords = selectionWords();
+        return request;
+    }
+    request.kind = PromptKind::Point;
+    if (m_corners.empty()) {
+        request.prompt = isPolygon() ? QStringLiteral("\nFirst point: ") : QStringLiteral("\nSpecify first corner: ");
+        return request;
+    }
+    request.base = m_corners.back();
+    request.kind = isPolygon() ? PromptKind::Point : PromptKind::Corner;
+    request.prompt = isPolygon() ? QStringLiteral("\nNext point: ") : QStringLiteral("\nSpecify opposite corner: ");
+    return request;
+}
+
+void SelectionBuilder::add(const PromptReply &reply)
+{
+    if (reply.kind == ReplyKind::Cancelled) {
+        m_isCancelled = m_isDone = true;
+        return;
+    }
+    if (m_shape)
+        addShapePoint(reply);
+    else
+        addIdle(reply);
+}
+
+void SelectionBuilder::addIdle(const PromptReply &reply)
+{
+    if (reply.isEmpty()) {
+        m_isDone = true;
+    } else if (reply.kind == ReplyKind::Keyword) {
+        addWord(reply.text);
+    } else if (reply.isWindow) {
+        m_shape = reply.corner.x < reply.point.x ? ShapeKind::Crossing : ShapeKind::Window;
+        m_corners = {reply.point, reply.corner};
+        finishShape();
+    } else if (reply.entities.empty()) {
+        // Nothing at the picked point: it is the first corner of a window.
+        m_shape = ShapeKind::Window;
+        m_shapeByDirection = true;
+        m_corners = {reply.point};
+    } else {
+        take(reply.entities);
+    }
+}
+
+void SelectionBuilder::addWord(const QString &word)
+{
+    static const QHash<QString, ShapeKind> shapes = {{QStringLiteral("Window"), ShapeKind::Window},
+                                                     {QStringLiteral("BOX"), ShapeKind::Window},
+                                                     {QStringLiteral("Crossing"), ShapeKind::Crossing},
+                                                     {QStringLiteral("Fence"), ShapeKind::Fence},
+                                                     {QStringLiteral("WPolygon"), ShapeKind::WindowPolygon},
+                                                     {QStringLiteral("CPolygon"), ShapeKind::CrossingPolygon}};
+    if (const auto shape = shapes.constFind(word); shape != shapes.constEnd()) {
+        m_shape = *shape;
+        m_shapeByDirection = word == QStringLiteral("BOX");
+        m_corners.clear();
+    } else if (word == QStringLiteral("ALL")) {
+        take(Picker(m_document).thawed());
+    } else if (word == QStringLiteral("Last")) {
+        const std::vector<RecordId> all = Picker(m_document).visible();
+        take(all.empty() ? all : std::vector<RecordId>{all.back()});
+    } else if (word == QStringLiteral("Previous")) {
+        take(m_document.previousSelection());
+    } else if (word == QStringLiteral("Single")) {
+        m_size = SelectionSize::Single;
+    } else if (word == QStringLiteral("Undo") && !m_before.empty()) {
+        m_entities = std::move(m_before.back());
+        m_before.pop_back();
+        m_members.clear();
+        for (RecordId id : m_entities)
+            m_members.insert(quint32(id));
+    } else {
+        m_isRemoving = word == QStringLiteral("Remove");
+    }
+}
+
+void SelectionBuilder::addShapePoint(const PromptReply &reply)
+{
+    if (reply.hasValue()) {
+        m_corners.push_back(reply.point);
+        if (!isPolygon() && m_corners.size() == 2)
+            finishShape();
+        return;
+    }
+    // An empty answer ends a polygon and gives up a window.
+    if (isPolygon() && m_corners.size() >= 2)
+        finishShape();
+    else
+        m_shape.reset();
+}
+
+void SelectionBuilder::finishShape()
+{
+    ShapeKind kind = *m_shape;
+    if (m_shapeByDirection)
+        kind = m_corners[1].x < m_corners[0].x ? ShapeKind::Crossing : ShapeKind::Window;
+    m_shape.reset();
+    m_shapeByDirection = false;
+    take(Picker(m_document).inShape(kind, m_corners));
+}
+
+void SelectionBuilder::take(const std::vector<RecordId> &found)
+{
+    m_before.push_back(m_entities);
+    int count = 0;
+    QSet<quint32> removed;
+    for (RecordId id : found) {
+        if (!m_document.drawing().isAlive(id) || (m_accepts && !m_accepts(id)))
+            continue;
+        ++count;
+        if (m_isRemoving && m_members.remove(quint32(id)))
+            removed.insert(quint32(id));
+        else if (!m_isRemoving && !m_members.contains(quint32(id))) {
+            m_members.insert(quint32(id));
+            m_entities.push_back(id);
+        }
+    }
+    std::erase_if(m_entities, [&](RecordId id) { return removed.contains(quint32(id)); });
+    m_document.print(m_before.back().empty()
+                         ? QStringLiteral("\n%1 found").arg(count)
+                         : QStringLiteral("\n%1 found, %2 total").arg(count).arg(m_entities.size()));
+    if (m_size == SelectionSize::Single && count > 0)
+        m_isDone = true;
+}
+
+} // namespace host::kernel

@@ -1,0 +1,66 @@
+#pragma once
+
+#include "host/kernel/input/Picker.h"
+#include "host/kernel/input/PromptReply.h"
+
+#include <QSet>
+
+#include <functional>
+
+namespace host::kernel {
+
+enum class SelectionSize
+{
+    Many,  ///< until an empty answer
+    Single ///< one step
+};
+
+/// A selection while it grows, step by step: who asks the user puts each reply in and asks request() next.
+///
+///     SelectionBuilder chosen(document);
+///     while (!chosen.isDone())
+///         chosen.add(document.prompts().ask(chosen.request()));
+class SelectionBuilder
+{
+public:
+    /// `accepts` says which entities may be chosen; null for all.
+    explicit SelectionBuilder(Document &document, SelectionSize size = SelectionSize::Many,
+                              std::function<bool(drawing::RecordId)> accepts = {});
+
+    /// Other prompts than "Select objects: " and "Remove objects: ".
+    void setPrompts(const QString &adding, const QString &removing);
+    /// The request for the next step, with its prompt.
+    PromptRequest request() const;
+    /// Puts a reply in and tells the user how many were found.
+    void add(const PromptReply &reply);
+
+    bool isDone() const { return m_isDone; }
+    bool isCancelled() const { return m_isCancelled; }
+    /// What is chosen, in the order of choosing.
+    const std::vector<drawing::RecordId> &entities() const { return m_entities; }
+
+private:
+    void addIdle(const PromptReply &reply);
+    void addShapePoint(const PromptReply &reply);
+    void addWord(const QString &word);
+    void finishShape();
+    void take(const std::vector<drawing::RecordId> &found);
+    bool isPolygon() const;
+
+    Document &m_document;
+    SelectionSize m_size;
+    std::function<bool(drawing::RecordId)> m_accepts;
+    QString m_adding;
+    QString m_removing;
+    std::vector<drawing::RecordId> m_entities;
+    QSet<quint32> m_members;
+    std::vector<std::vector<drawing::RecordId>> m_before; ///< for Undo: the selection before each step
+    std::optional<ShapeKind> m_shape;                     ///< corners of it are being asked for
+    bool m_shapeByDirection = false; ///< window or crossing, depending on where the second corner is
+    std::vector<drawing::Vec3> m_corners;
+    bool m_isRemoving = false;
+    bool m_isDone = false;
+    bool m_isCancelled = false;
+};
+
+} // namespace host::kernel

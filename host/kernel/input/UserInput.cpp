@@ -1,0 +1,203 @@
+#include "host/kernel/input/UserInput.h"
+
+#include "host/kernel/Document.h"
+#include "host/kernel/Session.h"
+#include "host/kernel/SystemVariables.h"
+#include "host/kernel/input/Keywords.h"
+#include "host/kernel/input/PromptDialogue.h"
+#include "host/kernel/input/Units.h"
+
+namespace host::kernel {
+
+namespace {
+
+std::optional<drawing::Vec3> vector(const std::optional<OdGePoint3d> &point)
+{
+    return point ? std::optional(drawing::Vec3{point->x, point->y, point->z}) : std::nullopt;
+}
+
+PromptRequest requestFor(PromptKind kind, const OdString &prompt)
+{
+    PromptRequest request;
+    request.kind = kind;
+    request.prompt = prompt;
+    return request;
+}
+
+} // namespace
+
+PromptReply UserInput::ask(const PromptRequest &request)
+{
+    PromptDialogue dialogue(m_document, request);
+    for (;;) {
+        m_document.printPrompt(dialogue.request().prompt);
+        const InputAnswer answer = nextAnswer(dialogue.request());
+        echo(answer);
+        if (std::optional<PromptReply> reply = dialogue.offer(answer))
+            return *reply;
+    }
+}
+
+InputAnswer UserInput::nextAnswer(const PromptRequest &request)
+{
+    Session &session = m_document.session();
+    for (;;) {
+        if (!session.input().isEmpty())
+            if (std::optional<InputAnswer> answer = session.input().take(request))
+                return *answer;
+        InputFeeder *feeder = session.feeder();
+        const bool isFed = feeder && feeder->feed(request, session.input()) == FeedResult::Supplied;
+        if (!isFed || session.input().isEmpty()) {
+            m_document.print(
+                QStringLiteral("\nNobody is there to answer \"%1\": cancelled.\n").arg(request.prompt.trimmed()));
+            return CancelAnswer{};
+        }
+    }
+}
+
+void UserInput::echo(const InputAnswer &answer)
+{
+    if (const auto *text = std::get_if<TextAnswer>(&answer))
+        m_document.print(text->text + u'\n');
+    else if (std::holds_alternative<CancelAnswer>(answer))
+        m_document.print(QStringLiteral("*Cancel*\n"));
+    else
+        m_document.print(QStringLiteral("\n"));
+}
+
+void UserInput::initget(int bits, const QStringList &keywords)
+{
+    m_bits = bits;
+    m_keywords = keywords;
+    m_keywords.removeAll(QString());
+}
+
+void UserInput::applyOptions(PromptRequest &request)
+{
+    request.bits = m_bits;
+    request.keywords = m_keywords;
+    forgetOptions();
+}
+
+void UserInput::forgetOptions()
+{
+    m_bits = 0;
+    m_keywords.clear();
+}
+
+OdString UserInput::formatPrompt(const OdString &prompt, const OdString &defaultText) const
+{
+    return kernel::formatPrompt(prompt, m_keywords, defaultText);
+}
+
+int UserInput::askFor(PromptRequest request, PromptReply &reply)
+{
+    applyOptions(request);
+    m_input.clear();
+    reply = ask(request);
+    switch (reply.kind) {
+    case ReplyKind::Value:
+        return kRtNormal;
+    case ReplyKind::Empty:
+        return request.defaultText.isEmpty() ? kRtNone : kRtNormal;
+    case ReplyKind::Keyword:
+        m_input = reply.text;
+        return kRtKeyword;
+    case ReplyKind::Cancelled:
+        break;
+    }
+    return kRtCancel;
+}
+
+int UserInput::getInteger(const OdString &prompt, bool hasDefault, qint32 &value)
+{
+    PromptRequest request = requestFor(PromptKind::Integer, prompt);
+    request.defaultText = hasDefault ? QString::number(value) : QString();
+    PromptReply reply;
+    const int result = askFor(std::move(request), reply);
+    if (reply.hasValue())
+        value = reply.integer;
+    return result;
+}
+
+int UserInput::askForReal(PromptKind kind, const OdString &prompt, const std::optional<OdGePoint3d> &base,
+                          bool hasDefault, double &value)
+{
+    PromptRequest request = requestFor(kind, prompt);
+    request.base = vector(base);
+    if (hasDefault) {
+        const UnitFormat units = UnitFormat::of(m_document.variables());
+        request.defaultText = kind == PromptKind::Angle ? units.angle(value) : units.length(value);
+    }
+    PromptReply reply;
+    const int result = askFor(std::move(request), reply);
+    if (reply.hasValue())
+        value = reply.real;
+    return result;
+}
+
+int UserInput::getReal(const OdString &prompt, bool hasDefault, double &value)
+{
+    return askForReal(PromptKind::Real, prompt, {}, hasDefault, value);
+}
+
+int UserInput::getDistance(const OdString &prompt, const std::optional<OdGePoint3d> &base, bool hasDefault,
+                           double &value)
+{
+    return askForReal(PromptKind::Distance, prompt, base, hasDefault, value);
+}
+
+int UserInput::getAngle(const OdString &prompt, const std::optional<OdGePoint3d> &base, bool hasDefault, double &value)
+{
+    return askForReal(PromptKind::Angle, prompt, base, hasDefault, value);
+}
+
+int UserInput::askForPoint(PromptKind kind, const OdString &prompt, const std::optional<OdGePoint3d> &base,
+                           OdGePoint3d &value)
+{
+    PromptRequest request = requestFor(kind, prompt);
+    request.base = vector(base);
+    PromptReply reply;
+    const int result = askFor(std::move(request), reply);
+    if (reply.hasValue())
+        value = {reply.point.x, reply.point.y, reply.point.z};
+    return result;
+}
+
+int UserInput::getPoint(const OdString &prompt, const std::optional<OdGePoint3d> &base, OdGePoint3d &value)
+{
+    return askForPoint(PromptKind::Point, prompt, base, value);
+}
+
+int UserInput::getCorner(const OdString &prompt, const OdGePoint3d &base, OdGePoint3d &value)
+{
+    return askForPoint(PromptKind::Corner, prompt, base, value);
+}
+
+int UserInput::getString(const OdString &prompt, bool allowSpaces, OdString &value)
+{
+    PromptRequest request = requestFor(PromptKind::String, prompt);
+    request.allowSpaces = allowSpaces;
+    PromptReply reply;
+    const int result = askFor(std::move(request), reply);
+    if (reply.hasValue())
+        value = reply.text;
+    else if (reply.kind == ReplyKind::Keyword)
+        value.clear();
+    return reply.isEmpty() ? kRtNormal : result;
+}
+
+int UserInput::getKeyword(const OdString &prompt, OdString &value)
+{
+    PromptRequest request = requestFor(PromptKind::Keyword, prompt);
+    request.defaultText = value;
+    PromptReply reply;
+    const int result = askFor(std::move(request), reply);
+    if (reply.hasValue())
+        value = reply.text;
+    else if (reply.kind == ReplyKind::Keyword)
+        value.clear();
+    return result;
+}
+
+} // namespace host::kernel

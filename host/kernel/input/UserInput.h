@@ -1,0 +1,52 @@
+#pragma once
+
+#include "host/kernel/input/PromptReply.h"
+#include "platform/kernel/CKvUserInput.h"
+
+namespace host::kernel {
+
+class Document;
+
+/// The prompts of one document. Answers come from the session's queue, and from its feeder when that is empty.
+class KV_EXPORT UserInput final : public CKvUserInput
+{
+public:
+    explicit UserInput(Document &document) : m_document(document) {}
+
+    /// Asks until the answer is acceptable. Cancelled when nobody is there.
+    PromptReply ask(const PromptRequest &request);
+    /// The next answer for a request whose prompt was printed.
+    InputAnswer nextAnswer(const PromptRequest &request);
+    /// Puts bits and keywords of the last initget() into `request` and forgets them.
+    void applyOptions(PromptRequest &request);
+    void forgetOptions();
+
+    void initget(int bits, const QStringList &keywords) override;
+    OdString formatPrompt(const OdString &prompt, const OdString &defaultText) const override;
+    int getInteger(const OdString &prompt, bool hasDefault, qint32 &value) override;
+    int getReal(const OdString &prompt, bool hasDefault, double &value) override;
+    int getDistance(const OdString &prompt, const std::optional<OdGePoint3d> &base, bool hasDefault,
+                    double &value) override;
+    int getAngle(const OdString &prompt, const std::optional<OdGePoint3d> &base, bool hasDefault,
+                 double &value) override;
+    int getPoint(const OdString &prompt, const std::optional<OdGePoint3d> &base, OdGePoint3d &value) override;
+    int getCorner(const OdString &prompt, const OdGePoint3d &base, OdGePoint3d &value) override;
+    int getString(const OdString &prompt, bool allowSpaces, OdString &value) override;
+    int getKeyword(const OdString &prompt, OdString &value) override;
+    OdString input() const override { return m_input; }
+
+private:
+    int askFor(PromptRequest request, PromptReply &reply);
+    int askForReal(PromptKind kind, const OdString &prompt, const std::optional<OdGePoint3d> &base, bool hasDefault,
+                   double &value);
+    int askForPoint(PromptKind kind, const OdString &prompt, const std::optional<OdGePoint3d> &base,
+                    OdGePoint3d &value);
+    void echo(const InputAnswer &answer);
+
+    Document &m_document;
+    int m_bits = 0;
+    QStringList m_keywords;
+    QString m_input;
+};
+
+} // namespace host::kernel
