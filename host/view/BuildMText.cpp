@@ -1,0 +1,125 @@
+#include "host/view/DisplayBuilder.h"
+#include "host/view/MTextLayout.h"
+#include "host/view/TextLook.h"
+
+#include <numbers>
+
+namespace host::view {
+
+using drawing::Tag;
+using drawing::TagList;
+
+namespace {
+
+constexpr double radians = std::numbers::pi / 180.0;
+
+/// Long texts come in pieces: group 3 as often as needed, then group 1.
+QString readContent(const TagList &tags)
+{
+    QString content;
+    for (const Tag &tag : tags) {
+        if (tag.code >= 1000 || tag.code == 101)
+            break;
+        if (tag.code == 3)
+            content += tags.decoded(tag);
+        if (tag.code == 1) {
+            content += tags.decoded(tag);
+            break;
+        }
+    }
+    return content;
+}
+
+/// The direction along the lines: a vector in world coordinates, or an angle, whichever is written last; the world's
+/// own x when neither is there.
+double readRotation(const TagList &tags, const Matrix &ocs)
+{
+    const auto angleOf = [toOcs = ocs.inverted()](const Vec3 &world) {
+        const Vec3 direction = toOcs.direction(world);
+        return std::atan2(direction.y, direction.x);
+    };
+    double rotation = angleOf({1.0, 0.0, 0.0});
+    for (std::size_t i = 0; i < tags.size() && tags[i].code < 1000 && tags[i].code != 101; ++i) {
+        if (tags[i].code == 50) {
+            rotation = tags[i].real().value_or(0.0) * radians;
+        } else if (tags[i].code == 11) {
+            rotation = angleOf(tags.pointAt(i));
+        }
+    }
+    return rotation;
+}
+
+Style runStyle(const BuildContext &context, const MTextFormat &format)
+{
+    Style style = context.style;
+    style.linetype = 0;
+    if (format.trueColour) {
+        style.colour = {.kind = Colour::Kind::True, .value = *format.trueColour};
+    } else if (format.colourIndex) {
+        const int index = *format.colourIndex;
+        style.colour = index == 0     ? Colour{.kind = Colour::Kind::ByBlock}
+                       : index >= 256 ? Colour{}
+                                      : Colour{.kind = Colour::Kind::Index, .value = static_cast<std::uint32_t>(index)};
+    }
+    return style;
+}
+
+Matrix glyphMatrix(const MTextRun &run)
+{
+    const double slant = std::tan(run.format.oblique * radians);
+    const double height = run.format.height;
+    return {{height * run.format.widthFactor, 0.0, 0.0},
+            {height * slant, height, 0.0},
+            {0.0, 0.0, 1.0},
+            {run.x, run.y, 0.0}};
+}
+
+MTextBox readBox(const TagList &tags, const TextLook &look, qint64 column)
+{
+    MTextBox box;
+    const double width = tags.real(41);
+    box.width = isUsable(width) && width > 0.0 ? width : 0.0;
+    const double spacing = tags.real(44, 1.0);
+    box.lineSpacing = spacing >= 0.1 && spacing <= 10.0 ? spacing : 1.0;
+    box.isSpacingExact = tags.integer(73, 1) == 2;
+    box.alignment = column == 1 ? MTextAlignment::Center : column == 2 ? MTextAlignment::Right : MTextAlignment::Left;
+    box.styleFont = look.request;
+    return box;
+}
+
+} // namespace
+
+bool buildMText(BuildContext &context, const TagList &tags)
+{
+    const Matrix ocs = Matrix::fromExtrusion(tags.point(210, {0.0, 0.0, 1.0}));
+    const Vec3 at = tags.point(10);
+    const double height = std::abs(tags.real(40, 1.0));
+    const double rotation = readRotation(tags, ocs);
+    if (!isUsable(at) || !isUsable(height) || !isUsable(rotation) || !(height > 0.0))
+        return false;
+    const TextLook look = readTextLook(context, tags.text(7));
+    const qint64 attachment = std::clamp<qint64>(tags.integer(71, 1), 1, 9) - 1;
+    const MTextFormat start{.height = height, .widthFactor = look.widthFactor, .oblique = look.oblique / radians};
+    const MTextLayout layout = layOutMText(MTextParser(readContent(tags), start).parse(),
+                                           readBox(tags, look, attachment % 3), height, context.fonts());
+    const Vec3 corner{-layout.width * static_cast<double>(attachment % 3) / 2.0,
+                      layout.height * static_cast<double>(attachment / 3) / 2.0, 0.0};
+    const Matrix placement = Matrix::translation(at) * ocs * Matrix::rotation(rotation) * Matrix::translation(corner);
+    for (const MTextRun &run : layout.runs) {
+        if (run.text.trimmed().isEmpty())
+            continue;
+        auto text = std::make_unique<TextRun>(TextRun{.text = run.text, .font = run.font});
+        text->width = run.width / (run.format.height * run.format.widthFactor);
+        text->placement = placement * glyphMatrix(run);
+        context.add(std::move(text), runStyle(context, run.format));
+    }
+    for (const MTextRule &rule : layout.rules) {
+        context.add(
+            Stroke{{.points = {placement.point({rule.x1, rule.y1, 0.0}), placement.point({rule.x2, rule.y2, 0.0})}}},
+            runStyle(context, rule.format));
+    }
+    // An empty text shows nothing, which is what it says.
+    return true;
+}
+
+} // namespace host::view

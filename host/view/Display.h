@@ -1,0 +1,171 @@
+#pragma once
+
+#include "host/drawing/Curves.h"
+#include "host/drawing/Matrix.h"
+#include "host/drawing/Record.h"
+#include "host/drawing/Vec.h"
+
+#include <QString>
+
+#include <cstdint>
+#include <memory>
+#include <variant>
+#include <vector>
+
+namespace host::view {
+
+using drawing::Box;
+using drawing::Matrix;
+using drawing::noRecord;
+using drawing::Path;
+using drawing::RecordId;
+using drawing::Vec2;
+using drawing::Vec3;
+
+// What a drawing looks like, taken apart into few kinds of shapes. Shapes are in the coordinates of the space or block
+// that they were built for, and stay exact at every magnification: arcs are arcs, blocks are named, text is text.
+
+/// A colour as an entity says it; what it means depends on its layer and on the insert it is seen through.
+struct Colour
+{
+    enum class Kind : std::uint8_t
+    {
+        ByLayer,
+        ByBlock,
+        Index,
+        True
+    };
+    Kind kind = Kind::ByLayer;
+    std::uint32_t value = 0; ///< index 1-255, or 0xRRGGBB
+
+    bool operator==(const Colour &) const = default;
+};
+
+/// How a shape is drawn, unresolved. Layers and linetypes are places in the Appearance of the scene.
+struct Style
+{
+    static constexpr int byLayer = -1;
+    static constexpr int byBlock = -2;
+    static constexpr int defaultWeight = -3;
+
+    Colour colour{};
+    int layer = 0;
+    int linetype = byLayer;
+    int lineweight = byLayer; ///< hundredths of a millimetre, or one of the constants
+    double linetypeScale = 1.0;
+};
+
+/// An elliptical arc in space, which every affine map takes to such an arc again: center + xAxis cos t + yAxis sin t.
+struct ArcSpan
+{
+    std::size_t segment = 0; ///< which segment of its curve it is
+    Vec3 center{};
+    Vec3 xAxis{};
+    Vec3 yAxis{};
+    double start = 0.0; ///< radians
+    double sweep = 0.0; ///< signed
+
+    Vec3 point(double t) const { return center + xAxis * std::cos(t) + yAxis * std::sin(t); }
+};
+
+/// A line through points, some of its segments arcs. A closed curve ends with its first point.
+struct Curve
+{
+    Path points{};
+    std::vector<ArcSpan> arcs{}; ///< by rising segment
+    bool isOneRun = true;        ///< a linetype runs through; otherwise it begins anew at every vertex
+};
+
+/// A curve drawn as a line.
+struct Stroke
+{
+    Curve curve{};
+};
+
+/// A straight line that does not end, on one or both sides.
+struct Endless
+{
+    Vec3 base{};
+    Vec3 direction{}; ///< of length 1
+    bool isBothWays = false;
+};
+
+/// Line pieces and dots by themselves, not dashed: the lines of a pattern.
+struct Segments
+{
+    Path ends{}; ///< two points a piece
+    Path dots{};
+};
+
+enum class FillKind : std::uint8_t
+{
+    Area,  ///< filled with its colour
+    Dense, ///< so many pattern lines that they are drawn as a tint
+    Mask   ///< covers with the ground's colour what was drawn before
+};
+
+struct Fill
+{
+    std::vector<Curve> contours{};
+    FillKind kind = FillKind::Area;
+    bool isEvenOdd = true; ///< otherwise overlapping contours of one direction make one area
+};
+
+/// A piece of text in one font, on one line. In its own coordinates it starts at the origin, runs along x, and its
+/// capitals are 1 high.
+struct TextRun
+{
+    QString text{};
+    int font = 0;       ///< in Fonts
+    double width = 0.0; ///< in capital heights
+    Matrix placement{}; ///< from its own coordinates
+};
+
+/// A POINT; its look and size are settings of the drawing.
+struct PointMark
+{
+    Vec3 at{};
+    bool isDot = false; ///< whatever the settings say: points that dimensions are measured from
+};
+
+struct DisplayItem;
+
+/// A block or space seen through a map, once or as an array.
+struct Reference
+{
+    int block = 0; ///< in the scene
+    Matrix placement{};
+    std::int64_t columns = 1;
+    std::int64_t rows = 1;
+    Vec3 columnStep{};
+    Vec3 rowStep{};
+    Path clip{};                       ///< polygon, in coordinates of the block; empty: all is shown
+    std::vector<int> hiddenLayers{};   ///< layers frozen in this view of the block
+    std::vector<DisplayItem> beside{}; ///< shown with every cell: attributes, where those of the first cell are
+    Box besideBox{};
+    bool isViewport = false; ///< by-block properties and layer 0 do not come from it
+};
+
+using Shape =
+    std::variant<Stroke, Fill, Segments, Endless, PointMark, std::unique_ptr<TextRun>, std::unique_ptr<Reference>>;
+
+struct DisplayItem
+{
+    Style style{};
+    Shape shape{};
+};
+
+/// All that one record of a drawing shows.
+struct RecordDisplay
+{
+    RecordId record = noRecord;
+    Box box{}; ///< of what has an end; grows with the blocks it refers to
+    std::vector<DisplayItem> items{};
+    bool isEndless = false; ///< has lines without end: the box does not bound it
+    bool hasReferences = false;
+    bool isSkipped = false;    ///< could not be drawn
+    bool isSimplified = false; ///< drawn, but not all that the record says
+    bool isHidden = false;     ///< says that it is not to be seen
+};
+
+} // namespace host::view

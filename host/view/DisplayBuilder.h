@@ -1,0 +1,69 @@
+#pragma once
+
+#include "host/drawing/Drawing.h"
+#include "host/view/Display.h"
+#include "host/view/Fonts.h"
+
+namespace host::view {
+
+class Appearance;
+class Scene;
+
+/// What the builders of shapes work with: the drawing they read, the tables they number things in, and the display
+/// they add to.
+struct BuildContext
+{
+    const drawing::Drawing &drawing;
+    Scene &scene;
+    std::int64_t &patternPieces; ///< pieces of hatch lines made so far, in the whole scene
+    RecordDisplay &display;
+    Style style{}; ///< of the record
+    bool isInBlock = false;
+
+    Appearance &appearance() const;
+    Fonts &fonts() const;
+    void add(Shape shape) { display.items.push_back({style, std::move(shape)}); }
+    void add(Shape shape, const Style &own) { display.items.push_back({own, std::move(shape)}); }
+    void addStroke(Path points) { add(Stroke{{.points = std::move(points)}}); }
+};
+
+/// Coordinates beyond this are taken for damage: what they belong to is not drawn.
+inline constexpr double farthestCoordinate = 1e16;
+bool isUsable(double value);
+bool isUsable(const Vec3 &point);
+
+/// Makes the display of one entity. What cannot be drawn, by its type or because its numbers make no shape, is marked
+/// as skipped.
+RecordDisplay buildDisplay(const drawing::Drawing &drawing, Scene &scene, std::int64_t &patternPieces, RecordId record);
+
+/// The style that the common groups of an entity say; `isInvisible` as group 60 has it.
+Style readStyle(const drawing::TagList &tags, Appearance &appearance, bool *isInvisible = nullptr);
+
+// The builders, one a family of types. Each returns whether the entity gave a shape.
+bool buildLine(BuildContext &context, const drawing::TagList &tags);
+bool buildCircle(BuildContext &context, const drawing::TagList &tags);
+bool buildArc(BuildContext &context, const drawing::TagList &tags);
+bool buildEllipse(BuildContext &context, const drawing::TagList &tags);
+bool buildSpline(BuildContext &context, const drawing::TagList &tags);
+bool buildRay(BuildContext &context, const drawing::TagList &tags);
+bool buildXline(BuildContext &context, const drawing::TagList &tags);
+bool buildPoint(BuildContext &context, const drawing::TagList &tags);
+bool buildLwPolyline(BuildContext &context, const drawing::TagList &tags);
+bool buildPolyline(BuildContext &context, const drawing::TagList &tags);
+bool buildMline(BuildContext &context, const drawing::TagList &tags);
+bool buildLeader(BuildContext &context, const drawing::TagList &tags);
+bool buildSolid(BuildContext &context, const drawing::TagList &tags);
+bool build3dFace(BuildContext &context, const drawing::TagList &tags);
+bool buildMesh(BuildContext &context, const drawing::TagList &tags);
+bool buildWipeout(BuildContext &context, const drawing::TagList &tags);
+bool buildImage(BuildContext &context, const drawing::TagList &tags);
+bool buildViewport(BuildContext &context, const drawing::TagList &tags);
+bool buildText(BuildContext &context, const drawing::TagList &tags);
+bool buildAttdef(BuildContext &context, const drawing::TagList &tags);
+bool buildMText(BuildContext &context, const drawing::TagList &tags);
+bool buildHatch(BuildContext &context, const drawing::TagList &tags);
+bool buildInsert(BuildContext &context, const drawing::TagList &tags);
+bool buildDimension(BuildContext &context, const drawing::TagList &tags);
+bool buildTable(BuildContext &context, const drawing::TagList &tags);
+
+} // namespace host::view

@@ -1,0 +1,343 @@
+#include "host/view/Scene.h"
+
+#include "host/drawing/Blocks.h"
+#include "host/view/DisplayBoxes.h"
+#include "host/view/DisplayBuilder.h"
+#include "host/view/DrawOrder.h"
+#include "host/view/VisibleExtents.h"
+
+#include <QStringList>
+
+namespace host::view {
+
+using namespace Qt::StringLiterals;
+using drawing::RecordChange;
+using drawing::RecordKind;
+using drawing::Space;
+
+namespace {
+
+bool isEntityKind(RecordKind kind)
+{
+    return kind == RecordKind::Entity || kind == RecordKind::Child || kind == RecordKind::EndChildren;
+}
+
+/// The entity that a VERTEX, ATTRIB or SEQEND is a part of.
+RecordId wholeEntity(const drawing::Drawing &drawing, RecordId record)
+{
+    while (isValid(record) && drawing.kind(record) != RecordKind::Entity)
+        record = drawing.parent(record);
+    return record;
+}
+
+void addCounts(QStringList &parts, const QMap<QString, qint64> &counts, qint64 total, const QString &word)
+{
+    if (total == 0)
+        return;
+    QStringList types;
+    for (auto it = counts.begin(); it != counts.end(); ++it)
+        types.append(u"%1 %2"_s.arg(it.key()).arg(it.value()));
+    parts.append(u"%1 %2 (%3)"_s.arg(total).arg(word, types.join(u", "_s)));
+}
+
+qint64 total(const QMap<QString, qint64> &counts)
+{
+    qint64 sum = 0;
+    for (const qint64 count : counts)
+        sum += count;
+    return sum;
+}
+
+} // namespace
+
+qint64 RenderReport::skippedCount() const
+{
+    return total(skipped);
+}
+
+QString RenderReport::summary() const
+{
+    QStringList parts{u"%1 drawn"_s.arg(drawn)};
+    if (hidden > 0)
+        parts.append(u"%1 invisible"_s.arg(hidden));
+    addCounts(parts, simplified, total(simplified), u"simplified"_s);
+    addCounts(parts, skipped, skippedCount(), u"skipped"_s);
+    return parts.join(u", "_s);
+}
+
+Scene::Scene(const drawing::Drawing &drawing) : m_drawing(drawing)
+{
+    for (const QString &space : {u"*Model_Space"_s, u"*Paper_Space"_s})
+        block(space);
+    // The names that the oldest versions have for the same.
+    m_blockNumbers.insert(u"$model_space"_s, modelSpace);
+    m_blockNumbers.insert(u"$paper_space"_s, paperSpace);
+    m_changes.tables = true;
+}
+
+Scene::Scene(drawing::Drawing &drawing) : Scene(static_cast<const drawing::Drawing &>(drawing))
+{
+    m_followed = &drawing;
+    drawing.addObserver(this);
+}
+
+Scene::~Scene()
+{
+    if (m_followed)
+        m_followed->removeObserver(this);
+}
+
+int Scene::block(const QString &name)
+{
+    const QString key = name.toCaseFolded();
+    if (const auto known = m_blockNumbers.constFind(key); known != m_blockNumbers.constEnd())
+        return *known;
+    m_blocks.push_back(
+        std::make_unique<BlockDisplay>(BlockDisplay{.number = static_cast<int>(m_blocks.size()), .name = name}));
+    const int number = static_cast<int>(m_blocks.size()) - 1;
+    m_blockNumbers.insert(key, number);
+    return number;
+}
+
+bool Scene::exists(int block) const
+{
+    return block <= paperSpace || isValid(m_drawing.blocks().find(display(block).name));
+}
+
+void Scene::prepare(int block)
+{
+    applyChanges();
+    m_waiting.push_back(block);
+    buildWaiting();
+    if (m_boxesStale)
+        updateBoxes();
+}
+
+/// Building a block may name further blocks, which are then built as well.
+void Scene::buildWaiting()
+{
+    while (!m_waiting.empty()) {
+        const int next = m_waiting.back();
+        m_waiting.pop_back();
+        BlockDisplay &block = *m_blocks[static_cast<std::size_t>(next)];
+        if (!block.isBuilt)
+            build(block);
+    }
+}
+
+std::vector<RecordId> Scene::members(const BlockDisplay &block) const
+{
+    if (block.number <= paperSpace)
+        return m_drawing.entities().inSpace(block.number == modelSpace ? Space::Model : Space::Paper);
+    const RecordId record = m_drawing.blocks().find(block.name);
+    return isValid(record) ? m_drawing.children(record) : std::vector<RecordId>{};
+}
+
+RecordDisplay Scene::buildRecord(RecordId record)
+{
+    ++m_builtRecords;
+    RecordDisplay built = buildDisplay(m_drawing, *this, m_patternPieces, record);
+    for (const DisplayItem &item : built.items) {
+        if (const auto *reference = std::get_if<std::unique_ptr<Reference>>(&item.shape))
+            m_waiting.push_back((*reference)->block);
+    }
+    return built;
+}
+
+void Scene::forget(const RecordDisplay &display)
+{
+    for (const DisplayItem &item : display.items) {
+        if (const auto *segments = std::get_if<Segments>(&item.shape))
+            m_patternPieces -= static_cast<std::int64_t>(segments->ends.size() / 2 + segments->dots.size());
+    }
+}
+
+/// Keeps the displays of records that it still has and that did not change.
+void Scene::build(BlockDisplay &block)
+{
+    std::vector<RecordDisplay> old = std::move(block.records);
+    QHash<RecordId, std::size_t> places;
+    places.reserve(static_cast<qsizetype>(old.size()));
+    for (std::size_t i = 0; i < old.size(); ++i)
+        places.insert(old[i].record, i);
+    const std::vector<RecordId> now = drawOrder(m_drawing, members(block));
+    std::vector<RecordDisplay> records;
+    records.reserve(now.size());
+    for (const RecordId record : now) {
+        const auto known = places.constFind(record);
+        if (known != places.constEnd() && !m_changes.records.contains(static_cast<quint32>(record)))
+            records.push_back(std::move(old[*known]));
+        else
+            records.push_back(buildRecord(record));
+    }
+    std::ranges::for_each(old, [this](const RecordDisplay &left) { forget(left); });
+    block.records = std::move(records);
+    block.isBuilt = true;
+    m_boxesStale = true;
+    if (block.number > paperSpace)
+        return;
+    m_spaces.resize(std::max<std::size_t>(m_spaces.size(), m_drawing.idLimit()));
+    for (const RecordId record : now)
+        m_spaces[static_cast<std::size_t>(record)] = static_cast<qint8>(1 + block.number);
+}
+
+void Scene::applyChanges()
+{
+    if (!m_changes.any())
+        return;
+    if (m_changes.tables || m_changes.everything)
+        m_appearance.reload(m_drawing, m_fonts);
+    for (std::size_t i = 0; i < m_blocks.size(); ++i) {
+        BlockDisplay &block = *m_blocks[i];
+        if (!block.isBuilt)
+            continue;
+        if (m_changes.everything) {
+            std::ranges::for_each(block.records, [this](const RecordDisplay &left) { forget(left); });
+            block.records.clear();
+        }
+        if (m_changes.order || m_changes.everything)
+            build(block);
+        else if (!m_changes.records.empty())
+            rebuildChanged(block);
+    }
+    m_changes = {};
+    buildWaiting();
+}
+
+void Scene::rebuildChanged(BlockDisplay &block)
+{
+    for (RecordDisplay &record : block.records) {
+        if (m_changes.records.contains(static_cast<quint32>(record.record))) {
+            forget(record);
+            record = buildRecord(record.record);
+            m_boxesStale = true;
+        }
+    }
+}
+
+void Scene::updateBoxes()
+{
+    std::vector<char> visited(m_blocks.size(), 0);
+    for (const auto &block : m_blocks)
+        updateBox(*block, visited);
+    m_boxesStale = false;
+}
+
+/// Depth first; a block that is met again while it is open contains itself, and adds nothing.
+void Scene::updateBox(BlockDisplay &block, std::vector<char> &visited)
+{
+    const auto index = static_cast<std::size_t>(block.number);
+    if (visited[index] != 0)
+        return;
+    visited[index] = 1;
+    block.box = {};
+    block.isEndless = false;
+    for (RecordDisplay &record : block.records) {
+        updateBox(record, visited);
+        block.box.add(record.box);
+        block.isEndless |= record.isEndless;
+    }
+}
+
+void Scene::updateBox(RecordDisplay &record, std::vector<char> &visited)
+{
+    if (!record.hasReferences && !record.box.isEmpty())
+        return;
+    record.box = {};
+    for (const DisplayItem &item : record.items) {
+        if (const auto *found = std::get_if<std::unique_ptr<Reference>>(&item.shape)) {
+            BlockDisplay &block = *m_blocks[static_cast<std::size_t>((*found)->block)];
+            updateBox(block, visited);
+            record.box.add(referenceBox(**found, block.box));
+            record.isEndless |= block.isEndless;
+        } else {
+            addItemBox(item, record.box);
+        }
+    }
+}
+
+Box Scene::extents(int block, Seen seen)
+{
+    prepare(block);
+    return VisibleExtents(*this, seen).of(block);
+}
+
+RenderReport Scene::report(int block)
+{
+    prepare(block);
+    RenderReport report;
+    std::vector<char> visited(m_blocks.size(), 0);
+    countInto(report, display(block), visited);
+    return report;
+}
+
+void Scene::countInto(RenderReport &report, const BlockDisplay &block, std::vector<char> &visited) const
+{
+    visited[static_cast<std::size_t>(block.number)] = 1;
+    for (const RecordDisplay &record : block.records) {
+        const QString type = QString::fromLatin1(m_drawing.typeName(record.record));
+        if (record.isSkipped)
+            ++report.skipped[type];
+        else if (record.isHidden)
+            ++report.hidden;
+        else if (record.isSimplified)
+            ++report.simplified[type];
+        else
+            ++report.drawn;
+        for (const DisplayItem &item : record.items) {
+            const auto *reference = std::get_if<std::unique_ptr<Reference>>(&item.shape);
+            if (reference && visited[static_cast<std::size_t>((*reference)->block)] == 0)
+                countInto(report, display((*reference)->block), visited);
+        }
+    }
+}
+
+const RecordDisplay *Scene::find(int block, RecordId record)
+{
+    prepare(block);
+    const auto &records = display(block).records;
+    const auto found = std::ranges::find(records, record, &RecordDisplay::record);
+    return found == records.end() ? nullptr : &*found;
+}
+
+void Scene::recordChanged(RecordId record, RecordChange change, drawing::ChangeCause)
+{
+    const RecordKind kind = m_drawing.kind(record);
+    const QByteArrayView type = m_drawing.typeName(record);
+    if (isEntityKind(kind)) {
+        markEntity(record, change);
+    } else if (kind == RecordKind::Block || kind == RecordKind::EndBlock) {
+        m_changes.order = true;
+    } else if (kind == RecordKind::TableEntry) {
+        m_changes.tables |= type == "LAYER" || type == "LTYPE";
+        m_changes.everything |= type == "STYLE" || type == "DIMSTYLE";
+    } else if (kind == RecordKind::Variable) {
+        m_changes.tables = true;
+    } else if (type == "SORTENTSTABLE") {
+        m_changes.order = true;
+    } else if (type == "SPATIAL_FILTER") {
+        m_changes.everything = true;
+    }
+}
+
+void Scene::markEntity(RecordId record, RecordChange change)
+{
+    const RecordId entity = wholeEntity(m_drawing, record);
+    if (!isValid(entity))
+        return;
+    m_changes.records.insert(static_cast<quint32>(entity));
+    m_changes.order |= change != RecordChange::Modified && entity == record;
+    m_changes.order |= change == RecordChange::Modified && hasChangedSpace(entity);
+}
+
+/// Only its group 67 tells which space an entity is in, and that may change like any other group.
+bool Scene::hasChangedSpace(RecordId entity) const
+{
+    if (m_drawing.section(entity) != drawing::Section::Entities)
+        return false;
+    const auto index = static_cast<std::size_t>(entity);
+    const int space = m_drawing.entities().space(entity) == Space::Model ? modelSpace : paperSpace;
+    return index < m_spaces.size() && m_spaces[index] != 0 && m_spaces[index] != 1 + space;
+}
+
+} // namespace host::view

@@ -1,0 +1,125 @@
+#pragma once
+
+#include "host/drawing/Drawing.h"
+#include "host/drawing/Entities.h"
+#include "host/view/Appearance.h"
+#include "host/view/Display.h"
+#include "host/view/Fonts.h"
+
+#include <QMap>
+
+#include <unordered_set>
+
+namespace host::view {
+
+/// What of a space can be drawn. Contents of a block count once, however often it is inserted.
+struct RenderReport
+{
+    qint64 drawn = 0;                 ///< records drawn as they are
+    qint64 hidden = 0;                ///< records that say they are invisible
+    QMap<QString, qint64> simplified; ///< drawn, but not all of it, by type ("IMAGE": its frame)
+    QMap<QString, qint64> skipped;    ///< not drawn, by type
+
+    qint64 skippedCount() const;
+    /// One line for people: "120 drawn, 2 simplified (IMAGE 2), 1 skipped (3DSOLID 1)".
+    QString summary() const;
+};
+
+enum class Seen
+{
+    OnScreen, ///< layers that are on and thawed
+    Plotted   ///< of those, the ones that are plotted
+};
+
+/// The display of a space or of a block definition.
+struct BlockDisplay
+{
+    int number = 0; ///< in the scene
+    QString name{};
+    std::vector<RecordDisplay> records{}; ///< in drawing order
+    Box box{};
+    bool isEndless = false;
+    bool isBuilt = false;
+};
+
+/// A drawing taken apart into shapes, kept and brought up to date record by record as the drawing changes.
+///
+/// Only blocks that are looked at are built. Looking at a scene brings it up to date; until then changes cost next to
+/// nothing. Must not outlive its drawing.
+class Scene final : public drawing::DrawingObserver
+{
+public:
+    static constexpr int modelSpace = 0;
+    static constexpr int paperSpace = 1; ///< the current one of the paper spaces
+
+    /// Follows the drawing's changes.
+    explicit Scene(drawing::Drawing &drawing);
+    /// For one look at a drawing that does not change meanwhile.
+    explicit Scene(const drawing::Drawing &drawing);
+    ~Scene() override;
+    Scene(const Scene &) = delete;
+    Scene &operator=(const Scene &) = delete;
+
+    const drawing::Drawing &drawing() const { return m_drawing; }
+    /// A number for a block by its name, whether or not there is such a block (yet). Layout blocks are spaces.
+    int block(const QString &name);
+    std::size_t blockCount() const { return m_blocks.size(); }
+    bool exists(int block) const;
+
+    /// Brings everything that the block shows up to date. Cheap when nothing changed.
+    void prepare(int block);
+    /// As of the last prepare().
+    const BlockDisplay &display(int block) const { return *m_blocks[static_cast<std::size_t>(block)]; }
+    Appearance &appearance() { return m_appearance; }
+    const Appearance &appearance() const { return m_appearance; }
+    Fonts &fonts() { return m_fonts; }
+
+    /// Of what can be seen of the space or block. Lines without end do not count.
+    Box extents(int block, Seen seen = Seen::OnScreen);
+    RenderReport report(int block);
+    /// The display of a record of that space; null when it has none.
+    const RecordDisplay *find(int block, RecordId record);
+    /// Number of records whose display was built so far, for measuring.
+    qint64 builtRecords() const { return m_builtRecords; }
+
+    void recordChanged(RecordId record, drawing::RecordChange change, drawing::ChangeCause cause) override;
+
+private:
+    struct Changes
+    {
+        std::unordered_set<quint32> records; ///< whose display is out of date
+        bool order = false;                  ///< blocks have other members, or other order of drawing
+        bool tables = false;
+        bool everything = false;
+        bool any() const { return order || tables || everything || !records.empty(); }
+    };
+
+    void markEntity(RecordId record, drawing::RecordChange change);
+    bool hasChangedSpace(RecordId entity) const;
+    void applyChanges();
+    void rebuildChanged(BlockDisplay &block);
+    void build(BlockDisplay &block);
+    void buildWaiting();
+    std::vector<RecordId> members(const BlockDisplay &block) const;
+    RecordDisplay buildRecord(RecordId record);
+    void forget(const RecordDisplay &display);
+    void updateBoxes();
+    void updateBox(BlockDisplay &block, std::vector<char> &visited);
+    void updateBox(RecordDisplay &record, std::vector<char> &visited);
+    void countInto(RenderReport &report, const BlockDisplay &block, std::vector<char> &visited) const;
+
+    const drawing::Drawing &m_drawing;
+    drawing::Drawing *m_followed = nullptr;
+    Fonts m_fonts;
+    Appearance m_appearance;
+    std::vector<std::unique_ptr<BlockDisplay>> m_blocks;
+    QHash<QString, int> m_blockNumbers;
+    std::vector<int> m_waiting;  ///< blocks that displays refer to and that may have to be built
+    std::vector<qint8> m_spaces; ///< by record: 1 + the space it was last seen in
+    Changes m_changes;
+    bool m_boxesStale = false;
+    qint64 m_builtRecords = 0;
+    std::int64_t m_patternPieces = 0;
+};
+
+} // namespace host::view

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QString>
+
+#include <vector>
+
+namespace host::view {
+
+/// A stretch of a text line drawn in one way.
+struct TextPiece
+{
+    QString text{};
+    bool isUnderlined = false;
+    bool isOverlined = false;
+    bool isStruck = false;
+
+    bool operator==(const TextPiece &) const = default;
+};
+
+/// Takes the %% codes of single-line text apart: %%u %%o %%k switch lines on and off, %%d %%p %%c are the degree,
+/// plus-minus and diameter signs, %%% a per cent sign, %%nnn the character of that number. Anything else behind %% is
+/// left out with it, as drawings have come to rely on.
+std::vector<TextPiece> parseTextCodes(QStringView text);
+
+/// The %% codes for characters alone, without the switches: what both kinds of text know. `at` stands on the first %;
+/// nothing is taken and the result is empty when there is no such code.
+QString takeCharacterCode(QStringView text, qsizetype &at);
+
+} // namespace host::view

@@ -1,0 +1,219 @@
+// Drawings made to hang, crash or fill the memory. Each is built, painted, measured and picked in; the clock is the
+// test's own judge, with room for sanitizers and a busy machine.
+
+#include "host/view/Picking.h"
+#include "tests/view/Rendering.h"
+
+#include <QElapsedTimer>
+
+#include <gtest/gtest.h>
+
+namespace host::view::test {
+namespace {
+
+constexpr qint64 longestMilliseconds = 30'000;
+
+std::string repeated(const std::string &text, int times)
+{
+    std::string result;
+    for (int i = 0; i < times; ++i)
+        result += text;
+    return result;
+}
+
+/// Blocks B0..Bn, each showing the next ten times in the same place: ten to the power of n lines.
+std::string explodingBlocks(int levels)
+{
+    std::string blocks = blockText("B" + std::to_string(levels), "0 LINE|8 0|10 10|20 10|11 90|21 90");
+    for (int i = levels - 1; i >= 0; --i) {
+        std::string inserts;
+        for (int n = 0; n < 10; ++n)
+            inserts += (n ? "|" : "") + ("0 INSERT|8 0|2 B" + std::to_string(i + 1)) + "|10 0|20 0";
+        blocks += "|" + blockText("B" + std::to_string(i), inserts);
+    }
+    return blocks;
+}
+
+const std::string squareLoop =
+    "|91 1|92 7|72 0|73 1|93 4|10 10|20 10|10 90|20 10|10 90|20 90|10 10|20 90|97 0|75 0|76 1|52 0|41 1|77 0";
+
+struct Row
+{
+    const char *name;
+    DxfText drawing;
+    bool isShown = false; ///< something must be seen
+};
+
+void PrintTo(const Row &row, std::ostream *out)
+{
+    *out << row.name;
+}
+
+std::vector<Row> rows()
+{
+    const std::string line = "0 LINE|8 0|10 0|20 0|11 5|21 5";
+    return {
+        {"not a number",
+         {.entities = "0 LINE|8 0|10 nan|20 inf|11 1|21 1|0 CIRCLE|8 0|10 1|20 1|40 nan|0 ARC|8 0|10 1|20 1|40 5|50 "
+                      "nan|51 inf"}},
+        {"beyond all numbers",
+         {.entities = "0 LINE|8 0|10 1e300|20 1e308|11 -1e308|21 1|0 CIRCLE|8 0|10 0|20 0|40 1e300"
+                      "|0 TEXT|8 0|10 1e200|20 0|40 1e300|1 x|0 MTEXT|8 0|10 0|20 0|40 1e300|1 x"}},
+        {"large but drawn", {.entities = "0 LINE|8 0|10 -1e12|20 50|11 1e12|21 50"}, true},
+        {"zero sizes",
+         {.entities = "0 CIRCLE|8 0|10 50|20 50|40 0|0 LINE|8 0|10 50|20 50|11 50|21 50|0 ELLIPSE|8 0|10 50|20 50|11 "
+                      "0|21 0|40 0"
+                      "|0 TEXT|8 0|10 50|20 50|40 0|1 x|0 XLINE|8 0|10 0|20 0|11 0|21 0"},
+         true},
+        {"angles of a million turns",
+         {.entities =
+              "0 ARC|8 0|10 50|20 50|40 30|50 -1e9|51 1e12|0 ELLIPSE|8 0|10 50|20 50|11 40|21 0|40 0.5|41 -1e8|42 1e9"},
+         true},
+        {"circle around the world", {.entities = "0 CIRCLE|8 0|10 50|20 -1e9|40 1000000050"}, true},
+        {"huge bulges",
+         {.entities =
+              "0 LWPOLYLINE|8 0|90 3|70 1|43 1|10 10|20 10|42 1e300|10 90|20 10|42 -1e15|10 90|20 90|42 1e-300"}},
+        {"insert in itself",
+         {.entities = "0 INSERT|8 0|2 B|10 0|20 0", .blocks = blockText("B", "0 INSERT|8 0|2 B|10 1|20 1|" + line)},
+         true},
+        {"two blocks in one another",
+         {.entities = "0 INSERT|8 0|2 A|10 0|20 0",
+          .blocks = blockText("A", "0 INSERT|8 0|2 B|10 0|20 0") + "|" +
+                    blockText("B", "0 INSERT|8 0|2 A|10 0|20 0|" + line)},
+         true},
+        {"model space in itself", {.entities = "0 INSERT|8 0|2 *Model_Space|10 0|20 0|" + line}, true},
+        {"ten to the ninth lines by nesting",
+         {.entities = "0 INSERT|8 0|2 B0|10 0|20 0", .blocks = explodingBlocks(9)},
+         true},
+        {"array of 32767 by 32767 in view",
+         {.entities = "0 INSERT|8 0|2 B|10 0|20 0|70 32767|71 32767|44 0.001|45 0.001", .blocks = blockText("B", line)},
+         true},
+        {"array of a thousand million rows",
+         {.entities = "0 INSERT|8 0|2 B|10 0|20 0|70 1000000000|71 1000000000|44 10|45 10",
+          .blocks = blockText("B", line)},
+         true},
+        {"the same cell a thousand million times",
+         {.entities = "0 INSERT|8 0|2 B|10 0|20 0|70 1000000000|71 1000000000|44 0|45 0",
+          .blocks = blockText("B", line)},
+         true},
+        {"flat and infinite scales",
+         {.entities = "0 INSERT|8 0|2 B|10 0|20 0|41 0|42 0|43 0|0 INSERT|8 0|2 B|10 0|20 0|41 1e300",
+          .blocks = blockText("B", line)}},
+        {"zero extrusion", {.entities = "0 CIRCLE|8 0|10 50|20 50|40 30|210 0|220 0|230 0"}, true},
+        {"pattern finer than atoms",
+         {.entities =
+              "0 HATCH|8 0|10 0|20 0|30 0|2 X|70 0|71 0" + squareLoop + "|78 1|53 45|43 0|44 0|45 0|46 1e-12|79 0"},
+         true},
+        {"pattern of dashes finer than atoms",
+         {.entities = "0 HATCH|8 0|10 0|20 0|30 0|2 X|70 0|71 0" + squareLoop +
+                      "|78 1|53 0|43 0|44 0|45 0|46 1|79 2|49 1e-13|49 -1e-13"},
+         true},
+        {"pattern without spacing",
+         {.entities = "0 HATCH|8 0|10 0|20 0|30 0|2 X|70 0|71 0" + squareLoop + "|78 1|53 0|43 0|44 0|45 0|46 0|79 0"}},
+        {"pattern starting beyond reach",
+         {.entities =
+              "0 HATCH|8 0|10 0|20 0|30 0|2 X|70 0|71 0" + squareLoop + "|78 1|53 0|43 1e15|44 1e15|45 0|46 1|79 0"}},
+        {"hatch that promises more than it has",
+         {.entities =
+              "0 HATCH|8 0|10 0|20 0|30 0|2 X|70 1|71 0|91 2000000000|92 7|72 0|73 1|93 2000000000|10 10|20 10|10 90"}},
+        {"hatch of one point",
+         {.entities = "0 HATCH|8 0|10 0|20 0|30 0|2 X|70 1|71 0|91 1|92 7|72 0|73 1|93 1|10 10|20 10|97 0"}},
+        {"spline with a hundred thousand knots",
+         {.entities = "0 SPLINE|8 0|70 8|71 3|72 100000|73 99996" + repeated("|40 1", 100'000) +
+                      repeated("|10 5|20 5", 99'996)}},
+        {"spline of degree a million",
+         {.entities = "0 SPLINE|8 0|70 8|71 1000000|72 4|73 2|40 0|40 0|40 1|40 1|10 1|20 1|10 9|20 9"}},
+        {"mesh that promises a million rows",
+         {.entities = "0 POLYLINE|8 0|66 1|70 16|71 1000000|72 1000000|0 VERTEX|8 0|10 1|20 1|0 SEQEND|8 0"}},
+        {"faces of vertices that are not there",
+         {.entities = "0 POLYLINE|8 0|66 1|70 64|0 VERTEX|8 0|10 1|20 1|70 192|0 VERTEX|8 0|70 128|71 7|72 -9|73 "
+                      "2147483647|0 SEQEND|8 0"}},
+        {"linetype of a million million dashes",
+         {.entities = "0 LINE|8 0|6 D|10 -1e12|20 50|11 1e12|21 50",
+          .tables = tableText("LTYPE", "0 LTYPE|2 D|70 0|3 x|72 65|73 2|40 2|49 1|74 0|49 -1|74 0")},
+         true},
+        {"linetype without length",
+         {.entities = "0 LINE|8 0|6 D|10 0|20 50|11 99|21 50",
+          .tables = tableText("LTYPE", "0 LTYPE|2 D|70 0|3 x|72 65|73 2|40 0|49 0|74 0|49 0|74 0")},
+         true},
+        {"text of a hundred thousand characters",
+         {.entities = "0 TEXT|8 0|10 0|20 50|40 5|1 " + std::string(100'000, 'x')},
+         true},
+        {"text in multi-line text of a hundred thousand words",
+         {.entities = "0 MTEXT|8 0|10 0|20 90|40 1|41 1e-9|1 " + repeated("xx ", 100'000)},
+         true},
+        {"viewport looking at itself",
+         {.entities = "0 VIEWPORT|8 0|10 50|20 50|40 90|41 90|68 2|69 2|12 0|22 0|45 1e-300|16 0|26 0|36 0|" + line},
+         true},
+        {"point marks beyond the screen",
+         {.entities = "0 POINT|8 0|10 50|20 50", .header = "9 $PDMODE|70 99|9 $PDSIZE|40 1e300"}},
+    };
+}
+
+class HostileDrawing : public testing::TestWithParam<Row>
+{
+};
+
+TEST_P(HostileDrawing, IsDrawnWithinBounds)
+{
+    const Row &row = GetParam();
+    QElapsedTimer clock;
+    clock.start();
+    const auto drawing = readDrawing(row.drawing);
+    ASSERT_TRUE(drawing);
+    Scene scene(*drawing);
+    const Rendering shown(scene, Scene::modelSpace);
+    EXPECT_TRUE(!row.isShown || !shown.inkBox().isNull());
+    // The same again from very far, from very near, and fitted.
+    QImage image(60, 60, QImage::Format_RGB32);
+    QPainter painter(&image);
+    ViewTransform view(image.size());
+    for (const double scale : {1e-9, 1e6, 1e12}) {
+        view.setView({50.0, 50.0}, scale);
+        paintScene(painter, scene, Scene::modelSpace, view);
+    }
+    view.fit(scene.extents(Scene::modelSpace));
+    paintScene(painter, scene, Scene::modelSpace, view);
+    pickAt(scene, Scene::modelSpace, {50, 50}, 5.0);
+    pickRectangle(scene, Scene::modelSpace, {0, 0}, {60, 60}, PickMode::Window);
+    pickRectangle(scene, Scene::modelSpace, {0, 0}, {60, 60}, PickMode::Crossing);
+    EXPECT_LT(clock.elapsed(), longestMilliseconds);
+}
+
+INSTANTIATE_TEST_SUITE_P(All, HostileDrawing, testing::ValuesIn(rows()), [](const auto &row) {
+    std::string name = row.param.name;
+    std::ranges::replace_if(
+        name, [](char c) { return !std::isalnum(static_cast<unsigned char>(c)); }, '_');
+    return name;
+});
+
+TEST(HostileDrawing, WhatIsLeftOutForItsSizeIsSaid)
+{
+    const auto drawing = readDrawing({.entities = "0 INSERT|8 0|2 B0|10 0|20 0", .blocks = explodingBlocks(9)});
+    Scene scene(*drawing);
+    QImage image(200, 200, QImage::Format_RGB32);
+    QPainter painter(&image);
+    ViewTransform view(image.size());
+    view.setHeight({50, 50}, 100);
+    EXPECT_TRUE(paintScene(painter, scene, Scene::modelSpace, view).isCutShort);
+}
+
+TEST(HostileDrawing, FarMagnificationKeepsCurvesInPlace)
+{
+    // A millionth of a unit a pixel: the arc's own point must still be under the middle of the view.
+    const auto drawing = readDrawing({.entities = "0 CIRCLE|8 0|10 0|20 0|40 1000"});
+    Scene scene(*drawing);
+    QImage image(100, 100, QImage::Format_RGB32);
+    ViewTransform view(image.size());
+    view.setView({1000.0 * std::cos(1.0), 1000.0 * std::sin(1.0)}, 1e6);
+    QPainter painter(&image);
+    paintScene(painter, scene, Scene::modelSpace, view);
+    painter.end();
+    bool isInk = false;
+    for (int x = 48; x <= 52; ++x)
+        isInk |= (image.pixel(x, 50) & 0xffffff) != 0;
+    EXPECT_TRUE(isInk);
+}
+
+} // namespace
+} // namespace host::view::test

@@ -1,0 +1,123 @@
+#include "tests/view/Rendering.h"
+
+#include <gtest/gtest.h>
+
+namespace host::view::test {
+namespace {
+
+const std::string linetypes = tableText(
+    "LTYPE", "0 LTYPE|2 DASHED|70 0|3 x|72 65|73 2|40 20|49 10|74 0|49 -10|74 0"
+             "|0 LTYPE|2 DASHDOT|70 0|3 x|72 65|73 4|40 20|49 10|74 0|49 -5|74 0|49 0|74 0|49 -5|74 0"
+             "|0 LTYPE|2 TINY|70 0|3 x|72 65|73 2|40 0.2|49 0.1|74 0|49 -0.1|74 0"
+             "|0 LTYPE|2 TEXT|70 0|3 x|72 65|73 2|40 50|49 20|74 0|49 -30|74 2|75 0|340 0|46 8|50 0|44 8|45 -4|9 HH");
+
+std::string line(const std::string &style)
+{
+    return "0 LINE|" + style + "|10 10|20 50|11 90|21 50";
+}
+
+TEST(LinetypeDrawing, DashesAndGaps)
+{
+    struct Row
+    {
+        const char *name;
+        DxfText drawing;
+        int runs;
+        std::vector<QPointF> ink;
+        std::vector<QPointF> blank;
+    };
+    const std::string dashedLayer = "0 LAYER|2 D|70 0|62 7|6 DASHED";
+    const std::vector<Row> rows = {
+        {"full", {.entities = line("8 0"), .tables = linetypes}, 1, {{50, 50}}, {}},
+        // Four repetitions fit; half a dash at each end.
+        {"centred, both ends on a dash",
+         {.entities = line("8 0|6 DASHED"), .tables = linetypes},
+         5,
+         {{11, 50}, {89, 50}, {30, 50}, {50, 50}},
+         {{20, 50}, {40, 50}, {60, 50}}},
+        {"by layer", {.entities = line("8 D"), .layers = dashedLayer, .tables = linetypes}, 5, {}, {{20, 50}}},
+        {"own goes before the layer's",
+         {.entities = line("8 D|6 CONTINUOUS"), .layers = dashedLayer, .tables = linetypes},
+         1,
+         {},
+         {}},
+        {"scale of the entity",
+         {.entities = line("8 0|6 DASHED|48 2"), .tables = linetypes},
+         3,
+         {{50, 50}},
+         {{30, 50}, {70, 50}}},
+        {"scale of the drawing",
+         {.entities = line("8 0|6 DASHED"), .tables = linetypes, .header = "9 $LTSCALE|40 2"},
+         3,
+         {{50, 50}},
+         {{30, 50}}},
+        {"too long for one repetition", {.entities = line("8 0|6 DASHED|48 5"), .tables = linetypes}, 1, {}, {}},
+        {"finer than pixels is drawn full", {.entities = line("8 0|6 TINY"), .tables = linetypes}, 1, {}, {}},
+        {"unknown linetype is full", {.entities = line("8 0|6 NOSUCH"), .tables = linetypes}, 1, {}, {}},
+        {"dots between dashes",
+         {.entities = line("8 0|6 DASHDOT"), .tables = linetypes},
+         9,
+         {{20, 50}, {30, 50}},
+         {{17, 50}, {23, 50}}},
+        {"by block",
+         {.entities = "0 INSERT|8 0|6 DASHED|2 B|10 0|20 0",
+          .blocks = blockText("B", line("8 0|6 BYBLOCK")),
+          .tables = linetypes},
+         5,
+         {},
+         {{20, 50}}},
+        {"grows with the insert",
+         {.entities = "0 INSERT|8 0|2 B|10 -10|20 -50|41 2|42 2",
+          .blocks = blockText("B", "0 LINE|8 0|6 DASHED|10 10|20 50|11 50|21 50"),
+          .tables = linetypes},
+         3,
+         {{50, 50}},
+         {{30, 50}}},
+        {"every side of a polyline begins anew",
+         {.entities = "0 LWPOLYLINE|8 0|6 DASHED|90 3|70 0|10 10|20 50|10 25|20 50|10 90|20 50", .tables = linetypes},
+         4,
+         {{15, 50}, {25, 50}},
+         {}},
+        {"or not, when its pattern runs through",
+         {.entities = "0 LWPOLYLINE|8 0|6 DASHED|90 3|70 128|10 10|20 50|10 25|20 50|10 90|20 50", .tables = linetypes},
+         5,
+         {},
+         {{20, 50}}},
+        {"infinite lines are dashed from their base",
+         {.entities = "0 XLINE|8 0|6 DASHED|10 25|20 50|11 1|21 0", .tables = linetypes},
+         5,
+         {{30, 50}, {70, 50}},
+         {{20, 50}, {40, 50}}},
+    };
+    for (const Row &row : rows) {
+        SCOPED_TRACE(row.name);
+        const Rendering shown(row.drawing);
+        EXPECT_EQ(shown.runs({10, 50}, {90, 50}), row.runs);
+        for (const QPointF p : row.ink)
+            EXPECT_TRUE(shown.isInk(p.x(), p.y())) << p.x() << "," << p.y();
+        for (const QPointF p : row.blank)
+            EXPECT_FALSE(shown.isInk(p.x(), p.y())) << p.x() << "," << p.y();
+    }
+}
+
+TEST(LinetypeDrawing, CurvesAreDashedAlongTheirWay)
+{
+    const Rendering shown({.entities = "0 CIRCLE|8 0|6 DASHED|10 50|20 50|40 40", .tables = linetypes});
+    const Rendering full({.entities = "0 CIRCLE|8 0|10 50|20 50|40 40"});
+    const double part = static_cast<double>(shown.inkPixels()) / static_cast<double>(full.inkPixels());
+    EXPECT_GT(part, 0.4);
+    EXPECT_LT(part, 0.65);
+}
+
+TEST(LinetypeDrawing, TextsInThePattern)
+{
+    const Rendering shown({.entities = line("8 0|6 TEXT"), .tables = linetypes});
+    // One repetition: a dash, a text of eight units' height in the gap, a dash.
+    EXPECT_GT(shown.inkBox().height(), 6.0);
+    EXPECT_LT(shown.inkBox().height(), 12.0);
+    EXPECT_TRUE(shown.isInk(12, 50));
+    EXPECT_TRUE(shown.isInk(88, 50));
+}
+
+} // namespace
+} // namespace host::view::test

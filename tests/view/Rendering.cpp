@@ -1,0 +1,103 @@
+#include "tests/view/Rendering.h"
+
+namespace host::view::test {
+
+Rendering::Rendering(const DxfText &text, const PaintOptions &options, int block)
+{
+    const auto drawing = readDrawing(text);
+    Scene scene(static_cast<const drawing::Drawing &>(*drawing));
+    paint(scene, block, options);
+}
+
+Rendering::Rendering(Scene &scene, int block, const PaintOptions &options)
+{
+    paint(scene, block, options);
+}
+
+void Rendering::paint(Scene &scene, int block, const PaintOptions &options)
+{
+    m_ground = options.ground;
+    m_image = QImage(renderingSize, renderingSize, QImage::Format_RGB32);
+    m_view = ViewTransform(m_image.size());
+    m_view.setHeight({50.0, 50.0}, 100.0);
+    QPainter painter(&m_image);
+    paintScene(painter, scene, block, m_view, options);
+    painter.end();
+    m_report = scene.report(block);
+}
+
+bool Rendering::isInkPixel(int x, int y) const
+{
+    return m_image.rect().contains(x, y) &&
+           (m_image.pixel(x, y) & 0xffffff) != (groundColor(m_ground).rgb() & 0xffffff);
+}
+
+bool Rendering::isInk(double x, double y) const
+{
+    return color(x, y) != groundColor(m_ground);
+}
+
+QColor Rendering::color(double x, double y) const
+{
+    const QPoint at = m_view.toScreen({x, y}).toPoint();
+    const QColor ground = groundColor(m_ground);
+    QColor best = ground;
+    int strongest = 0;
+    for (int dy = -1; dy <= 1; ++dy) {
+        for (int dx = -1; dx <= 1; ++dx) {
+            if (!m_image.rect().contains(at + QPoint(dx, dy)))
+                continue;
+            const QColor here = m_image.pixelColor(at + QPoint(dx, dy));
+            const int difference = std::abs(here.red() - ground.red()) + std::abs(here.green() - ground.green()) +
+                                   std::abs(here.blue() - ground.blue());
+            if (difference > strongest) {
+                strongest = difference;
+                best = here;
+            }
+        }
+    }
+    return best;
+}
+
+int Rendering::runs(QPointF from, QPointF to) const
+{
+    int count = 0;
+    bool wasInk = false;
+    constexpr int steps = 1000;
+    for (int i = 0; i <= steps; ++i) {
+        const QPointF at = from + (to - from) * (static_cast<double>(i) / steps);
+        const QPoint pixel = m_view.toScreen({at.x(), at.y()}).toPoint();
+        const bool isInkHere = isInkPixel(pixel.x(), pixel.y());
+        count += isInkHere && !wasInk ? 1 : 0;
+        wasInk = isInkHere;
+    }
+    return count;
+}
+
+QRectF Rendering::inkBox() const
+{
+    QRect box;
+    for (int y = 0; y < m_image.height(); ++y) {
+        for (int x = 0; x < m_image.width(); ++x) {
+            if (isInkPixel(x, y))
+                box |= QRect(x, y, 1, 1);
+        }
+    }
+    if (box.isNull())
+        return {};
+    const Vec2 low = m_view.toWorld(QPointF(box.left(), box.bottom() + 1));
+    const Vec2 high = m_view.toWorld(QPointF(box.right() + 1, box.top()));
+    return {low.x, low.y, high.x - low.x, high.y - low.y};
+}
+
+qint64 Rendering::inkPixels() const
+{
+    qint64 count = 0;
+    for (int y = 0; y < m_image.height(); ++y) {
+        for (int x = 0; x < m_image.width(); ++x)
+            count += isInkPixel(x, y) ? 1 : 0;
+    }
+    return count;
+}
+
+} // namespace host::view::test

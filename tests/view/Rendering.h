@@ -1,0 +1,42 @@
+#pragma once
+
+#include "host/view/ScenePainter.h"
+#include "tests/view/DxfText.h"
+
+#include <QImage>
+
+namespace host::view::test {
+
+/// Two pixels a drawing unit; shows 0 to 100 both ways.
+inline constexpr int renderingSize = 200;
+
+/// A drawing painted with thin lines, looked at in drawing units.
+class Rendering
+{
+public:
+    explicit Rendering(const DxfText &text, const PaintOptions &options = {}, int block = Scene::modelSpace);
+    Rendering(Scene &scene, int block, const PaintOptions &options = {});
+
+    /// Whether anything but the ground lies within a pixel of the point.
+    bool isInk(double x, double y) const;
+    /// The pixel that differs most from the ground around the point.
+    QColor color(double x, double y) const;
+    /// How many separate runs of ink lie on the way between two points.
+    int runs(QPointF from, QPointF to) const;
+    /// What the ink covers, in drawing units; null when there is none.
+    QRectF inkBox() const;
+    qint64 inkPixels() const;
+    const RenderReport &report() const { return m_report; }
+    const QImage &image() const { return m_image; }
+
+private:
+    void paint(Scene &scene, int block, const PaintOptions &options);
+    bool isInkPixel(int x, int y) const;
+
+    QImage m_image;
+    ViewTransform m_view;
+    Ground m_ground = Ground::Black;
+    RenderReport m_report;
+};
+
+} // namespace host::view::test
