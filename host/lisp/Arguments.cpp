@@ -104,22 +104,6 @@ void Arguments::fail(std::string message) const
     throw Error(std::move(message));
 }
 
-/// The value as an error shows it: a list of a million items would drown the message.
-static std::string shortText(const Value &value)
-{
-    static constexpr std::size_t longest = 200;
-    if (value.isCons() && listLength(value) > longest)
-        return "(" + toText(value.car()).substr(0, longest) + " ...)";
-    std::string text = toText(value);
-    if (text.size() > longest) {
-        std::size_t end = longest;
-        while ((static_cast<unsigned char>(text[end]) & 0xC0U) == 0x80U)
-            --end;
-        text.replace(end, std::string::npos, "...");
-    }
-    return text;
-}
-
 static Error argumentError(std::size_t index, std::string message)
 {
     Error error(std::move(message));
@@ -129,7 +113,7 @@ static Error argumentError(std::size_t index, std::string message)
 
 void Arguments::badType(std::size_t index, std::string_view predicate) const
 {
-    throw argumentError(index, "bad argument type: " + std::string(predicate) + " " + shortText((*this)[index]));
+    throw argumentError(index, "bad argument type: " + std::string(predicate) + " " + toShortText((*this)[index]));
 }
 
 void Arguments::badValue(std::size_t index, std::string_view what) const
@@ -137,7 +121,7 @@ void Arguments::badValue(std::size_t index, std::string_view what) const
     std::string message = "bad argument value: ";
     if (!what.empty())
         message += std::string(what) + " ";
-    throw argumentError(index, message + shortText((*this)[index]));
+    throw argumentError(index, message + toShortText((*this)[index]));
 }
 
 } // namespace host::lisp

@@ -43,7 +43,7 @@ static bool isOrdered(const Value &left, const Value &right, Compare compare)
         return compare(left.asReal(), right.asReal());
     if (left.isString() && right.isString())
         return compare(left.asString().compare(right.asString()), 0);
-    throw Error("bad argument type for compare: " + toText(left) + " " + toText(right));
+    throw Error("bad argument type for compare: " + toShortText(left) + " " + toShortText(right));
 }
 
 // (< value...), (<= ...), (> ...), (>= ...) -> T when each is in that order to the next. Only numbers and strings, not
@@ -67,7 +67,7 @@ static Value eq(Arguments &args)
 // (equal a b [fuzz]) -> T for the same structure; numbers may differ by fuzz.
 static Value equal(Arguments &args)
 {
-    return args.boolean(isEqual(args[0], args[1], args.realOr(2, 0.0)));
+    return args.boolean(args.interpreter().equal(args[0], args[1], args.realOr(2, 0.0)));
 }
 
 // (not value), (null value) -> T for nil.

@@ -1,4 +1,5 @@
 #include "host/lisp/Arguments.h"
+#include "host/lisp/Equality.h"
 #include "host/lisp/Function.h"
 #include "host/lisp/Interpreter.h"
 #include "host/lisp/Printer.h"
@@ -144,14 +145,14 @@ Value Interpreter::callTraced(const Function &function, ValueFrame &values, Loca
 {
     std::string call = "(" + function.displayName();
     for (std::size_t i = 0; i < values.size(); ++i)
-        call += " " + toText(values.values()[i]);
+        call += " " + toShortText(values.values()[i]);
     m_console.write("Entering " + call + ")\n");
     Value result;
     {
         Binding binding(*this, function, values, location);
         result = evalBody(function.body);
     }
-    m_console.write("Result: " + toText(result) + "\n");
+    m_console.write("Result: " + toShortText(result) + "\n");
     return result;
 }
 
@@ -184,7 +185,7 @@ Value Interpreter::resolveFunction(const Value &function)
             return held;
         if (!held.isCons())
             throw Error((held.isNil() ? "no function definition: " : "bad function: ") +
-                        toText(held.isNil() ? function : held));
+                        toShortText(held.isNil() ? function : held));
         return resolveFunction(held);
     }
     const bool isLambda = function.car().isSymbol() && &function.car().asSymbol() == m_lambdaSymbol;
@@ -193,7 +194,7 @@ Value Interpreter::resolveFunction(const Value &function)
     // A list of parameters and forms is what defun-q makes.
     if (function.isCons() && function.car().isList())
         return makeFunction(nullptr, function.car(), function.cdr());
-    throw Error("bad function: " + toText(function));
+    throw Error("bad function: " + toShortText(function));
 }
 
 Value Interpreter::makeFunction(Symbol *name, const Value &parameters, const Value &body)
@@ -209,7 +210,7 @@ Value Interpreter::makeFunction(Symbol *name, const Value &parameters, const Val
     for (; rest->isCons(); rest = &rest->cdr()) {
         const Value &variable = rest->car();
         if (!variable.isSymbol())
-            throw Error("bad argument type: symbolp " + toText(variable));
+            throw Error("bad argument type: symbolp " + toShortText(variable));
         if (&variable.asSymbol() == m_slashSymbol && !isLocal) {
             isLocal = true;
             continue;
@@ -218,8 +219,13 @@ Value Interpreter::makeFunction(Symbol *name, const Value &parameters, const Val
         function->parameterCount += isLocal ? 0 : 1;
     }
     if (rest->isTrue())
-        throw Error("bad argument type: listp " + toText(parameters));
+        throw Error("bad argument type: listp " + toShortText(parameters));
     return value;
+}
+
+bool Interpreter::equal(const Value &left, const Value &right, double fuzz)
+{
+    return isEqual(left, right, fuzz, [this] { tick(); });
 }
 
 Value Interpreter::catchAll(const Value &function, std::span<const Value> arguments)

@@ -143,6 +143,8 @@ public:
         if (--m_pollCountdown == 0)
             poll();
     }
+    /// Lisp's `equal`, which the user can stop.
+    bool equal(const Value &left, const Value &right, double fuzz = 0.0);
     /// apply() with `*error*` out of reach: an error that programs may catch comes back as a catch-all error object.
     Value catchAll(const Value &function, std::span<const Value> arguments);
     /// Throws "stack overflow" when the machine stack is used up: for natives that recurse by themselves.

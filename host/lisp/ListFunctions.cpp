@@ -98,7 +98,7 @@ static Value subst(Arguments &args)
     ListBuilder builder;
     const Value *rest = &args.list(2);
     for (; rest->isCons(); rest = &rest->cdr())
-        builder.append(isEqual(rest->car(), args[1]) ? args[0] : rest->car());
+        builder.append(args.interpreter().equal(rest->car(), args[1]) ? args[0] : rest->car());
     builder.setTail(*rest);
     return builder.take();
 }

@@ -26,7 +26,7 @@ private:
 static Value member(Arguments &args)
 {
     const Value *rest = &args.list(1);
-    while (rest->isCons() && !isEqual(rest->car(), args[0]))
+    while (rest->isCons() && !args.interpreter().equal(rest->car(), args[0]))
         rest = &rest->cdr();
     return rest->isCons() ? *rest : Value();
 }
@@ -37,7 +37,7 @@ static Value assoc(Arguments &args)
     for (const Value &item : ListItems(args.list(1))) {
         if (!item.isList())
             args.badValue(1, "bad association list");
-        if (item.isCons() && isEqual(item.car(), args[0]))
+        if (item.isCons() && args.interpreter().equal(item.car(), args[0]))
             return item;
     }
     return {};
@@ -48,7 +48,7 @@ static Value position(Arguments &args)
 {
     std::int32_t index = 0;
     for (const Value &item : ListItems(args.list(1))) {
-        if (isEqual(item, args[0]))
+        if (args.interpreter().equal(item, args[0]))
             return Value::integer(index);
         ++index;
     }
@@ -78,7 +78,7 @@ static Value remove(Arguments &args)
 {
     ListBuilder kept;
     for (const Value &item : ListItems(args.list(1))) {
-        if (!isEqual(item, args[0]))
+        if (!args.interpreter().equal(item, args[0]))
             kept.append(item);
     }
     return kept.take();

@@ -21,6 +21,15 @@ static void writeTo(Arguments &args, std::size_t fileIndex, std::string_view tex
     file.write(text);
 }
 
+/// The printed value. One too long to print: string too long.
+static std::string printed(Arguments &args, const Value &value, PrintStyle style)
+{
+    std::string text = toText(value, style);
+    if (text.size() > longestPrintedText)
+        args.fail("string too long");
+    return text;
+}
+
 /// What (princ) without arguments gives: a symbol without a name, so that a prompt that shows results shows nothing.
 static Value nothingToShow(Arguments &args)
 {
@@ -33,7 +42,7 @@ static Value write(Arguments &args)
 {
     if (args.size() == 0)
         return nothingToShow(args);
-    writeTo(args, 1, toText(args[0], Style));
+    writeTo(args, 1, printed(args, args[0], Style));
     return args[0];
 }
 
@@ -42,7 +51,7 @@ static Value print(Arguments &args)
 {
     if (args.size() == 0)
         return nothingToShow(args);
-    writeTo(args, 1, "\n" + toText(args[0]) + " ");
+    writeTo(args, 1, "\n" + printed(args, args[0], PrintStyle::Readable) + " ");
     return args[0];
 }
 
@@ -84,7 +93,7 @@ static Value writeChar(Arguments &args)
 template <PrintStyle Style>
 static Value toString(Arguments &args)
 {
-    return Value::string(toText(args[0], Style));
+    return Value::string(printed(args, args[0], Style));
 }
 
 static constexpr NativeRow rows[] = {

@@ -92,13 +92,25 @@ static void appendAtom(std::string &out, const Value &atom, PrintStyle style)
     }
 }
 
-std::string toText(const Value &value, PrintStyle style)
+/// Cuts behind a whole character.
+static std::string brokenOff(std::string text, std::size_t longest)
+{
+    std::size_t end = std::min(longest, text.size());
+    while (end > 0 && end < text.size() && (static_cast<unsigned char>(text[end]) & 0xC0U) == 0x80U)
+        --end;
+    text.replace(end, std::string::npos, "...");
+    return text;
+}
+
+std::string toText(const Value &value, PrintStyle style, std::size_t longest)
 {
     std::string out;
     // What is still to print of each list that is open, outermost first.
     std::vector<const Value *> open;
     const Value *current = &value;
     while (true) {
+        if (out.size() > longest)
+            return brokenOff(std::move(out), longest);
         if (current->isCons()) {
             out.push_back('(');
             open.push_back(&current->cdr());
@@ -115,11 +127,16 @@ std::string toText(const Value &value, PrintStyle style)
             open.pop_back();
         }
         if (open.empty())
-            return out;
+            return out.size() > longest ? brokenOff(std::move(out), longest) : out;
         out.push_back(' ');
         current = &open.back()->car();
         open.back() = &open.back()->cdr();
     }
+}
+
+std::string toShortText(const Value &value)
+{
+    return toText(value, PrintStyle::Readable, 200);
 }
 
 } // namespace host::lisp

@@ -294,6 +294,7 @@ bool Reader::endAtom()
 {
     m_state = State::Between;
     if (m_token == ".") {
+        m_token.clear();
         if (m_frames.empty() || m_frames.back().isQuote || m_frames.back().items.isEmpty() ||
             m_frames.back().dot != Dot::None)
             fail("misplaced dot on input");

@@ -30,7 +30,7 @@ static Symbol &symbolForm(const Value &form, int number)
 {
     if (form.isSymbol())
         return form.asSymbol();
-    Error error("bad argument type: symbolp " + toText(form));
+    Error error("bad argument type: symbolp " + toShortText(form));
     error.argument = number;
     throw error;
 }
@@ -82,7 +82,7 @@ static Value cond(Interpreter &interpreter, const Value &forms)
 {
     for (const Value &clause : ListItems(forms)) {
         if (!clause.isCons())
-            throw Error("bad argument type: listp " + toText(clause));
+            throw Error("bad argument type: listp " + toShortText(clause));
         Value test = interpreter.eval(clause.car());
         if (test.isTrue())
             return clause.cdr().isCons() ? interpreter.evalBody(clause.cdr()) : test;
@@ -108,7 +108,7 @@ static Value repeat(Interpreter &interpreter, const Value &forms)
     checkAtLeast(forms, 1);
     const Value count = interpreter.eval(forms.car());
     if (!count.isInteger()) {
-        Error error("bad argument type: fixnump: " + toText(count));
+        Error error("bad argument type: fixnump: " + toShortText(count));
         error.argument = 1;
         throw error;
     }
@@ -141,7 +141,7 @@ static Value foreachForm(Interpreter &interpreter, const Value &forms)
     Symbol &symbol = symbolForm(forms.car(), 1);
     const Value list = interpreter.eval(forms.cdr().car());
     if (!list.isList()) {
-        Error error("bad argument type: listp " + toText(list));
+        Error error("bad argument type: listp " + toShortText(list));
         error.argument = 2;
         throw error;
     }
@@ -214,7 +214,7 @@ static Value setTraced(const Value &forms, std::uint32_t mark)
     for (const Value &form : ListItems(forms)) {
         const Value &function = symbolForm(form, number++).value();
         if (function.tag() != Tag::Function)
-            throw Error("bad function: " + toText(form));
+            throw Error("bad function: " + toShortText(form));
         function.asFunction().mark = mark;
         last = &form;
     }

@@ -1,5 +1,6 @@
 #include "host/lisp/Value.h"
 
+#include "host/lisp/Equality.h"
 #include "host/lisp/File.h"
 #include "host/lisp/Function.h"
 #include "host/lisp/Native.h"
@@ -223,42 +224,9 @@ std::vector<Value> listToVector(const Value &list)
     return items;
 }
 
-static bool isEqualAtom(const Value &left, const Value &right, double fuzz)
-{
-    if (left.isNumber() && right.isNumber()) {
-        const double a = left.asReal();
-        const double b = right.asReal();
-        return a == b || std::fabs(a - b) <= fuzz;
-    }
-    return left.isSame(right);
-}
-
 bool isEqual(const Value &left, const Value &right, double fuzz)
 {
-    struct Pair
-    {
-        const Value *left;
-        const Value *right;
-    };
-    std::vector<Pair> waiting;
-    const Value *a = &left;
-    const Value *b = &right;
-    while (true) {
-        const bool bothPairs = a->isCons() && b->isCons();
-        if (bothPairs && &a->asCons() != &b->asCons()) {
-            waiting.push_back({&a->cdr(), &b->cdr()});
-            a = &a->car();
-            b = &b->car();
-            continue;
-        }
-        if (!bothPairs && !isEqualAtom(*a, *b, fuzz))
-            return false;
-        if (waiting.empty())
-            return true;
-        a = waiting.back().left;
-        b = waiting.back().right;
-        waiting.pop_back();
-    }
+    return isEqual(left, right, fuzz, [] {});
 }
 
 } // namespace host::lisp

@@ -1,0 +1,198 @@
+#include "tests/lisp/LispBench.h"
+
+#include <filesystem>
+#include <fstream>
+#include <unistd.h>
+
+using namespace host::lisp;
+using namespace host::lisp::test;
+
+namespace fs = std::filesystem;
+
+namespace {
+
+/// A folder of its own for each test, whose path is in the Lisp variable `dir`.
+class Files : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        const std::string name = testing::UnitTest::GetInstance()->current_test_info()->name();
+        m_folder = fs::temp_directory_path() / ("lisp-files-" + name + "-" + std::to_string(::getpid()));
+        fs::remove_all(m_folder);
+        fs::create_directories(m_folder);
+        bench.interpreter.setVariable("dir", Value::string(m_folder.string() + "/"));
+        bench("(defun at (name) (strcat dir name))");
+    }
+    void TearDown() override { fs::remove_all(m_folder); }
+
+    void put(const std::string &name, const std::string &bytes)
+    {
+        std::ofstream(m_folder / name, std::ios::binary) << bytes;
+    }
+    std::string get(const std::string &name)
+    {
+        std::ifstream stream(m_folder / name, std::ios::binary);
+        return {std::istreambuf_iterator<char>(stream), {}};
+    }
+    void check(const std::vector<Row> &rows)
+    {
+        for (const Row &row : rows)
+            EXPECT_EQ(bench(row.source), row.expected) << row.source;
+    }
+
+    Bench bench;
+    fs::path m_folder;
+};
+
+} // namespace
+
+TEST_F(Files, WriteThenRead)
+{
+    check({
+        {"(setq f (open (at \"a.txt\") \"w\")) (write-line \"Zeile ä\" f) (princ \"x\" f) (prin1 \"y\" f) "
+         "(write-char 10 f) (print 5 f) (close f)",
+         "nil"},
+        {"(setq f (open (at \"a.txt\") \"a\")) (write-line \"end\" f) (close f)", "nil"},
+        {"(setq f (open (at \"a.txt\") \"r\")) (list (read-line f) (read-char f) (read-line f) (read-line f))",
+         "(\"Zeile ä\" 120 \"\\\"y\\\"\" \"\")"},
+        {"(list (read-line f) (read-line f) (read-char f))", "(\"5 end\" nil nil)"},
+        {"(vl-catch-all-error-p (vl-catch-all-apply 'write-line (list \"no\" f)))", "T"},
+        {"(close f)", "nil"},
+    });
+    EXPECT_EQ(get("a.txt"), "Zeile ä\nx\"y\"\n\n5 end\n");
+}
+
+TEST_F(Files, WrongUseOfFiles)
+{
+    check({
+        {"(open (at \"none.txt\") \"r\")", "nil"},
+        {"(open (at \"no/such/folder.txt\") \"w\")", "nil"},
+        {"(open dir \"r\")", "nil"},
+        {"(open (at \"a\") \"x\")", "! bad argument value: \"x\" in (OPEN), argument 2"},
+        {"(read-line 5)", "! bad argument type: streamp 5 in (READ-LINE), argument 1"},
+        {"(princ 1 \"a\")", "! bad argument type: streamp \"a\" in (PRINC), argument 2"},
+        {"(vl-string-search \"streamp\" (vl-catch-all-error-message (vl-catch-all-apply '(lambda ( / f) "
+         "(setq f (open (at \"b\") \"w\")) (close f) (close f)) nil)))",
+         "19"},
+        {"(type (open (at \"b\") \"w\"))", "FILE"},
+    });
+}
+
+TEST_F(Files, EncodingsAndLineEnds)
+{
+    put("utf8.txt", "ä€\r\nzwei\n\ndrei");
+    put("bom.txt", "\xEF\xBB\xBFä\n");
+    put("ansi.txt", "\xE4\x80\n");
+    put("empty.txt", "");
+    bench("(defun lines (name / f l r) (setq f (open (at name) \"r\")) (while (setq l (read-line f)) "
+          "(setq r (cons l r))) (close f) (reverse r))");
+    check({
+        {"(lines \"utf8.txt\")", "(\"ä€\" \"zwei\" \"\" \"drei\")"},
+        {"(lines \"bom.txt\")", "(\"ä\")"},
+        {"(lines \"ansi.txt\")", "(\"ä€\")"},
+        {"(lines \"empty.txt\")", "nil"},
+        {"(setq f (open (at \"new.txt\") \"w\" \"utf8-bom\")) (write-line \"ö\" f) (close f)", "nil"},
+    });
+    EXPECT_EQ(get("new.txt"), "\xEF\xBB\xBFö\n");
+}
+
+TEST_F(Files, ForgottenFilesAreClosed)
+{
+    bench("(write-line \"kept\" (open (at \"a.txt\") \"w\"))");
+    EXPECT_EQ(get("a.txt"), "kept\n");
+}
+
+TEST_F(Files, Loading)
+{
+    put("good.lsp", "\xEF\xBB\xBF(setq loaded \"ä\")\r\n(defun twice (x)\r\n  (* 2 x))\r\n'done\r\n");
+    put("ansi.lsp", "(setq word \"\xE4\")");
+    put("bad.lsp", "(setq part 1)\n\n(car 5)\n");
+    put("open.lsp", "(setq x\n");
+    put("outer.lsp", "(load (strcat dir \"good\"))\n\n(car 7)\n");
+    check({
+        {"(load (at \"good\"))", "DONE"},
+        {"(list loaded (twice 4))", "(\"ä\" 8)"},
+        {"(load (at \"ansi.lsp\"))", "\"ä\""},
+        {"(load (at \"none\") 'missing)", "MISSING"},
+        {"(load (at \"none\") '(lambda () 5))", "(LAMBDA nil 5)"},
+        {"(load (at \"none\") (function (lambda () 5)))", "5"},
+        {"(load \"none\")", "! LOAD failed: \"none\" in (LOAD)"},
+        {"(load (at \"open.lsp\"))", "! malformed list on input in (LOAD)"},
+        {"(autoload (at \"good\") '(\"GATE\")) (vl-catch-all-error-message (vl-catch-all-apply 'c:gate nil))",
+         "\"no function definition: C:GATE\""},
+    });
+    Outcome outcome = bench.interpreter.loadFile((m_folder / "bad.lsp").string());
+    EXPECT_EQ(outcome.error->line, 3);
+    EXPECT_EQ(fs::path(outcome.error->file).filename(), "bad.lsp");
+    // Lines of a file still count right after it has loaded another one.
+    outcome = bench.interpreter.loadFile((m_folder / "outer.lsp").string());
+    EXPECT_EQ(fs::path(outcome.error->file).filename(), "outer.lsp");
+    EXPECT_EQ(outcome.error->line, 3);
+    EXPECT_EQ(bench.interpreter.loadFile(m_folder.string()).error->message().substr(0, 11), "LOAD failed");
+}
+
+TEST_F(Files, AutoloadRunsTheCommand)
+{
+    put("gate.lsp", "(defun c:gate () 'opened)");
+    check({{"(autoload (at \"gate\") '(\"GATE\")) (list (c:gate) (c:gate))", "(OPENED OPENED)"}});
+}
+
+TEST_F(Files, FilesOnDisk)
+{
+    put("a.txt", "12345");
+    put("B.TXT", "");
+    put("c.lsp", "");
+    fs::create_directory(m_folder / "sub");
+    check({
+        {"(list (vl-file-size (at \"a.txt\")) (vl-file-size (at \"sub\")) (vl-file-size (at \"none\")))", "(5 0 nil)"},
+        {"(list (vl-file-directory-p dir) (vl-file-directory-p (at \"a.txt\")))", "(T nil)"},
+        {"(vl-directory-files dir \"*.txt\" 1)", "(\"B.TXT\" \"a.txt\")"},
+        {"(vl-directory-files dir nil -1)", "(\".\" \"..\" \"sub\")"},
+        {"(vl-directory-files dir \"?.*\" 1)", "(\"B.TXT\" \"a.txt\" \"c.lsp\")"},
+        {"(vl-directory-files (at \"none\"))", "nil"},
+        {"(vl-file-copy (at \"a.txt\") (at \"d.txt\"))", "5"},
+        {"(vl-file-copy (at \"a.txt\") (at \"d.txt\"))", "nil"},
+        {"(vl-file-copy (at \"a.txt\") (at \"d.txt\") T)", "5"},
+        {"(vl-file-copy (at \"a.txt\") (at \"a.txt\") T)", "nil"},
+        {"(vl-file-size (at \"d.txt\"))", "10"},
+        {"(vl-file-copy (at \"none\") (at \"e.txt\"))", "nil"},
+        {"(list (vl-file-rename (at \"d.txt\") (at \"e.txt\")) (vl-file-rename (at \"e.txt\") (at \"a.txt\")))",
+         "(T nil)"},
+        {"(list (vl-file-delete (at \"e.txt\")) (vl-file-delete (at \"e.txt\")) (vl-file-delete (at \"sub\")))",
+         "(T nil nil)"},
+        {"(list (vl-mkdir (at \"new\")) (vl-mkdir (at \"new\")))", "(T nil)"},
+        {"(length (vl-file-systime (at \"a.txt\")))", "8"},
+        {"(vl-file-systime (at \"none\"))", "nil"},
+        {"(= (findfile (at \"a.txt\")) (at \"a.txt\"))", "T"},
+        {"(findfile (at \"none\"))", "nil"},
+        {"(list (findfile \"\") (open \"\" \"r\") (vl-file-size \"\"))", "(nil nil nil)"},
+    });
+}
+
+TEST_F(Files, Names)
+{
+    check({
+        {"(vl-filename-base \"c:\\\\tools\\\\plan.v2.lsp\")", "\"plan.v2\""},
+        {"(vl-filename-directory \"c:\\\\tools\\\\plan.lsp\")", "\"c:\\\\tools\""},
+        {"(vl-filename-directory \"plan.lsp\")", "\"\""},
+        {"(vl-filename-directory \"/plan.lsp\")", "\"/\""},
+        {"(list (vl-filename-extension \"a/b.lsp\") (vl-filename-extension \"a.b/c\") (vl-filename-extension \".x\"))",
+         "(\".lsp\" nil nil)"},
+        {"(fnsplitl \"a/b.c\")", "(\"a/\" \"b\" \".c\")"},
+        {"(findfile (vl-filename-mktemp \"t.tmp\" dir))", "nil"},
+        {"(vl-filename-extension (vl-filename-mktemp \"t.tmp\" dir))", "\".tmp\""},
+    });
+}
+
+TEST_F(Files, EnvironmentStaysInTheEngine)
+{
+    check({
+        {"(getenv \"LISP_TEST_UNSET\")", "nil"},
+        {"(setenv \"LISP_TEST_UNSET\" \"x\")", "\"x\""},
+        {"(getenv \"LISP_TEST_UNSET\")", "\"x\""},
+    });
+    EXPECT_EQ(std::getenv("LISP_TEST_UNSET"), nullptr);
+    Bench other;
+    EXPECT_EQ(other("(getenv \"LISP_TEST_UNSET\")"), "nil");
+}
