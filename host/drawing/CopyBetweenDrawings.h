@@ -10,6 +10,7 @@ namespace host::drawing {
 struct CopyResult
 {
     RecordId record = noRecord; ///< the BLOCK record made; noRecord when there is none or nothing was copied
+    int skipped = 0; ///< records left out: types the target's version lacks, or bound to what cannot be copied
     QString error;
 
     explicit operator bool() const { return error.isEmpty(); }

@@ -314,6 +314,8 @@ RecordId Drawing::insert(RecordId after, RecordId parentRecord, RecordKind recor
     const QByteArray bytes = writer.take();
     const RecordId id = d->records().append();
     RecordEntry &entry = d->records()[id];
+    entry.data = d->arena.store(bytes);
+    entry.length = static_cast<quint32>(bytes.size());
     entry.flags = RecordState::Absent;
     entry.kind = recordKind;
     entry.parent = parentRecord;
@@ -331,7 +333,7 @@ RecordId Drawing::insert(RecordId after, RecordId parentRecord, RecordKind recor
         if (entry.handle != 0)
             d->file.handles.insert(id, d->file.records);
     }
-    changeState(id, {d->arena.store(bytes), static_cast<quint32>(bytes.size()), 0});
+    changeState(id, {entry.data, entry.length, 0});
     return id;
 }
 

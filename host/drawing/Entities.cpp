@@ -157,9 +157,13 @@ CreateResult Entities::createAt(const Place &place, const FieldList &head, const
     if (!place.error.isEmpty())
         return {noRecord, place.error};
     FieldList mainFields = head;
-    if (children)
+    if (children && !children->empty())
         setField(mainFields, 66, qint64(1));
+    else
+        std::erase_if(mainFields, [](const Field &field) { return field.code == 66; });
     const EntityBuilder main(m_drawing, mainFields);
+    if (main.isGood() && main.type() == u"POLYLINE" && (!children || children->empty()))
+        return {noRecord, u"POLYLINE: its vertices are missing"_s};
     if (!main.isGood())
         return {noRecord, main.error()};
     std::vector<EntityBuilder> parts;
@@ -168,7 +172,7 @@ CreateResult Entities::createAt(const Place &place, const FieldList &head, const
 
     const JournalGroup group(m_drawing.journal(), {});
     const RecordId record = insertBuilt(main, place, place.container, noRecord, RecordKind::Entity, place.owner);
-    if (children) {
+    if (children && !children->empty()) {
         const Handle owner = m_drawing.handle(record);
         RecordId last = record;
         for (const EntityBuilder &part : parts)

@@ -33,14 +33,13 @@ void outlineOfCircle(OutlineSink &sink, const TagList &tags)
 void outlineOfArc(OutlineSink &sink, const TagList &tags)
 {
     sink.useExtrusion(tags.point(210, {0, 0, 1}));
-    sink.add(arcPath(tags.point(10), tags.real(40), tags.real(50) * radians, tags.real(51) * radians,
-                     sink.flatness()));
+    sink.add(arcPath(tags.point(10), tags.real(40), tags.real(50) * radians, tags.real(51) * radians, sink.flatness()));
 }
 
 void outlineOfEllipse(OutlineSink &sink, const TagList &tags)
 {
-    sink.add(ellipsePath(tags.point(10), tags.point(11), tags.point(210, {0, 0, 1}), tags.real(40, 1.0),
-                         tags.real(41), tags.real(42, 2.0 * std::numbers::pi), sink.flatness()));
+    sink.add(ellipsePath(tags.point(10), tags.point(11), tags.point(210, {0, 0, 1}), tags.real(40, 1.0), tags.real(41),
+                         tags.real(42, 2.0 * std::numbers::pi), sink.flatness()));
 }
 
 void outlineOfSpline(OutlineSink &sink, const TagList &tags)
@@ -126,12 +125,12 @@ void outlineOfViewport(OutlineSink &sink, const TagList &tags)
 }
 
 constexpr std::pair<const char *, OutlineFunction> functions[] = {
-    {"LINE", outlineOfLine},         {"POINT", outlineOfPoint},       {"CIRCLE", outlineOfCircle},
-    {"ARC", outlineOfArc},           {"ELLIPSE", outlineOfEllipse},   {"SPLINE", outlineOfSpline},
-    {"HELIX", outlineOfSpline},      {"SOLID", outlineOfSolid},       {"TRACE", outlineOfSolid},
-    {"3DFACE", outlineOfFace},       {"RAY", outlineOfRay},           {"XLINE", outlineOfConstructionLine},
-    {"LEADER", outlineOfLeader},     {"MLINE", outlineOfMultiLine},   {"IMAGE", outlineOfImage},
-    {"WIPEOUT", outlineOfImage},     {"VIEWPORT", outlineOfViewport}, {"SHAPE", outlineOfPoint},
+    {"LINE", outlineOfLine},       {"POINT", outlineOfPoint},       {"CIRCLE", outlineOfCircle},
+    {"ARC", outlineOfArc},         {"ELLIPSE", outlineOfEllipse},   {"SPLINE", outlineOfSpline},
+    {"HELIX", outlineOfSpline},    {"SOLID", outlineOfSolid},       {"TRACE", outlineOfSolid},
+    {"3DFACE", outlineOfFace},     {"RAY", outlineOfRay},           {"XLINE", outlineOfConstructionLine},
+    {"LEADER", outlineOfLeader},   {"MLINE", outlineOfMultiLine},   {"IMAGE", outlineOfImage},
+    {"WIPEOUT", outlineOfImage},   {"VIEWPORT", outlineOfViewport}, {"SHAPE", outlineOfPoint},
     {"TOLERANCE", outlineOfPoint},
 };
 

@@ -105,6 +105,8 @@ bool Indexer::cut()
         int code = 0;
         if (!parseGroupCode(begin, codeEnd, code))
             return badCode(begin, codeEnd);
+        if (codeEnd == end)
+            return endsTooEarly();
         ++m_line;
         if (valueBegin == end)
             return endsTooEarly();

@@ -8,7 +8,12 @@ namespace {
 
 constexpr double radians = std::numbers::pi / 180.0;
 
-enum PathFlag { FlagExternal = 1, FlagPolyline = 2, FlagOutermost = 16 };
+enum PathFlag
+{
+    FlagExternal = 1,
+    FlagPolyline = 2,
+    FlagOutermost = 16
+};
 
 /// Reads boundary paths tag by tag: they have no markers of their own, only counts and order.
 class BoundaryReader

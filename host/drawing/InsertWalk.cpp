@@ -1,6 +1,5 @@
-#include "host/drawing/EntityGeometry.h"
-
 #include "host/drawing/Blocks.h"
+#include "host/drawing/EntityGeometry.h"
 
 #include <numbers>
 

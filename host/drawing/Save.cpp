@@ -8,7 +8,6 @@
 
 #include <cerrno>
 #include <cstdlib>
-
 #include <fcntl.h>
 #include <sys/mman.h>
 #include <sys/stat.h>

@@ -16,8 +16,8 @@ constexpr int maximumDepth = 200;
 
 bool isRelation(const QString &name)
 {
-    static const QStringList known = {u"*"_s,  u"="_s,  u"!="_s, u"/="_s, u"<>"_s, u"<"_s,
-                                      u"<="_s, u">"_s,  u">="_s, u"&"_s,  u"&="_s};
+    static const QStringList known = {u"*"_s,  u"="_s, u"!="_s, u"/="_s, u"<>"_s, u"<"_s,
+                                      u"<="_s, u">"_s, u">="_s, u"&"_s,  u"&="_s};
     return known.contains(name);
 }
 
@@ -57,7 +57,9 @@ bool compareField(const Field &has, const Field &wanted, const std::vector<QStri
     if (isPoint(wanted)) {
         const Vec3 a = has.point();
         const Vec3 b = wanted.point();
-        const auto relation = [&](size_t i) { return i < operators.size() ? operators[i] : operators.empty() ? u"="_s : u"*"_s; };
+        const auto relation = [&](size_t i) {
+            return i < operators.size() ? operators[i] : operators.empty() ? u"="_s : u"*"_s;
+        };
         const bool isFlat = std::holds_alternative<Vec2>(has.value) || std::holds_alternative<Vec2>(wanted.value);
         // A single operator holds for all coordinates.
         const auto at = [&](size_t i) { return operators.size() == 1 ? first : relation(i); };

@@ -126,6 +126,12 @@ RecordId Tables::table(TableKind kind) const
     return noRecord;
 }
 
+RecordId Tables::ensureTable(TableKind kind)
+{
+    const RecordId existing = table(kind);
+    return isValid(existing) ? existing : createTable(kind);
+}
+
 std::vector<RecordId> Tables::entries(TableKind kind) const
 {
     const RecordId head = table(kind);
@@ -186,8 +192,7 @@ RecordId Tables::add(TableKind kind, const QString &name, const FieldList &field
     if (const RecordId existing = find(kind, name); isValid(existing))
         return existing;
     const JournalGroup group(m_drawing.journal(), {});
-    const RecordId existingTable = table(kind);
-    const RecordId head = isValid(existingTable) ? existingTable : createTable(kind);
+    const RecordId head = ensureTable(kind);
     FieldList entry = recordHead(m_drawing, QString::fromLatin1(tableTypeName(kind)), m_drawing.handle(head));
     if (hasMarkers(m_drawing)) {
         entry.push_back({100, u"AcDbSymbolTableRecord"_s});

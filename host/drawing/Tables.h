@@ -34,6 +34,8 @@ public:
 
     /// The TABLE record; noRecord when the file has none of this kind.
     RecordId table(TableKind kind) const;
+    /// The same, made when the file lacks it.
+    RecordId ensureTable(TableKind kind);
     std::vector<RecordId> entries(TableKind kind) const;
     /// Constant cost once the table was looked at.
     RecordId find(TableKind kind, QStringView name) const;

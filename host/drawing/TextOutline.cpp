@@ -40,7 +40,15 @@ qsizetype letterCount(const QString &text)
 
 void outlineOfLineText(OutlineSink &sink, const TagList &tags)
 {
-    enum Horizontal { Left = 0, Center = 1, Right = 2, Aligned = 3, Middle = 4, Fit = 5 };
+    enum Horizontal
+    {
+        Left = 0,
+        Center = 1,
+        Right = 2,
+        Aligned = 3,
+        Middle = 4,
+        Fit = 5
+    };
     const double height = std::abs(tags.real(40, 1.0));
     const double width = height * letterWidth * tags.real(41, 1.0) * static_cast<double>(letterCount(tags.text(1)));
     const qint64 horizontal = tags.integer(72);

@@ -11,7 +11,16 @@ namespace {
 /// One element of a pattern other than *.
 struct Element
 {
-    enum class Kind { Exactly, Any, Digit, Letter, Other, OneOf, NoneOf };
+    enum class Kind
+    {
+        Exactly,
+        Any,
+        Digit,
+        Letter,
+        Other,
+        OneOf,
+        NoneOf
+    };
     Kind kind = Kind::Exactly;
     QStringView set; ///< the character itself, or what stands in the brackets
 };

@@ -1,0 +1,58 @@
+#include "host/drawing/CopyBetweenDrawings.h"
+
+#include "host/drawing/Blocks.h"
+#include "host/drawing/DrawingCopier.h"
+#include "host/drawing/Entities.h"
+#include "host/drawing/HeaderVariables.h"
+#include "host/drawing/Journal.h"
+#include "host/drawing/NewDrawing.h"
+
+namespace host::drawing {
+
+using namespace Qt::StringLiterals;
+
+CopyResult copyEntities(const Drawing &source, const std::vector<RecordId> &entities, Drawing &target)
+{
+    const JournalGroup group(target.journal(), u"copy"_s);
+    DrawingCopier copier(source, target);
+    for (const RecordId entity : entities)
+        copier.copyEntity(entity, noRecord);
+    return {noRecord, copier.skipped(), {}};
+}
+
+std::unique_ptr<Drawing> wblock(const Drawing &source, const std::vector<RecordId> &entities, const Vec3 &basePoint)
+{
+    std::unique_ptr<Drawing> target =
+        newDrawing(source.header().integer(u"$MEASUREMENT") != 0 ? Measurement::Metric : Measurement::Imperial);
+    copyEntities(source, entities, *target);
+    if (target->entities().all().empty())
+        return nullptr;
+    for (const QString &name : {u"$INSUNITS"_s, u"$LTSCALE"_s, u"$PDMODE"_s, u"$PDSIZE"_s}) {
+        if (const std::optional<Field> value = source.header().get(name))
+            target->header().set(name, *value);
+    }
+    target->header().set(u"$INSBASE", {10, basePoint});
+    // Read afresh, so that the new drawing starts without a history.
+    return std::move(Drawing::fromBytes(target->toBytes()).drawing);
+}
+
+std::unique_ptr<Drawing> wblock(const Drawing &source, RecordId block)
+{
+    if (!source.isAlive(block) || source.kind(block) != RecordKind::Block)
+        return nullptr;
+    return wblock(source, source.children(block), source.blocks().read(block).basePoint);
+}
+
+CopyResult insertAsBlock(const Drawing &source, Drawing &target, const QString &name)
+{
+    const JournalGroup group(target.journal(), u"insert"_s);
+    const RecordId block = target.blocks().create(name, source.header().point(u"$INSBASE"));
+    if (!isValid(block))
+        return {noRecord, 0, u"\"%1\" cannot be the name of a block"_s.arg(name)};
+    DrawingCopier copier(source, target);
+    for (const RecordId entity : source.entities().inSpace(Space::Model))
+        copier.copyEntity(entity, block);
+    return {block, copier.skipped(), {}};
+}
+
+} // namespace host::drawing

@@ -1,0 +1,169 @@
+#include "host/drawing/Blocks.h"
+#include "host/drawing/CopyBetweenDrawings.h"
+#include "host/drawing/EntityGeometry.h"
+#include "host/drawing/HeaderVariables.h"
+#include "host/drawing/Journal.h"
+#include "host/drawing/NewDrawing.h"
+#include "host/drawing/Symbols.h"
+#include "host/drawing/Tables.h"
+#include "tests/drawing/DrawingSample.h"
+
+#include <QDir>
+
+namespace host::drawing {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// A drawing in which everything hangs together: nested blocks, layers, linetype, style, attributes.
+std::unique_ptr<Drawing> furnished(const QByteArray &version)
+{
+    auto drawing = sample(version);
+    Tables &tables = drawing->tables();
+    tables.add(TableKind::Linetype, u"DASHED"_s,
+               {{73, qint64(2)}, {40, 0.75}, {49, 0.5}, {74, qint64(0)}, {49, -0.25}, {74, qint64(0)}});
+    tables.add(TableKind::Layer, u"Walls"_s, {{62, qint64(3)}, {6, u"DASHED"_s}});
+    tables.add(TableKind::Style, u"Notes"_s, {{3, u"arial.ttf"_s}});
+    tables.add(TableKind::Layer, u"Unused"_s);
+    const RecordId inner = drawing->blocks().create(u"Inner"_s, {});
+    drawing->entities().createInBlock(inner, {{0, u"CIRCLE"_s}, {8, u"Walls"_s}, {10, Vec3{}}, {40, 1.0}});
+    const RecordId outer = drawing->blocks().create(u"Outer"_s, {1, 1, 0});
+    drawing->entities().createInBlock(outer, {{0, u"INSERT"_s}, {2, u"Inner"_s}, {10, Vec3{5, 5, 0}}});
+    const RecordId anonymous = drawing->blocks().create(u"*U"_s, {}, 1);
+    drawing->entities().createInBlock(anonymous, {{0, u"POINT"_s}, {10, Vec3{9, 9, 0}}});
+    Entities &entities = drawing->entities();
+    entities.create({{0, u"TEXT"_s},
+                     {8, u"Walls"_s},
+                     {7, u"Notes"_s},
+                     {10, Vec3{}},
+                     {40, 2.0},
+                     {1, u"žluť"_s},
+                     {1001, u"TOOL"_s},
+                     {1000, u"x"_s}});
+    entities.createComplex({{0, u"INSERT"_s}, {2, u"Outer"_s}, {10, Vec3{10, 10, 0}}},
+                           {{{0, u"ATTRIB"_s}, {10, Vec3{}}, {40, 1.0}, {1, u"v"_s}, {2, u"T"_s}, {7, u"Notes"_s}}});
+    entities.create({{0, u"INSERT"_s}, {2, u"*U0"_s}, {10, Vec3{}}});
+    return drawing;
+}
+
+void expectFurnished(const Drawing &drawing, const std::vector<RecordId> &entities)
+{
+    ASSERT_EQ(entities.size(), 3U);
+    EXPECT_EQ(drawing.tags(entities[0]).text(1), u"žluť"_s);
+    EXPECT_EQ(findLayer(drawing, u"Walls")->linetype, u"DASHED"_s);
+    EXPECT_EQ(findLayer(drawing, u"Walls")->colour, 3);
+    EXPECT_EQ(findLinetype(drawing, u"DASHED")->dashes.size(), 2U);
+    EXPECT_EQ(findTextStyle(drawing, u"Notes")->fontFile, u"arial.ttf"_s);
+    EXPECT_TRUE(isValid(drawing.tables().find(TableKind::AppId, u"TOOL")));
+    EXPECT_FALSE(findLayer(drawing, u"Unused").has_value());
+    EXPECT_EQ(drawing.children(entities[1]).size(), 1U);
+    EXPECT_TRUE(isValid(drawing.blocks().find(u"Inner")));
+}
+
+TEST(Copy, ToANewDrawingWithAllItNeeds)
+{
+    for (const QByteArray &version : {QByteArray("AC1009"), QByteArray("AC1015"), QByteArray("AC1032")}) {
+        SCOPED_TRACE(version.toStdString());
+        const auto source = furnished(version);
+        const QByteArray before = source->toBytes();
+        const auto target = wblock(*source, source->entities().all(), {3, 4, 5});
+        ASSERT_TRUE(target);
+        expectFurnished(*target, target->entities().all());
+        EXPECT_EQ(target->header().point(u"$INSBASE"), (Vec3{3, 4, 5}));
+        EXPECT_FALSE(target->journal().canUndo());
+        EXPECT_EQ(source->toBytes(), before);
+        const Box from = spaceBox(*source, source->entities().all());
+        const Box to = spaceBox(*target, target->entities().all());
+        EXPECT_LT((from.high - to.high).length() + (from.low - to.low).length(), 1e-9);
+        EXPECT_AUDIT_CLEAN(*target);
+    }
+    const auto source = furnished("AC1015");
+    const auto block = wblock(*source, source->blocks().find(u"Outer"));
+    ASSERT_TRUE(block);
+    EXPECT_EQ(block->header().point(u"$INSBASE"), (Vec3{1, 1, 0}));
+    EXPECT_EQ(block->entities().all().size(), 1U);
+    EXPECT_EQ(wblock(*source, {}, {}), nullptr);
+    EXPECT_EQ(wblock(*source, noRecord), nullptr);
+}
+
+TEST(Copy, IntoADrawingAsABlock)
+{
+    const auto source = furnished("AC1015");
+    source->header().set(u"$INSBASE", {10, Vec3{7, 8, 9}});
+    for (const QByteArray &version : {QByteArray("AC1009"), QByteArray("AC1018"), QByteArray("AC1032")}) {
+        SCOPED_TRACE(version.toStdString());
+        const auto target = sample(version);
+        const QByteArray before = target->toBytes();
+        const CopyResult result = insertAsBlock(*source, *target, u"Symbol"_s);
+        ASSERT_TRUE(result) << result.error.toStdString();
+        EXPECT_EQ(result.skipped, 0);
+        expectFurnished(*target, target->children(result.record));
+        EXPECT_EQ(target->blocks().get(u"symbol")->basePoint, (Vec3{7, 8, 9}));
+        EXPECT_AUDIT_CLEAN(*target);
+        EXPECT_EQ(target->journal().undoDepth(), 1);
+        target->journal().undo();
+        EXPECT_EQ(target->toBytes(), before);
+    }
+    EXPECT_FALSE(insertAsBlock(*source, *newDrawing(), {}));
+}
+
+TEST(Copy, WhatIsThereWins)
+{
+    const auto source = furnished("AC1015");
+    const auto target = sample("AC1015");
+    target->tables().add(TableKind::Layer, u"WALLS"_s, {{62, qint64(1)}});
+    const RecordId inner = target->blocks().create(u"INNER"_s, {});
+    target->blocks().create(u"*U"_s, {}, 1);
+    copyEntities(*source, source->entities().all(), *target);
+    EXPECT_EQ(findLayer(*target, u"Walls")->colour, 1);
+    EXPECT_TRUE(target->children(inner).empty());
+    // Equal names of anonymous blocks mean nothing.
+    EXPECT_EQ(target->tags(target->entities().all()[2]).text(2), u"*U1"_s);
+    EXPECT_EQ(target->children(target->blocks().find(u"*U1")).size(), 1U);
+}
+
+TEST(Copy, WhatTheVersionLacksIsCounted)
+{
+    const auto source = newDrawing();
+    source->entities().create({{0, u"MTEXT"_s}, {10, Vec3{}}, {1, u"a"_s}});
+    source->entities().create({{0, u"LINE"_s}, {10, Vec3{}}, {11, Vec3{1, 1, 0}}});
+    const auto target = sample("AC1009");
+    EXPECT_EQ(copyEntities(*source, source->entities().all(), *target).skipped, 1);
+    EXPECT_EQ(target->entities().all().size(), 1U);
+}
+
+TEST(Copy, LongChainsOfBlocksEnd)
+{
+    QByteArray chain;
+    constexpr int length = 20000;
+    for (int i = 0; i < length; ++i)
+        chain += "0 BLOCK\n8 0\n2 B" + QByteArray::number(i) + "\n10 0\n20 0\n0 INSERT\n2 B" +
+                 QByteArray::number(i + 1) + "\n10 0\n20 0\n0 ENDBLK\n";
+    const auto source = sample("AC1009", "0 INSERT\n2 B0\n10 0\n20 0", chain);
+    const auto target = sample("AC1009");
+    EXPECT_TRUE(copyEntities(*source, source->entities().all(), *target));
+    EXPECT_LT(target->blocks().all().size(), 1000U);
+}
+
+TEST(Copy, CorpusDrawingsGoIntoANewOne)
+{
+    const QString folder = qEnvironmentVariable("ORTAKIT_CORPUS");
+    if (folder.isEmpty())
+        GTEST_SKIP() << "ORTAKIT_CORPUS names no folder of drawings";
+    for (const QFileInfo &file : QDir(folder).entryInfoList({u"*.dxf"_s})) {
+        SCOPED_TRACE(file.fileName().toStdString());
+        const ReadResult source = Drawing::open(file.filePath());
+        if (!source)
+            continue;
+        const auto target = newDrawing();
+        const CopyResult result = insertAsBlock(*source.drawing, *target, u"Whole"_s);
+        ASSERT_TRUE(result) << result.error.toStdString();
+        std::cout << file.fileName().toStdString() << ": " << target->children(result.record).size() << " copied, "
+                  << result.skipped << " left out\n";
+        EXPECT_AUDIT_CLEAN(*target);
+    }
+}
+
+} // namespace
+} // namespace host::drawing

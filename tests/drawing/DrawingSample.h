@@ -1,0 +1,61 @@
+#pragma once
+
+#include "host/drawing/Drawing.h"
+#include "host/drawing/Entities.h"
+
+#include <gtest/gtest.h>
+#include <ostream>
+#include <string>
+
+namespace host::drawing {
+
+/// Lines of a DXF file from "code value" pairs, one a line: "0 SECTION\n2 HEADER". A code alone has an empty value.
+QByteArray tagLines(const QByteArray &pairs, const QByteArray &lineEnd = "\n");
+
+/// A whole small drawing of a version, "AC1009" to "AC1032", with the tables and spaces it needs. `entities` and
+/// `blocks` as tagLines() takes them.
+QByteArray sampleText(const QByteArray &version, const QByteArray &entities = {}, const QByteArray &blocks = {});
+
+/// Reads bytes that must be good; a failure is told and an empty new drawing comes back.
+std::unique_ptr<Drawing> readGood(const QByteArray &bytes);
+
+inline std::unique_ptr<Drawing> sample(const QByteArray &version, const QByteArray &entities = {},
+                                       const QByteArray &blocks = {})
+{
+    return readGood(sampleText(version, entities, blocks));
+}
+
+/// Path of a file in this folder's data.
+QString dataFile(const QString &name);
+
+/// What an independent reader says about a drawing: empty when it has no objection. Sets `isThere` to false, and says
+/// why, when that reader is not installed.
+QString auditOf(const Drawing &drawing, bool &isThere);
+
+/// Fails unless the independent reader accepts the drawing; prints the reason when it is not installed.
+#define EXPECT_AUDIT_CLEAN(drawing)                                                                                    \
+    do {                                                                                                               \
+        bool isThere = true;                                                                                           \
+        const QString complaint = auditOf(drawing, isThere);                                                           \
+        if (!isThere)                                                                                                  \
+            std::cout << "audit skipped: " << complaint.toStdString() << '\n';                                         \
+        else                                                                                                           \
+            EXPECT_EQ(complaint, QString());                                                                           \
+    } while (false)
+
+inline void PrintTo(const Vec3 &point, std::ostream *out)
+{
+    *out << '(' << point.x << ' ' << point.y << ' ' << point.z << ')';
+}
+
+} // namespace host::drawing
+
+inline void PrintTo(const QString &text, std::ostream *out)
+{
+    *out << '"' << text.toStdString() << '"';
+}
+
+inline void PrintTo(const QByteArray &bytes, std::ostream *out)
+{
+    *out << '"' << bytes.toStdString() << '"';
+}

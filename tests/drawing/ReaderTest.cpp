@@ -1,0 +1,263 @@
+#include "host/drawing/HeaderVariables.h"
+#include "host/drawing/Journal.h"
+#include "tests/drawing/DrawingSample.h"
+
+#include <QDir>
+#include <QFile>
+
+namespace host::drawing {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QByteArray contents(const QString &path)
+{
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path.toStdString();
+    return file.readAll();
+}
+
+QByteArray withLineEnds(QByteArray text, const QByteArray &lineEnd)
+{
+    return text.replace("\n", lineEnd);
+}
+
+const QByteArray line = "0 LINE\n5 50\n8 0\n10 0\n20 0\n30 0\n11 1\n21 1\n31 0\n";
+
+/// What must read, and be written as it was.
+TEST(Reader, KeepsOddFilesAsTheyAre)
+{
+    const QByteArray plain = sampleText("AC1009", line);
+    const struct
+    {
+        const char *name;
+        QByteArray bytes;
+    } rows[] = {
+        {"plain", plain},
+        {"CR LF", withLineEnds(plain, "\r\n")},
+        {"CR alone", withLineEnds(plain, "\r")},
+        {"CR CR LF", withLineEnds(plain, "\r\r\n")},
+        {"mixed line ends", withLineEnds(plain.first(200), "\r\n") + plain.mid(200)},
+        {"CR and LF mixed", withLineEnds(plain.first(200), "\r") + plain.mid(200)},
+        {"no padding", plain.trimmed().replace("\n  ", "\n").replace("\n ", "\n")},
+        {"blanks behind codes", QByteArray(plain).replace("  0\n", "  0 \t\n")},
+        {"no final line end", plain.chopped(1)},
+        {"bytes behind EOF", plain + "and more\n\n\x1A"},
+        {"tags behind EOF", plain + "  0\nSECTION\n"},
+        {"comment on top", "999\nmade by hand\n" + plain},
+        {"comment inside", QByteArray(plain).replace("  8\n0\n", "999\nhere\n  8\n0\n")},
+        {"byte order mark", "\xEF\xBB\xBF" + plain},
+        {"lower-case structure", QByteArray(plain).replace("SECTION", "section").replace("EOF", "eof")},
+        {"unknown section",
+         QByteArray(plain).replace("  0\nEOF", tagLines("0 SECTION\n2 MINE\n0 THING\n1 x\n0 ENDSEC\n") + "  0\nEOF")},
+        {"numbers spelt oddly", QByteArray(plain).replace(" 10\n0\n", " 10\n  +1.50E+01  \n")},
+        {"bytes of no encoding", QByteArray(plain).replace("  8\n0\n", "  8\n\x81\xFF\xC3\n")},
+        {"handle twice", sampleText("AC1009", line + line)},
+        {"vertex without polyline", sampleText("AC1009", "0 VERTEX\n8 0\n10 0\n20 0\n30 0\n0 SEQEND\n8 0")},
+        {"polyline without end", sampleText("AC1009", "0 POLYLINE\n8 0\n0 VERTEX\n8 0\n" + line)},
+        {"EOF alone", "0\nEOF\n"},
+        {"negative count", QByteArray(plain).replace(" 70\n1\n", " 70\n-2147483648\n")},
+    };
+    for (const auto &row : rows) {
+        SCOPED_TRACE(row.name);
+        const ReadResult result = Drawing::fromBytes(row.bytes);
+        ASSERT_TRUE(result) << result.error.message().toStdString();
+        EXPECT_EQ(result.drawing->toBytes(), row.bytes);
+        EXPECT_FALSE(result.drawing->journal().isModified());
+    }
+}
+
+TEST(Reader, SaysWhatIsWrongAndWhere)
+{
+    const QByteArray head = tagLines("0 SECTION\n2 TABLES\n");
+    const struct
+    {
+        const char *name;
+        QByteArray bytes;
+        QString message;
+    } rows[] = {
+        {"empty", "", u"the file is empty"_s},
+        {"blank", " \r\n\r\n", u"the file is empty"_s},
+        {"binary", QByteArray("AutoCAD Binary DXF\r\n\x1A\0", 22),
+         u"this is a binary DXF file; only text DXF can be read"_s},
+        {"drawing of the other kind", QByteArray("AC1015\0\0\0", 9),
+         u"this is a DWG file; this program reads DXF only"_s},
+        {"UTF-16",
+         QByteArray("\xFF\xFE"
+                    "0\0\r\0\n\0",
+                    8),
+         u"this is a UTF-16 text file, not a DXF file"_s},
+        {"picture", QByteArray("\x89PNG\r\n\x1A\n\0\0", 10),
+         u"line 1: this is not a DXF file: group code expected, found \"?PNG\""_s},
+        {"text", "Dear Sir,\nhello\n", u"line 1: this is not a DXF file: group code expected, found \"Dear Sir,\""_s},
+        {"numbers", "1\n2\n3\n4\n", u"line 5: this is not a DXF file: it has no sections"_s},
+        {"entity first", "0\nLINE\n8\n0\n", u"line 2: this is not a DXF file: section expected, found \"LINE\""_s},
+        {"line lost", head + "abc\n", u"line 5: group code expected, found \"abc\""_s},
+        {"code too large", head + "1072\nx\n", u"line 5: group code expected, found \"1072\""_s},
+        {"code with letters", head + " 10x\n5\n", u"line 5: group code expected, found \" 10x\""_s},
+        {"long line quoted short", head + QByteArray(60, 'x') + "\n",
+         u"line 5: group code expected, found \"%1...\""_s.arg(QString(40, u'x'))},
+        {"no section name", tagLines("0 SECTION\n0 ENDSEC\n0 EOF\n"), u"line 4: the section has no name"_s},
+        {"entry without table", head + tagLines("0 LAYER\n2 A\n"),
+         u"line 6: \"LAYER\" stands outside of the tables: TABLE is missing"_s},
+        {"table in table", head + tagLines("0 TABLE\n2 LAYER\n0 TABLE\n"),
+         u"line 10: TABLE inside a table: ENDTAB is missing"_s},
+        {"table not closed", head + tagLines("0 TABLE\n2 LAYER\n0 ENDSEC\n"),
+         u"line 10: the section ends inside a table: ENDTAB is missing"_s},
+        {"block in block", tagLines("0 SECTION\n2 BLOCKS\n0 BLOCK\n2 A\n0 BLOCK\n"),
+         u"line 10: BLOCK inside a block: ENDBLK is missing"_s},
+        {"section in section", head + tagLines("0 SECTION\n"),
+         u"line 6: SECTION inside a section: ENDSEC is missing"_s},
+        {"end in section", head + tagLines("0 EOF\n"), u"line 6: EOF inside a section: ENDSEC is missing"_s},
+        {"record between sections", head + tagLines("0 ENDSEC\n0 LINE\n"),
+         u"line 8: \"LINE\" stands outside of the sections"_s},
+        {"cut off", head + tagLines("0 ENDSEC\n"), u"line 7: the file is cut off: it ends before EOF"_s},
+        {"cut off behind a code", head + tagLines("0 ENDSEC\n") + "  0\n",
+         u"line 8: the file is cut off: it ends before EOF"_s},
+    };
+    for (const auto &row : rows) {
+        SCOPED_TRACE(row.name);
+        const ReadResult result = Drawing::fromBytes(row.bytes);
+        ASSERT_FALSE(result);
+        EXPECT_EQ(result.error.message(), row.message);
+    }
+}
+
+TEST(Reader, FilesThatCannotBeOpenedAreNamed)
+{
+    for (const QString &path : {u"/nowhere/at/all.dxf"_s, QDir::tempPath()}) {
+        const ReadResult result = Drawing::open(path);
+        EXPECT_FALSE(result);
+        EXPECT_TRUE(result.error.message().contains(path)) << result.error.message().toStdString();
+    }
+}
+
+/// Wherever a file is cut, it is refused with a line of the file, or was whole.
+TEST(Reader, RefusesFilesCutOffAnywhere)
+{
+    const QByteArray whole = contents(dataFile(u"r2000_codepage.dxf"_s));
+    const qsizetype end = whole.lastIndexOf("EOF") + 3;
+    for (qsizetype length = 0; length < whole.size(); ++length) {
+        const QByteArray cut = whole.first(length);
+        const ReadResult result = Drawing::fromBytes(cut);
+        if (result) {
+            ASSERT_GE(length, end);
+            ASSERT_EQ(result.drawing->toBytes(), cut);
+            continue;
+        }
+        ASSERT_LT(length, end) << result.error.message().toStdString();
+        ASSERT_FALSE(result.error.text.isEmpty());
+        ASSERT_LE(result.error.line, cut.count('\n') + 1);
+    }
+}
+
+/// Bytes changed anywhere never bring the reader down, and what it takes it writes back.
+TEST(Reader, SurvivesDamage)
+{
+    const QByteArray whole = contents(dataFile(u"r2018_objects.dxf"_s));
+    for (qsizetype at = 0; at < whole.size(); at += 3) {
+        for (const char damage : {'\0', '\n', '\r', '9', '{', '\xFF'}) {
+            QByteArray damaged = whole;
+            damaged[at] = damage;
+            const ReadResult result = Drawing::fromBytes(damaged);
+            if (!result)
+                continue;
+            ASSERT_EQ(result.drawing->toBytes(), damaged);
+            for (RecordId id = result.drawing->first(); isValid(id); id = result.drawing->next(id))
+                result.drawing->fields(id);
+        }
+    }
+}
+
+void expectRoundTrip(const QString &folder, const QString &mayFail = {})
+{
+    const QFileInfoList files = QDir(folder).entryInfoList({u"*.dxf"_s}, QDir::Files);
+    ASSERT_FALSE(files.isEmpty()) << folder.toStdString();
+    for (const QFileInfo &file : files) {
+        SCOPED_TRACE(file.fileName().toStdString());
+        const ReadResult result = Drawing::open(file.filePath());
+        if (!result && file.fileName() == mayFail) {
+            EXPECT_GT(result.error.line, 0);
+            std::cout << file.fileName().toStdString() << ": " << result.error.message().toStdString() << '\n';
+            continue;
+        }
+        ASSERT_TRUE(result) << result.error.message().toStdString();
+        EXPECT_EQ(result.drawing->toBytes(), contents(file.filePath()));
+        // Handing every record its own fields back changes nothing, however they are spelt.
+        for (RecordId id = result.drawing->first(); isValid(id); id = result.drawing->next(id))
+            EXPECT_FALSE(result.drawing->setFields(id, result.drawing->fields(id)))
+                << result.drawing->bytes(id).toByteArray().toStdString();
+        EXPECT_FALSE(result.drawing->journal().isModified());
+    }
+}
+
+TEST(Reader, OwnSamplesRoundTrip)
+{
+    expectRoundTrip(dataFile({}));
+}
+
+TEST(Reader, CorpusRoundTrips)
+{
+    const QString folder = qEnvironmentVariable("ORTAKIT_CORPUS");
+    if (folder.isEmpty())
+        GTEST_SKIP() << "ORTAKIT_CORPUS names no folder of drawings";
+    expectRoundTrip(folder, u"damaged.dxf"_s);
+}
+
+TEST(Reader, FindsEverythingByPlaceAndHandle)
+{
+    const auto drawing =
+        sample("AC1015",
+               "0 INSERT\n5 60\n330 1F\n100 AcDbEntity\n8 0\n100 AcDbBlockReference\n66 1\n2 A\n10 1\n"
+               "20 2\n0 ATTRIB\n5 61\n330 60\n8 0\n0 SEQEND\n5 62\n330 60\n8 0\n" +
+                   line,
+               "0 BLOCK\n5 70\n330 1\n8 0\n2 A\n70 2\n10 0\n20 0\n0 LINE\n5 71\n8 0\n0 ENDBLK\n5 72\n8 0\n");
+    const RecordId insert = drawing->find({0x60});
+    ASSERT_TRUE(isValid(insert));
+    EXPECT_EQ(drawing->kind(insert), RecordKind::Entity);
+    EXPECT_EQ(drawing->owner(insert), Handle{0x1F});
+    EXPECT_EQ(drawing->children(insert), std::vector{drawing->find({0x61})});
+    EXPECT_EQ(drawing->endOf(insert), drawing->find({0x62}));
+    EXPECT_EQ(drawing->entities().all(), (std::vector{insert, drawing->find({0x50})}));
+    EXPECT_EQ(drawing->parent(drawing->find({0x71})), drawing->find({0x70}));
+    EXPECT_EQ(drawing->endOf(drawing->find({0x70})), drawing->find({0x72}));
+    EXPECT_FALSE(isValid(drawing->find({0x999})));
+    EXPECT_FALSE(isValid(drawing->find({})));
+    std::vector<RecordId> walked;
+    for (RecordId id = drawing->entities().nextOfAll(noRecord); isValid(id); id = drawing->entities().nextOfAll(id))
+        walked.push_back(id);
+    EXPECT_EQ(walked.size(), 4U);
+    const RecordId tail = drawing->previous(drawing->endOf(drawing->sectionRecord(Section::Entities)));
+    EXPECT_EQ(tail, drawing->find({0x50}));
+}
+
+TEST(Reader, RecordsWithoutHandlesHaveIds)
+{
+    const auto drawing = sample("AC1009", "0 LINE\n8 A\n10 1\n20 2\n30 3\n11 4\n21 5\n31 6\n0 POINT\n8 0\n10 0\n20 0");
+    const std::vector<RecordId> entities = drawing->entities().all();
+    ASSERT_EQ(entities.size(), 2U);
+    EXPECT_TRUE(drawing->handle(entities[0]).isNull());
+    EXPECT_EQ(drawing->tags(entities[0]).point(11), (Vec3{4, 5, 6}));
+    EXPECT_NE(entities[0], entities[1]);
+}
+
+TEST(Reader, HeaderVariablesByName)
+{
+    const auto drawing = sample("AC1015");
+    EXPECT_EQ(drawing->version(), Version::R2000);
+    EXPECT_EQ(drawing->header().text(u"$acadver"), u"AC1015"_s);
+    EXPECT_FALSE(drawing->header().get(u"$NOTHERE").has_value());
+    EXPECT_EQ(drawing->header().names().size(), 4U);
+    EXPECT_TRUE(drawing->header().set(u"$INSBASE", {10, Vec3{1, 2, 3}}));
+    EXPECT_EQ(drawing->header().point(u"$INSBASE"), (Vec3{1, 2, 3}));
+    EXPECT_FALSE(drawing->header().set(u"$INSBASE", {10, Vec3{1, 2, 3}}));
+    EXPECT_TRUE(drawing->header().set(u"$LTSCALE", {40, 2.5}));
+    EXPECT_TRUE(drawing->toBytes().contains("  9\n$LTSCALE\n 40\n2.5\n  0\nENDSEC\n"));
+    drawing->journal().undo();
+    drawing->journal().undo();
+    EXPECT_EQ(drawing->toBytes(), sampleText("AC1015"));
+}
+
+} // namespace
+} // namespace host::drawing

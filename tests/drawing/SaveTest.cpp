@@ -1,0 +1,174 @@
+#include "host/drawing/Save.h"
+
+#include "host/drawing/Journal.h"
+#include "tests/drawing/DrawingSample.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <csignal>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace host::drawing {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class SaveTest : public testing::Test
+{
+protected:
+    QString path(const QString &name) const { return m_folder.filePath(name); }
+    static QByteArray contents(const QString &path)
+    {
+        QFile file(path);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("cannot be read");
+    }
+    void write(const QString &name, const QByteArray &bytes) const
+    {
+        QFile file(path(name));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(bytes);
+    }
+    /// Names of all files, hidden ones too: nothing may be left lying about.
+    QStringList files() const { return QDir(m_folder.path()).entryList(QDir::Files | QDir::Hidden); }
+    /// A drawing with something to save.
+    static std::unique_ptr<Drawing> changed()
+    {
+        auto drawing = sample("AC1015");
+        EXPECT_TRUE(drawing->entities().create({{0, u"POINT"_s}, {10, Vec3{}}}));
+        return drawing;
+    }
+
+    QTemporaryDir m_folder;
+};
+
+TEST_F(SaveTest, WritesAndTakesThePath)
+{
+    const auto drawing = changed();
+    EXPECT_TRUE(save(*drawing, path(u"a.dxf"_s)));
+    EXPECT_EQ(contents(path(u"a.dxf"_s)), drawing->toBytes());
+    EXPECT_FALSE(drawing->journal().isModified());
+    EXPECT_EQ(drawing->path(), path(u"a.dxf"_s));
+    drawing->journal().undo();
+    EXPECT_TRUE(save(*drawing, path(u"a.dxf"_s)));
+    EXPECT_EQ(contents(path(u"a.dxf"_s)), sampleText("AC1015"));
+    EXPECT_EQ(files(), QStringList{u"a.dxf"_s});
+}
+
+TEST_F(SaveTest, CopiesLeaveTheDrawingAlone)
+{
+    const auto drawing = changed();
+    EXPECT_TRUE(saveCopy(*drawing, path(u"b.dxf"_s)));
+    EXPECT_TRUE(drawing->journal().isModified());
+    EXPECT_TRUE(drawing->path().isEmpty());
+    EXPECT_TRUE(saveSymbolCopy(*drawing, path(u"symbol.dwg"_s)));
+    EXPECT_TRUE(Drawing::open(path(u"symbol.dwg"_s)));
+}
+
+TEST_F(SaveTest, KeepsLinksAndPermissions)
+{
+    write(u"real.dxf"_s, "old");
+    ASSERT_TRUE(QFile::link(path(u"real.dxf"_s), path(u"link.dxf"_s)));
+    ASSERT_EQ(chmod(QFile::encodeName(path(u"real.dxf"_s)).constData(), 0640), 0);
+    const auto drawing = changed();
+    EXPECT_TRUE(save(*drawing, path(u"link.dxf"_s)));
+    EXPECT_TRUE(QFileInfo(path(u"link.dxf"_s)).isSymLink());
+    EXPECT_EQ(contents(path(u"real.dxf"_s)), drawing->toBytes());
+    struct stat status;
+    ASSERT_EQ(stat(QFile::encodeName(path(u"real.dxf"_s)).constData(), &status), 0);
+    EXPECT_EQ(status.st_mode & 0777, 0640U);
+}
+
+TEST_F(SaveTest, RefusesTheOtherFormat)
+{
+    for (const QString &name : {u"a.dwg"_s, u"a.DWG"_s, u"a.Dwg "_s}) {
+        const auto drawing = changed();
+        const SaveResult result = save(*drawing, path(name));
+        EXPECT_TRUE(result.error.contains(u"cannot write DWG"_s)) << result.error.toStdString();
+        EXPECT_TRUE(drawing->journal().isModified());
+    }
+    EXPECT_TRUE(files().isEmpty());
+}
+
+void expectFailure(const QString &path, const QString &reason)
+{
+    const auto drawing = sample("AC1015");
+    drawing->entities().create({{0, u"POINT"_s}, {10, Vec3{}}});
+    const SaveResult result = save(*drawing, path);
+    EXPECT_TRUE(result.error.contains(path)) << result.error.toStdString();
+    EXPECT_TRUE(result.error.contains(reason)) << result.error.toStdString();
+    EXPECT_TRUE(drawing->journal().isModified());
+    EXPECT_TRUE(drawing->path().isEmpty());
+}
+
+TEST_F(SaveTest, FailuresNameFileAndReason)
+{
+    expectFailure(path(u"none/a.dxf"_s), u"No such file or directory"_s);
+    expectFailure(m_folder.path(), u"this is not a file"_s);
+    expectFailure(u"/dev/full"_s, u"this is not a file"_s);
+}
+
+/// The superuser may write everywhere: for its life such a process is an ordinary user.
+class SomebodyElse
+{
+public:
+    SomebodyElse() { m_isOther = geteuid() == 0 && setresuid(65534, 65534, 0) == 0; }
+    ~SomebodyElse()
+    {
+        if (m_isOther && setresuid(0, 0, 0) != 0)
+            ADD_FAILURE() << "cannot become the superuser again";
+    }
+    SomebodyElse(const SomebodyElse &) = delete;
+    SomebodyElse &operator=(const SomebodyElse &) = delete;
+
+private:
+    bool m_isOther = false;
+};
+
+TEST_F(SaveTest, WithoutPermissionTheOldFileStays)
+{
+    write(u"a.dxf"_s, "old");
+    chmod(QFile::encodeName(path(u"a.dxf"_s)).constData(), 0444);
+    chmod(QFile::encodeName(m_folder.path()).constData(), 0777);
+    const SomebodyElse nobody;
+    expectFailure(path(u"a.dxf"_s), u"Permission denied"_s);
+    EXPECT_EQ(files(), QStringList{u"a.dxf"_s});
+    EXPECT_EQ(contents(path(u"a.dxf"_s)), "old");
+}
+
+TEST_F(SaveTest, AFolderThatTakesNoFilesIsTold)
+{
+    chmod(QFile::encodeName(m_folder.path()).constData(), 0555);
+    {
+        const SomebodyElse nobody;
+        expectFailure(path(u"a.dxf"_s), u"Permission denied"_s);
+    }
+    chmod(QFile::encodeName(m_folder.path()).constData(), 0755);
+    EXPECT_TRUE(files().isEmpty());
+}
+
+/// A disk that is full half-way, by way of the limit on a file's size.
+TEST_F(SaveTest, WithoutRoomTheOldFileStays)
+{
+    write(u"a.dxf"_s, "old");
+    struct rlimit before;
+    ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &before), 0);
+    const auto oldHandler = std::signal(SIGXFSZ, SIG_IGN);
+    const struct rlimit small = {1000, before.rlim_max};
+    ASSERT_EQ(setrlimit(RLIMIT_FSIZE, &small), 0);
+    const auto drawing = changed();
+    const SaveResult result = save(*drawing, path(u"a.dxf"_s));
+    setrlimit(RLIMIT_FSIZE, &before);
+    std::signal(SIGXFSZ, oldHandler);
+    EXPECT_TRUE(result.error.contains(u"File too large"_s)) << result.error.toStdString();
+    EXPECT_EQ(contents(path(u"a.dxf"_s)), "old");
+    EXPECT_EQ(files(), QStringList{u"a.dxf"_s});
+    EXPECT_TRUE(drawing->journal().isModified());
+}
+
+} // namespace
+} // namespace host::drawing

@@ -1,0 +1,145 @@
+#include "host/drawing/Tables.h"
+
+#include "host/drawing/Blocks.h"
+#include "host/drawing/Journal.h"
+#include "host/drawing/NewDrawing.h"
+#include "host/drawing/Symbols.h"
+#include "tests/drawing/DrawingSample.h"
+
+namespace host::drawing {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+TEST(Tables, EntriesAreFoundWithoutRegardToCase)
+{
+    const auto drawing = sample("AC1015");
+    EXPECT_TRUE(isValid(drawing->tables().find(TableKind::Linetype, u"continuous")));
+    EXPECT_FALSE(isValid(drawing->tables().find(TableKind::Layer, u"continuous")));
+    const RecordId layer = drawing->tables().add(TableKind::Layer, u"Wände"_s,
+                                                 {{62, qint64(-5)}, {70, qint64(4)}, {420, qint64(0x102030)}});
+    EXPECT_EQ(drawing->tables().find(TableKind::Layer, u"WÄNDE"), layer);
+    EXPECT_EQ(drawing->tables().add(TableKind::Layer, u"wände"_s), layer);
+    EXPECT_EQ(drawing->tables().entries(TableKind::Layer).size(), 2U);
+    FieldList fields = drawing->fields(layer);
+    setField(fields, 2, u"Other"_s);
+    drawing->setFields(layer, fields);
+    EXPECT_FALSE(isValid(drawing->tables().find(TableKind::Layer, u"Wände"))) << "renamed";
+    EXPECT_EQ(drawing->tables().find(TableKind::Layer, u"other"), layer);
+    drawing->journal().undo();
+    EXPECT_EQ(drawing->tables().find(TableKind::Layer, u"Wände"), layer);
+    const Layer read = readLayer(*drawing, layer);
+    EXPECT_TRUE(read.isOff);
+    EXPECT_TRUE(read.isLocked);
+    EXPECT_FALSE(read.isFrozen);
+    EXPECT_EQ(read.colour, 5);
+    EXPECT_EQ(read.trueColour, 0x102030U);
+    EXPECT_EQ(read.linetype, u"Continuous"_s);
+}
+
+TEST(Tables, EveryKindCanBeAddedAndSatisfiesAnotherReader)
+{
+    for (const QByteArray &version : {QByteArray("AC1009"), QByteArray("AC1015"), QByteArray("AC1032")}) {
+        SCOPED_TRACE(version.toStdString());
+        const auto drawing = sample(version);
+        for (int kind = 0; kind < 9; ++kind) {
+            const RecordId entry = drawing->tables().add(static_cast<TableKind>(kind), u"Mine"_s);
+            const bool isMissing = version == "AC1009" && static_cast<TableKind>(kind) == TableKind::BlockRecord;
+            EXPECT_EQ(isValid(entry), !isMissing) << kind;
+            if (static_cast<TableKind>(kind) == TableKind::BlockRecord && isValid(entry))
+                drawing->setErased(entry, true); // alone it is no block
+        }
+        EXPECT_AUDIT_CLEAN(*drawing);
+    }
+    EXPECT_FALSE(isValid(sample("AC1015")->tables().add(TableKind::Layer, {})));
+}
+
+TEST(Tables, DimensionStylesHaveTheirHandleElsewhere)
+{
+    const auto drawing = sample("AC1015");
+    const RecordId style = drawing->tables().add(TableKind::DimStyle, u"Mine"_s, {{40, 2.0}});
+    EXPECT_EQ(drawing->find(drawing->handle(style)), style);
+    EXPECT_TRUE(drawing->bytes(style).toByteArray().startsWith("  0\nDIMSTYLE\n105\n"));
+    const auto again = readGood(drawing->toBytes());
+    EXPECT_TRUE(isValid(again->find(drawing->handle(style))));
+}
+
+TEST(Tables, LinetypesWithTextsAndShapes)
+{
+    const auto drawing = sample("AC1015");
+    const RecordId entry = drawing->tables().add(TableKind::Linetype, u"GAS"_s,
+                                                 {{3, u"Gas ----"_s},
+                                                  {73, qint64(3)},
+                                                  {40, 1.5},
+                                                  {49, 0.5},
+                                                  {74, qint64(2)},
+                                                  {75, qint64(0)},
+                                                  {340, Handle{0x12}},
+                                                  {46, 0.1},
+                                                  {50, 30.0},
+                                                  {44, -0.1},
+                                                  {45, -0.05},
+                                                  {9, u"GAS"_s},
+                                                  {49, -0.25},
+                                                  {74, qint64(5)},
+                                                  {75, qint64(132)},
+                                                  {49, 0.0},
+                                                  {74, qint64(0)}});
+    const Linetype linetype = readLinetype(*drawing, entry);
+    EXPECT_EQ(linetype.description, u"Gas ----"_s);
+    EXPECT_EQ(linetype.patternLength, 1.5);
+    ASSERT_EQ(linetype.dashes.size(), 3U);
+    EXPECT_EQ(linetype.dashes[0].text, u"GAS"_s);
+    EXPECT_EQ(linetype.dashes[0].style, Handle{0x12});
+    EXPECT_EQ(linetype.dashes[0].rotation, 30.0);
+    EXPECT_EQ(linetype.dashes[0].offset, (Vec2{-0.1, -0.05}));
+    EXPECT_EQ(linetype.dashes[1].shape, 132);
+    EXPECT_TRUE(linetype.dashes[1].isRotationAbsolute);
+    EXPECT_EQ(linetype.dashes[2].shape, 0);
+    EXPECT_TRUE(findLinetype(*drawing, u"gas").has_value());
+    EXPECT_FALSE(findTextStyle(*drawing, u"gas").has_value());
+    EXPECT_EQ(findTextStyle(*drawing, u"standard")->fontFile, u"txt"_s);
+}
+
+TEST(Blocks, AreMadeFoundAndEmptied)
+{
+    for (const QByteArray &version : {QByteArray("AC1009"), QByteArray("AC1015")}) {
+        SCOPED_TRACE(version.toStdString());
+        const auto drawing = sample(version);
+        const RecordId block = drawing->blocks().create(u"Door"_s, {1, 2, 3});
+        EXPECT_EQ(drawing->blocks().find(u"DOOR"), block);
+        EXPECT_EQ(drawing->blocks().get(u"door")->basePoint, (Vec3{1, 2, 3}));
+        EXPECT_EQ(isValid(drawing->blocks().get(u"door")->tableEntry), version != "AC1009");
+        drawing->entities().createInBlock(block, {{0, u"POINT"_s}, {10, Vec3{}}});
+        EXPECT_EQ(drawing->blocks().create(u"DOOR"_s, {4, 5, 6}), block);
+        EXPECT_TRUE(drawing->children(block).empty());
+        EXPECT_EQ(drawing->blocks().get(u"door")->basePoint, (Vec3{4, 5, 6}));
+        const RecordId first = drawing->blocks().create(u"*U"_s, {}, 1);
+        const RecordId second = drawing->blocks().create(u"*u"_s, {}, 1);
+        EXPECT_EQ(drawing->blocks().name(first), u"*U0"_s);
+        EXPECT_EQ(drawing->blocks().name(second), u"*u1"_s);
+        EXPECT_TRUE(drawing->blocks().erase(second));
+        EXPECT_FALSE(isValid(drawing->blocks().find(u"*U1")));
+        for (const QString &name : {QString(), u"*Model_Space"_s, u"*paper_space"_s})
+            EXPECT_FALSE(isValid(drawing->blocks().create(name, {})));
+        EXPECT_AUDIT_CLEAN(*drawing);
+    }
+}
+
+TEST(NewDrawing, IsCompleteAndSatisfiesAnotherReader)
+{
+    for (const Measurement measurement : {Measurement::Metric, Measurement::Imperial}) {
+        const auto drawing = newDrawing(measurement);
+        EXPECT_EQ(drawing->version(), Version::R2018);
+        EXPECT_FALSE(drawing->journal().isModified());
+        EXPECT_TRUE(drawing->path().isEmpty());
+        EXPECT_TRUE(drawing->entities().all().empty());
+        for (const char16_t *name : {u"0"})
+            EXPECT_TRUE(isValid(drawing->tables().find(TableKind::Layer, name)));
+        EXPECT_AUDIT_CLEAN(*drawing);
+    }
+}
+
+} // namespace
+} // namespace host::drawing
