@@ -114,7 +114,7 @@
            (if (and (tblsearch "BLOCK" name) (not (cadddr choice))) name (strcat name "=" (car choice)))
            (trans point 0 1) 1.0 1.0 0.0)
   (setq reference (entlast)
-        box       (if (not (equal reference before)) (kora_bounding_box (kora_block_entities name))))
+        box       (if (not (equal reference before)) (kora_block_box name)))
   (cond
     ((equal reference before)
      (kora_alert_message (strcat "The symbol could not be read from " (car choice) "."))
@@ -131,7 +131,8 @@
         scale  (/ size (max (car extent) (cadr extent)))
         turn   (angle (kora_field data 10) (kora_field data 11))
         middle (mapcar '(lambda (low high) (* scale (/ (+ low high) 2.0))) (car box) (cadr box))
-        centre (polar '(0.0 0.0 0.0) (+ turn (angle '(0.0 0.0) middle)) (distance '(0.0 0.0) (list (car middle) (cadr middle)))))
+        centre (polar '(0.0 0.0) (+ turn (angle '(0.0 0.0) middle))
+                      (distance '(0.0 0.0) (list (car middle) (cadr middle)))))
   (setq reference (entget reference))
   (foreach field (list (cons 8 (kora_field data 8))
                        (cons 10 (mapcar '- point (list (car centre) (cadr centre) (caddr middle))))

@@ -29,6 +29,12 @@
               entity (entnext entity)))))
   (reverse names))
 
+;; (kora_block_box name) -> bounding box of a block definition as seen from its base point; nil when it is empty.
+(defun kora_block_box (name / base)
+  (setq base (kora:point3d (kora_field (tblsearch "BLOCK" name) 10)))
+  (mapcar '(lambda (corner) (mapcar '- corner base))
+          (kora_bounding_box (kora_block_entities name))))
+
 ;; (kora_bounding_box entities) -> (lower upper), two points, of what the entities draw; nil when nothing has an extent.
 ;; Texts count with their insertion point, block references and curves of higher degree with their defining points.
 (defun kora_bounding_box (entities / points)
