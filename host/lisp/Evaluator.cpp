@@ -86,7 +86,7 @@ Value Interpreter::evalList(const Value &form)
     if (function.tag() == Tag::Native) {
         const NativeFunction &native = function.asNative();
         if (native.specialForm)
-            return callSpecialForm(native, cell.cdr);
+            return callSpecialForm(native, cell.cdr, location);
         ValueFrame values(*this);
         evalArguments(cell.cdr, values);
         m_location = location;
@@ -122,11 +122,13 @@ Value Interpreter::callNative(const NativeFunction &native, const Value *values,
     }
 }
 
-Value Interpreter::callSpecialForm(const NativeFunction &form, const Value &arguments)
+Value Interpreter::callSpecialForm(const NativeFunction &form, const Value &arguments, Location location)
 {
     try {
         return form.specialForm(*this, arguments);
     } catch (...) {
+        // What the form evaluated before it failed may lie elsewhere.
+        m_location = location;
         rethrowSignalled(form);
     }
 }

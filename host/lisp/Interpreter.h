@@ -182,7 +182,7 @@ private:
     Value callNative(const NativeFunction &native, const Value *values, std::size_t count);
     Value callUser(const Function &function, ValueFrame &values, Location location);
     Value callTraced(const Function &function, ValueFrame &values, Location location);
-    Value callSpecialForm(const NativeFunction &form, const Value &arguments);
+    Value callSpecialForm(const NativeFunction &form, const Value &arguments, Location location);
     /// Throws `error` with place and chain, after calling `*error*`.
     [[noreturn]] void raise(Error error);
     [[noreturn]] void raiseArgumentCount(const Function &function, std::size_t given);

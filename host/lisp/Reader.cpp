@@ -42,9 +42,9 @@ void Reader::feed(std::string_view text)
     m_text.erase(0, m_position);
     m_position = 0;
     m_text += text;
-    const auto lines = static_cast<std::size_t>(std::count(m_text.begin(), m_text.end(), '\n')) + 1;
+    m_unreadLines += static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n'));
     m_rangeLine = m_line;
-    m_rangeBegin = m_interpreter.sources().begin(m_sourceName, m_line, lines);
+    m_rangeBegin = m_interpreter.sources().begin(m_sourceName, m_line, m_unreadLines + 1);
 }
 
 void Reader::finish()
@@ -56,6 +56,7 @@ void Reader::reset()
 {
     m_text.clear();
     m_position = 0;
+    m_unreadLines = 0;
     m_state = State::Between;
     m_token.clear();
     m_frames.clear();
@@ -70,9 +71,14 @@ bool Reader::isIncomplete() const noexcept
 
 void Reader::fail(const char *message)
 {
+    failAt(m_line, message);
+}
+
+void Reader::failAt(int line, const char *message)
+{
     Error error{std::string(message)};
     error.file = m_sourceName;
-    error.line = m_line;
+    error.line = line;
     reset();
     throw error;
 }
@@ -83,8 +89,10 @@ std::optional<Value> Reader::next()
         const char c = m_text[m_position++];
         const std::size_t behind = m_position;
         const bool complete = take(c);
-        if (c == '\n' && m_position == behind)
+        if (c == '\n' && m_position == behind) {
             ++m_line;
+            --m_unreadLines;
+        }
         if (complete)
             return std::exchange(m_form, Value());
     }
@@ -99,9 +107,10 @@ std::optional<Value> Reader::next()
 void Reader::checkUnfinished()
 {
     if (isInString())
-        fail("malformed string on input");
+        failAt(m_stringLine, "malformed string on input");
+    // Where the outermost open form began is where a parenthesis is missing, or close to it.
     if (!m_frames.empty())
-        fail("malformed list on input");
+        failAt(m_frames.front().line, "malformed list on input");
 }
 
 bool Reader::take(char c)
@@ -137,6 +146,7 @@ bool Reader::takeBetween(char c)
         return false;
     case '"':
         m_state = State::String;
+        m_stringLine = m_line;
         return false;
     case ';':
         m_state = State::Semicolon;
@@ -263,6 +273,7 @@ void Reader::open(bool isQuote)
         fail("lists nested too deeply on input");
     m_frames.emplace_back();
     m_frames.back().location = here();
+    m_frames.back().line = m_line;
     m_frames.back().isQuote = isQuote;
     if (!isQuote)
         ++m_depth;

@@ -34,7 +34,8 @@ public:
 
     /// The next form; nothing when the text fed so far holds no further complete one. Throws Error with file and line
     /// ("extra right paren on input", "malformed list on input", "malformed string on input", "misplaced dot on
-    /// input"), after which the reader has dropped the unfinished form and everything fed so far.
+    /// input"; an unfinished list or string is reported where it begins), after which the reader has dropped the
+    /// unfinished form and everything fed so far.
     std::optional<Value> next();
 
     /// In the middle of a list, string or comment.
@@ -70,6 +71,7 @@ private:
     {
         ListBuilder items;
         Location location = 0;
+        int line = 0;
         Dot dot = Dot::None;
         bool isQuote = false;
     };
@@ -91,6 +93,7 @@ private:
     Value takeList(Frame &frame);
     void checkUnfinished();
     [[noreturn]] void fail(const char *message);
+    [[noreturn]] void failAt(int line, const char *message);
 
     Location here() const noexcept
     {
@@ -105,8 +108,10 @@ private:
 
     State m_state = State::Between;
     std::string m_token;
-    std::string m_escape; ///< digits of a numeric escape
+    std::string m_escape;          ///< digits of a numeric escape
+    std::size_t m_unreadLines = 0; ///< line feeds in the text not read yet
     int m_line = 1;
+    int m_stringLine = 0;      ///< where the string being read began
     Location m_rangeBegin = 0; ///< location of line m_rangeLine
     int m_rangeLine = 1;
     std::vector<Frame> m_frames;

@@ -83,6 +83,9 @@ static constexpr NativeRow rows[] = {
     {"vl-load-com", nothing, Arity::exactly(0)},
     {"vl-load-reactors", nothing, Arity::exactly(0)},
     {"pragma", nothing, Arity::any()},
+    {"*push-error-using-command*", nothing, Arity::exactly(0)},
+    {"*push-error-using-stack*", nothing, Arity::exactly(0)},
+    {"*pop-error-mode*", nothing, Arity::exactly(0)},
     {"alloc", sameNumber, Arity::exactly(1)},
     {"expand", sameNumber, Arity::exactly(1)},
 };

@@ -31,13 +31,13 @@ TEST(Errors, PlaceIsThatOfTheFileTheFormIsIn)
     EXPECT_EQ(outcome.error->report(), "bad argument type: listp 1 in (CAR), argument 1 (first.lsp:2)\n"
                                        "  in BROKEN, called at third.lsp:3");
     EXPECT_EQ(bench.interpreter.run("(fine\n", "fourth.lsp").error->summary(),
-              "malformed list on input (fourth.lsp:2)");
+              "malformed list on input (fourth.lsp:1)");
 }
 
 TEST(Errors, PlaceAfterACallIsThatOfTheCaller)
 {
     Bench bench;
-    const Outcome outcome = bench.interpreter.run("(defun f ()\n1)\n(foreach x (progn (f) 5) x)", "a.lsp");
+    const Outcome outcome = bench.interpreter.run("(defun f ()\n1)\n(foreach x\n(progn (f)\n5) x)", "a.lsp");
     EXPECT_EQ(outcome.error->summary(), "bad argument type: listp 5 in (FOREACH), argument 2 (a.lsp:3)");
 }
 
