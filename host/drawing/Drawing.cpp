@@ -247,6 +247,7 @@ TagList Drawing::tags(RecordId id) const
 {
     std::vector<Tag> tags;
     if (kind(id) != RecordKind::Tail) {
+        tags.reserve(std::min<size_t>(d->entry(id).length / 8 + 1, 64));
         TagReader reader(d->entry(id).bytes(), d->file.lineEnds);
         for (Tag tag; reader.read(tag);)
             tags.push_back(tag);

@@ -129,6 +129,8 @@ bool Indexer::cut()
         }
         ++m_line;
     }
+    if (!m_file.bytes.endsWith('\n') && !m_file.bytes.endsWith('\r'))
+        --m_line;
     return endsTooEarly();
 }
 

@@ -60,7 +60,16 @@ public:
         return isWritten;
     }
 
-    bool sync() { return flush() && fsync(m_descriptor) == 0; }
+    /// Starts the way to the disk, so that it goes on while the file is read back.
+    bool finishWriting()
+    {
+        if (!flush())
+            return false;
+        sync_file_range(m_descriptor, 0, 0, SYNC_FILE_RANGE_WRITE);
+        return true;
+    }
+
+    bool sync() { return fsync(m_descriptor) == 0; }
 
     bool holds(const Drawing &drawing) const
     {
@@ -68,7 +77,7 @@ public:
         if (fstat(m_descriptor, &status) != 0 || status.st_size == 0)
             return false;
         const auto size = static_cast<size_t>(status.st_size);
-        void *mapped = mmap(nullptr, size, PROT_READ, MAP_SHARED, m_descriptor, 0);
+        void *mapped = mmap(nullptr, size, PROT_READ, MAP_SHARED | MAP_POPULATE, m_descriptor, 0);
         if (mapped == MAP_FAILED)
             return false;
         QByteArrayView left(static_cast<const char *>(mapped), static_cast<qsizetype>(size));
@@ -143,11 +152,11 @@ SaveResult writeFile(const Drawing &drawing, const QString &path)
     FileBeside file(target);
     if (!file.isOpen())
         return failure(path);
-    if (!drawing.forEachPiece([&file](QByteArrayView piece) { return file.write(piece); }) || !file.sync())
+    if (!drawing.forEachPiece([&file](QByteArrayView piece) { return file.write(piece); }) || !file.finishWriting())
         return failure(path);
     if (!file.holds(drawing))
         return {u"%1: what was written does not read back the same; the old file was kept"_s.arg(path)};
-    if (!file.takePlaceOf(target))
+    if (!file.sync() || !file.takePlaceOf(target))
         return failure(path);
     syncFolder(target);
     return {};

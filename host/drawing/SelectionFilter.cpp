@@ -226,12 +226,14 @@ private:
             return compareField({0, QString::fromLatin1(m_drawing.typeName(m_entity))}, test.field, test.operators);
         if (test.field.code == xdataCode)
             return hasXdata(test.field.text());
+        // Only the groups asked for are made into fields: most of a record is never looked at.
         bool isThere = false;
-        for (const Field &field : fields()) {
-            if (field.code != test.field.code)
+        const TagList &record = tags();
+        for (size_t i = 0; i < record.size(); ++i) {
+            if (record[i].code != test.field.code)
                 continue;
             isThere = true;
-            if (compareField(field, test.field, test.operators))
+            if (compareField(record.fieldAt(i), test.field, test.operators))
                 return true;
         }
         const std::optional<Field> implied = isThere ? std::nullopt : impliedField(test.field.code);
@@ -240,21 +242,21 @@ private:
 
     bool hasXdata(const QString &application)
     {
-        return std::any_of(fields().begin(), fields().end(), [&](const Field &field) {
-            return field.code == appNameCode && matchesWildcard(field.text(), application);
+        return std::any_of(tags().begin(), tags().end(), [&](const Tag &tag) {
+            return tag.code == appNameCode && matchesWildcard(tags().decoded(tag), application);
         });
     }
 
-    const FieldList &fields()
+    const TagList &tags()
     {
-        if (m_fields.empty())
-            m_fields = m_drawing.fields(m_entity);
-        return m_fields;
+        if (!m_tags)
+            m_tags = m_drawing.tags(m_entity);
+        return *m_tags;
     }
 
     const Drawing &m_drawing;
     RecordId m_entity;
-    FieldList m_fields;
+    std::optional<TagList> m_tags;
 };
 
 SelectionFilter::Outcome SelectionFilter::create(const FieldList &conditions)

@@ -73,6 +73,21 @@ size_t pointLength(const std::vector<Tag> &tags, size_t index)
     return isPart(index + 2, code + 20) ? 3 : 2;
 }
 
+/// The field at `index`; `length` becomes the number of tags it takes.
+Field readField(const std::vector<Tag> &tags, size_t index, const TextCodec &codec, size_t &length)
+{
+    const Tag &tag = tags[index];
+    const size_t coordinates = pointLength(tags, index);
+    length = std::max<size_t>(coordinates, 1);
+    if (coordinates == 0)
+        return {tag.code, typedValue(tag, codec)};
+    const double x = tag.real().value_or(0.0);
+    const double y = tags[index + 1].real().value_or(0.0);
+    if (coordinates == 2)
+        return {tag.code, Vec2{x, y}};
+    return {tag.code, Vec3{x, y, tags[index + 2].real().value_or(0.0)}};
+}
+
 } // namespace
 
 const Tag *TagList::find(int code) const
@@ -194,25 +209,23 @@ FieldList TagList::fields() const
     return fields;
 }
 
+Field TagList::fieldAt(size_t index, size_t *next) const
+{
+    size_t length = 1;
+    Field field = readField(m_tags, index, *m_codec, length);
+    if (next)
+        *next = index + length;
+    return field;
+}
+
 std::vector<FieldSpan> readFieldSpans(const std::vector<Tag> &tags, const TextCodec &codec)
 {
     std::vector<FieldSpan> spans;
     spans.reserve(tags.size());
     for (size_t i = 0; i < tags.size();) {
-        const Tag &tag = tags[i];
-        const size_t length = pointLength(tags, i);
-        if (length == 0) {
-            spans.push_back({{tag.code, typedValue(tag, codec)}, tag.whole});
-            ++i;
-            continue;
-        }
-        const double x = tag.real().value_or(0.0);
-        const double y = tags[i + 1].real().value_or(0.0);
-        const QByteArrayView whole(tag.whole.begin(), tags[i + length - 1].whole.end());
-        if (length == 3)
-            spans.push_back({{tag.code, Vec3{x, y, tags[i + 2].real().value_or(0.0)}}, whole});
-        else
-            spans.push_back({{tag.code, Vec2{x, y}}, whole});
+        size_t length = 1;
+        Field field = readField(tags, i, codec, length);
+        spans.push_back({std::move(field), QByteArrayView(tags[i].whole.begin(), tags[i + length - 1].whole.end())});
         i += length;
     }
     return spans;

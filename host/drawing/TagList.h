@@ -42,6 +42,8 @@ public:
     /// All tags but comments, points in one piece, values typed by tagType(). A value that does not read as its type
     /// (a real that is no number) comes as text.
     FieldList fields() const;
+    /// The one field that starts at tag `index`; `next` is set to the first tag behind it.
+    Field fieldAt(size_t index, size_t *next = nullptr) const;
 
 private:
     std::vector<Tag> m_tags;

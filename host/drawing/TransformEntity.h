@@ -5,11 +5,13 @@
 
 namespace host::drawing {
 
-/// Moves, turns, scales or mirrors an entity with its children. Unevenly scaled circles and arcs become ellipses where
-/// the version has them. False when the type is not known or the map cannot be applied to it; it is then as it was.
+/// Moves, turns, scales or mirrors an entity with its children, a dimension with its picture. Texts stay readable when
+/// mirrored. False when the type is not known, or when the map would make another type of it (an uneven scale of a
+/// circle, a skewed block reference); it is then as it was.
 bool transformEntity(Drawing &drawing, RecordId entity, const Matrix &matrix);
 
-/// Adds a copy of an entity and its children behind the last of its container; noRecord when it cannot be copied.
+/// Adds a copy of an entity and its children as the last of its container; reactors and extension dictionaries stay
+/// with the original. noRecord when it cannot be copied.
 RecordId copyEntity(Drawing &drawing, RecordId entity);
 
 } // namespace host::drawing

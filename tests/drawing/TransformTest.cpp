@@ -1,0 +1,172 @@
+#include "host/drawing/Blocks.h"
+#include "host/drawing/EntityGeometry.h"
+#include "host/drawing/Journal.h"
+#include "host/drawing/Tables.h"
+#include "host/drawing/TransformEntity.h"
+#include "tests/drawing/DrawingSample.h"
+
+#include <numbers>
+
+namespace host::drawing {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr double pi = std::numbers::pi;
+
+/// One of each type, with everything that a map has to take along.
+std::unique_ptr<Drawing> everything()
+{
+    const QByteArray entities =
+        "0 LINE\n8 0\n10 1\n20 2\n30 3\n11 4\n21 5\n31 6\n"
+        "0 POINT\n8 0\n10 1\n20 2\n30 3\n"
+        "0 CIRCLE\n8 0\n10 5\n20 5\n30 1\n40 2\n"
+        "0 CIRCLE\n8 0\n10 5\n20 5\n30 1\n40 2\n210 0\n220 0\n230 -1\n"
+        "0 CIRCLE\n8 0\n10 5\n20 5\n30 1\n40 2\n210 1\n220 1\n230 1\n"
+        "0 ARC\n8 0\n10 5\n20 5\n30 0\n40 2\n50 10\n51 100\n"
+        "0 ARC\n8 0\n10 5\n20 5\n30 0\n40 2\n50 300\n51 20\n210 0\n220 1\n230 0\n"
+        "0 ELLIPSE\n8 0\n10 3\n20 4\n30 0\n11 2\n21 1\n31 0\n40 0.4\n41 0.5\n42 3\n"
+        "0 SPLINE\n8 0\n70 8\n71 2\n72 6\n73 3\n40 0\n40 0\n40 0\n40 1\n40 1\n40 1\n10 0\n20 0\n30 0\n10 1\n20 3\n30 "
+        "0\n10 4\n20 0\n30 0\n"
+        "0 LWPOLYLINE\n8 0\n90 3\n70 1\n38 2\n10 0\n20 0\n42 0.5\n10 4\n20 0\n10 4\n20 3\n42 -0.3\n"
+        "0 POLYLINE\n8 0\n66 1\n70 1\n10 0\n20 0\n30 2\n0 VERTEX\n8 0\n10 0\n20 0\n30 2\n42 0.7\n0 VERTEX\n8 0\n10 "
+        "3\n20 0\n30 2\n0 SEQEND\n8 0\n"
+        "0 POLYLINE\n8 0\n66 1\n70 8\n0 VERTEX\n8 0\n70 32\n10 0\n20 0\n30 2\n0 VERTEX\n8 0\n70 32\n10 3\n20 1\n30 "
+        "7\n0 SEQEND\n8 0\n"
+        "0 SOLID\n8 0\n10 0\n20 0\n30 0\n11 2\n21 0\n31 0\n12 0\n22 1\n32 0\n13 2\n23 1\n33 0\n"
+        "0 3DFACE\n8 0\n10 0\n20 0\n30 0\n11 2\n21 0\n31 1\n12 0\n22 1\n32 0\n13 2\n23 1\n33 4\n"
+        "0 INSERT\n8 0\n2 PART\n10 3\n20 1\n30 0\n41 2\n42 2\n43 2\n50 30\n"
+        "0 INSERT\n8 0\n2 PART\n10 3\n20 1\n30 0\n41 -1\n50 200\n70 2\n71 2\n44 5\n45 6\n210 0\n220 0\n230 -1\n"
+        "0 LEADER\n8 0\n10 0\n20 0\n30 0\n10 3\n20 3\n30 0\n"
+        "0 HATCH\n8 0\n10 0\n20 0\n30 0\n210 0\n220 0\n230 1\n2 SOLID\n70 1\n71 0\n91 2\n92 3\n72 1\n73 1\n93 2\n10 "
+        "0\n20 0\n42 1\n10 4\n20 0\n42 0.2\n97 0\n"
+        "92 1\n93 3\n72 2\n10 9\n20 0\n40 2\n50 20\n51 140\n73 1\n72 2\n10 9\n20 9\n40 2\n50 20\n51 140\n73 0\n72 "
+        "3\n10 20\n20 0\n11 3\n21 1\n40 0.5\n50 0\n51 200\n73 1\n97 0\n75 0\n76 1\n98 0\n"
+        "0 DIMENSION\n8 0\n2 *D0\n70 0\n10 5\n20 5\n30 0\n11 3\n21 3\n31 0\n13 0\n23 0\n33 0\n14 5\n24 0\n34 0\n50 0\n"
+        "0 IMAGE\n8 0\n10 1\n20 1\n30 0\n11 0.1\n21 0\n31 0\n12 0\n22 0.1\n32 0\n13 20\n23 10\n";
+    const QByteArray blocks =
+        "0 BLOCK\n8 0\n2 PART\n70 0\n10 1\n20 0\n30 0\n0 ARC\n8 0\n10 2\n20 0\n30 0\n40 1\n50 0\n51 200\n0 LINE\n8 "
+        "0\n10 0\n20 0\n30 0\n11 1\n21 3\n31 1\n0 ENDBLK\n8 0\n"
+        "0 BLOCK\n8 0\n2 *D0\n70 1\n10 0\n20 0\n30 0\n0 LINE\n8 0\n10 0\n20 5\n30 0\n11 5\n21 5\n31 0\n0 ENDBLK\n8 0\n";
+    return sample("AC1018", entities, blocks);
+}
+
+/// The largest distance of a point of one outline from the other.
+double deviation(const Outline &a, const Outline &b)
+{
+    double largest = 0.0;
+    for (const Outline::Piece &piece : a.pieces) {
+        for (const Vec3 &point : piece.points) {
+            double nearest = 1e300;
+            for (const Outline::Piece &other : b.pieces) {
+                for (size_t i = 0; i < other.points.size(); ++i) {
+                    const Vec3 &from = other.points[i];
+                    const Vec3 along = i + 1 < other.points.size() ? other.points[i + 1] - from : Vec3{};
+                    const double square = dot(along, along);
+                    const double t = square > 0 ? std::clamp(dot(point - from, along) / square, 0.0, 1.0) : 0.0;
+                    nearest = std::min(nearest, (point - (from + along * t)).length());
+                }
+            }
+            largest = std::max(largest, nearest);
+        }
+    }
+    return largest;
+}
+
+/// Mapping the entity gives what mapping its picture gives.
+TEST(Transform, EntitiesLookAsTheirMappedPicture)
+{
+    const struct
+    {
+        const char *name;
+        Matrix matrix;
+        int refused; ///< how many of everything() cannot take the map
+    } rows[] = {
+        {"move", Matrix::translation({10, 20, 5}), 0},
+        {"turn", Matrix::rotation(0.7, {3, 3, 0}), 0},
+        {"scale", Matrix::scaling({2.5, 2.5, 2.5}, {1, 1, 0}), 0},
+        {"mirror", Matrix::mirror({0, 0, 0}, {3, 1, 0}), 0},
+        {"mirror, turn, scale and move",
+         Matrix::translation({1, 2, 3}) * Matrix::scaling({-3, 3, 3}) * Matrix::rotation(2), 0},
+        {"turn out of the plane", Matrix{{0, 0, 1}, {1, 0, 0}, {0, 1, 0}, {5, 5, 5}}, 0},
+        {"uneven", Matrix::scaling({2, 1, 1}), 11},
+    };
+    Flatness fine;
+    fine.maximumAngle = 0.02;
+    for (const auto &row : rows) {
+        SCOPED_TRACE(row.name);
+        const auto drawing = everything();
+        int refused = 0;
+        for (const RecordId id : drawing->entities().all()) {
+            SCOPED_TRACE(drawing->bytes(id).toByteArray().toStdString());
+            const QByteArray before = drawing->toBytes();
+            const Outline wanted = entityOutline(*drawing, id, fine, row.matrix);
+            if (!transformEntity(*drawing, id, row.matrix)) {
+                ++refused;
+                EXPECT_EQ(drawing->toBytes(), before);
+                continue;
+            }
+            const Outline found = entityOutline(*drawing, id, fine);
+            EXPECT_FALSE(found.pieces.empty());
+            EXPECT_LT(deviation(found, wanted), 0.01);
+            EXPECT_LT(deviation(wanted, found), 0.01);
+            EXPECT_TRUE(drawing->journal().undo());
+            EXPECT_EQ(drawing->toBytes(), before);
+        }
+        EXPECT_EQ(refused, row.refused);
+    }
+}
+
+TEST(Transform, TextsStayReadable)
+{
+    const auto drawing =
+        sample("AC1015", "0 TEXT\n5 50\n8 0\n10 1\n20 2\n30 0\n40 2\n1 a\n50 10\n72 1\n11 1\n21 2\n31 0\n"
+                         "0 MTEXT\n5 51\n8 0\n10 1\n20 2\n30 0\n40 2\n41 30\n1 a\n50 0");
+    const RecordId text = drawing->find({0x50});
+    const RecordId paragraph = drawing->find({0x51});
+    const Matrix turn = Matrix::rotation(pi / 2) * Matrix::scaling({3, 3, 3});
+    EXPECT_TRUE(transformEntity(*drawing, text, turn));
+    EXPECT_TRUE(transformEntity(*drawing, paragraph, turn));
+    EXPECT_NEAR(drawing->tags(text).real(50), 100.0, 1e-9);
+    EXPECT_NEAR(drawing->tags(text).real(40), 6.0, 1e-9);
+    EXPECT_NEAR(drawing->tags(paragraph).real(40), 6.0, 1e-9);
+    EXPECT_NEAR(drawing->tags(paragraph).real(41), 90.0, 1e-9);
+    EXPECT_LT((drawing->tags(paragraph).point(11) - Vec3{0, 1, 0}).length(), 1e-9);
+    EXPECT_LT((drawing->tags(text).point(11) - Vec3{-6, 3, 0}).length(), 1e-9);
+    EXPECT_TRUE(transformEntity(*drawing, text, Matrix::mirror({0, 0, 0}, {1, 0, 0})));
+    EXPECT_FALSE(drawing->tags(text).find(210)) << "it did not turn its back";
+}
+
+TEST(Transform, WhatCannotBeMappedIsLeft)
+{
+    const auto drawing = sample("AC1015", "0 THING\n5 50\n8 0\n0 LINE\n5 51\n8 0\n10 0\n20 0\n30 0\n11 1\n21 1\n31 0");
+    EXPECT_FALSE(transformEntity(*drawing, drawing->find({0x50}), Matrix::translation({1, 0, 0})));
+    EXPECT_FALSE(transformEntity(*drawing, drawing->find({0x51}), Matrix::scaling({0, 1, 1})));
+    EXPECT_FALSE(transformEntity(*drawing, noRecord, {}));
+    EXPECT_FALSE(drawing->journal().isModified());
+}
+
+TEST(Transform, CopiesStandAlone)
+{
+    const auto drawing = everything();
+    drawing->tables().add(TableKind::DimStyle, u"Standard"_s);
+    const std::vector<RecordId> originals = drawing->entities().all();
+    for (const RecordId id : originals) {
+        const RecordId copy = copyEntity(*drawing, id);
+        ASSERT_TRUE(isValid(copy));
+        EXPECT_EQ(drawing->children(copy).size(), drawing->children(id).size());
+        EXPECT_EQ(deviation(entityOutline(*drawing, id), entityOutline(*drawing, copy)), 0.0);
+        EXPECT_FALSE(drawing->handle(copy).isNull());
+        // Moving the copy leaves the original where it is, a dimension's picture as well.
+        const Box before = entityBox(*drawing, id);
+        transformEntity(*drawing, copy, Matrix::translation({100, 0, 0}));
+        EXPECT_EQ(entityBox(*drawing, id).high, before.high);
+    }
+    EXPECT_EQ(drawing->entities().all().size(), 2 * originals.size());
+    readGood(drawing->toBytes());
+    EXPECT_FALSE(isValid(copyEntity(*drawing, noRecord)));
+}
+
+} // namespace
+} // namespace host::drawing
