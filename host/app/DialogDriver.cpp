@@ -89,9 +89,7 @@ void DialogDriver::attend()
 
 void DialogDriver::reject(QWidget &window)
 {
-    m_rejections = m_rejected == &window ? m_rejections + 1 : 1;
-    m_rejected = &window;
-    if (m_rejections > patience)
+    if (++m_rejections[&window] > patience)
         window.hide();
     else if (auto *dialog = qobject_cast<QDialog *>(&window))
         dialog->reject();

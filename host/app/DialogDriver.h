@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QHash>
 #include <QList>
 #include <QObject>
 #include <QPointer>
@@ -45,9 +46,8 @@ private:
     void reject(QWidget &window);
 
     QList<QPointer<QWidget>> m_known;
-    QList<QPointer<QWidget>> m_busy; ///< something is being done to these
-    QPointer<QWidget> m_rejected;
-    int m_rejections = 0; ///< of m_rejected, in a row
+    QList<QPointer<QWidget>> m_busy;          ///< something is being done to these
+    QHash<const QWidget *, int> m_rejections; ///< how often a window was rejected; keys may be gone
     bool m_isAwake = false;
     bool m_hasGivenUp = false;
 };

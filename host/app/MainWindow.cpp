@@ -104,8 +104,14 @@ MainWindow::MainWindow(const WorkbenchOptions &options)
 MainWindow::~MainWindow()
 {
     m_workbench->session().setFeeder(nullptr);
-    // The canvases look at drawings that go with the workbench, and are removed by its signals.
-    m_workbench.reset();
+    // Closing documents tells of changes that nobody is left to show.
+    disconnect(&m_workbench->documents(), nullptr, this, nullptr);
+    disconnect(m_tabs, nullptr, this, nullptr);
+    for (const auto &open : m_workbench->documents().documents())
+        open->disconnect(this);
+    // The canvases look at drawings that go with the workbench.
+    while (m_tabs->count() > 0)
+        delete m_tabs->widget(0);
 }
 
 void MainWindow::buildStatusBar()

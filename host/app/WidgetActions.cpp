@@ -32,6 +32,8 @@ QString tr(const char *text)
 QString nameOf(const QWidget &widget)
 {
     const QString name = widget.objectName();
+    if (name.startsWith("qt_"_L1) && widget.parentWidget())
+        return nameOf(*widget.parentWidget()); // a part of a widget that has the name
     return name.isEmpty() ? QString(QLatin1StringView(widget.metaObject()->className())) : name;
 }
 
@@ -118,7 +120,8 @@ QString setSpin(QAbstractSpinBox &box, QString value)
     box.setFocus();
     box.selectAll();
     edit->insert(value);
-    if (!box.hasAcceptableInput()) {
+    // What can never become a number of the range is refused while it is typed.
+    if (!edit->text().contains(value) || !box.hasAcceptableInput()) {
         const QString refused = tr("%1 does not take \"%2\"").arg(nameOf(box), value);
         edit->setText(before);
         return refused;

@@ -121,7 +121,14 @@ FoundWidget findWidget(QWidget &root, const QString &reference)
 
 bool isDialogNamed(const QWidget &dialog, const QString &name)
 {
-    return dialog.objectName().compare(name, Qt::CaseInsensitive) == 0 || dialog.inherits(name.toLatin1().constData());
+    if (dialog.objectName().compare(name, Qt::CaseInsensitive) == 0)
+        return true;
+    for (const QMetaObject *type = dialog.metaObject(); type; type = type->superClass()) {
+        const QString className = QLatin1StringView(type->className());
+        if (className == name || className.endsWith("::"_L1 + name))
+            return true;
+    }
+    return false;
 }
 
 QString plainCaption(QString text)

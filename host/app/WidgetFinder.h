@@ -23,7 +23,8 @@ struct FoundWidget
 /// Of several, a visible one goes before hidden ones. The error lists what there is.
 FoundWidget findWidget(QWidget &root, const QString &reference);
 
-/// Whether a dialog is what `name` says: its object name or the name of its class or of a class it is derived from.
+/// Whether a dialog is what `name` says: its object name, or the name of its class or of a class it is derived from,
+/// the namespace left out or not.
 bool isDialogNamed(const QWidget &dialog, const QString &name);
 
 /// Text of a button or action without its mnemonic and ellipsis.

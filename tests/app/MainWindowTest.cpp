@@ -1,0 +1,331 @@
+#include "host/app/MainWindow.h"
+
+#include "host/app/CommandLine.h"
+#include "host/app/DrawingCanvas.h"
+#include "platform/kernel/CKvUtils.h"
+#include "tests/app/AppFixture.h"
+#include "tests/support/ModalAnswers.h"
+#include "tests/support/QtTestPrinters.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QDropEvent>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMimeData>
+#include <QMouseEvent>
+#include <QTabWidget>
+#include <QTimer>
+
+#include <gtest/gtest.h>
+
+using namespace host::app;
+using namespace host::app::test;
+using namespace Qt::StringLiterals;
+
+namespace host::app {
+namespace {
+
+/// A window without module and tools but one, on the small drawing.
+struct MainWindowTest : testing::Test
+{
+    MainWindowTest()
+    {
+        EXPECT_TRUE(QDir(folder.path()).mkpath(u"tools"_s));
+        write(u"tools/sample.lsp"_s, ";;; menu: Sample tool | SAMPLETOOL | Prints\n"
+                                     "(defun c:sampletool () (princ \"sample tool\") (princ))\n");
+        drawing = write(u"small.dxf"_s, smallDrawing());
+        window = std::make_unique<MainWindow>(
+            WorkbenchOptions{.home = path(u"home"_s), .module = path(u"none.so"_s), .tools = path(u"tools"_s)});
+        window->show();
+        window->start({drawing});
+    }
+    ~MainWindowTest() override { applyStyle(Style::Light); }
+
+    QString path(const QString &name) const { return folder.filePath(name); }
+    QString write(const QString &name, const QByteArray &bytes)
+    {
+        QFile file(path(name));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(bytes);
+        return file.fileName();
+    }
+    QString history() { return window->commandLine().historyText(); }
+    QString lisp(const QString &text) { return window->document()->run(text).value; }
+    /// While the next lines run, once an event loop or the interpreter lets events through.
+    template <typename Body>
+    void meanwhile(Body body)
+    {
+        QTimer::singleShot(0, window.get(), body);
+    }
+    void key(int code)
+    {
+        QKeyEvent event(QEvent::KeyPress, code, Qt::NoModifier);
+        QCoreApplication::sendEvent(window->commandLine().input(), &event);
+    }
+    QPointF onScreen(double x, double y)
+    {
+        const kernel::ViewState &view = window->document()->view();
+        const QSize size = window->canvas()->size();
+        const double scale = size.height() / view.height;
+        return {size.width() / 2.0 + (x - view.centre.x) * scale, size.height() / 2.0 - (y - view.centre.y) * scale};
+    }
+    void mouse(QEvent::Type type, double x, double y, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+    {
+        QWidget &canvas = *window->canvas();
+        QMouseEvent event(type, onScreen(x, y), canvas.mapToGlobal(onScreen(x, y)), Qt::LeftButton, Qt::LeftButton,
+                          modifiers);
+        QCoreApplication::sendEvent(&canvas, &event);
+    }
+    void click(double x, double y, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+    {
+        mouse(QEvent::MouseButtonPress, x, y, modifiers);
+        mouse(QEvent::MouseButtonRelease, x, y, modifiers);
+    }
+
+    QTemporaryDir folder;
+    QString drawing;
+    std::unique_ptr<MainWindow> window;
+};
+
+TEST_F(MainWindowTest, WorksWithoutModuleAndSaysSo)
+{
+    EXPECT_TRUE(history().contains(u"none.so"_s)) << history().toStdString();
+    EXPECT_TRUE(history().contains(u"Tools with dialogs will not work."_s));
+    window->enter(u"SAMPLETOOL"_s);
+    EXPECT_TRUE(history().contains(u"sample tool"_s));
+}
+
+TEST_F(MainWindowTest, EveryTabHasALispEngineOfItsOwn)
+{
+    window->enter(u"(setq who \"first\")"_s);
+    window->workbench().documents().create();
+    ASSERT_EQ(window->tabs().count(), 2);
+    EXPECT_EQ(lisp(u"who"_s), u"nil"_s);
+    window->enter(u"(setq who \"second\")"_s);
+    window->tabs().setCurrentIndex(0);
+    EXPECT_EQ(lisp(u"who"_s), u"\"first\""_s);
+    EXPECT_TRUE(window->windowTitle().contains(u"small.dxf"_s));
+}
+
+TEST_F(MainWindowTest, ExpressionsMayComeInPieces)
+{
+    window->enter(u"(setq x"_s);
+    EXPECT_EQ(window->commandLine().prompt(), u"(_>"_s);
+    window->enter(u" (+ 1"_s);
+    window->enter(u"2)) (setq y 4)"_s);
+    EXPECT_EQ(lisp(u"(list x y)"_s), u"(3 4)"_s);
+    EXPECT_EQ(window->commandLine().prompt(), u"Command:"_s);
+    window->enter(u"(setq x (list \"("_s);
+    key(Qt::Key_Escape);
+    EXPECT_EQ(window->commandLine().prompt(), u"Command:"_s);
+    window->enter(u"(setq x 7)"_s);
+    EXPECT_EQ(lisp(u"x"_s), u"7"_s);
+}
+
+TEST_F(MainWindowTest, EnterRepeatsAndUnknownCommandsAreNamed)
+{
+    window->enter(u"(defun c:count () (setq n (1+ (cond (n) (0)))) (princ))"_s);
+    window->enter(u"COUNT"_s);
+    window->enter({});
+    window->enter({});
+    EXPECT_EQ(lisp(u"n"_s), u"3"_s);
+    window->enter(u"NOSUCHTHING"_s);
+    EXPECT_TRUE(history().contains(u"Unknown command \"NOSUCHTHING\"."_s));
+}
+
+TEST_F(MainWindowTest, PromptsAreAnsweredByLineAndCanvas)
+{
+    meanwhile([this] {
+        EXPECT_TRUE(window->commandLine().prompt().contains(u"Size"_s));
+        window->enter(u"12.5"_s);
+    });
+    window->enter(u"(setq size (getreal \"\\nSize: \"))"_s);
+    EXPECT_EQ(lisp(u"size"_s), u"12.5"_s);
+    meanwhile([this] { click(3.0, 7.0); });
+    window->enter(u"(setq p (getpoint \"\\nFrom: \"))"_s);
+    EXPECT_EQ(lisp(u"(equal p '(3.0 7.0 0.0) 0.1)"_s), u"T"_s);
+    meanwhile([this] { click(1.0, 0.0); });
+    window->enter(u"(setq e (cdr (assoc 5 (entget (car (entsel))))))"_s);
+    EXPECT_EQ(lisp(u"e"_s), u"\"2A\""_s);
+    meanwhile([this] {
+        click(10.5, 11.0);
+        click(-0.5, -0.5);
+        meanwhile([this] { window->enter({}); });
+    });
+    window->enter(u"(setq s (sslength (ssget)))"_s);
+    EXPECT_EQ(lisp(u"s"_s), u"3"_s);
+    EXPECT_EQ(window->commandLine().prompt(), u"Command:"_s);
+}
+
+TEST_F(MainWindowTest, EscCancelsPromptsAndStopsEndlessLoops)
+{
+    meanwhile([this] { key(Qt::Key_Escape); });
+    window->enter(u"(progn (getpoint \"From: \") (setq went-on T))"_s);
+    EXPECT_EQ(lisp(u"went-on"_s), u"nil"_s);
+    QElapsedTimer timer;
+    timer.start();
+    QTimer::singleShot(100, window.get(), [this] { key(Qt::Key_Escape); });
+    window->enter(u"(while T)"_s);
+    EXPECT_LT(timer.elapsed(), 5000);
+    window->enter(u"(setq alive T)"_s);
+    EXPECT_EQ(lisp(u"alive"_s), u"T"_s) << "an earlier Esc must not stop the next run";
+}
+
+TEST_F(MainWindowTest, NothingElseStartsWhileSomethingRuns)
+{
+    bool checked = false;
+    QTimer::singleShot(100, window.get(), [&] {
+        checked = true;
+        window->enter(u"(setq intruder T)"_s);
+        for (const QAction *action : window->findChildren<QAction *>())
+            if (action->text() == u"&New"_s || action->text() == u"&Sample tool"_s) {
+                EXPECT_FALSE(action->isEnabled()) << action->text().toStdString();
+            }
+        EXPECT_FALSE(window->close());
+        key(Qt::Key_Escape);
+    });
+    window->enter(u"(while T)"_s);
+    EXPECT_TRUE(checked);
+    EXPECT_EQ(lisp(u"intruder"_s), u"nil"_s);
+    EXPECT_TRUE(history().contains(u"A command is running; Esc stops it."_s));
+}
+
+TEST_F(MainWindowTest, PointerChoosesEntities)
+{
+    const auto chosen = [this] { return window->document()->impliedSelection().size(); };
+    click(1.0, 0.0);
+    EXPECT_EQ(chosen(), 1u);
+    click(1.0, 0.0, Qt::ShiftModifier);
+    EXPECT_EQ(chosen(), 0u);
+    mouse(QEvent::MouseButtonPress, -0.5, 8.0);
+    mouse(QEvent::MouseMove, 8.0, 2.0);
+    mouse(QEvent::MouseButtonRelease, 8.0, 2.0);
+    EXPECT_EQ(chosen(), 1u) << "to the right: the circle that lies within";
+    click(10.5, 11.0);
+    click(8.0, -0.5);
+    EXPECT_EQ(chosen(), 3u) << "to the left: the lines that are crossed as well";
+    key(Qt::Key_Escape);
+    EXPECT_EQ(chosen(), 0u);
+}
+
+TEST_F(MainWindowTest, ChangesAreMarkedAndAskedFor)
+{
+    ortakit::test::ModalAnswers user;
+    EXPECT_FALSE(window->isWindowModified());
+    window->enter(u"(entdel (handent \"2A\"))"_s);
+    EXPECT_TRUE(window->isWindowModified());
+    EXPECT_EQ(window->tabs().tabText(0), u"small.dxf*"_s);
+    user.press(QMessageBox::Cancel);
+    EXPECT_FALSE(window->close());
+    window->enter(u"_U"_s);
+    EXPECT_FALSE(window->isWindowModified());
+    window->enter(u"(entdel (handent \"2A\"))"_s);
+    user.press(QMessageBox::Yes);
+    EXPECT_TRUE(window->close());
+    EXPECT_EQ(window->tabs().count(), 0);
+    ASSERT_EQ(user.shown().size(), 2);
+    EXPECT_TRUE(user.shown()[0].contains(u"small.dxf was changed. Save it?"_s)) << user.shown()[0].toStdString();
+    QFile file(drawing);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_EQ(file.readAll().count("\nLINE\n"), 1);
+}
+
+TEST_F(MainWindowTest, DroppedFilesOpen)
+{
+    QMimeData data;
+    data.setUrls({QUrl::fromLocalFile(write(u"other.dxf"_s, smallDrawing())),
+                  QUrl::fromLocalFile(write(u"extra.lsp"_s, "(setq extra T)"))});
+    QDragEnterEvent enter(QPoint(10, 10), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(window.get(), &enter);
+    EXPECT_TRUE(enter.isAccepted());
+    QDropEvent event(QPointF(10, 10), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(window.get(), &event);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(window->tabs().count(), 2);
+    EXPECT_EQ(lisp(u"extra"_s), u"T"_s);
+    ortakit::test::ModalAnswers user;
+    user.press(QMessageBox::Ok);
+    window->start({write(u"broken.dxf"_s, "0\nSECTION\n2\nENT")});
+    ASSERT_EQ(user.shown().size(), 1);
+    EXPECT_TRUE(user.shown()[0].contains(u"broken.dxf"_s));
+    EXPECT_EQ(window->tabs().count(), 2);
+}
+
+TEST_F(MainWindowTest, StyleChangesAllAndIsKnownToThePlatform)
+{
+    window->setStyleOfWindows(Style::Dark);
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(CKvUtils::isDarkStyle());
+    EXPECT_LT(window->commandLine().palette().color(QPalette::Base).lightness(), 128);
+    EXPECT_GT(window->commandLine().palette().color(QPalette::Text).lightness(), 128);
+    window->setStyleOfWindows(Style::Light);
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(CKvUtils::isDarkStyle());
+    EXPECT_GT(window->commandLine().palette().color(QPalette::Base).lightness(), 128);
+}
+
+/// The mnemonics of a menu and those below it, each menu by itself.
+void checkMenu(const QList<QAction *> &actions, const QString &name)
+{
+    QSet<QChar> letters;
+    for (QAction *action : actions) {
+        if (const qsizetype place = action->text().indexOf(u'&'); place >= 0) {
+            const QChar letter = action->text()[place + 1].toLower();
+            EXPECT_FALSE(letters.contains(letter)) << name.toStdString() << ": " << action->text().toStdString();
+            letters.insert(letter);
+        } else {
+            EXPECT_TRUE(action->isSeparator() || !action->isEnabled()) << action->text().toStdString();
+        }
+        if (action->menu())
+            checkMenu(action->menu()->actions(), action->text());
+    }
+}
+
+TEST_F(MainWindowTest, MnemonicsAndShortcutsDoNotClash)
+{
+    checkMenu(window->menuBar()->actions(), u"menu bar"_s);
+    QMap<QKeySequence, QString> shortcuts;
+    for (const QAction *action : window->findChildren<QAction *>()) {
+        if (action->shortcut().isEmpty())
+            continue;
+        EXPECT_FALSE(shortcuts.contains(action->shortcut()))
+            << action->text().toStdString() << " and " << shortcuts.value(action->shortcut()).toStdString();
+        shortcuts.insert(action->shortcut(), action->text());
+    }
+    EXPECT_GT(shortcuts.size(), 8);
+}
+
+TEST_F(MainWindowTest, UndoKeyMeansTheDrawingWhileNothingIsWritten)
+{
+    window->enter(u"(entdel (handent \"2A\"))"_s);
+    const auto overridden = [this] {
+        QKeyEvent event(QEvent::ShortcutOverride, Qt::Key_Z, Qt::ControlModifier, u"\x1a"_s);
+        event.ignore();
+        QCoreApplication::sendEvent(window->commandLine().input(), &event);
+        return event.isAccepted();
+    };
+    EXPECT_FALSE(overridden());
+    window->commandLine().input()->setText(u"text"_s);
+    EXPECT_TRUE(overridden());
+}
+
+TEST_F(MainWindowTest, WheelKeepsWhatIsUnderThePointer)
+{
+    const QPointF at = onScreen(2.0, 3.0);
+    QWidget &canvas = *window->canvas();
+    QWheelEvent event(at, canvas.mapToGlobal(at), {}, {0, 240}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+    const double before = window->document()->view().height;
+    QCoreApplication::sendEvent(&canvas, &event);
+    EXPECT_LT(window->document()->view().height, before);
+    EXPECT_NEAR(onScreen(2.0, 3.0).x(), at.x(), 1e-6);
+    EXPECT_NEAR(onScreen(2.0, 3.0).y(), at.y(), 1e-6);
+}
+
+} // namespace
+} // namespace host::app

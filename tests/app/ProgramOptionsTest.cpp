@@ -1,0 +1,114 @@
+#include "host/app/ProgramOptions.h"
+
+#include "host/app/Mnemonics.h"
+#include "host/app/ToolIndex.h"
+#include "tests/support/QtTestPrinters.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+using namespace host::app;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+TEST(ProgramOptions, RefusesWhatMakesNoSense)
+{
+    struct Row
+    {
+        QString arguments;
+        QString error;
+    };
+    const QList<Row> rows = {
+        {u"--wide"_s, u"there is no option --wide"_s},
+        {u"-x"_s, u"there is no option -x"_s},
+        {u"--style"_s, u"--style needs a value"_s},
+        {u"--style="_s, u"--style needs a value"_s},
+        {u"--style blue"_s, u"--style is light or dark, not \"blue\""_s},
+        {u"--png"_s, u"--png has no meaning here"_s},
+        {u"--out there plan.dxf"_s, u"--out has no meaning here"_s},
+        {u"run"_s, u"run needs a session and at least one drawing"_s},
+        {u"run session.txt"_s, u"run needs a session and at least one drawing"_s},
+        {u"run s d --png=yes"_s, u"--png takes no value"_s},
+        {u"run s d --drawing x"_s, u"--drawing has no meaning here"_s},
+        {u"run s d --time-limit 0"_s, u"--time-limit takes seconds up to a day, not \"0\""_s},
+        {u"run s d --time-limit nan"_s, u"--time-limit takes seconds up to a day, not \"nan\""_s},
+        {u"run s d --time-limit 1e99"_s, u"--time-limit takes seconds up to a day, not \"1e99\""_s},
+        {u"lisp"_s, u"lisp needs at least one file"_s},
+        {u"convert a.dxf"_s, u"convert needs two files"_s},
+        {u"convert a b c"_s, u"convert needs two files"_s},
+    };
+    for (const Row &row : rows)
+        EXPECT_EQ(parseArguments(row.arguments.split(u' ')).error, row.error) << row.arguments.toStdString();
+}
+
+TEST(ProgramOptions, UnderstandsEachUse)
+{
+    const auto parse = [](const char *arguments) {
+        return parseArguments(QString::fromLatin1(arguments).split(u' ', Qt::SkipEmptyParts));
+    };
+    EXPECT_EQ(parse("").mode, Mode::Window);
+    EXPECT_EQ(parse("a.dxf b.dxf --style dark").drawings, QStringList({u"a.dxf"_s, u"b.dxf"_s}));
+    EXPECT_EQ(parse("a.dxf --style dark").style, Style::Dark);
+    EXPECT_EQ(parse("./run").drawings, QStringList({u"./run"_s}));
+    EXPECT_EQ(parse("-- --odd.dxf").drawings, QStringList({u"--odd.dxf"_s}));
+    const ProgramOptions run = parse("run --out=o=1 s.txt a.dxf --png b.dxf --time-limit 0.5");
+    EXPECT_EQ(run.error, QString());
+    EXPECT_EQ(run.session, u"s.txt"_s);
+    EXPECT_EQ(run.drawings, QStringList({u"a.dxf"_s, u"b.dxf"_s}));
+    EXPECT_EQ(run.outFolder, u"o=1"_s);
+    EXPECT_TRUE(run.withPictures);
+    EXPECT_EQ(run.timeLimit.count(), 500);
+    EXPECT_EQ(parse("lisp a.lsp - --drawing d.dxf").lispFiles, QStringList({u"a.lsp"_s, u"-"_s}));
+    EXPECT_EQ(parse("run --help --nonsense").mode, Mode::Help);
+    EXPECT_EQ(parse("run --help").helpFor, Mode::Run);
+    EXPECT_EQ(parse("--version").mode, Mode::Version);
+    EXPECT_FALSE(parse("a.dxf").isUnattended());
+    EXPECT_TRUE(parse("a.dxf --screenshot-dir d").isUnattended());
+}
+
+TEST(Mnemonics, NeverGivesALetterTwice)
+{
+    struct Row
+    {
+        QStringList captions;
+        QStringList expected;
+    };
+    const QList<Row> rows = {
+        {{u"Break line"_s, u"Block info"_s}, {u"&Break line"_s, u"Block &info"_s}},
+        {{u"Aa"_s, u"aa"_s, u"A"_s}, {u"&Aa"_s, u"aa"_s, u"A"_s}},
+        {{u"Save"_s, u"&Send"_s}, {u"S&ave"_s, u"&Send"_s}},
+        {{u"R&&D"_s, u"Redo"_s}, {u"&R&&D"_s, u"R&edo"_s}},
+        {{QString(), u"…"_s}, {QString(), u"…"_s}},
+    };
+    for (const Row &row : rows)
+        EXPECT_EQ(withMnemonics(row.captions), row.expected);
+}
+
+TEST(ToolIndex, ListsToolsByTheirMenuLine)
+{
+    const QTemporaryDir folder;
+    const auto write = [&](const char *name, const QByteArray &text) {
+        QFile file(folder.filePath(QString::fromLatin1(name)));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(text);
+    };
+    write("ortakit.lsp", ";;; The support library.\n");
+    write("zigzag.lsp", ";;; menu: Zigzag | zigzag | Draws a zigzag\n(defun c:zigzag ())\n");
+    write("b.lsp", "\xef\xbb\xbf;; menu:  After the mark|B\n");
+    write("plain.lsp", "(princ \"menu: No | NO | in a string\")\n; see menu: x | y\n");
+    write("half.lsp", ";;; menu: Only a caption\n");
+    write("notes.txt", ";;; menu: Notes | NOTES | not Lisp\n");
+    const ToolIndex index = readTools(folder.path());
+    QStringList shown;
+    for (const ToolEntry &entry : index.entries)
+        shown.append(entry.caption + u'=' + entry.command + u'=' + entry.tip);
+    EXPECT_EQ(shown, QStringList({u"After the mark=B="_s, u"Zigzag=ZIGZAG=Draws a zigzag"_s}));
+    ASSERT_EQ(index.files.size(), 5);
+    EXPECT_TRUE(index.files[0].endsWith(u"ortakit.lsp"_s));
+    EXPECT_TRUE(readTools(folder.filePath(u"none"_s)).folder.isEmpty());
+}
+
+} // namespace

@@ -1,0 +1,177 @@
+#include "tests/app/AppFixture.h"
+#include "tests/support/QtTestPrinters.h"
+
+#include <QDir>
+#include <QFile>
+#include <QImage>
+#include <QProcess>
+
+#include <gtest/gtest.h>
+
+using namespace host::app::test;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct Ended
+{
+    int status = -1;
+    QString output;
+    QString messages;
+};
+
+/// The built program in a folder of its own.
+struct ProgramTest : testing::Test
+{
+    ProgramTest()
+    {
+        write(u"a.dxf"_s, smallDrawing());
+        write(u"b.dxf"_s, smallDrawing());
+        write(u"broken.dxf"_s, "0\nSECTION\n2\nENT");
+        write(u"erase.txt"_s, "lisp (entdel (handent \"2A\"))\nexpect-count LINE 1\n");
+        write(u"fails.txt"_s, "expect-count LINE 7\n");
+        write(u"asks.txt"_s, "lisp (getpoint \"Where: \")\n");
+        write(u"bad.txt"_s, "enter\nnonsense\n");
+        write(u"good.lsp"_s, "(princ (strcat \"sum \" (itoa (+ 1 2)) \" größe\\n\"))(princ)\n");
+        write(u"error.lsp"_s, "(princ \"before\")\n(car 5)\n");
+        write(u"asks.lsp"_s, "(princ (getint \"How many: \"))\n(princ \"went on\")\n");
+        EXPECT_TRUE(QDir(folder.path()).mkpath(u"tools"_s));
+    }
+
+    void write(const QString &name, const QByteArray &bytes)
+    {
+        QFile file(folder.filePath(name));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(bytes);
+    }
+    QByteArray read(const QString &name)
+    {
+        QFile file(folder.filePath(name));
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << name.toStdString();
+        return file.readAll();
+    }
+
+    Ended run(const QString &arguments, const QByteArray &input = {})
+    {
+        QProcess process;
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        for (const char *name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM", "ORTAKIT_MODULE", "ORTAKIT_TOOLS"})
+            environment.remove(QString::fromLatin1(name));
+        environment.insert(u"ORTAKIT_HOME"_s, folder.filePath(u"home"_s));
+        environment.insert(u"ORTAKIT_TOOLS"_s, folder.filePath(u"tools"_s));
+        process.setProcessEnvironment(environment);
+        process.setWorkingDirectory(folder.path());
+        process.start(qEnvironmentVariable("ORTAKIT_BUILD") + u"/bin/ortakit"_s,
+                      arguments.split(u' ', Qt::SkipEmptyParts));
+        process.write(input);
+        process.closeWriteChannel();
+        EXPECT_TRUE(process.waitForFinished(60'000)) << arguments.toStdString();
+        return {process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1,
+                QString::fromUtf8(process.readAllStandardOutput()), QString::fromUtf8(process.readAllStandardError())};
+    }
+
+    QTemporaryDir folder;
+};
+
+TEST_F(ProgramTest, EndsWithTheStatusItsManualNames)
+{
+    struct Row
+    {
+        QString arguments;
+        int status;
+        QString output;
+        QString message;
+    };
+    const QList<Row> rows = {
+        {u"--version"_s, 0, u"ortakit "_s, {}},
+        {u"--help"_s, 0, u"Exit status: 0 done"_s, {}},
+        {u"run --help"_s, 0, u"Usage: ortakit run"_s, {}},
+        {u"lisp good.lsp"_s, 0, u"sum 3 größe\n"_s, {}},
+        {u"lisp good.lsp --drawing a.dxf"_s, 0, u"sum 3"_s, {}},
+        {u"convert a.dxf copy.dxf"_s, 0, {}, {}},
+        {u"convert a.dxf picture.png"_s, 0, {}, {}},
+        {u"convert a.dxf picture.svg"_s, 0, {}, {}},
+        {u"convert a.dxf picture.pdf"_s, 0, {}, {}},
+        {u"run erase.txt a.dxf b.dxf --out out --png"_s, 0, u"a.dxf: done, out/a.dxf, out/a.png\n"_s, {}},
+
+        {u"lisp error.lsp"_s, 1, u"before"_s, u"error.lsp"_s},
+        {u"lisp asks.lsp"_s, 1, {}, u"asks.lsp"_s},
+        {u"run fails.txt a.dxf"_s, 1, u"a.dxf: failed\n"_s, u"line 1 (expect-count LINE 7): there are 2"_s},
+        {u"run asks.txt a.dxf"_s, 1, u"a.dxf: failed\n"_s, u"the prompt \"Where:\" is open"_s},
+        {u"run bad.txt a.dxf"_s, 1, {}, u"bad.txt:2: unknown word \"nonsense\""_s},
+        {u"run fails.txt a.dxf b.dxf"_s, 1, u"b.dxf: failed\n"_s, {}},
+
+        {u"--nonsense"_s, 2, {}, u"there is no option --nonsense"_s},
+        {u"run erase.txt"_s, 2, {}, u"at least one drawing"_s},
+        {u"convert a.dxf a.txt"_s, 2, {}, u"the extension must be dxf, png, svg, pdf"_s},
+        {u"run erase.txt a.dxf ./a.dxf --out out"_s, 2, {}, u"the same name"_s},
+        {u"a.dxf"_s, 2, {}, u"there is no display"_s},
+
+        {u"run erase.txt a.dxf broken.dxf"_s, 3, u"broken.dxf: not read\n"_s, u"broken.dxf"_s},
+
+        {u"lisp none.lsp"_s, 4, {}, u"none.lsp"_s},
+        {u"lisp good.lsp --drawing none.dxf"_s, 4, {}, u"none.dxf"_s},
+        {u"run none.txt a.dxf"_s, 4, {}, u"none.txt"_s},
+        {u"run erase.txt none.dxf broken.dxf"_s, 4, u"none.dxf: not read\n"_s, {}},
+        {u"run erase.txt a.dxf --out a.dxf/out"_s, 4, {}, u"a.dxf/out"_s},
+        {u"convert none.dxf copy.dxf"_s, 4, {}, u"none.dxf"_s},
+        {u"convert a.dxf none/copy.dxf"_s, 4, {}, u"none/copy.dxf"_s},
+        {u"convert a.dxf none/copy.png"_s, 4, {}, u"none/copy.png"_s},
+    };
+    for (const Row &row : rows) {
+        const Ended ended = run(row.arguments);
+        const std::string name = row.arguments.toStdString();
+        EXPECT_EQ(ended.status, row.status) << name << '\n' << ended.messages.toStdString();
+        EXPECT_TRUE(ended.output.contains(row.output)) << name << '\n' << ended.output.toStdString();
+        EXPECT_TRUE(ended.messages.contains(row.message)) << name << '\n' << ended.messages.toStdString();
+    }
+}
+
+TEST_F(ProgramTest, BatchWritesCopiesAndLeavesTheDrawingsAlone)
+{
+    ASSERT_EQ(run(u"run erase.txt a.dxf b.dxf --out out --png"_s).status, 0);
+    EXPECT_EQ(read(u"a.dxf"_s), smallDrawing());
+    EXPECT_EQ(read(u"out/b.dxf"_s).count("\nLINE\n"), 1);
+    EXPECT_FALSE(QImage(folder.filePath(u"out/a.png"_s)).isNull());
+    write(u"looks.txt"_s, "expect-count LINE 2\n");
+    ASSERT_EQ(run(u"run looks.txt a.dxf --out unchanged"_s).status, 0);
+    EXPECT_FALSE(QFile::exists(folder.filePath(u"unchanged/a.dxf"_s))) << "nothing was changed";
+}
+
+TEST_F(ProgramTest, ConvertsWithoutChangingAByteAndDrawsPictures)
+{
+    ASSERT_EQ(run(u"convert a.dxf copy.dxf"_s).status, 0);
+    EXPECT_EQ(read(u"copy.dxf"_s), smallDrawing());
+    ASSERT_EQ(run(u"convert a.dxf p.png"_s).status, 0);
+    EXPECT_FALSE(QImage(folder.filePath(u"p.png"_s)).isNull());
+    ASSERT_EQ(run(u"convert a.dxf p.pdf"_s).status, 0);
+    EXPECT_TRUE(read(u"p.pdf"_s).startsWith("%PDF"));
+    ASSERT_EQ(run(u"convert a.dxf p.svg"_s).status, 0);
+    EXPECT_TRUE(read(u"p.svg"_s).contains("<svg"));
+}
+
+TEST_F(ProgramTest, ReadsExpressionsFromStandardInput)
+{
+    const Ended ended = run(u"lisp -"_s, "(princ (* 6 7))");
+    EXPECT_EQ(ended.status, 0);
+    EXPECT_EQ(ended.output, u"42"_s);
+}
+
+TEST_F(ProgramTest, TellsOfAMissingModuleOnStandardErrorOnly)
+{
+    const Ended ended = run(u"lisp good.lsp --module none.so"_s);
+    EXPECT_EQ(ended.status, 0);
+    EXPECT_EQ(ended.output, u"sum 3 größe\n"_s);
+    EXPECT_TRUE(ended.messages.contains(u"none.so"_s));
+    EXPECT_TRUE(ended.messages.contains(u"Tools with dialogs will not work."_s));
+}
+
+TEST_F(ProgramTest, DrawsItsWindowWithoutADisplay)
+{
+    ASSERT_EQ(run(u"a.dxf --style dark --screenshot-dir pictures"_s).status, 0);
+    const QImage picture(folder.filePath(u"pictures/window.png"_s));
+    ASSERT_FALSE(picture.isNull());
+    EXPECT_LT(picture.pixelColor(picture.width() - 5, 5).lightness(), 128);
+}
+
+} // namespace

@@ -1,0 +1,211 @@
+#include "host/app/SessionPlayer.h"
+
+#include "tests/app/AppFixture.h"
+#include "tests/app/SampleBox.h"
+#include "tests/support/QtTestPrinters.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QFileInfo>
+#include <QImage>
+
+#include <gtest/gtest.h>
+
+using namespace host::app;
+using namespace host::app::test;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct SessionPlayerTest : testing::Test, HostFixture
+{
+    PlaybackOptions options()
+    {
+        PlaybackOptions options;
+        options.outFolder = folder.path();
+        options.timeLimit = std::chrono::seconds(20);
+        return options;
+    }
+    PlaybackResult play(const QString &text) { return runSession(text, *document, options()); }
+
+    /// What a failed session must leave behind.
+    void expectCleanedUp(const char *name)
+    {
+        EXPECT_EQ(SampleBox::count(), 0) << name;
+        EXPECT_EQ(QApplication::activeModalWidget(), nullptr) << name;
+        EXPECT_FALSE(document->isBusy()) << name;
+        EXPECT_TRUE(document->run(u"(= 1 1)"_s).ok) << name;
+    }
+};
+
+struct Row
+{
+    const char *name;
+    QString session;
+};
+
+TEST_F(SessionPlayerTest, PlaysWhatHappens)
+{
+    const QList<Row> rows = {
+        {"expression", u"lisp (setq x 1)\nexpect-lisp (= x 1)"_s},
+        {"number at a prompt", u"lisp (setq x (getreal \"Size: \"))\nanswer 12.5\nexpect-lisp (= x 12.5)"_s},
+        {"default", u"lisp (setq x (getint \"Count <3>: \"))\nenter\nexpect-lisp (null x)"_s},
+        {"point", u"lisp (setq p (getpoint \"From: \"))\npoint 1,2\nexpect-lisp (equal p '(1.0 2.0 0.0))"_s},
+        {"picked point", u"lisp (setq p (getpoint \"From: \"))\npick 3,4\nexpect-lisp (equal p '(3.0 4.0 0.0))"_s},
+        {"text with blanks",
+         u"lisp (setq s (getstring T \"Text: \"))\nanswer two words\nexpect-lisp (= s \"two words\")"_s},
+        {"picked entity", u"lisp (setq e (entsel))\npickhandle 2B\nexpect-lisp (= (car e) (handent \"2B\"))"_s},
+        {"selection", u"lisp (setq s (ssget))\nselect 2A 2C\nselect 2B\nenter\nexpect-lisp (= (sslength s) 3)"_s},
+        {"all", u"lisp (setq s (ssget))\nselect all\nenter\nexpect-lisp (= (sslength s) 3)"_s},
+        {"window takes what is within",
+         u"lisp (setq s (ssget))\nwindow 11,6 -1,-1\nenter\nexpect-lisp (= (sslength s) 1)"_s},
+        {"crossing takes what it touches",
+         u"lisp (setq s (ssget))\ncrossing -1,-1 11,6\nenter\nexpect-lisp (= (sslength s) 2)"_s},
+        {"cancelled prompt", u"lisp (getpoint \"From: \")\ncancel"_s},
+        {"error that is expected", u"lisp (car 5)\nexpect-error bad argument type"_s},
+        {"printed",
+         u"lisp (princ \"earlier\")\nlisp (princ \"one\\n  two\")\nexpect-printed one two\nexpect-modified no"_s},
+        {"dialog", u"lisp (setq r (samplebox))\ndialog SampleBox\n expect-title Sample\n set _dist_size 2.5\n"
+                   "expect _dist_size 2.5\n type name zigzag\n click accept\n"
+                   "expect-lisp (and r (= entered \"zigzag\"))"_s},
+        {"dialog by base class", u"lisp (samplebox)\ndialog QDialog\nclose"_s},
+        {"message while a click is under way",
+         u"lisp (setq r (samplebox))\ndialog SampleBox\nclick accept\nmessage \"can`t be empty\" Ok\n"
+         "set name old\nclick accept\nmessage Replace No\nclick accept\nmessage Replace Yes\nexpect-lisp r"_s},
+        {"message in front of a message",
+         u"lisp (samplebox)\ndialog SampleBox\nclick again\nmessage Really Yes\nmessage sure ok\nclose"_s},
+        {"message closed", u"lisp (samplebox)\ndialog SampleBox\nclick again\nmessage Really close\nclose"_s},
+        {"message behind the click", u"lisp (samplebox)\ndialog SampleBox\nclick late\nmessage Really No\nclose"_s},
+        {"file", u"lisp (samplebox)\ndialog SampleBox\nclick browse\nfile ${OUT}/made.txt\nclick accept\n"
+                 "expect-lisp (wcmatch entered \"*/made.txt\")"_s},
+        {"file that exists asks back",
+         u"lisp (samplebox)\ndialog SampleBox\nclick browse\nfile ${DRAWING}\nmessage \"already exists\" Yes\n"
+         "expect name ${DRAWING}\nclose"_s},
+        {"file cancelled", u"lisp (samplebox)\ndialog SampleBox\nclick browse\nfile cancel\nclose"_s},
+        {"menu", u"lisp (samplebox)\ndialog SampleBox\nclick more\nmenu Second\nexpect name Second...\nclose"_s},
+        {"dialog that comes back",
+         u"lisp (progn (samplebox) (getint \"Between: \") (samplebox))\ndialog SampleBox\nclose\nanswer 1\n"
+         "dialog SampleBox\nclose"_s},
+        {"alert", u"lisp (alert \"Nothing found\")\nmessage Nothing Ok"_s},
+        {"change, undo, redo",
+         u"lisp (entdel (handent \"2A\"))\nexpect-count LINE 1\nexpect-modified yes\nundo\nexpect-count line 2\n"
+         "redo\nexpect-count * 2\nundo"_s},
+    };
+    for (const Row &row : rows) {
+        const PlaybackResult result = play(row.session);
+        EXPECT_TRUE(result.ok) << row.name << ": " << result.message.toStdString() << '\n'
+                               << result.printed.toStdString();
+        expectCleanedUp(row.name);
+    }
+}
+
+TEST_F(SessionPlayerTest, FailsOnWhatItDoesNotExpect)
+{
+    struct Failure
+    {
+        const char *name;
+        QString session;
+        int line;
+        QString message;
+    };
+    const QList<Failure> rows = {
+        {"bad line", u"\nnonsense"_s, 2, u"unknown word \"nonsense\""_s},
+        {"unknown variable", u"enter\nanswer ${NOBODY}"_s, 2, u"${NOBODY} is not known"_s},
+        {"nothing is open", u"answer 5"_s, 1, u"no prompt and no dialog is open"_s},
+        {"left over when the run ended", u"lisp (getint \"N: \")\nanswer 1\nanswer 2"_s, 3,
+         u"no prompt and no dialog is open"_s},
+        {"left over dialog line", u"lisp (samplebox)\ndialog SampleBox\nclose\nset name x"_s, 4,
+         u"no prompt and no dialog is open"_s},
+        {"prompt nobody answers", u"lisp (getint \"How many: \")"_s, 1,
+         u"the session ends while the prompt \"How many:\" is open"_s},
+        {"dialog nobody answers", u"lisp (samplebox)"_s, 1,
+         u"the session ends while dialog host::app::test::SampleBox \"Sample\" is open"_s},
+        {"dialog instead of a prompt", u"lisp (samplebox)\nanswer 5"_s, 2,
+         u"dialog host::app::test::SampleBox \"Sample\" is open"_s},
+        {"prompt instead of a dialog", u"lisp (getint \"How many: \")\ndialog SampleBox"_s, 2,
+         u"the prompt \"How many:\" is open"_s},
+        {"other dialog", u"lisp (samplebox)\ndialog OtherBox"_s, 2, u"dialog host::app::test::SampleBox"_s},
+        {"unexpected message", u"lisp (samplebox)\ndialog SampleBox\nclick accept\nset name x"_s, 4,
+         u"dialog QMessageBox saying \"Filename can`t be empty\" is open"_s},
+        {"other message", u"lisp (samplebox)\ndialog SampleBox\nclick accept\nmessage Replace Yes"_s, 4,
+         u"saying \"Filename can`t be empty\""_s},
+        {"button that is not there", u"lisp (samplebox)\ndialog SampleBox\nclick accept\nmessage empty Maybe"_s, 4,
+         u"has no button \"Maybe\""_s},
+        {"message that does not come", u"lisp (samplebox)\ndialog SampleBox\nmessage empty Ok"_s, 3,
+         u"dialog host::app::test::SampleBox \"Sample\" is still open"_s},
+        {"nested messages left open", u"lisp (samplebox)\ndialog SampleBox\nclick again\nmessage Really Yes"_s, 4,
+         u"the session ends while dialog QMessageBox \"Inner\" saying \"Are you sure?\" is open"_s},
+        {"dialog that will not close", u"lisp (stubbornbox)\ndialog SampleBox"_s, 2, u"the session ends while"_s},
+        {"menu entry that is off", u"lisp (samplebox)\ndialog SampleBox\nclick more\nmenu Off"_s, 4,
+         u"the menu's entry \"Off\" is disabled"_s},
+        {"menu nobody answers", u"lisp (samplebox)\ndialog SampleBox\nclick more"_s, 3, u"the session ends while"_s},
+        {"widget that is not there", u"lisp (samplebox)\ndialog SampleBox\nset size 1"_s, 3,
+         u"has no widget \"size\"; it has name, _dist_size"_s},
+        {"value that is refused", u"lisp (samplebox)\ndialog SampleBox\nset _dist_size 1000"_s, 3,
+         u"_dist_size does not take \"1000\""_s},
+        {"other value", u"lisp (samplebox)\ndialog SampleBox\nexpect _dist_size 3"_s, 3, u"it shows \"0.00\""_s},
+        {"error", u"lisp (car 5)"_s, 1, u"the run ended with \"bad argument type"_s},
+        {"other error", u"lisp (car 5)\nexpect-error division"_s, 2, u"the error is \"bad argument type"_s},
+        {"error that does not come", u"lisp (car nil)\nexpect-error bad"_s, 2, u"ended without an error"_s},
+        {"unknown command", u"command NOSUCHTHING"_s, 1, u"Unknown command \"NOSUCHTHING\""_s},
+        {"nil", u"expect-lisp (= 1 2)"_s, 1, u"it is nil"_s},
+        {"count", u"expect-count LINE 3"_s, 1, u"there are 2"_s},
+        {"unchanged", u"expect-modified yes"_s, 1, u"the drawing is unchanged"_s},
+        {"printed before", u"lisp (princ \"one\")\nlisp (princ \"two\")\nexpect-printed one"_s, 3,
+         u"what was printed is \"two\""_s},
+        {"no such entity", u"lisp (entsel)\npickhandle FFF"_s, 2, u"no entity with the handle FFF"_s},
+        {"nothing to undo", u"undo"_s, 1, u"there is nothing to undo"_s},
+    };
+    for (const Failure &row : rows) {
+        const PlaybackResult result = play(row.session);
+        EXPECT_FALSE(result.ok) << row.name;
+        EXPECT_EQ(result.line, row.line) << row.name << ": " << result.message.toStdString();
+        EXPECT_TRUE(result.message.contains(row.message)) << row.name << ": " << result.message.toStdString();
+        expectCleanedUp(row.name);
+    }
+}
+
+TEST_F(SessionPlayerTest, NeverOutlastsItsTimeLimit)
+{
+    const QList<Row> rows = {
+        {"endless loop", u"lisp (while T)"_s},
+        {"loop that catches its errors", u"lisp (while T (vl-catch-all-apply 'car '(5)))"_s},
+        {"loop over a dialog", u"lisp (while T (samplebox))\ndialog SampleBox\nclose"_s},
+    };
+    for (const Row &row : rows) {
+        PlaybackOptions short_ = options();
+        short_.timeLimit = std::chrono::milliseconds(400);
+        QElapsedTimer timer;
+        timer.start();
+        const PlaybackResult result = runSession(row.session, *document, short_);
+        EXPECT_FALSE(result.ok) << row.name;
+        EXPECT_LT(timer.elapsed(), 10'000) << row.name;
+        expectCleanedUp(row.name);
+    }
+}
+
+TEST_F(SessionPlayerTest, WritesDrawingsAndPictures)
+{
+    const PlaybackResult result = play(u"lisp (entdel (handent \"2A\"))\nsave changed.dxf\nexpect-modified no\n"
+                                       "screenshot all.png\nlisp (samplebox)\ndialog SampleBox\n"
+                                       "screenshot box.png\nclose"_s);
+    ASSERT_TRUE(result.ok) << result.message.toStdString();
+    EXPECT_EQ(result.files, QStringList({path(u"changed.dxf"_s), path(u"all.png"_s), path(u"box.png"_s)}));
+    EXPECT_FALSE(QImage(path(u"all.png"_s)).isNull());
+    EXPECT_LT(QImage(path(u"box.png"_s)).width(), QImage(path(u"all.png"_s)).width());
+    const host::kernel::OpenOutcome again = session.documents().open(path(u"small.dxf"_s));
+    ASSERT_TRUE(again) << again.error.toStdString();
+    EXPECT_TRUE(runSession(u"expect-count LINE 2"_s, *again.document, options()).ok);
+}
+
+TEST_F(SessionPlayerTest, SaysWhenAFileCannotBeWritten)
+{
+    PlaybackOptions none;
+    EXPECT_TRUE(runSession(u"screenshot a.png"_s, *document, none).message.contains(u"no folder was given"_s));
+    none.outFolder = path(u"missing"_s);
+    EXPECT_TRUE(runSession(u"save a.dxf"_s, *document, none).message.contains(u"missing"_s));
+    EXPECT_TRUE(runSession(u"screenshot a.png"_s, *document, none).message.contains(u"missing"_s));
+    EXPECT_TRUE(play(u"save a.dwg"_s).message.contains(u"a.dwg"_s));
+}
+
+} // namespace
