@@ -1,5 +1,5 @@
-#include "host/view/DisplayBuilder.h"
-#include "host/view/MTextLayout.h"
+#include "host/view/BuildMText.h"
+
 #include "host/view/TextLook.h"
 
 #include <numbers>
@@ -74,7 +74,7 @@ Matrix glyphMatrix(const MTextRun &run)
             {run.x, run.y, 0.0}};
 }
 
-MTextBox readBox(const TagList &tags, const TextLook &look, qint64 column)
+MTextBox readBox(const TagList &tags)
 {
     MTextBox box;
     const double width = tags.real(41);
@@ -82,29 +82,21 @@ MTextBox readBox(const TagList &tags, const TextLook &look, qint64 column)
     const double spacing = tags.real(44, 1.0);
     box.lineSpacing = spacing >= 0.1 && spacing <= 10.0 ? spacing : 1.0;
     box.isSpacingExact = tags.integer(73, 1) == 2;
-    box.alignment = column == 1 ? MTextAlignment::Center : column == 2 ? MTextAlignment::Right : MTextAlignment::Left;
-    box.styleFont = look.request;
     return box;
 }
 
 } // namespace
 
-bool buildMText(BuildContext &context, const TagList &tags)
+void addMText(BuildContext &context, const MTextPlace &place, const QString &content, MTextBox box)
 {
-    const Matrix ocs = Matrix::fromExtrusion(tags.point(210, {0.0, 0.0, 1.0}));
-    const Vec3 at = tags.point(10);
-    const double height = std::abs(tags.real(40, 1.0));
-    const double rotation = readRotation(tags, ocs);
-    if (!isUsable(at) || !isUsable(height) || !isUsable(rotation) || !(height > 0.0))
-        return false;
-    const TextLook look = readTextLook(context, tags.text(7));
-    const qint64 attachment = std::clamp<qint64>(tags.integer(71, 1), 1, 9) - 1;
-    const MTextFormat start{.height = height, .widthFactor = look.widthFactor, .oblique = look.oblique / radians};
-    const MTextLayout layout = layOutMText(MTextParser(readContent(tags), start).parse(),
-                                           readBox(tags, look, attachment % 3), height, context.fonts());
-    const Vec3 corner{-layout.width * static_cast<double>(attachment % 3) / 2.0,
-                      layout.height * static_cast<double>(attachment / 3) / 2.0, 0.0};
-    const Matrix placement = Matrix::translation(at) * ocs * Matrix::rotation(rotation) * Matrix::translation(corner);
+    const TextLook look = readTextLook(context, place.styleName);
+    const int column = place.attachment % 3;
+    box.styleFont = look.request;
+    box.alignment = column == 1 ? MTextAlignment::Center : column == 2 ? MTextAlignment::Right : MTextAlignment::Left;
+    const MTextFormat start{.height = place.height, .widthFactor = look.widthFactor, .oblique = look.oblique / radians};
+    const MTextLayout layout = layOutMText(MTextParser(content, start).parse(), box, place.height, context.fonts());
+    const Vec3 corner{-layout.width * column / 2.0, layout.height * (place.attachment / 3) / 2.0, 0.0};
+    const Matrix placement = place.frame * Matrix::translation(corner);
     for (const MTextRun &run : layout.runs) {
         if (run.text.trimmed().isEmpty())
             continue;
@@ -114,11 +106,25 @@ bool buildMText(BuildContext &context, const TagList &tags)
         context.add(std::move(text), runStyle(context, run.format));
     }
     for (const MTextRule &rule : layout.rules) {
-        context.add(
-            Stroke{{.points = {placement.point({rule.x1, rule.y1, 0.0}), placement.point({rule.x2, rule.y2, 0.0})}}},
-            runStyle(context, rule.format));
+        const Path ends = {placement.point({rule.x1, rule.y1, 0.0}), placement.point({rule.x2, rule.y2, 0.0})};
+        context.add(Stroke{{.points = ends}}, runStyle(context, rule.format));
     }
+}
+
+bool buildMText(BuildContext &context, const TagList &tags)
+{
+    const Matrix ocs = Matrix::fromExtrusion(tags.point(210, {0.0, 0.0, 1.0}));
+    const Vec3 at = tags.point(10);
+    const double height = std::abs(tags.real(40, 1.0));
+    const double rotation = readRotation(tags, ocs);
+    if (!isUsable(at) || !isUsable(height) || !isUsable(rotation) || !(height > 0.0))
+        return false;
+    const MTextPlace place{.frame = Matrix::translation(at) * ocs * Matrix::rotation(rotation),
+                           .height = height,
+                           .attachment = static_cast<int>(std::clamp<qint64>(tags.integer(71, 1), 1, 9)) - 1,
+                           .styleName = tags.text(7)};
     // An empty text shows nothing, which is what it says.
+    addMText(context, place, readContent(tags), readBox(tags));
     return true;
 }
 

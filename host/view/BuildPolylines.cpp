@@ -1,4 +1,3 @@
-#include "host/drawing/Tables.h"
 #include "host/view/DisplayBuilder.h"
 #include "host/view/WideLine.h"
 
@@ -173,30 +172,6 @@ bool buildFaces(BuildContext &context, const std::vector<RecordId> &children)
     return !context.display.items.empty();
 }
 
-/// Size of arrow heads by the entity's dimension style.
-double arrowSize(const BuildContext &context, const TagList &tags)
-{
-    const RecordId style = context.drawing.tables().find(drawing::TableKind::DimStyle, tags.text(3));
-    if (!isValid(style))
-        return 0.18;
-    const TagList values = context.drawing.tags(style);
-    const double scale = values.real(40, 1.0);
-    const double size = values.real(41, 0.18) * (scale > 0.0 ? scale : 1.0);
-    return isUsable(size) ? size : 0.0;
-}
-
-void addArrow(BuildContext &context, const Vec3 &tip, const Vec3 &towards, double size)
-{
-    const Vec3 along = drawing::normalized(towards - tip);
-    const Vec3 across = drawing::normalized(cross({0.0, 0.0, 1.0}, along));
-    const Vec3 back = tip + along * size;
-    Curve head;
-    head.points = {tip, back + across * (size / 6.0), back - across * (size / 6.0), tip};
-    Fill fill;
-    fill.contours.push_back(std::move(head));
-    context.add(std::move(fill));
-}
-
 } // namespace
 
 bool buildLwPolyline(BuildContext &context, const TagList &tags)
@@ -251,24 +226,6 @@ bool buildMline(BuildContext &context, const TagList &tags)
         context.addStroke(std::move(line));
     }
     return !elements.empty();
-}
-
-bool buildLeader(BuildContext &context, const TagList &tags)
-{
-    const std::vector<Vec3> points = tags.points(10);
-    if (points.size() < 2 || !areUsable(points))
-        return false;
-    const double size = arrowSize(context, tags);
-    if (tags.integer(71, 1) != 0 && size > 0.0 && (points[1] - points[0]).length() > 2.0 * size)
-        addArrow(context, points[0], points[1], size);
-    Path line = points;
-    if (tags.integer(72) == 1 && points.size() > 2) {
-        drawing::Spline spline;
-        spline.fitPoints = points;
-        line = drawing::splinePath(spline);
-    }
-    context.addStroke(std::move(line));
-    return true;
 }
 
 } // namespace host::view

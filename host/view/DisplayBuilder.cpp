@@ -35,6 +35,7 @@ constexpr std::array typeRows = {
     TypeRow{"POLYLINE", buildPolyline},
     TypeRow{"MLINE", buildMline, true},
     TypeRow{"LEADER", buildLeader},
+    TypeRow{"MULTILEADER", buildMultiLeader},
     TypeRow{"SOLID", buildSolid},
     TypeRow{"TRACE", buildSolid},
     TypeRow{"3DFACE", build3dFace},

@@ -52,6 +52,7 @@ bool buildLwPolyline(BuildContext &context, const drawing::TagList &tags);
 bool buildPolyline(BuildContext &context, const drawing::TagList &tags);
 bool buildMline(BuildContext &context, const drawing::TagList &tags);
 bool buildLeader(BuildContext &context, const drawing::TagList &tags);
+bool buildMultiLeader(BuildContext &context, const drawing::TagList &tags);
 bool buildSolid(BuildContext &context, const drawing::TagList &tags);
 bool build3dFace(BuildContext &context, const drawing::TagList &tags);
 bool buildMesh(BuildContext &context, const drawing::TagList &tags);

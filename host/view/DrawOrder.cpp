@@ -1,7 +1,5 @@
 #include "host/view/DrawOrder.h"
 
-#include <QHash>
-
 #include <utility>
 
 namespace host::view {
@@ -12,33 +10,36 @@ using drawing::RecordId;
 
 namespace {
 
-/// What each entity of the drawing is sorted as, by handle. Tables of all blocks are taken together: a handle is in one
-/// block only.
-QHash<quint64, quint64> readSortHandles(const Drawing &drawing)
+/// Pairs of an entity's handle and the one it is sorted as. The table's own handle has the second code as well, but
+/// stands in front of all pairs.
+void readTable(const drawing::TagList &tags, SortHandles &sorted)
 {
-    QHash<quint64, quint64> sorted;
-    const RecordId objects = drawing.sectionRecord(drawing::Section::Objects);
-    if (!isValid(objects))
-        return sorted;
-    for (RecordId object = drawing.firstChild(objects); isValid(object); object = drawing.nextSibling(object)) {
-        if (!drawing.isType(object, "SORTENTSTABLE"))
-            continue;
-        Handle entity;
-        for (const drawing::Tag &tag : drawing.tags(object)) {
-            if (tag.code == 331)
-                entity = tag.handle().value_or(Handle{});
-            else if (tag.code == 5 && !entity.isNull())
-                sorted.insert(std::exchange(entity, Handle{}).value, tag.handle().value_or(Handle{}).value);
-        }
+    Handle entity;
+    for (const drawing::Tag &tag : tags) {
+        if (tag.code == 331)
+            entity = tag.handle().value_or(Handle{});
+        else if (tag.code == 5 && !entity.isNull())
+            sorted.insert(std::exchange(entity, Handle{}).value, tag.handle().value_or(Handle{}).value);
     }
-    return sorted;
 }
 
 } // namespace
 
-std::vector<RecordId> drawOrder(const Drawing &drawing, std::vector<RecordId> entities)
+SortHandles readSortHandles(const Drawing &drawing)
 {
-    const QHash<quint64, quint64> sortHandles = readSortHandles(drawing);
+    SortHandles sorted;
+    const RecordId objects = drawing.sectionRecord(drawing::Section::Objects);
+    if (!isValid(objects))
+        return sorted;
+    for (RecordId object = drawing.firstChild(objects); isValid(object); object = drawing.nextSibling(object)) {
+        if (drawing.isType(object, "SORTENTSTABLE"))
+            readTable(drawing.tags(object), sorted);
+    }
+    return sorted;
+}
+
+std::vector<RecordId> drawOrder(const Drawing &drawing, const SortHandles &sortHandles, std::vector<RecordId> entities)
+{
     if (sortHandles.isEmpty())
         return entities;
     std::vector<std::pair<quint64, RecordId>> sorted;

@@ -10,7 +10,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int referenceSize = 128;
-constexpr int outlineCacheElements = 400'000;
+constexpr int outlineCacheElements = 2'000'000;
 constexpr qsizetype longestRun = 4096;
 
 bool hasFamily(const QString &family)

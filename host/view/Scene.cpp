@@ -3,7 +3,6 @@
 #include "host/drawing/Blocks.h"
 #include "host/view/DisplayBoxes.h"
 #include "host/view/DisplayBuilder.h"
-#include "host/view/DrawOrder.h"
 #include "host/view/VisibleExtents.h"
 
 #include <QStringList>
@@ -160,12 +159,14 @@ void Scene::build(BlockDisplay &block)
     places.reserve(static_cast<qsizetype>(old.size()));
     for (std::size_t i = 0; i < old.size(); ++i)
         places.insert(old[i].record, i);
-    const std::vector<RecordId> now = drawOrder(m_drawing, members(block));
+    if (!m_sortHandles)
+        m_sortHandles = readSortHandles(m_drawing);
+    const std::vector<RecordId> now = drawOrder(m_drawing, *m_sortHandles, members(block));
     std::vector<RecordDisplay> records;
     records.reserve(now.size());
     for (const RecordId record : now) {
         const auto known = places.constFind(record);
-        if (known != places.constEnd() && !m_changes.records.contains(static_cast<quint32>(record)))
+        if (known != places.constEnd() && !m_changes.records.contains(record))
             records.push_back(std::move(old[*known]));
         else
             records.push_back(buildRecord(record));
@@ -174,11 +175,7 @@ void Scene::build(BlockDisplay &block)
     block.records = std::move(records);
     block.isBuilt = true;
     m_boxesStale = true;
-    if (block.number > paperSpace)
-        return;
-    m_spaces.resize(std::max<std::size_t>(m_spaces.size(), m_drawing.idLimit()));
-    for (const RecordId record : now)
-        m_spaces[static_cast<std::size_t>(record)] = static_cast<qint8>(1 + block.number);
+    std::ranges::for_each(now, [&](RecordId record) { rememberSpace(record, block); });
 }
 
 void Scene::applyChanges()
@@ -187,32 +184,96 @@ void Scene::applyChanges()
         return;
     if (m_changes.tables || m_changes.everything)
         m_appearance.reload(m_drawing, m_fonts);
-    for (std::size_t i = 0; i < m_blocks.size(); ++i) {
-        BlockDisplay &block = *m_blocks[i];
-        if (!block.isBuilt)
-            continue;
-        if (m_changes.everything) {
-            std::ranges::for_each(block.records, [this](const RecordDisplay &left) { forget(left); });
-            block.records.clear();
-        }
-        if (m_changes.order || m_changes.everything)
-            build(block);
-        else if (!m_changes.records.empty())
-            rebuildChanged(block);
-    }
+    if (m_changes.everything)
+        forgetEverything();
+    if (!m_changes.order && !m_changes.everything)
+        rebuildChanged();
+    if (m_changes.order || m_changes.everything)
+        rebuildMembers();
     m_changes = {};
     buildWaiting();
 }
 
+void Scene::forgetEverything()
+{
+    for (const auto &block : m_blocks) {
+        std::ranges::for_each(block->records, [this](const RecordDisplay &left) { forget(left); });
+        block->records.clear();
+    }
+}
+
+void Scene::rebuildMembers()
+{
+    for (std::size_t i = 0; i < m_blocks.size(); ++i) {
+        if (m_blocks[i]->isBuilt)
+            build(*m_blocks[i]);
+    }
+}
+
+/// The usual case: some records changed or went, some were added at the end. Anything else is left to rebuildMembers().
+void Scene::rebuildChanged()
+{
+    for (std::size_t i = 0; i < m_blocks.size() && !m_changes.records.empty(); ++i)
+        rebuildChanged(*m_blocks[i]);
+    std::erase_if(m_changes.appeared, [this](RecordId record) { return !m_drawing.isAlive(record); });
+    while (!m_changes.appeared.empty() && !m_changes.order)
+        appendRun(*std::ranges::min_element(m_changes.appeared));
+}
+
 void Scene::rebuildChanged(BlockDisplay &block)
 {
+    bool hasGone = false;
     for (RecordDisplay &record : block.records) {
-        if (m_changes.records.contains(static_cast<quint32>(record.record))) {
-            forget(record);
+        if (!m_changes.records.contains(record.record))
+            continue;
+        forget(record);
+        m_changes.appeared.erase(record.record);
+        m_boxesStale = true;
+        if (m_drawing.isAlive(record.record)) {
             record = buildRecord(record.record);
-            m_boxesStale = true;
+        } else {
+            record.record = noRecord;
+            hasGone = true;
         }
     }
+    if (hasGone)
+        std::erase_if(block.records, [](const RecordDisplay &record) { return !isValid(record.record); });
+}
+
+/// Takes `first` and what stands behind it, all of which must be new; otherwise the order has to be looked up.
+void Scene::appendRun(RecordId first)
+{
+    for (RecordId record = first; isValid(record); record = m_drawing.nextSibling(record)) {
+        if (m_changes.appeared.erase(record) == 0 || !m_sortHandles || !m_sortHandles->isEmpty()) {
+            m_changes.order = true;
+            return;
+        }
+        BlockDisplay *block = ownerOf(record);
+        if (!block || !block->isBuilt)
+            continue;
+        block->records.push_back(buildRecord(record));
+        rememberSpace(record, *block);
+        m_boxesStale = true;
+    }
+}
+
+BlockDisplay *Scene::ownerOf(RecordId entity)
+{
+    const RecordId parent = m_drawing.parent(entity);
+    if (m_drawing.kind(parent) == RecordKind::Block)
+        return m_blocks[static_cast<std::size_t>(block(m_drawing.blocks().name(parent)))].get();
+    const bool isModel = m_drawing.entities().space(entity) == Space::Model;
+    return m_blocks[static_cast<std::size_t>(isModel ? modelSpace : paperSpace)].get();
+}
+
+void Scene::rememberSpace(RecordId record, const BlockDisplay &block)
+{
+    if (block.number > paperSpace)
+        return;
+    const auto index = static_cast<std::size_t>(record);
+    if (m_spaces.size() <= index)
+        m_spaces.resize(std::max<std::size_t>(index + 1, m_drawing.idLimit()));
+    m_spaces[index] = static_cast<qint8>(1 + block.number);
 }
 
 void Scene::updateBoxes()
@@ -314,6 +375,7 @@ void Scene::recordChanged(RecordId record, RecordChange change, drawing::ChangeC
     } else if (kind == RecordKind::Variable) {
         m_changes.tables = true;
     } else if (type == "SORTENTSTABLE") {
+        m_sortHandles.reset();
         m_changes.order = true;
     } else if (type == "SPATIAL_FILTER") {
         m_changes.everything = true;
@@ -325,8 +387,9 @@ void Scene::markEntity(RecordId record, RecordChange change)
     const RecordId entity = wholeEntity(m_drawing, record);
     if (!isValid(entity))
         return;
-    m_changes.records.insert(static_cast<quint32>(entity));
-    m_changes.order |= change != RecordChange::Modified && entity == record;
+    m_changes.records.insert(entity);
+    if (change == RecordChange::Appeared && entity == record)
+        m_changes.appeared.insert(entity);
     m_changes.order |= change == RecordChange::Modified && hasChangedSpace(entity);
 }
 

@@ -4,10 +4,12 @@
 #include "host/drawing/Entities.h"
 #include "host/view/Appearance.h"
 #include "host/view/Display.h"
+#include "host/view/DrawOrder.h"
 #include "host/view/Fonts.h"
 
 #include <QMap>
 
+#include <optional>
 #include <unordered_set>
 
 namespace host::view {
@@ -87,8 +89,9 @@ public:
 private:
     struct Changes
     {
-        std::unordered_set<quint32> records; ///< whose display is out of date
-        bool order = false;                  ///< blocks have other members, or other order of drawing
+        std::unordered_set<RecordId> records;  ///< whose display is out of date
+        std::unordered_set<RecordId> appeared; ///< of these, the ones that may be new
+        bool order = false;                    ///< blocks have other members, or other order of drawing
         bool tables = false;
         bool everything = false;
         bool any() const { return order || tables || everything || !records.empty(); }
@@ -97,7 +100,13 @@ private:
     void markEntity(RecordId record, drawing::RecordChange change);
     bool hasChangedSpace(RecordId entity) const;
     void applyChanges();
+    void forgetEverything();
+    void rebuildMembers();
+    void rebuildChanged();
     void rebuildChanged(BlockDisplay &block);
+    void appendRun(RecordId first);
+    BlockDisplay *ownerOf(RecordId entity);
+    void rememberSpace(RecordId record, const BlockDisplay &block);
     void build(BlockDisplay &block);
     void buildWaiting();
     std::vector<RecordId> members(const BlockDisplay &block) const;
@@ -118,6 +127,7 @@ private:
     std::vector<qint8> m_spaces; ///< by record: 1 + the space it was last seen in
     Changes m_changes;
     bool m_boxesStale = false;
+    std::optional<SortHandles> m_sortHandles;
     qint64 m_builtRecords = 0;
     std::int64_t m_patternPieces = 0;
 };

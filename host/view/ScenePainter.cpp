@@ -2,6 +2,8 @@
 
 #include "host/view/SceneWalker.h"
 
+#include <QPaintEngine>
+
 #include <array>
 
 namespace host::view {
@@ -12,14 +14,117 @@ constexpr double readableText = 2.5; ///< pixels; smaller texts are drawn as a l
 constexpr double margin = 4.0;       ///< pixels beyond the edge, for thick lines
 constexpr int denseAlpha = 110;
 constexpr int highlightFillAlpha = 120;
-constexpr std::size_t batchSize = 4096;
 
-/// Hands lines over in batches of one pen: the painter's own overhead is what costs most with many short lines.
+struct Pen
+{
+    QRgb colour = 0;
+    int weight = 0; ///< hundredths of a millimetre
+    bool isHighlighted = false;
+
+    bool operator==(const Pen &) const = default;
+};
+
+/// Collects lines and dots by pen, so that the painter draws many with one pen at a time: changing pens costs more than
+/// drawing a short line. Between two calls of flush() lines of different thin pens may change places, which can be told
+/// only by the one pixel where they cross; thick ones keep their order.
+class LineBatches
+{
+public:
+    LineBatches(QPainter &painter, double pixelsPerMillimetre)
+        : m_painter(painter), m_pixelsPerMillimetre(pixelsPerMillimetre),
+          m_isRaster(painter.paintEngine() && painter.paintEngine()->type() == QPaintEngine::Raster)
+    {
+    }
+
+    void addLine(std::span<const QPointF> points, const Pen &pen)
+    {
+        Batch &batch = batchFor(pen);
+        // Files stay small and dashes whole when a polyline is drawn as one.
+        if (points.size() > 2 && (!m_isRaster || pen.isHighlighted || widthOf(pen) > 0.0)) {
+            flush();
+            m_painter.setPen(painterPen(pen));
+            m_painter.drawPolyline(points.data(), static_cast<int>(points.size()));
+            return;
+        }
+        for (std::size_t i = 1; i < points.size(); ++i)
+            batch.lines.emplaceBack(points[i - 1], points[i]);
+        flushWhenFull(batch.lines.size());
+    }
+
+    void addDot(QPointF point, const Pen &pen)
+    {
+        Batch &batch = batchFor(pen);
+        batch.dots.append(point);
+        flushWhenFull(batch.dots.size());
+    }
+
+    void flush()
+    {
+        for (Batch &batch : m_batches) {
+            m_painter.setPen(painterPen(batch.pen));
+            m_painter.drawLines(batch.lines);
+            m_painter.drawPoints(batch.dots.constData(), static_cast<int>(batch.dots.size()));
+        }
+        m_batches.clear();
+        m_last = 0;
+    }
+
+private:
+    struct Batch
+    {
+        Pen pen;
+        QList<QLineF> lines{};
+        QList<QPointF> dots{};
+    };
+
+    Batch &batchFor(const Pen &pen)
+    {
+        if (m_last < m_batches.size() && m_batches[m_last].pen == pen)
+            return m_batches[m_last];
+        if (widthOf(pen) > 0.0 || m_batches.size() == mostBatches)
+            flush();
+        const auto known = std::ranges::find(m_batches, pen, &Batch::pen);
+        m_last = static_cast<std::size_t>(known - m_batches.begin());
+        return known != m_batches.end() ? *known : m_batches.emplace_back(Batch{.pen = pen});
+    }
+
+    void flushWhenFull(qsizetype count)
+    {
+        if (count >= batchSize)
+            flush();
+    }
+
+    /// Pixels; 0 for lines as thin as can be.
+    double widthOf(const Pen &pen) const
+    {
+        const double width = pen.weight / 100.0 * m_pixelsPerMillimetre;
+        return width > 1.0 ? width : 0.0;
+    }
+
+    QPen painterPen(const Pen &pen) const
+    {
+        QPen made(QColor(pen.colour), widthOf(pen), pen.isHighlighted ? Qt::DashLine : Qt::SolidLine, Qt::RoundCap,
+                  Qt::RoundJoin);
+        made.setCosmetic(true);
+        return made;
+    }
+
+    static constexpr std::size_t mostBatches = 24;
+    static constexpr qsizetype batchSize = 8192;
+
+    QPainter &m_painter;
+    const double m_pixelsPerMillimetre;
+    const bool m_isRaster;
+    std::vector<Batch> m_batches;
+    std::size_t m_last = 0;
+};
+
 class PainterSink final : public DisplaySink
 {
 public:
     PainterSink(QPainter &painter, Scene &scene, const PaintOptions &options)
-        : m_painter(painter), m_scene(scene), m_options(options), m_base(painter.worldTransform())
+        : m_painter(painter), m_scene(scene), m_options(options), m_base(painter.worldTransform()),
+          m_batches(painter, options.pixelsPerMillimetre)
     {
     }
 
@@ -31,23 +136,10 @@ public:
 
     void line(std::span<const QPointF> points, const ResolvedStyle &style) override
     {
-        usePen(style);
-        if (points.size() == 2) {
-            m_lines.emplaceBack(points[0], points[1]);
-            if (static_cast<std::size_t>(m_lines.size()) >= batchSize)
-                flush();
-        } else {
-            m_painter.drawPolyline(points.data(), static_cast<int>(points.size()));
-        }
+        m_batches.addLine(points, penOf(style));
     }
 
-    void dot(QPointF point, const ResolvedStyle &style) override
-    {
-        usePen(style);
-        m_dots.append(point);
-        if (static_cast<std::size_t>(m_dots.size()) >= batchSize)
-            flush();
-    }
+    void dot(QPointF point, const ResolvedStyle &style) override { m_batches.addDot(point, penOf(style)); }
 
     void fill(const QPainterPath &area, FillKind kind, const ResolvedStyle &style) override
     {
@@ -95,18 +187,9 @@ public:
     {
         flush();
         m_painter.restore();
-        m_hasPen = false;
     }
 
-    void flush()
-    {
-        if (!m_lines.isEmpty())
-            m_painter.drawLines(m_lines);
-        if (!m_dots.isEmpty())
-            m_painter.drawPoints(m_dots.constData(), static_cast<int>(m_dots.size()));
-        m_lines.clear();
-        m_dots.clear();
-    }
+    void flush() { m_batches.flush(); }
 
 private:
     QRgb colourOf(const ResolvedStyle &style) const
@@ -114,34 +197,18 @@ private:
         return m_isHighlighted ? m_options.highlight.rgb() : style.colour;
     }
 
-    void usePen(const ResolvedStyle &style)
+    Pen penOf(const ResolvedStyle &style) const
     {
-        const QRgb colour = colourOf(style);
-        const int weight = m_options.pixelsPerMillimetre > 0.0 ? style.lineweight : 0;
-        if (m_hasPen && colour == m_penColour && weight == m_penWeight && m_isHighlighted == m_isPenHighlighted)
-            return;
-        flush();
-        m_hasPen = true;
-        m_penColour = colour;
-        m_penWeight = weight;
-        m_isPenHighlighted = m_isHighlighted;
-        const double width = weight / 100.0 * m_options.pixelsPerMillimetre;
-        QPen pen(QColor(colour), width > 1.0 ? width : 0.0, m_isHighlighted ? Qt::DashLine : Qt::SolidLine,
-                 Qt::RoundCap, Qt::RoundJoin);
-        pen.setCosmetic(true);
-        m_painter.setPen(pen);
+        return {.colour = colourOf(style),
+                .weight = m_options.pixelsPerMillimetre > 0.0 ? style.lineweight : 0,
+                .isHighlighted = m_isHighlighted};
     }
 
     QPainter &m_painter;
     Scene &m_scene;
     const PaintOptions &m_options;
     const QTransform m_base;
-    QList<QLineF> m_lines;
-    QList<QPointF> m_dots;
-    bool m_hasPen = false;
-    QRgb m_penColour = 0;
-    int m_penWeight = 0;
-    bool m_isPenHighlighted = false;
+    LineBatches m_batches;
     bool m_isHighlighted = false;
 };
 

@@ -135,6 +135,13 @@ TEST(EntityDrawing, Polylines)
           .tables = tableText("DIMSTYLE", "0 DIMSTYLE|2 S|40 1|41 24")},
          {{60, 50}, {30, 52}, {30, 48}},
          {{60, 54}, {12, 54}}},
+        {"multi-leader with its landing and text",
+         {.entities =
+              "0 MULTILEADER|8 0|100 AcDbMLeader|270 2|300 CONTEXT_DATA{|40 1|10 60|20 60|41 20|140 8|290 1|304 HH"
+              "|12 62|22 70|13 1|23 0|43 0|170 1|171 1|296 0|302 LEADER{|290 1|291 1|10 40|20 60|11 1|21 0|90 0"
+              "|40 15|304 LEADER_LINE{|10 10|20 10|91 0|305 }|303 }|301 }|170 1"},
+         {{25, 35}, {50, 60}, {12, 13}, {65, 60}},
+         {{20, 60}, {58, 60}}},
     });
 }
 

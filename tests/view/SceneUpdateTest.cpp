@@ -69,6 +69,25 @@ TEST_F(SceneUpdateTest, ErasingMakingAndUndo)
     EXPECT_FALSE(isInk(50, 10));
 }
 
+TEST_F(SceneUpdateTest, NewEntitiesAreDrawnOverOldOnes)
+{
+    EXPECT_TRUE(isInk(50, 10));
+    const qint64 before = m_scene.builtRecords();
+    for (const int colour : {1, 3, 5}) {
+        FieldList fields = line(10);
+        fields.push_back({62, qint64{colour}});
+        ASSERT_TRUE(m_drawing->entities().create(fields));
+    }
+    EXPECT_EQ(Rendering(m_scene, 0).color(50, 10), QColor(0, 0, 255));
+    EXPECT_EQ(m_scene.builtRecords(), before + 3);
+    // Back in its old place: under the others.
+    m_drawing->setErased(find(0xA1), true);
+    EXPECT_EQ(Rendering(m_scene, 0).color(50, 10), QColor(0, 0, 255));
+    m_drawing->setErased(find(0xA1), false);
+    EXPECT_EQ(Rendering(m_scene, 0).color(50, 10), QColor(0, 0, 255));
+    EXPECT_EQ(m_scene.display(0).records.front().record, find(0xA1));
+}
+
 TEST_F(SceneUpdateTest, BlocksAndTheirInserts)
 {
     EXPECT_TRUE(isInk(50, 50));

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "host/view/DisplayBuilder.h"
+#include "host/view/MTextLayout.h"
+
+namespace host::view {
+
+/// Where multi-line text stands.
+struct MTextPlace
+{
+    Matrix frame{}; ///< its insertion point and the direction of its lines
+    double height = 1.0;
+    int attachment = 0; ///< which point of the text is the insertion point: three rows of three from the top left
+    QString styleName{};
+};
+
+/// Adds the text; font and alignment of `box` are filled in from the place.
+void addMText(BuildContext &context, const MTextPlace &place, const QString &content, MTextBox box);
+
+} // namespace host::view
