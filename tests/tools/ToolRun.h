@@ -1,0 +1,45 @@
+#pragma once
+
+#include "host/drawing/Drawing.h"
+
+#include <QStringList>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+namespace tools_test {
+
+/// What the program did with a session.
+struct RunOutcome
+{
+    int status = -1; ///< exit status of the program; -1 when it did not end
+    QString output;  ///< both streams
+};
+
+/// A folder of a test's own with a user's home, and the built program to run in it.
+class ToolRun
+{
+public:
+    QString path(const QString &name) const { return m_folder.filePath(name); }
+    QString writeFile(const QString &name, const QByteArray &content) const;
+    static QByteArray readFile(const QString &path);
+    static QString sample(const QString &name);
+
+    /// Plays `session` (its text) over `drawing`; what it changed goes to path("out").
+    RunOutcome play(const QString &session, const QString &drawing) const;
+    RunOutcome playFile(const QString &sessionPath, const QString &drawing) const;
+    QString result(const QString &drawing) const;
+    QString stateFile() const { return path(QStringLiteral("home/Ortakit/breakline.state")); }
+
+private:
+    QTemporaryDir m_folder;
+};
+
+/// Whether an independent reader finds no error in the drawing; its complaints are the message.
+testing::AssertionResult isSound(const QString &drawing);
+
+/// What one drawing file has that the other has not: record types by handle, each "+TYPE", "-TYPE" or "~TYPE" for
+/// added, gone and changed, sorted; header variables by name. Empty when the files are the same.
+QStringList differences(const QString &before, const QString &after);
+
+} // namespace tools_test
