@@ -25,7 +25,8 @@ QString paperLayoutName(const drawing::Drawing &drawing)
         for (const drawing::Dictionaries::Entry &entry : dictionaries.entries(layouts)) {
             if (!isValid(entry.record))
                 continue;
-            const drawing::Tag *block = drawing.tags(entry.record).find(330, "AcDbLayout");
+            const drawing::TagList tags = drawing.tags(entry.record);
+            const drawing::Tag *block = tags.find(330, "AcDbLayout");
             if (block && block->handle() == drawing.handle(paper))
                 return entry.name;
         }

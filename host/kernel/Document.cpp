@@ -3,6 +3,7 @@
 #include "host/drawing/EntityGeometry.h"
 #include "host/drawing/HeaderVariables.h"
 #include "host/drawing/Journal.h"
+#include "host/drawing/Tables.h"
 #include "host/kernel/DrawingDatabase.h"
 #include "host/kernel/Editor.h"
 #include "host/kernel/LispConsole.h"
@@ -20,12 +21,32 @@
 
 namespace host::kernel {
 
+namespace {
+
+/// What the file's active viewport showed.
+ViewState viewOf(const drawing::Drawing &drawing)
+{
+    ViewState view;
+    const drawing::RecordId viewport = drawing.tables().find(drawing::TableKind::Viewport, u"*Active");
+    if (!isValid(viewport))
+        return view;
+    const drawing::TagList tags = drawing.tags(viewport);
+    const double height = tags.real(40);
+    if (height > 0.0 && std::isfinite(height)) {
+        view.centre = tags.point(12).xy();
+        view.height = height;
+    }
+    return view;
+}
+
+} // namespace
+
 Document::Document(Session &session, std::unique_ptr<drawing::Drawing> drawing, const QString &untitledName)
     : m_session(session), m_drawing(std::move(drawing)), m_untitledName(untitledName),
       m_undoSteps(m_drawing->journal()), m_variables(std::make_unique<SystemVariables>(*this)),
       m_userInput(std::make_unique<UserInput>(*this)), m_database(std::make_unique<DrawingDatabase>(*this)),
       m_console(std::make_unique<LispConsole>(*this)), m_boxes(std::make_unique<drawing::BoxCache>(*m_drawing)),
-      m_entityMaker(std::make_unique<EntityMaker>(*this))
+      m_entityMaker(std::make_unique<EntityMaker>(*this)), m_view(viewOf(*m_drawing))
 {
 }
 

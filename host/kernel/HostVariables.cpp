@@ -2,6 +2,7 @@
 
 #include "host/drawing/Blocks.h"
 #include "host/drawing/Dictionaries.h"
+#include "host/drawing/EntityGeometry.h"
 #include "host/drawing/HeaderVariables.h"
 #include "host/drawing/Journal.h"
 #include "host/drawing/Tables.h"
@@ -58,6 +59,13 @@ VariableValue drawingFolder(const Document &document)
 VariableValue logFilePath(const Document &document)
 {
     return folderOf(document.session().home());
+}
+
+/// What the current space shows. The header's own values are those of the last save.
+drawing::Box extents(const Document &document)
+{
+    const drawing::Drawing &drawing = document.drawing();
+    return drawing::spaceBox(drawing, drawing.entities().inSpace(currentSpace(drawing)));
 }
 
 VariableValue undoControl(const Document &document)
@@ -188,8 +196,6 @@ std::vector<HostVariable> headerVariables()
             {"ACADVER", Header, ReadOnly, text("AC1009"), 0.0, 0.0, 1},
             {"DWGCODEPAGE", Header, ReadOnly, text("ANSI_1252"), 0.0, 0.0, 3},
             {"HANDSEED", Header, ReadOnly, text("0"), 0.0, 0.0, 5},
-            {"EXTMIN", Header, ReadOnly, Vec3{1e20, 1e20, 1e20}, 0.0, 0.0, 10},
-            {"EXTMAX", Header, ReadOnly, Vec3{-1e20, -1e20, -1e20}, 0.0, 0.0, 10},
             {"UCSNAME", Header, ReadOnly, text(""), 0.0, 0.0, 2},
             {"UCSORG", Header, ReadOnly, Vec3{}, 0.0, 0.0, 10},
             {"UCSXDIR", Header, ReadOnly, Vec3{1.0, 0.0, 0.0}, 0.0, 0.0, 10},
@@ -275,6 +281,16 @@ std::vector<HostVariable> stateVariables()
         computed("DWGPREFIX", drawingFolder),
         computed("DWGTITLED",
                  [](const Document &document) -> VariableValue { return document.path().isEmpty() ? 0 : 1; }),
+        computed("EXTMAX",
+                 [](const Document &document) -> VariableValue {
+                     const drawing::Box box = extents(document);
+                     return box.isEmpty() ? Vec3{-1e20, -1e20, -1e20} : box.high;
+                 }),
+        computed("EXTMIN",
+                 [](const Document &document) -> VariableValue {
+                     const drawing::Box box = extents(document);
+                     return box.isEmpty() ? Vec3{1e20, 1e20, 1e20} : box.low;
+                 }),
         computed("LOCALROOTPREFIX", logFilePath),
         computed("LOGINNAME", [](const Document &) -> VariableValue { return qEnvironmentVariable("USER"); }),
         computed("MILLISECS",

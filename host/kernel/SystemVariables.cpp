@@ -119,7 +119,7 @@ std::optional<VariableValue> SystemVariables::get(QStringView name) const
         if (const std::optional<VariableValue> value = headerValue(upper))
             if (std::optional<VariableValue> usual = convertedTo(variable->initial, *value))
                 return usual;
-        return variable->initial;
+        return m_values.value(upper, variable->initial);
     case VariablePlace::Host:
         return m_values.value(upper, variable->initial);
     case VariablePlace::Computed:
@@ -166,7 +166,11 @@ void SystemVariables::setInternally(QStringView name, const VariableValue &value
         m_values.insert(upper, value);
     } else {
         const std::optional<Field> present = header.get(headerName(upper));
-        header.set(headerName(upper), toField(present ? present->code : variable ? variable->code : 1, value));
+        const int code = present ? present->code : variable ? variable->code : 1;
+        header.set(headerName(upper), toField(code, value));
+        // Old files may have no header at all: there the value lasts as long as the document is open.
+        if (!header.get(headerName(upper)))
+            m_values.insert(upper, value);
     }
 }
 

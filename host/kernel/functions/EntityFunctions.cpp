@@ -63,7 +63,11 @@ Value modifyEntity(Arguments &args, RecordId record)
     Document &document = documentOf(args);
     drawing::Drawing &drawing = document.drawing();
     const drawing::FieldList given = fieldsFromList(document, args.list(0), angleForm(drawing, record));
-    const drawing::FieldList wanted = mergedFields(drawing.fields(record), given);
+    const drawing::FieldList present = drawing.fields(record);
+    const drawing::FieldList wanted = mergedFields(present, given);
+    // A list that is handed back as it was must leave no trace.
+    if (wanted == present)
+        return args[0];
     if (isEntityKind(drawing.kind(record))) {
         const QString error = drawing.entities().modify(record, wanted);
         return error.isEmpty() ? args[0] : refused(args, error);

@@ -66,7 +66,7 @@ void CKvQtUnitSpinBox::setUnitType(int type)
 
 void CKvQtUnitSpinBox::setUnitValue(double value)
 {
-    if (isAngle() || m_database)
+    if (isAngle() || (formatOf(m_database) && m_unitType != Unitless))
         setDecimals(std::max(decimals(), fineDecimals));
     setValue(value);
 }

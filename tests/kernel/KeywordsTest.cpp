@@ -1,0 +1,37 @@
+#include "host/kernel/input/Keywords.h"
+
+#include <gtest/gtest.h>
+
+using namespace host::kernel;
+
+namespace {
+
+struct KeywordCase
+{
+    const char *keywords; ///< with a blank between
+    const char *typed;
+    const char *expected; ///< null: no match
+};
+
+const std::vector<KeywordCase> cases = {
+    {"Yes No", "y", "Yes"},       {"Yes No", "YES", "Yes"},        {"Yes No", "yess", nullptr},
+    {"Yes No", "_No", "No"},      {"Yes No", "", nullptr},         {"Yes No", "_", nullptr},
+    {"LType", "l", nullptr},      {"LType", "LT", "LType"},        {"LType", "lty", "LType"},
+    {"LTYPE,LT", "lt", "LTYPE"},  {"LTYPE,LT", "ltyp", "LTYPE"},   {"LTYPE,LT", "l", nullptr},
+    {"LTYPE,LT", "LTX", nullptr}, {"eXit", "x", "eXit"},           {"eXit", "xi", "eXit"},
+    {"eXit", "ex", "eXit"},       {"eXit", "e", nullptr},          {"SAVE", "s", nullptr},
+    {"SAVE", "save", "SAVE"},     {"BEgin Begone", "be", "BEgin"}, {"BEgin Begone", "begone", "Begone"},
+    {"auto", "a", nullptr},       {"auto", "AUTO", "auto"},        {"2D 3D", "3d", "3D"},
+};
+
+TEST(Keywords, abbreviations)
+{
+    for (const KeywordCase &row : cases) {
+        SCOPED_TRACE(std::string(row.keywords) + " / " + row.typed);
+        const QStringList keywords = QString::fromUtf8(row.keywords).split(u' ');
+        const std::optional<QString> found = matchKeyword(QString::fromUtf8(row.typed), keywords);
+        EXPECT_EQ(found.value_or(QStringLiteral("-")), QString::fromUtf8(row.expected ? row.expected : "-"));
+    }
+}
+
+} // namespace

@@ -1,0 +1,270 @@
+#include "platform/kernel/CKvLispEngine.h"
+#include "tests/kernel/Bench.h"
+
+#include <functional>
+
+using namespace host::kernel;
+
+namespace {
+
+/// What the handlers below do: handlers are plain functions.
+std::function<int(CKvLispEngine &)> behaviour;
+
+int probe()
+{
+    return behaviour(*ACTIVE_DOCUMENT()->lispEngine());
+}
+
+/// The chain as "5003:1 5016 5005:a 5017".
+std::string chainText(const OdResBuf *link)
+{
+    QStringList parts;
+    for (; link; link = link->next()) {
+        QString text = QString::number(link->restype());
+        const OdGePoint3d point = link->getPoint3d();
+        switch (link->restype()) {
+        case OdResBuf::kRtShort:
+        case OdResBuf::kRtLong:
+            text += u':' + QString::number(link->getInteger());
+            break;
+        case OdResBuf::kRtReal:
+            text += u':' + QString::number(link->getDouble());
+            break;
+        case OdResBuf::kRtString:
+            text += u':' + link->getString();
+            break;
+        case OdResBuf::kRtPoint:
+        case OdResBuf::kRtPoint3d:
+            text += QStringLiteral(":%1,%2,%3").arg(point.x).arg(point.y).arg(point.z);
+            break;
+        default:
+            break;
+        }
+        parts.append(text);
+    }
+    return parts.join(u' ').toStdString();
+}
+
+class Engine : public Bench
+{
+protected:
+    Engine() { document().lispEngine()->defineFunction(QStringLiteral("Probe"), probe); }
+    ~Engine() override { behaviour = nullptr; }
+};
+
+struct ArgumentCase
+{
+    const char *arguments;
+    const char *chain;
+};
+
+TEST_F(Engine, argumentsArriveAsAChain)
+{
+    const std::vector<ArgumentCase> cases = {
+        {"", ""},
+        {"1", "5003:1"},
+        {"32767 -32768", "5003:32767 5003:-32768"},
+        {"32768 -32769", "5010:32768 5010:-32769"},
+        {"2.5 \"Größe\" nil T", "5001:2.5 5005:Größe 5019 5021"},
+        {"'(1.0 2.0)", "5002:1,2,0"},
+        {"'(1.0 2.0 3.0)", "5009:1,2,3"},
+        {"'(1 2.5 3)", "5009:1,2.5,3"},
+        {"'(1 2 3)", "5016 5003:1 5003:2 5003:3 5017"},
+        {"'(1.0 2.0 3.0 4.0)", "5016 5001:1 5001:2 5001:3 5001:4 5017"},
+        {"'(\"a\" (\"b\" (2.5)) nil)", "5016 5005:a 5016 5005:b 5016 5001:2.5 5017 5017 5019 5017"},
+        {"'(8 . \"0\")", "5016 5003:8 5005:0 5018"},
+        {"'(10 1.5 2.5 . 3)", "5016 5003:10 5001:1.5 5001:2.5 5003:3 5018"},
+    };
+    for (const ArgumentCase &row : cases) {
+        SCOPED_TRACE(row.arguments);
+        std::string chain;
+        behaviour = [&](CKvLispEngine &engine) {
+            chain = chainText(engine.arguments());
+            return kRtNormal;
+        };
+        EXPECT_EQ(lisp(std::string("(probe ") + row.arguments + ")"), "nil");
+        EXPECT_EQ(chain, row.chain);
+    }
+}
+
+/// Copies a chain into one value between list begin and list end.
+OdResBufPtr listOf(const OdResBuf *link)
+{
+    OdResBufPtr first = OdResBuf::newRb(OdResBuf::kRtListBegin);
+    OdResBuf *last = first.get();
+    for (; link; link = link->next()) {
+        OdResBufPtr copy;
+        switch (link->restype()) {
+        case OdResBuf::kRtReal:
+            copy = OdResBuf::newReal(link->restype(), link->getDouble());
+            break;
+        case OdResBuf::kRtString:
+            copy = OdResBuf::newString(link->restype(), link->getString());
+            break;
+        case OdResBuf::kRtPoint:
+        case OdResBuf::kRtPoint3d:
+            copy = OdResBuf::newPoint(link->restype(), link->getPoint3d());
+            break;
+        default:
+            copy = OdResBuf::newInteger(link->restype(), link->getInteger());
+        }
+        last = last->setNext(std::move(copy));
+    }
+    last->setNext(OdResBuf::newRb(OdResBuf::kRtListEnd));
+    return first;
+}
+
+TEST_F(Engine, valuesGoThereAndBack)
+{
+    behaviour = [](CKvLispEngine &engine) {
+        engine.returnList(listOf(engine.arguments()));
+        return kRtNormal;
+    };
+    const std::vector<const char *> values = {
+        "(1 70000 2.5 \"Größe\" T nil)",
+        "((1.0 2.0) (1.0 2.0 3.0) (1 2 3))",
+        "((8 . \"0\") (10 1.5 2.5 3.5 4.5) (\"a\" (\"b\" (\"c\"))))",
+        "((1 2 . 3))",
+    };
+    for (const char *value : values)
+        EXPECT_EQ(lisp(std::string("(apply 'probe '") + value + ")"), value);
+    lisp("(entmake '((0 . \"POINT\") (10 0 0 0)))");
+    EXPECT_EQ(lisp("(equal (probe (entlast)) (list (entlast)))"), "T");
+    EXPECT_EQ(lisp("(setq s (ssget \"X\"))(eq (ssname (car (probe s)) 0) (entlast))"), "T");
+}
+
+TEST_F(Engine, listsNestedDeeperThanTheStack)
+{
+    int links = 0;
+    behaviour = [&](CKvLispEngine &engine) {
+        for (const OdResBuf *link = engine.arguments(); link; link = link->next())
+            ++links;
+        engine.returnList(listOf(engine.arguments()));
+        return kRtNormal;
+    };
+    EXPECT_EQ(lisp("(repeat 200000 (setq l (list l)))(equal (probe l) (list l))"), "T");
+    EXPECT_EQ(links, 400001);
+}
+
+TEST_F(Engine, resultsOfEachKind)
+{
+    const std::vector<std::pair<std::function<void(CKvLispEngine &)>, const char *>> cases = {
+        {[](CKvLispEngine &) {}, "nil"},
+        {[](CKvLispEngine &e) { e.returnNil(); }, "nil"},
+        {[](CKvLispEngine &e) { e.returnTrue(); }, "T"},
+        {[](CKvLispEngine &e) { e.returnInteger(-70000); }, "-70000"},
+        {[](CKvLispEngine &e) { e.returnReal(2.5); }, "2.5"},
+        {[](CKvLispEngine &e) { e.returnString(QStringLiteral("Ä\"")); }, "\"Ä\\\"\""},
+        {[](CKvLispEngine &e) {
+             e.returnPoint({1.0, 2.0, 3.0});
+         },
+         "(1.0 2.0 3.0)"},
+        {[](CKvLispEngine &e) { e.returnList(nullptr); }, "nil"},
+        {[](CKvLispEngine &e) { e.returnList(OdResBuf::newRb(OdResBuf::kRtListBegin)); }, "nil"},
+        {[](CKvLispEngine &e) { e.returnList(OdResBuf::newRb(OdResBuf::kRtListEnd)); }, "nil"},
+        {[](CKvLispEngine &e) { e.returnInteger(1), e.returnString(QStringLiteral("last")); }, "\"last\""},
+    };
+    for (const auto &[body, expected] : cases) {
+        behaviour = [&body](CKvLispEngine &engine) {
+            body(engine);
+            return kRtNormal;
+        };
+        EXPECT_EQ(lisp("(probe)"), expected);
+    }
+}
+
+TEST_F(Engine, resultCodes)
+{
+    behaviour = [](CKvLispEngine &) { return kRtError; };
+    EXPECT_EQ(lisp("(probe 1)"), "error: bad argument: Probe in (PROBE)");
+    EXPECT_EQ(lisp("(vl-catch-all-error-p (vl-catch-all-apply 'probe '()))"), "T");
+    behaviour = [](CKvLispEngine &) { return kRtCancel; };
+    EXPECT_EQ(lisp("(defun *error* (m) (setq said m))(probe)").rfind("error: Function cancelled", 0), 0U);
+    EXPECT_EQ(lisp("(setq *error* nil)said"), "\"Function cancelled\"");
+    behaviour = [](CKvLispEngine &engine) {
+        engine.returnInteger(4);
+        return kRtNone;
+    };
+    EXPECT_EQ(lisp("(probe)"), "4");
+    behaviour = [](CKvLispEngine &) -> int { throw std::runtime_error("oops"); };
+    EXPECT_EQ(lisp("(probe)"), "error: Probe: oops in (PROBE)");
+}
+
+TEST_F(Engine, argumentsCanBeGivenBackEarly)
+{
+    std::string left;
+    behaviour = [&](CKvLispEngine &engine) {
+        engine.releaseArguments(nullptr);
+        engine.releaseArguments(engine.arguments()->next());
+        left = chainText(engine.arguments());
+        engine.releaseArguments(engine.arguments());
+        EXPECT_EQ(engine.arguments(), nullptr);
+        return kRtNormal;
+    };
+    lisp("(probe 1 2 3)");
+    EXPECT_EQ(left, "5003:1");
+}
+
+TEST_F(Engine, callsNest)
+{
+    std::string outer;
+    behaviour = [&](CKvLispEngine &engine) {
+        if (engine.arguments()->getInteger() == 1) {
+            engine.returnString(QStringLiteral("outer"));
+            document().run(QStringLiteral("(setq inner (probe 2))"));
+            outer = chainText(engine.arguments());
+        } else {
+            engine.returnString(QStringLiteral("inner"));
+        }
+        return kRtNormal;
+    };
+    EXPECT_EQ(lisp("(list (probe 1 \"x\") inner)"), "(\"outer\" \"inner\")");
+    EXPECT_EQ(outer, "5003:1 5005:x");
+}
+
+TEST_F(Engine, aHandlerWorksOnTheDocumentThatCalls)
+{
+    Document &first = document();
+    session.documents().create();
+    CKvDocument *seen = nullptr;
+    behaviour = [&](CKvLispEngine &engine) {
+        seen = ACTIVE_DOCUMENT();
+        engine.returnInteger(3);
+        return kRtNormal;
+    };
+    EXPECT_EQ(first.run(QStringLiteral("(probe)")).value, QStringLiteral("3"));
+    EXPECT_EQ(seen, &first);
+    EXPECT_EQ(ACTIVE_DOCUMENT(), &document());
+}
+
+TEST_F(Engine, functionsComeAndGo)
+{
+    behaviour = [](CKvLispEngine &) { return kRtNormal; };
+    EXPECT_EQ(lisp("(PROBE)"), "nil");
+    document().lispEngine()->undefineFunction(QStringLiteral("pRoBe"));
+    document().lispEngine()->undefineFunction(QStringLiteral("nosuch"));
+    EXPECT_EQ(lisp("(probe)").rfind("error: no function definition: PROBE", 0), 0U);
+    // What a program defined itself stays.
+    lisp("(defun mine () 1)");
+    document().lispEngine()->undefineFunction(QStringLiteral("mine"));
+    EXPECT_EQ(lisp("(mine)"), "1");
+}
+
+TEST_F(Engine, anExternalCommandCanBeTyped)
+{
+    behaviour = [](CKvLispEngine &engine) {
+        engine.print(QStringLiteral("\nhello"));
+        return kRtNormal;
+    };
+    document().lispEngine()->defineFunction(QStringLiteral("c:greet"), probe);
+    EXPECT_TRUE(document().runCommand(QStringLiteral("greet")).ok);
+    EXPECT_EQ(takePrinted(), "\nhello");
+}
+
+TEST_F(Engine, symbols)
+{
+    document().lispEngine()->setSymbol(QStringLiteral("LispCanceled"), *OdResBuf::newInteger(OdResBuf::kRtShort, 1));
+    EXPECT_EQ(lisp("lispcanceled"), "1");
+}
+
+} // namespace

@@ -1,0 +1,191 @@
+#include "host/kernel/Services.h"
+#include "platform/kernel/CKvMessageBox.h"
+#include "platform/kernel/CKvUtils.h"
+#include "platform/kernel/OdResBuf.h"
+#include "platform/rx/OdRxWin32Module.h"
+#include "platform/widgets/CKvQtColorComboBox.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QTemporaryDir>
+#include <QTimer>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+TEST(OdResBufTest, otherKindsReadAsZero)
+{
+    const OdResBufPtr real = OdResBuf::newReal(40, -2.9);
+    EXPECT_EQ(real->getInteger(), -2);
+    EXPECT_EQ(real->getString(), QString());
+    EXPECT_EQ(real->getPoint3d(), OdGePoint3d());
+    EXPECT_EQ(OdResBuf::newReal(40, 1e300)->getInteger(), 0);
+    EXPECT_EQ(OdResBuf::newReal(40, qQNaN())->getInteger(), 0);
+    EXPECT_EQ(OdResBuf::newInteger(70, 5)->getDouble(), 5.0);
+    EXPECT_EQ(OdResBuf::newString(1, QStringLiteral("7"))->getInteger(), 0);
+}
+
+TEST(OdResBufTest, aLongChainIsFreedWithoutRecursion)
+{
+    OdResBufPtr first = OdResBuf::newRb(OdResBuf::kRtNil);
+    OdResBuf *last = first.get();
+    for (int i = 0; i < 1'000'000; ++i)
+        last = last->setNext(OdResBuf::newRb(OdResBuf::kRtNil));
+    EXPECT_EQ(first->takeNext()->restype(), OdResBuf::kRtNil);
+    EXPECT_EQ(first->next(), nullptr);
+}
+
+TEST(Allocator, refusesAboveTheLimit)
+{
+    const std::size_t before = host::kernel::setAllocationLimit(100);
+    void *small = odrxAlloc(100);
+    EXPECT_NE(small, nullptr);
+    EXPECT_EQ(odrxAlloc(101), nullptr);
+    odrxFree(small);
+    odrxFree(nullptr);
+    host::kernel::setAllocationLimit(before);
+}
+
+TEST(ModuleFileName, ofUnknownHandles)
+{
+    int something = 0;
+    EXPECT_EQ(odrxModuleFileName(nullptr, 260), QString());
+    EXPECT_EQ(odrxModuleFileName(&something, 260), QString());
+}
+
+/// Presses the named button of the message box that opens next, or closes the box when there is no name.
+void answerNextBox(const char *button)
+{
+    QTimer::singleShot(0, [button] {
+        QWidget *box = QApplication::activeModalWidget();
+        ASSERT_NE(box, nullptr);
+        EXPECT_EQ(box->objectName(), QStringLiteral("messageBox"));
+        if (!*button)
+            return static_cast<QDialog *>(box)->reject();
+        auto *found = box->findChild<QAbstractButton *>(QString::fromLatin1(button));
+        ASSERT_NE(found, nullptr);
+        found->click();
+    });
+}
+
+TEST(MessageBox, answers)
+{
+    struct Row
+    {
+        const char *press;
+        QMessageBox::StandardButton expected;
+    };
+    for (const Row &row :
+         {Row{"yesButton", QMessageBox::Yes}, Row{"noButton", QMessageBox::No}, Row{"", QMessageBox::No}}) {
+        answerNextBox(row.press);
+        EXPECT_EQ(CKvMessageBox::question(nullptr, QString(), QStringLiteral("<>/\\?")), row.expected) << row.press;
+    }
+    for (const char *press : {"okButton", ""}) {
+        answerNextBox(press);
+        EXPECT_EQ(CKvMessageBox::information(nullptr, QString(), QStringLiteral("done")), QMessageBox::Ok);
+    }
+}
+
+TEST(ColorComboBox, numbersAreTheTexts)
+{
+    CKvQtColorComboBox box;
+    box.setColorIndex(3);
+    EXPECT_EQ(box.currentText(), QStringLiteral("3"));
+    box.setCurrentText(QStringLiteral("256"));
+    EXPECT_EQ(box.colorIndex(), 256);
+    const int count = box.count();
+    box.setColorIndex(137);
+    EXPECT_EQ(box.colorIndex(), 137);
+    EXPECT_EQ(box.count(), count + 1);
+    box.setColorIndex(137);
+    box.setColorIndex(257);
+    box.setColorIndex(-1);
+    EXPECT_EQ(box.count(), count + 1);
+    EXPECT_EQ(box.colorIndex(), 137);
+}
+
+/// What is painted: the name, not the number.
+class ShownColor final : public CKvQtColorComboBox
+{
+public:
+    QString shown() const
+    {
+        QStyleOptionComboBox option;
+        initStyleOption(&option);
+        EXPECT_FALSE(option.currentIcon.isNull());
+        return option.currentText;
+    }
+};
+
+TEST(ColorComboBox, namesAreShown)
+{
+    ShownColor box;
+    for (const auto &[index, name] :
+         {std::pair{256, "ByLayer"}, {0, "ByBlock"}, {1, "Red"}, {7, "White"}, {42, "Color 42"}}) {
+        box.setColorIndex(index);
+        EXPECT_EQ(box.shown(), QString::fromLatin1(name));
+    }
+}
+
+TEST(Utils, iconsThatAreMissingAreNull)
+{
+    EXPECT_TRUE(CKvUtils::icon(QStringLiteral(":/images/none"), QStringLiteral("nosuch")).isNull());
+}
+
+TEST(Utils, darkStyleFollowsThePalette)
+{
+    const QPalette before = QApplication::palette();
+    QPalette palette = before;
+    for (const auto &[colour, isDark] : {std::pair{Qt::black, true}, {Qt::white, false}}) {
+        palette.setColor(QPalette::Window, colour);
+        QApplication::setPalette(palette);
+        EXPECT_EQ(CKvUtils::isDarkStyle(), isDark);
+    }
+    QApplication::setPalette(before);
+}
+
+QByteArray fileWithReferences()
+{
+    QByteArray file = "0\nSECTION\n2\nBLOCKS\n";
+    const auto block = [&](const char *name, int flags, const char *path) {
+        file += QByteArray("0\nBLOCK\n8\n0\n2\n") + name + "\n70\n" + QByteArray::number(flags) +
+                "\n10\n0\n20\n0\n30\n0\n3\n" + name + "\n1\n" + path + "\n0\nENDBLK\n8\n0\n";
+    };
+    block("PLAIN", 0, "");
+    block("SITE", 4, "..\\site\\plan.dwg");
+    block("OVER", 12, "/drawings/over.dwg");
+    return file + "0\nENDSEC\n0\nSECTION\n2\nENTITIES\n0\nCIRCLE\n8\n0\n10\n5\n20\n5\n40\n4\n0\nENDSEC\n0\nEOF\n";
+}
+
+TEST(Utils, drawingsReferTo)
+{
+    const QTemporaryDir folder;
+    QFile file(folder.filePath(QStringLiteral("host.dxf")));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(fileWithReferences());
+    file.close();
+    EXPECT_EQ(CKvUtils::externalReferences(file.fileName()),
+              QStringList({QStringLiteral("..\\site\\plan.dwg"), QStringLiteral("/drawings/over.dwg")}));
+    EXPECT_EQ(CKvUtils::externalReferences(folder.filePath(QStringLiteral("none.dxf"))), QStringList());
+}
+
+TEST(Utils, pictures)
+{
+    const QTemporaryDir folder;
+    QFile file(folder.filePath(QStringLiteral("host.dxf")));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(fileWithReferences());
+    file.close();
+    const QImage picture = CKvUtils::drawingPicture(file.fileName(), {64, 48}, Qt::black);
+    ASSERT_EQ(picture.size(), QSize(64, 48));
+    int lit = 0;
+    for (int y = 0; y < 48; ++y)
+        for (int x = 0; x < 64; ++x)
+            lit += qGray(picture.pixel(x, y)) > 128 ? 1 : 0;
+    EXPECT_GT(lit, 40) << "a circle";
+    EXPECT_LT(lit, 64 * 48 / 2) << "on black";
+    EXPECT_TRUE(CKvUtils::drawingPicture(folder.filePath(QStringLiteral("none.dxf")), {64, 48}, Qt::black).isNull());
+}
+
+} // namespace

@@ -1,0 +1,133 @@
+#include "host/kernel/SystemVariables.h"
+
+#include "host/kernel/Editor.h"
+#include "tests/kernel/Bench.h"
+
+#include <QRegularExpression>
+
+using namespace host::kernel;
+
+namespace {
+
+class Variables : public Bench, public testing::WithParamInterface<LispCase>
+{
+};
+
+TEST_P(Variables, gives)
+{
+    const LispCase &row = GetParam();
+    if (*row.setUp)
+        lisp(row.setUp);
+    EXPECT_EQ(lisp(row.expression), row.expected);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    All, Variables,
+    testing::Values(
+        LispCase{"any letter case", "(setvar \"cmdecho\" 0)", "(getvar \"CmdEcho\")", "0"},
+        LispCase{"unknown", "", "(getvar \"NOSUCH\")", "nil"},
+        LispCase{"setting an unknown one", "", "(setvar \"NOSUCH\" 1)",
+                 "error: variable setting rejected: \"NOSUCH\" 1 (unknown) in (SETVAR)"},
+        LispCase{"read-only", "", "(setvar \"DWGNAME\" \"x\")",
+                 "error: variable setting rejected: \"DWGNAME\" \"x\" (read-only) in (SETVAR)"},
+        LispCase{"out of range", "", "(setvar \"LUNITS\" 9)",
+                 "error: variable setting rejected: \"LUNITS\" 9 (out of range) in (SETVAR)"},
+        LispCase{"of another type", "", "(setvar \"LUNITS\" 2.5)",
+                 "error: variable setting rejected: \"LUNITS\" 2.5 (of another type) in (SETVAR)"},
+        LispCase{"an integer for a real", "(setvar \"LTSCALE\" 3)", "(getvar \"LTSCALE\")", "3.0"},
+        LispCase{"angles are radians", "(setvar \"ANGBASE\" 1.0)", "(equal (getvar \"ANGBASE\") 1.0 1e-12)", "T"},
+        LispCase{"a layer that exists", "(entmake '((0 . \"LAYER\") (2 . \"A\") (70 . 0)))(setvar \"CLAYER\" \"A\")",
+                 "(getvar \"CLAYER\")", "\"A\""},
+        LispCase{"a layer that does not", "", "(setvar \"CLAYER\" \"NONE\")",
+                 "error: variable setting rejected: \"CLAYER\" \"NONE\" (out of range) in (SETVAR)"},
+        LispCase{"colour as text", "(setvar \"CECOLOR\" \"3\")", "(getvar \"CECOLOR\")", "\"3\""},
+        LispCase{"colour by layer", "(setvar \"CECOLOR\" \"3\")(setvar \"CECOLOR\" \"bylayer\")",
+                 "(getvar \"CECOLOR\")", "\"BYLAYER\""},
+        LispCase{"the model tab", "", "(list (getvar \"CTAB\") (getvar \"TILEMODE\"))", "(\"Model\" 1)"},
+        LispCase{"the layout tab", "(setvar \"CTAB\" \"layout1\")", "(list (getvar \"CTAB\") (getvar \"TILEMODE\"))",
+                 "(\"Layout1\" 0)"},
+        LispCase{"entities go into the current tab", "(setvar \"TILEMODE\" 0)(command \"POINT\" '(0 0))",
+                 "(cdr (assoc 67 (entget (entlast))))", "1"},
+        LispCase{"points", "(setvar \"LIMMAX\" '(420 297))", "(getvar \"LIMMAX\")", "(420.0 297.0)"},
+        LispCase{"extents of an empty drawing", "", "(getvar \"EXTMIN\")", "(1.0e+20 1.0e+20 1.0e+20)"},
+        LispCase{"extents follow the drawing", "(command \"LINE\" '(1 2) '(30 20) \"\")",
+                 "(list (getvar \"EXTMIN\") (getvar \"EXTMAX\"))", "((1.0 2.0 0.0) (30.0 20.0 0.0))"},
+        LispCase{"modified", "(entmake '((0 . \"POINT\") (10 0 0 0)))", "(getvar \"DBMOD\")", "1"},
+        LispCase{"not modified", "", "(getvar \"DBMOD\")", "0"},
+        LispCase{"a header variable without a row", "", "(getvar \"SPLINESEGS\")", "8"},
+        LispCase{"the name of a new drawing", "", "(list (getvar \"DWGNAME\") (getvar \"DWGTITLED\"))",
+                 "(\"Drawing1\" 0)"},
+        LispCase{"numbers follow the drawing", "(setvar \"LUNITS\" 4)(setvar \"LUPREC\" 1)", "(rtos 17.5)",
+                 "\"1'-5 1/2\\\"\""}));
+
+TEST_F(Bench, theHomeFolderEndsWithASeparator)
+{
+    const QString home = QDir::cleanPath(path("home"));
+    EXPECT_EQ(document().systemVariable(QStringLiteral("logfilepath")), home + u'/');
+    EXPECT_TRUE(QFileInfo(home).isDir());
+    EXPECT_EQ(lisp("(setvar \"LOGFILEPATH\" \"" + path("").toStdString() + "\")").rfind("error", 0), std::string::npos);
+    EXPECT_TRUE(document().systemVariable(QStringLiteral("LOGFILEPATH")).endsWith(u'/'));
+    EXPECT_EQ(lisp("(setvar \"LOGFILEPATH\" \"/no/such/folder\")").rfind("error", 0), 0U);
+}
+
+TEST(Home, theEnvironmentSaysWhere)
+{
+    const QTemporaryDir folder;
+    qputenv("ORTAKIT_HOME", folder.filePath(QStringLiteral("h")).toUtf8());
+    EXPECT_EQ(Session().home(), QDir::cleanPath(folder.filePath(QStringLiteral("h"))));
+    EXPECT_EQ(Session({.home = folder.filePath(QStringLiteral("i")), .supportFolders = {}, .helpFolder = {}}).home(),
+              QDir::cleanPath(folder.filePath(QStringLiteral("i"))));
+    qunsetenv("ORTAKIT_HOME");
+}
+
+TEST_F(Bench, datesAreNow)
+{
+    const QString date = document().systemVariable(QStringLiteral("CDATE"));
+    EXPECT_TRUE(date.startsWith(QDate::currentDate().toString(QStringLiteral("yyyyMMdd")))) << date.toStdString();
+    EXPECT_EQ(lisp("(fix (getvar \"DATE\"))"), std::to_string(QDate::currentDate().toJulianDay()));
+}
+
+/// Every name can be read and has a kind.
+TEST_F(Bench, allNamesAreKnown)
+{
+    for (const QString &name : document().variables().names())
+        EXPECT_TRUE(document().variables().get(name).has_value()) << name.toStdString();
+    EXPECT_GT(document().variables().names().size(), 150);
+}
+
+class VariableListener final : public OdStaticRxObject<OdEditorReactor>
+{
+public:
+    void sysVarWillChange(OdDbDatabase *database, const OdString &name) override
+    {
+        names.append(name);
+        valueThen = ACTIVE_DOCUMENT()->systemVariable(name);
+        lastDatabase = database;
+    }
+
+    QStringList names;
+    QString valueThen;
+    OdDbDatabase *lastDatabase = nullptr;
+};
+
+TEST_F(Bench, reactorsHearBeforeAVariableChanges)
+{
+    VariableListener listener;
+    session.editor().addReactor(&listener);
+    session.editor().addReactor(&listener);
+    lisp("(setvar \"Osmode\" 1)(setvar \"OSMODE\" 2)");
+    EXPECT_EQ(listener.names, QStringList({QStringLiteral("Osmode"), QStringLiteral("OSMODE")}));
+    EXPECT_EQ(listener.valueThen, QStringLiteral("1"));
+    EXPECT_EQ(listener.lastDatabase, document().database());
+    listener.names.clear();
+    lisp("(setvar \"LUNITS\" 99)");
+    EXPECT_TRUE(listener.names.isEmpty()) << "a refused value changes nothing";
+    type("5");
+    lisp("(getint \"N: \")");
+    EXPECT_EQ(listener.names, QStringList({QStringLiteral("LASTPROMPT")}));
+    session.editor().removeReactor(&listener);
+    lisp("(setvar \"OSMODE\" 3)");
+    EXPECT_EQ(listener.names.size(), 1);
+}
+
+} // namespace
