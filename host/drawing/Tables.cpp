@@ -119,7 +119,8 @@ RecordId Tables::table(TableKind kind) const
     if (!isValid(section))
         return noRecord;
     for (RecordId id = m_drawing.firstChild(section); isValid(id); id = m_drawing.nextSibling(id)) {
-        const Tag *name = m_drawing.tags(id).find(2);
+        const TagList tags = m_drawing.tags(id);
+        const Tag *name = tags.find(2);
         if (name && name->trimmed().compare(tableTypeName(kind), Qt::CaseInsensitive) == 0)
             return id;
     }

@@ -90,7 +90,7 @@ Field readField(const std::vector<Tag> &tags, size_t index, const TextCodec &cod
 
 } // namespace
 
-const Tag *TagList::find(int code) const
+const Tag *TagList::find(int code) const &
 {
     BraceDepth braces;
     bool isEmbedded = false;
@@ -102,7 +102,7 @@ const Tag *TagList::find(int code) const
     return nullptr;
 }
 
-const Tag *TagList::find(int code, QByteArrayView subclass) const
+const Tag *TagList::find(int code, QByteArrayView subclass) const &
 {
     bool hasMarkers = false;
     bool isWithin = false;

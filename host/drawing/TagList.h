@@ -21,9 +21,11 @@ public:
 
     /// The first tag with this code that is not inside a {...} group of 102 and not extended data of another code;
     /// null when there is none.
-    const Tag *find(int code) const;
+    const Tag *find(int code) const &;
+    const Tag *find(int code) const && = delete; ///< the tag would be gone with the list
     /// As find(), but only after the subclass marker (group 100) `subclass`; in records without markers (R12) anywhere.
-    const Tag *find(int code, QByteArrayView subclass) const;
+    const Tag *find(int code, QByteArrayView subclass) const &;
+    const Tag *find(int code, QByteArrayView subclass) const && = delete;
 
     QString text(int code, const QString &otherwise = {}) const;
     double real(int code, double otherwise = 0.0) const;

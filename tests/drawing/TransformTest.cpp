@@ -135,7 +135,7 @@ TEST(Transform, TextsStayReadable)
     EXPECT_LT((drawing->tags(paragraph).point(11) - Vec3{0, 1, 0}).length(), 1e-9);
     EXPECT_LT((drawing->tags(text).point(11) - Vec3{-6, 3, 0}).length(), 1e-9);
     EXPECT_TRUE(transformEntity(*drawing, text, Matrix::mirror({0, 0, 0}, {1, 0, 0})));
-    EXPECT_FALSE(drawing->tags(text).find(210)) << "it did not turn its back";
+    EXPECT_EQ(drawing->tags(text).point(210, {0, 0, 1}), (Vec3{0, 0, 1})) << "it did not turn its back";
 }
 
 TEST(Transform, WhatCannotBeMappedIsLeft)
