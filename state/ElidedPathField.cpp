@@ -5,7 +5,7 @@
 #include <QFocusEvent>
 #include <QLineEdit>
 
-ElidedPathField::ElidedPathField(QLineEdit *edit) : QObject(edit), m_edit(edit)
+ElidedPathField::ElidedPathField(QLineEdit *edit) : m_edit(edit)
 {
     edit->installEventFilter(this);
     connect(edit, &QLineEdit::returnPressed, this, [this] {

@@ -6,12 +6,15 @@ class QLineEdit;
 
 /// Makes a line edit of a path show it shortened in the middle, while the whole path is in the edit's property
 /// "value", which the state file is written from. While the edit has the keyboard focus it shows the whole path.
+///
+/// A dialog holds it as a member, so that it goes before the dialog does: an open dialog that is destroyed takes the
+/// focus from the edit when nothing of it is left that could hear of a path.
 class ElidedPathField : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Belongs to `edit`.
+    /// `edit` is not owned.
     explicit ElidedPathField(QLineEdit *edit);
 
     /// Takes `path` as it is, and shows it.

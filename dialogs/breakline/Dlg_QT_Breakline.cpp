@@ -4,7 +4,6 @@
 #include "platform/kernel/CKvUtils.h"
 #include "state/DialogPicture.h"
 #include "state/DrawingPicker.h"
-#include "state/ElidedPathField.h"
 #include "state/ModuleFolder.h"
 #include "state/PathMessages.h"
 #include "ui_Dlg_QT_Breakline.h"
@@ -39,7 +38,7 @@ Dlg_QT_Breakline::Dlg_QT_Breakline(QWidget *parent)
 {
     m_ui->setupUi(this);
     setUpButtons();
-    m_file = new ElidedPathField(m_ui->LbTitleblock);
+    m_file = std::make_unique<ElidedPathField>(m_ui->LbTitleblock);
     new DialogPicture(m_ui->widget_2, QStringLiteral(":/images/breakline.png"));
     m_ui->SelectEntities->setIcon(CKvUtils::icon(QStringLiteral(":/images/shared"), QStringLiteral("select_entities")));
 
@@ -47,7 +46,7 @@ Dlg_QT_Breakline::Dlg_QT_Breakline(QWidget *parent)
     state().prependKeys({QStringLiteral("_dist_size"), QStringLiteral("_dist_offset")});
 
     connect(m_ui->name, &QLineEdit::textChanged, this, &Dlg_QT_Breakline::setName);
-    connect(m_file, &ElidedPathField::pathEntered, this, &Dlg_QT_Breakline::pressEnterforName);
+    connect(m_file.get(), &ElidedPathField::pathEntered, this, &Dlg_QT_Breakline::pressEnterforName);
     connect(m_ui->Bt_selectBlock, &QPushButton::clicked, this, &Dlg_QT_Breakline::selectBlock);
     connect(m_ui->SelectEntities, &QToolButton::clicked, this, &Dlg_QT_Breakline::CreateDesing);
     connect(m_ui->acceptButton, &QPushButton::clicked, this, &Dlg_QT_Breakline::CloseAccept);

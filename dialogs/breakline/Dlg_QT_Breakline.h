@@ -1,10 +1,9 @@
 #pragma once
 
+#include "state/ElidedPathField.h"
 #include "state/ToolDialog.h"
 
 #include <memory>
-
-class ElidedPathField;
 
 namespace Ui {
 class Dlg_QT_Breakline;
@@ -39,5 +38,5 @@ private:
     bool hasSymbolFile() const;
 
     std::unique_ptr<Ui::Dlg_QT_Breakline> m_ui;
-    ElidedPathField *m_file;
+    std::unique_ptr<ElidedPathField> m_file;
 };

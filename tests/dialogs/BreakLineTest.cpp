@@ -155,6 +155,14 @@ TEST_F(BreakLine, EnterInTheFileFieldTakesThePathAndStays)
     EXPECT_TRUE(dialog->isVisible());
 }
 
+TEST_F(BreakLine, CanBeDestroyedWhileTheFileFieldHasTheFocus)
+{
+    show();
+    fileField()->setFocus();
+    dialog.reset();
+    EXPECT_FALSE(window.focusWidget());
+}
+
 TEST_F(BreakLine, FileThatWentAwayIsRefusedAtOk)
 {
     showWith(u"lbtitleblock=%1\n"_s.arg(symbol));

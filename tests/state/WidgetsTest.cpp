@@ -27,14 +27,14 @@ void sendFocus(QLineEdit &edit, QEvent::Type type, Qt::FocusReason reason = Qt::
 struct ElidedField : testing::Test
 {
     QLineEdit edit;
-    ElidedPathField *field = nullptr;
+    std::unique_ptr<ElidedPathField> field;
     int entered = 0;
 
     ElidedField()
     {
         edit.resize(200, 24);
-        field = new ElidedPathField(&edit);
-        QObject::connect(field, &ElidedPathField::pathEntered, &edit, [this] { ++entered; });
+        field = std::make_unique<ElidedPathField>(&edit);
+        QObject::connect(field.get(), &ElidedPathField::pathEntered, &edit, [this] { ++entered; });
     }
 };
 
