@@ -5,7 +5,6 @@
 #include "state/WidgetValue.h"
 
 #include <QDialog>
-#include <QDir>
 #include <QPointer>
 
 namespace {
@@ -36,11 +35,7 @@ QString widgetLines(const QWidget &widget)
 
 DialogState::DialogState(QDialog *dialog) : m_dialog(dialog)
 {
-    const QString module = ortakit::moduleFolder();
-    m_favouritesFolder = module + QStringLiteral("/Favorites");
-    // Without a document the path would be relative to whatever folder the program was started in.
-    if (QDir::isAbsolutePath(module))
-        QDir().mkpath(m_favouritesFolder);
+    m_favouritesFolder = ortakit::makeModuleFolder(QStringLiteral("Favorites"));
     dialog->setWindowFlag(Qt::WindowContextHelpButtonHint, false);
 }
 

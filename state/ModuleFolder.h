@@ -8,4 +8,8 @@ namespace ortakit {
 /// Just "Ortakit" when no document is open. Has no separator at its end and need not exist.
 QString moduleFolder();
 
+/// The folder `name` in the module folder ("BreakLine", "Favorites"), made with all missing parents when it does not
+/// exist. Without a document nothing is made: the path would lead to whatever folder the program was started in.
+QString makeModuleFolder(const QString &name);
+
 } // namespace ortakit

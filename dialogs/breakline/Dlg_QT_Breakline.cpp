@@ -8,20 +8,9 @@
 #include "state/PathMessages.h"
 #include "ui_Dlg_QT_Breakline.h"
 
-#include <QDir>
 #include <QFileInfo>
 
 namespace {
-
-QString symbolFolder()
-{
-    return ortakit::moduleFolder() + QStringLiteral("/BreakLine");
-}
-
-QString symbolFile(const QString &name)
-{
-    return symbolFolder() + u'/' + name + QStringLiteral(".dwg");
-}
 
 /// Only the presence of the extension in the name counts, so that backup copies ("plan.dwg.bak") are taken as well.
 bool isNamedLikeDrawing(const QString &path)
@@ -34,7 +23,8 @@ bool isNamedLikeDrawing(const QString &path)
 } // namespace
 
 Dlg_QT_Breakline::Dlg_QT_Breakline(QWidget *parent)
-    : ToolDialog(parent, QStringLiteral("breakline")), m_ui(std::make_unique<Ui::Dlg_QT_Breakline>())
+    : ToolDialog(parent, QStringLiteral("breakline")), m_ui(std::make_unique<Ui::Dlg_QT_Breakline>()),
+      m_symbolFolder(ortakit::makeModuleFolder(QStringLiteral("BreakLine")))
 {
     m_ui->setupUi(this);
     setUpButtons();
@@ -42,7 +32,6 @@ Dlg_QT_Breakline::Dlg_QT_Breakline(QWidget *parent)
     new DialogPicture(m_ui->widget_2, QStringLiteral(":/images/breakline.png"));
     m_ui->SelectEntities->setIcon(CKvUtils::icon(QStringLiteral(":/images/shared"), QStringLiteral("select_entities")));
 
-    QDir().mkpath(symbolFolder());
     state().prependKeys({QStringLiteral("_dist_size"), QStringLiteral("_dist_offset")});
 
     connect(m_ui->name, &QLineEdit::textChanged, this, &Dlg_QT_Breakline::setName);
@@ -89,10 +78,10 @@ void Dlg_QT_Breakline::pressEnterforName()
 void Dlg_QT_Breakline::selectBlock()
 {
     const QString path = m_file->fullPath();
-    const QString chosen = ortakit::pickDrawing(
-        this, {.filter = tr("Drawing files (*.dwg *.dxf)"),
-               .start = path.isEmpty() ? symbolFolder() + QStringLiteral("/noname") : path,
-               .circularReferences = ortakit::CircularReferences::Allow});
+    const QString chosen =
+        ortakit::pickDrawing(this, {.filter = tr("Drawing files (*.dwg *.dxf)"),
+                                    .start = path.isEmpty() ? m_symbolFolder + QStringLiteral("/noname") : path,
+                                    .circularReferences = ortakit::CircularReferences::Allow});
     if (chosen.isEmpty())
         return;
     m_file->setFullPath(isNamedLikeDrawing(chosen) ? chosen : QString());
@@ -114,7 +103,8 @@ void Dlg_QT_Breakline::CloseAccept()
 void Dlg_QT_Breakline::CreateDesing()
 {
     const QString name = m_ui->name->text();
-    if (!ortakit::acceptsNewDrawingName(this, name, symbolFile(name))) {
+    const QString path = m_symbolFolder + u'/' + name + QStringLiteral(".dwg");
+    if (!ortakit::acceptsNewDrawingName(this, name, path)) {
         m_ui->name->setFocus();
         return;
     }

@@ -38,5 +38,7 @@ private:
     bool hasSymbolFile() const;
 
     std::unique_ptr<Ui::Dlg_QT_Breakline> m_ui;
+    /// Where symbols are kept; made by the constructor when it is missing.
+    const QString m_symbolFolder;
     std::unique_ptr<ElidedPathField> m_file;
 };
