@@ -30,7 +30,6 @@ Dlg_QT_Breakline::Dlg_QT_Breakline(QWidget *parent)
     setUpButtons();
     m_file = std::make_unique<ElidedPathField>(m_ui->LbTitleblock);
     new DialogPicture(m_ui->widget_2, QStringLiteral(":/images/breakline.png"));
-    m_ui->SelectEntities->setIcon(CKvUtils::icon(QStringLiteral(":/images/shared"), QStringLiteral("select_entities")));
 
     state().prependKeys({QStringLiteral("_dist_size"), QStringLiteral("_dist_offset")});
 
@@ -52,6 +51,7 @@ bool Dlg_QT_Breakline::appliesAgain() const
 
 void Dlg_QT_Breakline::afterShow()
 {
+    m_ui->SelectEntities->setIcon(CKvUtils::icon(QStringLiteral(":/images/shared"), QStringLiteral("select_entities")));
     OdDbDatabase *database = ACTIVE_DOCUMENT() ? ACTIVE_DOCUMENT()->database() : nullptr;
     for (CKvQtUnitSpinBox *box : {m_ui->_dist_size, m_ui->_dist_offset}) {
         box->clearFocus();

@@ -63,7 +63,9 @@ void CommandLine::print(const QString &text)
     const bool wasAtEnd = bar->value() >= bar->maximum();
     QTextCursor cursor(m_history->document());
     cursor.movePosition(QTextCursor::End);
-    cursor.insertText(text);
+    // Programs begin what they say with a line feed, and what was typed has ended with one.
+    const bool isNewLineSpare = cursor.atBlockStart() && text.startsWith(u'\n');
+    cursor.insertText(isNewLineSpare ? text.sliced(1) : text);
     if (wasAtEnd)
         bar->setValue(bar->maximum());
 }
