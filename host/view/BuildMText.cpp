@@ -56,10 +56,7 @@ Style runStyle(const BuildContext &context, const MTextFormat &format)
     if (format.trueColour) {
         style.colour = {.kind = Colour::Kind::True, .value = *format.trueColour};
     } else if (format.colourIndex) {
-        const int index = *format.colourIndex;
-        style.colour = index == 0     ? Colour{.kind = Colour::Kind::ByBlock}
-                       : index >= 256 ? Colour{}
-                                      : Colour{.kind = Colour::Kind::Index, .value = static_cast<std::uint32_t>(index)};
+        style.colour = colourFromIndex(*format.colourIndex);
     }
     return style;
 }
@@ -85,6 +82,44 @@ MTextBox readBox(const TagList &tags)
     return box;
 }
 
+/// Background: a colour of its own, or that of what the drawing lies on.
+std::optional<MTextPlace::Cover> readCover(const TagList &tags)
+{
+    constexpr qint64 hasColour = 1;
+    constexpr qint64 hasGround = 2;
+    const qint64 flags = tags.integer(90);
+    if ((flags & (hasColour | hasGround)) == 0)
+        return std::nullopt;
+    MTextPlace::Cover cover;
+    const double scale = tags.real(45, 1.5);
+    cover.margin = scale >= 1.0 && scale <= 5.0 ? scale - 1.0 : 0.5;
+    if ((flags & hasGround) != 0)
+        return cover;
+    cover.kind = FillKind::Area;
+    if (const Tag *trueColour = tags.find(421))
+        cover.colour = {Colour::Kind::True, static_cast<std::uint32_t>(trueColour->integer().value_or(0) & 0xffffff)};
+    else
+        cover.colour = colourFromIndex(tags.integer(63, 256));
+    return cover;
+}
+
+void addCover(BuildContext &context, const MTextPlace::Cover &cover, const Matrix &placement, const MTextLayout &layout,
+              double textHeight)
+{
+    constexpr double tails = 0.33;
+    const double margin = cover.margin * textHeight;
+    Curve frame;
+    for (const Vec3 &corner : {Vec3{-margin, margin, 0.0}, Vec3{layout.width + margin, margin, 0.0},
+                               Vec3{layout.width + margin, -layout.height - margin - tails * textHeight, 0.0},
+                               Vec3{-margin, -layout.height - margin - tails * textHeight, 0.0}}) {
+        frame.points.push_back(placement.point(corner));
+    }
+    frame.points.push_back(frame.points.front());
+    Style style = context.style;
+    style.colour = cover.colour;
+    context.add(Fill{.contours = {frame}, .kind = cover.kind}, style);
+}
+
 } // namespace
 
 void addMText(BuildContext &context, const MTextPlace &place, const QString &content, MTextBox box)
@@ -97,6 +132,8 @@ void addMText(BuildContext &context, const MTextPlace &place, const QString &con
     const MTextLayout layout = layOutMText(MTextParser(content, start).parse(), box, place.height, context.fonts());
     const Vec3 corner{-layout.width * column / 2.0, layout.height * (place.attachment / 3) / 2.0, 0.0};
     const Matrix placement = place.frame * Matrix::translation(corner);
+    if (place.cover)
+        addCover(context, *place.cover, placement, layout, place.height);
     for (const MTextRun &run : layout.runs) {
         if (run.text.trimmed().isEmpty())
             continue;
@@ -122,7 +159,8 @@ bool buildMText(BuildContext &context, const TagList &tags)
     const MTextPlace place{.frame = Matrix::translation(at) * ocs * Matrix::rotation(rotation),
                            .height = height,
                            .attachment = static_cast<int>(std::clamp<qint64>(tags.integer(71, 1), 1, 9)) - 1,
-                           .styleName = tags.text(7)};
+                           .styleName = tags.text(7),
+                           .cover = readCover(tags)};
     // An empty text shows nothing, which is what it says.
     addMText(context, place, readContent(tags), readBox(tags));
     return true;

@@ -47,6 +47,7 @@ constexpr std::array typeRows = {
     TypeRow{"ATTRIB", buildText},
     TypeRow{"ATTDEF", buildAttdef},
     TypeRow{"MTEXT", buildMText},
+    TypeRow{"RTEXT", buildRemoteText},
     TypeRow{"HATCH", buildHatch},
     TypeRow{"INSERT", buildInsert},
     TypeRow{"DIMENSION", buildDimension},
@@ -67,15 +68,6 @@ const TypeRow *findType(QByteArrayView name)
     return found == byType.end() ? nullptr : found->second;
 }
 
-Colour colourOf(qint64 index)
-{
-    if (index == 0)
-        return {.kind = Colour::Kind::ByBlock};
-    const qint64 shown = std::abs(index);
-    return shown >= 1 && shown <= 255 ? Colour{.kind = Colour::Kind::Index, .value = static_cast<std::uint32_t>(shown)}
-                                      : Colour{};
-}
-
 void readStyleTag(const TagList &tags, const Tag &tag, Appearance &appearance, Style &style, bool &isInvisible)
 {
     switch (tag.code) {
@@ -93,7 +85,7 @@ void readStyleTag(const TagList &tags, const Tag &tag, Appearance &appearance, S
         break;
     case 62:
         if (style.colour.kind != Colour::Kind::True)
-            style.colour = colourOf(tag.integer().value_or(256));
+            style.colour = colourFromIndex(tag.integer().value_or(256));
         break;
     case 370:
         style.lineweight = static_cast<int>(std::clamp<qint64>(tag.integer().value_or(-1), -3, 211));
@@ -108,6 +100,15 @@ void readStyleTag(const TagList &tags, const Tag &tag, Appearance &appearance, S
 }
 
 } // namespace
+
+Colour colourFromIndex(qint64 index)
+{
+    if (index == 0)
+        return {.kind = Colour::Kind::ByBlock};
+    const qint64 shown = std::abs(index);
+    return shown >= 1 && shown <= 255 ? Colour{.kind = Colour::Kind::Index, .value = static_cast<std::uint32_t>(shown)}
+                                      : Colour{};
+}
 
 bool isUsable(double value)
 {

@@ -36,6 +36,9 @@ bool isUsable(const Vec3 &point);
 /// as skipped.
 RecordDisplay buildDisplay(const drawing::Drawing &drawing, Scene &scene, std::int64_t &patternPieces, RecordId record);
 
+/// A colour by its number in group 62: 0 by block, 256 by layer; a negative one counts as its positive.
+Colour colourFromIndex(qint64 index);
+
 /// The style that the common groups of an entity say; `isInvisible` as group 60 has it.
 Style readStyle(const drawing::TagList &tags, Appearance &appearance, bool *isInvisible = nullptr);
 
@@ -62,6 +65,7 @@ bool buildViewport(BuildContext &context, const drawing::TagList &tags);
 bool buildText(BuildContext &context, const drawing::TagList &tags);
 bool buildAttdef(BuildContext &context, const drawing::TagList &tags);
 bool buildMText(BuildContext &context, const drawing::TagList &tags);
+bool buildRemoteText(BuildContext &context, const drawing::TagList &tags);
 bool buildHatch(BuildContext &context, const drawing::TagList &tags);
 bool buildInsert(BuildContext &context, const drawing::TagList &tags);
 bool buildDimension(BuildContext &context, const drawing::TagList &tags);

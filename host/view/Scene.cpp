@@ -332,6 +332,16 @@ RenderReport Scene::report(int block)
     return report;
 }
 
+/// Shapes of shape files in its linetype are left out.
+bool Scene::hasPatternShapes(const RecordDisplay &record) const
+{
+    return std::ranges::any_of(record.items, [this](const DisplayItem &item) {
+        const int own = item.style.linetype;
+        const int shown = own == Style::byLayer ? m_appearance.layerLook(item.style.layer).linetype : own;
+        return shown > 0 && m_appearance.pattern(shown).hasShapes;
+    });
+}
+
 void Scene::countInto(RenderReport &report, const BlockDisplay &block, std::vector<char> &visited) const
 {
     visited[static_cast<std::size_t>(block.number)] = 1;
@@ -341,7 +351,7 @@ void Scene::countInto(RenderReport &report, const BlockDisplay &block, std::vect
             ++report.skipped[type];
         else if (record.isHidden)
             ++report.hidden;
-        else if (record.isSimplified)
+        else if (record.isSimplified || hasPatternShapes(record))
             ++report.simplified[type];
         else
             ++report.drawn;

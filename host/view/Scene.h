@@ -115,6 +115,7 @@ private:
     void updateBoxes();
     void updateBox(BlockDisplay &block, std::vector<char> &visited);
     void updateBox(RecordDisplay &record, std::vector<char> &visited);
+    bool hasPatternShapes(const RecordDisplay &record) const;
     void countInto(RenderReport &report, const BlockDisplay &block, std::vector<char> &visited) const;
 
     const drawing::Drawing &m_drawing;

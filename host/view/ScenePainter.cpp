@@ -10,7 +10,7 @@ namespace host::view {
 
 namespace {
 
-constexpr double readableText = 2.5; ///< pixels; smaller texts are drawn as a line
+constexpr double readableText = 3.0; ///< pixels; smaller texts are drawn as a line
 constexpr double margin = 4.0;       ///< pixels beyond the edge, for thick lines
 constexpr int denseAlpha = 110;
 constexpr int highlightFillAlpha = 120;

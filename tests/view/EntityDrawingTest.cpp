@@ -2,6 +2,8 @@
 
 #include "tests/view/Rendering.h"
 
+#include <QTemporaryDir>
+
 #include <gtest/gtest.h>
 
 namespace host::view::test {
@@ -167,6 +169,15 @@ TEST(EntityDrawing, Areas)
               "|0 LINE|8 0|10 0|20 60|11 100|21 60"},
          {{10, 40}, {50, 60}},
          {{50, 40}}},
+        {"text with the ground behind it",
+         {.entities =
+              "0 LINE|8 0|10 0|20 50|11 100|21 50|0 MTEXT|8 0|10 30|20 60|40 20|41 40|71 1|90 3|63 1|45 1.5|1 %%032"},
+         {{10, 50}, {90, 50}},
+         {{45, 50}}},
+        {"text with a colour behind it",
+         {.entities = "0 MTEXT|8 0|10 30|20 60|40 20|41 40|71 1|90 1|63 1|45 1.5|1 %%032"},
+         {{45, 50}, {32, 62}},
+         {{10, 50}}},
         {"picture shows its frame",
          {.entities = "0 IMAGE|8 0|10 20|20 20|11 1|21 0|12 0|22 1|13 60|23 40"},
          {{50, 20}, {50, 60}, {80, 40}},
@@ -343,6 +354,25 @@ TEST(EntityDrawing, SortHandlesOrderWhatCoversWhat)
     EXPECT_EQ(Rendering({.entities = red + "|" + blue}).color(50, 50), QColor(0, 0, 255));
     const std::string table = "0 SORTENTSTABLE|5 B1|330 1F|331 A1|5 A2|331 A2|5 A1";
     EXPECT_EQ(Rendering({.entities = red + "|" + blue, .objects = table}).color(50, 50), QColor(255, 0, 0));
+}
+
+TEST(EntityDrawing, RemoteTextShowsItsFile)
+{
+    QTemporaryDir folder;
+    QFile file(folder.filePath(QStringLiteral("note.txt")));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write("H\nH\n");
+    file.close();
+    const auto drawing = readDrawing({.entities = "0 RTEXT|8 0|10 20|20 60|40 12|50 0|70 0|1 note.txt"});
+    drawing->setPath(folder.filePath(QStringLiteral("a.dxf")));
+    Scene scene(*drawing);
+    const QRectF ink = Rendering(scene, Scene::modelSpace).inkBox();
+    EXPECT_NEAR(ink.bottom(), 72.0, 1.0) << "the first of two lines stands on the insertion point";
+    EXPECT_NEAR(ink.top(), 40.0, 1.0) << "the second five thirds of the height below";
+    EXPECT_EQ(scene.report(Scene::modelSpace).drawn, 1);
+    const Rendering unread({.entities = "0 RTEXT|8 0|10 20|20 80|40 12|50 0|70 0|1 /dev/zero"});
+    EXPECT_LT(unread.inkBox().height(), 20.0) << "the name alone";
+    EXPECT_EQ(unread.report().simplified, (QMap<QString, qint64>{{QStringLiteral("RTEXT"), 1}}));
 }
 
 TEST(EntityDrawing, WhatCannotBeDrawnIsCounted)

@@ -109,6 +109,15 @@ TEST(LinetypeDrawing, CurvesAreDashedAlongTheirWay)
     EXPECT_LT(part, 0.65);
 }
 
+TEST(LinetypeDrawing, ShapesInThePatternAreReportedAsLeftOut)
+{
+    const std::string shaped = tableText(
+        "LTYPE", "0 LTYPE|2 S|70 0|3 x|72 65|73 2|40 20|49 10|74 4|75 132|340 0|46 1|50 0|44 0|45 0|49 -10|74 0");
+    const Rendering shown({.entities = line("8 0|6 S"), .tables = shaped});
+    EXPECT_EQ(shown.runs({10, 50}, {90, 50}), 5);
+    EXPECT_EQ(shown.report().simplified, (QMap<QString, qint64>{{QStringLiteral("LINE"), 1}}));
+}
+
 TEST(LinetypeDrawing, TextsInThePattern)
 {
     const Rendering shown({.entities = line("8 0|6 TEXT"), .tables = linetypes});
