@@ -41,10 +41,7 @@ protected:
     QLineEdit *nameField() const { return find<QLineEdit>("name"); }
     bool isEnabled(const char *name) const { return find(name)->isEnabled(); }
     QString path() const { return fileField()->property("value").toString(); }
-    QString symbolFolder() const
-    {
-        return host.path(QString()) + u"Ortakit/BreakLine"_s;
-    }
+    QString symbolFolder() const { return host.path(QString()) + u"Ortakit/BreakLine"_s; }
 
     /// Shows the dialog with a state file of these lines, as the Lisp function does.
     void showWith(const QString &lines)
