@@ -237,7 +237,7 @@ int runLispFiles(const ProgramOptions &options)
         const kernel::RunResult result = loadLisp(*document, file);
         if (result.ok && nobody.problem().isEmpty())
             continue;
-        writeMessage(native(file) + u": "_s + (nobody.problem().isEmpty() ? result.report : nobody.problem()));
+        writeMessage(native(file) + u": "_s + (nobody.problem().isEmpty() ? result.error : nobody.problem()));
         status = ExitFailed;
         break;
     }
@@ -249,7 +249,8 @@ int convertDrawing(const ProgramOptions &options)
 {
     const QString extension = QFileInfo(options.output).suffix().toLower();
     const bool isPicture = pictureExtensions().contains(extension);
-    if (!isPicture && extension != "dxf"_L1) {
+    // Saving knows best why a name for a DWG file is refused.
+    if (!isPicture && extension != "dxf"_L1 && extension != "dwg"_L1) {
         writeMessage(
             u"%1: the extension must be dxf, %2"_s.arg(native(options.output), pictureExtensions().join(", "_L1)));
         return ExitUsage;
