@@ -15,7 +15,7 @@ bool isWord(QByteArrayView text, QByteArrayView upperWord)
 bool hasLoneCarriageReturn(QByteArrayView bytes)
 {
     for (qsizetype i = bytes.indexOf('\r'); i >= 0; i = bytes.indexOf('\r', i + 1)) {
-        if (i + 1 >= bytes.size() || (bytes[i + 1] != '\n' && bytes[i + 1] != '\r'))
+        if (i + 1 >= bytes.size() || bytes[i + 1] != '\n')
             return true;
     }
     return false;
