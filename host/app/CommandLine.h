@@ -28,7 +28,7 @@ public:
 
     explicit CommandLine(QWidget *parent = nullptr);
 
-    /// Text as it comes, with its own line feeds.
+    /// Text as it comes, with its own line feeds; one that begins it is left out at the begin of a line.
     void print(const QString &text);
     /// Only the last line is shown; options in brackets become links.
     void setPrompt(const QString &prompt);

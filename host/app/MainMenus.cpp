@@ -28,13 +28,12 @@ QAction *MainWindow::addAction(QMenu &menu, const QString &text, const QKeySeque
     return action;
 }
 
-void MainWindow::addChoice(QMenu &menu, QActionGroup &group, const QString &text, bool isChecked,
-                           const std::function<void()> &body)
+QAction *MainWindow::addChoice(QMenu &menu, QActionGroup &group, const QString &text, const std::function<void()> &body)
 {
     QAction *action = addAction(menu, text, {}, WhenBusy::Enabled, body);
     action->setCheckable(true);
-    action->setChecked(isChecked);
     group.addAction(action);
+    return action;
 }
 
 void MainWindow::buildMenus()
@@ -104,15 +103,13 @@ void MainWindow::buildViewMenu()
               withCanvas([](DrawingCanvas &current) { current.zoomBy(1.0 / 1.5); }));
     menu.addSeparator();
     auto *grounds = new QActionGroup(this);
-    addChoice(menu, *grounds, tr("&Black ground"), true, [this] { setGround(view::Ground::Black); });
-    addChoice(menu, *grounds, tr("W&hite ground"), false, [this] { setGround(view::Ground::White); });
+    m_blackGround = addChoice(menu, *grounds, tr("&Black ground"), [this] { setGround(view::Ground::Black); });
+    m_whiteGround = addChoice(menu, *grounds, tr("W&hite ground"), [this] { setGround(view::Ground::White); });
     menu.addSeparator();
     auto *styles = new QActionGroup(this);
-    const Style style = currentStyle();
-    addChoice(menu, *styles, tr("&Light style"), style == Style::Light, [this] { setStyleOfWindows(Style::Light); });
-    styles->actions().constLast()->setObjectName(u"styleLight"_s);
-    addChoice(menu, *styles, tr("&Dark style"), style == Style::Dark, [this] { setStyleOfWindows(Style::Dark); });
-    styles->actions().constLast()->setObjectName(u"styleDark"_s);
+    m_lightStyle = addChoice(menu, *styles, tr("&Light style"), [this] { setStyleOfWindows(Style::Light); });
+    m_darkStyle = addChoice(menu, *styles, tr("&Dark style"), [this] { setStyleOfWindows(Style::Dark); });
+    (currentStyle() == Style::Dark ? m_darkStyle : m_lightStyle)->setChecked(true);
 }
 
 void MainWindow::buildToolsMenu()

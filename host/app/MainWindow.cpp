@@ -2,6 +2,7 @@
 
 #include "host/app/CommandLine.h"
 #include "host/app/DrawingCanvas.h"
+#include "host/app/Preferences.h"
 #include "host/app/WindowFeeder.h"
 #include "host/drawing/HeaderVariables.h"
 
@@ -85,7 +86,7 @@ MainWindow::MainWindow(const WorkbenchOptions &options)
     connectCommandLine();
 
     m_workbench->session().setFeeder(m_feeder.get());
-    connect(m_feeder.get(), &WindowFeeder::requestChanged, this, &MainWindow::requestChanged);
+    connect(m_feeder.get(), &WindowFeeder::requestChanged, this, [this] { showRequest(m_feeder->request()); });
     connect(m_tabs, &QTabWidget::currentChanged, this, &MainWindow::activateTab);
     connect(m_tabs, &QTabWidget::tabCloseRequested, this, &MainWindow::closeTab);
     kernel::DocumentManager &documents = m_workbench->documents();
@@ -95,8 +96,8 @@ MainWindow::MainWindow(const WorkbenchOptions &options)
     m_reportTimer.setSingleShot(true);
     m_reportTimer.setInterval(reportDelay);
     connect(&m_reportTimer, &QTimer::timeout, this, &MainWindow::updateReport);
-    for (const QString &problem : m_workbench->problems())
-        m_commandLine->print(problem + u'\n');
+    loadPreferences();
+    tellProblems();
     m_commandLine->setFocus();
     updateState();
 }
@@ -172,6 +173,7 @@ void MainWindow::addTab(kernel::Document *document)
     const int index = m_tabs->addTab(canvas, document->title());
     m_tabs->setCurrentIndex(index);
     canvas->zoomExtents();
+    tellProblems();
     updateTitles();
 }
 
@@ -271,6 +273,19 @@ void MainWindow::runQueue()
         QTimer::singleShot(0, this, &QWidget::close);
 }
 
+PlaybackResult MainWindow::play(const PlaybackScript &script, PlaybackOptions options)
+{
+    if (isBusy() || !document())
+        return {.ok = false, .line = 0, .message = tr("No session can be played now."), .printed = {}, .files = {}};
+    m_isRunning = true;
+    updateState();
+    options.showPrompt = [this](const std::optional<kernel::PromptRequest> &request) { showRequest(request); };
+    PlaybackResult result = runSession(script, *document(), options);
+    m_isRunning = false;
+    updateState();
+    return result;
+}
+
 void MainWindow::cancel()
 {
     if (canvas() && canvas()->abandonBox())
@@ -291,9 +306,8 @@ void MainWindow::undoOrRedo(const QString &command)
         enter(command);
 }
 
-void MainWindow::requestChanged()
+void MainWindow::showRequest(const std::optional<kernel::PromptRequest> &request)
 {
-    const std::optional<kernel::PromptRequest> &request = m_feeder->request();
     if (DrawingCanvas *current = canvas())
         current->setRequest(request);
     const bool takesBlanks = request && request->kind == kernel::PromptKind::String && request->allowSpaces;
@@ -304,6 +318,28 @@ void MainWindow::requestChanged()
 }
 
 // State
+
+void MainWindow::tellProblems()
+{
+    const QStringList &problems = m_workbench->problems();
+    for (; m_problemsTold < problems.size(); ++m_problemsTold)
+        m_commandLine->print(u'\n' + problems[m_problemsTold] + u'\n');
+}
+
+void MainWindow::loadPreferences()
+{
+    const Preferences preferences = Preferences::load(m_workbench->session().home());
+    restoreGeometry(preferences.geometry);
+    m_commandLine->setEntries(preferences.entries);
+    setGround(preferences.ground);
+}
+
+void MainWindow::savePreferences() const
+{
+    const Preferences preferences{
+        .style = currentStyle(), .ground = m_ground, .geometry = saveGeometry(), .entries = m_commandLine->entries()};
+    preferences.save(m_workbench->session().home());
+}
 
 void MainWindow::updateState()
 {
@@ -354,6 +390,7 @@ void MainWindow::updateReport()
 void MainWindow::setGround(view::Ground ground)
 {
     m_ground = ground;
+    (ground == view::Ground::Black ? m_blackGround : m_whiteGround)->setChecked(true);
     for (int i = 0; i < m_tabs->count(); ++i)
         static_cast<DrawingCanvas *>(m_tabs->widget(i))->setGround(ground);
 }
@@ -361,9 +398,7 @@ void MainWindow::setGround(view::Ground ground)
 void MainWindow::setStyleOfWindows(Style style)
 {
     applyStyle(style);
-    for (QAction *action : findChildren<QAction *>())
-        if (action->objectName() == (style == Style::Dark ? u"styleDark"_s : u"styleLight"_s))
-            action->setChecked(true);
+    (style == Style::Dark ? m_darkStyle : m_lightStyle)->setChecked(true);
 }
 
 // Closing and dropping
@@ -383,6 +418,7 @@ void MainWindow::closeEvent(QCloseEvent *event)
             event->ignore();
             return;
         }
+    savePreferences();
     event->accept();
 }
 

@@ -2,6 +2,7 @@
 
 #include "host/app/AppStyle.h"
 #include "host/app/FileActions.h"
+#include "host/app/SessionPlayer.h"
 #include "host/app/Workbench.h"
 #include "host/kernel/input/PromptRequest.h"
 #include "host/view/AciColor.h"
@@ -43,6 +44,8 @@ public:
     /// Runs a line as if it was entered at the command line.
     void enter(const QString &text);
     void setStyleOfWindows(Style style);
+    /// Plays a recorded session on the active drawing; meanwhile the window takes no commands.
+    PlaybackResult play(const PlaybackScript &script, PlaybackOptions options);
 
 protected:
     void closeEvent(QCloseEvent *event) override;
@@ -65,8 +68,7 @@ private:
     void buildHelpMenu();
     QAction *addAction(QMenu &menu, const QString &text, const QKeySequence &shortcut, WhenBusy whenBusy,
                        const std::function<void()> &body);
-    void addChoice(QMenu &menu, QActionGroup &group, const QString &text, bool isChecked,
-                   const std::function<void()> &body);
+    QAction *addChoice(QMenu &menu, QActionGroup &group, const QString &text, const std::function<void()> &body);
     void showHelp();
     void showAbout();
 
@@ -85,7 +87,10 @@ private:
     void answer(const kernel::InputAnswer &answer);
     void cancel();
     void undoOrRedo(const QString &command);
-    void requestChanged();
+    void showRequest(const std::optional<kernel::PromptRequest> &request);
+    void tellProblems();
+    void loadPreferences();
+    void savePreferences() const;
     void updateState();
     void updateTitles();
     void updateReport();
@@ -104,8 +109,13 @@ private:
     QList<QAction *> m_idleActions; ///< disabled while something runs
     QAction *m_undo = nullptr;
     QAction *m_redo = nullptr;
+    QAction *m_blackGround = nullptr;
+    QAction *m_whiteGround = nullptr;
+    QAction *m_lightStyle = nullptr;
+    QAction *m_darkStyle = nullptr;
     view::Ground m_ground = view::Ground::Black;
     QTimer m_reportTimer;
+    qsizetype m_problemsTold = 0;
     bool m_isRunning = false; ///< the queue is being worked off
     bool m_isCloseWanted = false;
 };

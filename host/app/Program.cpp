@@ -4,11 +4,13 @@
 #include "host/app/BatchRuns.h"
 #include "host/app/DrawingPicture.h"
 #include "host/app/MainWindow.h"
+#include "host/app/Preferences.h"
 #include "host/app/ProgramOutput.h"
 #include "host/app/SessionPlayer.h"
 
 #include <QApplication>
 #include <QDir>
+#include <QEventLoop>
 #include <QFileInfo>
 
 #include <clocale>
@@ -25,6 +27,13 @@ bool hasDisplay()
            qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
 }
 
+/// Drops what the toolkit says about running without a display or a login, which is no news to whoever asked for it.
+void showToolkitMessage(QtMsgType, const QMessageLogContext &, const QString &text)
+{
+    if (!text.startsWith("This plugin does not support"_L1) && !text.contains("XDG_RUNTIME_DIR"_L1))
+        writeMessage(text);
+}
+
 /// Plays the session that was asked for, if any, in the window.
 int playInWindow(MainWindow &window, const ProgramOptions &options)
 {
@@ -35,7 +44,7 @@ int playInWindow(MainWindow &window, const ProgramOptions &options)
     playback.pictureFolder = options.pictureFolder;
     playback.outFolder = options.pictureFolder;
     playback.timeLimit = options.timeLimit;
-    const PlaybackResult result = runSession(readPlayback(options.session), *window.document(), playback);
+    const PlaybackResult result = window.play(readPlayback(options.session), playback);
     if (result.ok)
         return ExitDone;
     writeMessage(u"%1: %2"_s.arg(options.session, result.message));
@@ -51,8 +60,9 @@ int pictureOfWindow(MainWindow &window, const ProgramOptions &options)
     }
     const int status = playInWindow(window, options);
     // Lets what waits for a quiet moment (status bar, canvas) come to an end.
-    QTimer::singleShot(500, qApp, &QCoreApplication::quit);
-    QApplication::exec();
+    QEventLoop loop;
+    QTimer::singleShot(500, &loop, &QEventLoop::quit);
+    loop.exec();
     const QString error = writeWidgetPicture(window, QDir(options.pictureFolder).filePath(u"window.png"_s));
     if (error.isEmpty())
         return status;
@@ -65,6 +75,8 @@ int runWindow(const ProgramOptions &options)
     MainWindow window({.home = options.home, .module = options.module, .tools = options.tools});
     for (const QString &problem : window.workbench().problems())
         writeMessage(problem);
+    const QString home = window.workbench().session().home();
+    window.setStyleOfWindows(options.style.value_or(Preferences::load(home).style));
     window.show();
     window.start(options.drawings);
     if (!options.pictureFolder.isEmpty())
@@ -109,6 +121,8 @@ int runProgram(int argc, char **argv)
     }
     if (options.mode != Mode::Window || !hasDisplay())
         qputenv("QT_QPA_PLATFORM", "offscreen");
+    if (options.isUnattended())
+        qInstallMessageHandler(showToolkitMessage);
     // The toolkit reads options of its own from the arguments; these are all this program's.
     int count = 1;
     QApplication application(count, argv);

@@ -330,6 +330,16 @@ QString SessionPlayer::expectLisp(const Step &step)
 
 kernel::FeedResult SessionPlayer::feed(const kernel::PromptRequest &request, kernel::InputQueue &queue)
 {
+    if (m_options.showPrompt)
+        m_options.showPrompt(request);
+    const kernel::FeedResult result = answerPrompt(request, queue);
+    if (m_options.showPrompt)
+        m_options.showPrompt({});
+    return result;
+}
+
+kernel::FeedResult SessionPlayer::answerPrompt(const kernel::PromptRequest &request, kernel::InputQueue &queue)
+{
     while (!hasFailed()) {
         const QString open = tr("the prompt \"%1\"").arg(request.prompt.simplified());
         if (!next()) {

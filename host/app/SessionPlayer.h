@@ -9,6 +9,7 @@
 #include <QTimer>
 
 #include <chrono>
+#include <functional>
 #include <optional>
 
 namespace host::app {
@@ -24,6 +25,8 @@ struct PlaybackOptions
     QString pictureFolder;
     /// The session fails when it takes longer.
     std::chrono::milliseconds timeLimit = std::chrono::seconds(120);
+    /// Told of every prompt while it waits, and of none when it is answered: for a window that shows what is asked.
+    std::function<void(const std::optional<kernel::PromptRequest> &request)> showPrompt;
 };
 
 /// What came of a session.
@@ -78,6 +81,7 @@ private:
     QString save(const Step &step);
     QString expectLisp(const Step &step);
 
+    kernel::FeedResult answerPrompt(const kernel::PromptRequest &request, kernel::InputQueue &queue);
     kernel::InputAnswer answerFor(const Step &step, QString &error);
     QString takeOpening(const Step &step, QWidget &window);
     QString act(const Step &step, QWidget &window);

@@ -118,11 +118,11 @@ TEST_F(CommandLineTest, KeysPressedElsewhereArrive)
     EXPECT_FALSE(take(Qt::Key_F1, QString()));
 }
 
-TEST_F(CommandLineTest, PrintedTextStaysAsItIs)
+TEST_F(CommandLineTest, PrintedTextStaysAsItIsButForDoubledLineFeeds)
 {
-    line.print(u"\nselect: "_s);
-    line.print(u"<b>1</b>\n"_s);
-    EXPECT_EQ(line.historyText(), u"\nselect: <b>1</b>\n"_s);
+    for (const QString &text : {u"\nselect: "_s, u"<b>1</b>\n"_s, u"\nnext: "_s, u"\n\nlast\n"_s})
+        line.print(text);
+    EXPECT_EQ(line.historyText(), u"select: <b>1</b>\nnext: \n\nlast\n"_s);
 }
 
 TEST(PromptText, ShowsTheLastLineWithOptionsAsLinks)

@@ -2,6 +2,7 @@
 
 #include "host/app/CommandLine.h"
 #include "host/app/DrawingCanvas.h"
+#include "host/app/Preferences.h"
 #include "platform/kernel/CKvUtils.h"
 #include "tests/app/AppFixture.h"
 #include "tests/support/ModalAnswers.h"
@@ -268,6 +269,36 @@ TEST_F(MainWindowTest, StyleChangesAllAndIsKnownToThePlatform)
     QCoreApplication::processEvents();
     EXPECT_FALSE(CKvUtils::isDarkStyle());
     EXPECT_GT(window->commandLine().palette().color(QPalette::Base).lightness(), 128);
+}
+
+TEST_F(MainWindowTest, RemembersStyleGroundAndEntries)
+{
+    window->setStyleOfWindows(Style::Dark);
+    window->commandLine().setEntries({u"LINE"_s});
+    for (QAction *action : window->findChildren<QAction *>())
+        if (action->text() == u"W&hite ground"_s)
+            action->trigger();
+    ASSERT_TRUE(window->close());
+    const Preferences kept = Preferences::load(path(u"home"_s));
+    EXPECT_EQ(kept.style, Style::Dark);
+    EXPECT_EQ(kept.ground, host::view::Ground::White);
+    EXPECT_EQ(kept.entries, QStringList(u"LINE"_s));
+    write(u"home/workbench.ini"_s, QByteArray(100, '\xff'));
+    EXPECT_EQ(Preferences::load(path(u"home"_s)).style, Style::Light);
+}
+
+TEST_F(MainWindowTest, PlaysSessionsAndShowsWhatIsAsked)
+{
+    const PlaybackScript script =
+        parsePlayback(u"lisp (setq p (getpoint \"\\nFrom: \"))\nscreenshot w.png\npoint 1,2\nexpect-lisp p"_s);
+    PlaybackOptions options;
+    options.outFolder = folder.path();
+    const PlaybackResult result = window->play(script, options);
+    EXPECT_TRUE(result.ok) << result.message.toStdString();
+    EXPECT_EQ(QImage(path(u"w.png"_s)).size(), window->size());
+    EXPECT_EQ(window->commandLine().prompt(), u"Command:"_s);
+    window->enter(u"(setq after T)"_s);
+    EXPECT_EQ(lisp(u"after"_s), u"T"_s);
 }
 
 /// The mnemonics of a menu and those below it, each menu by itself.

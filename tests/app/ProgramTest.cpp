@@ -117,6 +117,7 @@ TEST_F(ProgramTest, EndsWithTheStatusItsManualNames)
         {u"convert none.dxf copy.dxf"_s, 4, {}, u"none.dxf"_s},
         {u"convert a.dxf none/copy.dxf"_s, 4, {}, u"none/copy.dxf"_s},
         {u"convert a.dxf none/copy.png"_s, 4, {}, u"none/copy.png"_s},
+        {u"convert a.dxf copy.dwg"_s, 4, {}, u"this program cannot write DWG files"_s},
     };
     for (const Row &row : rows) {
         const Ended ended = run(row.arguments);
@@ -171,7 +172,8 @@ TEST_F(ProgramTest, DrawsItsWindowWithoutADisplay)
     ASSERT_EQ(run(u"a.dxf --style dark --screenshot-dir pictures"_s).status, 0);
     const QImage picture(folder.filePath(u"pictures/window.png"_s));
     ASSERT_FALSE(picture.isNull());
-    EXPECT_LT(picture.pixelColor(picture.width() - 5, 5).lightness(), 128);
+    EXPECT_LT(picture.pixelColor(picture.width() - 5, 5).lightness(), 128) << "the menu bar is dark";
+    EXPECT_EQ(picture.pixelColor(20, picture.height() / 2), QColor(Qt::black)) << "the drawing lies on its ground";
 }
 
 } // namespace
