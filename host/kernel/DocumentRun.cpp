@@ -88,18 +88,16 @@ RunResult Document::runCommand(const QString &name)
 
 RunResult Document::runBuiltIn(const QString &typed)
 {
-    const CommandRow *row = CommandTable::find(typed);
-    if (!row) {
-        const QString message = QStringLiteral("Unknown command \"%1\".").arg(CommandTable::plainName(typed));
+    const QString name = CommandTable::plainName(typed);
+    const Run scope(*this, name);
+    const std::unique_ptr<CommandRun> command = CommandRun::start(*this, typed);
+    if (!command) {
+        const QString message = QStringLiteral("Unknown command \"%1\".").arg(name);
         print(u'\n' + message + u'\n');
         return failure(message);
     }
-    const Run scope(*this, QString::fromLatin1(row->name));
-    CommandRun command(*this, *row);
-    command.runToEnd();
-    if (!command.isCancelled())
-        return {};
-    return failure(QStringLiteral("%1 was cancelled.").arg(QString::fromLatin1(row->name)));
+    command->runToEnd();
+    return command->isCancelled() ? failure(QStringLiteral("%1 was cancelled.").arg(name)) : RunResult();
 }
 
 RunResult Document::runQueued()
@@ -138,6 +136,9 @@ RunResult Document::report(const lisp::Outcome &outcome)
         result.value = QString::fromStdString(lisp::toText(outcome.value));
         return result;
     }
+    // A command that a failed program left waiting is nothing to ask the user about.
+    if (m_runs == 1)
+        m_pendingCommand.reset();
     const lisp::Error &error = *outcome.error;
     result.error = QString::fromStdString(error.summary());
     result.report = QString::fromStdString(error.report());

@@ -3,6 +3,7 @@
 #include "host/kernel/Document.h"
 #include "host/kernel/ResBufConversion.h"
 #include "host/kernel/Services.h"
+#include "host/kernel/Session.h"
 #include "host/kernel/functions/LispConversion.h"
 #include "host/lisp/Interpreter.h"
 
@@ -14,9 +15,9 @@ using lisp::Value;
 class LispEngine::CallScope
 {
 public:
-    CallScope(LispEngine &engine, OdResBufPtr arguments)
-        : m_engine(engine), m_activeBefore(setActiveDocument(&engine.m_document))
+    CallScope(LispEngine &engine, OdResBufPtr arguments) : m_engine(engine)
     {
+        setActiveDocument(&engine.m_document);
         m_engine.m_calls.push_back({std::move(arguments), {}});
     }
     ~CallScope()
@@ -24,14 +25,14 @@ public:
         m_engine.m_calls.pop_back();
         if (m_engine.m_calls.empty())
             m_engine.m_selections.clear();
-        setActiveDocument(m_activeBefore);
+        // What was active before may be closed by now.
+        setActiveDocument(m_engine.m_document.session().documents().active());
     }
     CallScope(const CallScope &) = delete;
     CallScope &operator=(const CallScope &) = delete;
 
 private:
     LispEngine &m_engine;
-    CKvDocument *m_activeBefore;
 };
 
 void LispEngine::defineFunction(const OdString &name, Handler handler)

@@ -200,7 +200,10 @@ TEST_F(Bench, aLispCommandAsksThroughTheSameQueue)
 
 TEST_F(Bench, anErrorDropsTheCommandUnderWay)
 {
+    type("7,7");
     lisp("(command \"LINE\" '(0 0))(car 5)");
+    EXPECT_FALSE(session.input().isEmpty()) << "nothing was asked any more";
+    session.input().clear();
     EXPECT_EQ(lisp("(getvar \"CMDNAMES\")"), "\"\"");
     EXPECT_EQ(shapes(drawing()), "");
 }
@@ -219,6 +222,29 @@ TEST_F(Bench, cmdechoSilencesPrompts)
     EXPECT_EQ(takePrinted(), "");
     lisp("(setvar \"CMDECHO\" 1)(command \"CIRCLE\" '(0 0) 1)");
     EXPECT_NE(takePrinted().find("Specify center point for circle:"), std::string::npos);
+}
+
+TEST_F(Bench, aVariablesNameSetsIt)
+{
+    type("osmode 7\nsetvar cmdecho 0\nlimmax 5,6\n");
+    while (!session.input().isEmpty())
+        document().runQueued();
+    EXPECT_EQ(lisp("(command \"ORTHOMODE\" 1)(mapcar 'getvar '(\"OSMODE\" \"CMDECHO\" \"LIMMAX\" \"ORTHOMODE\"))"),
+              "(7 0 (5.0 6.0) 1)");
+    type("dwgname\n");
+    document().runQueued();
+    EXPECT_NE(takePrinted().find("(read only)"), std::string::npos);
+}
+
+TEST_F(Bench, aScriptIsTyped)
+{
+    write("draw.scr", "; two shapes\nline 0,0 1,0 \ncircle 5,5\n2\n");
+    document().run(QStringLiteral("(command \"SCRIPT\" \"%1\")").arg(path("draw.scr")));
+    while (!session.input().isEmpty())
+        document().runQueued();
+    EXPECT_EQ(shapes(drawing()), "LINE 0,0 1,0; CIRCLE 5,5 r2");
+    document().run(QStringLiteral("(command \"SCRIPT\" \"none.scr\")"));
+    EXPECT_NE(takePrinted().find("Cannot read script"), std::string::npos);
 }
 
 TEST_F(Bench, typedExpressionsShowTheirValue)

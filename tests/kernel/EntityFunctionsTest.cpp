@@ -89,6 +89,10 @@ const std::vector<LispCase> entityCases = {
      "(entnext p)))",
      "(\"CIRCLE\" nil)"},
     {"a block's base point", makeBlock, "(cdr (assoc 10 (tblsearch \"BLOCK\" \"DOOR\")))", "(1.0 0.0 0.0)"},
+    {"a block with a bad entity is not made", "",
+     "(entmake '((0 . \"BLOCK\") (2 . \"Bad\") (70 . 0) (10 0 0 0)))(entmake '((0 . \"LINE\") (10 0 0 0)))"
+     "(list (entmake '((0 . \"ENDBLK\"))) (tblsearch \"BLOCK\" \"Bad\"))",
+     "(nil nil)"},
     {"an insert of a block that is missing", "", "(entmake '((0 . \"INSERT\") (2 . \"NONE\") (10 0 0 0)))", "nil"},
     {"an insert with attributes", makeBlock,
      "(entmake '((0 . \"INSERT\") (2 . \"Door\") (66 . 1) (10 0 0 0)))"

@@ -8,6 +8,18 @@
 
 namespace host::kernel {
 
+std::unique_ptr<CommandRun> CommandRun::start(Document &document, const QString &typed)
+{
+    if (const CommandRow *row = CommandTable::find(typed))
+        return std::make_unique<CommandRun>(document, *row);
+    const QString name = CommandTable::plainName(typed);
+    if (!document.variables().get(name))
+        return nullptr;
+    auto command = std::make_unique<CommandRun>(document, *CommandTable::find(u"SETVAR"));
+    command->offer(TextAnswer{name});
+    return command;
+}
+
 CommandRun::CommandRun(Document &document, const CommandRow &row) : m_document(document), m_context(document)
 {
     m_document.session().editor().commandWillStart();

@@ -10,6 +10,8 @@ namespace host::kernel {
 class CommandRun
 {
 public:
+    /// Starts the command that was typed; a system variable's name starts SETVAR on it. Null when it is neither.
+    static std::unique_ptr<CommandRun> start(Document &document, const QString &typed);
     /// Starts the command: its reactors hear of it and it runs to its first prompt.
     CommandRun(Document &document, const CommandRow &row);
     /// Gives the command up where it waits.

@@ -1,9 +1,11 @@
 #include "host/kernel/Document.h"
+#include "host/kernel/Session.h"
 #include "host/kernel/SystemVariables.h"
 #include "host/kernel/commands/CommandContext.h"
 #include "host/kernel/commands/Commands.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 
 using namespace Qt::StringLiterals;
@@ -99,6 +101,22 @@ CommandTask setVariable(CommandContext &context)
         context.print(u"\nCannot set %1 to that value."_s.arg(name.text.toUpper()));
 }
 
+/// The largest script that is read, in bytes.
+constexpr qint64 largestScript = 64 * 1024 * 1024;
+
+// File name; the lines of the file are typed from here on.
+CommandTask script(CommandContext &context)
+{
+    const PromptReply name = co_await context.text(u"Enter script file name: "_s);
+    const QString path = name.hasValue() ? context.document().findFile(name.text.trimmed()) : QString();
+    QFile file(path);
+    if (path.isEmpty() || file.size() > largestScript || !file.open(QIODevice::ReadOnly)) {
+        context.print(u"\nCannot read script \"%1\"."_s.arg(name.text));
+        co_return;
+    }
+    context.document().session().input().pushTyped(QString::fromUtf8(file.readAll()));
+}
+
 } // namespace
 
 std::vector<CommandRow> fileCommands()
@@ -106,6 +124,7 @@ std::vector<CommandRow> fileCommands()
     return {{"QSAVE", quickSave, "Saves the drawing under its own name"},
             {"SAVE", saveAs, "Saves the drawing under a name"},
             {"SAVEAS", saveAs, "Saves the drawing under a name"},
+            {"SCRIPT", script, "Types what a script file holds"},
             {"SETVAR", setVariable, "Shows or sets a system variable"}};
 }
 

@@ -33,12 +33,12 @@ bool startCommand(Arguments &args, std::size_t index)
     // An empty answer too many at the end of a command does no harm.
     if (name.isEmpty())
         return true;
-    const CommandRow *row = CommandTable::find(name);
-    if (!row) {
+    std::unique_ptr<CommandRun> started = CommandRun::start(document, name);
+    if (!started) {
         document.print(QStringLiteral("\nUnknown command \"%1\".\n").arg(CommandTable::plainName(name)));
         return false;
     }
-    document.setPendingCommand(std::make_unique<CommandRun>(document, *row));
+    document.setPendingCommand(std::move(started));
     return true;
 }
 

@@ -126,13 +126,26 @@ EntityMaker::Outcome EntityMaker::finishBlock()
     drawing::Drawing &drawing = m_document.drawing();
     const drawing::JournalGroup group(drawing.journal(), u"BLOCK"_s);
     const Field *base = drawing::findField(pending.head, 10);
+    const bool isNew = !isValid(drawing.blocks().find(textOf(pending.head, 2)));
     const RecordId block = drawing.blocks().create(textOf(pending.head, 2), base ? base->point() : drawing::Vec3{},
                                                    int(integerOf(pending.head, 70)));
     if (!isValid(block))
         return failed(u"BLOCK: the name \"%1\" cannot be used"_s.arg(textOf(pending.head, 2)));
-    if (const QString error = fillBlock(block, pending); !error.isEmpty())
+    if (const QString error = fillBlock(block, pending); !error.isEmpty()) {
+        if (isNew)
+            eraseBlock(block);
         return failed(error);
+    }
     return {true, block, drawing.blocks().name(block), {}};
+}
+
+void EntityMaker::eraseBlock(RecordId block)
+{
+    drawing::Drawing &drawing = m_document.drawing();
+    const RecordId entry = drawing.blocks().read(block).tableEntry;
+    drawing.setErased(block, true);
+    if (isValid(entry))
+        drawing.setErased(entry, true);
 }
 
 QString EntityMaker::fillBlock(RecordId block, const PendingBlock &pending)

@@ -46,7 +46,9 @@ private:
     Outcome create(const drawing::FieldList &head, const std::vector<drawing::FieldList> *parts);
     Outcome makeTableEntry(const QString &type, const drawing::FieldList &fields);
     Outcome makeObject(const QString &type, const drawing::FieldList &fields);
+    /// Empty when all entities are in; the reason otherwise.
     QString fillBlock(drawing::RecordId block, const PendingBlock &pending);
+    void eraseBlock(drawing::RecordId block);
 
     Document &m_document;
     std::optional<PendingEntity> m_entity;

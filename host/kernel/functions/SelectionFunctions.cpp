@@ -229,12 +229,20 @@ Value sssetfirst(Arguments &args)
     return Value::list({Value(), args[1]});
 }
 
+// (ssgetfirst) -> (nil set): what is chosen without a command, nil for nothing.
+Value ssgetfirst(Arguments &args)
+{
+    const std::vector<RecordId> &chosen = documentOf(args).impliedSelection();
+    return Value::list({Value(), chosen.empty() ? Value() : toLisp(args.interpreter(), chosen)});
+}
+
 } // namespace
 
 void addSelectionFunctions(lisp::Interpreter &interpreter)
 {
     static constexpr lisp::NativeRow rows[] = {
         {"ssget", ssget, lisp::Arity::between(0, 4)},
+        {"ssgetfirst", ssgetfirst, lisp::Arity::exactly(0)},
         {"sssetfirst", sssetfirst, lisp::Arity::between(1, 2)},
     };
     interpreter.define(rows);
