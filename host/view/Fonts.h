@@ -33,6 +33,9 @@ public:
     int find(const FontRequest &request);
     /// Advance of the text in capital heights.
     double width(int font, const QString &text);
+    /// The font itself, at the size it is kept here, and the height of its capitals at that size.
+    const QFont &face(int font) const { return m_faces.at(static_cast<std::size_t>(font)).font; }
+    double capHeight(int font) const { return m_faces.at(static_cast<std::size_t>(font)).capHeight; }
     /// The glyphs from the origin along x, y up, in capital heights. The reference holds until the next call.
     const QPainterPath &outline(int font, const QString &text);
 
