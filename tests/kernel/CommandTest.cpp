@@ -198,6 +198,15 @@ TEST_F(Bench, aLispCommandAsksThroughTheSameQueue)
     EXPECT_EQ(shapes(drawing()), "CIRCLE 1,2 r7; POINT 1,2; CIRCLE 3,4 r1; POINT 3,4");
 }
 
+TEST_F(Bench, whatIsChosenAlreadyIsNotAskedFor)
+{
+    lisp("(command \"LINE\" (quote (0 0)) (quote (1 0)) (quote (5 5)) \"\")");
+    document().setImpliedSelection({drawing().entities().all().front()});
+    document().runCommand(QStringLiteral("ERASE"));
+    EXPECT_EQ(shapes(drawing()), "LINE 1,0 5,5");
+    EXPECT_TRUE(document().impliedSelection().empty());
+}
+
 TEST_F(Bench, anErrorDropsTheCommandUnderWay)
 {
     type("7,7");

@@ -6,7 +6,6 @@
 #include "host/kernel/SystemVariables.h"
 #include "host/kernel/commands/CommandContext.h"
 #include "host/kernel/commands/Commands.h"
-#include "host/kernel/input/SelectionBuilder.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -222,13 +221,8 @@ CommandTask writeBlock(CommandContext &context)
         co_return;
     }
     const PromptReply base = co_await context.point(u"Specify insertion base point: "_s);
-    SelectionBuilder chosen(document);
-    while (!chosen.isDone()) {
-        const PromptReply reply = co_await context.ask(chosen.request());
-        chosen.add(reply);
-    }
-    document.setPreviousSelection(chosen.entities());
-    writeDrawing(context, drawing::wblock(context.drawing(), chosen.entities(), base.point), path);
+    const PromptReply chosen = co_await context.selection();
+    writeDrawing(context, drawing::wblock(context.drawing(), chosen.entities, base.point), path);
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "host/drawing/HeaderVariables.h"
 #include "host/kernel/CurrentSpace.h"
 #include "host/kernel/Document.h"
+#include "host/kernel/SystemVariables.h"
 
 namespace host::kernel {
 
@@ -111,6 +112,21 @@ CommandContext::Reply CommandContext::text(const QString &prompt, const QString 
 CommandContext::Reply CommandContext::name(const QString &prompt, const QString &defaultText)
 {
     return askFor(PromptKind::String, prompt, {}, {}, defaultText);
+}
+
+CommandContext::Selection CommandContext::selection()
+{
+    const std::vector<drawing::RecordId> implied = m_document.impliedSelection();
+    if (!implied.empty() && m_document.variables().integer(u"PICKFIRST") != 0) {
+        m_document.setImpliedSelection({});
+        m_document.setPreviousSelection(implied);
+        m_reply = {};
+        m_reply.entities = implied;
+        return Selection(*this, true);
+    }
+    m_selection.emplace(m_document);
+    m_request = m_selection->request();
+    return Selection(*this, false);
 }
 
 drawing::RecordId CommandContext::create(const FieldList &fields)

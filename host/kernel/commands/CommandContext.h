@@ -3,6 +3,7 @@
 #include "host/drawing/Drawing.h"
 #include "host/drawing/Entities.h"
 #include "host/kernel/commands/CommandTask.h"
+#include "host/kernel/input/SelectionBuilder.h"
 
 namespace host::kernel {
 
@@ -23,6 +24,17 @@ public:
 
     private:
         CommandContext &m_context;
+    };
+
+    /// Waits for a whole selection; what was chosen before the command started is taken without asking.
+    class Selection : public Reply
+    {
+    public:
+        explicit Selection(CommandContext &context, bool isImplied) : Reply(context), m_isImplied(isImplied) {}
+        bool await_ready() const noexcept { return m_isImplied; }
+
+    private:
+        bool m_isImplied;
     };
 
     explicit CommandContext(Document &document) : m_document(document) {}
@@ -47,6 +59,9 @@ public:
     /// Text up to a blank: a name.
     Reply name(const QString &prompt, const QString &defaultText = {});
 
+    /// The entities that the command works on; they become the previous selection.
+    Selection selection();
+
     /// Makes an entity in the current space with the current layer, colour, linetype, scale and weight where `fields`
     /// do not say others, and prints the reason when that fails.
     drawing::RecordId create(const drawing::FieldList &fields);
@@ -60,6 +75,7 @@ private:
     Document &m_document;
     PromptRequest m_request;
     PromptReply m_reply;
+    std::optional<SelectionBuilder> m_selection; ///< while a selection grows
 };
 
 } // namespace host::kernel

@@ -58,8 +58,25 @@ void CommandRun::reply(PromptReply given)
         finish();
         return;
     }
+    if (m_context.m_selection && !growSelection(given))
+        return;
     m_context.m_reply = std::move(given);
     resume();
+}
+
+bool CommandRun::growSelection(PromptReply &reply)
+{
+    std::optional<SelectionBuilder> &selection = m_context.m_selection;
+    selection->add(reply);
+    if (!selection->isDone()) {
+        m_dialogue.emplace(m_document, selection->request());
+        return false;
+    }
+    reply = {};
+    reply.entities = selection->entities();
+    m_document.setPreviousSelection(reply.entities);
+    selection.reset();
+    return true;
 }
 
 void CommandRun::resume()

@@ -30,6 +30,8 @@ public:
 
 private:
     void reply(PromptReply given);
+    /// Puts a step of a selection in. True when it is complete; `reply` is all of it then.
+    bool growSelection(PromptReply &reply);
     void resume();
     void finish();
     void echoPrompt();
