@@ -1,8 +1,8 @@
 ;;; Draws plan.dxf: a small site office with a service pipe that is long enough to be broken.
 ;;;
-;;;   ortakit lisp samples/plan.lsp
+;;;   cd samples && ../build/dev/bin/ortakit lisp plan.lsp
 ;;;
-;;; Lengths are in metres. The drawing is saved beside this file only when the program is started from there.
+;;; Lengths are in metres.
 
 (defun plan:layer (name colour linetype)
   (entmake (list '(0 . "LAYER") (cons 2 name) '(70 . 0) (cons 62 colour) (cons 6 linetype))))
