@@ -29,9 +29,16 @@
     (princ (strcat "\nError: " message)))
   (kora_end))
 
-;; (kora_undo_begin) and (kora_undo_end) bracket one undo step; a bracket in which nothing changed leaves none.
-(defun kora_undo_begin () (command "_.UNDO" "_Begin"))
-(defun kora_undo_end () (command "_.UNDO" "_End"))
+;; (kora_undo_begin) and (kora_undo_end) bracket one undo step; a bracket in which nothing changed leaves none. Neither
+;; is echoed on the command line.
+(defun kora_undo_begin () (kora:undo "_Begin"))
+(defun kora_undo_end () (kora:undo "_End"))
+
+(defun kora:undo (option / echo)
+  (setq echo (getvar "CMDECHO"))
+  (setvar "CMDECHO" 0)
+  (command "_.UNDO" option)
+  (setvar "CMDECHO" echo))
 
 ;; (kora_sysvar_save names) -> list of (name . value now).
 (defun kora_sysvar_save (names)
