@@ -38,8 +38,11 @@ CommandLine::CommandLine(QWidget *parent)
     m_promptLabel->setFont(font);
     m_promptLabel->setTextFormat(Qt::RichText);
     m_promptLabel->setContentsMargins(4, 0, 0, 0);
+    // A long prompt is cut off rather than making the window wider.
+    m_promptLabel->setMinimumWidth(1);
     m_input->setObjectName(u"commandInput"_s);
     m_input->setFont(font);
+    m_input->setMinimumWidth(160);
     m_input->installEventFilter(this);
 
     auto *line = new QHBoxLayout;
@@ -74,6 +77,7 @@ void CommandLine::setPrompt(const QString &prompt)
 {
     m_prompt = prompt;
     m_promptLabel->setText(promptHtml(prompt));
+    m_promptLabel->setToolTip(promptHtml(prompt));
 }
 
 QString CommandLine::historyText() const
@@ -105,18 +109,27 @@ bool CommandLine::takeKey(QKeyEvent *event)
 
 bool CommandLine::eventFilter(QObject *object, QEvent *event)
 {
-    const auto &key = *static_cast<QKeyEvent *>(event);
+    if (event->type() == QEvent::KeyPress || event->type() == QEvent::ShortcutOverride) {
+        auto *key = static_cast<QKeyEvent *>(event);
+        if (object == m_input ? filterInputKey(*key) : filterHistoryKey(*key))
+            return true;
+    }
+    return QWidget::eventFilter(object, event);
+}
+
+bool CommandLine::filterInputKey(const QKeyEvent &key)
+{
     // With nothing written, undoing means the drawing: the line must not claim the keys.
-    if (event->type() == QEvent::ShortcutOverride && object == m_input && m_input->text().isEmpty() &&
-        (key.matches(QKeySequence::Undo) || key.matches(QKeySequence::Redo)))
-        return true;
-    if (event->type() == QEvent::KeyPress && object == m_input && handleKey(key))
-        return true;
+    if (key.type() == QEvent::ShortcutOverride)
+        return m_input->text().isEmpty() && (key.matches(QKeySequence::Undo) || key.matches(QKeySequence::Redo));
+    return handleKey(key);
+}
+
+bool CommandLine::filterHistoryKey(QKeyEvent &key)
+{
     // What is typed on the history is meant for the line; moving about and copying is not.
     const bool isMove = key.key() == Qt::Key_Up || key.key() == Qt::Key_Down;
-    if (event->type() == QEvent::KeyPress && object == m_history && !isMove)
-        return takeKey(static_cast<QKeyEvent *>(event));
-    return QWidget::eventFilter(object, event);
+    return key.type() == QEvent::KeyPress && !isMove && takeKey(&key);
 }
 
 bool CommandLine::handleKey(const QKeyEvent &event)

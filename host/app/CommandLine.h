@@ -59,6 +59,8 @@ protected:
 private:
     void enter();
     void recall(int direction);
+    bool filterInputKey(const QKeyEvent &key);
+    bool filterHistoryKey(QKeyEvent &key);
     bool handleKey(const QKeyEvent &event);
     bool spaceEnters() const;
 

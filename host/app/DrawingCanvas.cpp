@@ -213,6 +213,12 @@ void DrawingCanvas::paintBox(QPainter &painter, QPointF from, QPointF to, bool i
     painter.setBrush(Qt::NoBrush);
 }
 
+void DrawingCanvas::showEvent(QShowEvent *)
+{
+    if (!std::exchange(m_wasShown, true))
+        zoomExtents();
+}
+
 void DrawingCanvas::resizeEvent(QResizeEvent *)
 {
     setTransform(transform());

@@ -29,6 +29,7 @@ public:
 
     kernel::Document &document() { return m_document; }
     void setGround(view::Ground ground);
+    /// Also what it begins with when it is first shown.
     void zoomExtents();
     void zoomBy(double factor);
     /// The next box drawn is what is shown.
@@ -52,6 +53,7 @@ signals:
 
 protected:
     void paintEvent(QPaintEvent *event) override;
+    void showEvent(QShowEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
@@ -109,6 +111,7 @@ private:
     };
     std::optional<PendingBox> m_box;
     bool m_isZoomWindow = false;
+    bool m_wasShown = false;
 };
 
 } // namespace host::app

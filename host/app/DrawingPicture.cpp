@@ -2,6 +2,7 @@
 
 #include "host/view/Export.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QPixmap>
@@ -27,6 +28,8 @@ QString writeDrawingPicture(const drawing::Drawing &drawing, const QString &path
 
 QString writeWidgetPicture(QWidget &widget, const QString &path)
 {
+    // What was changed just now has not been laid out yet.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
     QSaveFile file(path);
     const bool isWritten = file.open(QIODevice::WriteOnly) && widget.grab().save(&file, "PNG") && file.commit();
     return isWritten

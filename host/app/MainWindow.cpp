@@ -172,9 +172,9 @@ void MainWindow::addTab(kernel::Document *document)
     connect(document, &kernel::Document::runEnded, this, &MainWindow::updateState);
     const int index = m_tabs->addTab(canvas, document->title());
     m_tabs->setCurrentIndex(index);
-    canvas->zoomExtents();
     tellProblems();
     updateTitles();
+    updateReport();
 }
 
 int MainWindow::tabOf(const kernel::Document *document) const
@@ -197,6 +197,7 @@ void MainWindow::activateTab(int)
     if (DrawingCanvas *current = canvas())
         m_workbench->documents().setActive(&current->document());
     updateState();
+    updateReport();
 }
 
 void MainWindow::showActive(kernel::Document *document)
