@@ -79,9 +79,9 @@ void MainWindow::buildEditMenu()
 {
     QMenu &menu = *menuBar()->addMenu(tr("&Edit"));
     m_undo =
-        addAction(menu, tr("&Undo"), QKeySequence(u"Ctrl+Z"_s), WhenBusy::Disabled, [this] { undoOrRedo(u"_U"_s); });
-    m_redo =
-        addAction(menu, tr("&Redo"), QKeySequence(u"Ctrl+Y"_s), WhenBusy::Disabled, [this] { undoOrRedo(u"_REDO"_s); });
+        addAction(menu, tr("&Undo"), QKeySequence(u"Ctrl+Z"_s), WhenBusy::Disabled, [this] { runFromMenu(u"_U"_s); });
+    m_redo = addAction(menu, tr("&Redo"), QKeySequence(u"Ctrl+Y"_s), WhenBusy::Disabled,
+                       [this] { runFromMenu(u"_REDO"_s); });
 }
 
 void MainWindow::buildViewMenu()
@@ -123,7 +123,8 @@ void MainWindow::buildToolsMenu()
     captions = withMnemonics(captions);
     for (qsizetype i = 0; i < entries.size(); ++i) {
         const ToolEntry &entry = entries[i];
-        QAction *action = addAction(menu, captions[i], {}, WhenBusy::Disabled, [this, entry] { enter(entry.command); });
+        QAction *action =
+            addAction(menu, captions[i], {}, WhenBusy::Disabled, [this, entry] { runFromMenu(entry.command); });
         action->setToolTip(entry.tip);
         action->setStatusTip(u"%1 (%2)"_s.arg(entry.tip, entry.command));
     }

@@ -283,6 +283,8 @@ PlaybackResult MainWindow::play(const PlaybackScript &script, PlaybackOptions op
     options.showPrompt = [this](const std::optional<kernel::PromptRequest> &request) { showRequest(request); };
     PlaybackResult result = runSession(script, *document(), options);
     m_isRunning = false;
+    if (!result.ok)
+        m_commandLine->print(u'\n' + result.message + u'\n');
     updateState();
     return result;
 }
@@ -301,10 +303,13 @@ void MainWindow::cancel()
         document()->setImpliedSelection({});
 }
 
-void MainWindow::undoOrRedo(const QString &command)
+void MainWindow::runFromMenu(const QString &command)
 {
-    if (document() && !isBusy())
-        enter(command);
+    if (!document() || isBusy())
+        return;
+    // The rest of an expression that was begun at the command line is not what the menu means.
+    m_workbench->session().input().clear();
+    enter(command);
 }
 
 void MainWindow::showRequest(const std::optional<kernel::PromptRequest> &request)

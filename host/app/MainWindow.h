@@ -86,7 +86,7 @@ private:
     void runQueue();
     void answer(const kernel::InputAnswer &answer);
     void cancel();
-    void undoOrRedo(const QString &command);
+    void runFromMenu(const QString &command);
     void showRequest(const std::optional<kernel::PromptRequest> &request);
     void tellProblems();
     void loadPreferences();

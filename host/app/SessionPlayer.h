@@ -83,8 +83,6 @@ private:
 
     kernel::FeedResult answerPrompt(const kernel::PromptRequest &request, kernel::InputQueue &queue);
     kernel::InputAnswer answerFor(const Step &step, QString &error);
-    QString takeOpening(const Step &step, QWidget &window);
-    QString act(const Step &step, QWidget &window);
     QString check(const Step &step, QWidget *window);
     QString expectPrinted(const QString &text) const;
     QString expectCount(const Step &step) const;

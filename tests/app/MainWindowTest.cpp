@@ -122,6 +122,11 @@ TEST_F(MainWindowTest, ExpressionsMayComeInPieces)
     window->enter(u"2)) (setq y 4)"_s);
     EXPECT_EQ(lisp(u"(list x y)"_s), u"(3 4)"_s);
     EXPECT_EQ(window->commandLine().prompt(), u"Command:"_s);
+    window->enter(u"(setq x (list"_s);
+    for (QAction *action : window->findChildren<QAction *>())
+        if (action->text() == u"&Sample tool"_s)
+            action->trigger();
+    EXPECT_TRUE(history().contains(u"sample tool"_s)) << "the menu does not complete an expression";
     window->enter(u"(setq x (list \"("_s);
     key(Qt::Key_Escape);
     EXPECT_EQ(window->commandLine().prompt(), u"Command:"_s);
