@@ -3,7 +3,7 @@
 #include "platform/db/OdDbDatabase.h"
 #include "platform/kernel/CKvDocument.h"
 #include "platform/kernel/CKvMessageBox.h"
-#include "state/FolderPicker.h"
+#include "state/FilePicker.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -35,14 +35,6 @@ QString activeDrawing()
     CKvDocument *document = ACTIVE_DOCUMENT();
     const OdDbDatabase *database = document ? document->database() : nullptr;
     return database ? database->getFilename() : QString();
-}
-
-QString startPath(const QString &start)
-{
-    const QFileInfo info(start);
-    if (start.isEmpty() || !(info.isDir() || info.dir().exists()))
-        return existingFolder({});
-    return start;
 }
 
 } // namespace
@@ -82,7 +74,7 @@ QString pickDrawing(QWidget *parent, const DrawingPickerOptions &options)
         return text.isEmpty() ? QCoreApplication::translate("LispExtension", standard) : text;
     };
     QFileDialog dialog(parent, orElse(options.title, QT_TRANSLATE_NOOP("LispExtension", "Specify a drawing")),
-                       startPath(options.start),
+                       pickerStart(options.start),
                        orElse(options.filter, QT_TRANSLATE_NOOP("LispExtension", "Drawing files (*.dwg)")));
     dialog.setObjectName(QStringLiteral("drawingDialog"));
     dialog.setFileMode(QFileDialog::ExistingFile);

@@ -10,9 +10,8 @@ namespace ortakit {
 /// no regular file, cannot be read, or is larger than any dialog's state (16 MiB).
 std::optional<QStringList> readStateFile(const QString &path);
 
-/// Replaces the file at `path` by `text` as UTF-8 with a byte-order mark; empty text gives an empty file. The new
-/// content is written beside the file and takes its place when it is complete, or written in place where the folder
-/// takes no new file. False when it could not be written, or something else than a regular file is there.
+/// Replaces the file at `path` by `text` as UTF-8 with a byte-order mark; empty text gives an empty file. False when it
+/// could not be written; see replaceFile().
 bool writeStateFile(const QString &path, const QString &text);
 
 } // namespace ortakit

@@ -1,4 +1,5 @@
 #include "state/DrawingPicker.h"
+#include "state/FilePicker.h"
 #include "state/FolderPicker.h"
 #include "tests/support/FakeHost.h"
 #include "tests/support/ModalAnswers.h"
@@ -32,6 +33,29 @@ TEST(FolderPicker, StartsWhereItIsToldOrAtTheHostsFolder)
     user.choose({});
     EXPECT_EQ(pickFolder(nullptr, folder, u"Specify folder"_s), QString()) << "cancelled";
     EXPECT_TRUE(user.shown().first().startsWith(u"choose \"Specify folder\""_s));
+}
+
+TEST(FilePicker, AsksBeforeAFileIsWrittenOverUnlessToldNotTo)
+{
+    const FakeHost host;
+    const QString file = host.writeFile(u"list.txt"_s, "x");
+    FilePickerOptions options{
+        .title = u"Save As"_s, .filter = u"Text files (*.txt);; All files (*.*)"_s, .start = file};
+    ModalAnswers user;
+    user.choose(file);
+    user.press(QMessageBox::Yes);
+    EXPECT_EQ(pickFileToSave(nullptr, options), file);
+    EXPECT_EQ(user.shown().size(), 2);
+    EXPECT_TRUE(user.shown().value(0).startsWith(u"choose \"Save As\" \"%1\""_s.arg(QFileInfo(file).path())));
+
+    options.overwriting = Overwriting::Silent;
+    user.choose(file);
+    EXPECT_EQ(pickFileToSave(nullptr, options), file);
+    user.choose(file);
+    EXPECT_EQ(pickFileToOpen(nullptr, options), file);
+    user.choose({});
+    EXPECT_EQ(pickFileToOpen(nullptr, options), QString()) << "cancelled";
+    EXPECT_EQ(user.shown().size(), 5);
 }
 
 TEST(DrawingPicker, GivesTheChosenDrawing)

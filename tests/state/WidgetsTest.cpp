@@ -2,6 +2,7 @@
 #include "state/DialogPicture.h"
 #include "state/DrawingPreview.h"
 #include "state/ElidedPathField.h"
+#include "state/TableRows.h"
 #include "tests/support/QtTestPrinters.h"
 
 #include <QApplication>
@@ -9,10 +10,13 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QSignalSpy>
+#include <QTableWidget>
 
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
+using namespace ortakit;
 
 namespace {
 
@@ -163,6 +167,31 @@ TEST(ButtonIcons, ButtonsOfADialogGetThoseThatThereAre)
     EXPECT_FALSE(buttons[u"ButtonCancel"_s]->icon().isNull());
     EXPECT_TRUE(buttons[u"buttonHelp"_s]->icon().isNull()) << "the host has no such icon here";
     EXPECT_TRUE(buttons[u"other"_s]->icon().isNull());
+}
+
+TEST(TableRows, AreReplacedQuietlyAndKeepTheOrderOfASortedTable)
+{
+    QTableWidget table;
+    setTableHeaders(table, u"Name;Description"_s);
+    table.setSelectionBehavior(QAbstractItemView::SelectRows);
+    table.sortByColumn(0, Qt::AscendingOrder);
+    table.setSortingEnabled(true);
+    const QSignalSpy changes(&table, &QTableWidget::cellChanged);
+    const QSignalSpy selections(&table, &QTableWidget::itemSelectionChanged);
+
+    setTableRows(table, {{u"b"_s, u"2"_s, u"too much"_s}, {u"a"_s}});
+    ASSERT_EQ(table.rowCount(), 2);
+    EXPECT_EQ(table.columnCount(), 2);
+    EXPECT_EQ(table.item(0, 0)->text(), u"a"_s);
+    EXPECT_EQ(table.item(0, 1)->text(), QString());
+    EXPECT_EQ(table.item(1, 1)->text(), u"2"_s);
+    EXPECT_EQ(selections.size(), 0);
+
+    table.selectRow(1);
+    setTableRows(table, {});
+    EXPECT_EQ(table.rowCount(), 0);
+    EXPECT_EQ(changes.size(), 0);
+    EXPECT_EQ(selections.size(), 2) << "by the row that was selected, and by its going";
 }
 
 } // namespace
