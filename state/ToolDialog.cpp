@@ -5,6 +5,7 @@
 #include "state/HelpTopicMap.h"
 
 #include <QAbstractButton>
+#include <QDialogButtonBox>
 #include <QShowEvent>
 
 ToolDialog::ToolDialog(QWidget *parent, const QString &helpTopic)
@@ -25,6 +26,8 @@ void ToolDialog::setUpButtons()
         connect(help, &QAbstractButton::clicked, this, &ToolDialog::showHelp, Qt::UniqueConnection);
     if (const auto *cancel = findChild<QAbstractButton *>(QStringLiteral("ButtonCancel")))
         connect(cancel, &QAbstractButton::clicked, this, &ToolDialog::reject, Qt::UniqueConnection);
+    for (const auto *box : findChildren<QDialogButtonBox *>())
+        connect(box, &QDialogButtonBox::helpRequested, this, &ToolDialog::showHelp, Qt::UniqueConnection);
 }
 
 void ToolDialog::acceptWith(const QString &action)

@@ -26,8 +26,9 @@ public slots:
     void showHelp();
 
 protected:
-    /// To be called once behind setupUi(): connects the buttons "buttonHelp" to showHelp() and "ButtonCancel" to
-    /// reject(); "acceptButton" is the tool's own. Their icons come with each showing and follow the host's style.
+    /// To be called once behind setupUi(): connects the buttons "buttonHelp" and Help of button boxes to showHelp() and
+    /// "ButtonCancel" to reject(); "acceptButton" and Close of button boxes are the tool's own. Their icons come with
+    /// each showing and follow the host's style.
     void setUpButtons();
 
     /// Fills what depends on the drawing or the disk, each time.

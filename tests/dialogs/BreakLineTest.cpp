@@ -1,74 +1,23 @@
 #include "dialogs/breakline/Dlg_QT_Breakline.h"
 #include "platform/widgets/CKvQtUnitSpinBox.h"
-#include "tests/support/FakeHost.h"
-#include "tests/support/ModalAnswers.h"
-#include "tests/support/QtTestPrinters.h"
+#include "tests/dialogs/DialogTest.h"
 
-#include <QAbstractButton>
 #include <QDir>
-#include <QLabel>
-#include <QLineEdit>
-#include <QTest>
-#include <QTimer>
-
-#include <gtest/gtest.h>
+#include <QFileInfo>
 
 using namespace ortakit::test;
 using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The dialog in a fake document, with one symbol drawing on disk.
-class BreakLine : public testing::Test
+class BreakLine : public DialogTest<Dlg_QT_Breakline>
 {
 protected:
-    void SetUp() override
-    {
-        host.setMainWindow(&window);
-        symbol = host.writeFile(u"zigzag.dxf"_s, "0\nEOF\n");
-        dialog = std::make_unique<Dlg_QT_Breakline>(&window);
-    }
-
-    template <class Widget = QWidget>
-    Widget *find(const char *name) const
-    {
-        auto *widget = dialog->findChild<Widget *>(QString::fromLatin1(name));
-        EXPECT_TRUE(widget) << name;
-        return widget;
-    }
-
     QLineEdit *fileField() const { return find<QLineEdit>("LbTitleblock"); }
     QLineEdit *nameField() const { return find<QLineEdit>("name"); }
-    bool isEnabled(const char *name) const { return find(name)->isEnabled(); }
     QString path() const { return fileField()->property("value").toString(); }
-    QString symbolFolder() const { return host.path(QString()) + u"Ortakit/BreakLine"_s; }
 
-    /// Shows the dialog with a state file of these lines, as the Lisp function does.
-    void showWith(const QString &lines)
-    {
-        stateFile = host.writeFile(u"state.txt"_s, lines.toUtf8());
-        dialog->state().load(stateFile);
-        show();
-    }
-    void show()
-    {
-        dialog->hide();
-        dialog->setResult(-1);
-        dialog->show();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(dialog.get()));
-    }
-    void click(const char *name) { find<QAbstractButton>(name)->click(); }
-    QString savedState()
-    {
-        dialog->state().save();
-        return QString::fromUtf8(FakeHost::readFile(stateFile)).remove(QChar(0xFEFF));
-    }
-
-    FakeHost host;
-    QWidget window;
-    QString symbol;
-    QString stateFile;
-    std::unique_ptr<Dlg_QT_Breakline> dialog;
+    QString symbol = host.writeFile(u"zigzag.dxf"_s, "0\nEOF\n");
 };
 
 TEST_F(BreakLine, MakesItsSymbolFolder)
@@ -248,32 +197,6 @@ TEST_F(BreakLine, NewSymbolNamesAreChecked)
             EXPECT_EQ(dialog->focusWidget()->objectName(), u"name"_s) << row.what;
     }
     EXPECT_EQ(FakeHost::readFile(host.path(u"Ortakit/BreakLine/wave.dwg"_s)), "old");
-}
-
-TEST_F(BreakLine, HelpOpensItsTopic)
-{
-    show();
-    click("buttonHelp");
-    EXPECT_EQ(host.help().requests.size(), 1);
-    EXPECT_TRUE(host.help().requests.value(0).contains(u"9101"_s));
-}
-
-TEST_F(BreakLine, MnemonicsDoNotClash)
-{
-    QMap<QChar, QString> owners;
-    const auto add = [&owners](const QString &text) {
-        const qsizetype mark = text.indexOf(u'&');
-        if (mark < 0)
-            return;
-        const QChar letter = text.at(mark + 1).toLower();
-        EXPECT_FALSE(owners.contains(letter)) << text.toStdString() << " and " << owners.value(letter).toStdString();
-        owners.insert(letter, text);
-    };
-    for (const QLabel *label : dialog->findChildren<QLabel *>())
-        add(label->text());
-    for (const QAbstractButton *button : dialog->findChildren<QAbstractButton *>())
-        add(button->text());
-    EXPECT_EQ(owners.size(), 5);
 }
 
 } // namespace

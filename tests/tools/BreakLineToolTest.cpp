@@ -123,7 +123,7 @@ TEST_F(BreakLineTool, CancellingLeavesTheStateFileAndTheDrawing)
                                         "expect-lisp (null result)\n"_s,
                                         plan);
     EXPECT_EQ(outcome.status, 0) << outcome.output.toStdString();
-    EXPECT_EQ(ToolRun::readFile(run.stateFile()), state);
+    EXPECT_EQ(ToolRun::readFile(run.stateFile(u"breakline"_s)), state);
     EXPECT_FALSE(QFile::exists(run.result(plan)));
 }
 

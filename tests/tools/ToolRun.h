@@ -29,7 +29,8 @@ public:
     RunOutcome play(const QString &session, const QString &drawing) const;
     RunOutcome playFile(const QString &sessionPath, const QString &drawing) const;
     QString result(const QString &drawing) const;
-    QString stateFile() const { return path(QStringLiteral("home/Ortakit/breakline.state")); }
+    /// Where the tool of that name keeps its dialog's state.
+    QString stateFile(const QString &tool) const { return path(QStringLiteral("home/Ortakit/%1.state").arg(tool)); }
 
 private:
     QTemporaryDir m_folder;

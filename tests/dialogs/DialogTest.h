@@ -1,0 +1,67 @@
+#pragma once
+
+#include "state/ToolDialog.h"
+#include "tests/support/FakeHost.h"
+#include "tests/support/ModalAnswers.h"
+#include "tests/support/QtTestPrinters.h"
+
+#include <QAbstractButton>
+#include <QLineEdit>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+namespace ortakit::test {
+
+/// One tool's dialog in a fake host with one document. The host is made first, so a test class that needs files or
+/// drawings before the dialog exists makes them in its constructor.
+template <class Dialog>
+class DialogTest : public testing::Test
+{
+protected:
+    DialogTest() { host.setMainWindow(&window); }
+    void SetUp() override { dialog = std::make_unique<Dialog>(&window); }
+
+    template <class Widget = QWidget>
+    Widget *find(const char *name) const
+    {
+        auto *widget = dialog->template findChild<Widget *>(QString::fromLatin1(name));
+        EXPECT_TRUE(widget) << name;
+        return widget;
+    }
+    bool isEnabled(const char *name) const { return find(name)->isEnabled(); }
+    bool isChecked(const char *name) const { return find<QAbstractButton>(name)->isChecked(); }
+    QString text(const char *lineEdit) const { return find<QLineEdit>(lineEdit)->text(); }
+    void setText(const char *lineEdit, const QString &text) { find<QLineEdit>(lineEdit)->setText(text); }
+    void click(const char *button) { find<QAbstractButton>(button)->click(); }
+    QString focusName() const { return dialog->focusWidget() ? dialog->focusWidget()->objectName() : QString(); }
+
+    /// Shows the dialog with a state file of these lines, as its Lisp function does.
+    void showWith(const QString &lines)
+    {
+        stateFile = host.writeFile(QStringLiteral("state.txt"), lines.toUtf8());
+        dialog->state().load(stateFile);
+        show();
+    }
+    void show()
+    {
+        dialog->hide();
+        dialog->setResult(-1);
+        dialog->show();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(dialog.get()));
+    }
+    bool isAccepted() const { return !dialog->isVisible() && dialog->result() == QDialog::Accepted; }
+    /// What the state file holds after a confirmed run, without the byte-order mark.
+    QString savedState()
+    {
+        dialog->state().save();
+        return QString::fromUtf8(FakeHost::readFile(stateFile)).remove(QChar(0xFEFF));
+    }
+
+    FakeHost host;
+    QWidget window;
+    QString stateFile;
+    std::unique_ptr<Dialog> dialog;
+};
+
+} // namespace ortakit::test

@@ -1,0 +1,171 @@
+// What a user may expect of each dialog, whatever it is for.
+
+#include "dialogs/breakline/Dlg_QT_Breakline.h"
+#include "tests/support/FakeHost.h"
+#include "tests/support/QtTestPrinters.h"
+
+#include <QAbstractButton>
+#include <QCheckBox>
+#include <QDialogButtonBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QRadioButton>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+using namespace ortakit::test;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct Row
+{
+    const char *name;
+    ToolDialog *(*create)(QWidget *parent);
+    const char *helpTopic;
+};
+
+template <class Dialog>
+constexpr Row row(const char *name, const char *helpTopic)
+{
+    return {name, [](QWidget *parent) -> ToolDialog * { return new Dialog(parent); }, helpTopic};
+}
+
+constexpr Row rows[] = {
+    row<Dlg_QT_Breakline>("Breakline", "9101"),
+};
+
+void PrintTo(const Row &row, std::ostream *out)
+{
+    *out << row.name;
+}
+
+class EveryDialog : public testing::TestWithParam<Row>
+{
+protected:
+    EveryDialog()
+    {
+        host.setMainWindow(&window);
+        dialog.reset(GetParam().create(&window));
+        dialog->show();
+        // Icons come with the showing and change what the layout has to fit.
+        EXPECT_TRUE(QTest::qWaitForWindowActive(dialog.get()));
+        QCoreApplication::processEvents();
+    }
+
+    template <class Widget>
+    QList<Widget *> visible() const
+    {
+        QList<Widget *> widgets = dialog->findChildren<Widget *>();
+        widgets.removeIf([](const Widget *widget) { return !widget->isVisible(); });
+        return widgets;
+    }
+
+    /// Texts with mnemonics that the user sees now.
+    QStringList shownTexts() const
+    {
+        QStringList texts;
+        for (const QLabel *label : visible<QLabel>())
+            texts.append(label->buddy() ? label->text() : QString());
+        for (const QAbstractButton *button : visible<QAbstractButton>())
+            texts.append(button->text());
+        for (const QGroupBox *box : visible<QGroupBox>())
+            texts.append(box->title());
+        return texts;
+    }
+
+    FakeHost host;
+    QWidget window;
+    std::unique_ptr<ToolDialog> dialog;
+};
+
+TEST_P(EveryDialog, HelpOpensItsTopic)
+{
+    auto *help = dialog->findChild<QAbstractButton *>(u"buttonHelp"_s);
+    if (!help) {
+        const auto *box = dialog->findChild<QDialogButtonBox *>();
+        ASSERT_TRUE(box);
+        help = box->button(QDialogButtonBox::Help);
+    }
+    ASSERT_TRUE(help);
+    help->click();
+    EXPECT_EQ(host.help().requests.value(0).section(u' ', 1, 1), QString::fromLatin1(GetParam().helpTopic));
+}
+
+TEST_P(EveryDialog, EscapeCloses)
+{
+    QTest::keyClick(dialog.get(), Qt::Key_Escape);
+    EXPECT_FALSE(dialog->isVisible());
+    EXPECT_EQ(dialog->result(), int(QDialog::Rejected));
+}
+
+TEST_P(EveryDialog, MnemonicsDoNotClash)
+{
+    QMap<QChar, QString> owners;
+    for (QString text : shownTexts()) {
+        const qsizetype mark = text.remove(u"&&"_s).indexOf(u'&');
+        if (mark < 0)
+            continue;
+        const QChar letter = text.at(mark + 1).toLower();
+        EXPECT_FALSE(owners.contains(letter)) << text.toStdString() << " and " << owners.value(letter).toStdString();
+        owners.insert(letter, text);
+    }
+}
+
+// A label, button or option that is narrower than its text needs is cut off.
+TEST_P(EveryDialog, NoTextIsCutOff)
+{
+    const auto check = [](const QWidget *widget, const QString &text) {
+        if (text.isEmpty())
+            return;
+        EXPECT_GE(widget->width(), widget->sizeHint().width()) << text.toStdString();
+        EXPECT_GE(widget->height(), widget->sizeHint().height()) << text.toStdString();
+    };
+    for (const QLabel *label : visible<QLabel>())
+        check(label, label->wordWrap() ? QString() : label->text());
+    for (const QAbstractButton *button : visible<QAbstractButton>())
+        check(button, button->text());
+}
+
+// The Tab key leads from the first widget through every one that takes the focus.
+TEST_P(EveryDialog, EveryWidgetIsReachedByTab)
+{
+    QSet<QWidget *> reached;
+    for (int step = 0; step < 200; ++step) {
+        if (QWidget *widget = dialog->focusWidget())
+            reached.insert(widget);
+        QTest::keyClick(dialog->focusWidget() ? dialog->focusWidget() : dialog.get(), Qt::Key_Tab);
+    }
+    for (QLineEdit *field : visible<QLineEdit>()) {
+        QWidget *owner = field->objectName() == u"qt_spinbox_lineedit"_s || qobject_cast<QComboBox *>(field->parent())
+                             ? field->parentWidget()
+                             : field;
+        const bool isReachable = owner->isEnabled() && owner->focusPolicy() & Qt::TabFocus;
+        EXPECT_TRUE(!isReachable || reached.contains(owner)) << owner->objectName().toStdString();
+    }
+    for (QAbstractButton *button : visible<QAbstractButton>()) {
+        // Of the options of a group only the chosen one takes part.
+        const bool isChoice = qobject_cast<QRadioButton *>(button);
+        const bool isReachable = button->isEnabled() && button->focusPolicy() & Qt::TabFocus && !isChoice;
+        EXPECT_TRUE(!isReachable || reached.contains(button)) << button->objectName().toStdString();
+    }
+}
+
+TEST_P(EveryDialog, KeepsItsWidgetsNamedOnce)
+{
+    QSet<QString> names;
+    for (const QWidget *widget : dialog->findChildren<QWidget *>()) {
+        const QString name = widget->objectName().toLower();
+        if (name.isEmpty() || name.startsWith(u"qt_"_s))
+            continue;
+        EXPECT_FALSE(names.contains(name)) << name.toStdString();
+        names.insert(name);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(All, EveryDialog, testing::ValuesIn(rows),
+                         [](const auto &test) { return std::string(test.param.name); });
+
+} // namespace
