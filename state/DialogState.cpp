@@ -1,5 +1,6 @@
 #include "state/DialogState.h"
 
+#include "state/FavouriteStore.h"
 #include "state/ModuleFolder.h"
 #include "state/StateFile.h"
 #include "state/WidgetValue.h"
@@ -72,7 +73,26 @@ void DialogState::apply(const QString &nameFilter, const QStringList &excluded)
     m_loaded = true;
 }
 
-void DialogState::save() const
+void DialogState::save(const QString &favouriteName, const QString &favouriteGroup) const
+{
+    if (favouriteName.isEmpty())
+        saveFile();
+    else
+        saveFavourite(favouriteName, favouriteGroup);
+}
+
+void DialogState::saveFavourite(const QString &name, const QString &group) const
+{
+    QList<ortakit::FavouriteStore::Entry> entries;
+    for (const QWidget *widget : widgets()) {
+        const QString value = ortakit::writtenValue(*widget);
+        if (!widget->objectName().isEmpty() && !value.isEmpty())
+            entries.append({widget->objectName().toLower(), value});
+    }
+    ortakit::FavouriteStore(group).save(name, entries);
+}
+
+void DialogState::saveFile() const
 {
     QString text;
     for (const QWidget *widget : widgets()) {

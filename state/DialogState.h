@@ -44,7 +44,10 @@ public:
     /// Writes the values of all widgets and the action word to the file of the last load(). The action line follows
     /// the first widget's; without a widget that has a value the file is empty. A crash or a full disk leaves the old
     /// file or the new one, where the folder allows to write beside it.
-    void save() const;
+    ///
+    /// With a name, keeps the values as the favourite of that name of the tool `favouriteGroup` instead: no action, no
+    /// indexes of combo boxes.
+    void save(const QString &favouriteName = {}, const QString &favouriteGroup = {}) const;
 
     /// Whether apply() has run.
     bool isLoaded() const { return m_loaded; }
@@ -62,6 +65,8 @@ public:
 
 private:
     QList<QWidget *> widgets() const;
+    void saveFile() const;
+    void saveFavourite(const QString &name, const QString &group) const;
 
     QDialog *m_dialog;
     StateLines m_lines;

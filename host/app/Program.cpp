@@ -12,6 +12,7 @@
 #include <QDir>
 #include <QEventLoop>
 #include <QFileInfo>
+#include <QSettings>
 
 #include <clocale>
 
@@ -99,6 +100,13 @@ int runMode(const ProgramOptions &options)
     }
 }
 
+/// A run with a home of its own leaves the settings of the person alone.
+void keepSettingsIn(const QString &home)
+{
+    if (!home.isEmpty())
+        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, home + u"/settings"_s);
+}
+
 } // namespace
 
 int runProgram(int argc, char **argv)
@@ -129,6 +137,7 @@ int runProgram(int argc, char **argv)
     std::setlocale(LC_NUMERIC, "C");
     QCoreApplication::setApplicationName(u"ortakit"_s);
     QCoreApplication::setApplicationVersion(u"" ORTAKIT_VERSION ""_s);
+    keepSettingsIn(options.home.isEmpty() ? qEnvironmentVariable("ORTAKIT_HOME") : options.home);
     applyStyle(options.style.value_or(Style::Light));
     return runMode(options);
 }

@@ -1,0 +1,179 @@
+#include "state/Dlg_QT_RemoveFavorits.h"
+#include "state/FavouriteStore.h"
+#include "state/FavouritesBox.h"
+#include "tests/state/Gallery.h"
+#include "tests/support/FakeHost.h"
+#include "tests/support/ModalAnswers.h"
+#include "tests/support/QtTestPrinters.h"
+
+#include <QSettings>
+#include <QSignalSpy>
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+using ortakit::FavouriteStore;
+using ortakit::test::FakeHost;
+using ortakit::test::ModalAnswers;
+
+namespace {
+
+/// A dialog with favourites, its settings in the test's folder.
+class Favourites : public testing::Test
+{
+protected:
+    Favourites()
+    {
+        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, host.path(u"settings"_s));
+        box->refresh();
+    }
+
+    QStringList shownNames() const
+    {
+        QStringList names;
+        for (int item = 0; item < dialog.favourites->count(); ++item)
+            names.append(dialog.favourites->itemText(item));
+        return names;
+    }
+    void saveAs(const QString &name)
+    {
+        dialog.favourites->setEditText(name);
+        save.click();
+    }
+    void pick(const QString &name)
+    {
+        dialog.favourites->setCurrentIndex(dialog.favourites->findText(name));
+        emit dialog.favourites->textActivated(name);
+    }
+
+    FakeHost host;
+    Gallery dialog;
+    DialogState state{&dialog};
+    QPushButton save;
+    QPushButton remove;
+    FavouritesBox *box = new FavouritesBox(&dialog, state, u"Sample"_s, {dialog.favourites, &save, &remove});
+    static FavouriteStore store() { return FavouriteStore(u"Sample"_s); }
+};
+
+TEST_F(Favourites, SaveWithTheQuestionsOfItsNames)
+{
+    const QString required = u"information \"Favorites\" \"Favorite name is required.\" OK"_s;
+    const QString question =
+        u"question \"Favorites\" \"Favorite \"Door\" already exists. Do you want to replace it?\" Yes/No"_s;
+    const struct
+    {
+        const char *what;
+        QString name;
+        QMessageBox::StandardButton answer;
+        QStringList shown;
+        QStringList listed;
+        QString kept; ///< what "Door" has for the edit field afterwards
+    } rows[] = {
+        {"no name", {}, QMessageBox::Ok, {required}, {}, {}},
+        {"a new name", u"Door"_s, QMessageBox::NoButton, {}, {u"Door"_s}, u"1"_s},
+        {"the same, kept", u"Door"_s, QMessageBox::No, {question}, {u"Door"_s}, u"1"_s},
+        {"the same, replaced", u"Door"_s, QMessageBox::Yes, {question}, {u"Door"_s}, u"3"_s},
+        // Written beside it, but not listed again.
+        {"another spelling", u"dooR"_s, QMessageBox::NoButton, {}, {u"Door"_s}, u"3"_s},
+        {"a name like a path", u"a/b\\c %2F"_s, QMessageBox::NoButton, {}, {u"Door"_s, u"a/b\\c %2F"_s}, u"3"_s},
+    };
+    EXPECT_FALSE(remove.isEnabled());
+    int step = 0;
+    for (const auto &row : rows) {
+        dialog.edit->setText(QString::number(step++));
+        ModalAnswers answers;
+        if (row.answer != QMessageBox::NoButton)
+            answers.press(row.answer);
+        saveAs(row.name);
+        EXPECT_EQ(answers.shown(), row.shown) << row.what;
+        EXPECT_EQ(shownNames(), row.listed) << row.what;
+        EXPECT_EQ(remove.isEnabled(), !row.listed.isEmpty()) << row.what;
+        EXPECT_TRUE(store().load(u"Door"_s).contains({u"tx_edit"_s, row.kept}) || row.kept.isEmpty()) << row.what;
+    }
+    EXPECT_EQ(dialog.favourites->currentText(), QString());
+    QStringList names = FavouriteStore(u"Sample"_s).names();
+    names.sort();
+    EXPECT_EQ(names, (QStringList{u"Door"_s, u"a/b\\c %2F"_s, u"dooR"_s}));
+    EXPECT_EQ(FavouriteStore(u"Other"_s).names(), QStringList());
+}
+
+TEST_F(Favourites, HoldValuesButNoIndexesAndNoAction)
+{
+    state.setAction(u"OK"_s);
+    saveAs(u"Door"_s);
+    QStringList keys;
+    for (const auto &[key, value] : store().load(u"Door"_s)) {
+        keys.append(key);
+        EXPECT_FALSE(value.isEmpty()) << key.toStdString();
+    }
+    EXPECT_TRUE(keys.contains(u"cb_fixed"_s));
+    EXPECT_EQ(keys.filter(u"_index"_s) + keys.filter(u"action"_s), QStringList());
+}
+
+TEST_F(Favourites, PickingOneSetsTheWidgetsAndNothingOfEarlierStates)
+{
+    dialog.edit->setText(u"oak, \"old\" = ä;\\x"_s);
+    dialog.check->setChecked(true);
+    saveAs(u"Door"_s);
+    store().save(u"Odd"_s, {{u"tx_edit"_s, u"odd"_s}, {u"buttonCancel"_s, u"x"_s}, {u"qtEntities"_s, u"y"_s}});
+    box->refresh();
+
+    state.setLines({u"ck_flag=FALSE"_s, u"!action!=SHOW"_s});
+    dialog.edit->setText(u"changed"_s);
+    dialog.check->setChecked(false);
+    const QSignalSpy loaded(box, &FavouritesBox::loaded);
+    pick(u"Door"_s);
+    // A value is cut at the second "=", as everywhere in a state.
+    EXPECT_EQ(dialog.edit->property("value").toString(), u"oak, \"old\" "_s);
+    EXPECT_TRUE(dialog.check->isChecked());
+    EXPECT_EQ(dialog.favourites->currentText(), u"Door"_s);
+    EXPECT_EQ(state.lookup(u"!action!"_s), QString());
+    EXPECT_EQ(loaded.size(), 1);
+
+    pick(u"Odd"_s);
+    EXPECT_EQ(state.lines(), QStringList{u"tx_edit=odd"_s});
+
+    store().remove(u"Odd"_s);
+    pick(u"Odd"_s);
+    EXPECT_EQ(state.lines(), QStringList());
+    EXPECT_EQ(dialog.edit->text(), u"odd"_s);
+}
+
+TEST_F(Favourites, WhatWasRemovedStaysRemovedWhenTheListIsCancelled)
+{
+    for (const QString &name : {u"a"_s, u"b"_s, u"c"_s})
+        saveAs(name);
+    ModalAnswers answers;
+    answers.drive([](QWidget *window) {
+        auto *list = window->findChild<QListWidget *>(u"ListFavorits"_s);
+        auto *button = window->findChild<QPushButton *>(u"BtnRemove"_s);
+        ASSERT_EQ(list->count(), 3);
+        EXPECT_FALSE(button->isEnabled());
+        list->item(2)->setSelected(true);
+        list->item(0)->setSelected(true);
+        EXPECT_TRUE(button->isEnabled());
+        button->click();
+        EXPECT_EQ(list->count(), 1);
+        EXPECT_FALSE(button->isEnabled());
+        window->findChild<QPushButton *>(u"ButtonCancel"_s)->click();
+    });
+    remove.click();
+    EXPECT_TRUE(answers.isDone());
+    EXPECT_EQ(shownNames(), QStringList{u"b"_s});
+    EXPECT_EQ(store().names(), QStringList{u"b"_s});
+    EXPECT_TRUE(remove.isEnabled());
+}
+
+TEST_F(Favourites, RemovingNothingIsSaid)
+{
+    Dlg_QT_RemoveFavorits list(nullptr, u"Sample"_s);
+    list.show();
+    auto *button = list.findChild<QPushButton *>(u"BtnRemove"_s);
+    button->setEnabled(true);
+    ModalAnswers answers;
+    answers.press(QMessageBox::Ok);
+    button->click();
+    EXPECT_EQ(answers.shown(), QStringList{u"information \"Remove favorites\" \"Select items for remove.\" OK"_s});
+}
+
+} // namespace
