@@ -65,9 +65,17 @@ QItemSelection selectionOf(const QTableWidget &table, const QList<QTableWidgetIt
     return selection;
 }
 
+int itemCount(const QTableWidget &table, int row, int firstColumn, int lastColumn)
+{
+    int count = 0;
+    for (int column = firstColumn; column <= lastColumn; ++column)
+        count += table.item(row, column) ? 1 : 0;
+    return count;
+}
+
 } // namespace
 
-QString selectedRowTexts(const QTableWidget &table)
+QList<int> rowsWithSelection(const QTableWidget &table)
 {
     QList<int> rows;
     for (const QItemSelectionRange &range : table.selectionModel()->selection()) {
@@ -76,9 +84,41 @@ QString selectedRowTexts(const QTableWidget &table)
     }
     std::sort(rows.begin(), rows.end());
     rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
+    return rows;
+}
 
+QList<int> wholeSelectedRows(const QTableWidget &table)
+{
+    const QItemSelection selection = table.selectionModel()->selection();
+    std::vector<int> selectedItems(std::size_t(table.rowCount()), 0);
+    for (const QItemSelectionRange &range : selection) {
+        for (int row = range.top(); row <= range.bottom(); ++row)
+            selectedItems[std::size_t(row)] += itemCount(table, row, range.left(), range.right());
+    }
+    QList<int> rows;
+    for (const QItemSelectionRange &range : selection) {
+        for (int row = range.top(); row <= range.bottom(); ++row) {
+            int &found = selectedItems[std::size_t(row)];
+            if (found > 0 && found == itemCount(table, row, 0, table.columnCount() - 1))
+                rows.append(row);
+            found = 0; // a row of several ranges is reported once
+        }
+    }
+    return rows;
+}
+
+qsizetype selectedCellCount(const QTableWidget &table)
+{
+    qsizetype count = 0;
+    for (const QItemSelectionRange &range : table.selectionModel()->selection())
+        count += qsizetype(range.width()) * range.height();
+    return count;
+}
+
+QString selectedRowTexts(const QTableWidget &table)
+{
     QString texts;
-    for (const int row : rows)
+    for (const int row : rowsWithSelection(table))
         texts += table.model()->index(row, 0).data(Qt::DisplayRole).toString() + u'^';
     return texts;
 }

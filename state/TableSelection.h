@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QList>
 #include <QString>
 
 class QTableWidget;
@@ -13,5 +14,18 @@ QString selectedRowTexts(const QTableWidget &table);
 /// scrolls to each, in the order of the parts. An empty part, such as the one behind a closing "^", stands for the
 /// items without text. A table that selects by rows selects the items' rows.
 void selectByTexts(QTableWidget &table, const QString &texts);
+
+// What Qt itself answers about a selection of many separate rows takes time that grows with the square of their number;
+// these grow with the number of selected cells.
+
+/// Rows with at least one selected cell, from top to bottom.
+QList<int> rowsWithSelection(const QTableWidget &table);
+
+/// Rows that have cells and of which every cell that has an item is selected, in the order in which the selection has
+/// them: what was selected first comes first, each range from top to bottom.
+QList<int> wholeSelectedRows(const QTableWidget &table);
+
+/// How many cells are selected.
+qsizetype selectedCellCount(const QTableWidget &table);
 
 } // namespace ortakit

@@ -2,7 +2,11 @@
 #include "state/DialogPicture.h"
 #include "state/DrawingPreview.h"
 #include "state/ElidedPathField.h"
+#include "state/LongWork.h"
 #include "state/TableRows.h"
+#include "state/TableSelection.h"
+#include "tests/support/FakeHost.h"
+#include "tests/support/ModalAnswers.h"
 #include "tests/support/QtTestPrinters.h"
 
 #include <QApplication>
@@ -192,6 +196,50 @@ TEST(TableRows, AreReplacedQuietlyAndKeepTheOrderOfASortedTable)
     EXPECT_EQ(table.rowCount(), 0);
     EXPECT_EQ(changes.size(), 0);
     EXPECT_EQ(selections.size(), 2) << "by the row that was selected, and by its going";
+}
+
+TEST(TableSelection, TellsWholeRowsInTheOrderOfTheirSelection)
+{
+    QTableWidget table;
+    setTableHeaders(table, u"A;B;C"_s);
+    setTableRows(table, {{u"1"_s}, {u"2"_s}, {u"3"_s}, {u"4"_s}});
+    delete table.takeItem(3, 2);
+    const auto select = [&table](int row, int first, int last) {
+        table.setRangeSelected({row, first, row, last}, true);
+    };
+    select(2, 0, 2);
+    select(1, 0, 0);
+    select(3, 0, 1); // its third cell has no item
+    select(0, 2, 2);
+    select(0, 0, 1);
+    EXPECT_EQ(wholeSelectedRows(table), (QList<int>{2, 3, 0}));
+    EXPECT_EQ(rowsWithSelection(table), (QList<int>{0, 1, 2, 3}));
+    EXPECT_EQ(selectedCellCount(table), 9);
+    table.clearSelection();
+    EXPECT_EQ(wholeSelectedRows(table), QList<int>());
+}
+
+TEST(LongWork, ComesUpAfterAWhileAndCanBeCancelled)
+{
+    QWidget window;
+    {
+        test::ModalAnswers answers;
+        LongWork quick(&window, u"Working..."_s, 100000);
+        for (int step = 0; step < 100000; ++step)
+            ASSERT_TRUE(quick.goesOn());
+        EXPECT_EQ(answers.shown(), QStringList());
+    }
+    test::ModalAnswers answers;
+    answers.drive([](QWidget *progress) { progress->findChild<QPushButton *>()->click(); });
+    LongWork slow(&window, u"Working..."_s, 1000000);
+    QElapsedTimer clock;
+    clock.start();
+    while (slow.goesOn() && clock.elapsed() < 10000)
+        continue;
+    EXPECT_TRUE(answers.isDone());
+    EXPECT_FALSE(slow.goesOn());
+    EXPECT_GE(clock.elapsed(), 500);
+    EXPECT_LT(clock.elapsed(), 10000);
 }
 
 } // namespace
