@@ -1,0 +1,81 @@
+#include "dialogs/lispexplorer/KeywordMatcher.h"
+
+namespace ortakit {
+
+namespace {
+
+// "\s" of an expression without Unicode properties: no blank beyond ASCII counts.
+bool isBlank(char16_t character)
+{
+    return character == u' ' || (character >= u'\t' && character <= u'\r');
+}
+
+bool meansItself(QChar character)
+{
+    static const QString special = QStringLiteral("\\^$.[]|()?*+{}");
+    return !isBlank(character.unicode()) && !special.contains(character);
+}
+
+bool isPlain(const QString &entry)
+{
+    return !entry.isEmpty() && entry.isValidUtf16() && std::all_of(entry.begin(), entry.end(), meansItself);
+}
+
+/// The character that each match of the entry begins with, or null. Null is always right.
+QChar firstOf(const QString &entry)
+{
+    const bool isKnown = meansItself(entry.front()) && !entry.front().isSurrogate() && !entry.contains(u'|');
+    const bool mayBeLeftOut = entry.size() > 1 && QStringView(u"?*{").contains(entry[1]);
+    return isKnown && !mayBeLeftOut ? entry.front() : QChar();
+}
+
+} // namespace
+
+bool opensKeyword(QChar character)
+{
+    return isBlank(character.unicode()) || character == u'(';
+}
+
+bool endsKeyword(QChar character)
+{
+    return opensKeyword(character) || character == u')';
+}
+
+KeywordMatcher::KeywordMatcher(const QStringList &entries) : m_entries(entries)
+{
+    for (const QString &entry : m_entries) {
+        if (isPlain(entry)) {
+            m_plainWords.insert(entry);
+            m_longestWord = std::max(m_longestWord, entry.size());
+        } else if (!entry.isEmpty()) {
+            addExpression(entry);
+        }
+    }
+}
+
+void KeywordMatcher::addExpression(const QString &entry)
+{
+    QRegularExpression expression(QStringLiteral("(?<=[\\s(])") + entry + QStringLiteral("(?=[\\s()\\n])"));
+    if (!expression.isValid())
+        return;
+    expression.optimize();
+    m_expressions.push_back({std::move(expression), firstOf(entry)});
+}
+
+bool KeywordMatcher::isPlainWord(QStringView token) const
+{
+    return token.size() <= m_longestWord && m_plainWords.contains(token);
+}
+
+bool KeywordMatcher::Expression::mayMatch(QStringView line) const
+{
+    if (first.isNull())
+        return true;
+    for (qsizetype at = line.indexOf(first, 1); at > 0; at = line.indexOf(first, at + 1)) {
+        if (opensKeyword(line[at - 1]))
+            return true;
+    }
+    return false;
+}
+
+} // namespace ortakit

@@ -1,0 +1,103 @@
+#include "dialogs/lispexplorer/LispPainter.h"
+
+namespace ortakit {
+
+LispPainter::LispPainter(const QStringList &keywords) : m_keywords(keywords) {}
+
+void LispPainter::setSearch(const QString &search)
+{
+    if (search == m_searchText)
+        return;
+    m_searchText = search;
+    m_search = QRegularExpression(search, QRegularExpression::CaseInsensitiveOption);
+    m_searches = !search.isEmpty() && m_search.isValid();
+    if (m_searches)
+        m_search.optimize();
+}
+
+const std::vector<LispRun> &LispPainter::paint(const QString &line)
+{
+    m_runs.clear();
+    if (line.isEmpty() || !line.isValidUtf16())
+        return m_runs;
+    m_styles.assign(size_t(line.size()), LispStyle::Plain);
+    paintSymbols(line);
+    m_keywords.findExpressions(line,
+                               [this](qsizetype start, qsizetype length) { fill(start, length, LispStyle::Keyword); });
+    paintLiterals(line);
+    paintMatches(line);
+    collectRuns();
+    return m_runs;
+}
+
+// Parentheses, and the keywords that are plain words. What stands behind the last delimiter is never a keyword.
+void LispPainter::paintSymbols(QStringView line)
+{
+    qsizetype start = 0;
+    for (qsizetype at = 0; at < line.size(); ++at) {
+        const QChar character = line[at];
+        if (!endsKeyword(character))
+            continue;
+        if (at > start && start > 0 && line[start - 1] != u')' &&
+            m_keywords.isPlainWord(line.sliced(start, at - start)))
+            fill(start, at - start, LispStyle::Keyword);
+        if (character == u'(' || character == u')')
+            m_styles[size_t(at)] = LispStyle::Parenthesis;
+        start = at + 1;
+    }
+}
+
+// Strings, digits and comments. A string reaches from the first quote of the line to the last; neither it nor a
+// comment goes on behind a line feed, should the line hold one.
+void LispPainter::paintLiterals(QStringView line)
+{
+    qsizetype end = 0;
+    for (qsizetype start = 0; start <= line.size(); start = end + 1) {
+        end = line.indexOf(u'\n', start);
+        if (end < 0)
+            end = line.size();
+        const QStringView part = line.sliced(start, end - start);
+        const qsizetype quote = part.indexOf(u'"');
+        if (quote >= 0 && part.lastIndexOf(u'"') > quote)
+            fill(start + quote, part.lastIndexOf(u'"') - quote + 1, LispStyle::String);
+        for (qsizetype at = start; at < end; ++at) {
+            if (line[at] >= u'0' && line[at] <= u'9')
+                m_styles[size_t(at)] = LispStyle::Digit;
+        }
+        const qsizetype comment = part.indexOf(u';');
+        if (comment >= 0)
+            fill(start + comment, part.size() - comment, LispStyle::Comment);
+    }
+}
+
+void LispPainter::paintMatches(const QString &line)
+{
+    if (!m_searches)
+        return;
+    for (auto matches = m_search.globalMatch(line); matches.hasNext();) {
+        const QRegularExpressionMatch match = matches.next();
+        fill(match.capturedStart(), match.capturedLength(), LispStyle::SearchMatch);
+    }
+}
+
+// A match that ends before it starts ("(?=ab\K)") has a negative length and covers nothing, like an empty one.
+void LispPainter::fill(qsizetype start, qsizetype length, LispStyle style)
+{
+    if (length > 0)
+        std::fill_n(m_styles.begin() + start, length, style);
+}
+
+void LispPainter::collectRuns()
+{
+    const int size = int(m_styles.size());
+    for (int start = 0, end = 0; start < size; start = end) {
+        const LispStyle style = m_styles[size_t(start)];
+        end = start + 1;
+        while (end < size && m_styles[size_t(end)] == style)
+            ++end;
+        if (style != LispStyle::Plain)
+            m_runs.push_back({start, end - start, style});
+    }
+}
+
+} // namespace ortakit
