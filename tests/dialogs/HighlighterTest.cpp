@@ -1,0 +1,375 @@
+#include "dialogs/lispexplorer/Highlighter.h"
+
+#include "dialogs/lispexplorer/LispKeywords.h"
+#include "dialogs/lispexplorer/SourceView.h"
+#include "tests/support/QtTestPrinters.h"
+#include "tests/support/RuleByRule.h"
+
+#include <QDir>
+#include <QFile>
+#include <QPlainTextEdit>
+#include <QRandomGenerator>
+#include <QScrollBar>
+#include <QTextBlock>
+
+#include <array>
+#include <gtest/gtest.h>
+
+using namespace ortakit;
+using namespace ortakit::test;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// A letter a character: what LispPainter makes of the line.
+QString styles(LispPainter &painter, const QString &line)
+{
+    QString letters(line.size(), u'.');
+    for (const LispRun &run : painter.paint(line))
+        letters.replace(run.start, run.length, QString(run.length, QStringView(u".PKSDCM")[int(run.style)]));
+    return letters;
+}
+
+/// The same of what the expressions make of it.
+QString styles(const RuleByRule &rules, const QString &line, const QString &search)
+{
+    const std::pair<QTextCharFormat, QChar> letterOf[] = {
+        {QTextCharFormat(), u'.'},  {rules.parenthesisFormat, u'P'}, {rules.keywordFormat, u'K'},
+        {rules.stringFormat, u'S'}, {rules.digitFormat, u'D'},       {rules.commentFormat, u'C'},
+        {rules.searchFormat, u'M'},
+    };
+    QString letters;
+    for (const QTextCharFormat &format : rules.paint(line, search)) {
+        const auto *found =
+            std::find_if(std::begin(letterOf), std::end(letterOf), [&](auto &pair) { return pair.first == format; });
+        letters += found == std::end(letterOf) ? QChar(u'?') : found->second;
+    }
+    return letters;
+}
+
+/// The formats that the lines of a document are drawn with, joined where the same format goes on.
+QList<QList<QTextLayout::FormatRange>> drawnFormats(const QTextDocument &document)
+{
+    QList<QList<QTextLayout::FormatRange>> lines;
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next())
+        lines += block.layout()->formats();
+    return lines;
+}
+
+QList<QTextLayout::FormatRange> joined(const QList<QTextCharFormat> &formats)
+{
+    QList<QTextLayout::FormatRange> ranges;
+    for (int at = 0; at < formats.size(); ++at) {
+        if (formats[at].isEmpty())
+            continue;
+        if (!ranges.isEmpty() && ranges.last().start + ranges.last().length == at &&
+            ranges.last().format == formats[at])
+            ++ranges.last().length;
+        else
+            ranges += {at, 1, formats[at]};
+    }
+    return ranges;
+}
+
+/// Lines as a hostile user would write them: many keywords, delimiters, quotes, semicolons, odd characters.
+class LineMaker
+{
+    template <class List>
+    auto pick(const List &list)
+    {
+        return list[m_random.bounded(int(list.size()))];
+    }
+
+public:
+    LineMaker(int seed, QStringList words) : m_random(quint32(seed)), m_words(std::move(words)) {}
+
+    QString line()
+    {
+        QString text;
+        for (int pieces = m_random.bounded(14); pieces > 0; --pieces)
+            text += piece();
+        return text;
+    }
+
+    /// Mostly no valid expression, or one with surprises.
+    QString search()
+    {
+        static const QStringList searches = {
+            u""_s,       u"car"_s,        u"A*"_s,        u"["_s,       u"("_s,    u"\\"_s,     u"."_s,
+            u"^"_s,      u"$"_s,          u"\\b"_s,       u"(?<=a)b"_s, u"x|"_s,   u"\u017F"_s, u"k"_s,
+            u"\u00C9"_s, u"\U0001F600"_s, u"(?=.c\\K)"_s, u"\\d+"_s,    u"\""_s,   u";.*"_s,    u"\\R"_s,
+            u"\\X"_s,    u"(?-i)C"_s,     u"\\s+"_s,      u"\\w"_s,     u"^.*$"_s, u"(?m)^."_s, u"(?s).*"_s,
+            u"\\Z"_s,    u"(*UCP)\\w"_s,  u"(*CRLF)."_s,  u"[^a]"_s,
+        };
+        if (m_random.bounded(3) > 0)
+            return pick(searches);
+        QString text;
+        for (int characters = 1 + m_random.bounded(5); characters > 0; --characters)
+            text += pick(u"aAcr1()[]*+?|.\\^$;\" "_s);
+        return text;
+    }
+
+private:
+    QString piece()
+    {
+        const QString word = pick(m_words);
+        switch (m_random.bounded(16)) {
+        case 0:
+        case 1:
+            return word;
+        case 2:
+            return u"("_s + word + u" "_s;
+        case 3:
+            return u"("_s + word + u")"_s;
+        case 4:
+            return word.toUpper();
+        case 5:
+            return u" "_s + word.left(m_random.bounded(int(word.size()) + 1));
+        case 6:
+            return QString::number(m_random.bounded(1200));
+        case 7:
+            return u" 1111"_s.left(1 + m_random.bounded(5));
+        case 8:
+            return u"\""_s;
+        case 9:
+            return m_random.bounded(3) ? u" "_s : u";"_s;
+        case 10:
+            return oddCharacter();
+        case 11:
+            return pick(u"abcrSkK-+*?/.:'!_"_s);
+        default:
+            return pick(u" (() )\t"_s);
+        }
+    }
+
+    QString oddCharacter()
+    {
+        static const QStringList odd = {
+            u"\u2028"_s, u"\u2029"_s, u"\u00A0"_s,     u"\u0085"_s, u"\u3000"_s,
+            u"\r"_s,     u"\n"_s,     u"\v"_s,         u"\f"_s,     u"\u001C"_s,
+            u"\u00E9"_s, u"\u88AC"_s, u"\u212A"_s,     u"\u0661"_s, u"\uFEFF"_s,
+            u"\u0301"_s, u"\uFFFF"_s, u"\U0001F600"_s, u"\r\n"_s,   QString(1, QChar(u'\0')),
+        };
+        if (m_random.bounded(25) == 0)
+            return QString(1, QChar(m_random.bounded(2) ? 0xD83D : 0xDE00));
+        return pick(odd);
+    }
+
+    QRandomGenerator m_random;
+    QStringList m_words;
+};
+
+/// Compares `lines` random lines, a new search text each dozen, and says which line differs first.
+void expectSamePaint(const QStringList &keywords, int lines, int startingPoint)
+{
+    LispPainter painter(keywords);
+    const RuleByRule rules(keywords);
+    LineMaker maker(startingPoint, keywords);
+    QString search;
+    for (int number = 0; number < lines; ++number) {
+        if (number % 12 == 0)
+            painter.setSearch(search = maker.search());
+        const QString line = maker.line();
+        ASSERT_EQ(styles(painter, line), styles(rules, line, search))
+            << "seed " << startingPoint << ", line " << number << ": " << qPrintable(line)
+            << "\nsearch: " << qPrintable(search);
+    }
+}
+
+QString readText(const QString &path)
+{
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << qPrintable(path);
+    return QString::fromUtf8(file.readAll());
+}
+
+struct View
+{
+    QLineEdit searchField;
+    QPlainTextEdit edit;
+    Highlighter highlighter{&searchField, edit.document()};
+
+    View()
+    {
+        edit.setReadOnly(true);
+        edit.setLineWrapMode(QPlainTextEdit::NoWrap);
+    }
+};
+
+TEST(LispKeywords, AreThoseOfTheDialect)
+{
+    const QStringList words = lispKeywords();
+    EXPECT_EQ(lispKeywordText().size(), 15137);
+    ASSERT_EQ(words.size(), 987);
+    EXPECT_EQ(words.mid(0, 22).join(u' '),
+              u"error merr merrmsg origatomsfamily pop-error-mode push-error-using-command push-error-using-stack "
+              "settrace - / /= 1+ 1- < <= = > >= abs acad_colordlg acad_strlsort acet-acad-refresh"_s);
+    EXPECT_EQ(words.mid(981).join(u' '), u"_vl-balance-parenthesis _vl-fast-mode _vl-times _vlisp-version ~ "_s);
+    EXPECT_TRUE(words.contains(u"ai_ref\u88ACert"_s));
+
+    const std::pair<QString, int> families[] = {
+        {u"acet-"_s, 295}, {u"vlax-"_s, 58}, {u"ai_"_s, 49},         {u"vla-"_s, 43},
+        {u"vl-"_s, 40},    {u"dlg_"_s, 32},  {u"layerstate-"_s, 14}, {u"etc_"_s, 12},
+    };
+    for (const auto &[prefix, count] : families)
+        EXPECT_EQ(std::count_if(words.begin(), words.end(), [&](auto &word) { return word.startsWith(prefix); }), count)
+            << qPrintable(prefix);
+}
+
+TEST(LispPainter, PaintsWhatTheRulesSay)
+{
+    const struct
+    {
+        const char *name;
+        QString line;
+        QString expected;
+        QString search = {};
+    } rows[] = {
+        {"a form", u"(setq x 10)"_s, u"PKKKK...DDP"_s},
+        {"keyword at the start or the end", u"car (car) car"_s, u"....PKKKP...."_s},
+        {"keyword behind a closing parenthesis", u"(x)car (x) car "_s, u"P.P....P.P.KKK."_s},
+        {"keyword in capitals", u"(DEFUN (defun f"_s, u"P......PKKKKK.."_s},
+        {"keyword as a part", u"(setqx (setq-x ('car (car'"_s, u"P......P.......P.....P...."_s},
+        {"keyword that is an expression", u"(1+ x) (11 (111 "_s, u"PD...P.PDD.PDDD."_s},
+        {"keyword and digit in a string", u"(princ \"to car 1 \")"_s, u"PKKKKK.SSSSSSSSDSSP"_s},
+        {"from the first quote to the last", u"(f \"a\" car \"b\" 1)"_s, u"P..SSSSSSSSSSS.DP"_s},
+        {"single quote", u"(f \"car 1)"_s, u"P.......DP"_s},
+        {"comment in a string", u"(princ \"a;b\")"_s, u"PKKKKK.SSCCCC"_s},
+        {"comment with everything", u"(car x) ; (car \"1\") ; "_s, u"PKKK..P.CCCCCCCCCCCCCC"_s},
+        {"character beyond ASCII", u"(ai_ref\u88ACert \u88AC)"_s, u"PKKKKKKKKKK..P"_s},
+        {"characters of two code units", u"\U0001F600(car \U0001F600)1"_s, u"..PKKK...PD"_s},
+        {"half a character spoils the line", u"(car 1"_s + QChar(0xD83D), u"......."_s},
+        {"blanks beyond ASCII delimit nothing", u"(car\u00A0 \u2028car "_s, u"P.........."_s},
+        {"line feeds", u"(car\ncar\n\"\n\";1\n2"_s, u"PKKK.KKK....CC.D"_s},
+        {"search in any case, in words, over all else", u"(cdr CAR \"scary\") ;car"_s, u"PKKK.MMM.SSMMMSSP.CMMM"_s,
+         u"car"_s},
+        {"search as an expression", u"(car 12)"_s, u"PMMM.MMP"_s, u"[a-z]+|\\d+"_s},
+        {"search that is no expression", u"(car"_s, u"P..."_s, u"(car"_s},
+        {"search for nothing", u"(car "_s, u"PKKK."_s, u"x*"_s},
+    };
+    LispPainter painter(lispKeywords());
+    const RuleByRule rules(lispKeywords());
+    for (const auto &row : rows) {
+        painter.setSearch(row.search);
+        EXPECT_EQ(styles(painter, row.line), row.expected) << row.name;
+        EXPECT_EQ(styles(rules, row.line, row.search), row.expected) << "rule by rule, " << row.name;
+    }
+}
+
+// Other lines come with --gtest_shuffle --gtest_random_seed=NUMBER, or --gtest_shuffle --gtest_repeat=TIMES.
+int seed()
+{
+    return testing::UnitTest::GetInstance()->random_seed();
+}
+
+TEST(LispPainter, PaintsRandomLinesLikeTheExpressions)
+{
+    expectSamePaint(lispKeywords(), 8000, seed());
+}
+
+// Few words make the expressions quick, so that odd words meet many lines.
+TEST(LispPainter, PaintsAnyKeywordsLikeTheExpressions)
+{
+    const QStringList lists[] = {
+        {u"car"_s, u"cadr"_s, u"1+"_s, u"-"_s, u"c"_s, u""_s},
+        {u"isfcn?"_s, u"1+"_s, u"1*"_s, u"?"_s, u"+"_s, u"*"_s, u"a?b"_s, u"r{0}"_s},
+        {u"a|b"_s, u"|"_s, u"("_s, u")"_s, u"["_s, u"[a-c]+"_s, u"{"_s, u"}"_s, u"]"_s, u"\\"_s, u"\\("_s},
+        {u"c.r"_s, u".*"_s, u"^"_s, u"$"_s, u"(c)\\1"_s, u"car (1"_s, u"c\\s1"_s, u"(?i)car"_s, u"(?=c\\K)"_s},
+        {u"1[ (]1"_s, u"car(?#x)"_s, u"a#b"_s, u"c\td"_s, u"\\Qcar"_s, u"1\\K1"_s, u"x(?|y)"_s, u"(*COMMIT)a"_s},
+        {u"\u88AC"_s, u"\U0001F600"_s, u"\U0001F600+"_s, u"\u00E9?"_s, QString(1, QChar(0xD83D)), u"\u2028+"_s},
+        {u""_s},
+    };
+    for (const QStringList &list : lists)
+        expectSamePaint(list, 4000, seed());
+}
+
+TEST(Highlighter, DrawsEachLispFileLikeTheExpressions)
+{
+    const RuleByRule rules(lispKeywords());
+    const QDir top(qEnvironmentVariable("ORTAKIT_SOURCE"));
+    int lines = 0;
+    for (const QString &folder : {u"tools"_s, u"tools/support"_s}) {
+        for (const QFileInfo &file : QDir(top.filePath(folder)).entryInfoList({u"*.lsp"_s})) {
+            View view;
+            view.searchField.setText(u"(d|c)[aeiou]"_s);
+            showSource(view.edit, view.highlighter, readText(file.filePath()));
+            const auto drawn = drawnFormats(*view.edit.document());
+            for (QTextBlock block = view.edit.document()->begin(); block.isValid(); block = block.next(), ++lines) {
+                ASSERT_EQ(drawn[block.blockNumber()], joined(rules.paint(block.text(), view.searchField.text())))
+                    << qPrintable(file.fileName() + u": "_s + block.text());
+            }
+        }
+    }
+    EXPECT_GT(lines, 100);
+}
+
+TEST(SourceView, MarksFollowTheSearchFieldAndThePlaceStays)
+{
+    View view;
+    view.edit.resize(300, 200);
+    view.edit.show();
+    const QString text = u"(car x)\n"_s.repeated(500);
+    showSource(view.edit, view.highlighter, text);
+    QTextCursor cursor = view.edit.textCursor();
+    cursor.setPosition(2000);
+    cursor.setPosition(2004, QTextCursor::KeepAnchor);
+    view.edit.setTextCursor(cursor);
+    const int scrolled = view.edit.verticalScrollBar()->value();
+    ASSERT_GT(scrolled, 0);
+
+    for (const QString &search : {u"c"_s, u"ca"_s, u"ca("_s, u""_s}) {
+        view.searchField.setText(search);
+        showSource(view.edit, view.highlighter, text);
+        const auto formats = view.edit.document()->findBlockByNumber(250).layout()->formats();
+        const bool isMarked = formats.size() > 1 && formats[1].format.background() == QBrush(Qt::darkBlue);
+        EXPECT_EQ(isMarked, search == u"c"_s || search == u"ca"_s) << qPrintable(search);
+        EXPECT_EQ(view.edit.textCursor().selectionStart(), 2000);
+        EXPECT_EQ(view.edit.textCursor().selectionEnd(), 2004);
+        EXPECT_EQ(view.edit.verticalScrollBar()->value(), scrolled);
+    }
+}
+
+TEST(SourceView, AnotherTextIsShownFromItsBeginning)
+{
+    const struct
+    {
+        QString first;
+        QString second;
+        bool stays;
+    } rows[] = {
+        {u"a\nb"_s, u"a\nb"_s, true},
+        {u"a\r\nb\n"_s, u"a\r\nb\n"_s, true},
+        {u"a\rb\u2029c\u00A0\u2028d"_s, u"a\rb\u2029c\u00A0\u2028d"_s, true},
+        {u"a\nb"_s, u"a\nb\n"_s, false},
+        {u"a\nb\n"_s, u"a\nb"_s, false},
+        {u"a\nb"_s, u"a\nbc"_s, false},
+        {u"a\nbc"_s, u"a\nb"_s, false},
+        {u"ab"_s, u"a\nb"_s, false},
+        {u"ab"_s, u""_s, false},
+    };
+    for (const auto &row : rows) {
+        View view;
+        showSource(view.edit, view.highlighter, row.first);
+        view.edit.moveCursor(QTextCursor::NextCharacter);
+        showSource(view.edit, view.highlighter, row.second);
+        EXPECT_EQ(view.edit.textCursor().position(), row.stays ? 1 : 0)
+            << qPrintable(row.first + u" then "_s + row.second);
+        QPlainTextEdit plain;
+        plain.setPlainText(row.second);
+        EXPECT_EQ(view.edit.toPlainText(), plain.toPlainText());
+    }
+}
+
+TEST(Highlighter, OutlivesItsSearchField)
+{
+    auto field = std::make_unique<QLineEdit>(u"x"_s);
+    QTextDocument document(u"(x"_s);
+    Highlighter highlighter(field.get(), &document);
+    highlighter.rehighlight();
+    EXPECT_EQ(document.firstBlock().layout()->formats().size(), 2);
+    field.reset();
+    highlighter.rehighlight();
+    EXPECT_EQ(document.firstBlock().layout()->formats().size(), 1);
+}
+
+} // namespace
