@@ -4,16 +4,10 @@ namespace ortakit {
 
 namespace {
 
-// "\s" of an expression without Unicode properties: no blank beyond ASCII counts.
-bool isBlank(char16_t character)
-{
-    return character == u' ' || (character >= u'\t' && character <= u'\r');
-}
-
 bool meansItself(QChar character)
 {
     static const QString special = QStringLiteral("\\^$.[]|()?*+{}");
-    return !isBlank(character.unicode()) && !special.contains(character);
+    return !isLispBlank(character) && !special.contains(character);
 }
 
 bool isPlain(const QString &entry)
@@ -31,22 +25,12 @@ QChar firstOf(const QString &entry)
 
 } // namespace
 
-bool opensKeyword(QChar character)
-{
-    return isBlank(character.unicode()) || character == u'(';
-}
-
-bool endsKeyword(QChar character)
-{
-    return opensKeyword(character) || character == u')';
-}
-
 KeywordMatcher::KeywordMatcher(const QStringList &entries) : m_entries(entries)
 {
     for (const QString &entry : m_entries) {
         if (isPlain(entry)) {
-            m_plainWords.insert(entry);
-            m_longestWord = std::max(m_longestWord, entry.size());
+            m_plainWords.emplace(reinterpret_cast<const char16_t *>(entry.utf16()), size_t(entry.size()));
+            m_longestWord = std::max(m_longestWord, size_t(entry.size()));
         } else if (!entry.isEmpty()) {
             addExpression(entry);
         }
@@ -60,11 +44,6 @@ void KeywordMatcher::addExpression(const QString &entry)
         return;
     expression.optimize();
     m_expressions.push_back({std::move(expression), firstOf(entry)});
-}
-
-bool KeywordMatcher::isPlainWord(QStringView token) const
-{
-    return token.size() <= m_longestWord && m_plainWords.contains(token);
 }
 
 bool KeywordMatcher::Expression::mayMatch(QStringView line) const

@@ -1,17 +1,31 @@
 #pragma once
 
 #include <QRegularExpression>
-#include <QSet>
 #include <QStringList>
 
+#include <string_view>
+#include <unordered_set>
 #include <vector>
 
 namespace ortakit {
 
-/// May stand before a keyword: a blank in the sense of "\s", or an opening parenthesis.
-bool opensKeyword(QChar character);
-/// May stand behind a keyword: the same, or a closing parenthesis.
-bool endsKeyword(QChar character);
+/// "\s" of an expression without Unicode properties: no blank beyond ASCII counts.
+constexpr bool isLispBlank(QChar character)
+{
+    return character == u' ' || (character >= u'\t' && character <= u'\r');
+}
+
+/// Whether a keyword may stand behind it.
+constexpr bool opensKeyword(QChar character)
+{
+    return isLispBlank(character) || character == u'(';
+}
+
+/// Whether it may stand behind a keyword.
+constexpr bool endsKeyword(QChar character)
+{
+    return opensKeyword(character) || character == u')';
+}
 
 /// Finds in a line what the expressions "(?<=[\s(])ENTRY(?=[\s()\n])" find, for a list of entries.
 ///
@@ -24,7 +38,11 @@ public:
     explicit KeywordMatcher(const QStringList &entries);
 
     /// Whether `token`, a run of characters between delimiters, is a plain word.
-    bool isPlainWord(QStringView token) const;
+    bool isPlainWord(QStringView token) const
+    {
+        const std::u16string_view word(token.utf16(), size_t(token.size()));
+        return word.size() <= m_longestWord && m_plainWords.contains(word);
+    }
 
     /// Calls `found(start, length)` for each match in `line` of the entries that are no plain words.
     template <class Found>
@@ -42,8 +60,8 @@ private:
     void addExpression(const QString &entry);
 
     const QStringList m_entries; // keeps the characters of the plain words
-    QSet<QStringView> m_plainWords;
-    qsizetype m_longestWord = 0;
+    std::unordered_set<std::u16string_view> m_plainWords;
+    size_t m_longestWord = 0;
     std::vector<Expression> m_expressions;
 };
 

@@ -4,17 +4,6 @@ namespace ortakit {
 
 LispPainter::LispPainter(const QStringList &keywords) : m_keywords(keywords) {}
 
-void LispPainter::setSearch(const QString &search)
-{
-    if (search == m_searchText)
-        return;
-    m_searchText = search;
-    m_search = QRegularExpression(search, QRegularExpression::CaseInsensitiveOption);
-    m_searches = !search.isEmpty() && m_search.isValid();
-    if (m_searches)
-        m_search.optimize();
-}
-
 const std::vector<LispRun> &LispPainter::paint(const QString &line)
 {
     m_runs.clear();
@@ -22,10 +11,12 @@ const std::vector<LispRun> &LispPainter::paint(const QString &line)
         return m_runs;
     m_styles.assign(size_t(line.size()), LispStyle::Plain);
     paintSymbols(line);
-    m_keywords.findExpressions(line,
-                               [this](qsizetype start, qsizetype length) { fill(start, length, LispStyle::Keyword); });
+    const auto fillWith = [this](LispStyle style) {
+        return [this, style](qsizetype start, qsizetype length) { fill(start, length, style); };
+    };
+    m_keywords.findExpressions(line, fillWith(LispStyle::Keyword));
     paintLiterals(line);
-    paintMatches(line);
+    m_search.findMatches(line, fillWith(LispStyle::SearchMatch));
     collectRuns();
     return m_runs;
 }
@@ -70,21 +61,10 @@ void LispPainter::paintLiterals(QStringView line)
     }
 }
 
-void LispPainter::paintMatches(const QString &line)
-{
-    if (!m_searches)
-        return;
-    for (auto matches = m_search.globalMatch(line); matches.hasNext();) {
-        const QRegularExpressionMatch match = matches.next();
-        fill(match.capturedStart(), match.capturedLength(), LispStyle::SearchMatch);
-    }
-}
-
-// A match that ends before it starts ("(?=ab\K)") has a negative length and covers nothing, like an empty one.
+// Nothing is covered by an empty match, nor by one of negative length, which ends before it starts ("(?=ab\K)").
 void LispPainter::fill(qsizetype start, qsizetype length, LispStyle style)
 {
-    if (length > 0)
-        std::fill_n(m_styles.begin() + start, length, style);
+    std::fill_n(m_styles.begin() + start, length, style);
 }
 
 void LispPainter::collectRuns()

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "dialogs/lispexplorer/KeywordMatcher.h"
+#include "dialogs/lispexplorer/SearchExpression.h"
 
-#include <QRegularExpression>
 #include <QString>
 
 #include <vector>
@@ -43,8 +43,9 @@ public:
     /// `keywords` are regular expressions, as lispKeywords() lists them.
     explicit LispPainter(const QStringList &keywords);
 
-    /// The regular expression to mark from now on; an empty or invalid one marks nothing.
-    void setSearch(const QString &search);
+    /// The regular expression to mark from now on; an empty or invalid one marks nothing, and one that takes far too
+    /// long stops marking (SearchExpression).
+    void setSearch(const QString &search) { m_search.set(search); }
 
     /// The runs of `line` that are not plain, from left to right, neighbours of one style joined. Valid until the next
     /// call.
@@ -53,14 +54,11 @@ public:
 private:
     void paintSymbols(QStringView line);
     void paintLiterals(QStringView line);
-    void paintMatches(const QString &line);
     void fill(qsizetype start, qsizetype length, LispStyle style);
     void collectRuns();
 
     KeywordMatcher m_keywords;
-    QString m_searchText;
-    QRegularExpression m_search;
-    bool m_searches = false;
+    SearchExpression m_search;
     std::vector<LispStyle> m_styles; // one a character of the line at hand
     std::vector<LispRun> m_runs;
 };

@@ -64,4 +64,20 @@ QList<QTextCharFormat> RuleByRule::paint(const QString &line, const QString &sea
     return formats;
 }
 
+QList<QTextLayout::FormatRange> RuleByRule::ranges(const QString &line, const QString &search) const
+{
+    const QList<QTextCharFormat> formats = paint(line, search);
+    QList<QTextLayout::FormatRange> ranges;
+    for (int at = 0; at < formats.size(); ++at) {
+        const bool goesOn = at > 0 && formats[at] == formats[at - 1];
+        if (formats[at].isEmpty())
+            continue;
+        if (goesOn)
+            ++ranges.last().length;
+        else
+            ranges += {at, 1, formats[at]};
+    }
+    return ranges;
+}
+
 } // namespace ortakit::test

@@ -4,6 +4,7 @@
 #include <QRegularExpression>
 #include <QStringList>
 #include <QTextCharFormat>
+#include <QTextLayout>
 
 namespace ortakit::test {
 
@@ -23,6 +24,8 @@ public:
 
     /// The format of each character of the line.
     QList<QTextCharFormat> paint(const QString &line, const QString &search) const;
+    /// The same as a text layout holds it: one range as far as a format reaches, none where nothing is painted.
+    QList<QTextLayout::FormatRange> ranges(const QString &line, const QString &search) const;
 
     const QTextCharFormat parenthesisFormat;
     const QTextCharFormat keywordFormat;
