@@ -39,6 +39,8 @@ void printRatio(const Ratio &ratio, double measured, double baseline)
     std::printf("%-32s / %-32s %8.2f", ratio.measurement.c_str(), ratio.baseline.c_str(), measured / baseline);
     if (ratio.goal > 0)
         std::printf("   goal %.1f %s", ratio.goal, measured / baseline <= ratio.goal ? "met" : "MISSED");
+    if (ratio.atLeast > 0)
+        std::printf("   at least %.0f %s", ratio.atLeast, measured / baseline >= ratio.atLeast ? "met" : "MISSED");
     std::printf("\n");
 }
 

@@ -11,6 +11,7 @@ struct Ratio
     std::string measurement; ///< name of a benchmark
     std::string baseline;    ///< name of another one of the same program
     double goal = 0;         ///< at most this; 0 for no goal
+    double atLeast = 0;      ///< the goal of a baseline that is to be outrun: at least this
 };
 
 /// Runs the registered benchmarks and prints their times, then the ratios. Returns the exit status of the program:
