@@ -13,9 +13,9 @@
 ///
 /// Parentheses are dark blue and keywords dark red, strings dark green, digits dark cyan, all bold; comments are grey;
 /// matches of the search text, a regular expression, are white on dark blue. Lines stand for themselves: a string or
-/// a comment never continues on the next one. The colours are made for a light ground, which a view should have in a
-/// dark style as well. The search field is read at each line that is coloured: who wants marks
-/// to follow the typing calls showSource() or rehighlight() when its text changes.
+/// a comment never continues on the next one. The colours are made for a light ground, which a view needs in a dark
+/// style as well (giveLightGround). The search field is read at each line that is coloured: who wants marks to follow
+/// the typing calls showSource() or rehighlight() when its text changes.
 class Highlighter final : public QSyntaxHighlighter
 {
     Q_OBJECT

@@ -42,3 +42,11 @@ void showSource(QPlainTextEdit &view, Highlighter &highlighter, const QString &t
     else
         view.setPlainText(text);
 }
+
+void giveLightGround(QPlainTextEdit &view)
+{
+    QPalette palette; // what is not set comes from the style, now and after it changes
+    palette.setColor(QPalette::Base, Qt::white);
+    palette.setColor(QPalette::Text, Qt::black);
+    view.setPalette(palette);
+}
