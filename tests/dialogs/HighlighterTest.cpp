@@ -2,17 +2,16 @@
 
 #include "dialogs/lispexplorer/LispKeywords.h"
 #include "dialogs/lispexplorer/SourceView.h"
+#include "tests/dialogs/LispLines.h"
 #include "tests/support/QtTestPrinters.h"
 #include "tests/support/RuleByRule.h"
 
 #include <QDir>
 #include <QFile>
 #include <QPlainTextEdit>
-#include <QRandomGenerator>
 #include <QScrollBar>
 #include <QTextBlock>
 
-#include <array>
 #include <gtest/gtest.h>
 
 using namespace ortakit;
@@ -47,100 +46,12 @@ QString styles(const RuleByRule &rules, const QString &line, const QString &sear
     return letters;
 }
 
-/// Lines as a hostile user would write them: many keywords, delimiters, quotes, semicolons, odd characters.
-class LineMaker
-{
-    template <class List>
-    auto pick(const List &list)
-    {
-        return list[m_random.bounded(int(list.size()))];
-    }
-
-public:
-    LineMaker(int seed, QStringList words) : m_random(quint32(seed)), m_words(std::move(words)) {}
-
-    QString line()
-    {
-        QString text;
-        for (int pieces = m_random.bounded(14); pieces > 0; --pieces)
-            text += piece();
-        return text;
-    }
-
-    /// Mostly no valid expression, or one with surprises.
-    QString search()
-    {
-        static const QStringList searches = {
-            u""_s,       u"car"_s,        u"A*"_s,        u"["_s,       u"("_s,    u"\\"_s,     u"."_s,
-            u"^"_s,      u"$"_s,          u"\\b"_s,       u"(?<=a)b"_s, u"x|"_s,   u"\u017F"_s, u"k"_s,
-            u"\u00C9"_s, u"\U0001F600"_s, u"(?=.c\\K)"_s, u"\\d+"_s,    u"\""_s,   u";.*"_s,    u"\\R"_s,
-            u"\\X"_s,    u"(?-i)C"_s,     u"\\s+"_s,      u"\\w"_s,     u"^.*$"_s, u"(?m)^."_s, u"(?s).*"_s,
-            u"\\Z"_s,    u"(*UCP)\\w"_s,  u"(*CRLF)."_s,  u"[^a]"_s,
-        };
-        if (m_random.bounded(3) > 0)
-            return pick(searches);
-        QString text;
-        for (int characters = 1 + m_random.bounded(5); characters > 0; --characters)
-            text += pick(u"aAcr1()[]*+?|.\\^$;\" "_s);
-        return text;
-    }
-
-private:
-    QString piece()
-    {
-        const QString word = pick(m_words);
-        switch (m_random.bounded(16)) {
-        case 0:
-        case 1:
-            return word;
-        case 2:
-            return u"("_s + word + u" "_s;
-        case 3:
-            return u"("_s + word + u")"_s;
-        case 4:
-            return word.toUpper();
-        case 5:
-            return u" "_s + word.left(m_random.bounded(int(word.size()) + 1));
-        case 6:
-            return QString::number(m_random.bounded(1200));
-        case 7:
-            return u" 1111"_s.left(1 + m_random.bounded(5));
-        case 8:
-            return u"\""_s;
-        case 9:
-            return m_random.bounded(3) ? u" "_s : u";"_s;
-        case 10:
-            return oddCharacter();
-        case 11:
-            return pick(u"abcrSkK-+*?/.:'!_"_s);
-        default:
-            return pick(u" (() )\t"_s);
-        }
-    }
-
-    QString oddCharacter()
-    {
-        static const QStringList odd = {
-            u"\u2028"_s, u"\u2029"_s, u"\u00A0"_s,     u"\u0085"_s, u"\u3000"_s,
-            u"\r"_s,     u"\n"_s,     u"\v"_s,         u"\f"_s,     u"\u001C"_s,
-            u"\u00E9"_s, u"\u88AC"_s, u"\u212A"_s,     u"\u0661"_s, u"\uFEFF"_s,
-            u"\u0301"_s, u"\uFFFF"_s, u"\U0001F600"_s, u"\r\n"_s,   QString(1, QChar(u'\0')),
-        };
-        if (m_random.bounded(25) == 0)
-            return QString(1, QChar(m_random.bounded(2) ? 0xD83D : 0xDE00));
-        return pick(odd);
-    }
-
-    QRandomGenerator m_random;
-    QStringList m_words;
-};
-
 /// Compares `lines` random lines, a new search text each dozen, and says which line differs first.
 void expectSamePaint(const QStringList &keywords, int lines, int startingPoint)
 {
     LispPainter painter(keywords);
     const RuleByRule rules(keywords);
-    LineMaker maker(startingPoint, keywords);
+    LispLines maker(startingPoint, keywords);
     QString search;
     for (int number = 0; number < lines; ++number) {
         if (number % 12 == 0)
@@ -258,9 +169,10 @@ TEST(LispPainter, PaintsAnyKeywordsLikeTheExpressions)
         {u"car"_s, u"cadr"_s, u"1+"_s, u"-"_s, u"c"_s, u""_s},
         {u"isfcn?"_s, u"1+"_s, u"1*"_s, u"?"_s, u"+"_s, u"*"_s, u"a?b"_s, u"r{0}"_s},
         {u"a|b"_s, u"|"_s, u"("_s, u")"_s, u"["_s, u"[a-c]+"_s, u"{"_s, u"}"_s, u"]"_s, u"\\"_s, u"\\("_s},
-        {u"c.r"_s, u".*"_s, u"^"_s, u"$"_s, u"(c)\\1"_s, u"car (1"_s, u"c\\s1"_s, u"(?i)car"_s, u"(?=c\\K)"_s},
+        {u"c.r"_s, u"^"_s, u"$"_s, u"(c)\\1"_s, u"car (1"_s, u"c\\s1"_s, u"(?i)car"_s, u"(?=c\\K)"_s},
         {u"1[ (]1"_s, u"car(?#x)"_s, u"a#b"_s, u"c\td"_s, u"\\Qcar"_s, u"1\\K1"_s, u"x(?|y)"_s, u"(*COMMIT)a"_s},
         {u"\u88AC"_s, u"\U0001F600"_s, u"\U0001F600+"_s, u"\u00E9?"_s, QString(1, QChar(0xD83D)), u"\u2028+"_s},
+        {u".*"_s, u"\\S+"_s},
         {u""_s},
     };
     for (const QStringList &list : lists)
