@@ -9,17 +9,17 @@ void SearchExpression::set(const QString &text)
     m_text = text;
     m_expression = QRegularExpression(text, QRegularExpression::CaseInsensitiveOption);
     m_isUsable = !text.isEmpty() && m_expression.isValid();
-    m_spent = {};
+    m_late = {};
     if (m_isUsable)
         m_expression.optimize();
 }
 
-void SearchExpression::count(std::chrono::nanoseconds spent)
+void SearchExpression::count(std::chrono::nanoseconds late)
 {
-    if (spent < slowLine)
+    if (late < slowLine)
         return;
-    m_spent += spent;
-    m_isUsable = m_spent < patience;
+    m_late += late;
+    m_isUsable = m_late < patience;
 }
 
 } // namespace ortakit

@@ -10,11 +10,13 @@ namespace ortakit {
 /// What a user searches for: a regular expression, case-insensitive, as far as it has been typed.
 ///
 /// An empty or invalid expression matches nothing. So does one that has been given up: expressions such as "(\w+\s?)*$"
-/// can take longer than anyone waits. Lines on which the matching takes more than `slowLine` are counted, and when they
-/// add up to `patience`, the expression finds nothing more until another one is set.
+/// can take longer than anyone waits. What a line takes beyond `perCharacter` is counted when it is more than
+/// `slowLine`; when these times add up to `patience`, the expression finds nothing more until another one is set.
 class SearchExpression
 {
 public:
+    /// Even an expression that matches at each character takes less.
+    static constexpr std::chrono::nanoseconds perCharacter = std::chrono::microseconds(1);
     static constexpr std::chrono::nanoseconds slowLine = std::chrono::milliseconds(5);
     static constexpr std::chrono::nanoseconds patience = std::chrono::milliseconds(500);
 
@@ -27,12 +29,12 @@ public:
     void findMatches(const QString &line, Found found);
 
 private:
-    void count(std::chrono::nanoseconds spent);
+    void count(std::chrono::nanoseconds late);
 
     QString m_text;
     QRegularExpression m_expression;
     bool m_isUsable = false;
-    std::chrono::nanoseconds m_spent{0}; // on slow lines
+    std::chrono::nanoseconds m_late{0}; // of the slow lines together
 };
 
 template <class Found>
@@ -40,14 +42,14 @@ void SearchExpression::findMatches(const QString &line, Found found)
 {
     if (!m_isUsable)
         return;
-    const auto start = std::chrono::steady_clock::now();
-    const auto spent = [start] { return std::chrono::steady_clock::now() - start; };
+    const auto due = std::chrono::steady_clock::now() + line.size() * perCharacter;
+    const auto late = [due] { return std::chrono::steady_clock::now() - due; };
     auto matches = m_expression.globalMatch(line);
-    while (matches.hasNext() && spent() < patience) {
+    while (matches.hasNext() && late() < patience) {
         const QRegularExpressionMatch match = matches.next();
         found(match.capturedStart(), match.capturedLength());
     }
-    count(spent());
+    count(late());
 }
 
 } // namespace ortakit
