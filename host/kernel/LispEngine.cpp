@@ -139,6 +139,11 @@ void LispEngine::setSymbol(const OdString &name, const OdResBuf &value)
                                          valueFromChain(link, m_document.interpreter(), m_selections));
 }
 
+bool LispEngine::loadFile(const OdString &path)
+{
+    return m_document.loadLisp(path).ok;
+}
+
 void LispEngine::print(const OdString &text)
 {
     m_document.print(text);

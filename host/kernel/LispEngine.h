@@ -32,6 +32,7 @@ public:
     void returnPoint(const OdGePoint3d &point) override;
     void returnList(OdResBufPtr chain) override;
     void setSymbol(const OdString &name, const OdResBuf &value) override;
+    bool loadFile(const OdString &path) override;
     void print(const OdString &text) override;
 
 private:

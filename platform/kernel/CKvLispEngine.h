@@ -34,6 +34,10 @@ public:
 
     /// Sets the Lisp variable `name` to the value of `value` (its first link only).
     virtual void setSymbol(const OdString &name, const OdResBuf &value) = 0;
+    /// Loads the Lisp source file at `path`, which is not searched for, and evaluates its forms. False when it cannot
+    /// be read or a form fails; what went wrong is told on the document's command line. A program in it may do
+    /// anything, even close the document.
+    virtual bool loadFile(const OdString &path) = 0;
     /// Prints on the document's command line as it is; a line break comes only where the text has one.
     virtual void print(const OdString &text) = 0;
 };

@@ -267,4 +267,38 @@ TEST_F(Engine, symbols)
     EXPECT_EQ(lisp("lispcanceled"), "1");
 }
 
+TEST_F(Engine, aHandlerLoadsAFile)
+{
+    const struct
+    {
+        const char *name;
+        QString path;
+        bool loads;
+        const char *printed;
+        const char *loaded;
+    } rows[] = {
+        {"good", write("good.lsp", "(setq loaded 7)"), true, "", "7"},
+        {"with a blank and an umlaut", write("gr\xC3\xB6\xC3\x9F er.lsp", "(setq loaded 7)"), true, "", "7"},
+        {"with an error", write("bad.lsp", "(setq loaded 7) (car 1)"), false, "bad argument type", "7"},
+        {"never closed", write("open.lsp", "(setq loaded 7) (car"), false, "malformed list", "7"},
+        {"missing", path("missing.lsp"), false, "missing.lsp", "nil"},
+        {"folder", folder.path(), false, "error", "nil"},
+    };
+    for (const auto &row : rows) {
+        lisp("(setq loaded nil)");
+        bool loads = false;
+        behaviour = [&](CKvLispEngine &engine) {
+            loads = engine.loadFile(row.path);
+            engine.returnInteger(1);
+            return kRtNormal;
+        };
+        EXPECT_EQ(lisp("(probe)"), "1") << row.name;
+        EXPECT_EQ(loads, row.loads) << row.name;
+        const std::string printed = takePrinted();
+        EXPECT_EQ(printed.empty(), row.loads) << row.name << ": " << printed;
+        EXPECT_NE(printed.find(row.printed), std::string::npos) << row.name << ": " << printed;
+        EXPECT_EQ(lisp("loaded"), row.loaded) << row.name;
+    }
+}
+
 } // namespace

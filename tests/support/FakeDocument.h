@@ -39,6 +39,8 @@ public:
     QStringList definitions() const { return m_definitions; }
     /// Lisp variables by lower-case name, printed.
     const QMap<QString, QString> &symbols() const { return m_symbols; }
+    /// Files that were to be loaded, in order.
+    const QStringList &loadedFiles() const { return m_loadedFiles; }
     /// Everything printed on the command line since the last clearing.
     QString printed() const { return m_printed; }
     void clearPrinted() { m_printed.clear(); }
@@ -55,6 +57,11 @@ public:
     void returnPoint(const OdGePoint3d &point) override;
     void returnList(OdResBufPtr chain) override;
     void setSymbol(const OdString &name, const OdResBuf &value) override;
+    bool loadFile(const OdString &path) override
+    {
+        m_loadedFiles.append(path);
+        return true;
+    }
     void print(const OdString &text) override { m_printed += text; }
 
 private:
@@ -65,6 +72,7 @@ private:
     QString m_result;
     QList<int> m_resultTypes;
     QMap<QString, QString> m_symbols;
+    QStringList m_loadedFiles;
     QString m_printed;
 };
 
