@@ -1,6 +1,7 @@
 #include "module/DialogFunctions.h"
 
 #include "dialogs/breakline/Dlg_QT_Breakline.h"
+#include "dialogs/lispexplorer/Dlg_QT_LispExplorer.h"
 #include "module/RunDialog.h"
 
 namespace ortakit {
@@ -8,6 +9,37 @@ namespace ortakit {
 int dlgBreakLine()
 {
     return runDialog<Dlg_QT_Breakline>(DialogSlot::BreakLine, {});
+}
+
+namespace {
+
+/// A catalogue to show, and behind it perhaps the word that begins with it.
+void takeCatalogue(Dlg_QT_LispExplorer &dialog, const OdResBuf *first)
+{
+    if (!first || first->restype() != OdResBuf::kRtString)
+        return;
+    dialog.readCatalogue(first->getString());
+    const OdResBuf *second = first->next();
+    if (second && second->restype() == OdResBuf::kRtString && second->getString() == QLatin1String("DUMP"))
+        dialog.beginWithLoaded();
+}
+
+/// In place of a result that a function does not set.
+template <class Dialog>
+void setNothing(Dialog &, CKvLispEngine &)
+{
+}
+
+} // namespace
+
+int dlgLispExplorer()
+{
+    return runDialog<Dlg_QT_LispExplorer>(DialogSlot::LispExplorer, {.firstArgument = FirstArgument::Optional,
+                                                                     .stateFile = StateFile::None,
+                                                                     .extraArguments = ExtraArguments::OptionalSecond,
+                                                                     .takeFirst = takeCatalogue,
+                                                                     .giveResult = setNothing,
+                                                                     .giveRejection = setNothing});
 }
 
 } // namespace ortakit

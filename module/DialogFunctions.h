@@ -5,6 +5,7 @@ namespace ortakit {
 /// The Dlg_ functions, each an external Lisp function that shows one dialog; see runDialog() for what they share.
 /// @{
 int dlgBreakLine();
+int dlgLispExplorer();
 /// @}
 
 } // namespace ortakit

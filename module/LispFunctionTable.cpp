@@ -19,7 +19,7 @@ constexpr LispFunction function(OnClose onClose = OnClose::Undefine)
 } // namespace
 
 constexpr LispFunctionTable lispFunctionTable = {{
-    function<"Dlg_LispExplorer">(),
+    function<"Dlg_LispExplorer", dlgLispExplorer>(),
     function<"Dlg_PatternHatch">(OnClose::Keep),
     function<"Dlg_BreakLine", dlgBreakLine>(),
     function<"Dlg_getblockinfo">(),

@@ -1,6 +1,7 @@
 // What a user may expect of each dialog, whatever it is for.
 
 #include "dialogs/breakline/Dlg_QT_Breakline.h"
+#include "dialogs/lispexplorer/Dlg_QT_LispExplorer.h"
 #include "tests/support/FakeHost.h"
 #include "tests/support/QtTestPrinters.h"
 
@@ -35,6 +36,7 @@ constexpr Row row(const char *name, const char *helpTopic)
 
 constexpr Row rows[] = {
     row<Dlg_QT_Breakline>("Breakline", "9101"),
+    row<Dlg_QT_LispExplorer>("LispExplorer", "9111"),
 };
 
 void PrintTo(const Row &row, std::ostream *out)

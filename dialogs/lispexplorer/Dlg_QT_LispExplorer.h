@@ -1,0 +1,71 @@
+#pragma once
+
+#include "formats/LispCatalogue.h"
+#include "formats/LispSource.h"
+#include "state/ToolDialog.h"
+
+#include <memory>
+
+class Highlighter;
+class QListWidgetItem;
+
+namespace Ui {
+class Dlg_QT_LispExplorer;
+}
+
+/// The Lisp Explorer: the functions of the Lisp files of a folder, coloured and searchable, and the symbols that the
+/// Lisp engine holds, as a catalogue file lists them.
+///
+/// Takes no part in the exchange of states and has no result. Each time it is shown it reads the folder again; what the
+/// last catalogue said stays until the next one is read.
+class Dlg_QT_LispExplorer final : public ToolDialog
+{
+    Q_OBJECT
+
+public:
+    explicit Dlg_QT_LispExplorer(QWidget *parent = nullptr);
+    ~Dlg_QT_LispExplorer() override;
+
+    /// Takes the symbols from the catalogue file at `path`. One that cannot be read is told, and the symbols stay.
+    void readCatalogue(const QString &path);
+    /// The next showing begins on the page of loaded symbols.
+    void beginWithLoaded();
+
+protected:
+    void afterShow() override;
+    void keyPressEvent(QKeyEvent *event) override;
+
+private:
+    void Help();
+    void ClickHeaderTable(int column);
+    void Selectdirectory();
+    void Openfile(QListWidgetItem *item);
+    void OpenfileFromInt(int row);
+    void OnFunctionSelected(int row);
+    void updateFunctionView();
+    void OnSearchClicked();
+    void OnSearchTyped();
+    void fillKoraTabs();
+    void LoadInKora();
+    void changeType();
+    void changeKora();
+    void Loaddirectory();
+    void lispDump();
+
+    void setUpLibraryPage();
+    void setUpLoadedPage();
+    void scanFolder();
+    void listFunctions();
+    void clearFunctions();
+    void showEntry(int row);
+    void updateSearchControls();
+    void focusBeginning();
+    const QStringList &chosenSymbols() const;
+
+    std::unique_ptr<Ui::Dlg_QT_LispExplorer> m_ui;
+    std::unique_ptr<Highlighter> m_highlighter;
+    /// What was scanned last; files are opened from here even when the field says something else by now.
+    QString m_folder;
+    QList<ortakit::LispFunctionEntry> m_entries;
+    ortakit::LispCatalogue m_catalogue;
+};

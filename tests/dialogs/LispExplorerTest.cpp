@@ -1,0 +1,387 @@
+#include "dialogs/lispexplorer/Dlg_QT_LispExplorer.h"
+#include "tests/dialogs/DialogTest.h"
+
+#include <QComboBox>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QListWidget>
+#include <QPlainTextEdit>
+#include <QScrollBar>
+#include <QStackedWidget>
+#include <QTableWidget>
+
+using namespace ortakit::test;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QStringList items(const QListWidget *list)
+{
+    QStringList texts;
+    for (int row = 0; row < list->count(); ++row)
+        texts.append(list->item(row)->text());
+    return texts;
+}
+
+/// Rows as "cell;cell;cell".
+QStringList rows(const QTableWidget *table)
+{
+    QStringList texts;
+    for (int row = 0; row < table->rowCount(); ++row) {
+        QStringList cells;
+        for (int column = 0; column < table->columnCount(); ++column)
+            cells.append(table->item(row, column)->text());
+        texts.append(cells.join(u';'));
+    }
+    return texts;
+}
+
+class LispExplorer : public DialogTest<Dlg_QT_LispExplorer>
+{
+protected:
+    void SetUp() override
+    {
+        DialogTest::SetUp();
+        QDir().mkpath(folder);
+    }
+
+    QListWidget *files() const { return find<QListWidget>("List_files"); }
+    QListWidget *functions() const { return find<QListWidget>("List_functions"); }
+    QPlainTextEdit *viewer() const { return find<QPlainTextEdit>("tx_EditLisp"); }
+    QTableWidget *table() const { return find<QTableWidget>("tableFunctions"); }
+    QWidget *page() const { return find<QStackedWidget>("stack1")->currentWidget(); }
+    QLineEdit *field(const char *name) const { return find<QLineEdit>(name); }
+
+    void write(const QString &name, const QByteArray &content) { host.writeFile(u"lisp/"_s + name, content); }
+    void scan(const QString &path)
+    {
+        field("TxDirectory")->setFocus();
+        field("TxDirectory")->setText(path);
+        QTest::keyClick(field("TxDirectory"), Qt::Key_Return);
+    }
+    void selectFile(const QString &name)
+    {
+        const QList<QListWidgetItem *> found = files()->findItems(name, Qt::MatchExactly);
+        ASSERT_EQ(found.size(), 1) << name.toStdString();
+        files()->setCurrentItem(found.front());
+    }
+    /// Shows the dialog with this one file open.
+    void open(const QByteArray &source)
+    {
+        write(u"plan.lsp"_s, source);
+        show();
+        scan(folder);
+        selectFile(u"plan.lsp"_s);
+    }
+
+    const QString folder = host.path(u"lisp"_s);
+};
+
+TEST_F(LispExplorer, ListsLispFilesByWhatStandsBehindTheLastDot)
+{
+    const struct
+    {
+        const char *name;
+        bool listed;
+    } names[] = {
+        {"a.lsp", true},         {"B.LSP", true},      {"c.d.Lsp", true},   {"lsp", true},
+        {"größe maß.lsp", true}, {"a.lsp.bak", false}, {"a.txt", false},    {"lsp.txt", false},
+        {"xlsp", false},         {"a.lsp.", false},    {"!;'\".lsp", true}, {"new\nline.lsp", true},
+    };
+    QStringList expected;
+    for (const auto &[name, listed] : names) {
+        write(QString::fromUtf8(name), "(defun a () 1)");
+        if (listed)
+            expected.append(QString::fromUtf8(name));
+    }
+    QDir(folder).mkdir(u"folder.lsp"_s);
+    show();
+    scan(folder);
+    QStringList found = items(files());
+    found.sort();
+    expected.sort();
+    EXPECT_EQ(found, expected);
+    for (const QString &name : expected) {
+        selectFile(name);
+        EXPECT_EQ(items(functions()), QStringList{u"a"_s}) << name.toStdString();
+    }
+}
+
+TEST_F(LispExplorer, ScanningStartsAnew)
+{
+    open("(defun a () 1)");
+    functions()->setCurrentRow(0);
+    ASSERT_TRUE(isEnabled("Bt_Load"));
+    for (const QString &path : {QString(), folder + u"/missing"_s, folder + u"/plan.lsp"_s, folder}) {
+        scan(path);
+        EXPECT_EQ(files()->count(), path == folder ? 1 : 0) << path.toStdString();
+        EXPECT_EQ(functions()->count(), 0);
+        EXPECT_EQ(viewer()->toPlainText(), QString());
+        EXPECT_FALSE(isEnabled("Bt_Load"));
+        EXPECT_FALSE(isEnabled("txSearch"));
+    }
+    EXPECT_TRUE(dialog->isVisible()) << "Enter in the folder field does nothing else";
+}
+
+TEST_F(LispExplorer, FilesAreOpenedFromTheScannedFolder)
+{
+    open("(defun a () 1)");
+    files()->setCurrentRow(-1);
+    field("TxDirectory")->setText(u"/somewhere/else"_s);
+    selectFile(u"plan.lsp"_s);
+    EXPECT_EQ(items(functions()), QStringList{u"a"_s});
+}
+
+TEST_F(LispExplorer, ShowsThePartThatIsChosen)
+{
+    open("; adds\n\n(defun add (a b)\n\t(+ a b)\n)\n(defun nothing ())");
+    EXPECT_EQ(items(functions()), (QStringList{u"add"_s, u"nothing"_s}));
+    functions()->setCurrentRow(0);
+    auto *format = find<QComboBox>("Cb_Format");
+    EXPECT_EQ(format->currentText(), u"Both"_s);
+    EXPECT_EQ(viewer()->toPlainText(), u"; adds\n\n(defun add (a b)\n    (+ a b)\n)"_s);
+    format->setCurrentText(u"Header Only"_s);
+    EXPECT_EQ(viewer()->toPlainText(), u"; adds\n\n(defun add (a b)"_s);
+    format->setCurrentText(u"Function Only"_s);
+    EXPECT_EQ(viewer()->toPlainText(), u"(defun add (a b)\n    (+ a b)\n)"_s);
+    functions()->setCurrentRow(1);
+    EXPECT_EQ(viewer()->toPlainText(), u"(defun nothing ())"_s);
+}
+
+TEST_F(LispExplorer, AFileThatCannotBeReadIsSaidAndLeavesNothing)
+{
+    open("(defun a () 1)");
+    write(u"gone.lsp"_s, "(defun b () 1)");
+    scan(folder);
+    selectFile(u"plan.lsp"_s);
+    functions()->setCurrentRow(0);
+    QFile::remove(folder + u"/gone.lsp"_s);
+    ModalAnswers answers;
+    answers.press(QMessageBox::Ok);
+    selectFile(u"gone.lsp"_s);
+    EXPECT_EQ(answers.shown(), QStringList{u"information \"Error\" \"No such file or directory\" OK"_s});
+    EXPECT_EQ(functions()->count(), 0);
+    EXPECT_EQ(viewer()->toPlainText(), QString());
+}
+
+TEST_F(LispExplorer, BrowsingStartsAtTheHostsFolderAndScans)
+{
+    write(u"plan.lsp"_s, {});
+    show();
+    ModalAnswers answers;
+    answers.choose(folder);
+    click("bt_Directory");
+    EXPECT_EQ(answers.shown().value(0).section(u'"', 0, 3),
+              u"choose \"Specify a folder for lisp files\" \"%1"_s.arg(QFileInfo(folder).path()));
+    EXPECT_EQ(text("TxDirectory"), folder);
+    EXPECT_EQ(items(files()), QStringList{u"plan.lsp"_s});
+}
+
+TEST_F(LispExplorer, SearchControlsNeedATextToSearchIn)
+{
+    open("(defun a () 1)");
+    EXPECT_FALSE(isEnabled("txSearch"));
+    functions()->setCurrentRow(0);
+    EXPECT_TRUE(isEnabled("txSearch"));
+    EXPECT_FALSE(isEnabled("bt_Search"));
+    setText("txSearch", u"x"_s);
+    EXPECT_TRUE(isEnabled("bt_Search"));
+    functions()->setCurrentRow(-1);
+    EXPECT_EQ(functions()->count(), 0);
+    files()->setCurrentRow(-1);
+    selectFile(u"plan.lsp"_s);
+    EXPECT_FALSE(isEnabled("bt_Search"));
+}
+
+TEST_F(LispExplorer, EnterSearchesForwardAndWraps)
+{
+    open("(defun a ()\n (Car b)\n (car c))");
+    functions()->setCurrentRow(0);
+    field("txSearch")->setFocus();
+    setText("txSearch", u"CAR"_s);
+    for (const int line : {1, 2, 1}) {
+        QTest::keyClick(field("txSearch"), Qt::Key_Return);
+        EXPECT_EQ(viewer()->textCursor().selectedText().toLower(), u"car"_s);
+        EXPECT_EQ(viewer()->textCursor().blockNumber(), line);
+    }
+    EXPECT_TRUE(dialog->isVisible());
+
+    setText("txSearch", u"c.r"_s);
+    ModalAnswers answers;
+    answers.press(QMessageBox::Ok);
+    click("bt_Search");
+    EXPECT_EQ(answers.shown(), QStringList{u"information \"\" \"No matches found for 'c.r'\" OK"_s});
+    EXPECT_TRUE(viewer()->textCursor().atStart());
+}
+
+TEST_F(LispExplorer, TypingASearchTextMovesNothing)
+{
+    open("(defun a ()\n" + QByteArray("(setq a 1)\n").repeated(500) + ")\n(defun b ())");
+    functions()->setCurrentRow(0);
+    viewer()->verticalScrollBar()->setValue(200);
+    field("txSearch")->setFocus();
+    QTest::keyClicks(field("txSearch"), u"setq"_s);
+    EXPECT_EQ(viewer()->verticalScrollBar()->value(), 200);
+    EXPECT_EQ(functions()->currentRow(), 0);
+    functions()->setCurrentRow(1);
+    EXPECT_EQ(viewer()->verticalScrollBar()->value(), 0);
+}
+
+TEST_F(LispExplorer, WhatAListOpensWhenItGetsTheFocusIsSelected)
+{
+    write(u"plan.lsp"_s, "(defun a () 1)");
+    show();
+    scan(folder);
+    files()->setFocus();
+    EXPECT_EQ(files()->selectedItems().size(), 1);
+    functions()->setFocus();
+    EXPECT_EQ(functions()->selectedItems().size(), 1);
+    EXPECT_EQ(viewer()->toPlainText(), u"(defun a () 1)"_s);
+}
+
+TEST_F(LispExplorer, LoadsTheSelectedFile)
+{
+    const QString loaded = u"information \"LispExplorer\" \"The file has been loaded.\" OK"_s;
+    const struct
+    {
+        const char *name;
+        const char *loadedName;
+    } names[] = {{"plan.lsp", "plan.lsp"}, {"PLAN.LSP", "PLAN.LSP"}, {"lsp", "lsp.lsp"}};
+    for (const auto &[name, loadedName] : names)
+        write(QString::fromLatin1(name), {});
+    show();
+    scan(folder);
+    for (const auto &[name, loadedName] : names) {
+        selectFile(QString::fromLatin1(name));
+        ModalAnswers answers;
+        answers.press(QMessageBox::Ok);
+        click("Bt_Load");
+        EXPECT_EQ(answers.shown(), QStringList{loaded});
+        EXPECT_EQ(host.document().lisp().loadedFiles().value(host.document().lisp().loadedFiles().size() - 1),
+                  folder + u'/' + QString::fromLatin1(loadedName));
+    }
+    files()->clearSelection();
+    click("Bt_Load");
+    EXPECT_EQ(host.document().lisp().loadedFiles().size(), 3) << "nothing selected, nothing loaded";
+}
+
+const QByteArray catalogue = "VARIABLE!pi!REAL!3.14\nFUNCTION!car!SUBR!Built in!<car>\nCOMMAND!C:B!USUBR!Lisp!<b>\n"
+                             "VARIABLE!title!STR!Ground floor\nCOMMAND!C:A!USUBR!Lisp!<a>\nFUNCTION!short\n";
+
+TEST_F(LispExplorer, ShowsWhatTheCatalogueSays)
+{
+    dialog->readCatalogue(host.writeFile(u"catalogue"_s, catalogue));
+    dialog->beginWithLoaded();
+    show();
+    EXPECT_EQ(page()->objectName(), u"page_2"_s);
+    const struct
+    {
+        const char *button;
+        QString lastHeader;
+        QStringList rows;
+    } kinds[] = {
+        {"isVariables", u"Value"_s, {u"pi;REAL;3.14"_s, u"title;STR;Ground floor"_s}},
+        {"isFunctions", u"Type"_s, {u"car;SUBR;Built in"_s, u"short;;"_s}},
+        {"isCommands", u"Type"_s, {u"C:B;USUBR;Lisp"_s, u"C:A;USUBR;Lisp"_s}},
+    };
+    for (const auto &kind : kinds) {
+        click(kind.button);
+        EXPECT_EQ(rows(table()), kind.rows) << kind.button;
+        EXPECT_EQ(table()->horizontalHeaderItem(0)->text(), u"Name"_s);
+        EXPECT_EQ(table()->horizontalHeaderItem(1)->text(), u"Data type"_s);
+        EXPECT_EQ(table()->horizontalHeaderItem(2)->text(), kind.lastHeader) << kind.button;
+    }
+    emit table()->horizontalHeader()->sectionClicked(0);
+    EXPECT_EQ(rows(table()), (QStringList{u"C:A;USUBR;Lisp"_s, u"C:B;USUBR;Lisp"_s}));
+
+    ModalAnswers answers;
+    answers.press(QMessageBox::Ok);
+    dialog->readCatalogue(host.path(u"missing"_s));
+    EXPECT_EQ(answers.shown(),
+              QStringList{u"information \"Error loading database\" \"No such file or directory\" OK"_s});
+    click("isVariables");
+    EXPECT_EQ(table()->rowCount(), 2) << "the symbols stay";
+}
+
+TEST_F(LispExplorer, TheDumpIsWrittenOrNothingIs)
+{
+    dialog->readCatalogue(host.writeFile(u"catalogue"_s, catalogue));
+    dialog->beginWithLoaded();
+    show();
+    const QString dump = host.path(u"all.dmp"_s);
+    for (const QString &path : {QString(), host.path(u"missing/all.dmp"_s), dump}) {
+        ModalAnswers answers;
+        answers.choose(path);
+        click("btnExport");
+        EXPECT_EQ(answers.shown().size(), 1) << path.toStdString();
+        EXPECT_TRUE(answers.shown().value(0).startsWith(u"choose \"Save dump file\""_s));
+        EXPECT_TRUE(answers.shown().value(0).endsWith(u"\"Dump files (*.dmp)\""_s));
+    }
+    EXPECT_EQ(FakeHost::readFile(dump), ";(setq C:B <b>)\n;(setq C:A <a>)\n;(setq car <car>)\n;(setq short )\n"
+                                        ";(setq pi 3.14)\n;(setq title \"Ground floor\")\n");
+}
+
+TEST_F(LispExplorer, ShownAgainItReadsTheFolderAnewOnThePageThatWasLeft)
+{
+    open("(defun a () 1)");
+    functions()->setCurrentRow(0);
+    setText("txSearch", u"a"_s);
+    write(u"new.lsp"_s, {});
+    show();
+    EXPECT_EQ(files()->count(), 2);
+    EXPECT_EQ(text("txSearch"), QString());
+    EXPECT_FALSE(isEnabled("txSearch"));
+    EXPECT_FALSE(isEnabled("Bt_Load"));
+    EXPECT_EQ(page()->objectName(), u"page"_s);
+    EXPECT_EQ(focusName(), u"TxDirectory"_s);
+
+    click("isKora");
+    dialog->readCatalogue(host.writeFile(u"catalogue"_s, catalogue));
+    show();
+    EXPECT_EQ(page()->objectName(), u"page_2"_s);
+    EXPECT_EQ(table()->rowCount(), 2);
+    click("isUser");
+    EXPECT_EQ(page()->objectName(), u"page"_s);
+}
+
+// Enter reaches the button that has the focus, and no other one.
+TEST_F(LispExplorer, EnterPressesOnlyTheFocusedButton)
+{
+    open("(defun a () 1)");
+    for (QWidget *widget : {static_cast<QWidget *>(files()), static_cast<QWidget *>(functions()),
+                            static_cast<QWidget *>(viewer()), static_cast<QWidget *>(field("TxDirectory"))}) {
+        widget->setFocus();
+        QTest::keyClick(widget, Qt::Key_Enter);
+        EXPECT_TRUE(dialog->isVisible()) << widget->objectName().toStdString();
+    }
+    ModalAnswers answers;
+    answers.choose({});
+    find("bt_Directory")->setFocus();
+    QTest::keyClick(find("bt_Directory"), Qt::Key_Return);
+    EXPECT_EQ(answers.shown().size(), 1);
+}
+
+TEST_F(LispExplorer, LargeFoldersFilesAndCataloguesDoNotHoldTheWindowUp)
+{
+    for (int number = 0; number < 5000; ++number)
+        write(u"file%1.lsp"_s.arg(number), "(defun a () 1)\n");
+    write(u"large.lsp"_s, QByteArray("(defun a () 1)\n").repeated(100'000));
+    show();
+    QElapsedTimer timer;
+    timer.start();
+    scan(folder);
+    EXPECT_LT(timer.restart(), 2000);
+    EXPECT_EQ(files()->count(), 5001);
+    timer.restart();
+    selectFile(u"large.lsp"_s);
+    EXPECT_LT(timer.restart(), 5000);
+    EXPECT_EQ(functions()->count(), 100'000);
+
+    dialog->readCatalogue(host.writeFile(u"catalogue"_s, QByteArray("COMMAND!C:A!USUBR!Lisp!<a>\n").repeated(100'000)));
+    timer.restart();
+    click("isKora");
+    EXPECT_LT(timer.elapsed(), 5000);
+    EXPECT_EQ(table()->rowCount(), 100'000);
+}
+
+} // namespace
