@@ -4,7 +4,8 @@
 ;;; support/state.lsp     state files and the action words of dialogs
 ;;; support/strings.lsp   splitting and trimming
 ;;; support/entities.lsp  entity data, selections, bounding boxes
+;;; support/catalogue.lsp what the Lisp engine holds, for the Lisp Explorer
 
-(foreach file '("strings" "run" "state" "entities")
+(foreach file '("strings" "run" "state" "entities" "catalogue")
   (load (strcat "support/" file ".lsp")))
 (princ)

@@ -9,9 +9,13 @@
 
 ;; (kora_statefile tool) -> path of the tool's state file; its folder is made where it is missing.
 (defun kora_statefile (tool)
+  (kora_userfile (strcat tool ".state")))
+
+;; (kora_userfile name) -> path of a file in the module folder, which is made where it is missing.
+(defun kora_userfile (name)
   (vl-mkdir (getvar "LOGFILEPATH"))
   (vl-mkdir (kora_module_folder))
-  (strcat (kora_module_folder) "/" tool ".state"))
+  (strcat (kora_module_folder) "/" name))
 
 ;; (kora_readstate file) -> the state in file, nil for a missing or empty one. Lines without a key are left out.
 (defun kora_readstate (file / handle line entry state)
