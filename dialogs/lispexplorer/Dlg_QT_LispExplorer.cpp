@@ -30,6 +30,24 @@ QStringList lispFiles(const QString &folder)
     return names;
 }
 
+/// A text view is busy for minutes with a line of megabytes, and no person reads that far.
+constexpr qsizetype longestShownLine = 10'000;
+constexpr qsizetype mostShownLines = 100'000;
+
+/// `text` without what is beyond these limits; the places say so.
+QString withinLimits(const QString &text)
+{
+    if (text.size() <= longestShownLine)
+        return text;
+    QStringList shown;
+    const QStringList lines = text.split(u'\n');
+    for (const QString &line : lines.first(std::min(lines.size(), mostShownLines)))
+        shown.append(line.size() <= longestShownLine ? line : line.first(longestShownLine) + u'\u2026');
+    if (lines.size() > mostShownLines)
+        shown.append(Dlg_QT_LispExplorer::tr("; %1 more lines").arg(lines.size() - mostShownLines));
+    return shown.join(u'\n');
+}
+
 QIcon toolIcon(const QString &name)
 {
     return CKvUtils::icon(QStringLiteral(":/images"), name);
@@ -224,7 +242,7 @@ void Dlg_QT_LispExplorer::showEntry(int row)
     if (row < 0 || row >= m_entries.size())
         return;
     const auto part = ortakit::LispPart(m_ui->Cb_Format->currentIndex());
-    showSource(*m_ui->tx_EditLisp, *m_highlighter, lispText(m_entries[row], part));
+    showSource(*m_ui->tx_EditLisp, *m_highlighter, withinLimits(lispText(m_entries[row], part)));
 }
 
 void Dlg_QT_LispExplorer::OnSearchTyped()

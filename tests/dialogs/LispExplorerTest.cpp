@@ -148,6 +148,18 @@ TEST_F(LispExplorer, ShowsThePartThatIsChosen)
     EXPECT_EQ(viewer()->toPlainText(), u"(defun nothing ())"_s);
 }
 
+TEST_F(LispExplorer, WhatNobodyReadsIsCutOffAndSaysSo)
+{
+    open("(defun wide () " + QByteArray("(a b) ").repeated(1'000'000) + ")\n(defun long ()" +
+         QByteArray("\n").repeated(100'009) + ")");
+    functions()->setCurrentRow(0);
+    EXPECT_EQ(viewer()->toPlainText().size(), 10'001);
+    EXPECT_TRUE(viewer()->toPlainText().endsWith(u'\u2026'));
+    functions()->setCurrentRow(1);
+    EXPECT_EQ(viewer()->blockCount(), 100'001);
+    EXPECT_TRUE(viewer()->toPlainText().endsWith(u"\n; 10 more lines"_s));
+}
+
 TEST_F(LispExplorer, AFileThatCannotBeReadIsSaidAndLeavesNothing)
 {
     open("(defun a () 1)");
@@ -367,20 +379,21 @@ TEST_F(LispExplorer, LargeFoldersFilesAndCataloguesDoNotHoldTheWindowUp)
         write(u"file%1.lsp"_s.arg(number), "(defun a () 1)\n");
     write(u"large.lsp"_s, QByteArray("(defun a () 1)\n").repeated(100'000));
     show();
-    QElapsedTimer timer;
-    timer.start();
-    scan(folder);
-    EXPECT_LT(timer.restart(), 2000);
+    const auto milliseconds = [](const char *what, auto action) {
+        QElapsedTimer timer;
+        timer.start();
+        action();
+        testing::Test::RecordProperty(what, int(timer.elapsed()));
+        return timer.elapsed();
+    };
+    // The bounds leave room for a busy machine and for sanitizers.
+    EXPECT_LT(milliseconds("folder", [&] { scan(folder); }), 2000);
     EXPECT_EQ(files()->count(), 5001);
-    timer.restart();
-    selectFile(u"large.lsp"_s);
-    EXPECT_LT(timer.restart(), 5000);
+    EXPECT_LT(milliseconds("file", [&] { selectFile(u"large.lsp"_s); }), 5000);
     EXPECT_EQ(functions()->count(), 100'000);
 
     dialog->readCatalogue(host.writeFile(u"catalogue"_s, QByteArray("COMMAND!C:A!USUBR!Lisp!<a>\n").repeated(100'000)));
-    timer.restart();
-    click("isKora");
-    EXPECT_LT(timer.elapsed(), 5000);
+    EXPECT_LT(milliseconds("catalogue", [&] { click("isKora"); }), 5000);
     EXPECT_EQ(table()->rowCount(), 100'000);
 }
 

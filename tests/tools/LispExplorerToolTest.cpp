@@ -62,6 +62,11 @@ TEST_F(LispExplorerTool, DumpedVariablesCanBeSetAgain)
         {"V:UMLAUT", u"\"Größe\""_s},
         {"V:INT", u"-7"_s},
         {"V:REAL", u"2.5"_s},
+        {"V:THIRD", u"(/ 1.0 3)"_s},
+        {"V:SMALL", u"-1.25e-30"_s},
+        {"V:POINT", u"(list pi 1e10 (/ 2.0 3))"_s},
+        {"V:PAIRS", u"'((1 . 2) (nil) ((3 4 . \"x\")) nil)"_s},
+        {"V:TRUE", u"T"_s},
         {"V:LIST", u"'(1 (2.5 . \"x!\\n\") NAME)"_s},
         {"V:SYMBOL", u"'BRICK"_s},
     };
@@ -125,7 +130,7 @@ TEST_F(LispExplorerTool, LoadsAFileIntoTheDrawingsEngine)
     run.writeFile(u"my lisp/bad.lsp"_s, "(setq v:loaded 2) (car 5)");
     const QString open = u"command LISPEXPLORER\ndialog Dlg_QT_LispExplorer\nset TxDirectory \"%1\"\n"
                          "key TxDirectory Return\nrow List_files %2\nclick Bt_Load\n"
-                         "message \"The file has been loaded.\" Ok\ndialog Dlg_QT_LispExplorer\n%3click text:Close\n"_s;
+                         "message \"The file has been loaded.\" Ok\n%3click text:Close\n"_s;
     const QString folder = run.path(u"my lisp"_s);
     const RunOutcome outcome =
         run.play(open.arg(folder, u"good.LSP"_s, QString()) +

@@ -40,12 +40,29 @@
   (cdr (assoc (type value)
               '((SUBR . "Built-in function") (USUBR . "Lisp function") (EXRXSUBR . "External function")))))
 
-;; -> the value as field of a variable.
+;; -> the value as field of a variable. One too deep or too long to be written must not hide all others.
 (defun kora:value_text (value / text)
-  (setq text (vl-prin1-to-string value))
-  (cond ((= (type value) 'STR) (substr text 2 (- (strlen text) 2)))
-        ((member (type value) '(LIST SYM)) (strcat "'" text))
+  (setq text (vl-catch-all-apply 'kora:exact_text (list value)))
+  (cond ((vl-catch-all-error-p text) "<too large>")
+        ((= (type value) 'STR) (substr text 2 (- (strlen text) 2)))
+        ((or (= (type value) 'LIST) (and (= (type value) 'SYM) (/= value T))) (strcat "'" text))
         (T text)))
+
+;; -> the value as prin1 writes it, but reals with all their digits.
+(defun kora:exact_text (value / parts)
+  (cond
+    ((= (type value) 'REAL) (kora:exact_real value))
+    ((= (type value) 'LIST)
+     (while (= (type value) 'LIST)
+       (setq parts (cons " " (cons (kora:exact_text (car value)) parts))
+             value (cdr value)))
+     (if value (setq parts (cons " " (cons (kora:exact_text value) (cons ". " parts)))))
+     (strcat "(" (apply 'strcat (reverse (cdr parts))) ")"))
+    (T (vl-prin1-to-string value))))
+
+(defun kora:exact_real (value / text)
+  (setq text (vl-prin1-to-string value))
+  (if (equal (distof text 2) value) text (rtos value 1 16)))
 
 (defun kora:catalogue_line (fields / line)
   (setq line (car fields))
