@@ -1,0 +1,172 @@
+#include "formats/AliasFile.h"
+
+#include "tests/formats/Folder.h"
+#include "tests/support/QtTestPrinters.h"
+
+#include <QBuffer>
+#include <QElapsedTimer>
+
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+using namespace ortakit;
+using namespace Qt::StringLiterals;
+using formats_test::Folder;
+
+namespace {
+
+AliasReading read(QByteArray text)
+{
+    QBuffer device(&text);
+    device.open(QIODevice::ReadOnly);
+    return readAliases(device);
+}
+
+/// The pairs as "LINE=L CIRCLE=C".
+QString pairs(const QList<CommandAlias> &aliases)
+{
+    QStringList texts;
+    for (const CommandAlias &pair : aliases)
+        texts.append(pair.command + u'=' + pair.alias);
+    return texts.join(u' ');
+}
+
+TEST(AliasFile, ReadsRecordsWhereverTheyStand)
+{
+    const struct
+    {
+        const char *name;
+        QByteArray text;
+        QString pairs;
+        const char *error; ///< part of it; null for none
+    } rows[] = {
+        {"as written", "<aliases>\n  <record command=\"LINE\" alias=\"L\"/>\n</aliases>\n", u"LINE=L"_s, nullptr},
+        {"no aliases", "<aliases/>", u""_s, nullptr},
+        {"another root, deeper, among others, with content",
+         "<x><record alias='c' command='circle'><y><record command='Arc' alias='a'/></y></record><z record='1'/></x>",
+         u"circle=c Arc=a"_s, nullptr},
+        {"the root itself", "<record command='_LINE' alias='L'/>", u"_LINE=L"_s, nullptr},
+        {"missing attributes", "<a><record/><record command='X'/><record alias='Y'/></a>", u"= X= =Y"_s, nullptr},
+        {"names by case", "<a><Record command='X' alias='Y'/><record Command='X' ALIAS='Y'/></a>", u"="_s, nullptr},
+        {"prefixes", "<p:a><p:record command='X' alias='Y'/></p:a>", u"X=Y"_s, nullptr},
+        {"declaration, comment, reference",
+         "<?xml version='1.0' encoding='utf-8'?><!--<record/>--><a><record command='A&amp;B' alias='&#76;'/></a>",
+         u"A&B=L"_s, nullptr},
+        {"entity", "<!DOCTYPE a [<!ENTITY e 'LINE'>]><a><record command='&e;' alias='L'/></a>", u"LINE=L"_s, nullptr},
+        {"byte-order mark", "\xEF\xBB\xBF<a><record command='Linie' alias='\xC3\xA4'/></a>", u"Linie=\u00e4"_s,
+         nullptr},
+        {"other encoding", "<?xml version='1.0' encoding='iso-8859-1'?><a><record command='X' alias='\xE4'/></a>",
+         u"X=\u00e4"_s, nullptr},
+        {"UTF-16", QByteArray("\xFF\xFE<\0a\0/\0>\0", 10), u""_s, nullptr},
+        {"cut off", "<a><record command='X' alias='Y'/><record command='Z", u"X=Y"_s, "Premature end of document."},
+        {"wrong nesting", "<a><record command='X' alias='Y'/></b>", u"X=Y"_s, "Opening and ending tag mismatch."},
+        {"plain text", "L LINE\nC CIRCLE\n", u""_s, "Start tag expected."},
+        {"empty", "", u""_s, "Premature end of document."},
+        {"two roots", "<a/><a/>", u""_s, "Extra content at end of document."},
+        {"two roots in two pieces", "<a>" + QByteArray(4089, ' ') + "</a><a/>", u""_s,
+         "Extra content at end of document."},
+        {"end of a piece", "<a>" + QByteArray(4089, ' ') + "</a>\n<!-- end -->\n", u""_s, nullptr},
+        {"wrong bytes", "<a><record command='X\xFF' alias='Y'/></a>", u""_s, "incorrectly encoded"},
+        {"zero bytes", QByteArray(100, '\0'), u""_s, ""},
+        {"attribute twice", "<a><record alias='X' alias='Y'/></a>", u""_s, "redefined"},
+    };
+    for (const auto &row : rows) {
+        const AliasReading reading = read(row.text);
+        EXPECT_EQ(pairs(reading.aliases), row.pairs) << row.name;
+        EXPECT_EQ(bool(reading), row.error == nullptr) << row.name << ": " << reading.error.toStdString();
+        EXPECT_TRUE(reading.error.contains(QString::fromLatin1(row.error)))
+            << row.name << ": " << reading.error.toStdString();
+    }
+}
+
+// Each is small or of the size of a real file, and would cost gigabytes or hours.
+TEST(AliasFile, HostileFilesAreRefusedQuickly)
+{
+    QByteArray bomb = "<!DOCTYPE a [<!ENTITY e0 'xxxxxxxxxx'>";
+    for (int i = 1; i < 30; ++i) {
+        const QByteArray inner = "&e" + QByteArray::number(i - 1) + ';';
+        bomb += "<!ENTITY e" + QByteArray::number(i) + " '" + inner.repeated(10) + "'>";
+    }
+    QByteArray attributes = "<a><record";
+    for (int i = 0; i < 1'000'000; ++i)
+        attributes += " a" + QByteArray::number(i) + "=''";
+    QByteArray defaults = "<!DOCTYPE a [";
+    for (int i = 0; i < 100'000; ++i)
+        defaults += "<!ATTLIST a b" + QByteArray::number(i) + " CDATA 'x'>";
+    const struct
+    {
+        const char *name;
+        QByteArray text;
+        const char *error;
+    } rows[] = {
+        {"entities in entities", bomb + "]><a><record command='&e29;' alias='L'/></a>", "expansion limit"},
+        {"one entity again and again",
+         "<!DOCTYPE a [<!ENTITY e '" + QByteArray(4000, 'x') + "'>]><a>" +
+             QByteArray("<record command='&e;' alias='L'/>").repeated(200'000) + "</a>",
+         "expand to too much"},
+        {"default of an attribute",
+         "<!DOCTYPE a [<!ATTLIST record command CDATA '" + QByteArray(60'000, 'x') + "'>]><a>" +
+             QByteArray("<record/>").repeated(200'000) + "</a>",
+         "expand to too much"},
+        {"attributes", attributes + "/></a>", "too long"},
+        {"defaults", defaults + "]><a/>", "too long"},
+        {"one long value", "<a><record command='" + QByteArray(20'000'000, 'x') + "'/></a>", "too long"},
+        {"depth", QByteArray("<a>").repeated(2'000'000), "Premature end"},
+    };
+    for (const auto &row : rows) {
+        QElapsedTimer timer;
+        timer.start();
+        const AliasReading reading = read(row.text);
+        EXPECT_LT(timer.elapsed(), 20'000) << row.name;
+        EXPECT_TRUE(reading.error.contains(QString::fromLatin1(row.error)))
+            << row.name << ": " << reading.error.toStdString();
+    }
+}
+
+TEST(AliasFile, WritesUpperCaseAndLeavesOutWhatIsIncomplete)
+{
+    const QList<CommandAlias> aliases = {{u"line"_s, u"l"_s},
+                                         {u"CIRCLE"_s, {}},
+                                         {{}, u"X"_s},
+                                         {u"stra\u00dfe"_s, u"\u00e4"_s},
+                                         {u"a<b>&\"c'"_s, u"\U0001F600\t"_s},
+                                         // What XML has no way to hold.
+                                         {u"\u0001b\ufffe"_s, QString(QChar(0xD800)) + u"c"_s},
+                                         {u"d"_s, u"\u0002"_s}};
+    const QByteArray text = writtenAliases(aliases);
+    EXPECT_TRUE(text.trimmed().startsWith("<aliases>\n    <record command=\"LINE\" alias=\"L\"/>\n"))
+        << text.toStdString();
+    const AliasReading reading = read(text);
+    EXPECT_EQ(reading.error, QString());
+    EXPECT_EQ(pairs(reading.aliases), u"LINE=L STRASSE=\u00c4 A<B>&\"C'=\U0001F600\t B=C"_s);
+    EXPECT_EQ(pairs(read(writtenAliases({})).aliases), QString());
+    EXPECT_TRUE(read(writtenAliases({})));
+}
+
+TEST(AliasFile, ManyAliasesTakeTimeInProportion)
+{
+    QList<CommandAlias> aliases;
+    for (int i = 0; i < 100'000; ++i)
+        aliases.append({u"COMMAND%1"_s.arg(i), u"C%1"_s.arg(i)});
+    QElapsedTimer timer;
+    timer.start();
+    EXPECT_EQ(read(writtenAliases(aliases)).aliases, aliases);
+    EXPECT_LT(timer.elapsed(), 10'000);
+}
+
+TEST(AliasFile, FilesThatCannotBeReadOrWritten)
+{
+    const Folder folder;
+    const QString pipe = folder.path(u"pipe"_s);
+    ASSERT_EQ(mkfifo(pipe.toLocal8Bit().constData(), 0600), 0);
+    for (const QString &path :
+         {QString(), folder.path(u"missing/alias.xml"_s), folder.path({}), pipe, u"/dev/zero"_s}) {
+        EXPECT_EQ(readAliasFile(path).error, u"Error reading alias file."_s) << path.toStdString();
+        EXPECT_FALSE(writeAliasFile(path, {})) << path.toStdString();
+    }
+    const QString path = folder.path(u"alias.xml"_s);
+    EXPECT_TRUE(writeAliasFile(path, {{u"Line"_s, u"l"_s}}));
+    EXPECT_EQ(pairs(readAliasFile(path).aliases), u"LINE=L"_s);
+}
+
+} // namespace
