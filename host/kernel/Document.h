@@ -88,8 +88,12 @@ public:
     RunResult run(const QString &text, const QString &sourceName = {});
     /// Loads a Lisp file.
     RunResult loadLisp(const QString &path);
-    /// A Lisp command (C:NAME) or else a built-in one, by its name as typed. What it asks is taken from the queue.
+    /// A Lisp command (C:NAME) or else a built-in one, by its name as typed or by an alias that is no command's name.
+    /// What it asks is taken from the queue.
     RunResult runCommand(const QString &name);
+    /// The command that `typed` is an alias for, as the user's alias file has it; `typed` itself when it is none.
+    /// Prints when the file cannot be read. Commands come first: this is for what is the name of none.
+    QString commandOfAlias(const QString &typed);
     /// Takes the next command, expression or variable from the queue and runs it; an empty line repeats the last
     /// command. Nothing happens when the queue is empty or holds but the beginning of an expression.
     RunResult runQueued();
@@ -167,6 +171,8 @@ signals:
 
 private:
     class Run;
+    bool isCommand(const QString &typed) const;
+    bool isLispCommand(const QString &typed) const;
     RunResult runBuiltIn(const QString &typed);
     void finishPendingCommand();
     RunResult report(const lisp::Outcome &outcome);

@@ -41,6 +41,12 @@ private:
 
 namespace {
 
+/// The Lisp function that a command's name as typed stands for.
+QString lispFunction(const QString &typed)
+{
+    return QStringLiteral("C:") + CommandTable::plainName(typed);
+}
+
 QString firstLine(const QString &text)
 {
     return text.trimmed().section(u'\n', 0, 0);
@@ -76,14 +82,34 @@ RunResult Document::loadLisp(const QString &path)
 
 RunResult Document::runCommand(const QString &name)
 {
-    const QString plain = CommandTable::plainName(name);
-    const QString function = QStringLiteral("C:") + plain;
     m_lastCommand = name;
-    if (!m_interpreter || name.startsWith(u'.') || !m_interpreter->isDefined(function.toStdString()))
-        return runBuiltIn(name);
+    const QString command = isCommand(name) ? name : commandOfAlias(name);
+    if (!isLispCommand(command))
+        return runBuiltIn(command);
+    const QString function = lispFunction(command);
     m_session.editor().lispWillStart(u'(' + function + u')');
-    const Run scope(*this, plain);
+    const Run scope(*this, CommandTable::plainName(command));
     return report(m_interpreter->call(function.toStdString()));
+}
+
+bool Document::isLispCommand(const QString &typed) const
+{
+    // A point asks for the built-in command.
+    return m_interpreter && !typed.startsWith(u'.') && m_interpreter->isDefined(lispFunction(typed).toStdString());
+}
+
+bool Document::isCommand(const QString &typed) const
+{
+    return isLispCommand(typed) || CommandTable::find(typed);
+}
+
+QString Document::commandOfAlias(const QString &typed)
+{
+    CommandAliases &aliases = m_session.aliases();
+    if (const QString problem = aliases.refresh(); !problem.isEmpty())
+        print(u'\n' + problem + u'\n');
+    const QString command = aliases.command(CommandTable::plainName(typed));
+    return command.isEmpty() ? typed : command;
 }
 
 RunResult Document::runBuiltIn(const QString &typed)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/kernel/CommandAliases.h"
 #include "host/kernel/DocumentManager.h"
 #include "host/kernel/ModuleLoader.h"
 #include "host/kernel/Services.h"
@@ -42,6 +43,7 @@ public:
     ModuleLoader &modules() { return *m_modules; }
     Editor &editor() { return *m_editor; }
     InputQueue &input() { return m_input; }
+    CommandAliases &aliases() { return m_aliases; }
 
     /// Who answers when the queue is empty; null (as in the beginning) for nobody. Not owned.
     void setFeeder(InputFeeder *feeder) { m_feeder = feeder; }
@@ -62,6 +64,7 @@ private:
     QString m_home;
     QStringList m_supportFolders;
     QString m_helpFolder;
+    CommandAliases m_aliases;
     InputQueue m_input;
     InputFeeder *m_feeder = nullptr;
     QPointer<QWidget> m_mainWindow;

@@ -30,4 +30,11 @@ OdString SystemServices::defaultFolder() const
     return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
 }
 
+OdString SystemServices::userSupportFolder() const
+{
+    // Whoever asks is going to read the file.
+    m_session.aliases().ensureFile();
+    return m_session.home() + u'/';
+}
+
 } // namespace host::kernel

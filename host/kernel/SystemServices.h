@@ -18,6 +18,8 @@ public:
     OdString helpFile() const override;
     /// The active drawing's folder, else the user's documents.
     OdString defaultFolder() const override;
+    /// The folder of the user's data. An alias file is made there when there is none.
+    OdString userSupportFolder() const override;
 
 private:
     Session &m_session;

@@ -20,6 +20,9 @@ public:
     virtual OdString helpFile() const = 0;
     /// Where a file dialog starts that has no folder of its own.
     virtual OdString defaultFolder() const = 0;
+    /// The folder of the support files that are the user's own, with a separator at its end. The host takes its command
+    /// aliases from "alias.xml" in it and goes by a changed file from the next command on.
+    virtual OdString userSupportFolder() const = 0;
 };
 
 /// The services; null before the host has started.

@@ -2,8 +2,6 @@
 
 #include "host/kernel/commands/Commands.h"
 
-#include <QHash>
-
 namespace host::kernel {
 
 namespace {
@@ -19,23 +17,6 @@ std::vector<CommandRow> collectRows()
     return rows;
 }
 
-/// What people type for short.
-QString unabbreviated(const QString &name)
-{
-    static const QHash<QString, QString> names = {
-        {QStringLiteral("L"), QStringLiteral("LINE")},     {QStringLiteral("C"), QStringLiteral("CIRCLE")},
-        {QStringLiteral("PL"), QStringLiteral("PLINE")},   {QStringLiteral("E"), QStringLiteral("ERASE")},
-        {QStringLiteral("M"), QStringLiteral("MOVE")},     {QStringLiteral("CO"), QStringLiteral("COPY")},
-        {QStringLiteral("CP"), QStringLiteral("COPY")},    {QStringLiteral("RO"), QStringLiteral("ROTATE")},
-        {QStringLiteral("SC"), QStringLiteral("SCALE")},   {QStringLiteral("I"), QStringLiteral("INSERT")},
-        {QStringLiteral("-I"), QStringLiteral("-INSERT")}, {QStringLiteral("W"), QStringLiteral("WBLOCK")},
-        {QStringLiteral("-W"), QStringLiteral("-WBLOCK")}, {QStringLiteral("-LA"), QStringLiteral("-LAYER")},
-        {QStringLiteral("LA"), QStringLiteral("-LAYER")},  {QStringLiteral("LAYER"), QStringLiteral("-LAYER")},
-        {QStringLiteral("Z"), QStringLiteral("ZOOM")},     {QStringLiteral("RE"), QStringLiteral("REGEN")},
-        {QStringLiteral("R"), QStringLiteral("REDRAW")},   {QStringLiteral("SET"), QStringLiteral("SETVAR")}};
-    return names.value(name, name);
-}
-
 } // namespace
 
 QString CommandTable::plainName(QStringView typed)
@@ -48,7 +29,7 @@ QString CommandTable::plainName(QStringView typed)
 
 const CommandRow *CommandTable::find(QStringView typed)
 {
-    const QString name = unabbreviated(plainName(typed));
+    const QString name = plainName(typed);
     for (const CommandRow &row : all())
         if (name == QLatin1String(row.name))
             return &row;

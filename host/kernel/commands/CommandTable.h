@@ -22,7 +22,7 @@ class KV_EXPORT CommandTable
 {
 public:
     /// The command that a typed name means, null when there is none: letter case and the prefixes "_" "." "'" do not
-    /// matter, usual abbreviations ("L" for LINE) are known, a leading "-" belongs to the name.
+    /// matter, a leading "-" belongs to the name. Aliases are not known here; see Document::commandOfAlias().
     static const CommandRow *find(QStringView typed);
     /// `typed` in upper case without its prefixes.
     static QString plainName(QStringView typed);

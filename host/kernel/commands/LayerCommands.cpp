@@ -140,7 +140,8 @@ CommandTask layer(CommandContext &context)
 
 std::vector<CommandRow> layerCommands()
 {
-    return {{"-LAYER", layer, "Makes layers and changes their states"}};
+    return {{"-LAYER", layer, "Makes layers and changes their states"},
+            {"LAYER", layer, "As -LAYER; there is no window for it"}};
 }
 
 } // namespace host::kernel

@@ -33,9 +33,10 @@ bool startCommand(Arguments &args, std::size_t index)
     // An empty answer too many at the end of a command does no harm.
     if (name.isEmpty())
         return true;
-    std::unique_ptr<CommandRun> started = CommandRun::start(document, name);
+    const QString command = CommandTable::find(name) ? name : document.commandOfAlias(name);
+    std::unique_ptr<CommandRun> started = CommandRun::start(document, command);
     if (!started) {
-        document.print(QStringLiteral("\nUnknown command \"%1\".\n").arg(CommandTable::plainName(name)));
+        document.print(QStringLiteral("\nUnknown command \"%1\".\n").arg(CommandTable::plainName(command)));
         return false;
     }
     document.setPendingCommand(std::move(started));
@@ -70,7 +71,7 @@ bool runArguments(Arguments &args)
     return true;
 }
 
-// (command argument ...) -> nil. Starts a command and answers its prompts: text, numbers, points in user coordinates,
+// (command argument ...) -> nil. Starts a built-in command, by its name or an alias, and answers its prompts: text, numbers, points in user coordinates,
 // entity names, selection sets; "\\" has the user answer. A command that is not complete goes on with the next call.
 // Without arguments, or with nil, the command under way is cancelled. A name that is no command is told to the user.
 Value command(Arguments &args)

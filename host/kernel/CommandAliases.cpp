@@ -1,0 +1,57 @@
+#include "host/kernel/CommandAliases.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QSaveFile>
+
+namespace host::kernel {
+
+CommandAliases::CommandAliases(const QString &path) : m_path(path), m_table(firstAliases()) {}
+
+void CommandAliases::ensureFile() const
+{
+    QSaveFile file(m_path);
+    if (QFileInfo::exists(m_path) || !file.open(QIODevice::WriteOnly))
+        return;
+    file.write(toAliasFile(firstAliases()));
+    file.commit();
+}
+
+QString CommandAliases::refresh()
+{
+    ensureFile();
+    const std::optional<Stamp> stamp = stampOfFile();
+    if (stamp == m_stamp)
+        return {};
+    m_stamp = stamp;
+    return stamp ? reread() : QString();
+}
+
+std::optional<CommandAliases::Stamp> CommandAliases::stampOfFile() const
+{
+    const QFileInfo file(m_path);
+    if (!file.exists())
+        return {};
+    return Stamp{file.lastModified(), file.size()};
+}
+
+QString CommandAliases::reread()
+{
+    QFile file(m_path);
+    AliasTableReading reading;
+    if (!QFileInfo(m_path).isFile())
+        reading.error = QStringLiteral("it is not a regular file");
+    else if (!file.open(QIODevice::ReadOnly))
+        reading.error = file.errorString();
+    else
+        reading = readAliasTable(file);
+    if (reading.error.isEmpty()) {
+        m_table = std::move(reading.table);
+        return {};
+    }
+    return QStringLiteral("The command aliases in %1 cannot be read: %2 The ones before stay in use.")
+        .arg(QDir::toNativeSeparators(m_path),
+             reading.error.endsWith(u'.') ? reading.error : reading.error + QStringLiteral("."));
+}
+
+} // namespace host::kernel
