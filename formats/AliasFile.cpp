@@ -152,6 +152,20 @@ QByteArray writtenAliases(const QList<CommandAlias> &aliases)
     return text;
 }
 
+QString aliasListing(const QList<CommandAlias> &aliases)
+{
+    constexpr qsizetype fewestPoints = 4;
+    qsizetype width = 0;
+    for (const CommandAlias &pair : aliases)
+        width = std::max(width, pair.command.size());
+    QString text;
+    for (const CommandAlias &pair : aliases) {
+        const QString command = (pair.command + u' ').toUpper();
+        text += command.leftJustified(width + fewestPoints, u'.') + u' ' + pair.alias.toUpper() + u'\n';
+    }
+    return text;
+}
+
 bool writeAliasFile(const QString &path, const QList<CommandAlias> &aliases)
 {
     return replaceFile(path, writtenAliases(aliases));

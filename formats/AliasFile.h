@@ -44,6 +44,10 @@ AliasReading readAliasFile(const QString &path);
 /// case. Pairs with an empty command or alias are left out, and with them the characters that XML cannot hold.
 QByteArray writtenAliases(const QList<CommandAlias> &aliases);
 
+/// A list to print: a line for each pair, in order and in upper case, the commands filled up with points so that the
+/// aliases stand in a column.
+QString aliasListing(const QList<CommandAlias> &aliases);
+
 /// Writes writtenAliases() to the file at `path`, all of it or nothing; see replaceFile(). False when that failed.
 bool writeAliasFile(const QString &path, const QList<CommandAlias> &aliases);
 

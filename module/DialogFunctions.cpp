@@ -2,6 +2,7 @@
 
 #include "dialogs/breakline/Dlg_QT_Breakline.h"
 #include "dialogs/lispexplorer/Dlg_QT_LispExplorer.h"
+#include "dialogs/editalias/Dlg_QT_EditAlias.h"
 #include "module/RunDialog.h"
 
 namespace ortakit {
@@ -40,6 +41,11 @@ int dlgLispExplorer()
                                                                      .takeFirst = takeCatalogue,
                                                                      .giveResult = setNothing,
                                                                      .giveRejection = setNothing});
+}
+
+int dlgEditAlias()
+{
+    return runDialog<Dlg_QT_EditAlias>(DialogSlot::EditAlias, {});
 }
 
 } // namespace ortakit

@@ -6,6 +6,7 @@ namespace ortakit {
 /// @{
 int dlgBreakLine();
 int dlgLispExplorer();
+int dlgEditAlias();
 /// @}
 
 } // namespace ortakit

@@ -41,7 +41,7 @@ constexpr LispFunctionTable lispFunctionTable = {{
     function<"Dlg_RedefinePaths">(),
     function<"Dlg_MergeSheets">(),
     function<"Dlg_ExportInfo">(),
-    function<"Dlg_EditAlias">(),
+    function<"Dlg_EditAlias", dlgEditAlias>(),
     function<"Dlg_MakeShape">(),
     function<"Dlg_MultiViewSetup">(),
     function<"c:setbackupfolder">(OnClose::Keep),

@@ -2,6 +2,7 @@
 
 #include "dialogs/breakline/Dlg_QT_Breakline.h"
 #include "dialogs/lispexplorer/Dlg_QT_LispExplorer.h"
+#include "dialogs/editalias/Dlg_QT_EditAlias.h"
 #include "tests/support/FakeHost.h"
 #include "tests/support/QtTestPrinters.h"
 
@@ -37,6 +38,7 @@ constexpr Row row(const char *name, const char *helpTopic)
 constexpr Row rows[] = {
     row<Dlg_QT_Breakline>("Breakline", "9101"),
     row<Dlg_QT_LispExplorer>("LispExplorer", "9111"),
+    row<Dlg_QT_EditAlias>("EditAlias", "0"),
 };
 
 void PrintTo(const Row &row, std::ostream *out)

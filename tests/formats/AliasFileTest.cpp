@@ -143,6 +143,16 @@ TEST(AliasFile, WritesUpperCaseAndLeavesOutWhatIsIncomplete)
     EXPECT_TRUE(read(writtenAliases({})));
 }
 
+TEST(AliasFile, ListingHasTheAliasesInAColumn)
+{
+    const QList<CommandAlias> aliases = {{u"_line"_s, u"l"_s}, {u"CIRCLE"_s, u"C"_s}, {{}, u"x"_s}};
+    EXPECT_EQ(aliasListing(aliases), u"_LINE .... L\nCIRCLE ... C\n ......... X\n"_s);
+    EXPECT_EQ(aliasListing({}), QString());
+    EXPECT_EQ(aliasListing({{u"stra\u00dfe\u00df\u00df\u00df\u00df\u00df"_s, u"S"_s}}),
+              u"STRASSESSSSSSSSSS  S"_s + u'\n')
+        << "a command that is longer in upper case is not cut";
+}
+
 TEST(AliasFile, ManyAliasesTakeTimeInProportion)
 {
     QList<CommandAlias> aliases;

@@ -1,0 +1,64 @@
+#pragma once
+
+#include "formats/AliasFile.h"
+#include "state/ToolDialog.h"
+
+#include <memory>
+
+namespace Ui {
+class Dlg_QT_EditAlias;
+}
+
+/// The alias editor: the table of what may be typed in place of commands, from the host's alias file each time it is
+/// shown. An alias that another row has is refused. What the table holds is written by Save and OK, to the alias file
+/// or to the file that was exported to since the dialog was shown.
+class Dlg_QT_EditAlias final : public ToolDialog
+{
+    Q_OBJECT
+
+public:
+    explicit Dlg_QT_EditAlias(QWidget *parent = nullptr);
+    ~Dlg_QT_EditAlias() override;
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
+protected:
+    void beforeShow() override;
+    void afterShow() override;
+    void changeEvent(QEvent *event) override;
+
+private:
+    void Help();
+    void AddAlias();
+    void delAlias();
+    void cleanAlias();
+    void saveAlias();
+    void exportAlias();
+    void importAlias();
+    void printAlias();
+    void aliasChanged(int row, int column);
+    void aliasclick(int row, int column);
+    void ClickHeaderTable(int column);
+    void SelectChanged();
+    void CerrarDialogo();
+
+    void connectWidgets();
+    void setIcons();
+    void setAliasFile(const QString &path);
+    void fillTable(const QList<ortakit::CommandAlias> &aliases);
+    QString cellText(int row, int column) const;
+    QList<ortakit::CommandAlias> tableAliases() const;
+    bool writeTable() const;
+    bool isAliasOfOther(const QString &text, int row) const;
+    bool takesOpenEdit();
+    void reportErrorSoon(const QString &text);
+
+    std::unique_ptr<Ui::Dlg_QT_EditAlias> m_ui;
+    QString m_aliasFile;
+    /// What an alias cell held before it was edited.
+    QString m_previousAlias;
+    /// The table is changed by the dialog; nothing is checked.
+    bool m_isFilling = false;
+    /// Set when a change was refused.
+    bool m_wasRefused = false;
+};
