@@ -4,7 +4,7 @@
 
 #include <QAbstractTextDocumentLayout>
 #include <QCoreApplication>
-#include <QFileInfo>
+#include <QFile>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QTextDocument>
@@ -13,11 +13,17 @@ namespace ortakit {
 
 namespace {
 
-/// QTextDocument::print() says nothing when it cannot begin.
-bool canPrint(QPrinter &printer)
+/// A disk that is full goes unnoticed by the printer: what it writes to a file must be there up to the end mark.
+bool isWritten(const QPrinter &printer)
 {
-    const QString file = printer.outputFileName();
-    return printer.isValid() && (file.isEmpty() || QFile(file).open(QIODevice::ReadWrite));
+    if (printer.printerState() == QPrinter::Error)
+        return false;
+    QFile file(printer.outputFileName());
+    if (file.fileName().isEmpty() || printer.outputFormat() != QPrinter::PdfFormat)
+        return true;
+    constexpr qint64 endLength = 32;
+    return file.open(QIODevice::ReadOnly) && file.seek(std::max<qint64>(file.size() - endLength, 0)) &&
+           file.read(endLength).contains("%%EOF");
 }
 
 void print(QTextDocument &document, QPrinter &printer)
@@ -38,9 +44,8 @@ void printDocument(QTextDocument &document, QWidget *parent)
     dialog.setObjectName(QStringLiteral("printDialog"));
     if (dialog.exec() != QDialog::Accepted)
         return;
-    if (canPrint(printer))
-        print(document, printer);
-    if (!canPrint(printer) || printer.printerState() == QPrinter::Error)
+    print(document, printer);
+    if (!isWritten(printer))
         CKvMessageBox::critical(parent, {},
                                 QCoreApplication::translate("LispExtension", "The document could not be printed."));
 }

@@ -153,8 +153,9 @@ void Dlg_QT_EditAlias::AddAlias()
     {
         const QScopedValueRollback filling(m_isFilling, true);
         table.insertRow(0);
-        table.setItem(0, CommandColumn, new QTableWidgetItem);
-        table.setItem(0, AliasColumn, new QTableWidgetItem);
+        // With a text, though empty: the first edit that leaves an item without one empty would count as a change.
+        table.setItem(0, CommandColumn, new QTableWidgetItem(QString()));
+        table.setItem(0, AliasColumn, new QTableWidgetItem(QString()));
     }
     table.setFocus();
     table.setCurrentCell(0, CommandColumn);

@@ -21,7 +21,7 @@ TEST(DocumentPrinting, PrintsWhatTheDialogConfirms)
     const FakeHost host;
     const QString file = host.path(u"list.pdf"_s);
     QTextDocument document;
-    document.setPlainText(u"first line\nsecond line"_s);
+    document.setPlainText(u"one line\nanother one"_s);
 
     ModalAnswers user;
     user.drive([](QWidget *window) { window->close(); });
@@ -30,7 +30,7 @@ TEST(DocumentPrinting, PrintsWhatTheDialogConfirms)
 
     user.drive(printingTo(file));
     printDocument(document, nullptr);
-    EXPECT_EQ(pdfLines(file), (QStringList{u"first line"_s, u"second line"_s}));
+    EXPECT_EQ(pdfLines(file), (QStringList{u"one line"_s, u"another one"_s}));
     EXPECT_EQ(user.shown().size(), 2) << "no message";
 }
 
@@ -57,9 +57,10 @@ TEST(DocumentPrinting, AFileThatTakesNothingIsSaid)
     document.setPlainText(u"text"_s);
     ModalAnswers user;
     user.drive(printingTo(u"/dev/full"_s));
+    user.press(QMessageBox::Yes); // write over what is there
     user.press(QMessageBox::Ok);
     printDocument(document, nullptr);
-    EXPECT_EQ(user.shown().value(1), u"critical \"\" \"The document could not be printed.\" OK"_s);
+    EXPECT_EQ(user.shown().value(2), u"critical \"\" \"The document could not be printed.\" OK"_s);
 }
 
 } // namespace

@@ -73,6 +73,7 @@ FakeHost::FakeHost()
     : m_before(host::kernel::installServices({.system = this, .help = &m_help, .editor = &m_editor})),
       m_activeBefore(host::kernel::setActiveDocument(nullptr))
 {
+    writeFile(QStringLiteral("alias.xml"), "<aliases/>");
     m_documents.open()->setSystemVariable(QStringLiteral("LOGFILEPATH"), m_folder.path() + QLatin1Char('/'));
 }
 

@@ -84,6 +84,7 @@ public:
     QWidget *mainWindow() override { return m_mainWindow; }
     OdString helpFile() const override { return QStringLiteral("help.file"); }
     OdString defaultFolder() const override { return m_folder.path(); }
+    /// Its own folder, with an alias file without aliases.
     OdString userSupportFolder() const override { return m_folder.path() + QLatin1Char('/'); }
 
 private:
