@@ -71,9 +71,10 @@ bool runArguments(Arguments &args)
     return true;
 }
 
-// (command argument ...) -> nil. Starts a built-in command, by its name or an alias, and answers its prompts: text, numbers, points in user coordinates,
-// entity names, selection sets; "\\" has the user answer. A command that is not complete goes on with the next call.
-// Without arguments, or with nil, the command under way is cancelled. A name that is no command is told to the user.
+// (command argument ...) -> nil. Starts a built-in command, by its name or an alias, and answers its prompts: text,
+// numbers, points in user coordinates, entity names, selection sets; "\\" has the user answer. A command that is not
+// complete goes on with the next call. Without arguments, or with nil, the command under way is cancelled. A name that
+// is no command is told to the user.
 Value command(Arguments &args)
 {
     if (args.size() == 0)
