@@ -28,6 +28,8 @@ QByteArray withoutByteOrderMark(QByteArray bytes)
 
 TextReading readTextFile(const QString &path, qint64 largest)
 {
+    if (path.isEmpty())
+        return {{}, tr("No file name")};
     QFile file(path);
     // A pipe or a device would be read for ever; what does not exist gets the system's own words below.
     if (QFileInfo info(path); info.exists() && !info.isFile())

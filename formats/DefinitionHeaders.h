@@ -1,0 +1,55 @@
+#pragma once
+
+#include "formats/TextReading.h"
+
+#include <QList>
+#include <QStringList>
+
+namespace ortakit {
+
+// Linetype and shape sources are lists of definitions. The first line of each begins with "*" and has fields with ","
+// between; the lines behind it, and those before the first, are no matter of who lists what is defined.
+
+/// What was odd about a header that is listed all the same.
+enum class HeaderOddity
+{
+    TooFewFields,
+    NoName,
+};
+
+/// An oddity and where it was met.
+struct HeaderDiagnostic
+{
+    qsizetype line = 0; ///< from 1
+    HeaderOddity oddity = HeaderOddity::NoName;
+    QString text; ///< the whole line
+
+    bool operator==(const HeaderDiagnostic &) const = default;
+};
+
+/// Goes from header to header of a text. Costs a pass over the text.
+class DefinitionHeaderReader
+{
+public:
+    /// Headers of this kind have `fieldCount` fields, among them, counted from 0, the name. `text` must outlive the
+    /// reader.
+    DefinitionHeaderReader(QByteArrayView text, qsizetype fieldCount, qsizetype nameField);
+
+    /// Goes to the next header; false when there is none left.
+    bool next();
+    /// A field of the header as it stands, the first one without its "*"; empty when the header has no such field.
+    QString field(qsizetype number) const { return m_fields.value(number); }
+    /// What was odd about the headers passed so far.
+    const QList<HeaderDiagnostic> &diagnostics() const { return m_diagnostics; }
+
+private:
+    void takeHeader();
+
+    LineReader m_lines;
+    qsizetype m_fieldCount;
+    qsizetype m_nameField;
+    QStringList m_fields;
+    QList<HeaderDiagnostic> m_diagnostics;
+};
+
+} // namespace ortakit
