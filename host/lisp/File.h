@@ -12,7 +12,8 @@ namespace host::lisp {
 /// A text file that a program has open. It closes itself when the last value that refers to it goes.
 ///
 /// A file opened for reading is taken into memory and decoded as a whole: UTF-8 with or without byte-order mark, else
-/// Windows-1252. Line ends of both kinds count as one line feed.
+/// Windows-1252. Line ends of both kinds count as one line feed. Read as bytes, nothing is decoded and no byte is left
+/// out: a byte-order mark and carriage returns are part of the lines, so that what is not changed can be written back.
 class File : public Object
 {
 public:
@@ -22,14 +23,15 @@ public:
         Write,
         Append
     };
-    enum class ByteOrderMark : std::uint8_t
+    enum class Encoding : std::uint8_t
     {
-        No,
-        Yes
+        Text,
+        TextWithMark, ///< a new file begins with a byte-order mark
+        Bytes
     };
 
     /// Null when the file cannot be opened, or is too large or no regular file to read.
-    static std::unique_ptr<File> open(const std::string &path, Mode mode, ByteOrderMark mark);
+    static std::unique_ptr<File> open(const std::string &path, Mode mode, Encoding encoding);
 
     const std::string &path() const noexcept { return m_path; }
     bool isOpen() const noexcept { return m_open; }
@@ -43,10 +45,14 @@ public:
     void write(std::string_view text);
 
 private:
-    File(std::string path, Mode mode) : m_path(std::move(path)), m_mode(mode) {}
+    File(std::string path, Mode mode, Encoding encoding)
+        : m_path(std::move(path)), m_mode(mode), m_isBytes(encoding == Encoding::Bytes)
+    {
+    }
 
     std::string m_path;
     Mode m_mode;
+    bool m_isBytes;
     bool m_open = true;
     std::string m_text; ///< decoded content, when reading
     std::size_t m_position = 0;

@@ -11,7 +11,8 @@
 namespace host::lisp {
 
 // (open path mode [encoding]) -> the file; nil when it cannot be opened. Mode "r", "w" or "a"; another one: bad
-// argument value. Encoding "utf8-bom" begins a new file with a byte-order mark.
+// argument value. Encoding "utf8-bom" begins a new file with a byte-order mark; "bytes" reads a file without decoding
+// it and without taking carriage returns off.
 static Value open(Arguments &args)
 {
     static constexpr std::string_view modes = "rwa";
@@ -19,9 +20,11 @@ static Value open(Arguments &args)
     const std::size_t which = mode.size() == 1 ? modes.find(mode[0]) : std::string_view::npos;
     if (which == std::string_view::npos)
         args.badValue(1);
-    const bool hasMark = toLowerCase(args.stringOr(2, {})) == "utf8-bom";
-    std::unique_ptr<File> file = File::open(args.string(0), static_cast<File::Mode>(which),
-                                            hasMark ? File::ByteOrderMark::Yes : File::ByteOrderMark::No);
+    const std::string name = toLowerCase(args.stringOr(2, {}));
+    const File::Encoding encoding = name == "bytes"      ? File::Encoding::Bytes
+                                    : name == "utf8-bom" ? File::Encoding::TextWithMark
+                                                         : File::Encoding::Text;
+    std::unique_ptr<File> file = File::open(args.string(0), static_cast<File::Mode>(which), encoding);
     return file ? Value::adopt(Tag::File, file.release()) : Value();
 }
 

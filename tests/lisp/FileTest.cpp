@@ -97,6 +97,20 @@ TEST_F(Files, EncodingsAndLineEnds)
     EXPECT_EQ(get("new.txt"), "\xEF\xBB\xBFö\n");
 }
 
+// Text of any encoding, with any mixture of line ends, comes out of a program as it went in.
+TEST_F(Files, BytesAreReadAndWrittenBackAsTheyAre)
+{
+    const std::string mixed("\xEF\xBB\xBF"
+                            "a\r\n\xE4\x80\xFF\n\nä\0\r\r\nend\r\n",
+                            23);
+    put("mixed.txt", mixed);
+    bench("(setq from (open (at \"mixed.txt\") \"r\" \"bytes\") to (open (at \"copy.txt\") \"w\"))"
+          "(while (setq line (read-line from)) (write-line (strcat (substr line 1 1) (substr line 2)) to))"
+          "(close from) (close to)");
+    EXPECT_EQ(get("copy.txt"), mixed);
+    check({{"(setq f (open (at \"mixed.txt\") \"r\" \"Bytes\")) (read-char f) (read-char f) (read-char f)", "13"}});
+}
+
 TEST_F(Files, ForgottenFilesAreClosed)
 {
     bench("(write-line \"kept\" (open (at \"a.txt\") \"w\"))");
