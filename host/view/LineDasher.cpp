@@ -115,6 +115,9 @@ void LineDasher::runVisible(const Track &track, const Layout &layout, double fro
                         closesLine ? layout.last : std::min(end, layout.last), from, to, output);
             if (closesLine)
                 break;
+            // A text stands where its element ends, which may be in a gap that goes on in the next one.
+            if (!element.text.isEmpty() && end >= from && end <= to && end <= layout.last)
+                emitText(track, element, end, output);
             isFirst = false;
             at = end;
         }
@@ -124,8 +127,6 @@ void LineDasher::runVisible(const Track &track, const Layout &layout, double fro
 void LineDasher::emitElement(const Track &track, const LinePatternElement &element, double from, double to,
                              double seenFrom, double seenTo, const DashOutput &output) const
 {
-    if (!element.text.isEmpty() && from >= seenFrom && from <= seenTo)
-        emitText(track, element, from, output);
     if (element.length < 0.0 || from > seenTo || to < seenFrom || from > to)
         return;
     const double begin = std::max(from, seenFrom);
