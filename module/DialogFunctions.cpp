@@ -3,6 +3,8 @@
 #include "dialogs/breakline/Dlg_QT_Breakline.h"
 #include "dialogs/lispexplorer/Dlg_QT_LispExplorer.h"
 #include "dialogs/editalias/Dlg_QT_EditAlias.h"
+#include "dialogs/makelinestyle/Dlg_QT_MakeLineStyle.h"
+#include "dialogs/makeshape/Dlg_QT_MakeShape.h"
 #include "module/RunDialog.h"
 
 namespace ortakit {
@@ -46,6 +48,16 @@ int dlgLispExplorer()
 int dlgEditAlias()
 {
     return runDialog<Dlg_QT_EditAlias>(DialogSlot::EditAlias, {});
+}
+
+int dlgMakeLineStyle()
+{
+    return runDialog<Dlg_QT_MakeLineStyle>(DialogSlot::MakeLinetype, {});
+}
+
+int dlgMakeShape()
+{
+    return runDialog<Dlg_QT_MakeShape>(DialogSlot::MakeShape, {});
 }
 
 } // namespace ortakit

@@ -7,6 +7,8 @@ namespace ortakit {
 int dlgBreakLine();
 int dlgLispExplorer();
 int dlgEditAlias();
+int dlgMakeLineStyle();
+int dlgMakeShape();
 /// @}
 
 } // namespace ortakit

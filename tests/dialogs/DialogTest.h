@@ -7,6 +7,7 @@
 
 #include <QAbstractButton>
 #include <QLineEdit>
+#include <QTableWidget>
 #include <QTest>
 
 #include <gtest/gtest.h>
@@ -34,6 +35,19 @@ protected:
     QString text(const char *lineEdit) const { return find<QLineEdit>(lineEdit)->text(); }
     void setText(const char *lineEdit, const QString &text) { find<QLineEdit>(lineEdit)->setText(text); }
     void click(const char *button) { find<QAbstractButton>(button)->click(); }
+    /// The rows of a table, their cells with "|" between.
+    QStringList tableRows(const char *name) const
+    {
+        const auto *table = find<QTableWidget>(name);
+        QStringList rows;
+        for (int row = 0; row < table->rowCount(); ++row) {
+            QStringList cells;
+            for (int column = 0; column < table->columnCount(); ++column)
+                cells.append(table->item(row, column)->text());
+            rows.append(cells.join(u'|'));
+        }
+        return rows;
+    }
     QString focusName() const { return dialog->focusWidget() ? dialog->focusWidget()->objectName() : QString(); }
 
     /// Shows the dialog with a state file of these lines, as its Lisp function does.

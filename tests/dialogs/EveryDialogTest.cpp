@@ -3,6 +3,8 @@
 #include "dialogs/breakline/Dlg_QT_Breakline.h"
 #include "dialogs/lispexplorer/Dlg_QT_LispExplorer.h"
 #include "dialogs/editalias/Dlg_QT_EditAlias.h"
+#include "dialogs/makelinestyle/Dlg_QT_MakeLineStyle.h"
+#include "dialogs/makeshape/Dlg_QT_MakeShape.h"
 #include "tests/support/FakeHost.h"
 #include "tests/support/QtTestPrinters.h"
 
@@ -39,6 +41,8 @@ constexpr Row rows[] = {
     row<Dlg_QT_Breakline>("Breakline", "9101"),
     row<Dlg_QT_LispExplorer>("LispExplorer", "9111"),
     row<Dlg_QT_EditAlias>("EditAlias", "0"),
+    row<Dlg_QT_MakeLineStyle>("MakeLineStyle", "9110"),
+    row<Dlg_QT_MakeShape>("MakeShape", "9132"),
 };
 
 void PrintTo(const Row &row, std::ostream *out)

@@ -1,0 +1,128 @@
+#include "dialogs/makeshape/Dlg_QT_MakeShape.h"
+#include "tests/dialogs/DialogTest.h"
+
+#include <QDir>
+
+using namespace ortakit::test;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class MakeShape : public DialogTest<Dlg_QT_MakeShape>
+{
+protected:
+    QStringList rows() const { return tableRows("lstShapes"); }
+
+    QString shapes = host.writeFile(u"my.shp"_s, "*1,3,BOX\n1,16,0\n*2,2\n16,0\n");
+};
+
+TEST_F(MakeShape, ShowsWhatTheFileDefines)
+{
+    showWith(u"shapefile=%1\n"_s.arg(shapes));
+    EXPECT_EQ(rows(), (QStringList{u"1|BOX"_s, u"2|"_s}));
+    EXPECT_EQ(focusName(), u"name"_s);
+    host.writeFile(u"my.shp"_s, ";; nothing yet\n");
+    show();
+    EXPECT_EQ(rows(), QStringList());
+}
+
+TEST_F(MakeShape, NameIsChecked)
+{
+    const auto says = [](const char *text) {
+        return u"information \"Make Shape\" \"%1\" OK"_s.arg(QLatin1StringView(text));
+    };
+    const QString asks = u"question \"Make Shape\" \"Shape already exists, you want to replace it?\" Yes/No"_s;
+    const struct
+    {
+        const char *what;
+        QString file;
+        QString name;
+        QMessageBox::StandardButton answer;
+        QStringList shown;
+    } table[] = {
+        {"nothing at all", {}, {}, QMessageBox::Ok, {says("You must select a file. ")}},
+        {"no name", shapes, {}, QMessageBox::Ok, {says("You must provide a name for the shape. ")}},
+        {"a blank", shapes, u"BOX 2"_s, QMessageBox::Ok, {says("Shape names cannot include blank spaces.")}},
+        {"existing, kept", shapes, u"box"_s, QMessageBox::No, {asks}},
+        {"existing, replaced", shapes, u"bOx"_s, QMessageBox::Yes, {asks}},
+        {"new", shapes, u"BOX2"_s, QMessageBox::NoButton, {}},
+        {"any file name will do", host.path(u"new.txt"_s), u"BOX"_s, QMessageBox::NoButton, {}},
+    };
+    for (const auto &row : table) {
+        show();
+        setText("shapeFile", row.file);
+        setText("name", row.name);
+        setText("resolution", u"not a number"_s);
+        ModalAnswers answers;
+        if (row.answer != QMessageBox::NoButton)
+            answers.press(row.answer);
+        click("acceptButton");
+        EXPECT_EQ(answers.shown(), row.shown) << row.what;
+        EXPECT_EQ(isAccepted(), row.shown.isEmpty() || row.answer == QMessageBox::Yes) << row.what;
+    }
+}
+
+TEST_F(MakeShape, BrowsingStartsInTheFolderOfTheFile)
+{
+    const QString folder = host.path(u"shapes"_s);
+    ASSERT_TRUE(QDir().mkpath(folder));
+    const QString home = QDir(host.path({})).absolutePath();
+    const struct
+    {
+        const char *what;
+        QString file;
+        QString start;
+    } table[] = {
+        {"no file", {}, home},
+        {"in a folder", folder + u"/new.shp"_s, folder},
+        {"in a folder that is not there", folder + u"/missing/new.shp"_s, home},
+        {"a bare name", u"new.shp"_s, home},
+        {"in the current folder", u"./new.shp"_s, home},
+    };
+    show();
+    for (const auto &row : table) {
+        setText("shapeFile", row.file);
+        ModalAnswers answers;
+        answers.choose({});
+        click("selectfile");
+        EXPECT_EQ(answers.shown(), QStringList{u"choose \"Select shape file\" \"%1\" "
+                                               "\"Shape files (*.shp)|All files (*.*)\""_s.arg(row.start)})
+            << row.what;
+        EXPECT_EQ(text("shapeFile"), row.file) << row.what;
+    }
+    // What the file holds does not matter.
+    const QString chosen = host.writeFile(u"text.shp"_s, "no shape at all\n");
+    ModalAnswers answers;
+    answers.choose(chosen);
+    click("selectfile");
+    EXPECT_EQ(text("shapeFile"), chosen);
+    EXPECT_EQ(answers.shown().size(), 1);
+}
+
+TEST_F(MakeShape, PathsAreShownAndSavedAsTheyAre)
+{
+    for (const QString &folder : {QString(120, u'x'), u"three...dots"_s}) {
+        dialog = std::make_unique<Dlg_QT_MakeShape>(&window);
+        ASSERT_TRUE(QDir(host.path({})).mkpath(folder));
+        const QString file = host.writeFile(folder + u"/my.shp"_s, "*1,3,BOX\n");
+        showWith(u"shapefile=%1\n"_s.arg(file));
+        EXPECT_EQ(text("shapeFile"), file);
+        setText("name", u"NEW"_s);
+        setText("resolution", u" 1e2 "_s);
+        click("acceptButton");
+        EXPECT_EQ(savedState(), u"shapefile=%1\n!action!=\nname=NEW\nresolution= 1e2 \n"_s.arg(file));
+    }
+}
+
+TEST_F(MakeShape, EnterInTheFileFieldListsTheFileAndStays)
+{
+    showWith({});
+    setText("name", u"NEW"_s);
+    find("shapeFile")->setFocus();
+    setText("shapeFile", shapes);
+    QTest::keyClick(find("shapeFile"), Qt::Key_Return);
+    EXPECT_TRUE(dialog->isVisible());
+    EXPECT_EQ(rows().size(), 2);
+}
+
+} // namespace
