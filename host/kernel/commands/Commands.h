@@ -11,6 +11,7 @@ std::vector<CommandRow> drawCommands();
 std::vector<CommandRow> editCommands();
 std::vector<CommandRow> blockCommands();
 std::vector<CommandRow> layerCommands();
+std::vector<CommandRow> linetypeCommands();
 std::vector<CommandRow> fileCommands();
 std::vector<CommandRow> viewCommands();
 std::vector<CommandRow> undoCommands();
