@@ -5,7 +5,8 @@
 ;;; support/strings.lsp   splitting and trimming
 ;;; support/entities.lsp  entity data, selections, bounding boxes
 ;;; support/catalogue.lsp what the Lisp engine holds, for the Lisp Explorer
+;;; support/files.lsp     files of definitions, changed in one place
 
-(foreach file '("strings" "run" "state" "entities" "catalogue")
+(foreach file '("strings" "run" "state" "entities" "catalogue" "files")
   (load (strcat "support/" file ".lsp")))
 (princ)

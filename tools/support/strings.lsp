@@ -15,3 +15,16 @@
 ;; (kora_starts_with text beginning) -> T when text begins so, in any mix of cases.
 (defun kora_starts_with (text beginning)
   (= (strcase (substr text 1 (strlen beginning))) (strcase beginning)))
+
+;; (kora_number_text number places) -> the number in decimal with at most so many places, without zeros at its end.
+(defun kora_number_text (number places / text)
+  (setq text (rtos number 2 places))
+  (if (vl-string-search "." text)
+    (setq text (vl-string-right-trim "." (vl-string-right-trim "0" text))))
+  (cond ((= text "-0") "0") (T text)))
+
+;; (kora_string_join parts separator) -> one text.
+(defun kora_string_join (parts separator)
+  (if parts
+    (apply 'strcat (cons (car parts) (mapcar '(lambda (part) (strcat separator part)) (cdr parts))))
+    ""))

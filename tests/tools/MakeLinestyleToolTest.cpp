@@ -1,0 +1,230 @@
+#include "host/drawing/Symbols.h"
+#include "tests/support/QtTestPrinters.h"
+#include "tests/tools/ToolRun.h"
+
+#include <QDir>
+
+#include <gtest/gtest.h>
+
+using namespace tools_test;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class MakeLinestyleTool : public testing::Test
+{
+protected:
+    /// The dialog confirmed with name NEW for `file`; a question whether to replace is answered with yes.
+    static QString confirmed(const QString &file, bool isReplaced = false)
+    {
+        return u"command MAKELINESTYLE\ndialog Dlg_QT_MakeLineStyle\nfocus Linetypefile\nset Linetypefile %1\n"
+               "key Linetypefile Return\nset name new\nset description \"a, b\"\nclick acceptButton\n%2"_s.arg(
+                   file, isReplaced ? u"message already Yes\n"_s : QString());
+    }
+    /// Entities made far from the plan: "line x x", "point x" or "text x y text", measured from 100,0 along `turn`.
+    static QString drawn(const QString &entities)
+    {
+        QString session;
+        for (const QString &entity : entities.split(u"; "_s))
+            session += u"lisp (made '(%1))\n"_s.arg(entity);
+        return u"lisp (defun at (x y) (list (+ 100.0 (- (* x (cos turn)) (* y (sin turn)))) "
+               "(+ (* x (sin turn)) (* y (cos turn))) 0.0))\n"
+               "lisp (defun made (one) (entmake (cond ((= (car one) 'line) (list '(0 . \"LINE\") (cons 10 (at (cadr "
+               "one) "
+               "0)) (cons 11 (at (caddr one) 0)))) ((= (car one) 'point) (list '(0 . \"POINT\") (cons 10 (at (cadr "
+               "one) "
+               "0)))) (T (list '(0 . \"TEXT\") (cons 10 (at (cadr one) (caddr one))) '(40 . 0.25) (cons 1 (cadddr "
+               "one)) "
+               "(cons 50 turn))))))\n"_s +
+               session;
+    }
+    /// The pattern picked, and the points where it starts and repeats.
+    static QString picked(const QString &start, const QString &end)
+    {
+        return u"window 90,-20 120,20\nenter\npoint %1\npoint %2\n"_s.arg(start, end);
+    }
+
+    ToolRun run;
+    QString plan = ToolRun::sample(u"plan.dxf"_s);
+    QString file = run.path(u"my.lin"_s);
+};
+
+TEST_F(MakeLinestyleTool, SampleSessionMakesALinetypeThatIsDrawn)
+{
+    const RunOutcome outcome = run.playFile(ToolRun::sample(u"sessions/makelinestyle.session"_s), plan);
+    ASSERT_EQ(outcome.status, 0) << outcome.output.toStdString();
+    EXPECT_EQ(ToolRun::readFile(run.path(u"home/pipes.lin"_s)),
+              "*GAS,Gas pipe ---- GAS . ---- GAS .\nA,1,-1.2,[\"GAS\",Standard,S=0.2,R=0,X=-1,Y=-0.1],0,-0.3\n");
+    EXPECT_EQ(differences(plan, run.result(plan)),
+              (QStringList{u"+LINE"_s, u"+LINE"_s, u"+LTYPE"_s, u"+POINT"_s, u"+TEXT"_s, u"~$HANDSEED"_s}));
+    EXPECT_TRUE(isSound(run.result(plan)));
+}
+
+TEST_F(MakeLinestyleTool, MeasuresThePattern)
+{
+    const struct
+    {
+        const char *what;
+        const char *entities;
+        QString turn; ///< of the direction
+        const char *end;
+        QByteArray pattern;
+    } rows[] = {
+        {"dash and gap", "line 0.0 1.0", u"0.0"_s, "101.5,0", "A,1,-0.5"},
+        {"drawn from the other side", "line 1.0 0.0", u"0.0"_s, "101.5,0", "A,1,-0.5"},
+        {"dots", "line 0.0 1.0; point 1.25; point 1.5", u"0.0"_s, "102,0", "A,1,-0.25,0,-0.25,0,-0.5"},
+        {"a dot at the end is the first one", "point 2.0; line 0.5 1.0", u"0.0"_s, "102,0", "A,0,-0.5,0.5,-1"},
+        {"a gap at the start goes to the end", "line 0.5 1.0", u"0.0"_s, "101.5,0", "A,0.5,-1"},
+        {"also with a dash at the end", "line 0.5 1.0; line 1.5 2.0", u"0.0"_s, "102,0", "A,0.5,-0.5,0.5,-0.5"},
+        {"overlapping and touching lines", "line 0.0 1.0; line 0.5 1.5; line 1.5 2.0; point 0.7", u"0.0"_s, "103,0",
+         "A,2,-1"},
+        {"lines that stick out are cut", "line -1.0 1.0; line 2.0 9.0", u"0.0"_s, "103,0", "A,1,-1,1"},
+        {"upwards", "line 0.0 1.0; text 1.5 -0.125 \"UP\"", u"(/ pi 2)"_s, "100,3",
+         "A,1,-2,[\"UP\",Standard,S=0.25,R=0,X=-1.5,Y=-0.125]"},
+        {"two texts in a gap", "line 0.0 1.0; text 1.5 0.0 \"A\"; text 2.5 0.5 \"B,]\"", u"0.0"_s, "104,0",
+         "A,1,-1.5,[\"A\",Standard,S=0.25,R=0,X=-1,Y=0],-1.5,[\"B,]\",Standard,S=0.25,R=0,X=-1.5,Y=0.5]"},
+        {"a text on a full line", "line 0.0 2.0; text 0.5 0.0 \"X\"", u"0.0"_s, "102,0",
+         "A,2,[\"X\",Standard,S=0.25,R=0,X=-1.5,Y=0]"},
+        {"a text in the gap that moved", "line 0.5 1.0; text 0.25 0.0 \"X\"", u"0.0"_s, "101,0",
+         "A,0.5,-0.5,[\"X\",Standard,S=0.25,R=0,X=-0.25,Y=0]"},
+    };
+    for (const auto &row : rows) {
+        QFile::remove(file);
+        const RunOutcome outcome =
+            run.play(u"lisp (setq turn %1)\n"_s.arg(row.turn) + drawn(QLatin1StringView(row.entities)) +
+                         confirmed(file) + picked(u"100,0"_s, QLatin1StringView(row.end)) +
+                         u"expect-lisp (= (cdr (assoc 3 (tblsearch \"LTYPE\" \"new\"))) \"a, b\")\n"_s,
+                     plan);
+        ASSERT_EQ(outcome.status, 0) << row.what << ": " << outcome.output.toStdString();
+        EXPECT_EQ(ToolRun::readFile(file), "*NEW,a, b\n" + row.pattern + '\n') << row.what;
+        EXPECT_TRUE(isSound(run.result(plan))) << row.what;
+    }
+}
+
+TEST_F(MakeLinestyleTool, WhatIsNoPatternIsSaidAndNothingIsWritten)
+{
+    const struct
+    {
+        const char *what;
+        const char *entities;
+        QString answers;
+        QString message;
+    } rows[] = {
+        {"only a text", "text 0.5 0.0 \"X\"", picked(u"100,0"_s, u"102,0"_s),
+         u"The pattern needs a line or a point."_s},
+        {"one full line", "line 0.0 2.0", picked(u"100,0"_s, u"102,0"_s), u"The pattern needs a gap or a text."_s},
+        {"no length", "line 0.0 2.0", picked(u"100,0"_s, u"100,0"_s), u"The pattern has no length."_s},
+        {"beside the direction", "line 0.0 2.0", picked(u"100,0"_s, u"100,3"_s),
+         u"beside the direction was left out"_s},
+        {"quotation mark", "line 0.0 1.0; text 1.1 0.0 \"2\\\"\"", picked(u"100,0"_s, u"102,0"_s),
+         u"A text with quotation marks cannot be in a linetype."_s},
+        {"texts in one place", "line 0.0 1.0; text 1.1 0.0 \"A\"; text 1.1 1.0 \"B\"", picked(u"100,0"_s, u"102,0"_s),
+         u"Two texts start at the same place."_s},
+        {"too many", "point 0.1; point 0.2; point 0.3; point 0.4; point 0.5; point 0.6; point 0.7",
+         picked(u"100,0"_s, u"102,0"_s), u"more than the 12 elements"_s},
+        {"nothing picked", "line 0.0 1.0", u"enter\n"_s, u"Select lines"_s},
+        {"cancelled at the selection", "line 0.0 1.0", u"cancel\n"_s, u"Select lines"_s},
+        {"cancelled at the end", "line 0.0 1.0", u"window 90,-20 120,20\nenter\npoint 100,0\ncancel\n"_s,
+         u"Specify point where the pattern repeats"_s},
+    };
+    for (const auto &row : rows) {
+        const RunOutcome outcome = run.play(
+            u"lisp (setq turn 0.0)\n"_s + drawn(QLatin1StringView(row.entities)) + confirmed(file) + row.answers +
+                u"expect-printed %1\nexpect-lisp (null (tblsearch \"LTYPE\" \"NEW\"))\n"_s.arg(row.message),
+            plan);
+        EXPECT_EQ(outcome.status, 0) << row.what << ": " << outcome.output.toStdString();
+        EXPECT_FALSE(QFile::exists(file)) << row.what;
+    }
+}
+
+TEST_F(MakeLinestyleTool, OnlyTheDefinitionChangesInTheFile)
+{
+    const QByteArray definition = "*NEW,a, b\nA,1,-0.5\n";
+    const QByteArray windows = "*NEW,a, b\r\nA,1,-0.5\r\n";
+    const struct
+    {
+        const char *what;
+        QByteArray before;
+        QByteArray after;
+        bool isReplaced;
+    } rows[] = {
+        {"empty", "", definition, false},
+        {"behind the others", "*A,x\nA,2,-1\n", "*A,x\nA,2,-1\n" + definition, false},
+        {"no line feed at the end", "*A,x\nA,2,-1", "*A,x\nA,2,-1\n" + definition, false},
+        {"the only one", "*New,x\nA,2,-1\n", definition, true},
+        {"between others, with comments",
+         "*A,x\nA,2\n\n;; new\n*nEW,old\n;; its own\nA,3,-1\n\n;; last\n*NEWER,z\nA,4,-1\n\n",
+         "*A,x\nA,2\n\n;; new\n" + definition + "\n;; last\n*NEWER,z\nA,4,-1\n\n", true},
+        {"Windows lines", "*A,x\r\nA,2\r\n*NEW\r\nA,3,-1\r\n*Z,z\r\nA,4,-1",
+         "*A,x\r\nA,2\r\n" + windows + "*Z,z\r\nA,4,-1", true},
+        {"Windows lines, behind the others", "*A,x\r\nA,2,-1\r\n", "*A,x\r\nA,2,-1\r\n" + windows, false},
+        {"letters of a code page and odd line ends",
+         "*W\xC4NDE,\xE4\x80\xFF\tx \nA,1,-1\r\n\n*NEW,\xFC\nA,1\n\xA0\xC3*\n",
+         "*W\xC4NDE,\xE4\x80\xFF\tx \nA,1,-1\r\n\n" + definition, true},
+        {"a byte-order mark", "\xEF\xBB\xBF*NEW,x\nA,9,-1\n*B,\xC3\xA4\nA,1,-1\n",
+         "\xEF\xBB\xBF" + definition + "*B,\xC3\xA4\nA,1,-1\n", true},
+    };
+    for (const auto &row : rows) {
+        run.writeFile(u"my.lin"_s, row.before);
+        const RunOutcome outcome = run.play(u"lisp (setq turn 0.0)\n"_s + drawn(u"line 0.0 1.0"_s) +
+                                                confirmed(file, row.isReplaced) + picked(u"100,0"_s, u"101.5,0"_s),
+                                            plan);
+        ASSERT_EQ(outcome.status, 0) << row.what << ": " << outcome.output.toStdString();
+        EXPECT_EQ(ToolRun::readFile(file), row.after) << row.what;
+        EXPECT_EQ(QDir(run.path({})).entryList({u"my*"_s}), QStringList{u"my.lin"_s}) << "nothing is left beside it";
+    }
+}
+
+TEST_F(MakeLinestyleTool, AFileThatCannotTakeItStaysAsItWas)
+{
+    const QByteArray twoByte("\xFF\xFE*\0A\0,\0b\0\n\0", 12);
+    const struct
+    {
+        QString name;
+        QByteArray bytes; ///< null: there is no such file
+        QString message;
+    } rows[] = {
+        {u"missing/my.lin"_s, {}, u"cannot be written"_s},
+        {u"letter.lin"_s, "Dear reader,\n", u"does not look like a file of definitions"_s},
+        {u"two.lin"_s, twoByte, u"does not look like a file of definitions"_s},
+    };
+    for (const auto &row : rows) {
+        if (!row.bytes.isNull())
+            run.writeFile(row.name, row.bytes);
+        const RunOutcome outcome =
+            run.play(u"lisp (setq turn 0.0)\n"_s + drawn(u"line 0.0 1.0"_s) + confirmed(run.path(row.name)) +
+                         picked(u"100,0"_s, u"101.5,0"_s) +
+                         u"expect-printed %1\nexpect-lisp (null (tblsearch \"LTYPE\" \"NEW\"))\n"_s.arg(row.message),
+                     plan);
+        EXPECT_EQ(outcome.status, 0) << row.name.toStdString() << outcome.output.toStdString();
+        EXPECT_EQ(ToolRun::readFile(run.path(row.name)), row.bytes) << row.name.toStdString();
+    }
+}
+
+// A linetype of that name that the drawing has is replaced; one undo brings the old one back.
+TEST_F(MakeLinestyleTool, IsOneUndoStep)
+{
+    const QString length = u"expect-lisp (equal (cdr (assoc 40 (tblsearch \"LTYPE\" \"NEW\"))) %1 1e-9)\n"_s;
+    const RunOutcome outcome =
+        run.play(u"lisp (setq turn 0.0)\n"_s + drawn(u"line 0.0 1.0; text 1.1 0.0 \"X\""_s) + confirmed(file) +
+                     picked(u"100,0"_s, u"102,0"_s) + length.arg(2.0) + confirmed(file, true) +
+                     picked(u"100,0"_s, u"103,0"_s) + length.arg(3.0) + u"undo\n"_s + length.arg(2.0) +
+                     u"undo\nexpect-lisp (null (tblsearch \"LTYPE\" \"NEW\"))\nredo\n"_s + length.arg(2.0),
+                 plan);
+    EXPECT_EQ(outcome.status, 0) << outcome.output.toStdString();
+}
+
+TEST_F(MakeLinestyleTool, CancellingTheDialogAndBadNamesChangeNothing)
+{
+    const RunOutcome outcome =
+        run.play(u"command MAKELINESTYLE\ndialog Dlg_QT_MakeLineStyle\nset name x\nclick ButtonCancel\n"
+                 "command MAKELINESTYLE\ndialog Dlg_QT_MakeLineStyle\nset Linetypefile %1\nset name a,b\n"
+                 "click acceptButton\nexpect-printed A linetype cannot be named A,B.\n"
+                 "command MAKELINESTYLE\ndialog Dlg_QT_MakeLineStyle\nset name ByLayer\nclick acceptButton\n"
+                 "expect-printed A linetype cannot be named BYLAYER.\nexpect-modified no\n"_s.arg(file),
+                 plan);
+    EXPECT_EQ(outcome.status, 0) << outcome.output.toStdString();
+    EXPECT_FALSE(QFile::exists(file));
+}
+
+} // namespace

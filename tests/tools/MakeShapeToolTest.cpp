@@ -1,0 +1,383 @@
+#include "tests/support/QtTestPrinters.h"
+#include "tests/tools/ToolRun.h"
+
+#include <QDir>
+
+#include <cmath>
+#include <gtest/gtest.h>
+
+using namespace tools_test;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct Point
+{
+    double x = 0;
+    double y = 0;
+};
+
+double distance(Point a, Point b)
+{
+    return std::hypot(a.x - b.x, a.y - b.y);
+}
+
+/// A line, or with a bulge (the tangent of a quarter of its angle) an arc.
+struct Stroke
+{
+    Point from;
+    Point to;
+    double bulge = 0;
+};
+
+/// Points along strokes, so close together that their distances say how far two drawings are apart.
+std::vector<Point> sampled(const std::vector<Stroke> &strokes)
+{
+    constexpr int count = 200;
+    std::vector<Point> points;
+    for (const Stroke &stroke : strokes) {
+        const Point run{stroke.to.x - stroke.from.x, stroke.to.y - stroke.from.y};
+        for (int i = 0; i <= count; ++i) {
+            const double t = double(i) / count;
+            // On the arc through both ends: the angle at the chord's start grows evenly with the way.
+            const double half = 2 * std::atan(stroke.bulge);
+            const double chord = half == 0 ? t : std::sin(half * t) / std::sin(half);
+            const double turn = half * (t - 1);
+            points.push_back({stroke.from.x + chord * (run.x * std::cos(turn) - run.y * std::sin(turn)),
+                              stroke.from.y + chord * (run.x * std::sin(turn) + run.y * std::cos(turn))});
+        }
+    }
+    return points;
+}
+
+/// How far the farthest of `points` is from all of `others`.
+double farthest(const std::vector<Point> &points, const std::vector<Point> &others)
+{
+    double most = 0;
+    for (const Point point : points) {
+        double least = HUGE_VAL;
+        for (const Point other : others)
+            least = std::min(least, distance(point, other));
+        most = std::max(most, least);
+    }
+    return most;
+}
+
+/// A shape of a source file.
+struct Shape
+{
+    QList<QByteArray> header; ///< number, count, name
+    QList<int> bytes;
+};
+
+/// The shapes of a source, read with no help of the tool.
+QList<Shape> shapesOf(const QByteArray &source)
+{
+    QList<Shape> shapes;
+    for (const QByteArray &line : source.split('\n')) {
+        EXPECT_LE(line.size(), 128);
+        if (line.startsWith('*'))
+            shapes.append({line.mid(1).trimmed().split(','), {}});
+        else if (!line.startsWith(';') && !shapes.isEmpty())
+            for (const QByteArray &byte : line.split(','))
+                if (!byte.trimmed().isEmpty())
+                    shapes.last().bytes.append(byte.toInt());
+    }
+    return shapes;
+}
+
+/// What the bytes of a shape draw at size 1.
+class Plotter
+{
+public:
+    explicit Plotter(const QList<int> &bytes) : m_bytes(bytes)
+    {
+        while (m_next < m_bytes.size() - 1)
+            step(take());
+        EXPECT_EQ(take(), 0) << "the end";
+        EXPECT_EQ(m_scale, 1.0) << "what is scaled is scaled back";
+    }
+
+    std::vector<Stroke> strokes;
+
+private:
+    int take()
+    {
+        const int byte = m_bytes.value(m_next++);
+        EXPECT_TRUE(byte >= -127 && byte <= 255) << byte;
+        return byte;
+    }
+    void go(double x, double y, double bulge = 0)
+    {
+        const Point to{m_at.x + x * m_scale, m_at.y + y * m_scale};
+        if (m_isDown)
+            strokes.push_back({m_at, to, bulge});
+        m_at = to;
+    }
+    void circle(double radius)
+    {
+        go(-2 * radius, 0, 1);
+        go(2 * radius, 0, 1);
+    }
+    void step(int code)
+    {
+        static const double sides[] = {1, 1, 1, 0.5, 0, -0.5, -1, -1, -1, -1, -1, -0.5, 0, 0.5, 1, 1};
+        switch (code) {
+        case 1:
+        case 2:
+            m_isDown = code == 1;
+            return;
+        case 3:
+            m_scale /= take();
+            return;
+        case 4:
+            m_scale *= take();
+            return;
+        case 8:
+        case 12: {
+            const int x = take();
+            const int y = take();
+            return go(x, y, code == 12 ? take() / 127.0 : 0);
+        }
+        case 9:
+            for (;;) {
+                const int x = take();
+                const int y = take();
+                if (x == 0 && y == 0)
+                    return;
+                go(x, y);
+            }
+        case 10: {
+            const int radius = take();
+            EXPECT_EQ(take(), 0) << "all octants from the right";
+            return circle(radius);
+        }
+        default:
+            EXPECT_GE(code, 16) << "no code of a shape";
+            go(sides[code % 16] * (code / 16), sides[(code + 12) % 16] * (code / 16));
+        }
+    }
+
+    QList<int> m_bytes;
+    qsizetype m_next = 0;
+    Point m_at;
+    bool m_isDown = true;
+    double m_scale = 1;
+};
+
+class MakeShapeTool : public testing::Test
+{
+protected:
+    static QString confirmed(const QString &file, const QString &resolution, const QString &name = u"new"_s,
+                             bool isReplaced = false)
+    {
+        return u"command MAKESHAPE\ndialog Dlg_QT_MakeShape\nset shapeFile %1\nset name %2\nset resolution \"%3\"\n"
+               "click acceptButton\n%4"_s.arg(file, name, resolution,
+                                              isReplaced ? u"message already Yes\n"_s : QString());
+    }
+    static QString picked(const QString &base) { return u"window 90,-20 140,30\nenter\npoint %1\n"_s.arg(base); }
+
+    ToolRun run;
+    QString plan = ToolRun::sample(u"plan.dxf"_s);
+    QString file = run.path(u"my.shp"_s);
+    const QString line = u"lisp (entmake '((0 . \"LINE\") (10 100.0 0.0 0.0) (11 110.0 0.0 0.0)))\n"_s;
+};
+
+TEST_F(MakeShapeTool, TheBytesDrawWhatWasPicked)
+{
+    const double quarter = std::tan(M_PI / 8);
+    const struct
+    {
+        const char *what;
+        const char *entities; ///< drawn around 100,0
+        std::vector<Stroke> strokes;
+        QString base;
+        double size; ///< of the longer side
+    } rows[] = {
+        {"a line",
+         "(made '((0 . \"LINE\") (10 100.0 0.0 0.0) (11 110.0 5.0 0.0)))",
+         {{{0, 0}, {10, 5}}},
+         u"100,0"_s,
+         10},
+        {"in all directions",
+         "(foreach x '(-9.0 -7.0 -3.0 0.0 2.0 6.0 9.0) (foreach y '(-9.0 0.0 5.0 9.0) (made (list '(0 . \"LINE\") "
+         "'(10 110.0 0.0 0.0) (list 11 (+ 110.0 x) y 0.0)))))",
+         [] {
+             std::vector<Stroke> rays;
+             for (const double x : {-9, -7, -3, 0, 2, 6, 9})
+                 for (const double y : {-9, 0, 5, 9})
+                     rays.push_back({{10, 0}, {10 + x, y}});
+             return rays;
+         }(),
+         u"100,0"_s, 18},
+        {"an arc of three quarters",
+         "(made (list '(0 . \"ARC\") '(10 110.0 0.0 0.0) '(40 . 8.0) '(50 . 0.0) (cons 51 (* 1.5 pi))))",
+         {{{18, 0}, {10, 8}, quarter}, {{10, 8}, {2, 0}, quarter}, {{2, 0}, {10, -8}, quarter}},
+         u"100,0"_s,
+         16},
+        {"a circle",
+         "(made '((0 . \"CIRCLE\") (10 110.0 0.0 0.0) (40 . 8.0)))",
+         {{{18, 0}, {2, 0}, 1}, {{2, 0}, {18, 0}, 1}},
+         u"110,0"_s,
+         16},
+        {"a closed polyline with bulges to both sides",
+         "(made '((0 . \"LWPOLYLINE\") (100 . \"AcDbEntity\") (100 . \"AcDbPolyline\") (90 . 3) (70 . 1) (10 100.0 "
+         "0.0) "
+         "(42 . 0.5) (10 110.0 0.0) (42 . -0.3) (10 105.0 9.0) (42 . 1.5)))",
+         {{{0, 0}, {10, 0}, 0.5}, {{10, 0}, {5, 9}, -0.3}, {{5, 9}, {0, 0}, 1.5}},
+         u"100,0"_s,
+         0},
+        {"the pen is lifted, and lines are turned round",
+         "(foreach x '(0.0 3.0 7.0) (made (list '(0 . \"LINE\") (list 10 (+ 100.0 x) 0.0 0.0) (list 11 (+ 100.0 x) "
+         "10.0 "
+         "0.0))))",
+         {{{0, 0}, {0, 10}}, {{3, 0}, {3, 10}}, {{7, 0}, {7, 10}}},
+         u"105,5"_s,
+         10},
+    };
+    for (const auto &row : rows) {
+        for (const int resolution : {12, 100, 255}) {
+            SCOPED_TRACE(std::string(row.what) + ", " + std::to_string(resolution));
+            QFile::remove(file);
+            const RunOutcome outcome =
+                run.play(u"lisp (defun made (data) (if (not (entmake data)) (exit)))\nlisp %1\n"_s.arg(
+                             QLatin1StringView(row.entities)) +
+                             confirmed(file, QString::number(resolution)) + picked(row.base) +
+                             u"expect-printed Shape NEW, number 1,\n"_s,
+                         plan);
+            ASSERT_EQ(outcome.status, 0) << outcome.output.toStdString();
+            const QList<Shape> shapes = shapesOf(ToolRun::readFile(file));
+            ASSERT_EQ(shapes.size(), 1);
+            EXPECT_EQ(shapes[0].header, (QList<QByteArray>{"1", QByteArray::number(shapes[0].bytes.size()), "NEW"}));
+            EXPECT_LE(shapes[0].bytes.size(), 2000);
+
+            std::vector<Point> expected = sampled(row.strokes);
+            double size = row.size;
+            if (size == 0) { // as wide or high as its arcs reach
+                const auto [left, right] = std::ranges::minmax(expected, {}, &Point::x);
+                const auto [low, high] = std::ranges::minmax(expected, {}, &Point::y);
+                size = std::max(right.x - left.x, high.y - low.y);
+            }
+            const double baseX = row.base.section(u',', 0, 0).toDouble() - 100;
+            const double baseY = row.base.section(u',', 1, 1).toDouble();
+            for (Point &point : expected)
+                point = {(point.x - baseX) / size, (point.y - baseY) / size};
+            const std::vector<Point> drawn = sampled(Plotter(shapes[0].bytes).strokes);
+            // An end lies off by up to 0.71 steps, an arc's middle by a quarter of a step more.
+            const double tolerance = 1.0 / resolution + 0.01;
+            EXPECT_LE(farthest(expected, drawn), tolerance);
+            EXPECT_LE(farthest(drawn, expected), tolerance);
+        }
+    }
+}
+
+TEST_F(MakeShapeTool, SampleSessionMakesAShapeAndLeavesTheDrawing)
+{
+    const RunOutcome outcome = run.playFile(ToolRun::sample(u"sessions/makeshape.session"_s), plan);
+    ASSERT_EQ(outcome.status, 0) << outcome.output.toStdString();
+    const QList<Shape> shapes = shapesOf(ToolRun::readFile(run.path(u"home/plan.shp"_s)));
+    ASSERT_EQ(shapes.size(), 1);
+    EXPECT_EQ(shapes[0].header, (QList<QByteArray>{"1", QByteArray::number(shapes[0].bytes.size()), "DOOR"}));
+    EXPECT_FALSE(QFile::exists(run.result(plan)));
+}
+
+TEST_F(MakeShapeTool, NumbersAndReplacesInFilesThatAreThere)
+{
+    const struct
+    {
+        const char *what;
+        QByteArray before;
+        QByteArray after; ///< with the definition's own lines as %
+        QString name;
+        QByteArray number;
+        bool isReplaced;
+    } rows[] = {
+        {"new file", "", "%", u"new"_s, "1", false},
+        {"first free number", ";; mine\n*1,2,A\n16,0\n\n*3,2,C\n16,0\n", ";; mine\n*1,2,A\n16,0\n\n*3,2,C\n16,0\n%",
+         u"new"_s, "2", false},
+        {"hexadecimal ones count", "*01,2,A\n16,0\n*002,2,B\n16,0\n", "*01,2,A\n16,0\n*002,2,B\n16,0\n%", u"new"_s, "3",
+         false},
+        {"replaced, its number stays", "*1,2,A\n16,0\n*07,2,New\n1,\n16,0\n\n;; c\n*9,2,C\n16,0",
+         "*1,2,A\n16,0\n%\n;; c\n*9,2,C\n16,0", u"nEw"_s, "07", true},
+    };
+    for (const auto &row : rows) {
+        run.writeFile(u"my.shp"_s, row.before);
+        const RunOutcome outcome =
+            run.play(line + confirmed(file, u"10"_s, row.name, row.isReplaced) + picked(u"100,0"_s), plan);
+        ASSERT_EQ(outcome.status, 0) << row.what << outcome.output.toStdString();
+        QByteArray expected = row.after;
+        expected.replace("%", "*" + row.number + ",6,NEW\n3,10,160,4,10,0\n");
+        EXPECT_EQ(ToolRun::readFile(file), expected) << row.what;
+    }
+}
+
+TEST_F(MakeShapeTool, WhatCannotBeAShapeIsSaidAndNothingIsWritten)
+{
+    const QString manyLines =
+        u"lisp (repeat 1200 (entmake (list '(0 . \"LINE\") (list 10 (+ 100.0 (setq x (+ (if x x 0.0) "
+        "0.02))) (* 10.0 (abs (sin (* 37 x)))) 0.0) (list 11 (+ 100.01 x) 0.0 0.0))))\n"_s;
+    QByteArray full;
+    for (int number = 1; number <= 255; ++number)
+        full += "*" + QByteArray::number(number) + ",2,N" + QByteArray::number(number) + "\n16,0\n";
+    const struct
+    {
+        const char *what;
+        QString drawn;
+        QString resolution;
+        QString name;
+        QByteArray before;
+        QString answers;
+        QString message;
+    } rows[] = {
+        {"no number", line, u"fine"_s, u"new"_s, {}, {}, u"The resolution must be a whole number from 1 to 255."_s},
+        {"nothing fits", line, u"0"_s, u"new"_s, {}, {}, u"The resolution must be"_s},
+        {"too fine", line, u"256"_s, u"new"_s, {}, {}, u"The resolution must be"_s},
+        {"no whole number", line, u"1.5"_s, u"new"_s, {}, {}, u"The resolution must be"_s},
+        {"bad name", line, u"10"_s, u"a,b"_s, {}, {}, u"A shape cannot be named A,B."_s},
+        {"a name in other letters", line, u"10"_s, u"tür"_s, {}, {}, u"A shape cannot be named TÜR."_s},
+        {"too many bytes", manyLines, u"255"_s, u"new"_s, {}, picked(u"100,0"_s), u"2000 are the most"_s},
+        {"far away", line, u"10"_s, u"new"_s, {}, picked(u"99999,0"_s), u"The insertion point is too far away"_s},
+        {"no free number", line, u"10"_s, u"new"_s, full, picked(u"100,0"_s), u"The file has no free number left"_s},
+        {"a font", line, u"10"_s, u"new"_s, "*0,4,txt\n6,2,0,0\n", picked(u"100,0"_s), u"is a text font"_s},
+        {"no shape source", line, u"10"_s, u"new"_s, "Dear reader,\n", picked(u"100,0"_s),
+         u"does not look like a file of definitions"_s},
+        {"cancelled at the selection", line, u"10"_s, u"new"_s, {}, u"cancel\n"_s, u"Select lines"_s},
+        {"cancelled at the point",
+         line,
+         u"10"_s,
+         u"new"_s,
+         {},
+         u"window 90,-20 140,30\nenter\ncancel\n"_s,
+         u"Specify insertion point"_s},
+    };
+    for (const auto &row : rows) {
+        QFile::remove(file);
+        if (!row.before.isNull())
+            run.writeFile(u"my.shp"_s, row.before);
+        const RunOutcome outcome = run.play(row.drawn + confirmed(file, row.resolution, row.name) + row.answers +
+                                                u"expect-printed %1\n"_s.arg(row.message),
+                                            plan);
+        EXPECT_EQ(outcome.status, 0) << row.what << ": " << outcome.output.toStdString();
+        EXPECT_EQ(ToolRun::readFile(file), row.before) << row.what;
+        EXPECT_EQ(QFile::exists(file), !row.before.isNull()) << row.what;
+    }
+}
+
+// A real source of megabytes: one shape comes in, every other byte stays. It is a font, so its first header is made one
+// of a shape.
+TEST_F(MakeShapeTool, LargeSourcesStayAsTheyAre)
+{
+    const QString corpus = qEnvironmentVariable("ORTAKIT_CORPUS");
+    QByteArray source = ToolRun::readFile(corpus + u"/../fonts/azomix.shp"_s);
+    if (corpus.isEmpty() || source.isEmpty())
+        GTEST_SKIP() << "ORTAKIT_CORPUS names no folder of drawings with fonts beside it";
+    source.replace("*UNIFONT,6,azomix", "*254,6,SIGN");
+    source.truncate(source.size() - 1);
+    run.writeFile(u"my.shp"_s, source);
+    const RunOutcome outcome = run.play(line + confirmed(file, u"10"_s) + picked(u"100,0"_s), plan);
+    ASSERT_EQ(outcome.status, 0) << outcome.output.toStdString();
+    const bool endsInLineFeed = source.endsWith('\n');
+    EXPECT_TRUE(ToolRun::readFile(file) == source + (endsInLineFeed ? "" : "\n") + "*1,6,NEW\n3,10,160,4,10,0\n");
+}
+
+} // namespace
