@@ -1,0 +1,24 @@
+// Any bytes as a linetype source that is loaded into a drawing: every definition comes in or says why not, and what
+// came in is what it said.
+
+#include "host/drawing/LinetypeSource.h"
+#include "host/drawing/NewDrawing.h"
+#include "host/drawing/Symbols.h"
+
+#include <cstdlib>
+
+using namespace host::drawing;
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
+{
+    const auto drawing = newDrawing();
+    const QByteArray text(reinterpret_cast<const char *>(data), qsizetype(size));
+    for (const LinetypeDefinition &definition : readLinetypeSource(text)) {
+        if (!loadLinetype(*drawing, definition).isEmpty())
+            continue;
+        const std::optional<Linetype> loaded = findLinetype(*drawing, definition.name);
+        if (!loaded || loaded->dashes.size() != definition.dashes.size())
+            std::abort();
+    }
+    return 0;
+}
