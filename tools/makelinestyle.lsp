@@ -24,9 +24,7 @@
             name  (strcase (kora_state_value state "name")))
       (if (and (snvalid name) (not (member name '("BYLAYER" "BYBLOCK" "CONTINUOUS"))))
         (list (kora_state_value state "linetypefile") name (kora_state_value state "description"))
-        (makelinestyle:refuse (strcat "A linetype cannot be named " name "."))))))
-
-(defun makelinestyle:refuse (text) (kora_alert_message text) nil)
+        (kora_refuse (strcat "A linetype cannot be named " name "."))))))
 
 ;; -> the lines of the definition, nil when the user gave up or there is no pattern in what was picked.
 (defun makelinestyle:measure (choice / selection start end axis parts texts)
@@ -40,7 +38,7 @@
             start (list (car start) (cadr start))
             end   (list (car end) (cadr end)))
       (if (< (distance start end) 1e-9)
-        (makelinestyle:refuse "The pattern has no length.")
+        (kora_refuse "The pattern has no length.")
         (progn
           (setq axis (list start (angle start end) (distance start end)))
           (foreach entity (kora_selection_to_list selection)
@@ -89,11 +87,11 @@
         elements (makelinestyle:with_texts (makelinestyle:rotated elements) texts)
         problem  (makelinestyle:problem elements texts))
   (if problem
-    (makelinestyle:refuse problem)
+    (kora_refuse problem)
     (progn
       (setq pattern (strcat "A," (kora_string_join (mapcar 'makelinestyle:element_text elements) ",")))
       (if (> (strlen pattern) 280)
-        (makelinestyle:refuse "The pattern needs more than the 280 letters that a definition can have.")
+        (kora_refuse "The pattern needs more than the 280 letters that a definition can have.")
         (list (strcat "*" (cadr choice) "," (caddr choice)) pattern)))))
 
 ;; What keeps the elements from being a linetype; nil when nothing does.

@@ -15,8 +15,6 @@
     (makeshape:write choice shape))
   (kora_end))
 
-(defun makeshape:refuse (text) (kora_alert_message text) nil)
-
 ;; -> (file name resolution), nil when the user gave up or what was entered cannot be used.
 (defun makeshape:ask (file / state name text resolution)
   (if (Dlg_MakeShape file)
@@ -26,21 +24,21 @@
             text       (kora_string_trim (kora_state_value state "resolution"))
             resolution (if (= text "") 128.0 (distof text 2)))
       (cond
-        ((not (and (snvalid name) (kora:is_ascii name)))
-         (makeshape:refuse (strcat "A shape cannot be named " name ".")))
+        ((not (and (snvalid name) (makeshape:is_ascii name)))
+         (kora_refuse (strcat "A shape cannot be named " name ".")))
         ((or (null resolution) (/= resolution (fix resolution)) (not (<= 1 resolution 255)))
-         (makeshape:refuse "The resolution must be a whole number from 1 to 255."))
+         (kora_refuse "The resolution must be a whole number from 1 to 255."))
         (T (list (kora_state_value state "shapefile") name (fix resolution)))))))
 
 ;; Shape names are read by programs that know no other letters.
-(defun kora:is_ascii (text)
+(defun makeshape:is_ascii (text)
   (not (vl-some '(lambda (code) (> code 126)) (vl-string->list text))))
 
 ;; -> the bytes of the shape, nil when the user gave up or what was picked cannot be a shape.
 (defun makeshape:pick (choice / selection base pieces box size)
   (princ "\nSelect lines, arcs, circles and polylines: ")
   (if (and (setq selection (ssget '((0 . "LINE,ARC,CIRCLE,LWPOLYLINE"))))
-           (or (<= (sslength selection) 2000) (makeshape:refuse "A shape cannot have so many parts."))
+           (or (<= (sslength selection) 2000) (kora_refuse "A shape cannot have so many parts."))
            (setq base (getPointOrtakit "\nSpecify insertion point of the shape: ")))
     (progn
       (setq pieces (apply 'append (mapcar 'makeshape:pieces (kora_selection_to_list selection)))
@@ -48,10 +46,10 @@
             size   (if box (apply 'max (mapcar '- (cadr box) (car box))) 0.0)
             base   (trans base 1 0))
       (cond
-        ((< size 1e-9) (makeshape:refuse "What was picked has no extent."))
-        ((> (length pieces) 2000) (makeshape:refuse "A shape cannot have so many parts."))
+        ((< size 1e-9) (kora_refuse "What was picked has no extent."))
+        ((> (length pieces) 2000) (kora_refuse "A shape cannot have so many parts."))
         ((> (apply 'max (mapcar '(lambda (corner) (distance (makeshape:flat base) corner)) box)) (* 20 size))
-         (makeshape:refuse "The insertion point is too far away from what was picked."))
+         (kora_refuse "The insertion point is too far away from what was picked."))
         (T (makeshape:encode
              (mapcar '(lambda (piece) (makeshape:in_steps piece base (/ (caddr choice) size))) pieces)
              (caddr choice)))))))
@@ -139,7 +137,7 @@
   (setq codes (append (list 3 resolution) (makeshape:drawn pieces) (list 4 resolution 0)))
   (if (<= (length codes) 2000)
     codes
-    (makeshape:refuse (strcat "The shape needs " (itoa (length codes)) " bytes; 2000 are the most."))))
+    (kora_refuse (strcat "The shape needs " (itoa (length codes)) " bytes; 2000 are the most."))))
 
 ;; The codes of all pieces, in an order and direction that lift the pen as seldom as can be seen at once. The pen is at
 ;; `at`, in steps, and down when `down`; straight moves wait in `moves` until the pen changes.
@@ -263,8 +261,8 @@
         number  (makeshape:number headers (cadr choice)))
   (cond
     ((makeshape:is_font headers)
-     (makeshape:refuse (strcat "The file " path " is a text font. Nothing was written.")))
-    ((null number) (makeshape:refuse "The file has no free number left: 255 shapes are the most."))
+     (kora_refuse (strcat "The file " path " is a text font. Nothing was written.")))
+    ((null number) (kora_refuse "The file has no free number left: 255 shapes are the most."))
     ((kora_save_definition path 2 (cadr choice)
                            (cons (strcat "*" number "," (itoa (length codes)) "," (cadr choice))
                                  (makeshape:code_lines codes)))

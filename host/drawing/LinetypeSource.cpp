@@ -111,7 +111,8 @@ private:
                 return fail(u"\"%1\" is not understood"_s.arg(fields[i].left(20)));
         }
         m_rest = m_rest.sliced(end + 1);
-        takeField();
+        if (const QStringView behind = takeField(); !behind.isEmpty())
+            fail(u"\"%1\" is not understood"_s.arg(behind.left(20)));
     }
 
     QStringView m_rest;
@@ -192,6 +193,8 @@ std::vector<LinetypeDefinition> readLinetypeSource(QByteArrayView text)
             definitions.push_back({.name = line.sliced(1, (comma < 0 ? line.size() : comma) - 1).trimmed().toString(),
                                    .description = comma < 0 ? QString() : line.sliced(comma + 1).toString()});
         } else if (!line.startsWith(u';') && !definitions.empty()) {
+            if (!pattern.isEmpty() && !line.isEmpty() && !pattern.endsWith(u','))
+                pattern += u',';
             pattern += line;
         }
     }

@@ -20,7 +20,7 @@ QString patternText(const LinetypeDefinition &definition)
         if (!dash.text.isEmpty())
             text += u"\"%1\" %2 s%3 %4%5 x%6 y%7"_s.arg(dash.text, dash.style)
                         .arg(dash.scale)
-                        .arg(dash.isRotationAbsolute ? u'a' : u'r')
+                        .arg(dash.isRotationAbsolute ? u"a"_s : u"r"_s)
                         .arg(dash.rotation)
                         .arg(dash.offset.x)
                         .arg(dash.offset.y);
@@ -41,7 +41,7 @@ TEST(LinetypeSource, ReadsDefinitions)
         {"*DOT,. . .\r\nA,0,-.25\r\n\r\n*NEXT,a,b\nA, 1 ,-2,\n", {u"DOT|. . .|0 -0.25"_s, u"NEXT|a,b|1 -2"_s}},
         {"*GAS,g\nA,.5,-.2,[\"GAS\",STANDARD,S=.1,R=0.0,X=-0.1,Y=-.05],-.25",
          {u"GAS|g|0.5 -0.2\"GAS\" STANDARD s0.1 r0 x-0.1 y-0.05 -0.25"_s}},
-        {"*T,\na,1,[\"],\",My style,a=100g,s=2]\n;; goes on\n-1\n", {u"T||1\"],\" My style s2 a90 x0 y0"_s}},
+        {"*T,\na,1,[\"],\",My style,a=100g,s=2]\n;; goes on\n-1\n", {u"T||1\"],\" My style s2 a90 x0 y0 -1"_s}},
         {"*T,\nA,1,\n-1\n", {u"T||1 -1"_s}},
         {"*A,\n*B\nA\n", {u"A||the pattern does not begin with \"A\""_s, u"B||the pattern is empty"_s}},
         {"*A,\nA,one\n", {u"A||\"one\" is no length"_s}},
@@ -52,6 +52,7 @@ TEST(LinetypeSource, ReadsDefinitions)
         {"*A,\nA,1,[\"X\",STANDARD,S=1\n",
          {u"A||shapes of a shape file, and texts that are not closed, are not read"_s}},
         {"*A,\nA,[\"X\",STANDARD]\n", {u"A||shapes of a shape file, and texts that are not closed, are not read"_s}},
+        {"*A,\nA,1,[\"X\",STANDARD]2\n", {u"A||\"2\" is not understood"_s}},
         {"*A,\nA,1,[\"X\",STANDARD,Q=1]\n", {u"A||\"Q=1\" is not understood"_s}},
         {"*A,\nA" + QByteArray(",1").repeated(100'000), {u"A||the pattern is too long"_s}},
     };

@@ -166,11 +166,13 @@ TEST_F(MakeLinestyleTool, OnlyTheDefinitionChangesInTheFile)
     };
     for (const auto &row : rows) {
         run.writeFile(u"my.lin"_s, row.before);
+        QFile::setPermissions(file, QFile::ReadOwner | QFile::WriteOwner);
         const RunOutcome outcome = run.play(u"lisp (setq turn 0.0)\n"_s + drawn(u"line 0.0 1.0"_s) +
                                                 confirmed(file, row.isReplaced) + picked(u"100,0"_s, u"101.5,0"_s),
                                             plan);
         ASSERT_EQ(outcome.status, 0) << row.what << ": " << outcome.output.toStdString();
         EXPECT_EQ(ToolRun::readFile(file), row.after) << row.what;
+        EXPECT_FALSE(QFile::permissions(file) & QFile::ReadOther) << "the file's permissions stay";
         EXPECT_EQ(QDir(run.path({})).entryList({u"my*"_s}), QStringList{u"my.lin"_s}) << "nothing is left beside it";
     }
 }

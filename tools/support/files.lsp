@@ -26,6 +26,8 @@
 (defun kora_write_lines (path lines / beside old done)
   (setq beside (vl-filename-mktemp path))
   (if (and (or (null (vl-file-size path)) (kora:may_write path))
+           ;; The copy hands on who may read and write the file.
+           (or (null (vl-file-size path)) (vl-file-copy path beside))
            (kora:write_new beside lines)
            (equal (kora_file_lines beside) lines))
     (if (vl-file-size path)
@@ -103,10 +105,8 @@
 (defun kora_save_definition (path field name definition / lines)
   (setq lines (if (vl-file-size path) (kora_file_lines path) '("")))
   (cond
-    ((null lines) (kora:tell_no (strcat "The file " path " cannot be read.")))
+    ((null lines) (kora_refuse (strcat "The file " path " cannot be read.")))
     ((not (kora_has_definitions lines))
-     (kora:tell_no (strcat "The file " path " does not look like a file of definitions. Nothing was written.")))
+     (kora_refuse (strcat "The file " path " does not look like a file of definitions. Nothing was written.")))
     ((kora_write_lines path (kora_put_definition lines field name definition)) T)
-    (T (kora:tell_no (strcat "The file " path " cannot be written. It is as it was before.")))))
-
-(defun kora:tell_no (text) (kora_alert_message text) nil)
+    (T (kora_refuse (strcat "The file " path " cannot be written. It is as it was before.")))))

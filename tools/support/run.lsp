@@ -52,3 +52,6 @@
 (defun kora_alert_message (text)
   (princ (strcat "\n" text))
   (princ))
+
+;; (kora_refuse text) -> nil; tells the user why.
+(defun kora_refuse (text) (kora_alert_message text) nil)
