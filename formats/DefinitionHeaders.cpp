@@ -11,19 +11,33 @@ bool DefinitionHeaderReader::next()
 {
     while (m_lines.next()) {
         if (m_lines.line().startsWith('*')) {
-            takeHeader();
+            m_header = m_lines.line().sliced(1);
+            noteOddities();
             return true;
         }
     }
     return false;
 }
 
-void DefinitionHeaderReader::takeHeader()
+/// Sources have tens of thousands of headers, so the fields are not made into texts before they are asked for.
+QByteArrayView DefinitionHeaderReader::fieldBytes(qsizetype number) const
 {
-    m_fields = QString::fromUtf8(m_lines.line().sliced(1)).split(u',');
-    if (m_fields.size() < m_fieldCount)
+    qsizetype begin = 0;
+    for (; number > 0; --number) {
+        const qsizetype comma = m_header.indexOf(',', begin);
+        if (comma < 0)
+            return {};
+        begin = comma + 1;
+    }
+    const qsizetype end = m_header.indexOf(',', begin);
+    return m_header.sliced(begin, (end < 0 ? m_header.size() : end) - begin);
+}
+
+void DefinitionHeaderReader::noteOddities()
+{
+    if (m_header.count(',') < m_fieldCount - 1)
         m_diagnostics.append({m_lines.number(), HeaderOddity::TooFewFields, m_lines.string()});
-    else if (field(m_nameField).isEmpty())
+    else if (fieldBytes(m_nameField).isEmpty())
         m_diagnostics.append({m_lines.number(), HeaderOddity::NoName, m_lines.string()});
 }
 

@@ -3,7 +3,6 @@
 #include "formats/TextReading.h"
 
 #include <QList>
-#include <QStringList>
 
 namespace ortakit {
 
@@ -38,17 +37,18 @@ public:
     /// Goes to the next header; false when there is none left.
     bool next();
     /// A field of the header as it stands, the first one without its "*"; empty when the header has no such field.
-    QString field(qsizetype number) const { return m_fields.value(number); }
+    QString field(qsizetype number) const { return QString::fromUtf8(fieldBytes(number)); }
     /// What was odd about the headers passed so far.
     const QList<HeaderDiagnostic> &diagnostics() const { return m_diagnostics; }
 
 private:
-    void takeHeader();
+    QByteArrayView fieldBytes(qsizetype number) const;
+    void noteOddities();
 
     LineReader m_lines;
     qsizetype m_fieldCount;
     qsizetype m_nameField;
-    QStringList m_fields;
+    QByteArrayView m_header; ///< without its "*"
     QList<HeaderDiagnostic> m_diagnostics;
 };
 
