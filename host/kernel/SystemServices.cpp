@@ -1,6 +1,7 @@
 #include "host/kernel/SystemServices.h"
 
 #include "host/kernel/Session.h"
+#include "host/kernel/commands/CommandRun.h"
 
 #include <QFileInfo>
 #include <QStandardPaths>
@@ -35,6 +36,16 @@ OdString SystemServices::userSupportFolder() const
     // Whoever asks is going to read the file.
     m_session.aliases().ensureFile();
     return m_session.home() + u'/';
+}
+
+bool SystemServices::isPermitted(const OdString &command, CKvDocument &document)
+{
+    auto &own = static_cast<Document &>(document);
+    const CommandRun *pending = own.pendingCommand();
+    if (!pending || pending->isDone())
+        return true;
+    own.print(QStringLiteral("\n%1 cannot run while another command is under way.").arg(command.toUpper()));
+    return false;
 }
 
 } // namespace host::kernel

@@ -20,6 +20,8 @@ public:
     OdString defaultFolder() const override;
     /// The folder of the user's data. An alias file is made there when there is none.
     OdString userSupportFolder() const override;
+    /// Everything is, but while a program has left a drawing command half way: the command takes the next input.
+    bool isPermitted(const OdString &command, CKvDocument &document) override;
 
 private:
     Session &m_session;

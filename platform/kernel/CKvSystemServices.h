@@ -3,6 +3,7 @@
 #include "platform/Export.h"
 #include "platform/rx/OdString.h"
 
+class CKvDocument;
 class CKvDocumentManager;
 class QWidget;
 
@@ -23,6 +24,8 @@ public:
     /// The folder of the support files that are the user's own, with a separator at its end. The host takes its command
     /// aliases from "alias.xml" in it and goes by a changed file from the next command on.
     virtual OdString userSupportFolder() const = 0;
+    /// Whether `command` may run in `document` now. Where the user has to be told why not, the host does it.
+    virtual bool isPermitted(const OdString &command, CKvDocument &document) = 0;
 };
 
 /// The services; null before the host has started.

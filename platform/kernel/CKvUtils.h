@@ -7,6 +7,8 @@
 #include <QImage>
 #include <QStringList>
 
+class OdDbDatabase;
+
 /// Small services of the host.
 class KV_EXPORT CKvUtils
 {
@@ -19,6 +21,9 @@ public:
     /// The drawing file at `path` fitted into an image of `size` pixels, on black or white, whichever `background` is
     /// nearer to. A null image when the file cannot be read as a drawing.
     static QImage drawingPicture(const OdString &path, const QSize &size, const QColor &background);
+    /// The block `name` of an open drawing in the same way. A null image when the drawing has no block of that name.
+    static QImage blockPicture(OdDbDatabase *database, const OdString &name, const QSize &size,
+                               const QColor &background);
     /// The drawings that the drawing file at `path` refers to, as the file has them; empty for an unreadable file.
     static QStringList externalReferences(const OdString &path);
 };

@@ -71,6 +71,8 @@ public:
     FakeDocumentManager &documents() { return m_documents; }
     FakeEditor &editor() { return m_editor; }
     FakeHelp &help() { return m_help; }
+    /// isPermitted() refuses these commands from now on.
+    void refuse(const QStringList &commands) { m_refused = commands; }
     void setMainWindow(QWidget *window) { m_mainWindow = window; }
 
     /// Absolute path of `name` in the host's own folder, which exists.
@@ -86,6 +88,7 @@ public:
     OdString defaultFolder() const override { return m_folder.path(); }
     /// Its own folder, with an alias file without aliases.
     OdString userSupportFolder() const override { return m_folder.path() + QLatin1Char('/'); }
+    bool isPermitted(const OdString &command, CKvDocument &) override { return !m_refused.contains(command); }
 
 private:
     QTemporaryDir m_folder;
@@ -93,6 +96,7 @@ private:
     FakeEditor m_editor;
     FakeHelp m_help;
     QWidget *m_mainWindow = nullptr;
+    QStringList m_refused;
     host::kernel::Services m_before;
     CKvDocument *m_activeBefore;
 };

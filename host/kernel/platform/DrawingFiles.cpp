@@ -1,13 +1,30 @@
 #include "host/drawing/Blocks.h"
 #include "host/drawing/Drawing.h"
+#include "host/kernel/Document.h"
+#include "host/kernel/DrawingDatabase.h"
 #include "host/view/Export.h"
 #include "platform/kernel/CKvUtils.h"
 
+namespace {
+
+// Pictures come on black or white, whichever the colours of the drawing suit on this background.
+host::view::Ground groundFor(const QColor &background)
+{
+    return background.lightness() < 128 ? host::view::Ground::Black : host::view::Ground::White;
+}
+
+} // namespace
+
 QImage CKvUtils::drawingPicture(const OdString &path, const QSize &size, const QColor &background)
 {
-    // Pictures come on black or white, whichever the colours of the drawing suit on this background.
-    const bool isDark = background.lightness() < 128;
-    return host::view::picture(path, size, isDark ? host::view::Ground::Black : host::view::Ground::White);
+    return host::view::picture(path, size, groundFor(background));
+}
+
+QImage CKvUtils::blockPicture(OdDbDatabase *database, const OdString &name, const QSize &size, const QColor &background)
+{
+    // Whoever else implements the class has no drawing to show.
+    auto *own = dynamic_cast<host::kernel::DrawingDatabase *>(database);
+    return own ? host::view::blockPicture(own->document().drawing(), name, size, groundFor(background)) : QImage();
 }
 
 QStringList CKvUtils::externalReferences(const OdString &path)
