@@ -1,5 +1,6 @@
 #include "state/DrawingPreview.h"
 
+#include "platform/kernel/CKvDocument.h"
 #include "platform/kernel/CKvUtils.h"
 
 #include <QPainter>
@@ -11,15 +12,23 @@ DrawingPreview::DrawingPreview(QWidget *parent) : QWidget(parent)
 
 void DrawingPreview::setDrawing(const QString &path)
 {
-    m_path = path;
-    m_image = {};
-    m_pictureSize = {};
-    update();
+    take(path, {}, {});
+}
+
+void DrawingPreview::setBlock(const QString &name)
+{
+    take({}, name, {});
 }
 
 void DrawingPreview::setImage(const QImage &image)
 {
-    m_path.clear();
+    take({}, {}, image);
+}
+
+void DrawingPreview::take(const QString &path, const QString &block, const QImage &image)
+{
+    m_path = path;
+    m_block = block;
     m_image = image;
     m_pictureSize = {};
     update();
@@ -37,7 +46,7 @@ void DrawingPreview::paintEvent(QPaintEvent *)
         QRectF place({}, m_picture.deviceIndependentSize());
         place.moveCenter(QRectF(rect()).center());
         painter.drawImage(place, m_picture);
-    } else if (!m_path.isEmpty()) {
+    } else if (!m_path.isEmpty() || !m_block.isEmpty()) {
         painter.setPen(Qt::gray);
         painter.drawText(rect(), Qt::AlignCenter | Qt::TextWordWrap, tr("No preview"));
     }
@@ -53,6 +62,8 @@ QImage DrawingPreview::render() const
     QImage picture;
     if (!m_path.isEmpty())
         picture = CKvUtils::drawingPicture(m_path, pixelSize(), Qt::black);
+    else if (!m_block.isEmpty() && ACTIVE_DOCUMENT())
+        picture = CKvUtils::blockPicture(ACTIVE_DOCUMENT()->database(), m_block, pixelSize(), Qt::black);
     else if (!m_image.isNull())
         picture = m_image.scaled(pixelSize(), Qt::KeepAspectRatio, Qt::SmoothTransformation);
     picture.setDevicePixelRatio(devicePixelRatioF());

@@ -3,8 +3,8 @@
 #include <QImage>
 #include <QWidget>
 
-/// Shows a drawing file, or a picture, fitted on black. What is shown is read when it is painted, so a hidden preview
-/// costs nothing, and read again for another size.
+/// Shows a drawing file, a block of the active drawing, or a picture, fitted on black. What is shown is read when it is
+/// painted, so a hidden preview costs nothing, and read again for another size.
 class DrawingPreview : public QWidget
 {
     Q_OBJECT
@@ -17,6 +17,11 @@ public:
     void setDrawing(const QString &path);
     /// Path of the drawing that is shown; empty when there is none.
     QString drawing() const { return m_path; }
+    /// Shows the block `name` of the active drawing in place of a drawing file; empty shows nothing. A block that is
+    /// not there shows a short message.
+    void setBlock(const QString &name);
+    /// Name of the block that is shown; empty when there is none.
+    QString block() const { return m_block; }
     /// Shows `image` in place of a drawing; a null image shows nothing.
     void setImage(const QImage &image);
 
@@ -24,10 +29,13 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
+    void take(const QString &path, const QString &block, const QImage &image);
     QSize pixelSize() const;
     QImage render() const;
 
+    // At most one of these is not empty.
     QString m_path;
+    QString m_block;
     QImage m_image;
     QImage m_picture;
     QSize m_pictureSize; ///< what m_picture was made for; invalid when it has to be made
