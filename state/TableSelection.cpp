@@ -131,4 +131,11 @@ void selectByTexts(QTableWidget &table, const QString &texts)
         table.scrollToItem(item);
 }
 
+void selectRows(QTableWidget &table, const QList<int> &rows)
+{
+    QItemSelection selection;
+    addRanges(selection, table, 0, table.columnCount() - 1, rows);
+    table.selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
+}
+
 } // namespace ortakit

@@ -15,6 +15,9 @@ QString selectedRowTexts(const QTableWidget &table);
 /// items without text. A table that selects by rows selects the items' rows.
 void selectByTexts(QTableWidget &table, const QString &texts);
 
+/// Selects these rows, in any order, and nothing else. The current row stays.
+void selectRows(QTableWidget &table, const QList<int> &rows);
+
 // What Qt itself answers about a selection of many separate rows takes time that grows with the square of their number;
 // these grow with the number of selected cells.
 
