@@ -27,6 +27,16 @@ bool areAcceptable(const OdResBuf *first, FirstArgument firstArgument, ExtraArgu
     return false;
 }
 
+QStringList strings(const OdResBuf *rest)
+{
+    QStringList found;
+    for (const OdResBuf *link = rest; link; link = link->next()) {
+        if (link->restype() == OdResBuf::kRtString)
+            found.append(link->getString());
+    }
+    return found;
+}
+
 void releaseArguments(CKvLispEngine &lisp, ExtraArguments extra)
 {
     OdResBuf *first = lisp.arguments();

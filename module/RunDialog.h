@@ -69,6 +69,9 @@ CKvDialog *findDialog(const CKvDocument &document, DialogSlot slot, CKvDialog *(
 /// Whether a call with the argument chain `first` is no error.
 bool areAcceptable(const OdResBuf *first, FirstArgument firstArgument, ExtraArguments extra);
 
+/// The strings among the arguments from `rest` on, in their order; what is no string is passed over.
+QStringList strings(const OdResBuf *rest);
+
 /// Gives back what the function no longer needs of its arguments.
 void releaseArguments(CKvLispEngine &lisp, ExtraArguments extra);
 

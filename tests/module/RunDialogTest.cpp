@@ -21,16 +21,6 @@ using ortakit::test::ModalAnswers;
 using ortakit::test::SampleDialog;
 using testing::IsEmpty;
 
-QStringList strings(const OdResBuf *chain)
-{
-    QStringList found;
-    for (const OdResBuf *link = chain; link; link = link->next()) {
-        if (link->restype() == OdResBuf::kRtString)
-            found.append(link->getString());
-    }
-    return found;
-}
-
 int plain()
 {
     return runDialog<SampleDialog>(DialogSlot::BreakLine, {});
