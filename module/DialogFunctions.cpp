@@ -5,9 +5,34 @@
 #include "dialogs/editalias/Dlg_QT_EditAlias.h"
 #include "dialogs/makelinestyle/Dlg_QT_MakeLineStyle.h"
 #include "dialogs/makeshape/Dlg_QT_MakeShape.h"
+#include "dialogs/replaceblock/Dlg_QT_ReplaceBlock.h"
+#include "dialogs/replaceblocktoxref/Dlg_QT_ReplaceBlockToXref.h"
 #include "module/RunDialog.h"
+#include "platform/kernel/CKvSystemServices.h"
 
 namespace ortakit {
+
+namespace {
+
+/// Whether the host does not let `command` run in `document` now.
+bool isRefused(const QString &command, CKvDocument &document)
+{
+    CKvSystemServices *services = GetKvSystemServices();
+    return services && !services->isPermitted(command, document);
+}
+
+/// Any number of strings describe the blocks of the drawing.
+template <class Dialog>
+int replaceBlocks(DialogSlot slot, bool (*isRefused)(CKvDocument &))
+{
+    return runDialog<Dialog>(
+        slot, {.firstArgument = FirstArgument::Present,
+               .extraArguments = ExtraArguments::List,
+               .isRefused = isRefused,
+               .takeExtra = [](Dialog &dialog, const OdResBuf *rest) { dialog.setBlocks(strings(rest)); }});
+}
+
+} // namespace
 
 int dlgBreakLine()
 {
@@ -58,6 +83,20 @@ int dlgMakeLineStyle()
 int dlgMakeShape()
 {
     return runDialog<Dlg_QT_MakeShape>(DialogSlot::MakeShape, {});
+}
+
+int dlgReplaceBlock()
+{
+    return replaceBlocks<Dlg_QT_ReplaceBlock>(DialogSlot::ReplaceBlock, [](CKvDocument &document) {
+        return isRefused(QStringLiteral("replaceblock"), document);
+    });
+}
+
+int dlgReplaceBlockToXref()
+{
+    return replaceBlocks<Dlg_QT_ReplaceBlockToXref>(DialogSlot::ReplaceBlockByReference, [](CKvDocument &document) {
+        return isRefused(QStringLiteral("replaceblocktoxref"), document);
+    });
 }
 
 } // namespace ortakit

@@ -9,6 +9,8 @@ int dlgLispExplorer();
 int dlgEditAlias();
 int dlgMakeLineStyle();
 int dlgMakeShape();
+int dlgReplaceBlock();
+int dlgReplaceBlockToXref();
 /// @}
 
 } // namespace ortakit
