@@ -67,6 +67,8 @@ NameTable::NameTable(QTableWidget *table) : m_table(table)
     table->setTabKeyNavigation(false);
     table->setWordWrap(false);
     table->setShowGrid(false);
+    table->horizontalHeader()->setHighlightSections(false);
+    table->verticalHeader()->setDefaultSectionSize(table->verticalHeader()->minimumSectionSize());
 }
 
 void NameTable::setNames(const QStringList &names)

@@ -90,13 +90,16 @@ void Dlg_QT_ReplaceBlockToXref::keyPressEvent(QKeyEvent *event)
 {
     // Enter in the folder field takes the folder and does not also press the default button.
     const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (isEnter && m_ui->directory->hasFocus())
+    if (isEnter && focusWidget() == m_ui->directory)
         return;
     BlockReplacementDialog::keyPressEvent(event);
 }
 
 void Dlg_QT_ReplaceBlockToXref::closeDialog()
 {
+    // The mnemonic does not move the focus out of the folder field.
+    m_directory->takeText();
+    leaveDirectory();
     const QString title = tr("Replace blocks");
     if (!replaced().hasSelection()) {
         warn(chooseBlocksText(), title);

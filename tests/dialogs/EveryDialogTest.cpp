@@ -5,6 +5,8 @@
 #include "dialogs/editalias/Dlg_QT_EditAlias.h"
 #include "dialogs/makelinestyle/Dlg_QT_MakeLineStyle.h"
 #include "dialogs/makeshape/Dlg_QT_MakeShape.h"
+#include "dialogs/replaceblock/Dlg_QT_ReplaceBlock.h"
+#include "dialogs/replaceblocktoxref/Dlg_QT_ReplaceBlockToXref.h"
 #include "tests/support/FakeHost.h"
 #include "tests/support/QtTestPrinters.h"
 
@@ -43,6 +45,8 @@ constexpr Row rows[] = {
     row<Dlg_QT_EditAlias>("EditAlias", "0"),
     row<Dlg_QT_MakeLineStyle>("MakeLineStyle", "9110"),
     row<Dlg_QT_MakeShape>("MakeShape", "9132"),
+    row<Dlg_QT_ReplaceBlock>("ReplaceBlock", "9105"),
+    row<Dlg_QT_ReplaceBlockToXref>("ReplaceBlockToXref", "9106"),
 };
 
 void PrintTo(const Row &row, std::ostream *out)

@@ -4,6 +4,7 @@
 #include "platform/kernel/OdResBuf.h"
 #include "platform/rx/OdRxWin32Module.h"
 #include "platform/widgets/CKvQtColorComboBox.h"
+#include "tests/kernel/Bench.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -170,6 +171,30 @@ TEST(Utils, drawingsReferTo)
     EXPECT_EQ(CKvUtils::externalReferences(folder.filePath(QStringLiteral("none.dxf"))), QStringList());
 }
 
+/// Pixels that are drawn on black.
+int litPixels(const QImage &picture)
+{
+    int lit = 0;
+    for (int y = 0; y < picture.height(); ++y)
+        for (int x = 0; x < picture.width(); ++x)
+            lit += qGray(picture.pixel(x, y)) > 128 ? 1 : 0;
+    return lit;
+}
+
+TEST_F(Bench, blockPictures)
+{
+    lisp("(entmake '((0 . \"BLOCK\") (2 . \"Ring\") (70 . 0) (10 0.0 0.0 0.0)))"
+         "(entmake '((0 . \"CIRCLE\") (8 . \"0\") (10 0.0 0.0 0.0) (40 . 4.0)))"
+         "(entmake '((0 . \"ENDBLK\")))");
+    OdDbDatabase *database = document().database();
+    const QImage ring = CKvUtils::blockPicture(database, QStringLiteral("RING"), {64, 48}, Qt::black);
+    ASSERT_EQ(ring.size(), QSize(64, 48));
+    EXPECT_GT(litPixels(ring), 40);
+    EXPECT_LT(litPixels(ring), 64 * 48 / 2);
+    EXPECT_TRUE(CKvUtils::blockPicture(database, QStringLiteral("none"), {64, 48}, Qt::black).isNull());
+    EXPECT_TRUE(CKvUtils::blockPicture(nullptr, QStringLiteral("Ring"), {64, 48}, Qt::black).isNull());
+}
+
 TEST(Utils, pictures)
 {
     const QTemporaryDir folder;
@@ -179,12 +204,8 @@ TEST(Utils, pictures)
     file.close();
     const QImage picture = CKvUtils::drawingPicture(file.fileName(), {64, 48}, Qt::black);
     ASSERT_EQ(picture.size(), QSize(64, 48));
-    int lit = 0;
-    for (int y = 0; y < 48; ++y)
-        for (int x = 0; x < 64; ++x)
-            lit += qGray(picture.pixel(x, y)) > 128 ? 1 : 0;
-    EXPECT_GT(lit, 40) << "a circle";
-    EXPECT_LT(lit, 64 * 48 / 2) << "on black";
+    EXPECT_GT(litPixels(picture), 40) << "a circle";
+    EXPECT_LT(litPixels(picture), 64 * 48 / 2) << "on black";
     EXPECT_TRUE(CKvUtils::drawingPicture(folder.filePath(QStringLiteral("none.dxf")), {64, 48}, Qt::black).isNull());
 }
 

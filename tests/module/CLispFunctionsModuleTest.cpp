@@ -3,6 +3,7 @@
 #include "module/DialogRegistry.h"
 #include "platform/rx/OdRxWin32Module.h"
 #include "tests/support/FakeHost.h"
+#include "tests/support/ModalAnswers.h"
 #include "tests/support/QtTestPrinters.h"
 
 #include <gmock/gmock.h>
@@ -14,6 +15,7 @@ using namespace Qt::StringLiterals;
 using ortakit::test::FakeDocument;
 using ortakit::test::FakeEditor;
 using ortakit::test::FakeHost;
+using ortakit::test::ModalAnswers;
 using testing::ElementsAre;
 using testing::ElementsAreArray;
 using testing::IsEmpty;
@@ -109,6 +111,23 @@ TEST_F(Module, DocumentsComeAndGo)
     EXPECT_THAT(records(), ElementsAre(m_first, third));
     m_module->uninitApp();
     EXPECT_THAT(records(), IsEmpty());
+}
+
+TEST_F(Module, BlocksAreReplacedWithTheHostsPermissionOnly)
+{
+    m_module->initApp();
+    m_host.refuse({u"replaceblock"_s, u"replaceblocktoxref"_s});
+    ModalAnswers user;
+    for (const QString &name : {u"Dlg_replaceblock"_s, u"Dlg_replaceblocktoxref"_s}) {
+        EXPECT_EQ(m_first->lisp().call(name, {u"/no/state"_s, u"DOOR"_s}), 5100) << name.toStdString();
+        EXPECT_EQ(m_first->lisp().result(), u"nil"_s);
+    }
+    EXPECT_THAT(user.shown(), IsEmpty());
+
+    m_host.refuse({u"replaceblock"_s});
+    EXPECT_EQ(m_first->lisp().call(u"Dlg_replaceblocktoxref"_s, {7, u"DOOR"_s, 8}), 5100) << "anything comes first";
+    EXPECT_EQ(user.shown().size(), 1);
+    EXPECT_EQ(m_first->lisp().call(u"Dlg_replaceblocktoxref"_s), -5001);
 }
 
 TEST_F(Module, EnginesThatComeLateAreServedOnce)

@@ -118,6 +118,12 @@ TEST(DrawingPreview, ShowsWhatItCanOnBlack)
     EXPECT_EQ(pixel(1, 100), QColor(Qt::black));
     preview.setDrawing({});
     EXPECT_EQ(pixel(10, 100), QColor(Qt::black));
+
+    preview.setImage(red);
+    preview.setBlock(u"DOOR"_s);
+    EXPECT_EQ(pixel(10, 100).red(), pixel(10, 100).blue()) << "a block without a document, and no red picture";
+    preview.setDrawing(u"/no/such/drawing.dwg"_s);
+    EXPECT_EQ(preview.block(), QString());
 }
 
 /// Gives the application a dark palette, and the one before back.

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QHeaderView>
+#include <QTableWidget>
+#include <QTest>
+
+namespace ortakit::test {
+
+/// The texts of the first column from top to bottom, with blanks between.
+inline QString shownTexts(const QTableWidget &table)
+{
+    QStringList texts;
+    for (int row = 0; row < table.rowCount(); ++row)
+        texts.append(table.item(row, 0)->text());
+    return texts.join(u' ');
+}
+
+/// Of these, the ones in selected rows.
+inline QString selectedTexts(const QTableWidget &table)
+{
+    QStringList texts;
+    for (int row = 0; row < table.rowCount(); ++row) {
+        if (table.item(row, 0)->isSelected())
+            texts.append(table.item(row, 0)->text());
+    }
+    return texts.join(u' ');
+}
+
+/// Selects the rows of these names, with blanks between, and no others, by what they are and not by what they show.
+inline void choose(QTableWidget &table, const QString &names)
+{
+    const QStringList wanted = names.split(u' ');
+    for (int row = 0; row < table.rowCount(); ++row)
+        table.item(row, 0)->setSelected(wanted.contains(table.item(row, 0)->data(Qt::UserRole).toString()));
+}
+
+/// A click with the mouse on the first column's header.
+inline void clickHeader(const QTableWidget &table)
+{
+    const QHeaderView *header = table.horizontalHeader();
+    QTest::mouseClick(header->viewport(), Qt::LeftButton, {}, QPoint(header->sectionSize(0) / 2, header->height() / 2));
+}
+
+} // namespace ortakit::test
