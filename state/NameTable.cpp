@@ -68,7 +68,7 @@ NameTable::NameTable(QTableWidget *table) : m_table(table)
     table->setWordWrap(false);
     table->setShowGrid(false);
     table->horizontalHeader()->setHighlightSections(false);
-    table->verticalHeader()->setDefaultSectionSize(table->verticalHeader()->minimumSectionSize());
+    table->verticalHeader()->setDefaultSectionSize(table->fontMetrics().height() + 8);
 }
 
 void NameTable::setNames(const QStringList &names)
