@@ -57,7 +57,7 @@ void list(benchmark::State &state, const QByteArray &text)
     if (text.isEmpty())
         return state.SkipWithError("ORTAKIT_FONTS names no folder with shape sources");
     for (auto _ : state)
-        benchmark::DoNotOptimize(listShapes(text).shapes.size());
+        benchmark::DoNotOptimize(listShapes(text).definitions.size());
     state.SetBytesProcessed(state.iterations() * text.size());
 }
 

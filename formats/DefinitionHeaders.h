@@ -52,4 +52,35 @@ private:
     QList<HeaderDiagnostic> m_diagnostics;
 };
 
+/// What a source defines: headers of one kind in the order of the text.
+template <class Header>
+struct DefinitionListing
+{
+    QList<Header> definitions;
+    QList<HeaderDiagnostic> diagnostics;
+    QString error; ///< why the file could not be read; empty when it was
+};
+
+/// Lists the headers that the reader comes to, each as `take` makes it of the reader that stands at it.
+template <class Header>
+DefinitionListing<Header> listDefinitions(DefinitionHeaderReader headers,
+                                          Header (*take)(const DefinitionHeaderReader &))
+{
+    DefinitionListing<Header> listing;
+    while (headers.next())
+        listing.definitions.append(take(headers));
+    listing.diagnostics = headers.diagnostics();
+    return listing;
+}
+
+/// Lists the file at `path` as `list` does its text; see readTextFile() for what cannot be read.
+template <class Header>
+DefinitionListing<Header> readDefinitions(const QString &path, DefinitionListing<Header> (*list)(QByteArrayView text))
+{
+    const TextReading file = readTextFile(path);
+    DefinitionListing<Header> listing = list(file.text);
+    listing.error = file.error;
+    return listing;
+}
+
 } // namespace ortakit

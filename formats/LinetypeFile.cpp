@@ -26,20 +26,14 @@ bool opensDefinitionOrIsBlank(const QByteArray &beginning)
 
 LinetypeListing listLinetypes(QByteArrayView text)
 {
-    LinetypeListing listing;
-    DefinitionHeaderReader headers(text, fieldCount, nameField);
-    while (headers.next())
-        listing.linetypes.append({headers.field(nameField), headers.field(descriptionField)});
-    listing.diagnostics = headers.diagnostics();
-    return listing;
+    return listDefinitions<LinetypeHeader>({text, fieldCount, nameField}, [](const DefinitionHeaderReader &header) {
+        return LinetypeHeader{header.field(nameField), header.field(descriptionField)};
+    });
 }
 
 LinetypeListing readLinetypeFile(const QString &path)
 {
-    const TextReading file = readTextFile(path);
-    LinetypeListing listing = listLinetypes(file.text);
-    listing.error = file.error;
-    return listing;
+    return readDefinitions(path, listLinetypes);
 }
 
 bool isAcceptableLinetypeFile(const QString &path, const QString &extension)

@@ -13,16 +13,9 @@ struct LinetypeHeader
     bool operator==(const LinetypeHeader &) const = default;
 };
 
-struct LinetypeListing
-{
-    QList<LinetypeHeader> linetypes; ///< in the order of the file
-    QList<HeaderDiagnostic> diagnostics;
-    QString error; ///< why the file could not be read; empty when it was
-};
+using LinetypeListing = DefinitionListing<LinetypeHeader>;
 
 LinetypeListing listLinetypes(QByteArrayView text);
-
-/// Lists the file at `path`; see readTextFile() for what cannot be read.
 LinetypeListing readLinetypeFile(const QString &path);
 
 /// Whether definitions may be added to the file at `path`. `extension` must be somewhere in the path, in any case, and

@@ -12,20 +12,14 @@ constexpr int nameField = 2;
 
 ShapeListing listShapes(QByteArrayView text)
 {
-    ShapeListing listing;
-    DefinitionHeaderReader headers(text, fieldCount, nameField);
-    while (headers.next())
-        listing.shapes.append({headers.field(numberField), headers.field(nameField)});
-    listing.diagnostics = headers.diagnostics();
-    return listing;
+    return listDefinitions<ShapeHeader>({text, fieldCount, nameField}, [](const DefinitionHeaderReader &header) {
+        return ShapeHeader{header.field(numberField), header.field(nameField)};
+    });
 }
 
 ShapeListing readShapeFile(const QString &path)
 {
-    const TextReading file = readTextFile(path);
-    ShapeListing listing = listShapes(file.text);
-    listing.error = file.error;
-    return listing;
+    return readDefinitions(path, listShapes);
 }
 
 } // namespace ortakit

@@ -13,16 +13,9 @@ struct ShapeHeader
     bool operator==(const ShapeHeader &) const = default;
 };
 
-struct ShapeListing
-{
-    QList<ShapeHeader> shapes; ///< in the order of the file
-    QList<HeaderDiagnostic> diagnostics;
-    QString error; ///< why the file could not be read; empty when it was
-};
+using ShapeListing = DefinitionListing<ShapeHeader>;
 
 ShapeListing listShapes(QByteArrayView text);
-
-/// Lists the file at `path`; see readTextFile() for what cannot be read.
 ShapeListing readShapeFile(const QString &path);
 
 } // namespace ortakit

@@ -16,14 +16,14 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
     qsizetype headers = 0;
     for (const QByteArray &line : lines)
         headers += line.startsWith('*');
-    if (listing.linetypes.size() != headers || listing.diagnostics.size() > headers)
+    if (listing.definitions.size() != headers || listing.diagnostics.size() > headers)
         std::abort();
     for (const HeaderDiagnostic &odd : listing.diagnostics) {
         if (odd.line < 1 || odd.line > lines.size() || !odd.text.startsWith(u'*'))
             std::abort();
     }
     const QByteArray more = text + "\n*ADDED,one more\nA,1,-1\n";
-    if (listLinetypes(more).linetypes.value(headers) !=
+    if (listLinetypes(more).definitions.value(headers) !=
         LinetypeHeader{QStringLiteral("ADDED"), QStringLiteral("one more")})
         std::abort();
     return 0;

@@ -6,12 +6,17 @@
 #include "host/drawing/Symbols.h"
 
 #include <cstdlib>
+#include <memory>
 
 using namespace host::drawing;
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size)
 {
-    const auto drawing = newDrawing();
+    // A drawing costs more than what is tried with it, so one takes many sources, each over what is there.
+    static std::unique_ptr<Drawing> drawing;
+    static int sources = 0;
+    if (sources++ % 500 == 0)
+        drawing = newDrawing();
     const QByteArray text(reinterpret_cast<const char *>(data), qsizetype(size));
     for (const LinetypeDefinition &definition : readLinetypeSource(text)) {
         if (!loadLinetype(*drawing, definition).isEmpty())

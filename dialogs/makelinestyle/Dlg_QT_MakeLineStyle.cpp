@@ -30,7 +30,7 @@ void Dlg_QT_MakeLineStyle::afterShow()
 void Dlg_QT_MakeLineStyle::refreshLinetypes()
 {
     QList<QStringList> rows;
-    for (const ortakit::LinetypeHeader &linetype : ortakit::readLinetypeFile(m_file->fullPath()).linetypes)
+    for (const ortakit::LinetypeHeader &linetype : ortakit::readLinetypeFile(m_file->fullPath()).definitions)
         rows.append({linetype.name, linetype.description});
     showDefinitions(rows, 0);
 }

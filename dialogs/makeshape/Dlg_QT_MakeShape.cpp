@@ -58,7 +58,7 @@ void Dlg_QT_MakeShape::refreshShapes()
 {
     m_listedFile = m_ui->shapeFile->text();
     QList<QStringList> rows;
-    for (const ortakit::ShapeHeader &shape : ortakit::readShapeFile(m_listedFile).shapes)
+    for (const ortakit::ShapeHeader &shape : ortakit::readShapeFile(m_listedFile).definitions)
         rows.append({shape.number, shape.name});
     showDefinitions(rows, 1);
 }

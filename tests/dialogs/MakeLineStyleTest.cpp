@@ -1,5 +1,5 @@
 #include "dialogs/makelinestyle/Dlg_QT_MakeLineStyle.h"
-#include "tests/dialogs/DialogTest.h"
+#include "tests/dialogs/DefinitionDialogTest.h"
 
 #include <QDir>
 
@@ -8,9 +8,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-class MakeLineStyle : public DialogTest<Dlg_QT_MakeLineStyle>
+class MakeLineStyle : public DefinitionDialogTest<Dlg_QT_MakeLineStyle>
 {
 protected:
+    MakeLineStyle() : DefinitionDialogTest("Linetypefile", u"Make Linestyle"_s) {}
     QStringList rows() const { return tableRows("LinetypefileLst"); }
     QString path() const { return find("Linetypefile")->property("value").toString(); }
     void showWithFile(const QString &file) { showWith(u"linetypefile=%1\n"_s.arg(file)); }
@@ -37,41 +38,22 @@ TEST_F(MakeLineStyle, ShowsWhatTheFileDefines)
 
 TEST_F(MakeLineStyle, NameIsChecked)
 {
-    const auto says = [](const char *text) {
-        return u"information \"Make Linestyle\" \"%1\" OK"_s.arg(QLatin1StringView(text));
-    };
-    const QString asks = u"question \"Make Linestyle\" \"Linestyle already exists, you want to replace it?\" Yes/No"_s;
-    const struct
-    {
-        const char *what;
-        QString file;
-        QString name;
-        QMessageBox::StandardButton answer;
-        QStringList shown;
-    } table[] = {
-        {"nothing at all", {}, {}, QMessageBox::Ok, {says("You must select a file. ")}},
-        {"no file, bad name", {}, u"a b"_s, QMessageBox::Ok, {says("You must select a file. ")}},
-        {"no name", lines, {}, QMessageBox::Ok, {says("You must provide a name for the Linestyle. ")}},
-        {"a blank", lines, u"GAS 2"_s, QMessageBox::Ok, {says("Linestyle names cannot include blank spaces.")}},
-        {"nothing but a blank", lines, u" "_s, QMessageBox::Ok, {says("Linestyle names cannot include blank spaces.")}},
-        {"existing, kept", lines, u"GAS"_s, QMessageBox::No, {asks}},
-        {"existing in other case, closed", lines, u"wALL"_s, QMessageBox::NoButton, {asks}},
-        {"existing, replaced", lines, u"gas"_s, QMessageBox::Yes, {asks}},
-        {"a tab is no blank", lines, u"GAS\t2"_s, QMessageBox::NoButton, {}},
-        {"new file", host.path(u"new.lin"_s), u"GAS"_s, QMessageBox::NoButton, {}},
-    };
-    for (const auto &row : table) {
-        show();
-        setText("Linetypefile", row.file);
-        setText("name", row.name);
-        ModalAnswers answers;
-        if (row.answer != QMessageBox::NoButton)
-            answers.press(row.answer);
-        click("acceptButton");
-        EXPECT_EQ(answers.shown(), row.shown) << row.what;
-        EXPECT_EQ(isAccepted(), row.shown.isEmpty() || row.answer == QMessageBox::Yes) << row.what;
-        EXPECT_EQ(text("name"), row.name) << row.what;
-    }
+    const QString noFile = u"You must select a file. "_s;
+    const QString noName = u"You must provide a name for the Linestyle. "_s;
+    const QString blank = u"Linestyle names cannot include blank spaces."_s;
+    const QString exists = u"Linestyle already exists, you want to replace it?"_s;
+    checkNames({
+        {"nothing at all", {}, {}, noFile},
+        {"no file, bad name", {}, u"a b"_s, noFile},
+        {"no name", lines, {}, noName},
+        {"a blank", lines, u"GAS 2"_s, blank},
+        {"nothing but a blank", lines, u" "_s, blank},
+        {"existing, kept", lines, u"GAS"_s, exists, QMessageBox::No},
+        {"existing in other case, kept", lines, u"wALL"_s, exists, QMessageBox::No},
+        {"existing, replaced", lines, u"gas"_s, exists, QMessageBox::Yes},
+        {"a tab is no blank", lines, u"GAS\t2"_s},
+        {"new file", host.path(u"new.lin"_s), u"GAS"_s},
+    });
 }
 
 TEST_F(MakeLineStyle, BrowsingTakesOnlyLinetypeFiles)
@@ -127,17 +109,7 @@ TEST_F(MakeLineStyle, LongPathsAreShownShortAndSavedWhole)
 
 TEST_F(MakeLineStyle, EnterInTheFileFieldListsTheFileAndStays)
 {
-    showWith({});
-    EXPECT_EQ(focusName(), u"selectfile"_s);
-    setText("name", u"NEW"_s);
-    find("Linetypefile")->setFocus();
-    setText("Linetypefile", lines);
-    QTest::keyClick(find("Linetypefile"), Qt::Key_Return);
-    EXPECT_TRUE(dialog->isVisible());
-    EXPECT_EQ(rows().size(), 2);
-    find("name")->setFocus();
-    QTest::keyClick(find("name"), Qt::Key_Return);
-    EXPECT_TRUE(isAccepted());
+    checkEnterInFileField(lines, "LinetypefileLst");
 }
 
 } // namespace

@@ -1,5 +1,5 @@
 #include "dialogs/makeshape/Dlg_QT_MakeShape.h"
-#include "tests/dialogs/DialogTest.h"
+#include "tests/dialogs/DefinitionDialogTest.h"
 
 #include <QDir>
 
@@ -8,9 +8,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-class MakeShape : public DialogTest<Dlg_QT_MakeShape>
+class MakeShape : public DefinitionDialogTest<Dlg_QT_MakeShape>
 {
 protected:
+    MakeShape() : DefinitionDialogTest("shapeFile", u"Make Shape"_s) {}
     QStringList rows() const { return tableRows("lstShapes"); }
 
     QString shapes = host.writeFile(u"my.shp"_s, "*1,3,BOX\n1,16,0\n*2,2\n16,0\n");
@@ -28,38 +29,16 @@ TEST_F(MakeShape, ShowsWhatTheFileDefines)
 
 TEST_F(MakeShape, NameIsChecked)
 {
-    const auto says = [](const char *text) {
-        return u"information \"Make Shape\" \"%1\" OK"_s.arg(QLatin1StringView(text));
-    };
-    const QString asks = u"question \"Make Shape\" \"Shape already exists, you want to replace it?\" Yes/No"_s;
-    const struct
-    {
-        const char *what;
-        QString file;
-        QString name;
-        QMessageBox::StandardButton answer;
-        QStringList shown;
-    } table[] = {
-        {"nothing at all", {}, {}, QMessageBox::Ok, {says("You must select a file. ")}},
-        {"no name", shapes, {}, QMessageBox::Ok, {says("You must provide a name for the shape. ")}},
-        {"a blank", shapes, u"BOX 2"_s, QMessageBox::Ok, {says("Shape names cannot include blank spaces.")}},
-        {"existing, kept", shapes, u"box"_s, QMessageBox::No, {asks}},
-        {"existing, replaced", shapes, u"bOx"_s, QMessageBox::Yes, {asks}},
-        {"new", shapes, u"BOX2"_s, QMessageBox::NoButton, {}},
-        {"any file name will do", host.path(u"new.txt"_s), u"BOX"_s, QMessageBox::NoButton, {}},
-    };
-    for (const auto &row : table) {
-        show();
-        setText("shapeFile", row.file);
-        setText("name", row.name);
-        setText("resolution", u"not a number"_s);
-        ModalAnswers answers;
-        if (row.answer != QMessageBox::NoButton)
-            answers.press(row.answer);
-        click("acceptButton");
-        EXPECT_EQ(answers.shown(), row.shown) << row.what;
-        EXPECT_EQ(isAccepted(), row.shown.isEmpty() || row.answer == QMessageBox::Yes) << row.what;
-    }
+    const QString exists = u"Shape already exists, you want to replace it?"_s;
+    checkNames({
+        {"nothing at all", {}, {}, u"You must select a file. "_s},
+        {"no name", shapes, {}, u"You must provide a name for the shape. "_s},
+        {"a blank", shapes, u"BOX 2"_s, u"Shape names cannot include blank spaces."_s},
+        {"existing, kept", shapes, u"box"_s, exists, QMessageBox::No},
+        {"existing, replaced", shapes, u"bOx"_s, exists, QMessageBox::Yes},
+        {"new", shapes, u"BOX2"_s},
+        {"any file name will do", host.path(u"new.txt"_s), u"BOX"_s},
+    });
 }
 
 TEST_F(MakeShape, BrowsingStartsInTheFolderOfTheFile)
@@ -116,13 +95,7 @@ TEST_F(MakeShape, PathsAreShownAndSavedAsTheyAre)
 
 TEST_F(MakeShape, EnterInTheFileFieldListsTheFileAndStays)
 {
-    showWith({});
-    setText("name", u"NEW"_s);
-    find("shapeFile")->setFocus();
-    setText("shapeFile", shapes);
-    QTest::keyClick(find("shapeFile"), Qt::Key_Return);
-    EXPECT_TRUE(dialog->isVisible());
-    EXPECT_EQ(rows().size(), 2);
+    checkEnterInFileField(shapes, "lstShapes");
 }
 
 } // namespace

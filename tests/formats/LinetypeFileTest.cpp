@@ -16,7 +16,7 @@ namespace {
 QStringList listed(const LinetypeListing &listing)
 {
     QStringList rows;
-    for (const LinetypeHeader &linetype : listing.linetypes)
+    for (const LinetypeHeader &linetype : listing.definitions)
         rows.append(linetype.name + u'|' + linetype.description);
     return rows;
 }

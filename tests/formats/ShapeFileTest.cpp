@@ -38,7 +38,7 @@ TEST(ShapeFile, ListsHeadersAndSaysWhatWasOdd)
     for (const auto &row : rows) {
         const ShapeListing listing = readShapeFile(folder.writeFile(u"a.shp"_s, row.bytes));
         QStringList shapes;
-        for (const ShapeHeader &shape : listing.shapes)
+        for (const ShapeHeader &shape : listing.definitions)
             shapes.append(shape.number + u'|' + shape.name);
         EXPECT_EQ(shapes, row.shapes) << row.name;
         EXPECT_EQ(listing.diagnostics, row.odd) << row.name;
@@ -56,8 +56,8 @@ TEST(ShapeFile, ListsFontsMadeElsewhere)
     for (const QFileInfo &file : QDir(corpus + u"/../fonts"_s).entryInfoList({u"*.shp"_s})) {
         const ShapeListing listing = readShapeFile(file.filePath());
         const qsizetype commented = Folder::readFile(file.filePath()).count("; UTF-16:");
-        EXPECT_EQ(listing.shapes.size(), commented + 1) << file.fileName().toStdString();
-        EXPECT_EQ(listing.shapes.value(0), (ShapeHeader{u"UNIFONT"_s, file.completeBaseName()}));
+        EXPECT_EQ(listing.definitions.size(), commented + 1) << file.fileName().toStdString();
+        EXPECT_EQ(listing.definitions.value(0), (ShapeHeader{u"UNIFONT"_s, file.completeBaseName()}));
         ++fonts;
     }
     EXPECT_GE(fonts, 1);
