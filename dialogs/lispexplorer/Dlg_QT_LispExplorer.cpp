@@ -83,11 +83,7 @@ void Dlg_QT_LispExplorer::setUpLibraryPage()
     font.setStyleHint(QFont::TypeWriter);
     font.setFixedPitch(true);
     m_ui->tx_EditLisp->setFont(font);
-    // The colours of the source are made for white paper, in the host's dark style as well.
-    QPalette paper = m_ui->tx_EditLisp->palette();
-    paper.setColor(QPalette::Base, Qt::white);
-    paper.setColor(QPalette::Text, Qt::black);
-    m_ui->tx_EditLisp->setPalette(paper);
+    giveLightGround(*m_ui->tx_EditLisp);
     m_ui->Cb_Format->addItems(tr("Header Only;Function Only;Both").split(u';'));
     m_ui->Cb_Format->setCurrentIndex(int(ortakit::LispPart::Both));
     m_highlighter = std::make_unique<Highlighter>(m_ui->txSearch, m_ui->tx_EditLisp->document());
