@@ -38,7 +38,8 @@ TextReading readTextFile(const QString &path, qint64 largest)
         return {{}, file.errorString()};
     if (file.size() > largest)
         return {{}, tr("The file is too large")};
-    const QByteArray bytes = file.read(largest);
+    // Not as much as is allowed: that much would be reserved before the first byte is read.
+    const QByteArray bytes = file.read(file.size());
     if (file.error() != QFileDevice::NoError)
         return {{}, file.errorString()};
     return {withoutByteOrderMark(bytes), {}};
