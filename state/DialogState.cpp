@@ -16,22 +16,6 @@ QString actionLine(const QString &action)
     return QStringLiteral("!action!") + separator + action + u'\n';
 }
 
-/// The lines that `widget` writes; empty when it does not take part now.
-QString widgetLines(const QWidget &widget)
-{
-    const QString name = widget.objectName().toLower();
-    if (name.isEmpty())
-        return {};
-    const QString value = ortakit::writtenValue(widget);
-    if (value.isEmpty())
-        return {};
-    QString lines = name + u'=' + value + u'\n';
-    const QString index = ortakit::writtenIndex(widget);
-    if (!index.isEmpty())
-        lines += name + QStringLiteral("_index=") + index + u'\n';
-    return lines;
-}
-
 } // namespace
 
 DialogState::DialogState(QDialog *dialog) : m_dialog(dialog)
@@ -73,6 +57,11 @@ void DialogState::apply(const QString &nameFilter, const QStringList &excluded)
     m_loaded = true;
 }
 
+QStringList DialogState::lookupList(const QString &key) const
+{
+    return m_lines.lookupNumbered(key, lookup(key + QStringLiteral("length")).toInt());
+}
+
 void DialogState::save(const QString &favouriteName, const QString &favouriteGroup) const
 {
     if (favouriteName.isEmpty())
@@ -96,13 +85,30 @@ void DialogState::saveFile() const
 {
     QString text;
     for (const QWidget *widget : widgets()) {
-        const QString lines = widgetLines(*widget);
+        const QString lines = linesOf(*widget);
         const bool isFirst = text.isEmpty() && !lines.isEmpty();
         text += lines;
         if (isFirst)
             text += actionLine(m_action);
     }
     ortakit::writeStateFile(m_path, text);
+}
+
+/// The lines that `widget` writes; empty when it does not take part now.
+QString DialogState::linesOf(const QWidget &widget) const
+{
+    const QString name = widget.objectName().toLower();
+    if (name.isEmpty())
+        return {};
+    const auto instead = m_writtenValues.constFind(name);
+    const QString value = instead != m_writtenValues.cend() ? *instead : ortakit::writtenValue(widget);
+    if (value.isEmpty())
+        return {};
+    QString lines = name + u'=' + value + u'\n';
+    const QString index = ortakit::writtenIndex(widget);
+    if (!index.isEmpty())
+        lines += name + QStringLiteral("_index=") + index + u'\n';
+    return lines;
 }
 
 QList<QWidget *> DialogState::widgets() const

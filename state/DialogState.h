@@ -36,10 +36,18 @@ public:
     /// `key` and "=" anywhere in it, in any case. See StateLines::lookup().
     QString lookup(const QString &key) const { return m_lines.lookup(key); }
 
+    /// A list that a program gives as numbered values: those under `key`1, `key`2 and so on, as many as `key`length
+    /// says, without the empty ones. Each is looked up as lookup() does.
+    QStringList lookupList(const QString &key) const;
+
     /// The word for the Lisp program, written by every save() until another is set. A word with a value is set as
     /// "WORD=value".
     void setAction(const QString &word) { m_action = word; }
     QString action() const { return m_action; }
+
+    /// From now on save() writes `value` for the widget called `name` (any case) instead of what the widget says, for a
+    /// program that wants it in another form.
+    void setWrittenValue(const QString &name, const QString &value) { m_writtenValues.insert(name.toLower(), value); }
 
     /// Writes the values of all widgets and the action word to the file of the last load(). The action line follows
     /// the first widget's; without a widget that has a value the file is empty. A crash or a full disk leaves the old
@@ -65,6 +73,7 @@ public:
 
 private:
     QList<QWidget *> widgets() const;
+    QString linesOf(const QWidget &widget) const;
     void saveFile() const;
     void saveFavourite(const QString &name, const QString &group) const;
 
@@ -73,5 +82,6 @@ private:
     QString m_path;
     QString m_favouritesFolder;
     QString m_action;
+    QHash<QString, QString> m_writtenValues;
     bool m_loaded = false;
 };

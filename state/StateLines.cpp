@@ -1,5 +1,6 @@
 #include "state/StateLines.h"
 
+#include <QMap>
 #include <QStringMatcher>
 
 #include <algorithm>
@@ -10,6 +11,18 @@ QStringView keyOf(QStringView line)
 {
     const qsizetype end = line.indexOf(u'=');
     return end < 0 ? line : line.first(end);
+}
+
+/// The number that stands in `line` before `end` and behind `key`, in any case; 0 when there is none, or it does not
+/// have the one spelling that a program looks for.
+qsizetype numberBefore(QStringView line, qsizetype end, const QString &key)
+{
+    qsizetype begin = end;
+    while (begin > 0 && line[begin - 1] >= u'0' && line[begin - 1] <= u'9')
+        --begin;
+    if (begin == end || line[begin] == u'0' || !line.first(begin).endsWith(key, Qt::CaseInsensitive))
+        return 0;
+    return line.sliced(begin, end - begin).toInt();
 }
 
 } // namespace
@@ -63,6 +76,22 @@ QString StateLines::lookup(const QString &key) const
             return secondField(line);
     }
     return {};
+}
+
+QStringList StateLines::lookupNumbered(const QString &key, qsizetype count) const
+{
+    QMap<qsizetype, QString> found;
+    for (qsizetype line = 0; line < m_lines.size(); ++line) {
+        const QString &text = m_lines[line];
+        for (qsizetype end = text.indexOf(u'='); end >= 0; end = text.indexOf(u'=', end + 1)) {
+            const qsizetype number = numberBefore(text, end, key);
+            if (number > 0 && number <= count && !found.contains(number))
+                found.insert(number, secondField(line));
+        }
+    }
+    QStringList values = found.values();
+    values.removeAll(QString());
+    return values;
 }
 
 void StateLines::indexLines()

@@ -24,6 +24,10 @@ public:
     /// for one key before or after another to steer what is found: "size" is answered by "_dist_size=2".
     QString lookup(const QString &key) const;
 
+    /// What lookup() finds for `key` and each decimal number from 1 to `count`, in this order, without what is empty.
+    /// Takes time in proportion to the lines, whatever `count` is.
+    QStringList lookupNumbered(const QString &key, qsizetype count) const;
+
     const QStringList &lines() const { return m_lines; }
 
 private:

@@ -194,6 +194,29 @@ TEST_F(DialogStateTest, AValueIsCutAtItsEqualsSign)
     EXPECT_EQ(edit->text(), u"a"_s);
 }
 
+TEST_F(DialogStateTest, AListIsAsLongAsItsLengthSays)
+{
+    loadText("textstylelength=2\ntextstyle1=Standard\ntextstyle2=Roman\ntextstyle3=old\n"
+             "dimstylelength=2000000000\ndimstyle7=ISO-25\nodd1=a\n");
+    EXPECT_EQ(state.lookupList(u"textstyle"_s), (QStringList{u"Standard"_s, u"Roman"_s}));
+    EXPECT_EQ(state.lookupList(u"dimstyle"_s), QStringList{u"ISO-25"_s});
+    EXPECT_EQ(state.lookupList(u"odd"_s), QStringList());
+}
+
+// What a program wants in another form than the widget has takes the place of the widget's line.
+TEST_F(DialogStateTest, AWrittenValueTakesThePlaceOfTheWidgets)
+{
+    addEdit(u"lstNames"_s, u"A^B^"_s);
+    addEdit(u"other"_s, u"x"_s);
+    loadText({});
+    state.setWrittenValue(u"lstNames"_s, u",A,B"_s);
+    EXPECT_EQ(saved(), "\xEF\xBB\xBF"
+                       "lstnames=,A,B\n!action!=\nother=x\n");
+    state.setWrittenValue(u"LSTNAMES"_s, {});
+    EXPECT_EQ(saved(), "\xEF\xBB\xBF"
+                       "other=x\n!action!=\n");
+}
+
 TEST_F(DialogStateTest, SettingAWidgetMayDeleteAnother)
 {
     auto *check = new QCheckBox(&dialog);

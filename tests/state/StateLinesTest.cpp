@@ -86,6 +86,29 @@ TEST(StateLines, LookupTakesTheFirstLineThatHoldsTheKeyAnywhere)
     }
 }
 
+TEST(StateLines, NumberedKeysAreFoundAsEachAlone)
+{
+    const LookupRow rows[] = {
+        {"in the order of the numbers", {u"style2=b"_s, u"style1=a"_s}, u"style"_s, u"a b"_s},
+        {"ten is not one", {u"style10=j"_s, u"style1=a"_s}, u"style"_s, u"a j"_s},
+        {"not beyond the count", {u"style11=k"_s, u"style0=z"_s, u"style99999999999=y"_s}, u"style"_s, {}},
+        {"the end of another key, the first of two", {u"xSTYLE1=x"_s, u"style1=a"_s}, u"style"_s, u"x"_s},
+        {"inside a value", {u"note=my style3=c"_s}, u"style"_s, u"my style3"_s},
+        {"gaps and empty values", {u"style1="_s, u"style1=a"_s, u"style4=d"_s}, u"style"_s, u"d"_s},
+        {"other spellings of a number", {u"style01=a"_s, u"style+2=b"_s, u"style 3=c"_s}, u"style"_s, {}},
+    };
+    for (const LookupRow &row : rows) {
+        StateLines lines;
+        lines.assign(row.stored);
+        QStringList alone;
+        for (int number = 1; number <= 10; ++number)
+            alone.append(lines.lookup(row.key + QString::number(number)));
+        alone.removeAll(QString());
+        EXPECT_EQ(alone.join(u' '), row.expected) << row.name;
+        EXPECT_EQ(lines.lookupNumbered(row.key, 10), alone) << row.name;
+    }
+}
+
 TEST(StateLines, LookupSeesEveryChange)
 {
     StateLines lines;
