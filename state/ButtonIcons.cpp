@@ -6,6 +6,15 @@
 
 namespace ortakit {
 
+QAbstractButton *findButton(const QWidget &dialog, QLatin1String name)
+{
+    for (auto *button : dialog.findChildren<QAbstractButton *>()) {
+        if (button->objectName().compare(name, Qt::CaseInsensitive) == 0)
+            return button;
+    }
+    return nullptr;
+}
+
 void decorateButtons(const QWidget &dialog)
 {
     static constexpr struct
@@ -18,7 +27,7 @@ void decorateButtons(const QWidget &dialog)
         {QLatin1String("buttonHelp"), QLatin1String("help")},
     };
     for (const auto &[name, iconName] : buttons) {
-        auto *button = dialog.findChild<QAbstractButton *>(name);
+        QAbstractButton *button = findButton(dialog, name);
         const QIcon icon = button ? CKvUtils::icon(QStringLiteral(":/images/shared"), iconName) : QIcon();
         if (!icon.isNull())
             button->setIcon(icon);

@@ -1,8 +1,15 @@
 #pragma once
 
+#include <QLatin1String>
+
 class QWidget;
 
+class QAbstractButton;
+
 namespace ortakit {
+
+/// The button below `dialog` with this object name, in any case; null when there is none.
+QAbstractButton *findButton(const QWidget &dialog, QLatin1String name);
 
 /// Gives "acceptButton", "ButtonCancel" and "buttonHelp" below `dialog` the shared icons in the variant of the host's
 /// style. A button that is not there, and one whose icon the host does not have, stays as it is.

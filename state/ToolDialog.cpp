@@ -22,9 +22,9 @@ void ToolDialog::showHelp()
 
 void ToolDialog::setUpButtons()
 {
-    if (const auto *help = findChild<QAbstractButton *>(QStringLiteral("buttonHelp")))
+    if (const auto *help = ortakit::findButton(*this, QLatin1String("buttonHelp")))
         connect(help, &QAbstractButton::clicked, this, &ToolDialog::showHelp, Qt::UniqueConnection);
-    if (const auto *cancel = findChild<QAbstractButton *>(QStringLiteral("ButtonCancel")))
+    if (const auto *cancel = ortakit::findButton(*this, QLatin1String("ButtonCancel")))
         connect(cancel, &QAbstractButton::clicked, this, &ToolDialog::reject, Qt::UniqueConnection);
     for (const auto *box : findChildren<QDialogButtonBox *>())
         connect(box, &QDialogButtonBox::helpRequested, this, &ToolDialog::showHelp, Qt::UniqueConnection);

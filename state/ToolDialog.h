@@ -28,7 +28,7 @@ public slots:
 protected:
     /// To be called once behind setupUi(): connects the buttons "buttonHelp" and Help of button boxes to showHelp() and
     /// "ButtonCancel" to reject(); "acceptButton" and Close of button boxes are the tool's own. Their icons come with
-    /// each showing and follow the host's style.
+    /// each showing and follow the host's style. The case of the names does not matter.
     void setUpButtons();
 
     /// Fills what depends on the drawing or the disk, each time.
