@@ -90,14 +90,21 @@ void ensureClass(Drawing &drawing, const QString &type)
     drawing.insert(noRecord, ensureSection(drawing, Section::Classes), RecordKind::Class, fields);
 }
 
+void ensureApplications(Drawing &drawing, const FieldList &fields)
+{
+    for (const Field &field : fields) {
+        if (field.code == 1001 && !field.text().isEmpty())
+            drawing.tables().add(TableKind::AppId, field.text());
+    }
+}
+
 void ensureNamed(Drawing &drawing, const FieldList &fields)
 {
     for (const Field &field : fields) {
         if (field.code == 8 && !field.text().isEmpty())
             drawing.tables().add(TableKind::Layer, field.text());
-        else if (field.code == 1001 && !field.text().isEmpty())
-            drawing.tables().add(TableKind::AppId, field.text());
     }
+    ensureApplications(drawing, fields);
 }
 
 FieldList recordHead(Drawing &drawing, const QString &type, Handle owner)

@@ -11,6 +11,9 @@ RecordId ensureSection(Drawing &drawing, Section section);
 /// Does nothing for other types.
 void ensureClass(Drawing &drawing, const QString &type);
 
+/// Registered applications that fields name (group 1001) are made when missing.
+void ensureApplications(Drawing &drawing, const FieldList &fields);
+
 /// Layers and registered applications that fields name (groups 8 and 1001) are made when missing.
 void ensureNamed(Drawing &drawing, const FieldList &fields);
 

@@ -2,6 +2,7 @@
 
 #include "host/drawing/Journal.h"
 #include "host/drawing/Structure.h"
+#include "host/drawing/TableCodes.h"
 
 namespace host::drawing {
 
@@ -72,6 +73,13 @@ FieldList versionDefaults(const Drawing &drawing, TableKind kind)
         }
     }
     return fields;
+}
+
+bool mayHaveName(TableKind kind, const QString &name, const FieldList &fields)
+{
+    const Field *flags = findField(fields, 70);
+    const bool isShapeFile = kind == TableKind::Style && flags && (flags->integer() & 1);
+    return !name.isEmpty() || isShapeFile;
 }
 
 bool isHeadCode(TableKind kind, int code)
@@ -188,11 +196,12 @@ RecordId Tables::createTable(TableKind kind)
 
 RecordId Tables::add(TableKind kind, const QString &name, const FieldList &fields)
 {
-    if (name.isEmpty() || (kind == TableKind::BlockRecord && !hasMarkers(m_drawing)))
+    if (!mayHaveName(kind, name, fields) || (kind == TableKind::BlockRecord && !hasMarkers(m_drawing)))
         return noRecord;
-    if (const RecordId existing = find(kind, name); isValid(existing))
+    if (const RecordId existing = find(kind, name); isValid(existing) && !name.isEmpty())
         return existing;
     const JournalGroup group(m_drawing.journal(), {});
+    ensureApplications(m_drawing, fields);
     const RecordId head = ensureTable(kind);
     FieldList entry = recordHead(m_drawing, QString::fromLatin1(tableTypeName(kind)), m_drawing.handle(head));
     if (hasMarkers(m_drawing)) {
@@ -203,8 +212,23 @@ RecordId Tables::add(TableKind kind, const QString &name, const FieldList &field
     FieldList defaults = rule(kind).defaults;
     for (Field &extra : versionDefaults(m_drawing, kind))
         defaults.push_back(std::move(extra));
-    appendBody(entry, kind, defaults, fields);
+    FieldList known = fields;
+    std::erase_if(known, [&](const Field &field) { return !hasCode(kind, field.code, m_drawing.version()); });
+    appendBody(entry, kind, defaults, known);
     return m_drawing.insert(noRecord, head, RecordKind::TableEntry, entry);
+}
+
+bool Tables::modify(RecordId entry, const FieldList &fields)
+{
+    const auto kind = tableKindOf(QString::fromLatin1(m_drawing.typeName(entry)));
+    const FieldList present = m_drawing.fields(entry);
+    FieldList known = fields;
+    std::erase_if(known, [&](const Field &field) {
+        return kind && !hasCode(*kind, field.code, m_drawing.version()) && !findField(present, field.code);
+    });
+    const JournalGroup group(m_drawing.journal(), {});
+    ensureApplications(m_drawing, known);
+    return m_drawing.setFields(entry, known);
 }
 
 } // namespace host::drawing

@@ -44,8 +44,12 @@ public:
     /// Adds an entry, with the table itself when the file lacks it. `fields` need neither type, handle nor subclass
     /// markers; what the kind requires and they do not say is filled in (a layer: colour 7, linetype Continuous).
     /// An entry of that name that exists comes back unchanged. noRecord when the version has no such table, or the name
-    /// is empty.
+    /// is empty; only the styles that stand for shape files (flag 1) have no name. Groups that the version does not
+    /// have are left out (see hasCode()), registered applications that are missing are made.
     RecordId add(TableKind kind, const QString &name, const FieldList &fields = {});
+    /// Gives an entry these fields, without groups that the version does not have unless the entry had them before.
+    /// False when nothing changed.
+    bool modify(RecordId entry, const FieldList &fields);
 
 private:
     using NameMap = QHash<QString, RecordId>;

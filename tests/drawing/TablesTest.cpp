@@ -102,6 +102,53 @@ TEST(Tables, LinetypesWithTextsAndShapes)
     EXPECT_EQ(findTextStyle(*drawing, u"standard")->fontFile, u"txt"_s);
 }
 
+// What a newer version has and the drawing's does not would make the file unreadable there.
+TEST(Tables, EntriesHaveNoGroupsThatTheVersionLacks)
+{
+    const FieldList given = {{40, 2.0}, {342, Handle{0x12}}, {271, qint64(3)}, {49, 1.5}, {345, Handle{0x13}}};
+    const struct
+    {
+        const char *version;
+        std::vector<int> kept;
+    } rows[] = {
+        {"AC1009", {40}},
+        {"AC1014", {40, 271}},
+        {"AC1015", {40, 342, 271}},
+        {"AC1021", {40, 342, 271, 49, 345}},
+    };
+    for (const auto &row : rows) {
+        const auto drawing = sample(row.version);
+        Tables &tables = drawing->tables();
+        const RecordId made = tables.add(TableKind::DimStyle, u"Made"_s, given);
+        const RecordId changed = tables.add(TableKind::DimStyle, u"Changed"_s);
+        FieldList fields = drawing->fields(changed);
+        fields.insert(fields.end(), given.begin(), given.end());
+        EXPECT_TRUE(tables.modify(changed, fields));
+        EXPECT_FALSE(tables.modify(changed, drawing->fields(changed)));
+        for (const RecordId style : {made, changed}) {
+            std::vector<int> kept;
+            for (const Field &field : drawing->fields(style)) {
+                if (findField(given, field.code))
+                    kept.push_back(field.code);
+            }
+            EXPECT_EQ(kept, row.kept) << row.version;
+        }
+    }
+}
+
+// Styles that stand for shape files have no name and are told apart by their file.
+TEST(Tables, StylesOfShapeFilesHaveNoName)
+{
+    const auto drawing = sample("AC1015");
+    Tables &tables = drawing->tables();
+    const RecordId first = tables.add(TableKind::Style, {}, {{70, qint64(1)}, {3, u"a.shx"_s}});
+    const RecordId second = tables.add(TableKind::Style, {}, {{70, qint64(1)}, {3, u"b.shx"_s}});
+    EXPECT_NE(first, second);
+    EXPECT_EQ(readTextStyle(*drawing, second).fontFile, u"b.shx"_s);
+    EXPECT_FALSE(isValid(tables.add(TableKind::Style, {}, {{3, u"a.shx"_s}})));
+    EXPECT_AUDIT_CLEAN(*drawing);
+}
+
 TEST(Blocks, AreMadeFoundAndEmptied)
 {
     for (const QByteArray &version : {QByteArray("AC1009"), QByteArray("AC1015")}) {

@@ -1,6 +1,7 @@
 // Entities by name: reading, changing, making, erasing.
 
 #include "host/drawing/Entities.h"
+#include "host/drawing/Tables.h"
 #include "host/kernel/Document.h"
 #include "host/kernel/functions/EntityList.h"
 #include "host/kernel/functions/EntityMaker.h"
@@ -72,7 +73,10 @@ Value modifyEntity(Arguments &args, RecordId record)
         const QString error = drawing.entities().modify(record, wanted);
         return error.isEmpty() ? args[0] : refused(args, error);
     }
-    drawing.setFields(record, wanted);
+    if (drawing.kind(record) == RecordKind::TableEntry)
+        drawing.tables().modify(record, wanted);
+    else
+        drawing.setFields(record, wanted);
     return args[0];
 }
 

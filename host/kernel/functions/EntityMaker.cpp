@@ -166,7 +166,7 @@ EntityMaker::Outcome EntityMaker::makeTableEntry(const QString &type, const Fiel
     drawing::Tables &tables = m_document.drawing().tables();
     const drawing::TableKind kind = *drawing::tableKindOf(type);
     const QString name = textOf(fields, 2);
-    if (isValid(tables.find(kind, name)))
+    if (!name.isEmpty() && isValid(tables.find(kind, name)))
         return failed(u"%1: \"%2\" exists already"_s.arg(type, name));
     const RecordId entry = tables.add(kind, name, fields);
     return isValid(entry) ? Outcome{true, entry, {}, {}} : failed(u"%1: the name is missing"_s.arg(type));
