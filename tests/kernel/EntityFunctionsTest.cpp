@@ -124,6 +124,12 @@ const std::vector<LispCase> entityCases = {
      "(cdr (assoc 2 (tblnext \"LAYER\")))", "\"B\""},
     {"an unknown table is an error", "", "(tblsearch \"NOSUCH\" \"0\")",
      "error: bad argument value: table name \"NOSUCH\" in (TBLSEARCH), argument 1"},
+    {"an early dimension style names its arrow block", "",
+     "(setq e (entmakex '((0 . \"DIMSTYLE\") (2 . \"Old\") (5 . \"_Dot\"))))(cdr (assoc 5 (entget e)))", "\"_Dot\""},
+    {"an application that a table entry names is made", "",
+     "(entmake '((0 . \"STYLE\") (2 . \"S\") (70 . 0) (-3 (\"NEWAPP\" (1000 . \"a\")))))"
+     "(cdr (assoc 2 (tblsearch \"APPID\" \"newapp\")))",
+     "\"NEWAPP\""},
     {"tblobjname gives a name to entget", "", "(cdr (assoc 2 (entget (tblobjname \"STYLE\" \"standard\"))))",
      "\"Standard\""},
     {"entmod changes a table entry", "",
@@ -161,6 +167,20 @@ TEST_P(LispOnDrawing, gives)
 }
 
 INSTANTIATE_TEST_SUITE_P(Entities, LispOnDrawing, testing::ValuesIn(entityCases));
+
+// An angle that a program read as radians and hands on is written with the digits it had.
+using AnglesOfPrograms = Bench;
+TEST_F(AnglesOfPrograms, areWrittenAsTheyWereMeant)
+{
+    for (int half = -720; half <= 720; ++half) {
+        const double degrees = half / 2.0;
+        const std::string radians = "(* pi (/ " + std::to_string(degrees) + " 180))";
+        lisp("(entmake (list '(0 . \"TEXT\") '(10 0 0 0) '(40 . 1) '(1 . \"a\") (cons 50 " + radians + ")))");
+        EXPECT_EQ(drawing().tags(drawing().entities().all().back()).real(50), degrees);
+    }
+    lisp("(entmake '((0 . \"TEXT\") (10 0 0 0) (40 . 1) (1 . \"a\") (50 . 1.0)))");
+    EXPECT_DOUBLE_EQ(drawing().tags(drawing().entities().all().back()).real(50), 57.29577951308232);
+}
 
 /// A small file with odd spelling that must survive what nobody meant to change.
 QByteArray oddFile()

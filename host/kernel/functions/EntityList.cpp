@@ -41,6 +41,16 @@ bool isAngleCode(int code)
     return code >= 50 && code <= 58;
 }
 
+/// Degrees that come out of radians as they went in: a number of few digits is meant where it lies within the error of
+/// the two conversions.
+double degreesFrom(double radians)
+{
+    const double degrees = qRadiansToDegrees(radians);
+    const double meant = std::round(degrees * 1e9) / 1e9;
+    constexpr double error = 4 * std::numeric_limits<double>::epsilon();
+    return std::abs(degrees - meant) <= error * std::abs(degrees) ? meant : degrees;
+}
+
 Value nameFor(const Document &document, Handle handle)
 {
     const RecordId record = document.drawing().find(handle);
@@ -95,7 +105,7 @@ drawing::FieldValue realValue(const Value &item, int code, const Value &value, A
 {
     if (value.isNumber() && std::isfinite(value.asReal())) {
         const bool isAngle = angles == AngleForm::Radians && isAngleCode(code);
-        return isAngle ? qRadiansToDegrees(value.asReal()) : value.asReal();
+        return isAngle ? degreesFrom(value.asReal()) : value.asReal();
     }
     const std::optional<Vec3> point = drawing::isPointCode(code) ? pointFrom(value) : std::nullopt;
     if (!point || !std::isfinite(point->x) || !std::isfinite(point->y) || !std::isfinite(point->z))
@@ -111,9 +121,12 @@ drawing::FieldValue handleValue(const Document &document, const Value &item, con
         return handleFor(document, item, value.asEntityName());
     const std::optional<Handle> handle =
         value.isString() ? Handle::fromText(QString::fromStdString(value.asString())) : std::nullopt;
-    if (!handle)
-        throw EntityListError{QStringLiteral("not an entity name or handle"), item};
-    return *handle;
+    if (handle)
+        return *handle;
+    // A dimension style of an early version has the name of its arrow block where others have their handle.
+    if (value.isString() && item.car().asInteger() == 5)
+        return QString::fromStdString(value.asString());
+    throw EntityListError{QStringLiteral("not an entity name or handle"), item};
 }
 
 drawing::FieldValue textValue(const Value &item, const Value &value)
