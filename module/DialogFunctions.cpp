@@ -7,6 +7,8 @@
 #include "dialogs/makeshape/Dlg_QT_MakeShape.h"
 #include "dialogs/replaceblock/Dlg_QT_ReplaceBlock.h"
 #include "dialogs/replaceblocktoxref/Dlg_QT_ReplaceBlockToXref.h"
+#include "dialogs/dimensionstyle/Dlg_QT_ExchangedDimensionStyle.h"
+#include "dialogs/dimensionstyle/Dlg_QT_ImportDimensionStyle.h"
 #include "module/RunDialog.h"
 #include "platform/kernel/CKvSystemServices.h"
 
@@ -97,6 +99,16 @@ int dlgReplaceBlockToXref()
     return replaceBlocks<Dlg_QT_ReplaceBlockToXref>(DialogSlot::ReplaceBlockByReference, [](CKvDocument &document) {
         return isRefused(QStringLiteral("replaceblocktoxref"), document);
     });
+}
+
+int dlgExDimensionStyle()
+{
+    return runDialog<Dlg_QT_ExchangedDimensionStyle>(DialogSlot::ExportDimensionStyle, {});
+}
+
+int dlgImDimensionStyle()
+{
+    return runDialog<Dlg_QT_ImportDimensionStyle>(DialogSlot::ImportDimensionStyle, {});
 }
 
 } // namespace ortakit

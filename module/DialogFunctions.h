@@ -11,6 +11,8 @@ int dlgMakeLineStyle();
 int dlgMakeShape();
 int dlgReplaceBlock();
 int dlgReplaceBlockToXref();
+int dlgExDimensionStyle();
+int dlgImDimensionStyle();
 /// @}
 
 } // namespace ortakit

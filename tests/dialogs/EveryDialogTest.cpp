@@ -7,6 +7,8 @@
 #include "dialogs/makeshape/Dlg_QT_MakeShape.h"
 #include "dialogs/replaceblock/Dlg_QT_ReplaceBlock.h"
 #include "dialogs/replaceblocktoxref/Dlg_QT_ReplaceBlockToXref.h"
+#include "dialogs/dimensionstyle/Dlg_QT_ExchangedDimensionStyle.h"
+#include "dialogs/dimensionstyle/Dlg_QT_ImportDimensionStyle.h"
 #include "tests/support/FakeHost.h"
 #include "tests/support/QtTestPrinters.h"
 
@@ -47,6 +49,8 @@ constexpr Row rows[] = {
     row<Dlg_QT_MakeShape>("MakeShape", "9132"),
     row<Dlg_QT_ReplaceBlock>("ReplaceBlock", "9105"),
     row<Dlg_QT_ReplaceBlockToXref>("ReplaceBlockToXref", "9106"),
+    row<Dlg_QT_ExchangedDimensionStyle>("ExchangedDimensionStyle", "9121"),
+    row<Dlg_QT_ImportDimensionStyle>("ImportDimensionStyle", "9122"),
 };
 
 void PrintTo(const Row &row, std::ostream *out)
