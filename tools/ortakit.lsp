@@ -6,7 +6,8 @@
 ;;; support/entities.lsp  entity data, selections, bounding boxes
 ;;; support/catalogue.lsp what the Lisp engine holds, for the Lisp Explorer
 ;;; support/files.lsp     files of definitions, changed in one place
+;;; support/dimstyles.lsp dimension styles as text
 
-(foreach file '("strings" "run" "state" "entities" "catalogue" "files")
+(foreach file '("strings" "run" "state" "entities" "catalogue" "files" "dimstyles")
   (load (strcat "support/" file ".lsp")))
 (princ)

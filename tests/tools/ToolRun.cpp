@@ -85,13 +85,18 @@ QString ToolRun::result(const QString &drawing) const
     return path(u"out/"_s + QFileInfo(drawing).completeBaseName() + u".dxf"_s);
 }
 
-testing::AssertionResult isSound(const QString &drawing)
+QString runPython(const QStringList &arguments)
 {
     // Debian's interpreter by its path: another one that comes first does not know Debian's packages.
+    return runProgram(u"/usr/bin/python3"_s, arguments).output;
+}
+
+testing::AssertionResult isSound(const QString &drawing)
+{
     const QString script = u"import sys, ezdxf\n"
                            "errors = ezdxf.readfile(sys.argv[1]).audit().errors\n"
                            "print('; '.join(e.message for e in errors) or 'ok')\n"_s;
-    const QString said = runProgram(u"/usr/bin/python3"_s, {u"-c"_s, script, drawing}).output.trimmed();
+    const QString said = runPython({u"-c"_s, script, drawing}).trimmed();
     if (said == u"ok"_s)
         return testing::AssertionSuccess();
     return testing::AssertionFailure() << said.toStdString();

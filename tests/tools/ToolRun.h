@@ -36,6 +36,9 @@ private:
     QTemporaryDir m_folder;
 };
 
+/// What Python with an independent reader of drawings prints, on both streams, for these arguments.
+QString runPython(const QStringList &arguments);
+
 /// Whether an independent reader finds no error in the drawing; its complaints are the message.
 testing::AssertionResult isSound(const QString &drawing);
 

@@ -1,0 +1,200 @@
+;;; menu: Import dimension styles | DIMSTYLEIMPORT | Brings dimension styles from a file into the drawing
+;;;
+;;; DIMSTYLEIMPORT: the dialog gives a file, the styles chosen from it, and whether dimension styles and text styles
+;;; that the drawing has already are overwritten; without that they stay as they are. Linetypes that the drawing has
+;;; stay always. A style's name in the dialog is its first word; all styles of the file that begin so are taken.
+;;; support/dimstyles.lsp says what a file looks like.
+
+(defun c:dimstyleimport (/ *error* kora:variables file state)
+  (kora_begin '(("CMDECHO" . 0)))
+  (setq file (kora_statefile "dimstyleimport"))
+  (if (dimstyleimport:write_state file)
+    (if (Dlg_ImDimensionStyle file)
+      (dimstyleimport:import (setq state (kora_readstate file))
+                             (dimstyleimport:read (kora_state_value state "txexport")
+                                                  (cdr (kora_string_split (kora_state_value state "lststyles") ",")))))
+    (kora_alert_message (strcat "The file " file " could not be written.")))
+  (kora_end))
+
+;; Tells the dialog what the drawing has, by first words as the dialog knows names; the file of the last time stays.
+;; -> T, nil when the state file cannot be written.
+(defun dimstyleimport:write_state (file / path handle)
+  (setq path (kora_state_value (kora_readstate file) "txexport"))
+  (if (setq handle (open file "w"))
+    (progn
+      (if (/= path "") (write-line (strcat "txexport=" path) handle))
+      (dimstyleimport:write_names handle "dimstyle" (kora_table_names "DIMSTYLE"))
+      (dimstyleimport:write_names handle "textstyle" (kora_table_names "STYLE"))
+      (close handle)
+      T)))
+
+(defun dimstyleimport:write_names (handle key names / number)
+  (write-line (strcat key "length=" (itoa (length names))) handle)
+  (setq number 0)
+  (foreach name names
+    (write-line (strcat key (itoa (setq number (1+ number))) "=" (kora_first_word name)) handle)))
+
+;; -> the sections of the file whose name begins with one of words; see dimstyleimport:section.
+(defun dimstyleimport:read (path words / handle line sections)
+  (setq words (mapcar 'strcase words))
+  (if (setq handle (open path "r"))
+    (progn
+      (while (setq line (read-line handle))
+        (setq line (kora:without_mark line))
+        (if (and (vl-string-search "DIMENSION_STYLE_NAME" (kora_first_word line))
+                 (member (strcase (kora_first_word (kora_behind_blank line))) words))
+          (setq sections (cons (dimstyleimport:section (kora_behind_blank line) handle) sections))))
+      (close handle))
+    (kora_alert_message (strcat "The file " path " could not be read.")))
+  (reverse sections))
+
+;; Reads a section's body. -> (name variables linetypes), nil in place of the variables when the file ends within it.
+;; variables is a list of (variable . text), linetypes one of (word name lines of the definition).
+(defun dimstyleimport:section (name handle / line closed variables linetypes)
+  (while (and (not closed) (setq line (read-line handle)))
+    (cond ((vl-string-search "END_OF_STYLE" line) (setq closed T))
+          ((and (not (vl-string-search "DIMTXSTY" line)) (not (vl-string-search "DIMTXT_" line))
+                (or (vl-string-search "DIMLT " line) (vl-string-search "DIMEX1LT " line)
+                    (vl-string-search "DIMEX2LT " line)))
+           (setq linetypes (cons (dimstyleimport:linetype line handle) linetypes)))
+          (T (setq variables (cons (cons (kora_first_word line) (kora_behind_blank line)) variables)))))
+  (list name (if closed (reverse variables)) (reverse linetypes)))
+
+;; The name may have blanks; the count is behind the last one. The definition is taken by whole lines, so that a file
+;; whose line ends have changed since is read as well.
+(defun dimstyleimport:linetype (line handle / parts left lines text)
+  (setq parts (reverse (cdr (kora_string_split line " ")))
+        left  (max 0 (atoi (car parts))))
+  (while (and left (setq text (read-line handle)))
+    (if (> left 0) (setq lines (cons text lines)))
+    (setq left (- left (kora_characters text) 2))
+    (if (< left 0) (setq left nil)))
+  (list (kora_first_word line) (kora:joined (reverse (cdr parts)) " ") (reverse lines)))
+
+(defun dimstyleimport:import (state sections / texts dimensions count)
+  (setq texts      (= (kora_state_value state "cbtextstyle") "TRUE")
+        dimensions (= (kora_state_value state "cbdimensionstyle") "TRUE")
+        count      0)
+  (foreach section sections
+    (if (dimstyleimport:style section texts dimensions) (setq count (1+ count))))
+  (kora_alert_message (strcat (itoa count) (if (= count 1) " dimension style" " dimension styles") " imported.")))
+
+;; Makes or overwrites one style. -> T, nil after a message when the style stays as it was.
+(defun dimstyleimport:style (section texts dimensions / name existing)
+  (setq name     (car section)
+        existing (tblobjname "DIMSTYLE" name))
+  (cond
+    ((null (cadr section)) (kora_alert_message (strcat "The style " name " is cut off in the file.")) nil)
+    ((not (snvalid name)) (kora_alert_message (strcat name " cannot be the name of a dimension style.")) nil)
+    ((and existing (not dimensions))
+     (if texts (dimstyleimport:overwrite_text_style (cadr section)))
+     (kora_alert_message (strcat "The style " name " exists already and stays as it is."))
+     nil)
+    ((if existing
+       (entmod (dimstyleimport:changed (entget existing) (dimstyleimport:fields section texts)))
+       (entmake (append (list '(0 . "DIMSTYLE") '(100 . "AcDbSymbolTableRecord") '(100 . "AcDbDimStyleTableRecord")
+                              (cons 2 name) '(70 . 0))
+                        (dimstyleimport:fields section texts))))
+     T)
+    (T (kora_alert_message (strcat "The style " name " could not be made.")) nil)))
+
+;; -> the groups of a dimension style's record, DIMTXT and DIMTXSTY as well; what they refer to is made.
+(defun dimstyleimport:fields (section texts / variables value fields)
+  (setq variables (cadr section))
+  (foreach row kora:dim_variables
+    (if (setq value (assoc (cadr row) variables))
+      (setq fields (cons (cons (car row) (kora_text_value (cdr value) (caddr row))) fields))))
+  (append (reverse fields)
+          (dimstyleimport:reference 340 (dimstyleimport:text_style variables texts))
+          (apply 'append (mapcar '(lambda (row) (dimstyleimport:arrow row (assoc (caddr row) variables)))
+                                 kora:dim_arrows))
+          (apply 'append (mapcar '(lambda (row) (dimstyleimport:linetype_reference row (caddr section)))
+                                 kora:dim_linetypes))))
+
+(defun dimstyleimport:reference (code entity)
+  (if entity (list (cons code entity))))
+
+;; The group for an arrow: the block's record, in early versions its name. None for an arrow that the drawing lacks.
+(defun dimstyleimport:arrow (row variable / name block record)
+  (setq name (if variable (kora_with_characters (cdr variable)) ""))
+  (cond ((= name "") nil)
+        ((null (setq block (tblobjname "BLOCK" name)))
+         (kora_alert_message (strcat "The drawing has no block " name " for " (caddr row) ", the usual arrow is used."))
+         nil)
+        ((setq record (kora_field (entget block) 330)) (list (cons (car row) record)))
+        ((cadr row) (list (cons (cadr row) name)))))
+
+;; The group for a linetype, which is made where the drawing lacks it.
+(defun dimstyleimport:linetype_reference (row linetypes / found name)
+  (foreach linetype linetypes
+    (if (= (car linetype) (cadr row)) (setq found linetype)))
+  (setq name (if found (kora_with_characters (cadr found))))
+  (cond ((null found) nil)
+        ((tblobjname "LTYPE" name) (list (cons (car row) (tblobjname "LTYPE" name))))
+        ((if (snvalid name) (dimstyleimport:make_linetype (car row) name (caddr found))))
+        (T (kora_alert_message (strcat "The linetype " name " has no definition in the file.")) nil)))
+
+;; -> the linetype's group after making it, nil when the definition is none.
+(defun dimstyleimport:make_linetype (code name lines / data entity)
+  (if (and (setq data (kora_linetype_fields lines))
+           (setq entity (entmakex (kora_with_field data 2 name))))
+    (list (cons code entity))))
+
+;; -> the entity name of the text style that variables name, nil when they name none. It is made where the drawing lacks
+;; it, and gets the file's definition where it may be overwritten.
+(defun dimstyleimport:text_style (variables overwrite / name definition style)
+  (setq name       (assoc "DIMTXSTY" variables)
+        name       (if name (kora_with_characters (cdr name)) "")
+        definition (dimstyleimport:text_definition variables)
+        style      (if (/= name "") (tblobjname "STYLE" name)))
+  (cond ((= name "") nil)
+        (style (if (and overwrite definition) (dimstyleimport:change_text_style style definition))
+               style)
+        ((not (snvalid name)) (kora_alert_message (strcat name " cannot be the name of a text style.")) nil)
+        (T (if (null definition)
+             (kora_alert_message (strcat "The text style " name " is not defined in the file and gets a plain font.")))
+           (kora_make_textstyle name definition))))
+
+;; Of a dimension style that stays only the text style is taken, where the drawing has it.
+(defun dimstyleimport:overwrite_text_style (variables / name)
+  (setq name (assoc "DIMTXSTY" variables))
+  (if (and name (/= (cdr name) "") (tblobjname "STYLE" (kora_with_characters (cdr name))))
+    (dimstyleimport:text_style variables T)))
+
+;; -> list of (group code . value) of the lines that define the text style.
+(defun dimstyleimport:text_definition (variables / value definition)
+  (foreach row kora:dim_textstyle
+    (if (setq value (assoc (cadr row) variables))
+      (setq definition
+        (cons (cons (car row)
+                    (if (= (car row) 1071)
+                      (fix (max -2147483647.0 (min 2147483647.0 (atof (cdr value)))))
+                      (kora_text_value (cdr value) (cond ((caddr row)) ("")))))
+              definition))))
+  (reverse definition))
+
+;; A system font that the definition lacks goes.
+(defun dimstyleimport:change_text_style (style definition / fields)
+  (setq fields (kora_textstyle_fields definition))
+  (if (null (assoc -3 fields)) (setq fields (append fields '((-3 ("ACAD"))))))
+  (entmod (cons (cons -1 style) fields)))
+
+;; -> data, the list of an existing style, with fields. Variables that fields lack get their usual values.
+(defun dimstyleimport:changed (data fields / flags result instead)
+  (foreach field data
+    (cond ((and (= (car field) 70) (not flags)) (setq flags T))
+          ((setq instead (assoc (car field) fields)) (setq fields (vl-remove instead fields) field instead))
+          (T (setq field (dimstyleimport:usual field))))
+    (setq result (cons field result)))
+  (append (reverse result) fields))
+
+;; A field of an existing style with the value of a style that does not say it.
+(defun dimstyleimport:usual (field / row)
+  (cond ((setq row (assoc (car field) kora:dim_variables)) (cons (car row) (caddr row)))
+        ((assoc (car field) kora:dim_arrows) (cons (car field) "0"))
+        ((and (member (car field) '(5 6 7)) (= (type (cdr field)) 'STR)) (cons (car field) ""))
+        ((and (assoc (car field) kora:dim_linetypes) (tblobjname "LTYPE" "ByBlock"))
+         (cons (car field) (tblobjname "LTYPE" "ByBlock")))
+        (field)))
+
+(princ)
