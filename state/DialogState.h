@@ -45,8 +45,8 @@ public:
     void setAction(const QString &word) { m_action = word; }
     QString action() const { return m_action; }
 
-    /// From now on save() writes `value` for the widget called `name` (any case) instead of what the widget says, for a
-    /// program that wants it in another form.
+    /// From now on save() writes `value` to the state file for the widget called `name` (any case) instead of what the
+    /// widget says, for a program that wants it in another form. Favourites keep what the widget says.
     void setWrittenValue(const QString &name, const QString &value) { m_writtenValues.insert(name.toLower(), value); }
 
     /// Writes the values of all widgets and the action word to the file of the last load(). The action line follows

@@ -76,7 +76,7 @@
   (if (setq data (dimstyleexport:record entity))
     (progn
       (setq definition (kora_linetype_definition data))
-      (cons (strcat word " " (kora_field data 2) " "
+      (cons (strcat word " " (kora_replace_all "\\U+0020" " " (kora_value_text (kora_field data 2))) " "
                     (itoa (if definition (kora_characters (strcat (car definition) "\r\n" (cadr definition))) 0)))
             (if definition definition '(""))))))
 

@@ -37,8 +37,8 @@ def rich(path, version):
     if version != 'R12':
         style.dxf.dimtxsty = 'Roman'
     if version == 'R2018':
-        style.set_linetypes('DASHDOT', 'CENTER', 'GAS')
-        doc.linetypes.add('GAS', 'A,0.5,-0.2,["GA,S",Roman,S=0.1,R=14.5,X=-0.1,Y=-.05],-0.25',
+        style.set_linetypes('DASHDOT', 'CENTER', 'GAS LINE')
+        doc.linetypes.add('GAS LINE', 'A,0.5,-0.2,["GA,S",Roman,S=0.1,R=14.5,X=-0.1,Y=-.05],-0.25',
                           description='Gas, ----GAS----', length=0.95)
     doc.saveas(path)
 

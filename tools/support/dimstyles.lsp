@@ -6,7 +6,8 @@
 ;;;   DIMBLK _Oblique                  an arrow block, nothing for the default arrow
 ;;;   DIMTXSTY Roman                   the text style, with what defines it:
 ;;;   DIMTXT_HEIGHT 0.0
-;;;   DIMLT DASHED 28                  a linetype and how many characters define it, line ends of two included:
+;;;   DIMLT DASHED 27                  a linetype and how many characters define it, line ends of two included; a blank in
+;;;                                    its name stands as \U+0020
 ;;;   *DASHED,dashes
 ;;;   A,0.5,-0.25
 ;;;   END_OF_STYLE
