@@ -46,26 +46,26 @@ QStringList sourceLines()
 
 const QString searchText = u"set"_s;
 
-void paintLines(benchmark::State &state)
+void paint(benchmark::State &state, const QString &search)
 {
     const QStringList lines = sourceLines();
     LispPainter painter(lispKeywords());
+    painter.setSearch(search);
     for (auto _ : state) {
         for (const QString &line : lines)
             benchmark::DoNotOptimize(painter.paint(line).data());
     }
 }
+
+void paintLines(benchmark::State &state)
+{
+    paint(state, {});
+}
 BENCHMARK(paintLines)->Unit(benchmark::kMillisecond);
 
 void paintLinesSearching(benchmark::State &state)
 {
-    const QStringList lines = sourceLines();
-    LispPainter painter(lispKeywords());
-    painter.setSearch(searchText);
-    for (auto _ : state) {
-        for (const QString &line : lines)
-            benchmark::DoNotOptimize(painter.paint(line).data());
-    }
+    paint(state, searchText);
 }
 BENCHMARK(paintLinesSearching)->Unit(benchmark::kMillisecond);
 
