@@ -1,5 +1,7 @@
 #include "dialogs/lispexplorer/KeywordMatcher.h"
 
+#include <algorithm>
+
 namespace ortakit {
 
 namespace {

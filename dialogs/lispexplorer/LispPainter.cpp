@@ -1,5 +1,7 @@
 #include "dialogs/lispexplorer/LispPainter.h"
 
+#include <algorithm>
+
 namespace ortakit {
 
 LispPainter::LispPainter(const QStringList &keywords) : m_keywords(keywords) {}
