@@ -213,13 +213,12 @@ void appendSection(QByteArray &output, const SectionIndex::Section &section, Tex
         appendLine(output, endWord);
 }
 
-/// Whether a reader would take a file of these sections.
-bool isReadable(const QList<SectionIndex::Section> &sections)
+qint64 sizeOf(const QList<SectionIndex::Section> &sections)
 {
-    qint64 left = largestTextFile;
+    qint64 size = 0;
     for (const SectionIndex::Section &section : sections)
-        left -= section.text.size();
-    return left >= 0;
+        size += section.text.size();
+    return size;
 }
 
 } // namespace
@@ -259,9 +258,11 @@ StyleCopy copyStyles(const QString &path, const QStringList &names, TextStyleCop
     QList<SectionIndex::Section> sections;
     for (const QString &name : names)
         sections.append(index.sections(name));
-    if (!isReadable(sections))
+    const qint64 size = sizeOf(sections);
+    if (size > largestTextFile)
         return {{}, QCoreApplication::translate("LispExtension", "The file is too large")};
     StyleCopy copy;
+    copy.text.reserve(size);
     for (const SectionIndex::Section &section : std::as_const(sections)) {
         appendSection(copy.text, section, textStyle);
         copy.isClosed &= section.isClosed;
