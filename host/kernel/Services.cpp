@@ -1,6 +1,7 @@
 #include "host/kernel/Services.h"
 
 #include "platform/ed/OdEditor.h"
+#include "platform/kernel/CKvCustBlockUtils.h"
 #include "platform/kernel/CKvDocument.h"
 #include "platform/kernel/CKvHelp.h"
 #include "platform/kernel/CKvSystemServices.h"
@@ -41,6 +42,11 @@ CKvHelp *GetKvHelp()
 OdEditor *odedEditor()
 {
     return installed.editor;
+}
+
+CKvCustBlockUtils *CKvCustBlockUtils::Get()
+{
+    return installed.customBlocks;
 }
 
 CKvDocument *ACTIVE_DOCUMENT()

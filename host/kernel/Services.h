@@ -3,6 +3,7 @@
 #include "platform/Export.h"
 #include "platform/rx/OdAlloc.h"
 
+class CKvCustBlockUtils;
 class CKvDocument;
 class CKvHelp;
 class CKvSystemServices;
@@ -16,10 +17,12 @@ struct Services
     CKvSystemServices *system = nullptr;
     CKvHelp *help = nullptr;
     OdEditor *editor = nullptr;
+    CKvCustBlockUtils *customBlocks = nullptr;
 };
 
-/// From now on GetKvSystemServices(), GetKvHelp() and odedEditor() give these; returns the ones before, which whoever
-/// installs for a while puts back. A running host installs its own when its document manager is made.
+/// From now on GetKvSystemServices(), GetKvHelp(), odedEditor() and CKvCustBlockUtils::Get() give these; returns the
+/// ones before, which whoever installs for a while puts back. A running host installs its own when its document manager
+/// is made.
 KV_EXPORT Services installServices(const Services &services);
 
 /// From now on ACTIVE_DOCUMENT() gives `document`, which may be null; returns the one before.

@@ -13,6 +13,7 @@
 
 namespace host::kernel {
 
+class CustomBlocks;
 class Editor;
 class HelpService;
 class SystemServices;
@@ -70,6 +71,7 @@ private:
     QPointer<QWidget> m_mainWindow;
     std::unique_ptr<Editor> m_editor;
     std::unique_ptr<HelpService> m_help;
+    std::unique_ptr<CustomBlocks> m_customBlocks;
     std::unique_ptr<SystemServices> m_services;
     std::unique_ptr<DocumentManager> m_documents;
     std::unique_ptr<ModuleLoader> m_modules;

@@ -175,6 +175,16 @@ QImage picture(const QString &path, const QSize &size, Ground ground)
     return read ? picture(*read.drawing, size, ground) : QImage();
 }
 
+QSizeF drawnSize(const QString &path)
+{
+    const drawing::ReadResult read = drawing::Drawing::open(path);
+    if (!read)
+        return {};
+    Scene scene(static_cast<const drawing::Drawing &>(*read.drawing));
+    const Box box = scene.extents(Scene::modelSpace, Seen::Plotted);
+    return box.isEmpty() ? QSizeF() : QSizeF(box.high.x - box.low.x, box.high.y - box.low.y);
+}
+
 QImage blockPicture(const drawing::Drawing &drawing, const QString &block, const QSize &size, Ground ground)
 {
     const ExportOptions options{.space = block, .ground = ground};

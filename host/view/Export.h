@@ -40,6 +40,9 @@ ExportResult exportPdf(const drawing::Drawing &drawing, const QString &path, con
 QImage picture(const drawing::Drawing &drawing, const QSize &size, Ground ground = Ground::Black);
 /// As above for a file; a null image when it cannot be read as a drawing.
 QImage picture(const QString &path, const QSize &size, Ground ground = Ground::Black);
+/// Width and height of what picture() shows of a file, in drawing units; invalid when it cannot be read as a drawing
+/// and when it shows nothing.
+QSizeF drawnSize(const QString &path);
 /// A picture of one block by name; a null image when there is none of that name.
 QImage blockPicture(const drawing::Drawing &drawing, const QString &block, const QSize &size,
                     Ground ground = Ground::Black);

@@ -5,6 +5,7 @@
 
 #include <QIcon>
 #include <QImage>
+#include <QSizeF>
 #include <QStringList>
 
 class OdDbDatabase;
@@ -24,6 +25,9 @@ public:
     /// The block `name` of an open drawing in the same way. A null image when the drawing has no block of that name.
     static QImage blockPicture(OdDbDatabase *database, const OdString &name, const QSize &size,
                                const QColor &background);
+    /// Width and height of what can be seen of the model space of the drawing file at `path`, in its units. Invalid
+    /// when the file cannot be read as a drawing and when there is nothing to see.
+    static QSizeF drawingSize(const OdString &path);
     /// The drawings that the drawing file at `path` refers to, as the file has them; empty for an unreadable file.
     static QStringList externalReferences(const OdString &path);
 };

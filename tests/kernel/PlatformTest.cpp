@@ -195,6 +195,33 @@ TEST_F(Bench, blockPictures)
     EXPECT_TRUE(CKvUtils::blockPicture(nullptr, QStringLiteral("Ring"), {64, 48}, Qt::black).isNull());
 }
 
+TEST(Utils, drawingsHaveTheSizeOfWhatTheyShow)
+{
+    const QTemporaryDir folder;
+    const struct
+    {
+        const char *what;
+        QByteArray content;
+        QSizeF size;
+    } rows[] = {
+        {"a circle of radius 4", fileWithReferences(), {8, 8}},
+        {"nothing in it", "0\nSECTION\n2\nENTITIES\n0\nENDSEC\n0\nEOF\n", {}},
+        {"a line on a layer that is off",
+         "0\nSECTION\n2\nTABLES\n0\nTABLE\n2\nLAYER\n0\nLAYER\n2\nHIDDEN\n70\n0\n62\n-7\n6\nCONTINUOUS\n0\nENDTAB\n"
+         "0\nENDSEC\n0\nSECTION\n2\nENTITIES\n0\nLINE\n8\nHIDDEN\n10\n0\n20\n0\n11\n5\n21\n5\n0\nENDSEC\n0\nEOF\n",
+         {}},
+        {"no drawing", "\x89PNG", {}},
+    };
+    for (const auto &row : rows) {
+        QFile file(folder.filePath(QStringLiteral("drawing.dxf")));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
+        file.write(row.content);
+        file.close();
+        EXPECT_EQ(CKvUtils::drawingSize(file.fileName()), row.size) << row.what;
+    }
+    EXPECT_FALSE(CKvUtils::drawingSize(folder.filePath(QStringLiteral("none.dxf"))).isValid());
+}
+
 TEST(Utils, pictures)
 {
     const QTemporaryDir folder;

@@ -153,7 +153,7 @@ TEST_F(Module, HostsWithoutDocumentsGetTheEditorReactor)
 {
     FakeEditor editor;
     const host::kernel::Services before =
-        host::kernel::installServices({.system = nullptr, .help = nullptr, .editor = &editor});
+        host::kernel::installServices({.system = nullptr, .help = nullptr, .editor = &editor, .customBlocks = nullptr});
     m_module->initApp();
     EXPECT_EQ(editor.reactors().size(), 1);
     EXPECT_THAT(m_first->lisp().definitions(), IsEmpty());

@@ -2,6 +2,7 @@
 
 #include "host/kernel/Services.h"
 #include "platform/ed/OdEditor.h"
+#include "platform/kernel/CKvCustBlockUtils.h"
 #include "platform/kernel/CKvDocumentManager.h"
 #include "platform/kernel/CKvHelp.h"
 #include "platform/kernel/CKvSystemServices.h"
@@ -56,6 +57,15 @@ public:
     void Help(const OdString &helpFile, int topic, bool keepOpen, QWidget *parent, int style) override;
 };
 
+/// Answers what a test has set.
+class FakeCustomBlocks final : public CKvCustBlockUtils
+{
+public:
+    bool isEditing = false;
+
+    bool IsEditing(const CKvDocument &) const override { return isEditing; }
+};
+
 /// A host of fakes, installed as the process's host while it lives, with one open document whose LOGFILEPATH is a
 /// folder of its own that goes away with it. The host that was installed before comes back afterwards.
 class FakeHost final : public CKvSystemServices
@@ -73,6 +83,7 @@ public:
     FakeHelp &help() { return m_help; }
     /// isPermitted() refuses these commands from now on.
     void refuse(const QStringList &commands) { m_refused = commands; }
+    FakeCustomBlocks &customBlocks() { return m_customBlocks; }
     void setMainWindow(QWidget *window) { m_mainWindow = window; }
 
     /// Absolute path of `name` in the host's own folder, which exists.
@@ -95,6 +106,7 @@ private:
     FakeDocumentManager m_documents;
     FakeEditor m_editor;
     FakeHelp m_help;
+    FakeCustomBlocks m_customBlocks;
     QWidget *m_mainWindow = nullptr;
     QStringList m_refused;
     host::kernel::Services m_before;

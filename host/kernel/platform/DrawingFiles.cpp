@@ -27,6 +27,11 @@ QImage CKvUtils::blockPicture(OdDbDatabase *database, const OdString &name, cons
     return own ? host::view::blockPicture(own->document().drawing(), name, size, groundFor(background)) : QImage();
 }
 
+QSizeF CKvUtils::drawingSize(const OdString &path)
+{
+    return host::view::drawnSize(path);
+}
+
 QStringList CKvUtils::externalReferences(const OdString &path)
 {
     const host::drawing::ReadResult read = host::drawing::Drawing::open(path);

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "platform/Export.h"
+
+class CKvDocument;
+
+/// What the host knows of custom blocks: blocks that are edited in place, in a document of theirs or of the drawing.
+class KV_EXPORT CKvCustBlockUtils
+{
+public:
+    virtual ~CKvCustBlockUtils() = default;
+
+    /// The host's one object; null before the host has started.
+    static CKvCustBlockUtils *Get();
+
+    /// Whether `document` is editing a custom block now. Tools that make blocks of their own cannot run then.
+    virtual bool IsEditing(const CKvDocument &document) const = 0;
+};
