@@ -6,6 +6,8 @@
 
 #include <QAbstractButton>
 #include <QComboBox>
+#include <QKeyEvent>
+#include <QLineEdit>
 #include <QSignalBlocker>
 
 using ortakit::FavouriteStore;
@@ -33,6 +35,11 @@ FavouritesBox::FavouritesBox(QDialog *dialog, DialogState &state, const QString 
 {
     // A name is kept when it is saved, not when Enter is pressed behind it.
     m_widgets.names->setInsertPolicy(QComboBox::NoInsert);
+    // Left with a known name in its field, or completing one, the box would load that favourite over the values that
+    // are about to be saved under it.
+    disconnect(m_widgets.names->lineEdit(), &QLineEdit::editingFinished, m_widgets.names, nullptr);
+    m_widgets.names->setCompleter(nullptr);
+    m_widgets.names->installEventFilter(this);
     connect(m_widgets.names, &QComboBox::textActivated, this, &FavouritesBox::load);
     connect(m_widgets.save, &QAbstractButton::clicked, this, &FavouritesBox::save);
     connect(m_widgets.remove, &QAbstractButton::clicked, this, &FavouritesBox::remove);
@@ -62,8 +69,7 @@ void FavouritesBox::save()
         CKvMessageBox::information(m_dialog, translated("Favorites"), translated("Favorite name is required."));
         return;
     }
-    const bool isKnown = names.findText(name, Qt::MatchExactly | Qt::MatchCaseSensitive) >= 0;
-    if (isKnown &&
+    if (itemOf(name) >= 0 &&
         CKvMessageBox::question(m_dialog, translated("Favorites"),
                                 translated("Favorite \"%1\" already exists. Do you want to replace it?").arg(name)) !=
             QMessageBox::Yes)
@@ -77,10 +83,14 @@ void FavouritesBox::save()
 void FavouritesBox::load(const QString &name)
 {
     QStringList lines;
+    QStringList ownLines; // behind the others: a name such as "door width=900" must not answer for the width
     for (const auto &[key, value] : FavouriteStore(m_group).load(name)) {
+        const bool isOwn = key.compare(m_widgets.names->objectName(), Qt::CaseInsensitive) == 0;
         if (!isPassedOver(key))
-            lines.append(key + u'=' + value);
+            (isOwn ? ownLines : lines).append(key + u'=' + value);
     }
+    lines += ownLines;
+    emit loading(name);
     m_state.setLines(lines);
     m_state.apply();
     m_widgets.names->setCurrentText(name);
@@ -93,12 +103,40 @@ void FavouritesBox::remove()
     dialog.exec();
     QComboBox &names = *m_widgets.names;
     for (const QString &name : dialog.removedNames()) {
-        const int item = names.findText(name, Qt::MatchExactly | Qt::MatchCaseSensitive);
+        const int item = itemOf(name);
         if (item >= 0)
             names.removeItem(item);
     }
     if (!dialog.removedNames().isEmpty())
         leaveNameEmpty();
+}
+
+bool FavouritesBox::eventFilter(QObject *watched, QEvent *event)
+{
+    const int key = event->type() == QEvent::KeyPress ? static_cast<QKeyEvent *>(event)->key() : 0;
+    const bool isEnter = key == Qt::Key_Return || key == Qt::Key_Enter;
+    return (isEnter && takeTypedName()) || QObject::eventFilter(watched, event);
+}
+
+bool FavouritesBox::takeTypedName()
+{
+    QComboBox &names = *m_widgets.names;
+    const int item = itemOf(names.currentText());
+    const bool isPicked = item >= 0 && item == names.currentIndex();
+    if (names.currentText().isEmpty() || isPicked)
+        return false;
+    if (item >= 0) {
+        names.setCurrentIndex(item);
+        load(names.itemText(item));
+    } else {
+        save();
+    }
+    return true;
+}
+
+int FavouritesBox::itemOf(const QString &name) const
+{
+    return m_widgets.names->findText(name, Qt::MatchExactly | Qt::MatchCaseSensitive);
 }
 
 void FavouritesBox::leaveNameEmpty()

@@ -29,6 +29,9 @@ public:
     /// Belongs to `dialog`, whose `state` it sets and which asks and tells. `group` is the tool's name in the settings.
     FavouritesBox(QDialog *dialog, DialogState &state, const QString &group, const Widgets &widgets);
 
+    /// Enter behind a typed name saves a new one and loads a known one.
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
     /// Shown in front of each name.
     void setIcon(const QIcon &icon);
 
@@ -42,10 +45,17 @@ public:
     void remove();
 
 signals:
+    /// The widgets are about to get the values of the favourite, one by one.
+    void loading(const QString &name);
     /// The widgets have the values of the favourite now.
     void loaded(const QString &name);
 
 private:
+    /// Whether the edit field has a name that was typed; then it is saved or loaded. Left to the dialog's default
+    /// button it would be lost.
+    bool takeTypedName();
+    /// The item with exactly this name, -1 when there is none.
+    int itemOf(const QString &name) const;
     void leaveNameEmpty();
 
     QDialog *m_dialog;

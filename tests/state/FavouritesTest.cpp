@@ -8,6 +8,7 @@
 
 #include <QSettings>
 #include <QSignalSpy>
+#include <QTest>
 
 #include <gtest/gtest.h>
 
@@ -137,6 +138,38 @@ TEST_F(Favourites, PickingOneSetsTheWidgetsAndNothingOfEarlierStates)
     pick(u"Odd"_s);
     EXPECT_EQ(state.lines(), QStringList());
     EXPECT_EQ(dialog.edit->text(), u"odd"_s);
+}
+
+TEST_F(Favourites, NamesAreNotTakenForValues)
+{
+    const QString name = u"door tx_edit=900"_s;
+    dialog.edit->setText(u"oak"_s);
+    saveAs(name);
+    dialog.edit->setText(u"changed"_s);
+    pick(name);
+    EXPECT_EQ(dialog.edit->property("value").toString(), u"oak"_s);
+}
+
+// A name that is typed to save over it must not bring its old values first.
+TEST_F(Favourites, TypingAKnownNameLoadsNothingUntilEnter)
+{
+    dialog.edit->setText(u"old"_s);
+    saveAs(u"Door"_s);
+    dialog.edit->setText(u"new"_s);
+    dialog.show();
+    dialog.favourites->setFocus();
+    QTest::keyClicks(dialog.favourites, u"Door"_s);
+    dialog.edit->setFocus();
+    EXPECT_EQ(dialog.edit->text(), u"new"_s);
+    EXPECT_EQ(dialog.favourites->currentText(), u"Door"_s);
+
+    dialog.favourites->setFocus();
+    QTest::keyClick(dialog.favourites, Qt::Key_Return);
+    EXPECT_EQ(dialog.edit->text(), u"old"_s);
+
+    dialog.favourites->setEditText(u"Doo"_s);
+    QTest::keyClick(dialog.favourites, Qt::Key_Return);
+    EXPECT_EQ(shownNames(), (QStringList{u"Door"_s, u"Doo"_s}));
 }
 
 TEST_F(Favourites, WhatWasRemovedStaysRemovedWhenTheListIsCancelled)
