@@ -9,17 +9,16 @@
 
 namespace {
 
-QString variantFor(const QString &picture)
+QString darkVariant(const QString &picture, const QString &darkName)
 {
-    const QString dark =
-        QStringLiteral(":/images/svg_icons/dark/") + QFileInfo(picture).completeBaseName() + QStringLiteral(".svg");
-    return CKvUtils::isDarkStyle() && QFileInfo::exists(dark) ? dark : picture;
+    const QString name = darkName.isEmpty() ? QFileInfo(picture).completeBaseName() : darkName;
+    return QStringLiteral(":/images/svg_icons/dark/") + name + QStringLiteral(".svg");
 }
 
 } // namespace
 
-DialogPicture::DialogPicture(QWidget *widget, const QString &picture)
-    : QObject(widget), m_widget(widget), m_picture(picture)
+DialogPicture::DialogPicture(QWidget *widget, const QString &picture, const QString &darkName)
+    : QObject(widget), m_widget(widget), m_picture(picture), m_darkPicture(darkVariant(picture, darkName))
 {
     choose();
     widget->installEventFilter(this);
@@ -39,7 +38,7 @@ bool DialogPicture::eventFilter(QObject *watched, QEvent *event)
 
 void DialogPicture::choose()
 {
-    const QString variant = variantFor(m_picture);
+    const QString variant = CKvUtils::isDarkStyle() && QFileInfo::exists(m_darkPicture) ? m_darkPicture : m_picture;
     if (variant == m_shown)
         return;
     m_shown = variant;

@@ -14,8 +14,9 @@ class DialogPicture : public QObject
 
 public:
     /// Belongs to `widget`. `picture` is the light variant, such as ":/images/breakline.png"; the dark one is looked
-    /// for as ":/images/svg_icons/dark/breakline.svg", and the light one stays where there is none.
-    DialogPicture(QWidget *widget, const QString &picture);
+    /// for as ":/images/svg_icons/dark/breakline.svg", or under `darkName` in place of "breakline"; the light one stays
+    /// where there is none.
+    DialogPicture(QWidget *widget, const QString &picture, const QString &darkName = {});
 
     /// Resource path of the variant that is shown.
     QString shownPicture() const { return m_shown; }
@@ -28,6 +29,7 @@ private:
 
     QWidget *m_widget;
     QString m_picture;
+    QString m_darkPicture;
     QString m_shown;
     QIcon m_icon;
 };
