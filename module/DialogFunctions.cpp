@@ -9,8 +9,10 @@
 #include "dialogs/replaceblocktoxref/Dlg_QT_ReplaceBlockToXref.h"
 #include "dialogs/dimensionstyle/Dlg_QT_ExchangedDimensionStyle.h"
 #include "dialogs/dimensionstyle/Dlg_QT_ImportDimensionStyle.h"
+#include "dialogs/patternhatch/DLG_QT_PatternHatch.h"
 #include "module/RunDialog.h"
 #include "platform/kernel/CKvSystemServices.h"
+#include "platform/kernel/CKvCustBlockUtils.h"
 
 namespace ortakit {
 
@@ -109,6 +111,22 @@ int dlgExDimensionStyle()
 int dlgImDimensionStyle()
 {
     return runDialog<Dlg_QT_ImportDimensionStyle>(DialogSlot::ImportDimensionStyle, {});
+}
+
+// Pattern hatch: how it is entered comes in, the action goes back. It saves its own state.
+int dlgPatternHatch()
+{
+    return runDialog<DLG_QT_PatternHatch>(
+        DialogSlot::PatternHatch,
+        {.stateFile = StateFile::LoadOnly,
+         .extraArguments = ExtraArguments::OptionalSecond,
+         .isRefused =
+             [](CKvDocument &document) {
+                 const CKvCustBlockUtils *customBlocks = CKvCustBlockUtils::Get();
+                 return customBlocks && customBlocks->IsEditing(document);
+             },
+         .takeExtra = [](auto &dialog, const OdResBuf *rest) { dialog.setMode(rest ? rest->getString() : OdString()); },
+         .giveResult = [](auto &dialog, CKvLispEngine &lisp) { lisp.returnString(dialog.state().action()); }});
 }
 
 } // namespace ortakit

@@ -13,6 +13,7 @@ int dlgReplaceBlock();
 int dlgReplaceBlockToXref();
 int dlgExDimensionStyle();
 int dlgImDimensionStyle();
+int dlgPatternHatch();
 /// @}
 
 } // namespace ortakit

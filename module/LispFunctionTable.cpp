@@ -20,7 +20,7 @@ constexpr LispFunction function(OnClose onClose = OnClose::Undefine)
 
 constexpr LispFunctionTable lispFunctionTable = {{
     function<"Dlg_LispExplorer", dlgLispExplorer>(),
-    function<"Dlg_PatternHatch">(OnClose::Keep),
+    function<"Dlg_PatternHatch", dlgPatternHatch>(OnClose::Keep),
     function<"Dlg_BreakLine", dlgBreakLine>(),
     function<"Dlg_getblockinfo">(),
     function<"Dlg_edittextcase">(),
