@@ -26,12 +26,15 @@ void decorateButtons(const QWidget &dialog)
         {QLatin1String("ButtonCancel"), QLatin1String("cancel")},
         {QLatin1String("buttonHelp"), QLatin1String("help")},
     };
-    for (const auto &[name, iconName] : buttons) {
-        QAbstractButton *button = findButton(dialog, name);
-        const QIcon icon = button ? CKvUtils::icon(QStringLiteral(":/images/shared"), iconName) : QIcon();
-        if (!icon.isNull())
-            button->setIcon(icon);
-    }
+    for (const auto &[name, iconName] : buttons)
+        decorateButton(findButton(dialog, name), iconName);
+}
+
+void decorateButton(QAbstractButton *button, const QString &icon)
+{
+    const QIcon found = button ? CKvUtils::icon(QStringLiteral(":/images/shared"), icon) : QIcon();
+    if (!found.isNull())
+        button->setIcon(found);
 }
 
 } // namespace ortakit

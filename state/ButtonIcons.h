@@ -1,10 +1,10 @@
 #pragma once
 
 #include <QLatin1String>
-
-class QWidget;
+#include <QString>
 
 class QAbstractButton;
+class QWidget;
 
 namespace ortakit {
 
@@ -14,5 +14,8 @@ QAbstractButton *findButton(const QWidget &dialog, QLatin1String name);
 /// Gives "acceptButton", "ButtonCancel" and "buttonHelp" below `dialog` the shared icons in the variant of the host's
 /// style. A button that is not there, and one whose icon the host does not have, stays as it is.
 void decorateButtons(const QWidget &dialog);
+
+/// Gives `button` the shared icon `icon` ("help") in the same way. Null is allowed.
+void decorateButton(QAbstractButton *button, const QString &icon);
 
 } // namespace ortakit

@@ -20,10 +20,11 @@ void ToolDialog::showHelp()
     HelpTopicMap::showHelp(m_helpTopic);
 }
 
-void ToolDialog::setUpButtons()
+void ToolDialog::setUpButtons(QAbstractButton *helpButton)
 {
-    if (const auto *help = ortakit::findButton(*this, QLatin1String("buttonHelp")))
-        connect(help, &QAbstractButton::clicked, this, &ToolDialog::showHelp, Qt::UniqueConnection);
+    m_helpButton = helpButton ? helpButton : ortakit::findButton(*this, QLatin1String("buttonHelp"));
+    if (m_helpButton)
+        connect(m_helpButton, &QAbstractButton::clicked, this, &ToolDialog::showHelp, Qt::UniqueConnection);
     if (const auto *cancel = ortakit::findButton(*this, QLatin1String("ButtonCancel")))
         connect(cancel, &QAbstractButton::clicked, this, &ToolDialog::reject, Qt::UniqueConnection);
     for (const auto *box : findChildren<QDialogButtonBox *>())
@@ -41,9 +42,9 @@ void ToolDialog::inform(const QString &text, const QString &title)
     CKvMessageBox::information(this, title, text);
 }
 
-void ToolDialog::warn(const QString &text, const QString &title)
+void ToolDialog::warn(const QString &text, const QString &title, const QString &explanation)
 {
-    CKvMessageBox::warning(this, title, text);
+    CKvMessageBox::warning(this, title, text, QMessageBox::Ok, explanation);
 }
 
 void ToolDialog::reportError(const QString &text, const QString &title)
@@ -66,12 +67,18 @@ void ToolDialog::applyState()
     }
 }
 
+void ToolDialog::decorate()
+{
+    ortakit::decorateButtons(*this);
+    ortakit::decorateButton(m_helpButton, QStringLiteral("help"));
+}
+
 void ToolDialog::showEvent(QShowEvent *event)
 {
     CKvDialog::showEvent(event);
     if (event->spontaneous())
         return;
-    ortakit::decorateButtons(*this);
+    decorate();
     beforeShow();
     applyState();
     afterShow();
@@ -81,5 +88,5 @@ void ToolDialog::changeEvent(QEvent *event)
 {
     CKvDialog::changeEvent(event);
     if (event->type() == QEvent::PaletteChange)
-        ortakit::decorateButtons(*this);
+        decorate();
 }

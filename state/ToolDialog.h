@@ -3,6 +3,8 @@
 #include "platform/kernel/CKvDialog.h"
 #include "state/DialogState.h"
 
+class QAbstractButton;
+
 /// Base of every tool's dialog: owns its DialogState, applies it when the dialog is shown, opens its help page and
 /// asks and tells through the host's message boxes.
 ///
@@ -28,8 +30,9 @@ public slots:
 protected:
     /// To be called once behind setupUi(): connects the buttons "buttonHelp" and Help of button boxes to showHelp() and
     /// "ButtonCancel" to reject(); "acceptButton" and Close of button boxes are the tool's own. Their icons come with
-    /// each showing and follow the host's style. The case of the names does not matter.
-    void setUpButtons();
+    /// each showing and follow the host's style. The case of the names does not matter. `helpButton` is the help button
+    /// of a form that names it otherwise.
+    void setUpButtons(QAbstractButton *helpButton = nullptr);
 
     /// Fills what depends on the drawing or the disk, each time.
     virtual void beforeShow() {}
@@ -46,7 +49,8 @@ protected:
 
     /// Message boxes over this dialog, with one OK button.
     void inform(const QString &text, const QString &title = {});
-    void warn(const QString &text, const QString &title = {});
+    /// `explanation` stands below the text.
+    void warn(const QString &text, const QString &title = {}, const QString &explanation = {});
     void reportError(const QString &text, const QString &title = {});
     /// A question; true only when it was answered with Yes.
     bool ask(const QString &text, const QString &title = {});
@@ -56,7 +60,9 @@ protected:
 
 private:
     void applyState();
+    void decorate();
 
     DialogState m_state;
     QString m_helpTopic;
+    QAbstractButton *m_helpButton = nullptr;
 };

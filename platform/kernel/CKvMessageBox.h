@@ -14,8 +14,9 @@ public:
 
     static Button information(QWidget *parent, const QString &title, const QString &text,
                               Buttons buttons = QMessageBox::Ok);
-    static Button warning(QWidget *parent, const QString &title, const QString &text,
-                          Buttons buttons = QMessageBox::Ok);
+    /// `explanation` is shown below the text, in a smaller or plainer hand.
+    static Button warning(QWidget *parent, const QString &title, const QString &text, Buttons buttons = QMessageBox::Ok,
+                          const QString &explanation = {});
     static Button critical(QWidget *parent, const QString &title, const QString &text,
                            Buttons buttons = QMessageBox::Ok);
     static Button question(QWidget *parent, const QString &title, const QString &text,

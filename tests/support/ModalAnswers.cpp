@@ -44,9 +44,12 @@ QString buttonsOf(const QMessageBox &box)
 
 QString describe(QWidget *window)
 {
-    if (const auto *box = qobject_cast<QMessageBox *>(window))
-        return QStringLiteral("%1 \"%2\" \"%3\" %4")
-            .arg(kindOf(*box), box->windowTitle(), box->text(), buttonsOf(*box));
+    if (const auto *box = qobject_cast<QMessageBox *>(window)) {
+        QString text = QLatin1Char('"') + box->text() + QLatin1Char('"');
+        if (!box->informativeText().isEmpty())
+            text += QStringLiteral(" \"%1\"").arg(box->informativeText());
+        return QStringLiteral("%1 \"%2\" %3 %4").arg(kindOf(*box), box->windowTitle(), text, buttonsOf(*box));
+    }
     if (const auto *files = qobject_cast<QFileDialog *>(window))
         return QStringLiteral("choose \"%1\" \"%2\" \"%3\"")
             .arg(files->windowTitle(), files->directory().absolutePath(), files->nameFilters().join(QLatin1Char('|')));

@@ -28,7 +28,8 @@ public:
     void drive(std::function<void(QWidget *window)> step);
 
     /// What was shown so far, one line a window. Message boxes: kind "title" "text" buttons, such as
-    /// warning "" "Filename can`t be empty" OK. File dialogs: choose "title" "folder" "filter". Others: class "title".
+    /// warning "" "Filename can`t be empty" OK, with an "explanation" behind the text where there is one. File dialogs:
+    /// choose "title" "folder" "filter". Others: class "title".
     const QStringList &shown() const { return m_shown; }
     bool isDone() const { return m_steps.empty(); }
 

@@ -19,9 +19,10 @@ void nameButtons(QMessageBox &box)
 }
 
 CKvMessageBox::Button run(QMessageBox::Icon icon, QWidget *parent, const QString &title, const QString &text,
-                          CKvMessageBox::Buttons buttons)
+                          CKvMessageBox::Buttons buttons, const QString &explanation = {})
 {
     QMessageBox box(icon, title, text, buttons, parent);
+    box.setInformativeText(explanation);
     box.setObjectName(QStringLiteral("messageBox"));
     // Texts quote file names and characters such as "<"; none of them is markup.
     box.setTextFormat(Qt::PlainText);
@@ -45,9 +46,9 @@ CKvMessageBox::Button CKvMessageBox::information(QWidget *parent, const QString 
 }
 
 CKvMessageBox::Button CKvMessageBox::warning(QWidget *parent, const QString &title, const QString &text,
-                                             Buttons buttons)
+                                             Buttons buttons, const QString &explanation)
 {
-    return run(QMessageBox::Warning, parent, title, text, buttons);
+    return run(QMessageBox::Warning, parent, title, text, buttons, explanation);
 }
 
 CKvMessageBox::Button CKvMessageBox::critical(QWidget *parent, const QString &title, const QString &text,
