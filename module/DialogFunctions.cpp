@@ -10,6 +10,7 @@
 #include "dialogs/dimensionstyle/Dlg_QT_ExchangedDimensionStyle.h"
 #include "dialogs/dimensionstyle/Dlg_QT_ImportDimensionStyle.h"
 #include "dialogs/patternhatch/DLG_QT_PatternHatch.h"
+#include "dialogs/textframe/Dlg_QT_TextFrame.h"
 #include "module/RunDialog.h"
 #include "platform/kernel/CKvSystemServices.h"
 #include "platform/kernel/CKvCustBlockUtils.h"
@@ -127,6 +128,11 @@ int dlgPatternHatch()
              },
          .takeExtra = [](auto &dialog, const OdResBuf *rest) { dialog.setMode(rest ? rest->getString() : OdString()); },
          .giveResult = [](auto &dialog, CKvLispEngine &lisp) { lisp.returnString(dialog.state().action()); }});
+}
+
+int dlgTextFrame()
+{
+    return runDialog<Dlg_QT_TextFrame>(DialogSlot::TextFrame, {});
 }
 
 } // namespace ortakit

@@ -31,7 +31,7 @@ constexpr LispFunctionTable lispFunctionTable = {{
     function<"Dlg_makelinestyle", dlgMakeLineStyle>(),
     function<"Dlg_imporAttributes">(),
     function<"Dlg_NumberText">(),
-    function<"Dlg_TextFrame">(),
+    function<"Dlg_TextFrame", dlgTextFrame>(),
     function<"Dlg_TextMask">(),
     function<"CreateRtext">(),
     function<"Dlg_ExDimensionStyle", dlgExDimensionStyle>(),

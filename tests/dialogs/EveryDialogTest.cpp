@@ -10,6 +10,7 @@
 #include "dialogs/dimensionstyle/Dlg_QT_ExchangedDimensionStyle.h"
 #include "dialogs/dimensionstyle/Dlg_QT_ImportDimensionStyle.h"
 #include "dialogs/patternhatch/DLG_QT_PatternHatch.h"
+#include "dialogs/textframe/Dlg_QT_TextFrame.h"
 #include "tests/support/FakeHost.h"
 #include "tests/support/QtTestPrinters.h"
 
@@ -34,7 +35,7 @@ struct Row
     const char *name;
     ToolDialog *(*create)(QWidget *parent);
     const char *helpTopic;
-    /// Letters that several of its texts have as their mnemonic.
+    /// Letters that several texts of its first page have as their mnemonic: pressed, they lead from one to the next.
     QLatin1StringView sharedLetters;
 };
 
@@ -55,8 +56,8 @@ constexpr Row rows[] = {
     row<Dlg_QT_ReplaceBlockToXref>("ReplaceBlockToXref", "9106"),
     row<Dlg_QT_ExchangedDimensionStyle>("ExchangedDimensionStyle", "9121"),
     row<Dlg_QT_ImportDimensionStyle>("ImportDimensionStyle", "9122"),
-    // Its texts share letters, which lead from one of these to the next.
     row<DLG_QT_PatternHatch>("PatternHatch", "9102", "aden"),
+    row<Dlg_QT_TextFrame>("TextFrame", "9113", "c"), // "&Circle" and the "&Color:" of a hatch
 };
 
 void PrintTo(const Row &row, std::ostream *out)
@@ -106,12 +107,12 @@ protected:
 TEST_P(EveryDialog, HelpOpensItsTopic)
 {
     auto *help = dialog->findChild<QAbstractButton *>(u"buttonHelp"_s);
-    if (!help) {
-        const auto *box = dialog->findChild<QDialogButtonBox *>();
-        ASSERT_TRUE(box);
+    if (const auto *box = dialog->findChild<QDialogButtonBox *>(); !help && box)
         help = box->button(QDialogButtonBox::Help);
-    }
+    for (QAbstractButton *button : visible<QAbstractButton>())
+        help = !help && button->text() == u"Help"_s ? button : help;
     ASSERT_TRUE(help);
+    EXPECT_FALSE(help->icon().isNull());
     help->click();
     EXPECT_EQ(host.help().requests.value(0).section(u' ', 1, 1), QString::fromLatin1(GetParam().helpTopic));
 }
