@@ -32,12 +32,14 @@ struct ClassRule
     QLatin1StringView className;
     QLatin1StringView application;
     int proxyFlags;
+    bool isEntity = true;
 };
 
 constexpr ClassRule classRules[] = {
     {"IMAGE"_L1, "AcDbRasterImage"_L1, "ISM"_L1, 2175},
-    {"IMAGEDEF"_L1, "AcDbRasterImageDef"_L1, "ISM"_L1, 0},
+    {"IMAGEDEF"_L1, "AcDbRasterImageDef"_L1, "ISM"_L1, 0, false},
     {"WIPEOUT"_L1, "AcDbWipeout"_L1, "WipeOut"_L1, 2175},
+    {"WIPEOUTVARIABLES"_L1, "AcDbWipeoutVariables"_L1, "WipeOut"_L1, 0, false},
     {"RTEXT"_L1, "RText"_L1, "RText"_L1, 0},
 };
 
@@ -86,7 +88,7 @@ void ensureClass(Drawing &drawing, const QString &type)
     if (drawing.version() >= Version::R2004)
         fields.push_back({91, qint64(1)});
     fields.push_back({280, qint64(0)});
-    fields.push_back({281, qint64(rule->type == "IMAGEDEF"_L1 ? 0 : 1)});
+    fields.push_back({281, qint64(rule->isEntity)});
     drawing.insert(noRecord, ensureSection(drawing, Section::Classes), RecordKind::Class, fields);
 }
 

@@ -7,8 +7,8 @@ namespace host::drawing {
 /// The section's record, made in its proper place when the file lacks it.
 RecordId ensureSection(Drawing &drawing, Section section);
 
-/// Entities that programs outside the format's core brought (IMAGE, WIPEOUT, RTEXT) need a class record from R13 on.
-/// Does nothing for other types.
+/// Entities and objects that programs outside the format's core brought (IMAGE, WIPEOUT, RTEXT) need a class record
+/// from R13 on. Does nothing for other types.
 void ensureClass(Drawing &drawing, const QString &type);
 
 /// Registered applications that fields name (group 1001) are made when missing.

@@ -2,6 +2,7 @@
 
 #include "host/drawing/HeaderVariables.h"
 #include "host/drawing/Tables.h"
+#include "host/drawing/WipeoutFrame.h"
 #include "host/view/Fonts.h"
 
 #include <numbers>
@@ -109,6 +110,7 @@ void Appearance::reload(const drawing::Drawing &drawing, Fonts &fonts)
         m_layers[static_cast<std::size_t>(layer(read.name))] = look;
     }
     m_linetypeScale = sane(drawing.header().real(u"$LTSCALE"_s, 1.0), 1.0);
+    m_maskFrame = drawing::wipeoutFrame(drawing);
     m_pointMode = static_cast<int>(drawing.header().integer(u"$PDMODE"_s, 0));
     m_pointSize = drawing.header().real(u"$PDSIZE"_s, 0.0);
 }

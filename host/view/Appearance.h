@@ -63,12 +63,14 @@ public:
     const LayerLook &layerLook(int layer) const { return m_layers[static_cast<std::size_t>(layer)]; }
     const LinePattern &pattern(int linetype) const { return m_patterns[static_cast<std::size_t>(linetype)]; }
 
-    /// Reads layers, linetypes and header settings again.
+    /// Reads layers, linetypes and settings again.
     void reload(const drawing::Drawing &drawing, Fonts &fonts);
 
     /// `insert` is what the insert that the shape is seen through was resolved to; null outside blocks.
     ResolvedStyle resolve(const Style &style, const ResolvedStyle *insert, Ground ground) const;
 
+    /// Whether the frames of masks are seen on the screen, and on paper.
+    bool showsMaskFrames(bool isPlotted) const { return m_maskFrame != 0 && !(isPlotted && m_maskFrame == 2); }
     double linetypeScale() const { return m_linetypeScale; }
     int pointMode() const { return m_pointMode; }
     double pointSize() const { return m_pointSize; }
@@ -81,6 +83,7 @@ private:
     QHash<QString, int> m_linetypeNumbers;
     std::vector<LinePattern> m_patterns;
     double m_linetypeScale = 1.0;
+    int m_maskFrame = 1; ///< see drawing::wipeoutFrame()
     int m_pointMode = 0;
     double m_pointSize = 0.0;
 };

@@ -182,7 +182,9 @@ bool buildWipeout(BuildContext &context, const TagList &tags)
     Path frame = pictureFrame(tags);
     if (!areUsable(frame))
         return false;
-    addArea(context, std::move(frame), FillKind::Mask);
+    addArea(context, frame, FillKind::Mask);
+    context.addStroke(closed(std::move(frame)));
+    context.display.items.back().isMaskFrame = true;
     return true;
 }
 

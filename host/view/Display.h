@@ -153,6 +153,7 @@ struct DisplayItem
 {
     Style style{};
     Shape shape{};
+    bool isMaskFrame = false; ///< seen as the drawing's setting for the frames of masks says
 };
 
 /// All that one record of a drawing shows.

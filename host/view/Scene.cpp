@@ -382,7 +382,7 @@ void Scene::recordChanged(RecordId record, RecordChange change, drawing::ChangeC
     } else if (kind == RecordKind::TableEntry) {
         m_changes.tables |= type == "LAYER" || type == "LTYPE";
         m_changes.everything |= type == "STYLE" || type == "DIMSTYLE";
-    } else if (kind == RecordKind::Variable) {
+    } else if (kind == RecordKind::Variable || type == "WIPEOUTVARIABLES") {
         m_changes.tables = true;
     } else if (type == "SORTENTSTABLE") {
         m_sortHandles.reset();

@@ -97,7 +97,8 @@ void SceneWalker::walkItems(const std::vector<DisplayItem> &items, const Context
 {
     for (const DisplayItem &item : items) {
         const ResolvedStyle style = m_scene.appearance().resolve(item.style, context.insert, m_options.ground);
-        if (isHidden(style, item.shape, context))
+        const bool isHiddenFrame = item.isMaskFrame && !m_scene.appearance().showsMaskFrames(m_options.plottedOnly);
+        if (isHiddenFrame || isHidden(style, item.shape, context))
             continue;
         if (--m_left <= 0)
             return;

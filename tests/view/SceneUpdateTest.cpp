@@ -5,6 +5,7 @@
 #include "host/drawing/HeaderVariables.h"
 #include "host/drawing/Journal.h"
 #include "host/drawing/Tables.h"
+#include "host/drawing/WipeoutFrame.h"
 #include "tests/view/Rendering.h"
 
 #include <gtest/gtest.h>
@@ -107,6 +108,23 @@ TEST_F(SceneUpdateTest, VerticesBelongToTheirPolyline)
     change(0xA6, 10, drawing::Vec3{10, 90, 0});
     EXPECT_FALSE(isInk(50, 70));
     EXPECT_TRUE(isInk(10, 80));
+}
+
+TEST_F(SceneUpdateTest, FramesOfMasksComeAndGo)
+{
+    const auto masked = readDrawing(
+        {.entities = "0 WIPEOUT|8 0|10 20|20 20|11 60|21 0|12 0|22 60|13 1|23 1", .header = "9 $ACADVER|1 AC1015"});
+    Scene scene(*masked);
+    const auto isFramed = [&scene] { return Rendering(scene, Scene::modelSpace).isInk(50, 20); };
+    EXPECT_TRUE(isFramed());
+    const qint64 before = scene.builtRecords();
+    ASSERT_TRUE(drawing::setWipeoutFrame(*masked, 0));
+    EXPECT_FALSE(isFramed());
+    ASSERT_TRUE(drawing::setWipeoutFrame(*masked, 1));
+    EXPECT_TRUE(isFramed());
+    masked->journal().undo();
+    EXPECT_FALSE(isFramed());
+    EXPECT_EQ(scene.builtRecords(), before);
 }
 
 TEST_F(SceneUpdateTest, GoingOverToPaperSpace)

@@ -90,6 +90,26 @@ TEST(StyleDrawing, UnplottedLayersAreOnScreenOnly)
     EXPECT_FALSE(Rendering(text, {.plottedOnly = true}).isInk(50, 50));
 }
 
+TEST(StyleDrawing, FramesOfMasksAsTheDrawingSays)
+{
+    const struct
+    {
+        const char *setting; ///< empty: the drawing has none
+        bool onScreen;
+        bool onPaper;
+    } rows[] = {{"", true, true}, {"0", false, false}, {"1", true, true}, {"2", true, false}};
+    for (const auto &row : rows) {
+        DxfText text{.entities = "0 WIPEOUT|8 0|10 20|20 20|11 60|21 0|12 0|22 60|13 1|23 1"};
+        if (*row.setting)
+            text.objects = "0 DICTIONARY|5 F1|100 AcDbDictionary|3 ACAD_WIPEOUT_VARS|350 F2"
+                           "|0 WIPEOUTVARIABLES|5 F2|100 AcDbWipeoutVariables|70 " +
+                           std::string(row.setting);
+        EXPECT_EQ(Rendering(text).isInk(50, 20), row.onScreen) << row.setting;
+        EXPECT_EQ(Rendering(text, {.plottedOnly = true}).isInk(50, 20), row.onPaper) << row.setting;
+        EXPECT_FALSE(Rendering(text).isInk(50, 50)) << row.setting;
+    }
+}
+
 TEST(StyleDrawing, LineweightsWhenAskedFor)
 {
     const DxfText text{.entities = "0 LINE|8 0|370 200|10 10|20 50|11 90|21 50"};
