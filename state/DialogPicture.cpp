@@ -54,5 +54,5 @@ void DialogPicture::choose()
 void DialogPicture::paint()
 {
     QPainter painter(m_widget);
-    m_icon.paint(&painter, m_widget->rect());
+    m_icon.paint(&painter, m_widget->rect(), Qt::AlignCenter, m_widget->isEnabled() ? QIcon::Normal : QIcon::Disabled);
 }

@@ -7,7 +7,7 @@ class QWidget;
 
 /// An explanatory picture in a dialog: shown in the variant that suits the host's style, and changed with it.
 ///
-/// A label gets it as its pixmap; any other widget is painted with it, fitted and centred.
+/// A label gets it as its pixmap; any other widget is painted with it, fitted and centred, and greyed while disabled.
 class DialogPicture : public QObject
 {
     Q_OBJECT
