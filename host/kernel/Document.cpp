@@ -91,7 +91,10 @@ drawing::SaveResult Document::save()
 drawing::SaveResult Document::saveAs(const QString &path)
 {
     // What the reactors store belongs into the file.
-    runAs(QStringLiteral("SAVE"), [&] { m_session.editor().beginSave(m_database.get(), path); });
+    runAs(QStringLiteral("SAVE"), [&] {
+        m_session.editor().beginSave(m_database.get(), path);
+        m_variables->storeObjectSettings();
+    });
     drawing::SaveResult result = drawing::save(*m_drawing, path);
     emit titleChanged();
     return result;

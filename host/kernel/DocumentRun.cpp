@@ -3,6 +3,7 @@
 #include "host/kernel/Document.h"
 #include "host/kernel/Editor.h"
 #include "host/kernel/Session.h"
+#include "host/kernel/SystemVariables.h"
 #include "host/kernel/commands/CommandRun.h"
 #include "host/kernel/commands/CommandTable.h"
 #include "host/kernel/functions/LispConversion.h"
@@ -23,8 +24,10 @@ public:
     }
     ~Run()
     {
-        if (m_document.m_runs == 1)
+        if (m_document.m_runs == 1) {
             m_document.finishPendingCommand();
+            m_document.m_variables->storeObjectSettings();
+        }
         m_document.m_userInput->forgetOptions();
         m_document.m_undoSteps.endRun();
         if (--m_document.m_runs == 0) {

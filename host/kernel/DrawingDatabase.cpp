@@ -3,6 +3,9 @@
 #include "host/drawing/Dictionaries.h"
 #include "host/drawing/Structure.h"
 #include "host/kernel/Document.h"
+#include "host/kernel/SystemVariables.h"
+
+#include <limits>
 
 namespace host::kernel {
 
@@ -50,6 +53,48 @@ Field toField(const OdResBuf &link)
         break;
     }
     return {code, link.getString()};
+}
+
+struct VariableLink
+{
+    OdResBufPtr operator()(qint32 number) const
+    {
+        using Short = std::numeric_limits<qint16>;
+        const bool isShort = number >= Short::min() && number <= Short::max();
+        return OdResBuf::newInteger(isShort ? OdResBuf::kRtShort : OdResBuf::kRtLong, number);
+    }
+    OdResBufPtr operator()(double number) const { return OdResBuf::newReal(OdResBuf::kRtReal, number); }
+    OdResBufPtr operator()(const QString &text) const { return OdResBuf::newString(OdResBuf::kRtString, text); }
+    OdResBufPtr operator()(const drawing::Vec2 &point) const
+    {
+        return OdResBuf::newPoint(OdResBuf::kRtPoint, {point.x, point.y, 0.0});
+    }
+    OdResBufPtr operator()(const drawing::Vec3 &point) const
+    {
+        return OdResBuf::newPoint(OdResBuf::kRtPoint3d, {point.x, point.y, point.z});
+    }
+};
+
+/// What a system variable can be; nothing for links of other types.
+std::optional<VariableValue> toVariable(const OdResBuf &link)
+{
+    const OdGePoint3d point = link.getPoint3d();
+    switch (link.restype()) {
+    case OdResBuf::kRtShort:
+    case OdResBuf::kRtLong:
+        return static_cast<qint32>(link.getInteger());
+    case OdResBuf::kRtReal:
+    case OdResBuf::kRtAngle:
+        return link.getDouble();
+    case OdResBuf::kRtString:
+        return link.getString();
+    case OdResBuf::kRtPoint:
+        return drawing::Vec2{point.x, point.y};
+    case OdResBuf::kRtPoint3d:
+        return drawing::Vec3{point.x, point.y, point.z};
+    default:
+        return {};
+    }
 }
 
 /// An extension record by its name in a dictionary: it stays right while the record is replaced or undone.
@@ -143,6 +188,22 @@ OdString DrawingDatabase::getFilename() const
 OdDbDictionary *DrawingDatabase::getNamedObjectsDictionary()
 {
     return drawing::hasMarkers(m_document.drawing()) ? m_namedObjects.get() : nullptr;
+}
+
+OdResBufPtr DrawingDatabase::getSysVar(const OdString &name) const
+{
+    const std::optional<VariableValue> value = m_document.variables().get(name);
+    return value ? std::visit(VariableLink(), *value) : nullptr;
+}
+
+bool DrawingDatabase::setSysVar(const OdString &name, const OdResBuf &value)
+{
+    const std::optional<VariableValue> wanted = toVariable(value);
+    if (!wanted)
+        return false;
+    SetOutcome outcome = SetOutcome::Unknown;
+    m_document.runAs(QStringLiteral("SETVAR"), [&] { outcome = m_document.variables().set(name, *wanted); });
+    return outcome == SetOutcome::Done;
 }
 
 } // namespace host::kernel

@@ -21,6 +21,8 @@ public:
 
     OdString getFilename() const override;
     OdDbDictionary *getNamedObjectsDictionary() override;
+    OdResBufPtr getSysVar(const OdString &name) const override;
+    bool setSysVar(const OdString &name, const OdResBuf &value) override;
 
 private:
     class Dictionary;

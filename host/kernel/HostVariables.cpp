@@ -6,6 +6,7 @@
 #include "host/drawing/HeaderVariables.h"
 #include "host/drawing/Journal.h"
 #include "host/drawing/Tables.h"
+#include "host/drawing/WipeoutFrame.h"
 #include "host/kernel/CurrentSpace.h"
 #include "host/kernel/Document.h"
 #include "host/kernel/Session.h"
@@ -272,6 +273,8 @@ std::vector<HostVariable> stateVariables()
          [](const Document &document) -> VariableValue { return currentLayout(document.drawing()); }, isLayoutName},
         {"LOGFILEPATH", Computed, ReadWrite, text(""), 0.0, 0.0, 0, logFilePath,
          [](const Document &, const VariableValue &value) { return QFileInfo(std::get<QString>(value)).isDir(); }},
+        {"WIPEOUTFRAME", Computed, ReadWrite, 1, 0, 2, 0,
+         [](const Document &document) -> VariableValue { return drawing::wipeoutFrame(document.drawing()); }},
         computed("CDATE", [](const Document &) -> VariableValue { return calendarDate(QDateTime::currentDateTime()); }),
         computed("CMDACTIVE", commandActive),
         computed("CMDNAMES", [](const Document &document) -> VariableValue { return document.commandNames(); }),

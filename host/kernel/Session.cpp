@@ -19,7 +19,7 @@ QString homeFolder(const QString &wanted)
         folder = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + QStringLiteral("/ortakit");
     }
     // A folder that cannot be made shows when the first file is written to it, with that file's name.
-    QDir().mkpath(folder);
+    QDir().mkpath(folder + QStringLiteral("/Template"));
     return QDir::cleanPath(QDir(folder).absolutePath());
 }
 

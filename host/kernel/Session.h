@@ -22,7 +22,8 @@ class SystemServices;
 struct SessionOptions
 {
     /// Folder of the user's data (LOGFILEPATH). Empty: the environment variable ORTAKIT_HOME, else a folder of this
-    /// program below the system's place for application data. Made when it does not exist.
+    /// program below the system's place for application data. Made when it does not exist, with a folder "Template"
+    /// for drawings to start from.
     QString home;
     /// Where findfile, load and the drawing tools look after the drawing's own folder, in order.
     QStringList supportFolders;

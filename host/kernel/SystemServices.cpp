@@ -48,4 +48,9 @@ bool SystemServices::isPermitted(const OdString &command, CKvDocument &document)
     return false;
 }
 
+OdString SystemServices::supportFolder() const
+{
+    return m_session.home();
+}
+
 } // namespace host::kernel

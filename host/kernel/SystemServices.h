@@ -22,6 +22,8 @@ public:
     OdString userSupportFolder() const override;
     /// Everything is, but while a program has left a drawing command half way: the command takes the next input.
     bool isPermitted(const OdString &command, CKvDocument &document) override;
+    /// The folder of the user's data.
+    OdString supportFolder() const override;
 
 private:
     Session &m_session;

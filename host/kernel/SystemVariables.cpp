@@ -1,6 +1,7 @@
 #include "host/kernel/SystemVariables.h"
 
 #include "host/drawing/HeaderVariables.h"
+#include "host/drawing/WipeoutFrame.h"
 #include "host/kernel/Document.h"
 #include "host/kernel/Editor.h"
 #include "host/kernel/HostVariables.h"
@@ -19,6 +20,8 @@ using drawing::Vec3;
 
 /// Group code of angles in the header: degrees in the file, radians for programs.
 constexpr int angleCode = 50;
+
+const QString wipeoutFrame = QStringLiteral("WIPEOUTFRAME");
 
 QString headerName(const QString &name)
 {
@@ -172,6 +175,18 @@ void SystemVariables::setInternally(QStringView name, const VariableValue &value
         if (!header.get(headerName(upper)))
             m_values.insert(upper, value);
     }
+}
+
+void SystemVariables::storeObjectSettings()
+{
+    const auto frame = m_values.constFind(wipeoutFrame);
+    if (frame == m_values.constEnd())
+        return;
+    const qint32 value = std::get<qint32>(*frame);
+    drawing::Drawing &drawing = m_document.drawing();
+    // In a version that has no such object the value lasts as long as the document is open.
+    if (drawing::wipeoutFrame(drawing) == value || drawing::setWipeoutFrame(drawing, value))
+        m_values.erase(frame);
 }
 
 qint32 SystemVariables::integer(QStringView name, qint32 otherwise) const

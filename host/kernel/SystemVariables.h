@@ -27,7 +27,8 @@ enum class SetOutcome
 };
 
 /// The system variables of one document, by name without regard to letter case: those of the drawing's header (named
-/// without the $ that the file has; changing one is an undoable change of the drawing) and those of the host. Angles
+/// without the $ that the file has; changing one is an undoable change of the drawing), those of its objects and those
+/// of the host. Angles
 /// are radians. Numbers given for a real variable may be integers; the other way round is refused.
 class KV_EXPORT SystemVariables
 {
@@ -51,6 +52,11 @@ public:
     QString text(QStringView name) const;
     /// As text, whatever its kind: what a prompt shows. Empty for an unknown name.
     QString display(QStringView name) const;
+
+    /// Puts into the drawing what is kept in one of its objects and was set since the last time. Called at the end of
+    /// each run and before the drawing is saved, so that a setting which a program changes and puts back leaves no
+    /// trace: making the object takes a handle, which cannot be given back.
+    void storeObjectSettings();
 
     bool isReadOnly(QStringView name) const;
     /// All names, sorted.

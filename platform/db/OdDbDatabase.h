@@ -38,4 +38,10 @@ public:
     virtual OdString getFilename() const = 0;
     /// The named-object dictionary; null when the drawing's version has none.
     virtual OdDbDictionary *getNamedObjectsDictionary() = 0;
+    /// The value of a system variable, its name in any case; null for an unknown one. Integers that fit are of the type
+    /// kRtShort.
+    virtual OdResBufPtr getSysVar(const OdString &name) const = 0;
+    /// Changes a system variable to the value of `value` (its first link only). False when there is none of that name,
+    /// it cannot be changed, or it takes no such value; it is then as it was.
+    virtual bool setSysVar(const OdString &name, const OdResBuf &value) = 0;
 };

@@ -26,6 +26,9 @@ public:
     virtual OdString userSupportFolder() const = 0;
     /// Whether `command` may run in `document` now. Where the user has to be told why not, the host does it.
     virtual bool isPermitted(const OdString &command, CKvDocument &document) = 0;
+    /// The folder of the host's support files, without a separator at the end; "Template" below it is where drawings
+    /// to start from are kept.
+    virtual OdString supportFolder() const = 0;
 };
 
 /// The services; null before the host has started.

@@ -1,11 +1,14 @@
 #include "host/kernel/SystemVariables.h"
 
 #include "host/kernel/Editor.h"
+#include "host/kernel/UndoSteps.h"
+#include "platform/db/OdDbDatabase.h"
 #include "tests/kernel/Bench.h"
 
 #include <QRegularExpression>
 
 using namespace host::kernel;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -59,6 +62,54 @@ INSTANTIATE_TEST_SUITE_P(
                  "(\"Drawing1\" 0)"},
         LispCase{"numbers follow the drawing", "(setvar \"LUNITS\" 4)(setvar \"LUPREC\" 1)", "(rtos 17.5)",
                  "\"1'-5 1/2\\\"\""}));
+
+TEST_F(Bench, aSettingKeptInAnObjectIsStoredWhenTheRunEnds)
+{
+    const char *const countObjects = "(if (dictsearch (namedobjdict) \"ACAD_WIPEOUT_VARS\") 1 0)";
+    EXPECT_EQ(lisp("(getvar \"WIPEOUTFRAME\")"), "1");
+    EXPECT_EQ(lisp("(setvar \"WIPEOUTFRAME\" 0)(setvar \"WIPEOUTFRAME\" 1)"), "1");
+    EXPECT_FALSE(document().isModified()) << "changed and put back";
+    EXPECT_EQ(lisp(countObjects), "0");
+
+    EXPECT_EQ(lisp("(setvar \"WIPEOUTFRAME\" 0)(getvar \"WIPEOUTFRAME\")"), "0");
+    EXPECT_TRUE(document().isModified());
+    EXPECT_EQ(lisp(countObjects), "1");
+    EXPECT_EQ(document().undoSteps().undo(), 1);
+    EXPECT_EQ(lisp("(getvar \"WIPEOUTFRAME\")"), "1");
+    EXPECT_FALSE(document().isModified());
+    EXPECT_EQ(lisp("(setvar \"WIPEOUTFRAME\" 3)").rfind("error", 0), 0U);
+}
+
+TEST_F(Bench, aProgramSavesWhatItSetInTheSameRun)
+{
+    const QString file = path("saved.dxf");
+    lisp("(setvar \"WIPEOUTFRAME\" 0)(command \"SAVEAS\" \"" + file.toStdString() + "\")");
+    QFile saved(file);
+    ASSERT_TRUE(saved.open(QIODevice::ReadOnly));
+    EXPECT_TRUE(saved.readAll().contains("AcDbWipeoutVariables"));
+    EXPECT_FALSE(document().isModified());
+}
+
+TEST_F(Bench, modulesReadAndSetVariablesThroughTheDatabase)
+{
+    OdDbDatabase &database = *document().database();
+    const auto stored = [&database](const char *name, const OdResBufPtr &value) {
+        return database.setSysVar(QString::fromLatin1(name), *value);
+    };
+    EXPECT_TRUE(stored("wipeoutframe", OdResBuf::newInteger(OdResBuf::kRtShort, 0)));
+    EXPECT_EQ(database.getSysVar(u"WIPEOUTFRAME"_s)->restype(), int(OdResBuf::kRtShort));
+    EXPECT_EQ(lisp("(getvar \"WIPEOUTFRAME\")"), "0");
+    EXPECT_TRUE(document().undoSteps().canUndo());
+    EXPECT_TRUE(stored("LTSCALE", OdResBuf::newReal(OdResBuf::kRtReal, 2.5)));
+    EXPECT_EQ(database.getSysVar(u"ltscale"_s)->getDouble(), 2.5);
+    EXPECT_TRUE(stored("LIMMAX", OdResBuf::newPoint(OdResBuf::kRtPoint, {420, 297, 0})));
+    EXPECT_EQ(database.getSysVar(u"LIMMAX"_s)->getPoint3d(), (OdGePoint3d{420, 297, 0}));
+    EXPECT_FALSE(stored("WIPEOUTFRAME", OdResBuf::newInteger(OdResBuf::kRtShort, 7)));
+    EXPECT_FALSE(stored("DWGNAME", OdResBuf::newString(OdResBuf::kRtString, u"x"_s)));
+    EXPECT_FALSE(stored("NOSUCH", OdResBuf::newInteger(OdResBuf::kRtShort, 1)));
+    EXPECT_FALSE(stored("WIPEOUTFRAME", OdResBuf::newRb(OdResBuf::kRtNil)));
+    EXPECT_EQ(database.getSysVar(u"NOSUCH"_s), nullptr);
+}
 
 TEST_F(Bench, theHomeFolderEndsWithASeparator)
 {

@@ -294,6 +294,21 @@ OdResBufPtr FakeDatabase::Record::copy(const OdResBuf *chain)
     return first;
 }
 
+OdResBufPtr FakeDatabase::getSysVar(const OdString &name) const
+{
+    const auto found = m_variables.constFind(name.toUpper());
+    return found == m_variables.cend() ? nullptr : OdResBuf::newInteger(OdResBuf::kRtShort, *found);
+}
+
+bool FakeDatabase::setSysVar(const OdString &name, const OdResBuf &value)
+{
+    if (!m_variables.contains(name.toUpper()))
+        return false;
+    m_variables[name.toUpper()] = value.getInteger();
+    m_settings.append(QStringLiteral("%1=%2").arg(name).arg(value.getInteger()));
+    return true;
+}
+
 OdDbXrecord *FakeDatabase::getAt(const OdString &name)
 {
     const auto found = m_records.find(name.toLower());

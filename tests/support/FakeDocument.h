@@ -117,7 +117,7 @@ private:
     QString m_input;
 };
 
-/// A drawing's database of nothing but extension records in the named-object dictionary.
+/// A drawing's database of nothing but extension records in the named-object dictionary and integer variables.
 class FakeDatabase final : public OdDbDatabase, public OdDbDictionary
 {
 public:
@@ -127,6 +127,13 @@ public:
 
     OdString getFilename() const override { return m_filename; }
     OdDbDictionary *getNamedObjectsDictionary() override { return m_hasDictionary ? this : nullptr; }
+    /// Makes the variable `name` (upper case) one that the database has.
+    void addVariable(const QString &name, int value) { m_variables[name] = value; }
+    /// What was set so far, in order: "NAME=value".
+    const QStringList &settings() const { return m_settings; }
+
+    OdResBufPtr getSysVar(const OdString &name) const override;
+    bool setSysVar(const OdString &name, const OdResBuf &value) override;
     OdDbXrecord *getAt(const OdString &name) override;
     OdDbXrecord *setAt(const OdString &name) override;
 
@@ -135,6 +142,8 @@ private:
 
     QString m_filename;
     bool m_hasDictionary = true;
+    QMap<QString, qint64> m_variables;
+    QStringList m_settings;
     std::map<QString, std::shared_ptr<OdDbXrecord>> m_records;
 };
 

@@ -1,5 +1,6 @@
 #include "tests/support/FakeHost.h"
 
+#include <QDir>
 #include <QFile>
 
 namespace ortakit::test {
@@ -75,6 +76,7 @@ FakeHost::FakeHost()
       m_activeBefore(host::kernel::setActiveDocument(nullptr))
 {
     writeFile(QStringLiteral("alias.xml"), "<aliases/>");
+    QDir().mkpath(path(QStringLiteral("support/Template")));
     m_documents.open()->setSystemVariable(QStringLiteral("LOGFILEPATH"), m_folder.path() + QLatin1Char('/'));
 }
 

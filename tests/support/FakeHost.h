@@ -67,7 +67,8 @@ public:
 };
 
 /// A host of fakes, installed as the process's host while it lives, with one open document whose LOGFILEPATH is a
-/// folder of its own that goes away with it. The host that was installed before comes back afterwards.
+/// folder of its own that goes away with it, as does the support folder below it with its empty Template. The host that
+/// was installed before comes back afterwards.
 class FakeHost final : public CKvSystemServices
 {
 public:
@@ -100,6 +101,7 @@ public:
     /// Its own folder, with an alias file without aliases.
     OdString userSupportFolder() const override { return m_folder.path() + QLatin1Char('/'); }
     bool isPermitted(const OdString &command, CKvDocument &) override { return !m_refused.contains(command); }
+    OdString supportFolder() const override { return path(QStringLiteral("support")); }
 
 private:
     QTemporaryDir m_folder;
