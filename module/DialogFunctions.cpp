@@ -11,6 +11,7 @@
 #include "dialogs/dimensionstyle/Dlg_QT_ImportDimensionStyle.h"
 #include "dialogs/patternhatch/DLG_QT_PatternHatch.h"
 #include "dialogs/textframe/Dlg_QT_TextFrame.h"
+#include "dialogs/textmask/Dlg_QT_TextMask.h"
 #include "module/RunDialog.h"
 #include "platform/kernel/CKvSystemServices.h"
 #include "platform/kernel/CKvCustBlockUtils.h"
@@ -133,6 +134,11 @@ int dlgPatternHatch()
 int dlgTextFrame()
 {
     return runDialog<Dlg_QT_TextFrame>(DialogSlot::TextFrame, {});
+}
+
+int dlgTextMask()
+{
+    return runDialog<Dlg_QT_TextMask>(DialogSlot::TextMask, {});
 }
 
 } // namespace ortakit

@@ -15,6 +15,7 @@ int dlgExDimensionStyle();
 int dlgImDimensionStyle();
 int dlgPatternHatch();
 int dlgTextFrame();
+int dlgTextMask();
 /// @}
 
 } // namespace ortakit

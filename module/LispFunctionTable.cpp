@@ -32,7 +32,7 @@ constexpr LispFunctionTable lispFunctionTable = {{
     function<"Dlg_imporAttributes">(),
     function<"Dlg_NumberText">(),
     function<"Dlg_TextFrame", dlgTextFrame>(),
-    function<"Dlg_TextMask">(),
+    function<"Dlg_TextMask", dlgTextMask>(),
     function<"CreateRtext">(),
     function<"Dlg_ExDimensionStyle", dlgExDimensionStyle>(),
     function<"Dlg_ImDimensionStyle", dlgImDimensionStyle>(),

@@ -11,6 +11,7 @@
 #include "dialogs/dimensionstyle/Dlg_QT_ImportDimensionStyle.h"
 #include "dialogs/patternhatch/DLG_QT_PatternHatch.h"
 #include "dialogs/textframe/Dlg_QT_TextFrame.h"
+#include "dialogs/textmask/Dlg_QT_TextMask.h"
 #include "tests/support/FakeHost.h"
 #include "tests/support/QtTestPrinters.h"
 
@@ -58,6 +59,7 @@ constexpr Row rows[] = {
     row<Dlg_QT_ImportDimensionStyle>("ImportDimensionStyle", "9122"),
     row<DLG_QT_PatternHatch>("PatternHatch", "9102", "aden"),
     row<Dlg_QT_TextFrame>("TextFrame", "9113", "c"), // "&Circle" and the "&Color:" of a hatch
+    row<Dlg_QT_TextMask>("TextMask", "9115"),
 };
 
 void PrintTo(const Row &row, std::ostream *out)
