@@ -10,6 +10,7 @@
 #include "dialogs/dimensionstyle/Dlg_QT_ExchangedDimensionStyle.h"
 #include "dialogs/dimensionstyle/Dlg_QT_ImportDimensionStyle.h"
 #include "dialogs/patternhatch/DLG_QT_PatternHatch.h"
+#include "dialogs/numbertext/Dlg_QT_numbertext.h"
 #include "dialogs/textframe/Dlg_QT_TextFrame.h"
 #include "dialogs/textmask/Dlg_QT_TextMask.h"
 #include "module/RunDialog.h"
@@ -129,6 +130,11 @@ int dlgPatternHatch()
              },
          .takeExtra = [](auto &dialog, const OdResBuf *rest) { dialog.setMode(rest ? rest->getString() : OdString()); },
          .giveResult = [](auto &dialog, CKvLispEngine &lisp) { lisp.returnString(dialog.state().action()); }});
+}
+
+int dlgNumberText()
+{
+    return runDialog<Dlg_QT_numbertext>(DialogSlot::NumberText, {});
 }
 
 int dlgTextFrame()

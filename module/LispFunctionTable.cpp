@@ -30,7 +30,7 @@ constexpr LispFunctionTable lispFunctionTable = {{
     function<"Dlg_convertsimplesnotes">(),
     function<"Dlg_makelinestyle", dlgMakeLineStyle>(),
     function<"Dlg_imporAttributes">(),
-    function<"Dlg_NumberText">(),
+    function<"Dlg_NumberText", dlgNumberText>(),
     function<"Dlg_TextFrame", dlgTextFrame>(),
     function<"Dlg_TextMask", dlgTextMask>(),
     function<"CreateRtext">(),
