@@ -10,6 +10,7 @@
 #include "dialogs/dimensionstyle/Dlg_QT_ExchangedDimensionStyle.h"
 #include "dialogs/dimensionstyle/Dlg_QT_ImportDimensionStyle.h"
 #include "dialogs/patternhatch/DLG_QT_PatternHatch.h"
+#include "dialogs/multiviewsetup/Dlg_QT_MultiViewSetup.h"
 #include "dialogs/numbertext/Dlg_QT_numbertext.h"
 #include "dialogs/textframe/Dlg_QT_TextFrame.h"
 #include "dialogs/textmask/Dlg_QT_TextMask.h"
@@ -130,6 +131,11 @@ int dlgPatternHatch()
              },
          .takeExtra = [](auto &dialog, const OdResBuf *rest) { dialog.setMode(rest ? rest->getString() : OdString()); },
          .giveResult = [](auto &dialog, CKvLispEngine &lisp) { lisp.returnString(dialog.state().action()); }});
+}
+
+int dlgMultiViewSetup()
+{
+    return runDialog<Dlg_QT_MultiViewSetup>(DialogSlot::MultiViewSetup, {});
 }
 
 int dlgNumberText()

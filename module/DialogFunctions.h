@@ -14,6 +14,7 @@ int dlgReplaceBlockToXref();
 int dlgExDimensionStyle();
 int dlgImDimensionStyle();
 int dlgPatternHatch();
+int dlgMultiViewSetup();
 int dlgNumberText();
 int dlgTextFrame();
 int dlgTextMask();

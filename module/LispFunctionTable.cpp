@@ -43,7 +43,7 @@ constexpr LispFunctionTable lispFunctionTable = {{
     function<"Dlg_ExportInfo">(),
     function<"Dlg_EditAlias", dlgEditAlias>(),
     function<"Dlg_MakeShape", dlgMakeShape>(),
-    function<"Dlg_MultiViewSetup">(),
+    function<"Dlg_MultiViewSetup", dlgMultiViewSetup>(),
     function<"c:setbackupfolder">(OnClose::Keep),
     function<"KORA_entfield">(),
     function<"KORA_ssget">(),

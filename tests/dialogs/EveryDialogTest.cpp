@@ -10,6 +10,7 @@
 #include "dialogs/dimensionstyle/Dlg_QT_ExchangedDimensionStyle.h"
 #include "dialogs/dimensionstyle/Dlg_QT_ImportDimensionStyle.h"
 #include "dialogs/patternhatch/DLG_QT_PatternHatch.h"
+#include "dialogs/multiviewsetup/Dlg_QT_MultiViewSetup.h"
 #include "dialogs/numbertext/Dlg_QT_numbertext.h"
 #include "dialogs/textframe/Dlg_QT_TextFrame.h"
 #include "dialogs/textmask/Dlg_QT_TextMask.h"
@@ -60,6 +61,8 @@ constexpr Row rows[] = {
     row<Dlg_QT_ImportDimensionStyle>("ImportDimensionStyle", "9122"),
     row<DLG_QT_PatternHatch>("PatternHatch", "9102", "aden"),
     row<Dlg_QT_TextFrame>("TextFrame", "9113", "c"), // "&Circle" and the "&Color:" of a hatch
+    // "C&reate Viewports" and "&Remove entities", "L&imits" and "&Insert Title Block"
+    row<Dlg_QT_MultiViewSetup>("MultiViewSetup", "9145", "ri"),
     row<Dlg_QT_numbertext>("NumberText", "9112", "v"), // "Initial &value:" and "O&verwrite"
     row<Dlg_QT_TextMask>("TextMask", "9115"),
 };

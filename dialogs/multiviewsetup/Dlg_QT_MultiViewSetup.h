@@ -1,0 +1,60 @@
+#pragma once
+
+#include "state/ToolDialog.h"
+
+#include <memory>
+
+class QPushButton;
+
+namespace Ui {
+class Dlg_QT_MultiViewSetup;
+}
+enum class UnitStyle;
+
+/// The multi-view setup dialog, from which a sheet is set up step by step: a title block in paper space or model space,
+/// and viewports that are created, aligned and scaled.
+///
+/// Each of its action buttons closes it with an action word: "INSERTTITLE" (the block is in `titleblock`),
+/// "CREATEVIEWPORTS", "ALIGNVIEWPORTS", "SCALEVIEWPORTS" or "INSERTMSTITLE". Lisp does the work and calls again; the
+/// dialog then comes back as it was left. "CANCEL" is the action from each showing on until a button is pressed.
+class Dlg_QT_MultiViewSetup final : public ToolDialog
+{
+    Q_OBJECT
+
+public:
+    explicit Dlg_QT_MultiViewSetup(QWidget *parent = nullptr);
+    ~Dlg_QT_MultiViewSetup() override;
+
+protected:
+    void beforeShow() override;
+    void beforeFirstShow() override;
+    void afterShow() override;
+
+private:
+    void UpdateDialog();
+    void ShowCurScale();
+    void SelectChanged();
+    void selDirect();
+    void _insertTitle();
+    void _createViewports();
+    void _alingViewports();
+    void _scaleViewports();
+    void _insertMSTitle();
+
+    void setUpTables();
+    void connectChoices();
+    void connectActions();
+    void fillCombos();
+
+    QString folder() const;
+    void setFolder(const QString &folder);
+    /// Lists the folder's title blocks, if the folder passes the check, and keeps the selection among them.
+    void listTitleBlocks();
+    UnitStyle unitStyle() const;
+    void listScales();
+    /// The button that does what the shown page is for.
+    QPushButton *pageAction() const;
+
+    std::unique_ptr<Ui::Dlg_QT_MultiViewSetup> m_ui;
+    UnitStyle m_listedStyle;
+};
