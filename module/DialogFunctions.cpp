@@ -1,22 +1,22 @@
 #include "module/DialogFunctions.h"
 
 #include "dialogs/breakline/Dlg_QT_Breakline.h"
-#include "dialogs/lispexplorer/Dlg_QT_LispExplorer.h"
-#include "dialogs/editalias/Dlg_QT_EditAlias.h"
-#include "dialogs/makelinestyle/Dlg_QT_MakeLineStyle.h"
-#include "dialogs/makeshape/Dlg_QT_MakeShape.h"
-#include "dialogs/replaceblock/Dlg_QT_ReplaceBlock.h"
-#include "dialogs/replaceblocktoxref/Dlg_QT_ReplaceBlockToXref.h"
 #include "dialogs/dimensionstyle/Dlg_QT_ExchangedDimensionStyle.h"
 #include "dialogs/dimensionstyle/Dlg_QT_ImportDimensionStyle.h"
-#include "dialogs/patternhatch/DLG_QT_PatternHatch.h"
+#include "dialogs/editalias/Dlg_QT_EditAlias.h"
+#include "dialogs/lispexplorer/Dlg_QT_LispExplorer.h"
+#include "dialogs/makelinestyle/Dlg_QT_MakeLineStyle.h"
+#include "dialogs/makeshape/Dlg_QT_MakeShape.h"
 #include "dialogs/multiviewsetup/Dlg_QT_MultiViewSetup.h"
 #include "dialogs/numbertext/Dlg_QT_numbertext.h"
+#include "dialogs/patternhatch/DLG_QT_PatternHatch.h"
+#include "dialogs/replaceblock/Dlg_QT_ReplaceBlock.h"
+#include "dialogs/replaceblocktoxref/Dlg_QT_ReplaceBlockToXref.h"
 #include "dialogs/textframe/Dlg_QT_TextFrame.h"
 #include "dialogs/textmask/Dlg_QT_TextMask.h"
 #include "module/RunDialog.h"
-#include "platform/kernel/CKvSystemServices.h"
 #include "platform/kernel/CKvCustBlockUtils.h"
+#include "platform/kernel/CKvSystemServices.h"
 
 namespace ortakit {
 
@@ -40,15 +40,6 @@ int replaceBlocks(DialogSlot slot, bool (*isRefused)(CKvDocument &))
                .takeExtra = [](Dialog &dialog, const OdResBuf *rest) { dialog.setBlocks(strings(rest)); }});
 }
 
-} // namespace
-
-int dlgBreakLine()
-{
-    return runDialog<Dlg_QT_Breakline>(DialogSlot::BreakLine, {});
-}
-
-namespace {
-
 /// A catalogue to show, and behind it perhaps the word that begins with it.
 void takeCatalogue(Dlg_QT_LispExplorer &dialog, const OdResBuf *first)
 {
@@ -67,6 +58,11 @@ void setNothing(Dialog &, CKvLispEngine &)
 }
 
 } // namespace
+
+int dlgBreakLine()
+{
+    return runDialog<Dlg_QT_Breakline>(DialogSlot::BreakLine, {});
+}
 
 int dlgLispExplorer()
 {
