@@ -173,6 +173,21 @@ const Tables::NameMap &Tables::names(TableKind kind) const
     return cache.names;
 }
 
+/// Keeps what is known of the names over an entry that was added since `revisionBefore`, so that adding many does not
+/// collect all names anew for each.
+void Tables::noteEntry(TableKind kind, const QString &name, RecordId entry, quint64 revisionBefore)
+{
+    const quint64 revision = m_drawing.structureRevision(Section::Tables);
+    for (Cache &cache : m_caches) {
+        if (cache.revision == revisionBefore)
+            cache.revision = revision;
+    }
+    Cache &own = m_caches[static_cast<size_t>(kind)];
+    const QString key = name.toCaseFolded();
+    if (own.revision == revision && !own.names.contains(key))
+        own.names.insert(key, entry);
+}
+
 RecordId Tables::createTable(TableKind kind)
 {
     const RecordId section = ensureSection(m_drawing, Section::Tables);
@@ -215,7 +230,10 @@ RecordId Tables::add(TableKind kind, const QString &name, const FieldList &field
     FieldList known = fields;
     std::erase_if(known, [&](const Field &field) { return !hasCode(kind, field.code, m_drawing.version()); });
     appendBody(entry, kind, defaults, known);
-    return m_drawing.insert(noRecord, head, RecordKind::TableEntry, entry);
+    const quint64 before = m_drawing.structureRevision(Section::Tables);
+    const RecordId added = m_drawing.insert(noRecord, head, RecordKind::TableEntry, entry);
+    noteEntry(kind, name, added, before);
+    return added;
 }
 
 bool Tables::modify(RecordId entry, const FieldList &fields)

@@ -54,6 +54,7 @@ public:
 private:
     using NameMap = QHash<QString, RecordId>;
     const NameMap &names(TableKind kind) const;
+    void noteEntry(TableKind kind, const QString &name, RecordId entry, quint64 revisionBefore);
     RecordId createTable(TableKind kind);
 
     Drawing &m_drawing;
