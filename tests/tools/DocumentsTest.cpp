@@ -84,8 +84,8 @@ TEST_F(Documents, EachHasItsOwnDialogWithItsOwnValues)
 TEST_F(Documents, FunctionsWithoutTheirDialogSaySo)
 {
     Document *document = bench.documents().create();
-    play(*document, u"lisp (Dlg_TextMask \"x\")\nexpect-error DLG_TEXTMASK\n"
-                    "expect-printed Dlg_TextMask is not available in this build.\n"_s);
+    play(*document, u"lisp (Dlg_MergeSheets \"x\")\nexpect-error DLG_MERGESHEETS\n"
+                    "expect-printed Dlg_MergeSheets is not available in this build.\n"_s);
 }
 
 TEST_F(Documents, PromptingFunctionsGiveLispWhatWasAnswered)

@@ -64,12 +64,14 @@ TEST_F(OptionDialogs, BringTheirChoicesBack)
          u"expect viewrows 2\nexpect-enabled viewrows no\nclick arrayViewp\nset viewcols 3\n"
          "set removeViewports \"Remove all viewports\"\nclick SpaceModel\nrow msLstScales 1:50\nexpect curScale 50\n"
          "set mswidth 420\nset msheight 297\nclick InsertMsTitle\n"_s,
+         // Pages of a stack come in the order in which they were last shown.
          u"spacepaper=FALSE\n!action!=INSERTMSTITLE\nspacemodel=TRUE\npstitle=FALSE\npscreate=TRUE\npsalign=FALSE\n"
-         "psscale=FALSE\ntitlex=0.0\ntitley=0.0\nunitstitle=Feet\nunitstitle_index=0\noplay=FALSE\n"
+         "psscale=FALSE\nms_scale=TRUE\nps_scale=FALSE\nalignhor=TRUE\nalignver=FALSE\n"
+         "titlex=0.0\ntitley=0.0\nunitstitle=Feet\nunitstitle_index=0\noplay=FALSE\n"
          "removetitles=Do not remove entities\nremovetitles_index=0\nxref=FALSE\nlimits=FALSE\nsingleviewp=FALSE\n"
          "arrayviewp=TRUE\nviewrows=2\nviewcols=3\nviewoffsetx=0.0\nviewoffsety=0.0\n"
-         "removeviewports=Remove all viewports\nremoveviewports_index=1\nalignhor=TRUE\nalignver=FALSE\nms_scale=TRUE\n"
-         "ps_scale=FALSE\nmsscientific=FALSE\nmsdecimal=FALSE\nmsengeneering=FALSE\nmsarchitectural=FALSE\n"
+         "removeviewports=Remove all viewports\nremoveviewports_index=1\n"
+         "msscientific=FALSE\nmsdecimal=FALSE\nmsengeneering=FALSE\nmsarchitectural=FALSE\n"
          "msmetric=TRUE\nmswidth=420\nmsheight=297\nmslstscales=1:50^\ncurscale=50\n"_s},
     };
     for (const auto &row : rows) {
