@@ -199,6 +199,8 @@ void Dlg_QT_MultiViewSetup::setFolder(const QString &folder)
     m_ui->directory->setText(
         m_ui->directory->fontMetrics().elidedText(folder, Qt::ElideMiddle, m_ui->directory->width()));
     m_ui->directory->setToolTip(folder);
+    // Labels are not written by themselves, and the tool has to find the block's file.
+    state().setWrittenValue(m_ui->directory->objectName(), folder);
 }
 
 void Dlg_QT_MultiViewSetup::listTitleBlocks()
@@ -220,6 +222,7 @@ void Dlg_QT_MultiViewSetup::_insertTitle()
     const QList<int> rows = ortakit::rowsWithSelection(*m_ui->lstBlocks);
     const QTableWidgetItem *block = m_ui->lstBlocks->item(rows.size() == 1 ? rows.first() : 0, 0);
     m_ui->titleblock->setText(block ? block->text() : QString());
+    state().setWrittenValue(m_ui->titleblock->objectName(), m_ui->titleblock->text());
     acceptWith(QStringLiteral("INSERTTITLE"));
 }
 

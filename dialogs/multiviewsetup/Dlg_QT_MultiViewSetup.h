@@ -14,9 +14,10 @@ enum class UnitStyle;
 /// The multi-view setup dialog, from which a sheet is set up step by step: a title block in paper space or model space,
 /// and viewports that are created, aligned and scaled.
 ///
-/// Each of its action buttons closes it with an action word: "INSERTTITLE" (the block is in `titleblock`),
-/// "CREATEVIEWPORTS", "ALIGNVIEWPORTS", "SCALEVIEWPORTS" or "INSERTMSTITLE". Lisp does the work and calls again; the
-/// dialog then comes back as it was left. "CANCEL" is the action from each showing on until a button is pressed.
+/// Each of its action buttons closes it with an action word: "INSERTTITLE" (the block's file is `titleblock` in the
+/// folder `directory`, both written though they are labels), "CREATEVIEWPORTS", "ALIGNVIEWPORTS", "SCALEVIEWPORTS" or
+/// "INSERTMSTITLE". Lisp does the work and calls again; the dialog then comes back as it was left. "CANCEL" is the
+/// action from each showing on until a button is pressed.
 class Dlg_QT_MultiViewSetup final : public ToolDialog
 {
     Q_OBJECT

@@ -151,7 +151,7 @@ TEST_F(MultiViewSetup, TheFactorIsThatOfTheOneChosenScale)
 TEST_F(MultiViewSetup, TheBlockIsTheOneSelectedRowOrElseTheFirst)
 {
     addFiles(u"support/Template"_s, {u"a.dwg"_s, u"b.dwg"_s, u"c.dwg"_s});
-    show();
+    showWith({});
     EXPECT_FALSE(isEnabled("InsertTitle"));
     const struct
     {
@@ -166,6 +166,10 @@ TEST_F(MultiViewSetup, TheBlockIsTheOneSelectedRowOrElseTheFirst)
         click("InsertTitle");
         EXPECT_TRUE(isAccepted());
         EXPECT_EQ(label("titleblock"), expected);
+        const QString saved = savedState();
+        EXPECT_TRUE(saved.contains(u"titleblock=%1\n"_s.arg(expected))) << saved.toStdString();
+        EXPECT_TRUE(saved.contains(u"directory=%1/support/Template\n"_s.arg(host.path({})).replace(u"//"_s, u"/"_s)))
+            << saved.toStdString();
         EXPECT_EQ(dialog->state().action(), u"INSERTTITLE"_s);
     }
     show();
