@@ -14,8 +14,9 @@ struct Shades
 
 constexpr Shades light{0xfff2f3f5, 0xffffffff, 0xfff0f2f4, 0xffe8eaed, 0xff1d2023,
                        0xff8b9097, 0xff2f6fb5, 0xffffffff, 0xff1b5fa8, 0xfffffbe6};
-constexpr Shades dark{0xff2b2d31, 0xff1f2124, 0xff26282c, 0xff383b40, 0xffe3e5e8,
-                      0xff7c8087, 0xff3d7fc4, 0xffffffff, 0xff7db8f2, 0xff3a3d42};
+// Fields are lighter than the window: an option that is off shows its ground alone, and a darker one is not seen.
+constexpr Shades dark{0xff26282b, 0xff3b3e44, 0xff35383d, 0xff45494f, 0xffe3e5e8,
+                      0xff8b9097, 0xff3d7fc4, 0xffffffff, 0xff7db8f2, 0xff3a3d42};
 
 } // namespace
 
