@@ -26,6 +26,7 @@ DialogState::DialogState(QDialog *dialog) : m_dialog(dialog)
 
 void DialogState::load(const QString &path)
 {
+    m_lastFile.assign({});
     const QRect place = m_dialog->geometry();
     // A window whose geometry was set is not centred over its parent when it is shown again.
     if (place.x() != 0 && place.y() != 0)
@@ -36,6 +37,7 @@ void DialogState::load(const QString &path)
     const auto lines = ortakit::readStateFile(path);
     if (!lines)
         return;
+    m_lastFile.assign(*lines);
     for (const QString &line : *lines)
         m_lines.merge(line);
 }
@@ -55,6 +57,17 @@ void DialogState::apply(const QString &nameFilter, const QStringList &excluded)
             ortakit::applyValue(*widget, value);
     }
     m_loaded = true;
+}
+
+void DialogState::applyLastFile()
+{
+    QStringList notInFile;
+    for (const QWidget *widget : widgets()) {
+        const QString name = widget->objectName().toLower();
+        if (lookupInLastFile(name).isEmpty())
+            notInFile.append(name + u'=');
+    }
+    apply({}, notInFile);
 }
 
 QStringList DialogState::lookupList(const QString &key) const
@@ -84,13 +97,17 @@ void DialogState::saveFavourite(const QString &name, const QString &group) const
 void DialogState::saveFile() const
 {
     QString text;
+    QMap<QString, QString> besideWidgets = m_writtenValues;
     for (const QWidget *widget : widgets()) {
+        besideWidgets.remove(widget->objectName().toLower());
         const QString lines = linesOf(*widget);
         const bool isFirst = text.isEmpty() && !lines.isEmpty();
         text += lines;
         if (isFirst)
             text += actionLine(m_action);
     }
+    for (const auto &[name, value] : besideWidgets.asKeyValueRange())
+        text += value.isEmpty() ? QString() : name + u'=' + value + u'\n';
     ortakit::writeStateFile(m_path, text);
 }
 

@@ -2,6 +2,7 @@
 
 #include "state/StateLines.h"
 
+#include <QMap>
 #include <QStringList>
 
 class QDialog;
@@ -31,6 +32,8 @@ public:
     /// A non-empty `nameFilter` restricts that to the widgets of this name (any case). `excluded` holds the names to
     /// leave alone, in lower case and each with "=" behind. From then on isLoaded().
     void apply(const QString &nameFilter = {}, const QStringList &excluded = {});
+    /// Sets the widgets that the file of the last load() names, and leaves the others as the user left them.
+    void applyLastFile();
 
     /// The value for `key`, empty when there is none: the text between the first two "=" of the first line that has
     /// `key` and "=" anywhere in it, in any case. See StateLines::lookup().
@@ -40,13 +43,17 @@ public:
     /// says, without the empty ones. Each is looked up as lookup() does.
     QStringList lookupList(const QString &key) const;
 
+    /// What lookup() finds among the lines of the last load() alone: what this call's program said itself.
+    QString lookupInLastFile(const QString &key) const { return m_lastFile.lookup(key); }
+
     /// The word for the Lisp program, written by every save() until another is set. A word with a value is set as
     /// "WORD=value".
     void setAction(const QString &word) { m_action = word; }
     QString action() const { return m_action; }
 
     /// From now on save() writes `value` to the state file for the widget called `name` (any case) instead of what the
-    /// widget says, for a program that wants it in another form. Favourites keep what the widget says.
+    /// widget says, for a program that wants it in another form. Favourites keep what the widget says. The value of a
+    /// name that no widget has stands behind those of the widgets.
     void setWrittenValue(const QString &name, const QString &value) { m_writtenValues.insert(name.toLower(), value); }
 
     /// Writes the values of all widgets and the action word to the file of the last load(). The action line follows
@@ -79,9 +86,10 @@ private:
 
     QDialog *m_dialog;
     StateLines m_lines;
+    StateLines m_lastFile;
     QString m_path;
     QString m_favouritesFolder;
     QString m_action;
-    QHash<QString, QString> m_writtenValues;
+    QMap<QString, QString> m_writtenValues;
     bool m_loaded = false;
 };

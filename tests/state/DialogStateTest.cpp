@@ -217,6 +217,38 @@ TEST_F(DialogStateTest, AWrittenValueTakesThePlaceOfTheWidgets)
                        "other=x\n!action!=\n");
 }
 
+TEST_F(DialogStateTest, AWrittenValueThatNoWidgetHasStandsBehindTheWidgets)
+{
+    addEdit(u"name"_s, u"x"_s);
+    loadText({});
+    state.setWrittenValue(u"Current"_s, u"Upper"_s);
+    state.setWrittenValue(u"empty"_s, {});
+    EXPECT_EQ(saved(), "\xEF\xBB\xBF"
+                       "name=x\n!action!=\ncurrent=Upper\n");
+}
+
+// What an earlier call's file said must not undo what the user did since.
+TEST_F(DialogStateTest, TheLastFileAloneIsApplied)
+{
+    QLineEdit *first = addEdit(u"first"_s);
+    QLineEdit *second = addEdit(u"second"_s);
+    loadText("first=a\nsecond=b\n");
+    state.apply();
+    first->setText(u"typed"_s);
+    second->setText(u"typed"_s);
+    loadText("second=c\n");
+    state.applyLastFile();
+    EXPECT_EQ(first->text(), u"typed"_s);
+    EXPECT_EQ(second->text(), u"c"_s);
+    EXPECT_EQ(state.lookup(u"first"_s), u"a"_s);
+    EXPECT_EQ(state.lookupInLastFile(u"first"_s), QString());
+
+    second->setText(u"typed"_s);
+    state.load(host.path(u"missing"_s));
+    state.applyLastFile();
+    EXPECT_EQ(second->text(), u"typed"_s);
+}
+
 TEST_F(DialogStateTest, SettingAWidgetMayDeleteAnother)
 {
     auto *check = new QCheckBox(&dialog);
