@@ -44,6 +44,9 @@ protected:
     /// Brings everything that follows from the widgets up to date, each time.
     virtual void afterShow() {}
 
+    /// From now on showHelp() opens the page of this name in HelpTopicMap.
+    void setHelpTopic(const QString &helpTopic) { m_helpTopic = helpTopic; }
+
     /// Closes with acceptance, leaving `action` for the Lisp program.
     void acceptWith(const QString &action);
 
