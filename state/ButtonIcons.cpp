@@ -23,6 +23,8 @@ void decorateButtons(const QWidget &dialog)
         QLatin1String icon;
     } buttons[] = {
         {QLatin1String("acceptButton"), QLatin1String("ok")},
+        {QLatin1String("okButton"), QLatin1String("ok")},
+        {QLatin1String("cancelButton"), QLatin1String("cancel")},
         {QLatin1String("ButtonCancel"), QLatin1String("cancel")},
         {QLatin1String("buttonHelp"), QLatin1String("help")},
     };

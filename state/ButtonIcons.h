@@ -11,8 +11,9 @@ namespace ortakit {
 /// The button below `dialog` with this object name, in any case; null when there is none.
 QAbstractButton *findButton(const QWidget &dialog, QLatin1String name);
 
-/// Gives "acceptButton", "ButtonCancel" and "buttonHelp" below `dialog` the shared icons in the variant of the host's
-/// style. A button that is not there, and one whose icon the host does not have, stays as it is.
+/// Gives "acceptButton" or "okButton", "ButtonCancel" or "cancelButton", and "buttonHelp" below `dialog` the shared
+/// icons in the variant of the host's style. A button that is not there, and one whose icon the host does not have,
+/// stays as it is.
 void decorateButtons(const QWidget &dialog);
 
 /// Gives `button` the shared icon `icon` ("help") in the same way. Null is allowed.
