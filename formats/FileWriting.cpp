@@ -56,4 +56,12 @@ bool appendToFile(const QString &path, const QByteArray &content, QString *error
     return fail(error, reason);
 }
 
+QByteArray withPlatformLineEnds(QByteArray text)
+{
+#ifdef Q_OS_WIN
+    text.replace("\n", "\r\n");
+#endif
+    return text;
+}
+
 } // namespace ortakit

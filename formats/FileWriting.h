@@ -15,4 +15,7 @@ bool replaceFile(const QString &path, const QByteArray &content, QString *error 
 /// back to what it was. False, and what happened in `error`, as for replaceFile().
 bool appendToFile(const QString &path, const QByteArray &content, QString *error = nullptr);
 
+/// `text` with the platform's line ends in place of line feeds.
+QByteArray withPlatformLineEnds(QByteArray text);
+
 } // namespace ortakit
