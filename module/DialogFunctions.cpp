@@ -1,9 +1,13 @@
 #include "module/DialogFunctions.h"
 
 #include "dialogs/breakline/Dlg_QT_Breakline.h"
+#include "dialogs/convertnotes/DLG_QT_ConvertNotes.h"
 #include "dialogs/dimensionstyle/Dlg_QT_ExchangedDimensionStyle.h"
 #include "dialogs/dimensionstyle/Dlg_QT_ImportDimensionStyle.h"
 #include "dialogs/editalias/Dlg_QT_EditAlias.h"
+#include "dialogs/edittextcase/Dlg_QT_EditTextCase.h"
+#include "dialogs/exportinfo/Dlg_QT_ExportInfo.h"
+#include "dialogs/exportsettings/Dlg_QT_ExportSettings.h"
 #include "dialogs/lispexplorer/Dlg_QT_LispExplorer.h"
 #include "dialogs/makelinestyle/Dlg_QT_MakeLineStyle.h"
 #include "dialogs/makeshape/Dlg_QT_MakeShape.h"
@@ -17,6 +21,8 @@
 #include "module/RunDialog.h"
 #include "platform/kernel/CKvCustBlockUtils.h"
 #include "platform/kernel/CKvSystemServices.h"
+
+#include <QCoreApplication>
 
 namespace ortakit {
 
@@ -147,6 +153,44 @@ int dlgTextFrame()
 int dlgTextMask()
 {
     return runDialog<Dlg_QT_TextMask>(DialogSlot::TextMask, {});
+}
+
+int dlgEditTextCase()
+{
+    return runDialog<Dlg_QT_EditTextCase>(DialogSlot::TextCase, {});
+}
+
+int dlgConvertSimplesNotes()
+{
+    return runDialog<DLG_QT_ConvertNotes>(DialogSlot::ConvertNotes, {});
+}
+
+// Settings export: a listing and a mode come in, no state.
+int dlgExportSetting()
+{
+    return runDialog<Dlg_QT_ExportSettings>(
+        DialogSlot::ExportSettings,
+        {.stateFile = StateFile::None,
+         .extraArguments = ExtraArguments::RequiredSecond,
+         .takeFirst = [](auto &dialog, const OdResBuf *first) { dialog.setListing(first->getString()); },
+         .takeExtra = [](auto &dialog, const OdResBuf *rest) { dialog.setMode(rest->getString()); }});
+}
+
+// User information export: a file with system information comes in, the command line says where the report is. The
+// result is the host's.
+int dlgExportInfo()
+{
+    return runDialog<Dlg_QT_ExportInfo>(
+        DialogSlot::ExportInformation,
+        {.firstArgument = FirstArgument::Present,
+         .takeExtra = [](auto &dialog,
+                         const OdResBuf *rest) {
+            dialog.setSystemFile(rest ? rest->getString() : OdString()); },
+         .giveResult =
+             [](auto &dialog, CKvLispEngine &lisp) {
+            lisp.print(QCoreApplication::translate("LispExtension", "\nSettings saved to: ") + u'"' +
+                       dialog.reportFile() + u'"' + QCoreApplication::translate("LispExtension", " successfully."));
+            .giveRejection = [](auto &, CKvLispEngine &lisp) { lisp.print({}); }});
 }
 
 } // namespace ortakit

@@ -18,6 +18,10 @@ int dlgMultiViewSetup();
 int dlgNumberText();
 int dlgTextFrame();
 int dlgTextMask();
+int dlgEditTextCase();
+int dlgConvertSimplesNotes();
+int dlgExportSetting();
+int dlgExportInfo();
 /// @}
 
 } // namespace ortakit

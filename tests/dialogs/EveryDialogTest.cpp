@@ -1,9 +1,13 @@
 // What a user may expect of each dialog, whatever it is for.
 
 #include "dialogs/breakline/Dlg_QT_Breakline.h"
+#include "dialogs/convertnotes/DLG_QT_ConvertNotes.h"
 #include "dialogs/dimensionstyle/Dlg_QT_ExchangedDimensionStyle.h"
 #include "dialogs/dimensionstyle/Dlg_QT_ImportDimensionStyle.h"
 #include "dialogs/editalias/Dlg_QT_EditAlias.h"
+#include "dialogs/edittextcase/Dlg_QT_EditTextCase.h"
+#include "dialogs/exportinfo/Dlg_QT_ExportInfo.h"
+#include "dialogs/exportsettings/Dlg_QT_ExportSettings.h"
 #include "dialogs/lispexplorer/Dlg_QT_LispExplorer.h"
 #include "dialogs/makelinestyle/Dlg_QT_MakeLineStyle.h"
 #include "dialogs/makeshape/Dlg_QT_MakeShape.h"
@@ -64,6 +68,10 @@ constexpr Row rows[] = {
     row<Dlg_QT_MultiViewSetup>("MultiViewSetup", "9145", "ri"),
     row<Dlg_QT_numbertext>("NumberText", "9112", "v"), // "Initial &value:" and "O&verwrite"
     row<Dlg_QT_TextMask>("TextMask", "9115"),
+    row<Dlg_QT_EditTextCase>("EditTextCase", "9117"),
+    row<DLG_QT_ConvertNotes>("ConvertNotes", "9104"),
+    row<Dlg_QT_ExportSettings>("ExportSettings", "9134"),
+    row<Dlg_QT_ExportInfo>("ExportInfo", "9133"),
 };
 
 void PrintTo(const Row &row, std::ostream *out)

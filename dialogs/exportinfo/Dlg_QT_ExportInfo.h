@@ -1,0 +1,38 @@
+#pragma once
+
+#include "formats/UserReport.h"
+#include "state/ToolDialog.h"
+
+#include <memory>
+
+namespace Ui {
+class Dlg_QT_ExportInfo;
+}
+
+/// Takes a problem report from the user and writes it to a text file, with what a Lisp program found out about the
+/// system. Closes with no action word.
+class Dlg_QT_ExportInfo final : public ToolDialog
+{
+    Q_OBJECT
+
+public:
+    explicit Dlg_QT_ExportInfo(QWidget *parent = nullptr);
+    ~Dlg_QT_ExportInfo() override;
+
+    /// The file with the system information, read with each showing; empty for none.
+    void setSystemFile(const QString &path) { m_systemFile = path; }
+    /// The file that was chosen last, whether or not it could be written; empty when choosing was cancelled.
+    QString reportFile() const { return m_reportFile; }
+
+protected:
+    void afterShow() override;
+
+private:
+    void showWholeFields();
+    ortakit::UserReport report() const;
+    void clickOK();
+
+    std::unique_ptr<Ui::Dlg_QT_ExportInfo> m_ui;
+    QString m_systemFile;
+    QString m_reportFile;
+};
