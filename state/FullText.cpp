@@ -10,6 +10,11 @@ namespace {
 
 constexpr char propertyName[] = "value";
 
+QString elidedText(const QLineEdit &edit, const QString &text)
+{
+    return edit.fontMetrics().elidedText(text, Qt::ElideMiddle, edit.width(), Qt::TextSingleLine);
+}
+
 } // namespace
 
 bool isElided(const QString &text)
@@ -29,7 +34,15 @@ void storeFullText(QWidget &widget, const QString &text)
 
 void showElided(QLineEdit &edit, const QString &text)
 {
-    edit.setText(edit.fontMetrics().elidedText(text, Qt::ElideMiddle, edit.width(), Qt::TextSingleLine));
+    edit.setText(elidedText(edit, text));
+}
+
+void showWhole(QLineEdit &edit)
+{
+    const QString whole = storedFullText(edit);
+    // What the user has typed since then stays.
+    if (isElided(edit.text()) && edit.text() == elidedText(edit, whole))
+        edit.setText(whole);
 }
 
 } // namespace ortakit

@@ -22,4 +22,7 @@ void storeFullText(QWidget &widget, const QString &text);
 /// Shows `text` in one line, shortened in the middle to the width of `edit`. Stores nothing.
 void showElided(QLineEdit &edit, const QString &text);
 
+/// Shows the stored text whole where showElided() has shortened it: for texts that the user is to go on with.
+void showWhole(QLineEdit &edit);
+
 } // namespace ortakit

@@ -42,6 +42,8 @@ void setTableRows(QTableWidget &table, int rowCount, const std::function<QTableW
         const QSignalBlocker noSignals(table);
         table.setRowCount(0);
         table.setRowCount(rowCount);
+        // Nor does the view look at each item as it comes in: it draws itself anew below.
+        const QSignalBlocker noModelSignals(table.model());
         for (int row = 0; row < rowCount; ++row) {
             for (int column = 0; column < table.columnCount(); ++column)
                 table.setItem(row, column, makeItem(row, column));

@@ -1,7 +1,6 @@
 #include "state/TableSelection.h"
 
 #include <QHash>
-#include <QItemSelectionModel>
 #include <QTableWidget>
 
 #include <algorithm>
@@ -35,22 +34,6 @@ QList<QTableWidgetItem *> itemsWithTexts(const QTableWidget &table, const QStrin
     return found;
 }
 
-// Neighbours become one range: what the selection model does with ranges grows with the square of their number.
-void addRanges(QItemSelection &selection, const QTableWidget &table, int firstColumn, int lastColumn, QList<int> rows)
-{
-    const QAbstractItemModel *model = table.model();
-    std::sort(rows.begin(), rows.end());
-    rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
-    for (qsizetype begin = 0; begin < rows.size();) {
-        qsizetype end = begin + 1;
-        while (end < rows.size() && rows[end] == rows[end - 1] + 1)
-            ++end;
-        selection.append(
-            QItemSelectionRange(model->index(rows[begin], firstColumn), model->index(rows[end - 1], lastColumn)));
-        begin = end;
-    }
-}
-
 QItemSelection selectionOf(const QTableWidget &table, const QList<QTableWidgetItem *> &items)
 {
     QItemSelection selection;
@@ -60,7 +43,7 @@ QItemSelection selectionOf(const QTableWidget &table, const QList<QTableWidgetIt
         rowsByColumn[wholeRows ? 0 : item->column()].append(item->row());
     for (auto column = rowsByColumn.cbegin(); column != rowsByColumn.cend(); ++column) {
         const int last = wholeRows ? table.columnCount() - 1 : column.key();
-        addRanges(selection, table, column.key(), last, column.value());
+        selection.append(rangesOfRows(table, column.key(), last, column.value()));
     }
     return selection;
 }
@@ -74,6 +57,23 @@ int itemCount(const QTableWidget &table, int row, int firstColumn, int lastColum
 }
 
 } // namespace
+
+QItemSelection rangesOfRows(const QTableWidget &table, int firstColumn, int lastColumn, QList<int> rows)
+{
+    const QAbstractItemModel *model = table.model();
+    std::sort(rows.begin(), rows.end());
+    rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
+    QItemSelection selection;
+    for (qsizetype begin = 0; begin < rows.size();) {
+        qsizetype end = begin + 1;
+        while (end < rows.size() && rows[end] == rows[end - 1] + 1)
+            ++end;
+        selection.append(
+            QItemSelectionRange(model->index(rows[begin], firstColumn), model->index(rows[end - 1], lastColumn)));
+        begin = end;
+    }
+    return selection;
+}
 
 QList<int> rowsWithSelection(const QTableWidget &table)
 {
@@ -133,8 +133,7 @@ void selectByTexts(QTableWidget &table, const QString &texts)
 
 void selectRows(QTableWidget &table, const QList<int> &rows)
 {
-    QItemSelection selection;
-    addRanges(selection, table, 0, table.columnCount() - 1, rows);
+    const QItemSelection selection = rangesOfRows(table, 0, table.columnCount() - 1, rows);
     table.selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QItemSelection>
 #include <QList>
 #include <QString>
 
@@ -17,6 +18,10 @@ void selectByTexts(QTableWidget &table, const QString &texts);
 
 /// Selects these rows, in any order, and nothing else. The current row stays.
 void selectRows(QTableWidget &table, const QList<int> &rows);
+
+/// The cells from the first to the last column of these rows, in any order. Neighbouring rows become one range: what
+/// the selection model does with ranges grows with the square of their number.
+QItemSelection rangesOfRows(const QTableWidget &table, int firstColumn, int lastColumn, QList<int> rows);
 
 // What Qt itself answers about a selection of many separate rows takes time that grows with the square of their number;
 // these grow with the number of selected cells.

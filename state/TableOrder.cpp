@@ -1,0 +1,123 @@
+#include "state/TableOrder.h"
+
+#include "state/TableSelection.h"
+
+#include <QCollator>
+#include <QHeaderView>
+#include <QItemSelectionModel>
+#include <QMap>
+#include <QSignalBlocker>
+#include <QTableWidget>
+
+#include <algorithm>
+#include <numeric>
+
+namespace ortakit {
+
+namespace {
+
+/// Selected rows by the first and last of the columns that are selected in them.
+using SelectedRows = QMap<std::pair<int, int>, QList<int>>;
+
+/// What is selected, as it will be when row number r has become number newRows[r]; negative numbers are gone.
+SelectedRows selectionThen(const QTableWidget &table, const QList<int> &newRows)
+{
+    SelectedRows selected;
+    for (const QItemSelectionRange &range : table.selectionModel()->selection()) {
+        QList<int> &rows = selected[{range.left(), range.right()}];
+        for (int row = range.top(); row <= range.bottom(); ++row) {
+            if (newRows[row] >= 0)
+                rows.append(newRows[row]);
+        }
+    }
+    return selected;
+}
+
+void select(QTableWidget &table, const SelectedRows &selected)
+{
+    QItemSelection selection;
+    for (auto columns = selected.cbegin(); columns != selected.cend(); ++columns)
+        selection.append(rangesOfRows(table, columns.key().first, columns.key().second, columns.value()));
+    if (!selection.isEmpty())
+        table.selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
+}
+
+/// The items of `rows`, row by row, which are the caller's then.
+std::vector<QTableWidgetItem *> takeItems(QTableWidget &table, const QList<int> &rows)
+{
+    std::vector<QTableWidgetItem *> items;
+    items.reserve(std::size_t(rows.size()) * std::size_t(table.columnCount()));
+    for (const int row : rows) {
+        for (int column = 0; column < table.columnCount(); ++column)
+            items.push_back(table.takeItem(row, column));
+    }
+    return items;
+}
+
+void moveItems(QTableWidget &table, const QList<int> &rows)
+{
+    // The view would look at its layout for each item.
+    const QSignalBlocker noSignals(table.model());
+    const std::vector<QTableWidgetItem *> items = takeItems(table, rows);
+    auto item = items.cbegin();
+    for (int row = 0; row < int(rows.size()); ++row) {
+        for (int column = 0; column < table.columnCount(); ++column)
+            table.setItem(row, column, *item++);
+    }
+}
+
+} // namespace
+
+void arrangeTableRows(QTableWidget &table, const QList<int> &rows)
+{
+    QList<int> newRows(table.rowCount(), -1);
+    for (int row = 0; row < int(rows.size()); ++row)
+        newRows[rows[row]] = row;
+    const SelectedRows selected = selectionThen(table, newRows);
+    const QModelIndex current = table.currentIndex();
+    const int currentRow = current.isValid() ? newRows[current.row()] : -1;
+
+    table.clearSelection();
+    moveItems(table, rows);
+    table.setRowCount(int(rows.size()));
+    table.viewport()->update();
+
+    if (current.isValid())
+        table.selectionModel()->setCurrentIndex(currentRow < 0 ? QModelIndex()
+                                                               : table.model()->index(currentRow, current.column()),
+                                                QItemSelectionModel::NoUpdate);
+    select(table, selected);
+}
+
+void removeTableRows(QTableWidget &table, const QList<int> &rows)
+{
+    QList<int> gone = rows;
+    std::sort(gone.begin(), gone.end());
+    QList<int> kept;
+    for (int row = 0; row < table.rowCount(); ++row) {
+        if (!std::binary_search(gone.cbegin(), gone.cend(), row))
+            kept.append(row);
+    }
+    arrangeTableRows(table, kept);
+}
+
+void sortTableRows(QTableWidget &table, int column)
+{
+    const QCollator collator;
+    std::vector<QCollatorSortKey> keys;
+    keys.reserve(std::size_t(table.rowCount()));
+    for (int row = 0; row < table.rowCount(); ++row) {
+        const QTableWidgetItem *item = table.item(row, column);
+        keys.push_back(collator.sortKey(item ? item->text().toCaseFolded() : QString()));
+    }
+    QList<int> rows(table.rowCount());
+    std::iota(rows.begin(), rows.end(), 0);
+    std::stable_sort(rows.begin(), rows.end(), [&keys](int left, int right) {
+        return keys[std::size_t(left)].compare(keys[std::size_t(right)]) < 0;
+    });
+    arrangeTableRows(table, rows);
+    table.horizontalHeader()->setSortIndicatorShown(true);
+    table.horizontalHeader()->setSortIndicator(column, Qt::AscendingOrder);
+}
+
+} // namespace ortakit

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QList>
+
+class QTableWidget;
+
+namespace ortakit {
+
+// For tables that do not sort by themselves (QTableWidget::isSortingEnabled() is off). What is selected goes with its
+// row, and so does the current cell; what is in view stays at its place in the window.
+
+/// Makes the rows of `table` those that it has as number rows[0], rows[1] and so on, each named at most once; the
+/// others go. Takes time in proportion to the cells, where removing many single rows would take the square of it.
+void arrangeTableRows(QTableWidget &table, const QList<int> &rows);
+
+/// Takes these rows, in any order, away.
+void removeTableRows(QTableWidget &table, const QList<int> &rows);
+
+/// Sorts ascending by the texts of `column`, without regard to case, in the order of the user's language, and shows
+/// so in the header. Rows with equal texts keep their order; a missing item counts as empty.
+void sortTableRows(QTableWidget &table, int column);
+
+} // namespace ortakit
