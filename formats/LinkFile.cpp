@@ -1,0 +1,95 @@
+#include "formats/LinkFile.h"
+
+#include <QFileInfo>
+#include <QStringConverter>
+
+namespace ortakit {
+
+namespace {
+
+constexpr QChar separator = u'^';
+constexpr QLatin1String removal("REMOVE^");
+
+bool isRemoval(QStringView line)
+{
+    return line.startsWith(removal) && line.count(separator) == 1;
+}
+
+Link linkOf(const QString &line)
+{
+    QStringList fields = line.split(separator);
+    const qsizetype surplus = fields.size() - LinkFieldCount;
+    if (surplus > 0) {
+        const QString url = fields.sliced(UrlField, surplus + 1).join(separator);
+        fields.remove(UrlField, surplus);
+        fields[UrlField] = url;
+    }
+    Link link;
+    std::move(fields.begin(), fields.end(), link.begin());
+    return link;
+}
+
+QString writtenText(const QList<Link> &links, const QStringList &removed)
+{
+    QString text;
+    for (const Link &link : links) {
+        for (const QString &field : link) {
+            text += field;
+            text += separator;
+        }
+        text.chop(1);
+        text += QLatin1String("\r\n");
+    }
+    for (const QString &entity : removed)
+        text += removal + entity + QLatin1String("\r\n");
+    return text;
+}
+
+bool isLatin1(QStringView text)
+{
+    return std::all_of(text.cbegin(), text.cend(), [](QChar c) { return c.unicode() < 0x100; });
+}
+
+} // namespace
+
+LinkReading readLinks(const QByteArray &text)
+{
+    LinkReading reading;
+    if (!text.isValidUtf8())
+        reading.encoding = LinkEncoding::Latin1;
+    const auto encoding = reading.encoding == LinkEncoding::Utf8 ? QStringDecoder::Utf8 : QStringDecoder::Latin1;
+    // A mark within the text is a character like any other.
+    QStringDecoder decode(encoding, QStringConverter::Flag::ConvertInitialBom);
+    for (LineReader lines(text); lines.next();) {
+        const QString line = decode(lines.line());
+        if (!line.trimmed().isEmpty() && !isRemoval(line))
+            reading.links.append(linkOf(line));
+    }
+    return reading;
+}
+
+LinkReading readLinkFile(const QString &path)
+{
+    const TextReading file = readTextFile(path);
+    if (!file)
+        return {{}, LinkEncoding::Utf8, file.error};
+    return readLinks(file.text);
+}
+
+QByteArray writtenLinks(const QList<Link> &links, const QStringList &removed, LinkEncoding encoding)
+{
+    const QString text = writtenText(links, removed);
+    return encoding == LinkEncoding::Latin1 && isLatin1(text) ? text.toLatin1() : text.toUtf8();
+}
+
+QUrl linkTarget(const QString &url)
+{
+    // What begins with ":" would be one of the resources of the program.
+    if (!url.startsWith(u':') && QFileInfo::exists(url))
+        return QUrl::fromLocalFile(QFileInfo(url).absoluteFilePath());
+    const QUrl target(url.startsWith(QLatin1String("www")) ? QLatin1String("http://") + url : url, QUrl::TolerantMode);
+    // Without a scheme it could be taken for a file of any folder, or for an option of whatever program opens it.
+    return target.isRelative() ? QUrl() : target;
+}
+
+} // namespace ortakit

@@ -1,0 +1,114 @@
+#include "formats/LinkFile.h"
+
+#include "tests/formats/Folder.h"
+#include "tests/support/QtTestPrinters.h"
+
+#include <gtest/gtest.h>
+
+using namespace ortakit;
+using namespace Qt::StringLiterals;
+using formats_test::Folder;
+
+namespace {
+
+/// Links as "entity|url|type|space".
+QStringList shown(const QList<Link> &links)
+{
+    QStringList rows;
+    for (const Link &link : links)
+        rows.append(QStringList(link.begin(), link.end()).join(u'|'));
+    return rows;
+}
+
+TEST(LinkFile, IsReadLineByLineAndWrittenBack)
+{
+    const struct
+    {
+        const char *name;
+        QByteArray read;
+        QStringList links;
+        QByteArray written;
+    } rows[] = {
+        {"empty", "", {}, ""},
+        {"two links",
+         "2F^http://a.b^LINE^Model\n30^c:/x y.pdf^TEXT^Layout 1\n",
+         {u"2F|http://a.b|LINE|Model"_s, u"30|c:/x y.pdf|TEXT|Layout 1"_s},
+         "2F^http://a.b^LINE^Model\r\n30^c:/x y.pdf^TEXT^Layout 1\r\n"},
+        {"what was written, cut off",
+         "2F^u^LINE^Model\r\nREMOVE^30\r\nREMOVE^31",
+         {u"2F|u|LINE|Model"_s},
+         "2F^u^LINE^Model\r\n"},
+        {"blank and short lines", "\n  \r\n2F\n30^u", {u"2F|||"_s, u"30|u||"_s}, "2F^^^\r\n30^u^^\r\n"},
+        {"separator in the URL",
+         "2F^http://a/x^y^^z^LINE^Model",
+         {u"2F|http://a/x^y^^z|LINE|Model"_s},
+         "2F^http://a/x^y^^z^LINE^Model\r\n"},
+        {"entity of that name", "REMOVE^u^LINE^Model", {u"REMOVE|u|LINE|Model"_s}, "REMOVE^u^LINE^Model\r\n"},
+        {"UTF-8",
+         "2F^\xC3\xBC.pdf^TEXT^\xE2\x82\xAC",
+         {u"2F|\u00fc.pdf|TEXT|\u20ac"_s},
+         "2F^\xC3\xBC.pdf^TEXT^\xE2\x82\xAC\r\n"},
+        {"no UTF-8",
+         "2F^\xFC.pdf^TEXT^Model\n30^\x80\x9F^x^y",
+         {u"2F|\u00fc.pdf|TEXT|Model"_s, u"30|\u0080\u009f|x|y"_s},
+         "2F^\xFC.pdf^TEXT^Model\r\n30^\x80\x9F^x^y\r\n"},
+    };
+    for (const auto &row : rows) {
+        const LinkReading reading = readLinks(row.read);
+        EXPECT_EQ(shown(reading.links), row.links) << row.name;
+        EXPECT_EQ(writtenLinks(reading.links, {}, reading.encoding), row.written) << row.name;
+    }
+}
+
+TEST(LinkFile, RemovalsFollowTheLinks)
+{
+    EXPECT_EQ(writtenLinks({Link{u"2F"_s, u"u"_s, u"LINE"_s, u"Model"_s}}, {u"30"_s, u"31"_s}, LinkEncoding::Utf8),
+              "2F^u^LINE^Model\r\nREMOVE^30\r\nREMOVE^31\r\n");
+    EXPECT_EQ(writtenLinks({Link{u"\u00fc"_s, u"\u20ac"_s}}, {}, LinkEncoding::Latin1), "\xC3\xBC^\xE2\x82\xAC^^\r\n")
+        << "what Latin-1 does not have";
+}
+
+TEST(LinkFile, AFileThatCannotBeReadSaysWhy)
+{
+    const Folder folder;
+    EXPECT_FALSE(readLinkFile(folder.path(u"missing"_s)).error.isEmpty());
+    EXPECT_FALSE(readLinkFile(folder.path(QString())).error.isEmpty());
+    EXPECT_FALSE(readLinkFile(QString()).error.isEmpty());
+    const LinkReading marked = readLinkFile(folder.writeFile(u"marked"_s, "\xEF\xBB\xBF"
+                                                                          "2F^u^LINE^Model"));
+    EXPECT_EQ(shown(marked.links), QStringList{u"2F|u|LINE|Model"_s});
+}
+
+TEST(LinkFile, ALinkLeadsToAFileOrToAUrlWithAScheme)
+{
+    const Folder folder;
+    const QString file = folder.writeFile(u"www plan #1%20.pdf"_s, "");
+    const struct
+    {
+        QString url;
+        QString target;
+    } rows[] = {
+        {file, QString::fromLatin1(QUrl::fromLocalFile(file).toEncoded())},
+        {folder.path({}), QString::fromLatin1(QUrl::fromLocalFile(folder.path({})).toEncoded())},
+        {u"www.a.b/c"_s, u"http://www.a.b/c"_s},
+        {u"WWW.a.b"_s, {}},
+        {u"https://a.b/c d?e=f^g"_s, u"https://a.b/c%20d?e=f%5Eg"_s},
+        {u"mailto:a@b.c"_s, u"mailto:a@b.c"_s},
+        {u"https://a/'; rm -rf $HOME `x` \"y\""_s, u"https://a/'; rm -rf $HOME `x` \"y\""_s},
+        {folder.path(u"missing.pdf"_s), {}},
+        {u"--help"_s, {}},
+        {u"a.b.c"_s, {}},
+        {u"//server/share/x.exe"_s, {}},
+        {u":/images"_s, {}},
+        {{}, {}},
+    };
+    for (const auto &row : rows) {
+        const QUrl target = linkTarget(row.url);
+        const QString encoded = QString::fromLatin1(target.toEncoded());
+        EXPECT_EQ(QUrl::fromPercentEncoding(encoded.toUtf8()), QUrl::fromPercentEncoding(row.target.toUtf8()))
+            << row.url.toStdString();
+        EXPECT_FALSE(encoded.contains(u' ') || encoded.contains(u'"')) << "for whoever splits it";
+    }
+}
+
+} // namespace

@@ -1,0 +1,115 @@
+#include "formats/ReferenceEntry.h"
+
+#include "formats/NameFilter.h"
+#include "tests/support/QtTestPrinters.h"
+
+#include <QElapsedTimer>
+
+#include <gtest/gtest.h>
+
+using namespace ortakit;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+TEST(ReferenceEntry, IsTakenApartAndPutTogether)
+{
+    const struct
+    {
+        QString text;
+        ReferenceEntry entry;
+        QString written;
+    } rows[] = {
+        {u"Xref^Plan^D:/Maps/plan.dwg"_s,
+         {u"Xref"_s, u"Plan"_s, u"D:/Maps/plan.dwg"_s},
+         u"Xref^Plan^D:/Maps/plan.dwg"_s},
+        {u"Image^a^D:\\x^y\\z.png"_s, {u"Image"_s, u"a"_s, u"D:\\x^y\\z.png"_s}, u"Image^a^D:\\x^y\\z.png"_s},
+        {u"Image^a"_s, {u"Image"_s, u"a"_s, {}}, u"Image^a^"_s},
+        {u"Image"_s, {u"Image"_s, {}, {}}, u"Image^^"_s},
+        {u"^^"_s, {}, u"^^"_s},
+        {{}, {}, u"^^"_s},
+    };
+    for (const auto &row : rows) {
+        EXPECT_TRUE(referenceOf(row.text) == row.entry) << row.text.toStdString();
+        EXPECT_EQ(writtenReference(row.entry), row.written);
+    }
+}
+
+TEST(ReferenceEntry, PathsAreRedefined)
+{
+    const struct
+    {
+        QString path;
+        QString found;
+        QString replacement;
+        QString redefined;
+    } rows[] = {
+        {u"plan.dwg"_s, {}, u"D:\\Maps\\"_s, u"D:\\Maps\\plan.dwg"_s},
+        {u"C:\\a\\a\\x"_s, u"\\a"_s, {}, u"C:\\x"_s},
+        {u"C:\\A\\a"_s, u"A"_s, u"$1"_s, u"C:\\$1\\a"_s},
+        {u"C:\\x"_s, u"D:"_s, u"E:"_s, u"C:\\x"_s},
+        {u"aa"_s, u"a"_s, u"aa"_s, u"aaaa"_s},
+    };
+    for (const auto &row : rows)
+        EXPECT_EQ(redefinedPath(row.path, row.found, row.replacement), row.redefined);
+    EXPECT_EQ(withBackslashes(u"//server/a\\b/c"_s), u"\\\\server\\a\\b\\c"_s);
+}
+
+TEST(NameFilter, ShowsNamesInWhichItIsFound)
+{
+    const struct
+    {
+        const char *what;
+        QString expression;
+        QString shown;
+        bool isUsable;
+    } rows[] = {
+        {"empty", {}, u"Anna Bob hanna * a+"_s, true},
+        {"lone star", u"*"_s, u"Anna Bob hanna * a+"_s, true},
+        {"begins with A", u"^A"_s, u"Anna"_s, true},
+        {"anywhere", u"nn"_s, u"Anna hanna"_s, true},
+        {"case counts", u"b$"_s, u"Bob"_s, true},
+        {"of its own option", u"(?i)^a"_s, u"Anna a+"_s, true},
+        {"of its own start option", u"(*UCP)(?i)BOB"_s, u"Bob"_s, true},
+        {"invalid", u"("_s, {}, false},
+        {"invalid star", u"**"_s, {}, false},
+        {"a limit does not go up", u"(*LIMIT_MATCH=4000000000)^A"_s, u"Anna"_s, true},
+    };
+    for (const auto &row : rows) {
+        NameFilter filter(row.expression);
+        QStringList shown;
+        for (const QString &name : {u"Anna"_s, u"Bob"_s, u"hanna"_s, u"*"_s, u"a+"_s}) {
+            if (filter.accepts(name))
+                shown.append(name);
+        }
+        EXPECT_EQ(shown.join(u' '), row.shown) << row.what;
+        EXPECT_EQ(filter.isUsable(), row.isUsable) << row.what;
+    }
+}
+
+// Each of these takes years without a limit.
+TEST(NameFilter, GivesHopelessExpressionsUp)
+{
+    const QString name = QString(200, u'a') + u'!';
+    for (const QString &expression : {u"(\\w+\\s?)*$"_s, u"(a|aa)+$"_s, u"(*LIMIT_MATCH=4000000000)(a+)+$"_s,
+                                      u"(.*a){20}b"_s, u"^(.*.*.*.*)*x$"_s}) {
+        QElapsedTimer clock;
+        clock.start();
+        NameFilter filter(expression);
+        for (int number = 0; number < 100000; ++number)
+            filter.accepts(name);
+        EXPECT_LT(clock.elapsed(), 20000) << expression.toStdString();
+        EXPECT_FALSE(filter.isUsable() && filter.accepts(name)) << expression.toStdString();
+    }
+}
+
+TEST(NameFilter, LeavesOrdinaryExpressionsAloneOnLongNames)
+{
+    const QString name = QString(120, u'a') + u"-plan-"_s + QString(120, u'b');
+    for (const QString &expression : {u".*-.*-.*b$"_s, u"a*b*-plan"_s, u"^(\\w|-)*$"_s, u"(a|b|-|plan)+$"_s})
+        EXPECT_TRUE(NameFilter(expression).accepts(name)) << expression.toStdString();
+    NameFilter letters(u"[^z]*z"_s);
+    EXPECT_FALSE(letters.accepts(QString(10000000, u'a')));
+}
+
+} // namespace
