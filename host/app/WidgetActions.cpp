@@ -233,6 +233,17 @@ QModelIndex findRow(const QAbstractItemView &view, const QString &text)
     return {};
 }
 
+/// `cell`, or the first cell of its row behind it that a person could point at: a table may carry a column that it
+/// gives no width.
+QModelIndex pointableCell(const QAbstractItemView &view, const QModelIndex &cell)
+{
+    for (QModelIndex index = cell; index.isValid(); index = index.siblingAtColumn(index.column() + 1)) {
+        if (!view.visualRect(index).isEmpty())
+            return index;
+    }
+    return cell;
+}
+
 QString noRow(const QWidget &widget, const QString &row)
 {
     return tr("%1 has no row \"%2\"").arg(nameOf(widget), row);
@@ -353,7 +364,7 @@ QString doubleClick(QWidget &widget, const QString &row)
             return view ? noRow(widget, row) : noList(widget);
         view->scrollTo(index);
         target = view->viewport();
-        at = view->visualRect(index).center();
+        at = view->visualRect(pointableCell(*view, index)).center();
     }
     const QPointer<QWidget> alive = target;
     clickAt(*target, at);
@@ -382,7 +393,7 @@ QString selectRows(QWidget &widget, const QStringList &rows)
             return noRow(widget, row);
         view->scrollTo(index);
         // Left of the middle: the middle of a wide row may lie outside what is visible.
-        const QRect seen = view->visualRect(index) & view->viewport()->rect();
+        const QRect seen = view->visualRect(pointableCell(*view, index)) & view->viewport()->rect();
         if (seen.isEmpty())
             return tr("row \"%1\" of %2 is not visible").arg(row, nameOf(widget));
         clickAt(*view->viewport(), seen.center(), modifiers);

@@ -12,6 +12,7 @@
 #include <QDoubleSpinBox>
 #include <QFormLayout>
 #include <QGroupBox>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -169,6 +170,11 @@ TEST_F(WidgetActionsTest, SelectsAndWritesRows)
     EXPECT_EQ(setCell(widget(u"table"_s), 1, 1, u"new"_s), QString());
     EXPECT_EQ(setCell(widget(u"table"_s), 2, 0, u"new"_s), u"table has no cell 2, 0"_s);
     EXPECT_EQ(shownItems(widget(u"table"_s)), QStringList({u"r0;v0"_s, u"r1;new"_s}));
+    auto &table = static_cast<QTableWidget &>(widget(u"table"_s));
+    table.horizontalHeader()->setMinimumSectionSize(0);
+    table.setColumnWidth(0, 0);
+    EXPECT_EQ(selectRows(table, {u"r1"_s}), QString()) << "where the row can be seen";
+    EXPECT_EQ(table.currentRow(), 1);
     auto &list = static_cast<QListWidget &>(widget(u"list"_s));
     EXPECT_EQ(checkRow(list, u"a"_s, true), QString());
     EXPECT_EQ(list.item(0)->checkState(), Qt::Checked);
