@@ -37,6 +37,16 @@ QStringList strings(const OdResBuf *rest)
     return found;
 }
 
+OdResBufPtr stringList(const QStringList &strings)
+{
+    OdResBufPtr list = OdResBuf::newRb(OdResBuf::kRtListBegin);
+    OdResBuf *last = list.get();
+    for (const QString &string : strings)
+        last = last->setNext(OdResBuf::newString(OdResBuf::kRtString, string));
+    last->setNext(OdResBuf::newRb(OdResBuf::kRtListEnd));
+    return list;
+}
+
 void releaseArguments(CKvLispEngine &lisp, ExtraArguments extra)
 {
     OdResBuf *first = lisp.arguments();

@@ -72,6 +72,9 @@ bool areAcceptable(const OdResBuf *first, FirstArgument firstArgument, ExtraArgu
 /// The strings among the arguments from `rest` on, in their order; what is no string is passed over.
 QStringList strings(const OdResBuf *rest);
 
+/// The chain that gives Lisp a list of strings.
+OdResBufPtr stringList(const QStringList &strings);
+
 /// Gives back what the function no longer needs of its arguments.
 void releaseArguments(CKvLispEngine &lisp, ExtraArguments extra);
 
