@@ -16,6 +16,7 @@
 #include "dialogs/patternhatch/DLG_QT_PatternHatch.h"
 #include "dialogs/replaceblock/Dlg_QT_ReplaceBlock.h"
 #include "dialogs/replaceblocktoxref/Dlg_QT_ReplaceBlockToXref.h"
+#include "dialogs/showlinks/Dlg_QT_ShowLinks.h"
 #include "dialogs/textframe/Dlg_QT_TextFrame.h"
 #include "dialogs/textmask/Dlg_QT_TextMask.h"
 #include "module/RunDialog.h"
@@ -191,6 +192,11 @@ int dlgExportInfo()
             lisp.print(QCoreApplication::translate("LispExtension", "\nSettings saved to: ") + u'"' +
                        dialog.reportFile() + u'"' + QCoreApplication::translate("LispExtension", " successfully."));
             .giveRejection = [](auto &, CKvLispEngine &lisp) { lisp.print({}); }});
+}
+
+int dlgShowLinks()
+{
+        return runDialog<Dlg_QT_ShowLinks>(DialogSlot::ShowLinks, {});
 }
 
 } // namespace ortakit

@@ -22,6 +22,7 @@ int dlgEditTextCase();
 int dlgConvertSimplesNotes();
 int dlgExportSetting();
 int dlgExportInfo();
+int dlgShowLinks();
 /// @}
 
 } // namespace ortakit

@@ -36,7 +36,7 @@ constexpr LispFunctionTable lispFunctionTable = {{
     function<"CreateRtext">(),
     function<"Dlg_ExDimensionStyle", dlgExDimensionStyle>(),
     function<"Dlg_ImDimensionStyle", dlgImDimensionStyle>(),
-    function<"Dlg_ShowLinks">(),
+    function<"Dlg_ShowLinks", dlgShowLinks>(),
     function<"Dlg_DrawOrderColor">(),
     function<"Dlg_RedefinePaths">(),
     function<"Dlg_MergeSheets">(),

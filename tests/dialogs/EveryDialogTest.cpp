@@ -16,6 +16,7 @@
 #include "dialogs/patternhatch/DLG_QT_PatternHatch.h"
 #include "dialogs/replaceblock/Dlg_QT_ReplaceBlock.h"
 #include "dialogs/replaceblocktoxref/Dlg_QT_ReplaceBlockToXref.h"
+#include "dialogs/showlinks/Dlg_QT_ShowLinks.h"
 #include "dialogs/textframe/Dlg_QT_TextFrame.h"
 #include "dialogs/textmask/Dlg_QT_TextMask.h"
 #include "tests/support/FakeHost.h"
@@ -72,6 +73,7 @@ constexpr Row rows[] = {
     row<DLG_QT_ConvertNotes>("ConvertNotes", "9104"),
     row<Dlg_QT_ExportSettings>("ExportSettings", "9134"),
     row<Dlg_QT_ExportInfo>("ExportInfo", "9133"),
+    row<Dlg_QT_ShowLinks>("ShowLinks", "0"),
 };
 
 void PrintTo(const Row &row, std::ostream *out)

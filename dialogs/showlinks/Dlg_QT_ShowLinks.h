@@ -1,0 +1,66 @@
+#pragma once
+
+#include "formats/LinkFile.h"
+#include "state/ToolDialog.h"
+
+#include <memory>
+
+namespace Ui {
+class Dlg_QT_ShowLinks;
+}
+
+/// The link viewer: the links that entities of the drawing carry, to open, edit, remove and find in the drawing.
+///
+/// The links come from the link file, whose path the Lisp program gives in the state file as "linkfile"; the path is
+/// all that stands behind the first "=" of that line. It is never seen, but kept in a widget of that name, so that the
+/// state file has the line and the action whatever else is empty. The dialog writes the same file:
+///
+/// | action | the link file holds | what Lisp does |
+/// |---|---|---|
+/// | OK | all links, then the removed entities | gives the entities these URLs, takes the links of the removed ones |
+/// | SHOWENTITY | the selected links | shows their entities and calls again |
+///
+/// The file is read when the tool is started, which is at the first showing and at each behind one that ended with
+/// Close or was cancelled. Coming back from Show Entity the table stays as it was, unless Lisp has set the action to
+/// RETURN: then the file is read again. Which links were removed is kept over that, until Close or a cancellation.
+class Dlg_QT_ShowLinks final : public ToolDialog
+{
+    Q_OBJECT
+
+public:
+    explicit Dlg_QT_ShowLinks(QWidget *parent = nullptr);
+    ~Dlg_QT_ShowLinks() override;
+
+    void done(int result) override;
+
+protected:
+    void beforeShow() override;
+    bool appliesAgain() const override { return isReturning(); }
+    void afterShow() override;
+    void changeEvent(QEvent *event) override;
+
+private:
+    void showUrl();
+    void removeSelected();
+    void showEntity();
+    void replace();
+    void CloseDialog();
+    void SelectChanged();
+    void ClickHeaderTable(int column);
+
+    void setUpTable();
+    void connectWidgets();
+    void setIcons();
+    bool isReturning() const;
+    QString linkFile() const;
+    void loadLinks();
+    QList<int> allRows() const;
+    ortakit::Link linkAt(int row) const;
+    void writeLinks(const QList<int> &rows, const QStringList &removed) const;
+
+    std::unique_ptr<Ui::Dlg_QT_ShowLinks> m_ui;
+    /// The entities of the rows that were removed since the tool was started.
+    QStringList m_removed;
+    ortakit::LinkEncoding m_encoding = ortakit::LinkEncoding::Utf8;
+    bool m_isStarting = true;
+};

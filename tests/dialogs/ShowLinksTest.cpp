@@ -1,0 +1,257 @@
+#include "dialogs/showlinks/Dlg_QT_ShowLinks.h"
+#include "state/TableSelection.h"
+#include "tests/dialogs/DialogTest.h"
+
+#include <QDesktopServices>
+#include <QHeaderView>
+#include <QPushButton>
+#include <QTableWidget>
+#include <QUrl>
+
+using namespace ortakit::test;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Takes the URLs of some schemes in place of the desktop.
+class Desktop : public QObject
+{
+    Q_OBJECT
+
+public:
+    Desktop()
+    {
+        for (const QString &scheme : schemes)
+            QDesktopServices::setUrlHandler(scheme, this, "open");
+    }
+    ~Desktop() override
+    {
+        for (const QString &scheme : schemes)
+            QDesktopServices::unsetUrlHandler(scheme);
+    }
+
+    QStringList opened;
+
+public slots:
+    void open(const QUrl &url) { opened.append(url.toString()); }
+
+private:
+    const QStringList schemes{u"file"_s, u"http"_s, u"https"_s};
+};
+
+const QByteArray threeLinks = "2F^http://b.org^LINE^Model\n30^http://A.org^TEXT^Model\n31^plan=1.pdf^LINE^Layout1\n";
+
+class ShowLinks : public DialogTest<Dlg_QT_ShowLinks>
+{
+protected:
+    QTableWidget *table() const { return find<QTableWidget>("tableUrl"); }
+    QStringList shown() const { return tableRows("tableUrl"); }
+    QByteArray written() const { return FakeHost::readFile(linkFile); }
+    void writeLinks(const QByteArray &lines) { linkFile = host.writeFile(u"links=1.txt"_s, lines); }
+    void showLinks(const QString &action = {}, const QByteArray &lines = threeLinks)
+    {
+        writeLinks(lines);
+        showWith(u"linkfile=%1\n!action!=%2\n"_s.arg(linkFile, action));
+    }
+    void choose(const QList<int> &rows) const
+    {
+        table()->clearSelection();
+        for (const int row : rows)
+            table()->selectionModel()->select(table()->model()->index(row, 1),
+                                              QItemSelectionModel::Select | QItemSelectionModel::Rows);
+    }
+    /// Clicks a button with one message box answered; gives what the box said.
+    QString clickAndAnswer(const char *button, QMessageBox::StandardButton answer = QMessageBox::Ok)
+    {
+        ModalAnswers answers;
+        answers.press(answer);
+        click(button);
+        return answers.shown().value(0);
+    }
+
+    QString linkFile;
+};
+
+TEST_F(ShowLinks, ListsTheLinksOfTheFile)
+{
+    showLinks();
+    EXPECT_EQ(shown(), (QStringList{u"2F|http://b.org|LINE|Model"_s, u"30|http://A.org|TEXT|Model"_s,
+                                    u"31|plan=1.pdf|LINE|Layout1"_s}));
+    EXPECT_EQ(table()->columnWidth(0), 0);
+    EXPECT_EQ(table()->columnWidth(2), 160);
+    EXPECT_EQ(table()->columnWidth(3), 160);
+    EXPECT_EQ(table()->item(2, 1)->toolTip(), u"plan=1.pdf"_s) << "whole, however narrow its column is";
+    EXPECT_FALSE(isEnabled("btnShowUrl") || isEnabled("btnRemoveUrl") || isEnabled("btnShowEntity"));
+    choose({1});
+    EXPECT_TRUE(isEnabled("btnShowUrl") && isEnabled("btnRemoveUrl") && isEnabled("btnShowEntity"));
+}
+
+TEST_F(ShowLinks, WithoutAFileThereAreNoneAndNothingIsMade)
+{
+    for (const QString &state : {QString(), u"linkfile=%1\n"_s.arg(host.path(u"none/links.txt"_s))}) {
+        SetUp();
+        showWith(state);
+        EXPECT_EQ(table()->rowCount(), 0);
+        click("btnClose");
+        EXPECT_TRUE(isAccepted());
+        EXPECT_FALSE(QFile::exists(host.path(u"none"_s)));
+    }
+}
+
+TEST_F(ShowLinks, CloseWritesTheLinksAndWhatWasRemoved)
+{
+    showLinks();
+    choose({2, 0});
+    EXPECT_EQ(clickAndAnswer("btnRemoveUrl", QMessageBox::Cancel),
+              u"warning \"Warning\" \"Remove urls for selected items?\" OK/Cancel"_s);
+    EXPECT_EQ(table()->rowCount(), 3);
+    {
+        ModalAnswers answers;
+        answers.drive([](QWidget *box) {
+            auto *accept = qobject_cast<QPushButton *>(qobject_cast<QMessageBox *>(box)->button(QMessageBox::Ok));
+            EXPECT_TRUE(accept->isDefault());
+            accept->click();
+        });
+        click("btnRemoveUrl");
+    }
+    EXPECT_EQ(shown(), QStringList{u"30|http://A.org|TEXT|Model"_s});
+    EXPECT_FALSE(isEnabled("btnRemoveUrl"));
+    click("btnClose");
+    EXPECT_TRUE(isAccepted());
+    EXPECT_EQ(written(), "30^http://A.org^TEXT^Model\r\nREMOVE^2F\r\nREMOVE^31\r\n");
+    EXPECT_EQ(savedState(), u"linkfile=%1\n!action!=OK\n"_s.arg(linkFile)) << "with the \"=\" in its name";
+}
+
+TEST_F(ShowLinks, ShowEntityWritesTheSelectedLinksAndKeepsTheRemovals)
+{
+    showLinks();
+    choose({0});
+    clickAndAnswer("btnRemoveUrl");
+    choose({0, 1});
+    click("btnShowEntity");
+    EXPECT_TRUE(isAccepted());
+    EXPECT_EQ(written(), "30^http://A.org^TEXT^Model\r\n31^plan=1.pdf^LINE^Layout1\r\n");
+    EXPECT_EQ(savedState(), u"linkfile=%1\n!action!=SHOWENTITY\ntableurl=30^31^\n"_s.arg(linkFile));
+
+    showLinks(u"RETURN"_s, "31^plan=1.pdf^LINE^Layout1\n32^x^TEXT^Model\n");
+    EXPECT_EQ(shown(), (QStringList{u"31|plan=1.pdf|LINE|Layout1"_s, u"32|x|TEXT|Model"_s}));
+    click("btnClose");
+    EXPECT_EQ(written(), "31^plan=1.pdf^LINE^Layout1\r\n32^x^TEXT^Model\r\nREMOVE^2F\r\n");
+}
+
+TEST_F(ShowLinks, OnlyReturnReadsTheFileOnTheWayBack)
+{
+    const struct
+    {
+        QString action;
+        int rows;
+    } rows[] = {{u"RETURN"_s, 1}, {u"return"_s, 2}, {u"OK"_s, 2}, {{}, 2}};
+    for (const auto &row : rows) {
+        SetUp();
+        showLinks();
+        choose({0});
+        clickAndAnswer("btnRemoveUrl");
+        choose({0});
+        click("btnShowEntity");
+        showLinks(row.action, "30^http://A.org^TEXT^Model\n");
+        EXPECT_EQ(table()->rowCount(), row.rows) << row.action.toStdString();
+    }
+}
+
+// Else the removals of one run would reach the drawing with the next, or those that were cancelled.
+TEST_F(ShowLinks, EachRunStartsFromItsFile)
+{
+    for (const bool closes : {true, false}) {
+        SetUp();
+        showLinks();
+        choose({0});
+        clickAndAnswer("btnRemoveUrl");
+        if (closes)
+            click("btnClose");
+        else
+            QTest::keyClick(dialog.get(), Qt::Key_Escape);
+        EXPECT_EQ(written().contains("REMOVE"), closes);
+        showLinks(u"OK"_s);
+        EXPECT_EQ(table()->rowCount(), 3);
+        click("btnClose");
+        EXPECT_FALSE(written().contains("REMOVE"));
+    }
+}
+
+TEST_F(ShowLinks, ReplacesInTheUrlsOfTheSelectedRows)
+{
+    showLinks({}, "h^http://h.org/h^h^h\n30^HTTP^h^h\n31^h^h^h\n");
+    EXPECT_EQ(clickAndAnswer("btnReplace"),
+              u"information \"Replace text\" \"Select the rows of table for searching.\" OK"_s);
+    choose({0, 1});
+    setText("txreplace", u"[hh]"_s);
+    click("btnReplace");
+    EXPECT_EQ(shown().value(0), u"h|http://h.org/h|h|h"_s) << "nothing to look for";
+    setText("txsearch", u"h"_s);
+    find("txsearch")->setFocus();
+    QTest::keyClick(find("txsearch"), Qt::Key_Return);
+    EXPECT_TRUE(dialog->isVisible()) << "Return replaces";
+    EXPECT_EQ(shown(), (QStringList{u"h|[hh]ttp://[hh].org/[hh]|h|h"_s, u"30|HTTP|h|h"_s, u"31|h|h|h"_s}));
+}
+
+TEST_F(ShowLinks, OpensWhatTheCellSaysAndNothingElse)
+{
+    Desktop desktop;
+    const QString file = host.writeFile(u"www plan.pdf"_s, "");
+    const QString select = u"warning \"\" \"Select one row of table for show.\" OK"_s;
+    const QString unable = u"warning \"\" \"Unable to display the link.\" OK"_s;
+    const struct
+    {
+        QString url;
+        QString opened;
+        QString message;
+    } rows[] = {
+        {file, QUrl::fromLocalFile(file).toString(), {}},
+        {u"www.a.org/b c"_s, u"http://www.a.org/b c"_s, {}},
+        {u"https://a.org/$(x);y"_s, u"https://a.org/$(x);y"_s, {}},
+        {u"--version"_s, {}, unable},
+        {u"calc.exe"_s, {}, unable},
+        {u":/images/help.png"_s, {}, unable},
+        {{}, {}, unable},
+    };
+    for (const auto &row : rows) {
+        SetUp();
+        showLinks({}, "2F^" + row.url.toUtf8() + "^LINE^Model\n30^http://x^LINE^Model\n");
+        choose({0});
+        desktop.opened.clear();
+        ModalAnswers answers;
+        answers.press(QMessageBox::Ok);
+        click("btnShowUrl");
+        EXPECT_EQ(desktop.opened.join(u' '), row.opened) << row.url.toStdString();
+        EXPECT_EQ(answers.shown().value(0), row.message) << row.url.toStdString();
+    }
+    choose({0, 1});
+    EXPECT_EQ(clickAndAnswer("btnShowUrl"), select);
+}
+
+TEST_F(ShowLinks, AClickOnAHeaderSorts)
+{
+    showLinks();
+    choose({0});
+    QHeaderView *header = table()->horizontalHeader();
+    QTest::mouseClick(header->viewport(), Qt::LeftButton, {}, {header->sectionViewportPosition(1) + 20, 5});
+    EXPECT_EQ(shown(), (QStringList{u"30|http://A.org|TEXT|Model"_s, u"2F|http://b.org|LINE|Model"_s,
+                                    u"31|plan=1.pdf|LINE|Layout1"_s}));
+    EXPECT_EQ(ortakit::rowsWithSelection(*table()), QList<int>{1});
+    click("btnClose");
+    EXPECT_TRUE(written().startsWith("30^")) << "top to bottom";
+}
+
+// A find text that is longer than its field is shown shortened where it is only told.
+TEST_F(ShowLinks, FindTextsOfTheStateAreWhole)
+{
+    const QString longText = u"http://"_s + QString(300, u'x');
+    writeLinks(threeLinks);
+    showWith(u"txsearch=%1\ntxreplace=...\nlinkfile=%2\n"_s.arg(longText, linkFile));
+    EXPECT_EQ(text("txsearch"), longText);
+    EXPECT_EQ(text("txreplace"), u"..."_s);
+}
+
+} // namespace
+
+#include "ShowLinksTest.moc"
