@@ -14,6 +14,7 @@
 #include "dialogs/multiviewsetup/Dlg_QT_MultiViewSetup.h"
 #include "dialogs/numbertext/Dlg_QT_numbertext.h"
 #include "dialogs/patternhatch/DLG_QT_PatternHatch.h"
+#include "dialogs/redefinepaths/Dlg_QT_RedefinePaths.h"
 #include "dialogs/replaceblock/Dlg_QT_ReplaceBlock.h"
 #include "dialogs/replaceblocktoxref/Dlg_QT_ReplaceBlockToXref.h"
 #include "dialogs/showlinks/Dlg_QT_ShowLinks.h"
@@ -197,6 +198,17 @@ int dlgExportInfo()
 int dlgShowLinks()
 {
         return runDialog<Dlg_QT_ShowLinks>(DialogSlot::ShowLinks, {});
+}
+
+// Any number of strings describe the references of the drawing, and so does the list that goes back.
+int dlgRedefinePaths()
+{
+        return runDialog<Dlg_QT_RedefinePaths>(
+            DialogSlot::RedefinePaths,
+            {.extraArguments = ExtraArguments::List,
+             .takeExtra = [](Dlg_QT_RedefinePaths &dialog, const OdResBuf *rest) { dialog.setEntries(strings(rest)); },
+             .giveResult = [](Dlg_QT_RedefinePaths &dialog,
+                              CKvLispEngine &lisp) { lisp.returnList(stringList(dialog.entries())); }});
 }
 
 } // namespace ortakit

@@ -23,6 +23,7 @@ int dlgConvertSimplesNotes();
 int dlgExportSetting();
 int dlgExportInfo();
 int dlgShowLinks();
+int dlgRedefinePaths();
 /// @}
 
 } // namespace ortakit

@@ -38,7 +38,7 @@ constexpr LispFunctionTable lispFunctionTable = {{
     function<"Dlg_ImDimensionStyle", dlgImDimensionStyle>(),
     function<"Dlg_ShowLinks", dlgShowLinks>(),
     function<"Dlg_DrawOrderColor">(),
-    function<"Dlg_RedefinePaths">(),
+    function<"Dlg_RedefinePaths", dlgRedefinePaths>(),
     function<"Dlg_MergeSheets">(),
     function<"Dlg_ExportInfo", dlgExportInfo>(),
     function<"Dlg_EditAlias", dlgEditAlias>(),

@@ -14,6 +14,7 @@
 #include "dialogs/multiviewsetup/Dlg_QT_MultiViewSetup.h"
 #include "dialogs/numbertext/Dlg_QT_numbertext.h"
 #include "dialogs/patternhatch/DLG_QT_PatternHatch.h"
+#include "dialogs/redefinepaths/Dlg_QT_RedefinePaths.h"
 #include "dialogs/replaceblock/Dlg_QT_ReplaceBlock.h"
 #include "dialogs/replaceblocktoxref/Dlg_QT_ReplaceBlockToXref.h"
 #include "dialogs/showlinks/Dlg_QT_ShowLinks.h"
@@ -74,6 +75,7 @@ constexpr Row rows[] = {
     row<Dlg_QT_ExportSettings>("ExportSettings", "9134"),
     row<Dlg_QT_ExportInfo>("ExportInfo", "9133"),
     row<Dlg_QT_ShowLinks>("ShowLinks", "0"),
+    row<Dlg_QT_RedefinePaths>("RedefinePaths", "9107", "efr"),
 };
 
 void PrintTo(const Row &row, std::ostream *out)
