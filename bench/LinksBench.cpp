@@ -31,6 +31,17 @@ struct Bench
     {
         dialog.template findChild<QLineEdit *>(field)->setText(text);
     }
+    void replace(const QString &found, const QString &replacement, const QString &button)
+    {
+        set(u"txsearch"_s, found);
+        set(u"txreplace"_s, replacement);
+        click(button);
+    }
+    void accept(const QString &button)
+    {
+        click(button);
+        dialog.state().save();
+    }
     void click(const QString &button) { dialog.template findChild<QAbstractButton *>(button)->click(); }
     void loadState(const QString &state) { dialog.state().load(host.writeFile(u"state.txt"_s, state.toUtf8())); }
     void show()
@@ -96,12 +107,8 @@ void selectAndReplaceLinks(benchmark::State &state)
     for (auto _ : state) {
         links.table->clearSelection();
         links.table->selectAll();
-        links.set(u"txsearch"_s, u"p"_s);
-        links.set(u"txreplace"_s, u"b"_s);
-        links.click(u"btnReplace"_s);
-        links.set(u"txsearch"_s, u"b"_s);
-        links.set(u"txreplace"_s, u"p"_s);
-        links.click(u"btnReplace"_s);
+        links.replace(u"p"_s, u"b"_s, u"btnReplace"_s);
+        links.replace(u"b"_s, u"p"_s, u"btnReplace"_s);
         QCoreApplication::processEvents();
     }
 }
@@ -122,10 +129,8 @@ template <int count>
 void closeLinks(benchmark::State &state)
 {
     Links links(count);
-    for (auto _ : state) {
-        links.click(u"btnClose"_s);
-        links.dialog.state().save();
-    }
+    for (auto _ : state)
+        links.accept(u"btnClose"_s);
 }
 
 template <int count>
@@ -133,10 +138,8 @@ void showEveryOtherEntity(benchmark::State &state)
 {
     Links links(count);
     links.selectEveryOther();
-    for (auto _ : state) {
-        links.click(u"btnShowEntity"_s);
-        links.dialog.state().save();
-    }
+    for (auto _ : state)
+        links.accept(u"btnShowEntity"_s);
 }
 
 template <int count>
@@ -165,12 +168,8 @@ void selectAndReplacePaths(benchmark::State &state)
     Paths paths(count);
     for (auto _ : state) {
         paths.click(u"selectAll"_s);
-        paths.set(u"txsearch"_s, u"D:"_s);
-        paths.set(u"txreplace"_s, u"E:"_s);
-        paths.click(u"btReplace"_s);
-        paths.set(u"txsearch"_s, u"E:"_s);
-        paths.set(u"txreplace"_s, u"D:"_s);
-        paths.click(u"btReplace"_s);
+        paths.replace(u"D:"_s, u"E:"_s, u"btReplace"_s);
+        paths.replace(u"E:"_s, u"D:"_s, u"btReplace"_s);
         paths.click(u"selectAll"_s);
         QCoreApplication::processEvents();
     }
@@ -180,10 +179,8 @@ template <int count>
 void acceptPaths(benchmark::State &state)
 {
     Paths paths(count);
-    for (auto _ : state) {
-        paths.click(u"acceptButton"_s);
-        paths.dialog.state().save();
-    }
+    for (auto _ : state)
+        paths.accept(u"acceptButton"_s);
 }
 
 #define ORTAKIT_ALL_SIZES(function)                                                                                    \

@@ -185,30 +185,32 @@ int dlgExportInfo()
     return runDialog<Dlg_QT_ExportInfo>(
         DialogSlot::ExportInformation,
         {.firstArgument = FirstArgument::Present,
+         .extraArguments = ExtraArguments::OptionalSecond,
          .takeExtra = [](auto &dialog,
-                         const OdResBuf *rest) {
-            dialog.setSystemFile(rest ? rest->getString() : OdString()); },
+                         const OdResBuf *rest) { dialog.setSystemFile(rest ? rest->getString() : OdString()); },
          .giveResult =
              [](auto &dialog, CKvLispEngine &lisp) {
-            lisp.print(QCoreApplication::translate("LispExtension", "\nSettings saved to: ") + u'"' +
-                       dialog.reportFile() + u'"' + QCoreApplication::translate("LispExtension", " successfully."));
-            .giveRejection = [](auto &, CKvLispEngine &lisp) { lisp.print({}); }});
+                 lisp.print(QCoreApplication::translate("LispExtension", "\nSettings saved to: ") + u'"' +
+                            dialog.reportFile() + u'"' +
+                            QCoreApplication::translate("LispExtension", " successfully."));
+             },
+         .giveRejection = [](auto &, CKvLispEngine &lisp) { lisp.print({}); }});
 }
 
 int dlgShowLinks()
 {
-        return runDialog<Dlg_QT_ShowLinks>(DialogSlot::ShowLinks, {});
+    return runDialog<Dlg_QT_ShowLinks>(DialogSlot::ShowLinks, {});
 }
 
 // Any number of strings describe the references of the drawing, and so does the list that goes back.
 int dlgRedefinePaths()
 {
-        return runDialog<Dlg_QT_RedefinePaths>(
-            DialogSlot::RedefinePaths,
-            {.extraArguments = ExtraArguments::List,
-             .takeExtra = [](Dlg_QT_RedefinePaths &dialog, const OdResBuf *rest) { dialog.setEntries(strings(rest)); },
-             .giveResult = [](Dlg_QT_RedefinePaths &dialog,
-                              CKvLispEngine &lisp) { lisp.returnList(stringList(dialog.entries())); }});
+    return runDialog<Dlg_QT_RedefinePaths>(
+        DialogSlot::RedefinePaths,
+        {.extraArguments = ExtraArguments::List,
+         .takeExtra = [](Dlg_QT_RedefinePaths &dialog, const OdResBuf *rest) { dialog.setEntries(strings(rest)); },
+         .giveResult = [](Dlg_QT_RedefinePaths &dialog,
+                          CKvLispEngine &lisp) { lisp.returnList(stringList(dialog.entries())); }});
 }
 
 } // namespace ortakit

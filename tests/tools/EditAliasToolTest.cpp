@@ -8,18 +8,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-class EditAliasTool : public testing::Test
-{
-protected:
-    void plays(const QString &session)
-    {
-        const RunOutcome outcome = run.play(session, plan);
-        EXPECT_EQ(outcome.status, 0) << outcome.output.toStdString();
-    }
-
-    ToolRun run;
-    QString plan = ToolRun::sample(u"plan.dxf"_s);
-};
+using EditAliasTool = SessionTest;
 
 TEST_F(EditAliasTool, ASavedAliasRunsItsCommandAtOnce)
 {

@@ -8,18 +8,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-class LinksAndPaths : public testing::Test
-{
-protected:
-    void plays(const QString &session)
-    {
-        const RunOutcome outcome = run.play(session, plan);
-        EXPECT_EQ(outcome.status, 0) << outcome.output.toStdString();
-    }
-
-    ToolRun run;
-    QString plan = ToolRun::sample(u"plan.dxf"_s);
-};
+using LinksAndPaths = SessionTest;
 
 // What a Lisp program does: the links come from a file and go back in it.
 TEST_F(LinksAndPaths, LinksGoThroughTheirFile)

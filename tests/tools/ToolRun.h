@@ -39,6 +39,20 @@ private:
 /// What Python with an independent reader of drawings prints, on both streams, for these arguments.
 QString runPython(const QStringList &arguments);
 
+/// Plays sessions over the sample plan.
+class SessionTest : public testing::Test
+{
+protected:
+    void plays(const QString &session)
+    {
+        const RunOutcome outcome = run.play(session, plan);
+        EXPECT_EQ(outcome.status, 0) << outcome.output.toStdString();
+    }
+
+    ToolRun run;
+    QString plan = ToolRun::sample(QStringLiteral("plan.dxf"));
+};
+
 /// Whether an independent reader finds no error in the drawing; its complaints are the message.
 testing::AssertionResult isSound(const QString &drawing);
 
