@@ -1,8 +1,9 @@
 // The state of a dialog with 150 widgets beside plain file reading and writing; showing the break line dialog beside an
-// empty one.
+// empty one, and 10,000 settings beside the same text without colours.
 
 #include "bench/Ratios.h"
 #include "dialogs/breakline/Dlg_QT_Breakline.h"
+#include "dialogs/exportsettings/Dlg_QT_ExportSettings.h"
 #include "state/DialogState.h"
 #include "tests/support/FakeHost.h"
 
@@ -12,6 +13,7 @@
 #include <QDialog>
 #include <QDoubleSpinBox>
 #include <QLineEdit>
+#include <QTextEdit>
 
 #include <benchmark/benchmark.h>
 
@@ -137,6 +139,36 @@ void showEmptyDialog(benchmark::State &state)
 }
 BENCHMARK(showEmptyDialog)->Unit(benchmark::kMillisecond);
 
+QByteArray settings()
+{
+    QByteArray listing;
+    for (int number = 0; number < 10'000; ++number)
+        listing += "(setvar \"VARIABLE" + QByteArray::number(number) + (number % 3 ? "\" 1) ;dangerous\n" : "\" 1)\n");
+    return listing;
+}
+
+void showSettings(benchmark::State &state)
+{
+    FakeHost host;
+    Dlg_QT_ExportSettings dialog;
+    dialog.setListing(host.writeFile(u"listing.txt"_s, settings()));
+    for (auto _ : state)
+        showAndPaint(dialog);
+}
+BENCHMARK(showSettings)->Unit(benchmark::kMillisecond);
+
+void showSameText(benchmark::State &state)
+{
+    QDialog dialog;
+    QTextEdit view(&dialog);
+    const QString text = QString::fromUtf8(settings());
+    for (auto _ : state) {
+        view.setPlainText(text);
+        showAndPaint(dialog);
+    }
+}
+BENCHMARK(showSameText)->Unit(benchmark::kMillisecond);
+
 } // namespace
 
 int main(int argc, char **argv)
@@ -147,5 +179,6 @@ int main(int argc, char **argv)
                                 {{"saveState", "writeSameBytes"},
                                  {"loadState", "readSameLines"},
                                  {"showBreakLineFirst", "showEmptyDialog"},
-                                 {"showBreakLineAgain", "showEmptyDialog"}});
+                                 {"showBreakLineAgain", "showEmptyDialog"},
+                                 {"showSettings", "showSameText"}});
 }

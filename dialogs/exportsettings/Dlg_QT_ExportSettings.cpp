@@ -77,7 +77,8 @@ void Dlg_QT_ExportSettings::showMode()
 
 void Dlg_QT_ExportSettings::showVariables(int index)
 {
-    // Blanks count in a setting: without this, several would be shown as one.
+    // Blanks count in a setting: without this, several would be shown as one. It also makes a paragraph of every line,
+    // so that a long listing need not be laid out as a whole before it is shown.
     QString html = QStringLiteral("<p style='white-space: pre-wrap; '>");
     m_shownLines.clear();
     for (const SettingClass settingClass : classesAt(index)) {
@@ -95,7 +96,7 @@ QString Dlg_QT_ExportSettings::entries(SettingClass settingClass) const
                                                                        : m_markup.standard;
     QString html;
     for (const QByteArray &line : m_listing.lines(settingClass))
-        html += opening + QString::fromUtf8(line).toHtmlEscaped() + m_markup.closing + QLatin1StringView("<br>");
+        html += opening + QString::fromUtf8(line).toHtmlEscaped() + m_markup.closing + u'\n';
     return html;
 }
 

@@ -113,6 +113,7 @@ TEST_F(ExportSettings, LinesAreShownAndSavedAsTheyAre)
         {"markup", "A \"<b>&amp;</b>\" <br>x</span>", u"A \"<b>&amp;</b>\" <br>x</span>"_s},
         {"an open tag", "A <!-- \" <", u"A <!-- \" <"_s},
         {"blanks", "A \"two  blanks\"\t \ttabs", u"A \"two  blanks\"\t \ttabs"_s},
+        {"empty lines", "A\n\n\nB", u"A\n\n\nB"_s},
         {"non-ASCII", "A \"\xC3\xA4\xE2\x82\xAC\"", u"A \"ä€\""_s},
         {"not UTF-8", "A \"\xE4\" B", u"A \"\uFFFD\" B"_s},
     };
