@@ -1,5 +1,6 @@
 // Any bytes: a drawing that reads is written as it was, gives all it holds, and takes an edit back exactly.
 
+#include "fuzz/Require.h"
 #include "host/drawing/Drawing.h"
 #include "host/drawing/Entities.h"
 #include "host/drawing/EntityGeometry.h"
@@ -7,17 +8,9 @@
 #include "host/drawing/Symbols.h"
 #include "host/drawing/TransformEntity.h"
 
-#include <cstdlib>
-
 using namespace host::drawing;
 
 namespace {
-
-void require(bool holds)
-{
-    if (!holds)
-        std::abort();
-}
 
 void readEverything(const Drawing &drawing)
 {

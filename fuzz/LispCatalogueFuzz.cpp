@@ -1,20 +1,9 @@
 // Any bytes: every line that is kept gives three columns, and one comment line in the dump.
 
 #include "formats/LispCatalogue.h"
-
-#include <cstdlib>
+#include "fuzz/Require.h"
 
 using namespace ortakit;
-
-namespace {
-
-void require(bool holds)
-{
-    if (!holds)
-        std::abort();
-}
-
-} // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {

@@ -1,18 +1,11 @@
 // Any bytes: every function found has the shape that the scan promises, and its parts make up its text.
 
 #include "formats/LispSource.h"
-
-#include <cstdlib>
+#include "fuzz/Require.h"
 
 using namespace ortakit;
 
 namespace {
-
-void require(bool holds)
-{
-    if (!holds)
-        std::abort();
-}
 
 void checkEntry(const LispFunctionEntry &entry)
 {

@@ -2,20 +2,9 @@
 
 #include "formats/SettingsListing.h"
 #include "formats/TextReading.h"
-
-#include <cstdlib>
+#include "fuzz/Require.h"
 
 using namespace ortakit;
-
-namespace {
-
-void require(bool holds)
-{
-    if (!holds)
-        std::abort();
-}
-
-} // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
