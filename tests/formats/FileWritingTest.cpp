@@ -11,6 +11,7 @@ using namespace Qt::StringLiterals;
 using formats_test::Folder;
 
 namespace {
+
 TEST(FileWriting, WritingReplacesTheWholeFileOrNothing)
 {
     const Folder folder;
@@ -21,19 +22,13 @@ TEST(FileWriting, WritingReplacesTheWholeFileOrNothing)
     EXPECT_EQ(Folder::readFile(path), "new");
     EXPECT_FALSE(QFile::permissions(path) & QFile::ReadOther) << "the file's permissions stay";
 
-    EXPECT_TRUE(replaceFile(path, {}));
-    EXPECT_EQ(Folder::readFile(path), QByteArray());
     EXPECT_EQ(QDir(folder.path({})).entryList(QDir::Files), QStringList{u"text"_s}) << "nothing is left beside it";
-}
 
-TEST(FileWriting, ALinkIsFollowedAndStays)
-{
-    const Folder folder;
-    const QString target = folder.writeFile(u"target"_s, "old");
-    ASSERT_TRUE(QFile::link(target, folder.path(u"link"_s)));
-    EXPECT_TRUE(replaceFile(folder.path(u"link"_s), "new"));
-    EXPECT_TRUE(QFileInfo(folder.path(u"link"_s)).isSymLink());
-    EXPECT_EQ(Folder::readFile(target), "new");
+    ASSERT_TRUE(QFile::link(path, folder.path(u"link"_s)));
+    EXPECT_TRUE(replaceFile(folder.path(u"link"_s), "linked\n"));
+    EXPECT_TRUE(QFileInfo(folder.path(u"link"_s)).isSymLink()) << "a link is followed and stays";
+    EXPECT_TRUE(appendToFile(path, "two\n"));
+    EXPECT_EQ(Folder::readFile(path), "linked\ntwo\n");
 }
 
 TEST(FileWriting, WhatCannotBeWrittenIsRefused)
@@ -54,15 +49,6 @@ TEST(FileWriting, WhatCannotBeWrittenIsRefused)
     }
     EXPECT_EQ(Folder::readFile(file), "kept");
     EXPECT_FALSE(QFileInfo(u"/dev/full"_s).isFile());
-}
-
-TEST(FileWriting, AppendingKeepsWhatIsThere)
-{
-    const Folder folder;
-    const QString path = folder.path(u"script.scr"_s);
-    EXPECT_TRUE(appendToFile(path, "one\n"));
-    EXPECT_TRUE(appendToFile(path, "two\n"));
-    EXPECT_EQ(Folder::readFile(path), "one\ntwo\n");
 }
 
 } // namespace
