@@ -14,7 +14,7 @@ using ortakit::test::FakeHost;
 namespace {
 
 /// A dialog of plain widgets with a state, and a host to find a folder in.
-struct Fixture : testing::Test
+struct DialogStateTest : testing::Test
 {
     FakeHost host;
     QDialog dialog;
@@ -37,8 +37,6 @@ struct Fixture : testing::Test
     }
 };
 
-using DialogStateTest = Fixture;
-
 TEST_F(DialogStateTest, EveryWidgetOfADialogIsWrittenInOrder)
 {
     Gallery gallery;
@@ -51,33 +49,13 @@ TEST_F(DialogStateTest, EveryWidgetOfADialogIsWrittenInOrder)
     all.setAction(u"OK"_s);
     all.load(host.path(u"state"_s));
     all.save();
-    const QByteArray expected = "\xEF\xBB\xBF"
-                                "ck_flag=TRUE\n"
-                                "!action!=OK\n"
-                                "tx_edit=typed\n"
-                                "rd_choice=FALSE\n"
-                                "cb_color=256\n"
-                                "cb_color_index=0\n"
-                                "cb_fixed=one\n"
-                                "cb_fixed_index=0\n"
-                                "cb_free=anything\n"
-                                "cb_free_index=-1\n"
-                                "cb_favorits=mine\n"
-                                "cb_favorits_index=-1\n"
-                                "cb_font=Nowhere Sans\n"
-                                "cb_font_index=-1\n"
-                                "ls_names=second\n"
-                                "sp_length=0\n"
-                                "qt_spinbox_lineedit=0.000000\n"
-                                "sp_angle=90\n"
-                                "qt_spinbox_lineedit=90\n"
-                                "sp_rotation=0\n"
-                                "qt_spinbox_lineedit=0\n"
-                                "sp_real=0.5\n"
-                                "qt_spinbox_lineedit=0.500000\n"
-                                "qt_spinbox_lineedit=3\n"
-                                "tb_pages=0\n"
-                                "tb_rows=Window^\n";
+    const QByteArray expected =
+        "\xEF\xBB\xBF"
+        "ck_flag=TRUE\n!action!=OK\ntx_edit=typed\nrd_choice=FALSE\ncb_color=256\ncb_color_index=0\ncb_fixed=one\n"
+        "cb_fixed_index=0\ncb_free=anything\ncb_free_index=-1\ncb_favorits=mine\ncb_favorits_index=-1\n"
+        "cb_font=Nowhere Sans\ncb_font_index=-1\nls_names=second\nsp_length=0\nqt_spinbox_lineedit=0.000000\n"
+        "sp_angle=90\nqt_spinbox_lineedit=90\nsp_rotation=0\nqt_spinbox_lineedit=0\nsp_real=0.5\n"
+        "qt_spinbox_lineedit=0.500000\nqt_spinbox_lineedit=3\ntb_pages=0\ntb_rows=Window^\n";
     EXPECT_EQ(FakeHost::readFile(host.path(u"state"_s)), expected);
 }
 
@@ -92,49 +70,33 @@ TEST_F(DialogStateTest, AnIntegerBoxKeepsWhatWasLoadedAndIsNeverWritten)
     const QByteArray written = FakeHost::readFile(host.path(u"state"_s));
     EXPECT_FALSE(written.contains("sp_whole"));
     EXPECT_TRUE(written.contains("qt_spinbox_lineedit=42\n"));
-    all.load(host.path(u"state"_s));
-    all.apply();
-    EXPECT_EQ(gallery.whole->value(), 42);
 }
 
-struct ActionRow
-{
-    QString action;
-    QByteArray line;
-    QString key;
-    QString readBack;
-};
-
-TEST_F(DialogStateTest, TheActionFollowsTheFirstWidget)
-{
-    addEdit(u"first"_s, u"1"_s);
-    addEdit(u"second"_s, u"2"_s);
-    const ActionRow rows[] = {
-        {{}, "!action!=\n", u"!action!"_s, {}},
-        {u"CREATE"_s, "!action!=CREATE\n", u"!Action!"_s, u"CREATE"_s},
-        {u"GET_BLOCK=Door"_s, "!action!GET_BLOCK=Door\n", u"!action!get_block"_s, u"Door"_s},
-    };
-    for (const ActionRow &row : rows) {
-        loadText("");
-        state.setAction(row.action);
-        EXPECT_EQ(saved(), "\xEF\xBB\xBF"
-                           "first=1\n" +
-                               row.line + "second=2\n");
-        DialogState reader(&dialog);
-        reader.load(state.filePath());
-        EXPECT_EQ(reader.lookup(row.key), row.readBack);
-    }
-}
-
-TEST_F(DialogStateTest, TheIndexOfAComboBoxStaysBeforeTheAction)
+TEST_F(DialogStateTest, TheActionFollowsTheFirstWidgetAndItsIndex)
 {
     QComboBox box(&dialog);
     box.setObjectName(u"Scale"_s);
     box.addItems({u"1:1"_s, u"1:2"_s});
-    loadText("");
-    state.setAction(u"OK"_s);
-    EXPECT_EQ(saved(), "\xEF\xBB\xBF"
-                       "scale=1:1\nscale_index=0\n!action!=OK\n");
+    addEdit(u"second"_s, u"2"_s);
+    const struct
+    {
+        QString action;
+        QByteArray line;
+        QString key;
+        QString readBack;
+    } rows[] = {
+        {{}, "!action!=\n", u"!action!"_s, {}},
+        {u"CREATE"_s, "!action!=CREATE\n", u"!Action!"_s, u"CREATE"_s},
+        {u"GET_BLOCK=Door"_s, "!action!GET_BLOCK=Door\n", u"!action!get_block"_s, u"Door"_s},
+    };
+    for (const auto &row : rows) {
+        loadText("");
+        state.setAction(row.action);
+        EXPECT_EQ(saved(), "\xEF\xBB\xBFscale=1:1\nscale_index=0\n" + row.line + "second=2\n");
+        DialogState reader(&dialog);
+        reader.load(state.filePath());
+        EXPECT_EQ(reader.lookup(row.key), row.readBack);
+    }
 }
 
 TEST_F(DialogStateTest, ADialogWithoutValuesLeavesAnEmptyFile)
@@ -182,16 +144,6 @@ TEST_F(DialogStateTest, AKeyAtTheHeadAnswersForItsEndings)
     state.apply();
     EXPECT_EQ(size->text(), u"2"_s);
     EXPECT_EQ(state.lines(), (QStringList{u"_dist_size=2"_s, u"_dist_offset"_s, u"size=1"_s}));
-}
-
-TEST_F(DialogStateTest, AValueIsCutAtItsEqualsSign)
-{
-    QLineEdit *edit = addEdit(u"formula"_s, u"a=b"_s);
-    loadText("");
-    state.save();
-    state.load(state.filePath());
-    state.apply();
-    EXPECT_EQ(edit->text(), u"a"_s);
 }
 
 TEST_F(DialogStateTest, AListIsAsLongAsItsLengthSays)
@@ -279,24 +231,24 @@ TEST_F(DialogStateTest, FilesThatCannotBeReadOrWrittenAreIgnored)
 
 TEST_F(DialogStateTest, HostileFilesSetWhatTheySayAndNothingBreaks)
 {
-    const std::pair<const char *, QByteArray> files[] = {
-        {"no line feed", QByteArray(3'000'000, 'x')},
-        {"only line feeds", QByteArray(300'000, '\n')},
-        {"only equals signs", QByteArray(300'000, '=')},
-        {"null characters", QByteArray(300'000, '\0')},
-        {"broken UTF-8", QByteArray(300'000, '\xC3')},
-        {"one key over and over", QByteArray("name=x\n").repeated(100'000)},
-        {"one key with a capital over and over", QByteArray("Name=x\n").repeated(100'000)},
+    const QByteArray files[] = {
+        QByteArray(3'000'000, 'x'),
+        QByteArray(300'000, '\n'),
+        QByteArray(300'000, '='),
+        QByteArray(300'000, '\0'),
+        QByteArray(300'000, '\xC3'),
+        QByteArray("name=x\n").repeated(100'000),
+        QByteArray("Name=x\n").repeated(100'000),
     };
     addEdit(u"name"_s);
     addEdit(u"end"_s);
-    for (const auto &[name, content] : files) {
+    for (const QByteArray &content : files) {
         QElapsedTimer clock;
         clock.start();
         loadText(content + "\nend=reached\n");
         state.apply();
-        EXPECT_EQ(state.lookup(u"end"_s), u"reached"_s) << name;
-        EXPECT_LT(clock.elapsed(), 5000) << name;
+        EXPECT_EQ(state.lookup(u"end"_s), u"reached"_s) << content.left(8).toStdString();
+        EXPECT_LT(clock.elapsed(), 5000) << content.left(8).toStdString();
         state.setLines({});
     }
 }
@@ -323,30 +275,6 @@ TEST_F(DialogStateTest, TheFolderForFavouritesIsMade)
     const DialogState without(&other);
     EXPECT_EQ(without.favouritesFolder(), u"Ortakit/Favorites"_s);
     EXPECT_FALSE(QFileInfo::exists(u"Ortakit"_s)) << "nothing appears in the current folder";
-}
-
-TEST_F(DialogStateTest, TenThousandLinesAndManyWidgetsAreQuick)
-{
-    for (int i = 0; i < 150; ++i)
-        addEdit(u"field_%1"_s.arg(i));
-    QByteArray content;
-    for (int i = 0; i < 10'000; ++i)
-        content += "some_longer_key_" + QByteArray::number(i) + "=value " + QByteArray::number(i) + "\n";
-    for (int i = 0; i < 150; ++i)
-        content += "field_" + QByteArray::number(i) + "=set " + QByteArray::number(i) + "\n";
-    const QString path = host.writeFile(u"large"_s, content);
-
-    QElapsedTimer clock;
-    clock.start();
-    state.load(path);
-    state.load(path);
-    const qint64 loaded = clock.restart();
-    state.apply();
-    const qint64 applied = clock.elapsed();
-    std::printf("10,150 lines loaded twice in %lld ms, applied to 150 widgets in %lld ms\n", loaded, applied);
-    EXPECT_EQ(state.lines().size(), 10'150);
-    EXPECT_EQ(dialog.findChild<QLineEdit *>(u"field_149"_s)->text(), u"set 149"_s);
-    EXPECT_LT(loaded + applied, 3000);
 }
 
 } // namespace

@@ -87,34 +87,35 @@ TEST(DrawingPicker, RefusesTheDrawingThatItIsFor)
     EXPECT_EQ(user.shown().value(1), u"warning \"\" \"Error: Xref contains circular reference\" OK"_s);
 }
 
-struct CircleRow
-{
-    const char *name;
-    QMap<QString, QStringList> references;
-    bool expected;
-};
-
 TEST(DrawingPicker, FollowsReferencesBackToTheStart)
 {
     const FakeHost host;
     ASSERT_TRUE(QDir().mkpath(host.path(u"parts"_s)));
     for (const QString &name : {u"host.dwg"_s, u"a.dwg"_s, u"b.dwg"_s, u"parts/c.dwg"_s})
         host.writeFile(name, "x");
-    const CircleRow rows[] = {
+    const struct
+    {
+        const char *name;
+        QString references; ///< "of>to|to of>to"
+        bool expected;
+    } rows[] = {
         {"no references", {}, false},
-        {"references without a circle", {{u"a.dwg"_s, {u"b.dwg"_s}}, {u"b.dwg"_s, {u"parts/c.dwg"_s}}}, false},
-        {"itself", {{u"a.dwg"_s, {u"a.dwg"_s}}}, true},
-        {"the drawing it goes into", {{u"a.dwg"_s, {u"./host.dwg"_s}}}, true},
-        {"over another drawing", {{u"a.dwg"_s, {u"b.dwg"_s}}, {u"b.dwg"_s, {u"A/../a.dwg"_s, u"a.dwg"_s}}}, true},
-        {"from another folder, backslashes",
-         {{u"a.dwg"_s, {u"parts\\c.dwg"_s}}, {u"c.dwg"_s, {u"..\\host.dwg"_s}}},
-         true},
-        {"a path of another machine", {{u"a.dwg"_s, {u"D:\\plans\\host.dwg"_s}}}, true},
-        {"a circle of others", {{u"a.dwg"_s, {u"b.dwg"_s}}, {u"b.dwg"_s, {u"b.dwg"_s}}}, false},
-        {"missing drawings", {{u"a.dwg"_s, {u"gone.dwg"_s, QString(), u"\\"_s}}}, false},
+        {"references without a circle", u"a.dwg>b.dwg b.dwg>parts/c.dwg"_s, false},
+        {"itself", u"a.dwg>a.dwg"_s, true},
+        {"the drawing it goes into", u"a.dwg>./host.dwg"_s, true},
+        {"over another drawing", u"a.dwg>b.dwg b.dwg>A/../a.dwg|a.dwg"_s, true},
+        {"from another folder, backslashes", u"a.dwg>parts\\c.dwg c.dwg>..\\host.dwg"_s, true},
+        {"a path of another machine", u"a.dwg>D:\\plans\\host.dwg"_s, true},
+        {"a circle of others", u"a.dwg>b.dwg b.dwg>b.dwg"_s, false},
+        {"missing drawings", u"a.dwg>gone.dwg||\\"_s, false},
     };
-    for (const CircleRow &row : rows) {
-        const auto referencesOf = [&](const QString &path) { return row.references.value(QFileInfo(path).fileName()); };
+    for (const auto &row : rows) {
+        const auto referencesOf = [&](const QString &path) {
+            for (const QString &entry : row.references.split(u' '))
+                if (entry.startsWith(QFileInfo(path).fileName() + u'>'))
+                    return entry.section(u'>', 1).split(u'|');
+            return QStringList();
+        };
         EXPECT_EQ(leadsBack(host.path(u"a.dwg"_s), host.path(u"host.dwg"_s), referencesOf), row.expected) << row.name;
     }
     EXPECT_TRUE(leadsBack(host.path(u"a.dwg"_s), host.path(u"parts/../a.dwg"_s)));

