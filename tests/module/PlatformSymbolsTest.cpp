@@ -5,7 +5,6 @@
 #include <QSet>
 
 #include <gtest/gtest.h>
-#include <iostream>
 
 namespace {
 
@@ -60,7 +59,6 @@ TEST(PlatformSymbols, TheDocumentListsWhatTheModuleAsksFor)
 {
     const QSet<QString> asked = namesAskedFor();
     const QSet<QString> listed = namesListed(readText(QStringLiteral(PORTING_DOCUMENT)));
-    std::cout << sorted(asked) << '\n';
     ASSERT_FALSE(asked.isEmpty());
     EXPECT_EQ(sorted(asked - listed), "") << "asked for and not in docs/porting.md";
     EXPECT_EQ(sorted(listed - asked), "") << "in docs/porting.md and not asked for";
