@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-class BreakLineTool : public testing::Test
+class BreakLineTool : public ToolTest
 {
 protected:
     /// The dialog confirmed with the zigzag symbol, then what the drawing is asked.
@@ -24,37 +24,9 @@ protected:
                "set _dist_size %2\nset _dist_offset %3\nfocus acceptButton\nclick acceptButton\n%4"_s.arg(
                    ToolRun::sample(u"zigzag.dxf"_s), size, offset, answers);
     }
-
-    ToolRun run;
-    QString plan = ToolRun::sample(u"plan.dxf"_s);
 };
 
 const QStringList brokenWithNewSymbol = {u"+BLOCK"_s, u"+BLOCK_RECORD"_s, u"+ENDBLK"_s, u"+INSERT"_s};
-
-TEST_F(BreakLineTool, SampleSessionsBreakAndChangeNothingElse)
-{
-    const struct
-    {
-        const char *session;
-        QStringList added;
-    } rows[] = {
-        // The symbol's five lines and the piece behind the break; the door's line and arc, and likewise.
-        {"sessions/breakline.session", brokenWithNewSymbol + QStringList(6, u"+LINE"_s)},
-        {"sessions/breakline-create.session", brokenWithNewSymbol + QStringList{u"+ARC"_s, u"+LINE"_s, u"+LINE"_s}},
-    };
-    for (const auto &row : rows) {
-        const RunOutcome outcome = run.playFile(ToolRun::sample(QString::fromLatin1(row.session)), plan);
-        ASSERT_EQ(outcome.status, 0) << row.session << outcome.output.toStdString();
-        QStringList expected = row.added + QStringList{u"~$HANDSEED"_s, u"~LINE"_s};
-        expected.sort();
-        EXPECT_EQ(differences(plan, run.result(plan)), expected) << row.session;
-        EXPECT_TRUE(isSound(run.result(plan))) << row.session;
-    }
-    // The new symbol: a drawing in the form this host writes, under the name that the tools expect.
-    const QString symbol = run.path(u"home/Ortakit/BreakLine/door.dwg"_s);
-    EXPECT_TRUE(ToolRun::readFile(symbol).contains("SECTION"));
-    EXPECT_TRUE(isSound(symbol));
-}
 
 TEST_F(BreakLineTool, GapIsTheSymbolAndItsOffsetsOrTheDistanceOfThePoints)
 {
@@ -80,9 +52,7 @@ TEST_F(BreakLineTool, GapIsTheSymbolAndItsOffsetsOrTheDistanceOfThePoints)
                            "(list (cadr (assoc 10 data)) (cadr (assoc 11 data)))) pieces) "
                            "'(lambda (a b) (< (car a) (car b)))) 1e-9)\n"_s;
     for (const auto &row : rows) {
-        const RunOutcome outcome =
-            run.play(confirmed(row.size, row.offset, u"pick 12,1.5\n"_s + row.answers) + pieces.arg(row.check), plan);
-        EXPECT_EQ(outcome.status, 0) << row.what << ": " << outcome.output.toStdString();
+        plays(confirmed(row.size, row.offset, u"pick 12,1.5\n"_s + row.answers) + pieces.arg(row.check));
     }
 }
 
@@ -104,46 +74,23 @@ TEST_F(BreakLineTool, WhatCannotBeBrokenIsSaidAndNothingChanges)
         {"cancelled at a point", u"2"_s, u"pick 8,1.5\npoint 8,1.5\ncancel\n"_s, u"Specify second break point"_s},
     };
     for (const auto &row : rows) {
-        const RunOutcome outcome = run.play(confirmed(row.size, u"0"_s, row.answers) +
-                                                u"expect-printed %1\nexpect-modified no\n"_s.arg(row.message),
-                                            plan);
-        EXPECT_EQ(outcome.status, 0) << row.what << ": " << outcome.output.toStdString();
+        plays(confirmed(row.size, u"0"_s, row.answers) + u"expect-printed %1\nexpect-modified no\n"_s.arg(row.message));
     }
-}
-
-TEST_F(BreakLineTool, CancellingLeavesTheStateFileAndTheDrawing)
-{
-    QDir().mkpath(run.path(u"home/Ortakit"_s));
-    const QByteArray state = "_dist_size=3\r\nodd line\n\n_DIST_OFFSET=1";
-    run.writeFile(u"home/Ortakit/breakline.state"_s, state);
-    const RunOutcome outcome = run.play(u"command BREAKLINE\ndialog Dlg_QT_Breakline\nset _dist_size 9\n"
-                                        "click ButtonCancel\nexpect-modified no\n"
-                                        "lisp (setq result (Dlg_BreakLine (kora_statefile \"breakline\")))\n"
-                                        "dialog Dlg_QT_Breakline\nexpect _dist_size 9\nkey _dist_size Escape\n"
-                                        "expect-lisp (null result)\n"_s,
-                                        plan);
-    EXPECT_EQ(outcome.status, 0) << outcome.output.toStdString();
-    EXPECT_EQ(ToolRun::readFile(run.stateFile(u"breakline"_s)), state);
-    EXPECT_FALSE(QFile::exists(run.result(plan)));
 }
 
 TEST_F(BreakLineTool, SelectingNothingForANewSymbolComesBackToTheDialog)
 {
-    const RunOutcome outcome = run.play(u"command BREAKLINE\ndialog Dlg_QT_Breakline\ntype name empty\n"
-                                        "click SelectEntities\nenter\ndialog Dlg_QT_Breakline\nclick ButtonCancel\n"
-                                        "expect-printed No symbol was made\nexpect-modified no\n"_s,
-                                        plan);
-    EXPECT_EQ(outcome.status, 0) << outcome.output.toStdString();
+    plays(u"command BREAKLINE\ndialog Dlg_QT_Breakline\ntype name empty\n"
+          "click SelectEntities\nenter\ndialog Dlg_QT_Breakline\nclick ButtonCancel\n"
+          "expect-printed No symbol was made\nexpect-modified no\n"_s);
     EXPECT_FALSE(QFile::exists(run.path(u"home/Ortakit/BreakLine/empty.dwg"_s)));
 }
 
 TEST_F(BreakLineTool, IsOneUndoStep)
 {
-    const RunOutcome outcome = run.play(confirmed(u"2"_s, u"0"_s, u"pick 8,1.5\npoint 8,1.5\nanswer Same\n"_s) +
-                                            u"expect-modified yes\nundo\nexpect-modified no\nexpect-count INSERT 0\n"
-                                            "redo\nexpect-count INSERT 1\n"_s,
-                                        plan);
-    EXPECT_EQ(outcome.status, 0) << outcome.output.toStdString();
+    plays(confirmed(u"2"_s, u"0"_s, u"pick 8,1.5\npoint 8,1.5\nanswer Same\n"_s) +
+          u"expect-modified yes\nundo\nexpect-modified no\nexpect-count INSERT 0\n"
+          "redo\nexpect-count INSERT 1\n"_s);
     EXPECT_EQ(differences(plan, run.result(plan)).filter(u"INSERT"_s), QStringList{u"+INSERT"_s});
 }
 

@@ -1,8 +1,6 @@
 #include "host/app/SessionPlayer.h"
 #include "host/app/Workbench.h"
 #include "host/kernel/DocumentManager.h"
-#include "host/lisp/Interpreter.h"
-#include "platform/kernel/CKvDocumentManager.h"
 #include "tests/support/QtTestPrinters.h"
 #include "tests/tools/ToolRun.h"
 
@@ -13,30 +11,6 @@ using namespace Qt::StringLiterals;
 using host::kernel::Document;
 
 namespace {
-
-/// The names of the external functions that are defined in a document's engine.
-QStringList externalFunctions(Document &document)
-{
-    QStringList names;
-    for (const host::lisp::FunctionEntry &entry : document.interpreter().functions()) {
-        if (entry.kind == host::lisp::FunctionEntry::Kind::External)
-            names.append(QString::fromStdString(entry.name));
-    }
-    names.sort();
-    return names;
-}
-
-/// Hears of a closing document behind the module, when the module is done with it.
-class ClosingListener final : public CKvDocumentManagerReactor
-{
-public:
-    void LispDocumentClosing(CKvDocument *document) override
-    {
-        left = externalFunctions(*static_cast<Document *>(document));
-    }
-
-    QStringList left;
-};
 
 class Documents : public testing::Test
 {
@@ -55,20 +29,6 @@ protected:
     host::app::Workbench bench{{folder.path(u"home"_s), built("/lib/Ortakit.so"), built("/share/ortakit/tools")}};
 };
 
-TEST_F(Documents, ClosingOneUndefines41OfThe44Functions)
-{
-    ASSERT_EQ(bench.problems(), QStringList());
-    ClosingListener listener;
-    bench.documents().addReactor(&listener);
-    Document *first = bench.documents().create();
-    Document *second = bench.documents().create();
-    EXPECT_EQ(externalFunctions(*first).size(), 44);
-    ASSERT_TRUE(bench.documents().close(first));
-    EXPECT_EQ(listener.left, (QStringList{u"C:SETBACKUPFOLDER"_s, u"DLG_EXPORTSETTING"_s, u"DLG_PATTERNHATCH"_s}));
-    EXPECT_EQ(externalFunctions(*second).size(), 44);
-    bench.documents().removeReactor(&listener);
-}
-
 TEST_F(Documents, EachHasItsOwnDialogWithItsOwnValues)
 {
     Document *first = bench.documents().create();
@@ -79,13 +39,6 @@ TEST_F(Documents, EachHasItsOwnDialogWithItsOwnValues)
     play(*first, call + u"expect _dist_size 7\nclick ButtonCancel\n"_s);
     ASSERT_TRUE(bench.documents().close(first));
     play(*second, call + u"expect _dist_size 3\nclick ButtonCancel\n"_s);
-}
-
-TEST_F(Documents, FunctionsWithoutTheirDialogSaySo)
-{
-    Document *document = bench.documents().create();
-    play(*document, u"lisp (Dlg_MergeSheets \"x\")\nexpect-error DLG_MERGESHEETS\n"
-                    "expect-printed Dlg_MergeSheets is not available in this build.\n"_s);
 }
 
 TEST_F(Documents, PromptingFunctionsGiveLispWhatWasAnswered)

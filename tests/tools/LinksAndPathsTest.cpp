@@ -8,7 +8,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-using LinksAndPaths = SessionTest;
+using LinksAndPaths = ToolTest;
 
 // What a Lisp program does: the links come from a file and go back in it.
 TEST_F(LinksAndPaths, LinksGoThroughTheirFile)

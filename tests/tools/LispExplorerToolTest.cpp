@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-class LispExplorerTool : public testing::Test
+class LispExplorerTool : public ToolTest
 {
 protected:
     /// Opens the page of variables of what `program` leaves behind, writes the dump, then plays `rest`.
@@ -31,20 +31,8 @@ protected:
         return {};
     }
 
-    ToolRun run;
-    QString plan = ToolRun::sample(u"plan.dxf"_s);
     QString dumpFile = run.path(u"all.dmp"_s);
 };
-
-TEST_F(LispExplorerTool, SampleSessionsRunAndChangeNothing)
-{
-    for (const QString &session : {u"sessions/lispexplorer.session"_s, u"sessions/lispdump.session"_s}) {
-        const RunOutcome outcome = run.playFile(ToolRun::sample(session), plan);
-        EXPECT_EQ(outcome.status, 0) << session.toStdString() << outcome.output.toStdString();
-        EXPECT_FALSE(QFile::exists(run.result(plan)));
-    }
-    EXPECT_TRUE(QDir(run.path(u"home/Ortakit"_s)).entryList({u"*.catalogue"_s}).isEmpty()) << "the catalogue goes";
-}
 
 // Taking the semicolon off gives back the value, whatever characters are in it.
 TEST_F(LispExplorerTool, DumpedVariablesCanBeSetAgain)
@@ -132,32 +120,26 @@ TEST_F(LispExplorerTool, LoadsAFileIntoTheDrawingsEngine)
                          "key TxDirectory Return\nrow List_files %2\nclick Bt_Load\n"
                          "message \"The file has been loaded.\" Ok\n%3click text:Close\n"_s;
     const QString folder = run.path(u"my lisp"_s);
-    const RunOutcome outcome =
-        run.play(open.arg(folder, u"good.LSP"_s, QString()) +
-                     u"expect-lisp (= v:loaded 1)\ncommand MINE\nexpect-printed mine runs\n"_s +
-                     // The page that was shown last comes back, with the folder and what is loaded by now.
-                     open.arg(folder, u"bad.lsp"_s, u"click isKora\n"_s) +
-                     u"expect-printed bad argument type\nexpect-lisp (= v:loaded 2)\n"
-                     "command LISPEXPLORER\ndialog Dlg_QT_LispExplorer\nexpect-visible tableFunctions yes\n"
-                     "row tableFunctions C:MINE\nclick isUser\nexpect TxDirectory \"%1\"\nclick text:Close\n"
-                     "expect-modified no\n"_s.arg(folder),
-                 plan);
-    EXPECT_EQ(outcome.status, 0) << outcome.output.toStdString();
+    plays(open.arg(folder, u"good.LSP"_s, QString()) +
+          u"expect-lisp (= v:loaded 1)\ncommand MINE\nexpect-printed mine runs\n"_s +
+          // The page that was shown last comes back, with the folder and what is loaded by now.
+          open.arg(folder, u"bad.lsp"_s, u"click isKora\n"_s) +
+          u"expect-printed bad argument type\nexpect-lisp (= v:loaded 2)\n"
+          "command LISPEXPLORER\ndialog Dlg_QT_LispExplorer\nexpect-visible tableFunctions yes\n"
+          "row tableFunctions C:MINE\nclick isUser\nexpect TxDirectory \"%1\"\nclick text:Close\n"
+          "expect-modified no\n"_s.arg(folder));
 }
 
 TEST_F(LispExplorerTool, ArgumentsThatAreNoCatalogueAreNoError)
 {
     const QString close = u"dialog Dlg_QT_LispExplorer\nexpect-visible tableFunctions %1\nclick text:Close\n"
                           "expect-lisp (null v:result)\n"_s;
-    const RunOutcome outcome =
-        run.play(u"lisp (setq v:result (Dlg_LispExplorer))\n"_s + close.arg(u"no"_s) +
-                     u"lisp (setq v:result (Dlg_LispExplorer nil \"DUMP\"))\n"_s + close.arg(u"no"_s) +
-                     u"lisp (setq v:result (Dlg_LispExplorer 7 8))\n"_s + close.arg(u"no"_s) +
-                     u"lisp (setq v:result (Dlg_LispExplorer \"/missing\" \"DUMP\"))\n"
-                     "message \"No such file\" Ok\n"_s +
-                     close.arg(u"yes"_s),
-                 plan);
-    EXPECT_EQ(outcome.status, 0) << outcome.output.toStdString();
+    plays(u"lisp (setq v:result (Dlg_LispExplorer))\n"_s + close.arg(u"no"_s) +
+          u"lisp (setq v:result (Dlg_LispExplorer nil \"DUMP\"))\n"_s + close.arg(u"no"_s) +
+          u"lisp (setq v:result (Dlg_LispExplorer 7 8))\n"_s + close.arg(u"no"_s) +
+          u"lisp (setq v:result (Dlg_LispExplorer \"/missing\" \"DUMP\"))\n"
+          "message \"No such file\" Ok\n"_s +
+          close.arg(u"yes"_s));
 }
 
 } // namespace

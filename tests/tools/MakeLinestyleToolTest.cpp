@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-class MakeLinestyleTool : public testing::Test
+class MakeLinestyleTool : public ToolTest
 {
 protected:
     /// The dialog confirmed with name NEW for `file`; a question whether to replace is answered with yes.
@@ -44,21 +44,8 @@ protected:
         return u"window 90,-20 120,20\nenter\npoint %1\npoint %2\n"_s.arg(start, end);
     }
 
-    ToolRun run;
-    QString plan = ToolRun::sample(u"plan.dxf"_s);
     QString file = run.path(u"my.lin"_s);
 };
-
-TEST_F(MakeLinestyleTool, SampleSessionMakesALinetypeThatIsDrawn)
-{
-    const RunOutcome outcome = run.playFile(ToolRun::sample(u"sessions/makelinestyle.session"_s), plan);
-    ASSERT_EQ(outcome.status, 0) << outcome.output.toStdString();
-    EXPECT_EQ(ToolRun::readFile(run.path(u"home/pipes.lin"_s)),
-              "*GAS,Gas pipe ---- GAS . ---- GAS .\nA,1,-1.2,[\"GAS\",Standard,S=0.2,R=0,X=-1,Y=-0.1],0,-0.3\n");
-    EXPECT_EQ(differences(plan, run.result(plan)),
-              (QStringList{u"+LINE"_s, u"+LINE"_s, u"+LTYPE"_s, u"+POINT"_s, u"+TEXT"_s, u"~$HANDSEED"_s}));
-    EXPECT_TRUE(isSound(run.result(plan)));
-}
 
 TEST_F(MakeLinestyleTool, MeasuresThePattern)
 {
@@ -71,7 +58,6 @@ TEST_F(MakeLinestyleTool, MeasuresThePattern)
         QByteArray pattern;
     } rows[] = {
         {"dash and gap", "line 0.0 1.0", u"0.0"_s, "101.5,0", "A,1,-0.5"},
-        {"drawn from the other side", "line 1.0 0.0", u"0.0"_s, "101.5,0", "A,1,-0.5"},
         {"dots", "line 0.0 1.0; point 1.25; point 1.5", u"0.0"_s, "102,0", "A,1,-0.25,0,-0.25,0,-0.5"},
         {"a dot at the end is the first one", "point 2.0; line 0.5 1.0", u"0.0"_s, "102,0", "A,0,-0.5,0.5,-1"},
         {"a gap at the start goes to the end", "line 0.5 1.0", u"0.0"_s, "101.5,0", "A,0.5,-1"},
@@ -90,50 +76,50 @@ TEST_F(MakeLinestyleTool, MeasuresThePattern)
     };
     for (const auto &row : rows) {
         QFile::remove(file);
-        const RunOutcome outcome =
-            run.play(u"lisp (setq turn %1)\n"_s.arg(row.turn) + drawn(QLatin1StringView(row.entities)) +
-                         confirmed(file) + picked(u"100,0"_s, QLatin1StringView(row.end)) +
-                         u"expect-lisp (= (cdr (assoc 3 (tblsearch \"LTYPE\" \"new\"))) \"a, b\")\n"_s,
-                     plan);
-        ASSERT_EQ(outcome.status, 0) << row.what << ": " << outcome.output.toStdString();
+        plays(u"lisp (setq turn %1)\n"_s.arg(row.turn) + drawn(QLatin1StringView(row.entities)) + confirmed(file) +
+              picked(u"100,0"_s, QLatin1StringView(row.end)) +
+              u"expect-lisp (= (cdr (assoc 3 (tblsearch \"LTYPE\" \"new\"))) \"a, b\")\n"_s);
         EXPECT_EQ(ToolRun::readFile(file), "*NEW,a, b\n" + row.pattern + '\n') << row.what;
         EXPECT_TRUE(isSound(run.result(plan))) << row.what;
     }
 }
 
-TEST_F(MakeLinestyleTool, WhatIsNoPatternIsSaidAndNothingIsWritten)
+TEST_F(MakeLinestyleTool, WhatCannotBeMadeIsSaidAndNothingIsWritten)
 {
+    const QString beside = picked(u"100,0"_s, u"102,0"_s);
     const struct
     {
-        const char *what;
-        const char *entities;
-        QString answers;
         QString message;
+        const char *entities = "line 0.0 1.0";
+        QString answers = picked(u"100,0"_s, u"102,0"_s);
+        QString file = u"my.lin"_s;
+        QByteArray bytes = {}; ///< of the file; null: there is none
     } rows[] = {
-        {"only a text", "text 0.5 0.0 \"X\"", picked(u"100,0"_s, u"102,0"_s),
-         u"The pattern needs a line or a point."_s},
-        {"one full line", "line 0.0 2.0", picked(u"100,0"_s, u"102,0"_s), u"The pattern needs a gap or a text."_s},
-        {"no length", "line 0.0 2.0", picked(u"100,0"_s, u"100,0"_s), u"The pattern has no length."_s},
-        {"beside the direction", "line 0.0 2.0", picked(u"100,0"_s, u"100,3"_s),
-         u"beside the direction was left out"_s},
-        {"quotation mark", "line 0.0 1.0; text 1.1 0.0 \"2\\\"\"", picked(u"100,0"_s, u"102,0"_s),
-         u"A text with quotation marks cannot be in a linetype."_s},
-        {"texts in one place", "line 0.0 1.0; text 1.1 0.0 \"A\"; text 1.1 1.0 \"B\"", picked(u"100,0"_s, u"102,0"_s),
-         u"Two texts start at the same place."_s},
-        {"too many", "point 0.1; point 0.2; point 0.3; point 0.4; point 0.5; point 0.6; point 0.7",
-         picked(u"100,0"_s, u"102,0"_s), u"more than the 12 elements"_s},
-        {"nothing picked", "line 0.0 1.0", u"enter\n"_s, u"Select lines"_s},
-        {"cancelled at the selection", "line 0.0 1.0", u"cancel\n"_s, u"Select lines"_s},
-        {"cancelled at the end", "line 0.0 1.0", u"window 90,-20 120,20\nenter\npoint 100,0\ncancel\n"_s,
-         u"Specify point where the pattern repeats"_s},
+        {u"The pattern needs a line or a point."_s, "text 0.5 0.0 \"X\""},
+        {u"The pattern needs a gap or a text."_s, "line 0.0 2.0"},
+        {u"The pattern has no length."_s, "line 0.0 2.0", picked(u"100,0"_s, u"100,0"_s)},
+        {u"beside the direction was left out"_s, "line 0.0 2.0", picked(u"100,0"_s, u"100,3"_s)},
+        {u"A text with quotation marks cannot be in a linetype."_s, "line 0.0 1.0; text 1.1 0.0 \"2\\\"\""},
+        {u"Two texts start at the same place."_s, "line 0.0 1.0; text 1.1 0.0 \"A\"; text 1.1 1.0 \"B\""},
+        {u"more than the 12 elements"_s, "point 0.1; point 0.2; point 0.3; point 0.4; point 0.5; point 0.6; point 0.7"},
+        {u"Select lines"_s, "line 0.0 1.0", u"enter\n"_s},
+        {u"Select lines"_s, "line 0.0 1.0", u"cancel\n"_s},
+        {u"Specify point where the pattern repeats"_s, "line 0.0 1.0",
+         u"window 90,-20 120,20\nenter\npoint 100,0\ncancel\n"_s},
+        {u"cannot be written"_s, "line 0.0 1.0", beside, u"missing/my.lin"_s},
+        {u"does not look like a file of definitions"_s, "line 0.0 1.0", beside, u"letter.lin"_s, "Dear reader,\n"},
+        {u"does not look like a file of definitions"_s, "line 0.0 1.0", beside, u"two.lin"_s,
+         QByteArray("\xFF\xFE*\0A\0,\0b\0\n\0", 12)},
     };
     for (const auto &row : rows) {
-        const RunOutcome outcome = run.play(
-            u"lisp (setq turn 0.0)\n"_s + drawn(QLatin1StringView(row.entities)) + confirmed(file) + row.answers +
-                u"expect-printed %1\nexpect-lisp (null (tblsearch \"LTYPE\" \"NEW\"))\n"_s.arg(row.message),
-            plan);
-        EXPECT_EQ(outcome.status, 0) << row.what << ": " << outcome.output.toStdString();
-        EXPECT_FALSE(QFile::exists(file)) << row.what;
+        SCOPED_TRACE(row.message.toStdString());
+        if (!row.bytes.isNull())
+            run.writeFile(row.file, row.bytes);
+        plays(u"lisp (setq turn 0.0)\n"_s + drawn(QLatin1StringView(row.entities)) + confirmed(run.path(row.file)) +
+              row.answers +
+              u"expect-printed %1\nexpect-lisp (null (tblsearch \"LTYPE\" \"NEW\"))\n"_s.arg(row.message));
+        EXPECT_EQ(ToolRun::readFile(run.path(row.file)), row.bytes);
+        EXPECT_EQ(QFile::exists(run.path(row.file)), !row.bytes.isNull());
     }
 }
 
@@ -167,39 +153,11 @@ TEST_F(MakeLinestyleTool, OnlyTheDefinitionChangesInTheFile)
     for (const auto &row : rows) {
         run.writeFile(u"my.lin"_s, row.before);
         QFile::setPermissions(file, QFile::ReadOwner | QFile::WriteOwner);
-        const RunOutcome outcome = run.play(u"lisp (setq turn 0.0)\n"_s + drawn(u"line 0.0 1.0"_s) +
-                                                confirmed(file, row.isReplaced) + picked(u"100,0"_s, u"101.5,0"_s),
-                                            plan);
-        ASSERT_EQ(outcome.status, 0) << row.what << ": " << outcome.output.toStdString();
+        plays(u"lisp (setq turn 0.0)\n"_s + drawn(u"line 0.0 1.0"_s) + confirmed(file, row.isReplaced) +
+              picked(u"100,0"_s, u"101.5,0"_s));
         EXPECT_EQ(ToolRun::readFile(file), row.after) << row.what;
         EXPECT_FALSE(QFile::permissions(file) & QFile::ReadOther) << "the file's permissions stay";
         EXPECT_EQ(QDir(run.path({})).entryList({u"my*"_s}), QStringList{u"my.lin"_s}) << "nothing is left beside it";
-    }
-}
-
-TEST_F(MakeLinestyleTool, AFileThatCannotTakeItStaysAsItWas)
-{
-    const QByteArray twoByte("\xFF\xFE*\0A\0,\0b\0\n\0", 12);
-    const struct
-    {
-        QString name;
-        QByteArray bytes; ///< null: there is no such file
-        QString message;
-    } rows[] = {
-        {u"missing/my.lin"_s, {}, u"cannot be written"_s},
-        {u"letter.lin"_s, "Dear reader,\n", u"does not look like a file of definitions"_s},
-        {u"two.lin"_s, twoByte, u"does not look like a file of definitions"_s},
-    };
-    for (const auto &row : rows) {
-        if (!row.bytes.isNull())
-            run.writeFile(row.name, row.bytes);
-        const RunOutcome outcome =
-            run.play(u"lisp (setq turn 0.0)\n"_s + drawn(u"line 0.0 1.0"_s) + confirmed(run.path(row.name)) +
-                         picked(u"100,0"_s, u"101.5,0"_s) +
-                         u"expect-printed %1\nexpect-lisp (null (tblsearch \"LTYPE\" \"NEW\"))\n"_s.arg(row.message),
-                     plan);
-        EXPECT_EQ(outcome.status, 0) << row.name.toStdString() << outcome.output.toStdString();
-        EXPECT_EQ(ToolRun::readFile(run.path(row.name)), row.bytes) << row.name.toStdString();
     }
 }
 
@@ -207,25 +165,17 @@ TEST_F(MakeLinestyleTool, AFileThatCannotTakeItStaysAsItWas)
 TEST_F(MakeLinestyleTool, IsOneUndoStep)
 {
     const QString length = u"expect-lisp (equal (cdr (assoc 40 (tblsearch \"LTYPE\" \"NEW\"))) %1 1e-9)\n"_s;
-    const RunOutcome outcome =
-        run.play(u"lisp (setq turn 0.0)\n"_s + drawn(u"line 0.0 1.0; text 1.1 0.0 \"X\""_s) + confirmed(file) +
-                     picked(u"100,0"_s, u"102,0"_s) + length.arg(2.0) + confirmed(file, true) +
-                     picked(u"100,0"_s, u"103,0"_s) + length.arg(3.0) + u"undo\n"_s + length.arg(2.0) +
-                     u"undo\nexpect-lisp (null (tblsearch \"LTYPE\" \"NEW\"))\nredo\n"_s + length.arg(2.0),
-                 plan);
-    EXPECT_EQ(outcome.status, 0) << outcome.output.toStdString();
+    plays(u"lisp (setq turn 0.0)\n"_s + drawn(u"line 0.0 1.0; text 1.1 0.0 \"X\""_s) + confirmed(file) +
+          picked(u"100,0"_s, u"102,0"_s) + length.arg(2.0) + confirmed(file, true) + picked(u"100,0"_s, u"103,0"_s) +
+          length.arg(3.0) + u"undo\n"_s + length.arg(2.0) +
+          u"undo\nexpect-lisp (null (tblsearch \"LTYPE\" \"NEW\"))\nredo\n"_s + length.arg(2.0));
 }
 
-TEST_F(MakeLinestyleTool, CancellingTheDialogAndBadNamesChangeNothing)
+TEST_F(MakeLinestyleTool, BadNamesAreRefused)
 {
-    const RunOutcome outcome =
-        run.play(u"command MAKELINESTYLE\ndialog Dlg_QT_MakeLineStyle\nset name x\nclick ButtonCancel\n"
-                 "command MAKELINESTYLE\ndialog Dlg_QT_MakeLineStyle\nset Linetypefile %1\nset name a,b\n"
-                 "click acceptButton\nexpect-printed A linetype cannot be named A,B.\n"
-                 "command MAKELINESTYLE\ndialog Dlg_QT_MakeLineStyle\nset name ByLayer\nclick acceptButton\n"
-                 "expect-printed A linetype cannot be named BYLAYER.\nexpect-modified no\n"_s.arg(file),
-                 plan);
-    EXPECT_EQ(outcome.status, 0) << outcome.output.toStdString();
+    const QString refused = u"command MAKELINESTYLE\ndialog Dlg_QT_MakeLineStyle\nset Linetypefile %1\nset name %2\n"
+                            "click acceptButton\nexpect-printed A linetype cannot be named %3.\nexpect-modified no\n"_s;
+    plays(refused.arg(file, u"a,b"_s, u"A,B"_s) + refused.arg(file, u"ByLayer"_s, u"BYLAYER"_s));
     EXPECT_FALSE(QFile::exists(file));
 }
 

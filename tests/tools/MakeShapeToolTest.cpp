@@ -17,11 +17,6 @@ struct Point
     double y = 0;
 };
 
-double distance(Point a, Point b)
-{
-    return std::hypot(a.x - b.x, a.y - b.y);
-}
-
 /// A line, or with a bulge (the tangent of a quarter of its angle) an arc.
 struct Stroke
 {
@@ -57,7 +52,7 @@ double farthest(const std::vector<Point> &points, const std::vector<Point> &othe
     for (const Point point : points) {
         double least = HUGE_VAL;
         for (const Point other : others)
-            least = std::min(least, distance(point, other));
+            least = std::min(least, std::hypot(point.x - other.x, point.y - other.y));
         most = std::max(most, least);
     }
     return most;
@@ -114,11 +109,6 @@ private:
             strokes.push_back({m_at, to, bulge});
         m_at = to;
     }
-    void circle(double radius)
-    {
-        go(-2 * radius, 0, 1);
-        go(2 * radius, 0, 1);
-    }
     void step(int code)
     {
         static const double sides[] = {1, 1, 1, 0.5, 0, -0.5, -1, -1, -1, -1, -1, -0.5, 0, 0.5, 1, 1};
@@ -128,10 +118,8 @@ private:
             m_isDown = code == 1;
             return;
         case 3:
-            m_scale /= take();
-            return;
         case 4:
-            m_scale *= take();
+            m_scale *= std::pow(take(), code == 3 ? -1 : 1);
             return;
         case 8:
         case 12: {
@@ -150,7 +138,8 @@ private:
         case 10: {
             const int radius = take();
             EXPECT_EQ(take(), 0) << "all octants from the right";
-            return circle(radius);
+            go(-2 * radius, 0, 1);
+            return go(2 * radius, 0, 1);
         }
         default:
             EXPECT_GE(code, 16) << "no code of a shape";
@@ -165,7 +154,7 @@ private:
     double m_scale = 1;
 };
 
-class MakeShapeTool : public testing::Test
+class MakeShapeTool : public ToolTest
 {
 protected:
     static QString confirmed(const QString &file, const QString &resolution, const QString &name = u"new"_s,
@@ -177,8 +166,6 @@ protected:
     }
     static QString picked(const QString &base) { return u"window 90,-20 140,30\nenter\npoint %1\n"_s.arg(base); }
 
-    ToolRun run;
-    QString plan = ToolRun::sample(u"plan.dxf"_s);
     QString file = run.path(u"my.shp"_s);
     const QString line = u"lisp (entmake '((0 . \"LINE\") (10 100.0 0.0 0.0) (11 110.0 0.0 0.0)))\n"_s;
 };
@@ -186,82 +173,59 @@ protected:
 TEST_F(MakeShapeTool, TheBytesDrawWhatWasPicked)
 {
     const double quarter = std::tan(M_PI / 8);
+    std::vector<Stroke> rays;
+    for (const double x : {-9, -7, -3, 0, 2, 6, 9})
+        for (const double y : {-9, 0, 5, 9})
+            rays.push_back({{10, 0}, {10 + x, y}});
     const struct
     {
         const char *what;
         const char *entities; ///< drawn around 100,0
+        Point base;
         std::vector<Stroke> strokes;
-        QString base;
-        double size; ///< of the longer side
     } rows[] = {
-        {"a line",
-         "(made '((0 . \"LINE\") (10 100.0 0.0 0.0) (11 110.0 5.0 0.0)))",
-         {{{0, 0}, {10, 5}}},
-         u"100,0"_s,
-         10},
-        {"in all directions",
+        {"lines in all directions",
          "(foreach x '(-9.0 -7.0 -3.0 0.0 2.0 6.0 9.0) (foreach y '(-9.0 0.0 5.0 9.0) (made (list '(0 . \"LINE\") "
          "'(10 110.0 0.0 0.0) (list 11 (+ 110.0 x) y 0.0)))))",
-         [] {
-             std::vector<Stroke> rays;
-             for (const double x : {-9, -7, -3, 0, 2, 6, 9})
-                 for (const double y : {-9, 0, 5, 9})
-                     rays.push_back({{10, 0}, {10 + x, y}});
-             return rays;
-         }(),
-         u"100,0"_s, 18},
+         {0, 0},
+         rays},
         {"an arc of three quarters",
          "(made (list '(0 . \"ARC\") '(10 110.0 0.0 0.0) '(40 . 8.0) '(50 . 0.0) (cons 51 (* 1.5 pi))))",
-         {{{18, 0}, {10, 8}, quarter}, {{10, 8}, {2, 0}, quarter}, {{2, 0}, {10, -8}, quarter}},
-         u"100,0"_s,
-         16},
+         {0, 0},
+         {{{18, 0}, {10, 8}, quarter}, {{10, 8}, {2, 0}, quarter}, {{2, 0}, {10, -8}, quarter}}},
         {"a circle",
          "(made '((0 . \"CIRCLE\") (10 110.0 0.0 0.0) (40 . 8.0)))",
-         {{{18, 0}, {2, 0}, 1}, {{2, 0}, {18, 0}, 1}},
-         u"110,0"_s,
-         16},
+         {10, 0},
+         {{{18, 0}, {2, 0}, 1}, {{2, 0}, {18, 0}, 1}}},
         {"a closed polyline with bulges to both sides",
-         "(made '((0 . \"LWPOLYLINE\") (100 . \"AcDbEntity\") (100 . \"AcDbPolyline\") (90 . 3) (70 . 1) (10 100.0 "
-         "0.0) "
-         "(42 . 0.5) (10 110.0 0.0) (42 . -0.3) (10 105.0 9.0) (42 . 1.5)))",
-         {{{0, 0}, {10, 0}, 0.5}, {{10, 0}, {5, 9}, -0.3}, {{5, 9}, {0, 0}, 1.5}},
-         u"100,0"_s,
-         0},
+         "(made '((0 . \"LWPOLYLINE\") (100 . \"AcDbEntity\") (100 . \"AcDbPolyline\") (90 . 3) (70 . 1) "
+         "(10 100.0 0.0) (42 . 0.5) (10 110.0 0.0) (42 . -0.3) (10 105.0 9.0) (42 . 1.5)))",
+         {0, 0},
+         {{{0, 0}, {10, 0}, 0.5}, {{10, 0}, {5, 9}, -0.3}, {{5, 9}, {0, 0}, 1.5}}},
         {"the pen is lifted, and lines are turned round",
-         "(foreach x '(0.0 3.0 7.0) (made (list '(0 . \"LINE\") (list 10 (+ 100.0 x) 0.0 0.0) (list 11 (+ 100.0 x) "
-         "10.0 "
-         "0.0))))",
-         {{{0, 0}, {0, 10}}, {{3, 0}, {3, 10}}, {{7, 0}, {7, 10}}},
-         u"105,5"_s,
-         10},
+         "(foreach x '(0.0 3.0 7.0) (made (list '(0 . \"LINE\") (list 10 (+ 100.0 x) 0.0 0.0) "
+         "(list 11 (+ 100.0 x) 10.0 0.0))))",
+         {5, 5},
+         {{{0, 0}, {0, 10}}, {{3, 0}, {3, 10}}, {{7, 0}, {7, 10}}}},
     };
     for (const auto &row : rows) {
-        for (const int resolution : {12, 100, 255}) {
+        std::vector<Point> expected = sampled(row.strokes);
+        const auto [left, right] = std::ranges::minmax(expected, {}, &Point::x);
+        const auto [low, high] = std::ranges::minmax(expected, {}, &Point::y);
+        const double size = std::max(right.x - left.x, high.y - low.y);
+        for (Point &point : expected)
+            point = {(point.x - row.base.x) / size, (point.y - row.base.y) / size};
+        for (const int resolution : {12, 255}) {
             SCOPED_TRACE(std::string(row.what) + ", " + std::to_string(resolution));
             QFile::remove(file);
-            const RunOutcome outcome =
-                run.play(u"lisp (defun made (data) (if (not (entmake data)) (exit)))\nlisp %1\n"_s.arg(
-                             QLatin1StringView(row.entities)) +
-                             confirmed(file, QString::number(resolution)) + picked(row.base) +
-                             u"expect-printed Shape NEW, number 1,\n"_s,
-                         plan);
-            ASSERT_EQ(outcome.status, 0) << outcome.output.toStdString();
+            plays(u"lisp (defun made (data) (if (not (entmake data)) (exit)))\nlisp %1\n"_s.arg(
+                      QLatin1StringView(row.entities)) +
+                  confirmed(file, QString::number(resolution)) +
+                  picked(u"%1,%2"_s.arg(100 + row.base.x).arg(row.base.y)) +
+                  u"expect-printed Shape NEW, number 1,\n"_s);
             const QList<Shape> shapes = shapesOf(ToolRun::readFile(file));
             ASSERT_EQ(shapes.size(), 1);
             EXPECT_EQ(shapes[0].header, (QList<QByteArray>{"1", QByteArray::number(shapes[0].bytes.size()), "NEW"}));
-            EXPECT_LE(shapes[0].bytes.size(), 2000);
-
-            std::vector<Point> expected = sampled(row.strokes);
-            double size = row.size;
-            if (size == 0) { // as wide or high as its arcs reach
-                const auto [left, right] = std::ranges::minmax(expected, {}, &Point::x);
-                const auto [low, high] = std::ranges::minmax(expected, {}, &Point::y);
-                size = std::max(right.x - left.x, high.y - low.y);
-            }
-            const double baseX = row.base.section(u',', 0, 0).toDouble() - 100;
-            const double baseY = row.base.section(u',', 1, 1).toDouble();
-            for (Point &point : expected)
-                point = {(point.x - baseX) / size, (point.y - baseY) / size};
             const std::vector<Point> drawn = sampled(Plotter(shapes[0].bytes).strokes);
             // An end lies off by up to 0.71 steps, an arc's middle by a quarter of a step more.
             const double tolerance = 1.0 / resolution + 0.01;
@@ -269,16 +233,6 @@ TEST_F(MakeShapeTool, TheBytesDrawWhatWasPicked)
             EXPECT_LE(farthest(drawn, expected), tolerance);
         }
     }
-}
-
-TEST_F(MakeShapeTool, SampleSessionMakesAShapeAndLeavesTheDrawing)
-{
-    const RunOutcome outcome = run.playFile(ToolRun::sample(u"sessions/makeshape.session"_s), plan);
-    ASSERT_EQ(outcome.status, 0) << outcome.output.toStdString();
-    const QList<Shape> shapes = shapesOf(ToolRun::readFile(run.path(u"home/plan.shp"_s)));
-    ASSERT_EQ(shapes.size(), 1);
-    EXPECT_EQ(shapes[0].header, (QList<QByteArray>{"1", QByteArray::number(shapes[0].bytes.size()), "DOOR"}));
-    EXPECT_FALSE(QFile::exists(run.result(plan)));
 }
 
 TEST_F(MakeShapeTool, NumbersAndReplacesInFilesThatAreThere)
@@ -301,13 +255,12 @@ TEST_F(MakeShapeTool, NumbersAndReplacesInFilesThatAreThere)
          "*1,2,A\n16,0\n%\n;; c\n*9,2,C\n16,0", u"nEw"_s, "07", true},
     };
     for (const auto &row : rows) {
+        SCOPED_TRACE(row.what);
         run.writeFile(u"my.shp"_s, row.before);
-        const RunOutcome outcome =
-            run.play(line + confirmed(file, u"10"_s, row.name, row.isReplaced) + picked(u"100,0"_s), plan);
-        ASSERT_EQ(outcome.status, 0) << row.what << outcome.output.toStdString();
+        plays(line + confirmed(file, u"10"_s, row.name, row.isReplaced) + picked(u"100,0"_s));
         QByteArray expected = row.after;
         expected.replace("%", "*" + row.number + ",6,NEW\n3,10,160,4,10,0\n");
-        EXPECT_EQ(ToolRun::readFile(file), expected) << row.what;
+        EXPECT_EQ(ToolRun::readFile(file), expected);
     }
 }
 
@@ -319,47 +272,39 @@ TEST_F(MakeShapeTool, WhatCannotBeAShapeIsSaidAndNothingIsWritten)
     QByteArray full;
     for (int number = 1; number <= 255; ++number)
         full += "*" + QByteArray::number(number) + ",2,N" + QByteArray::number(number) + "\n16,0\n";
+    const QString atStart = picked(u"100,0"_s);
     const struct
     {
-        const char *what;
-        QString drawn;
-        QString resolution;
-        QString name;
-        QByteArray before;
-        QString answers;
         QString message;
+        QString answers = {}; ///< behind the dialog
+        QByteArray before = {};
+        QString name = u"new"_s;
+        QString resolution = u"10"_s;
+        QString drawn = u"lisp (entmake '((0 . \"LINE\") (10 100.0 0.0 0.0) (11 110.0 0.0 0.0)))\n"_s;
     } rows[] = {
-        {"no number", line, u"fine"_s, u"new"_s, {}, {}, u"The resolution must be a whole number from 1 to 255."_s},
-        {"nothing fits", line, u"0"_s, u"new"_s, {}, {}, u"The resolution must be"_s},
-        {"too fine", line, u"256"_s, u"new"_s, {}, {}, u"The resolution must be"_s},
-        {"no whole number", line, u"1.5"_s, u"new"_s, {}, {}, u"The resolution must be"_s},
-        {"bad name", line, u"10"_s, u"a,b"_s, {}, {}, u"A shape cannot be named A,B."_s},
-        {"a name in other letters", line, u"10"_s, u"tür"_s, {}, {}, u"A shape cannot be named TÜR."_s},
-        {"too many bytes", manyLines, u"255"_s, u"new"_s, {}, picked(u"100,0"_s), u"2000 are the most"_s},
-        {"far away", line, u"10"_s, u"new"_s, {}, picked(u"99999,0"_s), u"The insertion point is too far away"_s},
-        {"no free number", line, u"10"_s, u"new"_s, full, picked(u"100,0"_s), u"The file has no free number left"_s},
-        {"a font", line, u"10"_s, u"new"_s, "*0,4,txt\n6,2,0,0\n", picked(u"100,0"_s), u"is a text font"_s},
-        {"no shape source", line, u"10"_s, u"new"_s, "Dear reader,\n", picked(u"100,0"_s),
-         u"does not look like a file of definitions"_s},
-        {"cancelled at the selection", line, u"10"_s, u"new"_s, {}, u"cancel\n"_s, u"Select lines"_s},
-        {"cancelled at the point",
-         line,
-         u"10"_s,
-         u"new"_s,
-         {},
-         u"window 90,-20 140,30\nenter\ncancel\n"_s,
-         u"Specify insertion point"_s},
+        {u"The resolution must be a whole number from 1 to 255."_s, {}, {}, u"new"_s, u"fine"_s},
+        {u"The resolution must be"_s, {}, {}, u"new"_s, u"0"_s},
+        {u"The resolution must be"_s, {}, {}, u"new"_s, u"256"_s},
+        {u"The resolution must be"_s, {}, {}, u"new"_s, u"1.5"_s},
+        {u"A shape cannot be named A,B."_s, {}, {}, u"a,b"_s},
+        {u"A shape cannot be named TÜR."_s, {}, {}, u"tür"_s},
+        {u"2000 are the most"_s, atStart, {}, u"new"_s, u"255"_s, manyLines},
+        {u"The insertion point is too far away"_s, picked(u"99999,0"_s)},
+        {u"The file has no free number left"_s, atStart, full},
+        {u"is a text font"_s, atStart, "*0,4,txt\n6,2,0,0\n"},
+        {u"does not look like a file of definitions"_s, atStart, "Dear reader,\n"},
+        {u"Select lines"_s, u"cancel\n"_s},
+        {u"Specify insertion point"_s, u"window 90,-20 140,30\nenter\ncancel\n"_s},
     };
     for (const auto &row : rows) {
+        SCOPED_TRACE(row.message.toStdString());
         QFile::remove(file);
         if (!row.before.isNull())
             run.writeFile(u"my.shp"_s, row.before);
-        const RunOutcome outcome = run.play(row.drawn + confirmed(file, row.resolution, row.name) + row.answers +
-                                                u"expect-printed %1\n"_s.arg(row.message),
-                                            plan);
-        EXPECT_EQ(outcome.status, 0) << row.what << ": " << outcome.output.toStdString();
-        EXPECT_EQ(ToolRun::readFile(file), row.before) << row.what;
-        EXPECT_EQ(QFile::exists(file), !row.before.isNull()) << row.what;
+        plays(row.drawn + confirmed(file, row.resolution, row.name) + row.answers +
+              u"expect-printed %1\n"_s.arg(row.message));
+        EXPECT_EQ(ToolRun::readFile(file), row.before);
+        EXPECT_EQ(QFile::exists(file), !row.before.isNull());
     }
 }
 
@@ -374,8 +319,7 @@ TEST_F(MakeShapeTool, LargeSourcesStayAsTheyAre)
     source.replace("*UNIFONT,6,azomix", "*254,6,SIGN");
     source.truncate(source.size() - 1);
     run.writeFile(u"my.shp"_s, source);
-    const RunOutcome outcome = run.play(line + confirmed(file, u"10"_s) + picked(u"100,0"_s), plan);
-    ASSERT_EQ(outcome.status, 0) << outcome.output.toStdString();
+    plays(line + confirmed(file, u"10"_s) + picked(u"100,0"_s));
     const bool endsInLineFeed = source.endsWith('\n');
     EXPECT_TRUE(ToolRun::readFile(file) == source + (endsInLineFeed ? "" : "\n") + "*1,6,NEW\n3,10,160,4,10,0\n");
 }

@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-class OptionDialogs : public testing::Test
+class OptionDialogs : public ToolTest
 {
 protected:
     OptionDialogs() { QDir().mkpath(run.path(u"home/Ortakit"_s)); }
@@ -27,9 +27,6 @@ protected:
             drawing);
     }
     QByteArray state() const { return ToolRun::readFile(run.stateFile(u"sample"_s)); }
-
-    ToolRun run;
-    QString plan = ToolRun::sample(u"plan.dxf"_s);
 };
 
 TEST_F(OptionDialogs, BringTheirChoicesBack)
@@ -86,7 +83,8 @@ TEST_F(OptionDialogs, BringTheirChoicesBack)
 TEST_F(OptionDialogs, CancellingLeavesTheStateFileAndTheDrawing)
 {
     const QString odd = u"type_mask=TRUE\r\nodd line\n\noffset=1"_s;
-    const std::pair<QString, QString> dialogs[] = {{u"Dlg_TextFrame"_s, u"Dlg_QT_TextFrame"_s},
+    const std::pair<QString, QString> dialogs[] = {{u"Dlg_BreakLine"_s, u"Dlg_QT_Breakline"_s},
+                                                   {u"Dlg_TextFrame"_s, u"Dlg_QT_TextFrame"_s},
                                                    {u"Dlg_TextMask"_s, u"Dlg_QT_TextMask"_s},
                                                    {u"Dlg_NumberText"_s, u"Dlg_QT_numbertext"_s},
                                                    {u"Dlg_MultiViewSetup"_s, u"Dlg_QT_MultiViewSetup"_s}};

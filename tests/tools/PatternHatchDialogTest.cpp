@@ -8,7 +8,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-class PatternHatchDialog : public testing::Test
+class PatternHatchDialog : public ToolTest
 {
 protected:
     /// Calls the function in `mode` when the program has put `changes`, a list of Lisp pairs, into the state file.
@@ -30,8 +30,6 @@ protected:
         return QString::fromUtf8(content.mid(3)).split(u'\n');
     }
 
-    ToolRun run;
-    QString plan = ToolRun::sample(u"plan.dxf"_s);
     QString zigzag = ToolRun::sample(u"zigzag.dxf"_s);
 };
 
@@ -57,8 +55,7 @@ TEST_F(PatternHatchDialog, LoopsBetweenDialogAndProgram)
 
         called(u"EDIT"_s, u"(\"qtentities\" . \"0\")"_s) +
         u"expect-enabled acceptButton no\nclick ButtonCancel\nexpect-lisp (null result)\nexpect-modified no\n"_s;
-    const RunOutcome outcome = run.play(session, plan);
-    ASSERT_EQ(outcome.status, 0) << outcome.output.toStdString();
+    plays(session);
 
     const auto written = [](const QStringList &own) {
         return u"pattern_block=TRUE\n%1\npattern_image=FALSE\npattern_xref=FALSE\npattern_mask=FALSE\n"
@@ -94,8 +91,7 @@ TEST_F(PatternHatchDialog, FavouritesOutliveTheProgram)
                          "expect-items Cb_Favorits \"\"\nexpect-enabled Btn_Erase no\nclick ButtonCancel\n"_s;
     const QString gone = called(u"NEW"_s, {}) + u"expect-items Cb_Favorits \"\"\nclick ButtonCancel\n"_s;
     for (const QString &session : {saved, used, gone}) {
-        const RunOutcome outcome = run.play(session, plan);
-        ASSERT_EQ(outcome.status, 0) << outcome.output.toStdString();
+        plays(session);
     }
     EXPECT_TRUE(lines(1).contains(u"cb_favorits=Six corners"_s));
 }

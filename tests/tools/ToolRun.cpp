@@ -85,6 +85,12 @@ QString ToolRun::result(const QString &drawing) const
     return path(u"out/"_s + QFileInfo(drawing).completeBaseName() + u".dxf"_s);
 }
 
+void ToolTest::plays(const QString &session, const QString &drawing) const
+{
+    const RunOutcome outcome = run.play(session, drawing.isEmpty() ? plan : drawing);
+    EXPECT_EQ(outcome.status, 0) << outcome.output.toStdString();
+}
+
 QString runPython(const QStringList &arguments)
 {
     // Debian's interpreter by its path: another one that comes first does not know Debian's packages.

@@ -36,22 +36,19 @@ private:
     QTemporaryDir m_folder;
 };
 
-/// What Python with an independent reader of drawings prints, on both streams, for these arguments.
-QString runPython(const QStringList &arguments);
-
-/// Plays sessions over the sample plan.
-class SessionTest : public testing::Test
+/// Tools played over a sample drawing.
+class ToolTest : public testing::Test
 {
 protected:
-    void plays(const QString &session)
-    {
-        const RunOutcome outcome = run.play(session, plan);
-        EXPECT_EQ(outcome.status, 0) << outcome.output.toStdString();
-    }
+    /// Plays `session` over `drawing`, the plan when there is none, and expects that it ends well.
+    void plays(const QString &session, const QString &drawing = {}) const;
 
     ToolRun run;
-    QString plan = ToolRun::sample(QStringLiteral("plan.dxf"));
+    const QString plan = ToolRun::sample(QStringLiteral("plan.dxf"));
 };
+
+/// What Python with an independent reader of drawings prints, on both streams, for these arguments.
+QString runPython(const QStringList &arguments);
 
 /// Whether an independent reader finds no error in the drawing; its complaints are the message.
 testing::AssertionResult isSound(const QString &drawing);

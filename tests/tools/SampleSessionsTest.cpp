@@ -1,0 +1,96 @@
+#include "tests/support/QtTestPrinters.h"
+#include "tests/tools/ToolRun.h"
+
+#include <QDir>
+#include <QMap>
+
+#include <gtest/gtest.h>
+
+using namespace tools_test;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class SampleSessions : public ToolTest
+{
+protected:
+    /// What differs in the result, each kind of change once with its number; empty when nothing was saved.
+    QString changes() const
+    {
+        if (!QFile::exists(run.result(plan)))
+            return {};
+        EXPECT_TRUE(isSound(run.result(plan)));
+        QMap<QString, int> counts;
+        for (const QString &change : differences(plan, run.result(plan)))
+            ++counts[change];
+        QStringList texts;
+        for (auto count = counts.cbegin(); count != counts.cend(); ++count)
+            texts.append(u"%1%2"_s.arg(count.value()).arg(count.key()));
+        return texts.join(u' ');
+    }
+};
+
+// What the manual shows a new user: every session runs and leaves what it says in the drawing and beside it.
+TEST_F(SampleSessions, ChangeWhatTheySayAndNothingElse)
+{
+    const QString furniture = u"6+BLOCK 6+BLOCK_RECORD 5+CIRCLE 6+ENDBLK 9+INSERT 18+LINE 7+LWPOLYLINE 1~$HANDSEED"_s;
+    const struct
+    {
+        QString name;
+        QString changes; ///< of the drawing
+        QString file;    ///< in the user's home
+        QByteArray holds;
+    } rows[] = {
+        // The door's line and arc and the piece behind the break; the symbol's five lines, and likewise.
+        {u"breakline-create"_s, u"1+ARC 1+BLOCK 1+BLOCK_RECORD 1+ENDBLK 1+INSERT 2+LINE 1~$HANDSEED 1~LINE"_s,
+         u"Ortakit/BreakLine/door.dwg"_s, "SECTION"},
+        {u"breakline"_s, u"1+BLOCK 1+BLOCK_RECORD 1+ENDBLK 1+INSERT 6+LINE 1~$HANDSEED 1~LINE"_s,
+         u"Ortakit/breakline.state"_s, "_dist_size="},
+        {u"dimstyleexport"_s, {}, u"standard.dim"_s, "END_OF_STYLE\r\n"},
+        {u"dimstyleimport"_s, u"2+DIMSTYLE 1+LTYPE 1+STYLE 1~$HANDSEED"_s, u"standard.dim"_s, "END_OF_STYLE\r\n"},
+        {u"editalias"_s, u"1+LINE 1~$HANDSEED"_s, u"alias.xml"_s, "<record command=\"LINE\" alias=\"QQ\"/>"},
+        {u"lispdump"_s, {}, u"alias.xml"_s, "QQ"},
+        {u"lispexplorer"_s, {}, u"alias.xml"_s, "QQ"},
+        {u"makelinestyle"_s, u"2+LINE 1+LTYPE 1+POINT 1+TEXT 1~$HANDSEED"_s, u"pipes.lin"_s,
+         "*GAS,Gas pipe ---- GAS . ---- GAS .\nA,1,-1.2,[\"GAS\",Standard,S=0.2,R=0,X=-1,Y=-0.1],0,-0.3\n"},
+        {u"makeshape"_s, {}, u"plan.shp"_s, ",DOOR\n"},
+        {u"replaceblock"_s, furniture, u"Ortakit/replaceblock.state"_s,
+         "\xEF\xBB\xBF"
+         "blockstable=TREE^\n!action!=OK\nblockstablerep=BUSH^\npurgeitems=TRUE\nattsync=TRUE\n"},
+        {u"replaceblocktoxref"_s, furniture, u"Ortakit/replaceblocktoxref.state"_s,
+         "\xEF\xBB\xBF"
+         "blockstable=12^\n!action!=OK\ndirectory="},
+    };
+    QStringList names;
+    for (const auto &row : rows) {
+        SCOPED_TRACE(row.name.toStdString());
+        QDir(run.path(u"out"_s)).removeRecursively();
+        const RunOutcome outcome = run.playFile(ToolRun::sample(u"sessions/%1.session"_s.arg(row.name)), plan);
+        EXPECT_EQ(outcome.status, 0) << outcome.output.toStdString();
+        EXPECT_EQ(changes(), row.changes);
+        const QByteArray written = ToolRun::readFile(run.path(u"home/"_s + row.file));
+        EXPECT_TRUE(written.contains(row.holds)) << written.toStdString();
+        names.append(row.name + u".session"_s);
+    }
+    EXPECT_EQ(QDir(ToolRun::sample(u"sessions"_s)).entryList({u"*.session"_s}, QDir::Files, QDir::Name), names);
+    EXPECT_TRUE(isSound(run.path(u"home/Ortakit/BreakLine/door.dwg"_s)))
+        << "a new symbol, as this host writes drawings";
+    EXPECT_TRUE(QDir(run.path(u"home/Ortakit"_s)).entryList({u"*.catalogue"_s}).isEmpty()) << "the catalogue goes";
+}
+
+TEST_F(SampleSessions, CancelledCommandsChangeNothing)
+{
+    const std::pair<QString, QString> commands[] = {{u"BREAKLINE"_s, u"Dlg_QT_Breakline"_s},
+                                                    {u"DIMSTYLEEXPORT"_s, u"Dlg_QT_ExchangedDimensionStyle"_s},
+                                                    {u"DIMSTYLEIMPORT"_s, u"Dlg_QT_ImportDimensionStyle"_s},
+                                                    {u"EDITALIAS"_s, u"Dlg_QT_EditAlias"_s},
+                                                    {u"MAKELINESTYLE"_s, u"Dlg_QT_MakeLineStyle"_s},
+                                                    {u"MAKESHAPE"_s, u"Dlg_QT_MakeShape"_s}};
+    QString session;
+    for (const auto &[command, dialog] : commands)
+        session += u"command %1\ndialog %2\nclose\nexpect-modified no\n"_s.arg(command, dialog);
+    plays(session);
+    EXPECT_FALSE(QFile::exists(run.path(u"home/Ortakit/dimstyleexport.dim"_s)));
+}
+
+} // namespace
