@@ -102,16 +102,4 @@ TEST_F(EditorReactor, EveryRecordOfTheDocumentCounts)
     EXPECT_NEAR(hours(2), 1, 1e-9);
 }
 
-TEST_F(EditorReactor, CountsForAnyKindOfEditorReactor)
-{
-    OdEditorReactor *added = &m_reactor;
-    auto *commands = dynamic_cast<OdEdCommandStackReactor *>(added);
-    auto *lisp = dynamic_cast<OdEdLispEngineReactor *>(added);
-    ASSERT_TRUE(commands && lisp);
-    commands->commandWillStart(nullptr, nullptr);
-    now += hour;
-    lisp->lispWillStart(nullptr, {});
-    EXPECT_NEAR(hours(1), 2, 1e-9);
-}
-
 } // namespace

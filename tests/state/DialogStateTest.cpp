@@ -59,19 +59,6 @@ TEST_F(DialogStateTest, EveryWidgetOfADialogIsWrittenInOrder)
     EXPECT_EQ(FakeHost::readFile(host.path(u"state"_s)), expected);
 }
 
-TEST_F(DialogStateTest, AnIntegerBoxKeepsWhatWasLoadedAndIsNeverWritten)
-{
-    Gallery gallery;
-    DialogState all(&gallery);
-    all.load(host.writeFile(u"state"_s, "sp_whole=42\n"));
-    all.apply();
-    EXPECT_EQ(gallery.whole->value(), 42);
-    all.save();
-    const QByteArray written = FakeHost::readFile(host.path(u"state"_s));
-    EXPECT_FALSE(written.contains("sp_whole"));
-    EXPECT_TRUE(written.contains("qt_spinbox_lineedit=42\n"));
-}
-
 TEST_F(DialogStateTest, TheActionFollowsTheFirstWidgetAndItsIndex)
 {
     QComboBox box(&dialog);

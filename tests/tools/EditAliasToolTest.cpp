@@ -20,11 +20,4 @@ TEST_F(EditAliasTool, AnAliasMayRunATool)
           "expect-modified no\n"_s);
 }
 
-TEST_F(EditAliasTool, CancellingAndRefusedAliasesLeaveTheFile)
-{
-    plays(u"command EDITALIAS\ndialog Dlg_QT_EditAlias\nclick btnAdd\ncell lstAlias 0 0 arc\ncell lstAlias 0 1 c\n"
-          "message \"This alias already begin used for other command.\" Ok\n"
-          "cell lstAlias 0 1 xx\nclick ButtonCancel\ncommand XX\nexpect-error \"Unknown command\"\n"_s);
-}
-
 } // namespace
