@@ -158,19 +158,6 @@ TEST_F(RunDialog, AcceptingSavesCancellingLeavesTheFile)
     EXPECT_EQ(m_dialogs.value(0), m_dialogs.value(1)) << "the same dialog comes back";
 }
 
-TEST_F(RunDialog, EachDocumentHasItsOwnDialog)
-{
-    userAccepts(u"gate"_s);
-    call(u"plain"_s, {stateFile("name=door\n")});
-    addDocument(*m_host.documents().open());
-    userAccepts(u"fence"_s);
-    call(u"plain"_s, {m_host.path(u"none.txt"_s)});
-    ASSERT_EQ(m_dialogs.size(), 2);
-    EXPECT_NE(m_dialogs[0], m_dialogs[1]);
-    EXPECT_EQ(m_found, (QStringList{u"door"_s, u""_s}));
-    EXPECT_EQ(m_dialogs[0]->name->text(), u"gate");
-}
-
 TEST_F(RunDialog, ArgumentsAreChecked)
 {
     const struct
