@@ -8,4 +8,7 @@ namespace ortakit {
 /// in the order of the user's language. Rows with equal fields keep their order; a missing field counts as empty.
 void sortRows(QStringList &rows, QChar separator, int column, Qt::SortOrder order);
 
+/// As above by the whole number in field `column`; what is none counts as 0.
+void sortRowsByNumber(QStringList &rows, QChar separator, int column, Qt::SortOrder order);
+
 } // namespace ortakit

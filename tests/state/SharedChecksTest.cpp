@@ -87,7 +87,7 @@ TEST(PathChecks, TheUserIsToldWhatIsWrong)
     }
 }
 
-TEST(RowSorting, SortsByTheTextOfAColumn)
+TEST(RowSorting, SortsByTheTextOrTheNumberOfAColumn)
 {
     const auto up = Qt::AscendingOrder;
     const auto down = Qt::DescendingOrder;
@@ -98,6 +98,7 @@ TEST(RowSorting, SortsByTheTextOfAColumn)
         int column;
         Qt::SortOrder order;
         QString expected;
+        void (*sort)(QStringList &, QChar, int, Qt::SortOrder) = sortRows;
     } table[] = {
         {"first column", u"b;1 a;2"_s, 0, up, u"a;2 b;1"_s},
         {"second column", u"a;2 b;1"_s, 1, up, u"b;1 a;2"_s},
@@ -108,10 +109,13 @@ TEST(RowSorting, SortsByTheTextOfAColumn)
         {"missing fields are empty", u"a;1 b c;0"_s, 1, up, u"b c;0 a;1"_s},
         {"numbers are text", u"10 9"_s, 0, up, u"10 9"_s},
         {"no such column", u"b a"_s, 3, up, u"b a"_s},
+        {"as numbers", u"a;10 b;9 c;-1"_s, 1, up, u"c;-1 b;9 a;10"_s, sortRowsByNumber},
+        {"numbers downwards", u"a;10 b;9 c;100"_s, 1, down, u"c;100 a;10 b;9"_s, sortRowsByNumber},
+        {"what is no number", u"a;1 b;x c"_s, 1, up, u"b;x c a;1"_s, sortRowsByNumber},
     };
     for (const auto &row : table) {
         QStringList rows = row.rows.split(u' ');
-        sortRows(rows, u';', row.column, row.order);
+        row.sort(rows, u';', row.column, row.order);
         EXPECT_EQ(rows.join(u' '), row.expected) << row.name;
     }
 }
