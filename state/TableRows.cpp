@@ -1,6 +1,7 @@
 #include "state/TableRows.h"
 
 #include <QHeaderView>
+#include <QItemSelectionModel>
 #include <QSignalBlocker>
 #include <QTableWidget>
 
@@ -19,6 +20,7 @@ void setHeaderForSorting(QTableWidget &table)
     const QHeaderView *header = table.horizontalHeader();
     QObject::disconnect(header, &QHeaderView::sectionPressed, &table, nullptr);
     QObject::disconnect(header, &QHeaderView::sectionEntered, &table, nullptr);
+    table.horizontalHeader()->setSelectionModel(new QItemSelectionModel(table.model(), &table));
     table.horizontalHeader()->setSortIndicatorShown(true);
 }
 
@@ -52,6 +54,7 @@ void setTableRows(QTableWidget &table, int rowCount, const std::function<QTableW
     if (isSorting)
         table.setSortingEnabled(true);
     table.setUpdatesEnabled(isUpdating);
+    table.viewport()->update();
 }
 
 } // namespace ortakit

@@ -14,8 +14,9 @@ namespace ortakit {
 /// "Name;Description", headed by it. The rows go.
 void setTableHeaders(QTableWidget &table, const QString &headers);
 
-/// For a table whose rows are sorted before they are put in: its header shows how, and a click on it is left to
-/// QHeaderView::sectionClicked(), where Qt would select the column.
+/// For a table whose rows are sorted by the program: its header shows how, and a click on it is left to
+/// QHeaderView::sectionClicked(), where Qt would select the column. The header does not show which columns are
+/// selected: Qt finds that out in time that grows with the square of the number of selected rows that are apart.
 void setHeaderForSorting(QTableWidget &table);
 
 /// Replaces the rows of `table`; what a row has beyond the table's columns is left out, what it lacks is empty text.

@@ -1,9 +1,12 @@
 #include "state/TableSelection.h"
 
 #include <QHash>
+#include <QItemSelectionModel>
+#include <QMap>
 #include <QTableWidget>
 
 #include <algorithm>
+#include <memory>
 
 namespace ortakit {
 
@@ -48,6 +51,21 @@ QItemSelection selectionOf(const QTableWidget &table, const QList<QTableWidgetIt
     return selection;
 }
 
+/// Takes the old selection away before it makes the new one.
+class QuickSelectionModel final : public QItemSelectionModel
+{
+public:
+    using QItemSelectionModel::QItemSelectionModel;
+    using QItemSelectionModel::select;
+
+    void select(const QItemSelection &selection, SelectionFlags command) override
+    {
+        if (command.testFlag(Clear) && !selection.isEmpty())
+            QItemSelectionModel::select(QItemSelection(), Clear);
+        QItemSelectionModel::select(selection, command);
+    }
+};
+
 int itemCount(const QTableWidget &table, int row, int firstColumn, int lastColumn)
 {
     int count = 0;
@@ -73,6 +91,14 @@ QItemSelection rangesOfRows(const QTableWidget &table, int firstColumn, int last
         begin = end;
     }
     return selection;
+}
+
+void makeNewSelectionsQuick(QTableWidget &table)
+{
+    const std::unique_ptr<QItemSelectionModel> old(table.selectionModel());
+    auto *model = new QuickSelectionModel(table.model(), &table);
+    table.setSelectionModel(model);
+    QObject::connect(model, &QItemSelectionModel::selectionChanged, &table, &QTableWidget::itemSelectionChanged);
 }
 
 QList<int> rowsWithSelection(const QTableWidget &table)
@@ -135,6 +161,36 @@ void selectRows(QTableWidget &table, const QList<int> &rows)
 {
     const QItemSelection selection = rangesOfRows(table, 0, table.columnCount() - 1, rows);
     table.selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
+}
+
+qsizetype selectedItemCount(const QTableWidget &table)
+{
+    qsizetype count = 0;
+    for (const QItemSelectionRange &range : table.selectionModel()->selection()) {
+        for (int row = range.top(); row <= range.bottom(); ++row)
+            count += itemCount(table, row, range.left(), range.right());
+    }
+    return count;
+}
+
+void moveSelection(QTableWidget &table, const std::vector<int> &newRows)
+{
+    QItemSelectionModel *model = table.selectionModel();
+    QMap<std::pair<int, int>, QList<int>> rowsByColumns;
+    for (const QItemSelectionRange &range : model->selection()) {
+        QList<int> &rows = rowsByColumns[{range.left(), range.right()}];
+        for (int row = range.top(); row <= range.bottom(); ++row)
+            rows.append(newRows[size_t(row)]);
+    }
+    QItemSelection selection;
+    for (auto rows = rowsByColumns.cbegin(); rows != rowsByColumns.cend(); ++rows)
+        selection.append(rangesOfRows(table, rows.key().first, rows.key().second, rows.value()));
+    const QModelIndex current = model->currentIndex();
+    // Otherwise each old range would be compared with each new one.
+    model->reset();
+    model->select(selection, QItemSelectionModel::Select);
+    if (current.isValid())
+        model->setCurrentIndex(current.siblingAtRow(newRows[size_t(current.row())]), QItemSelectionModel::NoUpdate);
 }
 
 } // namespace ortakit

@@ -4,6 +4,8 @@
 #include <QList>
 #include <QString>
 
+#include <vector>
+
 class QTableWidget;
 
 namespace ortakit {
@@ -23,6 +25,11 @@ void selectRows(QTableWidget &table, const QList<int> &rows);
 /// the selection model does with ranges grows with the square of their number.
 QItemSelection rangesOfRows(const QTableWidget &table, int firstColumn, int lastColumn, QList<int> rows);
 
+/// Lets the user select anew, as with a click, Shift or Ctrl+A, after many separate cells were selected: Qt compares
+/// each old range with each new one. To be called before anything is connected to the table's selection model; of the
+/// signals that QTableWidget makes from it, only itemSelectionChanged() remains.
+void makeNewSelectionsQuick(QTableWidget &table);
+
 // What Qt itself answers about a selection of many separate rows takes time that grows with the square of their number;
 // these grow with the number of selected cells.
 
@@ -35,5 +42,12 @@ QList<int> wholeSelectedRows(const QTableWidget &table);
 
 /// How many cells are selected.
 qsizetype selectedCellCount(const QTableWidget &table);
+
+/// How many of them have an item.
+qsizetype selectedItemCount(const QTableWidget &table);
+
+/// For each row of `table`, in this order, its new row: cells that are selected, and the current one, are so in their
+/// new rows. To be called when the rows have moved without the table's knowledge.
+void moveSelection(QTableWidget &table, const std::vector<int> &newRows);
 
 } // namespace ortakit
