@@ -47,6 +47,25 @@ OdResBufPtr stringList(const QStringList &strings)
     return list;
 }
 
+QList<QStringList> stringLists(const OdResBuf *rest)
+{
+    QList<QStringList> lists;
+    int depth = 0;
+    for (const OdResBuf *link = rest; link; link = link->next()) {
+        const int type = link->restype();
+        const bool opens = type == OdResBuf::kRtListBegin;
+        if (depth == 0 && (opens || type == OdResBuf::kRtNil))
+            lists.append(QStringList());
+        else if (depth > 0 && type == OdResBuf::kRtString)
+            lists.last().append(link->getString());
+        if (opens)
+            ++depth;
+        else if (depth > 0 && (type == OdResBuf::kRtListEnd || type == OdResBuf::kRtDottedPair))
+            --depth;
+    }
+    return lists;
+}
+
 void releaseArguments(CKvLispEngine &lisp, ExtraArguments extra)
 {
     OdResBuf *first = lisp.arguments();

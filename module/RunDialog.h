@@ -75,6 +75,10 @@ QStringList strings(const OdResBuf *rest);
 /// The chain that gives Lisp a list of strings.
 OdResBufPtr stringList(const QStringList &strings);
 
+/// The lists among the arguments from `rest` on, in their order, each with its strings; nil is an empty list. What is
+/// no string in a list is passed over, lists in lists give theirs to the outer one.
+QList<QStringList> stringLists(const OdResBuf *rest);
+
 /// Gives back what the function no longer needs of its arguments.
 void releaseArguments(CKvLispEngine &lisp, ExtraArguments extra);
 

@@ -277,4 +277,38 @@ TEST_F(RunDialog, ClosingTheDocumentEndsTheRun)
     EXPECT_EQ(DialogRegistry::instance().records().size(), 1u);
 }
 
+TEST(ArgumentLists, AreReadAsListsOfTheirStrings)
+{
+    constexpr int begin = OdResBuf::kRtListBegin;
+    constexpr int end = OdResBuf::kRtListEnd;
+    constexpr int dotted = OdResBuf::kRtDottedPair;
+    constexpr int nil = OdResBuf::kRtNil;
+    constexpr int string = OdResBuf::kRtString;
+    const struct
+    {
+        const char *name;
+        QList<int> types; ///< the strings are "0", "1" and so on by their place
+        QList<QStringList> lists;
+    } rows[] = {
+        {"nothing", {}, {}},
+        {"two", {begin, string, string, end, begin, string, end}, {{u"1"_s, u"2"_s}, {u"5"_s}}},
+        {"nil is empty", {nil, begin, string, end, nil}, {{}, {u"2"_s}, {}}},
+        {"loose strings", {string, begin, string, end, string}, {{u"2"_s}}},
+        {"nil and numbers in a list", {begin, nil, OdResBuf::kRtShort, string, end}, {{u"3"_s}}},
+        {"a list in a list", {begin, string, begin, string, end, string, end}, {{u"1"_s, u"3"_s, u"5"_s}}},
+        {"a dotted pair in a list", {begin, begin, string, string, dotted, string, end}, {{u"2"_s, u"3"_s, u"5"_s}}},
+        {"without an end", {begin, string}, {{u"1"_s}}},
+        {"an end too many", {end, begin, string, end}, {{u"2"_s}}},
+    };
+    for (const auto &row : rows) {
+        OdResBuf chain(OdResBuf::kRtString);
+        OdResBuf *last = &chain;
+        for (qsizetype place = 0; place < row.types.size(); ++place)
+            last = last->setNext(row.types[place] == string ? OdResBuf::newString(string, QString::number(place))
+                                                            : OdResBuf::newRb(row.types[place]));
+        EXPECT_EQ(stringLists(chain.next()), row.lists) << row.name;
+    }
+    EXPECT_EQ(test::chainText(stringList({u"a"_s, {}}).get()), u"( \"a\" \"\" )"_s);
+}
+
 } // namespace
