@@ -8,6 +8,7 @@
 #include "dialogs/edittextcase/Dlg_QT_EditTextCase.h"
 #include "dialogs/exportinfo/Dlg_QT_ExportInfo.h"
 #include "dialogs/exportsettings/Dlg_QT_ExportSettings.h"
+#include "dialogs/getblockinfo/Dlg_QT_GetBlockInfo.h"
 #include "dialogs/lispexplorer/Dlg_QT_LispExplorer.h"
 #include "dialogs/makelinestyle/Dlg_QT_MakeLineStyle.h"
 #include "dialogs/makeshape/Dlg_QT_MakeShape.h"
@@ -211,6 +212,15 @@ int dlgRedefinePaths()
          .takeExtra = [](Dlg_QT_RedefinePaths &dialog, const OdResBuf *rest) { dialog.setEntries(strings(rest)); },
          .giveResult = [](Dlg_QT_RedefinePaths &dialog,
                           CKvLispEngine &lisp) { lisp.returnList(stringList(dialog.entries())); }});
+}
+
+int dlgGetBlockInfo()
+{
+    return runDialog<Dlg_QT_GetBlockInfo>(
+        DialogSlot::BlockInformation,
+        {.extraArguments = ExtraArguments::List,
+         .takeExtra = [](auto &dialog, const OdResBuf *rest) { dialog.setEntries(stringLists(rest)); },
+         .giveResult = [](auto &dialog, auto &lisp) { lisp.returnList(stringList({dialog.resultText()})); }});
 }
 
 } // namespace ortakit

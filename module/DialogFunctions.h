@@ -24,6 +24,7 @@ int dlgExportSetting();
 int dlgExportInfo();
 int dlgShowLinks();
 int dlgRedefinePaths();
+int dlgGetBlockInfo();
 /// @}
 
 } // namespace ortakit

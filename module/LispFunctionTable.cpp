@@ -22,7 +22,7 @@ constexpr LispFunctionTable lispFunctionTable = {{
     function<"Dlg_LispExplorer", dlgLispExplorer>(),
     function<"Dlg_PatternHatch", dlgPatternHatch>(OnClose::Keep),
     function<"Dlg_BreakLine", dlgBreakLine>(),
-    function<"Dlg_getblockinfo">(),
+    function<"Dlg_getblockinfo", dlgGetBlockInfo>(),
     function<"Dlg_edittextcase", dlgEditTextCase>(),
     function<"Dlg_exportsetting", dlgExportSetting>(OnClose::Keep),
     function<"Dlg_replaceblock", dlgReplaceBlock>(),

@@ -8,6 +8,7 @@
 #include "dialogs/edittextcase/Dlg_QT_EditTextCase.h"
 #include "dialogs/exportinfo/Dlg_QT_ExportInfo.h"
 #include "dialogs/exportsettings/Dlg_QT_ExportSettings.h"
+#include "dialogs/getblockinfo/Dlg_QT_GetBlockInfo.h"
 #include "dialogs/lispexplorer/Dlg_QT_LispExplorer.h"
 #include "dialogs/makelinestyle/Dlg_QT_MakeLineStyle.h"
 #include "dialogs/makeshape/Dlg_QT_MakeShape.h"
@@ -76,6 +77,7 @@ constexpr Row rows[] = {
     row<Dlg_QT_ExportInfo>("ExportInfo", "9133"),
     row<Dlg_QT_ShowLinks>("ShowLinks", "0"),
     row<Dlg_QT_RedefinePaths>("RedefinePaths", "9107", "efr"),
+    row<Dlg_QT_GetBlockInfo>("GetBlockInfo", "9109"),
 };
 
 void PrintTo(const Row &row, std::ostream *out)
