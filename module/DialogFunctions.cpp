@@ -9,6 +9,7 @@
 #include "dialogs/exportinfo/Dlg_QT_ExportInfo.h"
 #include "dialogs/exportsettings/Dlg_QT_ExportSettings.h"
 #include "dialogs/getblockinfo/Dlg_QT_GetBlockInfo.h"
+#include "dialogs/importblockattributes/Dlg_QT_ImportBlockAttributes.h"
 #include "dialogs/lispexplorer/Dlg_QT_LispExplorer.h"
 #include "dialogs/makelinestyle/Dlg_QT_MakeLineStyle.h"
 #include "dialogs/makeshape/Dlg_QT_MakeShape.h"
@@ -221,6 +222,11 @@ int dlgGetBlockInfo()
         {.extraArguments = ExtraArguments::List,
          .takeExtra = [](auto &dialog, const OdResBuf *rest) { dialog.setEntries(stringLists(rest)); },
          .giveResult = [](auto &dialog, auto &lisp) { lisp.returnList(stringList({dialog.resultText()})); }});
+}
+
+int dlgImportAttributes()
+{
+    return runDialog<Dlg_QT_ImportBlockAttributes>(DialogSlot::ImportAttributes, {});
 }
 
 } // namespace ortakit

@@ -25,6 +25,7 @@ int dlgExportInfo();
 int dlgShowLinks();
 int dlgRedefinePaths();
 int dlgGetBlockInfo();
+int dlgImportAttributes();
 /// @}
 
 } // namespace ortakit

@@ -29,7 +29,7 @@ constexpr LispFunctionTable lispFunctionTable = {{
     function<"Dlg_replaceblocktoxref", dlgReplaceBlockToXref>(),
     function<"Dlg_convertsimplesnotes", dlgConvertSimplesNotes>(),
     function<"Dlg_makelinestyle", dlgMakeLineStyle>(),
-    function<"Dlg_imporAttributes">(),
+    function<"Dlg_imporAttributes", dlgImportAttributes>(),
     function<"Dlg_NumberText", dlgNumberText>(),
     function<"Dlg_TextFrame", dlgTextFrame>(),
     function<"Dlg_TextMask", dlgTextMask>(),

@@ -9,6 +9,7 @@
 #include "dialogs/exportinfo/Dlg_QT_ExportInfo.h"
 #include "dialogs/exportsettings/Dlg_QT_ExportSettings.h"
 #include "dialogs/getblockinfo/Dlg_QT_GetBlockInfo.h"
+#include "dialogs/importblockattributes/Dlg_QT_ImportBlockAttributes.h"
 #include "dialogs/lispexplorer/Dlg_QT_LispExplorer.h"
 #include "dialogs/makelinestyle/Dlg_QT_MakeLineStyle.h"
 #include "dialogs/makeshape/Dlg_QT_MakeShape.h"
@@ -78,6 +79,7 @@ constexpr Row rows[] = {
     row<Dlg_QT_ShowLinks>("ShowLinks", "0"),
     row<Dlg_QT_RedefinePaths>("RedefinePaths", "9107", "efr"),
     row<Dlg_QT_GetBlockInfo>("GetBlockInfo", "9109"),
+    row<Dlg_QT_ImportBlockAttributes>("ImportBlockAttributes", "9108"),
 };
 
 void PrintTo(const Row &row, std::ostream *out)

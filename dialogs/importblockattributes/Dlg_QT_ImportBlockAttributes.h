@@ -1,0 +1,79 @@
+#pragma once
+
+#include "state/ElidedPathField.h"
+#include "state/ToolDialog.h"
+
+#include <memory>
+
+class QTableWidgetItem;
+
+namespace Ui {
+class Dlg_QT_ImportBlockAttributes;
+}
+
+/// The block attribute import: a table of attributes from a text file, in whose selected cells texts can be replaced.
+/// The selected rows go to the Lisp program, which gives them to the blocks of the drawing: the state file has them
+/// under "attributes" in the form of ortakit::attributeText(), in place of what a table writes there.
+///
+/// Each showing reads the file again.
+class Dlg_QT_ImportBlockAttributes final : public ToolDialog
+{
+    Q_OBJECT
+
+public:
+    explicit Dlg_QT_ImportBlockAttributes(QWidget *parent = nullptr);
+    ~Dlg_QT_ImportBlockAttributes() override;
+
+protected:
+    void afterShow() override;
+    void keyPressEvent(QKeyEvent *event) override;
+
+private:
+    enum class Report
+    {
+        Told,
+        Silent,
+    };
+    /// What becomes of the table: row by row, null where a row has no cell.
+    using TableItems = std::vector<std::unique_ptr<QTableWidgetItem>>;
+    /// The new text of a cell.
+    struct Replacement
+    {
+        int row;
+        int column;
+        QString text;
+    };
+
+    void SelectFileAtt();
+    void fillAttributes();
+    void Select();
+    void SelectChanged();
+    void replace();
+    void ReadSelected();
+    void ClickHeaderTable(int column);
+
+    void setUpTable();
+    void connectWidgets();
+    void leaveFileField();
+    bool hasFile(Report report);
+    void takeFile(Report report);
+    bool readTable(const QString &path, Report report);
+    void showTable(const QStringList &headers, int rowCount, TableItems items);
+    void followSelection();
+    bool findReplacements(QList<Replacement> &replacements);
+    QStringList headers() const;
+    QStringList rowTexts(int row) const;
+
+    std::unique_ptr<Ui::Dlg_QT_ImportBlockAttributes> m_ui;
+    /// The file that the table is from.
+    QString m_acceptedFile;
+    /// Of the file that was chosen last.
+    QString m_folder;
+    /// The table is sorted by it; -1 for the order of the file.
+    int m_sortColumn = -1;
+    /// Cells that have an item.
+    qsizetype m_itemCount = 0;
+    /// The selection is changed by the dialog, which looks at it once afterwards.
+    bool m_isSelecting = false;
+    std::unique_ptr<ElidedPathField> m_file;
+};

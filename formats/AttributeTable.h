@@ -1,0 +1,44 @@
+#pragma once
+
+#include "formats/TextReading.h"
+
+#include <QStringList>
+
+namespace ortakit {
+
+/// Reads a table of block attributes: lines of fields with tabs between, the first line heads the columns.
+class AttributeTableReader
+{
+public:
+    /// Larger tables are refused: a few bytes a line would make a table that no memory holds.
+    static constexpr qsizetype mostColumns = 10'000;
+    static constexpr qsizetype mostCells = 20'000'000;
+
+    /// Reads the headers. `text` must outlive the reader.
+    explicit AttributeTableReader(QByteArrayView text);
+
+    /// Whether the table is beyond these limits. It is not to be read then.
+    bool isTooLarge() const;
+    /// One for each column; none for an empty text.
+    const QStringList &headers() const { return m_headers; }
+    /// How many times next() will find a row.
+    qsizetype rowCount() const { return m_rowCount; }
+
+    /// Goes to the next row; false at the end.
+    bool next() { return m_lines.next(); }
+    /// The fields of the row from the left: those beyond the last column are left out, and there are fewer than columns
+    /// when the line has fewer.
+    QStringList fields() const;
+
+private:
+    LineReader m_lines;
+    QStringList m_headers;
+    qsizetype m_columnCount = 0;
+    qsizetype m_rowCount = 0;
+};
+
+/// The headers and the rows as one text for a Lisp program: "^" between headers and rows and between rows, a tab
+/// between fields.
+QString attributeText(const QStringList &headers, const QList<QStringList> &rows);
+
+} // namespace ortakit
