@@ -1,5 +1,6 @@
 #include "state/TableOrder.h"
 
+#include "state/LongWork.h"
 #include "state/TableSelection.h"
 
 #include <QCollator>
@@ -10,7 +11,6 @@
 #include <QTableWidget>
 
 #include <algorithm>
-#include <numeric>
 
 namespace ortakit {
 
@@ -66,6 +66,52 @@ void moveItems(QTableWidget &table, const QList<int> &rows)
     }
 }
 
+struct KeyedRow
+{
+    QCollatorSortKey key;
+    int row;
+
+    bool operator<(const KeyedRow &other) const { return key < other.key; }
+};
+using KeyedRows = std::vector<KeyedRow>;
+
+/// As many rows are sorted in one step of the work.
+constexpr qsizetype stepLength = 256;
+
+/// False when the work was cancelled, as everywhere here.
+bool takeKeys(KeyedRows &rows, const QTableWidget &table, int column, LongWork &work)
+{
+    const QCollator collator;
+    rows.reserve(size_t(table.rowCount()));
+    for (int row = 0; row < table.rowCount(); ++row) {
+        if (!work.goesOn())
+            return false;
+        const QTableWidgetItem *item = table.item(row, column);
+        rows.push_back({collator.sortKey(item ? item->text().toCaseFolded() : QString()), row});
+    }
+    return true;
+}
+
+/// Sorts short pieces, and merges neighbours until there is one, so that the work can be left in between.
+bool sortInSteps(KeyedRows &rows, LongWork &work)
+{
+    const auto at = [&rows](qsizetype index) { return rows.begin() + std::min(index, qsizetype(rows.size())); };
+    const auto count = qsizetype(rows.size());
+    for (qsizetype begin = 0; begin < count; begin += stepLength) {
+        if (!work.goesOn())
+            return false;
+        std::stable_sort(at(begin), at(begin + stepLength));
+    }
+    for (qsizetype length = stepLength; length < count; length *= 2) {
+        for (qsizetype begin = 0; begin + length < count; begin += 2 * length) {
+            if (!work.goesOn())
+                return false;
+            std::inplace_merge(at(begin), at(begin + length), at(begin + 2 * length));
+        }
+    }
+    return true;
+}
+
 } // namespace
 
 void arrangeTableRows(QTableWidget &table, const QList<int> &rows)
@@ -101,23 +147,22 @@ void removeTableRows(QTableWidget &table, const QList<int> &rows)
     arrangeTableRows(table, kept);
 }
 
-void sortTableRows(QTableWidget &table, int column)
+bool sortTableRows(QTableWidget &table, int column, const QString &progressText)
 {
-    const QCollator collator;
-    std::vector<QCollatorSortKey> keys;
-    keys.reserve(std::size_t(table.rowCount()));
-    for (int row = 0; row < table.rowCount(); ++row) {
-        const QTableWidgetItem *item = table.item(row, column);
-        keys.push_back(collator.sortKey(item ? item->text().toCaseFolded() : QString()));
+    const qsizetype rowCount = table.rowCount();
+    LongWork work(table.window(), progressText, rowCount + 2 * (rowCount / stepLength + 1));
+    KeyedRows keyed;
+    const bool isSorted = takeKeys(keyed, table, column, work) && sortInSteps(keyed, work);
+    if (isSorted) {
+        QList<int> rows;
+        rows.reserve(rowCount);
+        for (const KeyedRow &row : keyed)
+            rows.append(row.row);
+        arrangeTableRows(table, rows);
+        table.horizontalHeader()->setSortIndicatorShown(true);
+        table.horizontalHeader()->setSortIndicator(column, Qt::AscendingOrder);
     }
-    QList<int> rows(table.rowCount());
-    std::iota(rows.begin(), rows.end(), 0);
-    std::stable_sort(rows.begin(), rows.end(), [&keys](int left, int right) {
-        return keys[std::size_t(left)].compare(keys[std::size_t(right)]) < 0;
-    });
-    arrangeTableRows(table, rows);
-    table.horizontalHeader()->setSortIndicatorShown(true);
-    table.horizontalHeader()->setSortIndicator(column, Qt::AscendingOrder);
+    return isSorted;
 }
 
 } // namespace ortakit

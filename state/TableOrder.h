@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QList>
+#include <QString>
 
 class QTableWidget;
 
@@ -16,8 +17,12 @@ void arrangeTableRows(QTableWidget &table, const QList<int> &rows);
 /// Takes these rows, in any order, away.
 void removeTableRows(QTableWidget &table, const QList<int> &rows);
 
-/// Sorts ascending by the texts of `column`, without regard to case, in the order of the user's language, and shows
-/// so in the header. Rows with equal texts keep their order; a missing item counts as empty.
-void sortTableRows(QTableWidget &table, int column);
+/// Sorts ascending by the texts of `column`, without regard to case, in the order of the user's language, and shows so
+/// in the header. Rows with equal texts keep their order; a missing item counts as empty. `progressText` says what is
+/// being done while it takes long; false, and the table is as it was, when the user cancels it.
+///
+/// QTableWidget's own sorting can neither be waited for nor cancelled, and afterwards each item is searched for in the
+/// whole table when it is changed or asked for its row.
+bool sortTableRows(QTableWidget &table, int column, const QString &progressText);
 
 } // namespace ortakit

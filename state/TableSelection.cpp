@@ -2,7 +2,6 @@
 
 #include <QHash>
 #include <QItemSelectionModel>
-#include <QMap>
 #include <QTableWidget>
 
 #include <algorithm>
@@ -171,26 +170,6 @@ qsizetype selectedItemCount(const QTableWidget &table)
             count += itemCount(table, row, range.left(), range.right());
     }
     return count;
-}
-
-void moveSelection(QTableWidget &table, const std::vector<int> &newRows)
-{
-    QItemSelectionModel *model = table.selectionModel();
-    QMap<std::pair<int, int>, QList<int>> rowsByColumns;
-    for (const QItemSelectionRange &range : model->selection()) {
-        QList<int> &rows = rowsByColumns[{range.left(), range.right()}];
-        for (int row = range.top(); row <= range.bottom(); ++row)
-            rows.append(newRows[size_t(row)]);
-    }
-    QItemSelection selection;
-    for (auto rows = rowsByColumns.cbegin(); rows != rowsByColumns.cend(); ++rows)
-        selection.append(rangesOfRows(table, rows.key().first, rows.key().second, rows.value()));
-    const QModelIndex current = model->currentIndex();
-    // Otherwise each old range would be compared with each new one.
-    model->reset();
-    model->select(selection, QItemSelectionModel::Select);
-    if (current.isValid())
-        model->setCurrentIndex(current.siblingAtRow(newRows[size_t(current.row())]), QItemSelectionModel::NoUpdate);
 }
 
 } // namespace ortakit

@@ -4,8 +4,6 @@
 #include <QList>
 #include <QString>
 
-#include <vector>
-
 class QTableWidget;
 
 namespace ortakit {
@@ -45,9 +43,5 @@ qsizetype selectedCellCount(const QTableWidget &table);
 
 /// How many of them have an item.
 qsizetype selectedItemCount(const QTableWidget &table);
-
-/// For each row of `table`, in this order, its new row: cells that are selected, and the current one, are so in their
-/// new rows. To be called when the rows have moved without the table's knowledge.
-void moveSelection(QTableWidget &table, const std::vector<int> &newRows);
 
 } // namespace ortakit

@@ -5,9 +5,10 @@
 #include "state/LongWork.h"
 #include "state/PathChecks.h"
 #include "state/PathMessages.h"
+#include "state/TableOrder.h"
+#include "state/TableReplacing.h"
 #include "state/TableRows.h"
 #include "state/TableSelection.h"
-#include "state/TableSorting.h"
 #include "ui_Dlg_QT_ImportBlockAttributes.h"
 
 #include <QFileInfo>
@@ -202,38 +203,29 @@ void Dlg_QT_ImportBlockAttributes::replace()
         inform(tr("Select items of table for search."), windowTitle());
         return;
     }
-    QList<Replacement> replacements;
-    if (!findReplacements(replacements))
-        return;
-    // A view that hears of each cell looks for its place each time.
-    const QSignalBlocker noSignals(table.model());
-    for (const auto &[row, column, text] : replacements)
-        table.item(row, column)->setText(text);
-    table.viewport()->update();
+    const QString found = m_ui->txsearch->text();
+    const QString replacement = m_ui->txreplace->text();
+    if (found.isEmpty())
+        return; // which Qt would find between all characters
+    ortakit::replaceTexts(this, selectedItems(), [&](const QString &text) {
+        return QString(text).replace(found, replacement, Qt::CaseInsensitive);
+    });
 }
 
-/// What has to change in the selected cells. False when the user did not wait.
-bool Dlg_QT_ImportBlockAttributes::findReplacements(QList<Replacement> &replacements)
+QList<QTableWidgetItem *> Dlg_QT_ImportBlockAttributes::selectedItems() const
 {
-    const QString wanted = m_ui->txsearch->text();
-    if (wanted.isEmpty())
-        return true;
+    // The table's own answer asks each cell whether it is selected.
     const QTableWidget &table = *m_ui->Attributes;
-    LongWork work(this, tr("Replacing..."), ortakit::selectedCellCount(table));
+    QList<QTableWidgetItem *> items;
     for (const QItemSelectionRange &range : table.selectionModel()->selection()) {
         for (int row = range.top(); row <= range.bottom(); ++row) {
             for (int column = range.left(); column <= range.right(); ++column) {
-                if (!work.goesOn())
-                    return false;
-                const QTableWidgetItem *item = table.item(row, column);
-                QString text = item ? item->text() : QString();
-                if (text.contains(wanted, Qt::CaseInsensitive))
-                    replacements.append(
-                        {row, column, text.replace(wanted, m_ui->txreplace->text(), Qt::CaseInsensitive)});
+                if (QTableWidgetItem *item = table.item(row, column))
+                    items.append(item);
             }
         }
     }
-    return true;
+    return items;
 }
 
 void Dlg_QT_ImportBlockAttributes::ReadSelected()
@@ -279,7 +271,7 @@ void Dlg_QT_ImportBlockAttributes::ClickHeaderTable(int column)
 {
     {
         const QScopedValueRollback sorting(m_isSelecting, true);
-        if (ortakit::sortTable(*m_ui->Attributes, column, tr("Sorting...")))
+        if (ortakit::sortTableRows(*m_ui->Attributes, column, tr("Sorting...")))
             m_sortColumn = column;
     }
     // The click has turned the header's mark.

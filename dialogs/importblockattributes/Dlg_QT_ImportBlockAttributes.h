@@ -36,13 +36,6 @@ private:
     };
     /// What becomes of the table: row by row, null where a row has no cell.
     using TableItems = std::vector<std::unique_ptr<QTableWidgetItem>>;
-    /// The new text of a cell.
-    struct Replacement
-    {
-        int row;
-        int column;
-        QString text;
-    };
 
     void SelectFileAtt();
     void fillAttributes();
@@ -60,7 +53,7 @@ private:
     bool readTable(const QString &path, Report report);
     void showTable(const QStringList &headers, int rowCount, TableItems items);
     void followSelection();
-    bool findReplacements(QList<Replacement> &replacements);
+    QList<QTableWidgetItem *> selectedItems() const;
     QStringList headers() const;
     QStringList rowTexts(int row) const;
 

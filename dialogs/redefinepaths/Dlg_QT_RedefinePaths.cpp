@@ -229,5 +229,5 @@ void Dlg_QT_RedefinePaths::ReadSelected()
 
 void Dlg_QT_RedefinePaths::ClickHeaderTable(int column)
 {
-    ortakit::sortTableRows(*m_ui->lstFiles, column);
+    ortakit::sortTableRows(*m_ui->lstFiles, column, tr("Sorting..."));
 }

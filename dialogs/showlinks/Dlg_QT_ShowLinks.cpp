@@ -224,5 +224,5 @@ void Dlg_QT_ShowLinks::CloseDialog()
 
 void Dlg_QT_ShowLinks::ClickHeaderTable(int column)
 {
-    ortakit::sortTableRows(*m_ui->tableUrl, column);
+    ortakit::sortTableRows(*m_ui->tableUrl, column, tr("Sorting..."));
 }

@@ -4,7 +4,6 @@
 #include "state/LongWork.h"
 #include "state/TableRows.h"
 #include "state/TableSelection.h"
-#include "state/TableSorting.h"
 #include "tests/support/FakeHost.h"
 #include "tests/support/ModalAnswers.h"
 #include "tests/support/QtTestPrinters.h"
@@ -200,7 +199,7 @@ TEST(TableSelection, TellsWholeRowsInTheOrderOfTheirSelection)
     EXPECT_EQ(selectedCellCount(table), 9);
 }
 
-TEST(TableSelection, CountsItemsAndMovesWithTheRows)
+TEST(TableSelection, CountsItems)
 {
     QTableWidget table;
     setTableHeaders(table, u"A;B;C"_s);
@@ -209,14 +208,6 @@ TEST(TableSelection, CountsItemsAndMovesWithTheRows)
     table.setRangeSelected({2, 0, 3, 2}, true);
     table.setRangeSelected({0, 1, 0, 1}, true);
     EXPECT_EQ(selectedItemCount(table), 6);
-    table.setCurrentCell(2, 1, QItemSelectionModel::NoUpdate);
-    moveSelection(table, {3, 2, 0, 1});
-    QStringList selected;
-    for (const QModelIndex &index : table.selectionModel()->selectedIndexes())
-        selected.append(u"%1,%2"_s.arg(index.row()).arg(index.column()));
-    selected.sort();
-    EXPECT_EQ(selected.join(u' '), u"0,0 0,1 0,2 1,0 1,1 1,2 3,1"_s);
-    EXPECT_EQ(table.currentRow(), 0);
 }
 
 TEST(TableSelection, NewSelectionsAreTold)
@@ -240,29 +231,6 @@ TEST(TableSelection, NewSelectionsAreTold)
     table.selectRow(3);
     EXPECT_EQ(rowsWithSelection(table), QList<int>{3});
     EXPECT_LT(clock.elapsed(), 1000);
-}
-
-TEST(TableSorting, SortsRowsWithTheirGaps)
-{
-    QTableWidget table;
-    setTableHeaders(table, u"A;B"_s);
-    QList<QStringList> rows;
-    for (int row = 0; row < 3000; ++row)
-        rows.append({QString::number(9000 - row), QString::number(row % 2)});
-    setTableRows(table, rows);
-    delete table.takeItem(7, 0);
-    table.selectRow(2999);
-    ASSERT_TRUE(sortTable(table, 0, {}));
-    EXPECT_FALSE(table.item(0, 0));
-    for (int row = 1; row < 3000; ++row)
-        ASSERT_EQ(table.item(row, 0)->text(), QString::number(6000 + row + (row > 2992 ? 1 : 0))) << row;
-    EXPECT_EQ(rowsWithSelection(table), QList<int>{1});
-    EXPECT_EQ(table.item(2000, 0)->row(), 2000);
-    // Equal texts keep the order that the other column gave them.
-    ASSERT_TRUE(sortTable(table, 1, {}));
-    EXPECT_EQ(table.item(0, 0)->text(), u"6002"_s);
-    EXPECT_EQ(table.item(1, 0)->text(), u"6004"_s);
-    EXPECT_EQ(table.item(1, 1)->text(), u"0"_s);
 }
 
 TEST(LongWork, ComesUpAfterAWhileAndCanBeCancelled)
