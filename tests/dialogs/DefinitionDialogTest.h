@@ -30,14 +30,15 @@ protected:
             this->show();
             this->setText(fileField, row.file);
             this->setText("name", row.name);
-            ModalAnswers answers;
-            if (!row.text.isEmpty())
-                answers.press(row.answer);
-            this->click("acceptButton");
-            const QString kind = row.answer == QMessageBox::Ok ? QStringLiteral("information \"%1\" \"%2\" OK")
-                                                               : QStringLiteral("question \"%1\" \"%2\" Yes/No");
-            const QStringList shown = row.text.isEmpty() ? QStringList() : QStringList{kind.arg(title, row.text)};
-            EXPECT_EQ(answers.shown(), shown) << row.what;
+            const bool isQuestion = row.answer != QMessageBox::Ok;
+            const QString message = (isQuestion ? QStringLiteral("question \"%1\" \"%2\" Yes/No")
+                                                : QStringLiteral("information \"%1\" \"%2\" OK"))
+                                        .arg(title, row.text);
+            const QStringList shown = row.text.isEmpty() ? QStringList() : QStringList{message};
+            EXPECT_EQ(
+                this->shownBy("acceptButton", isQuestion ? QList{row.answer} : QList<QMessageBox::StandardButton>()),
+                shown)
+                << row.what;
             EXPECT_EQ(this->isAccepted(), shown.isEmpty() || row.answer == QMessageBox::Yes) << row.what;
             EXPECT_EQ(this->text("name"), row.name) << row.what;
         }
@@ -48,14 +49,10 @@ protected:
     {
         this->showWith({});
         EXPECT_EQ(this->focusName(), QStringLiteral("selectfile"));
-        this->setText("name", QStringLiteral("FREE"));
-        this->find(fileField)->setFocus();
-        this->setText(fileField, path);
-        QTest::keyClick(this->find(fileField), Qt::Key_Return);
+        this->enterText(fileField, path);
         EXPECT_TRUE(this->dialog->isVisible());
         EXPECT_EQ(this->tableRows(table).size(), 2);
-        this->find("name")->setFocus();
-        QTest::keyClick(this->find("name"), Qt::Key_Return);
+        this->enterText("name", QStringLiteral("FREE"));
         EXPECT_TRUE(this->isAccepted());
     }
 

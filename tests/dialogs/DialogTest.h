@@ -34,7 +34,38 @@ protected:
     bool isChecked(const char *name) const { return find<QAbstractButton>(name)->isChecked(); }
     QString text(const char *lineEdit) const { return find<QLineEdit>(lineEdit)->text(); }
     void setText(const char *lineEdit, const QString &text) { find<QLineEdit>(lineEdit)->setText(text); }
+    /// The whole text behind one that may be shown shortened, such as a path.
+    QString fullText(const char *name) const { return find(name)->property("value").toString(); }
+    /// Those of the widgets `names`, with blanks between, that are enabled.
+    QString enabledOf(const QString &names) const
+    {
+        QStringList enabled = names.split(u' ');
+        enabled.removeIf([this](const QString &name) { return !isEnabled(name.toLatin1().constData()); });
+        return enabled.join(u' ');
+    }
+    /// Fills a field as a person does, and presses Return in it.
+    void enterText(const char *field, const QString &text)
+    {
+        find(field)->setFocus();
+        setText(field, text);
+        QTest::keyClick(find(field), Qt::Key_Return);
+    }
     void click(const char *button) { find<QAbstractButton>(button)->click(); }
+    /// Clicks, and gives what was shown: `answers` are pressed in the messages one after the other; a message without
+    /// an answer is closed.
+    QStringList shownBy(const char *button, const QList<QMessageBox::StandardButton> &answers = {})
+    {
+        ModalAnswers user;
+        return shownBy(user, button, answers);
+    }
+    /// The same where `path` is chosen in a file dialog first, or nothing when it is empty.
+    QStringList shownChoosing(const char *button, const QString &path,
+                              const QList<QMessageBox::StandardButton> &answers = {})
+    {
+        ModalAnswers user;
+        user.choose(path);
+        return shownBy(user, button, answers);
+    }
     /// The rows of a table, their cells with "|" between.
     QStringList tableRows(const char *name) const
     {
@@ -47,6 +78,14 @@ protected:
             rows.append(cells.join(u'|'));
         }
         return rows;
+    }
+    /// Selects these rows one after the other, as with the Ctrl key held.
+    static void selectRows(QTableWidget *table, const QList<int> &rows)
+    {
+        table->clearSelection();
+        for (const int row : rows)
+            table->selectionModel()->select(table->model()->index(row, 0),
+                                            QItemSelectionModel::Select | QItemSelectionModel::Rows);
     }
     QString focusName() const { return dialog->focusWidget() ? dialog->focusWidget()->objectName() : QString(); }
 
@@ -76,6 +115,16 @@ protected:
     QWidget window;
     QString stateFile;
     std::unique_ptr<Dialog> dialog;
+
+private:
+    QStringList shownBy(ModalAnswers &user, const char *button, const QList<QMessageBox::StandardButton> &answers)
+    {
+        for (const auto answer : answers)
+            user.press(answer);
+        click(button);
+        EXPECT_TRUE(user.isDone()) << button;
+        return user.shown();
+    }
 };
 
 } // namespace ortakit::test

@@ -4,7 +4,6 @@
 
 #include <QDir>
 #include <QFileInfo>
-#include <QTableWidget>
 
 using namespace ortakit::test;
 using namespace Qt::StringLiterals;
@@ -26,29 +25,9 @@ class DimensionStyleDialog : public DialogTest<Dialog>
 {
 protected:
     QTableWidget *styles() const { return this->template find<QTableWidget>("lstStyles"); }
-
-    static QStringList rows(const QTableWidget &table)
-    {
-        QStringList texts;
-        for (int row = 0; row < table.rowCount(); ++row) {
-            QStringList cells;
-            for (int column = 0; column < table.columnCount(); ++column)
-                cells.append(table.item(row, column)->text());
-            texts.append(cells.join(u' '));
-        }
-        return texts;
-    }
-    QStringList styleRows() const { return rows(*styles()); }
-    QStringList variableRows() const { return rows(*this->template find<QTableWidget>("lstVariables")); }
-
-    /// Selects these rows one after the other, as with the Ctrl key held.
-    void select(const QList<int> &selected)
-    {
-        styles()->clearSelection();
-        for (const int row : selected)
-            styles()->selectionModel()->select(styles()->model()->index(row, 0),
-                                               QItemSelectionModel::Select | QItemSelectionModel::Rows);
-    }
+    void select(const QList<int> &rows) { this->selectRows(styles(), rows); }
+    QStringList styleRows() const { return this->tableRows("lstStyles"); }
+    QStringList variableRows() const { return this->tableRows("lstVariables"); }
 
     QString source = this->host.writeFile(u"all.dim"_s, isoSection + archSection);
 };
@@ -61,9 +40,9 @@ TEST_F(ExportDimensionStyle, ShowsTheStylesOfTheFileAndTheVariablesOfTheOneThatI
     showWith(u"filedim=%1\n"_s.arg(source));
     EXPECT_EQ(styleRows(), (QStringList{u"Arch Small"_s, u"ISO-25"_s}));
     // The list has the focus, so its first row is selected.
-    EXPECT_EQ(variableRows(), QStringList{u"DIMTXSTY Standard"_s});
+    EXPECT_EQ(variableRows(), QStringList{u"DIMTXSTY|Standard"_s});
     select({1});
-    EXPECT_EQ(variableRows(), (QStringList{u"DIMASZ 3"_s, u"DIMLT DASHED"_s, u"DIMSCALE 2.5"_s, u"DIMTXSTY Roman"_s}));
+    EXPECT_EQ(variableRows(), (QStringList{u"DIMASZ|3"_s, u"DIMLT|DASHED"_s, u"DIMSCALE|2.5"_s, u"DIMTXSTY|Roman"_s}));
     select({0, 1});
     EXPECT_EQ(variableRows(), QStringList());
 
@@ -80,97 +59,68 @@ TEST_F(ExportDimensionStyle, WritesTheSelectedStylesInTheOrderOfTheSelection)
     const QByteArray nameOnly = QByteArray(isoSection).replace("DIMTXT_FONT romans\r\n", "");
     const struct
     {
-        const char *what;
         QList<int> selected;
-        bool full;
+        const char *kind;
         QString chosen;
         QString written;
         QByteArray content;
     } rows[] = {
-        {"one, name only", {1}, false, u"one"_s, u"one.dim"_s, nameOnly},
-        {"with its text style", {1}, true, u"full.dim"_s, u"full.dim"_s, isoSection},
-        {"two, the lower one first", {1, 0}, true, u"two.dim"_s, u"two.dim"_s, isoSection + archSection},
-        {"two, the upper one first", {0, 1}, true, u"two.dim"_s, u"two.dim"_s, archSection + isoSection},
-        {"another case of the extension", {0}, false, u"big.DIM"_s, u"big.DIM.dim"_s, archSection},
+        {{1}, "rbNameText", u"one"_s, u"one.dim"_s, nameOnly},
+        {{1}, "rbFullText", u"full.dim"_s, u"full.dim"_s, isoSection},
+        {{1, 0}, "rbFullText", u"down.dim"_s, u"down.dim"_s, isoSection + archSection},
+        {{0, 1}, "rbFullText", u"up.dim"_s, u"up.dim"_s, archSection + isoSection},
+        {{0}, "rbFullText", u"big.DIM"_s, u"big.DIM.dim"_s, archSection},
     };
     for (const auto &row : rows) {
         showWith(u"filedim=%1\n"_s.arg(source));
         select(row.selected);
-        find<QAbstractButton>(row.full ? "rbFullText" : "rbNameText")->click();
-        ModalAnswers answers;
-        answers.choose(host.path(row.chosen));
-        if (QFileInfo::exists(host.path(row.written)))
-            answers.press(QMessageBox::Yes);
-        click("selectfile");
-        EXPECT_TRUE(isAccepted()) << row.what;
-        EXPECT_EQ(FakeHost::readFile(host.path(row.written)), row.content) << row.what;
-        EXPECT_EQ(answers.shown().value(0).section(u'"', 1, 1), u"Select Dimension Style file"_s);
-        EXPECT_EQ(answers.shown().value(0).section(u'"', 5, 5), u"DimStyle files (*.dim)"_s);
+        click(row.kind);
+        const QString shown = shownChoosing("selectfile", host.path(row.chosen)).value(0);
+        EXPECT_EQ(shown.section(u'"', 1, 1) + shown.section(u'"', 5, 5),
+                  u"Select Dimension Style fileDimStyle files (*.dim)"_s);
+        EXPECT_TRUE(isAccepted()) << row.written.toStdString();
+        EXPECT_EQ(FakeHost::readFile(host.path(row.written)), row.content) << row.written.toStdString();
     }
 }
 
 TEST_F(ExportDimensionStyle, NothingIsWrittenWithoutAFileOrASelection)
 {
     showWith(u"filedim=%1\n"_s.arg(source));
-    const QString target = host.path(u"new.dim"_s);
-    {
-        ModalAnswers cancelled;
-        cancelled.choose({});
-        click("selectfile");
-    }
+    shownChoosing("selectfile", {});
     styles()->clearSelection();
-    ModalAnswers answers;
-    answers.choose(target);
-    answers.press(QMessageBox::Ok);
-    click("selectfile");
-    EXPECT_EQ(answers.shown().value(1),
+    const QString target = host.path(u"new.dim"_s);
+    EXPECT_EQ(shownChoosing("selectfile", target).value(1),
               u"information \"Exchange Dimension Style\" \"No dimension style selected, please "
               "select a dimension style to export. \" OK"_s);
     EXPECT_TRUE(dialog->isVisible());
     EXPECT_FALSE(QFileInfo::exists(target));
 }
 
-// The picker asked about "old", the file is "old.dim".
-TEST_F(ExportDimensionStyle, AFileThatGetsItsExtensionIsReplacedOnlyWhenTheUserSaysSo)
+TEST_F(ExportDimensionStyle, WhatIsThereIsReplacedOnlyByStylesAndWhenTheUserSaysSo)
 {
+    const QString question = u"question \"Exchange Dimension Style\" \"old.dim already exists. Do you "
+                             "want to replace it?\" Yes/No"_s;
     const QString target = host.writeFile(u"old.dim"_s, "old");
     for (const auto answer : {QMessageBox::No, QMessageBox::Yes}) {
         showWith(u"filedim=%1\n"_s.arg(source));
-        ModalAnswers answers;
-        answers.choose(host.path(u"old"_s));
-        answers.press(answer);
-        click("selectfile");
-        EXPECT_EQ(answers.shown().value(1), u"question \"Exchange Dimension Style\" \"old.dim already exists. Do you "
-                                            "want to replace it?\" Yes/No"_s);
+        // The picker asks about "old", the file is "old.dim".
+        EXPECT_EQ(shownChoosing("selectfile", host.path(u"old"_s), {answer}).value(1), question);
         EXPECT_EQ(FakeHost::readFile(target), answer == QMessageBox::Yes ? archSection : "old");
         EXPECT_EQ(isAccepted(), answer == QMessageBox::Yes);
     }
-}
 
-TEST_F(ExportDimensionStyle, ASourceThatIsGoneLeavesTheOldFile)
-{
-    const QString target = host.writeFile(u"old.dim"_s, "old");
-    showWith(u"filedim=%1\n"_s.arg(source));
+    // Without its source, or when the file cannot be written, the dialog closes and leaves what there is.
+    show();
     ASSERT_TRUE(QFile::remove(source));
-    ModalAnswers answers;
-    answers.choose(target);
-    answers.press(QMessageBox::Yes);
-    click("selectfile");
-    EXPECT_EQ(FakeHost::readFile(target), "old");
+    shownChoosing("selectfile", target, {QMessageBox::Yes});
+    EXPECT_EQ(FakeHost::readFile(target), archSection);
     EXPECT_TRUE(isAccepted());
-}
-
-TEST_F(ExportDimensionStyle, ClosesAlsoWhenTheFileCannotBeWritten)
-{
-    const QString folder = host.path(u"taken.dim"_s);
-    ASSERT_TRUE(QDir().mkpath(folder));
-    showWith(u"filedim=%1\n"_s.arg(source));
-    ModalAnswers answers;
-    answers.choose(host.path(u"taken"_s));
-    answers.press(QMessageBox::Yes);
-    click("selectfile");
+    host.writeFile(u"all.dim"_s, archSection);
+    ASSERT_TRUE(QDir().mkpath(host.path(u"taken.dim"_s)));
+    show();
+    shownChoosing("selectfile", host.path(u"taken"_s), {QMessageBox::Yes});
+    EXPECT_TRUE(QFileInfo(host.path(u"taken.dim"_s)).isDir());
     EXPECT_TRUE(isAccepted());
-    EXPECT_TRUE(QFileInfo(folder).isDir());
 }
 
 TEST_F(ImportDimensionStyle, ShowsTheStylesOfTheChosenFileByTheirFirstWords)
@@ -178,10 +128,8 @@ TEST_F(ImportDimensionStyle, ShowsTheStylesOfTheChosenFileByTheirFirstWords)
     show();
     EXPECT_EQ(focusName(), u"selectfile"_s);
     EXPECT_FALSE(isEnabled("groupBox_2"));
-    ModalAnswers answers;
-    answers.choose(source);
-    click("selectfile");
-    EXPECT_EQ(find("txExport")->property("value").toString(), source);
+    shownChoosing("selectfile", source);
+    EXPECT_EQ(fullText("txExport"), source);
     EXPECT_EQ(styleRows(), (QStringList{u"Arch"_s, u"ISO-25"_s}));
 
     dialog->activateWindow();
@@ -189,21 +137,17 @@ TEST_F(ImportDimensionStyle, ShowsTheStylesOfTheChosenFileByTheirFirstWords)
     styles()->setFocus();
     EXPECT_EQ(styles()->selectionModel()->selectedRows().size(), 1);
     select({1});
-    EXPECT_EQ(variableRows(), (QStringList{u"DIMASZ 3"_s, u"DIMLT DASHED"_s, u"DIMSCALE 2.5"_s}));
+    EXPECT_EQ(variableRows(), (QStringList{u"DIMASZ|3"_s, u"DIMLT|DASHED"_s, u"DIMSCALE|2.5"_s}));
 
-    ModalAnswers cancelled;
-    cancelled.choose({});
-    click("selectfile");
-    EXPECT_EQ(styleRows().size(), 2);
+    shownChoosing("selectfile", {});
+    EXPECT_EQ(styleRows().size(), 2) << "cancelled";
     EXPECT_EQ(variableRows().size(), 3);
 }
 
 TEST_F(ImportDimensionStyle, APathThatIsTypedIsListedWhenItIsFinished)
 {
     show();
-    find("txExport")->setFocus();
-    setText("txExport", source);
-    QTest::keyClick(find("txExport"), Qt::Key_Return);
+    enterText("txExport", source);
     EXPECT_TRUE(dialog->isVisible());
     EXPECT_EQ(styleRows().size(), 2);
     select({0});
@@ -213,66 +157,33 @@ TEST_F(ImportDimensionStyle, APathThatIsTypedIsListedWhenItIsFinished)
 
 TEST_F(ImportDimensionStyle, OverwritingIsOfferedForTheClashesThereAre)
 {
+    const QString both = u"groupBox_2 cbDimensionStyle cbTextStyle"_s;
     const struct
     {
         const char *what;
-        QString dimensionStyles;
-        QString textStyles;
+        QString existing;
         QList<int> selected;
-        bool offersDimensionStyle;
-        bool offersTextStyle;
+        QString offered;
     } rows[] = {
-        {"no clash",
-         u"dimstylelength=1\ndimstyle1=Other\n"_s,
-         u"textstylelength=1\ntextstyle1=Other\n"_s,
-         {1},
-         false,
-         false},
         {"dimension style",
          u"dimstylelength=2\ndimstyle1=Other\ndimstyle2=ISO-25\n"_s,
-         u"textstylelength=0\n"_s,
          {1},
-         true,
-         false},
-        {"text style", u"dimstylelength=0\n"_s, u"textstylelength=1\ntextstyle1=Roman\n"_s, {1}, false, true},
-        {"both",
-         u"dimstylelength=1\ndimstyle1=ISO-25\n"_s,
-         u"textstylelength=1\ntextstyle1=Roman\n"_s,
-         {1},
-         true,
-         true},
-        {"another case",
-         u"dimstylelength=1\ndimstyle1=iso-25\n"_s,
-         u"textstylelength=1\ntextstyle1=ROMAN\n"_s,
-         {1},
-         false,
-         false},
-        {"beyond the length",
-         u"dimstylelength=1\ndimstyle1=a\ndimstyle2=ISO-25\n"_s,
-         u"textstylelength=0\ntextstyle1=Roman\n"_s,
-         {1},
-         false,
-         false},
-        {"two styles", u"dimstylelength=0\n"_s, u"textstylelength=0\n"_s, {0, 1}, true, true},
-        {"the end of another key",
-         u"dimstylelength=1\nmydimstyle1=Other\ndimstyle1=ISO-25\n"_s,
-         u"textstylelength=1\nxtextstyle1=Roman\n"_s,
-         {1},
-         false,
-         true},
+         u"groupBox_2 cbDimensionStyle"_s},
+        {"text style", u"textstylelength=1\ntextstyle1=Roman\n"_s, {1}, u"groupBox_2 cbTextStyle"_s},
+        {"both", u"dimstylelength=1\ndimstyle1=ISO-25\ntextstylelength=1\ntextstyle1=Roman\n"_s, {1}, both},
+        {"another case", u"dimstylelength=1\ndimstyle1=iso-25\ntextstylelength=1\ntextstyle1=ROMAN\n"_s, {1}, {}},
+        {"beyond the length", u"dimstylelength=1\ndimstyle1=a\ndimstyle2=ISO-25\n"_s, {1}, {}},
+        {"two styles", u"dimstylelength=0\ntextstylelength=0\n"_s, {0, 1}, both},
+        {"the end of another key", u"dimstylelength=1\nmydimstyle1=Other\ndimstyle1=ISO-25\n"_s, {1}, {}},
     };
     for (const auto &row : rows) {
-        dialog = std::make_unique<Dlg_QT_ImportDimensionStyle>(&window);
-        showWith(u"txexport=%1\ncbtextstyle=TRUE\ncbdimensionstyle=TRUE\n"_s.arg(source) + row.dimensionStyles +
-                 row.textStyles);
+        SetUp();
+        showWith(u"txexport=%1\ncbtextstyle=TRUE\ncbdimensionstyle=TRUE\n"_s.arg(source) + row.existing);
         select({0});
         find<QAbstractButton>("cbTextStyle")->setChecked(true);
         select(row.selected);
-        EXPECT_EQ(isEnabled("groupBox_2"), row.offersDimensionStyle || row.offersTextStyle) << row.what;
-        EXPECT_EQ(isEnabled("cbDimensionStyle"), row.offersDimensionStyle) << row.what;
-        EXPECT_EQ(isEnabled("cbTextStyle"), row.offersTextStyle) << row.what;
-        EXPECT_FALSE(isChecked("cbTextStyle")) << row.what;
-        EXPECT_FALSE(isChecked("cbDimensionStyle")) << row.what;
+        EXPECT_EQ(enabledOf(both), row.offered) << row.what;
+        EXPECT_FALSE(isChecked("cbTextStyle") || isChecked("cbDimensionStyle")) << row.what;
     }
 }
 
@@ -280,7 +191,7 @@ TEST_F(ImportDimensionStyle, GivesTheChosenNamesToLisp)
 {
     showWith(u"txexport=%1\n"_s.arg(source));
     select({1, 0});
-    find<QAbstractButton>("cbDimensionStyle")->click();
+    click("cbDimensionStyle");
     click("acceptButton");
     EXPECT_TRUE(isAccepted());
     const QStringList saved = savedState().split(u'\n');
@@ -291,11 +202,8 @@ TEST_F(ImportDimensionStyle, GivesTheChosenNamesToLisp)
 
     show();
     styles()->clearSelection();
-    ModalAnswers answers;
-    answers.press(QMessageBox::Ok);
-    click("acceptButton");
-    EXPECT_EQ(answers.shown(), QStringList{u"information \"\" \"No dimension style selected, please select a dimension "
-                                           "style to import. \" OK"_s});
+    EXPECT_EQ(shownBy("acceptButton"), QStringList{u"information \"\" \"No dimension style selected, please select a "
+                                                   "dimension style to import. \" OK"_s});
     EXPECT_TRUE(dialog->isVisible());
 }
 

@@ -208,6 +208,18 @@ TEST_P(EveryDialog, KeepsItsWidgetsNamedOnce)
     }
 }
 
+// Losing the focus on the way out, a field must not tell a dialog that is half gone.
+TEST_P(EveryDialog, CanBeDestroyedWhileAFieldHasTheFocus)
+{
+    for (qsizetype field = 0; field < visible<QLineEdit>().size(); ++field) {
+        visible<QLineEdit>().at(field)->setFocus();
+        dialog.reset(GetParam().create(&window));
+        EXPECT_FALSE(window.focusWidget());
+        dialog->show();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(dialog.get()));
+    }
+}
+
 INSTANTIATE_TEST_SUITE_P(All, EveryDialog, testing::ValuesIn(rows),
                          [](const auto &test) { return std::string(test.param.name); });
 

@@ -55,31 +55,22 @@ private:
             u"("_s,  u")"_s,  u"\t"_s,   u"\""_s,   u"1"_s,    u" 11"_s,  u"908"_s, u"a"_s,   u"c"_s, u"rr"_s,
             u"b"_s,  u"K"_s,  u"s"_s,    u"+"_s,    u"-"_s,    u"?"_s,    u"\\"_s,  u"'"_s,
         };
-        const int chance = m_random.bounded(60);
+        // Characters that end a line or a word in some places and not in others, and some of several units.
+        static const QString odd =
+            u"\u2028\u2029\u00A0\u0085\u3000\r\n\v\f\u001C\u00E9\u88AC\u212A\u0661\uFEFF\u0301\uFFFF"_s + QChar(u'\0');
+        const int chance = m_random.bounded(600);
         if (chance < 2)
+            return QString(1, QChar(chance ? 0xD83D : 0xDE00)); // spoils the whole line, so there are few
+        if (chance < 20)
             return u";"_s;
-        if (chance < 6)
-            return oddCharacter();
-        QString text = pick(pieces);
-        text.replace(u"%1"_s, pick(m_words));
-        if (chance < 8)
+        if (chance < 24)
+            return chance < 22 ? u"\U0001F600"_s : u"\r\n"_s;
+        if (chance < 60)
+            return QString(pick(odd));
+        const QString text = pick(pieces).replace(u"%1"_s, pick(m_words));
+        if (chance < 80)
             return text.toUpper();
-        return chance < 10 ? text.left(m_random.bounded(int(text.size()) + 1)) : text;
-    }
-
-    QString oddCharacter()
-    {
-        using namespace Qt::StringLiterals;
-        static const QStringList odd = {
-            u"\u2028"_s, u"\u2029"_s, u"\u00A0"_s,     u"\u0085"_s, u"\u3000"_s,
-            u"\r"_s,     u"\n"_s,     u"\v"_s,         u"\f"_s,     u"\u001C"_s,
-            u"\u00E9"_s, u"\u88AC"_s, u"\u212A"_s,     u"\u0661"_s, u"\uFEFF"_s,
-            u"\u0301"_s, u"\uFFFF"_s, u"\U0001F600"_s, u"\r\n"_s,   QString(1, QChar(u'\0')),
-        };
-        // Half of a surrogate pair leaves the whole line plain, so there are few.
-        if (m_random.bounded(25) == 0)
-            return QString(1, QChar(m_random.bounded(2) ? 0xD83D : 0xDE00));
-        return pick(odd);
+        return chance < 100 ? text.left(m_random.bounded(int(text.size()) + 1)) : text;
     }
 
     QRandomGenerator m_random;

@@ -13,7 +13,6 @@ class MakeLineStyle : public DefinitionDialogTest<Dlg_QT_MakeLineStyle>
 protected:
     MakeLineStyle() : DefinitionDialogTest("Linetypefile", u"Make Linestyle"_s) {}
     QStringList rows() const { return tableRows("LinetypefileLst"); }
-    QString path() const { return find("Linetypefile")->property("value").toString(); }
     void showWithFile(const QString &file) { showWith(u"linetypefile=%1\n"_s.arg(file)); }
 
     QString lines = host.writeFile(u"my.lin"_s, "*GAS,Gas line\nA,1,-1\n*Wall\nA,2\n");
@@ -58,38 +57,23 @@ TEST_F(MakeLineStyle, NameIsChecked)
 
 TEST_F(MakeLineStyle, BrowsingTakesOnlyLinetypeFiles)
 {
-    const struct
-    {
-        const char *name;
-        const char *bytes; ///< null: no such file
-        bool taken;
-    } table[] = {
-        {"other.lin", "*A,b\nA,1\n", true},
-        {"new.lin", nullptr, true},
-        {"comment.lin", "; mine\n*A,b\n", false},
-        {"notes.txt", "*A,b\n", false},
+    const QStringList chooser = {
+        u"choose \"Specify Linestyle file\" \"%1\" \"Linestyle files (*.lin)\""_s.arg(QFileInfo(lines).absolutePath())};
+    const std::pair<QString, bool> rows[] = {
+        {host.writeFile(u"other.lin"_s, "*A,b\nA,1\n"), true},
+        {host.path(u"new.lin"_s), true},
+        {host.writeFile(u"comment.lin"_s, "; mine\n*A,b\n"), false},
+        {host.writeFile(u"notes.txt"_s, "*A,b\n"), false},
     };
-    for (const auto &row : table) {
-        const QString name = QString::fromLatin1(row.name);
-        const QString chosen = row.bytes ? host.writeFile(name, row.bytes) : host.path(name);
-        dialog = std::make_unique<Dlg_QT_MakeLineStyle>(&window);
+    for (const auto &[chosen, taken] : rows) {
+        SetUp();
         showWithFile(lines);
-        ModalAnswers answers;
-        answers.choose(chosen);
-        if (!row.taken)
-            answers.press(QMessageBox::Ok);
-        click("selectfile");
-        const QString asked = u"choose \"Specify Linestyle file\" \"%1\" \"Linestyle files (*.lin)\""_s.arg(
-            QFileInfo(lines).absolutePath());
-        EXPECT_EQ(answers.shown(), QStringList{asked} + (row.taken ? QStringList() : QStringList{notValid}))
-            << row.name;
-        EXPECT_EQ(path(), row.taken ? chosen : lines) << row.name;
-        EXPECT_EQ(rows().size(), !row.taken ? 2 : row.bytes ? 1 : 0) << row.name;
+        EXPECT_EQ(shownChoosing("selectfile", chosen), taken ? chooser : chooser + QStringList{notValid});
+        EXPECT_EQ(fullText("Linetypefile"), taken ? chosen : lines);
+        EXPECT_NE(tableRows("LinetypefileLst").size() == 2, taken) << chosen.toStdString();
     }
-    ModalAnswers answers;
-    answers.choose({});
-    click("selectfile");
-    EXPECT_EQ(path(), lines);
+    shownChoosing("selectfile", {});
+    EXPECT_EQ(fullText("Linetypefile"), lines) << "cancelled";
 }
 
 TEST_F(MakeLineStyle, LongPathsAreShownShortAndSavedWhole)

@@ -46,42 +46,27 @@ TEST_F(MakeShape, BrowsingStartsInTheFolderOfTheFile)
     const QString folder = host.path(u"shapes"_s);
     ASSERT_TRUE(QDir().mkpath(folder));
     const QString home = QDir(host.path({})).absolutePath();
-    const struct
-    {
-        const char *what;
-        QString file;
-        QString start;
-    } table[] = {
-        {"no file", {}, home},
-        {"in a folder", folder + u"/new.shp"_s, folder},
-        {"in a folder that is not there", folder + u"/missing/new.shp"_s, home},
-        {"a bare name", u"new.shp"_s, home},
-        {"in the current folder", u"./new.shp"_s, home},
+    const QString chooser = u"choose \"Select shape file\" \"%1\" \"Shape files (*.shp)|All files (*.*)\""_s;
+    const std::pair<QString, QString> rows[] = {
+        {{}, home},           {folder + u"/new.shp"_s, folder}, {folder + u"/missing/new.shp"_s, home},
+        {u"new.shp"_s, home}, {u"./new.shp"_s, home},
     };
     show();
-    for (const auto &row : table) {
-        setText("shapeFile", row.file);
-        ModalAnswers answers;
-        answers.choose({});
-        click("selectfile");
-        EXPECT_EQ(answers.shown(), QStringList{u"choose \"Select shape file\" \"%1\" "
-                                               "\"Shape files (*.shp)|All files (*.*)\""_s.arg(row.start)})
-            << row.what;
-        EXPECT_EQ(text("shapeFile"), row.file) << row.what;
+    for (const auto &[file, start] : rows) {
+        setText("shapeFile", file);
+        EXPECT_EQ(shownChoosing("selectfile", {}), QStringList{chooser.arg(start)});
+        EXPECT_EQ(text("shapeFile"), file) << "cancelled";
     }
     // What the file holds does not matter.
     const QString chosen = host.writeFile(u"text.shp"_s, "no shape at all\n");
-    ModalAnswers answers;
-    answers.choose(chosen);
-    click("selectfile");
+    EXPECT_EQ(shownChoosing("selectfile", chosen).size(), 1);
     EXPECT_EQ(text("shapeFile"), chosen);
-    EXPECT_EQ(answers.shown().size(), 1);
 }
 
 TEST_F(MakeShape, PathsAreShownAndSavedAsTheyAre)
 {
     for (const QString &folder : {QString(120, u'x'), u"three...dots"_s}) {
-        dialog = std::make_unique<Dlg_QT_MakeShape>(&window);
+        SetUp();
         ASSERT_TRUE(QDir(host.path({})).mkpath(folder));
         const QString file = host.writeFile(folder + u"/my.shp"_s, "*1,3,BOX\n");
         showWith(u"shapefile=%1\n"_s.arg(file));

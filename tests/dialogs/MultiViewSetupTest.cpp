@@ -1,71 +1,27 @@
 #include "dialogs/multiviewsetup/Dlg_QT_MultiViewSetup.h"
-#include "dialogs/multiviewsetup/ScaleList.h"
-#include "dialogs/multiviewsetup/TitleBlockFolder.h"
 #include "tests/dialogs/DialogTest.h"
 
 #include <QComboBox>
 #include <QDir>
-#include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QStackedWidget>
-#include <QTableWidget>
 
 using namespace ortakit::test;
 using namespace Qt::StringLiterals;
 
 namespace {
 
-TEST(ScaleList, HasTheUsualScalesOfAUnitStyle)
-{
-    const struct
-    {
-        UnitStyle style;
-        const char *scales;
-    } rows[] = {
-        {UnitStyle::None, ""},
-        {UnitStyle::Scientific, "4 TIMES=4.0 2 TIMES=2.0 FULL=1.0 HALF=0.5 QUARTER=0.25"},
-        {UnitStyle::Decimal, "4 TIMES=4.0 2 TIMES=2.0 FULL=1.0 HALF=0.5 QUARTER=0.25"},
-        {UnitStyle::Engineering, "1\"=10'=120.0 1\"=20'=240.0 1\"=30'=360.0 1\"=40'=480.0 1\"=50'=600.0 1\"=60'=720.0 "
-                                 "1\"=80'=960.0 1\"=100'=1200.0"},
-        {UnitStyle::Architectural, "1/40\"=1'=480.0 1/20\"=1'=240.0 1/16\"=1'=192.0 1/8\"=1'=96.0 1/4\"=1'=48.0 "
-                                   "1/2\"=1'=24.0 3/4\"=1'=16.0 1\"=1'=12.0 3\"=1'=4.0 6\"=1'=2.0 FULL=1.0"},
-        {UnitStyle::Metric, "1:5000=5000 1:2000=2000 1:1000=1000 1:500=500 1:200=200 1:100=100 1:75=75 1:50=50 "
-                            "1:20=20 1:10=10 1:5=5 1:1=1"},
-    };
-    for (const auto &row : rows) {
-        QStringList scales;
-        for (const QStringList &cells : scaleRows(row.style))
-            scales.append(cells.join(u'='));
-        EXPECT_EQ(scales.join(u' '), QString::fromLatin1(row.scales)) << int(row.style);
-    }
-}
-
 class MultiViewSetup : public DialogTest<Dlg_QT_MultiViewSetup>
 {
 protected:
     QTableWidget *blocks() const { return find<QTableWidget>("lstBlocks"); }
     QTableWidget *scales() const { return find<QTableWidget>("msLstScales"); }
-    QString label(const char *name) const { return find<QLabel>(name)->text(); }
-    static QStringList firstColumn(const QTableWidget &table)
-    {
-        QStringList texts;
-        for (int row = 0; row < table.rowCount(); ++row)
-            texts.append(table.item(row, 0)->text());
-        return texts;
-    }
     QStringList listed() const
     {
-        QStringList files = firstColumn(*blocks());
+        QStringList files = tableRows("lstBlocks");
         files.sort();
         return files;
-    }
-    static void select(QTableWidget *table, const QList<int> &rows)
-    {
-        table->clearSelection();
-        for (const int row : rows)
-            table->selectionModel()->select(table->model()->index(row, 0),
-                                            QItemSelectionModel::Select | QItemSelectionModel::Rows);
     }
     void addFiles(const QString &folder, const QStringList &names)
     {
@@ -83,15 +39,13 @@ TEST_F(MultiViewSetup, DrawingFilesWithOneDotInTheirNamesAreListed)
     addFiles(u"support/Template"_s,
              {u"plan.DWG"_s, u"a.b.dwg"_s, u"notes.txt"_s, u"sheet.dxf"_s, u"dwg"_s, u"x.dwg2"_s, u"čas.Dxf"_s});
     QDir(templates).mkdir(u"folder.dwg"_s);
-    EXPECT_EQ(titleBlockFiles(templates).size(), 3);
-    EXPECT_EQ(titleBlockFiles(templates + u"/missing"_s), QStringList());
     show();
     EXPECT_EQ(listed(), (QStringList{u"plan.DWG"_s, u"sheet.dxf"_s, u"čas.Dxf"_s}));
-    EXPECT_EQ(firstColumn(*blocks()), titleBlockFiles(templates));
 }
 
 TEST_F(MultiViewSetup, PagesAndWidgetsFollowTheChoices)
 {
+    const QString arrayOptions = u"viewrows viewcols viewoffsetx viewoffsety labelRows pictureViewports"_s;
     const struct
     {
         const char *clicked;
@@ -115,8 +69,7 @@ TEST_F(MultiViewSetup, PagesAndWidgetsFollowTheChoices)
         EXPECT_EQ(find<QStackedWidget>("PageSpace")->currentWidget(), find(step.space)) << step.clicked;
         EXPECT_EQ(find<QStackedWidget>("psPages")->currentWidget(), find(step.tool)) << step.clicked;
         EXPECT_TRUE(find<QPushButton>(step.action)->isDefault()) << step.clicked;
-        for (const char *name : {"viewrows", "viewcols", "viewoffsetx", "viewoffsety", "labelRows", "pictureViewports"})
-            EXPECT_EQ(isEnabled(name), step.array) << step.clicked << ' ' << name;
+        EXPECT_EQ(enabledOf(arrayOptions), step.array ? arrayOptions : QString()) << step.clicked;
     }
     EXPECT_FALSE(isEnabled("layer"));
     click("oplay");
@@ -126,26 +79,26 @@ TEST_F(MultiViewSetup, PagesAndWidgetsFollowTheChoices)
 TEST_F(MultiViewSetup, TheFactorIsThatOfTheOneChosenScale)
 {
     showWith(u"spacemodel=TRUE\nmsmetric=TRUE\n"_s);
-    const struct
-    {
-        QList<int> rows;
-        const char *factor;
-    } steps[] = {{{7}, "50"}, {{0}, "5000"}, {{0, 1}, "1.0"}, {{11}, "1"}, {{}, "1.0"}};
-    for (const auto &step : steps) {
-        select(scales(), step.rows);
-        EXPECT_EQ(text("curScale"), QString::fromLatin1(step.factor));
+    const std::pair<QList<int>, QString> steps[] = {{{7}, u"50"_s}, {{0, 1}, u"1.0"_s}, {{11}, u"1"_s}, {{}, u"1.0"_s}};
+    for (const auto &[rows, factor] : steps) {
+        selectRows(scales(), rows);
+        EXPECT_EQ(text("curScale"), factor);
     }
-    select(scales(), {7});
+    selectRows(scales(), {7});
     click("msMetric");
     EXPECT_EQ(text("curScale"), u"50"_s) << "the same scales stay chosen";
-    click("msDecimal");
-    EXPECT_EQ(firstColumn(*scales()).value(0), u"4 TIMES"_s);
-    EXPECT_EQ(text("curScale"), u"1.0"_s);
-
+    const std::pair<const char *, QString> styles[] = {{"msArchitectural", u"1/8\"=1'|96.0"_s},
+                                                       {"msEngeneering", u"1\"=10'|120.0"_s},
+                                                       {"msScientific", u"4 TIMES|4.0"_s},
+                                                       {"msDecimal", u"QUARTER|0.25"_s}};
+    for (const auto &[style, scale] : styles) {
+        click(style);
+        EXPECT_TRUE(tableRows("msLstScales").contains(scale)) << style;
+        EXPECT_EQ(text("curScale"), u"1.0"_s) << style;
+    }
     find<QRadioButton>("msDecimal")->setAutoExclusive(false);
     click("msDecimal");
     EXPECT_EQ(scales()->rowCount(), 0) << "no unit style";
-    EXPECT_EQ(text("curScale"), u"1.0"_s);
 }
 
 TEST_F(MultiViewSetup, TheBlockIsTheOneSelectedRowOrElseTheFirst)
@@ -153,19 +106,14 @@ TEST_F(MultiViewSetup, TheBlockIsTheOneSelectedRowOrElseTheFirst)
     addFiles(u"support/Template"_s, {u"a.dwg"_s, u"b.dwg"_s, u"c.dwg"_s});
     showWith({});
     EXPECT_FALSE(isEnabled("InsertTitle"));
-    const struct
-    {
-        QList<int> rows;
-        int inserted;
-    } steps[] = {{{2}, 2}, {{1, 2}, 0}, {{0, 1, 2}, 0}, {{1}, 1}};
-    for (const auto &step : steps) {
+    const std::pair<QList<int>, int> steps[] = {{{2}, 2}, {{1, 2}, 0}, {{1}, 1}};
+    for (const auto &[rows, inserted] : steps) {
         show();
-        select(blocks(), step.rows);
+        selectRows(blocks(), rows);
         ASSERT_TRUE(isEnabled("InsertTitle"));
-        const QString expected = blocks()->item(step.inserted, 0)->text();
+        const QString expected = tableRows("lstBlocks").value(inserted);
         click("InsertTitle");
         EXPECT_TRUE(isAccepted());
-        EXPECT_EQ(label("titleblock"), expected);
         const QString saved = savedState();
         EXPECT_TRUE(saved.contains(u"titleblock=%1\n"_s.arg(expected))) << saved.toStdString();
         EXPECT_TRUE(saved.contains(u"directory=%1/support/Template\n"_s.arg(host.path({})).replace(u"//"_s, u"/"_s)))
@@ -180,23 +128,18 @@ TEST_F(MultiViewSetup, TheBlockIsTheOneSelectedRowOrElseTheFirst)
 
 TEST_F(MultiViewSetup, EachButtonClosesWithItsWord)
 {
-    const struct
-    {
-        const char *page;
-        const char *button;
-        const char *action;
-    } rows[] = {
-        {"psCreate", "CreateViewports", "CREATEVIEWPORTS"}, {"psAlign", "AlignViewports", "ALIGNVIEWPORTS"},
-        {"psScale", "ScaleViewports", "SCALEVIEWPORTS"},    {"SpaceModel", "InsertMsTitle", "INSERTMSTITLE"},
-        {"SpacePaper", "ButtonCancel", "CANCEL"},
+    const std::tuple<const char *, const char *, QString> rows[] = {
+        {"psCreate", "CreateViewports", u"CREATEVIEWPORTS"_s}, {"psAlign", "AlignViewports", u"ALIGNVIEWPORTS"_s},
+        {"psScale", "ScaleViewports", u"SCALEVIEWPORTS"_s},    {"SpaceModel", "InsertMsTitle", u"INSERTMSTITLE"_s},
+        {"SpacePaper", "ButtonCancel", u"CANCEL"_s},
     };
-    for (const auto &row : rows) {
+    for (const auto &[page, button, action] : rows) {
         show();
-        EXPECT_EQ(dialog->state().action(), u"CANCEL"_s) << row.button;
-        click(row.page);
-        click(row.button);
-        EXPECT_EQ(dialog->state().action(), QString::fromLatin1(row.action));
-        EXPECT_EQ(isAccepted(), row.button != std::string_view("ButtonCancel")) << row.button;
+        EXPECT_EQ(dialog->state().action(), u"CANCEL"_s) << button;
+        click(page);
+        click(button);
+        EXPECT_EQ(dialog->state().action(), action);
+        EXPECT_EQ(isAccepted(), action != u"CANCEL"_s) << button;
     }
 }
 
@@ -226,29 +169,26 @@ TEST_F(MultiViewSetup, AFolderThatIsNotThereIsSaidAndTheListStays)
 {
     addFiles(u"own"_s, {u"a3.dwg"_s});
     showWith(u"directory=%1\n"_s.arg(host.path(u"own"_s)));
-    ModalAnswers answers;
-    answers.press(QMessageBox::Ok);
     ASSERT_TRUE(QDir(host.path(u"own"_s)).removeRecursively());
-    show();
-    EXPECT_EQ(answers.shown(), QStringList{missing});
-    EXPECT_EQ(listed(), QStringList{u"a3.dwg"_s});
-
+    {
+        const ModalAnswers answers;
+        show();
+        EXPECT_EQ(answers.shown(), QStringList{missing});
+        EXPECT_EQ(listed(), QStringList{u"a3.dwg"_s});
+    }
     addFiles(u"other"_s, {u"a1.dxf"_s});
-    answers.choose(host.path(u"other"_s));
-    click("selDir");
-    EXPECT_EQ(listed(), QStringList{u"a1.dxf"_s});
-    EXPECT_EQ(dialog->findChild<QLabel *>(u"directory"_s)->property("value").toString(), host.path(u"other"_s));
-    answers.choose({});
-    click("selDir");
-    EXPECT_EQ(listed(), QStringList{u"a1.dxf"_s});
-    EXPECT_TRUE(answers.shown().last().startsWith(u"choose \"Specify folder\" \"%1\""_s.arg(host.path(u"other"_s))));
+    shownChoosing("selDir", host.path(u"other"_s));
+    EXPECT_EQ(fullText("directory"), host.path(u"other"_s));
+    EXPECT_TRUE(shownChoosing("selDir", {})
+                    .value(0)
+                    .startsWith(u"choose \"Specify folder\" \"%1\""_s.arg(host.path(u"other"_s))));
+    EXPECT_EQ(listed(), QStringList{u"a1.dxf"_s}) << "cancelled";
 }
 
 TEST_F(MultiViewSetup, AMissingTemplateFolderIsSaidOnce)
 {
     ASSERT_TRUE(QDir(templates).removeRecursively());
-    ModalAnswers answers;
-    answers.press(QMessageBox::Ok);
+    const ModalAnswers answers;
     show();
     EXPECT_EQ(answers.shown(), QStringList{missing});
     EXPECT_EQ(listed(), QStringList());

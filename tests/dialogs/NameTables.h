@@ -6,16 +6,7 @@
 
 namespace ortakit::test {
 
-/// The texts of the first column from top to bottom, with blanks between.
-inline QString shownTexts(const QTableWidget &table)
-{
-    QStringList texts;
-    for (int row = 0; row < table.rowCount(); ++row)
-        texts.append(table.item(row, 0)->text());
-    return texts.join(u' ');
-}
-
-/// Of these, the ones in selected rows.
+/// The texts of the first column in selected rows from top to bottom, with blanks between.
 inline QString selectedTexts(const QTableWidget &table)
 {
     QStringList texts;

@@ -13,6 +13,7 @@ class ReplaceBlock : public DialogTest<Dlg_QT_ReplaceBlock>
 protected:
     QTableWidget *left() const { return find<QTableWidget>("blocksTable"); }
     QTableWidget *right() const { return find<QTableWidget>("blocksTableRep"); }
+    QString shown(const char *table) const { return tableRows(table).join(u' '); }
     QString previewed(const char *preview) const { return find<DrawingPreview>(preview)->block(); }
 
     void showBlocks(const QString &names, const QString &state = {})
@@ -31,37 +32,30 @@ TEST_F(ReplaceBlock, DescriptionsGiveNamesAndNumbers)
     EXPECT_EQ(found, QStringList({u"DOOR 12"_s, u"WALL 0"_s, u"A B 0"_s, u"DOOR 5"_s}));
     dialog->setBlocks({u"LAMP"_s});
     show();
-    EXPECT_EQ(shownTexts(*left()), u"LAMP"_s);
-    EXPECT_EQ(shownTexts(*right()), u"LAMP"_s);
+    EXPECT_EQ(shown("blocksTable"), u"LAMP"_s);
+    EXPECT_EQ(shown("blocksTableRep"), u"LAMP"_s);
 }
 
 TEST_F(ReplaceBlock, NamesOfDigitsAreNumbersThatFitOrTexts)
 {
-    const struct
-    {
-        QString name;
-        QVariant cell;
-    } rows[] = {
+    const std::pair<QString, QVariant> rows[] = {
         {u"007"_s, 7},
-        {u"0"_s, 0},
         {u"2147483647"_s, 2147483647},
         {u"2147483648"_s, u"2147483648"_s},
-        {u"99999999999"_s, u"99999999999"_s},
         {u"00099999999999"_s, u"00099999999999"_s},
         {QString(100'000, u'9'), QString(100'000, u'9')},
         {u"7A"_s, u"7A"_s},
         {u"-7"_s, u"-7"_s},
-        {u"1.0"_s, u"1.0"_s},
         {u"\u0667"_s, u"\u0667"_s},
     };
-    for (const auto &row : rows) {
-        showBlocks(row.name);
+    for (const auto &[name, shownCell] : rows) {
+        showBlocks(name);
         const QVariant cell = left()->item(0, 0)->data(Qt::DisplayRole);
-        EXPECT_EQ(cell, row.cell) << row.name.left(20).toStdString();
-        EXPECT_EQ(cell.typeId(), row.cell.typeId()) << row.name.left(20).toStdString();
+        EXPECT_EQ(cell, shownCell) << name.left(20).toStdString();
+        EXPECT_EQ(cell.typeId(), shownCell.typeId()) << name.left(20).toStdString();
         left()->selectRow(0);
-        EXPECT_EQ(previewed("PreviewBlock"), row.name) << "the preview is that of the block itself";
-        EXPECT_EQ(savedState().section(u'\n', 0, 0), u"blockstable=%1^"_s.arg(row.cell.toString()));
+        EXPECT_EQ(previewed("PreviewBlock"), name) << "the preview is that of the block itself";
+        EXPECT_EQ(savedState().section(u'\n', 0, 0), u"blockstable=%1^"_s.arg(shownCell.toString()));
     }
 }
 
@@ -73,18 +67,18 @@ TEST_F(ReplaceBlock, EachClickOnTheHeaderTurnsTheOrderAndKeepsTheSelection)
     left()->setCurrentCell(left()->row(left()->findItems(u"door"_s, Qt::MatchExactly)[0]), 0,
                            QItemSelectionModel::NoUpdate);
     for (const QString &order : {ascending, descending, ascending, descending}) {
-        EXPECT_EQ(shownTexts(*left()), order);
-        EXPECT_EQ(shownTexts(*right()), ascending) << "each table has its own order";
+        EXPECT_EQ(shown("blocksTable"), order);
+        EXPECT_EQ(shown("blocksTableRep"), ascending) << "each table has its own order";
         EXPECT_EQ(left()->horizontalHeader()->sortIndicatorOrder() == Qt::AscendingOrder, order == ascending);
         EXPECT_EQ(selectedTexts(*left()), order == ascending ? u"9 door"_s : u"door 9"_s);
         EXPECT_EQ(previewed("PreviewBlock"), u"door"_s);
         clickHeader(*left());
     }
     clickHeader(*right());
-    EXPECT_EQ(shownTexts(*right()), descending);
+    EXPECT_EQ(shown("blocksTableRep"), descending);
     EXPECT_EQ(selectedTexts(*right()), QString()) << "a click on the header selects nothing";
     show();
-    EXPECT_EQ(shownTexts(*right()), descending) << "the order stays for the next showing";
+    EXPECT_EQ(shown("blocksTableRep"), descending) << "the order stays for the next showing";
 }
 
 TEST_F(ReplaceBlock, TheStateSelectsOnEachShowingAndSetsTheRestAfterSetBlocks)
@@ -114,36 +108,31 @@ TEST_F(ReplaceBlock, ApplyChecksInOrder)
                                "Rename one of the two first.\" OK"_s;
     const struct
     {
-        const char *what;
         QString blocks;
         QString replaced; ///< names
         QString replacing;
-        QString message; ///< empty: accepted
+        QStringList message; ///< none: accepted
     } rows[] = {
-        {"nothing", u"DOOR WALL"_s, {}, {}, select},
-        {"no replacing block", u"DOOR WALL"_s, u"DOOR"_s, {}, select},
-        {"no block to replace", u"DOOR WALL"_s, {}, u"WALL"_s, select},
-        {"the same", u"DOOR WALL"_s, u"DOOR"_s, u"DOOR"_s, differ},
-        {"one of several", u"ARCH DOOR WALL"_s, u"ARCH DOOR WALL"_s, u"DOOR"_s, differ},
-        {"a number and itself", u"007 WALL"_s, u"007"_s, u"007"_s, differ},
-        {"different", u"DOOR WALL"_s, u"DOOR"_s, u"WALL"_s, {}},
-        {"a number of its own", u"007 WALL"_s, u"007"_s, u"WALL"_s, {}},
-        {"listed twice", u"007 007 WALL"_s, u"007"_s, u"WALL"_s, {}},
-        {"what Lisp takes it for", u"007 7 WALL"_s, u"7"_s, u"WALL"_s, {}},
-        {"what Lisp takes for another", u"007 7 WALL"_s, u"007 WALL"_s, u"7"_s, indistinct},
-        {"the same on the right", u"007 7 WALL"_s, u"WALL"_s, u"007"_s, indistinct},
-        {"neither is what it shows", u"007 07 WALL"_s, u"007"_s, u"WALL"_s, indistinct},
-        {"too long to be the same", u"99999999999 1215752191 WALL"_s, u"99999999999"_s, u"1215752191"_s, {}},
+        {u"DOOR WALL"_s, u"DOOR"_s, {}, {select}},
+        {u"DOOR WALL"_s, {}, u"WALL"_s, {select}},
+        {u"ARCH DOOR WALL"_s, u"ARCH DOOR WALL"_s, u"DOOR"_s, {differ}},
+        {u"007 WALL"_s, u"007"_s, u"007"_s, {differ}},
+        {u"DOOR WALL"_s, u"DOOR"_s, u"WALL"_s, {}},
+        {u"007 007 WALL"_s, u"007"_s, u"WALL"_s, {}},
+        // Lisp gets the number that a name of digits is taken for.
+        {u"007 7 WALL"_s, u"7"_s, u"WALL"_s, {}},
+        {u"007 7 WALL"_s, u"007 WALL"_s, u"7"_s, {indistinct}},
+        {u"007 7 WALL"_s, u"WALL"_s, u"007"_s, {indistinct}},
+        {u"007 07 WALL"_s, u"007"_s, u"WALL"_s, {indistinct}},
+        {u"99999999999 1215752191 WALL"_s, u"99999999999"_s, u"1215752191"_s, {}},
     };
     for (const auto &row : rows) {
         showBlocks(row.blocks);
         choose(*left(), row.replaced);
         choose(*right(), row.replacing);
-        ModalAnswers answers;
-        answers.press(QMessageBox::Ok);
-        click("acceptButton");
-        EXPECT_EQ(answers.shown().value(0), row.message) << row.what;
-        EXPECT_EQ(isAccepted(), row.message.isEmpty()) << row.what;
+        const std::string what = qPrintable(row.blocks + u": "_s + row.replaced + u" by "_s + row.replacing);
+        EXPECT_EQ(shownBy("acceptButton"), row.message) << what;
+        EXPECT_EQ(isAccepted(), row.message.isEmpty()) << what;
     }
     EXPECT_EQ(dialog->state().action(), u"OK"_s);
 }
@@ -167,33 +156,6 @@ TEST_F(ReplaceBlock, TheFocusIsWhereSomethingIsMissing)
     EXPECT_EQ(previewed("PreviewBlock2"), QString());
     QTest::keyClick(right(), Qt::Key_Down);
     EXPECT_EQ(previewed("PreviewBlock2"), selectedTexts(*right()));
-}
-
-/// Counts how often a widget is painted.
-class PaintCounter final : public QObject
-{
-public:
-    int paints = 0;
-
-    bool eventFilter(QObject *, QEvent *event) override
-    {
-        paints += event->type() == QEvent::Paint ? 1 : 0;
-        return false;
-    }
-};
-
-TEST_F(ReplaceBlock, SelectingAllOfManyBlocksDrawsOnePreview)
-{
-    QStringList names;
-    for (int number = 0; number < 20'000; ++number)
-        names.append(u"B%1"_s.arg(number));
-    showBlocks(names.join(u' '));
-    PaintCounter counter;
-    find("PreviewBlock")->installEventFilter(&counter);
-    QTest::keyClick(left(), Qt::Key_A, Qt::ControlModifier);
-    QCoreApplication::processEvents();
-    EXPECT_EQ(left()->selectionModel()->selectedRows().size(), 20'000);
-    EXPECT_LE(counter.paints, 1);
 }
 
 } // namespace

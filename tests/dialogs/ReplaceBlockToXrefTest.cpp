@@ -24,14 +24,8 @@ protected:
 
     QTableWidget *left() const { return find<QTableWidget>("blocksTable"); }
     QTableWidget *right() const { return find<QTableWidget>("blocksTableRep"); }
+    QString files() const { return tableRows("blocksTableRep").join(u' '); }
     QString previewed() const { return find<DrawingPreview>("PreviewBlock2")->drawing(); }
-    /// The folder field as a person fills it, before Return.
-    void typeFolder(const QString &folder)
-    {
-        find("directory")->setFocus();
-        setText("directory", folder);
-    }
-
     void showBlocks(const QString &state)
     {
         dialog->setBlocks({u"DOOR"_s, u"WALL"_s, u"7"_s, u"007"_s});
@@ -45,35 +39,29 @@ protected:
 TEST_F(ReplaceBlockToXref, OffersDrawingsWithOneDot)
 {
     showBlocks(u"directory=%1\nblockstable=WALL^\n"_s.arg(refs));
-    EXPECT_EQ(shownTexts(*right()), u"a.dwg b.DWG"_s);
+    EXPECT_EQ(files(), u"a.dwg b.DWG"_s);
     EXPECT_EQ(selectedTexts(*left()), u"WALL"_s);
     clickHeader(*right());
-    EXPECT_EQ(shownTexts(*right()), u"b.DWG a.dwg"_s);
+    EXPECT_EQ(files(), u"b.DWG a.dwg"_s);
     choose(*right(), u"b.DWG"_s);
     EXPECT_EQ(previewed(), refs + u"/b.DWG"_s);
 }
 
 TEST_F(ReplaceBlockToXref, ApplyWaitsForAReference)
 {
-    const struct
-    {
-        const char *what;
-        QString state;
-        QString selected;
-        bool enabled;
-    } rows[] = {
-        {"no folder", {}, {}, false},
-        {"no reference in the state", u"directory=%1\n"_s.arg(refs), {}, false},
-        {"its reference", u"directory=%1\nblockstablerep=b.dwg^\n"_s.arg(refs), u"b.DWG"_s, true},
-        {"a file that is gone", u"directory=%1\nblockstablerep=gone.dwg^\n"_s.arg(refs), {}, true},
-        {"a reference without a folder", u"blockstablerep=a.dwg^\n"_s, {}, false},
-        {"two of them", u"directory=%1\nblockstablerep=a.dwg^b.DWG^\n"_s.arg(refs), u"a.dwg"_s, true},
+    const std::tuple<QString, QString, bool> rows[] = {
+        {{}, {}, false},
+        {u"directory=%1\n"_s.arg(refs), {}, false},
+        {u"directory=%1\nblockstablerep=b.dwg^\n"_s.arg(refs), u"b.DWG"_s, true},
+        {u"directory=%1\nblockstablerep=gone.dwg^\n"_s.arg(refs), {}, true},
+        {u"blockstablerep=a.dwg^\n"_s, {}, false},
+        {u"directory=%1\nblockstablerep=a.dwg^b.DWG^\n"_s.arg(refs), u"a.dwg"_s, true},
     };
-    for (const auto &row : rows) {
+    for (const auto &[state, selected, enabled] : rows) {
         SetUp();
-        showBlocks(row.state);
-        EXPECT_EQ(selectedTexts(*right()), row.selected) << row.what;
-        EXPECT_EQ(isEnabled("acceptButton"), row.enabled) << row.what;
+        showBlocks(state);
+        EXPECT_EQ(selectedTexts(*right()), selected) << state.toStdString();
+        EXPECT_EQ(isEnabled("acceptButton"), enabled) << state.toStdString();
     }
     SetUp();
     showBlocks(u"directory=%1\n"_s.arg(refs));
@@ -85,31 +73,21 @@ TEST_F(ReplaceBlockToXref, ApplyWaitsForAReference)
 
 TEST_F(ReplaceBlockToXref, ApplyChecksInOrder)
 {
-    const QString title = u"warning \"Replace blocks\" "_s;
-    const struct
-    {
-        const char *what;
-        QString replaced;
-        QString replacing;
-        QString message; ///< empty: accepted
-    } rows[] = {
-        {"nothing", {}, {}, title + u"\"You must first select the blocks to replace. \" OK"_s},
-        {"no block", {}, u"a.dwg"_s, title + u"\"You must first select the blocks to replace. \" OK"_s},
-        {"no reference", u"DOOR"_s, {}, title + u"\"You must first select the replacing reference. \" OK"_s},
-        {"indistinct", u"DOOR 007"_s, u"a.dwg"_s,
-         title + u"\"The block \"007\" is taken for 7, as another block of the drawing is. "
-                 "Rename one of the two first.\" OK"_s},
-        {"both", u"DOOR WALL 7"_s, u"a.dwg"_s, {}},
+    const QString select = u"warning \"Replace blocks\" \"You must first select the blocks to replace. \" OK"_s;
+    const QString reference = u"warning \"Replace blocks\" \"You must first select the replacing reference. \" OK"_s;
+    const QString indistinct = u"warning \"Replace blocks\" \"The block \"007\" is taken for 7, as another block of "
+                               "the drawing is. Rename one of the two first.\" OK"_s;
+    const std::tuple<QString, QString, QStringList> rows[] = {
+        {{}, u"a.dwg"_s, {select}},         {{}, {}, {select}},
+        {u"DOOR"_s, {}, {reference}},       {u"DOOR 007"_s, u"a.dwg"_s, {indistinct}},
+        {u"DOOR WALL 7"_s, u"a.dwg"_s, {}},
     };
-    for (const auto &row : rows) {
+    for (const auto &[replaced, replacing, message] : rows) {
         showBlocks(u"directory=%1\nblockstablerep=a.dwg^\n"_s.arg(refs));
-        choose(*left(), row.replaced);
-        choose(*right(), row.replacing);
-        ModalAnswers answers;
-        answers.press(QMessageBox::Ok);
-        click("acceptButton");
-        EXPECT_EQ(answers.shown().value(0), row.message) << row.what;
-        EXPECT_EQ(isAccepted(), row.message.isEmpty()) << row.what;
+        choose(*left(), replaced);
+        choose(*right(), replacing);
+        EXPECT_EQ(shownBy("acceptButton"), message) << replaced.toStdString();
+        EXPECT_EQ(isAccepted(), message.isEmpty()) << replaced.toStdString();
     }
     EXPECT_EQ(savedState(), u"blockstable=7^DOOR^WALL^\n!action!=OK\ndirectory=%1\nblockstablerep=a.dwg^\n"
                             "purgeitems=FALSE\n"_s.arg(refs));
@@ -117,28 +95,21 @@ TEST_F(ReplaceBlockToXref, ApplyChecksInOrder)
 
 TEST_F(ReplaceBlockToXref, EnterInTheFolderFieldTakesTheFolderAndStays)
 {
-    const struct
-    {
-        const char *what;
-        QString folder;
-        QString message;
-        QString files;
-    } rows[] = {
-        {"folder", other, {}, u"z.dwg"_s},
-        {"missing folder", host.path(u"none"_s), u"warning \"\" \"Cannot find the specified Path.\" OK"_s, {}},
-        {"folder again", refs, {}, u"a.dwg b.DWG"_s},
-        {"file", refs + u"/a.dwg"_s, u"warning \"\" \"Cannot find the specified Path.\" OK"_s, {}},
-        {"nothing", {}, u"warning \"\" \"Path can`t be empty\" OK"_s, {}},
+    const QString notFound = u"warning \"\" \"Cannot find the specified Path.\" OK"_s;
+    const std::tuple<QString, QStringList, QString> rows[] = {
+        {other, {}, u"z.dwg"_s},
+        {host.path(u"none"_s), {notFound}, {}},
+        {refs, {}, u"a.dwg b.DWG"_s},
+        {refs + u"/a.dwg"_s, {notFound}, {}},
+        {{}, {u"warning \"\" \"Path can`t be empty\" OK"_s}, {}},
     };
     showBlocks(u"directory=%1\nblockstable=WALL^\nblockstablerep=a.dwg^\n"_s.arg(refs));
-    for (const auto &row : rows) {
-        typeFolder(row.folder);
-        ModalAnswers answers;
-        answers.press(QMessageBox::Ok);
-        QTest::keyClick(find("directory"), Qt::Key_Return);
-        EXPECT_EQ(answers.shown().value(0), row.message) << row.what;
-        EXPECT_EQ(shownTexts(*right()), row.files) << row.what;
-        EXPECT_TRUE(dialog->isVisible()) << row.what;
+    for (const auto &[folder, message, found] : rows) {
+        const ModalAnswers answers;
+        enterText("directory", folder);
+        EXPECT_EQ(answers.shown(), message) << folder.toStdString();
+        EXPECT_EQ(files(), found) << folder.toStdString();
+        EXPECT_TRUE(dialog->isVisible()) << folder.toStdString();
     }
 }
 
@@ -148,16 +119,14 @@ TEST_F(ReplaceBlockToXref, AFolderThatWasOnlyTypedCountsAtTheLatestAtApply)
     for (const bool leaves : {true, false}) {
         showBlocks(u"directory=%1\nblockstable=WALL^\nblockstablerep=a.dwg^\n!action!=SETBLOCKS\n"_s.arg(refs));
         EXPECT_EQ(selectedTexts(*right()), u"a.dwg"_s);
-        typeFolder(other);
+        find("directory")->setFocus();
+        setText("directory", other);
         if (leaves) {
             right()->setFocus();
-            EXPECT_EQ(shownTexts(*right()), u"z.dwg"_s);
+            EXPECT_EQ(files(), u"z.dwg"_s);
             EXPECT_EQ(previewed(), QString());
         }
-        ModalAnswers answers;
-        answers.press(QMessageBox::Ok);
-        click("acceptButton");
-        EXPECT_TRUE(answers.shown().value(0).contains(u"replacing reference"_s)) << leaves;
+        EXPECT_TRUE(shownBy("acceptButton").value(0).contains(u"replacing reference"_s)) << leaves;
         EXPECT_FALSE(isAccepted()) << leaves;
     }
 }
@@ -169,7 +138,7 @@ TEST_F(ReplaceBlockToXref, ReturnInATableAppliesAndFilesOfTheNextShowingAreRead)
     EXPECT_TRUE(isAccepted());
     host.writeFile(u"other/y.dwg"_s, "0\nEOF\n");
     show();
-    EXPECT_EQ(shownTexts(*right()), u"y.dwg z.dwg"_s);
+    EXPECT_EQ(files(), u"y.dwg z.dwg"_s);
     EXPECT_EQ(selectedTexts(*right()), u"z.dwg"_s);
 }
 
@@ -177,21 +146,10 @@ TEST_F(ReplaceBlockToXref, BrowseReplacesTheFolder)
 {
     showBlocks(u"directory=%1\n"_s.arg(refs));
     for (const QString &chosen : {QString(), other}) {
-        ModalAnswers answers;
-        answers.choose(chosen);
-        click("selDirectory");
-        EXPECT_EQ(answers.shown().value(0).section(u'"', 1, 1), u"Select folder"_s);
-        EXPECT_EQ(shownTexts(*right()), chosen.isEmpty() ? u"a.dwg b.DWG"_s : u"z.dwg"_s);
+        EXPECT_EQ(shownChoosing("selDirectory", chosen).value(0).section(u'"', 1, 1), u"Select folder"_s);
+        EXPECT_EQ(files(), chosen.isEmpty() ? u"a.dwg b.DWG"_s : u"z.dwg"_s);
     }
     EXPECT_TRUE(savedState().contains(u"directory="_s + other));
-}
-
-TEST_F(ReplaceBlockToXref, CanBeDestroyedWhileTheFolderFieldHasTheFocus)
-{
-    showBlocks(u"directory=%1\n"_s.arg(refs));
-    find("directory")->setFocus();
-    dialog.reset();
-    EXPECT_FALSE(window.focusWidget());
 }
 
 } // namespace

