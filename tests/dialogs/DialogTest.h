@@ -111,6 +111,14 @@ protected:
         return QString::fromUtf8(FakeHost::readFile(stateFile)).remove(QChar(0xFEFF));
     }
 
+    /// Those of `lines` that the state of a confirmed run lacks.
+    QStringList missingInState(QStringList lines)
+    {
+        const QStringList saved = savedState().split(u'\n');
+        lines.removeIf([&](const QString &line) { return saved.contains(line); });
+        return lines;
+    }
+
     FakeHost host;
     QWidget window;
     QString stateFile;

@@ -75,9 +75,8 @@ TEST_F(ExportDimensionStyle, WritesTheSelectedStylesInTheOrderOfTheSelection)
         showWith(u"filedim=%1\n"_s.arg(source));
         select(row.selected);
         click(row.kind);
-        const QString shown = shownChoosing("selectfile", host.path(row.chosen)).value(0);
-        EXPECT_EQ(shown.section(u'"', 1, 1) + shown.section(u'"', 5, 5),
-                  u"Select Dimension Style fileDimStyle files (*.dim)"_s);
+        EXPECT_TRUE(
+            shownChoosing("selectfile", host.path(row.chosen)).value(0).endsWith(u"\"DimStyle files (*.dim)\""_s));
         EXPECT_TRUE(isAccepted()) << row.written.toStdString();
         EXPECT_EQ(FakeHost::readFile(host.path(row.written)), row.content) << row.written.toStdString();
     }
@@ -194,11 +193,9 @@ TEST_F(ImportDimensionStyle, GivesTheChosenNamesToLisp)
     click("cbDimensionStyle");
     click("acceptButton");
     EXPECT_TRUE(isAccepted());
-    const QStringList saved = savedState().split(u'\n');
-    for (const QString &line : {u"lststyles=,ISO-25,Arch"_s, u"txexport=%1"_s.arg(source), u"cbtextstyle=FALSE"_s,
-                                u"cbdimensionstyle=TRUE"_s})
-        EXPECT_TRUE(saved.contains(line)) << line.toStdString();
-    EXPECT_EQ(saved.filter(u"lststyles"_s).size(), 1);
+    EXPECT_EQ(missingInState({u"lststyles=,ISO-25,Arch"_s, u"txexport="_s + source, u"cbtextstyle=FALSE"_s,
+                              u"cbdimensionstyle=TRUE"_s}),
+              QStringList());
 
     show();
     styles()->clearSelection();

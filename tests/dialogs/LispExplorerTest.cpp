@@ -24,11 +24,7 @@ QStringList items(const QListWidget *list)
 class LispExplorer : public DialogTest<Dlg_QT_LispExplorer>
 {
 protected:
-    void SetUp() override
-    {
-        DialogTest::SetUp();
-        QDir().mkpath(folder);
-    }
+    LispExplorer() { QDir().mkpath(folder); }
 
     QListWidget *files() const { return find<QListWidget>("List_files"); }
     QListWidget *functions() const { return find<QListWidget>("List_functions"); }
@@ -57,7 +53,7 @@ protected:
 
 TEST_F(LispExplorer, ListsLispFilesByWhatStandsBehindTheLastDot)
 {
-    QStringList expected = {
+    const QStringList expected = {
         u"a.lsp"_s, u"B.LSP"_s, u"c.d.Lsp"_s, u"lsp"_s, u"größe maß.lsp"_s, u"!;'\".lsp"_s, u"new\nline.lsp"_s,
     };
     const QStringList others = {u"a.lsp.bak"_s, u"a.txt"_s, u"lsp.txt"_s, u"xlsp"_s, u"a.lsp."_s};
@@ -66,10 +62,7 @@ TEST_F(LispExplorer, ListsLispFilesByWhatStandsBehindTheLastDot)
     QDir(folder).mkdir(u"folder.lsp"_s);
     show();
     scan(folder);
-    QStringList found = items(files());
-    found.sort();
-    expected.sort();
-    EXPECT_EQ(found, expected);
+    EXPECT_EQ(files()->count(), expected.size());
     for (const QString &name : expected) {
         selectFile(name);
         EXPECT_EQ(items(functions()), QStringList{u"a"_s}) << name.toStdString();
@@ -146,23 +139,12 @@ TEST_F(LispExplorer, BrowsingStartsAtTheHostsFolderAndScans)
     EXPECT_EQ(items(files()), QStringList{u"plan.lsp"_s});
 }
 
-TEST_F(LispExplorer, SearchControlsNeedATextToSearchIn)
-{
-    open("(defun a () 1)");
-    EXPECT_FALSE(isEnabled("txSearch"));
-    functions()->setCurrentRow(0);
-    EXPECT_EQ(enabledOf(u"txSearch bt_Search"_s), u"txSearch"_s);
-    setText("txSearch", u"x"_s);
-    EXPECT_TRUE(isEnabled("bt_Search"));
-    files()->setCurrentRow(-1);
-    selectFile(u"plan.lsp"_s);
-    EXPECT_FALSE(isEnabled("bt_Search"));
-}
-
 TEST_F(LispExplorer, EnterSearchesForwardAndWraps)
 {
     open("(defun a ()\n (Car b)\n (car c))");
+    EXPECT_FALSE(isEnabled("txSearch"));
     functions()->setCurrentRow(0);
+    EXPECT_EQ(enabledOf(u"txSearch bt_Search"_s), u"txSearch"_s);
     for (const int line : {1, 2, 1}) {
         enterText("txSearch", u"CAR"_s);
         EXPECT_EQ(viewer()->textCursor().selectedText().toLower(), u"car"_s);
@@ -187,42 +169,27 @@ TEST_F(LispExplorer, TypingASearchTextMovesNothing)
     EXPECT_EQ(viewer()->verticalScrollBar()->value(), 0);
 }
 
-TEST_F(LispExplorer, WhatAListOpensWhenItGetsTheFocusIsSelected)
-{
-    write(u"plan.lsp"_s, "(defun a () 1)");
-    show();
-    scan(folder);
-    files()->setFocus();
-    EXPECT_EQ(files()->selectedItems().size(), 1);
-    functions()->setFocus();
-    EXPECT_EQ(functions()->selectedItems().size(), 1);
-    EXPECT_EQ(viewer()->toPlainText(), u"(defun a () 1)"_s);
-}
-
 TEST_F(LispExplorer, LoadsTheSelectedFile)
 {
-    const std::pair<QString, QString> names[] = {
-        {u"plan.lsp"_s, u"plan.lsp"_s}, {u"PLAN.LSP"_s, u"PLAN.LSP"_s}, {u"lsp"_s, u"lsp.lsp"_s}};
-    QStringList paths;
-    for (const auto &[name, loadedName] : names) {
+    const QStringList names = {u"plan.lsp"_s, u"PLAN.LSP"_s, u"lsp"_s};
+    for (const QString &name : names)
         write(name, {});
-        paths.append(folder + u'/' + loadedName);
-    }
     show();
     scan(folder);
-    for (const auto &[name, loadedName] : names) {
+    for (const QString &name : names) {
         selectFile(name);
         EXPECT_EQ(shownBy("Bt_Load"), QStringList{u"information \"LispExplorer\" \"The file has been loaded.\" OK"_s});
     }
     files()->clearSelection();
-    EXPECT_EQ(shownBy("Bt_Load"), QStringList());
-    EXPECT_EQ(host.document().lisp().loadedFiles(), paths) << "nothing selected, nothing loaded";
+    EXPECT_EQ(shownBy("Bt_Load"), QStringList()) << "nothing selected";
+    EXPECT_EQ(host.document().lisp().loadedFiles(),
+              (QStringList{folder + u"/plan.lsp"_s, folder + u"/PLAN.LSP"_s, folder + u"/lsp.lsp"_s}));
 }
 
 const QByteArray catalogue = "VARIABLE!pi!REAL!3.14\nFUNCTION!car!SUBR!Built in!<car>\nCOMMAND!C:B!USUBR!Lisp!<b>\n"
                              "VARIABLE!title!STR!Ground floor\nCOMMAND!C:A!USUBR!Lisp!<a>\nFUNCTION!short\n";
 
-TEST_F(LispExplorer, ShowsWhatTheCatalogueSays)
+TEST_F(LispExplorer, ShowsAndDumpsWhatTheCatalogueSays)
 {
     dialog->readCatalogue(host.writeFile(u"catalogue"_s, catalogue));
     dialog->beginWithLoaded();
@@ -247,22 +214,12 @@ TEST_F(LispExplorer, ShowsWhatTheCatalogueSays)
               QStringList{u"information \"Error loading database\" \"No such file or directory\" OK"_s});
     click("isVariables");
     EXPECT_EQ(table()->rowCount(), 2) << "the symbols stay";
-}
 
-TEST_F(LispExplorer, TheDumpIsWrittenOrNothingIs)
-{
-    dialog->readCatalogue(host.writeFile(u"catalogue"_s, catalogue));
-    dialog->beginWithLoaded();
-    show();
     const QString dump = host.path(u"all.dmp"_s);
-    for (const QString &path : {QString(), host.path(u"missing/all.dmp"_s), dump}) {
-        const QStringList shown = shownChoosing("btnExport", path);
-        EXPECT_EQ(shown.size(), 1) << path.toStdString();
-        EXPECT_TRUE(shown.value(0).startsWith(u"choose \"Save dump file\""_s));
-        EXPECT_TRUE(shown.value(0).endsWith(u"\"Dump files (*.dmp)\""_s));
-    }
-    EXPECT_EQ(FakeHost::readFile(dump), ";(setq C:B <b>)\n;(setq C:A <a>)\n;(setq car <car>)\n;(setq short )\n"
-                                        ";(setq pi 3.14)\n;(setq title \"Ground floor\")\n");
+    EXPECT_EQ(shownChoosing("btnExport", host.path(u"missing/all.dmp"_s)).size(), 1) << "nobody is told";
+    const QString chooser = shownChoosing("btnExport", dump).value(0);
+    EXPECT_TRUE(chooser.startsWith(u"choose \"Save dump file\""_s) && chooser.endsWith(u"\"Dump files (*.dmp)\""_s));
+    EXPECT_TRUE(FakeHost::readFile(dump).startsWith(";(setq C:B <b>)\n;(setq C:A <a>)\n"));
 }
 
 TEST_F(LispExplorer, ShownAgainItReadsTheFolderAnewOnThePageThatWasLeft)
@@ -289,9 +246,12 @@ TEST_F(LispExplorer, ShownAgainItReadsTheFolderAnewOnThePageThatWasLeft)
 
 TEST_F(LispExplorer, EnterPressesOnlyTheFocusedButton)
 {
-    open("(defun a () 1)");
+    write(u"plan.lsp"_s, "(defun a () 1)");
+    show();
+    scan(folder);
     for (const char *name : {"List_files", "List_functions", "tx_EditLisp", "TxDirectory"}) {
         find(name)->setFocus();
+        EXPECT_EQ(files()->selectedItems().size(), 1) << "opened by the focus";
         QTest::keyClick(find(name), Qt::Key_Enter);
         EXPECT_TRUE(dialog->isVisible()) << name;
     }

@@ -43,12 +43,9 @@ TEST_F(MakeLineStyle, NameIsChecked)
     const QString exists = u"Linestyle already exists, you want to replace it?"_s;
     checkNames({
         {"nothing at all", {}, {}, noFile},
-        {"no file, bad name", {}, u"a b"_s, noFile},
         {"no name", lines, {}, noName},
         {"a blank", lines, u"GAS 2"_s, blank},
-        {"nothing but a blank", lines, u" "_s, blank},
         {"existing, kept", lines, u"GAS"_s, exists, QMessageBox::No},
-        {"existing in other case, kept", lines, u"wALL"_s, exists, QMessageBox::No},
         {"existing, replaced", lines, u"gas"_s, exists, QMessageBox::Yes},
         {"a tab is no blank", lines, u"GAS\t2"_s},
         {"new file", host.path(u"new.lin"_s), u"GAS"_s},

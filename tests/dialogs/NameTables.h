@@ -1,8 +1,8 @@
 #pragma once
 
+#include "tests/dialogs/DialogTest.h"
+
 #include <QHeaderView>
-#include <QTableWidget>
-#include <QTest>
 
 namespace ortakit::test {
 
@@ -31,5 +31,22 @@ inline void clickHeader(const QTableWidget &table)
     const QHeaderView *header = table.horizontalHeader();
     QTest::mouseClick(header->viewport(), Qt::LeftButton, {}, QPoint(header->sectionSize(0) / 2, header->height() / 2));
 }
+
+/// A dialog that replaces the blocks of its left table.
+template <class Dialog>
+class BlockDialogTest : public DialogTest<Dialog>
+{
+protected:
+    QTableWidget *left() const { return this->template find<QTableWidget>("blocksTable"); }
+    QTableWidget *right() const { return this->template find<QTableWidget>("blocksTableRep"); }
+    QString leftRows() const { return this->tableRows("blocksTable").join(u' '); }
+    QString rightRows() const { return this->tableRows("blocksTableRep").join(u' '); }
+    /// `names` have blanks between.
+    void showBlocks(const QString &names, const QString &state = {})
+    {
+        this->dialog->setBlocks(names.split(u' '));
+        this->showWith(state);
+    }
+};
 
 } // namespace ortakit::test

@@ -1,6 +1,5 @@
 #include "dialogs/replaceblock/Dlg_QT_ReplaceBlock.h"
 #include "state/DrawingPreview.h"
-#include "tests/dialogs/DialogTest.h"
 #include "tests/dialogs/NameTables.h"
 
 using namespace ortakit::test;
@@ -8,19 +7,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-class ReplaceBlock : public DialogTest<Dlg_QT_ReplaceBlock>
+class ReplaceBlock : public BlockDialogTest<Dlg_QT_ReplaceBlock>
 {
 protected:
-    QTableWidget *left() const { return find<QTableWidget>("blocksTable"); }
-    QTableWidget *right() const { return find<QTableWidget>("blocksTableRep"); }
-    QString shown(const char *table) const { return tableRows(table).join(u' '); }
     QString previewed(const char *preview) const { return find<DrawingPreview>(preview)->block(); }
-
-    void showBlocks(const QString &names, const QString &state = {})
-    {
-        dialog->setBlocks(names.split(u' '));
-        showWith(state);
-    }
 };
 
 TEST_F(ReplaceBlock, DescriptionsGiveNamesAndNumbers)
@@ -30,10 +20,6 @@ TEST_F(ReplaceBlock, DescriptionsGiveNamesAndNumbers)
     for (const auto &block : dialog->blocks())
         found.append(block.name + u' ' + QString::number(block.number));
     EXPECT_EQ(found, QStringList({u"DOOR 12"_s, u"WALL 0"_s, u"A B 0"_s, u"DOOR 5"_s}));
-    dialog->setBlocks({u"LAMP"_s});
-    show();
-    EXPECT_EQ(shown("blocksTable"), u"LAMP"_s);
-    EXPECT_EQ(shown("blocksTableRep"), u"LAMP"_s);
 }
 
 TEST_F(ReplaceBlock, NamesOfDigitsAreNumbersThatFitOrTexts)
@@ -67,18 +53,18 @@ TEST_F(ReplaceBlock, EachClickOnTheHeaderTurnsTheOrderAndKeepsTheSelection)
     left()->setCurrentCell(left()->row(left()->findItems(u"door"_s, Qt::MatchExactly)[0]), 0,
                            QItemSelectionModel::NoUpdate);
     for (const QString &order : {ascending, descending, ascending, descending}) {
-        EXPECT_EQ(shown("blocksTable"), order);
-        EXPECT_EQ(shown("blocksTableRep"), ascending) << "each table has its own order";
+        EXPECT_EQ(leftRows(), order);
+        EXPECT_EQ(rightRows(), ascending) << "each table has its own order";
         EXPECT_EQ(left()->horizontalHeader()->sortIndicatorOrder() == Qt::AscendingOrder, order == ascending);
         EXPECT_EQ(selectedTexts(*left()), order == ascending ? u"9 door"_s : u"door 9"_s);
         EXPECT_EQ(previewed("PreviewBlock"), u"door"_s);
         clickHeader(*left());
     }
     clickHeader(*right());
-    EXPECT_EQ(shown("blocksTableRep"), descending);
+    EXPECT_EQ(rightRows(), descending);
     EXPECT_EQ(selectedTexts(*right()), QString()) << "a click on the header selects nothing";
     show();
-    EXPECT_EQ(shown("blocksTableRep"), descending) << "the order stays for the next showing";
+    EXPECT_EQ(rightRows(), descending) << "the order stays for the next showing";
 }
 
 TEST_F(ReplaceBlock, TheStateSelectsOnEachShowingAndSetsTheRestAfterSetBlocks)

@@ -1,6 +1,5 @@
 #include "dialogs/replaceblocktoxref/Dlg_QT_ReplaceBlockToXref.h"
 #include "state/DrawingPreview.h"
-#include "tests/dialogs/DialogTest.h"
 #include "tests/dialogs/NameTables.h"
 
 #include <QDir>
@@ -10,7 +9,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-class ReplaceBlockToXref : public DialogTest<Dlg_QT_ReplaceBlockToXref>
+class ReplaceBlockToXref : public BlockDialogTest<Dlg_QT_ReplaceBlockToXref>
 {
 protected:
     ReplaceBlockToXref()
@@ -22,15 +21,8 @@ protected:
         host.writeFile(u"other/z.dwg"_s, "0\nEOF\n");
     }
 
-    QTableWidget *left() const { return find<QTableWidget>("blocksTable"); }
-    QTableWidget *right() const { return find<QTableWidget>("blocksTableRep"); }
-    QString files() const { return tableRows("blocksTableRep").join(u' '); }
     QString previewed() const { return find<DrawingPreview>("PreviewBlock2")->drawing(); }
-    void showBlocks(const QString &state)
-    {
-        dialog->setBlocks({u"DOOR"_s, u"WALL"_s, u"7"_s, u"007"_s});
-        showWith(state);
-    }
+    void showWithState(const QString &state) { showBlocks(u"DOOR WALL 7 007"_s, state); }
 
     QString refs = host.path(u"refs"_s);
     QString other = host.path(u"other"_s);
@@ -38,11 +30,11 @@ protected:
 
 TEST_F(ReplaceBlockToXref, OffersDrawingsWithOneDot)
 {
-    showBlocks(u"directory=%1\nblockstable=WALL^\n"_s.arg(refs));
-    EXPECT_EQ(files(), u"a.dwg b.DWG"_s);
+    showWithState(u"directory=%1\nblockstable=WALL^\n"_s.arg(refs));
+    EXPECT_EQ(rightRows(), u"a.dwg b.DWG"_s);
     EXPECT_EQ(selectedTexts(*left()), u"WALL"_s);
     clickHeader(*right());
-    EXPECT_EQ(files(), u"b.DWG a.dwg"_s);
+    EXPECT_EQ(rightRows(), u"b.DWG a.dwg"_s);
     choose(*right(), u"b.DWG"_s);
     EXPECT_EQ(previewed(), refs + u"/b.DWG"_s);
 }
@@ -51,7 +43,6 @@ TEST_F(ReplaceBlockToXref, ApplyWaitsForAReference)
 {
     const std::tuple<QString, QString, bool> rows[] = {
         {{}, {}, false},
-        {u"directory=%1\n"_s.arg(refs), {}, false},
         {u"directory=%1\nblockstablerep=b.dwg^\n"_s.arg(refs), u"b.DWG"_s, true},
         {u"directory=%1\nblockstablerep=gone.dwg^\n"_s.arg(refs), {}, true},
         {u"blockstablerep=a.dwg^\n"_s, {}, false},
@@ -59,12 +50,12 @@ TEST_F(ReplaceBlockToXref, ApplyWaitsForAReference)
     };
     for (const auto &[state, selected, enabled] : rows) {
         SetUp();
-        showBlocks(state);
+        showWithState(state);
         EXPECT_EQ(selectedTexts(*right()), selected) << state.toStdString();
         EXPECT_EQ(isEnabled("acceptButton"), enabled) << state.toStdString();
     }
     SetUp();
-    showBlocks(u"directory=%1\n"_s.arg(refs));
+    showWithState(u"directory=%1\n"_s.arg(refs));
     right()->selectRow(0);
     EXPECT_TRUE(isEnabled("acceptButton")) << "chosen by the user";
     show();
@@ -83,7 +74,7 @@ TEST_F(ReplaceBlockToXref, ApplyChecksInOrder)
         {u"DOOR WALL 7"_s, u"a.dwg"_s, {}},
     };
     for (const auto &[replaced, replacing, message] : rows) {
-        showBlocks(u"directory=%1\nblockstablerep=a.dwg^\n"_s.arg(refs));
+        showWithState(u"directory=%1\nblockstablerep=a.dwg^\n"_s.arg(refs));
         choose(*left(), replaced);
         choose(*right(), replacing);
         EXPECT_EQ(shownBy("acceptButton"), message) << replaced.toStdString();
@@ -93,7 +84,7 @@ TEST_F(ReplaceBlockToXref, ApplyChecksInOrder)
                             "purgeitems=FALSE\n"_s.arg(refs));
 }
 
-TEST_F(ReplaceBlockToXref, EnterInTheFolderFieldTakesTheFolderAndStays)
+TEST_F(ReplaceBlockToXref, AFolderIsTypedAndEnteredOrChosen)
 {
     const QString notFound = u"warning \"\" \"Cannot find the specified Path.\" OK"_s;
     const std::tuple<QString, QStringList, QString> rows[] = {
@@ -103,27 +94,32 @@ TEST_F(ReplaceBlockToXref, EnterInTheFolderFieldTakesTheFolderAndStays)
         {refs + u"/a.dwg"_s, {notFound}, {}},
         {{}, {u"warning \"\" \"Path can`t be empty\" OK"_s}, {}},
     };
-    showBlocks(u"directory=%1\nblockstable=WALL^\nblockstablerep=a.dwg^\n"_s.arg(refs));
+    showWithState(u"directory=%1\nblockstable=WALL^\nblockstablerep=a.dwg^\n"_s.arg(refs));
     for (const auto &[folder, message, found] : rows) {
         const ModalAnswers answers;
         enterText("directory", folder);
         EXPECT_EQ(answers.shown(), message) << folder.toStdString();
-        EXPECT_EQ(files(), found) << folder.toStdString();
+        EXPECT_EQ(rightRows(), found) << folder.toStdString();
         EXPECT_TRUE(dialog->isVisible()) << folder.toStdString();
     }
+    for (const QString &chosen : {other, QString()}) {
+        EXPECT_EQ(shownChoosing("selDirectory", chosen).value(0).section(u'"', 1, 1), u"Select folder"_s);
+        EXPECT_EQ(rightRows(), u"z.dwg"_s) << "what is cancelled changes nothing";
+    }
+    EXPECT_EQ(missingInState({u"directory="_s + other}), QStringList());
 }
 
 // Else Lisp would look for the chosen file in another folder.
 TEST_F(ReplaceBlockToXref, AFolderThatWasOnlyTypedCountsAtTheLatestAtApply)
 {
     for (const bool leaves : {true, false}) {
-        showBlocks(u"directory=%1\nblockstable=WALL^\nblockstablerep=a.dwg^\n!action!=SETBLOCKS\n"_s.arg(refs));
+        showWithState(u"directory=%1\nblockstable=WALL^\nblockstablerep=a.dwg^\n!action!=SETBLOCKS\n"_s.arg(refs));
         EXPECT_EQ(selectedTexts(*right()), u"a.dwg"_s);
         find("directory")->setFocus();
         setText("directory", other);
         if (leaves) {
             right()->setFocus();
-            EXPECT_EQ(files(), u"z.dwg"_s);
+            EXPECT_EQ(rightRows(), u"z.dwg"_s);
             EXPECT_EQ(previewed(), QString());
         }
         EXPECT_TRUE(shownBy("acceptButton").value(0).contains(u"replacing reference"_s)) << leaves;
@@ -133,23 +129,13 @@ TEST_F(ReplaceBlockToXref, AFolderThatWasOnlyTypedCountsAtTheLatestAtApply)
 
 TEST_F(ReplaceBlockToXref, ReturnInATableAppliesAndFilesOfTheNextShowingAreRead)
 {
-    showBlocks(u"directory=%1\nblockstable=WALL^\nblockstablerep=z.dwg^\n"_s.arg(other));
+    showWithState(u"directory=%1\nblockstable=WALL^\nblockstablerep=z.dwg^\n"_s.arg(other));
     QTest::keyClick(right(), Qt::Key_Return);
     EXPECT_TRUE(isAccepted());
     host.writeFile(u"other/y.dwg"_s, "0\nEOF\n");
     show();
-    EXPECT_EQ(files(), u"y.dwg z.dwg"_s);
+    EXPECT_EQ(rightRows(), u"y.dwg z.dwg"_s);
     EXPECT_EQ(selectedTexts(*right()), u"z.dwg"_s);
-}
-
-TEST_F(ReplaceBlockToXref, BrowseReplacesTheFolder)
-{
-    showBlocks(u"directory=%1\n"_s.arg(refs));
-    for (const QString &chosen : {QString(), other}) {
-        EXPECT_EQ(shownChoosing("selDirectory", chosen).value(0).section(u'"', 1, 1), u"Select folder"_s);
-        EXPECT_EQ(files(), chosen.isEmpty() ? u"a.dwg b.DWG"_s : u"z.dwg"_s);
-    }
-    EXPECT_TRUE(savedState().contains(u"directory="_s + other));
 }
 
 } // namespace
