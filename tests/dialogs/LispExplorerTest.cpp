@@ -83,6 +83,7 @@ TEST_F(LispExplorer, ScanningStartsAnew)
     }
     EXPECT_TRUE(dialog->isVisible()) << "Enter in the folder field does nothing else";
     setText("TxDirectory", u"/somewhere/else"_s);
+    const ModalAnswers answers;
     selectFile(u"plan.lsp"_s);
     EXPECT_EQ(items(functions()), QStringList{u"a"_s}) << "files are those of the scanned folder";
 }
