@@ -10,9 +10,10 @@ namespace ortakit {
 class AttributeTableReader
 {
 public:
-    /// Larger tables are refused: a few bytes a line would make a table that no memory holds.
+    /// Larger tables are refused: a few bytes a line would make a table that no memory holds. So many cells that are
+    /// shown take more than a gigabyte.
     static constexpr qsizetype mostColumns = 10'000;
-    static constexpr qsizetype mostCells = 20'000'000;
+    static constexpr qsizetype mostCells = 5'000'000;
 
     /// Reads the headers. `text` must outlive the reader.
     explicit AttributeTableReader(QByteArrayView text);

@@ -50,7 +50,7 @@ QItemSelection selectionOf(const QTableWidget &table, const QList<QTableWidgetIt
     return selection;
 }
 
-/// Takes the old selection away before it makes the new one.
+/// Takes an old selection of many ranges away before it makes the new one; a listener hears of both.
 class QuickSelectionModel final : public QItemSelectionModel
 {
 public:
@@ -59,10 +59,13 @@ public:
 
     void select(const QItemSelection &selection, SelectionFlags command) override
     {
-        if (command.testFlag(Clear) && !selection.isEmpty())
+        if (command.testFlag(Clear) && this->selection().size() > fewRanges)
             QItemSelectionModel::select(QItemSelection(), Clear);
         QItemSelectionModel::select(selection, command);
     }
+
+private:
+    static constexpr qsizetype fewRanges = 100;
 };
 
 int itemCount(const QTableWidget &table, int row, int firstColumn, int lastColumn)

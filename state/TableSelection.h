@@ -24,8 +24,9 @@ void selectRows(QTableWidget &table, const QList<int> &rows);
 QItemSelection rangesOfRows(const QTableWidget &table, int firstColumn, int lastColumn, QList<int> rows);
 
 /// Lets the user select anew, as with a click, Shift or Ctrl+A, after many separate cells were selected: Qt compares
-/// each old range with each new one. To be called before anything is connected to the table's selection model; of the
-/// signals that QTableWidget makes from it, only itemSelectionChanged() remains.
+/// each old range with each new one. To be called before anything is connected to the table's selection model and
+/// before setHeaderForSorting(); of the signals that QTableWidget makes from it, only itemSelectionChanged() remains,
+/// which then comes for the old selection and for the new one.
 void makeNewSelectionsQuick(QTableWidget &table);
 
 // What Qt itself answers about a selection of many separate rows takes time that grows with the square of their number;

@@ -16,6 +16,9 @@
 #include <QScopedValueRollback>
 #include <QSignalBlocker>
 
+#include <algorithm>
+#include <utility>
+
 Dlg_QT_ImportBlockAttributes::Dlg_QT_ImportBlockAttributes(QWidget *parent)
     : ToolDialog(parent, QStringLiteral("importblockattributes")),
       m_ui(std::make_unique<Ui::Dlg_QT_ImportBlockAttributes>())
@@ -23,6 +26,8 @@ Dlg_QT_ImportBlockAttributes::Dlg_QT_ImportBlockAttributes(QWidget *parent)
     m_ui->setupUi(this);
     setUpButtons();
     setUpTable();
+    // Before the field's own filter, which then comes first and takes what was typed.
+    m_ui->AttributeFile->installEventFilter(this);
     m_file = std::make_unique<ElidedPathField>(m_ui->AttributeFile);
     connectWidgets();
 }
@@ -43,7 +48,6 @@ void Dlg_QT_ImportBlockAttributes::connectWidgets()
 {
     // Behind the field's own connection, so that the typed path has been taken.
     connect(m_ui->AttributeFile, &QLineEdit::returnPressed, this, &Dlg_QT_ImportBlockAttributes::fillAttributes);
-    connect(m_file.get(), &ElidedPathField::pathEntered, this, &Dlg_QT_ImportBlockAttributes::leaveFileField);
     connect(m_ui->selectfile, &QPushButton::clicked, this, &Dlg_QT_ImportBlockAttributes::SelectFileAtt);
     connect(m_ui->btReplace, &QPushButton::clicked, this, &Dlg_QT_ImportBlockAttributes::replace);
     for (const QLineEdit *field : {m_ui->txsearch, m_ui->txreplace})
@@ -90,13 +94,14 @@ void Dlg_QT_ImportBlockAttributes::fillAttributes()
         takeFile(Report::Told);
 }
 
-/// A path that was typed counts from here on, as with Return; one that leads nowhere goes at the next step.
-void Dlg_QT_ImportBlockAttributes::leaveFileField()
+/// A path that was typed counts when its field is left, as with Enter; one that leads nowhere goes at the next step.
+bool Dlg_QT_ImportBlockAttributes::eventFilter(QObject *watched, QEvent *event)
 {
-    const QString path = m_file->fullPath();
-    if (!m_ui->AttributeFile->hasFocus() && path != m_acceptedFile &&
-        ortakit::checkFile(path) == ortakit::PathProblem::None)
+    const bool isLeft = watched == m_ui->AttributeFile && event->type() == QEvent::FocusOut && isVisible();
+    if (isLeft && m_file->fullPath() != m_acceptedFile &&
+        ortakit::checkFile(m_file->fullPath()) == ortakit::PathProblem::None)
         takeFile(Report::Told);
+    return ToolDialog::eventFilter(watched, event);
 }
 
 /// Whether the field leads to a file. Otherwise it gets the accepted one back.

@@ -4,6 +4,7 @@
 #include "state/ToolDialog.h"
 
 #include <memory>
+#include <vector>
 
 class QTableWidgetItem;
 
@@ -23,6 +24,8 @@ class Dlg_QT_ImportBlockAttributes final : public ToolDialog
 public:
     explicit Dlg_QT_ImportBlockAttributes(QWidget *parent = nullptr);
     ~Dlg_QT_ImportBlockAttributes() override;
+
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 protected:
     void afterShow() override;
@@ -47,7 +50,6 @@ private:
 
     void setUpTable();
     void connectWidgets();
-    void leaveFileField();
     bool hasFile(Report report);
     void takeFile(Report report);
     bool readTable(const QString &path, Report report);

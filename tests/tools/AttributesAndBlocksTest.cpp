@@ -10,18 +10,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-class AttributesAndBlocks : public testing::Test
-{
-protected:
-    void plays(const QString &session)
-    {
-        const RunOutcome outcome = run.play(session, plan);
-        EXPECT_EQ(outcome.status, 0) << outcome.output.toStdString();
-    }
-
-    ToolRun run;
-    QString plan = ToolRun::sample(u"plan.dxf"_s);
-};
+using AttributesAndBlocks = ToolTest;
 
 TEST_F(AttributesAndBlocks, ChosenRowsAreInTheStateFile)
 {
