@@ -95,8 +95,9 @@ TEST_F(TextMask, WorksWithoutTheVariable)
 TEST_F(TextMask, OffsetMustBeANumberOfZeroOrMore)
 {
     const std::pair<QString, bool> rows[] = {
-        {u"0"_s, true},    {u"1e2"_s, true},  {u"-0.5"_s, false},  {u"1,5"_s, false},   {{}, false},
-        {u"1 2"_s, false}, {u"nan"_s, false}, {u"1e999"_s, false}, {u"1,000"_s, false}, {u"0x10"_s, false},
+        {u"0"_s, true},      {u"1e2"_s, true},    {u"-0.5"_s, false}, {u"1,5"_s, false},
+        {{}, false},         {u"1 2"_s, false},   {u"nan"_s, false},  {u"inf"_s, false},
+        {u"1e999"_s, false}, {u"1,000"_s, false}, {u"0x10"_s, false},
     };
     const QStringList message = {u"warning \"\" \"Wrong dimension value.\" \"Must be positive or zero.\" OK"_s};
     const QLocale before;
