@@ -59,7 +59,8 @@ public:
 
     void select(const QItemSelection &selection, SelectionFlags command) override
     {
-        if (command.testFlag(Clear) && this->selection().size() > fewRanges)
+        // Whichever of the two has many ranges, Qt would cut the other one into as many pieces.
+        if (command.testFlag(Clear) && std::max(this->selection().size(), selection.size()) > fewRanges)
             QItemSelectionModel::select(QItemSelection(), Clear);
         QItemSelectionModel::select(selection, command);
     }
