@@ -126,6 +126,11 @@ void LispEngine::returnPoint(const OdGePoint3d &point)
     setResult(Value::point(point.x, point.y, point.z));
 }
 
+void LispEngine::returnEntityName(const OdDbObjectId &object)
+{
+    setResult(object.isNull() ? Value() : Value::entityName(object.number()));
+}
+
 void LispEngine::returnList(OdResBufPtr chain)
 {
     const OdResBuf *link = chain.get();

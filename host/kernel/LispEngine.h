@@ -30,6 +30,7 @@ public:
     void returnReal(double value) override;
     void returnString(const OdString &value) override;
     void returnPoint(const OdGePoint3d &point) override;
+    void returnEntityName(const OdDbObjectId &object) override;
     void returnList(OdResBufPtr chain) override;
     void setSymbol(const OdString &name, const OdResBuf &value) override;
     bool loadFile(const OdString &path) override;

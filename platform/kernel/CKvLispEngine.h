@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/db/OdDbObjectId.h"
 #include "platform/kernel/OdResBuf.h"
 
 /// The Lisp engine of one document, as external functions use it.
@@ -29,6 +30,8 @@ public:
     virtual void returnReal(double value) = 0;
     virtual void returnString(const OdString &value) = 0;
     virtual void returnPoint(const OdGePoint3d &point) = 0;
+    /// The Lisp entity name of `object`; nil for a null id.
+    virtual void returnEntityName(const OdDbObjectId &object) = 0;
     /// The links between a list begin (5016) and a list end (5017), with both.
     virtual void returnList(OdResBufPtr chain) = 0;
 

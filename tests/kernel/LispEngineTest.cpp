@@ -159,6 +159,8 @@ TEST_F(Engine, resultsOfEachKind)
              e.returnPoint({1.0, 2.0, 3.0});
          },
          "(1.0 2.0 3.0)"},
+        {[](CKvLispEngine &e) { e.returnEntityName(OdDbObjectId(10)); }, "<Entity name: a>"},
+        {[](CKvLispEngine &e) { e.returnEntityName({}); }, "nil"},
         {[](CKvLispEngine &e) { e.returnList(nullptr); }, "nil"},
         {[](CKvLispEngine &e) { e.returnList(OdResBuf::newRb(OdResBuf::kRtListBegin)); }, "nil"},
         {[](CKvLispEngine &e) { e.returnList(OdResBuf::newRb(OdResBuf::kRtListEnd)); }, "nil"},

@@ -139,6 +139,11 @@ void FakeLispEngine::returnPoint(const OdGePoint3d &point)
     m_result = pointText(point);
 }
 
+void FakeLispEngine::returnEntityName(const OdDbObjectId &object)
+{
+    m_result = QStringLiteral("<%1>").arg(object.number());
+}
+
 void FakeLispEngine::returnList(OdResBufPtr chain)
 {
     m_result = chainText(chain.get());

@@ -55,6 +55,7 @@ public:
     void returnReal(double value) override { m_result = QString::number(value); }
     void returnString(const OdString &value) override;
     void returnPoint(const OdGePoint3d &point) override;
+    void returnEntityName(const OdDbObjectId &object) override;
     void returnList(OdResBufPtr chain) override;
     void setSymbol(const OdString &name, const OdResBuf &value) override;
     bool loadFile(const OdString &path) override
