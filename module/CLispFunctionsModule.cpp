@@ -2,6 +2,7 @@
 
 #include "module/DialogRegistry.h"
 #include "module/LispFunctionTable.h"
+#include "module/ModuleCommands.h"
 #include "platform/ed/OdEditor.h"
 #include "platform/kernel/CKvDocument.h"
 #include "platform/kernel/CKvSystemServices.h"
@@ -23,6 +24,7 @@ void CLispFunctionsModule::initApp()
         for (int index = 0; index < manager->documentCount(); ++index)
             LispDocumentReady(manager->document(index));
     }
+    ortakit::addCommands();
     odedEditor()->addReactor(&m_editorReactor);
 }
 
@@ -33,6 +35,7 @@ void CLispFunctionsModule::uninitApp()
         for (int index = 0; index < manager->documentCount(); ++index)
             LispDocumentClosing(manager->document(index));
     }
+    ortakit::removeCommands();
     odedEditor()->removeReactor(&m_editorReactor);
 }
 

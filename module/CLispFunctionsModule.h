@@ -9,8 +9,8 @@
 class CLispFunctionsModule : public OdRxModule, public CKvDocumentManagerReactor
 {
 public:
-    /// Takes in the documents that are open already and listens for others. A host without documents gets the editor
-    /// reactor all the same.
+    /// Takes in the documents that are open already and listens for others. A host without documents gets the commands
+    /// and the editor reactor all the same.
     void initApp() override;
     /// Undoes initApp(); dialogs of every document are deleted.
     void uninitApp() override;

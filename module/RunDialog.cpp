@@ -1,15 +1,13 @@
 #include "module/RunDialog.h"
 
+#include "module/CommandDialog.h"
 #include "module/DialogRegistry.h"
-#include "platform/kernel/CKvSystemServices.h"
 
 namespace ortakit {
 
 CKvDialog *findDialog(const CKvDocument &document, DialogSlot slot, CKvDialog *(*create)(QWidget *parent))
 {
-    CKvSystemServices *services = GetKvSystemServices();
-    QWidget *mainWindow = services ? services->mainWindow() : nullptr;
-    return DialogRegistry::instance().dialog(&document, slot, create, mainWindow);
+    return DialogRegistry::instance().dialog(&document, slot, create, dialogParent());
 }
 
 bool areAcceptable(const OdResBuf *first, FirstArgument firstArgument, ExtraArguments extra)

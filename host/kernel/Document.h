@@ -88,8 +88,8 @@ public:
     RunResult run(const QString &text, const QString &sourceName = {});
     /// Loads a Lisp file.
     RunResult loadLisp(const QString &path);
-    /// A Lisp command (C:NAME) or else a built-in one, by its name as typed or by an alias that is no command's name.
-    /// What it asks is taken from the queue.
+    /// A Lisp command (C:NAME), else a built-in one or one that a module brought, by its name as typed or by an alias
+    /// that is no command's name. What it asks is taken from the queue.
     RunResult runCommand(const QString &name);
     /// The command that `typed` is an alias for, as the user's alias file has it; `typed` itself when it is none.
     /// Prints when the file cannot be read. Commands come first: this is for what is the name of none.

@@ -5,7 +5,9 @@
 #include "host/kernel/Session.h"
 #include "host/kernel/SystemVariables.h"
 #include "host/kernel/commands/CommandRun.h"
+#include "host/kernel/commands/CommandStack.h"
 #include "host/kernel/commands/CommandTable.h"
+#include "host/kernel/commands/ModuleCommandRun.h"
 #include "host/kernel/functions/LispConversion.h"
 #include "host/kernel/input/UserInput.h"
 #include "host/lisp/Interpreter.h"
@@ -103,7 +105,7 @@ bool Document::isLispCommand(const QString &typed) const
 
 bool Document::isCommand(const QString &typed) const
 {
-    return isLispCommand(typed) || CommandTable::find(typed);
+    return isLispCommand(typed) || CommandTable::find(typed) || m_session.commandStack().find(typed);
 }
 
 QString Document::commandOfAlias(const QString &typed)
@@ -119,6 +121,10 @@ RunResult Document::runBuiltIn(const QString &typed)
 {
     const QString name = CommandTable::plainName(typed);
     const Run scope(*this, name);
+    if (OdEdCommand *brought = m_session.commandStack().find(typed)) {
+        runModuleCommand(*this, *brought);
+        return {};
+    }
     const std::unique_ptr<CommandRun> command = CommandRun::start(*this, typed);
     if (!command) {
         const QString message = QStringLiteral("Unknown command \"%1\".").arg(name);

@@ -1,5 +1,6 @@
 #include "host/kernel/Services.h"
 
+#include "platform/ed/OdEdCommand.h"
 #include "platform/ed/OdEditor.h"
 #include "platform/kernel/CKvCustBlockUtils.h"
 #include "platform/kernel/CKvDocument.h"
@@ -42,6 +43,11 @@ CKvHelp *GetKvHelp()
 OdEditor *odedEditor()
 {
     return installed.editor;
+}
+
+OdEdCommandStack *odedRegCmds()
+{
+    return installed.commands;
 }
 
 CKvCustBlockUtils *CKvCustBlockUtils::Get()

@@ -7,6 +7,7 @@ class CKvCustBlockUtils;
 class CKvDocument;
 class CKvHelp;
 class CKvSystemServices;
+class OdEdCommandStack;
 class OdEditor;
 
 namespace host::kernel {
@@ -18,11 +19,12 @@ struct Services
     CKvHelp *help = nullptr;
     OdEditor *editor = nullptr;
     CKvCustBlockUtils *customBlocks = nullptr;
+    OdEdCommandStack *commands = nullptr;
 };
 
-/// From now on GetKvSystemServices(), GetKvHelp(), odedEditor() and CKvCustBlockUtils::Get() give these; returns the
-/// ones before, which whoever installs for a while puts back. A running host installs its own when its document manager
-/// is made.
+/// From now on GetKvSystemServices(), GetKvHelp(), odedEditor(), CKvCustBlockUtils::Get() and odedRegCmds() give these;
+/// returns the ones before, which whoever installs for a while puts back. A running host installs its own when its
+/// document manager is made.
 KV_EXPORT Services installServices(const Services &services);
 
 /// From now on ACTIVE_DOCUMENT() gives `document`, which may be null; returns the one before.

@@ -13,6 +13,7 @@
 
 namespace host::kernel {
 
+class CommandStack;
 class CustomBlocks;
 class Editor;
 class HelpService;
@@ -44,6 +45,7 @@ public:
     DocumentManager &documents() { return *m_documents; }
     ModuleLoader &modules() { return *m_modules; }
     Editor &editor() { return *m_editor; }
+    CommandStack &commandStack() { return *m_commandStack; }
     InputQueue &input() { return m_input; }
     CommandAliases &aliases() { return m_aliases; }
 
@@ -71,6 +73,7 @@ private:
     InputFeeder *m_feeder = nullptr;
     QPointer<QWidget> m_mainWindow;
     std::unique_ptr<Editor> m_editor;
+    std::unique_ptr<CommandStack> m_commandStack;
     std::unique_ptr<HelpService> m_help;
     std::unique_ptr<CustomBlocks> m_customBlocks;
     std::unique_ptr<SystemServices> m_services;

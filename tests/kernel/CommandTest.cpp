@@ -1,5 +1,9 @@
 #include "host/drawing/Entities.h"
+#include "host/kernel/commands/CommandStack.h"
 #include "host/kernel/commands/CommandTable.h"
+#include "platform/kernel/CKvDocument.h"
+#include "platform/kernel/CKvLispEngine.h"
+#include "platform/kernel/CKvUserInput.h"
 #include "tests/kernel/Bench.h"
 
 #include <ostream>
@@ -205,6 +209,65 @@ TEST_F(Bench, whatIsChosenAlreadyIsNotAskedFor)
     document().runCommand(QStringLiteral("ERASE"));
     EXPECT_EQ(shapes(drawing()), "LINE 1,0 5,5");
     EXPECT_TRUE(document().impliedSelection().empty());
+}
+
+/// A command as a module brings it: asks for a name and a number and prints them.
+class LabelCommand final : public OdStaticRxObject<OdEdCommand>
+{
+public:
+    OdString groupName() const override { return QStringLiteral("TEST"); }
+    OdString globalName() const override { return QStringLiteral("Label"); }
+    void execute(OdEdCommandContext *) override
+    {
+        CKvUserInput &input = *ACTIVE_DOCUMENT()->userInput();
+        OdString name;
+        qint32 number = 0;
+        if (input.getString(QStringLiteral("Name: "), true, name) != kRtNormal ||
+            input.getInteger(QStringLiteral("Number: "), false, number) != kRtNormal)
+            name = QStringLiteral("nothing");
+        ACTIVE_DOCUMENT()->lispEngine()->print(QStringLiteral("[%1 %2 %3]")
+                                                   .arg(name)
+                                                   .arg(number)
+                                                   .arg(ACTIVE_DOCUMENT()->systemVariable(QStringLiteral("CMDNAMES"))));
+    }
+};
+
+TEST_F(Bench, commandsOfAModuleTakeTheirAnswersFromProgramAndUser)
+{
+    LabelCommand label;
+    ASSERT_TRUE(session.commandStack().addCommand(&label));
+    EXPECT_FALSE(session.commandStack().addCommand(&label)) << "the name is taken";
+    const struct
+    {
+        const char *typed;
+        const char *lisp;
+        const char *printed;
+    } rows[] = {
+        {"label a door\n7\n", nullptr, "[a door 7 LABEL]"},
+        {nullptr, "(command \"_.LABEL\" \"a door\" 7)", "[a door 7 LABEL]"},
+        {"8\n", "(command \"label\" \"gate\" pause)", "[gate 8 LABEL]"},
+        {"9\n", "(command \"label\" \"gate\")", "[gate 9 LABEL]"},
+        {nullptr, "(command \"label\" nil)", "[nothing 0 LABEL]"},
+        {nullptr, "(command \"label\" \"x\" \"no number\" 3)", "[x 3 LABEL]"},
+        {nullptr, "(command \"label\" \"x\" 3 \"POINT\" '(1 2) \"label\" \"y\" 4)", "[y 4 LABEL]"},
+    };
+    for (const auto &row : rows) {
+        SCOPED_TRACE(row.lisp ? row.lisp : row.typed);
+        takePrinted();
+        if (row.typed)
+            type(row.typed);
+        if (row.lisp)
+            lisp(row.lisp);
+        else
+            document().runQueued();
+        EXPECT_NE(takePrinted().find(row.printed), std::string::npos);
+        EXPECT_TRUE(session.input().isEmpty());
+    }
+    EXPECT_EQ(shapes(drawing()), "POINT 1,2") << "the next command follows in the same call";
+
+    session.commandStack().removeCommand(&label);
+    lisp("(command \"label\" \"x\" 3)");
+    EXPECT_NE(takePrinted().find("Unknown command \"LABEL\"."), std::string::npos);
 }
 
 TEST_F(Bench, anErrorDropsTheCommandUnderWay)

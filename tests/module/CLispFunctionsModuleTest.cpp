@@ -12,6 +12,7 @@
 namespace {
 
 using namespace Qt::StringLiterals;
+using ortakit::test::FakeCommandStack;
 using ortakit::test::FakeDocument;
 using ortakit::test::FakeEditor;
 using ortakit::test::FakeHost;
@@ -113,8 +114,9 @@ TEST_F(Module, EnginesThatComeLateAreServedOnce)
 TEST_F(Module, HostsWithoutDocumentsGetTheEditorReactor)
 {
     FakeEditor editor;
-    const host::kernel::Services before =
-        host::kernel::installServices({.system = nullptr, .help = nullptr, .editor = &editor, .customBlocks = nullptr});
+    FakeCommandStack commands;
+    const host::kernel::Services before = host::kernel::installServices(
+        {.system = nullptr, .help = nullptr, .editor = &editor, .customBlocks = nullptr, .commands = &commands});
     m_module->initApp();
     EXPECT_EQ(editor.reactors().size(), 1);
     EXPECT_THAT(m_first->lisp().definitions(), IsEmpty());

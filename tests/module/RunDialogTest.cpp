@@ -1,5 +1,6 @@
 #include "module/RunDialog.h"
 
+#include "module/CommandDialog.h"
 #include "module/DialogRegistry.h"
 #include "module/ExceptionGuard.h"
 #include "tests/module/SampleDialog.h"
@@ -17,6 +18,7 @@ using namespace Qt::StringLiterals;
 using namespace ortakit;
 using ortakit::test::FakeDocument;
 using ortakit::test::FakeHost;
+using ortakit::test::FakeUserInput;
 using ortakit::test::ModalAnswers;
 using ortakit::test::SampleDialog;
 using testing::IsEmpty;
@@ -309,6 +311,37 @@ TEST(ArgumentLists, AreReadAsListsOfTheirStrings)
         EXPECT_EQ(stringLists(chain.next()), row.lists) << row.name;
     }
     EXPECT_EQ(test::chainText(stringList({u"a"_s, {}}).get()), u"( \"a\" \"\" )"_s);
+}
+
+TEST_F(RunDialog, CommandsAskForTheStateFileAndMakeTheirDialogAnew)
+{
+    const auto run = [] {
+        runCommandDialog<SampleDialog>(
+            {.prepare = [](auto &dialog) { dialog.name->setText(u"prepared"_s); },
+             .take = [](auto &dialog) { dialog.name->setText(dialog.name->text() + u'!'); }});
+    };
+    const QString path = stateFile("name=door\n");
+    FakeUserInput &input = m_host.document().input();
+    const auto shown = [this] { return m_user.shown().size(); };
+
+    input.answer({.code = kRtNormal, .value = path, .keyword = {}});
+    userCancels();
+    run();
+    EXPECT_EQ(FakeHost::readFile(path), "name=door\n");
+
+    input.answer({.code = kRtNormal, .value = path, .keyword = {}});
+    userAccepts(u"gate"_s);
+    run();
+    EXPECT_EQ(m_found, QStringList{u"door"_s});
+    EXPECT_EQ(FakeHost::readFile(path), "\xEF\xBB\xBFname=gate!\n!action!=\n");
+    EXPECT_EQ(SampleDialog::alive, 0);
+
+    const auto before = shown();
+    input.answer({.code = kRtCancel, .value = {}, .keyword = {}});
+    run();
+    input.answer({.code = kRtNormal, .value = QString(), .keyword = {}});
+    run();
+    EXPECT_EQ(shown(), before) << "no state file, no dialog";
 }
 
 } // namespace

@@ -71,8 +71,11 @@ void FakeHelp::Help(const OdString &helpFile, int topic, bool keepOpen, QWidget 
 }
 
 FakeHost::FakeHost()
-    : m_before(host::kernel::installServices(
-          {.system = this, .help = &m_help, .editor = &m_editor, .customBlocks = &m_customBlocks})),
+    : m_before(host::kernel::installServices({.system = this,
+                                              .help = &m_help,
+                                              .editor = &m_editor,
+                                              .customBlocks = &m_customBlocks,
+                                              .commands = &m_commands})),
       m_activeBefore(host::kernel::setActiveDocument(nullptr))
 {
     writeFile(QStringLiteral("alias.xml"), "<aliases/>");

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/kernel/Services.h"
+#include "platform/ed/OdEdCommand.h"
 #include "platform/ed/OdEditor.h"
 #include "platform/kernel/CKvCustBlockUtils.h"
 #include "platform/kernel/CKvDocumentManager.h"
@@ -48,6 +49,23 @@ private:
     QList<OdEditorReactor *> m_reactors;
 };
 
+/// Keeps the commands of a module for a test to run.
+class FakeCommandStack final : public OdEdCommandStack
+{
+public:
+    const QList<OdEdCommand *> &commands() const { return m_commands; }
+
+    bool addCommand(OdEdCommand *command) override
+    {
+        m_commands.append(command);
+        return true;
+    }
+    void removeCommand(OdEdCommand *command) override { m_commands.removeAll(command); }
+
+private:
+    QList<OdEdCommand *> m_commands;
+};
+
 /// Writes down which pages were asked for, one line each: file topic keep-open parent style.
 class FakeHelp final : public CKvHelp
 {
@@ -81,6 +99,7 @@ public:
     FakeDocument &document() { return *static_cast<FakeDocument *>(ACTIVE_DOCUMENT()); }
     FakeDocumentManager &documents() { return m_documents; }
     FakeEditor &editor() { return m_editor; }
+    FakeCommandStack &commands() { return m_commands; }
     FakeHelp &help() { return m_help; }
     /// isPermitted() refuses these commands from now on.
     void refuse(const QStringList &commands) { m_refused = commands; }
@@ -107,6 +126,7 @@ private:
     QTemporaryDir m_folder;
     FakeDocumentManager m_documents;
     FakeEditor m_editor;
+    FakeCommandStack m_commands;
     FakeHelp m_help;
     FakeCustomBlocks m_customBlocks;
     QWidget *m_mainWindow = nullptr;

@@ -1,7 +1,10 @@
 // Running commands from Lisp.
 
 #include "host/kernel/Document.h"
+#include "host/kernel/Session.h"
 #include "host/kernel/commands/CommandRun.h"
+#include "host/kernel/commands/CommandStack.h"
+#include "host/kernel/commands/ModuleCommandRun.h"
 #include "host/kernel/functions/AnswerFromValue.h"
 #include "host/kernel/functions/LispConversion.h"
 #include "host/kernel/functions/NativeFunctions.h"
@@ -23,17 +26,20 @@ void dropWhenDone(Document &document)
         document.takePendingCommand();
 }
 
-/// Starts the command an argument names. False when there is none, which ends the call.
-bool startCommand(Arguments &args, std::size_t index)
+/// An argument as the answer to a prompt; nothing for the one that has the user answer.
+std::optional<InputAnswer> answerAt(Arguments &args, std::size_t index)
 {
-    Document &document = documentOf(args);
-    if (args[index].isNil())
-        return true;
-    const QString name = stringAt(args, index);
-    // An empty answer too many at the end of a command does no harm.
-    if (name.isEmpty())
-        return true;
-    const QString command = CommandTable::find(name) ? name : document.commandOfAlias(name);
+    if (args[index].isString() && stringAt(args, index) == pauseText)
+        return std::nullopt;
+    const std::optional<InputAnswer> answer = answerFromValue(documentOf(args), args[index]);
+    if (!answer)
+        args.badValue(index, "command argument");
+    return answer;
+}
+
+/// Starts a built-in command. False when there is none of that name, which ends the call.
+bool startCommand(Document &document, const QString &command)
+{
     std::unique_ptr<CommandRun> started = CommandRun::start(document, command);
     if (!started) {
         document.print(QStringLiteral("\nUnknown command \"%1\".\n").arg(CommandTable::plainName(command)));
@@ -47,14 +53,37 @@ bool startCommand(Arguments &args, std::size_t index)
 void giveArgument(Arguments &args, std::size_t index)
 {
     CommandRun &command = *documentOf(args).pendingCommand();
-    if (args[index].isString() && stringAt(args, index) == pauseText) {
+    if (const std::optional<InputAnswer> answer = answerAt(args, index))
+        command.offer(*answer);
+    else
         command.askUser();
-        return;
+}
+
+GivenAnswers answersFrom(Arguments &args, std::size_t index)
+{
+    GivenAnswers answers;
+    for (; index < args.size(); ++index)
+        answers.push_back(answerAt(args, index));
+    return answers;
+}
+
+/// Runs the command that the argument at `index` names; `index` moves on to the last argument that was used. False when
+/// there is no such command.
+bool runNamed(Arguments &args, std::size_t &index)
+{
+    Document &document = documentOf(args);
+    const QString name = args[index].isNil() ? QString() : stringAt(args, index);
+    // An empty answer too many at the end of a command does no harm.
+    if (name.isEmpty())
+        return true;
+    const CommandStack &brought = document.session().commandStack();
+    const bool isCommand = CommandTable::find(name) || brought.find(name);
+    const QString command = isCommand ? name : document.commandOfAlias(name);
+    if (OdEdCommand *found = brought.find(command)) {
+        index += runModuleCommand(document, *found, answersFrom(args, index + 1));
+        return true;
     }
-    const std::optional<InputAnswer> answer = answerFromValue(documentOf(args), args[index]);
-    if (!answer)
-        args.badValue(index, "command argument");
-    command.offer(*answer);
+    return startCommand(document, command);
 }
 
 /// Runs the arguments; returns false when a name was no command.
@@ -64,17 +93,17 @@ bool runArguments(Arguments &args)
     for (std::size_t i = 0; i < args.size(); ++i) {
         if (document.pendingCommand())
             giveArgument(args, i);
-        else if (!startCommand(args, i))
+        else if (!runNamed(args, i))
             return false;
         dropWhenDone(document);
     }
     return true;
 }
 
-// (command argument ...) -> nil. Starts a built-in command, by its name or an alias, and answers its prompts: text,
-// numbers, points in user coordinates, entity names, selection sets; "\\" has the user answer. A command that is not
-// complete goes on with the next call. Without arguments, or with nil, the command under way is cancelled. A name that
-// is no command is told to the user.
+// (command argument ...) -> nil. Starts a command, by its name or an alias, and answers its prompts: text,
+// numbers, points in user coordinates, entity names, selection sets; "\\" has the user answer. A built-in command that
+// is not complete goes on with the next call; one that a module brought asks the user for what is missing. Without
+// arguments, or with nil, the command under way is cancelled. A name that is no command is told to the user.
 Value command(Arguments &args)
 {
     if (args.size() == 0)

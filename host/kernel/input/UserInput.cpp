@@ -38,8 +38,19 @@ PromptReply UserInput::ask(const PromptRequest &request)
     }
 }
 
+std::optional<InputAnswer> UserInput::takeGiven()
+{
+    if (m_given.empty())
+        return std::nullopt;
+    const std::optional<InputAnswer> answer = std::move(m_given.front());
+    m_given.pop_front();
+    return answer;
+}
+
 InputAnswer UserInput::nextAnswer(const PromptRequest &request)
 {
+    if (const std::optional<InputAnswer> answer = takeGiven())
+        return *answer;
     Session &session = m_document.session();
     for (;;) {
         if (!session.input().isEmpty())

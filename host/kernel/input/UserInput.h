@@ -3,11 +3,17 @@
 #include "host/kernel/input/PromptReply.h"
 #include "platform/kernel/CKvUserInput.h"
 
+#include <deque>
+
 namespace host::kernel {
 
 class Document;
 
-/// The prompts of one document. Answers come from the session's queue, and from its feeder when that is empty.
+/// What a program has prepared for the prompts of a command; nothing where the user is to answer.
+using GivenAnswers = std::deque<std::optional<InputAnswer>>;
+
+/// The prompts of one document. Answers come from what a program has given for them, then from the session's queue, and
+/// from its feeder when that is empty.
 class KV_EXPORT UserInput final : public CKvUserInput
 {
 public:
@@ -17,6 +23,9 @@ public:
     PromptReply ask(const PromptRequest &request);
     /// The next answer for a request whose prompt was printed.
     InputAnswer nextAnswer(const PromptRequest &request);
+    /// Answers for the next prompts, in place of those that are left of an earlier call; returns these.
+    GivenAnswers give(GivenAnswers answers) { return std::exchange(m_given, std::move(answers)); }
+    const GivenAnswers &given() const { return m_given; }
     /// Puts bits and keywords of the last initget() into `request` and forgets them.
     void applyOptions(PromptRequest &request);
     void forgetOptions();
@@ -43,7 +52,10 @@ private:
                     OdGePoint3d &value);
     void echo(const InputAnswer &answer);
 
+    std::optional<InputAnswer> takeGiven();
+
     Document &m_document;
+    GivenAnswers m_given;
     int m_bits = 0;
     QStringList m_keywords;
     QString m_input;

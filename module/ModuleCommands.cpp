@@ -1,0 +1,57 @@
+#include "module/ModuleCommands.h"
+
+#include "module/CommandDialog.h"
+#include "module/ExceptionGuard.h"
+#include "platform/ed/OdEdCommand.h"
+
+#include <vector>
+
+namespace ortakit {
+
+namespace {
+
+using namespace Qt::StringLiterals;
+
+struct CommandRow
+{
+    QLatin1StringView name;
+    void (*run)();
+};
+
+/// The commands that the host gets.
+const std::vector<CommandRow> commandRows = {};
+
+class ModuleCommand final : public OdStaticRxObject<OdEdCommand>
+{
+public:
+    explicit ModuleCommand(const CommandRow &row) : m_row(row) {}
+
+    OdString groupName() const override { return u"ORTAKIT"_s; }
+    OdString globalName() const override { return m_row.name; }
+    void execute(OdEdCommandContext *) override { runGuarded(m_row.run); }
+
+private:
+    CommandRow m_row;
+};
+
+std::vector<ModuleCommand> &moduleCommands()
+{
+    static std::vector<ModuleCommand> commands(commandRows.begin(), commandRows.end());
+    return commands;
+}
+
+} // namespace
+
+void addCommands()
+{
+    for (ModuleCommand &command : moduleCommands())
+        odedRegCmds()->addCommand(&command);
+}
+
+void removeCommands()
+{
+    for (ModuleCommand &command : moduleCommands())
+        odedRegCmds()->removeCommand(&command);
+}
+
+} // namespace ortakit
