@@ -1,77 +1,32 @@
-// The link viewer and the path redefinition with 1,000, 10,000 and 100,000 rows. Each ratio stands beside ten times
-// fewer rows: 10 is in proportion, 13 in proportion times the logarithm, 100 the square.
+// The link viewer and the path redefinition with 1,000, 10,000 and 100,000 rows.
 
-#include "bench/Ratios.h"
+#include "bench/TableDialog.h"
 #include "dialogs/redefinepaths/Dlg_QT_RedefinePaths.h"
 #include "dialogs/showlinks/Dlg_QT_ShowLinks.h"
-#include "state/TableSelection.h"
-#include "tests/support/FakeHost.h"
-
-#include <QAbstractButton>
-#include <QApplication>
-#include <QHeaderView>
-#include <QLineEdit>
-#include <QTableWidget>
-
-#include <benchmark/benchmark.h>
 
 using namespace Qt::StringLiterals;
-using ortakit::test::FakeHost;
 
 namespace {
 
 template <class Dialog>
-struct Bench
+struct ReplacingDialog : bench::TableDialog<Dialog>
 {
-    FakeHost host;
-    Dialog dialog;
-    QTableWidget *table = dialog.template findChild<QTableWidget *>();
-
-    void set(const QString &field, const QString &text)
-    {
-        dialog.template findChild<QLineEdit *>(field)->setText(text);
-    }
     void replace(const QString &found, const QString &replacement, const QString &button)
     {
-        set(u"txsearch"_s, found);
-        set(u"txreplace"_s, replacement);
-        click(button);
-    }
-    void accept(const QString &button)
-    {
-        click(button);
-        dialog.state().save();
-    }
-    void click(const QString &button) { dialog.template findChild<QAbstractButton *>(button)->click(); }
-    void loadState(const QString &state) { dialog.state().load(host.writeFile(u"state.txt"_s, state.toUtf8())); }
-    void show()
-    {
-        dialog.hide();
-        dialog.show();
-        QCoreApplication::processEvents();
-    }
-    /// Every other row, so that no two of them are one range.
-    void selectEveryOther()
-    {
-        QList<int> rows;
-        for (int row = 0; row < table->rowCount(); row += 2)
-            rows.append(row);
-        ortakit::selectRows(*table, rows);
-    }
-    void sort(int column)
-    {
-        emit table->horizontalHeader()->sectionClicked(column);
-        QCoreApplication::processEvents();
+        this->set(u"txsearch"_s, found);
+        this->set(u"txreplace"_s, replacement);
+        this->click(button);
     }
 };
 
-struct Links : Bench<Dlg_QT_ShowLinks>
+struct Links : ReplacingDialog<Dlg_QT_ShowLinks>
 {
-    explicit Links(int count)
+    explicit Links(const benchmark::State &state)
     {
+        const auto count = state.range(0);
         QByteArray lines;
-        for (int number = 0; number < count; ++number) {
-            const QByteArray text = QByteArray::number(number * 7919LL % count);
+        for (qint64 number = 0; number < count; ++number) {
+            const QByteArray text = QByteArray::number(number * 7919 % count);
             lines += text + "^http://example.org/plans/" + text + ".pdf^LINE^Model\n";
         }
         loadState(u"linkfile=%1\n!action!=RETURN\n"_s.arg(host.writeFile(u"links.txt"_s, lines)));
@@ -79,31 +34,30 @@ struct Links : Bench<Dlg_QT_ShowLinks>
     }
 };
 
-struct Paths : Bench<Dlg_QT_RedefinePaths>
+struct Paths : ReplacingDialog<Dlg_QT_RedefinePaths>
 {
-    explicit Paths(int count)
+    explicit Paths(const benchmark::State &state)
     {
+        const auto count = state.range(0);
         QStringList entries;
-        for (int number = 0; number < count; ++number)
-            entries.append(u"Xref^plan %1^D:/drawings/plans/plan %1.dwg"_s.arg(number * 7919LL % count));
+        for (qint64 number = 0; number < count; ++number)
+            entries.append(u"Xref^plan %1^D:/drawings/plans/plan %1.dwg"_s.arg(number * 7919 % count));
         dialog.setEntries(entries);
         loadState(u"modes=Xrefs\n"_s);
         show();
     }
 };
 
-template <int count>
 void loadLinks(benchmark::State &state)
 {
-    Links links(count);
+    Links links(state);
     for (auto _ : state)
         links.show();
 }
 
-template <int count>
 void selectAndReplaceLinks(benchmark::State &state)
 {
-    Links links(count);
+    Links links(state);
     for (auto _ : state) {
         links.table->clearSelection();
         links.table->selectAll();
@@ -113,10 +67,9 @@ void selectAndReplaceLinks(benchmark::State &state)
     }
 }
 
-template <int count>
 void sortLinksWithEveryOtherSelected(benchmark::State &state)
 {
-    Links links(count);
+    Links links(state);
     links.selectEveryOther();
     int column = 1;
     for (auto _ : state) {
@@ -125,36 +78,32 @@ void sortLinksWithEveryOtherSelected(benchmark::State &state)
     }
 }
 
-template <int count>
 void closeLinks(benchmark::State &state)
 {
-    Links links(count);
+    Links links(state);
     for (auto _ : state)
         links.accept(u"btnClose"_s);
 }
 
-template <int count>
 void showEveryOtherEntity(benchmark::State &state)
 {
-    Links links(count);
+    Links links(state);
     links.selectEveryOther();
     for (auto _ : state)
         links.accept(u"btnShowEntity"_s);
 }
 
-template <int count>
 void loadPaths(benchmark::State &state)
 {
-    Paths paths(count);
+    Paths paths(state);
     for (auto _ : state)
         paths.show();
 }
 
 /// A letter more in the filter, and one less: half of the rows go and come again.
-template <int count>
 void typeIntoFilter(benchmark::State &state)
 {
-    Paths paths(count);
+    Paths paths(state);
     for (auto _ : state) {
         paths.set(u"filter"_s, u"[02468]$"_s);
         paths.set(u"filter"_s, u"[0-9]$"_s);
@@ -162,10 +111,9 @@ void typeIntoFilter(benchmark::State &state)
     }
 }
 
-template <int count>
 void selectAndReplacePaths(benchmark::State &state)
 {
-    Paths paths(count);
+    Paths paths(state);
     for (auto _ : state) {
         paths.click(u"selectAll"_s);
         paths.replace(u"D:"_s, u"E:"_s, u"btReplace"_s);
@@ -175,41 +123,26 @@ void selectAndReplacePaths(benchmark::State &state)
     }
 }
 
-template <int count>
 void acceptPaths(benchmark::State &state)
 {
-    Paths paths(count);
+    Paths paths(state);
     for (auto _ : state)
         paths.accept(u"acceptButton"_s);
 }
-
-#define ORTAKIT_ALL_SIZES(function)                                                                                    \
-    BENCHMARK(function<1'000>)->Unit(benchmark::kMillisecond);                                                         \
-    BENCHMARK(function<10'000>)->Unit(benchmark::kMillisecond);                                                        \
-    BENCHMARK(function<100'000>)->Unit(benchmark::kMillisecond)
-
-ORTAKIT_ALL_SIZES(loadLinks);
-ORTAKIT_ALL_SIZES(selectAndReplaceLinks);
-ORTAKIT_ALL_SIZES(sortLinksWithEveryOtherSelected);
-ORTAKIT_ALL_SIZES(closeLinks);
-ORTAKIT_ALL_SIZES(showEveryOtherEntity);
-ORTAKIT_ALL_SIZES(loadPaths);
-ORTAKIT_ALL_SIZES(typeIntoFilter);
-ORTAKIT_ALL_SIZES(selectAndReplacePaths);
-ORTAKIT_ALL_SIZES(acceptPaths);
 
 } // namespace
 
 int main(int argc, char **argv)
 {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    QApplication application(argc, argv);
-    std::vector<bench::Ratio> ratios;
-    for (const std::string name :
-         {"loadLinks", "selectAndReplaceLinks", "sortLinksWithEveryOtherSelected", "closeLinks", "showEveryOtherEntity",
-          "loadPaths", "typeIntoFilter", "selectAndReplacePaths", "acceptPaths"}) {
-        ratios.push_back({name + "<10'000>", name + "<1'000>", 20});
-        ratios.push_back({name + "<100'000>", name + "<10'000>", 20});
-    }
-    return bench::runWithRatios(argc, argv, ratios);
+    return bench::runTableBench(argc, argv,
+                                {{"loadLinks", loadLinks},
+                                 {"selectAndReplaceLinks", selectAndReplaceLinks},
+                                 {"sortLinksWithEveryOtherSelected", sortLinksWithEveryOtherSelected},
+                                 {"closeLinks", closeLinks},
+                                 {"showEveryOtherEntity", showEveryOtherEntity},
+                                 {"loadPaths", loadPaths},
+                                 {"typeIntoFilter", typeIntoFilter},
+                                 {"selectAndReplacePaths", selectAndReplacePaths},
+                                 {"acceptPaths", acceptPaths}},
+                                {1'000, 10'000, 100'000}, 20);
 }

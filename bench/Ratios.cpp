@@ -17,8 +17,7 @@ public:
         for (const Run &run : runs) {
             const bool isMedian = run.run_type == Run::RT_Aggregate && run.aggregate_name == "median";
             if (isMedian || run.run_type == Run::RT_Iteration)
-                m_seconds[run.run_name.function_name] =
-                    run.GetAdjustedRealTime() / benchmark::GetTimeUnitMultiplier(run.time_unit);
+                m_seconds[nameOf(run)] = run.GetAdjustedRealTime() / benchmark::GetTimeUnitMultiplier(run.time_unit);
         }
         ConsoleReporter::ReportRuns(runs);
     }
@@ -31,6 +30,13 @@ public:
     }
 
 private:
+    /// "name", or "name/argument".
+    static std::string nameOf(const Run &run)
+    {
+        const std::string &arguments = run.run_name.args;
+        return arguments.empty() ? run.run_name.function_name : run.run_name.function_name + '/' + arguments;
+    }
+
     std::map<std::string, double> m_seconds;
 };
 

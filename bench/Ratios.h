@@ -8,7 +8,7 @@ namespace bench {
 /// One line of what a benchmark program prints at its end: how long a measurement took in times of its baseline.
 struct Ratio
 {
-    std::string measurement; ///< name of a benchmark
+    std::string measurement; ///< name of a benchmark; with an argument "name/argument"
     std::string baseline;    ///< name of another one of the same program
     double goal = 0;         ///< at most this; 0 for no goal
     double atLeast = 0;      ///< the goal of a baseline that is to be outrun: at least this
