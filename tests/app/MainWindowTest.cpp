@@ -11,7 +11,6 @@
 #include <QAction>
 #include <QApplication>
 #include <QDropEvent>
-#include <QElapsedTimer>
 #include <QFile>
 #include <QKeyEvent>
 #include <QLabel>
@@ -174,11 +173,8 @@ TEST_F(MainWindowTest, EscCancelsPromptsAndStopsEndlessLoops)
     meanwhile([this] { key(Qt::Key_Escape); });
     window->enter(u"(progn (getpoint \"From: \") (setq went-on T))"_s);
     EXPECT_EQ(lisp(u"went-on"_s), u"nil"_s);
-    QElapsedTimer timer;
-    timer.start();
     QTimer::singleShot(100, window.get(), [this] { key(Qt::Key_Escape); });
     window->enter(u"(while T)"_s);
-    EXPECT_LT(timer.elapsed(), 5000);
     window->enter(u"(setq alive T)"_s);
     EXPECT_EQ(lisp(u"alive"_s), u"T"_s) << "an earlier Esc must not stop the next run";
 }

@@ -3,7 +3,6 @@
 
 #include <QCheckBox>
 #include <QDialogButtonBox>
-#include <QElapsedTimer>
 #include <QHeaderView>
 
 using namespace ortakit::test;
@@ -116,21 +115,6 @@ TEST_F(GetBlockInfo, TheFileHoldsWhatIsShown)
         return u"choose \"Resulting file\" \"%1\" \"Text files (*.txt)\""_s.arg(folder);
     };
     EXPECT_EQ(answers.shown().filter(u"choose"_s), (QStringList{asked(host.path({})), asked(host.path(u"reports"_s))}));
-}
-
-TEST_F(GetBlockInfo, ManyBlocksAreQuick)
-{
-    QStringList entries;
-    for (int number = 0; number < 100'000; ++number)
-        entries.append(u"BLOCK %1;%2"_s.arg(number * 7919LL % 100'000).arg(number % 1000 + 1));
-    dialog->setEntries({entries, {}});
-    QElapsedTimer clock;
-    clock.start();
-    show();
-    clickHeader(1);
-    clickHeader(0);
-    EXPECT_EQ(rows().count(u'|'), 100'000);
-    EXPECT_LT(clock.elapsed(), 8000);
 }
 
 TEST_F(GetBlockInfo, AFileThatCannotBeWrittenIsPassedOver)

@@ -2,7 +2,6 @@
 #include "tests/dialogs/DialogTest.h"
 
 #include <QCheckBox>
-#include <QElapsedTimer>
 #include <QHeaderView>
 #include <QPushButton>
 
@@ -368,30 +367,6 @@ TEST_F(ImportBlockAttributes, HeadersSortAndTakeTheSelectionAlong)
     EXPECT_EQ(table()->currentRow(), 1);
     click("acceptButton");
     EXPECT_EQ(handedOver(), u"A\tB^a\t1"_s);
-}
-
-// Gaps, a sorted order and scattered selections are where times grow with the square.
-TEST_F(ImportBlockAttributes, ManyRowsAreQuick)
-{
-    constexpr int count = 20'000;
-    QByteArray text = "A\tB\tC\n";
-    for (int row = 0; row < count; ++row)
-        text += QByteArray::number(row * 7919LL % count) + (row % 2 ? "\tabc\n" : "\tabc\tx\n");
-    QElapsedTimer clock;
-    clock.start();
-    showFile(text);
-    table()->setRangeSelected({0, 0, count / 2, 0}, true);
-    clickHeader(0);
-    QCoreApplication::processEvents();
-    clickCell(0, 1, Qt::ControlModifier);
-    QCoreApplication::processEvents();
-    click("selectAll");
-    clickCell(0, 0, Qt::ControlModifier);
-    setText("txsearch", u"ABC"_s);
-    click("btReplace");
-    click("acceptButton");
-    EXPECT_EQ(handedOver().count(u'^'), count - 1);
-    EXPECT_LT(clock.elapsed(), 8000);
 }
 
 TEST_F(ImportBlockAttributes, CancellingLeavesTheTable)

