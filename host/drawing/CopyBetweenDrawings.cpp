@@ -55,4 +55,16 @@ CopyResult insertAsBlock(const Drawing &source, Drawing &target, const QString &
     return {block, copier.skipped(), {}};
 }
 
+CopyResult copyBlock(const Drawing &source, RecordId block, Drawing &target)
+{
+    if (!source.isAlive(block) || source.kind(block) != RecordKind::Block || source.blocks().read(block).isLayout())
+        return {noRecord, 0, u"there is no such block"_s};
+    const JournalGroup group(target.journal(), u"block"_s);
+    DrawingCopier copier(source, target);
+    const RecordId copied = copier.copyBlock(block);
+    if (!isValid(copied))
+        return {noRecord, 0, u"\"%1\" cannot be the name of a block"_s.arg(source.blocks().name(block))};
+    return {copied, copier.skipped(), {}, copier.kept()};
+}
+
 } // namespace host::drawing

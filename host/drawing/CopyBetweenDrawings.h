@@ -6,12 +6,25 @@
 
 namespace host::drawing {
 
+enum class TableKind;
+
+/// A definition of the target that stands for one of the source.
+struct KeptName
+{
+    TableKind kind;
+    QString name; ///< as the target has it
+    bool operator==(const KeptName &) const = default;
+};
+
 /// What came of copying.
 struct CopyResult
 {
     RecordId record = noRecord; ///< the BLOCK record made; noRecord when there is none or nothing was copied
     int skipped = 0; ///< records left out: types the target's version lacks, or bound to what cannot be copied
-    QString error;
+    QString error{};
+    /// Blocks that were needed and that the target has already, and layers, linetypes and styles for which it has
+    /// others of the same name. Each once, in the order they were needed.
+    std::vector<KeptName> kept{};
 
     explicit operator bool() const { return error.isEmpty(); }
 };
@@ -29,5 +42,10 @@ std::unique_ptr<Drawing> wblock(const Drawing &source, RecordId block);
 /// Makes the model space of `source` a block definition of `target`, with its dependencies; base point is $INSBASE of
 /// the source. A block of that name that exists is redefined. One journal group.
 CopyResult insertAsBlock(const Drawing &source, Drawing &target, const QString &name);
+
+/// Copies a block definition of `source` into `target` under its own name (an anonymous one under the next free name),
+/// with all it depends on. A block of that name that exists stays, is the record of the result and the first that was
+/// kept. One journal group.
+CopyResult copyBlock(const Drawing &source, RecordId block, Drawing &target);
 
 } // namespace host::drawing

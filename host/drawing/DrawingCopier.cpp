@@ -51,6 +51,52 @@ QString entryNameOf(const std::vector<Dictionaries::Entry> &entries, RecordId re
     return found == entries.end() ? QString() : found->name;
 }
 
+/// The values under a group code, texts in one case: they are names of linetypes and of files.
+std::vector<FieldValue> valuesOf(const FieldList &fields, int code)
+{
+    std::vector<FieldValue> values;
+    for (const Field &field : fields) {
+        if (field.code == code)
+            values.push_back(tagType(code) == TagType::Text ? FieldValue(field.text().toCaseFolded()) : field.value);
+    }
+    return values;
+}
+
+/// The groups that say what the entries of a table look like; none where all groups do.
+std::vector<int> definingCodes(TableKind kind)
+{
+    switch (kind) {
+    case TableKind::Layer:
+        return {62, 6, 370, 420};
+    case TableKind::Linetype:
+        return {49, 74, 9, 46, 50};
+    case TableKind::Style:
+        return {3, 4, 40, 41, 50, 71};
+    default:
+        return {};
+    }
+}
+
+/// Whether two entries of the same name look different. What only one of them says does not count: versions differ in
+/// that, and so do programs in what they leave unsaid.
+bool lookDifferent(TableKind kind, const FieldList &one, const FieldList &other)
+{
+    std::vector<int> codes = definingCodes(kind);
+    if (kind == TableKind::DimStyle) {
+        for (const Field &field : one) {
+            // Texts are names and markers here, handles mean something in their own drawing only, 70 is the flags.
+            const TagType type = tagType(field.code);
+            if (type != TagType::Handle && type != TagType::Text && field.code != 70)
+                codes.push_back(field.code);
+        }
+    }
+    return std::any_of(codes.begin(), codes.end(), [&](int code) {
+        const std::vector<FieldValue> values = valuesOf(one, code);
+        const std::vector<FieldValue> others = valuesOf(other, code);
+        return !values.empty() && !others.empty() && values != others;
+    });
+}
+
 bool isAnonymous(const QString &name)
 {
     return name.startsWith(u'*');
@@ -119,18 +165,31 @@ void DrawingCopier::ensureReferences(const FieldList &fields)
 
 void DrawingCopier::ensureEntry(TableKind kind, const QString &name)
 {
-    if (isValid(m_target.tables().find(kind, name)))
-        return;
     const RecordId entry = m_source.tables().find(kind, name);
     if (isValid(entry))
         copyEntry(kind, entry);
 }
 
+RecordId DrawingCopier::keepEntry(TableKind kind, RecordId entry, RecordId existing)
+{
+    if (m_compared.contains(existing))
+        return existing;
+    m_compared.insert(existing);
+    const QString name = m_target.tables().name(existing);
+    // What is on layer 0 of a block looks like the insertion's layer.
+    const bool isBlockLayer = kind == TableKind::Layer && name == u"0"_s;
+    if (!isBlockLayer && lookDifferent(kind, m_source.fields(entry), m_target.fields(existing)))
+        m_kept.push_back({kind, name});
+    return existing;
+}
+
 RecordId DrawingCopier::copyEntry(TableKind kind, RecordId entry)
 {
     const QString name = m_source.tables().name(entry);
-    if (const RecordId existing = m_target.tables().find(kind, name); isValid(existing) || name.isEmpty())
-        return existing;
+    if (const RecordId existing = m_target.tables().find(kind, name); isValid(existing))
+        return keepEntry(kind, entry, existing);
+    if (name.isEmpty())
+        return noRecord;
     FieldList fields = translated(entry);
     std::erase_if(fields, [&](const Field &field) {
         const bool isForeign = kind == TableKind::Layer && tagType(field.code) == TagType::Handle;
@@ -144,7 +203,9 @@ RecordId DrawingCopier::copyEntry(TableKind kind, RecordId entry)
         else if (field.code == 1001)
             ensureEntry(TableKind::AppId, field.text());
     }
-    return m_target.tables().add(kind, name, fields);
+    const RecordId copy = m_target.tables().add(kind, name, fields);
+    m_compared.insert(copy);
+    return copy;
 }
 
 Handle DrawingCopier::translatedHandle(Handle handle)
@@ -222,6 +283,8 @@ QString DrawingCopier::ensureBlock(const QString &name)
     const std::optional<Block> block = m_source.blocks().get(name);
     const bool isThere = isValid(m_target.blocks().find(name));
     if (!block || block->isLayout() || (isThere && !isAnonymous(name))) {
+        if (block && !block->isLayout())
+            m_kept.push_back({TableKind::BlockRecord, m_target.blocks().name(m_target.blocks().find(name))});
         m_blocks.insert(key, name);
         return name;
     }
@@ -245,6 +308,11 @@ QString DrawingCopier::ensureBlock(const QString &name)
         copyEntity(entity, copy);
     --m_depth;
     return newName;
+}
+
+RecordId DrawingCopier::copyBlock(RecordId block)
+{
+    return m_target.blocks().find(ensureBlock(m_source.blocks().name(block)));
 }
 
 void DrawingCopier::copyEntity(RecordId entity, RecordId block)

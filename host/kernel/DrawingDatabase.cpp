@@ -141,6 +141,12 @@ private:
 
 } // namespace
 
+drawing::Drawing *HostDatabase::drawingOf(OdDbDatabase *database)
+{
+    auto *own = dynamic_cast<HostDatabase *>(database);
+    return own ? &own->drawing() : nullptr;
+}
+
 class DrawingDatabase::Dictionary final : public OdDbDictionary
 {
 public:
@@ -179,6 +185,11 @@ DrawingDatabase::DrawingDatabase(Document &document)
 }
 
 DrawingDatabase::~DrawingDatabase() = default;
+
+drawing::Drawing &DrawingDatabase::drawing()
+{
+    return m_document.drawing();
+}
 
 OdString DrawingDatabase::getFilename() const
 {

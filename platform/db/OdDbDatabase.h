@@ -2,6 +2,8 @@
 
 #include "platform/kernel/OdResBuf.h"
 
+#include <memory>
+
 /// A record of free data in a drawing: a chain of result buffers whose type codes are DXF group codes. Belongs to the
 /// drawing; valid until the next change of the dictionary that holds it.
 class KV_EXPORT OdDbXrecord
@@ -28,7 +30,8 @@ public:
     virtual OdDbXrecord *setAt(const OdString &name) = 0;
 };
 
-/// The database of one open drawing. Owned by its document.
+/// The database of one drawing: of an open one, which its document owns, or of a file that was read beside it (see
+/// CKvUtils::readDrawing()).
 class KV_EXPORT OdDbDatabase
 {
 public:
@@ -36,7 +39,7 @@ public:
 
     /// Full path of the drawing file; empty for a drawing that was never saved.
     virtual OdString getFilename() const = 0;
-    /// The named-object dictionary; null when the drawing's version has none.
+    /// The named-object dictionary; null when the drawing's version has none and for a file beside the open drawing.
     virtual OdDbDictionary *getNamedObjectsDictionary() = 0;
     /// The value of a system variable, its name in any case; null for an unknown one. Integers that fit are of the type
     /// kRtShort.
@@ -45,3 +48,5 @@ public:
     /// it cannot be changed, or it takes no such value; it is then as it was.
     virtual bool setSysVar(const OdString &name, const OdResBuf &value) = 0;
 };
+
+using OdDbDatabasePtr = std::shared_ptr<OdDbDatabase>;

@@ -1,14 +1,37 @@
 #pragma once
 
 #include "platform/Export.h"
+#include "platform/db/OdDbDatabase.h"
 #include "platform/rx/OdString.h"
 
 #include <QIcon>
+#include <QList>
 #include <QImage>
 #include <QSizeF>
 #include <QStringList>
 
-class OdDbDatabase;
+/// A block of a drawing as a user chooses from them.
+struct CKvBlock
+{
+    OdString name;
+    bool isAnonymous = false; ///< made by a program, with a name such as *U12 that means nothing
+    bool isExternal = false;  ///< stands for another drawing file
+};
+
+/// What came of copying a block from one drawing into another.
+struct CKvBlockCopy
+{
+    /// A definition that the drawing had before and that stands for another one of the same name.
+    struct Kept
+    {
+        OdString table; ///< "BLOCK", "LAYER", "LTYPE", "STYLE", "DIMSTYLE"
+        OdString name;
+    };
+
+    bool isDone = false;
+    QList<Kept> kept;
+    int leftOut = 0; ///< entities that the drawing's version cannot hold
+};
 
 /// Small services of the host.
 class KV_EXPORT CKvUtils
@@ -22,7 +45,7 @@ public:
     /// The drawing file at `path` fitted into an image of `size` pixels, on black or white, whichever `background` is
     /// nearer to. A null image when the file cannot be read as a drawing.
     static QImage drawingPicture(const OdString &path, const QSize &size, const QColor &background);
-    /// The block `name` of an open drawing in the same way. A null image when the drawing has no block of that name.
+    /// The block `name` of a drawing in the same way. A null image when the drawing has no block of that name.
     static QImage blockPicture(OdDbDatabase *database, const OdString &name, const QSize &size,
                                const QColor &background);
     /// Width and height of what can be seen of the model space of the drawing file at `path`, in its units. Invalid
@@ -30,4 +53,15 @@ public:
     static QSizeF drawingSize(const OdString &path);
     /// The drawings that the drawing file at `path` refers to, as the file has them; empty for an unreadable file.
     static QStringList externalReferences(const OdString &path);
+    /// The drawing file at `path` as it is now, read to look at and to copy from while the user works in another one;
+    /// its memory goes with the last pointer. Null, with the reason in `error` as a sentence, when the file cannot be
+    /// read as a drawing.
+    static OdDbDatabasePtr readDrawing(const OdString &path, OdString &error);
+    /// The blocks of a drawing in no particular order, without its spaces and layouts and without what belongs to
+    /// its external references.
+    static QList<CKvBlock> blocks(OdDbDatabase *database);
+    /// Copies the block `name` of `source` into `target` with all that it needs: blocks in it, layers, linetypes and
+    /// styles. What `target` has under the same name stays, the block itself included. Not done when there is no such
+    /// block.
+    static CKvBlockCopy copyBlock(OdDbDatabase *source, const OdString &name, OdDbDatabase *target);
 };

@@ -1,9 +1,12 @@
 #include "host/drawing/Blocks.h"
-#include "host/drawing/Drawing.h"
+#include "host/drawing/CopyBetweenDrawings.h"
+#include "host/drawing/Tables.h"
 #include "host/kernel/Document.h"
 #include "host/kernel/DrawingDatabase.h"
 #include "host/view/Export.h"
 #include "platform/kernel/CKvUtils.h"
+
+using host::kernel::HostDatabase;
 
 namespace {
 
@@ -22,9 +25,8 @@ QImage CKvUtils::drawingPicture(const OdString &path, const QSize &size, const Q
 
 QImage CKvUtils::blockPicture(OdDbDatabase *database, const OdString &name, const QSize &size, const QColor &background)
 {
-    // Whoever else implements the class has no drawing to show.
-    auto *own = dynamic_cast<host::kernel::DrawingDatabase *>(database);
-    return own ? host::view::blockPicture(own->document().drawing(), name, size, groundFor(background)) : QImage();
+    const host::drawing::Drawing *drawing = HostDatabase::drawingOf(database);
+    return drawing ? host::view::blockPicture(*drawing, name, size, groundFor(background)) : QImage();
 }
 
 QSizeF CKvUtils::drawingSize(const OdString &path)
@@ -45,4 +47,50 @@ QStringList CKvUtils::externalReferences(const OdString &path)
             paths.append(block.externalPath);
     }
     return paths;
+}
+
+OdDbDatabasePtr CKvUtils::readDrawing(const OdString &path, OdString &error)
+{
+    host::drawing::ReadResult read = host::drawing::Drawing::open(path);
+    error = read ? QString() : read.error.message();
+    return read ? std::make_shared<host::kernel::FileDatabase>(std::move(read.drawing)) : nullptr;
+}
+
+QList<CKvBlock> CKvUtils::blocks(OdDbDatabase *database)
+{
+    constexpr int ofExternalReference = 16;
+    QList<CKvBlock> found;
+    const host::drawing::Drawing *drawing = HostDatabase::drawingOf(database);
+    if (!drawing)
+        return found;
+    const host::drawing::Blocks &blocks = drawing->blocks();
+    for (const host::drawing::RecordId id : blocks.all()) {
+        const host::drawing::Block block = blocks.read(id);
+        // Of blocks that a damaged file has twice, the name means one.
+        if (block.isLayout() || (block.flags & ofExternalReference) != 0 || blocks.find(block.name) != id)
+            continue;
+        found.append({block.name, block.isAnonymous() || block.name.startsWith(u'*'), block.isExternal()});
+    }
+    return found;
+}
+
+CKvBlockCopy CKvUtils::copyBlock(OdDbDatabase *source, const OdString &name, OdDbDatabase *target)
+{
+    CKvBlockCopy result;
+    const host::drawing::Drawing *from = HostDatabase::drawingOf(source);
+    auto *own = dynamic_cast<host::kernel::DrawingDatabase *>(target);
+    if (!from || !own)
+        return result;
+    host::drawing::CopyResult copy;
+    own->document().runAs(QStringLiteral("BLOCK"), [&] {
+        copy = host::drawing::copyBlock(*from, from->blocks().find(name), own->drawing());
+    });
+    result.isDone = bool(copy);
+    result.leftOut = copy.skipped;
+    for (const host::drawing::KeptName &kept : copy.kept) {
+        const bool isBlock = kept.kind == host::drawing::TableKind::BlockRecord;
+        const QByteArrayView table = host::drawing::tableTypeName(kept.kind);
+        result.kept.append({isBlock ? QStringLiteral("BLOCK") : QString::fromLatin1(table), kept.name});
+    }
+    return result;
 }
