@@ -17,9 +17,11 @@ QString limited(const QString &expression)
 
 } // namespace
 
-NameFilter::NameFilter(const QString &expression)
+NameFilter::NameFilter(const QString &expression, Qt::CaseSensitivity caseSensitivity)
     : m_acceptsAll(expression.isEmpty() || expression == QLatin1String("*")), m_expression(limited(expression))
 {
+    if (caseSensitivity == Qt::CaseInsensitive)
+        m_expression.setPatternOptions(QRegularExpression::CaseInsensitiveOption);
     if (!m_acceptsAll)
         m_expression.optimize();
 }

@@ -14,7 +14,7 @@ namespace ortakit {
 class NameFilter
 {
 public:
-    explicit NameFilter(const QString &expression);
+    explicit NameFilter(const QString &expression, Qt::CaseSensitivity caseSensitivity = Qt::CaseSensitive);
 
     /// Whether `name` is shown. Of a name that is longer than any drawing's, the first 4096 characters are searched.
     bool accepts(const QString &name);

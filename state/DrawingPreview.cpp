@@ -15,9 +15,9 @@ void DrawingPreview::setDrawing(const QString &path)
     take(path, {}, {});
 }
 
-void DrawingPreview::setBlock(const QString &name)
+void DrawingPreview::setBlock(const QString &name, const OdDbDatabasePtr &database)
 {
-    take({}, name, {});
+    take({}, name, {}, database);
 }
 
 void DrawingPreview::setImage(const QImage &image)
@@ -25,8 +25,10 @@ void DrawingPreview::setImage(const QImage &image)
     take({}, {}, image);
 }
 
-void DrawingPreview::take(const QString &path, const QString &block, const QImage &image)
+void DrawingPreview::take(const QString &path, const QString &block, const QImage &image,
+                          const OdDbDatabasePtr &database)
 {
+    m_database = database;
     m_path = path;
     m_block = block;
     m_image = image;
@@ -60,10 +62,13 @@ QSize DrawingPreview::pixelSize() const
 QImage DrawingPreview::render() const
 {
     QImage picture;
+    OdDbDatabase *database = m_database.get();
+    if (!database && ACTIVE_DOCUMENT())
+        database = ACTIVE_DOCUMENT()->database();
     if (!m_path.isEmpty())
         picture = CKvUtils::drawingPicture(m_path, pixelSize(), Qt::black);
-    else if (!m_block.isEmpty() && ACTIVE_DOCUMENT())
-        picture = CKvUtils::blockPicture(ACTIVE_DOCUMENT()->database(), m_block, pixelSize(), Qt::black);
+    else if (!m_block.isEmpty())
+        picture = CKvUtils::blockPicture(database, m_block, pixelSize(), Qt::black);
     else if (!m_image.isNull())
         picture = m_image.scaled(pixelSize(), Qt::KeepAspectRatio, Qt::SmoothTransformation);
     picture.setDevicePixelRatio(devicePixelRatioF());

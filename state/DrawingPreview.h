@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/db/OdDbDatabase.h"
+
 #include <QImage>
 #include <QWidget>
 
@@ -17,9 +19,9 @@ public:
     void setDrawing(const QString &path);
     /// Path of the drawing that is shown; empty when there is none.
     QString drawing() const { return m_path; }
-    /// Shows the block `name` of the active drawing in place of a drawing file; empty shows nothing. A block that is
-    /// not there shows a short message.
-    void setBlock(const QString &name);
+    /// Shows the block `name` of `database`, or of the active drawing when there is none, in place of a drawing file;
+    /// empty shows nothing. A block that is not there shows a short message.
+    void setBlock(const QString &name, const OdDbDatabasePtr &database = nullptr);
     /// Name of the block that is shown; empty when there is none.
     QString block() const { return m_block; }
     /// Shows `image` in place of a drawing; a null image shows nothing.
@@ -29,7 +31,8 @@ protected:
     void paintEvent(QPaintEvent *event) override;
 
 private:
-    void take(const QString &path, const QString &block, const QImage &image);
+    void take(const QString &path, const QString &block, const QImage &image,
+              const OdDbDatabasePtr &database = nullptr);
     QSize pixelSize() const;
     QImage render() const;
 
@@ -37,6 +40,7 @@ private:
     QString m_path;
     QString m_block;
     QImage m_image;
+    OdDbDatabasePtr m_database; ///< of the block; null for the active drawing
     QImage m_picture;
     QSize m_pictureSize; ///< what m_picture was made for; invalid when it has to be made
 };

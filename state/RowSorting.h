@@ -11,4 +11,8 @@ void sortRows(QStringList &rows, QChar separator, int column, Qt::SortOrder orde
 /// As above by the whole number in field `column`; what is none counts as 0.
 void sortRowsByNumber(QStringList &rows, QChar separator, int column, Qt::SortOrder order);
 
+/// Sorts names without regard to case, in the order of the user's language and with numbers in them by their values:
+/// DOOR2 stands before DOOR10.
+void sortNaturally(QStringList &names);
+
 } // namespace ortakit
