@@ -136,6 +136,13 @@ TEST_F(Bench, insertPlacesABlockWithItsAttributes)
     EXPECT_EQ(lisp("(equal (cdr (assoc 10 a)) '(3.0 5.0 0.0) 1e-9)"), "T");
 }
 
+TEST_F(Bench, insertProposesTheLastBlock)
+{
+    lisp(doorFile);
+    lisp("(repeat 3 (command \"_.-INSERT\" (if (= (getvar \"INSNAME\") \"\") \"door\" \"\") '(5 5) 1 \"\" 0 \"T90\"))");
+    EXPECT_EQ(shapes(drawing()), "INSERT 5,5 door x1 y1 0; INSERT 5,5 door x1 y1 0; INSERT 5,5 door x1 y1 0");
+}
+
 TEST_F(Bench, insertTakesTheAttributesDefaultsWithoutAsking)
 {
     lisp(doorFile);

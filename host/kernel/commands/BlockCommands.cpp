@@ -137,8 +137,9 @@ CommandTask insert(CommandContext &context)
 {
     SystemVariables &variables = context.document().variables();
     const QString last = variables.text(u"INSNAME");
-    const PromptReply name =
-        co_await context.text(last.isEmpty() ? u"Enter block name: "_s : u"Enter block name <%1>: "_s.arg(last), last);
+    // GCC 12 destroys a temporary twice that one branch of a condition makes within a co_await.
+    const QString prompt = last.isEmpty() ? u"Enter block name: "_s : u"Enter block name <%1>: "_s.arg(last);
+    const PromptReply name = co_await context.text(prompt, last);
     const QString block = blockFor(context, name.hasValue() ? name.text.trimmed() : last);
     if (block.isEmpty())
         co_return;
