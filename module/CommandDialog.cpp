@@ -8,19 +8,23 @@
 
 namespace ortakit {
 
-std::optional<OdString> askForStateFile()
+std::optional<OdString> askForText(const char *prompt)
 {
     CKvDocument *document = ACTIVE_DOCUMENT();
     CKvUserInput *input = document ? document->userInput() : nullptr;
     if (!input)
         return std::nullopt;
     input->initget(0, {});
-    const OdString prompt =
-        input->formatPrompt(QCoreApplication::translate("LispExtension", "Specify state file"), OdString());
-    OdString path;
-    if (input->getString(prompt, true, path) != kRtNormal || path.isEmpty())
+    const OdString shown = input->formatPrompt(QCoreApplication::translate("LispExtension", prompt), OdString());
+    OdString text;
+    if (input->getString(shown, true, text) != kRtNormal || text.isEmpty())
         return std::nullopt;
-    return path;
+    return text;
+}
+
+std::optional<OdString> askForStateFile()
+{
+    return askForText(QT_TRANSLATE_NOOP("LispExtension", "Specify state file"));
 }
 
 QWidget *dialogParent()

@@ -10,8 +10,11 @@
 
 namespace ortakit {
 
-/// Asks the user of the active document, or the program that runs the command, for the path of the state file. Nothing
-/// without an answer, a document, or somebody to ask.
+/// Asks the user of the active document, or the program that runs the command, for a text by a prompt of the context
+/// "LispExtension". Nothing without an answer, a document, or somebody to ask.
+std::optional<OdString> askForText(const char *prompt);
+
+/// Asks so for the path of the state file.
 std::optional<OdString> askForStateFile();
 
 /// The window that dialogs are shown over; null when there is none.

@@ -1,5 +1,7 @@
 #include "module/ModuleCommands.h"
 
+#include "dialogs/selectblock/DLG_QT_SelectBlock.h"
+#include "module/BlockImport.h"
 #include "module/CommandDialog.h"
 #include "module/ExceptionGuard.h"
 #include "platform/ed/OdEdCommand.h"
@@ -19,7 +21,10 @@ struct CommandRow
 };
 
 /// The commands that the host gets.
-const std::vector<CommandRow> commandRows = {};
+const std::vector<CommandRow> commandRows = {
+    {"ORTAKIT_IMPORTBLOCK"_L1, importBlock},
+    {"ORTAKIT_SELECTBLOCK"_L1, [] { runCommandDialog<DLG_QT_SelectBlock>({}); }},
+};
 
 class ModuleCommand final : public OdStaticRxObject<OdEdCommand>
 {

@@ -2,8 +2,8 @@
 
 namespace ortakit {
 
-/// Brings the module's commands to its host. They are for Lisp tools, which run them by (command NAME STATE-FILE) and
-/// read the outcome in the state file: their dialogs have no external function.
+/// Brings the module's commands to its host. They are for Lisp tools. Those that show a dialog, which has no external
+/// function, are run by (command NAME STATE-FILE), and the outcome is in the state file.
 void addCommands();
 
 /// Takes them away again.

@@ -19,6 +19,7 @@
 #include "dialogs/redefinepaths/Dlg_QT_RedefinePaths.h"
 #include "dialogs/replaceblock/Dlg_QT_ReplaceBlock.h"
 #include "dialogs/replaceblocktoxref/Dlg_QT_ReplaceBlockToXref.h"
+#include "dialogs/selectblock/DLG_QT_SelectBlock.h"
 #include "dialogs/showlinks/Dlg_QT_ShowLinks.h"
 #include "dialogs/textframe/Dlg_QT_TextFrame.h"
 #include "dialogs/textmask/Dlg_QT_TextMask.h"
@@ -80,6 +81,7 @@ constexpr Row rows[] = {
     row<Dlg_QT_RedefinePaths>("RedefinePaths", "9107", "efr"),
     row<Dlg_QT_GetBlockInfo>("GetBlockInfo", "9109"),
     row<Dlg_QT_ImportBlockAttributes>("ImportBlockAttributes", "9108"),
+    row<DLG_QT_SelectBlock>("SelectBlock", "9102"),
 };
 
 void PrintTo(const Row &row, std::ostream *out)

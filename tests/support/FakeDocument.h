@@ -160,10 +160,12 @@ public:
     FakeLispEngine &lisp() { return *m_lisp; }
     FakeUserInput &input() { return m_input; }
     FakeDatabase &fakeDatabase() { return m_database; }
+    /// From now on the document has this database, such as a drawing that was read.
+    void setDatabase(OdDbDatabasePtr database) { m_ownDatabase = std::move(database); }
 
     CKvLispEngine *lispEngine() override { return m_lisp.get(); }
     CKvUserInput *userInput() override { return &m_input; }
-    OdDbDatabase *database() override { return &m_database; }
+    OdDbDatabase *database() override { return m_ownDatabase ? m_ownDatabase.get() : &m_database; }
     OdString systemVariable(const OdString &name) const override { return m_variables.value(name.toLower()); }
     OdGePoint3d userToWorld(const OdGePoint3d &point) const override;
     OdGePoint3d worldToUser(const OdGePoint3d &point) const override;
@@ -172,6 +174,7 @@ private:
     std::unique_ptr<FakeLispEngine> m_lisp = std::make_unique<FakeLispEngine>();
     FakeUserInput m_input;
     FakeDatabase m_database;
+    OdDbDatabasePtr m_ownDatabase;
     QHash<QString, QString> m_variables;
     OdGePoint3d m_userOrigin;
 };

@@ -63,6 +63,10 @@ TEST_F(SampleSessions, ChangeWhatTheySayAndNothingElse)
         {u"replaceblocktoxref"_s, furniture, u"Ortakit/replaceblocktoxref.state"_s,
          "\xEF\xBB\xBF"
          "blockstable=12^\n!action!=OK\ndirectory="},
+        // The insertions with their attributes and the ends of those, and three blocks with what they need.
+        {u"selectblock"_s,
+         u"X"_s,
+         u"Ortakit/selectblock.state"_s, "name=LAMP\nsource=active\n"},
     };
     QStringList names;
     for (const auto &row : rows) {
@@ -88,7 +92,8 @@ TEST_F(SampleSessions, CancelledCommandsChangeNothing)
                                                     {u"DIMSTYLEIMPORT"_s, u"Dlg_QT_ImportDimensionStyle"_s},
                                                     {u"EDITALIAS"_s, u"Dlg_QT_EditAlias"_s},
                                                     {u"MAKELINESTYLE"_s, u"Dlg_QT_MakeLineStyle"_s},
-                                                    {u"MAKESHAPE"_s, u"Dlg_QT_MakeShape"_s}};
+                                                    {u"MAKESHAPE"_s, u"Dlg_QT_MakeShape"_s},
+                                                    {u"SELECTBLOCK"_s, u"DLG_QT_SelectBlock"_s}};
     QString session;
     for (const auto &[command, dialog] : commands)
         session += u"command %1\ndialog %2\nclose\nexpect-modified no\n"_s.arg(command, dialog);
