@@ -53,8 +53,8 @@ QStringList sentencesOf(const CKvBlockCopy &copy, const QString &block, const QS
     if (!copy.kept.isEmpty())
         sentences.append(keptText(copy.kept));
     if (copy.leftOut > 0)
-        sentences.append(translated("Entities that this drawing cannot hold and that were left out: %1.")
-                             .arg(copy.leftOut));
+        sentences.append(
+            translated("Entities that this drawing cannot hold and that were left out: %1.").arg(copy.leftOut));
     return sentences;
 }
 

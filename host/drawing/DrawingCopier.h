@@ -41,7 +41,7 @@ private:
     QHash<QString, QString> m_blocks; ///< names in the target, by those in the source
     std::vector<KeptName> m_kept;
     QSet<RecordId> m_compared; ///< entries of the target
-    int m_depth = 0;                  ///< of nested blocks
+    int m_depth = 0;           ///< of nested blocks
     int m_skipped = 0;
 };
 

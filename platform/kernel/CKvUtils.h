@@ -5,8 +5,8 @@
 #include "platform/rx/OdString.h"
 
 #include <QIcon>
-#include <QList>
 #include <QImage>
+#include <QList>
 #include <QSizeF>
 #include <QStringList>
 

@@ -123,6 +123,64 @@ TEST(Copy, WhatIsThereWins)
     EXPECT_EQ(target->children(target->blocks().find(u"*U1")).size(), 1U);
 }
 
+TEST(Copy, OneBlockWithAllItNeeds)
+{
+    const auto source = furnished("AC1015");
+    const RecordId outer = source->blocks().find(u"Outer");
+    source->entities().createInBlock(outer, {{0, u"ATTDEF"_s},
+                                             {8, u"Walls"_s},
+                                             {7, u"Notes"_s},
+                                             {10, Vec3{}},
+                                             {40, 1.0},
+                                             {1, u"v"_s},
+                                             {2, u"TAG"_s},
+                                             {3, u"Ask"_s},
+                                             {70, qint64(0)}});
+    source->entities().createInBlock(outer, {{0, u"INSERT"_s}, {2, u"*U0"_s}, {10, Vec3{}}});
+    const QByteArray before = source->toBytes();
+    for (const QByteArray &version : {QByteArray("AC1009"), QByteArray("AC1018"), QByteArray("AC1032")}) {
+        SCOPED_TRACE(version.toStdString());
+        const auto target = sample(version);
+        const QByteArray bare = target->toBytes();
+        const CopyResult result = copyBlock(*source, outer, *target);
+        ASSERT_TRUE(result) << result.error.toStdString();
+        EXPECT_TRUE(result.kept.empty());
+        EXPECT_EQ(target->blocks().get(u"outer")->basePoint, (Vec3{1, 1, 0}));
+        EXPECT_EQ(target->children(result.record).size(), 3U);
+        EXPECT_EQ(findLayer(*target, u"Walls")->linetype, u"DASHED"_s);
+        EXPECT_EQ(findTextStyle(*target, u"Notes")->fontFile, u"arial.ttf"_s);
+        EXPECT_EQ(target->children(target->blocks().find(u"Inner")).size(), 1U);
+        EXPECT_AUDIT_CLEAN(*target);
+        // Again there is nothing to do.
+        EXPECT_EQ(copyBlock(*source, outer, *target).kept,
+                  (std::vector<KeptName>{{TableKind::BlockRecord, u"Outer"_s}}));
+        EXPECT_EQ(target->journal().undoDepth(), 1);
+        target->journal().undo();
+        EXPECT_EQ(target->toBytes(), bare);
+    }
+    EXPECT_EQ(source->toBytes(), before);
+    const auto target = sample("AC1032");
+    EXPECT_FALSE(copyBlock(*source, source->blocks().find(u"*Model_Space"), *target));
+    EXPECT_FALSE(copyBlock(*source, noRecord, *target));
+    EXPECT_FALSE(copyBlock(*source, source->entities().all().front(), *target));
+}
+
+TEST(Copy, TellsWhatStandsForSomethingElse)
+{
+    const auto source = furnished("AC1015");
+    const auto target = sample("AC1032");
+    target->tables().add(TableKind::Layer, u"WALLS"_s, {{62, qint64(1)}});
+    target->tables().add(TableKind::Style, u"Notes"_s, {{3, u"ARIAL.TTF"_s}}); // the same
+    target->blocks().create(u"INNER"_s, {});
+    source->entities().createInBlock(
+        source->blocks().find(u"Outer"),
+        {{0, u"TEXT"_s}, {8, u"Walls"_s}, {7, u"Notes"_s}, {10, Vec3{}}, {40, 2.0}, {1, u"a"_s}});
+    const CopyResult result = copyBlock(*source, source->blocks().find(u"Outer"), *target);
+    EXPECT_EQ(result.kept,
+              (std::vector<KeptName>{{TableKind::BlockRecord, u"INNER"_s}, {TableKind::Layer, u"WALLS"_s}}));
+    EXPECT_AUDIT_CLEAN(*target);
+}
+
 TEST(Copy, WhatTheVersionLacksIsCounted)
 {
     const auto source = newDrawing();

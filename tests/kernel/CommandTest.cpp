@@ -271,6 +271,10 @@ TEST_F(Bench, commandsOfAModuleTakeTheirAnswersFromProgramAndUser)
         EXPECT_TRUE(session.input().isEmpty());
     }
     EXPECT_EQ(shapes(drawing()), "POINT 1,2") << "the next command follows in the same call";
+    lisp("(setvar \"CMDECHO\" 0)");
+    takePrinted();
+    lisp("(command \"label\" \"quiet\" 7)");
+    EXPECT_EQ(takePrinted(), "[quiet 7 LABEL]");
 
     session.commandStack().removeCommand(&label);
     lisp("(command \"label\" \"x\" 3)");

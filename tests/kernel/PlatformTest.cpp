@@ -181,6 +181,40 @@ int litPixels(const QImage &picture)
     return lit;
 }
 
+TEST_F(Bench, blocksGoFromFilesIntoTheDrawing)
+{
+    QFile file(folder.filePath(QStringLiteral("library.dxf")));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(fileWithReferences());
+    file.close();
+    OdString error = QStringLiteral("none");
+    const OdDbDatabasePtr library = CKvUtils::readDrawing(file.fileName(), error);
+    ASSERT_TRUE(library);
+    EXPECT_EQ(error, QString());
+    EXPECT_EQ(library->getFilename(), file.fileName());
+    ASSERT_TRUE(file.remove()) << "it was read";
+    QStringList names;
+    for (const CKvBlock &block : CKvUtils::blocks(library.get()))
+        names.append(block.name + (block.isExternal ? QStringLiteral("!") : QString()));
+    EXPECT_EQ(names, QStringList({QStringLiteral("PLAIN"), QStringLiteral("SITE!"), QStringLiteral("OVER!")}));
+
+    OdDbDatabase *own = document().database();
+    EXPECT_TRUE(CKvUtils::blocks(own).isEmpty()) << "spaces are none";
+    EXPECT_TRUE(CKvUtils::copyBlock(library.get(), QStringLiteral("plain"), own).isDone);
+    EXPECT_EQ(lisp("(cdr (assoc 2 (tblsearch \"BLOCK\" \"PLAIN\")))"), "\"PLAIN\"");
+    const CKvBlockCopy again = CKvUtils::copyBlock(library.get(), QStringLiteral("PLAIN"), own);
+    ASSERT_TRUE(again.isDone);
+    ASSERT_EQ(again.kept.size(), 1);
+    EXPECT_EQ(again.kept[0].table + u' ' + again.kept[0].name, QStringLiteral("BLOCK PLAIN"));
+    lisp("(command \"_.UNDO\" 1)");
+    EXPECT_EQ(lisp("(tblsearch \"BLOCK\" \"PLAIN\")"), "nil");
+    EXPECT_FALSE(CKvUtils::copyBlock(library.get(), QStringLiteral("none"), own).isDone);
+    EXPECT_FALSE(CKvUtils::copyBlock(nullptr, QStringLiteral("PLAIN"), own).isDone);
+    EXPECT_FALSE(CKvUtils::copyBlock(own, QStringLiteral("PLAIN"), library.get()).isDone);
+    EXPECT_FALSE(CKvUtils::readDrawing(file.fileName(), error));
+    EXPECT_TRUE(error.contains(QStringLiteral("library.dxf")));
+}
+
 TEST_F(Bench, blockPictures)
 {
     lisp("(entmake '((0 . \"BLOCK\") (2 . \"Ring\") (70 . 0) (10 0.0 0.0 0.0)))"

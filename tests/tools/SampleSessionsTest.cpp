@@ -63,9 +63,10 @@ TEST_F(SampleSessions, ChangeWhatTheySayAndNothingElse)
         {u"replaceblocktoxref"_s, furniture, u"Ortakit/replaceblocktoxref.state"_s,
          "\xEF\xBB\xBF"
          "blockstable=12^\n!action!=OK\ndirectory="},
-        // The insertions with their attributes and the ends of those, and three blocks with what they need.
+        // Three insertions, two with an attribute, and the blocks with what they need; two insertions are in a block.
         {u"selectblock"_s,
-         u"X"_s,
+         u"1+ATTDEF 2+ATTRIB 3+BLOCK 3+BLOCK_RECORD 3+CIRCLE 3+ENDBLK 5+INSERT 2+LAYER 1+LTYPE 2+LWPOLYLINE 2+SEQEND "
+         "1+STYLE 1~$HANDSEED"_s,
          u"Ortakit/selectblock.state"_s, "name=LAMP\nsource=active\n"},
     };
     QStringList names;

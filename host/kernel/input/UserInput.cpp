@@ -30,12 +30,21 @@ PromptReply UserInput::ask(const PromptRequest &request)
 {
     PromptDialogue dialogue(m_document, request);
     for (;;) {
-        m_document.printPrompt(dialogue.request().prompt);
+        const bool isSilent = isAnsweredSilently();
+        if (!isSilent)
+            m_document.printPrompt(dialogue.request().prompt);
         const InputAnswer answer = nextAnswer(dialogue.request());
-        echo(answer);
+        if (!isSilent)
+            echo(answer);
         if (std::optional<PromptReply> reply = dialogue.offer(answer))
             return *reply;
     }
+}
+
+bool UserInput::isAnsweredSilently() const
+{
+    const bool isAnsweredByProgram = !m_given.empty() && m_given.front();
+    return isAnsweredByProgram && m_document.variables().integer(u"CMDECHO", 1) == 0;
 }
 
 std::optional<InputAnswer> UserInput::takeGiven()

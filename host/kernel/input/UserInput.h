@@ -51,6 +51,8 @@ private:
     int askForPoint(PromptKind kind, const OdString &prompt, const std::optional<OdGePoint3d> &base,
                     OdGePoint3d &value);
     void echo(const InputAnswer &answer);
+    /// Whether a program has the next answer and wants nothing of it on the command line (CMDECHO 0).
+    bool isAnsweredSilently() const;
 
     std::optional<InputAnswer> takeGiven();
 

@@ -82,9 +82,8 @@ CKvBlockCopy CKvUtils::copyBlock(OdDbDatabase *source, const OdString &name, OdD
     if (!from || !own)
         return result;
     host::drawing::CopyResult copy;
-    own->document().runAs(QStringLiteral("BLOCK"), [&] {
-        copy = host::drawing::copyBlock(*from, from->blocks().find(name), own->drawing());
-    });
+    own->document().runAs(QStringLiteral("BLOCK"),
+                          [&] { copy = host::drawing::copyBlock(*from, from->blocks().find(name), own->drawing()); });
     result.isDone = bool(copy);
     result.leftOut = copy.skipped;
     for (const host::drawing::KeptName &kept : copy.kept) {
