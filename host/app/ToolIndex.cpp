@@ -11,7 +11,7 @@ namespace host::app {
 
 namespace {
 
-/// The menu line stands among the first lines.
+/// The menu lines stand among the first lines.
 constexpr int linesLookedAt = 20;
 constexpr int longestLine = 1000;
 
@@ -44,10 +44,8 @@ void readTool(const QString &path, ToolIndex &index)
     entry.file = path;
     index.files.append(path);
     for (int i = 0; i < linesLookedAt && !file.atEnd(); ++i)
-        if (readMenuLine(QString::fromUtf8(file.readLine(longestLine)), entry)) {
+        if (readMenuLine(QString::fromUtf8(file.readLine(longestLine)), entry))
             index.entries.append(entry);
-            return;
-        }
 }
 
 } // namespace

@@ -23,7 +23,8 @@ struct ToolIndex
     QStringList problems;     ///< sentences about files that could not be read
 };
 
-/// Reads the folder's *.lsp files. A tool has a line at its begin that says what the menu shows:
+/// Reads the folder's *.lsp files. A tool has a line at its begin for each of its commands that says what the menu
+/// shows:
 ///     ;;; menu: Break line | BREAKLINE | Cuts a line open and draws a break symbol in the gap
 /// The support library is the file ortakit.lsp.
 ToolIndex readTools(const QString &folder);
