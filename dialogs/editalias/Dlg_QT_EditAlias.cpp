@@ -5,6 +5,7 @@
 #include "state/DocumentPrinting.h"
 #include "state/FilePicker.h"
 #include "state/ModuleFolder.h"
+#include "state/TableOrder.h"
 #include "state/TableRows.h"
 #include "ui_Dlg_QT_EditAlias.h"
 
@@ -29,6 +30,7 @@ Dlg_QT_EditAlias::Dlg_QT_EditAlias(QWidget *parent)
     m_ui->setupUi(this);
     setUpButtons();
     ortakit::setTableHeaders(*m_ui->lstAlias, tr("Command;Alias"));
+    ortakit::setHeaderForSorting(*m_ui->lstAlias);
     m_ui->lstAlias->setColumnWidth(AliasColumn, 100);
     m_ui->lstAlias->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
     m_ui->lstAlias->installEventFilter(this);
@@ -118,6 +120,7 @@ void Dlg_QT_EditAlias::fillTable(const QList<ortakit::CommandAlias> &aliases)
     for (const ortakit::CommandAlias &pair : aliases)
         rows.append({pair.command, pair.alias});
     ortakit::setTableRows(*m_ui->lstAlias, rows);
+    m_ui->lstAlias->horizontalHeader()->setSortIndicatorShown(false);
     for (int row = 0; row < int(aliases.size()); ++row)
         m_ui->lstAlias->item(row, CommandColumn)->setWhatsThis(QString(aliases[row].command).remove(u'_'));
 }
@@ -271,7 +274,7 @@ void Dlg_QT_EditAlias::aliasclick(int row, int column)
 
 void Dlg_QT_EditAlias::ClickHeaderTable(int column)
 {
-    m_ui->lstAlias->sortItems(column, Qt::AscendingOrder);
+    ortakit::sortTableRows(*m_ui->lstAlias, column, tr("Sorting..."));
 }
 
 void Dlg_QT_EditAlias::SelectChanged()

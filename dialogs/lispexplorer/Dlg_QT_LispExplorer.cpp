@@ -8,6 +8,7 @@
 #include "platform/kernel/CKvUtils.h"
 #include "state/FilePicker.h"
 #include "state/FolderPicker.h"
+#include "state/TableOrder.h"
 #include "state/TableRows.h"
 #include "ui_Dlg_QT_LispExplorer.h"
 
@@ -101,6 +102,7 @@ void Dlg_QT_LispExplorer::setUpLibraryPage()
 
 void Dlg_QT_LispExplorer::setUpLoadedPage()
 {
+    ortakit::setHeaderForSorting(*m_ui->tableFunctions);
     connect(m_ui->tableFunctions->horizontalHeader(), &QHeaderView::sectionClicked, this,
             &Dlg_QT_LispExplorer::ClickHeaderTable);
     for (const QRadioButton *button : {m_ui->isCommands, m_ui->isFunctions, m_ui->isVariables})
@@ -321,11 +323,12 @@ void Dlg_QT_LispExplorer::fillKoraTabs()
     for (const QString &line : chosenSymbols())
         rows.append(ortakit::lispSymbolColumns(line));
     ortakit::setTableRows(table, rows);
+    table.horizontalHeader()->setSortIndicatorShown(false);
 }
 
 void Dlg_QT_LispExplorer::ClickHeaderTable(int column)
 {
-    m_ui->tableFunctions->sortItems(column, Qt::AscendingOrder);
+    ortakit::sortTableRows(*m_ui->tableFunctions, column, tr("Sorting..."));
 }
 
 void Dlg_QT_LispExplorer::lispDump()

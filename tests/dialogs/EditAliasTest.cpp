@@ -283,11 +283,14 @@ TEST_F(EditAlias, ImportingReplacesTheTableOrNothing)
 
 TEST_F(EditAlias, HeadingsSort)
 {
-    showAliases(u"MOVE=A ARC=M LINE=L"_s);
+    showAliases(u"MOVE=A ARC=M line=L"_s);
+    table()->setCurrentCell(1, 1);
     emit table()->horizontalHeader()->sectionClicked(0);
-    EXPECT_EQ(rows(), u"ARC=M LINE=L MOVE=A"_s);
+    EXPECT_EQ(rows(), u"ARC=M line=L MOVE=A"_s);
+    EXPECT_EQ(table()->currentItem()->text(), u"M"_s);
+    EXPECT_EQ(table()->selectedItems(), QList<QTableWidgetItem *>{table()->currentItem()});
     emit table()->horizontalHeader()->sectionClicked(1);
-    EXPECT_EQ(rows(), u"MOVE=A LINE=L ARC=M"_s);
+    EXPECT_EQ(rows(), u"MOVE=A line=L ARC=M"_s);
 }
 
 TEST_F(EditAlias, PrintsAListInUpperCase)
