@@ -8,6 +8,8 @@
 #include "state/WholeTextItem.h"
 #include "ui_DLG_QT_SelectBlock.h"
 
+#include <QFileInfo>
+
 #include <algorithm>
 
 namespace {
@@ -245,6 +247,8 @@ void DLG_QT_SelectBlock::clickOK()
     if (!acceptsBlock(chosen))
         return;
     state().setWrittenValue(QStringLiteral("name"), chosen);
-    state().setWrittenValue(QStringLiteral("source"), m_source.isFile() ? m_source.path() : activeSource);
+    // The next session may begin in another folder.
+    const QString source = m_source.isFile() ? QFileInfo(m_source.path()).absoluteFilePath() : activeSource;
+    state().setWrittenValue(QStringLiteral("source"), source);
     acceptWith(QStringLiteral("OK"));
 }

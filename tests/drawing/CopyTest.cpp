@@ -165,22 +165,6 @@ TEST(Copy, OneBlockWithAllItNeeds)
     EXPECT_FALSE(copyBlock(*source, source->entities().all().front(), *target));
 }
 
-TEST(Copy, TellsWhatStandsForSomethingElse)
-{
-    const auto source = furnished("AC1015");
-    const auto target = sample("AC1032");
-    target->tables().add(TableKind::Layer, u"WALLS"_s, {{62, qint64(1)}});
-    target->tables().add(TableKind::Style, u"Notes"_s, {{3, u"ARIAL.TTF"_s}}); // the same
-    target->blocks().create(u"INNER"_s, {});
-    source->entities().createInBlock(
-        source->blocks().find(u"Outer"),
-        {{0, u"TEXT"_s}, {8, u"Walls"_s}, {7, u"Notes"_s}, {10, Vec3{}}, {40, 2.0}, {1, u"a"_s}});
-    const CopyResult result = copyBlock(*source, source->blocks().find(u"Outer"), *target);
-    EXPECT_EQ(result.kept,
-              (std::vector<KeptName>{{TableKind::BlockRecord, u"INNER"_s}, {TableKind::Layer, u"WALLS"_s}}));
-    EXPECT_AUDIT_CLEAN(*target);
-}
-
 TEST(Copy, WhatTheVersionLacksIsCounted)
 {
     const auto source = newDrawing();

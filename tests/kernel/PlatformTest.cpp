@@ -202,12 +202,6 @@ TEST_F(Bench, blocksGoFromFilesIntoTheDrawing)
     EXPECT_TRUE(CKvUtils::blocks(own).isEmpty()) << "spaces are none";
     EXPECT_TRUE(CKvUtils::copyBlock(library.get(), QStringLiteral("plain"), own).isDone);
     EXPECT_EQ(lisp("(cdr (assoc 2 (tblsearch \"BLOCK\" \"PLAIN\")))"), "\"PLAIN\"");
-    const CKvBlockCopy again = CKvUtils::copyBlock(library.get(), QStringLiteral("PLAIN"), own);
-    ASSERT_TRUE(again.isDone);
-    ASSERT_EQ(again.kept.size(), 1);
-    EXPECT_EQ(again.kept[0].table + u' ' + again.kept[0].name, QStringLiteral("BLOCK PLAIN"));
-    lisp("(command \"_.UNDO\" 1)");
-    EXPECT_EQ(lisp("(tblsearch \"BLOCK\" \"PLAIN\")"), "nil");
     EXPECT_FALSE(CKvUtils::copyBlock(library.get(), QStringLiteral("none"), own).isDone);
     EXPECT_FALSE(CKvUtils::copyBlock(nullptr, QStringLiteral("PLAIN"), own).isDone);
     EXPECT_FALSE(CKvUtils::copyBlock(own, QStringLiteral("PLAIN"), library.get()).isDone);
