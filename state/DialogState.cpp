@@ -87,9 +87,10 @@ void DialogState::saveFavourite(const QString &name, const QString &group) const
 {
     QList<ortakit::FavouriteStore::Entry> entries;
     for (const QWidget *widget : widgets()) {
-        const QString value = ortakit::writtenValue(*widget);
-        if (!widget->objectName().isEmpty() && !value.isEmpty())
-            entries.append({widget->objectName().toLower(), value});
+        const QString key = widget->objectName().toLower();
+        const QString value = m_keptValues.value(key, ortakit::writtenValue(*widget));
+        if (!key.isEmpty() && !value.isEmpty())
+            entries.append({key, value});
     }
     ortakit::FavouriteStore(group).save(name, entries);
 }

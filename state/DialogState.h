@@ -56,6 +56,11 @@ public:
     /// name that no widget has stands behind those of the widgets.
     void setWrittenValue(const QString &name, const QString &value) { m_writtenValues.insert(name.toLower(), value); }
 
+    /// From now on a favourite keeps `value` for the widget called `name` (any case) instead of what the widget says,
+    /// as for the order of a table's rows. Picking the favourite gives it to the widget as any other value, and leaves
+    /// it for lookup().
+    void setFavouriteValue(const QString &name, const QString &value) { m_keptValues.insert(name.toLower(), value); }
+
     /// Writes the values of all widgets and the action word to the file of the last load(). The action line follows
     /// the first widget's; without a widget that has a value the file is empty. A crash or a full disk leaves the old
     /// file or the new one, where the folder allows to write beside it.
@@ -91,5 +96,6 @@ private:
     QString m_favouritesFolder;
     QString m_action;
     QMap<QString, QString> m_writtenValues;
+    QMap<QString, QString> m_keptValues;
     bool m_loaded = false;
 };
