@@ -3,6 +3,7 @@
 #include "platform/Export.h"
 
 #include <QComboBox>
+#include <QIcon>
 
 /// A combo box of the colours of a drawing. The text of an item is its index number in decimal, so that a number set
 /// as the current text picks the colour; what is shown is a swatch and the colour's name.
@@ -17,6 +18,12 @@ public:
     int colorIndex() const;
     /// Picks the colour, adding an item for it when there was none. Numbers outside 0 to 256 are ignored.
     void setColorIndex(int index);
+
+    /// What such a box shows for a colour of 0 to 256, for lists of colours.
+    /// @{
+    static QString colorName(int index);
+    static QIcon colorSwatch(int index);
+    /// @}
 
 protected:
     void initStyleOption(QStyleOptionComboBox *option) const override;

@@ -10,36 +10,12 @@ namespace {
 constexpr int byBlock = 0;
 constexpr int byLayer = 256;
 
-QString colorName(int index)
-{
-    static const char *const names[] = {
-        QT_TRANSLATE_NOOP("CKvQtColorComboBox", "ByBlock"), QT_TRANSLATE_NOOP("CKvQtColorComboBox", "Red"),
-        QT_TRANSLATE_NOOP("CKvQtColorComboBox", "Yellow"),  QT_TRANSLATE_NOOP("CKvQtColorComboBox", "Green"),
-        QT_TRANSLATE_NOOP("CKvQtColorComboBox", "Cyan"),    QT_TRANSLATE_NOOP("CKvQtColorComboBox", "Blue"),
-        QT_TRANSLATE_NOOP("CKvQtColorComboBox", "Magenta"), QT_TRANSLATE_NOOP("CKvQtColorComboBox", "White")};
-    if (index == byLayer)
-        return CKvQtColorComboBox::tr("ByLayer");
-    if (index >= 0 && index < int(std::size(names)))
-        return CKvQtColorComboBox::tr(names[index]);
-    return CKvQtColorComboBox::tr("Color %1").arg(index);
-}
-
 /// The colour number an item's text says; -1 for other text.
 int colorNumber(const QString &text)
 {
     bool ok = false;
     const int number = text.toInt(&ok);
     return ok && number >= byBlock && number <= byLayer ? number : -1;
-}
-
-QIcon swatch(int index)
-{
-    QPixmap picture(16, 16);
-    picture.fill(host::view::aciColor(index, host::view::Ground::White));
-    QPainter painter(&picture);
-    painter.setPen(Qt::darkGray);
-    painter.drawRect(0, 0, 15, 15);
-    return QIcon(picture);
 }
 
 /// Shows the items of the list as swatch and name.
@@ -55,8 +31,8 @@ protected:
         const int number = colorNumber(index.data().toString());
         if (number < 0)
             return;
-        option->text = colorName(number);
-        option->icon = swatch(number);
+        option->text = CKvQtColorComboBox::colorName(number);
+        option->icon = CKvQtColorComboBox::colorSwatch(number);
         option->features |= QStyleOptionViewItem::HasDecoration;
         option->decorationSize = QSize(16, 16);
     }
@@ -87,6 +63,30 @@ void CKvQtColorComboBox::setColorIndex(int index)
     setCurrentIndex(findText(text));
 }
 
+QString CKvQtColorComboBox::colorName(int index)
+{
+    static const char *const names[] = {
+        QT_TRANSLATE_NOOP("CKvQtColorComboBox", "ByBlock"), QT_TRANSLATE_NOOP("CKvQtColorComboBox", "Red"),
+        QT_TRANSLATE_NOOP("CKvQtColorComboBox", "Yellow"),  QT_TRANSLATE_NOOP("CKvQtColorComboBox", "Green"),
+        QT_TRANSLATE_NOOP("CKvQtColorComboBox", "Cyan"),    QT_TRANSLATE_NOOP("CKvQtColorComboBox", "Blue"),
+        QT_TRANSLATE_NOOP("CKvQtColorComboBox", "Magenta"), QT_TRANSLATE_NOOP("CKvQtColorComboBox", "White")};
+    if (index == byLayer)
+        return tr("ByLayer");
+    if (index >= 0 && index < int(std::size(names)))
+        return tr(names[index]);
+    return tr("Color %1").arg(index);
+}
+
+QIcon CKvQtColorComboBox::colorSwatch(int index)
+{
+    QPixmap picture(16, 16);
+    picture.fill(host::view::aciColor(index, host::view::Ground::White));
+    QPainter painter(&picture);
+    painter.setPen(Qt::darkGray);
+    painter.drawRect(0, 0, 15, 15);
+    return QIcon(picture);
+}
+
 void CKvQtColorComboBox::initStyleOption(QStyleOptionComboBox *option) const
 {
     QComboBox::initStyleOption(option);
@@ -94,6 +94,6 @@ void CKvQtColorComboBox::initStyleOption(QStyleOptionComboBox *option) const
     if (number < 0)
         return;
     option->currentText = colorName(number);
-    option->currentIcon = swatch(number);
+    option->currentIcon = colorSwatch(number);
     option->iconSize = QSize(16, 16);
 }
