@@ -6,11 +6,13 @@
 
 #include <QAbstractButton>
 #include <QDialogButtonBox>
+#include <QShortcut>
 #include <QShowEvent>
 
 ToolDialog::ToolDialog(QWidget *parent, const QString &helpTopic)
     : CKvDialog(parent), m_state(this), m_helpTopic(helpTopic)
 {
+    connect(new QShortcut(QKeySequence::HelpContents, this), &QShortcut::activated, this, &ToolDialog::showHelp);
 }
 
 ToolDialog::~ToolDialog() = default;

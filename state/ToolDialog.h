@@ -24,7 +24,7 @@ public:
     const DialogState &state() const { return m_state; }
 
 public slots:
-    /// Opens the tool's help page.
+    /// Opens the tool's help page, as F1 does wherever the focus is.
     void showHelp();
 
 protected:

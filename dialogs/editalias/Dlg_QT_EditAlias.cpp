@@ -11,7 +11,6 @@
 
 #include <QKeyEvent>
 #include <QScopedValueRollback>
-#include <QShortcut>
 #include <QTextDocument>
 
 namespace {
@@ -54,7 +53,6 @@ void Dlg_QT_EditAlias::connectWidgets()
     connect(m_ui->lstAlias, &QTableWidget::itemSelectionChanged, this, &Dlg_QT_EditAlias::SelectChanged);
     connect(m_ui->lstAlias->horizontalHeader(), &QHeaderView::sectionClicked, this,
             &Dlg_QT_EditAlias::ClickHeaderTable);
-    connect(new QShortcut(QKeySequence::HelpContents, this), &QShortcut::activated, this, &Dlg_QT_EditAlias::Help);
 }
 
 bool Dlg_QT_EditAlias::eventFilter(QObject *watched, QEvent *event)
@@ -143,11 +141,6 @@ QList<ortakit::CommandAlias> Dlg_QT_EditAlias::tableAliases() const
 bool Dlg_QT_EditAlias::writeTable() const
 {
     return ortakit::writeAliasFile(m_aliasFile, tableAliases());
-}
-
-void Dlg_QT_EditAlias::Help()
-{
-    showHelp();
 }
 
 void Dlg_QT_EditAlias::AddAlias()

@@ -28,7 +28,6 @@ protected:
     void changeEvent(QEvent *event) override;
 
 private:
-    void Help();
     void AddAlias();
     void delAlias();
     void cleanAlias();

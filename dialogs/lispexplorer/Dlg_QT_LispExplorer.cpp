@@ -15,7 +15,6 @@
 #include <QDir>
 #include <QKeyEvent>
 #include <QPointer>
-#include <QShortcut>
 #include <QSignalBlocker>
 
 namespace {
@@ -68,7 +67,6 @@ Dlg_QT_LispExplorer::Dlg_QT_LispExplorer(QWidget *parent)
 
     connect(m_ui->isUser, &QRadioButton::clicked, this, &Dlg_QT_LispExplorer::changeType);
     connect(m_ui->isKora, &QRadioButton::clicked, this, &Dlg_QT_LispExplorer::changeType);
-    connect(new QShortcut(QKeySequence::HelpContents, this), &QShortcut::activated, this, &Dlg_QT_LispExplorer::Help);
     for (const QDialogButtonBox *box : {m_ui->buttonBox, m_ui->buttonBox_2})
         connect(box, &QDialogButtonBox::rejected, this, &Dlg_QT_LispExplorer::reject);
     // Enter belongs to the field that has the focus, so there is no default button; see keyPressEvent().
@@ -134,11 +132,6 @@ void Dlg_QT_LispExplorer::keyPressEvent(QKeyEvent *event)
     }
     if (auto *button = qobject_cast<QPushButton *>(focusWidget()))
         button->click();
-}
-
-void Dlg_QT_LispExplorer::Help()
-{
-    showHelp();
 }
 
 void Dlg_QT_LispExplorer::changeType()

@@ -36,7 +36,6 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
 
 private:
-    void Help();
     void ClickHeaderTable(int column);
     void Selectdirectory();
     void Openfile(QListWidgetItem *item);
