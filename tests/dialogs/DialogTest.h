@@ -7,6 +7,7 @@
 
 #include <QAbstractButton>
 #include <QLineEdit>
+#include <QSettings>
 #include <QTableWidget>
 #include <QTest>
 
@@ -15,12 +16,16 @@
 namespace ortakit::test {
 
 /// One tool's dialog in a fake host with one document. The host is made first, so a test class that needs files or
-/// drawings before the dialog exists makes them in its constructor.
+/// drawings before the dialog exists makes them in its constructor. Favourites are the test's own.
 template <class Dialog>
 class DialogTest : public testing::Test
 {
 protected:
-    DialogTest() { host.setMainWindow(&window); }
+    DialogTest()
+    {
+        host.setMainWindow(&window);
+        QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, host.path(QStringLiteral("settings")));
+    }
     void SetUp() override { dialog = std::make_unique<Dialog>(&window); }
 
     template <class Widget = QWidget>

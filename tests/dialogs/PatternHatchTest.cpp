@@ -7,7 +7,6 @@
 #include <QFileInfo>
 #include <QLabel>
 #include <QMenu>
-#include <QSettings>
 #include <QtMath>
 
 using namespace ortakit::test;
@@ -18,8 +17,6 @@ namespace {
 class PatternHatch : public DialogTest<DLG_QT_PatternHatch>
 {
 protected:
-    PatternHatch() { QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, host.path(u"settings"_s)); }
-
     double value(const char *box) const { return find<QDoubleSpinBox>(box)->value(); }
     QSizeF shownSize() const { return {value("Width"), value("Height")}; }
     void setValue(const char *box, double value) { find<QDoubleSpinBox>(box)->setValue(value); }
