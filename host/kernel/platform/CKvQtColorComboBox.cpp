@@ -84,7 +84,10 @@ QIcon CKvQtColorComboBox::colorSwatch(int index)
     QPainter painter(&picture);
     painter.setPen(Qt::darkGray);
     painter.drawRect(0, 0, 15, 15);
-    return QIcon(picture);
+    QIcon icon(picture);
+    // A selected row would tint it, and so show another colour.
+    icon.addPixmap(picture, QIcon::Selected);
+    return icon;
 }
 
 void CKvQtColorComboBox::initStyleOption(QStyleOptionComboBox *option) const
