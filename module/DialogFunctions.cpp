@@ -4,6 +4,7 @@
 #include "dialogs/convertnotes/DLG_QT_ConvertNotes.h"
 #include "dialogs/dimensionstyle/Dlg_QT_ExchangedDimensionStyle.h"
 #include "dialogs/dimensionstyle/Dlg_QT_ImportDimensionStyle.h"
+#include "dialogs/drawordercolor/Dlg_QT_DrawOderColor.h"
 #include "dialogs/editalias/Dlg_QT_EditAlias.h"
 #include "dialogs/edittextcase/Dlg_QT_EditTextCase.h"
 #include "dialogs/exportinfo/Dlg_QT_ExportInfo.h"
@@ -13,6 +14,7 @@
 #include "dialogs/lispexplorer/Dlg_QT_LispExplorer.h"
 #include "dialogs/makelinestyle/Dlg_QT_MakeLineStyle.h"
 #include "dialogs/makeshape/Dlg_QT_MakeShape.h"
+#include "dialogs/mergesheets/Dlg_QT_MergeSheets.h"
 #include "dialogs/multiviewsetup/Dlg_QT_MultiViewSetup.h"
 #include "dialogs/numbertext/Dlg_QT_numbertext.h"
 #include "dialogs/patternhatch/DLG_QT_PatternHatch.h"
@@ -227,6 +229,26 @@ int dlgGetBlockInfo()
 int dlgImportAttributes()
 {
     return runDialog<Dlg_QT_ImportBlockAttributes>(DialogSlot::ImportAttributes, {});
+}
+
+// Any number of colours come in, as strings, and go back as numbers.
+int dlgDrawOrderColor()
+{
+    return runDialog<Dlg_QT_DrawOderColor>(
+        DialogSlot::DrawOrderByColor,
+        {.extraArguments = ExtraArguments::List,
+         .takeExtra = [](Dlg_QT_DrawOderColor &dialog, const OdResBuf *rest) { dialog.setColors(strings(rest)); },
+         .giveResult = [](Dlg_QT_DrawOderColor &dialog,
+                          CKvLispEngine &lisp) { lisp.returnList(shortList(dialog.colors())); }});
+}
+
+int dlgMergeSheets()
+{
+    return runDialog<Dlg_QT_MergeSheets>(
+        DialogSlot::MergeSheets,
+        {.firstArgument = FirstArgument::Present,
+         .extraArguments = ExtraArguments::List,
+         .takeExtra = [](Dlg_QT_MergeSheets &dialog, const OdResBuf *rest) { dialog.setSheets(strings(rest)); }});
 }
 
 } // namespace ortakit

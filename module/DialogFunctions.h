@@ -26,6 +26,8 @@ int dlgShowLinks();
 int dlgRedefinePaths();
 int dlgGetBlockInfo();
 int dlgImportAttributes();
+int dlgDrawOrderColor();
+int dlgMergeSheets();
 /// @}
 
 } // namespace ortakit

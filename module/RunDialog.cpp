@@ -5,6 +5,21 @@
 
 namespace ortakit {
 
+namespace {
+
+template <class Values, class MakeLink>
+OdResBufPtr listOf(const Values &values, MakeLink makeLink)
+{
+    OdResBufPtr list = OdResBuf::newRb(OdResBuf::kRtListBegin);
+    OdResBuf *last = list.get();
+    for (const auto &value : values)
+        last = last->setNext(makeLink(value));
+    last->setNext(OdResBuf::newRb(OdResBuf::kRtListEnd));
+    return list;
+}
+
+} // namespace
+
 CKvDialog *findDialog(const CKvDocument &document, DialogSlot slot, CKvDialog *(*create)(QWidget *parent))
 {
     return DialogRegistry::instance().dialog(&document, slot, create, dialogParent());
@@ -37,12 +52,12 @@ QStringList strings(const OdResBuf *rest)
 
 OdResBufPtr stringList(const QStringList &strings)
 {
-    OdResBufPtr list = OdResBuf::newRb(OdResBuf::kRtListBegin);
-    OdResBuf *last = list.get();
-    for (const QString &string : strings)
-        last = last->setNext(OdResBuf::newString(OdResBuf::kRtString, string));
-    last->setNext(OdResBuf::newRb(OdResBuf::kRtListEnd));
-    return list;
+    return listOf(strings, [](const QString &string) { return OdResBuf::newString(OdResBuf::kRtString, string); });
+}
+
+OdResBufPtr shortList(const QList<int> &numbers)
+{
+    return listOf(numbers, [](int number) { return OdResBuf::newInteger(OdResBuf::kRtShort, number); });
 }
 
 QList<QStringList> stringLists(const OdResBuf *rest)

@@ -72,8 +72,9 @@ bool areAcceptable(const OdResBuf *first, FirstArgument firstArgument, ExtraArgu
 /// The strings among the arguments from `rest` on, in their order; what is no string is passed over.
 QStringList strings(const OdResBuf *rest);
 
-/// The chain that gives Lisp a list of strings.
+/// The chains that give Lisp a list of strings, and one of 16-bit integers.
 OdResBufPtr stringList(const QStringList &strings);
+OdResBufPtr shortList(const QList<int> &numbers);
 
 /// The lists among the arguments from `rest` on, in their order, each with its strings; nil is an empty list. What is
 /// no string in a list is passed over, lists in lists give theirs to the outer one.

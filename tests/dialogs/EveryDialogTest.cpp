@@ -4,6 +4,7 @@
 #include "dialogs/convertnotes/DLG_QT_ConvertNotes.h"
 #include "dialogs/dimensionstyle/Dlg_QT_ExchangedDimensionStyle.h"
 #include "dialogs/dimensionstyle/Dlg_QT_ImportDimensionStyle.h"
+#include "dialogs/drawordercolor/Dlg_QT_DrawOderColor.h"
 #include "dialogs/editalias/Dlg_QT_EditAlias.h"
 #include "dialogs/edittextcase/Dlg_QT_EditTextCase.h"
 #include "dialogs/exportinfo/Dlg_QT_ExportInfo.h"
@@ -13,6 +14,7 @@
 #include "dialogs/lispexplorer/Dlg_QT_LispExplorer.h"
 #include "dialogs/makelinestyle/Dlg_QT_MakeLineStyle.h"
 #include "dialogs/makeshape/Dlg_QT_MakeShape.h"
+#include "dialogs/mergesheets/Dlg_QT_MergeSheets.h"
 #include "dialogs/multiviewsetup/Dlg_QT_MultiViewSetup.h"
 #include "dialogs/numbertext/Dlg_QT_numbertext.h"
 #include "dialogs/patternhatch/DLG_QT_PatternHatch.h"
@@ -82,6 +84,8 @@ constexpr Row rows[] = {
     row<Dlg_QT_GetBlockInfo>("GetBlockInfo", "9109"),
     row<Dlg_QT_ImportBlockAttributes>("ImportBlockAttributes", "9108"),
     row<DLG_QT_SelectBlock>("SelectBlock", "9102"),
+    row<Dlg_QT_DrawOderColor>("DrawOderColor", "9127"),
+    row<Dlg_QT_MergeSheets>("MergeSheets", "9136"),
 };
 
 void PrintTo(const Row &row, std::ostream *out)
@@ -137,6 +141,23 @@ TEST_P(EveryDialog, HelpOpensItsTopic)
     EXPECT_FALSE(help->icon().isNull());
     help->click();
     EXPECT_EQ(host.help().requests.value(0).section(u' ', 1, 1), QString::fromLatin1(GetParam().helpTopic));
+}
+
+// Wherever the user is.
+TEST_P(EveryDialog, F1OpensItsTopic)
+{
+    QList<QWidget *> places = visible<QWidget>();
+    places.removeIf(
+        [](const QWidget *widget) { return !widget->isEnabled() || !(widget->focusPolicy() & Qt::TabFocus); });
+    ASSERT_FALSE(places.isEmpty());
+    for (QWidget *place : std::as_const(places)) {
+        place->setFocus();
+        host.help().requests.clear();
+        QTest::keyClick(dialog->focusWidget(), Qt::Key_F1);
+        EXPECT_EQ(host.help().requests.value(0).section(u' ', 1, 1), QString::fromLatin1(GetParam().helpTopic))
+            << place->objectName().toStdString();
+        EXPECT_EQ(host.help().requests.size(), 1);
+    }
 }
 
 TEST_P(EveryDialog, EscapeCloses)

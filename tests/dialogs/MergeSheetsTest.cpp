@@ -1,0 +1,237 @@
+#include "dialogs/mergesheets/Dlg_QT_MergeSheets.h"
+#include "tests/dialogs/DialogTest.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QLabel>
+
+using namespace ortakit::test;
+using namespace Qt::StringLiterals;
+using ortakit::EqualNames;
+using ortakit::mergedSheetNames;
+using ortakit::SheetNameProblem;
+
+namespace {
+
+class MergeSheets : public DialogTest<Dlg_QT_MergeSheets>
+{
+protected:
+    QTableWidget *list() const { return find<QTableWidget>("lstSheets"); }
+    void showSheets(const QStringList &sheets, const QString &state = {})
+    {
+        dialog->setSheets(sheets);
+        showWith(state);
+    }
+    void check(int row, bool checked) { list()->item(row, 0)->setCheckState(checked ? Qt::Checked : Qt::Unchecked); }
+    QString message() const { return find<QLabel>("nameMessage")->text(); }
+    QString inHost(const QString &name) const { return QDir::cleanPath(host.path(name)); }
+};
+
+TEST_F(MergeSheets, NamesSheetsAfterLayoutsAndFiles)
+{
+    using enum SheetNameProblem;
+    const QString longest(255, u'x');
+    const struct
+    {
+        QStringList sheets;
+        QString prefix;
+        EqualNames equal;
+        QString names;
+        QList<SheetNameProblem> problems;
+    } rows[] = {
+        {{u"Plan"_s, u"D:\\a.b\\Roof.v2.DWG"_s, u"/home/x=y/z.dxf"_s, u".dwg"_s, u"dwg"_s},
+         u"A-"_s,
+         EqualNames::Refuse,
+         u"A-Plan|A-Roof.v2|A-z|A-|A-dwg"_s,
+         {None, None, None, None, None}},
+        {{u"Plan"_s, u"PLAN"_s, u"x/plan.dwg"_s, u"Section"_s},
+         {},
+         EqualNames::Refuse,
+         u"Plan|PLAN|plan|Section"_s,
+         {None, Repeated, Repeated, None}},
+        {{u"Plan"_s, u"PLAN"_s, u"Plan (2)"_s, u"plan"_s, u"Model"_s},
+         {},
+         EqualNames::Number,
+         u"Plan|PLAN (2)|Plan (2) (2)|plan (3)|Model (2)"_s,
+         {None, None, None, None, None}},
+        {{u"Model"_s, u"model.dwg"_s, {}, u"  "_s},
+         {},
+         EqualNames::Refuse,
+         u"Model|model||  "_s,
+         {Reserved, Reserved, Empty, Empty}},
+        {{u"odel"_s}, u"M"_s, EqualNames::Refuse, u"Model"_s, {Reserved}},
+        {{u"a,b;c.dwg"_s, u"1\t2"_s}, {}, EqualNames::Refuse, u"a_b_c|1_2"_s, {None, None}},
+        {{longest, longest + u'x'}, {}, EqualNames::Refuse, longest + u'|' + longest + u'x', {None, TooLong}},
+        {{longest, longest}, {}, EqualNames::Number, longest + u'|' + longest + u" (2)"_s, {None, TooLong}},
+    };
+    for (const auto &row : rows) {
+        QStringList texts;
+        QList<SheetNameProblem> problems;
+        for (const auto &name : mergedSheetNames(row.sheets, row.prefix, row.equal)) {
+            texts.append(name.text);
+            problems.append(name.problem);
+        }
+        EXPECT_EQ(texts.join(u'|'), row.names);
+        EXPECT_EQ(problems, row.problems) << row.names.toStdString();
+    }
+}
+
+TEST_F(MergeSheets, AHundredThousandEqualNamesAreNumberedAtOnce)
+{
+    QElapsedTimer clock;
+    clock.start();
+    const auto names = mergedSheetNames(QStringList(100000, u"Plan"_s), {}, EqualNames::Number);
+    EXPECT_EQ(names.last().text, u"Plan (100000)"_s);
+    EXPECT_LT(clock.elapsed(), 5000);
+}
+
+TEST_F(MergeSheets, LispLearnsWhichSheetsInWhichOrderUnderWhichNames)
+{
+    showSheets({u"Plan"_s, u"a^b"_s, u"D:\\x\\Plan.dwg"_s, u"Roof"_s},
+               u"prefix=N \nlstsheets=Roof prefix=no^\nselectall=FALSE\n"_s);
+    EXPECT_EQ(text("prefix"), u"N "_s);
+    EXPECT_TRUE(isChecked("selectAll")) << "each call starts with all sheets";
+    EXPECT_EQ(message(), u"Two sheets have the name \"N Plan\"."_s);
+    EXPECT_FALSE(list()->item(2, 1)->icon().isNull());
+    click("numberEqual");
+    EXPECT_EQ(tableRows("lstSheets").value(2), u"D:\\x\\Plan.dwg|N Plan (2)"_s);
+    EXPECT_TRUE(list()->item(2, 1)->icon().isNull());
+    selectRows(list(), {2});
+    click("moveTop");
+    check(3, false);
+    EXPECT_EQ(tableRows("lstSheets").join(u' '), u"D:\\x\\Plan.dwg|N Plan Plan|N Plan (2) a^b|N a^b Roof|"_s);
+    EXPECT_EQ(message(), u"3 of 4 sheets are merged."_s);
+    EXPECT_FALSE(isChecked("selectAll"));
+    click("acceptButton");
+    EXPECT_TRUE(isAccepted());
+    EXPECT_EQ(missingInState({u"lstsheets=D:\\x\\Plan.dwg^Plan^a^b^"_s, u"sheetnumbers=3^1^2^"_s,
+                              u"newnames=N Plan^N Plan (2)^N a^b^"_s, u"prefix=N "_s, u"numberequal=TRUE"_s,
+                              u"tocurrent=TRUE"_s, u"!action!=OK"_s}),
+              QStringList());
+    showSheets({u"Roof"_s, u"Plan"_s});
+    EXPECT_EQ(tableRows("lstSheets").join(u' '), u"Roof|N Roof Plan|N Plan"_s);
+}
+
+TEST_F(MergeSheets, SheetsAreCheckedTogether)
+{
+    showSheets({u"a"_s, u"b"_s, u"c"_s});
+    EXPECT_EQ(focusName(), u"lstSheets"_s);
+    selectRows(list(), {0, 2});
+    QTest::keyClick(list(), Qt::Key_Space);
+    EXPECT_EQ(message(), u"1 of 3 sheets are merged."_s);
+    QTest::keyClick(list(), Qt::Key_Space);
+    EXPECT_TRUE(isChecked("selectAll"));
+    click("selectAll");
+    EXPECT_EQ(shownBy("acceptButton", {QMessageBox::Ok}),
+              QStringList{u"information \"Merge Sheets\" \"Select the sheets to merge.\" OK"_s});
+    EXPECT_TRUE(dialog->isVisible());
+    showSheets({});
+    EXPECT_EQ(enabledOf(u"selectAll moveTop moveUp moveDown moveBottom"_s), QString());
+}
+
+TEST_F(MergeSheets, RefusesNamesThatADrawingCannotHave)
+{
+    const struct
+    {
+        QString prefix;
+        QString shown;
+    } rows[] = {
+        {u"A/"_s, u"A name cannot have any of < > / \\ \" : ; ? * | , = `"_s},
+        {u"A=1"_s, u"A name cannot have any of < > / \\ \" : ; ? * | , = `"_s},
+        {QString(252, u'x'), u"A name has at most 255 characters."_s},
+        {u"mo"_s, u"No sheet can have the name \"model\"."_s},
+    };
+    showSheets({u"Plan"_s, u"del"_s});
+    for (const auto &row : rows) {
+        setText("prefix", row.prefix);
+        EXPECT_EQ(message(), row.shown);
+        EXPECT_EQ(shownBy("acceptButton", {QMessageBox::Ok}),
+                  QStringList{u"warning \"Merge Sheets\" \"%1\" OK"_s.arg(row.shown)});
+        EXPECT_TRUE(dialog->isVisible());
+        EXPECT_EQ(focusName(), u"prefix"_s);
+    }
+}
+
+TEST_F(MergeSheets, TheTargetIsANewDrawing)
+{
+    const QString old = host.writeFile(u"old.dwg"_s, "x");
+    const QString sheet = host.writeFile(u"sheet.dxf"_s, "x");
+    const QString own = host.writeFile(u"own.DXF"_s, "x");
+    ASSERT_TRUE(QFile::link(sheet, host.path(u"link.dxf"_s)));
+    host.document().fakeDatabase().setFilename(own);
+    const QString self =
+        u"warning \"Merge Sheets\" \"The target cannot be the current drawing or one of its sheets.\" OK"_s;
+    const QString replace =
+        u"question \"Merge Sheets\" \"Drawing symbol \"old\" already exists. Do you want to replace it?\" Yes/No"_s;
+    const struct
+    {
+        QString typed;
+        QString shown;
+        QMessageBox::StandardButton answer;
+        QString target; ///< nothing when it is refused
+    } rows[] = {
+        {{}, u"warning \"Merge Sheets\" \"Filename can`t be empty\" OK"_s, QMessageBox::Ok, {}},
+        {u"no/such/folder/x.dwg"_s,
+         u"warning \"Merge Sheets\" \"Cannot find the specified Path.\" OK"_s,
+         QMessageBox::Ok,
+         {}},
+        {u"a;b.dwg"_s,
+         u"warning \"Merge Sheets\" \"The following characters are not valid in File names: <>/\\\":;?*|,='\" OK"_s,
+         QMessageBox::Ok,
+         {}},
+        {own, self, QMessageBox::Ok, {}},
+        {u"own"_s, self, QMessageBox::Ok, {}},
+        {u"link.dxf"_s, self, QMessageBox::Ok, {}}, // another way to a sheet
+        {old, replace, QMessageBox::No, {}},
+        {old, replace, QMessageBox::Yes, old},
+        {u"new"_s, {}, {}, inHost(u"new.DXF"_s)},
+        {u"new.dwg"_s, {}, {}, inHost(u"new.dwg"_s)},
+    };
+    for (const auto &row : rows) {
+        showSheets({u"Plan"_s, u"sheet.dxf"_s});
+        find<QAbstractButton>("toNew")->setChecked(true);
+        find("targetFile")->setFocus();
+        setText("targetFile", row.typed);
+        EXPECT_EQ(
+            shownBy("acceptButton", row.shown.isEmpty() ? QList<QMessageBox::StandardButton>{} : QList{row.answer})
+                .join(u'|'),
+            row.shown)
+            << row.typed.toStdString();
+        EXPECT_EQ(isAccepted(), !row.target.isEmpty()) << row.typed.toStdString();
+        const QStringList lines{u"targetfile="_s + row.target, u"tonew=TRUE"_s};
+        EXPECT_EQ(row.target.isEmpty() ? QStringList() : missingInState(lines), QStringList());
+    }
+    EXPECT_EQ(FakeHost::readFile(old), "x");
+    click("toCurrent");
+    EXPECT_EQ(enabledOf(u"targetFile selectTarget"_s), QString());
+}
+
+TEST_F(MergeSheets, TheTargetIsPickedWithItsExtension)
+{
+    showSheets({u"Plan"_s});
+    click("toNew");
+    EXPECT_EQ(shownChoosing("selectTarget", host.path(u"picked"_s)).size(), 1);
+    EXPECT_EQ(fullText("targetFile"), inHost(u"picked.dwg"_s)) << "of a drawing without a file";
+    shownChoosing("selectTarget", {});
+    EXPECT_EQ(fullText("targetFile"), inHost(u"picked.dwg"_s));
+}
+
+TEST_F(MergeSheets, AFavouriteKeepsPrefixAndTargetAndLeavesTheSheets)
+{
+    showSheets({u"a"_s, u"b"_s});
+    setText("prefix", u"P "_s);
+    click("toNew");
+    find<QComboBox>("cb_favorits")->setEditText(u"Site"_s);
+    click("saveFavorite");
+    click("toCurrent");
+    setText("prefix", {});
+    check(0, false);
+    find<QComboBox>("cb_favorits")->setEditText(u"Site"_s);
+    QTest::keyClick(find("cb_favorits"), Qt::Key_Return);
+    EXPECT_EQ(tableRows("lstSheets").join(u' '), u"a| b|P b"_s);
+    EXPECT_TRUE(isEnabled("targetFile"));
+}
+
+} // namespace
