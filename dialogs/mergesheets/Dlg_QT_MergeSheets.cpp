@@ -5,6 +5,7 @@
 #include "state/FavouritesBox.h"
 #include "state/FilePicker.h"
 #include "state/FolderPicker.h"
+#include "state/FullText.h"
 #include "state/PathMessages.h"
 #include "state/RowMover.h"
 #include "state/TableRows.h"
@@ -51,6 +52,13 @@ QTableWidgetItem *nameItem()
     return item;
 }
 
+/// A name for a message, in which a very long one would take the place of the rest.
+QString shortened(const QString &name)
+{
+    constexpr int mostCharacters = 40;
+    return name.size() <= mostCharacters ? name : name.first(mostCharacters) + u'\u2026';
+}
+
 QString problemText(const ortakit::SheetName &name)
 {
     switch (name.problem) {
@@ -61,9 +69,9 @@ QString problemText(const ortakit::SheetName &name)
     case SheetNameProblem::TooLong:
         return Dlg_QT_MergeSheets::tr("A name has at most 255 characters.");
     case SheetNameProblem::Reserved:
-        return Dlg_QT_MergeSheets::tr("No sheet can have the name \"%1\".").arg(name.text);
+        return Dlg_QT_MergeSheets::tr("No sheet can have the name \"%1\".").arg(shortened(name.text));
     case SheetNameProblem::Repeated:
-        return Dlg_QT_MergeSheets::tr("Two sheets have the name \"%1\".").arg(name.text);
+        return Dlg_QT_MergeSheets::tr("Two sheets have the name \"%1\".").arg(shortened(name.text));
     }
     Q_UNREACHABLE();
 }
@@ -132,11 +140,14 @@ void Dlg_QT_MergeSheets::connectWidgets()
     connect(mover, &RowMover::arranged, this, &Dlg_QT_MergeSheets::refreshNames);
     connect(m_ui->lstSheets, &QTableWidget::itemChanged, this, &Dlg_QT_MergeSheets::refreshNames);
     connect(m_ui->selectAll, &QCheckBox::clicked, this, &Dlg_QT_MergeSheets::selectAll);
-    connect(m_ui->prefix, &QLineEdit::textChanged, this, &Dlg_QT_MergeSheets::refreshNames);
+    connect(m_ui->prefix, &QLineEdit::textChanged, this, &Dlg_QT_MergeSheets::setPrefix);
     connect(m_ui->numberEqual, &QCheckBox::toggled, this, &Dlg_QT_MergeSheets::refreshNames);
     connect(m_ui->toNew, &QRadioButton::toggled, this, &Dlg_QT_MergeSheets::refreshTarget);
     connect(m_ui->selectTarget, &QPushButton::clicked, this, &Dlg_QT_MergeSheets::selectTarget);
-    connect(m_favourites, &FavouritesBox::loaded, this, &Dlg_QT_MergeSheets::refreshTarget);
+    connect(m_favourites, &FavouritesBox::loaded, this, [this] {
+        ortakit::showWhole(*m_ui->prefix);
+        refreshTarget();
+    });
     connect(m_ui->acceptButton, &QPushButton::clicked, this, &Dlg_QT_MergeSheets::CloseAccept);
 }
 
@@ -153,6 +164,7 @@ void Dlg_QT_MergeSheets::afterShow()
 {
     m_favourites->refresh();
     m_target->setFullPath(m_target->fullPath());
+    ortakit::showWhole(*m_ui->prefix);
     m_ui->lstSheets->clearSelection();
     if (m_ui->lstSheets->rowCount() > 0)
         m_ui->lstSheets->selectRow(0);
@@ -189,6 +201,13 @@ void Dlg_QT_MergeSheets::selectAll()
     QList<int> rows(m_ui->lstSheets->rowCount());
     std::iota(rows.begin(), rows.end(), 0);
     checkRows(rows, m_ui->selectAll->isChecked() ? Qt::Checked : Qt::Unchecked);
+}
+
+void Dlg_QT_MergeSheets::setPrefix(const QString &prefix)
+{
+    // A typed "..." is no shortened text: it is written as it is.
+    ortakit::storeFullText(*m_ui->prefix, prefix);
+    refreshNames();
 }
 
 void Dlg_QT_MergeSheets::refreshNames()

@@ -46,6 +46,7 @@ private:
     void selectAll();
     void selectTarget();
     void CloseAccept();
+    void setPrefix(const QString &prefix);
     void refreshNames();
     void refreshTarget();
 

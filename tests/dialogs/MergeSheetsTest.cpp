@@ -114,6 +114,21 @@ TEST_F(MergeSheets, LispLearnsWhichSheetsInWhichOrderUnderWhichNames)
     EXPECT_EQ(tableRows("lstSheets").join(u' '), u"Roof|N Roof Plan|N Plan"_s);
 }
 
+// The state's way with texts that look shortened, or are shown so, must not change a name.
+TEST_F(MergeSheets, ThePrefixIsWrittenAsItIs)
+{
+    const QString longPrefix(200, u'W');
+    showSheets({u"Plan"_s}, u"prefix="_s + longPrefix + u'\n');
+    EXPECT_EQ(text("prefix"), longPrefix);
+    EXPECT_EQ(tableRows("lstSheets").value(0), u"Plan|"_s + longPrefix + u"Plan"_s);
+    for (const QString &prefix : {u"A..."_s, u"B\u2026"_s, u"C"_s}) {
+        setText("prefix", prefix);
+        EXPECT_EQ(missingInState({u"prefix="_s + prefix}), QStringList());
+    }
+    showSheets({QString(200, u'n'), QString(200, u'N')});
+    EXPECT_LT(dialog->width(), 800) << "a message of a long name";
+}
+
 TEST_F(MergeSheets, SheetsAreCheckedTogether)
 {
     showSheets({u"a"_s, u"b"_s, u"c"_s});
