@@ -13,6 +13,7 @@
 #include "state/WholeTextItem.h"
 #include "ui_Dlg_QT_MergeSheets.h"
 
+#include <QApplication>
 #include <QDir>
 #include <QHeaderView>
 #include <QKeyEvent>
@@ -36,19 +37,13 @@ constexpr int sheetWidth = 210;
 /// Place of the sheet among those that were given, from 0.
 constexpr int sheetRole = Qt::UserRole;
 
-QTableWidgetItem *sheetItem(const QString &sheet, int index)
+/// Items are replaced where they change: for each change of an item, its table would search for it among all others.
+QTableWidgetItem *sheetItem(const QString &sheet, int index, Qt::CheckState state)
 {
     auto *item = new ortakit::WholeTextItem(sheet);
     item->setData(sheetRole, index);
     item->setFlags((item->flags() | Qt::ItemIsUserCheckable) & ~Qt::ItemIsDropEnabled);
-    item->setCheckState(Qt::Checked);
-    return item;
-}
-
-QTableWidgetItem *nameItem()
-{
-    auto *item = new QTableWidgetItem;
-    item->setFlags(item->flags() & ~Qt::ItemIsDropEnabled);
+    item->setCheckState(state);
     return item;
 }
 
@@ -74,6 +69,17 @@ QString problemText(const ortakit::SheetName &name)
         return Dlg_QT_MergeSheets::tr("Two sheets have the name \"%1\".").arg(shortened(name.text));
     }
     Q_UNREACHABLE();
+}
+
+QTableWidgetItem *nameItem(const ortakit::SheetName &name)
+{
+    const bool isGood = name.problem == SheetNameProblem::None;
+    auto *item = new QTableWidgetItem(name.text);
+    item->setFlags(item->flags() & ~Qt::ItemIsDropEnabled);
+    item->setToolTip(isGood ? name.text : problemText(name));
+    if (!isGood)
+        item->setIcon(QApplication::style()->standardIcon(QStyle::SP_MessageBoxWarning));
+    return item;
 }
 
 /// The active drawing's file; empty when it has none.
@@ -155,7 +161,7 @@ void Dlg_QT_MergeSheets::setSheets(const QStringList &sheets)
 {
     m_sheets = sheets;
     ortakit::setTableRows(*m_ui->lstSheets, int(sheets.size()), [&sheets](int row, int column) {
-        return column == SheetColumn ? sheetItem(sheets[row], row) : nameItem();
+        return column == SheetColumn ? sheetItem(sheets[row], row, Qt::Checked) : nullptr;
     });
     refreshNames();
 }
@@ -189,9 +195,9 @@ bool Dlg_QT_MergeSheets::eventFilter(QObject *watched, QEvent *event)
 void Dlg_QT_MergeSheets::checkRows(const QList<int> &rows, Qt::CheckState state)
 {
     {
-        const QSignalBlocker noSignals(m_ui->lstSheets);
+        const QSignalBlocker noSignals(m_ui->lstSheets->model());
         for (const int row : rows)
-            m_ui->lstSheets->item(row, SheetColumn)->setCheckState(state);
+            m_ui->lstSheets->setItem(row, SheetColumn, sheetItem(sheetAt(row), numberAt(row) - 1, state));
     }
     refreshNames();
 }
@@ -219,23 +225,20 @@ void Dlg_QT_MergeSheets::refreshNames()
     m_names = ortakit::mergedSheetNames(sheets, m_ui->prefix->text(),
                                         m_ui->numberEqual->isChecked() ? ortakit::EqualNames::Number
                                                                        : ortakit::EqualNames::Refuse);
-    const QSignalBlocker noSignals(m_ui->lstSheets);
-    for (int row = 0, name = 0; row < m_ui->lstSheets->rowCount(); ++row) {
-        const bool isChecked = name < checked.size() && checked[name] == row;
-        showName(row, isChecked ? m_names[name++] : ortakit::SheetName());
-    }
+    showNames(checked);
     m_ui->selectAll->setEnabled(m_ui->lstSheets->rowCount() > 0);
     m_ui->selectAll->setChecked(!checked.isEmpty() && checked.size() == m_ui->lstSheets->rowCount());
     m_ui->nameMessage->setText(message(checked.size()));
 }
 
-void Dlg_QT_MergeSheets::showName(int row, const ortakit::SheetName &name)
+void Dlg_QT_MergeSheets::showNames(const QList<int> &checked)
 {
-    QTableWidgetItem &item = *m_ui->lstSheets->item(row, NameColumn);
-    const bool isGood = name.problem == SheetNameProblem::None;
-    item.setText(name.text);
-    item.setToolTip(isGood ? name.text : problemText(name));
-    item.setIcon(isGood ? QIcon() : style()->standardIcon(QStyle::SP_MessageBoxWarning));
+    const QSignalBlocker noSignals(m_ui->lstSheets->model());
+    for (int row = 0, name = 0; row < m_ui->lstSheets->rowCount(); ++row) {
+        const bool isChecked = name < checked.size() && checked[name] == row;
+        m_ui->lstSheets->setItem(row, NameColumn, nameItem(isChecked ? m_names[name++] : ortakit::SheetName()));
+    }
+    m_ui->lstSheets->viewport()->update();
 }
 
 QString Dlg_QT_MergeSheets::message(qsizetype checkedCount) const

@@ -53,7 +53,7 @@ private:
     void setUpTable();
     void connectWidgets();
     void checkRows(const QList<int> &rows, Qt::CheckState state);
-    void showName(int row, const ortakit::SheetName &name);
+    void showNames(const QList<int> &checked);
     QString message(qsizetype checkedCount) const;
     bool acceptsNames();
     bool acceptsTarget();
