@@ -11,7 +11,6 @@ using namespace ortakit::test;
 using namespace Qt::StringLiterals;
 using ortakit::EqualNames;
 using ortakit::mergedSheetNames;
-using ortakit::SheetNameProblem;
 
 namespace {
 
@@ -31,47 +30,35 @@ protected:
 
 TEST_F(MergeSheets, NamesSheetsAfterLayoutsAndFiles)
 {
-    using enum SheetNameProblem;
     const QString longest(255, u'x');
     const struct
     {
-        QStringList sheets;
+        QString sheets;
         QString prefix;
         EqualNames equal;
         QString names;
-        QList<SheetNameProblem> problems;
+        const char *problems; ///< a letter each: Good, Empty, Long, Model or Repeated
     } rows[] = {
-        {{u"Plan"_s, u"D:\\a.b\\Roof.v2.DWG"_s, u"/home/x=y/z.dxf"_s, u".dwg"_s, u"dwg"_s},
-         u"A-"_s,
-         EqualNames::Refuse,
-         u"A-Plan|A-Roof.v2|A-z|A-|A-dwg"_s,
-         {None, None, None, None, None}},
-        {{u"Plan"_s, u"PLAN"_s, u"x/plan.dwg"_s, u"Section"_s},
-         {},
-         EqualNames::Refuse,
-         u"Plan|PLAN|plan|Section"_s,
-         {None, Repeated, Repeated, None}},
-        {{u"Plan"_s, u"PLAN"_s, u"Plan (2)"_s, u"plan"_s, u"Model"_s},
+        {u"Plan|D:\\a.b\\Roof.v2.DWG|/home/x=y/z.dxf|.dwg|dwg"_s, u"A-"_s, EqualNames::Refuse,
+         u"A-Plan|A-Roof.v2|A-z|A-|A-dwg"_s, "GGGGG"},
+        {u"Plan|PLAN|x/plan.dwg|Section"_s, {}, EqualNames::Refuse, u"Plan|PLAN|plan|Section"_s, "GRRG"},
+        {u"Plan|PLAN|Plan (2)|plan|Model"_s,
          {},
          EqualNames::Number,
          u"Plan|PLAN (2)|Plan (2) (2)|plan (3)|Model (2)"_s,
-         {None, None, None, None, None}},
-        {{u"Model"_s, u"model.dwg"_s, {}, u"  "_s},
-         {},
-         EqualNames::Refuse,
-         u"Model|model||  "_s,
-         {Reserved, Reserved, Empty, Empty}},
-        {{u"odel"_s}, u"M"_s, EqualNames::Refuse, u"Model"_s, {Reserved}},
-        {{u"a,b;c.dwg"_s, u"1\t2"_s}, {}, EqualNames::Refuse, u"a_b_c|1_2"_s, {None, None}},
-        {{longest, longest + u'x'}, {}, EqualNames::Refuse, longest + u'|' + longest + u'x', {None, TooLong}},
-        {{longest, longest}, {}, EqualNames::Number, longest + u'|' + longest + u" (2)"_s, {None, TooLong}},
+         "GGGGG"},
+        {u"Model|model.dwg||  "_s, {}, EqualNames::Refuse, u"Model|model||  "_s, "MMEE"},
+        {u"odel"_s, u"M"_s, EqualNames::Refuse, u"Model"_s, "M"},
+        {u"a,b;c.dwg|1\t2"_s, {}, EqualNames::Refuse, u"a_b_c|1_2"_s, "GG"},
+        {longest + u'|' + longest + u'x', {}, EqualNames::Refuse, longest + u'|' + longest + u'x', "GL"},
+        {longest + u'|' + longest, {}, EqualNames::Number, longest + u'|' + longest + u" (2)"_s, "GL"},
     };
     for (const auto &row : rows) {
         QStringList texts;
-        QList<SheetNameProblem> problems;
-        for (const auto &name : mergedSheetNames(row.sheets, row.prefix, row.equal)) {
+        std::string problems;
+        for (const auto &name : mergedSheetNames(row.sheets.split(u'|'), row.prefix, row.equal)) {
             texts.append(name.text);
-            problems.append(name.problem);
+            problems += "GELMR"[int(name.problem)];
         }
         EXPECT_EQ(texts.join(u'|'), row.names);
         EXPECT_EQ(problems, row.problems) << row.names.toStdString();
@@ -180,10 +167,12 @@ TEST_F(MergeSheets, TheTargetIsANewDrawing)
     const QString own = host.writeFile(u"own.DXF"_s, "x");
     ASSERT_TRUE(QFile::link(sheet, host.path(u"link.dxf"_s)));
     host.document().fakeDatabase().setFilename(own);
-    const QString self =
-        u"warning \"Merge Sheets\" \"The target cannot be the current drawing or one of its sheets.\" OK"_s;
+    const QString warning = u"warning \"Merge Sheets\" \"%1\" OK"_s;
+    const QString self = warning.arg(u"The target cannot be the current drawing or one of its sheets."_s);
+    const QString invalid = warning.arg(u"The following characters are not valid in File names: <>/\\\":;?*|,='"_s);
     const QString replace =
         u"question \"Merge Sheets\" \"Drawing symbol \"old\" already exists. Do you want to replace it?\" Yes/No"_s;
+    using enum QMessageBox::StandardButton;
     const struct
     {
         QString typed;
@@ -191,33 +180,24 @@ TEST_F(MergeSheets, TheTargetIsANewDrawing)
         QMessageBox::StandardButton answer;
         QString target; ///< nothing when it is refused
     } rows[] = {
-        {{}, u"warning \"Merge Sheets\" \"Filename can`t be empty\" OK"_s, QMessageBox::Ok, {}},
-        {u"no/such/folder/x.dwg"_s,
-         u"warning \"Merge Sheets\" \"Cannot find the specified Path.\" OK"_s,
-         QMessageBox::Ok,
-         {}},
-        {u"a;b.dwg"_s,
-         u"warning \"Merge Sheets\" \"The following characters are not valid in File names: <>/\\\":;?*|,='\" OK"_s,
-         QMessageBox::Ok,
-         {}},
-        {own, self, QMessageBox::Ok, {}},
-        {u"own"_s, self, QMessageBox::Ok, {}},
-        {u"link.dxf"_s, self, QMessageBox::Ok, {}}, // another way to a sheet
-        {old, replace, QMessageBox::No, {}},
-        {old, replace, QMessageBox::Yes, old},
-        {u"new"_s, {}, {}, inHost(u"new.DXF"_s)},
-        {u"new.dwg"_s, {}, {}, inHost(u"new.dwg"_s)},
+        {{}, warning.arg(u"Filename can`t be empty"_s), Ok, {}},
+        {u"no/such/folder/x.dwg"_s, warning.arg(u"Cannot find the specified Path."_s), Ok, {}},
+        {u"a;b.dwg"_s, invalid, Ok, {}},
+        {own, self, Ok, {}},
+        {u"own"_s, self, Ok, {}},
+        {u"link.dxf"_s, self, Ok, {}}, // another way to a sheet
+        {old, replace, No, {}},
+        {old, replace, Yes, old},
+        {u"new"_s, {}, NoButton, inHost(u"new.DXF"_s)},
+        {u"new.dwg"_s, {}, NoButton, inHost(u"new.dwg"_s)},
     };
     for (const auto &row : rows) {
         showSheets({u"Plan"_s, u"sheet.dxf"_s});
         find<QAbstractButton>("toNew")->setChecked(true);
         find("targetFile")->setFocus();
         setText("targetFile", row.typed);
-        EXPECT_EQ(
-            shownBy("acceptButton", row.shown.isEmpty() ? QList<QMessageBox::StandardButton>{} : QList{row.answer})
-                .join(u'|'),
-            row.shown)
-            << row.typed.toStdString();
+        const auto answers = row.shown.isEmpty() ? QList<QMessageBox::StandardButton>() : QList{row.answer};
+        EXPECT_EQ(shownBy("acceptButton", answers).join(u'|'), row.shown) << row.typed.toStdString();
         EXPECT_EQ(isAccepted(), !row.target.isEmpty()) << row.typed.toStdString();
         const QStringList lines{u"targetfile="_s + row.target, u"tonew=TRUE"_s};
         EXPECT_EQ(row.target.isEmpty() ? QStringList() : missingInState(lines), QStringList());
