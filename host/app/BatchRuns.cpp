@@ -5,6 +5,7 @@
 #include "host/app/SessionPlayer.h"
 #include "host/app/UnattendedFeeder.h"
 #include "host/app/Workbench.h"
+#include "host/kernel/ExpressionSurroundings.h"
 
 #include <QDir>
 #include <QFile>
@@ -174,7 +175,7 @@ int SessionBatch::writeOutcome(kernel::Document &document, const QString &path, 
         files.append(native(target));
     }
     if (error.isEmpty() && m_options.withPictures) {
-        error = writeDrawingPicture(document.drawing(), picturePath(path));
+        error = writeDrawingPicture(document, picturePath(path));
         files.append(native(picturePath(path)));
     }
     if (!error.isEmpty()) {
@@ -260,8 +261,9 @@ int convertDrawing(const ProgramOptions &options)
         writeMessage(native(options.input) + u": "_s + read.error.message());
         return ExitFileError;
     }
-    const QString error = isPicture ? writeDrawingPicture(*read.drawing, options.output)
-                                    : drawing::saveCopy(*read.drawing, options.output).error;
+    const QString error =
+        isPicture ? writeDrawingPicture(*read.drawing, options.output, kernel::expressionSurroundings(*read.drawing))
+                  : drawing::saveCopy(*read.drawing, options.output).error;
     if (error.isEmpty())
         return ExitDone;
     writeMessage(error);

@@ -1,6 +1,7 @@
 #include "host/app/DrawingCanvas.h"
 
 #include "host/drawing/HeaderVariables.h"
+#include "host/kernel/ExpressionSurroundings.h"
 #include "host/kernel/SystemVariables.h"
 #include "host/view/Picking.h"
 #include "host/view/ScenePainter.h"
@@ -45,7 +46,7 @@ bool wantsPoint(const std::optional<kernel::PromptRequest> &request)
 } // namespace
 
 DrawingCanvas::DrawingCanvas(kernel::Document &document, QWidget *parent)
-    : QWidget(parent), m_document(document), m_scene(document.drawing())
+    : QWidget(parent), m_document(document), m_scene(document.drawing(), kernel::expressionSurroundings(document))
 {
     setObjectName(QStringLiteral("canvas"));
     setMouseTracking(true);
@@ -59,6 +60,10 @@ DrawingCanvas::DrawingCanvas(kernel::Document &document, QWidget *parent)
     };
     connect(&m_document, &kernel::Document::viewChanged, this, repaint);
     connect(&m_document, &kernel::Document::highlightChanged, this, repaint);
+    connect(&m_document, &kernel::Document::regenerated, this, [this, repaint] {
+        m_scene.regenerate();
+        repaint();
+    });
     connect(&m_document, &kernel::Document::impliedSelectionChanged, this, repaint);
     connect(&m_document, &kernel::Document::runEnded, this, qOverload<>(&QWidget::update));
 }

@@ -1,5 +1,7 @@
 #include "host/app/DrawingPicture.h"
 
+#include "host/kernel/Document.h"
+#include "host/kernel/ExpressionSurroundings.h"
 #include "host/view/Export.h"
 
 #include <QCoreApplication>
@@ -13,10 +15,17 @@ using namespace Qt::StringLiterals;
 
 namespace host::app {
 
-QString writeDrawingPicture(const drawing::Drawing &drawing, const QString &path)
+QString writeDrawingPicture(const kernel::Document &document, const QString &path)
+{
+    return writeDrawingPicture(document.drawing(), path, kernel::expressionSurroundings(document));
+}
+
+QString writeDrawingPicture(const drawing::Drawing &drawing, const QString &path,
+                            const drawing::MacroSurroundings &surroundings)
 {
     const QString extension = QFileInfo(path).suffix().toLower();
     view::ExportOptions options;
+    options.surroundings = surroundings;
     if (extension == "svg"_L1)
         return view::exportSvg(drawing, path, options).error;
     if (extension == "pdf"_L1)

@@ -7,6 +7,11 @@ class QWidget;
 
 namespace host::drawing {
 class Drawing;
+struct MacroSurroundings;
+} // namespace host::drawing
+
+namespace host::kernel {
+class Document;
 }
 
 namespace host::app {
@@ -14,8 +19,12 @@ namespace host::app {
 // Each returns a sentence that names the file when it could not be written, empty when it was. A file is written whole
 // or not at all.
 
-/// The whole drawing as a picture: PNG, SVG or PDF by the extension of `path`.
-QString writeDrawingPicture(const drawing::Drawing &drawing, const QString &path);
+/// The whole drawing as a picture: PNG, SVG or PDF by the extension of `path`. `surroundings` is what expressions in the
+/// drawing may ask for.
+QString writeDrawingPicture(const drawing::Drawing &drawing, const QString &path,
+                            const drawing::MacroSurroundings &surroundings);
+/// The same for an open document, which knows more system variables.
+QString writeDrawingPicture(const kernel::Document &document, const QString &path);
 
 /// What the widget looks like now, as PNG.
 QString writeWidgetPicture(QWidget &widget, const QString &path);

@@ -75,7 +75,7 @@ void FileActions::exportPicture(kernel::Document &document, const QString &exten
         return;
     if (QFileInfo(path).suffix().toLower() != extension)
         path += u'.' + extension;
-    if (const QString error = writeDrawingPicture(document.drawing(), path); !error.isEmpty())
+    if (const QString error = writeDrawingPicture(document, path); !error.isEmpty())
         complain(error);
     else
         document.print(tr("\nWritten: %1\n").arg(QDir::toNativeSeparators(path)));

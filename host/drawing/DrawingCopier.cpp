@@ -148,7 +148,7 @@ FieldList DrawingCopier::entityFields(RecordId entity)
 void DrawingCopier::ensureReferences(const FieldList &fields)
 {
     const bool hasDimensionStyle = isDimension(fields) || isOf(fields, {u"LEADER", u"TOLERANCE"});
-    const bool hasTextStyle = isOf(fields, {u"TEXT", u"MTEXT", u"ATTRIB", u"ATTDEF"});
+    const bool hasTextStyle = isOf(fields, {u"TEXT", u"MTEXT", u"ATTRIB", u"ATTDEF", u"RTEXT"});
     for (const Field &field : fields) {
         if (field.code == 8)
             ensureEntry(TableKind::Layer, field.text());

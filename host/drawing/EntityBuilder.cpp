@@ -155,7 +155,8 @@ void EntityBuilder::checkReferences()
         linetype && !isBuiltInLinetype(linetype->text()) &&
         !isValid(m_drawing.tables().find(TableKind::Linetype, linetype->text())))
         return fail(u"linetype %1 is not in the drawing"_s.arg(linetype->text()));
-    const bool isText = m_type == u"TEXT" || m_type == u"MTEXT" || m_type == u"ATTRIB" || m_type == u"ATTDEF";
+    const bool isText =
+        m_type == u"TEXT" || m_type == u"MTEXT" || m_type == u"ATTRIB" || m_type == u"ATTDEF" || m_type == u"RTEXT";
     if (const Field *style = isText ? findField(m_fields, 7) : nullptr;
         style && !isValid(m_drawing.tables().find(TableKind::Style, style->text())))
         return fail(u"text style %1 is not in the drawing"_s.arg(style->text()));

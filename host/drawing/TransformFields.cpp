@@ -160,7 +160,13 @@ bool transformCorners(FieldList &fields, const Matrix &matrix)
     return true;
 }
 
-bool transformText(FieldList &fields, const Matrix &matrix)
+enum class Stretch
+{
+    Allowed, ///< becomes the width factor
+    Refused  ///< the type has no such group
+};
+
+bool transformTextLine(FieldList &fields, const Matrix &matrix, Stretch whenStretched)
 {
     const PlaneMap plane = planeOf(fields, matrix);
     mapPoints(fields, {10, 11}, [&](const Vec3 &p) { return plane.point(p); });
@@ -172,9 +178,22 @@ bool transformText(FieldList &fields, const Matrix &matrix)
     scaleField(fields, 40, up.length());
     setOwnField(fields, 50, inDegrees(plane.angle(angle)));
     const double stretch = along.length() / up.length();
-    if (std::abs(stretch - 1.0) > tolerance)
-        setOwnField(fields, 41, realOf(fields, 41, 1.0) * stretch);
+    if (std::abs(stretch - 1.0) <= tolerance)
+        return true;
+    if (whenStretched == Stretch::Refused)
+        return false;
+    setOwnField(fields, 41, realOf(fields, 41, 1.0) * stretch);
     return true;
+}
+
+bool transformText(FieldList &fields, const Matrix &matrix)
+{
+    return transformTextLine(fields, matrix, Stretch::Allowed);
+}
+
+bool transformRemoteText(FieldList &fields, const Matrix &matrix)
+{
+    return transformTextLine(fields, matrix, Stretch::Refused);
 }
 
 bool transformParagraph(FieldList &fields, const Matrix &matrix)
@@ -287,7 +306,7 @@ constexpr std::pair<QStringView, FieldsFunction> functions[] = {
     {u"ATTRIB", transformText},
     {u"ATTDEF", transformText},
     {u"SHAPE", transformText},
-    {u"RTEXT", transformText},
+    {u"RTEXT", transformRemoteText},
     {u"MTEXT", transformParagraph},
     {u"INSERT", transformInsert},
     {u"LWPOLYLINE", transformLightPolyline},

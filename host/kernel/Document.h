@@ -162,6 +162,8 @@ signals:
     /// Text for the command line, with its own line feeds.
     void printed(const QString &text);
     void viewChanged();
+    /// What is shown is to be made anew, with what it takes from outside the drawing.
+    void regenerated();
     void highlightChanged();
     void impliedSelectionChanged();
     /// The path or the modified mark may be another now.

@@ -1,7 +1,9 @@
 #include "host/kernel/HostVariables.h"
 
 #include "host/drawing/Blocks.h"
+#include "host/drawing/DateText.h"
 #include "host/drawing/Dictionaries.h"
+#include "host/drawing/DrawingVariables.h"
 #include "host/drawing/EntityGeometry.h"
 #include "host/drawing/HeaderVariables.h"
 #include "host/drawing/Journal.h"
@@ -35,21 +37,6 @@ QString withSeparator(const QString &folder)
 VariableValue folderOf(const QString &folder)
 {
     return withSeparator(folder);
-}
-
-/// Days since the begin of the Julian calendar, with the time of day as fraction.
-double julianDate(const QDateTime &time)
-{
-    return static_cast<double>(time.date().toJulianDay()) + time.time().msecsSinceStartOfDay() / 86'400'000.0;
-}
-
-/// YYYYMMDD.HHMMSSmmm
-double calendarDate(const QDateTime &time)
-{
-    const QDate day = time.date();
-    const QTime hour = time.time();
-    return day.year() * 10000 + day.month() * 100 + day.day() + hour.hour() / 1e2 + hour.minute() / 1e4 +
-           hour.second() / 1e6 + hour.msec() / 1e9;
 }
 
 VariableValue drawingFolder(const Document &document)
@@ -94,10 +81,7 @@ VariableValue viewCentre(const Document &document)
 
 VariableValue currentColour(const Document &document)
 {
-    const qint64 colour = document.drawing().header().integer(u"$CECOLOR", 256);
-    if (colour == 256)
-        return QStringLiteral("BYLAYER");
-    return colour == 0 ? QStringLiteral("BYBLOCK") : QString::number(colour);
+    return drawing::colourText(document.drawing().header().integer(u"$CECOLOR", 256));
 }
 
 VariableValue isWorldUser(const Document &document)
@@ -275,10 +259,12 @@ std::vector<HostVariable> stateVariables()
          [](const Document &, const VariableValue &value) { return QFileInfo(std::get<QString>(value)).isDir(); }},
         {"WIPEOUTFRAME", Computed, ReadWrite, 1, 0, 2, 0,
          [](const Document &document) -> VariableValue { return drawing::wipeoutFrame(document.drawing()); }},
-        computed("CDATE", [](const Document &) -> VariableValue { return calendarDate(QDateTime::currentDateTime()); }),
+        computed("CDATE",
+                 [](const Document &) -> VariableValue { return drawing::calendarDate(QDateTime::currentDateTime()); }),
         computed("CMDACTIVE", commandActive),
         computed("CMDNAMES", [](const Document &document) -> VariableValue { return document.commandNames(); }),
-        computed("DATE", [](const Document &) -> VariableValue { return julianDate(QDateTime::currentDateTime()); }),
+        computed("DATE",
+                 [](const Document &) -> VariableValue { return drawing::julianDate(QDateTime::currentDateTime()); }),
         computed("DBMOD", [](const Document &document) -> VariableValue { return document.isModified() ? 1 : 0; }),
         computed("DWGNAME", [](const Document &document) -> VariableValue { return document.title(); }),
         computed("DWGPREFIX", drawingFolder),

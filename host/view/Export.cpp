@@ -43,7 +43,7 @@ class Picture
 {
 public:
     Picture(const drawing::Drawing &drawing, const ExportOptions &options)
-        : m_scene(drawing), m_options(options),
+        : m_scene(drawing, options.surroundings), m_options(options),
           m_block(options.space.isEmpty() ? Scene::modelSpace : m_scene.block(options.space))
     {
     }

@@ -18,6 +18,8 @@ struct ExportOptions
     QSizeF sheet{297.0, 210.0};      ///< of PDF, millimetres
     double millimetresPerUnit = 0.0; ///< PDF's scale; 0: as large as the sheet allows
     bool withLineweights = true;     ///< in PDF and SVG; PNG has thin lines
+    /// What expressions in the drawing may ask for; nothing: the drawing's own variables.
+    drawing::MacroSurroundings surroundings{};
 };
 
 /// What came of writing a file.

@@ -1,6 +1,7 @@
 #include "host/view/Scene.h"
 
 #include "host/drawing/Blocks.h"
+#include "host/drawing/DrawingVariables.h"
 #include "host/view/DisplayBoxes.h"
 #include "host/view/DisplayBuilder.h"
 #include "host/view/VisibleExtents.h"
@@ -64,8 +65,11 @@ QString RenderReport::summary() const
     return parts.join(u", "_s);
 }
 
-Scene::Scene(const drawing::Drawing &drawing) : m_drawing(drawing)
+Scene::Scene(const drawing::Drawing &drawing, drawing::MacroSurroundings surroundings)
+    : m_drawing(drawing), m_surroundings(std::move(surroundings))
 {
+    if (!m_surroundings.variable)
+        m_surroundings.variable = drawing::surroundingsOf(drawing).variable;
     for (const QString &space : {u"*Model_Space"_s, u"*Paper_Space"_s})
         block(space);
     // The names that the oldest versions have for the same.
@@ -74,7 +78,8 @@ Scene::Scene(const drawing::Drawing &drawing) : m_drawing(drawing)
     m_changes.tables = true;
 }
 
-Scene::Scene(drawing::Drawing &drawing) : Scene(static_cast<const drawing::Drawing &>(drawing))
+Scene::Scene(drawing::Drawing &drawing, drawing::MacroSurroundings surroundings)
+    : Scene(static_cast<const drawing::Drawing &>(drawing), std::move(surroundings))
 {
     m_followed = &drawing;
     drawing.addObserver(this);
@@ -84,6 +89,16 @@ Scene::~Scene()
 {
     if (m_followed)
         m_followed->removeObserver(this);
+}
+
+void Scene::regenerate()
+{
+    for (const auto &block : m_blocks) {
+        for (const RecordDisplay &shown : block->records) {
+            if (m_drawing.isType(shown.record, "RTEXT"))
+                m_changes.records.insert(shown.record);
+        }
+    }
 }
 
 int Scene::block(const QString &name)

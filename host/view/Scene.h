@@ -2,6 +2,7 @@
 
 #include "host/drawing/Drawing.h"
 #include "host/drawing/Entities.h"
+#include "host/drawing/MacroExpression.h"
 #include "host/view/Appearance.h"
 #include "host/view/Display.h"
 #include "host/view/DrawOrder.h"
@@ -54,15 +55,20 @@ public:
     static constexpr int modelSpace = 0;
     static constexpr int paperSpace = 1; ///< the current one of the paper spaces
 
-    /// Follows the drawing's changes.
-    explicit Scene(drawing::Drawing &drawing);
+    /// Follows the drawing's changes. `surroundings` is what expressions in it may ask for; without a function for
+    /// variables they know those of the drawing itself.
+    explicit Scene(drawing::Drawing &drawing, drawing::MacroSurroundings surroundings = {});
     /// For one look at a drawing that does not change meanwhile.
-    explicit Scene(const drawing::Drawing &drawing);
+    explicit Scene(const drawing::Drawing &drawing, drawing::MacroSurroundings surroundings = {});
     ~Scene() override;
     Scene(const Scene &) = delete;
     Scene &operator=(const Scene &) = delete;
 
     const drawing::Drawing &drawing() const { return m_drawing; }
+    const drawing::MacroSurroundings &surroundings() const { return m_surroundings; }
+    /// What comes from outside the drawing, the files and expressions of remote texts, is read again before the next
+    /// look.
+    void regenerate();
     /// A number for a block by its name, whether or not there is such a block (yet). Layout blocks are spaces.
     int block(const QString &name);
     std::size_t blockCount() const { return m_blocks.size(); }
@@ -119,6 +125,7 @@ private:
     void countInto(RenderReport &report, const BlockDisplay &block, std::vector<char> &visited) const;
 
     const drawing::Drawing &m_drawing;
+    drawing::MacroSurroundings m_surroundings;
     drawing::Drawing *m_followed = nullptr;
     Fonts m_fonts;
     Appearance m_appearance;

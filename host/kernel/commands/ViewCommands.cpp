@@ -71,8 +71,7 @@ CommandTask zoom(CommandContext &context)
 
 CommandTask regenerate(CommandContext &context)
 {
-    // The window draws anew whenever its view is set.
-    context.document().setView(context.document().view());
+    emit context.document().regenerated();
     co_return;
 }
 
