@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/kernel/CKvLispEngine.h"
+#include "platform/rx/OdError.h"
 
 namespace ortakit {
 
@@ -17,12 +18,22 @@ bool runGuarded(const Work &work) noexcept
     }
 }
 
-/// `handler` as the host may call it: an exception becomes the result code for an error.
+/// Says on the command line of the active document what the drawing database refused.
+void tellError(const OdError &error) noexcept;
+
+/// `handler` as the host may call it: an exception becomes the result code for an error, and what the drawing database
+/// says about it is told.
 template <CKvLispEngine::Handler handler>
 int guarded() noexcept
 {
     int code = kRtError;
-    runGuarded([&code] { code = handler(); });
+    runGuarded([&code] {
+        try {
+            code = handler();
+        } catch (const OdError &error) {
+            tellError(error);
+        }
+    });
     return code;
 }
 

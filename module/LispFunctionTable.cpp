@@ -1,6 +1,9 @@
 #include "module/LispFunctionTable.h"
 
+#include "lispfuncs/BackupFolder.h"
+#include "lispfuncs/LicenceState.h"
 #include "lispfuncs/PromptFunctions.h"
+#include "lispfuncs/RemoteText.h"
 #include "module/DialogFunctions.h"
 #include "module/ExceptionGuard.h"
 #include "module/UnavailableFunction.h"
@@ -33,7 +36,7 @@ constexpr LispFunctionTable lispFunctionTable = {{
     function<"Dlg_NumberText", dlgNumberText>(),
     function<"Dlg_TextFrame", dlgTextFrame>(),
     function<"Dlg_TextMask", dlgTextMask>(),
-    function<"CreateRtext">(),
+    function<"CreateRtext", createRtext>(),
     function<"Dlg_ExDimensionStyle", dlgExDimensionStyle>(),
     function<"Dlg_ImDimensionStyle", dlgImDimensionStyle>(),
     function<"Dlg_ShowLinks", dlgShowLinks>(),
@@ -44,14 +47,14 @@ constexpr LispFunctionTable lispFunctionTable = {{
     function<"Dlg_EditAlias", dlgEditAlias>(),
     function<"Dlg_MakeShape", dlgMakeShape>(),
     function<"Dlg_MultiViewSetup", dlgMultiViewSetup>(),
-    function<"c:setbackupfolder">(OnClose::Keep),
+    function<"c:setbackupfolder", setBackupFolder>(OnClose::Keep),
     function<"KORA_entfield">(),
     function<"KORA_ssget">(),
     function<"KORA_getpoint">(),
     function<"KORA_getstring">(),
     function<"KORA_getkword">(),
     function<"KORA_EntSel">(),
-    function<"KORA_IsItDemoVersion">(),
+    function<"KORA_IsItDemoVersion", isItDemoVersion>(),
     function<"KORA_ssget_filter">(),
     function<"initgetOrtakit", initgetOrtakit>(),
     function<"getPointOrtakit", getPointOrtakit>(),

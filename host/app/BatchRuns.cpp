@@ -171,7 +171,11 @@ int SessionBatch::writeOutcome(kernel::Document &document, const QString &path, 
     QString error;
     if (!m_options.outFolder.isEmpty() && document.isModified()) {
         const QString target = QDir(m_options.outFolder).filePath(QFileInfo(path).completeBaseName() + u".dxf"_s);
-        error = drawing::saveCopy(document.drawing(), target).error;
+        const QMetaObject::Connection told =
+            QObject::connect(&document, &kernel::Document::printed, &document,
+                             [](const QString &text) { writeMessage(text.trimmed()); });
+        error = document.saveCopy(target).error;
+        QObject::disconnect(told);
         files.append(native(target));
     }
     if (error.isEmpty() && m_options.withPictures) {

@@ -4,6 +4,7 @@
 #include "host/drawing/HeaderVariables.h"
 #include "host/drawing/Journal.h"
 #include "host/drawing/Tables.h"
+#include "host/kernel/DrawingBackup.h"
 #include "host/kernel/DrawingDatabase.h"
 #include "host/kernel/Editor.h"
 #include "host/kernel/LispConsole.h"
@@ -22,6 +23,9 @@
 namespace host::kernel {
 
 namespace {
+
+/// The setting that the command setbackupfolder changes; its local name is the same in lower case.
+const QString backupFolderName = QStringLiteral("SETBACKUPFOLDER");
 
 /// What the file's active viewport showed.
 ViewState viewOf(const drawing::Drawing &drawing)
@@ -95,8 +99,22 @@ drawing::SaveResult Document::saveAs(const QString &path)
         m_session.editor().beginSave(m_database.get(), path);
         m_variables->storeObjectSettings();
     });
-    drawing::SaveResult result = drawing::save(*m_drawing, path);
+    const drawing::SaveResult result = write(path, [&] { return drawing::save(*m_drawing, path); });
     emit titleChanged();
+    return result;
+}
+
+drawing::SaveResult Document::saveCopy(const QString &path)
+{
+    return write(path, [&] { return drawing::saveCopy(*m_drawing, path); });
+}
+
+drawing::SaveResult Document::write(const QString &path, const std::function<drawing::SaveResult()> &writeFile)
+{
+    DrawingBackup backup(path, m_session.settings().text(backupFolderName, backupFolderName.toLower()));
+    const drawing::SaveResult result = writeFile();
+    if (const QString problem = result ? backup.finish() : QString(); !problem.isEmpty())
+        print(u'\n' + problem + u'\n');
     return result;
 }
 

@@ -104,9 +104,13 @@ public:
     /// Names of the commands under way as CMDNAMES has them: "LINE'ZOOM".
     QString commandNames() const { return m_commandNames.join(u'\''); }
 
-    /// Writes the drawing; the reactors hear of it first. Of a drawing without a path, save() fails.
+    /// Writes the drawing; the reactors hear of it first. Of a drawing without a path, save() fails. A file that is
+    /// replaced goes into the user's backup folder, where there is one; when it cannot, that is printed and the drawing
+    /// is saved all the same.
     drawing::SaveResult save();
     drawing::SaveResult saveAs(const QString &path);
+    /// As saveAs(), but the drawing stays what it is, with its path and its changes; the reactors hear nothing.
+    drawing::SaveResult saveCopy(const QString &path);
 
     // What is shown and chosen.
 
@@ -173,6 +177,7 @@ signals:
 
 private:
     class Run;
+    drawing::SaveResult write(const QString &path, const std::function<drawing::SaveResult()> &writeFile);
     bool isCommand(const QString &typed) const;
     bool isLispCommand(const QString &typed) const;
     RunResult runBuiltIn(const QString &typed);

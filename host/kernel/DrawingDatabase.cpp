@@ -2,8 +2,10 @@
 
 #include "host/drawing/Dictionaries.h"
 #include "host/drawing/Structure.h"
+#include "host/kernel/CurrentSpace.h"
 #include "host/kernel/Document.h"
 #include "host/kernel/SystemVariables.h"
+#include "host/kernel/platform/RemoteText.h"
 
 #include <limits>
 
@@ -179,8 +181,31 @@ private:
     std::map<QString, std::unique_ptr<Xrecord>> m_records;
 };
 
+/// The space that is current when an entity comes.
+class DrawingDatabase::ActiveSpace final : public OdDbBlockTableRecord
+{
+public:
+    explicit ActiveSpace(Document &document) : m_document(document) {}
+
+    OdDbObjectId appendOdDbEntity(OdDbEntity &entity) override
+    {
+        const auto *own = dynamic_cast<const NewEntity *>(&entity);
+        if (!own)
+            throw OdError(QStringLiteral("An entity of another host cannot be in the drawing."));
+        drawing::Drawing &drawing = m_document.drawing();
+        const drawing::CreateResult made = drawing.entities().create(own->fields(), currentSpace(drawing));
+        if (!made)
+            throw OdError(made.error);
+        return OdDbObjectId(static_cast<quint64>(made.record));
+    }
+
+private:
+    Document &m_document;
+};
+
 DrawingDatabase::DrawingDatabase(Document &document)
-    : m_document(document), m_namedObjects(std::make_unique<Dictionary>(document))
+    : m_document(document), m_namedObjects(std::make_unique<Dictionary>(document)),
+      m_activeSpace(std::make_unique<ActiveSpace>(document))
 {
 }
 
@@ -215,6 +240,26 @@ bool DrawingDatabase::setSysVar(const OdString &name, const OdResBuf &value)
     SetOutcome outcome = SetOutcome::Unknown;
     m_document.runAs(QStringLiteral("SETVAR"), [&] { outcome = m_document.variables().set(name, *wanted); });
     return outcome == SetOutcome::Done;
+}
+
+void DrawingDatabase::startTransaction()
+{
+    m_document.undoSteps().beginRun(QStringLiteral("TRANSACTION"));
+}
+
+void DrawingDatabase::endTransaction()
+{
+    m_document.undoSteps().endRun();
+}
+
+OdDbBlockTableRecord *DrawingDatabase::openActiveLayoutBTR()
+{
+    return m_activeSpace.get();
+}
+
+void DrawingDatabase::flushGraphics()
+{
+    emit m_document.viewChanged();
 }
 
 } // namespace host::kernel

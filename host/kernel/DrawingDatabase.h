@@ -51,12 +51,18 @@ public:
     OdDbDictionary *getNamedObjectsDictionary() override;
     OdResBufPtr getSysVar(const OdString &name) const override;
     bool setSysVar(const OdString &name, const OdResBuf &value) override;
+    void startTransaction() override;
+    void endTransaction() override;
+    OdDbBlockTableRecord *openActiveLayoutBTR() override;
+    void flushGraphics() override;
 
 private:
     class Dictionary;
+    class ActiveSpace;
 
     Document &m_document;
     std::unique_ptr<Dictionary> m_namedObjects;
+    std::unique_ptr<ActiveSpace> m_activeSpace;
 };
 
 } // namespace host::kernel

@@ -6,6 +6,7 @@
 #include "host/kernel/Session.h"
 #include "host/kernel/functions/LispConversion.h"
 #include "host/lisp/Interpreter.h"
+#include "platform/rx/OdError.h"
 
 namespace host::kernel {
 
@@ -60,6 +61,8 @@ Value LispEngine::call(const QString &name, Handler handler, lisp::Arguments &ar
     } catch (const std::exception &failure) {
         // A handler must not throw; what it says is told, and the program goes on as after any error.
         args.fail(name.toStdString() + ": " + failure.what());
+    } catch (const OdError &failure) {
+        args.fail((name + QStringLiteral(": ") + failure.description()).toStdString());
     }
     if (code == kRtError)
         args.fail("bad argument: " + name.toStdString());

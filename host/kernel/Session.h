@@ -4,6 +4,7 @@
 #include "host/kernel/DocumentManager.h"
 #include "host/kernel/ModuleLoader.h"
 #include "host/kernel/Services.h"
+#include "host/kernel/SettingsStore.h"
 #include "host/kernel/input/InputFeeder.h"
 
 #include <QPointer>
@@ -48,6 +49,7 @@ public:
     CommandStack &commandStack() { return *m_commandStack; }
     InputQueue &input() { return m_input; }
     CommandAliases &aliases() { return m_aliases; }
+    SettingsStore &settings() { return m_settings; }
 
     /// Who answers when the queue is empty; null (as in the beginning) for nobody. Not owned.
     void setFeeder(InputFeeder *feeder) { m_feeder = feeder; }
@@ -69,6 +71,7 @@ private:
     QStringList m_supportFolders;
     QString m_helpFolder;
     CommandAliases m_aliases;
+    SettingsStore m_settings;
     InputQueue m_input;
     InputFeeder *m_feeder = nullptr;
     QPointer<QWidget> m_mainWindow;

@@ -3,6 +3,7 @@
 #include "host/kernel/Session.h"
 #include "host/kernel/commands/CommandRun.h"
 
+#include <QDir>
 #include <QFileInfo>
 #include <QStandardPaths>
 
@@ -51,6 +52,20 @@ bool SystemServices::isPermitted(const OdString &command, CKvDocument &document)
 OdString SystemServices::supportFolder() const
 {
     return m_session.home();
+}
+
+OdString SystemServices::stringSetting(const OdString &globalName, const OdString &localName) const
+{
+    return m_session.settings().text(globalName, localName);
+}
+
+void SystemServices::setStringSetting(const OdString &globalName, const OdString &localName, const OdString &value)
+{
+    Document *document = m_session.documents().active();
+    if (m_session.settings().setText(globalName, localName, value) || !document)
+        return;
+    document->print(QStringLiteral("\n%1: the setting cannot be written to %2.\n")
+                        .arg(globalName, QDir::toNativeSeparators(m_session.settings().path())));
 }
 
 } // namespace host::kernel

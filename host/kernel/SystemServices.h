@@ -24,6 +24,10 @@ public:
     bool isPermitted(const OdString &command, CKvDocument &document) override;
     /// The folder of the user's data.
     OdString supportFolder() const override;
+    OdString stringSetting(const OdString &globalName, const OdString &localName) const override;
+    void setStringSetting(const OdString &globalName, const OdString &localName, const OdString &value) override;
+    /// This host is free: it has none.
+    KvLicence licenceState() const override { return KvLicence::None; }
 
 private:
     Session &m_session;

@@ -4,6 +4,8 @@
 
 #include <memory>
 
+class OdDbBlockTableRecord;
+
 /// A record of free data in a drawing: a chain of result buffers whose type codes are DXF group codes. Belongs to the
 /// drawing; valid until the next change of the dictionary that holds it.
 class KV_EXPORT OdDbXrecord
@@ -47,6 +49,15 @@ public:
     /// Changes a system variable to the value of `value` (its first link only). False when there is none of that name,
     /// it cannot be changed, or it takes no such value; it is then as it was.
     virtual bool setSysVar(const OdString &name, const OdResBuf &value) = 0;
+
+    /// What is changed between these two is one step to undo, or a part of the one under way. They nest.
+    virtual void startTransaction() = 0;
+    virtual void endTransaction() = 0;
+    /// The space that new entities go into, opened for writing and valid until the end of the transaction. Throws
+    /// OdError when it cannot be opened as a block.
+    virtual OdDbBlockTableRecord *openActiveLayoutBTR() = 0;
+    /// Shows what was changed so far.
+    virtual void flushGraphics() = 0;
 };
 
 using OdDbDatabasePtr = std::shared_ptr<OdDbDatabase>;

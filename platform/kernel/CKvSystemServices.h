@@ -7,6 +7,14 @@ class CKvDocument;
 class CKvDocumentManager;
 class QWidget;
 
+/// What the host may be used for.
+enum class KvLicence
+{
+    Full,
+    Demo,
+    None ///< the host needs no licence or has none
+};
+
 /// What the host offers once for the whole process.
 class KV_EXPORT CKvSystemServices
 {
@@ -29,6 +37,12 @@ public:
     /// The folder of the host's support files, without a separator at the end; "Template" below it is where drawings
     /// to start from are kept.
     virtual OdString supportFolder() const = 0;
+    /// A setting that the host keeps for the user from one run to the next, by its global and its local name; empty
+    /// where there is none.
+    virtual OdString stringSetting(const OdString &globalName, const OdString &localName) const = 0;
+    /// Keeps the setting from now on. Where it cannot, the host tells the user.
+    virtual void setStringSetting(const OdString &globalName, const OdString &localName, const OdString &value) = 0;
+    virtual KvLicence licenceState() const = 0;
 };
 
 /// The services; null before the host has started.

@@ -17,7 +17,9 @@ public:
 
     /// Option bits and keywords for the next request only. Bits: 1 no empty answer, 2 no zero, 4 no negative value,
     /// 8 points outside the limits are fine, 32 dashed rubber band, 64 two-dimensional distance, 128 any text counts
-    /// as a keyword. Of a keyword, the upper-case letters alone suffice as the answer.
+    /// as a keyword. Of a keyword, the upper-case letters alone suffice as the answer. A keyword may be a pair of what
+    /// is shown and, behind a comma, the keyword itself: of ". for none,." the user sees ". for none", types "." and
+    /// input() gives ".".
     virtual void initget(int bits, const QStringList &keywords) = 0;
     /// The prompt as it is shown: with its keywords, the default in angle brackets when there is one, and a colon.
     virtual OdString formatPrompt(const OdString &prompt, const OdString &defaultText) const = 0;

@@ -1,5 +1,7 @@
 #include "tests/support/FakeDocument.h"
 
+#include "platform/rx/OdError.h"
+
 namespace ortakit::test {
 
 namespace {
@@ -312,6 +314,14 @@ bool FakeDatabase::setSysVar(const OdString &name, const OdResBuf &value)
     m_variables[name.toUpper()] = value.getInteger();
     m_settings.append(QStringLiteral("%1=%2").arg(name).arg(value.getInteger()));
     return true;
+}
+
+OdDbObjectId FakeDatabase::appendOdDbEntity(OdDbEntity &)
+{
+    if (!m_refusal.isEmpty())
+        throw OdError(m_refusal);
+    m_steps.append(QStringLiteral("append"));
+    return OdDbObjectId(++m_entities);
 }
 
 OdDbXrecord *FakeDatabase::getAt(const OdString &name)

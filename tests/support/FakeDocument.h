@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/db/OdDbDatabase.h"
+#include "platform/db/OdDbEntity.h"
 #include "platform/kernel/CKvDocument.h"
 #include "platform/kernel/CKvLispEngine.h"
 #include "platform/kernel/CKvUserInput.h"
@@ -118,8 +119,9 @@ private:
     QString m_input;
 };
 
-/// A drawing's database of nothing but extension records in the named-object dictionary and integer variables.
-class FakeDatabase final : public OdDbDatabase, public OdDbDictionary
+/// A drawing's database of nothing but extension records in the named-object dictionary, integer variables and a count
+/// of entities.
+class FakeDatabase final : public OdDbDatabase, public OdDbDictionary, public OdDbBlockTableRecord
 {
 public:
     void setFilename(const QString &path) { m_filename = path; }
@@ -138,11 +140,24 @@ public:
     OdDbXrecord *getAt(const OdString &name) override;
     OdDbXrecord *setAt(const OdString &name) override;
 
+    /// Entities are taken, and named from 1 on, until `reason` is given: then appending one throws it.
+    void refuseEntities(const QString &reason) { m_refusal = reason; }
+    /// What was done with entities so far: start, append, end, flush.
+    const QStringList &steps() const { return m_steps; }
+    void startTransaction() override { m_steps.append(QStringLiteral("start")); }
+    void endTransaction() override { m_steps.append(QStringLiteral("end")); }
+    OdDbBlockTableRecord *openActiveLayoutBTR() override { return this; }
+    void flushGraphics() override { m_steps.append(QStringLiteral("flush")); }
+    OdDbObjectId appendOdDbEntity(OdDbEntity &entity) override;
+
 private:
     class Record;
 
     QString m_filename;
     bool m_hasDictionary = true;
+    QStringList m_steps;
+    QString m_refusal;
+    quint64 m_entities = 0;
     QMap<QString, qint64> m_variables;
     QStringList m_settings;
     std::map<QString, std::shared_ptr<OdDbXrecord>> m_records;

@@ -121,6 +121,19 @@ public:
     OdString userSupportFolder() const override { return m_folder.path() + QLatin1Char('/'); }
     bool isPermitted(const OdString &command, CKvDocument &) override { return !m_refused.contains(command); }
     OdString supportFolder() const override { return path(QStringLiteral("support")); }
+    OdString stringSetting(const OdString &globalName, const OdString &localName) const override
+    {
+        return settings.value(globalName + QLatin1Char('/') + localName);
+    }
+    void setStringSetting(const OdString &globalName, const OdString &localName, const OdString &value) override
+    {
+        settings[globalName + QLatin1Char('/') + localName] = value;
+    }
+    KvLicence licenceState() const override { return licence; }
+
+    /// Settings by "global name/local name".
+    QMap<QString, QString> settings;
+    KvLicence licence = KvLicence::None;
 
 private:
     QTemporaryDir m_folder;

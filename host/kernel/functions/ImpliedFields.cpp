@@ -59,6 +59,7 @@ QHash<QString, FieldList> makeTable()
                                             {74, qint64(0)},
                                             {75, qint64(0)},
                                             extrusion})},
+            {u"RTEXT"_s, {{50, 0.0}, {7, u"Standard"_s}, {70, qint64(0)}, extrusion}},
             {u"SHAPE"_s, {{41, 1.0}, {50, 0.0}, {51, 0.0}, extrusion}},
             {u"SOLID"_s, {extrusion}},
             {u"TEXT"_s, joined(textFields(), {{73, qint64(0)}})},

@@ -54,6 +54,13 @@ QString keywordName(const QString &keyword)
     return keyword.section(u',', 0, 0);
 }
 
+QString keywordAnswer(const QString &keyword)
+{
+    const QString name = keywordName(keyword);
+    const QString typed = keyword.mid(name.size() + 1);
+    return name.contains(u' ') && !typed.isEmpty() && name.startsWith(typed) ? typed : name;
+}
+
 std::optional<QString> matchKeyword(const QString &typed, const QStringList &keywords)
 {
     const QString word = typed.startsWith(u'_') ? typed.mid(1) : typed;
@@ -61,10 +68,10 @@ std::optional<QString> matchKeyword(const QString &typed, const QStringList &key
         return {};
     for (const QString &keyword : keywords)
         if (keywordName(keyword).compare(word, Qt::CaseInsensitive) == 0)
-            return keywordName(keyword);
+            return keywordAnswer(keyword);
     for (const QString &keyword : keywords)
         if (isShortFor(word, keyword))
-            return keywordName(keyword);
+            return keywordAnswer(keyword);
     return {};
 }
 

@@ -6,13 +6,18 @@
 
 namespace host::kernel {
 
-/// The keyword that `typed` means, as the list spells it. Each keyword may be shortened down to its upper-case letters
+/// The keyword that `typed` means, as keywordAnswer() gives it. Each keyword may be shortened down to its upper-case
+/// letters
 /// ("LTscale" by "LT"; "eXit" by "X"), or to what follows a comma ("LTYPE,LT"). Letter case does not matter, and a
 /// leading "_" is skipped. A whole keyword goes before an abbreviation, the first in the list before later ones.
 std::optional<QString> matchKeyword(const QString &typed, const QStringList &keywords);
 
 /// A keyword without the abbreviation behind its comma.
 QString keywordName(const QString &keyword);
+
+/// What a keyword is when it was entered: its name. Only of a name with blanks that begins with what follows its comma
+/// (". for none,.") it is that: such a name is there to be read.
+QString keywordAnswer(const QString &keyword);
 
 /// `prompt` as it is shown: keywords in brackets when the prompt does not list any itself, the default in angle
 /// brackets, and a colon, each only where it is not there already.

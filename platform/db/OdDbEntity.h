@@ -1,0 +1,27 @@
+#pragma once
+
+#include "platform/db/OdDbObjectId.h"
+#include "platform/rx/OdRxObject.h"
+
+class OdDbDatabase;
+
+/// An entity that is being made. It becomes a part of a drawing when it is appended to a block, as it is at that
+/// moment; destroying it closes it.
+class KV_EXPORT OdDbEntity : public OdRxObject
+{
+public:
+    /// What new entities of the drawing have: layer, colour, linetype, linetype scale and lineweight; of a text the
+    /// style too.
+    virtual void setDatabaseDefaults(OdDbDatabase *database) = 0;
+};
+
+/// A block of a drawing that was opened for writing: a space or a definition. Belongs to the drawing.
+class KV_EXPORT OdDbBlockTableRecord
+{
+public:
+    virtual ~OdDbBlockTableRecord() = default;
+
+    /// Adds the entity at the end. Throws OdError when the drawing's version has no such entity or it is not complete;
+    /// the drawing is then as it was.
+    virtual OdDbObjectId appendOdDbEntity(OdDbEntity &entity) = 0;
+};

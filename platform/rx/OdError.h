@@ -1,0 +1,18 @@
+#pragma once
+
+#include "platform/Export.h"
+#include "platform/rx/OdString.h"
+
+/// What operations of the drawing database throw where their comments say so. It passes through the module's own code
+/// only; the module turns it into a failed call whose reason is on the command line.
+class KV_EXPORT OdError
+{
+public:
+    explicit OdError(const OdString &description) : m_description(description) {}
+
+    /// What went wrong, a sentence for the user.
+    OdString description() const { return m_description; }
+
+private:
+    OdString m_description;
+};
