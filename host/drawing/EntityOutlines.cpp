@@ -171,7 +171,7 @@ void appendOutline(Outline &outline, const Drawing &drawing, RecordId entity, co
         if (type == name)
             return function(sink, tags);
     }
-    if (outlineOfPolyline(sink, drawing, entity, tags) || outlineOfText(sink, type, tags))
+    if (outlineOfPolyline(sink, drawing, entity, tags) || outlineOfText(sink, drawing, type, tags))
         return;
     if (type == "HATCH")
         outlineOfHatch(sink, tags);

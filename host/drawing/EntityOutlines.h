@@ -12,7 +12,7 @@ void appendOutline(Outline &outline, const Drawing &drawing, RecordId entity, co
 // The families of types, each in a file of its own. False when the type is none of the family.
 class OutlineSink;
 bool outlineOfPolyline(OutlineSink &sink, const Drawing &drawing, RecordId entity, const TagList &tags);
-bool outlineOfText(OutlineSink &sink, QByteArrayView type, const TagList &tags);
+bool outlineOfText(OutlineSink &sink, const Drawing &drawing, QByteArrayView type, const TagList &tags);
 bool outlineOfHatch(OutlineSink &sink, const TagList &tags);
 
 /// Takes pieces in entity coordinates and puts them into an outline in world coordinates.

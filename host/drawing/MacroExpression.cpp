@@ -11,8 +11,8 @@ namespace {
 /// Calls within calls. What people write has a handful.
 constexpr int deepestNesting = 100;
 /// Characters read and made, in all. An expression can evaluate its own text again and again (eval of a variable that
-/// holds the same): this ends it in milliseconds.
-constexpr qsizetype mostWork = 1'000'000;
+/// holds the same), and a drawing can hold many such: this ends each within a millisecond.
+constexpr qsizetype mostWork = 100'000;
 
 enum class Stop
 {

@@ -22,7 +22,7 @@ struct MacroSurroundings
 };
 
 /// The most characters that an expression gives. More is cut off there and marked.
-inline constexpr qsizetype largestMacroText = 16 * 1024;
+inline constexpr qsizetype largestMacroText = 4096;
 
 /// The value of a macro expression: `text` with every $(function,argument,...) in it replaced by what it gives.
 ///

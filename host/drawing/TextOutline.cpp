@@ -1,4 +1,6 @@
+#include "host/drawing/DrawingVariables.h"
 #include "host/drawing/EntityOutlines.h"
+#include "host/drawing/RemoteTextContent.h"
 
 #include <numbers>
 
@@ -130,13 +132,32 @@ void outlineOfParagraphText(OutlineSink &sink, const TagList &tags)
     addBox(sink, tags.point(10), angle, left, bottom, width, total);
 }
 
+/// Around what is shown; its first line stands on the insertion point.
+void outlineOfRemoteText(OutlineSink &sink, const Drawing &drawing, const TagList &tags)
+{
+    const RemoteTextContent content = remoteTextContent(drawing, tags, surroundingsOf(drawing));
+    qsizetype longest = 0;
+    qsizetype lines = 0;
+    for (const auto line : QStringView(content.text).split(u'\n')) {
+        longest = std::max(longest, line.size());
+        ++lines;
+    }
+    const double height = std::abs(tags.real(40, 1.0));
+    const double below = height * lineDistance * static_cast<double>(lines - 1);
+    sink.useExtrusion(tags.point(210, {0, 0, 1}));
+    addBox(sink, tags.point(10), tags.real(50) * radians, 0.0, -below,
+           height * letterWidth * static_cast<double>(longest), height + below);
+}
+
 } // namespace
 
-bool outlineOfText(OutlineSink &sink, QByteArrayView type, const TagList &tags)
+bool outlineOfText(OutlineSink &sink, const Drawing &drawing, QByteArrayView type, const TagList &tags)
 {
     if (type == "MTEXT")
         outlineOfParagraphText(sink, tags);
-    else if (type == "TEXT" || type == "ATTRIB" || type == "ATTDEF" || type == "RTEXT")
+    else if (type == "RTEXT")
+        outlineOfRemoteText(sink, drawing, tags);
+    else if (type == "TEXT" || type == "ATTRIB" || type == "ATTDEF")
         outlineOfLineText(sink, tags);
     else
         return false;

@@ -44,6 +44,8 @@ void DrawingBackup::copy(const QString &path)
         return fail(old.errorString());
     if (!m_copy->open(QIODevice::WriteOnly))
         return fail(m_copy->errorString());
+    // Whoever may not read the drawing may not read its backup.
+    m_copy->setPermissions(old.permissions());
     for (;;) {
         const QByteArray piece = old.read(pieceSize);
         if (piece.isEmpty())

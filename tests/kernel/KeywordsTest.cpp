@@ -34,4 +34,15 @@ TEST(Keywords, abbreviations)
     }
 }
 
+TEST(Keywords, namesToReadAndWhatIsTypedForThem)
+{
+    const QStringList keywords = {QStringLiteral(". for none,."), QStringLiteral("Enter to 0,5")};
+    EXPECT_EQ(matchKeyword(QStringLiteral("."), keywords), QStringLiteral("."));
+    EXPECT_EQ(matchKeyword(QStringLiteral(". for none"), keywords), QStringLiteral(".")) << "picked from a menu";
+    EXPECT_EQ(matchKeyword(QStringLiteral(".x"), keywords), std::nullopt);
+    EXPECT_EQ(matchKeyword(QStringLiteral("5"), keywords), QStringLiteral("Enter to 0")) << "not its beginning";
+    EXPECT_EQ(formatPrompt(QStringLiteral("Path"), keywords.first(1), QStringLiteral("a b")),
+              QStringLiteral("Path [. for none] <a b>: "));
+}
+
 } // namespace

@@ -29,7 +29,7 @@ QStringList moduleSymbols(const QString &kind)
 QSet<QString> namesAskedFor()
 {
     static const QRegularExpression name(
-        u" [UwV] ((?:(?:Od|CKv)\\w+::~?\\w+)|odrx\\w+|oded\\w+|GetKv\\w+|ACTIVE_DOCUMENT)(?:\\(|$)"_s);
+        u" [UwV] ((?:(?:Od|CKv|RText)\\w*::~?\\w+)|odrx\\w+|oded\\w+|GetKv\\w+|ACTIVE_DOCUMENT)(?:\\(|$)"_s);
     QSet<QString> names;
     for (const QString &line : moduleSymbols(u"--undefined-only"_s)) {
         const QRegularExpressionMatch match = name.match(line);

@@ -84,10 +84,15 @@ int failing()
     throw std::runtime_error("out of something");
 }
 
+int refusedByDatabase()
+{
+    throw OdError(u"There is no room for it."_s);
+}
+
 constexpr std::pair<const char *, CKvLispEngine::Handler> functions[] = {
     {"plain", guarded<plain>},       {"listIn", guarded<listIn>},   {"anyFirst", guarded<anyFirst>},
     {"loadOnly", guarded<loadOnly>}, {"refused", guarded<refused>}, {"twoTexts", guarded<twoTexts>},
-    {"noResult", guarded<noResult>}, {"failing", guarded<failing>},
+    {"noResult", guarded<noResult>}, {"failing", guarded<failing>}, {"refusedByDatabase", guarded<refusedByDatabase>},
 };
 
 SampleDialog *sample(QWidget *window)
@@ -231,6 +236,9 @@ TEST_F(RunDialog, RefusalIsNilAndAMissingRecordOrAnExceptionAnError)
     EXPECT_EQ(call(u"refused"_s, {u"x"_s}), kRtNormal);
     EXPECT_EQ(lisp().result(), u"nil");
     EXPECT_EQ(call(u"failing"_s, {}), kRtError);
+    EXPECT_EQ(lisp().printed(), u"");
+    EXPECT_EQ(call(u"refusedByDatabase"_s, {}), kRtError);
+    EXPECT_EQ(lisp().printed(), u"\nThere is no room for it.");
     DialogRegistry::instance().remove(&m_host.document());
     EXPECT_EQ(call(u"plain"_s, {u"x"_s}), kRtError);
     EXPECT_EQ(lisp().result(), u"");

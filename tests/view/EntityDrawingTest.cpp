@@ -7,6 +7,8 @@
 #include <gtest/gtest.h>
 
 namespace host::view::test {
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct ShapeRow
@@ -373,6 +375,54 @@ TEST(EntityDrawing, RemoteTextShowsItsFile)
     const Rendering unread({.entities = "0 RTEXT|8 0|10 20|20 80|40 12|50 0|70 0|1 /dev/zero"});
     EXPECT_LT(unread.inkBox().height(), 20.0) << "the name alone";
     EXPECT_EQ(unread.report().simplified, (QMap<QString, qint64>{{QStringLiteral("RTEXT"), 1}}));
+}
+
+TEST(EntityDrawing, RemoteTextShowsTheValueOfItsExpressionUntilTheNextRegeneration)
+{
+    QTemporaryDir folder;
+    const auto width = [](Scene &scene) { return Rendering(scene, Scene::modelSpace).inkBox().width(); };
+    const auto drawing = readDrawing({.entities = "0 RTEXT|8 0|10 10|20 60|40 8|50 0|70 1|1 $(upper,$(getvar,note))"});
+    QString note = u"h"_s;
+    Scene scene(*drawing, {.variable = [&note](const QString &name) {
+        return name == u"note" ? std::optional(note) : std::nullopt;
+    }});
+    const double oneLetter = width(scene);
+    EXPECT_NEAR(oneLetter, 5.5, 2.0) << "the value's one letter, not the expression";
+    EXPECT_EQ(scene.report(Scene::modelSpace).drawn, 1) << "as it is, not simplified";
+    note = u"hhhh"_s;
+    EXPECT_EQ(width(scene), oneLetter);
+    scene.regenerate();
+    EXPECT_GT(width(scene), 3.0 * oneLetter);
+
+    const struct
+    {
+        const char *what;
+        QByteArray bytes;
+        int flags;
+        int letters;
+    } rows[] = {
+        {"codes are plain text", "{\\LHH}", 0, 6},
+        {"codes count where the record says so", "{\\LHH}", 2, 2},
+        {"UTF-16",
+         QByteArray("\xFF\xFE"
+                    "H\0\r\0\n\0H\0",
+                    10),
+         0, 1},
+        {"no UTF-8", "\xC4\xC4", 0, 2},
+    };
+    for (const auto &row : rows) {
+        SCOPED_TRACE(row.what);
+        QFile file(folder.filePath(u"note.txt"_s));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(row.bytes);
+        file.close();
+        const auto one = readDrawing(
+            {.entities = "0 RTEXT|8 0|10 10|20 60|40 8|70 " + std::to_string(row.flags) + "|1 .\\note.txt"});
+        one->setPath(folder.filePath(u"a.dxf"_s));
+        Scene shown(*one);
+        EXPECT_NEAR(width(shown) / oneLetter, row.letters, 0.35 * row.letters + 0.3);
+        EXPECT_EQ(shown.report(Scene::modelSpace).drawn, 1);
+    }
 }
 
 TEST(EntityDrawing, WhatCannotBeDrawnIsCounted)
