@@ -19,8 +19,8 @@ namespace host::app {
 // Each returns a sentence that names the file when it could not be written, empty when it was. A file is written whole
 // or not at all.
 
-/// The whole drawing as a picture: PNG, SVG or PDF by the extension of `path`. `surroundings` is what expressions in the
-/// drawing may ask for.
+/// The whole drawing as a picture: PNG, SVG or PDF by the extension of `path`. `surroundings` is what expressions in
+/// the drawing may ask for.
 QString writeDrawingPicture(const drawing::Drawing &drawing, const QString &path,
                             const drawing::MacroSurroundings &surroundings);
 /// The same for an open document, which knows more system variables.

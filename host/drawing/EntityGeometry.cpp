@@ -192,7 +192,7 @@ void BoxCache::recordChanged(RecordId record, RecordChange, ChangeCause)
     if (section == Section::Entities && !isPlain && isValid(owner) && static_cast<size_t>(owner) < m_known.size())
         m_known[static_cast<size_t>(owner)] = false;
     else if (section == Section::Blocks)
-        m_known.assign(m_known.size(), false);
+        forget();
 }
 
 } // namespace host::drawing

@@ -72,6 +72,9 @@ public:
     /// Those of the given entities whose box touches the window, in order.
     std::vector<RecordId> touching(const std::vector<RecordId> &entities, const Box &window);
 
+    /// Everything is measured again: remote texts show what is outside the drawing.
+    void forget() { m_known.assign(m_known.size(), false); }
+
     void recordChanged(RecordId record, RecordChange change, ChangeCause cause) override;
 
 private:

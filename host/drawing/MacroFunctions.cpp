@@ -32,30 +32,30 @@ QString truth(bool holds)
     return holds ? u"1"_s : u"0"_s;
 }
 
+/// The arguments one after the other in one number; nothing when `read` finds none in one of them.
+template <class Read, class Combine>
+auto folded(const Arguments &arguments, Read &&read, Combine &&combine) -> decltype(read(arguments[0]))
+{
+    auto total = read(arguments[0]);
+    for (std::size_t i = 1; total && i < arguments.size(); ++i) {
+        const auto number = read(arguments[i]);
+        total = number ? std::optional(combine(*total, *number)) : std::nullopt;
+    }
+    return total;
+}
+
 template <class Combine>
 Result combined(const Arguments &arguments, Combine &&combine)
 {
-    std::optional<double> total;
-    for (const QString &argument : arguments) {
-        const std::optional<double> number = macroNumber(argument);
-        if (!number)
-            return {};
-        total = total ? combine(*total, *number) : *number;
-    }
-    return numberText(*total);
+    const std::optional<double> total = folded(arguments, macroNumber, combine);
+    return total ? numberText(*total) : Result();
 }
 
 template <class Combine>
 Result combinedBits(const Arguments &arguments, Combine &&combine)
 {
-    std::optional<int> total;
-    for (const QString &argument : arguments) {
-        const std::optional<int> number = macroInteger(argument);
-        if (!number)
-            return {};
-        total = total ? combine(*total, *number) : *number;
-    }
-    return QString::number(*total);
+    const std::optional<int> total = folded(arguments, macroInteger, combine);
+    return total ? Result(QString::number(*total)) : Result();
 }
 
 template <class Compare>

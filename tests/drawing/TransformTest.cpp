@@ -122,12 +122,19 @@ TEST(Transform, TextsStayReadable)
 {
     const auto drawing =
         sample("AC1015", "0 TEXT\n5 50\n8 0\n10 1\n20 2\n30 0\n40 2\n1 a\n50 10\n72 1\n11 1\n21 2\n31 0\n"
-                         "0 MTEXT\n5 51\n8 0\n10 1\n20 2\n30 0\n40 2\n41 30\n1 a\n50 0");
+                         "0 MTEXT\n5 51\n8 0\n10 1\n20 2\n30 0\n40 2\n41 30\n1 a\n50 0\n"
+                         "0 RTEXT\n5 52\n8 0\n10 1\n20 2\n30 0\n50 10\n40 2\n70 1\n1 a$(+,1,2)");
+    const RecordId remote = drawing->find({0x52});
     const RecordId text = drawing->find({0x50});
     const RecordId paragraph = drawing->find({0x51});
     const Matrix turn = Matrix::rotation(pi / 2) * Matrix::scaling({3, 3, 3});
     EXPECT_TRUE(transformEntity(*drawing, text, turn));
     EXPECT_TRUE(transformEntity(*drawing, paragraph, turn));
+    EXPECT_TRUE(transformEntity(*drawing, remote, turn));
+    EXPECT_NEAR(drawing->tags(remote).real(50), 100.0, 1e-9);
+    EXPECT_NEAR(drawing->tags(remote).real(40), 6.0, 1e-9);
+    EXPECT_LT((drawing->tags(remote).point(10) - Vec3{-6, 3, 0}).length(), 1e-9);
+    EXPECT_FALSE(transformEntity(*drawing, remote, Matrix::scaling({2, 1, 1}))) << "it has no width factor";
     EXPECT_NEAR(drawing->tags(text).real(50), 100.0, 1e-9);
     EXPECT_NEAR(drawing->tags(text).real(40), 6.0, 1e-9);
     EXPECT_NEAR(drawing->tags(paragraph).real(40), 6.0, 1e-9);

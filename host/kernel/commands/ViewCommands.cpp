@@ -71,6 +71,7 @@ CommandTask zoom(CommandContext &context)
 
 CommandTask regenerate(CommandContext &context)
 {
+    context.document().boxes().forget();
     emit context.document().regenerated();
     co_return;
 }
