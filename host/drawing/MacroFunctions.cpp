@@ -126,26 +126,35 @@ std::optional<int> setting(const Arguments &arguments, std::size_t number, const
     return macroInteger(variable(name, surroundings).value_or(QString())).value_or(usual);
 }
 
-Result rtos(const Arguments &arguments, const Surroundings &surroundings)
+/// Who writes a number with a unit, and the variables that say how where the call does not.
+struct NumberStyle
 {
-    const std::optional<double> number = macroNumber(arguments[0]);
-    const std::optional<int> mode = setting(arguments, 1, u"LUNITS"_s, 2, surroundings);
-    const std::optional<int> precision = setting(arguments, 2, u"LUPREC"_s, 4, surroundings);
-    if (!number || !mode || *mode < 1 || *mode > 5 || !precision || *precision < 0 || *precision > 8)
-        return {};
-    return surroundings.length ? surroundings.length(*number, *mode, *precision)
-                               : QString::number(*number, 'f', *precision);
-}
+    QLatin1StringView modeVariable;
+    int lowestMode;
+    int highestMode;
+    int usualMode;
+    QLatin1StringView precisionVariable;
+    int usualPrecision;
+    std::function<QString(double, int, int)> MacroSurroundings::*writer;
+    double plainFactor; ///< of the decimal number where nobody writes it
+};
 
-Result angtos(const Arguments &arguments, const Surroundings &surroundings)
+const NumberStyle lengthStyle = {"LUNITS"_L1, 1, 5, 2, "LUPREC"_L1, 4, &MacroSurroundings::length, 1.0};
+const NumberStyle angleStyle = {"AUNITS"_L1, 0, 4, 0, "AUPREC"_L1, 0, &MacroSurroundings::angle, 180.0 / M_PI};
+
+Result written(const Arguments &arguments, const NumberStyle &style, const Surroundings &surroundings)
 {
-    const std::optional<double> angle = macroNumber(arguments[0]);
-    const std::optional<int> mode = setting(arguments, 1, u"AUNITS"_s, 0, surroundings);
-    const std::optional<int> precision = setting(arguments, 2, u"AUPREC"_s, 0, surroundings);
-    if (!angle || !mode || *mode < 0 || *mode > 4 || !precision || *precision < 0 || *precision > 8)
+    constexpr int highestPrecision = 8;
+    const std::optional<double> number = macroNumber(arguments[0]);
+    const std::optional<int> mode = setting(arguments, 1, style.modeVariable, style.usualMode, surroundings);
+    const std::optional<int> precision =
+        setting(arguments, 2, style.precisionVariable, style.usualPrecision, surroundings);
+    const bool isGood = number && mode && *mode >= style.lowestMode && *mode <= style.highestMode && precision &&
+                        *precision >= 0 && *precision <= highestPrecision;
+    if (!isGood)
         return {};
-    return surroundings.angle ? surroundings.angle(*angle, *mode, *precision)
-                              : QString::number(*angle * 180.0 / M_PI, 'f', *precision);
+    const auto &writer = surroundings.*style.writer;
+    return writer ? writer(*number, *mode, *precision) : QString::number(*number * style.plainFactor, 'f', *precision);
 }
 
 constexpr MacroFunction functions[] = {
@@ -171,8 +180,8 @@ constexpr MacroFunction functions[] = {
     {"getvar"_L1, 1, 1, getvar},
     {"getenv"_L1, 1, 1, getenv},
     {"edtime"_L1, 2, 2, edtime},
-    {"rtos"_L1, 1, 3, rtos},
-    {"angtos"_L1, 1, 3, angtos},
+    {"rtos"_L1, 1, 3, [](const Arguments &a, const Surroundings &s) { return written(a, lengthStyle, s); }},
+    {"angtos"_L1, 1, 3, [](const Arguments &a, const Surroundings &s) { return written(a, angleStyle, s); }},
     {"linelen"_L1, 0, 0, [](const Arguments &, const Surroundings &) { return Result(QString::number(lineLength)); }},
 };
 
