@@ -121,8 +121,14 @@ void DrawingCanvas::beginZoomWindow()
 
 void DrawingCanvas::setRequest(const std::optional<kernel::PromptRequest> &request)
 {
+    const bool hadDragged = m_dragged.has_value();
     m_request = request;
     m_box.reset();
+    m_dragged.reset();
+    if (request && request->base && request->dragged && !request->dragged->empty())
+        m_dragged.emplace(*request->dragged, request->base->xy());
+    if (hadDragged || m_dragged)
+        m_picture = {};
     update();
 }
 
@@ -150,6 +156,8 @@ void DrawingCanvas::repaintScene()
     highlighted.insert(m_document.impliedSelection().begin(), m_document.impliedSelection().end());
     view::PaintOptions options;
     options.ground = m_ground;
+    if (m_dragged)
+        highlighted.insert(m_dragged->records().begin(), m_dragged->records().end());
     options.highlighted = &highlighted;
     view::paintScene(painter, m_scene, space(), transform(), options);
     m_paintedRevision = m_document.drawing().revision();
@@ -172,6 +180,7 @@ void DrawingCanvas::paintOverlay(QPainter &painter)
         const QPointF from = transform().toScreen(m_box->corner);
         paintBox(painter, from, *m_pointer, m_pointer->x() < from.x() && m_box->use != BoxUse::Zoom);
     } else if (m_request && m_request->base) {
+        paintDragged(painter);
         paintRubberBand(painter);
     }
     paintCrosshair(painter);
@@ -193,6 +202,12 @@ void DrawingCanvas::paintCrosshair(QPainter &painter)
     painter.drawLine(QPointF(at.x() + gap, at.y()), QPointF(width(), at.y()));
     painter.drawLine(QPointF(at.x(), 0), QPointF(at.x(), at.y() - gap));
     painter.drawLine(QPointF(at.x(), at.y() + gap), QPointF(at.x(), height()));
+}
+
+void DrawingCanvas::paintDragged(QPainter &painter)
+{
+    if (m_dragged)
+        m_dragged->paint(painter, m_scene, space(), transform(), m_ground, *m_pointer);
 }
 
 void DrawingCanvas::paintRubberBand(QPainter &painter)

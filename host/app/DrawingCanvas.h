@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/app/DragPreview.h"
 #include "host/kernel/Document.h"
 #include "host/kernel/input/PromptRequest.h"
 #include "host/view/Scene.h"
@@ -82,6 +83,7 @@ private:
     void repaintScene();
     void paintOverlay(QPainter &painter);
     void paintCrosshair(QPainter &painter);
+    void paintDragged(QPainter &painter);
     void paintRubberBand(QPainter &painter);
     void paintBox(QPainter &painter, QPointF from, QPointF to, bool isCrossing);
 
@@ -99,7 +101,8 @@ private:
     QPixmap m_picture; ///< the scene as last painted; null when it is out of date
     quint64 m_paintedRevision = 0;
     std::optional<kernel::PromptRequest> m_request;
-    std::optional<QPointF> m_pointer; ///< where the pointer is, while it is on the canvas
+    std::optional<DragPreview> m_dragged; ///< while the prompt has entities hang at the pointer
+    std::optional<QPointF> m_pointer;     ///< where the pointer is, while it is on the canvas
     std::optional<QPointF> m_panFrom;
 
     struct PendingBox

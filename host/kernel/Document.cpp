@@ -9,6 +9,7 @@
 #include "host/kernel/Editor.h"
 #include "host/kernel/LispConsole.h"
 #include "host/kernel/LispEngine.h"
+#include "host/kernel/SelectionInput.h"
 #include "host/kernel/Session.h"
 #include "host/kernel/SystemVariables.h"
 #include "host/kernel/commands/CommandRun.h"
@@ -48,9 +49,10 @@ ViewState viewOf(const drawing::Drawing &drawing)
 Document::Document(Session &session, std::unique_ptr<drawing::Drawing> drawing, const QString &untitledName)
     : m_session(session), m_drawing(std::move(drawing)), m_untitledName(untitledName),
       m_undoSteps(m_drawing->journal()), m_variables(std::make_unique<SystemVariables>(*this)),
-      m_userInput(std::make_unique<UserInput>(*this)), m_database(std::make_unique<DrawingDatabase>(*this)),
-      m_console(std::make_unique<LispConsole>(*this)), m_boxes(std::make_unique<drawing::BoxCache>(*m_drawing)),
-      m_entityMaker(std::make_unique<EntityMaker>(*this)), m_view(viewOf(*m_drawing))
+      m_userInput(std::make_unique<UserInput>(*this)), m_selectionInput(std::make_unique<SelectionInput>(*this)),
+      m_database(std::make_unique<DrawingDatabase>(*this)), m_console(std::make_unique<LispConsole>(*this)),
+      m_boxes(std::make_unique<drawing::BoxCache>(*m_drawing)), m_entityMaker(std::make_unique<EntityMaker>(*this)),
+      m_view(viewOf(*m_drawing))
 {
 }
 
@@ -191,6 +193,11 @@ QString Document::findFile(const QString &asked) const
 CKvLispEngine *Document::lispEngine()
 {
     return m_lispEngine.get();
+}
+
+CKvSelectionInput *Document::selectionInput()
+{
+    return m_selectionInput.get();
 }
 
 CKvUserInput *Document::userInput()

@@ -31,6 +31,7 @@ class DrawingDatabase;
 class EntityMaker;
 class LispConsole;
 class LispEngine;
+class SelectionInput;
 class Session;
 class SystemVariables;
 class UserInput;
@@ -157,6 +158,7 @@ public:
 
     CKvLispEngine *lispEngine() override;
     CKvUserInput *userInput() override;
+    CKvSelectionInput *selectionInput() override;
     OdDbDatabase *database() override;
     OdString systemVariable(const OdString &name) const override;
     OdGePoint3d userToWorld(const OdGePoint3d &point) const override;
@@ -190,6 +192,7 @@ private:
     UndoSteps m_undoSteps;
     std::unique_ptr<SystemVariables> m_variables;
     std::unique_ptr<UserInput> m_userInput;
+    std::unique_ptr<SelectionInput> m_selectionInput;
     std::unique_ptr<DrawingDatabase> m_database;
     std::unique_ptr<LispConsole> m_console;
     std::unique_ptr<lisp::Interpreter> m_interpreter;

@@ -3,9 +3,14 @@
 #include "host/drawing/Dictionaries.h"
 #include "host/drawing/Structure.h"
 #include "host/kernel/CurrentSpace.h"
+#include "host/drawing/TransformEntity.h"
 #include "host/kernel/Document.h"
+#include "host/kernel/ObjectIds.h"
+#include "host/kernel/ResBufConversion.h"
 #include "host/kernel/SystemVariables.h"
 #include "host/kernel/platform/RemoteText.h"
+#include "host/kernel/functions/EntityList.h"
+#include "host/kernel/input/SelectionQuery.h"
 
 #include <limits>
 
@@ -16,6 +21,9 @@ namespace {
 using drawing::Field;
 using drawing::FieldList;
 using drawing::RecordId;
+
+constexpr int xdataCode = -3;
+constexpr int applicationCode = 1001;
 
 OdResBufPtr toResBuf(const Field &field)
 {
@@ -97,6 +105,28 @@ std::optional<VariableValue> toVariable(const OdResBuf &link)
     default:
         return {};
     }
+}
+
+/// An entity list without its nesting: each group code and its value.
+std::vector<lisp::Value> codesAndValues(const lisp::Value &list)
+{
+    std::vector<lisp::Value> flat;
+    const auto append = [&flat](const lisp::Value &group) {
+        flat.push_back(group.car());
+        flat.push_back(group.cdr());
+    };
+    for (const lisp::Value &item : lisp::ListItems(list)) {
+        if (item.car().asInteger() != xdataCode) {
+            append(item);
+            continue;
+        }
+        for (const lisp::Value &application : lisp::ListItems(item.cdr())) {
+            append(lisp::Value::cons(lisp::Value::integer(applicationCode), application.car()));
+            for (const lisp::Value &group : lisp::ListItems(application.cdr()))
+                append(group);
+        }
+    }
+    return flat;
 }
 
 /// An extension record by its name in a dictionary: it stays right while the record is replaced or undone.
@@ -260,6 +290,35 @@ OdDbBlockTableRecord *DrawingDatabase::openActiveLayoutBTR()
 void DrawingDatabase::flushGraphics()
 {
     emit m_document.viewChanged();
+}
+
+OdResBufPtr DrawingDatabase::entityData(const OdDbObjectId &object) const
+{
+    const RecordId record = recordFrom(m_document, object);
+    if (!m_document.drawing().isAlive(record))
+        return nullptr;
+    return chainFromValues(codesAndValues(entityList(m_document, record, {QStringLiteral("*")})));
+}
+
+OdDbObjectId DrawingDatabase::nextEntity(const OdDbObjectId &entity) const
+{
+    const RecordId record = recordFrom(m_document, entity);
+    return isValid(record) ? objectId(entityBehind(m_document.drawing(), record)) : OdDbObjectId();
+}
+
+int DrawingDatabase::moveEntities(const OdDbObjectIdArray &entities, const OdGePoint3d &by)
+{
+    int left = 0;
+    m_document.runAs(QStringLiteral("MOVE"), [&] {
+        drawing::Drawing &drawing = m_document.drawing();
+        const QSet<QString> locked = lockedLayers(drawing);
+        const drawing::Matrix shift = drawing::Matrix::translation({by.x, by.y, by.z});
+        for (const RecordId record : recordsFrom(m_document, entities)) {
+            const bool canMove = drawing.isAlive(record) && !isOnLayerOf(locked, drawing, record);
+            left += canMove && drawing::transformEntity(drawing, record, shift) ? 0 : 1;
+        }
+    });
+    return left;
 }
 
 } // namespace host::kernel

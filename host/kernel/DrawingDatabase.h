@@ -55,6 +55,9 @@ public:
     void endTransaction() override;
     OdDbBlockTableRecord *openActiveLayoutBTR() override;
     void flushGraphics() override;
+    OdResBufPtr entityData(const OdDbObjectId &object) const override;
+    OdDbObjectId nextEntity(const OdDbObjectId &entity) const override;
+    int moveEntities(const OdDbObjectIdArray &entities, const OdGePoint3d &by) override;
 
 private:
     class Dictionary;

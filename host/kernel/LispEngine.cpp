@@ -1,6 +1,7 @@
 #include "host/kernel/LispEngine.h"
 
 #include "host/kernel/Document.h"
+#include "host/kernel/ObjectIds.h"
 #include "host/kernel/ResBufConversion.h"
 #include "host/kernel/Services.h"
 #include "host/kernel/Session.h"
@@ -93,6 +94,17 @@ void LispEngine::releaseArguments(OdResBuf *first)
     }
 }
 
+OdDbObjectIdArray LispEngine::selectionMembers(const OdResBuf &set) const
+{
+    const qint64 place = set.restype() == OdResBuf::kRtPickSet ? set.getInteger() : 0;
+    if (place < 1 || place > qint64(m_selections.size()))
+        return {};
+    OdDbObjectIdArray members;
+    for (const std::uint64_t name : m_selections[std::size_t(place - 1)].asSelectionSet().entities)
+        members.emplace_back(name);
+    return members;
+}
+
 void LispEngine::setResult(Value value)
 {
     if (!m_calls.empty())
@@ -132,6 +144,11 @@ void LispEngine::returnPoint(const OdGePoint3d &point)
 void LispEngine::returnEntityName(const OdDbObjectId &object)
 {
     setResult(object.isNull() ? Value() : Value::entityName(object.number()));
+}
+
+void LispEngine::returnSelectionSet(const OdDbObjectIdArray &entities)
+{
+    setResult(entities.empty() ? Value() : toLisp(m_document.interpreter(), recordsFrom(m_document, entities)));
 }
 
 void LispEngine::returnList(OdResBufPtr chain)

@@ -24,6 +24,7 @@ public:
     void undefineFunction(const OdString &name) override;
     OdResBuf *arguments() override;
     void releaseArguments(OdResBuf *first) override;
+    OdDbObjectIdArray selectionMembers(const OdResBuf &set) const override;
     void returnNil() override;
     void returnTrue() override;
     void returnInteger(qint32 value) override;
@@ -31,6 +32,7 @@ public:
     void returnString(const OdString &value) override;
     void returnPoint(const OdGePoint3d &point) override;
     void returnEntityName(const OdDbObjectId &object) override;
+    void returnSelectionSet(const OdDbObjectIdArray &entities) override;
     void returnList(OdResBufPtr chain) override;
     void setSymbol(const OdString &name, const OdResBuf &value) override;
     bool loadFile(const OdString &path) override;

@@ -72,7 +72,8 @@ public:
 private:
     void begin(const Value &value)
     {
-        if (value.isCons() && !isPoint(value)) {
+        const bool mayBeGroup = !m_open.empty() && value.isCons() && value.car().isInteger();
+        if (value.isCons() && (mayBeGroup || !isPoint(value))) {
             m_chain.append(OdResBuf::newRb(OdResBuf::kRtListBegin));
             m_open.push_back({value});
         } else {
@@ -226,6 +227,12 @@ OdResBufPtr chainFromValues(const std::vector<Value> &values, std::vector<Value>
     for (const Value &value : values)
         writer.write(value);
     return writer.take();
+}
+
+OdResBufPtr chainFromValues(const std::vector<Value> &values)
+{
+    std::vector<Value> selections;
+    return chainFromValues(values, selections);
 }
 
 Value valueFromChain(const OdResBuf *&link, lisp::Interpreter &interpreter, const std::vector<Value> &selections)

@@ -137,7 +137,7 @@ public:
     bool beginRecord(RecordId record) override
     {
         m_isHighlighted = m_options.highlighted && m_options.highlighted->contains(record);
-        return true;
+        return !m_options.only || m_options.only->contains(record);
     }
 
     void line(std::span<const QPointF> points, const ResolvedStyle &style) override

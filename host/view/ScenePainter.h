@@ -19,6 +19,7 @@ struct PaintOptions
     bool antialias = false;                 ///< of lines; texts and areas are always smooth
     double pixelsPerMillimetre = 0.0;       ///< lines get their weight; 0: all are as thin as can be
     bool plottedOnly = false;               ///< leaves out layers that are not for plotting
+    const RecordSet *only = nullptr;        ///< draws no other records of the space than these
     const RecordSet *highlighted = nullptr; ///< records of the space drawn dashed in `highlight`
     QColor highlight{0x4f, 0xa3, 0xff};
 };

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/db/OdDbObjectId.h"
 #include "platform/kernel/OdResBuf.h"
 
 #include <memory>
@@ -58,6 +59,17 @@ public:
     virtual OdDbBlockTableRecord *openActiveLayoutBTR() = 0;
     /// Shows what was changed so far.
     virtual void flushGraphics() = 0;
+
+    /// The data of an entity or object as Lisp's (entget) shows it: by turns a group code (16-bit integer) and its
+    /// value (string, real, integer, point, entity name), the extended data of all applications with their codes from
+    /// 1001 on at the end. Null when it is erased or not of this drawing.
+    virtual OdResBufPtr entityData(const OdDbObjectId &object) const = 0;
+    /// The next entity in the order of the drawing, as (entnext) has it: the parts of a polyline or block reference
+    /// follow it and end with a SEQEND. A null id behind the last.
+    virtual OdDbObjectId nextEntity(const OdDbObjectId &entity) const = 0;
+    /// Moves entities by a vector in world coordinates, in one undo step. Gives the number of those that stayed where
+    /// they were: on locked layers, erased, or of a kind that cannot be moved.
+    virtual int moveEntities(const OdDbObjectIdArray &entities, const OdGePoint3d &by) = 0;
 };
 
 using OdDbDatabasePtr = std::shared_ptr<OdDbDatabase>;

@@ -2,6 +2,8 @@
 
 #include <QtGlobal>
 
+#include <vector>
+
 /// Names an object of an open drawing, for as long as the drawing is open; also of one that has been erased, so that it
 /// can be asked for. What the number means is the host's own.
 class OdDbObjectId
@@ -18,3 +20,5 @@ public:
 private:
     quint64 m_number = 0;
 };
+
+using OdDbObjectIdArray = std::vector<OdDbObjectId>;

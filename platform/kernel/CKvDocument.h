@@ -3,6 +3,7 @@
 #include "platform/kernel/OdResBuf.h"
 
 class CKvLispEngine;
+class CKvSelectionInput;
 class CKvUserInput;
 class OdDbDatabase;
 
@@ -16,6 +17,7 @@ public:
     /// Null before LispDocumentReady and after LispDocumentClosing.
     virtual CKvLispEngine *lispEngine() = 0;
     virtual CKvUserInput *userInput() = 0;
+    virtual CKvSelectionInput *selectionInput() = 0;
     virtual OdDbDatabase *database() = 0;
     /// The value of a system variable as text; empty for an unknown name. Names are compared without regard to case.
     virtual OdString systemVariable(const OdString &name) const = 0;

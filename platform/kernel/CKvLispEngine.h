@@ -24,6 +24,10 @@ public:
     /// Gives back the arguments from `first` on before the call ends. Null is allowed.
     virtual void releaseArguments(OdResBuf *first) = 0;
 
+    /// The members of the selection set that `set`, a link of type kRtPickSet among the arguments of the running call,
+    /// stands for. Erased ones are among them.
+    virtual OdDbObjectIdArray selectionMembers(const OdResBuf &set) const = 0;
+
     virtual void returnNil() = 0;
     virtual void returnTrue() = 0;
     virtual void returnInteger(qint32 value) = 0;
@@ -32,6 +36,8 @@ public:
     virtual void returnPoint(const OdGePoint3d &point) = 0;
     /// The Lisp entity name of `object`; nil for a null id.
     virtual void returnEntityName(const OdDbObjectId &object) = 0;
+    /// A new selection set of these entities, each of them once; nil for none.
+    virtual void returnSelectionSet(const OdDbObjectIdArray &entities) = 0;
     /// The links between a list begin (5016) and a list end (5017), with both.
     virtual void returnList(OdResBufPtr chain) = 0;
 

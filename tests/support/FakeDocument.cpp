@@ -146,6 +146,11 @@ void FakeLispEngine::returnEntityName(const OdDbObjectId &object)
     m_result = QStringLiteral("<%1>").arg(object.number());
 }
 
+void FakeLispEngine::returnSelectionSet(const OdDbObjectIdArray &entities)
+{
+    m_result = QStringLiteral("<set of %1>").arg(entities.size());
+}
+
 void FakeLispEngine::returnList(OdResBufPtr chain)
 {
     m_result = chainText(chain.get());

@@ -4,6 +4,7 @@
 #include "platform/db/OdDbEntity.h"
 #include "platform/kernel/CKvDocument.h"
 #include "platform/kernel/CKvLispEngine.h"
+#include "platform/kernel/CKvSelectionInput.h"
 #include "platform/kernel/CKvUserInput.h"
 
 #include <QHash>
@@ -57,6 +58,9 @@ public:
     void returnString(const OdString &value) override;
     void returnPoint(const OdGePoint3d &point) override;
     void returnEntityName(const OdDbObjectId &object) override;
+    /// Selection sets are not among the arguments that a test can make.
+    OdDbObjectIdArray selectionMembers(const OdResBuf &) const override { return {}; }
+    void returnSelectionSet(const OdDbObjectIdArray &entities) override;
     void returnList(OdResBufPtr chain) override;
     void setSymbol(const OdString &name, const OdResBuf &value) override;
     bool loadFile(const OdString &path) override
@@ -119,6 +123,19 @@ private:
     QString m_input;
 };
 
+/// A user who is at the prompt and never picks anything: every request is cancelled.
+class FakeSelectionInput final : public CKvSelectionInput
+{
+public:
+    int select(const KvSelectionRequest &, OdDbObjectIdArray &, OdString &) override { return kRtCancel; }
+    int keepMatching(OdDbObjectIdArray &, const OdResBuf *, OdString &) const override { return kRtNormal; }
+    int pickEntity(const OdString &, OdDbObjectId &, OdGePoint3d &) override { return kRtCancel; }
+    int drag(const OdDbObjectIdArray &, const OdGePoint3d &, const OdString &, OdGePoint3d &) override
+    {
+        return kRtCancel;
+    }
+};
+
 /// A drawing's database of nothing but extension records in the named-object dictionary, integer variables and a count
 /// of entities.
 class FakeDatabase final : public OdDbDatabase, public OdDbDictionary, public OdDbBlockTableRecord
@@ -137,6 +154,9 @@ public:
 
     OdResBufPtr getSysVar(const OdString &name) const override;
     bool setSysVar(const OdString &name, const OdResBuf &value) override;
+    OdResBufPtr entityData(const OdDbObjectId &) const override { return nullptr; }
+    OdDbObjectId nextEntity(const OdDbObjectId &) const override { return {}; }
+    int moveEntities(const OdDbObjectIdArray &entities, const OdGePoint3d &) override { return int(entities.size()); }
     OdDbXrecord *getAt(const OdString &name) override;
     OdDbXrecord *setAt(const OdString &name) override;
 
@@ -180,6 +200,7 @@ public:
 
     CKvLispEngine *lispEngine() override { return m_lisp.get(); }
     CKvUserInput *userInput() override { return &m_input; }
+    CKvSelectionInput *selectionInput() override { return &m_selection; }
     OdDbDatabase *database() override { return m_ownDatabase ? m_ownDatabase.get() : &m_database; }
     OdString systemVariable(const OdString &name) const override { return m_variables.value(name.toLower()); }
     OdGePoint3d userToWorld(const OdGePoint3d &point) const override;
@@ -188,6 +209,7 @@ public:
 private:
     std::unique_ptr<FakeLispEngine> m_lisp = std::make_unique<FakeLispEngine>();
     FakeUserInput m_input;
+    FakeSelectionInput m_selection;
     FakeDatabase m_database;
     OdDbDatabasePtr m_ownDatabase;
     QHash<QString, QString> m_variables;

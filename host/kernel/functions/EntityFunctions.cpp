@@ -19,11 +19,6 @@ using drawing::RecordKind;
 using lisp::Arguments;
 using lisp::Value;
 
-bool isEntityKind(RecordKind kind)
-{
-    return kind == RecordKind::Entity || kind == RecordKind::Child || kind == RecordKind::EndChildren;
-}
-
 /// Runs `body`, turning a bad entity list into the dialect's error.
 template <typename Body>
 Value checkedList(Arguments &args, Body &&body)
@@ -161,8 +156,8 @@ Value entnext(Arguments &args)
 {
     const drawing::Drawing &drawing = documentOf(args).drawing();
     const RecordId next =
-        args.has(0) ? drawing.next(recordAt(args, 0)) : drawing.entities().nextOfAll(drawing::noRecord);
-    return isValid(next) && isEntityKind(drawing.kind(next)) ? toLisp(next) : Value();
+        args.has(0) ? entityBehind(drawing, recordAt(args, 0)) : drawing.entities().nextOfAll(drawing::noRecord);
+    return isValid(next) ? toLisp(next) : Value();
 }
 
 // (handent handle) -> the entity name of a handle, nil when the drawing never had it.

@@ -281,6 +281,18 @@ bool isEntityNameCode(int code)
     return (code >= 330 && code <= 369) || (code >= 390 && code <= 399) || code == 480 || code == 481;
 }
 
+bool isEntityKind(drawing::RecordKind kind)
+{
+    using drawing::RecordKind;
+    return kind == RecordKind::Entity || kind == RecordKind::Child || kind == RecordKind::EndChildren;
+}
+
+RecordId entityBehind(const drawing::Drawing &drawing, RecordId entity)
+{
+    const RecordId next = drawing.next(entity);
+    return isValid(next) && isEntityKind(drawing.kind(next)) ? next : drawing::noRecord;
+}
+
 AngleForm angleForm(const drawing::Drawing &drawing, RecordId record)
 {
     return drawing.kind(record) == drawing::RecordKind::Object ? AngleForm::Degrees : AngleForm::Radians;

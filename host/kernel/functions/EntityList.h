@@ -30,6 +30,11 @@ lisp::Value toListItem(const Document &document, const drawing::Field &field, An
 /// Back; throws EntityListError. Items with the codes -1 and -3 are the caller's business.
 drawing::Field fromListItem(const Document &document, const lisp::Value &item, AngleForm angles);
 
+/// An entity, a part of one, or the end of its parts.
+bool isEntityKind(drawing::RecordKind kind);
+/// The entity behind another, going into its parts; in a block up to its end. noRecord behind the last.
+drawing::RecordId entityBehind(const drawing::Drawing &drawing, drawing::RecordId entity);
+
 /// How programs see the angles of a record.
 AngleForm angleForm(const drawing::Drawing &drawing, drawing::RecordId record);
 

@@ -18,12 +18,7 @@ using lisp::Value;
 
 PromptReply pickEntity(Arguments &args, const QString &usualPrompt)
 {
-    UserInput &prompts = documentOf(args).prompts();
-    PromptRequest request;
-    request.kind = PromptKind::Entity;
-    prompts.applyOptions(request);
-    request.prompt = args.has(0) ? stringAt(args, 0) : usualPrompt;
-    const PromptReply reply = prompts.ask(request);
+    const PromptReply reply = documentOf(args).prompts().askForEntity(args.has(0) ? stringAt(args, 0) : usualPrompt);
     if (reply.kind == ReplyKind::Cancelled)
         throw lisp::Error::cancelled();
     return reply;

@@ -255,6 +255,7 @@ PromptDialogue::Reading PromptDialogue::pickAt(const Vec3 &world)
     else if (m_request.kind == PromptKind::Entity) {
         m_document.variables().setInternally(u"ERRNO", pickMissed);
         reply.kind = ReplyKind::Empty;
+        reply.isMiss = true;
     }
     return {reply, {}};
 }

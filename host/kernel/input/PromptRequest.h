@@ -6,8 +6,10 @@
 #include <QString>
 #include <QStringList>
 
+#include <memory>
 #include <optional>
 #include <variant>
+#include <vector>
 
 namespace host::kernel {
 
@@ -51,6 +53,8 @@ struct PromptRequest
     std::optional<drawing::Vec3> base; ///< where a rubber band starts; world coordinates
     bool allowSpaces = false;          ///< String: blanks belong to the answer
     bool forCommand = false;           ///< asked by a command rather than by a Lisp program
+    /// Point: these hang at the pointer by `base`; null for none.
+    std::shared_ptr<const std::vector<drawing::RecordId>> dragged{};
 };
 
 /// Text as one whole answer: what a line edit or a recorded session hands over. Blanks do not split it.

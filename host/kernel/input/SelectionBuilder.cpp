@@ -23,15 +23,13 @@ const QStringList &selectionWords()
 } // namespace
 
 SelectionBuilder::SelectionBuilder(Document &document, SelectionSize size, std::function<bool(RecordId)> accepts)
-    : m_document(document), m_size(size), m_accepts(std::move(accepts)), m_adding(QStringLiteral("\nSelect objects: ")),
-      m_removing(QStringLiteral("\nRemove objects: "))
+    : m_document(document), m_size(size), m_accepts(std::move(accepts))
 {
 }
 
-void SelectionBuilder::setPrompts(const QString &adding, const QString &removing)
+void SelectionBuilder::setPrompt(const QString &prompt)
 {
-    m_adding = adding;
-    m_removing = removing;
+    m_prompt = prompt;
 }
 
 bool SelectionBuilder::isPolygon() const
@@ -46,7 +44,7 @@ PromptRequest SelectionBuilder::request() const
     request.bits = OutsideLimits;
     if (!m_shape) {
         request.kind = PromptKind::Selection;
-        request.prompt = m_isRemoving ? m_removing : m_adding;
+        request.prompt = m_isRemoving ? QStringLiteral("\nRemove objects: ") : m_prompt;
         request.keywords = selectionWords();
         return request;
     }

@@ -27,8 +27,8 @@ public:
     explicit SelectionBuilder(Document &document, SelectionSize size = SelectionSize::Many,
                               std::function<bool(drawing::RecordId)> accepts = {});
 
-    /// Other prompts than "Select objects: " and "Remove objects: ".
-    void setPrompts(const QString &adding, const QString &removing);
+    /// Another prompt than "Select objects: " while entities are added.
+    void setPrompt(const QString &prompt);
     /// The request for the next step, with its prompt.
     PromptRequest request() const;
     /// Puts a reply in and tells the user how many were found.
@@ -50,8 +50,7 @@ private:
     Document &m_document;
     SelectionSize m_size;
     std::function<bool(drawing::RecordId)> m_accepts;
-    QString m_adding;
-    QString m_removing;
+    QString m_prompt = QStringLiteral("\nSelect objects: ");
     std::vector<drawing::RecordId> m_entities;
     QSet<quint32> m_members;
     std::vector<std::vector<drawing::RecordId>> m_before; ///< for Undo: the selection before each step

@@ -129,6 +129,26 @@ int UserInput::askFor(PromptRequest request, PromptReply &reply)
     return kRtCancel;
 }
 
+PromptReply UserInput::askForEntity(const QString &prompt)
+{
+    PromptReply reply;
+    askFor(requestFor(PromptKind::Entity, prompt), reply);
+    return reply;
+}
+
+int UserInput::dragToPoint(const QString &prompt, const drawing::Vec3 &base, std::vector<drawing::RecordId> entities,
+                           drawing::Vec3 &point)
+{
+    PromptRequest request = requestFor(PromptKind::Point, prompt);
+    request.base = base;
+    request.dragged = std::make_shared<const std::vector<drawing::RecordId>>(std::move(entities));
+    PromptReply reply;
+    const int result = askFor(std::move(request), reply);
+    if (reply.hasValue())
+        point = reply.point;
+    return result;
+}
+
 int UserInput::getInteger(const OdString &prompt, bool hasDefault, qint32 &value)
 {
     PromptRequest request = requestFor(PromptKind::Integer, prompt);

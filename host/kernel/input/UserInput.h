@@ -29,6 +29,11 @@ public:
     /// Puts bits and keywords of the last initget() into `request` and forgets them.
     void applyOptions(PromptRequest &request);
     void forgetOptions();
+    /// Asks for one entity, with the options of the last initget(); a keyword becomes input().
+    PromptReply askForEntity(const QString &prompt);
+    /// Asks for a point while `entities` hang at the pointer by `base`. Otherwise as getPoint().
+    int dragToPoint(const QString &prompt, const drawing::Vec3 &base, std::vector<drawing::RecordId> entities,
+                    drawing::Vec3 &point);
 
     void initget(int bits, const QStringList &keywords) override;
     OdString formatPrompt(const OdString &prompt, const OdString &defaultText) const override;
