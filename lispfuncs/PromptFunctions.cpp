@@ -1,13 +1,13 @@
 #include "lispfuncs/PromptFunctions.h"
 
+#include "lispfuncs/ArgumentValues.h"
 #include "lispfuncs/AskUser.h"
+#include "lispfuncs/LispCall.h"
 #include "platform/kernel/CKvDocument.h"
 #include "platform/kernel/CKvLispEngine.h"
 #include "platform/kernel/CKvUserInput.h"
 
 namespace ortakit {
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -60,19 +60,12 @@ int giveAnswer(CKvDocument &document, CKvLispEngine &lisp, PromptKind kind, cons
 
 int prompt(PromptKind kind)
 {
-    CKvDocument *document = ACTIVE_DOCUMENT();
-    CKvLispEngine *lisp = document ? document->lispEngine() : nullptr;
-    if (!lisp || !document->userInput())
+    const std::optional<LispCall> call = beginCall();
+    if (!call)
         return kRtError;
-    lisp->setSymbol(u"LispCanceled"_s, *OdResBuf::newInteger(OdResBuf::kRtShort, 0));
-    PromptRequest request = readRequest(kind, lisp->arguments(), *document);
+    PromptRequest request = readRequest(kind, call->lisp.arguments(), call->document);
     request.optionBits = sharedOptionBits;
-    return giveAnswer(*document, *lisp, kind, askUser(*document->userInput(), request));
-}
-
-bool isInteger(const OdResBuf *argument)
-{
-    return argument && (argument->restype() == OdResBuf::kRtShort || argument->restype() == OdResBuf::kRtLong);
+    return giveAnswer(call->document, call->lisp, kind, askUser(*call->document.userInput(), request));
 }
 
 } // namespace

@@ -2,8 +2,11 @@
 
 #include "lispfuncs/BackupFolder.h"
 #include "lispfuncs/LicenceState.h"
+#include "lispfuncs/EntityFunctions.h"
+#include "lispfuncs/KeywordPrompts.h"
 #include "lispfuncs/PromptFunctions.h"
 #include "lispfuncs/RemoteText.h"
+#include "lispfuncs/SelectionFunctions.h"
 #include "module/DialogFunctions.h"
 #include "module/ExceptionGuard.h"
 #include "module/UnavailableFunction.h"
@@ -48,14 +51,14 @@ constexpr LispFunctionTable lispFunctionTable = {{
     function<"Dlg_MakeShape", dlgMakeShape>(),
     function<"Dlg_MultiViewSetup", dlgMultiViewSetup>(),
     function<"c:setbackupfolder", setBackupFolder>(OnClose::Keep),
-    function<"KORA_entfield">(),
-    function<"KORA_ssget">(),
-    function<"KORA_getpoint">(),
-    function<"KORA_getstring">(),
-    function<"KORA_getkword">(),
-    function<"KORA_EntSel">(),
+    function<"KORA_entfield", koraEntField>(),
+    function<"KORA_ssget", koraSsget>(),
+    function<"KORA_getpoint", koraGetPoint>(),
+    function<"KORA_getstring", koraGetString>(),
+    function<"KORA_getkword", koraGetKword>(),
+    function<"KORA_EntSel", koraEntSel>(),
     function<"KORA_IsItDemoVersion", isItDemoVersion>(),
-    function<"KORA_ssget_filter">(),
+    function<"KORA_ssget_filter", koraSsgetFilter>(),
     function<"initgetOrtakit", initgetOrtakit>(),
     function<"getPointOrtakit", getPointOrtakit>(),
     function<"getIntOrtakit", getIntOrtakit>(),
@@ -65,7 +68,7 @@ constexpr LispFunctionTable lispFunctionTable = {{
     function<"getDistOrtakit", getDistOrtakit>(),
     function<"getAngleOrtakit", getAngleOrtakit>(),
     function<"getCornerOrtakit", getCornerOrtakit>(),
-    function<"acet-ss-drag-move">(),
+    function<"acet-ss-drag-move", acetSsDragMove>(),
 }};
 
 void defineFunctions(CKvLispEngine &lisp)
