@@ -6,7 +6,11 @@
 #include <QDataStream>
 #include <QSet>
 
+#include <algorithm>
+
 namespace ortakit {
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -29,17 +33,58 @@ void writeValue(QDataStream &out, const OdResBuf &value)
         << point.z;
 }
 
+struct Group
+{
+    int code;
+    const OdResBuf *value;
+};
+
+/// Types whose groups mean the same in whatever order they come, those of one code aside.
+bool isOrderFree(const QString &type)
+{
+    static const QSet<QString> types = {u"3DFACE"_s,    u"ARC"_s,     u"ATTDEF"_s,   u"ATTRIB"_s, u"CIRCLE"_s,
+                                        u"DIMENSION"_s, u"ELLIPSE"_s, u"INSERT"_s,   u"LINE"_s,   u"LWPOLYLINE"_s,
+                                        u"MTEXT"_s,     u"POINT"_s,   u"POLYLINE"_s, u"RAY"_s,    u"SEQEND"_s,
+                                        u"SHAPE"_s,     u"SOLID"_s,   u"TEXT"_s,     u"TRACE"_s,  u"VERTEX"_s,
+                                        u"VIEWPORT"_s,  u"XLINE"_s};
+    return types.contains(type);
+}
+
+/// What every entity has, and programs write in different places.
+bool isProperty(int code)
+{
+    constexpr int codes[] = {6, 8, 48, 60, 62, 67, 210, 370, 410, 420, 430, 440};
+    return std::ranges::find(codes, code) != std::end(codes);
+}
+
+/// Brings groups into an order that does not depend on who wrote the entity, without making different ones the same.
+void arrange(std::vector<Group> &groups, const QString &type)
+{
+    constexpr int xdata = 1000;
+    constexpr int inOrder = xdata - 1;
+    const bool areFree = isOrderFree(type);
+    const auto rank = [areFree](const Group &group) {
+        if (group.code >= xdata)
+            return xdata;
+        return areFree || isProperty(group.code) ? group.code : inOrder;
+    };
+    std::ranges::stable_sort(groups, {}, rank);
+}
+
 void writeEntity(QDataStream &out, const EntityData &data, Owner owner)
 {
+    std::vector<Group> groups;
     bool isOwnerPast = owner == Owner::Counts;
     data.visit([&](int code, const OdResBuf &value) {
-        if (code == nameCode || code == handleCode)
-            return;
-        if (code == ownerCode && !std::exchange(isOwnerPast, true))
-            return;
-        out << code;
-        writeValue(out, value);
+        const bool isOwner = code == ownerCode && !std::exchange(isOwnerPast, true);
+        if (code != nameCode && code != handleCode && !isOwner)
+            groups.push_back({code, &value});
     });
+    arrange(groups, data.type());
+    for (const Group &group : groups) {
+        out << group.code;
+        writeValue(out, *group.value);
+    }
 }
 
 /// What an entity and its parts are, as a digest: a large drawing's worth of these is to fit into memory.

@@ -128,8 +128,8 @@ TEST_F(Module, HostsWithoutDocumentsGetTheEditorReactor)
 TEST_F(Module, FunctionsThatAreNotBuiltSaySo)
 {
     m_module->initApp();
-    EXPECT_EQ(m_first->lisp().call(u"kora_ssget"_s, {u"x"_s}), kRtError);
-    EXPECT_EQ(m_first->lisp().printed(), u"\nKORA_ssget is not available in this build.");
+    EXPECT_EQ(m_first->lisp().call(u"dlg_mergesheets"_s, {u"x"_s}), kRtError);
+    EXPECT_EQ(m_first->lisp().printed(), u"\nDlg_MergeSheets is not available in this build.");
     EXPECT_EQ(m_first->lisp().result(), u"");
 }
 
