@@ -3,6 +3,7 @@
 #include "host/app/CommandLine.h"
 #include "host/app/DrawingCanvas.h"
 #include "host/app/Preferences.h"
+#include "host/kernel/input/UserInput.h"
 #include "platform/kernel/CKvUtils.h"
 #include "tests/app/AppFixture.h"
 #include "tests/support/ModalAnswers.h"
@@ -166,6 +167,45 @@ TEST_F(MainWindowTest, PromptsAreAnsweredByLineAndCanvas)
     window->enter(u"(setq s (sslength (ssget)))"_s);
     EXPECT_EQ(lisp(u"s"_s), u"3"_s);
     EXPECT_EQ(window->commandLine().prompt(), u"Command:"_s);
+}
+
+TEST_F(MainWindowTest, DraggedEntitiesHangAtThePointer)
+{
+    kernel::Document &document = *window->document();
+    const drawing::RecordId line = document.drawing().find(drawing::Handle{0x2A});
+    /// Whether something is drawn within a pixel of the place.
+    const auto isDrawn = [this](double x, double y) {
+        const QImage picture = window->canvas()->grab().toImage();
+        const QPoint at = onScreen(x, y).toPoint();
+        const QRect around(at.x() - 1, at.y() - 1, 3, 3);
+        const QRgb ground = picture.pixel(2, 2);
+        const QImage part = picture.copy(around);
+        for (int i = 0; i < 9; ++i)
+            if (part.pixel(i % 3, i / 3) != ground)
+                return true;
+        return false;
+    };
+    meanwhile([&] {
+        // Held two below itself, the line is two above the pointer, clear of the crosshair.
+        mouse(QEvent::MouseMove, 1.0, 4.5);
+        EXPECT_TRUE(isDrawn(6.0, 6.5));
+        EXPECT_FALSE(isDrawn(6.0, 7.5));
+        mouse(QEvent::MouseMove, 1.0, 5.5);
+        EXPECT_FALSE(isDrawn(6.0, 6.5));
+        EXPECT_TRUE(isDrawn(6.0, 7.5));
+        window->canvas()->zoomBy(0.5);
+        mouse(QEvent::MouseMove, 1.0, 5.5);
+        EXPECT_TRUE(isDrawn(6.0, 7.5));
+        click(1.0, 5.5);
+    });
+    drawing::Vec3 point;
+    document.runAs(u"DRAG"_s, [&] {
+        EXPECT_EQ(document.prompts().dragToPoint(u"\nTo: "_s, {0.0, -2.0, 0.0}, {line}, point), kRtNormal);
+    });
+    EXPECT_NEAR(point.y, 5.5, 0.1);
+    EXPECT_FALSE(document.isModified());
+    mouse(QEvent::MouseMove, 1.0, 5.5);
+    EXPECT_FALSE(isDrawn(6.0, 7.5));
 }
 
 TEST_F(MainWindowTest, EscCancelsPromptsAndStopsEndlessLoops)
