@@ -147,6 +147,8 @@ void KeywordRequest::setOptions(CKvUserInput &input) const
 
 OdString KeywordRequest::shown(const CKvUserInput &input) const
 {
+    if (prompt.isEmpty() && keywords.isEmpty() && defaultText.isEmpty())
+        return {};
     if (options.isEmpty())
         return u'\n' + input.formatPrompt(prompt, defaultText);
     QString text = u"\n%1 [%2]"_s.arg(prompt, options);

@@ -23,7 +23,8 @@ struct KeywordRequest
 
     /// Hands bits and keywords to the host where there are any; otherwise those of an earlier (initget) stay in force.
     void setOptions(CKvUserInput &input) const;
-    /// The prompt on a line of its own, as it is shown. After setOptions().
+    /// The prompt on a line of its own, as it is shown; empty when the program gave nothing to show. After
+    /// setOptions().
     OdString shown(const CKvUserInput &input) const;
 };
 
