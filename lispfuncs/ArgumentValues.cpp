@@ -1,5 +1,8 @@
 #include "lispfuncs/ArgumentValues.h"
 
+#include "lispfuncs/LispCall.h"
+#include "lispfuncs/PromptText.h"
+
 namespace ortakit {
 
 namespace {
@@ -80,6 +83,15 @@ std::optional<OdGePoint3d> pointIn(const OdResBuf *value)
     if (hasType(value, OdResBuf::kRtPoint) || hasType(value, OdResBuf::kRtPoint3d))
         return value->getPoint3d();
     return isList(value) ? pointInList(value) : std::nullopt;
+}
+
+QString promptIn(const OdResBuf *value)
+{
+    if (isString(value))
+        return parsePrompt(value->getString()).given.trimmed();
+    if (!isNil(value))
+        failArgument("the prompt is a string or nil");
+    return {};
 }
 
 std::optional<OdDbObjectId> entityIn(const OdResBuf *value)

@@ -23,6 +23,8 @@ bool isList(const OdResBuf *value);
 
 /// A point, or a list of two or three numbers, as which points with nothing but integers arrive.
 std::optional<OdGePoint3d> pointIn(const OdResBuf *value);
+/// The prompt in a string, without line breaks in front of it; empty for nil. Throws ArgumentError for anything else.
+QString promptIn(const OdResBuf *value);
 /// An entity name, or the first item of a list that begins with one, as picking functions give it.
 std::optional<OdDbObjectId> entityIn(const OdResBuf *value);
 

@@ -1,19 +1,13 @@
 #include "lispfuncs/AskUser.h"
 
+#include "lispfuncs/Translated.h"
 #include "platform/kernel/CKvUserInput.h"
-
-#include <QCoreApplication>
 
 #include <algorithm>
 
 namespace ortakit {
 
 namespace {
-
-QString translated(const char *text)
-{
-    return QCoreApplication::translate("LispExtension", text);
-}
 
 void offerDefaultAsKeyword(CKvUserInput &input, const PromptRequest &request)
 {

@@ -3,8 +3,6 @@
 #include "lispfuncs/ArgumentValues.h"
 #include "lispfuncs/LispCall.h"
 
-#include <QCoreApplication>
-
 namespace ortakit {
 
 namespace {
@@ -31,8 +29,7 @@ EntityFilter::EntityFilter(const OdResBuf *value)
     } else if (isList(value)) {
         m_list = value;
     } else if (!isNil(value) && !isString(value)) {
-        throw ArgumentError{
-            QCoreApplication::translate("LispExtension", "a filter is a list or a string of type names")};
+        failArgument("a filter is a list or a string of type names");
     }
 }
 

@@ -5,8 +5,6 @@
 #include "lispfuncs/EntityFields.h"
 #include "lispfuncs/LispCall.h"
 
-#include <QCoreApplication>
-
 namespace ortakit {
 
 using namespace Qt::StringLiterals;
@@ -14,11 +12,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int tagCode = 2;
-
-[[noreturn]] void fail(const char *text)
-{
-    throw ArgumentError{QCoreApplication::translate("LispExtension", text)};
-}
 
 /// The attribute of a block reference that has a tag; null when there is none.
 OdDbObjectId attributeOf(const OdDbDatabase &database, const OdDbObjectId &insert, const QString &tag)
@@ -83,11 +76,11 @@ int entField(LispCall &call)
     const OdResBuf *tag = behindValue(field);
     std::optional<OdDbObjectId> object = entityIn(entity);
     if (!object)
-        fail("the first argument is no entity");
+        failArgument("the first argument is no entity");
     if (!isNil(tag) && !isString(tag))
-        fail("the tag is a string");
+        failArgument("the tag is a string");
     if (!isInteger(field) && !isString(field) && !(isNil(field) && isString(tag)))
-        fail("a field is a group code or a name");
+        failArgument("a field is a group code or a name");
     const OdDbDatabase &database = *call.document.database();
     if (isString(tag))
         object = attributeOf(database, *object, tag->getString());

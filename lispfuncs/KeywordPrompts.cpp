@@ -2,9 +2,8 @@
 
 #include "lispfuncs/KeywordRequest.h"
 #include "lispfuncs/LispCall.h"
+#include "lispfuncs/Translated.h"
 #include "platform/kernel/CKvUserInput.h"
-
-#include <QCoreApplication>
 
 namespace ortakit {
 
@@ -54,7 +53,7 @@ int getKword(LispCall &call)
 {
     KeywordRequest request = begin(call, PromptKind::Keyword);
     if (request.prompt.isEmpty())
-        request.prompt = QCoreApplication::translate("LispExtension", "Specify option");
+        request.prompt = translated("Specify option");
     CKvUserInput &input = *call.document.userInput();
     OdString text = request.defaultText;
     const int code = input.getKeyword(request.shown(input), text);

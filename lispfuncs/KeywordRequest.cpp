@@ -5,8 +5,6 @@
 #include "lispfuncs/LispCall.h"
 #include "platform/kernel/CKvUserInput.h"
 
-#include <QCoreApplication>
-
 #include <algorithm>
 
 namespace ortakit {
@@ -14,11 +12,6 @@ namespace ortakit {
 using namespace Qt::StringLiterals;
 
 namespace {
-
-[[noreturn]] void fail(const char *text)
-{
-    throw ArgumentError{QCoreApplication::translate("LispExtension", text)};
-}
 
 /// Strings, T and nil among the arguments, in their order.
 using Words = std::vector<const OdResBuf *>;
@@ -36,7 +29,7 @@ Words takeNumbers(PromptKind kind, const OdResBuf *arguments, const CKvDocument 
         else if (isString(value) || isNil(value) || (isTrue(value) && kind == PromptKind::String))
             words.push_back(value);
         else
-            fail("an argument is of a type that does not fit");
+            failArgument("an argument is of a type that does not fit");
     }
     return words;
 }
@@ -123,7 +116,7 @@ KeywordRequest KeywordRequest::read(PromptKind kind, const OdResBuf *arguments, 
     KeywordRequest request;
     const QStringList texts = textsFor(kind, takeNumbers(kind, arguments, document, request), request);
     if (texts.size() > mostTexts(kind))
-        fail("there are more strings than the function takes");
+        failArgument("there are more strings than the function takes");
     const PromptText prompt = parsePrompt(texts.value(1));
     request.prompt = prompt.cleaned.trimmed();
     request.keywords = splitKeywords(texts.value(0));

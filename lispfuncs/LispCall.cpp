@@ -1,5 +1,6 @@
 #include "lispfuncs/LispCall.h"
 
+#include "lispfuncs/Translated.h"
 #include "platform/kernel/CKvUserInput.h"
 
 namespace ortakit {
@@ -15,11 +16,16 @@ void setCancelled(CKvLispEngine &lisp, bool isCancelled)
 
 } // namespace
 
+void failArgument(const char *text)
+{
+    throw ArgumentError{translated(text)};
+}
+
 std::optional<LispCall> beginCall()
 {
     CKvDocument *document = ACTIVE_DOCUMENT();
     CKvLispEngine *lisp = document ? document->lispEngine() : nullptr;
-    if (!lisp || !document->userInput() || !document->selectionInput())
+    if (!lisp || !document->userInput())
         return std::nullopt;
     setCancelled(*lisp, false);
     return LispCall{*document, *lisp};

@@ -21,6 +21,9 @@ struct ArgumentError
     QString text;
 };
 
+/// Throws the ArgumentError of a text, in the user's language.
+[[noreturn]] void failArgument(const char *text);
+
 /// The running call, with the Lisp variable LispCanceled set to 0; nothing without a document, its engine or its user
 /// input.
 std::optional<LispCall> beginCall();

@@ -4,11 +4,9 @@
 #include "lispfuncs/EntityData.h"
 #include "lispfuncs/Keywords.h"
 #include "lispfuncs/LispCall.h"
-#include "lispfuncs/PromptText.h"
 #include "lispfuncs/SelectionRequest.h"
+#include "lispfuncs/Translated.h"
 #include "platform/kernel/CKvUserInput.h"
-
-#include <QCoreApplication>
 
 namespace ortakit {
 
@@ -16,17 +14,12 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString translated(const char *text)
-{
-    return QCoreApplication::translate("LispExtension", text);
-}
-
 int ssget(LispCall &call)
 {
     SelectionRequest request;
     const OdResBuf *prompt = call.lisp.arguments();
     const OdResBuf *mode = behindValue(prompt);
-    request.takePrompt(prompt);
+    request.prompt = promptIn(prompt);
     request.takeMode(mode);
     request.takePointsAndFilter(behindValue(mode), call.document);
     return giveSelection(call, request);
@@ -39,8 +32,8 @@ int ssgetFilter(LispCall &call)
     const OdResBuf *prompt = behindValue(filter);
     const OdResBuf *modeOrSet = behindValue(prompt);
     if (!filter)
-        throw ArgumentError{translated("the filter is missing")};
-    request.takePrompt(prompt);
+        failArgument("the filter is missing");
+    request.prompt = promptIn(prompt);
     if (modeOrSet && modeOrSet->restype() == OdResBuf::kRtPickSet)
         request.set = modeOrSet;
     else
@@ -62,11 +55,9 @@ PickRequest readPickRequest(const OdResBuf *prompt)
 {
     const OdResBuf *filter = behindValue(prompt);
     const OdResBuf *keywords = behindValue(filter);
-    if ((!isNil(prompt) && !isString(prompt)) || (!isNil(keywords) && !isString(keywords)) || behindValue(keywords))
-        throw ArgumentError{translated("the arguments are a prompt, a filter and keywords")};
-    PickRequest request{.prompt = {}, .filter = EntityFilter(filter), .keywords = {}};
-    if (isString(prompt))
-        request.prompt = parsePrompt(prompt->getString()).given.trimmed();
+    if ((!isNil(keywords) && !isString(keywords)) || behindValue(keywords))
+        failArgument("the arguments are a prompt, a filter and keywords");
+    PickRequest request{.prompt = promptIn(prompt), .filter = EntityFilter(filter), .keywords = {}};
     if (request.prompt.isEmpty())
         request.prompt = translated("Select object");
     if (isString(keywords))
@@ -136,54 +127,6 @@ int entSel(LispCall &call)
     }
 }
 
-/// What (acet-ss-drag-move) was called with.
-struct DragRequest
-{
-    OdDbObjectIdArray entities;
-    OdGePoint3d base; ///< world coordinates
-    QString prompt;
-    bool moves = false;
-};
-
-DragRequest readDragRequest(const LispCall &call)
-{
-    const OdResBuf *set = call.lisp.arguments();
-    const OdResBuf *base = behindValue(set);
-    const OdResBuf *prompt = behindValue(base);
-    const std::optional<OdGePoint3d> point = pointIn(base);
-    if (!set || set->restype() != OdResBuf::kRtPickSet || !point || (!isNil(prompt) && !isString(prompt)))
-        throw ArgumentError{translated("the arguments are a selection set, a point and a prompt")};
-    DragRequest request{.entities = call.lisp.selectionMembers(*set),
-                        .base = call.document.userToWorld(*point),
-                        .prompt = isString(prompt) ? parsePrompt(prompt->getString()).given.trimmed() : QString(),
-                        .moves = !isNil(behindValue(prompt))};
-    if (request.prompt.isEmpty())
-        request.prompt = translated("Specify second point");
-    return request;
-}
-
-void moveEntities(LispCall &call, const DragRequest &request, const OdGePoint3d &to)
-{
-    const OdGePoint3d by = {to.x - request.base.x, to.y - request.base.y, to.z - request.base.z};
-    const int left = call.document.database()->moveEntities(request.entities, by);
-    if (left > 0)
-        call.lisp.print(translated("\n%1 could not be moved.").arg(left));
-}
-
-int dragMove(LispCall &call)
-{
-    const DragRequest request = readDragRequest(call);
-    const OdString prompt = u'\n' + call.document.userInput()->formatPrompt(request.prompt, {});
-    OdGePoint3d to;
-    const int code = call.document.selectionInput()->drag(request.entities, request.base, prompt, to);
-    if (code != kRtNormal)
-        return giveNoValue(call, code);
-    if (request.moves)
-        moveEntities(call, request, to);
-    call.lisp.returnPoint(call.document.worldToUser(to));
-    return kRtNormal;
-}
-
 } // namespace
 
 int koraSsget()
@@ -199,11 +142,6 @@ int koraSsgetFilter()
 int koraEntSel()
 {
     return runCall("KORA_EntSel", entSel);
-}
-
-int acetSsDragMove()
-{
-    return runCall("acet-ss-drag-move", dragMove);
 }
 
 } // namespace ortakit

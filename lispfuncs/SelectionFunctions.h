@@ -12,8 +12,6 @@ int koraSsget();
 int koraSsgetFilter();
 /// (KORA_EntSel [prompt [filter [keywords]]])
 int koraEntSel();
-/// (acet-ss-drag-move set base [prompt [move]])
-int acetSsDragMove();
 /// @}
 
 } // namespace ortakit

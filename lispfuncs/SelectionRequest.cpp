@@ -3,21 +3,13 @@
 #include "lispfuncs/ArgumentValues.h"
 #include "lispfuncs/EntityDuplicates.h"
 #include "lispfuncs/LispCall.h"
-#include "lispfuncs/PromptText.h"
 #include "platform/kernel/CKvUserInput.h"
-
-#include <QCoreApplication>
 
 namespace ortakit {
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-QString translated(const char *text)
-{
-    return QCoreApplication::translate("LispExtension", text);
-}
 
 /// A list whose first item is a point.
 bool isPointList(const OdResBuf *value)
@@ -32,7 +24,7 @@ void appendPoints(const OdResBuf *list, const CKvDocument &document, std::vector
     for (; item && item->restype() != OdResBuf::kRtListEnd; item = behindValue(item)) {
         const std::optional<OdGePoint3d> point = pointIn(item);
         if (!point)
-            throw ArgumentError{translated("the list of points has something else in it")};
+            failArgument("the list of points has something else in it");
         points.push_back(document.userToWorld(*point));
     }
 }
@@ -67,20 +59,12 @@ int choose(LispCall &call, const SelectionRequest &request, OdDbObjectIdArray &e
 
 } // namespace
 
-void SelectionRequest::takePrompt(const OdResBuf *value)
-{
-    if (isString(value))
-        prompt = parsePrompt(value->getString()).given.trimmed();
-    else if (!isNil(value))
-        throw ArgumentError{translated("the prompt is a string or nil")};
-}
-
 void SelectionRequest::takeMode(const OdResBuf *value)
 {
     if (isNil(value))
         return;
     if (!isString(value))
-        throw ArgumentError{translated("the selection mode is a string or nil")};
+        failArgument("the selection mode is a string or nil");
     QStringList parts = value->getString().split(u':');
     const auto isDuplicateFlag = [](const QString &part) { return part.compare(u"D"_s, Qt::CaseInsensitive) == 0; };
     for (qsizetype i = parts.size() - 1; i > 0; --i) {

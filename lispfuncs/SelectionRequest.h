@@ -26,9 +26,8 @@ struct SelectionRequest
     EntityFilter filter;
     const OdResBuf *set = nullptr; ///< chooses from this selection set and asks nobody
 
-    /// Takes the prompt in `value`, a string or nil, as the program wrote it. Throws ArgumentError, as do the others.
-    void takePrompt(const OdResBuf *value);
     /// Takes the mode in `value`, a string or nil. ":D", which leaves out duplicates, is no business of the host.
+    /// Throws ArgumentError, as does the other.
     void takeMode(const OdResBuf *value);
     /// Takes what is behind the mode: points in user coordinates, lists of them and a filter.
     void takePointsAndFilter(const OdResBuf *first, const CKvDocument &document);

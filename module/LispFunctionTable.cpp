@@ -2,6 +2,7 @@
 
 #include "lispfuncs/BackupFolder.h"
 #include "lispfuncs/LicenceState.h"
+#include "lispfuncs/DragFunction.h"
 #include "lispfuncs/EntityFunctions.h"
 #include "lispfuncs/KeywordPrompts.h"
 #include "lispfuncs/PromptFunctions.h"
