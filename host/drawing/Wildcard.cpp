@@ -133,13 +133,15 @@ bool matchesOne(QStringView text, QStringView pattern, Qt::CaseSensitivity sensi
     return position == pattern.size();
 }
 
-/// Length of the pattern up to the next comma outside brackets and not behind a backquote.
-qsizetype patternLength(QStringView patterns)
+/// Length of the pattern up to the next comma outside brackets and not behind a backquote. `lastClose` is where the
+/// last closing bracket is: one that opens behind it is not looked for again and again.
+qsizetype patternLength(QStringView patterns, qsizetype lastClose)
 {
     for (qsizetype i = 0; i < patterns.size();) {
         if (patterns[i] == u',')
             return i;
-        if (patterns[i] == star)
+        const bool staysOpen = patterns[i] == u'[' && i > lastClose;
+        if (patterns[i] == star || staysOpen)
             ++i;
         else
             readElement(patterns, i);
@@ -151,8 +153,9 @@ qsizetype patternLength(QStringView patterns)
 
 bool matchesWildcard(QStringView text, QStringView pattern, Qt::CaseSensitivity sensitivity)
 {
+    qsizetype lastClose = pattern.lastIndexOf(u']');
     while (true) {
-        const qsizetype length = patternLength(pattern);
+        const qsizetype length = patternLength(pattern, lastClose);
         const QStringView one = pattern.left(length);
         const bool isOpposite = one.startsWith(u'~');
         if (matchesOne(text, one.mid(isOpposite ? 1 : 0), sensitivity) != isOpposite)
@@ -160,6 +163,7 @@ bool matchesWildcard(QStringView text, QStringView pattern, Qt::CaseSensitivity 
         if (length == pattern.size())
             return false;
         pattern = pattern.mid(length + 1);
+        lastClose -= length + 1;
     }
 }
 

@@ -60,11 +60,12 @@ TEST(Wildcard, Patterns)
     EXPECT_FALSE(matchesWildcard(u"LINE", u"line", Qt::CaseSensitive));
 }
 
-TEST(Wildcard, ManyStarsDoNotHang)
+TEST(Wildcard, ManyStarsAndOpenBracketsDoNotHang)
 {
     const QString text(20000, u'a');
     const QString pattern = u"*a"_s.repeated(500) + u"b"_s;
     EXPECT_FALSE(matchesWildcard(text, pattern));
+    EXPECT_FALSE(matchesWildcard(u"CIRCLE", u"LINE,[[,"_s.repeated(200000)));
 }
 
 } // namespace
