@@ -1,5 +1,6 @@
 #include "lispfuncs/BackupFolder.h"
 
+#include "lispfuncs/Translated.h"
 #include "platform/kernel/CKvDocument.h"
 #include "platform/kernel/CKvLispEngine.h"
 #include "platform/kernel/CKvSystemServices.h"
@@ -18,11 +19,6 @@ namespace {
 
 const auto globalName = u"SETBACKUPFOLDER"_s;
 const auto localName = u"setbackupfolder"_s;
-
-QString translated(const char *text)
-{
-    return QCoreApplication::translate("LispExtension", text);
-}
 
 /// What is shown and, behind the comma, what is typed and answers.
 QString noneOption()

@@ -2,15 +2,16 @@
 
 #include "host/drawing/Dictionaries.h"
 #include "host/drawing/Structure.h"
-#include "host/kernel/CurrentSpace.h"
 #include "host/drawing/TransformEntity.h"
+#include "host/kernel/CurrentSpace.h"
 #include "host/kernel/Document.h"
 #include "host/kernel/ObjectIds.h"
 #include "host/kernel/ResBufConversion.h"
 #include "host/kernel/SystemVariables.h"
-#include "host/kernel/platform/RemoteText.h"
 #include "host/kernel/functions/EntityList.h"
 #include "host/kernel/input/SelectionQuery.h"
+#include "host/kernel/platform/RemoteText.h"
+#include "platform/rx/OdError.h"
 
 #include <limits>
 
@@ -240,6 +241,11 @@ DrawingDatabase::DrawingDatabase(Document &document)
 }
 
 DrawingDatabase::~DrawingDatabase() = default;
+
+OdDbBlockTableRecord *FileDatabase::openActiveLayoutBTR()
+{
+    throw OdError(QStringLiteral("A drawing that is only looked at cannot be changed."));
+}
 
 drawing::Drawing &DrawingDatabase::drawing()
 {

@@ -32,6 +32,13 @@ public:
     OdDbDictionary *getNamedObjectsDictionary() override { return nullptr; }
     OdResBufPtr getSysVar(const OdString &) const override { return nullptr; }
     bool setSysVar(const OdString &, const OdResBuf &) override { return false; }
+    void startTransaction() override {}
+    void endTransaction() override {}
+    OdDbBlockTableRecord *openActiveLayoutBTR() override;
+    void flushGraphics() override {}
+    OdResBufPtr entityData(const OdDbObjectId &) const override { return nullptr; }
+    OdDbObjectId nextEntity(const OdDbObjectId &) const override { return {}; }
+    int moveEntities(const OdDbObjectIdArray &entities, const OdGePoint3d &) override { return int(entities.size()); }
 
 private:
     std::unique_ptr<drawing::Drawing> m_drawing;

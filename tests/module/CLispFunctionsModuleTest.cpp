@@ -125,12 +125,4 @@ TEST_F(Module, HostsWithoutDocumentsGetTheEditorReactor)
     host::kernel::installServices(before);
 }
 
-TEST_F(Module, FunctionsThatAreNotBuiltSaySo)
-{
-    m_module->initApp();
-    EXPECT_EQ(m_first->lisp().call(u"dlg_mergesheets"_s, {u"x"_s}), kRtError);
-    EXPECT_EQ(m_first->lisp().printed(), u"\nDlg_MergeSheets is not available in this build.");
-    EXPECT_EQ(m_first->lisp().result(), u"");
-}
-
 } // namespace

@@ -52,7 +52,7 @@ protected:
     /// The functions that the module defines, as it spells them; the manual is looked up by that.
     static QStringList tableNames()
     {
-        static const QRegularExpression row(u"function<\"([^\"]+)\""_s);
+        static const QRegularExpression row(u"function<\\w+>\\(\"([^\"]+)\""_s);
         QStringList names;
         const QString table = QString::fromUtf8(ToolRun::readFile(source(u"module/LispFunctionTable.cpp"_s)));
         for (const QRegularExpressionMatch &match : row.globalMatch(table))
