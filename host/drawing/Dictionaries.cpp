@@ -35,6 +35,18 @@ qsizetype entryIndex(const FieldList &fields, QStringView name)
     return -1;
 }
 
+/// Without a reference to an extension dictionary, which leads nowhere.
+FieldList withoutExtension(FieldList fields)
+{
+    const auto begin = std::ranges::find_if(
+        fields, [](const Field &field) { return field.code == 102 && field.text().trimmed() == u"{ACAD_XDICTIONARY"; });
+    if (begin == fields.end())
+        return fields;
+    auto end = std::find_if(begin + 1, fields.end(), [](const Field &field) { return field.code == 102; });
+    fields.erase(begin, end == fields.end() ? end : end + 1);
+    return fields;
+}
+
 } // namespace
 
 RecordId Dictionaries::root() const
@@ -191,6 +203,29 @@ RecordId Dictionaries::extensionDictionary(RecordId record) const
         }
     }
     return noRecord;
+}
+
+RecordId Dictionaries::ensureExtensionDictionary(RecordId record)
+{
+    if (const RecordId existing = extensionDictionary(record); isValid(existing))
+        return existing;
+    if (!m_drawing.isAlive(record) || !hasMarkers(m_drawing))
+        return noRecord;
+    const JournalGroup group(m_drawing.journal(), {});
+    FieldList body = {{subclassCode, u"AcDbDictionary"_s}};
+    if (hasOwners(m_drawing)) {
+        body.push_back({280, qint64(1)});
+        body.push_back({281, qint64(1)});
+    }
+    const RecordId dictionary = insertObject("DICTIONARY", m_drawing.handle(record), body);
+    FieldList fields = withoutExtension(m_drawing.fields(record));
+    const FieldList extension = {
+        {102, u"{ACAD_XDICTIONARY"_s}, {hardOwnerCode, m_drawing.handle(dictionary)}, {102, u"}"_s}};
+    // Behind type and handle.
+    fields.insert(fields.begin() + std::min<qsizetype>(2, qsizetype(fields.size())), extension.begin(),
+                  extension.end());
+    m_drawing.setFields(record, fields);
+    return dictionary;
 }
 
 RecordId Dictionaries::insertObject(const QByteArray &type, Handle owner, const FieldList &body)

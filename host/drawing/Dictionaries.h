@@ -43,6 +43,8 @@ public:
 
     /// The extension dictionary of any record (102 {ACAD_XDICTIONARY); noRecord when it has none.
     RecordId extensionDictionary(RecordId record) const;
+    /// The same, made when there is none; noRecord in R12.
+    RecordId ensureExtensionDictionary(RecordId record);
 
 private:
     RecordId insertObject(const QByteArray &type, Handle owner, const FieldList &body);

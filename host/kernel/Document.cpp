@@ -17,6 +17,7 @@
 #include "host/kernel/functions/NativeFunctions.h"
 #include "host/kernel/input/UserInput.h"
 #include "host/lisp/Interpreter.h"
+#include "host/view/TextMeasure.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -57,6 +58,13 @@ Document::Document(Session &session, std::unique_ptr<drawing::Drawing> drawing, 
 }
 
 Document::~Document() = default;
+
+view::TextMeasure &Document::textMeasure() const
+{
+    if (!m_textMeasure)
+        m_textMeasure = std::make_unique<view::TextMeasure>(*m_drawing);
+    return *m_textMeasure;
+}
 
 lisp::Interpreter &Document::interpreter()
 {

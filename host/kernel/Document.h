@@ -19,6 +19,10 @@ namespace host::drawing {
 class BoxCache;
 }
 
+namespace host::view {
+class TextMeasure;
+}
+
 namespace host::lisp {
 class Interpreter;
 struct Outcome;
@@ -148,6 +152,8 @@ public:
     drawing::Matrix userAxes() const;
     /// Boxes of entities, for picking.
     drawing::BoxCache &boxes() { return *m_boxes; }
+    /// How much room texts take.
+    view::TextMeasure &textMeasure() const;
     /// What (entmake) has collected of an entity or block that is made in pieces.
     EntityMaker &entityMaker() { return *m_entityMaker; }
     /// Where (tblnext) and (dictnext) stand, by table name or the dictionary's handle.
@@ -200,6 +206,7 @@ private:
     std::unique_ptr<CommandRun> m_pendingCommand;
     std::unique_ptr<drawing::BoxCache> m_boxes;
     std::unique_ptr<EntityMaker> m_entityMaker;
+    mutable std::unique_ptr<view::TextMeasure> m_textMeasure; ///< made when it is first asked for
     QHash<QString, drawing::RecordId> m_cursors;
     QStringList m_commandNames;
     QString m_lastCommand;

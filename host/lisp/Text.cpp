@@ -127,7 +127,7 @@ struct CaseRun
     char32_t distance;
 };
 
-static constexpr std::array<CaseRun, 8> caseRuns = {{
+static constexpr std::array<CaseRun, 10> caseRuns = {{
     {U'A', U'Z', 32},
     {0xC0, 0xD6, 32},
     {0xD8, 0xDE, 32},
@@ -136,13 +136,52 @@ static constexpr std::array<CaseRun, 8> caseRuns = {{
     {0x400, 0x40F, 80},
     {0x410, 0x42F, 32},
     {0x388, 0x38A, 37},
+    {0x531, 0x556, 48},
+    {0x10400, 0x10427, 40},
+}};
+
+/// Letters by themselves.
+struct CasePair
+{
+    char32_t upper;
+    char32_t lower;
+};
+
+static constexpr std::array<CasePair, 5> casePairs = {{
+    {0x178, 0xFF},
+    {0x386, 0x3AC},
+    {0x38C, 0x3CC},
+    {0x38E, 0x3CD},
+    {0x38F, 0x3CE},
+}};
+
+/// Letters whose other case leads elsewhere when it is turned back: dotless i, final sigma, micro, the digraphs.
+static constexpr std::array<CasePair, 9> upperOnly = {{
+    {U'I', 0x131},
+    {0x3A3, 0x3C2},
+    {0x39C, 0xB5},
+    {0x1C4, 0x1C5},
+    {0x1C4, 0x1C6},
+    {0x1C7, 0x1C8},
+    {0x1C7, 0x1C9},
+    {0x1CA, 0x1CB},
+    {0x1CA, 0x1CC},
+}};
+static constexpr std::array<CasePair, 6> lowerOnly = {{
+    {0x1C4, 0x1C6},
+    {0x1C5, 0x1C6},
+    {0x1C7, 0x1C9},
+    {0x1C8, 0x1C9},
+    {0x1CA, 0x1CC},
+    {0x1CB, 0x1CC},
 }};
 
 /// Latin and Cyrillic letters whose upper and lower case alternate. 1: upper case is odd, 0: even; -1: elsewhere.
 static int upperParity(char32_t c) noexcept
 {
     const bool upperEven = (c >= 0x100 && c <= 0x12F) || (c >= 0x132 && c <= 0x137) || (c >= 0x14A && c <= 0x177) ||
-                           (c >= 0x460 && c <= 0x481) || (c >= 0x48A && c <= 0x4BF) || (c >= 0x4D0 && c <= 0x52F);
+                           (c >= 0x460 && c <= 0x481) || (c >= 0x48A && c <= 0x4BF) || (c >= 0x4D0 && c <= 0x52F) ||
+                           (c >= 0x1E00 && c <= 0x1E95) || (c >= 0x1EA0 && c <= 0x1EFF);
     const bool upperOdd = (c >= 0x139 && c <= 0x148) || (c >= 0x179 && c <= 0x17E);
     return upperEven ? 0 : upperOdd ? 1 : -1;
 }
@@ -155,6 +194,12 @@ char32_t upperCharacter(char32_t c) noexcept
         if (c >= run.firstUpper + run.distance && c <= run.lastUpper + run.distance)
             return c - run.distance;
     }
+    for (const CasePair &pair : casePairs)
+        if (c == pair.lower)
+            return pair.upper;
+    for (const CasePair &pair : upperOnly)
+        if (c == pair.lower)
+            return pair.upper;
     const int parity = upperParity(c);
     return parity >= 0 && static_cast<int>(c % 2) != parity ? c - 1 : c;
 }
@@ -167,6 +212,12 @@ char32_t lowerCharacter(char32_t c) noexcept
         if (c >= run.firstUpper && c <= run.lastUpper)
             return c + run.distance;
     }
+    for (const CasePair &pair : casePairs)
+        if (c == pair.upper)
+            return pair.lower;
+    for (const CasePair &pair : lowerOnly)
+        if (c == pair.upper)
+            return pair.lower;
     const int parity = upperParity(c);
     return parity >= 0 && static_cast<int>(c % 2) == parity ? c + 1 : c;
 }

@@ -116,6 +116,25 @@ const std::vector<LispCase> entityCases = {
      "(setq e (entmakex '((0 . \"POINT\") (10 0 0 0) (-3 (\"A1\" (1000 . \"a\"))))))",
      "(entmod (list (cons -1 e) '(62 . 1)))(cdr (assoc -3 (entget e '(\"A*\"))))", "((\"A1\" (1000 . \"a\")))"},
 
+    {"the box of a text reaches from the base line to the capitals' tops", "(setq d '((1 . \"Hx\") (40 . 2.0)))",
+     "(mapcar '(lambda (c) (cadr c)) (textbox d))", "(0.0 2.0)"},
+    {"the box is farther with tails", "(setq d '((1 . \"Hg\") (40 . 2.0)))", "(< -1.0 (cadr (car (textbox d))) -0.1)",
+     "T"},
+    {"the box does not turn and grows with the width", "(setq a '((1 . \"Hx\") (40 . 2.0) (10 5.0 5.0 0.0)))",
+     "(equal (textbox (append a '((50 . 1.0) (41 . 2.0)))) (mapcar '(lambda (p) (mapcar '* p '(2 1 1))) (textbox a)) "
+     "1e-9)",
+     "T"},
+    {"the box is seen from the insertion point, wherever the text is anchored",
+     "(setq d '((1 . \"Hx\") (40 . 2.0) (10 5.0 0.0 0.0) (11 7.0 1.0 0.0) (72 . 1) (73 . 2)))",
+     "(mapcar '(lambda (a b) (/ (+ a b) 2)) (car (textbox d)) (cadr (textbox d)))", "(2.0 1.0 0.0)"},
+    {"the box of nothing", "", "(list (textbox '((1 . \"\"))) (textbox '((0 . \"LINE\"))))",
+     "(((0.0 0.0 0.0) (0.0 0.0 0.0)) nil)"},
+    {"a paragraph has the size of what it says now",
+     "(setq e (entmakex '((0 . \"MTEXT\") (10 0 0 0) (40 . 3.0) (41 . 90.0) (42 . 7.0) (43 . 9.0) (1 . \"H\\\\PH\"))))"
+     "(setq old (entget e))(entmod (subst '(1 . \"HH\") '(1 . \"H\\\\PH\") old))(setq new (entget e))",
+     "(list (cdr (assoc 43 old)) (cdr (assoc 43 new)) (< 1.9 (/ (cdr (assoc 42 new)) (cdr (assoc 42 old))) 2.5))",
+     "(8.0 3.0 T)"},
+
     {"a layer's entry", "", "(vl-remove-if '(lambda (f) (> (car f) 99)) (tblsearch \"LAYER\" \"0\"))",
      "((0 . \"LAYER\") (2 . \"0\") (70 . 0) (62 . 7) (6 . \"Continuous\"))"},
     {"tblnext visits each entry", "", "(while (tblnext \"LTYPE\" (not n)) (setq n (1+ (cond (n) (0)))))n", "3"},
@@ -208,6 +227,21 @@ TEST_F(OddFile, handingBackAListChangesNothing)
     EXPECT_EQ(drawing().toBytes(), before);
     EXPECT_FALSE(document().isModified());
     EXPECT_FALSE(document().undoSteps().canUndo());
+}
+
+// The size that programs see is not the file's.
+TEST_F(OddFile, handingBackAParagraphChangesNothing)
+{
+    const QByteArray withParagraph =
+        oddFile().replace("  0\nENDSEC\n  0\nEOF",
+                          "  0\nMTEXT\n  5\n30\n100\nAcDbEntity\n  8\n0\n100\nAcDbMText\n 10\n1.50\n 20\n2\n 30\n"
+                          "0\n 40\n.5\n  1\nHi\n 42\n99.0\n  0\nENDSEC\n  0\nEOF");
+    session.documents().open(write("paragraph.dxf", withParagraph));
+    EXPECT_EQ(lisp("(null (entmod (entget (entlast))))"), "nil");
+    EXPECT_EQ(drawing().toBytes(), withParagraph);
+    lisp("(entmod (subst '(1 . \"Ho\") (assoc 1 (entget (entlast))) (entget (entlast))))");
+    EXPECT_TRUE(drawing().toBytes().contains("\nHo\n"));
+    EXPECT_FALSE(drawing().toBytes().contains("99.0")) << "the size of another text";
 }
 
 TEST_F(OddFile, aChangeKeepsTheSpellingOfTheRest)

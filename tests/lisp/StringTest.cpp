@@ -17,6 +17,8 @@ TEST(Strings, WholeStrings)
         {"(substr \"abc\" 0)", "! bad argument value: 0 in (SUBSTR), argument 2"},
         {"(list (strcase \"aBc\") (strcase \"aBc\" T) (strcase \"straße žluť я\") (strcase \"ÄŽЯ\" T))",
          "(\"ABC\" \"abc\" \"STRAßE ŽLUŤ Я\" \"äžя\")"},
+        {"(list (strcase \"ÿ ά ς ı ệ ǆ \U00010428\") (strcase \"Ÿ Ά İ Ệ Ǆ \U00010400\" T))",
+         "(\"Ÿ Ά Σ I Ệ Ǆ \U00010400\" \"ÿ ά İ ệ ǆ \U00010428\")"},
         {"(list (ascii \"A\") (ascii \"\") (ascii \"€\") (chr 65) (chr 8364) (chr 0))", "(65 0 8364 \"A\" \"€\" \"\")"},
         {"(chr -1)", "! bad argument value: -1 in (CHR), argument 1"},
         {"(chr 55296)", "! bad argument value: 55296 in (CHR), argument 1"},

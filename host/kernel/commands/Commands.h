@@ -9,6 +9,7 @@ namespace host::kernel {
 // The rows of each file of commands.
 std::vector<CommandRow> drawCommands();
 std::vector<CommandRow> editCommands();
+std::vector<CommandRow> drawOrderCommands();
 std::vector<CommandRow> blockCommands();
 std::vector<CommandRow> layerCommands();
 std::vector<CommandRow> linetypeCommands();

@@ -4,6 +4,7 @@
 #include "host/kernel/Document.h"
 #include "host/kernel/functions/ImpliedFields.h"
 #include "host/kernel/functions/LispConversion.h"
+#include "host/kernel/functions/ParagraphSize.h"
 
 #include <QHash>
 #include <QStringList>
@@ -332,7 +333,9 @@ Value entityList(const Document &document, RecordId record, const QStringList &a
 {
     const drawing::Drawing &drawing = document.drawing();
     const AngleForm angles = angleForm(drawing, record);
-    const FieldList fields = withImpliedFields(drawing, record, drawing.fields(record));
+    FieldList fields = withImpliedFields(drawing, record, drawing.fields(record));
+    if (drawing.isType(record, "MTEXT"))
+        fields = withParagraphSize(document, std::move(fields));
     const bool isSpace = hasSpacePoints(QString::fromLatin1(drawing.typeName(record)));
     lisp::ListBuilder list;
     list.append(Value::cons(Value::integer(nameCode), toLisp(record)));
@@ -378,6 +381,9 @@ FieldList mergedFields(const FieldList &present, const FieldList &given)
     const QString typeName = type ? type->text().trimmed() : QString();
     const FieldList body = withoutXdata(present);
     FieldList wanted = withoutXdata(given);
+    const bool isParagraph = typeName == QStringLiteral("MTEXT");
+    if (isParagraph)
+        keepParagraphSize(wanted, body);
     // What the list got for the program's convenience and still has its usual value stays out of the file.
     const FieldList &implied = impliedFields(typeName);
     std::erase_if(wanted, [&](const Field &field) {
@@ -400,6 +406,8 @@ FieldList mergedFields(const FieldList &present, const FieldList &given)
                 result.push_back(field);
         }
     }
+    if (isParagraph)
+        dropOldParagraphSize(result, body);
     const FieldList xdata = mergedXdata(present, given);
     result.insert(result.end(), xdata.begin(), xdata.end());
     return result;

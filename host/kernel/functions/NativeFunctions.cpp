@@ -14,6 +14,7 @@ void addNativeFunctions(lisp::Interpreter &interpreter)
     addCommandFunctions(interpreter);
     addDialogFunctions(interpreter);
     addCoordinateFunctions(interpreter);
+    addTextFunctions(interpreter);
 }
 
 } // namespace host::kernel

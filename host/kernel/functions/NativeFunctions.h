@@ -20,5 +20,6 @@ void addVariableFunctions(lisp::Interpreter &interpreter);
 void addCommandFunctions(lisp::Interpreter &interpreter);
 void addDialogFunctions(lisp::Interpreter &interpreter);
 void addCoordinateFunctions(lisp::Interpreter &interpreter);
+void addTextFunctions(lisp::Interpreter &interpreter);
 
 } // namespace host::kernel
