@@ -36,10 +36,20 @@ TagList tagsOf(const QByteArray &lines, const drawing::TextCodec &codec)
     return {std::move(tags), codec};
 }
 
+/// A text between two points (horizontal alignment 3 and 5) runs from one to the other, whatever its angle says.
+double directionOf(const TagList &tags)
+{
+    const drawing::Tag *alignment = tags.find(72, "AcDbText");
+    const qint64 kind = alignment ? alignment->integer().value_or(0) : 0;
+    const Vec3 span = tags.point(11) - tags.point(10);
+    if ((kind == 3 || kind == 5) && span.length() > 0.0)
+        return std::atan2(span.y, span.x);
+    return tags.real(50) * std::numbers::pi / 180.0;
+}
+
 Matrix ownFrame(const TagList &tags, const Vec3 &normal)
 {
-    return Matrix::fromExtrusion(normal) * Matrix::translation(tags.point(10)) *
-           Matrix::rotation(tags.real(50) * std::numbers::pi / 180.0);
+    return Matrix::fromExtrusion(normal) * Matrix::translation(tags.point(10)) * Matrix::rotation(directionOf(tags));
 }
 
 /// The runs of text in a display, each with its map to the frame.

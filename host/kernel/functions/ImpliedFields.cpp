@@ -50,7 +50,14 @@ QHash<QString, FieldList> makeTable()
             {u"LINE"_s, {extrusion}},
             {u"LWPOLYLINE"_s, {{70, qint64(0)}, {43, 0.0}, {38, 0.0}, {39, 0.0}, extrusion}},
             {u"MTEXT"_s,
-             {{71, qint64(1)}, {72, qint64(1)}, {7, u"Standard"_s}, {50, 0.0}, {73, qint64(1)}, {44, 1.0}, extrusion}},
+             {{71, qint64(1)},
+              {72, qint64(1)},
+              {7, u"Standard"_s},
+              {11, Vec3{1.0, 0.0, 0.0}},
+              {50, 0.0},
+              {73, qint64(1)},
+              {44, 1.0},
+              extrusion}},
             {u"POINT"_s, {extrusion, {50, 0.0}}},
             {u"POLYLINE"_s, joined(widths, {{70, qint64(0)},
                                             {71, qint64(0)},
@@ -108,8 +115,10 @@ FieldList withImpliedFields(const drawing::Drawing &drawing, drawing::RecordId e
     if (type == u"LWPOLYLINE"_s)
         fields = withVertexFields(fields);
     FieldList missing;
+    // An angle of its own takes the place of an MTEXT's direction.
+    const bool hasAngle = type == u"MTEXT"_s && drawing::findField(fields, 50);
     for (const Field &field : impliedFields(type))
-        if (!drawing::findField(fields, field.code))
+        if (!drawing::findField(fields, field.code) && !(hasAngle && field.code == 11))
             missing.push_back(field);
     if (drawing.kind(entity) == drawing::RecordKind::Entity && drawing.version() >= drawing::Version::R2000) {
         // Programs tell spaces apart by these two.
