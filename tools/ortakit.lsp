@@ -4,10 +4,13 @@
 ;;; support/state.lsp     state files and the action words of dialogs
 ;;; support/strings.lsp   splitting and trimming
 ;;; support/entities.lsp  entity data, selections, bounding boxes
+;;; support/selection.lsp what a tool works on, locked layers, closing words
+;;; support/texts.lsp     what texts say, with and without their formatting codes
+;;; support/textboxes.lsp where texts stand, and outlines around them
 ;;; support/catalogue.lsp what the Lisp engine holds, for the Lisp Explorer
 ;;; support/files.lsp     files of definitions, changed in one place
 ;;; support/dimstyles.lsp dimension styles as text
 
-(foreach file '("strings" "run" "state" "entities" "catalogue" "files" "dimstyles")
+(foreach file '("strings" "run" "state" "entities" "selection" "texts" "textboxes" "catalogue" "files" "dimstyles")
   (load (strcat "support/" file ".lsp")))
 (princ)

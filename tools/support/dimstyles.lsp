@@ -88,13 +88,6 @@
     (setq text (kora_replace_all (strcat "\\U+00" (if (= (ascii word) 68) "44" "45") (substr word 2)) word text)))
   (kora_replace_all "\\U+000A" "\n" (kora_replace_all "\\U+000D" "\r" text)))
 
-;; (kora_replace_all new old text) -> text with new for every old.
-(defun kora_replace_all (new old text / parts result)
-  (setq parts (kora_string_split text old)
-        result (list (car parts)))
-  (foreach part (cdr parts) (setq result (cons part (cons new result))))
-  (apply 'strcat (reverse result)))
-
 ;; (kora_with_characters text) -> text with the character for every \U+ and four hexadecimal digits.
 (defun kora_with_characters (text / parts result code)
   (setq parts  (kora_string_split text "\\U+")

@@ -69,3 +69,8 @@
 ;; (kora_action state) -> the action word: "OK", "CREATE", of "GET_BLOCK=Door" the part "GET_BLOCK"; "" without one.
 (defun kora_action (state)
   (car (kora_string_split (kora_state_value state "!action!") "=")))
+
+;; (kora_suggest file key value) puts the value into the state file if it has none under this key.
+(defun kora_suggest (file key value)
+  (if (= (kora_state_value (kora_readstate file) key) "")
+    (kora_writestate file (list (cons key value)))))

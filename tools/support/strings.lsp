@@ -28,3 +28,15 @@
   (if parts
     (apply 'strcat (cons (car parts) (mapcar '(lambda (part) (strcat separator part)) (cdr parts))))
     ""))
+
+;; (kora_replace_all new old text) -> text with new for every old.
+(defun kora_replace_all (new old text / parts result)
+  (setq parts (kora_string_split text old)
+        result (list (car parts)))
+  (foreach part (cdr parts) (setq result (cons part (cons new result))))
+  (apply 'strcat (reverse result)))
+
+;; (kora_is_space code) -> T for the code of a white-space character.
+(defun kora_is_space (code)
+  (or (= code 32) (<= 9 code 13) (<= 8192 code 8202)
+      (if (member code '(133 160 5760 8232 8233 8239 8287 12288)) T)))
