@@ -46,9 +46,12 @@ TEST_F(SampleSessions, ChangeWhatTheySayAndNothingElse)
          u"Ortakit/BreakLine/door.dwg"_s, "SECTION"},
         {u"breakline"_s, u"1+BLOCK 1+BLOCK_RECORD 1+ENDBLK 1+INSERT 6+LINE 1~$HANDSEED 1~LINE"_s,
          u"Ortakit/breakline.state"_s, "_dist_size="},
+        // Three notes, of which one new paragraph is left.
+        {u"convertsimplenotes"_s, u"1+MTEXT 1~$HANDSEED"_s, u"Ortakit/convertsimplenotes.state"_s, "word_wrap=FALSE"},
         {u"dimstyleexport"_s, {}, u"standard.dim"_s, "END_OF_STYLE\r\n"},
         {u"dimstyleimport"_s, u"2+DIMSTYLE 1+LTYPE 1+STYLE 1~$HANDSEED"_s, u"standard.dim"_s, "END_OF_STYLE\r\n"},
         {u"editalias"_s, u"1+LINE 1~$HANDSEED"_s, u"alias.xml"_s, "<record command=\"LINE\" alias=\"QQ\"/>"},
+        {u"edittextcase"_s, u"1+MTEXT 1~$HANDSEED 3~TEXT"_s, u"Ortakit/edittextcase.state"_s, "radiobutton3=TRUE"},
         {u"getblockinfo"_s, furniture, u"../out/blocks.txt"_s,
          "Name     Instances\r\n007         1\r\n12          1\r\nBUSH        1\r\nCHAIR       2\r\n"},
         {u"importblockattributes"_s, {}, u"Ortakit/importblockattributes.state"_s, "attributes="},
@@ -57,6 +60,7 @@ TEST_F(SampleSessions, ChangeWhatTheySayAndNothingElse)
         {u"makelinestyle"_s, u"2+LINE 1+LTYPE 1+POINT 1+TEXT 1~$HANDSEED"_s, u"pipes.lin"_s,
          "*GAS,Gas pipe ---- GAS . ---- GAS .\nA,1,-1.2,[\"GAS\",Standard,S=0.2,R=0,X=-1,Y=-0.1],0,-0.3\n"},
         {u"makeshape"_s, {}, u"plan.shp"_s, ",DOOR\n"},
+        {u"numbertext"_s, u"3~TEXT"_s, u"Ortakit/numbertext.state"_s, "tx_step=5"},
         {u"replaceblock"_s, furniture, u"Ortakit/replaceblock.state"_s,
          "\xEF\xBB\xBF"
          "blockstable=TREE^\n!action!=OK\nblockstablerep=BUSH^\npurgeitems=TRUE\nattsync=TRUE\n"},
@@ -68,6 +72,15 @@ TEST_F(SampleSessions, ChangeWhatTheySayAndNothingElse)
          u"1+ATTDEF 2+ATTRIB 3+BLOCK 3+BLOCK_RECORD 3+CIRCLE 3+ENDBLK 5+INSERT 2+LAYER 1+LTYPE 2+LWPOLYLINE 2+SEQEND "
          "1+STYLE 1~$HANDSEED"_s,
          u"Ortakit/selectblock.state"_s, "name=LAMP\nsource=active\n"},
+        // A slot and its filling for each of two names, and the order in which they are drawn.
+        {u"textframe"_s, u"1+DICTIONARY 2+HATCH 2+LWPOLYLINE 1+SORTENTSTABLE 1~$HANDSEED 1~BLOCK_RECORD"_s,
+         u"Ortakit/textframe.state"_s, "constant_both=TRUE"},
+        // The lines that the session draws, the mask with its class, its setting and the application that marks it.
+        {u"textmask"_s,
+         u"1+APPID 2+CLASS 1+DICTIONARY 12+LINE 1+SORTENTSTABLE 1+WIPEOUT 1+WIPEOUTVARIABLES 1~$HANDSEED "
+         u"1~BLOCK_RECORD "
+         "1~DICTIONARY"_s,
+         u"Ortakit/textmask.state"_s, "type_mask=TRUE"},
     };
     QStringList names;
     for (const auto &row : rows) {
