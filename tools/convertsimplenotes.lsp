@@ -19,8 +19,6 @@
     (convertsimplenotes:run notes (kora_readstate file)))
   (kora_end))
 
-(defun convertsimplenotes:is (state key) (= (kora_state_value state key) "TRUE"))
-
 (defun convertsimplenotes:run (notes state / open used)
   (setq open (mapcar 'entget (kora_unlocked notes))
         used (vl-remove-if-not '(lambda (data) (convertsimplenotes:is_beside data (car open))) open))
@@ -47,10 +45,10 @@
 
 ;; A list of keys: numbers, or a text.
 (defun convertsimplenotes:key (data state turn / point)
-  (cond ((convertsimplenotes:is state "select_topdow")
+  (cond ((kora_state_is state "select_topdow")
          (setq point (kora_turned_back (kora_text_point data) turn))
          (list (- (cadr point)) (car point)))
-        ((convertsimplenotes:is state "select_alfa") (list (strcase (kora_plain_text (kora_text_parts data)))))))
+        ((kora_state_is state "select_alfa") (list (strcase (kora_plain_text (kora_text_parts data)))))))
 
 (defun convertsimplenotes:before (a b / keys others)
   (setq keys (car a) others (car b))
@@ -63,10 +61,10 @@
   (setq first (car notes)
         turn  (cond ((kora_field first 50)) (0.0))
         box   (convertsimplenotes:box notes turn)
-        wraps (convertsimplenotes:is state "word_wrap"))
+        wraps (kora_state_is state "word_wrap"))
   (kora_with_content
     (append '((0 . "MTEXT") (100 . "AcDbEntity")) (kora_companion_fields first)
-            (if (convertsimplenotes:is state "keepcolors") (convertsimplenotes:colour_fields first))
+            (if (kora_state_is state "keepcolors") (convertsimplenotes:colour_fields first))
             (list '(100 . "AcDbMText") (cons 10 (trans (convertsimplenotes:corner first box turn) (kora_normal first) 0))
                   (cons 40 (convertsimplenotes:height first state))
                   (cons 41 (if wraps (- (car (cadr box)) (car (car box))) 0.0))
@@ -92,20 +90,20 @@
   (kora_turned_back (list (car (car box)) (cadr (cadr box)) (caddr (kora_text_point first))) (- turn)))
 
 (defun convertsimplenotes:style (first state)
-  (if (convertsimplenotes:is state "keepfonts")
+  (if (kora_state_is state "keepfonts")
     (cond ((kora_field first 7)) ("Standard"))
     (getvar "TEXTSTYLE")))
 
 (defun convertsimplenotes:height (first state / fixed)
-  (cond ((convertsimplenotes:is state "keepsizes") (kora_field first 40))
+  (cond ((kora_state_is state "keepsizes") (kora_field first 40))
         ((and (setq fixed (kora_field (tblsearch "STYLE" (convertsimplenotes:style first state)) 40)) (> fixed 0.0)) fixed)
         (T (getvar "TEXTSIZE"))))
 
 ;; What one text says as a line of the paragraph, in braces where it looks otherwise than the paragraph.
 (defun convertsimplenotes:line (data first state / codes text)
-  (setq codes (strcat (if (convertsimplenotes:is state "keepfonts") (convertsimplenotes:font_codes data first) "")
-                      (if (convertsimplenotes:is state "keepcolors") (convertsimplenotes:colour_code data first) "")
-                      (if (and (convertsimplenotes:is state "keepsizes")
+  (setq codes (strcat (if (kora_state_is state "keepfonts") (convertsimplenotes:font_codes data first) "")
+                      (if (kora_state_is state "keepcolors") (convertsimplenotes:colour_code data first) "")
+                      (if (and (kora_state_is state "keepsizes")
                                (not (equal (kora_field data 40) (kora_field first 40) 1e-9)))
                         (strcat "\\H" (kora_number_text (kora_field data 40) 8) ";")
                         ""))

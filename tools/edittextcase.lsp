@@ -31,7 +31,7 @@
     (progn
       (setq state (kora_readstate file))
       (foreach number '(1 2 3 4 5)
-        (if (= (kora_state_value state (strcat "radiobutton" (itoa number))) "TRUE") (setq style number)))
+        (if (kora_state_is state (strcat "radiobutton" (itoa number))) (setq style number)))
       style)))
 
 (defun edittextcase:change (texts style / data old new changed locked kept)

@@ -33,15 +33,13 @@
         step  (kora_state_real state "tx_step"))
   (cond ((or (null first) (> (abs first) 1e9)) "The initial value must be a number of up to nine digits.")
         ((or (null step) (> (abs step) 1e6)) "The increment must be a number of up to six digits.")
-        ((and (numbertext:is state "placement_replace") (= (kora_state_value state "search") ""))
+        ((and (kora_state_is state "placement_replace") (= (kora_state_value state "search") ""))
          "There is no text to find.")))
-
-(defun numbertext:is (state key) (= (kora_state_value state key) "TRUE"))
 
 (defun numbertext:run (texts state / open locked points)
   (setq open   (kora_unlocked texts)
         locked (- (length texts) (length open)))
-  (if (numbertext:is state "placement_replace")
+  (if (kora_state_is state "placement_replace")
     (setq open (numbertext:with_search open (kora_state_value state "search"))))
   (if (setq points (numbertext:points state))
     (numbertext:write (numbertext:sorted open state points) state locked)))
@@ -50,9 +48,9 @@
 ;; gives up.
 (defun numbertext:points (state / first second)
   (cond
-    ((numbertext:is state "sort_point")
+    ((kora_state_is state "sort_point")
      (if (setq first (getPointOrtakit "\nSpecify point to number from: ")) (list first)))
-    ((numbertext:is state "sort_2points")
+    ((kora_state_is state "sort_2points")
      (if (and (setq first (getPointOrtakit "\nSpecify first point: "))
               (setq second (getPointOrtakit first "\nSpecify second point: ")))
        (if (equal first second 1e-9)
@@ -62,7 +60,7 @@
 
 ;; Sorts by two keys and then by the order of choice. Descending turns the first key round.
 (defun numbertext:sorted (texts state points / rows sign index)
-  (setq sign  (if (numbertext:is state "sent_des") -1 1)
+  (setq sign  (if (kora_state_is state "sent_des") -1 1)
         index 0)
   (foreach text texts
     (setq rows  (cons (append (numbertext:keys (numbertext:place (entget text)) state points index) (list index text)) rows)
@@ -77,11 +75,11 @@
 
 ;; -> two numbers that say where a place comes in the order.
 (defun numbertext:keys (place state points index)
-  (cond ((numbertext:is state "sort_x") (list (car place) (- (cadr place))))
-        ((numbertext:is state "sort_y") (list (cadr place) (car place)))
-        ((numbertext:is state "sort_point")
+  (cond ((kora_state_is state "sort_x") (list (car place) (- (cadr place))))
+        ((kora_state_is state "sort_y") (list (cadr place) (car place)))
+        ((kora_state_is state "sort_point")
          (list (distance (numbertext:flat (car points)) (numbertext:flat place)) 0.0))
-        ((numbertext:is state "sort_2points") (list (numbertext:along place points) 0.0))
+        ((kora_state_is state "sort_2points") (list (numbertext:along place points) 0.0))
         (T (list index 0.0))))
 
 (defun numbertext:flat (point) (list (car point) (cadr point)))
@@ -148,9 +146,9 @@
   (setq label (cons 'TEXT (vl-string->list label))
         parts (kora_text_parts data))
   (kora_parts_text
-    (cond ((numbertext:is state "placement_over") (list label))
-          ((numbertext:is state "placement_replace") (numbertext:replaced parts (kora_state_value state "search") label))
-          ((numbertext:is state "placement_prefix") (numbertext:beside parts label))
+    (cond ((kora_state_is state "placement_over") (list label))
+          ((kora_state_is state "placement_replace") (numbertext:replaced parts (kora_state_value state "search") label))
+          ((kora_state_is state "placement_prefix") (numbertext:beside parts label))
           (T (reverse (numbertext:beside (reverse parts) label))))))
 
 ;; The label in front of the first part that shows something.

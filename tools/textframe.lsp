@@ -8,50 +8,51 @@
 
 (setq textframe:filter '((0 . "TEXT,MTEXT,ATTDEF")))
 
-(defun c:textframe (/ *error* kora:variables texts state)
+(defun c:textframe (/ *error* kora:variables texts file)
   (setq texts (kora_chosen textframe:filter))
   (kora_begin '(("CMDECHO" . 0)))
   (if (and (setq texts (cond (texts) ((kora_choose "Select texts to frame: " textframe:filter))))
-           (setq state (textframe:ask (kora_statefile "textframe") texts)))
-    (textframe:run texts state))
+           (kora_suggest_offset (setq file (kora_statefile "textframe")) (entget (car texts)))
+           (Dlg_TextFrame file))
+    (textframe:run texts (kora_readstate file)))
   (kora_end))
 
-;; -> the state, nil when cancelled. At first the distance is half the height of the first text.
-(defun textframe:ask (file texts)
-  (kora_suggest file "offset" (kora_number_text (* 0.5 (kora_field (entget (car texts)) 40)) 6))
-  (if (Dlg_TextFrame file) (kora_readstate file)))
-
-(defun textframe:is (state key) (= (kora_state_value state key) "TRUE"))
-
-(defun textframe:run (texts state / open rows box offset framed colour unfilled)
+(defun textframe:run (texts state / open rows framed colour)
   (setq open   (kora_unlocked texts)
-        offset (max 0.0 (cond ((kora_state_real state "offset")) (0.0)))
-        colour (if (textframe:is state "bk_hatch") (atoi (kora_state_value state "color")))
-        unfilled 0)
-  (foreach text open
-    (if (setq box (kora_text_box (entget text)))
-      (setq rows (cons (list text box) rows))))
-  (foreach row (mapcar 'list (reverse rows) (textframe:shapes (mapcar 'cadr (reverse rows)) state offset))
-    (if (and colour (not (textframe:fill (entget (caar row)) (cadar row) (cadr row) colour)))
-      (setq unfilled (1+ unfilled)))
-    (if (textframe:draw (entget (caar row)) (cadar row) (cadr row))
-      (setq framed (cons (caar row) framed))))
-  (if (and framed colour) (kora_bring_to_front (reverse framed)))
-  (if (> unfilled 0) (kora_alert_message "A drawing of this version cannot have a filled background."))
-  (kora_done (strcat (kora_counted (length framed) "text") " framed."
-                     (if (< (length framed) (length open))
-                       (strcat " " (itoa (- (length open) (length framed))) " could not be framed.")
-                       ""))
-             (- (length texts) (length open))))
+        colour (if (kora_state_is state "bk_hatch") (atoi (kora_state_value state "color"))))
+  (foreach row (textframe:rows open state)
+    (if (apply 'textframe:make (append (cdr row) (list colour)))
+      (setq framed (cons (car row) framed))))
+  (if (and framed colour)
+    (if (kora_field (entget (car framed)) 330)
+      (kora_bring_to_front framed)
+      (kora_alert_message "A drawing of this version cannot have a filled background.")))
+  (kora_done_with "framed" (length framed) (length open) (length texts)))
+
+;; -> list of (text data box outline) of the texts that show something.
+(defun textframe:rows (texts state / data box rows)
+  (foreach text texts
+    (setq data (entget text))
+    (if (setq box (kora_text_box data)) (setq rows (cons (list text data box) rows))))
+  (setq rows (reverse rows))
+  (mapcar '(lambda (row outline) (append row (list outline)))
+          rows
+          (textframe:shapes (mapcar 'caddr rows) state
+                            (max 0.0 (cond ((kora_state_real state "offset")) (0.0))))))
+
+;; The frame, and below it its filling when there is a colour. -> T, nil when it cannot be made.
+(defun textframe:make (data box outline colour)
+  (if colour (textframe:fill data box outline colour))
+  (textframe:draw data box outline))
 
 ;; -> for each box the outline of its frame: vertices (x y bulge) from the middle of the box, two for a circle.
 (defun textframe:shapes (boxes state offset / sizes)
   (setq sizes (mapcar '(lambda (box) (list (cadr box) (caddr box))) boxes))
-  (if (textframe:is state "type_circle")
+  (if (kora_state_is state "type_circle")
     (mapcar '(lambda (radius) (list (list (- radius) 0.0 1.0) (list radius 0.0 1.0)))
-            (textframe:radii sizes (textframe:is state "constant") offset))
-    (mapcar '(lambda (size) (textframe:outline size (textframe:is state "type_rectangle") offset))
-            (if (textframe:is state "constant") (textframe:made_alike sizes state) sizes))))
+            (textframe:radii sizes (kora_state_is state "constant") offset))
+    (mapcar '(lambda (size) (textframe:outline size (kora_state_is state "type_rectangle") offset))
+            (if (kora_state_is state "constant") (textframe:made_alike sizes state) sizes))))
 
 ;; Half the diagonals and the distance.
 (defun textframe:radii (sizes constant offset / radii largest)
@@ -61,8 +62,8 @@
 
 ;; The sizes with the widest width, the highest height or both for all.
 (defun textframe:made_alike (sizes state / width height)
-  (if (not (textframe:is state "constant_height")) (setq width (apply 'max (cons 0.0 (mapcar 'car sizes)))))
-  (if (not (textframe:is state "constant_width")) (setq height (apply 'max (cons 0.0 (mapcar 'cadr sizes)))))
+  (if (not (kora_state_is state "constant_height")) (setq width (apply 'max (cons 0.0 (mapcar 'car sizes)))))
+  (if (not (kora_state_is state "constant_width")) (setq height (apply 'max (cons 0.0 (mapcar 'cadr sizes)))))
   (mapcar '(lambda (size) (list (cond (width) ((car size))) (cond (height) ((cadr size))))) sizes))
 
 (defun textframe:outline (size rectangle offset / height)
@@ -102,7 +103,7 @@
     (setq fields (cddr fields)))
   (entmake '((0 . "SEQEND"))))
 
-;; -> T after filling the outline, nil when the drawing cannot have hatches.
+;; An early drawing cannot have hatches.
 (defun textframe:fill (data box outline colour)
   (if (assoc 330 data)
     (entmake (append '((0 . "HATCH") (100 . "AcDbEntity")) (kora_companion_fields data)

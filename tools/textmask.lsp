@@ -10,34 +10,25 @@
 (setq textmask:filter '((0 . "TEXT,MTEXT,ATTDEF")))
 (setq textmask:application "KORA_TEXTMASK")
 
-(defun c:textmask (/ *error* kora:variables texts state)
+(defun c:textmask (/ *error* kora:variables texts file)
   (setq texts (kora_chosen textmask:filter))
   (kora_begin '(("CMDECHO" . 0)))
   (if (and (setq texts (cond (texts) ((kora_choose "Select texts to mask: " textmask:filter))))
-           (setq state (textmask:ask (kora_statefile "textmask") texts)))
-    (textmask:run texts state))
+           (kora_suggest_offset (setq file (kora_statefile "textmask")) (entget (car texts)))
+           (Dlg_TextMask file))
+    (textmask:run texts (kora_readstate file)))
   (kora_end))
-
-;; -> the state, nil when cancelled. At first the distance is half the height of the first text.
-(defun textmask:ask (file texts)
-  (kora_suggest file "offset" (kora_number_text (* 0.5 (kora_field (entget (car texts)) 40)) 6))
-  (if (Dlg_TextMask file) (kora_readstate file)))
 
 (defun textmask:run (texts state / open old masked masks made)
   (setq open (kora_unlocked texts)
         old  (textmask:masks_of open))
-  (regapp textmask:application)
   (foreach text open
     (if (setq made (textmask:make (entget text) state))
       (setq masks  (cons made masks)
             masked (cons text masked))))
   (textmask:remove old masked)
-  (if masked (textmask:join (kora_bring_to_front masked) masks))
-  (kora_done (strcat (kora_counted (length masked) "text") " masked."
-                     (if (< (length masked) (length open))
-                       (strcat " " (itoa (- (length open) (length masked))) " could not be masked.")
-                       ""))
-             (- (length texts) (length open))))
+  (if masked (textmask:join (kora_bring_to_front (reverse masked)) (reverse masks)))
+  (kora_done_with "masked" (length masked) (length open) (length texts)))
 
 ;; -> list of (mask text), the masks that earlier runs made for these texts.
 (defun textmask:masks_of (texts / chosen handle text found)
@@ -58,6 +49,7 @@
 
 ;; Tells each mask which text it belongs to. A drawing without handles cannot say so.
 (defun textmask:join (texts masks / handle)
+  (regapp textmask:application)
   (mapcar '(lambda (text mask)
              (if (setq handle (kora_field (entget text) 5))
                (entmod (list (cons -1 mask) (list -3 (list textmask:application (cons 1005 handle)))))))
@@ -70,8 +62,8 @@
       (setq margin (* 2.0 (cond ((kora_state_real state "offset")) (0.0)))
             points (kora_box_points box (kora_corners (+ (cadr box) margin) (+ (caddr box) margin))))
       (entmakex
-        (append (cond ((= (kora_state_value state "type_solid") "TRUE") (textmask:solid data points state))
-                      ((= (kora_state_value state "type_3dface") "TRUE") (textmask:face data points))
+        (append (cond ((kora_state_is state "type_solid") (textmask:solid data points state))
+                      ((kora_state_is state "type_3dface") (textmask:face data points))
                       (T (textmask:wipeout data points))))))))
 
 ;; The third and fourth corner of a solid lie crosswise.

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <span>
 
 namespace host::lisp {
 
@@ -194,12 +195,9 @@ char32_t upperCharacter(char32_t c) noexcept
         if (c >= run.firstUpper + run.distance && c <= run.lastUpper + run.distance)
             return c - run.distance;
     }
-    for (const CasePair &pair : casePairs)
-        if (c == pair.lower)
-            return pair.upper;
-    for (const CasePair &pair : upperOnly)
-        if (c == pair.lower)
-            return pair.upper;
+    for (const auto pairs : {std::span<const CasePair>(casePairs), std::span<const CasePair>(upperOnly)})
+        if (const auto pair = std::ranges::find(pairs, c, &CasePair::lower); pair != pairs.end())
+            return pair->upper;
     const int parity = upperParity(c);
     return parity >= 0 && static_cast<int>(c % 2) != parity ? c - 1 : c;
 }
@@ -212,12 +210,9 @@ char32_t lowerCharacter(char32_t c) noexcept
         if (c >= run.firstUpper && c <= run.lastUpper)
             return c + run.distance;
     }
-    for (const CasePair &pair : casePairs)
-        if (c == pair.upper)
-            return pair.lower;
-    for (const CasePair &pair : lowerOnly)
-        if (c == pair.upper)
-            return pair.lower;
+    for (const auto pairs : {std::span<const CasePair>(casePairs), std::span<const CasePair>(lowerOnly)})
+        if (const auto pair = std::ranges::find(pairs, c, &CasePair::upper); pair != pairs.end())
+            return pair->lower;
     const int parity = upperParity(c);
     return parity >= 0 && static_cast<int>(c % 2) == parity ? c + 1 : c;
 }

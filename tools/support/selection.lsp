@@ -41,3 +41,10 @@
             (if (> locked 0)
               (strcat " " (itoa locked) (if (= locked 1) " on a locked layer was" " on locked layers were") " left alone.")
               ""))))
+
+;; (kora_done_with verb done open all) says how many texts were, say, "masked", out of those on layers that are not locked
+;; and out of all.
+(defun kora_done_with (verb done open all)
+  (kora_done (strcat (kora_counted done "text") " " verb "."
+                     (if (< done open) (strcat " " (itoa (- open done)) " could not be " verb ".") ""))
+             (- all open)))

@@ -62,6 +62,10 @@
 (defun kora_state_value (state key)
   (cond ((cdr (assoc (strcase key T) state))) ("")))
 
+;; (kora_state_is state key) -> T when the box or button of this key is checked.
+(defun kora_state_is (state key)
+  (= (kora_state_value state key) "TRUE"))
+
 ;; (kora_state_real state key) -> the number under key, nil when the text is none.
 (defun kora_state_real (state key)
   (distof (kora_state_value state key) 2))
@@ -70,7 +74,9 @@
 (defun kora_action (state)
   (car (kora_string_split (kora_state_value state "!action!") "=")))
 
-;; (kora_suggest file key value) puts the value into the state file if it has none under this key.
-(defun kora_suggest (file key value)
-  (if (= (kora_state_value (kora_readstate file) key) "")
-    (kora_writestate file (list (cons key value)))))
+;; (kora_suggest_offset file data) puts half the height of a text into the state file as the distance "offset" if it has
+;; none. -> T, also when the file cannot be written.
+(defun kora_suggest_offset (file data)
+  (if (= (kora_state_value (kora_readstate file) "offset") "")
+    (kora_writestate file (list (cons "offset" (kora_number_text (* 0.5 (kora_field data 40)) 6)))))
+  T)
