@@ -10,7 +10,9 @@
 ;;; support/catalogue.lsp what the Lisp engine holds, for the Lisp Explorer
 ;;; support/files.lsp     files of definitions, changed in one place
 ;;; support/dimstyles.lsp dimension styles as text
+;;; support/blocks.lsp    blocks, references to them, and what is within what
+;;; support/drawing.lsp   lines and texts in the user's coordinate system
 
-(foreach file '("strings" "run" "state" "entities" "selection" "texts" "textboxes" "catalogue" "files" "dimstyles")
+(foreach file '("strings" "run" "state" "entities" "selection" "texts" "textboxes" "catalogue" "files" "dimstyles" "blocks" "drawing")
   (load (strcat "support/" file ".lsp")))
 (princ)

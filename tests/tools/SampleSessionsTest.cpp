@@ -52,7 +52,10 @@ TEST_F(SampleSessions, ChangeWhatTheySayAndNothingElse)
         {u"dimstyleimport"_s, u"2+DIMSTYLE 1+LTYPE 1+STYLE 1~$HANDSEED"_s, u"standard.dim"_s, "END_OF_STYLE\r\n"},
         {u"editalias"_s, u"1+LINE 1~$HANDSEED"_s, u"alias.xml"_s, "<record command=\"LINE\" alias=\"QQ\"/>"},
         {u"edittextcase"_s, u"1+MTEXT 1~$HANDSEED 3~TEXT"_s, u"Ortakit/edittextcase.state"_s, "radiobutton3=TRUE"},
-        {u"getblockinfo"_s, furniture, u"../out/blocks.txt"_s,
+        // The table's eleven lines and two texts a row.
+        {u"getblockinfo"_s,
+         u"6+BLOCK 6+BLOCK_RECORD 5+CIRCLE 6+ENDBLK 9+INSERT 29+LINE 7+LWPOLYLINE 14+TEXT 1~$HANDSEED"_s,
+         u"../out/blocks.txt"_s,
          "Name     Instances\r\n007         1\r\n12          1\r\nBUSH        1\r\nCHAIR       2\r\n"},
         {u"importblockattributes"_s, {}, u"Ortakit/importblockattributes.state"_s, "attributes="},
         {u"lispdump"_s, {}, u"alias.xml"_s, "QQ"},
@@ -105,6 +108,7 @@ TEST_F(SampleSessions, CancelledCommandsChangeNothing)
                                                     {u"DIMSTYLEEXPORT"_s, u"Dlg_QT_ExchangedDimensionStyle"_s},
                                                     {u"DIMSTYLEIMPORT"_s, u"Dlg_QT_ImportDimensionStyle"_s},
                                                     {u"EDITALIAS"_s, u"Dlg_QT_EditAlias"_s},
+                                                    {u"GETBLOCKINFO"_s, u"Dlg_QT_GetBlockInfo"_s},
                                                     {u"MAKELINESTYLE"_s, u"Dlg_QT_MakeLineStyle"_s},
                                                     {u"MAKESHAPE"_s, u"Dlg_QT_MakeShape"_s},
                                                     {u"SELECTBLOCK"_s, u"DLG_QT_SelectBlock"_s}};

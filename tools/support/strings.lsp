@@ -40,3 +40,7 @@
 (defun kora_is_space (code)
   (or (= code 32) (<= 9 code 13) (<= 8192 code 8202)
       (if (member code '(133 160 5760 8232 8233 8239 8287 12288)) T)))
+
+;; (kora_number_of number noun) -> "1 block", "2 blocks".
+(defun kora_number_of (number noun)
+  (strcat (itoa number) " " noun (if (= number 1) "" "s")))
