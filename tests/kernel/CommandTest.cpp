@@ -148,6 +148,8 @@ TEST_F(Bench, insertTakesTheAttributesDefaultsWithoutAsking)
     lisp(doorFile);
     lisp("(setvar \"ATTREQ\" 0)(command \"-INSERT\" \"Door\" '(0 0) 1 1 0)");
     EXPECT_EQ(lisp("(cdr (assoc 1 (entget (entnext (entlast)))))"), "\"T30\"");
+    lisp("(command \"-INSERT\" \"\" '(1 0) 1 1 0)");
+    EXPECT_EQ(shapes(drawing()), "INSERT 0,0 Door x1 y1 0; INSERT 1,0 Door x1 y1 0") << "the last block again";
 }
 
 TEST_F(Bench, wblockAndInsertCarryADrawing)
