@@ -1,5 +1,6 @@
 #include "host/kernel/CurrentSpace.h"
 
+#include "host/drawing/Blocks.h"
 #include "host/drawing/Dictionaries.h"
 #include "host/drawing/HeaderVariables.h"
 #include "host/drawing/Tables.h"
@@ -13,25 +14,50 @@ QString model()
     return QStringLiteral("Model");
 }
 
-} // namespace
-
-QString paperLayoutName(const drawing::Drawing &drawing)
+/// The layouts of the drawing: each one's name and its object.
+std::vector<drawing::Dictionaries::Entry> layouts(const drawing::Drawing &drawing)
 {
     const drawing::Dictionaries &dictionaries = drawing.dictionaries();
     const drawing::RecordId root = dictionaries.root();
     const drawing::RecordId layouts = isValid(root) ? dictionaries.find(root, u"ACAD_LAYOUT") : drawing::noRecord;
-    const drawing::RecordId paper = drawing.tables().find(drawing::TableKind::BlockRecord, u"*Paper_Space");
-    if (isValid(layouts) && isValid(paper)) {
-        for (const drawing::Dictionaries::Entry &entry : dictionaries.entries(layouts)) {
-            if (!isValid(entry.record))
-                continue;
-            const drawing::TagList tags = drawing.tags(entry.record);
-            const drawing::Tag *block = tags.find(330, "AcDbLayout");
-            if (block && block->handle() == drawing.handle(paper))
-                return entry.name;
-        }
-    }
-    return QStringLiteral("Layout1");
+    return isValid(layouts) ? dictionaries.entries(layouts) : std::vector<drawing::Dictionaries::Entry>();
+}
+
+/// The handle of the table entry of the block that holds a layout's entities.
+drawing::Handle blockOf(const drawing::Drawing &drawing, const drawing::Dictionaries::Entry &layout)
+{
+    if (!isValid(layout.record))
+        return {};
+    const drawing::TagList tags = drawing.tags(layout.record);
+    const drawing::Tag *block = tags.find(330, "AcDbLayout");
+    return block ? block->handle().value_or(drawing::Handle{}) : drawing::Handle{};
+}
+
+} // namespace
+
+QString layoutOfBlock(const drawing::Drawing &drawing, drawing::RecordId block)
+{
+    const drawing::RecordId entry = isValid(block) ? drawing.blocks().read(block).tableEntry : drawing::noRecord;
+    for (const drawing::Dictionaries::Entry &layout : layouts(drawing))
+        if (isValid(entry) && blockOf(drawing, layout) == drawing.handle(entry))
+            return layout.name;
+    return {};
+}
+
+std::vector<drawing::RecordId> restingLayoutBlocks(const drawing::Drawing &drawing)
+{
+    std::vector<drawing::RecordId> blocks = drawing.blocks().all();
+    std::erase_if(blocks, [&](drawing::RecordId block) {
+        const drawing::Block read = drawing.blocks().read(block);
+        return !read.isLayout() || drawing.children(block).empty();
+    });
+    return blocks;
+}
+
+QString paperLayoutName(const drawing::Drawing &drawing)
+{
+    const QString name = layoutOfBlock(drawing, drawing.blocks().find(u"*Paper_Space"));
+    return name.isEmpty() ? QStringLiteral("Layout1") : name;
 }
 
 drawing::Space currentSpace(const drawing::Drawing &drawing)

@@ -10,6 +10,12 @@ drawing::Space currentSpace(const drawing::Drawing &drawing);
 /// Name of the layout whose paper space is in use; "Layout1" where the file does not say.
 QString paperLayoutName(const drawing::Drawing &drawing);
 
+/// Name of the layout whose entities the block holds; empty for a block of no layout.
+QString layoutOfBlock(const drawing::Drawing &drawing, drawing::RecordId block);
+
+/// The blocks of the layouts that are not in use: their entities are in the file's blocks.
+std::vector<drawing::RecordId> restingLayoutBlocks(const drawing::Drawing &drawing);
+
 /// Name of the layout tab that is current: "Model" or that of the paper space in use.
 QString currentLayout(const drawing::Drawing &drawing);
 

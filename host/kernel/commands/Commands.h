@@ -13,6 +13,8 @@ std::vector<CommandRow> drawOrderCommands();
 std::vector<CommandRow> blockCommands();
 std::vector<CommandRow> layerCommands();
 std::vector<CommandRow> linetypeCommands();
+std::vector<CommandRow> purgeCommands();
+std::vector<CommandRow> referenceCommands();
 std::vector<CommandRow> fileCommands();
 std::vector<CommandRow> viewCommands();
 std::vector<CommandRow> undoCommands();

@@ -46,6 +46,18 @@ bool hasParts(const QString &type, const FieldList &fields)
     return type == u"POLYLINE" || (type == u"INSERT" && integerOf(fields, 66) != 0);
 }
 
+/// The block of the layout that the fields name, when it is one that is not in use.
+RecordId restingLayoutOf(const drawing::Drawing &drawing, const FieldList &fields)
+{
+    const QString wanted = textOf(fields, 410);
+    if (wanted.isEmpty() || !layoutName(drawing, wanted).isEmpty())
+        return drawing::noRecord;
+    for (const RecordId block : restingLayoutBlocks(drawing))
+        if (layoutOfBlock(drawing, block).compare(wanted, Qt::CaseInsensitive) == 0)
+            return block;
+    return drawing::noRecord;
+}
+
 } // namespace
 
 EntityMaker::Outcome EntityMaker::make(const FieldList &fields)
@@ -110,9 +122,14 @@ EntityMaker::Outcome EntityMaker::create(const FieldList &head, const std::vecto
     const Field *paper = drawing::findField(fields, 67);
     const drawing::Space space =
         paper ? (paper->integer() ? drawing::Space::Paper : drawing::Space::Model) : currentSpace(drawing);
-    const drawing::CreateResult made = parts && !parts->empty()
-                                           ? drawing.entities().createComplex(fields, *parts, space)
-                                           : drawing.entities().create(fields, space);
+    const bool isComplex = parts && !parts->empty();
+    drawing::CreateResult made;
+    if (const RecordId block = restingLayoutOf(drawing, fields); isValid(block))
+        made = isComplex ? drawing.entities().createComplexInBlock(block, fields, *parts)
+                         : drawing.entities().createInBlock(block, fields);
+    else
+        made = isComplex ? drawing.entities().createComplex(fields, *parts, space)
+                         : drawing.entities().create(fields, space);
     return made ? Outcome{true, made.record, {}, {}} : failed(made.error);
 }
 

@@ -1,5 +1,6 @@
 #include "host/kernel/functions/ImpliedFields.h"
 
+#include "host/drawing/Blocks.h"
 #include "host/drawing/Entities.h"
 #include "host/kernel/CurrentSpace.h"
 
@@ -99,6 +100,15 @@ FieldList withVertexFields(const FieldList &fields)
     return full;
 }
 
+/// The layout that an entity stands in; empty for one of a block.
+QString layoutOf(const drawing::Drawing &drawing, drawing::RecordId entity)
+{
+    const drawing::RecordId parent = drawing.parent(entity);
+    if (drawing.kind(parent) == drawing::RecordKind::Block)
+        return drawing.blocks().read(parent).isLayout() ? layoutOfBlock(drawing, parent) : QString();
+    return drawing.entities().space(entity) == drawing::Space::Paper ? paperLayoutName(drawing) : u"Model"_s;
+}
+
 } // namespace
 
 const FieldList &impliedFields(QStringView type)
@@ -125,8 +135,8 @@ FieldList withImpliedFields(const drawing::Drawing &drawing, drawing::RecordId e
         const bool isPaper = drawing.entities().space(entity) == drawing::Space::Paper;
         if (!drawing::findField(fields, 67))
             missing.push_back({67, qint64(isPaper ? 1 : 0)});
-        if (!drawing::findField(fields, 410) && drawing.kind(drawing.parent(entity)) != drawing::RecordKind::Block)
-            missing.push_back({410, isPaper ? paperLayoutName(drawing) : u"Model"_s});
+        if (const QString layout = layoutOf(drawing, entity); !drawing::findField(fields, 410) && !layout.isEmpty())
+            missing.push_back({410, layout});
     }
     fields.insert(std::find_if(fields.begin(), fields.end(), isXdata), missing.begin(), missing.end());
     return fields;

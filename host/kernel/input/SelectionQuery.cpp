@@ -2,6 +2,7 @@
 
 #include "host/drawing/Entities.h"
 #include "host/drawing/Symbols.h"
+#include "host/kernel/CurrentSpace.h"
 #include "host/kernel/Document.h"
 #include "host/kernel/input/SelectionBuilder.h"
 #include "host/kernel/input/UserInput.h"
@@ -26,9 +27,16 @@ std::vector<RecordId> inShape(Document &document, const SelectionQuery &query)
     return newestFirst(Picker(document).inShape(kind, query.points));
 }
 
+/// Of the layouts that are not in use as well.
 std::vector<RecordId> wholeDrawing(Document &document, const SelectionQuery &)
 {
-    return newestFirst(document.drawing().entities().all());
+    const drawing::Drawing &drawing = document.drawing();
+    std::vector<RecordId> all = drawing.entities().all();
+    for (const RecordId block : restingLayoutBlocks(drawing)) {
+        const std::vector<RecordId> entities = drawing.children(block);
+        all.insert(all.end(), entities.begin(), entities.end());
+    }
+    return newestFirst(std::move(all));
 }
 
 std::vector<RecordId> currentSpaceWhole(Document &document, const SelectionQuery &)
