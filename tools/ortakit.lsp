@@ -11,8 +11,10 @@
 ;;; support/files.lsp     files of definitions, changed in one place
 ;;; support/dimstyles.lsp dimension styles as text
 ;;; support/blocks.lsp    blocks, references to them, and what is within what
+;;; support/attributes.lsp  attributes of block references
+;;; support/replacing.lsp replacing blocks
 ;;; support/drawing.lsp   lines and texts in the user's coordinate system
 
-(foreach file '("strings" "run" "state" "entities" "selection" "texts" "textboxes" "catalogue" "files" "dimstyles" "blocks" "drawing")
+(foreach file '("strings" "run" "state" "entities" "selection" "texts" "textboxes" "catalogue" "files" "dimstyles" "blocks" "drawing" "attributes" "replacing")
   (load (strcat "support/" file ".lsp")))
 (princ)

@@ -33,7 +33,6 @@ protected:
 // What the manual shows a new user: every session runs and leaves what it says in the drawing and beside it.
 TEST_F(SampleSessions, ChangeWhatTheySayAndNothingElse)
 {
-    const QString furniture = u"6+BLOCK 6+BLOCK_RECORD 5+CIRCLE 6+ENDBLK 9+INSERT 18+LINE 7+LWPOLYLINE 1~$HANDSEED"_s;
     const struct
     {
         QString name;
@@ -64,10 +63,13 @@ TEST_F(SampleSessions, ChangeWhatTheySayAndNothingElse)
          "*GAS,Gas pipe ---- GAS . ---- GAS .\nA,1,-1.2,[\"GAS\",Standard,S=0.2,R=0,X=-1,Y=-0.1],0,-0.3\n"},
         {u"makeshape"_s, {}, u"plan.shp"_s, ",DOOR\n"},
         {u"numbertext"_s, u"3~TEXT"_s, u"Ortakit/numbertext.state"_s, "tx_step=5"},
-        {u"replaceblock"_s, furniture, u"Ortakit/replaceblock.state"_s,
+        {u"replaceblock"_s, u"4+BLOCK 4+BLOCK_RECORD 3+CIRCLE 4+ENDBLK 9+INSERT 2+LINE 7+LWPOLYLINE 1~$HANDSEED"_s,
+         u"Ortakit/replaceblock.state"_s,
          "\xEF\xBB\xBF"
-         "blockstable=TREE^\n!action!=OK\nblockstablerep=BUSH^\npurgeitems=TRUE\nattsync=TRUE\n"},
-        {u"replaceblocktoxref"_s, furniture, u"Ortakit/replaceblocktoxref.state"_s,
+         "blockstable=7^TREE^\n!action!=OK\nblockstablerep=BUSH^\npurgeitems=TRUE\nattsync=FALSE\n"},
+        {u"replaceblockbyreference"_s,
+         u"7+BLOCK 7+BLOCK_RECORD 5+CIRCLE 7+ENDBLK 9+INSERT 18+LINE 7+LWPOLYLINE 1~$HANDSEED"_s,
+         u"Ortakit/replaceblocktoxref.state"_s,
          "\xEF\xBB\xBF"
          "blockstable=12^\n!action!=OK\ndirectory="},
         // Three insertions, two with an attribute, and the blocks with what they need; two insertions are in a block.
@@ -111,7 +113,9 @@ TEST_F(SampleSessions, CancelledCommandsChangeNothing)
                                                     {u"GETBLOCKINFO"_s, u"Dlg_QT_GetBlockInfo"_s},
                                                     {u"MAKELINESTYLE"_s, u"Dlg_QT_MakeLineStyle"_s},
                                                     {u"MAKESHAPE"_s, u"Dlg_QT_MakeShape"_s},
-                                                    {u"SELECTBLOCK"_s, u"DLG_QT_SelectBlock"_s}};
+                                                    {u"SELECTBLOCK"_s, u"DLG_QT_SelectBlock"_s},
+                                                    {u"REPLACEBLOCK"_s, u"Dlg_QT_ReplaceBlock"_s},
+                                                    {u"REPLACEBLOCKBYREFERENCE"_s, u"Dlg_QT_ReplaceBlockToXref"_s}};
     QString session;
     for (const auto &[command, dialog] : commands)
         session += u"command %1\ndialog %2\nclose\nexpect-modified no\n"_s.arg(command, dialog);

@@ -2,9 +2,9 @@
 ;;;
 ;;; Of names the letter case does not count. Where names are compared they are in capitals.
 
-;; (kora_space_inserts) -> the entity names of all block references in the drawing's spaces.
+;; (kora_space_inserts) -> the entity names of all block references in the drawing's layouts, the oldest first.
 (defun kora_space_inserts ()
-  (kora_selection_to_list (ssget "_X" '((0 . "INSERT")))))
+  (reverse (kora_selection_to_list (ssget "_X" '((0 . "INSERT"))))))
 
 ;; (kora_block_inserts name) -> the entity names of the block references in a definition.
 (defun kora_block_inserts (name)
@@ -82,3 +82,9 @@
       (setq left (kora_tree_with left name 'VISITED))
       (foreach count (cdr (kora_tree_find graph name)) (kora:visit_block (car count)))
       (setq order (cons name order)))))
+
+;; (kora_own_definitions) -> the names of the definitions that are the drawing's own, nameless ones included: all but
+;; external references and their parts.
+(defun kora_own_definitions ()
+  (vl-remove-if '(lambda (name) (/= 0 (logand 28 (cond ((kora_field (tblsearch "BLOCK" name) 70)) (0)))))
+                (kora_table_names "BLOCK")))

@@ -92,3 +92,8 @@
   (if (> bulge 0)
     (kora:arc_points centre (abs radius) (angle centre from) (angle centre to))
     (kora:arc_points centre (abs radius) (angle centre to) (angle centre from))))
+
+;; (kora_is_locked data) -> T when the entity's layer is locked.
+(defun kora_is_locked (data / layer)
+  (setq layer (tblsearch "LAYER" (cond ((kora_field data 8)) ("0"))))
+  (and layer (/= 0 (logand 4 (cond ((kora_field layer 70)) (0))))))

@@ -110,3 +110,12 @@
      (kora_refuse (strcat "The file " path " does not look like a file of definitions. Nothing was written.")))
     ((kora_write_lines path (kora_put_definition lines field name definition)) T)
     (T (kora_refuse (strcat "The file " path " cannot be written. It is as it was before.")))))
+
+;; (kora_read_lines path) -> the lines of a text file of the tools, nil for a missing or empty one.
+(defun kora_read_lines (path / handle line lines)
+  (if (setq handle (open path "r"))
+    (progn
+      (while (setq line (read-line handle)) (setq lines (cons (vl-string-right-trim "\r" line) lines)))
+      (close handle)
+      (setq lines (reverse lines))
+      (if lines (cons (kora:without_mark (car lines)) (cdr lines))))))

@@ -44,3 +44,13 @@
 ;; (kora_number_of number noun) -> "1 block", "2 blocks".
 (defun kora_number_of (number noun)
   (strcat (itoa number) " " noun (if (= number 1) "" "s")))
+
+;; (kora_also number text) -> ", 2 ..." for the end of a message, "" for none.
+(defun kora_also (number text)
+  (if (> number 0) (strcat ", " (itoa number) text) ""))
+
+;; (kora_literal text) -> a pattern for wcmatch that this text alone matches.
+(defun kora_literal (text / codes)
+  (foreach code (vl-string->list text)
+    (setq codes (if (member code '(35 64 46 42 63 126 91 93 45 44 96)) (cons code (cons 96 codes)) (cons code codes))))
+  (vl-list->string (reverse codes)))

@@ -1,0 +1,104 @@
+;;; Attributes of block references. Tags are compared in capitals.
+
+;; (kora_attributes insert) -> the entity names of a reference's attributes.
+(defun kora_attributes (insert / entity names)
+  (if (= 1 (kora_field (entget insert) 66))
+    (progn
+      (setq entity (entnext insert))
+      (while (and entity (= (kora_field (entget entity) 0) "ATTRIB"))
+        (setq names  (cons entity names)
+              entity (entnext entity)))))
+  (reverse names))
+
+;; (kora_attribute_tag data) -> the tag of an attribute or its definition.
+(defun kora_attribute_tag (data) (strcase (cond ((kora_field data 2)) (""))))
+
+;; (kora_set_attribute attribute text) -> T when the attribute got this text now, nil when it had it already.
+(defun kora_set_attribute (attribute text / data)
+  (setq data (entget attribute))
+  (if (/= (kora_field data 1) text)
+    (if (entmod (kora_with_field data 1 text)) T)))
+
+;; (kora_attribute_definitions block) -> the data of the definitions of a block's attributes, without constant ones.
+(defun kora_attribute_definitions (block)
+  (vl-remove-if-not '(lambda (data)
+                       (and (= (kora_field data 0) "ATTDEF")
+                            (= 0 (logand 2 (cond ((kora_field data 70)) (0))))))
+                    (mapcar 'entget (kora_block_entities block))))
+
+;; (kora_sync_attributes insert nested) gives a reference the attributes that its block defines, as the block places them:
+;; the values stay by tag, what is new has its preset value, what the block does not define goes. A reference that gets
+;; other attributes is a new entity. -> T; nil for such a one that is nested, within a block definition: it stays.
+(defun kora_sync_attributes (insert nested / data definitions attributes values)
+  (setq data        (entget insert)
+        definitions (kora_attribute_definitions (kora_field data 2))
+        attributes  (kora_attributes insert)
+        values      (mapcar '(lambda (attribute)
+                               (cons (kora_attribute_tag (entget attribute)) (kora_field (entget attribute) 1)))
+                            attributes))
+  (cond
+    ((equal (vl-sort (mapcar 'car values) '<) (vl-sort (mapcar 'kora_attribute_tag definitions) '<))
+     (foreach attribute attributes (kora:place_attribute attribute))
+     T)
+    ((not nested) (kora:insert_anew insert) T)))
+
+;; Places an attribute of a reference as its definition says; its text stays.
+(defun kora:place_attribute (attribute / old new)
+  (setq old (entget attribute)
+        new (car (vl-member-if '(lambda (definition) (= (kora_attribute_tag definition) (kora_attribute_tag old)))
+                               definitions)))
+  (foreach field (kora:attribute_fields new data)
+    (setq old (kora_with_field old (car field) (cdr field))))
+  (entmod old))
+
+;; Makes the reference again with the attributes of its block, in its place.
+(defun kora:insert_anew (insert / xdata base)
+  (setq base  (entget insert '("*"))
+        base  (vl-remove-if '(lambda (field) (= (car field) 66)) (kora_copy_data base))
+        xdata (assoc -3 base)
+        base  (vl-remove xdata base))
+  (if (entmake (append base (if definitions '((66 . 1))) (if xdata (list xdata))))
+    (progn
+      (foreach definition definitions
+        (entmake (append (list '(0 . "ATTRIB")) (kora:attribute_fields definition data)
+                         (list (cons 2 (kora_field definition 2))
+                               (cons 1 (cond ((cdr (assoc (kora_attribute_tag definition) values)))
+                                             ((kora_field definition 1))
+                                             (""))))
+                         (if (assoc 410 data) (list (assoc 410 data)))
+                         (if (assoc 67 data) (list (assoc 67 data))))))
+      (if definitions (entmake (list '(0 . "SEQEND") (cons 8 (kora_field data 8)))))
+      (entdel insert))))
+
+;; The fields that place an attribute of the definition in a reference, data. A mirrored reference has its attributes
+;; backward or upside down.
+(defun kora:attribute_fields (definition data / wide high turn fields)
+  (setq wide   (cond ((kora_field data 41)) (1.0))
+        high   (cond ((kora_field data 42)) (1.0))
+        turn   (cond ((kora_field definition 50)) (0.0))
+        fields (vl-remove-if-not '(lambda (field) (member (car field) '(6 7 8 51 62 70 72 73 74))) definition))
+  (append fields
+          (list (cons 10 (kora:in_reference (kora_field definition 10) data))
+                (cons 11 (kora:in_reference (kora_field definition (if (kora:is_aligned definition) 11 10)) data))
+                (cons 40 (* (abs high) (kora_field definition 40)))
+                (cons 41 (* (abs (/ wide high)) (cond ((kora_field definition 41)) (1.0))))
+                (cons 50 (+ (cond ((kora_field data 50)) (0.0))
+                            (atan (* (if (< (* wide high) 0.0) -1.0 1.0) (abs high) (sin turn))
+                                  (* (abs wide) (cos turn)))))
+                (cons 71 (boole 6 (cond ((kora_field definition 71)) (0))
+                                (+ (if (< wide 0.0) 2 0) (if (< high 0.0) 4 0))))
+                (cons 210 (cond ((kora_field data 210)) ('(0.0 0.0 1.0)))))))
+
+;; Whether the second point of a text places it: with any alignment but the left end on the line.
+(defun kora:is_aligned (data)
+  (and (kora_field data 11)
+       (or (/= 0 (cond ((kora_field data 72)) (0))) (/= 0 (cond ((kora_field data 74)) (0))))))
+
+;; Where a point of the block lies in the reference, in the reference's own coordinates.
+(defun kora:in_reference (point data / base)
+  (setq base  (kora:point3d (kora_field (tblsearch "BLOCK" (kora_field data 2)) 10))
+        point (mapcar '(lambda (code place from) (* (cond ((kora_field data code)) (1.0)) (- place from)))
+                      '(41 42 43) (kora:point3d point) base)
+        base  (polar '(0.0 0.0) (+ (angle '(0.0 0.0) point) (cond ((kora_field data 50)) (0.0)))
+                     (distance '(0.0 0.0) (list (car point) (cadr point)))))
+  (mapcar '+ (kora_field data 10) (list (car base) (cadr base) (caddr point))))

@@ -1,0 +1,84 @@
+;;; Replacing blocks: what REPLACEBLOCK and REPLACEBLOCKBYREFERENCE share.
+
+;; (kora_ask_replacement dialog file chosen) runs the dialog, a function's symbol, until the user confirms or cancels;
+;; in between blocks are picked in the drawing. chosen is a selection of references whose blocks are chosen at first, or
+;; nil. -> the state, nil when cancelled.
+(defun kora_ask_replacement (dialog file chosen / blocks state done)
+  (setq blocks (kora:block_descriptions))
+  (if chosen (kora:choose_blocks file chosen))
+  (while (and (not done) (apply dialog (cons file blocks)))
+    (setq state (kora_readstate file))
+    (if (= (kora_action state) "GETBLOCKS")
+      (kora:choose_blocks file (progn (princ "\nSelect block references: ") (ssget '((0 . "INSERT")))))
+      (setq done T)))
+  (if done state))
+
+;; The dialog's list: name, and as fourth field the number of references in the layouts.
+(defun kora:block_descriptions (/ counts)
+  (setq counts (kora_tree (kora_counted (mapcar 'kora_insert_name (kora_space_inserts)))))
+  (mapcar '(lambda (name) (strcat name "^^^" (itoa (cond ((cdr (kora_tree_find counts (strcase name)))) (0)))))
+          (kora_block_names)))
+
+;; Enters the blocks of picked references into the state; without any the choice stays as it is.
+(defun kora:choose_blocks (file selection / known names)
+  (setq known (mapcar 'strcase (kora_block_names))
+        names (mapcar 'car (kora_counted (mapcar 'kora_insert_name (kora_selection_to_list selection))))
+        names (vl-remove-if-not '(lambda (name) (member name known)) names))
+  (if names
+    (kora_writestate file (list (cons "blockstable" (strcat (kora_string_join names "^") "^"))
+                                '("!action!" . "SETBLOCKS")))
+    (kora_alert_message "No block that can be replaced was selected.")))
+
+;; (kora_chosen_blocks text) -> the names of the blocks that a state's value means: a name of digits only is there as a
+;; number.
+(defun kora_chosen_blocks (text / names)
+  (setq names (kora_block_names))
+  (vl-remove nil (mapcar '(lambda (part) (if (/= part "") (kora:block_meant part))) (kora_string_split text "^"))))
+
+(defun kora:block_meant (part / meant)
+  (setq meant (vl-remove-if-not '(lambda (name) (= (strcase name) (strcase part))) names))
+  (if (null meant)
+    (setq meant (vl-remove-if-not '(lambda (name) (and (= (vl-string-trim "0123456789" name) "")
+                                                       (= (vl-string-left-trim "0" name) (vl-string-left-trim "0" part))))
+                                  names)))
+  (car meant))
+
+;; (kora_replace_blocks names new sync) makes references to the blocks of these names references to new: those of the
+;; layouts, and those within blocks unless new would then be in itself. With sync they get the attributes of new. What is
+;; on locked layers stays. -> (replaced locked circular unsynced), numbers.
+(defun kora_replace_blocks (names new sync / within replaced locked circular unsynced)
+  (setq names    (mapcar 'strcase names)
+        within   (kora_blocks_within (kora_block_graph) (list (strcase new)))
+        replaced 0 locked 0 circular 0 unsynced 0)
+  (foreach insert (kora_space_inserts) (kora:replace_insert insert nil))
+  (foreach block (mapcar 'strcase (kora_own_definitions))
+    (foreach insert (kora_block_inserts block)
+      (if (member block within)
+        (if (member (kora_insert_name insert) names) (setq circular (1+ circular)))
+        (kora:replace_insert insert T))))
+  (list replaced locked circular unsynced))
+
+(defun kora:replace_insert (insert nested / data)
+  (setq data (entget insert))
+  (cond ((not (member (strcase (kora_field data 2)) names)))
+        ((kora_is_locked data) (setq locked (1+ locked)))
+        ((entmod (kora_with_field data 2 new))
+         (setq replaced (1+ replaced))
+         (if (and sync (not (kora_sync_attributes insert nested))) (setq unsynced (1+ unsynced))))))
+
+;; (kora_purge_blocks) takes out the definitions that nothing refers to. -> how many.
+(defun kora_purge_blocks (/ before)
+  (setq before (length (kora_table_names "BLOCK")))
+  (command "_.-PURGE" "_Blocks" "*" "_No")
+  (- before (length (kora_table_names "BLOCK"))))
+
+;; (kora_finish_replacement counts state) purges when the state says so, and tells what was done.
+(defun kora_finish_replacement (counts state / purged)
+  (if (= (kora_state_value state "purgeitems") "TRUE") (setq purged (kora_purge_blocks)))
+  (kora_alert_message
+    (strcat (kora_number_of (car counts) "reference") " replaced"
+            (kora_also (cadr counts) " on locked layers left as they were")
+            (kora_also (caddr counts) " within the new block left as they were")
+            (kora_also (cadddr counts) " within blocks could not get other attributes")
+            (if purged (strcat "; " (kora_number_of purged "block") " purged") "")
+            ".")))
