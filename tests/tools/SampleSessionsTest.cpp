@@ -63,6 +63,8 @@ TEST_F(SampleSessions, ChangeWhatTheySayAndNothingElse)
          "*GAS,Gas pipe ---- GAS . ---- GAS .\nA,1,-1.2,[\"GAS\",Standard,S=0.2,R=0,X=-1,Y=-0.1],0,-0.3\n"},
         {u"makeshape"_s, {}, u"plan.shp"_s, ",DOOR\n"},
         {u"numbertext"_s, u"3~TEXT"_s, u"Ortakit/numbertext.state"_s, "tx_step=5"},
+        {u"redefinepaths"_s, u"1+BLOCK 1+BLOCK_RECORD 1+ENDBLK 1+INSERT 1+STYLE 1~$HANDSEED"_s,
+         u"Ortakit/redefinepaths.state"_s, "txreplace=d:\\2026\n"},
         {u"replaceblock"_s, u"4+BLOCK 4+BLOCK_RECORD 3+CIRCLE 4+ENDBLK 9+INSERT 2+LINE 7+LWPOLYLINE 1~$HANDSEED"_s,
          u"Ortakit/replaceblock.state"_s,
          "\xEF\xBB\xBF"
@@ -86,6 +88,7 @@ TEST_F(SampleSessions, ChangeWhatTheySayAndNothingElse)
          u"1~BLOCK_RECORD "
          "1~DICTIONARY"_s,
          u"Ortakit/textmask.state"_s, "type_mask=TRUE"},
+        {u"showlinks"_s, u"1+APPID 1~$HANDSEED 2~TEXT"_s, u"Ortakit/showlinks.state"_s, "txreplace=new.example\n"},
     };
     QStringList names;
     for (const auto &row : rows) {
@@ -114,8 +117,10 @@ TEST_F(SampleSessions, CancelledCommandsChangeNothing)
                                                     {u"MAKELINESTYLE"_s, u"Dlg_QT_MakeLineStyle"_s},
                                                     {u"MAKESHAPE"_s, u"Dlg_QT_MakeShape"_s},
                                                     {u"SELECTBLOCK"_s, u"DLG_QT_SelectBlock"_s},
+                                                    {u"REDEFINEPATHS"_s, u"Dlg_QT_RedefinePaths"_s},
                                                     {u"REPLACEBLOCK"_s, u"Dlg_QT_ReplaceBlock"_s},
-                                                    {u"REPLACEBLOCKBYREFERENCE"_s, u"Dlg_QT_ReplaceBlockToXref"_s}};
+                                                    {u"REPLACEBLOCKBYREFERENCE"_s, u"Dlg_QT_ReplaceBlockToXref"_s},
+                                                    {u"SHOWLINKS"_s, u"Dlg_QT_ShowLinks"_s}};
     QString session;
     for (const auto &[command, dialog] : commands)
         session += u"command %1\ndialog %2\nclose\nexpect-modified no\n"_s.arg(command, dialog);

@@ -1,0 +1,129 @@
+;;; menu: Show links | SHOWLINKS | Lists the hyperlinks of entities, to change, remove and find them
+;;;
+;;; SHOWLINKS: the dialog shows the links of the entities in all layouts and writes them to a file when it closes; from
+;;; there what was changed and removed goes into the drawing. Of entities chosen before the command only theirs are shown.
+;;; Show Entity turns to the entities of the selected links, shows them as large as the window and bright, and comes back
+;;; to the dialog as it was left. Entities on locked layers keep their links.
+;;;
+;;; A link is extended data of the application PE_URL: its first text is the URL; a description and what else follows
+;;; stays as it is. In the file a line is HANDLE^URL^TYPE^LAYOUT.
+
+(defun c:showlinks (/ *error* kora:variables chosen state links)
+  (setq chosen (ssget "_I" '((-3 ("PE_URL")))))
+  (kora_begin '(("CMDECHO" . 0)))
+  (setq state (kora_statefile "showlinks")
+        links (kora_userfile "showlinks.links"))
+  (cond
+    ((not (showlinks:write links (cond (chosen) ((ssget "_X" '((-3 ("PE_URL"))))))))
+     (kora_alert_message (strcat "The links cannot be listed: " links " cannot be written.")))
+    ((null (kora_writestate state (list (cons "linkfile" links) '("!action!" . "RETURN"))))
+     (kora_alert_message (strcat "The file " state " could not be written.")))
+    ((showlinks:ask state links) (showlinks:apply links)))
+  (vl-file-delete links)
+  (kora_end))
+
+;; Writes the links of the selected entities in the order of the drawing. -> T, nil when the file cannot be written.
+(defun showlinks:write (links selection / handle data)
+  (if (setq handle (open links "w"))
+    (progn
+      (foreach entity (reverse (kora_selection_to_list selection))
+        (setq data (entget entity '("PE_URL")))
+        (if (showlinks:url data)
+          (write-line (kora_string_join (list (kora_field data 5) (showlinks:shown (showlinks:url data))
+                                              (kora_field data 0) (cond ((kora_field data 410)) ("")))
+                                        "^")
+                      handle)))
+      (close handle)
+      T)))
+
+;; -> the URL of an entity's data, nil when it has none.
+(defun showlinks:url (data)
+  (kora_field (cdadr (assoc -3 data)) 1000))
+
+;; A URL as the file can have it: in one line and without the sign that divides its fields.
+(defun showlinks:shown (url)
+  (kora_replace_all "%5E" "^" (vl-string-translate "\r\n" "  " url)))
+
+;; Runs the dialog; in between entities are shown. -> T when the user confirmed.
+(defun showlinks:ask (state links / done)
+  (while (and (not done) (Dlg_ShowLinks state))
+    (cond ((= (kora_action (kora_readstate state)) "SHOWENTITY")
+           (showlinks:show (showlinks:entities (kora_read_lines links))))
+          (T (setq done T))))
+  done)
+
+;; -> the entities of the lines that are in the drawing.
+(defun showlinks:entities (lines)
+  (vl-remove-if-not '(lambda (entity) (and entity (entget entity)))
+                    (mapcar '(lambda (line) (handent (car (kora_string_split line "^")))) lines)))
+
+;; Turns to the layout of the first entity and shows those in it until the user enters something.
+(defun showlinks:show (entities / layout box)
+  (if entities
+    (progn
+      (setq layout   (kora_field (entget (car entities)) 410)
+            entities (vl-remove-if-not '(lambda (entity) (equal (kora_field (entget entity) 410) layout)) entities))
+      (if (and layout (/= (strcase layout) (strcase (getvar "CTAB"))))
+        (setq layout (vl-catch-all-apply 'setvar (list "CTAB" layout))))
+      (if (vl-catch-all-error-p layout)
+        (kora_alert_message "This layout cannot be shown here.")
+        (progn
+          (if (setq box (kora_bounding_box entities)) (showlinks:zoom box))
+          (showlinks:highlight entities))))
+    (kora_alert_message "The entities are not in the drawing any more.")))
+
+;; Some of what lies around shows where it is.
+(defun showlinks:zoom (box / margin)
+  (setq margin (* 0.5 (max (distance (car box) (cadr box)) (* 0.1 (distance (getvar "EXTMIN") (getvar "EXTMAX"))))))
+  (command "_.ZOOM" "_Window"
+           (trans (mapcar '- (car box) (list margin margin 0.0)) 0 1)
+           (trans (mapcar '+ (cadr box) (list margin margin 0.0)) 0 1)))
+
+(defun showlinks:highlight (entities / answer)
+  (foreach entity entities (redraw entity 3))
+  (setq answer (vl-catch-all-apply 'getstring (list "\nPress Enter to return to the links: ")))
+  (foreach entity entities (redraw entity 4))
+  (if (vl-catch-all-error-p answer) (exit)))
+
+;; Takes what the dialog wrote into the drawing and tells how much that was.
+(defun showlinks:apply (links / changed removed locked fields data)
+  (setq changed 0 removed 0 locked 0)
+  (foreach line (kora_read_lines links)
+    (setq fields (kora_string_split line "^"))
+    (if (= (car fields) "REMOVE")
+      (if (setq data (showlinks:data (cadr fields))) (showlinks:remove data))
+      (if (and (setq data (showlinks:data (car fields)))
+               (/= (showlinks:written fields) (showlinks:shown (showlinks:url data))))
+        (showlinks:change data (showlinks:written fields)))))
+  (kora_alert_message (strcat (kora_number_of changed "link") " changed, " (itoa removed) " removed"
+                              (kora_also locked " on locked layers left as they were") ".")))
+
+;; What stands between the handle and the last two fields.
+(defun showlinks:written (fields)
+  (kora_string_join (reverse (cddr (reverse (cdr fields)))) "^"))
+
+;; -> the data of the entity, nil when it is not in the drawing or has no link.
+(defun showlinks:data (handle / entity data)
+  (if (and (setq entity (handent handle))
+           (setq data (entget entity '("PE_URL")))
+           (showlinks:url data))
+    data))
+
+(defun showlinks:change (data url)
+  (cond ((kora_is_locked data) (setq locked (1+ locked)))
+        ((entmod (subst (list -3 (showlinks:with_url (cadr (assoc -3 data)) url)) (assoc -3 data) data))
+         (setq changed (1+ changed)))))
+
+;; The first text only: the description is often the same.
+(defun showlinks:with_url (items url / done)
+  (mapcar '(lambda (item)
+             (if (and (not done) (listp item) (= (car item) 1000))
+               (progn (setq done T) (cons 1000 url))
+               item))
+          items))
+
+(defun showlinks:remove (data)
+  (cond ((kora_is_locked data) (setq locked (1+ locked)))
+        ((entmod (subst '(-3 ("PE_URL")) (assoc -3 data) data)) (setq removed (1+ removed)))))
+
+(princ)
