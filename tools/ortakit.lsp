@@ -11,10 +11,11 @@
 ;;; support/files.lsp     files of definitions, changed in one place
 ;;; support/dimstyles.lsp dimension styles as text
 ;;; support/blocks.lsp    blocks, references to them, and what is within what
-;;; support/attributes.lsp  attributes of block references
+;;; support/attributes.lsp attributes of block references
 ;;; support/replacing.lsp replacing blocks
 ;;; support/drawing.lsp   lines and texts in the user's coordinate system
+;;; support/variables.lsp system variables
 
-(foreach file '("strings" "run" "state" "entities" "selection" "texts" "textboxes" "catalogue" "files" "dimstyles" "blocks" "drawing" "attributes" "replacing")
+(foreach file '("strings" "run" "state" "entities" "selection" "texts" "textboxes" "catalogue" "files" "dimstyles" "blocks" "drawing" "attributes" "replacing" "variables")
   (load (strcat "support/" file ".lsp")))
 (princ)
