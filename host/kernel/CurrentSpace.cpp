@@ -44,13 +44,10 @@ QString layoutOfBlock(const drawing::Drawing &drawing, drawing::RecordId block)
     return {};
 }
 
-std::vector<drawing::RecordId> restingLayoutBlocks(const drawing::Drawing &drawing)
+std::vector<drawing::RecordId> layoutBlocks(const drawing::Drawing &drawing)
 {
     std::vector<drawing::RecordId> blocks = drawing.blocks().all();
-    std::erase_if(blocks, [&](drawing::RecordId block) {
-        const drawing::Block read = drawing.blocks().read(block);
-        return !read.isLayout() || drawing.children(block).empty();
-    });
+    std::erase_if(blocks, [&](drawing::RecordId block) { return !drawing.blocks().read(block).isLayout(); });
     return blocks;
 }
 

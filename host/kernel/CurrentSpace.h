@@ -13,8 +13,9 @@ QString paperLayoutName(const drawing::Drawing &drawing);
 /// Name of the layout whose entities the block holds; empty for a block of no layout.
 QString layoutOfBlock(const drawing::Drawing &drawing, drawing::RecordId block);
 
-/// The blocks of the layouts that are not in use: their entities are in the file's blocks.
-std::vector<drawing::RecordId> restingLayoutBlocks(const drawing::Drawing &drawing);
+/// The blocks of all layouts. Those of model space and of the paper space in use are empty, others hold the layout's
+/// entities.
+std::vector<drawing::RecordId> layoutBlocks(const drawing::Drawing &drawing);
 
 /// Name of the layout tab that is current: "Model" or that of the paper space in use.
 QString currentLayout(const drawing::Drawing &drawing);

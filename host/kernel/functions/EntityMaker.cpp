@@ -52,7 +52,7 @@ RecordId restingLayoutOf(const drawing::Drawing &drawing, const FieldList &field
     const QString wanted = textOf(fields, 410);
     if (wanted.isEmpty() || !layoutName(drawing, wanted).isEmpty())
         return drawing::noRecord;
-    for (const RecordId block : restingLayoutBlocks(drawing))
+    for (const RecordId block : layoutBlocks(drawing))
         if (layoutOfBlock(drawing, block).compare(wanted, Qt::CaseInsensitive) == 0)
             return block;
     return drawing::noRecord;

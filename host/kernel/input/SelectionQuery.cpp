@@ -32,7 +32,7 @@ std::vector<RecordId> wholeDrawing(Document &document, const SelectionQuery &)
 {
     const drawing::Drawing &drawing = document.drawing();
     std::vector<RecordId> all = drawing.entities().all();
-    for (const RecordId block : restingLayoutBlocks(drawing)) {
+    for (const RecordId block : layoutBlocks(drawing)) {
         const std::vector<RecordId> entities = drawing.children(block);
         all.insert(all.end(), entities.begin(), entities.end());
     }
