@@ -23,19 +23,22 @@ bool namesBlocks(const QString &table)
     return table.compare(QStringLiteral("BLOCK"), Qt::CaseInsensitive) == 0;
 }
 
-/// The table's entries in order. Throws for a name that is no table.
-std::vector<RecordId> entriesOf(Arguments &args, const QString &table)
+/// The table's entry behind `cursor`, the first for noRecord; noRecord behind the last, and behind one that is gone
+/// meanwhile. Throws for a name that is no table.
+RecordId entryBehind(Arguments &args, const QString &table, RecordId cursor)
 {
     const drawing::Drawing &drawing = documentOf(args).drawing();
-    if (namesBlocks(table)) {
-        std::vector<RecordId> blocks = drawing.blocks().all();
-        std::erase_if(blocks, [&](RecordId block) { return drawing.blocks().read(block).isLayout(); });
-        return blocks;
-    }
+    const bool isBlocks = namesBlocks(table);
     const auto kind = drawing::tableKindOf(table.toUpper());
-    if (!kind)
+    if (!isBlocks && !kind)
         args.badValue(0, "table name");
-    return drawing.tables().entries(*kind);
+    const RecordId head = isBlocks ? drawing.sectionRecord(drawing::Section::Blocks) : drawing.tables().table(*kind);
+    if (!isValid(head) || (isValid(cursor) && !drawing.isAlive(cursor)))
+        return drawing::noRecord;
+    RecordId entry = isValid(cursor) ? drawing.nextSibling(cursor) : drawing.firstChild(head);
+    while (isBlocks && isValid(entry) && drawing.blocks().read(entry).isLayout())
+        entry = drawing.nextSibling(entry);
+    return entry;
 }
 
 RecordId entryNamed(Arguments &args, const QString &table, const QString &name)
@@ -94,22 +97,15 @@ Value tblsearch(Arguments &args)
 Value tblnext(Arguments &args)
 {
     const QString table = stringAt(args, 0);
-    const std::vector<RecordId> entries = entriesOf(args, table);
     QHash<QString, RecordId> &cursors = documentOf(args).cursors();
     const QString key = table.toUpper();
     if (args.has(1))
         cursors.remove(key);
-    auto next = entries.begin();
-    if (cursors.contains(key)) {
-        next = std::find(entries.begin(), entries.end(), cursors.value(key));
-        // The entry it stood at may be gone meanwhile: then there is no next one.
-        if (next != entries.end())
-            ++next;
-    }
-    if (next == entries.end())
+    const RecordId next = entryBehind(args, table, cursors.value(key, drawing::noRecord));
+    if (!isValid(next))
         return {};
-    cursors.insert(key, *next);
-    return tableList(args, *next);
+    cursors.insert(key, next);
+    return tableList(args, next);
 }
 
 // (tblobjname table name) -> the entry's entity name, nil when there is none.
