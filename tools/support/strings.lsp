@@ -1,7 +1,22 @@
 ;;; Strings.
 
 ;; (kora_string_split text separator) -> list of the parts of text between separators, empty ones included.
-(defun kora_string_split (text separator / found parts width)
+(defun kora_string_split (text separator)
+  (if (and (= (strlen separator) 1) (> (strlen text) 1000))
+    (kora:split_long text separator)
+    (kora:split_short text separator)))
+
+;; By halves, because what is left of a text is copied for each part.
+(defun kora:split_long (text separator / middle found parts)
+  (setq middle (/ (strlen text) 2)
+        found  (vl-string-search separator text middle))
+  (if found
+    (append (kora_string_split (substr text 1 found) separator) (kora_string_split (substr text (+ found 2)) separator))
+    (progn
+      (setq parts (reverse (kora_string_split (substr text 1 middle) separator)))
+      (reverse (cons (strcat (car parts) (substr text (1+ middle))) (cdr parts))))))
+
+(defun kora:split_short (text separator / found parts width)
   (setq width (strlen separator))
   (while (setq found (vl-string-search separator text))
     (setq parts (cons (substr text 1 found) parts)
