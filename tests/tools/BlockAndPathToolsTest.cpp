@@ -236,10 +236,9 @@ TEST_F(BlockAndPathTools, DrawingsMadeElsewhereStaySound)
         const char *name;
         const char *old;
         const char *replacement;
-    } rows[] = {{"clipped_blocks", "BaseBlock", "#0"},
-                {"nested_dimensions", "BLK3", "BLK2"},
-                {"images", "image_line_new", "image_new"},
-                {"masked_door", "wipeout_door", "#0"}};
+    } rows[] = {{"clipped_blocks", "BaseBlock", "#0"},     {"block_arrays_with_attributes", "FLAG", "#0"},
+                {"uncommon", "DATE_BLOCK", "#0"},          {"nested_dimensions", "BLK3", "BLK2"},
+                {"images", "image_line_new", "image_new"}, {"masked_door", "wipeout_door", "#0"}};
     for (const auto &row : rows) {
         SCOPED_TRACE(row.name);
         const QString drawing = corpus.filePath(QLatin1StringView(row.name) + u".dxf"_s);

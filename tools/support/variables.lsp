@@ -59,3 +59,17 @@
   (cond ((member name kora:told_variables) (strcat ";" text ") read-only"))
         ((member name kora:risky_variables) (strcat text " ;|dangerous|;)"))
         (T (strcat text ")"))))
+
+;; (kora_export_variables mode) runs the dialog that writes variables to a script, a new one for "new", at the end of one
+;; for "add".
+(defun kora_export_variables (mode / *error* kora:variables path)
+  ;; Before anything is set, so that the values are the user's.
+  (setq path (kora_userfile "exportvariables.listing"))
+  (if (kora_write_variables path)
+    (progn
+      (kora_begin '(("CMDECHO" . 0)))
+      (Dlg_exportsetting path mode)
+      (vl-file-delete path)
+      (kora_end))
+    (kora_alert_message (strcat "The variables cannot be listed: " path " cannot be written.")))
+  (princ))

@@ -105,6 +105,7 @@ CommandTask reference(CommandContext &context)
     const double xScale = x.hasValue() && x.real != 0.0 ? x.real : 1.0;
     insertReference(context, block, point.point, xScale, y.hasValue() && y.real != 0.0 ? y.real : xScale,
                     turn.hasValue() ? turn.real : 0.0);
+    context.print(u"\nAttached. This program does not show what the file holds."_s);
 }
 
 } // namespace

@@ -1,0 +1,7 @@
+;;; menu: Variables to script | VARIABLETOSCRIPT | Adds expressions that set system variables to a script
+;;;
+;;; VARIABLETOSCRIPT: as EXPORTVARIABLES, but what is shown goes to the end of a script that is there.
+
+(defun c:variabletoscript () (kora_export_variables "add"))
+
+(princ)
