@@ -14,42 +14,42 @@ enum class Save
     IntoDrawing
 };
 
-void countActivity(ortakit::Clock clock, Save save)
+void countActivity(Save save)
 {
     const CKvDocument *active = ACTIVE_DOCUMENT();
     for (DocumentDialogSet &record : DialogRegistry::instance().records()) {
         if (record.document() != active || !record.editingTime.isTracked)
             continue;
-        record.editingTime.advance(clock);
+        ortakit::advance(record.editingTime);
         if (save == Save::IntoDrawing)
             ortakit::writeEditingTime(record.editingTime, record.document()->database());
     }
 }
 
-void countActivityGuarded(ortakit::Clock clock, Save save)
+void countActivityGuarded(Save save)
 {
-    ortakit::runGuarded([=] { countActivity(clock, save); });
+    ortakit::runGuarded([=] { countActivity(save); });
 }
 
 } // namespace
 
 void CEdReactor::beginSave(OdDbDatabase *, const OdString &)
 {
-    countActivityGuarded(m_clock, Save::IntoDrawing);
+    countActivityGuarded(Save::IntoDrawing);
 }
 
 void CEdReactor::commandWillStart(OdEdCommand *, OdEdCommandContext *)
 {
-    countActivityGuarded(m_clock, Save::No);
+    countActivityGuarded(Save::No);
 }
 
 void CEdReactor::lispWillStart(OdEdCommandContext *, const OdString &)
 {
-    countActivityGuarded(m_clock, Save::No);
+    countActivityGuarded(Save::No);
 }
 
 void CEdReactor::sysVarWillChange(OdDbDatabase *, const OdString &name)
 {
     if (name.compare("LASTPROMPT"_L1, Qt::CaseInsensitive) != 0)
-        countActivityGuarded(m_clock, Save::No);
+        countActivityGuarded(Save::No);
 }

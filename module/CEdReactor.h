@@ -1,6 +1,5 @@
 #pragma once
 
-#include "module/EditingTime.h"
 #include "platform/kernel/CKvEditorReactor.h"
 
 /// Counts editing time: whatever the user does in the active document advances the time of its records that are
@@ -8,15 +7,9 @@
 class CEdReactor : public CKvEditorReactor
 {
 public:
-    /// Replaces the system clock.
-    void setClock(ortakit::Clock clock) { m_clock = clock; }
-
     void beginSave(OdDbDatabase *database, const OdString &intendedName) override;
     void commandWillStart(OdEdCommand *command, OdEdCommandContext *context) override;
     void lispWillStart(OdEdCommandContext *context, const OdString &firstLine) override;
     /// LASTPROMPT, in any case, is no activity: prompting changes it.
     void sysVarWillChange(OdDbDatabase *database, const OdString &name) override;
-
-private:
-    ortakit::Clock m_clock = ortakit::systemClock;
 };

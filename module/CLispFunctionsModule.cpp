@@ -46,7 +46,9 @@ void CLispFunctionsModule::LispDocumentReady(CKvDocument *document)
     if (!lisp)
         return;
     ortakit::defineFunctions(*lisp);
-    DialogRegistry::instance().append(document);
+    DialogRegistry &registry = DialogRegistry::instance();
+    registry.append(document);
+    registry.records().back().editingTime = ortakit::readEditingTime(document->database());
 }
 
 void CLispFunctionsModule::LispDocumentClosing(CKvDocument *document)

@@ -6,33 +6,48 @@
 
 namespace ortakit {
 
-using namespace Qt::StringLiterals;
+namespace {
 
-qint64 systemClock()
+Clock replacedClock = nullptr;
+
+} // namespace
+
+qint64 currentTime()
 {
-    return QDateTime::currentMSecsSinceEpoch();
+    return replacedClock ? replacedClock() : QDateTime::currentMSecsSinceEpoch();
 }
 
-void EditingTime::advance(Clock clock)
+void setClock(Clock clock)
 {
-    const double elapsedSeconds = double(clock() - lastActivity) / 1000.0;
-    const bool wasPause = idleLimitMinutes > 0 && elapsedSeconds > idleLimitMinutes * 60.0;
-    lastActivity = clock();
+    replacedClock = clock;
+}
+
+void advance(EditingTime &time)
+{
+    const double elapsedSeconds = double(currentTime() - time.lastActivity) / 1000.0;
+    const bool wasPause = time.idleLimitMinutes > 0 && elapsedSeconds > time.idleLimitMinutes * 60.0;
+    time.lastActivity = currentTime();
     if (!wasPause)
-        hours += elapsedSeconds / 3600.0;
+        time.hours += elapsedSeconds / 3600.0;
 }
 
-void writeEditingTime(const EditingTime &time, OdDbDatabase *database)
+bool writeEditingTime(const EditingTime &time, OdDbDatabase *database)
 {
     OdDbDictionary *dictionary = database ? database->getNamedObjectsDictionary() : nullptr;
-    OdDbXrecord *record = dictionary ? dictionary->setAt(u"KORA_TRACKTIME"_s) : nullptr;
-    if (!record)
-        return;
-    const OdResBufPtr chain = OdResBuf::newInteger(280, time.isTracked ? 1 : 0);
-    chain->setNext(OdResBuf::newInteger(90, time.idleLimitMinutes))
-        ->setNext(OdResBuf::newReal(40, time.hours))
-        ->setNext(OdResBuf::newString(1, QString::number(time.lastActivity)));
-    record->setFromRbChain(chain.get());
+    OdDbXrecord *record = dictionary ? dictionary->setAt(editingTimeRecordName()) : nullptr;
+    return record && record->setFromRbChain(editingTimeChain(time).get());
+}
+
+EditingTime readEditingTime(OdDbDatabase *database)
+{
+    OdDbDictionary *dictionary = database ? database->getNamedObjectsDictionary() : nullptr;
+    const OdDbXrecord *record = dictionary ? dictionary->getAt(editingTimeRecordName()) : nullptr;
+    const OdResBufPtr chain = record ? record->rbChain() : nullptr;
+    std::optional<EditingTime> time = editingTimeFromChain(chain.get());
+    if (!time)
+        return {};
+    time->lastActivity = currentTime();
+    return *time;
 }
 
 } // namespace ortakit

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QtGlobal>
+#include "state/EditingTimeRecord.h"
 
 class OdDbDatabase;
 
@@ -9,33 +9,20 @@ namespace ortakit {
 /// Milliseconds since the epoch.
 using Clock = qint64 (*)();
 
-qint64 systemClock();
+/// By the system's clock, or by the one that a test has put in its place.
+qint64 currentTime();
+/// Null for the system's.
+void setClock(Clock clock);
 
-/// The time that a user has worked on one document.
-struct EditingTime
-{
-    bool isTracked = false;
-    /// A longer pause between two activities is not counted; 0 or less counts every pause.
-    qint32 idleLimitMinutes = 0;
-    double hours = 0;
-    /// Milliseconds since the epoch.
-    qint64 lastActivity = 0;
+/// The user did something now: counts the time since the last activity unless it was a pause.
+void advance(EditingTime &time);
 
-    /// The user did something now: counts the time since the last activity unless it was a pause.
-    void advance(Clock clock);
-};
+/// Writes `time` into the drawing, in place of the record that was there (see editingTimeRecordName()). False, and the
+/// drawing is as it was, when it has no room for such records; so for a null database.
+bool writeEditingTime(const EditingTime &time, OdDbDatabase *database);
 
-/// Writes `time` into the drawing, in place of what was there: an extension record "KORA_TRACKTIME" in the named-object
-/// dictionary, found without regard to case, of four links:
-///
-/// | code | value |
-/// |---|---|
-/// | 280 | 1 when the time is tracked, else 0 |
-/// | 90 | idle limit in minutes |
-/// | 40 | hours worked |
-/// | 1 | last activity, milliseconds since the epoch, as decimal text: wider than the file's integers |
-///
-/// A null database and a drawing that has no room for such records are left alone.
-void writeEditingTime(const EditingTime &time, OdDbDatabase *database);
+/// The time that the drawing holds, with its last activity now: what passed while it was closed is not work. A drawing
+/// without a record, and one whose record is damaged, counts as not tracked; the record stays as it is.
+EditingTime readEditingTime(OdDbDatabase *database);
 
 } // namespace ortakit

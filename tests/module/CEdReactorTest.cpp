@@ -25,14 +25,18 @@ class EditorReactor : public testing::Test
 protected:
     EditorReactor()
     {
-        m_reactor.setClock(testClock);
+        ortakit::setClock(testClock);
         now = hour;
         for (FakeDocument *document : {m_first, m_active}) {
             registry().append(document);
             registry().records().back().editingTime.isTracked = true;
         }
     }
-    ~EditorReactor() override { registry().records().clear(); }
+    ~EditorReactor() override
+    {
+        registry().records().clear();
+        ortakit::setClock(nullptr);
+    }
 
     static DialogRegistry &registry() { return DialogRegistry::instance(); }
     static double hours(size_t record) { return registry().records().at(record).editingTime.hours; }

@@ -4,6 +4,7 @@
 #include "tests/support/QtTestPrinters.h"
 
 #include <gtest/gtest.h>
+#include <limits>
 
 namespace {
 
@@ -15,12 +16,17 @@ constexpr qint64 minute = 60 * 1000;
 
 qint64 now = 0;
 
-qint64 testClock()
+class EditingTimes : public testing::Test
 {
-    return now;
-}
+protected:
+    EditingTimes()
+    {
+        ortakit::setClock([] { return now; });
+    }
+    ~EditingTimes() override { ortakit::setClock(nullptr); }
+};
 
-TEST(EditingTime, CountsWorkAndNotPauses)
+TEST_F(EditingTimes, CountWorkAndNotPauses)
 {
     const struct
     {
@@ -41,38 +47,79 @@ TEST(EditingTime, CountsWorkAndNotPauses)
         const qint64 start = 1700000000000;
         EditingTime time{.isTracked = true, .idleLimitMinutes = row.limitMinutes, .hours = 2, .lastActivity = start};
         now = start + row.elapsed;
-        time.advance(testClock);
+        ortakit::advance(time);
         EXPECT_NEAR(time.hours, 2 + row.hours, 1e-9) << row.name;
         EXPECT_EQ(time.lastActivity, now) << row.name;
     }
 }
 
-TEST(EditingTime, IsWrittenIntoTheDrawing)
+/// A chain of these links, "280=1 90=15"; a value in quotes is text.
+OdResBufPtr chainOf(const QString &links)
 {
-    FakeDatabase database;
-    ortakit::writeEditingTime({true, 5, 1.25, 1700000000123}, &database);
-    ortakit::writeEditingTime({false, 15, 2.5, 1700000000456}, &database);
-    const OdDbXrecord *record = database.getAt(u"kora_TrackTime"_s);
-    ASSERT_TRUE(record);
-    QStringList written;
-    const OdResBufPtr chain = record->rbChain();
-    for (const OdResBuf *link = chain.get(); link; link = link->next()) {
-        const int type = link->restype();
-        const QString value = type == 1    ? link->getString()
-                              : type == 40 ? QString::number(link->getDouble())
-                                           : QString::number(link->getInteger());
-        written.append(u"%1=%2"_s.arg(type).arg(value));
+    const OdResBufPtr head = OdResBuf::newRb(0);
+    OdResBuf *last = head.get();
+    for (const QString &link : links.split(u' ', Qt::SkipEmptyParts)) {
+        const int code = link.section(u'=', 0, 0).toInt();
+        const QString value = link.section(u'=', 1);
+        if (value.startsWith(u'\''))
+            last = last->setNext(OdResBuf::newString(code, value.mid(1)));
+        else if (code == 40)
+            last = last->setNext(OdResBuf::newReal(code, value.toDouble()));
+        else
+            last = last->setNext(OdResBuf::newInteger(code, value.toLongLong()));
     }
-    EXPECT_EQ(written, (QStringList{u"280=0"_s, u"90=15"_s, u"40=2.5"_s, u"1=1700000000456"_s}));
+    return head->takeNext();
 }
 
-TEST(EditingTime, DrawingsWithoutRoomAreLeftAlone)
+TEST_F(EditingTimes, AreReadUnlessTheRecordIsDamaged)
 {
+    const struct
+    {
+        QString links;
+        std::optional<EditingTime> time;
+    } rows[] = {
+        {u"280=1 90=15 40=2.5 1='1700000000456"_s, EditingTime{true, 15, 2.5, 1700000000456}},
+        {u"280=0 90=-3 40=0 1='0 40=7 1='more"_s, EditingTime{false, -3, 0, 0}},
+        {u"280=1 90=2147483647 40=1e6 1='-1"_s, EditingTime{true, 2147483647, 1e6, -1}},
+        {u""_s, std::nullopt},
+        {u"280=1 90=15 40=2.5"_s, std::nullopt},
+        {u"280=1 40=2.5 90=15 1='1"_s, std::nullopt},
+        {u"280='yes 90=15 40=2.5 1='1"_s, std::nullopt},
+        {u"280=2 90=15 40=2.5 1='1"_s, std::nullopt},
+        {u"280=1 90=4294967296 40=2.5 1='1"_s, std::nullopt},
+        {u"280=1 90=15 40=-0.001 1='1"_s, std::nullopt},
+        {u"280=1 90=15 40=nan 1='1"_s, std::nullopt},
+        {u"280=1 90=15 40=inf 1='1"_s, std::nullopt},
+        {u"280=1 90=15 40=1000001 1='1"_s, std::nullopt},
+        {u"280=1 90=15 40='much 1='1"_s, std::nullopt},
+        {u"280=1 90=15 40=2.5 1='yesterday"_s, std::nullopt},
+    };
+    for (const auto &row : rows)
+        EXPECT_EQ(ortakit::editingTimeFromChain(chainOf(row.links).get()), row.time) << row.links.toStdString();
+}
+
+TEST_F(EditingTimes, AreWrittenSoThatTheyComeBack)
+{
+    now = 5;
+    constexpr double infinite = std::numeric_limits<double>::infinity();
+    const std::pair<EditingTime, EditingTime> rows[] = {
+        {{true, 5, 1.25, 1700000000123}, {true, 5, 1.25, now}},
+        {{false, 15, 2.5, -7}, {false, 15, 2.5, now}},
+        {{true, 0, -1, 0}, {true, 0, 0, now}}, // the clock was put back
+        {{true, 0, infinite, 0}, {true, 0, 1e6, now}},
+    };
     FakeDatabase database;
+    EXPECT_EQ(ortakit::readEditingTime(&database), EditingTime());
+    EXPECT_EQ(ortakit::readEditingTime(nullptr), EditingTime());
+    for (const auto &[written, read] : rows) {
+        EXPECT_TRUE(ortakit::writeEditingTime(written, &database));
+        EXPECT_EQ(ortakit::readEditingTime(&database), read) << written.hours;
+    }
+    database.setAt(u"kora_TrackTime"_s)->setFromRbChain(chainOf(u"280=1 90=15"_s).get());
+    EXPECT_EQ(ortakit::readEditingTime(&database), EditingTime()) << "a damaged record counts as not tracked";
     database.setHasDictionary(false);
-    ortakit::writeEditingTime({true, 5, 1.25, 1}, &database);
-    EXPECT_FALSE(database.getAt(u"KORA_TRACKTIME"_s));
-    ortakit::writeEditingTime({true, 5, 1.25, 1}, nullptr);
+    EXPECT_FALSE(ortakit::writeEditingTime({true, 5, 1.25, 1}, &database));
+    EXPECT_FALSE(ortakit::writeEditingTime({true, 5, 1.25, 1}, nullptr));
 }
 
 } // namespace
