@@ -162,7 +162,8 @@ FieldList Dictionaries::xrecordData(RecordId record) const
     auto begin = std::find_if(fields.begin(), fields.end(), [](const Field &f) { return f.code == subclassCode; });
     if (begin != fields.end())
         ++begin;
-    if (begin != fields.end() && begin->code == cloningCode)
+    // R13 and R14 have no cloning flag: there a 280 is data.
+    if (begin != fields.end() && begin->code == cloningCode && hasOwners(m_drawing))
         ++begin;
     return {begin, fields.end()};
 }

@@ -34,8 +34,8 @@ public:
     /// The dictionary under that name, made when there is none; noRecord when the entry is something else, or in R12.
     RecordId ensureDictionary(RecordId parent, const QString &name);
 
-    /// The data of the extension record under `name`: its fields behind the marker, the cloning flag (280) left out;
-    /// nothing when there is none.
+    /// The data of the extension record under `name`: its fields behind the marker, the cloning flag (280, from R2000 on)
+    /// left out; nothing when there is none.
     std::optional<FieldList> xrecord(RecordId dictionary, QStringView name) const;
     FieldList xrecordData(RecordId xrecord) const;
     /// Creates or replaces the extension record under `name`; noRecord in R12, or when the entry is something else.
