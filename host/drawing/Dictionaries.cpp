@@ -20,16 +20,12 @@ bool isSame(const QString &name, QStringView wanted)
     return name.compare(wanted, Qt::CaseInsensitive) == 0;
 }
 
-bool isReference(int code)
-{
-    return code == softOwnerCode || code == hardOwnerCode || code == 340 || code == 330;
-}
-
 /// Index of the entry's name in a dictionary's fields; the reference is the next. -1 when there is none.
 qsizetype entryIndex(const FieldList &fields, QStringView name)
 {
     for (size_t i = 0; i + 1 < fields.size(); ++i) {
-        if (fields[i].code == entryNameCode && isSame(fields[i].text(), name) && isReference(fields[i + 1].code))
+        if (fields[i].code == entryNameCode && isSame(fields[i].text(), name) &&
+            Dictionaries::isReference(fields[i + 1].code))
             return static_cast<qsizetype>(i);
     }
     return -1;
@@ -48,6 +44,11 @@ FieldList withoutExtension(FieldList fields)
 }
 
 } // namespace
+
+bool Dictionaries::isReference(int code)
+{
+    return code == softOwnerCode || code == hardOwnerCode || code == 340 || code == 330;
+}
 
 RecordId Dictionaries::root() const
 {
@@ -158,12 +159,16 @@ std::optional<FieldList> Dictionaries::xrecord(RecordId dictionary, QStringView 
 
 FieldList Dictionaries::xrecordData(RecordId record) const
 {
-    const FieldList fields = m_drawing.fields(record);
+    return xrecordData(m_drawing.fields(record), m_drawing.version());
+}
+
+FieldList Dictionaries::xrecordData(const FieldList &fields, Version version)
+{
     auto begin = std::find_if(fields.begin(), fields.end(), [](const Field &f) { return f.code == subclassCode; });
     if (begin != fields.end())
         ++begin;
     // R13 and R14 have no cloning flag: there a 280 is data.
-    if (begin != fields.end() && begin->code == cloningCode && hasOwners(m_drawing))
+    if (begin != fields.end() && begin->code == cloningCode && version >= Version::R2000)
         ++begin;
     return {begin, fields.end()};
 }

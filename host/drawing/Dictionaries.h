@@ -34,12 +34,17 @@ public:
     /// The dictionary under that name, made when there is none; noRecord when the entry is something else, or in R12.
     RecordId ensureDictionary(RecordId parent, const QString &name);
 
-    /// The data of the extension record under `name`: its fields behind the marker, the cloning flag (280, from R2000 on)
-    /// left out; nothing when there is none.
+    /// The data of the extension record under `name`: its fields behind the marker, the cloning flag (280, from R2000
+    /// on) left out; nothing when there is none.
     std::optional<FieldList> xrecord(RecordId dictionary, QStringView name) const;
     FieldList xrecordData(RecordId xrecord) const;
+    /// The same of the fields of such a record in a drawing of `version`.
+    static FieldList xrecordData(const FieldList &fields, Version version);
     /// Creates or replaces the extension record under `name`; noRecord in R12, or when the entry is something else.
     RecordId setXrecord(RecordId dictionary, const QString &name, const FieldList &data);
+
+    /// Whether a tag of this code behind an entry's name leads to its object.
+    static bool isReference(int code);
 
     /// The extension dictionary of any record (102 {ACAD_XDICTIONARY); noRecord when it has none.
     RecordId extensionDictionary(RecordId record) const;

@@ -20,13 +20,6 @@ namespace {
 constexpr int subclassCode = 100;
 constexpr int ownerCode = 330;
 
-Version versionOf(const QString &name)
-{
-    bool isNumber = false;
-    const int number = name.trimmed().mid(2).toInt(&isNumber);
-    return isNumber && name.startsWith(u"AC", Qt::CaseInsensitive) ? static_cast<Version>(number) : Version::R12;
-}
-
 int handleCodeOf(RecordKind kind, QByteArrayView type)
 {
     if (kind == RecordKind::Variable)
@@ -71,6 +64,13 @@ QString readError(const QFile &file)
 
 } // namespace
 
+Version versionNamed(const QString &name)
+{
+    bool isNumber = false;
+    const int number = name.trimmed().mid(2).toInt(&isNumber);
+    return isNumber && name.startsWith(u"AC", Qt::CaseInsensitive) ? static_cast<Version>(number) : Version::R12;
+}
+
 void Drawing::Private::announce(RecordId id, const RecordState &before, ChangeCause cause)
 {
     const RecordState now = entry(id).state();
@@ -105,7 +105,7 @@ Drawing::Drawing(IndexedFile &&file)
       m_dictionaries(std::make_unique<Dictionaries>(*this))
 {
     d->file = std::move(file);
-    d->version = versionOf(m_header->text(u"$ACADVER"));
+    d->version = versionNamed(m_header->text(u"$ACADVER"));
     if (d->version < Version::R2007)
         d->codec = TextCodec::forCodePage(m_header->text(u"$DWGCODEPAGE").toLatin1());
     for (quint32 i = 0; i < d->records().size(); ++i)

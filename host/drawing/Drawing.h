@@ -38,6 +38,9 @@ enum class Version : int
     R2018 = 1032
 };
 
+/// The version that $ACADVER names; R12 for what is none.
+Version versionNamed(const QString &name);
+
 /// The outcome of reading: a whole drawing, or none and the reason.
 struct ReadResult
 {

@@ -12,15 +12,6 @@ bool isWord(QByteArrayView text, QByteArrayView upperWord)
            text.compare(upperWord, Qt::CaseInsensitive) == 0;
 }
 
-bool hasLoneCarriageReturn(QByteArrayView bytes)
-{
-    for (qsizetype i = bytes.indexOf('\r'); i >= 0; i = bytes.indexOf('\r', i + 1)) {
-        if (i + 1 >= bytes.size() || bytes[i + 1] != '\n')
-            return true;
-    }
-    return false;
-}
-
 /// The text of a line for a message: short, and nothing unprintable.
 QString quoted(QByteArrayView line)
 {
@@ -362,6 +353,15 @@ QString foreignContent(QByteArrayView bytes)
     if (bytes.startsWith("\xFF\xFE") || bytes.startsWith("\xFE\xFF"))
         return u"this is a UTF-16 text file, not a DXF file"_s;
     return {};
+}
+
+bool hasLoneCarriageReturn(QByteArrayView bytes)
+{
+    for (qsizetype i = bytes.indexOf('\r'); i >= 0; i = bytes.indexOf('\r', i + 1)) {
+        if (i + 1 >= bytes.size() || bytes[i + 1] != '\n')
+            return true;
+    }
+    return false;
 }
 
 IndexResult indexFile(QByteArray bytes)

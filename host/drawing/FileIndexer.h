@@ -34,6 +34,9 @@ IndexResult indexFile(QByteArray bytes);
 /// The section that a name (group 2 of SECTION, any letter case) stands for.
 Section sectionNamed(QByteArrayView name);
 
+/// Whether a carriage return stands without the line feed behind it: text in some files and a line end in others.
+bool hasLoneCarriageReturn(QByteArrayView bytes);
+
 /// Says what a file is that is not a text DXF (empty, binary DXF, DWG, UTF-16); empty when it may be one.
 QString foreignContent(QByteArrayView bytes);
 

@@ -1,0 +1,311 @@
+#include "host/drawing/XrecordInFile.h"
+
+#include "host/drawing/Dictionaries.h"
+#include "host/drawing/HeaderVariables.h"
+#include "host/drawing/NewDrawing.h"
+#include "tests/drawing/DrawingSample.h"
+
+#include <QBuffer>
+#include <QDirIterator>
+#include <QTemporaryDir>
+
+#include <cmath>
+#include <sys/stat.h>
+
+namespace host::drawing {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr QStringView name = u"KORA_TRACKTIME";
+const FieldList data = {{280, qint64(1)}, {90, qint64(15)}, {40, 2.5}, {1, u"čas 1700000000123"_s}};
+
+/// Counts what is read.
+class CountingBuffer final : public QBuffer
+{
+public:
+    explicit CountingBuffer(QByteArray *bytes) : QBuffer(bytes) { open(ReadOnly | Unbuffered); }
+    qint64 count = 0;
+
+protected:
+    qint64 readData(char *target, qint64 size) override
+    {
+        const qint64 got = QBuffer::readData(target, size);
+        count += std::max<qint64>(got, 0);
+        return got;
+    }
+};
+
+std::optional<FieldList> read(QByteArray bytes, const PieceSizes &sizes = {64, 64})
+{
+    CountingBuffer buffer(&bytes);
+    return readXrecord(buffer, name, sizes);
+}
+
+/// What whoever reads the whole file finds.
+std::optional<FieldList> readWhole(const QByteArray &bytes)
+{
+    const ReadResult file = Drawing::fromBytes(bytes);
+    if (!file || file.drawing->version() < Version::R13)
+        return {};
+    return file.drawing->dictionaries().xrecord(file.drawing->dictionaries().root(), name);
+}
+
+QByteArray lines(int count)
+{
+    QByteArray pairs;
+    for (int i = 0; i < count; ++i)
+        pairs += "0 LINE\n5 " + QByteArray::number(0x1000 + i, 16) + "\n100 AcDbEntity\n8 0\n10 " +
+                 QByteArray::number(i) + ".5\n20 1.0\n30 0.0\n11 2.0\n21 3.0\n31 0.0\n";
+    return pairs;
+}
+
+/// A drawing with the record and so many lines.
+QByteArray tracked(const QByteArray &version, int lineCount, const QString &recordName = name.toString())
+{
+    const auto drawing = sample(version, lines(lineCount));
+    Dictionaries &dictionaries = drawing->dictionaries();
+    dictionaries.setXrecord(dictionaries.ensureRoot(), recordName, data);
+    return drawing->toBytes();
+}
+
+QByteArray withCrLf(QByteArray text)
+{
+    return text.replace("\n", "\r\n");
+}
+
+/// Group codes with blanks around, as some programs write them.
+QByteArray withBlanks(const QByteArray &text)
+{
+    QByteArray result;
+    bool isCode = true;
+    for (const QByteArray &line : text.split('\n')) {
+        result += (isCode ? "  " + line + " \t" : line) + '\n';
+        isCode = !isCode;
+    }
+    result.chop(6);
+    return result;
+}
+
+QByteArray replaced(QByteArray text, const QByteArray &before, const QByteArray &after)
+{
+    EXPECT_TRUE(text.contains(before)) << before.toStdString();
+    return text.replace(before, after);
+}
+
+/// The section OBJECTS and what is behind it.
+QByteArray objectsOf(const QByteArray &text)
+{
+    return text.sliced(text.lastIndexOf("  0\nSECTION\n  2\nOBJECTS"));
+}
+
+QByteArray beforeObjects(const QByteArray &text)
+{
+    return text.first(text.size() - objectsOf(text).size());
+}
+
+// Whatever the file is, both ways of reading it say the same.
+TEST(XrecordInFile, IsWhatTheWholeFileSays)
+{
+    const QByteArray text = tracked("AC1027", 40);
+    const QByteArray objects = objectsOf(text);
+    const QByteArray plain = sampleText("AC1027", lines(40));
+    const QByteArray comment = "999\n" + QByteArray(3000, 'c') + '\n';
+    const QByteArray thumbnail = "  0\nSECTION\n  2\nTHUMBNAILIMAGE\n 90\n4\n310\nAABBCCDD\n  0\nENDSEC\n  0\nEOF\n";
+    const QByteArray end = "  0\nENDSEC\n  0\nEOF\n";
+    // Text of an entity whose lines look like the start of a section.
+    const QByteArray marker =
+        tagLines("0 TEXT\n5 F00\n100 AcDbEntity\n8 0\n100 AcDbText\n10 0.0\n20 0.0\n30 0.0\n40 1.0\n"
+                 "1 SECTION\n2 OBJECTS\n3 SECTION\n0 TEXT\n5 F01\n100 AcDbEntity\n8 0\n1   0\n"
+                 "2 OBJECTS\n1 EOF");
+    const struct
+    {
+        const char *name;
+        QByteArray bytes;
+        bool has;
+    } rows[] = {
+        {"R2013", text, true},
+        {"R14", tracked("AC1014", 40), true},
+        {"R12 without objects", sampleText("AC1009", lines(40)), false},
+        {"R12 that says it has objects", replaced(text, "AC1027", "AC1009"), false},
+        {"code page", replaced(tracked("AC1015", 40), "ANSI_1250", "ANSI_1252"), true},
+        {"other case of the name", tracked("AC1018", 40, u"Kora_TrackTime"_s), true},
+        {"other name", tracked("AC1018", 40, u"KORA_TRACKTIMES"_s), false},
+        {"no record", plain, false},
+        {"no OBJECTS", beforeObjects(plain) + "  0\nEOF\n", false},
+        {"CRLF", withCrLf(text), true},
+        {"carriage returns alone", replaced(text, "\n", "\r"), true},
+        {"a carriage return in a value", replaced(text, "1700000000123", "17000\r00000123"), true},
+        {"blanks around codes", withBlanks(text), true},
+        {"byte-order mark", "\xEF\xBB\xBF" + text, true},
+        {"comments in front", comment + text, true},
+        {"comment in the section's start", replaced(text, "  2\nOBJECTS", "999\nhere\n  2\nOBJECTS"), true},
+        {"small letters", replaced(text, "\nOBJECTS", "\nobjects"), true},
+        {"section behind", text.chopped(8) + thumbnail, true},
+        {"text that looks like a marker", replaced(text, objects, "").chopped(10) + marker + "  0\nENDSEC\n" + objects,
+         true},
+        {"marker in an object",
+         replaced(text, "čas ", "čas OBJECTS ").replace("\n280\n1\n 90", "\n280\n1\n  3\nSECTION\n  2\nOBJECTS\n 90"),
+         true},
+        {"empty section behind the end", text + "  0\nSECTION\n  2\nOBJECTS\n" + end, true},
+        {"record behind the end", plain + objects, false},
+        {"text behind the end", text + QByteArray(500, 'x'), true},
+        {"dangling entry", replaced(text, "\nXRECORD\n", "\nPLACEHOLDER\n"), false},
+        {"handle of a line", replaced(text, "\nXRECORD\n", "\nLINE\n"), false},
+        {"first object is none", replaced(text, "OBJECTS\n", "OBJECTS\n  0\nPLACEHOLDER\n  5\nFEED\n"), false},
+        {"truncated", text.chopped(20), false},
+        {"no end", text.chopped(8), false},
+        {"empty", {}, false},
+        {"blanks", QByteArray(200, '\n'), false},
+        {"binary", "AutoCAD Binary DXF\r\n\x1a" + text, false},
+        {"DWG", "AC1027" + text, false},
+        {"other text", QByteArray("OBJECTS\n").repeated(500), false},
+        {"HEADER is not first", "  0\nSECTION\n  2\nCLASSES\n  0\nENDSEC\n" + text, true},
+        {"no HEADER", text.sliced(text.indexOf("  0\nSECTION", 10)), false},
+    };
+    for (const auto &row : rows) {
+        const std::optional<FieldList> found = readWhole(row.bytes);
+        EXPECT_EQ(found.has_value(), row.has) << row.name;
+        for (const qint64 piece : {16, 64, 1000, 100'000})
+            EXPECT_EQ(read(row.bytes, {piece, piece}), found) << row.name << ' ' << piece;
+    }
+}
+
+// Of two sections with objects the first counts, which is seen where it is among what is read anyway.
+TEST(XrecordInFile, IsOfTheFirstSectionThatIsSeen)
+{
+    const QByteArray text = tracked("AC1027", 200);
+    const QByteArray two = text.chopped(8) + replaced(objectsOf(text), "čas", "cas");
+    EXPECT_EQ(readWhole(two), data);
+    EXPECT_EQ(read(two, {1000, 4000}), data);
+}
+
+TEST(XrecordInFile, ReadsOnlyBothEndsOfAFile)
+{
+    QByteArray text = tracked("AC1027", 20'000);
+    CountingBuffer buffer(&text);
+    EXPECT_EQ(readXrecord(buffer, name), data);
+    EXPECT_LT(buffer.count, 100 * 1024);
+    QByteArray old = sampleText("AC1009", lines(20'000));
+    CountingBuffer oldBuffer(&old);
+    EXPECT_FALSE(readXrecord(oldBuffer, name).has_value());
+    EXPECT_LT(oldBuffer.count, 100 * 1024);
+}
+
+TEST(XrecordInFile, IsRightInDrawingsOfOtherPrograms)
+{
+    const QString corpus = qEnvironmentVariable("ORTAKIT_CORPUS");
+    if (corpus.isEmpty())
+        GTEST_SKIP() << "no drawings of other programs";
+    int count = 0;
+    for (QDirIterator files(corpus, QDir::Files); files.hasNext();) {
+        QFile file(files.next());
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+        const QByteArray bytes = file.readAll();
+        EXPECT_EQ(read(bytes, {}), readWhole(bytes)) << file.fileName().toStdString();
+        const ReadResult drawing = Drawing::fromBytes(bytes);
+        if (!drawing)
+            continue;
+        ++count;
+        Dictionaries &dictionaries = drawing.drawing->dictionaries();
+        const bool isSet = isValid(dictionaries.setXrecord(dictionaries.ensureRoot(), name.toString(), data));
+        for (const qint64 piece : {256, 64 * 1024}) {
+            EXPECT_EQ(read(drawing.drawing->toBytes(), {piece, piece}).has_value(), isSet)
+                << file.fileName().toStdString();
+        }
+    }
+    EXPECT_GT(count, 0);
+}
+
+class XrecordFiles : public testing::Test
+{
+protected:
+    QString write(const QString &fileName, const QByteArray &bytes) const
+    {
+        QFile file(m_folder.filePath(fileName));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(bytes);
+        return file.fileName();
+    }
+    static QByteArray bytesOf(const QString &path)
+    {
+        QFile file(path);
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    }
+
+    QTemporaryDir m_folder;
+};
+
+TEST_F(XrecordFiles, AreChangedInOnePlace)
+{
+    for (const QByteArray &version : {QByteArray("AC1014"), QByteArray("AC1018"), QByteArray("AC1032")}) {
+        const QByteArray before = sampleText(version, lines(3));
+        const QString path = write(u"plan.dxf"_s, before);
+        EXPECT_EQ(setXrecordInFile(path, name.toString(), data).error, QString());
+        EXPECT_EQ(xrecordInFile(path, u"kora_tracktime"), data) << version.toStdString();
+        const auto drawing = readGood(bytesOf(path));
+        if (version != "AC1014") // which the independent reader takes for a later version
+            EXPECT_AUDIT_CLEAN(*drawing);
+        // Without the record, its entry and the next free handle, nothing is new.
+        Dictionaries &dictionaries = drawing->dictionaries();
+        const QByteArray record = drawing->bytes(dictionaries.find(dictionaries.root(), name)).toByteArray();
+        const QByteArray entry =
+            "  3\nKORA_TRACKTIME\n350\n" + drawing->handle(dictionaries.find(dictionaries.root(), name)).toHex() + '\n';
+        QByteArray after = replaced(replaced(bytesOf(path), record, ""), entry, "");
+        const auto old = readGood(before);
+        after = replaced(after, drawing->bytes(drawing->header().record(u"$HANDSEED")).toByteArray(),
+                         old->bytes(old->header().record(u"$HANDSEED")).toByteArray());
+        EXPECT_EQ(after, before);
+
+        const FieldList later = {{280, qint64(0)}, {90, qint64(0)}, {40, 3.25}, {1, u"1"_s}};
+        EXPECT_TRUE(setXrecordInFile(path, u"Kora_TrackTime"_s, later));
+        EXPECT_EQ(xrecordInFile(path, name), later);
+        const QByteArray written = bytesOf(path);
+        EXPECT_TRUE(setXrecordInFile(path, name.toString(), later));
+        EXPECT_EQ(bytesOf(path), written);
+    }
+}
+
+TEST_F(XrecordFiles, ThatCannotBeChangedStayAndSaySo)
+{
+    const QByteArray other = replaced(tracked("AC1027", 3), "\nXRECORD\n", "\nPLACEHOLDER\n");
+    const struct
+    {
+        QString fileName;
+        QByteArray bytes;
+        QString reason;
+    } rows[] = {
+        {u"old.dxf"_s, sampleText("AC1009"), u"no room"_s},
+        {u"cut.dxf"_s, sampleText("AC1027").chopped(30), u"line"_s},
+        {u"other.dxf"_s, other, u"something else"_s},
+        {u"plan.dwg"_s, sampleText("AC1027"), u"cannot write DWG"_s},
+        {u"empty.dxf"_s, {}, u"empty"_s},
+    };
+    for (const auto &row : rows) {
+        const QString path = write(row.fileName, row.bytes);
+        const SaveResult result = setXrecordInFile(path, name.toString(), data);
+        EXPECT_FALSE(result);
+        EXPECT_TRUE(result.error.startsWith(path) && result.error.contains(row.reason)) << result.error.toStdString();
+        EXPECT_EQ(bytesOf(path), row.bytes);
+    }
+    const QString missing = m_folder.filePath(u"missing.dxf"_s);
+    EXPECT_FALSE(setXrecordInFile(missing, name.toString(), data));
+    EXPECT_FALSE(QFile::exists(missing));
+    EXPECT_FALSE(xrecordInFile(missing, name).has_value());
+    EXPECT_FALSE(xrecordInFile(m_folder.path(), name).has_value());
+}
+
+TEST_F(XrecordFiles, NeverMakeTheReaderWait)
+{
+    const QString pipe = m_folder.filePath(u"pipe.dxf"_s);
+    ASSERT_EQ(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
+    EXPECT_FALSE(xrecordInFile(pipe, name).has_value());
+    EXPECT_FALSE(setXrecordInFile(pipe, name.toString(), data));
+    QFile huge(write(u"huge.dxf"_s, "x"));
+    ASSERT_TRUE(huge.resize(3LL * 1024 * 1024 * 1024)); // of holes
+    EXPECT_FALSE(xrecordInFile(huge.fileName(), name).has_value());
+}
+
+} // namespace
+} // namespace host::drawing
