@@ -7,6 +7,7 @@
 #include "host/kernel/Document.h"
 #include "host/kernel/ObjectIds.h"
 #include "host/kernel/ResBufConversion.h"
+#include "host/kernel/RecordChain.h"
 #include "host/kernel/SystemVariables.h"
 #include "host/kernel/functions/EntityList.h"
 #include "host/kernel/input/SelectionQuery.h"
@@ -19,52 +20,11 @@ namespace host::kernel {
 
 namespace {
 
-using drawing::Field;
 using drawing::FieldList;
 using drawing::RecordId;
 
 constexpr int xdataCode = -3;
 constexpr int applicationCode = 1001;
-
-OdResBufPtr toResBuf(const Field &field)
-{
-    if (const auto *real = std::get_if<double>(&field.value))
-        return OdResBuf::newReal(field.code, *real);
-    if (const auto *integer = std::get_if<qint64>(&field.value))
-        return OdResBuf::newInteger(field.code, *integer);
-    if (std::holds_alternative<drawing::Vec2>(field.value) || std::holds_alternative<drawing::Vec3>(field.value)) {
-        const drawing::Vec3 point = field.point();
-        return OdResBuf::newPoint(field.code, {point.x, point.y, point.z});
-    }
-    if (const auto *bytes = std::get_if<QByteArray>(&field.value))
-        return OdResBuf::newString(field.code, QString::fromLatin1(bytes->toHex().toUpper()));
-    return OdResBuf::newString(field.code, field.text());
-}
-
-Field toField(const OdResBuf &link)
-{
-    const int code = link.restype();
-    switch (drawing::tagType(code)) {
-    case drawing::TagType::Real: {
-        const OdGePoint3d point = link.getPoint3d();
-        if (drawing::isPointCode(code) && (point != OdGePoint3d{} || link.getDouble() == 0.0))
-            return {code, drawing::Vec3{point.x, point.y, point.z}};
-        return {code, link.getDouble()};
-    }
-    case drawing::TagType::Int16:
-    case drawing::TagType::Int32:
-    case drawing::TagType::Int64:
-    case drawing::TagType::Bool:
-        return {code, link.getInteger()};
-    case drawing::TagType::Handle:
-        return {code, drawing::Handle::fromText(link.getString()).value_or(drawing::Handle{})};
-    case drawing::TagType::Binary:
-        return {code, QByteArray::fromHex(link.getString().toLatin1())};
-    case drawing::TagType::Text:
-        break;
-    }
-    return {code, link.getString()};
-}
 
 struct VariableLink
 {
@@ -140,25 +100,12 @@ public:
     {
         const drawing::Dictionaries &dictionaries = m_document.drawing().dictionaries();
         const std::optional<FieldList> data = dictionaries.xrecord(dictionaries.root(), m_name);
-        OdResBufPtr first;
-        OdResBuf *last = nullptr;
-        for (const Field &field : data.value_or(FieldList())) {
-            OdResBufPtr link = toResBuf(field);
-            if (last) {
-                last = last->setNext(std::move(link));
-            } else {
-                first = std::move(link);
-                last = first.get();
-            }
-        }
-        return first;
+        return chainFromFields(data.value_or(FieldList()));
     }
 
     bool setFromRbChain(const OdResBuf *chain) override
     {
-        FieldList data;
-        for (const OdResBuf *link = chain; link; link = link->next())
-            data.push_back(toField(*link));
+        const FieldList data = fieldsFromChain(chain);
         bool isSet = false;
         m_document.runAs(QStringLiteral("XRECORD"), [&] {
             drawing::Dictionaries &dictionaries = m_document.drawing().dictionaries();

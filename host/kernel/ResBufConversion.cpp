@@ -1,5 +1,6 @@
 #include "host/kernel/ResBufConversion.h"
 
+#include "host/kernel/ChainBuilder.h"
 #include "host/kernel/functions/LispConversion.h"
 #include "host/lisp/Interpreter.h"
 
@@ -12,26 +13,6 @@ namespace {
 using lisp::Value;
 
 constexpr int lastGroupCode = 1071;
-
-/// Appends links to a chain.
-class ChainBuilder
-{
-public:
-    void append(OdResBufPtr link)
-    {
-        if (m_last) {
-            m_last = m_last->setNext(std::move(link));
-        } else {
-            m_first = std::move(link);
-            m_last = m_first.get();
-        }
-    }
-    OdResBufPtr take() { return std::move(m_first); }
-
-private:
-    OdResBufPtr m_first;
-    OdResBuf *m_last = nullptr;
-};
 
 bool hasReal(const Value &list)
 {

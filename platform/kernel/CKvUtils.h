@@ -2,6 +2,7 @@
 
 #include "platform/Export.h"
 #include "platform/db/OdDbDatabase.h"
+#include "platform/kernel/OdResBuf.h"
 #include "platform/rx/OdString.h"
 
 #include <QIcon>
@@ -64,4 +65,14 @@ public:
     /// styles. What `target` has under the same name stays, the block itself included. Not done when there is no such
     /// block.
     static CKvBlockCopy copyBlock(OdDbDatabase *source, const OdString &name, OdDbDatabase *target);
+    /// The data of the extension record `name` (any case) in the named-object dictionary of the drawing file at `path`,
+    /// which need not be open, as OdDbXrecord::rbChain() gives it. Null when the drawing has no such record or one
+    /// without data, and when the file cannot be read as a drawing. Many files are read one after the other, so a host
+    /// should not read more of them than it has to.
+    static OdResBufPtr drawingRecord(const OdString &path, const OdString &name);
+    /// Gives that record this data, or makes it. The file is replaced whole or not at all, and nothing else in it
+    /// changes. False, with the reason in `error`, when it is not a drawing or cannot be written, its version has no
+    /// room for such records, or the name stands for something else. Not for drawings that are open.
+    static bool setDrawingRecord(const OdString &path, const OdString &name, const OdResBuf *chain,
+                                 OdString *error = nullptr);
 };

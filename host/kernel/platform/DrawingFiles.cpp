@@ -1,8 +1,10 @@
 #include "host/drawing/Blocks.h"
 #include "host/drawing/CopyBetweenDrawings.h"
 #include "host/drawing/Tables.h"
+#include "host/drawing/XrecordInFile.h"
 #include "host/kernel/Document.h"
 #include "host/kernel/DrawingDatabase.h"
+#include "host/kernel/RecordChain.h"
 #include "host/view/Export.h"
 #include "platform/kernel/CKvUtils.h"
 
@@ -92,4 +94,19 @@ CKvBlockCopy CKvUtils::copyBlock(OdDbDatabase *source, const OdString &name, OdD
         result.kept.append({isBlock ? QStringLiteral("BLOCK") : QString::fromLatin1(table), kept.name});
     }
     return result;
+}
+
+OdResBufPtr CKvUtils::drawingRecord(const OdString &path, const OdString &name)
+{
+    const std::optional<host::drawing::FieldList> data = host::drawing::xrecordInFile(path, name);
+    return data ? host::kernel::chainFromFields(*data) : nullptr;
+}
+
+bool CKvUtils::setDrawingRecord(const OdString &path, const OdString &name, const OdResBuf *chain, OdString *error)
+{
+    const host::drawing::SaveResult result =
+        host::drawing::setXrecordInFile(path, name, host::kernel::fieldsFromChain(chain));
+    if (error)
+        *error = result.error;
+    return bool(result);
 }
