@@ -7,15 +7,16 @@ namespace {
 
 constexpr qint64 patience = 500; // milliseconds until the user is told
 constexpr qint64 betweenLooks = 50;
-/// A clock is asked once for so many steps.
-constexpr qsizetype stepsBetweenLooks = 32;
+/// A clock is asked once for so many small steps.
+constexpr qsizetype smallStepsBetweenLooks = 32;
 /// The bar counts in these, since steps may be more than it can count.
 constexpr int barLength = 1000;
 
 } // namespace
 
-LongWork::LongWork(QWidget *parent, const QString &text, qsizetype steps)
-    : m_parent(parent), m_text(text), m_steps(std::max<qsizetype>(steps, 1)), m_nextLook(patience)
+LongWork::LongWork(QWidget *parent, const QString &text, qsizetype steps, WorkSteps size)
+    : m_parent(parent), m_text(text), m_steps(steps == manyUnknown ? 0 : std::max<qsizetype>(steps, 1)),
+      m_stepsBetweenLooks(size == WorkSteps::Small ? smallStepsBetweenLooks : 1), m_nextLook(patience)
 {
     m_sinceStart.start();
 }
@@ -25,11 +26,12 @@ LongWork::~LongWork() = default;
 bool LongWork::goesOn()
 {
     const qsizetype step = m_step++;
-    if (step % stepsBetweenLooks != 0 || m_sinceStart.elapsed() < m_nextLook)
+    if (step % m_stepsBetweenLooks != 0 || m_sinceStart.elapsed() < m_nextLook)
         return !m_progress || !m_progress->wasCanceled();
     if (!m_progress)
         show();
-    m_progress->setValue(int(barLength * std::min(step, m_steps) / m_steps));
+    if (m_steps > 0)
+        m_progress->setValue(int(barLength * std::min(step, m_steps) / m_steps));
     // The bar itself handles events only when it moves; the button is to work all the time.
     QCoreApplication::processEvents();
     m_nextLook = m_sinceStart.elapsed() + betweenLooks;
@@ -39,7 +41,7 @@ bool LongWork::goesOn()
 void LongWork::show()
 {
     const QString cancel = QCoreApplication::translate("LispExtension", "Cancel");
-    m_progress = std::make_unique<QProgressDialog>(m_text, cancel, 0, barLength, m_parent);
+    m_progress = std::make_unique<QProgressDialog>(m_text, cancel, 0, m_steps > 0 ? barLength : 0, m_parent);
     m_progress->setObjectName(QStringLiteral("progressDialog"));
     m_progress->setWindowModality(Qt::WindowModal);
     m_progress->setAutoReset(false);

@@ -8,7 +8,14 @@
 class QProgressDialog;
 class QWidget;
 
-/// Work of many small steps that the user waits for: once it has taken half a second, a progress bar with a Cancel
+/// What a step of the work takes.
+enum class WorkSteps
+{
+    Small,
+    Large ///< a file, say: a look at the clock is nothing beside it
+};
+
+/// Work of many steps that the user waits for: once it has taken half a second, a progress bar with a Cancel
 /// button comes up over the dialog that it is done for. Meanwhile events are handled, but the dialog takes no input.
 ///
 ///     LongWork work(this, tr("Replacing..."), rows.size());
@@ -20,14 +27,16 @@ class QWidget;
 class LongWork
 {
 public:
-    /// `text` says what is being done; `steps` is the number of calls of goesOn() to come.
-    LongWork(QWidget *parent, const QString &text, qsizetype steps);
+    /// `text` says what is being done; `steps` is the number of calls of goesOn() to come. With `manyUnknown` the bar
+    /// shows only that it goes on.
+    LongWork(QWidget *parent, const QString &text, qsizetype steps, WorkSteps size = WorkSteps::Small);
+    static constexpr qsizetype manyUnknown = -1;
     ~LongWork();
     LongWork(const LongWork &) = delete;
     LongWork &operator=(const LongWork &) = delete;
 
     /// To be asked before each step; false once the user has cancelled. Costs next to nothing between two looks at the
-    /// clock.
+    /// clock, which are taken every few small steps and for each large one.
     bool goesOn();
 
 private:
@@ -35,7 +44,8 @@ private:
 
     QWidget *m_parent;
     QString m_text;
-    qsizetype m_steps;
+    qsizetype m_steps; ///< 0 when nobody knows
+    qsizetype m_stepsBetweenLooks;
     qsizetype m_step = 0;
     QElapsedTimer m_sinceStart;
     qint64 m_nextLook;
