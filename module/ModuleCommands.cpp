@@ -2,8 +2,10 @@
 
 #include "dialogs/selectblock/DLG_QT_SelectBlock.h"
 #include "module/BlockImport.h"
+#include "dialogs/tracktime/Dlg_QT_TrackTime.h"
 #include "module/CommandDialog.h"
 #include "module/ExceptionGuard.h"
+#include "module/RegisteredDrawings.h"
 #include "platform/ed/OdEdCommand.h"
 
 #include <vector>
@@ -13,6 +15,14 @@ namespace ortakit {
 namespace {
 
 using namespace Qt::StringLiterals;
+
+void trackTime()
+{
+    runCommandDialog<Dlg_QT_TrackTime>({.prepare = [](Dlg_QT_TrackTime &dialog) {
+        static RegisteredDrawings open;
+        dialog.setOpenDrawings(&open);
+    }});
+}
 
 struct CommandRow
 {
@@ -24,6 +34,7 @@ struct CommandRow
 const std::vector<CommandRow> commandRows = {
     {"ORTAKIT_IMPORTBLOCK"_L1, importBlock},
     {"ORTAKIT_SELECTBLOCK"_L1, [] { runCommandDialog<DLG_QT_SelectBlock>({}); }},
+    {"ORTAKIT_TRACKTIME"_L1, trackTime},
 };
 
 class ModuleCommand final : public OdStaticRxObject<OdEdCommand>
