@@ -25,6 +25,7 @@
 #include "dialogs/showlinks/Dlg_QT_ShowLinks.h"
 #include "dialogs/textframe/Dlg_QT_TextFrame.h"
 #include "dialogs/textmask/Dlg_QT_TextMask.h"
+#include "dialogs/tracktime/Dlg_QT_TrackTime.h"
 #include "tests/support/FakeHost.h"
 #include "tests/support/QtTestPrinters.h"
 
@@ -86,6 +87,7 @@ constexpr Row rows[] = {
     row<DLG_QT_SelectBlock>("SelectBlock", "9102"),
     row<Dlg_QT_DrawOderColor>("DrawOderColor", "9127"),
     row<Dlg_QT_MergeSheets>("MergeSheets", "9136"),
+    row<Dlg_QT_TrackTime>("TrackTime", "0"),
 };
 
 void PrintTo(const Row &row, std::ostream *out)
