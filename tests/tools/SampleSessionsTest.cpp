@@ -99,6 +99,7 @@ TEST_F(SampleSessions, ChangeWhatTheySayAndNothingElse)
          "1~DICTIONARY"_s,
          u"Ortakit/textmask.state"_s, "type_mask=TRUE"},
         {u"showlinks"_s, u"1+APPID 1~$HANDSEED 2~TEXT"_s, u"Ortakit/showlinks.state"_s, "txreplace=new.example\n"},
+        {u"tracktime"_s, {}, u"Ortakit/Project/zigzag.dxf"_s, "KORA_TRACKTIME"},
     };
     QStringList names;
     for (const auto &row : rows) {
@@ -134,7 +135,8 @@ TEST_F(SampleSessions, CancelledCommandsChangeNothing)
                                                     {u"REDEFINEPATHS"_s, u"Dlg_QT_RedefinePaths"_s},
                                                     {u"REPLACEBLOCK"_s, u"Dlg_QT_ReplaceBlock"_s},
                                                     {u"REPLACEBLOCKBYREFERENCE"_s, u"Dlg_QT_ReplaceBlockToXref"_s},
-                                                    {u"SHOWLINKS"_s, u"Dlg_QT_ShowLinks"_s}};
+                                                    {u"SHOWLINKS"_s, u"Dlg_QT_ShowLinks"_s},
+                                                    {u"TRACKTIME"_s, u"Dlg_QT_TrackTime"_s}};
     QString session;
     for (const auto &[command, dialog] : commands)
         session += u"command %1\ndialog %2\nclose\nexpect-modified no\n"_s.arg(command, dialog);
