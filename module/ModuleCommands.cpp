@@ -1,8 +1,8 @@
 #include "module/ModuleCommands.h"
 
 #include "dialogs/selectblock/DLG_QT_SelectBlock.h"
-#include "module/BlockImport.h"
 #include "dialogs/tracktime/Dlg_QT_TrackTime.h"
+#include "module/BlockImport.h"
 #include "module/CommandDialog.h"
 #include "module/ExceptionGuard.h"
 #include "module/RegisteredDrawings.h"

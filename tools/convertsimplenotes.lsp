@@ -27,8 +27,8 @@
     ((entmakex (convertsimplenotes:paragraph (convertsimplenotes:sorted used state) state))
      (foreach data used (entdel (kora_field data -1)))
      (if (< (length used) (length open))
-       (kora_alert_message (strcat (kora_counted (- (length open) (length used)) "text") " in another plane left alone.")))
-     (kora_done (strcat (kora_counted (length used) "text") " made one paragraph.") (- (length notes) (length open))))
+       (kora_alert_message (strcat (kora_number_of (- (length open) (length used)) "text") " in another plane left alone.")))
+     (kora_done (strcat (kora_number_of (length used) "text") " made one paragraph.") (- (length notes) (length open))))
     (T (kora_alert_message "The paragraph could not be made. The texts stay as they are."))))
 
 ;; Whether a text lies in the plane of the first.

@@ -44,8 +44,8 @@
               (setq new (edittextcase:converted old style (= (kora_field data 0) "MTEXT")))))
           ((entmod (kora_with_content data new)) (setq changed (1+ changed)))))
   (if (> kept 0)
-    (kora_alert_message (strcat (kora_counted kept "attribute") " of several lines left alone.")))
-  (kora_done (strcat (kora_counted changed "text") " changed.") locked))
+    (kora_alert_message (strcat (kora_number_of kept "attribute") " of several lines left alone.")))
+  (kora_done (strcat (kora_number_of changed "text") " changed.") locked))
 
 ;; An attribute is locked with the layer of its block reference as well.
 (defun edittextcase:is_locked (data / owner)

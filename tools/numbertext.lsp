@@ -114,7 +114,7 @@
     (setq data (entget text))
     (if (entmod (kora_with_content data (numbertext:content data state (numbertext:label state (+ number (* count step)) places))))
       (setq count (1+ count))))
-  (kora_done (strcat (kora_counted count "text") " numbered.") locked))
+  (kora_done (strcat (kora_number_of count "text") " numbered.") locked))
 
 ;; How many digits a typed number has behind its point.
 (defun numbertext:places (typed / point)

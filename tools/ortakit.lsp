@@ -16,6 +16,7 @@
 ;;; support/drawing.lsp   lines and texts in the user's coordinate system
 ;;; support/variables.lsp system variables
 
-(foreach file '("strings" "run" "state" "entities" "selection" "texts" "textboxes" "catalogue" "files" "dimstyles" "blocks" "drawing" "attributes" "replacing" "variables")
+(foreach file '("strings" "run" "state" "entities" "selection" "texts" "textboxes" "catalogue" "files" "dimstyles"
+                "blocks" "attributes" "replacing" "drawing" "variables")
   (load (strcat "support/" file ".lsp")))
 (princ)

@@ -30,21 +30,22 @@ inline constexpr qsizetype largestMacroText = 4096;
 /// taken as it stands, commas, parentheses and calls included, and "" in it is a quote. Numbers are written with up to
 /// 12 digits; a truth is 1 or 0. The functions, by name in any case:
 ///
-/// | call | value |
-/// |---|---|
-/// | + - * / of one or more numbers | the first and the others added, subtracted, multiplied, divided |
-/// | = != < > <= >= of two numbers | whether it holds |
-/// | and or xor of one or more whole numbers | bit by bit |
-/// | eq,A,B | whether two texts are the same |
-/// | if,CONDITION,A,B | A, or B (which may be left out) where the condition is 0; the other is not evaluated |
-/// | nth,N,A0,A1,... | the argument with that number; the others are not evaluated |
-/// | index,N,LIST | the member with that number, from 0, of a text with commas; empty where there is none |
-/// | fix,NUMBER | without what stands behind the point |
-/// | strlen,TEXT; upper,TEXT; substr,TEXT,START,LENGTH | the first character has the number 1; the length may be left
-/// out | | getvar,NAME | a system variable | | getenv,NAME | an environment variable; the name itself where there is
-/// none | | edtime,DATE,PICTURE | a Julian date, or now for 0, see dateText() | | rtos,NUMBER,MODE,PRECISION;
-/// angtos,ANGLE,MODE,PRECISION | a length, an angle; as the drawing's variables say where left out | | linelen | how
-/// many characters a line may have | | eval,TEXT | the text evaluated once more |
+/// - `+` `-` `*` `/` of one or more numbers: the first and the others added, subtracted, multiplied, divided.
+/// - `=` `!=` `<` `>` `<=` `>=` of two numbers: whether it holds.
+/// - `and` `or` `xor` of one or more whole numbers: bit by bit.
+/// - `eq,A,B`: whether two texts are the same.
+/// - `if,CONDITION,A,B`: A, or B (which may be left out) where the condition is 0; the other is not evaluated.
+/// - `nth,N,A0,A1,...`: the argument with that number; the others are not evaluated.
+/// - `index,N,LIST`: the member with that number, from 0, of a text with commas; empty where there is none.
+/// - `fix,NUMBER`: without what stands behind the point.
+/// - `strlen,TEXT`, `upper,TEXT`, `substr,TEXT,START,LENGTH`: characters count from 1; the length may be left out.
+/// - `getvar,NAME`: a system variable.
+/// - `getenv,NAME`: an environment variable; the name itself where there is none.
+/// - `edtime,DATE,PICTURE`: a Julian date, or now for 0; see dateText().
+/// - `rtos,NUMBER,MODE,PRECISION`, `angtos,ANGLE,MODE,PRECISION`: a length, an angle; as the drawing's variables say
+///   where mode and precision are left out.
+/// - `linelen`: how many characters a line may have.
+/// - `eval,TEXT`: the text evaluated once more.
 ///
 /// What is wrong shows in the value and the rest is evaluated all the same: $(name)?? is an unknown function and
 /// $(name,??) one with the wrong arguments. Two end the value where they are met: $? a parenthesis or quote that never

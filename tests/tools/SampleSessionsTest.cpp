@@ -89,6 +89,7 @@ TEST_F(SampleSessions, ChangeWhatTheySayAndNothingElse)
          u"1+ATTDEF 2+ATTRIB 3+BLOCK 3+BLOCK_RECORD 3+CIRCLE 3+ENDBLK 5+INSERT 2+LAYER 1+LTYPE 2+LWPOLYLINE 2+SEQEND "
          "1+STYLE 1~$HANDSEED"_s,
          u"Ortakit/selectblock.state"_s, "name=LAMP\nsource=active\n"},
+        {u"showlinks"_s, u"1+APPID 1~$HANDSEED 2~TEXT"_s, u"Ortakit/showlinks.state"_s, "txreplace=new.example\n"},
         // A slot and its filling for each of two names, and the order in which they are drawn.
         {u"textframe"_s, u"1+DICTIONARY 2+HATCH 2+LWPOLYLINE 1+SORTENTSTABLE 1~$HANDSEED 1~BLOCK_RECORD"_s,
          u"Ortakit/textframe.state"_s, "constant_both=TRUE"},
@@ -98,7 +99,6 @@ TEST_F(SampleSessions, ChangeWhatTheySayAndNothingElse)
          u"1~BLOCK_RECORD "
          "1~DICTIONARY"_s,
          u"Ortakit/textmask.state"_s, "type_mask=TRUE"},
-        {u"showlinks"_s, u"1+APPID 1~$HANDSEED 2~TEXT"_s, u"Ortakit/showlinks.state"_s, "txreplace=new.example\n"},
         {u"tracktime"_s, {}, u"Ortakit/Project/zigzag.dxf"_s, "KORA_TRACKTIME"},
     };
     QStringList names;

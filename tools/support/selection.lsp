@@ -15,10 +15,6 @@
     (kora_selection_to_list selection)
     (kora_refuse "Nothing was chosen.")))
 
-;; (kora_is_locked data) -> T when the entity is on a locked layer. data is of entget.
-(defun kora_is_locked (data)
-  (= 4 (logand 4 (cond ((kora_field (tblsearch "LAYER" (kora_field data 8)) 70)) (0)))))
-
 ;; (kora_unlocked entities) -> those that are not on locked layers.
 (defun kora_unlocked (entities)
   (vl-remove-if '(lambda (entity) (kora_is_locked (entget entity))) entities))
@@ -28,10 +24,6 @@
   (setq selection (ssadd))
   (foreach entity entities (ssadd entity selection))
   selection)
-
-;; (kora_counted count noun) -> "1 text", "12 texts".
-(defun kora_counted (count noun)
-  (strcat (itoa count) " " noun (if (= count 1) "" "s")))
 
 ;; (kora_done text locked) prints a sentence that says what was done, and how many entities were left alone because they
 ;; are on locked layers.
@@ -45,6 +37,6 @@
 ;; (kora_done_with verb done open all) says how many texts were, say, "masked", out of those on layers that are not locked
 ;; and out of all.
 (defun kora_done_with (verb done open all)
-  (kora_done (strcat (kora_counted done "text") " " verb "."
+  (kora_done (strcat (kora_number_of done "text") " " verb "."
                      (if (< done open) (strcat " " (itoa (- open done)) " could not be " verb ".") ""))
              (- all open)))

@@ -9,14 +9,6 @@
 ;;;
 ;;; The characters of all parts in order are the content.
 
-;; (kora_attributes insert) -> the entity names of a block reference's attributes.
-(defun kora_attributes (insert / data entity entities)
-  (setq data (entget insert))
-  (if (and (= (kora_field data 0) "INSERT") (= (kora_field data 66) 1))
-    (while (= (kora_field (setq data (entget (setq insert (entnext insert)))) 0) "ATTRIB")
-      (setq entities (cons insert entities))))
-  (reverse entities))
-
 ;; (kora_text_content data) -> what a TEXT, MTEXT, ATTRIB or ATTDEF says, with its codes. data is of entget.
 (defun kora_text_content (data / pieces)
   (if (= (kora_field data 0) "MTEXT")
