@@ -26,9 +26,10 @@ std::size_t placeOf(const QString &where, const Entities &others, const Entities
     if (where == u"Front")
         return others.size();
     const bool isAbove = where == u"Above";
+    const QSet<RecordId> wanted(references.begin(), references.end());
     std::size_t place = isAbove ? 0 : others.size();
     for (std::size_t i = 0; i < others.size(); ++i)
-        if (std::ranges::find(references, others[i]) != references.end())
+        if (wanted.contains(others[i]))
             place = isAbove ? std::max(place, i + 1) : std::min(place, i);
     return place;
 }
@@ -36,13 +37,11 @@ std::size_t placeOf(const QString &where, const Entities &others, const Entities
 /// The chosen ones keep their order among each other.
 Entities reordered(const Entities &all, const Entities &chosen, const QString &where, const Entities &references)
 {
-    QSet<quint32> moving;
-    for (RecordId id : chosen)
-        moving.insert(quint32(id));
+    const QSet<RecordId> moving(chosen.begin(), chosen.end());
     Entities moved;
     Entities others;
     for (RecordId id : all)
-        (moving.contains(quint32(id)) ? moved : others).push_back(id);
+        (moving.contains(id) ? moved : others).push_back(id);
     const auto place = static_cast<std::ptrdiff_t>(placeOf(where, others, references));
     others.insert(others.begin() + place, moved.begin(), moved.end());
     return others;
