@@ -128,9 +128,10 @@ void RowMover::enableButtons()
 
 bool RowMover::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == m_table && event->type() == QEvent::KeyPress && takeKey(*static_cast<QKeyEvent *>(event)))
+    // The kind comes first: events come from a table that is half destroyed, too.
+    if (event->type() == QEvent::KeyPress && watched == m_table && takeKey(*static_cast<QKeyEvent *>(event)))
         return true;
-    if (watched == m_table->viewport() && event->type() == QEvent::Drop) {
+    if (event->type() == QEvent::Drop && watched == m_table->viewport()) {
         drop(*static_cast<QDropEvent *>(event));
         return true;
     }
