@@ -22,13 +22,6 @@ protected:
     }
 };
 
-TEST_F(ConvertNotes, KeepsAndWrapsUnlessToldOtherwise)
-{
-    showWith({});
-    EXPECT_EQ(checked().join(u' '), u"keepfonts keepcolors keepsizes select_entity word_wrap"_s);
-    EXPECT_EQ(focusName(), u"keepfonts"_s);
-}
-
 TEST_F(ConvertNotes, ExactlyOneOrderIsSaved)
 {
     showWith(u"keepcolors=FALSE\nselect_topdow=TRUE\n"_s);
@@ -41,8 +34,10 @@ TEST_F(ConvertNotes, ExactlyOneOrderIsSaved)
                             "select_topdow=FALSE\nselect_alfa=TRUE\nword_wrap=FALSE\n"_s);
 }
 
-TEST_F(ConvertNotes, ALaterCallSetsWhatItsFileSays)
+TEST_F(ConvertNotes, EachCallSetsWhatItsFileSays)
 {
+    showWith({});
+    EXPECT_EQ(checked().join(u' '), u"keepfonts keepcolors keepsizes select_entity word_wrap"_s);
     showWith(u"keepfonts=FALSE\nselect_topdow=TRUE\n"_s);
     click("keepfonts");
     showWith(u"keepsizes=FALSE\nselect_entity=TRUE\n"_s);

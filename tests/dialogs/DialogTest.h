@@ -6,7 +6,13 @@
 #include "tests/support/QtTestPrinters.h"
 
 #include <QAbstractButton>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDir>
+#include <QHeaderView>
+#include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QSettings>
 #include <QTableWidget>
 #include <QTest>
@@ -55,6 +61,23 @@ protected:
         setText(field, text);
         QTest::keyClick(find(field), Qt::Key_Return);
     }
+    /// The same; gives what was shown.
+    QStringList shownEntering(const char *field, const QString &text)
+    {
+        const ModalAnswers user;
+        enterText(field, text);
+        return user.shown();
+    }
+    void saveFavourite(const char *box, const char *button, const QString &name)
+    {
+        find<QComboBox>(box)->setEditText(name);
+        click(button);
+    }
+    void pickFavourite(const char *box, const QString &name)
+    {
+        find<QComboBox>(box)->setEditText(name);
+        QTest::keyClick(find(box), Qt::Key_Return);
+    }
     void click(const char *button) { find<QAbstractButton>(button)->click(); }
     /// Clicks, and gives what was shown: `answers` are pressed in the messages one after the other; a message without
     /// an answer is closed.
@@ -71,7 +94,7 @@ protected:
         user.choose(path);
         return shownBy(user, button, answers);
     }
-    /// The rows of a table, their cells with "|" between.
+    /// The rows of a table, their cells with "|" between; "-" for a cell without an item.
     QStringList tableRows(const char *name) const
     {
         const auto *table = find<QTableWidget>(name);
@@ -79,10 +102,19 @@ protected:
         for (int row = 0; row < table->rowCount(); ++row) {
             QStringList cells;
             for (int column = 0; column < table->columnCount(); ++column)
-                cells.append(table->item(row, column)->text());
+                cells.append(table->item(row, column) ? table->item(row, column)->text() : QStringLiteral("-"));
             rows.append(cells.join(u'|'));
         }
         return rows;
+    }
+    /// The same with blanks between the rows.
+    QString tableText(const char *name) const { return tableRows(name).join(u' '); }
+    /// Clicks on the header of a column, as with the mouse.
+    void clickHeader(const char *table, int column = 0) const
+    {
+        const QHeaderView *header = find<QTableWidget>(table)->horizontalHeader();
+        QTest::mouseClick(header->viewport(), Qt::LeftButton, {},
+                          QPoint(header->sectionViewportPosition(column) + 10, header->height() / 2));
     }
     /// Selects these rows one after the other, as with the Ctrl key held.
     static void selectRows(QTableWidget *table, const QList<int> &rows)

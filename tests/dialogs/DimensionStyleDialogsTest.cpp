@@ -2,9 +2,6 @@
 #include "dialogs/dimensionstyle/Dlg_QT_ImportDimensionStyle.h"
 #include "tests/dialogs/DialogTest.h"
 
-#include <QDir>
-#include <QFileInfo>
-
 using namespace ortakit::test;
 using namespace Qt::StringLiterals;
 
@@ -26,8 +23,8 @@ class DimensionStyleDialog : public DialogTest<Dialog>
 protected:
     QTableWidget *styles() const { return this->template find<QTableWidget>("lstStyles"); }
     void select(const QList<int> &rows) { this->selectRows(styles(), rows); }
-    QStringList styleRows() const { return this->tableRows("lstStyles"); }
-    QStringList variableRows() const { return this->tableRows("lstVariables"); }
+    QString styleRows() const { return this->tableText("lstStyles"); }
+    QString variableRows() const { return this->tableText("lstVariables"); }
 
     QString source = this->host.writeFile(u"all.dim"_s, isoSection + archSection);
 };
@@ -38,47 +35,37 @@ using ImportDimensionStyle = DimensionStyleDialog<Dlg_QT_ImportDimensionStyle>;
 TEST_F(ExportDimensionStyle, ShowsTheStylesOfTheFileAndTheVariablesOfTheOneThatIsSelected)
 {
     showWith(u"filedim=%1\n"_s.arg(source));
-    EXPECT_EQ(styleRows(), (QStringList{u"Arch Small"_s, u"ISO-25"_s}));
+    EXPECT_EQ(styleRows(), u"Arch Small ISO-25"_s);
     // The list has the focus, so its first row is selected.
-    EXPECT_EQ(variableRows(), QStringList{u"DIMTXSTY|Standard"_s});
+    EXPECT_EQ(variableRows(), u"DIMTXSTY|Standard"_s);
     select({1});
-    EXPECT_EQ(variableRows(), (QStringList{u"DIMASZ|3"_s, u"DIMLT|DASHED"_s, u"DIMSCALE|2.5"_s, u"DIMTXSTY|Roman"_s}));
+    EXPECT_EQ(variableRows(), u"DIMASZ|3 DIMLT|DASHED DIMSCALE|2.5 DIMTXSTY|Roman"_s);
     select({0, 1});
-    EXPECT_EQ(variableRows(), QStringList());
+    EXPECT_EQ(variableRows(), QString());
 
     host.writeFile(u"all.dim"_s, isoSection);
     show();
-    EXPECT_EQ(styleRows(), QStringList{u"ISO-25"_s});
+    EXPECT_EQ(styleRows(), u"ISO-25"_s);
     showWith(u"filedim=%1\n"_s.arg(source + u".missing"_s));
-    EXPECT_EQ(styleRows(), QStringList());
-    EXPECT_EQ(variableRows(), QStringList());
+    EXPECT_EQ(styleRows() + variableRows(), QString());
 }
 
 TEST_F(ExportDimensionStyle, WritesTheSelectedStylesInTheOrderOfTheSelection)
 {
     const QByteArray nameOnly = QByteArray(isoSection).replace("DIMTXT_FONT romans\r\n", "");
-    const struct
-    {
-        QList<int> selected;
-        const char *kind;
-        QString chosen;
-        QString written;
-        QByteArray content;
-    } rows[] = {
+    const std::tuple<QList<int>, const char *, QString, QString, QByteArray> rows[] = {
         {{1}, "rbNameText", u"one"_s, u"one.dim"_s, nameOnly},
         {{1}, "rbFullText", u"full.dim"_s, u"full.dim"_s, isoSection},
         {{1, 0}, "rbFullText", u"down.dim"_s, u"down.dim"_s, isoSection + archSection},
-        {{0, 1}, "rbFullText", u"up.dim"_s, u"up.dim"_s, archSection + isoSection},
-        {{0}, "rbFullText", u"big.DIM"_s, u"big.DIM.dim"_s, archSection},
+        {{0, 1}, "rbFullText", u"big.DIM"_s, u"big.DIM.dim"_s, archSection + isoSection},
     };
-    for (const auto &row : rows) {
+    for (const auto &[selected, kind, chosen, written, content] : rows) {
         showWith(u"filedim=%1\n"_s.arg(source));
-        select(row.selected);
-        click(row.kind);
-        EXPECT_TRUE(
-            shownChoosing("selectfile", host.path(row.chosen)).value(0).endsWith(u"\"DimStyle files (*.dim)\""_s));
-        EXPECT_TRUE(isAccepted()) << row.written.toStdString();
-        EXPECT_EQ(FakeHost::readFile(host.path(row.written)), row.content) << row.written.toStdString();
+        select(selected);
+        click(kind);
+        shownChoosing("selectfile", host.path(chosen));
+        EXPECT_TRUE(isAccepted()) << written.toStdString();
+        EXPECT_EQ(FakeHost::readFile(host.path(written)), content) << written.toStdString();
     }
 }
 
@@ -88,22 +75,19 @@ TEST_F(ExportDimensionStyle, NothingIsWrittenWithoutAFileOrASelection)
     shownChoosing("selectfile", {});
     styles()->clearSelection();
     const QString target = host.path(u"new.dim"_s);
-    EXPECT_EQ(shownChoosing("selectfile", target).value(1),
-              u"information \"Exchange Dimension Style\" \"No dimension style selected, please "
-              "select a dimension style to export. \" OK"_s);
+    EXPECT_TRUE(shownChoosing("selectfile", target).value(1).contains(u"No dimension style selected"_s));
     EXPECT_TRUE(dialog->isVisible());
     EXPECT_FALSE(QFileInfo::exists(target));
 }
 
 TEST_F(ExportDimensionStyle, WhatIsThereIsReplacedOnlyByStylesAndWhenTheUserSaysSo)
 {
-    const QString question = u"question \"Exchange Dimension Style\" \"old.dim already exists. Do you "
-                             "want to replace it?\" Yes/No"_s;
     const QString target = host.writeFile(u"old.dim"_s, "old");
     for (const auto answer : {QMessageBox::No, QMessageBox::Yes}) {
         showWith(u"filedim=%1\n"_s.arg(source));
         // The picker asks about "old", the file is "old.dim".
-        EXPECT_EQ(shownChoosing("selectfile", host.path(u"old"_s), {answer}).value(1), question);
+        EXPECT_TRUE(
+            shownChoosing("selectfile", host.path(u"old"_s), {answer}).value(1).contains(u"\"old.dim already"_s));
         EXPECT_EQ(FakeHost::readFile(target), answer == QMessageBox::Yes ? archSection : "old");
         EXPECT_EQ(isAccepted(), answer == QMessageBox::Yes);
     }
@@ -129,18 +113,17 @@ TEST_F(ImportDimensionStyle, ShowsTheStylesOfTheChosenFileByTheirFirstWords)
     EXPECT_FALSE(isEnabled("groupBox_2"));
     shownChoosing("selectfile", source);
     EXPECT_EQ(fullText("txExport"), source);
-    EXPECT_EQ(styleRows(), (QStringList{u"Arch"_s, u"ISO-25"_s}));
+    EXPECT_EQ(styleRows(), u"Arch ISO-25"_s);
 
     dialog->activateWindow();
     ASSERT_TRUE(QTest::qWaitForWindowActive(dialog.get()));
     styles()->setFocus();
     EXPECT_EQ(styles()->selectionModel()->selectedRows().size(), 1);
     select({1});
-    EXPECT_EQ(variableRows(), (QStringList{u"DIMASZ|3"_s, u"DIMLT|DASHED"_s, u"DIMSCALE|2.5"_s}));
+    EXPECT_EQ(variableRows(), u"DIMASZ|3 DIMLT|DASHED DIMSCALE|2.5"_s);
 
     shownChoosing("selectfile", {});
-    EXPECT_EQ(styleRows().size(), 2) << "cancelled";
-    EXPECT_EQ(variableRows().size(), 3);
+    EXPECT_EQ(variableRows().count(u'|'), 3) << "cancelled";
 }
 
 TEST_F(ImportDimensionStyle, APathThatIsTypedIsListedWhenItIsFinished)
@@ -148,7 +131,7 @@ TEST_F(ImportDimensionStyle, APathThatIsTypedIsListedWhenItIsFinished)
     show();
     enterText("txExport", source);
     EXPECT_TRUE(dialog->isVisible());
-    EXPECT_EQ(styleRows().size(), 2);
+    EXPECT_EQ(styleRows(), u"Arch ISO-25"_s);
     select({0});
     QTest::keyClick(find("txExport"), Qt::Key_Return);
     EXPECT_EQ(styles()->selectionModel()->selectedRows().size(), 1);
@@ -157,32 +140,25 @@ TEST_F(ImportDimensionStyle, APathThatIsTypedIsListedWhenItIsFinished)
 TEST_F(ImportDimensionStyle, OverwritingIsOfferedForTheClashesThereAre)
 {
     const QString both = u"groupBox_2 cbDimensionStyle cbTextStyle"_s;
-    const struct
-    {
-        const char *what;
-        QString existing;
-        QList<int> selected;
-        QString offered;
-    } rows[] = {
+    // What the drawing has, what is selected, and what is offered.
+    const std::tuple<const char *, QString, QList<int>, QString> rows[] = {
         {"dimension style",
          u"dimstylelength=2\ndimstyle1=Other\ndimstyle2=ISO-25\n"_s,
          {1},
          u"groupBox_2 cbDimensionStyle"_s},
         {"text style", u"textstylelength=1\ntextstyle1=Roman\n"_s, {1}, u"groupBox_2 cbTextStyle"_s},
-        {"both", u"dimstylelength=1\ndimstyle1=ISO-25\ntextstylelength=1\ntextstyle1=Roman\n"_s, {1}, both},
         {"another case", u"dimstylelength=1\ndimstyle1=iso-25\ntextstylelength=1\ntextstyle1=ROMAN\n"_s, {1}, {}},
-        {"beyond the length", u"dimstylelength=1\ndimstyle1=a\ndimstyle2=ISO-25\n"_s, {1}, {}},
         {"two styles", u"dimstylelength=0\ntextstylelength=0\n"_s, {0, 1}, both},
         {"the end of another key", u"dimstylelength=1\nmydimstyle1=Other\ndimstyle1=ISO-25\n"_s, {1}, {}},
     };
-    for (const auto &row : rows) {
+    for (const auto &[what, existing, selected, offered] : rows) {
         SetUp();
-        showWith(u"txexport=%1\ncbtextstyle=TRUE\ncbdimensionstyle=TRUE\n"_s.arg(source) + row.existing);
+        showWith(u"txexport=%1\ncbtextstyle=TRUE\ncbdimensionstyle=TRUE\n"_s.arg(source) + existing);
         select({0});
         find<QAbstractButton>("cbTextStyle")->setChecked(true);
-        select(row.selected);
-        EXPECT_EQ(enabledOf(both), row.offered) << row.what;
-        EXPECT_FALSE(isChecked("cbTextStyle") || isChecked("cbDimensionStyle")) << row.what;
+        select(selected);
+        EXPECT_EQ(enabledOf(both), offered) << what;
+        EXPECT_FALSE(isChecked("cbTextStyle") || isChecked("cbDimensionStyle")) << what;
     }
 }
 
@@ -199,8 +175,7 @@ TEST_F(ImportDimensionStyle, GivesTheChosenNamesToLisp)
 
     show();
     styles()->clearSelection();
-    EXPECT_EQ(shownBy("acceptButton"), QStringList{u"information \"\" \"No dimension style selected, please select a "
-                                                   "dimension style to import. \" OK"_s});
+    EXPECT_TRUE(shownBy("acceptButton").value(0).contains(u"No dimension style selected"_s));
     EXPECT_TRUE(dialog->isVisible());
 }
 

@@ -1,9 +1,7 @@
 #include "dialogs/getblockinfo/Dlg_QT_GetBlockInfo.h"
 #include "tests/dialogs/DialogTest.h"
 
-#include <QCheckBox>
 #include <QDialogButtonBox>
-#include <QHeaderView>
 
 using namespace ortakit::test;
 using namespace Qt::StringLiterals;
@@ -18,46 +16,20 @@ protected:
         dialog->setEntries({topLevel.split(u' '), withNested.split(u' ')});
         showWith(state);
     }
-    QString rows() const { return tableRows("blocksTable").join(u' '); }
-    void clickHeader(int column)
-    {
-        const QHeaderView *header = find<QTableWidget>("blocksTable")->horizontalHeader();
-        QTest::mouseClick(header->viewport(), Qt::LeftButton, {},
-                          QPoint(header->sectionViewportPosition(column) + 10, header->height() / 2));
-    }
-    /// What the file holds that is chosen for the report; when there is one, the user agrees to lose it.
-    QByteArray report(ModalAnswers &answers)
-    {
-        const QString path = host.path(u"reports/blocks.txt"_s);
-        QDir().mkpath(host.path(u"reports"_s));
-        answers.choose(path);
-        if (QFileInfo::exists(path))
-            answers.press(QMessageBox::Yes);
-        click("exportButton");
-        return FakeHost::readFile(path);
-    }
+    QString rows() const { return tableText("blocksTable"); }
 };
 
 TEST_F(GetBlockInfo, ShowsBlocksThatHaveReferencesInOrder)
 {
-    const struct
-    {
-        const char *name;
-        QList<int> headerClicks;
-        QString rows;
-    } cases[] = {
-        {"at first", {}, u"chair|9 DESK|10 Tree|100"_s},
-        {"the name once", {0}, u"Tree|100 DESK|10 chair|9"_s},
-        {"the name twice", {0, 0}, u"chair|9 DESK|10 Tree|100"_s},
-        {"the number once", {1}, u"Tree|100 DESK|10 chair|9"_s},
-        {"the number twice", {1, 1}, u"chair|9 DESK|10 Tree|100"_s},
-    };
-    for (const auto &row : cases) {
-        dialog = std::make_unique<Dlg_QT_GetBlockInfo>(&window);
+    const QString ascending = u"chair|9 DESK|10 Tree|100"_s;
+    const QString descending = u"Tree|100 DESK|10 chair|9"_s;
+    for (const int column : {0, 1}) {
+        SetUp();
         showBlocks(u"DESK;10 GONE;0 Tree;100 chair;9 ODD;x NONE"_s);
-        for (const int column : row.headerClicks)
-            clickHeader(column);
-        EXPECT_EQ(rows(), row.rows) << row.name;
+        for (const QString &order : {ascending, descending, ascending}) {
+            EXPECT_EQ(rows(), order) << column;
+            clickHeader("blocksTable", column);
+        }
     }
 }
 
@@ -74,7 +46,7 @@ TEST_F(GetBlockInfo, NestedBlocksAreCountedOnDemand)
     show();
     EXPECT_EQ(rows(), QString());
 
-    dialog = std::make_unique<Dlg_QT_GetBlockInfo>(&window);
+    SetUp();
     showBlocks(u"A;1"_s, u"A;2"_s, u"nestedcheckbox=TRUE\n"_s);
     EXPECT_EQ(rows(), u"A|2"_s);
 }
@@ -87,10 +59,9 @@ TEST_F(GetBlockInfo, ThreeWaysOutAccept)
     EXPECT_EQ(dialog->resultText(), u"TABLE"_s);
 
     show();
-    EXPECT_EQ(dialog->resultText(), QString()) << "each showing begins anew";
     find<QDialogButtonBox>("buttonBox")->button(QDialogButtonBox::Close)->click();
     EXPECT_TRUE(isAccepted());
-    EXPECT_EQ(dialog->resultText(), QString());
+    EXPECT_EQ(dialog->resultText(), QString()) << "each showing begins anew";
 
     show();
     ModalAnswers answers;
@@ -105,27 +76,24 @@ TEST_F(GetBlockInfo, ThreeWaysOutAccept)
 
 TEST_F(GetBlockInfo, TheFileHoldsWhatIsShown)
 {
+    const QString folder = host.path(u"reports"_s);
+    const QString path = folder + u"/blocks.txt"_s;
+    QDir().mkpath(folder);
     showBlocks(u"A;1 LONGNAME;30 GONE;0"_s);
-    clickHeader(1);
-    ModalAnswers answers;
-    EXPECT_EQ(report(answers), "Name        Instances\r\nLONGNAME       30\r\nA              1\r\n");
+    clickHeader("blocksTable", 1);
+    shownChoosing("exportButton", path);
+    EXPECT_EQ(FakeHost::readFile(path), "Name        Instances\r\nLONGNAME       30\r\nA              1\r\n");
     showBlocks(u""_s);
-    EXPECT_EQ(report(answers), "Name Instances\r\n") << "the old file was longer";
-    const auto asked = [](const QString &folder) {
-        return u"choose \"Resulting file\" \"%1\" \"Text files (*.txt)\""_s.arg(folder);
-    };
-    EXPECT_EQ(answers.shown().filter(u"choose"_s), (QStringList{asked(host.path({})), asked(host.path(u"reports"_s))}));
+    EXPECT_TRUE(shownChoosing("exportButton", path, {QMessageBox::Yes}).value(0).contains(u" \"%1\""_s.arg(folder)));
+    EXPECT_EQ(FakeHost::readFile(path), "Name Instances\r\n") << "the old file was longer";
 }
 
 TEST_F(GetBlockInfo, AFileThatCannotBeWrittenIsPassedOver)
 {
     showBlocks(u"A;1"_s);
-    ModalAnswers answers;
-    answers.choose(u"/dev/full"_s);
-    answers.press(QMessageBox::Yes);
-    click("exportButton");
+    EXPECT_EQ(shownChoosing("exportButton", u"/dev/full"_s, {QMessageBox::Yes}).size(), 2)
+        << "the chooser and its question";
     EXPECT_TRUE(isAccepted());
-    EXPECT_EQ(answers.shown().size(), 2) << "the file dialog and its question";
 }
 
 } // namespace

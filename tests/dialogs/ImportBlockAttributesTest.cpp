@@ -1,10 +1,6 @@
 #include "dialogs/importblockattributes/Dlg_QT_ImportBlockAttributes.h"
 #include "tests/dialogs/DialogTest.h"
 
-#include <QCheckBox>
-#include <QHeaderView>
-#include <QPushButton>
-
 using namespace ortakit::test;
 using namespace Qt::StringLiterals;
 
@@ -19,18 +15,7 @@ class ImportBlockAttributes : public DialogTest<Dlg_QT_ImportBlockAttributes>
 {
 protected:
     QTableWidget *table() const { return find<QTableWidget>("Attributes"); }
-    /// Rows from top to bottom; "-" for a cell without an item.
-    QString rows() const
-    {
-        QStringList rows;
-        for (int row = 0; row < table()->rowCount(); ++row) {
-            QStringList cells;
-            for (int column = 0; column < table()->columnCount(); ++column)
-                cells.append(table()->item(row, column) ? table()->item(row, column)->text() : u"-"_s);
-            rows.append(cells.join(u'|'));
-        }
-        return rows.join(u' ');
-    }
+    QString rows() const { return tableText("Attributes"); }
     QString headers() const
     {
         QStringList texts;
@@ -38,19 +23,13 @@ protected:
             texts.append(table()->horizontalHeaderItem(column)->text());
         return texts.join(u'|');
     }
-    void enterFile(const QString &path)
-    {
-        find("AttributeFile")->setFocus();
-        setText("AttributeFile", path);
-        QTest::keyClick(find("AttributeFile"), Qt::Key_Return);
-    }
     void showFile(const QByteArray &content)
     {
         file = host.writeFile(u"doors.txt"_s, content);
         showWith({});
-        enterFile(file);
+        enterText("AttributeFile", file);
     }
-    QString shownFile() const { return find("AttributeFile")->property("value").toString(); }
+    QString shownFile() const { return fullText("AttributeFile"); }
     void clickCell(int row, int column, Qt::KeyboardModifiers modifiers = {})
     {
         QTest::mouseClick(table()->viewport(), Qt::LeftButton, modifiers,
@@ -61,12 +40,6 @@ protected:
         const QHeaderView *header = table()->verticalHeader();
         QTest::mouseClick(header->viewport(), Qt::LeftButton, modifiers,
                           QPoint(5, header->sectionViewportPosition(row) + 5));
-    }
-    void clickHeader(int column)
-    {
-        const QHeaderView *header = table()->horizontalHeader();
-        QTest::mouseClick(header->viewport(), Qt::LeftButton, {},
-                          QPoint(header->sectionViewportPosition(column) + 10, header->height() / 2));
     }
     /// What the Lisp program finds under "attributes".
     QString handedOver()
@@ -84,15 +57,6 @@ protected:
                                  isEnabled("acceptButton") ? u"ok"_s : u"-"_s,
                                  isChecked("selectAll") ? u"all"_s : u"-"_s);
     }
-    static QString informed(const char *text)
-    {
-        return u"information \"Import Block Attributes\" \"%1\" OK"_s.arg(QString::fromLatin1(text));
-    }
-    static QString picked(const QString &folder)
-    {
-        return u"choose \"Select the file to import\" \"%1\" \"Attributes files (*.txt)\""_s.arg(folder);
-    }
-
     QString file;
 };
 
@@ -100,21 +64,14 @@ TEST_F(ImportBlockAttributes, AFileIsShownAsItsLinesAre)
 {
     showWith({});
     EXPECT_EQ(focusName(), u"selectfile"_s);
-    EXPECT_FALSE(isEnabled("selectAll"));
     showFile(doors);
     EXPECT_EQ(headers(), u"HANDLE|NAME|NUMBER"_s);
     EXPECT_EQ(rows(), u"'1A|DOOR|D-2 '1B|door|ABCabc '1C|GATE|-"_s);
     EXPECT_TRUE(isEnabled("selectAll"));
-    EXPECT_EQ(table()->rowHeight(2), 18);
-    EXPECT_EQ(table()->verticalHeader()->width(), 26);
     EXPECT_TRUE(dialog->isVisible()) << "Enter in the field is not OK";
-
-    host.writeFile(u"doors.txt"_s, "A\n1\n");
-    enterFile(file);
-    EXPECT_EQ(headers() + u' ' + rows(), u"A 1"_s);
-    host.writeFile(u"doors.txt"_s, {});
-    enterFile(file);
+    showFile({});
     EXPECT_EQ(table()->columnCount() + table()->rowCount(), 0);
+    EXPECT_FALSE(isEnabled("selectAll"));
 }
 
 TEST_F(ImportBlockAttributes, EachShowingReadsTheFileOfTheState)
@@ -134,38 +91,29 @@ TEST_F(ImportBlockAttributes, EachShowingReadsTheFileOfTheState)
 
 TEST_F(ImportBlockAttributes, PathsThatLeadNowhereGiveTheLastOneBack)
 {
-    const struct
-    {
-        const char *name;
-        QString path;
-        QString message;
-    } cases[] = {
-        {"empty", {}, u"warning \"\" \"Filename can`t be empty\" OK"_s},
-        {"missing", host.path(u"missing.txt"_s), u"warning \"\" \"Cannot find the specified file.\" OK"_s},
-        {"a folder", host.path({}), u"warning \"\" \"Cannot find the specified file.\" OK"_s},
+    const std::pair<QString, QString> cases[] = {
+        {{}, u"warning \"\" \"Filename can`t be empty\" OK"_s},
+        {host.path({}), u"warning \"\" \"Cannot find the specified file.\" OK"_s},
     };
-    for (const auto &row : cases) {
-        dialog = std::make_unique<Dlg_QT_ImportBlockAttributes>(&window);
+    for (const auto &[path, message] : cases) {
+        SetUp();
         showWith({});
-        ModalAnswers answers;
-        answers.press(QMessageBox::Ok);
-        enterFile(row.path);
-        EXPECT_EQ(shownFile(), QString()) << row.name;
-        EXPECT_FALSE(isEnabled("selectAll")) << row.name;
+        EXPECT_EQ(shownEntering("AttributeFile", path), QStringList{message});
+        EXPECT_EQ(shownFile(), QString());
+        EXPECT_FALSE(isEnabled("selectAll"));
         showFile(doors);
-        answers.press(QMessageBox::Ok);
-        enterFile(row.path);
-        EXPECT_EQ(shownFile(), file) << row.name;
-        EXPECT_EQ(table()->rowCount(), 3) << row.name;
-        EXPECT_EQ(answers.shown(), (QStringList{row.message, row.message})) << row.name;
+        EXPECT_EQ(shownEntering("AttributeFile", path), QStringList{message});
+        EXPECT_EQ(shownFile(), file);
+        EXPECT_EQ(table()->rowCount(), 3);
         // Selecting does the same without a word, and ends there.
-        setText("AttributeFile", row.path);
+        const ModalAnswers answers;
+        setText("AttributeFile", path);
         clickCell(0, 0);
-        EXPECT_EQ(shownFile(), file) << row.name;
-        EXPECT_EQ(states(), u"- - -"_s) << row.name;
+        EXPECT_EQ(shownFile(), file);
+        EXPECT_EQ(states(), u"- - -"_s);
         clickCell(1, 0);
-        EXPECT_EQ(states(), u"find ok -"_s) << row.name;
-        EXPECT_EQ(answers.shown().size(), 2) << row.name;
+        EXPECT_EQ(states(), u"find ok -"_s);
+        EXPECT_EQ(answers.shown(), QStringList());
     }
 }
 
@@ -186,37 +134,13 @@ TEST_F(ImportBlockAttributes, APathThatWasOnlyTypedCountsWhenItIsLeft)
 }
 
 // Enter reads the file once, also where a message has taken the focus.
-TEST_F(ImportBlockAttributes, EnterReadsOnce)
+TEST_F(ImportBlockAttributes, WhatIsNoTableIsSaidOnceAndLeavesNone)
 {
-    showWith({});
-    setText("AttributeFile", host.writeFile(u"wide.txt"_s, QByteArray(20'000, '\t')));
-    ModalAnswers answers;
-    answers.press(QMessageBox::Ok);
-    QTest::keyClick(find("AttributeFile"), Qt::Key_Return);
-    EXPECT_EQ(answers.shown().filter(u"too large"_s).size(), 1);
-}
-
-TEST_F(ImportBlockAttributes, WhatIsNoTableIsSaidAndLeavesNone)
-{
-    const struct
-    {
-        const char *name;
-        QByteArray content;
-    } cases[] = {
-        {"too wide", QByteArray(20'000, '\t')},
-        {"too many cells", QByteArray(9'000, '\t') + QByteArray(3'000, '\n')},
-    };
-    for (const auto &row : cases) {
-        showFile(doors);
-        const QString other = host.writeFile(u"other.txt"_s, row.content);
-        ModalAnswers answers;
-        answers.press(QMessageBox::Ok);
-        enterFile(other);
-        EXPECT_EQ(answers.shown(), QStringList{u"warning \"Import Block Attributes\" \"The table is too large.\" OK"_s})
-            << row.name;
-        EXPECT_EQ(table()->rowCount() + table()->columnCount(), 0) << row.name;
-        EXPECT_FALSE(isEnabled("selectAll")) << row.name;
-    }
+    showFile(doors);
+    EXPECT_EQ(shownEntering("AttributeFile", host.writeFile(u"wide.txt"_s, QByteArray(20'000, '\t'))),
+              QStringList{u"warning \"Import Block Attributes\" \"The table is too large.\" OK"_s});
+    EXPECT_EQ(table()->rowCount() + table()->columnCount(), 0);
+    EXPECT_FALSE(isEnabled("selectAll"));
 }
 
 TEST_F(ImportBlockAttributes, BrowsingTakesTheFile)
@@ -224,17 +148,11 @@ TEST_F(ImportBlockAttributes, BrowsingTakesTheFile)
     showWith({});
     QDir().mkpath(host.path(u"tables"_s));
     file = host.writeFile(u"tables/doors.txt"_s, doors);
-    ModalAnswers answers;
-    answers.choose({});
-    click("selectfile");
-    answers.choose(file);
-    click("selectfile");
+    const QString chooser = u"choose \"Select the file to import\" \"%1\" \"Attributes files (*.txt)\""_s;
+    EXPECT_EQ(shownChoosing("selectfile", {}), QStringList{chooser.arg(host.path({}))});
+    shownChoosing("selectfile", file);
     EXPECT_EQ(shownFile(), file);
-    EXPECT_EQ(table()->rowCount(), 3);
-    answers.choose({});
-    click("selectfile");
-    EXPECT_EQ(answers.shown(),
-              (QStringList{picked(host.path({})), picked(host.path({})), picked(host.path(u"tables"_s))}));
+    EXPECT_EQ(shownChoosing("selectfile", {}), QStringList{chooser.arg(host.path(u"tables"_s))});
     EXPECT_EQ(table()->rowCount(), 3);
 }
 
@@ -256,41 +174,29 @@ TEST_F(ImportBlockAttributes, WhatIsEnabledFollowsTheSelection)
     click("selectAll");
     click("selectAll");
     EXPECT_EQ(states(), u"- - -"_s);
-    QTest::keyClick(table(), Qt::Key_A, Qt::ControlModifier);
-    EXPECT_EQ(states(), u"find ok -"_s);
-    enterFile(file);
+    clickCell(0, 0);
+    enterText("AttributeFile", file);
     EXPECT_EQ(states(), u"- - -"_s) << "a new table";
 }
 
 TEST_F(ImportBlockAttributes, ReplacingGoesThroughTheSelectedCells)
 {
-    const struct
-    {
-        const char *name;
-        QList<std::pair<int, int>> cells;
-        QString find;
-        QString replace;
-        QString rows;
-    } cases[] = {
-        {"any case, every occurrence", {{1, 2}}, u"abc"_s, u"X"_s, u"'1A|DOOR|D-2 '1B|door|XX '1C|GATE|-"_s},
-        {"selected cells only", {{0, 1}}, u"DOOR"_s, u"Hatch"_s, u"'1A|Hatch|D-2 '1B|door|ABCabc '1C|GATE|-"_s},
-        {"taken away", {{0, 1}, {1, 1}}, u"O"_s, u""_s, u"'1A|DR|D-2 '1B|dr|ABCabc '1C|GATE|-"_s},
-        {"its own replacement is left", {{0, 1}}, u"o"_s, u"oo"_s, u"'1A|DooooR|D-2 '1B|door|ABCabc '1C|GATE|-"_s},
-        {"nothing to find", {{0, 1}}, u""_s, u"X"_s, u"'1A|DOOR|D-2 '1B|door|ABCabc '1C|GATE|-"_s},
-        {"no pattern", {{0, 2}}, u"."_s, u"X"_s, u"'1A|DOOR|D-2 '1B|door|ABCabc '1C|GATE|-"_s},
-        {"a cell without an item", {{2, 2}}, u"a"_s, u"X"_s, u"'1A|DOOR|D-2 '1B|door|ABCabc '1C|GATE|-"_s},
+    const QString unchanged = u"'1A|DOOR|D-2 '1B|door|ABCabc '1C|GATE|-"_s;
+    const std::tuple<const char *, QPoint, QString, QString, QString> cases[] = {
+        {"any case, every occurrence", {2, 1}, u"abc"_s, u"X"_s, u"'1A|DOOR|D-2 '1B|door|XX '1C|GATE|-"_s},
+        {"its own replacement is left", {1, 0}, u"o"_s, u"oo"_s, u"'1A|DooooR|D-2 '1B|door|ABCabc '1C|GATE|-"_s},
+        {"nothing to find", {1, 0}, {}, u"X"_s, unchanged},
+        {"no pattern", {2, 0}, u"."_s, u"X"_s, unchanged},
+        {"a cell without an item", {2, 2}, u"a"_s, u"X"_s, unchanged},
     };
-    for (const auto &row : cases) {
+    for (const auto &[what, cell, found, replacement, after] : cases) {
         showFile(doors);
-        for (const auto &[r, column] : row.cells)
-            clickCell(r, column, Qt::ControlModifier);
-        setText("txsearch", row.find);
-        setText("txreplace", row.replace);
-        ModalAnswers answers;
-        click("btReplace");
-        EXPECT_EQ(rows(), row.rows) << row.name;
-        EXPECT_EQ(answers.shown(), QStringList()) << row.name;
-        EXPECT_EQ(states(), u"find ok -"_s) << row.name;
+        clickCell(cell.y(), cell.x());
+        setText("txsearch", found);
+        setText("txreplace", replacement);
+        EXPECT_EQ(shownBy("btReplace"), QStringList()) << what;
+        EXPECT_EQ(rows(), after) << what;
+        EXPECT_EQ(states(), u"find ok -"_s) << what;
     }
 }
 
@@ -328,42 +234,30 @@ TEST_F(ImportBlockAttributes, WholeRowsGoToLispInTheOrderOfTheirSelection)
 
 TEST_F(ImportBlockAttributes, WithoutWholeRowsTheDialogStays)
 {
+    const QStringList noRows{u"information \"Import Block Attributes\" \"Select the rows of table for import.\" OK"_s};
     showFile(doors);
     clickCell(0, 0);
-    ModalAnswers answers;
-    answers.press(QMessageBox::Ok);
-    click("acceptButton");
+    EXPECT_EQ(shownBy("acceptButton"), noRows);
     EXPECT_TRUE(dialog->isVisible());
     // A selection that went while the path was wrong leaves the buttons as they were.
     setText("AttributeFile", u"nowhere"_s);
     table()->clearSelection();
     ASSERT_EQ(states(), u"find ok -"_s);
-    answers.press(QMessageBox::Ok);
-    click("btReplace");
-    answers.press(QMessageBox::Ok);
-    click("acceptButton");
-    EXPECT_EQ(answers.shown(), (QStringList{informed("Select the rows of table for import."),
-                                            informed("Select items of table for search."),
-                                            informed("Select the rows of table for import.")}));
+    EXPECT_TRUE(shownBy("btReplace").value(0).contains(u"Select items of table for search."_s));
+    EXPECT_EQ(shownBy("acceptButton"), noRows);
     // A file that is gone is not imported.
     clickRow(0);
     QFile::remove(file);
-    answers.press(QMessageBox::Ok);
-    click("acceptButton");
+    EXPECT_EQ(shownBy("acceptButton"), QStringList{u"warning \"\" \"Cannot find the specified file.\" OK"_s});
     EXPECT_TRUE(dialog->isVisible());
-    EXPECT_EQ(answers.shown().last(), u"warning \"\" \"Cannot find the specified file.\" OK"_s);
 }
 
 TEST_F(ImportBlockAttributes, HeadersSortAndTakeTheSelectionAlong)
 {
     showFile("A\tB\nb\t2\nAC\t3\na\t1\nB\n");
     clickRow(2);
-    clickHeader(0);
-    EXPECT_EQ(rows(), u"a|1 AC|3 b|2 B|-"_s);
-    clickHeader(1);
+    clickHeader("Attributes", 1);
     EXPECT_EQ(rows(), u"B|- a|1 b|2 AC|3"_s);
-    clickHeader(1);
-    EXPECT_EQ(rows(), u"B|- a|1 b|2 AC|3"_s) << "always ascending";
     EXPECT_EQ(table()->currentRow(), 1);
     click("acceptButton");
     EXPECT_EQ(handedOver(), u"A\tB^a\t1"_s);
@@ -378,13 +272,13 @@ TEST_F(ImportBlockAttributes, CancellingLeavesTheTable)
     const auto cancel = [](QWidget *progress) { progress->findChild<QPushButton *>()->click(); };
     ModalAnswers answers;
     answers.drive(cancel);
-    enterFile(large);
+    enterText("AttributeFile", large);
     if (!answers.isDone())
         GTEST_SKIP() << "nobody waits for anything on this machine";
     EXPECT_EQ(shownFile(), file);
     EXPECT_EQ(rows(), u"'1A|DOOR|D-2 '1B|door|ABCabc '1C|GATE|-"_s);
 
-    dialog = std::make_unique<Dlg_QT_ImportBlockAttributes>(&window);
+    SetUp();
     answers.drive(cancel);
     showWith(u"attributefile=%1\n"_s.arg(large));
     ASSERT_TRUE(answers.isDone());

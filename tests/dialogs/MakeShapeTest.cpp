@@ -1,8 +1,6 @@
 #include "dialogs/makeshape/Dlg_QT_MakeShape.h"
 #include "tests/dialogs/DefinitionDialogTest.h"
 
-#include <QDir>
-
 using namespace ortakit::test;
 using namespace Qt::StringLiterals;
 

@@ -1,11 +1,6 @@
 #include "dialogs/multiviewsetup/Dlg_QT_MultiViewSetup.h"
 #include "tests/dialogs/DialogTest.h"
 
-#include <QComboBox>
-#include <QDir>
-#include <QPushButton>
-#include <QRadioButton>
-
 using namespace ortakit::test;
 using namespace Qt::StringLiterals;
 
@@ -73,18 +68,17 @@ TEST_F(MultiViewSetup, TheFactorIsThatOfTheOneChosenScale)
     selectRows(scales(), {7});
     click("msMetric");
     EXPECT_EQ(text("curScale"), u"50"_s) << "the same scales stay chosen";
-    const std::pair<const char *, QString> styles[] = {{"msArchitectural", u"1/8\"=1'|96.0"_s},
-                                                       {"msEngeneering", u"1\"=10'|120.0"_s},
-                                                       {"msScientific", u"4 TIMES|4.0"_s},
-                                                       {"msDecimal", u"QUARTER|0.25"_s}};
+    const std::pair<const char *, QString> styles[] = {
+        {"msArchitectural", u"1/8\"=1'|96.0"_s},
+        {"msEngeneering", u"1\"=10'|120.0"_s},
+        {"msScientific", u"4 TIMES|4.0"_s},
+        {"msDecimal", u"QUARTER|0.25"_s},
+    };
     for (const auto &[style, scale] : styles) {
         click(style);
         EXPECT_TRUE(tableRows("msLstScales").contains(scale)) << style;
         EXPECT_EQ(text("curScale"), u"1.0"_s) << style;
     }
-    find<QRadioButton>("msDecimal")->setAutoExclusive(false);
-    click("msDecimal");
-    EXPECT_EQ(scales()->rowCount(), 0) << "no unit style";
 }
 
 TEST_F(MultiViewSetup, TheBlockIsTheOneSelectedRowOrElseTheFirst)
@@ -147,33 +141,28 @@ TEST_F(MultiViewSetup, TheFirstShowingTakesTheState)
               QStringList());
 }
 
-TEST_F(MultiViewSetup, AFolderThatIsNotThereIsSaidAndTheListStays)
+TEST_F(MultiViewSetup, AFolderThatIsNotThereIsSaidOnceAndTheListStays)
 {
+    const auto shownOnceMore = [this] {
+        const ModalAnswers answers;
+        show();
+        return answers.shown();
+    };
+    ASSERT_TRUE(QDir(templates).removeRecursively());
+    EXPECT_EQ(shownOnceMore(), QStringList{missing});
+    EXPECT_EQ(listed(), QStringList());
+
+    SetUp();
     addFiles(u"own"_s, {u"a3.dwg"_s});
     showWith(u"directory=%1\n"_s.arg(host.path(u"own"_s)));
     ASSERT_TRUE(QDir(host.path(u"own"_s)).removeRecursively());
-    {
-        const ModalAnswers answers;
-        show();
-        EXPECT_EQ(answers.shown(), QStringList{missing});
-        EXPECT_EQ(listed(), QStringList{u"a3.dwg"_s});
-    }
+    EXPECT_EQ(shownOnceMore(), QStringList{missing});
+    EXPECT_EQ(listed(), QStringList{u"a3.dwg"_s});
     addFiles(u"other"_s, {u"a1.dxf"_s});
     shownChoosing("selDir", host.path(u"other"_s));
     EXPECT_EQ(fullText("directory"), host.path(u"other"_s));
-    EXPECT_TRUE(shownChoosing("selDir", {})
-                    .value(0)
-                    .startsWith(u"choose \"Specify folder\" \"%1\""_s.arg(host.path(u"other"_s))));
+    EXPECT_TRUE(shownChoosing("selDir", {}).value(0).contains(u" \"%1\""_s.arg(host.path(u"other"_s))));
     EXPECT_EQ(listed(), QStringList{u"a1.dxf"_s}) << "cancelled";
-}
-
-TEST_F(MultiViewSetup, AMissingTemplateFolderIsSaidOnce)
-{
-    ASSERT_TRUE(QDir(templates).removeRecursively());
-    const ModalAnswers answers;
-    show();
-    EXPECT_EQ(answers.shown(), QStringList{missing});
-    EXPECT_EQ(listed(), QStringList());
 }
 
 } // namespace

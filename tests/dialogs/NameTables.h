@@ -2,8 +2,6 @@
 
 #include "tests/dialogs/DialogTest.h"
 
-#include <QHeaderView>
-
 namespace ortakit::test {
 
 /// The texts of the first column in selected rows from top to bottom, with blanks between.
@@ -25,13 +23,6 @@ inline void choose(QTableWidget &table, const QString &names)
         table.item(row, 0)->setSelected(wanted.contains(table.item(row, 0)->data(Qt::UserRole).toString()));
 }
 
-/// A click with the mouse on the first column's header.
-inline void clickHeader(const QTableWidget &table)
-{
-    const QHeaderView *header = table.horizontalHeader();
-    QTest::mouseClick(header->viewport(), Qt::LeftButton, {}, QPoint(header->sectionSize(0) / 2, header->height() / 2));
-}
-
 /// A dialog that replaces the blocks of its left table.
 template <class Dialog>
 class BlockDialogTest : public DialogTest<Dialog>
@@ -39,8 +30,8 @@ class BlockDialogTest : public DialogTest<Dialog>
 protected:
     QTableWidget *left() const { return this->template find<QTableWidget>("blocksTable"); }
     QTableWidget *right() const { return this->template find<QTableWidget>("blocksTableRep"); }
-    QString leftRows() const { return this->tableRows("blocksTable").join(u' '); }
-    QString rightRows() const { return this->tableRows("blocksTableRep").join(u' '); }
+    QString leftRows() const { return this->tableText("blocksTable"); }
+    QString rightRows() const { return this->tableText("blocksTableRep"); }
     /// `names` have blanks between.
     void showBlocks(const QString &names, const QString &state = {})
     {

