@@ -11,6 +11,8 @@ using ortakit::test::FakeHost;
 
 namespace {
 
+const QByteArray bom = "\xEF\xBB\xBF";
+
 /// A dialog of plain widgets with a state, and a host to find a folder in.
 struct DialogStateTest : testing::Test
 {
@@ -48,7 +50,7 @@ TEST_F(DialogStateTest, EveryWidgetOfADialogIsWrittenInOrder)
     all.load(host.path(u"state"_s));
     all.save();
     const QByteArray expected =
-        "\xEF\xBB\xBF"
+        bom +
         "ck_flag=TRUE\n!action!=OK\ntx_edit=typed\nrd_choice=FALSE\ncb_color=256\ncb_color_index=0\ncb_fixed=one\n"
         "cb_fixed_index=0\ncb_free=anything\ncb_free_index=-1\ncb_favorits=mine\ncb_favorits_index=-1\n"
         "cb_font=Nowhere Sans\ncb_font_index=-1\nls_names=second\nsp_length=0\nqt_spinbox_lineedit=0.000000\n"
@@ -63,24 +65,19 @@ TEST_F(DialogStateTest, TheActionFollowsTheFirstWidgetAndItsIndex)
     box.setObjectName(u"Scale"_s);
     box.addItems({u"1:1"_s, u"1:2"_s});
     addEdit(u"second"_s, u"2"_s);
-    const struct
-    {
-        QString action;
-        QByteArray line;
-        QString key;
-        QString readBack;
-    } rows[] = {
+    // The action, its line, and the key that gives the value back.
+    const std::tuple<QString, QByteArray, QString, QString> rows[] = {
         {{}, "!action!=\n", u"!action!"_s, {}},
         {u"CREATE"_s, "!action!=CREATE\n", u"!Action!"_s, u"CREATE"_s},
         {u"GET_BLOCK=Door"_s, "!action!GET_BLOCK=Door\n", u"!action!get_block"_s, u"Door"_s},
     };
-    for (const auto &row : rows) {
+    for (const auto &[action, line, key, readBack] : rows) {
         loadText("");
-        state.setAction(row.action);
-        EXPECT_EQ(saved(), "\xEF\xBB\xBFscale=1:1\nscale_index=0\n" + row.line + "second=2\n");
+        state.setAction(action);
+        EXPECT_EQ(saved(), bom + "scale=1:1\nscale_index=0\n" + line + "second=2\n");
         DialogState reader(&dialog);
         reader.load(state.filePath());
-        EXPECT_EQ(reader.lookup(row.key), row.readBack);
+        EXPECT_EQ(reader.lookup(key), readBack);
     }
 }
 
@@ -121,47 +118,26 @@ TEST_F(DialogStateTest, ValuesStayUntilALineReplacesThem)
     EXPECT_EQ(edit->text(), u"first"_s) << "an empty value sets nothing";
 }
 
-TEST_F(DialogStateTest, AKeyAtTheHeadAnswersForItsEndings)
-{
-    const QLineEdit *size = addEdit(u"size"_s);
-    state.prependKeys({u"_dist_size"_s, u"_dist_offset"_s});
-    loadText("size=1\n_dist_size=2\n");
-    state.apply();
-    EXPECT_EQ(size->text(), u"2"_s);
-    EXPECT_EQ(state.lines(), (QStringList{u"_dist_size=2"_s, u"_dist_offset"_s, u"size=1"_s}));
-}
-
 TEST_F(DialogStateTest, AListIsAsLongAsItsLengthSays)
 {
-    loadText("textstylelength=2\ntextstyle1=Standard\ntextstyle2=Roman\ntextstyle3=old\n"
-             "dimstylelength=2000000000\ndimstyle7=ISO-25\nodd1=a\n");
-    EXPECT_EQ(state.lookupList(u"textstyle"_s), (QStringList{u"Standard"_s, u"Roman"_s}));
-    EXPECT_EQ(state.lookupList(u"dimstyle"_s), QStringList{u"ISO-25"_s});
+    loadText("style1=Standard\nstylelength=2\nstyle2=Roman\nstyle3=old\ndimlength=2000000000\ndim7=ISO-25\nodd1=a\n");
+    EXPECT_EQ(state.lookupList(u"style"_s), (QStringList{u"Standard"_s, u"Roman"_s}));
+    EXPECT_EQ(state.lookupList(u"dim"_s), QStringList{u"ISO-25"_s});
     EXPECT_EQ(state.lookupList(u"odd"_s), QStringList());
 }
 
 // What a program wants in another form than the widget has takes the place of the widget's line.
-TEST_F(DialogStateTest, AWrittenValueTakesThePlaceOfTheWidgets)
+TEST_F(DialogStateTest, AWrittenValueTakesThePlaceOfTheWidgetsOrStandsBehindThem)
 {
     addEdit(u"lstNames"_s, u"A^B^"_s);
     addEdit(u"other"_s, u"x"_s);
     loadText({});
     state.setWrittenValue(u"lstNames"_s, u",A,B"_s);
-    EXPECT_EQ(saved(), "\xEF\xBB\xBF"
-                       "lstnames=,A,B\n!action!=\nother=x\n");
-    state.setWrittenValue(u"LSTNAMES"_s, {});
-    EXPECT_EQ(saved(), "\xEF\xBB\xBF"
-                       "other=x\n!action!=\n");
-}
-
-TEST_F(DialogStateTest, AWrittenValueThatNoWidgetHasStandsBehindTheWidgets)
-{
-    addEdit(u"name"_s, u"x"_s);
-    loadText({});
     state.setWrittenValue(u"Current"_s, u"Upper"_s);
     state.setWrittenValue(u"empty"_s, {});
-    EXPECT_EQ(saved(), "\xEF\xBB\xBF"
-                       "name=x\n!action!=\ncurrent=Upper\n");
+    EXPECT_EQ(saved(), bom + "lstnames=,A,B\n!action!=\nother=x\ncurrent=Upper\n");
+    state.setWrittenValue(u"LSTNAMES"_s, {});
+    EXPECT_EQ(saved(), bom + "other=x\n!action!=\ncurrent=Upper\n");
 }
 
 // What an earlier call's file said must not undo what the user did since.
@@ -216,21 +192,12 @@ TEST_F(DialogStateTest, FilesThatCannotBeReadOrWrittenAreIgnored)
 
 TEST_F(DialogStateTest, HostileFilesSetWhatTheySayAndNothingBreaks)
 {
-    const QByteArray files[] = {
-        QByteArray(3'000'000, 'x'),
-        QByteArray(300'000, '\n'),
-        QByteArray(300'000, '='),
-        QByteArray(300'000, '\0'),
-        QByteArray(300'000, '\xC3'),
-        QByteArray("name=x\n").repeated(100'000),
-        QByteArray("Name=x\n").repeated(100'000),
-    };
     addEdit(u"name"_s);
     addEdit(u"end"_s);
-    for (const QByteArray &content : files) {
-        loadText(content + "\nend=reached\n");
+    for (const QByteArray &piece : {"x"_ba, "\n"_ba, "="_ba, "\0"_ba, "\xC3"_ba, "name=x\n"_ba, "Name=x\n"_ba}) {
+        loadText(piece.repeated(300'000) + "\nend=reached\n");
         state.apply();
-        EXPECT_EQ(state.lookup(u"end"_s), u"reached"_s) << content.left(8).toStdString();
+        EXPECT_EQ(state.lookup(u"end"_s), u"reached"_s) << piece.toStdString();
         state.setLines({});
     }
 }

@@ -58,17 +58,10 @@ protected:
 
 TEST_F(Favourites, SaveWithTheQuestionsOfItsNames)
 {
-    const QString question =
-        u"question \"Favorites\" \"Favorite \"Door\" already exists. Do you want to replace it?\" Yes/No"_s;
-    const struct
-    {
-        QString name;
-        QString shown; ///< nothing when it is empty
-        QMessageBox::StandardButton answer;
-        QString listed;
-        QString kept; ///< what "Door" has for the edit field afterwards
-    } rows[] = {
-        {{}, u"information \"Favorites\" \"Favorite name is required.\" OK"_s, QMessageBox::Ok, {}, {}},
+    const QString question = u"\"Door\" already exists. Do you want to replace it?"_s;
+    // What is said and pressed, what is listed then, and what "Door" has for the edit field.
+    const std::tuple<QString, QString, QMessageBox::StandardButton, QString, QString> rows[] = {
+        {{}, u"Favorite name is required."_s, QMessageBox::Ok, {}, {}},
         {u"Door"_s, {}, {}, u"Door"_s, u"1"_s},
         {u"Door"_s, question, QMessageBox::No, u"Door"_s, u"1"_s},
         {u"Door"_s, question, QMessageBox::Yes, u"Door"_s, u"3"_s},
@@ -77,19 +70,20 @@ TEST_F(Favourites, SaveWithTheQuestionsOfItsNames)
     };
     EXPECT_FALSE(remove.isEnabled());
     int step = 0;
-    for (const auto &row : rows) {
+    for (const auto &[name, said, answer, listed, kept] : rows) {
         dialog.edit->setText(QString::number(step++));
         ModalAnswers answers;
-        if (!row.shown.isEmpty())
-            answers.press(row.answer);
-        saveAs(row.name);
-        EXPECT_EQ(answers.shown().join(u'|'), row.shown) << step;
-        EXPECT_EQ(shownNames().join(u'|'), row.listed) << step;
-        EXPECT_EQ(remove.isEnabled(), !row.listed.isEmpty()) << step;
-        EXPECT_TRUE(store().load(u"Door"_s).contains({u"tx_edit"_s, row.kept}) || row.kept.isEmpty()) << step;
+        if (!said.isEmpty())
+            answers.press(answer);
+        saveAs(name);
+        EXPECT_EQ(answers.shown().size(), said.isEmpty() ? 0 : 1) << step;
+        EXPECT_TRUE(answers.shown().join(u' ').contains(said)) << step;
+        EXPECT_EQ(shownNames().join(u'|'), listed) << step;
+        EXPECT_EQ(remove.isEnabled(), !listed.isEmpty()) << step;
+        EXPECT_TRUE(store().load(u"Door"_s).contains({u"tx_edit"_s, kept}) || kept.isEmpty()) << step;
     }
     EXPECT_EQ(dialog.favourites->currentText(), QString());
-    QStringList names = FavouriteStore(u"Sample"_s).names();
+    QStringList names = store().names();
     names.sort();
     EXPECT_EQ(names, (QStringList{u"Door"_s, u"a/b\\c %2F"_s, u"dooR"_s}));
 }
@@ -189,9 +183,8 @@ TEST_F(Favourites, RemovingNothingIsSaid)
     auto *button = list.findChild<QPushButton *>(u"BtnRemove"_s);
     button->setEnabled(true);
     ModalAnswers answers;
-    answers.press(QMessageBox::Ok);
     button->click();
-    EXPECT_EQ(answers.shown(), QStringList{u"information \"Remove favorites\" \"Select items for remove.\" OK"_s});
+    EXPECT_TRUE(answers.shown().value(0).contains(u"Select items for remove."_s));
 }
 
 } // namespace

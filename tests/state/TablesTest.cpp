@@ -56,10 +56,11 @@ TEST_F(Tables, SortWithWhatIsSelected)
     EXPECT_EQ(table.currentItem()->text(), u"2"_s);
     EXPECT_TRUE(table.horizontalHeader()->isSortIndicatorShown());
     EXPECT_EQ(table.horizontalHeader()->sortIndicatorSection(), 0);
-    sortTableRows(table, 1, {});
-    EXPECT_EQ(shown(table), u"a,- b,1 C,2* c*,4*"_s) << "a missing item is empty, and stays missing";
-    sortTableRows(table, 1, {});
-    EXPECT_EQ(shown(table), u"a,- b,1 C,2* c*,4*"_s) << "always ascending";
+    for (int click = 0; click < 2; ++click) {
+        sortTableRows(table, 1, {});
+        EXPECT_EQ(shown(table), u"a,- b,1 C,2* c*,4*"_s)
+            << "always ascending; a missing item is empty, and stays missing";
+    }
 }
 
 TEST_F(Tables, LoseRowsInOneStep)
@@ -78,7 +79,6 @@ TEST_F(Tables, LoseRowsInOneStep)
 
 TEST_F(Tables, OfManyRowsAreSortedWithTheirGaps)
 {
-    setTableHeaders(table, u"A;B"_s);
     QList<QStringList> rows;
     for (int row = 0; row < 3000; ++row)
         rows.append({QString::number(9000 - row), QString::number(row % 2)});
@@ -90,12 +90,9 @@ TEST_F(Tables, OfManyRowsAreSortedWithTheirGaps)
     for (int row = 1; row < 3000; ++row)
         ASSERT_EQ(table.item(row, 0)->text(), QString::number(6000 + row + (row > 2992 ? 1 : 0))) << row;
     EXPECT_EQ(rowsWithSelection(table), QList<int>{1});
-    EXPECT_EQ(table.item(2000, 0)->row(), 2000);
     // Equal texts keep the order that the other column gave them.
     ASSERT_TRUE(sortTableRows(table, 1, {}));
-    EXPECT_EQ(table.item(0, 0)->text(), u"6002"_s);
-    EXPECT_EQ(table.item(1, 0)->text(), u"6004"_s);
-    EXPECT_EQ(table.item(1, 1)->text(), u"0"_s);
+    EXPECT_EQ(table.item(0, 0)->text() + table.item(1, 0)->text() + table.item(1, 1)->text(), u"600260040"_s);
 }
 
 TEST_F(Tables, OfManySeparateSelectedRowsAreArranged)
