@@ -157,9 +157,3 @@ TEST(Embedding, ValuesOutliveTheirVariables)
     }
     EXPECT_EQ(toText(kept), "(1 \"two\" (3.5))");
 }
-
-TEST(Embedding, AutoloadedCommandsComeFromTheirFile)
-{
-    Bench bench;
-    EXPECT_EQ(bench("(autoload \"no-such-file\" '(\"GATE\")) (c:gate)"), "! LOAD failed: \"no-such-file\" in (LOAD)");
-}

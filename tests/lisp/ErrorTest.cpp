@@ -72,11 +72,11 @@ TEST(Errors, VariablesAreBackAfterAnError)
 TEST(Errors, CatchAll)
 {
     check({
-        {"(vl-catch-all-apply '+ '(1 2))", "3"},
-        {"(vl-catch-all-error-p (vl-catch-all-apply '/ '(1 0)))", "T"},
-        {"(vl-catch-all-error-p 5)", "nil"},
-        {"(vl-catch-all-error-message (vl-catch-all-apply '/ '(1 0)))", "\"divide by zero\""},
-        {"(vl-catch-all-error-message (vl-catch-all-apply 'nofunction nil))", "\"no function definition: NOFUNCTION\""},
+        {"(list (vl-catch-all-apply '+ '(1 2)) (vl-catch-all-error-p (vl-catch-all-apply '/ '(1 0))) "
+         "(vl-catch-all-error-p 5))",
+         "(3 T nil)"},
+        {"(mapcar '(lambda (f) (vl-catch-all-error-message (vl-catch-all-apply f '(1 0)))) '(/ nofunction))",
+         R"(("divide by zero" "no function definition: NOFUNCTION"))"},
         {"(vl-catch-all-error-message (vl-catch-all-apply 'exit nil))", "\"quit / exit abort\""},
         {"(vl-catch-all-error-message 5)", "! bad argument type: errorp 5 in (VL-CATCH-ALL-ERROR-MESSAGE), argument 1"},
         {"(setq a 1) (defun f (a) (car a)) (vl-catch-all-apply 'f '(5)) a", "1"},

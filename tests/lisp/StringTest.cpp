@@ -54,13 +54,7 @@ TEST(Strings, Searching)
 
 TEST(Strings, Wildcards)
 {
-    struct MatchRow
-    {
-        const char *text;
-        const char *pattern;
-        bool matches;
-    };
-    const std::vector<MatchRow> rows = {
+    const std::tuple<const char *, const char *, bool> rows[] = {
         {"Name", "N*", true},       {"Name", "n*", false},  {"Name", "???,~*m*", false},
         {"Nate", "???,~*m*", true}, {"", "", true},         {"", "*", true},
         {"a", "", false},           {"abc", "a*c", true},   {"abcd", "a*c", false},
@@ -73,8 +67,8 @@ TEST(Strings, Wildcards)
         {"*", "`*", true},          {"x", "`*", false},     {"~a", "`~a", true},
         {"5.5", "#.#", true},
     };
-    for (const MatchRow &row : rows)
-        EXPECT_EQ(wildcardMatch(row.text, row.pattern), row.matches) << row.text << "  " << row.pattern;
+    for (const auto &[text, pattern, matches] : rows)
+        EXPECT_EQ(wildcardMatch(text, pattern), matches) << text << "  " << pattern;
     check({
         {"(wcmatch \"A-LAYER\" \"A-*,B-*\")", "T"},
         {"(wcmatch 5 \"*\")", "! bad argument type: stringp 5 in (WCMATCH), argument 1"},

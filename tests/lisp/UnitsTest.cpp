@@ -6,22 +6,12 @@ using namespace host::lisp::test;
 TEST(Units, DistancesAsText)
 {
     check({
-        {"(rtos 17.5 1 4)", "\"1.7500E+01\""},
-        {"(rtos 17.5 2 2)", "\"17.50\""},
-        {"(rtos 17.5 3 2)", "\"1'-5.50\\\"\""},
-        {"(rtos 17.5 4 2)", "\"1'-5 1/2\\\"\""},
-        {"(rtos 17.5 5 2)", "\"17 1/2\""},
-        {"(rtos -17.5 4 2)", "\"-1'-5 1/2\\\"\""},
-        {"(rtos 11.9999 4 4)", "\"1'\""},
-        {"(rtos 11.9999 3 2)", "\"1'\""},
-        {"(rtos 0.5 4 2)", "\"1/2\\\"\""},
-        {"(rtos 12.5 4 2)", "\"1'-0 1/2\\\"\""},
-        {"(rtos 0 4 2)", "\"0\\\"\""},
-        {"(rtos 0.3 5 3)", "\"1/4\""},
-        {"(rtos 0.99 5 3)", "\"1\""},
-        {"(rtos -0.00001 2 2)", "\"0.00\""},
-        {"(rtos 5 2 0)", "\"5\""},
-        {"(rtos 2.5)", "\"2.5000\""},
+        {"(mapcar '(lambda (mode digits) (rtos 17.5 mode digits)) '(1 2 3 4 5) '(4 2 2 2 2))",
+         R"(("1.7500E+01" "17.50" "1'-5.50\"" "1'-5 1/2\"" "17 1/2"))"},
+        {"(mapcar '(lambda (inches) (rtos inches 4 4)) '(-17.5 11.9999 0.5 12.5 0))",
+         R"(("-1'-5 1/2\"" "1'" "1/2\"" "1'-0 1/2\"" "0\""))"},
+        {"(list (rtos 11.9999 3 2) (rtos 0.3 5 3) (rtos 0.99 5 3) (rtos -0.00001 2 2) (rtos 5 2 0) (rtos 2.5))",
+         R"(("1'" "1/4" "1" "0.00" "5" "2.5000"))"},
         {"(strlen (rtos 1e300 2 99))", "318"},
         {"(rtos 1 9 2)", "! bad argument value: 9 in (RTOS), argument 2"},
         {"(rtos \"a\")", "! bad argument type: numberp: \"a\" in (RTOS), argument 1"},
@@ -31,19 +21,13 @@ TEST(Units, DistancesAsText)
 TEST(Units, AnglesAsText)
 {
     check({
-        {"(angtos 0.785398163 0 4)", "\"45.0000\""},
-        {"(angtos -0.785398163 0 4)", "\"315.0000\""},
-        {"(angtos 0.785398163 1 4)", "\"45d0'0\\\"\""},
-        {"(angtos 0.7941248096574199 1 2)", "\"45d30'\""},
-        {"(angtos 0.7941248096574199 1 0)", "\"46d\""},
-        {"(angtos 0.785398163 2 4)", "\"50.0000g\""},
-        {"(angtos 0.785398163 3 4)", "\"0.7854r\""},
-        {"(angtos 0.785398163 4 4)", "\"N 45d0'0\\\" E\""},
+        {"(mapcar '(lambda (mode) (angtos 0.785398163 mode 4)) '(0 1 2 3 4))",
+         R"(("45.0000" "45d0'0\"" "50.0000g" "0.7854r" "N 45d0'0\" E"))"},
+        {"(list (angtos 0.7941248096574199 1 2) (angtos 0.7941248096574199 1 0) (angtos -0.785398163 0 4))",
+         R"(("45d30'" "46d" "315.0000"))"},
         {"(list (angtos 0 4 0) (angtos (/ pi 2) 4 0) (angtos pi 4 0) (angtos (* 1.5 pi) 4 0))",
          "(\"E\" \"N\" \"W\" \"S\")"},
-        {"(angtos (* 1.25 pi) 4 0)", "\"S 45d W\""},
-        {"(angtos -1e-12 0 2)", "\"0.00\""},
-        {"(angtos (* 9 pi) 0 0)", "\"180\""},
+        {"(list (angtos (* 1.25 pi) 4 0) (angtos -1e-12 0 2) (angtos (* 9 pi) 0 0))", R"(("S 45d W" "0.00" "180"))"},
     });
 }
 
@@ -89,14 +73,9 @@ TEST(Units, WhatIsWrittenReadsBack)
 
 TEST(Units, SystemVariablesSayWhatProgramsDoNot)
 {
-    struct VariableRow
-    {
-        std::vector<std::pair<const char *, double>> variables;
-        const char *source;
-        const char *expected;
-    };
+    using Variables = std::vector<std::pair<const char *, double>>;
     const double quarterTurn = 1.5707963267948966;
-    const std::vector<VariableRow> rows = {
+    const std::tuple<Variables, const char *, const char *> rows[] = {
         {{{"LUNITS", 4}, {"LUPREC", 3}}, "(rtos 17.5)", "\"1'-5 1/2\\\"\""},
         {{{"LUPREC", 2}, {"DIMZIN", 8}}, "(rtos 2.5)", "\"2.5\""},
         {{{"DIMZIN", 8}}, "(rtos 2.0 2 4)", "\"2\""},
@@ -109,10 +88,10 @@ TEST(Units, SystemVariablesSayWhatProgramsDoNot)
         {{{"ANGBASE", quarterTurn}, {"ANGDIR", 1}}, "(angtof \"90\" 0)", "0.0"},
         {{{"LUNITS", 99}}, "(rtos 1 2 0)", "\"1\""},
     };
-    for (const VariableRow &row : rows) {
+    for (const auto &[variables, source, expected] : rows) {
         Bench bench;
-        for (const auto &[name, value] : row.variables)
+        for (const auto &[name, value] : variables)
             bench.console.variables[name] = Value::real(value);
-        EXPECT_EQ(bench(row.source), row.expected) << row.source;
+        EXPECT_EQ(bench(source), expected) << source;
     }
 }
