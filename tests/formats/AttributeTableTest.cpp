@@ -9,41 +9,36 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString joined(const QStringList &fields)
-{
-    return u'[' + fields.join(u"]["_s) + u']';
-}
-
 TEST(AttributeTable, ReadsFieldsThatHaveAColumn)
 {
     const struct
     {
         const char *name;
         QByteArray text;
-        QStringList headers;
-        QStringList rows; ///< "[field][field]"
+        QString table; ///< "[field][field]" for the headers and each row
     } rows[] = {
-        {"empty", "", {}, {}},
-        {"only headers", "HANDLE\tNAME", {u"HANDLE"_s, u"NAME"_s}, {}},
-        {"plain", "A\tB\n1\t2\n3\t4\n", {u"A"_s, u"B"_s}, {u"[1][2]"_s, u"[3][4]"_s}},
-        {"without an end", "A\tB\r\n1\t2\r\n3\t4", {u"A"_s, u"B"_s}, {u"[1][2]"_s, u"[3][4]"_s}},
-        {"cut off", "A\tB\tC\n1\t2\n3", {u"A"_s, u"B"_s, u"C"_s}, {u"[1][2]"_s, u"[3]"_s}},
-        {"too many", "A\tB\n1\t2\t3\t4\n", {u"A"_s, u"B"_s}, {u"[1][2]"_s}},
-        {"empty fields", "A\t\tC\n\t2\t\n\n", {u"A"_s, u""_s, u"C"_s}, {u"[][2][]"_s, u"[]"_s}},
-        {"a blank first line", "\n1\t2\n", {u""_s}, {u"[1]"_s}},
-        {"non-ASCII", "\xC3\x9C\nT\xC3\xBCr \xE2\x82\xAC\n", {u"Ü"_s}, {u"[Tür €]"_s}},
-        {"another encoding", "A\nT\xFCr\n", {u"A"_s}, {u"[T\uFFFDr]"_s}},
-        {"separators of other formats", "A;B,C\n1;2,3^4=5\n", {u"A;B,C"_s}, {u"[1;2,3^4=5]"_s}},
+        {"empty", "", {}},
+        {"only headers", "HANDLE\tNAME", u"[HANDLE][NAME]"_s},
+        {"without an end", "A\tB\r\n1\t2\r\n3\t4", u"[A][B] [1][2] [3][4]"_s},
+        {"cut off", "A\tB\tC\n1\t2\n3", u"[A][B][C] [1][2] [3]"_s},
+        {"too many", "A\tB\n1\t2\t3\t4\n", u"[A][B] [1][2]"_s},
+        {"empty fields", "A\t\tC\n\t2\t\n\n", u"[A][][C] [][2][] []"_s},
+        {"a blank first line", "\n1\t2\n", u"[] [1]"_s},
+        {"non-ASCII", "\xC3\x9C\nT\xC3\xBCr \xE2\x82\xAC\n", u"[Ü] [Tür €]"_s},
+        {"another encoding", "A\nT\xFCr\n", u"[A] [T\uFFFDr]"_s},
+        {"separators of other formats", "A;B,C\n1;2,3^4=5\n", u"[A;B,C] [1;2,3^4=5]"_s},
     };
     for (const auto &row : rows) {
         AttributeTableReader reader(row.text);
-        EXPECT_EQ(reader.headers(), row.headers) << row.name;
-        EXPECT_EQ(reader.rowCount(), row.rows.size()) << row.name;
         EXPECT_FALSE(reader.isTooLarge()) << row.name;
+        const auto shown = [](const QStringList &fields) { return u'[' + fields.join(u"]["_s) + u']'; };
         QStringList found;
         while (reader.next())
-            found.append(joined(reader.fields()));
-        EXPECT_EQ(found, row.rows) << row.name;
+            found.append(shown(reader.fields()));
+        EXPECT_EQ(reader.rowCount(), found.size()) << row.name;
+        if (!reader.headers().isEmpty())
+            found.prepend(shown(reader.headers()));
+        EXPECT_EQ(found.join(u' '), row.table) << row.name;
     }
 }
 

@@ -55,7 +55,7 @@ TEST_F(DimensionStyleFile, ListsNamesWholeOnExportAndByFirstWordOnImport)
          u"b|a|b|"_s},
         {"word within the first field", "xDIMENSION_STYLE_NAMEx a\n", u"a|"_s, u"a|"_s},
         {"word in another field or case", "a DIMENSION_STYLE_NAME b\ndimension_style_name c\n", {}, {}},
-        {"byte-order mark", QByteArray("\xEF\xBB\xBF") + "DIMENSION_STYLE_NAME \xC3\x84 1\n", u"Ä 1|"_s, u"Ä|"_s},
+        {"non-ASCII", "DIMENSION_STYLE_NAME \xC3\x84 1\n", u"Ä 1|"_s, u"Ä|"_s},
     };
     const auto joined = [](const QStringList &names) { return names.isEmpty() ? QString() : names.join(u'|') + u'|'; };
     for (const auto &row : rows) {
@@ -116,22 +116,17 @@ TEST_F(DimensionStyleFile, ReadsTheVariablesOfASection)
 
 TEST_F(DimensionStyleFile, ImportSaysWhetherTheDrawingHasTheTextStyle)
 {
-    const struct
-    {
-        const char *line;
-        QStringList textStyles;
-        bool exists;
-    } rows[] = {
+    // A line of the style, the text styles of the drawing, and whether it has that one.
+    const std::tuple<QByteArray, QStringList, bool> rows[] = {
         {"DIMTXSTY Roman", {u"Standard"_s, u"Roman"_s}, true},
         {"DIMTXSTY Roman", {u"ROMAN"_s}, false},
         {"DIMTXSTY Roman Wide", {u"Roman"_s}, true},
         {"DIMTXSTY", {u"Roman"_s}, false},
         {"DIMTXT 3", {u"3"_s}, false},
     };
-    for (const auto &row : rows) {
-        const QString path = write("DIMENSION_STYLE_NAME a b\n" + QByteArray(row.line) + "\nEND_OF_STYLE\n");
-        EXPECT_EQ(readStyleVariablesForImport(path, u"A"_s, row.textStyles).usesExistingTextStyle, row.exists)
-            << row.line;
+    for (const auto &[line, textStyles, exists] : rows) {
+        const QString path = write("DIMENSION_STYLE_NAME a b\n" + line + "\nEND_OF_STYLE\n");
+        EXPECT_EQ(readStyleVariablesForImport(path, u"A"_s, textStyles).usesExistingTextStyle, exists) << line.data();
     }
 }
 

@@ -31,12 +31,7 @@ TEST(LispCatalogue, KeepsWholeLinesByTheirKind)
 
 TEST(LispCatalogue, ALineGivesThreeColumnsAndOneAssignment)
 {
-    const struct
-    {
-        QString line;
-        QString columns;
-        QByteArray dump;
-    } rows[] = {
+    const std::tuple<QString, QString, QByteArray> rows[] = {
         {u"COMMAND!C:A!USUBR!Lisp!<C:A>"_s, u"C:A|USUBR|Lisp"_s, ";(setq C:A <C:A>)\n"},
         {u"FUNCTION!F!SUBR!!<F>!more"_s, u"F|SUBR|"_s, ";(setq F <F>)\n"},
         {u"FUNCTION!F!STR!x!y"_s, u"F|STR|x"_s, ";(setq F y)\n"},
@@ -50,9 +45,9 @@ TEST(LispCatalogue, ALineGivesThreeColumnsAndOneAssignment)
         {u"FUNCTION!F!SUBR"_s, u"F|SUBR|"_s, ";(setq F )\n"},
         {u"VARIABLE!V"_s, u"V||"_s, ";(setq V )\n"},
     };
-    for (const auto &row : rows) {
-        EXPECT_EQ(lispSymbolColumns(row.line).join(u'|'), row.columns) << row.line.toStdString();
-        EXPECT_EQ(lispDump(parseLispCatalogue(row.line.toUtf8())), row.dump) << row.line.toStdString();
+    for (const auto &[line, columns, dump] : rows) {
+        EXPECT_EQ(lispSymbolColumns(line).join(u'|'), columns) << line.toStdString();
+        EXPECT_EQ(lispDump(parseLispCatalogue(line.toUtf8())), dump) << line.toStdString();
     }
 }
 

@@ -11,12 +11,7 @@ namespace {
 
 TEST(TextCase, ConvertsAsWorded)
 {
-    const struct
-    {
-        TextCase textCase;
-        QString text;
-        QString converted;
-    } rows[] = {
+    const std::tuple<TextCase, QString, QString> rows[] = {
         {TextCase::Sentence, u"hello World. bye"_s, u"Hello world. bye"_s},
         {TextCase::Sentence, u" hello"_s, u" hello"_s},
         {TextCase::Sentence, u"2ND FLOOR"_s, u"2nd floor"_s},
@@ -33,8 +28,8 @@ TEST(TextCase, ConvertsAsWorded)
         {TextCase::Toggle, u"aB1c"_s, u"Ab1C"_s},
         {TextCase::Toggle, u"ß ÿ ǅ ΟΔΟΣ ς \U00010428"_s, u"ß Ÿ Ǆ οδοσ Σ \U00010428"_s},
     };
-    for (const auto &row : rows)
-        EXPECT_EQ(inTextCase(row.text, row.textCase), row.converted) << row.text.toStdString();
+    for (const auto &[textCase, text, converted] : rows)
+        EXPECT_EQ(inTextCase(text, textCase), converted) << text.toStdString();
 }
 
 } // namespace
