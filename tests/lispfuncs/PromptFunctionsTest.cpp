@@ -1,5 +1,6 @@
 #include "lispfuncs/PromptFunctions.h"
 
+#include "tests/lispfuncs/CallText.h"
 #include "tests/support/FakeHost.h"
 #include "tests/support/QtTestPrinters.h"
 
@@ -9,6 +10,8 @@
 namespace {
 
 using namespace Qt::StringLiterals;
+using lispfuncs_test::argumentsOf;
+using lispfuncs_test::valueOf;
 using ortakit::test::FakeAnswer;
 using ortakit::test::FakeHost;
 using testing::ElementsAre;
@@ -35,11 +38,6 @@ FakeAnswer code(int given)
 FakeAnswer keyword(const QString &typed)
 {
     return {.code = kRtKeyword, .value = {}, .keyword = typed};
-}
-
-QVariant point(double x, double y, double z)
-{
-    return QVariant::fromValue(OdGePoint3d{x, y, z});
 }
 
 class PromptFunctions : public testing::Test
@@ -78,143 +76,61 @@ protected:
     FakeHost m_host;
 };
 
-struct RequestRow
-{
-    const char *name;
-    QString function;
-    QVariantList arguments;
-    FakeAnswer answer;
-    std::vector<std::string> requests;
-    int code;
-    const char *result;
-};
-
-const std::vector<RequestRow> requestRows = {
-    {"integer", u"getIntOrtakit"_s, {u"Count:"_s}, value(7), {"initget 0", "getInteger \"Count: \""}, kRtNormal, "7"},
-    {"integer by its default",
-     u"getIntOrtakit"_s,
-     {u"Count <12>:"_s},
-     value({}),
-     {"initget 0", "getInteger \"Count <12>: \" default 12"},
-     kRtNormal,
-     "12"},
-    {"integer with a named default",
-     u"getIntOrtakit"_s,
-     {u"Specify size [Auto/Manual] <Auto>:"_s},
-     keyword(u"Enter to auto"_s),
-     {"initget 0 Auto Manual", "initget 0 Auto Manual Enter to auto",
-      "getInteger \"Specify size [Auto/Manual/Enter to auto] <Auto>: \""},
-     kRtNormal,
-     "\"Enter to auto\""},
-    {"real by its default",
-     u"getRealOrtakit"_s,
-     {u"Specify size <2.5>:"_s},
-     value({}),
-     {"initget 0", "getReal \"Specify size <2.5>: \" default 2.5"},
-     kRtNormal,
-     "2.5"},
-    {"real with a default that only looks like a number",
-     u"getRealOrtakit"_s,
-     {u"Specify size <5.>:"_s},
-     keyword(u"Enter to 5."_s),
-     {"initget 0", "initget 0 Enter to 5.", "getReal \"Specify size [Enter to 5.] <5.>: \""},
-     kRtNormal,
-     "\"Enter to 5.\""},
-    {"distance from a point",
-     u"getDistOrtakit"_s,
-     {point(1, 2, 3), u"Distance"_s},
-     value(4.5),
-     {"initget 0", "getDistance \"Distance: \" from (101 2 3)"},
-     kRtNormal,
-     "4.5"},
-    {"angle, prompt before the point",
-     u"getAngleOrtakit"_s,
-     {u"Angle <.5>"_s, point(1, 2, 3)},
-     value({}),
-     {"initget 0", "getAngle \"Angle <.5>: \" from (101 2 3) default 0.5"},
-     kRtNormal,
-     "0.5"},
-    {"point comes back in user coordinates",
-     u"getPointOrtakit"_s,
-     {u"\\nPick [Last] <Last>: "_s, point(1, 2, 3)},
-     value(point(150, 5, 0)),
-     {"initget 0 Last", "initget 0 Last Enter to last", "getPoint \"Pick [Last] <Last>: \" from (101 2 3)"},
-     kRtNormal,
-     "(50 5 0)"},
-    {"a numeric default of a point is an option too",
-     u"getPointOrtakit"_s,
-     {u"Pick <0>:"_s},
-     keyword(u"Enter to 0"_s),
-     {"initget 0", "initget 0 Enter to 0", "getPoint \"Pick <0>:\""},
-     kRtNormal,
-     "\"Enter to 0\""},
-    {"corner without a base",
-     u"getCornerOrtakit"_s,
-     {u"Corner:"_s},
-     value(point(101, 1, 0)),
-     {"initget 0", "getCorner \"Corner:\" from (0 0 0)"},
-     kRtNormal,
-     "(1 1 0)"},
-    {"string without blanks",
-     u"getStringOrtakit"_s,
-     {u"Name <door>:"_s},
-     value({}),
-     {"initget 0", "getString \"Name <door>: \" default door"},
-     kRtNormal,
-     "\"door\""},
-    {"string with blanks",
-     u"getStringOrtakit"_s,
-     {true, u"Name"_s},
-     value(u"front door"_s),
-     {"initget 0", "getString with spaces \"Name: \""},
-     kRtNormal,
-     "\"front door\""},
-    {"the later of T and nil counts",
-     u"getStringOrtakit"_s,
-     {true, u"Name"_s, QVariant()},
-     value(u"door"_s),
-     {"initget 0", "getString \"Name: \""},
-     kRtNormal,
-     "\"door\""},
-    {"keyword",
-     u"getKwordOrtakit"_s,
-     {u"Go on? [Yes/No] <No>"_s},
-     value(u"Yes"_s),
-     {"initget 0 Yes No", "getKeyword \"Go on? [Yes/No] <No>: \" default No"},
-     kRtNormal,
-     "\"Yes\""},
-    {"keyword without a prompt",
-     u"getKwordOrtakit"_s,
-     {},
-     value(u"x"_s),
-     {"initget 0", "getKeyword \"Specify option: \""},
-     kRtNormal,
-     "\"x\""},
-    {"keyword with nothing but options",
-     u"getKwordOrtakit"_s,
-     {u"[Yes/No]"_s},
-     value(u"No"_s),
-     {"initget 0 Yes No", "getKeyword \"Specify option [Yes/No]: \""},
-     kRtNormal,
-     "\"No\""},
-    {"no prompt at all", u"getRealOrtakit"_s, {}, value(1.5), {"initget 0", "getReal \": \""}, kRtNormal, "1.5"},
-    {"a number is no argument",
-     u"getRealOrtakit"_s,
-     {3},
-     value(1.5),
-     {"initget 0", "getReal \": \""},
-     kRtNormal,
-     "1.5"},
-};
-
+// The answer is a value, "key" and a keyword, or nothing where the user takes the default.
 TEST_F(PromptFunctions, AskAndAnswer)
 {
-    for (const RequestRow &row : requestRows) {
+    const struct
+    {
+        const char *name;
+        QString function;
+        QString arguments;
+        QString answer;
+        QString requests; ///< with ", " between
+        const char *result;
+    } rows[] = {
+        {"integer", u"getInt"_s, u"Count:"_s, u"7"_s, u"initget 0, getInteger \"Count: \""_s, "7"},
+        {"integer by its default", u"getInt"_s, u"Count <12>:"_s, u""_s,
+         u"initget 0, getInteger \"Count <12>: \" default 12"_s, "12"},
+        {"integer with a named default", u"getInt"_s, u"Specify size [Auto/Manual] <Auto>:"_s, u"key Enter to auto"_s,
+         u"initget 0 Auto Manual, initget 0 Auto Manual Enter to auto, "
+         "getInteger \"Specify size [Auto/Manual/Enter to auto] <Auto>: \""_s,
+         "\"Enter to auto\""},
+        {"real by its default", u"getReal"_s, u"Specify size <2.5>:"_s, u""_s,
+         u"initget 0, getReal \"Specify size <2.5>: \" default 2.5"_s, "2.5"},
+        {"real with a default that only looks like a number", u"getReal"_s, u"Size <5.>:"_s, u"key Enter to 5."_s,
+         u"initget 0, initget 0 Enter to 5., getReal \"Size [Enter to 5.] <5.>: \""_s, "\"Enter to 5.\""},
+        {"distance from a point", u"getDist"_s, u"(1 2 3) | Distance"_s, u"4.5"_s,
+         u"initget 0, getDistance \"Distance: \" from (101 2 3)"_s, "4.5"},
+        {"angle, prompt before the point", u"getAngle"_s, u"Angle <.5> | (1 2 3)"_s, u""_s,
+         u"initget 0, getAngle \"Angle <.5>: \" from (101 2 3) default 0.5"_s, "0.5"},
+        {"point comes back in user coordinates", u"getPoint"_s, u"\\nPick [Last] <Last>:  | (1 2 3)"_s, u"(150 5 0)"_s,
+         u"initget 0 Last, initget 0 Last Enter to last, getPoint \"Pick [Last] <Last>: \" from (101 2 3)"_s,
+         "(50 5 0)"},
+        {"a numeric default of a point is an option too", u"getPoint"_s, u"Pick <0>:"_s, u"key Enter to 0"_s,
+         u"initget 0, initget 0 Enter to 0, getPoint \"Pick <0>:\""_s, "\"Enter to 0\""},
+        {"corner without a base", u"getCorner"_s, u"Corner:"_s, u"(101 1 0)"_s,
+         u"initget 0, getCorner \"Corner:\" from (0 0 0)"_s, "(1 1 0)"},
+        {"string without blanks", u"getString"_s, u"Name <door>:"_s, u""_s,
+         u"initget 0, getString \"Name <door>: \" default door"_s, "\"door\""},
+        {"string with blanks", u"getString"_s, u"T | Name"_s, u"front door"_s,
+         u"initget 0, getString with spaces \"Name: \""_s, "\"front door\""},
+        {"the later of T and nil counts", u"getString"_s, u"T | Name | nil"_s, u"door"_s,
+         u"initget 0, getString \"Name: \""_s, "\"door\""},
+        {"keyword", u"getKword"_s, u"Go on? [Yes/No] <No>"_s, u"Yes"_s,
+         u"initget 0 Yes No, getKeyword \"Go on? [Yes/No] <No>: \" default No"_s, "\"Yes\""},
+        {"keyword without a prompt", u"getKword"_s, u""_s, u"x"_s, u"initget 0, getKeyword \"Specify option: \""_s,
+         "\"x\""},
+        {"keyword with nothing but options", u"getKword"_s, u"[Yes/No]"_s, u"No"_s,
+         u"initget 0 Yes No, getKeyword \"Specify option [Yes/No]: \""_s, "\"No\""},
+        {"a number is no prompt", u"getReal"_s, u"3"_s, u"1.5"_s, u"initget 0, getReal \": \""_s, "1.5"},
+    };
+    for (const auto &row : rows) {
         SCOPED_TRACE(row.name);
-        const auto before = std::ptrdiff_t(requests().size());
-        EXPECT_EQ(ask(row.function, row.arguments, row.answer), row.code);
-        const std::vector<std::string> all = requests();
-        EXPECT_EQ(std::vector<std::string>(all.begin() + before, all.end()), row.requests);
+        const QStringList before = m_host.document().input().requests();
+        const QVariant given = row.answer.isEmpty() ? QVariant() : valueOf(row.answer);
+        const FakeAnswer answer = row.answer.startsWith(u"key ") ? keyword(row.answer.mid(4)) : value(given);
+        EXPECT_EQ(ask(row.function + u"Ortakit", argumentsOf(row.arguments), answer), kRtNormal);
+        EXPECT_EQ(m_host.document().input().requests().mid(before.size()).join(u", "_s), row.requests);
         EXPECT_EQ(result(), row.result);
     }
 }
@@ -257,29 +173,21 @@ TEST_F(PromptFunctions, BitsAreSharedByDocuments)
     EXPECT_EQ(other->input().requests().value(0).toStdString(), "initget 6");
 }
 
-struct BitsRow
-{
-    const char *name;
-    QVariantList arguments;
-    int bits;
-    int released;
-};
-
-const std::vector<BitsRow> bitsRows = {
-    {"nothing", {}, 0, -1},
-    {"32-bit", {70000, u"Yes No"_s}, 70000, 1},
-    {"16-bit", {QVariant::fromValue(short(5)), u"Yes No"_s}, 5, 1},
-    {"bits alone", {3}, 3, -1},
-    {"text alone", {u"Yes No"_s}, 0, 1},
-    {"a real is no bits", {1.0, u"Yes No"_s}, 0, 2},
-};
-
 TEST_F(PromptFunctions, InitgetTakesBitsAndText)
 {
-    for (const BitsRow &row : bitsRows) {
-        SCOPED_TRACE(row.name);
+    const struct
+    {
+        QString arguments;
+        int bits;
+        int released;
+    } rows[] = {
+        {{}, 0, -1},         {u"70000 | Yes No"_s, 70000, 1}, {u"5 | Yes No"_s, 5, 1}, {u"3"_s, 3, -1},
+        {u"Yes No"_s, 0, 1}, {u"1.5 | Yes No"_s, 0, 2}, // a real is no bits
+    };
+    for (const auto &row : rows) {
+        SCOPED_TRACE(row.arguments.toStdString());
         call(u"initgetOrtakit"_s, {1});
-        EXPECT_EQ(call(u"initgetOrtakit"_s, row.arguments), kRtNormal);
+        EXPECT_EQ(call(u"initgetOrtakit"_s, argumentsOf(row.arguments)), kRtNormal);
         EXPECT_EQ(result(), "");
         EXPECT_EQ(m_host.document().lisp().releasedArguments(), row.released);
         call(u"getRealOrtakit"_s);
