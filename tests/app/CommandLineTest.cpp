@@ -127,12 +127,7 @@ TEST_F(CommandLineTest, PrintedTextStaysAsItIsButForDoubledLineFeeds)
 
 TEST(PromptText, ShowsTheLastLineWithOptionsAsLinks)
 {
-    struct Row
-    {
-        QString prompt;
-        QString html;
-    };
-    const QList<Row> rows = {
+    const std::pair<QString, QString> rows[] = {
         {u"Command:"_s, u"Command:"_s},
         {u"\nfirst\nsecond <5>: "_s, u"second &lt;5&gt;: "_s},
         {u"Mode [On/OFf] <On>: "_s, u"Mode [<a href=\"option:O\">On</a>/<a href=\"option:OF\">OFf</a>] &lt;On&gt;: "_s},
@@ -141,8 +136,8 @@ TEST(PromptText, ShowsTheLastLineWithOptionsAsLinks)
         {u"Odd ]a[: "_s, u"Odd ]a[: "_s},
         {QString(), QString()},
     };
-    for (const Row &row : rows)
-        EXPECT_EQ(promptHtml(row.prompt), row.html);
+    for (const auto &[prompt, html] : rows)
+        EXPECT_EQ(promptHtml(prompt), html);
 }
 
 } // namespace

@@ -58,6 +58,11 @@ struct MainWindowTest : testing::Test
     }
     QString history() { return window->commandLine().historyText(); }
     QString lisp(const QString &text) { return window->document()->run(text).value; }
+    QAction *action(const QString &text)
+    {
+        const QList<QAction *> actions = window->findChildren<QAction *>();
+        return *std::ranges::find(actions, text, &QAction::text);
+    }
     /// While the next lines run, once an event loop or the interpreter lets events through.
     template <typename Body>
     void meanwhile(Body body)
@@ -123,9 +128,7 @@ TEST_F(MainWindowTest, ExpressionsMayComeInPieces)
     EXPECT_EQ(lisp(u"(list x y)"_s), u"(3 4)"_s);
     EXPECT_EQ(window->commandLine().prompt(), u"Command:"_s);
     window->enter(u"(setq x (list"_s);
-    for (QAction *action : window->findChildren<QAction *>())
-        if (action->text() == u"&Sample tool"_s)
-            action->trigger();
+    action(u"&Sample tool"_s)->trigger();
     EXPECT_TRUE(history().contains(u"sample tool"_s)) << "the menu does not complete an expression";
     window->enter(u"(setq x (list \"("_s);
     key(Qt::Key_Escape);
@@ -225,10 +228,7 @@ TEST_F(MainWindowTest, NothingElseStartsWhileSomethingRuns)
     QTimer::singleShot(100, window.get(), [&] {
         checked = true;
         window->enter(u"(setq intruder T)"_s);
-        for (const QAction *action : window->findChildren<QAction *>())
-            if (action->text() == u"&New"_s || action->text() == u"&Sample tool"_s) {
-                EXPECT_FALSE(action->isEnabled()) << action->text().toStdString();
-            }
+        EXPECT_FALSE(action(u"&New"_s)->isEnabled() || action(u"&Sample tool"_s)->isEnabled());
         EXPECT_FALSE(window->close());
         key(Qt::Key_Escape);
     });
@@ -316,9 +316,7 @@ TEST_F(MainWindowTest, RemembersStyleGroundAndEntries)
 {
     window->setStyleOfWindows(Style::Dark);
     window->commandLine().setEntries({u"LINE"_s});
-    for (QAction *action : window->findChildren<QAction *>())
-        if (action->text() == u"W&hite ground"_s)
-            action->trigger();
+    action(u"W&hite ground"_s)->trigger();
     ASSERT_TRUE(window->close());
     const Preferences kept = Preferences::load(path(u"home"_s));
     EXPECT_EQ(kept.style, Style::Dark);

@@ -12,17 +12,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-struct GoodLine
-{
-    const char *name;
-    QString text;
-    Verb verb;
-    QStringList words;
-};
-
 TEST(PlaybackScript, ReadsLines)
 {
-    const QList<GoodLine> rows = {
+    const std::tuple<const char *, QString, Verb, QStringList> rows[] = {
         {"blanks around", u"   command   BREAKLINE  \t"_s, Verb::Command, {u"BREAKLINE"_s}},
         {"carriage return", u"enter\r"_s, Verb::Enter, {}},
         {"text keeps its quotes inside", u"answer say \"hi\" now"_s, Verb::Answer, {u"say \"hi\" now"_s}},
@@ -39,30 +31,23 @@ TEST(PlaybackScript, ReadsLines)
         {"goes on", u"lisp (list 1 \\\n  2 \\\n 3)"_s, Verb::Lisp, {u"(list 1 2 3)"_s}},
         {"non-ASCII", u"message \"größer als 3 µm\" Ja"_s, Verb::Message, {u"größer als 3 µm"_s, u"Ja"_s}},
     };
-    for (const GoodLine &row : rows) {
-        const PlaybackScript script = parsePlayback(row.text);
-        ASSERT_TRUE(script.errors.isEmpty()) << row.name << ": " << script.errors.first().message.toStdString();
-        ASSERT_EQ(script.steps.size(), 1) << row.name;
-        EXPECT_EQ(script.steps[0].verb, row.verb) << row.name;
-        EXPECT_EQ(script.steps[0].words, row.words) << row.name;
+    for (const auto &[name, text, verb, words] : rows) {
+        const PlaybackScript script = parsePlayback(text);
+        ASSERT_TRUE(script.errors.isEmpty()) << name << ": " << script.errors.first().message.toStdString();
+        ASSERT_EQ(script.steps.size(), 1) << name;
+        EXPECT_EQ(script.steps[0].verb, verb) << name;
+        EXPECT_EQ(script.steps[0].words, words) << name;
     }
 }
 
 TEST(PlaybackScript, TellsWhatIsWrongWithALine)
 {
-    struct Row
-    {
-        QString line;
-        QString message;
-    };
-    const QList<Row> rows = {
+    const std::pair<QString, QString> rows[] = {
         {u"clik ok"_s, u"unknown word \"clik\""_s},
         {u"Command LINE"_s, u"unknown word \"Command\""_s},
         {u"command"_s, u"command: something is missing at the end of the line"_s},
-        {u"answer"_s, u"answer: something is missing at the end of the line"_s},
         {u"set box"_s, u"set: something is missing at the end of the line"_s},
         {u"enter now"_s, u"enter: too much on the line: \"now\""_s},
-        {u"dialog A B"_s, u"dialog: too much on the line: \"B\""_s},
         {u"point 10"_s, u"point: \"10\" is no point; write x,y or x,y,z"_s},
         {u"point 10,"_s, u"point: \"10,\" is no point; write x,y or x,y,z"_s},
         {u"point 1,2,3,4"_s, u"point: \"1,2,3,4\" is no point; write x,y or x,y,z"_s},
@@ -77,11 +62,11 @@ TEST(PlaybackScript, TellsWhatIsWrongWithALine)
         {u"answer \"a\" b"_s, u"answer: too much on the line: \"b\""_s},
         {u"lisp (a \\"_s, u"the line goes on (it ends in a backslash), but the session ends"_s},
     };
-    for (const Row &row : rows) {
-        const PlaybackScript script = parsePlayback(u"# first\n\n"_s + row.line);
-        ASSERT_EQ(script.errors.size(), 1) << row.line.toStdString();
-        EXPECT_EQ(script.errors[0].message, row.message);
-        EXPECT_EQ(script.errors[0].line, 3) << row.line.toStdString();
+    for (const auto &[line, message] : rows) {
+        const PlaybackScript script = parsePlayback(u"# first\n\n"_s + line);
+        ASSERT_EQ(script.errors.size(), 1) << line.toStdString();
+        EXPECT_EQ(script.errors[0].message, message);
+        EXPECT_EQ(script.errors[0].line, 3) << line.toStdString();
     }
 }
 

@@ -30,6 +30,7 @@ struct ProgramTest : testing::Test
         write(u"broken.dxf"_s, "0\nSECTION\n2\nENT");
         write(u"erase.txt"_s, "lisp (entdel (handent \"2A\"))\nexpect-count LINE 1\n");
         write(u"fails.txt"_s, "expect-count LINE 7\n");
+        write(u"looks.txt"_s, "expect-count LINE 2\n");
         write(u"asks.txt"_s, "lisp (getpoint \"Where: \")\n");
         write(u"bad.txt"_s, "enter\nnonsense\n");
         write(u"good.lsp"_s, "(princ (strcat \"sum \" (itoa (+ 1 2)) \" größe\\n\"))(princ)\n");
@@ -75,14 +76,8 @@ struct ProgramTest : testing::Test
 
 TEST_F(ProgramTest, EndsWithTheStatusItsManualNames)
 {
-    struct Row
-    {
-        QString arguments;
-        int status;
-        QString output;
-        QString message;
-    };
-    const QList<Row> rows = {
+    // Arguments, the status, and parts of what goes to the output and to the messages.
+    const std::tuple<QString, int, QString, QString> rows[] = {
         {u"--version"_s, 0, u"ortakit "_s, {}},
         {u"--help"_s, 0, u"Exit status: 0 done"_s, {}},
         {u"run --help"_s, 0, u"Usage: ortakit run"_s, {}},
@@ -93,6 +88,7 @@ TEST_F(ProgramTest, EndsWithTheStatusItsManualNames)
         {u"convert a.dxf picture.svg"_s, 0, {}, {}},
         {u"convert a.dxf picture.pdf"_s, 0, {}, {}},
         {u"run erase.txt a.dxf b.dxf --out out --png"_s, 0, u"a.dxf: done, out/a.dxf, out/a.png\n"_s, {}},
+        {u"run looks.txt a.dxf --out unchanged"_s, 0, u"a.dxf: done\n"_s, {}},
 
         {u"lisp error.lsp"_s, 1, u"before"_s, u"error.lsp"_s},
         {u"lisp asks.lsp"_s, 1, {}, u"asks.lsp"_s},
@@ -119,36 +115,22 @@ TEST_F(ProgramTest, EndsWithTheStatusItsManualNames)
         {u"convert a.dxf none/copy.png"_s, 4, {}, u"none/copy.png"_s},
         {u"convert a.dxf copy.dwg"_s, 4, {}, u"this program cannot write DWG files"_s},
     };
-    for (const Row &row : rows) {
-        const Ended ended = run(row.arguments);
-        const std::string name = row.arguments.toStdString();
-        EXPECT_EQ(ended.status, row.status) << name << '\n' << ended.messages.toStdString();
-        EXPECT_TRUE(ended.output.contains(row.output)) << name << '\n' << ended.output.toStdString();
-        EXPECT_TRUE(ended.messages.contains(row.message)) << name << '\n' << ended.messages.toStdString();
+    for (const auto &[arguments, status, output, message] : rows) {
+        const Ended ended = run(arguments);
+        const std::string name = arguments.toStdString();
+        EXPECT_EQ(ended.status, status) << name << '\n' << ended.messages.toStdString();
+        EXPECT_TRUE(ended.output.contains(output)) << name << '\n' << ended.output.toStdString();
+        EXPECT_TRUE(ended.messages.contains(message)) << name << '\n' << ended.messages.toStdString();
     }
-}
-
-TEST_F(ProgramTest, BatchWritesCopiesAndLeavesTheDrawingsAlone)
-{
-    ASSERT_EQ(run(u"run erase.txt a.dxf b.dxf --out out --png"_s).status, 0);
+    // What those runs have left behind: converted without changing a byte, changed as a copy only.
+    EXPECT_EQ(read(u"copy.dxf"_s), smallDrawing());
+    EXPECT_FALSE(QImage(folder.filePath(u"picture.png"_s)).isNull());
+    EXPECT_TRUE(read(u"picture.pdf"_s).startsWith("%PDF"));
+    EXPECT_TRUE(read(u"picture.svg"_s).contains("<svg"));
     EXPECT_EQ(read(u"a.dxf"_s), smallDrawing());
     EXPECT_EQ(read(u"out/b.dxf"_s).count("\nLINE\n"), 1);
     EXPECT_FALSE(QImage(folder.filePath(u"out/a.png"_s)).isNull());
-    write(u"looks.txt"_s, "expect-count LINE 2\n");
-    ASSERT_EQ(run(u"run looks.txt a.dxf --out unchanged"_s).status, 0);
     EXPECT_FALSE(QFile::exists(folder.filePath(u"unchanged/a.dxf"_s))) << "nothing was changed";
-}
-
-TEST_F(ProgramTest, ConvertsWithoutChangingAByteAndDrawsPictures)
-{
-    ASSERT_EQ(run(u"convert a.dxf copy.dxf"_s).status, 0);
-    EXPECT_EQ(read(u"copy.dxf"_s), smallDrawing());
-    ASSERT_EQ(run(u"convert a.dxf p.png"_s).status, 0);
-    EXPECT_FALSE(QImage(folder.filePath(u"p.png"_s)).isNull());
-    ASSERT_EQ(run(u"convert a.dxf p.pdf"_s).status, 0);
-    EXPECT_TRUE(read(u"p.pdf"_s).startsWith("%PDF"));
-    ASSERT_EQ(run(u"convert a.dxf p.svg"_s).status, 0);
-    EXPECT_TRUE(read(u"p.svg"_s).contains("<svg"));
 }
 
 TEST_F(ProgramTest, ReadsExpressionsFromStandardInput)

@@ -37,15 +37,9 @@ struct SessionPlayerTest : testing::Test, HostFixture
     }
 };
 
-struct Row
-{
-    const char *name;
-    QString session;
-};
-
 TEST_F(SessionPlayerTest, PlaysWhatHappens)
 {
-    const QList<Row> rows = {
+    const std::pair<const char *, QString> rows[] = {
         {"expression", u"lisp (setq x 1)\nexpect-lisp (= x 1)"_s},
         {"number at a prompt", u"lisp (setq x (getreal \"Size: \"))\nanswer 12.5\nexpect-lisp (= x 12.5)"_s},
         {"default", u"lisp (setq x (getint \"Count <3>: \"))\nenter\nexpect-lisp (null x)"_s},
@@ -90,24 +84,17 @@ TEST_F(SessionPlayerTest, PlaysWhatHappens)
          u"lisp (entdel (handent \"2A\"))\nexpect-count LINE 1\nexpect-modified yes\nundo\nexpect-count line 2\n"
          "redo\nexpect-count * 2\nundo"_s},
     };
-    for (const Row &row : rows) {
-        const PlaybackResult result = play(row.session);
-        EXPECT_TRUE(result.ok) << row.name << ": " << result.message.toStdString() << '\n'
-                               << result.printed.toStdString();
-        expectCleanedUp(row.name);
+    for (const auto &[name, steps] : rows) {
+        const PlaybackResult result = play(steps);
+        EXPECT_TRUE(result.ok) << name << ": " << result.message.toStdString() << '\n' << result.printed.toStdString();
+        expectCleanedUp(name);
     }
 }
 
 TEST_F(SessionPlayerTest, FailsOnWhatItDoesNotExpect)
 {
-    struct Failure
-    {
-        const char *name;
-        QString session;
-        int line;
-        QString message;
-    };
-    const QList<Failure> rows = {
+    // What is wrong, the session, the line where it fails, and a part of the message.
+    const std::tuple<const char *, QString, int, QString> rows[] = {
         {"bad line", u"\nnonsense"_s, 2, u"unknown word \"nonsense\""_s},
         {"unknown variable", u"enter\nanswer ${NOBODY}"_s, 2, u"${NOBODY} is not known"_s},
         {"nothing is open", u"answer 5"_s, 1, u"no prompt and no dialog is open"_s},
@@ -155,28 +142,23 @@ TEST_F(SessionPlayerTest, FailsOnWhatItDoesNotExpect)
         {"no such entity", u"lisp (entsel)\npickhandle FFF"_s, 2, u"no entity with the handle FFF"_s},
         {"nothing to undo", u"undo"_s, 1, u"there is nothing to undo"_s},
     };
-    for (const Failure &row : rows) {
-        const PlaybackResult result = play(row.session);
-        EXPECT_FALSE(result.ok) << row.name;
-        EXPECT_EQ(result.line, row.line) << row.name << ": " << result.message.toStdString();
-        EXPECT_TRUE(result.message.contains(row.message)) << row.name << ": " << result.message.toStdString();
-        expectCleanedUp(row.name);
+    for (const auto &[name, steps, line, message] : rows) {
+        const PlaybackResult result = play(steps);
+        EXPECT_FALSE(result.ok) << name;
+        EXPECT_EQ(result.line, line) << name << ": " << result.message.toStdString();
+        EXPECT_TRUE(result.message.contains(message)) << name << ": " << result.message.toStdString();
+        expectCleanedUp(name);
     }
 }
 
 TEST_F(SessionPlayerTest, NeverOutlastsItsTimeLimit)
 {
-    const QList<Row> rows = {
-        {"endless loop", u"lisp (while T)"_s},
-        {"loop that catches its errors", u"lisp (while T (vl-catch-all-apply 'car '(5)))"_s},
-        {"loop over a dialog", u"lisp (while T (samplebox))\ndialog SampleBox\nclose"_s},
-    };
-    for (const Row &row : rows) {
-        PlaybackOptions short_ = options();
-        short_.timeLimit = std::chrono::milliseconds(400);
-        const PlaybackResult result = runSession(row.session, *document, short_);
-        EXPECT_FALSE(result.ok) << row.name;
-        expectCleanedUp(row.name);
+    PlaybackOptions brief = options();
+    brief.timeLimit = std::chrono::milliseconds(400);
+    for (const char *endless : {"lisp (while T)", "lisp (while T (vl-catch-all-apply 'car '(5)))",
+                                "lisp (while T (samplebox))\ndialog SampleBox\nclose"}) {
+        EXPECT_FALSE(runSession(QString::fromLatin1(endless), *document, brief).ok) << endless;
+        expectCleanedUp(endless);
     }
 }
 

@@ -95,13 +95,8 @@ struct WidgetActionsTest : testing::Test
 
 TEST_F(WidgetActionsTest, SetsByClass)
 {
-    struct Row
-    {
-        QString name;
-        QString value;
-        QString shown; ///< or the refusal
-    };
-    const QList<Row> rows = {
+    // A widget, what is set, and what it shows then or the refusal.
+    const std::tuple<QString, QString, QString> rows[] = {
         {u"name"_s, u"größe"_s, u"größe"_s},
         {u"NAME"_s, QString(), QString()},
         {u"digits"_s, u"42"_s, u"42"_s},
@@ -133,10 +128,10 @@ TEST_F(WidgetActionsTest, SetsByClass)
         {u"off"_s, u"yes"_s, u"off is disabled"_s},
         {u"button:Ok"_s, u"x"_s, u"QPushButton has no value to set"_s},
     };
-    for (const Row &row : rows) {
-        const QString error = setValue(widget(row.name), row.value);
-        const QString shown = error.isEmpty() ? shownValue(widget(row.name)) : error;
-        EXPECT_EQ(shown, row.shown) << row.name.toStdString() << " = " << row.value.toStdString();
+    for (const auto &[name, value, expected] : rows) {
+        const QString error = setValue(widget(name), value);
+        const QString shown = error.isEmpty() ? shownValue(widget(name)) : error;
+        EXPECT_EQ(shown, expected) << name.toStdString() << " = " << value.toStdString();
     }
 }
 
