@@ -73,29 +73,16 @@ OdResBufPtr chainOf(const QString &links)
 
 TEST_F(EditingTimes, AreReadUnlessTheRecordIsDamaged)
 {
-    const struct
-    {
-        QString links;
-        std::optional<EditingTime> time;
-    } rows[] = {
-        {u"280=1 90=15 40=2.5 1='1700000000456"_s, EditingTime{true, 15, 2.5, 1700000000456}},
-        {u"280=0 90=-3 40=0 1='0 40=7 1='more"_s, EditingTime{false, -3, 0, 0}},
-        {u"280=1 90=2147483647 40=1e6 1='-1"_s, EditingTime{true, 2147483647, 1e6, -1}},
-        {u""_s, std::nullopt},
-        {u"280=1 90=15 40=2.5"_s, std::nullopt},
-        {u"280=1 40=2.5 90=15 1='1"_s, std::nullopt},
-        {u"280='yes 90=15 40=2.5 1='1"_s, std::nullopt},
-        {u"280=2 90=15 40=2.5 1='1"_s, std::nullopt},
-        {u"280=1 90=4294967296 40=2.5 1='1"_s, std::nullopt},
-        {u"280=1 90=15 40=-0.001 1='1"_s, std::nullopt},
-        {u"280=1 90=15 40=nan 1='1"_s, std::nullopt},
-        {u"280=1 90=15 40=inf 1='1"_s, std::nullopt},
-        {u"280=1 90=15 40=1000001 1='1"_s, std::nullopt},
-        {u"280=1 90=15 40='much 1='1"_s, std::nullopt},
-        {u"280=1 90=15 40=2.5 1='yesterday"_s, std::nullopt},
-    };
-    for (const auto &row : rows)
-        EXPECT_EQ(ortakit::editingTimeFromChain(chainOf(row.links).get()), row.time) << row.links.toStdString();
+    const auto read = [](const QString &links) { return ortakit::editingTimeFromChain(chainOf(links).get()); };
+    EXPECT_EQ(read(u"280=1 90=15 40=2.5 1='1700000000456"_s), (EditingTime{true, 15, 2.5, 1700000000456}));
+    EXPECT_EQ(read(u"280=0 90=-3 40=0 1='0 40=7 1='more"_s), (EditingTime{false, -3, 0, 0}));
+    EXPECT_EQ(read(u"280=1 90=2147483647 40=1e6 1='-1"_s), (EditingTime{true, 2147483647, 1e6, -1}));
+    for (const QString &damaged :
+         {u""_s, u"280=1 90=15 40=2.5"_s, u"280=1 40=2.5 90=15 1='1"_s, u"280='yes 90=15 40=2.5 1='1"_s,
+          u"280=2 90=15 40=2.5 1='1"_s, u"280=1 90=4294967296 40=2.5 1='1"_s, u"280=1 90=15 40=-0.001 1='1"_s,
+          u"280=1 90=15 40=nan 1='1"_s, u"280=1 90=15 40=inf 1='1"_s, u"280=1 90=15 40=1000001 1='1"_s,
+          u"280=1 90=15 40='much 1='1"_s, u"280=1 90=15 40=2.5 1='yesterday"_s})
+        EXPECT_FALSE(read(damaged)) << damaged.toStdString();
 }
 
 TEST_F(EditingTimes, AreWrittenSoThatTheyComeBack)
