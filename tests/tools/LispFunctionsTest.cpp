@@ -47,7 +47,6 @@ class LispFunctionsManual : public testing::Test
 {
 protected:
     static QString source(const QString &file) { return qEnvironmentVariable("ORTAKIT_SOURCE") + u'/' + file; }
-    static QString built(const QString &file) { return qEnvironmentVariable("ORTAKIT_BUILD") + u'/' + file; }
 
     /// The functions that the module defines, as it spells them; the manual is looked up by that.
     static QStringList tableNames()
@@ -61,7 +60,7 @@ protected:
     }
 
     ToolRun run;
-    host::app::Workbench bench{{run.path(u"home"_s), built(u"lib/Ortakit.so"_s), built(u"share/ortakit/tools"_s)}};
+    host::app::Workbench bench{run.workbench()};
     const QList<Section> sections =
         sectionsOf(QString::fromUtf8(ToolRun::readFile(source(u"docs/lisp-functions.md"_s))));
 };

@@ -76,24 +76,4 @@ TEST_F(PatternHatchDialog, LoopsBetweenDialogAndProgram)
     EXPECT_EQ(lines(3), written({u"!action!=OK"_s, sizes, group}));
 }
 
-TEST_F(PatternHatchDialog, FavouritesOutliveTheProgram)
-{
-    const QString saved = called(u"NEW"_s, u"(\"pattern_mask\" . \"TRUE\")"_s) +
-                          u"set patternName HEX\nset Width 3\nset Rotation 45\nclick notexceedlimits\n"
-                          "set Cb_Favorits \"Six corners\"\nkey Cb_Favorits Return\nclick ButtonCancel\n"_s;
-    const QString used = called(u"NEW"_s, u"(\"pattern_block\" . \"TRUE\")"_s) +
-                         u"expect-items Cb_Favorits \"Six corners\"\nset Cb_Favorits \"Six corners\"\n"
-                         "expect patternName HEX\nexpect Width 3\nexpect Rotation 45\nexpect notexceedlimits yes\n"
-                         "click acceptButton\n"_s +
-                         closed(u"OK"_s, 1) + called(u"EDIT"_s, {}) +
-                         u"click Btn_Erase\ndialog Dlg_QT_RemoveFavorits\nrow ListFavorits \"Six corners\"\n"
-                         "click BtnRemove\nclick acceptButton\n"
-                         "expect-items Cb_Favorits \"\"\nexpect-enabled Btn_Erase no\nclick ButtonCancel\n"_s;
-    const QString gone = called(u"NEW"_s, {}) + u"expect-items Cb_Favorits \"\"\nclick ButtonCancel\n"_s;
-    for (const QString &session : {saved, used, gone}) {
-        plays(session);
-    }
-    EXPECT_TRUE(lines(1).contains(u"cb_favorits=Six corners"_s));
-}
-
 } // namespace

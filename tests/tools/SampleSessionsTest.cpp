@@ -122,27 +122,19 @@ TEST_F(SampleSessions, ChangeWhatTheySayAndNothingElse)
 
 TEST_F(SampleSessions, CancelledCommandsChangeNothing)
 {
-    const std::pair<QString, QString> commands[] = {{u"BREAKLINE"_s, u"Dlg_QT_Breakline"_s},
-                                                    {u"DIMSTYLEEXPORT"_s, u"Dlg_QT_ExchangedDimensionStyle"_s},
-                                                    {u"DIMSTYLEIMPORT"_s, u"Dlg_QT_ImportDimensionStyle"_s},
-                                                    {u"DRAWORDERCOLOR"_s, u"Dlg_QT_DrawOderColor"_s},
-                                                    {u"EDITALIAS"_s, u"Dlg_QT_EditAlias"_s},
-                                                    {u"EXPORTINFO"_s, u"Dlg_QT_ExportInfo"_s},
-                                                    {u"EXPORTVARIABLES"_s, u"Dlg_QT_ExportSettings"_s},
-                                                    {u"VARIABLETOSCRIPT"_s, u"Dlg_QT_ExportSettings"_s},
-                                                    {u"GETBLOCKINFO"_s, u"Dlg_QT_GetBlockInfo"_s},
-                                                    {u"IMPORTBLOCKATTRIBUTES"_s, u"Dlg_QT_ImportBlockAttributes"_s},
-                                                    {u"MAKELINESTYLE"_s, u"Dlg_QT_MakeLineStyle"_s},
-                                                    {u"MAKESHAPE"_s, u"Dlg_QT_MakeShape"_s},
-                                                    {u"SELECTBLOCK"_s, u"DLG_QT_SelectBlock"_s},
-                                                    {u"REDEFINEPATHS"_s, u"Dlg_QT_RedefinePaths"_s},
-                                                    {u"REPLACEBLOCK"_s, u"Dlg_QT_ReplaceBlock"_s},
-                                                    {u"REPLACEBLOCKBYREFERENCE"_s, u"Dlg_QT_ReplaceBlockToXref"_s},
-                                                    {u"SHOWLINKS"_s, u"Dlg_QT_ShowLinks"_s},
-                                                    {u"TRACKTIME"_s, u"Dlg_QT_TrackTime"_s}};
+    const auto isLeft = [](const QString &command, const QString &answers = {}) {
+        return u"command %1\n%2dialog QDialog\nclose\nexpect-modified no\n"_s.arg(command, answers);
+    };
     QString session;
-    for (const auto &[command, dialog] : commands)
-        session += u"command %1\ndialog %2\nclose\nexpect-modified no\n"_s.arg(command, dialog);
+    for (const QString &command :
+         u"BREAKLINE DIMSTYLEEXPORT DIMSTYLEIMPORT DRAWORDERCOLOR EDITALIAS EXPORTINFO EXPORTVARIABLES "
+         u"VARIABLETOSCRIPT GETBLOCKINFO "
+         "IMPORTBLOCKATTRIBUTES MAKELINESTYLE MAKESHAPE SELECTBLOCK REDEFINEPATHS REPLACEBLOCK REPLACEBLOCKBYREFERENCE "
+         "SHOWLINKS TRACKTIME"_s.split(u' '))
+        session += isLeft(command);
+    for (const QString &command : u"EDITTEXTCASE NUMBERTEXT TEXTMASK TEXTFRAME CONVERTSIMPLENOTES"_s.split(u' '))
+        session += u"command %1\ncancel\ncommand %1\nenter\nexpect-printed Nothing was chosen.\n"_s.arg(command) +
+                   isLeft(command, u"select all\nenter\n"_s);
     plays(session);
     EXPECT_FALSE(QFile::exists(run.path(u"home/Ortakit/dimstyleexport.dim"_s)));
 }

@@ -85,6 +85,12 @@ QString ToolRun::result(const QString &drawing) const
     return path(u"out/"_s + QFileInfo(drawing).completeBaseName() + u".dxf"_s);
 }
 
+host::app::WorkbenchOptions ToolRun::workbench() const
+{
+    const QString built = qEnvironmentVariable("ORTAKIT_BUILD");
+    return {path(u"home"_s), built + u"/lib/Ortakit.so"_s, built + u"/share/ortakit/tools"_s};
+}
+
 void ToolTest::plays(const QString &session, const QString &drawing) const
 {
     const RunOutcome outcome = run.play(session, drawing.isEmpty() ? plan : drawing);

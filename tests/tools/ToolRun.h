@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/app/Workbench.h"
 #include "host/drawing/Drawing.h"
 
 #include <QStringList>
@@ -29,6 +30,8 @@ public:
     RunOutcome play(const QString &session, const QString &drawing) const;
     RunOutcome playFile(const QString &sessionPath, const QString &drawing) const;
     QString result(const QString &drawing) const;
+    /// For a workbench in the test itself, with the built module and tools and the same home.
+    host::app::WorkbenchOptions workbench() const;
     /// Where the tool of that name keeps its dialog's state.
     QString stateFile(const QString &tool) const { return path(QStringLiteral("home/Ortakit/%1.state").arg(tool)); }
 
