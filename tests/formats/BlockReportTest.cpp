@@ -15,6 +15,7 @@ TEST(BlockReport, CountsBlocksThatHaveReferences)
     const std::pair<QString, QString> rows[] = {
         {u"DOOR;12"_s, u"DOOR=12"_s},
         {u"DOOR;0"_s, {}},
+        {u"DOOR;-3"_s, {}},
         {u"DOOR"_s, {}},
         {u"DOOR;"_s, {}},
         {u"DOOR;many"_s, {}},
