@@ -15,7 +15,6 @@ using lispfuncs_test::valueOf;
 using ortakit::test::FakeAnswer;
 using ortakit::test::FakeHost;
 using testing::ElementsAre;
-using testing::IsEmpty;
 
 constexpr std::pair<const char *, CKvLispEngine::Handler> functions[] = {
     {"getIntOrtakit", ortakit::getIntOrtakit},       {"getStringOrtakit", ortakit::getStringOrtakit},
@@ -129,7 +128,7 @@ TEST_F(PromptFunctions, AskAndAnswer)
         const QStringList before = m_host.document().input().requests();
         const QVariant given = row.answer.isEmpty() ? QVariant() : valueOf(row.answer);
         const FakeAnswer answer = row.answer.startsWith(u"key ") ? keyword(row.answer.mid(4)) : value(given);
-        EXPECT_EQ(ask(row.function + u"Ortakit", argumentsOf(row.arguments), answer), kRtNormal);
+        EXPECT_EQ(ask(row.function + u"Ortakit"_s, argumentsOf(row.arguments), answer), kRtNormal);
         EXPECT_EQ(m_host.document().input().requests().mid(before.size()).join(u", "_s), row.requests);
         EXPECT_EQ(result(), row.result);
     }

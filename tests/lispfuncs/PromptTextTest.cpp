@@ -46,9 +46,10 @@ TEST(PromptText, TakesPromptsApart)
 
 TEST(PromptText, WrittenLineBreaksGo)
 {
-    EXPECT_EQ(parsePrompt("\\nPick\\n a point:").given, "Pick a point:");
-    EXPECT_EQ(parsePrompt("\\\\nn").given, "\\n") << "a removed break joins no new one";
-    EXPECT_EQ(parsePrompt("[Au\\nto/Manual]").keywords, QStringList({"Auto", "Manual"}));
+    using namespace Qt::StringLiterals;
+    EXPECT_EQ(parsePrompt(u"\\nPick\\n a point:"_s).given.toStdString(), "Pick a point:");
+    EXPECT_EQ(parsePrompt(u"\\\\nn"_s).given.toStdString(), "\\n") << "a removed break joins no new one";
+    EXPECT_EQ(parsePrompt(u"[Au\\nto/Manual]"_s).keywords.join(u'|').toStdString(), "Auto|Manual");
 }
 
 TEST(PromptText, LongPromptsAreTakenApartAtOnce)
