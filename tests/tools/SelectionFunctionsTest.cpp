@@ -177,11 +177,13 @@ INSTANTIATE_TEST_SUITE_P(
         Row{"Esc", "(acet-ss-drag-move (ssget \"X\") '(0 0) \"To\" T)", "cancel\nexpect-modified no\n",
             "(and (null v) (= LispCanceled 1))"}));
 
-INSTANTIATE_TEST_SUITE_P(Prompts, SelectionFunctions,
-                         testing::Values(Row{"string, Esc", "(KORA_getstring \"Name\")", "cancel\n",
-                                             "(and (null v) (= LispCanceled 1))"},
-                                         Row{"keyword, Esc", "(KORA_getkword \"Yes,No\")", "cancel\n",
-                                             "(and (null v) (= LispCanceled 1))"}));
+INSTANTIATE_TEST_SUITE_P(
+    Prompts, SelectionFunctions,
+    testing::Values(
+        Row{"point, keyword", "(KORA_getpoint \"Undo,eXit\" \"Next\" '(1 2))", "answer x\n", "(= v \"eXit\")"},
+        Row{"string, empty", "(KORA_getstring \"Name\")", "enter\n", "(and (null v) (= LispCanceled 0))"},
+        Row{"string, Esc", "(KORA_getstring \"Name\")", "cancel\n", "(and (null v) (= LispCanceled 1))"},
+        Row{"keyword, Esc", "(KORA_getkword \"Yes,No\")", "cancel\n", "(and (null v) (= LispCanceled 1))"}));
 
 TEST_F(SelectionFunctions, WrongArgumentsAreErrorsThatSayWhy)
 {
