@@ -114,7 +114,10 @@ TEST_F(EditAlias, ConfirmingWaitsWhenTheOpenCellIsRefused)
 {
     showAliases(u"LINE=L ARC=A"_s);
     editAlias(1)->setText(u"l"_s);
-    EXPECT_EQ(shownBy("acceptButton"), QStringList{used});
+    const ModalAnswers answers;
+    click("acceptButton");
+    settle();
+    EXPECT_EQ(answers.shown(), QStringList{used});
     EXPECT_TRUE(dialog->isVisible());
     EXPECT_EQ(rows(), u"LINE=L ARC=A"_s);
 }

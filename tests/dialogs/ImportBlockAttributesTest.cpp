@@ -64,6 +64,7 @@ TEST_F(ImportBlockAttributes, AFileIsShownAsItsLinesAre)
 {
     showWith({});
     EXPECT_EQ(focusName(), u"selectfile"_s);
+    EXPECT_FALSE(isEnabled("selectAll"));
     showFile(doors);
     EXPECT_EQ(headers(), u"HANDLE|NAME|NUMBER"_s);
     EXPECT_EQ(rows(), u"'1A|DOOR|D-2 '1B|door|ABCabc '1C|GATE|-"_s);
@@ -71,7 +72,6 @@ TEST_F(ImportBlockAttributes, AFileIsShownAsItsLinesAre)
     EXPECT_TRUE(dialog->isVisible()) << "Enter in the field is not OK";
     showFile({});
     EXPECT_EQ(table()->columnCount() + table()->rowCount(), 0);
-    EXPECT_FALSE(isEnabled("selectAll"));
 }
 
 TEST_F(ImportBlockAttributes, EachShowingReadsTheFileOfTheState)
