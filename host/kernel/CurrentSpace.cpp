@@ -33,6 +33,16 @@ drawing::Handle blockOf(const drawing::Drawing &drawing, const drawing::Dictiona
     return block ? block->handle().value_or(drawing::Handle{}) : drawing::Handle{};
 }
 
+/// The layout whose paper space is in use; noRecord in drawings without layouts.
+drawing::RecordId paperLayout(const drawing::Drawing &drawing)
+{
+    const QString name = paperLayoutName(drawing);
+    for (const drawing::Dictionaries::Entry &layout : layouts(drawing))
+        if (layout.name == name)
+            return layout.record;
+    return drawing::noRecord;
+}
+
 } // namespace
 
 QString layoutOfBlock(const drawing::Drawing &drawing, drawing::RecordId block)
@@ -73,6 +83,24 @@ QString layoutName(const drawing::Drawing &drawing, const QString &name)
         if (known.compare(name, Qt::CaseInsensitive) == 0)
             return known;
     return {};
+}
+
+std::optional<drawing::Vec2> layoutLimit(const drawing::Drawing &drawing, int code)
+{
+    const drawing::RecordId layout = paperLayout(drawing);
+    if (!isValid(layout))
+        return {};
+    return drawing.tags(layout).point(code).xy();
+}
+
+void setLayoutLimit(drawing::Drawing &drawing, int code, const drawing::Vec2 &corner)
+{
+    const drawing::RecordId layout = paperLayout(drawing);
+    if (!isValid(layout))
+        return;
+    drawing::FieldList fields = drawing.fields(layout);
+    drawing::setField(fields, code, corner);
+    drawing.setFields(layout, fields);
 }
 
 } // namespace host::kernel

@@ -240,7 +240,6 @@ std::vector<HostVariable> headerVariables()
 std::vector<HostVariable> stateVariables()
 {
     return {
-        fixed("CVPORT", 2),
         fixed("LASTPROMPT", text("")),
         fixed("LOCALE", text("enu")),
         fixed("PLATFORM",
@@ -265,6 +264,11 @@ std::vector<HostVariable> stateVariables()
         computed("CMDNAMES", [](const Document &document) -> VariableValue { return document.commandNames(); }),
         computed("DATE",
                  [](const Document &) -> VariableValue { return drawing::julianDate(QDateTime::currentDateTime()); }),
+        computed("CVPORT",
+                 [](const Document &document) -> VariableValue {
+                     // 1 is the sheet itself; there is no way into a viewport of it.
+                     return currentSpace(document.drawing()) == drawing::Space::Paper ? 1 : 2;
+                 }),
         computed("DBMOD", [](const Document &document) -> VariableValue { return document.isModified() ? 1 : 0; }),
         computed("DWGNAME", [](const Document &document) -> VariableValue { return document.title(); }),
         computed("DWGPREFIX", drawingFolder),

@@ -2,6 +2,7 @@
 
 #include "host/drawing/HeaderVariables.h"
 #include "host/drawing/WipeoutFrame.h"
+#include "host/kernel/CurrentSpace.h"
 #include "host/kernel/Document.h"
 #include "host/kernel/Editor.h"
 #include "host/kernel/HostVariables.h"
@@ -23,9 +24,22 @@ constexpr int angleCode = 50;
 
 const QString wipeoutFrame = QStringLiteral("WIPEOUTFRAME");
 
-QString headerName(const QString &name)
+/// Whether the current paper space has a value of its own for this variable.
+bool isOfSheet(const drawing::Drawing &drawing, const QString &name)
 {
-    return u'$' + name;
+    static const QStringList names = {QStringLiteral("LIMMIN"), QStringLiteral("LIMMAX"), QStringLiteral("LIMCHECK")};
+    return names.contains(name) && currentSpace(drawing) == drawing::Space::Paper;
+}
+
+/// The group under which the layout has a variable that is of the sheet; 0 for none.
+int layoutCode(const QString &name)
+{
+    return name == QStringLiteral("LIMMIN") ? 10 : name == QStringLiteral("LIMMAX") ? 11 : 0;
+}
+
+QString headerName(const drawing::Drawing &drawing, const QString &name)
+{
+    return (isOfSheet(drawing, name) ? QStringLiteral("$P") : QStringLiteral("$")) + name;
 }
 
 VariableValue fromField(const Field &field)
@@ -104,7 +118,11 @@ SystemVariables::~SystemVariables() = default;
 
 std::optional<VariableValue> SystemVariables::headerValue(const QString &name) const
 {
-    const std::optional<Field> field = m_document.drawing().header().get(headerName(name));
+    const drawing::Drawing &drawing = m_document.drawing();
+    if (const int code = layoutCode(name); code != 0 && isOfSheet(drawing, name))
+        if (const std::optional<Vec2> corner = layoutLimit(drawing, code))
+            return *corner;
+    const std::optional<Field> field = drawing.header().get(headerName(drawing, name));
     if (!field)
         return {};
     return fromField(*field);
@@ -158,7 +176,7 @@ void SystemVariables::setInternally(QStringView name, const VariableValue &value
     const HostVariable *variable = findHostVariable(upper);
     drawing::HeaderVariables &header = m_document.drawing().header();
     if (upper == QStringLiteral("CECOLOR")) {
-        header.set(headerName(upper), Field{62, colourNumber(std::get<QString>(value))});
+        header.set(u"$CECOLOR", Field{62, colourNumber(std::get<QString>(value))});
     } else if (upper == QStringLiteral("CTAB")) {
         const bool isModel = std::get<QString>(value).compare(QStringLiteral("Model"), Qt::CaseInsensitive) == 0;
         header.set(u"$TILEMODE", Field{70, qint64(isModel)});
@@ -168,11 +186,14 @@ void SystemVariables::setInternally(QStringView name, const VariableValue &value
     } else if (variable && variable->place != VariablePlace::Header) {
         m_values.insert(upper, value);
     } else {
-        const std::optional<Field> present = header.get(headerName(upper));
+        const QString headed = headerName(m_document.drawing(), upper);
+        const std::optional<Field> present = header.get(headed);
         const int code = present ? present->code : variable ? variable->code : 1;
-        header.set(headerName(upper), toField(code, value));
+        header.set(headed, toField(code, value));
+        if (const auto *limit = std::get_if<Vec2>(&value); limit && isOfSheet(m_document.drawing(), upper))
+            setLayoutLimit(m_document.drawing(), layoutCode(upper), *limit);
         // Old files may have no header at all: there the value lasts as long as the document is open.
-        if (!header.get(headerName(upper)))
+        if (!header.get(headed))
             m_values.insert(upper, value);
     }
 }

@@ -51,6 +51,12 @@ INSTANTIATE_TEST_SUITE_P(
                  "(\"Layout1\" 0)"},
         LispCase{"entities go into the current tab", "(setvar \"TILEMODE\" 0)(command \"POINT\" '(0 0))",
                  "(cdr (assoc 67 (entget (entlast))))", "1"},
+        LispCase{"limits of the sheet are its own",
+                 "(setq m (getvar \"LIMMAX\"))(setvar \"TILEMODE\" 0)(setvar \"LIMMAX\" '(42 29))",
+                 "(list (cdr (assoc 11 (dictsearch (cdr (assoc -1 (dictsearch (namedobjdict) \"ACAD_LAYOUT\")))"
+                 " \"Layout1\"))) (getvar \"LIMMAX\") (getvar \"CVPORT\") (setvar \"TILEMODE\" 1)"
+                 " (equal m (getvar \"LIMMAX\")) (getvar \"CVPORT\"))",
+                 "((42.0 29.0 0.0) (42.0 29.0) 1 1 T 2)"},
         LispCase{"points", "(setvar \"LIMMAX\" '(420 297))", "(getvar \"LIMMAX\")", "(420.0 297.0)"},
         LispCase{"extents of an empty drawing", "", "(getvar \"EXTMIN\")", "(1.0e+20 1.0e+20 1.0e+20)"},
         LispCase{"extents follow the drawing", "(command \"LINE\" '(1 2) '(30 20) \"\")",
