@@ -11,6 +11,21 @@ namespace host::drawing {
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+/// Writes down what a block's lengths are measured in, where the drawing's version has a place for that.
+void setUnits(Drawing &drawing, RecordId block, qint64 units)
+{
+    const RecordId entry = drawing.blocks().read(block).tableEntry;
+    if (!isValid(entry) || drawing.version() < Version::R2007)
+        return;
+    FieldList fields = drawing.fields(entry);
+    setField(fields, 70, units);
+    drawing.setFields(entry, fields);
+}
+
+} // namespace
+
 CopyResult copyEntities(const Drawing &source, const std::vector<RecordId> &entities, Drawing &target)
 {
     const JournalGroup group(target.journal(), u"copy"_s);
@@ -52,6 +67,7 @@ CopyResult insertAsBlock(const Drawing &source, Drawing &target, const QString &
     DrawingCopier copier(source, target);
     for (const RecordId entity : source.entities().inSpace(Space::Model))
         copier.copyEntity(entity, block);
+    setUnits(target, block, source.header().integer(u"$INSUNITS"));
     return {block, copier.skipped(), {}};
 }
 
