@@ -2,6 +2,8 @@
 
 #include "host/drawing/Journal.h"
 
+#include <algorithm>
+
 namespace host::kernel {
 
 void UndoSteps::beginRun(const QString &name)
@@ -12,6 +14,7 @@ void UndoSteps::beginRun(const QString &name)
     absorbLooseChanges();
     m_runName = name;
     m_runStart = m_boundary = m_journal.undoDepth();
+    m_groupEnds.clear();
     m_journal.beginGroup(name);
 }
 
@@ -21,7 +24,13 @@ void UndoSteps::endRun()
         return;
     m_journal.endGroup();
     addStep(m_runName, m_boundary);
-    mergeFrom(m_runStart, m_runName);
+    // What was changed before the first group and behind the last one belongs to these.
+    int until = std::numeric_limits<int>::max();
+    for (int i = int(m_groupEnds.size()) - 2; i >= 0; --i) {
+        mergeFrom(m_groupEnds[i], m_runName, until);
+        until = m_groupEnds[i];
+    }
+    mergeFrom(m_runStart, m_runName, until);
 }
 
 void UndoSteps::boundary()
@@ -42,6 +51,8 @@ void UndoSteps::end()
     boundary();
     if (m_groupStart)
         mergeFrom(*m_groupStart, QStringLiteral("GROUP"));
+    if (m_runDepth > 0 && m_groupStart && m_journal.undoDepth() > std::max(*m_groupStart, m_runStart))
+        m_groupEnds.push_back(m_journal.undoDepth());
     m_groupStart.reset();
 }
 
@@ -133,19 +144,20 @@ void UndoSteps::undoOne()
     m_runStart = std::min(m_runStart, depth);
     if (m_groupStart)
         m_groupStart = std::min(*m_groupStart, depth);
-    while (!m_marks.empty() && m_marks.back() > depth)
-        m_marks.pop_back();
+    for (std::vector<int> *depths : {&m_marks, &m_groupEnds})
+        while (!depths->empty() && depths->back() > depth)
+            depths->pop_back();
 }
 
-void UndoSteps::mergeFrom(int depth, const QString &name)
+void UndoSteps::mergeFrom(int depth, const QString &name, int until)
 {
-    const auto isBefore = [depth](const Step &step) { return step.depthBefore < depth; };
-    const auto first = std::find_if_not(m_steps.begin(), m_steps.end(), isBefore);
-    if (first == m_steps.end())
+    const auto beginsBefore = [](int limit) { return [limit](const Step &step) { return step.depthBefore < limit; }; };
+    const auto first = std::find_if_not(m_steps.begin(), m_steps.end(), beginsBefore(depth));
+    const auto last = std::find_if_not(first, m_steps.end(), beginsBefore(until));
+    if (first == last)
         return;
-    const Step merged{name, first->depthBefore, m_steps.back().depthAfter};
-    m_steps.erase(first, m_steps.end());
-    m_steps.push_back(merged);
+    const Step merged{name, first->depthBefore, std::prev(last)->depthAfter};
+    m_steps.insert(m_steps.erase(first, last), merged);
 }
 
 } // namespace host::kernel

@@ -4,6 +4,7 @@
 
 #include <QString>
 
+#include <limits>
 #include <optional>
 #include <vector>
 
@@ -15,7 +16,7 @@ namespace host::kernel {
 
 /// The undo steps of a document as its user sees them: a whole top-level run (command or Lisp expression) is one,
 /// however many commands it called. Inside a run every command is a step of its own, so that a program can take back
-/// what it just did.
+/// what it just did. A run that closes several groups in which something changed leaves a step for each of them.
 class KV_EXPORT UndoSteps
 {
 public:
@@ -57,13 +58,15 @@ private:
     void absorbLooseChanges();
     void addStep(const QString &name, int depthBefore);
     void undoOne();
-    void mergeFrom(int depth, const QString &name);
+    /// Makes one of the steps that begin at `depth` or later, but before `until`.
+    void mergeFrom(int depth, const QString &name, int until = std::numeric_limits<int>::max());
 
     drawing::Journal &m_journal;
     std::vector<Step> m_steps;
     std::vector<Step> m_undone;
     std::vector<int> m_marks;
     std::optional<int> m_groupStart;
+    std::vector<int> m_groupEnds; ///< journal depths where the run closed groups
     QString m_runName;
     int m_runDepth = 0; ///< how many runs are nested
     int m_runStart = 0; ///< journal depth at the begin of the outermost run

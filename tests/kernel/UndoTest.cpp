@@ -93,6 +93,22 @@ TEST_F(Undoing, aGroupInsideARunIsOneStepOfIt)
     EXPECT_EQ(entities(), 1);
 }
 
+TEST_F(Undoing, aRunLeavesAStepForEachOfSeveralGroups)
+{
+    const std::string begin = "(command \"_.UNDO\" \"_BE\")";
+    const std::string end = "(command \"_.UNDO\" \"_E\")";
+    const std::string point = "(command \"POINT\" '(9 9))";
+    // Points around the groups go with the first and the last one; a group without any change does not count.
+    lisp(point + begin + addTwo + end + begin + end + begin + addTwo + end + point);
+    EXPECT_EQ(entities(), 6);
+    EXPECT_EQ(steps().undo(), 1);
+    EXPECT_EQ(entities(), 3);
+    EXPECT_EQ(steps().redo(), 1);
+    EXPECT_EQ(entities(), 6);
+    EXPECT_EQ(steps().undo(5), 2);
+    EXPECT_EQ(entities(), 0);
+}
+
 TEST_F(Undoing, aGroupOverSeveralRunsIsOneStep)
 {
     lisp("(command \"_.UNDO\" \"_BE\")");
