@@ -52,6 +52,8 @@ TEST_F(MultiViewSetup, PagesAndWidgetsFollowTheChoices)
         EXPECT_TRUE(find(action)->isVisible() && find<QPushButton>(action)->isDefault()) << clicked;
         EXPECT_EQ(enabledOf(arrayOptions), array ? arrayOptions : QString()) << clicked;
     }
+    click("psTitle");
+    EXPECT_TRUE(find<QRadioButton>("psTitle")->isChecked()) << "a choice that is made already stays";
     EXPECT_FALSE(isEnabled("layer"));
     click("oplay");
     EXPECT_TRUE(isEnabled("layer"));
