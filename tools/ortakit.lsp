@@ -15,8 +15,9 @@
 ;;; support/replacing.lsp replacing blocks
 ;;; support/drawing.lsp   lines and texts in the user's coordinate system
 ;;; support/variables.lsp system variables
+;;; support/viewports.lsp viewports of the sheet
 
 (foreach file '("strings" "run" "state" "entities" "selection" "texts" "textboxes" "catalogue" "files" "dimstyles"
-                "blocks" "attributes" "replacing" "drawing" "variables")
+                "blocks" "attributes" "replacing" "drawing" "variables" "viewports")
   (load (strcat "support/" file ".lsp")))
 (princ)

@@ -74,6 +74,12 @@ TEST_F(SampleSessions, ChangeWhatTheySayAndNothingElse)
         {u"makelinestyle"_s, u"2+LINE 1+LTYPE 1+POINT 1+TEXT 1~$HANDSEED"_s, u"pipes.lin"_s,
          "*GAS,Gas pipe ---- GAS . ---- GAS .\nA,1,-1.2,[\"GAS\",Standard,S=0.2,R=0,X=-1,Y=-0.1],0,-0.3\n"},
         {u"makeshape"_s, {}, u"plan.shp"_s, ",DOOR\n"},
+        // The sheet, two viewports, the title block and its layer; limits of the sheet and where it was left.
+        {u"multiviewsetup"_s,
+         u"1+$PLIMMAX 1+$PLIMMIN 2+ATTDEF 2+ATTRIB 1+BLOCK 1+BLOCK_RECORD 1+ENDBLK 1+INSERT 1+LAYER 1+LINE "
+         u"3+LWPOLYLINE 1+SEQEND 3+VIEWPORT "
+         "1~$HANDSEED 1~$TILEMODE"_s,
+         u"Ortakit/multiviewsetup.state"_s, "titleblock=a3.dxf\n"},
         {u"numbertext"_s, u"3~TEXT"_s, u"Ortakit/numbertext.state"_s, "tx_step=5"},
         {u"redefinepaths"_s, u"1+BLOCK 1+BLOCK_RECORD 1+ENDBLK 1+INSERT 1+STYLE 1~$HANDSEED"_s,
          u"Ortakit/redefinepaths.state"_s, "txreplace=d:\\2026\n"},
@@ -129,7 +135,8 @@ TEST_F(SampleSessions, CancelledCommandsChangeNothing)
     for (const QString &command :
          u"BREAKLINE DIMSTYLEEXPORT DIMSTYLEIMPORT DRAWORDERCOLOR EDITALIAS EXPORTINFO EXPORTVARIABLES "
          u"VARIABLETOSCRIPT GETBLOCKINFO "
-         "IMPORTBLOCKATTRIBUTES MAKELINESTYLE MAKESHAPE SELECTBLOCK REDEFINEPATHS REPLACEBLOCK REPLACEBLOCKBYREFERENCE "
+         "IMPORTBLOCKATTRIBUTES MAKELINESTYLE MAKESHAPE MULTIVIEWSETUP SELECTBLOCK REDEFINEPATHS REPLACEBLOCK "
+         "REPLACEBLOCKBYREFERENCE "
          "SHOWLINKS TRACKTIME"_s.split(u' '))
         session += isLeft(command);
     for (const QString &command : u"EDITTEXTCASE NUMBERTEXT TEXTMASK TEXTFRAME CONVERTSIMPLENOTES"_s.split(u' '))

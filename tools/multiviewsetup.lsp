@@ -1,0 +1,336 @@
+;;; menu: Multiview setup | MULTIVIEWSETUP | Sets up a sheet: title block, viewports, their alignment and scale
+;;;
+;;; MULTIVIEWSETUP: each button of the dialog does one step in the drawing, after which the dialog comes back as it was
+;;; left, until it is closed. Each step can be undone for itself. Where a step was done, in paper space or in model space,
+;;; is where one is afterwards; all other steps leave the space as it is.
+;;;
+;;; Insert Title Block puts a drawing file of the folder on the sheet, as a block or as an external reference. Its scale
+;;; turns the units that the file says into those of the sheet; a file that says none comes as it is. With limits, those
+;;; of the sheet become the outline of the title block. Removing all entities leaves the viewports, for which Create
+;;; Viewports has its own choice.
+;;;
+;;; Create Viewports divides the area between two corners into rows and columns with offsets between them. Each viewport
+;;; shows all of the model. Viewports Alignment moves what viewports show until a point in them is level with, or straight
+;;; above, a point in the base viewport. Scale Viewports gives viewports a scale of so many units on the sheet to so many
+;;; of the model: with Model their borders stay and more or less of the model is seen, with Paper the same is seen and the
+;;; borders change. Displays that are locked stay as they are.
+;;;
+;;; Create Title Block draws the outline of the sheet around the drawing in model space, as large as the sheet times the
+;;; scale factor.
+
+(setq multiviewsetup:steps '(("INSERTTITLE"     . multiviewsetup:insert_title)
+                             ("CREATEVIEWPORTS" . multiviewsetup:create)
+                             ("ALIGNVIEWPORTS"  . multiviewsetup:align)
+                             ("SCALEVIEWPORTS"  . multiviewsetup:scale)
+                             ("INSERTMSTITLE"   . multiviewsetup:draw_sheet)))
+
+;; Metres of a unit, by its number in drawings; and these numbers in the order in which the dialog offers the units.
+(setq multiviewsetup:units   '((1 . 0.0254) (2 . 0.3048) (4 . 0.001) (5 . 0.01) (6 . 1.0) (10 . 0.9144) (14 . 0.1))
+      multiviewsetup:offered '(2 1 6 4))
+
+;; More viewports than this are not shown at a time.
+(setq multiviewsetup:most 64)
+
+(defun c:multiviewsetup (/ *error* kora:variables chosen file state step)
+  (setq chosen (kora_chosen '((0 . "VIEWPORT")))
+        file   (kora_statefile "multiviewsetup"))
+  (kora_begin (list '("CMDECHO" . 0) (cons "TILEMODE" (getvar "TILEMODE"))))
+  (while (and (Dlg_MultiViewSetup file)
+              (setq state (kora_readstate file)
+                    step  (assoc (kora_action state) multiviewsetup:steps)))
+    (multiviewsetup:perform step))
+  (kora_end))
+
+;; Does a step, as an undo step of its own. One that did nothing leaves the space in which the user was.
+(defun multiviewsetup:perform (step / space)
+  (setq space (getvar "TILEMODE"))
+  (multiviewsetup:enter (if (= (car step) "INSERTMSTITLE") 1 0))
+  (if (apply (cdr step) (list state))
+    (setq kora:variables (subst (cons "TILEMODE" (getvar "TILEMODE")) (assoc "TILEMODE" kora:variables) kora:variables))
+    (if (/= space (getvar "TILEMODE")) (setvar "TILEMODE" space)))
+  (kora_undo_end)
+  (kora_undo_begin))
+
+;; Goes to model space (1) or to the sheet (0), out of a viewport in which the user works.
+(defun multiviewsetup:enter (space)
+  (if (/= space (getvar "TILEMODE")) (setvar "TILEMODE" space))
+  (if (and (= space 0) (/= 1 (getvar "CVPORT"))) (command "_.PSPACE")))
+
+;;; Title block. All that a step asks is asked before anything changes; each returns T when the drawing changed.
+
+(defun multiviewsetup:insert_title (state / path name place doomed redefine)
+  (setq path  (strcat (vl-string-right-trim "/\\" (kora_state_value state "directory")) "/"
+                      (kora_state_value state "titleblock"))
+        name  (vl-filename-base path)
+        place (list (kora_state_real state "titlex") (kora_state_real state "titley") 0.0))
+  (cond
+    ((member nil place) (kora_refuse "The origin of the title block must be two numbers."))
+    ((null (vl-file-size path)) (kora_refuse (strcat "The file " path " was not found.")))
+    ((not (snvalid name)) (kora_refuse (strcat name " cannot be the name of a block.")))
+    ((not (multiviewsetup:is_layer state))
+     (kora_refuse (strcat "\"" (kora_state_value state "layer") "\" cannot be the name of a layer.")))
+    ((not (multiviewsetup:is_free name (kora_state_is state "xref"))) nil)
+    (T
+     (setq doomed   (multiviewsetup:doomed (multiviewsetup:choice state "removetitles") "entities" nil)
+           redefine (multiviewsetup:ask_redefinition name state))
+     (multiviewsetup:put_title state path name place doomed redefine))))
+
+(defun multiviewsetup:is_layer (state)
+  (or (not (kora_state_is state "oplay"))
+      (snvalid (kora_string_trim (kora_state_value state "layer")))))
+
+;; A block and an external reference cannot have the same name. -> T, nil after a message.
+(defun multiviewsetup:is_free (name reference / block)
+  (setq block (tblsearch "BLOCK" name))
+  (if (and block (/= reference (/= 0 (logand 4 (cond ((kora_field block 70)) (0))))))
+    (kora_refuse (strcat "The drawing has " (if reference "a block" "an external reference") " of the name " name
+                         " already."))
+    T))
+
+;; -> T when the file is to be read.
+(defun multiviewsetup:ask_redefinition (name state)
+  (cond ((kora_state_is state "xref") nil)
+        ((null (tblsearch "BLOCK" name)) T)
+        (T (initget "Yes No")
+           (= "Yes" (getkword (strcat "\nThe drawing has a block " name
+                                      " already. Redefine it from the file? [Yes/No] <No>: "))))))
+
+;; Inserts, and only then takes out what the title block takes the place of.
+(defun multiviewsetup:put_title (state path name place doomed redefine / before title scale count)
+  (if redefine (command "_.-INSERT" (strcat name "=" path) nil))
+  (setq before (entlast))
+  (if (kora_state_is state "xref")
+    (command "_.-XREF" "_Attach" path (trans place 0 1) 1.0 1.0 (multiviewsetup:turn))
+    (if (tblsearch "BLOCK" name)
+      (multiviewsetup:insert name place (setq scale (multiviewsetup:unit_scale name state)))))
+  (setq title (entlast))
+  (cond
+    ((or (equal title before) (/= (kora_field (entget title) 0) "INSERT"))
+     (kora_refuse (strcat "The title block " name " was not inserted"
+                          (if redefine ", but its block is in the drawing." "."))))
+    (T
+     (if (kora_state_is state "oplay")
+       (multiviewsetup:to_layer title (kora_string_trim (kora_state_value state "layer"))))
+     (if (kora_state_is state "limits") (multiviewsetup:set_limits name place (cond (scale) (1.0))))
+     (setq count (multiviewsetup:erase doomed))
+     (kora_done (strcat "Title block " name " inserted"
+                        (kora_also (car count) (if (= (car count) 1) " entity removed" " entities removed")) ".")
+                (cdr count))
+     T)))
+
+;; What is still asked for are attributes.
+(defun multiviewsetup:insert (name place scale)
+  (command "_.-INSERT" name (trans place 0 1) scale scale (multiviewsetup:turn))
+  (while (> (getvar "CMDACTIVE") 0) (command PAUSE)))
+
+;; The angle that is 0 on the sheet, as text in the user's coordinates.
+(defun multiviewsetup:turn ()
+  (angtos (angle '(0.0 0.0) (trans '(1.0 0.0 0.0) 0 1 T)) (getvar "AUNITS") 8))
+
+;; From the units of the block to those of the sheet, 1.0 for a block that has none.
+(defun multiviewsetup:unit_scale (name state / record own)
+  (setq record (kora_field (entget (tblobjname "BLOCK" name)) 330)
+        own    (cdr (assoc (if record (kora_field (entget record) 70)) multiviewsetup:units)))
+  (if own
+    (/ own (cdr (assoc (nth (multiviewsetup:choice state "unitstitle") multiviewsetup:offered) multiviewsetup:units)))
+    1.0))
+
+;; -> the number of the item that is chosen in a combo box, from 0.
+(defun multiviewsetup:choice (state key)
+  (max 0 (atoi (kora_state_value state (strcat key "_index")))))
+
+(defun multiviewsetup:to_layer (title layer)
+  (if (not (tblsearch "LAYER" layer))
+    (entmake (list '(0 . "LAYER") '(100 . "AcDbSymbolTableRecord") '(100 . "AcDbLayerTableRecord") (cons 2 layer)
+                   '(70 . 0))))
+  (entmod (kora_with_field (entget title) 8 layer)))
+
+(defun multiviewsetup:set_limits (name place scale / box)
+  (if (setq box (kora_block_box name))
+    (mapcar '(lambda (variable corner)
+               (setvar variable (mapcar '(lambda (from length) (+ from (* scale length)))
+                                        (list (car place) (cadr place)) corner)))
+            '("LIMMIN" "LIMMAX") box)
+    (kora_alert_message "The limits stay as they are: what the title block draws is not known.")))
+
+;; -> the entities that fit filter and are to go: none (0), all of the layout (1), but viewports only where the filter asks
+;; for these, or those that the user chooses now (2). The sheet itself never goes.
+(defun multiviewsetup:doomed (choice noun filter)
+  (cond ((= choice 1) (kora_layout_entities (cond (filter) ('((0 . "~VIEWPORT"))))))
+        ((= choice 2) (vl-remove-if '(lambda (entity) (kora_is_sheet (entget entity)))
+                                    (kora_choose (strcat "Select " noun " to remove: ") filter)))))
+
+;; -> (how many were erased . how many are on locked layers).
+(defun multiviewsetup:erase (entities / open)
+  (setq open (kora_unlocked entities))
+  (foreach entity open (entdel entity))
+  (cons (length open) (- (length entities) (length open))))
+
+;;; Viewports.
+
+(defun multiviewsetup:create (state / grid area frames doomed count)
+  (cond
+    ((= (getvar "ACADVER") "AC1009") (kora_refuse "A drawing of this version cannot have such viewports."))
+    ((null (setq grid (multiviewsetup:grid state))) nil)
+    ((progn (setq doomed (multiviewsetup:doomed (multiviewsetup:choice state "removeviewports") "viewports"
+                                                '((0 . "VIEWPORT"))))
+            (null (setq area (multiviewsetup:ask_area)))) nil)
+    ((null (setq frames (multiviewsetup:frames grid area)))
+     (kora_refuse "The area is too small for these viewports and offsets."))
+    (T
+     (setq count (multiviewsetup:erase doomed))
+     (kora_done (strcat (kora_number_of (kora_make_viewports frames) "viewport") " created"
+                        (kora_also (car count) " deleted") ".")
+                (cdr count))
+     T)))
+
+;; -> (rows columns offset-x offset-y), nil after a message.
+(defun multiviewsetup:grid (state / grid)
+  (setq grid (if (kora_state_is state "arrayviewp")
+               (mapcar '(lambda (key) (kora_state_real state key)) '("viewrows" "viewcols" "viewoffsetx" "viewoffsety"))
+               '(1.0 1.0 0.0 0.0)))
+  (cond
+    ((or (member nil grid) (< (apply 'min grid) 0.0))
+     (kora_refuse "Rows, columns and offsets must be numbers that are not negative."))
+    ((not (and (multiviewsetup:is_count (car grid)) (multiviewsetup:is_count (cadr grid))
+               (<= (* (car grid) (cadr grid)) multiviewsetup:most)))
+     (kora_refuse (strcat "Rows and columns must be whole numbers and make no more than " (itoa multiviewsetup:most)
+                          " viewports.")))
+    (T (list (fix (car grid)) (fix (cadr grid)) (caddr grid) (cadddr grid)))))
+
+(defun multiviewsetup:is_count (number)
+  (and (<= 1.0 number multiviewsetup:most) (= number (fix number))))
+
+;; -> (lower upper), corners in world coordinates; nil when the user gives up.
+(defun multiviewsetup:ask_area (/ first second)
+  (if (and (setq first (getPointOrtakit "\nSpecify first corner of the area for viewports: "))
+           (setq second (getCornerOrtakit first "\nSpecify opposite corner: ")))
+    (progn
+      (setq first  (trans first 1 0)
+            second (trans second 1 0))
+      (list (mapcar 'min first second) (mapcar 'max first second)))))
+
+;; -> a list of (lower upper) of each viewport, row by row from the top left; nil when nothing is left of them.
+(defun multiviewsetup:frames (grid area / rows columns across up width height left top frames)
+  (mapcar 'set '(rows columns across up) grid)
+  (setq width  (/ (- (caadr area) (caar area) (* across (1- columns))) columns)
+        height (/ (- (cadadr area) (cadar area) (* up (1- rows))) rows)
+        top    (cadadr area))
+  (if (and (> width 0.0) (> height 0.0))
+    (repeat rows
+      (setq left (caar area))
+      (repeat columns
+        (setq frames (cons (list (list left (- top height)) (list (+ left width) top)) frames)
+              left   (+ left width across)))
+      (setq top (- top height up))))
+  (reverse frames))
+
+(defun multiviewsetup:align (state / base count)
+  (setq count 0)
+  (if (setq base (multiviewsetup:pick "\nSpecify base point in the base viewport: " nil nil))
+    (progn
+      (while (multiviewsetup:align_next base (kora_state_is state "alignver")) (setq count (1+ count)))
+      (kora_alert_message (strcat (kora_number_of count "viewport") " aligned."))))
+  (> count 0))
+
+;; -> T when one more viewport was aligned, nil when the user is done.
+(defun multiviewsetup:align_next (base upright / next offset)
+  (if (setq next (multiviewsetup:pick "\nSpecify the point to be aligned in another viewport: " (cdr base) (car base)))
+    (progn
+      (setq offset (mapcar '- (cdr base) (cdr next)))
+      (entmod (kora_pan_view (entget (car next)) (if upright (car offset) 0.0) (if upright 0.0 (cadr offset))))
+      T)))
+
+;; -> (viewport . point) for a point of the sheet in a viewport, in world coordinates; nil when the user gives up. Besides
+;; a base there must be no other viewport whose view is fixed.
+(defun multiviewsetup:pick (prompt from base / point viewport)
+  (while (and (setq point (if from (getPointOrtakit (trans from 0 1) prompt) (getPointOrtakit prompt)))
+              (setq point (trans point 1 0))
+              (not (multiviewsetup:serves (setq viewport (kora_viewport_at point)) base))))
+  (if point (cons viewport point)))
+
+;; -> T, nil after a message.
+(defun multiviewsetup:serves (viewport base)
+  (cond ((null viewport) (kora_refuse "There is no viewport at this point."))
+        ((null base) T)
+        ((equal viewport base) (kora_refuse "That is the base viewport."))
+        ((kora_is_locked (entget viewport)) (kora_refuse "That viewport is on a locked layer."))
+        ((kora_view_is_fixed (entget viewport)) (kora_refuse "The display of that viewport is locked."))
+        (T T)))
+
+(defun multiviewsetup:scale (state / viewports paper model open fit)
+  (setq viewports (cond (chosen) ((kora_choose "Select viewports to scale: " '((0 . "VIEWPORT")))))
+        chosen    nil
+        viewports (vl-remove-if-not '(lambda (entity) (kora_is_viewport (entget entity))) viewports)
+        open      (kora_unlocked viewports)
+        fit       (vl-remove-if-not '(lambda (entity) (multiviewsetup:is_scalable (entget entity) state)) open))
+  (if viewports
+    (progn
+      (setq paper (multiviewsetup:ask_units "\nEnter number of paper space units" 1.0)
+            model (multiviewsetup:ask_units "\nEnter number of model space units"
+                                            (cond ((kora_state_real state "curscale")) (1.0))))
+      (foreach entity fit (multiviewsetup:set_scale (entget entity) (/ paper model) (kora_state_is state "ps_scale")))
+      (kora_done (strcat (kora_number_of (length fit) "viewport") " scaled to " (kora_number_text paper 8) ":"
+                         (kora_number_text model 8)
+                         (kora_also (- (length open) (length fit)) " with a fixed display or border left alone") ".")
+                 (- (length viewports) (length open)))
+      (if fit T))))
+
+;; A border that is an entity of its own does not change with the viewport.
+(defun multiviewsetup:is_scalable (data state)
+  (and (not (kora_view_is_fixed data))
+       (> (cond ((kora_field data 45)) (0.0)) 0.0)
+       (not (and (kora_state_is state "ps_scale") (kora_viewport_is_clipped data)))))
+
+(defun multiviewsetup:ask_units (prompt preset)
+  (if (<= preset 0.0) (setq preset 1.0))
+  (initgetOrtakit 6)
+  (getRealOrtakit (strcat prompt " <" (kora_number_text preset 12) ">: ")))
+
+;; The middle of the viewport stays where it is, and so does what is seen there.
+(defun multiviewsetup:set_scale (data scale border / height)
+  (setq height (kora_field data 41))
+  (entmod (if border
+            (kora_with_field (kora_with_field data 40 (/ (* (kora_field data 40) (kora_field data 45) scale) height))
+                             41 (* (kora_field data 45) scale))
+            (kora_with_field data 45 (/ height scale)))))
+
+;;; Model space.
+
+(defun multiviewsetup:draw_sheet (state / factor size corner)
+  (setq factor (kora_state_real state "curscale")
+        size   (mapcar '(lambda (key) (multiviewsetup:length (kora_state_value state key))) '("mswidth" "msheight")))
+  (cond
+    ((not (and factor (> factor 0.0))) (kora_refuse "The scale factor must be a number greater than zero."))
+    ((or (member nil size) (<= (apply 'min size) 0.0))
+     (kora_refuse "Width and height must be lengths greater than zero."))
+    (T
+     (setq corner (cond ((getpoint "\nSpecify lower left corner of the title block <0,0>: ")) ('(0.0 0.0 0.0)))
+           size   (mapcar '(lambda (length) (* factor length)) size))
+     (if (multiviewsetup:draw_frame corner size)
+       (progn (kora_alert_message (strcat "Title block of " (rtos (car size)) " by " (rtos (cadr size)) " created.")) T)
+       (kora_refuse "The title block could not be created.")))))
+
+;; -> the length that a text says, in decimal or in feet and inches; nil for none.
+(defun multiviewsetup:length (text)
+  (cond ((distof text 2)) ((distof text 4))))
+
+;; A rectangle along the axes of user coordinates. -> nil when it could not be made.
+(defun multiviewsetup:draw_frame (corner size / normal corners)
+  (setq normal  (trans '(0.0 0.0 1.0) 1 0 T)
+        corners (mapcar '(lambda (across up)
+                           (trans (list (+ (car corner) (* across (car size))) (+ (cadr corner) (* up (cadr size)))
+                                        (cond ((caddr corner)) (0.0)))
+                                  1 normal))
+                        '(0 1 1 0) '(0 0 1 1)))
+  (if (= (getvar "ACADVER") "AC1009")
+    (progn
+      (entmake (list '(0 . "POLYLINE") '(66 . 1) '(70 . 1) (list 10 0.0 0.0 (caddar corners)) (cons 210 normal)))
+      (foreach point corners (entmake (list '(0 . "VERTEX") (cons 10 point) (cons 210 normal))))
+      (entmake '((0 . "SEQEND"))))
+    (entmake (append (list '(0 . "LWPOLYLINE") '(100 . "AcDbEntity") '(100 . "AcDbPolyline") '(90 . 4) '(70 . 1)
+                           (cons 38 (caddar corners)))
+                     (mapcar '(lambda (point) (list 10 (car point) (cadr point))) corners)
+                     (list (cons 210 normal))))))
+
+(princ)
