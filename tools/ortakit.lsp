@@ -7,6 +7,10 @@
 ;;; support/selection.lsp what a tool works on, locked layers, closing words
 ;;; support/texts.lsp     what texts say, with and without their formatting codes
 ;;; support/textboxes.lsp where texts stand, and outlines around them
+;;; support/outlines.lsp  what entities look like: pieces, polygons, frames of blocks
+;;; support/areas.lsp     areas within polygons, grids over them, cutting at their edge
+;;; support/patterns.lsp  copies of blocks, drawings and masks over an area, for PATTERNHATCH
+;;; support/groups.lsp    groups of entities
 ;;; support/catalogue.lsp what the Lisp engine holds, for the Lisp Explorer
 ;;; support/files.lsp     files of definitions, changed in one place
 ;;; support/dimstyles.lsp dimension styles as text
@@ -17,7 +21,6 @@
 ;;; support/variables.lsp system variables
 ;;; support/viewports.lsp viewports of the sheet
 
-(foreach file '("strings" "run" "state" "entities" "selection" "texts" "textboxes" "catalogue" "files" "dimstyles"
-                "blocks" "attributes" "replacing" "drawing" "variables" "viewports")
+(foreach file '("strings" "run" "state" "entities" "selection" "texts" "textboxes" "catalogue" "files" "dimstyles" "blocks" "attributes" "replacing" "drawing" "variables" "viewports" "outlines" "areas" "patterns" "groups")
   (load (strcat "support/" file ".lsp")))
 (princ)

@@ -78,7 +78,7 @@ EntityMaker::Outcome EntityMaker::make(const FieldList &fields)
         return addPart(type, fields);
     if (const auto kind = drawing::tableKindOf(type); kind && type != u"BLOCK_RECORD")
         return makeTableEntry(type, fields);
-    if (type == u"DICTIONARY" || type == u"XRECORD")
+    if (type == u"DICTIONARY" || type == u"XRECORD" || type == u"GROUP")
         return makeObject(type, fields);
     // Whatever was left unfinished gives way to the new entity.
     m_entity.reset();
@@ -197,7 +197,9 @@ EntityMaker::Outcome EntityMaker::makeObject(const QString &type, const FieldLis
         return failed(u"%1: a drawing of this version has no such object"_s.arg(type));
     const drawing::JournalGroup group(drawing.journal(), type);
     FieldList whole = drawing::recordHead(drawing, type, {});
-    whole.push_back({100, type == u"XRECORD" ? u"AcDbXrecord"_s : u"AcDbDictionary"_s});
+    whole.push_back({100, type == u"XRECORD" ? u"AcDbXrecord"_s
+                          : type == u"GROUP" ? u"AcDbGroup"_s
+                                             : u"AcDbDictionary"_s});
     std::copy_if(fields.begin(), fields.end(), std::back_inserter(whole), [](const Field &field) {
         return field.code != 0 && field.code != 5 && field.code != 100 && field.code != 330;
     });

@@ -1,0 +1,251 @@
+;;; menu: Pattern hatch | PATTERNHATCH | Fills a closed area with copies of a block, a drawing or a mask
+;;;
+;;; PATTERNHATCH: the dialog gives what the area is filled with, how the copies are sized, spaced, placed and turned, and
+;;; what becomes of those that reach over the boundary. On the way the boundary is picked, as closed entities, as points
+;;; inside of closed entities or as a hatch, and so are the origin, the angle, or a reference that shows the pattern.
+;;; Closed entities that are chosen already are the boundary. One within another is a hole.
+;;;
+;;; The lower left corner of what the pattern shows stands at the origin and the grid's other points. Cut at the boundary
+;;; are blocks of lines, arcs, circles and polylines, and masks; a copy of anything else that reaches over it is left out.
+;;; The copies are on the current layer, and so is what is cut, where the block has it on layer 0.
+
+(setq patternhatch:closed '((0 . "LWPOLYLINE,POLYLINE,CIRCLE,ELLIPSE,SPLINE,HATCH")))
+
+(defun c:patternhatch (/ *error* kora:variables boundary sources file mode action previewed shown)
+  (setq boundary (kora_chosen patternhatch:closed))
+  (kora_begin '(("CMDECHO" . 0)))
+  (setq *error*  patternhatch:error
+        boundary (patternhatch:closed_ones boundary)
+        file     (kora_statefile "patternhatch")
+        sources  (patternhatch:last_sources (kora_readstate file))
+        mode     "NEW")
+  (while mode
+    (patternhatch:tell)
+    (setq action (Dlg_PatternHatch file mode)
+          mode   (if action (patternhatch:do (kora_readstate file) action))))
+  (patternhatch:tell)
+  (kora_end))
+
+;; A preview and a highlighting end with the command.
+(defun patternhatch:error (message)
+  (patternhatch:unshow)
+  (patternhatch:take_back)
+  (kora_error message))
+
+;; The files or blocks of the last time: a list of (label . text).
+(defun patternhatch:last_sources (state)
+  (mapcar '(lambda (label) (cons label (kora_state_value state label))) '("lbtitleblock" "lbtitlexref" "lbtitleimage")))
+
+;; Writes what the dialog does not keep of its own.
+(defun patternhatch:tell ()
+  (kora_writestate file (cons (cons "qtentities" (itoa (length boundary))) sources)))
+
+;; Carries out what the dialog was closed with. -> the mode to open it in again, nil when that is not to be.
+(defun patternhatch:do (state action / word)
+  (setq word (car (kora_string_split action "=")))
+  (cond
+    ((= word "OK") (if (patternhatch:draw state) nil "EDIT"))
+    ((= word "PREVIEW") (patternhatch:preview state) "EDIT")
+    ((setq word (assoc word '(("GET_BLOCK" . "lbtitleblock") ("GET_XREF" . "lbtitlexref") ("GET_IMAGE" . "lbtitleimage"))))
+     (patternhatch:set_source (cdr word) (substr action (+ (strlen (car word)) 2)))
+     "EDIT")
+    ((= action "GET_ORIGIN") (patternhatch:get_origin) "EDIT")
+    ((= action "GET_ROTATION") (patternhatch:get_rotation state) "EDIT")
+    ((= action "GET_ENTITY") (patternhatch:get_entity state) "EXTRACTENTITY")
+    (T (patternhatch:change_boundary action state) "BOUNDARIES")))
+
+(defun patternhatch:set_source (label text)
+  (setq sources (subst (cons label text) (assoc label sources) sources)))
+
+;;; The boundary
+
+(defun patternhatch:change_boundary (action state)
+  (cond
+    ((= action "GET_ENTITIES")
+     (patternhatch:add (patternhatch:closed_ones (kora_choose "Select closed boundary entities: " patternhatch:closed))))
+    ((= action "GET_POINTS") (patternhatch:pick_points (kora_pattern_tolerance state)))
+    ((= action "GET_FROMHATCH") (patternhatch:pick_hatch))
+    ((= action "DELETE") (setq boundary nil))
+    ((= action "SHOW") (patternhatch:show))))
+
+(defun patternhatch:add (entities)
+  (foreach entity entities
+    (if (not (member entity boundary)) (setq boundary (append boundary (list entity))))))
+
+;; Those that are closed; the number of others is said.
+(defun patternhatch:closed_ones (entities / closed)
+  (setq closed (vl-remove-if-not '(lambda (entity) (kora_outlines (entget entity) 1.0)) entities))
+  (if (< (length closed) (length entities))
+    (kora_alert_message (strcat (itoa (- (length entities) (length closed)))
+                                " of those chosen cannot be a boundary: open or tilted.")))
+  closed)
+
+(defun patternhatch:pick_points (tolerance / areas point found)
+  (while (setq point (getPointOrtakit (if areas "\nSpecify next internal point: " "\nSpecify internal point: ")))
+    (setq areas (cond (areas) ((patternhatch:all_areas tolerance)))
+          point (trans point 1 0)
+          found (vl-some '(lambda (pair) (if (kora_in_area (cdr pair) point 0.0) (car pair))) areas))
+    (if found
+      (patternhatch:add (list found))
+      (kora_alert_message "No closed entity lies around this point."))))
+
+;; A list of (entity . area) of what is closed in the current space, the smallest first.
+(defun patternhatch:all_areas (tolerance / outlines areas)
+  (foreach entity (kora_selection_to_list
+                    (ssget "_X" (cons (cons 410 (getvar "CTAB"))
+                                      '((0 . "LWPOLYLINE,POLYLINE,CIRCLE,ELLIPSE,SPLINE")))))
+    (if (setq outlines (kora_outlines (entget entity) tolerance))
+      (setq areas (cons (list (abs (patternhatch:extent (car outlines))) entity (kora_area outlines)) areas))))
+  (mapcar '(lambda (row) (cons (cadr row) (caddr row)))
+          (vl-sort areas '(lambda (a b) (< (car a) (car b))))))
+
+;; Twice the area of a polygon.
+(defun patternhatch:extent (polygon)
+  (apply '+ (mapcar 'kora:cross polygon (append (cdr polygon) (list (car polygon))))))
+
+(defun patternhatch:pick_hatch (/ pick)
+  (cond
+    ((null (setq pick (entsel "\nSelect a hatch: "))) (kora_alert_message "Nothing was chosen."))
+    ((/= (kora_field (entget (car pick)) 0) "HATCH") (kora_alert_message "That is not a hatch."))
+    (T (patternhatch:add (patternhatch:closed_ones (list (car pick)))))))
+
+(defun patternhatch:show ()
+  (setq shown boundary)
+  (foreach entity shown (redraw entity 3))
+  (patternhatch:wait)
+  (patternhatch:unshow))
+
+(defun patternhatch:unshow ()
+  (foreach entity shown (redraw entity 4))
+  (setq shown nil))
+
+(defun patternhatch:wait ()
+  (getstring "\nPress Enter to return to the dialog: "))
+
+;;; Origin, angle and pattern from the drawing
+
+(defun patternhatch:get_origin (/ point)
+  (if (setq point (getPointOrtakit "\nSpecify pattern origin: "))
+    (patternhatch:write_origin point)))
+
+(defun patternhatch:write_origin (point)
+  (kora_writestate file (list (cons "positionx" (kora_number_text (car point) 12))
+                              (cons "positiony" (kora_number_text (cadr point) 12)))))
+
+(defun patternhatch:get_rotation (state / base turn)
+  (setq base (list (cond ((kora_state_real state "positionx")) (0.0)) (cond ((kora_state_real state "positiony")) (0.0)) 0.0))
+  (if (setq turn (getAngleOrtakit base "\nSpecify rotation angle: "))
+    (patternhatch:write_rotation turn)))
+
+(defun patternhatch:write_rotation (turn)
+  (kora_writestate file (list (cons "rotation" (kora_number_text (/ (* 180.0 turn) pi) 10)))))
+
+(defun patternhatch:get_entity (state / pick data)
+  (setq pick (entsel "\nSelect a block or external reference that shows the pattern: ")
+        data (if pick (entget (car pick))))
+  (cond
+    ((null pick) (kora_alert_message "Nothing was chosen."))
+    ((/= (kora_field data 0) "INSERT") (kora_alert_message "That is no block and no external reference."))
+    ((not (equal (kora_normal data) '(0.0 0.0 1.0) 1e-9)) (kora_alert_message "The reference is tilted or mirrored."))
+    (T (patternhatch:take_reference data state))))
+
+;; Fills type, size, position and rotation from a reference.
+(defun patternhatch:take_reference (data state / name path frame scale turn)
+  (setq name  (kora_field data 2)
+        path  (patternhatch:reference_path name)
+        frame (if path (kora_file_frame path) (kora_block_frame name))
+        scale (mapcar '(lambda (code) (abs (cond ((kora_field data code)) (1.0)))) '(41 42))
+        turn  (cond ((kora_field data 50)) (0.0)))
+  (if frame
+    (progn
+      (patternhatch:set_source (if path "lbtitlexref" "lbtitleblock") (cond (path) (name)))
+      (kora_writestate file
+        (append (mapcar '(lambda (key) (cons key "FALSE")) '("pattern_image" "pattern_mask"))
+                (list (cons "pattern_block" (if path "FALSE" "TRUE")) (cons "pattern_xref" (if path "TRUE" "FALSE")))
+                (mapcar '(lambda (key value) (cons key (kora_number_text value 12)))
+                        '("width" "height")
+                        (if (kora_state_is state "scalefactor") scale (mapcar '* scale (kora_frame_size frame))))))
+      (patternhatch:write_origin (trans (kora:turned (kora_field data 10) turn (mapcar '* scale (car frame))) 0 1))
+      (patternhatch:write_rotation (- turn (kora_user_axis))))
+    (kora_alert_message (strcat "The pattern " name " shows nothing, or its file cannot be read."))))
+
+;; The path of an external reference, nil for another block.
+(defun patternhatch:reference_path (name / block)
+  (setq block (tblsearch "BLOCK" name))
+  (if (/= 0 (logand 4 (cond ((kora_field block 70)) (0)))) (cond ((kora_field block 1)) (name))))
+
+;; The direction of the user's x axis in the world.
+(defun patternhatch:axis ()
+  (angle '(0.0 0.0 0.0) (trans '(1.0 0.0 0.0) 1 0 T)))
+
+;;; Drawing
+
+;; Draws the pattern and says so. -> T, nil after a message when it cannot be drawn.
+(defun patternhatch:draw (state / copies)
+  (patternhatch:new_step)
+  (if (and (setq copies (kora_pattern_copies boundary sources state))
+           (patternhatch:make (car copies) state))
+    (progn
+      (setq previewed nil)
+      (patternhatch:report copies "drawn")
+      T)
+    (patternhatch:take_back)))
+
+(defun patternhatch:report (copies verb / trimmed left)
+  (setq trimmed (caddr copies)
+        left    (cadddr copies))
+  (kora_alert_message
+    (strcat (itoa (cadr copies)) (if (= (cadr copies) 1) " copy " " copies ") verb
+            (kora_also trimmed " of them cut at the boundary") "."
+            (if (> left 0)
+              (strcat " " (itoa left) (if (= left 1) " was" " were") " left out: they cannot be cut.")
+              ""))))
+
+;; Draws as a step of its own, which is taken back.
+(defun patternhatch:preview (state / copies)
+  (patternhatch:new_step)
+  (if (and (setq copies (kora_pattern_copies boundary sources state))
+           (patternhatch:make (car copies) state))
+    (progn
+      (patternhatch:report copies "shown")
+      (patternhatch:wait)))
+  (patternhatch:take_back))
+
+(defun patternhatch:new_step ()
+  (kora_undo_end)
+  (kora_undo_begin)
+  (setq previewed T))
+
+;; -> nil. Leaves the drawing as it was before the step.
+(defun patternhatch:take_back ()
+  (if previewed
+    (progn
+      (kora_undo_end)
+      (command "_.UNDO" 1)
+      (kora_undo_begin)))
+  (setq previewed nil))
+
+;; Makes the parts, entity data, and joins them to a block or a group. -> T, nil after a message.
+(defun patternhatch:make (parts state)
+  (cond
+    ((null parts) (kora_refuse "No copy of the pattern lies in the boundary."))
+    ((kora_state_is state "typeobjectgroup") (patternhatch:make_group parts))
+    (T (patternhatch:make_block parts))))
+
+;; A nameless block with its base point at the world's origin.
+(defun patternhatch:make_block (parts / name)
+  (entmake '((0 . "BLOCK") (2 . "*U") (70 . 1) (10 0.0 0.0 0.0)))
+  (foreach part parts (entmake (append part (if (assoc 8 part) nil (list (cons 8 (getvar "CLAYER")))))))
+  (if (and (setq name (entmake '((0 . "ENDBLK"))))
+           (entmake (list '(0 . "INSERT") (cons 2 name) '(10 0.0 0.0 0.0))))
+    T
+    (kora_refuse "The block could not be made.")))
+
+(defun patternhatch:make_group (parts / made)
+  (foreach part parts (setq made (cons (entmakex part) made)))
+  (cond
+    ((member nil made) (kora_refuse "Not all copies could be made."))
+    ((kora_make_group (reverse made)) T)
+    (T (kora_refuse "The group could not be made: a drawing of this version may have none."))))
+
+(princ)
