@@ -182,14 +182,21 @@
 
 ;; Draws the pattern and says so. -> T, nil after a message when it cannot be drawn.
 (defun patternhatch:draw (state / copies)
-  (patternhatch:new_step)
-  (if (and (setq copies (kora_pattern_copies boundary sources state))
-           (patternhatch:make (car copies) state))
+  (if (setq copies (patternhatch:make_copies state))
     (progn
       (setq previewed nil)
       (patternhatch:report copies "drawn")
       T)
     (patternhatch:take_back)))
+
+;; Makes the copies as a step of its own. -> what they are, see kora_pattern_copies; nil after a message.
+(defun patternhatch:make_copies (state / frame copies)
+  (if (kora_state_is state "pattern_xref")
+    (setq frame (kora_file_frame (cdr (assoc "lbtitlexref" sources)))))
+  (patternhatch:new_step)
+  (if (and (setq copies (kora_pattern_copies boundary sources frame state))
+           (patternhatch:make (car copies) state))
+    copies))
 
 (defun patternhatch:report (copies verb / trimmed left)
   (setq trimmed (caddr copies)
@@ -201,19 +208,19 @@
               (strcat " " (itoa left) (if (= left 1) " was" " were") " left out: they cannot be cut.")
               ""))))
 
-;; Draws as a step of its own, which is taken back.
 (defun patternhatch:preview (state / copies)
-  (patternhatch:new_step)
-  (if (and (setq copies (kora_pattern_copies boundary sources state))
-           (patternhatch:make (car copies) state))
+  (if (setq copies (patternhatch:make_copies state))
     (progn
       (patternhatch:report copies "shown")
       (patternhatch:wait)))
   (patternhatch:take_back))
 
+;; What is made from here on can be taken back. Something is in the step for certain: without anything in it, the user's
+;; last command would be taken back in its place.
 (defun patternhatch:new_step ()
   (kora_undo_end)
   (kora_undo_begin)
+  (entdel (entmakex '((0 . "POINT") (10 0.0 0.0 0.0))))
   (setq previewed T))
 
 ;; -> nil. Leaves the drawing as it was before the step.

@@ -3,10 +3,10 @@
 ;;; While copies are made, the grid is seen from its origin along its rows: `area` lies in these coordinates, `corner` is
 ;;; the lower left corner of a cell, and `near` the edges beside it. `origin` and `turn` lead from there to the world.
 
-;; (kora_pattern_copies boundary sources state) -> (parts copies cut left): entity data to be made, and how many copies
-;; they are, how many of these were cut at the boundary, and how many were left out because they cannot be cut; nil after
-;; a message. The block that they refer to is in the drawing then.
-(defun kora_pattern_copies (boundary sources state / pattern origin turn polygons area size step slack)
+;; (kora_pattern_copies boundary sources frame state) -> (parts copies cut left): entity data to be made, and how many
+;; copies they are, how many of these were cut at the boundary, and how many were left out because they cannot be cut; nil
+;; after a message. The block that they refer to is in the drawing then. frame is that of an external reference.
+(defun kora_pattern_copies (boundary sources frame state / pattern origin turn polygons area size step slack)
   (if (and (kora:may_draw state)
            (setq pattern (kora:pattern_of sources state))
            (setq size (kora:copy_size (kora_frame_size (cadr pattern)) state))
@@ -58,7 +58,7 @@
 (defun kora:pattern_of (sources state)
   (cond
     ((kora_state_is state "pattern_block") (kora:block_pattern (cdr (assoc "lbtitleblock" sources))))
-    ((kora_state_is state "pattern_xref") (kora:xref_pattern (cdr (assoc "lbtitlexref" sources))))
+    ((kora_state_is state "pattern_xref") (kora:xref_pattern (cdr (assoc "lbtitlexref" sources)) frame))
     ((kora_state_is state "pattern_mask") (kora:mask_pattern (strcase (kora_state_value state "patternname"))))
     (T (kora_refuse "Copies of images cannot be drawn by this command: attach the image to a drawing and take that as external reference."))))
 
@@ -83,9 +83,8 @@
       (if (not (equal (entlast) before)) (entdel (entlast)))))
   (if (tblsearch "BLOCK" name) name (kora_refuse (strcat "The drawing " path " cannot be read."))))
 
-(defun kora:xref_pattern (path / frame before name)
-  (setq frame  (kora_file_frame path)
-        before (entlast))
+(defun kora:xref_pattern (path frame / before name)
+  (setq before (entlast))
   (if frame
     (progn
       (command "_.-XREF" "_Attach" path '(0.0 0.0 0.0) 1.0 1.0 0.0)
@@ -99,9 +98,10 @@
     (T (list 'XREF frame name))))
 
 ;; (kora_file_frame path) -> the frame of what a drawing file shows, nil when it cannot be read. For that it is a block of
-;; this drawing for a moment.
+;; this drawing for a moment; what was changed before is a step of its own.
 (defun kora_file_frame (path / name frame)
   (setq name "PATTERN_MEASURED")
+  (while (tblsearch "BLOCK" name) (setq name (strcat name "_")))
   (kora_undo_end)
   (kora_undo_begin)
   (if (kora:block_of_file path name)
@@ -215,23 +215,26 @@
     (setq data   (entget entity)
           pieces (kora_pieces data))
     (cond ((= (kora_field data 0) "ATTDEF"))
-          ((and pieces (kora:is_thin data) (listp strokes))
+          ((and pieces (kora:is_even data) (listp strokes))
            (setq strokes (cons (list data (kora:scaled_pieces pieces base)) strokes)))
           (T (setq strokes 'UNCUTTABLE))))
   strokes)
 
 (defun kora:place2d (point) (list (car point) (cadr point)))
 
-;; Whether the whole stroke has one width.
-(defun kora:is_thin (data)
-  (or (not (wcmatch (kora_field data 0) "*POLYLINE"))
-      (if (= (kora_field data 0) "POLYLINE")
-        (not (vl-some '(lambda (code) (/= 0.0 (cond ((kora_field data code)) (0.0)))) '(40 41)))
-        (null (cdr (kora:sorted_once (cons (kora:stroke_width data)
-                                           (append (kora:values_of data 40) (kora:values_of data 41)))))))))
+;; Whether the whole stroke has one width; a polyline of early versions has none.
+(defun kora:is_even (data)
+  (cond ((= (kora_field data 0) "POLYLINE") (equal (kora:widths_of data) '(0.0)))
+        ((= (kora_field data 0) "LWPOLYLINE") (null (cdr (kora:widths_of data))))
+        (T)))
 
-(defun kora:stroke_width (data)
-  (cond ((kora_field data 43)) ((kora_field data 40)) (0.0)))
+;; One that is for the whole polyline counts for all its parts.
+(defun kora:widths_of (data / whole)
+  (setq whole (cond ((kora_field data 43)) (0.0)))
+  (if (/= whole 0.0)
+    (list whole)
+    (kora:sorted_once (cons (cond ((kora_field data 40)) (0.0))
+                            (append (kora:values_of data 40) (kora:values_of data 41))))))
 
 (defun kora:scaled_pieces (pieces base)
   (if (not (equal (car scale) (cadr scale) (* 1e-9 (car scale))))
@@ -284,7 +287,7 @@
                          (if closed nil (list (list (cadr (last run)) 0.0)))))
   (append '((0 . "LWPOLYLINE") (100 . "AcDbEntity")) (kora:look_of data)
           (list '(100 . "AcDbPolyline") (cons 90 (length vertices)) (cons 70 (if closed 1 0))
-                (cons 43 (* (car scale) (if (= (kora_field data 0) "LWPOLYLINE") (kora:stroke_width data) 0.0))))
+                (cons 43 (* (car scale) (if (= (kora_field data 0) "LWPOLYLINE") (car (kora:widths_of data)) 0.0))))
           (apply 'append
                  (mapcar '(lambda (vertex)
                             (list (cons 10 (kora:place2d (kora:in_world (car vertex)))) (cons 42 (cadr vertex))))
