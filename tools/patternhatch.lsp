@@ -11,7 +11,7 @@
 
 (setq patternhatch:closed '((0 . "LWPOLYLINE,POLYLINE,CIRCLE,ELLIPSE,SPLINE,HATCH")))
 
-(defun c:patternhatch (/ *error* kora:variables boundary sources file mode action previewed shown)
+(defun c:patternhatch (/ *error* kora:variables boundary sources exact file mode action previewed shown)
   (setq boundary (kora_chosen patternhatch:closed))
   (kora_begin '(("CMDECHO" . 0)))
   (setq *error*  patternhatch:error
@@ -22,7 +22,7 @@
   (while mode
     (patternhatch:tell)
     (setq action (Dlg_PatternHatch file mode)
-          mode   (if action (patternhatch:do (kora_readstate file) action))))
+          mode   (if action (patternhatch:do (patternhatch:exactly (kora_readstate file)) action))))
   (patternhatch:tell)
   (kora_end))
 
@@ -30,6 +30,7 @@
 (defun patternhatch:error (message)
   (patternhatch:unshow)
   (patternhatch:take_back)
+  (patternhatch:tell)
   (kora_error message))
 
 ;; The files or blocks of the last time: a list of (label . text).
@@ -129,8 +130,22 @@
     (patternhatch:write_origin point)))
 
 (defun patternhatch:write_origin (point)
-  (kora_writestate file (list (cons "positionx" (kora_number_text (car point) 12))
-                              (cons "positiony" (kora_number_text (cadr point) 12)))))
+  (patternhatch:write "positionx" (car point))
+  (patternhatch:write "positiony" (cadr point)))
+
+;; Enters a number. The dialog hands six digits of it back, which is not enough for a point far from the origin.
+(defun patternhatch:write (key value)
+  (setq exact (cons (cons key value) exact))
+  (kora_writestate file (list (cons key (kora_number_text value 12)))))
+
+;; The state with the numbers that were entered, where the dialog's are these but for the digits that it leaves out.
+(defun patternhatch:exactly (state)
+  (mapcar '(lambda (entry / known)
+             (setq known (cdr (assoc (car entry) exact)))
+             (if (and known (equal (distof (cdr entry) 2) known (* 5.1e-6 (abs known))))
+               (cons (car entry) (kora_number_text known 12))
+               entry))
+          state))
 
 (defun patternhatch:get_rotation (state / base turn)
   (setq base (list (cond ((kora_state_real state "positionx")) (0.0)) (cond ((kora_state_real state "positiony")) (0.0)) 0.0))
@@ -138,7 +153,7 @@
     (patternhatch:write_rotation turn)))
 
 (defun patternhatch:write_rotation (turn)
-  (kora_writestate file (list (cons "rotation" (kora_number_text (/ (* 180.0 turn) pi) 10)))))
+  (patternhatch:write "rotation" (/ (* 180.0 turn) pi)))
 
 (defun patternhatch:get_entity (state / pick data)
   (setq pick (entsel "\nSelect a block or external reference that shows the pattern: ")
@@ -161,10 +176,10 @@
       (patternhatch:set_source (if path "lbtitlexref" "lbtitleblock") (cond (path) (name)))
       (kora_writestate file
         (append (mapcar '(lambda (key) (cons key "FALSE")) '("pattern_image" "pattern_mask"))
-                (list (cons "pattern_block" (if path "FALSE" "TRUE")) (cons "pattern_xref" (if path "TRUE" "FALSE")))
-                (mapcar '(lambda (key value) (cons key (kora_number_text value 12)))
-                        '("width" "height")
-                        (if (kora_state_is state "scalefactor") scale (mapcar '* scale (kora_frame_size frame))))))
+                (list (cons "pattern_block" (if path "FALSE" "TRUE")) (cons "pattern_xref" (if path "TRUE" "FALSE")))))
+      (mapcar 'patternhatch:write
+              '("width" "height")
+              (if (kora_state_is state "scalefactor") scale (mapcar '* scale (kora_frame_size frame))))
       (patternhatch:write_origin (trans (kora:turned (kora_field data 10) turn (mapcar '* scale (car frame))) 0 1))
       (patternhatch:write_rotation (- turn (kora_user_axis))))
     (kora_alert_message (strcat "The pattern " name " shows nothing, or its file cannot be read."))))

@@ -78,7 +78,9 @@
     (kora_alert_message (strcat "The drawing's own block " name " is used."))
     (progn
       (setq before (entlast))
-      (command "_.-INSERT" (strcat name "=" path) '(0.0 0.0 0.0) 1.0 1.0 0.0)
+      (command "_.-INSERT" (strcat name "=" path))
+      ;; Without the file there is no command any more that would ask on. What it asks for in the end are attributes.
+      (if (> (getvar "CMDACTIVE") 0) (command '(0.0 0.0 0.0) 1.0 1.0 0.0))
       (while (> (getvar "CMDACTIVE") 0) (command ""))
       (if (not (equal (entlast) before)) (entdel (entlast)))))
   (if (tblsearch "BLOCK" name) name (kora_refuse (strcat "The drawing " path " cannot be read."))))
@@ -87,7 +89,8 @@
   (setq before (entlast))
   (if frame
     (progn
-      (command "_.-XREF" "_Attach" path '(0.0 0.0 0.0) 1.0 1.0 0.0)
+      (command "_.-XREF" "_Attach" path)
+      (if (> (getvar "CMDACTIVE") 0) (command '(0.0 0.0 0.0) 1.0 1.0 0.0))
       (if (not (equal (entlast) before))
         (progn
           (setq name (kora_field (entget (entlast)) 2))

@@ -1,0 +1,226 @@
+// The pattern hatch: what is drawn in an area and at its edge, the ways to and fro between dialog and drawing, and
+// drawings made elsewhere.
+
+#include "tests/support/QtTestPrinters.h"
+#include "tests/tools/ToolRun.h"
+
+#include <QDir>
+
+#include <gtest/gtest.h>
+
+using namespace tools_test;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class PatternHatchTool : public ToolTest
+{
+protected:
+    /// (box x y width height), (ring points) and (circle x y radius) make boundaries, (tile entities) the pattern TILE,
+    /// of a dash along 1, a round of 0.5 or others; (parts) is what is in the block that was drawn last, (of type)
+    /// those of a type, (total measure type) the sum of what they measure: long, sweep, hidden.
+    static QString helpers()
+    {
+        return u"lisp (defun box (x y w h) (ring (list (list x y) (list (+ x w) y) (list (+ x w) (+ y h)) (list x (+ y "
+               u"h)))))\n"
+               "lisp (defun ring (points) (entmakex (append (list '(0 . \"LWPOLYLINE\") '(100 . \"AcDbEntity\") '(8 . "
+               "\"0\") '(100 . \"AcDbPolyline\") (cons 90 (length points)) '(70 . 1)) (mapcar '(lambda (p) (cons 10 "
+               "p)) points))))\n"
+               "lisp (defun circle (x y r) (entmakex (list '(0 . \"CIRCLE\") '(8 . \"0\") (list 10 (float x) (float y) "
+               "0.0) (cons 40 (float r)))))\n"
+               "lisp (defun tile (entities) (entmake '((0 . \"BLOCK\") (2 . \"TILE\") (70 . 0) (10 2.0 1.0 0.0))) "
+               "(foreach e entities (entmake e)) (entmake '((0 . \"ENDBLK\"))))\n"
+               "lisp (setq dash '((0 . \"LINE\") (8 . \"0\") (10 2.0 1.0 0.0) (11 3.0 1.0 0.0)) round '((0 . "
+               "\"CIRCLE\") (8 . \"0\") (10 2.0 1.0 0.0) (40 . 0.5)))\n"
+               "lisp (defun parts () (mapcar 'entget (kora_block_entities (kora_field (entget (entlast)) 2))))\n"
+               "lisp (defun of (type) (vl-remove-if-not '(lambda (data) (= (kora_field data 0) type)) (parts)))\n"
+               "lisp (defun total (measure type) (apply '+ (cons 0.0 (mapcar measure (of type)))))\n"
+               "lisp (defun long (data) (distance (kora_field data 10) (kora_field data 11)))\n"
+               "lisp (defun sweep (data / turn) (setq turn (- (kora_field data 51) (kora_field data 50))) (* "
+               "(kora_field data 40) (if (< turn 0) (+ turn pi pi) turn)))\n"
+               "lisp (defun hidden (data / points) (setq points (kora:values_of data 14)) (* 0.5 (distance '(0 0) "
+               "(kora_field data 11)) (distance '(0 0) (kora_field data 12)) (abs (apply '+ (mapcar 'kora:cross points "
+               "(cdr points))))))\n"
+               "lisp (defun is (value wanted near) (equal value wanted near))\n"
+               "lisp (kora_writestate (kora_statefile \"patternhatch\") '((\"lbtitleblock\" . \"TILE\")))\n"_s;
+    }
+    /// The dialog over what `setUp`, an expression, makes and chooses, with values of its own.
+    static QString begun(const QString &setUp)
+    {
+        return helpers() +
+               u"lisp (setq es (vl-remove-if-not '(lambda (e) (= (type e) 'ENAME)) (list %1)))\n"
+               "lisp (sssetfirst nil (kora_selection es))\ncommand PATTERNHATCH\n"
+               "dialog DLG_QT_PatternHatch\n"
+               "click pattern_block\ncheck ScaleFactor no\ncheck aspectRatio no\nset Width 1\nset Height 1\nset OffsetX 0\nset OffsetY 0\nset positionX 0\nset positionY 0\nset Rotation 0\nclick TypeObjectBlock\nclick trimtolimits\nset tolerance 0.01\n"_s
+                   .arg(setUp);
+    }
+};
+
+TEST_F(PatternHatchTool, FillsAreasUpToTheirEdge)
+{
+    const QString mask = u"click pattern_mask\nset patternName \"\"\n"_s;
+    const struct
+    {
+        const char *what;
+        QString setUp;  ///< expressions that make the pattern and what is chosen
+        QString dialog; ///< lines from the dialog on
+        QString check;  ///< an expression
+    } rows[] = {
+        {"lines along and across the edge", u"(tile (list dash)) (ring '((0.0 0.0) (10.0 0.0) (0.0 10.0)))"_s,
+         u"set positionY 0.5\nclick acceptButton\n"_s,
+         u"(and (is (+ (length (of \"INSERT\")) (total 'long \"LINE\")) 50.0 1e-9) (= 10 (length (of \"LINE\"))))"_s},
+        {"turned", u"(tile (list dash)) (ring '((0.0 0.0) (10.0 0.0) (0.0 10.0)))"_s,
+         u"set Rotation 90\nclick acceptButton\n"_s,
+         u"(is (+ (length (of \"INSERT\")) (total 'long \"LINE\")) 45.0 1e-9)"_s},
+        {"askew", u"(tile (list dash)) (circle 3 2 4)"_s,
+         u"set Rotation 33\nset positionX 100\nset Height 0.1\nset OffsetY -0.09\nset tolerance 0.01\nclick acceptButton\n"_s,
+         u"(is (* 0.01 (+ (length (of \"INSERT\")) (total 'long \"LINE\"))) (* 16 pi) 0.2)"_s},
+        {"half circles", u"(tile (list round)) (box 0 0 2.5 2)"_s,
+         u"click acceptButton\nexpect-printed 6 copies drawn, 2 of them cut at the boundary.\n"_s,
+         u"(and (= 4 (length (of \"INSERT\"))) (= 2 (length (of \"ARC\"))) (is (total 'sweep \"ARC\") pi 1e-9) (= \"0\" (kora_field (car (of \"ARC\")) 8)))"_s},
+        {"a hole around whole copies", u"(tile (list round)) (box 0 0 9 9) (box 3 3 3 3)"_s,
+         u"click acceptButton\nexpect-printed 72 copies drawn.\n"_s, u"(= 72 (length (parts)))"_s},
+        {"flat circles", u"(tile (list round)) (box 0 0 2 2.25)"_s,
+         u"set Height 0.5\nclick acceptButton\nexpect-printed 10 copies drawn, 2 of them cut\n"_s,
+         u"(and (= 8 (length (of \"INSERT\"))) (= 2 (length (of \"LWPOLYLINE\"))) (null (of \"ARC\")))"_s},
+        {"circles that touch the edge from outside", u"(tile (list round)) (box 0 0.5 3 0.5)"_s,
+         u"set Width 0.5\nset Height 0.5\nclick acceptButton\n"_s,
+         u"(and (= 6 (length (parts))) (= 6 (length (of \"INSERT\"))))"_s},
+        {"a polyline goes on over its beginning",
+         u"(tile (list '((0 . \"LWPOLYLINE\") (100 . \"AcDbEntity\") (8 . \"0\") (62 . 1) (100 . \"AcDbPolyline\") (90 . 4) (70 . 1) (43 . 0.1) (10 2.0 1.0) (42 . 0.5) (10 3.0 1.0) (10 3.0 2.0) (10 2.0 2.0)))) (box 0 0 0.5 1)"_s,
+         u"click acceptButton\n"_s,
+         u"(and (= 1 (length (parts))) (= 5 (kora_field (car (parts)) 90)) (= 1 (kora_field (car (parts)) 62)) (is (kora_field (car (parts)) 43) 0.1 1e-9))"_s},
+        {"texts cannot be cut",
+         u"(tile (list '((0 . \"TEXT\") (10 2.0 1.0 0.0) (40 . 1.0) (1 . \"X\")))) (box 0 0 2.5 1)"_s,
+         u"click acceptButton\nexpect-printed 2 copies drawn. 1 was left out: they cannot be cut.\n"_s,
+         u"(= 2 (length (of \"INSERT\")))"_s},
+        {"drawn beyond the edge", u"(tile (list dash)) (box 0 0 2.5 1.5)"_s,
+         u"click notexceedlimits\nclick acceptButton\nexpect-printed 6 copies drawn.\n"_s,
+         u"(= 6 (length (of \"INSERT\")))"_s},
+        {"spaced, by factors", u"(tile (list round)) (box 0 0 10 10)"_s,
+         u"check ScaleFactor yes\nset Width 2\nset Height 2\nset OffsetX 1\nset OffsetY 3\nclick acceptButton\nexpect-printed 8 copies drawn, 2 of them cut\n"_s,
+         u"(is 2.0 (kora_field (car (of \"INSERT\")) 41) 1e-9)"_s},
+        {"masks tile a circle", u"(circle 5 5 3)"_s, mask + u"set Rotation 10\nclick acceptButton\n"_s,
+         u"(is (total 'hidden \"WIPEOUT\") (* 9 pi) 0.2)"_s},
+        {"masks round an edge with a corner",
+         u"(ring '((0.0 0.0) (4.0 0.0) (4.0 4.0) (2.3 4.0) (2.3 2.3) (0.0 2.3)))"_s, mask + u"click acceptButton\n"_s,
+         u"(is (total 'hidden \"WIPEOUT\") (- 16 (* 2.3 1.7)) 1e-6)"_s},
+        {"an entity group", u"(box 0 0 3 3)"_s, mask + u"click TypeObjectGroup\nclick acceptButton\n"_s,
+         u"(= 9 (length (kora:values_of (dictsearch (cdr (assoc -1 (dictsearch (namedobjdict) \"ACAD_GROUP\"))) \"*A1\") 340)))"_s},
+        {"chosen lines that are open",
+         u"(box 0 0 3 3) (entmakex '((0 . \"LWPOLYLINE\") (100 . \"AcDbEntity\") (100 . \"AcDbPolyline\") (90 . 2) (70 . 0) (10 0.0 0.0) (10 5.0 5.0)))"_s,
+         mask + u"click acceptButton\nexpect-printed 1 of those chosen cannot be a boundary\n"_s,
+         u"(= 9 (length (of \"WIPEOUT\")))"_s},
+        {"copies that do not move on", u"(box 0 0 3 3)"_s,
+         mask +
+             u"set OffsetX -1\nclick acceptButton\ndialog DLG_QT_PatternHatch\nclick ButtonCancel\nexpect-printed The copies do not move on\n"_s,
+         u"T"_s},
+        {"too many", u"(box 0 0 3000 3000)"_s,
+         mask +
+             u"click acceptButton\ndialog DLG_QT_PatternHatch\nclick ButtonCancel\nexpect-printed make them larger\n"_s,
+         u"T"_s},
+        {"many, and no", u"(box 0 0 300 300)"_s,
+         mask + u"click acceptButton\nenter\ndialog DLG_QT_PatternHatch\nclick ButtonCancel\n"_s, u"T"_s},
+        {"a mask with a hatch pattern", u"(box 0 0 3 3)"_s,
+         mask +
+             u"set patternName HEX\nclick acceptButton\ndialog DLG_QT_PatternHatch\nclick ButtonCancel\nexpect-printed Masks with the hatch pattern HEX\n"_s,
+         u"T"_s},
+        {"nothing in it", u"(box 0.2 0.2 0.1 0.1) (tile (list dash))"_s,
+         u"click acceptButton\ndialog DLG_QT_PatternHatch\nclick ButtonCancel\nexpect-printed No copy of the pattern lies in the boundary.\n"_s,
+         u"(tblsearch \"BLOCK\" \"TILE\")"_s},
+        {"a preview", u"(box 0 0 3 3)"_s,
+         mask +
+             u"click Btn_Preview\nenter\ndialog DLG_QT_PatternHatch\nclick ButtonCancel\nexpect-printed 9 copies shown.\n"_s,
+         u"(null (ssget \"_X\" '((0 . \"INSERT\"))))"_s},
+    };
+    for (const auto &row : rows) {
+        SCOPED_TRACE(row.what);
+        QDir(run.path(u"out"_s)).removeRecursively();
+        plays(begun(row.setUp) + row.dialog + u"expect-lisp "_s + row.check + u'\n');
+        EXPECT_TRUE(isSound(run.result(plan)));
+    }
+}
+
+TEST_F(PatternHatchTool, TakesEverythingFromTheDrawing)
+{
+    // The inner wall around a point, a hatch beside it, and a reference as the pattern: its copy lies on it exactly.
+    const QString hatch =
+        u"(entmake '((0 . \"HATCH\") (100 . \"AcDbEntity\") (8 . \"0\") (100 . \"AcDbHatch\") (10 0.0 0.0 "
+        "0.0) (210 0.0 0.0 1.0) (2 . \"SOLID\") (70 . 1) (71 . 0) (91 . 1) (92 . 1) (93 . 4) (72 . 1) "
+        "(10 0.0 20.0) (11 20.0 20.0) (72 . 1) (10 20.0 20.0) (11 20.0 40.0) (72 . 2) (10 10.0 40.0) "
+        "(40 . 10.0) (50 . 0.0) (51 . 3.14159265358979) (73 . 1) (72 . 1) (10 0.0 40.0) (11 0.0 20.0) "
+        "(97 . 0) (75 . 0) (76 . 1) (98 . 0)))"_s;
+    const QString reference = u"(entmake '((0 . \"INSERT\") (2 . \"TILE\") (10 100005.123456 20.0 0.0) (41 . 2.0) "
+                              "(42 . 1.5) (43 . 2.0) (50 . 0.5)))"_s;
+    plays(
+        begun(u"(tile (list round)) "_s + hatch + u' ' + reference) +
+        u"check ScaleFactor yes\nclick notexceedlimits\nclick Btn_SelectPoints\npoint 5,5\npoint 5,5\npoint "
+        u"500,5\nenter\n"
+        "dialog DLG_QT_PatternHatch\nclick Btn_ExtractHatch\npick 10,30\n"
+        "dialog DLG_QT_PatternHatch\nexpect-enabled acceptButton yes\nclick Btn_DeleteEntities\n"
+        "dialog DLG_QT_PatternHatch\nexpect-enabled acceptButton no\nclick Btn_ExtractHatch\npick 10,30\n"
+        "dialog DLG_QT_PatternHatch\nclick selRotation\nanswer 45\n"
+        "dialog DLG_QT_PatternHatch\nexpect Rotation 45\nclick selOrigin\npoint 100000.1234,0\n"
+        "dialog DLG_QT_PatternHatch\nclick Btn_ExtractFromEntity\npick 100006.001039,20.479426\n"
+        "dialog DLG_QT_PatternHatch\nexpect LbTitleblock TILE\nexpect Width 2\nexpect Height 1.5\nclick acceptButton\n"
+        "expect-printed \"No closed entity lies around this point.\"\n"
+          // Steps of 2 by 1.5 along the turned axes lead from each copy to the reference.
+          "lisp (defun whole (x) (equal x (kora:floor (+ x 0.5)) 1e-5))\n"
+          "expect-lisp (vl-every '(lambda (data / way) (setq way (kora_turned_back (mapcar '- (kora_field data 10) "
+          "'(100005.123456 20.0 0.0)) 0.5)) (and (whole (/ (car way) 2.0)) (whole (/ (cadr way) 1.5)))) (of "
+          "\"INSERT\"))\n"
+          "undo\nexpect-lisp (= 1 (sslength (ssget \"_X\" '((0 . \"INSERT\")))))\n"_s);
+}
+
+TEST_F(PatternHatchTool, WhatIsCancelledLeavesTheDrawingAsItWas)
+{
+    const QString dialog = u"dialog DLG_QT_PatternHatch\n"_s;
+    const QString opened = u"command PATTERNHATCH\n"_s + dialog;
+    const QString picked = u"click Btn_SelectEntities\npick 4.3,5\nenter\n"_s + dialog;
+    const QString zigzag = u"file %1\n"_s.arg(ToolRun::sample(u"zigzag.dxf"_s)) + dialog;
+    plays(opened + u"click pattern_block\nclick Bt_selectBlock\n"_s + zigzag + picked +
+          u"click Btn_Preview\nenter\n"_s + dialog + u"click Btn_ShowBoundaries\ncancel\nexpect-modified no\n"_s +
+          opened + u"click pattern_xref\nclick Bt_selectBlock_2\n"_s + zigzag + picked +
+          u"click Btn_Preview\ncancel\n"
+          "expect-modified no\nexpect-lisp (not (tblsearch \"BLOCK\" \"zigzag\"))\n"_s +
+          opened + picked + u"click Btn_Preview\nenter\n"_s + dialog +
+          u"click selOrigin\ncancel\n"_s + dialog + u"click ButtonCancel\nexpect-modified no\n"_s + opened + picked +
+          u"click acceptButton\nexpect-lisp (= 4 (cdr (assoc 70 (tblsearch \"BLOCK\" \"zigzag\"))))\n"
+          "expect-count INSERT 1\nundo\nexpect-modified no\n"_s);
+}
+
+TEST_F(PatternHatchTool, WorksInDrawingsMadeElsewhere)
+{
+    const QString corpus = qEnvironmentVariable("ORTAKIT_CORPUS");
+    if (corpus.isEmpty())
+        GTEST_SKIP() << "ORTAKIT_CORPUS names no folder of drawings";
+    const QString boundaries = u"lisp (setq es (vl-remove-if-not '(lambda (e) (kora_outlines (entget e) 1.0)) "
+                               "(kora_selection_to_list (ssget \"_A\" (list (cons 410 (getvar \"CTAB\")) '(0 . "
+                               "\"*POLYLINE,CIRCLE,ELLIPSE,SPLINE,"
+                               "HATCH\"))))))\nexpect-lisp es\n"_s;
+    const QString session =
+        boundaries +
+        u"lisp (setq box (kora_area_box (kora_area (apply 'append (mapcar '(lambda (e) (kora_outlines "
+        "(entget e) 0.1)) es)))) size (kora_number_text (/ (max (- (caddr box) (car box)) (- (cadddr box) "
+        "(cadr box))) 12) 6))\n"
+        "lisp (kora_writestate (kora_statefile \"patternhatch\") (list (cons \"width\" size) (cons \"height\" "
+        "size) '(\"pattern_mask\" . \"TRUE\") '(\"rotation\" . \"10\") '(\"patternname\" . \"\")))\n"
+        "lisp (sssetfirst nil (kora_selection es))\ncommand PATTERNHATCH\n"
+        "dialog DLG_QT_PatternHatch\nclick acceptButton\nexpect-printed drawn\n"_s;
+    int changed = 0;
+    for (const QFileInfo &file : QDir(corpus).entryInfoList({u"*.dxf"_s})) {
+        const QString drawing = file.filePath();
+        if (run.play(boundaries, drawing).status != 0 || !isSound(drawing))
+            continue;
+        SCOPED_TRACE(file.fileName().toStdString());
+        const RunOutcome outcome = run.play(session, drawing);
+        EXPECT_EQ(outcome.status, 0) << outcome.output.toStdString();
+        EXPECT_TRUE(isSound(run.result(drawing)));
+        const RunOutcome undone = run.play(session + u"undo\nexpect-modified no\n"_s, drawing);
+        EXPECT_EQ(undone.status, 0) << undone.output.toStdString();
+        ++changed;
+    }
+    EXPECT_GE(changed, 3);
+}
+
+} // namespace
