@@ -164,6 +164,15 @@ const std::vector<LispCase> entityCases = {
      "(70 . 3))))"
      "(vl-remove-if-not '(lambda (f) (member (car f) '(1 40 70))) (dictsearch (namedobjdict) \"data\"))",
      "((1 . \"one\") (40 . 2.5) (70 . 3))"},
+    {"a group of entities is the dictionary's", makeLine,
+     "(setq groups (cdr (assoc -1 (dictsearch (namedobjdict) \"ACAD_GROUP\"))))"
+     "(dictadd groups \"*A1\" (entmakex (list '(0 . \"GROUP\") '(100 . \"AcDbGroup\") '(300 . \"\") '(70 . 1) '(71 . "
+     "1) "
+     "(cons 340 e))))"
+     "(setq group (dictsearch groups \"*a1\"))"
+     "(list (cdr (assoc 0 group)) (cdr (assoc 100 group)) (eq e (cdr (assoc 340 group))) (eq groups (cdr (assoc 330 "
+     "group))) (eq e (entlast)))",
+     "(\"GROUP\" \"AcDbGroup\" T T T)"},
     {"a name is used once", "(dictadd (namedobjdict) \"D\" (entmakex '((0 . \"XRECORD\") (1 . \"one\"))))",
      "(dictadd (namedobjdict) \"d\" (entmakex '((0 . \"XRECORD\") (1 . \"two\"))))", "nil"},
     {"dictremove", "(dictadd (namedobjdict) \"D\" (entmakex '((0 . \"XRECORD\") (1 . \"one\"))))",

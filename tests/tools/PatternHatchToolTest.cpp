@@ -164,12 +164,12 @@ TEST_F(PatternHatchTool, TakesEverythingFromTheDrawing)
         "dialog DLG_QT_PatternHatch\nclick Btn_ExtractFromEntity\npick 100006.001039,20.479426\n"
         "dialog DLG_QT_PatternHatch\nexpect LbTitleblock TILE\nexpect Width 2\nexpect Height 1.5\nclick acceptButton\n"
         "expect-printed \"No closed entity lies around this point.\"\n"
-          // Steps of 2 by 1.5 along the turned axes lead from each copy to the reference.
-          "lisp (defun whole (x) (equal x (kora:floor (+ x 0.5)) 1e-5))\n"
-          "expect-lisp (vl-every '(lambda (data / way) (setq way (kora_turned_back (mapcar '- (kora_field data 10) "
-          "'(100005.123456 20.0 0.0)) 0.5)) (and (whole (/ (car way) 2.0)) (whole (/ (cadr way) 1.5)))) (of "
-          "\"INSERT\"))\n"
-          "undo\nexpect-lisp (= 1 (sslength (ssget \"_X\" '((0 . \"INSERT\")))))\n"_s);
+        // Steps of 2 by 1.5 along the turned axes lead from each copy to the reference.
+        "lisp (defun whole (x) (equal x (kora:floor (+ x 0.5)) 1e-5))\n"
+        "expect-lisp (vl-every '(lambda (data / way) (setq way (kora_turned_back (mapcar '- (kora_field data 10) "
+        "'(100005.123456 20.0 0.0)) 0.5)) (and (whole (/ (car way) 2.0)) (whole (/ (cadr way) 1.5)))) (of "
+        "\"INSERT\"))\n"
+        "undo\nexpect-lisp (= 1 (sslength (ssget \"_X\" '((0 . \"INSERT\")))))\n"_s);
 }
 
 TEST_F(PatternHatchTool, WhatIsCancelledLeavesTheDrawingAsItWas)
@@ -183,8 +183,8 @@ TEST_F(PatternHatchTool, WhatIsCancelledLeavesTheDrawingAsItWas)
           opened + u"click pattern_xref\nclick Bt_selectBlock_2\n"_s + zigzag + picked +
           u"click Btn_Preview\ncancel\n"
           "expect-modified no\nexpect-lisp (not (tblsearch \"BLOCK\" \"zigzag\"))\n"_s +
-          opened + picked + u"click Btn_Preview\nenter\n"_s + dialog +
-          u"click selOrigin\ncancel\n"_s + dialog + u"click ButtonCancel\nexpect-modified no\n"_s + opened + picked +
+          opened + picked + u"click Btn_Preview\nenter\n"_s + dialog + u"click selOrigin\ncancel\n"_s + dialog +
+          u"click ButtonCancel\nexpect-modified no\n"_s + opened + picked +
           u"click acceptButton\nexpect-lisp (= 4 (cdr (assoc 70 (tblsearch \"BLOCK\" \"zigzag\"))))\n"
           "expect-count INSERT 1\nundo\nexpect-modified no\n"_s);
 }

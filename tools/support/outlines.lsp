@@ -177,12 +177,6 @@
 
 (defun kora:projected (point) (list (/ (car point) (caddr point)) (/ (cadr point) (caddr point))))
 
-(defun kora:first_of (items count / result)
-  (repeat count
-    (setq result (cons (car items) result)
-          items  (cdr items)))
-  (reverse result))
-
 ;; Control points are blended pair by pair until one is left.
 (defun kora:spline_at (place / points low high)
   (setq points controls

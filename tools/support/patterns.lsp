@@ -60,7 +60,8 @@
     ((kora_state_is state "pattern_block") (kora:block_pattern (cdr (assoc "lbtitleblock" sources))))
     ((kora_state_is state "pattern_xref") (kora:xref_pattern (cdr (assoc "lbtitlexref" sources)) frame))
     ((kora_state_is state "pattern_mask") (kora:mask_pattern (strcase (kora_state_value state "patternname"))))
-    (T (kora_refuse "Copies of images cannot be drawn by this command: attach the image to a drawing and take that as external reference."))))
+    (T (kora_refuse (strcat "Copies of images cannot be drawn by this command: attach the image to a drawing and take that "
+                            "as external reference.")))))
 
 ;; A block by its name in the drawing, or one that is made of a file.
 (defun kora:block_pattern (text / name frame)
