@@ -113,8 +113,20 @@ bool Dictionaries::set(RecordId dictionary, const QString &name, RecordId object
         fields.push_back({entryNameCode, name});
         fields.push_back({isHard ? hardOwnerCode : softOwnerCode, handle});
     }
+    const JournalGroup group(m_drawing.journal(), {});
     m_drawing.setFields(dictionary, fields);
+    giveOwner(object, dictionary);
     return true;
+}
+
+void Dictionaries::giveOwner(RecordId object, RecordId dictionary)
+{
+    FieldList fields = m_drawing.fields(object);
+    const auto owner = std::find_if(fields.begin(), fields.end(), [](const Field &field) { return field.code == 330; });
+    if (owner == fields.end() || !owner->handle().isNull())
+        return;
+    owner->value = m_drawing.handle(dictionary);
+    m_drawing.setFields(object, fields);
 }
 
 bool Dictionaries::remove(RecordId dictionary, QStringView name)

@@ -27,7 +27,8 @@ public:
 
     std::vector<Entry> entries(RecordId dictionary) const;
     RecordId find(RecordId dictionary, QStringView name) const;
-    /// Makes `name` lead to `object`, in place of what it led to. False in R12.
+    /// Makes `name` lead to `object`, in place of what it led to. One without an owner is the dictionary's then. False
+    /// in R12.
     bool set(RecordId dictionary, const QString &name, RecordId object);
     /// Takes the entry out and erases what it owned. False when there is none.
     bool remove(RecordId dictionary, QStringView name);
@@ -52,6 +53,7 @@ public:
     RecordId ensureExtensionDictionary(RecordId record);
 
 private:
+    void giveOwner(RecordId object, RecordId dictionary);
     RecordId insertObject(const QByteArray &type, Handle owner, const FieldList &body);
 
     Drawing &m_drawing;
