@@ -1,13 +1,13 @@
 ;;; menu: Pattern hatch | PATTERNHATCH | Fills a closed area with copies of a block, a drawing or a mask
 ;;;
-;;; PATTERNHATCH: the dialog gives what the area is filled with, how the copies are sized, spaced, placed and turned, and
-;;; what becomes of those that reach over the boundary. On the way the boundary is picked, as closed entities, as points
-;;; inside of closed entities or as a hatch, and so are the origin, the angle, or a reference that shows the pattern.
-;;; Closed entities that are chosen already are the boundary. One within another is a hole.
+;;; PATTERNHATCH: the dialog gives what the area is filled with, how the copies are sized, spaced, placed and turned,
+;;; and what becomes of those that reach over the boundary. On the way the boundary is picked, as closed entities, as
+;;; points inside of closed entities or as a hatch, and so are the origin, the angle, or a reference that shows the
+;;; pattern. Closed entities that are chosen already are the boundary. One within another is a hole.
 ;;;
-;;; The lower left corner of what the pattern shows stands at the origin and the grid's other points. Cut at the boundary
-;;; are blocks of lines, arcs, circles and polylines, and masks; a copy of anything else that reaches over it is left out.
-;;; The copies are on the current layer, and so is what is cut, where the block has it on layer 0.
+;;; The lower left corner of what the pattern shows stands at the origin and the grid's other points. Cut at the
+;;; boundary are blocks of lines, arcs, circles and polylines, and masks; a copy of anything else that reaches over it
+;;; is left out. The copies are on the current layer, and so is what is cut, where the block has it on layer 0.
 
 (setq patternhatch:closed '((0 . "LWPOLYLINE,POLYLINE,CIRCLE,ELLIPSE,SPLINE,HATCH")))
 
@@ -47,7 +47,8 @@
   (cond
     ((= word "OK") (if (patternhatch:draw state) nil "EDIT"))
     ((= word "PREVIEW") (patternhatch:preview state) "EDIT")
-    ((setq word (assoc word '(("GET_BLOCK" . "lbtitleblock") ("GET_XREF" . "lbtitlexref") ("GET_IMAGE" . "lbtitleimage"))))
+    ((setq word (assoc word '(("GET_BLOCK" . "lbtitleblock") ("GET_XREF" . "lbtitlexref")
+                               ("GET_IMAGE" . "lbtitleimage"))))
      (patternhatch:set_source (cdr word) (substr action (+ (strlen (car word)) 2)))
      "EDIT")
     ((= action "GET_ORIGIN") (patternhatch:get_origin) "EDIT")
@@ -63,7 +64,8 @@
 (defun patternhatch:change_boundary (action state)
   (cond
     ((= action "GET_ENTITIES")
-     (patternhatch:add (patternhatch:closed_ones (kora_choose "Select closed boundary entities: " patternhatch:closed))))
+     (patternhatch:add (patternhatch:closed_ones (kora_choose "Select closed boundary entities: "
+                                                              patternhatch:closed))))
     ((= action "GET_POINTS") (patternhatch:pick_points (kora_pattern_tolerance state)))
     ((= action "GET_FROMHATCH") (patternhatch:pick_hatch))
     ((= action "DELETE") (setq boundary nil))
@@ -148,7 +150,7 @@
           state))
 
 (defun patternhatch:get_rotation (state / base turn)
-  (setq base (list (cond ((kora_state_real state "positionx")) (0.0)) (cond ((kora_state_real state "positiony")) (0.0)) 0.0))
+  (setq base (kora:place_in state '("positionx" "positiony")))
   (if (setq turn (getAngleOrtakit base "\nSpecify rotation angle: "))
     (patternhatch:write_rotation turn)))
 

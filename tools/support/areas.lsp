@@ -28,9 +28,9 @@
   (* (+ 1.0 (/ (+ (- (caddr box) (car box)) (car size)) (car step)))
      (+ 1.0 (/ (+ (- (cadddr box) (cadr box)) (cadr size)) (cadr step)))))
 
-;; (kora_area_cells area size step visit) calls visit for the cells of a grid that lie in the area or meet its edge, with
-;; the cell's lower left corner and the edges beside it, nil of one that lies in it. Cells are of a size, and a step
-;; apart, both (x y) and greater than zero; one has its corner at 0,0. Touching an edge does not count.
+;; (kora_area_cells area size step visit) calls visit for the cells of a grid that lie in the area or meet its edge,
+;; with the cell's lower left corner and the edges beside it, nil of one that lies in it. Cells are of a size, and a
+;; step apart, both (x y) and greater than zero; one has its corner at 0,0. Touching an edge does not count.
 (defun kora_area_cells (area size step visit / box slack row top near low high)
   (setq box   (kora_area_box area)
         slack (* 1e-9 (+ (apply 'max (mapcar 'abs box)) (car size) (cadr size)))

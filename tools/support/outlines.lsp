@@ -1,8 +1,8 @@
 ;;; What entities look like from above: pieces of lines and arcs, polygons within a tolerance, frames of blocks.
 ;;;
 ;;; A piece is a list (from to bulge) of two flat points in world coordinates; the bulge is the tangent of a quarter of
-;;; an arc's angle, positive counter-clockwise, 0 of a line. A polygon is a list of flat points; its last one is joined to
-;;; its first.
+;;; an arc's angle, positive counter-clockwise, 0 of a line. A polygon is a list of flat points; its last one is joined
+;;; to its first.
 
 ;; (kora_pieces data) -> the pieces of a line, arc, circle or polyline in their order; nil of another entity and of one
 ;; that is tilted.
@@ -32,7 +32,8 @@
 (defun kora:arc_pieces (centre radius start end / half)
   (if (<= end (+ start 1e-12)) (setq end (+ end (* 2 pi))))
   (setq half (/ (- end start) 2.0))
-  (mapcar '(lambda (from) (list (polar centre from radius) (polar centre (+ from half) radius) (kora:tangent (/ half 4.0))))
+  (mapcar '(lambda (from)
+             (list (polar centre from radius) (polar centre (+ from half) radius) (kora:tangent (/ half 4.0))))
           (list start (+ start half))))
 
 (defun kora:tangent (turn) (/ (sin turn) (cos turn)))
@@ -149,7 +150,9 @@
     (progn
       (setq controls (mapcar '(lambda (point weight) (list (* weight (car point)) (* weight (cadr point)) weight))
                              controls
-                             (if (= (length weights) (length controls)) weights (mapcar '(lambda (point) 1.0) controls)))
+                             (if (= (length weights) (length controls))
+                               weights
+                               (mapcar '(lambda (point) 1.0) controls)))
             knots    (cdr knots))
       (repeat (- (length controls) degree)
         (if (< (nth (1- degree) knots) (nth degree knots))

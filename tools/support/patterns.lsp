@@ -1,11 +1,12 @@
 ;;; Copies of a block, a drawing or a mask over an area: what PATTERNHATCH draws.
 ;;;
-;;; While copies are made, the grid is seen from its origin along its rows: `area` lies in these coordinates, `corner` is
-;;; the lower left corner of a cell, and `near` the edges beside it. `origin` and `turn` lead from there to the world.
+;;; While copies are made, the grid is seen from its origin along its rows: `area` lies in these coordinates, `corner`
+;;; is the lower left corner of a cell, and `near` the edges beside it. `origin` and `turn` lead from there to the
+;;; world.
 
 ;; (kora_pattern_copies boundary sources frame state) -> (parts copies cut left): entity data to be made, and how many
-;; copies they are, how many of these were cut at the boundary, and how many were left out because they cannot be cut; nil
-;; after a message. The block that they refer to is in the drawing then. frame is that of an external reference.
+;; copies they are, how many of these were cut at the boundary, and how many were left out because they cannot be cut;
+;; nil after a message. The block that they refer to is in the drawing then. frame is that of an external reference.
 (defun kora_pattern_copies (boundary sources frame state / pattern origin turn polygons area size step slack)
   (if (and (kora:may_draw state)
            (setq pattern (kora:pattern_of sources state))
@@ -60,8 +61,8 @@
     ((kora_state_is state "pattern_block") (kora:block_pattern (cdr (assoc "lbtitleblock" sources))))
     ((kora_state_is state "pattern_xref") (kora:xref_pattern (cdr (assoc "lbtitlexref" sources)) frame))
     ((kora_state_is state "pattern_mask") (kora:mask_pattern (strcase (kora_state_value state "patternname"))))
-    (T (kora_refuse (strcat "Copies of images cannot be drawn by this command: attach the image to a drawing and take that "
-                            "as external reference.")))))
+    (T (kora_refuse (strcat "Copies of images cannot be drawn by this command: attach the image to a drawing and take "
+                            "that as external reference.")))))
 
 ;; A block by its name in the drawing, or one that is made of a file.
 (defun kora:block_pattern (text / name frame)
@@ -101,8 +102,8 @@
     ((null name) (kora_refuse (strcat "The drawing " path " cannot be attached.")))
     (T (list 'XREF frame name))))
 
-;; (kora_file_frame path) -> the frame of what a drawing file shows, nil when it cannot be read. For that it is a block of
-;; this drawing for a moment; what was changed before is a step of its own.
+;; (kora_file_frame path) -> the frame of what a drawing file shows, nil when it cannot be read. For that it is a block
+;; of this drawing for a moment; what was changed before is a step of its own.
 (defun kora_file_frame (path / name frame)
   (setq name "PATTERN_MEASURED")
   (while (tblsearch "BLOCK" name) (setq name (strcat name "_")))
@@ -159,7 +160,7 @@
         scale   (kora:copy_scale (kora_frame_size (cadr pattern)))
         strokes (if (and cuts (= kind 'BLOCK)) (kora:strokes_of (caddr pattern)))
         count   0 cut 0 left 0)
-  (if (> (apply 'max (mapcar 'abs (mapcar '/ (list (car box) (cadr box) (caddr box) (cadddr box)) (append step step)))) 1e9)
+  (if (> (apply 'max (mapcar 'abs (mapcar '/ box (append step step)))) 1e9)
     (kora_refuse "The origin is too far away from the boundary.")
     (progn
       (kora_area_cells area size step 'kora:copy_at)
