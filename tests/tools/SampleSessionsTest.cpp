@@ -140,7 +140,7 @@ TEST_F(SampleSessions, CancelledCommandsChangeNothing)
          u"VARIABLETOSCRIPT GETBLOCKINFO "
          "IMPORTBLOCKATTRIBUTES MAKELINESTYLE MAKESHAPE MULTIVIEWSETUP SELECTBLOCK REDEFINEPATHS REPLACEBLOCK "
          "REPLACEBLOCKBYREFERENCE "
-         "SHOWLINKS TRACKTIME"_s.split(u' '))
+         "PATTERNHATCH SHOWLINKS TRACKTIME"_s.split(u' '))
         session += isLeft(command);
     for (const QString &command : u"EDITTEXTCASE NUMBERTEXT TEXTMASK TEXTFRAME CONVERTSIMPLENOTES"_s.split(u' '))
         session += u"command %1\ncancel\ncommand %1\nenter\nexpect-printed Nothing was chosen.\n"_s.arg(command) +
