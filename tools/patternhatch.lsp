@@ -201,6 +201,7 @@
 (defun patternhatch:draw (state / copies)
   (if (setq copies (patternhatch:make_copies state))
     (progn
+      (entdel previewed)
       (setq previewed nil)
       (patternhatch:report copies "drawn")
       T)
@@ -232,13 +233,12 @@
       (patternhatch:wait)))
   (patternhatch:take_back))
 
-;; What is made from here on can be taken back. Something is in the step for certain: without anything in it, the user's
-;; last command would be taken back in its place.
+;; What is made from here on can be taken back. Until it is kept there is a point in the step that nobody sees: were
+;; nothing in it, the user's last command would be taken back in its place.
 (defun patternhatch:new_step ()
   (kora_undo_end)
   (kora_undo_begin)
-  (entdel (entmakex '((0 . "POINT") (10 0.0 0.0 0.0))))
-  (setq previewed T))
+  (setq previewed (entmakex '((0 . "POINT") (60 . 1) (10 0.0 0.0 0.0)))))
 
 ;; -> nil. Leaves the drawing as it was before the step.
 (defun patternhatch:take_back ()
