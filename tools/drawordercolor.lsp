@@ -16,8 +16,14 @@
      (drawordercolor:run groups order)))
   (kora_end))
 
-(defun drawordercolor:all ()
-  (kora_selection_to_list (ssget "_X" (list (cons 410 (getvar "CTAB"))))))
+;; -> all entities of the layout in use but the sheet itself, which is its first viewport.
+(defun drawordercolor:all (/ layout)
+  (setq layout (strcase (getvar "CTAB")))
+  (vl-remove-if-not '(lambda (entity / data)
+                       (setq data (entget entity))
+                       (and (= (strcase (cond ((kora_field data 410)) ("Model"))) layout)
+                            (not (and (= (kora_field data 0) "VIEWPORT") (= (kora_field data 69) 1)))))
+                    (kora_selection_to_list (ssget "_X"))))
 
 ;; Runs the dialog. -> the colors in their order, nil when it was cancelled.
 (defun drawordercolor:ask (colors / file last)

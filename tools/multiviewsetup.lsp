@@ -29,7 +29,7 @@
       multiviewsetup:offered '(2 1 6 4))
 
 ;; More viewports than this are not shown at a time.
-(setq multiviewsetup:most 64)
+(defun multiviewsetup:most () 64)
 
 (defun c:multiviewsetup (/ *error* kora:variables chosen file state step)
   (setq chosen (kora_chosen '((0 . "VIEWPORT")))
@@ -193,13 +193,13 @@
     ((or (member nil grid) (< (apply 'min grid) 0.0))
      (kora_refuse "Rows, columns and offsets must be numbers that are not negative."))
     ((not (and (multiviewsetup:is_count (car grid)) (multiviewsetup:is_count (cadr grid))
-               (<= (* (car grid) (cadr grid)) multiviewsetup:most)))
-     (kora_refuse (strcat "Rows and columns must be whole numbers and make no more than " (itoa multiviewsetup:most)
+               (<= (* (car grid) (cadr grid)) (multiviewsetup:most))))
+     (kora_refuse (strcat "Rows and columns must be whole numbers and make no more than " (itoa (multiviewsetup:most))
                           " viewports.")))
     (T (list (fix (car grid)) (fix (cadr grid)) (caddr grid) (cadddr grid)))))
 
 (defun multiviewsetup:is_count (number)
-  (and (<= 1.0 number multiviewsetup:most) (= number (fix number))))
+  (and (<= 1.0 number (multiviewsetup:most)) (= number (fix number))))
 
 ;; -> (lower upper), corners in world coordinates; nil when the user gives up.
 (defun multiviewsetup:ask_area (/ first second)
