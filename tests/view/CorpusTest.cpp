@@ -3,6 +3,7 @@
 
 #include "host/view/Export.h"
 #include "host/view/Picking.h"
+#include "tests/view/Rendering.h"
 
 #include <QDir>
 #include <QElapsedTimer>
@@ -14,17 +15,6 @@ namespace host::view::test {
 namespace {
 
 using namespace Qt::StringLiterals;
-
-bool isBlank(const QImage &image)
-{
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x) {
-            if (image.pixel(x, y) != image.pixel(0, 0))
-                return false;
-        }
-    }
-    return true;
-}
 
 void checkDrawing(const QFileInfo &file)
 {

@@ -1,6 +1,6 @@
 #include "host/view/Export.h"
 
-#include "tests/view/DxfText.h"
+#include "tests/view/Rendering.h"
 
 #include <QDir>
 #include <QFile>
@@ -22,17 +22,6 @@ QByteArray readAll(const QString &path)
 {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-bool isBlank(const QImage &image)
-{
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x) {
-            if (image.pixel(x, y) != image.pixel(0, 0))
-                return false;
-        }
-    }
-    return true;
 }
 
 class ExportTest : public testing::Test

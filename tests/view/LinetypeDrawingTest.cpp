@@ -21,82 +21,44 @@ TEST(LinetypeDrawing, DashesAndGaps)
     struct Row
     {
         const char *name;
-        DxfText drawing;
+        std::string entities;
         int runs;
-        std::vector<QPointF> ink;
-        std::vector<QPointF> blank;
+        const char *ink;
+        const char *blank;
+        const char *header = "";
     };
-    const std::string dashedLayer = "0 LAYER|2 D|70 0|62 7|6 DASHED";
+    const std::string blocks = blockText("INHERITING", line("8 0|6 BYBLOCK")) + "|" +
+                               blockText("OWN", "0 LINE|8 0|6 DASHED|10 10|20 50|11 50|21 50");
     const std::vector<Row> rows = {
-        {"full", {.entities = line("8 0"), .tables = linetypes}, 1, {{50, 50}}, {}},
+        {"full", line("8 0"), 1, "50,50", ""},
         // Four repetitions fit; half a dash at each end.
-        {"centred, both ends on a dash",
-         {.entities = line("8 0|6 DASHED"), .tables = linetypes},
-         5,
-         {{11, 50}, {89, 50}, {30, 50}, {50, 50}},
-         {{20, 50}, {40, 50}, {60, 50}}},
-        {"by layer", {.entities = line("8 D"), .layers = dashedLayer, .tables = linetypes}, 5, {}, {{20, 50}}},
-        {"own goes before the layer's",
-         {.entities = line("8 D|6 CONTINUOUS"), .layers = dashedLayer, .tables = linetypes},
-         1,
-         {},
-         {}},
-        {"scale of the entity",
-         {.entities = line("8 0|6 DASHED|48 2"), .tables = linetypes},
-         3,
-         {{50, 50}},
-         {{30, 50}, {70, 50}}},
-        {"scale of the drawing",
-         {.entities = line("8 0|6 DASHED"), .tables = linetypes, .header = "9 $LTSCALE|40 2"},
-         3,
-         {{50, 50}},
-         {{30, 50}}},
-        {"too long for one repetition", {.entities = line("8 0|6 DASHED|48 5"), .tables = linetypes}, 1, {}, {}},
-        {"finer than pixels is drawn full", {.entities = line("8 0|6 TINY"), .tables = linetypes}, 1, {}, {}},
-        {"unknown linetype is full", {.entities = line("8 0|6 NOSUCH"), .tables = linetypes}, 1, {}, {}},
-        {"dots between dashes",
-         {.entities = line("8 0|6 DASHDOT"), .tables = linetypes},
-         9,
-         {{20, 50}, {30, 50}},
-         {{17, 50}, {23, 50}}},
-        {"by block",
-         {.entities = "0 INSERT|8 0|6 DASHED|2 B|10 0|20 0",
-          .blocks = blockText("B", line("8 0|6 BYBLOCK")),
-          .tables = linetypes},
-         5,
-         {},
-         {{20, 50}}},
-        {"grows with the insert",
-         {.entities = "0 INSERT|8 0|2 B|10 -10|20 -50|41 2|42 2",
-          .blocks = blockText("B", "0 LINE|8 0|6 DASHED|10 10|20 50|11 50|21 50"),
-          .tables = linetypes},
-         3,
-         {{50, 50}},
-         {{30, 50}}},
+        {"centred, both ends on a dash", line("8 0|6 DASHED"), 5, "11,50 89,50 30,50 50,50", "20,50 40,50 60,50"},
+        {"by layer", line("8 D"), 5, "", "20,50"},
+        {"own goes before the layer's", line("8 D|6 CONTINUOUS"), 1, "", ""},
+        {"scale of the entity", line("8 0|6 DASHED|48 2"), 3, "50,50", "30,50 70,50"},
+        {"scale of the drawing", line("8 0|6 DASHED"), 3, "50,50", "30,50", "9 $LTSCALE|40 2"},
+        {"too long for one repetition", line("8 0|6 DASHED|48 5"), 1, "", ""},
+        {"finer than pixels is drawn full", line("8 0|6 TINY"), 1, "", ""},
+        {"unknown linetype is full", line("8 0|6 NOSUCH"), 1, "", ""},
+        {"dots between dashes", line("8 0|6 DASHDOT"), 9, "20,50 30,50", "17,50 23,50"},
+        {"by block", "0 INSERT|8 0|6 DASHED|2 INHERITING|10 0|20 0", 5, "", "20,50"},
+        {"grows with the insert", "0 INSERT|8 0|2 OWN|10 -10|20 -50|41 2|42 2", 3, "50,50", "30,50"},
         {"every side of a polyline begins anew",
-         {.entities = "0 LWPOLYLINE|8 0|6 DASHED|90 3|70 0|10 10|20 50|10 25|20 50|10 90|20 50", .tables = linetypes},
-         4,
-         {{15, 50}, {25, 50}},
-         {}},
+         "0 LWPOLYLINE|8 0|6 DASHED|90 3|70 0|10 10|20 50|10 25|20 50|10 90|20 50", 4, "15,50 25,50", ""},
         {"or not, when its pattern runs through",
-         {.entities = "0 LWPOLYLINE|8 0|6 DASHED|90 3|70 128|10 10|20 50|10 25|20 50|10 90|20 50", .tables = linetypes},
-         5,
-         {},
-         {{20, 50}}},
-        {"infinite lines are dashed from their base",
-         {.entities = "0 XLINE|8 0|6 DASHED|10 25|20 50|11 1|21 0", .tables = linetypes},
-         5,
-         {{30, 50}, {70, 50}},
-         {{20, 50}, {40, 50}}},
+         "0 LWPOLYLINE|8 0|6 DASHED|90 3|70 128|10 10|20 50|10 25|20 50|10 90|20 50", 5, "", "20,50"},
+        {"infinite lines are dashed from their base", "0 XLINE|8 0|6 DASHED|10 25|20 50|11 1|21 0", 5, "30,50 70,50",
+         "20,50 40,50"},
     };
     for (const Row &row : rows) {
         SCOPED_TRACE(row.name);
-        const Rendering shown(row.drawing);
+        const Rendering shown({.entities = row.entities,
+                               .blocks = blocks,
+                               .layers = "0 LAYER|2 D|70 0|62 7|6 DASHED",
+                               .tables = linetypes,
+                               .header = row.header});
         EXPECT_EQ(shown.runs({10, 50}, {90, 50}), row.runs);
-        for (const QPointF p : row.ink)
-            EXPECT_TRUE(shown.isInk(p.x(), p.y())) << p.x() << "," << p.y();
-        for (const QPointF p : row.blank)
-            EXPECT_FALSE(shown.isInk(p.x(), p.y())) << p.x() << "," << p.y();
+        expectInk(shown, row.ink, row.blank);
     }
 }
 

@@ -1,5 +1,7 @@
 #include "tests/view/Rendering.h"
 
+#include <gtest/gtest.h>
+
 namespace host::view::test {
 
 Rendering::Rendering(const DxfText &text, const PaintOptions &options, int block)
@@ -98,6 +100,24 @@ qint64 Rendering::inkPixels() const
             count += isInkPixel(x, y) ? 1 : 0;
     }
     return count;
+}
+
+bool isBlank(const QImage &image)
+{
+    QImage ground = image;
+    ground.fill(image.pixelColor(0, 0));
+    return image == ground;
+}
+
+void expectInk(const Rendering &shown, const char *ink, const char *blank)
+{
+    for (const bool isWanted : {true, false}) {
+        const QString points = QString::fromLatin1(isWanted ? ink : blank);
+        for (const QString &point : points.split(u' ', Qt::SkipEmptyParts)) {
+            const QStringList xy = point.split(u',');
+            EXPECT_EQ(shown.isInk(xy[0].toDouble(), xy[1].toDouble()), isWanted) << "at " << point.toStdString();
+        }
+    }
 }
 
 } // namespace host::view::test

@@ -39,4 +39,10 @@ private:
     RenderReport m_report;
 };
 
+/// Whether a picture is of one colour.
+bool isBlank(const QImage &image);
+
+/// Fails unless ink lies at each of the first points and at none of the second, both as "50,30 12,11".
+void expectInk(const Rendering &shown, const char *ink, const char *blank);
+
 } // namespace host::view::test
