@@ -6,7 +6,6 @@
 #include "tests/view/Rendering.h"
 
 #include <QDir>
-#include <QElapsedTimer>
 
 #include <gtest/gtest.h>
 #include <iostream>
@@ -18,8 +17,6 @@ using namespace Qt::StringLiterals;
 
 void checkDrawing(const QFileInfo &file)
 {
-    QElapsedTimer clock;
-    clock.start();
     const drawing::ReadResult read = drawing::Drawing::open(file.filePath());
     if (!read) {
         std::cout << file.fileName().toStdString() << ": not a drawing, " << read.error.message().toStdString() << "\n";
@@ -30,8 +27,7 @@ void checkDrawing(const QFileInfo &file)
     ASSERT_FALSE(image.isNull());
     Scene scene(*read.drawing);
     const RenderReport report = scene.report(Scene::modelSpace);
-    std::cout << file.fileName().toStdString() << ": " << report.summary().toStdString() << ", " << clock.elapsed()
-              << " ms\n";
+    std::cout << file.fileName().toStdString() << ": " << report.summary().toStdString() << "\n";
     EXPECT_EQ(isBlank(image), report.drawn == 0 && report.simplified.isEmpty());
     const QString folder = qEnvironmentVariable("ORTAKIT_RENDERINGS");
     if (!folder.isEmpty()) {

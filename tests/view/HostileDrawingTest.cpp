@@ -1,5 +1,4 @@
-// Drawings made to hang, crash or fill the memory. Each is built, painted, measured and picked in; the clock is the
-// test's own judge, with room for sanitizers and a busy machine.
+// Drawings made to hang, crash or fill the memory. Each is built, painted, measured and picked in.
 
 #include "host/view/Picking.h"
 #include "tests/view/Rendering.h"
