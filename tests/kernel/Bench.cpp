@@ -27,6 +27,18 @@ void Bench::type(const char *lines)
     session.input().pushTyped(QString::fromUtf8(lines));
 }
 
+void Bench::runQueued()
+{
+    while (!session.input().isEmpty())
+        document().runQueued();
+}
+
+void Bench::runTyped(const char *lines)
+{
+    type(lines);
+    runQueued();
+}
+
 std::string Bench::takePrinted()
 {
     return std::exchange(m_printed, QString()).toStdString();
@@ -48,4 +60,16 @@ QString Bench::write(const char *name, const QByteArray &content) const
 std::ostream &operator<<(std::ostream &stream, const LispCase &row)
 {
     return stream << row.name;
+}
+
+void LispTable::check()
+{
+    const LispCase &row = GetParam();
+    if (*row.setUp) {
+        ASSERT_NE(lisp(row.setUp).substr(0, 5), "error");
+    }
+    if (row.typed)
+        type(row.typed);
+    EXPECT_EQ(lisp(row.expression), row.expected);
+    EXPECT_TRUE(session.input().isEmpty()) << "left over";
 }

@@ -19,6 +19,9 @@ protected:
     std::string lisp(const std::string &text);
     /// Typed lines that the next prompts take.
     void type(const char *lines);
+    /// Does all that is queued.
+    void runQueued();
+    void runTyped(const char *lines);
     /// What was printed since the last call.
     std::string takePrinted();
     QString path(const char *name) const;
@@ -39,6 +42,14 @@ struct LispCase
     const char *setUp; ///< evaluated first
     const char *expression;
     const char *expected;
+    const char *typed = nullptr; ///< for the prompts of the expression
 };
 
 std::ostream &operator<<(std::ostream &stream, const LispCase &row);
+
+/// Gives the row its host and compares.
+class LispTable : public Bench, public testing::WithParamInterface<LispCase>
+{
+protected:
+    void check();
+};

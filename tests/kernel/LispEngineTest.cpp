@@ -50,17 +50,19 @@ class Engine : public Bench
 protected:
     Engine() { document().lispEngine()->defineFunction(QStringLiteral("Probe"), probe); }
     ~Engine() override { behaviour = nullptr; }
-};
-
-struct ArgumentCase
-{
-    const char *arguments;
-    const char *chain;
+    /// What a call does that ends well.
+    void does(const std::function<void(CKvLispEngine &)> &body)
+    {
+        behaviour = [body](CKvLispEngine &engine) {
+            body(engine);
+            return kRtNormal;
+        };
+    }
 };
 
 TEST_F(Engine, argumentsArriveAsAChain)
 {
-    const std::vector<ArgumentCase> cases = {
+    const std::pair<std::string, const char *> cases[] = {
         {"", ""},
         {"1", "5003:1"},
         {"32767 -32768", "5003:32767 5003:-32768"},
@@ -76,15 +78,11 @@ TEST_F(Engine, argumentsArriveAsAChain)
         {"'((10 1.5 2.5) (1.5 2.5))", "5016 5016 5003:10 5001:1.5 5001:2.5 5017 5002:1.5,2.5,0 5017"},
         {"'(10 1.5 2.5 . 3)", "5016 5003:10 5001:1.5 5001:2.5 5003:3 5018"},
     };
-    for (const ArgumentCase &row : cases) {
-        SCOPED_TRACE(row.arguments);
-        std::string chain;
-        behaviour = [&](CKvLispEngine &engine) {
-            chain = chainText(engine.arguments());
-            return kRtNormal;
-        };
-        EXPECT_EQ(lisp(std::string("(probe ") + row.arguments + ")"), "nil");
-        EXPECT_EQ(chain, row.chain);
+    std::string chain;
+    does([&](CKvLispEngine &engine) { chain = chainText(engine.arguments()); });
+    for (const auto &[arguments, expected] : cases) {
+        EXPECT_EQ(lisp("(probe " + arguments + ")"), "nil");
+        EXPECT_EQ(chain, expected) << arguments;
     }
 }
 
@@ -117,11 +115,8 @@ OdResBufPtr listOf(const OdResBuf *link)
 
 TEST_F(Engine, valuesGoThereAndBack)
 {
-    behaviour = [](CKvLispEngine &engine) {
-        engine.returnList(listOf(engine.arguments()));
-        return kRtNormal;
-    };
-    const std::vector<const char *> values = {
+    does([](CKvLispEngine &engine) { engine.returnList(listOf(engine.arguments())); });
+    const char *const values[] = {
         "(1 70000 2.5 \"Größe\" T nil)",
         "((1.0 2.0) (1.0 2.0 3.0) (1 2 3))",
         "((8 . \"0\") (10 1.5 2.5 3.5 4.5) (\"a\" (\"b\" (\"c\"))))",
@@ -137,12 +132,11 @@ TEST_F(Engine, valuesGoThereAndBack)
 TEST_F(Engine, listsNestedDeeperThanTheStack)
 {
     int links = 0;
-    behaviour = [&](CKvLispEngine &engine) {
+    does([&](CKvLispEngine &engine) {
         for (const OdResBuf *link = engine.arguments(); link; link = link->next())
             ++links;
         engine.returnList(listOf(engine.arguments()));
-        return kRtNormal;
-    };
+    });
     EXPECT_EQ(lisp("(repeat 200000 (setq l (list l)))(equal (probe l) (list l))"), "T");
     EXPECT_EQ(links, 400001);
 }
@@ -168,10 +162,7 @@ TEST_F(Engine, resultsOfEachKind)
         {[](CKvLispEngine &e) { e.returnInteger(1), e.returnString(QStringLiteral("last")); }, "\"last\""},
     };
     for (const auto &[body, expected] : cases) {
-        behaviour = [&body](CKvLispEngine &engine) {
-            body(engine);
-            return kRtNormal;
-        };
+        does(body);
         EXPECT_EQ(lisp("(probe)"), expected);
     }
 }
@@ -196,14 +187,13 @@ TEST_F(Engine, resultCodes)
 TEST_F(Engine, argumentsCanBeGivenBackEarly)
 {
     std::string left;
-    behaviour = [&](CKvLispEngine &engine) {
+    does([&](CKvLispEngine &engine) {
         engine.releaseArguments(nullptr);
         engine.releaseArguments(engine.arguments()->next());
         left = chainText(engine.arguments());
         engine.releaseArguments(engine.arguments());
         EXPECT_EQ(engine.arguments(), nullptr);
-        return kRtNormal;
-    };
+    });
     lisp("(probe 1 2 3)");
     EXPECT_EQ(left, "5003:1");
 }
@@ -211,7 +201,7 @@ TEST_F(Engine, argumentsCanBeGivenBackEarly)
 TEST_F(Engine, callsNest)
 {
     std::string outer;
-    behaviour = [&](CKvLispEngine &engine) {
+    does([&](CKvLispEngine &engine) {
         if (engine.arguments()->getInteger() == 1) {
             engine.returnString(QStringLiteral("outer"));
             document().run(QStringLiteral("(setq inner (probe 2))"));
@@ -219,8 +209,7 @@ TEST_F(Engine, callsNest)
         } else {
             engine.returnString(QStringLiteral("inner"));
         }
-        return kRtNormal;
-    };
+    });
     EXPECT_EQ(lisp("(list (probe 1 \"x\") inner)"), "(\"outer\" \"inner\")");
     EXPECT_EQ(outer, "5003:1 5005:x");
 }
@@ -230,11 +219,10 @@ TEST_F(Engine, aHandlerWorksOnTheDocumentThatCalls)
     Document &first = document();
     session.documents().create();
     CKvDocument *seen = nullptr;
-    behaviour = [&](CKvLispEngine &engine) {
+    does([&](CKvLispEngine &engine) {
         seen = ACTIVE_DOCUMENT();
         engine.returnInteger(3);
-        return kRtNormal;
-    };
+    });
     EXPECT_EQ(first.run(QStringLiteral("(probe)")).value, QStringLiteral("3"));
     EXPECT_EQ(seen, &first);
     EXPECT_EQ(ACTIVE_DOCUMENT(), &document());
@@ -242,7 +230,7 @@ TEST_F(Engine, aHandlerWorksOnTheDocumentThatCalls)
 
 TEST_F(Engine, functionsComeAndGo)
 {
-    behaviour = [](CKvLispEngine &) { return kRtNormal; };
+    does([](CKvLispEngine &) {});
     EXPECT_EQ(lisp("(PROBE)"), "nil");
     document().lispEngine()->undefineFunction(QStringLiteral("pRoBe"));
     document().lispEngine()->undefineFunction(QStringLiteral("nosuch"));
@@ -255,10 +243,7 @@ TEST_F(Engine, functionsComeAndGo)
 
 TEST_F(Engine, anExternalCommandCanBeTyped)
 {
-    behaviour = [](CKvLispEngine &engine) {
-        engine.print(QStringLiteral("\nhello"));
-        return kRtNormal;
-    };
+    does([](CKvLispEngine &engine) { engine.print(QStringLiteral("\nhello")); });
     document().lispEngine()->defineFunction(QStringLiteral("c:greet"), probe);
     EXPECT_TRUE(document().runCommand(QStringLiteral("greet")).ok);
     EXPECT_EQ(takePrinted(), "\nhello");
@@ -290,11 +275,10 @@ TEST_F(Engine, aHandlerLoadsAFile)
     for (const auto &row : rows) {
         lisp("(setq loaded nil)");
         bool loads = false;
-        behaviour = [&](CKvLispEngine &engine) {
+        does([&](CKvLispEngine &engine) {
             loads = engine.loadFile(row.path);
             engine.returnInteger(1);
-            return kRtNormal;
-        };
+        });
         EXPECT_EQ(lisp("(probe)"), "1") << row.name;
         EXPECT_EQ(loads, row.loads) << row.name;
         const std::string printed = takePrinted();

@@ -8,7 +8,6 @@
 
 #include <QAbstractButton>
 #include <QApplication>
-#include <QTemporaryDir>
 #include <QTimer>
 
 #include <gtest/gtest.h>
@@ -148,51 +147,31 @@ TEST(Utils, darkStyleFollowsThePalette)
 
 QByteArray fileWithReferences()
 {
-    QByteArray file = "0\nSECTION\n2\nBLOCKS\n";
-    const auto block = [&](const char *name, int flags, const char *path) {
-        file += QByteArray("0\nBLOCK\n8\n0\n2\n") + name + "\n70\n" + QByteArray::number(flags) +
-                "\n10\n0\n20\n0\n30\n0\n3\n" + name + "\n1\n" + path + "\n0\nENDBLK\n8\n0\n";
+    const auto block = [](const QByteArray &name, int flags, const QByteArray &path) {
+        return "0\nBLOCK\n8\n0\n2\n" + name + "\n70\n" + QByteArray::number(flags) + "\n10\n0\n20\n0\n30\n0\n3\n" +
+               name + "\n1\n" + path + "\n0\nENDBLK\n8\n0\n";
     };
-    block("PLAIN", 0, "");
-    block("SITE", 4, "..\\site\\plan.dwg");
-    block("OVER", 12, "/drawings/over.dwg");
+    const QByteArray file = "0\nSECTION\n2\nBLOCKS\n" + block("PLAIN", 0, "") + block("SITE", 4, "..\\site\\plan.dwg") +
+                            block("OVER", 12, "/drawings/over.dwg");
     return file + "0\nENDSEC\n0\nSECTION\n2\nENTITIES\n0\nCIRCLE\n8\n0\n10\n5\n20\n5\n40\n4\n0\nENDSEC\n0\nEOF\n";
 }
 
-TEST(Utils, drawingsReferTo)
+TEST_F(Bench, drawingsReferTo)
 {
-    const QTemporaryDir folder;
-    QFile file(folder.filePath(QStringLiteral("host.dxf")));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(fileWithReferences());
-    file.close();
-    EXPECT_EQ(CKvUtils::externalReferences(file.fileName()),
+    EXPECT_EQ(CKvUtils::externalReferences(write("host.dxf", fileWithReferences())),
               QStringList({QStringLiteral("..\\site\\plan.dwg"), QStringLiteral("/drawings/over.dwg")}));
-    EXPECT_EQ(CKvUtils::externalReferences(folder.filePath(QStringLiteral("none.dxf"))), QStringList());
-}
-
-/// Pixels that are drawn on black.
-int litPixels(const QImage &picture)
-{
-    int lit = 0;
-    for (int y = 0; y < picture.height(); ++y)
-        for (int x = 0; x < picture.width(); ++x)
-            lit += qGray(picture.pixel(x, y)) > 128 ? 1 : 0;
-    return lit;
+    EXPECT_EQ(CKvUtils::externalReferences(path("none.dxf")), QStringList());
 }
 
 TEST_F(Bench, blocksGoFromFilesIntoTheDrawing)
 {
-    QFile file(folder.filePath(QStringLiteral("library.dxf")));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(fileWithReferences());
-    file.close();
+    const QString file = write("library.dxf", fileWithReferences());
     OdString error = QStringLiteral("none");
-    const OdDbDatabasePtr library = CKvUtils::readDrawing(file.fileName(), error);
+    const OdDbDatabasePtr library = CKvUtils::readDrawing(file, error);
     ASSERT_TRUE(library);
     EXPECT_EQ(error, QString());
-    EXPECT_EQ(library->getFilename(), file.fileName());
-    ASSERT_TRUE(file.remove()) << "it was read";
+    EXPECT_EQ(library->getFilename(), file);
+    ASSERT_TRUE(QFile::remove(file)) << "it was read";
     QStringList names;
     for (const CKvBlock &block : CKvUtils::blocks(library.get()))
         names.append(block.name + (block.isExternal ? QStringLiteral("!") : QString()));
@@ -205,27 +184,12 @@ TEST_F(Bench, blocksGoFromFilesIntoTheDrawing)
     EXPECT_FALSE(CKvUtils::copyBlock(library.get(), QStringLiteral("none"), own).isDone);
     EXPECT_FALSE(CKvUtils::copyBlock(nullptr, QStringLiteral("PLAIN"), own).isDone);
     EXPECT_FALSE(CKvUtils::copyBlock(own, QStringLiteral("PLAIN"), library.get()).isDone);
-    EXPECT_FALSE(CKvUtils::readDrawing(file.fileName(), error));
+    EXPECT_FALSE(CKvUtils::readDrawing(file, error));
     EXPECT_TRUE(error.contains(QStringLiteral("library.dxf")));
 }
 
-TEST_F(Bench, blockPictures)
+TEST_F(Bench, drawingsHaveTheSizeOfWhatTheyShow)
 {
-    lisp("(entmake '((0 . \"BLOCK\") (2 . \"Ring\") (70 . 0) (10 0.0 0.0 0.0)))"
-         "(entmake '((0 . \"CIRCLE\") (8 . \"0\") (10 0.0 0.0 0.0) (40 . 4.0)))"
-         "(entmake '((0 . \"ENDBLK\")))");
-    OdDbDatabase *database = document().database();
-    const QImage ring = CKvUtils::blockPicture(database, QStringLiteral("RING"), {64, 48}, Qt::black);
-    ASSERT_EQ(ring.size(), QSize(64, 48));
-    EXPECT_GT(litPixels(ring), 40);
-    EXPECT_LT(litPixels(ring), 64 * 48 / 2);
-    EXPECT_TRUE(CKvUtils::blockPicture(database, QStringLiteral("none"), {64, 48}, Qt::black).isNull());
-    EXPECT_TRUE(CKvUtils::blockPicture(nullptr, QStringLiteral("Ring"), {64, 48}, Qt::black).isNull());
-}
-
-TEST(Utils, drawingsHaveTheSizeOfWhatTheyShow)
-{
-    const QTemporaryDir folder;
     const struct
     {
         const char *what;
@@ -240,28 +204,29 @@ TEST(Utils, drawingsHaveTheSizeOfWhatTheyShow)
          {}},
         {"no drawing", "\x89PNG", {}},
     };
-    for (const auto &row : rows) {
-        QFile file(folder.filePath(QStringLiteral("drawing.dxf")));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
-        file.write(row.content);
-        file.close();
-        EXPECT_EQ(CKvUtils::drawingSize(file.fileName()), row.size) << row.what;
-    }
-    EXPECT_FALSE(CKvUtils::drawingSize(folder.filePath(QStringLiteral("none.dxf"))).isValid());
+    for (const auto &row : rows)
+        EXPECT_EQ(CKvUtils::drawingSize(write("drawing.dxf", row.content)), row.size) << row.what;
+    EXPECT_FALSE(CKvUtils::drawingSize(path("none.dxf")).isValid());
 }
 
-TEST(Utils, pictures)
+TEST_F(Bench, picturesOfDrawingsAndTheirBlocks)
 {
-    const QTemporaryDir folder;
-    QFile file(folder.filePath(QStringLiteral("host.dxf")));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(fileWithReferences());
-    file.close();
-    const QImage picture = CKvUtils::drawingPicture(file.fileName(), {64, 48}, Qt::black);
-    ASSERT_EQ(picture.size(), QSize(64, 48));
-    EXPECT_GT(litPixels(picture), 40) << "a circle";
-    EXPECT_LT(litPixels(picture), 64 * 48 / 2) << "on black";
-    EXPECT_TRUE(CKvUtils::drawingPicture(folder.filePath(QStringLiteral("none.dxf")), {64, 48}, Qt::black).isNull());
+    const QString file = write("host.dxf", fileWithReferences());
+    ASSERT_TRUE(session.documents().open(file));
+    lisp("(entmake '((0 . \"BLOCK\") (2 . \"Ring\") (70 . 0) (10 0.0 0.0 0.0)))"
+         "(entmake '((0 . \"CIRCLE\") (8 . \"0\") (10 0.0 0.0 0.0) (40 . 4.0)))(entmake '((0 . \"ENDBLK\")))");
+    OdDbDatabase *database = document().database();
+    for (const QImage &picture : {CKvUtils::drawingPicture(file, {64, 48}, Qt::black),
+                                  CKvUtils::blockPicture(database, QStringLiteral("RING"), {64, 48}, Qt::black)}) {
+        ASSERT_EQ(picture.size(), QSize(64, 48));
+        QImage ground = picture;
+        ground.fill(Qt::black);
+        EXPECT_EQ(picture.pixelColor(0, 0), QColor(Qt::black));
+        EXPECT_NE(picture, ground) << "a circle";
+    }
+    EXPECT_TRUE(CKvUtils::drawingPicture(path("none.dxf"), {64, 48}, Qt::black).isNull());
+    EXPECT_TRUE(CKvUtils::blockPicture(database, QStringLiteral("none"), {64, 48}, Qt::black).isNull());
+    EXPECT_TRUE(CKvUtils::blockPicture(nullptr, QStringLiteral("Ring"), {64, 48}, Qt::black).isNull());
 }
 
 } // namespace

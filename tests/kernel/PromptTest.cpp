@@ -2,99 +2,70 @@
 #include "host/kernel/input/UserInput.h"
 #include "tests/kernel/Bench.h"
 
-#include <ostream>
-
 using namespace host::kernel;
 
 namespace {
 
-struct PromptCase
-{
-    const char *name;
-    const char *expression;
-    const char *typed;
-    const char *expected;
-};
-
-std::ostream &operator<<(std::ostream &stream, const PromptCase &row)
-{
-    return stream << row.name;
-}
-
-class LispPrompt : public Bench, public testing::WithParamInterface<PromptCase>
-{
-};
+using LispPrompt = LispTable;
 
 TEST_P(LispPrompt, gives)
 {
-    const PromptCase &row = GetParam();
-    type(row.typed);
-    EXPECT_EQ(lisp(row.expression), row.expected);
-    EXPECT_TRUE(session.input().isEmpty()) << "left over";
+    check();
 }
 
 const char *const cancelled = "error: Function cancelled in ";
 
-INSTANTIATE_TEST_SUITE_P(
-    Numbers, LispPrompt,
-    testing::Values(PromptCase{"integer", "(getint \"\\nN: \")", "42", "42"},
-                    PromptCase{"integer again after a real", "(getint)", "4.5\n7", "7"},
-                    PromptCase{"integer beyond 32 bits", "(getint)", "99999999999\n7", "7"},
-                    PromptCase{"empty answer", "(getint)", "", "nil"},
-                    PromptCase{"empty answer refused", "(initget 1)(getint)", "\n3", "3"},
-                    PromptCase{"zero refused", "(initget 2)(getint)", "0\n-3", "-3"},
-                    PromptCase{"negative refused", "(initget 4)(getreal)", "-1.5\n0", "0.0"},
-                    PromptCase{"all three refused", "(initget 7)(getdist)", "\n0\n-1\n2.5", "2.5"},
-                    PromptCase{"bits hold for one request", "(initget 1)(list (getint) (getint))", "5\n\n", "(5 nil)"},
-                    PromptCase{"real in a form of its own", "(getreal)", "1e3", "1000.0"},
-                    PromptCase{"a blank ends an answer", "(list (getint) (getint))", "1 2", "(1 2)"},
-                    PromptCase{"distance by points", "(getdist)", "0,0 3,4", "5.0"},
-                    PromptCase{"distance from a base", "(getdist '(0 0))", "6,8", "10.0"},
-                    PromptCase{"flat distance", "(initget 64)(getdist '(0 0 0))", "3,4,12", "5.0"},
-                    PromptCase{"distance in feet", "(getdist)", "1'-6\"", "18.0"},
-                    PromptCase{"distance as a fraction", "(getdist)", "1/2", "0.5"},
-                    PromptCase{"angle in degrees", "(equal (getangle) (/ pi 2) 1e-12)", "90", "T"},
-                    PromptCase{"angle by points", "(equal (getangle) (/ pi 4) 1e-12)", "1,1 2,2", "T"},
-                    PromptCase{"angle counts from ANGBASE",
-                               "(setvar \"ANGBASE\" (/ pi 2))(equal (getangle '(0 0)) 0.0 1e-12)", "0,5", "T"},
-                    PromptCase{"orientation does not",
-                               "(setvar \"ANGBASE\" (/ pi 2))(equal (getorient '(0 0)) (/ pi 2) 1e-12)", "0,5", "T"},
-                    PromptCase{"typed orientation counts from ANGBASE",
-                               "(setvar \"ANGBASE\" (/ pi 2))(equal (getorient) pi 1e-12)", "90", "T"}));
+// What is typed and what the prompt gives.
+const LispCase cases[] = {
+    {"integer", "", "(getint \"\\nN: \")", "42", "42"},
+    {"integer again after a real", "", "(getint)", "7", "4.5\n7"},
+    {"integer beyond 32 bits", "", "(getint)", "7", "99999999999\n7"},
+    {"empty answer", "", "(getint)", "nil", ""},
+    {"empty answer refused", "", "(initget 1)(getint)", "3", "\n3"},
+    {"zero refused", "", "(initget 2)(getint)", "-3", "0\n-3"},
+    {"negative refused", "", "(initget 4)(getreal)", "0.0", "-1.5\n0"},
+    {"all three refused", "", "(initget 7)(getdist)", "2.5", "\n0\n-1\n2.5"},
+    {"bits hold for one request", "", "(initget 1)(list (getint) (getint))", "(5 nil)", "5\n\n"},
+    {"real in a form of its own", "", "(getreal)", "1000.0", "1e3"},
+    {"a blank ends an answer", "", "(list (getint) (getint))", "(1 2)", "1 2"},
+    {"distance by points", "", "(getdist)", "5.0", "0,0 3,4"},
+    {"distance from a base", "", "(getdist '(0 0))", "10.0", "6,8"},
+    {"flat distance", "", "(initget 64)(getdist '(0 0 0))", "5.0", "3,4,12"},
+    {"distance in feet", "", "(getdist)", "18.0", "1'-6\""},
+    {"distance as a fraction", "", "(getdist)", "0.5", "1/2"},
+    {"angle in degrees", "", "(equal (getangle) (/ pi 2) 1e-12)", "T", "90"},
+    {"angle by points", "", "(equal (getangle) (/ pi 4) 1e-12)", "T", "1,1 2,2"},
+    {"angle counts from ANGBASE", "", "(setvar \"ANGBASE\" (/ pi 2))(equal (getangle '(0 0)) 0.0 1e-12)", "T", "0,5"},
+    {"orientation does not", "", "(setvar \"ANGBASE\" (/ pi 2))(equal (getorient '(0 0)) (/ pi 2) 1e-12)", "T", "0,5"},
+    {"typed orientation counts from ANGBASE", "", "(setvar \"ANGBASE\" (/ pi 2))(equal (getorient) pi 1e-12)", "T",
+     "90"},
+    {"two coordinates", "", "(getpoint)", "(1.5 -2.0 0.0)", "1.5,-2"},
+    {"three coordinates", "", "(getpoint)", "(1.0 2.0 3.0)", "1,2,3"},
+    {"elevation", "", "(setvar \"ELEVATION\" 7.0)(getpoint)", "(1.0 2.0 7.0)", "1,2"},
+    {"relative to the last point", "", "(getpoint)(getpoint)", "(4.0 6.0 0.0)", "1,2 @3,4"},
+    {"relative to the base", "", "(getpoint '(10.0 10.0))", "(11.0 11.0 0.0)", "@1,1"},
+    {"the last point", "", "(getpoint)(getpoint)", "(1.0 2.0 0.0)", "1,2 @"},
+    {"polar", "", "(equal (getpoint) '(0.0 5.0 0.0) 1e-9)", "T", "5<90"},
+    {"polar and relative", "", "(getpoint)(equal (getpoint) '(1.0 7.0 0.0) 1e-9)", "T", "1,2 @5<90"},
+    {"spherical", "", "(equal (getpoint) '(0.0 0.0 5.0) 1e-9)", "T", "5<0<90"},
+    {"nonsense is asked again", "", "(getpoint)", "(8.0 9.0 0.0)", "1;2\nabc\n1,\n1,2,3,4\n8,9"},
+    {"corner", "", "(getcorner '(0 0))", "(4.0 3.0 0.0)", "4,3"},
+    {"keyword instead", "", "(initget \"Undo eXit\")(getpoint)", "\"eXit\"", "x"},
+    {"any text instead", "", "(initget 128)(getpoint)", "\"whatever\"", "whatever"},
+    {"outside the limits", "", "(setvar \"LIMMAX\" '(5 5))(setvar \"LIMCHECK\" 1)(getpoint)", "(1.0 1.0 0.0)",
+     "9,9\n1,1"},
+    {"outside the limits but wanted", "", "(setvar \"LIMMAX\" '(5 5))(setvar \"LIMCHECK\" 1)(initget 8)(getpoint)",
+     "(9.0 9.0 0.0)", "9,9"},
+    {"string up to a blank", "", "(list (getstring) (getstring))", "(\"ab\" \"cd\")", "ab cd"},
+    {"string with blanks", "", "(getstring T \"Text: \")", "\"ab cd\"", "ab cd"},
+    {"empty string", "", "(getstring)", "\"\"", ""},
+    {"keyword by its capitals", "", "(initget \"LType LWeight Color\")(getkword)", "\"LWeight\"", "lw"},
+    {"no keyword", "", "(initget 1 \"Yes No\")(getkword)", "\"Yes\"", "maybe\n\ny"},
+    {"empty keyword", "", "(initget \"Yes No\")(getkword)", "nil", ""},
+    {"keywords before numbers", "", "(initget \"2D 3D\")(getint)", "\"2D\"", "2D"},
+};
 
-INSTANTIATE_TEST_SUITE_P(
-    Points, LispPrompt,
-    testing::Values(
-        PromptCase{"two coordinates", "(getpoint)", "1.5,-2", "(1.5 -2.0 0.0)"},
-        PromptCase{"three coordinates", "(getpoint)", "1,2,3", "(1.0 2.0 3.0)"},
-        PromptCase{"elevation", "(setvar \"ELEVATION\" 7.0)(getpoint)", "1,2", "(1.0 2.0 7.0)"},
-        PromptCase{"relative to the last point", "(getpoint)(getpoint)", "1,2 @3,4", "(4.0 6.0 0.0)"},
-        PromptCase{"relative to the base", "(getpoint '(10.0 10.0))", "@1,1", "(11.0 11.0 0.0)"},
-        PromptCase{"the last point", "(getpoint)(getpoint)", "1,2 @", "(1.0 2.0 0.0)"},
-        PromptCase{"polar", "(equal (getpoint) '(0.0 5.0 0.0) 1e-9)", "5<90", "T"},
-        PromptCase{"polar and relative", "(getpoint)(equal (getpoint) '(1.0 7.0 0.0) 1e-9)", "1,2 @5<90", "T"},
-        PromptCase{"spherical", "(equal (getpoint) '(0.0 0.0 5.0) 1e-9)", "5<0<90", "T"},
-        PromptCase{"nonsense is asked again", "(getpoint)", "1;2\nabc\n1,\n1,2,3,4\n8,9", "(8.0 9.0 0.0)"},
-        PromptCase{"corner", "(getcorner '(0 0))", "4,3", "(4.0 3.0 0.0)"},
-        PromptCase{"keyword instead", "(initget \"Undo eXit\")(getpoint)", "x", "\"eXit\""},
-        PromptCase{"any text instead", "(initget 128)(getpoint)", "whatever", "\"whatever\""},
-        PromptCase{"outside the limits", "(setvar \"LIMMAX\" '(5 5))(setvar \"LIMCHECK\" 1)(getpoint)", "9,9\n1,1",
-                   "(1.0 1.0 0.0)"},
-        PromptCase{"outside the limits but wanted",
-                   "(setvar \"LIMMAX\" '(5 5))(setvar \"LIMCHECK\" 1)(initget 8)(getpoint)", "9,9", "(9.0 9.0 0.0)"}));
-
-INSTANTIATE_TEST_SUITE_P(
-    Words, LispPrompt,
-    testing::Values(PromptCase{"string up to a blank", "(list (getstring) (getstring))", "ab cd", "(\"ab\" \"cd\")"},
-                    PromptCase{"string with blanks", "(getstring T \"Text: \")", "ab cd", "\"ab cd\""},
-                    PromptCase{"empty string", "(getstring)", "", "\"\""},
-                    PromptCase{"keyword by its capitals", "(initget \"LType LWeight Color\")(getkword)", "lw",
-                               "\"LWeight\""},
-                    PromptCase{"keyword too short", "(initget \"LType LWeight\")(getkword)", "l\nlt", "\"LType\""},
-                    PromptCase{"keyword with an abbreviation", "(initget \"LTYPE,LT\")(getkword)", "lt", "\"LTYPE\""},
-                    PromptCase{"no keyword", "(initget 1 \"Yes No\")(getkword)", "maybe\n\ny", "\"Yes\""},
-                    PromptCase{"empty keyword", "(initget \"Yes No\")(getkword)", "", "nil"},
-                    PromptCase{"keywords before numbers", "(initget \"2D 3D\")(getint)", "2D", "\"2D\""}));
+INSTANTIATE_TEST_SUITE_P(All, LispPrompt, testing::ValuesIn(cases));
 
 TEST_F(Bench, nobodyThereCancelsWithAClearMessage)
 {

@@ -20,7 +20,7 @@ const char *const sample =
     "(defun places (set) (mapcar 'cadr (show set)))"
     "(defun count (set) (if set (sslength set) 0))";
 
-class Selecting : public Bench, public testing::WithParamInterface<LispCase>
+class Selecting : public LispTable
 {
 protected:
     Selecting()
@@ -32,87 +32,60 @@ protected:
 
 TEST_P(Selecting, gives)
 {
-    const LispCase &row = GetParam();
-    type(row.setUp);
-    EXPECT_EQ(lisp(row.expression), row.expected);
+    check();
 }
 
-// setUp: what is typed.
-INSTANTIATE_TEST_SUITE_P(
-    ByPlaceAndFilter, Selecting,
-    testing::Values(
-        LispCase{"the whole drawing, newest first", "", "(types (ssget \"X\"))",
-                 "(\"TEXT\" \"CIRCLE\" \"LINE\" \"LINE\" \"LINE\")"},
-        LispCase{"by type", "", "(count (ssget \"X\" '((0 . \"LINE\"))))", "3"},
-        LispCase{"by a list of types", "", "(count (ssget \"_X\" '((0 . \"LINE,TEXT\"))))", "4"},
-        LispCase{"by layer pattern", "", "(types (ssget \"X\" '((8 . \"R*\"))))", "(\"CIRCLE\")"},
-        LispCase{"by colour", "", "(types (ssget \"X\" '((62 . 3))))", "(\"CIRCLE\")"},
-        LispCase{"by text", "", "(types (ssget \"X\" '((1 . \"plan*\"))))", "(\"TEXT\")"},
-        LispCase{"by size", "", "(types (ssget \"X\" '((-4 . \">\") (40 . 2.0))))", "(\"CIRCLE\")"},
-        LispCase{"by place", "", "(count (ssget \"X\" '((0 . \"LINE\") (-4 . \">=,*,*\") (10 10.0 0.0 0.0))))", "2"},
-        LispCase{"one or the other", "",
-                 "(count (ssget \"X\" '((-4 . \"<OR\") (0 . \"TEXT\") (-4 . \"<AND\") (0 . \"LINE\") (10 0.0 0.0 0.0)"
-                 " (-4 . \"AND>\") (-4 . \"OR>\"))))",
-                 "2"},
-        LispCase{"not", "", "(types (ssget \"X\" '((-4 . \"<NOT\") (0 . \"LINE\") (-4 . \"NOT>\"))))",
-                 "(\"TEXT\" \"CIRCLE\")"},
-        LispCase{"in a layout", "", "(count (ssget \"X\" '((410 . \"Model\"))))", "5"},
-        LispCase{"nothing matches", "", "(ssget \"X\" '((0 . \"HATCH\")))", "nil"},
-        LispCase{"a filter that does not close", "",
-                 "(substr (vl-catch-all-error-message (vl-catch-all-apply 'ssget '(\"X\" ((-4 . \"<OR\") (0 . "
-                 "\"LINE\"))))) 1 14)",
-                 "\"bad SSGET list\""},
-        LispCase{"window", "", "(places (ssget \"W\" '(-1 -1) '(11 6)))", "(10.0 0.0)"},
-        LispCase{"window cuts nothing", "", "(ssget \"W\" '(-1 -1) '(11 4))", "nil"},
-        LispCase{"crossing", "", "(places (ssget \"C\" '(-1 -1) '(11 4)))", "(10.0 0.0)"},
-        LispCase{"crossing with filter", "", "(types (ssget \"C\" '(-1 -1) '(100 100) '((0 . \"CIRCLE\"))))",
-                 "(\"CIRCLE\")"},
-        LispCase{"fence", "", "(places (ssget \"F\" '((5 2) (25 2))))", "(20.0 10.0)"},
-        LispCase{"window polygon", "", "(places (ssget \"WP\" '((-1 -1) (5 -1) (5 6) (-1 6))))", "(0.0)"},
-        LispCase{"crossing polygon", "", "(places (ssget \"CP\" '((-1 2) (15 2) (15 3))))", "(10.0 0.0)"},
-        LispCase{"at a point", "", "(places (ssget '(10.0 2.0)))", "(10.0)"},
-        LispCase{"at an empty point", "", "(ssget '(15.0 2.0))", "nil"},
-        LispCase{"last", "", "(types (ssget \"L\"))", "(\"TEXT\")"},
-        LispCase{"previous", "", "(ssget \"W\" '(-1 -1) '(11 6))(places (ssget \"P\"))", "(10.0 0.0)"},
-        LispCase{"an unknown method", "", "(ssget \"Q\")",
-                 "error: bad argument value: SSGET mode string \"Q\" in (SSGET), argument 1"},
-        LispCase{"frozen layers are out", "",
-                 "(command \"_.-LAYER\" \"_F\" \"RED\" \"\")(list (count (ssget \"A\")) (count (ssget \"X\")))",
-                 "(4 5)"},
-        LispCase{"what is off cannot be picked", "", "(command \"_.-LAYER\" \"_OFF\" \"RED\" \"\")(ssget '(55.0 50.0))",
-                 "nil"}));
-
-INSTANTIATE_TEST_SUITE_P(
-    ByTheUser, Selecting,
-    testing::Values(LispCase{"all", "all\n\n", "(count (ssget))", "5"},
-                    LispCase{"a pick", "0,2\n\n", "(places (ssget))", "(0.0)"},
-                    LispCase{"picks add up, none counts twice", "0,2\n10,2\n0,3\n\n", "(places (ssget))", "(0.0 10.0)"},
-                    LispCase{"a corner in the empty begins a window", "-1,-1\n11,6\n\n", "(places (ssget))",
-                             "(0.0 10.0)"},
-                    LispCase{"to the left it crosses", "15,3\n-1,-1\n\n", "(places (ssget))", "(0.0 10.0)"},
-                    LispCase{"window by word", "w\n-1,-1\n11,6\n\n", "(places (ssget))", "(0.0 10.0)"},
-                    LispCase{"fence by word", "f\n5,2\n25,2\n\n\n", "(places (ssget))", "(10.0 20.0)"},
-                    LispCase{"remove", "all\nr\n0,2\n\n", "(count (ssget))", "4"},
-                    LispCase{"add again", "all\nr\nc\n-1,-1\n25,3\na\n0,2\n\n", "(count (ssget))", "3"},
-                    LispCase{"undo a step", "0,2\nall\nu\n\n", "(places (ssget))", "(0.0)"},
-                    LispCase{"last", "l\n\n", "(types (ssget))", "(\"TEXT\")"},
-                    LispCase{"filtered", "all\n\n", "(types (ssget '((0 . \"CIRCLE\"))))", "(\"CIRCLE\")"},
-                    LispCase{"single", "0,2\n", "(places (ssget \":S\"))", "(0.0)"},
-                    LispCase{"no locked layers", "all\n\n",
-                             "(command \"_.-LAYER\" \"_LO\" \"RED\" \"\")(count (ssget \"_:L\"))", "4"},
-                    LispCase{"nothing", "\n", "(ssget)", "nil"},
-                    LispCase{"nonsense is asked again", "foo\nall\n\n", "(count (ssget))", "5"},
-                    LispCase{"an entity by expression", "(entlast)\n\n", "(types (ssget))", "(\"TEXT\")"}));
-
-class Picking : public Bench
-{
-protected:
-    Picking()
-    {
-        document().setView({});
-        lisp(sample);
-    }
+const LispCase cases[] = {
+    {"the whole drawing, newest first", "", "(types (ssget \"X\"))",
+     "(\"TEXT\" \"CIRCLE\" \"LINE\" \"LINE\" \"LINE\")"},
+    {"by type", "", "(count (ssget \"X\" '((0 . \"LINE\"))))", "3"},
+    {"by place", "", "(count (ssget \"X\" '((0 . \"LINE\") (-4 . \">=,*,*\") (10 10.0 0.0 0.0))))", "2"},
+    {"one or the other", "",
+     "(count (ssget \"X\" '((-4 . \"<OR\") (0 . \"TEXT\") (-4 . \"<AND\") (0 . \"LINE\") (10 0.0 0.0 0.0) (-4 . "
+     "\"AND>\") (-4 . \"OR>\"))))",
+     "2"},
+    {"in a layout", "", "(count (ssget \"X\" '((410 . \"Model\"))))", "5"},
+    {"a filter that does not close", "",
+     "(substr (vl-catch-all-error-message (vl-catch-all-apply 'ssget '(\"X\" ((-4 . \"<OR\") (0 . \"LINE\"))))) 1 14)",
+     "\"bad SSGET list\""},
+    {"window", "", "(places (ssget \"W\" '(-1 -1) '(11 6)))", "(10.0 0.0)"},
+    {"window cuts nothing", "", "(ssget \"W\" '(-1 -1) '(11 4))", "nil"},
+    {"crossing", "", "(places (ssget \"C\" '(-1 -1) '(11 4)))", "(10.0 0.0)"},
+    {"crossing with filter", "", "(types (ssget \"C\" '(-1 -1) '(100 100) '((0 . \"CIRCLE\"))))", "(\"CIRCLE\")"},
+    {"fence", "", "(places (ssget \"F\" '((5 2) (25 2))))", "(20.0 10.0)"},
+    {"window polygon", "", "(places (ssget \"WP\" '((-1 -1) (5 -1) (5 6) (-1 6))))", "(0.0)"},
+    {"crossing polygon", "", "(places (ssget \"CP\" '((-1 2) (15 2) (15 3))))", "(10.0 0.0)"},
+    {"at a point", "", "(places (ssget '(10.0 2.0)))", "(10.0)"},
+    {"at an empty point", "", "(ssget '(15.0 2.0))", "nil"},
+    {"last", "", "(types (ssget \"L\"))", "(\"TEXT\")"},
+    {"previous", "", "(ssget \"W\" '(-1 -1) '(11 6))(places (ssget \"P\"))", "(10.0 0.0)"},
+    {"an unknown method", "", "(ssget \"Q\")",
+     "error: bad argument value: SSGET mode string \"Q\" in (SSGET), argument 1"},
+    {"frozen layers are out", "",
+     "(command \"_.-LAYER\" \"_F\" \"RED\" \"\")(list (count (ssget \"A\")) (count (ssget \"X\")))", "(4 5)"},
+    {"what is off cannot be picked", "", "(command \"_.-LAYER\" \"_OFF\" \"RED\" \"\")(ssget '(55.0 50.0))", "nil"},
+    {"all", "", "(count (ssget))", "5", "all\n\n"},
+    {"a pick", "", "(places (ssget))", "(0.0)", "0,2\n\n"},
+    {"picks add up, none counts twice", "", "(places (ssget))", "(0.0 10.0)", "0,2\n10,2\n0,3\n\n"},
+    {"a corner in the empty begins a window", "", "(places (ssget))", "(0.0 10.0)", "-1,-1\n11,6\n\n"},
+    {"to the left it crosses", "", "(places (ssget))", "(0.0 10.0)", "15,3\n-1,-1\n\n"},
+    {"window by word", "", "(places (ssget))", "(0.0 10.0)", "w\n-1,-1\n11,6\n\n"},
+    {"fence by word", "", "(places (ssget))", "(10.0 20.0)", "f\n5,2\n25,2\n\n\n"},
+    {"remove", "", "(count (ssget))", "4", "all\nr\n0,2\n\n"},
+    {"add again", "", "(count (ssget))", "3", "all\nr\nc\n-1,-1\n25,3\na\n0,2\n\n"},
+    {"undo a step", "", "(places (ssget))", "(0.0)", "0,2\nall\nu\n\n"},
+    {"last by word", "", "(types (ssget))", "(\"TEXT\")", "l\n\n"},
+    {"filtered", "", "(types (ssget '((0 . \"CIRCLE\"))))", "(\"CIRCLE\")", "all\n\n"},
+    {"single", "", "(places (ssget \":S\"))", "(0.0)", "0,2\n"},
+    {"no locked layers", "", "(command \"_.-LAYER\" \"_LO\" \"RED\" \"\")(count (ssget \"_:L\"))", "4", "all\n\n"},
+    {"nothing", "", "(ssget)", "nil", "\n"},
+    {"nonsense is asked again", "", "(count (ssget))", "5", "foo\nall\n\n"},
+    {"an entity by expression", "", "(types (ssget))", "(\"TEXT\")", "(entlast)\n\n"},
 };
+
+INSTANTIATE_TEST_SUITE_P(All, Selecting, testing::ValuesIn(cases));
+
+using Picking = Selecting;
 
 TEST_F(Picking, selectingIsCancelledWhenNobodyIsThere)
 {

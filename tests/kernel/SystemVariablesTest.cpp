@@ -12,62 +12,57 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-class Variables : public Bench, public testing::WithParamInterface<LispCase>
-{
-};
+using Variables = LispTable;
 
 TEST_P(Variables, gives)
 {
-    const LispCase &row = GetParam();
-    if (*row.setUp)
-        lisp(row.setUp);
-    EXPECT_EQ(lisp(row.expression), row.expected);
+    check();
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    All, Variables,
-    testing::Values(
-        LispCase{"any letter case", "(setvar \"cmdecho\" 0)", "(getvar \"CmdEcho\")", "0"},
-        LispCase{"unknown", "", "(getvar \"NOSUCH\")", "nil"},
-        LispCase{"setting an unknown one", "", "(setvar \"NOSUCH\" 1)",
-                 "error: variable setting rejected: \"NOSUCH\" 1 (unknown) in (SETVAR)"},
-        LispCase{"read-only", "", "(setvar \"DWGNAME\" \"x\")",
-                 "error: variable setting rejected: \"DWGNAME\" \"x\" (read-only) in (SETVAR)"},
-        LispCase{"out of range", "", "(setvar \"LUNITS\" 9)",
-                 "error: variable setting rejected: \"LUNITS\" 9 (out of range) in (SETVAR)"},
-        LispCase{"of another type", "", "(setvar \"LUNITS\" 2.5)",
-                 "error: variable setting rejected: \"LUNITS\" 2.5 (of another type) in (SETVAR)"},
-        LispCase{"an integer for a real", "(setvar \"LTSCALE\" 3)", "(getvar \"LTSCALE\")", "3.0"},
-        LispCase{"angles are radians", "(setvar \"ANGBASE\" 1.0)", "(equal (getvar \"ANGBASE\") 1.0 1e-12)", "T"},
-        LispCase{"a layer that exists", "(entmake '((0 . \"LAYER\") (2 . \"A\") (70 . 0)))(setvar \"CLAYER\" \"A\")",
-                 "(getvar \"CLAYER\")", "\"A\""},
-        LispCase{"a layer that does not", "", "(setvar \"CLAYER\" \"NONE\")",
-                 "error: variable setting rejected: \"CLAYER\" \"NONE\" (out of range) in (SETVAR)"},
-        LispCase{"colour as text", "(setvar \"CECOLOR\" \"3\")", "(getvar \"CECOLOR\")", "\"3\""},
-        LispCase{"colour by layer", "(setvar \"CECOLOR\" \"3\")(setvar \"CECOLOR\" \"bylayer\")",
-                 "(getvar \"CECOLOR\")", "\"BYLAYER\""},
-        LispCase{"the model tab", "", "(list (getvar \"CTAB\") (getvar \"TILEMODE\"))", "(\"Model\" 1)"},
-        LispCase{"the layout tab", "(setvar \"CTAB\" \"layout1\")", "(list (getvar \"CTAB\") (getvar \"TILEMODE\"))",
-                 "(\"Layout1\" 0)"},
-        LispCase{"entities go into the current tab", "(setvar \"TILEMODE\" 0)(command \"POINT\" '(0 0))",
-                 "(cdr (assoc 67 (entget (entlast))))", "1"},
-        LispCase{"limits of the sheet are its own",
-                 "(setq m (getvar \"LIMMAX\"))(setvar \"TILEMODE\" 0)(setvar \"LIMMAX\" '(42 29))",
-                 "(list (cdr (assoc 11 (dictsearch (cdr (assoc -1 (dictsearch (namedobjdict) \"ACAD_LAYOUT\")))"
-                 " \"Layout1\"))) (getvar \"LIMMAX\") (getvar \"CVPORT\") (setvar \"TILEMODE\" 1)"
-                 " (equal m (getvar \"LIMMAX\")) (getvar \"CVPORT\"))",
-                 "((42.0 29.0 0.0) (42.0 29.0) 1 1 T 2)"},
-        LispCase{"points", "(setvar \"LIMMAX\" '(420 297))", "(getvar \"LIMMAX\")", "(420.0 297.0)"},
-        LispCase{"extents of an empty drawing", "", "(getvar \"EXTMIN\")", "(1.0e+20 1.0e+20 1.0e+20)"},
-        LispCase{"extents follow the drawing", "(command \"LINE\" '(1 2) '(30 20) \"\")",
-                 "(list (getvar \"EXTMIN\") (getvar \"EXTMAX\"))", "((1.0 2.0 0.0) (30.0 20.0 0.0))"},
-        LispCase{"modified", "(entmake '((0 . \"POINT\") (10 0 0 0)))", "(getvar \"DBMOD\")", "1"},
-        LispCase{"not modified", "", "(getvar \"DBMOD\")", "0"},
-        LispCase{"a header variable without a row", "", "(getvar \"SPLINESEGS\")", "8"},
-        LispCase{"the name of a new drawing", "", "(list (getvar \"DWGNAME\") (getvar \"DWGTITLED\"))",
-                 "(\"Drawing1\" 0)"},
-        LispCase{"numbers follow the drawing", "(setvar \"LUNITS\" 4)(setvar \"LUPREC\" 1)", "(rtos 17.5)",
-                 "\"1'-5 1/2\\\"\""}));
+const LispCase cases[] = {
+    {"any letter case", "(setvar \"cmdecho\" 0)", "(getvar \"CmdEcho\")", "0"},
+    {"unknown", "", "(getvar \"NOSUCH\")", "nil"},
+    {"setting an unknown one", "", "(setvar \"NOSUCH\" 1)",
+     "error: variable setting rejected: \"NOSUCH\" 1 (unknown) in (SETVAR)"},
+    {"read-only", "", "(setvar \"DWGNAME\" \"x\")",
+     "error: variable setting rejected: \"DWGNAME\" \"x\" (read-only) in (SETVAR)"},
+    {"out of range", "", "(setvar \"LUNITS\" 9)",
+     "error: variable setting rejected: \"LUNITS\" 9 (out of range) in (SETVAR)"},
+    {"of another type", "", "(setvar \"LUNITS\" 2.5)",
+     "error: variable setting rejected: \"LUNITS\" 2.5 (of another type) in (SETVAR)"},
+    {"an integer for a real", "(setvar \"LTSCALE\" 3)", "(getvar \"LTSCALE\")", "3.0"},
+    {"angles are radians", "(setvar \"ANGBASE\" 1.0)", "(equal (getvar \"ANGBASE\") 1.0 1e-12)", "T"},
+    {"a layer that exists", "(entmake '((0 . \"LAYER\") (2 . \"A\") (70 . 0)))(setvar \"CLAYER\" \"A\")",
+     "(getvar \"CLAYER\")", "\"A\""},
+    {"a layer that does not", "", "(setvar \"CLAYER\" \"NONE\")",
+     "error: variable setting rejected: \"CLAYER\" \"NONE\" (out of range) in (SETVAR)"},
+    {"colour as text", "(setvar \"CECOLOR\" \"3\")", "(getvar \"CECOLOR\")", "\"3\""},
+    {"colour by layer", "(setvar \"CECOLOR\" \"3\")(setvar \"CECOLOR\" \"bylayer\")", "(getvar \"CECOLOR\")",
+     "\"BYLAYER\""},
+    {"the model tab", "", "(list (getvar \"CTAB\") (getvar \"TILEMODE\"))", "(\"Model\" 1)"},
+    {"the layout tab", "(setvar \"CTAB\" \"layout1\")", "(list (getvar \"CTAB\") (getvar \"TILEMODE\"))",
+     "(\"Layout1\" 0)"},
+    {"entities go into the current tab", "(setvar \"TILEMODE\" 0)(command \"POINT\" '(0 0))",
+     "(cdr (assoc 67 (entget (entlast))))", "1"},
+    {"limits of the sheet are its own",
+     "(setq m (getvar \"LIMMAX\"))(setvar \"TILEMODE\" 0)(setvar \"LIMMAX\" '(42 29))",
+     "(list (cdr (assoc 11 (dictsearch (cdr (assoc -1 (dictsearch (namedobjdict) \"ACAD_LAYOUT\")))"
+     " \"Layout1\"))) (getvar \"LIMMAX\") (getvar \"CVPORT\") (setvar \"TILEMODE\" 1)"
+     " (equal m (getvar \"LIMMAX\")) (getvar \"CVPORT\"))",
+     "((42.0 29.0 0.0) (42.0 29.0) 1 1 T 2)"},
+    {"points", "(setvar \"LIMMAX\" '(420 297))", "(getvar \"LIMMAX\")", "(420.0 297.0)"},
+    {"extents of an empty drawing", "", "(getvar \"EXTMIN\")", "(1.0e+20 1.0e+20 1.0e+20)"},
+    {"extents follow the drawing", "(command \"LINE\" '(1 2) '(30 20) \"\")",
+     "(list (getvar \"EXTMIN\") (getvar \"EXTMAX\"))", "((1.0 2.0 0.0) (30.0 20.0 0.0))"},
+    {"modified", "(entmake '((0 . \"POINT\") (10 0 0 0)))", "(getvar \"DBMOD\")", "1"},
+    {"not modified", "", "(getvar \"DBMOD\")", "0"},
+    {"a header variable without a row", "", "(getvar \"SPLINESEGS\")", "8"},
+    {"the name of a new drawing", "", "(list (getvar \"DWGNAME\") (getvar \"DWGTITLED\"))", "(\"Drawing1\" 0)"},
+    {"numbers follow the drawing", "(setvar \"LUNITS\" 4)(setvar \"LUPREC\" 1)", "(rtos 17.5)", "\"1'-5 1/2\\\"\""},
+    {"a group of undo that is open", "(command \"_.UNDO\" \"_BE\")", "(getvar \"UNDOCTL\")", "13"},
+};
+
+INSTANTIATE_TEST_SUITE_P(All, Variables, testing::ValuesIn(cases));
 
 TEST_F(Bench, aSettingKeptInAnObjectIsStoredWhenTheRunEnds)
 {

@@ -6,144 +6,91 @@ using namespace host::kernel;
 
 namespace {
 
-class Undoing : public Bench
+/// Steps as "ACTION COUNT|...", COUNT the entities that are there after it. An action is Lisp, "undo" or "redo" (with a
+/// number), "outside" for a change by no run, or a command's name.
+struct UndoCase
 {
-protected:
-    int entities() { return int(drawing().entities().all().size()); }
-    UndoSteps &steps() { return document().undoSteps(); }
+    const char *name;
+    const char *steps;
 };
 
-const char *const addTwo = "(entmake '((0 . \"POINT\") (10 0 0 0)))(command \"POINT\" '(1 1))";
-
-TEST_F(Undoing, aWholeRunIsOneStep)
+std::ostream &operator<<(std::ostream &stream, const UndoCase &row)
 {
-    lisp(addTwo);
-    lisp(addTwo);
-    EXPECT_EQ(entities(), 4);
-    EXPECT_EQ(steps().undo(), 1);
-    EXPECT_EQ(entities(), 2);
-    EXPECT_EQ(steps().redo(), 1);
-    EXPECT_EQ(entities(), 4);
-    EXPECT_EQ(steps().undo(5), 2);
-    EXPECT_EQ(entities(), 0);
-    EXPECT_FALSE(document().isModified());
+    return stream << row.name;
 }
 
-TEST_F(Undoing, aRunThatChangesNothingLeavesNoStep)
+class Undoing : public Bench, public testing::WithParamInterface<UndoCase>
+{
+protected:
+    Undoing()
+    {
+        lisp("(defun point () (command \"POINT\" '(9 9)))"
+             "(defun add () (entmake '((0 . \"POINT\") (10 0 0 0))) (point))"
+             "(defun undo (how) (command \"_.UNDO\" how))");
+    }
+    UndoSteps &steps() { return document().undoSteps(); }
+    void take(const QString &action)
+    {
+        const int count = action.section(u' ', 1).toInt();
+        if (action.startsWith(u"undo"))
+            steps().undo(std::max(count, 1));
+        else if (action.startsWith(u"redo"))
+            steps().redo(std::max(count, 1));
+        else if (action == u"outside")
+            drawing().entities().create({{0, QStringLiteral("POINT")}, {10, host::drawing::Vec3{}}});
+        else if (action.startsWith(u'('))
+            lisp(action.toStdString());
+        else
+            document().runCommand(action);
+    }
+};
+
+TEST_P(Undoing, leaves)
+{
+    for (const QString &step : QString::fromLatin1(GetParam().steps).split(u'|')) {
+        SCOPED_TRACE(step.toStdString());
+        const qsizetype blank = step.lastIndexOf(u' ');
+        take(step.left(blank));
+        EXPECT_EQ(drawing().entities().all().size(), step.mid(blank).toUInt());
+        EXPECT_EQ(document().isModified(), !drawing().entities().all().empty());
+    }
+}
+
+const UndoCase cases[] = {
+    {"a whole run is one step", "(add) 2|(add) 4|undo 2|redo 4|undo 5 0"},
+    {"a failed run can be undone", "(progn (add) (car 5)) 2|undo 0"},
+    {"commands by name", "(add) 2|U 0|_.REDO 2|REDO 2"},
+    {"a new change forgets what was undone", "(add) 2|undo 0|(point) 1|redo 1"},
+    {"a program takes back what it just did", "(progn (point) (point) (command \"_.U\")) 1|undo 0"},
+    {"mark and back inside a run", "(add) 2|(progn (point) (undo \"_Mark\") (add) (add) (undo \"_Back\")) 3|undo 2"},
+    {"a group inside a run is one step of it",
+     "(progn (point) (undo \"_BE\") (add) (add) (undo \"_E\") (command \"_.U\")) 1"},
+    // Points around the groups go with the first and the last one; a group without any change does not count.
+    {"a run leaves a step for each of several groups",
+     "(progn (point) (undo \"_BE\") (add) (undo \"_E\") (undo \"_BE\") (undo \"_E\") (undo \"_BE\") (add)"
+     " (undo \"_E\") (point)) 6|undo 3|redo 6|undo 5 0"},
+    {"a group over several runs is one step", "(undo \"_BE\") 0|(add) 2|(add) 4|(undo \"_E\") 4|undo 0"},
+    {"a number of steps", "(add) 2|(add) 4|(add) 6|(undo 2) 2|(undo \"5\") 0"},
+    {"changes outside of runs are steps too", "outside 1|(add) 3|undo 1|undo 0"},
+};
+
+INSTANTIATE_TEST_SUITE_P(All, Undoing, testing::ValuesIn(cases));
+
+TEST_F(Bench, aRunThatChangesNothingLeavesNoStep)
 {
     lisp("(+ 1 2)");
     lisp("(entmake '((0 . \"NOSUCH\")))");
     lisp("(setvar \"CMDECHO\" 0)");
     document().runCommand(QStringLiteral("REGEN"));
-    EXPECT_FALSE(steps().canUndo());
+    EXPECT_FALSE(document().undoSteps().canUndo());
     EXPECT_FALSE(document().isModified());
 }
 
-TEST_F(Undoing, aFailedRunCanBeUndone)
-{
-    lisp(std::string(addTwo) + "(car 5)");
-    EXPECT_EQ(entities(), 2);
-    EXPECT_EQ(steps().undo(), 1);
-    EXPECT_EQ(entities(), 0);
-}
-
-TEST_F(Undoing, commandsByName)
-{
-    lisp(addTwo);
-    document().runCommand(QStringLiteral("U"));
-    EXPECT_EQ(entities(), 0);
-    document().runCommand(QStringLiteral("_.REDO"));
-    EXPECT_EQ(entities(), 2);
-    EXPECT_EQ(steps().undoName(), QStringLiteral("LISP"));
-    document().runCommand(QStringLiteral("REDO"));
-    EXPECT_EQ(entities(), 2);
-}
-
-TEST_F(Undoing, aNewChangeForgetsWhatWasUndone)
-{
-    lisp(addTwo);
-    steps().undo();
-    lisp("(command \"POINT\" '(5 5))");
-    EXPECT_FALSE(steps().canRedo());
-    EXPECT_EQ(entities(), 1);
-}
-
-TEST_F(Undoing, aProgramTakesBackWhatItJustDid)
-{
-    lisp("(command \"POINT\" '(0 0))(command \"POINT\" '(1 1))(command \"_.U\")");
-    EXPECT_EQ(entities(), 1);
-    EXPECT_EQ(steps().undo(), 1);
-    EXPECT_EQ(entities(), 0);
-}
-
-TEST_F(Undoing, markAndBackInsideARun)
-{
-    lisp(addTwo);
-    lisp(std::string("(command \"POINT\" '(9 9))(command \"_.UNDO\" \"_Mark\")") + addTwo + addTwo +
-         "(command \"_.UNDO\" \"_Back\")");
-    EXPECT_EQ(entities(), 3);
-    steps().undo();
-    EXPECT_EQ(entities(), 2);
-}
-
-TEST_F(Undoing, aGroupInsideARunIsOneStepOfIt)
-{
-    lisp(std::string("(command \"POINT\" '(9 9))(command \"_.UNDO\" \"_BE\")") + addTwo + addTwo +
-         "(command \"_.UNDO\" \"_E\")(command \"_.U\")");
-    EXPECT_EQ(entities(), 1);
-}
-
-TEST_F(Undoing, aRunLeavesAStepForEachOfSeveralGroups)
-{
-    const std::string begin = "(command \"_.UNDO\" \"_BE\")";
-    const std::string end = "(command \"_.UNDO\" \"_E\")";
-    const std::string point = "(command \"POINT\" '(9 9))";
-    // Points around the groups go with the first and the last one; a group without any change does not count.
-    lisp(point + begin + addTwo + end + begin + end + begin + addTwo + end + point);
-    EXPECT_EQ(entities(), 6);
-    EXPECT_EQ(steps().undo(), 1);
-    EXPECT_EQ(entities(), 3);
-    EXPECT_EQ(steps().redo(), 1);
-    EXPECT_EQ(entities(), 6);
-    EXPECT_EQ(steps().undo(5), 2);
-    EXPECT_EQ(entities(), 0);
-}
-
-TEST_F(Undoing, aGroupOverSeveralRunsIsOneStep)
-{
-    lisp("(command \"_.UNDO\" \"_BE\")");
-    EXPECT_EQ(lisp("(getvar \"UNDOCTL\")"), "13");
-    lisp(addTwo);
-    lisp(addTwo);
-    lisp("(command \"_.UNDO\" \"_E\")");
-    EXPECT_EQ(steps().undo(), 1);
-    EXPECT_EQ(entities(), 0);
-}
-
-TEST_F(Undoing, aNumberOfSteps)
-{
-    for (int i = 0; i < 3; ++i)
-        lisp(addTwo);
-    lisp("(command \"_.UNDO\" 2)");
-    EXPECT_EQ(entities(), 2);
-    lisp("(command \"_.UNDO\" \"5\")");
-    EXPECT_EQ(entities(), 0);
-}
-
-TEST_F(Undoing, changesOutsideOfRunsAreStepsToo)
-{
-    drawing().entities().create({{0, QStringLiteral("POINT")}, {10, host::drawing::Vec3{}}});
-    lisp(addTwo);
-    EXPECT_EQ(steps().undo(), 1);
-    EXPECT_EQ(entities(), 1);
-    EXPECT_EQ(steps().undo(), 1);
-    EXPECT_EQ(entities(), 0);
-}
-
-TEST_F(Undoing, headerVariablesAreUndoneToo)
+TEST_F(Bench, headerVariablesAreUndoneToo)
 {
     lisp("(setvar \"LTSCALE\" 7.5)");
-    steps().undo();
+    lisp("(setvar \"LTSCALE\" 2.5)");
+    EXPECT_EQ(document().undoSteps().undo(5), 2) << "there are no more";
     EXPECT_EQ(lisp("(getvar \"LTSCALE\")"), "1.0");
 }
 
