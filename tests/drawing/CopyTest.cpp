@@ -21,29 +21,21 @@ std::unique_ptr<Drawing> furnished(const QByteArray &version)
 {
     auto drawing = sample(version);
     Tables &tables = drawing->tables();
-    tables.add(TableKind::Linetype, u"DASHED"_s,
-               {{73, qint64(2)}, {40, 0.75}, {49, 0.5}, {74, qint64(0)}, {49, -0.25}, {74, qint64(0)}});
-    tables.add(TableKind::Layer, u"Walls"_s, {{62, qint64(3)}, {6, u"DASHED"_s}});
-    tables.add(TableKind::Style, u"Notes"_s, {{3, u"arial.ttf"_s}});
+    tables.add(TableKind::Linetype, u"DASHED"_s, fieldsOf("73 2|40 0.75|49 0.5|74 0|49 -0.25|74 0"));
+    tables.add(TableKind::Layer, u"Walls"_s, fieldsOf("62 3|6 DASHED"));
+    tables.add(TableKind::Style, u"Notes"_s, fieldsOf("3 arial.ttf"));
     tables.add(TableKind::Layer, u"Unused"_s);
     const RecordId inner = drawing->blocks().create(u"Inner"_s, {});
-    drawing->entities().createInBlock(inner, {{0, u"CIRCLE"_s}, {8, u"Walls"_s}, {10, Vec3{}}, {40, 1.0}});
+    drawing->entities().createInBlock(inner, fieldsOf("0 CIRCLE|8 Walls|10 0,0,0|40 1.0"));
     const RecordId outer = drawing->blocks().create(u"Outer"_s, {1, 1, 0});
-    drawing->entities().createInBlock(outer, {{0, u"INSERT"_s}, {2, u"Inner"_s}, {10, Vec3{5, 5, 0}}});
+    drawing->entities().createInBlock(outer, fieldsOf("0 INSERT|2 Inner|10 5,5,0"));
     const RecordId anonymous = drawing->blocks().create(u"*U"_s, {}, 1);
-    drawing->entities().createInBlock(anonymous, {{0, u"POINT"_s}, {10, Vec3{9, 9, 0}}});
+    drawing->entities().createInBlock(anonymous, fieldsOf("0 POINT|10 9,9,0"));
     Entities &entities = drawing->entities();
-    entities.create({{0, u"TEXT"_s},
-                     {8, u"Walls"_s},
-                     {7, u"Notes"_s},
-                     {10, Vec3{}},
-                     {40, 2.0},
-                     {1, u"žluť"_s},
-                     {1001, u"TOOL"_s},
-                     {1000, u"x"_s}});
-    entities.createComplex({{0, u"INSERT"_s}, {2, u"Outer"_s}, {10, Vec3{10, 10, 0}}},
-                           {{{0, u"ATTRIB"_s}, {10, Vec3{}}, {40, 1.0}, {1, u"v"_s}, {2, u"T"_s}, {7, u"Notes"_s}}});
-    entities.create({{0, u"INSERT"_s}, {2, u"*U0"_s}, {10, Vec3{}}});
+    entities.create(fieldsOf("0 TEXT|8 Walls|7 Notes|10 0,0,0|40 2.0|1 žluť|1001 TOOL|1000 x"));
+    entities.createComplex(fieldsOf("0 INSERT|2 Outer|10 10,10,0"),
+                           {fieldsOf("0 ATTRIB|10 0,0,0|40 1.0|1 v|2 T|7 Notes")});
+    entities.create(fieldsOf("0 INSERT|2 *U0|10 0,0,0"));
     return drawing;
 }
 
@@ -63,8 +55,8 @@ void expectFurnished(const Drawing &drawing, const std::vector<RecordId> &entiti
 
 TEST(Copy, ToANewDrawingWithAllItNeeds)
 {
-    for (const QByteArray &version : {QByteArray("AC1009"), QByteArray("AC1015"), QByteArray("AC1032")}) {
-        SCOPED_TRACE(version.toStdString());
+    for (const char *version : {"AC1009", "AC1015", "AC1032"}) {
+        SCOPED_TRACE(version);
         const auto source = furnished(version);
         const QByteArray before = source->toBytes();
         const auto target = wblock(*source, source->entities().all(), {3, 4, 5});
@@ -91,8 +83,8 @@ TEST(Copy, IntoADrawingAsABlock)
 {
     const auto source = furnished("AC1015");
     source->header().set(u"$INSBASE", {10, Vec3{7, 8, 9}});
-    for (const QByteArray &version : {QByteArray("AC1009"), QByteArray("AC1018"), QByteArray("AC1032")}) {
-        SCOPED_TRACE(version.toStdString());
+    for (const char *version : {"AC1009", "AC1018", "AC1032"}) {
+        SCOPED_TRACE(version);
         const auto target = sample(version);
         const QByteArray before = target->toBytes();
         const CopyResult result = insertAsBlock(*source, *target, u"Symbol"_s);
@@ -112,7 +104,7 @@ TEST(Copy, WhatIsThereWins)
 {
     const auto source = furnished("AC1015");
     const auto target = sample("AC1015");
-    target->tables().add(TableKind::Layer, u"WALLS"_s, {{62, qint64(1)}});
+    target->tables().add(TableKind::Layer, u"WALLS"_s, fieldsOf("62 1"));
     const RecordId inner = target->blocks().create(u"INNER"_s, {});
     target->blocks().create(u"*U"_s, {}, 1);
     copyEntities(*source, source->entities().all(), *target);
@@ -127,19 +119,11 @@ TEST(Copy, OneBlockWithAllItNeeds)
 {
     const auto source = furnished("AC1015");
     const RecordId outer = source->blocks().find(u"Outer");
-    source->entities().createInBlock(outer, {{0, u"ATTDEF"_s},
-                                             {8, u"Walls"_s},
-                                             {7, u"Notes"_s},
-                                             {10, Vec3{}},
-                                             {40, 1.0},
-                                             {1, u"v"_s},
-                                             {2, u"TAG"_s},
-                                             {3, u"Ask"_s},
-                                             {70, qint64(0)}});
-    source->entities().createInBlock(outer, {{0, u"INSERT"_s}, {2, u"*U0"_s}, {10, Vec3{}}});
+    source->entities().createInBlock(outer, fieldsOf("0 ATTDEF|8 Walls|7 Notes|10 0,0,0|40 1.0|1 v|2 TAG|3 Ask|70 0"));
+    source->entities().createInBlock(outer, fieldsOf("0 INSERT|2 *U0|10 0,0,0"));
     const QByteArray before = source->toBytes();
-    for (const QByteArray &version : {QByteArray("AC1009"), QByteArray("AC1018"), QByteArray("AC1032")}) {
-        SCOPED_TRACE(version.toStdString());
+    for (const char *version : {"AC1009", "AC1018", "AC1032"}) {
+        SCOPED_TRACE(version);
         const auto target = sample(version);
         const QByteArray bare = target->toBytes();
         const CopyResult result = copyBlock(*source, outer, *target);
@@ -168,8 +152,8 @@ TEST(Copy, OneBlockWithAllItNeeds)
 TEST(Copy, WhatTheVersionLacksIsCounted)
 {
     const auto source = newDrawing();
-    source->entities().create({{0, u"MTEXT"_s}, {10, Vec3{}}, {1, u"a"_s}});
-    source->entities().create({{0, u"LINE"_s}, {10, Vec3{}}, {11, Vec3{1, 1, 0}}});
+    source->entities().create(fieldsOf("0 MTEXT|10 0,0,0|1 a"));
+    source->entities().create(fieldsOf("0 LINE|10 0,0,0|11 1,1,0"));
     const auto target = sample("AC1009");
     EXPECT_EQ(copyEntities(*source, source->entities().all(), *target).skipped, 1);
     EXPECT_EQ(target->entities().all().size(), 1U);

@@ -10,7 +10,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const FieldList data = {{1, u"čas"_s}, {40, 12.5}, {90, qint64(-7)}, {10, Vec3{1, 2, 3}}, {290, qint64(1)}};
+const FieldList data = fieldsOf("1 čas|40 12.5|90 -7|10 1,2,3|290 1");
 
 TEST(Dictionaries, KeepNamedData)
 {
@@ -23,12 +23,11 @@ TEST(Dictionaries, KeepNamedData)
         EXPECT_FALSE(dictionaries.xrecord(root, u"EDIT_TIME").has_value());
         const RecordId record = dictionaries.setXrecord(root, u"EDIT_TIME"_s, data);
         EXPECT_EQ(dictionaries.xrecord(root, u"edit_time"), data);
-        EXPECT_EQ(dictionaries.setXrecord(root, u"Edit_Time"_s, {{1, u"later"_s}}), record);
-        EXPECT_EQ(dictionaries.xrecord(root, u"EDIT_TIME"), (FieldList{{1, u"later"_s}}));
+        EXPECT_EQ(dictionaries.setXrecord(root, u"Edit_Time"_s, fieldsOf("1 later")), record);
+        EXPECT_EQ(dictionaries.xrecord(root, u"EDIT_TIME"), fieldsOf("1 later"));
         EXPECT_EQ(dictionaries.entries(root).size(), 2U);
         const auto again = readGood(drawing->toBytes());
-        EXPECT_EQ(again->dictionaries().xrecord(again->dictionaries().root(), u"EDIT_TIME"),
-                  (FieldList{{1, u"later"_s}}));
+        EXPECT_EQ(again->dictionaries().xrecord(again->dictionaries().root(), u"EDIT_TIME"), fieldsOf("1 later"));
         EXPECT_AUDIT_CLEAN(*drawing);
         EXPECT_TRUE(dictionaries.remove(root, u"EDIT_TIME"));
         EXPECT_FALSE(dictionaries.remove(root, u"EDIT_TIME"));

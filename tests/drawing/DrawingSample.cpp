@@ -90,6 +90,40 @@ QByteArray sampleText(const QByteArray &version, const QByteArray &entities, con
     return tagLines(pairs + "0 EOF\n");
 }
 
+namespace {
+
+FieldValue valueOf(int code, const QString &text)
+{
+    const QStringList parts = text.split(u',');
+    if (isPointCode(code) && parts.size() == 3)
+        return Vec3{parts[0].toDouble(), parts[1].toDouble(), parts[2].toDouble()};
+    if (isPointCode(code) && parts.size() == 2)
+        return Vec2{parts[0].toDouble(), parts[1].toDouble()};
+    switch (tagType(code)) {
+    case TagType::Text:
+    case TagType::Binary:
+        return text;
+    case TagType::Real:
+        return text.toDouble();
+    case TagType::Handle:
+        return Handle::fromText(QStringView(text)).value_or(Handle{});
+    default:
+        return text.toLongLong();
+    }
+}
+
+} // namespace
+
+FieldList fieldsOf(const QByteArray &text)
+{
+    FieldList fields;
+    for (const QString &field : QString::fromUtf8(text).split(u'|')) {
+        const int code = field.section(u' ', 0, 0).toInt();
+        fields.push_back({code, valueOf(code, field.section(u' ', 1))});
+    }
+    return fields;
+}
+
 std::unique_ptr<Drawing> readGood(const QByteArray &bytes)
 {
     ReadResult result = Drawing::fromBytes(bytes);
@@ -97,6 +131,20 @@ std::unique_ptr<Drawing> readGood(const QByteArray &bytes)
         return std::move(result.drawing);
     ADD_FAILURE() << result.error.message().toStdString();
     return std::move(Drawing::fromBytes("0\nEOF\n").drawing);
+}
+
+QByteArray contents(const QString &path)
+{
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path.toStdString();
+    return file.readAll();
+}
+
+void write(const QString &path, const QByteArray &bytes)
+{
+    QFile file(path);
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly)) << path.toStdString();
+    EXPECT_EQ(file.write(bytes), bytes.size());
 }
 
 QString dataFile(const QString &name)
@@ -121,10 +169,7 @@ QString auditOf(const Drawing &drawing, bool &isThere)
                                    "    print(entry.message)\n"_s;
     const QTemporaryDir folder;
     const QString path = folder.filePath(u"audited.dxf"_s);
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly) || file.write(drawing.toBytes()) < 0)
-        return u"the file to audit cannot be written"_s;
-    file.close();
+    write(path, drawing.toBytes());
     QProcess process;
     process.start(python, {u"-c"_s, program, path});
     isThere = process.waitForStarted() && process.waitForFinished(60000) && process.exitCode() != 77;

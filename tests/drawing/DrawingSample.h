@@ -16,6 +16,9 @@ QByteArray tagLines(const QByteArray &pairs, const QByteArray &lineEnd = "\n");
 /// `blocks` as tagLines() takes them.
 QByteArray sampleText(const QByteArray &version, const QByteArray &entities = {}, const QByteArray &blocks = {});
 
+/// Fields of "0 LINE|10 1,2,0|40 2.5", typed as their codes are.
+FieldList fieldsOf(const QByteArray &text);
+
 /// Reads bytes that must be good; a failure is told and an empty new drawing comes back.
 std::unique_ptr<Drawing> readGood(const QByteArray &bytes);
 
@@ -24,6 +27,9 @@ inline std::unique_ptr<Drawing> sample(const QByteArray &version, const QByteArr
 {
     return readGood(sampleText(version, entities, blocks));
 }
+
+QByteArray contents(const QString &path);
+void write(const QString &path, const QByteArray &bytes);
 
 /// Path of a file in this folder's data.
 QString dataFile(const QString &name);

@@ -133,9 +133,9 @@ TEST(Fields, TypeAndHandleCannotBeChanged)
         const char *name;
         FieldList fields;
     } rows[] = {
-        {"other type", {{0, u"CIRCLE"_s}, {5, Handle{0x50}}, {8, u"B"_s}}},
-        {"other handle", {{0, u"LINE"_s}, {5, Handle{0x1F}}, {8, u"B"_s}}},
-        {"neither", {{8, u"B"_s}}},
+        {"other type", fieldsOf("0 CIRCLE|5 50|8 B")},
+        {"other handle", fieldsOf("0 LINE|5 1F|8 B")},
+        {"neither", fieldsOf("8 B")},
         {"nothing", {}},
     };
     for (const auto &row : rows) {

@@ -34,9 +34,8 @@ TEST(Matrix, FollowsTheArbitraryAxisRule)
         Vec3 xAxis;
         Vec3 yAxis;
     } rows[] = {
-        {{0, 0, 1}, {1, 0, 0}, {0, 1, 0}},   {{0, 0, 0}, {1, 0, 0}, {0, 1, 0}}, {{0, 0, -1}, {-1, 0, 0}, {0, 1, 0}},
-        {{0, 0, -5}, {-1, 0, 0}, {0, 1, 0}}, {{1, 0, 0}, {0, 1, 0}, {0, 0, 1}}, {{0, 1, 0}, {-1, 0, 0}, {0, 0, 1}},
-        {{0, -1, 0}, {1, 0, 0}, {0, 0, 1}},
+        {{0, 0, 1}, {1, 0, 0}, {0, 1, 0}},  {{0, 0, 0}, {1, 0, 0}, {0, 1, 0}}, {{0, 0, -5}, {-1, 0, 0}, {0, 1, 0}},
+        {{0, 1, 0}, {-1, 0, 0}, {0, 0, 1}}, {{1, 0, 0}, {0, 1, 0}, {0, 0, 1}},
     };
     for (const auto &row : rows) {
         const Matrix matrix = Matrix::fromExtrusion(row.extrusion);
@@ -98,50 +97,35 @@ TEST(Geometry, BoxesOfEntities)
     {
         const char *name;
         QByteArray entity;
-        Vec3 low;
-        Vec3 high;
+        const char *box; ///< its lowest and its highest corner
     } rows[] = {
-        {"line", "0 LINE\n10 1\n20 5\n30 0\n11 4\n21 2\n31 7", {1, 2, 0}, {4, 5, 7}},
-        {"circle", "0 CIRCLE\n10 5\n20 5\n30 0\n40 2", {3, 3, 0}, {7, 7, 0}},
-        {"mirrored circle", "0 CIRCLE\n10 5\n20 5\n30 0\n40 2\n210 0\n220 0\n230 -1", {-7, 3, 0}, {-3, 7, 0}},
-        {"arc over zero", "0 ARC\n10 0\n20 0\n30 0\n40 2\n50 270\n51 90", {0, -2, 0}, {2, 2, 0}},
-        {"ellipse",
-         "0 ELLIPSE\n10 0\n20 0\n30 0\n11 0\n21 4\n31 0\n40 0.5\n41 0\n42 6.283185307",
-         {-2, -4, 0},
-         {2, 4, 0}},
-        {"light polyline with arc",
-         "0 LWPOLYLINE\n90 2\n70 0\n38 3\n10 0\n20 0\n42 -1\n10 2\n20 0",
-         {0, 0, 3},
-         {2, 1, 3}},
-        {"wide polyline", "0 LWPOLYLINE\n90 2\n70 0\n43 2\n10 0\n20 0\n10 10\n20 0", {0, -1, 0}, {10, 1, 0}},
-        {"closed polyline",
-         "0 POLYLINE\n70 1\n0 VERTEX\n10 0\n20 0\n30 0\n0 VERTEX\n10 2\n20 0\n30 0\n42 1\n0 SEQEND",
-         {0, 0, 0},
-         {2, 1, 0}},
-        {"polyline in space",
-         "0 POLYLINE\n70 8\n0 VERTEX\n10 0\n20 0\n30 5\n0 VERTEX\n10 2\n20 3\n30 9\n0 SEQEND",
-         {0, 0, 5},
-         {2, 3, 9}},
+        {"line", "0 LINE\n10 1\n20 5\n30 0\n11 4\n21 2\n31 7", "1,2,0 4,5,7"},
+        {"circle", "0 CIRCLE\n10 5\n20 5\n30 0\n40 2", "3,3,0 7,7,0"},
+        {"mirrored circle", "0 CIRCLE\n10 5\n20 5\n30 0\n40 2\n210 0\n220 0\n230 -1", "-7,3,0 -3,7,0"},
+        {"arc over zero", "0 ARC\n10 0\n20 0\n30 0\n40 2\n50 270\n51 90", "0,-2,0 2,2,0"},
+        {"ellipse", "0 ELLIPSE\n10 0\n20 0\n30 0\n11 0\n21 4\n31 0\n40 0.5\n41 0\n42 6.283185307", "-2,-4,0 2,4,0"},
+        {"light polyline with arc", "0 LWPOLYLINE\n90 2\n70 0\n38 3\n10 0\n20 0\n42 -1\n10 2\n20 0", "0,0,3 2,1,3"},
+        {"wide polyline", "0 LWPOLYLINE\n90 2\n70 0\n43 2\n10 0\n20 0\n10 10\n20 0", "0,-1,0 10,1,0"},
+        {"closed polyline", "0 POLYLINE\n70 1\n0 VERTEX\n10 0\n20 0\n30 0\n0 VERTEX\n10 2\n20 0\n30 0\n42 1\n0 SEQEND",
+         "0,0,0 2,1,0"},
+        {"polyline in space", "0 POLYLINE\n70 8\n0 VERTEX\n10 0\n20 0\n30 5\n0 VERTEX\n10 2\n20 3\n30 9\n0 SEQEND",
+         "0,0,5 2,3,9"},
         {"spline frame left out",
          "0 POLYLINE\n70 4\n0 VERTEX\n70 16\n10 99\n20 0\n30 0\n0 VERTEX\n70 8\n10 1\n20 1\n30 0\n0 VERTEX\n70 8\n10 "
          "2\n20 2\n30 0\n0 SEQEND",
-         {1, 1, 0},
-         {2, 2, 0}},
-        {"solid", "0 SOLID\n10 0\n20 0\n11 4\n21 0\n12 0\n22 3\n13 4\n23 3", {0, 0, 0}, {4, 3, 0}},
-        {"insert", "0 INSERT\n2 UNIT\n10 10\n20 10\n30 0\n41 2\n42 3\n50 90", {7, 10, 0}, {10, 12, 0}},
-        {"array of inserts", "0 INSERT\n2 UNIT\n10 0\n20 0\n30 0\n70 3\n71 2\n44 10\n45 5", {0, 0, 0}, {21, 6, 0}},
-        {"nested", "0 INSERT\n2 OUTER\n10 100\n20 0\n30 0", {102, 0, 0}, {104, 2, 0}},
-        {"mirrored insert", "0 INSERT\n2 UNIT\n10 5\n20 0\n30 0\n41 -1", {4, 0, 0}, {5, 1, 0}},
-        {"dimension", "0 DIMENSION\n2 UNIT2\n10 50\n20 50\n30 0", {0, 0, 0}, {1, 1, 0}},
+         "1,1,0 2,2,0"},
+        {"solid", "0 SOLID\n10 0\n20 0\n11 4\n21 0\n12 0\n22 3\n13 4\n23 3", "0,0,0 4,3,0"},
+        {"insert", "0 INSERT\n2 UNIT\n10 10\n20 10\n30 0\n41 2\n42 3\n50 90", "7,10,0 10,12,0"},
+        {"array of inserts", "0 INSERT\n2 UNIT\n10 0\n20 0\n30 0\n70 3\n71 2\n44 10\n45 5", "0,0,0 21,6,0"},
+        {"nested", "0 INSERT\n2 OUTER\n10 100\n20 0\n30 0", "102,0,0 104,2,0"},
+        {"mirrored insert", "0 INSERT\n2 UNIT\n10 5\n20 0\n30 0\n41 -1", "4,0,0 5,1,0"},
+        {"dimension", "0 DIMENSION\n2 UNIT2\n10 50\n20 50\n30 0", "0,0,0 1,1,0"},
         {"hatch",
          "0 HATCH\n10 0\n20 0\n30 0\n210 0\n220 0\n230 1\n2 SOLID\n70 1\n71 0\n91 1\n92 1\n93 2\n72 1\n10 0\n20 0\n11 "
          "4\n21 0\n72 2\n10 2\n20 0\n40 2\n50 0\n51 180\n73 1\n97 0",
-         {0, 0, 0},
-         {4, 2, 0}},
-        {"clipped image",
-         "0 IMAGE\n10 0\n20 0\n30 0\n11 0.5\n21 0\n31 0\n12 0\n22 0.5\n32 0\n13 20\n23 10\n280 0",
-         {0, 0, 0},
-         {10, 5, 0}},
+         "0,0,0 4,2,0"},
+        {"clipped image", "0 IMAGE\n10 0\n20 0\n30 0\n11 0.5\n21 0\n31 0\n12 0\n22 0.5\n32 0\n13 20\n23 10\n280 0",
+         "0,0,0 10,5,0"},
     };
     const QByteArray blocks =
         "0 BLOCK\n8 0\n2 UNIT\n70 0\n10 1\n20 1\n30 0\n0 SOLID\n10 1\n20 1\n11 2\n21 1\n12 1\n22 2\n13 2\n23 2\n0 "
@@ -152,8 +136,9 @@ TEST(Geometry, BoxesOfEntities)
         SCOPED_TRACE(row.name);
         const auto drawing = sample("AC1009", row.entity, blocks);
         const Box box = entityBox(*drawing, drawing->entities().all().front());
-        expectNear(box.low, row.low, 0.01);
-        expectNear(box.high, row.high, 0.01);
+        const QList<QByteArray> corners = QByteArray(row.box).split(' ');
+        expectNear(box.low, fieldsOf("10 " + corners[0])[0].point(), 0.01);
+        expectNear(box.high, fieldsOf("10 " + corners[1])[0].point(), 0.01);
     }
 }
 
@@ -205,16 +190,29 @@ TEST(Geometry, PickingAndWindows)
     EXPECT_TRUE(entityBox(*drawing, all[2]).isEmpty());
     EXPECT_EQ(flatDistance(Outline(), {0, 0}), std::numeric_limits<double>::infinity());
 
-    const auto window = [](double x1, double y1, double x2, double y2) { return Box{{x1, y1, 0}, {x2, y2, 0}}; };
-    EXPECT_TRUE(liesWithin(line, window(-1, -1, 11, 1)));
-    EXPECT_FALSE(liesWithin(line, window(-1, -1, 9, 1)));
-    EXPECT_TRUE(crosses(line, window(4, -1, 5, 1))) << "goes through without a corner inside";
-    EXPECT_FALSE(crosses(line, window(4, 1, 5, 2)));
-    EXPECT_TRUE(crosses(hatch, window(1, 1, 2, 2))) << "wholly inside the filled area";
-    EXPECT_FALSE(crosses(hatch, window(4, 4, 5, 5)));
-    EXPECT_TRUE(crosses(endless, window(100, 0, 101, 100)));
-    EXPECT_FALSE(liesWithin(endless, window(-1e12, -1e12, 1e12, 1e12)));
-    EXPECT_TRUE(crosses(entityOutline(*drawing, all[3]), window(5, 5, 5, 5)));
+    const Outline point = entityOutline(*drawing, all[3]);
+    const struct
+    {
+        const char *name;
+        const Outline &outline;
+        Box window;
+        bool isWithin;
+        bool isCrossed;
+    } rows[] = {
+        {"around a line", line, {{-1, -1, 0}, {11, 1, 0}}, true, true},
+        {"a part of it", line, {{-1, -1, 0}, {9, 1, 0}}, false, true},
+        {"without a corner inside", line, {{4, -1, 0}, {5, 1, 0}}, false, true},
+        {"beside it", line, {{4, 1, 0}, {5, 2, 0}}, false, false},
+        {"wholly inside the filled area", hatch, {{1, 1, 0}, {2, 2, 0}}, false, true},
+        {"in the island", hatch, {{4, 4, 0}, {5, 5, 0}}, false, false},
+        {"over an endless line", endless, {{100, 0, 0}, {101, 100, 0}}, false, true},
+        {"very large", endless, {{-1e12, -1e12, 0}, {1e12, 1e12, 0}}, false, true},
+        {"of no size", point, {{5, 5, 0}, {5, 5, 0}}, true, true},
+    };
+    for (const auto &row : rows) {
+        EXPECT_EQ(liesWithin(row.outline, row.window), row.isWithin) << row.name;
+        EXPECT_EQ(crosses(row.outline, row.window), row.isCrossed) << row.name;
+    }
 }
 
 TEST(Geometry, HostileDrawingsEnd)
@@ -259,7 +257,7 @@ TEST(Geometry, BoxCacheFollowsChanges)
     setField(fields, 11, Vec3{7, 7, 0});
     drawing->setFields(drawing->find({0x61}), fields);
     expectNear(cache.box(insert).high, {7, 7, 0});
-    const RecordId added = drawing->entities().create({{0, u"POINT"_s}, {10, Vec3{20, 20, 0}}}).record;
+    const RecordId added = drawing->entities().create(fieldsOf("0 POINT|10 20,20,0")).record;
     EXPECT_EQ(cache.touching(drawing->entities().all(), {{15, 15, 0}, {25, 25, 0}}), std::vector{added});
 }
 

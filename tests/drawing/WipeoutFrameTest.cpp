@@ -40,7 +40,7 @@ TEST(WipeoutFrame, IsKeptInTheDrawing)
 TEST(WipeoutFrame, LeavesAnObjectOfTheSameNameAlone)
 {
     const auto drawing = sample("AC1015");
-    drawing->dictionaries().setXrecord(drawing->dictionaries().root(), u"ACAD_WIPEOUT_VARS"_s, {{70, qint64(0)}});
+    drawing->dictionaries().setXrecord(drawing->dictionaries().root(), u"ACAD_WIPEOUT_VARS"_s, fieldsOf("70 0"));
     const QByteArray before = drawing->toBytes();
     EXPECT_EQ(wipeoutFrame(*drawing), 1);
     EXPECT_FALSE(setWipeoutFrame(*drawing, 0));

@@ -19,7 +19,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr QStringView name = u"KORA_TRACKTIME";
-const FieldList data = {{280, qint64(1)}, {90, qint64(15)}, {40, 2.5}, {1, u"čas 1700000000123"_s}};
+const FieldList data = fieldsOf("280 1|90 15|40 2.5|1 čas 1700000000123");
 
 /// Counts what is read.
 class CountingBuffer final : public QBuffer
@@ -70,24 +70,6 @@ QByteArray tracked(const QByteArray &version, int lineCount, const QString &reco
     return drawing->toBytes();
 }
 
-QByteArray withCrLf(QByteArray text)
-{
-    return text.replace("\n", "\r\n");
-}
-
-/// Group codes with blanks around, as some programs write them.
-QByteArray withBlanks(const QByteArray &text)
-{
-    QByteArray result;
-    bool isCode = true;
-    for (const QByteArray &line : text.split('\n')) {
-        result += (isCode ? "  " + line + " \t" : line) + '\n';
-        isCode = !isCode;
-    }
-    result.chop(6);
-    return result;
-}
-
 QByteArray replaced(QByteArray text, const QByteArray &before, const QByteArray &after)
 {
     EXPECT_TRUE(text.contains(before)) << before.toStdString();
@@ -134,10 +116,10 @@ TEST(XrecordInFile, IsWhatTheWholeFileSays)
         {"other name", tracked("AC1018", 40, u"KORA_TRACKTIMES"_s), false},
         {"no record", plain, false},
         {"no OBJECTS", beforeObjects(plain) + "  0\nEOF\n", false},
-        {"CRLF", withCrLf(text), true},
+        {"CRLF", replaced(text, "\n", "\r\n"), true},
         {"carriage returns alone", replaced(text, "\n", "\r"), true},
         {"a carriage return in a value", replaced(text, "1700000000123", "17000\r00000123"), true},
-        {"blanks around codes", withBlanks(text), true},
+        {"blanks around codes", replaced(replaced(text, "  0\n", "   0 \t\n"), "  2\n", " 2 \n"), true},
         {"byte-order mark", "\xEF\xBB\xBF" + text, true},
         {"comments in front", comment + text, true},
         {"comment in the section's start", replaced(text, "  2\nOBJECTS", "999\nhere\n  2\nOBJECTS"), true},
@@ -221,19 +203,7 @@ TEST(XrecordInFile, IsRightInDrawingsOfOtherPrograms)
 class XrecordFiles : public testing::Test
 {
 protected:
-    QString write(const QString &fileName, const QByteArray &bytes) const
-    {
-        QFile file(m_folder.filePath(fileName));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(bytes);
-        return file.fileName();
-    }
-    static QByteArray bytesOf(const QString &path)
-    {
-        QFile file(path);
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
-
+    QString path(const QString &file) const { return m_folder.filePath(file); }
     QTemporaryDir m_folder;
 };
 
@@ -241,10 +211,11 @@ TEST_F(XrecordFiles, AreChangedInOnePlace)
 {
     for (const QByteArray &version : {QByteArray("AC1014"), QByteArray("AC1018"), QByteArray("AC1032")}) {
         const QByteArray before = sampleText(version, lines(3));
-        const QString path = write(u"plan.dxf"_s, before);
+        const QString path = this->path(u"plan.dxf"_s);
+        write(path, before);
         EXPECT_EQ(setXrecordInFile(path, name.toString(), data).error, QString());
         EXPECT_EQ(xrecordInFile(path, u"kora_tracktime"), data) << version.toStdString();
-        const auto drawing = readGood(bytesOf(path));
+        const auto drawing = readGood(contents(path));
         if (version != "AC1014") // which the independent reader takes for a later version
             EXPECT_AUDIT_CLEAN(*drawing);
         // Without the record, its entry and the next free handle, nothing is new.
@@ -252,18 +223,18 @@ TEST_F(XrecordFiles, AreChangedInOnePlace)
         const QByteArray record = drawing->bytes(dictionaries.find(dictionaries.root(), name)).toByteArray();
         const QByteArray entry =
             "  3\nKORA_TRACKTIME\n350\n" + drawing->handle(dictionaries.find(dictionaries.root(), name)).toHex() + '\n';
-        QByteArray after = replaced(replaced(bytesOf(path), record, ""), entry, "");
+        QByteArray after = replaced(replaced(contents(path), record, ""), entry, "");
         const auto old = readGood(before);
         after = replaced(after, drawing->bytes(drawing->header().record(u"$HANDSEED")).toByteArray(),
                          old->bytes(old->header().record(u"$HANDSEED")).toByteArray());
         EXPECT_EQ(after, before);
 
-        const FieldList later = {{280, qint64(0)}, {90, qint64(0)}, {40, 3.25}, {1, u"1"_s}};
+        const FieldList later = fieldsOf("280 0|90 0|40 3.25|1 1");
         EXPECT_TRUE(setXrecordInFile(path, u"Kora_TrackTime"_s, later));
         EXPECT_EQ(xrecordInFile(path, name), later);
-        const QByteArray written = bytesOf(path);
+        const QByteArray written = contents(path);
         EXPECT_TRUE(setXrecordInFile(path, name.toString(), later));
-        EXPECT_EQ(bytesOf(path), written);
+        EXPECT_EQ(contents(path), written);
     }
 }
 
@@ -283,13 +254,14 @@ TEST_F(XrecordFiles, ThatCannotBeChangedStayAndSaySo)
         {u"empty.dxf"_s, {}, u"empty"_s},
     };
     for (const auto &row : rows) {
-        const QString path = write(row.fileName, row.bytes);
+        const QString path = this->path(row.fileName);
+        write(path, row.bytes);
         const SaveResult result = setXrecordInFile(path, name.toString(), data);
         EXPECT_FALSE(result);
         EXPECT_TRUE(result.error.startsWith(path) && result.error.contains(row.reason)) << result.error.toStdString();
-        EXPECT_EQ(bytesOf(path), row.bytes);
+        EXPECT_EQ(contents(path), row.bytes);
     }
-    const QString missing = m_folder.filePath(u"missing.dxf"_s);
+    const QString missing = path(u"missing.dxf"_s);
     EXPECT_FALSE(setXrecordInFile(missing, name.toString(), data));
     EXPECT_FALSE(QFile::exists(missing));
     EXPECT_FALSE(xrecordInFile(missing, name).has_value());
@@ -298,12 +270,12 @@ TEST_F(XrecordFiles, ThatCannotBeChangedStayAndSaySo)
 
 TEST_F(XrecordFiles, NeverMakeTheReaderWait)
 {
-    const QString pipe = m_folder.filePath(u"pipe.dxf"_s);
+    const QString pipe = path(u"pipe.dxf"_s);
     ASSERT_EQ(mkfifo(QFile::encodeName(pipe).constData(), 0600), 0);
     EXPECT_FALSE(xrecordInFile(pipe, name).has_value());
     EXPECT_FALSE(setXrecordInFile(pipe, name.toString(), data));
-    QFile huge(write(u"huge.dxf"_s, "x"));
-    ASSERT_TRUE(huge.resize(3LL * 1024 * 1024 * 1024)); // of holes
+    QFile huge(path(u"huge.dxf"_s));
+    ASSERT_TRUE(huge.open(QIODevice::WriteOnly) && huge.resize(3LL * 1024 * 1024 * 1024)); // of holes
     EXPECT_FALSE(xrecordInFile(huge.fileName(), name).has_value());
 }
 
