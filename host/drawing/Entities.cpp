@@ -44,22 +44,6 @@ FieldList headOf(const Drawing &drawing, RecordId entity)
 
 } // namespace
 
-EntityProperties readProperties(const TagList &tags)
-{
-    EntityProperties properties;
-    properties.layer = tags.text(8, properties.layer);
-    properties.colour = static_cast<int>(std::clamp<qint64>(tags.integer(62, EntityProperties::byLayer), -256, 257));
-    if (const Tag *exact = tags.find(420))
-        properties.trueColour = static_cast<quint32>(exact->integer().value_or(0) & 0xFFFFFF);
-    const QString linetype = tags.text(6);
-    properties.linetype = linetype.compare(u"ByLayer", Qt::CaseInsensitive) == 0 ? QString() : linetype;
-    properties.linetypeScale = tags.real(48, 1.0);
-    properties.lineweight = static_cast<int>(tags.integer(370, -1));
-    properties.isVisible = tags.integer(60) == 0;
-    properties.extrusion = tags.point(210, {0.0, 0.0, 1.0});
-    return properties;
-}
-
 /// Where new entities go.
 struct Entities::Place
 {

@@ -14,23 +14,8 @@ enum class Space
     Paper
 };
 
-/// What every entity has.
-struct EntityProperties
-{
-    static constexpr int byBlock = 0;
-    static constexpr int byLayer = 256;
-
-    QString layer = QStringLiteral("0");
-    int colour = byLayer;              ///< colour index; 0 by block, 256 by layer
-    std::optional<quint32> trueColour; ///< 0xRRGGBB; goes before the index
-    QString linetype;                  ///< empty: by layer
-    double linetypeScale = 1.0;
-    int lineweight = -1; ///< hundredths of a millimetre; -1 by layer, -2 by block, -3 default
-    bool isVisible = true;
-    Vec3 extrusion{0.0, 0.0, 1.0};
-};
-
-EntityProperties readProperties(const TagList &tags);
+/// The colour index of an entity that takes the colour of its layer.
+inline constexpr int colourByLayer = 256;
 
 /// What came of making an entity.
 struct CreateResult

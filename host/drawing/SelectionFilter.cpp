@@ -91,7 +91,7 @@ std::optional<Field> impliedField(int code)
     case 60:
         return Field{60, qint64(0)};
     case 62:
-        return Field{62, qint64(EntityProperties::byLayer)};
+        return Field{62, qint64(colourByLayer)};
     case 67:
         return Field{67, qint64(0)};
     case 210:
