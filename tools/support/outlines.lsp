@@ -73,8 +73,8 @@
 ;; (kora_piece_at piece part) -> the point at a part, 0 to 1, of a piece's length.
 (defun kora_piece_at (piece part / arc)
   (cond
-    ((= part 0.0) (car piece))
-    ((= part 1.0) (cadr piece))
+    ((= 0.0 part) (car piece))
+    ((= 1.0 part) (cadr piece))
     ((= (caddr piece) 0.0) (mapcar '(lambda (from to) (+ from (* part (- to from)))) (car piece) (cadr piece)))
     (T (setq arc (kora_arc piece))
        (polar (car arc) (+ (caddr arc) (* part (cadddr arc))) (cadr arc)))))
