@@ -44,6 +44,10 @@ function(ortakit_pch target kind)
     endif()
     # Programs without Qt would be compiled as -fPIE, which does not go with a header compiled for libraries.
     target_compile_options(${target} PRIVATE -fPIC)
+    if(kind MATCHES "_test$")
+        # What a test does itself is little; optimising GoogleTest's and Qt's headers in each file is not.
+        target_compile_options(${target} PRIVATE -O0)
+    endif()
     target_precompile_headers(${target} REUSE_FROM ${holder})
 endfunction()
 
@@ -57,8 +61,6 @@ function(ortakit_test name)
     add_executable(${name} ${TEST_SOURCES})
     target_include_directories(${name} PRIVATE "${CMAKE_SOURCE_DIR}")
     target_link_libraries(${name} PRIVATE ${TEST_LINK} GTest::gtest GTest::gmock)
-    # What a test does itself is little; optimising GoogleTest's and Qt's headers in each file is not.
-    target_compile_options(${name} PRIVATE -O0)
     if(TEST_PCH)
         ortakit_pch(${name} ${TEST_PCH}_test)
     endif()
