@@ -185,6 +185,25 @@ INSTANTIATE_TEST_SUITE_P(
         Row{"string, Esc", "(KORA_getstring \"Name\")", "cancel\n", "(and (null v) (= LispCanceled 1))"},
         Row{"keyword, Esc", "(KORA_getkword \"Yes,No\")", "cancel\n", "(and (null v) (= LispCanceled 1))"}));
 
+INSTANTIATE_TEST_SUITE_P(
+    OfNoUse, SelectionFunctions,
+    testing::Values(
+        Row{"another kind", "(kora_choose \"Texts:\" '((0 . \"TEXT\")))",
+            "select all\nenter\nexpect-printed \"15 picked, 12 of no use: 12 of another kind.\"\n", "(= 3 (length v))"},
+        Row{"only another kind", "(kora_choose \"Hatches:\" '((0 . \"HATCH\")))",
+            "select all\nenter\nexpect-printed \"15 picked, 15 of no use\"\n", "(null v)"},
+        Row{"nothing", "(kora_choose \"Any:\" nil)", "enter\nexpect-printed \"Nothing was chosen.\"\n", "(null v)"},
+        Row{"chosen before", "(progn (sssetfirst nil (ssget \"_X\")) (kora_chosen '((0 . \"CIRCLE\"))))",
+            "expect-printed \"15 chosen, 14 of no use: 14 of another kind.\"\n",
+            "(and (= 1 (length v)) (null (ssget \"_I\")))"},
+        Row{"several reasons, the first counts",
+            "(progn (command \"_.-LAYER\" \"_LO\" \"PIPES\" \"\") (entmake '((0 . \"CIRCLE\") (10 0.0 0.0 0.0) (40 . "
+            "1.0)"
+            " (210 0.0 0.0 -1.0))) (kora_usable (kora_selection_to_list (ssget \"_X\")) (list (kora_other_kind"
+            " \"LINE,CIRCLE\") kora_on_locked_layer kora_in_other_plane)))",
+            "expect-printed \"16 picked, 12 of no use: 8 of another kind, 3 on a locked layer, 1 in another plane.\"\n",
+            "(= 4 (length v))"}));
+
 TEST_F(SelectionFunctions, WrongArgumentsAreErrorsThatSayWhy)
 {
     const struct
