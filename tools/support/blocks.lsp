@@ -23,14 +23,33 @@
   (and (= 0 (logand 29 (cond ((kora_field block 70)) (0))))
        (/= "*" (substr (kora_field block 2) 1 1))))
 
-;; (kora_known_name name) -> the name under which a user knows a block. A reference whose appearance was set by the
-;; user has a nameless block of its own, which says from which block it was made.
-(defun kora_known_name (name / block origin)
-  (setq block  (if (kora_starts_with name "*U") (tblobjname "BLOCK" name))
-        block  (if block (kora_field (entget block) 330))
-        origin (if block (kora_field (cdadr (assoc -3 (entget block '("AcDbBlockRepBTag")))) 1005))
-        origin (if origin (handent origin)))
-  (cond ((if origin (kora_field (entget origin) 2))) (name)))
+;; (kora_known_name name) -> the name under which a user knows a block. A reference whose appearance the user set has a
+;; nameless block of its own, which says from which block it was made; other nameless blocks keep their name.
+(defun kora_known_name (name / origin passed)
+  (while (and (kora_starts_with name "*")
+              (not (member name passed))
+              (setq origin (kora:dynamic_origin name)))
+    (setq passed (cons name passed)
+          name   origin))
+  name)
+
+;; The name of the block that a nameless one was made from: of the block whose handle it holds, else the name that it
+;; holds, or that block does where it has become nameless itself; nil when it says nothing.
+(defun kora:dynamic_origin (name / record data origin)
+  (setq record (kora_block_record name)
+        data   (if record (entget record '("AcDbBlockRepBTag" "AcDbDynamicBlockTrueName")))
+        origin (kora_extended data "AcDbBlockRepBTag" 1005)
+        origin (if origin (handent origin))
+        origin (if origin (kora_field (entget origin) 2)))
+  (cond ((and origin (not (kora_starts_with origin "*"))) origin)
+        ((kora_extended data "AcDbDynamicBlockTrueName" 1000))
+        (origin)))
+
+;; (kora_block_record name) -> the entity name of a block's table record, in early drawings of its BLOCK; nil when there
+;; is no such block.
+(defun kora_block_record (name / block)
+  (if (setq block (tblobjname "BLOCK" name))
+    (cond ((kora_owner (entget block))) (block))))
 
 ;; (kora_block_graph) -> a tree (see kora_tree) with each block's references by name: a list of (NAME . number).
 (defun kora_block_graph ()

@@ -9,6 +9,23 @@
     (subst (cons code value) (assoc code data) data)
     (append data (list (cons code value)))))
 
+;; (kora_owner data) -> the entity name of what owns an entity or object; nil in early drawings. Those who only want to be
+;; told of changes, within braces, are no owners.
+(defun kora_owner (data / braces owner)
+  (while (and data (null owner))
+    (cond ((and (= (caar data) 102) (= (substr (cdar data) 1 1) "{")) (setq braces T))
+          ((= (caar data) 102) (setq braces nil))
+          ((and (= (caar data) 330) (not braces)) (setq owner (cdar data))))
+    (setq data (cdr data)))
+  owner)
+
+;; (kora_extended data application code) -> the first value of a group code in an application's extended data, for which
+;; data was asked; nil when there is none.
+(defun kora_extended (data application code / found)
+  (foreach own (kora_field data -3)
+    (if (= (strcase (car own)) (strcase application)) (setq found (kora_field (cdr own) code))))
+  found)
+
 ;; (kora_copy_data data) -> entity data fit to make another such entity from: without names, handle and owners.
 (defun kora_copy_data (data)
   (vl-remove-if '(lambda (field) (member (car field) '(-1 5 102 330 360))) data))
