@@ -7,6 +7,7 @@
 #include "host/kernel/DrawingBackup.h"
 #include "host/kernel/DrawingDatabase.h"
 #include "host/kernel/Editor.h"
+#include "host/kernel/ExpressionSurroundings.h"
 #include "host/kernel/LispConsole.h"
 #include "host/kernel/LispEngine.h"
 #include "host/kernel/SelectionInput.h"
@@ -17,6 +18,7 @@
 #include "host/kernel/functions/NativeFunctions.h"
 #include "host/kernel/input/UserInput.h"
 #include "host/lisp/Interpreter.h"
+#include "host/view/EntityExtents.h"
 #include "host/view/TextMeasure.h"
 
 #include <QDir>
@@ -64,6 +66,13 @@ view::TextMeasure &Document::textMeasure() const
     if (!m_textMeasure)
         m_textMeasure = std::make_unique<view::TextMeasure>(*m_drawing);
     return *m_textMeasure;
+}
+
+view::EntityExtents &Document::entityExtents()
+{
+    if (!m_entityExtents)
+        m_entityExtents = std::make_unique<view::EntityExtents>(*m_drawing, expressionSurroundings(*this));
+    return *m_entityExtents;
 }
 
 lisp::Interpreter &Document::interpreter()

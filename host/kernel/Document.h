@@ -20,8 +20,9 @@ class BoxCache;
 }
 
 namespace host::view {
+class EntityExtents;
 class TextMeasure;
-}
+} // namespace host::view
 
 namespace host::lisp {
 class Interpreter;
@@ -154,6 +155,8 @@ public:
     drawing::BoxCache &boxes() { return *m_boxes; }
     /// How much room texts take.
     view::TextMeasure &textMeasure() const;
+    /// Boxes of what entities draw.
+    view::EntityExtents &entityExtents();
     /// What (entmake) has collected of an entity or block that is made in pieces.
     EntityMaker &entityMaker() { return *m_entityMaker; }
     /// Where (tblnext) and (dictnext) stand, by table name or the dictionary's handle.
@@ -207,6 +210,7 @@ private:
     std::unique_ptr<drawing::BoxCache> m_boxes;
     std::unique_ptr<EntityMaker> m_entityMaker;
     mutable std::unique_ptr<view::TextMeasure> m_textMeasure; ///< made when it is first asked for
+    std::unique_ptr<view::EntityExtents> m_entityExtents;     ///< likewise
     QHash<QString, drawing::RecordId> m_cursors;
     QStringList m_commandNames;
     QString m_lastCommand;

@@ -386,6 +386,17 @@ const RecordDisplay *Scene::find(int block, RecordId record)
     return found == records.end() ? nullptr : &*found;
 }
 
+RecordDisplay Scene::buildAlone(RecordId record)
+{
+    applyChanges();
+    RecordDisplay built = buildRecord(record);
+    forget(built);
+    buildWaiting();
+    if (m_boxesStale)
+        updateBoxes();
+    return built;
+}
+
 void Scene::recordChanged(RecordId record, RecordChange change, drawing::ChangeCause)
 {
     const RecordKind kind = m_drawing.kind(record);

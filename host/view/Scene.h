@@ -87,6 +87,8 @@ public:
     RenderReport report(int block);
     /// The display of a record of that space; null when it has none.
     const RecordDisplay *find(int block, RecordId record);
+    /// The display of one entity by itself, whether or not its space is built. What it refers to is up to date then.
+    RecordDisplay buildAlone(RecordId record);
     /// Number of records whose display was built so far, for measuring.
     qint64 builtRecords() const { return m_builtRecords; }
 

@@ -2,6 +2,7 @@
 
 #include "host/drawing/TagReader.h"
 #include "host/drawing/TagWriter.h"
+#include "host/view/DisplayBoxes.h"
 #include "host/view/DisplayBuilder.h"
 #include "host/view/Scene.h"
 
@@ -13,9 +14,6 @@ using drawing::FieldList;
 using drawing::TagList;
 
 namespace {
-
-/// How far round letters reach beyond the base line and the top of capitals, to look as high as straight ones.
-constexpr double overshoot = 0.1;
 
 /// Fields as the lines of a record; tags are views of them.
 QByteArray linesOf(const FieldList &fields, const drawing::TextCodec &codec)
@@ -84,11 +82,10 @@ Box TextMeasure::lineBox(const FieldList &fields)
         return box;
     Fonts &fonts = m_scene->fonts();
     forEachRun(display, ownFrame(tags, tags.point(210, {0.0, 0.0, 1.0})), [&](const TextRun &run, const Matrix &map) {
-        if (run.text.trimmed().isEmpty())
+        const QRectF letters = letterBox(fonts, run);
+        if (letters.isNull())
             return;
-        const QRectF ink = fonts.outline(run.font, run.text).boundingRect();
-        for (const double y :
-             {ink.top() < -overshoot ? ink.top() : 0.0, ink.bottom() > 1.0 + overshoot ? ink.bottom() : 1.0}) {
+        for (const double y : {letters.top(), letters.bottom()}) {
             box.add(map.point({0.0, y, 0.0}));
             box.add(map.point({run.width, y, 0.0}));
         }

@@ -53,27 +53,15 @@
           (kora_bounding_box (kora_block_entities name))))
 
 ;; (kora_bounding_box entities) -> (lower upper), two points, of what the entities draw; nil when nothing has an extent.
-;; Texts count with their insertion point, block references and curves of higher degree with their defining points.
-(defun kora_bounding_box (entities / points)
+(defun kora_bounding_box (entities / lower upper)
   (foreach entity entities
-    (setq points (append (kora:extent_points (entget entity)) points)))
-  (if points
-    (list (apply 'mapcar (cons 'min (mapcar 'kora:point3d points)))
-          (apply 'mapcar (cons 'max (mapcar 'kora:point3d points))))))
+    (foreach corner (acet-ent-geomextents entity)
+      (setq lower (if lower (mapcar 'min lower corner) corner)
+            upper (if upper (mapcar 'max upper corner) corner))))
+  (if lower (list lower upper)))
 
 (defun kora:point3d (point)
   (list (car point) (cadr point) (cond ((caddr point)) (0.0))))
-
-;; Points that lie in the corners of an entity's extent.
-(defun kora:extent_points (data / type)
-  (setq type (kora_field data 0))
-  (cond
-    ((= type "CIRCLE") (kora:arc_points (kora_field data 10) (kora_field data 40) 0.0 (* 2 pi)))
-    ((= type "ARC")
-     (kora:arc_points (kora_field data 10) (kora_field data 40) (kora_field data 50) (kora_field data 51)))
-    ((= type "LWPOLYLINE") (kora:polyline_points data))
-    ((member type '("TEXT" "MTEXT" "INSERT" "ATTRIB")) (list (kora_field data 10)))
-    (T (mapcar 'cdr (vl-remove-if-not '(lambda (field) (member (car field) '(10 11 12 13))) data)))))
 
 ;; Ends of an arc and the points where it meets the axes through its centre. Angles in radians, counter-clockwise.
 (defun kora:arc_points (centre radius start end / points quarter)
@@ -83,22 +71,6 @@
   (repeat 9
     (if (<= start quarter end) (setq points (cons (polar centre quarter radius) points)))
     (setq quarter (+ quarter (* 0.5 pi))))
-  points)
-
-;; Vertices, and for bulged parts the points of their arcs.
-(defun kora:polyline_points (data / vertices bulges points)
-  (foreach field data
-    (cond ((= (car field) 10) (setq vertices (cons (cdr field) vertices)
-                                    bulges   (cons 0.0 bulges)))
-          ((= (car field) 42) (setq bulges (cons (cdr field) (cdr bulges))))))
-  (setq vertices (reverse vertices)
-        bulges   (reverse bulges)
-        points   vertices)
-  (mapcar '(lambda (from to bulge)
-             (if (/= bulge 0.0) (setq points (append (kora:bulge_points from to bulge) points))))
-          vertices
-          (append (cdr vertices) (if (= 1 (logand 1 (cond ((kora_field data 70)) (0)))) (list (car vertices))))
-          bulges)
   points)
 
 ;; A bulge is the tangent of a quarter of the arc's angle, positive counter-clockwise; half is half of that angle.

@@ -196,66 +196,8 @@
 
 ;; (kora_block_frame name) -> (lower upper), flat points, of what a block shows as seen from its base point; nil when it
 ;; shows nothing.
-(defun kora_block_frame (name / base points)
-  (setq base   (kora_field (tblsearch "BLOCK" name) 10)
-        points (if base (kora:block_points name)))
-  (if points
-    (mapcar '(lambda (choose) (mapcar '(lambda (side from) (- (apply choose (mapcar side points)) from))
-                                      '(car cadr) base))
-            '(min max))))
-
-(defun kora:block_points (name)
-  (apply 'append (mapcar '(lambda (entity) (kora:shown_points (entget entity))) (kora_block_entities name))))
-
-;; Flat points in the corners of what an entity shows. What it is within counts for references within references.
-(defun kora:shown_points (data / type pieces)
-  (setq type   (kora_field data 0)
-        pieces (kora_pieces data))
-  (cond
-    (pieces (apply 'append (mapcar 'kora:piece_points pieces)))
-    ((= type "ATTDEF") nil)
-    ((member type '("TEXT" "MTEXT")) (kora:shown_text data (kora_text_box data)))
-    ((= type "INSERT") (kora:shown_reference data))
-    ((= type "ELLIPSE")
-     (kora:ellipse_points data (* 1e-4 (distance '(0.0 0.0 0.0) (kora_field data 11)))))
-    ((= type "SPLINE") (kora:spline_points data 1e-3))
-    ((= type "HATCH") (apply 'append (kora:hatch_outlines data 1e-3)))
-    ((= type "DIMENSION") (if (kora_field data 2) (kora:block_points (kora_field data 2))))
-    ((member type '("WIPEOUT" "IMAGE")) (kora:shown_image data))
-    (T (mapcar '(lambda (field) (kora:seen_flat (cdr field) '(0.0 0.0 1.0)))
-               (vl-remove-if-not '(lambda (field) (member (car field) '(10 11 12 13))) data)))))
-
-(defun kora:piece_points (piece)
-  (cons (car piece)
-        (cons (cadr piece)
-              (if (/= (caddr piece) 0.0)
-                (mapcar '(lambda (point) (list (car point) (cadr point)))
-                        (kora:bulge_points (car piece) (cadr piece) (caddr piece)))))))
-
-(defun kora:shown_text (data box)
-  (if box
-    (mapcar '(lambda (point) (kora:seen_flat point (kora_normal data)))
-            (kora_box_points box (kora_corners (cadr box) (caddr box))))))
-
-(defun kora:shown_reference (data / frame)
-  (if (setq frame (kora_block_frame (kora_field data 2)))
-    (mapcar '(lambda (corner)
-               (kora:seen_flat
-                 (kora:turned (kora_field data 10) (cond ((kora_field data 50)) (0.0))
-                              (mapcar '(lambda (place code) (* place (cond ((kora_field data code)) (1.0))))
-                                      corner '(41 42)))
-                 (kora_normal data)))
-            (list (car frame) (cadr frame)
-                  (list (caar frame) (cadadr frame)) (list (caadr frame) (cadar frame))))))
-
-;; The corners of a picture: its first one, and the vectors of a pixel times their number.
-(defun kora:shown_image (data / across up)
-  (setq across (mapcar '(lambda (part) (* part (cadr (assoc 13 data)))) (kora_field data 11))
-        up     (mapcar '(lambda (part) (* part (caddr (assoc 13 data)))) (kora_field data 12)))
-  (mapcar '(lambda (a b) (kora:seen_flat (mapcar '(lambda (from u v) (+ from (* a u) (* b v)))
-                                                 (kora_field data 10) across up)
-                                         '(0.0 0.0 1.0)))
-          '(0.0 1.0 1.0 0.0) '(0.0 0.0 1.0 1.0)))
+(defun kora_block_frame (name)
+  (mapcar '(lambda (corner) (list (car corner) (cadr corner))) (kora_block_box name)))
 
 ;; The polygons of a hatch's paths. Its edges follow each other; one that begins where the last did not end may run
 ;; backward.

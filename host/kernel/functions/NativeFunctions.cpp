@@ -15,6 +15,7 @@ void addNativeFunctions(lisp::Interpreter &interpreter)
     addDialogFunctions(interpreter);
     addCoordinateFunctions(interpreter);
     addTextFunctions(interpreter);
+    addExtentFunctions(interpreter);
 }
 
 } // namespace host::kernel

@@ -21,5 +21,6 @@ void addCommandFunctions(lisp::Interpreter &interpreter);
 void addDialogFunctions(lisp::Interpreter &interpreter);
 void addCoordinateFunctions(lisp::Interpreter &interpreter);
 void addTextFunctions(lisp::Interpreter &interpreter);
+void addExtentFunctions(lisp::Interpreter &interpreter);
 
 } // namespace host::kernel
