@@ -19,7 +19,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *data, std::size_t size
         drawing = newDrawing();
     const QByteArray text(reinterpret_cast<const char *>(data), qsizetype(size));
     for (const LinetypeDefinition &definition : readLinetypeSource(text)) {
-        if (!loadLinetype(*drawing, definition).isEmpty())
+        ShapeFiles shapes([](const QString &) { return QString(); });
+        if (!loadLinetype(*drawing, definition, shapes).isEmpty())
             continue;
         const std::optional<Linetype> loaded = findLinetype(*drawing, definition.name);
         if (!loaded || loaded->dashes.size() != definition.dashes.size())

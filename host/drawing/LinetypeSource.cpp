@@ -64,7 +64,7 @@ public:
         while (!m_rest.isEmpty() && m_definition.error.isEmpty()) {
             m_rest = m_rest.trimmed();
             if (m_rest.startsWith(u'['))
-                takeText();
+                takeSign();
             else
                 takeDash();
         }
@@ -95,17 +95,21 @@ private:
         m_definition.dashes.push_back({.length = *length});
     }
 
-    /// ["TEXT",STYLE,S=1,...], which belongs to the element before it.
-    void takeText()
+    /// ["TEXT",STYLE,S=1,...] or [SHAPE,FILE,S=1,...], which belongs to the element before it.
+    void takeSign()
     {
-        const qsizetype quote = m_rest.startsWith(u"[\"") ? m_rest.indexOf(u'"', 2) : -1;
-        const qsizetype end = m_rest.indexOf(u']', quote + 1);
-        if (quote < 0 || end < 0 || m_definition.dashes.empty())
-            return fail(u"shapes of a shape file, and texts that are not closed, are not read"_s);
+        const bool isText = m_rest.startsWith(u"[\"");
+        const qsizetype begin = isText ? m_rest.indexOf(u'"', 2) : 0;
+        const qsizetype end = begin < 0 ? -1 : m_rest.indexOf(u']', begin + 1);
+        if (end < 0 || m_definition.dashes.empty())
+            return fail(u"a text or shape is not closed, or stands in front of all dashes"_s);
         DefinedDash &dash = m_definition.dashes.back();
-        dash.text = m_rest.sliced(2, quote - 2).toString();
-        QList<QStringView> fields = m_rest.sliced(quote + 1, end - quote - 1).split(u',');
+        const QList<QStringView> fields = m_rest.sliced(begin + 1, end - begin - 1).split(u',');
+        dash.text = isText ? m_rest.sliced(2, begin - 2).toString() : QString();
+        dash.shape = isText ? QString() : fields[0].trimmed().toString();
         dash.style = fields.value(1).trimmed().toString();
+        if (!isText && (dash.shape.isEmpty() || dash.style.isEmpty()))
+            return fail(u"a shape needs its name and its file"_s);
         for (qsizetype i = 2; i < fields.size(); ++i) {
             if (!readProperty(dash, fields[i]))
                 return fail(u"\"%1\" is not understood"_s.arg(fields[i].left(20)));
@@ -119,36 +123,86 @@ private:
     LinetypeDefinition &m_definition;
 };
 
-void appendDash(FieldList &fields, const DefinedDash &dash, const Handle &style)
+/// What a dash refers to.
+struct DashSign
+{
+    Handle style{};
+    int shape = 0;
+    QString error{};
+};
+
+DashSign textOf(const Drawing &drawing, const DefinedDash &dash)
+{
+    const RecordId style = drawing.tables().find(TableKind::Style, dash.style);
+    if (!isValid(style))
+        return {.error = u"text style \"%1\" is not in the drawing"_s.arg(dash.style)};
+    return {.style = drawing.handle(style)};
+}
+
+/// By its number no file is needed.
+DashSign shapeOf(const DefinedDash &dash, ShapeFiles &shapes)
+{
+    bool isNumber = false;
+    const int number = dash.shape.toInt(&isNumber);
+    const ShapeFile *file = shapes.find(dash.style);
+    const std::optional<int> found = isNumber ? number : file ? file->numberOf(dash.shape) : std::nullopt;
+    if (!found && !file)
+        return {.error = u"the shape file \"%1\" is not found"_s.arg(dash.style)};
+    if (!found || *found <= 0)
+        return {.error = u"shape \"%1\" is not in the file \"%2\""_s.arg(dash.shape, dash.style)};
+    return {.shape = *found};
+}
+
+bool isPlain(const DefinedDash &dash)
+{
+    return dash.text.isEmpty() && dash.shape.isEmpty();
+}
+
+void appendDash(FieldList &fields, const DefinedDash &dash, const DashSign &sign)
 {
     constexpr qint64 flagAbsoluteRotation = 1;
     constexpr qint64 flagText = 2;
+    constexpr qint64 flagShape = 4;
+    const qint64 kind = !dash.text.isEmpty() ? flagText : sign.shape != 0 ? flagShape : 0;
     fields.push_back({49, dash.length});
-    fields.push_back({74, dash.text.isEmpty() ? 0 : flagText | (dash.isRotationAbsolute ? flagAbsoluteRotation : 0)});
-    if (dash.text.isEmpty())
+    fields.push_back({74, kind == 0 || !dash.isRotationAbsolute ? kind : kind | flagAbsoluteRotation});
+    if (kind == 0)
         return;
-    for (const Field &field : FieldList{{75, qint64(0)},
-                                        {340, style},
+    for (const Field &field : FieldList{{75, qint64(sign.shape)},
+                                        {340, sign.style},
                                         {46, dash.scale},
                                         {50, dash.rotation},
                                         {44, dash.offset.x},
-                                        {45, dash.offset.y},
-                                        {9, dash.text}})
+                                        {45, dash.offset.y}})
         fields.push_back(field);
+    if (kind == flagText)
+        fields.push_back({9, dash.text});
 }
 
-/// Description, length and elements as the drawing keeps them; empty, with `error` set, when a style is missing.
-FieldList patternFields(const Drawing &drawing, const LinetypeDefinition &definition, QString &error)
+/// Description, length and elements as the drawing keeps them; empty, with `error` set, when something is missing.
+/// Nothing is made in the drawing before all is found.
+FieldList patternFields(Drawing &drawing, const LinetypeDefinition &definition, ShapeFiles &shapes, QString &error)
 {
-    double length = 0.0;
-    FieldList dashes;
+    std::vector<DashSign> signs;
     for (const DefinedDash &dash : definition.dashes) {
-        const RecordId style = drawing.tables().find(TableKind::Style, dash.style);
-        if (!dash.text.isEmpty() && !isValid(style)) {
-            error = u"text style \"%1\" is not in the drawing"_s.arg(dash.style);
+        if (!isPlain(dash) && drawing.version() < Version::R13) {
+            error = u"a drawing of this version has no texts and shapes in linetypes"_s;
             return {};
         }
-        appendDash(dashes, dash, isValid(style) ? drawing.handle(style) : Handle{});
+        signs.push_back(!dash.text.isEmpty()    ? textOf(drawing, dash)
+                        : !dash.shape.isEmpty() ? shapeOf(dash, shapes)
+                                                : DashSign{});
+        error = signs.back().error;
+        if (!error.isEmpty())
+            return {};
+    }
+    double length = 0.0;
+    FieldList dashes;
+    for (std::size_t i = 0; i < signs.size(); ++i) {
+        const DefinedDash &dash = definition.dashes[i];
+        if (signs[i].shape != 0)
+            signs[i].style = drawing.handle(shapeFileStyle(drawing, dash.style));
+        appendDash(dashes, dash, signs[i]);
         length += std::abs(dash.length);
     }
     FieldList fields = {
@@ -170,7 +224,7 @@ void redefine(Drawing &drawing, RecordId entry, const FieldList &pattern)
     std::erase_if(fields, [](const Field &field) { return isPatternCode(field.code); });
     const auto isExtra = [](const Field &field) { return field.code >= 1000; };
     fields.insert(std::ranges::find_if(fields, isExtra), pattern.begin(), pattern.end());
-    drawing.setFields(entry, fields);
+    drawing.tables().modify(entry, fields);
 }
 
 } // namespace
@@ -202,13 +256,13 @@ std::vector<LinetypeDefinition> readLinetypeSource(QByteArrayView text)
     return definitions;
 }
 
-QString loadLinetype(Drawing &drawing, const LinetypeDefinition &definition)
+QString loadLinetype(Drawing &drawing, const LinetypeDefinition &definition, ShapeFiles &shapes)
 {
-    QString error = definition.error;
-    const FieldList pattern = error.isEmpty() ? patternFields(drawing, definition, error) : FieldList();
+    const JournalGroup group(drawing.journal(), u"LTYPE"_s);
+    QString error = definition.name.isEmpty() ? u"the name cannot be used"_s : definition.error;
+    const FieldList pattern = error.isEmpty() ? patternFields(drawing, definition, shapes, error) : FieldList();
     if (!error.isEmpty())
         return error;
-    const JournalGroup group(drawing.journal(), u"LTYPE"_s);
     const RecordId present = drawing.tables().find(TableKind::Linetype, definition.name);
     if (isValid(present))
         redefine(drawing, present, pattern);

@@ -50,7 +50,10 @@ MacroSurroundings surroundingsWith(const Variable &variable)
 
 MacroSurroundings expressionSurroundings(const Document &document)
 {
-    return surroundingsWith([&document](const QString &name) { return documentVariable(document, name); });
+    MacroSurroundings surroundings =
+        surroundingsWith([&document](const QString &name) { return documentVariable(document, name); });
+    surroundings.file = [&document](const QString &name) { return document.findFile(name); };
+    return surroundings;
 }
 
 MacroSurroundings expressionSurroundings(const drawing::Drawing &drawing)

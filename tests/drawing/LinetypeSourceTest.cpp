@@ -5,6 +5,8 @@
 #include "host/drawing/Tables.h"
 #include "tests/drawing/DrawingSample.h"
 
+#include <QTemporaryDir>
+
 namespace host::drawing {
 
 using namespace Qt::StringLiterals;
@@ -24,6 +26,8 @@ QString patternText(const LinetypeDefinition &definition)
                         .arg(dash.rotation)
                         .arg(dash.offset.x)
                         .arg(dash.offset.y);
+        if (!dash.shape.isEmpty())
+            text += u"[%1 %2 s%3]"_s.arg(dash.shape, dash.style).arg(dash.scale);
         dashes.append(text);
     }
     return dashes.join(u' ');
@@ -47,11 +51,12 @@ TEST(LinetypeSource, ReadsDefinitions)
         {"*A,\nA,one\n", {u"A||\"one\" is no length"_s}},
         {"*A,\nA,1e99\n", {u"A||\"1e99\" is no length"_s}},
         {"*A,\nA,nan\n", {u"A||\"nan\" is no length"_s}},
-        {"*A,\nA,1,[CIRC1,ltypeshp.shx,S=1],-1\n",
-         {u"A||shapes of a shape file, and texts that are not closed, are not read"_s}},
-        {"*A,\nA,1,[\"X\",STANDARD,S=1\n",
-         {u"A||shapes of a shape file, and texts that are not closed, are not read"_s}},
-        {"*A,\nA,[\"X\",STANDARD]\n", {u"A||shapes of a shape file, and texts that are not closed, are not read"_s}},
+        {"*A,\nA,1,[ CIRC1, my shapes.shx,S=2 ],-1,[132,b.shx]\n",
+         {u"A||1[CIRC1 my shapes.shx s2] -1[132 b.shx s1]"_s}},
+        {"*A,\nA,1,[CIRC1,S=1\n", {u"A||a text or shape is not closed, or stands in front of all dashes"_s}},
+        {"*A,\nA,1,[CIRC1]\n", {u"A||a shape needs its name and its file"_s}},
+        {"*A,\nA,1,[\"X\",STANDARD,S=1\n", {u"A||a text or shape is not closed, or stands in front of all dashes"_s}},
+        {"*A,\nA,[\"X\",STANDARD]\n", {u"A||a text or shape is not closed, or stands in front of all dashes"_s}},
         {"*A,\nA,1,[\"X\",STANDARD]2\n", {u"A||\"2\" is not understood"_s}},
         {"*A,\nA,1,[\"X\",STANDARD,Q=1]\n", {u"A||\"Q=1\" is not understood"_s}},
         {"*A,\nA" + QByteArray(",1").repeated(100'000), {u"A||the pattern is too long"_s}},
@@ -71,10 +76,25 @@ TEST(LinetypeSource, LoadingAddsOrRedefinesAndIsUndone)
     for (const char *version : {"AC1009", "AC1015", "AC1032"}) {
         SCOPED_TRACE(version);
         const auto drawing = sample(version);
-        const auto load = [&](const char *text) { return loadLinetype(*drawing, readLinetypeSource(text).at(0)); };
+        QTemporaryDir folder;
+        QFile source(folder.filePath(u"my.shp"_s));
+        ASSERT_TRUE(source.open(QIODevice::WriteOnly) && source.write("*7,2,BOX\n010,0\n") > 0);
+        source.close();
+        ShapeFiles shapes([&](const QString &name) { return name == u"my.shp"_s ? source.fileName() : QString(); });
+        const auto load = [&](const char *text) {
+            return loadLinetype(*drawing, readLinetypeSource(text).at(0), shapes);
+        };
         EXPECT_EQ(load("*GAS,old\nA,1,-1,1\n"), QString());
         if (!isValid(drawing->tables().find(TableKind::Style, u"STANDARD")))
             drawing->tables().add(TableKind::Style, u"Standard"_s);
+        if (drawing->version() < Version::R13) {
+            EXPECT_EQ(load("*gas,x\nA,2,-1,[\"G\",standard],-1\n"),
+                      u"a drawing of this version has no texts and shapes in linetypes"_s);
+            EXPECT_EQ(load("*gas,new\nA,2,-1\n"), QString());
+            const TagList tags = drawing->tags(findLinetype(*drawing, u"GAS")->record);
+            EXPECT_FALSE(tags.find(74));
+            continue;
+        }
         EXPECT_EQ(load("*gas,new\nA,2,-1,[\"G\",standard,S=.5,A=30,X=-1,Y=-.25],0,-1\n"), QString());
         const Linetype linetype = *findLinetype(*drawing, u"GAS");
         EXPECT_EQ(linetype.description, u"new"_s);
@@ -90,7 +110,19 @@ TEST(LinetypeSource, LoadingAddsOrRedefinesAndIsUndone)
 
         EXPECT_EQ(load("*GAS,x\nA,1,-1,[\"G\",NoStyle],-1\n"), u"text style \"NoStyle\" is not in the drawing"_s);
         EXPECT_EQ(findLinetype(*drawing, u"GAS")->description, u"new"_s) << "a failure changes nothing";
+        EXPECT_EQ(load("*S,x\nA,1,-1,[BOX,lost.shx],-1\n"), u"the shape file \"lost.shx\" is not found"_s);
+        EXPECT_EQ(load("*S,x\nA,1,[box,my],-1,[ROUND,my.shx],-1\n"),
+                  u"shape \"ROUND\" is not in the file \"my.shx\""_s);
+        EXPECT_TRUE(shapeFileNames(*drawing).isEmpty()) << "a failure makes no style";
+        EXPECT_EQ(load("*S,x\nA,1,-1,[box,my.shx,A=90],-1,[9,lost.shx]\n"), QString());
+        const auto dashes = findLinetype(*drawing, u"S")->dashes;
+        EXPECT_EQ(dashes[1].shape, 7);
+        EXPECT_TRUE(dashes[1].isRotationAbsolute);
+        EXPECT_EQ(dashes[2].shape, 9);
+        EXPECT_EQ(shapeFileNames(*drawing), (QStringList{u"my.shx"_s, u"lost.shx"_s}));
+        EXPECT_AUDIT_CLEAN(*drawing);
         drawing->journal().undo();
+        EXPECT_TRUE(shapeFileNames(*drawing).isEmpty());
     }
 }
 

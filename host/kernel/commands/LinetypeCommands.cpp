@@ -51,7 +51,8 @@ std::vector<LinetypeDefinition> matching(std::vector<LinetypeDefinition> definit
 
 void tellLoaded(CommandContext &context, const LinetypeDefinition &definition)
 {
-    const QString error = drawing::loadLinetype(context.drawing(), definition);
+    drawing::ShapeFiles shapes([&](const QString &name) { return context.document().findFile(name); });
+    const QString error = drawing::loadLinetype(context.drawing(), definition, shapes);
     context.print(error.isEmpty() ? u"\nLinetype \"%1\" loaded."_s.arg(definition.name)
                                   : u"\nLinetype \"%1\" not loaded: %2."_s.arg(definition.name, error));
 }
