@@ -4,6 +4,7 @@
 #include "host/drawing/Tables.h"
 #include "host/drawing/WipeoutFrame.h"
 #include "host/view/Fonts.h"
+#include "host/view/WideLine.h"
 
 #include <numbers>
 
@@ -24,30 +25,52 @@ double sane(double value, double otherwise)
     return std::isfinite(value) && value > 0.0 && value < 1e12 ? value : otherwise;
 }
 
-LinePatternElement readElement(const drawing::Drawing &drawing, const drawing::LinetypeDash &dash, Fonts &fonts)
+std::optional<std::vector<Curve>> shapeCurves(const drawing::ShapeFile *file, std::optional<int> number)
+{
+    const auto lines = file && number ? drawing::shapeLines(*file, *number) : std::nullopt;
+    if (!lines)
+        return std::nullopt;
+    std::vector<Curve> curves;
+    for (const drawing::ShapeLine &line : *lines) {
+        std::vector<PolylineVertex> vertices;
+        for (const drawing::ShapeVertex &vertex : line)
+            vertices.push_back({.at = {vertex.at.x, vertex.at.y, 0.0}, .bulge = vertex.bulge});
+        curves.push_back(polylineCurve(vertices, false, Matrix{}));
+    }
+    return curves;
+}
+
+LinePatternElement readElement(const drawing::Drawing &drawing, const drawing::LinetypeDash &dash, Fonts &fonts,
+                               drawing::ShapeFiles &shapes)
 {
     LinePatternElement element{.length = std::isfinite(dash.length) ? dash.length : 0.0, .text = dash.text};
-    if (dash.text.isEmpty())
+    if (dash.text.isEmpty() && dash.shape == 0)
         return element;
     const drawing::RecordId style = drawing.find(dash.style);
     const auto look = isValid(style) ? drawing::readTextStyle(drawing, style) : drawing::TextStyle{};
-    element.font = fonts.find({.name = look.fontFile});
-    element.textHeight = sane(dash.scale, 1.0) * (look.fixedHeight > 0.0 ? look.fixedHeight : 1.0);
+    element.size = sane(dash.scale, 1.0);
+    if (dash.shape != 0) {
+        element.shape = shapeCurves(shapes.find(look.fontFile), dash.shape).value_or(std::vector<Curve>());
+    } else {
+        element.font = fonts.find({.name = look.fontFile});
+        element.size *= look.fixedHeight > 0.0 ? look.fixedHeight : 1.0;
+    }
     element.rotation = dash.rotation * std::numbers::pi / 180.0;
     element.isRotationAbsolute = dash.isRotationAbsolute;
     element.offset = dash.offset;
     return element;
 }
 
-LinePattern readPattern(const drawing::Drawing &drawing, const drawing::Linetype &linetype, Fonts &fonts)
+LinePattern readPattern(const drawing::Drawing &drawing, const drawing::Linetype &linetype, Fonts &fonts,
+                        drawing::ShapeFiles &shapes)
 {
     LinePattern pattern;
     for (const drawing::LinetypeDash &dash : linetype.dashes) {
         if (pattern.elements.size() == mostElements)
             break;
-        pattern.elements.push_back(readElement(drawing, dash, fonts));
+        pattern.elements.push_back(readElement(drawing, dash, fonts, shapes));
         pattern.length += std::abs(pattern.elements.back().length);
-        pattern.hasShapes |= dash.shape != 0;
+        pattern.lacksShapes |= dash.shape != 0 && pattern.elements.back().shape.empty();
     }
     if (!(pattern.length > 1e-12) || !std::isfinite(pattern.length))
         pattern.elements.clear();
@@ -86,14 +109,25 @@ int Appearance::linetype(const QString &name)
     return *m_linetypeNumbers.insert(key, static_cast<int>(m_patterns.size()) - 1);
 }
 
-void Appearance::reload(const drawing::Drawing &drawing, Fonts &fonts)
+std::optional<std::vector<Curve>> Appearance::shapeNamed(const QString &name, drawing::ShapeFiles &shapes) const
 {
+    for (const QString &fileName : m_shapeFiles) {
+        const drawing::ShapeFile *file = shapes.find(fileName);
+        if (const auto number = file ? file->numberOf(name) : std::nullopt)
+            return shapeCurves(file, number);
+    }
+    return std::nullopt;
+}
+
+void Appearance::reload(const drawing::Drawing &drawing, Fonts &fonts, drawing::ShapeFiles &shapes)
+{
+    m_shapeFiles = drawing::shapeFileNames(drawing);
     std::ranges::fill(m_patterns, LinePattern{});
     for (const drawing::RecordId entry : drawing.tables().entries(drawing::TableKind::Linetype)) {
         const drawing::Linetype read = drawing::readLinetype(drawing, entry);
         const int number = linetype(read.name);
         if (number > continuous)
-            m_patterns[static_cast<std::size_t>(number)] = readPattern(drawing, read, fonts);
+            m_patterns[static_cast<std::size_t>(number)] = readPattern(drawing, read, fonts, shapes);
     }
     std::ranges::fill(m_layers, LayerLook{});
     for (const drawing::Layer &read : drawing::allLayers(drawing)) {

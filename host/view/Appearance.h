@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/drawing/ShapeFiles.h"
 #include "host/drawing/Symbols.h"
 #include "host/view/AciColor.h"
 #include "host/view/Display.h"
@@ -9,24 +10,27 @@
 
 namespace host::view {
 
-/// One dash, gap (negative) or dot (0) of a linetype, and the text set on it.
+/// One dash, gap (negative) or dot (0) of a linetype, and the text or shape set on it.
 struct LinePatternElement
 {
     double length = 0.0;
     QString text{};
     int font = 0;
-    double textHeight = 0.0;
-    double rotation = 0.0; ///< radians
+    std::vector<Curve> shape{}; ///< at size 1; empty when there is none
+    double size = 0.0;          ///< of the text's capitals, or of the shape
+    double rotation = 0.0;      ///< radians
     bool isRotationAbsolute = false;
     Vec2 offset{};
+
+    bool hasSign() const { return !text.isEmpty() || !shape.empty(); }
 };
 
 /// A linetype ready for drawing. Without elements it is a full line.
 struct LinePattern
 {
     std::vector<LinePatternElement> elements{};
-    double length = 0.0;    ///< of one repetition, positive when there are elements
-    bool hasShapes = false; ///< has shapes of shape files, which are left out
+    double length = 0.0;      ///< of one repetition, positive when there are elements
+    bool lacksShapes = false; ///< has shapes that are left out: their files are not found
 };
 
 struct LayerLook
@@ -64,7 +68,9 @@ public:
     const LinePattern &pattern(int linetype) const { return m_patterns[static_cast<std::size_t>(linetype)]; }
 
     /// Reads layers, linetypes and settings again.
-    void reload(const drawing::Drawing &drawing, Fonts &fonts);
+    void reload(const drawing::Drawing &drawing, Fonts &fonts, drawing::ShapeFiles &shapes);
+    /// The shape of this name in the first of the drawing's shape files that has it, at size 1; nothing when none has.
+    std::optional<std::vector<Curve>> shapeNamed(const QString &name, drawing::ShapeFiles &shapes) const;
 
     /// `insert` is what the insert that the shape is seen through was resolved to; null outside blocks.
     ResolvedStyle resolve(const Style &style, const ResolvedStyle *insert, Ground ground) const;
@@ -82,6 +88,7 @@ private:
     std::vector<LayerLook> m_layers;
     QHash<QString, int> m_linetypeNumbers;
     std::vector<LinePattern> m_patterns;
+    QStringList m_shapeFiles; ///< that styles of the drawing name
     double m_linetypeScale = 1.0;
     int m_maskFrame = 1; ///< see drawing::wipeoutFrame()
     int m_pointMode = 0;

@@ -48,6 +48,7 @@ constexpr std::array typeRows = {
     TypeRow{"ATTDEF", buildAttdef},
     TypeRow{"MTEXT", buildMText},
     TypeRow{"RTEXT", buildRemoteText},
+    TypeRow{"SHAPE", buildShape},
     TypeRow{"HATCH", buildHatch},
     TypeRow{"INSERT", buildInsert},
     TypeRow{"DIMENSION", buildDimension},

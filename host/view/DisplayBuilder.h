@@ -66,6 +66,7 @@ bool buildText(BuildContext &context, const drawing::TagList &tags);
 bool buildAttdef(BuildContext &context, const drawing::TagList &tags);
 bool buildMText(BuildContext &context, const drawing::TagList &tags);
 bool buildRemoteText(BuildContext &context, const drawing::TagList &tags);
+bool buildShape(BuildContext &context, const drawing::TagList &tags);
 bool buildHatch(BuildContext &context, const drawing::TagList &tags);
 bool buildInsert(BuildContext &context, const drawing::TagList &tags);
 bool buildDimension(BuildContext &context, const drawing::TagList &tags);

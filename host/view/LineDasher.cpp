@@ -115,9 +115,9 @@ void LineDasher::runVisible(const Track &track, const Layout &layout, double fro
                         closesLine ? layout.last : std::min(end, layout.last), from, to, output);
             if (closesLine)
                 break;
-            // A text stands where its element ends, which may be in a gap that goes on in the next one.
-            if (!element.text.isEmpty() && end >= from && end <= to && end <= layout.last)
-                emitText(track, element, end, output);
+            // A text or shape stands where its element ends, which may be in a gap that goes on in the next one.
+            if (element.hasSign() && end >= from && end <= to && end <= layout.last)
+                emitSign(track, element, end, output);
             isFirst = false;
             at = end;
         }
@@ -144,7 +144,7 @@ void LineDasher::emitElement(const Track &track, const LinePatternElement &eleme
     output.dash(points);
 }
 
-void LineDasher::emitText(const Track &track, const LinePatternElement &element, double at,
+void LineDasher::emitSign(const Track &track, const LinePatternElement &element, double at,
                           const DashOutput &output) const
 {
     const Place place = placeAt(track, at);
@@ -154,7 +154,7 @@ void LineDasher::emitText(const Track &track, const LinePatternElement &element,
     const QPointF along = (track.points[place.piece + 1] - track.points[place.piece]) / length;
     const QPointF left(along.y(), -along.x());
     const QPointF start = place.point + (along * element.offset.x + left * element.offset.y) * m_scale;
-    output.text(element, start, along * m_scale, left * m_scale);
+    output.sign(element, start, along * m_scale, left * m_scale);
 }
 
 } // namespace host::view

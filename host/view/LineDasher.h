@@ -13,9 +13,9 @@ struct DashOutput
 {
     std::function<void(std::span<const QPointF>)> dash;
     std::function<void(QPointF)> dot;
-    /// A text of the pattern: where it starts on the line, and two screen vectors: one drawing unit along the line
-    /// and one to its left.
-    std::function<void(const LinePatternElement &, QPointF, QPointF, QPointF)> text;
+    /// A text or shape of the pattern: where it starts on the line, and two screen vectors: one drawing unit along the
+    /// line and one to its left.
+    std::function<void(const LinePatternElement &, QPointF, QPointF, QPointF)> sign;
 };
 
 /// Lays a linetype along a track.
@@ -48,7 +48,7 @@ private:
     void runVisible(const Track &track, const Layout &layout, double from, double to, const DashOutput &output) const;
     void emitElement(const Track &track, const LinePatternElement &element, double from, double to, double seenFrom,
                      double seenTo, const DashOutput &output) const;
-    void emitText(const Track &track, const LinePatternElement &element, double at, const DashOutput &output) const;
+    void emitSign(const Track &track, const LinePatternElement &element, double at, const DashOutput &output) const;
     void runRange(const Track &track, std::size_t from, std::size_t to, const Layout &layout,
                   const DashOutput &output) const;
 

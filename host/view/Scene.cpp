@@ -66,7 +66,8 @@ QString RenderReport::summary() const
 }
 
 Scene::Scene(const drawing::Drawing &drawing, drawing::MacroSurroundings surroundings)
-    : m_drawing(drawing), m_surroundings(std::move(surroundings))
+    : m_drawing(drawing), m_surroundings(std::move(surroundings)),
+      m_shapes(m_surroundings.file ? m_surroundings.file : drawing::besideDrawing(drawing))
 {
     if (!m_surroundings.variable)
         m_surroundings.variable = drawing::surroundingsOf(drawing).variable;
@@ -95,10 +96,11 @@ void Scene::regenerate()
 {
     for (const auto &block : m_blocks) {
         for (const RecordDisplay &shown : block->records) {
-            if (m_drawing.isType(shown.record, "RTEXT"))
+            if (m_drawing.isType(shown.record, "RTEXT") || m_drawing.isType(shown.record, "SHAPE"))
                 m_changes.records.insert(shown.record);
         }
     }
+    m_changes.tables = true;
 }
 
 int Scene::block(const QString &name)
@@ -197,8 +199,10 @@ void Scene::applyChanges()
 {
     if (!m_changes.any())
         return;
-    if (m_changes.tables || m_changes.everything)
-        m_appearance.reload(m_drawing, m_fonts);
+    if (m_changes.tables || m_changes.everything) {
+        m_shapes.forget();
+        m_appearance.reload(m_drawing, m_fonts, m_shapes);
+    }
     if (m_changes.everything)
         forgetEverything();
     if (!m_changes.order && !m_changes.everything)
@@ -347,13 +351,13 @@ RenderReport Scene::report(int block)
     return report;
 }
 
-/// Shapes of shape files in its linetype are left out.
-bool Scene::hasPatternShapes(const RecordDisplay &record) const
+/// Shapes in its linetype are left out.
+bool Scene::lacksPatternShapes(const RecordDisplay &record) const
 {
     return std::ranges::any_of(record.items, [this](const DisplayItem &item) {
         const int own = item.style.linetype;
         const int shown = own == Style::byLayer ? m_appearance.layerLook(item.style.layer).linetype : own;
-        return shown > 0 && m_appearance.pattern(shown).hasShapes;
+        return shown > 0 && m_appearance.pattern(shown).lacksShapes;
     });
 }
 
@@ -366,7 +370,7 @@ void Scene::countInto(RenderReport &report, const BlockDisplay &block, std::vect
             ++report.skipped[type];
         else if (record.isHidden)
             ++report.hidden;
-        else if (record.isSimplified || hasPatternShapes(record))
+        else if (record.isSimplified || lacksPatternShapes(record))
             ++report.simplified[type];
         else
             ++report.drawn;

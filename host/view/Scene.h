@@ -66,8 +66,8 @@ public:
 
     const drawing::Drawing &drawing() const { return m_drawing; }
     const drawing::MacroSurroundings &surroundings() const { return m_surroundings; }
-    /// What comes from outside the drawing, the files and expressions of remote texts, is read again before the next
-    /// look.
+    /// What comes from outside the drawing, the files and expressions of remote texts and the shape files, is read
+    /// again before the next look.
     void regenerate();
     /// A number for a block by its name, whether or not there is such a block (yet). Layout blocks are spaces.
     int block(const QString &name);
@@ -81,6 +81,7 @@ public:
     Appearance &appearance() { return m_appearance; }
     const Appearance &appearance() const { return m_appearance; }
     Fonts &fonts() { return m_fonts; }
+    drawing::ShapeFiles &shapes() { return m_shapes; }
 
     /// Of what can be seen of the space or block. Lines without end do not count.
     Box extents(int block, Seen seen = Seen::OnScreen);
@@ -123,13 +124,14 @@ private:
     void updateBoxes();
     void updateBox(BlockDisplay &block, std::vector<char> &visited);
     void updateBox(RecordDisplay &record, std::vector<char> &visited);
-    bool hasPatternShapes(const RecordDisplay &record) const;
+    bool lacksPatternShapes(const RecordDisplay &record) const;
     void countInto(RenderReport &report, const BlockDisplay &block, std::vector<char> &visited) const;
 
     const drawing::Drawing &m_drawing;
     drawing::MacroSurroundings m_surroundings;
     drawing::Drawing *m_followed = nullptr;
     Fonts m_fonts;
+    drawing::ShapeFiles m_shapes;
     Appearance m_appearance;
     std::vector<std::unique_ptr<BlockDisplay>> m_blocks;
     QHash<QString, int> m_blockNumbers;

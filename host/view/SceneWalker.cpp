@@ -175,21 +175,32 @@ DashOutput SceneWalker::dashOutput(const ResolvedStyle &style)
     return {
         .dash = [this, &style](std::span<const QPointF> points) { m_sink.line(points, style); },
         .dot = [this, &style](QPointF point) { m_sink.dot(point, style); },
-        .text =
+        .sign =
             [this, &style](const LinePatternElement &element, QPointF start, QPointF along, QPointF left) {
-                const TextRun run{.text = element.text,
-                                  .font = element.font,
-                                  .width = m_scene.fonts().width(element.font, element.text)};
                 if (element.isRotationAbsolute) {
                     along = {std::hypot(along.x(), along.y()), 0.0};
                     left = {0.0, -along.x()};
                 }
-                const double c = std::cos(element.rotation) * element.textHeight;
-                const double s = std::sin(element.rotation) * element.textHeight;
+                const double c = std::cos(element.rotation) * element.size;
+                const double s = std::sin(element.rotation) * element.size;
                 const QPointF x = along * c + left * s;
                 const QPointF y = left * c - along * s;
-                m_sink.text(run, {{x.x(), x.y(), 0}, {y.x(), y.y(), 0}, {0, 0, 1}, {start.x(), start.y(), 0}}, style);
+                emitSign(element, {{x.x(), x.y(), 0}, {y.x(), y.y(), 0}, {0, 0, 1}, {start.x(), start.y(), 0}}, style);
             }};
+}
+
+void SceneWalker::emitSign(const LinePatternElement &element, const Matrix &toScreen, const ResolvedStyle &style)
+{
+    if (!element.text.isEmpty()) {
+        const double width = m_scene.fonts().width(element.font, element.text);
+        m_sink.text({.text = element.text, .font = element.font, .width = width}, toScreen, style);
+    }
+    for (const Curve &curve : element.shape) {
+        Track track;
+        CurveTracer(toScreen, m_options.view).trace(curve, track);
+        if (!track.points.empty())
+            emitTrack(track, style);
+    }
 }
 
 void SceneWalker::emitDashes(const Track &track, bool isOneRun, const LineDasher &dasher, const ResolvedStyle &style)

@@ -88,6 +88,7 @@ private:
     void emitTrack(const Track &track, const ResolvedStyle &style);
     void emitDashes(const Track &track, bool isOneRun, const LineDasher &dasher, const ResolvedStyle &style);
     DashOutput dashOutput(const ResolvedStyle &style);
+    void emitSign(const LinePatternElement &element, const Matrix &toScreen, const ResolvedStyle &style);
     void emitMarkShape(QPointF at, double size, int mode, const ResolvedStyle &style);
 
     Scene &m_scene;

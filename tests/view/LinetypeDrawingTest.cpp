@@ -1,5 +1,7 @@
 #include "tests/view/Rendering.h"
 
+#include <QTemporaryFile>
+
 #include <gtest/gtest.h>
 
 namespace host::view::test {
@@ -78,6 +80,28 @@ TEST(LinetypeDrawing, ShapesInThePatternAreReportedAsLeftOut)
     const Rendering shown({.entities = line("8 0|6 S"), .tables = shaped});
     EXPECT_EQ(shown.runs({10, 50}, {90, 50}), 5);
     EXPECT_EQ(shown.report().simplified, (QMap<QString, qint64>{{QStringLiteral("LINE"), 1}}));
+}
+
+TEST(LinetypeDrawing, ShapesInThePatternAndShapesAreDrawnFromTheirFile)
+{
+    QTemporaryFile source;
+    ASSERT_TRUE(source.open() && source.write("*132,9,TICK\n2,8,(0,10),1,0A0,0\n") > 0);
+    source.close();
+    const std::string tables =
+        tableText("STYLE", "0 STYLE|5 2A|2 |70 1|40 0|41 1|50 0|71 0|42 1|3 my.shx|4 ") + "|" +
+        tableText("LTYPE",
+                  "0 LTYPE|2 S|70 0|3 x|72 65|73 2|40 20|49 10|74 4|75 132|340 2A|46 0.5|50 0|44 0|45 0|49 -10|74 0");
+    const auto drawing = readDrawing(
+        {.entities = line("8 0|6 S") + "|0 SHAPE|8 0|10 40|20 10|40 2|2 tick|50 90|0 SHAPE|8 0|10 10|20 90|40 1|2 LOST",
+         .tables = tables});
+    Scene scene(*drawing, {.file = [&](const QString &name) {
+        return name == QStringLiteral("my.shp") ? source.fileName() : QString();
+    }});
+    const Rendering shown(scene, Scene::modelSpace);
+    // Dashes end at 15, 35, ...; the shape of half its size stands there. The other one is turned to the left.
+    expectInk(shown, "50,50 17,55 37,55 20,20", "25,20 20,50 13,55 23,55");
+    EXPECT_EQ(shown.report().skipped, (QMap<QString, qint64>{{QStringLiteral("SHAPE"), 1}}));
+    EXPECT_TRUE(shown.report().simplified.isEmpty());
 }
 
 TEST(LinetypeDrawing, TextsInThePattern)
