@@ -1,12 +1,14 @@
 ;;; menu: Make linetype | MAKELINESTYLE | Makes a linetype of a drawn pattern and writes it into a linetype file
 ;;;
-;;; MAKELINESTYLE: the dialog gives the file, the name and the description; then the pattern is picked, lines, points and
-;;; texts that lie along a direction, and the points where it starts and where it repeats. Lines are dashes, points are
-;;; dots, what lies between them are gaps, texts stand where they stand. The definition goes into the file in place of the
-;;; one of that name, or behind the others, and the linetype is loaded into the drawing.
+;;; MAKELINESTYLE: the dialog gives the file, the name and the description; then the pattern is picked, lines,
+;;; polylines, points, texts and shapes that lie along a direction, and the points where it starts and where it repeats.
+;;; Lines are dashes, points are dots, what lies between them are gaps, texts and shapes stand where they stand. The
+;;; definition goes into the file in place of the one of that name, or behind the others, and the linetype is loaded into
+;;; the drawing.
 ;;;
 ;;; Distances are measured along the direction from the start, and to its left, as the drawing is seen from above. An
-;;; element of the pattern is a list (from to text ...): a dash or a dot; a gap has a third item GAP.
+;;; element of the pattern is a list (from to text ...): a dash or a dot; a gap has a third item GAP. A text or shape is
+;;; called a sign.
 
 (defun c:makelinestyle (/ *error* kora:variables choice definition)
   (kora_begin '(("CMDECHO" . 0)))
@@ -15,6 +17,14 @@
            (kora_save_definition (car choice) 0 (cadr choice) definition))
     (makelinestyle:load choice))
   (kora_end))
+
+(setq makelinestyle:signs "TEXT,MTEXT,SHAPE")
+(setq makelinestyle:unusable
+  (list (kora_other_kind (strcat "LINE,LWPOLYLINE,POLYLINE,POINT," makelinestyle:signs))
+        '(makelinestyle:is_tilted "in another plane")
+        '(makelinestyle:is_curved "curved")
+        '(makelinestyle:is_blank "without letters")
+        '(makelinestyle:is_formatted "of several lines or with formatting")))
 
 ;; -> (file name description), nil when the user gave up or the name cannot be a linetype's.
 (defun makelinestyle:ask (file / state name)
@@ -27,9 +37,9 @@
         (kora_refuse (strcat "A linetype cannot be named " name "."))))))
 
 ;; -> the lines of the definition, nil when the user gave up or there is no pattern in what was picked.
-(defun makelinestyle:measure (choice / selection start end axis parts texts)
-  (princ "\nSelect lines, points and texts of one pattern: ")
-  (if (and (setq selection (ssget '((0 . "LINE,POINT,TEXT"))))
+(defun makelinestyle:measure (choice / entities start end axis parts texts)
+  (if (and (setq entities (kora_choose "Select lines, polylines, points, texts and shapes of one pattern: " nil))
+           (setq entities (kora_usable entities makelinestyle:unusable))
            (setq start (getPointOrtakit "\nSpecify start point of the pattern: "))
            (setq end (getPointOrtakit start "\nSpecify point where the pattern repeats: ")))
     (progn
@@ -41,24 +51,74 @@
         (kora_refuse "The pattern has no length.")
         (progn
           (setq axis (list start (angle start end) (distance start end)))
-          (foreach entity (kora_selection_to_list selection)
+          (foreach entity (kora_usable entities '((makelinestyle:is_beside "beside the direction")
+                                                  (makelinestyle:is_outside "outside the pattern")))
             (makelinestyle:take (entget entity)))
           (makelinestyle:define choice axis parts texts))))))
 
-;; Measures one entity into the parts or texts of makelinestyle:measure.
-(defun makelinestyle:take (data / from to)
-  (setq from (makelinestyle:along (kora_field data 10)))
+(defun makelinestyle:is_sign (data) (wcmatch (kora_field data 0) makelinestyle:signs))
+
+;; Signs cannot be mirrored; of polylines their pieces are asked for.
+(defun makelinestyle:is_tilted (data)
+  (if (makelinestyle:is_sign data)
+    (not (equal (kora_normal data) '(0.0 0.0 1.0) 1e-9))
+    (and (wcmatch (kora_field data 0) "*LINE") (null (kora_pieces data)))))
+
+(defun makelinestyle:is_curved (data)
+  (vl-some '(lambda (piece) (/= (caddr piece) 0.0)) (kora_pieces data)))
+
+(defun makelinestyle:is_blank (data)
+  (and (wcmatch (kora_field data 0) "TEXT,MTEXT")
+       (or (= (kora_string_trim (kora_text_content data)) "") (null (kora_text_box data)))))
+
+;; Of the formatting of a paragraph nothing can be in a linetype.
+(defun makelinestyle:is_formatted (data / parts)
+  (and (= (kora_field data 0) "MTEXT")
+       (setq parts (kora_text_parts data))
+       (or (cdr parts) (/= (caar parts) 'TEXT) (> (kora_field data 43) (* 1.5 (kora_field data 40))))))
+
+(defun makelinestyle:is_beside (data)
+  (vl-some '(lambda (run) (> (max (abs (cadar run)) (abs (cadadr run))) (* 0.01 (caddr axis))))
+           (makelinestyle:runs data)))
+
+(defun makelinestyle:is_outside (data)
+  (if (makelinestyle:is_sign data)
+    (not (<= -1e-9 (car (makelinestyle:along (makelinestyle:start data))) (caddr axis)))
+    (null (makelinestyle:dashes data))))
+
+;; The ends of what an entity draws, lists of two places along the direction; none of a sign.
+(defun makelinestyle:runs (data)
   (cond
-    ((= (kora_field data 0) "TEXT")
-     (if (<= -1e-9 (car from) (caddr axis))
-       (setq texts (cons (list (max 0.0 (car from)) (cadr from) data) texts))
-       (kora_alert_message "A text outside the pattern was left out.")))
-    ((progn
-       (setq to (if (= (kora_field data 0) "LINE") (makelinestyle:along (kora_field data 11)) from))
-       (> (max (abs (cadr from)) (abs (cadr to))) (* 0.01 (caddr axis))))
-     (kora_alert_message "A line or point beside the direction was left out."))
-    ((setq from (makelinestyle:clipped (car from) (car to))) (setq parts (cons from parts)))
-    (T (kora_alert_message "A line or point outside the pattern was left out."))))
+    ((makelinestyle:is_sign data) nil)
+    ((= (kora_field data 0) "POINT")
+     (setq data (makelinestyle:along (kora_field data 10)))
+     (list (list data data)))
+    (T (mapcar '(lambda (piece) (list (makelinestyle:along (car piece)) (makelinestyle:along (cadr piece))))
+               (kora_pieces data)))))
+
+;; The parts of its runs that are within the pattern.
+(defun makelinestyle:dashes (data)
+  (vl-remove nil (mapcar '(lambda (run) (makelinestyle:clipped (caar run) (caadr run))) (makelinestyle:runs data))))
+
+;; Measures one entity into the parts or texts of makelinestyle:measure.
+(defun makelinestyle:take (data / place)
+  (if (makelinestyle:is_sign data)
+    (setq place (makelinestyle:along (makelinestyle:start data))
+          texts (cons (list (max 0.0 (car place)) (cadr place) data) texts))
+    (setq parts (append (makelinestyle:dashes data) parts))))
+
+;; Where the first letter of a text, or a shape, stands on its base line.
+(defun makelinestyle:start (data / attachment)
+  (if (= (kora_field data 0) "MTEXT")
+    (progn
+      (setq attachment (1- (cond ((kora_field data 71)) (1))))
+      (kora:turned (kora_field data 10) (makelinestyle:turn data)
+                   (list (* -0.5 (kora_field data 42) (rem attachment 3))
+                         (* (kora_field data 43) (- (* 0.5 (/ attachment 3)) 1.0)))))
+    (kora_field data 10)))
+
+(defun makelinestyle:turn (data)
+  (if (= (kora_field data 0) "MTEXT") (kora:paragraph_turn data) (cond ((kora_field data 50)) (0.0))))
 
 ;; -> (distance along the direction, distance to its left) of a point.
 (defun makelinestyle:along (point / run turn)
@@ -101,10 +161,33 @@
     ((null (vl-remove-if 'makelinestyle:is_gap elements)) "The pattern needs a line or a point.")
     ((and (null texts) (not (vl-some 'makelinestyle:is_gap elements))) "The pattern needs a gap or a text.")
     ((> (length elements) 12) "The pattern has more than the 12 elements that a linetype can have.")
-    ((vl-some '(lambda (one) (vl-string-search "\"" (kora_field (caddr one) 1))) texts)
-     "A text with quotation marks cannot be in a linetype.")
+    ((vl-some '(lambda (one) (makelinestyle:sign_problem (caddr one))) texts))
     ((vl-some '(lambda (low high) (< (- high low) (makelinestyle:least))) places (cdr places))
      "Two texts start at the same place.")))
+
+;; What keeps a text or shape from being in a linetype; nil when nothing does.
+(defun makelinestyle:sign_problem (data / file)
+  (cond
+    ((/= (kora_field data 0) "SHAPE")
+     (if (vl-string-search "\"" (kora_text_content data)) "A text with quotation marks cannot be in a linetype."))
+    ((null (setq file (makelinestyle:shape_file (kora_field data 2))))
+     (strcat "The shape " (kora_field data 2) " is in no shape file of the drawing."))
+    ((wcmatch file "*[],]*") (strcat "The shape file " file " cannot be in a linetype: its name has a comma or bracket."))))
+
+;; -> the drawing's shape file that has the shape, by the sources that are found; of a single file no source is needed.
+(defun makelinestyle:shape_file (name / style files)
+  (setq style (tblnext "STYLE" T))
+  (while style
+    (if (= 1 (logand 1 (kora_field style 70))) (setq files (cons (kora_field style 3) files)))
+    (setq style (tblnext "STYLE")))
+  (cond ((null (cdr files)) (car files))
+        ((vl-some '(lambda (file) (if (makelinestyle:has_shape file name) file)) (reverse files)))))
+
+(defun makelinestyle:has_shape (file name / path)
+  (if (wcmatch (strcase file) "*.SHX,*.SHP") (setq file (substr file 1 (- (strlen file) 4))))
+  (if (setq path (findfile (strcat file ".shp")))
+    (vl-some '(lambda (line) (= (strcase (cond ((caddr (kora_header_fields line))) (""))) (strcase name)))
+             (kora_file_lines path))))
 
 (defun makelinestyle:is_gap (element) (= (caddr element) 'GAP))
 
@@ -166,15 +249,18 @@
   (strcat (makelinestyle:number (if (makelinestyle:is_gap element) (- length) length))
           (if (cadddr element) (makelinestyle:text_text (cadddr element) (cadr element)) "")))
 
-;; The text counts from the end of its element; its height from that of its style, where that has one.
+;; The sign counts from the end of its element; a text's height from that of its style, where that has one.
 (defun makelinestyle:text_text (one end / data style fixed)
   (setq data  (caddr one)
         style (cond ((kora_field data 7)) ("STANDARD"))
         fixed (kora_field (tblsearch "STYLE" style) 40)
-        fixed (if (and fixed (> fixed 0.0)) fixed 1.0))
-  (strcat ",[\"" (kora_field data 1) "\"," style
+        fixed (if (and fixed (> fixed 0.0) (/= (kora_field data 0) "SHAPE")) fixed 1.0))
+  (strcat ",["
+          (if (= (kora_field data 0) "SHAPE")
+            (strcat (kora_field data 2) "," (makelinestyle:shape_file (kora_field data 2)))
+            (strcat "\"" (kora_text_content data) "\"," style))
           ",S=" (makelinestyle:number (/ (kora_field data 40) fixed))
-          ",R=" (kora_number_text (makelinestyle:degrees (- (cond ((kora_field data 50)) (0.0)) (cadr axis))) 4)
+          ",R=" (kora_number_text (makelinestyle:degrees (- (makelinestyle:turn data) (cadr axis))) 4)
           ",X=" (makelinestyle:number (- (car one) end))
           ",Y=" (makelinestyle:number (cadr one)) "]"))
 

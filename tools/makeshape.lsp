@@ -35,13 +35,15 @@
   (not (vl-some '(lambda (code) (> code 126)) (vl-string->list text))))
 
 ;; -> the bytes of the shape, nil when the user gave up or what was picked cannot be a shape.
-(defun makeshape:pick (choice / selection base pieces box size)
-  (princ "\nSelect lines, arcs, circles and polylines: ")
-  (if (and (setq selection (ssget '((0 . "LINE,ARC,CIRCLE,LWPOLYLINE"))))
-           (or (<= (sslength selection) 2000) (kora_refuse "A shape cannot have so many parts."))
+(defun makeshape:pick (choice / entities base pieces box size)
+  (if (and (setq entities (kora_choose "Select lines, arcs, circles and polylines: " nil))
+           (setq entities (kora_usable entities (list (kora_other_kind "LINE,ARC,CIRCLE,LWPOLYLINE,POLYLINE")
+                                                      '((lambda (data) (null (makeshape:pieces data)))
+                                                        "tilted or in space"))))
+           (or (<= (length entities) 2000) (kora_refuse "A shape cannot have so many parts."))
            (setq base (getPointOrtakit "\nSpecify insertion point of the shape: ")))
     (progn
-      (setq pieces (apply 'append (mapcar 'makeshape:pieces (kora_selection_to_list selection)))
+      (setq pieces (apply 'append (mapcar '(lambda (entity) (makeshape:pieces (entget entity))) entities))
             box    (makeshape:box pieces)
             size   (if box (apply 'max (mapcar '- (cadr box) (car box))) 0.0)
             base   (trans base 1 0))
@@ -56,42 +58,11 @@
 
 (defun makeshape:flat (point) (list (car point) (cadr point)))
 
-;; The pieces of one entity in drawing units. One that does not lie in the plane of the drawing is left out.
-(defun makeshape:pieces (entity / data type)
-  (setq data (entget entity)
-        type (kora_field data 0))
-  (cond
-    ((not (equal (cond ((kora_field data 210)) ('(0.0 0.0 1.0))) '(0.0 0.0 1.0) 1e-9))
-     (kora_alert_message "A tilted part was left out.")
-     nil)
-    ((= type "LINE") (list (list (makeshape:flat (kora_field data 10)) (makeshape:flat (kora_field data 11)) 0.0)))
-    ((= type "CIRCLE") (list (list (makeshape:flat (kora_field data 10)) nil (kora_field data 40))))
-    ((= type "ARC")
-     (makeshape:arc (makeshape:flat (kora_field data 10)) (kora_field data 40) (kora_field data 50) (kora_field data 51)))
-    (T (makeshape:polyline data))))
-
-;; Two halves, so that none has more than half a turn.
-(defun makeshape:arc (centre radius start end / half)
-  (if (<= end start) (setq end (+ end pi pi)))
-  (setq half (/ (- end start) 2.0))
-  (mapcar '(lambda (from)
-             (list (polar centre from radius) (polar centre (+ from half) radius) (makeshape:tangent (/ half 4.0))))
-          (list start (+ start half))))
-
-(defun makeshape:tangent (turn) (/ (sin turn) (cos turn)))
-
-(defun makeshape:polyline (data / vertices bulges)
-  (foreach field data
-    (cond ((= (car field) 10) (setq vertices (cons (makeshape:flat (cdr field)) vertices)
-                                    bulges   (cons 0.0 bulges)))
-          ((= (car field) 42) (setq bulges (cons (cdr field) (cdr bulges))))))
-  (setq vertices (reverse vertices)
-        bulges   (reverse bulges))
-  (apply 'append
-         (mapcar 'makeshape:halved
-                 vertices
-                 (append (cdr vertices) (if (= 1 (logand 1 (kora_field data 70))) (list (car vertices))))
-                 bulges)))
+;; The pieces of one entity in drawing units, none with more than half a turn; nil of one that is tilted.
+(defun makeshape:pieces (data)
+  (if (and (= (kora_field data 0) "CIRCLE") (equal (abs (caddr (kora_normal data))) 1.0 1e-9))
+    (list (list (kora:seen_flat (kora_field data 10) (kora_normal data)) nil (kora_field data 40)))
+    (apply 'append (mapcar '(lambda (piece) (apply 'makeshape:halved piece)) (kora_pieces data)))))
 
 ;; A piece, in two when it has more than half a turn.
 (defun makeshape:halved (from to bulge)
@@ -99,7 +70,7 @@
 
 (defun makeshape:halves (from to bulge / middle half)
   (setq middle (makeshape:middle from to bulge)
-        half   (makeshape:tangent (/ (atan bulge) 2.0)))
+        half   (kora:tangent (/ (atan bulge) 2.0)))
   (list (list from middle half) (list middle to half)))
 
 ;; The middle of a line or an arc, which lies to the right of the chord when the bulge is positive.

@@ -21,7 +21,8 @@ protected:
                "key Linetypefile Return\nset name %3\nset description \"a, b\"\nclick acceptButton\n%2"_s.arg(
                    file, isReplaced ? u"message already Yes\n"_s : QString(), name);
     }
-    /// Entities made far from the plan: "line x x", "point x" or "text x y text", measured from 100,0 along `turn`.
+    /// Entities made far from the plan: "line x x", "point x" or "text x y text", measured from 100,0 along `turn`, or
+    /// whole lists for entmake.
     static QString drawn(const QString &entities)
     {
         QString session;
@@ -29,7 +30,8 @@ protected:
             session += u"lisp (made '(%1))\n"_s.arg(entity);
         return u"lisp (defun at (x y) (list (+ 100.0 (- (* x (cos turn)) (* y (sin turn)))) "
                "(+ (* x (sin turn)) (* y (cos turn))) 0.0))\n"
-               "lisp (defun made (one) (entmake (cond ((= (car one) 'line) (list '(0 . \"LINE\") (cons 10 (at (cadr "
+               "lisp (defun made (one) (entmake (cond ((listp (car one)) (car one)) ((= (car one) 'line) (list '(0 . "
+               "\"LINE\") (cons 10 (at (cadr "
                "one) "
                "0)) (cons 11 (at (caddr one) 0)))) ((= (car one) 'point) (list '(0 . \"POINT\") (cons 10 (at (cadr "
                "one) "
@@ -72,6 +74,17 @@ TEST_F(MakeLinestyleTool, MeasuresThePattern)
          "A,2,[\"X\",Standard,S=0.25,R=0,X=-1.5,Y=0]"},
         {"a text in the gap that moved", "line 0.5 1.0; text 0.25 0.0 \"X\"", "101,0",
          "A,0.5,-0.5,[\"X\",Standard,S=0.25,R=0,X=-0.25,Y=0]"},
+        {"polylines are dashes, also seen from behind",
+         "((0 . \"LWPOLYLINE\") (100 . \"AcDbEntity\") (100 . \"AcDbPolyline\") (90 . 3) (70 . 0) (10 100.0 0.0) "
+         "(10 100.5 0.0) (10 101.0 0.0)); ((0 . \"LWPOLYLINE\") (100 . \"AcDbEntity\") (100 . \"AcDbPolyline\") (90 . "
+         "2) "
+         "(70 . 0) (10 -101.5 0.0) (10 -101.75 0.0) (210 0.0 0.0 -1.0)); ((0 . \"POLYLINE\") (66 . 1)); ((0 . "
+         "\"VERTEX\") "
+         "(10 102.5 0.0 0.0)); ((0 . \"VERTEX\") (10 102.75 0.0 0.0)); ((0 . \"SEQEND\"))",
+         "103,0", "A,1,-0.5,0.25,-0.75,0.25,-0.25"},
+        {"a paragraph of one line",
+         "line 0.0 1.0; ((0 . \"MTEXT\") (10 101.25 0.125 0.0) (40 . 0.25) (71 . 1) (1 . \"AB\"))", "102,0",
+         "A,1,-1,[\"AB\",Standard,S=0.25,R=0,X=-0.75,Y=-0.125]"},
     };
     for (const auto &row : rows) {
         QFile::remove(file);
@@ -98,7 +111,23 @@ TEST_F(MakeLinestyleTool, WhatCannotBeMadeIsSaidAndNothingIsWritten)
         {u"The pattern needs a line or a point."_s, "text 0.5 0.0 \"X\""},
         {u"The pattern needs a gap or a text."_s, "line 0.0 2.0"},
         {u"The pattern has no length."_s, "line 0.0 2.0", picked(u"100,0"_s, u"100,0"_s)},
-        {u"beside the direction was left out"_s, "line 0.0 2.0", picked(u"100,0"_s, u"100,3"_s)},
+        {u"1 picked, 1 of no use: 1 beside the direction."_s, "line 0.0 2.0", picked(u"100,0"_s, u"100,3"_s)},
+        {u"2 picked, 2 of no use: 2 outside the pattern."_s, "line 3.0 4.0; text -0.5 0.0 \"X\""},
+        {u"9 picked, 8 of no use: 1 of another kind, 2 in another plane, 1 curved, 2 without letters, 2 of several "
+         u"lines or "
+         "with formatting."_s,
+         "text 0.5 0.0 \"X\"; ((0 . \"CIRCLE\") (10 101.0 0.0 0.0) (40 . 1.0)); ((0 . \"TEXT\") (10 -101.0 0.0 0.0) "
+         "(40 . 1.0) "
+         "(1 . \"X\") (210 0.0 0.0 -1.0)); ((0 . \"LWPOLYLINE\") (100 . \"AcDbEntity\") (100 . \"AcDbPolyline\") (90 . "
+         "2) "
+         "(70 . 0) (38 . 100.0) (10 0.0 0.0) (10 0.0 1.0) (210 1.0 0.0 0.0)); ((0 . \"LWPOLYLINE\") (100 . "
+         "\"AcDbEntity\") "
+         "(100 . \"AcDbPolyline\") (90 . 2) (70 . 0) (10 100.0 0.0) (42 . 1.0) (10 101.0 0.0)); ((0 . \"TEXT\") "
+         "(10 101.0 0.0 0.0) (40 . 1.0) (1 . \"  \")); ((0 . \"MTEXT\") (10 101.0 0.0 0.0) (40 . 1.0) (1 . \"\")); "
+         "((0 . \"MTEXT\") (10 101.0 0.0 0.0) (40 . 1.0) (1 . \"A\\\\PB\")); ((0 . \"MTEXT\") (10 101.0 0.0 0.0) "
+         "(40 . 1.0) (1 . \"{\\\\C1;A}\"))"},
+        {u"The shape BOX is in no shape file of the drawing."_s,
+         "line 0.0 1.0; ((0 . \"SHAPE\") (10 101.5 0.0 0.0) (40 . 0.5) (2 . \"BOX\"))"},
         {u"A text with quotation marks cannot be in a linetype."_s, "line 0.0 1.0; text 1.1 0.0 \"2\\\"\""},
         {u"Two texts start at the same place."_s, "line 0.0 1.0; text 1.1 0.0 \"A\"; text 1.1 1.0 \"B\""},
         {u"more than the 12 elements"_s, "point 0.1; point 0.2; point 0.3; point 0.4; point 0.5; point 0.6; point 0.7"},
@@ -161,6 +190,25 @@ TEST_F(MakeLinestyleTool, OnlyTheDefinitionChangesInTheFile)
         EXPECT_FALSE(QFile::permissions(file) & QFile::ReadOther) << "the file's permissions stay";
         EXPECT_EQ(QDir(run.path({})).entryList({u"my*"_s}), QStringList{u"my.lin"_s}) << "nothing is left beside it";
     }
+}
+
+// What MAKESHAPE wrote comes into a linetype and into the drawing. Of two shape files the one with the shape is taken.
+TEST_F(MakeLinestyleTool, TakesShapes)
+{
+    QDir(run.path({})).mkdir(u"home"_s);
+    run.writeFile(u"home/other.shp"_s, "*1,2,ROUND\n010,0\n");
+    plays(
+        u"lisp (setq turn 0.0)\nlisp (foreach file '(\"other\" \"my.shx\") (entmake (list '(0 . \"STYLE\") "
+        "'(100 . \"AcDbSymbolTableRecord\") '(100 . \"AcDbTextStyleTableRecord\") '(2 . \"\") '(70 . 1) (cons 3 file))))\n"_s +
+        drawn(u"((0 . \"LINE\") (10 200.0 0.0 0.0) (11 200.0 5.0 0.0)); line 0.0 1.0; ((0 . \"SHAPE\") "
+              "(10 101.5 0.25 0.0) (40 . 0.5) (2 . \"Box\") (50 . 0.5))"_s) +
+        u"command MAKESHAPE\ndialog Dlg_QT_MakeShape\nset shapeFile %1\nset name box\nclick acceptButton\n"
+        "window 199,-1 201,6\nenter\npoint 200,0\n"_s.arg(run.path(u"home/my.shp"_s)) +
+        confirmed(file) + picked(u"100,0"_s, u"102,0"_s) +
+        u"expect-printed Linetype \"NEW\" loaded.\n"
+        "expect-lisp (= 1 (cdr (assoc 75 (member '(74 . 4) (entget (tblobjname \"LTYPE\" \"NEW\"))))))\n"_s);
+    EXPECT_EQ(ToolRun::readFile(file), "*NEW,a, b\nA,1,-1,[Box,my.shx,S=0.5,R=28.6479,X=-0.5,Y=0.25]\n");
+    EXPECT_TRUE(isSound(run.result(plan)));
 }
 
 // A linetype of that name that the drawing has is replaced; one undo brings the old one back.

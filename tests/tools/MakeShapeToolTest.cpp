@@ -202,6 +202,16 @@ TEST_F(MakeShapeTool, TheBytesDrawWhatWasPicked)
          "(10 100.0 0.0) (42 . 0.5) (10 110.0 0.0) (42 . -0.3) (10 105.0 9.0) (42 . 1.5)))",
          {0, 0},
          {{{0, 0}, {10, 0}, 0.5}, {{10, 0}, {5, 9}, -0.3}, {{5, 9}, {0, 0}, 1.5}}},
+        {"polylines of early versions, fitted ones and what is seen from behind",
+         "(foreach one '(((0 . \"POLYLINE\") (66 . 1) (70 . 1)) ((0 . \"VERTEX\") (10 100.0 0.0 0.0) (42 . 0.5)) "
+         "((0 . \"VERTEX\") (10 110.0 0.0 0.0)) ((0 . \"VERTEX\") (10 105.0 9.0 0.0)) ((0 . \"SEQEND\")) "
+         "((0 . \"POLYLINE\") (66 . 1) (70 . 4)) ((0 . \"VERTEX\") (10 100.0 12.0 0.0) (70 . 16)) "
+         "((0 . \"VERTEX\") (10 100.0 1.0 0.0) (70 . 8)) ((0 . \"VERTEX\") (10 104.0 9.0 0.0) (70 . 8)) ((0 . "
+         "\"SEQEND\"))"
+         "((0 . \"ARC\") (10 -105.0 0.0 0.0) (40 . 4.0) (50 . 0.0) (51 . 1.5707963267948966) (210 0.0 0.0 -1.0))) "
+         "(made one))",
+         {0, 0},
+         {{{0, 0}, {10, 0}, 0.5}, {{10, 0}, {5, 9}}, {{5, 9}, {0, 0}}, {{0, 1}, {4, 9}}, {{1, 0}, {5, 4}, -quarter}}},
         {"the pen is lifted, and lines are turned round",
          "(foreach x '(0.0 3.0 7.0) (made (list '(0 . \"LINE\") (list 10 (+ 100.0 x) 0.0 0.0) "
          "(list 11 (+ 100.0 x) 10.0 0.0))))",
@@ -282,6 +292,14 @@ TEST_F(MakeShapeTool, WhatCannotBeAShapeIsSaidAndNothingIsWritten)
         QString resolution = u"10"_s;
         QString drawn = u"lisp (entmake '((0 . \"LINE\") (10 100.0 0.0 0.0) (11 110.0 0.0 0.0)))\n"_s;
     } rows[] = {
+        {u"3 picked, 3 of no use: 1 of another kind, 2 tilted or in space."_s,
+         u"window 90,-20 140,30\nenter\n"_s,
+         {},
+         u"new"_s,
+         u"10"_s,
+         u"lisp (foreach one '(((0 . \"TEXT\") (10 100.0 0.0 0.0) (40 . 1.0) (1 . \"X\")) ((0 . \"CIRCLE\") "
+         "(10 0.0 0.0 105.0) (40 . 4.0) (210 1.0 0.0 0.0)) ((0 . \"POLYLINE\") (66 . 1) (70 . 8)) ((0 . \"VERTEX\") "
+         "(10 100.0 0.0 0.0) (70 . 32)) ((0 . \"VERTEX\") (10 110.0 0.0 9.0) (70 . 32)) ((0 . \"SEQEND\"))) (entmake one))\n"_s},
         {u"The resolution must be a whole number from 1 to 255."_s, {}, {}, u"new"_s, u"fine"_s},
         {u"The resolution must be"_s, {}, {}, u"new"_s, u"0"_s},
         {u"The resolution must be"_s, {}, {}, u"new"_s, u"256"_s},

@@ -5,7 +5,7 @@
 ;;; to its first.
 
 ;; (kora_pieces data) -> the pieces of a line, arc, circle or polyline in their order; nil of another entity and of one
-;; that is tilted.
+;; that is tilted or, a polyline, in space.
 (defun kora_pieces (data / type normal)
   (setq type   (kora_field data 0)
         normal (if (= type "LINE") '(0.0 0.0 1.0) (kora_normal data)))
@@ -19,7 +19,7 @@
               ((= type "ARC")
                (kora:arc_pieces (kora_field data 10) (kora_field data 40) (kora_field data 50) (kora_field data 51)))
               ((= type "LWPOLYLINE") (kora:joined_pieces (kora:vertices_of data) (kora:is_closed data)))
-              ((and (= type "POLYLINE") (= 0 (logand 94 (cond ((kora_field data 70)) (0)))))
+              ((and (= type "POLYLINE") (= 0 (logand 88 (cond ((kora_field data 70)) (0)))))
                (kora:joined_pieces (kora:old_vertices data) (kora:is_closed data)))))))
 
 (defun kora:seen_flat (point normal)
