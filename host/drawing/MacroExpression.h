@@ -7,8 +7,8 @@
 
 namespace host::drawing {
 
-/// What a drawing may ask of its surroundings, above all its macro expressions. A function that is missing knows nothing;
-/// lengths and angles are plain decimal numbers then.
+/// What a drawing may ask of its surroundings, above all its macro expressions. A function that is missing knows
+/// nothing; lengths and angles are plain decimal numbers then.
 struct MacroSurroundings
 {
     /// The value of a system variable as text, by its name in any case; nothing for an unknown name.
@@ -19,7 +19,8 @@ struct MacroSurroundings
     /// A length and an angle (radians) as LUNITS and LUPREC, AUNITS and AUPREC count modes and precisions.
     std::function<QString(double value, int mode, int precision)> length{};
     std::function<QString(double radians, int mode, int precision)> angle{};
-    /// Where a file lies that the drawing names; empty when there is none. Missing, the drawing's own folder is searched.
+    /// Where a file lies that the drawing names; empty when there is none. Missing, the drawing's own folder is
+    /// searched.
     std::function<QString(const QString &name)> file{};
 };
 
