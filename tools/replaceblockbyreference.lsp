@@ -32,7 +32,9 @@
      name)
     (block (kora_refuse (strcat "The drawing has another block of the name " name ". Rename one of the two first.")))
     (T
-     (command "_.-XREF" "_Attach" path '(0.0 0.0 0.0) 1.0 1.0 0.0)
+     (command "_.-XREF" "_Attach" path)
+     ;; What is no drawing ends the command here.
+     (if (= 1 (logand 1 (getvar "CMDACTIVE"))) (command '(0.0 0.0 0.0) 1.0 1.0 0.0))
      (if (tblsearch "BLOCK" name)
        (progn
          (if (not (equal last (entlast))) (entdel (entlast)))

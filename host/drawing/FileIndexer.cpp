@@ -340,15 +340,25 @@ Section sectionNamed(QByteArrayView name)
     return Section::Other;
 }
 
+bool isBinaryDxf(QByteArrayView bytes)
+{
+    return bytes.first(std::min<qsizetype>(bytes.size(), 22)).contains("Binary DXF");
+}
+
+bool isDwg(QByteArrayView bytes)
+{
+    const auto isVersionDigit = [](char c) { return (c >= '0' && c <= '9') || c == '.'; };
+    return bytes.size() >= 6 && bytes.startsWith("AC") &&
+           std::all_of(bytes.begin() + 2, bytes.begin() + 6, isVersionDigit);
+}
+
 QString foreignContent(QByteArrayView bytes)
 {
     if (bytes.trimmed().isEmpty())
         return u"the file is empty"_s;
-    if (bytes.first(std::min<qsizetype>(bytes.size(), 22)).contains("Binary DXF"))
+    if (isBinaryDxf(bytes))
         return u"this is a binary DXF file; only text DXF can be read"_s;
-    const auto isVersionDigit = [](char c) { return (c >= '0' && c <= '9') || c == '.'; };
-    if (bytes.size() >= 6 && bytes.startsWith("AC") &&
-        std::all_of(bytes.begin() + 2, bytes.begin() + 6, isVersionDigit))
+    if (isDwg(bytes))
         return u"this is a DWG file; this program reads DXF only"_s;
     if (bytes.startsWith("\xFF\xFE") || bytes.startsWith("\xFE\xFF"))
         return u"this is a UTF-16 text file, not a DXF file"_s;

@@ -37,6 +37,10 @@ Section sectionNamed(QByteArrayView name);
 /// Whether a carriage return stands without the line feed behind it: text in some files and a line end in others.
 bool hasLoneCarriageReturn(QByteArrayView bytes);
 
+/// Whether a file that begins so is a drawing in one of the forms that are not read here.
+bool isBinaryDxf(QByteArrayView bytes);
+bool isDwg(QByteArrayView bytes);
+
 /// Says what a file is that is not a text DXF (empty, binary DXF, DWG, UTF-16); empty when it may be one.
 QString foreignContent(QByteArrayView bytes);
 

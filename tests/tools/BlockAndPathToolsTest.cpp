@@ -4,6 +4,7 @@
 #include "tests/tools/ToolRun.h"
 
 #include <QDir>
+#include <QFileInfo>
 
 #include <gtest/gtest.h>
 
@@ -35,6 +36,13 @@ protected:
         "lisp (defun link (handle url) (regapp \"PE_URL\") (entmod (append (entget (handent handle)) (list (list -3 "
         "(list \"PE_URL\" (cons 1000 url)))))))\n"
         "lisp (defun url (handle) (cdr (cadr (cadr (assoc -3 (entget (handent handle) '(\"PE_URL\")))))))\n"
+        "lisp (defun place (n) (cons 1005 (kora_field (entget (kora_block_record n)) 5)))\n"
+        "lisp (defun tell (n app said) (regapp app) (entmod (append (entget (kora_block_record n)) (list (list -3 "
+        "(list "
+        "app '(1070 . 1) said))))))\n"
+        "lisp (defun extend (e name / d) (setq d (entmakex '((0 . \"DICTIONARY\")))) (entmod (append (entget e) (list "
+        "'(102 . \"{ACAD_XDICTIONARY\") (cons 360 d) '(102 . \"}\")))) (dictadd d name (entmakex '((0 . "
+        "\"XRECORD\")))))\n"
         "lisp (lock \"SHUT\")\n"_s;
 
     static QString replacing(const QString &old, const QString &replacement, const QString &checks = {})
@@ -76,15 +84,40 @@ TEST_F(BlockAndPathTools, DoWhatTheySayAndNothingElse)
          "T"},
         {"a reference with an appearance of its own counts under its block's name",
          inside +
-             u"lisp (setq n (block \"*U\" (list (ref \"B\" \"0\"))))\nlisp (regapp \"AcDbBlockRepBTag\")\n"
-             "lisp (defun record (n) (kora_field (entget (tblobjname \"BLOCK\" n)) 330))\n"
-             "lisp (entmod (append (entget (record n)) (list (list -3 (list \"AcDbBlockRepBTag\" '(1070 . 1) "
-             "(cons 1005 (kora_field (entget (record \"A\")) 5)))))))\n"
-             "lisp (entmake (ref n \"0\"))\nlisp (entmake (ref \"A\" \"0\"))\n"_s +
+             u"lisp (setq n (block \"*U\" (list (ref \"B\" \"0\"))))\nlisp (tell n \"AcDbBlockRepBTag\" (place "
+             u"\"A\"))\n"
+             "lisp (setq n2 (block \"*U\" (list (dot))))\nlisp (tell n2 \"AcDbDynamicBlockTrueName\" '(1000 . \"a\"))\n"
+             "lisp (setq n3 (block \"*U\" (list (dot))))\nlisp (tell n3 \"AcDbBlockRepBTag\" (place n3))\n"
+             "lisp (foreach n (list n n2 n3 \"A\") (entmake (ref n \"0\")))\n"_s +
              table +
-             u"expect-items blocksTable A;2\nclick nestedCheckBox\nexpect-items blocksTable A;2^B;1\n"
+             u"expect-items blocksTable A;3\nclick nestedCheckBox\nexpect-items blocksTable A;3^B;1\n"
              "click button:Close\n"_s,
          "T"},
+        {"and is replaced and chosen under it, but not with what is in it",
+         inside +
+             u"lisp (setq n (block \"*U\" (list (dot))))\nlisp (tell n \"AcDbBlockRepBTag\" (place \"A\"))\n"
+             "lisp (setq b (block \"*U\" (list (ref n \"0\"))))\nlisp (tell b \"AcDbBlockRepBTag\" (place \"B\"))\n"
+             "lisp (foreach n (list n \"A\" b) (entmake (ref n \"0\")))\n"
+             "lisp (extend (car (kora_space_inserts)) \"AcDbBlockRepresentation\")\n"
+             "lisp (sssetfirst nil (ssadd (car (kora_space_inserts))))\n"
+             "command REPLACEBLOCK\ndialog Dlg_QT_ReplaceBlock\nexpect blocksTable A\nrow blocksTableRep B\n"
+             "click acceptButton\nexpect-printed \"2 references replaced, 1 within the new block left as they were.\"\n"_s,
+         "(and (equal (names) (list \"B\" \"B\" b)) (equal '(nil) (mapcar '(lambda (e) (dictsearch (kora_extension "
+         "(entget e)) \"AcDbBlockRepresentation\")) (list (car (kora_space_inserts))))))"},
+        {"ends of dimension lines are not offered",
+         inside +
+             u"lisp (foreach n '(\"_Dot\" \"TIP\" \"SEEN\") (block n (list (dot))))\nlisp (entmake (ref \"SEEN\" "
+             u"\"0\"))\n"
+             "lisp (entmod (append (entget (tblobjname \"DIMSTYLE\" \"Standard\")) (list (cons 342 (kora_block_record "
+             "\"TIP\")) (cons 343 (kora_block_record \"SEEN\")))))\n"
+             "command REPLACEBLOCK\ndialog Dlg_QT_ReplaceBlock\nexpect-items blocksTable A^B^SEEN\nclose\n"_s,
+         "T"},
+        {"what is no drawing does not take a block's place",
+         inside + u"lisp (entmake (ref \"A\" \"0\"))\n"
+                  "command REPLACEBLOCKBYREFERENCE\ndialog Dlg_QT_ReplaceBlockToXref\nset directory %1\n"
+                  "key directory Return\nrow blocksTable A\nrow blocksTableRep bad.dwg\nclick acceptButton\n"
+                  "expect-printed \"is no drawing.\"\n"_s.arg(QFileInfo(run.writeFile(u"bad.dwg"_s, "words\n")).path()),
+         "(and (equal (names) '(\"A\")) (null (tblsearch \"BLOCK\" \"bad\")))"},
         {"no table of nothing", table + u"click exportTable\nexpect-printed \"No table was drawn.\"\n"_s, "T"},
         {"no table without its height",
          inside + u"lisp (entmake (ref \"A\" \"0\"))\n"_s + table +
@@ -116,6 +149,17 @@ TEST_F(BlockAndPathTools, DoWhatTheySayAndNothingElse)
          "(and (equal (texts) '(((\"y\" . \"2\") (\"Z\" . \"z\")))) (assoc -3 (entget (entlast) '(\"APP\"))) "
          "(equal (kora_field a 10) (list (+ 3.0 (* 2 (cos 0.5)) (* 6 (sin 0.5))) (+ 4.0 (* 2 (sin 0.5)) (* -6 (cos "
          "0.5))) 0.0) 1e-9) (= 4 (kora_field a 71)) (equal 1.0 (kora_field a 40)))"},
+        {"a reference made anew keeps its group, its order and its dictionary",
+         attributes +
+             u"lisp (setq i (entlast))\nlisp (kora_make_group (list i (handent \"2F\")))\nlisp (extend i \"OWN\")\n"
+             "lisp (command \"_.DRAWORDER\" i \"\" \"_Back\")\n"_s +
+             replacing(u"A"_s, u"B"_s, sync) +
+             u"lisp (setq j (entlast) d (kora_extension (entget j)) order (dictsearch (kora_extension (entget "
+             "(kora_owner (entget j)))) \"ACAD_SORTENTS\"))\n"_s,
+         "(and (not (equal i j)) (member (cons 340 j) (dictsearch (kora_field (dictsearch (namedobjdict) "
+         "\"ACAD_GROUP\") -1) "
+         "\"*A1\")) (member (cons 331 j) order) (not (member (cons 331 i) order)) (dictsearch d \"OWN\") "
+         "(equal j (kora_field (entget d) 330)))"},
         {"the same tags stay the same entities",
          attributes + handle + u"lisp (block \"C\" (list (def \"Y\" \"\" 8.0) (def \"x\" \"\" 9.0)))\n"_s +
              replacing(u"A"_s, u"C"_s, sync),

@@ -28,7 +28,8 @@
 
 ;; (kora_sync_attributes insert nested) gives a reference the attributes that its block defines, as the block places them:
 ;; the values stay by tag, what is new has its preset value, what the block does not define goes. A reference that gets
-;; other attributes is a new entity. -> T; nil for such a one that is nested, within a block definition: it stays.
+;; other attributes has to be made anew. -> T; the name of the new entity, while the old one still is there (see
+;; kora_take_places); nil when it cannot be made, as for one that is nested, within a block definition.
 (defun kora_sync_attributes (insert nested / data definitions attributes values)
   (setq data        (entget insert)
         definitions (kora_attribute_definitions (kora_field data 2))
@@ -40,7 +41,7 @@
     ((equal (vl-sort (mapcar 'car values) '<) (vl-sort (mapcar 'kora_attribute_tag definitions) '<))
      (foreach attribute attributes (kora:place_attribute attribute))
      T)
-    ((not nested) (kora:insert_anew insert) T)))
+    ((not nested) (kora:insert_anew insert))))
 
 ;; Places an attribute of a reference as its definition says; its text stays.
 (defun kora:place_attribute (attribute / old new)
@@ -51,14 +52,17 @@
     (setq old (kora_with_field old (car field) (cdr field))))
   (entmod old))
 
-;; Makes the reference again with the attributes of its block, in its place.
+;; Makes the reference again with the attributes of its block. -> its entity name, nil when it cannot be made.
 (defun kora:insert_anew (insert / xdata base)
   (setq base  (entget insert '("*"))
         base  (vl-remove-if '(lambda (field) (= (car field) 66)) (kora_copy_data base))
         xdata (assoc -3 base)
         base  (vl-remove xdata base))
-  (if (entmake (append base (if definitions '((66 . 1))) (if xdata (list xdata))))
+  (setq base (append base (if definitions '((66 . 1))) (if xdata (list xdata))))
+  (if (null definitions)
+    (entmakex base)
     (progn
+      (entmake base)
       (foreach definition definitions
         (entmake (append (list '(0 . "ATTRIB")) (kora:attribute_fields definition data)
                          (list (cons 2 (kora_field definition 2))
@@ -67,8 +71,7 @@
                                              (""))))
                          (if (assoc 410 data) (list (assoc 410 data)))
                          (if (assoc 67 data) (list (assoc 67 data))))))
-      (if definitions (entmake (list '(0 . "SEQEND") (cons 8 (kora_field data 8)))))
-      (entdel insert))))
+      (entmakex (list '(0 . "SEQEND") (cons 8 (kora_field data 8)))))))
 
 ;; The fields that place an attribute of the definition in a reference, data. A mirrored reference has its attributes
 ;; backward or upside down.

@@ -14,9 +14,27 @@
 (defun kora_insert_name (entity)
   (strcase (kora_field (entget entity) 2)))
 
+;; (kora_known_insert_name entity) -> the same under which a user knows the block.
+(defun kora_known_insert_name (entity)
+  (strcase (kora_known_name (kora_field (entget entity) 2))))
+
 ;; (kora_block_names) -> the names of the blocks that a user knows: without nameless ones and external references.
 (defun kora_block_names ()
   (vl-remove-if-not '(lambda (name) (kora:is_user_block (tblsearch "BLOCK" name))) (kora_table_names "BLOCK")))
+
+;; (kora_arrow_names) -> the names, in capitals, of the blocks that stand at the ends of dimension lines: the usual ones,
+;; which are made when a dimension needs them, and those that dimension styles name.
+(defun kora_arrow_names (/ names)
+  (setq names (mapcar '(lambda (name) (strcat "_" name))
+                      '("CLOSEDFILLED" "CLOSEDBLANK" "CLOSED" "DOT" "ARCHTICK" "OBLIQUE" "OPEN" "ORIGIN" "ORIGIN2" "OPEN90"
+                        "OPEN30" "DOTSMALL" "DOTBLANK" "SMALL" "BOXBLANK" "BOXFILLED" "DATUMBLANK" "DATUMFILLED"
+                        "INTEGRAL" "NONE")))
+  (foreach style (kora_table_names "DIMSTYLE")
+    (foreach field (entget (tblobjname "DIMSTYLE" style))
+      (cond ((and (member (car field) '(5 6 7)) (/= (cdr field) "")) (setq names (cons (strcase (cdr field)) names)))
+            ((and (<= 341 (car field) 344) (entget (cdr field)))
+             (setq names (cons (strcase (kora_field (entget (cdr field)) 2)) names))))))
+  names)
 
 ;; 1 is nameless, 4 and 8 an external reference, 16 a part of one.
 (defun kora:is_user_block (block)
@@ -80,6 +98,18 @@
   (while (and tree (/= text (caar tree)))
     (setq tree (if (< text (caar tree)) (cadr tree) (caddr tree))))
   (car tree))
+
+;; (kora_tree_texts tree) -> the texts of its pairs, sorted.
+(defun kora_tree_texts (tree / texts)
+  (kora:collect_texts tree)
+  texts)
+
+(defun kora:collect_texts (tree)
+  (if tree
+    (progn
+      (kora:collect_texts (caddr tree))
+      (setq texts (cons (caar tree) texts))
+      (kora:collect_texts (cadr tree)))))
 
 ;; (kora_tree_with tree text value) -> the tree with another value for a text that it has.
 (defun kora_tree_with (tree text value)

@@ -15,14 +15,20 @@
 
 ;; The dialog's list: name, and as fourth field the number of references in the layouts.
 (defun kora:block_descriptions (/ counts)
-  (setq counts (kora_tree (kora_counted (mapcar 'kora_insert_name (kora_space_inserts)))))
+  (setq counts (kora_tree (kora_counted (mapcar 'kora_known_insert_name (kora_space_inserts)))))
   (mapcar '(lambda (name) (strcat name "^^^" (itoa (cond ((cdr (kora_tree_find counts (strcase name)))) (0)))))
-          (kora_block_names)))
+          (kora:replaceable_blocks counts)))
+
+;; The blocks that a user knows, without those at the ends of dimension lines that have no references of their own.
+(defun kora:replaceable_blocks (counts / arrows)
+  (setq arrows (kora_arrow_names))
+  (vl-remove-if '(lambda (name) (and (member (strcase name) arrows) (null (kora_tree_find counts (strcase name)))))
+                (kora_block_names)))
 
 ;; Enters the blocks of picked references into the state; without any the choice stays as it is.
 (defun kora:choose_blocks (file selection / known names)
   (setq known (mapcar 'strcase (kora_block_names))
-        names (mapcar 'car (kora_counted (mapcar 'kora_insert_name (kora_selection_to_list selection))))
+        names (mapcar 'car (kora_counted (mapcar 'kora_known_insert_name (kora_selection_to_list selection))))
         names (vl-remove-if-not '(lambda (name) (member name known)) names))
   (if names
     (kora_writestate file (list (cons "blockstable" (strcat (kora_string_join names "^") "^"))
@@ -44,11 +50,13 @@
   (car meant))
 
 ;; (kora_replace_blocks names new sync) makes references to the blocks of these names references to new: those of the
-;; layouts, and those within blocks unless new would then be in itself. With sync they get the attributes of new. What is
-;; on locked layers stays. -> (replaced locked circular unsynced), numbers.
-(defun kora_replace_blocks (names new sync / within replaced locked circular unsynced)
-  (setq names    (mapcar 'strcase names)
-        within   (kora_blocks_within (kora_block_graph) (list (strcase new)))
+;; layouts, and those within blocks unless new would then be in itself. References with an appearance of their own are
+;; references to the block that they were made from. With sync they get the attributes of new. What is on locked layers
+;; stays. -> (replaced locked circular unsynced), numbers.
+(defun kora_replace_blocks (names new sync / within graph replaced locked circular unsynced remade)
+  (setq graph    (kora_block_graph)
+        names    (kora:with_appearances (mapcar 'strcase names) graph)
+        within   (kora_blocks_within graph (kora:with_appearances (list (strcase new)) graph))
         replaced 0 locked 0 circular 0 unsynced 0)
   (foreach insert (kora_space_inserts) (kora:replace_insert insert nil))
   (foreach block (mapcar 'strcase (kora_own_definitions))
@@ -56,15 +64,31 @@
       (if (member block within)
         (if (member (kora_insert_name insert) names) (setq circular (1+ circular)))
         (kora:replace_insert insert T))))
+  (kora_take_places remade)
+  (foreach pair remade (entdel (car pair)))
   (list replaced locked circular unsynced))
 
-(defun kora:replace_insert (insert nested / data)
+;; The names with those of the nameless blocks that stand for the same blocks. graph has all names.
+(defun kora:with_appearances (names graph)
+  (append names
+          (vl-remove-if-not '(lambda (name)
+                               (and (kora_starts_with name "*") (member (strcase (kora_known_name name)) names)))
+                            (kora_tree_texts graph))))
+
+(defun kora:replace_insert (insert nested / data synced)
   (setq data (entget insert))
   (cond ((not (member (strcase (kora_field data 2)) names)))
         ((kora_is_locked data) (setq locked (1+ locked)))
         ((entmod (kora_with_field data 2 new))
-         (setq replaced (1+ replaced))
-         (if (and sync (not (kora_sync_attributes insert nested))) (setq unsynced (1+ unsynced))))))
+         (kora:forget_appearance data)
+         (setq replaced (1+ replaced)
+               synced   (if sync (kora_sync_attributes insert nested) T))
+         (cond ((null synced) (setq unsynced (1+ unsynced)))
+               ((= (type synced) 'ENAME) (setq remade (cons (cons insert synced) remade)))))))
+
+;; What an appearance of the reference's own was set to says nothing of another block.
+(defun kora:forget_appearance (data / dictionary)
+  (if (setq dictionary (kora_extension data)) (dictremove dictionary "AcDbBlockRepresentation")))
 
 ;; (kora_purge_blocks) takes out the definitions that nothing refers to. -> how many.
 (defun kora_purge_blocks (/ before)

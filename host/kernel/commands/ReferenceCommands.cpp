@@ -1,10 +1,12 @@
 #include "host/drawing/Blocks.h"
+#include "host/drawing/FileIndexer.h"
 #include "host/drawing/Journal.h"
 #include "host/drawing/Wildcard.h"
 #include "host/kernel/Document.h"
 #include "host/kernel/commands/CommandContext.h"
 #include "host/kernel/commands/Commands.h"
 
+#include <QFile>
 #include <QFileInfo>
 
 #include <cmath>
@@ -26,6 +28,16 @@ void setPath(drawing::Drawing &drawing, RecordId block, const QString &path)
     drawing.setFields(block, fields);
 }
 
+/// Whether the file can be referred to: any kind of drawing, also one that only other programs read.
+bool isDrawing(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return false;
+    const QByteArray start = file.read(64);
+    return drawing::isDwg(start) || drawing::isBinaryDxf(start) || bool(drawing::Drawing::open(path));
+}
+
 /// The external reference to the file, made when the drawing has none of the file's name yet. noRecord, with the reason
 /// printed, when there can be none.
 RecordId referenceTo(CommandContext &context, const QString &typed)
@@ -39,6 +51,8 @@ RecordId referenceTo(CommandContext &context, const QString &typed)
         context.print(u"\nCannot find file \"%1\"."_s.arg(typed));
     } else if (!own.isEmpty() && QFileInfo(path) == QFileInfo(own)) {
         context.print(u"\nThe drawing cannot refer to itself."_s);
+    } else if (!isDrawing(path)) {
+        context.print(u"\n\"%1\" is no drawing."_s.arg(path));
     } else if (present && present->isExternal()) {
         return present->record;
     } else if (present) {

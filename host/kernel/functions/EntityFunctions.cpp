@@ -1,6 +1,7 @@
 // Entities by name: reading, changing, making, erasing.
 
 #include "host/drawing/Entities.h"
+#include "host/drawing/Journal.h"
 #include "host/drawing/Tables.h"
 #include "host/kernel/Document.h"
 #include "host/kernel/functions/EntityList.h"
@@ -9,6 +10,8 @@
 #include "host/kernel/functions/NativeFunctions.h"
 #include "host/lisp/Interpreter.h"
 #include "host/lisp/Printer.h"
+
+using namespace Qt::StringLiterals;
 
 namespace host::kernel {
 
@@ -54,11 +57,45 @@ Value entget(Arguments &args)
     return entityList(document, record, applications);
 }
 
+/// The extension dictionary that the fields name; null when there is none.
+drawing::Handle extensionIn(const drawing::FieldList &fields)
+{
+    auto place = std::find_if(fields.cbegin(), fields.cend(), [](const drawing::Field &field) {
+        return field.code == 102 && field.text().trimmed() == u"{ACAD_XDICTIONARY";
+    });
+    if (place != fields.cend())
+        ++place;
+    return place != fields.cend() && place->code == 360 ? place->handle() : drawing::Handle();
+}
+
+/// Gives a record the extension dictionary that the list names, where it has none. It is the record's own then, also
+/// when another has it still, which is about to be erased.
+void takeExtension(drawing::Drawing &drawing, RecordId record, const drawing::FieldList &given)
+{
+    const drawing::Handle wanted = extensionIn(given);
+    const RecordId dictionary = wanted.isNull() ? drawing::noRecord : drawing.find(wanted);
+    drawing::FieldList fields = drawing.fields(record);
+    if (!drawing.isAlive(dictionary) || !drawing.isType(dictionary, "DICTIONARY") || !extensionIn(fields).isNull())
+        return;
+    const drawing::FieldList group{{102, u"{ACAD_XDICTIONARY"_s}, {360, wanted}, {102, u"}"_s}};
+    // Behind type and handle.
+    fields.insert(fields.begin() + std::min<qsizetype>(2, qsizetype(fields.size())), group.begin(), group.end());
+    drawing.setFields(record, fields);
+    drawing::FieldList owned = drawing.fields(dictionary);
+    const drawing::Handle before = drawing.owner(dictionary);
+    for (drawing::Field &field : owned)
+        if (field.code == 330 && field.handle() == before)
+            field.value = drawing.handle(record);
+    drawing.setFields(dictionary, owned);
+}
+
 Value modifyEntity(Arguments &args, RecordId record)
 {
     Document &document = documentOf(args);
     drawing::Drawing &drawing = document.drawing();
     const drawing::FieldList given = fieldsFromList(document, args.list(0), angleForm(drawing, record));
+    const drawing::JournalGroup group(drawing.journal(), {});
+    takeExtension(drawing, record, given);
     const drawing::FieldList present = drawing.fields(record);
     const drawing::FieldList wanted = mergedFields(present, given);
     // A list that is handed back as it was must leave no trace.
