@@ -39,6 +39,23 @@ void UndoSteps::boundary()
     openJournalGroup();
 }
 
+int UndoSteps::checkpoint()
+{
+    boundary();
+    return m_journal.undoDepth();
+}
+
+void UndoSteps::takeBackTo(int checkpoint)
+{
+    closeJournalGroup();
+    if (m_journal.undoDepth() > checkpoint) {
+        while (!m_steps.empty() && m_steps.back().depthBefore >= checkpoint)
+            undoOne();
+        m_undone.clear();
+    }
+    openJournalGroup();
+}
+
 void UndoSteps::begin()
 {
     boundary();

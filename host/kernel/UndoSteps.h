@@ -27,6 +27,10 @@ public:
     void endRun();
     /// What was changed since the last boundary is a step of its own inside the run. Nothing outside a run.
     void boundary();
+    /// As boundary(); what is changed from here on can be taken back with takeBackTo().
+    int checkpoint();
+    /// Takes back what was changed since that checkpoint, as if it had never been: it cannot be done again.
+    void takeBackTo(int checkpoint);
 
     // The UNDO command's options.
     /// Steps up to end() become one. Begin inside Begin has no further effect.

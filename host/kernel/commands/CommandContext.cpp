@@ -4,6 +4,8 @@
 #include "host/kernel/CurrentSpace.h"
 #include "host/kernel/Document.h"
 #include "host/kernel/SystemVariables.h"
+#include "host/kernel/input/Keywords.h"
+#include "host/kernel/input/Units.h"
 
 namespace host::kernel {
 
@@ -20,6 +22,31 @@ void CommandContext::print(const QString &text)
     m_document.print(text);
 }
 
+void CommandContext::fail(const QString &reason)
+{
+    print(u'\n' + reason);
+    m_hasFailed = true;
+}
+
+bool CommandContext::refuse(const QString &reason)
+{
+    if (m_isAnsweredAhead)
+        fail(reason);
+    else
+        print(u'\n' + reason);
+    return m_isAnsweredAhead;
+}
+
+QString CommandContext::shownLength(double length) const
+{
+    return UnitFormat::of(m_document.variables()).length(length);
+}
+
+QString CommandContext::shownAngle(double angle) const
+{
+    return UnitFormat::of(m_document.variables()).angle(angle);
+}
+
 CommandContext::Reply CommandContext::ask(PromptRequest request)
 {
     m_request = std::move(request);
@@ -28,43 +55,58 @@ CommandContext::Reply CommandContext::ask(PromptRequest request)
 }
 
 CommandContext::Reply CommandContext::askFor(PromptKind kind, const QString &prompt, const QString &options,
-                                             const std::optional<Vec3> &base, const QString &defaultText)
+                                             const std::optional<Vec3> &base, const QString &defaultText, int bits)
 {
     PromptRequest request;
     request.kind = kind;
     request.prompt = u'\n' + prompt;
-    request.keywords = options.split(u' ', Qt::SkipEmptyParts);
+    request.keywords = options.isEmpty() ? optionsIn(prompt) : options.split(u' ', Qt::SkipEmptyParts);
     request.base = base;
     request.defaultText = defaultText;
+    request.bits = bits;
     return ask(std::move(request));
 }
 
 CommandContext::Reply CommandContext::point(const QString &prompt, const QString &options,
-                                            const std::optional<Vec3> &base)
+                                            const std::optional<Vec3> &base, const QString &defaultText, int bits)
 {
-    return askFor(PromptKind::Point, prompt, options, base, {});
+    return askFor(PromptKind::Point, prompt, options, base, defaultText, bits);
+}
+
+CommandContext::Reply CommandContext::neededPoint(const QString &prompt, const std::optional<Vec3> &base,
+                                                  const QString &options)
+{
+    return askFor(PromptKind::Point, prompt, options, base, {}, NoEmptyAnswer);
 }
 
 CommandContext::Reply CommandContext::distance(const QString &prompt, const QString &options,
-                                               const std::optional<Vec3> &base, const QString &defaultText)
+                                               const std::optional<Vec3> &base, const QString &defaultText, int bits)
 {
-    return askFor(PromptKind::Distance, prompt, options, base, defaultText);
+    return askFor(PromptKind::Distance, prompt, options, base, defaultText, bits);
 }
 
 CommandContext::Reply CommandContext::orientation(const QString &prompt, const QString &options,
-                                                  const std::optional<Vec3> &base, const QString &defaultText)
+                                                  const std::optional<Vec3> &base, const QString &defaultText, int bits)
 {
-    return askFor(PromptKind::Orientation, prompt, options, base, defaultText);
+    return askFor(PromptKind::Orientation, prompt, options, base, defaultText, bits);
 }
 
-CommandContext::Reply CommandContext::real(const QString &prompt, const QString &options, const QString &defaultText)
+CommandContext::Reply CommandContext::angle(const QString &prompt, const QString &options,
+                                            const std::optional<Vec3> &base, const QString &defaultText, int bits)
 {
-    return askFor(PromptKind::Real, prompt, options, {}, defaultText);
+    return askFor(PromptKind::Angle, prompt, options, base, defaultText, bits);
 }
 
-CommandContext::Reply CommandContext::integer(const QString &prompt, const QString &options, const QString &defaultText)
+CommandContext::Reply CommandContext::real(const QString &prompt, const QString &options, const QString &defaultText,
+                                           int bits)
 {
-    return askFor(PromptKind::Integer, prompt, options, {}, defaultText);
+    return askFor(PromptKind::Real, prompt, options, {}, defaultText, bits);
+}
+
+CommandContext::Reply CommandContext::integer(const QString &prompt, const QString &options, const QString &defaultText,
+                                              int bits)
+{
+    return askFor(PromptKind::Integer, prompt, options, {}, defaultText, bits);
 }
 
 CommandContext::Reply CommandContext::keyword(const QString &prompt, const QString &options, const QString &defaultText)
@@ -72,11 +114,12 @@ CommandContext::Reply CommandContext::keyword(const QString &prompt, const QStri
     return askFor(PromptKind::Keyword, prompt, options, {}, defaultText);
 }
 
-CommandContext::Reply CommandContext::text(const QString &prompt, const QString &defaultText)
+CommandContext::Reply CommandContext::text(const QString &prompt, const QString &defaultText, const QString &options)
 {
     PromptRequest request;
     request.kind = PromptKind::String;
     request.prompt = u'\n' + prompt;
+    request.keywords = options.split(u' ', Qt::SkipEmptyParts);
     request.defaultText = defaultText;
     request.allowSpaces = true;
     return ask(std::move(request));
@@ -85,6 +128,11 @@ CommandContext::Reply CommandContext::text(const QString &prompt, const QString 
 CommandContext::Reply CommandContext::name(const QString &prompt, const QString &defaultText)
 {
     return askFor(PromptKind::String, prompt, {}, {}, defaultText);
+}
+
+CommandContext::Reply CommandContext::entity(const QString &prompt)
+{
+    return askFor(PromptKind::Entity, prompt, {}, {}, {});
 }
 
 CommandContext::Selection CommandContext::selection()

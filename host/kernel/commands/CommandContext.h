@@ -19,7 +19,7 @@ public:
     public:
         explicit Reply(CommandContext &context) : m_context(context) {}
         bool await_ready() const noexcept { return false; }
-        void await_suspend(CommandTask::Handle) const noexcept {}
+        void await_suspend(std::coroutine_handle<> waiting) const noexcept { m_context.m_waiting = waiting; }
         PromptReply await_resume() const { return m_context.m_reply; }
 
     private:
@@ -42,22 +42,42 @@ public:
     Document &document() { return m_document; }
     drawing::Drawing &drawing();
     void print(const QString &text);
+    /// Prints why the command ends without having done what it was asked for; what it has changed is taken back then.
+    /// The body ends behind it.
+    void fail(const QString &reason);
+    /// Prints why an answer cannot be taken. True when the command fails with that, as the answers come from a program
+    /// or script; false when the user is there to be asked again.
+    bool refuse(const QString &reason);
+    bool hasFailed() const { return m_hasFailed; }
+    /// A length and an angle (radians) as the drawing shows them.
+    QString shownLength(double length) const;
+    QString shownAngle(double angle) const;
 
-    /// `options`: keywords with a blank between, as (initget) has them.
+    // The options of a prompt are what it lists in brackets ("or [Close/Undo]", see optionsIn()); `options` are taken
+    // instead when there are some: keywords with a blank between, as (initget) has them. `bits`: InputBit.
     Reply ask(PromptRequest request);
-    Reply point(const QString &prompt, const QString &options = {}, const std::optional<drawing::Vec3> &base = {});
+    Reply point(const QString &prompt, const QString &options = {}, const std::optional<drawing::Vec3> &base = {},
+                const QString &defaultText = {}, int bits = 0);
+    /// A point, or an option, that the command cannot do without: an empty answer is not taken.
+    Reply neededPoint(const QString &prompt, const std::optional<drawing::Vec3> &base = {},
+                      const QString &options = {});
     Reply distance(const QString &prompt, const QString &options = {}, const std::optional<drawing::Vec3> &base = {},
-                   const QString &defaultText = {});
-    /// An angle from the x axis, in radians.
+                   const QString &defaultText = {}, int bits = 0);
+    /// An angle from the user's x axis, in radians.
     Reply orientation(const QString &prompt, const QString &options = {}, const std::optional<drawing::Vec3> &base = {},
-                      const QString &defaultText = {});
-    Reply real(const QString &prompt, const QString &options = {}, const QString &defaultText = {});
-    Reply integer(const QString &prompt, const QString &options = {}, const QString &defaultText = {});
-    Reply keyword(const QString &prompt, const QString &options, const QString &defaultText = {});
-    /// Text, with blanks.
-    Reply text(const QString &prompt, const QString &defaultText = {});
+                      const QString &defaultText = {}, int bits = 0);
+    /// An angle to turn by, in radians: typed angles count from where they stand, whatever ANGBASE is.
+    Reply angle(const QString &prompt, const QString &options = {}, const std::optional<drawing::Vec3> &base = {},
+                const QString &defaultText = {}, int bits = 0);
+    Reply real(const QString &prompt, const QString &options = {}, const QString &defaultText = {}, int bits = 0);
+    Reply integer(const QString &prompt, const QString &options = {}, const QString &defaultText = {}, int bits = 0);
+    Reply keyword(const QString &prompt, const QString &options = {}, const QString &defaultText = {});
+    /// Text, with blanks. Its options are `options` alone.
+    Reply text(const QString &prompt, const QString &defaultText = {}, const QString &options = {});
     /// Text up to a blank: a name.
     Reply name(const QString &prompt, const QString &defaultText = {});
+    /// One entity, with the point it was picked at.
+    Reply entity(const QString &prompt);
 
     /// The entities that the command works on; they become the previous selection.
     Selection selection();
@@ -70,11 +90,14 @@ public:
 private:
     friend class CommandRun;
     Reply askFor(PromptKind kind, const QString &prompt, const QString &options,
-                 const std::optional<drawing::Vec3> &base, const QString &defaultText);
+                 const std::optional<drawing::Vec3> &base, const QString &defaultText, int bits = 0);
 
     Document &m_document;
     PromptRequest m_request;
     PromptReply m_reply;
+    std::coroutine_handle<> m_waiting; ///< the body, or the part of it, that stopped for the reply
+    bool m_hasFailed = false;
+    bool m_isAnsweredAhead = false;              ///< the last answer came from a program, or more is typed behind it
     std::optional<SelectionBuilder> m_selection; ///< while a selection grows
 };
 

@@ -20,9 +20,11 @@ std::unique_ptr<CommandRun> CommandRun::start(Document &document, const QString 
     return command;
 }
 
-CommandRun::CommandRun(Document &document, const CommandRow &row) : m_document(document), m_context(document)
+CommandRun::CommandRun(Document &document, const CommandRow &row)
+    : m_document(document), m_row(row), m_context(document)
 {
     m_document.session().editor().commandWillStart();
+    m_start = m_document.undoSteps().checkpoint();
     m_document.pushCommandName(QString::fromLatin1(row.name));
     m_task.emplace(row.body(m_context));
     resume();
@@ -30,19 +32,27 @@ CommandRun::CommandRun(Document &document, const CommandRow &row) : m_document(d
 
 CommandRun::~CommandRun()
 {
-    finish();
+    if (m_task)
+        cancel();
 }
 
 void CommandRun::offer(const InputAnswer &answer)
 {
     echoPrompt();
+    m_context.m_isAnsweredAhead = true;
     if (std::optional<PromptReply> given = m_dialogue->offer(answer))
         reply(std::move(*given));
+    else if (m_dialogue->wasRefused())
+        refuse();
 }
 
 void CommandRun::askUser()
 {
-    reply(m_document.prompts().ask(m_dialogue->request()));
+    PromptRequest request = m_dialogue->request();
+    request.endsWhenRefused = true;
+    PromptReply given = m_document.prompts().ask(request);
+    m_context.m_isAnsweredAhead = !m_document.session().input().isEmpty();
+    reply(std::move(given));
 }
 
 void CommandRun::runToEnd()
@@ -55,8 +65,7 @@ void CommandRun::reply(PromptReply given)
 {
     if (given.kind == ReplyKind::Cancelled) {
         m_isCancelled = true;
-        finish();
-        return;
+        return given.isRefused ? refuse() : cancel();
     }
     if (m_context.m_selection && !growSelection(given))
         return;
@@ -83,12 +92,14 @@ void CommandRun::resume()
 {
     m_dialogue.reset();
     try {
-        m_task->resume();
+        m_task->resume(std::exchange(m_context.m_waiting, {}));
     } catch (...) {
         finish();
         throw;
     }
-    if (m_task->isDone())
+    if (m_task->isDone() && hasFailed())
+        refuse();
+    else if (m_task->isDone())
         finish();
     else
         m_dialogue.emplace(m_document, m_context.m_request);
@@ -102,6 +113,22 @@ void CommandRun::finish()
     m_dialogue.reset();
     m_document.popCommandName();
     m_document.undoSteps().boundary();
+}
+
+void CommandRun::cancel()
+{
+    m_isCancelled = true;
+    finish();
+    if (m_row.whenCancelled == WhenCancelled::TakeBack)
+        m_document.undoSteps().takeBackTo(m_start);
+}
+
+void CommandRun::refuse()
+{
+    m_context.m_hasFailed = true;
+    finish();
+    m_document.undoSteps().takeBackTo(m_start);
+    m_document.print(QStringLiteral("\n%1 has ended, nothing was changed.").arg(QLatin1String(m_row.name)));
 }
 
 void CommandRun::echoPrompt()

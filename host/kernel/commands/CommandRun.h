@@ -21,7 +21,10 @@ public:
 
     bool isDone() const { return !m_task; }
     bool isCancelled() const { return m_isCancelled; }
-    /// An answer to the prompt it waits at, as a Lisp program gives it.
+    /// Ended without having done what it was asked for: it did not take an answer, or said why it cannot.
+    bool hasFailed() const { return m_context.hasFailed(); }
+    /// An answer to the prompt it waits at, as a Lisp program gives it. One that the prompt does not take ends the
+    /// command, and what it did is taken back.
     void offer(const InputAnswer &answer);
     /// Has the user answer the prompt it waits at.
     void askUser();
@@ -34,9 +37,15 @@ private:
     bool growSelection(PromptReply &reply);
     void resume();
     void finish();
+    /// Ends it at a prompt.
+    void cancel();
+    /// Ends it because of an answer that the prompt does not take.
+    void refuse();
     void echoPrompt();
 
     Document &m_document;
+    const CommandRow &m_row;
+    int m_start = 0; ///< of the undo steps, where it began
     CommandContext m_context;
     std::optional<CommandTask> m_task;
     std::optional<PromptDialogue> m_dialogue;

@@ -9,12 +9,20 @@
 
 namespace host::kernel {
 
+/// What a cancelled command leaves. Of one that was given an answer it does not take, nothing stays in either case.
+enum class WhenCancelled
+{
+    TakeBack, ///< the drawing is as it was before
+    KeepDone  ///< each answer was a whole step of its own: the steps so far stay
+};
+
 /// One built-in command.
 struct CommandRow
 {
     const char *name; ///< upper case, without prefix
     CommandTask (*body)(CommandContext &);
     const char *help; ///< one line for listings
+    WhenCancelled whenCancelled = WhenCancelled::TakeBack;
 };
 
 /// The built-in commands.

@@ -46,10 +46,11 @@ public:
     }
 
     bool isDone() const { return m_handle.done(); }
-    /// Runs on to the next prompt or to the end. Rethrows what the body threw.
-    void resume()
+    /// Runs on to the next prompt or to the end: from `waiting`, where a part of the body (see Dialogue) stopped, else
+    /// from where the body itself did. Rethrows what the body threw.
+    void resume(std::coroutine_handle<> waiting)
     {
-        m_handle.resume();
+        (waiting ? waiting : m_handle).resume();
         if (m_handle.done() && m_handle.promise().failure)
             std::rethrow_exception(m_handle.promise().failure);
     }

@@ -9,6 +9,7 @@
 #include "host/kernel/functions/LispConversion.h"
 #include "host/kernel/functions/NativeFunctions.h"
 #include "host/lisp/Interpreter.h"
+#include "host/lisp/Printer.h"
 
 namespace host::kernel {
 
@@ -49,14 +50,15 @@ bool startCommand(Document &document, const QString &command)
     return true;
 }
 
-/// Hands an argument to the command under way.
-void giveArgument(Arguments &args, std::size_t index)
+/// Hands an argument to the command under way. False when the command does not take it and has ended.
+bool giveArgument(Arguments &args, std::size_t index)
 {
     CommandRun &command = *documentOf(args).pendingCommand();
     if (const std::optional<InputAnswer> answer = answerAt(args, index))
         command.offer(*answer);
     else
         command.askUser();
+    return !command.hasFailed();
 }
 
 GivenAnswers answersFrom(Arguments &args, std::size_t index)
@@ -65,6 +67,15 @@ GivenAnswers answersFrom(Arguments &args, std::size_t index)
     for (; index < args.size(); ++index)
         answers.push_back(answerAt(args, index));
     return answers;
+}
+
+/// Tells of the arguments from `index` on, which nothing asked for.
+void tellLeftOver(Arguments &args, std::size_t index)
+{
+    QStringList texts;
+    for (; index < args.size(); ++index)
+        texts.append(QString::fromStdString(lisp::toText(args[index])));
+    documentOf(args).print(QStringLiteral("\nLeft over from (command): %1\n").arg(texts.join(u' ')));
 }
 
 /// Runs the command that the argument at `index` names; `index` moves on to the last argument that was used. False when
@@ -86,16 +97,31 @@ bool runNamed(Arguments &args, std::size_t &index)
     return startCommand(document, command);
 }
 
-/// Runs the arguments; returns false when a name was no command.
+/// Whether the argument can name a command; nil and "" may stand behind one that is complete.
+bool mayBeName(const Value &argument)
+{
+    return argument.isString() || argument.isNil();
+}
+
+/// Runs the arguments; returns false when a name was no command. What is left over behind a command, because it asked
+/// for less or has ended at an answer that it does not take, is told.
 bool runArguments(Arguments &args)
 {
     Document &document = documentOf(args);
     for (std::size_t i = 0; i < args.size(); ++i) {
+        bool isLost = false;
         if (document.pendingCommand())
-            giveArgument(args, i);
-        else if (!runNamed(args, i))
+            isLost = !giveArgument(args, i);
+        else if (!mayBeName(args[i]))
+            tellLeftOver(args, std::exchange(i, args.size()));
+        else if (!runNamed(args, i)) {
+            if (i + 1 < args.size())
+                tellLeftOver(args, i + 1);
             return false;
+        }
         dropWhenDone(document);
+        if (isLost && i + 1 < args.size())
+            tellLeftOver(args, std::exchange(i, args.size()) + 1);
     }
     return true;
 }
@@ -103,7 +129,9 @@ bool runArguments(Arguments &args)
 // (command argument ...) -> nil. Starts a command, by its name or an alias, and answers its prompts: text,
 // numbers, points in user coordinates, entity names, selection sets; "\\" has the user answer. A built-in command that
 // is not complete goes on with the next call; one that a module brought asks the user for what is missing. Without
-// arguments, or with nil, the command under way is cancelled. A name that is no command is told to the user.
+// arguments, or with nil, the command under way is cancelled. A name that is no command is told to the user, and so are
+// arguments that nothing asked for: those behind an answer that the command does not take, which ends it with nothing
+// done, and those behind a complete command that are no command's name.
 Value command(Arguments &args)
 {
     if (args.size() == 0)

@@ -49,6 +49,18 @@ bool isShortFor(const QString &typed, const QString &keyword)
 
 } // namespace
 
+QStringList optionsIn(const QString &prompt)
+{
+    const qsizetype start = prompt.lastIndexOf(u'[');
+    const qsizetype end = prompt.indexOf(u']', start);
+    QStringList options;
+    if (start < 0 || end < 0)
+        return options;
+    for (const QString &option : prompt.mid(start + 1, end - start - 1).split(u'/', Qt::SkipEmptyParts))
+        options.append(option.section(u' ', 0, 0));
+    return options;
+}
+
 QString keywordName(const QString &keyword)
 {
     return keyword.section(u',', 0, 0);

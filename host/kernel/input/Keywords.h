@@ -12,6 +12,9 @@ namespace host::kernel {
 /// leading "_" is skipped. A whole keyword goes before an abbreviation, the first in the list before later ones.
 std::optional<QString> matchKeyword(const QString &typed, const QStringList &keywords);
 
+/// The keywords that a prompt lists in its last brackets: "Close" and "3P" of "or [Close/3P (three points)]: ".
+QStringList optionsIn(const QString &prompt);
+
 /// A keyword without the abbreviation behind its comma.
 QString keywordName(const QString &keyword);
 

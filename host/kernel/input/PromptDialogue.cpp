@@ -76,7 +76,8 @@ PromptDialogue::PromptDialogue(Document &document, PromptRequest request)
 std::optional<PromptReply> PromptDialogue::offer(const InputAnswer &answer)
 {
     const Reading reading = std::visit([this](const auto &given) { return read(given); }, answer);
-    if (!reading.refusal.isEmpty())
+    m_wasRefused = !reading.refusal.isEmpty();
+    if (m_wasRefused)
         m_document.print(u'\n' + reading.refusal);
     return reading.reply;
 }
@@ -183,6 +184,11 @@ PromptDialogue::Reading PromptDialogue::readAngle(const QString &text)
         return refuse();
     PromptReply reply;
     reply.real = normalizedAngle(m_request.kind == PromptKind::Orientation ? *direction : *direction - units.angleBase);
+    if (m_request.bits & SignedAngle) {
+        const bool isNegative = text.startsWith(u'-');
+        const double size = units.parseAngle(isNegative ? text.mid(1) : text).value_or(0.0);
+        reply.real = isNegative == units.isClockwise ? size : -size;
+    }
     return checkNumber(reply.real, reply);
 }
 
@@ -264,7 +270,8 @@ PromptDialogue::Reading PromptDialogue::read(const EntityAnswer &answer)
 {
     if (m_request.kind != PromptKind::Entity && m_request.kind != PromptKind::Selection)
         return read(PointAnswer{answer.point});
-    if (!m_document.drawing().isAlive(answer.entity))
+    // Of a selection an erased entity is just not found.
+    if (m_request.kind == PromptKind::Entity && !m_document.drawing().isAlive(answer.entity))
         return refuse();
     PromptReply reply;
     reply.entities.push_back(answer.entity);

@@ -20,6 +20,8 @@ public:
     const PromptRequest &request() const { return m_request; }
     /// The reply when `answer` ends the prompt; nothing when it was refused or more is needed.
     std::optional<PromptReply> offer(const InputAnswer &answer);
+    /// Whether the answer offered last was refused.
+    bool wasRefused() const { return m_wasRefused; }
 
 private:
     /// The reply, or why there is none.
@@ -51,6 +53,7 @@ private:
 
     Document &m_document;
     PromptRequest m_request;
+    bool m_wasRefused = false;
 };
 
 } // namespace host::kernel

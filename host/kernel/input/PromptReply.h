@@ -22,6 +22,7 @@ struct PromptReply
     drawing::Vec3 point;                     ///< Point, Corner, and where an Entity was picked; world coordinates
     QString text;                            ///< String, Keyword, Command
     std::vector<drawing::RecordId> entities; ///< Entity, Selection
+    bool isRefused = false;                  ///< Cancelled: by an answer that the prompt does not take
     bool isMiss = false;                     ///< Entity: empty because nothing was where the user picked
     bool isWindow = false;                   ///< Selection: two corners follow in `point` and `corner`
     drawing::Vec3 corner;

@@ -39,7 +39,8 @@ enum InputBit : int
     OutsideLimits = 8,
     DashedRubberBand = 32,
     FlatDistance = 64,
-    AnyText = 128
+    AnyText = 128,
+    SignedAngle = 256 ///< Angle: a typed one keeps its sign
 };
 
 /// A question to the user, with all that a window needs to show it and a batch run to report it.
@@ -53,6 +54,7 @@ struct PromptRequest
     std::optional<drawing::Vec3> base; ///< where a rubber band starts; world coordinates
     bool allowSpaces = false;          ///< String: blanks belong to the answer
     bool forCommand = false;           ///< asked by a command rather than by a Lisp program
+    bool endsWhenRefused = false;      ///< a refused answer cancels the prompt when more was typed behind it
     /// Point: these hang at the pointer by `base`; null for none.
     std::shared_ptr<const std::vector<drawing::RecordId>> dragged{};
 };

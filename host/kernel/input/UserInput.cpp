@@ -38,7 +38,20 @@ PromptReply UserInput::ask(const PromptRequest &request)
             echo(answer);
         if (std::optional<PromptReply> reply = dialogue.offer(answer))
             return *reply;
+        if (dialogue.wasRefused() && request.endsWhenRefused && !m_document.session().input().isEmpty())
+            return refusedAheadOfTime();
     }
+}
+
+PromptReply UserInput::refusedAheadOfTime()
+{
+    // What a script answers next was meant for another question.
+    m_document.session().input().clear();
+    m_document.print(QStringLiteral("\nThe rest of what was typed ahead is left out.\n"));
+    PromptReply reply;
+    reply.kind = ReplyKind::Cancelled;
+    reply.isRefused = true;
+    return reply;
 }
 
 bool UserInput::isAnsweredSilently() const

@@ -59,6 +59,9 @@ private:
     /// Whether a program has the next answer and wants nothing of it on the command line (CMDECHO 0).
     bool isAnsweredSilently() const;
 
+    /// The reply where an answer was refused and more was typed behind it.
+    PromptReply refusedAheadOfTime();
+
     std::optional<InputAnswer> takeGiven();
 
     Document &m_document;
