@@ -77,7 +77,10 @@ const CommandCase cases[] = {
     {"line closed", "l 0,0 1,0 1,1 c\n", "(command \"LINE\" '(0 0) '(1 0) '(1 1) \"_C\")",
      "LINE 0,0 1,0; LINE 1,0 1,1; LINE 1,1 0,0"},
     {"line with undo", "line 0,0 9,9 u 1,0 \n", "(command \"LINE\" '(0 0) '(9 9) \"_U\" '(1 0) \"\")", "LINE 0,0 1,0"},
-    {"line with a refused answer", "line 0,0 nonsense 1,0 \n", nullptr, "LINE 0,0 1,0"},
+    {"line with a refused answer", "line 0,0 1,0 nonsense 1,0 \n",
+     "(command \"LINE\" '(0 0) '(1 0) \"nonsense\" '(1 0) \"\")", ""},
+    {"more than was asked for", nullptr, "(command \"CIRCLE\" '(0 0) 1 2.5 '(3 3) \"x\")(command \"POINT\" '(1 1))",
+     "CIRCLE 0,0 r1; POINT 1,1"},
     {"line with an expression", "line (list 1 2) (list 3 4) \n", nullptr, "LINE 1,2 3,4"},
     {"line in two calls", "line 0,0 1,0 2,0 \n",
      "(command \"LINE\" '(0 0))(foreach p '((1 0) (2 0)) (command p))(command \"\")", "LINE 0,0 1,0; LINE 1,0 2,0"},
@@ -284,7 +287,8 @@ TEST_F(Bench, cmdechoSilencesPrompts)
     lisp("(setvar \"CMDECHO\" 0)(command \"CIRCLE\" '(0 0) 1)");
     EXPECT_EQ(takePrinted(), "");
     lisp("(setvar \"CMDECHO\" 1)(command \"CIRCLE\" '(0 0) 1)");
-    EXPECT_NE(takePrinted().find("Specify center point for circle:"), std::string::npos);
+    EXPECT_NE(takePrinted().find("Specify center point for circle or [3P/2P/Ttr (tan tan radius)]:"),
+              std::string::npos);
 }
 
 TEST_F(Bench, aVariablesNameSetsIt)

@@ -8,6 +8,9 @@ namespace host::kernel {
 
 // The rows of each file of commands.
 std::vector<CommandRow> drawCommands();
+std::vector<CommandRow> circleCommands();
+std::vector<CommandRow> polylineCommands();
+std::vector<CommandRow> textCommands();
 std::vector<CommandRow> editCommands();
 std::vector<CommandRow> drawOrderCommands();
 std::vector<CommandRow> blockCommands();

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "host/drawing/Matrix.h"
+#include "host/drawing/Record.h"
+
+#include <vector>
+
+namespace host::kernel {
+
+class CommandContext;
+
+// What the editing commands do with the entities that were chosen. What cannot be done to one of them is counted and
+// told; the others are done.
+
+/// Those of the entities that may be changed: not on locked layers.
+std::vector<drawing::RecordId> editable(CommandContext &context, std::vector<drawing::RecordId> entities);
+void transformAll(CommandContext &context, const std::vector<drawing::RecordId> &entities,
+                  const drawing::Matrix &matrix);
+/// Copies, moved by the matrix; the originals stay as they are. Returns the copies.
+std::vector<drawing::RecordId> copyAll(CommandContext &context, const std::vector<drawing::RecordId> &entities,
+                                       const drawing::Matrix &matrix);
+
+} // namespace host::kernel

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "host/drawing/Drawing.h"
+
+#include <optional>
+
+namespace host::kernel {
+
+class UserPlane;
+
+/// A straight line or a circle that another circle is to touch, in user coordinates; and where it was picked.
+struct TangentLine
+{
+    bool isStraight = true;
+    drawing::Vec2 point;     ///< on the line, or the centre
+    drawing::Vec2 direction; ///< of the line; length 1
+    double radius = 0.0;     ///< of the circle
+    double height = 0.0;
+    drawing::Vec2 picked;
+};
+
+/// Of a LINE, CIRCLE or ARC that lies flat in the plane; nothing for others.
+std::optional<TangentLine> tangentLine(const drawing::Drawing &drawing, drawing::RecordId entity,
+                                       const UserPlane &plane, const drawing::Vec3 &pickedAt);
+
+/// The centre of the circle with that radius which touches both nearest to where they were picked; nothing when there
+/// is none.
+std::optional<drawing::Vec2> tangentCentre(const TangentLine &first, const TangentLine &second, double radius);
+
+} // namespace host::kernel

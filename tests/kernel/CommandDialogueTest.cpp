@@ -1,0 +1,83 @@
+// Dialogues of commands, answered by a script, by (command) and one answer at a time as in the window: each way the
+// same comes out, undo gives back the bytes that were, and so does Esc at every prompt.
+
+#include "tests/kernel/CommandDialogue.h"
+
+namespace {
+
+const DialogueCase circles[] = {
+    {"by two points", "", "CIRCLE|2P|0,0|10,0", "CIRCLE 10=5,0,0 40=5"},
+    {"by three points", "", "CIRCLE|3P|1,0|0,1|-1,0", "CIRCLE 10=0,0,0 40=1"},
+    {"three points in a line", "", "CIRCLE|3P|0,0|1,1|2,2", "", "the points lie in one line"},
+    {"two points that are one", "", "CIRCLE|2P|3,3|3,3", "", "Circle does not exist"},
+    {"an option that there is not", "", "CIRCLE|5P|0,0|10,0", "", "Invalid point"},
+    {"a negative radius", "", "CIRCLE|0,0|-3", "", "must not be negative"},
+    {"tangents to two lines", "(line 0 0 10 0)(line 0 0 0 10)", "CIRCLE|T|5,0|0,5|2",
+     "LINE 10=0,0,0 11=10,0,0; LINE 10=0,0,0 11=0,10,0; CIRCLE 10=2,2,0 40=2"},
+    {"the last radius", "(setvar \"CIRCLERAD\" 4.0)", "CIRCLE|1,1|", "CIRCLE 10=1,1,0 40=4"},
+    {"in turned axes", "turned", "CIRCLE|2P|0,0|10,0", "CIRCLE 10=10,25,0 40=5"},
+    {"in tilted axes", "tilted", "CIRCLE|3P|1,0|0,1|-1,0", "CIRCLE 10=0,5,0 40=1 210=0,-1,0"},
+};
+
+const DialogueCase texts[] = {
+    {"right", "", "TEXT|J|R|10,5|2|0|AB", "TEXT 40=2 1=AB 11=10,5,0 72=2"},
+    {"justification without asking for it", "", "TEXT|MC|10,5|2|90|AB", "TEXT 40=2 1=AB 50=90 11=10,5,0 72=1 73=2"},
+    {"aligned", "", "TEXT|J|Align|0,0|0,10|AB", "TEXT 1=AB 50=90 11=0,10,0 72=3"},
+    {"fitted", "", "TEXT|J|F|0,0|10,0|3|AB", "TEXT 40=3 1=AB 11=10,0,0 72=5"},
+    {"a style of fixed height",
+     "(entmake '((0 . \"STYLE\") (100 . \"AcDbSymbolTableRecord\") (100 . \"AcDbTextStyleTableRecord\") (2 . "
+     "\"Fixed\") (70 . 0) (40 . 3.5) (41 . 0.8) (50 . 0.0) (71 . 0) (42 . 3.5) (3 . \"txt\") (4 . \"\")))",
+     "TEXT|S|Fixed|1,2|0|Room", "TEXT 10=1,2,0 40=3.5 1=Room 7=Fixed 41=0.8"},
+    {"a style that there is not", "", "TEXT|S|Nowhere|1,2|2|0|Room", "", "Cannot find text style \"Nowhere\""},
+    {"as long as its points are apart", "", "TEXT|J|Align|0,0|0,10|ABC", "\"10.000\"", "", Esc::LeavesNothing,
+     "(rtos (caadr (textbox (entget (entlast)))) 2 3)"},
+    {"as long and as high as wanted", "", "TEXT|J|Fit|0,0|6,8|2|ABC", "(2.0 \"10.000\")", "", Esc::LeavesNothing,
+     "(list (cdr (assoc 40 (entget (entlast)))) (rtos (caadr (textbox (entget (entlast)))) 2 3))"},
+    {"in tilted axes", "tilted", "TEXT|1,2|2|30|AB", "TEXT 10=1,7,0 40=2 1=AB 50=30 210=0,-1,0"},
+};
+
+const DialogueCase polylines[] = {
+    {"a pair of widths", "", "PLINE|0,0|W|1|3|10,0|20,0|", "LWPOLYLINE 10=0,0 40=1 41=3 10=10,0 40=3 41=3 10=20,0"},
+    {"half of them", "", "PLINE|0,0|H|1||10,0|", "LWPOLYLINE 10=0,0 40=2 41=2 10=10,0"},
+    {"an arc along the tangent", "", "PLINE|0,0|10,0|A|10,10|L|0,10|C",
+     "LWPOLYLINE 70=1 10=0,0 10=10,0 42=1 10=10,10 10=0,10"},
+    {"closed by an arc", "", "PLINE|0,0|10,0|A|10,10|CL", "LWPOLYLINE 70=1 10=0,0 10=10,0 42=1 10=10,10 42=0.414214"},
+    {"an angle to the right", "", "PLINE|0,0|A|A|-180|10,0|", "LWPOLYLINE 10=0,0 42=-1 10=10,0"},
+    {"round a centre", "", "PLINE|10,0|A|CE|0,0|A|90|", "LWPOLYLINE 10=10,0 42=0.414214 10=0,10"},
+    {"by a direction", "", "PLINE|0,0|A|D|90|10,0|", "LWPOLYLINE 10=0,0 42=-1 10=10,0"},
+    {"by a radius", "", "PLINE|0,0|A|R|5|10,0|", "LWPOLYLINE 10=0,0 42=1 10=10,0"},
+    {"by a second point", "", "PLINE|0,0|A|S|5,-5|10,0|", "LWPOLYLINE 10=0,0 42=1 10=10,0"},
+    {"a radius that is too short", "", "PLINE|0,0|A|R|1|10,0|", "", "There is no such arc"},
+    {"a segment taken back with its widths", "", "PLINE|0,0|W|1|3|10,0|U|5,0|", "LWPOLYLINE 10=0,0 40=1 41=3 10=5,0"},
+    {"a length along the last segment", "", "PLINE|0,0|0,5|L|5|", "LWPOLYLINE 10=0,0 10=0,5 10=0,10"},
+    {"in turned axes", "turned", "PLINE|0,0|10,0|A|10,10|", "LWPOLYLINE 10=10,20 10=10,30 42=1 10=0,30"},
+    {"a word that there is not", "", "PLINE|0,0|10,0|Spline|20,0|", "", "Invalid point"},
+};
+
+const DialogueCase edits[] = {
+    {"moved by a displacement", "(line 0 0 1 0)", "MOVE|ALL||D|5,6", "LINE 10=5,6,0 11=6,6,0"},
+    {"in turned axes a displacement turns with them", "turned(line 0 0 1 0)", "MOVE|ALL|||5,0",
+     "LINE 10=0,5,0 11=1,5,0"},
+    {"locked layers are left alone", "(line 0 0 1 0)(lock \"0\")(layer-line \"B\")", "MOVE|C|-9,-9|9,9||0,0|5,5",
+     "LINE 10=0,0,0 11=1,0,0; LINE 10=6,6,0 11=7,7,0", "1 was on a locked layer."},
+    {"turned by a reference", "(line 0 0 2 0)", "ROTATE|ALL||0,0|R|30|120", "LINE 10=0,0,0 11=0,2,0"},
+    {"a copy is turned", "(line 0 0 2 0)", "ROTATE|ALL||0,0|C|180", "LINE 10=0,0,0 11=2,0,0; LINE 10=0,0,0 11=-2,0,0"},
+    {"the direction of angles counts, their base does not",
+     "(line 0 0 2 0)(setvar \"ANGDIR\" 1)(setvar \"ANGBASE\" 1.0)", "ROTATE|ALL||0,0|90", "LINE 10=0,0,0 11=0,-2,0"},
+    {"in tilted axes", "tilted(line 0 0 2 0)", "ROTATE|ALL||0,-5|90", "LINE 10=0,0,0 11=0,0,2"},
+    {"scaled by a reference", "(line 1 0 2 0)", "SCALE|ALL||0,0|R|2|6,0", "LINE 10=3,0,0 11=6,0,0"},
+    {"by a reference of two points", "(line 1 0 2 0)", "SCALE|ALL||0,0|R|0,0|4,0|2", "LINE 10=0.5,0,0 11=1,0,0"},
+    {"a copy is scaled", "(line 1 0 2 0)", "SCALE|ALL||0,0|C|2", "LINE 10=1,0,0 11=2,0,0; LINE 10=2,0,0 11=4,0,0"},
+    {"no factor", "(line 1 0 2 0)", "SCALE|ALL||0,0|big", "LINE 10=1,0,0 11=2,0,0", "Requires numeric distance"},
+    {"copied by a displacement", "(line 0 0 1 0)", "COPY|ALL||D|5,5", "LINE 10=0,0,0 11=1,0,0; LINE 10=5,5,0 11=6,5,0"},
+    {"copied again and again", "(line 0 0 1 0)", "COPY|ALL||0,0|0,1|0,2|U|0,3|E",
+     "LINE 10=0,0,0 11=1,0,0; LINE 10=0,1,0 11=1,1,0; LINE 10=0,3,0 11=1,3,0", "", Esc::Keeps},
+    {"copied once", "(line 0 0 1 0)", "COPY|ALL||O|S|0,0|0,1", "LINE 10=0,0,0 11=1,0,0; LINE 10=0,1,0 11=1,1,0"},
+};
+
+INSTANTIATE_TEST_SUITE_P(Circle, CommandDialogue, testing::ValuesIn(circles));
+INSTANTIATE_TEST_SUITE_P(Text, CommandDialogue, testing::ValuesIn(texts));
+INSTANTIATE_TEST_SUITE_P(Polyline, CommandDialogue, testing::ValuesIn(polylines));
+INSTANTIATE_TEST_SUITE_P(Edit, CommandDialogue, testing::ValuesIn(edits));
+
+} // namespace
