@@ -3,6 +3,7 @@
 #include "host/drawing/Blocks.h"
 #include "host/drawing/Journal.h"
 #include "host/drawing/Structure.h"
+#include "host/drawing/Tables.h"
 #include "host/drawing/TransformFields.h"
 
 namespace host::drawing {
@@ -164,6 +165,23 @@ RecordId copyEntity(Drawing &drawing, RecordId entity)
         return noRecord;
     const JournalGroup group(drawing.journal(), {});
     return copyInto(drawing, entity, drawing.parent(entity), drawing.owner(entity));
+}
+
+RecordId copyEntityTo(Drawing &drawing, RecordId entity, Space space)
+{
+    if (!drawing.isAlive(entity) || drawing.kind(entity) != RecordKind::Entity)
+        return noRecord;
+    const JournalGroup group(drawing.journal(), {});
+    const QString name = space == Space::Paper ? u"*Paper_Space"_s : u"*Model_Space"_s;
+    const RecordId entry = drawing.tables().find(TableKind::BlockRecord, name);
+    const Handle owner = isValid(entry) ? drawing.handle(entry) : Handle{};
+    const RecordId copy = copyInto(drawing, entity, ensureSection(drawing, Section::Entities), owner);
+    FieldList fields = drawing.fields(copy);
+    std::erase_if(fields, [](const Field &field) { return field.code == 67; });
+    if (space == Space::Paper)
+        fields.insert(std::ranges::find(fields, 8, &Field::code), {67, qint64(1)});
+    drawing.setFields(copy, fields);
+    return copy;
 }
 
 } // namespace host::drawing

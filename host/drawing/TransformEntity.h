@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/drawing/Drawing.h"
+#include "host/drawing/Entities.h"
 #include "host/drawing/Matrix.h"
 
 namespace host::drawing {
@@ -13,5 +13,7 @@ bool transformEntity(Drawing &drawing, RecordId entity, const Matrix &matrix);
 /// Adds a copy of an entity and its children as the last of its container; reactors and extension dictionaries stay
 /// with the original. noRecord when it cannot be copied.
 RecordId copyEntity(Drawing &drawing, RecordId entity);
+/// As copyEntity(), but into a space, wherever the entity stands.
+RecordId copyEntityTo(Drawing &drawing, RecordId entity, Space space);
 
 } // namespace host::drawing

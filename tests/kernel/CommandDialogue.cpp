@@ -60,6 +60,8 @@ const char *const helpers =
     "(defun line (a b c d) (entmake (list '(0 . \"LINE\") (list 10 (float a) (float b) 0.0) (list 11 (float c) (float "
     "d)"
     " 0.0))))"
+    "(defun block (n e) (entmake (list '(0 . \"BLOCK\") (cons 2 n) '(70 . 0) '(10 0.0 0.0 0.0))) (entmake e)"
+    " (entmake '((0 . \"ENDBLK\"))))"
     "(defun lock (n / e) (setq e (entget (tblobjname \"LAYER\" n))) (entmod (subst '(70 . 4) (assoc 70 e) e)))"
     "(defun layer-line (n) (entmake (list '(0 . \"LINE\") (cons 8 n) '(10 1.0 1.0 0.0) '(11 2.0 2.0 0.0))))";
 

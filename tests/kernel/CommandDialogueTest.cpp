@@ -75,9 +75,33 @@ const DialogueCase edits[] = {
     {"copied once", "(line 0 0 1 0)", "COPY|ALL||O|S|0,0|0,1", "LINE 10=0,0,0 11=1,0,0; LINE 10=0,1,0 11=1,1,0"},
 };
 
+const char *const door = "(block \"Door\" '((0 . \"LINE\") (10 1.0 0.0 0.0) (11 3.0 0.0 0.0)))";
+const char *const turnedDoor = "turned(block \"Door\" '((0 . \"LINE\") (10 1.0 0.0 0.0) (11 3.0 0.0 0.0)))";
+const char *const label = "(block \"Label\" '((0 . \"ATTDEF\") (10 1.0 0.0 0.0) (40 . 1.0) (1 . \"7\") (2 . \"NO\") (3 "
+                          ". \"Number\") (70 . 0)))";
+const char *const attribute = "(mapcar '(lambda (c) (cdr (assoc c (entget (entnext (entlast)))))) '(1 40))";
+
+const DialogueCase inserts[] = {
+    {"scale beforehand", door, "-INSERT|Door|S|2|5,5|0", "INSERT 2=Door 10=5,5,0 41=2 42=2 43=2"},
+    {"one axis and rotation beforehand", door, "-INSERT|Door|Y|3|R|90|5,5",
+     "INSERT 2=Door 10=5,5,0 41=1 42=3 43=1 50=90"},
+    {"three axes", door, "-INSERT|Door|5,5|XYZ|2|3|4|0", "INSERT 2=Door 10=5,5,0 41=2 42=3 43=4"},
+    {"scaled by a corner", door, "-INSERT|Door|5,5|C|7,9|0", "INSERT 2=Door 10=5,5,0 41=2 42=4 43=2"},
+    {"no factor of zero", door, "-INSERT|Door|5,5|0|1|0", "", "must be nonzero"},
+    {"in pieces", door, "-INSERT|*Door|10,0|2|90", "LINE 10=10,2,0 11=10,6,0"},
+    {"in pieces, scaled beforehand", door, "-INSERT|*Door|S|3|10,0|0", "LINE 10=13,0,0 11=19,0,0"},
+    {"in turned axes", turnedDoor, "-INSERT|Door|0,0|1||0", "INSERT 2=Door 10=10,20,0 41=1 42=1 43=1 50=90"},
+    {"in pieces in turned axes", turnedDoor, "-INSERT|*Door|0,0|1|0", "LINE 10=10,21,0 11=10,23,0"},
+    {"an attribute of a stretched block", label, "-INSERT|Label|0,0|2|3|0|B 12", "(\"B 12\" 3.0)", "",
+     Esc::LeavesNothing, attribute},
+    {"a block that there is not", "", "-INSERT|Nowhere|0,0|1|1|0", "", "Cannot find block or file \"Nowhere\""},
+    {"listed", door, "-INSERT|?||Door|1,2|1||0", "INSERT 2=Door 10=1,2,0 41=1 42=1 43=1", "\"Door\""},
+};
+
 INSTANTIATE_TEST_SUITE_P(Circle, CommandDialogue, testing::ValuesIn(circles));
 INSTANTIATE_TEST_SUITE_P(Text, CommandDialogue, testing::ValuesIn(texts));
 INSTANTIATE_TEST_SUITE_P(Polyline, CommandDialogue, testing::ValuesIn(polylines));
 INSTANTIATE_TEST_SUITE_P(Edit, CommandDialogue, testing::ValuesIn(edits));
+INSTANTIATE_TEST_SUITE_P(Insert, CommandDialogue, testing::ValuesIn(inserts));
 
 } // namespace

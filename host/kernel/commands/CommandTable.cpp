@@ -10,7 +10,7 @@ std::vector<CommandRow> collectRows()
 {
     std::vector<CommandRow> rows;
     for (const auto &group : {drawCommands(), circleCommands(), polylineCommands(), textCommands(), editCommands(),
-                              drawOrderCommands(), blockCommands(), layerCommands(), linetypeCommands(),
+                              drawOrderCommands(), insertCommands(), writeBlockCommands(), layerCommands(), linetypeCommands(),
                               purgeCommands(), referenceCommands(), fileCommands(), viewCommands(), undoCommands()})
         rows.insert(rows.end(), group.begin(), group.end());
     std::sort(rows.begin(), rows.end(),
