@@ -63,6 +63,9 @@ const char *const helpers =
     "(defun block (n e) (entmake (list '(0 . \"BLOCK\") (cons 2 n) '(70 . 0) '(10 0.0 0.0 0.0))) (entmake e)"
     " (entmake '((0 . \"ENDBLK\"))))"
     "(defun lock (n / e) (setq e (entget (tblobjname \"LAYER\" n))) (entmod (subst '(70 . 4) (assoc 70 e) e)))"
+    "(defun layer (n) (setq n (entget (tblobjname \"LAYER\" n) '(\"*\"))) (append (mapcar '(lambda (c) (cdr (assoc c "
+    "n)))"
+    " '(70 62 6 370 290 420)) (cdadr (assoc -3 n))))"
     "(defun layer-line (n) (entmake (list '(0 . \"LINE\") (cons 8 n) '(10 1.0 1.0 0.0) '(11 2.0 2.0 0.0))))";
 
 } // namespace

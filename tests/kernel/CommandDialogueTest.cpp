@@ -98,10 +98,45 @@ const DialogueCase inserts[] = {
     {"listed", door, "-INSERT|?||Door|1,2|1||0", "INSERT 2=Door 10=1,2,0 41=1 42=1 43=1", "\"Door\""},
 };
 
+const char *const layerA = "(layer \"A\")";
+const char *const madeA = "(command \"-LAYER\" \"N\" \"A\" \"\")";
+
+const DialogueCase layers[] = {
+    {"made and made current", "", "-LAYER|M|B 1|", "\"B 1\"", "", Esc::LeavesNothing, "(getvar \"CLAYER\")"},
+    {"properties", madeA, "-LAYER|C|red|A|LT|Continuous|A|LW|0.26|A|P|N|A|", "(0 1 \"Continuous\" 25 0 nil)", "",
+     Esc::LeavesNothing, layerA},
+    {"an exact colour", madeA, "-LAYER|C|T|1,2,3|A|", "(0 7 \"Continuous\" -3 nil 66051)", "", Esc::LeavesNothing,
+     layerA},
+    {"a number in place of an exact colour", "(command \"-LAYER\" \"N\" \"A\" \"C\" \"T\" \"1,2,3\" \"A\" \"\")",
+     "-LAYER|C|5|A|", "(0 5 \"Continuous\" -3 nil nil)", "", Esc::LeavesNothing, layerA},
+    {"transparency", madeA, "-LAYER|TR|50|A|", "(0 7 \"Continuous\" -3 nil nil (1071 . 33554560))", "",
+     Esc::LeavesNothing, layerA},
+    {"a description", madeA, "-LAYER|D|Walls, old|A|",
+     "(0 7 \"Continuous\" -3 nil nil (1000 . \"\") (1000 . \"Walls, old\"))", "", Esc::LeavesNothing, layerA},
+    {"states", madeA, "-LAYER|OFF|A|F|A|LO|A|", "(5 -7 \"Continuous\" -3 nil nil)", "", Esc::LeavesNothing, layerA},
+    {"states back", madeA, "-LAYER|OFF|*|N|F|A|LO|A|ON|*|T|*|U|*|", "(0 7 \"Continuous\" -3 nil nil)", "",
+     Esc::LeavesNothing, layerA},
+    {"renamed with what is on it", "(layer-line \"Old\")", "-LAYER|R|old|New name|", "(\"New name\" nil)", "",
+     Esc::LeavesNothing, "(list (cdr (assoc 8 (entget (entlast)))) (tblsearch \"LAYER\" \"Old\"))"},
+    {"layer 0 keeps its name", "", "-LAYER|R|0|New|", "nil", "Layer \"0\" cannot be renamed", Esc::LeavesNothing,
+     "(tblsearch \"LAYER\" \"New\")"},
+    {"of an object", "(layer-line \"B\")", "-LAYER|S||1.5,1.5|", "\"B\"", "", Esc::LeavesNothing,
+     "(getvar \"CLAYER\")"},
+    {"no such linetype", madeA, "-LAYER|C|3|A|L|Nowhere|A|", "(0 7 \"Continuous\" -3 nil nil)",
+     "Linetype \"Nowhere\" not found", Esc::LeavesNothing, layerA},
+    {"no such option", madeA, "-LAYER|C|3|A|Colour|4|A|", "(0 7 \"Continuous\" -3 nil nil)", "Invalid option keyword",
+     Esc::LeavesNothing, layerA},
+    {"layer states", madeA, "-LAYER|C|3|A|A|S|x|", "(0 7 \"Continuous\" -3 nil nil)", "does not keep layer states",
+     Esc::LeavesNothing, layerA},
+    {"a name that cannot be one", "", "-LAYER|N|A/B|", "nil", "cannot be the name of a layer", Esc::LeavesNothing,
+     "(tblsearch \"LAYER\" \"A/B\")"},
+};
+
 INSTANTIATE_TEST_SUITE_P(Circle, CommandDialogue, testing::ValuesIn(circles));
 INSTANTIATE_TEST_SUITE_P(Text, CommandDialogue, testing::ValuesIn(texts));
 INSTANTIATE_TEST_SUITE_P(Polyline, CommandDialogue, testing::ValuesIn(polylines));
 INSTANTIATE_TEST_SUITE_P(Edit, CommandDialogue, testing::ValuesIn(edits));
 INSTANTIATE_TEST_SUITE_P(Insert, CommandDialogue, testing::ValuesIn(inserts));
+INSTANTIATE_TEST_SUITE_P(Layer, CommandDialogue, testing::ValuesIn(layers));
 
 } // namespace

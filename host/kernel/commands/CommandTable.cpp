@@ -9,9 +9,10 @@ namespace {
 std::vector<CommandRow> collectRows()
 {
     std::vector<CommandRow> rows;
-    for (const auto &group : {drawCommands(), circleCommands(), polylineCommands(), textCommands(), editCommands(),
-                              drawOrderCommands(), insertCommands(), writeBlockCommands(), layerCommands(), linetypeCommands(),
-                              purgeCommands(), referenceCommands(), fileCommands(), viewCommands(), undoCommands()})
+    for (const auto &group :
+         {drawCommands(), circleCommands(), polylineCommands(), textCommands(), editCommands(), drawOrderCommands(),
+          insertCommands(), writeBlockCommands(), layerCommands(), linetypeCommands(), purgeCommands(),
+          referenceCommands(), fileCommands(), viewCommands(), undoCommands()})
         rows.insert(rows.end(), group.begin(), group.end());
     std::sort(rows.begin(), rows.end(),
               [](const CommandRow &a, const CommandRow &b) { return qstrcmp(a.name, b.name) < 0; });
