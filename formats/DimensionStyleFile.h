@@ -21,7 +21,7 @@ namespace ortakit {
 /// | "DIMTXT_" | a part of the text style's definition |
 /// | "DIMLT ", "DIMEX1LT ", "DIMEX2LT " | variable, linetype, N: a linetype's definition of N characters follows on the
 /// | | next line, and what is left of the line that it ends in means nothing |
-/// | anything else | a variable and its value |
+/// | anything else | a variable and its value; what has no blank is not shown, as the definitions of arrow blocks |
 ///
 /// Text is UTF-8. N counts characters as a text stream does, in units of UTF-16 and with line ends as the file has
 /// them. A count that is no number, or is negative, is 0; one that goes beyond the file ends with it.

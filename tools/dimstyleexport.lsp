@@ -20,16 +20,18 @@
   (if (setq handle (open file "w"))
     (progn
       (foreach name (kora_table_names "DIMSTYLE")
-        (foreach line (dimstyleexport:section (entget (tblobjname "DIMSTYLE" name)))
+        (foreach line (dimstyleexport:section (entget (tblobjname "DIMSTYLE" name) '("AcadAnnotative")))
           (princ (strcat line "\r\n") handle)))
       (close handle)
       T)))
 
 ;; -> the lines of a style's section.
-(defun dimstyleexport:section (data)
+(defun dimstyleexport:section (data / arrows)
   (append (list (strcat "DIMENSION_STYLE_NAME " (kora_field data 2)) "DIMFILE 1")
           (dimstyleexport:variables data)
-          (dimstyleexport:arrows data)
+          (if (kora_is_annotative data) '("DIMANNO 1"))
+          (dimstyleexport:arrow_lines (setq arrows (dimstyleexport:arrows data)))
+          (kora_block_lines (vl-remove nil (mapcar 'cdr arrows)))
           (dimstyleexport:text_style (kora_field data 340))
           (apply 'append
                  (mapcar '(lambda (row) (dimstyleexport:linetype (cadr row) (kora_field data (car row))))
@@ -49,15 +51,19 @@
 (defun dimstyleexport:record (reference)
   (if (= (type reference) 'ENAME) (entget reference '("ACAD"))))
 
-;; The blocks of the arrows by name: by their records, in early versions by themselves.
-(defun dimstyleexport:arrows (data / field lines)
+;; -> list of (variable . name of the arrow's block): by their records, in early versions by themselves. The name is nil
+;; for the usual arrow.
+(defun dimstyleexport:arrows (data / field arrows)
   (foreach row kora:dim_arrows
     (cond ((setq field (assoc (car row) data))
            (setq field (kora_field (dimstyleexport:record (cdr field)) 2)))
           ((cadr row) (setq field (kora_field data (cadr row)))))
     (if (or field (assoc (car row) data))
-      (setq lines (cons (strcat (caddr row) " " (kora_value_text field)) lines))))
-  (reverse lines))
+      (setq arrows (cons (cons (caddr row) (if (/= field "") field)) arrows))))
+  (reverse arrows))
+
+(defun dimstyleexport:arrow_lines (arrows)
+  (mapcar '(lambda (arrow) (strcat (car arrow) " " (kora_value_text (cdr arrow)))) arrows))
 
 ;; The lines for a text style and its definition, none for a record that names none.
 (defun dimstyleexport:text_style (entity / data family lines)

@@ -48,17 +48,19 @@
     (kora_alert_message (strcat "The file " path " could not be read.")))
   (reverse sections))
 
-;; Reads a section's body. -> (name variables linetypes), nil in place of the variables when the file ends within it.
-;; variables is a list of (variable . text), linetypes one of (word name lines of the definition).
-(defun dimstyleimport:section (name handle / line closed variables linetypes)
+;; Reads a section's body. -> (name variables linetypes blocks), nil in place of the variables when the file ends within
+;; it. variables is a list of (variable . text), linetypes one of (word name lines of the definition), blocks one of
+;; lines.
+(defun dimstyleimport:section (name handle / line closed variables linetypes blocks)
   (while (and (not closed) (setq line (read-line handle)))
     (cond ((vl-string-search "END_OF_STYLE" line) (setq closed T))
           ((and (not (vl-string-search "DIMTXSTY" line)) (not (vl-string-search "DIMTXT_" line))
                 (or (vl-string-search "DIMLT " line) (vl-string-search "DIMEX1LT " line)
                     (vl-string-search "DIMEX2LT " line)))
            (setq linetypes (cons (dimstyleimport:linetype line handle) linetypes)))
+          ((wcmatch line "DIMBLOCK=*,DIMBLOCKENTITY=*") (setq blocks (cons line blocks)))
           (T (setq variables (cons (cons (kora_first_word line) (kora_behind_blank line)) variables)))))
-  (list name (if closed (reverse variables)) (reverse linetypes)))
+  (list name (if closed (reverse variables)) (reverse linetypes) (reverse blocks)))
 
 ;; The name may have blanks; the count is behind the last one. The definition is taken by whole lines, so that a file
 ;; whose line ends have changed since is read as well.
@@ -80,7 +82,7 @@
   (kora_alert_message (strcat (itoa count) (if (= count 1) " dimension style" " dimension styles") " imported.")))
 
 ;; Makes or overwrites one style. -> T, nil after a message when the style stays as it was.
-(defun dimstyleimport:style (section texts dimensions / name existing)
+(defun dimstyleimport:style (section texts dimensions / name existing fields left)
   (setq name     (car section)
         existing (tblobjname "DIMSTYLE" name))
   (cond
@@ -90,17 +92,42 @@
      (if texts (dimstyleimport:overwrite_text_style (cadr section)))
      (kora_alert_message (strcat "The style " name " exists already and stays as it is."))
      nil)
-    ((if existing
-       (entmod (dimstyleimport:changed (entget existing) (dimstyleimport:fields section texts)))
-       (entmake (append (list '(0 . "DIMSTYLE") '(100 . "AcDbSymbolTableRecord") '(100 . "AcDbDimStyleTableRecord")
-                              (cons 2 name) '(70 . 0))
-                        (dimstyleimport:fields section texts))))
+    ((progn
+       (setq fields (dimstyleimport:fields section texts))
+       (if existing
+         (entmod (dimstyleimport:changed (entget existing) (dimstyleimport:marked fields section existing)))
+         (entmake (append (list '(0 . "DIMSTYLE") '(100 . "AcDbSymbolTableRecord") '(100 . "AcDbDimStyleTableRecord")
+                                (cons 2 name) '(70 . 0))
+                          (dimstyleimport:marked fields section nil)))))
+     (dimstyleimport:say_left name fields)
      T)
     (T (kora_alert_message (strcat "The style " name " could not be made.")) nil)))
 
+;; fields with the annotative mark that the file says, or that an existing style loses.
+(defun dimstyleimport:marked (fields section existing / is_marked)
+  (setq is_marked (= (kora_field (cadr section) "DIMANNO") "1"))
+  (if (or is_marked (and existing (kora_is_annotative (entget existing '("AcadAnnotative")))))
+    (append fields (list (kora_annotative is_marked)))
+    fields))
+
+;; Says what of fields the drawing's version has no groups for, unless it says the usual. left has the variables that
+;; were not tried.
+(defun dimstyleimport:say_left (name fields / made row)
+  (setq made (entget (tblobjname "DIMSTYLE" name)))
+  (foreach field fields
+    (if (not (assoc (car field) made))
+      (cond ((setq row (assoc (car field) kora:dim_variables))
+             (if (not (equal (cdr field) (caddr row) 1e-12)) (setq left (cons (cadr row) left))))
+            ((setq row (assoc (car field) kora:dim_arrows)) (setq left (cons (caddr row) left)))
+            ((= (car field) 340) (setq left (cons "DIMTXSTY" left))))))
+  (if left
+    (kora_alert_message (strcat "The style " name " does not say what a drawing of this version has no place for: "
+                                (kora_string_join (reverse left) ", ") "."))))
+
 ;; -> the groups of a dimension style's record, DIMTXT and DIMTXSTY as well; what they refer to is made.
 (defun dimstyleimport:fields (section texts / variables value fields)
-  (setq variables (cadr section))
+  (setq variables (dimstyleimport:converted (cadr section)))
+  (kora_make_blocks (cadddr section))
   (foreach row kora:dim_variables
     (if (setq value (assoc (cadr row) variables))
       (setq fields (cons (cons (car row) (kora_text_value (cdr value) (caddr row))) fields))))
@@ -111,17 +138,59 @@
           (apply 'append (mapcar '(lambda (row) (dimstyleimport:linetype_reference row (caddr section)))
                                  kora:dim_linetypes))))
 
+;; Where text and arrows go, and the form of lengths, were said by one variable each up to a version, by two each since
+;; then. -> the variables as the drawing's version has them.
+(defun dimstyleimport:converted (variables)
+  (cond
+    ((>= (getvar "ACADVER") "AC1015") (dimstyleimport:parted (dimstyleimport:parted variables T) nil))
+    ((= (getvar "ACADVER") "AC1009") variables)
+    (T (dimstyleimport:joined (dimstyleimport:joined variables T) nil))))
+
+;; Old variable, the two new ones, and rows (old value, the new values), first of lengths, then of fitting.
+(setq dimstyleimport:units
+  '("DIMUNIT" "DIMLUNIT" "DIMFRAC" ("1" "1" "0") ("2" "2" "0") ("3" "3" "0") ("4" "4" "0") ("5" "5" "0") ("6" "4" "2")
+    ("7" "5" "2") ("8" "6" "0")))
+(setq dimstyleimport:fits
+  '("DIMFIT" "DIMATFIT" "DIMTMOVE" ("0" "0" "0") ("1" "1" "0") ("2" "2" "0") ("3" "3" "0") ("4" "3" "1") ("5" "3" "2")))
+
+(defun dimstyleimport:parted (variables is_unit / table row)
+  (setq table (if is_unit dimstyleimport:units dimstyleimport:fits)
+        row   (assoc (kora_field variables (car table)) (cdddr table)))
+  (if (and row (not (assoc (cadr table) variables)))
+    (append (vl-remove (assoc (car table) variables) variables)
+            (list (cons (cadr table) (cadr row)))
+            (if (not (assoc (caddr table) variables)) (list (cons (caddr table) (caddr row)))))
+    variables))
+
+;; Both new values make the old one; where the second says what it cannot, the first alone does.
+(defun dimstyleimport:joined (variables is_unit / table first second row)
+  (setq table  (if is_unit dimstyleimport:units dimstyleimport:fits)
+        first  (cond ((kora_field variables (cadr table))) ((if is_unit "2" "3")))
+        second (cond ((kora_field variables (caddr table))) ("0"))
+        row    (vl-some '(lambda (row) (if (equal (cdr row) (list first second)) row)) (cdddr table)))
+  (cond
+    ((or (assoc (car table) variables) (not (or (assoc (cadr table) variables) (assoc (caddr table) variables))))
+     variables)
+    (row (append (vl-remove-if '(lambda (variable) (member (car variable) (list (cadr table) (caddr table)))) variables)
+                 (list (cons (car table) (car row)))))
+    ((setq row (vl-some '(lambda (row) (if (= (cadr row) first) row)) (cdddr table)))
+     (append (vl-remove (assoc (cadr table) variables) variables) (list (cons (car table) (car row)))))
+    (variables)))
+
 (defun dimstyleimport:reference (code entity)
   (if entity (list (cons code entity))))
 
-;; The group for an arrow: the block's record, in early versions its name. None for an arrow that the drawing lacks.
+;; The group for an arrow: the block's record, in early versions its name. A standard arrow is made; none for another
+;; that the drawing lacks.
 (defun dimstyleimport:arrow (row variable / name block record)
   (setq name (if variable (kora_with_characters (cdr variable)) ""))
+  (if (and (/= name "") (null (tblobjname "BLOCK" name))) (kora_make_arrow name))
   (cond ((= name "") nil)
+        ((and (null (cadr row)) (< (getvar "ACADVER") "AC1015")) (setq left (cons (caddr row) left)) nil)
         ((null (setq block (tblobjname "BLOCK" name)))
          (kora_alert_message (strcat "The drawing has no block " name " for " (caddr row) ", the usual arrow is used."))
          nil)
-        ((setq record (kora_field (entget block) 330)) (list (cons (car row) record)))
+        ((and (>= (getvar "ACADVER") "AC1015") (setq record (kora_field (entget block) 330))) (list (cons (car row) record)))
         ((cadr row) (list (cons (cadr row) name)))))
 
 ;; The group for a linetype, which is made where the drawing lacks it.
@@ -130,6 +199,7 @@
     (if (= (car linetype) (cadr row)) (setq found linetype)))
   (setq name (if found (kora_with_characters (cadr found))))
   (cond ((null found) nil)
+        ((< (getvar "ACADVER") "AC1021") (setq left (cons (caddr row) left)) nil)
         ((tblobjname "LTYPE" name) (list (cons (car row) (tblobjname "LTYPE" name))))
         ((if (snvalid name) (dimstyleimport:make_linetype (car row) name (caddr found))))
         (T (kora_alert_message (strcat "The linetype " name " has no definition in the file.")) nil)))

@@ -14,6 +14,7 @@
 ;;; support/catalogue.lsp what the Lisp engine holds, for the Lisp Explorer
 ;;; support/files.lsp     files of definitions, changed in one place
 ;;; support/dimstyles.lsp dimension styles as text
+;;; support/arrows.lsp    arrow blocks of dimension styles, the standard ones and others as text
 ;;; support/blocks.lsp    blocks, references to them, and what is within what
 ;;; support/attributes.lsp attributes of block references
 ;;; support/replacing.lsp replacing blocks
@@ -25,7 +26,7 @@
 ;;; support/patterns.lsp  copies of something over an area
 ;;; support/groups.lsp    groups of entities
 
-(foreach file '("strings" "run" "state" "entities" "selection" "texts" "textboxes" "catalogue" "files" "dimstyles"
+(foreach file '("strings" "run" "state" "entities" "selection" "texts" "textboxes" "catalogue" "files" "dimstyles" "arrows"
                 "blocks" "attributes" "replacing" "drawing" "variables" "viewports" "outlines" "areas" "patterns" "groups")
   (load (strcat "support/" file ".lsp")))
 (princ)

@@ -20,9 +20,19 @@ from ezdxf.entities.dimstyle import acdb_dimstyle
 def rich(path, version):
     doc = ezdxf.new(version, setup=['linetypes'])
     doc.styles.new('Roman', dxfattribs={'font': 'romans.shx', 'height': 2.25, 'width': 0.85, 'oblique': 14.5})
-    for name in ('MyArrow', '_Oblique'):
-        doc.blocks.new(name).add_line((-.5, -.5), (.5, .5))
+    part = doc.blocks.new('Part of it')
+    part.add_text('a | b ; END_OF_STYLE', height=0.25).set_placement((0.1, 0.2))
+    arrow = doc.blocks.new('MyArrow', base_point=(0.5, 0.25))
+    arrow.add_blockref('Part of it', (1, 2), dxfattribs={'xscale': 2.0})
+    arrow.add_line((-.5, -1/3), (.5, .5))
+    if version != 'R12':
+        arrow.add_lwpolyline([(0, 0, 0.1, 0.2, 0.5), (1, 1)], close=True)
+        arrow.add_mtext('not carried')
+    doc.blocks.new('_Oblique').add_line((-.5, -.5), (.5, .5))
     style = doc.dimstyles.new('Rich')
+    if version != 'R12':
+        doc.appids.add('AcadAnnotative')
+        style.set_xdata('AcadAnnotative', [(1000, 'AnnotativeData'), (1002, '{'), (1070, 1), (1070, 1), (1002, '}')])
     for number, (name, attribute) in enumerate(acdb_dimstyle.attribs.items()):
         code = attribute.code
         if code < 40 or code == 70 or code >= 340 and code < 371 or code == 90 and version == 'R2000':
@@ -44,7 +54,7 @@ def rich(path, version):
 
 # A drawing without the rich style; 'arrows' has the arrow blocks, 'bare' no styles at all.
 def target(path, version, kind):
-    doc = ezdxf.new(version)
+    doc = ezdxf.new('R2000' if version == 'R14' else version)
     if kind == 'arrows':
         for name in ('MyArrow', '_Oblique'):
             doc.blocks.new(name).add_line((-.5, -.5), (.5, .5))
@@ -55,6 +65,19 @@ def target(path, version, kind):
         doc.styles.new('Roman', dxfattribs={'font': 'other.shx', 'height': 1.0})
         doc.dimstyles.new('Rich', dxfattribs={'dimscale': 50.0, 'dimtih': 0, 'dimalt': 1})
     doc.saveas(path)
+    if version == 'R14':
+        text = open(path).read().replace('AC1015', 'AC1014')
+        open(path, 'w').write(text)
+
+# Base point and entities of blocks, without the values that need not be said.
+def blocks(path, *names):
+    usual = [str(value) for value in (0, 0.0, 1.0, 'Standard', ezdxf.math.Z_AXIS)]
+    doc = ezdxf.readfile(path)
+    for block in [doc.blocks.get(name) for name in names]:
+        print(block.name, block.base_point if block else '')
+        for entity in block:
+            shown = {k: v for k, v in entity.dxfattribs().items() if k not in ('handle', 'owner') and str(v) not in usual}
+            print(entity.dxftype(), sorted(shown.items()), list(entity) if entity.dxftype() == 'LWPOLYLINE' else '')
 
 def values(doc, name):
     style = doc.dimstyles.get(name)
@@ -65,6 +88,8 @@ def values(doc, name):
     for key, value in list(found.items()):
         if value in ('', None):
             del found[key]
+    if style.has_xdata('AcadAnnotative'):
+        found['annotative'] = [(tag.code, tag.value) for tag in style.get_xdata('AcadAnnotative')]
     if found.get('dimtxsty'):
         text = doc.styles.get(found['dimtxsty'])
         found.update({'text ' + k: v for k, v in text.dxfattribs().items() if k not in ('handle', 'owner')})
@@ -209,14 +234,79 @@ TEST_F(DimensionStyleTools, WhatTheDrawingHasStaysUnlessItMayBeOverwritten)
               drawing);
         if (!row.takesStyle && !row.takesText)
             continue;
-        // The arrow blocks are not in that drawing. A text style is compared as far as the dimension style names it.
-        QSet<QString> expected = {u"dimblk1"_s, u"dimblk2"_s};
-        if (!row.takesText)
-            expected.insert(u"text"_s);
+        // A text style is compared as far as the dimension style names it.
+        const QSet<QString> expected = row.takesText ? QSet<QString>() : QSet<QString>{u"text"_s};
         const QSet<QString> found = different(source, drawing);
         EXPECT_TRUE(row.takesStyle ? found == expected : found.contains(u"dimscale"_s)) << row.boxes.toStdString();
         EXPECT_TRUE(isSound(run.result(drawing)));
     }
+}
+
+// A standard arrow is made, another one is carried with what is in it. What the drawing has stays.
+TEST_F(DimensionStyleTools, ArrowBlocksComeAlong)
+{
+    const QString source = rich(u"R2018"_s);
+    exportStyles(chooseRichFully, source);
+    const auto entities = [&](const QString &drawing) {
+        QStringList lines = python({u"blocks"_s, drawing, u"MyArrow"_s, u"Part of it"_s, u"_Oblique"_s});
+        lines.removeIf([](const QString &line) { return line.startsWith(u"MTEXT"_s); });
+        return lines.replaceInStrings(u"('color', 0), "_s, QString());
+    };
+    const QString drawing = target(u"R2000"_s, u"empty"_s);
+    plays(importing(chooseRich) +
+              u"expect-printed The block MyArrow lacks 1 entity\n"
+              "expect-printed \"no place for: DIMLTYPE, DIMLTEX1, DIMLTEX2, DIMFXL, DIMJOGANG\"\n"_s,
+          drawing);
+    EXPECT_EQ(entities(run.result(drawing)), entities(source));
+    EXPECT_TRUE(isSound(run.result(drawing)));
+    const QString early = target(u"R12"_s, u"empty"_s);
+    plays(importing(chooseRich) + u"expect-printed The block MyArrow lacks 2 entities\n"_s, early);
+    EXPECT_EQ(different(source, early, u" None"_s).intersects({u"dimblk1"_s, u"dimblk2"_s, u"annotative"_s}), false);
+    EXPECT_TRUE(isSound(run.result(early)));
+    const QString present = target(u"R2018"_s, u"arrows"_s);
+    plays(importing(chooseRich), present);
+    EXPECT_EQ(python({u"blocks"_s, run.result(present), u"MyArrow"_s}).size(), 2) << "its own line alone";
+}
+
+TEST_F(DimensionStyleTools, UnitsAndFitGoOverTheVersionsBorder)
+{
+    const struct
+    {
+        QByteArray content;
+        QString version;
+        QString groups; ///< of the style afterwards
+    } rows[] = {
+        {"DIMUNIT 6\nDIMFIT 5\n", u"R2000"_s, u"((277 . 4) (276 . 2) (289 . 3) (279 . 2))"_s},
+        {"DIMUNIT 8\nDIMFIT 0\n", u"R2018"_s, u"((277 . 6) (276 . 0) (289 . 0) (279 . 0))"_s},
+        {"DIMUNIT 6\nDIMLUNIT 2\n", u"R2018"_s, u"((277 . 2) (270 . 6))"_s},
+        {"DIMLUNIT 5\nDIMFRAC 2\nDIMATFIT 1\n", u"R14"_s, u"((270 . 7) (287 . 1))"_s},
+        {"DIMTMOVE 1\n", u"R14"_s, u"((287 . 4))"_s},
+        {"DIMLUNIT 4\nDIMFRAC 1\nDIMATFIT 2\nDIMTMOVE 2\n", u"R14"_s, u"((270 . 4) (287 . 2))"_s},
+        {"DIMUNIT 4\nDIMBLK _Dot\nDIMBLK1 _none\n", u"R14"_s, u"((270 . 4) (5 . \"_Dot\") (6 . \"_none\"))"_s},
+    };
+    QDir().mkpath(run.path(u"home"_s));
+    for (const auto &row : rows) {
+        SCOPED_TRACE(row.content.toStdString());
+        const QString drawing = target(row.version, u"empty"_s);
+        run.writeFile(u"home/styles.dim"_s, "DIMENSION_STYLE_NAME A\nDIMFILE 1\n" + row.content + "END_OF_STYLE\n");
+        plays(importing(u"row lstStyles A"_s) +
+                  u"lisp (setq made (entget (tblobjname \"DIMSTYLE\" \"A\")))\n"
+                  "expect-lisp (null (vl-remove-if '(lambda (field) (member field made)) '%1))\n"_s.arg(row.groups),
+              drawing);
+        EXPECT_TRUE(isSound(run.result(drawing)));
+    }
+}
+
+// Each is made, and each is drawn within two units around its point.
+TEST_F(DimensionStyleTools, StandardArrowsAreMadeByName)
+{
+    plays(u"lisp (foreach row kora:arrows (kora_make_arrow (strcase (car row))))\n"
+          "expect-lisp (= 19 (length (vl-remove nil (mapcar '(lambda (row) (tblobjname \"BLOCK\" (car row))) "
+          "kora:arrows))))\n"
+          "expect-lisp (null (kora_make_arrow \"_Unknown\"))\n"
+          "expect-lisp (null (vl-remove-if '(lambda (row / box) (setq box (kora_block_frame (car row))) "
+          "(if box (<= -1.0 (caar box) 0.0 (caadr box) 0.5601) (= (car row) \"_None\"))) kora:arrows))\n"_s);
+    EXPECT_TRUE(isSound(run.result(plan)));
 }
 
 TEST_F(DimensionStyleTools, ImportIsOneUndoStep)
@@ -252,6 +342,9 @@ TEST_F(DimensionStyleTools, DamagedFilesAreSaidAndTheRestIsImported)
          u"(and (tblsearch \"DIMSTYLE\" \"A one\") (tblsearch \"DIMSTYLE\" \"a two\"))"_s},
         {"A\nx\nDIMLT D 15\n*D,d\nA,0.5,-1\nDIMTAD 1\nEND_OF_STYLE\n", imported,
          u"(= 1.5 (cdr (assoc 40 (tblsearch \"LTYPE\" \"D\"))))"_s},
+        {"A\nx\nDIMBLK B\nDIMBLOCK=B;0,x;many\nDIMBLOCKENTITY=0:s:LINE|x:s:y\nDIMBLOCKENTITY=\nDIMBLOCKENTITY=0:s:LINE|"
+         "10:p:0,0,0|11:p:1,1,0|6:s:None\nDIMBLOCKENTITY=0:s:VIEWPORT\nEND_OF_STYLE\n",
+         u"The block B lacks 3 entities"_s, u"(= 1 (length (kora_block_entities \"B\")))"_s},
         {"A\nx\nDIMPOST <>\\U+0045ND_OF_STYLE\nEND_OF_STYLE\n", imported,
          u"(= \"<>END_OF_STYLE\" (cdr (assoc 3 (tblsearch \"DIMSTYLE\" \"A\"))))"_s},
     };

@@ -10,8 +10,11 @@
 ;;;                                    its name stands as \U+0020
 ;;;   *DASHED,dashes
 ;;;   A,0.5,-0.25
+;;;   DIMANNO 1                        of annotative styles only
+;;;   DIMBLOCK=...                     definitions of arrow blocks, lines without blanks; see support/arrows.lsp
 ;;;   END_OF_STYLE
 ;;;
+;;; Readers that do not know the last two take DIMANNO for a variable and neither show nor use lines without blanks.
 ;;; Angles are radians. Lines end with "\r\n".
 
 ;; Group code, variable, and the value of a record that does not say it. Of two groups 70 the second is the variable.
@@ -32,8 +35,8 @@
 ;; Group code of the block's record, group code of its name in early versions, variable.
 (setq kora:dim_arrows '((342 5 "DIMBLK") (343 6 "DIMBLK1") (344 7 "DIMBLK2") (341 nil "DIMLDRBLK")))
 
-;; Group code of the linetype's record, word in the file.
-(setq kora:dim_linetypes '((345 "DIMLT") (346 "DIMEX1LT") (347 "DIMEX2LT")))
+;; Group code of the linetype's record, word in the file, variable.
+(setq kora:dim_linetypes '((345 "DIMLT" "DIMLTYPE") (346 "DIMEX1LT" "DIMLTEX1") (347 "DIMEX2LT" "DIMLTEX2")))
 
 ;; The definition of a text style: group code, word in the file, value of a record that does not say it. The last two
 ;; are the extended data of styles with a system font.
@@ -41,6 +44,19 @@
   '((70 "DIMTXT_FLAGS" 0) (40 "DIMTXT_HEIGHT" 0.0) (41 "DIMTXT_WIDTH" 1.0) (50 "DIMTXT_OBLIQUE" 0.0)
     (71 "DIMTXT_GENERATION" 0) (42 "DIMTXT_LASTHEIGHT" 0.2) (3 "DIMTXT_FONT" "txt") (4 "DIMTXT_BIGFONT" "")
     (1000 "DIMTXT_FAMILY" nil) (1071 "DIMTXT_PITCH" nil)))
+
+;; (kora_is_annotative data) -> T for a record with the mark; data is of entget with the application AcadAnnotative.
+(defun kora_is_annotative (data / numbers)
+  (foreach field (cdr (assoc "AcadAnnotative" (kora_field data -3)))
+    (if (= (car field) 1070) (setq numbers (cons (cdr field) numbers))))
+  (if numbers (= (car numbers) 1)))
+
+;; (kora_annotative is_marked) -> the extended data that marks a record as annotative, or takes the mark away.
+(defun kora_annotative (is_marked)
+  (regapp "AcadAnnotative")
+  (list -3 (cons "AcadAnnotative"
+                 (if is_marked
+                   '((1000 . "AnnotativeData") (1002 . "{") (1070 . 1) (1070 . 1) (1002 . "}"))))))
 
 ;; (kora_table_names table) -> the names of a symbol table's entries.
 (defun kora_table_names (table / entry names)
