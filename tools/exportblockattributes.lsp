@@ -5,15 +5,15 @@
 ;;; table, the block's name, and a column for each tag. "<>" stands where the block has no such attribute. The drawing
 ;;; stays as it is; IMPORTBLOCKATTRIBUTES brings changed texts back.
 
+(setq exportblockattributes:filter '((0 . "INSERT") (66 . 1)))
+
 (defun c:exportblockattributes (/ *error* kora:variables chosen path rows)
-  (setq chosen (ssget "_I" '((0 . "INSERT") (66 . 1))))
+  (setq chosen (kora_chosen exportblockattributes:filter))
   (kora_begin '(("CMDECHO" . 0)))
   (if (null chosen)
-    (progn
-      (princ "\nSelect block references with attributes: ")
-      (setq chosen (ssget '((0 . "INSERT") (66 . 1))))))
+    (setq chosen (kora_choose "Select block references with attributes: " exportblockattributes:filter)))
   (cond
-    ((null (setq rows (exportblockattributes:rows (kora_selection_to_list chosen))))
+    ((null (setq rows (exportblockattributes:rows chosen)))
      (kora_alert_message "No block reference with attributes was selected."))
     ((null (setq path (getfiled "Export block attributes" (exportblockattributes:preset) "txt" 1)))
      (kora_alert_message "Nothing was written."))

@@ -8,7 +8,7 @@
 ;;; attributes stay as they are. Cleaning takes out all block definitions that nothing refers to.
 
 (defun c:replaceblock (/ *error* kora:variables chosen state old new)
-  (setq chosen (ssget "_I" '((0 . "INSERT"))))
+  (setq chosen (kora_chosen '((0 . "INSERT"))))
   (kora_begin '(("CMDECHO" . 0)))
   (if (setq state (kora_ask_replacement 'Dlg_replaceblock (kora_statefile "replaceblock") chosen))
     (progn

@@ -4,7 +4,7 @@
 ;;; external reference under the name of the file. Attributes stay as they are, because a drawing file has none to give.
 
 (defun c:replaceblockbyreference (/ *error* kora:variables chosen state old new)
-  (setq chosen (ssget "_I" '((0 . "INSERT"))))
+  (setq chosen (kora_chosen '((0 . "INSERT"))))
   (kora_begin '(("CMDECHO" . 0)))
   (if (and (setq state (kora_ask_replacement 'Dlg_replaceblocktoxref (kora_statefile "replaceblocktoxref") chosen))
            (setq old (kora_chosen_blocks (kora_state_value state "blockstable")))

@@ -109,19 +109,26 @@ int Appearance::linetype(const QString &name)
     return *m_linetypeNumbers.insert(key, static_cast<int>(m_patterns.size()) - 1);
 }
 
-std::optional<std::vector<Curve>> Appearance::shapeNamed(const QString &name, drawing::ShapeFiles &shapes) const
+std::optional<std::vector<Curve>> Appearance::shapeNamed(const QString &name, drawing::ShapeFiles &shapes)
 {
+    if (const auto known = m_shapes.constFind(name); known != m_shapes.constEnd())
+        return *known;
+    std::optional<std::vector<Curve>> found;
     for (const QString &fileName : m_shapeFiles) {
         const drawing::ShapeFile *file = shapes.find(fileName);
-        if (const auto number = file ? file->numberOf(name) : std::nullopt)
-            return shapeCurves(file, number);
+        const auto number = file ? file->numberOf(name) : std::nullopt;
+        if (number) {
+            found = shapeCurves(file, number);
+            break;
+        }
     }
-    return std::nullopt;
+    return *m_shapes.insert(name, std::move(found));
 }
 
 void Appearance::reload(const drawing::Drawing &drawing, Fonts &fonts, drawing::ShapeFiles &shapes)
 {
     m_shapeFiles = drawing::shapeFileNames(drawing);
+    m_shapes.clear();
     std::ranges::fill(m_patterns, LinePattern{});
     for (const drawing::RecordId entry : drawing.tables().entries(drawing::TableKind::Linetype)) {
         const drawing::Linetype read = drawing::readLinetype(drawing, entry);

@@ -70,7 +70,7 @@ public:
     /// Reads layers, linetypes and settings again.
     void reload(const drawing::Drawing &drawing, Fonts &fonts, drawing::ShapeFiles &shapes);
     /// The shape of this name in the first of the drawing's shape files that has it, at size 1; nothing when none has.
-    std::optional<std::vector<Curve>> shapeNamed(const QString &name, drawing::ShapeFiles &shapes) const;
+    std::optional<std::vector<Curve>> shapeNamed(const QString &name, drawing::ShapeFiles &shapes);
 
     /// `insert` is what the insert that the shape is seen through was resolved to; null outside blocks.
     ResolvedStyle resolve(const Style &style, const ResolvedStyle *insert, Ground ground) const;
@@ -89,6 +89,7 @@ private:
     QHash<QString, int> m_linetypeNumbers;
     std::vector<LinePattern> m_patterns;
     QStringList m_shapeFiles; ///< that styles of the drawing name
+    QHash<QString, std::optional<std::vector<Curve>>> m_shapes;
     double m_linetypeScale = 1.0;
     int m_maskFrame = 1; ///< see drawing::wipeoutFrame()
     int m_pointMode = 0;

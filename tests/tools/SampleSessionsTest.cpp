@@ -48,7 +48,8 @@ TEST_F(SampleSessions, ChangeWhatTheySayAndNothingElse)
         // Three notes, of which one new paragraph is left.
         {u"convertsimplenotes"_s, u"1+MTEXT 1~$HANDSEED"_s, u"Ortakit/convertsimplenotes.state"_s, "word_wrap=FALSE"},
         {u"dimstyleexport"_s, {}, u"standard.dim"_s, "END_OF_STYLE\r\n"},
-        {u"dimstyleimport"_s, u"2+DIMSTYLE 1+LTYPE 1+STYLE 1~$HANDSEED"_s, u"standard.dim"_s, "END_OF_STYLE\r\n"},
+        {u"dimstyleimport"_s, u"1+BLOCK 1+BLOCK_RECORD 2+DIMSTYLE 1+ENDBLK 1+LINE 1+LTYPE 1+STYLE 1~$HANDSEED"_s,
+         u"standard.dim"_s, "END_OF_STYLE\r\n"},
         {u"drawordercolor"_s, u"1+DICTIONARY 1+SORTENTSTABLE 1~$HANDSEED 1~BLOCK_RECORD"_s,
          u"Ortakit/drawordercolor.state"_s, "lstcolors=2^3^7^8^5^"},
         {u"editalias"_s, u"1+LINE 1~$HANDSEED"_s, u"alias.xml"_s, "<record command=\"LINE\" alias=\"QQ\"/>"},

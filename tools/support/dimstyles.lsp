@@ -230,13 +230,21 @@
   (cond ((tblobjname "STYLE" name))
         ((snvalid name) (kora_make_textstyle name nil))))
 
-;; -> the nameless style that stands for a shape file, made where it is not the drawing's first one of that kind.
-(defun kora:shape_style_of (font / style)
-  (setq style (tblobjname "STYLE" ""))
-  (if (and style (= (strcase (kora_field (entget style) 3)) (strcase font)))
-    style
-    (entmakex (list '(0 . "STYLE") '(100 . "AcDbSymbolTableRecord") '(100 . "AcDbTextStyleTableRecord") '(2 . "")
-                    '(70 . 1) (cons 3 font)))))
+;; -> the nameless style that stands for a shape file, made where neither the drawing's first one of that kind nor one
+;; that a linetype uses does.
+(defun kora:shape_style_of (font / styles)
+  (setq styles (cons (tblobjname "STYLE" "") (apply 'append (mapcar 'kora:dash_styles (kora_table_names "LTYPE")))))
+  (cond
+    ((vl-some '(lambda (style) (if (and style (= (strcase (kora_field (entget style) 3)) (strcase font))) style)) styles))
+    (T (entmakex (list '(0 . "STYLE") '(100 . "AcDbSymbolTableRecord") '(100 . "AcDbTextStyleTableRecord") '(2 . "")
+                       '(70 . 1) (cons 3 font))))))
+
+;; The nameless styles that a linetype's dashes refer to.
+(defun kora:dash_styles (name / styles)
+  (foreach field (entget (tblobjname "LTYPE" name))
+    (if (and (= (car field) 340) (= (type (cdr field)) 'ENAME) (= (kora_field (entget (cdr field)) 2) ""))
+      (setq styles (cons (cdr field) styles))))
+  styles)
 
 ;; (kora_make_textstyle name definition) -> the new style's entity name, nil when it cannot be made. definition is a list of
 ;; (group code . value) with what it says other than the usual values.

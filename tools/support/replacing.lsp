@@ -1,15 +1,14 @@
 ;;; Replacing blocks: what REPLACEBLOCK and REPLACEBLOCKBYREFERENCE share.
 
 ;; (kora_ask_replacement dialog file chosen) runs the dialog, a function's symbol, until the user confirms or cancels;
-;; in between blocks are picked in the drawing. chosen is a selection of references whose blocks are chosen at first, or
-;; nil. -> the state, nil when cancelled.
+;; in between blocks are picked in the drawing. chosen are references whose blocks are chosen at first. -> the state, nil when cancelled.
 (defun kora_ask_replacement (dialog file chosen / blocks state done)
   (setq blocks (kora:block_descriptions))
   (if chosen (kora:choose_blocks file chosen))
   (while (and (not done) (apply dialog (cons file blocks)))
     (setq state (kora_readstate file))
     (if (= (kora_action state) "GETBLOCKS")
-      (kora:choose_blocks file (progn (princ "\nSelect block references: ") (ssget '((0 . "INSERT")))))
+      (kora:choose_blocks file (kora_choose "Select block references: " '((0 . "INSERT"))))
       (setq done T)))
   (if done state))
 
@@ -26,9 +25,9 @@
                 (kora_block_names)))
 
 ;; Enters the blocks of picked references into the state; without any the choice stays as it is.
-(defun kora:choose_blocks (file selection / known names)
+(defun kora:choose_blocks (file references / known names)
   (setq known (mapcar 'strcase (kora_block_names))
-        names (mapcar 'car (kora_counted (mapcar 'kora_known_insert_name (kora_selection_to_list selection))))
+        names (mapcar 'car (kora_counted (mapcar 'kora_known_insert_name references)))
         names (vl-remove-if-not '(lambda (name) (member name known)) names))
   (if names
     (kora_writestate file (list (cons "blockstable" (strcat (kora_string_join names "^") "^"))
