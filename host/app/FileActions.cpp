@@ -50,15 +50,46 @@ bool FileActions::save(kernel::Document &document)
     return bool(result);
 }
 
+/// The dialog asks about the name as it was typed, which may become that of another file: its own question is off.
+QString FileActions::fileToWrite(const QString &title, const QString &proposal, const QString &filter,
+                                 const Completion &complete)
+{
+    QString start = proposal;
+    while (true) {
+        QFileDialog dialog(&m_window, title, start, filter);
+        dialog.setObjectName(u"fileDialog"_s);
+        dialog.setAcceptMode(QFileDialog::AcceptSave);
+        dialog.setFileMode(QFileDialog::AnyFile);
+        dialog.setOption(QFileDialog::DontConfirmOverwrite);
+        if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
+            return {};
+        const QString path = complete(dialog.selectedFiles().constFirst());
+        if (!QFileInfo::exists(path) || mayReplace(path))
+            return path;
+        start = path;
+    }
+}
+
+bool FileActions::mayReplace(const QString &path)
+{
+    QMessageBox box(QMessageBox::Warning, u"Ortakit"_s,
+                    tr("%1 already exists. Do you want to replace it?").arg(QDir::toNativeSeparators(path)),
+                    QMessageBox::Yes | QMessageBox::No, &m_window);
+    box.setTextFormat(Qt::PlainText);
+    box.setDefaultButton(QMessageBox::No);
+    return box.exec() == QMessageBox::Yes;
+}
+
 bool FileActions::saveAs(kernel::Document &document)
 {
     const QString proposal =
         QDir(startFolder(&document)).filePath(QFileInfo(document.title()).completeBaseName() + u".dxf"_s);
-    QString path = QFileDialog::getSaveFileName(&m_window, tr("Save drawing"), proposal, tr("DXF drawings (*.dxf)"));
+    const QString path =
+        fileToWrite(tr("Save drawing"), proposal, tr("DXF drawings (*.dxf)"), [](const QString &typed) {
+            return QFileInfo(typed).suffix().isEmpty() ? typed + u".dxf"_s : typed;
+        });
     if (path.isEmpty())
         return false;
-    if (QFileInfo(path).suffix().isEmpty())
-        path += u".dxf"_s;
     const drawing::SaveResult result = document.saveAs(path);
     if (!result)
         complain(result.error);
@@ -69,12 +100,14 @@ void FileActions::exportPicture(kernel::Document &document, const QString &exten
 {
     const QString proposal =
         QDir(startFolder(&document)).filePath(QFileInfo(document.title()).completeBaseName() + u'.' + extension);
-    QString path = QFileDialog::getSaveFileName(&m_window, tr("Export picture"), proposal,
-                                                tr("%1 pictures (*.%2)").arg(extension.toUpper(), extension));
+    const QString path =
+        fileToWrite(tr("Export picture"), proposal, tr("%1 pictures (*.%2)").arg(extension.toUpper(), extension),
+                    [&extension](const QString &typed) {
+                        const bool isIt = QFileInfo(typed).suffix().toLower() == extension;
+                        return isIt ? typed : typed + u'.' + extension;
+                    });
     if (path.isEmpty())
         return;
-    if (QFileInfo(path).suffix().toLower() != extension)
-        path += u'.' + extension;
     if (const QString error = writeDrawingPicture(document, path); !error.isEmpty())
         complain(error);
     else

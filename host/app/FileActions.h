@@ -4,6 +4,8 @@
 
 #include <QCoreApplication>
 
+#include <functional>
+
 class QWidget;
 
 namespace host::app {
@@ -35,6 +37,13 @@ public:
     Answer askToSave(kernel::Document &document);
 
 private:
+    /// What the name that was typed stands for: the file that would be written.
+    using Completion = std::function<QString(const QString &typed)>;
+
+    /// A file to write to, by its complete name; empty when the user gave up. Asks before an existing one is replaced.
+    QString fileToWrite(const QString &title, const QString &proposal, const QString &filter,
+                        const Completion &complete);
+    bool mayReplace(const QString &path);
     QString startFolder(const kernel::Document *document) const;
     void complain(const QString &text);
 

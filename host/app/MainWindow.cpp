@@ -207,16 +207,32 @@ void MainWindow::showActive(kernel::Document *document)
     updateState();
 }
 
-bool MainWindow::closeTab(int index)
+bool MainWindow::mayClose(int index)
 {
     auto *tab = qobject_cast<DrawingCanvas *>(m_tabs->widget(index));
     if (!tab || isBusy())
         return false;
-    m_tabs->setCurrentIndex(index);
-    kernel::Document &closing = tab->document();
-    if (m_files.askToSave(closing) == FileActions::Answer::Stay)
-        return false;
-    return m_workbench->documents().close(&closing);
+    if (tab->document().isModified())
+        m_tabs->setCurrentIndex(index);
+    return m_files.askToSave(tab->document()) == FileActions::Answer::GoOn;
+}
+
+void MainWindow::closeTab(int index)
+{
+    if (mayClose(index))
+        m_workbench->documents().close(&static_cast<DrawingCanvas *>(m_tabs->widget(index))->document());
+}
+
+/// All are asked about before the first is closed: who cancels keeps everything open.
+bool MainWindow::closeAllTabs()
+{
+    for (int i = 0; i < m_tabs->count(); ++i)
+        if (!mayClose(i))
+            return false;
+    while (m_tabs->count() > 0)
+        if (!m_workbench->documents().close(&static_cast<DrawingCanvas *>(m_tabs->widget(0))->document()))
+            return false;
+    return true;
 }
 
 // Running
@@ -419,11 +435,10 @@ void MainWindow::closeEvent(QCloseEvent *event)
         return;
     }
     m_isCloseWanted = false;
-    while (m_tabs->count() > 0)
-        if (!closeTab(m_tabs->count() - 1)) {
-            event->ignore();
-            return;
-        }
+    if (!closeAllTabs()) {
+        event->ignore();
+        return;
+    }
     savePreferences();
     event->accept();
 }

@@ -78,8 +78,10 @@ private:
     void removeTab(kernel::Document *document);
     void activateTab(int index);
     void showActive(kernel::Document *document);
-    /// Whether the tab's drawing was closed.
-    bool closeTab(int index);
+    /// Whether the user lets the tab's drawing go; it may have been saved for that.
+    bool mayClose(int index);
+    void closeTab(int index);
+    bool closeAllTabs();
     int tabOf(const kernel::Document *document) const;
 
     bool isBusy() const;

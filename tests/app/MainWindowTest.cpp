@@ -278,6 +278,56 @@ TEST_F(MainWindowTest, ChangesAreMarkedAndAskedFor)
     EXPECT_EQ(file.readAll().count("\nLINE\n"), 1);
 }
 
+TEST_F(MainWindowTest, WhatIsReplacedIsAskedAboutByItsCompleteName)
+{
+    const std::tuple<QString, QString, QString> rows[] = {
+        {u"Save &as..."_s, u"other"_s, u"other.dxf"_s},        {u"Save &as..."_s, u"other.dxf"_s, u"other.dxf"_s},
+        {u"&PNG picture..."_s, u"plan"_s, u"plan.png"_s},      {u"&SVG drawing..."_s, u"plan.v2"_s, u"plan.v2.svg"_s},
+        {u"P&DF page..."_s, u"plan.dxf"_s, u"plan.dxf.pdf"_s},
+    };
+    for (const auto &[menuEntry, typed, file] : rows) {
+        SCOPED_TRACE(menuEntry.toStdString() + ' ' + typed.toStdString());
+        write(file, "old");
+        const auto isOld = [&] {
+            QFile written(path(file));
+            return written.open(QIODevice::ReadOnly) && written.readAll() == "old";
+        };
+        ortakit::test::ModalAnswers user;
+        user.choose(path(typed));
+        user.press(QMessageBox::No);
+        user.choose({});
+        action(menuEntry)->trigger();
+        EXPECT_TRUE(user.isDone() && isOld());
+        user.choose(path(typed));
+        user.press(QMessageBox::Yes);
+        action(menuEntry)->trigger();
+        EXPECT_TRUE(user.isDone() && !isOld());
+        ASSERT_EQ(user.shown().size(), 5);
+        EXPECT_TRUE(user.shown()[1].contains(file + u" already exists."_s)) << user.shown()[1].toStdString();
+    }
+}
+
+TEST_F(MainWindowTest, ACancelledQuitClosesNothing)
+{
+    window->workbench().documents().create();
+    window->workbench().documents().create();
+    for (const int tab : {0, 2}) {
+        window->tabs().setCurrentIndex(tab);
+        window->enter(u"(command \"POINT\" '(1 1))"_s);
+    }
+    ortakit::test::ModalAnswers user;
+    user.press(QMessageBox::No);
+    user.press(QMessageBox::Cancel);
+    EXPECT_FALSE(window->close());
+    EXPECT_TRUE(user.isDone());
+    EXPECT_EQ(window->tabs().count(), 3);
+    EXPECT_EQ(window->tabs().currentIndex(), 2) << "what was asked about is in sight";
+    user.press(QMessageBox::No);
+    user.press(QMessageBox::No);
+    EXPECT_TRUE(window->close());
+    EXPECT_EQ(window->tabs().count(), 0);
+}
+
 TEST_F(MainWindowTest, DroppedFilesOpen)
 {
     QMimeData data;
