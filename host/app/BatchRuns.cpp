@@ -239,7 +239,9 @@ int runLispFiles(const ProgramOptions &options)
     QObject::connect(document, &kernel::Document::printed, document, writeResult);
     int status = ExitDone;
     for (const QString &file : options.lispFiles) {
-        const kernel::RunResult result = loadLisp(*document, file);
+        kernel::RunResult result = loadLisp(*document, file);
+        if (result.ok)
+            result = workbench.session().runQueue();
         if (result.ok && nobody.problem().isEmpty())
             continue;
         writeMessage(native(file) + u": "_s + (nobody.problem().isEmpty() ? result.error : nobody.problem()));

@@ -1,5 +1,6 @@
 #include "host/app/DialogDriver.h"
 
+#include <QAbstractEventDispatcher>
 #include <QApplication>
 #include <QDialog>
 #include <QEvent>
@@ -12,6 +13,8 @@ namespace {
 
 /// A dialog that asks back before it closes is asked so often, then hidden.
 constexpr int patience = 3;
+/// A program may have a timer that never rests.
+constexpr int mostRounds = 20;
 
 bool isAttended(const QWidget &window)
 {
@@ -61,9 +64,24 @@ void DialogDriver::wake()
     QTimer::singleShot(0, this, &DialogDriver::attend);
 }
 
+/// What was left for later, a message that a key brings above all, comes before anything else is done; and who had a
+/// message in front has the keyboard again, as on a desktop. Such a message runs in here.
+void DialogDriver::settle()
+{
+    QWidget *window = frontWindow();
+    if (!window || m_hasGivenUp || m_busy.contains(QPointer<QWidget>(window)))
+        return;
+    if (!qobject_cast<QMenu *>(window) && !window->isActiveWindow())
+        window->activateWindow();
+    QAbstractEventDispatcher *events = QAbstractEventDispatcher::instance();
+    for (int round = 0; round < mostRounds && events->processEvents(QEventLoop::AllEvents); ++round) {
+    }
+}
+
 void DialogDriver::attend()
 {
     m_isAwake = false;
+    settle();
     const QPointer<QWidget> window = frontWindow();
     if (!window)
         return;
@@ -79,6 +97,8 @@ void DialogDriver::attend()
         m_known.append(window);
     m_busy.append(window);
     const Reaction reaction = handleWindow(*window, acquaintance);
+    if (reaction == Reaction::Looked && acquaintance == Acquaintance::New)
+        m_known.removeAll(window);
     m_busy.removeAll(window);
     m_busy.removeAll(QPointer<QWidget>());
     m_known.removeAll(QPointer<QWidget>());

@@ -18,7 +18,7 @@ public:
     ~DialogDriver() override;
 
 protected:
-    /// Whether a window was seen before since it was shown.
+    /// Whether something was done with a window since it was shown.
     enum class Acquaintance
     {
         New,
@@ -26,8 +26,9 @@ protected:
     };
     enum class Reaction
     {
-        Done,  ///< something was done; ask again when the window is still open
-        GiveUp ///< reject this window and all that are open or will be
+        Done,   ///< something was done; ask again when the window is still open
+        Looked, ///< the same, but the window stays as well known as it was
+        GiveUp  ///< reject this window and all that are open or will be
     };
     /// A modal dialog or menu is open, in front, and idle. May return late: closing it, or opening another one, happens
     /// inside.
@@ -43,6 +44,7 @@ protected:
 private:
     void wake();
     void attend();
+    void settle();
     void reject(QWidget &window);
 
     QList<QPointer<QWidget>> m_known;

@@ -5,14 +5,16 @@
 #include "host/app/WidgetValues.h"
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QAction>
-#include <QCoreApplication>
+#include <QApplication>
 #include <QDir>
 #include <QFileDialog>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMessageBox>
+#include <QPointer>
 
 using namespace Qt::StringLiterals;
 
@@ -48,6 +50,15 @@ QString answerMessage(QMessageBox &message, const QString &text, const QString &
     return pressed ? click(*pressed) : tr("%1 has no button \"%2\"").arg(describeDialog(message), button);
 }
 
+/// The dialog may have put its extension behind the name.
+QString checkChosen(const QFileDialog &dialog, const QString &wanted)
+{
+    const QString chosen = QDir::cleanPath(dialog.selectedFiles().value(0));
+    if (chosen == wanted || (!dialog.defaultSuffix().isEmpty() && chosen == wanted + u'.' + dialog.defaultSuffix()))
+        return {};
+    return tr("%1 took \"%2\"").arg(describeDialog(dialog), chosen);
+}
+
 QString answerFile(QFileDialog &dialog, const QString &path)
 {
     if (path == "cancel"_L1) {
@@ -57,10 +68,17 @@ QString answerFile(QFileDialog &dialog, const QString &path)
     auto *edit = dialog.findChild<QLineEdit *>(u"fileNameEdit"_s);
     if (!edit)
         return tr("%1 takes no file name").arg(describeDialog(dialog));
+    // What the dialog had chosen goes before what is written, unless the field has the keyboard.
+    for (QAbstractItemView *list : dialog.findChildren<QAbstractItemView *>())
+        if (list->model() && list->model()->inherits("QFileSystemModel"))
+            list->clearSelection();
+    edit->setFocus();
     edit->setText(QDir::fromNativeSeparators(path));
+    const QString wanted = QDir::cleanPath(dialog.directory().absoluteFilePath(edit->text()));
+    const QPointer<QFileDialog> alive = &dialog;
     // The button of the dialog does the same, but may be disabled until the folder was listed.
     static_cast<QDialog &>(dialog).accept();
-    return {};
+    return alive && alive->result() == QDialog::Accepted ? checkChosen(*alive, wanted) : QString();
 }
 
 QString pickMenu(QMenu &menu, const QString &text)
@@ -80,6 +98,15 @@ QString pickMenu(QMenu &menu, const QString &text)
         return {};
     }
     return tr("the menu has no entry \"%1\"; it has %2").arg(text, entries.join("; "_L1));
+}
+
+/// A widget has the keyboard as well when a part of it has.
+QString expectFocus(const QWidget &widget)
+{
+    const QWidget *focused = QApplication::focusWidget();
+    if (focused == &widget || widget.isAncestorOf(focused))
+        return {};
+    return focused ? tr("%1 has the keyboard").arg(nameOf(*focused)) : tr("nothing has the keyboard");
 }
 
 QString expectItems(const QWidget &widget, const QString &expected)
@@ -154,6 +181,8 @@ QString workIn(QWidget &dialog, const Step &step)
     case Verb::ExpectEnabled:
         return expectState(widget.isEnabled(), step.word(1),
                            widget.isEnabled() ? tr("it is enabled") : tr("it is disabled"));
+    case Verb::ExpectFocus:
+        return expectFocus(widget);
     case Verb::ExpectVisible:
         return expectState(widget.isVisible(), step.word(1),
                            widget.isVisible() ? tr("it is visible") : tr("it is not visible"));

@@ -267,25 +267,22 @@ void MainWindow::answer(const kernel::InputAnswer &answer)
 
 void MainWindow::runQueue()
 {
-    kernel::InputQueue &queue = m_workbench->session().input();
     m_isRunning = true;
     m_feeder->forgetCancel();
     updateState();
-    // A run always prints something first; a queue with but the beginning of an expression gives no run.
-    bool hasRun = true;
-    while (document() && !queue.isEmpty() && hasRun) {
-        hasRun = false;
-        const auto heard = connect(document(), &kernel::Document::printed, this, [&hasRun] { hasRun = true; });
-        document()->runQueued();
-        disconnect(heard);
-    }
+    m_workbench->session().runQueue();
     m_isRunning = false;
-    const bool isUnfinished = !queue.isEmpty();
+    const bool isUnfinished = !m_workbench->session().input().isEmpty();
     m_commandLine->setUnfinished(isUnfinished);
     m_commandLine->setPrompt(isUnfinished ? tr("(_>") : tr("Command:"));
     if (document() && !document()->impliedSelection().empty())
         document()->setImpliedSelection({});
     updateState();
+    closeIfWanted();
+}
+
+void MainWindow::closeIfWanted()
+{
     if (m_isCloseWanted)
         QTimer::singleShot(0, this, &QWidget::close);
 }
@@ -302,6 +299,7 @@ PlaybackResult MainWindow::play(const PlaybackScript &script, PlaybackOptions op
     if (!result.ok)
         m_commandLine->print(u'\n' + result.message + u'\n');
     updateState();
+    closeIfWanted();
     return result;
 }
 

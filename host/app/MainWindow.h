@@ -86,6 +86,8 @@ private:
 
     bool isBusy() const;
     void runQueue();
+    /// The window was to be closed while something ran.
+    void closeIfWanted();
     void answer(const kernel::InputAnswer &answer);
     void cancel();
     void runFromMenu(const QString &command);

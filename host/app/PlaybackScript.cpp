@@ -61,6 +61,7 @@ constexpr VerbRow verbRows[] = {
     {"expect-items", Verb::ExpectItems, VerbKind::Widget, "wt"},
     {"expect-enabled", Verb::ExpectEnabled, VerbKind::Widget, "wb"},
     {"expect-visible", Verb::ExpectVisible, VerbKind::Widget, "wb"},
+    {"expect-focus", Verb::ExpectFocus, VerbKind::Widget, "w"},
     {"expect-title", Verb::ExpectTitle, VerbKind::Widget, "t"},
     {"expect-printed", Verb::ExpectPrinted, VerbKind::Anywhere, "t"},
     {"expect-modified", Verb::ExpectModified, VerbKind::Anywhere, "b"},

@@ -50,6 +50,7 @@ enum class Verb
     ExpectItems,
     ExpectEnabled,
     ExpectVisible,
+    ExpectFocus,
     ExpectTitle,
     // Anywhere
     ExpectPrinted,

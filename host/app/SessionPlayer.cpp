@@ -129,6 +129,7 @@ void SessionPlayer::fail(const QString &message)
     m_result.message = message;
     if (m_position > 0)
         m_result.line = m_steps[m_position - 1].line;
+    m_document.session().input().clear();
     giveUp();
 }
 
@@ -198,8 +199,19 @@ void SessionPlayer::runProgram(const Step &step)
 {
     m_printedBefore = m_result.printed.size();
     m_wasCancelled = false;
-    finishRun(step, step.verb == Verb::Lisp ? m_document.run(step.word(0), u"session"_s)
-                                            : m_document.runCommand(step.word(0)));
+    finishRun(step, withScript(step.verb == Verb::Lisp ? m_document.run(step.word(0), u"session"_s)
+                                                       : m_document.runCommand(step.word(0))));
+}
+
+/// What a script typed belongs to the run that read it.
+kernel::RunResult SessionPlayer::withScript(const kernel::RunResult &result)
+{
+    kernel::Session &session = m_document.session();
+    if (!result.ok || session.input().isEmpty())
+        return result;
+    const kernel::RunResult last = session.runQueue();
+    session.input().clear();
+    return last.ok ? result : last;
 }
 
 void SessionPlayer::finishRun(const Step &step, const kernel::RunResult &result)
@@ -242,7 +254,7 @@ QString SessionPlayer::save(const Step &step)
 QString SessionPlayer::expectLisp(const Step &step)
 {
     m_wasCancelled = false;
-    const kernel::RunResult result = m_document.run(step.word(0), u"session"_s);
+    const kernel::RunResult result = withScript(m_document.run(step.word(0), u"session"_s));
     if (!result.ok)
         return tr("the run ended with \"%1\"").arg(result.error);
     return result.value == "nil"_L1 ? tr("it is nil") : QString();
@@ -348,7 +360,9 @@ DialogDriver::Reaction SessionPlayer::handleWindow(QWidget &window, Acquaintance
         error = tr("%1 is still open").arg(describeDialog(window));
     if (!error.isEmpty())
         failAt(step, error);
-    return hasFailed() ? Reaction::GiveUp : Reaction::Done;
+    if (hasFailed())
+        return Reaction::GiveUp;
+    return step.kind == VerbKind::Anywhere ? Reaction::Looked : Reaction::Done;
 }
 
 QString SessionPlayer::check(const Step &step, QWidget *window)

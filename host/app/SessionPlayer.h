@@ -76,6 +76,7 @@ private:
 
     void runStart(const Step &step);
     void runProgram(const Step &step);
+    kernel::RunResult withScript(const kernel::RunResult &result);
     void finishRun(const Step &step, const kernel::RunResult &result);
     QString undoOrRedo(Verb verb);
     QString save(const Step &step);

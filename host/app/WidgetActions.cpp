@@ -29,14 +29,6 @@ QString tr(const char *text)
     return QCoreApplication::translate("Playback", text);
 }
 
-QString nameOf(const QWidget &widget)
-{
-    const QString name = widget.objectName();
-    if (name.startsWith("qt_"_L1) && widget.parentWidget())
-        return nameOf(*widget.parentWidget()); // a part of a widget that has the name
-    return name.isEmpty() ? QString(QLatin1StringView(widget.metaObject()->className())) : name;
-}
-
 /// Why a person could not use the widget now; empty when one could.
 QString whyUnusable(const QWidget &widget)
 {

@@ -141,6 +141,14 @@ QString plainCaption(QString text)
     return text.simplified();
 }
 
+QString nameOf(const QWidget &widget)
+{
+    const QString name = widget.objectName();
+    if (name.startsWith("qt_"_L1) && widget.parentWidget())
+        return nameOf(*widget.parentWidget()); // a part of a widget that has the name
+    return name.isEmpty() ? QString(QLatin1StringView(widget.metaObject()->className())) : name;
+}
+
 QString describeDialog(const QWidget &dialog)
 {
     const QString className = QLatin1StringView(dialog.metaObject()->className());

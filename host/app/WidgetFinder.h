@@ -30,6 +30,9 @@ bool isDialogNamed(const QWidget &dialog, const QString &name);
 /// Text of a button or action without its mnemonic and ellipsis.
 QString plainCaption(QString text);
 
+/// A widget as messages name it: its object name, that of the widget it is a part of, or its class.
+QString nameOf(const QWidget &widget);
+
 /// A dialog as messages name it: class, object name, title, and the text of a message box.
 QString describeDialog(const QWidget &dialog);
 

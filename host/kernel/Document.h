@@ -49,6 +49,7 @@ struct RunResult
     QString error;                 ///< message, function and place in one line; empty when ok
     QString report;                ///< the same with the calls under way, a line each
     bool handledByProgram = false; ///< the program's own *error* took the message
+    bool hasRun = true;            ///< false: there was nothing to run
 };
 
 /// What a window shows of the drawing: plan view of the current space.
@@ -101,7 +102,7 @@ public:
     /// Prints when the file cannot be read. Commands come first: this is for what is the name of none.
     QString commandOfAlias(const QString &typed);
     /// Takes the next command, expression or variable from the queue and runs it; an empty line repeats the last
-    /// command. Nothing happens when the queue is empty or holds but the beginning of an expression.
+    /// command. Nothing has run when the queue is empty or holds but the beginning of an expression.
     RunResult runQueued();
     /// Runs `body` as a run of its own, for changes that the window makes.
     void runAs(const QString &name, const std::function<void()> &body);

@@ -65,6 +65,13 @@ RunResult failure(const QString &message)
     return result;
 }
 
+RunResult nothingRun()
+{
+    RunResult result;
+    result.hasRun = false;
+    return result;
+}
+
 } // namespace
 
 RunResult Document::run(const QString &text, const QString &sourceName)
@@ -140,9 +147,11 @@ RunResult Document::runQueued()
     PromptRequest request;
     request.kind = PromptKind::Command;
     if (m_session.input().isEmpty())
-        return {};
+        return nothingRun();
     const std::optional<InputAnswer> answer = m_session.input().take(request);
-    const TextAnswer *typed = answer ? std::get_if<TextAnswer>(&*answer) : nullptr;
+    if (!answer)
+        return nothingRun();
+    const TextAnswer *typed = std::get_if<TextAnswer>(&*answer);
     if (!typed)
         return {};
     print(QStringLiteral("\nCommand: ") + typed->text + u'\n');

@@ -46,4 +46,17 @@ Session::~Session()
     installServices(m_servicesBefore);
 }
 
+RunResult Session::runQueue()
+{
+    RunResult result;
+    while (!m_input.isEmpty() && m_documents->active()) {
+        const RunResult next = m_documents->active()->runQueued();
+        if (!next.hasRun)
+            break;
+        if (result.ok)
+            result = next;
+    }
+    return result;
+}
+
 } // namespace host::kernel

@@ -51,6 +51,11 @@ public:
     CommandAliases &aliases() { return m_aliases; }
     SettingsStore &settings() { return m_settings; }
 
+    /// Runs what waits in the queue in the active document, one command or expression after the other, until nothing is
+    /// left or only the beginning of an expression: what was typed, and what a script typed before its command ended.
+    /// What came of the first that failed, else of the last.
+    RunResult runQueue();
+
     /// Who answers when the queue is empty; null (as in the beginning) for nobody. Not owned.
     void setFeeder(InputFeeder *feeder) { m_feeder = feeder; }
     InputFeeder *feeder() const { return m_feeder; }

@@ -36,6 +36,10 @@ struct ProgramTest : testing::Test
         write(u"good.lsp"_s, "(princ (strcat \"sum \" (itoa (+ 1 2)) \" größe\\n\"))(princ)\n");
         write(u"error.lsp"_s, "(princ \"before\")\n(car 5)\n");
         write(u"asks.lsp"_s, "(princ (getint \"How many: \"))\n(princ \"went on\")\n");
+        write(u"draw.scr"_s,
+              "; one shape\ncircle 1,1 2\n(princ (strcat \"drawn \" (itoa (sslength (ssget \"_X\")))))\n");
+        write(u"script.lsp"_s, "(command \"SCRIPT\" \"draw.scr\")(princ)\n");
+        write(u"stops.lsp"_s, "(command \"SCRIPT\" \"error.lsp\")(princ)\n");
         EXPECT_TRUE(QDir(folder.path()).mkpath(u"tools"_s));
     }
 
@@ -83,6 +87,7 @@ TEST_F(ProgramTest, EndsWithTheStatusItsManualNames)
         {u"run --help"_s, 0, u"Usage: ortakit run"_s, {}},
         {u"lisp good.lsp"_s, 0, u"sum 3 größe\n"_s, {}},
         {u"lisp good.lsp --drawing a.dxf"_s, 0, u"sum 3"_s, {}},
+        {u"lisp script.lsp --drawing a.dxf"_s, 0, u"drawn 4"_s, {}},
         {u"convert a.dxf copy.dxf"_s, 0, {}, {}},
         {u"convert a.dxf picture.png"_s, 0, {}, {}},
         {u"convert a.dxf picture.svg"_s, 0, {}, {}},
@@ -90,6 +95,7 @@ TEST_F(ProgramTest, EndsWithTheStatusItsManualNames)
         {u"run erase.txt a.dxf b.dxf --out out --png"_s, 0, u"a.dxf: done, out/a.dxf, out/a.png\n"_s, {}},
         {u"run looks.txt a.dxf --out unchanged"_s, 0, u"a.dxf: done\n"_s, {}},
 
+        {u"lisp stops.lsp"_s, 1, u"before"_s, u"stops.lsp: bad argument type"_s},
         {u"lisp error.lsp"_s, 1, u"before"_s, u"error.lsp"_s},
         {u"lisp asks.lsp"_s, 1, {}, u"asks.lsp"_s},
         {u"run fails.txt a.dxf"_s, 1, u"a.dxf: failed\n"_s, u"line 1 (expect-count LINE 7): there are 2"_s},

@@ -34,7 +34,8 @@ SampleBox::SampleBox(QWidget *parent) : QDialog(parent)
     addButton(u"browse"_s, &SampleBox::browse);
     addButton(u"again"_s, &SampleBox::askTwice);
     addButton(u"more"_s, &SampleBox::showMenu);
-    addButton(u"late"_s, [this] { QTimer::singleShot(0, this, &SampleBox::askTwice); });
+    addButton(u"late"_s, [this] { askLater(1); });
+    addButton(u"later"_s, [this] { askLater(4); });
 }
 
 QString SampleBox::name() const
@@ -60,7 +61,13 @@ void SampleBox::acceptChecked()
 
 void SampleBox::browse()
 {
-    findChild<QLineEdit *>(u"name"_s)->setText(QFileDialog::getSaveFileName(this, u"Save"_s));
+    auto *edit = findChild<QLineEdit *>(u"name"_s);
+    edit->setText(QFileDialog::getSaveFileName(this, u"Save"_s, edit->text()));
+}
+
+void SampleBox::askLater(int turns)
+{
+    QTimer::singleShot(0, this, [this, turns] { turns > 1 ? askLater(turns - 1) : askTwice(); });
 }
 
 void SampleBox::askTwice()

@@ -10,6 +10,7 @@ namespace host::app::test {
 ///     again    a message box in front of a message box
 ///     more     a pop-up menu that sets the name
 ///     late     opens a message box only after the click is over
+///     later    the same, after some more turns of the event loop
 class SampleBox : public QDialog
 {
     Q_OBJECT
@@ -29,6 +30,7 @@ private:
     void acceptChecked();
     void browse();
     void askTwice();
+    void askLater(int turns);
     void showMenu();
 
     static inline int s_count = 0;

@@ -67,6 +67,15 @@ TEST_F(SessionPlayerTest, PlaysWhatHappens)
          "set name old\nclick accept\nmessage Replace No\nclick accept\nmessage Replace Yes\nexpect-lisp r"_s},
         {"message in front of a message",
          u"lisp (samplebox)\ndialog SampleBox\nclick again\nmessage Really Yes\nmessage sure ok\nclose"_s},
+        {"message long behind the click",
+         u"lisp (samplebox)\ndialog SampleBox\nclick later\nmessage Really No\nclose"_s},
+        {"looking at a message before it is answered",
+         u"lisp (samplebox)\ndialog SampleBox\nclick again\nscreenshot m.png\nexpect-modified no\n"
+         "message Really No\nclose"_s},
+        {"looking at a dialog and a menu before",
+         u"lisp (samplebox)\nscreenshot b.png\ndialog SampleBox\nclick more\nscreenshot n.png\nmenu Second\nclose"_s},
+        {"focus after a message", u"lisp (samplebox)\ndialog SampleBox\nfocus name\nfocus _dist_size\nclick accept\n"
+                                  "message empty Ok\nexpect-focus _dist_size\nclose"_s},
         {"message closed", u"lisp (samplebox)\ndialog SampleBox\nclick again\nmessage Really close\nclose"_s},
         {"message behind the click", u"lisp (samplebox)\ndialog SampleBox\nclick late\nmessage Really No\nclose"_s},
         {"file", u"lisp (samplebox)\ndialog SampleBox\nclick browse\nfile ${OUT}/made.txt\nclick accept\n"
@@ -74,16 +83,24 @@ TEST_F(SessionPlayerTest, PlaysWhatHappens)
         {"file that exists asks back",
          u"lisp (samplebox)\ndialog SampleBox\nclick browse\nfile ${DRAWING}\nmessage \"already exists\" Yes\n"
          "expect name ${DRAWING}\nclose"_s},
+        {"file in place of the one that was shown",
+         u"lisp (samplebox)\ndialog SampleBox\nset name ${DRAWING}\nclick browse\nfile ${OUT}/made.txt\n"
+         "expect name ${OUT}/made.txt\nclick browse\nfile made.txt\nexpect name ${OUT}/made.txt\nclose"_s},
         {"file cancelled", u"lisp (samplebox)\ndialog SampleBox\nclick browse\nfile cancel\nclose"_s},
         {"menu", u"lisp (samplebox)\ndialog SampleBox\nclick more\nmenu Second\nexpect name Second...\nclose"_s},
         {"dialog that comes back",
          u"lisp (progn (samplebox) (getint \"Between: \") (samplebox))\ndialog SampleBox\nclose\nanswer 1\n"
          "dialog SampleBox\nclose"_s},
         {"alert", u"lisp (alert \"Nothing found\")\nmessage Nothing Ok"_s},
+        {"script", u"command SCRIPT\nanswer ${OUT}/two.scr\nanswer 2\nexpect-count CIRCLE 2\nexpect-count LINE 3\n"
+                   "expect-printed \"Command: line\"\nundo\nundo\nexpect-modified no"_s},
+        {"script of a program", u"lisp (command \"SCRIPT\" \"two.scr\")\nanswer 2\nexpect-count CIRCLE 2\nundo\nundo\n"
+                                "expect-lisp (not (command \"SCRIPT\" \"none.scr\"))\nexpect-modified no"_s},
         {"change, undo, redo",
          u"lisp (entdel (handent \"2A\"))\nexpect-count LINE 1\nexpect-modified yes\nundo\nexpect-count line 2\n"
          "redo\nexpect-count * 2\nundo"_s},
     };
+    write(u"two.scr"_s, "line 0,0 5,5 \ncircle 1,1\n");
     for (const auto &[name, steps] : rows) {
         const PlaybackResult result = play(steps);
         EXPECT_TRUE(result.ok) << name << ": " << result.message.toStdString() << '\n' << result.printed.toStdString();
@@ -122,6 +139,14 @@ TEST_F(SessionPlayerTest, FailsOnWhatItDoesNotExpect)
         {"nested messages left open", u"lisp (samplebox)\ndialog SampleBox\nclick again\nmessage Really Yes"_s, 4,
          u"the session ends while dialog QMessageBox \"Inner\" saying \"Are you sure?\" is open"_s},
         {"dialog that will not close", u"lisp (stubbornbox)\ndialog SampleBox"_s, 2, u"the session ends while"_s},
+        {"file that the dialog does not take",
+         u"lisp (samplebox)\ndialog SampleBox\nclick browse\nfile ${OUT}/a\"b.txt"_s, 4, u" took \""_s},
+        {"script with an error", u"command SCRIPT\nanswer ${OUT}/error.scr\nexpect-count LINE 2"_s, 1,
+         u"the run ended with \"bad argument type"_s},
+        {"script that nobody answers", u"command SCRIPT\nanswer ${OUT}/asks.scr"_s, 2,
+         u"the session ends while the prompt \"Specify center point"_s},
+        {"other focus", u"lisp (samplebox)\ndialog SampleBox\nfocus name\nexpect-focus _dist_size"_s, 4,
+         u"name has the keyboard"_s},
         {"menu entry that is off", u"lisp (samplebox)\ndialog SampleBox\nclick more\nmenu Off"_s, 4,
          u"the menu's entry \"Off\" is disabled"_s},
         {"menu nobody answers", u"lisp (samplebox)\ndialog SampleBox\nclick more"_s, 3, u"the session ends while"_s},
@@ -142,6 +167,8 @@ TEST_F(SessionPlayerTest, FailsOnWhatItDoesNotExpect)
         {"no such entity", u"lisp (entsel)\npickhandle FFF"_s, 2, u"no entity with the handle FFF"_s},
         {"nothing to undo", u"undo"_s, 1, u"there is nothing to undo"_s},
     };
+    write(u"error.scr"_s, "(car 5)\n");
+    write(u"asks.scr"_s, "circle\n");
     for (const auto &[name, steps, line, message] : rows) {
         const PlaybackResult result = play(steps);
         EXPECT_FALSE(result.ok) << name;
