@@ -10,6 +10,8 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QSet>
 #include <QWidget>
 
@@ -179,7 +181,7 @@ int SessionBatch::writeOutcome(kernel::Document &document, const QString &path, 
         files.append(native(target));
     }
     if (error.isEmpty() && m_options.withPictures) {
-        error = writeDrawingPicture(document, picturePath(path));
+        error = writeDrawingPicture(document, picturePath(path)).error;
         files.append(native(picturePath(path)));
     }
     if (!error.isEmpty()) {
@@ -209,6 +211,29 @@ bool isReadable(const QString &file)
         return true;
     writeMessage(u"%1: the file cannot be read"_s.arg(native(file)));
     return false;
+}
+
+QJsonObject counts(const QMap<QString, qint64> &byType)
+{
+    QJsonObject object;
+    for (auto it = byType.begin(); it != byType.end(); ++it)
+        object.insert(it.key(), it.value());
+    return object;
+}
+
+/// One line of JSON; `report` is null where nothing was drawn.
+QByteArray conversionReport(const ProgramOptions &options, const view::RenderReport *report)
+{
+    QJsonObject object{{u"input"_s, options.input}, {u"output"_s, options.output}};
+    if (report) {
+        object.insert(u"complete"_s, report->isWhole());
+        object.insert(u"drawn"_s, report->drawn);
+        object.insert(u"invisible"_s, report->hidden);
+        object.insert(u"inPart"_s, counts(report->simplified));
+        object.insert(u"notDrawn"_s, counts(report->skipped));
+        object.insert(u"cutShort"_s, report->isCutShort);
+    }
+    return QJsonDocument(object).toJson(QJsonDocument::Compact) + '\n';
 }
 
 } // namespace
@@ -267,13 +292,21 @@ int convertDrawing(const ProgramOptions &options)
         writeMessage(native(options.input) + u": "_s + read.error.message());
         return ExitFileError;
     }
-    const QString error =
-        isPicture ? writeDrawingPicture(*read.drawing, options.output, kernel::expressionSurroundings(*read.drawing))
-                  : drawing::saveCopy(*read.drawing, options.output).error;
-    if (error.isEmpty())
+    view::ExportResult written;
+    if (isPicture)
+        written = writeDrawingPicture(*read.drawing, options.output, kernel::expressionSurroundings(*read.drawing));
+    else
+        written.error = drawing::saveCopy(*read.drawing, options.output).error;
+    if (!written) {
+        writeMessage(written.error);
+        return ExitFileError;
+    }
+    if (options.withJson)
+        writeResult(QString::fromUtf8(conversionReport(options, isPicture ? &written.report : nullptr)));
+    if (written.report.isWhole())
         return ExitDone;
-    writeMessage(error);
-    return ExitFileError;
+    writeMessage(u"%1: %2"_s.arg(native(options.input), written.report.missing()));
+    return options.isStrict ? ExitPartly : ExitDone;
 }
 
 } // namespace host::app

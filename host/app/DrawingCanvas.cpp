@@ -143,7 +143,9 @@ bool DrawingCanvas::abandonBox()
 
 view::RenderReport DrawingCanvas::report()
 {
-    return m_scene.report(space());
+    view::RenderReport report = m_scene.report(space());
+    report.isCutShort = m_isCutShort;
+    return report;
 }
 
 void DrawingCanvas::repaintScene()

@@ -100,6 +100,7 @@ private:
     view::Ground m_ground = view::Ground::Black;
     QPixmap m_picture; ///< the scene as last painted; null when it is out of date
     quint64 m_paintedRevision = 0;
+    bool m_isCutShort = false; ///< part of the scene is missing in the picture
     std::optional<kernel::PromptRequest> m_request;
     std::optional<DragPreview> m_dragged; ///< while the prompt has entities hang at the pointer
     std::optional<QPointF> m_pointer;     ///< where the pointer is, while it is on the canvas

@@ -2,7 +2,6 @@
 
 #include "host/kernel/Document.h"
 #include "host/kernel/ExpressionSurroundings.h"
-#include "host/view/Export.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -15,24 +14,26 @@ using namespace Qt::StringLiterals;
 
 namespace host::app {
 
-QString writeDrawingPicture(const kernel::Document &document, const QString &path)
+view::ExportResult writeDrawingPicture(const kernel::Document &document, const QString &path)
 {
     return writeDrawingPicture(document.drawing(), path, kernel::expressionSurroundings(document));
 }
 
-QString writeDrawingPicture(const drawing::Drawing &drawing, const QString &path,
-                            const drawing::MacroSurroundings &surroundings)
+view::ExportResult writeDrawingPicture(const drawing::Drawing &drawing, const QString &path,
+                                       const drawing::MacroSurroundings &surroundings)
 {
     const QString extension = QFileInfo(path).suffix().toLower();
     view::ExportOptions options;
     options.surroundings = surroundings;
     if (extension == "svg"_L1)
-        return view::exportSvg(drawing, path, options).error;
+        return view::exportSvg(drawing, path, options);
     if (extension == "pdf"_L1)
-        return view::exportPdf(drawing, path, options).error;
+        return view::exportPdf(drawing, path, options);
     if (extension == "png"_L1)
-        return view::exportPng(drawing, path, options).error;
-    return u"%1: the extension must be %2"_s.arg(QDir::toNativeSeparators(path), pictureExtensions().join(", "_L1));
+        return view::exportPng(drawing, path, options);
+    return {.error = u"%1: the extension must be %2"_s.arg(QDir::toNativeSeparators(path),
+                                                           pictureExtensions().join(", "_L1)),
+            .report = {}};
 }
 
 QString writeWidgetPicture(QWidget &widget, const QString &path)

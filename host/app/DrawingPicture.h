@@ -1,14 +1,11 @@
 #pragma once
 
+#include "host/view/Export.h"
+
 #include <QString>
 #include <QStringList>
 
 class QWidget;
-
-namespace host::drawing {
-class Drawing;
-struct MacroSurroundings;
-} // namespace host::drawing
 
 namespace host::kernel {
 class Document;
@@ -16,17 +13,17 @@ class Document;
 
 namespace host::app {
 
-// Each returns a sentence that names the file when it could not be written, empty when it was. A file is written whole
-// or not at all.
+// What came of each says a sentence that names the file when it could not be written. A file is written whole or not at
+// all.
 
 /// The whole drawing as a picture: PNG, SVG or PDF by the extension of `path`. `surroundings` is what expressions in
 /// the drawing may ask for.
-QString writeDrawingPicture(const drawing::Drawing &drawing, const QString &path,
-                            const drawing::MacroSurroundings &surroundings);
+view::ExportResult writeDrawingPicture(const drawing::Drawing &drawing, const QString &path,
+                                       const drawing::MacroSurroundings &surroundings);
 /// The same for an open document, which knows more system variables.
-QString writeDrawingPicture(const kernel::Document &document, const QString &path);
+view::ExportResult writeDrawingPicture(const kernel::Document &document, const QString &path);
 
-/// What the widget looks like now, as PNG.
+/// What the widget looks like now, as PNG; empty when it was written.
 QString writeWidgetPicture(QWidget &widget, const QString &path);
 
 /// The extensions that writeDrawingPicture() takes, lower case, without dots.

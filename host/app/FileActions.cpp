@@ -108,7 +108,7 @@ void FileActions::exportPicture(kernel::Document &document, const QString &exten
                     });
     if (path.isEmpty())
         return;
-    if (const QString error = writeDrawingPicture(document, path); !error.isEmpty())
+    if (const QString error = writeDrawingPicture(document, path).error; !error.isEmpty())
         complain(error);
     else
         document.print(tr("\nWritten: %1\n").arg(QDir::toNativeSeparators(path)));

@@ -24,6 +24,8 @@ namespace {
 
 /// Counting what cannot be drawn looks at every record: not while someone is at it.
 constexpr int reportDelay = 150;
+/// The report takes half of the status bar, or so many pixels.
+constexpr int longestReport = 200;
 
 QString versionName(drawing::Version version)
 {
@@ -402,9 +404,10 @@ void MainWindow::updateReport()
     m_status->setText(
         tr("DXF %1, %2")
             .arg(versionName(active->drawing().version()), isModel ? tr("model space") : tr("paper space")));
-    m_notDrawn->setText(report.skippedCount() > 0 ? tr("%1 entities not drawn").arg(report.skippedCount())
-                                                  : tr("All entities drawn"));
-    m_notDrawn->setToolTip(report.summary());
+    const QString text = report.isWhole() ? tr("All entities drawn") : report.missing();
+    m_notDrawn->setText(
+        m_notDrawn->fontMetrics().elidedText(text, Qt::ElideRight, std::max(width() / 2, longestReport)));
+    m_notDrawn->setToolTip(report.isWhole() ? report.summary() : report.missing() + u'\n' + report.summary());
 }
 
 void MainWindow::setGround(view::Ground ground)

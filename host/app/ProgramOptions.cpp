@@ -53,6 +53,13 @@ QString setText(ProgramOptions &options, const QString &value)
     return {};
 }
 
+template <bool ProgramOptions::*member>
+QString setFlag(ProgramOptions &options, const QString &)
+{
+    options.*member = true;
+    return {};
+}
+
 const QList<OptionRow> &optionRows()
 {
     static const QList<OptionRow> rows = {
@@ -65,10 +72,9 @@ const QList<OptionRow> &optionRows()
         {"--out", Value::Needed, {Mode::Run}, setText<&ProgramOptions::outFolder>},
         {"--drawing", Value::Needed, {Mode::Lisp}, setText<&ProgramOptions::drawing>},
         {"--time-limit", Value::Needed, {Mode::Run, Mode::Window}, setTimeLimit},
-        {"--png", Value::None, {Mode::Run}, [](ProgramOptions &options, const QString &) {
-             options.withPictures = true;
-             return QString();
-         }}};
+        {"--png", Value::None, {Mode::Run}, setFlag<&ProgramOptions::withPictures>},
+        {"--strict", Value::None, {Mode::Convert}, setFlag<&ProgramOptions::isStrict>},
+        {"--json", Value::None, {Mode::Convert}, setFlag<&ProgramOptions::withJson>}};
     return rows;
 }
 
@@ -172,14 +178,14 @@ constexpr auto commonHelp = R"(Options for every use:
   --tools DIR          folder of the Lisp tools (default: $ORTAKIT_TOOLS, or the one installed with the program)
   --help, --version
 
-Exit status: 0 done, 1 a tool, expression or session failed, 2 wrong use, 3 part of a batch failed,
-4 a file could not be read or written.
+Exit status: 0 done, 1 a tool, expression or session failed, 2 wrong use, 3 part of a batch failed
+or, with --strict, of a picture is missing, 4 a file could not be read or written.
 )";
 
 constexpr auto windowHelp = R"(Usage: ortakit [OPTION...] [DRAWING...]
        ortakit run SESSION DRAWING... [--out DIR] [--png]
        ortakit lisp FILE... [--drawing DRAWING]
-       ortakit convert IN OUT
+       ortakit convert IN OUT [--strict] [--json]
 
 Opens the drawings in a window, or works on them without one. "ortakit COMMAND --help" tells more about a command.
 A drawing whose name is that of a command is written with its folder: ./run
@@ -210,9 +216,14 @@ a new drawing is open. Nothing asks a person: prompts are cancelled, and a dialo
 
 )";
 
-constexpr auto convertHelp = R"(Usage: ortakit convert IN OUT [OPTION...]
+constexpr auto convertHelp = R"(Usage: ortakit convert IN OUT [--strict] [--json] [OPTION...]
 
-Opens a drawing and writes it as what the extension of OUT says: dxf, png, svg or pdf.
+Opens a drawing and writes it as what the extension of OUT says: dxf, png, svg or pdf. What a picture does not show, or
+only in part, is told on standard error, by type.
+
+  --strict  end with status 3 when something is missing in the picture, which is written all the same
+  --json    print one line of JSON: input, output, and of pictures complete, drawn, invisible, inPart and notDrawn (a
+            number for each type) and cutShort
 
 )";
 

@@ -14,7 +14,7 @@ enum ExitStatus : int
     ExitDone = 0,
     ExitFailed = 1,   ///< a tool, expression or session failed
     ExitUsage = 2,    ///< wrong use of the program
-    ExitPartly = 3,   ///< part of a batch failed
+    ExitPartly = 3,   ///< part of a batch failed; of a strict conversion, part of the drawing is missing
     ExitFileError = 4 ///< a file could not be read or written
 };
 
@@ -47,6 +47,8 @@ struct ProgramOptions
     QString output;              ///< Convert
     QString outFolder;           ///< Run
     bool withPictures = false;   ///< Run
+    bool isStrict = false;       ///< Convert
+    bool withJson = false;       ///< Convert
     QString pictureFolder;
     std::optional<Style> style;
     QString home;

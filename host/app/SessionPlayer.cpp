@@ -416,7 +416,7 @@ QString SessionPlayer::screenshot(const Step &step, QWidget *window)
     QWidget *const main = m_document.session().mainWindow();
     if (!window && main && main->isVisible())
         window = main;
-    error = window ? writeWidgetPicture(*window, path) : writeDrawingPicture(m_document, path);
+    error = window ? writeWidgetPicture(*window, path) : writeDrawingPicture(m_document, path).error;
     if (error.isEmpty())
         m_result.files.append(path);
     return error;

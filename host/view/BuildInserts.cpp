@@ -100,6 +100,13 @@ bool addOwnBlock(BuildContext &context, const QString &name, const Matrix &place
     return true;
 }
 
+/// The definition of an external reference names a file and has nothing of it.
+bool showsOtherDrawing(const drawing::Drawing &drawing, const QString &name)
+{
+    const auto block = drawing.blocks().get(name);
+    return block && block->isExternal() && drawing.children(block->record).empty();
+}
+
 } // namespace
 
 bool buildInsert(BuildContext &context, const TagList &tags)
@@ -123,7 +130,8 @@ bool buildInsert(BuildContext &context, const TagList &tags)
     addAttributes(context, *reference);
     const bool hasAttributes = !context.display.items.empty() || !reference->beside.empty();
     context.add(std::move(reference));
-    return exists || hasAttributes;
+    context.display.isExternal = showsOtherDrawing(context.drawing, name);
+    return (exists || hasAttributes) && !context.display.isExternal;
 }
 
 bool buildDimension(BuildContext &context, const TagList &tags)

@@ -65,7 +65,9 @@ public:
 
     ExportResult result(const PaintResult &painted, const QString &path, const QByteArray &bytes)
     {
-        return {.error = writeFile(path, bytes), .report = m_scene.report(m_block), .isCutShort = painted.isCutShort};
+        RenderReport report = m_scene.report(m_block);
+        report.isCutShort = painted.isCutShort;
+        return {.error = writeFile(path, bytes), .report = report};
     }
 
 private:

@@ -27,7 +27,6 @@ struct ExportResult
 {
     QString error{}; ///< names the file and the reason; empty when it was written
     RenderReport report;
-    bool isCutShort = false; ///< the drawing has more to show than is drawn in one go
 
     explicit operator bool() const { return error.isEmpty(); }
 };

@@ -65,6 +65,16 @@ QString RenderReport::summary() const
     return parts.join(u", "_s);
 }
 
+QString RenderReport::missing() const
+{
+    QStringList parts;
+    addCounts(parts, skipped, skippedCount(), u"not drawn"_s);
+    addCounts(parts, simplified, total(simplified), u"drawn in part"_s);
+    if (isCutShort)
+        parts.append(u"more than is drawn in one go"_s);
+    return parts.join(u", "_s);
+}
+
 Scene::Scene(const drawing::Drawing &drawing, drawing::MacroSurroundings surroundings)
     : m_drawing(drawing), m_surroundings(std::move(surroundings)),
       m_shapes(m_surroundings.file ? m_surroundings.file : drawing::besideDrawing(drawing))
@@ -365,7 +375,7 @@ void Scene::countInto(RenderReport &report, const BlockDisplay &block, std::vect
 {
     visited[static_cast<std::size_t>(block.number)] = 1;
     for (const RecordDisplay &record : block.records) {
-        const QString type = QString::fromLatin1(m_drawing.typeName(record.record));
+        const QString type = record.isExternal ? u"XREF"_s : QString::fromLatin1(m_drawing.typeName(record.record));
         if (record.isSkipped)
             ++report.skipped[type];
         else if (record.isHidden)

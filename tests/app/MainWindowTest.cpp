@@ -328,6 +328,18 @@ TEST_F(MainWindowTest, ACancelledQuitClosesNothing)
     EXPECT_EQ(window->tabs().count(), 0);
 }
 
+TEST_F(MainWindowTest, TheStatusBarSaysWhatIsMissing)
+{
+    const std::pair<QByteArray, QString> rows[] = {
+        {smallDrawing(), u"All entities drawn"_s},
+        {QByteArray(smallDrawing()).replace("0\nCIRCLE\n", "0\n3DSOLID\n"), u"1 not drawn (3DSOLID 1)"_s},
+    };
+    for (const auto &[bytes, text] : rows) {
+        window->start({write(u"reported%1.dxf"_s.arg(text.size()), bytes)});
+        EXPECT_EQ(window->findChild<QLabel *>(u"notDrawn"_s)->text(), text);
+    }
+}
+
 TEST_F(MainWindowTest, DroppedFilesOpen)
 {
     QMimeData data;

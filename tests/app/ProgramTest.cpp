@@ -27,6 +27,7 @@ struct ProgramTest : testing::Test
     {
         write(u"a.dxf"_s, smallDrawing());
         write(u"b.dxf"_s, smallDrawing());
+        write(u"solid.dxf"_s, QByteArray(smallDrawing()).replace("0\nCIRCLE\n", "0\n3DSOLID\n"));
         write(u"broken.dxf"_s, "0\nSECTION\n2\nENT");
         write(u"erase.txt"_s, "lisp (entdel (handent \"2A\"))\nexpect-count LINE 1\n");
         write(u"fails.txt"_s, "expect-count LINE 7\n");
@@ -89,6 +90,14 @@ TEST_F(ProgramTest, EndsWithTheStatusItsManualNames)
         {u"lisp good.lsp --drawing a.dxf"_s, 0, u"sum 3"_s, {}},
         {u"lisp script.lsp --drawing a.dxf"_s, 0, u"drawn 4"_s, {}},
         {u"convert a.dxf copy.dxf"_s, 0, {}, {}},
+        {u"convert a.dxf copy.dxf --strict --json"_s, 0, u"{\"input\":\"a.dxf\",\"output\":\"copy.dxf\"}\n"_s, {}},
+        {u"convert a.dxf picture.png --strict --json"_s,
+         0,
+         u"{\"complete\":true,\"cutShort\":false,\"drawn\":3,\"inPart\":{},\"input\":\"a.dxf\",\"invisible\":0,"
+         "\"notDrawn\":{},\"output\":\"picture.png\"}\n"_s,
+         {}},
+        {u"convert solid.dxf solid.png --json"_s, 0, u"\"notDrawn\":{\"3DSOLID\":1}"_s,
+         u"ortakit: solid.dxf: 1 not drawn (3DSOLID 1)\n"_s},
         {u"convert a.dxf picture.png"_s, 0, {}, {}},
         {u"convert a.dxf picture.svg"_s, 0, {}, {}},
         {u"convert a.dxf picture.pdf"_s, 0, {}, {}},
@@ -105,10 +114,12 @@ TEST_F(ProgramTest, EndsWithTheStatusItsManualNames)
 
         {u"--nonsense"_s, 2, {}, u"there is no option --nonsense"_s},
         {u"run erase.txt"_s, 2, {}, u"at least one drawing"_s},
+        {u"run erase.txt a.dxf --strict"_s, 2, {}, u"--strict has no meaning here"_s},
         {u"convert a.dxf a.txt"_s, 2, {}, u"the extension must be dxf, png, svg, pdf"_s},
         {u"run erase.txt a.dxf ./a.dxf --out out"_s, 2, {}, u"the same name"_s},
         {u"a.dxf"_s, 2, {}, u"there is no display"_s},
 
+        {u"convert solid.dxf solid.pdf --strict"_s, 3, {}, u"solid.dxf: 1 not drawn (3DSOLID 1)"_s},
         {u"run erase.txt a.dxf broken.dxf"_s, 3, u"broken.dxf: not read\n"_s, u"broken.dxf"_s},
 
         {u"lisp none.lsp"_s, 4, {}, u"none.lsp"_s},

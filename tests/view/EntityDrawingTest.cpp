@@ -333,10 +333,16 @@ TEST(EntityDrawing, WhatCannotBeDrawnIsCounted)
     const Rendering shown({.entities = "0 LINE|8 0|10 10|20 10|11 90|21 10|0 3DSOLID|8 0|0 3DSOLID|8 0|0 OLE2FRAME|8 0"
                                        "|0 INSERT|8 0|2 GONE|10 1|20 1|0 DIMENSION|8 0|2 *D9"
                                        "|0 IMAGE|8 0|10 20|20 20|11 1|21 0|12 0|22 1|13 60|23 40"
-                                       "|0 LINE|8 0|60 1|10 10|20 30|11 90|21 30|0 INSERT|8 0|2 B|10 0|20 0",
-                           .blocks = blockText("B", "0 BODY|8 0|0 CIRCLE|8 0|10 50|20 50|40 10")});
-    EXPECT_EQ(shown.report().summary(), QStringLiteral("3 drawn, 1 invisible, 1 simplified (IMAGE 1), 6 skipped "
-                                                       "(3DSOLID 2, BODY 1, DIMENSION 1, INSERT 1, OLE2FRAME 1)"));
+                                       "|0 LINE|8 0|60 1|10 10|20 30|11 90|21 30|0 INSERT|8 0|2 B|10 0|20 0"
+                                       "|0 INSERT|8 0|2 SITE|10 0|20 0",
+                           .blocks = blockText("B", "0 BODY|8 0|0 CIRCLE|8 0|10 50|20 50|40 10") +
+                                     "|0 BLOCK|8 0|2 SITE|70 4|10 0|20 0|30 0|3 SITE|1 site.dwg|0 ENDBLK|8 0"});
+    EXPECT_EQ(shown.report().summary(),
+              QStringLiteral("3 drawn, 1 invisible, 1 simplified (IMAGE 1), 7 skipped "
+                             "(3DSOLID 2, BODY 1, DIMENSION 1, INSERT 1, OLE2FRAME 1, XREF 1)"));
+    EXPECT_EQ(shown.report().missing(),
+              QStringLiteral("7 not drawn (3DSOLID 2, BODY 1, DIMENSION 1, INSERT 1, OLE2FRAME "
+                             "1, XREF 1), 1 drawn in part (IMAGE 1)"));
     EXPECT_FALSE(shown.isInk(50, 30)) << "the invisible line";
 }
 
