@@ -121,13 +121,13 @@ void DrawingCanvas::beginZoomWindow()
 
 void DrawingCanvas::setRequest(const std::optional<kernel::PromptRequest> &request)
 {
-    const bool hadDragged = m_dragged.has_value();
+    const bool hadMarked = m_dragged || (m_request && m_request->chosen);
     m_request = request;
     m_box.reset();
     m_dragged.reset();
     if (request && request->base && request->dragged && !request->dragged->empty())
         m_dragged.emplace(*request->dragged, request->base->xy());
-    if (hadDragged || m_dragged)
+    if (hadMarked || m_dragged || (m_request && m_request->chosen))
         m_picture = {};
     update();
 }
@@ -160,8 +160,10 @@ void DrawingCanvas::repaintScene()
     options.ground = m_ground;
     if (m_dragged)
         highlighted.insert(m_dragged->records().begin(), m_dragged->records().end());
+    if (m_request && m_request->chosen)
+        highlighted.insert(m_request->chosen->begin(), m_request->chosen->end());
     options.highlighted = &highlighted;
-    view::paintScene(painter, m_scene, space(), transform(), options);
+    m_isCutShort = view::paintScene(painter, m_scene, space(), transform(), options).isCutShort;
     m_paintedRevision = m_document.drawing().revision();
 }
 

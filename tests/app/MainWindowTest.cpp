@@ -4,6 +4,7 @@
 #include "host/app/DrawingCanvas.h"
 #include "host/app/Preferences.h"
 #include "host/kernel/input/UserInput.h"
+#include "host/view/ScenePainter.h"
 #include "platform/kernel/CKvUtils.h"
 #include "tests/app/AppFixture.h"
 #include "tests/support/ModalAnswers.h"
@@ -326,6 +327,39 @@ TEST_F(MainWindowTest, ACancelledQuitClosesNothing)
     user.press(QMessageBox::No);
     EXPECT_TRUE(window->close());
     EXPECT_EQ(window->tabs().count(), 0);
+}
+
+TEST_F(MainWindowTest, WhatASelectionHasSoFarIsHighlighted)
+{
+    const auto highlighted = [this] {
+        const QImage picture = window->canvas()->grab().toImage();
+        int count = 0;
+        for (int x = 0; x < picture.width(); ++x)
+            for (int y = 0; y < picture.height(); ++y)
+                count += picture.pixelColor(x, y) == host::view::PaintOptions().highlight;
+        return count;
+    };
+    int one = 0;
+    meanwhile([&] {
+        EXPECT_EQ(highlighted(), 0);
+        click(1.0, 0.0);
+        meanwhile([&] {
+            one = highlighted();
+            click(1.0, 10.0);
+            meanwhile([&] {
+                EXPECT_GT(highlighted(), 1.5 * one);
+                window->enter(u"_Undo"_s);
+                meanwhile([&] {
+                    EXPECT_NEAR(highlighted(), one, 0.1 * one) << "the pointer hides some";
+                    window->enter({});
+                });
+            });
+        });
+    });
+    window->enter(u"(setq s (sslength (ssget)))"_s);
+    EXPECT_EQ(lisp(u"s"_s), u"1"_s);
+    EXPECT_GT(one, 0);
+    EXPECT_EQ(highlighted(), 0);
 }
 
 TEST_F(MainWindowTest, TheStatusBarSaysWhatIsMissing)

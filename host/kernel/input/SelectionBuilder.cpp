@@ -42,6 +42,8 @@ PromptRequest SelectionBuilder::request() const
     PromptRequest request;
     request.forCommand = true;
     request.bits = OutsideLimits;
+    if (!m_entities.empty())
+        request.chosen = std::make_shared<const std::vector<RecordId>>(m_entities);
     if (!m_shape) {
         request.kind = PromptKind::Selection;
         request.prompt = m_isRemoving ? QStringLiteral("\nRemove objects: ") : m_prompt;
