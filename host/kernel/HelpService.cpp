@@ -2,11 +2,33 @@
 
 #include "host/kernel/Session.h"
 
+#include <QApplication>
+#include <QDialog>
+#include <QEvent>
 #include <QFileInfo>
 #include <QTextBrowser>
 #include <QUrl>
 
 namespace host::kernel {
+
+namespace {
+
+/// Links have their colour from the palette that there was when a page was read.
+class HelpWindow final : public QTextBrowser
+{
+public:
+    using QTextBrowser::QTextBrowser;
+
+protected:
+    void changeEvent(QEvent *event) override
+    {
+        QTextBrowser::changeEvent(event);
+        if (event->type() == QEvent::PaletteChange && !source().isEmpty())
+            reload();
+    }
+};
+
+} // namespace
 
 HelpService::~HelpService()
 {
@@ -31,24 +53,48 @@ void HelpService::Help(const OdString &helpFile, int topic, bool keepOpen, QWidg
             document->print(u'\n' + (path.isEmpty() ? QStringLiteral("No help page.") : path));
         return;
     }
+    const bool wasOpen = m_browser && m_browser->isVisible();
+    QTextBrowser &shown = browser();
+    QWidget *const modal = QApplication::activeModalWidget();
+    standInFrontOf(modal ? *modal : *m_session.mainWindow());
+    if (!keepOpen || !wasOpen)
+        shown.setSource(path.startsWith(u':') ? QUrl(QStringLiteral("qrc") + path) : QUrl::fromLocalFile(path));
+    shown.show();
+    shown.raise();
+    shown.activateWindow();
+}
+
+QTextBrowser &HelpService::browser()
+{
     if (!m_browser) {
-        // A window of its own: it can be read beside a modal dialog's parent and outlives the dialog.
-        m_browser = new QTextBrowser(m_session.mainWindow());
+        m_browser = new HelpWindow(m_session.mainWindow());
         m_browser->setObjectName(QStringLiteral("helpWindow"));
         m_browser->setWindowFlags(Qt::Window);
         m_browser->setWindowModality(Qt::NonModal);
         m_browser->setWindowTitle(QObject::tr("Help"));
         m_browser->setOpenExternalLinks(true);
         m_browser->resize(720, 560);
-    } else if (keepOpen && m_browser->isVisible()) {
-        return;
     }
-    if (path.startsWith(u':'))
-        m_browser->setSource(QUrl(QStringLiteral("qrc") + path));
-    else
-        m_browser->setSource(QUrl::fromLocalFile(path));
-    m_browser->show();
-    m_browser->raise();
+    return *m_browser;
+}
+
+/// A modal dialog blocks every window but those that belong to it.
+void HelpService::standInFrontOf(QWidget &owner)
+{
+    if (m_browser->parentWidget() == &owner)
+        return;
+    const bool wasOpen = m_browser->isVisible();
+    m_browser->setParent(&owner, m_browser->windowFlags());
+    m_browser->setVisible(wasOpen);
+    if (&owner == m_session.mainWindow())
+        return;
+    const auto leave = [this, &owner] {
+        if (m_browser && m_session.mainWindow() && m_browser->parentWidget() == &owner)
+            standInFrontOf(*m_session.mainWindow());
+    };
+    QObject::connect(&owner, &QObject::destroyed, m_browser, leave);
+    if (auto *dialog = qobject_cast<QDialog *>(&owner))
+        QObject::connect(dialog, &QDialog::finished, m_browser, leave);
 }
 
 } // namespace host::kernel

@@ -10,8 +10,9 @@ namespace host::kernel {
 
 class Session;
 
-/// Shows help pages: <topic>.html of a folder, index.html for a topic without a page. In a run without a window the
-/// page's file name is printed on the command line instead.
+/// Shows help pages: <topic>.html of a folder, index.html for a topic without a page. The window stands in front of the
+/// modal dialog it was asked for from, can be used beside it and stays when the dialog goes. In a run without a window
+/// the page's file name is printed on the command line instead.
 class HelpService final : public CKvHelp
 {
 public:
@@ -25,6 +26,9 @@ public:
     static QString page(const QString &folder, int topic);
 
 private:
+    QTextBrowser &browser();
+    void standInFrontOf(QWidget &owner);
+
     Session &m_session;
     QPointer<QTextBrowser> m_browser;
 };

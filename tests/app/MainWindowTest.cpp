@@ -5,6 +5,7 @@
 #include "host/app/Preferences.h"
 #include "host/kernel/input/UserInput.h"
 #include "host/view/ScenePainter.h"
+#include "platform/kernel/CKvHelp.h"
 #include "platform/kernel/CKvUtils.h"
 #include "tests/app/AppFixture.h"
 #include "tests/support/ModalAnswers.h"
@@ -371,6 +372,33 @@ TEST_F(MainWindowTest, TheStatusBarSaysWhatIsMissing)
     for (const auto &[bytes, text] : rows) {
         window->start({write(u"reported%1.dxf"_s.arg(text.size()), bytes)});
         EXPECT_EQ(window->findChild<QLabel *>(u"notDrawn"_s)->text(), text);
+    }
+}
+
+TEST_F(MainWindowTest, HelpStandsInFrontOfAModalDialogAndOutlivesIt)
+{
+    defineSampleBox(*window->document());
+    const auto help = [] {
+        for (QWidget *open : QApplication::topLevelWidgets())
+            if (open->objectName() == u"helpWindow")
+                return open;
+        return static_cast<QWidget *>(nullptr);
+    };
+    const QString pages = folder.path();
+    write(u"7.html"_s, "<a href='8.html'>next</a>");
+    for (int round = 0; round < 2; ++round) {
+        meanwhile([&] {
+            QWidget *box = QApplication::activeModalWidget();
+            GetKvHelp()->Help(pages, 7, false, nullptr, 0);
+            ASSERT_TRUE(box && help());
+            EXPECT_EQ(help()->parentWidget(), box) << "a modal dialog blocks all but its own windows";
+            EXPECT_TRUE(help()->isVisible());
+            box->close();
+        });
+        window->enter(u"(samplebox)"_s);
+        ASSERT_TRUE(help());
+        EXPECT_TRUE(help()->isVisible());
+        EXPECT_EQ(help()->parentWidget(), window.get());
     }
 }
 
