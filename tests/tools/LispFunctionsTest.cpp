@@ -25,44 +25,74 @@ struct Section
     QStringList examples; ///< sessions
 };
 
+QStringList sessionsIn(const QString &text)
+{
+    static const QRegularExpression session(u"^```session\\n(.*?)^```$"_s,
+                                            QRegularExpression::MultilineOption |
+                                                QRegularExpression::DotMatchesEverythingOption);
+    QStringList sessions;
+    for (const QRegularExpressionMatch &match : session.globalMatch(text))
+        sessions.append(match.captured(1));
+    return sessions;
+}
+
 QList<Section> sectionsOf(const QString &manual)
 {
     QList<Section> sections;
-    bool isExample = false;
-    for (const QString &line : manual.split(u'\n')) {
-        const bool isFence = line.startsWith(u"```");
-        if (line.startsWith(u"### `"))
-            sections.append({line.section(u'`', 1, 1), {}});
-        else if (isExample && !isFence)
-            sections.last().examples.last() += line + u'\n';
-        if (isFence && !isExample && line == u"```session")
-            sections.last().examples.append(QString());
-        if (isFence)
-            isExample = line == u"```session";
-    }
+    for (const QString &section : manual.split(u"\n### `"_s).mid(1))
+        sections.append({section.section(u'`', 0, 0), sessionsIn(section)});
     return sections;
 }
 
-class LispFunctionsManual : public testing::Test
+class Manual : public testing::Test
 {
 protected:
     static QString source(const QString &file) { return qEnvironmentVariable("ORTAKIT_SOURCE") + u'/' + file; }
 
+    static QString text(const QString &file) { return QString::fromUtf8(ToolRun::readFile(source(file))); }
+
+    /// Plays an example over the sample plan.
+    void plays(const QString &example)
+    {
+        const QString plan = run.path(u"plan.dxf"_s);
+        ASSERT_TRUE(QFile::exists(plan) || QFile::copy(ToolRun::sample(u"plan.dxf"_s), plan));
+        host::app::PlaybackOptions options;
+        options.variables = {{u"SAMPLES"_s, ToolRun::sample({})}, {u"SESSION_DIR"_s, ToolRun::sample({})}};
+        options.outFolder = run.path(u"out"_s);
+        ASSERT_TRUE(QDir().mkpath(options.outFolder));
+        Document *document = bench.documents().open(plan).document;
+        ASSERT_TRUE(document);
+        const auto outcome = host::app::runSession(example, *document, options);
+        EXPECT_TRUE(outcome.ok) << outcome.message.toStdString();
+        EXPECT_TRUE(bench.documents().close(document));
+    }
+
+    ToolRun run;
+    host::app::Workbench bench{run.workbench()};
+};
+
+TEST_F(Manual, RecordedSessionsDoWhatTheirManualSays)
+{
+    const QStringList examples = sessionsIn(text(u"docs/playback.md"_s));
+    EXPECT_FALSE(examples.isEmpty());
+    for (const QString &example : examples)
+        plays(example);
+}
+
+class LispFunctionsManual : public Manual
+{
+protected:
     /// The functions that the module defines, as it spells them; the manual is looked up by that.
     static QStringList tableNames()
     {
         static const QRegularExpression row(u"function<\\w+>\\(\"([^\"]+)\""_s);
         QStringList names;
-        const QString table = QString::fromUtf8(ToolRun::readFile(source(u"module/LispFunctionTable.cpp"_s)));
-        for (const QRegularExpressionMatch &match : row.globalMatch(table))
+        for (const QRegularExpressionMatch &match : row.globalMatch(text(u"module/LispFunctionTable.cpp"_s)))
             names.append(match.captured(1));
         return names;
     }
 
-    ToolRun run;
-    host::app::Workbench bench{run.workbench()};
-    const QList<Section> sections =
-        sectionsOf(QString::fromUtf8(ToolRun::readFile(source(u"docs/lisp-functions.md"_s))));
+    const QList<Section> sections = sectionsOf(text(u"docs/lisp-functions.md"_s));
 };
 
 TEST_F(LispFunctionsManual, HasEveryFunctionWithAnExample)
@@ -82,21 +112,10 @@ TEST_F(LispFunctionsManual, HasEveryFunctionWithAnExample)
 
 TEST_F(LispFunctionsManual, ExamplesDoWhatTheySay)
 {
-    const QString plan = run.path(u"plan.dxf"_s);
-    ASSERT_TRUE(QFile::copy(ToolRun::sample(u"plan.dxf"_s), plan));
-    host::app::PlaybackOptions options;
-    options.variables.insert(u"SAMPLES"_s, ToolRun::sample({}));
-    options.outFolder = run.path(u"out"_s);
-    ASSERT_TRUE(QDir().mkpath(options.outFolder));
     for (const Section &section : sections) {
-        for (const QString &example : section.examples) {
-            SCOPED_TRACE(section.name.toStdString());
-            Document *document = bench.documents().open(plan).document;
-            ASSERT_TRUE(document);
-            const auto outcome = host::app::runSession(example, *document, options);
-            EXPECT_TRUE(outcome.ok) << outcome.message.toStdString();
-            EXPECT_TRUE(bench.documents().close(document));
-        }
+        SCOPED_TRACE(section.name.toStdString());
+        for (const QString &example : section.examples)
+            plays(example);
     }
 }
 
