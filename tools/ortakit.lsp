@@ -21,10 +21,6 @@
 ;;; support/drawing.lsp   lines and texts in the user's coordinate system
 ;;; support/variables.lsp system variables
 ;;; support/viewports.lsp viewports of the sheet
-;;; support/outlines.lsp  what entities look like from above
-;;; support/areas.lsp     what lies in polygons, and what is left at their edges
-;;; support/patterns.lsp  copies of something over an area
-;;; support/groups.lsp    groups of entities
 
 (foreach file '("strings" "run" "state" "entities" "selection" "texts" "textboxes" "catalogue" "files" "dimstyles" "arrows"
                 "blocks" "attributes" "replacing" "drawing" "variables" "viewports" "outlines" "areas" "patterns" "groups")
