@@ -84,8 +84,13 @@ void HelpService::standInFrontOf(QWidget &owner)
     if (m_browser->parentWidget() == &owner)
         return;
     const bool wasOpen = m_browser->isVisible();
+    const QRect place = m_browser->geometry();
     m_browser->setParent(&owner, m_browser->windowFlags());
+    m_browser->setGeometry(place);
+    // Who answers prompts when the dialog has gone keeps the keyboard.
+    m_browser->setAttribute(Qt::WA_ShowWithoutActivating);
     m_browser->setVisible(wasOpen);
+    m_browser->setAttribute(Qt::WA_ShowWithoutActivating, false);
     if (&owner == m_session.mainWindow())
         return;
     const auto leave = [this, &owner] {
