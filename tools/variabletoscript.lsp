@@ -1,4 +1,4 @@
-;;; menu: Variables to script | VARIABLETOSCRIPT | Adds expressions that set system variables to a script
+;;; menu: Variable to script | VARIABLETOSCRIPT | Adds expressions that set system variables to a script
 ;;;
 ;;; VARIABLETOSCRIPT: as EXPORTVARIABLES, but what is shown goes to the end of a script that is there.
 

@@ -119,4 +119,46 @@ TEST_F(LispFunctionsManual, ExamplesDoWhatTheySay)
     }
 }
 
+/// What the window, the help and the dialogs of the tools call them.
+class ToolNames : public Manual
+{
+protected:
+    static QStringList found(const QString &folder, const QString &files, const QString &pattern)
+    {
+        QStringList texts;
+        for (const QString &file : QDir(source(folder)).entryList({files})) {
+            const QRegularExpression expression(pattern, QRegularExpression::MultilineOption);
+            for (const QRegularExpressionMatch &match : expression.globalMatch(text(folder + u'/' + file)))
+                texts.append(match.captured(1));
+        }
+        return texts;
+    }
+    static QString plain(const QString &name) { return QString(name).remove(u' ').toLower(); }
+};
+
+TEST_F(ToolNames, AreTheSameInMenuHelpAndTitle)
+{
+    const QStringList headings = found(u"resources/help"_s, u"*.html"_s, u"<h1>([^<]*)<"_s);
+    const QStringList links = found(u"resources/help"_s, u"index.html"_s, u"^<li><a [^>]*>([^<]*)<"_s);
+    QStringList titles;
+    for (const QString &folder : QDir(source(u"dialogs"_s)).entryList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+        for (const QString &title :
+             found(u"dialogs/"_s + folder, u"*.ui"_s, u"\"windowTitle\">\\s*<string>([^<]*)<"_s) +
+                 found(u"dialogs/"_s + folder, u"*.cpp"_s, u"setWindowTitle\\((.*)\\);"_s))
+            titles.append(plain(title));
+    }
+    // The second page of another tool's dialog, and a tool without one.
+    const QStringList withoutPage = {u"Lisp dump"_s, u"Export block attributes"_s};
+    // What programs know these dialogs by says less.
+    const QStringList titledOtherwise = withoutPage + QStringList{u"Convert simple notes"_s, u"Export information"_s};
+    const QList<host::app::ToolEntry> &tools = bench.tools().entries;
+    EXPECT_GT(tools.size(), 25);
+    for (const host::app::ToolEntry &tool : tools) {
+        SCOPED_TRACE(tool.caption.toStdString());
+        EXPECT_EQ(headings.count(tool.caption), withoutPage.contains(tool.caption) ? 0 : 1);
+        EXPECT_EQ(links.count(tool.caption), withoutPage.contains(tool.caption) ? 0 : 1);
+        EXPECT_NE(titles.filter(plain(tool.caption)).isEmpty(), !titledOtherwise.contains(tool.caption));
+    }
+}
+
 } // namespace
