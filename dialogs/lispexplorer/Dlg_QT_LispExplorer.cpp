@@ -205,7 +205,9 @@ void Dlg_QT_LispExplorer::Openfile(QListWidgetItem *item)
 void Dlg_QT_LispExplorer::listFunctions()
 {
     const QSignalBlocker noSignals(m_ui->List_functions);
-    const QIcon icon = toolIcon(QStringLiteral("Lispfunction"));
+    QIcon icon = toolIcon(QStringLiteral("Lispfunction"));
+    // A selected row is dark in every style.
+    icon.addFile(QStringLiteral(":/images/svg_icons/dark/Lispfunction.svg"), {}, QIcon::Selected);
     for (const ortakit::LispFunctionEntry &entry : std::as_const(m_entries))
         m_ui->List_functions->addItem(new QListWidgetItem(icon, entry.name));
 }

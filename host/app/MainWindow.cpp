@@ -413,6 +413,7 @@ void MainWindow::updateReport()
 void MainWindow::setGround(view::Ground ground)
 {
     m_ground = ground;
+    view::setShownGround(ground);
     (ground == view::Ground::Black ? m_blackGround : m_whiteGround)->setChecked(true);
     for (int i = 0; i < m_tabs->count(); ++i)
         static_cast<DrawingCanvas *>(m_tabs->widget(i))->setGround(ground);

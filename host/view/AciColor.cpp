@@ -13,6 +13,8 @@ constexpr std::array<int, 5> brightness = {255, 165, 127, 76, 38};
 constexpr std::array<int, 6> greys = {51, 91, 132, 173, 214, 255};
 constexpr std::array<QRgb, 6> primaries = {0xff0000, 0xffff00, 0x00ff00, 0x00ffff, 0x0000ff, 0xff00ff};
 
+Ground groundOfWindows = Ground::Black;
+
 /// One channel of a pure hue at full brightness, 0..1; `shift` is where on the wheel the channel peaks.
 double hueChannel(int step, int shift)
 {
@@ -37,6 +39,16 @@ QColor hueColor(int index)
 }
 
 } // namespace
+
+Ground shownGround()
+{
+    return groundOfWindows;
+}
+
+void setShownGround(Ground ground)
+{
+    groundOfWindows = ground;
+}
 
 QColor groundColor(Ground ground)
 {

@@ -14,6 +14,10 @@ enum class Ground
 /// The colour of the ground itself.
 QColor groundColor(Ground ground);
 
+/// What the drawings of this process lie on in their windows, which colours are shown for in dialogs; black until set.
+Ground shownGround();
+void setShownGround(Ground ground);
+
 /// The colour that an index of the 256-colour table stands for.
 ///
 /// The table is laid out as follows, and is computed from that layout:

@@ -19,7 +19,8 @@ public:
     /// Picks the colour, adding an item for it when there was none. Numbers outside 0 to 256 are ignored.
     void setColorIndex(int index);
 
-    /// What such a box shows for a colour of 0 to 256, for lists of colours.
+    /// What such a box shows for a colour of 0 to 256, for lists of colours: the colour as it is drawn in the window,
+    /// so that 7, and 0 and 256 with it, is white on a dark ground and black on a white one.
     /// @{
     static QString colorName(int index);
     static QIcon colorSwatch(int index);

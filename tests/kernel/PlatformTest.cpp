@@ -1,4 +1,5 @@
 #include "host/kernel/Services.h"
+#include "host/view/AciColor.h"
 #include "platform/kernel/CKvMessageBox.h"
 #include "platform/kernel/CKvUtils.h"
 #include "platform/kernel/OdResBuf.h"
@@ -125,6 +126,20 @@ TEST(ColorComboBox, namesAreShown)
          {std::pair{256, "ByLayer"}, {0, "ByBlock"}, {1, "Red"}, {7, "White"}, {42, "Color 42"}}) {
         box.setColorIndex(index);
         EXPECT_EQ(box.shown(), QString::fromLatin1(name));
+    }
+}
+
+TEST(ColorComboBox, swatchesAreAsTheWindowDraws)
+{
+    const auto colorOf = [](int index) {
+        return CKvQtColorComboBox::colorSwatch(index).pixmap(16).toImage().pixelColor(8, 8);
+    };
+    using host::view::Ground;
+    for (const auto &[ground, seven] : {std::pair{Ground::White, Qt::black}, {Ground::Black, Qt::white}}) {
+        host::view::setShownGround(ground);
+        for (const int index : {7, 0, 256})
+            EXPECT_EQ(colorOf(index), QColor(seven)) << index;
+        EXPECT_EQ(colorOf(1), QColor(Qt::red));
     }
 }
 

@@ -80,7 +80,7 @@ QString CKvQtColorComboBox::colorName(int index)
 QIcon CKvQtColorComboBox::colorSwatch(int index)
 {
     QPixmap picture(16, 16);
-    picture.fill(host::view::aciColor(index, host::view::Ground::White));
+    picture.fill(host::view::aciColor(index, host::view::shownGround()));
     QPainter painter(&picture);
     painter.setPen(Qt::darkGray);
     painter.drawRect(0, 0, 15, 15);
