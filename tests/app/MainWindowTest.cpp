@@ -361,6 +361,14 @@ TEST_F(MainWindowTest, WhatASelectionHasSoFarIsHighlighted)
     EXPECT_EQ(lisp(u"s"_s), u"1"_s);
     EXPECT_GT(one, 0);
     EXPECT_EQ(highlighted(), 0);
+    one = 0;
+    meanwhile([&] {
+        one = highlighted();
+        key(Qt::Key_Escape);
+    });
+    window->enter(u"move all "_s);
+    EXPECT_GT(one, 0) << "by the command that asks for a base point";
+    EXPECT_EQ(highlighted(), 0);
 }
 
 TEST_F(MainWindowTest, TheStatusBarSaysWhatIsMissing)

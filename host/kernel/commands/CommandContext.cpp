@@ -51,6 +51,7 @@ CommandContext::Reply CommandContext::ask(PromptRequest request)
 {
     m_request = std::move(request);
     m_request.forCommand = true;
+    m_request.chosen = m_chosen;
     return Reply(*this);
 }
 

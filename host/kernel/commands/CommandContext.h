@@ -22,7 +22,7 @@ public:
         void await_suspend(std::coroutine_handle<> waiting) const noexcept { m_context.m_waiting = waiting; }
         PromptReply await_resume() const { return m_context.m_reply; }
 
-    private:
+    protected:
         CommandContext &m_context;
     };
 
@@ -32,6 +32,12 @@ public:
     public:
         explicit Selection(CommandContext &context, bool isImplied) : Reply(context), m_isImplied(isImplied) {}
         bool await_ready() const noexcept { return m_isImplied; }
+        /// What was chosen is shown so while the command asks on.
+        PromptReply await_resume() const
+        {
+            m_context.m_chosen = std::make_shared<const std::vector<drawing::RecordId>>(m_context.m_reply.entities);
+            return m_context.m_reply;
+        }
 
     private:
         bool m_isImplied;
@@ -99,6 +105,7 @@ private:
     bool m_hasFailed = false;
     bool m_isAnsweredAhead = false;              ///< the last answer came from a program, or more is typed behind it
     std::optional<SelectionBuilder> m_selection; ///< while a selection grows
+    std::shared_ptr<const std::vector<drawing::RecordId>> m_chosen; ///< of the last selection
 };
 
 } // namespace host::kernel

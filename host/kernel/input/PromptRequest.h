@@ -57,7 +57,8 @@ struct PromptRequest
     bool endsWhenRefused = false;      ///< a refused answer cancels the prompt when more was typed behind it
     /// Point: these hang at the pointer by `base`; null for none.
     std::shared_ptr<const std::vector<drawing::RecordId>> dragged{};
-    /// Of a selection that grows: what is chosen so far, to be shown as such while this prompt waits; null for nothing.
+    /// What is chosen so far, of a selection that grows or by the command that asks, to be shown as such while this
+    /// prompt waits; null for nothing.
     std::shared_ptr<const std::vector<drawing::RecordId>> chosen{};
 };
 
