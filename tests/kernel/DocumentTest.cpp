@@ -169,14 +169,19 @@ TEST_F(Bench, aFailedSaveLeavesTheDrawingChanged)
     EXPECT_EQ(document().title(), QStringLiteral("a.dxf"));
 }
 
-TEST_F(Bench, saveAsAsksBeforeReplacing)
+TEST_F(Bench, savingAsksBeforeReplacing)
 {
-    const QString file = write("other.dxf", "not a drawing");
-    const std::string command = "(command \"_.SAVEAS\" \"" + file.toStdString() + "\" ";
-    lisp(command + "\"_N\")");
-    EXPECT_FALSE(document().path() == file);
-    lisp(command + "\"_Y\")");
-    EXPECT_EQ(document().path(), file);
+    for (const std::string name : {"_.QSAVE", "_.SAVE", "_.SAVEAS"}) {
+        SCOPED_TRACE(name);
+        session.documents().create();
+        const QString file = write("other.dxf", "not a drawing");
+        // The name is completed before it is asked about.
+        const std::string command = "(command \"" + name + "\" \"" + path("other").toStdString() + "\" ";
+        lisp(command + "\"_N\")");
+        EXPECT_TRUE(document().path().isEmpty());
+        lisp(command + "\"_Y\")");
+        EXPECT_EQ(document().path(), file);
+    }
 }
 
 TEST_F(Bench, theDatabaseKeepsRecordsByName)

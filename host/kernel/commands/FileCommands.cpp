@@ -26,7 +26,18 @@ void tell(CommandContext &context, const drawing::SaveResult &result, const QStr
     context.print(result ? u"\nSaved to %1."_s.arg(path) : u'\n' + result.error);
 }
 
-// Under the drawing's own name; asks for one when it has none.
+/// Whether a save under this path would go over another file that is not to go unasked.
+bool replacesOther(const Document &document, const QString &path)
+{
+    return QFileInfo::exists(path) && path != document.path() && document.variables().integer(u"EXPERT") < 2;
+}
+
+CommandContext::Reply askToReplace(CommandContext &context, const QString &path)
+{
+    return context.keyword(u"%1 already exists. Replace it? [Yes/No] <No>: "_s.arg(path), u"Yes No"_s, u"No"_s);
+}
+
+// Under the drawing's own name; asks for one when it has none, and before an existing file is replaced.
 CommandTask quickSave(CommandContext &context)
 {
     Document &document = context.document();
@@ -38,6 +49,8 @@ CommandTask quickSave(CommandContext &context)
     if (!name.hasValue() || name.text.trimmed().isEmpty())
         co_return;
     const QString path = drawingPath(name.text);
+    if (replacesOther(document, path) && (co_await askToReplace(context, path)).text != u"Yes"_s)
+        co_return;
     tell(context, document.saveAs(path), path);
 }
 
@@ -50,12 +63,8 @@ CommandTask saveAs(CommandContext &context)
     if (typed.isEmpty())
         co_return;
     const QString path = drawingPath(typed);
-    if (QFileInfo::exists(path) && path != document.path() && document.variables().integer(u"EXPERT") < 2) {
-        const PromptReply replace = co_await context.keyword(
-            u"%1 already exists. Replace it? [Yes/No] <No>: "_s.arg(path), u"Yes No"_s, u"No"_s);
-        if (replace.text != u"Yes"_s)
-            co_return;
-    }
+    if (replacesOther(document, path) && (co_await askToReplace(context, path)).text != u"Yes"_s)
+        co_return;
     tell(context, document.saveAs(path), path);
 }
 
