@@ -3,10 +3,15 @@
 ;;; BREAKLINE: the dialog gives the symbol, its size and the offset; then a line is picked and two points on it. The
 ;;; symbol stands in the middle between the points, its longer side as long as the size, turned with the line and on
 ;;; the line's layer. The line is cut open between the points, and at least so far that the offset stays free on both
-;;; sides of the symbol; the option Same cuts it open just that far.
+;;; sides of the symbol; the option Same cuts it open just that far. Lines on locked layers stay as they are.
+;;;
+;;; The drawing gets a block for each symbol, which knows from what file content it was made: another symbol under the same
+;;; file name, or the same file after it was changed, gets a block of its own, and what was drawn before stays as it is.
 ;;;
 ;;; A new symbol is made from entities of the drawing on the way: the dialog names it, the entities are picked, and the
 ;;; dialog comes back with the new symbol chosen.
+
+(setq breakline:application "ORTAKIT_BREAKLINE")
 
 (defun c:breakline (/ *error* kora:variables choice)
   (kora_begin '(("CMDECHO" . 0)))
@@ -15,20 +20,18 @@
   (kora_end))
 
 ;; Runs the dialog until the user confirms or cancels.
-;; -> (symbol file, size, offset, T when the symbol was made just now), nil when cancelled.
-(defun breakline:ask (file / state created done)
+;; -> (symbol file, size, offset), nil when cancelled.
+(defun breakline:ask (file / state done)
   (while (and (not done) (Dlg_BreakLine file))
     (setq state (kora_readstate file))
     (cond ((= (kora_action state) "OK") (setq done T))
           ((= (kora_action state) "CREATE")
-           (if (breakline:create_symbol (breakline:symbol_path (kora_state_value state "name")) file)
-             (setq created T)))
+           (breakline:create_symbol (breakline:symbol_path (kora_state_value state "name")) file))
           (T (setq done T state nil))))
   (if (and done state)
     (list (kora_state_value state "lbtitleblock")
           (cond ((kora_state_real state "_dist_size")) (0.0))
-          (cond ((kora_state_real state "_dist_offset")) (0.0))
-          created)))
+          (cond ((kora_state_real state "_dist_offset")) (0.0)))))
 
 ;; Where the dialog looks for the symbol of that name.
 (defun breakline:symbol_path (name)
@@ -62,15 +65,21 @@
         ((breakline:insert_symbol choice data (breakline:at data (/ (+ (car cut) (cadr cut)) 2.0)))
          (breakline:split data cut))))))
 
-;; -> entity name of a LINE, nil when the user gives up.
-(defun breakline:pick_line (/ pick line done)
+;; -> entity name of a LINE that can be broken, nil when the user gives up.
+(defun breakline:pick_line (/ pick line problem done)
   (while (not done)
     (setvar "ERRNO" 0)
     (setq pick (entsel "\nSelect line to break: "))
     (cond ((null pick) (if (= (getvar "ERRNO") 7) (kora_alert_message "Nothing found there.") (setq done T)))
-          ((= (kora_field (entget (car pick)) 0) "LINE") (setq line (car pick) done T))
-          (T (kora_alert_message "That is not a line."))))
+          ((setq problem (breakline:problem (entget (car pick)))) (kora_alert_message problem))
+          (T (setq line (car pick) done T))))
   line)
+
+;; Why an entity cannot be broken, in words; nil when it can.
+(defun breakline:problem (data)
+  (cond ((/= (kora_field data 0) "LINE") "That is not a line.")
+        ((kora_is_locked data) "That line is on a locked layer.")
+        ((<= (breakline:length data) 1e-12) "That line has no length.")))
 
 ;; -> two points in world coordinates, nil when the user gives up.
 (defun breakline:ask_points (/ first second)
@@ -106,24 +115,51 @@
   (setq part (/ along (breakline:length data)))
   (mapcar '(lambda (from to) (+ from (* part (- to from)))) (kora_field data 10) (kora_field data 11)))
 
-;; Inserts the symbol around point. -> T; nil after a message when the file gives no symbol.
-(defun breakline:insert_symbol (choice data point / name before reference box)
-  (setq name   (strcat "BREAKLINE_" (vl-filename-base (car choice)))
-        before (entlast))
-  (command "_.-INSERT"
-           (if (and (tblsearch "BLOCK" name) (not (cadddr choice))) name (strcat name "=" (car choice)))
-           (trans point 0 1) 1.0 1.0 0.0)
+;; Inserts the symbol around point. -> T; nil after a message when the file gives no symbol. Nothing stays of it then.
+(defun breakline:insert_symbol (choice data point / content name before reference box)
+  (setq content (breakline:content (car choice))
+        name    (if content (breakline:block_name (vl-filename-base (car choice)) content))
+        before  (entlast))
+  (if name
+    (command "_.-INSERT" (if (tblsearch "BLOCK" name) name (strcat name "=" (car choice))) (trans point 0 1) 1.0 1.0 0.0))
   (setq reference (entlast)
         box       (if (not (equal reference before)) (kora_block_box name)))
   (cond
     ((equal reference before)
-     (kora_alert_message (strcat "The symbol could not be read from " (car choice) "."))
-     nil)
+     (kora_refuse (strcat "The symbol could not be read from " (car choice) ".")))
     ((or (null box) (equal (car box) (cadr box) 1e-12))
-     (entdel reference)
-     (kora_alert_message "The symbol drawing is empty.")
-     nil)
-    (T (breakline:place reference data point box (cadr choice)) T)))
+     (kora_take_back)
+     (kora_refuse "The symbol drawing is empty."))
+    (T (breakline:tell_content name content)
+       (breakline:place reference data point box (cadr choice))
+       T)))
+
+;; -> a number that stands for what a file holds, nil when it cannot be read.
+(defun breakline:content (path / lines sum)
+  (setq lines (kora_file_lines path)
+        sum   0)
+  (foreach line lines
+    (foreach code (cons 10 (vl-string->list line)) (setq sum (rem (+ (* sum 31) code) 67108859))))
+  (if lines sum))
+
+;; The name of the block of a symbol: the one made from this content, else one that the drawing does not have yet.
+(defun breakline:block_name (base content / name number)
+  (setq base   (strcat "BREAKLINE_" base)
+        name   base
+        number 1)
+  (while (and (tblsearch "BLOCK" name) (not (breakline:is_made_from name content)))
+    (setq number (1+ number)
+          name   (strcat base "_" (itoa number))))
+  name)
+
+(defun breakline:is_made_from (name content)
+  (equal content (kora_extended (entget (kora_block_record name) (list breakline:application)) breakline:application 1071)))
+
+(defun breakline:tell_content (name content / record)
+  (regapp breakline:application)
+  (setq record (entget (kora_block_record name) (list breakline:application)))
+  (if (null (assoc -3 record))
+    (entmod (append record (list (list -3 (list breakline:application (cons 1071 content))))))))
 
 ;; Turns, scales and moves the reference so that the middle of the symbol's box lies on point.
 (defun breakline:place (reference data point box size / extent scale turn middle centre)
@@ -136,6 +172,7 @@
   (setq reference (entget reference))
   (foreach field (list (cons 8 (kora_field data 8))
                        (cons 10 (mapcar '- point (list (car centre) (cadr centre) (caddr middle))))
+                       '(210 0.0 0.0 1.0)
                        (cons 41 scale) (cons 42 scale) (cons 43 scale) (cons 50 turn))
     (setq reference (kora_with_field reference (car field) (cdr field))))
   (entmod reference))

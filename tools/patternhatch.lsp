@@ -242,11 +242,7 @@
 
 ;; -> nil. Leaves the drawing as it was before the step.
 (defun patternhatch:take_back ()
-  (if previewed
-    (progn
-      (kora_undo_end)
-      (command "_.UNDO" 1)
-      (kora_undo_begin)))
+  (if previewed (kora_take_back))
   (setq previewed nil))
 
 ;; Makes the parts, entity data, and joins them to a block or a group. -> T, nil after a message.

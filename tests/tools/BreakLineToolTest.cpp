@@ -16,17 +16,18 @@ class BreakLineTool : public ToolTest
 {
 protected:
     /// The dialog confirmed with the zigzag symbol, then what the drawing is asked.
-    static QString confirmed(const QString &size, const QString &offset, const QString &answers)
+    static QString confirmed(const QString &size, const QString &offset, const QString &answers,
+                             const QString &symbol = ToolRun::sample(u"zigzag.dxf"_s))
     {
         return u"command BREAKLINE\n"
                "dialog Dlg_QT_Breakline\n"
                "set LbTitleblock %1\nkey LbTitleblock Return\n"
                "set _dist_size %2\nset _dist_offset %3\nfocus acceptButton\nclick acceptButton\n%4"_s.arg(
-                   ToolRun::sample(u"zigzag.dxf"_s), size, offset, answers);
+                   symbol, size, offset, answers);
     }
 };
 
-const QStringList brokenWithNewSymbol = {u"+BLOCK"_s, u"+BLOCK_RECORD"_s, u"+ENDBLK"_s, u"+INSERT"_s};
+const QStringList brokenWithNewSymbol = {u"+APPID"_s, u"+BLOCK"_s, u"+BLOCK_RECORD"_s, u"+ENDBLK"_s, u"+INSERT"_s};
 
 TEST_F(BreakLineTool, GapIsTheSymbolAndItsOffsetsOrTheDistanceOfThePoints)
 {
@@ -78,12 +79,76 @@ TEST_F(BreakLineTool, WhatCannotBeBrokenIsSaidAndNothingChanges)
     }
 }
 
+TEST_F(BreakLineTool, NothingStaysOfWhatWasNotDrawnAndEachSymbolHasABlock)
+{
+    QDir(run.path({})).mkpath(u"other"_s);
+    const QString other = run.path(u"other/zigzag.dxf"_s);
+    const QString empty = run.writeFile(u"empty.dxf"_s, "0\nSECTION\n2\nENTITIES\n0\nENDSEC\n0\nEOF\n");
+    ASSERT_TRUE(QFile::copy(ToolRun::sample(u"sheets/a3.dxf"_s), other));
+    const QString blocks = u"lisp (setq blocks (vl-remove-if-not '(lambda (n) (wcmatch n \"BREAKLINE_*\")) "
+                           "(kora_table_names \"BLOCK\")))\n"_s;
+    const QString at = u"pick 8,1.5\npoint 8,1.5\nanswer Same\n"_s;
+    const struct
+    {
+        const char *what;
+        QString session;
+        const char *check;
+    } rows[] = {
+        {"a locked layer",
+         u"lisp (entmod (kora_with_field (entget (tblobjname \"LAYER\" \"PIPES\")) 70 4))\n"_s +
+             confirmed(u"2"_s, u"0"_s, u"pick 8,1.5\nenter\nexpect-printed \"That line is on a locked layer.\"\n"_s),
+         "(null blocks)"},
+        {"no length",
+         u"lisp (entmake '((0 . \"LINE\") (8 . \"0\") (10 30.0 30.0 0.0) (11 30.0 30.0 0.0)))\n"_s +
+             confirmed(u"2"_s, u"0"_s, u"pick 30,30\nenter\nexpect-printed \"That line has no length.\"\n"_s),
+         "(null blocks)"},
+        {"an empty symbol",
+         confirmed(u"2"_s, u"0"_s, at + u"expect-printed \"The symbol drawing is empty.\"\nexpect-modified no\n"_s,
+                   empty),
+         "(null blocks)"},
+        {"another symbol of the same file name, and the first again",
+         confirmed(u"2"_s, u"0"_s, at) +
+             confirmed(u"2"_s, u"0"_s, u"pick 16,1.5\npoint 16,1.5\nanswer Same\n"_s, other) +
+             confirmed(u"2"_s, u"0"_s, u"pick 4,1.5\npoint 4,1.5\nanswer Same\n"_s),
+         "(and (= 2 (length blocks)) (equal '(\"BREAKLINE_zigzag\" \"BREAKLINE_zigzag_2\" \"BREAKLINE_zigzag\") "
+         "(mapcar "
+         "'(lambda (i) (kora_field (entget i) 2)) (kora_space_inserts))))"},
+        {"in a tilted coordinate system",
+         u"lisp (command \"_.UCS\" \"_X\" 90.0)\n"_s +
+             confirmed(u"2"_s, u"0"_s, u"pickhandle 32\npoint 8,0,-1.5\nanswer Same\n"_s),
+         "(equal '((8.0 1.5 0.0) (0.0 0.0 1.0)) (mapcar '(lambda (c) (kora_field (entget (entlast)) c)) '(10 210)) "
+         "1e-9)"},
+    };
+    for (const auto &row : rows) {
+        SCOPED_TRACE(row.what);
+        plays(row.session + blocks + u"expect-lisp %1\n"_s.arg(QLatin1StringView(row.check)));
+        EXPECT_TRUE(isSound(run.result(plan)));
+    }
+}
+
 TEST_F(BreakLineTool, SelectingNothingForANewSymbolComesBackToTheDialog)
 {
     plays(u"command BREAKLINE\ndialog Dlg_QT_Breakline\ntype name empty\n"
           "click SelectEntities\nenter\ndialog Dlg_QT_Breakline\nclick ButtonCancel\n"
           "expect-printed No symbol was made\nexpect-modified no\n"_s);
     EXPECT_FALSE(QFile::exists(run.path(u"home/Ortakit/BreakLine/empty.dwg"_s)));
+}
+
+TEST_F(BreakLineTool, ANewUserFindsSymbolsAndTitleBlocks)
+{
+    plays(u"command BREAKLINE\ndialog Dlg_QT_Breakline\nclick acceptButton\npick 8,1.5\npoint 8,1.5\nanswer Same\n"
+          "expect-lisp (equal '(8.0 1.5 0.0) (kora_field (entget (entlast)) 10) 1e-9)\n"
+          "command MULTIVIEWSETUP\ndialog Dlg_QT_MultiViewSetup\nrow lstBlocks metric-a3.dxf\nclick InsertTitle\n"
+          "enter\nenter\nenter\nenter\nenter\ndialog Dlg_QT_MultiViewSetup\nclick ButtonCancel\n"
+          "expect-lisp (equal '((0.0 0.0 0.0) (420.0 297.0 0.0)) (kora_block_box \"metric-a3\") 1e-9)\n"_s);
+    int count = 0;
+    for (const QString &folder : {u"home/Ortakit/BreakLine"_s, u"home/Template"_s}) {
+        for (const QFileInfo &starter : QDir(run.path(folder)).entryInfoList(QDir::Files)) {
+            EXPECT_TRUE(isSound(starter.filePath())) << starter.fileName().toStdString();
+            ++count;
+        }
+    }
+    EXPECT_EQ(count, 13);
 }
 
 TEST_F(BreakLineTool, IsOneUndoStep)

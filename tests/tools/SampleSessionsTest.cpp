@@ -41,9 +41,9 @@ TEST_F(SampleSessions, ChangeWhatTheySayAndNothingElse)
         QByteArray holds;
     } rows[] = {
         // The door's line and arc and the piece behind the break; the symbol's five lines, and likewise.
-        {u"breakline-create"_s, u"1+ARC 1+BLOCK 1+BLOCK_RECORD 1+ENDBLK 1+INSERT 2+LINE 1~$HANDSEED 1~LINE"_s,
+        {u"breakline-create"_s, u"1+APPID 1+ARC 1+BLOCK 1+BLOCK_RECORD 1+ENDBLK 1+INSERT 2+LINE 1~$HANDSEED 1~LINE"_s,
          u"Ortakit/BreakLine/door.dwg"_s, "SECTION"},
-        {u"breakline"_s, u"1+BLOCK 1+BLOCK_RECORD 1+ENDBLK 1+INSERT 6+LINE 1~$HANDSEED 1~LINE"_s,
+        {u"breakline"_s, u"1+APPID 1+BLOCK 1+BLOCK_RECORD 1+ENDBLK 1+INSERT 6+LINE 1~$HANDSEED 1~LINE"_s,
          u"Ortakit/breakline.state"_s, "_dist_size="},
         // Three notes, of which one new paragraph is left.
         {u"convertsimplenotes"_s, u"1+MTEXT 1~$HANDSEED"_s, u"Ortakit/convertsimplenotes.state"_s, "word_wrap=FALSE"},

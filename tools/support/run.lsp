@@ -29,6 +29,13 @@
     (princ (strcat "\nError: " message)))
   (kora_end))
 
+;; (kora_take_back) leaves the drawing as it was before kora_begin, or before the last kora_take_back. Something must have
+;; changed since: else the user's last command would be taken back in its place.
+(defun kora_take_back ()
+  (kora_undo_end)
+  (command "_.UNDO" 1)
+  (kora_undo_begin))
+
 ;; (kora_undo_begin) and (kora_undo_end) bracket one undo step; a bracket in which nothing changed leaves none. Neither
 ;; is echoed on the command line.
 (defun kora_undo_begin () (kora:undo "_Begin"))
