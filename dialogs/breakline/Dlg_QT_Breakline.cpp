@@ -6,6 +6,7 @@
 #include "state/DrawingPicker.h"
 #include "state/ModuleFolder.h"
 #include "state/PathMessages.h"
+#include "state/StarterFiles.h"
 #include "ui_Dlg_QT_Breakline.h"
 
 #include <QFileInfo>
@@ -29,6 +30,10 @@ Dlg_QT_Breakline::Dlg_QT_Breakline(QWidget *parent)
     m_ui->setupUi(this);
     setUpButtons();
     m_file = std::make_unique<ElidedPathField>(m_ui->LbTitleblock);
+    ortakit::putStarterFiles(m_symbolFolder, QStringLiteral("BreakLine"));
+    // With a symbol that is there, whoever has chosen none yet can confirm at once.
+    if (const QString usual = m_symbolFolder + QStringLiteral("/zigzag.dxf"); QFileInfo(usual).isFile())
+        m_file->setFullPath(usual);
     new DialogPicture(m_ui->widget_2, QStringLiteral(":/images/breakline.png"));
 
     state().prependKeys({QStringLiteral("_dist_size"), QStringLiteral("_dist_offset")});

@@ -7,6 +7,7 @@
 #include "state/FolderPicker.h"
 #include "state/FullText.h"
 #include "state/PathMessages.h"
+#include "state/StarterFiles.h"
 #include "state/TableRows.h"
 #include "state/TableSelection.h"
 #include "ui_Dlg_QT_MultiViewSetup.h"
@@ -88,6 +89,7 @@ void Dlg_QT_MultiViewSetup::beforeShow()
 
 void Dlg_QT_MultiViewSetup::beforeFirstShow()
 {
+    ortakit::putStarterFiles(templateFolder(), QStringLiteral("Template"));
     setFolder(templateFolder());
     fillCombos();
     // What fills the tables comes first: the rows that the state has selected must be there when it is applied.

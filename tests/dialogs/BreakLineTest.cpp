@@ -51,6 +51,21 @@ TEST_F(BreakLine, ValuesOfEarlierCallsStayUntilCreate)
     EXPECT_EQ(text("name"), QString());
 }
 
+TEST_F(BreakLine, TheUsualSymbolsAreThereUnlessTheFolderHasOthers)
+{
+    const QDir folder(host.path(u"Ortakit/BreakLine"_s));
+    show();
+    EXPECT_EQ(path(), folder.filePath(u"zigzag.dxf"_s));
+    EXPECT_TRUE(isEnabled("acceptButton"));
+    EXPECT_GE(folder.entryList({u"*.dxf"_s}).size(), 3);
+    EXPECT_TRUE(QFileInfo(path()).isWritable());
+    for (const QString &name : folder.entryList({u"*.dxf"_s}))
+        QFile::remove(folder.filePath(name));
+    host.writeFile(u"Ortakit/BreakLine/own.dwg"_s, "0\nEOF\n");
+    const Dlg_QT_Breakline another;
+    EXPECT_EQ(folder.entryList(QDir::Files), QStringList{u"own.dwg"_s});
+}
+
 TEST_F(BreakLine, OkNeedsAnExistingFile)
 {
     const std::pair<QString, bool> rows[] = {
