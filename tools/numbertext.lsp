@@ -7,7 +7,8 @@
 ;;; other from top to bottom; by Y, texts beside each other from left to right; by choice; by distance from a point; or
 ;;; along the line from a first point to a second. Of a text that is to be replaced the first occurrence in each text is
 ;;; taken, in the same letter case; texts without it keep what they say and use up no number. Formatting codes stay, a
-;;; number gets the format of what it stands beside.
+;;; number gets the format of what it stands beside. Texts that show nothing and texts on locked layers stay as they are
+;;; and use up no number.
 
 (setq numbertext:filter '((0 . "TEXT,MTEXT")))
 
@@ -36,13 +37,16 @@
         ((and (kora_state_is state "placement_replace") (= (kora_state_value state "search") ""))
          "There is no text to find.")))
 
-(defun numbertext:run (texts state / open locked points)
-  (setq open   (kora_unlocked texts)
-        locked (- (length texts) (length open)))
+(defun numbertext:run (texts state / open points)
+  (setq open (kora_usable texts (list kora_on_locked_layer '(numbertext:is_empty "empty"))))
   (if (kora_state_is state "placement_replace")
     (setq open (numbertext:with_search open (kora_state_value state "search"))))
   (if (setq points (numbertext:points state))
-    (numbertext:write (numbertext:sorted open state points) state locked)))
+    (numbertext:write (numbertext:sorted open state points) state)))
+
+;; Whether a text shows nothing: there is nothing to find its number by.
+(defun numbertext:is_empty (data)
+  (= "" (kora_string_trim (kora_plain_text (kora_text_parts data)))))
 
 ;; -> the points that the order is relative to, in the current coordinate system; T when it needs none, nil when the user
 ;; gives up.
@@ -104,7 +108,7 @@
 (defun numbertext:has (part search)
   (and (= (car part) 'TEXT) (vl-string-search search (vl-list->string (cdr part)))))
 
-(defun numbertext:write (texts state locked / number step places count data)
+(defun numbertext:write (texts state / number step places count data)
   (setq number (kora_state_real state "tx_init")
         step   (kora_state_real state "tx_step")
         places (max (numbertext:places (kora_state_value state "tx_init"))
@@ -114,7 +118,7 @@
     (setq data (entget text))
     (if (entmod (kora_with_content data (numbertext:content data state (numbertext:label state (+ number (* count step)) places))))
       (setq count (1+ count))))
-  (kora_done (strcat (kora_number_of count "text") " numbered.") locked))
+  (kora_alert_message (strcat (kora_number_of count "text") " numbered.")))
 
 ;; How many digits a typed number has behind its point.
 (defun numbertext:places (typed / point)

@@ -8,6 +8,7 @@
 ;;; support/texts.lsp     what texts say, with and without their formatting codes
 ;;; support/textboxes.lsp where texts stand, and outlines around them
 ;;; support/outlines.lsp  what entities look like: pieces, polygons, frames of blocks
+;;; support/companions.lsp masks and frames of texts, and to which text they belong
 ;;; support/areas.lsp     areas within polygons, grids over them, cutting at their edge
 ;;; support/patterns.lsp  copies of blocks, drawings and masks over an area, for PATTERNHATCH
 ;;; support/groups.lsp    groups of entities
@@ -23,6 +24,7 @@
 ;;; support/viewports.lsp viewports of the sheet
 
 (foreach file '("strings" "run" "state" "entities" "selection" "texts" "textboxes" "catalogue" "files" "dimstyles" "arrows"
-                "blocks" "attributes" "replacing" "drawing" "variables" "viewports" "outlines" "areas" "patterns" "groups")
+                "blocks" "attributes" "replacing" "drawing" "variables" "viewports" "outlines" "areas" "patterns" "groups"
+                "companions")
   (load (strcat "support/" file ".lsp")))
 (princ)

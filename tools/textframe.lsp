@@ -4,8 +4,9 @@
 ;;; dimensions are the same for all, and whether they are filled. Frames are on the layers of their texts, turned with
 ;;; them; a filling lies behind the text and over what was there. Dimensions that stay constant are those of the largest
 ;;; text. The straight sides of a slot are as long as the text, its ends are half circles. A circle goes around the
-;;; corners of its text.
+;;; corners of its text. Run again, it asks whether the frames of an earlier run are replaced.
 
+(setq textframe:application "KORA_TEXTFRAME")
 (setq textframe:filter '((0 . "TEXT,MTEXT,ATTDEF")))
 
 (defun c:textframe (/ *error* kora:variables texts file)
@@ -17,17 +18,31 @@
     (textframe:run texts (kora_readstate file)))
   (kora_end))
 
-(defun textframe:run (texts state / open rows framed colour)
+(defun textframe:run (texts state / open old framed colour made)
   (setq open   (kora_unlocked texts)
+        old    (textframe:ask_old (kora_companions open textframe:application))
         colour (if (kora_state_is state "bk_hatch") (atoi (kora_state_value state "color"))))
   (foreach row (textframe:rows open state)
-    (if (apply 'textframe:make (append (cdr row) (list colour)))
-      (setq framed (cons (car row) framed))))
+    (if (setq made (apply 'textframe:make (append (cdr row) (list colour))))
+      (progn
+        (foreach part made (kora_join_companion part (car row) textframe:application))
+        (setq framed (cons (car row) framed)))))
+  (kora_remove_companions old framed)
   (if (and framed colour)
     (if (kora_field (entget (car framed)) 330)
       (kora_bring_to_front framed)
       (kora_alert_message "A drawing of this version cannot have a filled background.")))
   (kora_done_with "framed" (length framed) (length open) (length texts)))
+
+;; -> the frames of earlier runs that are to go.
+(defun textframe:ask_old (old / count)
+  (setq count (sslength (kora_selection (mapcar 'cadr old))))
+  (if old
+    (progn
+      (initget "Yes No")
+      (if (/= "No" (getkword (strcat "\n" (kora_number_of count "text") (if (= count 1) " has a frame" " have frames")
+                                     " already. Replace? [Yes/No] <Yes>: ")))
+        old))))
 
 ;; -> list of (text data box outline) of the texts that show something.
 (defun textframe:rows (texts state / data box rows)
@@ -40,10 +55,11 @@
           (textframe:shapes (mapcar 'caddr rows) state
                             (max 0.0 (cond ((kora_state_real state "offset")) (0.0))))))
 
-;; The frame, and below it its filling when there is a colour. -> T, nil when it cannot be made.
-(defun textframe:make (data box outline colour)
-  (if colour (textframe:fill data box outline colour))
-  (textframe:draw data box outline))
+;; The frame, and below it its filling when there is a colour. -> their entity names, nil when the frame cannot be made.
+(defun textframe:make (data box outline colour / filling frame)
+  (if colour (setq filling (textframe:fill data box outline colour)))
+  (if (setq frame (textframe:draw data box outline))
+    (if filling (list frame filling) (list frame))))
 
 ;; -> for each box the outline of its frame: vertices (x y bulge) from the middle of the box, two for a circle.
 (defun textframe:shapes (boxes state offset / sizes)
@@ -79,15 +95,15 @@
                     (list (cons 10 (if flat (list (car point) (cadr point)) point)) (cons 42 (caddr vertex))))
                  (kora_box_points box outline) outline)))
 
-;; -> T after drawing the frame, nil when it cannot be made.
+;; -> the entity name of the frame, nil when it cannot be made.
 (defun textframe:draw (data box outline)
   (cond
     ((= (length outline) 2)
-     (entmake (append '((0 . "CIRCLE") (100 . "AcDbEntity")) (kora_companion_fields data)
+     (entmakex (append '((0 . "CIRCLE") (100 . "AcDbEntity")) (kora_companion_fields data)
                       (list '(100 . "AcDbCircle") (cons 10 (car box)) (cons 40 (car (cadr outline)))
                             (cons 210 (kora_normal data))))))
     ((assoc 330 data)
-     (entmake (append '((0 . "LWPOLYLINE") (100 . "AcDbEntity")) (kora_companion_fields data)
+     (entmakex (append '((0 . "LWPOLYLINE") (100 . "AcDbEntity")) (kora_companion_fields data)
                       (list '(100 . "AcDbPolyline") (cons 90 (length outline)) '(70 . 1) (cons 38 (caddr (car box))))
                       (textframe:vertices box outline T)
                       (list (cons 210 (kora_normal data))))))
@@ -101,12 +117,12 @@
   (while fields
     (entmake (append '((0 . "VERTEX")) (kora_companion_fields data) (list (car fields) (cadr fields))))
     (setq fields (cddr fields)))
-  (entmake '((0 . "SEQEND"))))
+  (entmakex '((0 . "SEQEND"))))
 
 ;; An early drawing cannot have hatches.
 (defun textframe:fill (data box outline colour)
   (if (assoc 330 data)
-    (entmake (append '((0 . "HATCH") (100 . "AcDbEntity")) (kora_companion_fields data)
+    (entmakex (append '((0 . "HATCH") (100 . "AcDbEntity")) (kora_companion_fields data)
                      (list (cons 62 colour) '(100 . "AcDbHatch") (list 10 0.0 0.0 (caddr (car box)))
                            (cons 210 (kora_normal data)) '(2 . "SOLID") '(70 . 1) '(71 . 0) '(91 . 1) '(92 . 3)
                            '(72 . 1) '(73 . 1) (cons 93 (length outline)))

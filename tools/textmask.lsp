@@ -21,39 +21,16 @@
 
 (defun textmask:run (texts state / open old masked masks made)
   (setq open (kora_unlocked texts)
-        old  (textmask:masks_of open))
+        old  (kora_companions open textmask:application))
   (foreach text open
     (if (setq made (textmask:make (entget text) state))
       (setq masks  (cons made masks)
             masked (cons text masked))))
-  (textmask:remove old masked)
-  (if masked (textmask:join (kora_bring_to_front (reverse masked)) (reverse masks)))
+  (kora_remove_companions old masked)
+  (if masked
+    (mapcar '(lambda (text mask) (kora_join_companion mask text textmask:application))
+            (kora_bring_to_front (reverse masked)) (reverse masks)))
   (kora_done_with "masked" (length masked) (length open) (length texts)))
-
-;; -> list of (mask text), the masks that earlier runs made for these texts.
-(defun textmask:masks_of (texts / chosen handle text found)
-  (setq chosen (kora_selection texts))
-  (foreach mask (kora_selection_to_list (ssget "_X" (list (list -3 (list textmask:application)))))
-    (setq handle (kora_field (cdadr (assoc -3 (entget mask (list textmask:application)))) 1005)
-          text   (if handle (handent handle)))
-    (if (and text (ssmemb text chosen))
-      (setq found (cons (list mask text) found))))
-  found)
-
-;; Takes away the old masks of texts that have a new one.
-(defun textmask:remove (old masked / chosen)
-  (setq chosen (kora_selection masked))
-  (foreach pair old
-    (if (and (ssmemb (cadr pair) chosen) (not (kora_is_locked (entget (car pair)))))
-      (entdel (car pair)))))
-
-;; Tells each mask which text it belongs to. A drawing without handles cannot say so.
-(defun textmask:join (texts masks / handle)
-  (regapp textmask:application)
-  (mapcar '(lambda (text mask)
-             (if (setq handle (kora_field (entget text) 5))
-               (entmod (list (cons -1 mask) (list -3 (list textmask:application (cons 1005 handle)))))))
-          texts masks))
 
 ;; -> the entity name of a new mask behind the text, nil when there is nothing to mask or it cannot be made.
 (defun textmask:make (data state / box points margin)

@@ -186,6 +186,8 @@ TEST_F(TextTools, NumbersFollowOrderAndFormat)
         one("under the line", u"(text 0 0 \"%%uRoom%%u\" nil)"_s, u"click placement_sufix"_s, u"\"%%uRoom7%%u\""_s),
         one("locked", u"(text 0 0 \"a\" '((8 . \"SHUT\"))) (text 0 2 \"b\" nil)"_s, u"click placement_over"_s,
             u"\"a\" \"7\""_s),
+        one("empty and blank", u"(text 0 4 \"\" nil) (text 0 2 \" \" nil) (text 0 0 \"b\" nil)"_s,
+            u"click placement_over"_s, u"\"\" \" \" \"7\""_s),
     };
     playsRows(u"NUMBERTEXT"_s, u"Dlg_QT_numbertext"_s, rows);
 }
@@ -234,6 +236,8 @@ TEST_F(TextTools, FramesHaveTheSizeOfTheirTextsOrOfTheLargest)
             "w (car (cadr (textbox '((1 . \"HH\") (40 . 1.0))))))"_s.arg(clicks, type),
             check};
     };
+    const QString accept = u"click acceptButton\n"_s;
+    const QString again = u"lisp (chosen es)\ncommand TEXTFRAME\ndialog Dlg_QT_TextFrame\n"_s;
     const QString poly = u"LWPOLYLINE"_s;
     const QString same = u"(equal (mapcar 'car sizes) (list %1 %2) 1e-6)"_s;
     const Row rows[] = {
@@ -248,6 +252,12 @@ TEST_F(TextTools, FramesHaveTheSizeOfTheirTextsOrOfTheLargest)
             "1e-6)"_s),
         row("no distance", u"set offset \"\"\nclick type_rectangle\nclick variable\nclick bk_hatch\nset color 1"_s,
             poly, u"(and (equal (mapcar 'cadr sizes) '(1.0 1.0) 1e-6) (= 2 (length (all \"HATCH\"))))"_s),
+        {"again, in place of the old and beside them", u"(text 0 0 \"HH\" nil) (text 0 9 \"HH\" nil)"_s,
+         u"set offset 0.5\nclick type_rectangle\nclick bk_hatch\nset color 1\n"_s + accept + again +
+             u"click type_circle\n"_s + accept +
+             u"answer Yes\nexpect-printed \"2 texts have frames already.\"\nlisp (setq es (cdr es))\n"_s + again +
+             accept + u"answer No\nexpect-printed \"1 text has a frame already.\"\n"_s,
+         u"(equal '(0 3 3) (mapcar 'length (mapcar 'all '(\"LWPOLYLINE\" \"CIRCLE\" \"HATCH\"))))"_s},
     };
     playsRows(u"TEXTFRAME"_s, u"Dlg_QT_TextFrame"_s, rows);
 }
