@@ -25,8 +25,10 @@
                              ("INSERTMSTITLE"   . multiviewsetup:draw_sheet)))
 
 ;; Metres of a unit, by its number in drawings; and these numbers in the order in which the dialog offers the units.
-(setq multiviewsetup:units   '((1 . 0.0254) (2 . 0.3048) (4 . 0.001) (5 . 0.01) (6 . 1.0) (10 . 0.9144) (14 . 0.1))
-      multiviewsetup:offered '(2 1 6 4))
+(setq multiviewsetup:units   '((1 . 0.0254) (2 . 0.3048) (3 . 1609.344) (4 . 0.001) (5 . 0.01) (6 . 1.0) (7 . 1000.0)
+                               (8 . 2.54e-8) (9 . 2.54e-5) (10 . 0.9144) (11 . 1e-10) (12 . 1e-9) (13 . 1e-6) (14 . 0.1)
+                               (15 . 10.0) (16 . 100.0) (21 . 0.30480060960121924))
+      multiviewsetup:offered '((2 . "Feet") (1 . "Inches") (6 . "Meters") (4 . "Milimeters")))
 
 ;; More viewports than this are not shown at a time.
 (defun multiviewsetup:most () 64)
@@ -35,11 +37,23 @@
   (setq chosen (kora_chosen '((0 . "VIEWPORT")))
         file   (kora_statefile "multiviewsetup"))
   (kora_begin (list '("CMDECHO" . 0) (cons "TILEMODE" (getvar "TILEMODE"))))
+  (multiviewsetup:suggest_unit file)
   (while (and (Dlg_MultiViewSetup file)
               (setq state (kora_readstate file)
                     step  (assoc (kora_action state) multiviewsetup:steps)))
     (multiviewsetup:perform step))
   (kora_end))
+
+;; The unit of the sheet is the drawing's own where the dialog offers that; a drawing without a unit keeps the last one.
+(defun multiviewsetup:suggest_unit (file / unit)
+  (setq unit (cond ((assoc (getvar "INSUNITS") multiviewsetup:offered))
+                   ((= (kora_state_value (kora_readstate file) "unitstitle") "")
+                    (assoc (if (= (getvar "MEASUREMENT") 1) 4 1) multiviewsetup:offered))))
+  (if unit
+    (kora_writestate file (list (cons "unitstitle" (cdr unit))
+                                (cons "unitstitle_index"
+                                      (itoa (- (length multiviewsetup:offered)
+                                               (length (member unit multiviewsetup:offered)))))))))
 
 ;; Does a step, as an undo step of its own. One that did nothing leaves the space in which the user was.
 (defun multiviewsetup:perform (step / space)
@@ -100,9 +114,15 @@
   (if redefine (command "_.-INSERT" (strcat name "=" path) nil))
   (setq before (entlast))
   (if (kora_state_is state "xref")
-    (command "_.-XREF" "_Attach" path (trans place 0 1) 1.0 1.0 (multiviewsetup:turn))
+    (progn
+      (setq scale (multiviewsetup:unit_scale (multiviewsetup:file_unit path) state))
+      (command "_.-XREF" "_Attach" path)
+      ;; What is no drawing ends the command here.
+      (if (= 1 (logand 1 (getvar "CMDACTIVE")))
+        (command (trans place 0 1) scale scale (multiviewsetup:turn))))
     (if (tblsearch "BLOCK" name)
-      (multiviewsetup:insert name place (setq scale (multiviewsetup:unit_scale name state)))))
+      (multiviewsetup:insert name place
+                             (setq scale (multiviewsetup:unit_scale (multiviewsetup:block_unit name) state)))))
   (setq title (entlast))
   (cond
     ((or (equal title before) (/= (kora_field (entget title) 0) "INSERT"))
@@ -127,12 +147,28 @@
 (defun multiviewsetup:turn ()
   (angtos (angle '(0.0 0.0) (trans '(1.0 0.0 0.0) 0 1 T)) (getvar "AUNITS") 8))
 
-;; From the units of the block to those of the sheet, 1.0 for a block that has none.
-(defun multiviewsetup:unit_scale (name state / record own)
-  (setq record (kora_field (entget (tblobjname "BLOCK" name)) 330)
-        own    (cdr (assoc (if record (kora_field (entget record) 70)) multiviewsetup:units)))
+;; -> the number of the unit of a block, nil where its drawing cannot say it.
+(defun multiviewsetup:block_unit (name / record)
+  (setq record (kora_owner (entget (tblobjname "BLOCK" name))))
+  (if record (kora_field (entget record) 70)))
+
+;; The same of a drawing file that is not in the drawing; nil for one that is no DXF text.
+(defun multiviewsetup:file_unit (path / handle line unit)
+  (if (setq handle (open path "r" "bytes"))
+    (progn
+      (while (and (null unit) (setq line (read-line handle)) (/= (setq line (kora_string_trim line)) "ENDSEC"))
+        (if (= line "$INSUNITS")
+          (setq line (read-line handle)
+                line (read-line handle)
+                unit (if line (atoi line)))))
+      (close handle)))
+  unit)
+
+;; From a unit to that of the sheet, 1.0 for none.
+(defun multiviewsetup:unit_scale (unit state / own)
+  (setq own (cdr (assoc unit multiviewsetup:units)))
   (if own
-    (/ own (cdr (assoc (nth (multiviewsetup:choice state "unitstitle") multiviewsetup:offered) multiviewsetup:units)))
+    (/ own (cdr (assoc (car (nth (multiviewsetup:choice state "unitstitle") multiviewsetup:offered)) multiviewsetup:units)))
     1.0))
 
 ;; -> the number of the item that is chosen in a combo box, from 0.

@@ -62,6 +62,12 @@ expect-printed "The limits stay as they are"
 expect-printed "The drawing has an external reference of the name a3 already."
 expect-lisp (= 4 (logand 4 (cdr (assoc 70 (tblsearch "BLOCK" "a3"))))) ~ expect-count INSERT 1
 )"},
+    {"the sheet has the drawing's unit, for external references as well", R"(
+lisp (setvar "INSUNITS" 6)
+command MULTIVIEWSETUP ~ > psTitle ~ expect UnitsTitle Meters ~ row lstBlocks a3.dxf ~ check xref yes
+click InsertTitle ~ > psTitle ~ click ButtonCancel
+expect-lisp (equal 0.001 (cdr (assoc 41 (entget (ssname (ssget "_X" '((0 . "INSERT"))) 0)))))
+)"},
     {"arrays that cannot be", R"(
 command MULTIVIEWSETUP ~ > psCreate ~ click arrayViewp ~ set viewrows 1e9 ~ click CreateViewports ~ > psCreate
 set viewrows 0 ~ click CreateViewports ~ > psCreate ~ set viewrows 2.5 ~ click CreateViewports ~ > psCreate
