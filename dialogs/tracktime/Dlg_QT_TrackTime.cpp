@@ -111,7 +111,7 @@ bool Dlg_QT_TrackTime::eventFilter(QObject *watched, QEvent *event)
     if (watched != m_ui->tblDrawings || !isSpace)
         return ToolDialog::eventFilter(watched, event);
     // In whatever column the user is: all on, unless all are on already.
-    Track(anySelected([](const DrawingTime &drawing) { return !drawing.time().isTracked; }));
+    Track(anySelected([](const DrawingTime &drawing) { return drawing.isReadable() && !drawing.time().isTracked; }));
     return true;
 }
 
@@ -267,7 +267,7 @@ QTableWidgetItem *Dlg_QT_TrackTime::makeItem(int drawing, TimeColumn column) con
                                            : std::make_unique<QTableWidgetItem>();
     if (column == TimeColumn::Name)
         item->setData(drawingRole, drawing);
-    if (column == TimeColumn::Tracked)
+    if (column == TimeColumn::Tracked && shown.isReadable())
         item->setFlags(item->flags() | Qt::ItemIsUserCheckable);
     if (column == TimeColumn::Hours)
         item->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
@@ -277,15 +277,29 @@ QTableWidgetItem *Dlg_QT_TrackTime::makeItem(int drawing, TimeColumn column) con
     return item.release();
 }
 
+/// What the table says in a word about a drawing.
+QString Dlg_QT_TrackTime::trackedText(const DrawingTime &drawing) const
+{
+    if (!drawing.isReadable())
+        return tr("Not readable");
+    return drawing.time().isTracked ? tr("On") : tr("Off");
+}
+
 /// Brings the cells of a row up to date.
 void Dlg_QT_TrackTime::showDrawing(int row)
 {
     const QSignalBlocker noSignals(m_ui->tblDrawings);
-    const ortakit::EditingTime time = m_drawings[drawingAt(row)].time();
+    const DrawingTime &drawing = m_drawings[drawingAt(row)];
+    const ortakit::EditingTime time = drawing.time();
     QTableWidgetItem &tracked = *m_ui->tblDrawings->item(row, int(TimeColumn::Tracked));
+    if (!drawing.isReadable()) {
+        tracked.setText(trackedText(drawing));
+        tracked.setToolTip(QStringLiteral("<p>%1</p>").arg(drawing.problem.toHtmlEscaped()));
+        return;
+    }
     const QString limit = time.idleLimitMinutes > 0 ? tr(", %1 min").arg(time.idleLimitMinutes) : QString();
     tracked.setCheckState(time.isTracked ? Qt::Checked : Qt::Unchecked);
-    tracked.setText(time.isTracked ? tr("On") + limit : tr("Off"));
+    tracked.setText(trackedText(drawing) + (time.isTracked ? limit : QString()));
     tracked.setToolTip(time.isTracked && limit.isEmpty() ? tr("Every pause counts.") : QString());
     m_ui->tblDrawings->item(row, int(TimeColumn::Hours))->setText(hoursText(time.hours));
 }
@@ -337,7 +351,8 @@ void Dlg_QT_TrackTime::ClickHeaderTable(int column)
 void Dlg_QT_TrackTime::SelectChanged()
 {
     const auto isTracked = [](const DrawingTime &drawing) { return drawing.time().isTracked; };
-    m_ui->btnTrackOn->setEnabled(anySelected(std::not_fn(isTracked)));
+    m_ui->btnTrackOn->setEnabled(
+        anySelected([](const DrawingTime &drawing) { return drawing.isReadable() && !drawing.time().isTracked; }));
     m_ui->btnTrackOff->setEnabled(anySelected(isTracked));
     m_ui->btnIdle->setEnabled(anySelected(std::mem_fn(&DrawingTime::hasLimit)));
     m_ui->btnReset->setEnabled(anySelected([](const DrawingTime &drawing) { return drawing.time().hours > 0; }));
@@ -397,7 +412,8 @@ void Dlg_QT_TrackTime::ExportTable()
     QList<QStringList> rows{tr("Name;Track Active;EditTime (hr)").split(u';')};
     for (int row = 0; row < m_ui->tblDrawings->rowCount(); ++row) {
         const DrawingTime &drawing = m_drawings[drawingAt(row)];
-        rows.append({drawing.name, drawing.time().isTracked ? tr("On") : tr("Off"), hoursText(drawing.time().hours)});
+        rows.append(
+            {drawing.name, trackedText(drawing), drawing.isReadable() ? hoursText(drawing.time().hours) : QString()});
     }
     const QChar separator = chosen.endsWith(QLatin1String(".csv"), Qt::CaseInsensitive) ? u';' : u'\t';
     QString error;

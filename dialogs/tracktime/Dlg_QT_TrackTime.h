@@ -61,6 +61,7 @@ private:
     bool mayDropChanges();
     void showListedFolder();
     QTableWidgetItem *makeItem(int drawing, TimeColumn column) const;
+    QString trackedText(const DrawingTime &drawing) const;
     void showDrawing(int row);
     void showTotal();
     QList<int> shownDrawings() const;

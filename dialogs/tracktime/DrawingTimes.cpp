@@ -55,6 +55,8 @@ EditingTime DrawingTime::time() const
 
 void DrawingTime::setTracked(bool isTracked, qint32 limitOfNew)
 {
+    if (!isReadable())
+        return;
     change.isTracked = differing(isTracked, stored.value_or(EditingTime()).isTracked);
     if (!stored)
         change.idleLimitMinutes = isTracked ? std::optional(limitOfNew) : std::nullopt;
@@ -94,8 +96,8 @@ DrawingTime DrawingTimeReader::read(const QString &path) const
     const auto open = std::find_if(m_open.cbegin(), m_open.cend(),
                                    [&canonical](const auto &drawing) { return drawing.path == canonical; });
     if (open == m_open.cend()) {
-        found.stored =
-            ortakit::editingTimeFromChain(CKvUtils::drawingRecord(path, ortakit::editingTimeRecordName()).get());
+        found.stored = ortakit::editingTimeFromChain(
+            CKvUtils::drawingRecord(path, ortakit::editingTimeRecordName(), &found.problem).get());
         return found;
     }
     found.isOpen = true;

@@ -14,6 +14,8 @@ struct DrawingTime
     bool isOpen = false;
     /// As the drawing has it; nothing without a record or with a damaged one.
     std::optional<ortakit::EditingTime> stored = {};
+    /// Why the file cannot be read as a drawing; empty when it can. It cannot be changed then.
+    QString problem = {};
     ortakit::EditingTimeChange change = {};
 
     /// As it will be.
@@ -22,6 +24,7 @@ struct DrawingTime
     /// Whether there is an idle limit to change: what was never tracked has none, and what is damaged stays as it is
     /// until it is tracked.
     bool hasLimit() const { return stored || time().isTracked; }
+    bool isReadable() const { return problem.isEmpty(); }
 
     /// A drawing that was not tracked before begins with `limitOfNew`.
     void setTracked(bool isTracked, qint32 limitOfNew);

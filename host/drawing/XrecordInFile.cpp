@@ -28,8 +28,10 @@ Finding findInPieces(QIODevice &file, QStringView name, const PieceSizes &sizes)
     const FileHead head = readHead(file, sizes.head);
     if (head.kind == FileHead::Kind::Doubtful)
         return {};
-    if (head.kind == FileHead::Kind::NoDrawing || head.version < Version::R13)
+    if (head.kind == FileHead::Kind::Complete && head.version < Version::R13)
         return {true};
+    if (head.kind == FileHead::Kind::NoDrawing)
+        return {};
     const QByteArray objects = readFromObjects(file, sizes.tail);
     return objects.isEmpty() || hasLoneCarriageReturn(objects) ? Finding() : findXrecord(objects, head, name);
 }
@@ -41,27 +43,45 @@ QString withPath(const QString &path, const QString &message)
 
 } // namespace
 
-std::optional<FieldList> readXrecord(QIODevice &file, QStringView name, const PieceSizes &sizes)
+std::optional<FieldList> readXrecord(QIODevice &file, QStringView name, const PieceSizes &sizes, QString *error)
 {
+    const auto failed = [error](const QString &reason) -> std::optional<FieldList> {
+        if (error)
+            *error = reason;
+        return {};
+    };
     const qint64 size = file.size();
     if (size >= largestFile)
-        return {};
+        return failed(u"the file is larger than 4 GB"_s);
+    if (!file.seek(0))
+        return failed(file.errorString());
+    // Those of other programs are not read whole only to be refused.
+    if (const QByteArray start = file.peek(64); isDwg(start) || isBinaryDxf(start))
+        return failed(foreignContent(start));
     Finding found = findInPieces(file, name, sizes);
     if (found.isCertain)
         return std::move(found.data);
     if (!file.seek(0))
-        return {};
+        return failed(file.errorString());
     const ReadResult whole = Drawing::fromBytes(file.read(size));
-    return whole ? xrecordOf(*whole.drawing, name) : std::nullopt;
+    return whole ? xrecordOf(*whole.drawing, name) : failed(whole.error.message());
 }
 
-std::optional<FieldList> xrecordInFile(const QString &path, QStringView name)
+std::optional<FieldList> xrecordInFile(const QString &path, QStringView name, QString *error)
 {
+    QString reason;
     // Opening a pipe would wait for somebody to write into it.
     QFile file(path);
-    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
-        return {};
-    return readXrecord(file, name);
+    std::optional<FieldList> found;
+    if (!QFileInfo(path).isFile())
+        reason = u"this is not a file"_s;
+    else if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
+        reason = file.errorString();
+    else
+        found = readXrecord(file, name, {}, &reason);
+    if (error)
+        *error = reason.isEmpty() ? QString() : withPath(path, reason);
+    return found;
 }
 
 SaveResult setXrecordInFile(const QString &path, const QString &name, const FieldList &data)

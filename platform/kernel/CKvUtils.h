@@ -67,9 +67,10 @@ public:
     static CKvBlockCopy copyBlock(OdDbDatabase *source, const OdString &name, OdDbDatabase *target);
     /// The data of the extension record `name` (any case) in the named-object dictionary of the drawing file at `path`,
     /// which need not be open, as OdDbXrecord::rbChain() gives it. Null when the drawing has no such record or one
-    /// without data, and when the file cannot be read as a drawing. Many files are read one after the other, so a host
+    /// without data, and when the file cannot be read as a drawing: the reason is in `error` then, which is empty
+    /// otherwise. Many files are read one after the other, so a host
     /// should not read more of them than it has to.
-    static OdResBufPtr drawingRecord(const OdString &path, const OdString &name);
+    static OdResBufPtr drawingRecord(const OdString &path, const OdString &name, OdString *error = nullptr);
     /// Gives that record this data, or makes it. The file is replaced whole or not at all, and nothing else in it
     /// changes. False, with the reason in `error`, when it is not a drawing or cannot be written, its version has no
     /// room for such records, or the name stands for something else. Not for drawings that are open.

@@ -174,9 +174,10 @@ TEST_F(TrackTime, WritesWhatWasChangedWithOkOnly)
 TEST_F(TrackTime, NamesFilesThatCannotBeWrittenAndWritesTheOthers)
 {
     QFile::setPermissions(path(u"B.DXF"_s), QFile::ReadOwner);
+    host.writeFile(u"project/cut.dxf"_s, file(u"a.dxf"_s));
+    click("btnRefresh");
     host.writeFile(u"project/cut.dxf"_s, file(u"a.dxf"_s).chopped(100));
     const QByteArray kept = file(u"B.DXF"_s) + file(u"cut.dxf"_s);
-    click("btnRefresh");
     table()->selectAll();
     click("btnTrackOn");
     const QStringList shown = shownBy("acceptButton", {QMessageBox::Ok});
@@ -189,6 +190,32 @@ TEST_F(TrackTime, NamesFilesThatCannotBeWrittenAndWritesTheOthers)
     EXPECT_EQ(stored(u"c 2.dxf"_s), (EditingTime{true, 20, 0, 0}));
     EXPECT_EQ((isRoot ? QByteArray() : file(u"B.DXF"_s)) + file(u"cut.dxf"_s),
               isRoot ? kept.last(file(u"cut.dxf"_s).size()) : kept);
+}
+
+TEST_F(TrackTime, ShowsWhatItCannotReadAndLeavesItAlone)
+{
+    QDir(folder).removeRecursively();
+    const std::pair<QString, QByteArray> files[] = {{u"cut.dxf"_s, "0\nSECTION\n2\nHEADER\n9\n$ACADVER\n1\nAC1015\n"},
+                                                    {u"empty.dwg"_s, {}},
+                                                    {u"other.dwg"_s, "AC1032" + QByteArray(200, '\0')},
+                                                    {u"words.dxf"_s, "no drawing <b>\n"}};
+    QStringList listed;
+    for (const auto &[name, content] : files) {
+        host.writeFile(u"project/"_s + name, content);
+        listed.append(name + u"|Not readable|"_s);
+    }
+    click("btnRefresh");
+    EXPECT_EQ(this->rows(), listed.join(u"; "_s));
+    table()->selectAll();
+    EXPECT_EQ(enabledOf(u"btnTrackOn btnTrackOff btnIdle btnReset"_s), QString());
+    for (const auto &[name, content] : files) {
+        EXPECT_TRUE(table()->item(rowOf(name), 1)->toolTip().contains(name)) << name.toStdString();
+        toggle(name);
+    }
+    EXPECT_EQ(this->rows(), listed.join(u"; "_s));
+    EXPECT_EQ(shownBy("acceptButton"), QStringList());
+    for (const auto &[name, content] : files)
+        EXPECT_EQ(file(name), content) << name.toStdString();
 }
 
 TEST_F(TrackTime, AsksBeforeChangesAreLost)

@@ -96,9 +96,9 @@ CKvBlockCopy CKvUtils::copyBlock(OdDbDatabase *source, const OdString &name, OdD
     return result;
 }
 
-OdResBufPtr CKvUtils::drawingRecord(const OdString &path, const OdString &name)
+OdResBufPtr CKvUtils::drawingRecord(const OdString &path, const OdString &name, OdString *error)
 {
-    const std::optional<host::drawing::FieldList> data = host::drawing::xrecordInFile(path, name);
+    const std::optional<host::drawing::FieldList> data = host::drawing::xrecordInFile(path, name, error);
     return data ? host::kernel::chainFromFields(*data) : nullptr;
 }
 
