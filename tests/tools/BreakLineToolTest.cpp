@@ -116,7 +116,8 @@ TEST_F(BreakLineTool, NothingStaysOfWhatWasNotDrawnAndEachSymbolHasABlock)
         {"in a tilted coordinate system",
          u"lisp (command \"_.UCS\" \"_X\" 90.0)\n"_s +
              confirmed(u"2"_s, u"0"_s, u"pickhandle 32\npoint 8,0,-1.5\nanswer Same\n"_s),
-         "(equal '((8.0 1.5 0.0) (0.0 0.0 1.0)) (mapcar '(lambda (c) (kora_field (entget (entlast)) c)) '(10 210)) "
+         "(equal '((8.0 1.5 0.0) (0.0 0.0 1.0)) (mapcar '(lambda (c) (kora_field (entget (car (kora_space_inserts))) "
+         "c)) '(10 210)) "
          "1e-9)"},
     };
     for (const auto &row : rows) {
@@ -137,7 +138,7 @@ TEST_F(BreakLineTool, SelectingNothingForANewSymbolComesBackToTheDialog)
 TEST_F(BreakLineTool, ANewUserFindsSymbolsAndTitleBlocks)
 {
     plays(u"command BREAKLINE\ndialog Dlg_QT_Breakline\nclick acceptButton\npick 8,1.5\npoint 8,1.5\nanswer Same\n"
-          "expect-lisp (equal '(8.0 1.5 0.0) (kora_field (entget (entlast)) 10) 1e-9)\n"
+          "expect-lisp (equal '(8.0 1.5 0.0) (kora_field (entget (car (kora_space_inserts))) 10) 1e-9)\n"
           "command MULTIVIEWSETUP\ndialog Dlg_QT_MultiViewSetup\nrow lstBlocks metric-a3.dxf\nclick InsertTitle\n"
           "enter\nenter\nenter\nenter\nenter\ndialog Dlg_QT_MultiViewSetup\nclick ButtonCancel\n"
           "expect-lisp (equal '((0.0 0.0 0.0) (420.0 297.0 0.0)) (kora_block_box \"metric-a3\") 1e-9)\n"_s);

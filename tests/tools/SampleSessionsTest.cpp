@@ -103,7 +103,7 @@ TEST_F(SampleSessions, ChangeWhatTheySayAndNothingElse)
          u"Ortakit/selectblock.state"_s, "name=LAMP\nsource=active\n"},
         {u"showlinks"_s, u"1+APPID 1~$HANDSEED 2~TEXT"_s, u"Ortakit/showlinks.state"_s, "txreplace=new.example\n"},
         // A slot and its filling for each of two names, and the order in which they are drawn.
-        {u"textframe"_s, u"1+DICTIONARY 2+HATCH 2+LWPOLYLINE 1+SORTENTSTABLE 1~$HANDSEED 1~BLOCK_RECORD"_s,
+        {u"textframe"_s, u"1+APPID 1+DICTIONARY 2+HATCH 2+LWPOLYLINE 1+SORTENTSTABLE 1~$HANDSEED 1~BLOCK_RECORD"_s,
          u"Ortakit/textframe.state"_s, "constant_both=TRUE"},
         // The lines that the session draws, the mask with its class, its setting and the application that marks it.
         {u"textmask"_s,

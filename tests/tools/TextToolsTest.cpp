@@ -35,7 +35,9 @@ protected:
                "lisp (defun says (es) (mapcar '(lambda (e) (kora_text_content (entget e))) es))\n"
                "lisp (defun chosen (es) (sssetfirst nil (kora_selection es)))\n"
                "lisp (defun all (type) (kora_selection_to_list (ssget \"_X\" (list (cons 0 type)))))\n"
-               "lisp (defun box (type) (kora_bounding_box (list (car (all type)))))\n"
+               "lisp (defun box (type / e) (setq e (car (all type))) (if (= type \"3DFACE\") (mapcar '(lambda (f) "
+               "(mapcar "
+               "f (kora_field (entget e) 10) (kora_field (entget e) 12))) '(min max)) (kora_bounding_box (list e))))\n"
                "lisp (defun middle (box) (mapcar '(lambda (a b n) (/ (+ a b) 2)) (car box) (cadr box) '(1 2)))\n"
                "lisp (entmake '((0 . \"LAYER\") (2 . \"SHUT\") (70 . 4) (62 . 1) (6 . \"Continuous\")))\n"_s;
     }
@@ -173,7 +175,7 @@ TEST_F(TextTools, NumbersFollowOrderAndFormat)
             u"\"<7>Room\""_s),
         one("width, not the sign", text, u"set tx_init -7\nset cb_digits \"3 [001]\"\nclick placement_sufix"_s,
             u"\"Room-007\""_s),
-        one("decimals of the step", text + u"(text 0 2 \"\" nil)"_s,
+        one("decimals of the step", text + u"(text 0 2 \"x\" nil)"_s,
             u"set tx_step 0.25\nset cb_digits \"2 [01]\"\nclick placement_over"_s, u"\"07.00\" \"07.25\""_s),
         one("never minus nothing", text + text, u"set tx_init -0.5\nset tx_step 0.5\nclick placement_over"_s,
             u"\"-0.5\" \"0.0\""_s),
@@ -257,7 +259,9 @@ TEST_F(TextTools, FramesHaveTheSizeOfTheirTextsOrOfTheLargest)
              u"click type_circle\n"_s + accept +
              u"answer Yes\nexpect-printed \"2 texts have frames already.\"\nlisp (setq es (cdr es))\n"_s + again +
              accept + u"answer No\nexpect-printed \"1 text has a frame already.\"\n"_s,
-         u"(equal '(0 3 3) (mapcar 'length (mapcar 'all '(\"LWPOLYLINE\" \"CIRCLE\" \"HATCH\"))))"_s},
+         u"(equal '(0 3 3) (mapcar '(lambda (type) (length (kora_selection_to_list (ssget \"_X\" (list (cons 0 type) "
+         u"'(-3 "
+         "(\"KORA_TEXTFRAME\")))))))) '(\"LWPOLYLINE\" \"CIRCLE\" \"HATCH\")))"_s},
     };
     playsRows(u"TEXTFRAME"_s, u"Dlg_QT_TextFrame"_s, rows);
 }
