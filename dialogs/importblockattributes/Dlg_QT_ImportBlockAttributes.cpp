@@ -1,6 +1,7 @@
 #include "dialogs/importblockattributes/Dlg_QT_ImportBlockAttributes.h"
 
 #include "formats/AttributeTable.h"
+#include "formats/Windows1252.h"
 #include "state/FilePicker.h"
 #include "state/LongWork.h"
 #include "state/PathChecks.h"
@@ -129,7 +130,8 @@ void Dlg_QT_ImportBlockAttributes::takeFile(Report report)
 bool Dlg_QT_ImportBlockAttributes::readTable(const QString &path, Report report)
 {
     const ortakit::TextReading file = ortakit::readTextFile(path);
-    ortakit::AttributeTableReader reader(file.text);
+    const QByteArray text = ortakit::utf8Of(file.text);
+    ortakit::AttributeTableReader reader(text);
     const QString error = reader.isTooLarge() ? tr("The table is too large.") : file.error;
     if (!error.isEmpty()) {
         showTable({}, 0, {});

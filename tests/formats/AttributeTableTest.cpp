@@ -1,5 +1,6 @@
 #include "formats/AttributeTable.h"
 
+#include "formats/Windows1252.h"
 #include "tests/support/QtTestPrinters.h"
 
 #include <gtest/gtest.h>
@@ -25,7 +26,17 @@ TEST(AttributeTable, ReadsFieldsThatHaveAColumn)
         {"empty fields", "A\t\tC\n\t2\t\n\n", u"[A][][C] [][2][] []"_s},
         {"a blank first line", "\n1\t2\n", u"[] [1]"_s},
         {"non-ASCII", "\xC3\x9C\nT\xC3\xBCr \xE2\x82\xAC\n", u"[Ü] [Tür €]"_s},
-        {"another encoding", "A\nT\xFCr\n", u"[A] [T\uFFFDr]"_s},
+        {"a mark that is a character",
+         "\xEF\xBB\xBF"
+         "A\n1\xEF\xBB\xBF\n",
+         u"[\uFEFFA] [1\uFEFF]"_s},
+        {"quoted, as a spreadsheet does", "\"A\"\tB\r\n\"1\t2\"\t\"say \"\"so\"\"\"\n\"\"\t\"\"\"\"",
+         u"[A][B] [1\t2][say \"so\"] [][\"]"_s},
+        {"several lines in a field", "A\tB\n\"1\r\n2\"\t\"\n\"\n3\t4\n", u"[A][B] [1\r\n2][\n] [3][4]"_s},
+        {"quotes within", "A\n3\"\n4\" x 5\"\n", u"[A] [3\"] [4\" x 5\"]"_s},
+        {"quotes that close nothing", "A\tB\n\"1\t2\n\"3\"4\t\"\n5\t\"\"6\n",
+         u"[A][B] [\"1][2] [\"3\"4][\"] [5][\"\"6]"_s},
+        {"lines with a carriage return", "A\r1\r\r2\r", u"[A] [1] [] [2]"_s},
         {"separators of other formats", "A;B,C\n1;2,3^4=5\n", u"[A;B,C] [1;2,3^4=5]"_s},
     };
     for (const auto &row : rows) {
@@ -65,10 +76,18 @@ TEST(AttributeTable, RefusesWhatNoMemoryHolds)
     }
 }
 
-TEST(AttributeTable, GoesToLispAsOneText)
+TEST(AttributeTable, GoesToLispAsOneLine)
 {
     EXPECT_EQ(attributeText({u"A"_s, u"B"_s}, {{u"1"_s, u"2"_s}, {u"3"_s}, {}}), u"A\tB^1\t2^3^"_s);
     EXPECT_EQ(attributeText({u"A"_s, u""_s}, {}), u"A\t"_s);
+    EXPECT_EQ(attributeText({u"A^B"_s}, {{u"a\tb\\P\r\n"_s}, {u"\"q\""_s}, {u"3\""_s}, {u"a\\P"_s}}),
+              u"\"A\\136B\"^\"a\\tb\\\\P\\r\\n\"^\"\\\"q\\\"\"^3\"^a\\P"_s);
+}
+
+TEST(AttributeTable, BytesThatAreNoUtf8AreWindows1252)
+{
+    EXPECT_EQ(utf8Of("T\xFCr \x80\x81\x9F"), u"Tür €\u0081Ÿ"_s.toUtf8());
+    EXPECT_EQ(utf8Of(u"Tür €"_s.toUtf8()), u"Tür €"_s.toUtf8());
 }
 
 } // namespace
