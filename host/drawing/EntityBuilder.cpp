@@ -83,6 +83,13 @@ bool has(const FieldList &fields, int code)
     return findField(fields, code) != nullptr;
 }
 
+bool hasRecord(const FieldList &fields)
+{
+    return std::any_of(fields.begin(), fields.end(), [](const Field &field) {
+        return field.code == subclassCode && field.text() == "AcDbXrecord"_L1;
+    });
+}
+
 bool isBuiltInLinetype(const QString &name)
 {
     return name.isEmpty() || name.compare(u"ByLayer", Qt::CaseInsensitive) == 0 ||
@@ -101,8 +108,9 @@ EntityBuilder::EntityBuilder(const Drawing &drawing, FieldList fields) : m_drawi
     const auto firstXdata = std::stable_partition(fields.begin(), fields.end(), std::not_fn(isXdata));
     m_xdata.assign(firstXdata, fields.end());
     fields.erase(firstXdata, fields.end());
-    // An embedded object uses the codes of its own again: only the given order keeps them apart.
-    m_keepsOrder = !m_rule || has(fields, embeddedObjectCode);
+    // An embedded object, or a record that an attribute has in its place, uses the codes of its own again: only the
+    // given order keeps them apart.
+    m_keepsOrder = !m_rule || has(fields, embeddedObjectCode) || hasRecord(fields);
     if (!m_keepsOrder || !hasMarkers(drawing))
         std::erase_if(fields, [](const Field &field) { return field.code == subclassCode; });
     m_fields = std::move(fields);
