@@ -1,25 +1,30 @@
 ;;; menu: Export block attributes | EXPORTBLOCKATTRIBUTES | Writes texts of attributes to a table in a text file
 ;;;
 ;;; EXPORTBLOCKATTRIBUTES: of the chosen block references, those with attributes are written to a text file, one a row,
-;;; the cells divided by tabs: the handle behind an apostrophe, which keeps it a text where the file is opened as a
-;;; table, the block's name, and a column for each tag. "<>" stands where the block has no such attribute. The drawing
-;;; stays as it is; IMPORTBLOCKATTRIBUTES brings changed texts back.
+;;; the cells divided by tabs: the handle, the block's name, a column for each tag, and a mark by which the row is known
+;;; again. A second attribute of the same tag has the column TAG(2), and so on. "<>" stands where the block has no such
+;;; attribute. Lines of an attribute are lines of its cell; formatting codes stand as they are. The drawing stays as it
+;;; is; IMPORTBLOCKATTRIBUTES brings changed texts back. How texts are written: see support/tables.lsp.
 
 (setq exportblockattributes:filter '((0 . "INSERT") (66 . 1)))
 
-(defun c:exportblockattributes (/ *error* kora:variables chosen path rows)
+(defun c:exportblockattributes (/ *error* kora:variables chosen inserts path rows nameless)
   (setq chosen (kora_chosen exportblockattributes:filter))
   (kora_begin '(("CMDECHO" . 0)))
   (if (null chosen)
     (setq chosen (kora_choose "Select block references with attributes: " exportblockattributes:filter)))
+  ;; Without a handle a reference could not be found again.
+  (setq inserts  (vl-remove-if-not '(lambda (insert) (kora_field (entget insert) 5)) chosen)
+        nameless (kora_also (- (length chosen) (length inserts)) " without a handle left out"))
   (cond
-    ((null (setq rows (exportblockattributes:rows chosen)))
-     (kora_alert_message "No block reference with attributes was selected."))
+    ((null (setq rows (exportblockattributes:rows inserts)))
+     (kora_alert_message (strcat "No block reference with attributes was selected" nameless ".")))
     ((null (setq path (getfiled "Export block attributes" (exportblockattributes:preset) "txt" 1)))
      (kora_alert_message "Nothing was written."))
-    ((kora_write_lines path (append rows '("")))
+    ((kora_write_lines path (append (apply 'append (mapcar '(lambda (row) (kora_string_split row "\n")) rows)) '("")))
      (kora_writestate (kora_statefile "exportblockattributes") (list (cons "file" path)))
-     (kora_alert_message (strcat (kora_number_of (1- (length rows)) "block reference") " written to " path ".")))
+     (kora_alert_message
+       (strcat (kora_number_of (1- (length rows)) "block reference") " written to " path nameless ".")))
     (T (kora_alert_message (strcat "The file " path " cannot be written. It is as it was before."))))
   (kora_end))
 
@@ -27,26 +32,25 @@
 (defun exportblockattributes:preset ()
   (kora_state_value (kora_readstate (kora_statefile "exportblockattributes")) "file"))
 
-;; -> the lines of the table, headings first; nil without references.
-(defun exportblockattributes:rows (inserts / tags texts)
+;; -> the rows of the table, headings first; nil without references.
+(defun exportblockattributes:rows (inserts / names texts mark)
   (foreach insert inserts
-    (setq texts (cons (mapcar '(lambda (attribute / data)
-                                 (setq data (entget attribute))
-                                 (cons (kora_attribute_tag data) (cond ((kora_field data 1)) (""))))
-                              (kora_attributes insert))
+    (setq texts (cons (mapcar '(lambda (column) (cons (car column) (kora_attribute_text (entget (cdr column)))))
+                              (kora_attribute_columns insert))
                       texts))
     (foreach text (car texts)
-      (if (not (member (car text) tags)) (setq tags (cons (car text) tags)))))
-  (setq tags (reverse tags))
+      (if (not (member (car text) names)) (setq names (cons (car text) names)))))
+  (setq names (reverse names)
+        mark  (kora_drawing_mark))
   (if inserts
-    (cons (kora_string_join (cons "HANDLE" (cons "BLOCKNAME" tags)) "\t")
+    (cons (kora_table_row (append '("HANDLE" "BLOCKNAME") names '("ROW KEY")))
           (mapcar 'exportblockattributes:row inserts (reverse texts)))))
 
 (defun exportblockattributes:row (insert texts / data)
   (setq data (entget insert))
-  (kora_string_join
-    (append (list (strcat "'" (kora_field data 5)) (kora_known_name (kora_field data 2)))
-            (mapcar '(lambda (tag) (vl-string-translate "\t\r\n" "   " (cond ((cdr (assoc tag texts))) ("<>")))) tags))
-    "\t"))
+  (kora_table_row
+    (append (list (list (strcat "'" (kora_field data 5))) (kora_block_name data))
+            (mapcar '(lambda (name) (cond ((cdr (assoc name texts))) ('("<>")))) names)
+            (list (strcat (kora_letter_mark (kora_field data 5)) mark)))))
 
 (princ)

@@ -1,71 +1,95 @@
 ;;; menu: Import block attributes | IMPORTBLOCKATTRIBUTES | Takes texts of attributes from a table in a text file
 ;;;
 ;;; IMPORTBLOCKATTRIBUTES: the dialog shows the table, has texts in it replaced, and gives the rows that the user chose.
-;;; A row is for the block reference whose handle it has, if that is one of the block that it names; each further cell is
-;;; the text of the attribute that the column's heading names. "<>" stands where the block has no such attribute.
-;;; Attributes on locked layers and of references on such stay as they are. EXPORTBLOCKATTRIBUTES writes such files.
+;;; Columns are known by their headings, in any order; what no heading names stays as it is. A row is for the block
+;;; reference whose handle it has, if that is one of the block that it names. Rows whose handle does not fit the mark
+;;; that they were written with, that were written of another drawing, or that name the same reference as another row
+;;; are refused. "<>" stands where the block has no such attribute. Attributes on locked layers and of references on
+;;; such stay as they are. EXPORTBLOCKATTRIBUTES writes such files.
 
 (defun c:importblockattributes (/ *error* kora:variables file)
   (kora_begin '(("CMDECHO" . 0)))
   (setq file (kora_statefile "importblockattributes"))
   (if (Dlg_imporAttributes file)
-    (importblockattributes:apply (kora_string_split (kora_state_value (kora_readstate file) "attributes") "^")))
+    (importblockattributes:apply
+      (mapcar 'importblockattributes:cells
+              (kora_string_split (kora_state_value (kora_readstate file) "attributes") "^"))))
   (kora_end))
 
-;; Takes the dialog's rows into the drawing and tells how much that was; the first is the headings.
-(defun importblockattributes:apply (rows / tags changed references missing locked)
-  (setq tags    (mapcar 'strcase (kora_string_split (car rows) "\t"))
-        changed 0 references 0 missing 0 locked 0)
-  (if (and (= (car tags) "HANDLE") (cddr tags))
+;; The cells of a row as the dialog gives it: what a row cannot hold is in a string of Lisp.
+(defun importblockattributes:cells (row)
+  (mapcar '(lambda (cell) (if (= (substr cell 1 1) "\"") (read cell) cell))
+          (kora_string_split row "\t")))
+
+;; Takes the dialog's rows, lists of cells, into the drawing and tells how much that was; the first is the headings.
+(defun importblockattributes:apply (rows / headings mark twice changed references missing refused locked)
+  (setq headings (mapcar '(lambda (cell) (strcase (kora_cell_text cell))) (car rows))
+        mark     (kora_drawing_mark)
+        rows     (mapcar '(lambda (cells) (mapcar 'cons headings cells))
+                         (vl-remove-if 'importblockattributes:is_blank (cdr rows)))
+        twice    (importblockattributes:twice rows)
+        changed 0 references 0 missing 0 refused 0 locked 0)
+  (if (and (member "HANDLE" headings) (or (member "BLOCKNAME" headings) (member "ROW KEY" headings)))
     (progn
-      (foreach row (importblockattributes:whole_rows (cdr rows))
-        (importblockattributes:take_row (kora_string_split row "\t")))
+      (foreach row rows (importblockattributes:take_row row))
       (kora_alert_message
         (strcat (kora_number_of changed "attribute") " of " (kora_number_of references "block reference") " changed"
                 (kora_also missing " without their block reference")
+                (kora_also refused " refused, of another drawing, with a changed handle or one that another row has")
                 (kora_also locked " on locked layers left as they were") ".")))
     (kora_alert_message "The file is no table of attributes: its headings are HANDLE, BLOCKNAME and tags.")))
 
-;; The rows are divided by a sign that texts can have as well: what does not begin with a handle belongs to the row
-;; before.
-(defun importblockattributes:whole_rows (parts / quoted rows)
-  (setq quoted (= (substr (cond ((car parts)) ("")) 1 1) "'"))
-  (foreach part parts
-    (setq rows (if (or (null rows) (importblockattributes:is_row part quoted))
-                 (cons part rows)
-                 (cons (strcat (car rows) "^" part) (cdr rows)))))
-  (reverse rows))
+(defun importblockattributes:is_blank (cells)
+  (= "" (kora_string_trim (apply 'strcat cells))))
 
-(defun importblockattributes:is_row (part quoted / handle)
-  (setq handle (importblockattributes:handle part))
-  (and (= quoted (= (substr part 1 1) "'"))
-       (/= handle "")
-       (= (vl-string-trim "0123456789ABCDEF" (strcase handle)) "")))
+;; -> the handle of a row, a list of (heading . cell); nil for a remark or what else is none.
+(defun importblockattributes:handle (row / handle)
+  (setq handle (strcase (kora_string_trim (kora_cell_text (cond ((cdr (assoc "HANDLE" row))) (""))))))
+  (if (and (/= handle "") (= (vl-string-trim "0123456789ABCDEF" handle) "")) handle))
 
-;; The handle in front of a row, without the sign that keeps it a text in tables.
-(defun importblockattributes:handle (part)
-  (vl-string-left-trim "'" (car (kora_string_split part "\t"))))
+;; What a row names: the handle and, where it says it, the block; nil without a handle.
+(defun importblockattributes:reference (row / handle)
+  (if (setq handle (importblockattributes:handle row))
+    (strcat handle "\t" (strcase (kora_cell_text (cond ((cdr (assoc "BLOCKNAME" row))) ("")))))))
+
+;; -> a tree (see kora_tree) of the references that several rows name.
+(defun importblockattributes:twice (rows)
+  (kora_tree (vl-remove-if '(lambda (count) (= (cdr count) 1))
+                           (kora_counted (vl-remove nil (mapcar 'importblockattributes:reference rows))))))
 
 ;; Counts into the variables of importblockattributes:apply.
-(defun importblockattributes:take_row (cells / entity data before)
-  (setq entity (handent (importblockattributes:handle (car cells)))
+(defun importblockattributes:take_row (row / handle entity data before)
+  (setq handle (importblockattributes:handle row)
+        entity (if handle (handent handle))
         data   (if entity (entget entity))
         before changed)
   (cond
-    ((not (and (= (kora_field data 0) "INSERT")
-               (= (strcase (kora_known_name (kora_field data 2))) (strcase (cond ((cadr cells)) (""))))))
+    ((not (and (= (kora_field data 0) "INSERT") (importblockattributes:is_of_block row data)))
      (setq missing (1+ missing)))
+    ((or (kora_tree_find twice (importblockattributes:reference row)) (not (importblockattributes:fits row handle)))
+     (setq refused (1+ refused)))
     (T
-     (foreach attribute (kora_attributes entity)
-       (importblockattributes:take_text attribute (mapcar 'cons tags cells) (kora_is_locked data)))))
+     (foreach column (kora_attribute_columns entity)
+       (importblockattributes:take_text (cdr column) (cdr (assoc (car column) row)) (kora_is_locked data)))))
   (if (> changed before) (setq references (1+ references))))
 
-;; cells is a list of (tag . text).
-(defun importblockattributes:take_text (attribute cells is_locked / data text)
-  (setq data (entget attribute)
-        text (cdr (assoc (kora_attribute_tag data) (cddr cells))))
-  (cond ((or (null text) (= text "<>") (= text (kora_field data 1))))
-        ((or is_locked (kora_is_locked data)) (setq locked (1+ locked)))
+;; Without the column every block is right: the row's mark is there then.
+(defun importblockattributes:is_of_block (row data / name)
+  (setq name (cdr (assoc "BLOCKNAME" row)))
+  (or (null name)
+      (= (strcase (kora_block_name data)) (strcase (kora_cell_text name)))))
+
+;; Whether the mark of a row is that of the handle and, where both are known, of the drawing.
+(defun importblockattributes:fits (row handle / key)
+  (setq key (kora_cell_text (cond ((cdr (assoc "ROW KEY" row))) (""))))
+  (cond ((not (member "ROW KEY" headings)))
+        ((/= (substr key 1 4) (kora_letter_mark handle)) nil)
+        (T (or (= (substr key 5) "") (= mark "") (= (substr key 5) mark)))))
+
+(defun importblockattributes:take_text (attribute cell is_locked / text)
+  (setq text (if cell (kora_cell_text cell)))
+  (cond ((or (null text) (= cell "<>") (kora_says_text (entget attribute) text)))
+        ((or is_locked (kora_is_locked (entget attribute))) (setq locked (1+ locked)))
         ((kora_set_attribute attribute text) (setq changed (1+ changed)))))
 
 (princ)

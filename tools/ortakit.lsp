@@ -18,13 +18,14 @@
 ;;; support/arrows.lsp    arrow blocks of dimension styles, the standard ones and others as text
 ;;; support/blocks.lsp    blocks, references to them, and what is within what
 ;;; support/attributes.lsp attributes of block references
+;;; support/tables.lsp    tables as spreadsheets write them
 ;;; support/replacing.lsp replacing blocks
 ;;; support/drawing.lsp   lines and texts in the user's coordinate system
 ;;; support/variables.lsp system variables
 ;;; support/viewports.lsp viewports of the sheet
 
 (foreach file '("strings" "run" "state" "entities" "selection" "texts" "textboxes" "catalogue" "files" "dimstyles" "arrows"
-                "blocks" "attributes" "replacing" "drawing" "variables" "viewports" "outlines" "areas" "patterns" "groups"
-                "companions")
+                "blocks" "attributes" "tables" "replacing" "drawing" "variables" "viewports" "outlines" "areas" "patterns"
+                "groups" "companions")
   (load (strcat "support/" file ".lsp")))
 (princ)

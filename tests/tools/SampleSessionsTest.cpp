@@ -69,7 +69,7 @@ TEST_F(SampleSessions, ChangeWhatTheySayAndNothingElse)
          "Name     Instances\r\n007         1\r\n12          1\r\nBUSH        1\r\nCHAIR       2\r\n"},
         {u"importblockattributes"_s,
          u"2+ATTDEF 4+ATTRIB 1+BLOCK 1+BLOCK_RECORD 1+ENDBLK 2+INSERT 1+LINE 2+SEQEND 1~$HANDSEED"_s,
-         u"../out/doors.txt"_s, "HANDLE\tBLOCKNAME\tNUMBER\tMATERIAL\n'3C\tDOOR\tD-01\tOak\n'40\tDOOR\tD-02\tSteel\n"},
+         u"../out/doors.txt"_s, "HANDLE\tBLOCKNAME\tNUMBER\tMATERIAL\tROW KEY\n'3C\tDOOR\t'D-01\tOak\tKLCA\n'40\tDOOR\t'D-02\tSteel\tWLCA\n"},
         {u"lispdump"_s, {}, u"alias.xml"_s, "QQ"},
         {u"lispexplorer"_s, {}, u"alias.xml"_s, "QQ"},
         {u"makelinestyle"_s, u"2+LINE 1+LTYPE 1+POINT 1+TEXT 1~$HANDSEED"_s, u"pipes.lin"_s,

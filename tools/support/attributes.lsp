@@ -13,11 +13,101 @@
 ;; (kora_attribute_tag data) -> the tag of an attribute or its definition.
 (defun kora_attribute_tag (data) (strcase (cond ((kora_field data 2)) (""))))
 
+;; (kora_block_name data) -> the name under which a user knows the block that a reference, data, is of; "" when it says
+;; none.
+(defun kora_block_name (data)
+  (if (kora_field data 2) (kora_known_name (kora_field data 2)) ""))
+
+;; (kora_attribute_columns insert) -> a list of (NAME . attribute) for the attributes of a reference, by which a table
+;; knows them: the tag, for a second of the same tag TAG(2), and so on. No name is that of a column for something else.
+(defun kora_attribute_columns (insert)
+  (kora:columns (kora_attributes insert) (mapcar 'entget (kora_attributes insert))))
+
+;; things with names made of the tags in data before them.
+(defun kora:columns (things data / tag name number numbers taken)
+  (setq taken '("" "HANDLE" "BLOCKNAME" "ROW KEY"))
+  (mapcar '(lambda (thing one)
+             (setq tag    (kora_attribute_tag one)
+                   name   tag
+                   number (cond ((cdr (assoc tag numbers))) (1)))
+             (while (member name taken)
+               (setq number (1+ number)
+                     name   (strcat tag "(" (itoa number) ")")))
+             (setq numbers (cons (cons tag number) numbers)
+                   taken   (cons name taken))
+             (cons name thing))
+          things data))
+
+;; (kora_letter_mark text) -> four letters that are hardly the same for another text.
+(defun kora_letter_mark (text / sum mark)
+  (setq sum 0 mark "")
+  (foreach code (vl-string->list text) (setq sum (rem (+ (* sum 31) code) 456976)))
+  (repeat 4
+    (setq mark (strcat mark (chr (+ 65 (rem sum 26))))
+          sum  (/ sum 26)))
+  mark)
+
+;; (kora_drawing_mark) -> four letters for this drawing and what is saved of it, "" when it does not say when it was made.
+(defun kora_drawing_mark (/ made)
+  (setq made (getvar "TDCREATE"))
+  (if (and made (> made 0.0)) (kora_letter_mark (rtos made 2 6)) ""))
+
+;; (kora_attribute_text data) -> the whole text of an attribute or its definition. One of several lines has them in a
+;; paragraph that is embedded in it, and of this a line or all in its own text.
+(defun kora_attribute_text (data / content)
+  (if (setq content (kora:embedded_content data))
+    (kora:with_breaks content "\\P" "\n")
+    (cond ((kora_field data 1)) (""))))
+
+;; (kora_says_text data text) -> T when the attribute says this text, of whatever kind the line ends are: files and
+;; spreadsheets change these.
+(defun kora_says_text (data text)
+  (= (kora:with_line_feeds text) (kora:with_line_feeds (kora_attribute_text data))))
+
 ;; (kora_set_attribute attribute text) -> T when the attribute got this text now, nil when it had it already.
 (defun kora_set_attribute (attribute text / data)
   (setq data (entget attribute))
-  (if (/= (kora_field data 1) text)
-    (if (entmod (kora_with_field data 1 text)) T)))
+  (if (not (kora_says_text data text))
+    (if (entmod (kora:with_attribute_text data text)) T)))
+
+;; The data with another text. The line ends are of the kind that was there.
+(defun kora:with_attribute_text (data text / embedded own old)
+  (setq old      (kora_attribute_text data)
+        text     (kora:with_line_feeds text)
+        embedded (if (kora:embedded_content data) (kora:embedded_fields data))
+        own      (if embedded (reverse (cdr (member (car embedded) (reverse data)))) data))
+  (cond (embedded
+         (append (kora_with_field own 1 (kora:own_text (kora_field own 1) (kora:embedded_content data) old text))
+                 (kora:with_pieces embedded (kora:with_breaks text "\n" "\\P"))))
+        (T (kora_with_field own 1 (if (vl-string-search "\r\n" old) (kora_replace_all "\r\n" "\n" text) text)))))
+
+;; What an attribute of several lines says itself: all of it, if it did before, else its first line without codes.
+(defun kora:own_text (own content old text)
+  (cond ((= own content) (kora:with_breaks text "\n" "\\P"))
+        ((= own old) text)
+        (T (kora_plain_text (kora_parts (car (kora_string_split text "\n")) T)))))
+
+;; The fields of the paragraph in an attribute: of an embedded object, and before the drawings of 2018 of a record.
+(defun kora:embedded_fields (data)
+  (member (cond ((assoc 101 data)) ('(100 . "AcDbXrecord"))) data))
+
+;; -> what that paragraph says, nil without one.
+(defun kora:embedded_content (data / pieces)
+  (foreach field (kora:embedded_fields data)
+    (if (member (car field) '(1 3)) (setq pieces (cons (cdr field) pieces))))
+  (if pieces (apply 'strcat (reverse pieces))))
+
+;; The text of a paragraph with another sign between its lines, a code or a line feed.
+(defun kora:with_breaks (text old new / codes)
+  (cond ((not (vl-string-search old text)) text)
+        ((= old "\n") (kora_replace_all new old text))
+        (T
+         (foreach part (kora_parts text T)
+           (setq codes (append (reverse (if (equal part '(BREAK 92 80)) (vl-string->list new) (cdr part))) codes)))
+         (vl-list->string (reverse codes)))))
+
+(defun kora:with_line_feeds (text)
+  (vl-string-translate "\r" "\n" (kora_replace_all "\n" "\r\n" text)))
 
 ;; (kora_attribute_definitions block) -> the data of the definitions of a block's attributes, without constant ones.
 (defun kora_attribute_definitions (block)

@@ -18,15 +18,20 @@
   (apply 'strcat (reverse (vl-remove nil pieces))))
 
 ;; (kora_with_content data text) -> data that says text instead.
-(defun kora_with_content (data text / pieces result done)
+(defun kora_with_content (data text)
   (if (= (kora_field data 0) "MTEXT")
-    (progn
-      (setq pieces (kora:content_fields text))
-      (foreach field (kora:own_fields data)
-        (cond ((not (member (car field) '(1 3))) (setq result (cons field result)))
-              ((not done) (setq result (append (reverse pieces) result) done T))))
-      (append (reverse result) (member (assoc 101 data) data)))
+    (append (kora:with_pieces (kora:own_fields data) text) (member (assoc 101 data) data))
     (kora_with_field data 1 text)))
+
+;; The fields of a paragraph with its text in place of the one that they say.
+(defun kora:with_pieces (fields text / pieces result done)
+  (setq pieces (kora:content_fields text))
+  ;; A code that is left out of a list stays what it was in the entity.
+  (if (and (assoc 3 fields) (not (assoc 3 pieces))) (setq pieces (list (cons 3 text) '(1 . ""))))
+  (foreach field fields
+    (cond ((not (member (car field) '(1 3))) (setq result (cons field result)))
+          ((not done) (setq result (append (reverse pieces) result) done T))))
+  (reverse result))
 
 ;; The fields in front of an object that is embedded in the entity.
 (defun kora:own_fields (data)
