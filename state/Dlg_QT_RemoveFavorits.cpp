@@ -3,6 +3,7 @@
 #include "platform/kernel/CKvMessageBox.h"
 #include "state/ButtonIcons.h"
 #include "state/FavouriteStore.h"
+#include "state/PlainTexts.h"
 #include "ui_Dlg_QT_RemoveFavorits.h"
 
 #include <QShowEvent>
@@ -25,6 +26,7 @@ void Dlg_QT_RemoveFavorits::showEvent(QShowEvent *event)
     if (event->spontaneous())
         return;
     ortakit::decorateButtons(*this);
+    ortakit::showPlainTexts(*this);
     m_ui->ListFavorits->clear();
     m_ui->ListFavorits->addItems(ortakit::FavouriteStore(m_group).names());
     onSelectionChanged();

@@ -1,8 +1,7 @@
 #include "state/DrawingPicker.h"
 
-#include "platform/db/OdDbDatabase.h"
-#include "platform/kernel/CKvDocument.h"
 #include "platform/kernel/CKvMessageBox.h"
+#include "state/ActiveDrawing.h"
 #include "state/FilePicker.h"
 
 #include <QCoreApplication>
@@ -28,13 +27,6 @@ QString referencedFile(const QDir &folder, QString reference)
             return file.canonicalFilePath();
     }
     return {};
-}
-
-QString activeDrawing()
-{
-    CKvDocument *document = ACTIVE_DOCUMENT();
-    const OdDbDatabase *database = document ? document->database() : nullptr;
-    return database ? database->getFilename() : QString();
 }
 
 } // namespace

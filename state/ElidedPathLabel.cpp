@@ -1,6 +1,7 @@
 #include "state/ElidedPathLabel.h"
 
 #include "state/FullText.h"
+#include "state/VisibleText.h"
 
 #include <QEvent>
 #include <QLabel>
@@ -41,7 +42,7 @@ bool ElidedPathLabel::eventFilter(QObject *watched, QEvent *event)
 void ElidedPathLabel::show()
 {
     const int width = m_label->contentsRect().width() - 2 * m_label->margin();
-    m_shown = m_label->fontMetrics().elidedText(fullPath(), Qt::ElideMiddle, width);
+    m_shown = m_label->fontMetrics().elidedText(ortakit::visibleText(fullPath()), Qt::ElideMiddle, width);
     m_label->setText(m_shown);
     m_label->setToolTip(fullPath());
 }

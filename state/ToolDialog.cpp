@@ -3,6 +3,7 @@
 #include "platform/kernel/CKvMessageBox.h"
 #include "state/ButtonIcons.h"
 #include "state/HelpTopicMap.h"
+#include "state/PlainTexts.h"
 
 #include <QAbstractButton>
 #include <QDialogButtonBox>
@@ -81,6 +82,7 @@ void ToolDialog::showEvent(QShowEvent *event)
     if (event->spontaneous())
         return;
     decorate();
+    ortakit::showPlainTexts(*this);
     beforeShow();
     applyState();
     afterShow();

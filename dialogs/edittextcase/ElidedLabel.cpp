@@ -1,5 +1,8 @@
 #include "dialogs/edittextcase/ElidedLabel.h"
 
+#include "state/PlainTexts.h"
+#include "state/VisibleText.h"
+
 #include <QPainter>
 #include <QTextLayout>
 
@@ -21,6 +24,7 @@ QTextOption breakingAnywhere()
 ElidedLabel::ElidedLabel(QWidget *parent) : QLabel(parent)
 {
     setTextFormat(Qt::PlainText);
+    ortakit::keepToolTipMarkup(*this);
 }
 
 void ElidedLabel::setLineCount(int lines)
@@ -37,7 +41,7 @@ QSize ElidedLabel::sizeHint() const
 void ElidedLabel::paintEvent(QPaintEvent *)
 {
     const bool isCut = paintLines();
-    setToolTip(isCut ? Qt::convertFromPlainText(text().left(longestToolTip)) : QString());
+    setToolTip(isCut ? Qt::convertFromPlainText(ortakit::visibleText(text().left(longestToolTip))) : QString());
 }
 
 /// Whether the text was cut.
