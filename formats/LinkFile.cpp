@@ -1,5 +1,6 @@
 #include "formats/LinkFile.h"
 
+#include <QDir>
 #include <QFileInfo>
 #include <QStringConverter>
 
@@ -45,6 +46,20 @@ QString writtenText(const QList<Link> &links, const QStringList &removed)
     return text;
 }
 
+/// The file that `url` names, with slashes of either kind; empty when there is none.
+QString linkedFile(const QString &url, const QString &folder)
+{
+    // What begins with ":" would be one of the resources of the program.
+    if (url.isEmpty() || url.startsWith(u':'))
+        return {};
+    for (const QString &name : {url, QString(url).replace(u'\\', u'/')}) {
+        const QFileInfo file(QDir(folder), name);
+        if (file.exists())
+            return QDir::cleanPath(file.absoluteFilePath());
+    }
+    return {};
+}
+
 bool isLatin1(QStringView text)
 {
     return std::all_of(text.cbegin(), text.cend(), [](QChar c) { return c.unicode() < 0x100; });
@@ -82,11 +97,10 @@ QByteArray writtenLinks(const QList<Link> &links, const QStringList &removed, Li
     return encoding == LinkEncoding::Latin1 && isLatin1(text) ? text.toLatin1() : text.toUtf8();
 }
 
-QUrl linkTarget(const QString &url)
+QUrl linkTarget(const QString &url, const QString &folder)
 {
-    // What begins with ":" would be one of the resources of the program.
-    if (!url.startsWith(u':') && QFileInfo::exists(url))
-        return QUrl::fromLocalFile(QFileInfo(url).absoluteFilePath());
+    if (const QString file = linkedFile(url, folder); !file.isEmpty())
+        return QUrl::fromLocalFile(file);
     const QUrl target(url.startsWith(QLatin1String("www")) ? QLatin1String("http://") + url : url, QUrl::TolerantMode);
     // Without a scheme it could be taken for a file of any folder, or for an option of whatever program opens it.
     return target.isRelative() ? QUrl() : target;

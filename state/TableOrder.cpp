@@ -128,10 +128,14 @@ void arrangeTableRows(QTableWidget &table, const QList<int> &rows)
     table.setRowCount(int(rows.size()));
     table.viewport()->update();
 
+    // Which would scroll to a cell that nobody looks for.
+    const bool isScrolling = table.hasAutoScroll();
+    table.setAutoScroll(isScrolling && !selected.isEmpty());
     if (current.isValid())
         table.selectionModel()->setCurrentIndex(currentRow < 0 ? QModelIndex()
                                                                : table.model()->index(currentRow, current.column()),
                                                 QItemSelectionModel::NoUpdate);
+    table.setAutoScroll(isScrolling);
     select(table, selected);
 }
 

@@ -8,7 +8,7 @@ class QTableWidget;
 namespace ortakit {
 
 // For tables that do not sort by themselves (QTableWidget::isSortingEnabled() is off). What is selected goes with its
-// row, and so does the current cell; what is in view stays at its place in the window.
+// row, and so does the current cell. The window shows what it showed, or the current cell where something is selected.
 
 /// Makes the rows of `table` those that it has as number rows[0], rows[1] and so on, each named at most once; the
 /// others go. Takes time in proportion to the cells, where removing many single rows would take the square of it.

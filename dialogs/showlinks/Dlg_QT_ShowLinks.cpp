@@ -3,6 +3,7 @@
 #include "formats/FileWriting.h"
 #include "platform/kernel/CKvMessageBox.h"
 #include "platform/kernel/CKvUtils.h"
+#include "state/ActiveDrawing.h"
 #include "state/FullText.h"
 #include "state/ReturnKey.h"
 #include "state/TableOrder.h"
@@ -14,6 +15,8 @@
 
 #include <QDesktopServices>
 #include <QEvent>
+#include <QFileInfo>
+#include <QSet>
 
 #include <numeric>
 #include <utility>
@@ -71,24 +74,38 @@ void Dlg_QT_ShowLinks::done(int result)
     ToolDialog::done(result);
 }
 
+/// Where relative links lead from; empty for a drawing that was never saved.
+QString Dlg_QT_ShowLinks::drawingFolder()
+{
+    const QString drawing = ortakit::activeDrawing();
+    return drawing.isEmpty() ? QString() : QFileInfo(drawing).absolutePath();
+}
+
+QString Dlg_QT_ShowLinks::action() const
+{
+    return state().lookup(QStringLiteral("!Action!"));
+}
+
 bool Dlg_QT_ShowLinks::isReturning() const
 {
-    return state().lookup(QStringLiteral("!Action!")) == QLatin1String("RETURN");
+    return action() == QLatin1String("RETURN");
 }
 
 void Dlg_QT_ShowLinks::beforeShow()
 {
     setIcons();
-    if (m_isStarting)
-        m_removed.clear();
-    if (m_isStarting || isReturning())
-        loadLinks();
-    m_isStarting = false;
     state().setAction(QStringLiteral("CANCEL"));
 }
 
 void Dlg_QT_ShowLinks::afterShow()
 {
+    // Behind the state, which would select rows by what was selected another time.
+    const bool isStarting = m_isStarting || action() == QLatin1String("START");
+    m_isStarting = false;
+    if (isStarting)
+        m_removed.clear();
+    if (isStarting || isReturning())
+        loadLinks();
     ortakit::showWhole(*m_ui->txsearch);
     ortakit::showWhole(*m_ui->txreplace);
     m_ui->linkfile->setText(linkFile());
@@ -129,6 +146,11 @@ void Dlg_QT_ShowLinks::loadLinks()
     ortakit::setTableRows(*m_ui->tableUrl, int(reading.links.size()), [&reading](int row, int column) {
         return new ortakit::WholeTextItem(reading.links[row][std::size_t(column)]);
     });
+    // What is listed is not removed.
+    QSet<QString> listed;
+    for (const ortakit::Link &link : reading.links)
+        listed.insert(link[ortakit::EntityField]);
+    m_removed.removeIf([&listed](const QString &entity) { return listed.contains(entity); });
 }
 
 QList<int> Dlg_QT_ShowLinks::allRows() const
@@ -171,7 +193,7 @@ void Dlg_QT_ShowLinks::showUrl()
         return;
     }
     // The URL goes to the program that the user's desktop has for it, as it is: nothing takes it for a command line.
-    const QUrl target = ortakit::linkTarget(linkAt(rows.first())[ortakit::UrlField]);
+    const QUrl target = ortakit::linkTarget(linkAt(rows.first())[ortakit::UrlField], drawingFolder());
     if (!target.isValid() || !QDesktopServices::openUrl(target))
         warn(tr("Unable to display the link."));
 }

@@ -3,6 +3,7 @@
 #include "tests/dialogs/DialogTest.h"
 
 #include <QDesktopServices>
+#include <QScrollBar>
 #include <QUrl>
 
 using namespace ortakit::test;
@@ -133,6 +134,32 @@ TEST_F(ShowLinks, OnlyReturnReadsTheFileOnTheWayBack)
     }
 }
 
+// A run that was left while its entity was shown does not come back.
+TEST_F(ShowLinks, ANewRunHasNothingRemoved)
+{
+    for (const auto &[action, removed] : {std::pair(u"START"_s, ""), std::pair(u"RETURN"_s, "REMOVE^30\r\n")}) {
+        SetUp();
+        showLinks();
+        remove({0, 1});
+        choose({0});
+        click("btnShowEntity");
+        showLinks(action, "2F^http://b.org^LINE^Model\n");
+        EXPECT_EQ(table()->rowCount(), 1);
+        click("btnClose");
+        EXPECT_EQ(written(), QByteArray("2F^http://b.org^LINE^Model\r\n") + removed) << action.toStdString();
+    }
+}
+
+TEST_F(ShowLinks, NoRowIsSelectedThatTheStateNames)
+{
+    for (const QString &action : {u"START"_s, u"RETURN"_s}) {
+        writeLinks(threeLinks);
+        showWith(u"linkfile=%1\n!action!=%2\ntableurl=30^\n"_s.arg(linkFile, action));
+        EXPECT_EQ(ortakit::rowsWithSelection(*table()), QList<int>());
+        EXPECT_FALSE(isEnabled("btnRemoveUrl"));
+    }
+}
+
 // Else the removals of one run would reach the drawing with the next, or those that were cancelled.
 TEST_F(ShowLinks, EachRunStartsFromItsFile)
 {
@@ -175,11 +202,14 @@ TEST_F(ShowLinks, OpensWhatTheCellSaysAndNothingElse)
         {u"https://a.org/$(x);y"_s, u"https://a.org/$(x);y"_s},
         {u"--version"_s, {}},
         {u"calc.exe"_s, {}},
+        {u"www plan.pdf"_s, QUrl::fromLocalFile(file).toString()},
         {u":/images/help.png"_s, {}},
         {{}, {}},
     };
     for (const auto &[url, opened] : rows) {
         SetUp();
+        // Which is not in the folder that the program runs in.
+        host.document().fakeDatabase().setFilename(host.path(u"drawing.dxf"_s));
         showLinks({}, "2F^" + url.toUtf8() + "^LINE^Model\n30^http://x^LINE^Model\n");
         choose({0});
         desktop.opened.clear();
@@ -199,6 +229,18 @@ TEST_F(ShowLinks, AClickOnAHeaderSorts)
     EXPECT_EQ(ortakit::rowsWithSelection(*table()), QList<int>{1});
     click("btnClose");
     EXPECT_TRUE(written().startsWith("30^")) << "top to bottom";
+}
+
+TEST_F(ShowLinks, SortingWithNothingSelectedDoesNotScroll)
+{
+    QByteArray lines;
+    for (int link = 0; link < 200; ++link)
+        lines += "2F^" + QByteArray::number(999 - link) + "^LINE^Model\n";
+    showLinks({}, lines);
+    table()->setCurrentCell(0, 1, QItemSelectionModel::NoUpdate);
+    clickHeader("tableUrl", 1);
+    EXPECT_EQ(table()->currentRow(), 199);
+    EXPECT_EQ(table()->verticalScrollBar()->value(), 0);
 }
 
 // A find text that is longer than its field is shown shortened where it is only told.

@@ -89,6 +89,10 @@ TEST(LinkFile, ALinkLeadsToAFileOrToAUrlWithAScheme)
             << url.toStdString();
         EXPECT_FALSE(encoded.contains(u' ') || encoded.contains(u'"')) << "for whoever splits it";
     }
+    const QString plan = folder.writeFile(u"plan.pdf"_s, "");
+    for (const QString &url : {u"plan.pdf"_s, u".\\plan.pdf"_s, u"./plan.pdf"_s, plan})
+        EXPECT_EQ(linkTarget(url, folder.path({})), QUrl::fromLocalFile(plan)) << url.toStdString();
+    EXPECT_FALSE(linkTarget({}, folder.path({})).isValid());
 }
 
 } // namespace
