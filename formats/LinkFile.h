@@ -52,9 +52,9 @@ LinkReading readLinkFile(const QString &path);
 /// "\r\n". What Latin-1 does not have makes all of the text UTF-8.
 QByteArray writtenLinks(const QList<Link> &links, const QStringList &removed, LinkEncoding encoding);
 
-/// Where the URL of a link leads: to the file or folder of that name, as seen from `folder` when it is relative, if there
-/// is one, else to the URL, to which "http://" is added when it begins with "www". Invalid when it leads nowhere: it
-/// needs a scheme.
+/// Where the URL of a link leads: to the file or folder of that name, as seen from `folder` when it is relative, if
+/// there is one, else to the URL, to which "http://" is added when it begins with "www". Invalid when it leads nowhere:
+/// it needs a scheme.
 QUrl linkTarget(const QString &url, const QString &folder = {});
 
 } // namespace ortakit

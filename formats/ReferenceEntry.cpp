@@ -5,6 +5,12 @@ namespace ortakit {
 namespace {
 
 constexpr QChar separator = u'^';
+constexpr QLatin1String separatorCode("\\U+005E");
+
+QString decoded(QString name)
+{
+    return name.replace(separatorCode, QString(separator));
+}
 
 } // namespace
 
@@ -15,13 +21,13 @@ ReferenceEntry referenceOf(const QString &text)
         return {text, {}, {}};
     const qsizetype second = text.indexOf(separator, first + 1);
     if (second < 0)
-        return {text.first(first), text.sliced(first + 1), {}};
-    return {text.first(first), text.sliced(first + 1, second - first - 1), text.sliced(second + 1)};
+        return {text.first(first), decoded(text.sliced(first + 1)), {}};
+    return {text.first(first), decoded(text.sliced(first + 1, second - first - 1)), text.sliced(second + 1)};
 }
 
 QString writtenReference(const ReferenceEntry &entry)
 {
-    return entry.type + separator + entry.name + separator + entry.path;
+    return entry.type + separator + QString(entry.name).replace(separator, separatorCode) + separator + entry.path;
 }
 
 QString withBackslashes(QString path)

@@ -4,7 +4,8 @@
 
 namespace ortakit {
 
-/// A file that a drawing refers to, as Lisp programs tell of it: "type^name^path".
+/// A file that a drawing refers to, as Lisp programs tell of it: "type^name^path", with "\U+005E" for a "^" in the
+/// name.
 struct ReferenceEntry
 {
     QString type;

@@ -14,7 +14,7 @@
   (if (null chosen)
     (setq chosen (kora_choose "Select block references with attributes: " exportblockattributes:filter)))
   ;; Without a handle a reference could not be found again.
-  (setq inserts  (vl-remove-if-not '(lambda (insert) (kora_field (entget insert) 5)) chosen)
+  (setq inserts  (vl-remove-if-not 'kora_handle chosen)
         nameless (kora_also (- (length chosen) (length inserts)) " without a handle left out"))
   (cond
     ((null (setq rows (exportblockattributes:rows inserts)))

@@ -5,7 +5,7 @@
 ;;; slashes only is so again, because the dialog shows all with backslashes.
 ;;;
 ;;; Names: of a reference its block's, of an image the one in the drawing, of a text style its own, with ", big font"
-;;; behind it for its second font file. A remote text and a style that stands for a shape file have their handle.
+;;; behind it for its second font file. A remote text has its handle, or a number in a drawing without handles.
 ;;;
 ;;; In Lisp a file that the drawing refers to is a list (type name path entity group), the last two where its path is.
 
@@ -56,13 +56,20 @@
   (reverse files))
 
 ;; A remote text can be an expression in place of a file.
-(defun redefinepaths:remote_texts ()
-  (mapcar '(lambda (entity) (redefinepaths:file "RemoteText" (kora_field (entget entity) 5) entity 1))
+(defun redefinepaths:remote_texts (/ number)
+  (setq number 0)
+  (mapcar '(lambda (entity)
+             (setq number (1+ number))
+             (redefinepaths:file "RemoteText" (cond ((kora_handle entity)) ((strcat "#" (itoa number)))) entity 1))
           (vl-remove-if '(lambda (entity) (/= 0 (logand 1 (cond ((kora_field (entget entity) 70)) (0)))))
                         (reverse (kora_selection_to_list (ssget "_X" '((0 . "RTEXT"))))))))
 
 (defun redefinepaths:entry (file)
-  (kora_string_join (list (car file) (cadr file) (caddr file)) "^"))
+  (strcat (redefinepaths:key file) "^" (caddr file)))
+
+;; What an entry begins with. The sign that divides its fields is a code in names.
+(defun redefinepaths:key (file)
+  (strcat (car file) "^" (kora_replace_all "\\U+005E" "^" (cadr file))))
 
 ;; Takes what the dialog gave back, entries as it got them, into the drawing.
 (defun redefinepaths:apply (files result / tree entry changed locked failed)
@@ -78,7 +85,7 @@
 
 ;; The files by type and name.
 (defun redefinepaths:tree (files / sorted)
-  (foreach file (vl-sort (mapcar '(lambda (file) (cons (strcat (car file) "^" (cadr file)) file)) files)
+  (foreach file (vl-sort (mapcar '(lambda (file) (cons (redefinepaths:key file) file)) files)
                          '(lambda (a b) (< (car a) (car b))))
     (if (/= (car file) (caar sorted)) (setq sorted (cons file sorted))))
   (kora_tree (reverse sorted)))

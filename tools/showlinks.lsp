@@ -6,9 +6,10 @@
 ;;; to the dialog as it was left. Entities on locked layers keep their links.
 ;;;
 ;;; A link is extended data of the application PE_URL: its first text is the URL; a description and what else follows
-;;; stays as it is. In the file a line is HANDLE^URL^TYPE^LAYOUT.
+;;; stays as it is. In the file a line is HANDLE^URL^TYPE^LAYOUT, where a "^" in the URL is one of it. An entity that its
+;;; drawing gives no handle, or one that leads to another entity, has a number there, #1 and so on.
 
-(defun c:showlinks (/ *error* kora:variables chosen state links)
+(defun c:showlinks (/ *error* kora:variables chosen state links numbered)
   (setq chosen (ssget "_I" '((-3 ("PE_URL")))))
   (kora_begin '(("CMDECHO" . 0)))
   (setq state (kora_statefile "showlinks")
@@ -16,33 +17,53 @@
   (cond
     ((not (showlinks:write links (cond (chosen) ((ssget "_X" '((-3 ("PE_URL"))))))))
      (kora_alert_message (strcat "The links cannot be listed: " links " cannot be written.")))
-    ((null (kora_writestate state (list (cons "linkfile" links) '("!action!" . "RETURN"))))
+    ((null (kora_writestate state (list (cons "linkfile" links) '("!action!" . "START"))))
      (kora_alert_message (strcat "The file " state " could not be written.")))
     ((showlinks:ask state links) (showlinks:apply links)))
   (vl-file-delete links)
   (kora_end))
 
 ;; Writes the links of the selected entities in the order of the drawing. -> T, nil when the file cannot be written.
-(defun showlinks:write (links selection / handle data)
+(defun showlinks:write (links selection / handle data count others)
   (if (setq handle (open links "w"))
     (progn
+      (setq count 0)
       (foreach entity (reverse (kora_selection_to_list selection))
         (setq data (entget entity '("PE_URL")))
         (if (showlinks:url data)
-          (write-line (kora_string_join (list (kora_field data 5) (showlinks:shown (showlinks:url data))
-                                              (kora_field data 0) (cond ((kora_field data 410)) ("")))
+          (write-line (kora_string_join (list (showlinks:name entity) (showlinks:shown (showlinks:url data))
+                                              (kora_field data 0)
+                                              (vl-string-translate "^" " " (showlinks:space data)))
                                         "^")
                       handle)))
       (close handle)
+      (setq numbered (kora_tree (vl-sort others '(lambda (a b) (< (car a) (car b))))))
       T)))
+
+;; -> how the file names an entity; others are those that have no handle of their own.
+(defun showlinks:name (entity / name)
+  (cond ((kora_handle entity))
+        (T (setq count  (1+ count)
+                 name   (strcat "#" (itoa count))
+                 others (cons (cons name entity) others))
+           name)))
+
+;; -> the entity that the file names so, nil when it is not in the drawing.
+(defun showlinks:entity (name / entity)
+  (setq entity (cond ((cdr (kora_tree_find numbered name))) ((handent name))))
+  (if (and entity (entget entity)) entity))
+
+;; -> the name of the layout that an entity is in; early drawings have one of each kind and no names.
+(defun showlinks:space (data)
+  (cond ((kora_field data 410)) ((= 1 (kora_field data 67)) "Layout1") ("Model")))
 
 ;; -> the URL of an entity's data, nil when it has none.
 (defun showlinks:url (data)
   (kora_field (cdadr (assoc -3 data)) 1000))
 
-;; A URL as the file can have it: in one line and without the sign that divides its fields.
+;; A URL as the file can have it: in one line.
 (defun showlinks:shown (url)
-  (kora_replace_all "%5E" "^" (vl-string-translate "\r\n" "  " url)))
+  (vl-string-translate "\r\n" "  " url))
 
 ;; Runs the dialog; in between entities are shown. -> T when the user confirmed.
 (defun showlinks:ask (state links / done)
@@ -54,8 +75,7 @@
 
 ;; -> the entities of the lines that are in the drawing.
 (defun showlinks:entities (lines)
-  (vl-remove-if-not '(lambda (entity) (and entity (entget entity)))
-                    (mapcar '(lambda (line) (handent (car (kora_string_split line "^")))) lines)))
+  (vl-remove nil (mapcar '(lambda (line) (showlinks:entity (car (kora_string_split line "^")))) lines)))
 
 ;; Turns to the layout of the first entity and shows those in it until the user enters something.
 (defun showlinks:show (entities / layout box)
@@ -103,16 +123,37 @@
   (kora_string_join (reverse (cddr (reverse (cdr fields)))) "^"))
 
 ;; -> the data of the entity, nil when it is not in the drawing or has no link.
-(defun showlinks:data (handle / entity data)
-  (if (and (setq entity (handent handle))
+(defun showlinks:data (name / entity data)
+  (if (and (setq entity (showlinks:entity name))
            (setq data (entget entity '("PE_URL")))
            (showlinks:url data))
     data))
 
 (defun showlinks:change (data url)
   (cond ((kora_is_locked data) (setq locked (1+ locked)))
-        ((entmod (subst (list -3 (showlinks:with_url (cadr (assoc -3 data)) url)) (assoc -3 data) data))
+        ((entmod (subst (list -3 (showlinks:with_url (cadr (assoc -3 data)) (showlinks:edited (showlinks:url data) url)))
+                        (assoc -3 data) data))
          (setq changed (1+ changed)))))
+
+;; The URL with the part changed that is another in what the dialog gave back; at both ends of it nothing changes that
+;; the file cannot have.
+(defun showlinks:edited (url text / shown front behind)
+  (setq shown  (showlinks:shown url)
+        front  (showlinks:equal_letters (vl-string->list shown) (vl-string->list text))
+        behind (showlinks:equal_letters (reverse (vl-string->list (substr shown (1+ front))))
+                                        (reverse (vl-string->list (substr text (1+ front))))))
+  (strcat (substr url 1 front)
+          (substr text (1+ front) (- (strlen text) front behind))
+          (substr url (1+ (- (strlen url) behind)))))
+
+;; -> how many codes at the beginning of two lists are the same.
+(defun showlinks:equal_letters (first second / count)
+  (setq count 0)
+  (while (and first second (= (car first) (car second)))
+    (setq count  (1+ count)
+          first  (cdr first)
+          second (cdr second)))
+  count)
 
 ;; The first text only: the description is often the same.
 (defun showlinks:with_url (items url / done)

@@ -20,10 +20,10 @@ class Dlg_QT_ShowLinks;
 /// | OK | all links, then the removed entities | gives the entities these URLs, takes the links of the removed ones |
 /// | SHOWENTITY | the selected links | shows their entities and calls again |
 ///
-/// The file is read when the tool is started, which is at the first showing, at each behind one that ended with Close or
-/// was cancelled, and where Lisp has set the action to START, as it does when a run before this one did not come back.
-/// Coming back from Show Entity the table stays as it was, unless Lisp has set the action to RETURN: then the file is
-/// read again. Which links were removed is kept over that, but for those that are listed then.
+/// The file is read when the tool is started, which is at the first showing, at each behind one that ended with Close
+/// or was cancelled, and where Lisp has set the action to START, as it does when a run before this one did not come
+/// back. Coming back from Show Entity the table stays as it was, unless Lisp has set the action to RETURN: then the
+/// file is read again. Which links were removed is kept over that, but for those that are listed then.
 class Dlg_QT_ShowLinks final : public ToolDialog
 {
     Q_OBJECT

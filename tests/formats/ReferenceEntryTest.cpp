@@ -15,6 +15,7 @@ TEST(ReferenceEntry, IsTakenApartAndPutTogether)
     const std::pair<QString, ReferenceEntry> rows[] = {
         {u"Image^a^D:\\x^y\\z.png"_s, {u"Image"_s, u"a"_s, u"D:\\x^y\\z.png"_s}},
         {u"Image^a"_s, {u"Image"_s, u"a"_s, {}}},
+        {u"Image^a\\U+005E^\\U+005E"_s, {u"Image"_s, u"a^"_s, u"\\U+005E"_s}},
         {u"Image"_s, {u"Image"_s, {}, {}}},
         {{}, {}},
     };

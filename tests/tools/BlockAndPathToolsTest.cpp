@@ -186,11 +186,21 @@ TEST_F(BlockAndPathTools, DoWhatTheySayAndNothingElse)
          u"lisp (entmod (subst '(8 . \"SHUT\") (assoc 8 (entget (handent \"2F\"))) (entget (handent \"2F\"))))\n"
          "lisp (link \"2F\" \"a^b\")\nlisp (link \"30\" \"c^d\")\nlisp (link \"31\" \"e\")\n"_s +
              links +
-             u"expect-items tableUrl 2F;a%5Eb;TEXT;Model^30;c%5Ed;TEXT;Model^31;e;TEXT;Model\n"
+             u"expect-items tableUrl 2F;a^b;TEXT;Model^30;c^d;TEXT;Model^31;e;TEXT;Model\n"
              "row tableUrl #0 #2\nset txsearch e\nset txreplace f\nclick btnReplace\nset txsearch a\n"
              "click btnReplace\nclick btnShowEntity\nenter\ndialog Dlg_QT_ShowLinks\nclick btnClose\n"
              "expect-printed \"1 link changed, 0 removed, 1 on locked layers left as they were.\"\n"_s,
          "(equal (mapcar 'url '(\"2F\" \"30\" \"31\")) '(\"a^b\" \"c^d\" \"f\"))"},
+        {"editing a part of a link leaves the others",
+         u"lisp (link \"31\" \"x^e\\n^f\")\n"_s + links +
+             u"row tableUrl #0\nset txsearch e\nset txreplace e2\nclick btnReplace\nclick btnClose\n"_s,
+         "(= (url \"31\") \"x^e2\\n^f\")"},
+        {"a run that was left at a shown entity removes nothing later",
+         u"lisp (link \"30\" \"c\")\nlisp (link \"31\" \"e\")\n"_s + links +
+             u"row tableUrl #0\nclick btnRemoveUrl\nmessage \"Remove urls\" Ok\nrow tableUrl #0\nclick btnShowEntity\n"
+             "cancel\n"_s +
+             links + u"click btnClose\nexpect-printed \"0 links changed, 0 removed.\"\n"_s,
+         "(equal (mapcar 'url '(\"30\" \"31\")) '(\"c\" \"e\"))"},
         {"Esc at the shown entity changes nothing",
          u"lisp (link \"31\" \"e\")\n"_s + links +
              u"row tableUrl #0\nset txsearch e\nset txreplace f\nclick btnReplace\nclick btnShowEntity\ncancel\n"_s,

@@ -30,6 +30,12 @@
 (defun kora_copy_data (data)
   (vl-remove-if '(lambda (field) (member (car field) '(-1 5 102 330 360))) data))
 
+;; (kora_handle entity) -> the handle by which the entity can be found again; nil when it has none, as in early drawings, or
+;; one that leads to another entity.
+(defun kora_handle (entity / handle)
+  (setq handle (kora_field (entget entity) 5))
+  (if (and handle (equal (handent handle) entity)) handle))
+
 ;; (kora_selection_to_list selection) -> the entity names of a selection set, nil for nil.
 (defun kora_selection_to_list (selection / index names)
   (if selection
