@@ -87,7 +87,7 @@
   (while (setq point (getPointOrtakit (if areas "\nSpecify next internal point: " "\nSpecify internal point: ")))
     (setq areas (cond (areas) ((patternhatch:all_areas tolerance)))
           point (trans point 1 0)
-          found (vl-some '(lambda (pair) (if (kora_in_area (cdr pair) point 0.0) (car pair))) areas))
+          found (vl-some '(lambda (pair) (if (kora_in_area (kora_area_view (cdr pair)) point 0.0) (car pair))) areas))
     (if found
       (patternhatch:add (list found))
       (kora_alert_message "No closed entity lies around this point."))))

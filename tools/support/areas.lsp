@@ -2,6 +2,10 @@
 ;;;
 ;;; What lies in an odd number of the polygons is in the area: one within another is a hole. An area is a list of edges
 ;;; (low high at-low at-high), the y of the edge's ends and the x that it has there, sorted by low.
+;;;
+;;; A view of an area is a list (anchor edge ...): the edges that come near some place, and (x y inside), a point left of
+;;; it that is known to be in the area or not. All that the other edges do is in the anchor, so that what is asked of a
+;;; place costs as much as there is of the area.
 
 ;; (kora_area polygons) -> the area.
 (defun kora_area (polygons / edges)
@@ -28,22 +32,26 @@
   (* (+ 1.0 (/ (+ (- (caddr box) (car box)) (car size)) (car step)))
      (+ 1.0 (/ (+ (- (cadddr box) (cadr box)) (cadr size)) (cadr step)))))
 
+;; (kora_area_view area) -> the area as a view that serves everywhere.
+(defun kora_area_view (area) (cons '(-1e300 -1e300 nil) area))
+
 ;; (kora_area_cells area size step visit) calls visit for the cells of a grid that lie in the area or meet its edge,
-;; with the cell's lower left corner and the edges beside it, nil of one that lies in it. Cells are of a size, and a
-;; step apart, both (x y) and greater than zero; one has its corner at 0,0. Touching an edge does not count.
-(defun kora_area_cells (area size step visit / box slack row top near low high)
+;; with the cell's lower left corner and the view of the area from there, nil of one that lies in it. Cells are of a
+;; size, and a step apart, both (x y) and greater than zero; one has its corner at 0,0. Touching an edge does not count.
+(defun kora_area_cells (area size step visit / box slack row top near low high bottom)
   (setq box   (kora_area_box area)
         slack (* 1e-9 (+ (apply 'max (mapcar 'abs box)) (car size) (cadr size)))
         row   (kora:ceiling (/ (+ (- (cadr box) (cadr size)) slack) (cadr step)))
         top   (kora:floor (/ (- (cadddr box) slack) (cadr step))))
   (while (<= row top)
-    (setq low  (+ (* row (cadr step)) slack)
-          high (- (+ low (cadr size)) slack slack)
-          near (vl-remove-if '(lambda (edge) (<= (cadr edge) low)) near))
-    (while (and area (< (caar area) high))
-      (if (> (cadar area) low) (setq near (cons (car area) near)))
+    (setq bottom (* row (cadr step))
+          low    (+ bottom slack)
+          high   (- (+ low (cadr size)) slack slack)
+          near   (vl-remove-if '(lambda (edge) (< (cadr edge) (- bottom (* 9 slack)))) near))
+    (while (and area (< (caar area) (+ high (* 9 slack))))
+      (if (>= (cadar area) (- bottom (* 9 slack))) (setq near (cons (car area) near)))
       (setq area (cdr area)))
-    (if near (kora:row_cells (* row (cadr step))))
+    (if near (kora:row_cells))
     (setq row (1+ row))))
 
 (defun kora:floor (value / whole)
@@ -52,13 +60,39 @@
 
 (defun kora:ceiling (value) (- (kora:floor (- value))))
 
-;; The cells of one row between low and high, which the edges of near reach into.
-(defun kora:row_cells (bottom / met middle crossings column from to)
-  (setq met       (kora:sorted_once (apply 'append (mapcar 'kora:columns_met near)))
+;; The cells of one row between low and high, which the edges of near touch.
+(defun kora:row_cells (/ reaching met middle crossings)
+  (setq reaching  (vl-remove-if '(lambda (edge) (or (>= (car edge) high) (<= (cadr edge) low))) near)
+        met       (kora:sorted_once (apply 'append (mapcar '(lambda (edge) (kora:columns_met edge slack)) reaching)))
         middle    (/ (+ low high) 2.0)
         crossings (kora:crossings near middle))
+  (kora:edge_cells)
+  (kora:inner_cells))
+
+;; Those that an edge reaches into.
+(defun kora:edge_cells (/ touching anchor_x inside edges passed)
+  (setq touching (if met (kora:by_column near))
+        passed   crossings)
   (foreach column met
-    (apply visit (list (list (* column (car step)) bottom) near)))
+    (setq anchor_x (- (* column (car step)) (* 8 slack)))
+    (while (and passed (<= (car passed) anchor_x))
+      (setq inside (not inside)
+            passed (cdr passed)))
+    (while (< (caar touching) column) (setq touching (cdr touching)))
+    (setq edges nil)
+    (while (and touching (= (caar touching) column))
+      (setq edges    (cons (cdar touching) edges)
+            touching (cdr touching)))
+    (apply visit (list (list (* column (car step)) bottom) (cons (list anchor_x middle inside) edges)))))
+
+;; A list of (column . edge) of the cells that edges touch, sorted by columns.
+(defun kora:by_column (edges / pairs)
+  (foreach edge edges
+    (foreach column (kora:columns_met edge (* -9 slack))
+      (setq pairs (cons (cons column edge) pairs))))
+  (vl-sort pairs '(lambda (a b) (< (car a) (car b)))))
+
+(defun kora:inner_cells (/ column to)
   (while (cdr crossings)
     (setq column (kora:ceiling (/ (- (car crossings) slack) (car step)))
           to     (kora:floor (/ (+ (- (cadr crossings) (car size)) slack) (car step))))
@@ -69,12 +103,13 @@
       (setq column (1+ column)))
     (setq crossings (cddr crossings))))
 
-;; The numbers of the columns whose cells an edge reaches into.
-(defun kora:columns_met (edge / ends column end columns)
-  (setq ends   (mapcar '(lambda (height) (kora:edge_at edge height)) (list (max low (car edge)) (min high (cadr edge))))
+;; The numbers of the columns whose cells an edge reaches into by more than a depth; a negative one is how near it comes.
+(defun kora:columns_met (edge depth / ends column end columns)
+  (setq ends   (mapcar '(lambda (height) (kora:edge_at edge height))
+                       (list (max (+ bottom depth) (car edge)) (min (- (+ bottom (cadr size)) depth) (cadr edge))))
         column (if (= (car edge) (cadr edge)) (list (caddr edge) (cadddr edge)) ends)
-        end    (kora:floor (/ (- (apply 'max column) slack) (car step)))
-        column (kora:ceiling (/ (- (+ (apply 'min column) slack) (car size)) (car step))))
+        end    (kora:floor (/ (- (apply 'max column) depth) (car step)))
+        column (kora:ceiling (/ (- (+ (apply 'min column) depth) (car size)) (car step))))
   (while (<= column end)
     (setq columns (cons column columns)
           column  (1+ column)))
@@ -97,21 +132,30 @@
                         (vl-remove-if-not '(lambda (edge) (and (<= (car edge) height) (< height (cadr edge))))
                                           edges))))
 
-;; All of the numbers in order. vl-sort may drop equal ones.
+;; All of the numbers in order. vl-sort may drop equal ones, but no lists of one.
 (defun kora:ordered (numbers)
-  (mapcar '(lambda (index) (nth index numbers)) (vl-sort-i numbers '<)))
+  (mapcar 'car (vl-sort (mapcar 'list numbers) '(lambda (a b) (< (car a) (car b))))))
 
-;; (kora_in_area edges point) -> T when the point is in the area or on its edge. edges are those of the whole area, or
-;; all that reach to the point's height.
-(defun kora_in_area (edges point slack / inside on x)
-  (foreach edge edges
-    (if (<= (- (car edge) slack) (cadr point) (+ (cadr edge) slack))
-      (progn
-        (if (and (<= (car edge) (cadr point)) (< (cadr point) (cadr edge))
-                 (< (kora:edge_at edge (cadr point)) (car point)))
-          (setq inside (not inside)))
-        (if (kora:is_on edge point slack) (setq on 'ON)))))
+;; (kora_in_area view point slack) -> T when the point is in the area, ON when it is on its edge.
+(defun kora_in_area (view point slack / x y left from inside on)
+  (setq x      (car point)
+        y      (cadr point)
+        left   (caar view)
+        from   (cadar view)
+        inside (caddar view))
+  (foreach edge (cdr view)
+    (if (not (eq (kora:is_passed edge x y) (kora:is_passed edge left from))) (setq inside (not inside)))
+    (if (and (<= (- (car edge) slack) y (+ (cadr edge) slack)) (kora:is_on edge point slack)) (setq on 'ON)))
   (cond (on) (inside)))
+
+;; Whether the way that comes up from far below at left, and turns to x at the height y, passes the edge an odd number of
+;; times. An edge takes its lower end, and what is straight above or below left counts as left of it: as every edge is
+;; asked the same, ways through corners and along edges come out right as well.
+(defun kora:is_passed (edge x y)
+  (cond
+    ((< y (car edge)) nil)
+    ((>= y (cadr edge)) (not (eq (<= (caddr edge) left) (<= (cadddr edge) left))))
+    (T (not (eq (<= (kora:edge_at edge y) x) (<= (caddr edge) left))))))
 
 (defun kora:is_on (edge point slack / from to reach)
   (setq from   (list (caddr edge) (car edge))
@@ -123,11 +167,11 @@
 
 (defun kora:cross (a b) (- (* (car a) (cadr b)) (* (cadr a) (car b))))
 
-;; (kora_cut_pieces pieces edges slack) -> what of the pieces is in the area: a list of runs, each a list of pieces that
+;; (kora_cut_pieces pieces view slack) -> what of the pieces is in the area: a list of runs, each a list of pieces that
 ;; follow each other. A closed run that is whole begins where it began.
-(defun kora_cut_pieces (pieces edges slack / runs left)
+(defun kora_cut_pieces (pieces view slack / runs left)
   (foreach piece pieces
-    (foreach part (kora:parts_inside piece edges slack)
+    (foreach part (kora:parts_inside piece view slack)
       (setq part (kora:part_of piece (car part) (cadr part)))
       (if (and runs (equal (cadr (caar runs)) (car part) slack))
         (setq runs (cons (cons part (car runs)) (cdr runs)))
@@ -141,13 +185,13 @@
     runs))
 
 ;; The parts (from to), 0 to 1, of a piece that lie in the area, neighbours joined.
-(defun kora:parts_inside (piece edges slack / places parts from)
-  (setq places (kora:ordered (append '(0.0 1.0) (kora:places_met piece edges)))
+(defun kora:parts_inside (piece view slack / places parts from)
+  (setq places (kora:ordered (append '(0.0 1.0) (kora:places_met piece (cdr view))))
         from   (car places))
   (foreach to (cdr places)
     (if (> (- to from) 1e-9)
       (progn
-        (if (kora:stretch_inside piece from to edges slack)
+        (if (kora:stretch_inside piece from to view slack)
           (setq parts (if (and parts (equal (cadar parts) from 1e-12))
                         (cons (list (caar parts) to) (cdr parts))
                         (cons (list from to) parts))))
@@ -157,10 +201,10 @@
   (reverse parts))
 
 ;; What touches the edge in its middle is judged by another point; when that is on the edge too, it runs along it.
-(defun kora:stretch_inside (piece from to edges slack / middle)
-  (setq middle (kora_in_area edges (kora_piece_at piece (/ (+ from to) 2.0)) slack))
+(defun kora:stretch_inside (piece from to view slack / middle)
+  (setq middle (kora_in_area view (kora_piece_at piece (/ (+ from to) 2.0)) slack))
   (if (= middle 'ON)
-    (kora_in_area edges (kora_piece_at piece (+ from (* 0.29 (- to from)))) slack)
+    (kora_in_area view (kora_piece_at piece (+ from (* 0.29 (- to from)))) slack)
     middle))
 
 (defun kora:part_of (piece from to)

@@ -58,6 +58,19 @@ RecordId restingLayoutOf(const drawing::Drawing &drawing, const FieldList &field
     return drawing::noRecord;
 }
 
+/// The objects that programs can make, with the markers of their classes.
+const QHash<QString, QStringList> &objectMarkers()
+{
+    static const QHash<QString, QStringList> markers = {
+        {u"DICTIONARY"_s, {u"AcDbDictionary"_s}},
+        {u"XRECORD"_s, {u"AcDbXrecord"_s}},
+        {u"GROUP"_s, {u"AcDbGroup"_s}},
+        {u"IMAGEDEF"_s, {u"AcDbRasterImageDef"_s}},
+        {u"SPATIAL_FILTER"_s, {u"AcDbFilter"_s, u"AcDbSpatialFilter"_s}},
+    };
+    return markers;
+}
+
 } // namespace
 
 EntityMaker::Outcome EntityMaker::make(const FieldList &fields)
@@ -78,7 +91,7 @@ EntityMaker::Outcome EntityMaker::make(const FieldList &fields)
         return addPart(type, fields);
     if (const auto kind = drawing::tableKindOf(type); kind && type != u"BLOCK_RECORD")
         return makeTableEntry(type, fields);
-    if (type == u"DICTIONARY" || type == u"XRECORD" || type == u"GROUP")
+    if (objectMarkers().contains(type))
         return makeObject(type, fields);
     // Whatever was left unfinished gives way to the new entity.
     m_entity.reset();
@@ -196,10 +209,10 @@ EntityMaker::Outcome EntityMaker::makeObject(const QString &type, const FieldLis
     if (!drawing::hasMarkers(drawing))
         return failed(u"%1: a drawing of this version has no such object"_s.arg(type));
     const drawing::JournalGroup group(drawing.journal(), type);
+    drawing::ensureClass(drawing, type);
     FieldList whole = drawing::recordHead(drawing, type, {});
-    whole.push_back({100, type == u"XRECORD" ? u"AcDbXrecord"_s
-                          : type == u"GROUP" ? u"AcDbGroup"_s
-                                             : u"AcDbDictionary"_s});
+    for (const QString &marker : objectMarkers().value(type))
+        whole.push_back({100, marker});
     std::copy_if(fields.begin(), fields.end(), std::back_inserter(whole), [](const Field &field) {
         return field.code != 0 && field.code != 5 && field.code != 100 && field.code != 330;
     });
