@@ -174,6 +174,7 @@ void DLG_QT_PatternHatch::changeTab()
     if (m_isApplying)
         return;
     m_ui->Types->setCurrentWidget(currentType().page);
+    m_ui->limitsNote->setText(limitsOfCutting());
     showSource();
     refreshSizes();
     enableButtons();
@@ -186,6 +187,21 @@ const DLG_QT_PatternHatch::Type &DLG_QT_PatternHatch::currentType() const
             return type;
     }
     return m_types[Block];
+}
+
+QString DLG_QT_PatternHatch::limitsOfCutting() const
+{
+    // Drawings of the oldest version have no clips, images or masks.
+    const bool isOldest =
+        ACTIVE_DOCUMENT() && ACTIVE_DOCUMENT()->systemVariable(QStringLiteral("ACADVER")) == QLatin1String("AC1009");
+    if (m_ui->pattern_image->isChecked() || m_ui->pattern_mask->isChecked())
+        return isOldest ? tr("A drawing of this version has neither images nor masks.") : QString();
+    if (isOldest)
+        return m_ui->pattern_xref->isChecked()
+                   ? tr("At the boundary copies of references are left out: they cannot be cut.")
+                   : tr("At the boundary copies with anything but lines, arcs and polylines are left out.");
+    return m_ui->pattern_xref->isChecked() ? tr("Copies of references are clipped at the boundary, not cut.")
+                                           : tr("Copies with texts, images or tilted entities are clipped, not cut.");
 }
 
 void DLG_QT_PatternHatch::showSource()

@@ -105,6 +105,8 @@ private:
 
     void takeBoundaryCount();
     void enableButtons();
+    /// What cutting at the boundary cannot do with a pattern of this type in this drawing; empty when it can do all.
+    QString limitsOfCutting() const;
     void focusFirst();
     void refreshFavourites();
 
