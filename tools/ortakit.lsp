@@ -10,7 +10,13 @@
 ;;; support/outlines.lsp  what entities look like: pieces, polygons, frames of blocks
 ;;; support/companions.lsp masks and frames of texts, and to which text they belong
 ;;; support/areas.lsp     areas within polygons, grids over them, cutting at their edge
-;;; support/patterns.lsp  copies of blocks, drawings and masks over an area, for PATTERNHATCH
+;;; support/regions.lsp   what filled shapes have in common with an area
+;;; support/strokes.lsp   what blocks are drawn with, through all blocks within them
+;;; support/hatches.lsp   hatches and their patterns of lines
+;;; support/pictures.lsp  images, and clips of references
+;;; support/rooms.lsp     what touching lines and curves enclose
+;;; support/patterns.lsp  patterns over an area, for PATTERNHATCH
+;;; support/copies.lsp    their copies, whole and cut
 ;;; support/groups.lsp    groups of entities
 ;;; support/catalogue.lsp what the Lisp engine holds, for the Lisp Explorer
 ;;; support/files.lsp     files of definitions, changed in one place
@@ -25,7 +31,7 @@
 ;;; support/viewports.lsp viewports of the sheet
 
 (foreach file '("strings" "run" "state" "entities" "selection" "texts" "textboxes" "catalogue" "files" "dimstyles" "arrows"
-                "blocks" "attributes" "tables" "replacing" "drawing" "variables" "viewports" "outlines" "areas" "patterns"
-                "groups" "companions")
+                "blocks" "attributes" "tables" "replacing" "drawing" "variables" "viewports" "outlines" "areas" "regions"
+                "strokes" "hatches" "pictures" "rooms" "patterns" "copies" "groups" "companions")
   (load (strcat "support/" file ".lsp")))
 (princ)

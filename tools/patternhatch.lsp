@@ -1,13 +1,14 @@
-;;; menu: Pattern hatch | PATTERNHATCH | Fills a closed area with copies of a block, a drawing or a mask
+;;; menu: Pattern hatch | PATTERNHATCH | Fills a closed area with copies of a block, an image, a drawing or a mask
 ;;;
 ;;; PATTERNHATCH: the dialog gives what the area is filled with, how the copies are sized, spaced, placed and turned,
 ;;; and what becomes of those that reach over the boundary. On the way the boundary is picked, as closed entities, as
-;;; points inside of closed entities or as a hatch, and so are the origin, the angle, or a reference that shows the
-;;; pattern. Closed entities that are chosen already are the boundary. One within another is a hole.
+;;; points in rooms that lines and curves enclose or as a hatch, and so are the origin, the angle, or a reference that
+;;; shows the pattern. Closed entities that are chosen already are the boundary. One within another is a hole.
 ;;;
 ;;; The lower left corner of what the pattern shows stands at the origin and the grid's other points. Cut at the
-;;; boundary are blocks of lines, arcs, circles and polylines, and masks; a copy of anything else that reaches over it
-;;; is left out. The copies are on the current layer, and so is what is cut, where the block has it on layer 0.
+;;; boundary are lines, curves and filled areas, through all blocks within a block, images and masks; a copy of anything
+;;; else is clipped as a whole, or left out where a drawing has no clips. The copies are on the current layer, and so is
+;;; what is cut, where the block has it on layer 0. Esc at a prompt comes back to the dialog.
 
 (setq patternhatch:closed '((0 . "LWPOLYLINE,POLYLINE,CIRCLE,ELLIPSE,SPLINE,HATCH")))
 
@@ -64,8 +65,9 @@
 (defun patternhatch:change_boundary (action state)
   (cond
     ((= action "GET_ENTITIES")
-     (patternhatch:add (patternhatch:closed_ones (kora_choose "Select closed boundary entities: "
-                                                              patternhatch:closed))))
+     (patternhatch:add
+       (patternhatch:closed_ones
+         (kora_asked 'kora_choose (list "Select closed boundary entities: " patternhatch:closed)))))
     ((= action "GET_POINTS") (patternhatch:pick_points (kora_pattern_tolerance state)))
     ((= action "GET_FROMHATCH") (patternhatch:pick_hatch))
     ((= action "DELETE") (setq boundary nil))
@@ -83,37 +85,36 @@
                                 " of those chosen cannot be a boundary: open or tilted.")))
   closed)
 
-(defun patternhatch:pick_points (tolerance / areas point found)
-  (while (setq point (getPointOrtakit (if areas "\nSpecify next internal point: " "\nSpecify internal point: ")))
-    (setq areas (cond (areas) ((patternhatch:all_areas tolerance)))
-          point (trans point 1 0)
-          found (vl-some '(lambda (pair) (if (kora_in_area (kora_area_view (cdr pair)) point 0.0) (car pair))) areas))
-    (if found
-      (patternhatch:add (list found))
-      (kora_alert_message "No closed entity lies around this point."))))
+(defun patternhatch:pick_points (tolerance / walls point room)
+  (while (setq point (kora_asked 'getPointOrtakit
+                                 (list (if walls "\nSpecify next internal point: " "\nSpecify internal point: "))))
+    (setq walls (cond (walls) ((kora_walls (patternhatch:curves) tolerance)))
+          room  (if walls (kora_room walls (trans point 1 0) tolerance)))
+    (if room
+      (patternhatch:add (list room))
+      (kora_alert_message "Nothing encloses this point."))))
 
-;; A list of (entity . area) of what is closed in the current space, the smallest first.
-(defun patternhatch:all_areas (tolerance / outlines areas)
-  (foreach entity (kora_selection_to_list
-                    (ssget "_X" (cons (cons 410 (getvar "CTAB"))
-                                      '((0 . "LWPOLYLINE,POLYLINE,CIRCLE,ELLIPSE,SPLINE")))))
-    (if (setq outlines (kora_outlines (entget entity) tolerance))
-      (setq areas (cons (list (abs (patternhatch:extent (car outlines))) entity (kora_area outlines)) areas))))
-  (mapcar '(lambda (row) (cons (cadr row) (caddr row)))
-          (vl-sort areas '(lambda (a b) (< (car a) (car b))))))
+;; What can be seen of lines and curves in the current space, and of blocks with such.
+(defun patternhatch:curves ()
+  (vl-remove-if '(lambda (entity) (patternhatch:is_hidden (entget entity)))
+                (kora_selection_to_list
+                  (ssget "_X" (cons (cons 410 (getvar "CTAB"))
+                                    '((0 . "LINE,ARC,CIRCLE,LWPOLYLINE,POLYLINE,ELLIPSE,SPLINE,INSERT")))))))
 
-;; Twice the area of a polygon.
-(defun patternhatch:extent (polygon)
-  (apply '+ (mapcar 'kora:cross polygon (append (cdr polygon) (list (car polygon))))))
+(defun patternhatch:is_hidden (data / layer)
+  (setq layer (tblsearch "LAYER" (kora_field data 8)))
+  (or (= 1 (kora_field data 60))
+      (/= 0 (logand 1 (cond ((kora_field layer 70)) (0))))
+      (minusp (cond ((kora_field layer 62)) (7)))))
 
 (defun patternhatch:pick_hatch (/ pick)
   (cond
-    ((null (setq pick (entsel "\nSelect a hatch: "))) (kora_alert_message "Nothing was chosen."))
+    ((null (setq pick (kora_asked 'entsel '("\nSelect a hatch: ")))) (kora_alert_message "Nothing was chosen."))
     ((/= (kora_field (entget (car pick)) 0) "HATCH") (kora_alert_message "That is not a hatch."))
     (T (patternhatch:add (patternhatch:closed_ones (list (car pick)))))))
 
 (defun patternhatch:show ()
-  (setq shown boundary)
+  (setq shown (apply 'append (mapcar 'kora_boundary_entities boundary)))
   (foreach entity shown (redraw entity 3))
   (patternhatch:wait)
   (patternhatch:unshow))
@@ -123,12 +124,12 @@
   (setq shown nil))
 
 (defun patternhatch:wait ()
-  (getstring "\nPress Enter to return to the dialog: "))
+  (kora_asked 'getstring '("\nPress Enter to return to the dialog: ")))
 
 ;;; Origin, angle and pattern from the drawing
 
 (defun patternhatch:get_origin (/ point)
-  (if (setq point (getPointOrtakit "\nSpecify pattern origin: "))
+  (if (setq point (kora_asked 'getPointOrtakit '("\nSpecify pattern origin: ")))
     (patternhatch:write_origin point)))
 
 (defun patternhatch:write_origin (point)
@@ -151,14 +152,14 @@
 
 (defun patternhatch:get_rotation (state / base turn)
   (setq base (kora:place_in state '("positionx" "positiony")))
-  (if (setq turn (getAngleOrtakit base "\nSpecify rotation angle: "))
+  (if (setq turn (kora_asked 'getAngleOrtakit (list base "\nSpecify rotation angle: ")))
     (patternhatch:write_rotation turn)))
 
 (defun patternhatch:write_rotation (turn)
   (patternhatch:write "rotation" (/ (* 180.0 turn) pi)))
 
 (defun patternhatch:get_entity (state / pick data)
-  (setq pick (entsel "\nSelect a block or external reference that shows the pattern: ")
+  (setq pick (kora_asked 'entsel '("\nSelect a block or external reference that shows the pattern: "))
         data (if pick (entget (car pick))))
   (cond
     ((null pick) (kora_alert_message "Nothing was chosen."))
@@ -255,17 +256,20 @@
 ;; A nameless block with its base point at the world's origin.
 (defun patternhatch:make_block (parts / name)
   (entmake '((0 . "BLOCK") (2 . "*U") (70 . 1) (10 0.0 0.0 0.0)))
-  (foreach part parts (entmake (append part (if (assoc 8 part) nil (list (cons 8 (getvar "CLAYER")))))))
+  (foreach part parts (entmake (patternhatch:on_layer (kora_entity_of part))))
   (if (and (setq name (entmake '((0 . "ENDBLK"))))
            (entmake (list '(0 . "INSERT") (cons 2 name) '(10 0.0 0.0 0.0))))
-    T
+    (progn (mapcar 'kora_clip_made parts (kora_block_entities name)) T)
     (kora_refuse "The block could not be made.")))
 
+(defun patternhatch:on_layer (data)
+  (append data (if (assoc 8 data) nil (list (cons 8 (getvar "CLAYER"))))))
+
 (defun patternhatch:make_group (parts / made)
-  (foreach part parts (setq made (cons (entmakex part) made)))
+  (setq made (mapcar '(lambda (part) (entmakex (kora_entity_of part))) parts))
   (cond
     ((member nil made) (kora_refuse "Not all copies could be made."))
-    ((kora_make_group (reverse made)) T)
+    ((kora_make_group made) (mapcar 'kora_clip_made parts made) T)
     (T (kora_refuse "The group could not be made: a drawing of this version may have none."))))
 
 (princ)

@@ -91,10 +91,43 @@ TEST_F(PatternHatchTool, FillsAreasUpToTheirEdge)
          u"(tile (list '((0 . \"LWPOLYLINE\") (100 . \"AcDbEntity\") (8 . \"0\") (62 . 1) (100 . \"AcDbPolyline\") (90 . 4) (70 . 1) (43 . 0.1) (10 2.0 1.0) (42 . 0.5) (10 3.0 1.0) (10 3.0 2.0) (10 2.0 2.0)))) (box 0 0 0.55 1.35)"_s,
          u"check ScaleFactor yes\nclick acceptButton\n"_s,
          u"(and (= 1 (length (parts))) (= 4 (kora_field (car (parts)) 90)) (= 1 (kora_field (car (parts)) 62)) (is (kora_field (car (parts)) 43) 0.1 1e-9))"_s},
-        {"texts cannot be cut",
+        {"a copy with a text is hidden beyond the edge",
          u"(tile (list '((0 . \"TEXT\") (10 2.0 1.0 0.0) (40 . 1.0) (1 . \"X\")))) (box 0 0 2.5 1)"_s,
-         u"click acceptButton\nexpect-printed 2 copies drawn. 1 was left out: they cannot be cut.\n"_s,
-         u"(= 2 (length (of \"INSERT\")))"_s},
+         u"click acceptButton\nexpect-printed 3 copies drawn, 1 of them cut at the boundary.\n"_s,
+         u"(and (= 3 (length (of \"INSERT\"))) (equal '(2.5 1.0 0.0) (cadr (acet-ent-geomextents (entlast))) 1e-6))"_s},
+        {"blocks within blocks, turned and mirrored",
+         u"(progn (entmake '((0 . \"BLOCK\") (2 . \"IN\") (70 . 0) (10 1.0 0.0 0.0))) (entmake '((0 . \"LINE\") (8 . "
+         u"\"0\") (10 "
+         "1.0 0.0 0.0) (11 3.0 0.0 0.0))) (entmake '((0 . \"ENDBLK\"))) (tile (list '((0 . \"INSERT\") (2 . \"IN\") (8 "
+         ". \"DEEP\") "
+         "(10 3.0 1.0 0.0) (41 . -0.5) (42 . 0.5) (43 . 0.5)) dash '((0 . \"INSERT\") (2 . \"IN\") (8 . \"DEEP\") (10 "
+         "2.0 1.0 "
+         "0.0) (41 . 0.5) (42 . 0.5) (43 . 0.5) (50 . 1.5707963267949))))) (box 0 0.5 2.5 1.5)"_s,
+         u"click acceptButton\n"_s,
+         u"(and (= 2 (length (of \"INSERT\"))) (is (total 'long \"LINE\") 3.5 1e-9) (= \"DEEP\" (kora_field "
+         u"(car (of "
+         "\"LINE\")) 8)))"_s},
+        {"ellipses, splines, points and filled areas",
+         u"(tile (list '((0 . \"ELLIPSE\") (100 . \"AcDbEntity\") (100 . \"AcDbEllipse\") (10 2.5 1.5 0.0) (11 0.5 0.0 "
+         u"0.0) (40 . 1.0) (41 "
+         ". 0.0) (42 . 6.28318530717959)) '((0 . \"SOLID\") (10 2.0 1.0 0.0) (11 3.0 1.0 0.0) (12 2.0 2.0 0.0) (13 3.0 "
+         "2.0 0.0)) "
+         "'((0 . \"POINT\") (10 2.75 1.5 0.0)))) (box 0 0 1.5 1)"_s,
+         u"click acceptButton\nexpect-printed 2 copies drawn, 1 of them cut\n"_s,
+         u"(and (= 1 (length (of \"INSERT\"))) (null (of \"POINT\")) (= 1 (length (of \"LWPOLYLINE\"))) (equal '((1.0 "
+         u"0.0 0.0) (1.5 "
+         "1.0 0.0)) (kora_bounding_box (mapcar '(lambda (data) (kora_field data -1)) (of \"HATCH\"))) 1e-9))"_s},
+        {"a hatch of lines keeps them",
+         u"(tile (list (kora_hatch '(((2.0 1.0) (3.0 1.0) (3.0 2.0) (2.0 2.0)) ((2.9 1.2) (2.9 1.8) (2.7 1.8) (2.7 1.2))) '(\"L\" (0.0 (2.0 1.0) (0.0 0.1) nil)) nil))) (box 0 0 1.8 1)"_s,
+         u"click acceptButton\n"_s,
+         u"(and (= 1 (length (of \"INSERT\"))) (setq h (car (of \"HATCH\"))) (is (kora_field h 46) 0.1 1e-9) (is (abs "
+         u"(apply '+ (mapcar "
+         "'kora_twice_area (kora_outlines h 0.01)))) 1.6 0.13))"_s},
+        {"a block with attributes is as large as what it draws",
+         u"(tile (list dash '((0 . \"ATTDEF\") (100 . \"AcDbEntity\") (100 . \"AcDbText\") (10 2.0 1.0 0.0) (40 . 0.2) "
+         u"(1 . \"\") (11 0.0 0.0 0.0) (100 . \"AcDbAttributeDefinition\") (3 . \"\") (2 . \"T\") (70 . "
+         "0)))) (box 0 0 2 2)"_s,
+         u"click acceptButton\n"_s, u"(is 1.0 (kora_field (car (of \"INSERT\")) 41) 1e-9)"_s},
         {"drawn beyond the edge", u"(tile (list dash)) (box 0 0 2.5 1.5)"_s,
          u"click notexceedlimits\nclick acceptButton\nexpect-printed 6 copies drawn.\n"_s,
          u"(= 6 (length (of \"INSERT\")))"_s},
@@ -122,10 +155,20 @@ TEST_F(PatternHatchTool, FillsAreasUpToTheirEdge)
          u"T"_s},
         {"many, and no", u"(box 0 0 300 300)"_s,
          mask + u"click acceptButton\nenter\ndialog DLG_QT_PatternHatch\nclick ButtonCancel\n"_s, u"T"_s},
-        {"a mask with a hatch pattern", u"(box 0 0 3 3)"_s,
+        {"masks with a hatch pattern", u"(box 0 0 2.5 2) (box 2 0.5 0.25 0.25)"_s,
+         mask + u"set patternName hex\nclick acceptButton\nexpect-printed 6 copies drawn, 2 of them cut\n"_s,
+         u"(and (= \"WIPEOUT\" (kora_field (car (parts)) 0)) (= \"HATCH\" (kora_field (last (parts)) 0)) (= 6 (length "
+         u"(of \"WIPEOUT\"))) (= 6 (length (of \"HATCH\"))) (= 3 (kora_field (car (of \"HATCH\")) "
+         u"78)) (is (total "
+         "'hidden \"WIPEOUT\") (- 5 0.0625) 1e-9))"_s},
+        {"a pattern that nobody knows", u"(box 0 0 3 3)"_s,
          mask +
-             u"set patternName HEX\nclick acceptButton\ndialog DLG_QT_PatternHatch\nclick ButtonCancel\nexpect-printed Masks with the hatch pattern HEX\n"_s,
+             u"set patternName NONE\nclick acceptButton\ndialog DLG_QT_PatternHatch\nclick ButtonCancel\nexpect-printed The hatch pattern NONE is in no file\n"_s,
          u"T"_s},
+        {"images", u"(circle 2 2 2)"_s,
+         u"click pattern_image\nclick Bt_selectImage\nfile %1\ndialog DLG_QT_PatternHatch\nset Width 1\nset Height 1\nclick acceptButton\nexpect-printed 16 copies drawn, 12 of them cut\n"_s
+             .arg(ToolRun::sample(u"../docs/pictures/breakline.png"_s)),
+         u"(is (total 'hidden \"IMAGE\") (* 4 pi) 0.1)"_s},
         {"nothing in it", u"(box 0.2 0.2 0.1 0.1) (tile (list dash))"_s,
          u"click acceptButton\ndialog DLG_QT_PatternHatch\nclick ButtonCancel\nexpect-printed No copy of the pattern lies in the boundary.\n"_s,
          u"(tblsearch \"BLOCK\" \"TILE\")"_s},
@@ -263,13 +306,31 @@ TEST_F(PatternHatchTool, TakesEverythingFromTheDrawing)
         "dialog DLG_QT_PatternHatch\nexpect Rotation 45\nclick selOrigin\npoint 100000.1234,0\n"
         "dialog DLG_QT_PatternHatch\nclick Btn_ExtractFromEntity\npick 100006.001039,20.479426\n"
         "dialog DLG_QT_PatternHatch\nexpect LbTitleblock TILE\nexpect Width 2\nexpect Height 1.5\nclick acceptButton\n"
-        "expect-printed \"No closed entity lies around this point.\"\n"
+        "expect-printed \"Nothing encloses this point.\"\n"
         // Steps of 2 by 1.5 along the turned axes lead from each copy to the reference.
         "lisp (defun whole (x) (equal x (kora:floor (+ x 0.5)) 1e-5))\n"
         "expect-lisp (vl-every '(lambda (data / way) (setq way (kora_turned_back (mapcar '- (kora_field data 10) "
         "'(100005.123456 20.0 0.0)) 0.5)) (and (whole (/ (car way) 2.0)) (whole (/ (cadr way) 1.5)))) (of "
         "\"INSERT\"))\n"
         "undo\nexpect-lisp (= 1 (sslength (ssget \"_X\" '((0 . \"INSERT\")))))\n"_s);
+}
+
+TEST_F(PatternHatchTool, FindsRoomsOfLinesThatTouch)
+{
+    const QString line = u"(entmakex '((0 . \"LINE\") (8 . \"0\") (10 %1 0.0) (11 %2 0.0))) "_s;
+    // Walls that overshoot, a wall that ends in the room, a bay of an arc, a round and a cross that stand in it.
+    const QString walls =
+        line.arg(u"99.0 100.0"_s, u"110.0 100.0"_s) + line.arg(u"100.0 98.0"_s, u"100.0 112.0"_s) +
+        line.arg(u"100.0 110.0"_s, u"110.0 110.0"_s) + line.arg(u"110.0 100.0"_s, u"110.0 103.0"_s) +
+        line.arg(u"110.0 107.0"_s, u"110.0 110.0"_s) + line.arg(u"105.0 110.0"_s, u"105.0 108.0"_s) +
+        line.arg(u"107.0 108.0"_s, u"109.0 108.0"_s) + line.arg(u"108.0 107.0"_s, u"108.0 109.0"_s) +
+        u"(entmakex (list '(0 . \"ARC\") '(8 . \"0\") '(10 110.0 105.0 0.0) '(40 . 2.0) (cons 50 (* -0.5 pi)) (cons "
+        "51 (* 0.5 pi)))) (circle 103 103 1) (circle 103 103 0.5)"_s;
+    plays(begun(u"(tile (list dash)) (progn "_s + walls + u" nil)"_s) +
+          u"click pattern_mask\nset patternName \"\"\nclick Btn_SelectPoints\npoint 101,101\npoint 101,101\npoint "
+          "98,111\nenter\ndialog DLG_QT_PatternHatch\nexpect-enabled acceptButton yes\nclick acceptButton\n"
+          "expect-printed Nothing encloses this point.\n"
+          "expect-lisp (is (total 'hidden \"WIPEOUT\") (+ 100 pi) 0.1)\n"_s);
 }
 
 TEST_F(PatternHatchTool, WhatIsCancelledLeavesTheDrawingAsItWas)
@@ -279,9 +340,13 @@ TEST_F(PatternHatchTool, WhatIsCancelledLeavesTheDrawingAsItWas)
     const QString picked = u"click Btn_SelectEntities\npick 4.3,5\nenter\n"_s + dialog;
     const QString zigzag = u"file %1\n"_s.arg(ToolRun::sample(u"zigzag.dxf"_s)) + dialog;
     plays(opened + u"click pattern_block\nclick Bt_selectBlock\n"_s + zigzag + picked +
-          u"click Btn_Preview\nenter\n"_s + dialog + u"click Btn_ShowBoundaries\ncancel\nexpect-modified no\n"_s +
-          opened + u"click pattern_xref\nclick Bt_selectBlock_2\n"_s + zigzag + picked +
-          u"click Btn_Preview\ncancel\n"
+          u"click Btn_Preview\nenter\n"_s + dialog + u"click Btn_ShowBoundaries\ncancel\n"_s + dialog +
+          u"click selRotation\ncancel\n"_s + dialog + u"click Btn_SelectEntities\ncancel\n"_s + dialog +
+          u"click Btn_ExtractHatch\ncancel\n"_s + dialog + u"click Btn_ExtractFromEntity\ncancel\n"_s + dialog +
+          u"expect-enabled acceptButton yes\nclick ButtonCancel\nexpect-modified no\n"_s + opened +
+          u"click pattern_xref\nclick Bt_selectBlock_2\n"_s + zigzag + picked + u"click Btn_Preview\ncancel\n"_s +
+          dialog +
+          u"expect-enabled acceptButton yes\nclick ButtonCancel\n"
           "expect-modified no\nexpect-lisp (not (tblsearch \"BLOCK\" \"zigzag\"))\n"_s +
           opened + picked + u"click Btn_Preview\nenter\n"_s + dialog + u"click selOrigin\ncancel\n"_s + dialog +
           u"click ButtonCancel\nexpect-modified no\n"_s + opened + picked +

@@ -3,9 +3,9 @@
 ;;; What lies in an odd number of the polygons is in the area: one within another is a hole. An area is a list of edges
 ;;; (low high at-low at-high), the y of the edge's ends and the x that it has there, sorted by low.
 ;;;
-;;; A view of an area is a list (anchor edge ...): the edges that come near some place, and (x y inside), a point left of
-;;; it that is known to be in the area or not. All that the other edges do is in the anchor, so that what is asked of a
-;;; place costs as much as there is of the area.
+;;; A view of an area is a list (anchor edge ...): the edges that come near some place, and (x y inside), a point left
+;;; of it that is known to be in the area or not. All that the other edges do is in the anchor, so that what is asked
+;;; of a place costs as much as there is of the area.
 
 ;; (kora_area polygons) -> the area.
 (defun kora_area (polygons / edges)
@@ -103,7 +103,8 @@
       (setq column (1+ column)))
     (setq crossings (cddr crossings))))
 
-;; The numbers of the columns whose cells an edge reaches into by more than a depth; a negative one is how near it comes.
+;; The numbers of the columns whose cells an edge reaches into by more than a depth; a negative one is how near it
+;; comes.
 (defun kora:columns_met (edge depth / ends column end columns)
   (setq ends   (mapcar '(lambda (height) (kora:edge_at edge height))
                        (list (max (+ bottom depth) (car edge)) (min (- (+ bottom (cadr size)) depth) (cadr edge))))
@@ -137,20 +138,24 @@
   (mapcar 'car (vl-sort (mapcar 'list numbers) '(lambda (a b) (< (car a) (car b))))))
 
 ;; (kora_in_area view point slack) -> T when the point is in the area, ON when it is on its edge.
-(defun kora_in_area (view point slack / x y left from inside on)
-  (setq x      (car point)
-        y      (cadr point)
-        left   (caar view)
+(defun kora_in_area (view point slack)
+  (if (vl-some '(lambda (edge)
+                  (and (<= (- (car edge) slack) (cadr point) (+ (cadr edge) slack)) (kora:is_on edge point slack)))
+               (cdr view))
+    'ON
+    (kora:is_in view (car point) (cadr point))))
+
+(defun kora:is_in (view x y / left from inside)
+  (setq left   (caar view)
         from   (cadar view)
         inside (caddar view))
   (foreach edge (cdr view)
-    (if (not (eq (kora:is_passed edge x y) (kora:is_passed edge left from))) (setq inside (not inside)))
-    (if (and (<= (- (car edge) slack) y (+ (cadr edge) slack)) (kora:is_on edge point slack)) (setq on 'ON)))
-  (cond (on) (inside)))
+    (if (not (eq (kora:is_passed edge x y) (kora:is_passed edge left from))) (setq inside (not inside))))
+  inside)
 
-;; Whether the way that comes up from far below at left, and turns to x at the height y, passes the edge an odd number of
-;; times. An edge takes its lower end, and what is straight above or below left counts as left of it: as every edge is
-;; asked the same, ways through corners and along edges come out right as well.
+;; Whether the way that comes up from far below at left, and turns to x at the height y, passes the edge an odd number
+;; of times. An edge takes its lower end, and what is straight above or below left counts as left of it: as every edge
+;; is asked the same, ways through corners and along edges come out right as well.
 (defun kora:is_passed (edge x y)
   (cond
     ((< y (car edge)) nil)
@@ -268,22 +273,3 @@
   (while (< turn 0.0) (setq turn (+ turn (* 2 pi))))
   (while (>= turn (* 2 pi)) (setq turn (- turn (* 2 pi))))
   (/ turn (abs (cadddr arc))))
-
-;; (kora_polygon_within polygon corner size) -> what of a polygon is in a rectangle, nil for nothing.
-(defun kora_polygon_within (polygon corner size)
-  (foreach side (list (list 0 1 (car corner)) (list 0 -1 (+ (car corner) (car size)))
-                      (list 1 1 (cadr corner)) (list 1 -1 (+ (cadr corner) (cadr size))))
-    (if polygon (setq polygon (kora:cut_side polygon (car side) (cadr side) (caddr side)))))
-  polygon)
-
-;; What of a polygon is above (sign 1) or below (-1) a limit on an axis.
-(defun kora:cut_side (polygon axis sign limit / result a b)
-  (mapcar '(lambda (from to)
-             (setq a (* sign (- (nth axis from) limit))
-                   b (* sign (- (nth axis to) limit)))
-             (if (>= a 0.0) (setq result (cons from result)))
-             (if (minusp (* a b))
-               (setq result (cons (mapcar '(lambda (u v) (+ u (* (/ a (- a b)) (- v u)))) from to) result))))
-          polygon
-          (append (cdr polygon) (list (car polygon))))
-  (reverse result))

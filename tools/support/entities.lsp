@@ -66,6 +66,8 @@
             upper (if upper (mapcar 'max upper corner) corner))))
   (if lower (list lower upper)))
 
+(defun kora:place2d (point) (list (car point) (cadr point)))
+
 (defun kora:point3d (point)
   (list (car point) (cadr point) (cond ((caddr point)) (0.0))))
 

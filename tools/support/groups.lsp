@@ -3,7 +3,7 @@
 ;; (kora_make_group entities) joins them to a nameless group. -> its name in the drawing's groups; nil when it cannot be
 ;; made.
 (defun kora_make_group (entities / groups group number)
-  (setq groups (kora:groups)
+  (setq groups (kora_dictionary "ACAD_GROUP")
         number 1)
   (if groups
     (progn
@@ -13,12 +13,13 @@
       (if (and group (dictadd groups (strcat "*A" (itoa number)) group))
         (strcat "*A" (itoa number))))))
 
-;; The dictionary of groups, made where it is missing; nil in a drawing that cannot have one.
-(defun kora:groups (/ root found)
+;; (kora_dictionary name) -> a dictionary of the drawing, made where it is missing; nil in a drawing that cannot have
+;; one.
+(defun kora_dictionary (name / root found)
   (if (setq root (namedobjdict))
     (cond
-      ((setq found (dictsearch root "ACAD_GROUP")) (kora_field found -1))
-      (T (dictadd root "ACAD_GROUP" (entmakex '((0 . "DICTIONARY") (100 . "AcDbDictionary"))))))))
+      ((setq found (dictsearch root name)) (kora_field found -1))
+      (T (dictadd root name (entmakex '((0 . "DICTIONARY") (100 . "AcDbDictionary"))))))))
 
 ;; (kora_take_places pairs) puts new entities in the places of old ones, a list of (old . new), which are to be erased
 ;; then: in groups, draw orders and all other objects under the drawing's dictionaries; extension dictionaries become the
