@@ -204,8 +204,9 @@ CommandTask insert(CommandContext &context)
 
 std::vector<CommandRow> insertCommands()
 {
-    return {{"-INSERT", insert, "Inserts a block or drawing file, as a reference or in pieces"},
-            {"INSERT", insert, "Inserts a block or drawing file, as a reference or in pieces"}};
+    // Programs read a block from a file by "name=file" and an Esc at the next prompt: the block stays.
+    constexpr const char *help = "Inserts a block or drawing file, as a reference or in pieces";
+    return {{"-INSERT", insert, help, WhenCancelled::KeepDone}, {"INSERT", insert, help, WhenCancelled::KeepDone}};
 }
 
 } // namespace host::kernel
