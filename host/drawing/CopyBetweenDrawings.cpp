@@ -35,17 +35,23 @@ CopyResult copyEntities(const Drawing &source, const std::vector<RecordId> &enti
     return {noRecord, copier.skipped(), {}};
 }
 
-std::unique_ptr<Drawing> wblock(const Drawing &source, const std::vector<RecordId> &entities, const Vec3 &basePoint)
+std::unique_ptr<Drawing> newDrawingLike(const Drawing &source)
 {
     std::unique_ptr<Drawing> target =
         newDrawing(source.header().integer(u"$MEASUREMENT") != 0 ? Measurement::Metric : Measurement::Imperial);
-    copyEntities(source, entities, *target);
-    if (target->entities().all().empty())
-        return nullptr;
     for (const QString &name : {u"$INSUNITS"_s, u"$LTSCALE"_s, u"$PDMODE"_s, u"$PDSIZE"_s}) {
         if (const std::optional<Field> value = source.header().get(name))
             target->header().set(name, *value);
     }
+    return target;
+}
+
+std::unique_ptr<Drawing> wblock(const Drawing &source, const std::vector<RecordId> &entities, const Vec3 &basePoint)
+{
+    std::unique_ptr<Drawing> target = newDrawingLike(source);
+    copyEntities(source, entities, *target);
+    if (target->entities().all().empty())
+        return nullptr;
     target->header().set(u"$INSBASE", {10, basePoint});
     // Read afresh, so that the new drawing starts without a history.
     return std::move(Drawing::fromBytes(target->toBytes()).drawing);

@@ -33,6 +33,9 @@ struct CopyResult
 /// blocks with all nested in them, registered applications. What `target` has under the same name stays as it is.
 CopyResult copyEntities(const Drawing &source, const std::vector<RecordId> &entities, Drawing &target);
 
+/// An empty drawing of the newest version that measures as `source` does: units, scale of linetypes, look of points.
+std::unique_ptr<Drawing> newDrawingLike(const Drawing &source);
+
 /// A new drawing of the newest version holding copies of the chosen records, with `basePoint` as its insertion base
 /// ($INSBASE). Null when nothing of them can be copied.
 std::unique_ptr<Drawing> wblock(const Drawing &source, const std::vector<RecordId> &entities, const Vec3 &basePoint);

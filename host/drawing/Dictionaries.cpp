@@ -156,7 +156,7 @@ RecordId Dictionaries::ensureDictionary(RecordId parent, const QString &name)
     FieldList body = {{subclassCode, u"AcDbDictionary"_s}};
     if (hasOwners(m_drawing))
         body.push_back({281, qint64(1)});
-    const RecordId record = insertObject("DICTIONARY", m_drawing.handle(parent), body);
+    const RecordId record = insertObject(m_drawing, u"DICTIONARY"_s, m_drawing.handle(parent), body);
     set(parent, name, record);
     return record;
 }
@@ -197,7 +197,7 @@ RecordId Dictionaries::setXrecord(RecordId dictionary, const QString &name, cons
     const JournalGroup group(m_drawing.journal(), {});
     if (!isValid(existing)) {
         body.insert(body.end(), data.begin(), data.end());
-        const RecordId record = insertObject("XRECORD", m_drawing.handle(dictionary), body);
+        const RecordId record = insertObject(m_drawing, u"XRECORD"_s, m_drawing.handle(dictionary), body);
         set(dictionary, name, record);
         return record;
     }
@@ -235,7 +235,7 @@ RecordId Dictionaries::ensureExtensionDictionary(RecordId record)
         body.push_back({280, qint64(1)});
         body.push_back({281, qint64(1)});
     }
-    const RecordId dictionary = insertObject("DICTIONARY", m_drawing.handle(record), body);
+    const RecordId dictionary = insertObject(m_drawing, u"DICTIONARY"_s, m_drawing.handle(record), body);
     FieldList fields = withoutExtension(m_drawing.fields(record));
     const FieldList extension = {
         {102, u"{ACAD_XDICTIONARY"_s}, {hardOwnerCode, m_drawing.handle(dictionary)}, {102, u"}"_s}};
@@ -244,13 +244,6 @@ RecordId Dictionaries::ensureExtensionDictionary(RecordId record)
                   extension.end());
     m_drawing.setFields(record, fields);
     return dictionary;
-}
-
-RecordId Dictionaries::insertObject(const QByteArray &type, Handle owner, const FieldList &body)
-{
-    FieldList fields = recordHead(m_drawing, QString::fromLatin1(type), owner);
-    fields.insert(fields.end(), body.begin(), body.end());
-    return m_drawing.insert(noRecord, ensureSection(m_drawing, Section::Objects), RecordKind::Object, fields);
 }
 
 } // namespace host::drawing

@@ -54,7 +54,6 @@ public:
 
 private:
     void giveOwner(RecordId object, RecordId dictionary);
-    RecordId insertObject(const QByteArray &type, Handle owner, const FieldList &body);
 
     Drawing &m_drawing;
 };

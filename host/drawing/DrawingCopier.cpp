@@ -3,6 +3,7 @@
 #include "host/drawing/Blocks.h"
 #include "host/drawing/Dictionaries.h"
 #include "host/drawing/Entities.h"
+#include "host/drawing/NameClashes.h"
 #include "host/drawing/Structure.h"
 #include "host/drawing/Tables.h"
 
@@ -51,58 +52,17 @@ QString entryNameOf(const std::vector<Dictionaries::Entry> &entries, RecordId re
     return found == entries.end() ? QString() : found->name;
 }
 
-/// The values under a group code, texts in one case: they are names of linetypes and of files.
-std::vector<FieldValue> valuesOf(const FieldList &fields, int code)
-{
-    std::vector<FieldValue> values;
-    for (const Field &field : fields) {
-        if (field.code == code)
-            values.push_back(tagType(code) == TagType::Text ? FieldValue(field.text().toCaseFolded()) : field.value);
-    }
-    return values;
-}
-
-/// The groups that say what the entries of a table look like; none where all groups do.
-std::vector<int> definingCodes(TableKind kind)
-{
-    switch (kind) {
-    case TableKind::Layer:
-        return {62, 6, 370, 420};
-    case TableKind::Linetype:
-        return {49, 74, 9, 46, 50};
-    case TableKind::Style:
-        return {3, 4, 40, 41, 50, 71};
-    default:
-        return {};
-    }
-}
-
-/// Whether two entries of the same name look different. What only one of them says does not count: versions differ in
-/// that, and so do programs in what they leave unsaid.
-bool lookDifferent(TableKind kind, const FieldList &one, const FieldList &other)
-{
-    std::vector<int> codes = definingCodes(kind);
-    if (kind == TableKind::DimStyle) {
-        for (const Field &field : one) {
-            // Texts are names and markers here, handles mean something in their own drawing only, 70 is the flags.
-            const TagType type = tagType(field.code);
-            if (type != TagType::Handle && type != TagType::Text && field.code != 70)
-                codes.push_back(field.code);
-        }
-    }
-    return std::any_of(codes.begin(), codes.end(), [&](int code) {
-        const std::vector<FieldValue> values = valuesOf(one, code);
-        const std::vector<FieldValue> others = valuesOf(other, code);
-        return !values.empty() && !others.empty() && values != others;
-    });
-}
-
 bool isAnonymous(const QString &name)
 {
     return name.startsWith(u'*');
 }
 
 } // namespace
+
+DrawingCopier::DrawingCopier(const Drawing &source, Drawing &target, CopyRules rules)
+    : m_source(source), m_target(target), m_rules(std::move(rules))
+{
+}
 
 /// The record's fields without {...} groups, handles led over to the target.
 FieldList DrawingCopier::translated(RecordId record)
@@ -145,67 +105,88 @@ FieldList DrawingCopier::entityFields(RecordId entity)
     return fields;
 }
 
-void DrawingCopier::ensureReferences(const FieldList &fields)
+/// Copies the table entries that the fields name; what has another name in the target is named so.
+void DrawingCopier::ensureReferences(FieldList &fields)
 {
     const bool hasDimensionStyle = isDimension(fields) || isOf(fields, {u"LEADER", u"TOLERANCE"});
     const bool hasTextStyle = isOf(fields, {u"TEXT", u"MTEXT", u"ATTRIB", u"ATTDEF", u"RTEXT"});
-    for (const Field &field : fields) {
-        if (field.code == 8)
-            ensureEntry(TableKind::Layer, field.text());
+    for (Field &field : fields) {
+        if (field.code == 8 || field.code == 1003)
+            ensureEntry(TableKind::Layer, field);
         else if (field.code == 6)
-            ensureEntry(TableKind::Linetype, field.text());
+            ensureEntry(TableKind::Linetype, field);
         else if (field.code == 7 && hasTextStyle)
-            ensureEntry(TableKind::Style, field.text());
+            ensureEntry(TableKind::Style, field);
         else if (field.code == 3 && hasDimensionStyle)
-            ensureEntry(TableKind::DimStyle, field.text());
+            ensureEntry(TableKind::DimStyle, field);
         else if (field.code == 1001)
-            ensureEntry(TableKind::AppId, field.text());
+            ensureEntry(TableKind::AppId, field);
     }
 }
 
-void DrawingCopier::ensureEntry(TableKind kind, const QString &name)
+void DrawingCopier::ensureEntry(TableKind kind, Field &name)
 {
-    const RecordId entry = m_source.tables().find(kind, name);
-    if (isValid(entry))
-        copyEntry(kind, entry);
+    const RecordId entry = m_source.tables().find(kind, name.text());
+    const RecordId copy = isValid(entry) ? copyEntry(kind, entry) : noRecord;
+    if (m_rules.clash == NameClash::Prefix && isValid(copy) && copy != m_target.tables().find(kind, name.text()))
+        name.value = m_target.tables().name(copy);
 }
 
-RecordId DrawingCopier::keepEntry(TableKind kind, RecordId entry, RecordId existing)
+/// Whether the entry stands for something else in the target. What is on layer 0 of a block looks like the insertion's
+/// layer.
+bool DrawingCopier::clashes(TableKind kind, RecordId entry, RecordId existing) const
 {
-    if (m_compared.contains(existing))
-        return existing;
-    m_compared.insert(existing);
-    const QString name = m_target.tables().name(existing);
-    // What is on layer 0 of a block looks like the insertion's layer.
-    const bool isBlockLayer = kind == TableKind::Layer && name == u"0"_s;
-    if (!isBlockLayer && lookDifferent(kind, m_source.fields(entry), m_target.fields(existing)))
-        m_kept.push_back({kind, name});
-    return existing;
+    const bool isBlockLayer = kind == TableKind::Layer && m_target.tables().name(existing) == u"0"_s;
+    return !isBlockLayer && lookDifferent(kind, m_source.fields(entry), m_target.fields(existing));
 }
 
 RecordId DrawingCopier::copyEntry(TableKind kind, RecordId entry)
 {
-    const QString name = m_source.tables().name(entry);
-    if (const RecordId existing = m_target.tables().find(kind, name); isValid(existing))
-        return keepEntry(kind, entry, existing);
-    if (name.isEmpty())
-        return noRecord;
+    if (const auto known = m_entries.constFind(entry); known != m_entries.constEnd())
+        return *known;
+    QString name = m_source.tables().name(entry);
+    const RecordId existing = m_target.tables().find(kind, name);
+    const bool isClash = isValid(existing) && clashes(kind, entry, existing);
+    if (isClash)
+        m_kept.push_back({kind, m_target.tables().name(existing)});
+    if (isClash && m_rules.clash == NameClash::Prefix)
+        name = freeName(kind, name);
+    else if (isValid(existing) || name.isEmpty())
+        return isValid(existing) ? *m_entries.insert(entry, existing) : noRecord;
+    const RecordId copy = m_target.tables().add(kind, name, entryFields(kind, entry));
+    m_entries.insert(entry, copy);
+    return copy;
+}
+
+/// The name with the prefix, and a number behind where one of the drawings has that too.
+QString DrawingCopier::freeName(TableKind kind, const QString &name) const
+{
+    const QString wanted = m_rules.prefix + name;
+    QString free = wanted;
+    for (int number = 2; isValid(m_target.tables().find(kind, free)) || isValid(m_source.tables().find(kind, free)) ||
+                         (kind == TableKind::BlockRecord && isValid(m_target.blocks().find(free)));
+         ++number)
+        free = u"%1_%2"_s.arg(wanted).arg(number);
+    return free;
+}
+
+FieldList DrawingCopier::entryFields(TableKind kind, RecordId entry)
+{
     FieldList fields = translated(entry);
     std::erase_if(fields, [&](const Field &field) {
         const bool isForeign = kind == TableKind::Layer && tagType(field.code) == TagType::Handle;
         // R12 names arrow blocks in groups that mean handles elsewhere.
         const bool isOldArrow = kind == TableKind::DimStyle && field.code >= 5 && field.code <= 7;
-        return isForeign || isOldArrow || (tagType(field.code) == TagType::Handle && field.handle().isNull());
+        const bool isHandle = tagType(field.code) == TagType::Handle;
+        return isForeign || isOldArrow || (isHandle && (field.handle().isNull() || isPending(field.handle())));
     });
-    for (const Field &field : fields) {
+    for (Field &field : fields) {
         if (field.code == 6 && kind == TableKind::Layer)
-            ensureEntry(TableKind::Linetype, field.text());
+            ensureEntry(TableKind::Linetype, field);
         else if (field.code == 1001)
-            ensureEntry(TableKind::AppId, field.text());
+            ensureEntry(TableKind::AppId, field);
     }
-    const RecordId copy = m_target.tables().add(kind, name, fields);
-    m_compared.insert(copy);
-    return copy;
+    return fields;
 }
 
 Handle DrawingCopier::translatedHandle(Handle handle)
@@ -213,14 +194,10 @@ Handle DrawingCopier::translatedHandle(Handle handle)
     const RecordId record = m_source.find(handle);
     if (!m_source.isAlive(record))
         return {};
-    switch (m_source.kind(record)) {
-    case RecordKind::TableEntry:
+    if (m_source.kind(record) == RecordKind::TableEntry)
         return translatedEntry(record);
-    case RecordKind::Object:
-        return translatedObject(record);
-    default:
-        return {};
-    }
+    const Handle named = m_source.kind(record) == RecordKind::Object ? translatedObject(record) : Handle{};
+    return named.isNull() && m_rules.depth == CopyDepth::WithOwned ? pending(handle) : named;
 }
 
 Handle DrawingCopier::translatedEntry(RecordId entry)
@@ -263,16 +240,34 @@ Handle DrawingCopier::translatedObject(RecordId object)
 
 RecordId DrawingCopier::copyObject(RecordId object, RecordId dictionary, const QString &name)
 {
-    const QString type = QString::fromLatin1(m_source.typeName(object));
-    ensureClass(m_target, type);
-    FieldList fields = recordHead(m_target, type, m_target.handle(dictionary));
-    const FieldList body = translated(object);
-    const auto marker = std::find_if(body.begin(), body.end(), [](const Field &f) { return f.code == subclassCode; });
-    fields.insert(fields.end(), marker, body.end());
-    const RecordId section = m_target.sectionRecord(Section::Objects);
-    const RecordId copy = m_target.insert(noRecord, section, RecordKind::Object, fields);
+    const RecordId copy = addCopy(object, m_target.handle(dictionary));
     m_target.dictionaries().set(dictionary, name, copy);
     return copy;
+}
+
+RecordId DrawingCopier::addCopy(RecordId object, Handle owner)
+{
+    const QString type = QString::fromLatin1(m_source.typeName(object));
+    copyClass(type);
+    const RecordId copy = insertObject(m_target, type, owner, objectBody(object));
+    remember(object, copy);
+    return copy;
+}
+
+/// What the source says of a type of another program, the target has to say as well.
+void DrawingCopier::copyClass(const QString &type)
+{
+    if (m_classes.contains(type))
+        return;
+    m_classes.insert(type);
+    const RecordId known = findClass(m_source, type);
+    if (isValid(known) && !isValid(findClass(m_target, type)) && hasMarkers(m_target)) {
+        FieldList fields = m_source.fields(known);
+        if (m_target.version() < Version::R2004)
+            std::erase_if(fields, [](const Field &field) { return field.code == 91; });
+        m_target.insert(noRecord, ensureSection(m_target, Section::Classes), RecordKind::Class, fields);
+    }
+    ensureClass(m_target, type);
 }
 
 QString DrawingCopier::ensureBlock(const QString &name)
@@ -281,32 +276,45 @@ QString DrawingCopier::ensureBlock(const QString &name)
     if (const auto known = m_blocks.constFind(key); known != m_blocks.constEnd())
         return *known;
     const std::optional<Block> block = m_source.blocks().get(name);
-    const bool isThere = isValid(m_target.blocks().find(name));
-    if (!block || block->isLayout() || (isThere && !isAnonymous(name))) {
-        if (block && !block->isLayout())
-            m_kept.push_back({TableKind::BlockRecord, m_target.blocks().name(m_target.blocks().find(name))});
-        m_blocks.insert(key, name);
-        return name;
+    if (!block || block->isLayout())
+        return *m_blocks.insert(key, name);
+    QString wanted = isAnonymous(name) ? name.left(2).toUpper() : name;
+    const RecordId existing = isAnonymous(name) ? noRecord : m_target.blocks().find(name);
+    if (isValid(existing)) {
+        const bool isOther =
+            m_rules.depth == CopyDepth::Named || drawDifferently(m_source, block->record, m_target, existing);
+        if (isOther)
+            m_kept.push_back({TableKind::BlockRecord, m_target.blocks().name(existing)});
+        if (!isOther || m_rules.clash == NameClash::Keep)
+            return *m_blocks.insert(key, name);
+        wanted = freeName(TableKind::BlockRecord, name);
     }
+    return copyDefinition(*block, wanted);
+}
+
+/// Copies a block under a name that is free; gives the name that the block has now.
+QString DrawingCopier::copyDefinition(const Block &block, const QString &name)
+{
+    const QString key = block.name.toCaseFolded();
     // A chain of blocks longer than any drawing needs would use up the stack.
     constexpr int maximumDepth = 200;
     if (m_depth >= maximumDepth)
-        return name;
-    const QString wanted = isAnonymous(name) ? name.left(2).toUpper() : name;
-    const RecordId copy = m_target.blocks().create(wanted, block->basePoint, block->flags);
-    const QString newName = isValid(copy) ? m_target.blocks().name(copy) : name;
+        return block.name;
+    const RecordId copy = m_target.blocks().create(name, block.basePoint, block.flags);
+    const QString newName = isValid(copy) ? m_target.blocks().name(copy) : block.name;
     m_blocks.insert(key, newName);
     if (!isValid(copy))
         return newName;
-    if (!block->externalPath.isEmpty()) {
+    if (!block.externalPath.isEmpty()) {
         FieldList fields = m_target.fields(copy);
-        setField(fields, 1, block->externalPath);
+        setField(fields, 1, block.externalPath);
         m_target.setFields(copy, fields);
     }
     ++m_depth;
-    for (const RecordId entity : m_source.children(block->record))
+    for (const RecordId entity : m_source.children(block.record))
         copyEntity(entity, copy);
     --m_depth;
+    copyBlockRecord(block, m_target.blocks().read(copy));
     return newName;
 }
 
@@ -315,12 +323,13 @@ RecordId DrawingCopier::copyBlock(RecordId block)
     return m_target.blocks().find(ensureBlock(m_source.blocks().name(block)));
 }
 
-void DrawingCopier::copyEntity(RecordId entity, RecordId block)
+RecordId DrawingCopier::copyEntity(RecordId entity, RecordId block, Space space)
 {
     if (!m_source.isAlive(entity) || m_source.kind(entity) != RecordKind::Entity) {
         ++m_skipped;
-        return;
+        return noRecord;
     }
+    copyClass(QString::fromLatin1(m_source.typeName(entity)));
     FieldList head = entityFields(entity);
     std::vector<FieldList> children;
     for (const RecordId child : m_source.children(entity))
@@ -334,10 +343,13 @@ void DrawingCopier::copyEntity(RecordId entity, RecordId block)
     CreateResult result;
     if (!hasUnknownLinks && isComplex)
         result = isValid(block) ? entities.createComplexInBlock(block, head, children)
-                                : entities.createComplex(head, children);
+                                : entities.createComplex(head, children, space);
     else if (!hasUnknownLinks)
-        result = isValid(block) ? entities.createInBlock(block, head) : entities.create(head);
+        result = isValid(block) ? entities.createInBlock(block, head) : entities.create(head, space);
     m_skipped += result ? 0 : 1;
+    if (result)
+        remember(entity, result.record);
+    return result.record;
 }
 
 } // namespace host::drawing

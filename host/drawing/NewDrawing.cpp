@@ -3,6 +3,7 @@
 #include "host/drawing/Blocks.h"
 #include "host/drawing/Dictionaries.h"
 #include "host/drawing/HeaderVariables.h"
+#include "host/drawing/Layouts.h"
 #include "host/drawing/Structure.h"
 #include "host/drawing/Tables.h"
 
@@ -146,65 +147,6 @@ void addTables(Drawing &drawing)
         insertBlockDefinition(drawing, name, {}, 0);
 }
 
-RecordId insertObject(Drawing &drawing, const QString &type, Handle owner, const FieldList &body)
-{
-    FieldList fields = recordHead(drawing, type, owner);
-    fields.insert(fields.end(), body.begin(), body.end());
-    return drawing.insert(noRecord, drawing.sectionRecord(Section::Objects), RecordKind::Object, fields);
-}
-
-FieldList plotSettings(bool isModel)
-{
-    FieldList fields = {{subclassCode, u"AcDbPlotSettings"_s},
-                        {1, QString()},
-                        {2, u"none_device"_s},
-                        {4, u"ISO_A4_(210.00_x_297.00_MM)"_s},
-                        {6, QString()}};
-    for (const auto &[code, value] :
-         {std::pair{40, 7.5}, std::pair{41, 20.0}, std::pair{42, 7.5}, std::pair{43, 20.0}, std::pair{44, 210.0},
-          std::pair{45, 297.0}, std::pair{46, 0.0}, std::pair{47, 0.0}, std::pair{48, 0.0}, std::pair{49, 0.0},
-          std::pair{140, 0.0}, std::pair{141, 0.0}, std::pair{142, 1.0}, std::pair{143, 1.0}})
-        fields.push_back({code, value});
-    for (const auto &[code, value] :
-         {std::pair{70, isModel ? 1712 : 688}, std::pair{72, 1}, std::pair{73, 0}, std::pair{74, 5}})
-        fields.push_back({code, qint64(value)});
-    fields.push_back({7, QString()});
-    for (const auto &[code, value] : {std::pair{75, 16}, std::pair{76, 0}, std::pair{77, 2}, std::pair{78, 300}})
-        fields.push_back({code, qint64(value)});
-    for (const auto &[code, value] : {std::pair{147, 1.0}, std::pair{148, 0.0}, std::pair{149, 0.0}})
-        fields.push_back({code, value});
-    return fields;
-}
-
-/// A layout and the block record of its space lead to each other.
-void addLayout(Drawing &drawing, RecordId layouts, const QString &name, const QString &spaceBlock, int order)
-{
-    const bool isModel = order == 0;
-    const RecordId entry = drawing.tables().find(TableKind::BlockRecord, spaceBlock);
-    FieldList body = plotSettings(isModel);
-    const FieldList layout = {{subclassCode, u"AcDbLayout"_s},
-                              {1, name},
-                              {70, qint64(1)},
-                              {71, qint64(order)},
-                              {10, Vec2{}},
-                              {11, Vec2{420.0, 297.0}},
-                              {12, Vec3{}},
-                              {14, Vec3{1e20, 1e20, 1e20}},
-                              {15, Vec3{-1e20, -1e20, -1e20}},
-                              {146, 0.0},
-                              {13, Vec3{}},
-                              {16, Vec3{1, 0, 0}},
-                              {17, Vec3{0, 1, 0}},
-                              {76, qint64(0)},
-                              {330, drawing.handle(entry)}};
-    body.insert(body.end(), layout.begin(), layout.end());
-    const RecordId record = insertObject(drawing, u"LAYOUT"_s, drawing.handle(layouts), body);
-    drawing.dictionaries().set(layouts, name, record);
-    FieldList fields = drawing.fields(entry);
-    setField(fields, 340, drawing.handle(record));
-    drawing.setFields(entry, fields);
-}
-
 /// The dictionary of plot styles names a default; layers refer to it.
 void addPlotStyles(Drawing &drawing, RecordId root)
 {
@@ -250,9 +192,8 @@ void addObjects(Drawing &drawing)
     Dictionaries &dictionaries = drawing.dictionaries();
     const RecordId root = dictionaries.ensureRoot();
     dictionaries.ensureDictionary(root, u"ACAD_GROUP"_s);
-    const RecordId layouts = dictionaries.ensureDictionary(root, u"ACAD_LAYOUT"_s);
-    addLayout(drawing, layouts, u"Model"_s, u"*Model_Space"_s, 0);
-    addLayout(drawing, layouts, u"Layout1"_s, u"*Paper_Space"_s, 1);
+    addLayout(drawing, u"Model"_s, u"*Model_Space"_s, 0);
+    addLayout(drawing, u"Layout1"_s, u"*Paper_Space"_s, 1);
     addMultiLineStyle(drawing, root);
     dictionaries.ensureDictionary(root, u"ACAD_PLOTSETTINGS"_s);
     addPlotStyles(drawing, root);

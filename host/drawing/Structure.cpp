@@ -44,16 +44,6 @@ constexpr ClassRule classRules[] = {
     {"RTEXT"_L1, "RText"_L1, "RText"_L1, 0},
 };
 
-bool hasClass(const Drawing &drawing, QLatin1StringView type)
-{
-    const RecordId section = drawing.sectionRecord(Section::Classes);
-    if (!isValid(section))
-        return false;
-    const std::vector<RecordId> classes = drawing.children(section);
-    return std::any_of(classes.begin(), classes.end(),
-                       [&](RecordId record) { return drawing.tags(record).text(1) == type; });
-}
-
 } // namespace
 
 RecordId ensureSection(Drawing &drawing, Section section)
@@ -75,11 +65,22 @@ RecordId ensureSection(Drawing &drawing, Section section)
     return record;
 }
 
+RecordId findClass(const Drawing &drawing, const QString &type)
+{
+    const RecordId section = drawing.sectionRecord(Section::Classes);
+    if (!isValid(section))
+        return noRecord;
+    const std::vector<RecordId> classes = drawing.children(section);
+    const auto found = std::find_if(classes.begin(), classes.end(),
+                                    [&](RecordId record) { return drawing.tags(record).text(1) == type; });
+    return found == classes.end() ? noRecord : *found;
+}
+
 void ensureClass(Drawing &drawing, const QString &type)
 {
     const auto *rule = std::find_if(std::begin(classRules), std::end(classRules),
                                     [&](const ClassRule &candidate) { return type == candidate.type; });
-    if (rule == std::end(classRules) || !hasMarkers(drawing) || hasClass(drawing, rule->type))
+    if (rule == std::end(classRules) || !hasMarkers(drawing) || isValid(findClass(drawing, type)))
         return;
     FieldList fields = {{0, u"CLASS"_s},
                         {1, QString(rule->type)},
@@ -118,6 +119,13 @@ FieldList recordHead(Drawing &drawing, const QString &type, Handle owner)
     if (hasOwners(drawing))
         head.push_back({330, owner});
     return head;
+}
+
+RecordId insertObject(Drawing &drawing, const QString &type, Handle owner, const FieldList &body)
+{
+    FieldList fields = recordHead(drawing, type, owner);
+    fields.insert(fields.end(), body.begin(), body.end());
+    return drawing.insert(noRecord, ensureSection(drawing, Section::Objects), RecordKind::Object, fields);
 }
 
 RecordId insertBlockDefinition(Drawing &drawing, const QString &name, const Vec3 &basePoint, int flags)

@@ -7,6 +7,9 @@ namespace host::drawing {
 /// The section's record, made in its proper place when the file lacks it.
 RecordId ensureSection(Drawing &drawing, Section section);
 
+/// The class record of a type; noRecord when the drawing has none.
+RecordId findClass(const Drawing &drawing, const QString &type);
+
 /// Entities and objects that programs outside the format's core brought (IMAGE, WIPEOUT, RTEXT) need a class record
 /// from R13 on. Does nothing for other types.
 void ensureClass(Drawing &drawing, const QString &type);
@@ -30,6 +33,9 @@ inline bool hasOwners(const Drawing &drawing)
 
 /// Type, handle and owner: the start of a new record. The handle is a new one.
 FieldList recordHead(Drawing &drawing, const QString &type, Handle owner);
+
+/// Adds an object behind the others: head, then `body` from its first marker on.
+RecordId insertObject(Drawing &drawing, const QString &type, Handle owner, const FieldList &body);
 
 /// Adds BLOCK, ENDBLK and the table entry under a name that is free.
 RecordId insertBlockDefinition(Drawing &drawing, const QString &name, const Vec3 &basePoint, int flags);
