@@ -48,6 +48,7 @@ TEST_F(SampleSessions, ChangeWhatTheySayAndNothingElse)
         // Three notes, of which one new paragraph is left.
         {u"convertsimplenotes"_s, u"1+MTEXT 1~$HANDSEED"_s, u"Ortakit/convertsimplenotes.state"_s, "word_wrap=FALSE"},
         {u"dimstyleexport"_s, {}, u"standard.dim"_s, "END_OF_STYLE\r\n"},
+        // With the block of a style's arrows.
         {u"dimstyleimport"_s, u"1+BLOCK 1+BLOCK_RECORD 2+DIMSTYLE 1+ENDBLK 1+LINE 1+LTYPE 1+STYLE 1~$HANDSEED"_s,
          u"standard.dim"_s, "END_OF_STYLE\r\n"},
         {u"drawordercolor"_s, u"1+DICTIONARY 1+SORTENTSTABLE 1~$HANDSEED 1~BLOCK_RECORD"_s,
@@ -76,6 +77,11 @@ TEST_F(SampleSessions, ChangeWhatTheySayAndNothingElse)
         {u"makelinestyle"_s, u"2+LINE 1+LTYPE 1+POINT 1+TEXT 1~$HANDSEED"_s, u"pipes.lin"_s,
          "*GAS,Gas pipe ---- GAS . ---- GAS .\nA,1,-1.2,[\"GAS\",Standard,S=0.2,R=0,X=-1,Y=-0.1],0,-0.3\n"},
         {u"makeshape"_s, {}, u"plan.shp"_s, ",DOOR\n"},
+        // Two texts on the sheets, of which one is the session's, the wall with its block and layer, the new tab.
+        {u"mergesheets"_s,
+         u"2+BLOCK 2+BLOCK_RECORD 2+ENDBLK 12+INSERT 1+LAYER 1+LAYOUT 1+LINE 1+LWPOLYLINE 2+TEXT 2+VIEWPORT "
+         u"1~$HANDSEED 1~DICTIONARY 1~LAYOUT"_s,
+         u"Ortakit/mergesheets.state"_s, "newnames=A-details^A-Layout1^"},
         // The sheet, two viewports, the title block and its layer; limits of the sheet and where it was left.
         {u"multiviewsetup"_s,
          u"1+$PLIMMAX 1+$PLIMMIN 2+ATTDEF 2+ATTRIB 1+BLOCK 1+BLOCK_RECORD 1+ENDBLK 1+INSERT 1+LAYER 1+LINE "

@@ -14,6 +14,7 @@ void addNativeFunctions(lisp::Interpreter &interpreter)
     addCommandFunctions(interpreter);
     addDialogFunctions(interpreter);
     addCoordinateFunctions(interpreter);
+    addSheetFunctions(interpreter);
     addTextFunctions(interpreter);
     addExtentFunctions(interpreter);
 }

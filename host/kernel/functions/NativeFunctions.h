@@ -20,6 +20,7 @@ void addVariableFunctions(lisp::Interpreter &interpreter);
 void addCommandFunctions(lisp::Interpreter &interpreter);
 void addDialogFunctions(lisp::Interpreter &interpreter);
 void addCoordinateFunctions(lisp::Interpreter &interpreter);
+void addSheetFunctions(lisp::Interpreter &interpreter);
 void addTextFunctions(lisp::Interpreter &interpreter);
 void addExtentFunctions(lisp::Interpreter &interpreter);
 
