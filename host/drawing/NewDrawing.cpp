@@ -3,7 +3,7 @@
 #include "host/drawing/Blocks.h"
 #include "host/drawing/Dictionaries.h"
 #include "host/drawing/HeaderVariables.h"
-#include "host/drawing/Layouts.h"
+#include "host/drawing/LayoutTabs.h"
 #include "host/drawing/Structure.h"
 #include "host/drawing/Tables.h"
 

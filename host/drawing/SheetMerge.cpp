@@ -5,7 +5,7 @@
 #include "host/drawing/Entities.h"
 #include "host/drawing/HeaderVariables.h"
 #include "host/drawing/Journal.h"
-#include "host/drawing/Layouts.h"
+#include "host/drawing/LayoutTabs.h"
 #include "host/drawing/Matrix.h"
 #include "host/drawing/Tables.h"
 #include "host/drawing/TransformEntity.h"
@@ -20,9 +20,9 @@ constexpr int subclassCode = 100;
 constexpr int blockCode = 330;
 constexpr int viewTargetCode = 17;
 
-std::optional<Layout> findLayout(const Drawing &drawing, const QString &name)
+std::optional<LayoutTab> findLayout(const Drawing &drawing, const QString &name)
 {
-    for (Layout &layout : layouts(drawing)) {
+    for (LayoutTab &layout : layoutTabs(drawing)) {
         if (layout.name.compare(name, Qt::CaseInsensitive) == 0)
             return std::move(layout);
     }
@@ -59,15 +59,15 @@ public:
     {
     }
 
-    RecordId addSheetOf(const Layout &layout, const QString &name)
+    RecordId addSheetOf(const LayoutTab &layout, const QString &name)
     {
-        const std::optional<Layout> empty = m_takesEmptySheet ? onlyEmptySheet() : std::nullopt;
+        const std::optional<LayoutTab> empty = m_takesEmptySheet ? onlyEmptySheet() : std::nullopt;
         m_takesEmptySheet = false;
         if (empty)
             renameSheet(m_target, empty->name, name);
         else
             addSheet(m_target, name);
-        const std::optional<Layout> made = findLayout(m_target, name);
+        const std::optional<LayoutTab> made = findLayout(m_target, name);
         if (!made || !isValid(made->block))
             return noRecord;
         if (isValid(layout.block))
@@ -116,16 +116,16 @@ private:
         m_target.entities().create({{0, u"INSERT"_s}, {2, m_target.blocks().name(block)}, {10, m_offset}});
     }
 
-    std::optional<Layout> onlyEmptySheet() const
+    std::optional<LayoutTab> onlyEmptySheet() const
     {
-        std::vector<Layout> all = layouts(m_target);
-        std::erase_if(all, [](const Layout &layout) { return layout.isModel(); });
+        std::vector<LayoutTab> all = layoutTabs(m_target);
+        std::erase_if(all, [](const LayoutTab &layout) { return layout.isModel(); });
         const bool isOnly = all.size() == 1 && layoutEntities(m_target, all.front()).empty();
-        return isOnly ? std::optional<Layout>(all.front()) : std::nullopt;
+        return isOnly ? std::optional<LayoutTab>(all.front()) : std::nullopt;
     }
 
     /// The page, the limits and what else the source's layout says.
-    void takePage(RecordId original, const Layout &made)
+    void takePage(RecordId original, const LayoutTab &made)
     {
         FieldList fields = m_target.fields(made.record);
         FieldList body = m_copier.objectBody(original);
@@ -204,8 +204,8 @@ MergeResult mergeSheets(const Drawing &source, const std::vector<MergedSheet> &s
 
 bool renameSheet(Drawing &drawing, const QString &name, const QString &newName)
 {
-    const std::optional<Layout> sheet = findLayout(drawing, name);
-    const std::optional<Layout> other = findLayout(drawing, newName);
+    const std::optional<LayoutTab> sheet = findLayout(drawing, name);
+    const std::optional<LayoutTab> other = findLayout(drawing, newName);
     if (!sheet || sheet->isModel() || !isValid(sheet->record) || (other && other->record != sheet->record))
         return false;
     const JournalGroup group(drawing.journal(), {});
@@ -222,7 +222,7 @@ bool renameSheet(Drawing &drawing, const QString &name, const QString &newName)
     return true;
 }
 
-bool isSheetUsed(const Drawing &drawing, const Layout &sheet)
+bool isSheetUsed(const Drawing &drawing, const LayoutTab &sheet)
 {
     const std::vector<RecordId> entities = layoutEntities(drawing, sheet);
     return std::any_of(entities.begin(), entities.end(),

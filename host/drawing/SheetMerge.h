@@ -2,7 +2,7 @@
 
 #include "host/drawing/CopyBetweenDrawings.h"
 #include "host/drawing/DrawingCopier.h"
-#include "host/drawing/Layouts.h"
+#include "host/drawing/LayoutTabs.h"
 
 #include <vector>
 
@@ -45,6 +45,6 @@ MergeResult mergeSheets(const Drawing &source, const std::vector<MergedSheet> &s
 bool renameSheet(Drawing &drawing, const QString &name, const QString &newName);
 
 /// Whether anything is drawn on a sheet beside the viewport that stands for the sheet itself.
-bool isSheetUsed(const Drawing &drawing, const Layout &sheet);
+bool isSheetUsed(const Drawing &drawing, const LayoutTab &sheet);
 
 } // namespace host::drawing

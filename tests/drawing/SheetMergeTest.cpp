@@ -41,7 +41,7 @@ std::unique_ptr<Drawing> withSheet(const QByteArray &knob, const QByteArray &col
 
 std::vector<RecordId> entitiesOn(const Drawing &drawing, const QString &sheet)
 {
-    for (const Layout &layout : layouts(drawing)) {
+    for (const LayoutTab &layout : layoutTabs(drawing)) {
         if (layout.name == sheet)
             return layoutEntities(drawing, layout);
     }
@@ -154,7 +154,7 @@ TEST(SheetMerge, CorpusSheetsArriveWhole)
             continue;
         auto target = withSheet("0.1", "1");
         std::vector<MergedSheet> sheets;
-        for (const Layout &layout : layouts(*source.drawing))
+        for (const LayoutTab &layout : layoutTabs(*source.drawing))
             if (!layout.isModel())
                 sheets.push_back({layout.name, u"New "_s + layout.name});
         const MergeResult result =

@@ -3,7 +3,7 @@
 #include "host/drawing/CopyBetweenDrawings.h"
 #include "host/drawing/EntityGeometry.h"
 #include "host/drawing/Journal.h"
-#include "host/drawing/Layouts.h"
+#include "host/drawing/LayoutTabs.h"
 #include "host/drawing/NewDrawing.h"
 #include "host/drawing/Save.h"
 #include "host/drawing/SheetMerge.h"
@@ -115,12 +115,9 @@ private:
             return;
         }
         const Drawing &source = file.isEmpty() ? m_own : *opened.drawing;
-        const drawing::MergeResult result =
-            drawing::mergeSheets(source, sheets, m_target,
-                                 {.clash = m_clash,
-                                  .prefix = prefixOf(source),
-                                  .takesEmptySheet = true,
-                                  .modelOffset = offsetFor(source)});
+        const drawing::MergeResult result = drawing::mergeSheets(
+            source, sheets, m_target,
+            {.clash = m_clash, .prefix = prefixOf(source), .takesEmptySheet = true, .modelOffset = offsetFor(source)});
         if (!result)
             m_outcome.error = file.isEmpty() ? result.error : QStringLiteral("%1: %2").arg(file, result.error);
         m_outcome.skipped += result.skipped;
@@ -151,18 +148,18 @@ private:
     /// The merged sheets stand behind all others, in the order in which they were named.
     void putInOrder(const std::vector<WantedSheet> &sheets)
     {
-        const std::vector<drawing::Layout> all = drawing::layouts(m_target);
-        const auto placeOf = [&](const drawing::Layout &layout) {
+        const std::vector<drawing::LayoutTab> all = drawing::layoutTabs(m_target);
+        const auto placeOf = [&](const drawing::LayoutTab &layout) {
             return std::find_if(sheets.begin(), sheets.end(), [&](const WantedSheet &wanted) {
                 return wanted.sheet.name.compare(layout.name, Qt::CaseInsensitive) == 0;
             });
         };
         qint64 last = 0;
-        for (const drawing::Layout &layout : all) {
+        for (const drawing::LayoutTab &layout : all) {
             if (placeOf(layout) == sheets.end())
                 last = std::max(last, layout.order);
         }
-        for (const drawing::Layout &layout : all) {
+        for (const drawing::LayoutTab &layout : all) {
             const auto place = placeOf(layout);
             if (place != sheets.end())
                 drawing::setOrder(m_target, layout, last + 1 + (place - sheets.begin()));
@@ -203,7 +200,7 @@ Value drawingSheets(Arguments &args)
         return toLisp(opened.error.message());
     const Drawing &drawing = args.has(0) ? *opened.drawing : documentOf(args).drawing();
     std::vector<Value> sheets;
-    for (const drawing::Layout &layout : drawing::layouts(drawing)) {
+    for (const drawing::LayoutTab &layout : drawing::layoutTabs(drawing)) {
         if (!layout.isModel())
             sheets.push_back(Value::cons(toLisp(layout.name), args.boolean(drawing::isSheetUsed(drawing, layout))));
     }

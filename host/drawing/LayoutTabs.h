@@ -7,7 +7,7 @@
 namespace host::drawing {
 
 /// A tab of the drawing: model space or a sheet.
-struct Layout
+struct LayoutTab
 {
     QString name;
     RecordId record = noRecord; ///< the LAYOUT object; noRecord for what a drawing older than R2000 has
@@ -18,11 +18,11 @@ struct Layout
 };
 
 /// The tabs in their order. A drawing older than R2000 has no layouts: its paper space counts as "Layout1".
-std::vector<Layout> layouts(const Drawing &drawing);
+std::vector<LayoutTab> layoutTabs(const Drawing &drawing);
 
 /// What is drawn on a layout, in drawing order. Of the sheet in use and of model space that stands in the ENTITIES
 /// section, of other sheets in their blocks.
-std::vector<RecordId> layoutEntities(const Drawing &drawing, const Layout &layout);
+std::vector<RecordId> layoutEntities(const Drawing &drawing, const LayoutTab &layout);
 
 /// Adds the LAYOUT object for a space whose block is there, with the page of a plotter that does not exist; each leads
 /// to the other. `order` 0 is model space.
@@ -32,6 +32,6 @@ RecordId addLayout(Drawing &drawing, const QString &name, const QString &spaceBl
 RecordId addSheet(Drawing &drawing, const QString &name);
 
 /// Moves a tab to another place.
-void setOrder(Drawing &drawing, const Layout &layout, qint64 order);
+void setOrder(Drawing &drawing, const LayoutTab &layout, qint64 order);
 
 } // namespace host::drawing

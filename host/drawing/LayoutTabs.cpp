@@ -1,4 +1,4 @@
-#include "host/drawing/Layouts.h"
+#include "host/drawing/LayoutTabs.h"
 
 #include "host/drawing/Blocks.h"
 #include "host/drawing/Dictionaries.h"
@@ -57,7 +57,7 @@ qint64 orderOf(const Drawing &drawing, RecordId layout)
     return order ? order->integer().value_or(0) : 0;
 }
 
-std::vector<Layout> withoutObjects(const Drawing &drawing)
+std::vector<LayoutTab> withoutObjects(const Drawing &drawing)
 {
     return {{u"Model"_s, noRecord, drawing.blocks().find(u"*Model_Space"), 0},
             {u"Layout1"_s, noRecord, drawing.blocks().find(u"*Paper_Space"), 1}};
@@ -76,25 +76,25 @@ QString freeSpaceBlock(const Drawing &drawing)
 
 } // namespace
 
-std::vector<Layout> layouts(const Drawing &drawing)
+std::vector<LayoutTab> layoutTabs(const Drawing &drawing)
 {
     const Dictionaries &dictionaries = drawing.dictionaries();
     const RecordId root = dictionaries.root();
     const RecordId dictionary = isValid(root) ? dictionaries.find(root, layoutDictionary) : noRecord;
     if (!isValid(dictionary))
         return withoutObjects(drawing);
-    std::vector<Layout> result;
+    std::vector<LayoutTab> result;
     for (const Dictionaries::Entry &entry : dictionaries.entries(dictionary)) {
         if (isValid(entry.record))
             result.push_back(
                 {entry.name, entry.record, blockOfLayout(drawing, entry.record), orderOf(drawing, entry.record)});
     }
     std::stable_sort(result.begin(), result.end(),
-                     [](const Layout &one, const Layout &other) { return one.order < other.order; });
+                     [](const LayoutTab &one, const LayoutTab &other) { return one.order < other.order; });
     return result;
 }
 
-std::vector<RecordId> layoutEntities(const Drawing &drawing, const Layout &layout)
+std::vector<RecordId> layoutEntities(const Drawing &drawing, const LayoutTab &layout)
 {
     if (layout.isModel())
         return drawing.entities().inSpace(Space::Model);
@@ -136,7 +136,7 @@ RecordId addLayout(Drawing &drawing, const QString &name, const QString &spaceBl
     return record;
 }
 
-void setOrder(Drawing &drawing, const Layout &layout, qint64 order)
+void setOrder(Drawing &drawing, const LayoutTab &layout, qint64 order)
 {
     if (!isValid(layout.record))
         return;
@@ -158,7 +158,7 @@ RecordId addSheet(Drawing &drawing, const QString &name)
     const JournalGroup group(drawing.journal(), {});
     const QString block = freeSpaceBlock(drawing);
     insertBlockDefinition(drawing, block, {}, 0);
-    const std::vector<Layout> existing = layouts(drawing);
+    const std::vector<LayoutTab> existing = layoutTabs(drawing);
     return addLayout(drawing, name, block, existing.empty() ? 1 : existing.back().order + 1);
 }
 
