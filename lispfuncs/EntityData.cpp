@@ -10,15 +10,14 @@ namespace {
 
 constexpr int typeCode = 0;
 constexpr int markerCode = 100;
-constexpr int firstXdataCode = 1000;
 
 } // namespace
 
 const OdResBuf *EntityData::value(int code) const
 {
     const OdResBuf *found = nullptr;
-    visit([&](int given, const OdResBuf &link) {
-        if (!found && given == code && code < firstXdataCode)
+    visitOwn([&](int given, const OdResBuf &link) {
+        if (!found && given == code)
             found = &link;
     });
     return found;
@@ -42,7 +41,7 @@ bool EntityData::isEntity() const
                                          u"STYLE"_s, u"UCS"_s,      u"VIEW"_s,  u"VPORT"_s};
     bool hasMarkers = false;
     bool isMarked = false;
-    visit([&](int code, const OdResBuf &link) {
+    visitOwn([&](int code, const OdResBuf &link) {
         hasMarkers |= code == markerCode;
         isMarked |= code == markerCode && link.getString() == u"AcDbEntity";
     });
@@ -53,7 +52,7 @@ bool EntityData::isEntity() const
 QString EntityData::joinedText(int code, int otherCode) const
 {
     QString text;
-    visit([&](int given, const OdResBuf &link) {
+    visitOwn([&](int given, const OdResBuf &link) {
         if (given == code || given == otherCode)
             text += link.getString();
     });

@@ -26,6 +26,8 @@ constexpr CodeRange codeRanges[] = {
     {1071, 1071, TagType::Int32},
 };
 
+constexpr int firstXdataCode = 1000;
+
 QByteArrayView withoutPlus(QByteArrayView text)
 {
     text = text.trimmed();
@@ -156,10 +158,27 @@ Handle Field::handle() const
     return {};
 }
 
+FieldList::const_iterator ownEnd(const FieldList &fields)
+{
+    return std::find_if(fields.begin(), fields.end(), endsOwnGroups<Field>);
+}
+
+FieldList::iterator ownEnd(FieldList &fields)
+{
+    return std::find_if(fields.begin(), fields.end(), endsOwnGroups<Field>);
+}
+
 const Field *findField(const FieldList &fields, int code)
 {
-    const auto found = std::find_if(fields.begin(), fields.end(), [code](const Field &f) { return f.code == code; });
-    return found == fields.end() ? nullptr : &*found;
+    BraceDepth braces;
+    bool isOwn = true;
+    for (const Field &field : fields) {
+        const bool isInside = braces.isInside(field);
+        if (field.code == code && (code >= firstXdataCode || code == 102 || (isOwn && !isInside)))
+            return &field;
+        isOwn = isOwn && !endsOwnGroups(field);
+    }
+    return nullptr;
 }
 
 Field *findField(FieldList &fields, int code)
@@ -172,7 +191,7 @@ void setField(FieldList &fields, int code, FieldValue value)
     if (Field *field = findField(fields, code))
         field->value = std::move(value);
     else
-        fields.push_back({code, std::move(value)});
+        fields.insert(code < firstXdataCode ? ownEnd(fields) : fields.end(), {code, std::move(value)});
 }
 
 } // namespace host::drawing

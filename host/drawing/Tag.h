@@ -7,6 +7,7 @@
 #include <QString>
 
 #include <optional>
+#include <utility>
 #include <variant>
 #include <vector>
 
@@ -89,10 +90,46 @@ struct Field
 
 using FieldList = std::vector<Field>;
 
-/// The first field with this code, null when there is none.
+/// Whether the record's own groups end here: an object embedded in it (101) uses their codes again for its own, and
+/// extended data, which begins with an application's name (1001), follows. An extension record has other groups of
+/// 1000 and above as its own.
+template <typename TagOrField>
+bool endsOwnGroups(const TagOrField &item)
+{
+    return item.code == 101 || item.code == 1001;
+}
+
+/// The end of the record's own fields.
+FieldList::const_iterator ownEnd(const FieldList &fields);
+FieldList::iterator ownEnd(FieldList &fields);
+
+/// Follows the {...} groups of 102, which hold what other programs note about a record, while tags or fields go by.
+class BraceDepth
+{
+public:
+    /// Whether what comes next is within braces; the braces themselves are.
+    bool isInside(const Tag &tag) { return tag.code == braceCode ? pass(tag.trimmed().startsWith('{')) : m_isInside; }
+    bool isInside(const Field &field)
+    {
+        return field.code == braceCode ? pass(field.text().startsWith(u'{')) : m_isInside;
+    }
+
+private:
+    static constexpr int braceCode = 102;
+    bool pass(bool isOpening)
+    {
+        const bool wasInside = std::exchange(m_isInside, isOpening);
+        return wasInside || isOpening;
+    }
+
+    bool m_isInside = false;
+};
+
+/// The first field with this code, null when there is none. For codes below 1000 only the record's own count: neither
+/// those of an embedded object nor those in {...} groups.
 const Field *findField(const FieldList &fields, int code);
 Field *findField(FieldList &fields, int code);
-/// Changes the first field with this code, or appends one.
+/// Changes the field that findField() gives, or adds one behind the last own one; extended data goes to the end.
 void setField(FieldList &fields, int code, FieldValue value);
 
 } // namespace host::drawing

@@ -8,30 +8,7 @@ namespace {
 
 constexpr int commentCode = 999;
 constexpr int subclassCode = 100;
-constexpr int embeddedObjectCode = 101;
-constexpr int groupCode = 102;
 constexpr int firstXdataCode = 1000;
-
-/// Follows the {...} groups while tags go by.
-class BraceDepth
-{
-public:
-    bool isInside(const Tag &tag)
-    {
-        if (tag.code != groupCode)
-            return m_isInside;
-        if (tag.trimmed().startsWith('{'))
-            m_isInside = true;
-        else if (m_isInside && tag.trimmed().startsWith('}')) {
-            m_isInside = false;
-            return true;
-        }
-        return m_isInside;
-    }
-
-private:
-    bool m_isInside = false;
-};
 
 FieldValue textValue(const Tag &tag, const TextCodec &codec)
 {
@@ -90,13 +67,18 @@ Field readField(const std::vector<Tag> &tags, size_t index, const TextCodec &cod
 
 } // namespace
 
+std::span<const Tag> TagList::own() const &
+{
+    return {m_tags.begin(), std::find_if(m_tags.begin(), m_tags.end(), endsOwnGroups<Tag>)};
+}
+
 const Tag *TagList::find(int code) const &
 {
     BraceDepth braces;
-    bool isEmbedded = false;
+    bool isOwn = true;
     for (const Tag &tag : m_tags) {
-        isEmbedded = isEmbedded || tag.code == embeddedObjectCode;
-        if (!braces.isInside(tag) && tag.code == code && (!isEmbedded || code >= firstXdataCode))
+        isOwn = isOwn && !endsOwnGroups(tag);
+        if (!braces.isInside(tag) && tag.code == code && (isOwn || code >= firstXdataCode))
             return &tag;
     }
     return nullptr;
@@ -104,13 +86,15 @@ const Tag *TagList::find(int code) const &
 
 const Tag *TagList::find(int code, QByteArrayView subclass) const &
 {
+    BraceDepth braces;
     bool hasMarkers = false;
     bool isWithin = false;
-    for (const Tag &tag : m_tags) {
+    for (const Tag &tag : own()) {
+        const bool isInside = braces.isInside(tag);
         if (tag.code == subclassCode) {
             hasMarkers = true;
             isWithin = tag.trimmed() == subclass;
-        } else if (isWithin && tag.code == code) {
+        } else if (isWithin && !isInside && tag.code == code) {
             return &tag;
         }
     }
@@ -150,14 +134,14 @@ Vec3 TagList::point(int code, const Vec3 &otherwise) const
     Vec3 point{tag->real().value_or(otherwise.x), otherwise.y, otherwise.z};
     // Some writers put the coordinates apart; within a record they still belong together.
     for (size_t i = index + 1; i < m_tags.size() && m_tags[i].code != code; ++i) {
+        if (code < firstXdataCode && endsOwnGroups(m_tags[i]))
+            break;
         if (m_tags[i].code == code + 10) {
             point.y = m_tags[i].real().value_or(otherwise.y);
         } else if (m_tags[i].code == code + 20) {
             point.z = m_tags[i].real().value_or(otherwise.z);
             break;
         }
-        if (m_tags[i].code >= firstXdataCode && code < firstXdataCode)
-            break;
     }
     return point;
 }
@@ -165,7 +149,8 @@ Vec3 TagList::point(int code, const Vec3 &otherwise) const
 std::vector<Vec3> TagList::points(int code, size_t from) const
 {
     std::vector<Vec3> points;
-    for (size_t i = from; i < m_tags.size() && m_tags[i].code != embeddedObjectCode;) {
+    const size_t end = own().size();
+    for (size_t i = from; i < end;) {
         size_t next = i + 1;
         if (m_tags[i].code == code)
             points.push_back(pointAt(i, &next));
@@ -177,7 +162,8 @@ std::vector<Vec3> TagList::points(int code, size_t from) const
 std::vector<double> TagList::reals(int code, size_t from) const
 {
     std::vector<double> numbers;
-    for (size_t i = from; i < m_tags.size() && m_tags[i].code != embeddedObjectCode; ++i) {
+    const size_t end = own().size();
+    for (size_t i = from; i < end; ++i) {
         if (m_tags[i].code == code)
             numbers.push_back(m_tags[i].real().value_or(0.0));
     }

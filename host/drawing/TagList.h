@@ -3,6 +3,7 @@
 #include "host/drawing/Tag.h"
 #include "host/drawing/TextCodec.h"
 
+#include <span>
 #include <vector>
 
 namespace host::drawing {
@@ -19,8 +20,11 @@ public:
     size_t size() const { return m_tags.size(); }
     const Tag &operator[](size_t index) const { return m_tags[index]; }
 
-    /// The first tag with this code that is not inside a {...} group of 102 and not extended data of another code;
-    /// null when there is none.
+    /// What stands in front of an embedded object and extended data.
+    std::span<const Tag> own() const &;
+    std::span<const Tag> own() const && = delete;
+    /// The first tag with this code that is the record's own: not inside a {...} group of 102, and for codes below 1000
+    /// neither in an embedded object nor behind extended data. Null when there is none.
     const Tag *find(int code) const &;
     const Tag *find(int code) const && = delete; ///< the tag would be gone with the list
     /// As find(), but only after the subclass marker (group 100) `subclass`; in records without markers (R12) anywhere.
@@ -33,7 +37,8 @@ public:
     Handle handle(int code) const;
     /// The point whose x has this code; parts that are missing are taken from `otherwise`.
     Vec3 point(int code, const Vec3 &otherwise = {}) const;
-    /// All points whose x has this code, in order (vertices, control points). Only tags after `from` are looked at.
+    /// All own points whose x has this code, in order (vertices, control points). Only tags after `from` are looked
+    /// at.
     std::vector<Vec3> points(int code, size_t from = 0) const;
     std::vector<double> reals(int code, size_t from = 0) const;
 

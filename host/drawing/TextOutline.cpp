@@ -1,5 +1,6 @@
 #include "host/drawing/DrawingVariables.h"
 #include "host/drawing/EntityOutlines.h"
+#include "host/drawing/ParagraphText.h"
 #include "host/drawing/RemoteTextContent.h"
 
 #include <numbers>
@@ -109,27 +110,21 @@ ParagraphSize measure(const QString &text, qsizetype lettersPerLine)
 
 void outlineOfParagraphText(OutlineSink &sink, const TagList &tags)
 {
-    QString text;
-    for (const Tag &tag : tags) {
-        if (tag.code == 101)
-            break;
-        if (tag.code == 3 || tag.code == 1)
-            text += tags.decoded(tag);
-    }
     const double height = std::abs(tags.real(40, 1.0));
     const double letter = std::max(height * letterWidth, 1e-12);
     const double limit = std::abs(tags.real(41));
     const double letters = std::min(limit / letter, 1e6);
-    const ParagraphSize size = measure(text, limit > 0.0 ? std::max<qsizetype>(1, static_cast<qsizetype>(letters)) : 0);
+    const ParagraphSize size = measure(paragraphContent(tags), limit > 0.0 ? std::max<qsizetype>(1, static_cast<qsizetype>(letters)) : 0);
     const double spacing = height * lineDistance * tags.real(44, 1.0);
     const double width = tags.real(42, static_cast<double>(size.longest) * letter);
     const double total = tags.real(43, height + spacing * static_cast<double>(size.lines - 1));
     const qint64 attachment = std::clamp<qint64>(tags.integer(71, 1), 1, 9) - 1;
     const double left = -width * static_cast<double>(attachment % 3) / 2.0;
     const double bottom = -total + total * static_cast<double>(attachment / 3) / 2.0;
-    const Vec3 direction = tags.point(11, {1, 0, 0});
-    const double angle = tags.find(11) ? std::atan2(direction.y, direction.x) : tags.real(50) * radians;
-    addBox(sink, tags.point(10), angle, left, bottom, width, total);
+    const Vec3 extrusion = tags.point(210, {0, 0, 1});
+    sink.useExtrusion(extrusion);
+    addBox(sink, Matrix::fromExtrusion(extrusion).inverted().point(tags.point(10)),
+           angleInPlane(paragraphDirection(tags), extrusion), left, bottom, width, total);
 }
 
 /// Around what is shown; its first line stands on the insertion point.

@@ -1,5 +1,7 @@
 #include "host/drawing/TransformFields.h"
 
+#include "host/drawing/ParagraphText.h"
+
 #include <numbers>
 
 namespace host::drawing {
@@ -201,10 +203,7 @@ bool transformParagraph(FieldList &fields, const Matrix &matrix)
     const PlaneMap plane(pointOf(fields, 210, upward), matrix);
     if (!plane.isSimilar())
         return false;
-    const Matrix object = Matrix::fromExtrusion(pointOf(fields, 210, upward));
-    const double angle = realOf(fields, 50) * radians;
-    const Vec3 turned = object.direction({std::cos(angle), std::sin(angle), 0.0});
-    const Vec3 direction = normalized(matrix.direction(pointOf(fields, 11, turned)));
+    const Vec3 direction = normalized(matrix.direction(paragraphDirection(fields)));
     std::erase_if(fields, [](const Field &field) { return field.code == 50; });
     mapPoints(fields, {10}, [&](const Vec3 &p) { return matrix.point(p); });
     setOwnField(fields, 11, direction);
@@ -212,6 +211,18 @@ bool transformParagraph(FieldList &fields, const Matrix &matrix)
         setOwnField(fields, 210, plane.extrusion());
     for (const int code : {40, 41, 42, 43, 46})
         scaleField(fields, code, plane.factor());
+    return true;
+}
+
+/// What a paragraph embeds says its direction, its place and its sizes once more.
+bool transformColumns(FieldList &fields, const Matrix &matrix)
+{
+    const double factor = matrix.direction(normalized(pointOf(fields, 10, {1.0, 0.0, 0.0}))).length();
+    mapPoints(fields, {10}, [&](const Vec3 &d) { return normalized(matrix.direction(d)); });
+    mapPoints(fields, {11}, [&](const Vec3 &p) { return matrix.point(p); });
+    for (Field &field : fields)
+        if (field.code >= 40 && field.code <= 46)
+            field.value = field.real() * factor;
     return true;
 }
 
@@ -371,11 +382,23 @@ void setOwnField(FieldList &fields, int code, const FieldValue &value)
 bool transformFields(FieldList &fields, const Matrix &matrix)
 {
     const QString type = fields.empty() ? QString() : fields.front().text();
-    for (const auto &[name, function] : functions) {
-        if (type == name)
-            return function(fields, matrix);
+    const auto *row =
+        std::find_if(std::begin(functions), std::end(functions), [&](const auto &known) { return known.first == type; });
+    if (row == std::end(functions))
+        return false;
+    FieldList behind(ownEnd(fields), fields.end());
+    fields.erase(ownEnd(fields), fields.end());
+    if (!row->second(fields, matrix))
+        return false;
+    if (!behind.empty() && behind.front().code == 101) {
+        fields.push_back(behind.front());
+        behind.erase(behind.begin());
+        // A paragraph that is embedded in an attribute is one like any other.
+        if (!(type == u"MTEXT" ? transformColumns : transformParagraph)(behind, matrix))
+            return false;
     }
-    return false;
+    fields.insert(fields.end(), behind.begin(), behind.end());
+    return true;
 }
 
 } // namespace host::drawing

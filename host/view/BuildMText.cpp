@@ -1,5 +1,6 @@
 #include "host/view/BuildMText.h"
 
+#include "host/drawing/ParagraphText.h"
 #include "host/view/TextLook.h"
 
 #include <numbers>
@@ -12,42 +13,6 @@ using drawing::TagList;
 namespace {
 
 constexpr double radians = std::numbers::pi / 180.0;
-
-/// Long texts come in pieces: group 3 as often as needed, then group 1.
-QString readContent(const TagList &tags)
-{
-    QString content;
-    for (const Tag &tag : tags) {
-        if (tag.code >= 1000 || tag.code == 101)
-            break;
-        if (tag.code == 3)
-            content += tags.decoded(tag);
-        if (tag.code == 1) {
-            content += tags.decoded(tag);
-            break;
-        }
-    }
-    return content;
-}
-
-/// The direction along the lines: a vector in world coordinates, or an angle, whichever is written last; the world's
-/// own x when neither is there.
-double readRotation(const TagList &tags, const Matrix &ocs)
-{
-    const auto angleOf = [toOcs = ocs.inverted()](const Vec3 &world) {
-        const Vec3 direction = toOcs.direction(world);
-        return std::atan2(direction.y, direction.x);
-    };
-    double rotation = angleOf({1.0, 0.0, 0.0});
-    for (std::size_t i = 0; i < tags.size() && tags[i].code < 1000 && tags[i].code != 101; ++i) {
-        if (tags[i].code == 50) {
-            rotation = tags[i].real().value_or(0.0) * radians;
-        } else if (tags[i].code == 11) {
-            rotation = angleOf(tags.pointAt(i));
-        }
-    }
-    return rotation;
-}
 
 Style runStyle(const BuildContext &context, const MTextFormat &format)
 {
@@ -150,10 +115,11 @@ void addMText(BuildContext &context, const MTextPlace &place, const QString &con
 
 bool buildMText(BuildContext &context, const TagList &tags)
 {
-    const Matrix ocs = Matrix::fromExtrusion(tags.point(210, {0.0, 0.0, 1.0}));
+    const Vec3 extrusion = tags.point(210, {0.0, 0.0, 1.0});
+    const Matrix ocs = Matrix::fromExtrusion(extrusion);
     const Vec3 at = tags.point(10);
     const double height = std::abs(tags.real(40, 1.0));
-    const double rotation = readRotation(tags, ocs);
+    const double rotation = drawing::angleInPlane(drawing::paragraphDirection(tags), extrusion);
     if (!isUsable(at) || !isUsable(height) || !isUsable(rotation) || !(height > 0.0))
         return false;
     const MTextPlace place{.frame = Matrix::translation(at) * ocs * Matrix::rotation(rotation),
@@ -162,7 +128,7 @@ bool buildMText(BuildContext &context, const TagList &tags)
                            .styleName = tags.text(7),
                            .cover = readCover(tags)};
     // An empty text shows nothing, which is what it says.
-    addMText(context, place, readContent(tags), readBox(tags));
+    addMText(context, place, drawing::paragraphContent(tags), readBox(tags));
     return true;
 }
 

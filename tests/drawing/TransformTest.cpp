@@ -123,9 +123,11 @@ TEST(Transform, TextsStayReadable)
     const auto drawing =
         sample("AC1015", "0 TEXT\n5 50\n8 0\n10 1\n20 2\n30 0\n40 2\n1 a\n50 10\n72 1\n11 1\n21 2\n31 0\n"
                          "0 MTEXT\n5 51\n8 0\n10 1\n20 2\n30 0\n40 2\n41 30\n1 a\n50 0\n"
+                         "0 MTEXT\n5 53\n8 0\n10 1\n20 2\n30 0\n40 2\n1 a\n"
+                         "101 Embedded Object\n70 1\n10 1\n20 0\n30 0\n11 1\n21 2\n31 0\n40 5\n"
                          "0 RTEXT\n5 52\n8 0\n10 1\n20 2\n30 0\n50 10\n40 2\n70 1\n1 a$(+,1,2)");
     const RecordId text = drawing->find({0x50});
-    for (const quint64 handle : {0x50, 0x51, 0x52})
+    for (const quint64 handle : {0x50, 0x51, 0x52, 0x53})
         EXPECT_TRUE(
             transformEntity(*drawing, drawing->find({handle}), Matrix::rotation(pi / 2) * Matrix::scaling({3, 3, 3})));
     const struct
@@ -137,6 +139,12 @@ TEST(Transform, TextsStayReadable)
                 {0x51, 11, 0}, {0x51, 21, 1},   {0x52, 40, 6},  {0x52, 50, 100}, {0x52, 10, -6}, {0x52, 20, 3}};
     for (const auto &row : rows)
         EXPECT_NEAR(drawing->tags(drawing->find({row.handle})).real(row.code), row.value, 1e-9) << row.code;
+    const FieldList paragraph = drawing->fields(drawing->find({0x53}));
+    const FieldList columns(ownEnd(paragraph) + 1, paragraph.end());
+    EXPECT_NEAR((findField(paragraph, 11)->point() - Vec3{0, 1, 0}).length(), 0.0, 1e-9);
+    EXPECT_NEAR((findField(columns, 10)->point() - Vec3{0, 1, 0}).length(), 0.0, 1e-9) << "its direction again";
+    EXPECT_NEAR((findField(columns, 11)->point() - Vec3{-6, 3, 0}).length(), 0.0, 1e-9) << "its place again";
+    EXPECT_EQ(findField(columns, 40)->real(), 15.0);
     EXPECT_FALSE(transformEntity(*drawing, drawing->find({0x52}), Matrix::scaling({2, 1, 1})))
         << "it has no width factor";
     EXPECT_TRUE(transformEntity(*drawing, text, Matrix::mirror({0, 0, 0}, {1, 0, 0})));
