@@ -196,7 +196,7 @@ OdResBufPtr fieldOfMText(const EntityData &data, const Field &field)
         return OdResBuf::newString(OdResBuf::kRtString, data.joinedText(mtextPiece, mtextEnd));
     const OdResBuf *direction = data.value(mtextDirection);
     const OdResBuf *rotation = data.value(rotationCode);
-    if (field.code != rotationCode || !direction || (rotation && rotation->getDouble() != 0.0))
+    if (field.code != rotationCode || !direction || rotation)
         return nullptr;
     const OdGePoint3d along = direction->getPoint3d();
     return OdResBuf::newReal(OdResBuf::kRtReal, std::atan2(along.y, along.x));

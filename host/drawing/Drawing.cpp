@@ -6,6 +6,7 @@
 #include "host/drawing/Entities.h"
 #include "host/drawing/HeaderVariables.h"
 #include "host/drawing/JournalPrivate.h"
+#include "host/drawing/Layouts.h"
 #include "host/drawing/Tables.h"
 
 #include <QFile>
@@ -102,7 +103,7 @@ Drawing::Drawing(IndexedFile &&file)
     : d(std::make_unique<Private>()), m_journal(std::make_unique<Journal>(*this)),
       m_header(std::make_unique<HeaderVariables>(*this)), m_tables(std::make_unique<Tables>(*this)),
       m_blocks(std::make_unique<Blocks>(*this)), m_entities(std::make_unique<Entities>(*this)),
-      m_dictionaries(std::make_unique<Dictionaries>(*this))
+      m_dictionaries(std::make_unique<Dictionaries>(*this)), m_layouts(std::make_unique<Layouts>(*this))
 {
     d->file = std::move(file);
     d->version = versionNamed(m_header->text(u"$ACADVER"));

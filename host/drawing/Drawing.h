@@ -20,6 +20,7 @@ class Drawing;
 class Entities;
 class HeaderVariables;
 class Journal;
+class Layouts;
 class Tables;
 struct IndexedFile;
 struct RecordState;
@@ -51,7 +52,8 @@ struct ReadResult
 };
 
 /// A drawing as its file has it: records in order, each a run of tags kept as bytes. What nobody changed is written
-/// back as it was read. Typed access is in the parts: header(), tables(), blocks(), entities(), dictionaries().
+/// back as it was read. Typed access is in the parts: header(), tables(), blocks(), entities(), layouts(),
+/// dictionaries().
 ///
 /// Every change goes through journal(). Not thread-safe; different drawings may live on different threads.
 class Drawing final
@@ -86,6 +88,8 @@ public:
     const Blocks &blocks() const { return *m_blocks; }
     Entities &entities() { return *m_entities; }
     const Entities &entities() const { return *m_entities; }
+    Layouts &layouts() { return *m_layouts; }
+    const Layouts &layouts() const { return *m_layouts; }
     Dictionaries &dictionaries() { return *m_dictionaries; }
     const Dictionaries &dictionaries() const { return *m_dictionaries; }
 
@@ -171,6 +175,7 @@ private:
     std::unique_ptr<Blocks> m_blocks;
     std::unique_ptr<Entities> m_entities;
     std::unique_ptr<Dictionaries> m_dictionaries;
+    std::unique_ptr<Layouts> m_layouts;
 };
 
 } // namespace host::drawing

@@ -229,9 +229,11 @@ QString Entities::modify(RecordId entity, const FieldList &fields)
     ensureNamed(m_drawing, fields);
     const Field *paper = findField(fields, 67);
     const bool isPaper = paper ? paper->integer() != 0 : m_drawing.tags(entity).integer(67) != 0;
-    // What Lisp hands back unchanged must leave no trace, whatever order the file has its groups in.
+    // Other values alone leave the order that the file has its groups in.
     const FieldList before = m_drawing.fields(entity);
-    if (wanted != before)
+    if (std::ranges::equal(wanted, before, {}, &Field::code, &Field::code))
+        m_drawing.setFields(entity, wanted);
+    else
         m_drawing.setFields(entity, builder.build(headOf(m_drawing, entity), isPaper ? Space::Paper : Space::Model));
     return {};
 }

@@ -1,6 +1,6 @@
 #include "host/drawing/SelectionFilter.h"
 
-#include "host/drawing/Entities.h"
+#include "host/drawing/ImpliedFields.h"
 #include "host/drawing/Wildcard.h"
 
 namespace host::drawing {
@@ -11,6 +11,7 @@ namespace {
 
 constexpr int operatorCode = -4;
 constexpr int xdataCode = -3;
+constexpr int firstXdataCode = 1000;
 constexpr int appNameCode = 1001;
 constexpr int maximumDepth = 200;
 
@@ -76,33 +77,6 @@ bool compareField(const Field &has, const Field &wanted, const std::vector<QStri
         return first == u"&" ? common != 0 : common == wanted.integer();
     }
     return compareNumbers(has.real(), wanted.real(), first);
-}
-
-/// What an entity has where it does not write the group.
-std::optional<Field> impliedField(int code)
-{
-    switch (code) {
-    case 6:
-        return Field{6, u"BYLAYER"_s};
-    case 8:
-        return Field{8, u"0"_s};
-    case 48:
-        return Field{48, 1.0};
-    case 60:
-        return Field{60, qint64(0)};
-    case 62:
-        return Field{62, qint64(colourByLayer)};
-    case 67:
-        return Field{67, qint64(0)};
-    case 210:
-        return Field{210, Vec3{0.0, 0.0, 1.0}};
-    case 370:
-        return Field{370, qint64(-1)};
-    case 410:
-        return Field{410, u"Model"_s};
-    default:
-        return std::nullopt;
-    }
 }
 
 } // namespace
@@ -227,16 +201,20 @@ private:
         if (test.field.code == xdataCode)
             return hasXdata(test.field.text());
         // Only the groups asked for are made into fields: most of a record is never looked at.
+        const int code = test.field.code;
         bool isThere = false;
         const TagList &record = tags();
-        for (size_t i = 0; i < record.size(); ++i) {
-            if (record[i].code != test.field.code)
+        const size_t end = code < firstXdataCode ? record.own().size() : record.size();
+        for (size_t i = 0; i < end; ++i) {
+            if (record[i].code != code)
                 continue;
             isThere = true;
             if (compareField(record.fieldAt(i), test.field, test.operators))
                 return true;
         }
-        const std::optional<Field> implied = isThere ? std::nullopt : impliedField(test.field.code);
+        if (isThere && !isImpliedBeside(m_drawing, m_entity, record, code))
+            return false;
+        const std::optional<Field> implied = impliedField(m_drawing, m_entity, record, code);
         return implied && compareField(*implied, test.field, test.operators);
     }
 

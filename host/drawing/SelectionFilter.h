@@ -12,8 +12,7 @@ namespace host::drawing {
 /// string changes the test of the next field ("=", "/=", "!=", "<>", "<", "<=", ">", ">=", "*", "&", "&="; for points
 /// one for each coordinate, as in ">=,*,<") or groups what follows ("<AND" "AND>" "<OR" "OR>" "<XOR" "XOR>" "<NOT"
 /// "NOT>"). Group -3 with an application's name asks for extended data of it. An entity meets a field when any of its
-/// groups with that code does; layer "0", colour by layer, linetype ByLayer and space 0 count as given where the entity
-/// does not write them.
+/// own groups with that code does, or what is implied where it does not write them (impliedField()).
 class SelectionFilter
 {
 public:

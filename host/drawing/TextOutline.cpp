@@ -114,7 +114,8 @@ void outlineOfParagraphText(OutlineSink &sink, const TagList &tags)
     const double letter = std::max(height * letterWidth, 1e-12);
     const double limit = std::abs(tags.real(41));
     const double letters = std::min(limit / letter, 1e6);
-    const ParagraphSize size = measure(paragraphContent(tags), limit > 0.0 ? std::max<qsizetype>(1, static_cast<qsizetype>(letters)) : 0);
+    const ParagraphSize size =
+        measure(paragraphContent(tags), limit > 0.0 ? std::max<qsizetype>(1, static_cast<qsizetype>(letters)) : 0);
     const double spacing = height * lineDistance * tags.real(44, 1.0);
     const double width = tags.real(42, static_cast<double>(size.longest) * letter);
     const double total = tags.real(43, height + spacing * static_cast<double>(size.lines - 1));

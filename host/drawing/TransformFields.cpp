@@ -382,8 +382,8 @@ void setOwnField(FieldList &fields, int code, const FieldValue &value)
 bool transformFields(FieldList &fields, const Matrix &matrix)
 {
     const QString type = fields.empty() ? QString() : fields.front().text();
-    const auto *row =
-        std::find_if(std::begin(functions), std::end(functions), [&](const auto &known) { return known.first == type; });
+    const auto *row = std::find_if(std::begin(functions), std::end(functions),
+                                   [&](const auto &known) { return known.first == type; });
     if (row == std::end(functions))
         return false;
     FieldList behind(ownEnd(fields), fields.end());

@@ -9,16 +9,6 @@ namespace host::kernel {
 /// The space that TILEMODE makes current: new entities go there, "all" and picks look there.
 drawing::Space currentSpace(const drawing::Drawing &drawing);
 
-/// Name of the layout whose paper space is in use; "Layout1" where the file does not say.
-QString paperLayoutName(const drawing::Drawing &drawing);
-
-/// Name of the layout whose entities the block holds; empty for a block of no layout.
-QString layoutOfBlock(const drawing::Drawing &drawing, drawing::RecordId block);
-
-/// The blocks of all layouts. Those of model space and of the paper space in use are empty, others hold the layout's
-/// entities.
-std::vector<drawing::RecordId> layoutBlocks(const drawing::Drawing &drawing);
-
 /// Name of the layout tab that is current: "Model" or that of the paper space in use.
 QString currentLayout(const drawing::Drawing &drawing);
 

@@ -17,7 +17,7 @@ TEST(SelectionFilter, Conditions)
 {
     const auto drawing = sample("AC1015", "0 LINE\n5 51\n8 WALLS\n62 1\n10 0\n20 0\n30 0\n11 9\n21 9\n31 0\n"
                                           "0 CIRCLE\n5 52\n8 Doors\n10 5\n20 -5\n30 0\n40 2.5\n1001 TOOL\n1000 x\n"
-                                          "0 LWPOLYLINE\n5 53\n8 0\n90 2\n70 1\n10 0\n20 0\n10 7\n20 7\n"
+                                          "0 LWPOLYLINE\n5 53\n8 0\n90 2\n70 1\n43 2\n10 0\n20 0\n42 .5\n10 7\n20 7\n"
                                           "0 TEXT\n5 54\n8 WALLS-2\n67 1\n10 0\n20 0\n30 0\n40 3\n1 A[1]\n62 256\n");
     const struct
     {
@@ -34,12 +34,19 @@ TEST(SelectionFilter, Conditions)
         {"implied colour", fieldsOf("62 256"), {0x52, 0x53, 0x54}},
         {"implied space", fieldsOf("67 0"), {0x51, 0x52, 0x53}},
         {"implied linetype", fieldsOf("6 ByLayer|0 LINE"), {0x51}},
+        {"model space by its name", fieldsOf("410 Model"), {0x51, 0x52, 0x53}},
+        {"a layout that the file does not name", fieldsOf("410 layout1"), {0x54}},
+        {"implied style", fieldsOf("7 STANDARD"), {0x54}},
+        {"implied numbers", fieldsOf("72 0|41 1.0|50 0.0|73 0"), {0x54}},
+        {"bulge that some vertices leave out", fieldsOf("42 0.0"), {0x53}},
+        {"bulge that one has", fieldsOf("42 0.5"), {0x53}},
+        {"widths of vertices", fieldsOf("43 2.0|40 2.0|41 2.0"), {0x53}},
         {"number", fieldsOf("40 2.5"), {0x52}},
         {"integer for a real", {{40, qint64(3)}}, {0x54}},
         {"greater", fieldsOf("-4 >|40 2.5"), {0x54}},
         {"at least", fieldsOf("-4 >=|40 2.5"), {0x52, 0x54}},
-        {"less", fieldsOf("-4 <|40 3.0"), {0x52}},
-        {"different", fieldsOf("-4 /=|40 2.5"), {0x54}},
+        {"less", fieldsOf("-4 <|40 3.0"), {0x52, 0x53}},
+        {"different", fieldsOf("-4 /=|40 2.5"), {0x53, 0x54}},
         {"not that text", fieldsOf("-4 <>|8 WALLS*"), {0x52, 0x53}},
         {"bits", fieldsOf("-4 &|70 1"), {0x53}},
         {"all bits", fieldsOf("-4 &=|70 3"), {}},

@@ -101,7 +101,7 @@ const std::vector<LispCase> entityCases = {
      "(setq e (entmakex '((0 . \"POINT\") (10 0 0 0) (-3 (\"A1\" (1000 . \"a\")) (\"B1\" (1040 . 2.5) (1010 1.0 2.0 "
      "3.0))))))",
      "(entmod (list (cons -1 e) '(-3 (\"A1\" (1000 . \"new\")))))(xdata e '(\"*\"))",
-     "((\"B1\" (1040 . 2.5) (1010 1.0 2.0 3.0)) (\"A1\" (1000 . \"new\")))"},
+     "((\"A1\" (1000 . \"new\")) (\"B1\" (1040 . 2.5) (1010 1.0 2.0 3.0)))"},
     {"an application without data is taken out",
      "(setq e (entmakex '((0 . \"POINT\") (10 0 0 0) (-3 (\"A1\" (1000 . \"a\")) (\"B1\" (1040 . 2.5))))))",
      "(entmod (list (cons -1 e) '(-3 (\"A1\"))))(xdata e '(\"*\"))", "((\"B1\" (1040 . 2.5)))"},

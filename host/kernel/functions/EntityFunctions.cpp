@@ -4,6 +4,7 @@
 #include "host/drawing/Journal.h"
 #include "host/drawing/Tables.h"
 #include "host/kernel/Document.h"
+#include "host/kernel/functions/EntityChange.h"
 #include "host/kernel/functions/EntityList.h"
 #include "host/kernel/functions/EntityMaker.h"
 #include "host/kernel/functions/LispConversion.h"
@@ -89,17 +90,25 @@ void takeExtension(drawing::Drawing &drawing, RecordId record, const drawing::Fi
     drawing.setFields(dictionary, owned);
 }
 
+/// What of a list can name an extension dictionary.
+drawing::FieldList referencesIn(const Document &document, const Value &list)
+{
+    drawing::FieldList fields;
+    for (const Value &item : lisp::ListItems(list))
+        if (item.car().isInteger() && (item.car().asInteger() == 102 || item.car().asInteger() == 360))
+            fields.push_back(fromListItem(document, item, AngleForm::Degrees));
+    return fields;
+}
+
 Value modifyEntity(Arguments &args, RecordId record)
 {
     Document &document = documentOf(args);
     drawing::Drawing &drawing = document.drawing();
-    const drawing::FieldList given = fieldsFromList(document, args.list(0), angleForm(drawing, record));
     const drawing::JournalGroup group(drawing.journal(), {});
-    takeExtension(drawing, record, given);
-    const drawing::FieldList present = drawing.fields(record);
-    const drawing::FieldList wanted = mergedFields(present, given);
+    takeExtension(drawing, record, referencesIn(document, args.list(0)));
+    const drawing::FieldList wanted = changedFields(document, record, args.list(0));
     // A list that is handed back as it was must leave no trace.
-    if (wanted == present)
+    if (wanted == drawing.fields(record))
         return args[0];
     if (isEntityKind(drawing.kind(record))) {
         const QString error = drawing.entities().modify(record, wanted);

@@ -2,11 +2,9 @@
 
 #include "host/drawing/Wildcard.h"
 #include "host/kernel/Document.h"
-#include "host/kernel/functions/ImpliedFields.h"
 #include "host/kernel/functions/LispConversion.h"
 #include "host/kernel/functions/ParagraphSize.h"
 
-#include <QHash>
 #include <QStringList>
 #include <QtMath>
 
@@ -31,16 +29,6 @@ constexpr int applicationCode = 1001;
 
 /// Marks the entity name of a handle that leads nowhere, so that handing the list back keeps it.
 constexpr std::uint64_t danglingBit = std::uint64_t(1) << 63;
-
-bool isXdata(const Field &field)
-{
-    return field.code >= 1000;
-}
-
-bool isAngleCode(int code)
-{
-    return code >= 50 && code <= 58;
-}
 
 /// Degrees that come out of radians as they went in: a number of few digits is meant where it lies within the error of
 /// the two conversions.
@@ -137,7 +125,13 @@ drawing::FieldValue textValue(const Value &item, const Value &value)
     return QString::fromStdString(value.asString());
 }
 
-/// The items of one application: ("APP" (1000 . "text") ...).
+} // namespace
+
+bool isAngleCode(int code)
+{
+    return code >= 50 && code <= 58;
+}
+
 void appendXdata(const Document &document, const Value &application, FieldList &fields)
 {
     if (!application.isCons() || !application.car().isString())
@@ -147,29 +141,39 @@ void appendXdata(const Document &document, const Value &application, FieldList &
         fields.push_back(fromListItem(document, item, AngleForm::Degrees));
 }
 
+std::vector<FieldList> applicationsOf(const FieldList &fields)
+{
+    std::vector<FieldList> applications;
+    for (const Field &field : fields) {
+        if (field.code == applicationCode)
+            applications.emplace_back();
+        if (!applications.empty())
+            applications.back().push_back(field);
+    }
+    return applications;
+}
+
+Value applicationItem(const Document &document, const FieldList &application)
+{
+    lisp::ListBuilder items;
+    items.append(toLisp(application.front().text()));
+    for (const Field &field : application)
+        if (field.code >= 1000 && field.code != applicationCode)
+            items.append(toListItem(document, field, AngleForm::Degrees));
+    return items.take();
+}
+
+namespace {
+
 /// (-3 ("APP" ...) ...) of the applications that match; nil when there are none.
 Value xdataItem(const Document &document, const FieldList &fields, const QStringList &applications)
 {
     lisp::ListBuilder all;
-    lisp::ListBuilder one;
-    bool isWanted = false;
-    const auto endApplication = [&] {
-        if (isWanted && !one.isEmpty())
-            all.append(one.take());
-    };
-    for (const Field &field : fields) {
-        if (field.code == applicationCode) {
-            endApplication();
-            isWanted = std::any_of(applications.begin(), applications.end(), [&](const QString &pattern) {
-                return drawing::matchesWildcard(field.text(), pattern);
-            });
-            if (isWanted)
-                one.append(toLisp(field.text()));
-        } else if (isXdata(field) && isWanted) {
-            one.append(toListItem(document, field, AngleForm::Degrees));
-        }
-    }
-    endApplication();
+    for (const FieldList &application : applicationsOf(fields))
+        if (std::ranges::any_of(applications, [&](const QString &pattern) {
+                return drawing::matchesWildcard(application.front().text(), pattern);
+            }))
+            all.append(applicationItem(document, application));
     return all.isEmpty() ? Value() : Value::cons(Value::integer(xdataCode), all.take());
 }
 
@@ -187,92 +191,6 @@ Field inSpace(const Field &field)
 {
     const auto *flat = std::get_if<Vec2>(&field.value);
     return flat ? Field{field.code, Vec3{flat->x, flat->y, 0.0}} : field;
-}
-
-/// How often each code occurs.
-QHash<int, int> codeCounts(const FieldList &fields)
-{
-    QHash<int, int> counts;
-    for (const Field &field : fields)
-        ++counts[field.code];
-    return counts;
-}
-
-bool isSameValue(const Field &present, const Field &given)
-{
-    const auto isNear = [](double a, double b) { return a == b || std::abs(a - b) <= 1e-13 * std::abs(a); };
-    if (present.code != given.code)
-        return false;
-    if (isAngleCode(present.code))
-        return isNear(present.real(), given.real());
-    if (std::holds_alternative<Vec2>(present.value) && std::holds_alternative<Vec3>(given.value))
-        return inSpace(present).value == given.value;
-    return present.value == given.value;
-}
-
-/// `present` with the values of `given` in the places of their codes; nothing when a code occurs more or less often.
-std::optional<FieldList> substituted(const FieldList &present, const FieldList &given)
-{
-    const QHash<int, int> counts = codeCounts(present);
-    const QHash<int, int> givenCounts = codeCounts(given);
-    for (auto count = givenCounts.begin(); count != givenCounts.end(); ++count)
-        if (counts.value(count.key()) != count.value())
-            return {};
-    QHash<int, std::vector<const Field *>> byCode;
-    for (auto field = given.rbegin(); field != given.rend(); ++field)
-        byCode[field->code].push_back(&*field);
-    FieldList result = present;
-    for (Field &field : result) {
-        const auto values = byCode.find(field.code);
-        if (values == byCode.end())
-            continue;
-        // An equal value keeps the spelling of the file.
-        if (!isSameValue(field, *values->back()))
-            field = *values->back();
-        values->pop_back();
-    }
-    return result;
-}
-
-/// Types whose groups mean something by their order: a code that is left out cannot be put back from the old list.
-bool isOrdered(const QString &type)
-{
-    static const QStringList types = {QStringLiteral("LWPOLYLINE"), QStringLiteral("SPLINE"),  QStringLiteral("HATCH"),
-                                      QStringLiteral("MLINE"),      QStringLiteral("LEADER"),  QStringLiteral("LTYPE"),
-                                      QStringLiteral("DICTIONARY"), QStringLiteral("XRECORD"), QStringLiteral("GROUP")};
-    return types.contains(type);
-}
-
-FieldList withoutXdata(const FieldList &fields)
-{
-    FieldList rest;
-    std::copy_if(fields.begin(), fields.end(), std::back_inserter(rest), std::not_fn(isXdata));
-    return rest;
-}
-
-/// Extended data of `present`, with the applications that `given` names replaced, or taken out where it has nothing
-/// for them.
-FieldList mergedXdata(const FieldList &present, const FieldList &given)
-{
-    QStringList named;
-    for (const Field &field : given)
-        if (field.code == applicationCode)
-            named.append(field.text().toUpper());
-    FieldList result;
-    bool isReplaced = false;
-    for (const Field &field : present) {
-        if (field.code == applicationCode)
-            isReplaced = named.contains(field.text().toUpper());
-        if (isXdata(field) && !isReplaced)
-            result.push_back(field);
-    }
-    for (size_t i = 0; i < given.size(); ++i) {
-        const bool isEmptyApplication =
-            given[i].code == applicationCode && (i + 1 == given.size() || given[i + 1].code == applicationCode);
-        if (isXdata(given[i]) && !isEmptyApplication)
-            result.push_back(given[i]);
-    }
-    return result;
 }
 
 } // namespace
@@ -329,30 +247,26 @@ Field fromListItem(const Document &document, const Value &item, AngleForm angles
     return {code, textValue(item, value)};
 }
 
-Value entityList(const Document &document, RecordId record, const QStringList &applications)
+std::vector<drawing::ShownField> shownFields(const Document &document, RecordId record, const FieldList &fields)
 {
     const drawing::Drawing &drawing = document.drawing();
-    const AngleForm angles = angleForm(drawing, record);
-    FieldList fields = withImpliedFields(drawing, record, drawing.fields(record));
+    std::vector<drawing::ShownField> shown = drawing::shownFields(drawing, record, fields);
     if (drawing.isType(record, "MTEXT"))
-        fields = withParagraphSize(document, std::move(fields));
-    const bool isSpace = hasSpacePoints(QString::fromLatin1(drawing.typeName(record)));
+        showParagraphSize(document, fields, shown);
+    if (hasSpacePoints(QString::fromLatin1(drawing.typeName(record))))
+        for (drawing::ShownField &each : shown)
+            each.field = inSpace(each.field);
+    return shown;
+}
+
+Value entityList(const Document &document, RecordId record, const QStringList &applications)
+{
+    const AngleForm angles = angleForm(document.drawing(), record);
+    const FieldList fields = document.drawing().fields(record);
     lisp::ListBuilder list;
     list.append(Value::cons(Value::integer(nameCode), toLisp(record)));
-    // Programs see the owner in front of the handle.
-    const bool hasOwner = !drawing.owner(record).isNull();
-    bool isOwnerDone = !hasOwner;
-    const auto owner = std::find_if(fields.begin(), fields.end(), [&](const Field &field) {
-        return field.code == 330 && field.handle() == drawing.owner(record);
-    });
-    for (auto field = fields.begin(); field != fields.end(); ++field) {
-        if (isXdata(*field) || (hasOwner && field == owner))
-            continue;
-        list.append(toListItem(document, isSpace ? inSpace(*field) : *field, angles));
-        if (!isOwnerDone && field->code == 0 && owner != fields.end())
-            list.append(toListItem(document, *owner, angles));
-        isOwnerDone = true;
-    }
+    for (const drawing::ShownField &shown : shownFields(document, record, fields))
+        list.append(toListItem(document, shown.field, angles));
     if (const Value xdata = xdataItem(document, fields, applications); xdata.isTrue())
         list.append(xdata);
     return list.take();
@@ -373,44 +287,6 @@ FieldList fieldsFromList(const Document &document, const Value &list, AngleForm 
     }
     fields.insert(fields.end(), xdata.begin(), xdata.end());
     return fields;
-}
-
-FieldList mergedFields(const FieldList &present, const FieldList &given)
-{
-    const Field *type = drawing::findField(present, 0);
-    const QString typeName = type ? type->text().trimmed() : QString();
-    const FieldList body = withoutXdata(present);
-    FieldList wanted = withoutXdata(given);
-    const bool isParagraph = typeName == QStringLiteral("MTEXT");
-    if (isParagraph)
-        keepParagraphSize(wanted, body);
-    // What the list got for the program's convenience and still has its usual value stays out of the file.
-    const FieldList &implied = impliedFields(typeName);
-    std::erase_if(wanted, [&](const Field &field) {
-        const bool isUsual =
-            field.code == 67
-                ? field.integer() == 0
-                : field.code == 410 || std::any_of(implied.begin(), implied.end(),
-                                                   [&](const Field &usual) { return isSameValue(usual, field); });
-        return isUsual && !drawing::findField(body, field.code);
-    });
-    FieldList result;
-    if (std::optional<FieldList> same = substituted(body, wanted)) {
-        result = std::move(*same);
-    } else {
-        result = wanted;
-        const QHash<int, int> counts = codeCounts(wanted);
-        for (const Field &field : body) {
-            const bool isProperty = field.code < 10 || (field.code >= 48 && field.code <= 67 && field.code != 50);
-            if (!counts.contains(field.code) && (isProperty || !isOrdered(typeName)))
-                result.push_back(field);
-        }
-    }
-    if (isParagraph)
-        dropOldParagraphSize(result, body);
-    const FieldList xdata = mergedXdata(present, given);
-    result.insert(result.end(), xdata.begin(), xdata.end());
-    return result;
 }
 
 } // namespace host::kernel

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/drawing/Drawing.h"
+#include "host/drawing/ImpliedFields.h"
 #include "host/lisp/Value.h"
 
 #include <functional>
@@ -29,6 +29,14 @@ enum class AngleForm
 lisp::Value toListItem(const Document &document, const drawing::Field &field, AngleForm angles);
 /// Back; throws EntityListError. Items with the codes -1 and -3 are the caller's business.
 drawing::Field fromListItem(const Document &document, const lisp::Value &item, AngleForm angles);
+bool isAngleCode(int code);
+
+/// The extended data among fields, apart by application; each begins with its name (1001).
+std::vector<drawing::FieldList> applicationsOf(const drawing::FieldList &fields);
+/// One of these as an item of (-3 ...): ("APP" (1000 . "text") ...).
+lisp::Value applicationItem(const Document &document, const drawing::FieldList &application);
+/// Back, behind what `fields` has already; throws EntityListError.
+void appendXdata(const Document &document, const lisp::Value &application, drawing::FieldList &fields);
 
 /// An entity, a part of one, or the end of its parts.
 bool isEntityKind(drawing::RecordKind kind);
@@ -38,6 +46,10 @@ drawing::RecordId entityBehind(const drawing::Drawing &drawing, drawing::RecordI
 /// How programs see the angles of a record.
 AngleForm angleForm(const drawing::Drawing &drawing, drawing::RecordId record);
 
+/// The record's fields as its entity list has them, extended data aside. `fields` are those of the record.
+std::vector<drawing::ShownField> shownFields(const Document &document, drawing::RecordId record,
+                                             const drawing::FieldList &fields);
+
 /// A record's whole entity list: its name first, then type, owner, handle and the rest in file order, with what the
 /// file leaves out because it is the usual value. `applications` are patterns of the applications whose extended data
 /// is wanted, in (-3 ...) at the end.
@@ -46,9 +58,5 @@ lisp::Value entityList(const Document &document, drawing::RecordId record, const
 /// The fields of an entity list: (-1 ...) left out, extended data of (-3 ...) as fields from 1001 on. Throws
 /// EntityListError.
 drawing::FieldList fieldsFromList(const Document &document, const lisp::Value &list, AngleForm angles);
-
-/// What a record becomes when a program hands back a changed list: groups the list leaves out stay, extended data of
-/// applications it does not name stays, and what is the usual value and not in the file is not written.
-drawing::FieldList mergedFields(const drawing::FieldList &present, const drawing::FieldList &given);
 
 } // namespace host::kernel

@@ -2,6 +2,7 @@
 
 #include "host/drawing/Blocks.h"
 #include "host/drawing/Journal.h"
+#include "host/drawing/Layouts.h"
 #include "host/drawing/Structure.h"
 #include "host/drawing/Tables.h"
 #include "host/kernel/CurrentSpace.h"
@@ -52,8 +53,8 @@ RecordId restingLayoutOf(const drawing::Drawing &drawing, const FieldList &field
     const QString wanted = textOf(fields, 410);
     if (wanted.isEmpty() || !layoutName(drawing, wanted).isEmpty())
         return drawing::noRecord;
-    for (const RecordId block : layoutBlocks(drawing))
-        if (layoutOfBlock(drawing, block).compare(wanted, Qt::CaseInsensitive) == 0)
+    for (const RecordId block : drawing.layouts().blocks())
+        if (drawing.layouts().ofBlock(block).compare(wanted, Qt::CaseInsensitive) == 0)
             return block;
     return drawing::noRecord;
 }

@@ -1,21 +1,21 @@
 #pragma once
 
-#include "host/drawing/Tag.h"
+#include "host/drawing/ImpliedFields.h"
 
 namespace host::kernel {
 
 class Document;
 
-// Width and height of what an MTEXT shows (groups 42 and 43). They follow from the rest: programs see them as the text
-// is now, whatever its file says, and cannot set them.
+// How wide and high an MTEXT is (groups 42 and 43): programs see what the text takes now, in drawing units, whether its
+// file says nothing, the same or something older. It is never taken from a program.
 
-/// The fields with the size as it is.
-drawing::FieldList withParagraphSize(const Document &document, drawing::FieldList fields);
+bool isParagraphSize(int code);
 
-/// Gives sizes that come back from a program the values of the entity's own fields; takes them out where it has none.
-void keepParagraphSize(drawing::FieldList &given, const drawing::FieldList &own);
+/// Puts the size in place of what the file says, or in where it says nothing. `fields` are the record's.
+void showParagraphSize(const Document &document, const drawing::FieldList &fields,
+                       std::vector<drawing::ShownField> &shown);
 
-/// Takes the sizes out of changed fields where they are wrong now.
-void dropOldParagraphSize(drawing::FieldList &changed, const drawing::FieldList &before);
+/// Whether a size in the file holds no more when the group changes.
+bool shapesParagraph(int code);
 
 } // namespace host::kernel

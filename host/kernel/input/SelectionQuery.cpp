@@ -1,8 +1,8 @@
 #include "host/kernel/input/SelectionQuery.h"
 
 #include "host/drawing/Entities.h"
+#include "host/drawing/Layouts.h"
 #include "host/drawing/Symbols.h"
-#include "host/kernel/CurrentSpace.h"
 #include "host/kernel/Document.h"
 #include "host/kernel/input/SelectionBuilder.h"
 #include "host/kernel/input/UserInput.h"
@@ -32,7 +32,7 @@ std::vector<RecordId> wholeDrawing(Document &document, const SelectionQuery &)
 {
     const drawing::Drawing &drawing = document.drawing();
     std::vector<RecordId> all = drawing.entities().all();
-    for (const RecordId block : layoutBlocks(drawing)) {
+    for (const RecordId block : drawing.layouts().blocks()) {
         const std::vector<RecordId> entities = drawing.children(block);
         all.insert(all.end(), entities.begin(), entities.end());
     }
