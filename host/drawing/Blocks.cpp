@@ -1,5 +1,6 @@
 #include "host/drawing/Blocks.h"
 
+#include "host/drawing/Dictionaries.h"
 #include "host/drawing/Journal.h"
 #include "host/drawing/Structure.h"
 #include "host/drawing/Tables.h"
@@ -106,11 +107,24 @@ RecordId Blocks::create(const QString &name, const Vec3 &basePoint, int flags)
 
 bool Blocks::erase(RecordId block)
 {
+    return erase(std::vector<RecordId>{block}) == 1;
+}
+
+int Blocks::erase(const std::vector<RecordId> &blocks)
+{
     const JournalGroup group(m_drawing.journal(), {});
-    const RecordId entry = read(block).tableEntry;
-    if (isValid(entry))
-        m_drawing.setErased(entry, true);
-    return m_drawing.setErased(block, true);
+    std::vector<RecordId> gone;
+    int count = 0;
+    for (const RecordId block : blocks) {
+        if (const RecordId entry = read(block).tableEntry; isValid(entry) && m_drawing.setErased(entry, true))
+            gone.push_back(entry);
+        const RecordId end = m_drawing.endOf(block);
+        for (RecordId record = block; isValid(record); record = record == end ? noRecord : m_drawing.next(record))
+            gone.push_back(record);
+        count += m_drawing.setErased(block, true) ? 1 : 0;
+    }
+    m_drawing.dictionaries().eraseOwnedBy(gone);
+    return count;
 }
 
 } // namespace host::drawing

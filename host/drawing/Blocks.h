@@ -43,8 +43,11 @@ public:
     /// "*X", "*T" or "*E" and nothing behind is completed with the next free number. noRecord for an empty name and
     /// for the layouts.
     RecordId create(const QString &name, const Vec3 &basePoint, int flags = 0);
-    /// Takes a definition out, with its table entry. References to it are the caller's concern.
+    /// Takes a definition out, with its table entry and the objects that it and its entities own. References to it are
+    /// the caller's concern. Costs one pass over the objects, for however many definitions.
     bool erase(RecordId block);
+    /// How many were taken out.
+    int erase(const std::vector<RecordId> &blocks);
 
 private:
     QString completedName(const QString &name) const;

@@ -3,6 +3,8 @@
 #include "host/drawing/Journal.h"
 #include "host/drawing/Structure.h"
 
+#include <QMultiHash>
+
 namespace host::drawing {
 
 using namespace Qt::StringLiterals;
@@ -244,6 +246,26 @@ RecordId Dictionaries::ensureExtensionDictionary(RecordId record)
                   extension.end());
     m_drawing.setFields(record, fields);
     return dictionary;
+}
+
+void Dictionaries::eraseOwnedBy(const std::vector<RecordId> &records)
+{
+    const RecordId section = m_drawing.sectionRecord(Section::Objects);
+    if (!isValid(section))
+        return;
+    QMultiHash<quint64, RecordId> owned;
+    for (const RecordId object : m_drawing.children(section))
+        if (const Handle owner = m_drawing.owner(object); !owner.isNull())
+            owned.insert(owner.value, object);
+    const JournalGroup group(m_drawing.journal(), {});
+    std::vector<RecordId> waiting = records;
+    while (!waiting.empty()) {
+        const quint64 owner = m_drawing.handle(waiting.back()).value;
+        waiting.pop_back();
+        for (const RecordId object : owned.values(owner))
+            if (owner != 0 && m_drawing.setErased(object, true))
+                waiting.push_back(object);
+    }
 }
 
 } // namespace host::drawing

@@ -52,6 +52,9 @@ public:
     /// The same, made when there is none; noRecord in R12.
     RecordId ensureExtensionDictionary(RecordId record);
 
+    /// Erases the objects that these records own, and what those own in turn.
+    void eraseOwnedBy(const std::vector<RecordId> &records);
+
 private:
     void giveOwner(RecordId object, RecordId dictionary);
 

@@ -1,4 +1,8 @@
+#include "host/drawing/Blocks.h"
+#include "host/drawing/Dictionaries.h"
 #include "tests/kernel/Bench.h"
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -53,6 +57,25 @@ TEST_F(PurgeAndReference, OnlyBlocksThatNothingNeedsGo)
         lisp("(command \"_.UNDO\" 1)");
         EXPECT_EQ(lisp(names), "nil") << row.what;
     }
+}
+
+TEST_F(PurgeAndReference, NoObjectOfABlockStaysBehind)
+{
+    using namespace host::drawing;
+    const auto objects = [this] { return drawing().children(drawing().sectionRecord(Section::Objects)).size(); };
+    const auto before = objects();
+    lisp("(block \"A\" nil)");
+    Dictionaries &dictionaries = drawing().dictionaries();
+    const RecordId block = drawing().blocks().find(u"A");
+    for (const RecordId owner : {drawing().blocks().read(block).tableEntry, drawing().firstChild(block)}) {
+        const RecordId extension = dictionaries.ensureExtensionDictionary(owner);
+        dictionaries.setXrecord(dictionaries.ensureDictionary(extension, u"DATA"_s), u"X"_s, {{1, u"a"_s}});
+    }
+    EXPECT_EQ(objects(), before + 6);
+    lisp("(command \"_.-PURGE\" \"_Blocks\" \"*\" \"_No\")");
+    EXPECT_EQ(objects(), before);
+    lisp("(command \"_.UNDO\" 1)");
+    EXPECT_EQ(objects(), before + 6);
 }
 
 TEST_F(PurgeAndReference, EachNameIsConfirmedWhenWanted)

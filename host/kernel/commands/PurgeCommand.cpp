@@ -26,17 +26,22 @@ CommandTask purge(CommandContext &context)
         context.drawing(), [&pattern](const QString &name) { return drawing::matchesWildcard(name, pattern); });
     if (unused.empty())
         context.print(u"\nNo unreferenced blocks found."_s);
+    const bool isConfirmed = verify.text != u"No"_s;
     for (const drawing::RecordId block : unused) {
         const QString name = blocks.name(block);
-        if (verify.text != u"No"_s) {
+        if (isConfirmed) {
             const PromptReply answer =
                 co_await context.keyword(u"Purge block \"%1\"? [Yes/No] <No>: "_s.arg(name), u"Yes No"_s, u"No"_s);
             if (answer.text != u"Yes"_s)
                 continue;
         }
         context.print(u"\nDeleting block \"%1\"."_s.arg(name));
-        blocks.erase(block);
+        // Each at once, for the user may stop; all together costs one search for what they own.
+        if (isConfirmed)
+            blocks.erase(block);
     }
+    if (!isConfirmed)
+        blocks.erase(unused);
 }
 
 } // namespace
