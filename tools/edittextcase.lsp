@@ -67,8 +67,8 @@
 ;; A run of readable characters. What stands in front of it is at: START nothing, WORD white space, nil something else.
 (defun edittextcase:run (codes style / before result)
   (cond
-    ((= style 2) (strcase (kora_replace_all (strcat "i" (chr 775)) (chr 304) (vl-list->string codes)) T))
-    ((= style 3) (strcase (kora_replace_all "SS" (chr 223) (vl-list->string codes))))
+    ((= style 2) (strcase (vl-list->string codes) T))
+    ((= style 3) (strcase (vl-list->string codes)))
     (T
      (setq before at)
      (foreach code codes
@@ -78,11 +78,24 @@
 
 ;; One character for one. Beyond 65535 letters stay as they are.
 (defun edittextcase:letter (code style before / upper lower)
-  (setq upper (ascii (strcase (chr code)))
-        lower (ascii (strcase (chr code) T)))
-  (cond ((= style 1) (if (= before 'START) upper lower))
+  (setq upper (edittextcase:single code (strcase (chr code)))
+        lower (edittextcase:single code (strcase (chr code) T)))
+  (cond ((not (edittextcase:is_letter code)) code)
+        ((= style 1) (if (= before 'START) upper lower))
         ((= style 4) (if before upper lower))
-        ((and (= code upper) (/= code lower)) lower)
+        ((edittextcase:is_capital code) lower)
         (T upper)))
+
+;; -> the code of what a character became; its own where that is more than one character, as with the German sharp s.
+(defun edittextcase:single (code mapped)
+  (if (= (strlen mapped) 1) (ascii mapped) code))
+
+;; Capitals become small letters and stay when they are written large; the Greek ones with an iota behind them are both.
+(defun edittextcase:is_capital (code)
+  (and (= (strcase (chr code)) (chr code)) (/= (strcase (chr code) T) (chr code))))
+
+;; What has a case and is no letter: the iota below a letter, Roman numbers, letters in circles.
+(defun edittextcase:is_letter (code)
+  (not (or (= code 837) (<= 8544 code 8575) (<= 9398 code 9449))))
 
 (princ)

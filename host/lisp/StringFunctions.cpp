@@ -2,6 +2,7 @@
 
 #include "host/lisp/Arguments.h"
 #include "host/lisp/Builtins.h"
+#include "host/lisp/CaseTable.h"
 #include "host/lisp/Interpreter.h"
 #include "host/lisp/StringArgument.h"
 #include "host/lisp/Text.h"
@@ -50,7 +51,7 @@ static Value substr(Arguments &args)
 static Value strcase(Arguments &args)
 {
     const std::string &text = args.string(0);
-    return Value::string(args.has(1) ? toLowerCase(text) : toUpperCase(text));
+    return Value::string(toFullCase(text, args.has(1) ? lowerTable : upperTable));
 }
 
 // (ascii string) -> the code of its first character, 0 for an empty one.

@@ -1,8 +1,9 @@
 #include "host/lisp/Text.h"
 
+#include "host/lisp/CaseTable.h"
+
 #include <algorithm>
 #include <array>
-#include <span>
 
 namespace host::lisp {
 
@@ -120,105 +121,39 @@ std::string fromCharacters(const std::vector<char32_t> &characters)
     return text;
 }
 
-/// Letters that come in runs of upper case followed by lower case, a fixed distance apart.
-struct CaseRun
+char32_t CaseTable::single(char32_t character) const noexcept
 {
-    char32_t firstUpper;
-    char32_t lastUpper;
-    char32_t distance;
-};
+    const auto behind = std::ranges::upper_bound(runs, character, {}, &CaseRun::first);
+    if (behind == runs.begin())
+        return character;
+    const CaseRun &run = *(behind - 1);
+    const bool isOfRun = character <= run.last && (character - run.first) % run.step == 0;
+    return isOfRun ? static_cast<char32_t>(static_cast<std::int32_t>(character) + run.distance) : character;
+}
 
-static constexpr std::array<CaseRun, 10> caseRuns = {{
-    {U'A', U'Z', 32},
-    {0xC0, 0xD6, 32},
-    {0xD8, 0xDE, 32},
-    {0x391, 0x3A1, 32},
-    {0x3A3, 0x3AB, 32},
-    {0x400, 0x40F, 80},
-    {0x410, 0x42F, 32},
-    {0x388, 0x38A, 37},
-    {0x531, 0x556, 48},
-    {0x10400, 0x10427, 40},
-}};
-
-/// Letters by themselves.
-struct CasePair
+const CaseExpansion *CaseTable::several(char32_t character) const noexcept
 {
-    char32_t upper;
-    char32_t lower;
-};
-
-static constexpr std::array<CasePair, 5> casePairs = {{
-    {0x178, 0xFF},
-    {0x386, 0x3AC},
-    {0x38C, 0x3CC},
-    {0x38E, 0x3CD},
-    {0x38F, 0x3CE},
-}};
-
-/// Letters whose other case leads elsewhere when it is turned back: dotless i, final sigma, micro, the digraphs.
-static constexpr std::array<CasePair, 9> upperOnly = {{
-    {U'I', 0x131},
-    {0x3A3, 0x3C2},
-    {0x39C, 0xB5},
-    {0x1C4, 0x1C5},
-    {0x1C4, 0x1C6},
-    {0x1C7, 0x1C8},
-    {0x1C7, 0x1C9},
-    {0x1CA, 0x1CB},
-    {0x1CA, 0x1CC},
-}};
-static constexpr std::array<CasePair, 6> lowerOnly = {{
-    {0x1C4, 0x1C6},
-    {0x1C5, 0x1C6},
-    {0x1C7, 0x1C9},
-    {0x1C8, 0x1C9},
-    {0x1CA, 0x1CC},
-    {0x1CB, 0x1CC},
-}};
-
-/// Latin and Cyrillic letters whose upper and lower case alternate. 1: upper case is odd, 0: even; -1: elsewhere.
-static int upperParity(char32_t c) noexcept
-{
-    const bool upperEven = (c >= 0x100 && c <= 0x12F) || (c >= 0x132 && c <= 0x137) || (c >= 0x14A && c <= 0x177) ||
-                           (c >= 0x460 && c <= 0x481) || (c >= 0x48A && c <= 0x4BF) || (c >= 0x4D0 && c <= 0x52F) ||
-                           (c >= 0x1E00 && c <= 0x1E95) || (c >= 0x1EA0 && c <= 0x1EFF);
-    const bool upperOdd = (c >= 0x139 && c <= 0x148) || (c >= 0x179 && c <= 0x17E);
-    return upperEven ? 0 : upperOdd ? 1 : -1;
+    const auto found = std::ranges::lower_bound(expansions, character, {}, &CaseExpansion::character);
+    return found != expansions.end() && found->character == character ? &*found : nullptr;
 }
 
 char32_t upperCharacter(char32_t c) noexcept
 {
     if (c < 0x80)
         return c >= U'a' && c <= U'z' ? c - 32 : c;
-    for (const CaseRun &run : caseRuns) {
-        if (c >= run.firstUpper + run.distance && c <= run.lastUpper + run.distance)
-            return c - run.distance;
-    }
-    for (const auto pairs : {std::span<const CasePair>(casePairs), std::span<const CasePair>(upperOnly)})
-        if (const auto pair = std::ranges::find(pairs, c, &CasePair::lower); pair != pairs.end())
-            return pair->upper;
-    const int parity = upperParity(c);
-    return parity >= 0 && static_cast<int>(c % 2) != parity ? c - 1 : c;
+    return upperTable.single(c);
 }
 
 char32_t lowerCharacter(char32_t c) noexcept
 {
     if (c < 0x80)
         return c >= U'A' && c <= U'Z' ? c + 32 : c;
-    for (const CaseRun &run : caseRuns) {
-        if (c >= run.firstUpper && c <= run.lastUpper)
-            return c + run.distance;
-    }
-    for (const auto pairs : {std::span<const CasePair>(casePairs), std::span<const CasePair>(lowerOnly)})
-        if (const auto pair = std::ranges::find(pairs, c, &CasePair::upper); pair != pairs.end())
-            return pair->lower;
-    const int parity = upperParity(c);
-    return parity >= 0 && static_cast<int>(c % 2) == parity ? c + 1 : c;
+    return lowerTable.single(c);
 }
 
-template <typename Map>
-static std::string mapCharacters(std::string_view text, Map map)
+/// `append(mapped, character)` adds what becomes of a character.
+template <typename Append>
+static std::string mapCharacters(std::string_view text, Append append)
 {
     std::string mapped;
     mapped.reserve(text.size());
@@ -229,19 +164,32 @@ static std::string mapCharacters(std::string_view text, Map map)
         if (position - begin == 1 && character >= 0x80)
             mapped.push_back(text[begin]);
         else
-            appendCharacter(mapped, map(character));
+            append(mapped, character);
     }
     return mapped;
 }
 
 std::string toUpperCase(std::string_view text)
 {
-    return mapCharacters(text, upperCharacter);
+    return mapCharacters(text, [](std::string &mapped, char32_t c) { appendCharacter(mapped, upperCharacter(c)); });
 }
 
 std::string toLowerCase(std::string_view text)
 {
-    return mapCharacters(text, lowerCharacter);
+    return mapCharacters(text, [](std::string &mapped, char32_t c) { appendCharacter(mapped, lowerCharacter(c)); });
+}
+
+std::string toFullCase(std::string_view text, const CaseTable &table)
+{
+    return mapCharacters(text, [&table](std::string &mapped, char32_t c) {
+        if (const CaseExpansion *expansion = table.several(c)) {
+            for (const char32_t each : expansion->mapped)
+                if (each != 0)
+                    appendCharacter(mapped, each);
+        } else {
+            appendCharacter(mapped, &table == &upperTable ? upperCharacter(c) : lowerCharacter(c));
+        }
+    });
 }
 
 static std::string decodeWindows1252(std::string_view bytes)

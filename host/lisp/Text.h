@@ -24,9 +24,13 @@ void appendCharacter(std::string &text, char32_t character);
 std::vector<char32_t> toCharacters(std::string_view text);
 std::string fromCharacters(const std::vector<char32_t> &characters);
 
-/// Case by the one-to-one mappings of Latin, Greek and Cyrillic letters; other characters stay.
+/// Case by the mappings of Unicode, character for character: one that becomes several, as the German sharp s does,
+/// stays as it is. Neither language nor neighbours count.
 std::string toUpperCase(std::string_view text);
 std::string toLowerCase(std::string_view text);
+/// The same with characters that become several: "\u00DF" becomes "SS".
+struct CaseTable;
+std::string toFullCase(std::string_view text, const CaseTable &table);
 char32_t upperCharacter(char32_t character) noexcept;
 char32_t lowerCharacter(char32_t character) noexcept;
 
