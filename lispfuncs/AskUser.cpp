@@ -28,17 +28,20 @@ bool hasNumericDefault(CKvUserInput &input, const PromptRequest &request)
     return false;
 }
 
-OdString formatted(const CKvUserInput &input, const PromptText &prompt)
+/// The prompt with its default as the user sees it: a number as `text` writes what an empty answer gives.
+template <class Text>
+OdString formatted(const CKvUserInput &input, const PromptText &prompt, bool hasDefault, const Text &text)
 {
-    return input.formatPrompt(prompt.cleaned, prompt.defaultText);
+    return input.formatPrompt(prompt.cleaned, hasDefault ? text() : prompt.defaultText);
 }
 
 int askInteger(CKvUserInput &input, const PromptRequest &request, PromptAnswer &answer)
 {
     const bool hasDefault = hasNumericDefault(input, request);
     if (hasDefault)
-        answer.integer = request.prompt.defaultText.toInt();
-    return input.getInteger(formatted(input, request.prompt), hasDefault, answer.integer);
+        answer.integer = qint32(std::clamp(request.prompt.defaultText.toDouble(), -2147483648.0, 2147483647.0));
+    const auto text = [&] { return OdString::number(answer.integer); };
+    return input.getInteger(formatted(input, request.prompt, hasDefault, text), hasDefault, answer.integer);
 }
 
 int askReal(CKvUserInput &input, const PromptRequest &request, PromptAnswer &answer)
@@ -46,7 +49,8 @@ int askReal(CKvUserInput &input, const PromptRequest &request, PromptAnswer &ans
     const bool hasDefault = hasNumericDefault(input, request);
     if (hasDefault)
         answer.real = request.prompt.defaultText.toDouble();
-    return input.getReal(formatted(input, request.prompt), hasDefault, answer.real);
+    return input.getReal(input.formatPrompt(request.prompt.cleaned, request.prompt.defaultText), hasDefault,
+                         answer.real);
 }
 
 int askDistance(CKvUserInput &input, const PromptRequest &request, PromptAnswer &answer)
@@ -54,16 +58,18 @@ int askDistance(CKvUserInput &input, const PromptRequest &request, PromptAnswer 
     const bool hasDefault = hasNumericDefault(input, request);
     if (hasDefault)
         answer.real = request.prompt.defaultText.toDouble();
-    return input.getDistance(formatted(input, request.prompt), request.base, hasDefault, answer.real);
+    const auto text = [&] { return input.lengthText(answer.real); };
+    return input.getDistance(formatted(input, request.prompt, hasDefault, text), request.base, hasDefault, answer.real);
 }
 
-/// A default angle is taken as written, without a conversion of units.
+/// A default angle is in radians, as the answer.
 int askAngle(CKvUserInput &input, const PromptRequest &request, PromptAnswer &answer)
 {
     const bool hasDefault = hasNumericDefault(input, request);
     if (hasDefault)
         answer.real = request.prompt.defaultText.toDouble();
-    return input.getAngle(formatted(input, request.prompt), request.base, hasDefault, answer.real);
+    const auto text = [&] { return input.angleText(answer.real); };
+    return input.getAngle(formatted(input, request.prompt, hasDefault, text), request.base, hasDefault, answer.real);
 }
 
 int askPoint(CKvUserInput &input, const PromptRequest &request, PromptAnswer &answer)
@@ -83,7 +89,8 @@ int askCorner(CKvUserInput &input, const PromptRequest &request, PromptAnswer &a
 int askString(CKvUserInput &input, const PromptRequest &request, PromptAnswer &answer)
 {
     answer.string = request.prompt.defaultText;
-    return input.getString(formatted(input, request.prompt), request.blanks == Blanks::BelongToIt, answer.string);
+    return input.getString(input.formatPrompt(request.prompt.cleaned, request.prompt.defaultText),
+                           request.blanks == Blanks::BelongToIt, answer.string);
 }
 
 int askKeyword(CKvUserInput &input, const PromptRequest &request, PromptAnswer &answer)
@@ -92,7 +99,7 @@ int askKeyword(CKvUserInput &input, const PromptRequest &request, PromptAnswer &
     if (prompt.cleaned.isEmpty())
         prompt.cleaned = translated("Specify option");
     answer.string = prompt.defaultText;
-    return input.getKeyword(formatted(input, prompt), answer.string);
+    return input.getKeyword(input.formatPrompt(prompt.cleaned, prompt.defaultText), answer.string);
 }
 
 struct Asker

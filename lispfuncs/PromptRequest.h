@@ -34,7 +34,7 @@ struct PromptRequest
 {
     PromptKind kind;
     PromptText prompt;
-    /// World coordinates.
+    /// World coordinates. A corner always has one.
     std::optional<OdGePoint3d> base;
     Blanks blanks = Blanks::EndTheAnswer;
     /// As the bits of CKvUserInput::initget().
@@ -43,7 +43,7 @@ struct PromptRequest
 
 /// Reads the arguments of a call, which come in any order: a point in user coordinates is the base point, T or nil says
 /// whether blanks belong to a string, a string is the prompt. Of two of a kind the later one counts; what is none of
-/// these is passed over.
+/// these is passed over, other lists with all that is in them.
 PromptRequest readRequest(PromptKind kind, const OdResBuf *arguments, const CKvDocument &document);
 
 } // namespace ortakit

@@ -58,7 +58,9 @@ PromptText parsePrompt(const QString &prompt)
     PromptText parsed;
     parsed.given = prompt;
     parsed.given.remove(u"\\n"_s);
-    parsed.keywords = textBetween(parsed.given, u'[', u']').split(u'/', Qt::SkipEmptyParts);
+    for (const QString &option : textBetween(parsed.given, u'[', u']').split(u'/'))
+        if (!option.trimmed().isEmpty())
+            parsed.keywords.append(option.trimmed());
     parsed.defaultText = textBetween(parsed.given, u'<', u'>');
     parsed.cleaned = parsed.given;
     cutBrackets(parsed.cleaned, u'[', u']');

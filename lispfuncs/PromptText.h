@@ -12,7 +12,7 @@ struct PromptText
     QString given;
     /// What is left for the host's formatter, which shows keywords, default and colon itself: "Specify size".
     QString cleaned;
-    /// The options between the first square brackets, as spelled there.
+    /// The options between the first square brackets, as spelled there, without blanks around them.
     QStringList keywords;
     /// The text between the first angle brackets.
     QString defaultText;

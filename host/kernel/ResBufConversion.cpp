@@ -126,7 +126,7 @@ private:
         const std::string &name = value.asSymbol().name();
         if (name == "T")
             return OdResBuf::newRb(OdResBuf::kRtTrue);
-        return OdResBuf::newString(OdResBuf::kRtString, fromUtf8(name));
+        return OdResBuf::newString(OdResBuf::kRtSymbol, fromUtf8(name));
     }
 
     std::vector<Value> &m_selections;
@@ -173,6 +173,8 @@ Value atomFrom(const OdResBuf &link, lisp::Interpreter &interpreter, const std::
         return Value::real(link.getDouble());
     case OdResBuf::kRtString:
         return toLisp(link.getString());
+    case OdResBuf::kRtSymbol:
+        return interpreter.symbol(link.getString().toStdString());
     case OdResBuf::kRtPoint:
         return Value::point(point.x, point.y);
     case OdResBuf::kRtPoint3d:

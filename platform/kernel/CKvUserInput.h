@@ -23,6 +23,10 @@ public:
     virtual void initget(int bits, const QStringList &keywords) = 0;
     /// The prompt as it is shown: with its keywords, the default in angle brackets when there is one, and a colon.
     virtual OdString formatPrompt(const OdString &prompt, const OdString &defaultText) const = 0;
+    /// A length, and an angle in radians, as the drawing's units write it, with no fewer digits than it takes to read
+    /// it back as the same.
+    virtual OdString lengthText(double length) const = 0;
+    virtual OdString angleText(double angle) const = 0;
 
     /// An empty answer gives `value` as it came in where `hasDefault` says so.
     virtual int getInteger(const OdString &prompt, bool hasDefault, qint32 &value) = 0;

@@ -40,6 +40,7 @@ public:
         kRtDottedPair = 5018, ///< in place of the list end: the last item is what stands behind the dot
         kRtNil = 5019,
         kRtTrue = 5021,
+        kRtSymbol = 5022, ///< a symbol other than nil and T; its name as the string
     };
 
     explicit OdResBuf(int type) : m_type(type) {}

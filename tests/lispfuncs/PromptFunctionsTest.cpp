@@ -100,15 +100,19 @@ TEST_F(PromptFunctions, AskAndAnswer)
          u"initget 0, initget 0 Enter to 5., getReal \"Size [Enter to 5.] <5.>: \""_s, "\"Enter to 5.\""},
         {"distance from a point", u"getDist"_s, u"(1 2 3) | Distance"_s, u"4.5"_s,
          u"initget 0, getDistance \"Distance: \" from (101 2 3)"_s, "4.5"},
+        {"distance by its default", u"getDist"_s, u"Size <2.50>:"_s, u""_s,
+         u"initget 0, getDistance \"Size <2.5 m>: \" default 2.5"_s, "2.5"},
+        {"integer whose default has a fraction", u"getInt"_s, u"Count <+2.5>:"_s, u""_s,
+         u"initget 0, getInteger \"Count <2>: \" default 2"_s, "2"},
         {"angle, prompt before the point", u"getAngle"_s, u"Angle <.5> | (1 2 3)"_s, u""_s,
-         u"initget 0, getAngle \"Angle <.5>: \" from (101 2 3) default 0.5"_s, "0.5"},
+         u"initget 0, getAngle \"Angle <28.65 deg>: \" from (101 2 3) default 0.5"_s, "0.5"},
         {"point comes back in user coordinates", u"getPoint"_s, u"\\nPick [Last] <Last>:  | (1 2 3)"_s, u"(150 5 0)"_s,
          u"initget 0 Last, initget 0 Last Enter to last, getPoint \"Pick [Last] <Last>: \" from (101 2 3)"_s,
          "(50 5 0)"},
         {"a numeric default of a point is an option too", u"getPoint"_s, u"Pick <0>:"_s, u"key Enter to 0"_s,
          u"initget 0, initget 0 Enter to 0, getPoint \"Pick <0>:\""_s, "\"Enter to 0\""},
         {"corner without a base", u"getCorner"_s, u"Corner:"_s, u"(101 1 0)"_s,
-         u"initget 0, getCorner \"Corner:\" from (0 0 0)"_s, "(1 1 0)"},
+         u"initget 0, getCorner \"Corner:\" from (100 0 0)"_s, "(1 1 0)"},
         {"string without blanks", u"getString"_s, u"Name <door>:"_s, u""_s,
          u"initget 0, getString \"Name <door>: \" default door"_s, "\"door\""},
         {"string with blanks", u"getString"_s, u"T | Name"_s, u"front door"_s,
@@ -159,7 +163,7 @@ TEST_F(PromptFunctions, BitsStayUntilAPointIsAskedFor)
     call(u"getCornerOrtakit"_s);
     call(u"getPointOrtakit"_s);
     call(u"getRealOrtakit"_s);
-    EXPECT_THAT(requests(), ElementsAre("initget 1", "getInteger \": \"", "initget 1", "getCorner \"\" from (0 0 0)",
+    EXPECT_THAT(requests(), ElementsAre("initget 1", "getInteger \": \"", "initget 1", "getCorner \"\" from (100 0 0)",
                                         "initget 0", "getPoint \"\"", "initget 0", "getReal \": \""));
 }
 

@@ -26,6 +26,7 @@ TEST(PromptText, TakesPromptsApart)
         {"real line break stays", "\nPick a point", "\nPick a point", "", ""},
         {"text behind the options", "Specify [Auto/Manual] size", "Specify size", "Auto|Manual", ""},
         {"blanks of an option stay", "Pick [Use last/All]", "Pick", "Use last|All", ""},
+        {"blanks around an option go", "Pick [ Auto / Manual ] <Auto>:", "Pick", "Auto|Manual", "Auto"},
         {"empty options are none", "Pick [Auto//Manual/]", "Pick", "Auto|Manual", ""},
         {"empty brackets", "Pick [] <>", "Pick", "", ""},
         {"only the first brackets", "Pick [A/B] or [C/D]", "Pick or [C/D]", "A|B", ""},

@@ -2,6 +2,8 @@
 
 #include "platform/rx/OdError.h"
 
+#include <QtMath>
+
 namespace ortakit::test {
 
 namespace {
@@ -192,6 +194,16 @@ OdString FakeUserInput::formatPrompt(const OdString &prompt, const OdString &def
     if (!defaultText.isEmpty())
         text += QStringLiteral(" <%1>").arg(defaultText);
     return text + QStringLiteral(": ");
+}
+
+OdString FakeUserInput::lengthText(double length) const
+{
+    return QStringLiteral("%1 m").arg(length);
+}
+
+OdString FakeUserInput::angleText(double angle) const
+{
+    return QStringLiteral("%1 deg").arg(qRadiansToDegrees(angle), 0, 'f', 2);
 }
 
 namespace {

@@ -102,6 +102,9 @@ public:
     void initget(int bits, const QStringList &keywords) override;
     /// Prompt, keywords of the last initget() in brackets, default in angle brackets, colon.
     OdString formatPrompt(const OdString &prompt, const OdString &defaultText) const override;
+    /// In metres, and in degrees.
+    OdString lengthText(double length) const override;
+    OdString angleText(double angle) const override;
     int getInteger(const OdString &prompt, bool hasDefault, qint32 &value) override;
     int getReal(const OdString &prompt, bool hasDefault, double &value) override;
     int getDistance(const OdString &prompt, const std::optional<OdGePoint3d> &base, bool hasDefault,

@@ -115,6 +115,23 @@ INSTANTIATE_TEST_SUITE_P(
             "(equal (hands v) '(\"32\"))"}));
 
 INSTANTIATE_TEST_SUITE_P(
+    PromptArguments, SelectionFunctions,
+    testing::Values(Row{"a base of whole numbers", "(getPointOrtakit '(1 1) \"To: \")", "answer @2,0\n",
+                        "(equal v '(3.0 1.0 0.0) 1e-9)"},
+                    Row{"a corner from whole numbers", "(getCornerOrtakit '(1 1) \"Corner: \")", "answer @2,3\n",
+                        "(equal v '(3.0 4.0 0.0) 1e-9)"},
+                    Row{"strings in lists are no prompts", "(getIntOrtakit \"Count: \" '(\"no\" (\"prompt\")))",
+                        "answer 7\nexpect-printed \"Count: \"\n", "(= v 7)"},
+                    Row{"an angle in the drawing's units", "(getAngleOrtakit \"Angle <1.5708>: \")",
+                        "enter\nexpect-printed \"Angle <90>: \"\n", "(equal v (/ pi 2) 1e-5)"},
+                    Row{"with as many digits as it takes",
+                        "(progn (setvar \"LUPREC\" 1) (getDistOrtakit \"Size <2.375>: \"))",
+                        "enter\nexpect-printed \"Size <2.375>: \"\n", "(= v 2.375)"},
+                    Row{"options have no blanks around them", "(getKwordOrtakit \"Go on? [Yes / No] <No>: \")",
+                        "answer y\nexpect-printed \"Go on? [Yes/No] <No>: \"\n", "(= v \"Yes\")"},
+                    Row{"a quoted symbol is no string", "(CreateRtext 'note 0.0 2.5 \"\")", "", "(null v)"}));
+
+INSTANTIATE_TEST_SUITE_P(
     EntSel, SelectionFunctions,
     testing::Values(Row{"asks until the type fits", "(KORA_EntSel \"\\nPick a pipe: \" \"line,*POLYLINE\")",
                         "pickhandle 35 18,1.25\nexpect-printed \"This is a CIRCLE; asked for is LINE,*POLYLINE.\"\n"

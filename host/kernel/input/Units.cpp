@@ -7,6 +7,13 @@
 
 namespace host::kernel {
 
+namespace {
+
+constexpr int mostDigits = 8; // as LUPREC and AUPREC
+constexpr double accuracy = 1e-5;
+
+} // namespace
+
 UnitFormat UnitFormat::of(const SystemVariables &variables)
 {
     UnitFormat format;
@@ -28,6 +35,30 @@ QString UnitFormat::length(double value) const
 QString UnitFormat::angle(double radians) const
 {
     return QString::fromStdString(lisp::formatAngle(radians, {angleMode, anglePrecision, zeros, 0.0, false}));
+}
+
+QString UnitFormat::exactLength(double value) const
+{
+    UnitFormat format = *this;
+    const auto isRead = [&] {
+        const std::optional<double> read = parseLength(format.length(value));
+        return read && std::abs(*read - value) <= accuracy * std::abs(value);
+    };
+    while (format.lengthPrecision < mostDigits && !isRead())
+        ++format.lengthPrecision;
+    return format.length(value);
+}
+
+QString UnitFormat::exactAngle(double radians) const
+{
+    UnitFormat format = *this;
+    const auto isRead = [&] {
+        const std::optional<double> read = parseAngle(format.angle(radians));
+        return read && std::abs(std::remainder(*read - radians, 2.0 * M_PI)) <= accuracy * std::abs(radians);
+    };
+    while (format.anglePrecision < mostDigits && !isRead())
+        ++format.anglePrecision;
+    return format.angle(radians);
 }
 
 std::optional<double> UnitFormat::parseLength(const QString &text) const

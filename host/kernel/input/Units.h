@@ -24,6 +24,9 @@ struct UnitFormat
     QString length(double value) const;
     /// The size of an angle; neither base nor direction play a part. Radians.
     QString angle(double radians) const;
+    /// The same, with no fewer digits than it takes to read back one part in 100,000.
+    QString exactLength(double value) const;
+    QString exactAngle(double radians) const;
     /// A length in any of the notations, fractions and feet included; nothing for other text.
     std::optional<double> parseLength(const QString &text) const;
     /// The size of an angle in any of the notations, in radians, below one turn. Plain numbers count in the format's

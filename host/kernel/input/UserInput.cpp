@@ -123,6 +123,16 @@ OdString UserInput::formatPrompt(const OdString &prompt, const OdString &default
     return kernel::formatPrompt(prompt, m_keywords, defaultText);
 }
 
+OdString UserInput::lengthText(double length) const
+{
+    return UnitFormat::of(m_document.variables()).exactLength(length);
+}
+
+OdString UserInput::angleText(double angle) const
+{
+    return UnitFormat::of(m_document.variables()).exactAngle(angle);
+}
+
 int UserInput::askFor(PromptRequest request, PromptReply &reply)
 {
     applyOptions(request);
@@ -178,10 +188,8 @@ int UserInput::askForReal(PromptKind kind, const OdString &prompt, const std::op
 {
     PromptRequest request = requestFor(kind, prompt);
     request.base = vector(base);
-    if (hasDefault) {
-        const UnitFormat units = UnitFormat::of(m_document.variables());
-        request.defaultText = kind == PromptKind::Angle ? units.angle(value) : units.length(value);
-    }
+    if (hasDefault)
+        request.defaultText = kind == PromptKind::Angle ? angleText(value) : lengthText(value);
     PromptReply reply;
     const int result = askFor(std::move(request), reply);
     if (reply.hasValue())

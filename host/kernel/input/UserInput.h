@@ -37,6 +37,8 @@ public:
 
     void initget(int bits, const QStringList &keywords) override;
     OdString formatPrompt(const OdString &prompt, const OdString &defaultText) const override;
+    OdString lengthText(double length) const override;
+    OdString angleText(double angle) const override;
     int getInteger(const OdString &prompt, bool hasDefault, qint32 &value) override;
     int getReal(const OdString &prompt, bool hasDefault, double &value) override;
     int getDistance(const OdString &prompt, const std::optional<OdGePoint3d> &base, bool hasDefault,
