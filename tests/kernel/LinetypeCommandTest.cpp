@@ -1,3 +1,4 @@
+#include "host/drawing/ShapeFiles.h"
 #include "tests/kernel/Bench.h"
 
 namespace {
@@ -39,6 +40,34 @@ TEST_F(Bench, linetypesAreLoadedFromAFile)
         EXPECT_EQ(value("DASH", "40"), row.dashLength) << row.what;
     }
     EXPECT_EQ(lisp("(getvar \"CELTYPE\")"), "\"DASH\"");
+}
+
+TEST_F(Bench, shapesArePlacedFromALoadedFile)
+{
+    const QString file = write("signs.shp", "*1,2,BOX\n010,0\n");
+    lisp("(setq file \"" + file.toStdString() +
+         "\" n (lambda () (length (vl-remove-if-not '(lambda (x) (equal x "
+         "'(0 . \"SHAPE\"))) (entget (cond ((entlast)) ((tblobjname \"LAYER\" \"0\"))))))))");
+    const struct
+    {
+        const char *call;
+        const char *printed;
+        const char *shapes; ///< whether the last entity is a shape
+    } rows[] = {
+        {"(command \"_.SHAPE\" \"BOX\")", "Cannot find shape \"BOX\". Load its file first.", "0"},
+        {"(command \"_.LOAD\" \"none\")", "Cannot read shape file \"none\".", "0"},
+        {"(command \"_.LOAD\" file \"_.LOAD\" file \"_.SHAPE\" \"box\" '(1 2) 0.0)", "", "0"},
+        {"(command \"_.SHAPE\" \"box\" '(1 2) \"\" \"90\")", "", "1"},
+    };
+    for (const auto &row : rows) {
+        takePrinted();
+        lisp(row.call);
+        EXPECT_NE(takePrinted().find(row.printed), std::string::npos) << row.call;
+        EXPECT_EQ(lisp("(n)"), row.shapes) << row.call;
+    }
+    EXPECT_EQ(lisp("(mapcar '(lambda (c) (cdr (assoc c (entget (entlast))))) '(10 40 2))"),
+              "((1.0 2.0 0.0) 1.0 \"BOX\")");
+    EXPECT_EQ(host::drawing::shapeFileNames(drawing()), QStringList{file}) << "one style";
 }
 
 } // namespace

@@ -11,7 +11,7 @@ std::vector<CommandRow> collectRows()
     std::vector<CommandRow> rows;
     for (const auto &group :
          {drawCommands(), circleCommands(), polylineCommands(), textCommands(), editCommands(), drawOrderCommands(),
-          insertCommands(), writeBlockCommands(), layerCommands(), linetypeCommands(), purgeCommands(),
+          insertCommands(), writeBlockCommands(), layerCommands(), linetypeCommands(), shapeCommands(), purgeCommands(),
           referenceCommands(), fileCommands(), viewCommands(), undoCommands()})
         rows.insert(rows.end(), group.begin(), group.end());
     std::sort(rows.begin(), rows.end(),

@@ -17,6 +17,7 @@ std::vector<CommandRow> insertCommands();
 std::vector<CommandRow> writeBlockCommands();
 std::vector<CommandRow> layerCommands();
 std::vector<CommandRow> linetypeCommands();
+std::vector<CommandRow> shapeCommands();
 std::vector<CommandRow> purgeCommands();
 std::vector<CommandRow> referenceCommands();
 std::vector<CommandRow> fileCommands();
