@@ -53,10 +53,11 @@ void BlockReplacementDialog::setUpBlocks()
             &BlockReplacementDialog::closeDialog);
 }
 
-bool BlockReplacementDialog::appliesAgain() const
+ToolDialog::Reentry BlockReplacementDialog::reentry() const
 {
     // Lisp has written the names of the blocks that were picked in the drawing.
-    return state().lookup(QStringLiteral("!Action!")) == QLatin1String("SETBLOCKS");
+    return state().lookup(QStringLiteral("!Action!")) == QLatin1String("SETBLOCKS") ? Reentry::WholeState
+                                                                                    : Reentry::Nothing;
 }
 
 void BlockReplacementDialog::beforeShow()

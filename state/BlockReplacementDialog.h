@@ -41,7 +41,7 @@ protected:
     /// To be called once behind setupUi(), in place of setUpButtons().
     void setUpBlocks();
 
-    bool appliesAgain() const override;
+    Reentry reentry() const override;
     void beforeShow() override;
     void afterShow() override;
 

@@ -65,8 +65,15 @@ void ToolDialog::applyState()
     if (!m_state.isLoaded()) {
         beforeFirstShow();
         m_state.apply();
-    } else if (appliesAgain()) {
-        m_state.apply();
+        return;
+    }
+    switch (reentry()) {
+    case Reentry::LastFile:
+        return m_state.applyLastFile();
+    case Reentry::WholeState:
+        return m_state.apply();
+    case Reentry::Nothing:
+        return;
     }
 }
 

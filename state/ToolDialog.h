@@ -9,8 +9,8 @@ class QAbstractButton;
 /// asks and tells through the host's message boxes.
 ///
 /// A dialog lives as long as its document and is shown many times. Each time, in this order: beforeShow(); then, as
-/// long as the state was never applied, beforeFirstShow() and the state is applied, and later the state is applied
-/// again where appliesAgain() says so; then afterShow(). Coming back from being minimized is not a showing.
+/// long as the state was never applied, beforeFirstShow() and the state is applied, and later what reentry() says; then
+/// afterShow(). Coming back from being minimized is not a showing.
 class ToolDialog : public CKvDialog
 {
     Q_OBJECT
@@ -38,9 +38,15 @@ protected:
     virtual void beforeShow() {}
     /// Fills what the state is then applied to, once.
     virtual void beforeFirstShow() {}
-    /// Whether a showing after the first sets the widgets from the state again, commonly by the action that Lisp left
-    /// under "!action!".
-    virtual bool appliesAgain() const { return false; }
+    /// What a showing after the first sets widgets from.
+    enum class Reentry
+    {
+        LastFile,   ///< what this call's program has written; the rest is as the user left it
+        WholeState, ///< what the programs of all calls have written
+        Nothing
+    };
+    /// Commonly by the action that Lisp left under "!action!".
+    virtual Reentry reentry() const { return Reentry::LastFile; }
     /// Brings everything that follows from the widgets up to date, each time.
     virtual void afterShow() {}
 

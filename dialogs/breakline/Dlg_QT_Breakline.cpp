@@ -48,10 +48,11 @@ Dlg_QT_Breakline::Dlg_QT_Breakline(QWidget *parent)
 
 Dlg_QT_Breakline::~Dlg_QT_Breakline() = default;
 
-bool Dlg_QT_Breakline::appliesAgain() const
+ToolDialog::Reentry Dlg_QT_Breakline::reentry() const
 {
     // Lisp has made a new symbol and put its path into the state.
-    return state().lookup(QStringLiteral("!Action!")) == QLatin1String("CREATE");
+    return state().lookup(QStringLiteral("!Action!")) == QLatin1String("CREATE") ? Reentry::WholeState
+                                                                                 : Reentry::Nothing;
 }
 
 void Dlg_QT_Breakline::afterShow()

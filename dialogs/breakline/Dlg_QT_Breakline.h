@@ -23,7 +23,7 @@ public:
     ~Dlg_QT_Breakline() override;
 
 protected:
-    bool appliesAgain() const override;
+    Reentry reentry() const override;
     void afterShow() override;
 
 private:

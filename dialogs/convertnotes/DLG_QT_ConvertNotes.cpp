@@ -14,6 +14,5 @@ DLG_QT_ConvertNotes::~DLG_QT_ConvertNotes() = default;
 
 void DLG_QT_ConvertNotes::afterShow()
 {
-    state().applyLastFile();
     m_ui->keepfonts->setFocus();
 }

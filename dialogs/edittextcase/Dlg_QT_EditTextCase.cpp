@@ -62,8 +62,6 @@ int Dlg_QT_EditTextCase::checkedMode() const
 
 void Dlg_QT_EditTextCase::afterShow()
 {
-    // Each call has a text of its own, and perhaps a style.
-    state().applyLastFile();
     bool isStyleGiven = false;
     for (int mode = 1; mode <= styleCount; ++mode)
         isStyleGiven |= !state().lookupInLastFile(button(mode)->objectName()).isEmpty();

@@ -17,7 +17,6 @@ Dlg_QT_ExportInfo::~Dlg_QT_ExportInfo() = default;
 
 void Dlg_QT_ExportInfo::afterShow()
 {
-    state().applyLastFile();
     showWholeFields();
     m_ui->steps->setPlainText(QStringLiteral("1. \r\n2. \r\n3. \r\n4. \r\n5. \r\n... \r\n"));
     m_ui->lstInfo->setPlainText(ortakit::readSystemInformation(m_systemFile));

@@ -29,6 +29,8 @@ public:
 protected:
     void beforeShow() override;
     void beforeFirstShow() override;
+    /// Lisp performs one action after the other with what the user has set.
+    Reentry reentry() const override { return Reentry::Nothing; }
     void afterShow() override;
 
 private:

@@ -143,10 +143,11 @@ void DLG_QT_PatternHatch::beforeShow()
     refreshFavourites();
 }
 
-bool DLG_QT_PatternHatch::appliesAgain() const
+ToolDialog::Reentry DLG_QT_PatternHatch::reentry() const
 {
-    return m_mode == QLatin1String("NEW") || m_mode == QLatin1String("EDIT") ||
-           m_mode == QLatin1String("EXTRACTENTITY");
+    static const QStringList applying = {QStringLiteral("NEW"), QStringLiteral("EDIT"),
+                                         QStringLiteral("EXTRACTENTITY")};
+    return applying.contains(m_mode) ? Reentry::WholeState : Reentry::Nothing;
 }
 
 void DLG_QT_PatternHatch::afterShow()

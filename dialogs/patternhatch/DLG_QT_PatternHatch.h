@@ -42,7 +42,7 @@ public:
 
 protected:
     void beforeShow() override;
-    bool appliesAgain() const override;
+    Reentry reentry() const override;
     void afterShow() override;
     void changeEvent(QEvent *event) override;
 

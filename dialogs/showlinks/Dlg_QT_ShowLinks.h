@@ -36,7 +36,6 @@ public:
 
 protected:
     void beforeShow() override;
-    bool appliesAgain() const override { return isReturning(); }
     void afterShow() override;
     void changeEvent(QEvent *event) override;
 

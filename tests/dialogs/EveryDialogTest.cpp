@@ -51,42 +51,48 @@ struct Row
     const char *helpTopic;
     /// Letters that several texts of its first page have as their mnemonic: pressed, they lead from one to the next.
     QLatin1StringView sharedLetters;
+    /// A line in the file of a later call; empty for a dialog that has none, or nothing in it to set.
+    QByteArrayView later;
+    /// The line that is written then; empty when it is the same one.
+    QByteArrayView written;
 };
 
 template <class Dialog>
-constexpr Row row(const char *name, const char *helpTopic, const char *sharedLetters = "")
+constexpr Row row(const char *name, const char *helpTopic, const char *sharedLetters = "", const char *later = "",
+                  const char *written = "")
 {
-    return {name, [](QWidget *parent) -> ToolDialog * { return new Dialog(parent); }, helpTopic,
-            QLatin1StringView(sharedLetters)};
+    return {name,      [](QWidget *parent) -> ToolDialog * { return new Dialog(parent); },
+            helpTopic, QLatin1StringView(sharedLetters),
+            later,     written};
 }
 
 constexpr Row rows[] = {
-    row<Dlg_QT_Breakline>("Breakline", "9101"),
+    row<Dlg_QT_Breakline>("Breakline", "9101", "", "_dist_size=2", "_dist_size=1"),
     row<Dlg_QT_LispExplorer>("LispExplorer", "9111"),
     row<Dlg_QT_EditAlias>("EditAlias", "0"),
-    row<Dlg_QT_MakeLineStyle>("MakeLineStyle", "9110"),
-    row<Dlg_QT_MakeShape>("MakeShape", "9132"),
-    row<Dlg_QT_ReplaceBlock>("ReplaceBlock", "9105"),
-    row<Dlg_QT_ReplaceBlockToXref>("ReplaceBlockToXref", "9106"),
-    row<Dlg_QT_ExchangedDimensionStyle>("ExchangedDimensionStyle", "9121"),
-    row<Dlg_QT_ImportDimensionStyle>("ImportDimensionStyle", "9122"),
-    row<DLG_QT_PatternHatch>("PatternHatch", "9102", "aden"),
-    row<Dlg_QT_TextFrame>("TextFrame", "9113", "c"), // "&Circle" and the "&Color:" of a hatch
+    row<Dlg_QT_MakeLineStyle>("MakeLineStyle", "9110", "", "description=Dots"),
+    row<Dlg_QT_MakeShape>("MakeShape", "9132", "", "resolution=16"),
+    row<Dlg_QT_ReplaceBlock>("ReplaceBlock", "9105", "", "attsync=TRUE", "attsync=FALSE"),
+    row<Dlg_QT_ReplaceBlockToXref>("ReplaceBlockToXref", "9106", "", "purgeitems=TRUE", "purgeitems=FALSE"),
+    row<Dlg_QT_ExchangedDimensionStyle>("ExchangedDimensionStyle", "9121", "", "rbfulltext=TRUE"),
+    row<Dlg_QT_ImportDimensionStyle>("ImportDimensionStyle", "9122", "", "txexport=/d.dim"),
+    row<DLG_QT_PatternHatch>("PatternHatch", "9102", "aden", "tolerance=0.5", "tolerance=0.01"),
+    row<Dlg_QT_TextFrame>("TextFrame", "9113", "c", "offset=2"), // "&Circle" and the "&Color:" of a hatch
     // "C&reate Viewports" and "&Remove entities", "L&imits" and "&Insert Title Block"
-    row<Dlg_QT_MultiViewSetup>("MultiViewSetup", "9145", "ri"),
-    row<Dlg_QT_numbertext>("NumberText", "9112", "v"), // "Initial &value:" and "O&verwrite"
-    row<Dlg_QT_TextMask>("TextMask", "9115"),
-    row<Dlg_QT_EditTextCase>("EditTextCase", "9117"),
-    row<DLG_QT_ConvertNotes>("ConvertNotes", "9104"),
+    row<Dlg_QT_MultiViewSetup>("MultiViewSetup", "9145", "ri", "titlex=2", "titlex=0.0"),
+    row<Dlg_QT_numbertext>("NumberText", "9112", "v", "tx_init=7"), // "Initial &value:" and "O&verwrite"
+    row<Dlg_QT_TextMask>("TextMask", "9115", "", "offset=2"),
+    row<Dlg_QT_EditTextCase>("EditTextCase", "9117", "", "radiobutton4=TRUE"),
+    row<DLG_QT_ConvertNotes>("ConvertNotes", "9104", "", "select_alfa=TRUE"),
     row<Dlg_QT_ExportSettings>("ExportSettings", "9134"),
-    row<Dlg_QT_ExportInfo>("ExportInfo", "9133"),
-    row<Dlg_QT_ShowLinks>("ShowLinks", "0"),
-    row<Dlg_QT_RedefinePaths>("RedefinePaths", "9107", "efr"),
-    row<Dlg_QT_GetBlockInfo>("GetBlockInfo", "9109"),
-    row<Dlg_QT_ImportBlockAttributes>("ImportBlockAttributes", "9108"),
+    row<Dlg_QT_ExportInfo>("ExportInfo", "9133", "", "lineedit_2=ann@example.com"),
+    row<Dlg_QT_ShowLinks>("ShowLinks", "0", "", "txsearch=http"),
+    row<Dlg_QT_RedefinePaths>("RedefinePaths", "9107", "efr", "filter=A.*"),
+    row<Dlg_QT_GetBlockInfo>("GetBlockInfo", "9109", "", "nestedcheckbox=TRUE"),
+    row<Dlg_QT_ImportBlockAttributes>("ImportBlockAttributes", "9108", "", "txreplace=b"),
     row<DLG_QT_SelectBlock>("SelectBlock", "9102"),
-    row<Dlg_QT_DrawOderColor>("DrawOderColor", "9127"),
-    row<Dlg_QT_MergeSheets>("MergeSheets", "9136"),
+    row<Dlg_QT_DrawOderColor>("DrawOderColor", "9127", "", "newcolor=3"),
+    row<Dlg_QT_MergeSheets>("MergeSheets", "9136", "", "prefix=A-"),
     row<Dlg_QT_TrackTime>("TrackTime", "0"),
 };
 
@@ -221,6 +227,21 @@ TEST_P(EveryDialog, EveryWidgetIsReachedByTab)
         const bool isReachable = widget->isEnabled() && widget->focusPolicy() & Qt::TabFocus;
         EXPECT_TRUE(!isReachable || reached.contains(widget)) << widget->objectName().toStdString();
     }
+}
+
+// A dialog that its program calls again and again while the user works with it fixes itself what a later call sets.
+TEST_P(EveryDialog, ALaterCallSetsWhatItsFileNames)
+{
+    const QByteArrayView later = GetParam().later;
+    if (later.isEmpty())
+        return;
+    dialog->hide();
+    dialog->state().load(host.writeFile(u"state"_s, later.toByteArray()));
+    dialog->show();
+    dialog->state().save();
+    const QList<QByteArray> lines = FakeHost::readFile(dialog->state().filePath()).mid(3).split('\n');
+    const QByteArrayView expected = GetParam().written.isEmpty() ? later : GetParam().written;
+    EXPECT_TRUE(lines.contains(expected.toByteArray())) << lines.join('\n').toStdString();
 }
 
 TEST_P(EveryDialog, KeepsItsWidgetsNamedOnce)

@@ -27,7 +27,7 @@ public:
     static inline int made = 0;
 
 protected:
-    bool appliesAgain() const override { return true; }
+    Reentry reentry() const override { return Reentry::WholeState; }
 };
 
 } // namespace ortakit::test

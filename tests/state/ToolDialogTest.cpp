@@ -42,32 +42,36 @@ public:
 protected:
     void beforeShow() override { log(u"before"_s); }
     void beforeFirstShow() override { log(u"first"_s); }
-    bool appliesAgain() const override { return state().lookup(u"!Action!"_s) == u"CREATE"_s; }
+    Reentry reentry() const override
+    {
+        const QString action = state().lookup(u"!Action!"_s);
+        return action.isEmpty() ? Reentry::LastFile : action == u"CREATE"_s ? Reentry::WholeState : Reentry::Nothing;
+    }
     void afterShow() override { log(u"after"_s); }
 
 private:
     void log(const QString &event) { events.append(event + u':' + name->text()); }
 };
 
-TEST(ToolDialog, AppliesTheStateWhenItIsFirstShownAndWhenTheActionSaysSo)
+TEST(ToolDialog, AppliesTheStateWhenItIsFirstShownAndThenWhatTheReentrySays)
 {
     const FakeHost host;
     SampleTool tool;
-    tool.state().load(host.writeFile(u"state"_s, "name=a\n"));
-    tool.show();
-    EXPECT_EQ(tool.events, (QStringList{u"before:"_s, u"first:"_s, u"after:a"_s}));
-
-    tool.events.clear();
-    tool.hide();
-    tool.state().load(host.writeFile(u"state"_s, "name=b\n"));
-    tool.show();
-    EXPECT_EQ(tool.events, (QStringList{u"before:a"_s, u"after:a"_s})) << "what the user left stays";
-
-    tool.events.clear();
-    tool.hide();
-    tool.state().load(host.writeFile(u"state"_s, "name=c\n!action!=CREATE\n"));
-    tool.show();
-    EXPECT_EQ(tool.events, (QStringList{u"before:a"_s, u"after:c"_s}));
+    const std::pair<QByteArray, QString> calls[] = {
+        {"name=a\n", u"before: first: after:a"_s},
+        {"name=b\n", u"before:typed after:b"_s},
+        {"other=1\n", u"before:typed after:typed"_s},
+        {"!action!=CREATE\n", u"before:typed after:b"_s},
+        {"name=c\n!action!=RETURN\n", u"before:typed after:typed"_s},
+    };
+    for (const auto &[file, events] : calls) {
+        tool.events.clear();
+        tool.state().load(host.writeFile(u"state"_s, file));
+        tool.show();
+        EXPECT_EQ(tool.events.join(u' '), events) << file.toStdString();
+        tool.name->setText(u"typed"_s);
+        tool.hide();
+    }
 }
 
 TEST(ToolDialog, AnswersTheLispProgramThroughTheStateFile)
