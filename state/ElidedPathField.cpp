@@ -5,13 +5,25 @@
 #include <QFocusEvent>
 #include <QLineEdit>
 
+namespace {
+
+constexpr char pathFieldProperty[] = "isPathField";
+
+} // namespace
+
 ElidedPathField::ElidedPathField(QLineEdit *edit) : m_edit(edit)
 {
+    edit->setProperty(pathFieldProperty, true);
     edit->installEventFilter(this);
     connect(edit, &QLineEdit::returnPressed, this, [this] {
         takeText();
         emit pathEntered();
     });
+}
+
+bool ElidedPathField::isOne(const QLineEdit &edit)
+{
+    return edit.property(pathFieldProperty).toBool();
 }
 
 void ElidedPathField::setFullPath(const QString &path)

@@ -17,6 +17,9 @@ public:
     /// `edit` is not owned.
     explicit ElidedPathField(QLineEdit *edit);
 
+    /// Whether `edit` belongs to one.
+    static bool isOne(const QLineEdit &edit);
+
     /// Takes `path` as it is, and shows it.
     void setFullPath(const QString &path);
     /// The path as of the last setFullPath(), applied state, or finished input.

@@ -88,6 +88,8 @@ void ToolDialog::showEvent(QShowEvent *event)
     CKvDialog::showEvent(event);
     if (event->spontaneous())
         return;
+    if (!m_fields)
+        m_fields = std::make_unique<TypedFields>(*this);
     decorate();
     ortakit::showPlainTexts(*this);
     beforeShow();

@@ -2,11 +2,14 @@
 
 #include "platform/kernel/CKvDialog.h"
 #include "state/DialogState.h"
+#include "state/TypedFields.h"
+
+#include <memory>
 
 class QAbstractButton;
 
-/// Base of every tool's dialog: owns its DialogState, applies it when the dialog is shown, opens its help page and
-/// asks and tells through the host's message boxes.
+/// Base of every tool's dialog: owns its DialogState, applies it when the dialog is shown, has it follow what is typed,
+/// opens its help page and asks and tells through the host's message boxes.
 ///
 /// A dialog lives as long as its document and is shown many times. Each time, in this order: beforeShow(); then, as
 /// long as the state was never applied, beforeFirstShow() and the state is applied, and later what reentry() says; then
@@ -74,4 +77,5 @@ private:
     DialogState m_state;
     QString m_helpTopic;
     QAbstractButton *m_helpButton = nullptr;
+    std::unique_ptr<TypedFields> m_fields;
 };

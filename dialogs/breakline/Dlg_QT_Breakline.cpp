@@ -4,6 +4,7 @@
 #include "platform/kernel/CKvUtils.h"
 #include "state/DialogPicture.h"
 #include "state/DrawingPicker.h"
+#include "state/FullText.h"
 #include "state/ModuleFolder.h"
 #include "state/PathMessages.h"
 #include "state/StarterFiles.h"
@@ -108,7 +109,7 @@ void Dlg_QT_Breakline::CloseAccept()
 
 void Dlg_QT_Breakline::CreateDesing()
 {
-    const QString name = m_ui->name->text();
+    const QString name = ortakit::wholeText(*m_ui->name);
     const QString path = m_symbolFolder + u'/' + name + QStringLiteral(".dwg");
     if (!ortakit::acceptsNewDrawingName(this, name, path)) {
         m_ui->name->setFocus();

@@ -17,26 +17,16 @@ Dlg_QT_ExportInfo::~Dlg_QT_ExportInfo() = default;
 
 void Dlg_QT_ExportInfo::afterShow()
 {
-    showWholeFields();
     m_ui->steps->setPlainText(QStringLiteral("1. \r\n2. \r\n3. \r\n4. \r\n5. \r\n... \r\n"));
     m_ui->lstInfo->setPlainText(ortakit::readSystemInformation(m_systemFile));
     m_ui->lineEdit->setFocus();
 }
 
-/// The state shortens what is longer than a field. These fields show what will be in the report.
-void Dlg_QT_ExportInfo::showWholeFields()
-{
-    for (QLineEdit *field : {m_ui->lineEdit, m_ui->lineEdit_2, m_ui->lineEdit_3}) {
-        if (!state().lookupInLastFile(field->objectName()).isEmpty())
-            field->setText(state().lookup(field->objectName()));
-    }
-}
-
 ortakit::UserReport Dlg_QT_ExportInfo::report() const
 {
-    return {.name = m_ui->lineEdit->text(),
-            .email = m_ui->lineEdit_2->text(),
-            .phone = m_ui->lineEdit_3->text(),
+    return {.name = ortakit::wholeText(*m_ui->lineEdit),
+            .email = ortakit::wholeText(*m_ui->lineEdit_2),
+            .phone = ortakit::wholeText(*m_ui->lineEdit_3),
             .issue = m_ui->textEdit_2->toPlainText(),
             .steps = m_ui->steps->toPlainText(),
             .system = m_ui->lstInfo->toPlainText()};
@@ -46,7 +36,7 @@ void Dlg_QT_ExportInfo::clickOK()
 {
     // Of a text with three dots in it the stored one is saved.
     for (QLineEdit *field : {m_ui->lineEdit, m_ui->lineEdit_2, m_ui->lineEdit_3})
-        ortakit::storeFullText(*field, field->text());
+        ortakit::storeFullText(*field, ortakit::wholeText(*field));
 
     const QByteArray text = ortakit::userReportText(report()).toUtf8();
     m_reportFile = ortakit::pickFileToSave(

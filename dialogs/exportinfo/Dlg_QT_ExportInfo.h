@@ -28,7 +28,6 @@ protected:
     void afterShow() override;
 
 private:
-    void showWholeFields();
     ortakit::UserReport report() const;
     void clickOK();
 

@@ -3,6 +3,7 @@
 #include "formats/AttributeTable.h"
 #include "formats/Windows1252.h"
 #include "state/FilePicker.h"
+#include "state/FullText.h"
 #include "state/LongWork.h"
 #include "state/PathChecks.h"
 #include "state/PathMessages.h"
@@ -210,8 +211,8 @@ void Dlg_QT_ImportBlockAttributes::replace()
         inform(tr("Select items of table for search."), windowTitle());
         return;
     }
-    const QString found = m_ui->txsearch->text();
-    const QString replacement = m_ui->txreplace->text();
+    const QString found = ortakit::wholeText(*m_ui->txsearch);
+    const QString replacement = ortakit::wholeText(*m_ui->txreplace);
     if (found.isEmpty())
         return; // which Qt would find between all characters
     ortakit::replaceTexts(this, selectedItems(), [&](const QString &text) {

@@ -8,6 +8,7 @@
 #include "platform/kernel/CKvUtils.h"
 #include "state/FilePicker.h"
 #include "state/FolderPicker.h"
+#include "state/FullText.h"
 #include "state/TableOrder.h"
 #include "state/TableRows.h"
 #include "ui_Dlg_QT_LispExplorer.h"
@@ -159,7 +160,7 @@ void Dlg_QT_LispExplorer::Loaddirectory()
 
 void Dlg_QT_LispExplorer::scanFolder()
 {
-    m_folder = m_ui->TxDirectory->text();
+    m_folder = ortakit::wholeText(*m_ui->TxDirectory);
     clearFunctions();
     {
         const QSignalBlocker noSignals(m_ui->List_files);
@@ -247,12 +248,12 @@ void Dlg_QT_LispExplorer::updateSearchControls()
 {
     const bool hasText = !m_ui->tx_EditLisp->document()->isEmpty();
     m_ui->txSearch->setEnabled(hasText);
-    m_ui->bt_Search->setEnabled(hasText && !m_ui->txSearch->text().isEmpty());
+    m_ui->bt_Search->setEnabled(hasText && !ortakit::wholeText(*m_ui->txSearch).isEmpty());
 }
 
 void Dlg_QT_LispExplorer::OnSearchClicked()
 {
-    const QString searched = m_ui->txSearch->text();
+    const QString searched = ortakit::wholeText(*m_ui->txSearch);
     if (m_ui->tx_EditLisp->find(searched))
         return;
     m_ui->tx_EditLisp->moveCursor(QTextCursor::Start);
@@ -265,7 +266,7 @@ void Dlg_QT_LispExplorer::LoadInKora()
     const QList<QListWidgetItem *> selected = m_ui->List_files->selectedItems();
     if (selected.size() != 1)
         return;
-    QString path = m_ui->TxDirectory->text() + u'/' + selected.front()->text();
+    QString path = ortakit::wholeText(*m_ui->TxDirectory) + u'/' + selected.front()->text();
     if (!path.endsWith(QLatin1String(".lsp"), Qt::CaseInsensitive))
         path += QLatin1String(".lsp");
     // The program may close the document, and this dialog with it.

@@ -1,6 +1,7 @@
 #include "dialogs/lispexplorer/Highlighter.h"
 
 #include "dialogs/lispexplorer/LispKeywords.h"
+#include "state/FullText.h"
 
 using ortakit::LispRun;
 using ortakit::LispStyle;
@@ -53,7 +54,7 @@ Highlighter::~Highlighter() = default;
 
 void Highlighter::highlightBlock(const QString &text)
 {
-    m_painter.setSearch(m_searchField ? m_searchField->text() : QString());
+    m_painter.setSearch(m_searchField ? ortakit::wholeText(*m_searchField) : QString());
     for (const LispRun &run : m_painter.paint(text))
         setFormat(run.start, run.length, m_formats[size_t(run.style)]);
 }

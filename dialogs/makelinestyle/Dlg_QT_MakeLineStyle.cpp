@@ -2,6 +2,7 @@
 
 #include "formats/LinetypeFile.h"
 #include "state/FilePicker.h"
+#include "state/FullText.h"
 #include "ui_Dlg_QT_MakeLineStyle.h"
 
 Dlg_QT_MakeLineStyle::Dlg_QT_MakeLineStyle(QWidget *parent)
@@ -57,7 +58,7 @@ void Dlg_QT_MakeLineStyle::CheckName()
     m_file->takeText();
     if (m_file->fullPath() != listed)
         refreshLinetypes();
-    if (acceptsDefinition(m_file->fullPath(), m_ui->name->text(),
+    if (acceptsDefinition(m_file->fullPath(), ortakit::wholeText(*m_ui->name),
                           {.title = tr("Make Linestyle"),
                            .noFile = tr("You must select a file. "),
                            .noName = tr("You must provide a name for the Linestyle. "),

@@ -27,9 +27,8 @@ Dlg_QT_MakeShape::Dlg_QT_MakeShape(QWidget *parent)
     m_ui->setupUi(this);
     setUpButtons();
     setUpDefinitions(m_ui->shapeFile, m_ui->lstShapes, tr("Number;Name"), 90);
+    ortakit::setNeverElided(*m_ui->shapeFile);
 
-    connect(m_ui->shapeFile, &QLineEdit::textEdited, this,
-            [this](const QString &path) { ortakit::storeFullText(*m_ui->shapeFile, path); });
     connect(m_ui->shapeFile, &QLineEdit::editingFinished, this, &Dlg_QT_MakeShape::refreshShapes);
     connect(m_ui->selectfile, &QPushButton::clicked, this, &Dlg_QT_MakeShape::SelectLinetypeFile);
     connect(m_ui->acceptButton, &QPushButton::clicked, this, &Dlg_QT_MakeShape::CheckName);
@@ -39,19 +38,8 @@ Dlg_QT_MakeShape::~Dlg_QT_MakeShape() = default;
 
 void Dlg_QT_MakeShape::afterShow()
 {
-    showWholePath();
     refreshShapes();
     (m_ui->shapeFile->text().isEmpty() ? static_cast<QWidget *>(m_ui->selectfile) : m_ui->name)->setFocus();
-}
-
-/// The state shortens a long path to the field's width. This field shows what will be used.
-void Dlg_QT_MakeShape::showWholePath()
-{
-    if (!ortakit::isElided(m_ui->shapeFile->text()))
-        return;
-    const QString whole = ortakit::storedFullText(*m_ui->shapeFile);
-    // A path with three dots in it is not stored.
-    m_ui->shapeFile->setText(whole.isEmpty() ? state().lookup(QStringLiteral("shapefile")) : whole);
 }
 
 void Dlg_QT_MakeShape::refreshShapes()
@@ -81,7 +69,7 @@ void Dlg_QT_MakeShape::CheckName()
     // A program may set the field and press the button without leaving it.
     if (m_ui->shapeFile->text() != m_listedFile)
         refreshShapes();
-    if (!acceptsDefinition(m_ui->shapeFile->text(), m_ui->name->text(),
+    if (!acceptsDefinition(m_ui->shapeFile->text(), ortakit::wholeText(*m_ui->name),
                            {.title = tr("Make Shape"),
                             .noFile = tr("You must select a file. "),
                             .noName = tr("You must provide a name for the shape. "),

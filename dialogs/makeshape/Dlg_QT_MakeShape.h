@@ -25,7 +25,6 @@ private:
     void SelectLinetypeFile();
     void CheckName();
     void refreshShapes();
-    void showWholePath();
 
     std::unique_ptr<Ui::Dlg_QT_MakeShape> m_ui;
     QString m_listedFile; ///< whose shapes the table shows

@@ -150,10 +150,7 @@ void Dlg_QT_MergeSheets::connectWidgets()
     connect(m_ui->numberEqual, &QCheckBox::toggled, this, &Dlg_QT_MergeSheets::refreshNames);
     connect(m_ui->toNew, &QRadioButton::toggled, this, &Dlg_QT_MergeSheets::refreshTarget);
     connect(m_ui->selectTarget, &QPushButton::clicked, this, &Dlg_QT_MergeSheets::selectTarget);
-    connect(m_favourites, &FavouritesBox::loaded, this, [this] {
-        ortakit::showWhole(*m_ui->prefix);
-        refreshTarget();
-    });
+    connect(m_favourites, &FavouritesBox::loaded, this, &Dlg_QT_MergeSheets::refreshTarget);
     connect(m_ui->acceptButton, &QPushButton::clicked, this, &Dlg_QT_MergeSheets::CloseAccept);
 }
 
@@ -170,7 +167,6 @@ void Dlg_QT_MergeSheets::afterShow()
 {
     m_favourites->refresh();
     m_target->setFullPath(m_target->fullPath());
-    ortakit::showWhole(*m_ui->prefix);
     m_ui->lstSheets->clearSelection();
     if (m_ui->lstSheets->rowCount() > 0)
         m_ui->lstSheets->selectRow(0);
@@ -209,10 +205,10 @@ void Dlg_QT_MergeSheets::selectAll()
     checkRows(rows, m_ui->selectAll->isChecked() ? Qt::Checked : Qt::Unchecked);
 }
 
-void Dlg_QT_MergeSheets::setPrefix(const QString &prefix)
+void Dlg_QT_MergeSheets::setPrefix()
 {
-    // A typed "..." is no shortened text: it is written as it is.
-    ortakit::storeFullText(*m_ui->prefix, prefix);
+    // Three dots in a prefix are no shortened text, also when the state gave it.
+    ortakit::storeFullText(*m_ui->prefix, ortakit::wholeText(*m_ui->prefix));
     refreshNames();
 }
 
@@ -222,7 +218,7 @@ void Dlg_QT_MergeSheets::refreshNames()
     QStringList sheets;
     for (const int row : checked)
         sheets.append(sheetAt(row));
-    m_names = ortakit::mergedSheetNames(sheets, m_ui->prefix->text(),
+    m_names = ortakit::mergedSheetNames(sheets, ortakit::wholeText(*m_ui->prefix),
                                         m_ui->numberEqual->isChecked() ? ortakit::EqualNames::Number
                                                                        : ortakit::EqualNames::Refuse);
     showNames(checked);
@@ -243,7 +239,7 @@ void Dlg_QT_MergeSheets::showNames(const QList<int> &checked)
 
 QString Dlg_QT_MergeSheets::message(qsizetype checkedCount) const
 {
-    if (!ortakit::canBeInName(m_ui->prefix->text()))
+    if (!ortakit::canBeInName(ortakit::wholeText(*m_ui->prefix)))
         return tr("A name cannot have any of < > / \\ \" : ; ? * | , = `");
     for (const ortakit::SheetName &name : m_names) {
         if (name.problem != SheetNameProblem::None)
@@ -286,7 +282,7 @@ bool Dlg_QT_MergeSheets::acceptsNames()
         m_ui->lstSheets->setFocus();
         return false;
     }
-    const bool isGoodPrefix = ortakit::canBeInName(m_ui->prefix->text());
+    const bool isGoodPrefix = ortakit::canBeInName(ortakit::wholeText(*m_ui->prefix));
     const auto bad = std::find_if(m_names.cbegin(), m_names.cend(), [](const ortakit::SheetName &name) {
         return name.problem != SheetNameProblem::None;
     });

@@ -46,7 +46,7 @@ private:
     void selectAll();
     void selectTarget();
     void CloseAccept();
-    void setPrefix(const QString &prefix);
+    void setPrefix();
     void refreshNames();
     void refreshTarget();
 

@@ -123,8 +123,6 @@ void Dlg_QT_RedefinePaths::beforeShow()
 
 void Dlg_QT_RedefinePaths::afterShow()
 {
-    for (QLineEdit *field : {m_ui->filter, m_ui->txsearch, m_ui->txreplace})
-        ortakit::showWhole(*field);
     if (!std::exchange(m_hasCheckedModes, true))
         checkModes();
     m_isShowing = false;
@@ -169,7 +167,7 @@ void Dlg_QT_RedefinePaths::fillTable()
 /// False when the user did not want to wait for it.
 bool Dlg_QT_RedefinePaths::findShown(QList<const ortakit::ReferenceEntry *> &shown)
 {
-    ortakit::NameFilter filter(m_ui->filter->text());
+    ortakit::NameFilter filter(ortakit::wholeText(*m_ui->filter));
     LongWork work(this, tr("Filtering..."), m_references.size());
     for (const Reference &reference : std::as_const(m_references)) {
         if (!work.goesOn())
@@ -207,8 +205,8 @@ void Dlg_QT_RedefinePaths::replace()
         inform(tr("Select the rows of table for search."), tr("Redefine Paths"));
         return;
     }
-    const QString found = m_ui->txsearch->text();
-    const QString replacement = m_ui->txreplace->text();
+    const QString found = ortakit::wholeText(*m_ui->txsearch);
+    const QString replacement = ortakit::wholeText(*m_ui->txreplace);
     ortakit::replaceTexts(this, ortakit::itemsInColumn(*m_ui->lstFiles, rows, PathColumn),
                           [&](const QString &path) { return ortakit::redefinedPath(path, found, replacement); });
 }

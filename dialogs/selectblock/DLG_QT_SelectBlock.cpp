@@ -2,6 +2,7 @@
 
 #include "formats/NameFilter.h"
 #include "state/DrawingPicker.h"
+#include "state/FullText.h"
 #include "state/PathMessages.h"
 #include "state/ReturnKey.h"
 #include "state/TableRows.h"
@@ -133,7 +134,7 @@ void DLG_QT_SelectBlock::fillBlocks()
         return;
     const QString chosen = chosenName();
     const bool withAnonymous = m_ui->showAnonymous->isChecked();
-    ortakit::NameFilter filter(m_ui->filter->text(), Qt::CaseInsensitive);
+    ortakit::NameFilter filter(ortakit::wholeText(*m_ui->filter), Qt::CaseInsensitive);
     QList<const BlockEntry *> shown;
     qsizetype all = 0;
     for (const BlockEntry &entry : m_source.entries()) {
@@ -153,7 +154,7 @@ void DLG_QT_SelectBlock::fillBlocks()
         return new QTableWidgetItem(types[int(entry.kind)]);
     });
     showCount(shown.size(), all);
-    const bool isFound = shown.size() == 1 && !m_ui->filter->text().isEmpty();
+    const bool isFound = shown.size() == 1 && !ortakit::wholeText(*m_ui->filter).isEmpty();
     choose(isFound ? shown.first()->name : chosen);
     // A table without a selection, before and now, tells of no change.
     blockSelect();

@@ -106,8 +106,6 @@ void Dlg_QT_ShowLinks::afterShow()
         m_removed.clear();
     if (isStarting || isReturning())
         loadLinks();
-    ortakit::showWhole(*m_ui->txsearch);
-    ortakit::showWhole(*m_ui->txreplace);
     m_ui->linkfile->setText(linkFile());
     ortakit::storeFullText(*m_ui->linkfile, linkFile());
     SelectChanged();
@@ -205,8 +203,8 @@ void Dlg_QT_ShowLinks::replace()
         inform(tr("Select the rows of table for searching."), tr("Replace text"));
         return;
     }
-    const QString found = m_ui->txsearch->text();
-    const QString replacement = m_ui->txreplace->text();
+    const QString found = ortakit::wholeText(*m_ui->txsearch);
+    const QString replacement = ortakit::wholeText(*m_ui->txreplace);
     if (found.isEmpty())
         return; // which Qt would find between all characters
     ortakit::replaceTexts(this, ortakit::itemsInColumn(*m_ui->tableUrl, rows, ortakit::UrlField),

@@ -2,6 +2,7 @@
 
 #include "platform/kernel/CKvDocument.h"
 #include "state/DialogPicture.h"
+#include "state/FullText.h"
 #include "ui_Dlg_QT_TextMask.h"
 
 namespace {
@@ -65,7 +66,7 @@ void Dlg_QT_TextMask::updateDialog()
 
 void Dlg_QT_TextMask::checkValues()
 {
-    if (isDistance(m_ui->offset->text())) {
+    if (isDistance(ortakit::wholeText(*m_ui->offset))) {
         accept();
         return;
     }

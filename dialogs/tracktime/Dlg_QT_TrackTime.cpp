@@ -8,6 +8,7 @@
 #include "state/FavouritesBox.h"
 #include "state/FilePicker.h"
 #include "state/FolderPicker.h"
+#include "state/FullText.h"
 #include "state/LongWork.h"
 #include "state/PathChecks.h"
 #include "state/PathMessages.h"
@@ -235,7 +236,7 @@ bool Dlg_QT_TrackTime::readFolder()
 /// The drawings that the filter finds, in the order of the table.
 QList<int> Dlg_QT_TrackTime::shownDrawings() const
 {
-    ortakit::NameFilter filter(m_ui->filter->text());
+    ortakit::NameFilter filter(ortakit::wholeText(*m_ui->filter));
     QList<int> shown = sortedBy(m_sortColumn, m_sortOrder, m_drawings);
     shown.removeIf([&](int drawing) { return !filter.accepts(m_drawings[drawing].name); });
     return filter.isUsable() ? shown : QList<int>();

@@ -244,6 +244,23 @@ TEST_P(EveryDialog, ALaterCallSetsWhatItsFileNames)
     EXPECT_TRUE(lines.contains(expected.toByteArray())) << lines.join('\n').toStdString();
 }
 
+TEST_P(EveryDialog, WritesDotsThatWereTyped)
+{
+    dialog->state().load(host.path(u"state"_s));
+    for (QLineEdit *field : visible<QLineEdit>()) {
+        const QString name = field->objectName();
+        if (name.isEmpty() || name.startsWith(u"qt_"_s) || !field->isEnabled() || field->validator())
+            continue;
+        QTest::mouseClick(field, Qt::LeftButton);
+        field->selectAll();
+        QTest::keyClicks(field, u"a...b"_s);
+        QTest::keyClick(field, Qt::Key_Tab);
+        dialog->state().save();
+        const QByteArray written = FakeHost::readFile(host.path(u"state"_s));
+        EXPECT_TRUE(written.contains(name.toLower().toUtf8() + "=a...b\n")) << written.toStdString();
+    }
+}
+
 TEST_P(EveryDialog, KeepsItsWidgetsNamedOnce)
 {
     QSet<QString> names;

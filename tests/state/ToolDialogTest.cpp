@@ -6,6 +6,7 @@
 
 #include <QLineEdit>
 #include <QPushButton>
+#include <QTest>
 
 #include <gtest/gtest.h>
 
@@ -71,6 +72,49 @@ TEST(ToolDialog, AppliesTheStateWhenItIsFirstShownAndThenWhatTheReentrySays)
         EXPECT_EQ(tool.events.join(u' '), events) << file.toStdString();
         tool.name->setText(u"typed"_s);
         tool.hide();
+    }
+}
+
+// Typed dots are no shortened text, and a shortened text is whole where it is worked on.
+TEST(ToolDialog, TheStateFollowsWhatIsTyped)
+{
+    const QString large = u"word "_s.repeated(100) + u"end"_s;
+    const QString dots = u"... "_s.repeated(100) + u"end"_s;
+    struct Row
+    {
+        QString given, typed, whole, written;
+    };
+    const Row rows[] = {
+        {u"Old text"_s, u" ......"_s, u"Old text ......"_s, u"Old text ......"_s},
+        {u"Old text"_s, u"\u2026"_s, u"Old text\u2026"_s, u"Old text\u2026"_s},
+        {large, {}, large, large},
+        {large, u"!"_s, large + u'!', large + u'!'},
+        {dots, u"!"_s, dots + u'!', dots + u'!'},
+        {dots, {}, dots, u"first"_s}, // what is given with dots leaves the text of before
+    };
+    const FakeHost host;
+    for (const auto &[given, typed, whole, written] : rows) {
+        SampleTool tool;
+        tool.state().load(host.writeFile(u"state"_s, "name=first\n"));
+        tool.show();
+        tool.hide();
+        tool.state().load(host.writeFile(u"state"_s, "name=" + given.toUtf8() + '\n'));
+        tool.show();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&tool));
+        for (int visit = 0; visit < 2; ++visit) {
+            tool.name->setFocus();
+            EXPECT_EQ(tool.name->text(), visit == 0 ? given : whole);
+            tool.name->end(false);
+            if (visit == 0 && !typed.isEmpty())
+                tool.name->insert(typed);
+            tool.cancel->setFocus();
+            EXPECT_LE(tool.name->fontMetrics().horizontalAdvance(tool.name->text()), tool.name->width());
+        }
+        tool.name->resize(4000, 20);
+        EXPECT_EQ(tool.name->text(), whole) << "in a larger field";
+        tool.state().save();
+        EXPECT_EQ(FakeHost::readFile(tool.state().filePath()),
+                  "\xEF\xBB\xBFname=" + written.toUtf8() + "\n!action!=\n");
     }
 }
 
