@@ -65,9 +65,12 @@ QString pickDrawing(QWidget *parent, const DrawingPickerOptions &options)
     const auto orElse = [](const QString &text, const char *standard) {
         return text.isEmpty() ? QCoreApplication::translate("LispExtension", standard) : text;
     };
+    QString filter = orElse(options.filter, QT_TRANSLATE_NOOP("LispExtension", "Drawing files (*.dwg)"));
+    if (!filter.contains(QLatin1String("*.dxf")))
+        filter +=
+            QStringLiteral(";;") + orElse({}, QT_TRANSLATE_NOOP("LispExtension", "Drawing exchange files (*.dxf)"));
     QFileDialog dialog(parent, orElse(options.title, QT_TRANSLATE_NOOP("LispExtension", "Specify a drawing")),
-                       pickerStart(options.start),
-                       orElse(options.filter, QT_TRANSLATE_NOOP("LispExtension", "Drawing files (*.dwg)")));
+                       pickerStart(options.start), filter);
     dialog.setObjectName(QStringLiteral("drawingDialog"));
     dialog.setFileMode(QFileDialog::ExistingFile);
     if (dialog.exec() != QDialog::Accepted)

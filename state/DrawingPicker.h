@@ -20,7 +20,7 @@ enum class CircularReferences
 struct DrawingPickerOptions
 {
     QString title = {};  ///< "Specify a drawing"
-    QString filter = {}; ///< "Drawing files (*.dwg)"
+    QString filter = {}; ///< "Drawing files (*.dwg)", and in any case one for DXF files if it has none
     /// A folder, or a file in one, whose name is then proposed; the host's default folder when there is no such folder.
     QString start = {};
     CircularReferences circularReferences = CircularReferences::Refuse;

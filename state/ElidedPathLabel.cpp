@@ -32,6 +32,11 @@ QString ElidedPathLabel::fullPath() const
     return ortakit::storedFullText(*m_label);
 }
 
+QString ElidedPathLabel::name() const
+{
+    return m_label->objectName();
+}
+
 bool ElidedPathLabel::eventFilter(QObject *watched, QEvent *event)
 {
     if (event->type() == QEvent::Resize && m_label->text() == m_shown)

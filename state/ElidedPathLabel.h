@@ -22,6 +22,8 @@ public:
     void takeText();
     /// The path as of the last setFullPath() or takeText().
     QString fullPath() const;
+    /// Object name of the label.
+    QString name() const;
 
     bool eventFilter(QObject *watched, QEvent *event) override;
 

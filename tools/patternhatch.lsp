@@ -44,6 +44,7 @@
 
 ;; Carries out what the dialog was closed with. -> the mode to open it in again, nil when that is not to be.
 (defun patternhatch:do (state action / word)
+  (patternhatch:take_sources state)
   (setq word (car (kora_string_split action "=")))
   (cond
     ((= word "OK") (if (patternhatch:draw state) nil "EDIT"))
@@ -56,6 +57,12 @@
     ((= action "GET_ROTATION") (patternhatch:get_rotation state) "EDIT")
     ((= action "GET_ENTITY") (patternhatch:get_entity state) "EXTRACTENTITY")
     (T (patternhatch:change_boundary action state) "BOUNDARIES")))
+
+;; The dialog writes the files or blocks that a favourite has brought.
+(defun patternhatch:take_sources (state)
+  (foreach source (patternhatch:last_sources state)
+    (if (/= (cdr source) "")
+      (patternhatch:set_source (car source) (cdr source)))))
 
 (defun patternhatch:set_source (label text)
   (setq sources (subst (cons label text) (assoc label sources) sources)))

@@ -79,6 +79,12 @@ void DLG_QT_PatternHatch::connectSource()
     connect(m_favourites, &FavouritesBox::loading, this, [this] { m_isApplying = true; });
     connect(m_favourites, &FavouritesBox::loaded, this, [this] {
         m_isApplying = false;
+        takeSources();
+        // The program has only heard of files that were chosen.
+        for (const Type &type : m_types) {
+            if (type.file)
+                state().setWrittenValue(type.file->name(), type.file->fullPath());
+        }
         changeTab();
     });
 }
@@ -135,6 +141,10 @@ void DLG_QT_PatternHatch::setIcons()
 void DLG_QT_PatternHatch::beforeShow()
 {
     m_isApplying = true;
+    for (const Type &type : m_types) {
+        if (type.file)
+            state().setWrittenValue(type.file->name(), {});
+    }
     // Bound before the state is applied, so that its lengths keep the digits that the drawing's units do not show.
     OdDbDatabase *database = ACTIVE_DOCUMENT() ? ACTIVE_DOCUMENT()->database() : nullptr;
     for (CKvQtUnitSpinBox *box : {m_ui->OffsetX, m_ui->OffsetY, m_ui->positionX, m_ui->positionY, m_ui->Rotation})
@@ -153,10 +163,7 @@ ToolDialog::Reentry DLG_QT_PatternHatch::reentry() const
 void DLG_QT_PatternHatch::afterShow()
 {
     m_isApplying = false;
-    for (const Type &type : m_types) {
-        if (type.file)
-            type.file->takeText();
-    }
+    takeSources();
     takeBoundaryCount();
     setIcons();
     changeTab();
@@ -179,6 +186,17 @@ void DLG_QT_PatternHatch::changeTab()
     showSource();
     refreshSizes();
     enableButtons();
+}
+
+void DLG_QT_PatternHatch::takeSources()
+{
+    for (const Type &type : m_types) {
+        if (!type.file)
+            continue;
+        type.file->takeText();
+        // Labels are not written by themselves.
+        state().setFavouriteValue(type.file->name(), type.file->fullPath());
+    }
 }
 
 const DLG_QT_PatternHatch::Type &DLG_QT_PatternHatch::currentType() const
@@ -208,13 +226,17 @@ QString DLG_QT_PatternHatch::limitsOfCutting() const
 void DLG_QT_PatternHatch::showSource()
 {
     const Type &type = currentType();
-    const auto source = ortakit::PatternSource::of(type.kind, type.file ? type.file->fullPath() : QString());
-    if (source == m_source)
+    auto source = ortakit::PatternSource::of(type.kind, type.file ? type.file->fullPath() : QString());
+    if (&type == &m_types[Block] && !source.path.isEmpty() && !source.changed.isValid())
+        source.kind = Kind::Block;
+    if (source == m_source && source.kind != Kind::Block)
         return; // reading a large drawing takes a while
     m_source = source;
     m_ownSize = ortakit::ownSize(source);
     if (source.kind == Kind::Image && source.changed.isValid())
         m_ui->PreviewBlock->setImage(ortakit::imagePicture(source.path, largestPreview));
+    else if (source.kind == Kind::Block)
+        m_ui->PreviewBlock->setBlock(source.path);
     else
         m_ui->PreviewBlock->setDrawing(source.path);
 }
@@ -334,6 +356,7 @@ void DLG_QT_PatternHatch::ReviewDialog()
 void DLG_QT_PatternHatch::takeFile(const Type &type, const QString &path)
 {
     type.file->setFullPath(path);
+    state().setFavouriteValue(type.file->name(), path);
     showSource();
     setOwnSize();
 }

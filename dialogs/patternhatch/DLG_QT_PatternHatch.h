@@ -27,7 +27,7 @@ class DLG_QT_PatternHatch;
 /// The Lisp program answers in the state's lines: the widgets' keys, and "qtentities", the number of entities that the
 /// boundary has now. 0 turns off what needs a boundary; without that key OK and the preview stay, for a program that
 /// keeps no count. The name of the chosen file comes under "lbtitleblock", "lbtitleimage" or "lbtitlexref", which are
-/// read only. "rotation" is in degrees.
+/// read, and written when a favourite gave them. That may be a block of the drawing as well. "rotation" is in degrees.
 class DLG_QT_PatternHatch final : public ToolDialog
 {
     Q_OBJECT
@@ -97,6 +97,7 @@ private:
 
     const Type &currentType() const;
     void takeFile(const Type &type, const QString &path);
+    void takeSources();
     void showSource();
     void refreshSizes();
     void setOwnSize();

@@ -14,7 +14,8 @@ struct PatternSource
     {
         None, ///< a mask has no file
         Drawing,
-        Image
+        Image,
+        Block ///< one of the active drawing: its name stands for the path
     };
 
     Kind kind = Kind::None;

@@ -1,5 +1,6 @@
 #include "dialogs/patternhatch/DLG_QT_PatternHatch.h"
 #include "platform/widgets/CKvQtUnitSpinBox.h"
+#include "state/DrawingPreview.h"
 #include "tests/dialogs/DialogTest.h"
 
 #include <QMenu>
@@ -240,18 +241,21 @@ TEST_F(PatternHatch, LongNamesAreShownShortAndKeptWhole)
     EXPECT_TRUE(writtenState().contains(u"\npatternname="_s + name + u'\n'));
 }
 
-TEST_F(PatternHatch, FavouritesKeepValuesAndLeaveFileAndBoundary)
+TEST_F(PatternHatch, FavouritesKeepValuesAndFileAndLeaveTheBoundary)
 {
     enter(u"NEW"_s, u"lbtitleblock=%1\naspectratio=TRUE\nwidth=6\nrotation=30\nqtentities=2\n"_s.arg(block));
     auto *box = find<QComboBox>("Cb_Favorits");
     saveFavourite("Cb_Favorits", "Btn_SaveFav", u"Door pattern"_s);
-    enter(u"NEW"_s, u"pattern_mask=TRUE\naspectratio=FALSE\nwidth=1\nheight=9\nrotation=0\n"_s);
+    enter(u"NEW"_s, u"pattern_mask=TRUE\nlbtitleblock=other.dwg\naspectratio=FALSE\nwidth=1\nheight=9\nrotation=0\n"_s);
     pickFavourite("Cb_Favorits", u"Door pattern"_s);
     EXPECT_TRUE(find("Pageblock")->isVisible());
     EXPECT_EQ(fullText("LbTitleblock"), block);
     EXPECT_EQ(shownSize(), QSizeF(6, 3));
     EXPECT_NEAR(value("Rotation"), M_PI / 6, 1e-6);
     EXPECT_TRUE(isEnabled("Btn_ShowBoundaries"));
+
+    click("Btn_ShowBoundaries");
+    EXPECT_TRUE(writtenState().contains(u"lbtitleblock=%1\n"_s.arg(block))) << "for the program, which chose another";
 
     // The name stays over the pickings, and goes when the dialog is something else now.
     enter(u"BOUNDARIES"_s, {});
@@ -264,6 +268,14 @@ TEST_F(PatternHatch, FavouritesKeepValuesAndLeaveFileAndBoundary)
     box->setEditText(u"being typed"_s);
     click("TypeObjectBlock");
     EXPECT_EQ(box->currentText(), u"being typed"_s);
+}
+
+TEST_F(PatternHatch, ABlockOfTheDrawingIsShownByItsName)
+{
+    for (const auto &[type, name] : {std::pair(u"pattern_block"_s, u"DOOR"_s), {u"pattern_xref"_s, QString()}}) {
+        enter(u"EXTRACTENTITY"_s, u"%1=TRUE\nlbtitleblock=DOOR\n"_s.arg(type));
+        EXPECT_EQ(find<DrawingPreview>("PreviewBlock")->block(), name);
+    }
 }
 
 TEST_F(PatternHatch, MaskPatternsComeFromAMenu)

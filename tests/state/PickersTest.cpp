@@ -68,8 +68,10 @@ TEST(DrawingPicker, GivesTheChosenDrawingUnlessItIsTheOneItIsFor)
                   {.title = u"Symbol"_s, .filter = u"Drawing files (*.dwg *.dxf)"_s, .start = host.path(u"noname"_s)}),
               drawing);
     const QString own = QDir(host.path({})).absolutePath();
-    EXPECT_EQ(user.shown(), (QStringList{u"choose \"Specify a drawing\" \"%1\" \"Drawing files (*.dwg)\""_s.arg(own),
-                                         u"choose \"Symbol\" \"%1\" \"Drawing files (*.dwg *.dxf)\""_s.arg(own)}));
+    EXPECT_EQ(user.shown(),
+              (QStringList{u"choose \"Specify a drawing\" \"%1\" \"Drawing files (*.dwg);;Drawing exchange files "
+                           "(*.dxf)\""_s.arg(own),
+                           u"choose \"Symbol\" \"%1\" \"Drawing files (*.dwg *.dxf)\""_s.arg(own)}));
 
     host.document().fakeDatabase().setFilename(drawing);
     user.choose(drawing);
