@@ -1,6 +1,5 @@
 #include "formats/AttributeTable.h"
 
-#include <QStringConverter>
 
 #include <algorithm>
 
@@ -39,11 +38,9 @@ qsizetype endOfField(QByteArrayView text, qsizetype begin)
 
 QString textOf(QByteArrayView field)
 {
-    // A byte-order mark within the text is a character like any other.
-    QStringDecoder decode(QStringDecoder::Utf8, QStringConverter::Flag::ConvertInitialBom);
     if (field.size() < 2 || field.front() != quote || endOfQuoted(field, 0) != field.size())
-        return decode(field);
-    return QString(decode(field.sliced(1, field.size() - 2))).replace(QLatin1String("\"\""), QLatin1String("\""));
+        return decoded(field);
+    return decoded(field.sliced(1, field.size() - 2)).replace(QLatin1String("\"\""), QLatin1String("\""));
 }
 
 /// How a string of the Lisp language has a character; null for one that stands for itself.

@@ -37,7 +37,7 @@ public:
     /// Goes to the next header; false when there is none left.
     bool next();
     /// A field of the header as it stands, the first one without its "*"; empty when the header has no such field.
-    QString field(qsizetype number) const { return QString::fromUtf8(fieldBytes(number)); }
+    QString field(qsizetype number) const { return decoded(fieldBytes(number)); }
     /// What was odd about the headers passed so far.
     const QList<HeaderDiagnostic> &diagnostics() const { return m_diagnostics; }
 

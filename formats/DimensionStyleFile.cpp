@@ -62,7 +62,7 @@ QByteArrayView field(QByteArrayView line, int index)
 
 QString text(QByteArrayView bytes)
 {
-    return QString::fromUtf8(bytes);
+    return decoded(bytes);
 }
 
 /// The name in a header; nothing when `line` is none.

@@ -67,7 +67,7 @@ QString functionName(QByteArrayView line)
             name.append(line[i]);
         i = behind < 0 ? i + 1 : behind;
     }
-    return QString::fromUtf8(name);
+    return decoded(name);
 }
 
 bool belongsToHeader(QByteArrayView line)
@@ -77,7 +77,7 @@ bool belongsToHeader(QByteArrayView line)
         return line.isEmpty();
     // What looks like a letter from here may be a blank of another alphabet.
     if (uchar(line[first]) >= 0x80)
-        return QString::fromUtf8(line).trimmed().startsWith(u';');
+        return decoded(line).trimmed().startsWith(u';');
     return line[first] == ';';
 }
 
@@ -112,7 +112,7 @@ struct PendingFunction
 
     LispFunctionEntry entryOf(QByteArrayView text) const
     {
-        return {functionName(defunLine), linesOf(text, header), QString::fromUtf8(defunLine), linesOf(text, body)};
+        return {functionName(defunLine), linesOf(text, header), decoded(defunLine), linesOf(text, body)};
     }
 };
 
@@ -161,7 +161,7 @@ QList<LispFunctionEntry> scanLispSource(QByteArrayView text)
 LispSourceReading readLispSource(const QString &path)
 {
     const TextReading file = readTextFile(path, largestLispSource);
-    return {file ? scanLispSource(file.text) : QList<LispFunctionEntry>(), file.error};
+    return {file ? scanLispSource(utf8OfLegacy(file.text)) : QList<LispFunctionEntry>(), file.error};
 }
 
 } // namespace ortakit

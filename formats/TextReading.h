@@ -26,8 +26,14 @@ TextReading readTextFile(const QString &path, qint64 largest = largestTextFile);
 /// `bytes` of a text file as UTF-8 without a byte-order mark.
 QByteArray withoutByteOrderMark(QByteArray bytes);
 
+/// UTF-8 decoded whole: U+FEFF at the beginning of a piece of text is a part of it.
+QString decoded(QByteArrayView text);
+
+/// `bytes` as UTF-8: what is no valid UTF-8 is taken as Windows-1252, as the Lisp engine takes a program's source.
+QByteArray utf8OfLegacy(QByteArray bytes);
+
 /// Goes through a text line by line without copying it. A line ends with "\n" or "\r\n", the last one also at the end
-/// of the text; an end behind the last line opens no further line.
+/// of the text and with "\r" there; an end behind the last line opens no further line.
 class LineReader
 {
 public:
@@ -38,7 +44,7 @@ public:
     bool next();
     /// The line without its end.
     QByteArrayView line() const { return m_line; }
-    QString string() const { return QString::fromUtf8(m_line); }
+    QString string() const { return decoded(m_line); }
     /// 1 for the first line.
     qsizetype number() const { return m_number; }
     /// Where the next line begins, counted in bytes from the beginning of the text.

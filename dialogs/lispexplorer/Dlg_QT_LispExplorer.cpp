@@ -168,8 +168,7 @@ void Dlg_QT_LispExplorer::scanFolder()
         if (!m_folder.isEmpty())
             m_ui->List_files->addItems(lispFiles(m_folder));
     }
-    // No row is selected now, so there is nothing to load.
-    m_ui->Bt_Load->setEnabled(false);
+    m_ui->Bt_Load->setEnabled(m_ui->List_files->count() > 0);
     updateSearchControls();
 }
 

@@ -138,6 +138,8 @@ TEST(LispSource, BadFilesAreReadOrRefusedQuickly)
         EXPECT_EQ(reading.error, QString()) << bytes.left(20).toStdString();
         EXPECT_EQ(reading.functions.size(), count) << bytes.left(20).toStdString();
     }
+    EXPECT_EQ(shown(readLispSource(folder.writeFile(u"old.lsp"_s, "(defun caf\xE9 () \"\x80\")")).functions.value(0)),
+              u"café [] (defun café () \"€\") []"_s);
     EXPECT_FALSE(readLispSource(folder.path(u"missing.lsp"_s)).error.isEmpty());
     QFile huge(folder.path(u"huge.lsp"_s));
     ASSERT_TRUE(huge.open(QIODevice::WriteOnly) && huge.resize(largestLispSource + 1));

@@ -25,6 +25,8 @@ TEST(TextReading, ReadsTheLinesOfWhatAnEditorOrProgramWrote)
         {"a byte-order mark", "\xEF\xBB\xBFx=1\nb=2\n", u"x=1|b=2|"_s},
         {"no line feed at the end", "a=1\nb=2", u"a=1|b=2|"_s},
         {"carriage returns", "a=1\r\nb=2\r\n", u"a=1|b=2|"_s},
+        {"a carriage return at the end", "a=1\nb=2\r", u"a=1|b=2|"_s},
+        {"byte-order marks within", "\xEF\xBB\xBF\xEF\xBB\xBFx=1\n\xEF\xBB\xBFy", u"\uFEFFx=1|\uFEFFy|"_s},
         {"empty lines are lines", "a=1\n\nb=2\n", u"a=1||b=2|"_s},
         {"UTF-16, low byte first", QByteArray("\xFF\xFEx\0=\0\xE4\0\n\0", 10), u"x=ä|"_s},
         {"UTF-16, high byte first", QByteArray("\xFE\xFF\0a\0=\0\xE4", 8), u"a=ä|"_s},
