@@ -2,7 +2,6 @@
 
 #include <QCoreApplication>
 #include <QSettings>
-#include <QUrl>
 
 namespace ortakit {
 
@@ -15,17 +14,24 @@ QString organisation()
     return name.isEmpty() ? QStringLiteral("Ortakit") : name;
 }
 
-/// The name as one group: in the settings a slash would open a group inside.
-QString groupName(QString name)
+/// A name with slashes is a group within groups, each of which may be a favourite as well. One of nothing else would be
+/// the tool's own group.
+QString groupName(const QString &name)
 {
-    return name.replace(u'%', QLatin1String("%25"))
-        .replace(u'/', QLatin1String("%2F"))
-        .replace(u'\\', QLatin1String("%5C"));
+    const bool isSlashes = name.count(u'/') == name.size();
+    return isSlashes ? QString(name).replace(u'/', u'\u2215') : name;
 }
 
-QString favouriteName(const QString &group)
+void addNames(QSettings &settings, const QString &outer, QStringList &names)
 {
-    return QUrl::fromPercentEncoding(group.toUtf8());
+    for (const QString &group : settings.childGroups()) {
+        const QString name = outer + group;
+        settings.beginGroup(group);
+        if (!settings.childKeys().isEmpty())
+            names.append(name);
+        addNames(settings, name + u'/', names);
+        settings.endGroup();
+    }
 }
 
 } // namespace
@@ -41,9 +47,8 @@ FavouriteStore::~FavouriteStore() = default;
 
 QStringList FavouriteStore::names() const
 {
-    QStringList names = m_settings->childGroups();
-    for (QString &name : names)
-        name = favouriteName(name);
+    QStringList names;
+    addNames(*m_settings, {}, names);
     return names;
 }
 
@@ -68,7 +73,10 @@ void FavouriteStore::save(const QString &name, const QList<Entry> &entries)
 
 void FavouriteStore::remove(const QString &name)
 {
-    m_settings->remove(groupName(name));
+    m_settings->beginGroup(groupName(name));
+    for (const QString &key : m_settings->childKeys())
+        m_settings->remove(key);
+    m_settings->endGroup();
 }
 
 } // namespace ortakit

@@ -86,6 +86,12 @@ TEST_F(Favourites, SaveWithTheQuestionsOfItsNames)
     QStringList names = store().names();
     names.sort();
     EXPECT_EQ(names, (QStringList{u"Door"_s, u"a/b\\c %2F"_s, u"dooR"_s}));
+    for (const QString &name : {u"a"_s, u"a/b"_s, u"/"_s}) {
+        store().save(name, {{u"tx_edit"_s, name}});
+        EXPECT_EQ(store().load(name).size(), 1) << name.toStdString();
+        store().remove(name);
+        EXPECT_EQ(store().names().size(), 3) << name.toStdString();
+    }
 }
 
 TEST_F(Favourites, PickingOneSetsTheWidgetsAndNothingOfEarlierStates)
