@@ -11,7 +11,10 @@
 
 #include <QKeyEvent>
 #include <QScopedValueRollback>
+#include <QStyledItemDelegate>
 #include <QTextDocument>
+
+#include <functional>
 
 namespace {
 
@@ -19,6 +22,25 @@ enum Column
 {
     CommandColumn,
     AliasColumn
+};
+
+/// Says which cell is about to be edited, by whatever way the user came there.
+class CellDelegate final : public QStyledItemDelegate
+{
+public:
+    CellDelegate(QObject *parent, std::function<void(const QModelIndex &)> onEdit)
+        : QStyledItemDelegate(parent), m_onEdit(std::move(onEdit))
+    {
+    }
+
+    QWidget *createEditor(QWidget *parent, const QStyleOptionViewItem &option, const QModelIndex &index) const override
+    {
+        m_onEdit(index);
+        return QStyledItemDelegate::createEditor(parent, option, index);
+    }
+
+private:
+    std::function<void(const QModelIndex &)> m_onEdit;
 };
 
 } // namespace
@@ -33,6 +55,9 @@ Dlg_QT_EditAlias::Dlg_QT_EditAlias(QWidget *parent)
     m_ui->lstAlias->setColumnWidth(AliasColumn, 100);
     m_ui->lstAlias->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
     m_ui->lstAlias->installEventFilter(this);
+    // A cell that is reached with the keyboard is as good as clicked: what is refused there gives it back its own text.
+    const auto remember = [this](const QModelIndex &cell) { aliasclick(cell.row(), cell.column()); };
+    m_ui->lstAlias->setItemDelegate(new CellDelegate(m_ui->lstAlias, remember));
     connectWidgets();
 }
 
@@ -73,6 +98,7 @@ void Dlg_QT_EditAlias::beforeShow()
     setIcons();
     const CKvSystemServices *services = GetKvSystemServices();
     setAliasFile((services ? services->userSupportFolder() : QString()) + QStringLiteral("alias.xml"));
+    m_hasExportFailed = false;
     const ortakit::AliasReading reading = ortakit::readAliasFile(m_aliasFile);
     fillTable(reading.aliases);
     if (!reading)
@@ -203,7 +229,8 @@ void Dlg_QT_EditAlias::exportAlias()
     if (chosen.isEmpty())
         return;
     setAliasFile(chosen);
-    if (writeTable())
+    m_hasExportFailed = !writeTable();
+    if (!m_hasExportFailed)
         inform(tr("The alias file has been exported."), windowTitle());
     else
         reportError(tr("The alias file could not be exported."));
@@ -272,18 +299,16 @@ void Dlg_QT_EditAlias::ClickHeaderTable(int column)
 
 void Dlg_QT_EditAlias::SelectChanged()
 {
-    // A cell that is reached with the keyboard is as good as clicked: what is refused there gives it back its own text.
-    const QItemSelection selection = m_ui->lstAlias->selectionModel()->selection();
-    const QModelIndex first = selection.isEmpty() ? QModelIndex() : QModelIndex(selection.first().topLeft());
-    if (selection.size() == 1 && first == selection.first().bottomRight())
-        aliasclick(first.row(), first.column());
+    // Tells of nothing that matters: a selection is no edit.
 }
 
 void Dlg_QT_EditAlias::CerrarDialogo()
 {
     if (!takesOpenEdit())
         return;
-    writeTable();
+    // The user's own file fails in silence; one that was chosen for an export has failed before.
+    if (!writeTable() && m_hasExportFailed)
+        reportError(tr("The alias file could not be saved."));
     accept();
 }
 

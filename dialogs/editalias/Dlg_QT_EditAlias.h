@@ -59,5 +59,6 @@ private:
     /// The table is changed by the dialog; nothing is checked.
     bool m_isFilling = false;
     /// Set when a change was refused.
+    bool m_hasExportFailed = false;
     bool m_wasRefused = false;
 };

@@ -247,6 +247,9 @@ TEST_F(EditAlias, AfterAnExportOkWritesTheExportedFile)
     EXPECT_EQ(shownFile() + rows(), aliasFile + u"LINE=L"_s);
     EXPECT_EQ(shownChoosing("btnExport", u"/dev/full"_s, {QMessageBox::Yes, QMessageBox::Ok}).last(),
               u"critical \"\" \"The alias file could not be exported.\" OK"_s);
+    EXPECT_EQ(shownBy("acceptButton", {QMessageBox::Ok}),
+              QStringList{u"critical \"\" \"The alias file could not be saved.\" OK"_s});
+    EXPECT_TRUE(isAccepted());
 }
 
 TEST_F(EditAlias, ImportingReplacesTheTableOrNothing)
