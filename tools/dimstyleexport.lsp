@@ -10,10 +10,19 @@
         file  (strcat (kora_module_folder) "/dimstyleexport.dim"))
   (if (and (dimstyleexport:write file)
            (kora_writestate state (list (cons "filedim" file))))
-    (Dlg_ExDimensionStyle state)
+    (if (Dlg_ExDimensionStyle state) (dimstyleexport:report (kora_readstate state)))
     (kora_alert_message (strcat "The dimension styles could not be written to " file ".")))
   (if (findfile file) (vl-file-delete file))
   (kora_end))
+
+;; Says what the dialog wrote, or that it could not.
+(defun dimstyleexport:report (state / count path)
+  (setq count (kora_state_value state "exportedstyles")
+        path  (kora_state_value state "exportfile"))
+  (kora_alert_message
+    (if (= count "")
+      (strcat "The dimension styles could not be written to " path ".")
+      (strcat count (if (= count "1") " dimension style was" " dimension styles were") " written to " path "."))))
 
 ;; Writes all dimension styles of the drawing. -> T, nil when the file cannot be written.
 (defun dimstyleexport:write (file / handle)

@@ -58,7 +58,9 @@ void Dlg_QT_ExchangedDimensionStyle::SelectExportFile()
     }
     if (!mayWrite(chosen, path))
         return;
-    writeStyles(path, selected);
+    state().setWrittenValue(QStringLiteral("exportfile"), path);
+    state().setWrittenValue(QStringLiteral("exportedstyles"),
+                            writeStyles(path, selected) ? QString::number(selected.size()) : QString());
     accept();
 }
 
@@ -70,12 +72,11 @@ bool Dlg_QT_ExchangedDimensionStyle::mayWrite(const QString &chosen, const QStri
                tr("Exchange Dimension Style"));
 }
 
-void Dlg_QT_ExchangedDimensionStyle::writeStyles(const QString &path, const QStringList &names) const
+bool Dlg_QT_ExchangedDimensionStyle::writeStyles(const QString &path, const QStringList &names) const
 {
     const bool isFull = m_ui->rbFullText->isChecked();
     const ortakit::StyleCopy copy = ortakit::copyStyles(
         m_sourceFile, names, isFull ? ortakit::TextStyleCopy::Full : ortakit::TextStyleCopy::NameOnly);
     // A source that is gone must not empty the user's file.
-    if (copy)
-        ortakit::replaceFile(path, copy.text);
+    return copy && ortakit::replaceFile(path, copy.text);
 }

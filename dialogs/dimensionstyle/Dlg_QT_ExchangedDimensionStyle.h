@@ -30,7 +30,8 @@ private:
     void styleSelect();
 
     bool mayWrite(const QString &chosen, const QString &path);
-    void writeStyles(const QString &path, const QStringList &names) const;
+    /// False when nothing was written.
+    bool writeStyles(const QString &path, const QStringList &names) const;
 
     std::unique_ptr<Ui::Dlg_QT_ExchangedDimensionStyle> m_ui;
     StyleTables *m_tables;

@@ -66,6 +66,8 @@ TEST_F(ExportDimensionStyle, WritesTheSelectedStylesInTheOrderOfTheSelection)
         shownChoosing("selectfile", host.path(chosen));
         EXPECT_TRUE(isAccepted()) << written.toStdString();
         EXPECT_EQ(FakeHost::readFile(host.path(written)), content) << written.toStdString();
+        EXPECT_EQ(missingInState({u"exportfile="_s + host.path(written), u"exportedstyles=%1"_s.arg(selected.size())}),
+                  QStringList());
     }
 }
 
@@ -104,6 +106,7 @@ TEST_F(ExportDimensionStyle, WhatIsThereIsReplacedOnlyByStylesAndWhenTheUserSays
     shownChoosing("selectfile", host.path(u"taken"_s), {QMessageBox::Yes});
     EXPECT_TRUE(QFileInfo(host.path(u"taken.dim"_s)).isDir());
     EXPECT_TRUE(isAccepted());
+    EXPECT_FALSE(savedState().contains(u"exportedstyles"_s));
 }
 
 TEST_F(ImportDimensionStyle, ShowsTheStylesOfTheChosenFileByTheirFirstWords)
