@@ -5,11 +5,14 @@
 #include "state/FullText.h"
 #include "ui_Dlg_QT_ExportInfo.h"
 
+#include <QFontDatabase>
+
 Dlg_QT_ExportInfo::Dlg_QT_ExportInfo(QWidget *parent)
     : ToolDialog(parent, QStringLiteral("exportInfo")), m_ui(std::make_unique<Ui::Dlg_QT_ExportInfo>())
 {
     m_ui->setupUi(this);
     setUpButtons();
+    m_ui->lstInfo->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont)); // it stands in columns
     connect(m_ui->acceptButton, &QPushButton::clicked, this, &Dlg_QT_ExportInfo::clickOK);
 }
 

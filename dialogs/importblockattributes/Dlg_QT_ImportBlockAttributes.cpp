@@ -11,6 +11,7 @@
 #include "state/TableReplacing.h"
 #include "state/TableRows.h"
 #include "state/TableSelection.h"
+#include "state/WholeTextItem.h"
 #include "ui_Dlg_QT_ImportBlockAttributes.h"
 
 #include <QFileInfo>
@@ -149,7 +150,7 @@ bool Dlg_QT_ImportBlockAttributes::readTable(const QString &path, Report report)
             return false;
         size_t cell = row * size_t(columnCount);
         for (const QString &field : reader.fields())
-            items[cell++] = std::make_unique<QTableWidgetItem>(field);
+            items[cell++] = std::make_unique<ortakit::WholeTextItem>(field);
     }
     showTable(reader.headers(), int(reader.rowCount()), std::move(items));
     m_ui->selectAll->setEnabled(true);
@@ -163,7 +164,8 @@ void Dlg_QT_ImportBlockAttributes::showTable(const QStringList &headers, int row
         QTableWidget &table = *m_ui->Attributes;
         table.setRowCount(0);
         table.setColumnCount(int(headers.size()));
-        table.setHorizontalHeaderLabels(headers);
+        for (int column = 0; column < int(headers.size()); ++column)
+            table.setHorizontalHeaderItem(column, new ortakit::WholeTextItem(headers[column]));
         m_sortColumn = -1;
         table.horizontalHeader()->setSortIndicator(m_sortColumn, Qt::AscendingOrder);
         m_itemCount = std::count_if(items.cbegin(), items.cend(), [](const auto &item) { return item != nullptr; });

@@ -69,7 +69,7 @@ TEST(DrawingPicker, GivesTheChosenDrawingUnlessItIsTheOneItIsFor)
               drawing);
     const QString own = QDir(host.path({})).absolutePath();
     EXPECT_EQ(user.shown(),
-              (QStringList{u"choose \"Specify a drawing\" \"%1\" \"Drawing files (*.dwg);;Drawing exchange files "
+              (QStringList{u"choose \"Specify a drawing\" \"%1\" \"Drawing files (*.dwg)|Drawing exchange files "
                            "(*.dxf)\""_s.arg(own),
                            u"choose \"Symbol\" \"%1\" \"Drawing files (*.dwg *.dxf)\""_s.arg(own)}));
 
