@@ -1,6 +1,5 @@
 #include "formats/AttributeTable.h"
 
-
 #include <algorithm>
 
 namespace ortakit {

@@ -1,7 +1,7 @@
 #include "dialogs/importblockattributes/Dlg_QT_ImportBlockAttributes.h"
 
 #include "formats/AttributeTable.h"
-#include "formats/Windows1252.h"
+#include "formats/TextReading.h"
 #include "state/FilePicker.h"
 #include "state/FullText.h"
 #include "state/LongWork.h"
@@ -132,7 +132,7 @@ void Dlg_QT_ImportBlockAttributes::takeFile(Report report)
 bool Dlg_QT_ImportBlockAttributes::readTable(const QString &path, Report report)
 {
     const ortakit::TextReading file = ortakit::readTextFile(path);
-    const QByteArray text = ortakit::utf8Of(file.text);
+    const QByteArray text = ortakit::utf8OfLegacy(file.text);
     ortakit::AttributeTableReader reader(text);
     const QString error = reader.isTooLarge() ? tr("The table is too large.") : file.error;
     if (!error.isEmpty()) {

@@ -1,6 +1,6 @@
 #include "formats/AttributeTable.h"
 
-#include "formats/Windows1252.h"
+#include "formats/TextReading.h"
 #include "tests/support/QtTestPrinters.h"
 
 #include <gtest/gtest.h>
@@ -86,8 +86,8 @@ TEST(AttributeTable, GoesToLispAsOneLine)
 
 TEST(AttributeTable, BytesThatAreNoUtf8AreWindows1252)
 {
-    EXPECT_EQ(utf8Of("T\xFCr \x80\x81\x9F"), u"Tür €\u0081Ÿ"_s.toUtf8());
-    EXPECT_EQ(utf8Of(u"Tür €"_s.toUtf8()), u"Tür €"_s.toUtf8());
+    EXPECT_EQ(utf8OfLegacy("T\xFCr \x80\x81\x9F"), u"Tür €\u0081Ÿ"_s.toUtf8());
+    EXPECT_EQ(utf8OfLegacy(u"Tür €"_s.toUtf8()), u"Tür €"_s.toUtf8());
 }
 
 } // namespace
