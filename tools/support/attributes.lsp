@@ -117,33 +117,30 @@
                     (mapcar 'entget (kora_block_entities block))))
 
 ;; (kora_sync_attributes insert nested) gives a reference the attributes that its block defines, as the block places them:
-;; the values stay by tag, what is new has its preset value, what the block does not define goes. A reference that gets
+;; the values stay by tag, of equal tags by their order, what is new has its preset value, what the block does not define goes. A reference that gets
 ;; other attributes has to be made anew. -> T; the name of the new entity, while the old one still is there (see
 ;; kora_take_places); nil when it cannot be made, as for one that is nested, within a block definition.
 (defun kora_sync_attributes (insert nested / data definitions attributes values)
   (setq data        (entget insert)
         definitions (kora_attribute_definitions (kora_field data 2))
-        attributes  (kora_attributes insert)
-        values      (mapcar '(lambda (attribute)
-                               (cons (kora_attribute_tag (entget attribute)) (kora_field (entget attribute) 1)))
-                            attributes))
+        definitions (kora:columns definitions definitions)
+        attributes  (kora_attribute_columns insert)
+        values      (mapcar '(lambda (column) (cons (car column) (kora_field (entget (cdr column)) 1))) attributes))
   (cond
-    ((equal (vl-sort (mapcar 'car values) '<) (vl-sort (mapcar 'kora_attribute_tag definitions) '<))
-     (foreach attribute attributes (kora:place_attribute attribute))
+    ((equal (vl-sort (mapcar 'car values) '<) (vl-sort (mapcar 'car definitions) '<))
+     (foreach column attributes (kora:place_attribute (cdr column) (cdr (assoc (car column) definitions))))
      T)
     ((not nested) (kora:insert_anew insert))))
 
 ;; Places an attribute of a reference as its definition says; its text stays.
-(defun kora:place_attribute (attribute / old new)
-  (setq old (entget attribute)
-        new (car (vl-member-if '(lambda (definition) (= (kora_attribute_tag definition) (kora_attribute_tag old)))
-                               definitions)))
-  (foreach field (kora:attribute_fields new data)
+(defun kora:place_attribute (attribute definition / old)
+  (setq old (entget attribute))
+  (foreach field (kora:attribute_fields definition data)
     (setq old (kora_with_field old (car field) (cdr field))))
   (entmod old))
 
 ;; Makes the reference again with the attributes of its block. -> its entity name, nil when it cannot be made.
-(defun kora:insert_anew (insert / xdata base)
+(defun kora:insert_anew (insert / xdata base definition)
   (setq base  (entget insert '("*"))
         base  (vl-remove-if '(lambda (field) (= (car field) 66)) (kora_copy_data base))
         xdata (assoc -3 base)
@@ -153,10 +150,11 @@
     (entmakex base)
     (progn
       (entmake base)
-      (foreach definition definitions
+      (foreach column definitions
+        (setq definition (cdr column))
         (entmake (append (list '(0 . "ATTRIB")) (kora:attribute_fields definition data)
                          (list (cons 2 (kora_field definition 2))
-                               (cons 1 (cond ((cdr (assoc (kora_attribute_tag definition) values)))
+                               (cons 1 (cond ((cdr (assoc (car column) values)))
                                              ((kora_field definition 1))
                                              (""))))
                          (if (assoc 410 data) (list (assoc 410 data)))
