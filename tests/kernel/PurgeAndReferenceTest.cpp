@@ -9,6 +9,8 @@ namespace {
 constexpr auto names = "(progn (setq l nil b (tblnext \"BLOCK\" T)) (while b (setq l (cons (cdr (assoc 2 b)) l) b "
                        "(tblnext \"BLOCK\"))) (reverse l))";
 
+constexpr auto emptyDrawing = "  0\nSECTION\n  2\nENTITIES\n  0\nENDSEC\n  0\nEOF\n";
+
 class PurgeAndReference : public Bench
 {
 protected:
@@ -87,14 +89,14 @@ TEST_F(PurgeAndReference, EachNameIsConfirmedWhenWanted)
 
 TEST_F(PurgeAndReference, ReferencesAreAttachedAndTheirPathsChanged)
 {
-    lisp("(setq file \"" + write("site.dwg", "not read").toStdString() + "\")");
+    lisp("(setq file \"" + write("site.dwg", emptyDrawing).toStdString() + "\")");
     lisp("(command \"_.-XREF\" \"_Attach\" file '(1.0 2.0 0.0) 2.0 3.0 90.0)");
     EXPECT_EQ(lisp("(list (= (cdr (assoc 1 (tblsearch \"BLOCK\" \"SITE\"))) file) (cdr (assoc 70 (tblsearch \"BLOCK\" "
                    "\"SITE\"))) (mapcar '(lambda (c) (cdr (assoc c (entget (entlast))))) '(2 10 41 42)))"),
               "(T 4 (\"site\" (1.0 2.0 0.0) 2.0 3.0))");
     lisp("(command \"_.-XREF\" \"_Path\" \"SI*\" \"d:/a b/site.dwg\")");
     EXPECT_EQ(lisp("(cdr (assoc 1 (tblsearch \"BLOCK\" \"site\")))"), "\"d:/a b/site.dwg\"");
-    lisp("(block \"A\" nil) (setq last (entlast) other \"" + write("A.dwg", "").toStdString() + "\")");
+    lisp("(block \"A\" nil) (setq last (entlast) other \"" + write("A.dwg", emptyDrawing).toStdString() + "\")");
     const struct
     {
         const char *call;
