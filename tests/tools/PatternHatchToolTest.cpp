@@ -318,12 +318,18 @@ TEST_F(PatternHatchTool, TakesEverythingFromTheDrawing)
 TEST_F(PatternHatchTool, FindsRoomsOfLinesThatTouch)
 {
     const QString line = u"(entmakex '((0 . \"LINE\") (8 . \"0\") (10 %1 0.0) (11 %2 0.0))) "_s;
-    // Walls that overshoot, a wall that ends in the room, a bay of an arc, a round and a cross that stand in it.
+    // Walls that overshoot, one of them in a block with a text, a wall that ends in the room, a bay of an arc, a round
+    // and a cross that stand in it.
     const QString walls =
         line.arg(u"99.0 100.0"_s, u"110.0 100.0"_s) + line.arg(u"100.0 98.0"_s, u"100.0 112.0"_s) +
-        line.arg(u"100.0 110.0"_s, u"110.0 110.0"_s) + line.arg(u"110.0 100.0"_s, u"110.0 103.0"_s) +
-        line.arg(u"110.0 107.0"_s, u"110.0 110.0"_s) + line.arg(u"105.0 110.0"_s, u"105.0 108.0"_s) +
-        line.arg(u"107.0 108.0"_s, u"109.0 108.0"_s) + line.arg(u"108.0 107.0"_s, u"108.0 109.0"_s) +
+        u"(entmake '((0 . \"BLOCK\") (2 . \"WALL\") (70 . 0) (10 0.0 0.0 0.0))) (entmake '((0 . \"TEXT\") (10 0.0 0.0 "
+        u"0.0) (40 . 1.0) "
+        "(1 . \"X\"))) "_s +
+        line.arg(u"0.0 0.0"_s, u"10.0 0.0"_s).replace(u"entmakex"_s, u"entmake"_s) +
+        u"(entmake '((0 . \"ENDBLK\"))) (entmakex '((0 . \"INSERT\") (2 . \"WALL\") (10 100.0 110.0 0.0))) "_s +
+        line.arg(u"110.0 100.0"_s, u"110.0 103.0"_s) + line.arg(u"110.0 107.0"_s, u"110.0 110.0"_s) +
+        line.arg(u"105.0 110.0"_s, u"105.0 108.0"_s) + line.arg(u"107.0 108.0"_s, u"109.0 108.0"_s) +
+        line.arg(u"108.0 107.0"_s, u"108.0 109.0"_s) +
         u"(entmakex (list '(0 . \"ARC\") '(8 . \"0\") '(10 110.0 105.0 0.0) '(40 . 2.0) (cons 50 (* -0.5 pi)) (cons "
         "51 (* 0.5 pi)))) (circle 103 103 1) (circle 103 103 0.5)"_s;
     plays(begun(u"(tile (list dash)) (progn "_s + walls + u" nil)"_s) +

@@ -22,11 +22,9 @@
       (kora:strips walls left (max 1e-9 (/ (- right left) (max 1 (min 200 (fix (sqrt (length walls)))))))
                    (+ 1e-7 (* 1e-9 (max (abs left) (abs right) (- right left))))))))
 
-(defun kora:all_pieces (data tolerance / strokes)
+(defun kora:all_pieces (data tolerance)
   (if (= (kora_field data 0) "INSERT")
-    (progn
-      (kora:add_reference data '(1.0 0.0 0.0 1.0 0.0 0.0) 0)
-      (apply 'append (mapcar 'cadr (vl-remove-if '(lambda (stroke) (atom (cadr stroke))) strokes))))
+    (kora_reference_pieces data tolerance)
     (kora:curve_pieces data tolerance)))
 
 ;; The parts of an arc between its leftmost, highest, rightmost and lowest points.

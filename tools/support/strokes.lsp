@@ -7,16 +7,22 @@
 ;; (kora_strokes name map tolerance) -> the strokes of a block as a map shows them, in which its base point is taken
 ;; off; UNCUTTABLE when there is something in it that is none: text, a picture, a tilted entity. Curves that are no
 ;; arcs, and those that the map makes such, are straight lines within the tolerance.
-(defun kora_strokes (name map tolerance / strokes failed)
+(defun kora_strokes (name map tolerance / strokes failed goes_on)
   (kora:add_block_strokes name map nil 0)
   (if failed 'UNCUTTABLE strokes))
+
+;; (kora_reference_pieces data tolerance) -> the pieces of all curves that a reference shows.
+(defun kora_reference_pieces (data tolerance / strokes failed goes_on)
+  (setq goes_on T)
+  (kora:add_reference data '(1.0 0.0 0.0 1.0 0.0 0.0) 0)
+  (apply 'append (mapcar 'cadr (vl-remove-if '(lambda (stroke) (atom (cadr stroke))) strokes))))
 
 (defun kora:add_block_strokes (name map outer depth / base data)
   (setq base (cond ((kora_field (tblsearch "BLOCK" name) 10)) ('(0.0 0.0)))
         map  (kora_map_times map (list 1.0 0.0 0.0 1.0 (- (car base)) (- (cadr base)))))
-  (if (> depth 20) (setq failed T))
+  (if (> depth 20) (setq failed T goes_on nil))
   (foreach entity (kora_block_entities name)
-    (if (not failed)
+    (if (or goes_on (not failed))
       (kora:add_stroke (kora:looked_through (entget entity) outer) map depth))))
 
 (defun kora:add_stroke (data map depth / type pieces polygons)
@@ -41,7 +47,8 @@
   (setq normal (kora_normal data)
         turn   (cond ((kora_field data 50)) (0.0))
         column 0)
-  (if (or (not (equal (abs (caddr normal)) 1.0 1e-9)) (kora:is_clipped data) (kora:shows_attributes data))
+  (if (or (not (equal (abs (caddr normal)) 1.0 1e-9)) (kora:is_clipped data)
+          (and (not goes_on) (kora:shows_attributes data)))
     (setq failed T)
     (repeat (max 1 (cond ((kora_field data 70)) (1)))
       (setq row 0)
