@@ -25,10 +25,7 @@
 ;; (kora_arrow_names) -> the names, in capitals, of the blocks that stand at the ends of dimension lines: the usual ones,
 ;; which are made when a dimension needs them, and those that dimension styles name.
 (defun kora_arrow_names (/ names)
-  (setq names (mapcar '(lambda (name) (strcat "_" name))
-                      '("CLOSEDFILLED" "CLOSEDBLANK" "CLOSED" "DOT" "ARCHTICK" "OBLIQUE" "OPEN" "ORIGIN" "ORIGIN2" "OPEN90"
-                        "OPEN30" "DOTSMALL" "DOTBLANK" "SMALL" "BOXBLANK" "BOXFILLED" "DATUMBLANK" "DATUMFILLED"
-                        "INTEGRAL" "NONE")))
+  (setq names (cons "_CLOSEDFILLED" (mapcar '(lambda (arrow) (strcase (car arrow))) kora:arrows)))
   (foreach style (kora_table_names "DIMSTYLE")
     (foreach field (entget (tblobjname "DIMSTYLE" style))
       (cond ((and (member (car field) '(5 6 7)) (/= (cdr field) "")) (setq names (cons (strcase (cdr field)) names)))
