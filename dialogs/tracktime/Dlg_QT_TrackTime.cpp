@@ -295,7 +295,7 @@ void Dlg_QT_TrackTime::showDrawing(int row)
     QTableWidgetItem &tracked = *m_ui->tblDrawings->item(row, int(TimeColumn::Tracked));
     if (!drawing.isReadable()) {
         tracked.setText(trackedText(drawing));
-        tracked.setToolTip(QStringLiteral("<p>%1</p>").arg(drawing.problem.toHtmlEscaped()));
+        tracked.setToolTip(drawing.problem);
         return;
     }
     const QString limit = time.idleLimitMinutes > 0 ? tr(", %1 min").arg(time.idleLimitMinutes) : QString();
