@@ -156,6 +156,25 @@ void Document::zoomTo(const drawing::Box &box)
     setView(view);
 }
 
+void Document::rememberView(const ViewState &view)
+{
+    constexpr std::size_t most = 10;
+    if (m_earlierViews.size() == most)
+        m_earlierViews.erase(m_earlierViews.begin());
+    m_earlierViews.push_back(view);
+}
+
+bool Document::showEarlierView()
+{
+    if (m_earlierViews.empty())
+        return false;
+    ViewState view = m_earlierViews.back();
+    m_earlierViews.pop_back();
+    view.pixels = m_view.pixels;
+    setView(view);
+    return true;
+}
+
 void Document::setHighlighted(std::vector<drawing::RecordId> entities)
 {
     m_highlighted = std::move(entities);

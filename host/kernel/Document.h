@@ -125,6 +125,10 @@ public:
     void setView(const ViewState &view);
     /// Shows a box of world coordinates with a margin; an empty box does nothing.
     void zoomTo(const drawing::Box &box);
+    /// Keeps a view for showEarlierView(), as one of the last ten.
+    void rememberView(const ViewState &view);
+    /// Shows the view that was remembered last, and forgets it. False when there is none.
+    bool showEarlierView();
     /// Entities shown highlighted; dead ones may be among them.
     const std::vector<drawing::RecordId> &highlighted() const { return m_highlighted; }
     void setHighlighted(std::vector<drawing::RecordId> entities);
@@ -217,6 +221,7 @@ private:
     QString m_lastCommand;
     int m_runs = 0;
     ViewState m_view;
+    std::vector<ViewState> m_earlierViews;
     std::vector<drawing::RecordId> m_highlighted;
     std::vector<drawing::RecordId> m_previousSelection;
     std::vector<drawing::RecordId> m_impliedSelection;

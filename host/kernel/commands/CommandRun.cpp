@@ -53,6 +53,8 @@ void CommandRun::askUser()
     PromptReply given = m_document.prompts().ask(request);
     m_context.m_isAnsweredAhead = !m_document.session().input().isEmpty();
     reply(std::move(given));
+    if (hasFailed())
+        m_document.prompts().dropTypedAhead();
 }
 
 void CommandRun::runToEnd()

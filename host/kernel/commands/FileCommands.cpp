@@ -3,6 +3,7 @@
 #include "host/kernel/SystemVariables.h"
 #include "host/kernel/commands/CommandContext.h"
 #include "host/kernel/commands/Commands.h"
+#include "host/kernel/commands/Dialogue.h"
 
 #include <QDir>
 #include <QFile>
@@ -54,18 +55,99 @@ CommandTask quickSave(CommandContext &context)
     tell(context, document.saveAs(path), path);
 }
 
-// File name; asks before an existing other file is replaced, unless EXPERT is 2 or more.
+/// The versions of the format, by the names that people give them.
+struct FormatName
+{
+    QLatin1StringView name;
+    drawing::Version version;
+};
+constexpr FormatName formatNames[] = {
+    {"2018"_L1, drawing::Version::R2018}, {"2013"_L1, drawing::Version::R2013}, {"2010"_L1, drawing::Version::R2010},
+    {"2007"_L1, drawing::Version::R2007}, {"2004"_L1, drawing::Version::R2004}, {"2000"_L1, drawing::Version::R2000},
+    {"R14"_L1, drawing::Version::R14},    {"R13"_L1, drawing::Version::R13},    {"R12"_L1, drawing::Version::R12},
+};
+
+QString formatOptions()
+{
+    QStringList names;
+    for (const FormatName &format : formatNames)
+        names.append(format.name);
+    return names.join(u' ');
+}
+
+/// Whether the drawing is written in that version. This program writes each drawing in its own; others are refused.
+bool isOwnVersion(CommandContext &context, const QString &wanted)
+{
+    const drawing::Version own = context.drawing().version();
+    const auto isOwn = [own](const FormatName &format) { return format.version == own; };
+    const auto *format = std::ranges::find_if(formatNames, isOwn);
+    const QString name = format == std::end(formatNames) ? u"another version"_s : QString(format->name);
+    if (wanted == name)
+        return true;
+    context.fail(
+        u"This drawing is of %1, and this program writes no drawing in another version: nothing was written."_s.arg(
+            name));
+    return false;
+}
+
+/// The questions that a DXF file is asked for by other programs: accuracy and version.
+Dialogue<bool> askDxfOptions(CommandContext &context)
+{
+    for (;;) {
+        const PromptReply reply =
+            co_await context.integer(u"Enter decimal places of accuracy (0 to 16) or [Objects/Binary/Version] <16>: "_s,
+                                     {}, u"16"_s, NoNegative);
+        if (reply.isKeyword(u"Version")) {
+            const PromptReply version =
+                co_await context.keyword(u"Enter version [%1]: "_s.arg(formatOptions().replace(u' ', u'/')));
+            if (version.hasValue() && !isOwnVersion(context, version.text))
+                co_return false;
+            continue;
+        }
+        if (reply.kind == ReplyKind::Keyword || (reply.hasValue() && reply.integer != 16)) {
+            context.fail(u"This program writes whole drawings as text with all decimal places: nothing was written."_s);
+            co_return false;
+        }
+        co_return true;
+    }
+}
+
+/// Asks for a version first when one was answered in place of a file's name; then for the name. Nothing when the
+/// drawing is not to be written.
+Dialogue<std::optional<QString>> askSavePath(CommandContext &context)
+{
+    const Document &document = context.document();
+    const QString usual = document.title();
+    const QString path = document.path();
+    PromptReply reply = co_await context.text(
+        u"Save drawing as, or enter file format [%1/DXF] <%2>: "_s.arg(formatOptions().replace(u' ', u'/'), usual),
+        path, formatOptions() + u" DXF"_s);
+    if (reply.kind == ReplyKind::Keyword) {
+        bool isWritten = true;
+        if (reply.text == u"DXF"_s)
+            isWritten = co_await askDxfOptions(context);
+        else
+            isWritten = isOwnVersion(context, reply.text);
+        if (!isWritten)
+            co_return std::nullopt;
+        reply = co_await context.text(u"Save drawing as <%1>: "_s.arg(usual), path);
+    }
+    const QString typed = reply.hasValue() ? reply.text.trimmed() : path;
+    if (typed.isEmpty())
+        co_return std::nullopt;
+    co_return drawingPath(typed);
+}
+
+// Version or file name; asks before an existing other file is replaced, unless EXPERT is 2 or more.
 CommandTask saveAs(CommandContext &context)
 {
     Document &document = context.document();
-    const PromptReply name = co_await context.text(u"Save drawing as <%1>: "_s.arg(document.title()), document.path());
-    const QString typed = name.hasValue() ? name.text.trimmed() : document.path();
-    if (typed.isEmpty())
+    const std::optional<QString> path = co_await askSavePath(context);
+    if (!path)
         co_return;
-    const QString path = drawingPath(typed);
-    if (replacesOther(document, path) && (co_await askToReplace(context, path)).text != u"Yes"_s)
+    if (replacesOther(document, *path) && (co_await askToReplace(context, *path)).text != u"Yes"_s)
         co_return;
-    tell(context, document.saveAs(path), path);
+    tell(context, document.saveAs(*path), *path);
 }
 
 /// The value that text means for a variable of the kind that `like` is; nothing when it does not.

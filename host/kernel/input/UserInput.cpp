@@ -24,6 +24,14 @@ PromptRequest requestFor(PromptKind kind, const OdString &prompt)
     return request;
 }
 
+PromptReply refusedReply()
+{
+    PromptReply reply;
+    reply.kind = ReplyKind::Cancelled;
+    reply.isRefused = true;
+    return reply;
+}
+
 } // namespace
 
 PromptReply UserInput::ask(const PromptRequest &request)
@@ -39,19 +47,17 @@ PromptReply UserInput::ask(const PromptRequest &request)
         if (std::optional<PromptReply> reply = dialogue.offer(answer))
             return *reply;
         if (dialogue.wasRefused() && request.endsWhenRefused && !m_document.session().input().isEmpty())
-            return refusedAheadOfTime();
+            return refusedReply();
     }
 }
 
-PromptReply UserInput::refusedAheadOfTime()
+void UserInput::dropTypedAhead()
 {
-    // What a script answers next was meant for another question.
-    m_document.session().input().clear();
+    InputQueue &queue = m_document.session().input();
+    if (queue.isEmpty())
+        return;
+    queue.clear();
     m_document.print(QStringLiteral("\nThe rest of what was typed ahead is left out.\n"));
-    PromptReply reply;
-    reply.kind = ReplyKind::Cancelled;
-    reply.isRefused = true;
-    return reply;
 }
 
 bool UserInput::isAnsweredSilently() const

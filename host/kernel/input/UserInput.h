@@ -21,6 +21,8 @@ public:
 
     /// Asks until the answer is acceptable. Cancelled when nobody is there.
     PromptReply ask(const PromptRequest &request);
+    /// Forgets what was typed ahead, because it was meant for other questions than those that come now.
+    void dropTypedAhead();
     /// The next answer for a request whose prompt was printed.
     InputAnswer nextAnswer(const PromptRequest &request);
     /// Answers for the next prompts, in place of those that are left of an earlier call; returns these.
@@ -60,9 +62,6 @@ private:
     void echo(const InputAnswer &answer);
     /// Whether a program has the next answer and wants nothing of it on the command line (CMDECHO 0).
     bool isAnsweredSilently() const;
-
-    /// The reply where an answer was refused and more was typed behind it.
-    PromptReply refusedAheadOfTime();
 
     std::optional<InputAnswer> takeGiven();
 
