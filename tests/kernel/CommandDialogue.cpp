@@ -66,6 +66,12 @@ const char *const helpers =
     "(defun layer (n) (setq n (entget (tblobjname \"LAYER\" n) '(\"*\"))) (append (mapcar '(lambda (c) (cdr (assoc c "
     "n)))"
     " '(70 62 6 370 290 420)) (cdadr (assoc -3 n))))"
+    "(defun entry (k n) (entmake (append (list (cons 0 k) '(100 . \"AcDbSymbolTableRecord\") (cons 100 (cdr (assoc k"
+    " '((\"LAYER\" . \"AcDbLayerTableRecord\") (\"LTYPE\" . \"AcDbLinetypeTableRecord\") (\"STYLE\" ."
+    " \"AcDbTextStyleTableRecord\") (\"DIMSTYLE\" . \"AcDbDimStyleTableRecord\") (\"APPID\" ."
+    " \"AcDbRegAppTableRecord\"))))) (cons 2 n) '(70 . 0)))))"
+    "(defun xref (n) (entmake (list '(0 . \"BLOCK\") (cons 2 n) '(70 . 4) '(10 0.0 0.0 0.0) '(1 . \"none.dxf\")))"
+    " (entmake '((0 . \"ENDBLK\"))))"
     "(defun layer-line (n) (entmake (list '(0 . \"LINE\") (cons 8 n) '(10 1.0 1.0 0.0) '(11 2.0 2.0 0.0))))";
 
 } // namespace

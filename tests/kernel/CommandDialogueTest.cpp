@@ -132,11 +132,77 @@ const DialogueCase layers[] = {
      "(tblsearch \"LAYER\" \"A/B\")"},
 };
 
+const char *const unusedTables =
+    "(foreach k '(\"LAYER\" \"LTYPE\" \"STYLE\" \"DIMSTYLE\" \"APPID\") (entry k \"Used\") (entry k \"Spare\"))"
+    "(regapp \"Used\")(entmake '((0 . \"TEXT\") (8 . \"Used\") (6 . \"Used\") (7 . \"Used\") (10 0.0 0.0 0.0) (40 . "
+    "1.0) (1 "
+    ". \"x\") (-3 (\"Used\" (1000 . \"x\")))))";
+const char *const spare =
+    "(mapcar '(lambda (k) (if (tblsearch k \"Spare\") T)) '(\"LAYER\" \"LTYPE\" \"STYLE\" \"DIMSTYLE\" "
+    "\"APPID\"))";
+const char *const used =
+    "(mapcar '(lambda (k) (if (tblsearch k \"Used\") T)) '(\"LAYER\" \"LTYPE\" \"STYLE\" \"APPID\"))";
+
+const DialogueCase purges[] = {
+    {"layers", unusedTables, "-PURGE|LA|*|N", "(nil T T T T)", "Deleting layer \"Spare\"", Esc::LeavesNothing, spare},
+    {"linetypes", unusedTables, "-PURGE|LT|*|N", "(T nil T T T)", "", Esc::LeavesNothing, spare},
+    {"text styles", unusedTables, "-PURGE|ST|*|N", "(T T nil T T)", "", Esc::LeavesNothing, spare},
+    {"dimension styles", unusedTables, "-PURGE|D|Spare|N", "(T T T nil T)", "", Esc::LeavesNothing, spare},
+    {"applications", unusedTables, "-PURGE|R|*|N", "(T T T T nil)", "", Esc::LeavesNothing, spare},
+    {"by name", unusedTables, "-PURGE|LA|X*|N", "(T T T T T)", "No unreferenced layers found", Esc::LeavesNothing,
+     spare},
+    {"not confirmed", unusedTables, "-PURGE|LA|Spare|Y|N", "(T T T T T)", "Purge layer", Esc::LeavesNothing, spare},
+    {"all of them", unusedTables, "-PURGE|A|*|N", "(nil nil nil nil nil)", "", Esc::LeavesNothing, spare},
+    {"what is used stays", unusedTables, "-PURGE|A|*|N", "(T T T T)", "", Esc::LeavesNothing, used},
+    {"lines without length", "(line 1 1 1 1)(line 0 0 1 0)", "-PURGE|Z", "LINE 10=0,0,0 11=1,0,0"},
+    {"not on locked layers", "(line 1 1 1 1)(lock \"0\")", "-PURGE|Z", "LINE 10=1,1,0 11=1,1,0",
+     "1 was on a locked layer"},
+    {"empty texts", "(entmake '((0 . \"TEXT\") (10 0.0 0.0 0.0) (40 . 1.0) (1 . \" \")))", "-PURGE|E", ""},
+    {"no such kind", "(line 1 1 1 1)", "-PURGE|Everything", "LINE 10=1,1,0 11=1,1,0", ""},
+    {"every other kind has its option", "", "-PURGE|DE|*|N", "", "No unreferenced detail view styles found"},
+    {"visual styles", "", "-PURGE|V|*|N", "", "No unreferenced visual styles found"},
+};
+
+const char *const site = "(xref \"Site\")(entmake '((0 . \"INSERT\") (2 . \"Site\") (10 1.0 2.0 0.0)))";
+const char *const siteFlags = "(mapcar '(lambda (c) (cdr (assoc c (tblsearch \"BLOCK\" \"Site\")))) '(70 1))";
+
+const DialogueCase references[] = {
+    {"listed", site, "-XREF|?|*", "(4 \"none.dxf\")", "\"Site\"  none.dxf  Attach", Esc::LeavesNothing, siteFlags},
+    {"detached", site, "-XREF|D|Site", "", "\"Site\" detached."},
+    {"detached but for a locked layer",
+     "(xref \"Site\")(entmake '((0 . \"INSERT\") (2 . \"Site\") (10 1.0 2.0 0.0)))(lock \"0\")", "-XREF|D|Site",
+     "INSERT 2=Site 10=1,2,0", "1 was on a locked layer"},
+    {"a path", site, "-XREF|P|S*|new.dxf", "(4 \"new.dxf\")", "", Esc::LeavesNothing, siteFlags},
+    {"a file that is not there", site, "-XREF|B|Site", "(4 \"none.dxf\")", "Cannot find file", Esc::LeavesNothing,
+     siteFlags},
+    {"nor is reloaded", site, "-XREF|R|Site", "(4 \"none.dxf\")", "Cannot find file", Esc::LeavesNothing, siteFlags},
+};
+
+const DialogueCase views[] = {
+    {"an object", "(line 10 10 30 20)(line 0 0 1 1)", "ZOOM|O|20,15||", "(20.0 15.0 0.0)", "", Esc::LeavesNothing,
+     "(getvar \"VIEWCTR\")"},
+    {"a magnification round a centre", "(command \"ZOOM\" \"C\" '(0 0) 100)", "ZOOM|C|5,6|2X", "(50.0 (5.0 6.0 0.0))",
+     "", Esc::LeavesNothing,
+     "(progn (setq l (list (getvar \"VIEWSIZE\") (getvar \"VIEWCTR\"))) (command \"ZOOM\" \"P\") l)"},
+    {"the view before", "(command \"ZOOM\" \"C\" '(0 0) 100)", "ZOOM|C|5,6|7", "100.0", "", Esc::LeavesNothing,
+     "(progn (command \"ZOOM\" \"P\") (getvar \"VIEWSIZE\"))"},
+    {"a scale of the view", "(command \"ZOOM\" \"C\" '(0 0) 100)", "ZOOM|S|4X", "25.0", "", Esc::LeavesNothing,
+     "(progn (setq l (getvar \"VIEWSIZE\")) (command \"ZOOM\" \"P\") l)"},
+    {"no scale", "(command \"ZOOM\" \"C\" '(0 0) 100)", "ZOOM|S|big", "100.0", "Requires a scale factor",
+     Esc::LeavesNothing, "(getvar \"VIEWSIZE\")"},
+    {"another version", "", "SAVEAS|R12|x.dxf", "", "no drawing in another version"},
+    {"decimal places", "", "SAVEAS|DXF|8|x.dxf", "", "with all decimal places"},
+    {"another version of DXF", "", "SAVEAS|DXF|V|R12|16|x.dxf", "", "no drawing in another version"},
+};
+
 INSTANTIATE_TEST_SUITE_P(Circle, CommandDialogue, testing::ValuesIn(circles));
 INSTANTIATE_TEST_SUITE_P(Text, CommandDialogue, testing::ValuesIn(texts));
 INSTANTIATE_TEST_SUITE_P(Polyline, CommandDialogue, testing::ValuesIn(polylines));
 INSTANTIATE_TEST_SUITE_P(Edit, CommandDialogue, testing::ValuesIn(edits));
 INSTANTIATE_TEST_SUITE_P(Insert, CommandDialogue, testing::ValuesIn(inserts));
 INSTANTIATE_TEST_SUITE_P(Layer, CommandDialogue, testing::ValuesIn(layers));
+INSTANTIATE_TEST_SUITE_P(Purge, CommandDialogue, testing::ValuesIn(purges));
+INSTANTIATE_TEST_SUITE_P(Reference, CommandDialogue, testing::ValuesIn(references));
+INSTANTIATE_TEST_SUITE_P(View, CommandDialogue, testing::ValuesIn(views));
 
 } // namespace

@@ -1,15 +1,16 @@
 #include "host/drawing/Blocks.h"
+#include "host/drawing/CopyBetweenDrawings.h"
 #include "host/drawing/FileIndexer.h"
-#include "host/drawing/Journal.h"
+#include "host/drawing/UnusedNames.h"
 #include "host/drawing/Wildcard.h"
 #include "host/kernel/Document.h"
 #include "host/kernel/commands/CommandContext.h"
 #include "host/kernel/commands/Commands.h"
+#include "host/kernel/commands/EntityEdits.h"
+#include "host/kernel/commands/InsertPlacement.h"
 
 #include <QFile>
 #include <QFileInfo>
-
-#include <cmath>
 
 using namespace Qt::StringLiterals;
 
@@ -20,6 +21,8 @@ namespace {
 using drawing::RecordId;
 
 constexpr int externalFlag = 4;
+constexpr int overlayFlag = 8;
+constexpr int resolvedFlag = 32;
 
 void setPath(drawing::Drawing &drawing, RecordId block, const QString &path)
 {
@@ -40,7 +43,7 @@ bool isDrawing(const QString &path)
 
 /// The external reference to the file, made when the drawing has none of the file's name yet. noRecord, with the reason
 /// printed, when there can be none.
-RecordId referenceTo(CommandContext &context, const QString &typed)
+RecordId referenceTo(CommandContext &context, const QString &typed, int flags)
 {
     drawing::Blocks &blocks = context.drawing().blocks();
     const QString path = context.document().findFile(typed);
@@ -48,34 +51,22 @@ RecordId referenceTo(CommandContext &context, const QString &typed)
     const std::optional<drawing::Block> present = blocks.get(name);
     const QString own = context.document().path();
     if (path.isEmpty()) {
-        context.print(u"\nCannot find file \"%1\"."_s.arg(typed));
+        context.fail(u"Cannot find file \"%1\"."_s.arg(typed));
     } else if (!own.isEmpty() && QFileInfo(path) == QFileInfo(own)) {
-        context.print(u"\nThe drawing cannot refer to itself."_s);
+        context.fail(u"The drawing cannot refer to itself."_s);
     } else if (!isDrawing(path)) {
         context.print(u"\n\"%1\" is no drawing."_s.arg(path));
     } else if (present && present->isExternal()) {
         return present->record;
     } else if (present) {
-        context.print(u"\nThe name \"%1\" is a block's already."_s.arg(name));
-    } else if (const RecordId made = blocks.create(name, {}, externalFlag); isValid(made)) {
+        context.fail(u"The name \"%1\" is a block's already."_s.arg(name));
+    } else if (const RecordId made = blocks.create(name, {}, flags); isValid(made)) {
         setPath(context.drawing(), made, typed);
         return made;
     } else {
-        context.print(u"\nThe name \"%1\" cannot be used."_s.arg(name));
+        context.fail(u"The name \"%1\" cannot be used."_s.arg(name));
     }
     return drawing::noRecord;
-}
-
-void insertReference(CommandContext &context, RecordId block, const drawing::Vec3 &point, double xScale, double yScale,
-                     double turn)
-{
-    context.create({{0, u"INSERT"_s},
-                    {2, context.drawing().blocks().name(block)},
-                    {10, point},
-                    {41, xScale},
-                    {42, yScale},
-                    {43, xScale},
-                    {50, turn * 180.0 / M_PI}});
 }
 
 /// Gives each external reference that the pattern names this path.
@@ -93,40 +84,170 @@ void redefinePaths(CommandContext &context, const QString &names, const QString 
         context.print(u"\nNo matching references found."_s);
 }
 
-// Attach: file, insertion point, scales, rotation. Path: names and the new path. What the file holds is not shown.
+/// External references whose names match a list of patterns; a sentence when there are none.
+std::vector<drawing::Block> matchingReferences(CommandContext &context, const QString &names)
+{
+    std::vector<drawing::Block> found;
+    for (const RecordId id : context.drawing().blocks().all()) {
+        const drawing::Block block = context.drawing().blocks().read(id);
+        if (block.isExternal() && drawing::matchesWildcard(block.name, names.trimmed()))
+            found.push_back(block);
+    }
+    if (found.empty())
+        context.print(u"\nNo matching references found."_s);
+    return found;
+}
+
+void listReference(CommandContext &context, const drawing::Block &block)
+{
+    const QString type = (block.flags & overlayFlag) ? u"Overlay"_s : u"Attach"_s;
+    context.print(u"\n\"%1\"  %2  %3"_s.arg(block.name, block.externalPath, type));
+}
+
+void setFlags(CommandContext &context, const drawing::Block &block, int flags)
+{
+    drawing::FieldList fields = context.drawing().fields(block.record);
+    drawing::setField(fields, 70, qint64(flags));
+    context.drawing().setFields(block.record, fields);
+}
+
+/// Makes what the file holds the block, which is an ordinary one then.
+void bind(CommandContext &context, const drawing::Block &block)
+{
+    const QString path = context.document().findFile(block.externalPath);
+    if (path.isEmpty())
+        return context.fail(u"Cannot find file \"%1\" of reference \"%2\"."_s.arg(block.externalPath, block.name));
+    const drawing::ReadResult source = drawing::Drawing::open(path);
+    if (!source)
+        return context.fail(u"%1: %2"_s.arg(path, source.error.message()));
+    const drawing::CopyResult made = drawing::insertAsBlock(*source.drawing, context.drawing(), block.name);
+    if (!made)
+        return context.fail(made.error);
+    setPath(context.drawing(), made.record, {});
+    drawing::eraseDependents(context.drawing(), block.name);
+    context.print(u"\n\"%1\" is a block of this drawing now."_s.arg(block.name));
+    if (made.skipped > 0)
+        context.print(u" %1 of its records could not be taken over."_s.arg(made.skipped));
+}
+
+/// Takes the reference out with all its insertions; not while a block or a locked layer has one.
+void detach(CommandContext &context, const drawing::Block &block)
+{
+    drawing::Drawing &drawing = context.drawing();
+    std::vector<RecordId> inserts;
+    for (RecordId id = drawing.first(); isValid(id); id = drawing.next(id)) {
+        if (!drawing.isType(id, "INSERT") || drawing.tags(id).text(2).compare(block.name, Qt::CaseInsensitive) != 0)
+            continue;
+        const RecordId container = drawing.parent(id);
+        const bool isInBlock =
+            drawing.kind(container) == drawing::RecordKind::Block && !drawing.blocks().read(container).isLayout();
+        if (isInBlock)
+            return context.print(u"\n\"%1\" was not detached: block \"%2\" holds it."_s.arg(
+                block.name, drawing.blocks().name(container)));
+        inserts.push_back(id);
+    }
+    if (editable(context, inserts).size() != inserts.size())
+        return context.print(u"\n\"%1\" was not detached."_s.arg(block.name));
+    for (const RecordId insert : inserts)
+        drawing.setErased(insert, true);
+    drawing.blocks().erase(block.record);
+    drawing::eraseDependents(drawing, block.name);
+    context.print(u"\n\"%1\" detached."_s.arg(block.name));
+}
+
+void unload(CommandContext &context, const drawing::Block &block)
+{
+    setFlags(context, block, block.flags & ~resolvedFlag);
+    context.print(u"\n\"%1\" unloaded."_s.arg(block.name));
+}
+
+void reload(CommandContext &context, const drawing::Block &block)
+{
+    if (context.document().findFile(block.externalPath).isEmpty())
+        return context.print(u"\nCannot find file \"%1\" of reference \"%2\"."_s.arg(block.externalPath, block.name));
+    setFlags(context, block, block.flags | resolvedFlag);
+    context.print(u"\n\"%1\" reloaded."_s.arg(block.name));
+}
+
+/// An option that does something to the references named.
+struct NamesOption
+{
+    QStringView option;
+    const char *prompt;
+    const char *usual; ///< the names for an empty answer; null when there must be some
+    void (*apply)(CommandContext &context, const drawing::Block &block);
+};
+
+constexpr NamesOption namesOptions[] = {
+    {u"?", "Enter xref name(s) to list <*>: ", "*", listReference},
+    {u"Bind", "Enter xref name(s) to bind: ", nullptr, bind},
+    {u"Detach", "Enter xref name(s) to detach: ", nullptr, detach},
+    {u"Unload", "Enter xref name(s) to unload: ", nullptr, unload},
+    {u"Reload", "Enter xref name(s) to reload: ", nullptr, reload},
+};
+
+Dialogue<bool> changeNamed(CommandContext &context, const NamesOption &option)
+{
+    const PromptReply names = co_await context.text(QLatin1String(option.prompt), QLatin1String(option.usual));
+    if (!names.hasValue() && !option.usual)
+        co_return false;
+    for (const drawing::Block &block :
+         matchingReferences(context, names.hasValue() ? names.text : QString(QLatin1String(option.usual)))) {
+        option.apply(context, block);
+        if (context.hasFailed())
+            co_return false;
+    }
+    co_return true;
+}
+
+Dialogue<bool> changePaths(CommandContext &context)
+{
+    const PromptReply names = co_await context.text(u"Enter xref name(s) to edit path: "_s);
+    const PromptReply path = co_await context.text(u"Enter new path: "_s);
+    if (names.hasValue() && path.hasValue())
+        redefinePaths(context, names.text.trimmed(), path.text.trimmed());
+    co_return true;
+}
+
+Dialogue<bool> attach(CommandContext &context, int flags)
+{
+    const PromptReply file = co_await context.text(u"Enter name of file to attach: "_s);
+    const RecordId block = file.hasValue() ? referenceTo(context, file.text.trimmed(), flags) : drawing::noRecord;
+    if (!isValid(block))
+        co_return false;
+    const InsertPlacement placement = co_await askPlacement(context);
+    if (context.hasFailed())
+        co_return false;
+    context.create(insertFields(context, context.drawing().blocks().name(block), placement));
+    context.print(u"\nAttached. This program does not show what the file holds."_s);
+    co_return true;
+}
+
+// References by their names, or Attach and Overlay: file, insertion point, scales, rotation. What the file holds is not
+// shown.
 CommandTask reference(CommandContext &context)
 {
-    const PromptReply option = co_await context.keyword(u"Enter an option [Attach/Path]: "_s, u"Attach Path"_s);
-    if (!option.hasValue())
-        co_return;
-    if (option.text == u"Path"_s) {
-        const PromptReply names = co_await context.text(u"Enter reference name(s) to edit path: "_s);
-        const PromptReply path = co_await context.text(u"Enter new path: "_s);
-        if (names.hasValue() && path.hasValue())
-            redefinePaths(context, names.text.trimmed(), path.text.trimmed());
-        co_return;
+    const PromptReply option = co_await context.keyword(
+        u"Enter an option [?/Bind/Detach/Path/Unload/Reload/Overlay/Attach] <Attach>: "_s, {}, u"Attach"_s);
+    const QString chosen = option.hasValue() ? option.text : u"Attach"_s;
+    for (const NamesOption &row : namesOptions) {
+        if (row.option == chosen) {
+            co_await changeNamed(context, row);
+            co_return;
+        }
     }
-    const PromptReply file = co_await context.text(u"Enter name of file to attach: "_s);
-    const RecordId block = file.hasValue() ? referenceTo(context, file.text.trimmed()) : drawing::noRecord;
-    if (!isValid(block))
-        co_return;
-    const PromptReply point = co_await context.point(u"Specify insertion point: "_s);
-    if (!point.hasValue())
-        co_return;
-    const PromptReply x = co_await context.real(u"Enter X scale factor <1>: "_s, {}, u"1"_s);
-    const PromptReply y = co_await context.real(u"Enter Y scale factor <use X scale factor>: "_s, {}, u"X"_s);
-    const PromptReply turn = co_await context.orientation(u"Specify rotation angle <0>: "_s, {}, point.point, u"0"_s);
-    const double xScale = x.hasValue() && x.real != 0.0 ? x.real : 1.0;
-    insertReference(context, block, point.point, xScale, y.hasValue() && y.real != 0.0 ? y.real : xScale,
-                    turn.hasValue() ? turn.real : 0.0);
-    context.print(u"\nAttached. This program does not show what the file holds."_s);
+    if (chosen == u"Path"_s)
+        co_await changePaths(context);
+    else
+        co_await attach(context, chosen == u"Overlay"_s ? externalFlag | overlayFlag : externalFlag);
 }
 
 } // namespace
 
 std::vector<CommandRow> referenceCommands()
 {
-    return {{"-XREF", reference, "Attaches drawing files as external references and changes their paths"}};
+    return {
+        {"-XREF", reference, "Attaches drawing files as external references, and changes, binds and detaches these"}};
 }
 
 } // namespace host::kernel
