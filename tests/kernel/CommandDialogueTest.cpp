@@ -179,7 +179,7 @@ const DialogueCase references[] = {
 };
 
 const DialogueCase views[] = {
-    {"an object", "(line 10 10 30 20)(line 0 0 1 1)", "ZOOM|O|20,15||", "(20.0 15.0 0.0)", "", Esc::LeavesNothing,
+    {"an object", "(line 10 10 30 20)(line 0 0 1 1)", "ZOOM|O|20,15|", "(20.0 15.0 0.0)", "", Esc::LeavesNothing,
      "(getvar \"VIEWCTR\")"},
     {"a magnification round a centre", "(command \"ZOOM\" \"C\" '(0 0) 100)", "ZOOM|C|5,6|2X", "(50.0 (5.0 6.0 0.0))",
      "", Esc::LeavesNothing,

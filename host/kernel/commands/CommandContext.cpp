@@ -151,8 +151,26 @@ CommandContext::Selection CommandContext::selection()
     return Selection(*this, false);
 }
 
+namespace {
+
+/// Whether all numbers are such as a file can hold.
+bool isFinite(const FieldList &fields)
+{
+    return std::ranges::all_of(fields, [](const drawing::Field &field) {
+        const Vec3 point = field.point();
+        return std::isfinite(field.real()) && std::isfinite(point.x) && std::isfinite(point.y) &&
+               std::isfinite(point.z);
+    });
+}
+
+} // namespace
+
 drawing::RecordId CommandContext::create(const FieldList &fields)
 {
+    if (!isFinite(fields)) {
+        fail(QStringLiteral("The numbers are too large."));
+        return drawing::noRecord;
+    }
     drawing::Entities &entities = drawing().entities();
     const drawing::CreateResult made =
         entities.create(withCurrentProperties(drawing(), fields), currentSpace(drawing()));

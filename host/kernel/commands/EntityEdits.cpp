@@ -23,6 +23,12 @@ std::vector<RecordId> editable(CommandContext &context, std::vector<RecordId> en
 
 void transformAll(CommandContext &context, const std::vector<RecordId> &entities, const Matrix &matrix)
 {
+    const Matrix &m = matrix;
+    const bool isPossible = std::ranges::all_of(std::array{m.xAxis, m.yAxis, m.zAxis, m.origin}, [](const auto &v) {
+        return std::isfinite(v.x) && std::isfinite(v.y) && std::isfinite(v.z);
+    });
+    if (!isPossible)
+        return context.fail(u"The numbers are too large."_s);
     int refused = 0;
     for (RecordId id : entities)
         refused += drawing::transformEntity(context.drawing(), id, matrix) ? 0 : 1;

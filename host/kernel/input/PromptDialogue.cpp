@@ -169,6 +169,8 @@ PromptDialogue::Reading PromptDialogue::readReal(const QString &text)
 
 PromptDialogue::Reading PromptDialogue::checkNumber(double value, PromptReply reply)
 {
+    if (!std::isfinite(value))
+        return refuse();
     if ((m_request.bits & NoZero) && value == 0.0)
         return {{}, QStringLiteral("Value must be nonzero.")};
     if ((m_request.bits & NoNegative) && value < 0.0)
