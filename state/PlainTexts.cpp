@@ -5,27 +5,15 @@
 #include <QAbstractItemView>
 #include <QHeaderView>
 #include <QHelpEvent>
-#include <QStyledItemDelegate>
 #include <QToolTip>
+
+#include <typeinfo>
 
 namespace ortakit {
 
 namespace {
 
 constexpr char markupProperty[] = "hasToolTipMarkup";
-
-class VisibleTextDelegate final : public QStyledItemDelegate
-{
-public:
-    using QStyledItemDelegate::QStyledItemDelegate;
-
-    QString displayText(const QVariant &value, const QLocale &locale) const override
-    {
-        if (value.userType() != QMetaType::QString)
-            return QStyledItemDelegate::displayText(value, locale);
-        return visibleText(value.toString());
-    }
-};
 
 /// Of the cell or the heading there.
 QString toolTipOfView(const QAbstractItemView &view, const QPoint &place)
@@ -73,6 +61,13 @@ public:
 
 } // namespace
 
+QString VisibleTextDelegate::displayText(const QVariant &value, const QLocale &locale) const
+{
+    if (value.userType() != QMetaType::QString)
+        return QStyledItemDelegate::displayText(value, locale);
+    return visibleText(value.toString());
+}
+
 void showPlainTexts(QWidget &window)
 {
     const QString name = QStringLiteral("plainToolTips");
@@ -84,9 +79,7 @@ void showPlainTexts(QWidget &window)
     for (QWidget *widget : window.findChildren<QWidget *>()) {
         widget->installEventFilter(toolTips);
         auto *view = qobject_cast<QAbstractItemView *>(widget);
-        if (view && view->itemDelegate() &&
-            view->itemDelegate()->metaObject() == &QStyledItemDelegate::staticMetaObject &&
-            !dynamic_cast<VisibleTextDelegate *>(view->itemDelegate()))
+        if (view && view->itemDelegate() && typeid(*view->itemDelegate()) == typeid(QStyledItemDelegate))
             view->setItemDelegate(new VisibleTextDelegate(view));
     }
 }

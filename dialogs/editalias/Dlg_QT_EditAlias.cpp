@@ -5,13 +5,13 @@
 #include "state/DocumentPrinting.h"
 #include "state/FilePicker.h"
 #include "state/ModuleFolder.h"
+#include "state/PlainTexts.h"
 #include "state/TableOrder.h"
 #include "state/TableRows.h"
 #include "ui_Dlg_QT_EditAlias.h"
 
 #include <QKeyEvent>
 #include <QScopedValueRollback>
-#include <QStyledItemDelegate>
 #include <QTextDocument>
 
 #include <functional>
@@ -25,18 +25,18 @@ enum Column
 };
 
 /// Says which cell is about to be edited, by whatever way the user came there.
-class CellDelegate final : public QStyledItemDelegate
+class CellDelegate final : public ortakit::VisibleTextDelegate
 {
 public:
     CellDelegate(QObject *parent, std::function<void(const QModelIndex &)> onEdit)
-        : QStyledItemDelegate(parent), m_onEdit(std::move(onEdit))
+        : VisibleTextDelegate(parent), m_onEdit(std::move(onEdit))
     {
     }
 
     QWidget *createEditor(QWidget *parent, const QStyleOptionViewItem &option, const QModelIndex &index) const override
     {
         m_onEdit(index);
-        return QStyledItemDelegate::createEditor(parent, option, index);
+        return VisibleTextDelegate::createEditor(parent, option, index);
     }
 
 private:

@@ -248,15 +248,22 @@ std::vector<NamedThing> unusedNames(const Drawing &drawing, NamedKind kind,
     return things;
 }
 
-void eraseNamed(Drawing &drawing, NamedKind kind, const NamedThing &thing)
+void eraseNamed(Drawing &drawing, NamedKind kind, const std::vector<NamedThing> &things)
 {
+    const JournalGroup group(drawing.journal(), {});
     const KindRule &rule = ruleOf(kind);
-    if (kind == NamedKind::Blocks)
-        drawing.blocks().erase(thing.record);
-    else if (rule.table)
-        drawing.setErased(thing.record, true);
-    else
-        drawing.dictionaries().remove(dictionaryOf(drawing, rule.dictionary), thing.name);
+    std::vector<RecordId> blocks;
+    for (const NamedThing &thing : things) {
+        if (kind == NamedKind::Blocks)
+            blocks.push_back(thing.record);
+        else if (rule.table)
+            drawing.setErased(thing.record, true);
+        else
+            drawing.dictionaries().remove(dictionaryOf(drawing, rule.dictionary), thing.name);
+    }
+    // All at once: what they own is looked for among all objects.
+    if (!blocks.empty())
+        drawing.blocks().erase(blocks);
 }
 
 void eraseDependents(Drawing &drawing, const QString &reference)
@@ -264,9 +271,9 @@ void eraseDependents(Drawing &drawing, const QString &reference)
     const JournalGroup group(drawing.journal(), {});
     const QString prefix = reference + u'|';
     const auto isDependent = [&](const QString &name) { return name.startsWith(prefix, Qt::CaseInsensitive); };
-    for (const RecordId block : drawing.blocks().all())
-        if (isDependent(drawing.blocks().name(block)))
-            drawing.blocks().erase(block);
+    std::vector<RecordId> blocks = drawing.blocks().all();
+    std::erase_if(blocks, [&](RecordId block) { return !isDependent(drawing.blocks().name(block)); });
+    drawing.blocks().erase(blocks);
     // A layer needs its linetype, a linetype its text style.
     for (const NamedKind kind :
          {NamedKind::Layers, NamedKind::DimStyles, NamedKind::Linetypes, NamedKind::TextStyles}) {

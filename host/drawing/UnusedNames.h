@@ -44,8 +44,8 @@ struct NamedThing
 /// over all records.
 std::vector<NamedThing> unusedNames(const Drawing &drawing, NamedKind kind,
                                     const std::function<bool(const QString &)> &isWanted);
-/// Takes it out of the drawing.
-void eraseNamed(Drawing &drawing, NamedKind kind, const NamedThing &thing);
+/// Takes them out of the drawing, blocks with what they own.
+void eraseNamed(Drawing &drawing, NamedKind kind, const std::vector<NamedThing> &things);
 
 /// Takes out the table entries that an external reference of this name has brought ("name|layer") and that nothing
 /// refers to by handle or name.

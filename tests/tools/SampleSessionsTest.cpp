@@ -90,7 +90,7 @@ TEST_F(SampleSessions, ChangeWhatTheySayAndNothingElse)
          u"Ortakit/multiviewsetup.state"_s, "titleblock=a3.dxf\n"},
         {u"numbertext"_s, u"3~TEXT"_s, u"Ortakit/numbertext.state"_s, "tx_step=5"},
         // The zigzag's block, whole copies and the pieces of others, and their group.
-        {u"patternhatch"_s, u"1+BLOCK 1+BLOCK_RECORD 1+ENDBLK 1+GROUP 36+INSERT 85+LINE 1~$HANDSEED 1~DICTIONARY"_s,
+        {u"patternhatch"_s, u"1+BLOCK 1+BLOCK_RECORD 1+ENDBLK 1+GROUP 15+INSERT 59+LINE 1~$HANDSEED 1~DICTIONARY"_s,
          u"Ortakit/patternhatch.state"_s, "typeobjectgroup=TRUE"},
         {u"redefinepaths"_s, u"1+BLOCK 1+BLOCK_RECORD 1+ENDBLK 1+INSERT 1+STYLE 1~$HANDSEED"_s,
          u"Ortakit/redefinepaths.state"_s, "txreplace=d:\\2026\n"},

@@ -275,8 +275,7 @@ TEST_F(TextTools, FramesHaveTheSizeOfTheirTextsOrOfTheLargest)
              u"answer Yes\nexpect-printed \"2 texts have frames already.\"\nlisp (setq es (cdr es))\n"_s + again +
              accept + u"answer No\nexpect-printed \"1 text has a frame already.\"\n"_s,
          u"(equal '(0 3 3) (mapcar '(lambda (type) (length (kora_selection_to_list (ssget \"_X\" (list (cons 0 type) "
-         u"'(-3 "
-         "(\"KORA_TEXTFRAME\")))))))) '(\"LWPOLYLINE\" \"CIRCLE\" \"HATCH\")))"_s},
+         u"'(-3 (\"KORA_TEXTFRAME\"))))))) '(\"LWPOLYLINE\" \"CIRCLE\" \"HATCH\")))"_s},
     };
     playsRows(u"TEXTFRAME"_s, u"Dlg_QT_TextFrame"_s, rows);
 }

@@ -46,7 +46,7 @@ Dialogue<bool> confirm(CommandContext &context, NamedKind kind, const NamedThing
 Dialogue<bool> purgeKind(CommandContext &context, NamedKind kind, Choice &choice)
 {
     const auto isWanted = [&](const QString &name) { return drawing::matchesWildcard(name, choice.pattern); };
-    bool isAny = false;
+    std::vector<NamedThing> doomed;
     for (const NamedThing &thing : drawing::unusedNames(context.drawing(), kind, isWanted)) {
         if (choice.staying.contains(thing.record))
             continue;
@@ -58,11 +58,12 @@ Dialogue<bool> purgeKind(CommandContext &context, NamedKind kind, Choice &choice
             continue;
         }
         context.print(u"\nDeleting %1 \"%2\"."_s.arg(drawing::kindName(kind).chopped(1), thing.name));
-        drawing::eraseNamed(context.drawing(), kind, thing);
-        isAny = true;
+        doomed.push_back(thing);
         ++choice.count;
     }
-    co_return isAny;
+    if (!doomed.empty())
+        drawing::eraseNamed(context.drawing(), kind, doomed);
+    co_return !doomed.empty();
 }
 
 Dialogue<Choice> askChoice(CommandContext &context)

@@ -162,6 +162,12 @@ EntityMaker::Outcome EntityMaker::finishBlock()
                                                    int(integerOf(pending.head, 70)));
     if (!isValid(block))
         return failed(u"BLOCK: the name \"%1\" cannot be used"_s.arg(textOf(pending.head, 2)));
+    if (const QString path = textOf(pending.head, 1); !path.isEmpty()) {
+        // The file of an external reference.
+        FieldList fields = drawing.fields(block);
+        drawing::setField(fields, 1, path);
+        drawing.setFields(block, fields);
+    }
     if (const QString error = fillBlock(block, pending); !error.isEmpty()) {
         if (isNew)
             eraseBlock(block);
