@@ -32,7 +32,7 @@ CopyResult copyEntities(const Drawing &source, const std::vector<RecordId> &enti
     DrawingCopier copier(source, target);
     for (const RecordId entity : entities)
         copier.copyEntity(entity, noRecord);
-    return {noRecord, copier.skipped(), {}};
+    return {noRecord, copier.skipped(), {}, {}, copier.converted()};
 }
 
 std::unique_ptr<Drawing> newDrawingLike(const Drawing &source)
@@ -74,7 +74,7 @@ CopyResult insertAsBlock(const Drawing &source, Drawing &target, const QString &
     for (const RecordId entity : source.entities().inSpace(Space::Model))
         copier.copyEntity(entity, block);
     setUnits(target, block, source.header().integer(u"$INSUNITS"));
-    return {block, copier.skipped(), {}};
+    return {block, copier.skipped(), {}, {}, copier.converted()};
 }
 
 CopyResult copyBlock(const Drawing &source, RecordId block, Drawing &target)
@@ -86,7 +86,7 @@ CopyResult copyBlock(const Drawing &source, RecordId block, Drawing &target)
     const RecordId copied = copier.copyBlock(block);
     if (!isValid(copied))
         return {noRecord, 0, u"\"%1\" cannot be the name of a block"_s.arg(source.blocks().name(block))};
-    return {copied, copier.skipped(), {}, copier.kept()};
+    return {copied, copier.skipped(), {}, copier.kept(), copier.converted()};
 }
 
 } // namespace host::drawing

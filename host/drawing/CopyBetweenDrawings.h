@@ -25,6 +25,8 @@ struct CopyResult
     /// Blocks that were needed and that the target has already, and layers, linetypes and styles for which it has
     /// others of the same name. Each once, in the order they were needed.
     std::vector<KeptName> kept{};
+    /// Entities that stand in the target as ones of types that its version has (see earlyForms()).
+    int converted = 0;
 
     explicit operator bool() const { return error.isEmpty(); }
 };

@@ -2,6 +2,7 @@
 
 #include "host/drawing/Blocks.h"
 #include "host/drawing/Dictionaries.h"
+#include "host/drawing/EarlyForms.h"
 #include "host/drawing/Entities.h"
 #include "host/drawing/NameClashes.h"
 #include "host/drawing/Structure.h"
@@ -323,6 +324,26 @@ RecordId DrawingCopier::copyBlock(RecordId block)
     return m_target.blocks().find(ensureBlock(m_source.blocks().name(block)));
 }
 
+/// What stands for an entity of a type that the target's version lacks; noRecord when nothing does, or nothing need.
+RecordId DrawingCopier::createEarlyForms(RecordId entity, const FieldList &fields, RecordId block, Space space)
+{
+    if (m_target.version() >= Version::R14)
+        return noRecord;
+    RecordId last = noRecord;
+    Entities &entities = m_target.entities();
+    for (const EarlyForm &form : earlyForms(m_source, entity, fields, m_target.version())) {
+        CreateResult made;
+        if (form.children.empty())
+            made = isValid(block) ? entities.createInBlock(block, form.head) : entities.create(form.head, space);
+        else
+            made = isValid(block) ? entities.createComplexInBlock(block, form.head, form.children)
+                                  : entities.createComplex(form.head, form.children, space);
+        last = made ? made.record : last;
+    }
+    m_converted += isValid(last) ? 1 : 0;
+    return last;
+}
+
 RecordId DrawingCopier::copyEntity(RecordId entity, RecordId block, Space space)
 {
     if (!m_source.isAlive(entity) || m_source.kind(entity) != RecordKind::Entity) {
@@ -331,6 +352,8 @@ RecordId DrawingCopier::copyEntity(RecordId entity, RecordId block, Space space)
     }
     copyClass(QString::fromLatin1(m_source.typeName(entity)));
     FieldList head = entityFields(entity);
+    if (const RecordId early = createEarlyForms(entity, head, block, space); isValid(early))
+        return early;
     std::vector<FieldList> children;
     for (const RecordId child : m_source.children(entity))
         children.push_back(entityFields(child));

@@ -53,11 +53,13 @@ public:
     void finish();
 
     int skipped() const { return m_skipped; }
+    int converted() const { return m_converted; }
     /// See CopyResult.
     const std::vector<KeptName> &kept() const { return m_kept; }
 
 private:
     FieldList translated(RecordId record);
+    RecordId createEarlyForms(RecordId entity, const FieldList &fields, RecordId block, Space space);
     FieldList entityFields(RecordId entity);
     void ensureReferences(FieldList &fields);
     Handle translatedHandle(Handle handle);
@@ -95,6 +97,7 @@ private:
     QSet<QString> m_classes; ///< types looked after
     int m_depth = 0;         ///< of nested blocks
     int m_skipped = 0;
+    int m_converted = 0;
 };
 
 } // namespace host::drawing

@@ -149,14 +149,40 @@ TEST(Copy, OneBlockWithAllItNeeds)
     EXPECT_FALSE(copyBlock(*source, source->entities().all().front(), *target));
 }
 
-TEST(Copy, WhatTheVersionLacksIsCounted)
+// Into a drawing of the oldest version: what comes of an entity as "TYPE vertices" and its box, which stays.
+TEST(Copy, WhatAnEarlyVersionLacksIsConvertedOrCounted)
 {
-    const auto source = newDrawing();
-    source->entities().create(fieldsOf("0 MTEXT|10 0,0,0|1 a"));
-    source->entities().create(fieldsOf("0 LINE|10 0,0,0|11 1,1,0"));
-    const auto target = sample("AC1009");
-    EXPECT_EQ(copyEntities(*source, source->entities().all(), *target).skipped, 1);
-    EXPECT_EQ(target->entities().all().size(), 1U);
+    const struct
+    {
+        const char *entity;
+        QString made; ///< empty: left out
+    } rows[] = {
+        {"0 LWPOLYLINE|90 3|70 1|38 2.5|10 0,0|40 0.1|41 0.2|42 1.0|10 4,0|10 4,3", u"POLYLINE 3"_s},
+        {"0 LWPOLYLINE|90 2|70 0|43 0.5|10 0,0|10 4,0|210 0,0,-1", u"POLYLINE 2"_s},
+        {"0 ELLIPSE|10 1,2,3|11 4,0,0|40 0.5|41 0.0|42 1.5707963267948966", u"POLYLINE 19"_s},
+        {"0 MTEXT|10 5,5,0|40 1.0|71 5|1 {\\fArial;one}\\Ptwo\\P\\P\\S1/2; \\\\x", u"TEXT 0 TEXT 0 TEXT 0"_s},
+        {"0 RAY|10 0,0,0|11 1,0,0", {}},
+    };
+    for (const auto &row : rows) {
+        SCOPED_TRACE(row.entity);
+        const auto source = newDrawing();
+        ASSERT_TRUE(source->entities().create(fieldsOf(row.entity)));
+        const auto target = sample("AC1009");
+        const CopyResult result = copyEntities(*source, source->entities().all(), *target);
+        EXPECT_EQ(result.converted, row.made.isEmpty() ? 0 : 1);
+        EXPECT_EQ(result.skipped, row.made.isEmpty() ? 1 : 0);
+        QStringList made;
+        for (const RecordId entity : target->entities().all())
+            made.append(
+                u"%1 %2"_s.arg(QString::fromLatin1(target->typeName(entity))).arg(target->children(entity).size()));
+        EXPECT_EQ(made.join(u' '), row.made);
+        if (row.made.startsWith(u"POLY")) {
+            const Box from = spaceBox(*source, source->entities().all());
+            const Box to = spaceBox(*target, target->entities().all());
+            EXPECT_LT((from.high - to.high).length() + (from.low - to.low).length(), 1e-6);
+        }
+        EXPECT_AUDIT_CLEAN(*target);
+    }
 }
 
 TEST(Copy, LongChainsOfBlocksEnd)

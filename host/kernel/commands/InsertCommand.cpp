@@ -38,7 +38,12 @@ QString readBlock(CommandContext &context, const QString &name, const QString &p
     const drawing::ReadResult source = drawing::Drawing::open(path);
     if (!source)
         return u"%1: %2"_s.arg(path, source.error.message());
-    return drawing::insertAsBlock(*source.drawing, context.drawing(), name).error;
+    const drawing::CopyResult made = drawing::insertAsBlock(*source.drawing, context.drawing(), name);
+    if (made.converted > 0)
+        context.print(u"\n%1 of its entities became ones that a drawing of this version has."_s.arg(made.converted));
+    if (made.skipped > 0)
+        context.print(u"\n%1 of its entities could not be taken over."_s.arg(made.skipped));
+    return made.error;
 }
 
 /// "name", "file" or "name=file", where a file makes or redefines the block; a star in front of it for its entities.
