@@ -14,7 +14,8 @@
 (setq breakline:application "ORTAKIT_BREAKLINE")
 
 (defun c:breakline (/ *error* kora:variables choice)
-  (kora_begin '(("CMDECHO" . 0)))
+  ;; A symbol's attributes have the texts that it gives them: nothing is asked for.
+  (kora_begin '(("CMDECHO" . 0) ("ATTREQ" . 0)))
   (if (setq choice (breakline:ask (kora_statefile "breakline")))
     (breakline:draw choice))
   (kora_end))
@@ -126,6 +127,7 @@
         box       (if (not (equal reference before)) (kora_block_box name)))
   (cond
     ((equal reference before)
+     (kora_take_back)
      (kora_refuse (strcat "The symbol could not be read from " (car choice) ".")))
     ((or (null box) (equal (car box) (cadr box) 1e-12))
      (kora_take_back)
@@ -144,7 +146,8 @@
 
 ;; The name of the block of a symbol: the one made from this content, else one that the drawing does not have yet.
 (defun breakline:block_name (base content / name number)
-  (setq base   (strcat "BREAKLINE_" base)
+  ;; Files may have names that a block cannot have.
+  (setq base   (strcat "BREAKLINE_" (vl-string-translate "<>/\\\":;?*|,=`" "_____________" base))
         name   base
         number 1)
   (while (and (tblsearch "BLOCK" name) (not (breakline:is_made_from name content)))

@@ -99,11 +99,16 @@
            (trans (mapcar '- (car box) (list margin margin 0.0)) 0 1)
            (trans (mapcar '+ (cadr box) (list margin margin 0.0)) 0 1)))
 
+;; Esc ends the run: what was changed in the dialog is given up.
 (defun showlinks:highlight (entities / answer)
   (foreach entity entities (redraw entity 3))
   (setq answer (vl-catch-all-apply 'getstring (list "\nPress Enter to return to the links: ")))
   (foreach entity entities (redraw entity 4))
-  (if (vl-catch-all-error-p answer) (exit)))
+  (if (vl-catch-all-error-p answer)
+    (progn
+      (vl-file-delete links)
+      (kora_alert_message "The links were left as they are.")
+      (exit))))
 
 ;; Takes what the dialog wrote into the drawing and tells how much that was.
 (defun showlinks:apply (links / changed removed locked fields data)

@@ -10,7 +10,7 @@
   (kora_writestate file '(("!action!" . "")))
   (command "ORTAKIT_TRACKTIME" file)
   (if (= "OK" (kora_action (kora_readstate file)))
-    (kora_alert_message "The editing times are up to date."))
+    (kora_alert_message "The editing times were written where drawings can have them."))
   (kora_end))
 
 (princ)

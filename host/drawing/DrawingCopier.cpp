@@ -358,6 +358,11 @@ RecordId DrawingCopier::copyEntity(RecordId entity, RecordId block, Space space)
     for (const RecordId child : m_source.children(entity))
         children.push_back(entityFields(child));
     Entities &entities = m_target.entities();
+    // Early drawings have no types but those that are known.
+    if (m_target.version() < Version::R13 && !Entities::canCreate(head.front().text())) {
+        ++m_skipped;
+        return noRecord;
+    }
     const bool isComplex = !children.empty() || isOf(head, {u"POLYLINE"});
     const bool hasUnknownLinks =
         !Entities::canCreate(head.front().text()) && std::any_of(head.begin(), head.end(), [](const Field &field) {

@@ -170,6 +170,12 @@ Path pathOf(const TagList &tags, QByteArrayView type)
 std::vector<EarlyForm> earlyForms(const Drawing &drawing, RecordId entity, const FieldList &fields, Version version)
 {
     const QByteArrayView type = drawing.typeName(entity);
+    if (type == "3DLINE") {
+        // The line of drawings before R11.
+        EarlyForm form{fields, {}};
+        form.head.front().value = u"LINE"_s;
+        return {form};
+    }
     if (type == "LWPOLYLINE" && version < Version::R14)
         return {polylineForm(fields)};
     if (version >= Version::R13)

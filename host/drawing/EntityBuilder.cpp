@@ -133,7 +133,9 @@ void EntityBuilder::check()
     }
     if (!m_rule && hasMarkers(m_drawing) && !has(m_fields, subclassCode))
         return fail(u"this type is not known, and its subclass markers (group 100) are missing"_s);
-    if (m_rule && m_drawing.version() < m_rule->since)
+    // What drawings of R12 have, those before have as well.
+    const Version version = std::max(m_drawing.version(), Version::R12);
+    if (m_rule && version < m_rule->since)
         return fail(u"a drawing of this version has no such entity"_s);
     checkValues();
     if (isGood())

@@ -7,6 +7,7 @@
 #include "host/drawing/Journal.h"
 #include "host/drawing/LayoutTabs.h"
 #include "host/drawing/Matrix.h"
+#include "host/drawing/RenameLayer.h"
 #include "host/drawing/Tables.h"
 #include "host/drawing/TransformEntity.h"
 
@@ -176,7 +177,10 @@ QString problemOf(const Drawing &source, const std::vector<MergedSheet> &sheets,
     if (target.version() < Version::R2000)
         return u"a drawing of this version has one sheet only"_s;
     for (const MergedSheet &sheet : sheets) {
-        if (!findLayout(source, sheet.layout))
+        const std::optional<LayoutTab> tab = findLayout(source, sheet.layout);
+        if (!isSymbolName(sheet.name, target.version()))
+            return u"\"%1\" cannot be the name of a sheet"_s.arg(sheet.name);
+        if (!tab || tab->isModel())
             return u"there is no sheet \"%1\""_s.arg(sheet.layout);
         if (findLayout(target, sheet.name))
             return u"there is a sheet \"%1\" already"_s.arg(sheet.name);

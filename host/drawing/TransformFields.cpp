@@ -75,6 +75,16 @@ bool transformRay(FieldList &fields, const Matrix &matrix)
     return true;
 }
 
+/// What is left out of its direction is the x axis.
+bool transformTolerance(FieldList &fields, const Matrix &matrix)
+{
+    const Vec3 usual{1.0, 0.0, 0.0};
+    const Vec3 turned = normalized(matrix.direction(usual));
+    if (!findField(fields, 11) && (turned - usual).length() > 1e-12)
+        setField(fields, 11, usual);
+    return transformRay(fields, matrix);
+}
+
 bool transformSpline(FieldList &fields, const Matrix &matrix)
 {
     mapPoints(fields, {10, 11}, [&](const Vec3 &p) { return matrix.point(p); });
@@ -302,7 +312,7 @@ constexpr std::pair<QStringView, FieldsFunction> functions[] = {
     {u"3DFACE", transformWorldPoints},
     {u"RAY", transformRay},
     {u"XLINE", transformRay},
-    {u"TOLERANCE", transformRay},
+    {u"TOLERANCE", transformTolerance},
     {u"SPLINE", transformSpline},
     {u"LEADER", transformLeader},
     {u"MLINE", transformMultiLine},

@@ -253,7 +253,9 @@ void eraseNamed(Drawing &drawing, NamedKind kind, const std::vector<NamedThing> 
     const JournalGroup group(drawing.journal(), {});
     const KindRule &rule = ruleOf(kind);
     std::vector<RecordId> blocks;
+    std::vector<RecordId> owners;
     for (const NamedThing &thing : things) {
+        owners.push_back(thing.record);
         if (kind == NamedKind::Blocks)
             blocks.push_back(thing.record);
         else if (rule.table)
@@ -262,8 +264,10 @@ void eraseNamed(Drawing &drawing, NamedKind kind, const std::vector<NamedThing> 
             drawing.dictionaries().remove(dictionaryOf(drawing, rule.dictionary), thing.name);
     }
     // All at once: what they own is looked for among all objects.
-    if (!blocks.empty())
+    if (kind == NamedKind::Blocks)
         drawing.blocks().erase(blocks);
+    else
+        drawing.dictionaries().eraseOwnedBy(owners);
 }
 
 void eraseDependents(Drawing &drawing, const QString &reference)

@@ -162,6 +162,7 @@ TEST(Copy, WhatAnEarlyVersionLacksIsConvertedOrCounted)
         {"0 ELLIPSE|10 1,2,3|11 4,0,0|40 0.5|41 0.0|42 1.5707963267948966", u"POLYLINE 19"_s},
         {"0 MTEXT|10 5,5,0|40 1.0|71 5|1 {\\fArial;one}\\Ptwo\\P\\P\\S1/2; \\\\x", u"TEXT 0 TEXT 0 TEXT 0"_s},
         {"0 RAY|10 0,0,0|11 1,0,0", {}},
+        {"0 MESH|100 AcDbEntity|8 0|100 AcDbSubDMesh|71 2", {}},
     };
     for (const auto &row : rows) {
         SCOPED_TRACE(row.entity);

@@ -128,6 +128,8 @@ TEST(SheetMerge, RefusesWhatHasNoPlace)
         {"AC1009", {u"Layout1"_s, u"Plan"_s}, u"a drawing of this version has one sheet only"_s},
         {"AC1032", {u"Nowhere"_s, u"Plan"_s}, u"there is no sheet \"Nowhere\""_s},
         {"AC1032", {u"layout1"_s, u"model"_s}, u"there is a sheet \"model\" already"_s},
+        {"AC1032", {u"Model"_s, u"Plan"_s}, u"there is no sheet \"Model\""_s},
+        {"AC1032", {u"Layout1"_s, u"a<b>"_s}, u"\"a<b>\" cannot be the name of a sheet"_s},
     };
     for (const auto &row : rows) {
         const auto target = row.version == "AC1009" ? sample(row.version) : newDrawing();

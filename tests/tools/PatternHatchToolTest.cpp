@@ -339,6 +339,20 @@ TEST_F(PatternHatchTool, FindsRoomsOfLinesThatTouch)
           "expect-lisp (is (total 'hidden \"WIPEOUT\") (+ 100 pi) 0.1)\n"_s);
 }
 
+TEST_F(PatternHatchTool, ACircleMayTouchAWallOfTheRoom)
+{
+    for (const char *centre : {"103 101.5", "101 101.5", "102 101", "102 102"}) {
+        QString walls = u"(circle %1 1) "_s.arg(QLatin1String(centre));
+        for (const char *ends : {"(10 100.0 100.0) (11 104.0 100.0)", "(10 104.0 100.0) (11 104.0 103.0)",
+                                 "(10 104.0 103.0) (11 100.0 103.0)", "(10 100.0 103.0) (11 100.0 100.0)"})
+            walls += u"(entmakex '((0 . \"LINE\") (8 . \"0\") %1)) "_s.arg(QLatin1String(ends));
+        plays(begun(u"(tile (list dash)) (progn "_s + walls + u" nil)"_s) +
+              u"click pattern_mask\nset patternName \"\"\nclick Btn_SelectPoints\npoint 100.1,100.1\nenter\n"
+              "dialog DLG_QT_PatternHatch\nexpect-enabled acceptButton yes\nclick acceptButton\n"
+              "expect-lisp (is (total 'hidden \"WIPEOUT\") (- 12 pi) 0.1)\n"_s);
+    }
+}
+
 TEST_F(PatternHatchTool, WhatIsCancelledLeavesTheDrawingAsItWas)
 {
     const QString dialog = u"dialog DLG_QT_PatternHatch\n"_s;

@@ -142,9 +142,12 @@
 (defun kora:turned_piece (piece) (list (cadr piece) (car piece) (- (caddr piece))))
 
 ;; (place point) of the next node behind a place of the wall.
-(defun kora:next_node (way place / found)
+;; What is nearer to the place than gap is the place.
+(defun kora:next_node (way place / from found)
+  (setq from (kora_piece_at (kora:piece_of (car way)) place))
   (foreach node (kora:nodes_of (car way))
-    (if (if (cadr way) (> (car node) (+ place 1e-9)) (< (car node) (- place 1e-9)))
+    (if (and (if (cadr way) (> (car node) (+ place 1e-9)) (< (car node) (- place 1e-9)))
+             (not (equal (cadr node) from gap)))
       (if (or (null found) (if (cadr way) (< (car node) (car found)) (> (car node) (car found))))
         (setq found node))))
   (cond (found)
@@ -152,7 +155,7 @@
         (T (list 0.0 (car (kora:piece_of (car way)))))))
 
 ;; The nodes of a wall, kept once they were looked for.
-(defun kora:nodes_of (wall / piece known found)
+(defun kora:nodes_of (wall / piece known point found)
   (setq piece (kora:piece_of wall))
   (cond
     ((setq known (assoc piece nodes)) (cdr known))
@@ -161,8 +164,10 @@
      (foreach other (kora:walls_at (list (car wall) (cadr wall)) (list (caddr wall) (cadddr wall)))
        (if (not (equal (kora:piece_of other) piece))
          (foreach place (kora:places_of piece (kora:piece_of other))
-           (if (not (vl-some '(lambda (node) (equal (car node) place 1e-9)) found))
-             (setq found (cons (list place (kora_piece_at piece place)) found))))))
+           (setq point (kora_piece_at piece place))
+           ;; A circle that touches the wall may give two points, as near to each other as numbers are exact.
+           (if (not (vl-some '(lambda (node) (equal (cadr node) point gap)) found))
+             (setq found (cons (list place point) found))))))
      (setq nodes (cons (cons piece found) nodes))
      found)))
 

@@ -5,6 +5,7 @@
 #include "host/drawing/Journal.h"
 #include "host/drawing/LayoutTabs.h"
 #include "host/drawing/NewDrawing.h"
+#include "host/drawing/RenameLayer.h"
 #include "host/drawing/Save.h"
 #include "host/drawing/SheetMerge.h"
 #include "host/drawing/Tables.h"
@@ -99,8 +100,14 @@ private:
     void rename(const std::vector<drawing::MergedSheet> &sheets)
     {
         const auto interim = [](std::size_t number) { return QStringLiteral("\x01%1").arg(number); };
-        for (std::size_t i = 0; i < sheets.size(); ++i)
-            drawing::renameSheet(m_target, sheets[i].layout, interim(i));
+        for (std::size_t i = 0; i < sheets.size(); ++i) {
+            if (!drawing::renameSheet(m_target, sheets[i].layout, interim(i)))
+                m_outcome.error = QStringLiteral("there is no sheet \"%1\"").arg(sheets[i].layout);
+            else if (!drawing::isSymbolName(sheets[i].name, m_target.version()))
+                m_outcome.error = QStringLiteral("\"%1\" cannot be the name of a sheet").arg(sheets[i].name);
+            if (!m_outcome.error.isEmpty())
+                return;
+        }
         for (std::size_t i = 0; i < sheets.size(); ++i) {
             if (!drawing::renameSheet(m_target, interim(i), sheets[i].name))
                 m_outcome.error = QStringLiteral("there is a sheet \"%1\" already").arg(sheets[i].name);
@@ -183,6 +190,17 @@ Value clashList(const MergeOutcome &outcome)
     return Value::list(clashes);
 }
 
+/// Whether a new drawing of this path would go over one that sheets come from.
+bool isSource(const Document &document, const std::vector<WantedSheet> &sheets, const QString &path)
+{
+    const QString target = QFileInfo(path).canonicalFilePath();
+    const auto isSame = [&](const QString &source) { return QFileInfo(source).canonicalFilePath() == target; };
+    return !target.isEmpty() &&
+           (isSame(document.path()) || std::any_of(sheets.begin(), sheets.end(), [&](const WantedSheet &wanted) {
+                return !wanted.file.isEmpty() && isSame(wanted.file);
+            }));
+}
+
 /// What a new drawing measures in: as the first of what it is made of.
 std::unique_ptr<Drawing> newTarget(const Drawing &own, const std::vector<WantedSheet> &sheets)
 {
@@ -229,6 +247,8 @@ Value mergeSheets(Arguments &args)
     const std::vector<WantedSheet> sheets = sheetsAt(args, 1);
     const auto clash = args.has(2) ? drawing::NameClash::Prefix : drawing::NameClash::Keep;
     const QString path = args.has(0) ? stringAt(args, 0) : QString();
+    if (isSource(documentOf(args), sheets, path))
+        return toLisp(QStringLiteral("%1 is one of the drawings that sheets come from").arg(path));
     // What fails half way must not leave half a drawing.
     const std::unique_ptr<Drawing> made =
         args.has(0) ? newTarget(own, sheets) : std::move(Drawing::fromBytes(own.toBytes()).drawing);
