@@ -85,6 +85,8 @@ TEST_F(BreakLineTool, NothingStaysOfWhatWasNotDrawnAndEachSymbolHasABlock)
     const QString other = run.path(u"other/zigzag.dxf"_s);
     const QString empty = run.writeFile(u"empty.dxf"_s, "0\nSECTION\n2\nENTITIES\n0\nENDSEC\n0\nEOF\n");
     ASSERT_TRUE(QFile::copy(ToolRun::sample(u"sheets/a3.dxf"_s), other));
+    const QString oddName = run.path(u"a=b,c.dxf"_s);
+    ASSERT_TRUE(QFile::copy(other, oddName));
     const QString blocks = u"lisp (setq blocks (vl-remove-if-not '(lambda (n) (wcmatch n \"BREAKLINE_*\")) "
                            "(kora_table_names \"BLOCK\")))\n"_s;
     const QString at = u"pick 8,1.5\npoint 8,1.5\nanswer Same\n"_s;
@@ -113,6 +115,9 @@ TEST_F(BreakLineTool, NothingStaysOfWhatWasNotDrawnAndEachSymbolHasABlock)
          "(and (= 2 (length blocks)) (equal '(\"BREAKLINE_zigzag\" \"BREAKLINE_zigzag_2\" \"BREAKLINE_zigzag\") "
          "(mapcar "
          "'(lambda (i) (kora_field (entget i) 2)) (kora_space_inserts))))"},
+        {"attributes, which are not asked for, in a file of a name that no block can have",
+         confirmed(u"2"_s, u"0"_s, at, oddName),
+         "(and (equal blocks '(\"BREAKLINE_a_b_c\")) (= 2 (length (kora_attributes (car (kora_space_inserts))))))"},
         {"in a tilted coordinate system",
          u"lisp (command \"_.UCS\" \"_X\" 90.0)\n"_s +
              confirmed(u"2"_s, u"0"_s, u"pickhandle 32\npoint 8,0,-1.5\nanswer Same\n"_s),
