@@ -1,8 +1,8 @@
 #include "formats/TextReading.h"
 
+#include "files/qt/Files.h"
+
 #include <QCoreApplication>
-#include <QFile>
-#include <QFileInfo>
 #include <QStringConverter>
 
 namespace ortakit {
@@ -46,19 +46,10 @@ TextReading readTextFile(const QString &path, qint64 largest)
 {
     if (path.isEmpty())
         return {{}, tr("No file name")};
-    QFile file(path);
-    // A pipe or a device would be read for ever; what does not exist gets the system's own words below.
-    if (QFileInfo info(path); info.exists() && !info.isFile())
-        return {{}, tr("Not a regular file")};
-    if (!file.open(QIODevice::ReadOnly))
-        return {{}, file.errorString()};
-    if (file.size() > largest)
-        return {{}, tr("The file is too large")};
-    // Not as much as is allowed: that much would be reserved before the first byte is read.
-    const QByteArray bytes = file.read(file.size());
-    if (file.error() != QFileDevice::NoError)
-        return {{}, file.errorString()};
-    return {withoutByteOrderMark(bytes), {}};
+    files::WholeBytes file = files::readWhole(path, largest);
+    if (!file)
+        return {{}, file.reason};
+    return {withoutByteOrderMark(std::move(file.bytes)), {}};
 }
 
 QString decoded(QByteArrayView text)

@@ -1,13 +1,14 @@
 #include "host/app/DrawingPicture.h"
 
+#include "files/qt/Files.h"
 #include "host/kernel/Document.h"
 #include "host/kernel/ExpressionSurroundings.h"
 
+#include <QBuffer>
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QPixmap>
-#include <QSaveFile>
 #include <QWidget>
 
 using namespace Qt::StringLiterals;
@@ -40,11 +41,12 @@ QString writeWidgetPicture(QWidget &widget, const QString &path)
 {
     // What was changed just now has not been laid out yet.
     QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
-    QSaveFile file(path);
-    const bool isWritten = file.open(QIODevice::WriteOnly) && widget.grab().save(&file, "PNG") && file.commit();
-    return isWritten
-               ? QString()
-               : u"%1: the picture cannot be written: %2"_s.arg(QDir::toNativeSeparators(path), file.errorString());
+    QBuffer picture;
+    picture.open(QIODevice::WriteOnly);
+    widget.grab().save(&picture, "PNG");
+    const QString reason = files::replaceFile(path, picture.data());
+    return reason.isEmpty() ? QString()
+                            : u"%1: the picture cannot be written: %2"_s.arg(QDir::toNativeSeparators(path), reason);
 }
 
 QStringList pictureExtensions()

@@ -1,12 +1,12 @@
 #include "host/view/Export.h"
 
+#include "files/qt/Files.h"
 #include "host/view/ScenePainter.h"
 
 #include <QBuffer>
 #include <QCoreApplication>
 #include <QDir>
 #include <QPdfWriter>
-#include <QSaveFile>
 #include <QSvgGenerator>
 
 namespace host::view {
@@ -32,10 +32,8 @@ QSize bounded(const QSize &size)
 
 QString writeFile(const QString &path, const QByteArray &bytes)
 {
-    QSaveFile file(path);
-    if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit())
-        return {};
-    return message("Cannot write %1: %2").arg(QDir::toNativeSeparators(path), file.errorString());
+    const QString reason = files::replaceFile(path, bytes);
+    return reason.isEmpty() ? QString() : message("Cannot write %1: %2").arg(QDir::toNativeSeparators(path), reason);
 }
 
 /// A scene with the space that the options name, and the view that they ask for.
