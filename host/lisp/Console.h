@@ -25,6 +25,10 @@ public:
     /// Text for the user, UTF-8, with its own line feeds.
     virtual void write(std::string_view text) = 0;
 
+    /// Says, as write() does, that a file which a program wrote into and never closed is not whole: a full disk shows
+    /// only now. A full disk that write-line or close meets is an error of theirs.
+    virtual void tellLostText(std::string_view message) { write(message); }
+
     /// Called every Settings::pollInterval evaluations: the time to process events and to see whether the user wants
     /// to stop. May call into the interpreter.
     virtual PollAnswer poll() { return PollAnswer::Continue; }

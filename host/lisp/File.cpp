@@ -1,13 +1,25 @@
 #include "host/lisp/File.h"
 
+#include "host/lisp/Console.h"
 #include "host/lisp/Paths.h"
 #include "host/lisp/Text.h"
 
 namespace host::lisp {
 
-std::unique_ptr<File> File::open(const std::string &path, Mode mode, Encoding encoding)
+File::File(Console &console, std::string path, Mode mode, Encoding encoding)
+    : m_console(console), m_path(std::move(path)), m_mode(mode), m_isBytes(encoding == Encoding::Bytes)
 {
-    std::unique_ptr<File> file(new File(path, mode, encoding));
+}
+
+File::~File()
+{
+    if (m_open && !close())
+        m_console.tellLostText("\n" + problem() + ".\n");
+}
+
+std::unique_ptr<File> File::open(Console &console, const std::string &path, Mode mode, Encoding encoding)
+{
+    std::unique_ptr<File> file(new File(console, path, mode, encoding));
     if (mode == Mode::Read) {
         std::optional<std::string> bytes = readWholeFile(toPath(path), largestTextFile);
         if (!bytes)
@@ -15,21 +27,23 @@ std::unique_ptr<File> File::open(const std::string &path, Mode mode, Encoding en
         file->m_text = file->m_isBytes ? std::move(*bytes) : decodeFile(std::move(*bytes));
         return file;
     }
-    const auto how = mode == Mode::Append ? std::ios::app : std::ios::trunc;
-    file->m_stream.open(toPath(path), std::ios::binary | std::ios::out | how);
-    if (!file->m_stream)
+    using Start = files::WritableFile::Start;
+    file->m_written.emplace(toPath(path), mode == Mode::Append ? Start::AtEnd : Start::Empty);
+    if (!*file->m_written) {
+        file->m_open = false;
         return nullptr;
-    if (encoding == Encoding::TextWithMark && file->m_stream.tellp() == 0)
-        file->m_stream << "\xEF\xBB\xBF";
+    }
+    if (encoding == Encoding::TextWithMark && file->m_written->isEmpty())
+        file->m_written->write("\xEF\xBB\xBF");
     return file;
 }
 
-void File::close()
+bool File::close()
 {
     m_open = false;
-    m_stream.close();
     m_text = {};
     m_position = 0;
+    return !m_written || m_written->close();
 }
 
 std::optional<std::string> File::readLine()
@@ -53,9 +67,14 @@ std::optional<char32_t> File::readCharacter()
     return takeCharacter(m_text, m_position);
 }
 
-void File::write(std::string_view text)
+bool File::write(std::string_view text)
 {
-    m_stream << text;
+    return m_written && m_written->write(text);
+}
+
+std::string File::problem() const
+{
+    return "cannot write " + m_path + ": " + (m_written ? m_written->reason() : std::string());
 }
 
 } // namespace host::lisp

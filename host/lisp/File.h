@@ -1,13 +1,15 @@
 #pragma once
 
+#include "files/WritableFile.h"
 #include "host/lisp/Value.h"
 
-#include <fstream>
 #include <memory>
 #include <optional>
 #include <string>
 
 namespace host::lisp {
+
+class Console;
 
 /// A text file that a program has open. It closes itself when the last value that refers to it goes.
 ///
@@ -31,32 +33,38 @@ public:
     };
 
     /// Null when the file cannot be opened, or is too large or no regular file to read.
-    static std::unique_ptr<File> open(const std::string &path, Mode mode, Encoding encoding);
+    /// `console` outlives the file and hears of text that the disk did not take after all.
+    static std::unique_ptr<File> open(Console &console, const std::string &path, Mode mode, Encoding encoding);
+    ~File();
+    File(const File &) = delete;
+    File &operator=(const File &) = delete;
 
     const std::string &path() const noexcept { return m_path; }
     bool isOpen() const noexcept { return m_open; }
     bool isReading() const noexcept { return m_mode == Mode::Read; }
-    void close();
+    /// False when the disk does not hold what was written; problem() says why. The file is closed all the same.
+    bool close();
 
     /// The next line without its end; nothing at the end of the file.
     std::optional<std::string> readLine();
     /// The next character's code; nothing at the end of the file.
     std::optional<char32_t> readCharacter();
-    void write(std::string_view text);
+    /// False when the text, or some in front of it, cannot be written.
+    bool write(std::string_view text);
+    /// A sentence without its end: which file cannot be written, and why.
+    std::string problem() const;
 
 private:
-    File(std::string path, Mode mode, Encoding encoding)
-        : m_path(std::move(path)), m_mode(mode), m_isBytes(encoding == Encoding::Bytes)
-    {
-    }
+    File(Console &console, std::string path, Mode mode, Encoding encoding);
 
+    Console &m_console;
     std::string m_path;
     Mode m_mode;
     bool m_isBytes;
     bool m_open = true;
     std::string m_text; ///< decoded content, when reading
     std::size_t m_position = 0;
-    std::ofstream m_stream;
+    std::optional<files::WritableFile> m_written;
 };
 
 inline File &Value::asFile() const noexcept

@@ -1,5 +1,6 @@
 // Files and folders on the disk. What the system refuses gives nil, never an error.
 
+#include "files/WritableFile.h"
 #include "host/lisp/Arguments.h"
 #include "host/lisp/Builtins.h"
 #include "host/lisp/Interpreter.h"
@@ -9,7 +10,6 @@
 
 #include <chrono>
 #include <ctime>
-#include <fstream>
 #include <limits>
 
 namespace host::lisp {
@@ -38,6 +38,17 @@ static Value deleteFile(Arguments &args)
     return args.boolean(isRegularFile(path) && fs::remove(path, error));
 }
 
+/// What a full disk took only a part of is no copy.
+static bool copyWhole(const fs::path &from, const fs::path &to)
+{
+    std::error_code error;
+    if (fs::copy_file(from, to, error))
+        return true;
+    std::error_code ignored;
+    fs::remove(to, ignored);
+    return false;
+}
+
 // (vl-file-copy from to [append]) -> the bytes copied. A target that exists is only added to, with append.
 static Value copyFile(Arguments &args)
 {
@@ -52,12 +63,9 @@ static Value copyFile(Arguments &args)
     if (error)
         return {};
     if (!exists)
-        return fs::copy_file(from, to, error) ? sizeValue(size) : Value();
-    std::ifstream source(from, std::ios::binary);
-    std::ofstream target(to, std::ios::binary | std::ios::app);
-    if (size > 0)
-        target << source.rdbuf();
-    return source && target.flush() ? sizeValue(size) : Value();
+        return copyWhole(from, to) ? sizeValue(size) : Value();
+    const std::optional<std::string> bytes = readWholeFile(from, std::numeric_limits<std::uintmax_t>::max());
+    return bytes && files::appendToFile(to, *bytes).empty() ? sizeValue(bytes->size()) : Value();
 }
 
 // (vl-file-rename from to) -> T. A target that exists: nil.

@@ -24,14 +24,18 @@ static Value open(Arguments &args)
     const File::Encoding encoding = name == "bytes"      ? File::Encoding::Bytes
                                     : name == "utf8-bom" ? File::Encoding::TextWithMark
                                                          : File::Encoding::Text;
-    std::unique_ptr<File> file = File::open(args.string(0), static_cast<File::Mode>(which), encoding);
+    std::unique_ptr<File> file =
+        File::open(args.interpreter().console(), args.string(0), static_cast<File::Mode>(which), encoding);
     return file ? Value::adopt(Tag::File, file.release()) : Value();
 }
 
-// (close file) -> nil. A file that is closed already: bad argument type: streamp.
+// (close file) -> nil. A file that is closed already: bad argument type: streamp. One that the disk did not take: an
+// error that says so.
 static Value close(Arguments &args)
 {
-    args.file(0).close();
+    File &file = args.file(0);
+    if (!file.close())
+        args.fail(file.problem());
     return {};
 }
 

@@ -18,7 +18,8 @@ static void writeTo(Arguments &args, std::size_t fileIndex, std::string_view tex
     File &file = args.file(fileIndex);
     if (file.isReading())
         args.badType(fileIndex, "streamp");
-    file.write(text);
+    if (!file.write(text))
+        args.fail(file.problem());
 }
 
 /// The printed value. One too long to print: string too long.

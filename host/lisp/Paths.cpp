@@ -1,7 +1,8 @@
 #include "host/lisp/Paths.h"
 
+#include "files/RegularFile.h"
+
 #include <algorithm>
-#include <fstream>
 
 namespace host::lisp {
 
@@ -24,19 +25,8 @@ std::string fromPath(const std::filesystem::path &path)
 
 std::optional<std::string> readWholeFile(const std::filesystem::path &path, std::uintmax_t largest)
 {
-    std::error_code error;
-    if (!std::filesystem::is_regular_file(path, error))
-        return std::nullopt;
-    const std::uintmax_t size = std::filesystem::file_size(path, error);
-    if (error || size > largest)
-        return std::nullopt;
-    std::ifstream stream(path, std::ios::binary);
-    if (!stream)
-        return std::nullopt;
-    std::string bytes(static_cast<std::size_t>(size), '\0');
-    stream.read(bytes.data(), static_cast<std::streamsize>(size));
-    bytes.resize(static_cast<std::size_t>(stream.gcount()));
-    return bytes;
+    files::WholeFile file = files::readWholeFile(path, largest);
+    return file ? std::optional(std::move(file.bytes)) : std::nullopt;
 }
 
 } // namespace host::lisp
