@@ -1,5 +1,6 @@
 #include "host/drawing/Drawing.h"
 
+#include "files/qt/Files.h"
 #include "host/drawing/Blocks.h"
 #include "host/drawing/Dictionaries.h"
 #include "host/drawing/DrawingPrivate.h"
@@ -9,7 +10,6 @@
 #include "host/drawing/Layouts.h"
 #include "host/drawing/Tables.h"
 
-#include <QFile>
 #include <QFileInfo>
 
 namespace host::drawing {
@@ -56,11 +56,6 @@ FieldList keepIdentity(const std::vector<FieldSpan> &before, FieldList fields, i
         fields.insert(fields.begin(), old.front());
     fields.front() = old.front();
     return fields;
-}
-
-QString readError(const QFile &file)
-{
-    return u"%1: %2"_s.arg(file.fileName(), file.errorString());
 }
 
 } // namespace
@@ -125,17 +120,16 @@ ReadResult Drawing::fromBytes(QByteArray bytes)
 
 ReadResult Drawing::open(const QString &path)
 {
-    QFile file(path);
-    if (QFileInfo(path).isDir())
+    // Places in the file are kept in 32 bits.
+    constexpr qint64 largest = 0xFFFFFFFELL;
+    if (const QFileInfo info(path); info.isDir())
         return {nullptr, {0, u"%1: this is a folder"_s.arg(path)}};
-    if (!file.open(QIODevice::ReadOnly))
-        return {nullptr, {0, readError(file)}};
-    if (file.size() >= 0xFFFFFFFFLL)
+    else if (info.isFile() && info.size() > largest)
         return {nullptr, {0, u"%1: the file is larger than 4 GB"_s.arg(path)}};
-    QByteArray bytes = file.readAll();
-    if (file.error() != QFileDevice::NoError)
-        return {nullptr, {0, readError(file)}};
-    ReadResult result = fromBytes(std::move(bytes));
+    files::WholeBytes file = files::readWhole(path, largest);
+    if (!file)
+        return {nullptr, {0, u"%1: %2"_s.arg(path, file.reason)}};
+    ReadResult result = fromBytes(std::move(file.bytes));
     if (result)
         result.drawing->setPath(path);
     return result;

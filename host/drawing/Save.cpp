@@ -1,17 +1,11 @@
 #include "host/drawing/Save.h"
 
+#include "files/FileReplacement.h"
+#include "files/RegularFile.h"
+#include "files/qt/Files.h"
 #include "host/drawing/Journal.h"
 
 #include <QDir>
-#include <QFile>
-#include <QFileInfo>
-
-#include <cerrno>
-#include <cstdlib>
-#include <fcntl.h>
-#include <sys/mman.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
 namespace host::drawing {
 
@@ -19,146 +13,75 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A new file beside the one it is to replace; gone again unless it took that one's place.
-class FileBeside
+std::string_view viewOf(QByteArrayView bytes)
 {
-public:
-    explicit FileBeside(const QString &target)
-    {
-        const QFileInfo info(target);
-        m_path = QFile::encodeName(info.absolutePath() + u"/."_s + info.fileName().left(200) + u".XXXXXX"_s);
-        m_descriptor = mkstemp(m_path.data());
-    }
-    ~FileBeside()
-    {
-        if (m_descriptor < 0)
-            return;
-        close(m_descriptor);
-        if (!m_isInPlace)
-            unlink(m_path.constData());
-    }
-    FileBeside(const FileBeside &) = delete;
-    FileBeside &operator=(const FileBeside &) = delete;
-
-    bool isOpen() const { return m_descriptor >= 0; }
-
-    bool write(QByteArrayView bytes)
-    {
-        // Edited drawings come in many small pieces.
-        constexpr qsizetype bufferSize = 256 * 1024;
-        if (bytes.size() < bufferSize) {
-            m_buffer += bytes;
-            return m_buffer.size() < bufferSize || flush();
-        }
-        return flush() && writeNow(bytes);
-    }
-
-    bool flush()
-    {
-        const bool isWritten = writeNow(m_buffer);
-        m_buffer.resize(0);
-        return isWritten;
-    }
-
-    /// Starts the way to the disk, so that it goes on while the file is read back.
-    bool finishWriting()
-    {
-        if (!flush())
-            return false;
-        sync_file_range(m_descriptor, 0, 0, SYNC_FILE_RANGE_WRITE);
-        return true;
-    }
-
-    bool sync() { return fsync(m_descriptor) == 0; }
-
-    bool holds(const Drawing &drawing) const
-    {
-        struct stat status;
-        if (fstat(m_descriptor, &status) != 0 || status.st_size == 0)
-            return false;
-        const auto size = static_cast<size_t>(status.st_size);
-        void *mapped = mmap(nullptr, size, PROT_READ, MAP_SHARED | MAP_POPULATE, m_descriptor, 0);
-        if (mapped == MAP_FAILED)
-            return false;
-        QByteArrayView left(static_cast<const char *>(mapped), static_cast<qsizetype>(size));
-        const bool isSame = drawing.forEachPiece([&left](QByteArrayView piece) {
-            const bool matches = left.startsWith(piece);
-            left = left.sliced(matches ? piece.size() : 0);
-            return matches;
-        });
-        const bool isWhole = isSame && left.isEmpty();
-        munmap(mapped, size);
-        return isWhole;
-    }
-
-    bool takePlaceOf(const QString &target)
-    {
-        const QByteArray name = QFile::encodeName(target);
-        struct stat old;
-        const bool hasOld = stat(name.constData(), &old) == 0;
-        const mode_t mask = umask(0);
-        umask(mask);
-        fchmod(m_descriptor, hasOld ? old.st_mode & 07777 : 0666 & ~mask);
-        m_isInPlace = rename(m_path.constData(), name.constData()) == 0;
-        return m_isInPlace;
-    }
-
-private:
-    bool writeNow(QByteArrayView bytes)
-    {
-        while (!bytes.isEmpty()) {
-            const ssize_t written = ::write(m_descriptor, bytes.data(), static_cast<size_t>(bytes.size()));
-            if (written < 0 && errno == EINTR)
-                continue;
-            if (written <= 0)
-                return false;
-            bytes = bytes.sliced(written);
-        }
-        return true;
-    }
-
-    QByteArray m_path;
-    QByteArray m_buffer;
-    int m_descriptor = -1;
-    bool m_isInPlace = false;
-};
-
-SaveResult failure(const QString &path)
-{
-    return {u"%1: the file cannot be written: %2"_s.arg(QDir::toNativeSeparators(path), qt_error_string(errno))};
+    return {bytes.data(), static_cast<size_t>(bytes.size())};
 }
 
-/// The entry of the folder is on the disk only when the folder is, too. File systems that cannot are no failure.
-void syncFolder(const QString &path)
+QByteArrayView viewOf(std::string_view bytes)
 {
-    const int folder = open(QFile::encodeName(QFileInfo(path).absolutePath()).constData(), O_RDONLY | O_DIRECTORY);
-    if (folder < 0)
-        return;
-    fsync(folder);
-    close(folder);
+    return {bytes.data(), static_cast<qsizetype>(bytes.size())};
+}
+
+bool isSame(const Drawing &drawing, QByteArrayView bytes)
+{
+    QByteArrayView left = bytes;
+    const bool isBegin = drawing.forEachPiece([&left](QByteArrayView piece) {
+        const bool matches = left.startsWith(piece);
+        left = left.sliced(matches ? piece.size() : 0);
+        return matches;
+    });
+    return isBegin && left.isEmpty();
+}
+
+/// The first record that is not where it is in what was read back, the last one where there is more; noRecord when all
+/// are.
+RecordId firstOther(const Drawing &drawing, const Drawing &readBack)
+{
+    RecordId there = readBack.first();
+    RecordId last = noRecord;
+    for (RecordId id = drawing.first(); id != noRecord; id = drawing.next(id)) {
+        if (there == noRecord || readBack.typeName(there) != drawing.typeName(id))
+            return id;
+        there = readBack.next(there);
+        last = id;
+    }
+    return there == noRecord ? noRecord : last;
+}
+
+/// Why the bytes would not open as this drawing; empty when they would.
+QString whyNot(const Drawing &drawing, QByteArrayView bytes)
+{
+    if (!isSame(drawing, bytes))
+        return u"what was written does not read back the same"_s;
+    // Only looked at as long as the bytes are there.
+    const ReadResult read = Drawing::fromBytes(QByteArray::fromRawData(bytes.data(), bytes.size()));
+    if (!read)
+        return u"what would be written could not be opened again (%1)"_s.arg(read.error.message());
+    const RecordId other = firstOther(drawing, *read.drawing);
+    return other == noRecord ? QString()
+                             : u"what would be written could not be opened the same: see %1 of handle %2"_s.arg(
+                                   QString::fromLatin1(drawing.typeName(other)), drawing.handle(other).toString());
+}
+
+SaveResult failure(const QString &path, const QString &reason)
+{
+    return {u"%1: the file cannot be written: %2"_s.arg(QDir::toNativeSeparators(path), reason)};
 }
 
 SaveResult writeFile(const Drawing &drawing, const QString &path)
 {
-    const QFileInfo info(path);
-    if (info.exists() && !info.isFile())
-        return {u"%1: this is not a file"_s.arg(path)};
-    if (info.exists() && !info.isWritable()) {
-        errno = EACCES;
-        return failure(path);
-    }
-    // A link stays a link: what it leads to is replaced.
-    const QString target = info.exists() ? info.canonicalFilePath() : info.absoluteFilePath();
-    FileBeside file(target);
-    if (!file.isOpen())
-        return failure(path);
-    if (!drawing.forEachPiece([&file](QByteArrayView piece) { return file.write(piece); }) || !file.finishWriting())
-        return failure(path);
-    if (!file.holds(drawing))
-        return {u"%1: what was written does not read back the same; the old file was kept"_s.arg(path)};
-    if (!file.sync() || !file.takePlaceOf(target))
-        return failure(path);
-    syncFolder(target);
+    files::FileReplacement file(files::nativePath(path));
+    drawing.forEachPiece([&file](QByteArrayView piece) { return file.write(viewOf(piece)); });
+    QString problem;
+    const bool isRight = file.readBack([&](std::string_view bytes) {
+        problem = whyNot(drawing, viewOf(bytes));
+        return problem.isEmpty();
+    });
+    if (!problem.isEmpty())
+        return {u"%1: %2; the old file was kept"_s.arg(QDir::toNativeSeparators(path), problem)};
+    if (!isRight || !file.commit())
+        return failure(path, files::reasonText(file.reason()));
     return {};
 }
 
