@@ -1,5 +1,8 @@
 #include "state/FavouriteStore.h"
 
+#include "files/qt/SettingsFile.h"
+#include "state/CommandLineText.h"
+
 #include <QCoreApplication>
 #include <QSettings>
 
@@ -37,7 +40,7 @@ void addNames(QSettings &settings, const QString &outer, QStringList &names)
 } // namespace
 
 FavouriteStore::FavouriteStore(const QString &group)
-    : m_settings(std::make_unique<QSettings>(organisation(), QStringLiteral("Ortakit")))
+    : m_group(group), m_settings(std::make_unique<QSettings>(organisation(), QStringLiteral("Ortakit")))
 {
     m_settings->setFallbacksEnabled(false);
     m_settings->beginGroup(group);
@@ -64,19 +67,31 @@ QList<FavouriteStore::Entry> FavouriteStore::load(const QString &name) const
 
 void FavouriteStore::save(const QString &name, const QList<Entry> &entries)
 {
-    remove(name);
-    m_settings->beginGroup(groupName(name));
-    for (const auto &[key, value] : entries)
-        m_settings->setValue(key, value);
-    m_settings->endGroup();
+    change(name, [&](QSettings &settings) {
+        for (const auto &[key, value] : entries)
+            settings.setValue(key, value);
+    });
 }
 
 void FavouriteStore::remove(const QString &name)
 {
-    m_settings->beginGroup(groupName(name));
-    for (const QString &key : m_settings->childKeys())
-        m_settings->remove(key);
-    m_settings->endGroup();
+    change(name, [](QSettings &) {});
+}
+
+/// Takes away what the favourite holds and lets `body` fill it again, in its group.
+void FavouriteStore::change(const QString &name, const std::function<void(QSettings &)> &body)
+{
+    const QString reason = files::changeSettings(m_settings->fileName(), [&](QSettings &settings) {
+        settings.beginGroup(m_group);
+        settings.beginGroup(groupName(name));
+        for (const QString &key : settings.childKeys())
+            settings.remove(key);
+        body(settings);
+        settings.endGroup();
+        settings.endGroup();
+    });
+    tellNotWritten(m_settings->fileName(), reason);
+    m_settings->sync();
 }
 
 } // namespace ortakit

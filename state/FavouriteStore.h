@@ -2,6 +2,7 @@
 
 #include <QStringList>
 
+#include <functional>
 #include <memory>
 #include <utility>
 
@@ -13,7 +14,8 @@ namespace ortakit {
 /// that one entry a widget. The settings are those of the organisation that is named like the host's application, for
 /// the application "Ortakit".
 ///
-/// Reports no errors: settings that cannot be read hold no favourites, and what cannot be written is not kept.
+/// Settings that cannot be read hold no favourites. What cannot be written is not kept, which the command line tells;
+/// the other favourites stay.
 class FavouriteStore
 {
 public:
@@ -33,6 +35,9 @@ public:
     void remove(const QString &name);
 
 private:
+    void change(const QString &name, const std::function<void(QSettings &)> &body);
+
+    QString m_group;
     std::unique_ptr<QSettings> m_settings;
 };
 

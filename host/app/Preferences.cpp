@@ -1,5 +1,7 @@
 #include "host/app/Preferences.h"
 
+#include "files/qt/SettingsFile.h"
+
 #include <QDir>
 #include <QSettings>
 
@@ -31,11 +33,13 @@ Preferences Preferences::load(const QString &folder)
 
 void Preferences::save(const QString &folder) const
 {
-    QSettings settings(fileIn(folder), QSettings::IniFormat);
-    settings.setValue("style", style == Style::Dark ? u"dark"_s : u"light"_s);
-    settings.setValue("ground", ground == view::Ground::White ? u"white"_s : u"black"_s);
-    settings.setValue("geometry", geometry);
-    settings.setValue("entries", entries);
+    // Windows close when nobody is there to be told; the next start has what the last one had.
+    files::changeSettings(fileIn(folder), [this](QSettings &settings) {
+        settings.setValue("style", style == Style::Dark ? u"dark"_s : u"light"_s);
+        settings.setValue("ground", ground == view::Ground::White ? u"white"_s : u"black"_s);
+        settings.setValue("geometry", geometry);
+        settings.setValue("entries", entries);
+    });
 }
 
 } // namespace host::app

@@ -1,8 +1,9 @@
 #include "host/kernel/CommandAliases.h"
 
+#include "files/qt/Files.h"
+
 #include <QDir>
 #include <QFileInfo>
-#include <QSaveFile>
 
 namespace host::kernel {
 
@@ -10,11 +11,9 @@ CommandAliases::CommandAliases(const QString &path) : m_path(path), m_table(firs
 
 void CommandAliases::ensureFile() const
 {
-    QSaveFile file(m_path);
-    if (QFileInfo::exists(m_path) || !file.open(QIODevice::WriteOnly))
-        return;
-    file.write(toAliasFile(firstAliases()));
-    file.commit();
+    // A folder that takes none is no fault: the table in memory serves.
+    if (!QFileInfo::exists(m_path))
+        files::replaceFile(m_path, toAliasFile(firstAliases()));
 }
 
 QString CommandAliases::refresh()

@@ -1,5 +1,9 @@
 #include "host/kernel/DrawingBackup.h"
 
+#include "files/FileReplacement.h"
+#include "files/RegularFile.h"
+#include "files/qt/Files.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
@@ -31,36 +35,33 @@ DrawingBackup::DrawingBackup(const QString &path, const QString &folder) : m_pat
     } else if (QFileInfo::exists(target) && isSameFile(path, target)) {
         fail(translated("the backup would take the place of the drawing"));
     } else {
-        m_copy.emplace(target);
+        m_copy = std::make_unique<files::FileReplacement>(files::nativePath(target));
         copy(path);
     }
 }
 
+DrawingBackup::~DrawingBackup() = default;
+
 void DrawingBackup::copy(const QString &path)
 {
-    constexpr qint64 pieceSize = 1024 * 1024;
-    QFile old(path);
-    if (!old.open(QIODevice::ReadOnly))
-        return fail(old.errorString());
-    if (!m_copy->open(QIODevice::WriteOnly))
-        return fail(m_copy->errorString());
-    // Whoever may not read the drawing may not read its backup.
-    m_copy->setPermissions(old.permissions());
-    for (;;) {
-        const QByteArray piece = old.read(pieceSize);
-        if (piece.isEmpty())
+    constexpr size_t pieceSize = 1024 * 1024;
+    files::RegularFile old(files::nativePath(path), std::numeric_limits<std::uintmax_t>::max());
+    std::vector<char> piece(pieceSize);
+    while (const size_t count = old.read(piece.data(), piece.size())) {
+        if (!m_copy->write({piece.data(), count}))
             break;
-        if (m_copy->write(piece) != piece.size())
-            return fail(m_copy->errorString());
     }
-    if (old.error() != QFileDevice::NoError)
-        fail(old.errorString());
+    // Whoever may not read the drawing may not read its backup.
+    if (old && *m_copy)
+        m_copy->setMode(old.mode());
+    if (!old || !*m_copy)
+        fail(files::reasonText(old ? m_copy->reason() : old.reason()));
 }
 
 QString DrawingBackup::finish()
 {
     if (m_problem.isEmpty() && m_copy && !m_copy->commit())
-        fail(m_copy->errorString());
+        fail(files::reasonText(m_copy->reason()));
     return m_problem.isEmpty() ? QString()
                                : translated("No backup of %1: %2.").arg(QDir::toNativeSeparators(m_path), m_problem);
 }

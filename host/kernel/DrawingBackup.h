@@ -1,9 +1,12 @@
 #pragma once
 
-#include <QSaveFile>
 #include <QString>
 
-#include <optional>
+#include <memory>
+
+namespace files {
+class FileReplacement;
+}
 
 namespace host::kernel {
 
@@ -14,6 +17,8 @@ namespace host::kernel {
 class DrawingBackup
 {
 public:
+    ~DrawingBackup();
+
     /// Copies what is at `path` now. Nothing is done without a file there or without a folder.
     DrawingBackup(const QString &path, const QString &folder);
 
@@ -27,7 +32,7 @@ private:
 
     QString m_path;
     QString m_problem;
-    std::optional<QSaveFile> m_copy;
+    std::unique_ptr<files::FileReplacement> m_copy;
 };
 
 } // namespace host::kernel

@@ -1,5 +1,7 @@
 #include "host/kernel/SettingsStore.h"
 
+#include "files/qt/SettingsFile.h"
+
 #include <QSettings>
 
 namespace host::kernel {
@@ -20,10 +22,11 @@ QString SettingsStore::text(const QString &globalName, const QString &localName)
 
 bool SettingsStore::setText(const QString &globalName, const QString &localName, const QString &value)
 {
-    QSettings settings(m_path, QSettings::IniFormat);
-    settings.setValue(keyOf(globalName, localName), value);
-    settings.sync();
-    return settings.status() == QSettings::NoError;
+    const QString reason = files::changeSettings(
+        m_path, [&](QSettings &settings) { settings.setValue(keyOf(globalName, localName), value); });
+    // What was remembered of the file goes.
+    QSettings(m_path, QSettings::IniFormat).sync();
+    return reason.isEmpty();
 }
 
 } // namespace host::kernel
