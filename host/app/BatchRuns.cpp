@@ -38,6 +38,15 @@ QString native(const QString &path)
     return QDir::toNativeSeparators(path);
 }
 
+/// Tells which files a session or program should have written and did not.
+bool tellNotWritten(kernel::Session &session)
+{
+    const QStringList problems = session.takeNotWritten();
+    for (const QString &problem : problems)
+        writeMessage(problem);
+    return !problems.isEmpty();
+}
+
 /// One session over several drawings.
 class SessionBatch
 {
@@ -153,7 +162,8 @@ int SessionBatch::playOn(kernel::Document &document, const QString &path)
         writeResult(u"%1: failed\n"_s.arg(native(path)));
         return ExitFailed;
     }
-    return writeOutcome(document, path, result.files);
+    const int status = writeOutcome(document, path, result.files);
+    return tellNotWritten(document.session()) ? ExitFileError : status;
 }
 
 QString SessionBatch::picturePath(const QString &drawing) const
@@ -274,7 +284,8 @@ int runLispFiles(const ProgramOptions &options)
         break;
     }
     workbench.session().setFeeder(nullptr);
-    return status;
+    workbench.documents().close(document);
+    return tellNotWritten(workbench.session()) && status == ExitDone ? ExitFileError : status;
 }
 
 int convertDrawing(const ProgramOptions &options)

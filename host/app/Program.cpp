@@ -15,6 +15,7 @@
 #include <QSettings>
 
 #include <clocale>
+#include <csignal>
 
 using namespace Qt::StringLiterals;
 
@@ -111,6 +112,10 @@ void keepSettingsIn(const QString &home)
 
 int runProgram(int argc, char **argv)
 {
+#ifdef SIGXFSZ
+    // A file that may not grow is an error of the write, not the end of the program and of what it has open.
+    std::signal(SIGXFSZ, SIG_IGN);
+#endif
     QStringList arguments;
     for (int i = 1; i < argc; ++i)
         arguments.append(QString::fromLocal8Bit(argv[i]));
@@ -139,7 +144,11 @@ int runProgram(int argc, char **argv)
     QCoreApplication::setApplicationVersion(u"" ORTAKIT_VERSION ""_s);
     keepSettingsIn(options.home.isEmpty() ? qEnvironmentVariable("ORTAKIT_HOME") : options.home);
     applyStyle(options.style.value_or(Style::Light));
-    return runMode(options);
+    const int status = runMode(options);
+    if (!hasLostResults())
+        return status;
+    writeMessage(u"standard output: not all of it could be written"_s);
+    return status == ExitDone ? ExitFileError : status;
 }
 
 } // namespace host::app

@@ -4,11 +4,23 @@
 
 namespace host::app {
 
+namespace {
+
+bool isResultLost = false;
+
+} // namespace
+
 void writeResult(const QString &text)
 {
     const QByteArray bytes = text.toUtf8();
-    std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), stdout);
-    std::fflush(stdout);
+    const auto size = static_cast<std::size_t>(bytes.size());
+    if (std::fwrite(bytes.constData(), 1, size, stdout) != size || std::fflush(stdout) != 0)
+        isResultLost = true;
+}
+
+bool hasLostResults()
+{
+    return isResultLost;
 }
 
 void writeMessage(const QString &text)

@@ -132,8 +132,11 @@ drawing::SaveResult Document::write(const QString &path, const std::function<dra
 {
     DrawingBackup backup(path, m_session.settings().text(backupFolderName, backupFolderName.toLower()));
     const drawing::SaveResult result = writeFile();
-    if (const QString problem = result ? backup.finish() : QString(); !problem.isEmpty())
+    const QString problem = result ? backup.finish() : QString();
+    if (!problem.isEmpty())
         print(u'\n' + problem + u'\n');
+    if (!result || !problem.isEmpty())
+        m_session.tellNotWritten(result ? problem : result.error);
     return result;
 }
 

@@ -12,6 +12,12 @@ void LispConsole::write(std::string_view text)
     m_document.print(fromUtf8(text));
 }
 
+void LispConsole::tellLostText(std::string_view message)
+{
+    write(message);
+    m_document.session().tellNotWritten(fromUtf8(message).trimmed());
+}
+
 lisp::PollAnswer LispConsole::poll()
 {
     InputFeeder *feeder = m_document.session().feeder();

@@ -15,6 +15,7 @@ public:
     Document &document() { return m_document; }
 
     void write(std::string_view text) override;
+    void tellLostText(std::string_view message) override;
     lisp::PollAnswer poll() override;
     std::optional<std::string> readLine() override;
     std::string findFile(const std::string &name) override;

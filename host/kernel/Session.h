@@ -71,7 +71,13 @@ public:
     void setSupportFolders(const QStringList &folders) { m_supportFolders = folders; }
     QString helpFolder() const { return m_helpFolder; }
 
+    /// A file that should have been written was not, or not whole. The user has been told; a run without one ends with
+    /// that.
+    void tellNotWritten(const QString &problem) { m_notWritten.append(problem); }
+    QStringList takeNotWritten() { return std::exchange(m_notWritten, {}); }
+
 private:
+    QStringList m_notWritten;
     QString m_home;
     QStringList m_supportFolders;
     QString m_helpFolder;
