@@ -1,7 +1,7 @@
 #include "state/StateFile.h"
 
-#include "formats/FileWriting.h"
 #include "formats/TextReading.h"
+#include "state/CommandLineText.h"
 
 namespace ortakit {
 
@@ -24,7 +24,7 @@ std::optional<QStringList> readStateFile(const QString &path)
 
 bool writeStateFile(const QString &path, const QString &text)
 {
-    return replaceFile(path, text.isEmpty() ? QByteArray() : "\xEF\xBB\xBF" + text.toUtf8());
+    return replaceFileOrTell(path, text.isEmpty() ? QByteArray() : "\xEF\xBB\xBF" + text.toUtf8());
 }
 
 } // namespace ortakit

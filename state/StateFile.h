@@ -11,7 +11,7 @@ namespace ortakit {
 std::optional<QStringList> readStateFile(const QString &path);
 
 /// Replaces the file at `path` by `text` as UTF-8 with a byte-order mark; empty text gives an empty file. False when it
-/// could not be written; see replaceFile().
+/// could not be written, which the command line tells; see replaceFile().
 bool writeStateFile(const QString &path, const QString &text);
 
 } // namespace ortakit

@@ -2,8 +2,8 @@
 
 #include "dialogs/dimensionstyle/StyleTables.h"
 #include "formats/DimensionStyleFile.h"
-#include "formats/FileWriting.h"
 #include "platform/kernel/CKvUtils.h"
+#include "state/CommandLineText.h"
 #include "state/FilePicker.h"
 #include "ui_Dlg_QT_ExchangedDimensionStyle.h"
 
@@ -78,5 +78,5 @@ bool Dlg_QT_ExchangedDimensionStyle::writeStyles(const QString &path, const QStr
     const ortakit::StyleCopy copy = ortakit::copyStyles(
         m_sourceFile, names, isFull ? ortakit::TextStyleCopy::Full : ortakit::TextStyleCopy::NameOnly);
     // A source that is gone must not empty the user's file.
-    return copy && ortakit::replaceFile(path, copy.text);
+    return copy && ortakit::replaceFileOrTell(path, copy.text);
 }

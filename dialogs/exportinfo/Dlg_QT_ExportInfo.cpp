@@ -1,6 +1,7 @@
 #include "dialogs/exportinfo/Dlg_QT_ExportInfo.h"
 
 #include "formats/FileWriting.h"
+#include "state/CommandLineText.h"
 #include "state/FilePicker.h"
 #include "state/FullText.h"
 #include "ui_Dlg_QT_ExportInfo.h"
@@ -46,6 +47,6 @@ void Dlg_QT_ExportInfo::clickOK()
         this, {.title = tr("Export information"), .filter = tr("Text files (*.txt)"), .start = QStringLiteral(".")});
     // That a report was saved is said whether or not it was: the Lisp programs expect the dialog to end here.
     if (!m_reportFile.isEmpty())
-        ortakit::replaceFile(m_reportFile, ortakit::withPlatformLineEnds(text));
+        ortakit::replaceFileOrTell(m_reportFile, ortakit::withPlatformLineEnds(text));
     accept();
 }

@@ -2,6 +2,7 @@
 
 #include "formats/FileWriting.h"
 #include "platform/kernel/CKvUtils.h"
+#include "state/CommandLineText.h"
 #include "state/FilePicker.h"
 #include "ui_Dlg_QT_ExportSettings.h"
 
@@ -111,7 +112,7 @@ void Dlg_QT_ExportSettings::ClickInFileButton()
         return;
     const QByteArray script = ortakit::withPlatformLineEnds(ortakit::settingsScript(m_shownLines));
     if (isNew)
-        ortakit::replaceFile(chosen, script);
+        ortakit::replaceFileOrTell(chosen, script);
     else
-        ortakit::appendToFile(chosen, script);
+        ortakit::appendToFileOrTell(chosen, script);
 }

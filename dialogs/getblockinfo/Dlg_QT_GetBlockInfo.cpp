@@ -1,6 +1,6 @@
 #include "dialogs/getblockinfo/Dlg_QT_GetBlockInfo.h"
 
-#include "formats/FileWriting.h"
+#include "state/CommandLineText.h"
 #include "state/FilePicker.h"
 #include "state/RowSorting.h"
 #include "state/TableRows.h"
@@ -111,5 +111,5 @@ void Dlg_QT_GetBlockInfo::ClickInFileButton()
         return;
     if (self)
         m_folder = QFileInfo(path).absolutePath();
-    ortakit::replaceFile(path, report);
+    ortakit::replaceFileOrTell(path, report);
 }

@@ -2,10 +2,10 @@
 
 #include "dialogs/lispexplorer/Highlighter.h"
 #include "dialogs/lispexplorer/SourceView.h"
-#include "formats/FileWriting.h"
 #include "platform/kernel/CKvDocument.h"
 #include "platform/kernel/CKvLispEngine.h"
 #include "platform/kernel/CKvUtils.h"
+#include "state/CommandLineText.h"
 #include "state/FilePicker.h"
 #include "state/FolderPicker.h"
 #include "state/FullText.h"
@@ -330,7 +330,7 @@ void Dlg_QT_LispExplorer::lispDump()
 {
     const QString path = ortakit::pickFileToSave(
         this, {.title = tr("Save dump file"), .filter = tr("Dump files (*.dmp)"), .start = QStringLiteral(".")});
-    // A file that cannot be written is not reported; the old one stays.
+    // Without a message box: the old file stays and the command line tells.
     if (!path.isEmpty())
-        ortakit::replaceFile(path, ortakit::lispDump(m_catalogue));
+        ortakit::replaceFileOrTell(path, ortakit::lispDump(m_catalogue));
 }

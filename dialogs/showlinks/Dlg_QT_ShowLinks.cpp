@@ -1,9 +1,9 @@
 #include "dialogs/showlinks/Dlg_QT_ShowLinks.h"
 
-#include "formats/FileWriting.h"
 #include "platform/kernel/CKvMessageBox.h"
 #include "platform/kernel/CKvUtils.h"
 #include "state/ActiveDrawing.h"
+#include "state/CommandLineText.h"
 #include "state/FullText.h"
 #include "state/ReturnKey.h"
 #include "state/TableOrder.h"
@@ -172,8 +172,8 @@ void Dlg_QT_ShowLinks::writeLinks(const QList<int> &rows, const QStringList &rem
     links.reserve(rows.size());
     for (const int row : rows)
         links.append(linkAt(row));
-    // What cannot be written leaves the file as it was; Lisp sees from the action what was meant.
-    ortakit::replaceFile(linkFile(), ortakit::writtenLinks(links, removed, m_encoding));
+    // What cannot be written leaves the file as it was; the command line tells, and Lisp sees what was meant.
+    ortakit::replaceFileOrTell(linkFile(), ortakit::writtenLinks(links, removed, m_encoding));
 }
 
 void Dlg_QT_ShowLinks::SelectChanged()
