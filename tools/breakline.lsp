@@ -23,7 +23,7 @@
 ;; Runs the dialog until the user confirms or cancels.
 ;; -> (symbol file, size, offset), nil when cancelled.
 (defun breakline:ask (file / state done)
-  (while (and (not done) (Dlg_BreakLine file))
+  (while (and (not done) (kora_show 'Dlg_BreakLine (list file)))
     (setq state (kora_readstate file))
     (cond ((= (kora_action state) "OK") (setq done T))
           ((= (kora_action state) "CREATE")

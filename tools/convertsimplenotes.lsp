@@ -15,7 +15,7 @@
         file  (kora_statefile "convertsimplenotes"))
   (kora_begin '(("CMDECHO" . 0)))
   (if (and (setq notes (cond (notes) ((kora_choose "Select texts to make one: " convertsimplenotes:filter))))
-           (Dlg_convertsimplesnotes file))
+           (kora_show 'Dlg_convertsimplesnotes (list file)))
     (convertsimplenotes:run notes (kora_readstate file)))
   (kora_end))
 

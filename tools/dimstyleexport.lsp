@@ -10,7 +10,7 @@
         file  (strcat (kora_module_folder) "/dimstyleexport.dim"))
   (if (and (dimstyleexport:write file)
            (kora_writestate state (list (cons "filedim" file))))
-    (if (Dlg_ExDimensionStyle state) (dimstyleexport:report (kora_readstate state)))
+    (if (kora_show 'Dlg_ExDimensionStyle (list state)) (dimstyleexport:report (kora_readstate state)))
     (kora_alert_message (strcat "The dimension styles could not be written to " file ".")))
   (if (findfile file) (vl-file-delete file))
   (kora_end))

@@ -9,7 +9,7 @@
   (kora_begin '(("CMDECHO" . 0)))
   (setq file (kora_statefile "dimstyleimport"))
   (if (dimstyleimport:write_state file)
-    (if (Dlg_ImDimensionStyle file)
+    (if (kora_show 'Dlg_ImDimensionStyle (list file))
       (dimstyleimport:import (setq state (kora_readstate file))
                              (dimstyleimport:read (kora_state_value state "txexport")
                                                   (cdr (kora_string_split (kora_state_value state "lststyles") ",")))))

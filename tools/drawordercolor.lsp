@@ -31,7 +31,7 @@
         last   (kora_string_split (cond ((kora_state_value (kora_readstate file) "lstcolors")) ("")) "^")
         last   (vl-remove-if-not '(lambda (color) (member color colors)) (mapcar 'atoi (vl-remove "" last)))
         colors (append last (vl-remove-if '(lambda (color) (member color last)) (vl-sort colors '<))))
-  (apply 'Dlg_DrawOrderColor (cons file (mapcar 'itoa colors))))
+  (kora_show 'Dlg_DrawOrderColor (cons file (mapcar 'itoa colors))))
 
 ;; -> a list of (color entity ...), the entities of each in the order in which they came. Sorted by numbers of which the
 ;; color is the greater part and the place in the selection the smaller, those of one color come one after the other.

@@ -5,7 +5,7 @@
 
 (defun c:editalias (/ *error* kora:variables)
   (kora_begin '(("CMDECHO" . 0)))
-  (Dlg_EditAlias (kora_statefile "editalias"))
+  (kora_show 'Dlg_EditAlias (list (kora_statefile "editalias")))
   (kora_end))
 
 (princ)

@@ -27,7 +27,7 @@
 (defun edittextcase:ask (texts / file state style)
   (setq file (kora_statefile "edittextcase"))
   (kora_writestate file (list (cons "referenceedit" (kora_plain_text (kora_text_parts (entget (car texts)))))))
-  (if (Dlg_edittextcase file)
+  (if (kora_show 'Dlg_edittextcase (list file))
     (progn
       (setq state (kora_readstate file))
       (foreach number '(1 2 3 4 5)

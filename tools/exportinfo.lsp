@@ -9,7 +9,7 @@
   (if (kora_write_lines path (append (exportinfo:lines) '("")))
     (progn
       (kora_begin '(("CMDECHO" . 0)))
-      (Dlg_ExportInfo (kora_statefile "exportinfo") path)
+      (kora_show 'Dlg_ExportInfo (list (kora_statefile "exportinfo") path))
       (vl-file-delete path)
       (kora_end))
     (kora_alert_message (strcat "What the program is cannot be listed: " path " cannot be written.")))

@@ -13,7 +13,7 @@
         plain (kora_counted (mapcar 'kora_insert_name (kora_space_inserts)))
         all   (getblockinfo:known (getblockinfo:with_nested plain))
         plain (getblockinfo:known plain))
-  (if (equal (Dlg_getblockinfo file (getblockinfo:entries plain) (getblockinfo:entries all)) '("TABLE"))
+  (if (equal (kora_show 'Dlg_getblockinfo (list file (getblockinfo:entries plain) (getblockinfo:entries all))) '("TABLE"))
     (getblockinfo:draw (if (= (kora_state_value (kora_readstate file) "nestedcheckbox") "TRUE") all plain)))
   (kora_end))
 

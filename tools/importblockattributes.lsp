@@ -10,7 +10,7 @@
 (defun c:importblockattributes (/ *error* kora:variables file)
   (kora_begin '(("CMDECHO" . 0)))
   (setq file (kora_statefile "importblockattributes"))
-  (if (Dlg_imporAttributes file)
+  (if (kora_show 'Dlg_imporAttributes (list file))
     (importblockattributes:apply
       (mapcar 'importblockattributes:cells
               (kora_string_split (kora_state_value (kora_readstate file) "attributes") "^"))))

@@ -28,7 +28,7 @@
 
 ;; -> (file name description), nil when the user gave up or the name cannot be a linetype's.
 (defun makelinestyle:ask (file / state name)
-  (if (Dlg_makelinestyle file)
+  (if (kora_show 'Dlg_makelinestyle (list file))
     (progn
       (setq state (kora_readstate file)
             name  (strcase (kora_state_value state "name")))

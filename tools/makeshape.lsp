@@ -17,7 +17,7 @@
 
 ;; -> (file name resolution), nil when the user gave up or what was entered cannot be used.
 (defun makeshape:ask (file / state name text resolution)
-  (if (Dlg_MakeShape file)
+  (if (kora_show 'Dlg_MakeShape (list file))
     (progn
       (setq state      (kora_readstate file)
             name       (strcase (kora_state_value state "name"))

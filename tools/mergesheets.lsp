@@ -53,7 +53,7 @@
 ;; -> the state that the dialog left, nil when it was cancelled.
 (defun mergesheets:ask (entries / file)
   (setq file (kora_statefile "mergesheets"))
-  (if (apply 'Dlg_MergeSheets (cons file entries)) (kora_readstate file)))
+  (if (kora_show 'Dlg_MergeSheets (cons file entries)) (kora_readstate file)))
 
 ;; -> a list of (entry . new name) in the order of the dialog; nil after a message.
 (defun mergesheets:chosen (entries state / numbers names)

@@ -38,7 +38,7 @@
         file   (kora_statefile "multiviewsetup"))
   (kora_begin (list '("CMDECHO" . 0) (cons "TILEMODE" (getvar "TILEMODE"))))
   (multiviewsetup:suggest_unit file)
-  (while (and (Dlg_MultiViewSetup file)
+  (while (and (kora_show 'Dlg_MultiViewSetup (list file))
               (setq state (kora_readstate file)
                     step  (assoc (kora_action state) multiviewsetup:steps)))
     (multiviewsetup:perform step))

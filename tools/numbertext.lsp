@@ -22,7 +22,7 @@
 
 ;; Runs the dialog until its numbers are some or the user cancels. -> the state, nil when cancelled.
 (defun numbertext:ask (file / state done problem)
-  (while (and (not done) (Dlg_NumberText file))
+  (while (and (not done) (kora_show 'Dlg_NumberText (list file)))
     (setq state   (kora_readstate file)
           problem (numbertext:problem state))
     (if problem (alert problem) (setq done T)))

@@ -22,7 +22,7 @@
         mode     "NEW")
   (while mode
     (patternhatch:tell)
-    (setq action (Dlg_PatternHatch file mode)
+    (setq action (kora_show 'Dlg_PatternHatch (list file mode))
           mode   (if action (patternhatch:do (patternhatch:exactly (kora_readstate file)) action))))
   (patternhatch:tell)
   (kora_end))

@@ -14,7 +14,7 @@
   (setq file  (kora_statefile "redefinepaths")
         files (redefinepaths:files))
   (if (null (kora_readstate file)) (kora_writestate file '(("modes" . "Xrefs^Images^Styles^Rtext"))))
-  (if (setq result (apply 'Dlg_RedefinePaths (cons file (mapcar 'redefinepaths:entry files))))
+  (if (setq result (kora_show 'Dlg_RedefinePaths (cons file (mapcar 'redefinepaths:entry files))))
     (redefinepaths:apply files result))
   (kora_end))
 

@@ -67,7 +67,7 @@
 
 ;; Runs the dialog; in between entities are shown. -> T when the user confirmed.
 (defun showlinks:ask (state links / done)
-  (while (and (not done) (Dlg_ShowLinks state))
+  (while (and (not done) (kora_show 'Dlg_ShowLinks (list state)))
     (cond ((= (kora_action (kora_readstate state)) "SHOWENTITY")
            (showlinks:show (showlinks:entities (kora_read_lines links))))
           (T (setq done T))))

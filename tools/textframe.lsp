@@ -14,7 +14,7 @@
   (kora_begin '(("CMDECHO" . 0)))
   (if (and (setq texts (cond (texts) ((kora_choose "Select texts to frame: " textframe:filter))))
            (kora_suggest_offset (setq file (kora_statefile "textframe")) (entget (car texts)))
-           (Dlg_TextFrame file))
+           (kora_show 'Dlg_TextFrame (list file)))
     (textframe:run texts (kora_readstate file)))
   (kora_end))
 

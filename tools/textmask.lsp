@@ -15,7 +15,7 @@
   (kora_begin '(("CMDECHO" . 0)))
   (if (and (setq texts (cond (texts) ((kora_choose "Select texts to mask: " textmask:filter))))
            (kora_suggest_offset (setq file (kora_statefile "textmask")) (entget (car texts)))
-           (Dlg_TextMask file))
+           (kora_show 'Dlg_TextMask (list file)))
     (textmask:run texts (kora_readstate file)))
   (kora_end))
 

@@ -45,15 +45,19 @@
 (defun kora:may_write (path / handle)
   (if (setq handle (open path "a")) (progn (close handle) T)))
 
-(defun kora:write_new (path lines / handle)
+(defun kora:write_new (path lines / handle written closed)
   (if (setq handle (open path "w"))
     (progn
-      (while (cdr lines)
-        (write-line (car lines) handle)
-        (setq lines (cdr lines)))
-      (princ (car lines) handle)
-      (close handle)
-      T)))
+      ;; A disk that is full is an error of these functions.
+      (setq written (vl-catch-all-apply 'kora:write_each (list lines handle))
+            closed  (vl-catch-all-apply 'close (list handle)))
+      (not (or (vl-catch-all-error-p written) (vl-catch-all-error-p closed))))))
+
+(defun kora:write_each (lines handle)
+  (while (cdr lines)
+    (write-line (car lines) handle)
+    (setq lines (cdr lines)))
+  (princ (car lines) handle))
 
 ;; (kora_has_definitions lines) -> T when the lines can be a file of definitions: what comes first in it, blank lines and
 ;; comments aside, is a header, or it has nothing else. A file in two-byte letters is none.

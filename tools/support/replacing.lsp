@@ -5,7 +5,7 @@
 (defun kora_ask_replacement (dialog file chosen / blocks state done)
   (setq blocks (kora:block_descriptions))
   (if chosen (kora:choose_blocks file chosen))
-  (while (and (not done) (apply dialog (cons file blocks)))
+  (while (and (not done) (kora_show dialog (cons file blocks)))
     (setq state (kora_readstate file))
     (if (= (kora_action state) "GETBLOCKS")
       (kora:choose_blocks file (kora_choose "Select block references: " '((0 . "INSERT"))))

@@ -41,17 +41,27 @@
 
 ;; (kora_writestate file changes) puts the values of changes into the state file, new keys behind the old ones.
 ;; -> T, nil when the file cannot be written. What spin boxes show inside is left out: it says nothing of its own.
-(defun kora_writestate (file changes / state handle)
+(defun kora_writestate (file changes / state)
   (setq state (vl-remove-if '(lambda (entry) (= (car entry) "qt_spinbox_lineedit")) (kora_readstate file)))
   (foreach change changes
     (setq state (if (assoc (car change) state)
                   (subst change (assoc (car change) state) state)
                   (append state (list change)))))
-  (if (setq handle (open file "w"))
-    (progn
-      (foreach entry state (write-line (kora:state_line entry) handle))
-      (close handle)
-      T)))
+  (kora_write_lines file (append (mapcar 'kora:state_line state) '(""))))
+
+;; (kora_show dialog arguments) -> what the dialog, a function's symbol, gives for the arguments, of which the first is
+;; its state file; nil after a message when that file cannot be written. A dialog says nothing of a file that it could
+;; not write: the line that is put into it here would still be there, and the tool would go on with what the user had
+;; chosen some other time.
+(defun kora_show (dialog arguments / file answer)
+  (setq file (car arguments))
+  (cond
+    ((null (kora_writestate file '(("!call!" . "open"))))
+     (kora_refuse (strcat "The file " file " cannot be written: the dialog could not hand over what is chosen.")))
+    ((null (setq answer (apply dialog arguments))) nil)
+    ((assoc "!call!" (kora_readstate file))
+     (kora_refuse (strcat "The file " file " could not be written: what was chosen is lost, and nothing was done.")))
+    (answer)))
 
 (defun kora:state_line (entry)
   (strcat (car entry)
