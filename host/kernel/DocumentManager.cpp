@@ -1,9 +1,12 @@
 #include "host/kernel/DocumentManager.h"
 
+#include "files/Leftovers.h"
+#include "files/qt/Files.h"
 #include "host/drawing/NewDrawing.h"
 #include "host/kernel/Services.h"
 #include "host/kernel/Session.h"
 
+#include <QDir>
 #include <QFileInfo>
 
 namespace host::kernel {
@@ -28,7 +31,18 @@ OpenOutcome DocumentManager::open(const QString &path)
     drawing::ReadResult read = drawing::Drawing::open(path);
     if (!read)
         return {nullptr, QStringLiteral("%1: %2").arg(path, read.error.message())};
-    return {add(std::move(read.drawing)), {}};
+    Document *document = add(std::move(read.drawing));
+    tellLeftovers(*document, canonical);
+    return {document, {}};
+}
+
+/// Takes away what a save that was killed left beside the file, and tells of a whole copy.
+void DocumentManager::tellLeftovers(Document &document, const QString &path)
+{
+    for (const std::filesystem::path &copy : files::removeLeftovers(files::nativePath(path)))
+        document.print(QStringLiteral("\nSaving this drawing was broken off once. What was to be saved is in %1; the "
+                                      "drawing's own file may have only a part of it.\n")
+                           .arg(QDir::toNativeSeparators(files::fromNativePath(copy))));
 }
 
 Document *DocumentManager::create()

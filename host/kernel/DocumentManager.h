@@ -56,6 +56,7 @@ signals:
 
 private:
     Document *add(std::unique_ptr<drawing::Drawing> drawing);
+    static void tellLeftovers(Document &document, const QString &path);
     void remove(Document *document);
     template <typename Call>
     void tell(Call &&call);

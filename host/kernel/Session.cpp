@@ -1,5 +1,7 @@
 #include "host/kernel/Session.h"
 
+#include "files/Leftovers.h"
+#include "files/qt/Files.h"
 #include "host/kernel/CustomBlocks.h"
 #include "host/kernel/Editor.h"
 #include "host/kernel/HelpService.h"
@@ -24,6 +26,14 @@ QString homeFolder(const QString &wanted)
     return QDir::cleanPath(QDir(folder).absolutePath());
 }
 
+/// Takes away what programs that were killed left in the folders of the user's data.
+void tidyUp(const QString &home)
+{
+    for (const QString &folder : {home, home + QStringLiteral("/Ortakit"), home + QStringLiteral("/Template"),
+                                  home + QStringLiteral("/Ortakit/BreakLine")})
+        files::removeLeftoversIn(files::nativePath(folder));
+}
+
 } // namespace
 
 Session::Session(const SessionOptions &options)
@@ -34,6 +44,7 @@ Session::Session(const SessionOptions &options)
       m_services(std::make_unique<SystemServices>(*this)), m_documents(std::make_unique<DocumentManager>(*this)),
       m_modules(std::make_unique<ModuleLoader>())
 {
+    tidyUp(m_home);
     m_servicesBefore =
         installServices({m_services.get(), m_help.get(), m_editor.get(), m_customBlocks.get(), m_commandStack.get()});
 }

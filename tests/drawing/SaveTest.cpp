@@ -97,8 +97,8 @@ void expectFailure(const QString &path, const QString &reason)
 TEST_F(SaveTest, FailuresNameFileAndReason)
 {
     expectFailure(path(u"none/a.dxf"_s), u"No such file or directory"_s);
-    expectFailure(m_folder.path(), u"this is not a file"_s);
-    expectFailure(u"/dev/full"_s, u"this is not a file"_s);
+    expectFailure(m_folder.path(), u"Not a regular file"_s);
+    expectFailure(u"/dev/full"_s, u"Not a regular file"_s);
 }
 
 /// The superuser may write everywhere: for its life such a process is an ordinary user.
