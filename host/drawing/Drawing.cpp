@@ -8,6 +8,7 @@
 #include "host/drawing/HeaderVariables.h"
 #include "host/drawing/JournalPrivate.h"
 #include "host/drawing/Layouts.h"
+#include "host/drawing/Structure.h"
 #include "host/drawing/Tables.h"
 
 #include <QFileInfo>
@@ -38,6 +39,14 @@ auto findHandleField(Fields &fields, int handleCode)
     return field != fields.end() && field->code == handleCode ? field : fields.end();
 }
 
+/// Takes out what no record has and no reader takes; a second type would be another record.
+void dropForeign(FieldList &fields)
+{
+    const auto isForeign = [](const Field &field) { return field.code == 0 || !isRecordCode(field.code); };
+    if (!fields.empty())
+        fields.erase(std::remove_if(fields.begin() + 1, fields.end(), isForeign), fields.end());
+}
+
 /// `fields` with type and handle of the record as it is.
 FieldList keepIdentity(const std::vector<FieldSpan> &before, FieldList fields, int handleCode)
 {
@@ -49,12 +58,15 @@ FieldList keepIdentity(const std::vector<FieldSpan> &before, FieldList fields, i
     if (newHandle != fields.end() && oldHandle != old.end())
         *newHandle = *oldHandle;
     else if (newHandle != fields.end() && handleCode != 0)
-        fields.erase(newHandle);
+        // A second one would be taken for the handle in its place.
+        for (auto each = newHandle; each != fields.end(); each = findHandleField(fields, handleCode))
+            fields.erase(each);
     else if (oldHandle != old.end())
         fields.insert(fields.begin() + (!fields.empty() && fields.front().code == 0 ? 1 : 0), *oldHandle);
     if (fields.empty() || fields.front().code != old.front().code)
         fields.insert(fields.begin(), old.front());
     fields.front() = old.front();
+    dropForeign(fields);
     return fields;
 }
 
@@ -302,8 +314,10 @@ bool Drawing::setErased(RecordId id, bool erased)
     return true;
 }
 
-RecordId Drawing::insert(RecordId after, RecordId parentRecord, RecordKind recordKind, const FieldList &fields)
+RecordId Drawing::insert(RecordId after, RecordId parentRecord, RecordKind recordKind, const FieldList &given)
 {
+    FieldList fields = given;
+    dropForeign(fields);
     TagWriter writer(d->file.style, d->codec);
     for (const Field &field : fields)
         writer.write(field);

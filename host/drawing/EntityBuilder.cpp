@@ -131,6 +131,8 @@ void EntityBuilder::check()
         m_error = u"group 0 (the type) is missing"_s;
         return;
     }
+    if (!m_rule && !mayBeEntity(m_type))
+        return fail(u"this is no entity"_s);
     if (!m_rule && hasMarkers(m_drawing) && !has(m_fields, subclassCode))
         return fail(u"this type is not known, and its subclass markers (group 100) are missing"_s);
     // What drawings of R12 have, those before have as well.

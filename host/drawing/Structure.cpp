@@ -94,6 +94,14 @@ void ensureClass(Drawing &drawing, const QString &type)
     drawing.insert(noRecord, ensureSection(drawing, Section::Classes), RecordKind::Class, fields);
 }
 
+bool mayBeEntity(const QString &type)
+{
+    static const QStringList others = {u"SECTION"_s, u"ENDSEC"_s, u"EOF"_s,        u"TABLE"_s,     u"ENDTAB"_s, u"BLOCK"_s,
+                                       u"ENDBLK"_s,  u"CLASS"_s,  u"DICTIONARY"_s, u"XRECORD"_s, u"LAYOUT"_s};
+    const bool isWord = std::ranges::all_of(type, [](QChar c) { return c.isPrint() && !c.isSpace(); });
+    return isWord && !type.isEmpty() && !others.contains(type) && !tableKindOf(type);
+}
+
 void ensureApplications(Drawing &drawing, const FieldList &fields)
 {
     for (const Field &field : fields) {

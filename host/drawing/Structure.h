@@ -7,6 +7,18 @@ namespace host::drawing {
 /// The section's record, made in its proper place when the file lacks it.
 RecordId ensureSection(Drawing &drawing, Section section);
 
+/// Whether a record may have groups of this code: readers take no larger one, and a comment is no group.
+inline bool isRecordCode(int code)
+{
+    constexpr int comment = 999;
+    constexpr int largest = 1071;
+    return code <= largest && code != comment;
+}
+
+/// Whether a record of this type can stand among entities: not what the file's own structure is made of, table
+/// entries and the objects of this program, and nothing that is no word. `type` is in upper case.
+bool mayBeEntity(const QString &type);
+
 /// The class record of a type; noRecord when the drawing has none.
 RecordId findClass(const Drawing &drawing, const QString &type);
 

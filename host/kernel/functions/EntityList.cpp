@@ -1,5 +1,6 @@
 #include "host/kernel/functions/EntityList.h"
 
+#include "host/drawing/Structure.h"
 #include "host/drawing/Wildcard.h"
 #include "host/kernel/Document.h"
 #include "host/kernel/functions/LispConversion.h"
@@ -137,8 +138,11 @@ void appendXdata(const Document &document, const Value &application, FieldList &
     if (!application.isCons() || !application.car().isString())
         throw EntityListError{QStringLiteral("bad extended data"), application};
     fields.push_back({applicationCode, QString::fromStdString(application.car().asString())});
-    for (const Value &item : lisp::ListItems(application.cdr()))
+    for (const Value &item : lisp::ListItems(application.cdr())) {
         fields.push_back(fromListItem(document, item, AngleForm::Degrees));
+        if (fields.back().code < 1000 || fields.back().code == applicationCode)
+            throw EntityListError{QStringLiteral("bad extended data"), item};
+    }
 }
 
 std::vector<FieldList> applicationsOf(const FieldList &fields)
@@ -228,6 +232,8 @@ Field fromListItem(const Document &document, const Value &item, AngleForm angles
         throw EntityListError{QStringLiteral("not a dotted pair with a group code"), item};
     const int code = item.car().asInteger();
     const Value &value = item.cdr();
+    if (!drawing::isRecordCode(code))
+        throw EntityListError{QStringLiteral("not a group code of a record"), item};
     switch (drawing::tagType(code)) {
     case TagType::Int16:
     case TagType::Int32:
