@@ -128,18 +128,27 @@ RunResult Document::runBuiltIn(const QString &typed)
 {
     const QString name = CommandTable::plainName(typed);
     const Run scope(*this, name);
-    if (OdEdCommand *brought = m_session.commandStack().find(typed)) {
-        runModuleCommand(*this, *brought);
-        return {};
-    }
-    const std::unique_ptr<CommandRun> command = CommandRun::start(*this, typed);
-    if (!command) {
-        const QString message = QStringLiteral("Unknown command \"%1\".").arg(name);
+    const int start = m_undoSteps.checkpoint();
+    const auto failed = [this](const QString &message) {
         print(u'\n' + message + u'\n');
         return failure(message);
+    };
+    try {
+        if (OdEdCommand *brought = m_session.commandStack().find(typed)) {
+            runModuleCommand(*this, *brought);
+            return {};
+        }
+        const std::unique_ptr<CommandRun> command = CommandRun::start(*this, typed);
+        if (!command)
+            return failed(QStringLiteral("Unknown command \"%1\".").arg(name));
+        command->runToEnd();
+        return command->isCancelled() ? failure(QStringLiteral("%1 was cancelled.").arg(name)) : RunResult();
+    } catch (const std::exception &exception) {
+        // Nobody further out could tell it: memory that was not to be had, above all.
+        m_undoSteps.takeBackTo(start);
+        return failed(QStringLiteral("%1: %2; nothing was changed.")
+                          .arg(name, QString::fromStdString(lisp::messageOf(exception))));
     }
-    command->runToEnd();
-    return command->isCancelled() ? failure(QStringLiteral("%1 was cancelled.").arg(name)) : RunResult();
 }
 
 RunResult Document::runQueued()

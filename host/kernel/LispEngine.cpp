@@ -61,7 +61,7 @@ Value LispEngine::call(const QString &name, Handler handler, lisp::Arguments &ar
         throw;
     } catch (const std::exception &failure) {
         // A handler must not throw; what it says is told, and the program goes on as after any error.
-        args.fail(name.toStdString() + ": " + failure.what());
+        args.fail(name.toStdString() + ": " + lisp::messageOf(failure));
     } catch (const OdError &failure) {
         args.fail((name + QStringLiteral(": ") + failure.description()).toStdString());
     }

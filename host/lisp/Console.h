@@ -33,6 +33,9 @@ public:
     /// to stop. May call into the interpreter.
     virtual PollAnswer poll() { return PollAnswer::Continue; }
 
+    /// The most memory, in bytes, that Lisp values may take while an evaluation runs, asked for at its outermost begin.
+    virtual std::int64_t heapLimit() { return Heap::unlimited; }
+
     /// A line that the user types, without line feed; nothing when there is none to be had.
     virtual std::optional<std::string> readLine() { return std::nullopt; }
 

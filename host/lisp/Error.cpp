@@ -1,5 +1,8 @@
 #include "host/lisp/Error.h"
 
+#include <new>
+#include <stdexcept>
+
 namespace host::lisp {
 
 static std::string placeText(const std::string &file, int line)
@@ -7,6 +10,13 @@ static std::string placeText(const std::string &file, int line)
     if (line <= 0)
         return file;
     return file.empty() ? "line " + std::to_string(line) : file + ":" + std::to_string(line);
+}
+
+std::string messageOf(const std::exception &exception)
+{
+    const bool isTooLarge = dynamic_cast<const std::bad_alloc *>(&exception) != nullptr ||
+                            dynamic_cast<const std::length_error *>(&exception) != nullptr;
+    return isTooLarge ? "out of memory" : exception.what();
 }
 
 std::string Error::summary() const

@@ -67,4 +67,8 @@ private:
     std::string m_message;
 };
 
+/// What any exception says to a program: the own message, and "out of memory" for what the allocator or a container
+/// refused.
+std::string messageOf(const std::exception &exception);
+
 } // namespace host::lisp

@@ -230,6 +230,17 @@ bool Interpreter::equal(const Value &left, const Value &right, double fuzz)
     return isEqual(left, right, fuzz, [this] { tick(); });
 }
 
+/// Also where the heap is full: a program that catches errors can give up what fills it.
+static Value caughtError(std::string message)
+{
+    constexpr std::int64_t enough = 4096;
+    const Heap::Limit limit(Heap::limit() + enough);
+    auto *caught = new CaughtError;
+    Value value = Value::adopt(Tag::CaughtError, caught);
+    caught->message = std::move(message);
+    return value;
+}
+
 Value Interpreter::catchAll(const Value &function, std::span<const Value> arguments)
 {
     struct Guard
@@ -250,10 +261,9 @@ Value Interpreter::catchAll(const Value &function, std::span<const Value> argume
     } catch (const Error &error) {
         if (error.kind() == ErrorKind::Interrupted)
             throw;
-        auto *caught = new CaughtError;
-        Value value = Value::adopt(Tag::CaughtError, caught);
-        caught->message = error.message();
-        return value;
+        return caughtError(error.message());
+    } catch (const std::exception &foreign) {
+        return caughtError(messageOf(foreign));
     }
 }
 

@@ -25,6 +25,7 @@ std::unique_ptr<File> File::open(Console &console, const std::string &path, Mode
         if (!bytes)
             return nullptr;
         file->m_text = file->m_isBytes ? std::move(*bytes) : decodeFile(std::move(*bytes));
+        file->m_share.grow(file->m_text.capacity());
         return file;
     }
     using Start = files::WritableFile::Start;
@@ -42,6 +43,7 @@ bool File::close()
 {
     m_open = false;
     m_text = {};
+    m_share.release();
     m_position = 0;
     return !m_written || m_written->close();
 }

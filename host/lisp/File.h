@@ -64,6 +64,7 @@ private:
     bool m_open = true;
     std::string m_text; ///< decoded content, when reading
     std::size_t m_position = 0;
+    HeapShare m_share;
     std::optional<files::WritableFile> m_written;
 };
 

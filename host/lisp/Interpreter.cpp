@@ -8,7 +8,6 @@
 #include "host/lisp/Reader.h"
 #include "host/lisp/Text.h"
 
-#include <new>
 #include <numbers>
 
 namespace host::lisp {
@@ -42,6 +41,15 @@ Interpreter::Interpreter(Console &console, Settings settings)
 
 Interpreter::~Interpreter() = default;
 
+/// When earlier evaluations left the heap all but full, a little more may be taken, so that what fills it can be given
+/// up; not so often that the limit means nothing.
+static std::int64_t heapLimitFor(std::int64_t wanted)
+{
+    constexpr std::int64_t atLeastLeft = 1024L * 1024;
+    constexpr std::int64_t mostBeyond = 64L * 1024 * 1024;
+    return std::max(wanted, std::min(Heap::used() + atLeastLeft, wanted + mostBeyond));
+}
+
 /// One evaluation begun from outside: its errors, catches and calls are apart from those of the evaluation around it,
 /// the machine stack is shared.
 class Interpreter::TopLevel
@@ -52,6 +60,7 @@ public:
           m_frame(std::exchange(interpreter.m_frame, nullptr)), m_location(std::exchange(interpreter.m_location, 0))
     {
         if (interpreter.m_nesting++ == 0) {
+            m_heapLimit.emplace(heapLimitFor(interpreter.m_console.heapLimit()));
             const auto here = reinterpret_cast<std::uintptr_t>(__builtin_frame_address(0));
             interpreter.m_stackLimit = here - std::min<std::uintptr_t>(here, interpreter.m_settings.stackBudget);
         }
@@ -71,6 +80,7 @@ private:
     int m_catchDepth;
     CallFrame *m_frame;
     Location m_location;
+    std::optional<Heap::Limit> m_heapLimit;
 };
 
 template <typename Body>
@@ -83,10 +93,10 @@ Outcome Interpreter::topLevel(Body &&body)
     } catch (Error &error) {
         signal(error, nullptr);
         outcome.error = std::move(error);
-    } catch (const std::bad_alloc &) {
-        outcome.error = Error("out of memory");
-    } catch (const std::exception &error) {
-        outcome.error = Error(error.what());
+    } catch (const std::exception &foreign) {
+        Error error(messageOf(foreign));
+        signal(error, nullptr);
+        outcome.error = std::move(error);
     }
     return outcome;
 }
@@ -222,6 +232,14 @@ Value Interpreter::variable(std::string_view name) const
 void Interpreter::setVariable(std::string_view name, Value value)
 {
     intern(name).value() = std::move(value);
+}
+
+void Interpreter::setEnvironment(const std::string &name, const std::string &value)
+{
+    // What is replaced is not given back: nobody sets the same thing often enough to matter.
+    constexpr std::size_t node = 128;
+    m_environmentShare.grow(node + name.size() + value.size());
+    m_environment[name] = value;
 }
 
 Value Interpreter::makeSelectionSet(const std::vector<std::uint64_t> &entities)

@@ -153,14 +153,15 @@ public:
         if (reinterpret_cast<std::uintptr_t>(__builtin_frame_address(0)) < m_stackLimit)
             raiseStackOverflow();
     }
-    /// Throws when a string of that many bytes may not be made.
+    /// Throws when a string of that many bytes may not be made: it would be too long, or the heap has no room for it.
     void checkStringLength(std::size_t bytes) const;
 
     SourceMap &sources() noexcept { return m_sources; }
     /// Values that (vl-bb-set) keeps, by upper-case name.
     std::map<std::string, Value> &blackboard() noexcept { return m_blackboard; }
     /// What (setenv) keeps, by name; it comes before the environment of the process.
-    std::map<std::string, std::string> &environment() noexcept { return m_environment; }
+    const std::map<std::string, std::string> &environment() const noexcept { return m_environment; }
+    void setEnvironment(const std::string &name, const std::string &value);
     /// Characters typed but not yet taken by (read-char).
     std::string &typedAhead() noexcept { return m_typedAhead; }
 
@@ -220,6 +221,7 @@ private:
     SourceMap m_sources;
     std::map<std::string, Value> m_blackboard;
     std::map<std::string, std::string> m_environment;
+    HeapShare m_environmentShare;
     std::string m_typedAhead;
     std::uint32_t m_selectionSets = 0;
 };

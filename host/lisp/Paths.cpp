@@ -1,6 +1,7 @@
 #include "host/lisp/Paths.h"
 
 #include "files/RegularFile.h"
+#include "host/lisp/Heap.h"
 
 #include <algorithm>
 
@@ -25,6 +26,9 @@ std::string fromPath(const std::filesystem::path &path)
 
 std::optional<std::string> readWholeFile(const std::filesystem::path &path, std::uintmax_t largest)
 {
+    std::error_code error;
+    if (const std::uintmax_t size = std::filesystem::file_size(path, error); !error && size <= largest)
+        Heap::check(size);
     files::WholeFile file = files::readWholeFile(path, largest);
     return file ? std::optional(std::move(file.bytes)) : std::nullopt;
 }

@@ -14,7 +14,7 @@ std::filesystem::path toPath(std::string_view text);
 std::string fromPath(const std::filesystem::path &path);
 
 /// All bytes of a regular file; nothing when it cannot be read or is larger than `largest` bytes. Devices and pipes
-/// are refused: reading them may never end.
+/// are refused: reading them may never end. Throws when the heap has no room for them.
 std::optional<std::string> readWholeFile(const std::filesystem::path &path, std::uintmax_t largest);
 
 /// The largest text file that is read.

@@ -11,6 +11,9 @@ namespace host::lisp {
 /// Calls that an error remembers.
 static constexpr std::size_t longestChain = 32;
 
+/// Heap that `*error*` may use beyond the limit: what filled it is there still.
+static constexpr std::int64_t handlerHeap = 4L * 1024 * 1024;
+
 /// Stack that `*error*` may use beyond the limit, so that it can also run after a stack overflow.
 static constexpr std::uintptr_t handlerReserve = 512U * 1024U;
 
@@ -39,12 +42,8 @@ void Interpreter::rethrowSignalled(const NativeFunction &native)
     } catch (Error &error) {
         signal(error, &native);
         throw;
-    } catch (const std::bad_alloc &) {
-        Error error("out of memory");
-        signal(error, &native);
-        throw error;
     } catch (const std::exception &foreign) {
-        Error error(foreign.what());
+        Error error(messageOf(foreign));
         signal(error, &native);
         throw error;
     }
@@ -55,8 +54,13 @@ void Interpreter::signal(Error &error, const NativeFunction *native)
     if (error.signalled)
         return;
     error.signalled = true;
-    fillPlace(error, native);
-    fillChain(error);
+    try {
+        fillPlace(error, native);
+        fillChain(error);
+    } catch (const std::bad_alloc &) {
+        // The message alone is better than none.
+        error.chain.clear();
+    }
     const bool isCaught = m_catchDepth > 0 && error.kind() != ErrorKind::Interrupted;
     if (!isCaught)
         callErrorHandler(error);
@@ -94,7 +98,8 @@ void Interpreter::callErrorHandler(Error &error)
     struct Scope
     {
         explicit Scope(Interpreter &owner)
-            : interpreter(owner), catchDepth(std::exchange(owner.m_catchDepth, 0)), location(owner.m_location)
+            : interpreter(owner), catchDepth(std::exchange(owner.m_catchDepth, 0)), location(owner.m_location),
+              heapLimit(Heap::limit() + handlerHeap)
         {
             interpreter.m_inErrorHandler = true;
             interpreter.m_stackLimit -= handlerReserve;
@@ -109,6 +114,7 @@ void Interpreter::callErrorHandler(Error &error)
         Interpreter &interpreter;
         int catchDepth;
         Location location;
+        Heap::Limit heapLimit;
     };
     Scope scope(*this);
     error.handledByProgram = true;
@@ -119,6 +125,8 @@ void Interpreter::callErrorHandler(Error &error)
         // Handlers often end in (exit); anything else is a fault of the handler, which the user should see.
         if (inner.kind() != ErrorKind::Quit)
             m_console.write("\nerror in *error*: " + inner.summary() + "\n");
+    } catch (const std::exception &inner) {
+        m_console.write("\nerror in *error*: " + messageOf(inner) + "\n");
     }
 }
 
@@ -133,6 +141,7 @@ void Interpreter::checkStringLength(std::size_t bytes) const
 {
     if (bytes > m_settings.longestString)
         throw Error("string too long");
+    Heap::check(bytes);
 }
 
 } // namespace host::lisp

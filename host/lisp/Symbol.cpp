@@ -15,6 +15,9 @@ Symbol &SymbolTable::intern(std::string_view name)
     std::string upper = toUpperCase(name);
     if (const auto found = m_symbols.find(upper); found != m_symbols.end())
         return *found->second;
+    // With its node and bucket in the table.
+    constexpr std::size_t memory = Heap::blockOf(sizeof(Symbol)) + 64;
+    m_share.grow(memory + upper.capacity());
     auto symbol = std::make_unique<Symbol>(std::move(upper));
     Symbol &made = *symbol;
     m_symbols.emplace(made.name(), std::move(symbol));

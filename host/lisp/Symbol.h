@@ -42,6 +42,7 @@ public:
 
 private:
     std::unordered_map<std::string_view, std::unique_ptr<Symbol>> m_symbols;
+    HeapShare m_share;
 };
 
 } // namespace host::lisp

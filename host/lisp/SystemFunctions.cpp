@@ -22,7 +22,7 @@ static Value getEnvironment(Arguments &args)
 // (setenv name value) -> value, kept by this engine. The process keeps its environment.
 static Value setEnvironment(Arguments &args)
 {
-    args.interpreter().environment()[args.string(0)] = args.string(1);
+    args.interpreter().setEnvironment(args.string(0), args.string(1));
     return args[1];
 }
 

@@ -113,9 +113,7 @@ void destroyObject(Tag tag, Object *object) noexcept
 
 Value Value::string(std::string text)
 {
-    auto *object = new StringObject;
-    object->text = std::move(text);
-    return adopt(Tag::String, object);
+    return adopt(Tag::String, new StringObject(std::move(text)));
 }
 
 Value Value::list(std::span<const Value> items)
@@ -160,8 +158,31 @@ bool Value::isSame(const Value &other) const noexcept
     }
 }
 
+StringObject::StringObject(std::string content) : text(std::move(content))
+{
+    Heap::take(bytesOutside());
+}
+
+StringObject::~StringObject()
+{
+    Heap::remove(bytesOutside());
+}
+
+std::size_t StringObject::bytesOutside() const noexcept
+{
+    // Short ones are within the object itself.
+    constexpr std::size_t within = 15;
+    return text.capacity() > within ? Heap::blockOf(text.capacity() + 1) : 0;
+}
+
 bool SelectionSet::add(std::uint64_t entity)
 {
+    // In the queue, and a node and a bucket among the members. Only what was never in it counts anew.
+    constexpr std::size_t memory = 48;
+    if (members.size() >= counted) {
+        share.grow(memory);
+        ++counted;
+    }
     if (!members.insert(entity).second)
         return false;
     entities.push_back(entity);

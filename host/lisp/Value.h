@@ -1,5 +1,7 @@
 #pragma once
 
+#include "host/lisp/Heap.h"
+
 #include <cassert>
 #include <cstddef>
 #include <cstdint>
@@ -161,9 +163,22 @@ private:
 
 static_assert(sizeof(Value) == 16);
 
-/// What every counted object begins with. `mark` is for the kind's own use.
+/// What every counted object begins with. `mark` is for the kind's own use. Objects are deleted as what they are.
 struct Object
 {
+    static void *operator new(std::size_t size)
+    {
+        Heap::check(Heap::blockOf(size));
+        void *memory = ::operator new(size);
+        Heap::add(Heap::blockOf(size));
+        return memory;
+    }
+    static void operator delete(void *memory, std::size_t size) noexcept
+    {
+        Heap::remove(Heap::blockOf(size));
+        ::operator delete(memory, size);
+    }
+
     std::uint32_t references = 1;
     std::uint32_t mark = 0;
 };
@@ -181,7 +196,13 @@ struct Cons : Object
 /// A string. `mark` caches the number of characters plus one, 0 while it was not counted.
 struct StringObject : Object
 {
-    std::string text;
+    explicit StringObject(std::string content);
+    ~StringObject();
+
+    const std::string text;
+
+private:
+    std::size_t bytesOutside() const noexcept;
 };
 
 /// Entities chosen together, in order, without repetition. Shared by all values that refer to it: ssadd and ssdel
@@ -199,6 +220,8 @@ struct SelectionSet : Object
 
 private:
     std::unordered_set<std::uint64_t> members;
+    std::size_t counted = 0; ///< for how many members there is a share
+    HeapShare share;
 };
 
 /// What vl-catch-all-apply gives back for an error.

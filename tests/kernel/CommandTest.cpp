@@ -271,6 +271,33 @@ TEST_F(Bench, commandsOfAModuleTakeTheirAnswersFromProgramAndUser)
     EXPECT_NE(takePrinted().find("Unknown command \"LABEL\"."), std::string::npos);
 }
 
+/// One that finds no memory when it is half done.
+class GreedyCommand final : public OdStaticRxObject<OdEdCommand>
+{
+public:
+    OdString groupName() const override { return QStringLiteral("TEST"); }
+    OdString globalName() const override { return QStringLiteral("GREEDY"); }
+    void execute(OdEdCommandContext *) override
+    {
+        ACTIVE_DOCUMENT()->lispEngine()->loadFile(half);
+        std::vector<int>().reserve(std::numeric_limits<std::size_t>::max());
+    }
+    OdString half;
+};
+
+TEST_F(Bench, aCommandThatFindsNoMemoryIsTakenBack)
+{
+    GreedyCommand greedy;
+    greedy.half = write("half.lsp", "(entmake '((0 . \"POINT\") (10 1 1 0)))");
+    ASSERT_TRUE(session.commandStack().addCommand(&greedy));
+    runTyped("greedy\n");
+    EXPECT_NE(takePrinted().find("GREEDY: out of memory; nothing was changed."), std::string::npos);
+    EXPECT_EQ(lisp("(command \"greedy\")"), "error: out of memory in (COMMAND)");
+    EXPECT_EQ(lisp("(+ 1 2)"), "3");
+    session.commandStack().removeCommand(&greedy);
+    EXPECT_EQ(shapes(drawing()), "POINT 1,1") << "a program may go on with what there is";
+}
+
 TEST_F(Bench, anErrorDropsTheCommandUnderWay)
 {
     type("7,7");

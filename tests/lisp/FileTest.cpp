@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <fstream>
+#include <sys/stat.h>
 #include <unistd.h>
 
 using namespace host::lisp;
@@ -65,8 +66,12 @@ TEST_F(Files, WriteThenRead)
 
 TEST_F(Files, WrongUseOfFiles)
 {
+    ASSERT_EQ(::mkfifo((m_folder / "pipe").c_str(), 0600), 0);
     check({
         {R"((list (open (at "none.txt") "r") (open (at "no/such/folder.txt") "w") (open dir "r")))", "(nil nil nil)"},
+        {R"((list (open (at "pipe") "w") (open (at "pipe") "a") (open (at "pipe") "r") (open dir "w")))",
+         "(nil nil nil nil)"},
+        {R"((list (vl-file-copy (at "a.txt") (at "pipe") T) (vl-file-copy (at "pipe") (at "c.txt"))))", "(nil nil)"},
         {"(open (at \"a\") \"x\")", "! bad argument value: \"x\" in (OPEN), argument 2"},
         {"(read-line 5)", "! bad argument type: streamp 5 in (READ-LINE), argument 1"},
         {"(princ 1 \"a\")", "! bad argument type: streamp \"a\" in (PRINC), argument 2"},

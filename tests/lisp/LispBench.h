@@ -36,6 +36,9 @@ public:
         return found == variables.end() ? Value() : found->second;
     }
 
+    std::int64_t heapLimit() override { return heap; }
+
+    std::int64_t heap = Heap::unlimited;
     std::string output;
     std::deque<std::string> typed;
     std::map<std::string, Value> variables;

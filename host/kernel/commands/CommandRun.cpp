@@ -5,6 +5,7 @@
 #include "host/kernel/Session.h"
 #include "host/kernel/SystemVariables.h"
 #include "host/kernel/input/UserInput.h"
+#include "host/lisp/Error.h"
 
 namespace host::kernel {
 
@@ -95,6 +96,11 @@ void CommandRun::resume()
     m_dialogue.reset();
     try {
         m_task->resume(std::exchange(m_context.m_waiting, {}));
+    } catch (const lisp::Error &) {
+        finish();
+        throw;
+    } catch (const std::exception &failure) {
+        m_context.fail(QString::fromStdString(lisp::messageOf(failure)));
     } catch (...) {
         finish();
         throw;

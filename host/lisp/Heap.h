@@ -1,0 +1,87 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+
+namespace host::lisp {
+
+/// How much memory the Lisp values of this thread take and how much they may take. One count for all interpreters of
+/// the thread, because a value has no way to its interpreter. Objects count themselves; what they hold outside (text,
+/// members) is counted by whoever puts it there. While no evaluation runs there is no limit.
+class Heap
+{
+public:
+    /// Throws the Lisp error "out of memory (limit ... MB)" when so much more may not be taken.
+    static void check(std::size_t bytes)
+    {
+        if (static_cast<std::int64_t>(bytes) > s_left) [[unlikely]]
+            refuse();
+    }
+    static void add(std::size_t bytes) noexcept { s_left -= static_cast<std::int64_t>(bytes); }
+    static void remove(std::size_t bytes) noexcept { s_left += static_cast<std::int64_t>(bytes); }
+    /// check() and add() for what was made already and is about to be kept.
+    static void take(std::size_t bytes)
+    {
+        check(bytes);
+        add(bytes);
+    }
+    static std::int64_t used() noexcept { return s_limit - s_left; }
+    static std::int64_t limit() noexcept { return s_limit; }
+
+    /// What the allocator takes for an object.
+    static constexpr std::size_t blockOf(std::size_t bytes) { return (bytes + 8 + 15) / 16 * 16; }
+
+    /// Another limit for a while.
+    class Limit
+    {
+    public:
+        explicit Limit(std::int64_t bytes) noexcept : m_before(s_limit) { set(bytes); }
+        ~Limit() { set(m_before); }
+        Limit(const Limit &) = delete;
+        Limit &operator=(const Limit &) = delete;
+
+    private:
+        static void set(std::int64_t bytes) noexcept
+        {
+            s_left += bytes - s_limit;
+            s_limit = bytes;
+        }
+        std::int64_t m_before;
+    };
+
+    static constexpr std::int64_t unlimited = INT64_MAX / 4;
+
+private:
+    [[noreturn]] static void refuse();
+
+    // One addition for each object: the accesses must not cost a call. (The library is there when the program starts.)
+    [[gnu::tls_model("initial-exec")]] static thread_local constinit std::int64_t s_left;
+    [[gnu::tls_model("initial-exec")]] static thread_local constinit std::int64_t s_limit;
+};
+
+/// Counts what something that is no Lisp object keeps for a program, until it goes.
+class HeapShare
+{
+public:
+    HeapShare() = default;
+    ~HeapShare() { Heap::remove(m_bytes); }
+    HeapShare(const HeapShare &) = delete;
+    HeapShare &operator=(const HeapShare &) = delete;
+
+    /// Throws when there is no room for more; the share is as it was then.
+    void grow(std::size_t bytes)
+    {
+        Heap::take(bytes);
+        m_bytes += bytes;
+    }
+    void release() noexcept
+    {
+        Heap::remove(m_bytes);
+        m_bytes = 0;
+    }
+
+private:
+    std::size_t m_bytes = 0;
+};
+
+} // namespace host::lisp
