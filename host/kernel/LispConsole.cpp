@@ -20,8 +20,7 @@ void LispConsole::tellLostText(std::string_view message)
 
 lisp::PollAnswer LispConsole::poll()
 {
-    InputFeeder *feeder = m_document.session().feeder();
-    return feeder && feeder->poll() ? lisp::PollAnswer::Stop : lisp::PollAnswer::Continue;
+    return m_document.session().isStopWanted() ? lisp::PollAnswer::Stop : lisp::PollAnswer::Continue;
 }
 
 std::optional<std::string> LispConsole::readLine()

@@ -61,6 +61,13 @@ RunResult Session::runQueue()
 {
     RunResult result;
     while (!m_input.isEmpty() && m_documents->active()) {
+        if (isStopWanted()) {
+            m_input.clear();
+            m_documents->active()->print(QStringLiteral("\n*Cancel*\n"));
+            result.ok = false;
+            result.error = result.report = QStringLiteral("Function cancelled");
+            break;
+        }
         const RunResult next = m_documents->active()->runQueued();
         if (!next.hasRun)
             break;

@@ -53,8 +53,12 @@ public:
 
     /// Runs what waits in the queue in the active document, one command or expression after the other, until nothing is
     /// left or only the beginning of an expression: what was typed, and what a script typed before its command ended.
-    /// What came of the first that failed, else of the last.
+    /// What came of the first that failed, else of the last. The user may stop it, which empties the queue.
     RunResult runQueue();
+
+    /// Lets events be processed and says whether the user wants what runs to end. For everything that may go on without
+    /// asking: also what is typed ahead has no end when a script calls itself.
+    bool isStopWanted() { return m_feeder && m_feeder->poll(); }
 
     /// Who answers when the queue is empty; null (as in the beginning) for nobody. Not owned.
     void setFeeder(InputFeeder *feeder) { m_feeder = feeder; }

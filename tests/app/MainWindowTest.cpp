@@ -220,6 +220,12 @@ TEST_F(MainWindowTest, EscCancelsPromptsAndStopsEndlessLoops)
     EXPECT_EQ(lisp(u"went-on"_s), u"nil"_s);
     QTimer::singleShot(100, window.get(), [this] { key(Qt::Key_Escape); });
     window->enter(u"(while T)"_s);
+    QFile script(folder.filePath(u"again.scr"_s));
+    ASSERT_TRUE(script.open(QIODevice::WriteOnly));
+    script.write("SCRIPT " + script.fileName().toUtf8() + "\n");
+    script.close();
+    QTimer::singleShot(100, window.get(), [this] { key(Qt::Key_Escape); });
+    window->enter(u"SCRIPT "_s + script.fileName());
     window->enter(u"(setq alive T)"_s);
     EXPECT_EQ(lisp(u"alive"_s), u"T"_s) << "an earlier Esc must not stop the next run";
 }

@@ -78,6 +78,31 @@ TEST(InputQueue, answersComeWholeAndInOrder)
     EXPECT_EQ(std::get<TextAnswer>(*queue.take(requestFor('w'))).text, QStringLiteral("d"));
 }
 
+TEST(InputQueue, scriptsComeBeforeWhatIsTypedAheadAndReplaceEachOther)
+{
+    using enum InputQueue::ScriptOutcome;
+    InputQueue queue;
+    const auto taken = [&queue] { return std::get<TextAnswer>(*queue.take(requestFor('w'))).text.toStdString(); };
+    queue.pushTyped(QStringLiteral("script typed"));
+    EXPECT_EQ(taken(), "script");
+    EXPECT_EQ(queue.pushScript(QStringLiteral("a b")), Taken);
+    EXPECT_EQ(queue.pushScript(QStringLiteral("c d")), Taken) << "a was not begun";
+    EXPECT_EQ(taken() + taken() + taken(), "abc");
+    EXPECT_EQ(queue.pushScript(QStringLiteral("e")), Replaced) << "d is left out";
+    EXPECT_EQ(taken() + taken(), "etyped");
+    EXPECT_TRUE(queue.isEmpty());
+    for (int round = 0; round < 3; ++round) {
+        EXPECT_EQ(queue.pushScript(QStringLiteral("again\n\n")), Taken) << "nothing but blanks was left";
+        EXPECT_EQ(taken(), "again");
+    }
+    queue.clear();
+    queue.push(TextAnswer{QStringLiteral("x")});
+    const QString large(32 * 1024 * 1024, u'y');
+    EXPECT_EQ(queue.pushScript(large), Taken);
+    EXPECT_EQ(queue.pushScript(large), TooLong);
+    EXPECT_EQ(taken().size() + taken().size(), std::size_t(large.size()) + 1);
+}
+
 TEST(InputQueue, aLongScriptIsTakenInAReasonableTime)
 {
     InputQueue queue;

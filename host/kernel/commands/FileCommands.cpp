@@ -195,7 +195,7 @@ CommandTask setVariable(CommandContext &context)
 /// The largest script that is read, in bytes.
 constexpr qint64 largestScript = 64 * 1024 * 1024;
 
-// File name; the lines of the file are typed from here on.
+// File name; the lines of the file are typed from here on, before what was typed ahead.
 CommandTask script(CommandContext &context)
 {
     const PromptReply name = co_await context.text(u"Enter script file name: "_s);
@@ -205,7 +205,15 @@ CommandTask script(CommandContext &context)
         context.print(u"\nCannot read script \"%1\"."_s.arg(name.text));
         co_return;
     }
-    context.document().session().input().pushTyped(QString::fromUtf8(file.readAll()));
+    switch (context.document().session().input().pushScript(QString::fromUtf8(file.readAll()))) {
+    case InputQueue::ScriptOutcome::Taken:
+        break;
+    case InputQueue::ScriptOutcome::Replaced:
+        context.print(u"\nThe rest of the script that called it is left out."_s);
+        break;
+    case InputQueue::ScriptOutcome::TooLong:
+        context.print(u"\nToo many scripts wait to be run: \"%1\" is left out."_s.arg(name.text));
+    }
 }
 
 } // namespace

@@ -6,6 +6,16 @@ namespace host::kernel {
 
 namespace {
 
+/// Characters of scripts that wait to be begun.
+constexpr qsizetype longestScripts = 64 * 1024 * 1024;
+
+QString withLineEnd(QString text)
+{
+    if (!text.endsWith(u'\n'))
+        text += u'\n';
+    return text;
+}
+
 bool isBlank(QChar c)
 {
     return c == u' ' || c == u'\t' || c == u'\n' || c == u'\r';
@@ -81,14 +91,35 @@ InputQueue::InputQueue(QObject *parent) : QObject(parent) {}
 
 void InputQueue::pushTyped(const QString &text)
 {
-    QString line = text;
-    if (!line.endsWith(u'\n'))
-        line += u'\n';
     if (auto *last = m_items.empty() ? nullptr : std::get_if<Typed>(&m_items.back()))
-        last->text += line;
+        last->text += withLineEnd(text);
     else
-        m_items.push_back(Typed{line, 0});
+        m_items.push_back(Typed{withLineEnd(text)});
     emit filled();
+}
+
+InputQueue::ScriptOutcome InputQueue::pushScript(const QString &text)
+{
+    if (m_items.empty() || !std::holds_alternative<Typed>(m_items.front()))
+        m_items.push_front(Typed{});
+    Typed &first = std::get<Typed>(m_items.front());
+    const bool isReplaced = first.isBegun && isScriptLeft(first);
+    const qsizetype waiting = first.isBegun ? 0 : first.scriptEnd;
+    if (waiting + text.size() > longestScripts)
+        return ScriptOutcome::TooLong;
+    const QString scripts = first.text.first(waiting) + withLineEnd(text);
+    first.text.replace(0, std::max(first.position, first.scriptEnd), scripts);
+    first.position = 0;
+    first.scriptEnd = scripts.size();
+    first.isBegun = false;
+    emit filled();
+    return isReplaced ? ScriptOutcome::Replaced : ScriptOutcome::Taken;
+}
+
+bool InputQueue::isScriptLeft(const Typed &typed)
+{
+    const qsizetype left = typed.scriptEnd - typed.position;
+    return left > 0 && !QStringView(typed.text).sliced(typed.position, left).trimmed().isEmpty();
 }
 
 void InputQueue::push(const InputAnswer &answer)
@@ -110,6 +141,7 @@ std::optional<InputAnswer> InputQueue::take(const PromptRequest &request)
         return taken;
     }
     Typed &typed = std::get<Typed>(m_items.front());
+    typed.isBegun = true;
     const std::optional<QString> text = takeTyped(typed, request);
     if (typed.position >= typed.text.size())
         m_items.pop_front();
@@ -155,6 +187,7 @@ void InputQueue::skipDelimiter(Typed &typed, qsizetype end)
     // A used-up beginning is cut off now and then, so that neither memory nor copying grows with a long script.
     if (typed.position > typed.text.size() / 2) {
         typed.text.remove(0, typed.position);
+        typed.scriptEnd = std::max<qsizetype>(typed.scriptEnd - typed.position, 0);
         typed.position = 0;
     }
 }

@@ -26,6 +26,17 @@ public:
     void pushTyped(const QString &text);
     void push(const InputAnswer &answer);
 
+    enum class ScriptOutcome
+    {
+        Taken,
+        Replaced, ///< taken in place of what was left of the script that called it
+        TooLong   ///< not taken: more scripts wait than may
+    };
+    /// A whole script, which comes before everything else. Scripts do not nest: one that a script calls takes the place
+    /// of what is left of that one, so that a script which calls itself repeats and nothing grows. Those that a program
+    /// calls one after the other, before any was begun, follow each other.
+    ScriptOutcome pushScript(const QString &text);
+
     bool isEmpty() const { return m_items.empty(); }
     /// Forgets everything, as Esc does.
     void clear();
@@ -44,11 +55,14 @@ private:
     {
         QString text;
         qsizetype position = 0;
+        qsizetype scriptEnd = 0; ///< up to here it is a script's; only in the first item
+        bool isBegun = false;    ///< something of the script was taken
     };
     using Item = std::variant<Typed, InputAnswer>;
 
     static std::optional<QString> takeTyped(Typed &typed, const PromptRequest &request);
     static void skipDelimiter(Typed &typed, qsizetype end);
+    static bool isScriptLeft(const Typed &typed);
 
     std::deque<Item> m_items;
 };

@@ -81,9 +81,14 @@ InputAnswer UserInput::nextAnswer(const PromptRequest &request)
         return *answer;
     Session &session = m_document.session();
     for (;;) {
-        if (!session.input().isEmpty())
+        if (!session.input().isEmpty()) {
+            if (session.isStopWanted()) {
+                session.input().clear();
+                return CancelAnswer{};
+            }
             if (std::optional<InputAnswer> answer = session.input().take(request))
                 return *answer;
+        }
         InputFeeder *feeder = session.feeder();
         const bool isFed = feeder && feeder->feed(request, session.input()) == FeedResult::Supplied;
         if (!isFed || session.input().isEmpty()) {
