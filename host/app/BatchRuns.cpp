@@ -1,6 +1,7 @@
 #include "host/app/BatchRuns.h"
 
 #include "host/app/DrawingPicture.h"
+#include "host/app/LimitWatch.h"
 #include "host/app/ProgramOutput.h"
 #include "host/app/SessionPlayer.h"
 #include "host/app/UnattendedFeeder.h"
@@ -23,7 +24,7 @@ namespace {
 
 WorkbenchOptions workbenchOptions(const ProgramOptions &options)
 {
-    return {.home = options.home, .module = options.module, .tools = options.tools};
+    return {.home = options.home, .module = options.module, .tools = options.tools, .memoryLimit = options.memoryLimit};
 }
 
 /// Tells the problems from `told` on.
@@ -155,8 +156,11 @@ int SessionBatch::playOn(kernel::Document &document, const QString &path)
         playback.outFolder = QFileInfo(m_options.outFolder).absoluteFilePath();
     if (!m_options.pictureFolder.isEmpty())
         playback.pictureFolder = QFileInfo(m_options.pictureFolder).absoluteFilePath();
-    playback.timeLimit = m_options.timeLimit;
-    const PlaybackResult result = runSession(m_script, document, playback);
+    playback.timeLimit = m_options.timeLimit.value_or(playback.timeLimit);
+    const PlaybackResult result = [&] {
+        const LimitWatch watch(LimitWatch::withTimeToStop(playback.timeLimit), native(path));
+        return runSession(m_script, document, playback);
+    }();
     if (!result.ok) {
         writeMessage(u"%1: %2: %3"_s.arg(native(path), native(m_options.session), result.message));
         writeResult(u"%1: failed\n"_s.arg(native(path)));
@@ -257,8 +261,10 @@ int runLispFiles(const ProgramOptions &options)
 {
     if (!std::all_of(options.lispFiles.begin(), options.lispFiles.end(), isReadable))
         return ExitFileError;
+    const std::chrono::milliseconds timeLimit = options.timeLimit.value_or(std::chrono::milliseconds());
+    const LimitWatch watch(LimitWatch::withTimeToStop(timeLimit), options.lispFiles.join(", "_L1));
     Workbench workbench(workbenchOptions(options));
-    UnattendedFeeder nobody;
+    UnattendedFeeder nobody(timeLimit);
     workbench.session().setFeeder(&nobody);
     kernel::Document *document = nullptr;
     if (options.drawing.isEmpty()) {
@@ -298,6 +304,7 @@ int convertDrawing(const ProgramOptions &options)
             u"%1: the extension must be dxf, %2"_s.arg(native(options.output), pictureExtensions().join(", "_L1)));
         return ExitUsage;
     }
+    const LimitWatch watch(options.timeLimit.value_or(std::chrono::milliseconds()), native(options.input));
     const drawing::ReadResult read = drawing::Drawing::open(options.input);
     if (!read) {
         writeMessage(native(options.input) + u": "_s + read.error.message());

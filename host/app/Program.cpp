@@ -45,7 +45,7 @@ int playInWindow(MainWindow &window, const ProgramOptions &options)
     playback.variables.insert(u"SESSION_DIR"_s, QFileInfo(options.session).absolutePath());
     playback.pictureFolder = options.pictureFolder;
     playback.outFolder = options.pictureFolder;
-    playback.timeLimit = options.timeLimit;
+    playback.timeLimit = options.timeLimit.value_or(playback.timeLimit);
     const PlaybackResult result = window.play(readPlayback(options.session), playback);
     if (result.ok)
         return ExitDone;
@@ -74,7 +74,7 @@ int pictureOfWindow(MainWindow &window, const ProgramOptions &options)
 
 int runWindow(const ProgramOptions &options)
 {
-    MainWindow window({.home = options.home, .module = options.module, .tools = options.tools});
+    MainWindow window({.home = options.home, .module = options.module, .tools = options.tools, .memoryLimit = options.memoryLimit});
     for (const QString &problem : window.workbench().problems())
         writeMessage(problem);
     const QString home = window.workbench().session().home();

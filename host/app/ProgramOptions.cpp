@@ -1,5 +1,7 @@
 #include "host/app/ProgramOptions.h"
 
+#include "host/kernel/Session.h"
+
 #include <QHash>
 
 #include <functional>
@@ -46,6 +48,19 @@ QString setTimeLimit(ProgramOptions &options, const QString &value)
     return {};
 }
 
+QString setMemoryLimit(ProgramOptions &options, const QString &value)
+{
+    using kernel::Session;
+    bool ok = false;
+    const int megabytes = value.toInt(&ok);
+    if (!ok || megabytes < Session::leastLispHeap || megabytes > Session::largestLispHeap)
+        return u"--memory-limit takes megabytes from %1 to %2, not \"%3\""_s.arg(Session::leastLispHeap)
+            .arg(Session::largestLispHeap)
+            .arg(value);
+    options.memoryLimit = megabytes;
+    return {};
+}
+
 template <QString ProgramOptions::*member>
 QString setText(ProgramOptions &options, const QString &value)
 {
@@ -71,7 +86,8 @@ const QList<OptionRow> &optionRows()
         {"--session", Value::Needed, {Mode::Window}, setText<&ProgramOptions::session>},
         {"--out", Value::Needed, {Mode::Run}, setText<&ProgramOptions::outFolder>},
         {"--drawing", Value::Needed, {Mode::Lisp}, setText<&ProgramOptions::drawing>},
-        {"--time-limit", Value::Needed, {Mode::Run, Mode::Window}, setTimeLimit},
+        {"--time-limit", Value::Needed, {}, setTimeLimit},
+        {"--memory-limit", Value::Needed, {Mode::Run, Mode::Lisp, Mode::Window}, setMemoryLimit},
         {"--png", Value::None, {Mode::Run}, setFlag<&ProgramOptions::withPictures>},
         {"--strict", Value::None, {Mode::Convert}, setFlag<&ProgramOptions::isStrict>},
         {"--json", Value::None, {Mode::Convert}, setFlag<&ProgramOptions::withJson>}};
@@ -178,7 +194,7 @@ constexpr auto commonHelp = R"(Options for every use:
   --tools DIR          folder of the Lisp tools (default: $ORTAKIT_TOOLS, or the one installed with the program)
   --help, --version
 
-Exit status: 0 done, 1 a tool, expression or session failed, 2 wrong use, 3 part of a batch failed
+Exit status: 0 done, 1 a tool, expression or session failed or passed a limit, 2 wrong use, 3 part of a batch failed
 or, with --strict, of a picture is missing, 4 a file could not be read or written.
 )";
 
@@ -194,6 +210,8 @@ Options of the window:
   --session FILE        play a recorded session in the window first
   --screenshot-dir DIR  write a picture of the window to DIR/window.png and end
   --time-limit SECONDS  the most a session may take (default 120)
+  --memory-limit MB     the most memory Lisp may take, 16 to 1048576 (default: the system variable LISPHEAPMAX, which is
+                        2048 as long as nobody changed it)
 
 )";
 
@@ -205,7 +223,9 @@ they are. Prints a line for each.
   --out DIR             write the drawings that the session changed there, under their own names
   --png                 write a picture of each drawing as it is in the end to the out folder, or else beside the drawing
   --screenshot-dir DIR  where pictures go that the session takes, and those of --png
-  --time-limit SECONDS  the most the session may take with one drawing (default 120)
+  --time-limit SECONDS  the most the session may take with one drawing (default 120); one that does not stop then ends the
+                        program
+  --memory-limit MB     the most memory Lisp may take (default: the system variable LISPHEAPMAX)
 
 )";
 
@@ -214,6 +234,10 @@ constexpr auto lispHelp = R"(Usage: ortakit lisp FILE... [--drawing DRAWING] [OP
 Loads the Lisp files in order and prints what they print. "-" reads expressions from standard input. Without --drawing
 a new drawing is open. Nothing asks a person: prompts are cancelled, and a dialog ends the program with status 1.
 
+  --time-limit SECONDS  the most all of it may take (default: no limit)
+  --memory-limit MB     the most memory Lisp may take, more being an error of the program (default: the system variable
+                        LISPHEAPMAX)
+
 )";
 
 constexpr auto convertHelp = R"(Usage: ortakit convert IN OUT [--strict] [--json] [OPTION...]
@@ -221,6 +245,7 @@ constexpr auto convertHelp = R"(Usage: ortakit convert IN OUT [--strict] [--json
 Opens a drawing and writes it as what the extension of OUT says: dxf, png, svg or pdf. What a picture does not show, or
 only in part, is told on standard error, by type.
 
+  --time-limit SECONDS  the most it may take (default: no limit); OUT stays as it was when it takes longer
   --strict  end with status 3 when something is missing in the picture, which is written all the same
   --json    print one line of JSON: input, output, and of pictures complete, drawn, invisible, inPart and notDrawn (a
             number for each type) and cutShort

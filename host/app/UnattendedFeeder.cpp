@@ -1,10 +1,16 @@
 #include "host/app/UnattendedFeeder.h"
 
+#include "host/app/LimitWatch.h"
 #include "host/app/WidgetFinder.h"
 
 #include <QCoreApplication>
 
 namespace host::app {
+
+UnattendedFeeder::UnattendedFeeder(std::chrono::milliseconds timeLimit) : m_timeLimit(timeLimit)
+{
+    m_elapsed.start();
+}
 
 kernel::FeedResult UnattendedFeeder::feed(const kernel::PromptRequest &, kernel::InputQueue &)
 {
@@ -14,6 +20,8 @@ kernel::FeedResult UnattendedFeeder::feed(const kernel::PromptRequest &, kernel:
 bool UnattendedFeeder::poll()
 {
     QCoreApplication::processEvents();
+    if (m_problem.isEmpty() && m_timeLimit.count() > 0 && m_elapsed.hasExpired(m_timeLimit.count()))
+        m_problem = limitMessage(m_timeLimit);
     return !m_problem.isEmpty();
 }
 

@@ -57,6 +57,8 @@ Workbench::Workbench(const WorkbenchOptions &options, QWidget *mainWindow)
     : m_tools(readTools(findToolsFolder(options.tools))), m_session(sessionOptions(options, m_tools))
 {
     m_session.setMainWindow(mainWindow);
+    if (options.memoryLimit)
+        m_session.capLispHeap(*options.memoryLimit);
     loadModule(findModuleFile(options.module));
     if (m_tools.folder.isEmpty()) {
         const QString folder = findToolsFolder(options.tools);

@@ -5,6 +5,8 @@
 
 #include <QObject>
 
+#include <optional>
+
 namespace host::app {
 
 /// What the program works with besides its own files.
@@ -13,6 +15,7 @@ struct WorkbenchOptions
     QString home;   ///< folder of the user's data; empty: the session's own choice
     QString module; ///< file of the plug-in module; empty: $ORTAKIT_MODULE, else the one installed with the program
     QString tools;  ///< folder of the Lisp tools; empty: $ORTAKIT_TOOLS, else the one installed with the program
+    std::optional<int> memoryLimit = {}; ///< of Lisp, in MB; nothing: the user's setting alone
 };
 
 /// A running host with the plug-in module and the Lisp tools: what window and batch runs share. Every document that

@@ -286,6 +286,8 @@ std::vector<HostVariable> stateVariables()
          [](const Document &document) -> VariableValue { return currentLayout(document.drawing()); }, isLayoutName},
         {"LOGFILEPATH", Computed, ReadWrite, text(""), 0.0, 0.0, 0, logFilePath,
          [](const Document &, const VariableValue &value) { return QFileInfo(std::get<QString>(value)).isDir(); }},
+        {"LISPHEAPMAX", Computed, ReadWrite, 0, Session::leastLispHeap, Session::largestLispHeap, 0,
+         [](const Document &document) -> VariableValue { return document.session().lispHeapLimit(); }},
         {"WIPEOUTFRAME", Computed, ReadWrite, 1, 0, 2, 0,
          [](const Document &document) -> VariableValue { return drawing::wipeoutFrame(document.drawing()); }},
         computed("CDATE",

@@ -23,6 +23,11 @@ lisp::PollAnswer LispConsole::poll()
     return m_document.session().isStopWanted() ? lisp::PollAnswer::Stop : lisp::PollAnswer::Continue;
 }
 
+std::int64_t LispConsole::heapLimit()
+{
+    return std::int64_t(m_document.session().lispHeapLimit()) * 1024 * 1024;
+}
+
 std::optional<std::string> LispConsole::readLine()
 {
     PromptRequest request;

@@ -17,6 +17,7 @@ public:
     void write(std::string_view text) override;
     void tellLostText(std::string_view message) override;
     lisp::PollAnswer poll() override;
+    std::int64_t heapLimit() override;
     std::optional<std::string> readLine() override;
     std::string findFile(const std::string &name) override;
     lisp::Value systemVariable(std::string_view name) override;

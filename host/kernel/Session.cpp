@@ -34,11 +34,24 @@ void tidyUp(const QString &home)
         files::removeLeftoversIn(files::nativePath(folder));
 }
 
+/// The setting's name for the user; its local name is the same in lower case.
+const QString lispHeapName = QStringLiteral("LISPHEAPMAX");
+/// Ample for drawings of a million entities in lists, and little enough for the rest of the desktop to go on.
+constexpr int usualLispHeap = 2048;
+
+int lispHeapSetting(const SettingsStore &settings)
+{
+    bool isNumber = false;
+    const int kept = settings.text(lispHeapName, lispHeapName.toLower()).toInt(&isNumber);
+    return isNumber ? std::clamp(kept, Session::leastLispHeap, Session::largestLispHeap) : usualLispHeap;
+}
+
 } // namespace
 
 Session::Session(const SessionOptions &options)
     : m_home(homeFolder(options.home)), m_supportFolders(options.supportFolders), m_helpFolder(options.helpFolder),
       m_aliases(m_home + QStringLiteral("/alias.xml")), m_settings(m_home + QStringLiteral("/settings.ini")),
+      m_lispHeapSetting(lispHeapSetting(m_settings)),
       m_editor(std::make_unique<Editor>()), m_commandStack(std::make_unique<CommandStack>()),
       m_help(std::make_unique<HelpService>(*this)), m_customBlocks(std::make_unique<CustomBlocks>()),
       m_services(std::make_unique<SystemServices>(*this)), m_documents(std::make_unique<DocumentManager>(*this)),
@@ -55,6 +68,12 @@ Session::~Session()
     m_modules.reset();
     m_documents.reset();
     installServices(m_servicesBefore);
+}
+
+void Session::setLispHeapLimit(int megabytes)
+{
+    m_lispHeapSetting = megabytes;
+    m_settings.setText(lispHeapName, lispHeapName.toLower(), QString::number(megabytes));
 }
 
 RunResult Session::runQueue()

@@ -60,6 +60,16 @@ public:
     /// asking: also what is typed ahead has no end when a script calls itself.
     bool isStopWanted() { return m_feeder && m_feeder->poll(); }
 
+    /// The most memory, in MB, that Lisp programs may take: the user's setting LISPHEAPMAX, or less where this run has
+    /// a limit of its own.
+    int lispHeapLimit() const { return std::min(m_lispHeapSetting, m_lispHeapCap); }
+    /// Changes and keeps the setting.
+    void setLispHeapLimit(int megabytes);
+    /// A limit for this run, that no program can raise.
+    void capLispHeap(int megabytes) { m_lispHeapCap = megabytes; }
+    static constexpr int leastLispHeap = 16;
+    static constexpr int largestLispHeap = 1024 * 1024;
+
     /// Who answers when the queue is empty; null (as in the beginning) for nobody. Not owned.
     void setFeeder(InputFeeder *feeder) { m_feeder = feeder; }
     InputFeeder *feeder() const { return m_feeder; }
@@ -87,6 +97,8 @@ private:
     QString m_helpFolder;
     CommandAliases m_aliases;
     SettingsStore m_settings;
+    int m_lispHeapSetting;
+    int m_lispHeapCap = largestLispHeap;
     InputQueue m_input;
     InputFeeder *m_feeder = nullptr;
     QPointer<QWidget> m_mainWindow;

@@ -183,6 +183,8 @@ void SystemVariables::setInternally(QStringView name, const VariableValue &value
     } else if (upper == QStringLiteral("LOGFILEPATH")) {
         const QString folder = std::get<QString>(value);
         m_values.insert(upper, folder.endsWith(u'/') ? folder : folder + u'/');
+    } else if (upper == QStringLiteral("LISPHEAPMAX")) {
+        m_document.session().setLispHeapLimit(std::get<qint32>(value));
     } else if (variable && variable->place != VariablePlace::Header) {
         m_values.insert(upper, value);
     } else {

@@ -29,6 +29,9 @@ TEST(ProgramOptions, RefusesWhatMakesNoSense)
         {u"run s d --drawing x"_s, u"--drawing has no meaning here"_s},
         {u"run s d --time-limit 0"_s, u"--time-limit takes seconds up to a day, not \"0\""_s},
         {u"run s d --time-limit nan"_s, u"--time-limit takes seconds up to a day, not \"nan\""_s},
+        {u"lisp a.lsp --memory-limit 15"_s, u"--memory-limit takes megabytes from 16 to 1048576, not \"15\""_s},
+        {u"lisp a.lsp --memory-limit 1e3"_s, u"--memory-limit takes megabytes from 16 to 1048576, not \"1e3\""_s},
+        {u"convert a.dxf b.dxf --memory-limit 64"_s, u"--memory-limit has no meaning here"_s},
         {u"lisp"_s, u"lisp needs at least one file"_s},
         {u"convert a.dxf"_s, u"convert needs two files"_s},
         {u"convert a b c"_s, u"convert needs two files"_s},
@@ -53,7 +56,9 @@ TEST(ProgramOptions, UnderstandsEachUse)
     EXPECT_EQ(run.drawings, QStringList({u"a.dxf"_s, u"b.dxf"_s}));
     EXPECT_EQ(run.outFolder, u"o=1"_s);
     EXPECT_TRUE(run.withPictures);
-    EXPECT_EQ(run.timeLimit.count(), 500);
+    EXPECT_EQ(run.timeLimit->count(), 500);
+    EXPECT_EQ(parse("lisp a.lsp --memory-limit 64").memoryLimit, 64);
+    EXPECT_EQ(parse("convert a.dxf b.dxf --time-limit 2").timeLimit->count(), 2000);
     EXPECT_EQ(parse("lisp a.lsp - --drawing d.dxf").lispFiles, QStringList({u"a.lsp"_s, u"-"_s}));
     EXPECT_EQ(parse("run --help --nonsense").mode, Mode::Help);
     EXPECT_EQ(parse("run --help").helpFor, Mode::Run);

@@ -40,6 +40,11 @@ struct ProgramTest : testing::Test
         write(u"draw.scr"_s,
               "; one shape\ncircle 1,1 2\n(princ (strcat \"drawn \" (itoa (sslength (ssget \"_X\")))))\n");
         write(u"script.lsp"_s, "(command \"SCRIPT\" \"draw.scr\")(princ)\n");
+        write(u"again.scr"_s, "circle 1,1 2\nSCRIPT again.scr\n");
+        write(u"again.lsp"_s, "(command \"SCRIPT\" \"again.scr\")(princ)\n");
+        write(u"again.txt"_s, "command SCRIPT\nanswer again.scr\n");
+        write(u"fills.lsp"_s, "(setvar \"LISPHEAPMAX\" 1000000)(while t (setq l (cons 1 l)))\n");
+        write(u"loops.lsp"_s, "(while t (vl-catch-all-apply 'car '(5)))\n");
         write(u"stops.lsp"_s, "(command \"SCRIPT\" \"error.lsp\")(princ)\n");
         EXPECT_TRUE(QDir(folder.path()).mkpath(u"tools"_s));
     }
@@ -106,6 +111,10 @@ TEST_F(ProgramTest, EndsWithTheStatusItsManualNames)
 
         {u"lisp stops.lsp"_s, 1, u"before"_s, u"stops.lsp: bad argument type"_s},
         {u"lisp error.lsp"_s, 1, u"before"_s, u"error.lsp"_s},
+        {u"lisp fills.lsp --memory-limit 20"_s, 1, {}, u"fills.lsp: out of memory (limit 20 MB) in (CONS)"_s},
+        {u"lisp loops.lsp --time-limit 0.3"_s, 1, {}, u"loops.lsp: it took longer than 0.3 s"_s},
+        {u"lisp again.lsp --time-limit 0.3"_s, 1, u"CIRCLE"_s, u"again.lsp: it took longer than 0.3 s"_s},
+        {u"run again.txt a.dxf --time-limit 0.3"_s, 1, u"a.dxf: failed"_s, u"the session took longer than 0.3 s"_s},
         {u"lisp asks.lsp"_s, 1, {}, u"asks.lsp"_s},
         {u"run fails.txt a.dxf"_s, 1, u"a.dxf: failed\n"_s, u"line 1 (expect-count LINE 7): there are 2"_s},
         {u"run asks.txt a.dxf"_s, 1, u"a.dxf: failed\n"_s, u"the prompt \"Where:\" is open"_s},
