@@ -57,7 +57,7 @@ struct ProgramOptions
     /// Of each session; of a Lisp run or a conversion as a whole. Nothing: the usual one of a session, none of others.
     std::optional<std::chrono::milliseconds> timeLimit;
     std::optional<int> memoryLimit; ///< of Lisp, in MB; Run, Lisp, Window
-    QString error; ///< why the arguments make no sense; empty when they do
+    QString error;                  ///< why the arguments make no sense; empty when they do
 
     /// Nobody sits in front of it.
     bool isUnattended() const { return mode != Mode::Window || !pictureFolder.isEmpty(); }

@@ -96,8 +96,9 @@ void ensureClass(Drawing &drawing, const QString &type)
 
 bool mayBeEntity(const QString &type)
 {
-    static const QStringList others = {u"SECTION"_s, u"ENDSEC"_s, u"EOF"_s,        u"TABLE"_s,     u"ENDTAB"_s, u"BLOCK"_s,
-                                       u"ENDBLK"_s,  u"CLASS"_s,  u"DICTIONARY"_s, u"XRECORD"_s, u"LAYOUT"_s};
+    static const QStringList others = {u"SECTION"_s,    u"ENDSEC"_s,  u"EOF"_s,    u"TABLE"_s,
+                                       u"ENDTAB"_s,     u"BLOCK"_s,   u"ENDBLK"_s, u"CLASS"_s,
+                                       u"DICTIONARY"_s, u"XRECORD"_s, u"LAYOUT"_s};
     const bool isWord = std::ranges::all_of(type, [](QChar c) { return c.isPrint() && !c.isSpace(); });
     return isWord && !type.isEmpty() && !others.contains(type) && !tableKindOf(type);
 }

@@ -51,11 +51,10 @@ int lispHeapSetting(const SettingsStore &settings)
 Session::Session(const SessionOptions &options)
     : m_home(homeFolder(options.home)), m_supportFolders(options.supportFolders), m_helpFolder(options.helpFolder),
       m_aliases(m_home + QStringLiteral("/alias.xml")), m_settings(m_home + QStringLiteral("/settings.ini")),
-      m_lispHeapSetting(lispHeapSetting(m_settings)),
-      m_editor(std::make_unique<Editor>()), m_commandStack(std::make_unique<CommandStack>()),
-      m_help(std::make_unique<HelpService>(*this)), m_customBlocks(std::make_unique<CustomBlocks>()),
-      m_services(std::make_unique<SystemServices>(*this)), m_documents(std::make_unique<DocumentManager>(*this)),
-      m_modules(std::make_unique<ModuleLoader>())
+      m_lispHeapSetting(lispHeapSetting(m_settings)), m_editor(std::make_unique<Editor>()),
+      m_commandStack(std::make_unique<CommandStack>()), m_help(std::make_unique<HelpService>(*this)),
+      m_customBlocks(std::make_unique<CustomBlocks>()), m_services(std::make_unique<SystemServices>(*this)),
+      m_documents(std::make_unique<DocumentManager>(*this)), m_modules(std::make_unique<ModuleLoader>())
 {
     tidyUp(m_home);
     m_servicesBefore =

@@ -1,9 +1,8 @@
 // Lists of fields that no drawing may have in it: what of them is taken still makes a file that opens again, with the
 // same records in it.
 
-#include "tests/kernel/Bench.h"
-
 #include "host/drawing/Drawing.h"
+#include "tests/kernel/Bench.h"
 
 namespace {
 
@@ -21,8 +20,10 @@ const char *const makeText = "(setq e (entmakex '((0 . \"TEXT\") (10 0 0 0) (40 
 
 const HostileCase cases[] = {
     {"structure as a type",
-     "(vl-remove nil (mapcar '(lambda (type) (entmake (list (cons 0 type) '(100 . \"AcDbX\") '(8 . \"0\") '(10 0 0 0))))"
-     " '(\"EOF\" \"eof \" \"SECTION\" \"EndSec\" \"TABLE\" \"ENDTAB\" \"ENDBLK\" \"SEQEND\" \"CLASS\" \"VERTEX\" \"ATTRIB\""
+     "(vl-remove nil (mapcar '(lambda (type) (entmake (list (cons 0 type) '(100 . \"AcDbX\") '(8 . \"0\") '(10 0 0 "
+     "0))))"
+     " '(\"EOF\" \"eof \" \"SECTION\" \"EndSec\" \"TABLE\" \"ENDTAB\" \"ENDBLK\" \"SEQEND\" \"CLASS\" \"VERTEX\" "
+     "\"ATTRIB\""
      " \"BLOCK_RECORD\" \"LAYOUT\" \"A\\nB\" \"A B\" \"\\t\" \"\")))",
      "nil"},
     {"structure as a type in a block",
@@ -53,7 +54,8 @@ const HostileCase cases[] = {
     {"texts in place of numbers", "(entmake '((0 . \"POINT\") (10 0 0 0) (62 . \"1\\n0\\nEOF\")))",
      "error: bad DXF group: (62 . \"1\\n0\\nEOF\") (not a number) in (ENTMAKE)"},
     {"numbers that are none",
-     "(vl-catch-all-error-p (vl-catch-all-apply 'entmake (list (list '(0 . \"POINT\") (list 10 (/ 1e308 1e-308) 0 0)))))",
+     "(vl-catch-all-error-p (vl-catch-all-apply 'entmake (list (list '(0 . \"POINT\") (list 10 (/ 1e308 1e-308) 0 "
+     "0)))))",
      nullptr},
     {"handles of others",
      "(progn (entmake '((0 . \"LINE\") (5 . \"1\") (10 0 0 0) (11 1 0 0) (5 . \"2\")))"
@@ -67,13 +69,16 @@ const HostileCase cases[] = {
      "(entmake '((0 . \"STYLE\") (2 . \"\") (70 . 1) (3 . \"a\\n0\\nEOF\"))) (regapp \"A\\n0\\nEOF\") 0)",
      "0"},
     {"a second type given to a table entry",
-     "(progn (setq e (tblobjname \"LAYER\" \"0\")) (entmod (append (entget e) '((0 . \"ENDTAB\") (5 . \"1\")))) 0)", "0"},
+     "(progn (setq e (tblobjname \"LAYER\" \"0\")) (entmod (append (entget e) '((0 . \"ENDTAB\") (5 . \"1\")))) 0)",
+     "0"},
     {"an extension record",
      "(progn (setq r (entmakex '((0 . \"XRECORD\") (0 . \"EOF\") (1 . \"a\\n0\\nEOF\") (5 . \"1\") (310 . \"zz\\n\"))))"
-     "(if r (entmod (list (cons -1 r) '(0 . \"XRECORD\") '(1 . \"b\") '(0 . \"EOF\") '(5 . \"7\") '(102 . \"{\\n\")))) 0)",
+     "(if r (entmod (list (cons -1 r) '(0 . \"XRECORD\") '(1 . \"b\") '(0 . \"EOF\") '(5 . \"7\") '(102 . \"{\\n\")))) "
+     "0)",
      "0"},
     {"a dictionary's names",
-     "(progn (if (namedobjdict) (dictadd (namedobjdict) \"a\\n0\\nEOF\" (entmakex '((0 . \"XRECORD\") (1 . \"a\"))))) 0)",
+     "(progn (if (namedobjdict) (dictadd (namedobjdict) \"a\\n0\\nEOF\" (entmakex '((0 . \"XRECORD\") (1 . \"a\"))))) "
+     "0)",
      "0"},
     {"an INSERT that never ends",
      "(progn (entmake '((0 . \"INSERT\") (66 . 1) (2 . \"B3\") (10 0 0 0))) (entmake '((0 . \"POINT\") (10 1 1 1)))"
@@ -87,9 +92,9 @@ std::vector<std::string> recordsOf(const Drawing &drawing)
     std::vector<std::string> records;
     for (RecordId id = drawing.first(); isValid(id); id = drawing.next(id)) {
         const RecordId parent = drawing.parent(id);
-        records.push_back(std::to_string(int(drawing.kind(id))) + ' ' + drawing.handle(id).toHex().toStdString() + " in " +
-                          (isValid(parent) ? drawing.typeName(parent).toByteArray().toStdString() : "") + ": " +
-                          drawing.bytes(id).toByteArray().toStdString());
+        records.push_back(std::to_string(int(drawing.kind(id))) + ' ' + drawing.handle(id).toHex().toStdString() +
+                          " in " + (isValid(parent) ? drawing.typeName(parent).toByteArray().toStdString() : "") +
+                          ": " + drawing.bytes(id).toByteArray().toStdString());
     }
     return records;
 }
@@ -120,9 +125,10 @@ TEST_P(HostileLists, leaveAFileThatOpensAgainWithTheSameRecords)
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(versions, HostileLists,
-                         testing::Values(QByteArray(), QByteArray("9\n$ACADVER\n1\nAC1009\n9\n$HANDLING\n70\n0\n"),
-                                         QByteArray("9\n$ACADVER\n1\nAC1009\n9\n$HANDLING\n70\n1\n9\n$HANDSEED\n5\n20\n"),
-                                         QByteArray("9\n$ACADVER\n1\nAC1015\n9\n$DWGCODEPAGE\n3\nANSI_932\n")));
+INSTANTIATE_TEST_SUITE_P(
+    versions, HostileLists,
+    testing::Values(QByteArray(), QByteArray("9\n$ACADVER\n1\nAC1009\n9\n$HANDLING\n70\n0\n"),
+                    QByteArray("9\n$ACADVER\n1\nAC1009\n9\n$HANDLING\n70\n1\n9\n$HANDSEED\n5\n20\n"),
+                    QByteArray("9\n$ACADVER\n1\nAC1015\n9\n$DWGCODEPAGE\n3\nANSI_932\n")));
 
 } // namespace

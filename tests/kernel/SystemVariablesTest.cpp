@@ -50,8 +50,8 @@ const LispCase cases[] = {
      " \"Layout1\"))) (getvar \"LIMMAX\") (getvar \"CVPORT\") (setvar \"TILEMODE\" 1)"
      " (equal m (getvar \"LIMMAX\")) (getvar \"CVPORT\"))",
      "((42.0 29.0 0.0) (42.0 29.0) 1 1 T 2)"},
-    {"the memory of programs", "(setvar \"LISPHEAPMAX\" 64)",
-     "(while t (setq l (list l l 1 2 3 4 5 6 7 8)))", "error: out of memory (limit 64 MB) in (LIST)"},
+    {"the memory of programs", "(setvar \"LISPHEAPMAX\" 64)", "(while t (setq l (list l l 1 2 3 4 5 6 7 8)))",
+     "error: out of memory (limit 64 MB) in (LIST)"},
     {"too little memory for programs", "", "(setvar \"LISPHEAPMAX\" 15)",
      "error: variable setting rejected: \"LISPHEAPMAX\" 15 (out of range) in (SETVAR)"},
     {"points", "(setvar \"LIMMAX\" '(420 297))", "(getvar \"LIMMAX\")", "(420.0 297.0)"},
