@@ -244,6 +244,36 @@ TEST_P(EveryDialog, ALaterCallSetsWhatItsFileNames)
     EXPECT_TRUE(lines.contains(expected.toByteArray())) << lines.join('\n').toStdString();
 }
 
+/// What a dialog has in memory, as far as it can be counted: objects, and icons, each of which has pictures in a cache.
+QStringList holdings(const QDialog &dialog)
+{
+    QCoreApplication::processEvents();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QStringList all = {u"top %1"_s.arg(QApplication::topLevelWidgets().size())};
+    for (const QObject *object : dialog.findChildren<QObject *>())
+        all.append(QString::fromLatin1(object->metaObject()->className()) + u' ' + object->objectName());
+    for (const QAbstractButton *button : dialog.findChildren<QAbstractButton *>())
+        all.append(u"icon %1 %2"_s.arg(button->objectName()).arg(button->icon().cacheKey()));
+    all.sort();
+    return all;
+}
+
+// A document's dialog is called a thousand times.
+TEST_P(EveryDialog, LaterCallsLeaveNothingBehind)
+{
+    const auto call = [this] {
+        dialog->hide();
+        dialog->state().load(host.writeFile(u"state"_s, GetParam().later.toByteArray()));
+        dialog->show();
+        QCoreApplication::processEvents();
+    };
+    call();
+    const QStringList before = holdings(*dialog);
+    for (int i = 0; i < 3; ++i)
+        call();
+    EXPECT_EQ(holdings(*dialog), before);
+}
+
 TEST_P(EveryDialog, WritesDotsThatWereTyped)
 {
     dialog->state().load(host.path(u"state"_s));
