@@ -46,6 +46,38 @@ QString writtenText(const QList<Link> &links, const QStringList &removed)
     return text;
 }
 
+/// No more than a person can read in a question.
+constexpr qsizetype longestTarget = 2000;
+
+bool isAsciiSlash(QChar c)
+{
+    return c == u'/' || c == u'\\';
+}
+
+bool isOnOtherComputer(const QString &url)
+{
+    return url.size() > 2 && isAsciiSlash(url[0]) && isAsciiSlash(url[1]);
+}
+
+/// By its name as every system has it, or by its mode.
+bool isProgram(const QUrl &target)
+{
+    static const QStringList endings{
+        QStringLiteral("appimage"), QStringLiteral("bat"),     QStringLiteral("cmd"), QStringLiteral("com"),
+        QStringLiteral("cpl"),      QStringLiteral("desktop"), QStringLiteral("exe"), QStringLiteral("hta"),
+        QStringLiteral("jar"),      QStringLiteral("js"),      QStringLiteral("lnk"), QStringLiteral("lsp"),
+        QStringLiteral("msi"),      QStringLiteral("pif"),     QStringLiteral("ps1"), QStringLiteral("py"),
+        QStringLiteral("reg"),      QStringLiteral("scr"),     QStringLiteral("sh"),  QStringLiteral("url"),
+        QStringLiteral("vbe"),      QStringLiteral("vbs"),     QStringLiteral("wsf")};
+    const QFileInfo file(target.path());
+    // Systems differ in whether they pass over points and blanks at the end.
+    QString name = file.fileName();
+    while (name.endsWith(u'.') || name.endsWith(u' '))
+        name.chop(1);
+    const bool isRunnable = target.isLocalFile() && target.host().isEmpty() && file.isFile() && file.isExecutable();
+    return isRunnable || endings.contains(QFileInfo(name).suffix().toLower());
+}
+
 /// The file that `url` names, with slashes of either kind; empty when there is none.
 QString linkedFile(const QString &url, const QString &folder)
 {
@@ -53,6 +85,8 @@ QString linkedFile(const QString &url, const QString &folder)
     if (url.isEmpty() || url.startsWith(u':'))
         return {};
     for (const QString &name : {url, QString(url).replace(u'\\', u'/')}) {
+        if (folder.isEmpty() && QDir::isRelativePath(name))
+            continue;
         const QFileInfo file(QDir(folder), name);
         if (file.exists())
             return QDir::cleanPath(file.absoluteFilePath());
@@ -99,11 +133,26 @@ QByteArray writtenLinks(const QList<Link> &links, const QStringList &removed, Li
 
 QUrl linkTarget(const QString &url, const QString &folder)
 {
+    if (isOnOtherComputer(url))
+        return QUrl::fromLocalFile(QString(url).replace(u'\\', u'/'));
     if (const QString file = linkedFile(url, folder); !file.isEmpty())
         return QUrl::fromLocalFile(file);
     const QUrl target(url.startsWith(QLatin1String("www")) ? QLatin1String("http://") + url : url, QUrl::TolerantMode);
     // Without a scheme it could be taken for a file of any folder, or for an option of whatever program opens it.
     return target.isRelative() ? QUrl() : target;
+}
+
+LinkCaution linkCaution(const QUrl &target)
+{
+    const QString scheme = target.scheme().toLower();
+    for (const char *runs : {"javascript", "vbscript", "data"})
+        if (scheme == QLatin1String(runs))
+            return LinkCaution::Refuse;
+    if (!target.isValid() || target.toEncoded().size() > longestTarget)
+        return LinkCaution::Refuse;
+    if (scheme == QLatin1String("http") || scheme == QLatin1String("https"))
+        return LinkCaution::None;
+    return isProgram(target) ? LinkCaution::AskProgram : LinkCaution::Ask;
 }
 
 } // namespace ortakit

@@ -53,8 +53,20 @@ LinkReading readLinkFile(const QString &path);
 QByteArray writtenLinks(const QList<Link> &links, const QStringList &removed, LinkEncoding encoding);
 
 /// Where the URL of a link leads: to the file or folder of that name, as seen from `folder` when it is relative, if
-/// there is one, else to the URL, to which "http://" is added when it begins with "www". Invalid when it leads nowhere:
-/// it needs a scheme.
+/// there is one, else to the URL, to which "http://" is added when it begins with "www". Without `folder`, relative
+/// names lead nowhere. A name of a file on another computer ("\\\\computer\\file") is taken as it is: to look for it
+/// would already tell that computer who asks. Invalid when it leads nowhere: it needs a scheme.
 QUrl linkTarget(const QString &url, const QString &folder = {});
+
+/// What is to be done before a link's target is handed to the desktop.
+enum class LinkCaution
+{
+    None,
+    Ask,        ///< what opens it is not known
+    AskProgram, ///< it is a program, or starts one
+    Refuse      ///< a text that would be run, or one too long to be judged
+};
+/// Pages (http, https) need no caution, everything else does.
+LinkCaution linkCaution(const QUrl &target);
 
 } // namespace ortakit

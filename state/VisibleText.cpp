@@ -37,4 +37,13 @@ QString visibleText(const QString &text)
     return visible;
 }
 
+QString visibleLines(const QString &text)
+{
+    constexpr qsizetype lineLength = 80;
+    QString lines = visibleText(text);
+    for (qsizetype end = lineLength; end < lines.size(); end += lineLength + 1)
+        lines.insert(end, u'\n');
+    return lines;
+}
+
 } // namespace ortakit

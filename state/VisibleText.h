@@ -8,4 +8,7 @@ namespace ortakit {
 /// of writing, and others that are not seen, stand as codes of the form "\U+202E", and a line end as "↵".
 QString visibleText(const QString &text);
 
+/// The same in lines that a message box shows whole, where a single long one would run off the screen.
+QString visibleLines(const QString &text);
+
 } // namespace ortakit

@@ -10,10 +10,12 @@
 #include "state/TableReplacing.h"
 #include "state/TableRows.h"
 #include "state/TableSelection.h"
+#include "state/VisibleText.h"
 #include "state/WholeTextItem.h"
 #include "ui_Dlg_QT_ShowLinks.h"
 
 #include <QDesktopServices>
+#include <QDir>
 #include <QEvent>
 #include <QFileInfo>
 #include <QSet>
@@ -192,8 +194,26 @@ void Dlg_QT_ShowLinks::showUrl()
     }
     // The URL goes to the program that the user's desktop has for it, as it is: nothing takes it for a command line.
     const QUrl target = ortakit::linkTarget(linkAt(rows.first())[ortakit::UrlField], drawingFolder());
-    if (!target.isValid() || !QDesktopServices::openUrl(target))
+    if (!mayOpen(target))
+        return;
+    if (!target.isValid() || ortakit::linkCaution(target) == ortakit::LinkCaution::Refuse ||
+        !QDesktopServices::openUrl(target))
         warn(tr("Unable to display the link."));
+}
+
+/// Links to pages are opened as they are; of every other one the user sees where it leads, whole and as it is.
+bool Dlg_QT_ShowLinks::mayOpen(const QUrl &target)
+{
+    const ortakit::LinkCaution caution = ortakit::linkCaution(target);
+    if (caution != ortakit::LinkCaution::Ask && caution != ortakit::LinkCaution::AskProgram)
+        return true;
+    const QString shown =
+        target.isLocalFile() ? QDir::toNativeSeparators(target.toLocalFile()) : QString::fromLatin1(target.toEncoded());
+    QString question = tr("Open this link?") + QStringLiteral("\n\n") + ortakit::visibleLines(shown);
+    if (caution == ortakit::LinkCaution::AskProgram)
+        question += QStringLiteral("\n\n") + tr("It is a program, or starts one.");
+    return CKvMessageBox::warning(this, tr("Warning"), question, QMessageBox::Cancel | QMessageBox::Open) ==
+           QMessageBox::Open;
 }
 
 void Dlg_QT_ShowLinks::replace()

@@ -52,6 +52,7 @@ private:
     void connectWidgets();
     void setIcons();
     static QString drawingFolder();
+    bool mayOpen(const QUrl &target);
     QString action() const;
     bool isReturning() const;
     QString linkFile() const;

@@ -3,6 +3,7 @@
 #include "host/kernel/Session.h"
 
 #include <QApplication>
+#include <QDesktopServices>
 #include <QDialog>
 #include <QEvent>
 #include <QFileInfo>
@@ -72,10 +73,28 @@ QTextBrowser &HelpService::browser()
         m_browser->setWindowFlags(Qt::Window);
         m_browser->setWindowModality(Qt::NonModal);
         m_browser->setWindowTitle(QObject::tr("Help"));
-        m_browser->setOpenExternalLinks(true);
+        m_browser->setOpenLinks(false);
+        QObject::connect(m_browser, &QTextBrowser::anchorClicked, m_browser,
+                         [this](const QUrl &link) { follow(link); });
         m_browser->resize(720, 560);
     }
     return *m_browser;
+}
+
+/// Pages lead to each other and to the web, and nowhere else.
+void HelpService::follow(const QUrl &link)
+{
+    const QUrl page = m_browser->source();
+    const bool isBeside = link.scheme() == page.scheme() && link.host().isEmpty() &&
+                          link.adjusted(QUrl::RemoveFilename | QUrl::NormalizePathSegments).path() ==
+                              page.adjusted(QUrl::RemoveFilename | QUrl::NormalizePathSegments).path();
+    if (isBeside)
+        m_browser->setSource(link);
+    else if (link.scheme() == QLatin1String("http") || link.scheme() == QLatin1String("https"))
+        QDesktopServices::openUrl(link);
+    else if (Document *document = m_session.documents().active())
+        document->print(QStringLiteral("\nThis link of the help page is not followed: %1\n")
+                            .arg(QString::fromLatin1(link.toEncoded())));
 }
 
 /// A modal dialog blocks every window but those that belong to it.

@@ -5,6 +5,7 @@
 #include <QPointer>
 
 class QTextBrowser;
+class QUrl;
 
 namespace host::kernel {
 
@@ -27,6 +28,7 @@ public:
 
 private:
     QTextBrowser &browser();
+    void follow(const QUrl &link);
     void standInFrontOf(QWidget &owner);
 
     Session &m_session;

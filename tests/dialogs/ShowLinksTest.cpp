@@ -34,7 +34,7 @@ public slots:
     void open(const QUrl &url) { opened.append(url.toString()); }
 
 private:
-    const QStringList schemes{u"file"_s, u"http"_s, u"https"_s};
+    const QStringList schemes{u"file"_s, u"http"_s, u"https"_s, u"news"_s};
 };
 
 const QByteArray threeLinks = "2F^http://b.org^LINE^Model\n30^http://A.org^TEXT^Model\n31^plan=1.pdf^LINE^Layout1\n";
@@ -196,25 +196,45 @@ TEST_F(ShowLinks, OpensWhatTheCellSaysAndNothingElse)
 {
     Desktop desktop;
     const QString file = host.writeFile(u"www plan.pdf"_s, "");
-    const std::pair<QString, QString> rows[] = {
-        {file, QUrl::fromLocalFile(file).toString()},
-        {u"www.a.org/b c"_s, u"http://www.a.org/b c"_s},
-        {u"https://a.org/$(x);y"_s, u"https://a.org/$(x);y"_s},
-        {u"--version"_s, {}},
-        {u"calc.exe"_s, {}},
-        {u"www plan.pdf"_s, QUrl::fromLocalFile(file).toString()},
-        {u":/images/help.png"_s, {}},
-        {{}, {}},
+    const QString local = QUrl::fromLocalFile(file).toString();
+    const QString starter = host.writeFile(u"plan\u202Efdp.desktop"_s, "");
+    const QString deep = u"news://a.org/"_s + QString(200, u'x');
+    // The URL, what is opened, and what the question shows that comes first, but for its line ends.
+    const std::tuple<QString, QString, QString> rows[] = {
+        {file, local, file},
+        {u"www.a.org/b c"_s, u"http://www.a.org/b c"_s, {}},
+        {u"https://a.org/$(x);y"_s, u"https://a.org/$(x);y"_s, {}},
+        {u"--version"_s, {}, {}},
+        {u"calc.exe"_s, {}, {}},
+        {u"www plan.pdf"_s, local, file},
+        {u":/images/help.png"_s, {}, {}},
+        {{}, {}, {}},
+        {local, local, file},
+        {QFileInfo(starter).fileName(), QUrl::fromLocalFile(starter).toString(),
+         u"plan\\U+202Efdp.desktopIt is a program"_s},
+        {u"\\\\computer\\share\\run.exe"_s, u"file://computer/share/run.exe"_s, u"//computer/share/run.exeIt is"_s},
+        {deep, deep, deep},
+        {u"news:\u202E"_s, u"news:\u202E"_s, u"news:%E2%80%AE"_s},
+        {u"JavaScript:alert(1)"_s, {}, {}},
+        {u"data:text/html,x"_s, {}, {}},
+        {u"news:"_s + QString(3000, u'x'), {}, {}},
     };
-    for (const auto &[url, opened] : rows) {
+    for (const auto &[url, opened, question] : rows) {
         SetUp();
         // Which is not in the folder that the program runs in.
         host.document().fakeDatabase().setFilename(host.path(u"drawing.dxf"_s));
         showLinks({}, "2F^" + url.toUtf8() + "^LINE^Model\n30^http://x^LINE^Model\n");
         choose({0});
-        desktop.opened.clear();
-        EXPECT_EQ(shownBy("btnShowUrl").join(u' ').contains(u"Unable to display the link."_s), opened.isEmpty());
-        EXPECT_EQ(desktop.opened.join(u' '), opened) << url.toStdString();
+        for (const bool agrees : {false, true}) {
+            desktop.opened.clear();
+            const QList<QMessageBox::StandardButton> answers{agrees ? QMessageBox::Open : QMessageBox::Cancel};
+            const QString boxes = shownBy("btnShowUrl", question.isEmpty() ? decltype(answers)() : answers).join(u' ');
+            EXPECT_EQ(boxes.contains(u"Unable to display the link."_s), opened.isEmpty()) << url.toStdString();
+            EXPECT_EQ(boxes.contains(u"Open this link?"_s), !question.isEmpty()) << url.toStdString();
+            EXPECT_TRUE(QString(boxes).remove(u'\n').contains(question)) << boxes.toStdString();
+            EXPECT_EQ(desktop.opened.join(u' '), agrees || question.isEmpty() ? opened : QString())
+                << url.toStdString();
+        }
     }
     choose({0, 1});
     EXPECT_TRUE(shownBy("btnShowUrl").value(0).contains(u"Select one row of table for show."_s));

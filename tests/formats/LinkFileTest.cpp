@@ -93,6 +93,10 @@ TEST(LinkFile, ALinkLeadsToAFileOrToAUrlWithAScheme)
     for (const QString &url : {u"plan.pdf"_s, u".\\plan.pdf"_s, u"./plan.pdf"_s, plan})
         EXPECT_EQ(linkTarget(url, folder.path({})), QUrl::fromLocalFile(plan)) << url.toStdString();
     EXPECT_FALSE(linkTarget({}, folder.path({})).isValid());
+    const QString before = QDir::currentPath();
+    QDir::setCurrent(folder.path({}));
+    EXPECT_FALSE(linkTarget(u"plan.pdf"_s).isValid()) << "the working folder is not the drawing's";
+    QDir::setCurrent(before);
 }
 
 } // namespace
