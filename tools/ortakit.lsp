@@ -30,8 +30,11 @@
 ;;; support/variables.lsp system variables
 ;;; support/viewports.lsp viewports of the sheet
 
+;; By the path of the installation, whatever lies in the working folder or beside the drawing.
+(setq kora:support_folder (strcat (vl-filename-directory (findfile "ortakit.lsp")) "/support/"))
+
 (foreach file '("strings" "run" "state" "entities" "selection" "texts" "textboxes" "catalogue" "files" "dimstyles" "arrows"
                 "blocks" "attributes" "tables" "replacing" "drawing" "variables" "viewports" "outlines" "areas" "regions"
                 "strokes" "hatches" "pictures" "rooms" "patterns" "copies" "groups" "companions")
-  (load (strcat "support/" file ".lsp")))
+  (load (strcat kora:support_folder file ".lsp")))
 (princ)

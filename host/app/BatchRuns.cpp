@@ -24,7 +24,11 @@ namespace {
 
 WorkbenchOptions workbenchOptions(const ProgramOptions &options)
 {
-    return {.home = options.home, .module = options.module, .tools = options.tools, .memoryLimit = options.memoryLimit};
+    return {.home = options.home,
+            .module = options.module,
+            .tools = options.tools,
+            .trustedFolders = options.trustedFolders,
+            .memoryLimit = options.memoryLimit};
 }
 
 /// Tells the problems from `told` on.

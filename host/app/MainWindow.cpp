@@ -3,6 +3,7 @@
 #include "host/app/CommandLine.h"
 #include "host/app/DrawingCanvas.h"
 #include "host/app/Preferences.h"
+#include "host/app/TrustQuestion.h"
 #include "host/app/WindowFeeder.h"
 #include "host/drawing/HeaderVariables.h"
 
@@ -88,6 +89,7 @@ MainWindow::MainWindow(const WorkbenchOptions &options)
     connectCommandLine();
 
     m_workbench->session().setFeeder(m_feeder.get());
+    m_workbench->session().trustedFolders().setQuestion(trustQuestion(*this));
     connect(m_feeder.get(), &WindowFeeder::requestChanged, this, [this] { showRequest(m_feeder->request()); });
     connect(m_tabs, &QTabWidget::currentChanged, this, &MainWindow::activateTab);
     connect(m_tabs, &QTabWidget::tabCloseRequested, this, &MainWindow::closeTab);
@@ -123,6 +125,9 @@ void MainWindow::buildStatusBar()
     m_coordinates->setMinimumWidth(fontMetrics().horizontalAdvance(u"-000000.0000, -000000.0000"_s));
     m_status->setObjectName(u"drawingStatus"_s);
     m_notDrawn->setObjectName(u"notDrawn"_s);
+    // They show names from files: markup in these could read further files.
+    m_status->setTextFormat(Qt::PlainText);
+    m_notDrawn->setTextFormat(Qt::PlainText);
     statusBar()->addWidget(m_coordinates);
     statusBar()->addWidget(m_status, 1);
     statusBar()->addPermanentWidget(m_notDrawn);
@@ -383,7 +388,7 @@ void MainWindow::updateTitles()
         // An & in a file name is no mnemonic.
         const QString title = open.title().replace(u'&', u"&&"_s);
         m_tabs->setTabText(i, open.isModified() ? title + u'*' : title);
-        m_tabs->setTabToolTip(i, QDir::toNativeSeparators(open.path()));
+        m_tabs->setTabToolTip(i, Qt::convertFromPlainText(QDir::toNativeSeparators(open.path()), Qt::WhiteSpaceNormal));
     }
     const kernel::Document *active = document();
     setWindowTitle(active ? u"%1[*] - Ortakit"_s.arg(active->title()) : u"Ortakit"_s);
@@ -407,7 +412,8 @@ void MainWindow::updateReport()
     const QString text = report.isWhole() ? tr("All entities drawn") : report.missing();
     m_notDrawn->setText(
         m_notDrawn->fontMetrics().elidedText(text, Qt::ElideRight, std::max(width() / 2, longestReport)));
-    m_notDrawn->setToolTip(report.isWhole() ? report.summary() : report.missing() + u'\n' + report.summary());
+    m_notDrawn->setToolTip(Qt::convertFromPlainText(
+        report.isWhole() ? report.summary() : report.missing() + u'\n' + report.summary(), Qt::WhiteSpaceNormal));
 }
 
 void MainWindow::setGround(view::Ground ground)
@@ -464,10 +470,11 @@ void MainWindow::openDropped(const QStringList &paths)
     for (const QString &path : paths) {
         if (isBusy())
             return;
-        if (path.endsWith(".lsp"_L1, Qt::CaseInsensitive) && document())
-            document()->loadLisp(path);
-        else
+        if (!path.endsWith(".lsp"_L1, Qt::CaseInsensitive) || !document())
             m_files.openFile(path);
+        else if (const QString wanted = m_workbench->session().trustedFolders().wanted(*document(), path);
+                 !wanted.isEmpty())
+            document()->loadLisp(wanted);
     }
 }
 

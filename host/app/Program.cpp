@@ -74,8 +74,11 @@ int pictureOfWindow(MainWindow &window, const ProgramOptions &options)
 
 int runWindow(const ProgramOptions &options)
 {
-    MainWindow window(
-        {.home = options.home, .module = options.module, .tools = options.tools, .memoryLimit = options.memoryLimit});
+    MainWindow window({.home = options.home,
+                       .module = options.module,
+                       .tools = options.tools,
+                       .trustedFolders = options.trustedFolders,
+                       .memoryLimit = options.memoryLimit});
     for (const QString &problem : window.workbench().problems())
         writeMessage(problem);
     const QString home = window.workbench().session().home();

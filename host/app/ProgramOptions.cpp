@@ -68,6 +68,13 @@ QString setText(ProgramOptions &options, const QString &value)
     return {};
 }
 
+template <QStringList ProgramOptions::*member>
+QString addText(ProgramOptions &options, const QString &value)
+{
+    (options.*member).append(value);
+    return {};
+}
+
 template <bool ProgramOptions::*member>
 QString setFlag(ProgramOptions &options, const QString &)
 {
@@ -82,6 +89,7 @@ const QList<OptionRow> &optionRows()
         {"--home", Value::Needed, {}, setText<&ProgramOptions::home>},
         {"--module", Value::Needed, {}, setText<&ProgramOptions::module>},
         {"--tools", Value::Needed, {}, setText<&ProgramOptions::tools>},
+        {"--trust", Value::Needed, {Mode::Window, Mode::Run, Mode::Lisp}, addText<&ProgramOptions::trustedFolders>},
         {"--screenshot-dir", Value::Needed, {Mode::Window, Mode::Run}, setText<&ProgramOptions::pictureFolder>},
         {"--session", Value::Needed, {Mode::Window}, setText<&ProgramOptions::session>},
         {"--out", Value::Needed, {Mode::Run}, setText<&ProgramOptions::outFolder>},
@@ -207,6 +215,7 @@ Opens the drawings in a window, or works on them without one. "ortakit COMMAND -
 A drawing whose name is that of a command is written with its folder: ./run
 
 Options of the window:
+  --trust DIR           run programs of this folder and those below as well; may be given again
   --session FILE        play a recorded session in the window first
   --screenshot-dir DIR  write a picture of the window to DIR/window.png and end
   --time-limit SECONDS  the most a session may take (default 120)
@@ -220,6 +229,7 @@ constexpr auto runHelp = R"(Usage: ortakit run SESSION DRAWING... [--out DIR] [-
 Plays a recorded session over each drawing, one after the other, each opened afresh. The drawings themselves stay as
 they are. Prints a line for each.
 
+  --trust DIR           run programs of this folder and those below as well; may be given again
   --out DIR             write the drawings that the session changed there, under their own names
   --png                 write a picture of each drawing as it is in the end to the out folder, or else beside the drawing
   --screenshot-dir DIR  where pictures go that the session takes, and those of --png
@@ -234,6 +244,10 @@ constexpr auto lispHelp = R"(Usage: ortakit lisp FILE... [--drawing DRAWING] [OP
 Loads the Lisp files in order and prints what they print. "-" reads expressions from standard input. Without --drawing
 a new drawing is open. Nothing asks a person: prompts are cancelled, and a dialog ends the program with status 1.
 
+What these files load must lie in a trusted folder: the installation, the folder of the user's data, those that the
+system variable TRUSTEDPATHS lists, and those named here.
+
+  --trust DIR           run programs of this folder and those below as well; may be given again
   --time-limit SECONDS  the most all of it may take (default: no limit)
   --memory-limit MB     the most memory Lisp may take, more being an error of the program (default: the system variable
                         LISPHEAPMAX)

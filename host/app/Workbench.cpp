@@ -59,6 +59,8 @@ Workbench::Workbench(const WorkbenchOptions &options, QWidget *mainWindow)
     m_session.setMainWindow(mainWindow);
     if (options.memoryLimit)
         m_session.capLispHeap(*options.memoryLimit);
+    for (const QString &folder : options.trustedFolders)
+        m_session.trustedFolders().addForSession(folder);
     loadModule(findModuleFile(options.module));
     if (m_tools.folder.isEmpty()) {
         const QString folder = findToolsFolder(options.tools);

@@ -218,6 +218,8 @@ QString Document::findFile(const QString &asked) const
     const auto isFile = [](const QString &candidate) { return QFileInfo(candidate).isFile(); };
     if (QDir::isAbsolutePath(name))
         return isFile(name) ? QDir::cleanPath(name) : QString();
+    if (TrustedFolders::isProgram(name))
+        return m_session.trustedFolders().findTrusted(*this, name);
     QStringList folders = {QDir::currentPath()};
     if (!path().isEmpty())
         folders.append(QFileInfo(path()).absolutePath());

@@ -146,7 +146,8 @@ public:
 
     // For the rooms inside: pieces of a run.
 
-    /// Where a file that Lisp names is: the path itself, the drawing's folder, the support folders; empty when nowhere.
+    /// Where a file that Lisp names is: the path itself, the working folder, the drawing's folder, the support folders;
+    /// a program by a name that is no full path in the trusted folders only. Empty when nowhere.
     QString findFile(const QString &name) const;
     /// The command that waits for input from a Lisp program's next (command ...); null when none does.
     CommandRun *pendingCommand() { return m_pendingCommand.get(); }

@@ -330,6 +330,8 @@ std::vector<HostVariable> stateVariables()
         computed("SAVENAME", [](const Document &document) -> VariableValue { return document.path(); }),
         computed("SCREENSIZE", screenSize),
         computed("TEMPPREFIX", [](const Document &) { return folderOf(QDir::tempPath()); }),
+        {"TRUSTEDPATHS", Computed, ReadWrite, text(""), 0.0, 0.0, 0,
+         [](const Document &document) -> VariableValue { return document.session().trustedFolders().named(); }},
         computed("UNDOCTL", undoControl),
         computed("VIEWCTR", viewCentre),
         computed("VIEWSIZE", [](const Document &document) -> VariableValue { return document.view().height; }),

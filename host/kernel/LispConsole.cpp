@@ -44,6 +44,19 @@ std::string LispConsole::findFile(const std::string &name)
     return m_document.findFile(QString::fromStdString(name)).toStdString();
 }
 
+std::string LispConsole::findTrustedFile(const std::string &name)
+{
+    return m_document.session().trustedFolders().findTrusted(m_document, fromUtf8(name)).toStdString();
+}
+
+std::string LispConsole::findProgram(std::span<const std::string> names, lisp::LoadedBy by)
+{
+    QStringList wanted;
+    for (const std::string &name : names)
+        wanted.append(fromUtf8(name));
+    return m_document.session().trustedFolders().findProgram(m_document, wanted, by).toStdString();
+}
+
 lisp::Value LispConsole::systemVariable(std::string_view name)
 {
     const std::optional<VariableValue> value = m_document.variables().get(fromUtf8(name));

@@ -20,6 +20,8 @@ public:
     std::int64_t heapLimit() override;
     std::optional<std::string> readLine() override;
     std::string findFile(const std::string &name) override;
+    std::string findTrustedFile(const std::string &name) override;
+    std::string findProgram(std::span<const std::string> names, lisp::LoadedBy by) override;
     lisp::Value systemVariable(std::string_view name) override;
 
 private:

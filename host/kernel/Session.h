@@ -5,6 +5,7 @@
 #include "host/kernel/ModuleLoader.h"
 #include "host/kernel/Services.h"
 #include "host/kernel/SettingsStore.h"
+#include "host/kernel/TrustedFolders.h"
 #include "host/kernel/input/InputFeeder.h"
 
 #include <QPointer>
@@ -27,7 +28,8 @@ struct SessionOptions
     /// program below the system's place for application data. Made when it does not exist, with a folder "Template"
     /// for drawings to start from.
     QString home;
-    /// Where findfile, load and the drawing tools look after the drawing's own folder, in order.
+    /// The folders of the installation, in order: programs are looked for there first, other files after the drawing's
+    /// own folder.
     QStringList supportFolders;
     /// Folder with the help pages (<topic>.html, index.html).
     QString helpFolder;
@@ -50,6 +52,7 @@ public:
     InputQueue &input() { return m_input; }
     CommandAliases &aliases() { return m_aliases; }
     SettingsStore &settings() { return m_settings; }
+    TrustedFolders &trustedFolders() { return m_trustedFolders; }
 
     /// Runs what waits in the queue in the active document, one command or expression after the other, until nothing is
     /// left or only the beginning of an expression: what was typed, and what a script typed before its command ended.
@@ -99,6 +102,7 @@ private:
     SettingsStore m_settings;
     int m_lispHeapSetting;
     int m_lispHeapCap = largestLispHeap;
+    TrustedFolders m_trustedFolders{*this};
     InputQueue m_input;
     InputFeeder *m_feeder = nullptr;
     QPointer<QWidget> m_mainWindow;

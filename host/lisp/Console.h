@@ -3,6 +3,7 @@
 #include "host/lisp/Value.h"
 
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -13,6 +14,13 @@ enum class PollAnswer : std::uint8_t
 {
     Continue,
     Stop, ///< end the evaluation with an error of kind Interrupted
+};
+
+/// On whose wish a program is loaded.
+enum class LoadedBy : std::uint8_t
+{
+    Person, ///< the call stands in what was typed, in no function and no file
+    Program
 };
 
 /// What the interpreter asks of the program it is embedded in. All calls come on the interpreter's thread, from inside
@@ -39,9 +47,17 @@ public:
     /// A line that the user types, without line feed; nothing when there is none to be had.
     virtual std::optional<std::string> readLine() { return std::nullopt; }
 
-    /// The full path of the file that `findfile` and `load` mean by `name`; empty when there is none. The default looks
-    /// at the path itself only.
+    /// The full path of the file that `findfile` means by `name`; empty when there is none. The default looks at the
+    /// path itself only.
     virtual std::string findFile(const std::string &name);
+
+    /// The same for `findtrustedfile`: only where the embedder lets programs be loaded from.
+    virtual std::string findTrustedFile(const std::string &name) { return findFile(name); }
+
+    /// The full path of the program that `load` means: the first of `names` that there is. Empty when there is none, or
+    /// none that may be loaded, of which the embedder tells the user by itself. The default is the first that
+    /// findFile() finds.
+    virtual std::string findProgram(std::span<const std::string> names, LoadedBy by);
 
     /// The value of a system variable (LUNITS, LUPREC, AUNITS, AUPREC, DIMZIN, ANGBASE, ANGDIR, ...), by which numbers
     /// are converted when a program does not say how; nil for one that is unknown.

@@ -85,16 +85,23 @@ static Value findFile(Arguments &args)
     return path.empty() ? Value() : Value::string(std::move(path));
 }
 
-static std::string programPath(Interpreter &interpreter, const std::string &name)
+// (findtrustedfile name) -> the same, only where programs may be loaded from.
+static Value findTrustedFile(Arguments &args)
 {
-    std::string path;
-    if (!toPath(name).has_extension())
-        path = interpreter.console().findFile(name + ".lsp");
-    return path.empty() ? interpreter.console().findFile(name) : path;
+    std::string path = args.interpreter().console().findTrustedFile(args.string(0));
+    return path.empty() ? Value() : Value::string(std::move(path));
 }
 
-// (load name [onfailure]) -> the last value of the program; ".lsp" may be left out. Not found or not readable:
-// onfailure, called when it is a function, or without it the error LOAD failed.
+static std::string programPath(Interpreter &interpreter, const std::string &name)
+{
+    std::vector<std::string> names = {name};
+    if (!toPath(name).has_extension())
+        names.insert(names.begin(), name + ".lsp");
+    return interpreter.console().findProgram(names, interpreter.calledBy());
+}
+
+// (load name [onfailure]) -> the last value of the program; ".lsp" may be left out. Not found, not readable, or not to
+// be loaded: onfailure, called when it is a function, or without it the error LOAD failed.
 static Value load(Arguments &args)
 {
     Interpreter &interpreter = args.interpreter();
@@ -135,7 +142,7 @@ static Value autoload(Arguments &args)
 static constexpr NativeRow rows[] = {
     {"open", open, Arity::between(2, 3)},          {"close", close, Arity::exactly(1)},
     {"read-line", readLine, Arity::between(0, 1)}, {"read-char", readChar, Arity::between(0, 1)},
-    {"findfile", findFile, Arity::exactly(1)},     {"findtrustedfile", findFile, Arity::exactly(1)},
+    {"findfile", findFile, Arity::exactly(1)},     {"findtrustedfile", findTrustedFile, Arity::exactly(1)},
     {"load", load, Arity::between(1, 2)},          {"autoload", autoload, Arity::exactly(2)},
 };
 

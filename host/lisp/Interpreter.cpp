@@ -57,7 +57,8 @@ class Interpreter::TopLevel
 public:
     explicit TopLevel(Interpreter &interpreter)
         : m_interpreter(interpreter), m_catchDepth(std::exchange(interpreter.m_catchDepth, 0)),
-          m_frame(std::exchange(interpreter.m_frame, nullptr)), m_location(std::exchange(interpreter.m_location, 0))
+          m_frame(std::exchange(interpreter.m_frame, nullptr)), m_location(std::exchange(interpreter.m_location, 0)),
+          m_textDepth(std::exchange(interpreter.m_textDepth, 0)), m_isTyped(std::exchange(interpreter.m_isTyped, false))
     {
         if (interpreter.m_nesting++ == 0) {
             m_heapLimit.emplace(heapLimitFor(interpreter.m_console.heapLimit()));
@@ -71,6 +72,8 @@ public:
         m_interpreter.m_catchDepth = m_catchDepth;
         m_interpreter.m_frame = m_frame;
         m_interpreter.m_location = m_location;
+        m_interpreter.m_textDepth = m_textDepth;
+        m_interpreter.m_isTyped = m_isTyped;
     }
     TopLevel(const TopLevel &) = delete;
     TopLevel &operator=(const TopLevel &) = delete;
@@ -81,6 +84,21 @@ private:
     CallFrame *m_frame;
     Location m_location;
     std::optional<Heap::Limit> m_heapLimit;
+    int m_textDepth;
+    bool m_isTyped;
+};
+
+/// One text under way.
+class Interpreter::TextScope
+{
+public:
+    explicit TextScope(int &depth) : m_depth(depth) { ++m_depth; }
+    ~TextScope() { --m_depth; }
+    TextScope(const TextScope &) = delete;
+    TextScope &operator=(const TextScope &) = delete;
+
+private:
+    int &m_depth;
 };
 
 template <typename Body>
@@ -103,7 +121,10 @@ Outcome Interpreter::topLevel(Body &&body)
 
 Outcome Interpreter::run(std::string_view text, std::string_view sourceName)
 {
-    return topLevel([&] { return evalText(text, sourceName); });
+    return topLevel([&] {
+        m_isTyped = m_nesting == 1;
+        return evalText(text, sourceName);
+    });
 }
 
 Outcome Interpreter::loadFile(const std::string &path)
@@ -128,6 +149,7 @@ Outcome Interpreter::evaluate(const Value &form)
 
 Value Interpreter::evalText(std::string_view text, std::string_view sourceName)
 {
+    const TextScope scope(m_textDepth);
     Reader reader(*this, sourceName);
     reader.feed(text);
     reader.finish();

@@ -93,6 +93,12 @@ public:
     Outcome evaluate(const Value &form);
     /// True while any evaluation is under way.
     bool isRunning() const noexcept { return m_nesting > 0; }
+    /// Whose wish the call under way is: the person's in the text of an outermost run(), outside of functions and of
+    /// files that it loads.
+    LoadedBy calledBy() const noexcept
+    {
+        return m_isTyped && m_textDepth == 1 && !m_frame ? LoadedBy::Person : LoadedBy::Program;
+    }
 
     // Functions and variables.
 
@@ -176,6 +182,7 @@ private:
     class ValueFrame;
     class Binding;
     class TopLevel;
+    class TextScope;
 
     Value evalList(const Value &form);
     void evalArguments(const Value &forms, ValueFrame &values);
@@ -213,6 +220,8 @@ private:
     std::uintptr_t m_stackLimit = 0;
     std::uint32_t m_pollCountdown = 1;
     int m_nesting = 0;
+    int m_textDepth = 0;    ///< texts under way, one loading the other
+    bool m_isTyped = false; ///< the outermost of them is no file
     int m_catchDepth = 0;
     bool m_inErrorHandler = false;
     CallFrame *m_frame = nullptr;

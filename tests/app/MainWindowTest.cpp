@@ -23,6 +23,7 @@
 #include <QMimeData>
 #include <QMouseEvent>
 #include <QTabWidget>
+#include <QTextBrowser>
 #include <QTimer>
 
 #include <gtest/gtest.h>
@@ -382,10 +383,14 @@ TEST_F(MainWindowTest, TheStatusBarSaysWhatIsMissing)
     const std::pair<QByteArray, QString> rows[] = {
         {smallDrawing(), u"All entities drawn"_s},
         {QByteArray(smallDrawing()).replace("0\nCIRCLE\n", "0\n3DSOLID\n"), u"1 not drawn (3DSOLID 1)"_s},
+        {QByteArray(smallDrawing()).replace("0\nCIRCLE\n", "0\n<img src='a'>\n"), u"1 not drawn (<img src='a'> 1)"_s},
     };
     for (const auto &[bytes, text] : rows) {
         window->start({write(u"reported%1.dxf"_s.arg(text.size()), bytes)});
-        EXPECT_EQ(window->findChild<QLabel *>(u"notDrawn"_s)->text(), text);
+        const auto *label = window->findChild<QLabel *>(u"notDrawn"_s);
+        EXPECT_EQ(label->text(), text);
+        EXPECT_EQ(label->textFormat(), Qt::PlainText) << "a file's names are no markup, which could read files";
+        EXPECT_TRUE(Qt::mightBeRichText(label->toolTip()) && !label->toolTip().contains(u"<img"_s));
     }
 }
 
@@ -414,6 +419,16 @@ TEST_F(MainWindowTest, HelpStandsInFrontOfAModalDialogAndOutlivesIt)
         EXPECT_TRUE(help()->isVisible());
         EXPECT_EQ(help()->parentWidget(), window.get());
     }
+    auto *browser = qobject_cast<QTextBrowser *>(help());
+    const QString next = write(u"8.html"_s, "the next");
+    const std::pair<QUrl, bool> links[] = {{QUrl::fromLocalFile(write(u"home/9.html"_s, "x")), false},
+                                           {QUrl(u"ftp://a.org"_s), false},
+                                           {QUrl::fromLocalFile(next), true}};
+    for (const auto &[link, isFollowed] : links) {
+        emit browser->anchorClicked(link);
+        EXPECT_EQ(browser->source() == link, isFollowed) << link.toString().toStdString();
+        EXPECT_EQ(history().contains(link.toString()), !isFollowed);
+    }
 }
 
 TEST_F(MainWindowTest, DroppedFilesOpen)
@@ -425,15 +440,24 @@ TEST_F(MainWindowTest, DroppedFilesOpen)
     QCoreApplication::sendEvent(window.get(), &enter);
     EXPECT_TRUE(enter.isAccepted());
     QDropEvent event(QPointF(10, 10), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-    QCoreApplication::sendEvent(window.get(), &event);
-    QCoreApplication::processEvents();
-    EXPECT_EQ(window->tabs().count(), 2);
-    EXPECT_EQ(lisp(u"extra"_s), u"T"_s);
     ortakit::test::ModalAnswers user;
+    for (const auto &[button, extra] : {std::pair(u"No"_s, u"nil"_s), std::pair(u"Load once"_s, u"T"_s)}) {
+        user.drive([button = button](QWidget *box) {
+            for (QPushButton *each : box->findChildren<QPushButton *>())
+                if (each->text().remove(u'&') == button)
+                    return each->click();
+        });
+        QCoreApplication::sendEvent(window.get(), &event);
+        QCoreApplication::processEvents();
+        EXPECT_EQ(window->tabs().count(), 2);
+        EXPECT_EQ(lisp(u"extra"_s), extra);
+    }
+    ASSERT_EQ(user.shown().size(), 2);
+    EXPECT_TRUE(QString(user.shown()[0]).remove(u'\n').contains(path(u"extra.lsp"_s))) << user.shown()[0].toStdString();
     user.press(QMessageBox::Ok);
     window->start({write(u"broken.dxf"_s, "0\nSECTION\n2\nENT")});
-    ASSERT_EQ(user.shown().size(), 1);
-    EXPECT_TRUE(user.shown()[0].contains(u"broken.dxf"_s));
+    ASSERT_EQ(user.shown().size(), 3);
+    EXPECT_TRUE(user.shown()[2].contains(u"broken.dxf"_s));
     EXPECT_EQ(window->tabs().count(), 2);
 }
 

@@ -46,7 +46,10 @@ struct ProgramTest : testing::Test
         write(u"fills.lsp"_s, "(setvar \"LISPHEAPMAX\" 1000000)(while t (setq l (cons 1 l)))\n");
         write(u"loops.lsp"_s, "(while t (vl-catch-all-apply 'car '(5)))\n");
         write(u"stops.lsp"_s, "(command \"SCRIPT\" \"error.lsp\")(princ)\n");
-        EXPECT_TRUE(QDir(folder.path()).mkpath(u"tools"_s));
+        write(u"loads.lsp"_s, "(load \"good\")");
+        write(u"whose.lsp"_s, "(princ (if (kora_string_trim \" a \") \"installed\"))");
+        EXPECT_TRUE(QDir(folder.path()).mkpath(u"tools"_s) && QDir(folder.path()).mkpath(u"support"_s));
+        write(u"support/strings.lsp"_s, "(princ \"a stranger's\")");
     }
 
     void write(const QString &name, const QByteArray &bytes)
@@ -93,7 +96,14 @@ TEST_F(ProgramTest, EndsWithTheStatusItsManualNames)
         {u"run --help"_s, 0, u"Usage: ortakit run"_s, {}},
         {u"lisp good.lsp"_s, 0, u"sum 3 größe\n"_s, {}},
         {u"lisp good.lsp --drawing a.dxf"_s, 0, u"sum 3"_s, {}},
-        {u"lisp script.lsp --drawing a.dxf"_s, 0, u"drawn 4"_s, {}},
+        {u"lisp script.lsp --drawing a.dxf --trust ."_s, 0, u"drawn 4"_s, {}},
+        {u"lisp script.lsp --drawing a.dxf"_s, 0, u"draw.scr was not loaded: its folder is not trusted."_s, {}},
+        {u"lisp loads.lsp"_s, 1, u"good.lsp was not loaded: its folder is not trusted."_s, u"LOAD failed: \"good\""_s},
+        {u"lisp loads.lsp --trust none --trust=."_s, 0, u"sum 3"_s, {}},
+        {u"lisp whose.lsp --tools %1/share/ortakit/tools"_s.arg(qEnvironmentVariable("ORTAKIT_BUILD")),
+         0,
+         u"installed"_s,
+         {}},
         {u"convert a.dxf copy.dxf"_s, 0, {}, {}},
         {u"convert a.dxf copy.dxf --strict --json"_s, 0, u"{\"input\":\"a.dxf\",\"output\":\"copy.dxf\"}\n"_s, {}},
         {u"convert a.dxf picture.png --strict --json"_s,
@@ -109,7 +119,7 @@ TEST_F(ProgramTest, EndsWithTheStatusItsManualNames)
         {u"run erase.txt a.dxf b.dxf --out out --png"_s, 0, u"a.dxf: done, out/a.dxf, out/a.png\n"_s, {}},
         {u"run looks.txt a.dxf --out unchanged"_s, 0, u"a.dxf: done\n"_s, {}},
 
-        {u"lisp stops.lsp"_s, 1, u"before"_s, u"stops.lsp: bad argument type"_s},
+        {u"lisp stops.lsp --trust ."_s, 1, u"before"_s, u"stops.lsp: bad argument type"_s},
         {u"lisp error.lsp"_s, 1, u"before"_s, u"error.lsp"_s},
         {u"lisp fills.lsp --memory-limit 20"_s, 1, {}, u"fills.lsp: out of memory (limit 20 MB) in (CONS)"_s},
         {u"lisp loops.lsp --time-limit 0.3"_s, 1, {}, u"loops.lsp: it took longer than 0.3 s"_s},

@@ -94,8 +94,9 @@ TEST_F(SessionPlayerTest, PlaysWhatHappens)
         {"alert", u"lisp (alert \"Nothing found\")\nmessage Nothing Ok"_s},
         {"script", u"command SCRIPT\nanswer ${OUT}/two.scr\nanswer 2\nexpect-count CIRCLE 2\nexpect-count LINE 3\n"
                    "expect-printed \"Command: line\"\nundo\nundo\nexpect-modified no"_s},
-        {"script of a program", u"lisp (command \"SCRIPT\" \"two.scr\")\nanswer 2\nexpect-count CIRCLE 2\nundo\nundo\n"
-                                "expect-lisp (not (command \"SCRIPT\" \"none.scr\"))\nexpect-modified no"_s},
+        {"script of a program",
+         u"lisp (command \"SCRIPT\" \"${OUT}/two.scr\")\nanswer 2\nexpect-count CIRCLE 2\nundo\nundo\n"
+         "expect-lisp (not (command \"SCRIPT\" \"none.scr\"))\nexpect-modified no"_s},
         {"change, undo, redo",
          u"lisp (entdel (handent \"2A\"))\nexpect-count LINE 1\nexpect-modified yes\nundo\nexpect-count line 2\n"
          "redo\nexpect-count * 2\nundo"_s},

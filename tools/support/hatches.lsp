@@ -7,7 +7,7 @@
 ;; else from the tools' own; nil when there is none.
 (defun kora_hatch_pattern (name / path)
   (vl-some '(lambda (file) (if (setq path (findfile file)) (kora:pattern_in_file path name)))
-           (list (strcat name ".pat") (strcat (strcase name T) ".pat") "support/patterns.pat")))
+           (list (strcat name ".pat") (strcat (strcase name T) ".pat") (strcat kora:support_folder "patterns.pat"))))
 
 ;; A pattern is a line *NAME, description, and behind it angle, base, offset and dashes of each of its lines; an offset
 ;; is along the line and across it.

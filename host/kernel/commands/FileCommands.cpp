@@ -4,6 +4,7 @@
 #include "host/kernel/commands/CommandContext.h"
 #include "host/kernel/commands/Commands.h"
 #include "host/kernel/commands/Dialogue.h"
+#include "host/lisp/Interpreter.h"
 
 #include <QDir>
 #include <QFile>
@@ -195,11 +196,19 @@ CommandTask setVariable(CommandContext &context)
 /// The largest script that is read, in bytes.
 constexpr qint64 largestScript = 64 * 1024 * 1024;
 
+/// A script types expressions: it is a program like any other.
+QString scriptPath(Document &document, const QString &name)
+{
+    const lisp::Interpreter &interpreter = document.interpreter();
+    const lisp::LoadedBy by = interpreter.isRunning() ? interpreter.calledBy() : lisp::LoadedBy::Person;
+    return document.session().trustedFolders().findProgram(document, {name}, by);
+}
+
 // File name; the lines of the file are typed from here on, before what was typed ahead.
 CommandTask script(CommandContext &context)
 {
     const PromptReply name = co_await context.text(u"Enter script file name: "_s);
-    const QString path = name.hasValue() ? context.document().findFile(name.text.trimmed()) : QString();
+    const QString path = name.hasValue() ? scriptPath(context.document(), name.text.trimmed()) : QString();
     QFile file(path);
     if (path.isEmpty() || file.size() > largestScript || !file.open(QIODevice::ReadOnly)) {
         context.print(u"\nCannot read script \"%1\"."_s.arg(name.text));

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "host/kernel/TrustedFolders.h"
+
+class QWidget;
+
+namespace host::app {
+
+/// Asks in a message box of the window, which shows the program's whole path.
+kernel::TrustedFolders::Question trustQuestion(QWidget &window);
+
+} // namespace host::app

@@ -1,0 +1,151 @@
+#include "files/qt/ShownText.h"
+#include "tests/kernel/Bench.h"
+
+#include <QDir>
+
+#include <sys/stat.h>
+
+using namespace host::kernel;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// An installation, a home, a folder that the user named, one that others may write to, and a drawing that came with
+/// programs of its own. Each program's value is the folder it lies in.
+class TrustedFoldersTest : public Bench
+{
+protected:
+    TrustedFoldersTest() : m_before(QDir::currentPath())
+    {
+        for (const char *name : {"support/sub", "home/sub", "named/sub", "open", "beside/support", "work"})
+            QDir(folder.path()).mkpath(QString::fromLatin1(name));
+        for (const char *place : {"support", "support/sub", "home", "home/sub", "named", "named/sub", "open", "beside",
+                                  "beside/support", "work"})
+            write(qPrintable(QString::fromLatin1(place) + u"/tool.lsp"_s), QByteArray("\"") + place + '"');
+        write("beside/own.lsp", "\"beside\"");
+        write("beside/OWN2.LSP", "\"beside\"");
+        write("beside/plain", "\"beside\"");
+        write("beside/data.lin", "");
+        write("work/own3.lsp", "\"work\"");
+        write("beside/type.scr", "(setq typed T)\n");
+        write("named/loads.lsp", qPrintable(u"(load \"%1\")"_s.arg(path("beside/own.lsp"))));
+        QFile::link(path("beside/own.lsp"), path("named/leads-out.lsp"));
+        QFile::link(path("named/tool.lsp"), path("beside/leads-in.lsp"));
+        chmod(qPrintable(path("open")), 0777);
+        QDir::setCurrent(path("work"));
+        session.setSupportFolders({path("support")});
+        session.trustedFolders().setNamed(path("named") + u";work;"_s + path("open"));
+        EXPECT_TRUE(session.documents().open(write("beside/plan.dxf", "0\nSECTION\n2\nENTITIES\n0\nENDSEC\n0\nEOF\n")));
+        lisp("(defun run (x) (load x 'refused)) (setq top \"" + folder.path().toStdString() + "/\")");
+    }
+    ~TrustedFoldersTest() override { QDir::setCurrent(m_before); }
+
+private:
+    QString m_before;
+};
+
+TEST_F(TrustedFoldersTest, ProgramsRunFromTrustedFoldersOnly)
+{
+    const QString refused = u"its folder is not trusted"_s;
+    struct Row
+    {
+        const char *expression;
+        const char *expected;
+        QString printed;
+    };
+    const Row rows[] = {
+        {"(load \"tool\")", "\"support\"", {}},
+        {"(load \"sub\\\\tool.lsp\")", "\"support/sub\"", {}},
+        {"(load \"support/tool.lsp\" 'no)", "NO", refused},
+        {"(load \"own\" 'no)", "NO", path("beside/own.lsp") + u" was not loaded: its folder"_s},
+        {"(load \"own\")", "error: LOAD failed: \"own\"", refused},
+        {"(load \"OWN2.LSP\" 'no)", "NO", refused},
+        {"(load \"plain\" 'no)", "NO", refused},
+        {"(load \"own3\" 'no)", "NO", path("work/own3.lsp")},
+        {"(load \"./own3\" 'no)", "NO", refused},
+        {"(load \"../beside/own\" 'no)", "NO", refused},
+        {"(load \"leads-in\")", "\"named\"", {}},
+        {"(load \"leads-out\" 'no)", "NO", {}},
+        {"(load \"none\" 'no)", "NO", {}},
+        {"(load \"\" 'no)", "NO", {}},
+        // What a person types with its full path is that person's own act; what a program names is not.
+        {"(load (strcat top \"beside/own\"))", "\"beside\"", {}},
+        {"(run (strcat top \"beside/own\"))", "REFUSED", refused},
+        {"(run (strcat top \"named/loads.lsp\"))", "error: LOAD failed: \"", refused},
+        {"(run (strcat top \"named/../beside/own\"))", "REFUSED", refused},
+        {"(run (strcat top \"named/leads-out.lsp\"))", "REFUSED", refused},
+        {"(run (strcat top \"named/tool\"))", "\"named\"", {}},
+        {"(run (strcat top \"named/sub/tool\"))", "REFUSED", refused},
+        {"(run (strcat top \"home/sub/tool\"))", "\"home/sub\"", {}},
+        {"(run (strcat top \"open/tool\"))", "REFUSED", u"everyone may write to "_s + path("open")},
+        {"(progn (autoload \"own\" '(\"OWN\")) (vl-catch-all-error-p (vl-catch-all-apply 'c:own nil)))", "T", refused},
+        // Other files are found beside the drawing as ever.
+        {"(list (findfile \"own.lsp\") (findfile \"OWN2.LSP\") (findfile \"type.scr\") (findtrustedfile \"data.lin\"))",
+         "(nil nil nil nil)",
+         {}},
+        {"(= (findfile \"data.lin\") (strcat top \"beside/data.lin\"))", "T", {}},
+        {"(= (findtrustedfile \"tool.lsp\") (findfile \"tool.lsp\") (strcat top \"support/tool.lsp\"))", "T", {}},
+        {"(progn (command \"SCRIPT\" \"type.scr\") typed)", "nil", refused},
+        {"(getvar \"TRUSTEDPATHS\")", "\"", {}},
+    };
+    for (const Row &row : rows) {
+        takePrinted();
+        const std::string value = lisp(row.expression);
+        EXPECT_EQ(value.substr(0, std::string(row.expected).size()), row.expected) << row.expression << '\n' << value;
+        const QString printed = QString::fromStdString(takePrinted());
+        EXPECT_EQ(printed.contains(u"was not loaded"_s), !row.printed.isEmpty()) << row.expression;
+        EXPECT_TRUE(printed.contains(row.printed)) << row.expression << '\n' << printed.toStdString();
+    }
+    runTyped(qPrintable(u"SCRIPT\n%1\n"_s.arg(path("beside/type.scr"))));
+    EXPECT_EQ(lisp("typed"), "T") << "typed with its full path";
+}
+
+TEST_F(TrustedFoldersTest, APersonIsAskedAndTheListIsKept)
+{
+    QStringList asked;
+    auto answer = TrustedFolders::Answer::No;
+    session.trustedFolders().setQuestion([&](const QString &path, const QString &reason, bool canTrust) {
+        asked.append(QFileInfo(path).fileName() + u'|' +
+                     (reason.isEmpty() ? u"trusted"_s : reason.section(u' ', 0, 0)) + u'|' + QString::number(canTrust));
+        return answer;
+    });
+    lisp("(repeat 2 (run \"own\"))");
+    EXPECT_EQ(asked, QStringList{u"own.lsp|its|1"_s}) << "a program gets one answer";
+    answer = TrustedFolders::Answer::Once;
+    EXPECT_EQ(lisp("(load \"own\")"), "\"beside\"");
+    EXPECT_EQ(lisp("(run (strcat top \"open/tool\"))"), "\"open\"");
+    EXPECT_EQ(asked.mid(1), (QStringList{u"own.lsp|its|1"_s, u"tool.lsp|everyone|0"_s}));
+    answer = TrustedFolders::Answer::Always;
+    EXPECT_EQ(lisp("(load \"own\")"), "\"beside\"");
+    asked.clear();
+    EXPECT_EQ(lisp("(run \"own\")"), "\"beside\"");
+    EXPECT_EQ(session.trustedFolders().wanted(document(), path("named/leads-out.lsp")), path("beside/own.lsp"));
+    EXPECT_EQ(asked, QStringList{u"own.lsp|trusted|0"_s}) << "only where the question was wanted";
+    Session next({.home = session.home(), .supportFolders = {}, .helpFolder = {}});
+    EXPECT_TRUE(next.trustedFolders().named().endsWith(u';' + path("beside")))
+        << next.trustedFolders().named().toStdString();
+    lisp("(setvar \"TRUSTEDPATHS\" (strcat top \"beside/...;.;..\"))");
+    EXPECT_EQ(lisp("(run (strcat top \"beside/support/tool\"))"), "\"beside/support\"");
+    lisp("(setvar \"TRUSTEDPATHS\" \"\")");
+    session.trustedFolders().addForSession(u"../named"_s);
+    EXPECT_EQ(lisp("(run (strcat top \"named/sub/tool\"))"), "\"named/sub\"");
+}
+
+TEST_F(TrustedFoldersTest, TheUsersDataDoNotVouchForWhatLiesBesideTheDrawing)
+{
+    EXPECT_EQ(lisp("(run (strcat top \"home/tool\"))"), "\"home\"");
+    QFile::copy(path("beside/plan.dxf"), path("home/plan.dxf"));
+    ASSERT_TRUE(session.documents().open(path("home/plan.dxf")));
+    lisp("(defun run (x) (load x 'refused)) (setq top \"" + folder.path().toStdString() + "/\")");
+    EXPECT_EQ(lisp("(run (strcat top \"home/tool\"))"), "REFUSED");
+    EXPECT_EQ(lisp("(run (strcat top \"home/sub/tool\"))"), "\"home/sub\"");
+}
+
+TEST(ShownTextTest, showsWhatCannotBeSeen)
+{
+    EXPECT_EQ(shownText(u"a b\n\u202Egnp.exe\u00A0\uFEFF\U000E0041ä\U0001F600"_s),
+              u"a b<U+000A><U+202E>gnp.exe<U+00A0><U+FEFF><U+E0041>ä\U0001F600"_s);
+    EXPECT_EQ(shownInLines(QString(161, u'x')), QString(80, u'x') + u'\n' + QString(80, u'x') + u"\nx"_s);
+}
+
+} // namespace
