@@ -1,7 +1,7 @@
 #include "state/ElidedPathLabel.h"
 
+#include "files/qt/VisibleText.h"
 #include "state/FullText.h"
-#include "state/VisibleText.h"
 
 #include <QEvent>
 #include <QLabel>
@@ -47,7 +47,7 @@ bool ElidedPathLabel::eventFilter(QObject *watched, QEvent *event)
 void ElidedPathLabel::show()
 {
     const int width = m_label->contentsRect().width() - 2 * m_label->margin();
-    m_shown = m_label->fontMetrics().elidedText(ortakit::visibleText(fullPath()), Qt::ElideMiddle, width);
+    m_shown = m_label->fontMetrics().elidedText(files::visibleText(fullPath()), Qt::ElideMiddle, width);
     m_label->setText(m_shown);
     m_label->setToolTip(fullPath());
 }

@@ -1,6 +1,6 @@
 #include "state/PlainTexts.h"
 
-#include "state/VisibleText.h"
+#include "files/qt/VisibleText.h"
 
 #include <QAbstractItemView>
 #include <QHeaderView>
@@ -51,7 +51,7 @@ public:
             return false;
         // Its own line ends part the lines of a tool tip.
         QStringList lines = text.split(u'\n');
-        std::transform(lines.begin(), lines.end(), lines.begin(), visibleText);
+        std::transform(lines.begin(), lines.end(), lines.begin(), files::visibleText);
         text = lines.join(u'\n');
         QToolTip::showText(help->globalPos(), Qt::mightBeRichText(text) ? Qt::convertFromPlainText(text) : text, widget,
                            {}, widget->toolTipDuration());
@@ -65,7 +65,7 @@ QString VisibleTextDelegate::displayText(const QVariant &value, const QLocale &l
 {
     if (value.userType() != QMetaType::QString)
         return QStyledItemDelegate::displayText(value, locale);
-    return visibleText(value.toString());
+    return files::visibleText(value.toString());
 }
 
 void showPlainTexts(QWidget &window)

@@ -16,8 +16,8 @@ public:
 };
 
 /// Has the tables, lists and tool tips within `window` show texts as they are, whatever a drawing says: no tool tip is
-/// taken for markup, and what cannot be seen stands as a code (see visibleText()). Widgets that are there later need
-/// another call; one more call changes nothing else. Views with a delegate of their own keep it.
+/// taken for markup, and what cannot be seen stands as a code (see files::visibleText()). Widgets that are there later
+/// need another call; one more call changes nothing else. Views with a delegate of their own keep it.
 void showPlainTexts(QWidget &window);
 
 /// For a widget whose tool tip is markup that was made from a plain text.

@@ -1,7 +1,7 @@
 #include "dialogs/edittextcase/ElidedLabel.h"
 
+#include "files/qt/VisibleText.h"
 #include "state/PlainTexts.h"
-#include "state/VisibleText.h"
 
 #include <QPainter>
 #include <QTextLayout>
@@ -41,7 +41,7 @@ QSize ElidedLabel::sizeHint() const
 void ElidedLabel::paintEvent(QPaintEvent *)
 {
     const bool isCut = paintLines();
-    setToolTip(isCut ? Qt::convertFromPlainText(ortakit::visibleText(text().left(longestToolTip))) : QString());
+    setToolTip(isCut ? Qt::convertFromPlainText(files::visibleText(text().left(longestToolTip))) : QString());
 }
 
 /// Whether the text was cut.

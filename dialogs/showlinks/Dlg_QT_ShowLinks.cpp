@@ -1,5 +1,6 @@
 #include "dialogs/showlinks/Dlg_QT_ShowLinks.h"
 
+#include "files/qt/VisibleText.h"
 #include "platform/kernel/CKvMessageBox.h"
 #include "platform/kernel/CKvUtils.h"
 #include "state/ActiveDrawing.h"
@@ -10,7 +11,6 @@
 #include "state/TableReplacing.h"
 #include "state/TableRows.h"
 #include "state/TableSelection.h"
-#include "state/VisibleText.h"
 #include "state/WholeTextItem.h"
 #include "ui_Dlg_QT_ShowLinks.h"
 
@@ -209,7 +209,7 @@ bool Dlg_QT_ShowLinks::mayOpen(const QUrl &target)
         return true;
     const QString shown =
         target.isLocalFile() ? QDir::toNativeSeparators(target.toLocalFile()) : QString::fromLatin1(target.toEncoded());
-    QString question = tr("Open this link?") + QStringLiteral("\n\n") + ortakit::visibleLines(shown);
+    QString question = tr("Open this link?") + QStringLiteral("\n\n") + files::visibleLines(shown);
     if (caution == ortakit::LinkCaution::AskProgram)
         question += QStringLiteral("\n\n") + tr("It is a program, or starts one.");
     return CKvMessageBox::warning(this, tr("Warning"), question, QMessageBox::Cancel | QMessageBox::Open) ==

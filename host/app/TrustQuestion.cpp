@@ -1,6 +1,6 @@
 #include "host/app/TrustQuestion.h"
 
-#include "files/qt/ShownText.h"
+#include "files/qt/VisibleText.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -25,7 +25,7 @@ kernel::TrustedFolders::Question trustQuestion(QWidget &window)
     using Answer = kernel::TrustedFolders::Answer;
     return [&window](const QString &path, const QString &reason, bool canTrust) {
         const QString question = translated("Load this program? It can do whatever you can.") + u"\n\n"_s +
-                                 shownInLines(QDir::toNativeSeparators(path));
+                                 files::visibleLines(QDir::toNativeSeparators(path));
         QMessageBox box(QMessageBox::Question, u"Ortakit"_s,
                         reason.isEmpty() ? question : question + u"\n\n("_s + reason + u')', QMessageBox::NoButton,
                         &window);

@@ -1,6 +1,6 @@
 #include "host/kernel/TrustedFolders.h"
 
-#include "files/qt/ShownText.h"
+#include "files/qt/VisibleText.h"
 #include "host/kernel/Document.h"
 #include "host/kernel/Session.h"
 
@@ -112,7 +112,8 @@ QString TrustedFolders::objection(const QString &path, const Document &document)
     if (file.isEmpty() || (!isUsers && !isNamed(folder)))
         return u"its folder is not trusted"_s;
     const QString open = openToEveryone(file);
-    return open.isEmpty() ? QString() : u"everyone may write to %1"_s.arg(shownText(QDir::toNativeSeparators(open)));
+    return open.isEmpty() ? QString()
+                          : u"everyone may write to %1"_s.arg(files::visibleText(QDir::toNativeSeparators(open)));
 }
 
 QStringList TrustedFolders::searched() const
@@ -149,7 +150,7 @@ bool TrustedFolders::mayRun(Document &document, const QString &path, const QStri
         return true;
     document.print(
         u"\n%1 was not loaded: %2. TRUSTEDPATHS, or the option --trust, names folders whose programs may run.\n"_s.arg(
-            shownText(QDir::toNativeSeparators(path)), reason));
+            files::visibleText(QDir::toNativeSeparators(path)), reason));
     return false;
 }
 

@@ -1,4 +1,3 @@
-#include "files/qt/ShownText.h"
 #include "tests/kernel/Bench.h"
 
 #include <QDir>
@@ -139,13 +138,6 @@ TEST_F(TrustedFoldersTest, TheUsersDataDoNotVouchForWhatLiesBesideTheDrawing)
     lisp("(defun run (x) (load x 'refused)) (setq top \"" + folder.path().toStdString() + "/\")");
     EXPECT_EQ(lisp("(run (strcat top \"home/tool\"))"), "REFUSED");
     EXPECT_EQ(lisp("(run (strcat top \"home/sub/tool\"))"), "\"home/sub\"");
-}
-
-TEST(ShownTextTest, showsWhatCannotBeSeen)
-{
-    EXPECT_EQ(shownText(u"a b\n\u202Egnp.exe\u00A0\uFEFF\U000E0041ä\U0001F600"_s),
-              u"a b<U+000A><U+202E>gnp.exe<U+00A0><U+FEFF><U+E0041>ä\U0001F600"_s);
-    EXPECT_EQ(shownInLines(QString(161, u'x')), QString(80, u'x') + u'\n' + QString(80, u'x') + u"\nx"_s);
 }
 
 } // namespace

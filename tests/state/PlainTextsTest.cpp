@@ -1,6 +1,6 @@
 #include "state/PlainTexts.h"
 
-#include "state/VisibleText.h"
+#include "files/qt/VisibleText.h"
 #include "state/WholeTextItem.h"
 #include "tests/support/QtTestPrinters.h"
 
@@ -36,7 +36,7 @@ TEST(PlainTexts, WhatCannotBeSeenIsACode)
         {u"1\r\n2\n\r3"_s, u"1\u21B52\u21B5\u21B53"_s},
     };
     for (const auto &[text, visible] : rows)
-        EXPECT_EQ(visibleText(text), visible);
+        EXPECT_EQ(files::visibleText(text), visible);
 }
 
 TEST(PlainTexts, TablesAndToolTipsTakeNothingForMarkup)

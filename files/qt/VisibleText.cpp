@@ -1,8 +1,8 @@
-#include "state/VisibleText.h"
+#include "files/qt/VisibleText.h"
 
 #include <algorithm>
 
-namespace ortakit {
+namespace files {
 
 namespace {
 
@@ -46,4 +46,4 @@ QString visibleLines(const QString &text)
     return lines;
 }
 
-} // namespace ortakit
+} // namespace files

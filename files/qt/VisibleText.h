@@ -2,7 +2,7 @@
 
 #include <QString>
 
-namespace ortakit {
+namespace files {
 
 /// `text` as a drawing or a file has it, such that what is read is what it says: the characters that turn the direction
 /// of writing, and others that are not seen, stand as codes of the form "\U+202E", and a line end as "↵".
@@ -11,4 +11,4 @@ QString visibleText(const QString &text);
 /// The same in lines that a message box shows whole, where a single long one would run off the screen.
 QString visibleLines(const QString &text);
 
-} // namespace ortakit
+} // namespace files
