@@ -134,7 +134,7 @@ QByteArray writtenLinks(const QList<Link> &links, const QStringList &removed, Li
 QUrl linkTarget(const QString &url, const QString &folder)
 {
     if (isOnOtherComputer(url))
-        return QUrl::fromLocalFile(QString(url).replace(u'\\', u'/'));
+        return {};
     if (const QString file = linkedFile(url, folder); !file.isEmpty())
         return QUrl::fromLocalFile(file);
     const QUrl target(url.startsWith(QLatin1String("www")) ? QLatin1String("http://") + url : url, QUrl::TolerantMode);

@@ -54,7 +54,7 @@ QByteArray writtenLinks(const QList<Link> &links, const QStringList &removed, Li
 
 /// Where the URL of a link leads: to the file or folder of that name, as seen from `folder` when it is relative, if
 /// there is one, else to the URL, to which "http://" is added when it begins with "www". Without `folder`, relative
-/// names lead nowhere. A name of a file on another computer ("\\\\computer\\file") is taken as it is: to look for it
+/// names lead nowhere. A name of a file on another computer ("\\\\computer\\file") leads nowhere: to look for it
 /// would already tell that computer who asks. Invalid when it leads nowhere: it needs a scheme.
 QUrl linkTarget(const QString &url, const QString &folder = {});
 

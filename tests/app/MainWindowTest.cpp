@@ -447,6 +447,7 @@ TEST_F(MainWindowTest, DroppedFilesOpen)
                 if (each->text().remove(u'&') == button)
                     return each->click();
         });
+        QCoreApplication::sendEvent(window.get(), &enter);
         QCoreApplication::sendEvent(window.get(), &event);
         QCoreApplication::processEvents();
         EXPECT_EQ(window->tabs().count(), 2);
