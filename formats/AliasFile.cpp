@@ -1,5 +1,6 @@
 #include "formats/AliasFile.h"
 
+#include "files/qt/Files.h"
 #include "formats/FileWriting.h"
 
 #include <QCoreApplication>
@@ -126,9 +127,9 @@ AliasReading readAliases(QIODevice &source)
 
 AliasReading readAliasFile(const QString &path)
 {
-    QFile file(path);
-    // A pipe or a device would be read for ever.
-    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
+    constexpr qint64 largestFile = 64 * 1024 * 1024;
+    QFile file;
+    if (!files::openRegular(file, path, largestFile).isEmpty())
         return {{}, tr("Error reading alias file.")};
     return readAliases(file);
 }

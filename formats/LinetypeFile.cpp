@@ -1,7 +1,11 @@
 #include "formats/LinetypeFile.h"
 
+#include "files/qt/Files.h"
+
 #include <QFile>
 #include <QFileInfo>
+
+#include <limits>
 
 namespace ortakit {
 
@@ -44,8 +48,9 @@ bool isAcceptableLinetypeFile(const QString &path, const QString &extension)
     const QFileInfo info(path);
     if (!info.exists())
         return true;
-    QFile file(path);
-    return info.isFile() && file.open(QIODevice::ReadOnly) &&
+    // However large it is, only its begin is looked at.
+    QFile file;
+    return files::openRegular(file, path, std::numeric_limits<qint64>::max()).isEmpty() &&
            opensDefinitionOrIsBlank(withoutByteOrderMark(file.read(longestFirstLine)));
 }
 

@@ -1,8 +1,10 @@
 #include "dialogs/patternhatch/PatternSource.h"
 
+#include "files/qt/Files.h"
 #include "platform/kernel/CKvUtils.h"
 
 #include <QCoreApplication>
+#include <QFile>
 #include <QFileInfo>
 #include <QImageReader>
 
@@ -17,18 +19,25 @@ bool isChoosable(const QImageReader &reader)
     return formats.contains(reader.format());
 }
 
-/// Named after the contents, whatever the file is called.
-void setFile(QImageReader &reader, const QString &path)
+/// An image file that is open, named after its contents, whatever the file is called.
+struct OpenImage
 {
-    reader.setDecideFormatFromContent(true);
-    reader.setFileName(path);
-}
+    explicit OpenImage(const QString &path)
+    {
+        constexpr qint64 largestImage = 1024 * 1024 * 1024;
+        if (files::openRegular(file, path, largestImage).isEmpty())
+            reader.setDevice(&file);
+        reader.setDecideFormatFromContent(true);
+    }
+
+    QFile file;
+    QImageReader reader;
+};
 
 QSizeF imageSize(const QString &path)
 {
-    QImageReader reader;
-    setFile(reader, path);
-    return isChoosable(reader) ? QSizeF(reader.size()) : QSizeF();
+    OpenImage image(path);
+    return isChoosable(image.reader) ? QSizeF(image.reader.size()) : QSizeF();
 }
 
 bool isUsable(double length)
@@ -55,8 +64,8 @@ QSizeF ownSize(const PatternSource &source)
 
 QImage imagePicture(const QString &path, const QSize &bounds)
 {
-    QImageReader reader;
-    setFile(reader, path);
+    OpenImage image(path);
+    QImageReader &reader = image.reader;
     if (!isChoosable(reader))
         return {};
     // Scaled while it is decoded where the format can do that.

@@ -1,5 +1,7 @@
 #include "host/app/BatchRuns.h"
 
+#include "files/qt/Files.h"
+#include "files/qt/VisibleText.h"
 #include "host/app/DrawingPicture.h"
 #include "host/app/LimitWatch.h"
 #include "host/app/ProgramOutput.h"
@@ -7,6 +9,7 @@
 #include "host/app/UnattendedFeeder.h"
 #include "host/app/Workbench.h"
 #include "host/kernel/ExpressionSurroundings.h"
+#include "host/lisp/Paths.h"
 
 #include <QDir>
 #include <QFile>
@@ -28,6 +31,7 @@ WorkbenchOptions workbenchOptions(const ProgramOptions &options)
             .module = options.module,
             .tools = options.tools,
             .trustedFolders = options.trustedFolders,
+            .readableFolders = options.readableFolders,
             .memoryLimit = options.memoryLimit};
 }
 
@@ -189,19 +193,18 @@ int SessionBatch::writeOutcome(kernel::Document &document, const QString &path, 
     for (const QString &file : written)
         files.append(native(file));
     QString error;
+    const QMetaObject::Connection told = QObject::connect(&document, &kernel::Document::printed, &document,
+                                                          [](const QString &text) { writeMessage(text.trimmed()); });
     if (!m_options.outFolder.isEmpty() && document.isModified()) {
         const QString target = QDir(m_options.outFolder).filePath(QFileInfo(path).completeBaseName() + u".dxf"_s);
-        const QMetaObject::Connection told =
-            QObject::connect(&document, &kernel::Document::printed, &document,
-                             [](const QString &text) { writeMessage(text.trimmed()); });
         error = document.saveCopy(target).error;
-        QObject::disconnect(told);
         files.append(native(target));
     }
     if (error.isEmpty() && m_options.withPictures) {
         error = writeDrawingPicture(document, picturePath(path)).error;
         files.append(native(picturePath(path)));
     }
+    QObject::disconnect(told);
     if (!error.isEmpty()) {
         writeMessage(error);
         writeResult(u"%1: not written\n"_s.arg(native(path)));
@@ -224,8 +227,8 @@ kernel::RunResult loadLisp(kernel::Document &document, const QString &file)
 
 bool isReadable(const QString &file)
 {
-    QFile probe(file);
-    if (file == "-"_L1 || (!QFileInfo(file).isDir() && probe.open(QIODevice::ReadOnly)))
+    QFile probe;
+    if (file == "-"_L1 || files::openRegular(probe, file, lisp::largestTextFile).isEmpty())
         return true;
     writeMessage(u"%1: the file cannot be read"_s.arg(native(file)));
     return false;
@@ -252,6 +255,21 @@ QByteArray conversionReport(const ProgramOptions &options, const view::RenderRep
         object.insert(u"cutShort"_s, report->isCutShort);
     }
     return QJsonDocument(object).toJson(QJsonDocument::Compact) + '\n';
+}
+
+/// What is named outside is told once each.
+drawing::ReadableFiles readableFor(const ProgramOptions &options)
+{
+    drawing::ReadableFiles readable;
+    for (const QString &folder : options.readableFolders)
+        readable.folders.append(QFileInfo(folder).absoluteFilePath());
+    readable.refused = [told = std::make_shared<QSet<QString>>()](const QString &path, const QString &reason) {
+        if (told->contains(path))
+            return;
+        told->insert(path);
+        writeMessage(u"%1 was not read: %2"_s.arg(files::visibleText(native(path)), reason));
+    };
+    return readable;
 }
 
 } // namespace
@@ -316,7 +334,8 @@ int convertDrawing(const ProgramOptions &options)
     }
     view::ExportResult written;
     if (isPicture)
-        written = writeDrawingPicture(*read.drawing, options.output, kernel::expressionSurroundings(*read.drawing));
+        written = writeDrawingPicture(*read.drawing, options.output,
+                                      kernel::expressionSurroundings(*read.drawing, readableFor(options)));
     else
         written.error = drawing::saveCopy(*read.drawing, options.output).error;
     if (!written) {

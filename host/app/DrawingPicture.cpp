@@ -15,7 +15,7 @@ using namespace Qt::StringLiterals;
 
 namespace host::app {
 
-view::ExportResult writeDrawingPicture(const kernel::Document &document, const QString &path)
+view::ExportResult writeDrawingPicture(kernel::Document &document, const QString &path)
 {
     return writeDrawingPicture(document.drawing(), path, kernel::expressionSurroundings(document));
 }

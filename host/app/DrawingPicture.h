@@ -21,7 +21,7 @@ namespace host::app {
 view::ExportResult writeDrawingPicture(const drawing::Drawing &drawing, const QString &path,
                                        const drawing::MacroSurroundings &surroundings);
 /// The same for an open document, which knows more system variables.
-view::ExportResult writeDrawingPicture(const kernel::Document &document, const QString &path);
+view::ExportResult writeDrawingPicture(kernel::Document &document, const QString &path);
 
 /// What the widget looks like now, as PNG; empty when it was written.
 QString writeWidgetPicture(QWidget &widget, const QString &path);

@@ -1,7 +1,9 @@
 #include "host/app/PlaybackScript.h"
 
+#include "files/qt/Files.h"
+
 #include <QCoreApplication>
-#include <QFile>
+#include <QFileInfo>
 #include <QStringDecoder>
 
 #include <cmath>
@@ -267,16 +269,13 @@ PlaybackScript parsePlayback(const QString &text)
 
 PlaybackScript readPlayback(const QString &path)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return {{}, {{0, tr("cannot read %1: %2").arg(path, file.errorString())}}};
-    const QByteArray bytes = file.read(longestSession + 1);
-    if (file.error() != QFile::NoError)
-        return {{}, {{0, tr("cannot read %1: %2").arg(path, file.errorString())}}};
-    if (bytes.size() > longestSession)
+    if (QFileInfo(path).size() > longestSession)
         return {{}, {{0, tr("%1 is too long for a session").arg(path)}}};
+    const files::WholeBytes file = files::readWhole(path, longestSession);
+    if (!file)
+        return {{}, {{0, tr("cannot read %1: %2").arg(path, file.reason)}}};
     QStringDecoder decoder(QStringDecoder::Utf8);
-    const QString text = decoder.decode(bytes);
+    const QString text = decoder.decode(file.bytes);
     if (decoder.hasError() || text.contains(QChar(0)))
         return {{}, {{0, tr("%1 is no UTF-8 text").arg(path)}}};
     return parsePlayback(text);

@@ -78,6 +78,7 @@ int runWindow(const ProgramOptions &options)
                        .module = options.module,
                        .tools = options.tools,
                        .trustedFolders = options.trustedFolders,
+                       .readableFolders = options.readableFolders,
                        .memoryLimit = options.memoryLimit});
     for (const QString &problem : window.workbench().problems())
         writeMessage(problem);

@@ -89,6 +89,7 @@ const QList<OptionRow> &optionRows()
         {"--home", Value::Needed, {}, setText<&ProgramOptions::home>},
         {"--module", Value::Needed, {}, setText<&ProgramOptions::module>},
         {"--tools", Value::Needed, {}, setText<&ProgramOptions::tools>},
+        {"--allow-read", Value::Needed, {}, addText<&ProgramOptions::readableFolders>},
         {"--trust", Value::Needed, {Mode::Window, Mode::Run, Mode::Lisp}, addText<&ProgramOptions::trustedFolders>},
         {"--screenshot-dir", Value::Needed, {Mode::Window, Mode::Run}, setText<&ProgramOptions::pictureFolder>},
         {"--session", Value::Needed, {Mode::Window}, setText<&ProgramOptions::session>},
@@ -199,6 +200,8 @@ constexpr auto commonHelp = R"(Options for every use:
   --style light|dark   look of windows and dialogs
   --home DIR           folder of the user's data (default: $ORTAKIT_HOME, or the system's place for such data)
   --module FILE        the plug-in module (default: $ORTAKIT_MODULE, or the one installed with the program)
+  --allow-read DIR     let drawings name files of this folder and those below; may be given again. Else they are read
+                       from the drawing's own folder, those below and trusted ones only
   --tools DIR          folder of the Lisp tools (default: $ORTAKIT_TOOLS, or the one installed with the program)
   --help, --version
 

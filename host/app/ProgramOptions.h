@@ -55,6 +55,7 @@ struct ProgramOptions
     QString module;
     QString tools;
     QStringList trustedFolders; ///< all but Convert
+    QStringList readableFolders;
     /// Of each session; of a Lisp run or a conversion as a whole. Nothing: the usual one of a session, none of others.
     std::optional<std::chrono::milliseconds> timeLimit;
     std::optional<int> memoryLimit; ///< of Lisp, in MB; Run, Lisp, Window

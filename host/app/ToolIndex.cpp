@@ -1,5 +1,8 @@
 #include "host/app/ToolIndex.h"
 
+#include "files/qt/Files.h"
+#include "host/lisp/Paths.h"
+
 #include <QDir>
 #include <QFile>
 
@@ -35,9 +38,9 @@ bool readMenuLine(const QString &line, ToolEntry &entry)
 
 void readTool(const QString &path, ToolIndex &index)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        index.problems.append(u"%1 cannot be read: %2"_s.arg(QDir::toNativeSeparators(path), file.errorString()));
+    QFile file;
+    if (const QString reason = files::openRegular(file, path, lisp::largestTextFile); !reason.isEmpty()) {
+        index.problems.append(u"%1 cannot be read: %2"_s.arg(QDir::toNativeSeparators(path), reason));
         return;
     }
     ToolEntry entry;

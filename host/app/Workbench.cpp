@@ -61,6 +61,8 @@ Workbench::Workbench(const WorkbenchOptions &options, QWidget *mainWindow)
         m_session.capLispHeap(*options.memoryLimit);
     for (const QString &folder : options.trustedFolders)
         m_session.trustedFolders().addForSession(folder);
+    for (const QString &folder : options.readableFolders)
+        m_session.trustedFolders().addForSession(folder, kernel::TrustedFolders::List::Read);
     loadModule(findModuleFile(options.module));
     if (m_tools.folder.isEmpty()) {
         const QString folder = findToolsFolder(options.tools);

@@ -15,7 +15,8 @@ struct WorkbenchOptions
     QString home;   ///< folder of the user's data; empty: the session's own choice
     QString module; ///< file of the plug-in module; empty: $ORTAKIT_MODULE, else the one installed with the program
     QString tools;  ///< folder of the Lisp tools; empty: $ORTAKIT_TOOLS, else the one installed with the program
-    QStringList trustedFolders = {}; ///< whose programs may run too, with those below
+    QStringList trustedFolders = {};     ///< whose programs may run too, with those below
+    QStringList readableFolders = {};    ///< whose files drawings may name too, with those below
     std::optional<int> memoryLimit = {}; ///< of Lisp, in MB; nothing: the user's setting alone
 };
 

@@ -19,9 +19,11 @@ struct MacroSurroundings
     /// A length and an angle (radians) as LUNITS and LUPREC, AUNITS and AUPREC count modes and precisions.
     std::function<QString(double value, int mode, int precision)> length{};
     std::function<QString(double radians, int mode, int precision)> angle{};
-    /// Where a file lies that the drawing names; empty when there is none. Missing, the drawing's own folder is
-    /// searched.
+    /// Where a file lies that the drawing names; empty when there is none, or none that may be read. Missing,
+    /// namedFiles() searches.
     std::function<QString(const QString &name)> file{};
+    /// Told of a file that was found and could not be read; may be missing.
+    std::function<void(const QString &path, const QString &reason)> unread{};
 };
 
 /// The most characters that an expression gives. More is cut off there and marked.

@@ -1,8 +1,8 @@
 #include "host/drawing/RemoteTextContent.h"
 
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
+#include "files/qt/Files.h"
+#include "host/drawing/NamedFiles.h"
+
 #include <QStringDecoder>
 
 namespace host::drawing {
@@ -24,15 +24,16 @@ QString decoded(const QByteArray &bytes, const TextCodec &codec)
     return text.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
 }
 
-std::optional<QString> readBeside(const Drawing &drawing, QString name)
+std::optional<QString> readNamed(const Drawing &drawing, const QString &name, const MacroSurroundings &surroundings)
 {
-    const QDir folder = drawing.path().isEmpty() ? QDir() : QFileInfo(drawing.path()).absoluteDir();
-    // Drawings come from systems with either separator.
-    const QFileInfo info(folder, name.replace(u'\\', u'/'));
-    QFile file(info.filePath());
-    if (!info.isFile() || info.size() > largestFile || !file.open(QIODevice::ReadOnly))
+    const FileFinder find = surroundings.file ? surroundings.file : namedFiles(drawing);
+    const QString path = find(name);
+    if (path.isEmpty())
         return std::nullopt;
-    return decoded(file.read(largestFile), drawing.codec());
+    const files::WholeBytes file = files::readWhole(path, largestFile);
+    if (!file && surroundings.unread)
+        surroundings.unread(path, QStringLiteral("%1 (remote texts have at most 256 kB)").arg(file.reason));
+    return file ? std::optional(decoded(file.bytes, drawing.codec())) : std::nullopt;
 }
 
 } // namespace
@@ -44,7 +45,7 @@ RemoteTextContent remoteTextContent(const Drawing &drawing, const TagList &tags,
     const bool hasCodes = (flags & codesBit) != 0;
     if ((flags & expressionBit) != 0)
         return {evaluateMacro(content, surroundings), true, hasCodes};
-    const std::optional<QString> read = readBeside(drawing, content);
+    const std::optional<QString> read = readNamed(drawing, content, surroundings);
     return {read.value_or(content), read.has_value(), read && hasCodes};
 }
 

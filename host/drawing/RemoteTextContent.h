@@ -16,9 +16,9 @@ struct RemoteTextContent
     bool hasCodes = false;
 };
 
-/// Reads the file, which is looked for from the drawing's folder on, or evaluates the expression, as group 70 says. A
-/// file's text is in the encoding that a mark at its begin says, else in UTF-8 or, where it is none, in the drawing's
-/// own. Of files that are no ordinary ones or larger than 256 kB nothing is read.
+/// Reads the file where `surroundings` finds it (without a finder, as namedFiles() does), or evaluates the expression,
+/// as group 70 says. A file's text is in the encoding that a mark at its begin says, else in UTF-8 or, where it is
+/// none, in the drawing's own. Of files that are no ordinary ones or larger than 256 kB nothing is read.
 RemoteTextContent remoteTextContent(const Drawing &drawing, const TagList &tags, const MacroSurroundings &surroundings);
 
 } // namespace host::drawing

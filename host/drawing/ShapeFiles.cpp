@@ -1,11 +1,10 @@
 #include "host/drawing/ShapeFiles.h"
 
+#include "files/qt/Files.h"
 #include "host/drawing/Symbols.h"
 #include "host/drawing/Tables.h"
 
 #include <QDateTime>
-#include <QDir>
-#include <QFile>
 #include <QFileInfo>
 
 namespace host::drawing {
@@ -26,10 +25,10 @@ QString withoutEnding(const QString &name)
 
 std::shared_ptr<const ShapeFile> readFile(const QString &path)
 {
-    QFile file(path);
-    if (path.isEmpty() || !QFileInfo(path).isFile() || file.size() > largestFile || !file.open(QIODevice::ReadOnly))
+    const files::WholeBytes file = files::readWhole(path, largestFile);
+    if (!file)
         return nullptr;
-    auto read = std::make_shared<const ShapeFile>(readShapeFile(file.read(largestFile)));
+    auto read = std::make_shared<const ShapeFile>(readShapeFile(file.bytes));
     return read->error.isEmpty() ? read : nullptr;
 }
 
@@ -44,15 +43,6 @@ void forEachShapeStyle(const Drawing &drawing, Visit visit)
 }
 
 } // namespace
-
-FileFinder besideDrawing(const Drawing &drawing)
-{
-    return [&drawing](const QString &name) {
-        const QDir folder = drawing.path().isEmpty() ? QDir() : QFileInfo(drawing.path()).absoluteDir();
-        const QFileInfo info(folder, name);
-        return info.isFile() ? info.absoluteFilePath() : QString();
-    };
-}
 
 const ShapeFile *ShapeFiles::find(const QString &name)
 {

@@ -1,18 +1,11 @@
 #pragma once
 
-#include "host/drawing/Drawing.h"
+#include "host/drawing/NamedFiles.h"
 #include "host/drawing/ShapeFile.h"
 
-#include <functional>
 #include <memory>
 
 namespace host::drawing {
-
-/// The path of a file by the name that a drawing has for it; empty when there is none.
-using FileFinder = std::function<QString(const QString &name)>;
-
-/// Looks in the folder of the drawing.
-FileFinder besideDrawing(const Drawing &drawing);
 
 /// The shape files of a drawing, each read when it is asked for.
 ///

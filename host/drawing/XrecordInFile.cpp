@@ -1,5 +1,6 @@
 #include "host/drawing/XrecordInFile.h"
 
+#include "files/qt/Files.h"
 #include "host/drawing/Dictionaries.h"
 #include "host/drawing/FileIndexer.h"
 #include "host/drawing/ObjectsText.h"
@@ -69,15 +70,10 @@ std::optional<FieldList> readXrecord(QIODevice &file, QStringView name, const Pi
 
 std::optional<FieldList> xrecordInFile(const QString &path, QStringView name, QString *error)
 {
-    QString reason;
-    // Opening a pipe would wait for somebody to write into it.
-    QFile file(path);
+    QFile file;
     std::optional<FieldList> found;
-    if (!QFileInfo(path).isFile())
-        reason = u"this is not a file"_s;
-    else if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
-        reason = file.errorString();
-    else
+    QString reason = files::openRegular(file, path, largestFile);
+    if (reason.isEmpty())
         found = readXrecord(file, name, {}, &reason);
     if (error)
         *error = reason.isEmpty() ? QString() : withPath(path, reason);

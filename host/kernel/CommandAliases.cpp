@@ -3,6 +3,7 @@
 #include "files/qt/Files.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 
 namespace host::kernel {
@@ -36,13 +37,11 @@ std::optional<CommandAliases::Stamp> CommandAliases::stampOfFile() const
 
 QString CommandAliases::reread()
 {
-    QFile file(m_path);
+    constexpr qint64 largestFile = 64 * 1024 * 1024;
+    QFile file;
     AliasTableReading reading;
-    if (!QFileInfo(m_path).isFile())
-        reading.error = QStringLiteral("it is not a regular file");
-    else if (!file.open(QIODevice::ReadOnly))
-        reading.error = file.errorString();
-    else
+    reading.error = files::openRegular(file, m_path, largestFile);
+    if (reading.error.isEmpty())
         reading = readAliasTable(file);
     if (reading.error.isEmpty()) {
         m_table = std::move(reading.table);

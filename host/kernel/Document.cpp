@@ -1,5 +1,6 @@
 #include "host/kernel/Document.h"
 
+#include "files/qt/VisibleText.h"
 #include "host/drawing/EntityGeometry.h"
 #include "host/drawing/HeaderVariables.h"
 #include "host/drawing/Journal.h"
@@ -229,6 +230,27 @@ QString Document::findFile(const QString &asked) const
         if (const QString candidate = folder + u'/' + name; isFile(candidate))
             return QDir::cleanPath(QFileInfo(candidate).absoluteFilePath());
     return {};
+}
+
+QString Document::findNamedFile(const QString &name)
+{
+    return drawing::namedFiles(*m_drawing, m_session.trustedFolders().readable(*this))(name);
+}
+
+void Document::allowReading(const QString &path)
+{
+    m_readableFiles.append(QFileInfo(path).canonicalFilePath());
+}
+
+void Document::tellUnread(const QString &path, const QString &reason)
+{
+    constexpr qsizetype mostTold = 20;
+    if (m_unread.contains(path) || m_unread.size() > mostTold)
+        return;
+    m_unread.insert(path);
+    print(m_unread.size() > mostTold ? QStringLiteral("\nMore files that the drawing names were not read.\n")
+                                     : QStringLiteral("\n%1 was not read: %2.\n")
+                                           .arg(files::visibleText(QDir::toNativeSeparators(path)), reason));
 }
 
 CKvLispEngine *Document::lispEngine()

@@ -8,6 +8,7 @@
 
 #include <QHash>
 #include <QObject>
+#include <QSet>
 #include <QSize>
 #include <QStringList>
 
@@ -149,6 +150,14 @@ public:
     /// Where a file that Lisp names is: the path itself, the working folder, the drawing's folder, the support folders;
     /// a program by a name that is no full path in the trusted folders only. Empty when nowhere.
     QString findFile(const QString &name) const;
+    /// Where a file that the drawing names is: see drawing::namedFiles(). Empty when nowhere, or when it may not be
+    /// read.
+    QString findNamedFile(const QString &name);
+    /// What the user named by hand may be read while the document is open.
+    void allowReading(const QString &path);
+    const QStringList &readableFiles() const { return m_readableFiles; }
+    /// Says once that a file which the drawing names was not read.
+    void tellUnread(const QString &path, const QString &reason);
     /// The command that waits for input from a Lisp program's next (command ...); null when none does.
     CommandRun *pendingCommand() { return m_pendingCommand.get(); }
     void setPendingCommand(std::unique_ptr<CommandRun> command);
@@ -219,6 +228,8 @@ private:
     std::unique_ptr<view::EntityExtents> m_entityExtents;     ///< likewise
     QHash<QString, drawing::RecordId> m_cursors;
     QStringList m_commandNames;
+    QStringList m_readableFiles;
+    QSet<QString> m_unread; ///< what was told
     QString m_lastCommand;
     int m_runs = 0;
     ViewState m_view;

@@ -48,17 +48,24 @@ MacroSurroundings surroundingsWith(const Variable &variable)
 
 } // namespace
 
-MacroSurroundings expressionSurroundings(const Document &document)
+MacroSurroundings expressionSurroundings(Document &document)
 {
     MacroSurroundings surroundings =
         surroundingsWith([&document](const QString &name) { return documentVariable(document, name); });
-    surroundings.file = [&document](const QString &name) { return document.findFile(name); };
+    surroundings.file = [&document](const QString &name) { return document.findNamedFile(name); };
+    surroundings.unread = [&document](const QString &path, const QString &reason) {
+        document.tellUnread(path, reason);
+    };
     return surroundings;
 }
 
-MacroSurroundings expressionSurroundings(const drawing::Drawing &drawing)
+MacroSurroundings expressionSurroundings(const drawing::Drawing &drawing, drawing::ReadableFiles readable)
 {
-    return surroundingsWith([&drawing](const QString &name) { return drawing::drawingVariable(drawing, name); });
+    MacroSurroundings surroundings =
+        surroundingsWith([&drawing](const QString &name) { return drawing::drawingVariable(drawing, name); });
+    surroundings.unread = readable.refused;
+    surroundings.file = drawing::namedFiles(drawing, std::move(readable));
+    return surroundings;
 }
 
 } // namespace host::kernel

@@ -330,6 +330,10 @@ std::vector<HostVariable> stateVariables()
         computed("SAVENAME", [](const Document &document) -> VariableValue { return document.path(); }),
         computed("SCREENSIZE", screenSize),
         computed("TEMPPREFIX", [](const Document &) { return folderOf(QDir::tempPath()); }),
+        {"READPATHS", Computed, ReadWrite, text(""), 0.0, 0.0, 0,
+         [](const Document &document) -> VariableValue {
+             return document.session().trustedFolders().named(TrustedFolders::List::Read);
+         }},
         {"TRUSTEDPATHS", Computed, ReadWrite, text(""), 0.0, 0.0, 0,
          [](const Document &document) -> VariableValue { return document.session().trustedFolders().named(); }},
         computed("UNDOCTL", undoControl),

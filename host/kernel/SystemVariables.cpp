@@ -185,9 +185,10 @@ void SystemVariables::setInternally(QStringView name, const VariableValue &value
         m_values.insert(upper, folder.endsWith(u'/') ? folder : folder + u'/');
     } else if (upper == QStringLiteral("LISPHEAPMAX")) {
         m_document.session().setLispHeapLimit(std::get<qint32>(value));
-    } else if (upper == QStringLiteral("TRUSTEDPATHS")) {
-        if (!m_document.session().trustedFolders().setNamed(std::get<QString>(value)))
-            m_document.print(QStringLiteral("\nTRUSTEDPATHS cannot be kept.\n"));
+    } else if (upper == QStringLiteral("TRUSTEDPATHS") || upper == QStringLiteral("READPATHS")) {
+        const auto list = upper.startsWith(u'T') ? TrustedFolders::List::Run : TrustedFolders::List::Read;
+        if (!m_document.session().trustedFolders().setNamed(std::get<QString>(value), list))
+            m_document.print(QStringLiteral("\n%1 cannot be kept.\n").arg(upper));
     } else if (variable && variable->place != VariablePlace::Header) {
         m_values.insert(upper, value);
     } else {

@@ -17,8 +17,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Where the list is kept; its local name is the same in lower case.
-const QString settingName = u"TRUSTEDPATHS"_s;
+/// Where the lists are kept; their local names are the same in lower case.
+const QString runName = u"TRUSTEDPATHS"_s;
+const QString readName = u"READPATHS"_s;
 constexpr QLatin1StringView andBelow("/...");
 
 bool isFile(const QString &path)
@@ -30,12 +31,6 @@ bool isFile(const QString &path)
 QString canonical(const QString &path)
 {
     return QFileInfo(path).canonicalFilePath();
-}
-
-/// Both canonical.
-bool isBelow(const QString &path, const QString &folder)
-{
-    return !folder.isEmpty() && (path == folder || path.startsWith(folder.endsWith(u'/') ? folder : folder + u'/'));
 }
 
 /// The folder on the way to a canonical path, or the file itself, through which everyone could put another program in
@@ -75,27 +70,40 @@ QString folderOf(const Document &document)
 
 } // namespace
 
-QString TrustedFolders::named() const
+QString TrustedFolders::named(List list) const
 {
-    return m_session.settings().text(settingName, settingName.toLower());
+    const QString &name = list == List::Run ? runName : readName;
+    return m_session.settings().text(name, name.toLower());
 }
 
-bool TrustedFolders::setNamed(const QString &list)
+bool TrustedFolders::setNamed(const QString &paths, List list)
 {
     m_refused.clear();
-    return m_session.settings().setText(settingName, settingName.toLower(), list);
+    const QString &name = list == List::Run ? runName : readName;
+    return m_session.settings().setText(name, name.toLower(), paths);
 }
 
-void TrustedFolders::addForSession(const QString &folder)
+void TrustedFolders::addForSession(const QString &folder, List list)
 {
-    m_forSession.append(QFileInfo(folder).absoluteFilePath() + andBelow);
+    const QString path = QFileInfo(folder).absoluteFilePath();
+    if (list == List::Run)
+        m_forSession.append(path + andBelow);
+    else
+        m_readForSession.append(path);
+}
+
+drawing::ReadableFiles TrustedFolders::readable(Document &document) const
+{
+    return {.folders = searched() + m_readForSession + fullPaths(named(List::Read)),
+            .files = document.readableFiles(),
+            .refused = [&document](const QString &path, const QString &reason) { document.tellUnread(path, reason); }};
 }
 
 bool TrustedFolders::isNamed(const QString &folder) const
 {
     const QStringList names = m_forSession + fullPaths(named());
     return std::any_of(names.begin(), names.end(), [&folder](const QString &name) {
-        return name.endsWith(andBelow) ? isBelow(folder, canonical(name.chopped(andBelow.size()) + u'/'))
+        return name.endsWith(andBelow) ? drawing::isBelow(folder, name.chopped(andBelow.size()) + u'/')
                                        : folder == canonical(name);
     });
 }
@@ -105,10 +113,10 @@ QString TrustedFolders::objection(const QString &path, const Document &document)
     const QString file = canonical(path);
     const QStringList &installation = m_session.supportFolders();
     if (std::any_of(installation.begin(), installation.end(),
-                    [&file](const QString &folder) { return isBelow(file, canonical(folder)); }))
+                    [&file](const QString &folder) { return drawing::isBelow(file, folder); }))
         return {};
     const QString folder = QFileInfo(file).absolutePath();
-    const bool isUsers = isBelow(folder, canonical(m_session.home())) && folder != canonical(folderOf(document));
+    const bool isUsers = drawing::isBelow(folder, m_session.home()) && folder != canonical(folderOf(document));
     if (file.isEmpty() || (!isUsers && !isNamed(folder)))
         return u"its folder is not trusted"_s;
     const QString open = openToEveryone(file);

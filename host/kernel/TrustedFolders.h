@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/drawing/NamedFiles.h"
 #include "host/lisp/Console.h"
 #include "platform/Export.h"
 
@@ -33,13 +34,22 @@ public:
 
     explicit TrustedFolders(Session &session) : m_session(session) {}
 
-    /// The user's list, TRUSTEDPATHS: full paths between ";"; one that ends in "/..." takes in the folders below. What
-    /// is no full path is passed over. Kept in the user's settings.
-    QString named() const;
+    /// The user's lists: full paths between ";". What is no full path is passed over. Kept in the user's settings.
+    enum class List
+    {
+        Run, ///< TRUSTEDPATHS; a path that ends in "/..." takes in the folders below
+        Read ///< READPATHS: whose files drawings may name, with those below
+    };
+    QString named(List list = List::Run) const;
     /// False when it cannot be kept.
-    bool setNamed(const QString &list);
-    /// Trusts a folder and those below as long as the session lives.
-    void addForSession(const QString &folder);
+    bool setNamed(const QString &paths, List list = List::Run);
+    /// Takes in a folder and those below as long as the session lives.
+    void addForSession(const QString &folder, List list = List::Run);
+
+    /// What files the document's drawing may name: those of its own folder, of all folders whose programs may run, of
+    /// the list for reading, and what the user named while it is open. Another one that is there is told on the command
+    /// line.
+    drawing::ReadableFiles readable(Document &document) const;
 
     /// Who is asked; without a question (as in the beginning), what is not trusted does not run.
     void setQuestion(Question question) { m_question = std::move(question); }
@@ -71,6 +81,7 @@ private:
     Session &m_session;
     Question m_question;
     QStringList m_forSession;
+    QStringList m_readForSession;
     QStringList m_refused; ///< by a person, so that programs need not ask again
 };
 

@@ -77,7 +77,7 @@ QString RenderReport::missing() const
 
 Scene::Scene(const drawing::Drawing &drawing, drawing::MacroSurroundings surroundings)
     : m_drawing(drawing), m_surroundings(std::move(surroundings)),
-      m_shapes(m_surroundings.file ? m_surroundings.file : drawing::besideDrawing(drawing))
+      m_shapes(m_surroundings.file ? m_surroundings.file : drawing::namedFiles(drawing))
 {
     if (!m_surroundings.variable)
         m_surroundings.variable = drawing::surroundingsOf(drawing).variable;

@@ -1,3 +1,4 @@
+#include "files/qt/Files.h"
 #include "host/kernel/Document.h"
 #include "host/kernel/Session.h"
 #include "host/kernel/SystemVariables.h"
@@ -7,7 +8,6 @@
 #include "host/lisp/Interpreter.h"
 
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 
 using namespace Qt::StringLiterals;
@@ -209,12 +209,15 @@ CommandTask script(CommandContext &context)
 {
     const PromptReply name = co_await context.text(u"Enter script file name: "_s);
     const QString path = name.hasValue() ? scriptPath(context.document(), name.text.trimmed()) : QString();
-    QFile file(path);
-    if (path.isEmpty() || file.size() > largestScript || !file.open(QIODevice::ReadOnly)) {
-        context.print(u"\nCannot read script \"%1\"."_s.arg(name.text));
+    const files::WholeBytes file = files::readWhole(path, largestScript);
+    if (!file) {
+        context.print(path.isEmpty()
+                          ? u"\nCannot read script \"%1\"."_s.arg(name.text)
+                          : u"\nCannot read script \"%1\": %2 (the limit is %3 MB)."_s.arg(name.text, file.reason)
+                                .arg(largestScript >> 20));
         co_return;
     }
-    switch (context.document().session().input().pushScript(QString::fromUtf8(file.readAll()))) {
+    switch (context.document().session().input().pushScript(QString::fromUtf8(file.bytes))) {
     case InputQueue::ScriptOutcome::Taken:
         break;
     case InputQueue::ScriptOutcome::Replaced:

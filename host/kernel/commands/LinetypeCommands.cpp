@@ -1,3 +1,4 @@
+#include "files/qt/Files.h"
 #include "host/drawing/LinetypeSource.h"
 #include "host/drawing/Tables.h"
 #include "host/drawing/Wildcard.h"
@@ -6,7 +7,6 @@
 #include "host/kernel/commands/CommandContext.h"
 #include "host/kernel/commands/Commands.h"
 
-#include <QFile>
 #include <QSet>
 
 using namespace Qt::StringLiterals;
@@ -27,12 +27,15 @@ std::vector<LinetypeDefinition> definitionsOf(CommandContext &context, const QSt
     QString path = context.document().findFile(typed.trimmed());
     if (path.isEmpty())
         path = context.document().findFile(typed.trimmed() + u".lin"_s);
-    QFile file(path);
-    if (path.isEmpty() || file.size() > largestSource || !file.open(QIODevice::ReadOnly)) {
-        context.print(u"\nCannot read linetype file \"%1\"."_s.arg(typed));
+    const files::WholeBytes file = files::readWhole(path, largestSource);
+    if (!file) {
+        context.print(path.isEmpty()
+                          ? u"\nCannot read linetype file \"%1\"."_s.arg(typed)
+                          : u"\nCannot read linetype file \"%1\": %2 (the limit is %3 MB)."_s.arg(typed, file.reason)
+                                .arg(largestSource >> 20));
         return {};
     }
-    const QByteArray bytes = file.readAll();
+    const QByteArray &bytes = file.bytes;
     return drawing::readLinetypeSource(bytes.startsWith("\xEF\xBB\xBF") ? bytes.sliced(3) : bytes);
 }
 
@@ -51,7 +54,7 @@ std::vector<LinetypeDefinition> matching(std::vector<LinetypeDefinition> definit
 
 void tellLoaded(CommandContext &context, const LinetypeDefinition &definition)
 {
-    drawing::ShapeFiles shapes([&](const QString &name) { return context.document().findFile(name); });
+    drawing::ShapeFiles shapes([&](const QString &name) { return context.document().findNamedFile(name); });
     const QString error = drawing::loadLinetype(context.drawing(), definition, shapes);
     context.print(error.isEmpty() ? u"\nLinetype \"%1\" loaded."_s.arg(definition.name)
                                   : u"\nLinetype \"%1\" not loaded: %2."_s.arg(definition.name, error));

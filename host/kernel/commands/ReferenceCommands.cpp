@@ -1,3 +1,4 @@
+#include "files/qt/Files.h"
 #include "host/drawing/Blocks.h"
 #include "host/drawing/CopyBetweenDrawings.h"
 #include "host/drawing/FileIndexer.h"
@@ -34,8 +35,9 @@ void setPath(drawing::Drawing &drawing, RecordId block, const QString &path)
 /// Whether the file can be referred to: any kind of drawing, also one that only other programs read.
 bool isDrawing(const QString &path)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
+    constexpr qint64 largestDrawing = 0xFFFFFFFFLL;
+    QFile file;
+    if (!files::openRegular(file, path, largestDrawing).isEmpty())
         return false;
     const QByteArray start = file.read(64);
     return drawing::isDwg(start) || drawing::isBinaryDxf(start) || bool(drawing::Drawing::open(path));
@@ -62,6 +64,7 @@ RecordId referenceTo(CommandContext &context, const QString &typed, int flags)
         context.fail(u"The name \"%1\" is a block's already."_s.arg(name));
     } else if (const RecordId made = blocks.create(name, {}, flags); isValid(made)) {
         setPath(context.drawing(), made, typed);
+        context.document().allowReading(path);
         return made;
     } else {
         context.fail(u"The name \"%1\" cannot be used."_s.arg(name));
@@ -80,6 +83,8 @@ void redefinePaths(CommandContext &context, const QString &names, const QString 
         setPath(context.drawing(), id, path);
         ++count;
     }
+    if (const QString file = context.document().findFile(path); count > 0 && !file.isEmpty())
+        context.document().allowReading(file);
     if (count == 0)
         context.print(u"\nNo matching references found."_s);
 }
@@ -114,7 +119,7 @@ void setFlags(CommandContext &context, const drawing::Block &block, int flags)
 /// Makes what the file holds the block, which is an ordinary one then.
 void bind(CommandContext &context, const drawing::Block &block)
 {
-    const QString path = context.document().findFile(block.externalPath);
+    const QString path = context.document().findNamedFile(block.externalPath);
     if (path.isEmpty())
         return context.fail(u"Cannot find file \"%1\" of reference \"%2\"."_s.arg(block.externalPath, block.name));
     const drawing::ReadResult source = drawing::Drawing::open(path);
@@ -163,7 +168,7 @@ void unload(CommandContext &context, const drawing::Block &block)
 
 void reload(CommandContext &context, const drawing::Block &block)
 {
-    if (context.document().findFile(block.externalPath).isEmpty())
+    if (context.document().findNamedFile(block.externalPath).isEmpty())
         return context.print(u"\nCannot find file \"%1\" of reference \"%2\"."_s.arg(block.externalPath, block.name));
     setFlags(context, block, block.flags | resolvedFlag);
     context.print(u"\n\"%1\" reloaded."_s.arg(block.name));

@@ -14,7 +14,7 @@ using drawing::ShapeFiles;
 
 ShapeFiles shapeFilesOf(CommandContext &context)
 {
-    return ShapeFiles([&context](const QString &name) { return context.document().findFile(name); });
+    return ShapeFiles([&context](const QString &name) { return context.document().findNamedFile(name); });
 }
 
 bool isInDrawing(CommandContext &context, const QString &shape)
@@ -32,7 +32,14 @@ CommandTask load(CommandContext &context)
     const PromptReply name = co_await context.text(u"Enter name of shape file to load: "_s);
     if (!name.hasValue())
         co_return;
-    if (!shapeFilesOf(context).find(name.text.trimmed()))
+    // What is named here by hand may be read wherever it lies.
+    ShapeFiles typed([&context](const QString &file) {
+        const QString path = context.document().findFile(file);
+        if (!path.isEmpty())
+            context.document().allowReading(path);
+        return path;
+    });
+    if (!typed.find(name.text.trimmed()))
         context.fail(u"Cannot read shape file \"%1\"."_s.arg(name.text.trimmed()));
     else
         drawing::shapeFileStyle(context.drawing(), name.text.trimmed());
