@@ -25,7 +25,8 @@ FileFinder namedFiles(const Drawing &drawing, ReadableFiles readable)
         if (name.isEmpty())
             return QString();
         QString refused;
-        for (const QString &folder : folders) {
+        // What lies in the working folder only is found to be told of, or when the user named it.
+        for (const QString &folder : folders + QStringList{QDir::currentPath()}) {
             const QFileInfo info(QDir(folder), name);
             if (!info.isFile())
                 continue;

@@ -23,7 +23,8 @@ struct ReadableFiles
 };
 
 /// Looks by full paths, from the drawing's folder on (the working folder for a drawing without a path), and in the
-/// readable folders, in this order. Only regular files are found. Valid while the drawing lives.
+/// readable folders, in this order, and in the working folder for one of `files`. Only regular files are found. Valid
+/// while the drawing lives.
 FileFinder namedFiles(const Drawing &drawing, ReadableFiles readable = {});
 
 /// Whether `path`, behind all links, is `folder` or below it.

@@ -49,6 +49,9 @@ struct ProgramTest : testing::Test
         write(u"loads.lsp"_s, "(load \"good\")");
         write(u"whose.lsp"_s, "(princ (if (kora_string_trim \" a \") \"installed\"))");
         EXPECT_TRUE(QDir(folder.path()).mkpath(u"tools"_s) && QDir(folder.path()).mkpath(u"support"_s));
+        EXPECT_TRUE(QDir(folder.path()).mkpath(u"sub"_s));
+        write(u"sub/remote.dxf"_s,
+              QByteArray(smallDrawing()).replace("0\nCIRCLE\n", "0\nRTEXT\n70\n0\n1\n../good.lsp\n"));
         write(u"support/strings.lsp"_s, "(princ \"a stranger's\")");
     }
 
@@ -113,6 +116,9 @@ TEST_F(ProgramTest, EndsWithTheStatusItsManualNames)
          {}},
         {u"convert solid.dxf solid.png --json"_s, 0, u"\"notDrawn\":{\"3DSOLID\":1}"_s,
          u"ortakit: solid.dxf: 1 not drawn (3DSOLID 1)\n"_s},
+        {u"convert sub/remote.dxf remote.png --json"_s, 0, u"\"inPart\":{\"RTEXT\":1}"_s,
+         u"good.lsp was not read: it is not in the drawing's folder."_s},
+        {u"convert sub/remote.dxf remote.png --json --allow-read ."_s, 0, u"\"inPart\":{}"_s, {}},
         {u"convert a.dxf picture.png"_s, 0, {}, {}},
         {u"convert a.dxf picture.svg"_s, 0, {}, {}},
         {u"convert a.dxf picture.pdf"_s, 0, {}, {}},

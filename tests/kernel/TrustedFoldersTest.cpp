@@ -140,4 +140,47 @@ TEST_F(TrustedFoldersTest, TheUsersDataDoNotVouchForWhatLiesBesideTheDrawing)
     EXPECT_EQ(lisp("(run (strcat top \"home/sub/tool\"))"), "\"home/sub\"");
 }
 
+TEST_F(TrustedFoldersTest, DrawingsNameFilesOfTheirFolder)
+{
+    for (const char *file :
+         {"beside/note.txt", "beside/support/deep.txt", "work/out.txt", "named/kept.txt", "open/later.txt"})
+        write(file, "x");
+    write("work/other.dxf", "0\nSECTION\n2\nENTITIES\n0\nENDSEC\n0\nEOF\n");
+    QFile::link(path("work/out.txt"), path("beside/link.txt"));
+    mkfifo(qPrintable(path("beside/pipe")), 0666);
+    session.trustedFolders().setNamed(path("open"), TrustedFolders::List::Read);
+    const QString top = folder.path() + u'/';
+    // The name, where the file is found, and whether it is told that it is not read.
+    const std::tuple<QString, QString, bool> rows[] = {
+        {u"note.txt"_s, u"beside/note.txt"_s, false},
+        {u".\\support\\deep.txt"_s, u"beside/support/deep.txt"_s, false},
+        {top + u"beside/../beside/note.txt"_s, u"beside/note.txt"_s, false},
+        {u"kept.txt"_s, u"named/kept.txt"_s, false},
+        {u"later.txt"_s, u"open/later.txt"_s, false},
+        {u"../work/out.txt"_s, {}, true},
+        {u"link.txt"_s, {}, true},
+        {u"out.txt"_s, {}, true},
+        {top + u"work/other.dxf"_s, {}, true},
+        {u"pipe"_s, {}, false},
+        {u"/dev/zero"_s, {}, false},
+        {u"none.txt"_s, {}, false},
+        {{}, {}, false},
+    };
+    std::string told;
+    for (const auto &[name, found, isTold] : rows) {
+        takePrinted();
+        EXPECT_EQ(document().findNamedFile(name), found.isEmpty() ? QString() : top + found) << name.toStdString();
+        const std::string printed = takePrinted();
+        // Each file once, whatever name it goes by.
+        const bool isKnown = isTold && printed.empty() && told.find("out.txt was not read") != std::string::npos;
+        EXPECT_TRUE(isKnown || isTold == (printed.find("was not read: it is not in") != std::string::npos))
+            << name.toStdString();
+        told += printed;
+    }
+    runTyped(qPrintable(u"-XREF\nAttach\n%1\n0,0\n1\n1\n0\n-XREF\nBind\nother\n"_s.arg(path("work/other.dxf"))));
+    EXPECT_NE(takePrinted().find("is a block of this drawing now"), std::string::npos) << "the user named it by hand";
+    lisp("(setvar \"READPATHS\" (strcat top \"work\"))");
+    EXPECT_EQ(document().findNamedFile(u"link.txt"_s), path("work/out.txt"));
+}
+
 } // namespace
