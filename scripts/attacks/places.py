@@ -5,7 +5,7 @@ import stat
 from dataclasses import dataclass
 
 from attacks.bench import FALSE, LEFT, LET_IN, LOST, NOBODY, Bad, Fault, NotRun, told_or_bad
-from attacks.writers import WRITERS, Expected, is_failure, restore, snapshot
+from attacks.writers import WRITERS, Expected, comparable, is_failure, restore, snapshot
 
 TARGETS = {
     "QSAVE": "work/plan.dxf", "SAVEAS over another": "work/other.dxf", "WBLOCK": "work/other.dxf",
@@ -40,8 +40,9 @@ class Written:
     ended: object = None
 
     @property
-    def now(self):
-        return self.target.read_bytes() if self.target.is_file() else None
+    def is_new(self):
+        name = self.target.name
+        return self.target.is_file() and comparable(name, self.target.read_bytes()) == comparable(name, self.new)
 
     def must_be_old(self, path=None):
         data = (path or self.target).read_bytes()
@@ -54,7 +55,7 @@ class Written:
 
     def must_be_new(self, path=None):
         data = (path or self.target).read_bytes() if (path or self.target).is_file() else None
-        if data == self.new:
+        if comparable(self.target.name, data) == comparable(self.target.name, self.new):
             return
         if data != self.old:
             raise Bad(LOST, f"{(path or self.target).name} is neither the old nor the new one; {self.ended.brief()}")
@@ -68,7 +69,7 @@ class Written:
 
     def no_leftovers(self):
         known = {*self.expected.before, *self.expected.after}
-        extra = [name for name in snapshot(self.attempt.disk) if name not in known and not name.startswith("work/else")]
+        extra = [name for name in snapshot(self.attempt.disk) if name not in known and "/else/" not in name and "away/" not in name]
         if extra:
             raise Bad(LEFT, f"{', '.join(extra)}; {self.ended.brief()}")
 
@@ -79,7 +80,7 @@ def read_only_folder(written):
     written.target.parent.chmod(0o555)
     yield
     written.target.parent.chmod(0o755)
-    if written.now != written.new:
+    if not written.is_new:
         written.must_be_old()
         written.must_be_told()
 
@@ -95,7 +96,7 @@ def missing_folder(written):
     away = written.target.parent.with_name("away")
     written.target.parent.rename(away)
     yield
-    if written.now != written.new:
+    if not written.is_new:
         written.must_be_told()
     if not written.target.parent.exists():
         away.rename(written.target.parent)
@@ -135,8 +136,8 @@ def link_to_nothing(written):
     written.must_keep("the kind", stat.S_IFLNK, kind_of(written.target))
     if not (elsewhere / "later").exists():
         written.must_be_told()
-    elif (elsewhere / "later").read_bytes() != written.new:
-        raise Bad(LOST, f"what the link leads to is not the new file; {written.ended.brief()}")
+    else:
+        written.must_be_new(elsewhere / "later")
 
 
 def link_elsewhere(written):
@@ -154,8 +155,8 @@ def second_name(written):
     elsewhere.mkdir()
     os.link(written.target, elsewhere / "second")
     yield
+    written.must_keep("being one file with its second name", True, os.path.samefile(written.target, elsewhere / "second"))
     written.must_be_new()
-    written.must_be_new(elsewhere / "second")
 
 
 def extended_attribute(written):
@@ -197,6 +198,9 @@ def owner_is_another(written):
     written.must_keep("the owner", (1234, 4321), (status.st_uid, status.st_gid))
 
 
+# Backups are new files each time, and have the properties of the drawing.
+KEPT_BY_BACKUPS = (read_only_folder, read_only_file, missing_folder, folder_in_its_place, pipe_in_its_place, full_device)
+
 # With the user who runs the program: root is held back by no mode, and only root gives files away.
 PLACES = [
     (read_only_folder, True), (read_only_file, True), (missing_folder, True), (folder_in_its_place, True),
@@ -217,7 +221,7 @@ def over(place, as_nobody, attempt):
             os.chown(path, NOBODY, NOBODY)
     steps = place(written)
     next(steps)
-    written.ended = writer.write(attempt, as_nobody=as_nobody, seconds=30)
+    written.ended = writer.write(attempt, as_nobody=as_nobody, seconds=8, memory=700, cwd=attempt.folder)
     next(steps, None)
     written.no_leftovers()
 
@@ -227,4 +231,5 @@ def faults(bench):
     for place, as_nobody in PLACES:
         def body(attempt, place=place, as_nobody=as_nobody):
             over(place, as_nobody, attempt)
-        yield Fault("places", place.__name__.replace("_", " "), body, cases=writers)
+        cases = [writer for writer in writers if place in KEPT_BY_BACKUPS or writer.name != "QSAVE with a backup"]
+        yield Fault("places", place.__name__.replace("_", " "), body, cases=cases)

@@ -162,6 +162,7 @@ class Attack:
 
 
 def describe(case):
+    """A case in words."""
     if isinstance(case, (list, tuple)):
         return ", ".join(describe(part) for part in case)
     return str(getattr(case, "name", getattr(case, "__name__", case)))
