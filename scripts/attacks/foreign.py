@@ -92,7 +92,7 @@ def named_by_a_program(attempt, **options):
 
 
 def autoloaded(attempt, **options):
-    attempt.lisp('(autoload "attack-tool" \'("ATTACK-TOOL")) (vl-catch-all-apply \'c:attack-tool)', attempt.drawing, **options)
+    attempt.lisp('(autoload "attack-tool" \'("ATTACK-TOOL")) (vl-catch-all-apply \'c:attack-tool nil)', attempt.drawing, **options)
 
 
 def found(attempt, **options):

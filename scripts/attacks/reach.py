@@ -36,7 +36,8 @@ def shows_difference(attempt, make, change, **options):
     shutil.copy(SAMPLES / "plan.dxf", drawing)
     ended = attempt.lisp(make, drawing)
     if drawing.read_bytes() == (SAMPLES / "plan.dxf").read_bytes():
-        return not ended.is_told and None  # refused already where it was to be drawn
+        told_or_bad(ended, "nothing was drawn and nothing said")
+        return False
     pictures = []
     for number in (0, 1):
         change(number)
