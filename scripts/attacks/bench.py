@@ -16,6 +16,7 @@ TOP = Path(__file__).resolve().parent.parent.parent
 SAMPLES = TOP / "samples"
 MEBIBYTE = 1024 * 1024
 NOBODY = 65534  # the user that owns nothing
+LARGEST_FILE = 256 * MEBIBYTE  # no program under attack writes more into one, so that it fills no disk of others
 
 # The ways in which an attempt may go wrong.
 LOST = "lost"  # content of a person's file is gone, or a file is neither the old nor the new one
@@ -222,7 +223,7 @@ class Attempt:
                        "ASAN_OPTIONS": "detect_leaks=0:abort_on_error=0", "UBSAN_OPTIONS": "print_stacktrace=1",
                        **more}
 
-    def start(self, *arguments, cwd=None, environment=None, largest=None, as_nobody=False, home=True, stdin=None):
+    def start(self, *arguments, cwd=None, environment=None, largest=LARGEST_FILE, as_nobody=False, home=True, stdin=None):
         """Starts the program with the arguments. `largest`: no file can become larger, in bytes. `as_nobody`: as a
         user whom file modes hold back, where the attack is root."""
         if as_nobody and self.bench.is_root:
@@ -232,9 +233,8 @@ class Attempt:
 
         def prepare():
             resource.setrlimit(resource.RLIMIT_CORE, (0, 0))
-            if largest is not None:
-                signal.signal(signal.SIGXFSZ, signal.SIG_IGN)
-                resource.setrlimit(resource.RLIMIT_FSIZE, (largest, largest))
+            signal.signal(signal.SIGXFSZ, signal.SIG_IGN)
+            resource.setrlimit(resource.RLIMIT_FSIZE, (largest, largest))
             if as_nobody and self.bench.is_root:
                 os.setgroups([])
                 os.setgid(NOBODY)

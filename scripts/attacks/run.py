@@ -16,6 +16,7 @@ from pathlib import Path
 from attacks.bench import KINDS, TOP, Attempt, Bad, Bench, NotRun
 
 GROUPS = ("drawings", "disk", "places", "kills", "races", "foreign", "reach", "cost", "calls")
+LARGEST_KEPT = 64 * 1024 * 1024
 IN_NAMESPACE = "ORTAKIT_ATTACK_NAMESPACE"
 
 
@@ -130,7 +131,7 @@ class Attack:
         target = self.options.keep / f"{attempt.fault.group}-{attempt.fault.name}-{attempt.number}".replace(" ", "_").replace("/", "_")
         shutil.rmtree(target, ignore_errors=True)
         shutil.copytree(attempt.folder, target, symlinks=True,
-                        ignore=lambda folder, names: [name for name in names if not plain(Path(folder, name))])
+                        ignore=lambda folder, names: [name for name in names if not is_kept(Path(folder, name))])
         lines = [f"{bad.kind}: {bad.detail}"]
         for ended in attempt.ended:
             lines += ["", " ".join(ended.command), f"status {ended.status} {ended.stopped}", ended.said]
@@ -168,8 +169,9 @@ def describe(case):
     return str(getattr(case, "name", getattr(case, "__name__", case)))
 
 
-def plain(path):
-    return path.is_symlink() or path.is_dir() or path.is_file()
+def is_kept(path):
+    """Pipes would never be copied to their end, and files that are large by their holes would fill the disk."""
+    return path.is_symlink() or path.is_dir() or (path.is_file() and path.stat().st_size <= LARGEST_KEPT)
 
 
 def print_table(attack):
