@@ -29,7 +29,8 @@ KINDS = (LOST, CRASHED, HUNG, FALSE, LET_IN, LEFT)
 
 # What a person takes for "it did not work". "Cannot", "was not written", "is full" ...
 FAILURE = re.compile(
-    r"cannot|can't|is not|has no|there is no|not found|invalid|unknown|could not|couldn't|\bnot (be )?(written|saved|read|kept|made|opened|replaced)|fail|no space|"
+    r"cannot|can't|is not|has no|there is no|not found|invalid|unknown|could not|couldn't|"
+    r"\bnot (be )?(written|saved|read|kept|made|opened|replaced)|fail|no space|"
     r"too large|disk|denied|read.only|not a file|changed|damaged|nothing was|in use|is open|locked|refused|error", re.I)
 SANITIZER = re.compile(rb"(AddressSanitizer|LeakSanitizer|UndefinedBehaviorSanitizer|: runtime error:)")
 
@@ -223,7 +224,8 @@ class Attempt:
                        "ASAN_OPTIONS": "detect_leaks=0:abort_on_error=0", "UBSAN_OPTIONS": "print_stacktrace=1",
                        **more}
 
-    def start(self, *arguments, cwd=None, environment=None, largest=LARGEST_FILE, as_nobody=False, home=True, stdin=None):
+    def start(self, *arguments, cwd=None, environment=None, largest=LARGEST_FILE, as_nobody=False, home=True,
+              stdin=None):
         """Starts the program with the arguments. `largest`: no file can become larger, in bytes. `as_nobody`: as a
         user whom file modes hold back, where the attack is root."""
         if as_nobody and self.bench.is_root:

@@ -35,18 +35,22 @@ def tool_functions():
 
 
 def number(numbers):
-    return numbers.choice(("0", "-1", "1", "2", "32767", "2147483647", "-2147483648", "99999999999", "0.0", "-0.0", "1e308", "-1e308",
+    return numbers.choice(("0", "-1", "1", "2", "32767", "2147483647", "-2147483648", "99999999999", "0.0", "-0.0",
+                           "1e308", "-1e308",
                            "1e-308", "3.5", "255", "65536"))
 
 
 def text(numbers):
-    return numbers.choice(('""', '"x"', '"plan.dxf"', '"no/such/file"', '"../up"', '"*"', '"%s%n%d"', '"\\\\"', '"\\n\\t"', '"LINE"',
-                           '"\\U+00E9"', '"(setq"', '"$(getvar,x)"', '"1,2,3"', '"~"', "(big)", '"`[@#.*~"', '"_X"', '"DIMSTYLE"'))
+    return numbers.choice(('""', '"x"', '"plan.dxf"', '"no/such/file"', '"../up"', '"*"', '"%s%n%d"', '"\\\\"',
+                           '"\\n\\t"', '"LINE"',
+                           '"\\U+00E9"', '"(setq"', '"$(getvar,x)"', '"1,2,3"', '"~"', "(big)", '"`[@#.*~"', '"_X"',
+                           '"DIMSTYLE"'))
 
 
 def atom(numbers):
     return numbers.choice((number, number, text, text, lambda _: numbers.choice(
-        ("nil", "T", "'x", "(entlast)", "(ssget \"_X\")", "(open \"plan.dxf\" \"r\")", "'(lambda (x) x)", "car", "gone", "empty",
+        ("nil", "T", "'x", "(entlast)", "(ssget \"_X\")", "(open \"plan.dxf\" \"r\")", "'(lambda (x) x)", "car", "gone",
+         "empty",
          "'c:line", "pi", "(handent \"2F\")", "closed"))))(numbers)
 
 
@@ -83,8 +87,10 @@ def wrong_calls(names, attempt):
     calls = [call(attempt.random, attempt.random.choice(names)) for _ in range(CALLS_AT_ONCE)]
     first = 0
     while first < len(calls):
-        guarded = [f'(princ "\\n@{index}")\n(vl-catch-all-apply \'(lambda () {calls[index]}) nil)' for index in range(first, len(calls))]
-        (attempt.work / "calls.lsp").write_text(PRELUDE + "\n".join(guarded) + '\n(princ "\\n@end")\n', encoding="utf-8")
+        guarded = [f'(princ "\\n@{index}")\n(vl-catch-all-apply \'(lambda () {calls[index]}) nil)'
+                   for index in range(first, len(calls))]
+        (attempt.work / "calls.lsp").write_text(PRELUDE + "\n".join(guarded) + '\n(princ "\\n@end")\n',
+                                                encoding="utf-8")
         ended = attempt.run("lisp", "calls.lsp", "--drawing", "plan.dxf", seconds=30, as_nobody=True)
         reached = re.findall(r"(?m)^@(\d+|end)", ended.output)
         if not reached:
@@ -97,8 +103,10 @@ def wrong_calls(names, attempt):
 
 
 def faults(bench):
-    for kind, names, tries in (("of the module's functions", module_functions, 16), ("of the host's functions", host_functions, 60),
-                               ("of special forms", special_forms, 10), ("of the tools' functions", tool_functions, 30)):
+    for kind, names, tries in (("of the module's functions", module_functions, 16),
+                               ("of the host's functions", host_functions, 60),
+                               ("of special forms", special_forms, 10),
+                               ("of the tools' functions", tool_functions, 30)):
         def body(attempt, names=names):
             wrong_calls(names, attempt)
         yield Fault("calls", f"wrong calls {kind}", body, tries=tries)

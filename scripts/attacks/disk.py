@@ -82,4 +82,5 @@ def full_file_system(attempt):
 def faults(bench):
     yield Fault("disk", "a limit of a file's size", limited_size,
                 cases=[(writer, limit) for writer in WRITERS for limit in LIMITS])
-    yield Fault("disk", "a full file system", full_file_system, cases=[(writer, free) for writer in WRITERS for free in FREE])
+    yield Fault("disk", "a full file system", full_file_system,
+                cases=[(writer, free) for writer in WRITERS for free in FREE])

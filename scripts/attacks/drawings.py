@@ -20,7 +20,8 @@ for version in ('R12', 'R2000', 'R2004', 'R2007', 'R2010', 'R2018'):
     inner.add_circle((0, 0), 1)
     inner.add_attdef('TAG', (0, 0), text='value')
     outer.add_blockref('INNER', (2, 2), dxfattribs={'rotation': 30, 'xscale': -1})
-    space.add_blockref('OUTER', (5, 5), dxfattribs={'row_count': 3, 'column_count': 2, 'row_spacing': 4, 'column_spacing': 4})
+    rows = {'row_count': 3, 'column_count': 2, 'row_spacing': 4, 'column_spacing': 4}
+    space.add_blockref('OUTER', (5, 5), dxfattribs=rows)
     space.add_blockref('INNER', (9, 9)).add_attrib('TAG', 'seen')
     space.add_line((0, 0), (10, 5), dxfattribs={'linetype': 'DASHED'})
     space.add_arc((3, 3), 2, 10, 200)
@@ -48,7 +49,8 @@ for version in ('R12', 'R2000', 'R2004', 'R2007', 'R2010', 'R2018'):
 OWN_PROGRAM = """
 (command "_.LINE" "0,0" "5,5" "9,2" "") (command "_.CIRCLE" "3,3" 2)
 (command "_.-LAYER" "_Make" "Damage" "_Color" 3 "" "") (command "_.TEXT" "1,1" 0.5 0 "made here")
-(entmake '((0 . "MTEXT") (100 . "AcDbEntity") (100 . "AcDbMText") (10 1.0 2.0 0.0) (40 . 0.5) (1 . "{\\\\C1;red} text")))
+(entmake '((0 . "MTEXT") (100 . "AcDbEntity") (100 . "AcDbMText")
+           (10 1.0 2.0 0.0) (40 . 0.5) (1 . "{\\\\C1;red} text")))
 (command "_.QSAVE")
 """
 

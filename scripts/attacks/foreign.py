@@ -9,7 +9,8 @@ from attacks.writers import SESSIONS, bare
 
 STARTERS = ("acad", "acaddoc", "startup", "start", "init", "autoload", "autoexec", "ortakit", "attack-tool")
 FOLDERS = ("", "support", "tools", "tools/support", "share/ortakit/tools", "../share/ortakit/tools", "lisp", "Ortakit")
-LIBRARIES = ("Ortakit.so", "lib/Ortakit.so", "../lib/Ortakit.so", "platforms/libqoffscreen.so", "plugins/platforms/libqoffscreen.so",
+LIBRARIES = ("Ortakit.so", "lib/Ortakit.so", "../lib/Ortakit.so", "platforms/libqoffscreen.so",
+             "plugins/platforms/libqoffscreen.so",
              "imageformats/libqjpeg.so", "libQt6Core.so.6", "styles/libstyle.so")
 ALIASES = """<?xml version="1.0" encoding="UTF-8"?>
 <alias><record command="ATTACK-TOOL" alias="ZZQ"/></alias>
@@ -87,12 +88,14 @@ def a_new_drawing(attempt, **options):
 
 
 def named_by_a_program(attempt, **options):
-    attempt.lisp('(vl-catch-all-apply \'load (list "attack-tool")) (load "attack-tool.lsp" nil) (load "support/strings" nil)',
+    attempt.lisp('(vl-catch-all-apply \'load (list "attack-tool"))'
+                 '(load "attack-tool.lsp" nil) (load "support/strings" nil)',
                  attempt.drawing, **options)
 
 
 def autoloaded(attempt, **options):
-    attempt.lisp('(autoload "attack-tool" \'("ATTACK-TOOL")) (vl-catch-all-apply \'c:attack-tool nil)', attempt.drawing, **options)
+    attempt.lisp('(autoload "attack-tool" \'("ATTACK-TOOL")) (vl-catch-all-apply \'c:attack-tool nil)', attempt.drawing,
+                 **options)
 
 
 def found(attempt, **options):

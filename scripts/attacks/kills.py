@@ -9,7 +9,9 @@ from attacks.bench import FALSE, LEFT, LOST, SAMPLES, Attempt, Bad, Fault
 from attacks.writers import WRITERS, Expected, restore
 
 GROW = """(setq i 0)
-(repeat 25000 (setq i (1+ i)) (entmake (list '(0 . "LINE") '(8 . "0") (list 10 (* 1.5 i) 0.25 0.0) (list 11 (* 1.5 i) 77.125 0.0))))
+(repeat 25000
+  (setq i (1+ i))
+  (entmake (list '(0 . "LINE") '(8 . "0") (list 10 (* 1.5 i) 0.25 0.0) (list 11 (* 1.5 i) 77.125 0.0))))
 (command "_.QSAVE")"""
 EDIT = '(command "_.LINE" "0,0" "5,5" "") (command "_.QSAVE")'
 BACKUP = "lisp (c:setbackupfolder)\nanswer ${HOME_DIR}/../backup\n"
@@ -54,7 +56,8 @@ def kill_in_save(attempt, running, folder, known):
 def check_whole(path, allowed):
     data = path.read_bytes() if path.exists() else None
     if data not in allowed:
-        raise Bad(LOST, f"{path.name} is {'gone' if data is None else f'{len(data)} bytes, neither the old nor the new'}")
+        now = "gone" if data is None else f"{len(data)} bytes, neither the old nor the new"
+        raise Bad(LOST, f"{path.name} is {now}")
 
 
 def killed_save(with_backup, attempt):

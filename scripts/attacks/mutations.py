@@ -76,7 +76,8 @@ def shuffled_lines(numbers, data):
 def other_codes(numbers, data):
     pairs = tags(data)
     for pair in some(numbers, pairs, lambda pair: True):
-        pair[0] = numbers.choice([b"0", b"-1", b"5", b"10", b"70", b"100", b"102", b"330", b"999", b"1001", b"1004", b"1071",
+        pair[0] = numbers.choice([b"0", b"-1", b"5", b"10", b"70", b"100", b"102", b"330", b"999", b"1001", b"1004",
+                                  b"1071",
                                   b"99999", b"-99999", b"abc", b"", b"1e3", str(numbers.randint(0, 1071)).encode()])
     return joined(pairs)
 
@@ -114,7 +115,8 @@ def names_to_themselves(numbers, data):
     pairs = tags(data)
     names = [pair[1] for pair in pairs if code_of(pair) == 2] or [b"0"]
     for pair in some(numbers, pairs, lambda pair: code_of(pair) in (2, 3, 6, 7, 8)):
-        pair[1] = numbers.choice([*numbers.sample(names, min(3, len(names))), b"", b"*U0", b"*Model_Space", b"a" * 5000])
+        pair[1] = numbers.choice([*numbers.sample(names, min(3, len(names))), b"", b"*U0", b"*Model_Space",
+                                  b"a" * 5000])
     return joined(pairs)
 
 
@@ -174,7 +176,8 @@ def mixed_sections(numbers, data):
 def long_lines(numbers, data):
     pairs = tags(data)
     for pair in some(numbers, pairs, lambda pair: True)[:3]:
-        pair[numbers.randrange(2)] = numbers.choice((b"9", b" ", b"\\P", b"%%c", b"{", b"\\")) * numbers.choice((300, 70000, 1000000))
+        pair[numbers.randrange(2)] = numbers.choice((b"9", b" ", b"\\P", b"%%c", b"{",
+                                                     b"\\")) * numbers.choice((300, 70000, 1000000))
     return joined(pairs)
 
 

@@ -11,7 +11,8 @@ TARGETS = {
     "QSAVE": "work/plan.dxf", "SAVEAS over another": "work/other.dxf", "WBLOCK": "work/other.dxf",
     "QSAVE with a backup": "backup/plan.bak", "SETBACKUPFOLDER": "home/settings.ini",
     "convert to dxf": "out/plan.dxf", "convert to png": "out/plan.png", "convert to svg": "out/plan.svg",
-    "convert to pdf": "out/plan.pdf", "run --out --png": "out/plan.dxf", "session's save and screenshot": "out/seen.png",
+    "convert to pdf": "out/plan.pdf", "run --out --png": "out/plan.dxf",
+           "session's save and screenshot": "out/seen.png",
     "Lisp's write-line": "work/list.txt", "breakline": "home/Ortakit/breakline.state",
     "dimstyleexport": "home/standard.dim", "editalias": "home/alias.xml", "exportinfo": "out/report.txt",
     "exportvariables": "out/settings.scr", "getblockinfo": "out/blocks.txt", "importblockattributes": "out/doors.txt",
@@ -69,7 +70,8 @@ class Written:
 
     def no_leftovers(self):
         known = {*self.expected.before, *self.expected.after}
-        extra = [name for name in snapshot(self.attempt.disk) if name not in known and "/else/" not in name and "away/" not in name]
+        extra = [name for name in snapshot(self.attempt.disk) if name not in known and "/else/" not in name
+                 and "away/" not in name]
         if extra:
             raise Bad(LEFT, f"{', '.join(extra)}; {self.ended.brief()}")
 
@@ -155,7 +157,8 @@ def second_name(written):
     elsewhere.mkdir()
     os.link(written.target, elsewhere / "second")
     yield
-    written.must_keep("being one file with its second name", True, os.path.samefile(written.target, elsewhere / "second"))
+    written.must_keep("being one file with its second name", True,
+                      os.path.samefile(written.target, elsewhere / "second"))
     written.must_be_new()
 
 
@@ -199,12 +202,14 @@ def owner_is_another(written):
 
 
 # Backups are new files each time, and have the properties of the drawing.
-KEPT_BY_BACKUPS = (read_only_folder, read_only_file, missing_folder, folder_in_its_place, pipe_in_its_place, full_device)
+KEPT_BY_BACKUPS = (read_only_folder, read_only_file, missing_folder, folder_in_its_place, pipe_in_its_place,
+                   full_device)
 
 # With the user who runs the program: root is held back by no mode, and only root gives files away.
 PLACES = [
     (read_only_folder, True), (read_only_file, True), (missing_folder, True), (folder_in_its_place, True),
-    (pipe_in_its_place, True), (full_device, True), (link_to_nothing, True), (link_elsewhere, True), (second_name, True),
+    (pipe_in_its_place, True), (full_device, True), (link_to_nothing, True), (link_elsewhere, True),
+          (second_name, True),
     (extended_attribute, False), (setuid_bit, False), (mode_of_a_group, False), (owner_is_another, False),
 ]
 

@@ -105,7 +105,8 @@ def made_a_link(drawing, _):
     return OTHERS
 
 
-CHANGES = [written_over, replaced, replaced_of_same_size_and_time, added_to, cut_short, deleted, only_touched, made_a_link]
+CHANGES = [written_over, replaced, replaced_of_same_size_and_time, added_to, cut_short, deleted, only_touched,
+           made_a_link]
 
 
 def changed_while_open(attempt):

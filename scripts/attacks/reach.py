@@ -51,8 +51,10 @@ def secret_places(attempt):
     (attempt.work / "link.txt").symlink_to(secret)
     (attempt.work / "far").symlink_to(attempt.disk)
     return secret, {"from the folder above": "../secret.txt", "with the other separator": "..\\secret.txt",
-                    "there and back": "../work/../secret.txt", "by its whole name": str(secret), "by a link": "link.txt",
-                    "in a folder by a link": "far/secret.txt", "by a home": "~/secret.txt", "by an address": f"file://{secret}",
+                    "there and back": "../work/../secret.txt", "by its whole name": str(secret),
+                    "by a link": "link.txt",
+                    "in a folder by a link": "far/secret.txt", "by a home": "~/secret.txt",
+                    "by an address": f"file://{secret}",
                     "the environment": "/proc/self/environ"}
 
 
@@ -131,7 +133,8 @@ def argument_reads(attempt):
     arguments, place = attempt.case
     shutil.copy(SAMPLES / "plan.dxf", attempt.work / "plan.dxf")
     words = [endless_places(attempt)[place] if word == "?" else word for word in arguments.split()]
-    words = [str(attempt.work / "plan.dxf") if word == "plan" else str(attempt.out / word) if word.startswith("copy") else word
+    words = [str(attempt.work / "plan.dxf") if word == "plan" else str(attempt.out / word)
+             if word.startswith("copy") else word
              for word in words]
     ended = bounded(attempt, *words)
     told_or_bad(ended, "read what cannot be read")
@@ -148,6 +151,10 @@ def look_and_close(session):
     return f"command {name}\n{answers}dialog QDialog\nclose\n"
 
 
+# What is neither a number nor a yes or no.
+VALUE = re.compile(rb"(?m)^([^!=\n]+)=(?!(?:TRUE|FALSE|-?[\d.]+)\r?$).*$")
+
+
 def state_lines(attempt):
     """Each path in the tools' state is one that never ends."""
     session, place = attempt.case
@@ -156,7 +163,7 @@ def state_lines(attempt):
     attempt.session(bare(session), drawing)
     bad = endless_places(attempt)[place].encode()
     for state in attempt.home.rglob("*.state"):
-        state.write_bytes(re.sub(rb"(?m)^([^!=\n]+)=(?=.*/|.*\.|$).*$", lambda match: match[1] + b"=" + bad, state.read_bytes()))
+        state.write_bytes(VALUE.sub(lambda match: match[1] + b"=" + bad, state.read_bytes()))
     script = attempt.folder / "look.session"
     script.write_text(look_and_close(bare(session)))
     bounded(attempt, "run", script, drawing)
@@ -177,7 +184,8 @@ def settings_files(attempt):
     bounded(attempt, "run", script, drawing)
 
 
-OWN_FILES = ("alias.xml", "settings.ini", "Ortakit/breakline.state", "settings/ortakit/Ortakit.conf", "settings/ortakit.conf")
+OWN_FILES = ("alias.xml", "settings.ini", "Ortakit/breakline.state", "settings/ortakit/Ortakit.conf",
+             "settings/ortakit.conf")
 PLACES = ("from the folder above", "with the other separator", "there and back", "by its whole name", "by a link",
           "in a folder by a link", "by a home", "by an address", "the environment")
 

@@ -5,6 +5,7 @@ import collections
 import importlib
 import os
 import platform
+import re
 import shutil
 import subprocess
 import sys
@@ -21,7 +22,8 @@ IN_NAMESPACE = "ORTAKIT_ATTACK_NAMESPACE"
 
 
 def arguments():
-    parser = argparse.ArgumentParser(prog="scripts/attack", description="Attacks the built program and tells what fell.")
+    parser = argparse.ArgumentParser(prog="scripts/attack",
+                                     description="Attacks the built program and tells what fell.")
     parser.add_argument("--preset", default="dev", choices=("dev", "release", "asan"), help="the build to attack")
     amount = parser.add_mutually_exclusive_group()
     amount.add_argument("--tries", type=int, help="tries of each fault that is made at random")
@@ -52,6 +54,7 @@ class Row:
         self.counts = collections.Counter()
         self.first = {}  # kind -> the first detail and how to repeat it
         self.note = ""
+        self.broken = 0  # tries that could not be made for the attack's own sake
 
     @property
     def tries(self):
@@ -59,7 +62,7 @@ class Row:
 
     @property
     def is_good(self):
-        return all(self.counts[kind] == 0 for kind in KINDS)
+        return not self.broken and all(self.counts[kind] == 0 for kind in KINDS)
 
     def add(self, kind, detail, repeat):
         self.counts[kind] += 1
@@ -80,7 +83,8 @@ class Attack:
             if wanted and all(words[0] != group for words in wanted):
                 continue
             for fault in importlib.import_module(f"attacks.{group}").faults(self.bench):
-                numbers = [words[2] for words in wanted if len(words) > 2 and words[0] == group and words[1] == fault.name]
+                numbers = [words[2] for words in wanted if len(words) > 2 and words[0] == group
+                           and words[1] == fault.name]
                 if not wanted or any(words[0] == group and (len(words) < 2 or words[1] == fault.name)
                                      for words in wanted):
                     yield fault, [int(number) for number in numbers] or self.numbers(fault)
@@ -108,7 +112,8 @@ class Attack:
 
     def attempt(self, row, number):
         fault = row.fault
-        repeat = f'scripts/attack --preset {self.bench.preset} --seed {self.bench.seed} --only "{fault.group}:{fault.name}:{number}"'
+        options = f"--preset {self.bench.preset} --seed {self.bench.seed}"
+        repeat = f'scripts/attack {options} --only "{fault.group}:{fault.name}:{number}"'
         attempt = Attempt(self.bench, fault, number)
         try:
             fault.body(attempt)
@@ -119,16 +124,18 @@ class Attack:
             self.keep(attempt, bad)
         except NotRun:
             raise
-        except Exception:  # the attack itself is at fault; that must not pass for an outcome of the program
+        except Exception as error:  # the attack itself is at fault; that must not pass for an outcome of the program
             print(traceback.format_exc(), f"\n{repeat}", file=sys.stderr)
-            raise
+            row.broken += 1
+            row.note = f"{row.broken} tries not made: {' '.join(str(error).split())[:300]}"
         finally:
             getattr(attempt, "clean_up", lambda: None)()
 
     def keep(self, attempt, bad):
         if not self.options.keep:
             return
-        target = self.options.keep / f"{attempt.fault.group}-{attempt.fault.name}-{attempt.number}".replace(" ", "_").replace("/", "_")
+        name = f"{attempt.fault.group}-{attempt.fault.name}-{attempt.number}"
+        target = self.options.keep / re.sub(r"\W+", "-", name)
         shutil.rmtree(target, ignore_errors=True)
         shutil.copytree(attempt.folder, target, symlinks=True,
                         ignore=lambda folder, names: [name for name in names if not is_kept(Path(folder, name))])
@@ -140,7 +147,8 @@ class Attack:
     @staticmethod
     def line(row, seconds):
         bad = ", ".join(f"{row.counts[kind]} {kind}" for kind in KINDS if row.counts[kind])
-        return f"{row.fault.group}: {row.fault.name}: {row.note or f'{row.tries} tries, ' + (bad or 'fine')} ({seconds:.0f} s)"
+        words = [f"{row.tries} tries", bad or "fine", *([row.note] if row.note else [])]
+        return f"{row.fault.group}: {row.fault.name}: {', '.join(words)} ({seconds:.0f} s)"
 
     def table(self):
         head = ["fault", "tries", "fine", *KINDS]
@@ -198,8 +206,8 @@ def write_report(attack, path):
     table = attack.table()
     options = attack.options
     amount = f"{options.tries} tries" if options.tries is not None else f"share {options.share:g}"
-    lines = [f"On {time.strftime('%-d %B %Y')}, commit {commit or 'unknown'}, preset {options.preset}, seed {options.seed}, "
-             f"{amount}, {'as root' if attack.bench.is_root else 'not as root'}; {machine()}.", ""]
+    lines = [f"On {time.strftime('%-d %B %Y')}, commit {commit or 'unknown'}, preset {options.preset}, "
+             f"seed {options.seed}, {amount}, {'as root' if attack.bench.is_root else 'not as root'}; {machine()}.", ""]
     lines += ["| " + " | ".join(table[0]) + " |", "|" + "---|" * len(table[0])]
     lines += ["| " + " | ".join(row) + " |" for row in table[1:]]
     notes = [f"- {note}" for note, _ in attack.notes()]

@@ -1,4 +1,5 @@
-"""All that writes a file, each as a small program or session over a drawing, and what its folder holds before and after."""
+"""All that writes a file, each as a small program or session over a drawing, and what its folder holds before and
+after."""
 
 import re
 import shutil
@@ -73,34 +74,41 @@ def from_sample(name, *changes, targets=(), until=None):
     return Writer(name, "session", text, targets, first)
 
 
-ALIAS = "command EDITALIAS\ndialog Dlg_QT_EditAlias\nclick btnAdd\ncell lstAlias 0 0 line\ncell lstAlias 0 1 {}\nclick acceptButton\n"
+ALIAS = "command EDITALIAS\ndialog Dlg_QT_EditAlias\nclick btnAdd\ncell lstAlias 0 0 line\ncell lstAlias 0 1 {}\n" \
+        "click acceptButton\n"
 TRACKED = "lisp (setq folder (kora_userfile \"Project\"))\nlisp (vl-mkdir folder)\n" \
           "lisp (vl-file-copy \"{samples}/plan.dxf\" (strcat folder \"/plan.dxf\"))\n" \
           "command TRACKTIME\ndialog Dlg_QT_TrackTime\nfocus directory\nset directory ${HOME_DIR}/Ortakit/Project\n" \
           "key directory Return\n"
 LINE = '(command "_.LINE" "0,0" "5,5" "") '
-STREAM = '(setq f (open "{disk}/work/list.txt" "%s")) (repeat 300 (%s "what a program writes, line by line" f)) (close f)'
+STREAM = '(setq f (open "{disk}/work/list.txt" "%s")) ' \
+         '(repeat 300 (%s "what a program writes, line by line" f)) (close f)'
 
 WRITERS = [
     Writer("QSAVE", "lisp", LINE + '(command "_.QSAVE")'),
     Writer("SAVEAS over another", "lisp",
            LINE + '(setvar "EXPERT" 2) (command "_.SAVEAS" "{disk}/work/other.dxf")', ("work/other.dxf",)),
     Writer("SAVEAS under a new name", "lisp", LINE + '(command "_.SAVEAS" "{disk}/work/new.dxf")'),
-    Writer("WBLOCK", "lisp", '(setvar "EXPERT" 2) (command "_.-WBLOCK" "{disk}/work/other.dxf" "*")', ("work/other.dxf",)),
+    Writer("WBLOCK", "lisp", '(setvar "EXPERT" 2) (command "_.-WBLOCK" "{disk}/work/other.dxf" "*")',
+           ("work/other.dxf",)),
     Writer("WBLOCK of a symbol", "lisp", '(setvar "EXPERT" 2) (command "_.-WBLOCK" "{disk}/work/other.dwg" "*")',
            ("work/other.dwg",)),
     Writer("QSAVE with a backup", "session", "command LINE\npoint 0,0\npoint 5,5\nenter\ncommand QSAVE\n",
            ("backup/plan.bak",), 'lisp (c:setbackupfolder)\nanswer ${HOME_DIR}/../backup\n'),
     Writer("SETBACKUPFOLDER", "session", "lisp (c:setbackupfolder)\nanswer ${HOME_DIR}/../backup\n", (),
            "lisp (c:setbackupfolder)\nanswer ${HOME_DIR}\n"),
-    *(Writer(f"convert to {kind}", "convert", f"out/plan.{kind}", (f"out/plan.{kind}",)) for kind in ("dxf", "png", "svg", "pdf")),
-    Writer("run --out --png", "session", "command LINE\npoint 0,0\npoint 5,5\nenter\n", ("out/plan.dxf", "out/plan.png"),
+    *(Writer(f"convert to {kind}", "convert", f"out/plan.{kind}", (f"out/plan.{kind}",))
+      for kind in ("dxf", "png", "svg", "pdf")),
+    Writer("run --out --png", "session", "command LINE\npoint 0,0\npoint 5,5\nenter\n",
+           ("out/plan.dxf", "out/plan.png"),
            more=("--png",)),
     Writer("session's save and screenshot", "session",
-           "command LINE\npoint 0,0\npoint 5,5\nenter\nsave saved.dxf\nscreenshot seen.png\n", ("out/saved.dxf", "out/seen.png")),
+           "command LINE\npoint 0,0\npoint 5,5\nenter\nsave saved.dxf\nscreenshot seen.png\n",
+           ("out/saved.dxf", "out/seen.png")),
     *(Writer(f"Lisp's {name}", "lisp", STREAM % (mode, name), ("work/list.txt",), is_stream=True)
       for name, mode in (("write-line", "w"), ("princ", "w"), ("print", "a"))),
-    Writer("Lisp's write-char", "lisp", STREAM.replace('(%s "what a program writes, line by line" f)', "(write-char 65 f)") % "w",
+    Writer("Lisp's write-char", "lisp", STREAM.replace('(%s "what a program writes, line by line" f)',
+                                                       "(write-char 65 f)") % "w",
            ("work/list.txt",), is_stream=True),
     Writer("Lisp's vl-file-copy", "lisp",
            '(if (not (vl-file-copy "{disk}/work/plan.dxf" "{disk}/work/copied.dxf")) (princ "not copied: failed"))'),
@@ -119,7 +127,8 @@ WRITERS = [
                 until="command GETBLOCKINFO\ndialog Dlg_QT_GetBlockInfo\n  click exportTable"),
     from_sample("importblockattributes", ("doors.txt", "doors.txt" + REPLACE), targets=("out/doors.txt",),
                 until="command IMPORTBLOCKATTRIBUTES"),
-    from_sample("lispdump", ("symbols.dmp", "symbols.dmp" + REPLACE), targets=("out/symbols.dmp",), until="lisp (setq loaded"),
+    from_sample("lispdump", ("symbols.dmp", "symbols.dmp" + REPLACE), targets=("out/symbols.dmp",),
+                until="lisp (setq loaded"),
     from_sample("makelinestyle", ("set name gas", "set name oil")),
     from_sample("makeshape", ("set name door", "set name gate")),
     from_sample("mergesheets"),
@@ -135,12 +144,14 @@ WRITERS = [
     from_sample("textframe"),
     from_sample("textmask"),
     from_sample("tracktime", ("btnTrackOn", "btnTrackOff")),
-    Writer("tracktime's table", "session", TRACKED + "click btnExport\nfile ${OUT}/times.txt" + REPLACE + "\nclick ButtonCancel\n",
+    Writer("tracktime's table", "session",
+           TRACKED + "click btnExport\nfile ${OUT}/times.txt" + REPLACE + "\nclick ButtonCancel\n",
            ("out/times.txt",)),
     Writer("favourites", "session", TRACKED + "set cb_favorits mine\nclick btnSave\nclick ButtonCancel\n", (),
            TRACKED.replace("{samples}", str(SAMPLES)) + "set cb_favorits first\nclick btnSave\nclick ButtonCancel\n"),
     Writer("aliases saved at once", "session",
-           ALIAS.format("qx").replace("click acceptButton", 'click btnSave\nmessage "has been saved" Ok\nclick ButtonCancel'),
+           ALIAS.format("qx").replace("click acceptButton",
+                                      'click btnSave\nmessage "has been saved" Ok\nclick ButtonCancel'),
            (), ALIAS.format("qq")),
 ]
 
@@ -200,11 +211,13 @@ class Expected:
     def judge(self, attempt, ended, say_again=lambda: "", ignore=lambda name: False):
         """Every file is the old or the new one, nothing is left over, and what is not new was told."""
         now = snapshot(attempt.disk)
-        undone = [name for name in self.changed if comparable(name, now.get(name)) != comparable(name, self.after[name])]
+        undone = [name for name in self.changed
+                  if comparable(name, now.get(name)) != comparable(name, self.after[name])]
         is_told = not undone or ended.is_told
         for name in sorted(name for name in {*now, *self.before} if not ignore(name)):
             data, old, new = (comparable(name, files.get(name)) for files in (now, self.before, self.after))
-            if data in (old, new) or (data is not None and (self.writer.is_stream or is_earlier_state(name, data, old, new))):
+            if data in (old, new) or (data is not None
+                                      and (self.writer.is_stream or is_earlier_state(name, data, old, new))):
                 continue
             if data is None:
                 raise Bad(LOST, f"{name} is gone; {ended.brief()}")
