@@ -183,7 +183,7 @@ PROGRAMS = {
 def limited_program(attempt):
     """A program under --time-limit and --memory-limit ends by one of them, and says so."""
     again = attempt.home / "again.scr"  # where programs are trusted
-    again.write_text(f'_.SCRIPT "{again}"\n')
+    again.write_text(f"_.SCRIPT {again}\n")
     os.mkfifo(attempt.work / "pipe")
     shutil.copy(SAMPLES / "plan.dxf", attempt.work / "plan.dxf")
     script = attempt.folder / "attack.lsp"
