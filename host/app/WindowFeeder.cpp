@@ -25,6 +25,12 @@ void WindowFeeder::cancel()
         m_isStopWanted = true;
 }
 
+void WindowFeeder::forgetCancel()
+{
+    m_isStopWanted = false;
+    m_sinceEvents.restart();
+}
+
 kernel::FeedResult WindowFeeder::feed(const kernel::PromptRequest &request, kernel::InputQueue &queue)
 {
     // Prompts do not nest: one that comes while another waits was asked by something that must not ask.
@@ -36,6 +42,7 @@ kernel::FeedResult WindowFeeder::feed(const kernel::PromptRequest &request, kern
     connect(&queue, &kernel::InputQueue::filled, &loop, &QEventLoop::quit);
     // The queue may hold the beginning of an expression; only something new gets the prompt on.
     const int status = loop.exec();
+    m_sinceEvents.restart();
     m_request.reset();
     emit requestChanged();
     return status == 0 ? kernel::FeedResult::Supplied : kernel::FeedResult::NobodyThere;

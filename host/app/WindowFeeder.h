@@ -24,7 +24,7 @@ public:
     /// Esc: cancels the prompt that waits, else stops the program that runs.
     void cancel();
     /// A run begins: what was cancelled before means nothing to it.
-    void forgetCancel() { m_isStopWanted = false; }
+    void forgetCancel();
 
     kernel::FeedResult feed(const kernel::PromptRequest &request, kernel::InputQueue &queue) override;
     bool poll() override;

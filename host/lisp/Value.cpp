@@ -160,12 +160,14 @@ bool Value::isSame(const Value &other) const noexcept
 
 StringObject::StringObject(std::string content) : text(std::move(content))
 {
-    Heap::take(bytesOutside());
+    if (const std::size_t outside = bytesOutside(); outside > 0)
+        Heap::take(outside);
 }
 
 StringObject::~StringObject()
 {
-    Heap::remove(bytesOutside());
+    if (const std::size_t outside = bytesOutside(); outside > 0)
+        Heap::remove(outside);
 }
 
 std::size_t StringObject::bytesOutside() const noexcept

@@ -80,15 +80,15 @@ InputAnswer UserInput::nextAnswer(const PromptRequest &request)
     if (const std::optional<InputAnswer> answer = takeGiven())
         return *answer;
     Session &session = m_document.session();
+    // Not behind feeding: what the user does next is for the next prompt, and nobody would take it here.
+    if (!session.input().isEmpty() && session.isStopWanted()) {
+        session.input().clear();
+        return CancelAnswer{};
+    }
     for (;;) {
-        if (!session.input().isEmpty()) {
-            if (session.isStopWanted()) {
-                session.input().clear();
-                return CancelAnswer{};
-            }
+        if (!session.input().isEmpty())
             if (std::optional<InputAnswer> answer = session.input().take(request))
                 return *answer;
-        }
         InputFeeder *feeder = session.feeder();
         const bool isFed = feeder && feeder->feed(request, session.input()) == FeedResult::Supplied;
         if (!isFed || session.input().isEmpty()) {
