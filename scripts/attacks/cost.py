@@ -118,6 +118,7 @@ def heavy_picture(attempt):
 
 LOOKS = {
     "extents": '(command "_.ZOOM" "_Extents") (print (getvar "EXTMAX"))',
+    "measured": "(acet-ent-geomextents (entlast))",
     "moved": '(command "_.MOVE" (ssget "_X") "" "0,0" "1,1")', "purged": '(command "_.-PURGE" "_All" "" "_No")',
     "picked": '(ssget "_C" \'(0.0 0.0) \'(9.0 9.0))', "written": '(command "_.-WBLOCK" "written.dxf" "*")',
 }

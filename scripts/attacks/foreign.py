@@ -102,11 +102,15 @@ def found(attempt, **options):
     attempt.lisp('(if (setq f (findfile "attack-tool.lsp")) (load f))', attempt.drawing, **options)
 
 
+def scripted(attempt, **options):
+    attempt.lisp('(command "_.SCRIPT" "startup") (command "_.SCRIPT" "startup.scr")', attempt.drawing, **options)
+
+
 def typed_alias(attempt, **options):
     attempt.session("command ZZQ\n", attempt.drawing, **options)
 
 
-WAYS = [opened, opened_relatively, converted, a_new_drawing, named_by_a_program, autoloaded, found, typed_alias]
+WAYS = [scripted, opened, opened_relatively, converted, a_new_drawing, named_by_a_program, autoloaded, found, typed_alias]
 
 
 def beside_a_drawing(attempt):
