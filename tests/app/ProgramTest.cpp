@@ -7,6 +7,7 @@
 #include <QProcess>
 
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 
 using namespace host::app::test;
 using namespace Qt::StringLiterals;
@@ -78,6 +79,10 @@ struct ProgramTest : testing::Test
         environment.insert(u"ORTAKIT_TOOLS"_s, folder.filePath(u"tools"_s));
         process.setProcessEnvironment(environment);
         process.setWorkingDirectory(folder.path());
+        process.setChildProcessModifier([this] {
+            const rlimit limit = {room, room};
+            setrlimit(RLIMIT_FSIZE, &limit);
+        });
         process.start(qEnvironmentVariable("ORTAKIT_BUILD") + u"/bin/ortakit"_s,
                       arguments.split(u' ', Qt::SkipEmptyParts));
         process.write(input);
@@ -88,6 +93,7 @@ struct ProgramTest : testing::Test
     }
 
     QTemporaryDir folder;
+    rlim_t room = RLIM_INFINITY; ///< how large a file may become, as where the disk ends
 };
 
 TEST_F(ProgramTest, EndsWithTheStatusItsManualNames)
@@ -173,6 +179,62 @@ TEST_F(ProgramTest, EndsWithTheStatusItsManualNames)
     EXPECT_EQ(read(u"out/b.dxf"_s).count("\nLINE\n"), 1);
     EXPECT_FALSE(QImage(folder.filePath(u"out/a.png"_s)).isNull());
     EXPECT_FALSE(QFile::exists(folder.filePath(u"unchanged/a.dxf"_s))) << "nothing was changed";
+}
+
+TEST_F(ProgramTest, SaysWhatAFullDiskDidNotTakeAndKeepsTheOldFile)
+{
+    const QByteArray old(5000, 'x');
+    for (const char *name : {"old.dxf", "old.png", "old.svg", "old.pdf"})
+        write(QString::fromLatin1(name), old);
+    write(u"writes.lsp"_s, "(setq f (open \"text\" \"w\"))(repeat 9000 (write-line \"0123456789\" f))(close f)");
+    write(u"closes.lsp"_s, "(setq f (open \"text\" \"w\"))(repeat 200 (write-line \"0123456789\" f))(close f)");
+    write(u"forgets.lsp"_s, "(setq f (open \"text\" \"w\"))(repeat 200 (write-line \"0123456789\" f))");
+    write(u"saves.lsp"_s, "(command \"LINE\" \"0,0\" \"1,1\" \"\" \"QSAVE\")");
+    write(u"saves.txt"_s, "command LINE\nanswer 0,0\nanswer 1,1\nenter\ncommand QSAVE\n");
+    write(u"lines.lsp"_s, "(princ (list (kora_write_lines \"lines\" '(\"short\" \"\"))"
+                          " (kora_write_lines \"lines\" (list (vl-prin1-to-string kora:plain_variables)))))");
+    const QString tools = u" --tools "_s + qEnvironmentVariable("ORTAKIT_SOURCE") + u"/tools"_s;
+    const struct
+    {
+        QString arguments;
+        int status;
+        QString message;
+        QString output = {};
+    } rows[] = {
+        {u"convert a.dxf old.dxf"_s, 4, u"old.dxf"_s},      {u"convert a.dxf old.png"_s, 4, u"old.png"_s},
+        {u"convert a.dxf old.svg"_s, 4, u"old.svg"_s},      {u"convert a.dxf old.pdf"_s, 4, u"old.pdf"_s},
+        {u"lisp writes.lsp"_s, 1, u"cannot write text"_s},  {u"lisp closes.lsp"_s, 1, u"cannot write text"_s},
+        {u"lisp forgets.lsp"_s, 4, u"cannot write text"_s}, {u"lisp saves.lsp --drawing a.dxf"_s, 4, u"a.dxf"_s},
+        {u"run saves.txt a.dxf"_s, 4, u"a.dxf"_s},          {u"lisp lines.lsp"_s + tools, 0, {}, u"(T nil)"_s},
+    };
+    room = 100;
+    for (const auto &[arguments, status, message, output] : rows) {
+        const Ended ended = run(arguments);
+        EXPECT_EQ(ended.status, status) << arguments.toStdString() << '\n' << ended.messages.toStdString();
+        EXPECT_TRUE(ended.messages.contains(message)) << ended.messages.toStdString();
+        EXPECT_TRUE(ended.output.contains(output)) << ended.output.toStdString();
+    }
+    for (const char *name : {"old.dxf", "old.png", "old.svg", "old.pdf"})
+        EXPECT_EQ(read(QString::fromLatin1(name)), old) << name;
+    EXPECT_EQ(read(u"a.dxf"_s), smallDrawing());
+    EXPECT_EQ(read(u"lines"_s), "short\n");
+    EXPECT_TRUE(QDir(folder.path()).entryList({u".*.saving"_s}, QDir::Files | QDir::Hidden).isEmpty());
+}
+
+TEST_F(ProgramTest, EndsAToolWhoseDialogCouldNotHandOverWhatWasChosen)
+{
+    write(u"show.lsp"_s,
+          "(defun silent (file) T)\n"
+          "(defun writes (file) (kora_writestate file '((\"a\" . \"new\"))) (setq h (open file \"w\"))"
+          " (write-line \"a=new\" h) (close h) T)\n"
+          "(kora_writestate \"tool.state\" '((\"a\" . \"old\")))\n"
+          "(princ (list (kora_show 'silent '(\"tool.state\")) (kora_show 'writes '(\"tool.state\"))\n"
+          " (kora_show 'writes '(\"none/tool.state\")) (kora_state_value (kora_readstate \"tool.state\") \"a\")))");
+    const Ended ended = run(u"lisp show.lsp --tools "_s + qEnvironmentVariable("ORTAKIT_SOURCE") + u"/tools"_s);
+    EXPECT_EQ(ended.status, 0) << ended.messages.toStdString();
+    EXPECT_TRUE(ended.output.contains(u"tool.state could not be written: what was chosen is lost"_s));
+    EXPECT_TRUE(ended.output.contains(u"none/tool.state cannot be written"_s));
+    EXPECT_TRUE(ended.output.endsWith(u"(nil T nil new)"_s)) << ended.output.toStdString();
 }
 
 TEST_F(ProgramTest, ReadsExpressionsFromStandardInput)
