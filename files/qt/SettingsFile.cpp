@@ -22,6 +22,13 @@ QString notWritten()
     return QCoreApplication::translate("LispExtension", "No space left for a copy");
 }
 
+/// A file has but texts and lists of them: one text for a number, and for a list of one.
+bool isSameValue(const QVariant &set, const QVariant &read)
+{
+    const bool isOne = set.toStringList().size() < 2 && read.toStringList().size() < 2;
+    return set == read || (isOne && set.toString() == read.toString());
+}
+
 /// Whether both hold the same. Under another name, since settings that were read are remembered by the file's.
 bool isSame(const QSettings &settings, const QString &path)
 {
@@ -29,7 +36,7 @@ bool isSame(const QSettings &settings, const QString &path)
     const QStringList keys = settings.allKeys();
     return other.status() == QSettings::NoError && other.allKeys() == keys &&
            std::all_of(keys.begin(), keys.end(),
-                       [&](const QString &key) { return other.value(key) == settings.value(key); });
+                       [&](const QString &key) { return isSameValue(settings.value(key), other.value(key)); });
 }
 
 /// Empty when `bytes` are what the settings hold after the change.
