@@ -136,7 +136,7 @@ TEST_F(ProgramTest, EndsWithTheStatusItsManualNames)
         {u"lisp fills.lsp --memory-limit 20"_s, 1, {}, u"fills.lsp: out of memory (limit 20 MB) in (CONS)"_s},
         {u"lisp loops.lsp --time-limit 0.3"_s, 1, {}, u"loops.lsp: it took longer than 0.3 s"_s},
         {u"lisp again.lsp --time-limit 0.3"_s, 1, u"CIRCLE"_s, u"again.lsp: it took longer than 0.3 s"_s},
-        {u"run again.txt a.dxf --time-limit 0.3"_s, 1, u"a.dxf: failed"_s, u"the session took longer than 0.3 s"_s},
+        {u"run again.txt a.dxf --time-limit 0.3 --trust ."_s, 1, u"a.dxf: failed"_s, u"the session took longer than 0.3 s"_s},
         {u"lisp asks.lsp"_s, 1, {}, u"asks.lsp"_s},
         {u"run fails.txt a.dxf"_s, 1, u"a.dxf: failed\n"_s, u"line 1 (expect-count LINE 7): there are 2"_s},
         {u"run asks.txt a.dxf"_s, 1, u"a.dxf: failed\n"_s, u"the prompt \"Where:\" is open"_s},
