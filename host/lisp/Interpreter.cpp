@@ -154,7 +154,13 @@ Value Interpreter::evalText(std::string_view text, std::string_view sourceName)
     reader.feed(text);
     reader.finish();
     Value last;
-    while (std::optional<Value> form = reader.next())
+    // Also what is to give up what fills the heap has to be read.
+    constexpr std::int64_t roomToRead = 256L * 1024;
+    const auto readForm = [&reader] {
+        const Heap::Limit limit(Heap::limit() + roomToRead);
+        return reader.next();
+    };
+    while (std::optional<Value> form = readForm())
         last = eval(*form);
     return last;
 }
