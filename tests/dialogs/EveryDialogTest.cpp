@@ -26,6 +26,7 @@
 #include "dialogs/textframe/Dlg_QT_TextFrame.h"
 #include "dialogs/textmask/Dlg_QT_TextMask.h"
 #include "dialogs/tracktime/Dlg_QT_TrackTime.h"
+#include "platform/widgets/CKvQtColorComboBox.h"
 #include "tests/support/FakeHost.h"
 #include "tests/support/QtTestPrinters.h"
 
@@ -254,6 +255,8 @@ QStringList holdings(const QDialog &dialog)
         all.append(QString::fromLatin1(object->metaObject()->className()) + u' ' + object->objectName());
     for (const QAbstractButton *button : dialog.findChildren<QAbstractButton *>())
         all.append(u"icon %1 %2"_s.arg(button->objectName()).arg(button->icon().cacheKey()));
+    for (int color = 0; color <= 256; ++color)
+        all.append(u"color %1"_s.arg(CKvQtColorComboBox::colorSwatch(color).cacheKey()));
     all.sort();
     return all;
 }

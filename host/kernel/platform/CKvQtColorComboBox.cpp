@@ -2,6 +2,8 @@
 
 #include "host/view/AciColor.h"
 
+#include <QCoreApplication>
+#include <QHash>
 #include <QPainter>
 #include <QStyledItemDelegate>
 
@@ -37,6 +39,19 @@ protected:
         option->decorationSize = QSize(16, 16);
     }
 };
+
+QIcon madeSwatch(int index)
+{
+    QPixmap picture(16, 16);
+    picture.fill(host::view::aciColor(index, host::view::shownGround()));
+    QPainter painter(&picture);
+    painter.setPen(Qt::darkGray);
+    painter.drawRect(0, 0, 15, 15);
+    QIcon icon(picture);
+    // A selected row would tint it, and so show another colour.
+    icon.addPixmap(picture, QIcon::Selected);
+    return icon;
+}
 
 } // namespace
 
@@ -79,15 +94,14 @@ QString CKvQtColorComboBox::colorName(int index)
 
 QIcon CKvQtColorComboBox::colorSwatch(int index)
 {
-    QPixmap picture(16, 16);
-    picture.fill(host::view::aciColor(index, host::view::shownGround()));
-    QPainter painter(&picture);
-    painter.setPen(Qt::darkGray);
-    painter.drawRect(0, 0, 15, 15);
-    QIcon icon(picture);
-    // A selected row would tint it, and so show another colour.
-    icon.addPixmap(picture, QIcon::Selected);
-    return icon;
+    // One for each color of the ground: each new icon would bring pictures of its own into the cache of pixmaps, and
+    // this is called with each painting.
+    static QHash<std::pair<int, QRgb>, QIcon> swatches;
+    if (swatches.isEmpty())
+        qAddPostRoutine([] { swatches.clear(); });
+    const std::pair key(index, host::view::aciColor(index, host::view::shownGround()).rgba());
+    const auto known = swatches.constFind(key);
+    return known != swatches.cend() ? *known : *swatches.insert(key, madeSwatch(index));
 }
 
 void CKvQtColorComboBox::initStyleOption(QStyleOptionComboBox *option) const
