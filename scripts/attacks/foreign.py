@@ -110,7 +110,8 @@ def typed_alias(attempt, **options):
     attempt.session("command ZZQ\n", attempt.drawing, **options)
 
 
-WAYS = [scripted, opened, opened_relatively, converted, a_new_drawing, named_by_a_program, autoloaded, found, typed_alias]
+WAYS = [opened, opened_relatively, converted,
+        a_new_drawing, named_by_a_program, autoloaded, found, scripted, typed_alias]
 
 
 def beside_a_drawing(attempt):

@@ -180,7 +180,8 @@ def restore(folder, content):
 
 def is_earlier_state(name, data, old, new):
     """Whether this is a whole state file, as a tool writes it at each of its steps."""
-    keys = [set(re.findall(rb"(?m)^[^=\n]+=", state or b"")) for state in (data, old, new)]
+    keys = [set(re.findall(rb"(?m)^[^=\n]+=", (state or b"").removeprefix(b"\xef\xbb\xbf")))
+            for state in (data, old, new)]
     return name.endswith(".state") and data.endswith(b"\n") and keys[0] in keys[1:]
 
 
