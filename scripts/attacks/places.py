@@ -81,10 +81,12 @@ class Written:
 def read_only_folder(written):
     written.target.parent.chmod(0o555)
     yield
-    written.target.parent.chmod(0o755)
-    if not written.is_new:
-        written.must_be_old()
-        written.must_be_told()
+    try:
+        if not written.is_new:
+            written.must_be_old()
+            written.must_be_told()
+    finally:
+        written.target.parent.chmod(0o755)
 
 
 def read_only_file(written):
@@ -98,7 +100,7 @@ def missing_folder(written):
     away = written.target.parent.with_name("away")
     written.target.parent.rename(away)
     yield
-    if not written.is_new:
+    if not written.target.exists():
         written.must_be_told()
     if not written.target.parent.exists():
         away.rename(written.target.parent)
@@ -138,6 +140,9 @@ def link_to_nothing(written):
     written.must_keep("the kind", stat.S_IFLNK, kind_of(written.target))
     if not (elsewhere / "later").exists():
         written.must_be_told()
+    elif written.expected.writer.first:  # what is added to a file, or kept of it, is less where there is none
+        if not (elsewhere / "later").read_bytes():
+            raise Bad(LOST, f"what the link leads to is empty; {written.ended.brief()}")
     else:
         written.must_be_new(elsewhere / "later")
 
