@@ -215,7 +215,7 @@ PLACES = [
     (read_only_folder, True), (read_only_file, True), (missing_folder, True), (folder_in_its_place, True),
     (pipe_in_its_place, True), (full_device, True), (link_to_nothing, True), (link_elsewhere, True),
           (second_name, True),
-    (extended_attribute, False), (setuid_bit, False), (mode_of_a_group, False), (owner_is_another, False),
+    (extended_attribute, False), (setuid_bit, True), (mode_of_a_group, False), (owner_is_another, False),
 ]
 
 

@@ -180,9 +180,9 @@ def restore(folder, content):
 
 def is_earlier_state(name, data, old, new):
     """Whether this is a whole state file, as a tool writes it at each of its steps."""
-    keys = [set(re.findall(rb"(?m)^[^=\n]+=", (state or b"").removeprefix(b"\xef\xbb\xbf")))
-            for state in (data, old, new)]
-    return name.endswith(".state") and data.endswith(b"\n") and keys[0] in keys[1:]
+    now, *whole = [set(re.findall(rb"(?m)^[^=\n]+=", (state or b"").removeprefix(b"\xef\xbb\xbf")))
+                   for state in (data, old, new)]
+    return name.endswith(".state") and data.endswith(b"\n") and any(keys and keys <= now for keys in whole)
 
 
 def comparable(name, data):
