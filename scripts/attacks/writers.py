@@ -182,7 +182,8 @@ def is_earlier_state(name, data, old, new):
     """Whether this is a whole state file, as a tool writes it at each of its steps."""
     now, *whole = [set(re.findall(rb"(?m)^[^=\n]+=", (state or b"").removeprefix(b"\xef\xbb\xbf")))
                    for state in (data, old, new)]
-    return name.endswith(".state") and data.endswith(b"\n") and any(keys and keys <= now for keys in whole)
+    is_whole = data.endswith(b"\n!call!=open\n") or any(keys and keys <= now for keys in whole)  # as tools end it
+    return name.endswith(".state") and data.endswith(b"\n") and is_whole
 
 
 def comparable(name, data):
