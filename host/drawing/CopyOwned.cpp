@@ -125,6 +125,7 @@ void DrawingCopier::finish()
             continue;
         copyExtension(original, copy);
         copyOwned(original, copy);
+        fillBlocks();
     }
     for (const auto &[original, copy] : m_remembered) {
         if (m_target.isAlive(copy))

@@ -16,6 +16,8 @@ namespace {
 
 constexpr int subclassCode = 100;
 constexpr int groupCode = 102;
+/// How far references from entry to entry and from object to object are followed; drawings need three or four.
+constexpr int deepestReference = 100;
 
 bool isOf(const FieldList &fields, std::initializer_list<QStringView> types)
 {
@@ -145,6 +147,8 @@ RecordId DrawingCopier::copyEntry(TableKind kind, RecordId entry)
 {
     if (const auto known = m_entries.constFind(entry); known != m_entries.constEnd())
         return *known;
+    if (m_depth >= deepestReference)
+        return noRecord;
     QString name = m_source.tables().name(entry);
     const RecordId existing = m_target.tables().find(kind, name);
     const bool isClash = isValid(existing) && clashes(kind, entry, existing);
@@ -154,9 +158,12 @@ RecordId DrawingCopier::copyEntry(TableKind kind, RecordId entry)
         name = freeName(kind, name);
     else if (isValid(existing) || name.isEmpty())
         return isValid(existing) ? *m_entries.insert(entry, existing) : noRecord;
-    const RecordId copy = m_target.tables().add(kind, name, entryFields(kind, entry));
-    m_entries.insert(entry, copy);
-    return copy;
+    // An entry that refers to itself finds nothing yet.
+    m_entries.insert(entry, noRecord);
+    ++m_depth;
+    const FieldList fields = entryFields(kind, entry);
+    --m_depth;
+    return *m_entries.insert(entry, m_target.tables().add(kind, name, fields));
 }
 
 /// The name with the prefix, and a number behind where one of the drawings has that too.
@@ -222,6 +229,8 @@ Handle DrawingCopier::translatedObject(RecordId object)
     const Handle handle = m_source.handle(object);
     if (const auto known = m_objects.constFind(handle.value); known != m_objects.constEnd())
         return *known;
+    if (m_depth >= deepestReference)
+        return {};
     m_objects.insert(handle.value, {});
     const Dictionaries &from = m_source.dictionaries();
     const RecordId holder = m_source.find(m_source.owner(object));
@@ -250,7 +259,10 @@ RecordId DrawingCopier::addCopy(RecordId object, Handle owner)
 {
     const QString type = QString::fromLatin1(m_source.typeName(object));
     copyClass(type);
-    const RecordId copy = insertObject(m_target, type, owner, objectBody(object));
+    ++m_depth;
+    const FieldList body = objectBody(object);
+    --m_depth;
+    const RecordId copy = insertObject(m_target, type, owner, body);
     remember(object, copy);
     return copy;
 }
@@ -293,14 +305,11 @@ QString DrawingCopier::ensureBlock(const QString &name)
     return copyDefinition(*block, wanted);
 }
 
-/// Copies a block under a name that is free; gives the name that the block has now.
+/// Makes a block under a name that is free; gives the name that the block has now. Its contents follow in fillBlocks(),
+/// so that blocks may be nested however deep.
 QString DrawingCopier::copyDefinition(const Block &block, const QString &name)
 {
     const QString key = block.name.toCaseFolded();
-    // A chain of blocks longer than any drawing needs would use up the stack.
-    constexpr int maximumDepth = 200;
-    if (m_depth >= maximumDepth)
-        return block.name;
     const RecordId copy = m_target.blocks().create(name, block.basePoint, block.flags);
     const QString newName = isValid(copy) ? m_target.blocks().name(copy) : block.name;
     m_blocks.insert(key, newName);
@@ -311,17 +320,36 @@ QString DrawingCopier::copyDefinition(const Block &block, const QString &name)
         setField(fields, 1, block.externalPath);
         m_target.setFields(copy, fields);
     }
-    ++m_depth;
-    for (const RecordId entity : m_source.children(block.record))
-        copyEntity(entity, copy);
-    --m_depth;
-    copyBlockRecord(block, m_target.blocks().read(copy));
+    m_empty.emplace_back(block, copy);
     return newName;
+}
+
+void DrawingCopier::fillBlocks()
+{
+    if (std::exchange(m_isFilling, true))
+        return;
+    while (!m_empty.empty()) {
+        const auto [block, copy] = m_empty.back();
+        m_empty.pop_back();
+        for (const RecordId entity : m_source.children(block.record))
+            copyOneEntity(entity, copy, Space::Model);
+        copyBlockRecord(block, m_target.blocks().read(copy));
+    }
+    m_isFilling = false;
 }
 
 RecordId DrawingCopier::copyBlock(RecordId block)
 {
-    return m_target.blocks().find(ensureBlock(m_source.blocks().name(block)));
+    const RecordId copy = m_target.blocks().find(ensureBlock(m_source.blocks().name(block)));
+    fillBlocks();
+    return copy;
+}
+
+RecordId DrawingCopier::copyEntity(RecordId entity, RecordId block, Space space)
+{
+    const RecordId copy = copyOneEntity(entity, block, space);
+    fillBlocks();
+    return copy;
 }
 
 /// What stands for an entity of a type that the target's version lacks; noRecord when nothing does, or nothing need.
@@ -344,7 +372,7 @@ RecordId DrawingCopier::createEarlyForms(RecordId entity, const FieldList &field
     return last;
 }
 
-RecordId DrawingCopier::copyEntity(RecordId entity, RecordId block, Space space)
+RecordId DrawingCopier::copyOneEntity(RecordId entity, RecordId block, Space space)
 {
     if (!m_source.isAlive(entity) || m_source.kind(entity) != RecordKind::Entity) {
         ++m_skipped;

@@ -75,6 +75,8 @@ private:
     QString freeName(TableKind kind, const QString &name) const;
     QString ensureBlock(const QString &name);
     QString copyDefinition(const Block &block, const QString &name);
+    RecordId copyOneEntity(RecordId entity, RecordId block, Space space);
+    void fillBlocks();
     void copyBlockRecord(const Block &block, const Block &copy);
 
     // References to what may be copied later stand as marked handles of the source until finish().
@@ -94,8 +96,10 @@ private:
     QHash<quint64, Handle> m_copies;     ///< handles of all other copies, by those of the source
     std::vector<std::pair<RecordId, RecordId>> m_remembered; ///< originals and copies, in the order they were made
     std::vector<KeptName> m_kept;
-    QSet<QString> m_classes; ///< types looked after
-    int m_depth = 0;         ///< of nested blocks
+    QSet<QString> m_classes;                         ///< types looked after
+    std::vector<std::pair<Block, RecordId>> m_empty; ///< definitions and their copies that have no contents yet
+    bool m_isFilling = false;
+    int m_depth = 0; ///< of table entries and objects that refer to one another
     int m_skipped = 0;
     int m_converted = 0;
 };

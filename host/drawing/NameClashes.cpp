@@ -70,6 +70,20 @@ public:
 
     bool isDifferent(RecordId block, RecordId otherBlock)
     {
+        m_waiting.emplace_back(block, otherBlock);
+        while (!m_waiting.empty()) {
+            const auto [next, other] = m_waiting.back();
+            m_waiting.pop_back();
+            if (isDifferentAlone(next, other))
+                return true;
+        }
+        return false;
+    }
+
+private:
+    /// The blocks within are left to wait, so that a chain of any length is compared.
+    bool isDifferentAlone(RecordId block, RecordId otherBlock)
+    {
         const Block one = m_one.blocks().read(block);
         const Block other = m_other.blocks().read(otherBlock);
         // What is being compared already, or was found alike, makes no difference.
@@ -85,7 +99,6 @@ public:
                            [this](RecordId a, RecordId b) { return isSame(a, b); });
     }
 
-private:
     bool isSame(RecordId entity, RecordId otherEntity)
     {
         FieldList fields = drawnFields(m_one, entity);
@@ -95,8 +108,9 @@ private:
         const RecordId block = takeBlock(m_one, fields);
         const RecordId otherBlock = takeBlock(m_other, otherFields);
         const bool areThere = isValid(block) && isValid(otherBlock);
-        return fields == otherFields && areThere == (isValid(block) || isValid(otherBlock)) &&
-               (!areThere || !isDifferent(block, otherBlock));
+        if (areThere)
+            m_waiting.emplace_back(block, otherBlock);
+        return fields == otherFields && areThere == (isValid(block) || isValid(otherBlock));
     }
 
     /// The block that a reference names. Of an anonymous one the name means nothing: it is taken out.
@@ -113,6 +127,7 @@ private:
     const Drawing &m_one;
     const Drawing &m_other;
     QSet<QString> m_compared;
+    std::vector<std::pair<RecordId, RecordId>> m_waiting;
 };
 
 } // namespace

@@ -186,7 +186,7 @@ TEST(Copy, WhatAnEarlyVersionLacksIsConvertedOrCounted)
     }
 }
 
-TEST(Copy, LongChainsOfBlocksEnd)
+TEST(Copy, LongChainsOfBlocksAreCopiedWhole)
 {
     QByteArray chain;
     constexpr int length = 20000;
@@ -196,7 +196,23 @@ TEST(Copy, LongChainsOfBlocksEnd)
     const auto source = sample("AC1009", "0 INSERT\n2 B0\n10 0\n20 0", chain);
     const auto target = sample("AC1009");
     EXPECT_TRUE(copyEntities(*source, source->entities().all(), *target));
-    EXPECT_LT(target->blocks().all().size(), 1000U);
+    EXPECT_TRUE(isValid(target->blocks().find(u"B%1"_s.arg(length - 1))));
+    EXPECT_EQ(target->children(target->blocks().find(u"B7000"_s)).size(), 1U);
+    // A second time all blocks are compared with those that are there.
+    EXPECT_TRUE(copyBlock(*source, source->blocks().find(u"B0"_s), *target).kept.empty());
+}
+
+TEST(Copy, WhatRefersToItselfIsCopiedOnce)
+{
+    const auto source = sample("AC1015");
+    const RecordId style = source->tables().add(TableKind::Linetype, u"SELF"_s, fieldsOf("73 0|40 0"));
+    FieldList fields = source->fields(style);
+    fields.push_back({340, source->handle(style)});
+    source->setFields(style, fields);
+    source->entities().create(fieldsOf("0 LINE|8 0|6 SELF|10 0,0,0|11 1,1,0"));
+    const auto target = sample("AC1015");
+    EXPECT_TRUE(copyEntities(*source, source->entities().all(), *target));
+    EXPECT_TRUE(isValid(target->tables().find(TableKind::Linetype, u"SELF"_s)));
 }
 
 TEST(Copy, CorpusDrawingsGoIntoANewOne)
