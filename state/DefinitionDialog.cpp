@@ -7,6 +7,18 @@
 #include <QLineEdit>
 #include <QTableWidget>
 
+namespace {
+
+/// Nobody reads more of a text in a table, and laying out a file that is one line costs a minute.
+constexpr qsizetype longestShown = 500;
+
+QString shown(const QString &text)
+{
+    return text.size() <= longestShown ? text : text.left(longestShown) + QChar(0x2026);
+}
+
+} // namespace
+
 void DefinitionDialog::setUpDefinitions(QLineEdit *file, QTableWidget *table, const QString &headers, int firstWidth)
 {
     m_file = file;
@@ -23,9 +35,13 @@ void DefinitionDialog::setUpDefinitions(QLineEdit *file, QTableWidget *table, co
 void DefinitionDialog::showDefinitions(const QList<QStringList> &rows, int nameColumn)
 {
     m_names.clear();
-    for (const QStringList &row : rows)
+    QList<QStringList> shownRows;
+    for (const QStringList &row : rows) {
         m_names.insert(row.value(nameColumn).toUpper());
-    ortakit::setTableRows(*m_table, rows);
+        QStringList &cells = shownRows.emplaceBack();
+        std::ranges::transform(row, std::back_inserter(cells), shown);
+    }
+    ortakit::setTableRows(*m_table, shownRows);
 }
 
 bool DefinitionDialog::acceptsDefinition(const QString &path, const QString &name, const Messages &messages)

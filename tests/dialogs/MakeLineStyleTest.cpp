@@ -22,6 +22,11 @@ TEST_F(MakeLineStyle, ShowsWhatTheFileDefines)
     EXPECT_EQ(rows(), (QStringList{u"GAS|Gas line"_s, u"Wall|"_s}));
     EXPECT_EQ(focusName(), u"name"_s);
 
+    // A file that is one line is shown as far as anybody reads.
+    host.writeFile(u"my.lin"_s, "*GAS," + QByteArray(100'000, 'g') + "\nA,1\n");
+    show();
+    EXPECT_EQ(rows(), QStringList{u"GAS|"_s + QString(500, u'g') + QChar(0x2026)});
+
     // Each showing reads the file anew: the tool has added a linetype meanwhile.
     host.writeFile(u"my.lin"_s, "*NEW,n\nA,1\n");
     show();
