@@ -6,7 +6,8 @@ namespace host::drawing {
 
 namespace {
 
-constexpr size_t maximumPoints = 5'000'000;
+constexpr std::int64_t pointsOfUnit = 4;
+constexpr std::int64_t unitsOfEntity = 16;
 
 double distanceToSegment(Vec2 point, Vec2 from, Vec2 to)
 {
@@ -75,18 +76,30 @@ bool pathMeets(const Path &path, const Box &window)
 
 } // namespace
 
-Outline entityOutline(const Drawing &drawing, RecordId entity, const Flatness &flatness, const Matrix &transform)
+Outline entityOutline(const Drawing &drawing, RecordId entity, WorkBudget &work, const Flatness &flatness,
+                      const Matrix &transform)
 {
     Outline outline;
-    size_t points = 0;
     size_t counted = 0;
-    visitInserted(drawing, entity, [&](const VisitedEntity &visited) {
+    visitInserted(drawing, entity, work, [&](const VisitedEntity &visited) {
         appendOutline(outline, drawing, visited.entity, transform * visited.transform, flatness);
+        std::int64_t points = 0;
         for (; counted < outline.pieces.size(); ++counted)
-            points += outline.pieces[counted].points.size();
-        return points < maximumPoints;
+            points += static_cast<std::int64_t>(outline.pieces[counted].points.size());
+        return visited.inserts.empty() || work.take(points / pointsOfUnit);
     });
     return outline;
+}
+
+Outline entityOutline(const Drawing &drawing, RecordId entity, const Flatness &flatness, const Matrix &transform)
+{
+    WorkBudget work(outlineWork);
+    return entityOutline(drawing, entity, work, flatness, transform);
+}
+
+WorkBudget outlineBudget(std::size_t entities)
+{
+    return WorkBudget(outlineWork + unitsOfEntity * static_cast<std::int64_t>(entities));
 }
 
 Box outlineBox(const Outline &outline)
@@ -109,9 +122,10 @@ Box entityBox(const Drawing &drawing, RecordId entity)
 Box spaceBox(const Drawing &drawing, const std::vector<RecordId> &entities)
 {
     Box box;
+    WorkBudget work = outlineBudget(entities.size());
     for (const RecordId entity : entities) {
         if (drawing.isAlive(entity))
-            box.add(entityBox(drawing, entity));
+            box.add(outlineBox(entityOutline(drawing, entity, work)));
     }
     return box;
 }
@@ -148,7 +162,7 @@ bool crosses(const Outline &outline, const Box &window)
                        [&window](const Outline::Piece &piece) { return pathMeets(piece.points, window); });
 }
 
-BoxCache::BoxCache(Drawing &drawing) : m_drawing(drawing)
+BoxCache::BoxCache(Drawing &drawing) : m_drawing(drawing), m_work(outlineBudget(drawing.idLimit()))
 {
     m_drawing.addObserver(this);
 }
@@ -166,7 +180,7 @@ const Box &BoxCache::box(RecordId entity)
         m_known.resize(m_drawing.idLimit());
     }
     if (!m_known[index]) {
-        m_boxes[index] = entityBox(m_drawing, entity);
+        m_boxes[index] = outlineBox(entityOutline(m_drawing, entity, m_work));
         m_known[index] = true;
     }
     return m_boxes[index];
@@ -180,10 +194,17 @@ std::vector<RecordId> BoxCache::touching(const std::vector<RecordId> &entities, 
     return found;
 }
 
+void BoxCache::forget()
+{
+    m_known.assign(m_known.size(), false);
+    m_work = outlineBudget(m_drawing.idLimit());
+}
+
 void BoxCache::recordChanged(RecordId record, RecordChange, ChangeCause)
 {
     const bool isPlain = m_drawing.kind(record) == RecordKind::Entity && m_drawing.section(record) == Section::Entities;
     const auto index = static_cast<size_t>(record);
+    m_work = outlineBudget(m_drawing.idLimit());
     if (isPlain && index < m_known.size())
         m_known[index] = false;
     // Children change their polyline's box; blocks and what they are found by change any insert's.

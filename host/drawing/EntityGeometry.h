@@ -2,6 +2,7 @@
 
 #include "host/drawing/Curves.h"
 #include "host/drawing/Drawing.h"
+#include "host/drawing/WorkBudget.h"
 
 #include <functional>
 
@@ -24,10 +25,15 @@ struct Outline
 };
 
 /// The outline of one entity, moved by `transform`. An INSERT gives that of its block and attributes, a DIMENSION that
-/// of its block. Types this program does not know give an empty one. Nested blocks are followed at most 32 deep, and a
-/// whole outline ends at five million points: neither loops nor hostile counts hang it.
+/// of its block. Types this program does not know give an empty one. Nested blocks are followed at most 32 deep.
+/// What a reference shows takes from `work`, and is left out when that is used up.
+Outline entityOutline(const Drawing &drawing, RecordId entity, WorkBudget &work, const Flatness &flatness = {},
+                      const Matrix &transform = {});
+/// As above with a budget of its own.
 Outline entityOutline(const Drawing &drawing, RecordId entity, const Flatness &flatness = {},
                       const Matrix &transform = {});
+/// What the outlines of so many entities may cost together.
+WorkBudget outlineBudget(std::size_t entities);
 
 Box outlineBox(const Outline &outline);
 Box entityBox(const Drawing &drawing, RecordId entity);
@@ -47,14 +53,16 @@ Matrix insertTransform(const Drawing &drawing, const TagList &insert, int column
 
 /// Visits what an INSERT or DIMENSION shows, nested blocks opened: each drawn entity with its map to world coordinates
 /// and the chain of inserts it came through, outermost first (for properties by block and layer 0). Attributes are
-/// visited, attribute definitions are not. Visiting ends early when the visitor returns false.
+/// visited, attribute definitions are not. Visiting ends early when the visitor returns false and when `work` is used
+/// up: each entity and each cell of an array takes one unit.
 struct VisitedEntity
 {
     RecordId entity = noRecord;
     Matrix transform;
     const std::vector<RecordId> &inserts;
 };
-void visitInserted(const Drawing &drawing, RecordId insert, const std::function<bool(const VisitedEntity &)> &visitor);
+void visitInserted(const Drawing &drawing, RecordId insert, WorkBudget &work,
+                   const std::function<bool(const VisitedEntity &)> &visitor);
 
 /// Reads a SPLINE record.
 Spline readSpline(const TagList &tags);
@@ -73,12 +81,13 @@ public:
     std::vector<RecordId> touching(const std::vector<RecordId> &entities, const Box &window);
 
     /// Everything is measured again: remote texts show what is outside the drawing.
-    void forget() { m_known.assign(m_known.size(), false); }
+    void forget();
 
     void recordChanged(RecordId record, RecordChange change, ChangeCause cause) override;
 
 private:
     Drawing &m_drawing;
+    WorkBudget m_work;
     std::vector<Box> m_boxes;
     std::vector<bool> m_known;
 };

@@ -10,8 +10,6 @@ namespace host::drawing {
 namespace {
 
 constexpr int maximumDepth = 32;
-/// Entities and array cells of one walk. Far above what drawings have, and soon reached by hostile counts.
-constexpr qint64 maximumSteps = 2'000'000;
 
 bool isReference(QByteArrayView type)
 {
@@ -21,14 +19,14 @@ bool isReference(QByteArrayView type)
 class InsertWalk
 {
 public:
-    InsertWalk(const Drawing &drawing, const std::function<bool(const VisitedEntity &)> &visitor)
-        : m_drawing(drawing), m_visitor(visitor)
+    InsertWalk(const Drawing &drawing, WorkBudget &work, const std::function<bool(const VisitedEntity &)> &visitor)
+        : m_drawing(drawing), m_work(work), m_visitor(visitor)
     {
     }
 
     void visit(RecordId entity, const Matrix &transform)
     {
-        if (!mayGoOn())
+        if (!m_inserts.empty() && !mayGoOn())
             return;
         if (!isReference(m_drawing.typeName(entity))) {
             m_isStopped = !m_visitor({entity, transform, m_inserts});
@@ -44,7 +42,7 @@ public:
 private:
     bool mayGoOn()
     {
-        m_isStopped = m_isStopped || ++m_steps > maximumSteps;
+        m_isStopped = m_isStopped || !m_work.take(1);
         return !m_isStopped;
     }
 
@@ -91,10 +89,10 @@ private:
     }
 
     const Drawing &m_drawing;
+    WorkBudget &m_work;
     const std::function<bool(const VisitedEntity &)> &m_visitor;
     std::vector<RecordId> m_inserts;
     std::vector<RecordId> m_blocks; ///< those being visited
-    qint64 m_steps = 0;
     bool m_isStopped = false;
 };
 
@@ -112,9 +110,10 @@ Matrix insertTransform(const Drawing &drawing, const TagList &insert, int column
            Matrix::translation(base * -1.0);
 }
 
-void visitInserted(const Drawing &drawing, RecordId insert, const std::function<bool(const VisitedEntity &)> &visitor)
+void visitInserted(const Drawing &drawing, RecordId insert, WorkBudget &work,
+                   const std::function<bool(const VisitedEntity &)> &visitor)
 {
-    InsertWalk(drawing, visitor).visit(insert, {});
+    InsertWalk(drawing, work, visitor).visit(insert, {});
 }
 
 } // namespace host::drawing

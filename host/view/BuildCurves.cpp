@@ -104,7 +104,10 @@ bool buildEllipse(BuildContext &context, const TagList &tags)
 bool buildSpline(BuildContext &context, const TagList &tags)
 {
     // A turn of two degrees a piece looks round at any size that a screen or sheet shows it in.
-    Path path = drawing::splinePath(drawing::readSpline(tags), {.maximumAngle = 0.035, .maximumPieces = 4000});
+    const drawing::Spline spline = drawing::readSpline(tags);
+    const std::size_t own = spline.controlPoints.size() + spline.fitPoints.size();
+    Path path = drawing::splinePath(spline, context.flatness({.maximumAngle = 0.035, .maximumPieces = 4000}, own));
+    context.charge(path.size(), own);
     if (path.size() < 2 || !std::ranges::all_of(path, [](const Vec3 &p) { return isUsable(p); }))
         return false;
     context.addStroke(std::move(path));

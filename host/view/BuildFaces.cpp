@@ -86,6 +86,7 @@ std::vector<int> frozenLayers(const BuildContext &context, const TagList &tags)
         if (isValid(entry) && context.drawing.isType(entry, "LAYER"))
             layers.push_back(context.appearance().layer(context.drawing.tags(entry).text(2)));
     }
+    std::ranges::sort(layers);
     return layers;
 }
 

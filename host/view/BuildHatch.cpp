@@ -7,8 +7,7 @@ using drawing::TagList;
 
 namespace {
 
-constexpr std::int64_t mostPiecesOfOne = 200'000;
-constexpr std::int64_t mostPiecesOfScene = 3'000'000;
+constexpr std::int64_t mostPieces = 200'000; ///< of one hatch
 
 void place(Curve &curve, const Matrix &ocs)
 {
@@ -41,14 +40,12 @@ void blendGradient(BuildContext &context, const std::vector<quint32> &colours)
 
 bool addPattern(BuildContext &context, HatchData &hatch, const Matrix &ocs)
 {
-    const std::int64_t allowed = std::min(mostPiecesOfOne, mostPiecesOfScene - context.patternPieces);
-    HatchLines lines = hatchLines(hatch, allowed);
+    HatchLines lines = hatchLines(hatch, mostPieces, context.work);
     if (lines.isTooDense) {
         context.display.isSimplified = true;
         addArea(context, hatch, ocs, FillKind::Dense);
         return true;
     }
-    context.patternPieces += static_cast<std::int64_t>(lines.pieces.ends.size() / 2 + lines.pieces.dots.size());
     for (Path *points : {&lines.pieces.ends, &lines.pieces.dots})
         std::ranges::for_each(*points, [&](Vec3 &point) { point = ocs.point(point); });
     // A pattern wider than its boundary leaves nothing to see; that is how it is drawn.
@@ -61,7 +58,7 @@ bool addPattern(BuildContext &context, HatchData &hatch, const Matrix &ocs)
 
 bool buildHatch(BuildContext &context, const TagList &tags)
 {
-    HatchData hatch = readHatch(tags);
+    HatchData hatch = readHatch(tags, context.work);
     if (hatch.loops.empty() || !isUsable(hatch.extrusion))
         return false;
     applyIslands(hatch);

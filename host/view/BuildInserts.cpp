@@ -29,7 +29,7 @@ Matrix readRows(const std::vector<double> &numbers, std::size_t from)
 }
 
 /// The clip boundary of an insert, in coordinates of the block; empty when it has none that is switched on.
-Path readClip(const BuildContext &context, RecordId insert)
+Path readClip(BuildContext &context, RecordId insert)
 {
     const drawing::Dictionaries &dictionaries = context.drawing.dictionaries();
     const RecordId own = dictionaries.extensionDictionary(insert);
@@ -48,6 +48,9 @@ Path readClip(const BuildContext &context, RecordId insert)
         return {};
     if (corners.size() == 2)
         corners = {corners[0], {corners[1].x, corners[0].y, 0.0}, corners[1], {corners[0].x, corners[1].y, 0.0}};
+    // Many inserts may name one filter.
+    if (!context.work.take(static_cast<std::int64_t>(corners.size())))
+        return {};
     const Matrix toBlock = readRows(numbers, 0) * readRows(numbers, 12).inverted();
     if (!isUsableMatrix(toBlock))
         return {};
@@ -68,7 +71,7 @@ void addAttributes(BuildContext &context, Reference &reference)
         bool isInvisible = false;
         BuildContext own{context.drawing,
                          context.scene,
-                         context.patternPieces,
+                         context.work,
                          context.display,
                          readStyle(tags, context.appearance(), &isInvisible),
                          true};

@@ -31,7 +31,7 @@ bool addFlatPolyline(BuildContext &context, const std::vector<PolylineVertex> &v
     const Matrix ocs = Matrix::fromExtrusion(extrusion);
     const bool isClosed = (flags & isClosedFlag) != 0;
     if (hasWidth(vertices)) {
-        Fill band = polylineBand(vertices, isClosed, ocs);
+        Fill band = polylineBand(vertices, isClosed, ocs, context.work);
         if (!band.contours.empty()) {
             context.add(std::move(band));
             return true;
@@ -162,12 +162,15 @@ void addFaceEdges(BuildContext &context, const TagList &face, const std::vector<
 bool buildFaces(BuildContext &context, const std::vector<RecordId> &children)
 {
     std::vector<Vec3> points;
+    bool isSound = true;
     for (const RecordId child : children) {
         const TagList tags = context.drawing.tags(child);
-        if ((tags.integer(70) & isFacesFlag) != 0)
+        if ((tags.integer(70) & isFacesFlag) != 0) {
             points.push_back(tags.point(10));
-        else if (areUsable(points))
+            isSound &= isUsable(points.back());
+        } else if (isSound) {
             addFaceEdges(context, tags, points);
+        }
     }
     return !context.display.items.empty();
 }

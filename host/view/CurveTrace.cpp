@@ -12,6 +12,7 @@ constexpr double tolerance = 0.2;
 constexpr int deepest = 40;
 constexpr std::size_t mostPiecesUnseen = 2048;
 constexpr std::size_t mostPieces = 50'000;
+constexpr std::size_t freePieces = 64; ///< of an arc; a whole circle has eight times eight
 
 bool isFinite(QPointF p)
 {
@@ -59,11 +60,18 @@ void CurveTracer::traceArc(const ArcSpan &arc, Track &track)
 {
     m_screenRadius = std::max(flatLength(m_map, arc.xAxis), flatLength(m_map, arc.yAxis));
     m_ownRadius = (arc.xAxis.length() + arc.yAxis.length()) / 2.0;
-    m_arcLimit = track.points.size() + (m_view ? mostPieces : mostPiecesUnseen);
+    const std::size_t first = track.points.size();
+    const std::size_t wanted = m_view ? mostPieces : mostPiecesUnseen;
+    m_arcLimit = first + std::min(wanted, freePieces + static_cast<std::size_t>(m_work.left()));
     const int spans = std::clamp(static_cast<int>(std::ceil(std::abs(arc.sweep) / (std::numbers::pi / 4.0))), 1, 64);
     for (int i = 0; i < spans; ++i) {
         divide(arc, arc.start + arc.sweep * i / spans, arc.start + arc.sweep * (i + 1) / spans, 0, track);
     }
+    const std::size_t made = track.points.size() - first;
+    if (made > freePieces)
+        m_work.charge(static_cast<std::int64_t>(made - freePieces));
+    if (made < wanted && track.points.size() >= m_arcLimit)
+        m_work.refuse();
 }
 
 void CurveTracer::divide(const ArcSpan &arc, double from, double to, int depth, Track &track)

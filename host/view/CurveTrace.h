@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/drawing/WorkBudget.h"
 #include "host/view/Display.h"
 
 #include <QPolygonF>
@@ -31,8 +32,12 @@ inline QPointF flat(const Matrix &map, const Vec3 &p)
 class CurveTracer
 {
 public:
-    /// Without a view everything is divided evenly, bounded by a few thousand pieces an arc.
-    CurveTracer(const Matrix &toScreen, const std::optional<QRectF> &view) : m_map(toScreen), m_view(view) {}
+    /// Without a view everything is divided evenly, bounded by a few thousand pieces an arc. An arc has a few dozen
+    /// pieces free; those beyond are charged to `work`, and when that is used up arcs stay so coarse.
+    CurveTracer(const Matrix &toScreen, const std::optional<QRectF> &view, drawing::WorkBudget &work)
+        : m_map(toScreen), m_view(view), m_work(work)
+    {
+    }
 
     /// The track is replaced. Points that are not finite end up nowhere: the track is empty then.
     void trace(const Curve &curve, Track &track);
@@ -45,6 +50,7 @@ private:
 
     const Matrix &m_map;
     const std::optional<QRectF> &m_view;
+    drawing::WorkBudget &m_work;
     double m_screenRadius = 0.0;
     double m_ownRadius = 0.0;
     std::size_t m_arcLimit = 0;

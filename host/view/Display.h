@@ -140,7 +140,7 @@ struct Reference
     Vec3 columnStep{};
     Vec3 rowStep{};
     Path clip{};                       ///< polygon, in coordinates of the block; empty: all is shown
-    std::vector<int> hiddenLayers{};   ///< layers frozen in this view of the block
+    std::vector<int> hiddenLayers{};   ///< layers frozen in this view of the block, rising
     std::vector<DisplayItem> beside{}; ///< shown with every cell: attributes, where those of the first cell are
     Box besideBox{};
     bool isViewport = false; ///< by-block properties and layer 0 do not come from it
@@ -162,6 +162,7 @@ struct RecordDisplay
     RecordId record = noRecord;
     Box box{}; ///< of what has an end; grows with the blocks it refers to
     std::vector<DisplayItem> items{};
+    std::int64_t work = 0;  ///< units of the scene's budget that went into the items
     bool isEndless = false; ///< has lines without end: the box does not bound it
     bool hasReferences = false;
     bool isSkipped = false;    ///< could not be drawn

@@ -131,6 +131,20 @@ Fonts &BuildContext::fonts() const
     return scene.fonts();
 }
 
+drawing::Flatness BuildContext::flatness(const drawing::Flatness &finest, std::size_t ownPoints)
+{
+    const auto own = static_cast<std::int64_t>(ownPoints);
+    drawing::Flatness flatness = finest;
+    flatness.maximumPieces = static_cast<int>(std::clamp<std::int64_t>(work.left() + own, 1, finest.maximumPieces));
+    display.isSimplified |= flatness.maximumPieces < finest.maximumPieces;
+    return flatness;
+}
+
+void BuildContext::charge(std::size_t points, std::size_t ownPoints)
+{
+    work.charge(static_cast<std::int64_t>(points) - static_cast<std::int64_t>(ownPoints));
+}
+
 /// The common groups stand in front of the type's own marker; R12 has no markers and mixes them.
 Style readStyle(const TagList &tags, Appearance &appearance, bool *isInvisible)
 {
@@ -150,7 +164,7 @@ Style readStyle(const TagList &tags, Appearance &appearance, bool *isInvisible)
     return style;
 }
 
-RecordDisplay buildDisplay(const drawing::Drawing &drawing, Scene &scene, std::int64_t &patternPieces, RecordId record)
+RecordDisplay buildDisplay(const drawing::Drawing &drawing, Scene &scene, drawing::WorkBudget &work, RecordId record)
 {
     RecordDisplay display{.record = record};
     const TypeRow *type = findType(drawing.typeName(record));
@@ -159,13 +173,17 @@ RecordDisplay buildDisplay(const drawing::Drawing &drawing, Scene &scene, std::i
         return display;
     }
     const TagList tags = drawing.tags(record);
-    BuildContext context{drawing, scene, patternPieces, display};
+    const std::int64_t before = work.left();
+    const std::int64_t refusals = work.refusals();
+    BuildContext context{drawing, scene, work, display};
     context.style = readStyle(tags, scene.appearance(), &display.isHidden);
     if (display.isHidden)
         return display;
     const RecordId parent = drawing.parent(record);
     context.isInBlock = isValid(parent) && drawing.kind(parent) == drawing::RecordKind::Block;
     display.isSkipped = !type->build(context, tags);
+    display.work = before - work.left();
+    display.isSimplified |= work.refusals() > refusals;
     display.isSimplified = !display.isSkipped && (type->isSimplified || display.isSimplified);
     for (const DisplayItem &item : display.items) {
         display.isEndless |= std::holds_alternative<Endless>(item.shape);

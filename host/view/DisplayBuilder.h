@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/drawing/Drawing.h"
+#include "host/drawing/WorkBudget.h"
 #include "host/view/Display.h"
 #include "host/view/Fonts.h"
 
@@ -15,7 +16,7 @@ struct BuildContext
 {
     const drawing::Drawing &drawing;
     Scene &scene;
-    std::int64_t &patternPieces; ///< pieces of hatch lines made so far, in the whole scene
+    drawing::WorkBudget &work; ///< of the whole scene
     RecordDisplay &display;
     Style style{}; ///< of the record
     bool isInBlock = false;
@@ -25,6 +26,11 @@ struct BuildContext
     void add(Shape shape) { display.items.push_back({style, std::move(shape)}); }
     void add(Shape shape, const Style &own) { display.items.push_back({own, std::move(shape)}); }
     void addStroke(Path points) { add(Stroke{{.points = std::move(points)}}); }
+    /// How finely a spline of the record becomes straight pieces: at best `finest`, coarser when the work is used up.
+    /// What is made of it is to be charged.
+    drawing::Flatness flatness(const drawing::Flatness &finest, std::size_t ownPoints);
+    /// Charges what a curve has beyond the points that its record says.
+    void charge(std::size_t points, std::size_t ownPoints);
 };
 
 /// Coordinates beyond this are taken for damage: what they belong to is not drawn.
@@ -33,8 +39,8 @@ bool isUsable(double value);
 bool isUsable(const Vec3 &point);
 
 /// Makes the display of one entity. What cannot be drawn, by its type or because its numbers make no shape, is marked
-/// as skipped.
-RecordDisplay buildDisplay(const drawing::Drawing &drawing, Scene &scene, std::int64_t &patternPieces, RecordId record);
+/// as skipped; what is drawn coarser than it should be because the work is used up, as simplified.
+RecordDisplay buildDisplay(const drawing::Drawing &drawing, Scene &scene, drawing::WorkBudget &work, RecordId record);
 
 /// A colour by its number in group 62: 0 by block, 256 by layer; a negative one counts as its positive.
 Colour colourFromIndex(qint64 index);

@@ -9,16 +9,16 @@ namespace host::view {
 
 namespace {
 
-constexpr int mostShapes = 1'000'000;
+constexpr std::size_t deepestNesting = 32;
 
 Matrix axesAlone(const Matrix &map)
 {
     return {map.xAxis, map.yAxis, map.zAxis, {}};
 }
 
-void addHatch(const drawing::TagList &tags, const Matrix &map, Box &box)
+void addHatch(const drawing::TagList &tags, const Matrix &map, drawing::WorkBudget &work, Box &box)
 {
-    HatchData hatch = readHatch(tags);
+    HatchData hatch = readHatch(tags, work);
     if (!isUsable(hatch.extrusion))
         return;
     applyIslands(hatch);
@@ -48,13 +48,12 @@ Box EntityExtents::of(RecordId entity)
     if (m_drawing.isType(entity, "VIEWPORT"))
         return drawing::entityBox(m_drawing, entity);
     if (m_drawing.isType(entity, "HATCH")) {
-        addHatch(m_drawing.tags(entity), {}, box);
+        addHatch(m_drawing.tags(entity), {}, m_work, box);
         return box;
     }
     const RecordDisplay display = m_scene.buildAlone(entity);
     if (display.isSkipped)
         return drawing::entityBox(m_drawing, entity);
-    m_shapesLeft = mostShapes;
     add(display, {}, box);
     return box;
 }
@@ -62,14 +61,14 @@ Box EntityExtents::of(RecordId entity)
 void EntityExtents::add(const RecordDisplay &display, const Matrix &map, Box &box)
 {
     if (m_drawing.isType(display.record, "HATCH") && !display.isHidden)
-        return addHatch(m_drawing.tags(display.record), map, box);
+        return addHatch(m_drawing.tags(display.record), map, m_work, box);
     for (const DisplayItem &item : display.items) {
         if (const auto *reference = std::get_if<std::unique_ptr<Reference>>(&item.shape))
             box.add(ofReference(**reference, map));
         else
             addItemBox(item, map, m_scene.fonts(), box);
     }
-    m_shapesLeft -= static_cast<int>(display.items.size());
+    m_work.charge(static_cast<std::int64_t>(display.items.size()));
 }
 
 Box EntityExtents::ofReference(const Reference &reference, const Matrix &map)
@@ -95,8 +94,9 @@ Box EntityExtents::ofBlock(int block, const Matrix &map)
         return {};
     if (const auto known = m_known.find(key); known != m_known.end())
         return movedBox(known->second, map.origin);
-    if (m_shapesLeft <= 0)
+    if (m_work.left() <= 0 || m_open.size() >= deepestNesting)
         return mappedBox(m_scene.display(block).box, map);
+    m_work.charge(1);
     m_open.push_back(block);
     Box box;
     for (const RecordDisplay &record : m_scene.display(block).records)
@@ -108,8 +108,10 @@ Box EntityExtents::ofBlock(int block, const Matrix &map)
 
 void EntityExtents::recordChanged(RecordId record, drawing::RecordChange, drawing::ChangeCause)
 {
-    if (m_drawing.section(record) != drawing::Section::Entities)
-        m_known.clear();
+    if (m_drawing.section(record) == drawing::Section::Entities)
+        return;
+    m_known.clear();
+    m_work = drawing::WorkBudget(drawing::measureWork);
 }
 
 } // namespace host::view

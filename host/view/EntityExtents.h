@@ -8,8 +8,8 @@
 namespace host::view {
 
 /// Boxes of what single entities draw: of curves, letters and areas, through all blocks that they refer to. Exact,
-/// however blocks are turned within one another, up to a million shapes; what comes behind these counts with the boxes
-/// of its blocks.
+/// however blocks are turned within one another, up to some nesting and some millions of shapes between two changes of
+/// the drawing; what comes behind these counts with the boxes of its blocks.
 ///
 /// Whether layers show it does not matter; what is invisible by itself is nothing. A hatch reaches as far as its
 /// boundary, lines without end count for nothing, and entities that cannot be drawn count with the points known of
@@ -37,7 +37,7 @@ private:
     Scene m_scene;
     std::map<std::pair<int, Axes>, Box> m_known; ///< of blocks, by the axes they are seen along
     std::vector<int> m_open;                     ///< blocks being measured: one that contains itself adds nothing
-    int m_shapesLeft = 0;
+    drawing::WorkBudget m_work{drawing::measureWork};
 };
 
 } // namespace host::view

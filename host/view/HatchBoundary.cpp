@@ -50,7 +50,7 @@ private:
 class BoundaryReader
 {
 public:
-    explicit BoundaryReader(const TagList &tags) : m_tags(tags), m_cursor(tags) {}
+    BoundaryReader(const TagList &tags, drawing::WorkBudget &work) : m_tags(tags), m_work(work), m_cursor(tags) {}
 
     HatchData read()
     {
@@ -198,8 +198,11 @@ private:
                 m_cursor.next();
         }
         skipFitData(spline);
-        for (const Vec3 &point : drawing::splinePath(spline, {.maximumAngle = 0.05, .maximumPieces = 1000}))
-            appendPoint(loop, point);
+        const auto own = static_cast<std::int64_t>(spline.controlPoints.size() + spline.fitPoints.size());
+        const auto pieces = static_cast<int>(std::clamp<std::int64_t>(m_work.left() + own, 1, 1000));
+        const Path path = drawing::splinePath(spline, {.maximumAngle = 0.05, .maximumPieces = pieces});
+        m_work.charge(static_cast<std::int64_t>(path.size()) - own);
+        std::ranges::for_each(path, [&](const Vec3 &point) { appendPoint(loop, point); });
     }
 
     /// The code that counts fit points also counts the boundary's source objects: only points behind it tell which.
@@ -272,6 +275,7 @@ private:
     }
 
     const TagList &m_tags;
+    drawing::WorkBudget &m_work;
     Cursor m_cursor;
     double m_elevation = 0.0;
     bool m_isGradient = false;
@@ -291,9 +295,9 @@ bool contains(const Path &polygon, const Vec3 &p)
 
 } // namespace
 
-HatchData readHatch(const TagList &tags)
+HatchData readHatch(const TagList &tags, drawing::WorkBudget &work)
 {
-    return BoundaryReader(tags).read();
+    return BoundaryReader(tags, work).read();
 }
 
 void applyIslands(HatchData &hatch)
@@ -301,11 +305,15 @@ void applyIslands(HatchData &hatch)
     if (hatch.islands == HatchData::Islands::Normal || hatch.loops.size() > mostLoopsForIslands)
         return;
     std::vector<int> depth(hatch.loops.size(), 0);
+    std::vector<Box> boxes(hatch.loops.size());
+    for (std::size_t i = 0; i < hatch.loops.size(); ++i)
+        std::ranges::for_each(hatch.loops[i].points, [&](const Vec3 &p) { boxes[i].add(p); });
     for (std::size_t i = 0; i < hatch.loops.size(); ++i) {
         for (std::size_t j = 0; j < hatch.loops.size(); ++j) {
             // Any corner tells, as long as loops do not cross; the middle of the first side is rarely shared.
             const Vec3 probe = (hatch.loops[i].points[0] + hatch.loops[i].points[1]) * 0.5;
-            depth[i] += i != j && contains(hatch.loops[j].points, probe) ? 1 : 0;
+            const bool mayLieWithin = i != j && boxes[j].touchesFlat({probe, probe});
+            depth[i] += mayLieWithin && contains(hatch.loops[j].points, probe) ? 1 : 0;
         }
     }
     const int deepestKept = hatch.islands == HatchData::Islands::Outer ? 1 : 0;

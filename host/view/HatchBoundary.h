@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/drawing/TagList.h"
+#include "host/drawing/WorkBudget.h"
 #include "host/view/Display.h"
 
 #include <vector>
@@ -35,8 +36,9 @@ struct HatchData
 };
 
 /// Reads the record from front to back: its group codes mean different things in different places. What is cut off or
-/// makes no shape is left out; counts are taken from what is there, not from what the record promises.
-HatchData readHatch(const drawing::TagList &tags);
+/// makes no shape is left out; counts are taken from what is there, not from what the record promises. What splines
+/// have beyond their own points is charged to `work`; when it is used up they are coarser.
+HatchData readHatch(const drawing::TagList &tags, drawing::WorkBudget &work);
 
 /// Takes out the loops that the way of treating islands makes meaningless, by how deep they lie in one another.
 void applyIslands(HatchData &hatch);

@@ -23,8 +23,10 @@ struct Crossing
 /// Arcs of hatch boundaries are divided as if the whole hatch were this many pixels wide.
 constexpr double boundarySize = 2000.0;
 constexpr std::int64_t mostLineNumber = std::int64_t{1} << 52;
+constexpr std::int64_t unitsOfPiece = 4;
+constexpr std::int64_t edgesOfUnit = 32;
 
-std::vector<Edge> boundaryEdges(const std::vector<Curve> &loops)
+std::vector<Edge> boundaryEdges(const std::vector<Curve> &loops, drawing::WorkBudget &work)
 {
     Box box;
     for (const Curve &loop : loops)
@@ -33,7 +35,7 @@ std::vector<Edge> boundaryEdges(const std::vector<Curve> &loops)
     const Matrix enlarged = Matrix::scaling({boundarySize / size, boundarySize / size, 1.0}, box.low);
     const Matrix back = enlarged.inverted();
     const std::optional<QRectF> wholePlane;
-    CurveTracer tracer(enlarged, wholePlane);
+    CurveTracer tracer(enlarged, wholePlane, work);
     std::vector<Edge> edges;
     Track track;
     for (const Curve &loop : loops) {
@@ -64,11 +66,11 @@ public:
     {
         if (!std::isfinite(m_spacing) || !std::isfinite(m_period) || !(std::abs(m_spacing) > 0.0))
             return true; // all lines on one another: nothing that could be seen as a pattern
+        if (!isBelow(2 * left, edges))
+            return false;
         std::vector<Crossing> crossings;
-        for (const Edge &edge : edges) {
-            if (!cross(edge, crossings, left))
-                return false;
-        }
+        for (const Edge &edge : edges)
+            cross(edge, crossings);
         std::sort(crossings.begin(), crossings.end());
         for (std::size_t i = 0; i + 1 < crossings.size(); i += 2) {
             // Crossings come in pairs on each line; a lone one is a touch within rounding.
@@ -83,22 +85,41 @@ public:
     }
 
 private:
-    bool cross(const Edge &edge, std::vector<Crossing> &crossings, std::int64_t left) const
+    /// Where an edge lies among the lines, in their numbers.
+    struct Span
     {
-        const double from = dot(edge.from - m_line.base, m_across) / m_spacing;
-        const double to = dot(edge.to - m_line.base, m_across) / m_spacing;
+        double from = 0.0;
+        double to = 0.0;
         // Half-open, so that a corner counts for one of its two edges.
-        const double first = std::ceil(std::min(from, to));
-        const double last = std::ceil(std::max(from, to));
-        if (!(std::abs(first) < static_cast<double>(mostLineNumber)) || !(last - first <= static_cast<double>(left)) ||
-            static_cast<std::int64_t>(crossings.size()) > 2 * left) {
-            return false;
+        double first() const { return std::ceil(std::min(from, to)); }
+        double last() const { return std::ceil(std::max(from, to)); }
+    };
+
+    Span spanOf(const Edge &edge) const
+    {
+        return {dot(edge.from - m_line.base, m_across) / m_spacing, dot(edge.to - m_line.base, m_across) / m_spacing};
+    }
+
+    /// Whether the lines cross the edges no more often than `most` times.
+    bool isBelow(std::int64_t most, const std::vector<Edge> &edges) const
+    {
+        double crossings = 0.0;
+        for (const Edge &edge : edges) {
+            const Span span = spanOf(edge);
+            if (!(std::abs(span.first()) < static_cast<double>(mostLineNumber)))
+                return false;
+            crossings += span.last() - span.first();
         }
-        for (double number = first; number < last; number += 1.0) {
-            const Vec2 at = edge.from + (edge.to - edge.from) * ((number - from) / (to - from));
+        return crossings <= static_cast<double>(most);
+    }
+
+    void cross(const Edge &edge, std::vector<Crossing> &crossings) const
+    {
+        const Span span = spanOf(edge);
+        for (double number = span.first(); number < span.last(); number += 1.0) {
+            const Vec2 at = edge.from + (edge.to - edge.from) * ((number - span.from) / (span.to - span.from));
             crossings.push_back({static_cast<std::int64_t>(number), dot(at - m_line.base, m_along) - m_shift * number});
         }
-        return true;
     }
 
     bool fill(std::int64_t number, double from, double to, std::int64_t &left, Segments &pieces) const
@@ -151,21 +172,24 @@ private:
 
 } // namespace
 
-HatchLines hatchLines(const HatchData &hatch, std::int64_t mostPieces)
+HatchLines hatchLines(const HatchData &hatch, std::int64_t mostPieces, drawing::WorkBudget &work)
 {
     HatchLines made;
     if (hatch.loops.empty())
         return made;
-    const std::vector<Edge> edges = boundaryEdges(hatch.loops);
-    std::int64_t left = mostPieces;
+    const std::vector<Edge> edges = boundaryEdges(hatch.loops, work);
+    const auto looks = static_cast<std::int64_t>(edges.size() * hatch.lines.size()) / edgesOfUnit;
+    std::int64_t left = work.take(looks) ? std::min(mostPieces, work.left() / unitsOfPiece) : 0;
+    const std::int64_t allowed = left;
     for (const PatternLine &line : hatch.lines) {
         LineFamily family(line, hatch.loops.front().points.front().z);
-        if (!family.run(edges, left, made.pieces)) {
+        made.isTooDense = left <= 0 || !family.run(edges, left, made.pieces);
+        if (made.isTooDense) {
             made.pieces = {};
-            made.isTooDense = true;
             break;
         }
     }
+    work.charge((allowed - std::max<std::int64_t>(left, 0)) * unitsOfPiece);
     return made;
 }
 

@@ -43,6 +43,16 @@ bool LineDasher::isWorthwhile(const Track &track) const
     return track.along.back() > 0.0 && m_length * screenLength / track.along.back() >= smallestPattern;
 }
 
+std::int64_t LineDasher::elementCount(const Track &track) const
+{
+    double seen = 0.0;
+    for (std::size_t i = 1; i < track.points.size(); ++i) {
+        if (const auto part = visiblePart(track.points[i - 1], track.points[i], m_view))
+            seen += (track.along[i] - track.along[i - 1]) * (part->second - part->first);
+    }
+    return static_cast<std::int64_t>(std::min(1e15, seen / m_length * static_cast<double>(m_pattern.elements.size())));
+}
+
 LineDasher::Layout LineDasher::layout(double first, double last) const
 {
     Layout made{.begin = first, .first = first, .last = last};

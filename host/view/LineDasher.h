@@ -30,6 +30,8 @@ public:
 
     /// Whether the dashes of this track can be told apart on the screen; otherwise it is to be drawn full.
     bool isWorthwhile(const Track &track) const;
+    /// About how many elements of the pattern the view sees on the whole track.
+    std::int64_t elementCount(const Track &track) const;
     /// `from` and `to` are points of the track; between them the pattern runs once.
     void run(const Track &track, std::size_t from, std::size_t to, const DashOutput &output) const;
     /// A track whose first point lies at `phase` along a line without end.

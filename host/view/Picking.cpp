@@ -14,7 +14,6 @@ namespace {
 /// Pixels that the aperture or the window is taken to have: what curves are traced by.
 constexpr double aperturePixels = 20.0;
 constexpr double windowPixels = 2000.0;
-constexpr std::int64_t mostShapes = 400'000;
 
 /// Collects what is seen of one record. Inside an area is told apart from near its edge.
 class OutlineSink final : public DisplaySink
@@ -85,15 +84,11 @@ QRectF around(QPointF point, double reach)
 }
 
 /// How far the record is from the origin of the map, in its pixels; infinite when it is not seen there.
-double distance(Scene &scene, const RecordDisplay &record, const Matrix &map)
+double distance(Scene &scene, const RecordDisplay &record, const Matrix &map, drawing::WorkBudget &work)
 {
     OutlineSink sink;
-    SceneWalker walker(scene,
-                       {.view = around({}, 2.0 * aperturePixels),
-                        .withLinetypes = false,
-                        .collapseSmall = false,
-                        .mostShapes = mostShapes},
-                       sink);
+    SceneWalker walker(
+        scene, {.view = around({}, 2.0 * aperturePixels), .withLinetypes = false, .collapseSmall = false}, sink, work);
     walker.walkRecord(record, map);
     double best = drawing::flatDistance(sink.outline(), {});
     if (sink.isInside())
@@ -109,7 +104,7 @@ bool isBoxLoose(const RecordDisplay &record)
            });
 }
 
-bool isPicked(Scene &scene, const RecordDisplay &record, const Box &window, PickMode mode)
+bool isPicked(Scene &scene, const RecordDisplay &record, const Box &window, PickMode mode, drawing::WorkBudget &work)
 {
     if (!record.isEndless && !record.box.isEmpty() && window.containsFlat(record.box))
         return true;
@@ -121,10 +116,10 @@ bool isPicked(Scene &scene, const RecordDisplay &record, const Box &window, Pick
     const QRectF seen(0.0, 0.0, (window.high.x - window.low.x) * factor, (window.high.y - window.low.y) * factor);
     const QPointF middle = seen.center();
     OutlineSink sink(middle);
-    WalkOptions options{.withLinetypes = false, .collapseSmall = false, .mostShapes = mostShapes};
+    WalkOptions options{.withLinetypes = false, .collapseSmall = false};
     if (mode == PickMode::Crossing)
         options.view = seen;
-    SceneWalker walker(scene, options, sink);
+    SceneWalker walker(scene, options, sink, work);
     walker.walkRecord(record, enlarged(window.low.xy(), factor));
     const Box scaled{{0.0, 0.0, 0.0}, {seen.width(), seen.height(), 0.0}};
     return mode == PickMode::Crossing ? sink.isInside() || drawing::crosses(sink.outline(), scaled)
@@ -141,11 +136,12 @@ std::vector<RecordId> pickAllAt(Scene &scene, int block, Vec2 point, double aper
         return picked;
     const Box reach{{point.x - aperture, point.y - aperture, 0.0}, {point.x + aperture, point.y + aperture, 0.0}};
     const Matrix map = enlarged(point, aperturePixels / aperture);
+    drawing::WorkBudget work(drawing::pickWork);
     std::vector<std::pair<double, RecordId>> found;
     for (const RecordDisplay &record : scene.display(block).records) {
         if (!record.isEndless && (record.box.isEmpty() || !reach.touchesFlat(record.box)))
             continue;
-        if (const double away = distance(scene, record, map); away <= aperturePixels)
+        if (const double away = distance(scene, record, map, work); away <= aperturePixels)
             found.emplace_back(away, record.record);
     }
     std::ranges::reverse(found);
@@ -171,8 +167,9 @@ std::vector<RecordId> pickRectangle(Scene &scene, int block, Vec2 corner, Vec2 o
     Box window;
     window.add(Vec3{corner.x, corner.y, 0.0});
     window.add(Vec3{opposite.x, opposite.y, 0.0});
+    drawing::WorkBudget work(drawing::pickWork);
     for (const RecordDisplay &record : scene.display(block).records) {
-        if (!record.items.empty() && isPicked(scene, record, window, mode))
+        if (!record.items.empty() && isPicked(scene, record, window, mode, work))
             picked.push_back(record.record);
     }
     return picked;

@@ -4,6 +4,7 @@
 #include "host/drawing/DrawingVariables.h"
 #include "host/view/DisplayBoxes.h"
 #include "host/view/DisplayBuilder.h"
+#include "host/view/PostOrder.h"
 #include "host/view/VisibleExtents.h"
 
 #include <QStringList>
@@ -71,7 +72,7 @@ QString RenderReport::missing() const
     addCounts(parts, skipped, skippedCount(), u"not drawn"_s);
     addCounts(parts, simplified, total(simplified), u"drawn in part"_s);
     if (isCutShort)
-        parts.append(u"more than is drawn in one go"_s);
+        parts.append(u"cut short: there is more than is drawn in one go"_s);
     return parts.join(u", "_s);
 }
 
@@ -162,7 +163,7 @@ std::vector<RecordId> Scene::members(const BlockDisplay &block) const
 RecordDisplay Scene::buildRecord(RecordId record)
 {
     ++m_builtRecords;
-    RecordDisplay built = buildDisplay(m_drawing, *this, m_patternPieces, record);
+    RecordDisplay built = buildDisplay(m_drawing, *this, m_work, record);
     for (const DisplayItem &item : built.items) {
         if (const auto *reference = std::get_if<std::unique_ptr<Reference>>(&item.shape))
             m_waiting.push_back((*reference)->block);
@@ -172,10 +173,7 @@ RecordDisplay Scene::buildRecord(RecordId record)
 
 void Scene::forget(const RecordDisplay &display)
 {
-    for (const DisplayItem &item : display.items) {
-        if (const auto *segments = std::get_if<Segments>(&item.shape))
-            m_patternPieces -= static_cast<std::int64_t>(segments->ends.size() / 2 + segments->dots.size());
-    }
+    m_work.giveBack(display.work);
 }
 
 /// Keeps the displays of records that it still has and that did not change.
@@ -307,37 +305,51 @@ void Scene::rememberSpace(RecordId record, const BlockDisplay &block)
 
 void Scene::updateBoxes()
 {
-    std::vector<char> visited(m_blocks.size(), 0);
-    for (const auto &block : m_blocks)
-        updateBox(*block, visited);
+    for (const auto &block : m_blocks) {
+        block->box = {};
+        block->isEndless = false;
+    }
+    // A block that contains itself is met before it has a box, and adds nothing.
+    PostOrder order(m_blocks.size());
+    for (std::size_t i = 0; i < m_blocks.size(); ++i) {
+        order.visit(
+            i, [this](std::size_t block) { return blocksShownBy(block); },
+            [this](std::size_t block) { updateBox(*m_blocks[block]); });
+    }
     m_boxesStale = false;
 }
 
-/// Depth first; a block that is met again while it is open contains itself, and adds nothing.
-void Scene::updateBox(BlockDisplay &block, std::vector<char> &visited)
+std::vector<std::size_t> Scene::blocksShownBy(std::size_t block) const
 {
-    const auto index = static_cast<std::size_t>(block.number);
-    if (visited[index] != 0)
-        return;
-    visited[index] = 1;
-    block.box = {};
-    block.isEndless = false;
+    std::vector<std::size_t> shown;
+    for (const RecordDisplay &record : m_blocks[block]->records) {
+        if (!record.hasReferences)
+            continue;
+        for (const DisplayItem &item : record.items) {
+            if (const auto *found = std::get_if<std::unique_ptr<Reference>>(&item.shape))
+                shown.push_back(static_cast<std::size_t>((*found)->block));
+        }
+    }
+    return shown;
+}
+
+void Scene::updateBox(BlockDisplay &block)
+{
     for (RecordDisplay &record : block.records) {
-        updateBox(record, visited);
+        updateBox(record);
         block.box.add(record.box);
         block.isEndless |= record.isEndless;
     }
 }
 
-void Scene::updateBox(RecordDisplay &record, std::vector<char> &visited)
+void Scene::updateBox(RecordDisplay &record) const
 {
     if (!record.hasReferences && !record.box.isEmpty())
         return;
     record.box = {};
     for (const DisplayItem &item : record.items) {
         if (const auto *found = std::get_if<std::unique_ptr<Reference>>(&item.shape)) {
-            BlockDisplay &block = *m_blocks[static_cast<std::size_t>((*found)->block)];
-            updateBox(block, visited);
+            const BlockDisplay &block = *m_blocks[static_cast<std::size_t>((*found)->block)];
             record.box.add(referenceBox(**found, block.box));
             record.isEndless |= block.isEndless;
         } else {
@@ -356,8 +368,10 @@ RenderReport Scene::report(int block)
 {
     prepare(block);
     RenderReport report;
-    std::vector<char> visited(m_blocks.size(), 0);
-    countInto(report, display(block), visited);
+    PostOrder order(m_blocks.size());
+    order.visit(
+        static_cast<std::size_t>(block), [this](std::size_t shown) { return blocksShownBy(shown); },
+        [&](std::size_t shown) { countInto(report, *m_blocks[shown]); });
     return report;
 }
 
@@ -371,9 +385,8 @@ bool Scene::lacksPatternShapes(const RecordDisplay &record) const
     });
 }
 
-void Scene::countInto(RenderReport &report, const BlockDisplay &block, std::vector<char> &visited) const
+void Scene::countInto(RenderReport &report, const BlockDisplay &block) const
 {
-    visited[static_cast<std::size_t>(block.number)] = 1;
     for (const RecordDisplay &record : block.records) {
         const QString type = record.isExternal ? u"XREF"_s : QString::fromLatin1(m_drawing.typeName(record.record));
         if (record.isSkipped)
@@ -384,11 +397,6 @@ void Scene::countInto(RenderReport &report, const BlockDisplay &block, std::vect
             ++report.simplified[type];
         else
             ++report.drawn;
-        for (const DisplayItem &item : record.items) {
-            const auto *reference = std::get_if<std::unique_ptr<Reference>>(&item.shape);
-            if (reference && visited[static_cast<std::size_t>((*reference)->block)] == 0)
-                countInto(report, display((*reference)->block), visited);
-        }
     }
 }
 

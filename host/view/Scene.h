@@ -3,6 +3,7 @@
 #include "host/drawing/Drawing.h"
 #include "host/drawing/Entities.h"
 #include "host/drawing/MacroExpression.h"
+#include "host/drawing/WorkBudget.h"
 #include "host/view/Appearance.h"
 #include "host/view/Display.h"
 #include "host/view/DrawOrder.h"
@@ -127,10 +128,11 @@ private:
     RecordDisplay buildRecord(RecordId record);
     void forget(const RecordDisplay &display);
     void updateBoxes();
-    void updateBox(BlockDisplay &block, std::vector<char> &visited);
-    void updateBox(RecordDisplay &record, std::vector<char> &visited);
+    std::vector<std::size_t> blocksShownBy(std::size_t block) const;
+    void updateBox(BlockDisplay &block);
+    void updateBox(RecordDisplay &record) const;
     bool lacksPatternShapes(const RecordDisplay &record) const;
-    void countInto(RenderReport &report, const BlockDisplay &block, std::vector<char> &visited) const;
+    void countInto(RenderReport &report, const BlockDisplay &block) const;
 
     const drawing::Drawing &m_drawing;
     drawing::MacroSurroundings m_surroundings;
@@ -146,7 +148,7 @@ private:
     bool m_boxesStale = false;
     std::optional<SortHandles> m_sortHandles;
     qint64 m_builtRecords = 0;
-    std::int64_t m_patternPieces = 0;
+    drawing::WorkBudget m_work{drawing::displayWork};
 };
 
 } // namespace host::view

@@ -253,8 +253,10 @@ PaintResult paintScene(QPainter &painter, Scene &scene, int block, const ViewTra
     PainterSink sink(painter, scene, options);
     WalkOptions walk{.view = screen.adjusted(-margin, -margin, margin, margin),
                      .ground = options.ground,
-                     .plottedOnly = options.plottedOnly};
-    SceneWalker walker(scene, walk, sink);
+                     .plottedOnly = options.plottedOnly,
+                     .isRaster = isRaster(painter)};
+    drawing::WorkBudget work(walk.isRaster ? drawing::pictureWork : drawing::vectorWork);
+    SceneWalker walker(scene, walk, sink, work);
     walker.walk(block, view.matrix());
     sink.flush();
     painter.restore();

@@ -26,7 +26,7 @@ struct PaintOptions
 
 struct PaintResult
 {
-    bool isCutShort = false; ///< there was more than can be drawn in one go, and some is missing
+    bool isCutShort = false; ///< there was more than is drawn in one go: some is missing or coarser than it should be
 };
 
 /// Draws a space or block as the view shows it. The painter's units are taken for pixels; its pen, brush and clip are

@@ -14,6 +14,10 @@ constexpr int deepestNesting = 32;
 constexpr double smallest = 0.8; ///< pixels
 constexpr double farthest = 1e7; ///< pixels; what lies beyond is cut off before a painter sees it
 
+constexpr std::int64_t recordsOfUnit = 16;
+constexpr std::int64_t unitsOfLetter = 2;
+constexpr std::int64_t freeElements = 32; ///< of a linetype, on each line
+
 QRectF flatReach(const Box &box, const Matrix &map)
 {
     const Vec3 middle = (box.low + box.high) * 0.5;
@@ -37,9 +41,21 @@ double sizeOf(const Matrix &map)
 
 } // namespace
 
-SceneWalker::SceneWalker(Scene &scene, const WalkOptions &options, DisplaySink &sink)
-    : m_scene(scene), m_options(options), m_sink(sink), m_left(options.mostShapes)
+SceneWalker::SceneWalker(Scene &scene, const WalkOptions &options, DisplaySink &sink, drawing::WorkBudget &work)
+    : m_scene(scene), m_options(options), m_sink(sink), m_work(work), m_refusalsBefore(work.refusals()),
+      m_cost(m_options.view, options.isRaster), m_isShown(scene.blockCount(), 0)
 {
+}
+
+/// Whether what comes next may be shown.
+bool SceneWalker::mayGoOn(const Context &context, std::int64_t units)
+{
+    return !context.isRepeated || m_work.take(units);
+}
+
+std::int64_t SceneWalker::unitsOf(const Track &track) const
+{
+    return static_cast<std::int64_t>(track.points.size()) - 1 + m_cost.ofLine(track);
 }
 
 void SceneWalker::walk(int block, const Matrix &toScreen)
@@ -47,8 +63,6 @@ void SceneWalker::walk(int block, const Matrix &toScreen)
     m_isOpen.assign(m_scene.blockCount(), 0);
     m_isOpen[static_cast<std::size_t>(block)] = 1;
     for (const RecordDisplay &record : m_scene.display(block).records) {
-        if (m_left <= 0)
-            return;
         if (!record.isEndless && m_options.view && isOutside(record.box, toScreen, nullptr))
             continue;
         if (m_sink.beginRecord(record.record))
@@ -59,6 +73,8 @@ void SceneWalker::walk(int block, const Matrix &toScreen)
 void SceneWalker::walkRecord(const RecordDisplay &record, const Matrix &toScreen)
 {
     m_isOpen.assign(m_scene.blockCount(), 0);
+    // Records are looked at one by one, and many may show the same block.
+    m_isShown.assign(m_scene.blockCount(), 1);
     if (m_sink.beginRecord(record.record))
         walkDisplay(record, {.map = toScreen});
 }
@@ -75,9 +91,12 @@ bool SceneWalker::isOutside(const Box &box, const Matrix &map, QRectF *reach) co
 
 void SceneWalker::walkBlock(const BlockDisplay &block, const Context &context)
 {
+    if (!mayGoOn(context, static_cast<std::int64_t>(block.records.size()) / recordsOfUnit))
+        return;
     for (const RecordDisplay &record : block.records) {
-        if (m_left <= 0)
-            return;
+        // Some time, so that a block of many records out of sight ends as well.
+        if (context.isRepeated && m_work.left() <= 0)
+            return m_work.refuse();
         walkDisplay(record, context);
     }
 }
@@ -100,7 +119,7 @@ void SceneWalker::walkItems(const std::vector<DisplayItem> &items, const Context
         const bool isHiddenFrame = item.isMaskFrame && !m_scene.appearance().showsMaskFrames(m_options.plottedOnly);
         if (isHiddenFrame || isHidden(style, item.shape, context))
             continue;
-        if (--m_left <= 0)
+        if (!mayGoOn(context, 1))
             return;
         // A point mark has its size on the screen, whatever the size of its box.
         if (dot && !std::holds_alternative<PointMark>(item.shape)) {
@@ -119,17 +138,17 @@ bool SceneWalker::isHidden(const ResolvedStyle &style, const Shape &shape, const
     const bool isReference = std::holds_alternative<std::unique_ptr<Reference>>(shape);
     if (look.isFrozen || (look.isOff && !isReference) || (m_options.plottedOnly && !look.isPlotted))
         return true;
-    return context.hiddenLayers && std::ranges::find(*context.hiddenLayers, style.layer) != context.hiddenLayers->end();
+    return context.hiddenLayers && std::ranges::binary_search(*context.hiddenLayers, style.layer);
 }
 
 void SceneWalker::show(const Stroke &stroke, const ResolvedStyle &style, const Context &context)
 {
-    CurveTracer(context.map, m_options.view).trace(stroke.curve, m_track);
-    if (m_track.points.empty())
+    CurveTracer(context.map, m_options.view, m_work).trace(stroke.curve, m_track);
+    if (m_track.points.empty() || (context.isRepeated && !m_work.take(unitsOf(m_track))))
         return;
     if (style.linetype > 0 && m_options.withLinetypes && m_options.view) {
         const LineDasher dasher(m_scene.appearance().pattern(style.linetype), style.linetypeScale, *m_options.view);
-        if (dasher.isWorthwhile(m_track)) {
+        if (dasher.isWorthwhile(m_track) && canDash(dasher, stroke)) {
             emitDashes(m_track, stroke.curve.isOneRun, dasher, style);
             return;
         }
@@ -191,16 +210,28 @@ DashOutput SceneWalker::dashOutput(const ResolvedStyle &style)
 
 void SceneWalker::emitSign(const LinePatternElement &element, const Matrix &toScreen, const ResolvedStyle &style)
 {
+    std::int64_t units = element.text.size() * unitsOfLetter;
+    for (const Curve &curve : element.shape)
+        units += static_cast<std::int64_t>(curve.points.size());
+    if (!m_work.take(units))
+        return;
     if (!element.text.isEmpty()) {
         const double width = m_scene.fonts().width(element.font, element.text);
         m_sink.text({.text = element.text, .font = element.font, .width = width}, toScreen, style);
     }
     for (const Curve &curve : element.shape) {
         Track track;
-        CurveTracer(toScreen, m_options.view).trace(curve, track);
+        CurveTracer(toScreen, m_options.view, m_work).trace(curve, track);
         if (!track.points.empty())
             emitTrack(track, style);
     }
+}
+
+/// Takes what the dashes of the line in m_track cost.
+bool SceneWalker::canDash(const LineDasher &dasher, const Stroke &stroke)
+{
+    const auto runs = stroke.curve.isOneRun ? 1 : static_cast<std::int64_t>(m_track.corners.size());
+    return m_work.take(std::max<std::int64_t>(dasher.elementCount(m_track) - runs * freeElements, 0));
 }
 
 void SceneWalker::emitDashes(const Track &track, bool isOneRun, const LineDasher &dasher, const ResolvedStyle &style)
@@ -218,12 +249,16 @@ void SceneWalker::show(const Fill &fill, const ResolvedStyle &style, const Conte
 {
     QPainterPath area;
     area.setFillRule(fill.isEvenOdd ? Qt::OddEvenFill : Qt::WindingFill);
-    CurveTracer tracer(context.map, m_options.view);
+    CurveTracer tracer(context.map, m_options.view, m_work);
     std::vector<Track> edges;
+    FillCost fillCost(m_cost);
     for (const Curve &contour : fill.contours) {
         tracer.trace(contour, m_track);
         if (m_track.points.size() < 2)
             continue;
+        if (!mayGoOn(context, static_cast<std::int64_t>(m_track.points.size())))
+            return;
+        fillCost.add(m_track);
         QPolygonF polygon(QList<QPointF>(m_track.points.begin(), m_track.points.end()));
         const QRectF reach = polygon.boundingRect();
         if (m_options.view && !m_options.view->contains(reach))
@@ -234,14 +269,29 @@ void SceneWalker::show(const Fill &fill, const ResolvedStyle &style, const Conte
         if (fill.kind == FillKind::Area && std::min(reach.width(), reach.height()) < 2.0)
             edges.push_back(m_track);
     }
-    m_sink.fill(area, fill.kind, style);
+    if (m_work.take(fillCost.units()))
+        m_sink.fill(area, fill.kind, style);
+    else if (fill.kind != FillKind::Mask)
+        emitOutlines(fill, style, context);
     for (const Track &edge : edges)
         emitTrack(edge, style);
 }
 
+/// In place of an area that would cost too much.
+void SceneWalker::emitOutlines(const Fill &fill, const ResolvedStyle &style, const Context &context)
+{
+    CurveTracer tracer(context.map, m_options.view, m_work);
+    for (const Curve &contour : fill.contours) {
+        tracer.trace(contour, m_track);
+        if (!m_track.points.empty() && (!context.isRepeated || m_work.take(unitsOf(m_track))))
+            emitTrack(m_track, style);
+    }
+}
+
 void SceneWalker::show(const Segments &segments, const ResolvedStyle &style, const Context &context)
 {
-    for (std::size_t i = 0; i + 1 < segments.ends.size(); i += 2) {
+    const std::size_t stride = 2 * strideOf(segments, context);
+    for (std::size_t i = 0; i + 1 < segments.ends.size(); i += stride) {
         const std::array<QPointF, 2> ends = {flat(context.map, segments.ends[i]),
                                              flat(context.map, segments.ends[i + 1])};
         const auto part = m_options.view ? visiblePart(ends[0], ends[1], *m_options.view) : std::pair(0.0, 1.0);
@@ -250,13 +300,30 @@ void SceneWalker::show(const Segments &segments, const ResolvedStyle &style, con
         const QPointF step = ends[1] - ends[0];
         const std::array<QPointF, 2> seen = {ends[0] + step * part->first, ends[0] + step * part->second};
         m_sink.line(seen, style);
-        --m_left;
     }
-    for (const Vec3 &dot : segments.dots) {
-        const QPointF at = flat(context.map, dot);
+    for (std::size_t i = 0; i < segments.dots.size(); i += stride / 2) {
+        const QPointF at = flat(context.map, segments.dots[i]);
         if (!m_options.view || m_options.view->contains(at))
             m_sink.dot(at, style);
     }
+}
+
+/// 1 to show all lines of a pattern, 2 for every other and so on. No pattern gets more than half of what is left, so
+/// that those behind it get something.
+std::size_t SceneWalker::strideOf(const Segments &segments, const Context &context)
+{
+    double pixels = 0.0;
+    for (std::size_t i = 0; m_options.isRaster && i + 1 < segments.ends.size(); i += 2)
+        pixels += m_cost.seenLength(flat(context.map, segments.ends[i]), flat(context.map, segments.ends[i + 1]));
+    const auto pieces = static_cast<std::int64_t>(segments.ends.size() / 2 + segments.dots.size());
+    const std::int64_t units = pieces + m_cost.ofLength(pixels);
+    if (units <= m_work.left() / 2 && m_work.take(units))
+        return 1;
+    const std::int64_t share = std::max<std::int64_t>(m_work.left() / 2, 1);
+    const std::int64_t stride = (units + share - 1) / share;
+    m_work.refuse();
+    m_work.charge(units / stride);
+    return static_cast<std::size_t>(stride);
 }
 
 void SceneWalker::show(const Endless &line, const ResolvedStyle &style, const Context &context)
@@ -279,7 +346,7 @@ void SceneWalker::show(const Endless &line, const ResolvedStyle &style, const Co
     const QPointF length = seen.points[1] - seen.points[0];
     seen.along = {0.0, std::hypot(length.x(), length.y()) / pixelsPerUnit};
     const LineDasher dasher(m_scene.appearance().pattern(style.linetype), style.linetypeScale, *m_options.view);
-    if (m_options.withLinetypes && dasher.isWorthwhile(seen))
+    if (m_options.withLinetypes && dasher.isWorthwhile(seen) && m_work.take(dasher.elementCount(seen)))
         dasher.runEndless(seen, phase, dashOutput(style));
     else
         m_sink.line(seen.points, style);
@@ -341,16 +408,20 @@ void SceneWalker::emitMarkShape(QPointF at, double half, int mode, const Resolve
 
 void SceneWalker::show(const std::unique_ptr<TextRun> &run, const ResolvedStyle &style, const Context &context)
 {
-    m_sink.text(*run, context.map * run->placement, style);
+    if (mayGoOn(context, run->text.size() * unitsOfLetter))
+        m_sink.text(*run, context.map * run->placement, style);
 }
 
 void SceneWalker::show(const std::unique_ptr<Reference> &reference, const ResolvedStyle &style, const Context &context)
 {
     const auto index = static_cast<std::size_t>(reference->block);
-    if (context.depth >= deepestNesting || m_isOpen[index])
+    if (m_isOpen[index])
         return;
     const BlockDisplay &block = m_scene.display(reference->block);
     if (block.box.isEmpty() && !block.isEndless && reference->beside.empty())
+        return;
+    m_isTooDeep |= context.depth >= deepestNesting;
+    if (context.depth >= deepestNesting)
         return;
     m_isOpen[index] = 1;
     showArray(*reference, block, style, context);
@@ -373,16 +444,20 @@ void SceneWalker::showArray(const Reference &reference, const BlockDisplay &bloc
     if (!reference.beside.empty())
         cell |= flatReach(reference.besideBox, context.map);
     const ArrayCells cells(cell, columnStep.xy(), rowStep.xy(), reference.columns, reference.rows, m_options.view);
+    bool isRepeated = context.isRepeated;
     cells.visit([&](std::int64_t column, std::int64_t row) {
+        if (isRepeated && !m_work.take(1))
+            return false;
         const Vec3 offset = columnStep * static_cast<double>(column) + rowStep * static_cast<double>(row);
         Context inner = context;
+        inner.isRepeated = std::exchange(isRepeated, true);
         inner.map = first;
         inner.map.origin = first.origin + offset;
         showCell(reference, block, style, inner);
         inner.map = context.map;
         inner.map.origin = context.map.origin + offset;
         walkItems(reference.beside, inner, std::nullopt);
-        return m_left > 0;
+        return true;
     });
 }
 
@@ -393,12 +468,12 @@ void SceneWalker::showCell(const Reference &reference, const BlockDisplay &block
     if (!block.isEndless && isOutside(block.box, context.map, &reach))
         return;
     if (m_options.collapseSmall && !block.isEndless && reach.width() < smallest && reach.height() < smallest) {
-        --m_left;
         m_sink.dot(reach.center(), style);
         return;
     }
     Context inner = context;
     inner.depth = context.depth + 1;
+    inner.isRepeated |= std::exchange(m_isShown[static_cast<std::size_t>(block.number)], 1) != 0;
     if (!reference.isViewport)
         inner.insert = &style;
     if (!reference.hiddenLayers.empty())
@@ -410,6 +485,8 @@ void SceneWalker::showCell(const Reference &reference, const BlockDisplay &block
     QPolygonF clip;
     for (const Vec3 &corner : reference.clip)
         clip.append(flat(context.map, corner));
+    if (!mayGoOn(inner, clip.size() + m_cost.ofArea(clip.boundingRect())))
+        return;
     m_sink.beginClip(clip);
     walkBlock(block, inner);
     m_sink.endClip();

@@ -1,8 +1,10 @@
 #pragma once
 
+#include "host/drawing/WorkBudget.h"
 #include "host/view/Appearance.h"
 #include "host/view/CurveTrace.h"
 #include "host/view/LineDasher.h"
+#include "host/view/PixelCost.h"
 
 #include <QPainterPath>
 
@@ -40,23 +42,28 @@ struct WalkOptions
     /// What is smaller than a pixel becomes a dot.
     bool collapseSmall = true;
     bool plottedOnly = false;
-    /// The walk ends after so many shapes: blocks nested many times over multiply beyond all bounds.
-    std::int64_t mostShapes = 4'000'000;
+    /// Lines and areas become pixels, which cost the more the larger they are.
+    bool isRaster = false;
 };
 
 /// Goes through the shapes of a space or block, opens the blocks it refers to, and hands out straight pieces, areas and
 /// texts with everything resolved. Blocks that contain themselves are opened once.
+///
+/// What a space holds, and each block where it is met first, is shown whatever it costs. All that is multiplied takes
+/// from the budget, and when that is used up lines are full instead of dashed, patterns have fewer lines, areas are
+/// outlines, and blocks that were shown before are left out.
 class SceneWalker
 {
 public:
     /// The scene must be prepared for the blocks walked.
-    SceneWalker(Scene &scene, const WalkOptions &options, DisplaySink &sink);
+    SceneWalker(Scene &scene, const WalkOptions &options, DisplaySink &sink, drawing::WorkBudget &work);
 
     void walk(int block, const Matrix &toScreen);
     /// One record of a block alone.
     void walkRecord(const RecordDisplay &record, const Matrix &toScreen);
-    /// Whether the bound on shapes was reached and part of the drawing is missing.
-    bool wasCutShort() const { return m_left <= 0; }
+    /// Whether part of what there is was left out or drawn coarser: the work was used up, or blocks are nested deeper
+    /// than they are opened.
+    bool wasCutShort() const { return m_isTooDeep || m_work.refusals() > m_refusalsBefore; }
 
 private:
     struct Context
@@ -65,6 +72,7 @@ private:
         const ResolvedStyle *insert = nullptr;
         const std::vector<int> *hiddenLayers = nullptr;
         int depth = 0;
+        bool isRepeated = false; ///< what follows was shown before: all of it takes from the budget
     };
 
     void walkBlock(const BlockDisplay &block, const Context &context);
@@ -85,6 +93,11 @@ private:
                    const Context &context);
     void showCell(const Reference &reference, const BlockDisplay &block, const ResolvedStyle &style,
                   const Context &context);
+    bool mayGoOn(const Context &context, std::int64_t units);
+    std::int64_t unitsOf(const Track &track) const;
+    bool canDash(const LineDasher &dasher, const Stroke &stroke);
+    std::size_t strideOf(const Segments &segments, const Context &context);
+    void emitOutlines(const Fill &fill, const ResolvedStyle &style, const Context &context);
     void emitTrack(const Track &track, const ResolvedStyle &style);
     void emitDashes(const Track &track, bool isOneRun, const LineDasher &dasher, const ResolvedStyle &style);
     DashOutput dashOutput(const ResolvedStyle &style);
@@ -94,8 +107,12 @@ private:
     Scene &m_scene;
     const WalkOptions m_options;
     DisplaySink &m_sink;
-    std::int64_t m_left;
-    std::vector<char> m_isOpen; ///< by block
+    drawing::WorkBudget &m_work;
+    const std::int64_t m_refusalsBefore;
+    const PixelCost m_cost;
+    bool m_isTooDeep = false;
+    std::vector<char> m_isOpen;  ///< by block
+    std::vector<char> m_isShown; ///< by block: it was met
     Track m_track;
 };
 

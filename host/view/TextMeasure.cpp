@@ -75,8 +75,8 @@ Box TextMeasure::lineBox(const FieldList &fields)
     const QByteArray lines = linesOf(fields, codec);
     const TagList tags = tagsOf(lines, codec);
     RecordDisplay display;
-    std::int64_t pieces = 0;
-    BuildContext context{m_drawing, *m_scene, pieces, display};
+    drawing::WorkBudget work(drawing::outlineWork);
+    BuildContext context{m_drawing, *m_scene, work, display};
     Box box;
     if (!(tags[0].trimmed() == "ATTDEF" ? buildAttdef(context, tags) : buildText(context, tags)))
         return box;
@@ -104,8 +104,8 @@ Vec2 TextMeasure::paragraphSize(const FieldList &fields)
             plain.push_back(field);
     const QByteArray lines = linesOf(plain, codec);
     RecordDisplay display;
-    std::int64_t pieces = 0;
-    BuildContext context{m_drawing, *m_scene, pieces, display};
+    drawing::WorkBudget work(drawing::outlineWork);
+    BuildContext context{m_drawing, *m_scene, work, display};
     Box box;
     if (!buildMText(context, tagsOf(lines, codec)))
         return {};

@@ -1,6 +1,7 @@
 #include "host/view/VisibleExtents.h"
 
 #include "host/view/DisplayBoxes.h"
+#include "host/view/PostOrder.h"
 
 namespace host::view {
 
@@ -10,32 +11,53 @@ bool VisibleExtents::isShown(int layer) const
     return !look.isOff && !look.isFrozen && (m_seen == Seen::OnScreen || look.isPlotted);
 }
 
-Box VisibleExtents::measure(int block, bool showsLayer0)
+Box VisibleExtents::of(int block)
 {
-    const std::pair key(block, showsLayer0);
-    if (const auto known = m_known.constFind(key); known != m_known.constEnd())
-        return *known;
-    // A block that is met again while it is measured contains itself, and adds nothing.
-    m_known.insert(key, {});
-    Box box;
-    for (const RecordDisplay &record : m_scene.display(block).records)
-        add(record.items, showsLayer0, box);
-    m_known.insert(key, box);
-    return box;
+    PostOrder order;
+    const Seeing whole = seeing(block, isShown(0));
+    order.visit(
+        whole, [this](Seeing what) { return shownBy(what); }, [this](Seeing what) { measure(what); });
+    return m_known.value(whole);
 }
 
-void VisibleExtents::add(const std::vector<DisplayItem> &items, bool showsLayer0, Box &box)
+bool VisibleExtents::isSeen(const DisplayItem &item, Seeing what) const
 {
-    for (const DisplayItem &item : items) {
-        const bool isSeen = item.style.layer == 0 ? showsLayer0 : isShown(item.style.layer);
+    return item.style.layer == 0 ? what % 2 != 0 : isShown(item.style.layer);
+}
+
+template <class Visit>
+void VisibleExtents::forEachItem(Seeing what, const Visit &visit) const
+{
+    for (const RecordDisplay &record : m_scene.display(static_cast<int>(what / 2)).records)
+        std::ranges::for_each(record.items, visit);
+}
+
+/// A layer that is off does not hide what inserts on it bring from other layers.
+std::vector<VisibleExtents::Seeing> VisibleExtents::shownBy(Seeing what) const
+{
+    std::vector<Seeing> shown;
+    forEachItem(what, [&](const DisplayItem &item) {
+        const auto *reference = std::get_if<std::unique_ptr<Reference>>(&item.shape);
+        if (reference && !m_scene.appearance().layerLook(item.style.layer).isFrozen)
+            shown.push_back(seeing((*reference)->block, isSeen(item, what)));
+    });
+    return shown;
+}
+
+/// A block that contains itself is not known yet where it is met again, and adds nothing.
+void VisibleExtents::measure(Seeing what)
+{
+    Box box;
+    forEachItem(what, [&](const DisplayItem &item) {
         const auto *reference = std::get_if<std::unique_ptr<Reference>>(&item.shape);
         if (!reference) {
-            if (isSeen)
+            if (isSeen(item, what))
                 addItemBox(item, box);
         } else if (!m_scene.appearance().layerLook(item.style.layer).isFrozen) {
-            box.add(referenceBox(**reference, measure((*reference)->block, isSeen)));
+            box.add(referenceBox(**reference, m_known.value(seeing((*reference)->block, isSeen(item, what)))));
         }
-    }
+    });
+    m_known.insert(what, box);
 }
 
 } // namespace host::view

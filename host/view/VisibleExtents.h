@@ -14,16 +14,23 @@ public:
     /// The scene must be prepared for the blocks asked for.
     VisibleExtents(const Scene &scene, Seen seen) : m_scene(scene), m_seen(seen) {}
 
-    Box of(int block) { return measure(block, isShown(0)); }
+    Box of(int block);
 
 private:
-    Box measure(int block, bool showsLayer0);
-    void add(const std::vector<DisplayItem> &items, bool showsLayer0, Box &box);
+    /// A block with whether layer 0 is seen in it, as one number.
+    using Seeing = std::size_t;
+    static Seeing seeing(int block, bool showsLayer0) { return 2 * static_cast<Seeing>(block) + (showsLayer0 ? 1 : 0); }
+
+    template <class Visit>
+    void forEachItem(Seeing what, const Visit &visit) const;
+    std::vector<Seeing> shownBy(Seeing what) const;
+    void measure(Seeing what);
+    bool isSeen(const DisplayItem &item, Seeing what) const;
     bool isShown(int layer) const;
 
     const Scene &m_scene;
     const Seen m_seen;
-    QHash<std::pair<int, bool>, Box> m_known;
+    QHash<Seeing, Box> m_known;
 };
 
 } // namespace host::view

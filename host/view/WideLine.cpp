@@ -19,6 +19,8 @@ using BandRun = std::vector<BandPoint>;
 constexpr double sharpestMiter = 4.0; ///< times half the width; sharper corners are left square
 constexpr double bandAngle = 0.06;    ///< radians an arc of a band turns from piece to piece
 constexpr int mostBandPieces = 512;
+constexpr int freeBandPieces = 8;
+constexpr std::int64_t unitsOfBandPiece = 20;
 
 Vec2 leftOf(Vec2 from, Vec2 to)
 {
@@ -27,12 +29,14 @@ Vec2 leftOf(Vec2 from, Vec2 to)
     return length > 0.0 ? Vec2{-along.y / length, along.x / length} : Vec2{};
 }
 
-BandRun segmentRun(const PolylineVertex &from, const Vec3 &to)
+BandRun segmentRun(const PolylineVertex &from, const Vec3 &to, drawing::WorkBudget &work)
 {
     BandRun run{{from.at.xy(), from.startWidth / 2.0}};
     const drawing::BulgeArc arc = drawing::bulgeArc(from.at.xy(), to.xy(), from.bulge);
     if (arc.radius > 0.0) {
-        const int pieces = std::clamp(static_cast<int>(std::abs(arc.sweep) / bandAngle), 1, mostBandPieces);
+        int pieces = std::clamp(static_cast<int>(std::abs(arc.sweep) / bandAngle), 1, mostBandPieces);
+        if (pieces > freeBandPieces && !work.take((pieces - freeBandPieces) * unitsOfBandPiece))
+            pieces = freeBandPieces;
         for (int i = 1; i < pieces; ++i) {
             const double part = static_cast<double>(i) / pieces;
             const double angle = arc.startAngle + arc.sweep * part;
@@ -131,14 +135,15 @@ bool hasWidth(const std::vector<PolylineVertex> &vertices)
     return std::ranges::any_of(vertices, [](const auto &v) { return v.startWidth > 0.0 || v.endWidth > 0.0; });
 }
 
-Fill polylineBand(const std::vector<PolylineVertex> &vertices, bool isClosed, const Matrix &ocs)
+Fill polylineBand(const std::vector<PolylineVertex> &vertices, bool isClosed, const Matrix &ocs,
+                  drawing::WorkBudget &work)
 {
     const std::size_t count = isClosed ? vertices.size() : vertices.size() - 1;
     std::vector<BandRun> runs;
     for (std::size_t i = 0; i < count; ++i) {
         const Vec3 &next = vertices[(i + 1) % vertices.size()].at;
         if ((next - vertices[i].at).length() > 0.0)
-            runs.push_back(segmentRun(vertices[i], next));
+            runs.push_back(segmentRun(vertices[i], next, work));
     }
     BandBuilder builder(vertices.front().at.z, ocs);
     const auto firstLeft = [](const BandRun &run) { return leftOf(run[0].at, run[1].at); };

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/drawing/WorkBudget.h"
 #include "host/view/Display.h"
 
 namespace host::view {
@@ -20,6 +21,8 @@ Curve polylineCurve(const std::vector<PolylineVertex> &vertices, bool isClosed, 
 bool hasWidth(const std::vector<PolylineVertex> &vertices);
 
 /// The area that a polyline with widths covers: mitred where straight segments meet, tapering where widths differ.
-Fill polylineBand(const std::vector<PolylineVertex> &vertices, bool isClosed, const Matrix &ocs);
+/// The pieces that arcs are divided into are charged to `work`; when it is used up they are coarse.
+Fill polylineBand(const std::vector<PolylineVertex> &vertices, bool isClosed, const Matrix &ocs,
+                  drawing::WorkBudget &work);
 
 } // namespace host::view

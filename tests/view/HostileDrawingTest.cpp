@@ -1,6 +1,8 @@
 // Drawings made to hang, crash or fill the memory. Each is built, painted, measured and picked in.
 
+#include "host/view/EntityExtents.h"
 #include "host/view/Picking.h"
+#include "host/view/SceneWalker.h"
 #include "tests/view/Rendering.h"
 
 #include <gtest/gtest.h>
@@ -27,6 +29,27 @@ std::string explodingBlocks(int levels)
         blocks += "|" + blockText("B" + std::to_string(i), inserts);
     }
     return blocks;
+}
+
+/// Blocks B0..Bn, each showing the next.
+std::string chainedBlocks(int levels)
+{
+    std::string blocks = blockText("B" + std::to_string(levels), "0 LINE|8 0|10 10|20 10|11 90|21 90");
+    for (int i = levels - 1; i >= 0; --i)
+        blocks += "|" + blockText("B" + std::to_string(i), "0 INSERT|8 0|2 B" + std::to_string(i + 1) + "|10 0|20 0");
+    return blocks;
+}
+
+const std::string linesOfPattern = "|53 30|43 0|44 0|45 0|46 2|79 0";
+
+/// A hatch whose boundary goes up and down `turns` times.
+std::string zigzagHatch(int turns, const std::string &style, const std::string &lines = "|78 1" + linesOfPattern)
+{
+    std::string points;
+    for (int i = 0; i < 2 * turns; ++i)
+        points += "|10 " + std::to_string(10.0 + 40.0 * i / turns) + (i % 2 ? "|20 10" : "|20 90");
+    return "0 HATCH|8 0|10 0|20 0|30 0|2 X|70 " + style + "|71 0|91 1|92 7|72 0|73 1|93 " + std::to_string(2 * turns) +
+           points + "|97 0|75 0|76 1|52 0|41 1|77 0" + lines;
 }
 
 const std::string hatch = "0 HATCH|8 0|10 0|20 0|30 0|2 X|70 0|71 0|91 1|92 7|72 0|73 1|93 4|10 10|20 10|10 90|20 "
@@ -72,6 +95,15 @@ std::vector<Row> rows()
          blockText("A", "0 INSERT|8 0|2 B|10 0|20 0") + "|" + blockText("B", "0 INSERT|8 0|2 A|10 0|20 0|" + line)},
         {"model space in itself", "0 INSERT|8 0|2 *Model_Space|10 0|20 0|" + line, true},
         {"ten to the ninth lines by nesting", "0 INSERT|8 0|2 B0|10 0|20 0", true, explodingBlocks(9)},
+        {"a chain of thirty thousand blocks", "0 INSERT|8 0|2 B0|10 0|20 0|" + line, true, chainedBlocks(30'000)},
+        {"an area with thousands of teeth", zigzagHatch(3'000, "1"), true},
+        {"a pattern of hundreds of families in teeth",
+         zigzagHatch(1'000, "0", "|78 400" + repeated(linesOfPattern, 400)), true},
+        {"a wide line of nothing but arcs",
+         "0 LWPOLYLINE|8 0|90 3000|70 1|43 3" + repeated("|10 10|20 10|42 1|10 90|20 90|42 1", 1'500), true},
+        {"dots by the thousand on every line", repeated("0 LINE|8 0|6 D|10 0|20 50|11 99|21 52|", 300) + line, true, "",
+         tableText("LTYPE",
+                   "0 LTYPE|2 D|70 0|3 x|72 65|73 300|40 0.5" + repeated("|49 0|74 0", 299) + "|49 -0.5|74 0")},
         {"array of 32767 by 32767 in view", "0 INSERT|8 0|2 B|10 0|20 0|70 32767|71 32767|44 0.001|45 0.001", true,
          lineBlock},
         {"array of a thousand million rows", "0 INSERT|8 0|2 B|10 0|20 0|70 1000000000|71 1000000000|44 10|45 10", true,
@@ -136,6 +168,9 @@ TEST_P(HostileDrawing, IsDrawnWithinBounds)
     pickAt(scene, Scene::modelSpace, {50, 50}, 5.0);
     pickRectangle(scene, Scene::modelSpace, {0, 0}, {60, 60}, PickMode::Window);
     pickRectangle(scene, Scene::modelSpace, {0, 0}, {60, 60}, PickMode::Crossing);
+    EntityExtents extents(*drawing);
+    for (const RecordId entity : drawing->entities().all())
+        extents.of(entity);
 }
 
 INSTANTIATE_TEST_SUITE_P(All, HostileDrawing, testing::ValuesIn(rows()), [](const auto &row) {
@@ -154,6 +189,90 @@ TEST(HostileDrawing, WhatIsLeftOutForItsSizeIsSaid)
     ViewTransform view(image.size());
     view.setHeight({50, 50}, 100);
     EXPECT_TRUE(paintScene(painter, scene, Scene::modelSpace, view).isCutShort);
+}
+
+TEST(HostileDrawing, WhatIsPlainIsDrawnBehindWhatMultiplies)
+{
+    const std::string top = "0 LINE|8 0|62 1|10 0|20 95|11 99|21 95";
+    const std::pair<std::string, std::string> rows[] = {
+        {"0 INSERT|8 0|2 B0|10 0|20 0", explodingBlocks(9)},
+        {repeated("0 INSERT|8 0|2 B1|10 0|20 0|70 500|71 500|44 0.6|45 0.6|", 120) + "0 INSERT|8 0|2 B1|10 0|20 0",
+         chainedBlocks(1)},
+        {"0 INSERT|8 0|2 B0|10 0|20 0", chainedBlocks(40)},
+    };
+    for (const auto &[entities, blocks] : rows) {
+        const auto drawing = readDrawing({.entities = entities + "|" + top, .blocks = blocks});
+        Scene scene(*drawing);
+        QImage image(200, 200, QImage::Format_RGB32);
+        QPainter painter(&image);
+        ViewTransform view(image.size());
+        view.setHeight({50, 50}, 100);
+        EXPECT_TRUE(paintScene(painter, scene, Scene::modelSpace, view).isCutShort) << entities.substr(0, 60);
+        EXPECT_EQ(image.pixelColor(100, 10), QColor(Qt::red)) << entities.substr(0, 60);
+    }
+}
+
+/// Takes nothing in.
+class NoSink final : public DisplaySink
+{
+public:
+    void line(std::span<const QPointF>, const ResolvedStyle &) override {}
+    void dot(QPointF, const ResolvedStyle &) override {}
+    void fill(const QPainterPath &, FillKind, const ResolvedStyle &) override {}
+    void text(const TextRun &, const Matrix &, const ResolvedStyle &) override {}
+    void beginClip(const QPolygonF &) override {}
+    void endClip() override {}
+};
+
+struct Work
+{
+    std::int64_t display = 0; ///< that went into the shapes
+    std::int64_t walk = 0;    ///< into one look at them
+};
+
+Work workOf(const DxfText &text)
+{
+    const auto drawing = readDrawing(text);
+    Scene scene(*drawing);
+    scene.prepare(Scene::modelSpace);
+    Work work;
+    for (const RecordDisplay &record : scene.display(Scene::modelSpace).records)
+        work.display += record.work;
+    drawing::WorkBudget budget(drawing::pictureWork);
+    NoSink sink;
+    SceneWalker walker(scene, {.view = QRectF(0, 0, 200, 200), .isRaster = true}, sink, budget);
+    walker.walk(Scene::modelSpace, Matrix::scaling({2.0, 2.0, 2.0}));
+    EXPECT_FALSE(walker.wasCutShort());
+    work.walk = drawing::pictureWork - budget.left();
+    return work;
+}
+
+TEST(HostileDrawing, WorkGrowsWithTheInput)
+{
+    const auto insert = [](int columns) {
+        return DxfText{.entities = "0 INSERT|8 0|2 B|10 0|20 0|71 20|45 4|44 0.04|70 " + std::to_string(columns),
+                       .blocks = blockText("B", "0 LINE|8 0|10 0|20 0|11 5|21 5")};
+    };
+    const auto dashed = [](int lines) {
+        return DxfText{.entities = repeated("0 LINE|8 0|6 D|10 0|20 50|11 99|21 52|", lines) + "0 POINT|8 0|10 1|20 1",
+                       .tables = tableText("LTYPE", "0 LTYPE|2 D|70 0|3 x|72 65|73 4|40 2|49 0|74 0|49 -1|74 0|49 0|74 "
+                                                    "0|49 -1|74 0")};
+    };
+    const auto loop = [](int turns) { return DxfText{.entities = zigzagHatch(turns, "0")}; };
+    const std::tuple<const char *, std::function<DxfText(int)>, int> rows[] = {
+        {"cells of an array", insert, 1'000}, {"dashes", dashed, 200}, {"loop of a hatch", loop, 200}};
+    for (const auto &[name, drawing, count] : rows) {
+        const Work once = workOf(drawing(count));
+        const Work twice = workOf(drawing(2 * count));
+        EXPECT_GT(once.walk, count) << name;
+        EXPECT_LE(twice.walk, once.walk * 21 / 10 + 10) << name;
+        EXPECT_LE(twice.display, once.display * 21 / 10 + 10) << name;
+    }
+    // What stands once in the file costs nothing.
+    EXPECT_EQ(workOf({.entities = repeated("0 LINE|8 0|10 0|20 0|11 99|21 99|", 5'000) + "0 INSERT|8 0|2 B|10 0|20 0",
+                      .blocks = blockText("B", "0 CIRCLE|8 0|10 50|20 50|40 40")})
+                  .walk,
+              0);
 }
 
 TEST(HostileDrawing, FarMagnificationKeepsCurvesInPlace)

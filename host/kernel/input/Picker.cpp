@@ -95,8 +95,10 @@ RecordId Picker::entityAt(const Vec3 &point) const
     const std::vector<RecordId> near = m_document.boxes().touching(visible(), boxAround(point, reach));
     RecordId best = drawing::noRecord;
     double bestDistance = reach;
+    drawing::WorkBudget work = drawing::outlineBudget(near.size());
     for (RecordId id : near) {
-        const double distance = drawing::flatDistance(drawing::entityOutline(m_document.drawing(), id), point.xy());
+        const drawing::Outline outline = drawing::entityOutline(m_document.drawing(), id, work);
+        const double distance = drawing::flatDistance(outline, point.xy());
         if (distance <= bestDistance) {
             best = id;
             bestDistance = distance;
@@ -108,8 +110,9 @@ RecordId Picker::entityAt(const Vec3 &point) const
 std::vector<RecordId> Picker::inShape(ShapeKind kind, const std::vector<Vec3> &corners) const
 {
     std::vector<RecordId> chosen = m_document.boxes().touching(visible(), boxOf(corners));
+    drawing::WorkBudget work = drawing::outlineBudget(chosen.size());
     std::erase_if(chosen, [&](RecordId id) {
-        return !isChosen(drawing::entityOutline(m_document.drawing(), id), kind, corners);
+        return !isChosen(drawing::entityOutline(m_document.drawing(), id, work), kind, corners);
     });
     return chosen;
 }
@@ -130,7 +133,8 @@ NestedPick Picker::nearestInside(RecordId insert, const Vec3 &point) const
     NestedPick pick;
     pick.entity = insert;
     double best = std::numeric_limits<double>::infinity();
-    drawing::visitInserted(drawing, insert, [&](const drawing::VisitedEntity &visited) {
+    drawing::WorkBudget work(drawing::outlineWork);
+    drawing::visitInserted(drawing, insert, work, [&](const drawing::VisitedEntity &visited) {
         const drawing::Outline outline = drawing::entityOutline(drawing, visited.entity, {}, visited.transform);
         const double distance = drawing::flatDistance(outline, point.xy());
         if (distance <= best) {
