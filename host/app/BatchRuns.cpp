@@ -56,6 +56,14 @@ bool tellNotWritten(kernel::Session &session)
     return !problems.isEmpty();
 }
 
+/// What is missing in a picture, and whether that is because there was too much.
+int tellMissing(const QString &path, const view::RenderReport &report)
+{
+    if (!report.isWhole())
+        writeMessage(u"%1: %2"_s.arg(native(path), report.missing()));
+    return report.isCutShort ? ExitCutShort : ExitDone;
+}
+
 /// One session over several drawings.
 class SessionBatch
 {
@@ -69,7 +77,7 @@ private:
     bool hasClashingNames() const;
     int runOne(Workbench &workbench, const QString &path);
     int playOn(kernel::Document &document, const QString &path);
-    int writeOutcome(kernel::Document &document, const QString &path, const QStringList &written);
+    int writeOutcome(kernel::Document &document, const QString &path, const PlaybackResult &played);
     QString picturePath(const QString &drawing) const;
 
     const ProgramOptions &m_options;
@@ -129,6 +137,8 @@ int SessionBatch::run()
         return ExitDone;
     if (failed < statuses.size())
         return ExitPartly;
+    if (statuses.count(ExitCutShort) == failed)
+        return ExitCutShort;
     return statuses.contains(ExitFailed) ? ExitFailed : ExitFileError;
 }
 
@@ -174,7 +184,7 @@ int SessionBatch::playOn(kernel::Document &document, const QString &path)
         writeResult(u"%1: failed\n"_s.arg(native(path)));
         return ExitFailed;
     }
-    const int status = writeOutcome(document, path, result.files);
+    const int status = writeOutcome(document, path, result);
     return tellNotWritten(document.session()) ? ExitFileError : status;
 }
 
@@ -187,11 +197,14 @@ QString SessionBatch::picturePath(const QString &drawing) const
     return QDir(folder).filePath(file.completeBaseName() + u".png"_s);
 }
 
-int SessionBatch::writeOutcome(kernel::Document &document, const QString &path, const QStringList &written)
+int SessionBatch::writeOutcome(kernel::Document &document, const QString &path, const PlaybackResult &played)
 {
     QStringList files;
-    for (const QString &file : written)
+    int status = ExitDone;
+    for (const QString &file : played.files)
         files.append(native(file));
+    for (const auto &[picture, report] : played.incomplete)
+        status = std::max(status, tellMissing(picture, report));
     QString error;
     const QMetaObject::Connection told = QObject::connect(&document, &kernel::Document::printed, &document,
                                                           [](const QString &text) { writeMessage(text.trimmed()); });
@@ -201,7 +214,9 @@ int SessionBatch::writeOutcome(kernel::Document &document, const QString &path, 
         files.append(native(target));
     }
     if (error.isEmpty() && m_options.withPictures) {
-        error = writeDrawingPicture(document, picturePath(path)).error;
+        const view::ExportResult picture = writeDrawingPicture(document, picturePath(path));
+        error = picture.error;
+        status = std::max(status, tellMissing(picturePath(path), picture.report));
         files.append(native(picturePath(path)));
     }
     QObject::disconnect(told);
@@ -212,7 +227,7 @@ int SessionBatch::writeOutcome(kernel::Document &document, const QString &path, 
     }
     writeResult(files.isEmpty() ? u"%1: done\n"_s.arg(native(path))
                                 : u"%1: done, %2\n"_s.arg(native(path), files.join(", "_L1)));
-    return ExitDone;
+    return status;
 }
 
 kernel::RunResult loadLisp(kernel::Document &document, const QString &file)
@@ -344,10 +359,8 @@ int convertDrawing(const ProgramOptions &options)
     }
     if (options.withJson)
         writeResult(QString::fromUtf8(conversionReport(options, isPicture ? &written.report : nullptr)));
-    if (written.report.isWhole())
-        return ExitDone;
-    writeMessage(u"%1: %2"_s.arg(native(options.input), written.report.missing()));
-    return options.isStrict ? ExitPartly : ExitDone;
+    const int status = tellMissing(options.input, written.report);
+    return status == ExitDone && options.isStrict && !written.report.isWhole() ? ExitPartly : status;
 }
 
 } // namespace host::app

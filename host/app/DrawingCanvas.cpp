@@ -148,6 +148,11 @@ view::RenderReport DrawingCanvas::report()
     return report;
 }
 
+bool DrawingCanvas::isCutShortNews()
+{
+    return m_isCutShort && !std::exchange(m_isCutShortTold, true);
+}
+
 void DrawingCanvas::repaintScene()
 {
     const double ratio = devicePixelRatioF();

@@ -42,6 +42,8 @@ public:
 
     /// What of the current space can be drawn.
     view::RenderReport report();
+    /// Whether the last picture was cut short and that was not asked before.
+    bool isCutShortNews();
     QSize sizeHint() const override { return {1000, 600}; }
 
 signals:
@@ -101,6 +103,7 @@ private:
     QPixmap m_picture; ///< the scene as last painted; null when it is out of date
     quint64 m_paintedRevision = 0;
     bool m_isCutShort = false; ///< part of the scene is missing in the picture
+    bool m_isCutShortTold = false;
     std::optional<kernel::PromptRequest> m_request;
     std::optional<DragPreview> m_dragged; ///< while the prompt has entities hang at the pointer
     std::optional<QPointF> m_pointer;     ///< where the pointer is, while it is on the canvas

@@ -108,10 +108,12 @@ void FileActions::exportPicture(kernel::Document &document, const QString &exten
                     });
     if (path.isEmpty())
         return;
-    if (const QString error = writeDrawingPicture(document, path).error; !error.isEmpty())
-        complain(error);
-    else
-        document.print(tr("\nWritten: %1\n").arg(QDir::toNativeSeparators(path)));
+    const view::ExportResult written = writeDrawingPicture(document, path);
+    if (!written)
+        return complain(written.error);
+    document.print(tr("\nWritten: %1\n").arg(QDir::toNativeSeparators(path)));
+    if (!written.report.isWhole())
+        document.print(tr("In the picture: %1\n").arg(written.report.missing()));
 }
 
 FileActions::Answer FileActions::askToSave(kernel::Document &document)

@@ -410,6 +410,8 @@ void MainWindow::updateReport()
         tr("DXF %1, %2")
             .arg(versionName(active->drawing().version()), isModel ? tr("model space") : tr("paper space")));
     const QString text = report.isWhole() ? tr("All entities drawn") : report.missing();
+    if (current->isCutShortNews())
+        m_commandLine->print(tr("\nThere is more to show than is drawn in one go: the picture lacks part of it.\n"));
     m_notDrawn->setText(
         m_notDrawn->fontMetrics().elidedText(text, Qt::ElideRight, std::max(width() / 2, longestReport)));
     m_notDrawn->setToolTip(Qt::convertFromPlainText(

@@ -206,7 +206,8 @@ constexpr auto commonHelp = R"(Options for every use:
   --help, --version
 
 Exit status: 0 done, 1 a tool, expression or session failed or passed a limit, 2 wrong use, 3 part of a batch failed
-or, with --strict, of a picture is missing, 4 a file could not be read or written.
+or, with --strict, of a picture is missing, 4 a file could not be read or written, 5 a picture was written, but there was
+more to show than is drawn in one go: a few lines of a drawing can make millions.
 )";
 
 constexpr auto windowHelp = R"(Usage: ortakit [OPTION...] [DRAWING...]
@@ -230,7 +231,7 @@ Options of the window:
 constexpr auto runHelp = R"(Usage: ortakit run SESSION DRAWING... [--out DIR] [--png] [OPTION...]
 
 Plays a recorded session over each drawing, one after the other, each opened afresh. The drawings themselves stay as
-they are. Prints a line for each.
+they are. Prints a line for each. What a picture does not show, or only in part, is told on standard error, by type.
 
   --trust DIR           run programs of this folder and those below as well; may be given again
   --out DIR             write the drawings that the session changed there, under their own names

@@ -12,10 +12,11 @@ namespace host::app {
 enum ExitStatus : int
 {
     ExitDone = 0,
-    ExitFailed = 1,   ///< a tool, expression or session failed
-    ExitUsage = 2,    ///< wrong use of the program
-    ExitPartly = 3,   ///< part of a batch failed; of a strict conversion, part of the drawing is missing
-    ExitFileError = 4 ///< a file could not be read or written
+    ExitFailed = 1,    ///< a tool, expression or session failed
+    ExitUsage = 2,     ///< wrong use of the program
+    ExitPartly = 3,    ///< part of a batch failed; of a strict conversion, part of the drawing is missing
+    ExitFileError = 4, ///< a file could not be read or written
+    ExitCutShort = 5   ///< a picture was written that shows less than it should: there was more than is drawn in one go
 };
 
 enum class Mode

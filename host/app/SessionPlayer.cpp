@@ -416,7 +416,14 @@ QString SessionPlayer::screenshot(const Step &step, QWidget *window)
     QWidget *const main = m_document.session().mainWindow();
     if (!window && main && main->isVisible())
         window = main;
-    error = window ? writeWidgetPicture(*window, path) : writeDrawingPicture(m_document, path).error;
+    if (window) {
+        error = writeWidgetPicture(*window, path);
+    } else {
+        const view::ExportResult written = writeDrawingPicture(m_document, path);
+        error = written.error;
+        if (written && !written.report.isWhole())
+            m_result.incomplete.emplace_back(path, written.report);
+    }
     if (error.isEmpty())
         m_result.files.append(path);
     return error;

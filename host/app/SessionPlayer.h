@@ -4,6 +4,7 @@
 #include "host/app/PlaybackScript.h"
 #include "host/kernel/Document.h"
 #include "host/kernel/input/InputFeeder.h"
+#include "host/view/Scene.h"
 
 #include <QHash>
 #include <QTimer>
@@ -37,6 +38,7 @@ struct PlaybackResult
     QString message;   ///< why it failed, naming the line and what was open
     QString printed;   ///< everything that was printed on the command line meanwhile
     QStringList files; ///< drawings and pictures that were written
+    std::vector<std::pair<QString, view::RenderReport>> incomplete{}; ///< pictures that do not show all, by their path
 };
 
 /// Plays recorded sessions: runs their commands on a document, answers prompts and drives dialogs. Everything that is

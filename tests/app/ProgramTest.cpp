@@ -54,6 +54,15 @@ struct ProgramTest : testing::Test
         write(u"sub/remote.dxf"_s,
               QByteArray(smallDrawing()).replace("0\nCIRCLE\n", "0\nRTEXT\n70\n0\n1\n../good.lsp\n"));
         write(u"support/strings.lsp"_s, "(princ \"a stranger's\")");
+        // Blocks within blocks, deeper than they are opened.
+        QByteArray blocks;
+        for (int i = 0; i < 40; ++i)
+            blocks += "0\nBLOCK\n8\n0\n2\nB" + QByteArray::number(i) + "\n10\n0\n20\n0\n0\nINSERT\n8\n0\n2\nB" +
+                      QByteArray::number(i + 1) + "\n10\n0\n20\n0\n0\nENDBLK\n8\n0\n";
+        write(u"deep.dxf"_s, "0\nSECTION\n2\nBLOCKS\n" + blocks +
+                                 "0\nBLOCK\n8\n0\n2\nB40\n10\n0\n20\n0\n0\nLINE\n8\n0\n10\n0\n20\n0\n11\n9\n21\n9\n0\n"
+                                 "ENDBLK\n8\n0\n0\nENDSEC\n0\nSECTION\n2\nENTITIES\n0\nINSERT\n8\n0\n2\nB0\n10\n0\n20\n"
+                                 "0\n0\nENDSEC\n0\nEOF\n");
     }
 
     void write(const QString &name, const QByteArray &bytes)
@@ -154,6 +163,11 @@ TEST_F(ProgramTest, EndsWithTheStatusItsManualNames)
 
         {u"convert solid.dxf solid.pdf --strict"_s, 3, {}, u"solid.dxf: 1 not drawn (3DSOLID 1)"_s},
         {u"run erase.txt a.dxf broken.dxf"_s, 3, u"broken.dxf: not read\n"_s, u"broken.dxf"_s},
+
+        {u"convert deep.dxf deep.png"_s, 5, {}, u"deep.dxf: cut short: there is more than is drawn in one go\n"_s},
+        {u"run looks.txt deep.dxf --png --out deep"_s, 5, u"deep.dxf: done, deep/deep.png\n"_s,
+         u"deep.png: cut short"_s},
+        {u"run looks.txt a.dxf deep.dxf --png --out some"_s, 3, {}, u"deep.png: cut short"_s},
 
         {u"lisp none.lsp"_s, 4, {}, u"none.lsp"_s},
         {u"lisp good.lsp --drawing none.dxf"_s, 4, {}, u"none.dxf"_s},
