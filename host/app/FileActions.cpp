@@ -23,13 +23,10 @@ void FileActions::complain(const QString &text)
     box.exec();
 }
 
-void FileActions::open()
+QStringList FileActions::pathsToOpen()
 {
-    const QStringList paths =
-        QFileDialog::getOpenFileNames(&m_window, tr("Open drawings"), startFolder(m_workbench.documents().active()),
-                                      tr("Drawings (*.dxf *.dwg);;All files (*)"));
-    for (const QString &path : paths)
-        openFile(path);
+    return QFileDialog::getOpenFileNames(&m_window, tr("Open drawings"), startFolder(m_workbench.documents().active()),
+                                         tr("Drawings (*.dxf *.dwg);;All files (*)"));
 }
 
 kernel::Document *FileActions::openFile(const QString &path)

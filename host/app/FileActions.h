@@ -24,8 +24,8 @@ public:
 
     FileActions(Workbench &workbench, QWidget &window) : m_workbench(workbench), m_window(window) {}
 
-    /// Asks for drawings and opens them.
-    void open();
+    /// Asks for drawings to open; none when the user gave up.
+    QStringList pathsToOpen();
     /// Null when it could not be opened.
     kernel::Document *openFile(const QString &path);
     /// Under its own name, or asking for one when it has none. False when it was not saved.

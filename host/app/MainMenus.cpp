@@ -56,7 +56,8 @@ void MainWindow::buildFileMenu()
     };
     addAction(menu, tr("&New"), QKeySequence(u"Ctrl+N"_s), WhenBusy::Disabled,
               [this] { m_workbench->documents().create(); });
-    addAction(menu, tr("&Open..."), QKeySequence(u"Ctrl+O"_s), WhenBusy::Disabled, [this] { m_files.open(); });
+    addAction(menu, tr("&Open..."), QKeySequence(u"Ctrl+O"_s), WhenBusy::Disabled,
+              [this] { openAll(m_files.pathsToOpen()); });
     addAction(menu, tr("&Close"), QKeySequence(u"Ctrl+W"_s), WhenBusy::Disabled,
               [this] { closeTab(m_tabs->currentIndex()); });
     menu.addSeparator();

@@ -65,6 +65,30 @@ QStringList localFiles(const QMimeData &data)
 
 } // namespace
 
+/// While many tabs come or go: each of them would have all others laid out anew. They are laid out once in the end,
+/// when the one of the active drawing is shown, too.
+class MainWindow::ManyTabs
+{
+public:
+    explicit ManyTabs(MainWindow &window) : m_window(window)
+    {
+        ++m_window.m_manyTabs;
+        m_window.m_tabs->tabBar()->hide();
+    }
+    ~ManyTabs()
+    {
+        if (--m_window.m_manyTabs > 0)
+            return;
+        m_window.m_tabs->tabBar()->show();
+        m_window.showActive(m_window.document());
+    }
+    ManyTabs(const ManyTabs &) = delete;
+    ManyTabs &operator=(const ManyTabs &) = delete;
+
+private:
+    MainWindow &m_window;
+};
+
 MainWindow::MainWindow(const WorkbenchOptions &options)
     : m_workbench(std::make_unique<Workbench>(options, this)),
       m_feeder(std::make_unique<WindowFeeder>(m_workbench->session().input())), m_files(*m_workbench, *this),
@@ -153,10 +177,16 @@ kernel::Document *MainWindow::document() const
 
 void MainWindow::start(const QStringList &drawings)
 {
-    for (const QString &path : drawings)
-        m_files.openFile(path);
+    openAll(drawings);
     if (m_tabs->count() == 0)
         m_workbench->documents().create();
+}
+
+void MainWindow::openAll(const QStringList &drawings)
+{
+    const ManyTabs many(*this);
+    for (const QString &path : drawings)
+        m_files.openFile(path);
 }
 
 // Tabs
@@ -175,12 +205,17 @@ void MainWindow::addTab(kernel::Document *document)
         m_coordinates->setText(u"%1, %2"_s.arg(point.x, 0, 'f', 4).arg(point.y, 0, 'f', 4));
     });
     connect(document, &kernel::Document::printed, m_commandLine, &CommandLine::print);
-    connect(document, &kernel::Document::titleChanged, this, &MainWindow::updateTitles);
-    connect(document, &kernel::Document::runEnded, this, &MainWindow::updateState);
-    const int index = m_tabs->addTab(canvas, document->title());
-    m_tabs->setCurrentIndex(index);
+    connect(document, &kernel::Document::titleChanged, this, [this, document] { updateTitle(*document); });
+    connect(document, &kernel::Document::runEnded, this, [this, document] {
+        updateTitle(*document);
+        updateState();
+    });
+    const int index = m_tabs->addTab(canvas, {});
+    updateTitle(*document);
     tellProblems();
-    updateTitles();
+    if (m_manyTabs > 0)
+        return;
+    m_tabs->setCurrentIndex(index);
     updateReport();
 }
 
@@ -209,6 +244,8 @@ void MainWindow::activateTab(int)
 
 void MainWindow::showActive(kernel::Document *document)
 {
+    if (m_manyTabs > 0)
+        return;
     if (const int index = tabOf(document); index >= 0)
         m_tabs->setCurrentIndex(index);
     updateState();
@@ -236,6 +273,7 @@ bool MainWindow::closeAllTabs()
     for (int i = 0; i < m_tabs->count(); ++i)
         if (!mayClose(i))
             return false;
+    const ManyTabs many(*this);
     while (m_tabs->count() > 0)
         if (!m_workbench->documents().close(&static_cast<DrawingCanvas *>(m_tabs->widget(0))->document()))
             return false;
@@ -377,19 +415,28 @@ void MainWindow::updateState()
     m_tabs->tabBar()->setEnabled(isIdle);
     m_undo->setEnabled(isIdle && active && active->undoSteps().canUndo());
     m_redo->setEnabled(isIdle && active && active->undoSteps().canRedo());
-    updateTitles();
+    updateWindowTitle();
     m_reportTimer.start();
 }
 
-void MainWindow::updateTitles()
+/// Of this tab alone, and only what is another: each text that is set lays out all tabs.
+void MainWindow::updateTitle(const kernel::Document &document)
 {
-    for (int i = 0; i < m_tabs->count(); ++i) {
-        const kernel::Document &open = static_cast<DrawingCanvas *>(m_tabs->widget(i))->document();
-        // An & in a file name is no mnemonic.
-        const QString title = open.title().replace(u'&', u"&&"_s);
-        m_tabs->setTabText(i, open.isModified() ? title + u'*' : title);
-        m_tabs->setTabToolTip(i, Qt::convertFromPlainText(QDir::toNativeSeparators(open.path()), Qt::WhiteSpaceNormal));
-    }
+    const int index = tabOf(&document);
+    if (index < 0)
+        return;
+    // An & in a file name is no mnemonic.
+    const QString title = document.title().replace(u'&', u"&&"_s);
+    const QString text = document.isModified() ? title + u'*' : title;
+    if (m_tabs->tabText(index) != text)
+        m_tabs->setTabText(index, text);
+    m_tabs->setTabToolTip(index,
+                          Qt::convertFromPlainText(QDir::toNativeSeparators(document.path()), Qt::WhiteSpaceNormal));
+    updateWindowTitle();
+}
+
+void MainWindow::updateWindowTitle()
+{
     const kernel::Document *active = document();
     setWindowTitle(active ? u"%1[*] - Ortakit"_s.arg(active->title()) : u"Ortakit"_s);
     setWindowModified(active && active->isModified());
@@ -469,15 +516,23 @@ void MainWindow::dropEvent(QDropEvent *event)
 
 void MainWindow::openDropped(const QStringList &paths)
 {
+    // A program that is loaded works in the drawing that was opened last, with its tab.
+    QStringList drawings;
     for (const QString &path : paths) {
         if (isBusy())
             return;
-        if (!path.endsWith(".lsp"_L1, Qt::CaseInsensitive) || !document())
-            m_files.openFile(path);
-        else if (const QString wanted = m_workbench->session().trustedFolders().wanted(*document(), path);
-                 !wanted.isEmpty())
+        if (!path.endsWith(".lsp"_L1, Qt::CaseInsensitive) || (drawings.isEmpty() && !document())) {
+            drawings.append(path);
+            continue;
+        }
+        openAll(std::exchange(drawings, {}));
+        if (!document())
+            continue;
+        if (const QString wanted = m_workbench->session().trustedFolders().wanted(*document(), path); !wanted.isEmpty())
             document()->loadLisp(wanted);
     }
+    if (!isBusy())
+        openAll(drawings);
 }
 
 } // namespace host::app

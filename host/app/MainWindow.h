@@ -72,8 +72,11 @@ private:
     void showHelp();
     void showAbout();
 
+    class ManyTabs;
+
     void buildStatusBar();
     void connectCommandLine();
+    void openAll(const QStringList &drawings);
     void addTab(kernel::Document *document);
     void removeTab(kernel::Document *document);
     void activateTab(int index);
@@ -96,7 +99,8 @@ private:
     void loadPreferences();
     void savePreferences() const;
     void updateState();
-    void updateTitles();
+    void updateTitle(const kernel::Document &document);
+    void updateWindowTitle();
     void updateReport();
     void setGround(view::Ground ground);
     void openDropped(const QStringList &paths);
@@ -120,6 +124,7 @@ private:
     view::Ground m_ground = view::Ground::Black;
     QTimer m_reportTimer;
     qsizetype m_problemsTold = 0;
+    int m_manyTabs = 0;       ///< ManyTabs that there are
     bool m_isRunning = false; ///< the queue is being worked off
     bool m_isCloseWanted = false;
 };

@@ -22,6 +22,8 @@
 #include <QMenuBar>
 #include <QMimeData>
 #include <QMouseEvent>
+#include <QProxyStyle>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QTextBrowser>
 #include <QTimer>
@@ -34,6 +36,18 @@ using namespace Qt::StringLiterals;
 
 namespace host::app {
 namespace {
+
+/// Counts how often a tab is measured, which each layout of the tabs does for all.
+struct TabCountingStyle final : QProxyStyle
+{
+    QSize sizeFromContents(ContentsType type, const QStyleOption *option, const QSize &size,
+                           const QWidget *widget) const override
+    {
+        measured += type == CT_TabBarTab ? 1 : 0;
+        return QProxyStyle::sizeFromContents(type, option, size, widget);
+    }
+    mutable int measured = 0;
+};
 
 /// A window without module and tools but one, on the small drawing.
 struct MainWindowTest : testing::Test
@@ -460,6 +474,36 @@ TEST_F(MainWindowTest, DroppedFilesOpen)
     ASSERT_EQ(user.shown().size(), 3);
     EXPECT_TRUE(user.shown()[2].contains(u"broken.dxf"_s));
     EXPECT_EQ(window->tabs().count(), 2);
+}
+
+TEST_F(MainWindowTest, ManyTabsCostTheirNumberAndNotItsSquare)
+{
+    TabCountingStyle style;
+    window->tabs().tabBar()->setStyle(&style);
+    const auto measuredFor = [&](int count) {
+        QStringList paths;
+        for (int i = 0; i < count; ++i)
+            paths.append(write(u"many%1of%2.dxf"_s.arg(i).arg(count), smallDrawing()));
+        QCoreApplication::processEvents();
+        style.measured = 0;
+        window->start(paths);
+        QCoreApplication::processEvents();
+        EXPECT_EQ(window->document()->path(), paths.last());
+        EXPECT_EQ(window->canvas() ? &window->canvas()->document() : nullptr, window->document());
+        EXPECT_TRUE(window->tabs().tabBar()->isVisible());
+        return style.measured;
+    };
+    const int few = measuredFor(5);
+    const int many = measuredFor(60);
+    EXPECT_GT(few, 0);
+    EXPECT_LE(many, 20 * few) << "6 tabs, then 66";
+    style.measured = 0;
+    window->enter(u"(+ 1 2)"_s);
+    EXPECT_LE(style.measured, 0) << "the titles are what they were";
+    window->close();
+    EXPECT_EQ(window->tabs().count(), 0);
+    EXPECT_LE(style.measured, 20 * few) << "66 that go";
+    window->tabs().tabBar()->setStyle(nullptr);
 }
 
 TEST_F(MainWindowTest, StyleChangesAllAndIsKnownToThePlatform)
