@@ -42,6 +42,12 @@ void tellProblems(const Workbench &workbench, qsizetype &told)
         writeMessage(workbench.problems()[told]);
 }
 
+void setForce(Workbench &workbench, const ProgramOptions &options)
+{
+    if (options.isForced)
+        workbench.session().setOverrule(kernel::Overrule::Obstacles);
+}
+
 QString native(const QString &path)
 {
     return QDir::toNativeSeparators(path);
@@ -129,6 +135,7 @@ int SessionBatch::run()
         return ExitFileError;
     QWidget parentOfDialogs;
     Workbench workbench(workbenchOptions(m_options), &parentOfDialogs);
+    setForce(workbench, m_options);
     QList<int> statuses;
     for (const QString &path : m_options.drawings)
         statuses.append(runOne(workbench, path));
@@ -142,12 +149,22 @@ int SessionBatch::run()
     return statuses.contains(ExitFailed) ? ExitFailed : ExitFileError;
 }
 
+/// A drawing that another process has open is read as it was saved; its own file is not written then.
+kernel::OpenOutcome openToRead(Workbench &workbench, const QString &path)
+{
+    const kernel::OpenOutcome opened = workbench.documents().open(path);
+    if (!opened.holder)
+        return opened;
+    writeMessage(opened.error + u" It is opened for reading only."_s);
+    return workbench.documents().open(path, kernel::OpenMode::ReadOnly);
+}
+
 /// The tools that a drawing loads when it opens have nobody to ask either.
 kernel::OpenOutcome openUnattended(Workbench &workbench, const QString &path)
 {
     UnattendedFeeder nobody;
     workbench.session().setFeeder(&nobody);
-    const kernel::OpenOutcome opened = workbench.documents().open(path);
+    const kernel::OpenOutcome opened = openToRead(workbench, path);
     workbench.session().setFeeder(nullptr);
     return opened;
 }
@@ -182,6 +199,8 @@ int SessionBatch::playOn(kernel::Document &document, const QString &path)
     if (!result.ok) {
         writeMessage(u"%1: %2: %3"_s.arg(native(path), native(m_options.session), result.message));
         writeResult(u"%1: failed\n"_s.arg(native(path)));
+        // The next drawing has no part in it.
+        tellNotWritten(document.session());
         return ExitFailed;
     }
     const int status = writeOutcome(document, path, result);
@@ -301,12 +320,13 @@ int runLispFiles(const ProgramOptions &options)
     const std::chrono::milliseconds timeLimit = options.timeLimit.value_or(std::chrono::milliseconds());
     const LimitWatch watch(LimitWatch::withTimeToStop(timeLimit), options.lispFiles.join(", "_L1));
     Workbench workbench(workbenchOptions(options));
+    setForce(workbench, options);
     UnattendedFeeder nobody(timeLimit);
     workbench.session().setFeeder(&nobody);
     kernel::Document *document = nullptr;
     if (options.drawing.isEmpty()) {
         document = workbench.documents().create();
-    } else if (const auto opened = workbench.documents().open(options.drawing)) {
+    } else if (const auto opened = openToRead(workbench, options.drawing)) {
         document = opened.document;
     } else {
         writeMessage(opened.error);
@@ -342,6 +362,10 @@ int convertDrawing(const ProgramOptions &options)
         return ExitUsage;
     }
     const LimitWatch watch(options.timeLimit.value_or(std::chrono::milliseconds()), native(options.input));
+    if (const auto obstacle = kernel::obstacleToWriting(options.output, nullptr); obstacle && !options.isForced) {
+        writeMessage(obstacle->text);
+        return ExitFileError;
+    }
     const drawing::ReadResult read = drawing::Drawing::open(options.input);
     if (!read) {
         writeMessage(native(options.input) + u": "_s + read.error.message());

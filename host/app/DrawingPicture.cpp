@@ -17,6 +17,8 @@ namespace host::app {
 
 view::ExportResult writeDrawingPicture(kernel::Document &document, const QString &path)
 {
+    if (const auto obstacle = kernel::obstacleToWriting(path, &document.session()))
+        return {.error = obstacle->text, .report = {}};
     return writeDrawingPicture(document.drawing(), path, kernel::expressionSurroundings(document));
 }
 

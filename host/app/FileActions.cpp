@@ -2,6 +2,7 @@
 
 #include "host/app/DrawingPicture.h"
 
+#include <QAbstractButton>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -31,17 +32,74 @@ QStringList FileActions::pathsToOpen()
 
 kernel::Document *FileActions::openFile(const QString &path)
 {
-    const kernel::OpenOutcome outcome = m_workbench.documents().open(QFileInfo(path).absoluteFilePath());
+    const QString file = QFileInfo(path).absoluteFilePath();
+    kernel::OpenOutcome outcome = m_workbench.documents().open(file);
+    if (outcome.holder) {
+        const std::optional<kernel::OpenMode> mode = askToOpen(outcome.error);
+        if (!mode)
+            return nullptr;
+        outcome = m_workbench.documents().open(file, *mode);
+    }
     if (!outcome)
         complain(outcome.error);
     return outcome.document;
+}
+
+int FileActions::choose(const QString &text, const QStringList &choices)
+{
+    QMessageBox box(QMessageBox::Warning, u"Ortakit"_s, text, QMessageBox::Cancel, &m_window);
+    box.setTextFormat(Qt::PlainText);
+    QList<QAbstractButton *> buttons;
+    for (const QString &choice : choices)
+        buttons.append(box.addButton(choice, QMessageBox::AcceptRole));
+    box.setDefaultButton(QMessageBox::Cancel);
+    box.exec();
+    return static_cast<int>(buttons.indexOf(box.clickedButton()));
+}
+
+std::optional<kernel::OpenMode> FileActions::askToOpen(const QString &problem)
+{
+    switch (choose(tr("%1\nWhat is saved here replaces what is saved there.").arg(problem),
+                   {tr("Open &read-only"), tr("Open &anyway")})) {
+    case 0:
+        return kernel::OpenMode::ReadOnly;
+    case 1:
+        return kernel::OpenMode::Anyway;
+    default:
+        return {};
+    }
+}
+
+FileActions::Wish FileActions::askToWrite(const kernel::WriteObstacle &obstacle)
+{
+    QList<Wish> wishes = {Wish::OtherName};
+    QStringList choices = {tr("Save under another &name...")};
+    if (obstacle.mayBeOverruled()) {
+        wishes.prepend(Wish::Overrule);
+        choices.prepend(tr("Save &anyway"));
+    }
+    return wishes.value(choose(obstacle.text, choices), Wish::Nothing);
 }
 
 bool FileActions::save(kernel::Document &document)
 {
     if (document.path().isEmpty())
         return saveAs(document);
-    const drawing::SaveResult result = document.save();
+    const auto obstacle = kernel::obstacleToWriting(document.path(), &m_workbench.session(), &document);
+    switch (obstacle ? askToWrite(*obstacle) : Wish::Overrule) {
+    case Wish::Nothing:
+        return false;
+    case Wish::OtherName:
+        return saveAs(document);
+    case Wish::Overrule:
+        break;
+    }
+    return saveUnder(document, document.path(), obstacle ? kernel::Overrule::Obstacles : kernel::Overrule::Nothing);
+}
+
+bool FileActions::saveUnder(kernel::Document &document, const QString &path, kernel::Overrule overrule)
+{
+    const drawing::SaveResult result = document.saveAs(path, overrule);
     if (!result)
         complain(result.error);
     return bool(result);
@@ -79,18 +137,23 @@ bool FileActions::mayReplace(const QString &path)
 
 bool FileActions::saveAs(kernel::Document &document)
 {
-    const QString proposal =
+    QString proposal =
         QDir(startFolder(&document)).filePath(QFileInfo(document.title()).completeBaseName() + u".dxf"_s);
-    const QString path =
-        fileToWrite(tr("Save drawing"), proposal, tr("DXF drawings (*.dxf)"), [](const QString &typed) {
-            return QFileInfo(typed).suffix().isEmpty() ? typed + u".dxf"_s : typed;
-        });
-    if (path.isEmpty())
-        return false;
-    const drawing::SaveResult result = document.saveAs(path);
-    if (!result)
-        complain(result.error);
-    return bool(result);
+    while (true) {
+        const QString path =
+            fileToWrite(tr("Save drawing"), proposal, tr("DXF drawings (*.dxf)"), [](const QString &typed) {
+                return QFileInfo(typed).suffix().isEmpty() ? typed + u".dxf"_s : typed;
+            });
+        if (path.isEmpty())
+            return false;
+        const auto obstacle = kernel::obstacleToWriting(path, &m_workbench.session(), &document);
+        const Wish wish = obstacle ? askToWrite(*obstacle) : Wish::Overrule;
+        if (wish == Wish::Nothing)
+            return false;
+        if (wish == Wish::Overrule)
+            return saveUnder(document, path, obstacle ? kernel::Overrule::Obstacles : kernel::Overrule::Nothing);
+        proposal = path;
+    }
 }
 
 void FileActions::exportPicture(kernel::Document &document, const QString &extension)

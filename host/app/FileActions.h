@@ -26,7 +26,7 @@ public:
 
     /// Asks for drawings to open; none when the user gave up.
     QStringList pathsToOpen();
-    /// Null when it could not be opened.
+    /// Null when it could not be opened, or the user gave up as another process has it open.
     kernel::Document *openFile(const QString &path);
     /// Under its own name, or asking for one when it has none. False when it was not saved.
     bool save(kernel::Document &document);
@@ -44,6 +44,18 @@ private:
     QString fileToWrite(const QString &title, const QString &proposal, const QString &filter,
                         const Completion &complete);
     bool mayReplace(const QString &path);
+    /// What the user wants of a file that another program has open, or has changed.
+    enum class Wish
+    {
+        Overrule,
+        OtherName,
+        Nothing
+    };
+    Wish askToWrite(const kernel::WriteObstacle &obstacle);
+    std::optional<kernel::OpenMode> askToOpen(const QString &problem);
+    bool saveUnder(kernel::Document &document, const QString &path, kernel::Overrule overrule);
+    /// A box with a button for each choice; the number of the one that was pressed, -1 for Cancel.
+    int choose(const QString &text, const QStringList &choices);
     QString startFolder(const kernel::Document *document) const;
     void complain(const QString &text);
 

@@ -2,6 +2,7 @@
 
 #include "host/app/CommandLine.h"
 #include "host/app/DrawingCanvas.h"
+#include "host/app/DrawingTabs.h"
 #include "host/app/Preferences.h"
 #include "host/app/TrustQuestion.h"
 #include "host/app/WindowFeeder.h"
@@ -92,7 +93,7 @@ private:
 MainWindow::MainWindow(const WorkbenchOptions &options)
     : m_workbench(std::make_unique<Workbench>(options, this)),
       m_feeder(std::make_unique<WindowFeeder>(m_workbench->session().input())), m_files(*m_workbench, *this),
-      m_tabs(new QTabWidget(this)), m_commandLine(new CommandLine(this)),
+      m_tabs(new DrawingTabs(this)), m_commandLine(new CommandLine(this)),
       m_commandDock(new QDockWidget(tr("Command line"), this)), m_coordinates(new QLabel(this)),
       m_status(new QLabel(this)), m_notDrawn(new QLabel(this))
 {
@@ -427,7 +428,8 @@ void MainWindow::updateTitle(const kernel::Document &document)
         return;
     // An & in a file name is no mnemonic.
     const QString title = document.title().replace(u'&', u"&&"_s);
-    const QString text = document.isModified() ? title + u'*' : title;
+    const QString name = document.isReadOnly() ? tr("%1 (read only)").arg(title) : title;
+    const QString text = document.isModified() ? name + u'*' : name;
     if (m_tabs->tabText(index) != text)
         m_tabs->setTabText(index, text);
     m_tabs->setTabToolTip(index,

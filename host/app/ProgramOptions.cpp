@@ -98,6 +98,7 @@ const QList<OptionRow> &optionRows()
         {"--time-limit", Value::Needed, {}, setTimeLimit},
         {"--memory-limit", Value::Needed, {Mode::Run, Mode::Lisp, Mode::Window}, setMemoryLimit},
         {"--png", Value::None, {Mode::Run}, setFlag<&ProgramOptions::withPictures>},
+        {"--force", Value::None, {Mode::Run, Mode::Lisp, Mode::Convert}, setFlag<&ProgramOptions::isForced>},
         {"--strict", Value::None, {Mode::Convert}, setFlag<&ProgramOptions::isStrict>},
         {"--json", Value::None, {Mode::Convert}, setFlag<&ProgramOptions::withJson>}};
     return rows;
@@ -237,6 +238,7 @@ they are. Prints a line for each. What a picture does not show, or only in part,
   --out DIR             write the drawings that the session changed there, under their own names
   --png                 write a picture of each drawing as it is in the end to the out folder, or else beside the drawing
   --screenshot-dir DIR  where pictures go that the session takes, and those of --png
+  --force               write files as well that another program has open, or has changed since they were opened
   --time-limit SECONDS  the most the session may take with one drawing (default 120); one that does not stop then ends the
                         program
   --memory-limit MB     the most memory Lisp may take (default: the system variable LISPHEAPMAX)
@@ -255,6 +257,7 @@ system variable TRUSTEDPATHS lists, and those named here.
   --time-limit SECONDS  the most all of it may take (default: no limit)
   --memory-limit MB     the most memory Lisp may take, more being an error of the program (default: the system variable
                         LISPHEAPMAX)
+  --force               write files as well that another program has open, or has changed since they were opened
 
 )";
 
@@ -264,6 +267,7 @@ Opens a drawing and writes it as what the extension of OUT says: dxf, png, svg o
 only in part, is told on standard error, by type.
 
   --time-limit SECONDS  the most it may take (default: no limit); OUT stays as it was when it takes longer
+  --force   write OUT although another program has it open
   --strict  end with status 3 when something is missing in the picture, which is written all the same
   --json    print one line of JSON: input, output, and of pictures complete, drawn, invisible, inPart and notDrawn (a
             number for each type) and cutShort

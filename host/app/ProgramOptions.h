@@ -49,6 +49,7 @@ struct ProgramOptions
     QString outFolder;           ///< Run
     bool withPictures = false;   ///< Run
     bool isStrict = false;       ///< Convert
+    bool isForced = false;       ///< Run, Lisp, Convert: files are written whatever other programs do with them
     bool withJson = false;       ///< Convert
     QString pictureFolder;
     std::optional<Style> style;

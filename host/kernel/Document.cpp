@@ -50,8 +50,9 @@ ViewState viewOf(const drawing::Drawing &drawing)
 
 } // namespace
 
-Document::Document(Session &session, std::unique_ptr<drawing::Drawing> drawing, const QString &untitledName)
-    : m_session(session), m_drawing(std::move(drawing)), m_untitledName(untitledName),
+Document::Document(Session &session, std::unique_ptr<drawing::Drawing> drawing, DrawingClaim claim,
+                   const QString &untitledName)
+    : m_session(session), m_drawing(std::move(drawing)), m_claim(std::move(claim)), m_untitledName(untitledName),
       m_undoSteps(m_drawing->journal()), m_variables(std::make_unique<SystemVariables>(*this)),
       m_userInput(std::make_unique<UserInput>(*this)), m_selectionInput(std::make_unique<SelectionInput>(*this)),
       m_database(std::make_unique<DrawingDatabase>(*this)), m_console(std::make_unique<LispConsole>(*this)),
@@ -105,14 +106,42 @@ void Document::closeLisp()
     m_interpreter.reset();
 }
 
-drawing::SaveResult Document::save()
+drawing::SaveResult Document::save(Overrule overrule)
 {
     if (path().isEmpty())
         return {QStringLiteral("%1 has no file yet.").arg(title())};
-    return saveAs(path());
+    return saveAs(path(), overrule);
 }
 
-drawing::SaveResult Document::saveAs(const QString &path)
+drawing::SaveResult Document::saveAs(const QString &path, Overrule overrule)
+{
+    const std::optional<WriteObstacle> obstacle = obstacleToWriting(path, &m_session, this);
+    if (obstacle && !(overrule == Overrule::Obstacles && obstacle->mayBeOverruled()))
+        return notWritten(obstacle->text);
+    if (canonicalFile(path) == m_claim.file()) {
+        const drawing::SaveResult result = saveUnder(path, m_claim);
+        emit titleChanged();
+        return result;
+    }
+    const bool isOverruled = overrule == Overrule::Obstacles || m_session.overrule() == Overrule::Obstacles;
+    DrawingClaim next(path, isOverruled ? OpenMode::Anyway : OpenMode::Alone);
+    // Another process may have been faster than the look above.
+    if (next.holder())
+        return notWritten(openElsewhere(path, *next.holder()).text);
+    const drawing::SaveResult result = saveUnder(path, next);
+    if (result)
+        m_claim = std::move(next);
+    emit titleChanged();
+    return result;
+}
+
+drawing::SaveResult Document::notWritten(const QString &reason)
+{
+    m_session.tellNotWritten(reason);
+    return {reason};
+}
+
+drawing::SaveResult Document::saveUnder(const QString &path, DrawingClaim &claim)
 {
     // What the reactors store belongs into the file.
     runAs(QStringLiteral("SAVE"), [&] {
@@ -120,13 +149,20 @@ drawing::SaveResult Document::saveAs(const QString &path)
         m_variables->storeObjectSettings();
     });
     const drawing::SaveResult result = write(path, [&] { return drawing::save(*m_drawing, path); });
-    emit titleChanged();
+    if (result)
+        claim.noteWritten(*m_drawing);
     return result;
 }
 
 drawing::SaveResult Document::saveCopy(const QString &path)
 {
-    return write(path, [&] { return drawing::saveCopy(*m_drawing, path); });
+    if (const std::optional<WriteObstacle> obstacle = obstacleToWriting(path, &m_session, this))
+        return {obstacle->text};
+    const bool isOwn = m_claim.isOf(path);
+    const drawing::SaveResult result = write(path, [&] { return drawing::saveCopy(*m_drawing, path); });
+    if (result && isOwn)
+        m_claim.noteWritten(*m_drawing);
+    return result;
 }
 
 drawing::SaveResult Document::write(const QString &path, const std::function<drawing::SaveResult()> &writeFile)

@@ -4,6 +4,8 @@
 #include "host/drawing/Matrix.h"
 #include "host/drawing/Save.h"
 #include "host/kernel/UndoSteps.h"
+#include "host/kernel/files/DrawingClaim.h"
+#include "host/kernel/files/WriteObstacle.h"
 #include "platform/kernel/CKvDocument.h"
 
 #include <QHash>
@@ -70,7 +72,9 @@ class KV_EXPORT Document final : public QObject, public CKvDocument
     Q_OBJECT
 
 public:
-    Document(Session &session, std::unique_ptr<drawing::Drawing> drawing, const QString &untitledName);
+    /// `claim` is that of the drawing's file, with its content.
+    Document(Session &session, std::unique_ptr<drawing::Drawing> drawing, DrawingClaim claim,
+             const QString &untitledName);
     ~Document() override;
 
     Session &session() const { return m_session; }
@@ -88,6 +92,8 @@ public:
     /// File name, or "Drawing1" for a new one.
     QString title() const;
     bool isModified() const;
+    /// Its own file is not written, because another process has it open.
+    bool isReadOnly() const { return m_claim.isReadOnly(); }
 
     // Running. A whole run is one undo step. Errors are printed on the command line. Output, prompts and reactors of
     // the run happen during these calls.
@@ -114,11 +120,13 @@ public:
 
     /// Writes the drawing; the reactors hear of it first. Of a drawing without a path, save() fails. A file that is
     /// replaced goes into the user's backup folder, where there is one; when it cannot, that is printed and the drawing
-    /// is saved all the same.
-    drawing::SaveResult save();
-    drawing::SaveResult saveAs(const QString &path);
+    /// is saved all the same. What obstacleToWriting() finds makes them fail.
+    drawing::SaveResult save(Overrule overrule = Overrule::Nothing);
+    drawing::SaveResult saveAs(const QString &path, Overrule overrule = Overrule::Nothing);
     /// As saveAs(), but the drawing stays what it is, with its path and its changes; the reactors hear nothing.
     drawing::SaveResult saveCopy(const QString &path);
+    DrawingClaim &claim() { return m_claim; }
+    const DrawingClaim &claim() const { return m_claim; }
 
     // What is shown and chosen.
 
@@ -203,6 +211,8 @@ signals:
 
 private:
     class Run;
+    drawing::SaveResult notWritten(const QString &reason);
+    drawing::SaveResult saveUnder(const QString &path, DrawingClaim &claim);
     drawing::SaveResult write(const QString &path, const std::function<drawing::SaveResult()> &writeFile);
     bool isCommand(const QString &typed) const;
     bool isLispCommand(const QString &typed) const;
@@ -212,6 +222,7 @@ private:
 
     Session &m_session;
     std::unique_ptr<drawing::Drawing> m_drawing;
+    DrawingClaim m_claim;
     QString m_untitledName;
     UndoSteps m_undoSteps;
     std::unique_ptr<SystemVariables> m_variables;

@@ -7,7 +7,6 @@
 #include "host/kernel/Session.h"
 
 #include <QDir>
-#include <QFileInfo>
 
 namespace host::kernel {
 
@@ -19,21 +18,24 @@ DocumentManager::~DocumentManager()
         remove(m_documents.back().get());
 }
 
-OpenOutcome DocumentManager::open(const QString &path)
+OpenOutcome DocumentManager::open(const QString &path, OpenMode mode)
 {
-    const QString canonical = QFileInfo(path).canonicalFilePath();
-    for (const auto &document : m_documents) {
-        if (!canonical.isEmpty() && QFileInfo(document->path()).canonicalFilePath() == canonical) {
-            setActive(document.get());
-            return {document.get(), {}};
-        }
+    if (Document *open = documentOf(path)) {
+        setActive(open);
+        return {open, {}, {}};
     }
+    const bool isForced = mode == OpenMode::Alone && m_session.overrule() == Overrule::Obstacles;
+    DrawingClaim claim(path, isForced ? OpenMode::Anyway : mode);
+    if (claim.holder() && !claim.isReadOnly())
+        return {nullptr, openElsewhere(path, *claim.holder()).text, claim.holder()};
     drawing::ReadResult read = drawing::Drawing::open(path);
     if (!read)
-        return {nullptr, QStringLiteral("%1: %2").arg(path, read.error.message())};
-    Document *document = add(std::move(read.drawing));
-    tellLeftovers(*document, canonical);
-    return {document, {}};
+        return {nullptr, QStringLiteral("%1: %2").arg(path, read.error.message()), {}};
+    claim.setContent(*read.drawing);
+    const QString file = claim.file();
+    Document *document = add(std::move(read.drawing), std::move(claim));
+    tellLeftovers(*document, file);
+    return {document, {}, {}};
 }
 
 /// Takes away what a save that was killed left beside the file, and tells of a whole copy.
@@ -45,15 +47,24 @@ void DocumentManager::tellLeftovers(Document &document, const QString &path)
                            .arg(QDir::toNativeSeparators(files::fromNativePath(copy))));
 }
 
-Document *DocumentManager::create()
+Document *DocumentManager::documentOf(const QString &path) const
 {
-    return add(drawing::newDrawing());
+    const QString file = canonicalFile(path);
+    const std::optional<FileIdentity> identity = identityOf(path);
+    const auto isIts = [&](const auto &document) { return document->claim().isOf(file, identity); };
+    const auto found = std::find_if(m_documents.begin(), m_documents.end(), isIts);
+    return found == m_documents.end() ? nullptr : found->get();
 }
 
-Document *DocumentManager::add(std::unique_ptr<drawing::Drawing> drawing)
+Document *DocumentManager::create()
+{
+    return add(drawing::newDrawing(), {});
+}
+
+Document *DocumentManager::add(std::unique_ptr<drawing::Drawing> drawing, DrawingClaim claim)
 {
     const QString untitled = drawing->path().isEmpty() ? QStringLiteral("Drawing%1").arg(++m_untitled) : QString();
-    m_documents.push_back(std::make_unique<Document>(m_session, std::move(drawing), untitled));
+    m_documents.push_back(std::make_unique<Document>(m_session, std::move(drawing), std::move(claim), untitled));
     Document *document = m_documents.back().get();
     setActive(document);
     tell([&](CKvDocumentManagerReactor &reactor) { reactor.DocumentCreated(document); });

@@ -15,8 +15,9 @@ class Session;
 /// What came of opening a drawing.
 struct OpenOutcome
 {
-    Document *document = nullptr; ///< null when the file could not be read
-    QString error;                ///< a sentence that names the file
+    Document *document = nullptr;     ///< null when the file could not be read
+    QString error;                    ///< a sentence that names the file
+    std::optional<LockHolder> holder; ///< why there is no document: another process has the file open
 
     explicit operator bool() const { return document != nullptr; }
 };
@@ -32,7 +33,9 @@ public:
     ~DocumentManager() override;
 
     /// Opens a DXF file and makes it the active document. A file that is open already becomes active.
-    OpenOutcome open(const QString &path);
+    OpenOutcome open(const QString &path, OpenMode mode = OpenMode::Alone);
+    /// The document whose file the path leads to, by whatever links; null when there is none.
+    Document *documentOf(const QString &path) const;
     /// A new empty drawing, which becomes active.
     Document *create();
     /// Closes without asking and without saving. The document is gone after the call. Refused (false) while a program
@@ -55,7 +58,7 @@ signals:
     void aboutToClose(host::kernel::Document *document);
 
 private:
-    Document *add(std::unique_ptr<drawing::Drawing> drawing);
+    Document *add(std::unique_ptr<drawing::Drawing> drawing, DrawingClaim claim);
     static void tellLeftovers(Document &document, const QString &path);
     void remove(Document *document);
     template <typename Call>

@@ -82,6 +82,11 @@ public:
     void setMainWindow(QWidget *window) { m_mainWindow = window; }
     QWidget *mainWindow() const { return m_mainWindow; }
 
+    /// What stands against writing files counts for nothing that may be overruled, for runs that nobody can be asked
+    /// in.
+    void setOverrule(Overrule overrule) { m_overrule = overrule; }
+    Overrule overrule() const { return m_overrule; }
+
     /// Absolute, without a separator at the end.
     QString home() const { return m_home; }
     const QStringList &supportFolders() const { return m_supportFolders; }
@@ -91,6 +96,8 @@ public:
     /// A file that should have been written was not, or not whole. The user has been told; a run without one ends with
     /// that.
     void tellNotWritten(const QString &problem) { m_notWritten.append(problem); }
+    /// It was written after all.
+    void forgetNotWritten(const QString &problem) { m_notWritten.removeOne(problem); }
     QStringList takeNotWritten() { return std::exchange(m_notWritten, {}); }
 
 private:
@@ -105,6 +112,7 @@ private:
     TrustedFolders m_trustedFolders{*this};
     InputQueue m_input;
     InputFeeder *m_feeder = nullptr;
+    Overrule m_overrule = Overrule::Nothing;
     QPointer<QWidget> m_mainWindow;
     std::unique_ptr<Editor> m_editor;
     std::unique_ptr<CommandStack> m_commandStack;

@@ -11,6 +11,7 @@
 #include "tests/support/ModalAnswers.h"
 #include "tests/support/QtTestPrinters.h"
 
+#include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
 #include <QDropEvent>
@@ -304,7 +305,7 @@ TEST_F(MainWindowTest, ChangesAreMarkedAndAskedFor)
 TEST_F(MainWindowTest, WhatIsReplacedIsAskedAboutByItsCompleteName)
 {
     const std::tuple<QString, QString, QString> rows[] = {
-        {u"Save &as..."_s, u"other"_s, u"other.dxf"_s},        {u"Save &as..."_s, u"other.dxf"_s, u"other.dxf"_s},
+        {u"Save &as..."_s, u"other"_s, u"other.dxf"_s},        {u"Save &as..."_s, u"third.dxf"_s, u"third.dxf"_s},
         {u"&PNG picture..."_s, u"plan"_s, u"plan.png"_s},      {u"&SVG drawing..."_s, u"plan.v2"_s, u"plan.v2.svg"_s},
         {u"P&DF page..."_s, u"plan.dxf"_s, u"plan.dxf.pdf"_s},
     };
@@ -474,6 +475,56 @@ TEST_F(MainWindowTest, DroppedFilesOpen)
     ASSERT_EQ(user.shown().size(), 3);
     EXPECT_TRUE(user.shown()[2].contains(u"broken.dxf"_s));
     EXPECT_EQ(window->tabs().count(), 2);
+}
+
+/// Presses the button with this caption in the next box; without a mnemonic.
+void pressNext(ortakit::test::ModalAnswers &user, const QString &caption)
+{
+    user.drive([caption](QWidget *box) {
+        for (QAbstractButton *button : box->findChildren<QAbstractButton *>())
+            if (button->text().remove(u'&') == caption)
+                return button->click();
+        ADD_FAILURE() << "no button " << caption.toStdString();
+        box->close();
+    });
+}
+
+TEST_F(MainWindowTest, AsksBeforeADrawingOfOthersIsOpenedOrReplaced)
+{
+    const QString theirs = write(u"theirs.dxf"_s, smallDrawing());
+    kernel::Session second({.home = path(u"home2"_s), .supportFolders = {}, .helpFolder = {}});
+    ASSERT_TRUE(second.documents().open(theirs));
+    ortakit::test::ModalAnswers user;
+    user.press(QMessageBox::Cancel);
+    window->start({theirs});
+    EXPECT_TRUE(user.shown().value(0).contains(u"theirs.dxf is open in another program ("_s));
+    EXPECT_EQ(window->tabs().count(), 1);
+    pressNext(user, u"Open read-only"_s);
+    window->start({theirs});
+    ASSERT_EQ(window->tabs().tabText(1), u"theirs.dxf (read only)"_s);
+    const auto save = [&] { action(u"&Save"_s)->trigger(); };
+    lisp(u"(entdel (entlast))"_s);
+    const QString copy = path(u"copy.dxf"_s);
+    pressNext(user, u"Save under another name..."_s);
+    user.choose(drawing);
+    user.press(QMessageBox::Yes);
+    pressNext(user, u"Save under another name..."_s);
+    user.choose(copy);
+    save();
+    EXPECT_TRUE(user.isDone());
+    EXPECT_TRUE(user.shown().value(5).contains(u"small.dxf is open in this program"_s))
+        << user.shown().join(u'\n').toStdString();
+    EXPECT_EQ(window->tabs().tabText(1), u"copy.dxf"_s);
+
+    write(u"copy.dxf"_s, "someone else's");
+    lisp(u"(entdel (entlast))"_s);
+    user.press(QMessageBox::Cancel);
+    save();
+    EXPECT_TRUE(user.shown().last().contains(u"copy.dxf was changed by another program"_s));
+    EXPECT_TRUE(window->document()->isModified());
+    pressNext(user, u"Save anyway"_s);
+    save();
+    EXPECT_FALSE(window->document()->isModified());
 }
 
 TEST_F(MainWindowTest, ManyTabsCostTheirNumberAndNotItsSquare)

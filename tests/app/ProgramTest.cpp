@@ -78,9 +78,9 @@ struct ProgramTest : testing::Test
         return file.readAll();
     }
 
-    Ended run(const QString &arguments, const QByteArray &input = {})
+    static QString program() { return qEnvironmentVariable("ORTAKIT_BUILD") + u"/bin/ortakit"_s; }
+    void prepare(QProcess &process)
     {
-        QProcess process;
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         for (const char *name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM", "ORTAKIT_MODULE", "ORTAKIT_TOOLS"})
             environment.remove(QString::fromLatin1(name));
@@ -92,8 +92,13 @@ struct ProgramTest : testing::Test
             const rlimit limit = {room, room};
             setrlimit(RLIMIT_FSIZE, &limit);
         });
-        process.start(qEnvironmentVariable("ORTAKIT_BUILD") + u"/bin/ortakit"_s,
-                      arguments.split(u' ', Qt::SkipEmptyParts));
+    }
+
+    Ended run(const QString &arguments, const QByteArray &input = {})
+    {
+        QProcess process;
+        prepare(process);
+        process.start(program(), arguments.split(u' ', Qt::SkipEmptyParts));
         process.write(input);
         process.closeWriteChannel();
         EXPECT_TRUE(process.waitForFinished(60'000)) << arguments.toStdString();
@@ -258,6 +263,70 @@ TEST_F(ProgramTest, ReadsExpressionsFromStandardInput)
     const Ended ended = run(u"lisp -"_s, "(princ (* 6 7))");
     EXPECT_EQ(ended.status, 0);
     EXPECT_EQ(ended.output, u"42"_s);
+}
+
+/// A program that has "a.dxf" open and waits for its standard input.
+struct WaitingProgram
+{
+    explicit WaitingProgram(ProgramTest &test)
+    {
+        test.prepare(process);
+        process.start(test.program(), {u"lisp"_s, u"-"_s, u"--drawing"_s, u"a.dxf"_s});
+        for (int i = 0; i < 600 && !QFile::exists(lock(test)); ++i)
+            process.waitForFinished(50);
+        EXPECT_TRUE(QFile::exists(lock(test)));
+    }
+    static QString lock(const ProgramTest &test) { return test.folder.filePath(u".a.dxf.lock"_s); }
+
+    QProcess process;
+};
+
+TEST_F(ProgramTest, WritesNothingThatAnotherOneHasOpen)
+{
+    write(u"save.lsp"_s, "(entdel (handent \"2A\"))(command \"QSAVE\")(princ)\n");
+    write(u"save.txt"_s, "lisp (entdel (handent \"2A\"))\nsave a.dxf\n");
+    EXPECT_TRUE(QFile::link(folder.filePath(u"a.dxf"_s), folder.filePath(u"a.png"_s)));
+    const QByteArray before = read(u"a.dxf"_s);
+    {
+        WaitingProgram holder(*this);
+        const std::tuple<QString, int, QString> rows[] = {
+            {u"lisp good.lsp --drawing a.dxf"_s, 0, u"It is opened for reading only."_s},
+            {u"lisp save.lsp --drawing a.dxf"_s, 4, u"a.dxf was opened for reading only"_s},
+            {u"run save.txt a.dxf --out ."_s, 1, u"a.dxf was opened for reading only"_s},
+            {u"run save.txt b.dxf --out ."_s, 1, u"a.dxf is open in another program ("_s},
+            {u"run erase.txt a.dxf --out ."_s, 4, u"a.dxf was opened for reading only"_s},
+            {u"convert b.dxf a.dxf"_s, 4, u"a.dxf is open in another program ("_s},
+            {u"convert b.dxf a.png"_s, 4, u"a.png is open in another program ("_s},
+            {u"convert a.dxf copy.dxf"_s, 0, {}},
+        };
+        for (const auto &[arguments, status, message] : rows) {
+            SCOPED_TRACE(arguments.toStdString());
+            const Ended ended = run(arguments);
+            EXPECT_EQ(ended.status, status);
+            EXPECT_TRUE(ended.messages.contains(message)) << ended.messages.toStdString();
+            EXPECT_EQ(read(u"a.dxf"_s), before);
+        }
+        EXPECT_EQ(run(u"convert b.dxf a.dxf --force"_s).status, 0);
+        EXPECT_EQ(run(u"lisp save.lsp --drawing a.dxf --force"_s).status, 0);
+        EXPECT_NE(read(u"a.dxf"_s), before);
+        holder.process.closeWriteChannel();
+        EXPECT_TRUE(holder.process.waitForFinished());
+    }
+    EXPECT_FALSE(QFile::exists(WaitingProgram::lock(*this)));
+    {
+        WaitingProgram ended(*this);
+        ended.process.terminate();
+        EXPECT_TRUE(ended.process.waitForFinished());
+        EXPECT_FALSE(QFile::exists(WaitingProgram::lock(*this))) << "the signal could be caught";
+    }
+    write(u"a.dxf"_s, smallDrawing());
+    WaitingProgram killed(*this);
+    killed.process.kill();
+    EXPECT_TRUE(killed.process.waitForFinished());
+    EXPECT_TRUE(QFile::exists(WaitingProgram::lock(*this)));
+    const Ended next = run(u"lisp save.lsp --drawing a.dxf"_s);
+    EXPECT_EQ(next.status, 0) << next.messages.toStdString();
+    EXPECT_FALSE(QFile::exists(WaitingProgram::lock(*this))) << "left behind, taken over and removed";
 }
 
 TEST_F(ProgramTest, TellsOfAMissingModuleOnStandardErrorOnly)

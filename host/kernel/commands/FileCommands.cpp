@@ -39,23 +39,6 @@ CommandContext::Reply askToReplace(CommandContext &context, const QString &path)
     return context.keyword(u"%1 already exists. Replace it? [Yes/No] <No>: "_s.arg(path), u"Yes No"_s, u"No"_s);
 }
 
-// Under the drawing's own name; asks for one when it has none, and before an existing file is replaced.
-CommandTask quickSave(CommandContext &context)
-{
-    Document &document = context.document();
-    if (!document.path().isEmpty()) {
-        tell(context, document.save(), document.path());
-        co_return;
-    }
-    const PromptReply name = co_await context.text(u"Save drawing as: "_s);
-    if (!name.hasValue() || name.text.trimmed().isEmpty())
-        co_return;
-    const QString path = drawingPath(name.text);
-    if (replacesOther(document, path) && (co_await askToReplace(context, path)).text != u"Yes"_s)
-        co_return;
-    tell(context, document.saveAs(path), path);
-}
-
 /// The versions of the format, by the names that people give them.
 struct FormatName
 {
@@ -139,16 +122,81 @@ Dialogue<std::optional<QString>> askSavePath(CommandContext &context)
     co_return drawingPath(typed);
 }
 
-// Version or file name; asks before an existing other file is replaced, unless EXPERT is 2 or more.
-CommandTask saveAs(CommandContext &context)
+/// What the user wants of a file that should not be written unasked.
+enum class Wish
+{
+    Write,
+    OtherName,
+    Nothing ///< the command has failed
+};
+
+/// Asks about what stands against writing the file.
+Dialogue<Wish> askAboutObstacle(CommandContext &context, const WriteObstacle &obstacle)
+{
+    Session &session = context.document().session();
+    context.print(u'\n' + obstacle.text + u'\n');
+    // Told at once: a run that nobody watches ends at the question.
+    session.tellNotWritten(obstacle.text);
+    const QString options = obstacle.mayBeOverruled() ? u"Anyway Name Cancel"_s : u"Name Cancel"_s;
+    const QString prompt = obstacle.mayBeOverruled()
+                               ? u"Save all the same, or under another name? [Anyway/Name/Cancel] <Cancel>: "_s
+                               : u"Save under another name? [Name/Cancel] <Cancel>: "_s;
+    const PromptReply reply = co_await context.keyword(prompt, options, u"Cancel"_s);
+    const Wish wish = reply.text == u"Anyway"_s ? Wish::Write
+                      : reply.text == u"Name"_s ? Wish::OtherName
+                                                : Wish::Nothing;
+    if (wish == Wish::Nothing)
+        context.fail(u"Nothing was written."_s);
+    else
+        session.forgetNotWritten(obstacle.text);
+    co_return wish;
+}
+
+/// A name to save under; nothing when none was given.
+Dialogue<std::optional<QString>> askName(CommandContext &context)
+{
+    const PromptReply name = co_await context.text(u"Save drawing as: "_s);
+    const QString typed = name.hasValue() ? name.text.trimmed() : QString();
+    co_return typed.isEmpty() ? std::nullopt : std::optional(drawingPath(typed));
+}
+
+/// Saves under the path, or under another one that is asked for when something stands against it; asks before an
+/// existing other file is replaced, unless EXPERT is 2 or more. False when nothing was to be written.
+Dialogue<bool> saveUnder(CommandContext &context, std::optional<QString> path)
 {
     Document &document = context.document();
+    while (path) {
+        if (replacesOther(document, *path) && (co_await askToReplace(context, *path)).text != u"Yes"_s)
+            break;
+        const std::optional<WriteObstacle> obstacle = obstacleToWriting(*path, &document.session(), &document);
+        auto wish = Wish::Write;
+        if (obstacle)
+            wish = co_await askAboutObstacle(context, *obstacle);
+        if (wish == Wish::Write) {
+            tell(context, document.saveAs(*path, obstacle ? Overrule::Obstacles : Overrule::Nothing), *path);
+            co_return true;
+        }
+        if (wish == Wish::Nothing)
+            break;
+        path = co_await askName(context);
+    }
+    co_return false;
+}
+
+// Under the drawing's own name; asks for one when it has none.
+CommandTask quickSave(CommandContext &context)
+{
+    std::optional<QString> path = context.document().path();
+    if (path->isEmpty())
+        path = co_await askName(context);
+    co_await saveUnder(context, path);
+}
+
+// Version or file name.
+CommandTask saveAs(CommandContext &context)
+{
     const std::optional<QString> path = co_await askSavePath(context);
-    if (!path)
-        co_return;
-    if (replacesOther(document, *path) && (co_await askToReplace(context, *path)).text != u"Yes"_s)
-        co_return;
-    tell(context, document.saveAs(*path), *path);
+    co_await saveUnder(context, path);
 }
 
 /// The value that text means for a variable of the kind that `like` is; nothing when it does not.

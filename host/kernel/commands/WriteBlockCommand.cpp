@@ -2,6 +2,7 @@
 #include "host/drawing/CopyBetweenDrawings.h"
 #include "host/drawing/Save.h"
 #include "host/kernel/Document.h"
+#include "host/kernel/Session.h"
 #include "host/kernel/SystemVariables.h"
 #include "host/kernel/commands/CommandContext.h"
 #include "host/kernel/commands/Commands.h"
@@ -42,6 +43,11 @@ CommandTask writeBlock(CommandContext &context)
     QString path = QFileInfo(QDir::current(), file.text.trimmed()).absoluteFilePath();
     if (QFileInfo(path).suffix().isEmpty())
         path += u".dxf"_s;
+    if (const auto obstacle = obstacleToWriting(path, &document.session())) {
+        document.session().tellNotWritten(obstacle->text);
+        context.fail(obstacle->text);
+        co_return;
+    }
     if (QFileInfo::exists(path) && document.variables().integer(u"EXPERT") < 2) {
         const PromptReply replace = co_await context.keyword(
             u"%1 already exists. Replace it? [Yes/No] <No>: "_s.arg(path), u"Yes No"_s, u"No"_s);

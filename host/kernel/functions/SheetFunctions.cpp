@@ -10,6 +10,7 @@
 #include "host/drawing/SheetMerge.h"
 #include "host/drawing/Tables.h"
 #include "host/kernel/Document.h"
+#include "host/kernel/Session.h"
 #include "host/kernel/functions/LispConversion.h"
 #include "host/kernel/functions/NativeFunctions.h"
 #include "host/lisp/Interpreter.h"
@@ -249,6 +250,8 @@ Value mergeSheets(Arguments &args)
     const QString path = args.has(0) ? stringAt(args, 0) : QString();
     if (isSource(documentOf(args), sheets, path))
         return toLisp(QStringLiteral("%1 is one of the drawings that sheets come from").arg(path));
+    if (const auto obstacle = obstacleToWriting(path, &documentOf(args).session()); args.has(0) && obstacle)
+        return toLisp(obstacle->text);
     // What fails half way must not leave half a drawing.
     const std::unique_ptr<Drawing> made =
         args.has(0) ? newTarget(own, sheets) : std::move(Drawing::fromBytes(own.toBytes()).drawing);

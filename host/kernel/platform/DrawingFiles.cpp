@@ -5,6 +5,7 @@
 #include "host/kernel/Document.h"
 #include "host/kernel/DrawingDatabase.h"
 #include "host/kernel/RecordChain.h"
+#include "host/kernel/Session.h"
 #include "host/view/Export.h"
 #include "platform/kernel/CKvUtils.h"
 
@@ -104,8 +105,11 @@ OdResBufPtr CKvUtils::drawingRecord(const OdString &path, const OdString &name, 
 
 bool CKvUtils::setDrawingRecord(const OdString &path, const OdString &name, const OdResBuf *chain, OdString *error)
 {
+    auto *active = dynamic_cast<host::kernel::Document *>(ACTIVE_DOCUMENT());
+    const auto obstacle = host::kernel::obstacleToWriting(path, active ? &active->session() : nullptr);
     const host::drawing::SaveResult result =
-        host::drawing::setXrecordInFile(path, name, host::kernel::fieldsFromChain(chain));
+        obstacle ? host::drawing::SaveResult{obstacle->text}
+                 : host::drawing::setXrecordInFile(path, name, host::kernel::fieldsFromChain(chain));
     if (error)
         *error = result.error;
     return bool(result);

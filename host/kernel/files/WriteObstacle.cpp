@@ -1,0 +1,61 @@
+#include "host/kernel/files/WriteObstacle.h"
+
+#include "host/kernel/Document.h"
+#include "host/kernel/Session.h"
+
+#include <QDir>
+
+using namespace Qt::StringLiterals;
+
+namespace host::kernel {
+
+namespace {
+
+using Kind = WriteObstacle::Kind;
+
+/// Against writing a document's own file.
+std::optional<WriteObstacle> ownObstacle(const QString &path, DrawingClaim &claim)
+{
+    if (claim.isReadOnly())
+        return {{Kind::ReadOnly, u"%1 was opened for reading only; save it under another name."_s.arg(path)}};
+    if (const std::optional<LockHolder> holder = claim.successor())
+        return openElsewhere(path, *holder);
+    switch (claim.change()) {
+    case FileChange::None:
+        break;
+    case FileChange::Content:
+        return {{Kind::Changed, u"%1 was changed by another program since it was opened or saved here."_s.arg(path)}};
+    case FileChange::Gone:
+        return {{Kind::Gone, u"%1 is not there any more."_s.arg(path)}};
+    }
+    return {};
+}
+
+std::optional<WriteObstacle> findObstacle(const QString &path, Session *session, Document *writer)
+{
+    const QString shown = QDir::toNativeSeparators(path);
+    if (writer && writer->claim().isOf(path))
+        return ownObstacle(shown, writer->claim());
+    if (session && session->documents().documentOf(path))
+        return {{Kind::OpenHere, u"%1 is open in this program; close it first, or give another name."_s.arg(shown)}};
+    const QString file = canonicalFile(path);
+    const std::optional<LockHolder> holder = file.isEmpty() ? std::nullopt : DrawingLock::holderOf(file);
+    return holder ? std::optional(openElsewhere(shown, *holder)) : std::nullopt;
+}
+
+} // namespace
+
+WriteObstacle openElsewhere(const QString &path, const LockHolder &holder)
+{
+    return {Kind::OpenElsewhere,
+            u"%1 is open in another program (%2)."_s.arg(QDir::toNativeSeparators(path), holder.description())};
+}
+
+std::optional<WriteObstacle> obstacleToWriting(const QString &path, Session *session, Document *writer)
+{
+    const std::optional<WriteObstacle> found = findObstacle(path, session, writer);
+    const bool isOverruled = found && session && session->overrule() == Overrule::Obstacles && found->mayBeOverruled();
+    return isOverruled ? std::nullopt : found;
+}
+
+} // namespace host::kernel
