@@ -3,8 +3,8 @@
 #include "files/qt/Files.h"
 #include "formats/FileWriting.h"
 
+#include <QBuffer>
 #include <QCoreApplication>
-#include <QFile>
 #include <QFileInfo>
 #include <QXmlStreamReader>
 #include <QXmlStreamWriter>
@@ -28,6 +28,9 @@ QString tr(const char *text)
     return QCoreApplication::translate("LispExtension", text);
 }
 
+/// More than all commands of all programs have.
+constexpr qint64 largestFile = 64 * 1024 * 1024;
+
 /// One pass over an alias file. The parser is fed by pieces, so that what it holds back is known.
 class AliasReader
 {
@@ -42,7 +45,8 @@ public:
     {
         while (!m_xml.atEnd() || feed())
             takeToken(m_xml.readNext());
-        return {std::move(m_aliases), m_xml.errorString()};
+        const qint64 line = m_xml.hasError() ? m_xml.lineNumber() : 0;
+        return {std::move(m_aliases), m_xml.errorString(), line, m_hasOnlyAliases};
     }
 
 private:
@@ -74,6 +78,8 @@ private:
         if (token == QXmlStreamReader::Invalid)
             return;
         m_fedAtToken = m_fed;
+        m_hasOnlyAliases = m_hasOnlyAliases && isKept(token);
+        m_depth += token == QXmlStreamReader::StartElement ? 1 : token == QXmlStreamReader::EndElement ? -1 : 0;
         if (token != QXmlStreamReader::StartElement)
             return;
         const QXmlStreamAttributes attributes = m_xml.attributes();
@@ -81,6 +87,32 @@ private:
             m_xml.raiseError(tr("An element of the file has too many attributes."));
         else if (m_xml.name() == "record"_L1)
             takeRecord({attributes.value("command"_L1).toString(), attributes.value("alias"_L1).toString()});
+    }
+
+    /// Whether a file that is written of the aliases alone says this as well.
+    bool isKept(QXmlStreamReader::TokenType token) const
+    {
+        switch (token) {
+        case QXmlStreamReader::StartElement:
+            return m_depth == 0 ? m_xml.name() == "aliases"_L1 && m_xml.attributes().isEmpty()
+                                : m_depth == 1 && m_xml.name() == "record"_L1 && hasOnlyKnownAttributes();
+        case QXmlStreamReader::Characters:
+            return m_xml.isWhitespace();
+        case QXmlStreamReader::StartDocument:
+        case QXmlStreamReader::EndDocument:
+        case QXmlStreamReader::EndElement:
+            return true;
+        default:
+            return false;
+        }
+    }
+
+    bool hasOnlyKnownAttributes() const
+    {
+        const QXmlStreamAttributes attributes = m_xml.attributes();
+        return std::all_of(attributes.begin(), attributes.end(), [](const QXmlStreamAttribute &attribute) {
+            return attribute.name() == "command"_L1 || attribute.name() == "alias"_L1;
+        });
     }
 
     void takeRecord(const CommandAlias &record)
@@ -98,6 +130,8 @@ private:
     qint64 m_fed = 0;
     qint64 m_fedAtToken = 0; ///< m_fed when the last token was complete
     qint64 m_taken = 0;      ///< characters of all pairs
+    int m_depth = 0;         ///< elements that are open
+    bool m_hasOnlyAliases = true;
 };
 
 /// `text` in upper case without control characters and halves of surrogate pairs: XML has no way to write them, and a
@@ -118,6 +152,25 @@ QString storable(const QString &text)
     return kept.toUpper();
 }
 
+/// Puts a copy of what the file holds beside it, under a name that nothing has yet.
+AliasFile::Written keep(const QString &path, const QByteArray &content)
+{
+    constexpr int mostCopies = 1000;
+    for (int number = 1; number <= mostCopies; ++number) {
+        const QString copy = path + (number == 1 ? u".kept"_s : u".kept%1"_s.arg(number));
+        // One that holds the same already is as good as a new one.
+        const files::WholeBytes there = files::readWhole(copy, largestFile);
+        if (there && there.bytes == content)
+            return {{}, copy};
+        if (QFileInfo::exists(copy))
+            continue;
+        QString error;
+        replaceFile(copy, content, &error);
+        return {error, copy};
+    }
+    return {tr("There are too many copies of it already."), {}};
+}
+
 } // namespace
 
 AliasReading readAliases(QIODevice &source)
@@ -127,11 +180,7 @@ AliasReading readAliases(QIODevice &source)
 
 AliasReading readAliasFile(const QString &path)
 {
-    constexpr qint64 largestFile = 64 * 1024 * 1024;
-    QFile file;
-    if (!files::openRegular(file, path, largestFile).isEmpty())
-        return {{}, tr("Error reading alias file.")};
-    return readAliases(file);
+    return AliasFile().open(path);
 }
 
 QByteArray writtenAliases(const QList<CommandAlias> &aliases)
@@ -167,9 +216,57 @@ QString aliasListing(const QList<CommandAlias> &aliases)
     return text;
 }
 
-bool writeAliasFile(const QString &path, const QList<CommandAlias> &aliases)
+AliasReading AliasFile::open(const QString &path)
 {
-    return replaceFile(path, writtenAliases(aliases));
+    m_path = path;
+    m_known.reset();
+    m_isChosen = false;
+    files::WholeBytes content = files::readWhole(path, largestFile);
+    if (!content)
+        return {{}, tr("Error reading alias file."), 0, false};
+    QBuffer buffer(&content.bytes);
+    buffer.open(QIODevice::ReadOnly);
+    AliasReading reading = readAliases(buffer);
+    if (reading && reading.hasOnlyAliases)
+        m_known = content.bytes;
+    return reading;
+}
+
+void AliasFile::choose(const QString &path)
+{
+    m_path = path;
+    m_known.reset();
+    m_isChosen = true;
+}
+
+QString AliasFile::damage() const
+{
+    if (m_isChosen || !QFileInfo(m_path).isFile())
+        return {};
+    const AliasReading reading = readAliasFile(m_path);
+    if (reading)
+        return {};
+    return reading.line > 0 ? tr("line %1: %2").arg(reading.line).arg(reading.error) : reading.error;
+}
+
+AliasFile::Written AliasFile::write(const QList<CommandAlias> &aliases)
+{
+    const QByteArray text = writtenAliases(aliases);
+    Written written;
+    if (!m_isChosen && QFileInfo(m_path).isFile()) {
+        const files::WholeBytes now = files::readWhole(m_path, largestFile);
+        if (!now)
+            return {now.reason, {}};
+        if (now.bytes != m_known && now.bytes != text)
+            written = keep(m_path, now.bytes);
+    }
+    if (written.error.isEmpty() && !replaceFile(m_path, text, &written.error))
+        return written;
+    if (written.error.isEmpty()) {
+        m_known = text;
+        m_isChosen = false;
+    }
+    return written;
 }
 
 } // namespace ortakit

@@ -4,6 +4,8 @@
 #include <QList>
 #include <QString>
 
+#include <optional>
+
 class QIODevice;
 
 namespace ortakit {
@@ -24,6 +26,11 @@ struct AliasReading
     QList<CommandAlias> aliases;
     /// Empty when all of the file was read; otherwise what the user is told.
     QString error;
+    /// Of the error, from 1; 0 where no line has it.
+    qint64 line = 0;
+    /// Nothing is in the file that writtenAliases() would leave out: elements, attributes and texts of others,
+    /// comments.
+    bool hasOnlyAliases = true;
 
     explicit operator bool() const { return error.isEmpty(); }
 };
@@ -48,7 +55,37 @@ QByteArray writtenAliases(const QList<CommandAlias> &aliases);
 /// aliases stand in a column.
 QString aliasListing(const QList<CommandAlias> &aliases);
 
-/// Writes writtenAliases() to the file at `path`, all of it or nothing; see replaceFile(). False when that failed.
-bool writeAliasFile(const QString &path, const QList<CommandAlias> &aliases);
+/// An alias file that is edited: its aliases are read, and later others are written in their place.
+///
+/// Nothing is written over what was not read. Whatever else the file holds by then, because it is damaged, another
+/// program has written it meanwhile, or it has more in it than aliases, is kept beside as a file of its own, and
+/// nothing is written where that fails.
+class AliasFile
+{
+public:
+    /// Reads the file at `path`.
+    AliasReading open(const QString &path);
+    /// Another file, whose content does not count: the user has chosen to replace it.
+    void choose(const QString &path);
+    const QString &path() const { return m_path; }
+
+    /// Why the file that is there now cannot be read, with the line; empty when it can, or there is none.
+    QString damage() const;
+
+    /// What came of writing.
+    struct Written
+    {
+        QString error; ///< the system's words; empty when it was written
+        QString kept;  ///< the file that keeps what was there before; empty when nothing of it is lost
+    };
+    /// Writes writtenAliases(), all of it or nothing.
+    Written write(const QList<CommandAlias> &aliases);
+
+private:
+    QString m_path;
+    /// What was read whole, or written here, without anything but aliases.
+    std::optional<QByteArray> m_known;
+    bool m_isChosen = false;
+};
 
 } // namespace ortakit

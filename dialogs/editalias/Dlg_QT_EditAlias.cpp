@@ -2,6 +2,7 @@
 
 #include "platform/kernel/CKvSystemServices.h"
 #include "platform/kernel/CKvUtils.h"
+#include "state/CommandLineText.h"
 #include "state/DocumentPrinting.h"
 #include "state/FilePicker.h"
 #include "state/ModuleFolder.h"
@@ -97,9 +98,10 @@ void Dlg_QT_EditAlias::beforeShow()
 {
     setIcons();
     const CKvSystemServices *services = GetKvSystemServices();
-    setAliasFile((services ? services->userSupportFolder() : QString()) + QStringLiteral("alias.xml"));
     m_hasExportFailed = false;
-    const ortakit::AliasReading reading = ortakit::readAliasFile(m_aliasFile);
+    const ortakit::AliasReading reading =
+        m_aliasFile.open((services ? services->userSupportFolder() : QString()) + QStringLiteral("alias.xml"));
+    showAliasFile();
     fillTable(reading.aliases);
     if (!reading)
         reportErrorSoon(reading.error);
@@ -108,7 +110,7 @@ void Dlg_QT_EditAlias::beforeShow()
 void Dlg_QT_EditAlias::afterShow()
 {
     // A state file might hold a text for the label.
-    setAliasFile(m_aliasFile);
+    showAliasFile();
     m_ui->lstAlias->setFocus();
 }
 
@@ -130,10 +132,9 @@ void Dlg_QT_EditAlias::setIcons()
         button->setIcon(CKvUtils::icon(QStringLiteral(":/images"), QString::fromLatin1(name)));
 }
 
-void Dlg_QT_EditAlias::setAliasFile(const QString &path)
+void Dlg_QT_EditAlias::showAliasFile()
 {
-    m_aliasFile = path;
-    m_ui->txAlias->setText(path);
+    m_ui->txAlias->setText(m_aliasFile.path());
 }
 
 void Dlg_QT_EditAlias::fillTable(const QList<ortakit::CommandAlias> &aliases)
@@ -164,9 +165,21 @@ QList<ortakit::CommandAlias> Dlg_QT_EditAlias::tableAliases() const
     return aliases;
 }
 
-bool Dlg_QT_EditAlias::writeTable() const
+bool Dlg_QT_EditAlias::mayWrite()
 {
-    return ortakit::writeAliasFile(m_aliasFile, tableAliases());
+    const QString damage = m_aliasFile.damage();
+    return damage.isEmpty() ||
+           ask(tr("The alias file could not be read whole (%1). Keep it as it is under another name, and write what "
+                  "the table holds in its place?")
+                   .arg(damage));
+}
+
+bool Dlg_QT_EditAlias::writeTable()
+{
+    const ortakit::AliasFile::Written written = m_aliasFile.write(tableAliases());
+    if (!written.kept.isEmpty() && written.error.isEmpty())
+        ortakit::tellOnCommandLine(tr("What %1 held before is in %2.").arg(m_aliasFile.path(), written.kept));
+    return ortakit::tellNotWritten(m_aliasFile.path(), written.error);
 }
 
 void Dlg_QT_EditAlias::AddAlias()
@@ -211,7 +224,7 @@ void Dlg_QT_EditAlias::cleanAlias()
 
 void Dlg_QT_EditAlias::saveAlias()
 {
-    if (!takesOpenEdit())
+    if (!takesOpenEdit() || !mayWrite())
         return;
     if (writeTable())
         inform(tr("The alias file has been saved."), windowTitle());
@@ -228,7 +241,8 @@ void Dlg_QT_EditAlias::exportAlias()
                                                           .start = ortakit::moduleFolder()});
     if (chosen.isEmpty())
         return;
-    setAliasFile(chosen);
+    m_aliasFile.choose(chosen);
+    showAliasFile();
     m_hasExportFailed = !writeTable();
     if (!m_hasExportFailed)
         inform(tr("The alias file has been exported."), windowTitle());
@@ -304,7 +318,7 @@ void Dlg_QT_EditAlias::SelectChanged()
 
 void Dlg_QT_EditAlias::CerrarDialogo()
 {
-    if (!takesOpenEdit())
+    if (!takesOpenEdit() || !mayWrite())
         return;
     // The user's own file fails in silence; one that was chosen for an export has failed before.
     if (!writeTable() && m_hasExportFailed)

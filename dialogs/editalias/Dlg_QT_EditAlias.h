@@ -43,17 +43,19 @@ private:
 
     void connectWidgets();
     void setIcons();
-    void setAliasFile(const QString &path);
+    void showAliasFile();
     void fillTable(const QList<ortakit::CommandAlias> &aliases);
     QString cellText(int row, int column) const;
     QList<ortakit::CommandAlias> tableAliases() const;
-    bool writeTable() const;
+    /// Whether the file may be written: the user is asked about one that could not be read whole.
+    bool mayWrite();
+    bool writeTable();
     bool isAliasOfOther(const QString &text, int row) const;
     bool takesOpenEdit();
     void reportErrorSoon(const QString &text);
 
     std::unique_ptr<Ui::Dlg_QT_EditAlias> m_ui;
-    QString m_aliasFile;
+    ortakit::AliasFile m_aliasFile;
     /// What an alias cell held before it was edited.
     QString m_previousAlias;
     /// The table is changed by the dialog; nothing is checked.

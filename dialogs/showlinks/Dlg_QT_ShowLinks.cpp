@@ -142,6 +142,7 @@ void Dlg_QT_ShowLinks::loadLinks()
 {
     const ortakit::LinkReading reading = ortakit::readLinkFile(linkFile());
     m_encoding = reading.encoding;
+    m_unread = QFileInfo::exists(linkFile()) ? reading.error : QString();
     m_ui->tableUrl->horizontalHeader()->setSortIndicatorShown(false);
     ortakit::setTableRows(*m_ui->tableUrl, int(reading.links.size()), [&reading](int row, int column) {
         return new ortakit::WholeTextItem(reading.links[row][std::size_t(column)]);
@@ -174,6 +175,9 @@ void Dlg_QT_ShowLinks::writeLinks(const QList<int> &rows, const QStringList &rem
     links.reserve(rows.size());
     for (const int row : rows)
         links.append(linkAt(row));
+    // What was not read is not written over.
+    if (!ortakit::tellNotWritten(linkFile(), m_unread))
+        return;
     // What cannot be written leaves the file as it was; the command line tells, and Lisp sees what was meant.
     ortakit::replaceFileOrTell(linkFile(), ortakit::writtenLinks(links, removed, m_encoding));
 }

@@ -65,5 +65,6 @@ private:
     /// The entities of the rows that were removed since the tool was started.
     QStringList m_removed;
     ortakit::LinkEncoding m_encoding = ortakit::LinkEncoding::Utf8;
+    QString m_unread; ///< why the link file that is there could not be read
     bool m_isStarting = true;
 };

@@ -48,6 +48,9 @@ QString change(const QTemporaryDir &folder, const std::function<void(QSettings &
         return reason;
     QSettings settings(copy, QSettings::IniFormat);
     settings.setFallbacksEnabled(false);
+    // Lines that are none of settings would be left out.
+    if (settings.status() == QSettings::FormatError)
+        return QCoreApplication::translate("LispExtension", "it is damaged");
     body(settings);
     settings.sync();
     const WholeBytes written = readWhole(copy, largestSettings);

@@ -95,6 +95,28 @@ TEST_F(EditAlias, FilesThatCannotBeReadAreSaidOverTheDialog)
     EXPECT_EQ(rows(), u"LINE=L"_s) << "what could be read";
 }
 
+TEST_F(EditAlias, WhatCouldNotBeReadWholeIsNotWrittenOverUnasked)
+{
+    const QByteArray damaged = "<aliases>\n<record command='LINE' alias='L'/><record";
+    host.writeFile(u"alias.xml"_s, damaged);
+    for (const auto answer : {QMessageBox::No, QMessageBox::Yes}) {
+        ModalAnswers answers;
+        if (!dialog->isVisible()) {
+            answers.press(QMessageBox::Ok);
+            dialog->show();
+            settle();
+        }
+        answers.press(answer);
+        click("acceptButton");
+        EXPECT_TRUE(answers.shown().last().contains(u"could not be read whole (line 2: Premature end of document.)"_s))
+            << answers.shown().last().toStdString();
+        EXPECT_EQ(dialog->isVisible(), answer == QMessageBox::No);
+        EXPECT_EQ(ortakit::test::FakeHost::readFile(answer == QMessageBox::No ? aliasFile : aliasFile + u".kept"_s),
+                  damaged);
+    }
+    EXPECT_EQ(pairsOf(aliasFile), u"LINE=L"_s);
+}
+
 TEST_F(EditAlias, ConfirmingWritesWhatIsBeingTyped)
 {
     showAliases(u"line=l ARC="_s);

@@ -142,8 +142,70 @@ TEST(AliasFile, FilesThatCannotBeReadOrWritten)
     for (const QString &path :
          {QString(), folder.path(u"missing/alias.xml"_s), folder.path({}), pipe, u"/dev/zero"_s}) {
         EXPECT_EQ(readAliasFile(path).error, u"Error reading alias file."_s) << path.toStdString();
-        EXPECT_FALSE(writeAliasFile(path, {})) << path.toStdString();
+        AliasFile file;
+        file.open(path);
+        EXPECT_NE(file.write({}).error, QString()) << path.toStdString();
     }
+}
+
+TEST(AliasFile, KeepsBesideWhatItWouldNotWrite)
+{
+    const Folder folder;
+    const QString path = folder.path(u"alias.xml"_s);
+    const QByteArray whole = "<aliases><record command='LINE' alias='L'/></aliases>";
+    const struct
+    {
+        const char *name;
+        QByteArray read;
+        QByteArray later; ///< what another program makes of it
+        const char *damage;
+        bool isKept;
+    } rows[] = {
+        {"nothing but aliases", whole, whole, "", false},
+        {"none yet", {}, {}, "", false},
+        {"a comment", "<aliases><!-- mine --></aliases>", {}, "", true},
+        {"an element of others", "<aliases><group><record command='A' alias='B'/></group></aliases>", {}, "", true},
+        {"an attribute of others", "<aliases><record command='A' alias='B' key='1'/></aliases>", {}, "", true},
+        {"a text", "<aliases>mine</aliases>", {}, "", true},
+        {"a document type", "<!DOCTYPE aliases><aliases/>", {}, "", true},
+        {"written by another program", whole, "<aliases><record command='ARC' alias='A'/></aliases>", "", true},
+        {"cut off",
+         "<aliases>\n<record command='LINE' alias='L'/><rec",
+         {},
+         "line 2: Premature end of document.",
+         true},
+        {"in another encoding",
+         "<aliases>\n<record command='\xe4' alias='L'/></aliases>",
+         {},
+         "line 2: Encountered incorrectly encoded content.",
+         true},
+    };
+    for (const auto &row : rows) {
+        SCOPED_TRACE(row.name);
+        QFile::remove(path);
+        QFile::remove(path + u".kept"_s);
+        if (!row.read.isEmpty())
+            folder.writeFile(u"alias.xml"_s, row.read);
+        AliasFile file;
+        file.open(path);
+        const QByteArray before = row.later.isEmpty() ? row.read : row.later;
+        if (!row.later.isEmpty())
+            folder.writeFile(u"alias.xml"_s, row.later);
+        EXPECT_EQ(file.damage().toStdString(), row.damage);
+        const AliasFile::Written written = file.write({{u"line"_s, u"l"_s}});
+        EXPECT_EQ(written.error, QString());
+        EXPECT_EQ(written.kept, row.isKept ? path + u".kept"_s : QString());
+        EXPECT_EQ(Folder::readFile(path + u".kept"_s), row.isKept ? before : QByteArray());
+        EXPECT_EQ(pairs(readAliasFile(path).aliases), u"LINE=L"_s);
+        EXPECT_EQ(file.write({}).kept, QString()) << "it is known now";
+        folder.writeFile(u"alias.xml"_s, "<aliases><!-- another --></aliases>");
+        EXPECT_EQ(file.write({}).kept, path + (row.isKept ? u".kept2"_s : u".kept"_s)) << "none takes another's place";
+        QFile::remove(path + u".kept2"_s);
+    }
+    AliasFile chosen;
+    folder.writeFile(u"alias.xml"_s, "not mine");
+    chosen.choose(path);
+    EXPECT_EQ(chosen.write({}).kept, QString()) << "the user was asked when it was chosen";
 }
 
 } // namespace
