@@ -4,6 +4,8 @@
 #include "state/CommandLineText.h"
 
 #include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
 #include <QSettings>
 
 namespace ortakit {
@@ -15,6 +17,23 @@ QString organisation()
 {
     const QString name = QCoreApplication::applicationName();
     return name.isEmpty() ? QStringLiteral("Ortakit") : name;
+}
+
+const QString application = QStringLiteral("Ortakit");
+
+/// Where the settings are, without reading them.
+QString settingsPath()
+{
+    const QFileInfo other(QSettings(organisation(), application + QStringLiteral(" place")).fileName());
+    return other.dir().filePath(application + u'.' + other.suffix());
+}
+
+/// Settings without a file where what is there is none.
+std::unique_ptr<QSettings> openSettings()
+{
+    if (files::isSettingsFile(settingsPath()))
+        return std::make_unique<QSettings>(organisation(), application);
+    return std::make_unique<QSettings>(QString(), QSettings::IniFormat);
 }
 
 /// A name with slashes is a group within groups, each of which may be a favourite as well. One of nothing else would be
@@ -39,8 +58,7 @@ void addNames(QSettings &settings, const QString &outer, QStringList &names)
 
 } // namespace
 
-FavouriteStore::FavouriteStore(const QString &group)
-    : m_group(group), m_settings(std::make_unique<QSettings>(organisation(), QStringLiteral("Ortakit")))
+FavouriteStore::FavouriteStore(const QString &group) : m_group(group), m_settings(openSettings())
 {
     m_settings->setFallbacksEnabled(false);
     m_settings->beginGroup(group);
@@ -81,7 +99,7 @@ void FavouriteStore::remove(const QString &name)
 /// Takes away what the favourite holds and lets `body` fill it again, in its group.
 void FavouriteStore::change(const QString &name, const std::function<void(QSettings &)> &body)
 {
-    const QString reason = files::changeSettings(m_settings->fileName(), [&](QSettings &settings) {
+    const QString reason = files::changeSettings(settingsPath(), [&](QSettings &settings) {
         settings.beginGroup(m_group);
         settings.beginGroup(groupName(name));
         for (const QString &key : settings.childKeys())
@@ -90,7 +108,7 @@ void FavouriteStore::change(const QString &name, const std::function<void(QSetti
         settings.endGroup();
         settings.endGroup();
     });
-    tellNotWritten(m_settings->fileName(), reason);
+    tellNotWritten(settingsPath(), reason);
     m_settings->sync();
 }
 

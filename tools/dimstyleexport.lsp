@@ -25,14 +25,12 @@
       (strcat count (if (= count "1") " dimension style was" " dimension styles were") " written to " path "."))))
 
 ;; Writes all dimension styles of the drawing. -> T, nil when the file cannot be written.
-(defun dimstyleexport:write (file / handle)
-  (if (setq handle (open file "w"))
-    (progn
-      (foreach name (kora_table_names "DIMSTYLE")
-        (foreach line (dimstyleexport:section (entget (tblobjname "DIMSTYLE" name) '("AcadAnnotative")))
-          (princ (strcat line "\r\n") handle)))
-      (close handle)
-      T)))
+(defun dimstyleexport:write (file)
+  (kora_write_file file
+    '(lambda (handle)
+       (foreach name (kora_table_names "DIMSTYLE")
+         (foreach line (dimstyleexport:section (entget (tblobjname "DIMSTYLE" name) '("AcadAnnotative")))
+           (princ (strcat line "\r\n") handle))))))
 
 ;; -> the lines of a style's section.
 (defun dimstyleexport:section (data / arrows)

@@ -18,21 +18,18 @@
 
 ;; Tells the dialog what the drawing has, by first words as the dialog knows names; the file of the last time stays.
 ;; -> T, nil when the state file cannot be written.
-(defun dimstyleimport:write_state (file / path handle)
+(defun dimstyleimport:write_state (file / path)
   (setq path (kora_state_value (kora_readstate file) "txexport"))
-  (if (setq handle (open file "w"))
-    (progn
-      (if (/= path "") (write-line (strcat "txexport=" path) handle))
-      (dimstyleimport:write_names handle "dimstyle" (kora_table_names "DIMSTYLE"))
-      (dimstyleimport:write_names handle "textstyle" (kora_table_names "STYLE"))
-      (close handle)
-      T)))
+  (kora_write_lines file
+    (append (if (/= path "") (list (strcat "txexport=" path)))
+            (dimstyleimport:name_lines "dimstyle" (kora_table_names "DIMSTYLE"))
+            (dimstyleimport:name_lines "textstyle" (kora_table_names "STYLE"))
+            '(""))))
 
-(defun dimstyleimport:write_names (handle key names / number)
-  (write-line (strcat key "length=" (itoa (length names))) handle)
+(defun dimstyleimport:name_lines (key names / number)
   (setq number 0)
-  (foreach name names
-    (write-line (strcat key (itoa (setq number (1+ number))) "=" (kora_first_word name)) handle)))
+  (cons (strcat key "length=" (itoa (length names)))
+        (mapcar '(lambda (name) (strcat key (itoa (setq number (1+ number))) "=" (kora_first_word name))) names)))
 
 ;; -> the sections of the file whose name begins with one of words; see dimstyleimport:section.
 (defun dimstyleimport:read (path words / handle line sections)

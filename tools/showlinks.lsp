@@ -24,21 +24,22 @@
   (kora_end))
 
 ;; Writes the links of the selected entities in the order of the drawing. -> T, nil when the file cannot be written.
-(defun showlinks:write (links selection / handle data count others)
-  (if (setq handle (open links "w"))
+(defun showlinks:write (links selection / count others)
+  (setq count 0)
+  (if (kora_write_file links 'showlinks:write_each)
     (progn
-      (setq count 0)
-      (foreach entity (reverse (kora_selection_to_list selection))
-        (setq data (entget entity '("PE_URL")))
-        (if (showlinks:url data)
-          (write-line (kora_string_join (list (showlinks:name entity) (showlinks:shown (showlinks:url data))
-                                              (kora_field data 0)
-                                              (vl-string-translate "^" " " (showlinks:space data)))
-                                        "^")
-                      handle)))
-      (close handle)
       (setq numbered (kora_tree (vl-sort others '(lambda (a b) (< (car a) (car b))))))
       T)))
+
+(defun showlinks:write_each (handle / data)
+  (foreach entity (reverse (kora_selection_to_list selection))
+    (setq data (entget entity '("PE_URL")))
+    (if (showlinks:url data)
+      (write-line (kora_string_join (list (showlinks:name entity) (showlinks:shown (showlinks:url data))
+                                          (kora_field data 0)
+                                          (vl-string-translate "^" " " (showlinks:space data)))
+                                    "^")
+                  handle))))
 
 ;; -> how the file names an entity; others are those that have no handle of their own.
 (defun showlinks:name (entity / name)

@@ -64,6 +64,12 @@ QString change(const QTemporaryDir &folder, const std::function<void(QSettings &
 
 } // namespace
 
+bool isSettingsFile(const QString &path)
+{
+    const QFileInfo file(path);
+    return !file.exists() || file.isFile();
+}
+
 QString changeSettings(const QString &path, const std::function<void(QSettings &)> &body)
 {
     const QTemporaryDir folder;

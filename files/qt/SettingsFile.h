@@ -14,4 +14,7 @@ namespace files {
 /// the file stays as it was.
 QString changeSettings(const QString &path, const std::function<void(QSettings &)> &change);
 
+/// Whether settings may be read from there: QSettings would wait for a pipe for ever. True where there is nothing.
+bool isSettingsFile(const QString &path);
+
 } // namespace files

@@ -20,8 +20,10 @@ QString fileIn(const QString &folder)
 
 Preferences Preferences::load(const QString &folder)
 {
-    const QSettings settings(fileIn(folder), QSettings::IniFormat);
     Preferences preferences;
+    if (!files::isSettingsFile(fileIn(folder)))
+        return preferences;
+    const QSettings settings(fileIn(folder), QSettings::IniFormat);
     if (settings.value("style").toString() == "dark"_L1)
         preferences.style = Style::Dark;
     if (settings.value("ground").toString() == "white"_L1)

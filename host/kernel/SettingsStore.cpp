@@ -17,6 +17,8 @@ QString keyOf(const QString &globalName, const QString &localName)
 
 QString SettingsStore::text(const QString &globalName, const QString &localName) const
 {
+    if (!files::isSettingsFile(m_path))
+        return {};
     return QSettings(m_path, QSettings::IniFormat).value(keyOf(globalName, localName)).toString();
 }
 
@@ -25,7 +27,8 @@ bool SettingsStore::setText(const QString &globalName, const QString &localName,
     const QString reason = files::changeSettings(
         m_path, [&](QSettings &settings) { settings.setValue(keyOf(globalName, localName), value); });
     // What was remembered of the file goes.
-    QSettings(m_path, QSettings::IniFormat).sync();
+    if (files::isSettingsFile(m_path))
+        QSettings(m_path, QSettings::IniFormat).sync();
     return reason.isEmpty();
 }
 

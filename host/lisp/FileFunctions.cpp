@@ -1,5 +1,6 @@
 // Files and folders on the disk. What the system refuses gives nil, never an error.
 
+#include "files/FileReplacement.h"
 #include "files/WritableFile.h"
 #include "host/lisp/Arguments.h"
 #include "host/lisp/Builtins.h"
@@ -66,6 +67,22 @@ static Value copyFile(Arguments &args)
         return copyWhole(from, to) ? sizeValue(size) : Value();
     const std::optional<std::string> bytes = readWholeFile(from, std::numeric_limits<std::uintmax_t>::max());
     return bytes && files::appendToFile(to, *bytes).empty() ? sizeValue(bytes->size()) : Value();
+}
+
+// (file-put-lines path lines) -> T when the file holds the lines, a line feed between each two of them; nil when it
+// could not be written, and is as it was. What people gave the file it keeps: links, other names, attributes.
+static Value putLines(Arguments &args)
+{
+    std::string text;
+    const char *between = "";
+    for (const Value &line : ListItems(args.list(1))) {
+        if (!line.isString())
+            args.badType(1, "stringp");
+        args.interpreter().checkStringLength(text.size() + line.asString().size() + 1);
+        (text += between) += line.asString();
+        between = "\n";
+    }
+    return args.boolean(files::replaceFile(toPath(args.string(0)), text).empty());
 }
 
 // (vl-file-rename from to) -> T. A target that exists: nil.
@@ -174,6 +191,7 @@ static Value directoryFiles(Arguments &args)
 static constexpr NativeRow rows[] = {
     {"vl-file-delete", deleteFile, Arity::exactly(1)},
     {"vl-file-copy", copyFile, Arity::between(2, 3)},
+    {"file-put-lines", putLines, Arity::exactly(2)},
     {"vl-file-rename", renameFile, Arity::exactly(2)},
     {"vl-file-size", fileSize, Arity::exactly(1)},
     {"vl-file-directory-p", isDirectory, Arity::exactly(1)},

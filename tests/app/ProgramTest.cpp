@@ -33,6 +33,7 @@ struct ProgramTest : testing::Test
         write(u"erase.txt"_s, "lisp (entdel (handent \"2A\"))\nexpect-count LINE 1\n");
         write(u"fails.txt"_s, "expect-count LINE 7\n");
         write(u"looks.txt"_s, "expect-count LINE 2\n");
+        write(u"sees.txt"_s, "expect-modified no\n");
         write(u"asks.txt"_s, "lisp (getpoint \"Where: \")\n");
         write(u"bad.txt"_s, "enter\nnonsense\n");
         write(u"good.lsp"_s, "(princ (strcat \"sum \" (itoa (+ 1 2)) \" größe\\n\"))(princ)\n");
@@ -170,9 +171,9 @@ TEST_F(ProgramTest, EndsWithTheStatusItsManualNames)
         {u"run erase.txt a.dxf broken.dxf"_s, 3, u"broken.dxf: not read\n"_s, u"broken.dxf"_s},
 
         {u"convert deep.dxf deep.png"_s, 5, {}, u"deep.dxf: cut short: there is more than is drawn in one go\n"_s},
-        {u"run looks.txt deep.dxf --png --out deep"_s, 5, u"deep.dxf: done, deep/deep.png\n"_s,
+        {u"run sees.txt deep.dxf --png --out deep"_s, 5, u"deep.dxf: done, deep/deep.png\n"_s,
          u"deep.png: cut short"_s},
-        {u"run looks.txt a.dxf deep.dxf --png --out some"_s, 3, {}, u"deep.png: cut short"_s},
+        {u"run sees.txt a.dxf deep.dxf --png --out some"_s, 3, {}, u"deep.png: cut short"_s},
 
         {u"lisp none.lsp"_s, 4, {}, u"none.lsp"_s},
         {u"lisp good.lsp --drawing none.dxf"_s, 4, {}, u"none.dxf"_s},

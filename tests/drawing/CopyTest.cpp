@@ -191,8 +191,10 @@ TEST(Copy, LongChainsOfBlocksAreCopiedWhole)
     QByteArray chain;
     constexpr int length = 1000;
     for (int i = 0; i < length; ++i)
-        chain += "0 BLOCK\n8 0\n2 B" + QByteArray::number(i) + "\n10 0\n20 0\n0 INSERT\n2 B" +
-                 QByteArray::number(i + 1) + "\n10 0\n20 0\n0 ENDBLK\n";
+        chain += "0 BLOCK\n8 0\n2 B" + QByteArray::number(i) + "\n10 0\n20 0\n0 INSERT\n8 0\n2 B" +
+                 QByteArray::number(i + 1) + "\n10 0\n20 0\n30 0\n0 ENDBLK\n";
+    chain += "0 BLOCK\n8 0\n2 B" + QByteArray::number(length) +
+             "\n10 0\n20 0\n0 LINE\n8 0\n10 0\n20 0\n30 0\n11 1\n21 1\n31 0\n0 ENDBLK\n";
     const auto source = sample("AC1009", "0 INSERT\n2 B0\n10 0\n20 0", chain);
     const auto target = sample("AC1009");
     EXPECT_TRUE(copyEntities(*source, source->entities().all(), *target));

@@ -177,7 +177,7 @@ TEST(AliasFile, KeepsBesideWhatItWouldNotWrite)
         {"in another encoding",
          "<aliases>\n<record command='\xe4' alias='L'/></aliases>",
          {},
-         "line 2: Encountered incorrectly encoded content.",
+         "line 1: Encountered incorrectly encoded content.",
          true},
     };
     for (const auto &row : rows) {

@@ -43,7 +43,7 @@ TEST_F(SelectBlockTool, WhatTheDrawingHasStaysAndIsNamed)
          " (entmake '((0 . \"LAYER\") (2 . \"LAMPS\") (70 . 0) (62 . 6) (6 . \"Continuous\")))"
          " (entmake '((0 . \"STYLE\") (2 . \"LABELS\") (70 . 0) (40 . 0.0) (41 . 1.0) (50 . 0.0) (71 . 0) (42 . 0.2)"
          " (3 . \"txt\") (4 . \"\"))))",
-         "stays as it is: layer LAMPS, text style LABELS.", "(= 6 (kora_field (tblsearch \"LAYER\" \"LAMPS\") 62))"},
+         "stays as it is: text style LABELS, layer LAMPS.", "(= 6 (kora_field (tblsearch \"LAYER\" \"LAMPS\") 62))"},
         {"the same look", "(entmake '((0 . \"LAYER\") (2 . \"LABELS\") (70 . 4) (62 . 5) (6 . \"CONTINUOUS\")))", "",
          "(= 4 (logand 4 (kora_field (tblsearch \"LAYER\" \"LABELS\") 70)))"},
         {"the block itself",

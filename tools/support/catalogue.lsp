@@ -14,14 +14,12 @@
 ;;; are named kora:..., and variables named so are left out.
 
 ;; (kora_write_catalogue path) -> T, nil when the file cannot be written.
-(defun kora_write_catalogue (kora:path / kora:handle kora:line)
-  (if (setq kora:handle (open kora:path "w"))
-    (progn
-      (foreach kora:symbol (vl-sort (atoms-family 0) 'kora:symbol_before)
-        (if (setq kora:line (kora:symbol_line (vl-symbol-name kora:symbol) (vl-symbol-value kora:symbol)))
-          (write-line kora:line kora:handle)))
-      (close kora:handle)
-      T)))
+(defun kora_write_catalogue (kora:catalogue_path)
+  (kora_write_file kora:catalogue_path
+    '(lambda (kora:file / kora:line)
+       (foreach kora:symbol (vl-sort (atoms-family 0) 'kora:symbol_before)
+         (if (setq kora:line (kora:symbol_line (vl-symbol-name kora:symbol) (vl-symbol-value kora:symbol)))
+           (write-line kora:line kora:file))))))
 
 (defun kora:symbol_before (first second)
   (< (vl-symbol-name first) (vl-symbol-name second)))

@@ -21,9 +21,14 @@
   (vl-file-delete copy)
   lines)
 
-;; (kora_write_lines path lines) -> T; nil when the file cannot be written. It is then what it was before: the lines are
-;; written beside it, read back and put in its place.
-(defun kora_write_lines (path lines / beside old done)
+;; (kora_write_lines path lines) -> T; nil when the file cannot be written. It is then what it was before.
+(defun kora_write_lines (path lines)
+  (if (= (type file-put-lines) 'SUBR)
+    (file-put-lines path lines)
+    (kora:put_lines path lines)))
+
+;; The same for hosts without such a function: the lines are written beside the file, read back and put in its place.
+(defun kora:put_lines (path lines / beside old done)
   (setq beside (vl-filename-mktemp path))
   (if (and (or (null (vl-file-size path)) (kora:may_write path))
            ;; The copy hands on who may read and write the file.
@@ -52,6 +57,18 @@
       (setq written (vl-catch-all-apply 'kora:write_each (list lines handle))
             closed  (vl-catch-all-apply 'close (list handle)))
       (not (or (vl-catch-all-error-p written) (vl-catch-all-error-p closed))))))
+
+;; (kora_write_file path writer) -> T when writer, a function of the open file, has written it; nil after a message when
+;; it cannot be written, and nothing of it is left then. The names are the tools' own: writers may tell the values of others.
+(defun kora_write_file (kora:path kora:writer / kora:handle kora:written kora:closed)
+  (if (setq kora:handle (open kora:path "w"))
+    (progn
+      (setq kora:written (vl-catch-all-apply kora:writer (list kora:handle))
+            kora:closed  (vl-catch-all-apply 'close (list kora:handle))
+            kora:written (if (vl-catch-all-error-p kora:written) kora:written kora:closed))
+      (cond ((null (vl-catch-all-error-p kora:written)) T)
+            (T (vl-file-delete kora:path)
+               (kora_refuse (vl-catch-all-error-message kora:written)))))))
 
 (defun kora:write_each (lines handle)
   (while (cdr lines)

@@ -46,13 +46,11 @@
 ;; expression that sets it, with the word "dangerous" in a comment where that holds; one that cannot be set is a comment
 ;; with the word "read-only", which scripts pass over. The comment is within the expression, because a script goes on as a
 ;; command behind one. -> T, nil when the file cannot be written.
-(defun kora_write_variables (path / handle)
-  (if (setq handle (open path "w"))
-    (progn
-      (foreach name (vl-sort (append kora:told_variables kora:risky_variables kora:plain_variables) '<)
-        (if (getvar name) (write-line (kora:variable_line name (getvar name)) handle)))
-      (close handle)
-      T)))
+(defun kora_write_variables (path)
+  (kora_write_file path
+    '(lambda (handle)
+       (foreach name (vl-sort (append kora:told_variables kora:risky_variables kora:plain_variables) '<)
+         (if (getvar name) (write-line (kora:variable_line name (getvar name)) handle))))))
 
 (defun kora:variable_line (name value / text)
   (setq text (strcat "(setvar \"" name "\" " (if (= (type value) 'LIST) "'" "") (kora:exact_text value)))
