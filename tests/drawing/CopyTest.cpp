@@ -201,7 +201,7 @@ TEST(Copy, LongChainsOfBlocksAreCopiedWhole)
     EXPECT_TRUE(isValid(target->blocks().find(u"B%1"_s.arg(length - 1))));
     EXPECT_EQ(target->children(target->blocks().find(u"B700"_s)).size(), 1U);
     // A second time all blocks are compared with those that are there.
-    EXPECT_TRUE(copyBlock(*source, source->blocks().find(u"B0"_s), *target).kept.empty());
+    EXPECT_TRUE(copyEntities(*source, source->entities().all(), *target).kept.empty());
 }
 
 TEST(Copy, WhatRefersToItselfIsCopiedOnce)
