@@ -128,7 +128,17 @@ struct PointMark
     bool isDot = false; ///< whatever the settings say: points that dimensions are measured from
 };
 
-struct DisplayItem;
+struct Reference;
+
+using Shape =
+    std::variant<Stroke, Fill, Segments, Endless, PointMark, std::unique_ptr<TextRun>, std::unique_ptr<Reference>>;
+
+struct DisplayItem
+{
+    Style style{};
+    Shape shape{};
+    bool isMaskFrame = false; ///< seen as the drawing's setting for the frames of masks says
+};
 
 /// A block or space seen through a map, once or as an array.
 struct Reference
@@ -144,16 +154,6 @@ struct Reference
     std::vector<DisplayItem> beside{}; ///< shown with every cell: attributes, where those of the first cell are
     Box besideBox{};
     bool isViewport = false; ///< by-block properties and layer 0 do not come from it
-};
-
-using Shape =
-    std::variant<Stroke, Fill, Segments, Endless, PointMark, std::unique_ptr<TextRun>, std::unique_ptr<Reference>>;
-
-struct DisplayItem
-{
-    Style style{};
-    Shape shape{};
-    bool isMaskFrame = false; ///< seen as the drawing's setting for the frames of masks says
 };
 
 /// All that one record of a drawing shows.
