@@ -79,7 +79,8 @@ void showPlainTexts(QWidget &window)
     for (QWidget *widget : window.findChildren<QWidget *>()) {
         widget->installEventFilter(toolTips);
         auto *view = qobject_cast<QAbstractItemView *>(widget);
-        if (view && view->itemDelegate() && typeid(*view->itemDelegate()) == typeid(QStyledItemDelegate))
+        const QAbstractItemDelegate *delegate = view ? view->itemDelegate() : nullptr;
+        if (delegate && typeid(*delegate) == typeid(QStyledItemDelegate))
             view->setItemDelegate(new VisibleTextDelegate(view));
     }
 }

@@ -69,7 +69,8 @@ void MainWindow::buildFileMenu()
     for (const auto &[text, extension] :
          {std::pair(tr("&PNG picture..."), u"png"_s), std::pair(tr("&SVG drawing..."), u"svg"_s),
           std::pair(tr("P&DF page..."), u"pdf"_s)})
-        addAction(pictures, text, {}, WhenBusy::Disabled, withDocument([this, extension](kernel::Document &active) {
+        addAction(pictures, text, {}, WhenBusy::Disabled,
+                  withDocument([this, extension = extension](kernel::Document &active) {
                       m_files.exportPicture(active, extension);
                   }));
     menu.addSeparator();

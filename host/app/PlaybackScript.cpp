@@ -255,11 +255,17 @@ PlaybackScript parsePlayback(const QString &text)
                 continue;
             first = number;
         }
-        if (line.endsWith(" \\"_L1)) {
-            pending += line.chopped(1).toString();
+        // Of a line that is nothing but its backslash, the blank is the one before the line end above.
+        const bool isLoneBackslash = line == "\\"_L1 && !pending.isEmpty();
+        if (line.endsWith(" \\"_L1) || isLoneBackslash) {
+            QStringView kept = line.chopped(1);
+            // Several are as one: what is left of them would go on again when it is read by itself.
+            while (kept.trimmed().endsWith(" \\"_L1))
+                kept = kept.trimmed().chopped(1);
+            pending += kept.toString();
             continue;
         }
-        readLine(script, first, pending + line.toString());
+        readLine(script, first, (pending + line.toString()).trimmed());
         pending.clear();
     }
     if (!pending.isEmpty())

@@ -25,6 +25,14 @@ bool isOf(const FieldList &fields, std::initializer_list<QStringView> types)
     return std::any_of(types.begin(), types.end(), [&](QStringView candidate) { return type == candidate; });
 }
 
+/// Parts of other entities and the frame of a block. One that stands by itself is damage; a copy would end, or become a
+/// part of, what happens to stand before it.
+bool isPart(QByteArrayView type)
+{
+    const QByteArray name = type.toByteArray().toUpper();
+    return name == "VERTEX" || name == "ATTRIB" || name == "SEQEND" || name == "BLOCK" || name == "ENDBLK";
+}
+
 /// DIMENSION, ARC_DIMENSION and their kin.
 bool isDimension(const FieldList &fields)
 {
@@ -374,7 +382,7 @@ RecordId DrawingCopier::createEarlyForms(RecordId entity, const FieldList &field
 
 RecordId DrawingCopier::copyOneEntity(RecordId entity, RecordId block, Space space)
 {
-    if (!m_source.isAlive(entity) || m_source.kind(entity) != RecordKind::Entity) {
+    if (!m_source.isAlive(entity) || m_source.kind(entity) != RecordKind::Entity || isPart(m_source.typeName(entity))) {
         ++m_skipped;
         return noRecord;
     }

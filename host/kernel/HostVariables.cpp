@@ -1,5 +1,6 @@
 #include "host/kernel/HostVariables.h"
 
+#include "files/TemporaryFolder.h"
 #include "host/drawing/Blocks.h"
 #include "host/drawing/DateText.h"
 #include "host/drawing/Dictionaries.h"
@@ -329,7 +330,8 @@ std::vector<HostVariable> stateVariables()
         computed("ROAMABLEROOTPREFIX", logFilePath),
         computed("SAVENAME", [](const Document &document) -> VariableValue { return document.path(); }),
         computed("SCREENSIZE", screenSize),
-        computed("TEMPPREFIX", [](const Document &) { return folderOf(QDir::tempPath()); }),
+        computed("TEMPPREFIX",
+                 [](const Document &) { return folderOf(QString::fromStdString(files::temporaryFolder().string())); }),
         {"READPATHS", Computed, ReadWrite, text(""), 0.0, 0.0, 0,
          [](const Document &document) -> VariableValue {
              return document.session().trustedFolders().named(TrustedFolders::List::Read);

@@ -1,5 +1,6 @@
 // Parts of file names. "/" and "\" both separate folders, whatever the system.
 
+#include "files/TemporaryFolder.h"
 #include "host/lisp/Arguments.h"
 #include "host/lisp/Builtins.h"
 #include "host/lisp/Interpreter.h"
@@ -55,26 +56,22 @@ static Value splitName(Arguments &args)
                         Value::string(std::string(parts.extension))});
 }
 
-// (vl-filename-mktemp [pattern [folder [extension]]]) -> a path that no file has yet. The pattern gives folder, base
-// and extension that are not given by themselves.
+// (vl-filename-mktemp [pattern [folder [extension]]]) -> a path at which nothing is, and that nobody can guess; nil
+// when there is none to be had. The pattern gives folder, base and extension that are not given by themselves; where
+// nothing gives a folder, it is that of this process's temporary files.
 static Value temporaryName(Arguments &args)
 {
     const std::string pattern = args.stringOr(0, "$VL~~");
     const NameParts parts = split(pattern);
-    std::error_code error;
     std::string folder = args.stringOr(1, parts.folder);
     if (folder.empty())
-        folder = fromPath(std::filesystem::temp_directory_path(error));
-    if (!folder.empty() && folder.back() != '/' && folder.back() != '\\')
+        folder = fromPath(files::temporaryFolder());
+    if (folder.empty())
+        return {};
+    if (folder.back() != '/' && folder.back() != '\\')
         folder.push_back('/');
-    const std::string end = args.stringOr(2, parts.extension);
-    static constexpr int mostTries = 100'000;
-    for (int number = 1; number <= mostTries; ++number) {
-        std::string path = folder + std::string(parts.base) + std::to_string(number) + end;
-        if (!std::filesystem::exists(toPath(path), error))
-            return Value::string(std::move(path));
-    }
-    return {};
+    const std::filesystem::path path = files::unusedPath(toPath(folder), parts.base, args.stringOr(2, parts.extension));
+    return path.empty() ? Value() : Value::string(folder + fromPath(path.filename()));
 }
 
 static constexpr NativeRow rows[] = {

@@ -29,6 +29,8 @@ TEST(PlaybackScript, ReadsLines)
         {"handle with a point", u"pickhandle 2F 1,2"_s, Verb::PickHandle, {u"2F"_s, u"1,2"_s}},
         {"handle alone", u"pickhandle 2f"_s, Verb::PickHandle, {u"2f"_s}},
         {"goes on", u"lisp (list 1 \\\n  2 \\\n 3)"_s, Verb::Lisp, {u"(list 1 2 3)"_s}},
+        {"goes on with nothing", u"lisp (list 1)  \\\n\\\n\n"_s, Verb::Lisp, {u"(list 1)"_s}},
+        {"goes on with several backslashes", u"lisp (list 1 \\ \\\n2)"_s, Verb::Lisp, {u"(list 1 2)"_s}},
         {"non-ASCII", u"message \"größer als 3 µm\" Ja"_s, Verb::Message, {u"größer als 3 µm"_s, u"Ja"_s}},
     };
     for (const auto &[name, text, verb, words] : rows) {

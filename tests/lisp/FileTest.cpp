@@ -195,6 +195,8 @@ TEST_F(Files, Names)
         {"(fnsplitl \"a/b.c\")", "(\"a/\" \"b\" \".c\")"},
         {"(findfile (vl-filename-mktemp \"t.tmp\" dir))", "nil"},
         {"(vl-filename-extension (vl-filename-mktemp \"t.tmp\" dir))", "\".tmp\""},
+        {"(equal (vl-filename-mktemp \"t.tmp\") (vl-filename-mktemp \"t.tmp\"))", "nil"},
+        {"(vl-file-directory-p (vl-filename-directory (vl-filename-mktemp)))", "T"},
     });
 }
 
