@@ -101,6 +101,24 @@ TEST_F(SaveTest, FailuresNameFileAndReason)
     expectFailure(u"/dev/full"_s, u"Not a regular file"_s);
 }
 
+TEST_F(SaveTest, WhatWouldNotOpenTheSameAgainIsNotSaved)
+{
+    const std::pair<const char *, QString> rows[] = {
+        {"0 EOF", u"could not be opened again"_s},
+        {"0 ENDSEC", u"could not be opened"_s},
+        {"0 SECTION|2 ENTITIES", u"could not be opened again"_s},
+    };
+    for (const auto &[fields, reason] : rows) {
+        write(path(u"a.dxf"_s), "old");
+        const auto drawing = changed();
+        drawing->insert(noRecord, drawing->sectionRecord(Section::Entities), RecordKind::Entity, fieldsOf(fields));
+        const SaveResult result = save(*drawing, path(u"a.dxf"_s));
+        EXPECT_TRUE(result.error.contains(reason)) << fields << ": " << result.error.toStdString();
+        EXPECT_EQ(contents(path(u"a.dxf"_s)), "old") << fields;
+        EXPECT_EQ(files(), QStringList{u"a.dxf"_s}) << fields;
+    }
+}
+
 /// The superuser may write everywhere: for its life such a process is an ordinary user.
 class SomebodyElse
 {
