@@ -54,6 +54,9 @@ QString whyNot(const Drawing &drawing, QByteArrayView bytes)
 {
     if (!isSame(drawing, bytes))
         return u"what was written does not read back the same"_s;
+    // These bytes were opened once.
+    if (drawing.revision() == 0)
+        return {};
     // Only looked at as long as the bytes are there.
     const ReadResult read = Drawing::fromBytes(QByteArray::fromRawData(bytes.data(), bytes.size()));
     if (!read)
