@@ -34,6 +34,10 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
     add_compile_options(-Wno-restrict -Wno-maybe-uninitialized -Wno-stringop-overflow -Wno-array-bounds
                         -Wno-dangling-pointer -Wno-free-nonheap-object -fpch-preprocess)
 endif()
+if(CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
+    # Part of the language since C++14, and off unless asked for before Clang 19.
+    add_compile_options(-fsized-deallocation)
+endif()
 add_compile_definitions(QT_NO_CAST_FROM_ASCII QT_NO_FOREACH)
 
 if(ORTAKIT_SANITIZE)

@@ -186,6 +186,26 @@ TEST(Copy, WhatAnEarlyVersionLacksIsConvertedOrCounted)
     }
 }
 
+// Behind an insert or inside a block they would be its end, or a part of it.
+TEST(Copy, PartsThatStandAloneAreLeftOut)
+{
+    for (const char *part : {"SEQEND", "VERTEX", "ATTRIB", "BLOCK", "endblk"}) {
+        SCOPED_TRACE(part);
+        const auto source = sample(
+            "AC1009", "0 INSERT\n2 B\n10 0\n20 0\n0 LINE\n10 0\n20 0\n11 1\n21 0\n0 " + QByteArray(part) + "\n8 0",
+            "0 BLOCK\n2 B\n10 0\n20 0\n0 ENDBLK");
+        const auto target = sample("AC1009");
+        ASSERT_EQ(source->entities().all().size(), 3U);
+        EXPECT_EQ(copyEntities(*source, {source->entities().all()[0], source->entities().all()[2]}, *target).skipped,
+                  1);
+        EXPECT_EQ(insertAsBlock(*source, *target, u"Whole"_s).skipped, 1);
+        const ReadResult again = Drawing::fromBytes(target->toBytes());
+        ASSERT_TRUE(again) << again.error.text.toStdString();
+        EXPECT_EQ(again.drawing->entities().all().size(), 1U);
+        EXPECT_EQ(again.drawing->children(again.drawing->blocks().find(u"Whole")).size(), 2U);
+    }
+}
+
 TEST(Copy, LongChainsOfBlocksAreCopiedWhole)
 {
     QByteArray chain;

@@ -1,8 +1,10 @@
+#include "files/TemporaryFolder.h"
 #include "tests/lisp/LispBench.h"
 
 #include <filesystem>
 #include <fstream>
 #include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 using namespace host::lisp;
@@ -18,9 +20,7 @@ class Files : public testing::Test
 protected:
     void SetUp() override
     {
-        const std::string name = testing::UnitTest::GetInstance()->current_test_info()->name();
-        m_folder = fs::temp_directory_path() / ("lisp-files-" + name + "-" + std::to_string(::getpid()));
-        fs::remove_all(m_folder);
+        m_folder = files::unusedPath(files::temporaryFolder(), "lisp-files-", {});
         fs::create_directories(m_folder);
         bench.interpreter.setVariable("dir", Value::string(m_folder.string() + "/"));
         bench("(defun at (name) (strcat dir name))");
@@ -193,11 +193,34 @@ TEST_F(Files, Names)
         {"(list (vl-filename-extension \"a/b.lsp\") (vl-filename-extension \"a.b/c\") (vl-filename-extension \".x\"))",
          "(\".lsp\" nil nil)"},
         {"(fnsplitl \"a/b.c\")", "(\"a/\" \"b\" \".c\")"},
-        {"(findfile (vl-filename-mktemp \"t.tmp\" dir))", "nil"},
-        {"(vl-filename-extension (vl-filename-mktemp \"t.tmp\" dir))", "\".tmp\""},
-        {"(equal (vl-filename-mktemp \"t.tmp\") (vl-filename-mktemp \"t.tmp\"))", "nil"},
-        {"(vl-file-directory-p (vl-filename-directory (vl-filename-mktemp)))", "T"},
     });
+}
+
+TEST_F(Files, TemporaryNames)
+{
+    check({
+        {"(defun parts (path) (list (vl-filename-directory path) (substr (vl-filename-base path) 1 1)"
+         " (vl-filename-extension path) (> (strlen (vl-filename-base path)) 10) (findfile path)))",
+         "PARTS"},
+        {"(equal (parts (vl-filename-mktemp \"t.tmp\" dir)) (list (vl-string-right-trim \"/\" dir) \"t\" \".tmp\" T "
+         "nil))",
+         "T"},
+        {"(equal (parts (vl-filename-mktemp (at \"t.tmp\"))) (parts (vl-filename-mktemp (at \"t\") nil \".tmp\")))",
+         "T"},
+        {"(= (vl-filename-mktemp (at \"t.tmp\")) (vl-filename-mktemp (at \"t.tmp\")))", "nil"},
+        {"(setq own (vl-filename-directory (vl-filename-mktemp)) f (open (strcat own \"/a\") \"w\")) (close f)", "nil"},
+        {"(= own (vl-filename-directory (vl-filename-mktemp \"b.tmp\")) (vl-filename-directory (vl-filename-mktemp)))",
+         "T"},
+    });
+    const fs::path own = files::temporaryFolder();
+    EXPECT_EQ(bench("own"), '"' + own.string() + '"');
+    EXPECT_EQ(fs::status(own).permissions(), fs::perms::owner_all);
+    // The folder is its maker's: it outlasts a child that ends.
+    if (const pid_t child = fork(); child == 0)
+        std::exit(0);
+    else
+        waitpid(child, nullptr, 0);
+    EXPECT_TRUE(fs::exists(own / "a"));
 }
 
 TEST_F(Files, EnvironmentStaysInTheEngine)

@@ -7,7 +7,7 @@
 (defun kora_file_lines (path / copy handle line lines)
   ;; In a copy with one more letter the last line is there whether the file ends in a line feed or not.
   (setq copy (vl-filename-mktemp "kora.tmp"))
-  (if (setq handle (open copy "w")) (close handle))
+  (if (and copy (setq handle (open copy "w"))) (close handle))
   (if (and handle (vl-file-size path) (vl-file-copy path copy T))
     (progn
       (setq handle (open copy "a"))
@@ -18,7 +18,7 @@
       (close handle)
       (setq line (car lines)
             lines (reverse (cons (substr line 1 (1- (strlen line))) (cdr lines))))))
-  (vl-file-delete copy)
+  (if copy (vl-file-delete copy))
   lines)
 
 ;; (kora_write_lines path lines) -> T; nil when the file cannot be written. It is then what it was before.
