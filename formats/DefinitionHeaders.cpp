@@ -11,6 +11,10 @@ bool DefinitionHeaderReader::next()
 {
     while (m_lines.next()) {
         if (m_lines.line().startsWith('*')) {
+            if (++m_count > mostHeaders) {
+                m_diagnostics.append({m_lines.number(), HeaderOddity::TooMany, {}});
+                return false;
+            }
             m_header = m_lines.line().sliced(1);
             noteOddities();
             return true;

@@ -14,6 +14,7 @@ enum class HeaderOddity
 {
     TooFewFields,
     NoName,
+    TooMany, ///< of the listing: no more headers are listed from here on
 };
 
 /// An oddity and where it was met.
@@ -25,6 +26,9 @@ struct HeaderDiagnostic
 
     bool operator==(const HeaderDiagnostic &) const = default;
 };
+
+/// The most headers that are listed: large fonts have some ten thousand.
+inline constexpr qsizetype mostHeaders = 200'000;
 
 /// Goes from header to header of a text. Costs a pass over the text.
 class DefinitionHeaderReader
@@ -48,6 +52,7 @@ private:
     LineReader m_lines;
     qsizetype m_fieldCount;
     qsizetype m_nameField;
+    qsizetype m_count = 0;
     QByteArrayView m_header; ///< without its "*"
     QList<HeaderDiagnostic> m_diagnostics;
 };

@@ -144,7 +144,7 @@ bool DrawingCanvas::abandonBox()
 view::RenderReport DrawingCanvas::report()
 {
     view::RenderReport report = m_scene.report(space());
-    report.isCutShort = m_isCutShort;
+    report.isCutShort |= m_isCutShort;
     return report;
 }
 

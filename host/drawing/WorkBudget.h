@@ -45,7 +45,7 @@ private:
 // What is granted. Drawings of a million entities, each block of them shown some ten times, stay well below.
 inline constexpr std::int64_t displayWork = 20'000'000; ///< pieces kept of one drawing beyond its own points
 inline constexpr std::int64_t pictureWork = 8'000'000;  ///< of one picture in pixels
-inline constexpr std::int64_t vectorWork = 6'000'000;   ///< of one file of lines; a unit is some fifty bytes there
+inline constexpr std::int64_t vectorWork = 2'000'000;   ///< of one file of lines; a unit is some fifty bytes there
 inline constexpr std::int64_t pickWork = 4'000'000;     ///< of one pick, where nothing is painted
 inline constexpr std::int64_t measureWork = 20'000'000; ///< of boxes through blocks, until the drawing changes
 inline constexpr std::int64_t outlineWork = 2'000'000;  ///< of outlines through blocks; of a space, some more an entity

@@ -42,7 +42,7 @@ bool addPattern(BuildContext &context, HatchData &hatch, const Matrix &ocs)
 {
     HatchLines lines = hatchLines(hatch, mostPieces, context.work);
     if (lines.isTooDense) {
-        context.display.isSimplified = true;
+        context.display.isCutShort = true;
         addArea(context, hatch, ocs, FillKind::Dense);
         return true;
     }

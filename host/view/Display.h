@@ -168,6 +168,7 @@ struct RecordDisplay
     bool isSkipped = false;    ///< could not be drawn
     bool isExternal = false;   ///< shows another drawing, which is not looked at
     bool isSimplified = false; ///< drawn, but not all that the record says
+    bool isCutShort = false;   ///< simplified because there was too much to draw
     bool isHidden = false;     ///< says that it is not to be seen
 };
 

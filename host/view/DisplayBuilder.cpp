@@ -136,7 +136,7 @@ drawing::Flatness BuildContext::flatness(const drawing::Flatness &finest, std::s
     const auto own = static_cast<std::int64_t>(ownPoints);
     drawing::Flatness flatness = finest;
     flatness.maximumPieces = static_cast<int>(std::clamp<std::int64_t>(work.left() + own, 1, finest.maximumPieces));
-    display.isSimplified |= flatness.maximumPieces < finest.maximumPieces;
+    display.isCutShort |= flatness.maximumPieces < finest.maximumPieces;
     return flatness;
 }
 
@@ -183,8 +183,8 @@ RecordDisplay buildDisplay(const drawing::Drawing &drawing, Scene &scene, drawin
     context.isInBlock = isValid(parent) && drawing.kind(parent) == drawing::RecordKind::Block;
     display.isSkipped = !type->build(context, tags);
     display.work = before - work.left();
-    display.isSimplified |= work.refusals() > refusals;
-    display.isSimplified = !display.isSkipped && (type->isSimplified || display.isSimplified);
+    display.isCutShort |= work.refusals() > refusals;
+    display.isSimplified = !display.isSkipped && (type->isSimplified || display.isSimplified || display.isCutShort);
     for (const DisplayItem &item : display.items) {
         display.isEndless |= std::holds_alternative<Endless>(item.shape);
         display.hasReferences |= std::holds_alternative<std::unique_ptr<Reference>>(item.shape);

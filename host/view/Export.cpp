@@ -64,7 +64,7 @@ public:
     ExportResult result(const PaintResult &painted, const QString &path, const QByteArray &bytes)
     {
         RenderReport report = m_scene.report(m_block);
-        report.isCutShort = painted.isCutShort;
+        report.isCutShort |= painted.isCutShort;
         return {.error = writeFile(path, bytes), .report = report};
     }
 

@@ -388,6 +388,7 @@ bool Scene::lacksPatternShapes(const RecordDisplay &record) const
 void Scene::countInto(RenderReport &report, const BlockDisplay &block) const
 {
     for (const RecordDisplay &record : block.records) {
+        report.isCutShort |= record.isCutShort && !record.isHidden;
         const QString type = record.isExternal ? u"XREF"_s : QString::fromLatin1(m_drawing.typeName(record.record));
         if (record.isSkipped)
             ++report.skipped[type];

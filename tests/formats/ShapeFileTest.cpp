@@ -26,6 +26,9 @@ TEST(ShapeFile, ListsNumbersAndNamesAndSaysWhatWasOdd)
     EXPECT_EQ(listing.diagnostics, (QList<HeaderDiagnostic>{{6, HeaderOddity::NoName, u"*0000A,9,"_s},
                                                             {8, HeaderOddity::TooFewFields, u"*00041,33"_s}}));
     EXPECT_FALSE(readShapeFile(folder.path(u"missing.shp"_s)).error.isEmpty());
+    const ShapeListing stars = listShapes(QByteArray("*1,2,A\n").repeated(mostHeaders + 2));
+    EXPECT_EQ(stars.definitions.size(), mostHeaders);
+    EXPECT_EQ(stars.diagnostics, (QList<HeaderDiagnostic>{{mostHeaders + 1, HeaderOddity::TooMany, {}}}));
 }
 
 // Each file's own comments count its characters; a font has one header more, which names it.

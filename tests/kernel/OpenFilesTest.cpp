@@ -1,5 +1,6 @@
 // Files of drawings that other tabs, sessions and programs have open or have changed.
 
+#include "host/drawing/NewDrawing.h"
 #include "host/kernel/files/DrawingLock.h"
 #include "platform/kernel/CKvUtils.h"
 #include "tests/kernel/Bench.h"
@@ -143,6 +144,22 @@ TEST_F(OpenFiles, thatChangedAreNotReplacedUnasked)
         EXPECT_TRUE(plan->save(Overrule::Obstacles));
         EXPECT_FALSE(plan->isModified());
     }
+}
+
+TEST_F(OpenFiles, byALinkAreNotSavedWhereItLeadsByThen)
+{
+    const QByteArray theirs = "another drawing";
+    write("other.dxf", theirs);
+    const QString file = write("real.dxf", host::drawing::newDrawing()->toBytes());
+    ASSERT_TRUE(QFile::link(file, path("link.dxf")));
+    Document *document = session.documents().open(path("link.dxf")).document;
+    ASSERT_TRUE(document);
+    EXPECT_TRUE(document->save());
+    QFile::remove(path("link.dxf"));
+    ASSERT_TRUE(QFile::link(path("other.dxf"), path("link.dxf")));
+    EXPECT_TRUE(document->save().error.contains(QStringLiteral("leads to another file")));
+    QFile kept(path("other.dxf"));
+    EXPECT_TRUE(kept.open(QIODevice::ReadOnly) && kept.readAll() == theirs);
 }
 
 TEST_F(OpenFiles, areAskedAboutByTheCommands)

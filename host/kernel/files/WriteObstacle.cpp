@@ -36,6 +36,9 @@ std::optional<WriteObstacle> findObstacle(const QString &path, Session *session,
     const QString shown = QDir::toNativeSeparators(path);
     if (writer && writer->claim().isOf(path))
         return ownObstacle(shown, writer->claim());
+    // A link may lead elsewhere by now; what is there is not what was opened.
+    if (writer && !writer->path().isEmpty() && path == writer->path() && identityOf(path))
+        return {{Kind::Changed, u"%1 leads to another file than when it was opened or saved here."_s.arg(shown)}};
     if (session && session->documents().documentOf(path))
         return {{Kind::OpenHere, u"%1 is open in this program; close it first, or give another name."_s.arg(shown)}};
     const QString file = canonicalFile(path);
