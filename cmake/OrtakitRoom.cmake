@@ -65,6 +65,6 @@ function(ortakit_test name)
         ortakit_pch(${name} ${TEST_PCH}_test)
     endif()
     add_test(NAME ${name} COMMAND ${name})
-    set_tests_properties(${name} PROPERTIES TIMEOUT 300 ENVIRONMENT
+    set_tests_properties(${name} PROPERTIES TIMEOUT 900 ENVIRONMENT
         "QT_QPA_PLATFORM=offscreen;XDG_CONFIG_HOME=${CMAKE_BINARY_DIR}/test-home/config;ORTAKIT_SOURCE=${CMAKE_SOURCE_DIR};ORTAKIT_BUILD=${CMAKE_BINARY_DIR}")
 endfunction()

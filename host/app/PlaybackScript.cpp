@@ -239,6 +239,11 @@ void readLine(PlaybackScript &script, int number, const QString &line)
         script.errors.append({number, "%1: %2"_L1.arg(QLatin1StringView(row->name), reader.error())});
 }
 
+bool endsInContinuation(const QString &text)
+{
+    return QStringView(text).trimmed().endsWith(" \\"_L1);
+}
+
 } // namespace
 
 PlaybackScript parsePlayback(const QString &text)
@@ -255,18 +260,14 @@ PlaybackScript parsePlayback(const QString &text)
                 continue;
             first = number;
         }
-        // Of a line that is nothing but its backslash, the blank is the one before the line end above.
-        const bool isLoneBackslash = line == "\\"_L1 && !pending.isEmpty();
-        if (line.endsWith(" \\"_L1) || isLoneBackslash) {
-            QStringView kept = line.chopped(1);
-            // Several are as one: what is left of them would go on again when it is read by itself.
-            while (kept.trimmed().endsWith(" \\"_L1))
-                kept = kept.trimmed().chopped(1);
-            pending += kept.toString();
-            continue;
+        pending += line.toString();
+        if (!endsInContinuation(pending)) {
+            readLine(script, first, pending.trimmed());
+            pending.clear();
         }
-        readLine(script, first, (pending + line.toString()).trimmed());
-        pending.clear();
+        // Several are as one: what is left of them would go on again when it is read by itself.
+        while (endsInContinuation(pending))
+            pending = pending.trimmed().chopped(1);
     }
     if (!pending.isEmpty())
         script.errors.append({first, tr("the line goes on (it ends in a backslash), but the session ends")});
