@@ -309,7 +309,8 @@ TEST_F(MainWindowTest, WhatIsReplacedIsAskedAboutByItsCompleteName)
         {u"&PNG picture..."_s, u"plan"_s, u"plan.png"_s},      {u"&SVG drawing..."_s, u"plan.v2"_s, u"plan.v2.svg"_s},
         {u"P&DF page..."_s, u"plan.dxf"_s, u"plan.dxf.pdf"_s},
     };
-    for (const auto &[menuEntry, typed, file] : rows) {
+    for (const auto &[menuEntry, typed, target] : rows) {
+        const auto &file = target;
         SCOPED_TRACE(menuEntry.toStdString() + ' ' + typed.toStdString());
         write(file, "old");
         const auto isOld = [&] {
