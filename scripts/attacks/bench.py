@@ -191,7 +191,7 @@ class Attempt:
         self.ended = []
         if self.folder.exists():
             shutil.rmtree(self.folder)
-        for name in ("disk/work", "disk/out", "disk/home", "disk/backup", "person", "tmp", "run"):
+        for name in ("disk/desk", "disk/out", "disk/home", "disk/backup", "person", "tmp", "run"):
             (self.folder / name).mkdir(parents=True)
         self.folder.chmod(0o755)
         (self.folder / "run").chmod(0o700)
@@ -203,7 +203,7 @@ class Attempt:
 
     @property
     def work(self):
-        return self.disk / "work"
+        return self.disk / "desk"
 
     @property
     def out(self):

@@ -36,7 +36,7 @@ def mount_small(attempt):
     if done.returncode != 0:
         raise NotRun(f"no file system could be mounted: {done.stderr.strip()}")
     attempt.clean_up = lambda: subprocess.run(["umount", "-l", attempt.disk], check=True)
-    for name in ("work", "out", "home", "backup"):
+    for name in ("desk", "out", "home", "backup"):
         (attempt.disk / name).mkdir()
 
 

@@ -26,7 +26,7 @@ class Trap:
     """A folder with a drawing and with programs that leave a marker when they run. It is laid once."""
 
     def __init__(self, bench):
-        self.work = bench.folder / "trap" / "work"
+        self.work = bench.folder / "trap" / "desk"
         self.markers = bench.folder / "trap" / "markers"
         self.markers.mkdir(parents=True)
         for below in FOLDERS:

@@ -8,12 +8,12 @@ from attacks.bench import FALSE, LEFT, LET_IN, LOST, NOBODY, Bad, Fault, NotRun,
 from attacks.writers import WRITERS, Expected, comparable, is_failure, restore, snapshot
 
 TARGETS = {
-    "QSAVE": "work/plan.dxf", "SAVEAS over another": "work/other.dxf", "WBLOCK": "work/other.dxf",
+    "QSAVE": "desk/plan.dxf", "SAVEAS over another": "desk/other.dxf", "WBLOCK": "desk/other.dxf",
     "QSAVE with a backup": "backup/plan.bak", "SETBACKUPFOLDER": "home/settings.ini",
     "convert to dxf": "out/plan.dxf", "convert to png": "out/plan.png", "convert to svg": "out/plan.svg",
     "convert to pdf": "out/plan.pdf", "run --out --png": "out/plan.dxf",
            "session's save and screenshot": "out/seen.png",
-    "Lisp's write-line": "work/list.txt", "breakline": "home/Ortakit/breakline.state",
+    "Lisp's write-line": "desk/list.txt", "breakline": "home/Ortakit/breakline.state",
     "dimstyleexport": "home/standard.dim", "editalias": "home/alias.xml", "exportinfo": "out/report.txt",
     "exportvariables": "out/settings.scr", "getblockinfo": "out/blocks.txt", "importblockattributes": "out/doors.txt",
     "lispdump": "out/symbols.dmp", "makelinestyle": "home/pipes.lin", "makeshape": "home/plan.shp",

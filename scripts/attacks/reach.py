@@ -51,7 +51,7 @@ def secret_places(attempt):
     (attempt.work / "link.txt").symlink_to(secret)
     (attempt.work / "far").symlink_to(attempt.disk)
     return secret, {"from the folder above": "../secret.txt", "with the other separator": "..\\secret.txt",
-                    "there and back": "../work/../secret.txt", "by its whole name": str(secret),
+                    "there and back": "../desk/../secret.txt", "by its whole name": str(secret),
                     "by a link": "link.txt",
                     "in a folder by a link": "far/secret.txt", "by a home": "~/secret.txt",
                     "by an address": f"file://{secret}",

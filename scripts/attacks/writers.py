@@ -81,18 +81,18 @@ TRACKED = "lisp (setq folder (kora_userfile \"Project\"))\nlisp (vl-mkdir folder
           "command TRACKTIME\ndialog Dlg_QT_TrackTime\nfocus directory\nset directory ${HOME_DIR}/Ortakit/Project\n" \
           "key directory Return\n"
 LINE = '(command "_.LINE" "0,0" "5,5" "") '
-STREAM = '(setq f (open "{disk}/work/list.txt" "%s")) ' \
+STREAM = '(setq f (open "{disk}/desk/list.txt" "%s")) ' \
          '(repeat 300 (%s "what a program writes, line by line" f)) (close f)'
 
 WRITERS = [
     Writer("QSAVE", "lisp", LINE + '(command "_.QSAVE")'),
     Writer("SAVEAS over another", "lisp",
-           LINE + '(setvar "EXPERT" 2) (command "_.SAVEAS" "{disk}/work/other.dxf")', ("work/other.dxf",)),
-    Writer("SAVEAS under a new name", "lisp", LINE + '(command "_.SAVEAS" "{disk}/work/new.dxf")'),
-    Writer("WBLOCK", "lisp", '(setvar "EXPERT" 2) (command "_.-WBLOCK" "{disk}/work/other.dxf" "*")',
-           ("work/other.dxf",)),
-    Writer("WBLOCK of a symbol", "lisp", '(setvar "EXPERT" 2) (command "_.-WBLOCK" "{disk}/work/other.dwg" "*")',
-           ("work/other.dwg",)),
+           LINE + '(setvar "EXPERT" 2) (command "_.SAVEAS" "{disk}/desk/other.dxf")', ("desk/other.dxf",)),
+    Writer("SAVEAS under a new name", "lisp", LINE + '(command "_.SAVEAS" "{disk}/desk/new.dxf")'),
+    Writer("WBLOCK", "lisp", '(setvar "EXPERT" 2) (command "_.-WBLOCK" "{disk}/desk/other.dxf" "*")',
+           ("desk/other.dxf",)),
+    Writer("WBLOCK of a symbol", "lisp", '(setvar "EXPERT" 2) (command "_.-WBLOCK" "{disk}/desk/other.dwg" "*")',
+           ("desk/other.dwg",)),
     Writer("QSAVE with a backup", "session", "command LINE\npoint 0,0\npoint 5,5\nenter\ncommand QSAVE\n",
            ("backup/plan.bak",), 'lisp (c:setbackupfolder)\nanswer ${HOME_DIR}/../backup\n'),
     Writer("SETBACKUPFOLDER", "session", "lisp (c:setbackupfolder)\nanswer ${HOME_DIR}/../backup\n", (),
@@ -105,13 +105,13 @@ WRITERS = [
     Writer("session's save and screenshot", "session",
            "command LINE\npoint 0,0\npoint 5,5\nenter\nsave saved.dxf\nscreenshot seen.png\n",
            ("out/saved.dxf", "out/seen.png")),
-    *(Writer(f"Lisp's {name}", "lisp", STREAM % (mode, name), ("work/list.txt",), is_stream=True)
+    *(Writer(f"Lisp's {name}", "lisp", STREAM % (mode, name), ("desk/list.txt",), is_stream=True)
       for name, mode in (("write-line", "w"), ("princ", "w"), ("print", "a"))),
     Writer("Lisp's write-char", "lisp", STREAM.replace('(%s "what a program writes, line by line" f)',
                                                        "(write-char 65 f)") % "w",
-           ("work/list.txt",), is_stream=True),
+           ("desk/list.txt",), is_stream=True),
     Writer("Lisp's vl-file-copy", "lisp",
-           '(if (not (vl-file-copy "{disk}/work/plan.dxf" "{disk}/work/copied.dxf")) (princ "not copied: failed"))'),
+           '(if (not (vl-file-copy "{disk}/desk/plan.dxf" "{disk}/desk/copied.dxf")) (princ "not copied: failed"))'),
     from_sample("breakline"),
     from_sample("breakline-create", ("type name door", "type name gate")),
     from_sample("convertsimplenotes"),
