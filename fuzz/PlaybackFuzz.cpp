@@ -2,7 +2,7 @@
 // the lines of a session mean what each means by itself.
 
 #include "fuzz/Require.h"
-#include "host/app/PlaybackScript.h"
+#include "host/app/playback/PlaybackScript.h"
 
 using namespace host::app;
 

@@ -1,12 +1,12 @@
 #include "host/app/Program.h"
 
-#include "host/app/AppStyle.h"
-#include "host/app/BatchRuns.h"
-#include "host/app/DrawingPicture.h"
-#include "host/app/MainWindow.h"
-#include "host/app/Preferences.h"
-#include "host/app/ProgramOutput.h"
-#include "host/app/SessionPlayer.h"
+#include "host/app/batch/BatchRuns.h"
+#include "host/app/playback/SessionPlayer.h"
+#include "host/app/window/AppStyle.h"
+#include "host/app/window/MainWindow.h"
+#include "host/app/window/Preferences.h"
+#include "host/app/workbench/DrawingPicture.h"
+#include "host/app/workbench/ProgramOutput.h"
 
 #include <QApplication>
 #include <QDir>

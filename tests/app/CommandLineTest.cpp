@@ -1,6 +1,6 @@
-#include "host/app/CommandLine.h"
+#include "host/app/window/CommandLine.h"
 
-#include "host/app/PromptText.h"
+#include "host/app/window/PromptText.h"
 #include "tests/support/QtTestPrinters.h"
 
 #include <QKeyEvent>

@@ -1,8 +1,8 @@
-#include "host/app/MainWindow.h"
+#include "host/app/window/MainWindow.h"
 
-#include "host/app/CommandLine.h"
-#include "host/app/DrawingCanvas.h"
-#include "host/app/Preferences.h"
+#include "host/app/window/CommandLine.h"
+#include "host/app/window/DrawingCanvas.h"
+#include "host/app/window/Preferences.h"
 #include "host/kernel/input/UserInput.h"
 #include "host/view/ScenePainter.h"
 #include "platform/kernel/CKvHelp.h"

@@ -1,4 +1,4 @@
-#include "host/app/PlaybackScript.h"
+#include "host/app/playback/PlaybackScript.h"
 
 #include "tests/support/QtTestPrinters.h"
 

@@ -1,7 +1,7 @@
-#include "host/app/ProgramOptions.h"
+#include "host/app/workbench/ProgramOptions.h"
 
-#include "host/app/Mnemonics.h"
-#include "host/app/ToolIndex.h"
+#include "host/app/window/Mnemonics.h"
+#include "host/app/workbench/ToolIndex.h"
 #include "tests/support/QtTestPrinters.h"
 
 #include <QFile>

@@ -1,4 +1,4 @@
-#include "host/app/SessionPlayer.h"
+#include "host/app/playback/SessionPlayer.h"
 
 #include "tests/app/AppFixture.h"
 #include "tests/app/SampleBox.h"

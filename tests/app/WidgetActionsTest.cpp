@@ -1,7 +1,7 @@
-#include "host/app/WidgetActions.h"
+#include "host/app/playback/WidgetActions.h"
 
-#include "host/app/WidgetFinder.h"
-#include "host/app/WidgetValues.h"
+#include "host/app/playback/WidgetFinder.h"
+#include "host/app/playback/WidgetValues.h"
 #include "platform/widgets/CKvQtUnitSpinBox.h"
 #include "tests/support/QtTestPrinters.h"
 

@@ -1,7 +1,7 @@
 // What happens between a dialog and the program around it; what each dialog does is in its own test.
 
-#include "host/app/SessionPlayer.h"
-#include "host/app/Workbench.h"
+#include "host/app/playback/SessionPlayer.h"
+#include "host/app/workbench/Workbench.h"
 #include "host/kernel/DocumentManager.h"
 #include "tests/support/QtTestPrinters.h"
 #include "tests/tools/ToolRun.h"

@@ -1,7 +1,7 @@
 // The manual of the Lisp functions: it has all of them, and every example does what it says.
 
-#include "host/app/SessionPlayer.h"
-#include "host/app/Workbench.h"
+#include "host/app/playback/SessionPlayer.h"
+#include "host/app/workbench/Workbench.h"
 #include "host/kernel/DocumentManager.h"
 #include "host/lisp/Interpreter.h"
 #include "tests/support/QtTestPrinters.h"

@@ -1,7 +1,7 @@
 // The functions that select, pick, read, drag and prompt with keywords, as Lisp programs call them.
 
-#include "host/app/SessionPlayer.h"
-#include "host/app/Workbench.h"
+#include "host/app/playback/SessionPlayer.h"
+#include "host/app/workbench/Workbench.h"
 #include "host/drawing/HeaderVariables.h"
 #include "host/kernel/DocumentManager.h"
 #include "tests/support/QtTestPrinters.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/app/Workbench.h"
+#include "host/app/workbench/Workbench.h"
 #include "host/drawing/Drawing.h"
 
 #include <QStringList>

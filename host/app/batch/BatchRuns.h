@@ -1,0 +1,17 @@
+#pragma once
+
+#include "host/app/workbench/ProgramOptions.h"
+
+namespace host::app {
+
+// The program's work without a window. Results go to standard output, messages to standard error; each returns the
+// status to end the program with. None of them waits for a person: a dialog or prompt that nobody answers is rejected.
+
+/// Plays the session over each drawing.
+int runSessions(const ProgramOptions &options);
+/// Loads the Lisp files.
+int runLispFiles(const ProgramOptions &options);
+/// Opens one file and writes it as another.
+int convertDrawing(const ProgramOptions &options);
+
+} // namespace host::app

@@ -1,0 +1,124 @@
+#pragma once
+
+#include "host/app/window/DragPreview.h"
+#include "host/kernel/Document.h"
+#include "host/kernel/input/PromptRequest.h"
+#include "host/view/Scene.h"
+#include "host/view/ViewTransform.h"
+
+#include <QPixmap>
+#include <QWidget>
+
+#include <optional>
+
+namespace host::app {
+
+/// A document's drawing on the screen, and the mouse on it.
+///
+/// The wheel zooms at the pointer, the middle button pans and, double-clicked, shows everything. While a prompt waits
+/// the left button answers it; otherwise it chooses entities, with Shift it drops them. Two corners, clicked or
+/// dragged, make a box: to the right it takes what lies within, to the left what it crosses. The right button is Enter.
+/// Keys are handed on.
+class DrawingCanvas : public QWidget
+{
+    Q_OBJECT
+
+public:
+    /// The document must outlive the canvas.
+    explicit DrawingCanvas(kernel::Document &document, QWidget *parent = nullptr);
+    ~DrawingCanvas() override;
+
+    kernel::Document &document() { return m_document; }
+    void setGround(view::Ground ground);
+    /// Also what it begins with when it is first shown.
+    void zoomExtents();
+    void zoomBy(double factor);
+    /// The next box drawn is what is shown.
+    void beginZoomWindow();
+    /// What the pointer answers from now on; nothing between prompts.
+    void setRequest(const std::optional<kernel::PromptRequest> &request);
+    /// Gives up a box that was begun. False when there was none.
+    bool abandonBox();
+
+    /// What of the current space can be drawn.
+    view::RenderReport report();
+    /// Whether the last picture was cut short and that was not asked before.
+    bool isCutShortNews();
+    QSize sizeHint() const override { return {1000, 600}; }
+
+signals:
+    /// World coordinates under the pointer.
+    void pointerMoved(const host::drawing::Vec2 &point);
+    /// The pointer answered the prompt.
+    void answered(const host::kernel::InputAnswer &answer);
+    void enterPressed();
+    void keyPressed(QKeyEvent *event);
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+    void showEvent(QShowEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void wheelEvent(QWheelEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseMoveEvent(QMouseEvent *event) override;
+    void mouseReleaseEvent(QMouseEvent *event) override;
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
+    void leaveEvent(QEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
+
+private:
+    enum class BoxUse
+    {
+        Choose,
+        Answer,
+        Zoom
+    };
+    enum class Choice
+    {
+        Add,
+        Drop
+    };
+
+    view::ViewTransform transform() const;
+    void setTransform(const view::ViewTransform &transform);
+    int space() const;
+    void repaintScene();
+    void paintOverlay(QPainter &painter);
+    void paintCrosshair(QPainter &painter);
+    void paintDragged(QPainter &painter);
+    void paintRubberBand(QPainter &painter);
+    void paintBox(QPainter &painter, QPointF from, QPointF to, bool isCrossing);
+
+    drawing::RecordId entityAt(QPointF screen);
+    void press(QPointF screen, Qt::KeyboardModifiers modifiers);
+    void pressForPrompt(QPointF screen);
+    void choose(const std::vector<drawing::RecordId> &entities, Choice choice);
+    void beginBox(QPointF screen, BoxUse use, Choice choice);
+    void finishBox(QPointF screen);
+    drawing::Vec3 world(QPointF screen) const;
+
+    kernel::Document &m_document;
+    view::Scene m_scene;
+    view::Ground m_ground = view::Ground::Black;
+    QPixmap m_picture; ///< the scene as last painted; null when it is out of date
+    quint64 m_paintedRevision = 0;
+    bool m_isCutShort = false; ///< part of the scene is missing in the picture
+    bool m_isCutShortTold = false;
+    std::optional<kernel::PromptRequest> m_request;
+    std::optional<DragPreview> m_dragged; ///< while the prompt has entities hang at the pointer
+    std::optional<QPointF> m_pointer;     ///< where the pointer is, while it is on the canvas
+    std::optional<QPointF> m_panFrom;
+
+    struct PendingBox
+    {
+        drawing::Vec2 corner; ///< world, so that zooming meanwhile does no harm
+        QPointF pressedAt;
+        BoxUse use;
+        Choice choice;
+    };
+    std::optional<PendingBox> m_box;
+    bool m_isZoomWindow = false;
+    bool m_wasShown = false;
+};
+
+} // namespace host::app

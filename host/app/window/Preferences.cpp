@@ -1,0 +1,47 @@
+#include "host/app/window/Preferences.h"
+
+#include "files/qt/SettingsFile.h"
+
+#include <QDir>
+#include <QSettings>
+
+using namespace Qt::StringLiterals;
+
+namespace host::app {
+
+namespace {
+
+QString fileIn(const QString &folder)
+{
+    return QDir(folder).filePath(u"workbench.ini"_s);
+}
+
+} // namespace
+
+Preferences Preferences::load(const QString &folder)
+{
+    Preferences preferences;
+    if (!files::isSettingsFile(fileIn(folder)))
+        return preferences;
+    const QSettings settings(fileIn(folder), QSettings::IniFormat);
+    if (settings.value("style").toString() == "dark"_L1)
+        preferences.style = Style::Dark;
+    if (settings.value("ground").toString() == "white"_L1)
+        preferences.ground = view::Ground::White;
+    preferences.geometry = settings.value("geometry").toByteArray();
+    preferences.entries = settings.value("entries").toStringList();
+    return preferences;
+}
+
+void Preferences::save(const QString &folder) const
+{
+    // Windows close when nobody is there to be told; the next start has what the last one had.
+    files::changeSettings(fileIn(folder), [this](QSettings &settings) {
+        settings.setValue("style", style == Style::Dark ? u"dark"_s : u"light"_s);
+        settings.setValue("ground", ground == view::Ground::White ? u"white"_s : u"black"_s);
+        settings.setValue("geometry", geometry);
+        settings.setValue("entries", entries);
+    });
+}
+
+} // namespace host::app

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "host/app/window/AppStyle.h"
+#include "host/view/AciColor.h"
+
+#include <QByteArray>
+
+namespace host::app {
+
+/// What the window keeps from one run to the next, in the file workbench.ini of the user's data folder. What the file
+/// lacks, or cannot give, is as in a new Preferences; a folder that cannot be written to is no reason to complain.
+struct Preferences
+{
+    Style style = Style::Light;
+    view::Ground ground = view::Ground::Black;
+    QByteArray geometry; ///< of the window; empty: as it comes
+    QStringList entries; ///< of the command line, oldest first
+
+    static Preferences load(const QString &folder);
+    void save(const QString &folder) const;
+};
+
+} // namespace host::app

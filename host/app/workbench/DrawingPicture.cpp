@@ -1,0 +1,59 @@
+#include "host/app/workbench/DrawingPicture.h"
+
+#include "files/qt/Files.h"
+#include "host/kernel/Document.h"
+#include "host/kernel/ExpressionSurroundings.h"
+
+#include <QBuffer>
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QPixmap>
+#include <QWidget>
+
+using namespace Qt::StringLiterals;
+
+namespace host::app {
+
+view::ExportResult writeDrawingPicture(kernel::Document &document, const QString &path)
+{
+    if (const auto obstacle = kernel::obstacleToWriting(path, &document.session()))
+        return {.error = obstacle->text, .report = {}};
+    return writeDrawingPicture(document.drawing(), path, kernel::expressionSurroundings(document));
+}
+
+view::ExportResult writeDrawingPicture(const drawing::Drawing &drawing, const QString &path,
+                                       const drawing::MacroSurroundings &surroundings)
+{
+    const QString extension = QFileInfo(path).suffix().toLower();
+    view::ExportOptions options;
+    options.surroundings = surroundings;
+    if (extension == "svg"_L1)
+        return view::exportSvg(drawing, path, options);
+    if (extension == "pdf"_L1)
+        return view::exportPdf(drawing, path, options);
+    if (extension == "png"_L1)
+        return view::exportPng(drawing, path, options);
+    return {.error = u"%1: the extension must be %2"_s.arg(QDir::toNativeSeparators(path),
+                                                           pictureExtensions().join(", "_L1)),
+            .report = {}};
+}
+
+QString writeWidgetPicture(QWidget &widget, const QString &path)
+{
+    // What was changed just now has not been laid out yet.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+    QBuffer picture;
+    picture.open(QIODevice::WriteOnly);
+    widget.grab().save(&picture, "PNG");
+    const QString reason = files::replaceFile(path, picture.data());
+    return reason.isEmpty() ? QString()
+                            : u"%1: the picture cannot be written: %2"_s.arg(QDir::toNativeSeparators(path), reason);
+}
+
+QStringList pictureExtensions()
+{
+    return {u"png"_s, u"svg"_s, u"pdf"_s};
+}
+
+} // namespace host::app

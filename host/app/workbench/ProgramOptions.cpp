@@ -1,0 +1,288 @@
+#include "host/app/workbench/ProgramOptions.h"
+
+#include "host/kernel/Session.h"
+
+#include <QHash>
+
+#include <functional>
+
+using namespace Qt::StringLiterals;
+
+namespace host::app {
+
+namespace {
+
+enum class Value
+{
+    None,
+    Needed
+};
+
+struct OptionRow
+{
+    const char *name;
+    Value value;
+    QList<Mode> modes; ///< where it makes sense; empty: everywhere
+    /// Returns why the value is refused, empty when it is taken.
+    std::function<QString(ProgramOptions &, const QString &)> apply;
+};
+
+QString setStyle(ProgramOptions &options, const QString &value)
+{
+    if (value == "light"_L1)
+        options.style = Style::Light;
+    else if (value == "dark"_L1)
+        options.style = Style::Dark;
+    else
+        return u"--style is light or dark, not \"%1\""_s.arg(value);
+    return {};
+}
+
+QString setTimeLimit(ProgramOptions &options, const QString &value)
+{
+    bool ok = false;
+    const double seconds = value.toDouble(&ok);
+    if (!ok || !(seconds > 0.0) || seconds > 86400.0)
+        return u"--time-limit takes seconds up to a day, not \"%1\""_s.arg(value);
+    options.timeLimit = std::chrono::milliseconds(std::max<qint64>(qRound64(seconds * 1000.0), 1));
+    return {};
+}
+
+QString setMemoryLimit(ProgramOptions &options, const QString &value)
+{
+    using kernel::Session;
+    bool ok = false;
+    const int megabytes = value.toInt(&ok);
+    if (!ok || megabytes < Session::leastLispHeap || megabytes > Session::largestLispHeap)
+        return u"--memory-limit takes megabytes from %1 to %2, not \"%3\""_s.arg(Session::leastLispHeap)
+            .arg(Session::largestLispHeap)
+            .arg(value);
+    options.memoryLimit = megabytes;
+    return {};
+}
+
+template <QString ProgramOptions::*member>
+QString setText(ProgramOptions &options, const QString &value)
+{
+    options.*member = value;
+    return {};
+}
+
+template <QStringList ProgramOptions::*member>
+QString addText(ProgramOptions &options, const QString &value)
+{
+    (options.*member).append(value);
+    return {};
+}
+
+template <bool ProgramOptions::*member>
+QString setFlag(ProgramOptions &options, const QString &)
+{
+    options.*member = true;
+    return {};
+}
+
+const QList<OptionRow> &optionRows()
+{
+    static const QList<OptionRow> rows = {
+        {"--style", Value::Needed, {}, setStyle},
+        {"--home", Value::Needed, {}, setText<&ProgramOptions::home>},
+        {"--module", Value::Needed, {}, setText<&ProgramOptions::module>},
+        {"--tools", Value::Needed, {}, setText<&ProgramOptions::tools>},
+        {"--allow-read", Value::Needed, {}, addText<&ProgramOptions::readableFolders>},
+        {"--trust", Value::Needed, {Mode::Window, Mode::Run, Mode::Lisp}, addText<&ProgramOptions::trustedFolders>},
+        {"--screenshot-dir", Value::Needed, {Mode::Window, Mode::Run}, setText<&ProgramOptions::pictureFolder>},
+        {"--session", Value::Needed, {Mode::Window}, setText<&ProgramOptions::session>},
+        {"--out", Value::Needed, {Mode::Run}, setText<&ProgramOptions::outFolder>},
+        {"--drawing", Value::Needed, {Mode::Lisp}, setText<&ProgramOptions::drawing>},
+        {"--time-limit", Value::Needed, {}, setTimeLimit},
+        {"--memory-limit", Value::Needed, {Mode::Run, Mode::Lisp, Mode::Window}, setMemoryLimit},
+        {"--png", Value::None, {Mode::Run}, setFlag<&ProgramOptions::withPictures>},
+        {"--force", Value::None, {Mode::Run, Mode::Lisp, Mode::Convert}, setFlag<&ProgramOptions::isForced>},
+        {"--strict", Value::None, {Mode::Convert}, setFlag<&ProgramOptions::isStrict>},
+        {"--json", Value::None, {Mode::Convert}, setFlag<&ProgramOptions::withJson>}};
+    return rows;
+}
+
+const QHash<QString, Mode> &modeNames()
+{
+    static const QHash<QString, Mode> names = {
+        {u"run"_s, Mode::Run}, {u"lisp"_s, Mode::Lisp}, {u"convert"_s, Mode::Convert}};
+    return names;
+}
+
+/// Reads "--name value" or "--name=value" at `position`, which is left on its last argument.
+QString readOption(ProgramOptions &options, const QStringList &arguments, qsizetype &position)
+{
+    const QString argument = arguments[position];
+    const QString name = argument.section(u'=', 0, 0);
+    const bool hasValue = argument.contains(u'=');
+    for (const OptionRow &row : optionRows()) {
+        if (name != QLatin1StringView(row.name))
+            continue;
+        if (!row.modes.isEmpty() && !row.modes.contains(options.mode))
+            return u"%1 has no meaning here"_s.arg(name);
+        if (row.value == Value::None)
+            return hasValue ? u"%1 takes no value"_s.arg(name) : row.apply(options, {});
+        if (!hasValue && position + 1 >= arguments.size())
+            return u"%1 needs a value"_s.arg(name);
+        const QString value = hasValue ? argument.section(u'=', 1) : arguments[++position];
+        return value.isEmpty() ? u"%1 needs a value"_s.arg(name) : row.apply(options, value);
+    }
+    return u"there is no option %1"_s.arg(name);
+}
+
+/// Gives the words that are no options their meaning.
+QString assignWords(ProgramOptions &options, const QStringList &words)
+{
+    switch (options.mode) {
+    case Mode::Run:
+        if (words.size() < 2)
+            return u"run needs a session and at least one drawing"_s;
+        options.session = words.first();
+        options.drawings = words.mid(1);
+        return {};
+    case Mode::Lisp:
+        if (words.isEmpty())
+            return u"lisp needs at least one file"_s;
+        options.lispFiles = words;
+        return {};
+    case Mode::Convert:
+        if (words.size() != 2)
+            return u"convert needs two files"_s;
+        options.input = words[0];
+        options.output = words[1];
+        return {};
+    default:
+        options.drawings = words;
+        return {};
+    }
+}
+
+} // namespace
+
+ProgramOptions parseArguments(const QStringList &arguments)
+{
+    ProgramOptions options;
+    qsizetype position = 0;
+    if (!arguments.isEmpty() && modeNames().contains(arguments.first())) {
+        options.mode = modeNames().value(arguments.first());
+        position = 1;
+    }
+    QStringList words;
+    for (; position < arguments.size() && options.error.isEmpty(); ++position) {
+        const QString &argument = arguments[position];
+        if (argument == "--help"_L1 || argument == "-h"_L1) {
+            options.helpFor = options.mode;
+            options.mode = Mode::Help;
+            return options;
+        }
+        if (argument == "--version"_L1) {
+            options.mode = Mode::Version;
+            return options;
+        }
+        if (argument == "--"_L1) {
+            words += arguments.mid(position + 1);
+            break;
+        }
+        if (argument.startsWith(u'-') && argument.size() > 1)
+            options.error = readOption(options, arguments, position);
+        else
+            words.append(argument);
+    }
+    if (options.error.isEmpty())
+        options.error = assignWords(options, words);
+    return options;
+}
+
+namespace {
+
+constexpr auto commonHelp = R"(Options for every use:
+  --style light|dark   look of windows and dialogs
+  --home DIR           folder of the user's data (default: $ORTAKIT_HOME, or the system's place for such data)
+  --module FILE        the plug-in module (default: $ORTAKIT_MODULE, or the one installed with the program)
+  --allow-read DIR     let drawings name files of this folder and those below; may be given again. Else they are read
+                       from the drawing's own folder, those below and trusted ones only
+  --tools DIR          folder of the Lisp tools (default: $ORTAKIT_TOOLS, or the one installed with the program)
+  --help, --version
+
+Exit status: 0 done, 1 a tool, expression or session failed or passed a limit, 2 wrong use, 3 part of a batch failed
+or, with --strict, of a picture is missing, 4 a file could not be read or written, 5 a picture was written, but there was
+more to show than is drawn in one go: a few lines of a drawing can make millions.
+)";
+
+constexpr auto windowHelp = R"(Usage: ortakit [OPTION...] [DRAWING...]
+       ortakit run SESSION DRAWING... [--out DIR] [--png]
+       ortakit lisp FILE... [--drawing DRAWING]
+       ortakit convert IN OUT [--strict] [--json]
+
+Opens the drawings in a window, or works on them without one. "ortakit COMMAND --help" tells more about a command.
+A drawing whose name is that of a command is written with its folder: ./run
+
+Options of the window:
+  --trust DIR           run programs of this folder and those below as well; may be given again
+  --session FILE        play a recorded session in the window first
+  --screenshot-dir DIR  write a picture of the window to DIR/window.png and end
+  --time-limit SECONDS  the most a session may take (default 120)
+  --memory-limit MB     the most memory Lisp may take, 16 to 1048576 (default: the system variable LISPHEAPMAX, which is
+                        2048 as long as nobody changed it)
+
+)";
+
+constexpr auto runHelp = R"(Usage: ortakit run SESSION DRAWING... [--out DIR] [--png] [OPTION...]
+
+Plays a recorded session over each drawing, one after the other, each opened afresh. The drawings themselves stay as
+they are. Prints a line for each. What a picture does not show, or only in part, is told on standard error, by type.
+
+  --trust DIR           run programs of this folder and those below as well; may be given again
+  --out DIR             write the drawings that the session changed there, under their own names
+  --png                 write a picture of each drawing as it is in the end to the out folder, or else beside the drawing
+  --screenshot-dir DIR  where pictures go that the session takes, and those of --png
+  --force               write files as well that another program has open, or has changed since they were opened
+  --time-limit SECONDS  the most the session may take with one drawing (default 120); one that does not stop then ends the
+                        program
+  --memory-limit MB     the most memory Lisp may take (default: the system variable LISPHEAPMAX)
+
+)";
+
+constexpr auto lispHelp = R"(Usage: ortakit lisp FILE... [--drawing DRAWING] [OPTION...]
+
+Loads the Lisp files in order and prints what they print. "-" reads expressions from standard input. Without --drawing
+a new drawing is open. Nothing asks a person: prompts are cancelled, and a dialog ends the program with status 1.
+
+What these files load must lie in a trusted folder: the installation, the folder of the user's data, those that the
+system variable TRUSTEDPATHS lists, and those named here.
+
+  --trust DIR           run programs of this folder and those below as well; may be given again
+  --time-limit SECONDS  the most all of it may take (default: no limit)
+  --memory-limit MB     the most memory Lisp may take, more being an error of the program (default: the system variable
+                        LISPHEAPMAX)
+  --force               write files as well that another program has open, or has changed since they were opened
+
+)";
+
+constexpr auto convertHelp = R"(Usage: ortakit convert IN OUT [--strict] [--json] [OPTION...]
+
+Opens a drawing and writes it as what the extension of OUT says: dxf, png, svg or pdf. What a picture does not show, or
+only in part, is told on standard error, by type.
+
+  --time-limit SECONDS  the most it may take (default: no limit); OUT stays as it was when it takes longer
+  --force   write OUT although another program has it open
+  --strict  end with status 3 when something is missing in the picture, which is written all the same
+  --json    print one line of JSON: input, output, and of pictures complete, drawn, invisible, inPart and notDrawn (a
+            number for each type) and cutShort
+
+)";
+
+} // namespace
+
+QString helpText(Mode mode)
+{
+    const char *text = mode == Mode::Run       ? runHelp
+                       : mode == Mode::Lisp    ? lispHelp
+                       : mode == Mode::Convert ? convertHelp
+                                               : windowHelp;
+    return QString::fromUtf8(text) + QString::fromUtf8(commonHelp);
+}
+
+} // namespace host::app

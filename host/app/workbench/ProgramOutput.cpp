@@ -1,0 +1,33 @@
+#include "host/app/workbench/ProgramOutput.h"
+
+#include <cstdio>
+
+namespace host::app {
+
+namespace {
+
+bool isResultLost = false;
+
+} // namespace
+
+void writeResult(const QString &text)
+{
+    const QByteArray bytes = text.toUtf8();
+    const auto size = static_cast<std::size_t>(bytes.size());
+    if (std::fwrite(bytes.constData(), 1, size, stdout) != size || std::fflush(stdout) != 0)
+        isResultLost = true;
+}
+
+bool hasLostResults()
+{
+    return isResultLost;
+}
+
+void writeMessage(const QString &text)
+{
+    const QByteArray bytes = "ortakit: " + text.trimmed().toUtf8() + '\n';
+    std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), stderr);
+    std::fflush(stderr);
+}
+
+} // namespace host::app

@@ -1,0 +1,100 @@
+#include "host/app/workbench/Workbench.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+
+using namespace Qt::StringLiterals;
+
+namespace host::app {
+
+namespace {
+
+const QString helpBesideProgram = u"../share/ortakit/help"_s;
+
+QString besideProgram(const QString &path)
+{
+    return QDir::cleanPath(QDir(QCoreApplication::applicationDirPath()).filePath(path));
+}
+
+QString firstOf(const QString &given, const char *variable, const QStringList &places)
+{
+    if (!given.isEmpty())
+        return given;
+    if (const QString value = qEnvironmentVariable(variable); !value.isEmpty())
+        return value;
+    for (const QString &place : places)
+        if (const QString path = besideProgram(place); QFileInfo::exists(path))
+            return path;
+    return {};
+}
+
+kernel::SessionOptions sessionOptions(const WorkbenchOptions &options, const ToolIndex &tools)
+{
+    kernel::SessionOptions session{.home = options.home, .supportFolders = {}, .helpFolder = {}};
+    if (!tools.folder.isEmpty()) {
+        const QDir folder(tools.folder);
+        session.supportFolders = {tools.folder, folder.filePath(u"support"_s)};
+    }
+    if (const QString help = besideProgram(helpBesideProgram); QFileInfo::exists(help))
+        session.helpFolder = help;
+    return session;
+}
+
+} // namespace
+
+QString findModuleFile(const QString &given)
+{
+    return firstOf(given, "ORTAKIT_MODULE", {u"../lib/Ortakit.so"_s, u"../lib/ortakit/Ortakit.so"_s});
+}
+
+QString findToolsFolder(const QString &given)
+{
+    return firstOf(given, "ORTAKIT_TOOLS", {u"../share/ortakit/tools"_s});
+}
+
+Workbench::Workbench(const WorkbenchOptions &options, QWidget *mainWindow)
+    : m_tools(readTools(findToolsFolder(options.tools))), m_session(sessionOptions(options, m_tools))
+{
+    m_session.setMainWindow(mainWindow);
+    if (options.memoryLimit)
+        m_session.capLispHeap(*options.memoryLimit);
+    for (const QString &folder : options.trustedFolders)
+        m_session.trustedFolders().addForSession(folder);
+    for (const QString &folder : options.readableFolders)
+        m_session.trustedFolders().addForSession(folder, kernel::TrustedFolders::List::Read);
+    loadModule(findModuleFile(options.module));
+    if (m_tools.folder.isEmpty()) {
+        const QString folder = findToolsFolder(options.tools);
+        m_problems.append(folder.isEmpty()
+                              ? tr("The folder of the Lisp tools was not found; there are no tools.")
+                              : tr("There is no folder %1; there are no tools.").arg(QDir::toNativeSeparators(folder)));
+    }
+    m_problems += m_tools.problems;
+    connect(&documents(), &kernel::DocumentManager::opened, this,
+            [this](kernel::Document *document) { loadTools(*document); });
+}
+
+Workbench::~Workbench() = default;
+
+void Workbench::loadModule(const QString &file)
+{
+    if (file.isEmpty()) {
+        m_problems.append(tr("The plug-in module was not found; tools with dialogs will not work."));
+        return;
+    }
+    if (const auto outcome = m_session.modules().load(file); !outcome)
+        m_problems.append(tr("%1 Tools with dialogs will not work.").arg(outcome.error));
+}
+
+void Workbench::loadTools(kernel::Document &document)
+{
+    for (const QString &file : m_tools.files)
+        if (const kernel::RunResult result = document.loadLisp(file); !result.ok) {
+            const QString problem = tr("%1: %2").arg(QDir::toNativeSeparators(file), result.error);
+            if (!m_problems.contains(problem))
+                m_problems.append(problem);
+        }
+}
+
+} // namespace host::app
