@@ -4,7 +4,7 @@
 #include "bench/Ratios.h"
 #include "dialogs/breakline/Dlg_QT_Breakline.h"
 #include "dialogs/exportsettings/Dlg_QT_ExportSettings.h"
-#include "state/DialogState.h"
+#include "state/exchange/DialogState.h"
 #include "tests/support/FakeHost.h"
 
 #include <QApplication>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "state/TableSelection.h"
+#include "state/tables/TableSelection.h"
 #include "tests/support/FakeHost.h"
 
 #include <QAbstractButton>

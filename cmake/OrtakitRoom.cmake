@@ -1,7 +1,7 @@
 # ortakit_room(NAME [PCH std|core|widgets] SOURCES ... LINK ...)
 #
 # One folder of the house as a static library that shared libraries and tests can take in. Everything is included by
-# its path from the top of the project ("state/DialogState.h"), which is what scripts/check reads the rules from.
+# its path from the top of the project ("state/exchange/DialogState.h"), which is what scripts/check reads the rules from.
 function(ortakit_room name)
     cmake_parse_arguments(ROOM "" "PCH" "SOURCES;LINK" ${ARGN})
     add_library(${name} STATIC ${ROOM_SOURCES})

@@ -3,8 +3,8 @@
 
 #include "fuzz/HostSession.h"
 #include "fuzz/Require.h"
-#include "state/DialogState.h"
-#include "state/StateFile.h"
+#include "state/exchange/DialogState.h"
+#include "state/exchange/StateFile.h"
 #include "tests/state/Gallery.h"
 
 #include <QFile>

@@ -2,7 +2,7 @@
 
 #include "fuzz/HostSession.h"
 #include "fuzz/Require.h"
-#include "state/FavouriteStore.h"
+#include "state/favourites/FavouriteStore.h"
 
 #include <algorithm>
 

@@ -5,7 +5,7 @@
 #include "platform/kernel/CKvLispEngine.h"
 #include "platform/kernel/CKvSystemServices.h"
 #include "platform/kernel/CKvUserInput.h"
-#include "state/FolderPicker.h"
+#include "state/pickers/FolderPicker.h"
 
 #include <QCoreApplication>
 #include <QDir>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "state/EditingTimeRecord.h"
+#include "state/host/EditingTimeRecord.h"
 
 class OdDbDatabase;
 

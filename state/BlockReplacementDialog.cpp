@@ -1,6 +1,6 @@
 #include "state/BlockReplacementDialog.h"
 
-#include "state/DrawingPreview.h"
+#include "state/widgets/DrawingPreview.h"
 
 #include <QAbstractButton>
 #include <QCoreApplication>

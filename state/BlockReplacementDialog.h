@@ -1,7 +1,7 @@
 #pragma once
 
-#include "state/NameTable.h"
 #include "state/ToolDialog.h"
+#include "state/tables/NameTable.h"
 
 #include <memory>
 

@@ -1,6 +1,6 @@
 #include "state/DefinitionDialog.h"
 
-#include "state/TableRows.h"
+#include "state/tables/TableRows.h"
 
 #include <QHeaderView>
 #include <QKeyEvent>

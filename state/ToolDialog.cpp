@@ -1,9 +1,9 @@
 #include "state/ToolDialog.h"
 
 #include "platform/kernel/CKvMessageBox.h"
-#include "state/ButtonIcons.h"
-#include "state/HelpTopicMap.h"
-#include "state/PlainTexts.h"
+#include "state/host/HelpTopicMap.h"
+#include "state/widgets/ButtonIcons.h"
+#include "state/widgets/PlainTexts.h"
 
 #include <QAbstractButton>
 #include <QDialogButtonBox>

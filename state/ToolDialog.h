@@ -1,8 +1,8 @@
 #pragma once
 
 #include "platform/kernel/CKvDialog.h"
-#include "state/DialogState.h"
-#include "state/TypedFields.h"
+#include "state/exchange/DialogState.h"
+#include "state/widgets/TypedFields.h"
 
 #include <memory>
 

@@ -2,12 +2,12 @@
 
 #include "platform/kernel/CKvDocument.h"
 #include "platform/kernel/CKvUtils.h"
-#include "state/DialogPicture.h"
-#include "state/DrawingPicker.h"
-#include "state/FullText.h"
-#include "state/ModuleFolder.h"
-#include "state/PathMessages.h"
-#include "state/StarterFiles.h"
+#include "state/host/ModuleFolder.h"
+#include "state/host/StarterFiles.h"
+#include "state/pickers/DrawingPicker.h"
+#include "state/pickers/PathMessages.h"
+#include "state/widgets/DialogPicture.h"
+#include "state/widgets/FullText.h"
 #include "ui_Dlg_QT_Breakline.h"
 
 #include <QFileInfo>

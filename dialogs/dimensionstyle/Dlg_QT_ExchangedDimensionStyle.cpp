@@ -3,8 +3,8 @@
 #include "dialogs/dimensionstyle/StyleTables.h"
 #include "formats/DimensionStyleFile.h"
 #include "platform/kernel/CKvUtils.h"
-#include "state/CommandLineText.h"
-#include "state/FilePicker.h"
+#include "state/host/CommandLineText.h"
+#include "state/pickers/FilePicker.h"
 #include "ui_Dlg_QT_ExchangedDimensionStyle.h"
 
 #include <QFileInfo>

@@ -2,7 +2,7 @@
 
 #include "dialogs/dimensionstyle/StyleTables.h"
 #include "formats/DimensionStyleFile.h"
-#include "state/FilePicker.h"
+#include "state/pickers/FilePicker.h"
 #include "ui_Dlg_QT_ImportDimensionStyle.h"
 
 Dlg_QT_ImportDimensionStyle::Dlg_QT_ImportDimensionStyle(QWidget *parent)

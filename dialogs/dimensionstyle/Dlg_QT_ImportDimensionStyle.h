@@ -1,7 +1,7 @@
 #pragma once
 
-#include "state/ElidedPathField.h"
 #include "state/ToolDialog.h"
+#include "state/widgets/ElidedPathField.h"
 
 #include <memory>
 

@@ -1,8 +1,8 @@
 #include "dialogs/dimensionstyle/StyleTables.h"
 
 #include "formats/DimensionStyleFile.h"
-#include "state/TableRows.h"
-#include "state/TableSelection.h"
+#include "state/tables/TableRows.h"
+#include "state/tables/TableSelection.h"
 
 #include <QEvent>
 #include <QHeaderView>

@@ -1,10 +1,10 @@
 #include "dialogs/drawordercolor/Dlg_QT_DrawOderColor.h"
 
-#include "state/FavouritesBox.h"
-#include "state/RowMover.h"
-#include "state/TableOrder.h"
-#include "state/TableRows.h"
-#include "state/TableSelection.h"
+#include "state/favourites/FavouritesBox.h"
+#include "state/tables/RowMover.h"
+#include "state/tables/TableOrder.h"
+#include "state/tables/TableRows.h"
+#include "state/tables/TableSelection.h"
 #include "ui_Dlg_QT_DrawOderColor.h"
 
 #include <QHeaderView>

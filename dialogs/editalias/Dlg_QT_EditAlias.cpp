@@ -2,13 +2,13 @@
 
 #include "platform/kernel/CKvSystemServices.h"
 #include "platform/kernel/CKvUtils.h"
-#include "state/CommandLineText.h"
-#include "state/DocumentPrinting.h"
-#include "state/FilePicker.h"
-#include "state/ModuleFolder.h"
-#include "state/PlainTexts.h"
-#include "state/TableOrder.h"
-#include "state/TableRows.h"
+#include "state/host/CommandLineText.h"
+#include "state/host/DocumentPrinting.h"
+#include "state/host/ModuleFolder.h"
+#include "state/pickers/FilePicker.h"
+#include "state/tables/TableOrder.h"
+#include "state/tables/TableRows.h"
+#include "state/widgets/PlainTexts.h"
 #include "ui_Dlg_QT_EditAlias.h"
 
 #include <QKeyEvent>

@@ -1,7 +1,7 @@
 #include "dialogs/edittextcase/ElidedLabel.h"
 
 #include "files/qt/VisibleText.h"
-#include "state/PlainTexts.h"
+#include "state/widgets/PlainTexts.h"
 
 #include <QPainter>
 #include <QTextLayout>

@@ -1,9 +1,9 @@
 #include "dialogs/exportinfo/Dlg_QT_ExportInfo.h"
 
 #include "formats/FileWriting.h"
-#include "state/CommandLineText.h"
-#include "state/FilePicker.h"
-#include "state/FullText.h"
+#include "state/host/CommandLineText.h"
+#include "state/pickers/FilePicker.h"
+#include "state/widgets/FullText.h"
 #include "ui_Dlg_QT_ExportInfo.h"
 
 #include <QFontDatabase>

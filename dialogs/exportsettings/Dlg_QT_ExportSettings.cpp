@@ -2,8 +2,8 @@
 
 #include "formats/FileWriting.h"
 #include "platform/kernel/CKvUtils.h"
-#include "state/CommandLineText.h"
-#include "state/FilePicker.h"
+#include "state/host/CommandLineText.h"
+#include "state/pickers/FilePicker.h"
 #include "ui_Dlg_QT_ExportSettings.h"
 
 using ortakit::SettingClass;

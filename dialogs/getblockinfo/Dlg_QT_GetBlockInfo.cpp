@@ -1,9 +1,9 @@
 #include "dialogs/getblockinfo/Dlg_QT_GetBlockInfo.h"
 
-#include "state/CommandLineText.h"
-#include "state/FilePicker.h"
-#include "state/RowSorting.h"
-#include "state/TableRows.h"
+#include "state/host/CommandLineText.h"
+#include "state/pickers/FilePicker.h"
+#include "state/tables/RowSorting.h"
+#include "state/tables/TableRows.h"
 #include "ui_Dlg_QT_GetBlockInfo.h"
 
 #include <QFileInfo>

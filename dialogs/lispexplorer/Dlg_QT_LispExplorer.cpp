@@ -5,12 +5,12 @@
 #include "platform/kernel/CKvDocument.h"
 #include "platform/kernel/CKvLispEngine.h"
 #include "platform/kernel/CKvUtils.h"
-#include "state/CommandLineText.h"
-#include "state/FilePicker.h"
-#include "state/FolderPicker.h"
-#include "state/FullText.h"
-#include "state/TableOrder.h"
-#include "state/TableRows.h"
+#include "state/host/CommandLineText.h"
+#include "state/pickers/FilePicker.h"
+#include "state/pickers/FolderPicker.h"
+#include "state/tables/TableOrder.h"
+#include "state/tables/TableRows.h"
+#include "state/widgets/FullText.h"
 #include "ui_Dlg_QT_LispExplorer.h"
 
 #include <QDir>

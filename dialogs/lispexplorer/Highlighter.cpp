@@ -1,7 +1,7 @@
 #include "dialogs/lispexplorer/Highlighter.h"
 
 #include "dialogs/lispexplorer/LispKeywords.h"
-#include "state/FullText.h"
+#include "state/widgets/FullText.h"
 
 using ortakit::LispRun;
 using ortakit::LispStyle;

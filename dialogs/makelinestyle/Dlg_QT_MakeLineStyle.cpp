@@ -1,8 +1,8 @@
 #include "dialogs/makelinestyle/Dlg_QT_MakeLineStyle.h"
 
 #include "formats/LinetypeFile.h"
-#include "state/FilePicker.h"
-#include "state/FullText.h"
+#include "state/pickers/FilePicker.h"
+#include "state/widgets/FullText.h"
 #include "ui_Dlg_QT_MakeLineStyle.h"
 
 Dlg_QT_MakeLineStyle::Dlg_QT_MakeLineStyle(QWidget *parent)

@@ -1,9 +1,9 @@
 #include "dialogs/makeshape/Dlg_QT_MakeShape.h"
 
 #include "formats/ShapeFile.h"
-#include "state/FilePicker.h"
-#include "state/FolderPicker.h"
-#include "state/FullText.h"
+#include "state/pickers/FilePicker.h"
+#include "state/pickers/FolderPicker.h"
+#include "state/widgets/FullText.h"
 #include "ui_Dlg_QT_MakeShape.h"
 
 #include <QFileInfo>

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "dialogs/mergesheets/SheetNames.h"
-#include "state/ElidedPathField.h"
 #include "state/ToolDialog.h"
+#include "state/widgets/ElidedPathField.h"
 
 #include <memory>
 

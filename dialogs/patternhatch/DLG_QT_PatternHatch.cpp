@@ -3,9 +3,9 @@
 #include "dialogs/patternhatch/MaskPatterns.h"
 #include "platform/kernel/CKvDocument.h"
 #include "platform/kernel/CKvUtils.h"
-#include "state/DialogPicture.h"
-#include "state/DrawingPicker.h"
-#include "state/FilePicker.h"
+#include "state/pickers/DrawingPicker.h"
+#include "state/pickers/FilePicker.h"
+#include "state/widgets/DialogPicture.h"
 #include "ui_DLG_QT_PatternHatch.h"
 
 #include <QEvent>

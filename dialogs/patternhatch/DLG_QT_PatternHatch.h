@@ -1,10 +1,10 @@
 #pragma once
 
 #include "dialogs/patternhatch/PatternSource.h"
-#include "state/ElidedPathField.h"
-#include "state/ElidedPathLabel.h"
-#include "state/FavouritesBox.h"
 #include "state/ToolDialog.h"
+#include "state/favourites/FavouritesBox.h"
+#include "state/widgets/ElidedPathField.h"
+#include "state/widgets/ElidedPathLabel.h"
 
 #include <array>
 #include <memory>

@@ -1,14 +1,14 @@
 #include "dialogs/redefinepaths/Dlg_QT_RedefinePaths.h"
 
 #include "formats/NameFilter.h"
-#include "state/FullText.h"
-#include "state/LongWork.h"
-#include "state/ReturnKey.h"
-#include "state/TableOrder.h"
-#include "state/TableReplacing.h"
-#include "state/TableRows.h"
-#include "state/TableSelection.h"
-#include "state/WholeTextItem.h"
+#include "state/tables/TableOrder.h"
+#include "state/tables/TableReplacing.h"
+#include "state/tables/TableRows.h"
+#include "state/tables/TableSelection.h"
+#include "state/tables/WholeTextItem.h"
+#include "state/widgets/FullText.h"
+#include "state/widgets/LongWork.h"
+#include "state/widgets/ReturnKey.h"
 #include "ui_Dlg_QT_RedefinePaths.h"
 
 #include <QEvent>

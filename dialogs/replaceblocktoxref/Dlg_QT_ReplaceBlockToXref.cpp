@@ -1,7 +1,7 @@
 #include "dialogs/replaceblocktoxref/Dlg_QT_ReplaceBlockToXref.h"
 
-#include "state/FolderPicker.h"
-#include "state/PathMessages.h"
+#include "state/pickers/FolderPicker.h"
+#include "state/pickers/PathMessages.h"
 #include "ui_Dlg_QT_ReplaceBlockToXref.h"
 
 #include <QDir>

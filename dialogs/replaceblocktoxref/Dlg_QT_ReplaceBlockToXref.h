@@ -1,7 +1,7 @@
 #pragma once
 
 #include "state/BlockReplacementDialog.h"
-#include "state/ElidedPathField.h"
+#include "state/widgets/ElidedPathField.h"
 
 #include <optional>
 

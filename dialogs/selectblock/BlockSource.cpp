@@ -2,7 +2,7 @@
 
 #include "platform/kernel/CKvDocument.h"
 #include "platform/kernel/CKvUtils.h"
-#include "state/RowSorting.h"
+#include "state/tables/RowSorting.h"
 
 #include <QFileInfo>
 #include <QHash>

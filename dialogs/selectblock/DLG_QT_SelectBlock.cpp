@@ -1,12 +1,12 @@
 #include "dialogs/selectblock/DLG_QT_SelectBlock.h"
 
 #include "formats/NameFilter.h"
-#include "state/DrawingPicker.h"
-#include "state/FullText.h"
-#include "state/PathMessages.h"
-#include "state/ReturnKey.h"
-#include "state/TableRows.h"
-#include "state/WholeTextItem.h"
+#include "state/pickers/DrawingPicker.h"
+#include "state/pickers/PathMessages.h"
+#include "state/tables/TableRows.h"
+#include "state/tables/WholeTextItem.h"
+#include "state/widgets/FullText.h"
+#include "state/widgets/ReturnKey.h"
 #include "ui_DLG_QT_SelectBlock.h"
 
 #include <QFileInfo>

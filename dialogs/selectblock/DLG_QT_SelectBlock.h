@@ -1,8 +1,8 @@
 #pragma once
 
 #include "dialogs/selectblock/BlockSource.h"
-#include "state/ElidedPathField.h"
 #include "state/ToolDialog.h"
+#include "state/widgets/ElidedPathField.h"
 
 #include <memory>
 

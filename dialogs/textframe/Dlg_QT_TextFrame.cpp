@@ -1,6 +1,6 @@
 #include "dialogs/textframe/Dlg_QT_TextFrame.h"
 
-#include "state/DialogPicture.h"
+#include "state/widgets/DialogPicture.h"
 #include "ui_Dlg_QT_TextFrame.h"
 
 #include <QDoubleValidator>

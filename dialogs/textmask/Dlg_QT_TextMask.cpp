@@ -1,8 +1,8 @@
 #include "dialogs/textmask/Dlg_QT_TextMask.h"
 
 #include "platform/kernel/CKvDocument.h"
-#include "state/DialogPicture.h"
-#include "state/FullText.h"
+#include "state/widgets/DialogPicture.h"
+#include "state/widgets/FullText.h"
 #include "ui_Dlg_QT_TextMask.h"
 
 namespace {

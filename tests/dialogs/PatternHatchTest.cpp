@@ -1,6 +1,6 @@
 #include "dialogs/patternhatch/DLG_QT_PatternHatch.h"
 #include "platform/widgets/CKvQtUnitSpinBox.h"
-#include "state/DrawingPreview.h"
+#include "state/widgets/DrawingPreview.h"
 #include "tests/dialogs/DialogTest.h"
 
 #include <QMenu>

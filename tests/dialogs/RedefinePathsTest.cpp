@@ -1,5 +1,5 @@
 #include "dialogs/redefinepaths/Dlg_QT_RedefinePaths.h"
-#include "state/TableSelection.h"
+#include "state/tables/TableSelection.h"
 #include "tests/dialogs/DialogTest.h"
 
 using namespace ortakit::test;

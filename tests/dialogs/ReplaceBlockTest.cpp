@@ -1,5 +1,5 @@
 #include "dialogs/replaceblock/Dlg_QT_ReplaceBlock.h"
-#include "state/DrawingPreview.h"
+#include "state/widgets/DrawingPreview.h"
 #include "tests/dialogs/NameTables.h"
 
 using namespace ortakit::test;

@@ -1,5 +1,5 @@
 #include "dialogs/replaceblocktoxref/Dlg_QT_ReplaceBlockToXref.h"
-#include "state/DrawingPreview.h"
+#include "state/widgets/DrawingPreview.h"
 #include "tests/dialogs/NameTables.h"
 
 using namespace ortakit::test;

@@ -1,6 +1,6 @@
 #include "dialogs/selectblock/DLG_QT_SelectBlock.h"
 #include "platform/kernel/CKvUtils.h"
-#include "state/DrawingPreview.h"
+#include "state/widgets/DrawingPreview.h"
 #include "tests/dialogs/DialogTest.h"
 #include "tests/dialogs/NameTables.h"
 

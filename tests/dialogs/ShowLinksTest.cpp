@@ -1,5 +1,5 @@
 #include "dialogs/showlinks/Dlg_QT_ShowLinks.h"
-#include "state/TableSelection.h"
+#include "state/tables/TableSelection.h"
 #include "tests/dialogs/DialogTest.h"
 
 #include <QDesktopServices>

@@ -1,4 +1,4 @@
-#include "state/DialogState.h"
+#include "state/exchange/DialogState.h"
 
 #include "tests/state/Gallery.h"
 #include "tests/support/FakeHost.h"

@@ -1,4 +1,4 @@
-#include "state/DocumentPrinting.h"
+#include "state/host/DocumentPrinting.h"
 
 #include "tests/support/FakeHost.h"
 #include "tests/support/ModalAnswers.h"

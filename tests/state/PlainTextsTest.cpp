@@ -1,7 +1,7 @@
-#include "state/PlainTexts.h"
+#include "state/widgets/PlainTexts.h"
 
 #include "files/qt/VisibleText.h"
-#include "state/WholeTextItem.h"
+#include "state/tables/WholeTextItem.h"
 #include "tests/support/QtTestPrinters.h"
 
 #include <QDialog>

@@ -1,7 +1,7 @@
-#include "state/RowMover.h"
+#include "state/tables/RowMover.h"
 
-#include "state/TableRows.h"
-#include "state/TableSelection.h"
+#include "state/tables/TableRows.h"
+#include "state/tables/TableSelection.h"
 #include "tests/support/QtTestPrinters.h"
 
 #include <QDropEvent>

@@ -1,4 +1,4 @@
-#include "state/StateFile.h"
+#include "state/exchange/StateFile.h"
 
 #include "tests/support/FakeHost.h"
 #include "tests/support/QtTestPrinters.h"

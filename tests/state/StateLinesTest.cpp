@@ -1,4 +1,4 @@
-#include "state/StateLines.h"
+#include "state/exchange/StateLines.h"
 
 #include "tests/support/QtTestPrinters.h"
 

@@ -1,7 +1,7 @@
-#include "state/TableOrder.h"
-#include "state/TableReplacing.h"
-#include "state/TableRows.h"
-#include "state/TableSelection.h"
+#include "state/tables/TableOrder.h"
+#include "state/tables/TableReplacing.h"
+#include "state/tables/TableRows.h"
+#include "state/tables/TableSelection.h"
 #include "tests/support/ModalAnswers.h"
 #include "tests/support/QtTestPrinters.h"
 

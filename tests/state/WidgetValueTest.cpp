@@ -1,4 +1,4 @@
-#include "state/WidgetValue.h"
+#include "state/exchange/WidgetValue.h"
 
 #include "tests/state/Gallery.h"
 #include "tests/support/QtTestPrinters.h"
