@@ -3,8 +3,8 @@
 
 #include "bench/DimeLoad.h"
 #include "bench/Ratios.h"
-#include "host/drawing/Drawing.h"
-#include "host/drawing/Save.h"
+#include "host/drawing/file/Save.h"
+#include "host/drawing/records/Drawing.h"
 
 #include <QFile>
 #include <QTemporaryDir>

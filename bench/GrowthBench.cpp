@@ -2,7 +2,7 @@
 // work that a picture is granted, and not at all beyond.
 
 #include "bench/Ratios.h"
-#include "host/drawing/Drawing.h"
+#include "host/drawing/records/Drawing.h"
 #include "host/view/Scene.h"
 #include "host/view/ScenePainter.h"
 

@@ -2,9 +2,9 @@
 // beside opening them as drawings.
 
 #include "bench/Ratios.h"
-#include "host/drawing/Dictionaries.h"
-#include "host/drawing/NewDrawing.h"
-#include "host/drawing/XrecordInFile.h"
+#include "host/drawing/file/NewDrawing.h"
+#include "host/drawing/file/XrecordInFile.h"
+#include "host/drawing/records/Dictionaries.h"
 
 #include <QFile>
 #include <QTemporaryDir>

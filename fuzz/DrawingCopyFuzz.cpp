@@ -3,11 +3,11 @@
 
 #include "fuzz/FuzzedDrawing.h"
 #include "fuzz/Require.h"
-#include "host/drawing/Blocks.h"
-#include "host/drawing/CopyBetweenDrawings.h"
-#include "host/drawing/Entities.h"
-#include "host/drawing/Journal.h"
-#include "host/drawing/NewDrawing.h"
+#include "host/drawing/editing/CopyBetweenDrawings.h"
+#include "host/drawing/file/NewDrawing.h"
+#include "host/drawing/records/Blocks.h"
+#include "host/drawing/records/Entities.h"
+#include "host/drawing/records/Journal.h"
 
 using namespace host::drawing;
 

@@ -1,12 +1,12 @@
 // Any bytes: a drawing that reads is written as it was, gives all it holds, and takes an edit back exactly.
 
 #include "fuzz/Require.h"
-#include "host/drawing/Drawing.h"
-#include "host/drawing/Entities.h"
-#include "host/drawing/EntityGeometry.h"
-#include "host/drawing/Journal.h"
-#include "host/drawing/Symbols.h"
-#include "host/drawing/TransformEntity.h"
+#include "host/drawing/geometry/EntityGeometry.h"
+#include "host/drawing/geometry/TransformEntity.h"
+#include "host/drawing/records/Drawing.h"
+#include "host/drawing/records/Entities.h"
+#include "host/drawing/records/Journal.h"
+#include "host/drawing/records/Symbols.h"
 
 using namespace host::drawing;
 

@@ -2,7 +2,7 @@
 
 #include "fuzz/HostSession.h"
 #include "fuzz/Require.h"
-#include "state/favourites/FavouriteStore.h"
+#include "state/exchange/FavouriteStore.h"
 
 #include <algorithm>
 

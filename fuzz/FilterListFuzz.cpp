@@ -3,7 +3,7 @@
 
 #include "fuzz/HostSession.h"
 #include "fuzz/Require.h"
-#include "host/drawing/Entities.h"
+#include "host/drawing/records/Entities.h"
 #include "host/kernel/ResBufConversion.h"
 #include "host/kernel/functions/SelectionFilterList.h"
 #include "host/lisp/Interpreter.h"

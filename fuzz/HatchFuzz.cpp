@@ -3,8 +3,8 @@
 
 #include "fuzz/FuzzedDrawing.h"
 #include "fuzz/Require.h"
-#include "host/drawing/Drawing.h"
-#include "host/drawing/Entities.h"
+#include "host/drawing/records/Drawing.h"
+#include "host/drawing/records/Entities.h"
 #include "host/view/HatchLines.h"
 
 using namespace host::view;

@@ -1,9 +1,9 @@
 // Any bytes as a linetype source that is loaded into a drawing: every definition comes in or says why not, and what
 // came in is what it said.
 
-#include "host/drawing/LinetypeSource.h"
-#include "host/drawing/NewDrawing.h"
-#include "host/drawing/Symbols.h"
+#include "host/drawing/file/NewDrawing.h"
+#include "host/drawing/records/Symbols.h"
+#include "host/drawing/references/LinetypeSource.h"
 
 #include <cstdlib>
 #include <memory>

@@ -2,7 +2,7 @@
 // and its value is of bounded size.
 
 #include "fuzz/Require.h"
-#include "host/drawing/MacroExpression.h"
+#include "host/drawing/text/MacroExpression.h"
 
 using namespace host::drawing;
 

@@ -4,7 +4,7 @@
 #include "fuzz/FuzzedDrawing.h"
 #include "fuzz/GuiApplication.h"
 #include "fuzz/Require.h"
-#include "host/drawing/Journal.h"
+#include "host/drawing/records/Journal.h"
 #include "host/view/ScenePainter.h"
 
 #include <QGuiApplication>

@@ -2,8 +2,8 @@
 
 #include "fuzz/FuzzedDrawing.h"
 #include "fuzz/Require.h"
-#include "host/drawing/Entities.h"
-#include "host/drawing/SelectionFilter.h"
+#include "host/drawing/records/Entities.h"
+#include "host/drawing/selection/SelectionFilter.h"
 
 using namespace host::drawing;
 using namespace Qt::StringLiterals;

@@ -1,7 +1,7 @@
 // Any bytes as a shape file, source or compiled: reading and drawing all of its shapes ends, and what is drawn is
 // lines.
 
-#include "host/drawing/ShapeFile.h"
+#include "host/drawing/references/ShapeFile.h"
 
 #include <cstdlib>
 

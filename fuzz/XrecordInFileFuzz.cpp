@@ -1,8 +1,8 @@
 // Any bytes: where the whole file reads as a drawing, its ends say the same of a record as the whole.
 
 #include "fuzz/Require.h"
-#include "host/drawing/Dictionaries.h"
-#include "host/drawing/XrecordInFile.h"
+#include "host/drawing/file/XrecordInFile.h"
+#include "host/drawing/records/Dictionaries.h"
 
 #include <QBuffer>
 #include <QSet>

@@ -1,6 +1,6 @@
 #include "host/kernel/CurrentProperties.h"
 
-#include "host/drawing/HeaderVariables.h"
+#include "host/drawing/records/HeaderVariables.h"
 
 namespace host::kernel {
 

@@ -1,7 +1,7 @@
 #include "host/kernel/CurrentSpace.h"
 
-#include "host/drawing/HeaderVariables.h"
-#include "host/drawing/Layouts.h"
+#include "host/drawing/records/HeaderVariables.h"
+#include "host/drawing/records/Layouts.h"
 
 namespace host::kernel {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/drawing/Entities.h"
+#include "host/drawing/records/Entities.h"
 
 #include <optional>
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "host/drawing/Drawing.h"
-#include "host/drawing/Matrix.h"
-#include "host/drawing/Save.h"
+#include "host/drawing/file/Save.h"
+#include "host/drawing/math/Matrix.h"
+#include "host/drawing/records/Drawing.h"
 #include "host/kernel/UndoSteps.h"
 #include "host/kernel/files/DrawingClaim.h"
 #include "host/kernel/files/WriteObstacle.h"

@@ -2,7 +2,7 @@
 
 #include "files/Leftovers.h"
 #include "files/qt/Files.h"
-#include "host/drawing/NewDrawing.h"
+#include "host/drawing/file/NewDrawing.h"
 #include "host/kernel/Services.h"
 #include "host/kernel/Session.h"
 

@@ -1,8 +1,8 @@
 #include "host/kernel/DrawingDatabase.h"
 
-#include "host/drawing/Dictionaries.h"
-#include "host/drawing/Structure.h"
-#include "host/drawing/TransformEntity.h"
+#include "host/drawing/geometry/TransformEntity.h"
+#include "host/drawing/records/Dictionaries.h"
+#include "host/drawing/records/Structure.h"
 #include "host/kernel/CurrentSpace.h"
 #include "host/kernel/Document.h"
 #include "host/kernel/ObjectIds.h"

@@ -1,6 +1,6 @@
 #include "host/kernel/ExpressionSurroundings.h"
 
-#include "host/drawing/DrawingVariables.h"
+#include "host/drawing/text/DrawingVariables.h"
 #include "host/kernel/Document.h"
 #include "host/kernel/SystemVariables.h"
 #include "host/lisp/Units.h"

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "host/drawing/MacroExpression.h"
-#include "host/drawing/NamedFiles.h"
+#include "host/drawing/references/NamedFiles.h"
+#include "host/drawing/text/MacroExpression.h"
 #include "platform/Export.h"
 
 namespace host::kernel {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/drawing/Record.h"
+#include "host/drawing/records/Record.h"
 #include "platform/db/OdDbObjectId.h"
 
 namespace host::kernel {

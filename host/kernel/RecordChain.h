@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/drawing/Tag.h"
+#include "host/drawing/tags/Tag.h"
 #include "platform/kernel/OdResBuf.h"
 
 namespace host::kernel {

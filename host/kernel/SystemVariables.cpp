@@ -1,7 +1,7 @@
 #include "host/kernel/SystemVariables.h"
 
-#include "host/drawing/HeaderVariables.h"
-#include "host/drawing/WipeoutFrame.h"
+#include "host/drawing/editing/WipeoutFrame.h"
+#include "host/drawing/records/HeaderVariables.h"
 #include "host/kernel/CurrentSpace.h"
 #include "host/kernel/Document.h"
 #include "host/kernel/Editor.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/drawing/NamedFiles.h"
+#include "host/drawing/references/NamedFiles.h"
 #include "host/lisp/Console.h"
 #include "platform/Export.h"
 

@@ -1,6 +1,6 @@
 #include "host/kernel/UndoSteps.h"
 
-#include "host/drawing/Journal.h"
+#include "host/drawing/records/Journal.h"
 
 #include <algorithm>
 

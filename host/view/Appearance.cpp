@@ -1,8 +1,8 @@
 #include "host/view/Appearance.h"
 
-#include "host/drawing/HeaderVariables.h"
-#include "host/drawing/Tables.h"
-#include "host/drawing/WipeoutFrame.h"
+#include "host/drawing/editing/WipeoutFrame.h"
+#include "host/drawing/records/HeaderVariables.h"
+#include "host/drawing/records/Tables.h"
 #include "host/view/Fonts.h"
 #include "host/view/WideLine.h"
 

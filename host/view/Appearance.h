@@ -1,7 +1,7 @@
 #pragma once
 
-#include "host/drawing/ShapeFiles.h"
-#include "host/drawing/Symbols.h"
+#include "host/drawing/records/Symbols.h"
+#include "host/drawing/references/ShapeFiles.h"
 #include "host/view/AciColor.h"
 #include "host/view/Display.h"
 

@@ -1,4 +1,4 @@
-#include "host/drawing/Tables.h"
+#include "host/drawing/records/Tables.h"
 #include "host/view/BuildMText.h"
 
 namespace host::view {

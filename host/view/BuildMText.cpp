@@ -1,6 +1,6 @@
 #include "host/view/BuildMText.h"
 
-#include "host/drawing/ParagraphText.h"
+#include "host/drawing/text/ParagraphText.h"
 #include "host/view/TextLook.h"
 
 #include <numbers>

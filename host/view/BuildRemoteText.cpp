@@ -1,4 +1,4 @@
-#include "host/drawing/RemoteTextContent.h"
+#include "host/drawing/text/RemoteTextContent.h"
 #include "host/view/BuildMText.h"
 #include "host/view/Scene.h"
 

@@ -1,4 +1,4 @@
-#include "host/drawing/Symbols.h"
+#include "host/drawing/records/Symbols.h"
 #include "host/view/DisplayBuilder.h"
 #include "host/view/MTextLayout.h"
 #include "host/view/TextCodes.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/drawing/WorkBudget.h"
+#include "host/drawing/math/WorkBudget.h"
 #include "host/view/Display.h"
 
 #include <QPolygonF>

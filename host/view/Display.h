@@ -1,9 +1,9 @@
 #pragma once
 
-#include "host/drawing/Curves.h"
-#include "host/drawing/Matrix.h"
-#include "host/drawing/Record.h"
-#include "host/drawing/Vec.h"
+#include "host/drawing/math/Curves.h"
+#include "host/drawing/math/Matrix.h"
+#include "host/drawing/math/Vec.h"
+#include "host/drawing/records/Record.h"
 
 #include <QString>
 

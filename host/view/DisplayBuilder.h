@@ -1,7 +1,7 @@
 #pragma once
 
-#include "host/drawing/Drawing.h"
-#include "host/drawing/WorkBudget.h"
+#include "host/drawing/math/WorkBudget.h"
+#include "host/drawing/records/Drawing.h"
 #include "host/view/Display.h"
 #include "host/view/Fonts.h"
 

@@ -1,6 +1,6 @@
 #include "host/view/EntityExtents.h"
 
-#include "host/drawing/EntityGeometry.h"
+#include "host/drawing/geometry/EntityGeometry.h"
 #include "host/view/DisplayBoxes.h"
 #include "host/view/DisplayBuilder.h"
 #include "host/view/HatchBoundary.h"

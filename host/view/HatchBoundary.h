@@ -1,7 +1,7 @@
 #pragma once
 
-#include "host/drawing/TagList.h"
-#include "host/drawing/WorkBudget.h"
+#include "host/drawing/math/WorkBudget.h"
+#include "host/drawing/tags/TagList.h"
 #include "host/view/Display.h"
 
 #include <vector>

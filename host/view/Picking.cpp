@@ -1,6 +1,6 @@
 #include "host/view/Picking.h"
 
-#include "host/drawing/EntityGeometry.h"
+#include "host/drawing/geometry/EntityGeometry.h"
 #include "host/view/SceneWalker.h"
 
 #include <array>

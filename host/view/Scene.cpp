@@ -1,7 +1,7 @@
 #include "host/view/Scene.h"
 
-#include "host/drawing/Blocks.h"
-#include "host/drawing/DrawingVariables.h"
+#include "host/drawing/records/Blocks.h"
+#include "host/drawing/text/DrawingVariables.h"
 #include "host/view/DisplayBoxes.h"
 #include "host/view/DisplayBuilder.h"
 #include "host/view/PostOrder.h"

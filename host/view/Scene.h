@@ -1,9 +1,9 @@
 #pragma once
 
-#include "host/drawing/Drawing.h"
-#include "host/drawing/Entities.h"
-#include "host/drawing/MacroExpression.h"
-#include "host/drawing/WorkBudget.h"
+#include "host/drawing/math/WorkBudget.h"
+#include "host/drawing/records/Drawing.h"
+#include "host/drawing/records/Entities.h"
+#include "host/drawing/text/MacroExpression.h"
 #include "host/view/Appearance.h"
 #include "host/view/Display.h"
 #include "host/view/DrawOrder.h"

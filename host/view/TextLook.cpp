@@ -1,6 +1,6 @@
 #include "host/view/TextLook.h"
 
-#include "host/drawing/Symbols.h"
+#include "host/drawing/records/Symbols.h"
 
 #include <numbers>
 

@@ -1,7 +1,7 @@
 #include "host/view/TextMeasure.h"
 
-#include "host/drawing/TagReader.h"
-#include "host/drawing/TagWriter.h"
+#include "host/drawing/tags/TagReader.h"
+#include "host/drawing/tags/TagWriter.h"
 #include "host/view/DisplayBoxes.h"
 #include "host/view/DisplayBuilder.h"
 #include "host/view/Scene.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/drawing/Matrix.h"
+#include "host/drawing/math/Matrix.h"
 
 #include <QPointF>
 #include <QRectF>

@@ -1,8 +1,8 @@
 #include "state/exchange/DialogState.h"
 
+#include "state/exchange/FavouriteStore.h"
 #include "state/exchange/StateFile.h"
 #include "state/exchange/WidgetValue.h"
-#include "state/favourites/FavouriteStore.h"
 #include "state/host/ModuleFolder.h"
 
 #include <QDialog>

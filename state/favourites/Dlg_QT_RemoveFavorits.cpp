@@ -1,7 +1,7 @@
 #include "state/favourites/Dlg_QT_RemoveFavorits.h"
 
 #include "platform/kernel/CKvMessageBox.h"
-#include "state/favourites/FavouriteStore.h"
+#include "state/exchange/FavouriteStore.h"
 #include "state/widgets/ButtonIcons.h"
 #include "state/widgets/PlainTexts.h"
 #include "ui_Dlg_QT_RemoveFavorits.h"

@@ -1,8 +1,8 @@
 #include "state/favourites/FavouritesBox.h"
 
 #include "platform/kernel/CKvMessageBox.h"
+#include "state/exchange/FavouriteStore.h"
 #include "state/favourites/Dlg_QT_RemoveFavorits.h"
-#include "state/favourites/FavouriteStore.h"
 
 #include <QAbstractButton>
 #include <QComboBox>

@@ -1,7 +1,7 @@
-#include "host/drawing/Dictionaries.h"
+#include "host/drawing/records/Dictionaries.h"
 
-#include "host/drawing/Journal.h"
-#include "host/drawing/NewDrawing.h"
+#include "host/drawing/file/NewDrawing.h"
+#include "host/drawing/records/Journal.h"
 #include "tests/drawing/DrawingSample.h"
 
 namespace host::drawing {

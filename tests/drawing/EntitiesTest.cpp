@@ -1,8 +1,8 @@
-#include "host/drawing/Blocks.h"
-#include "host/drawing/HeaderVariables.h"
-#include "host/drawing/Journal.h"
-#include "host/drawing/NewDrawing.h"
-#include "host/drawing/Tables.h"
+#include "host/drawing/file/NewDrawing.h"
+#include "host/drawing/records/Blocks.h"
+#include "host/drawing/records/HeaderVariables.h"
+#include "host/drawing/records/Journal.h"
+#include "host/drawing/records/Tables.h"
 #include "tests/drawing/DrawingSample.h"
 
 namespace host::drawing {

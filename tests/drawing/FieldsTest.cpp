@@ -1,4 +1,4 @@
-#include "host/drawing/Journal.h"
+#include "host/drawing/records/Journal.h"
 #include "tests/drawing/DrawingSample.h"
 
 // What records give as typed fields, and what becomes of the bytes when fields are written.

@@ -1,4 +1,4 @@
-#include "host/drawing/EntityGeometry.h"
+#include "host/drawing/geometry/EntityGeometry.h"
 #include "tests/drawing/DrawingSample.h"
 
 #include <numbers>

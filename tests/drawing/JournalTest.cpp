@@ -1,9 +1,9 @@
-#include "host/drawing/Journal.h"
+#include "host/drawing/records/Journal.h"
 
-#include "host/drawing/Blocks.h"
-#include "host/drawing/Dictionaries.h"
-#include "host/drawing/HeaderVariables.h"
-#include "host/drawing/Tables.h"
+#include "host/drawing/records/Blocks.h"
+#include "host/drawing/records/Dictionaries.h"
+#include "host/drawing/records/HeaderVariables.h"
+#include "host/drawing/records/Tables.h"
 #include "tests/drawing/DrawingSample.h"
 
 #include <functional>

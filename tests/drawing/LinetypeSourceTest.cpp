@@ -1,8 +1,8 @@
-#include "host/drawing/LinetypeSource.h"
+#include "host/drawing/references/LinetypeSource.h"
 
-#include "host/drawing/Journal.h"
-#include "host/drawing/Symbols.h"
-#include "host/drawing/Tables.h"
+#include "host/drawing/records/Journal.h"
+#include "host/drawing/records/Symbols.h"
+#include "host/drawing/records/Tables.h"
 #include "tests/drawing/DrawingSample.h"
 
 #include <QTemporaryDir>

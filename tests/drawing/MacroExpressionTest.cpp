@@ -1,6 +1,6 @@
-#include "host/drawing/DateText.h"
-#include "host/drawing/DrawingVariables.h"
-#include "host/drawing/NewDrawing.h"
+#include "host/drawing/file/NewDrawing.h"
+#include "host/drawing/text/DateText.h"
+#include "host/drawing/text/DrawingVariables.h"
 
 #include <gtest/gtest.h>
 

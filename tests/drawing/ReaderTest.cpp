@@ -1,5 +1,5 @@
-#include "host/drawing/HeaderVariables.h"
-#include "host/drawing/Journal.h"
+#include "host/drawing/records/HeaderVariables.h"
+#include "host/drawing/records/Journal.h"
 #include "tests/drawing/DrawingSample.h"
 
 #include <QDir>

@@ -1,6 +1,6 @@
-#include "host/drawing/Save.h"
+#include "host/drawing/file/Save.h"
 
-#include "host/drawing/Journal.h"
+#include "host/drawing/records/Journal.h"
 #include "tests/drawing/DrawingSample.h"
 
 #include <QDir>

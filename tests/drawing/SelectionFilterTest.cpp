@@ -1,4 +1,4 @@
-#include "host/drawing/SelectionFilter.h"
+#include "host/drawing/selection/SelectionFilter.h"
 
 #include "tests/drawing/DrawingSample.h"
 

@@ -1,6 +1,6 @@
-#include "host/drawing/ShapeFiles.h"
-#include "host/drawing/Symbols.h"
-#include "host/drawing/Tables.h"
+#include "host/drawing/records/Symbols.h"
+#include "host/drawing/records/Tables.h"
+#include "host/drawing/references/ShapeFiles.h"
 #include "tests/drawing/DrawingSample.h"
 
 #include <QFile>

@@ -1,12 +1,12 @@
-#include "host/drawing/SheetMerge.h"
+#include "host/drawing/editing/SheetMerge.h"
 
-#include "host/drawing/Blocks.h"
-#include "host/drawing/Dictionaries.h"
-#include "host/drawing/Entities.h"
-#include "host/drawing/EntityGeometry.h"
-#include "host/drawing/Journal.h"
-#include "host/drawing/NewDrawing.h"
-#include "host/drawing/Tables.h"
+#include "host/drawing/file/NewDrawing.h"
+#include "host/drawing/geometry/EntityGeometry.h"
+#include "host/drawing/records/Blocks.h"
+#include "host/drawing/records/Dictionaries.h"
+#include "host/drawing/records/Entities.h"
+#include "host/drawing/records/Journal.h"
+#include "host/drawing/records/Tables.h"
 #include "tests/drawing/DrawingSample.h"
 
 #include <QDir>

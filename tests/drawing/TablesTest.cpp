@@ -1,9 +1,9 @@
-#include "host/drawing/Tables.h"
+#include "host/drawing/records/Tables.h"
 
-#include "host/drawing/Blocks.h"
-#include "host/drawing/Journal.h"
-#include "host/drawing/NewDrawing.h"
-#include "host/drawing/Symbols.h"
+#include "host/drawing/file/NewDrawing.h"
+#include "host/drawing/records/Blocks.h"
+#include "host/drawing/records/Journal.h"
+#include "host/drawing/records/Symbols.h"
 #include "tests/drawing/DrawingSample.h"
 
 namespace host::drawing {

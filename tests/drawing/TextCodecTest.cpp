@@ -1,6 +1,6 @@
-#include "host/drawing/TextCodec.h"
+#include "host/drawing/tags/TextCodec.h"
 
-#include "host/drawing/Journal.h"
+#include "host/drawing/records/Journal.h"
 #include "tests/drawing/DrawingSample.h"
 
 namespace host::drawing {

@@ -1,8 +1,8 @@
-#include "host/drawing/Blocks.h"
-#include "host/drawing/EntityGeometry.h"
-#include "host/drawing/Journal.h"
-#include "host/drawing/Tables.h"
-#include "host/drawing/TransformEntity.h"
+#include "host/drawing/geometry/EntityGeometry.h"
+#include "host/drawing/geometry/TransformEntity.h"
+#include "host/drawing/records/Blocks.h"
+#include "host/drawing/records/Journal.h"
+#include "host/drawing/records/Tables.h"
 #include "tests/drawing/DrawingSample.h"
 
 #include <numbers>

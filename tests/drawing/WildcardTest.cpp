@@ -1,4 +1,4 @@
-#include "host/drawing/Wildcard.h"
+#include "host/drawing/selection/Wildcard.h"
 
 #include <QString>
 

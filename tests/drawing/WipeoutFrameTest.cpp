@@ -1,7 +1,7 @@
-#include "host/drawing/WipeoutFrame.h"
+#include "host/drawing/editing/WipeoutFrame.h"
 
-#include "host/drawing/Dictionaries.h"
-#include "host/drawing/Journal.h"
+#include "host/drawing/records/Dictionaries.h"
+#include "host/drawing/records/Journal.h"
 #include "tests/drawing/DrawingSample.h"
 
 namespace host::drawing {

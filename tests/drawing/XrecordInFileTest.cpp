@@ -1,8 +1,8 @@
-#include "host/drawing/XrecordInFile.h"
+#include "host/drawing/file/XrecordInFile.h"
 
-#include "host/drawing/Dictionaries.h"
-#include "host/drawing/HeaderVariables.h"
-#include "host/drawing/NewDrawing.h"
+#include "host/drawing/file/NewDrawing.h"
+#include "host/drawing/records/Dictionaries.h"
+#include "host/drawing/records/HeaderVariables.h"
 #include "tests/drawing/DrawingSample.h"
 
 #include <QBuffer>

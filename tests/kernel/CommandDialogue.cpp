@@ -1,6 +1,6 @@
 #include "tests/kernel/CommandDialogue.h"
 
-#include "host/drawing/Entities.h"
+#include "host/drawing/records/Entities.h"
 #include "host/kernel/SystemVariables.h"
 #include "host/kernel/input/InputFeeder.h"
 

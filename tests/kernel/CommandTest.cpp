@@ -1,4 +1,4 @@
-#include "host/drawing/Entities.h"
+#include "host/drawing/records/Entities.h"
 #include "host/kernel/commands/CommandStack.h"
 #include "host/kernel/commands/CommandTable.h"
 #include "platform/kernel/CKvDocument.h"

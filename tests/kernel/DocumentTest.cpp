@@ -1,5 +1,5 @@
-#include "host/drawing/Dictionaries.h"
-#include "host/drawing/Entities.h"
+#include "host/drawing/records/Dictionaries.h"
+#include "host/drawing/records/Entities.h"
 #include "host/kernel/Editor.h"
 #include "platform/db/OdDbDatabase.h"
 #include "platform/ed/OdEditor.h"

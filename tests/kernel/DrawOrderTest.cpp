@@ -1,6 +1,6 @@
 #include "host/view/DrawOrder.h"
 
-#include "host/drawing/Entities.h"
+#include "host/drawing/records/Entities.h"
 #include "tests/kernel/Bench.h"
 
 namespace {

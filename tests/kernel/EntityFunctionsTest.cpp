@@ -1,7 +1,7 @@
-#include "host/drawing/Blocks.h"
-#include "host/drawing/Entities.h"
-#include "host/drawing/HeaderVariables.h"
-#include "host/drawing/Journal.h"
+#include "host/drawing/records/Blocks.h"
+#include "host/drawing/records/Entities.h"
+#include "host/drawing/records/HeaderVariables.h"
+#include "host/drawing/records/Journal.h"
 #include "tests/kernel/Bench.h"
 
 #include <QFile>

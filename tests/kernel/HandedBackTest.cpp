@@ -1,7 +1,7 @@
 // Entity lists of drawings made elsewhere, from the folder that ORTAKIT_CORPUS names and a folder "dwg" beside it.
 
-#include "host/drawing/Entities.h"
-#include "host/drawing/Layouts.h"
+#include "host/drawing/records/Entities.h"
+#include "host/drawing/records/Layouts.h"
 #include "host/kernel/functions/EntityList.h"
 #include "host/kernel/functions/LispConversion.h"
 #include "host/kernel/functions/SelectionFilterList.h"

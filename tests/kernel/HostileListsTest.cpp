@@ -1,7 +1,7 @@
 // Lists of fields that no drawing may have in it: what of them is taken still makes a file that opens again, with the
 // same records in it.
 
-#include "host/drawing/Drawing.h"
+#include "host/drawing/records/Drawing.h"
 #include "tests/kernel/Bench.h"
 
 namespace {

@@ -1,4 +1,4 @@
-#include "host/drawing/ShapeFiles.h"
+#include "host/drawing/references/ShapeFiles.h"
 #include "tests/kernel/Bench.h"
 
 namespace {

@@ -1,6 +1,6 @@
 // Files of drawings that other tabs, sessions and programs have open or have changed.
 
-#include "host/drawing/NewDrawing.h"
+#include "host/drawing/file/NewDrawing.h"
 #include "host/kernel/files/DrawingLock.h"
 #include "platform/kernel/CKvUtils.h"
 #include "tests/kernel/Bench.h"

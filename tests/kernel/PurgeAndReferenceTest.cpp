@@ -1,5 +1,5 @@
-#include "host/drawing/Blocks.h"
-#include "host/drawing/Dictionaries.h"
+#include "host/drawing/records/Blocks.h"
+#include "host/drawing/records/Dictionaries.h"
 #include "tests/kernel/Bench.h"
 
 using namespace Qt::StringLiterals;

@@ -1,5 +1,5 @@
-#include "host/drawing/Entities.h"
-#include "host/drawing/Journal.h"
+#include "host/drawing/records/Entities.h"
+#include "host/drawing/records/Journal.h"
 #include "tests/kernel/Bench.h"
 
 using namespace host::kernel;

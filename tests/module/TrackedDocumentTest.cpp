@@ -1,7 +1,7 @@
 // Editing time from the first command to the next session, in the embedded host and with the module's own dialog.
 
 #include "dialogs/tracktime/Dlg_QT_TrackTime.h"
-#include "host/drawing/NewDrawing.h"
+#include "host/drawing/file/NewDrawing.h"
 #include "host/kernel/Session.h"
 #include "module/CLispFunctionsModule.h"
 #include "module/DialogRegistry.h"

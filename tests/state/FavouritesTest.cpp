@@ -1,5 +1,5 @@
+#include "state/exchange/FavouriteStore.h"
 #include "state/favourites/Dlg_QT_RemoveFavorits.h"
-#include "state/favourites/FavouriteStore.h"
 #include "state/favourites/FavouritesBox.h"
 #include "tests/state/Gallery.h"
 #include "tests/support/FakeHost.h"

@@ -1,4 +1,4 @@
-#include "host/drawing/Entities.h"
+#include "host/drawing/records/Entities.h"
 #include "tests/support/QtTestPrinters.h"
 #include "tests/tools/ToolRun.h"
 

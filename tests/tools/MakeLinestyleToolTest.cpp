@@ -1,4 +1,4 @@
-#include "host/drawing/Symbols.h"
+#include "host/drawing/records/Symbols.h"
 #include "tests/support/QtTestPrinters.h"
 #include "tests/tools/ToolRun.h"
 

@@ -1,4 +1,4 @@
-#include "host/drawing/Drawing.h"
+#include "host/drawing/records/Drawing.h"
 #include "tests/support/QtTestPrinters.h"
 #include "tests/tools/ToolRun.h"
 

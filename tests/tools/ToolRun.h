@@ -1,7 +1,7 @@
 #pragma once
 
 #include "host/app/workbench/Workbench.h"
-#include "host/drawing/Drawing.h"
+#include "host/drawing/records/Drawing.h"
 
 #include <QStringList>
 #include <QTemporaryDir>

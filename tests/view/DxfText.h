@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/drawing/Drawing.h"
+#include "host/drawing/records/Drawing.h"
 
 #include <QByteArray>
 

@@ -1,11 +1,11 @@
 // A scene follows its drawing: what changed is drawn anew, what did not is kept.
 
-#include "host/drawing/Blocks.h"
-#include "host/drawing/Entities.h"
-#include "host/drawing/HeaderVariables.h"
-#include "host/drawing/Journal.h"
-#include "host/drawing/Tables.h"
-#include "host/drawing/WipeoutFrame.h"
+#include "host/drawing/editing/WipeoutFrame.h"
+#include "host/drawing/records/Blocks.h"
+#include "host/drawing/records/Entities.h"
+#include "host/drawing/records/HeaderVariables.h"
+#include "host/drawing/records/Journal.h"
+#include "host/drawing/records/Tables.h"
 #include "tests/view/Rendering.h"
 
 #include <gtest/gtest.h>

@@ -3,8 +3,8 @@
 #include "host/app/playback/DialogSteps.h"
 #include "host/app/playback/WidgetFinder.h"
 #include "host/app/workbench/DrawingPicture.h"
-#include "host/drawing/Entities.h"
-#include "host/drawing/EntityGeometry.h"
+#include "host/drawing/geometry/EntityGeometry.h"
+#include "host/drawing/records/Entities.h"
 #include "host/kernel/Session.h"
 
 #include <QApplication>

@@ -1,6 +1,6 @@
 #include "host/app/window/DrawingCanvas.h"
 
-#include "host/drawing/HeaderVariables.h"
+#include "host/drawing/records/HeaderVariables.h"
 #include "host/kernel/ExpressionSurroundings.h"
 #include "host/kernel/SystemVariables.h"
 #include "host/view/Picking.h"

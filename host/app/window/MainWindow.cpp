@@ -6,7 +6,7 @@
 #include "host/app/window/Preferences.h"
 #include "host/app/window/TrustQuestion.h"
 #include "host/app/window/WindowFeeder.h"
-#include "host/drawing/HeaderVariables.h"
+#include "host/drawing/records/HeaderVariables.h"
 
 #include <QCloseEvent>
 #include <QDockWidget>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "host/drawing/Drawing.h"
-#include "host/drawing/Entities.h"
+#include "host/drawing/records/Drawing.h"
+#include "host/drawing/records/Entities.h"
 #include "host/kernel/commands/CommandTask.h"
 #include "host/kernel/input/SelectionBuilder.h"
 

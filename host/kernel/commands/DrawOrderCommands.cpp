@@ -1,6 +1,6 @@
 // Which entity covers which.
 
-#include "host/drawing/SortTable.h"
+#include "host/drawing/records/SortTable.h"
 #include "host/kernel/CurrentSpace.h"
 #include "host/kernel/Document.h"
 #include "host/kernel/commands/CommandContext.h"

@@ -1,6 +1,6 @@
 #include "host/kernel/commands/EntityEdits.h"
 
-#include "host/drawing/TransformEntity.h"
+#include "host/drawing/geometry/TransformEntity.h"
 #include "host/kernel/commands/CommandContext.h"
 #include "host/kernel/input/SelectionQuery.h"
 

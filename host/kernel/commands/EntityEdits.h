@@ -1,7 +1,7 @@
 #pragma once
 
-#include "host/drawing/Matrix.h"
-#include "host/drawing/Record.h"
+#include "host/drawing/math/Matrix.h"
+#include "host/drawing/records/Record.h"
 
 #include <vector>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "host/drawing/Matrix.h"
-#include "host/drawing/Tag.h"
+#include "host/drawing/math/Matrix.h"
+#include "host/drawing/tags/Tag.h"
 #include "host/kernel/commands/Dialogue.h"
 
 #include <QString>

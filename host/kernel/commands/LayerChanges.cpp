@@ -1,8 +1,8 @@
 #include "host/kernel/commands/LayerChanges.h"
 
-#include "host/drawing/Dictionaries.h"
-#include "host/drawing/ExtendedData.h"
-#include "host/drawing/Tables.h"
+#include "host/drawing/records/Dictionaries.h"
+#include "host/drawing/records/Tables.h"
+#include "host/drawing/tags/ExtendedData.h"
 #include "host/kernel/Document.h"
 #include "host/kernel/commands/CommandContext.h"
 

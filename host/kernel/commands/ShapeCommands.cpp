@@ -1,4 +1,4 @@
-#include "host/drawing/ShapeFiles.h"
+#include "host/drawing/references/ShapeFiles.h"
 #include "host/kernel/Document.h"
 #include "host/kernel/commands/CommandContext.h"
 #include "host/kernel/commands/Commands.h"

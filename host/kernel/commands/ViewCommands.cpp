@@ -1,4 +1,4 @@
-#include "host/drawing/EntityGeometry.h"
+#include "host/drawing/geometry/EntityGeometry.h"
 #include "host/kernel/CurrentSpace.h"
 #include "host/kernel/Document.h"
 #include "host/kernel/SystemVariables.h"

@@ -1,6 +1,6 @@
 #include "host/kernel/files/FileStamp.h"
 
-#include "host/drawing/Drawing.h"
+#include "host/drawing/records/Drawing.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,6 +1,6 @@
 // Coordinate systems.
 
-#include "host/drawing/Matrix.h"
+#include "host/drawing/math/Matrix.h"
 #include "host/kernel/Document.h"
 #include "host/kernel/functions/LispConversion.h"
 #include "host/kernel/functions/NativeFunctions.h"

@@ -1,7 +1,7 @@
 // Named objects.
 
-#include "host/drawing/Dictionaries.h"
-#include "host/drawing/Tables.h"
+#include "host/drawing/records/Dictionaries.h"
+#include "host/drawing/records/Tables.h"
 #include "host/kernel/Document.h"
 #include "host/kernel/functions/EntityList.h"
 #include "host/kernel/functions/LispConversion.h"

@@ -1,6 +1,6 @@
 #include "host/kernel/functions/EntityChange.h"
 
-#include "host/drawing/EntityRules.h"
+#include "host/drawing/records/EntityRules.h"
 #include "host/kernel/Document.h"
 #include "host/kernel/functions/EntityList.h"
 #include "host/kernel/functions/ParagraphSize.h"

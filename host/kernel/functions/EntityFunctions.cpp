@@ -1,8 +1,8 @@
 // Entities by name: reading, changing, making, erasing.
 
-#include "host/drawing/Entities.h"
-#include "host/drawing/Journal.h"
-#include "host/drawing/Tables.h"
+#include "host/drawing/records/Entities.h"
+#include "host/drawing/records/Journal.h"
+#include "host/drawing/records/Tables.h"
 #include "host/kernel/Document.h"
 #include "host/kernel/functions/EntityChange.h"
 #include "host/kernel/functions/EntityList.h"

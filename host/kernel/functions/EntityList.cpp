@@ -1,7 +1,7 @@
 #include "host/kernel/functions/EntityList.h"
 
-#include "host/drawing/Structure.h"
-#include "host/drawing/Wildcard.h"
+#include "host/drawing/records/Structure.h"
+#include "host/drawing/selection/Wildcard.h"
 #include "host/kernel/Document.h"
 #include "host/kernel/functions/LispConversion.h"
 #include "host/kernel/functions/ParagraphSize.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/drawing/ImpliedFields.h"
+#include "host/drawing/selection/ImpliedFields.h"
 #include "host/lisp/Value.h"
 
 #include <functional>

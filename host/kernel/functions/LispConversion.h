@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/drawing/Vec.h"
+#include "host/drawing/math/Vec.h"
 #include "host/kernel/SystemVariables.h"
 #include "host/lisp/Arguments.h"
 #include "host/lisp/Value.h"

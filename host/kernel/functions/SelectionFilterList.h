@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/drawing/SelectionFilter.h"
+#include "host/drawing/selection/SelectionFilter.h"
 #include "host/lisp/Value.h"
 
 namespace host::kernel {

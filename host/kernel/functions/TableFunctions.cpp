@@ -1,7 +1,7 @@
 // Symbol tables.
 
-#include "host/drawing/Blocks.h"
-#include "host/drawing/Tables.h"
+#include "host/drawing/records/Blocks.h"
+#include "host/drawing/records/Tables.h"
 #include "host/kernel/Document.h"
 #include "host/kernel/functions/EntityList.h"
 #include "host/kernel/functions/LispConversion.h"

@@ -1,9 +1,9 @@
 #include "host/kernel/input/Picker.h"
 
-#include "host/drawing/Entities.h"
-#include "host/drawing/EntityGeometry.h"
-#include "host/drawing/PolygonSelection.h"
-#include "host/drawing/Symbols.h"
+#include "host/drawing/geometry/EntityGeometry.h"
+#include "host/drawing/records/Entities.h"
+#include "host/drawing/records/Symbols.h"
+#include "host/drawing/selection/PolygonSelection.h"
 #include "host/kernel/CurrentSpace.h"
 #include "host/kernel/Document.h"
 #include "host/kernel/SystemVariables.h"

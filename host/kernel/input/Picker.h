@@ -1,7 +1,7 @@
 #pragma once
 
-#include "host/drawing/Drawing.h"
-#include "host/drawing/Matrix.h"
+#include "host/drawing/math/Matrix.h"
+#include "host/drawing/records/Drawing.h"
 
 #include <vector>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "host/drawing/Record.h"
-#include "host/drawing/Vec.h"
+#include "host/drawing/math/Vec.h"
+#include "host/drawing/records/Record.h"
 
 #include <QString>
 #include <QStringList>

@@ -1,6 +1,6 @@
 #include "host/kernel/input/SelectionBuilder.h"
 
-#include "host/drawing/Entities.h"
+#include "host/drawing/records/Entities.h"
 #include "host/kernel/CurrentSpace.h"
 #include "host/kernel/Document.h"
 

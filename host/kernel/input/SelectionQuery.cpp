@@ -1,8 +1,8 @@
 #include "host/kernel/input/SelectionQuery.h"
 
-#include "host/drawing/Entities.h"
-#include "host/drawing/Layouts.h"
-#include "host/drawing/Symbols.h"
+#include "host/drawing/records/Entities.h"
+#include "host/drawing/records/Layouts.h"
+#include "host/drawing/records/Symbols.h"
 #include "host/kernel/Document.h"
 #include "host/kernel/input/SelectionBuilder.h"
 #include "host/kernel/input/UserInput.h"

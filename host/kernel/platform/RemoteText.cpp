@@ -1,6 +1,6 @@
 #include "host/kernel/platform/RemoteText.h"
 
-#include "host/drawing/HeaderVariables.h"
+#include "host/drawing/records/HeaderVariables.h"
 #include "host/kernel/CurrentProperties.h"
 #include "host/kernel/Document.h"
 #include "host/kernel/DrawingDatabase.h"

@@ -1,0 +1,115 @@
+#include "host/drawing/file/Save.h"
+
+#include "files/FileReplacement.h"
+#include "files/RegularFile.h"
+#include "files/qt/Files.h"
+#include "host/drawing/records/Journal.h"
+
+#include <QDir>
+
+namespace host::drawing {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+std::string_view viewOf(QByteArrayView bytes)
+{
+    return {bytes.data(), static_cast<size_t>(bytes.size())};
+}
+
+QByteArrayView viewOf(std::string_view bytes)
+{
+    return {bytes.data(), static_cast<qsizetype>(bytes.size())};
+}
+
+bool isSame(const Drawing &drawing, QByteArrayView bytes)
+{
+    QByteArrayView left = bytes;
+    const bool isBegin = drawing.forEachPiece([&left](QByteArrayView piece) {
+        const bool matches = left.startsWith(piece);
+        left = left.sliced(matches ? piece.size() : 0);
+        return matches;
+    });
+    return isBegin && left.isEmpty();
+}
+
+/// The first record that is not where it is in what was read back, the last one where there is more; noRecord when all
+/// are.
+RecordId firstOther(const Drawing &drawing, const Drawing &readBack)
+{
+    RecordId there = readBack.first();
+    RecordId last = noRecord;
+    for (RecordId id = drawing.first(); id != noRecord; id = drawing.next(id)) {
+        if (there == noRecord || readBack.typeName(there) != drawing.typeName(id))
+            return id;
+        there = readBack.next(there);
+        last = id;
+    }
+    return there == noRecord ? noRecord : last;
+}
+
+/// Why the bytes would not open as this drawing; empty when they would.
+QString whyNot(const Drawing &drawing, QByteArrayView bytes)
+{
+    if (!isSame(drawing, bytes))
+        return u"what was written does not read back the same"_s;
+    // These bytes were opened once.
+    if (drawing.revision() == 0)
+        return {};
+    // Only looked at as long as the bytes are there.
+    const ReadResult read = Drawing::fromBytes(QByteArray::fromRawData(bytes.data(), bytes.size()));
+    if (!read)
+        return u"what would be written could not be opened again (%1)"_s.arg(read.error.message());
+    const RecordId other = firstOther(drawing, *read.drawing);
+    return other == noRecord ? QString()
+                             : u"what would be written could not be opened the same: see %1 of handle %2"_s.arg(
+                                   QString::fromLatin1(drawing.typeName(other)), drawing.handle(other).toString());
+}
+
+SaveResult failure(const QString &path, const QString &reason)
+{
+    return {u"%1: the file cannot be written: %2"_s.arg(QDir::toNativeSeparators(path), reason)};
+}
+
+SaveResult writeFile(const Drawing &drawing, const QString &path)
+{
+    files::FileReplacement file(files::nativePath(path));
+    drawing.forEachPiece([&file](QByteArrayView piece) { return file.write(viewOf(piece)); });
+    QString problem;
+    const bool isRight = file.readBack([&](std::string_view bytes) {
+        problem = whyNot(drawing, viewOf(bytes));
+        return problem.isEmpty();
+    });
+    if (!problem.isEmpty())
+        return {u"%1: %2; the old file was kept"_s.arg(QDir::toNativeSeparators(path), problem)};
+    if (!isRight || !file.commit())
+        return failure(path, files::reasonText(file.reason()));
+    return {};
+}
+
+} // namespace
+
+SaveResult save(Drawing &drawing, const QString &path)
+{
+    SaveResult result = saveCopy(drawing, path);
+    if (result) {
+        drawing.setPath(path);
+        drawing.journal().markSaved();
+    }
+    return result;
+}
+
+SaveResult saveCopy(const Drawing &drawing, const QString &path)
+{
+    if (path.trimmed().endsWith(u".dwg", Qt::CaseInsensitive))
+        return {u"%1: this program cannot write DWG files; give the file a name ending in .dxf"_s.arg(path)};
+    return writeFile(drawing, path);
+}
+
+SaveResult saveSymbolCopy(const Drawing &drawing, const QString &path)
+{
+    return writeFile(drawing, path);
+}
+
+} // namespace host::drawing

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "host/drawing/math/Matrix.h"
+#include "host/drawing/records/Entities.h"
+
+namespace host::drawing {
+
+/// Moves, turns, scales or mirrors an entity with its children, a dimension with its picture. Texts stay readable when
+/// mirrored. False when the type is not known, or when the map would make another type of it (an uneven scale of a
+/// circle, a skewed block reference); it is then as it was.
+bool transformEntity(Drawing &drawing, RecordId entity, const Matrix &matrix);
+
+/// Adds a copy of an entity and its children as the last of its container; reactors and extension dictionaries stay
+/// with the original. noRecord when it cannot be copied.
+RecordId copyEntity(Drawing &drawing, RecordId entity);
+/// As copyEntity(), but into a space, wherever the entity stands.
+RecordId copyEntityTo(Drawing &drawing, RecordId entity, Space space);
+
+} // namespace host::drawing

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "host/drawing/math/Matrix.h"
+#include "host/drawing/tags/Tag.h"
+
+namespace host::drawing {
+
+/// A plane of object coordinates before and after a map. The new plane's extrusion stays on the side of the old one, so
+/// that a mirrored drawing keeps its usual (0 0 1); what is mirrored within the plane is told by isMirrored().
+class PlaneMap
+{
+public:
+    PlaneMap(const Vec3 &extrusion, const Matrix &matrix);
+
+    const Vec3 &extrusion() const { return m_extrusion; }
+    /// From old object coordinates to new ones.
+    const Matrix &map() const { return m_map; }
+    Vec3 point(const Vec3 &p) const { return m_map.point(p); }
+    /// Whether shapes in the plane keep their form; factor() is their scale then.
+    bool isSimilar() const;
+    double factor() const { return m_map.xAxis.length(); }
+    bool isMirrored() const;
+    /// Direction of what pointed to `angle`; radians.
+    double angle(double angle) const;
+
+private:
+    Vec3 m_extrusion;
+    Matrix m_map;
+};
+
+/// Whether a map scales all directions alike.
+bool isUniform(const Matrix &matrix);
+
+/// Sets a group of the type's own part: where it is missing, in front of further parts and extended data.
+void setOwnField(FieldList &fields, int code, const FieldValue &value);
+
+/// Changes the fields of one entity record; false when the map cannot be applied to it or the type is not known.
+bool transformFields(FieldList &fields, const Matrix &matrix);
+bool transformHatch(FieldList &fields, const PlaneMap &plane);
+
+} // namespace host::drawing

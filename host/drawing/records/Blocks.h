@@ -1,0 +1,61 @@
+#pragma once
+
+#include "host/drawing/records/Drawing.h"
+
+#include <QHash>
+
+#include <optional>
+
+namespace host::drawing {
+
+/// A block definition.
+struct Block
+{
+    RecordId record = noRecord;     ///< the BLOCK record; its children are the entities
+    RecordId tableEntry = noRecord; ///< the BLOCK_RECORD; noRecord in R12
+    QString name;
+    Vec3 basePoint;
+    QString externalPath; ///< file of an external reference
+    int flags = 0;        ///< group 70
+    bool isAnonymous() const { return (flags & 1) != 0; }
+    bool hasAttributes() const { return (flags & 2) != 0; }
+    bool isExternal() const { return (flags & (4 | 8)) != 0; }
+    /// Model or paper space rather than a block to insert.
+    bool isLayout() const;
+};
+
+/// The block definitions of a drawing. Names are compared without regard to letter case.
+class Blocks
+{
+public:
+    explicit Blocks(Drawing &drawing) : m_drawing(drawing) {}
+
+    /// The BLOCK record, noRecord when there is none of that name. Constant cost once looked at.
+    RecordId find(QStringView name) const;
+    std::optional<Block> get(QStringView name) const;
+    Block read(RecordId block) const;
+    /// In file order, layouts among them.
+    std::vector<RecordId> all() const;
+    QString name(RecordId block) const;
+
+    /// Adds an empty definition (BLOCK, ENDBLK and what the version wants beside them) and gives the BLOCK record. One
+    /// of that name that exists is emptied, when `basePoint` is its new base point. A name beginning with "*U", "*D",
+    /// "*X", "*T" or "*E" and nothing behind is completed with the next free number. noRecord for an empty name and
+    /// for the layouts.
+    RecordId create(const QString &name, const Vec3 &basePoint, int flags = 0);
+    /// Takes a definition out, with its table entry and the objects that it and its entities own. References to it are
+    /// the caller's concern. Costs one pass over the objects, for however many definitions.
+    bool erase(RecordId block);
+    /// How many were taken out.
+    int erase(const std::vector<RecordId> &blocks);
+
+private:
+    QString completedName(const QString &name) const;
+    const QHash<QString, RecordId> &names() const;
+
+    Drawing &m_drawing;
+    mutable QHash<QString, RecordId> m_names;
+    mutable quint64 m_revision = ~quint64(0);
+};
+
+} // namespace host::drawing

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "host/drawing/records/Record.h"
+
+namespace host::drawing {
+
+/// What happened to a record, as seen by somebody who looks at the drawing.
+enum class RecordChange
+{
+    Appeared, ///< added, or an erased one brought back, or its adding redone, or its erasing undone
+    Modified, ///< its tags are different now
+    Vanished  ///< erased, or its adding undone
+};
+
+enum class ChangeCause
+{
+    Edit,
+    Undo,
+    Redo
+};
+
+/// Told about every change of a drawing, after it happened. Must not change the drawing from inside these calls.
+class DrawingObserver
+{
+public:
+    virtual ~DrawingObserver() = default;
+    virtual void recordChanged(RecordId record, RecordChange change, ChangeCause cause) = 0;
+    /// An outermost group was closed, or a step undone or redone: a good moment to draw again.
+    virtual void changesDone() {}
+};
+
+} // namespace host::drawing

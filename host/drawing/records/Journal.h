@@ -1,0 +1,68 @@
+#pragma once
+
+#include "host/drawing/records/Record.h"
+
+#include <QString>
+
+#include <memory>
+
+namespace host::drawing {
+
+class Drawing;
+
+/// The undo steps of a drawing. Every change is recorded; changes between beginGroup() and the matching endGroup()
+/// are one step. A change outside any group is a step of its own. A group that leaves every record as it was leaves
+/// no step. Undoing a step gives back the very bytes that were there before.
+class Journal
+{
+public:
+    explicit Journal(Drawing &drawing);
+    ~Journal();
+    Journal(const Journal &) = delete;
+    Journal &operator=(const Journal &) = delete;
+
+    /// Groups nest: only the outermost makes a step, and gives it its name.
+    void beginGroup(const QString &name);
+    void endGroup();
+    /// Takes back everything since the outermost beginGroup() and closes all open groups; nothing stays to redo of it.
+    void abandonGroup();
+    bool isGroupOpen() const;
+
+    bool canUndo() const;
+    bool canRedo() const;
+    /// Name of the step that undo() would take back; empty when there is none or it was made without a group.
+    QString undoName() const;
+    QString redoName() const;
+    /// False, and nothing happens, when there is no step or a group is open.
+    bool undo();
+    bool redo();
+    /// Number of steps that undo() could take back.
+    int undoDepth() const;
+
+    /// Whether the drawing differs from what was last read or saved.
+    bool isModified() const;
+    /// The drawing as it is now is what the file holds.
+    void markSaved();
+    /// Forgets all steps, keeps the drawing and whether it is modified.
+    void clear();
+
+private:
+    friend class Drawing;
+    struct Private;
+    std::unique_ptr<Private> d;
+};
+
+/// Opens a group for the life of a scope.
+class JournalGroup
+{
+public:
+    JournalGroup(Journal &journal, const QString &name) : m_journal(journal) { m_journal.beginGroup(name); }
+    ~JournalGroup() { m_journal.endGroup(); }
+    JournalGroup(const JournalGroup &) = delete;
+    JournalGroup &operator=(const JournalGroup &) = delete;
+
+private:
+    Journal &m_journal;
+};
+
+} // namespace host::drawing

@@ -1,0 +1,47 @@
+#include "host/drawing/references/NamedFiles.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+#include <algorithm>
+
+namespace host::drawing {
+
+bool isBelow(const QString &path, const QString &folder)
+{
+    const QString file = QFileInfo(path).canonicalFilePath();
+    const QString top = QFileInfo(folder).canonicalFilePath();
+    return !file.isEmpty() && !top.isEmpty() && (file == top || file.startsWith(top.endsWith(u'/') ? top : top + u'/'));
+}
+
+FileFinder namedFiles(const Drawing &drawing, ReadableFiles readable)
+{
+    return [&drawing, readable = std::move(readable)](const QString &asked) {
+        // Drawings come from systems with either separator.
+        const QString name = QString(asked).replace(u'\\', u'/');
+        const QDir own = drawing.path().isEmpty() ? QDir() : QFileInfo(drawing.path()).absoluteDir();
+        QStringList folders{own.absolutePath()};
+        folders += readable.folders;
+        if (name.isEmpty())
+            return QString();
+        QString refused;
+        // What lies in the working folder only is found to be told of, or when the user named it.
+        for (const QString &folder : folders + QStringList{QDir::currentPath()}) {
+            const QFileInfo info(QDir(folder), name);
+            if (!info.isFile())
+                continue;
+            const QString path = info.canonicalFilePath();
+            if (readable.files.contains(path) ||
+                std::any_of(folders.begin(), folders.end(),
+                            [&](const QString &allowed) { return isBelow(path, allowed); }))
+                return path;
+            refused = path;
+        }
+        if (!refused.isEmpty() && readable.refused)
+            readable.refused(refused, QStringLiteral("it is not in the drawing's folder. READPATHS, or the option "
+                                                     "--allow-read, names folders whose files drawings may name"));
+        return QString();
+    };
+}
+
+} // namespace host::drawing

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "host/drawing/records/Drawing.h"
+
+#include <functional>
+
+namespace host::drawing {
+
+/// The path of a file by the name that a drawing has for it; empty when there is none, or none that may be read.
+using FileFinder = std::function<QString(const QString &name)>;
+
+/// What files that a drawing names may be read. A drawing from somebody else can name any file of the machine, and what
+/// it shows of one goes to whoever gets the plot: only those in its own folder, those below, and in the folders given
+/// here are. Symbolic links are followed first: one that leads elsewhere does not help.
+struct ReadableFiles
+{
+    /// Searched behind the drawing's own folder; what is below them counts. Full paths.
+    QStringList folders;
+    /// Files by themselves, as QFileInfo::canonicalFilePath() gives them.
+    QStringList files;
+    /// Told the full path of a file that is there and is not read, and why; may be empty.
+    std::function<void(const QString &path, const QString &reason)> refused;
+};
+
+/// Looks by full paths, from the drawing's folder on (the working folder for a drawing without a path), and in the
+/// readable folders, in this order, and in the working folder for one of `files`. Only regular files are found. Valid
+/// while the drawing lives.
+FileFinder namedFiles(const Drawing &drawing, ReadableFiles readable = {});
+
+/// Whether `path`, behind all links, is `folder` or below it.
+bool isBelow(const QString &path, const QString &folder);
+
+} // namespace host::drawing

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "host/drawing/references/NamedFiles.h"
+#include "host/drawing/references/ShapeFile.h"
+
+#include <memory>
+
+namespace host::drawing {
+
+/// The shape files of a drawing, each read when it is asked for.
+///
+/// Drawings name compiled files. Where the source lies beside it, or instead of it, the younger of the two is read, so
+/// that a shape that was just made need not be compiled. A file that another system's path names is found by its name
+/// alone. Files of more than 16 MB, and what is no ordinary file, are not read.
+class ShapeFiles
+{
+public:
+    explicit ShapeFiles(FileFinder finder) : m_finder(std::move(finder)) {}
+
+    /// Null when there is no such file, or none that can be read. Valid until forget().
+    const ShapeFile *find(const QString &name);
+    /// Files are read anew the next time.
+    void forget() { m_read.clear(); }
+
+private:
+    QString pathOf(const QString &name) const;
+
+    FileFinder m_finder;
+    QHash<QString, std::shared_ptr<const ShapeFile>> m_read; ///< null for a file that cannot be read
+};
+
+/// The files that the drawing's styles for shape files name, in their order.
+QStringList shapeFileNames(const Drawing &drawing);
+
+/// The style that stands for a shape file, made where the drawing lacks it.
+RecordId shapeFileStyle(Drawing &drawing, const QString &name);
+
+} // namespace host::drawing

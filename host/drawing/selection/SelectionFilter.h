@@ -1,0 +1,58 @@
+#pragma once
+
+#include "host/drawing/records/Drawing.h"
+
+#include <optional>
+
+namespace host::drawing {
+
+/// What an entity has to be like to be selected: the filter lists of the CAD Lisp dialect as a value.
+///
+/// A list of fields that must all be met. Strings are wild-card patterns (matchesWildcard()). Group -4 with an operator
+/// string changes the test of the next field ("=", "/=", "!=", "<>", "<", "<=", ">", ">=", "*", "&", "&="; for points
+/// one for each coordinate, as in ">=,*,<") or groups what follows ("<AND" "AND>" "<OR" "OR>" "<XOR" "XOR>" "<NOT"
+/// "NOT>"). Group -3 with an application's name asks for extended data of it. An entity meets a field when any of its
+/// own groups with that code does, or what is implied where it does not write them (impliedField()).
+class SelectionFilter
+{
+public:
+    struct Outcome;
+    /// Checks the list; a bad operator or grouping that does not close is told in the outcome.
+    static Outcome create(const FieldList &conditions);
+
+    bool matches(const Drawing &drawing, RecordId entity) const;
+    /// Of all given, those that match, in order.
+    std::vector<RecordId> matching(const Drawing &drawing, const std::vector<RecordId> &entities) const;
+
+private:
+    struct Test
+    {
+        Field field;
+        std::vector<QString> operators; ///< one for a number, up to three for a point; empty: equal
+    };
+    enum class Join
+    {
+        And,
+        Or,
+        Xor,
+        Not
+    };
+    struct Node
+    {
+        std::optional<Test> test; ///< a leaf; otherwise a group
+        Join join = Join::And;
+        std::vector<Node> parts;
+    };
+    class Parser;
+    class Matcher;
+
+    Node m_root;
+};
+
+struct SelectionFilter::Outcome
+{
+    std::optional<SelectionFilter> filter;
+    QString error; ///< "bad SSGET list", with what is bad about it; empty when there is a filter
+};
+
+} // namespace host::drawing

@@ -1,0 +1,84 @@
+#pragma once
+
+#include "host/drawing/tags/Tag.h"
+
+#include <cstring>
+
+namespace host::drawing {
+
+/// Where the lines of a file end. With LineFeed a carriage return before the line feed belongs to the line end and
+/// others to the text; Any takes CR LF, LF and CR alike.
+enum class LineEnds
+{
+    LineFeed,
+    Any
+};
+
+/// The end of the line that starts at `begin`, before its line end; `next` becomes the start of the next line. A last
+/// line without line end stops at `end`.
+inline const char *findLineEnd(const char *begin, const char *end, LineEnds lineEnds, const char *&next)
+{
+    const char *stop = nullptr;
+    if (lineEnds == LineEnds::LineFeed) {
+        stop = static_cast<const char *>(std::memchr(begin, '\n', static_cast<size_t>(end - begin)));
+        next = stop ? stop + 1 : end;
+        stop = stop ? stop : end;
+        while (stop > begin && stop[-1] == '\r')
+            --stop;
+        return stop;
+    }
+    stop = std::find_if(begin, end, [](char c) { return c == '\n' || c == '\r'; });
+    next = stop == end ? end : stop + ((*stop == '\r' && stop + 1 < end && stop[1] == '\n') ? 2 : 1);
+    return stop;
+}
+
+/// The group code on a line, blanks around it allowed: -5 to 1071. False when the line is something else.
+inline bool parseGroupCode(const char *begin, const char *end, int &code)
+{
+    while (begin < end && (*begin == ' ' || *begin == '\t'))
+        ++begin;
+    const bool isNegative = begin < end && *begin == '-';
+    begin += isNegative ? 1 : 0;
+    int number = 0;
+    const char *firstDigit = begin;
+    for (; begin < end && *begin >= '0' && *begin <= '9' && number <= 1071; ++begin)
+        number = number * 10 + (*begin - '0');
+    const bool hasDigits = begin > firstDigit;
+    while (begin < end && (*begin == ' ' || *begin == '\t'))
+        ++begin;
+    code = isNegative ? -number : number;
+    return hasDigits && begin == end && code >= -5 && code <= 1071;
+}
+
+/// Goes through the tags of bytes that were checked before.
+class TagReader
+{
+public:
+    TagReader(QByteArrayView bytes, LineEnds lineEnds)
+        : m_next(bytes.data()), m_end(bytes.data() + bytes.size()), m_lineEnds(lineEnds)
+    {
+    }
+
+    /// False at the end, or where the bytes are no tags.
+    bool read(Tag &tag)
+    {
+        const char *begin = m_next;
+        if (begin >= m_end)
+            return false;
+        const char *valueBegin = nullptr;
+        const char *codeEnd = findLineEnd(begin, m_end, m_lineEnds, valueBegin);
+        if (!parseGroupCode(begin, codeEnd, tag.code))
+            return false;
+        const char *valueEnd = findLineEnd(valueBegin, m_end, m_lineEnds, m_next);
+        tag.value = QByteArrayView(valueBegin, valueEnd);
+        tag.whole = QByteArrayView(begin, m_next);
+        return true;
+    }
+
+private:
+    const char *m_next;
+    const char *m_end;
+    LineEnds m_lineEnds;
+};
+
+} // namespace host::drawing
