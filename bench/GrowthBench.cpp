@@ -3,8 +3,8 @@
 
 #include "bench/Ratios.h"
 #include "host/drawing/records/Drawing.h"
-#include "host/view/Scene.h"
-#include "host/view/ScenePainter.h"
+#include "host/view/build/Scene.h"
+#include "host/view/paint/ScenePainter.h"
 
 #include <QGuiApplication>
 #include <QImage>

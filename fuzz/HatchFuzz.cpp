@@ -5,7 +5,7 @@
 #include "fuzz/Require.h"
 #include "host/drawing/records/Drawing.h"
 #include "host/drawing/records/Entities.h"
-#include "host/view/HatchLines.h"
+#include "host/view/build/HatchLines.h"
 
 using namespace host::view;
 namespace drawing = host::drawing;

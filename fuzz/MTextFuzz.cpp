@@ -3,7 +3,7 @@
 
 #include "fuzz/GuiApplication.h"
 #include "fuzz/Require.h"
-#include "host/view/MTextLayout.h"
+#include "host/view/text/MTextLayout.h"
 
 #include <QGuiApplication>
 

@@ -5,7 +5,7 @@
 #include "fuzz/GuiApplication.h"
 #include "fuzz/Require.h"
 #include "host/drawing/records/Journal.h"
-#include "host/view/ScenePainter.h"
+#include "host/view/paint/ScenePainter.h"
 
 #include <QGuiApplication>
 #include <QImage>

@@ -19,8 +19,8 @@
 #include "host/kernel/functions/NativeFunctions.h"
 #include "host/kernel/input/UserInput.h"
 #include "host/lisp/Interpreter.h"
-#include "host/view/EntityExtents.h"
-#include "host/view/TextMeasure.h"
+#include "host/view/build/EntityExtents.h"
+#include "host/view/build/TextMeasure.h"
 
 #include <QDir>
 #include <QFileInfo>

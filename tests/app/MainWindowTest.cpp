@@ -4,7 +4,7 @@
 #include "host/app/window/DrawingCanvas.h"
 #include "host/app/window/Preferences.h"
 #include "host/kernel/input/UserInput.h"
-#include "host/view/ScenePainter.h"
+#include "host/view/paint/ScenePainter.h"
 #include "platform/kernel/CKvHelp.h"
 #include "platform/kernel/CKvUtils.h"
 #include "tests/app/AppFixture.h"

@@ -1,4 +1,4 @@
-#include "host/view/DrawOrder.h"
+#include "host/view/display/DrawOrder.h"
 
 #include "host/drawing/records/Entities.h"
 #include "tests/kernel/Bench.h"

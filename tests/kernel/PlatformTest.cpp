@@ -1,5 +1,5 @@
 #include "host/kernel/Services.h"
-#include "host/view/AciColor.h"
+#include "host/view/display/AciColor.h"
 #include "platform/kernel/CKvMessageBox.h"
 #include "platform/kernel/CKvUtils.h"
 #include "platform/kernel/OdResBuf.h"

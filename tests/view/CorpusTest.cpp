@@ -1,8 +1,8 @@
 // Real drawings of several programs, from the folder that ORTAKIT_CORPUS names. With ORTAKIT_RENDERINGS naming a folder
 // the pictures are left there to be looked at.
 
-#include "host/view/Export.h"
-#include "host/view/Picking.h"
+#include "host/view/paint/Export.h"
+#include "host/view/paint/Picking.h"
 #include "tests/view/Rendering.h"
 
 #include <QDir>

@@ -1,4 +1,4 @@
-#include "host/view/Export.h"
+#include "host/view/paint/Export.h"
 
 #include "tests/view/Rendering.h"
 

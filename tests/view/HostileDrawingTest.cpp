@@ -1,8 +1,8 @@
 // Drawings made to hang, crash or fill the memory. Each is built, painted, measured and picked in.
 
-#include "host/view/EntityExtents.h"
-#include "host/view/Picking.h"
-#include "host/view/SceneWalker.h"
+#include "host/view/build/EntityExtents.h"
+#include "host/view/paint/Picking.h"
+#include "host/view/paint/SceneWalker.h"
 #include "tests/view/Rendering.h"
 
 #include <gtest/gtest.h>

@@ -1,5 +1,5 @@
-#include "host/view/MTextParser.h"
-#include "host/view/TextCodes.h"
+#include "host/view/text/MTextParser.h"
+#include "host/view/text/TextCodes.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "host/view/Picking.h"
+#include "host/view/paint/Picking.h"
 
 #include "tests/view/DxfText.h"
 

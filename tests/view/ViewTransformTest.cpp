@@ -1,4 +1,4 @@
-#include "host/view/ViewTransform.h"
+#include "host/view/paint/ViewTransform.h"
 
 #include <gtest/gtest.h>
 #include <limits>

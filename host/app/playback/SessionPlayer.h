@@ -4,7 +4,7 @@
 #include "host/app/playback/PlaybackScript.h"
 #include "host/kernel/Document.h"
 #include "host/kernel/input/InputFeeder.h"
-#include "host/view/Scene.h"
+#include "host/view/build/Scene.h"
 
 #include <QHash>
 #include <QTimer>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/view/ScenePainter.h"
+#include "host/view/paint/ScenePainter.h"
 
 #include <QPixmap>
 

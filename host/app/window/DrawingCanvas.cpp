@@ -3,8 +3,8 @@
 #include "host/drawing/records/HeaderVariables.h"
 #include "host/kernel/ExpressionSurroundings.h"
 #include "host/kernel/SystemVariables.h"
-#include "host/view/Picking.h"
-#include "host/view/ScenePainter.h"
+#include "host/view/paint/Picking.h"
+#include "host/view/paint/ScenePainter.h"
 
 #include <QMouseEvent>
 #include <QPainter>

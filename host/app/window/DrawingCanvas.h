@@ -3,8 +3,8 @@
 #include "host/app/window/DragPreview.h"
 #include "host/kernel/Document.h"
 #include "host/kernel/input/PromptRequest.h"
-#include "host/view/Scene.h"
-#include "host/view/ViewTransform.h"
+#include "host/view/build/Scene.h"
+#include "host/view/paint/ViewTransform.h"
 
 #include <QPixmap>
 #include <QWidget>

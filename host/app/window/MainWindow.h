@@ -5,7 +5,7 @@
 #include "host/app/window/FileActions.h"
 #include "host/app/workbench/Workbench.h"
 #include "host/kernel/input/PromptRequest.h"
-#include "host/view/AciColor.h"
+#include "host/view/display/AciColor.h"
 
 #include <QMainWindow>
 #include <QTimer>

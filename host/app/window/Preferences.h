@@ -1,7 +1,7 @@
 #pragma once
 
 #include "host/app/window/AppStyle.h"
-#include "host/view/AciColor.h"
+#include "host/view/display/AciColor.h"
 
 #include <QByteArray>
 

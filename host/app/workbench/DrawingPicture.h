@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/view/Export.h"
+#include "host/view/paint/Export.h"
 
 #include <QString>
 #include <QStringList>

@@ -5,7 +5,7 @@
 #include "host/kernel/Document.h"
 #include "host/kernel/commands/CommandContext.h"
 #include "host/kernel/commands/Commands.h"
-#include "host/view/DrawOrder.h"
+#include "host/view/display/DrawOrder.h"
 
 #include <QSet>
 

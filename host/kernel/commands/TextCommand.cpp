@@ -7,7 +7,7 @@
 #include "host/kernel/commands/Commands.h"
 #include "host/kernel/commands/Justification.h"
 #include "host/kernel/commands/UserPlane.h"
-#include "host/view/TextMeasure.h"
+#include "host/view/build/TextMeasure.h"
 
 #include <cmath>
 

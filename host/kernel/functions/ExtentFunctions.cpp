@@ -4,7 +4,7 @@
 #include "host/kernel/functions/LispConversion.h"
 #include "host/kernel/functions/NativeFunctions.h"
 #include "host/lisp/Interpreter.h"
-#include "host/view/EntityExtents.h"
+#include "host/view/build/EntityExtents.h"
 
 namespace host::kernel {
 

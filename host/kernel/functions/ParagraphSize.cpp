@@ -1,7 +1,7 @@
 #include "host/kernel/functions/ParagraphSize.h"
 
 #include "host/kernel/Document.h"
-#include "host/view/TextMeasure.h"
+#include "host/view/build/TextMeasure.h"
 
 #include <algorithm>
 

@@ -7,7 +7,7 @@
 #include "host/kernel/functions/NativeFunctions.h"
 #include "host/lisp/Interpreter.h"
 #include "host/lisp/Printer.h"
-#include "host/view/TextMeasure.h"
+#include "host/view/build/TextMeasure.h"
 
 using namespace Qt::StringLiterals;
 

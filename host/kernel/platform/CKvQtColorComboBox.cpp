@@ -1,6 +1,6 @@
 #include "platform/widgets/CKvQtColorComboBox.h"
 
-#include "host/view/AciColor.h"
+#include "host/view/display/AciColor.h"
 
 #include <QCoreApplication>
 #include <QHash>

@@ -6,7 +6,7 @@
 #include "host/kernel/DrawingDatabase.h"
 #include "host/kernel/RecordChain.h"
 #include "host/kernel/Session.h"
-#include "host/view/Export.h"
+#include "host/view/paint/Export.h"
 #include "platform/kernel/CKvUtils.h"
 
 using host::kernel::HostDatabase;

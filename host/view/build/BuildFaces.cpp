@@ -1,0 +1,220 @@
+#include "host/view/build/DisplayBuilder.h"
+#include "host/view/build/Scene.h"
+
+#include <array>
+#include <numbers>
+
+namespace host::view {
+
+using drawing::Tag;
+using drawing::TagList;
+
+namespace {
+
+bool areUsable(const Path &points)
+{
+    return !points.empty() && std::ranges::all_of(points, [](const Vec3 &p) { return isUsable(p); });
+}
+
+Path closed(Path points)
+{
+    points.push_back(points.front());
+    return points;
+}
+
+void addArea(BuildContext &context, Path outline, FillKind kind)
+{
+    Fill fill;
+    fill.kind = kind;
+    fill.contours.push_back({.points = closed(std::move(outline))});
+    context.add(std::move(fill));
+}
+
+/// The frame of a picture or mask: its clip boundary, which is in pixels from the middle of the top left pixel, y
+/// down; without one the whole picture.
+Path pictureFrame(const TagList &tags)
+{
+    const Vec3 corner = tags.point(10);
+    const Vec3 across = tags.point(11);
+    const Vec3 up = tags.point(12);
+    const Vec3 size = tags.point(13, {1.0, 1.0, 0.0});
+    Path boundary = tags.points(14);
+    if (boundary.size() < 2)
+        boundary = {{-0.5, -0.5, 0.0}, {size.x - 0.5, size.y - 0.5, 0.0}};
+    if (boundary.size() == 2) {
+        const Vec3 a = boundary[0];
+        const Vec3 b = boundary[1];
+        boundary = {a, {b.x, a.y, 0.0}, b, {a.x, b.y, 0.0}};
+    }
+    if (boundary.size() > 2 && boundary.front() == boundary.back())
+        boundary.pop_back();
+    Path frame;
+    for (const Vec3 &p : boundary)
+        frame.push_back(corner + across * (p.x + 0.5) + up * (size.y - 0.5 - p.y));
+    return frame;
+}
+
+/// Numbers of a viewport's view, from the model to the sheet.
+struct ViewportView
+{
+    Vec3 center{};
+    double height = 0.0;
+    Matrix modelToSheet{};
+};
+
+ViewportView readView(const TagList &tags)
+{
+    ViewportView view{.center = tags.point(10), .height = tags.real(41)};
+    const Vec3 viewCenter = tags.point(12);
+    const double viewHeight = tags.real(45);
+    const double scale = view.height / viewHeight;
+    const Matrix display = Matrix::fromExtrusion(tags.point(16, {0.0, 0.0, 1.0}));
+    const Matrix toDisplay = display.inverted() * Matrix::translation(tags.point(17) * -1.0);
+    const Matrix turned = Matrix::rotation(tags.real(51) * std::numbers::pi / 180.0) * toDisplay;
+    view.modelToSheet = Matrix::translation(view.center) * Matrix::scaling({scale, scale, scale}) *
+                        Matrix::translation(viewCenter * -1.0) * turned;
+    return view;
+}
+
+std::vector<int> frozenLayers(const BuildContext &context, const TagList &tags)
+{
+    std::vector<int> layers;
+    for (const Tag &tag : tags) {
+        if (tag.code != 331 && tag.code != 341)
+            continue;
+        const RecordId entry = context.drawing.find(tag.handle().value_or(drawing::Handle{}));
+        if (isValid(entry) && context.drawing.isType(entry, "LAYER"))
+            layers.push_back(context.appearance().layer(context.drawing.tags(entry).text(2)));
+    }
+    std::ranges::sort(layers);
+    return layers;
+}
+
+bool showsModel(const TagList &tags)
+{
+    constexpr qint64 isOff = 0x20000;
+    return tags.real(45) > 0.0 && tags.integer(68, 1) != 0 && (tags.integer(90) & isOff) == 0;
+}
+
+void addModelView(BuildContext &context, const TagList &tags, const Path &frame)
+{
+    const ViewportView view = readView(tags);
+    auto reference = std::make_unique<Reference>();
+    reference->block = Scene::modelSpace;
+    reference->placement = view.modelToSheet;
+    reference->isViewport = true;
+    reference->hiddenLayers = frozenLayers(context, tags);
+    const Matrix toModel = view.modelToSheet.inverted();
+    for (const Vec3 &corner : frame)
+        reference->clip.push_back(toModel.point(corner));
+    if (areUsable(reference->clip))
+        context.add(std::move(reference));
+}
+
+} // namespace
+
+bool buildSolid(BuildContext &context, const TagList &tags)
+{
+    const Matrix ocs = Matrix::fromExtrusion(tags.point(210, {0.0, 0.0, 1.0}));
+    const Vec3 third = tags.point(12);
+    // The third and fourth corner lie crosswise.
+    Path outline = {ocs.point(tags.point(10)), ocs.point(tags.point(11)), ocs.point(tags.point(13, third)),
+                    ocs.point(third)};
+    if (!areUsable(outline))
+        return false;
+    addArea(context, std::move(outline), FillKind::Area);
+    return true;
+}
+
+bool build3dFace(BuildContext &context, const TagList &tags)
+{
+    const Vec3 third = tags.point(12);
+    const std::array<Vec3, 4> corners = {tags.point(10), tags.point(11), third, tags.point(13, third)};
+    if (!std::ranges::all_of(corners, [](const Vec3 &p) { return isUsable(p); }))
+        return false;
+    const qint64 invisible = tags.integer(70);
+    for (std::size_t i = 0; i < corners.size(); ++i) {
+        const Vec3 &to = corners[(i + 1) % corners.size()];
+        if ((invisible & (1 << i)) == 0 && !(corners[i] == to))
+            context.addStroke({corners[i], to});
+    }
+    // All edges invisible is what the face says, not a failure.
+    context.display.isHidden = context.display.items.empty();
+    return true;
+}
+
+bool buildMesh(BuildContext &context, const TagList &tags)
+{
+    Path vertices;
+    std::vector<qint64> faces;
+    bool isInFaces = false;
+    for (std::size_t i = 0; i < tags.size() && tags[i].code < 1000; ++i) {
+        const Tag &tag = tags[i];
+        if (tag.code == 10)
+            vertices.push_back(tags.pointAt(i));
+        else if (tag.code == 93)
+            isInFaces = true;
+        else if (tag.code == 94)
+            isInFaces = false;
+        else if (tag.code == 90 && isInFaces)
+            faces.push_back(tag.integer().value_or(-1));
+    }
+    if (!areUsable(vertices))
+        return false;
+    // Faces are lists of vertex numbers, each with its length in front.
+    const auto limit = static_cast<qint64>(vertices.size());
+    for (std::size_t at = 0; at < faces.size();) {
+        const qint64 count = faces[at++];
+        if (count < 2 || count > static_cast<qint64>(faces.size() - at))
+            break;
+        Path edge;
+        for (qint64 i = 0; i < count; ++i, ++at) {
+            if (faces[at] >= 0 && faces[at] < limit)
+                edge.push_back(vertices[static_cast<std::size_t>(faces[at])]);
+        }
+        if (edge.size() > 1)
+            context.addStroke(closed(std::move(edge)));
+    }
+    return !context.display.items.empty();
+}
+
+bool buildWipeout(BuildContext &context, const TagList &tags)
+{
+    Path frame = pictureFrame(tags);
+    if (!areUsable(frame))
+        return false;
+    addArea(context, frame, FillKind::Mask);
+    context.addStroke(closed(std::move(frame)));
+    context.display.items.back().isMaskFrame = true;
+    return true;
+}
+
+bool buildImage(BuildContext &context, const TagList &tags)
+{
+    Path frame = pictureFrame(tags);
+    if (!areUsable(frame))
+        return false;
+    context.addStroke(closed(std::move(frame)));
+    return true;
+}
+
+bool buildViewport(BuildContext &context, const TagList &tags)
+{
+    constexpr qint64 sheetItself = 1;
+    if (tags.integer(69) == sheetItself) {
+        context.display.isHidden = true;
+        return true;
+    }
+    const Vec3 center = tags.point(10);
+    const Vec3 half{tags.real(40) / 2.0, tags.real(41) / 2.0, 0.0};
+    const Path frame = {center - half, center + Vec3{half.x, -half.y, 0.0}, center + half,
+                        center + Vec3{-half.x, half.y, 0.0}};
+    if (!areUsable(frame))
+        return false;
+    if (showsModel(tags))
+        addModelView(context, tags, frame);
+    context.addStroke(closed(frame));
+    return true;
+}
+
+} // namespace host::view

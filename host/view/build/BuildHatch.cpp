@@ -1,0 +1,73 @@
+#include "host/view/build/DisplayBuilder.h"
+#include "host/view/build/HatchLines.h"
+
+namespace host::view {
+
+using drawing::TagList;
+
+namespace {
+
+constexpr std::int64_t mostPieces = 200'000; ///< of one hatch
+
+void place(Curve &curve, const Matrix &ocs)
+{
+    for (Vec3 &point : curve.points)
+        point = ocs.point(point);
+    for (ArcSpan &arc : curve.arcs) {
+        arc.center = ocs.point(arc.center);
+        arc.xAxis = ocs.direction(arc.xAxis);
+        arc.yAxis = ocs.direction(arc.yAxis);
+    }
+}
+
+void addArea(BuildContext &context, HatchData &hatch, const Matrix &ocs, FillKind kind)
+{
+    std::ranges::for_each(hatch.loops, [&](Curve &loop) { place(loop, ocs); });
+    context.add(Fill{.contours = std::move(hatch.loops), .kind = kind});
+}
+
+/// A gradient is drawn in the mean of its colours.
+void blendGradient(BuildContext &context, const std::vector<quint32> &colours)
+{
+    if (colours.size() < 2)
+        return;
+    quint32 mean = 0;
+    for (const int shift : {0, 8, 16})
+        mean |= (((colours[0] >> shift & 0xff) + (colours[1] >> shift & 0xff)) / 2) << shift;
+    context.style.colour = {.kind = Colour::Kind::True, .value = mean};
+    context.display.isSimplified = true;
+}
+
+bool addPattern(BuildContext &context, HatchData &hatch, const Matrix &ocs)
+{
+    HatchLines lines = hatchLines(hatch, mostPieces, context.work);
+    if (lines.isTooDense) {
+        context.display.isCutShort = true;
+        addArea(context, hatch, ocs, FillKind::Dense);
+        return true;
+    }
+    for (Path *points : {&lines.pieces.ends, &lines.pieces.dots})
+        std::ranges::for_each(*points, [&](Vec3 &point) { point = ocs.point(point); });
+    // A pattern wider than its boundary leaves nothing to see; that is how it is drawn.
+    if (!lines.pieces.ends.empty() || !lines.pieces.dots.empty())
+        context.add(std::move(lines.pieces));
+    return true;
+}
+
+} // namespace
+
+bool buildHatch(BuildContext &context, const TagList &tags)
+{
+    HatchData hatch = readHatch(tags, context.work);
+    if (hatch.loops.empty() || !isUsable(hatch.extrusion))
+        return false;
+    applyIslands(hatch);
+    const Matrix ocs = Matrix::fromExtrusion(hatch.extrusion);
+    if (!hatch.isSolid && !hatch.lines.empty())
+        return addPattern(context, hatch, ocs);
+    blendGradient(context, hatch.gradientColours);
+    addArea(context, hatch, ocs, FillKind::Area);
+    return true;
+}
+
+} // namespace host::view

@@ -1,0 +1,153 @@
+#include "host/drawing/geometry/EntityGeometry.h"
+#include "host/drawing/records/Blocks.h"
+#include "host/drawing/records/Dictionaries.h"
+#include "host/view/build/DisplayBuilder.h"
+#include "host/view/build/Scene.h"
+#include "host/view/display/DisplayBoxes.h"
+
+namespace host::view {
+
+using namespace Qt::StringLiterals;
+using drawing::TagList;
+
+namespace {
+
+constexpr std::int64_t mostRows = 1'000'000'000'000;
+
+bool isUsableMatrix(const Matrix &m)
+{
+    return isUsable(m.xAxis) && isUsable(m.yAxis) && isUsable(m.zAxis) && isUsable(m.origin);
+}
+
+/// A map of three rows of four numbers, as clip filters have it.
+Matrix readRows(const std::vector<double> &numbers, std::size_t from)
+{
+    const auto column = [&](std::size_t i) {
+        return Vec3{numbers[from + i], numbers[from + 4 + i], numbers[from + 8 + i]};
+    };
+    return {column(0), column(1), column(2), column(3)};
+}
+
+/// The clip boundary of an insert, in coordinates of the block; empty when it has none that is switched on.
+Path readClip(BuildContext &context, RecordId insert)
+{
+    const drawing::Dictionaries &dictionaries = context.drawing.dictionaries();
+    const RecordId own = dictionaries.extensionDictionary(insert);
+    const RecordId filters = isValid(own) ? dictionaries.find(own, u"ACAD_FILTER"_s) : noRecord;
+    const RecordId filter = isValid(filters) ? dictionaries.find(filters, u"SPATIAL"_s) : noRecord;
+    if (!isValid(filter) || !context.drawing.isType(filter, "SPATIAL_FILTER"))
+        return {};
+    const TagList tags = context.drawing.tags(filter);
+    if (tags.integer(71, 1) == 0)
+        return {};
+    Path corners = tags.points(10);
+    std::vector<double> numbers = tags.reals(40);
+    if (tags.integer(72) != 0 && !numbers.empty())
+        numbers.erase(numbers.begin()); // distance of the front clip plane
+    if (corners.size() < 2 || numbers.size() < 24)
+        return {};
+    if (corners.size() == 2)
+        corners = {corners[0], {corners[1].x, corners[0].y, 0.0}, corners[1], {corners[0].x, corners[1].y, 0.0}};
+    // Many inserts may name one filter.
+    if (!context.work.take(static_cast<std::int64_t>(corners.size())))
+        return {};
+    const Matrix toBlock = readRows(numbers, 0) * readRows(numbers, 12).inverted();
+    if (!isUsableMatrix(toBlock))
+        return {};
+    for (Vec3 &corner : corners)
+        corner = toBlock.point(corner);
+    return std::ranges::all_of(corners, [](const Vec3 &p) { return isUsable(p); }) ? corners : Path{};
+}
+
+/// In an array every cell has the attributes.
+void addAttributes(BuildContext &context, Reference &reference)
+{
+    const bool isArray = reference.columns > 1 || reference.rows > 1;
+    const std::size_t first = context.display.items.size();
+    for (const RecordId child : context.drawing.children(context.display.record)) {
+        if (!context.drawing.isType(child, "ATTRIB"))
+            continue;
+        const TagList tags = context.drawing.tags(child);
+        bool isInvisible = false;
+        BuildContext own{context.drawing,
+                         context.scene,
+                         context.work,
+                         context.display,
+                         readStyle(tags, context.appearance(), &isInvisible),
+                         true};
+        constexpr qint64 invisibleFlag = 1;
+        if (!isInvisible && (tags.integer(70) & invisibleFlag) == 0)
+            buildText(own, tags);
+    }
+    if (!isArray)
+        return;
+    for (std::size_t i = first; i < context.display.items.size(); ++i) {
+        addItemBox(context.display.items[i], reference.besideBox);
+        reference.beside.push_back(std::move(context.display.items[i]));
+    }
+    context.display.items.resize(first);
+}
+
+/// Shows a block that is drawn for this entity alone and stands where it belongs.
+bool addOwnBlock(BuildContext &context, const QString &name, const Matrix &placement)
+{
+    const auto block = context.drawing.blocks().get(name);
+    if (!block || name.isEmpty())
+        return false;
+    auto reference = std::make_unique<Reference>();
+    reference->block = context.scene.block(name);
+    reference->placement = placement * Matrix::translation(block->basePoint * -1.0);
+    if (!isUsableMatrix(reference->placement))
+        return false;
+    context.add(std::move(reference));
+    return true;
+}
+
+/// The definition of an external reference names a file and has nothing of it.
+bool showsOtherDrawing(const drawing::Drawing &drawing, const QString &name)
+{
+    const auto block = drawing.blocks().get(name);
+    return block && block->isExternal() && drawing.children(block->record).empty();
+}
+
+} // namespace
+
+bool buildInsert(BuildContext &context, const TagList &tags)
+{
+    const QString name = tags.text(2);
+    // A reference is made even to a block that is not there: it may be defined later.
+    auto reference = std::make_unique<Reference>();
+    reference->block = context.scene.block(name);
+    const bool exists = context.scene.exists(reference->block);
+    reference->placement = drawing::insertTransform(context.drawing, tags);
+    reference->columns = std::clamp<std::int64_t>(tags.integer(70, 1), 1, mostRows);
+    reference->rows = std::clamp<std::int64_t>(tags.integer(71, 1), 1, mostRows);
+    const Vec3 origin = reference->placement.origin;
+    if (reference->columns > 1)
+        reference->columnStep = drawing::insertTransform(context.drawing, tags, 1, 0).origin - origin;
+    if (reference->rows > 1)
+        reference->rowStep = drawing::insertTransform(context.drawing, tags, 0, 1).origin - origin;
+    if (!isUsableMatrix(reference->placement) || !isUsable(reference->columnStep) || !isUsable(reference->rowStep))
+        return false;
+    reference->clip = readClip(context, context.display.record);
+    addAttributes(context, *reference);
+    const bool hasAttributes = !context.display.items.empty() || !reference->beside.empty();
+    context.add(std::move(reference));
+    context.display.isExternal = showsOtherDrawing(context.drawing, name);
+    return (exists || hasAttributes) && !context.display.isExternal;
+}
+
+bool buildDimension(BuildContext &context, const TagList &tags)
+{
+    return addOwnBlock(context, tags.text(2), {});
+}
+
+bool buildTable(BuildContext &context, const TagList &tags)
+{
+    const Vec3 across = tags.point(11, {1.0, 0.0, 0.0});
+    const Matrix placement = Matrix::fromExtrusion(tags.point(210, {0.0, 0.0, 1.0})) *
+                             Matrix::translation(tags.point(10)) * Matrix::rotation(std::atan2(across.y, across.x));
+    return addOwnBlock(context, tags.text(2), placement);
+}
+
+} // namespace host::view

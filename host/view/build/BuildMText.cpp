@@ -1,0 +1,135 @@
+#include "host/view/build/BuildMText.h"
+
+#include "host/drawing/text/ParagraphText.h"
+#include "host/view/build/TextLook.h"
+
+#include <numbers>
+
+namespace host::view {
+
+using drawing::Tag;
+using drawing::TagList;
+
+namespace {
+
+constexpr double radians = std::numbers::pi / 180.0;
+
+Style runStyle(const BuildContext &context, const MTextFormat &format)
+{
+    Style style = context.style;
+    style.linetype = 0;
+    if (format.trueColour) {
+        style.colour = {.kind = Colour::Kind::True, .value = *format.trueColour};
+    } else if (format.colourIndex) {
+        style.colour = colourFromIndex(*format.colourIndex);
+    }
+    return style;
+}
+
+Matrix glyphMatrix(const MTextRun &run)
+{
+    const double slant = std::tan(run.format.oblique * radians);
+    const double height = run.format.height;
+    return {{height * run.format.widthFactor, 0.0, 0.0},
+            {height * slant, height, 0.0},
+            {0.0, 0.0, 1.0},
+            {run.x, run.y, 0.0}};
+}
+
+MTextBox readBox(const TagList &tags)
+{
+    MTextBox box;
+    const double width = tags.real(41);
+    box.width = isUsable(width) && width > 0.0 ? width : 0.0;
+    const double spacing = tags.real(44, 1.0);
+    box.lineSpacing = spacing >= 0.1 && spacing <= 10.0 ? spacing : 1.0;
+    box.isSpacingExact = tags.integer(73, 1) == 2;
+    return box;
+}
+
+/// Background: a colour of its own, or that of what the drawing lies on.
+std::optional<MTextPlace::Cover> readCover(const TagList &tags)
+{
+    constexpr qint64 hasColour = 1;
+    constexpr qint64 hasGround = 2;
+    const qint64 flags = tags.integer(90);
+    if ((flags & (hasColour | hasGround)) == 0)
+        return std::nullopt;
+    MTextPlace::Cover cover;
+    const double scale = tags.real(45, 1.5);
+    cover.margin = scale >= 1.0 && scale <= 5.0 ? scale - 1.0 : 0.5;
+    if ((flags & hasGround) != 0)
+        return cover;
+    cover.kind = FillKind::Area;
+    if (const Tag *trueColour = tags.find(421))
+        cover.colour = {Colour::Kind::True, static_cast<std::uint32_t>(trueColour->integer().value_or(0) & 0xffffff)};
+    else
+        cover.colour = colourFromIndex(tags.integer(63, 256));
+    return cover;
+}
+
+void addCover(BuildContext &context, const MTextPlace::Cover &cover, const Matrix &placement, const MTextLayout &layout,
+              double textHeight)
+{
+    constexpr double tails = 0.33;
+    const double margin = cover.margin * textHeight;
+    Curve frame;
+    for (const Vec3 &corner : {Vec3{-margin, margin, 0.0}, Vec3{layout.width + margin, margin, 0.0},
+                               Vec3{layout.width + margin, -layout.height - margin - tails * textHeight, 0.0},
+                               Vec3{-margin, -layout.height - margin - tails * textHeight, 0.0}}) {
+        frame.points.push_back(placement.point(corner));
+    }
+    frame.points.push_back(frame.points.front());
+    Style style = context.style;
+    style.colour = cover.colour;
+    context.add(Fill{.contours = {frame}, .kind = cover.kind}, style);
+}
+
+} // namespace
+
+void addMText(BuildContext &context, const MTextPlace &place, const QString &content, MTextBox box)
+{
+    const TextLook look = readTextLook(context, place.styleName);
+    const int column = place.attachment % 3;
+    box.styleFont = look.request;
+    box.alignment = column == 1 ? MTextAlignment::Center : column == 2 ? MTextAlignment::Right : MTextAlignment::Left;
+    const MTextFormat start{.height = place.height, .widthFactor = look.widthFactor, .oblique = look.oblique / radians};
+    const MTextLayout layout = layOutMText(MTextParser(content, start).parse(), box, place.height, context.fonts());
+    const Vec3 corner{-layout.width * column / 2.0, layout.height * (place.attachment / 3) / 2.0, 0.0};
+    const Matrix placement = place.frame * Matrix::translation(corner);
+    if (place.cover)
+        addCover(context, *place.cover, placement, layout, place.height);
+    for (const MTextRun &run : layout.runs) {
+        if (run.text.trimmed().isEmpty())
+            continue;
+        auto text = std::make_unique<TextRun>(TextRun{.text = run.text, .font = run.font});
+        text->width = run.width / (run.format.height * run.format.widthFactor);
+        text->placement = placement * glyphMatrix(run);
+        context.add(std::move(text), runStyle(context, run.format));
+    }
+    for (const MTextRule &rule : layout.rules) {
+        const Path ends = {placement.point({rule.x1, rule.y1, 0.0}), placement.point({rule.x2, rule.y2, 0.0})};
+        context.add(Stroke{{.points = ends}}, runStyle(context, rule.format));
+    }
+}
+
+bool buildMText(BuildContext &context, const TagList &tags)
+{
+    const Vec3 extrusion = tags.point(210, {0.0, 0.0, 1.0});
+    const Matrix ocs = Matrix::fromExtrusion(extrusion);
+    const Vec3 at = tags.point(10);
+    const double height = std::abs(tags.real(40, 1.0));
+    const double rotation = drawing::angleInPlane(drawing::paragraphDirection(tags), extrusion);
+    if (!isUsable(at) || !isUsable(height) || !isUsable(rotation) || !(height > 0.0))
+        return false;
+    const MTextPlace place{.frame = Matrix::translation(at) * ocs * Matrix::rotation(rotation),
+                           .height = height,
+                           .attachment = static_cast<int>(std::clamp<qint64>(tags.integer(71, 1), 1, 9)) - 1,
+                           .styleName = tags.text(7),
+                           .cover = readCover(tags)};
+    // An empty text shows nothing, which is what it says.
+    addMText(context, place, drawing::paragraphContent(tags), readBox(tags));
+    return true;
+}
+
+} // namespace host::view

@@ -1,0 +1,218 @@
+#include "host/drawing/records/Symbols.h"
+#include "host/view/build/DisplayBuilder.h"
+#include "host/view/build/TextLook.h"
+#include "host/view/text/MTextLayout.h"
+#include "host/view/text/TextCodes.h"
+
+#include <numbers>
+
+namespace host::view {
+
+using drawing::Tag;
+using drawing::TagList;
+
+namespace {
+
+constexpr double radians = std::numbers::pi / 180.0;
+constexpr double descent = 0.33; ///< below the base line, in text heights
+
+/// Single-line text as its record has it. Angles are radians.
+struct TextData
+{
+    QString text{};
+    Vec3 at{};
+    Vec3 second{};
+    double height = 1.0;
+    double rotation = 0.0;
+    double widthFactor = 1.0;
+    double oblique = 0.0;
+    qint64 generation = 0;
+    qint64 horizontal = 0;
+    qint64 vertical = 0;
+    Vec3 extrusion{};
+};
+
+double realOf(const Tag *tag, double otherwise)
+{
+    return tag ? tag->real().value_or(otherwise) : otherwise;
+}
+
+qint64 integerOf(const Tag *tag, qint64 otherwise)
+{
+    return tag ? tag->integer().value_or(otherwise) : otherwise;
+}
+
+TextData readText(const TagList &tags, const TextLook &look, bool isAttribute)
+{
+    TextData data;
+    data.text = tags.text(1);
+    data.at = tags.point(10);
+    data.second = tags.point(11, data.at);
+    data.height = std::abs(tags.real(40, 1.0));
+    data.rotation = tags.real(50) * radians;
+    data.widthFactor = std::abs(tags.real(41, look.widthFactor));
+    data.oblique = realOf(tags.find(51), look.oblique / radians) * radians;
+    data.generation = integerOf(tags.find(71, "AcDbText"), look.generation);
+    data.horizontal = integerOf(tags.find(72, "AcDbText"), 0);
+    data.vertical = isAttribute ? integerOf(tags.find(74), 0) : integerOf(tags.find(73), 0);
+    data.extrusion = tags.point(210, {0.0, 0.0, 1.0});
+    return data;
+}
+
+bool isUsableText(const TextData &data)
+{
+    return isUsable(data.at) && isUsable(data.second) && isUsable(data.height) && isUsable(data.rotation) &&
+           isUsable(data.widthFactor) && isUsable(data.oblique) && isUsable(data.extrusion) && data.height > 0.0;
+}
+
+/// Where the text line starts from its anchor, and how it is stretched.
+struct TextFrame
+{
+    Matrix placement{}; ///< of the text's own frame (x along, drawing units) in object coordinates
+    double dx = 0.0;
+    double dy = 0.0;
+    double height = 0.0;
+    double widthFactor = 1.0;
+};
+
+TextFrame frameOf(const TextData &data, double lineWidth)
+{
+    enum Horizontal
+    {
+        Aligned = 3,
+        Middle = 4,
+        Fit = 5
+    };
+    TextFrame frame{.height = data.height, .widthFactor = data.widthFactor};
+    const bool isAnchored = data.horizontal != 0 || data.vertical != 0;
+    const bool isStretched = data.horizontal == Aligned || data.horizontal == Fit;
+    Vec3 anchor = isAnchored && !isStretched ? data.second : data.at;
+    double rotation = data.rotation;
+    double width = lineWidth * frame.height * frame.widthFactor;
+    const Vec3 span = data.second - data.at;
+    if (isStretched && span.length() > 0.0 && width > 0.0) {
+        rotation = std::atan2(span.y, span.x);
+        const double stretch = std::hypot(span.x, span.y) / width;
+        (data.horizontal == Fit ? frame.widthFactor : frame.height) *= stretch;
+        width *= stretch;
+    }
+    if (data.horizontal == 1 || data.horizontal == Middle)
+        frame.dx = -width / 2.0;
+    else if (data.horizontal == 2)
+        frame.dx = -width;
+    if (data.horizontal == Middle || data.vertical == 2)
+        frame.dy = -frame.height / 2.0;
+    else if (data.vertical == 1)
+        frame.dy = frame.height * descent;
+    else if (data.vertical == 3)
+        frame.dy = -frame.height;
+    constexpr qint64 backward = 2;
+    constexpr qint64 upsideDown = 4;
+    const Vec3 mirror{(data.generation & backward) != 0 ? -1.0 : 1.0, (data.generation & upsideDown) != 0 ? -1.0 : 1.0,
+                      1.0};
+    frame.placement = Matrix::translation(anchor) * Matrix::rotation(rotation) * Matrix::scaling(mirror);
+    return frame;
+}
+
+Matrix glyphMatrix(double x, double y, double height, double widthFactor, double oblique)
+{
+    const double slant = std::tan(std::clamp(oblique, -1.45, 1.45));
+    return {{height * widthFactor, 0.0, 0.0}, {height * slant, height, 0.0}, {0.0, 0.0, 1.0}, {x, y, 0.0}};
+}
+
+void addRule(BuildContext &context, const Style &style, const Matrix &placement, double x1, double y1, double x2,
+             double y2)
+{
+    Style full = style;
+    full.linetype = 0;
+    context.add(Stroke{{.points = {placement.point({x1, y1, 0.0}), placement.point({x2, y2, 0.0})}}}, full);
+}
+
+void addLines(BuildContext &context, const TextPiece &piece, const Matrix &placement, double from, double to, double y,
+              double height)
+{
+    if (piece.isUnderlined)
+        addRule(context, context.style, placement, from, y - 0.2 * height, to, y - 0.2 * height);
+    if (piece.isOverlined)
+        addRule(context, context.style, placement, from, y + 1.2 * height, to, y + 1.2 * height);
+    if (piece.isStruck)
+        addRule(context, context.style, placement, from, y + 0.5 * height, to, y + 0.5 * height);
+}
+
+/// Vertical styles set one character below the other.
+void addVerticalText(BuildContext &context, const TextData &data, const TextLook &look, const Matrix &placement)
+{
+    double y = 0.0;
+    for (const TextPiece &piece : parseTextCodes(data.text)) {
+        for (const QChar c : piece.text) {
+            auto run = std::make_unique<TextRun>(TextRun{.text = QString(c), .font = look.font});
+            run->width = context.fonts().width(look.font, run->text);
+            const double x = -run->width * data.height * data.widthFactor / 2.0;
+            run->placement = placement * glyphMatrix(x, y, data.height, data.widthFactor, data.oblique);
+            context.add(std::move(run));
+            y -= data.height * 5.0 / 3.0;
+        }
+    }
+}
+
+void addHorizontalText(BuildContext &context, const TextData &data, const TextLook &look, const Matrix &ocs)
+{
+    const std::vector<TextPiece> pieces = parseTextCodes(data.text);
+    std::vector<double> widths;
+    double lineWidth = 0.0;
+    for (const TextPiece &piece : pieces) {
+        widths.push_back(context.fonts().width(look.font, piece.text));
+        lineWidth += widths.back();
+    }
+    const TextFrame frame = frameOf(data, lineWidth);
+    const Matrix placement = ocs * frame.placement;
+    double x = frame.dx;
+    for (std::size_t i = 0; i < pieces.size(); ++i) {
+        const double end = x + widths[i] * frame.height * frame.widthFactor;
+        auto run = std::make_unique<TextRun>(TextRun{.text = pieces[i].text, .font = look.font, .width = widths[i]});
+        run->placement = placement * glyphMatrix(x, frame.dy, frame.height, frame.widthFactor, data.oblique);
+        context.add(std::move(run));
+        addLines(context, pieces[i], placement, x, end, frame.dy, frame.height);
+        x = end;
+    }
+}
+
+bool addText(BuildContext &context, const TextData &data, const TextLook &look)
+{
+    if (!isUsableText(data))
+        return false;
+    const Matrix ocs = Matrix::fromExtrusion(data.extrusion);
+    if (look.isVertical)
+        addVerticalText(context, data, look,
+                        ocs * Matrix::translation(data.at) * Matrix::rotation(data.rotation + std::numbers::pi / 2.0));
+    else
+        addHorizontalText(context, data, look, ocs);
+    return true;
+}
+
+} // namespace
+
+bool buildText(BuildContext &context, const TagList &tags)
+{
+    const TextLook look = readTextLook(context, tags.text(7));
+    return addText(context, readText(tags, look, tags[0].trimmed() == "ATTRIB"), look);
+}
+
+/// By itself an attribute definition shows its tag. In a block only a constant one is seen, with its value.
+bool buildAttdef(BuildContext &context, const TagList &tags)
+{
+    constexpr qint64 invisibleFlag = 1;
+    constexpr qint64 constantFlag = 2;
+    const qint64 flags = tags.integer(70);
+    const TextLook look = readTextLook(context, tags.text(7));
+    TextData data = readText(tags, look, true);
+    if (!context.isInBlock) {
+        data.text = tags.text(2);
+    } else if ((flags & constantFlag) == 0 || (flags & invisibleFlag) != 0) {
+        context.display.isHidden = true;
+        return true;
+    }
+    return addText(context, data, look);
+}
+
+} // namespace host::view

@@ -1,0 +1,54 @@
+#include "host/view/build/TextLook.h"
+
+#include "host/drawing/records/Symbols.h"
+
+#include <numbers>
+
+namespace host::view {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Outline fonts are named by extended data: the family, and flags for bold and italic.
+void readFamily(const drawing::TagList &tags, FontRequest &request)
+{
+    constexpr qint64 italicFlag = 0x1000000;
+    constexpr qint64 boldFlag = 0x2000000;
+    bool isOurs = false;
+    for (const drawing::Tag &tag : tags) {
+        if (tag.code == 1001)
+            isOurs = tag.trimmed() == "ACAD";
+        else if (tag.code == 1000 && isOurs && !tag.trimmed().isEmpty())
+            request.name = tags.decoded(tag);
+        else if (tag.code == 1071 && isOurs) {
+            request.isBold = (tag.integer().value_or(0) & boldFlag) != 0;
+            request.isItalic = (tag.integer().value_or(0) & italicFlag) != 0;
+        }
+    }
+}
+
+double sane(double value, double limit, double otherwise)
+{
+    return std::abs(value) <= limit ? value : otherwise;
+}
+
+} // namespace
+
+TextLook readTextLook(const BuildContext &context, const QString &styleName)
+{
+    TextLook look;
+    const auto style = drawing::findTextStyle(context.drawing, styleName.isEmpty() ? u"Standard"_s : styleName);
+    if (style) {
+        look.request.name = style->fontFile;
+        readFamily(context.drawing.tags(style->record), look.request);
+        look.widthFactor = style->widthFactor > 0.0 ? sane(style->widthFactor, 100.0, 1.0) : 1.0;
+        look.oblique = sane(style->obliqueAngle, 85.0, 0.0) * std::numbers::pi / 180.0;
+        look.generation = (style->isBackward ? 2 : 0) | (style->isUpsideDown ? 4 : 0);
+        look.isVertical = style->isVertical;
+    }
+    look.font = context.fonts().find(look.request);
+    return look;
+}
+
+} // namespace host::view

@@ -1,0 +1,196 @@
+#include "host/view/display/Appearance.h"
+
+#include "host/drawing/editing/WipeoutFrame.h"
+#include "host/drawing/records/HeaderVariables.h"
+#include "host/drawing/records/Tables.h"
+#include "host/view/display/WideLine.h"
+#include "host/view/text/Fonts.h"
+
+#include <numbers>
+
+namespace host::view {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int continuous = 0;
+constexpr std::size_t mostElements = 1000;
+constexpr int standardWeight = 25;
+/// The oldest writers show the default weight as a hairline; a quarter of a millimetre is what it has been since.
+constexpr int thickestWeight = 211;
+
+double sane(double value, double otherwise)
+{
+    return std::isfinite(value) && value > 0.0 && value < 1e12 ? value : otherwise;
+}
+
+std::optional<std::vector<Curve>> shapeCurves(const drawing::ShapeFile *file, std::optional<int> number)
+{
+    const auto lines = file && number ? drawing::shapeLines(*file, *number) : std::nullopt;
+    if (!lines)
+        return std::nullopt;
+    std::vector<Curve> curves;
+    for (const drawing::ShapeLine &line : *lines) {
+        std::vector<PolylineVertex> vertices;
+        for (const drawing::ShapeVertex &vertex : line)
+            vertices.push_back({.at = {vertex.at.x, vertex.at.y, 0.0}, .bulge = vertex.bulge});
+        curves.push_back(polylineCurve(vertices, false, Matrix{}));
+    }
+    return curves;
+}
+
+LinePatternElement readElement(const drawing::Drawing &drawing, const drawing::LinetypeDash &dash, Fonts &fonts,
+                               drawing::ShapeFiles &shapes)
+{
+    LinePatternElement element{.length = std::isfinite(dash.length) ? dash.length : 0.0, .text = dash.text};
+    if (dash.text.isEmpty() && dash.shape == 0)
+        return element;
+    const drawing::RecordId style = drawing.find(dash.style);
+    const auto look = isValid(style) ? drawing::readTextStyle(drawing, style) : drawing::TextStyle{};
+    element.size = sane(dash.scale, 1.0);
+    if (dash.shape != 0) {
+        element.shape = shapeCurves(shapes.find(look.fontFile), dash.shape).value_or(std::vector<Curve>());
+    } else {
+        element.font = fonts.find({.name = look.fontFile});
+        element.size *= look.fixedHeight > 0.0 ? look.fixedHeight : 1.0;
+    }
+    element.rotation = dash.rotation * std::numbers::pi / 180.0;
+    element.isRotationAbsolute = dash.isRotationAbsolute;
+    element.offset = dash.offset;
+    return element;
+}
+
+LinePattern readPattern(const drawing::Drawing &drawing, const drawing::Linetype &linetype, Fonts &fonts,
+                        drawing::ShapeFiles &shapes)
+{
+    LinePattern pattern;
+    for (const drawing::LinetypeDash &dash : linetype.dashes) {
+        if (pattern.elements.size() == mostElements)
+            break;
+        pattern.elements.push_back(readElement(drawing, dash, fonts, shapes));
+        pattern.length += std::abs(pattern.elements.back().length);
+        pattern.lacksShapes |= dash.shape != 0 && pattern.elements.back().shape.empty();
+    }
+    if (!(pattern.length > 1e-12) || !std::isfinite(pattern.length))
+        pattern.elements.clear();
+    return pattern;
+}
+
+} // namespace
+
+Appearance::Appearance()
+{
+    layer(u"0"_s);
+    linetype(u"Continuous"_s);
+}
+
+int Appearance::layer(const QString &name)
+{
+    const QString key = name.toCaseFolded();
+    const auto known = m_layerNumbers.constFind(key);
+    if (known != m_layerNumbers.constEnd())
+        return *known;
+    m_layers.emplace_back();
+    return *m_layerNumbers.insert(key, static_cast<int>(m_layers.size()) - 1);
+}
+
+int Appearance::linetype(const QString &name)
+{
+    const QString key = name.toCaseFolded();
+    if (key.isEmpty() || key == "bylayer"_L1)
+        return Style::byLayer;
+    if (key == "byblock"_L1)
+        return Style::byBlock;
+    const auto known = m_linetypeNumbers.constFind(key);
+    if (known != m_linetypeNumbers.constEnd())
+        return *known;
+    m_patterns.emplace_back();
+    return *m_linetypeNumbers.insert(key, static_cast<int>(m_patterns.size()) - 1);
+}
+
+std::optional<std::vector<Curve>> Appearance::shapeNamed(const QString &name, drawing::ShapeFiles &shapes)
+{
+    if (const auto known = m_shapes.constFind(name); known != m_shapes.constEnd())
+        return *known;
+    std::optional<std::vector<Curve>> found;
+    for (const QString &fileName : m_shapeFiles) {
+        const drawing::ShapeFile *file = shapes.find(fileName);
+        const auto number = file ? file->numberOf(name) : std::nullopt;
+        if (number) {
+            found = shapeCurves(file, number);
+            break;
+        }
+    }
+    return *m_shapes.insert(name, std::move(found));
+}
+
+void Appearance::reload(const drawing::Drawing &drawing, Fonts &fonts, drawing::ShapeFiles &shapes)
+{
+    m_shapeFiles = drawing::shapeFileNames(drawing);
+    m_shapes.clear();
+    std::ranges::fill(m_patterns, LinePattern{});
+    for (const drawing::RecordId entry : drawing.tables().entries(drawing::TableKind::Linetype)) {
+        const drawing::Linetype read = drawing::readLinetype(drawing, entry);
+        const int number = linetype(read.name);
+        if (number > continuous)
+            m_patterns[static_cast<std::size_t>(number)] = readPattern(drawing, read, fonts, shapes);
+    }
+    std::ranges::fill(m_layers, LayerLook{});
+    for (const drawing::Layer &read : drawing::allLayers(drawing)) {
+        LayerLook look{.linetype = std::max(continuous, linetype(read.linetype)),
+                       .lineweight = read.lineweight,
+                       .isOff = read.isOff,
+                       .isFrozen = read.isFrozen,
+                       .isPlotted = read.isPlotted};
+        // What dimensions are measured from is never plotted, whatever its layer says.
+        if (read.name.compare("defpoints"_L1, Qt::CaseInsensitive) == 0)
+            look.isPlotted = false;
+        look.colour = read.trueColour ? Colour{Colour::Kind::True, *read.trueColour}
+                                      : Colour{Colour::Kind::Index, static_cast<std::uint32_t>(read.colour)};
+        m_layers[static_cast<std::size_t>(layer(read.name))] = look;
+    }
+    m_linetypeScale = sane(drawing.header().real(u"$LTSCALE"_s, 1.0), 1.0);
+    m_maskFrame = drawing::wipeoutFrame(drawing);
+    m_pointMode = static_cast<int>(drawing.header().integer(u"$PDMODE"_s, 0));
+    m_pointSize = drawing.header().real(u"$PDSIZE"_s, 0.0);
+}
+
+QRgb Appearance::color(const Colour &colour, int layer, const ResolvedStyle *insert, Ground ground) const
+{
+    switch (colour.kind) {
+    case Colour::Kind::ByBlock:
+        return insert ? insert->colour : aciColor(7, ground).rgb();
+    case Colour::Kind::Index:
+        return aciColor(static_cast<int>(colour.value), ground).rgb();
+    case Colour::Kind::True:
+        return trueColor(static_cast<int>(colour.value)).rgb();
+    case Colour::Kind::ByLayer:
+        break;
+    }
+    const Colour &ofLayer = layerLook(layer).colour;
+    return ofLayer.kind == Colour::Kind::ByLayer ? aciColor(7, ground).rgb() : color(ofLayer, layer, insert, ground);
+}
+
+ResolvedStyle Appearance::resolve(const Style &style, const ResolvedStyle *insert, Ground ground) const
+{
+    ResolvedStyle resolved;
+    resolved.layer = style.layer == 0 && insert ? insert->layer : style.layer;
+    const LayerLook &look = layerLook(resolved.layer);
+    resolved.colour = color(style.colour, resolved.layer, insert, ground);
+    resolved.linetype = style.linetype;
+    if (style.linetype == Style::byLayer)
+        resolved.linetype = look.linetype;
+    else if (style.linetype == Style::byBlock)
+        resolved.linetype = insert ? insert->linetype : continuous;
+    int weight = style.lineweight;
+    if (weight == Style::byLayer)
+        weight = look.lineweight;
+    else if (weight == Style::byBlock)
+        weight = insert ? insert->lineweight : Style::defaultWeight;
+    resolved.lineweight = weight < 0 ? standardWeight : std::min(weight, thickestWeight);
+    resolved.linetypeScale = m_linetypeScale * sane(style.linetypeScale, 1.0);
+    return resolved;
+}
+
+} // namespace host::view

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "host/view/build/Scene.h"
+#include "host/view/paint/ViewTransform.h"
+
+#include <QColor>
+#include <QPainter>
+
+#include <unordered_set>
+
+namespace host::view {
+
+using RecordSet = std::unordered_set<RecordId>;
+
+struct PaintOptions
+{
+    Ground ground = Ground::Black;
+    bool fillGround = true;                 ///< paints the ground first; otherwise what is there shines through
+    bool antialias = false;                 ///< of lines; texts and areas are always smooth
+    double pixelsPerMillimetre = 0.0;       ///< lines get their weight; 0: all are as thin as can be
+    bool plottedOnly = false;               ///< leaves out layers that are not for plotting
+    const RecordSet *only = nullptr;        ///< draws no other records of the space than these
+    const RecordSet *highlighted = nullptr; ///< records of the space drawn dashed in `highlight`
+    QColor highlight{0x4f, 0xa3, 0xff};
+};
+
+struct PaintResult
+{
+    bool isCutShort = false; ///< there was more than is drawn in one go: some is missing or coarser than it should be
+};
+
+/// Draws a space or block as the view shows it. The painter's units are taken for pixels; its pen, brush and clip are
+/// as before afterwards. Costs a look at every record's box and, for those in view, time by what they show.
+PaintResult paintScene(QPainter &painter, Scene &scene, int block, const ViewTransform &view,
+                       const PaintOptions &options = {});
+
+} // namespace host::view

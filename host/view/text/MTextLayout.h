@@ -1,0 +1,53 @@
+#pragma once
+
+#include "host/view/text/Fonts.h"
+#include "host/view/text/MTextParser.h"
+
+#include <vector>
+
+namespace host::view {
+
+/// A piece of multi-line text where it stands: x to the right and y up from the top left corner of the text box,
+/// drawing units.
+struct MTextRun
+{
+    QString text{};
+    int font = 0;
+    MTextFormat format{}; ///< height and width factor as drawn, also inside stacks
+    double x = 0.0;
+    double y = 0.0;     ///< of the base line
+    double width = 0.0; ///< drawing units
+};
+
+/// A straight line of the text: under, over or through it, or the bar of a fraction.
+struct MTextRule
+{
+    double x1 = 0.0;
+    double y1 = 0.0;
+    double x2 = 0.0;
+    double y2 = 0.0;
+    MTextFormat format{};
+};
+
+struct MTextLayout
+{
+    std::vector<MTextRun> runs{};
+    std::vector<MTextRule> rules{};
+    double width = 0.0;  ///< of the box: the given one, or that of the longest line
+    double height = 0.0; ///< from the top of the first line to the base of the last
+};
+
+struct MTextBox
+{
+    double width = 0.0; ///< lines are broken here; 0: nowhere
+    double lineSpacing = 1.0;
+    bool isSpacingExact = false;
+    MTextAlignment alignment = MTextAlignment::Left;
+    FontRequest styleFont{};
+};
+
+/// Breaks the tokens into lines and says where each piece stands. Lines break between words; a word longer than the
+/// box has a line to itself.
+MTextLayout layOutMText(const std::vector<MTextToken> &tokens, const MTextBox &box, double textHeight, Fonts &fonts);
+
+} // namespace host::view
