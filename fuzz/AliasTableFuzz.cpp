@@ -1,7 +1,7 @@
 // Any bytes as an alias file: what was read of it is written and read again as the same, and written the same again.
 
 #include "fuzz/Require.h"
-#include "host/kernel/AliasTable.h"
+#include "host/kernel/running/AliasTable.h"
 
 #include <QBuffer>
 

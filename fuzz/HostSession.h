@@ -1,7 +1,7 @@
 #pragma once
 
 #include "fuzz/GuiApplication.h"
-#include "host/kernel/Session.h"
+#include "host/kernel/documents/Session.h"
 
 #include <QApplication>
 #include <QTemporaryDir>

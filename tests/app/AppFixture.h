@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/kernel/Session.h"
+#include "host/kernel/documents/Session.h"
 
 #include <QTemporaryDir>
 

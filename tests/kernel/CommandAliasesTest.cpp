@@ -1,6 +1,6 @@
-#include "host/kernel/CommandAliases.h"
+#include "host/kernel/running/CommandAliases.h"
 
-#include "host/kernel/commands/CommandTable.h"
+#include "host/kernel/running/CommandTable.h"
 #include "platform/kernel/CKvSystemServices.h"
 #include "tests/kernel/Bench.h"
 #include "tests/support/QtTestPrinters.h"

@@ -1,8 +1,8 @@
 #include "tests/kernel/CommandDialogue.h"
 
 #include "host/drawing/records/Entities.h"
-#include "host/kernel/SystemVariables.h"
 #include "host/kernel/input/InputFeeder.h"
+#include "host/kernel/variables/SystemVariables.h"
 
 #include <ostream>
 

@@ -1,6 +1,6 @@
 #include "host/drawing/records/Entities.h"
-#include "host/kernel/commands/CommandStack.h"
-#include "host/kernel/commands/CommandTable.h"
+#include "host/kernel/running/CommandStack.h"
+#include "host/kernel/running/CommandTable.h"
 #include "platform/kernel/CKvDocument.h"
 #include "platform/kernel/CKvLispEngine.h"
 #include "platform/kernel/CKvUserInput.h"

@@ -1,6 +1,6 @@
 #include "host/drawing/records/Dictionaries.h"
 #include "host/drawing/records/Entities.h"
-#include "host/kernel/Editor.h"
+#include "host/kernel/platform/Editor.h"
 #include "platform/db/OdDbDatabase.h"
 #include "platform/ed/OdEditor.h"
 #include "platform/kernel/CKvEditorReactor.h"

@@ -2,9 +2,9 @@
 
 #include "host/drawing/records/Entities.h"
 #include "host/drawing/records/Layouts.h"
-#include "host/kernel/functions/EntityList.h"
-#include "host/kernel/functions/LispConversion.h"
-#include "host/kernel/functions/SelectionFilterList.h"
+#include "host/kernel/lisp/EntityList.h"
+#include "host/kernel/lisp/LispConversion.h"
+#include "host/kernel/lisp/SelectionFilterList.h"
 #include "host/lisp/Interpreter.h"
 #include "host/lisp/Printer.h"
 #include "tests/kernel/Bench.h"

@@ -1,4 +1,4 @@
-#include "host/kernel/Services.h"
+#include "host/kernel/platform/Services.h"
 #include "host/view/display/AciColor.h"
 #include "platform/kernel/CKvMessageBox.h"
 #include "platform/kernel/CKvUtils.h"

@@ -1,5 +1,5 @@
-#include "host/kernel/SystemVariables.h"
 #include "host/kernel/input/UserInput.h"
+#include "host/kernel/variables/SystemVariables.h"
 #include "tests/kernel/Bench.h"
 
 using namespace host::kernel;

@@ -1,7 +1,7 @@
-#include "host/kernel/SystemVariables.h"
+#include "host/kernel/variables/SystemVariables.h"
 
-#include "host/kernel/Editor.h"
-#include "host/kernel/UndoSteps.h"
+#include "host/kernel/documents/UndoSteps.h"
+#include "host/kernel/platform/Editor.h"
 #include "platform/db/OdDbDatabase.h"
 #include "tests/kernel/Bench.h"
 

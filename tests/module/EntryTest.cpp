@@ -1,4 +1,4 @@
-#include "host/kernel/Services.h"
+#include "host/kernel/platform/Services.h"
 #include "platform/rx/OdRxModule.h"
 #include "tests/support/FakeHost.h"
 #include "tests/support/ModalAnswers.h"

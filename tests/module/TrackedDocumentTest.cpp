@@ -2,7 +2,7 @@
 
 #include "dialogs/tracktime/Dlg_QT_TrackTime.h"
 #include "host/drawing/file/NewDrawing.h"
-#include "host/kernel/Session.h"
+#include "host/kernel/documents/Session.h"
 #include "module/CLispFunctionsModule.h"
 #include "module/DialogRegistry.h"
 #include "platform/kernel/CKvUtils.h"

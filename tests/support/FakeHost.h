@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/kernel/Services.h"
+#include "host/kernel/platform/Services.h"
 #include "platform/ed/OdEdCommand.h"
 #include "platform/ed/OdEditor.h"
 #include "platform/kernel/CKvCustBlockUtils.h"

@@ -2,7 +2,7 @@
 
 #include "host/app/playback/SessionPlayer.h"
 #include "host/app/workbench/Workbench.h"
-#include "host/kernel/DocumentManager.h"
+#include "host/kernel/documents/DocumentManager.h"
 #include "host/lisp/Interpreter.h"
 #include "tests/support/QtTestPrinters.h"
 #include "tests/tools/ToolRun.h"

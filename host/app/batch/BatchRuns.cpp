@@ -8,7 +8,7 @@
 #include "host/app/workbench/LimitWatch.h"
 #include "host/app/workbench/ProgramOutput.h"
 #include "host/app/workbench/Workbench.h"
-#include "host/kernel/ExpressionSurroundings.h"
+#include "host/kernel/documents/ExpressionSurroundings.h"
 #include "host/lisp/Paths.h"
 
 #include <QDir>

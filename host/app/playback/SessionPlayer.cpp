@@ -5,7 +5,7 @@
 #include "host/app/workbench/DrawingPicture.h"
 #include "host/drawing/geometry/EntityGeometry.h"
 #include "host/drawing/records/Entities.h"
-#include "host/kernel/Session.h"
+#include "host/kernel/documents/Session.h"
 
 #include <QApplication>
 #include <QDir>

@@ -2,7 +2,7 @@
 
 #include "host/app/playback/DialogDriver.h"
 #include "host/app/playback/PlaybackScript.h"
-#include "host/kernel/Document.h"
+#include "host/kernel/documents/Document.h"
 #include "host/kernel/input/InputFeeder.h"
 #include "host/view/build/Scene.h"
 

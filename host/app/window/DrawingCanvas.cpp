@@ -1,8 +1,8 @@
 #include "host/app/window/DrawingCanvas.h"
 
 #include "host/drawing/records/HeaderVariables.h"
-#include "host/kernel/ExpressionSurroundings.h"
-#include "host/kernel/SystemVariables.h"
+#include "host/kernel/documents/ExpressionSurroundings.h"
+#include "host/kernel/variables/SystemVariables.h"
 #include "host/view/paint/Picking.h"
 #include "host/view/paint/ScenePainter.h"
 

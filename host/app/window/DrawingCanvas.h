@@ -1,7 +1,7 @@
 #pragma once
 
 #include "host/app/window/DragPreview.h"
-#include "host/kernel/Document.h"
+#include "host/kernel/documents/Document.h"
 #include "host/kernel/input/PromptRequest.h"
 #include "host/view/build/Scene.h"
 #include "host/view/paint/ViewTransform.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/kernel/TrustedFolders.h"
+#include "host/kernel/files/TrustedFolders.h"
 
 class QWidget;
 

@@ -1,8 +1,8 @@
 #include "host/app/workbench/DrawingPicture.h"
 
 #include "files/qt/Files.h"
-#include "host/kernel/Document.h"
-#include "host/kernel/ExpressionSurroundings.h"
+#include "host/kernel/documents/Document.h"
+#include "host/kernel/documents/ExpressionSurroundings.h"
 
 #include <QBuffer>
 #include <QCoreApplication>

@@ -1,6 +1,6 @@
 #include "host/app/workbench/ProgramOptions.h"
 
-#include "host/kernel/Session.h"
+#include "host/kernel/documents/Session.h"
 
 #include <QHash>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "host/app/workbench/ToolIndex.h"
-#include "host/kernel/Session.h"
+#include "host/kernel/documents/Session.h"
 
 #include <QObject>
 

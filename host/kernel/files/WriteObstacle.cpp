@@ -1,7 +1,7 @@
 #include "host/kernel/files/WriteObstacle.h"
 
-#include "host/kernel/Document.h"
-#include "host/kernel/Session.h"
+#include "host/kernel/documents/Document.h"
+#include "host/kernel/documents/Session.h"
 
 #include <QDir>
 

@@ -4,9 +4,9 @@
 #include "host/drawing/records/Entities.h"
 #include "host/drawing/records/Symbols.h"
 #include "host/drawing/selection/PolygonSelection.h"
-#include "host/kernel/CurrentSpace.h"
-#include "host/kernel/Document.h"
-#include "host/kernel/SystemVariables.h"
+#include "host/kernel/documents/CurrentSpace.h"
+#include "host/kernel/documents/Document.h"
+#include "host/kernel/variables/SystemVariables.h"
 
 #include <QSet>
 

@@ -1,11 +1,11 @@
 #include "host/kernel/input/PromptDialogue.h"
 
-#include "host/kernel/Document.h"
-#include "host/kernel/SystemVariables.h"
-#include "host/kernel/functions/AnswerFromValue.h"
+#include "host/kernel/documents/Document.h"
+#include "host/kernel/input/AnswerFromValue.h"
 #include "host/kernel/input/Keywords.h"
 #include "host/kernel/input/Picker.h"
 #include "host/kernel/input/PointEntry.h"
+#include "host/kernel/variables/SystemVariables.h"
 #include "host/lisp/Interpreter.h"
 
 #include <cmath>

@@ -1,8 +1,8 @@
 #include "host/kernel/input/SelectionBuilder.h"
 
 #include "host/drawing/records/Entities.h"
-#include "host/kernel/CurrentSpace.h"
-#include "host/kernel/Document.h"
+#include "host/kernel/documents/CurrentSpace.h"
+#include "host/kernel/documents/Document.h"
 
 namespace host::kernel {
 

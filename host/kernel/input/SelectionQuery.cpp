@@ -3,7 +3,7 @@
 #include "host/drawing/records/Entities.h"
 #include "host/drawing/records/Layouts.h"
 #include "host/drawing/records/Symbols.h"
-#include "host/kernel/Document.h"
+#include "host/kernel/documents/Document.h"
 #include "host/kernel/input/SelectionBuilder.h"
 #include "host/kernel/input/UserInput.h"
 

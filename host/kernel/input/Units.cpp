@@ -1,6 +1,6 @@
 #include "host/kernel/input/Units.h"
 
-#include "host/kernel/SystemVariables.h"
+#include "host/kernel/variables/SystemVariables.h"
 #include "host/lisp/Units.h"
 
 #include <cmath>

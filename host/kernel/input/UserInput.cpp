@@ -1,11 +1,11 @@
 #include "host/kernel/input/UserInput.h"
 
-#include "host/kernel/Document.h"
-#include "host/kernel/Session.h"
-#include "host/kernel/SystemVariables.h"
+#include "host/kernel/documents/Document.h"
+#include "host/kernel/documents/Session.h"
 #include "host/kernel/input/Keywords.h"
 #include "host/kernel/input/PromptDialogue.h"
 #include "host/kernel/input/Units.h"
+#include "host/kernel/variables/SystemVariables.h"
 
 namespace host::kernel {
 

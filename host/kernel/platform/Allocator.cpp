@@ -1,4 +1,4 @@
-#include "host/kernel/Services.h"
+#include "host/kernel/platform/Services.h"
 #include "platform/rx/OdAlloc.h"
 
 #include <cstdlib>

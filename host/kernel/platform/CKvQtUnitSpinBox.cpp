@@ -1,8 +1,8 @@
 #include "platform/widgets/CKvQtUnitSpinBox.h"
 
-#include "host/kernel/Document.h"
-#include "host/kernel/DrawingDatabase.h"
+#include "host/kernel/documents/Document.h"
 #include "host/kernel/input/Units.h"
+#include "host/kernel/platform/DrawingDatabase.h"
 
 #include <QtMath>
 

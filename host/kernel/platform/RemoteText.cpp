@@ -1,9 +1,9 @@
 #include "host/kernel/platform/RemoteText.h"
 
 #include "host/drawing/records/HeaderVariables.h"
-#include "host/kernel/CurrentProperties.h"
-#include "host/kernel/Document.h"
-#include "host/kernel/DrawingDatabase.h"
+#include "host/kernel/documents/CurrentProperties.h"
+#include "host/kernel/documents/Document.h"
+#include "host/kernel/platform/DrawingDatabase.h"
 
 #include <QtMath>
 

@@ -1,0 +1,77 @@
+#include "host/commands/CircleGeometry.h"
+
+#include <cmath>
+
+namespace host::kernel {
+
+using drawing::Vec2;
+
+namespace {
+
+/// Directions that differ by less count as one.
+constexpr double tolerance = 1e-12;
+
+Vec2 turnedLeft(Vec2 v)
+{
+    return {-v.y, v.x};
+}
+
+} // namespace
+
+std::optional<Vec2> circleCentre(Vec2 first, Vec2 second, Vec2 third)
+{
+    const Vec2 a = second - first;
+    const Vec2 b = third - first;
+    const double area = 2.0 * cross(a, b);
+    if (!(std::abs(area) > tolerance * a.length() * b.length()))
+        return {};
+    const Vec2 sum = a * dot(b, b) - b * dot(a, a);
+    return first + turnedLeft(sum) * (1.0 / area);
+}
+
+double bulgeAlong(Vec2 from, double direction, Vec2 to)
+{
+    const Vec2 chord = to - from;
+    // The chord turns away from the tangent by half of the arc's angle.
+    const double half = std::remainder(std::atan2(chord.y, chord.x) - direction, 2.0 * M_PI);
+    return std::tan(half / 2.0);
+}
+
+double bulgeThrough(Vec2 from, Vec2 between, Vec2 to)
+{
+    const Vec2 in = between - from;
+    const Vec2 out = to - between;
+    return std::tan(std::atan2(cross(in, out), dot(in, out)) / 2.0);
+}
+
+double bulgeOfAngle(double angle)
+{
+    return std::tan(angle / 4.0);
+}
+
+double arrivalDirection(Vec2 from, Vec2 to, double bulge)
+{
+    const Vec2 chord = to - from;
+    return std::atan2(chord.y, chord.x) + 2.0 * std::atan(bulge);
+}
+
+std::vector<Vec2> circleMeetings(Vec2 first, double firstRadius, Vec2 second, double secondRadius)
+{
+    const Vec2 between = second - first;
+    const double distance = between.length();
+    if (!(distance > 0.0))
+        return {};
+    const double along =
+        (distance * distance + firstRadius * firstRadius - secondRadius * secondRadius) / (2.0 * distance);
+    const double square = firstRadius * firstRadius - along * along;
+    const double limit = tolerance * distance * distance;
+    if (square < -limit)
+        return {};
+    const Vec2 foot = first + between * (along / distance);
+    const Vec2 aside = turnedLeft(between) * (std::sqrt(std::max(square, 0.0)) / distance);
+    if (square <= limit)
+        return {foot};
+    return {foot + aside, foot - aside};
+}
+
+} // namespace host::kernel

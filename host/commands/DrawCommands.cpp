@@ -1,0 +1,64 @@
+#include "host/commands/Commands.h"
+#include "host/kernel/running/CommandContext.h"
+
+using namespace Qt::StringLiterals;
+
+namespace host::kernel {
+
+namespace {
+
+using drawing::RecordId;
+using drawing::Vec3;
+
+RecordId createLine(CommandContext &context, const Vec3 &from, const Vec3 &to)
+{
+    return context.create({{0, u"LINE"_s}, {10, from}, {11, to}});
+}
+
+// First point, next points; Undo takes back one segment, Close goes back to the first point.
+CommandTask line(CommandContext &context)
+{
+    PromptReply reply = co_await context.point(u"Specify first point: "_s);
+    if (!reply.hasValue())
+        co_return;
+    std::vector<Vec3> points = {reply.point};
+    std::vector<RecordId> segments;
+    for (;;) {
+        const QString shown =
+            points.size() > 2 ? u"Specify next point or [Close/Undo]: "_s : u"Specify next point or [Undo]: "_s;
+        reply = co_await context.point(shown, {}, points.back());
+        if (reply.isEmpty())
+            co_return;
+        if (reply.isKeyword(u"Close")) {
+            createLine(context, points.back(), points.front());
+            co_return;
+        }
+        if (reply.isKeyword(u"Undo")) {
+            if (segments.empty())
+                continue;
+            context.drawing().setErased(segments.back(), true);
+            segments.pop_back();
+            points.pop_back();
+            continue;
+        }
+        segments.push_back(createLine(context, points.back(), reply.point));
+        points.push_back(reply.point);
+    }
+}
+
+// One point.
+CommandTask point(CommandContext &context)
+{
+    const PromptReply reply = co_await context.point(u"Specify a point: "_s);
+    if (reply.hasValue())
+        context.create({{0, u"POINT"_s}, {10, reply.point}});
+}
+
+} // namespace
+
+std::vector<CommandRow> drawCommands()
+{
+    return {{"LINE", line, "Draws straight segments", WhenCancelled::KeepDone}, {"POINT", point, "Draws a point"}};
+}
+
+} // namespace host::kernel

@@ -1,0 +1,174 @@
+#include "host/commands/Commands.h"
+#include "host/commands/EntityEdits.h"
+#include "host/commands/ReferenceValue.h"
+#include "host/commands/UserPlane.h"
+#include "host/kernel/documents/Document.h"
+#include "host/kernel/running/CommandContext.h"
+#include "host/kernel/variables/SystemVariables.h"
+
+#include <cmath>
+
+using namespace Qt::StringLiterals;
+
+namespace host::kernel {
+
+namespace {
+
+using drawing::Matrix;
+using drawing::RecordId;
+using drawing::Vec3;
+
+CommandTask erase(CommandContext &context)
+{
+    const PromptReply chosen = co_await context.selection();
+    for (RecordId id : editable(context, chosen.entities))
+        context.drawing().setErased(id, true);
+}
+
+/// A displacement, typed as a point: the way from the user's origin to it.
+Dialogue<Vec3> askDisplacement(CommandContext &context)
+{
+    const QString zero = context.shownLength(0.0);
+    const QString usual = u"%1, %1, %1"_s.arg(zero);
+    const UserPlane plane(context.document());
+    const PromptReply reply =
+        co_await context.point(u"Specify displacement <%1>: "_s.arg(usual), {}, plane.worldFromUser({}), usual);
+    co_return reply.hasValue() ? plane.displacement(reply.point) : Vec3{};
+}
+
+// Base point and second point, or a displacement; an empty second point takes the first one as the displacement.
+CommandTask move(CommandContext &context)
+{
+    const PromptReply chosen = co_await context.selection();
+    const std::vector<RecordId> entities = editable(context, chosen.entities);
+    if (entities.empty())
+        co_return;
+    const PromptReply from =
+        co_await context.point(u"Specify base point or [Displacement] <Displacement>: "_s, {}, {}, u"Displacement"_s);
+    if (!from.hasValue()) {
+        const Vec3 by = co_await askDisplacement(context);
+        transformAll(context, entities, Matrix::translation(by));
+        co_return;
+    }
+    const PromptReply to =
+        co_await context.point(u"Specify second point or <use first point as displacement>: "_s, {}, from.point);
+    const Vec3 by = to.hasValue() ? to.point - from.point : UserPlane(context.document()).displacement(from.point);
+    transformAll(context, entities, Matrix::translation(by));
+}
+
+/// Asks where the copies go, one after another, as far as COPYMODE lets it; Undo takes the last one back.
+Dialogue<bool> askCopies(CommandContext &context, const std::vector<RecordId> &entities, Vec3 from)
+{
+    const auto copyTo = [&](const Vec3 &by) { return copyAll(context, entities, Matrix::translation(by)); };
+    PromptReply to = co_await context.point(u"Specify second point or <use first point as displacement>: "_s, {}, from);
+    if (!to.hasValue()) {
+        copyTo(UserPlane(context.document()).displacement(from));
+        co_return true;
+    }
+    std::vector<std::vector<RecordId>> made = {copyTo(to.point - from)};
+    while (context.document().variables().integer(u"COPYMODE") == 0) {
+        to = co_await context.point(u"Specify second point or [Exit/Undo] <Exit>: "_s, {}, from, u"Exit"_s);
+        if (to.hasValue()) {
+            made.push_back(copyTo(to.point - from));
+        } else if (!to.isKeyword(u"Undo")) {
+            break;
+        } else if (!made.empty()) {
+            for (RecordId id : made.back())
+                context.drawing().setErased(id, true);
+            made.pop_back();
+        }
+    }
+    co_return true;
+}
+
+// As MOVE, with more copies until an empty answer.
+CommandTask copy(CommandContext &context)
+{
+    const PromptReply chosen = co_await context.selection();
+    if (chosen.entities.empty())
+        co_return;
+    PromptReply from;
+    for (;;) {
+        from = co_await context.point(u"Specify base point or [Displacement/mOde] <Displacement>: "_s, {}, {},
+                                      u"Displacement"_s);
+        if (!from.isKeyword(u"mOde"))
+            break;
+        const PromptReply mode =
+            co_await context.keyword(u"Enter a copy mode option [Single/Multiple] <Multiple>: "_s, {}, u"Multiple"_s);
+        context.document().variables().setInternally(u"COPYMODE", mode.text == u"Single"_s ? 1 : 0);
+    }
+    if (from.hasValue()) {
+        co_await askCopies(context, chosen.entities, from.point);
+        co_return;
+    }
+    const Vec3 by = co_await askDisplacement(context);
+    copyAll(context, chosen.entities, Matrix::translation(by));
+}
+
+/// What ROTATE and SCALE do: their entities, or copies of them.
+void apply(CommandContext &context, const std::vector<RecordId> &entities, bool isCopy, const Matrix &matrix)
+{
+    if (isCopy)
+        copyAll(context, entities, matrix);
+    else
+        transformAll(context, editable(context, entities), matrix);
+}
+
+// Base point, then an angle, or Copy and Reference.
+CommandTask rotate(CommandContext &context)
+{
+    const SystemVariables &variables = context.document().variables();
+    context.print(u"\nCurrent positive angle in UCS:  ANGDIR=%1  ANGBASE=%2"_s.arg(
+        variables.integer(u"ANGDIR") == 0 ? u"counterclockwise"_s : u"clockwise"_s,
+        context.shownAngle(variables.real(u"ANGBASE"))));
+    const PromptReply chosen = co_await context.selection();
+    if (chosen.entities.empty())
+        co_return;
+    const PromptReply centre = co_await context.neededPoint(u"Specify base point: "_s);
+    const QString zero = context.shownAngle(0.0);
+    const QString prompt = u"Specify rotation angle or [Copy/Reference] <%1>: "_s.arg(zero);
+    PromptReply turn = co_await context.angle(prompt, {}, centre.point, zero);
+    const bool isCopy = turn.isKeyword(u"Copy");
+    if (isCopy) {
+        context.print(u"\nRotating a copy of the selected objects."_s);
+        turn = co_await context.angle(prompt, u"Reference"_s, centre.point, zero);
+    }
+    double angle = turn.hasValue() ? turn.real : 0.0;
+    if (turn.isKeyword(u"Reference"))
+        angle = co_await askReferenceAngle(context, centre.point);
+    apply(context, chosen.entities, isCopy, UserPlane(context.document()).rotation(angle, centre.point));
+}
+
+// Base point, then a factor, or Copy and Reference.
+CommandTask scale(CommandContext &context)
+{
+    constexpr int bits = NoEmptyAnswer | NoZero | NoNegative;
+    const PromptReply chosen = co_await context.selection();
+    if (chosen.entities.empty())
+        co_return;
+    const PromptReply centre = co_await context.neededPoint(u"Specify base point: "_s);
+    const QString prompt = u"Specify scale factor or [Copy/Reference]: "_s;
+    PromptReply factor = co_await context.distance(prompt, {}, centre.point, {}, bits);
+    const bool isCopy = factor.isKeyword(u"Copy");
+    if (isCopy) {
+        context.print(u"\nScaling a copy of the selected objects."_s);
+        factor = co_await context.distance(prompt, u"Reference"_s, centre.point, {}, bits);
+    }
+    double by = factor.real;
+    if (factor.isKeyword(u"Reference"))
+        by = co_await askReferenceFactor(context, centre.point);
+    apply(context, chosen.entities, isCopy, Matrix::scaling({by, by, by}, centre.point));
+}
+
+} // namespace
+
+std::vector<CommandRow> editCommands()
+{
+    return {{"COPY", copy, "Copies entities", WhenCancelled::KeepDone},
+            {"ERASE", erase, "Takes entities out of the drawing"},
+            {"MOVE", move, "Moves entities"},
+            {"ROTATE", rotate, "Turns entities round a point"},
+            {"SCALE", scale, "Makes entities larger or smaller"}};
+}
+
+} // namespace host::kernel

@@ -1,0 +1,51 @@
+#include "host/commands/EntityEdits.h"
+
+#include "host/drawing/geometry/TransformEntity.h"
+#include "host/kernel/input/SelectionQuery.h"
+#include "host/kernel/running/CommandContext.h"
+
+using namespace Qt::StringLiterals;
+
+namespace host::kernel {
+
+using drawing::Matrix;
+using drawing::RecordId;
+
+std::vector<RecordId> editable(CommandContext &context, std::vector<RecordId> entities)
+{
+    const QSet<QString> locked = lockedLayers(context.drawing());
+    const auto count = std::erase_if(
+        entities, [&](RecordId id) { return !locked.isEmpty() && isOnLayerOf(locked, context.drawing(), id); });
+    if (count > 0)
+        context.print(count == 1 ? u"\n1 was on a locked layer."_s : u"\n%1 were on a locked layer."_s.arg(count));
+    return entities;
+}
+
+void transformAll(CommandContext &context, const std::vector<RecordId> &entities, const Matrix &matrix)
+{
+    const Matrix &m = matrix;
+    const bool isPossible = std::ranges::all_of(std::array{m.xAxis, m.yAxis, m.zAxis, m.origin}, [](const auto &v) {
+        return std::isfinite(v.x) && std::isfinite(v.y) && std::isfinite(v.z);
+    });
+    if (!isPossible)
+        return context.fail(u"The numbers are too large."_s);
+    int refused = 0;
+    for (RecordId id : entities)
+        refused += drawing::transformEntity(context.drawing(), id, matrix) ? 0 : 1;
+    if (refused > 0)
+        context.print(u"\n%1 could not be changed."_s.arg(refused));
+}
+
+std::vector<RecordId> copyAll(CommandContext &context, const std::vector<RecordId> &entities, const Matrix &matrix)
+{
+    std::vector<RecordId> copies;
+    for (RecordId id : entities)
+        if (const RecordId copy = drawing::copyEntity(context.drawing(), id); isValid(copy))
+            copies.push_back(copy);
+    if (copies.size() != entities.size())
+        context.print(u"\n%1 could not be copied."_s.arg(entities.size() - copies.size()));
+    transformAll(context, copies, matrix);
+    return copies;
+}
+
+} // namespace host::kernel

@@ -1,0 +1,217 @@
+#include "host/commands/Commands.h"
+#include "host/commands/EntityEdits.h"
+#include "host/commands/InsertPlacement.h"
+#include "host/drawing/editing/CopyBetweenDrawings.h"
+#include "host/drawing/geometry/TransformEntity.h"
+#include "host/drawing/geometry/TransformFields.h"
+#include "host/drawing/records/Blocks.h"
+#include "host/drawing/selection/Wildcard.h"
+#include "host/kernel/documents/CurrentSpace.h"
+#include "host/kernel/documents/Document.h"
+#include "host/kernel/running/CommandContext.h"
+#include "host/kernel/variables/SystemVariables.h"
+
+#include <QFileInfo>
+
+using namespace Qt::StringLiterals;
+
+namespace host::kernel {
+
+namespace {
+
+using drawing::FieldList;
+using drawing::Matrix;
+using drawing::RecordId;
+using drawing::TagList;
+
+/// What an answer to INSERT means.
+struct Wanted
+{
+    QString block;         ///< the definition's name; empty when there is none, which was told
+    bool isPieces = false; ///< "*name": its entities instead of a reference
+    bool isNew = false;    ///< made for this command
+};
+
+/// Makes the drawing file at `path` a block, as `name`. Empty when all went well, else the reason.
+QString readBlock(CommandContext &context, const QString &name, const QString &path)
+{
+    const drawing::ReadResult source = drawing::Drawing::open(path);
+    if (!source)
+        return u"%1: %2"_s.arg(path, source.error.message());
+    const drawing::CopyResult made = drawing::insertAsBlock(*source.drawing, context.drawing(), name);
+    if (made.converted > 0)
+        context.print(u"\n%1 of its entities became ones that a drawing of this version has."_s.arg(made.converted));
+    if (made.skipped > 0)
+        context.print(u"\n%1 of its entities could not be taken over."_s.arg(made.skipped));
+    return made.error;
+}
+
+/// "name", "file" or "name=file", where a file makes or redefines the block; a star in front of it for its entities.
+Wanted wantedBlock(CommandContext &context, QString answer)
+{
+    Wanted wanted;
+    const drawing::Blocks &blocks = context.drawing().blocks();
+    wanted.isPieces = answer.startsWith(u'*') && !isValid(blocks.find(answer));
+    if (wanted.isPieces)
+        answer.remove(0, 1);
+    const bool namesFile = answer.contains(u'=');
+    if (!namesFile && isValid(blocks.find(answer))) {
+        wanted.block = answer;
+        return wanted;
+    }
+    const QString name = namesFile ? answer.section(u'=', 0, 0).trimmed() : QFileInfo(answer).completeBaseName();
+    const QString file = namesFile ? answer.section(u'=', 1).trimmed() : answer;
+    QString path = context.document().findFile(file);
+    for (const QString &ending : {u".dxf"_s, u".dwg"_s})
+        if (path.isEmpty())
+            path = context.document().findFile(file + ending);
+    wanted.isNew = !isValid(blocks.find(name));
+    const QString problem =
+        path.isEmpty() ? u"Cannot find block or file \"%1\"."_s.arg(file) : readBlock(context, name, path);
+    if (problem.isEmpty())
+        wanted.block = name;
+    else
+        context.fail(problem);
+    return wanted;
+}
+
+void listBlocks(CommandContext &context, const QString &pattern)
+{
+    context.print(u"\nDefined blocks."_s);
+    for (const RecordId id : context.drawing().blocks().all()) {
+        const drawing::Block block = context.drawing().blocks().read(id);
+        if (!block.isLayout() && !block.isAnonymous() && drawing::matchesWildcard(block.name, pattern))
+            context.print(u"\n  \"%1\""_s.arg(block.name));
+    }
+}
+
+/// An attribute definition of the block.
+struct Definition
+{
+    FieldList fields;
+    QString tag;
+    QString prompt;
+    QString value;
+    bool isAsked = true;
+};
+
+std::vector<Definition> attributeDefinitions(const drawing::Drawing &drawing, const QString &block)
+{
+    constexpr qint64 constant = 2;
+    constexpr qint64 preset = 8;
+    std::vector<Definition> definitions;
+    for (RecordId id : drawing.children(drawing.blocks().find(block))) {
+        if (!drawing.isType(id, "ATTDEF"))
+            continue;
+        const TagList tags = drawing.tags(id);
+        if (!(tags.integer(70) & constant))
+            definitions.push_back(
+                {drawing.fields(id), tags.text(2), tags.text(3), tags.text(1), !(tags.integer(70) & preset)});
+    }
+    return definitions;
+}
+
+/// The attribute that a definition becomes where the block is inserted.
+FieldList attributeFor(const Definition &definition, const Matrix &toDrawing)
+{
+    static const QSet<int> kept = {6, 7, 8, 10, 11, 39, 40, 41, 50, 51, 62, 70, 71, 72, 73, 74, 210};
+    FieldList fields = {{0, u"ATTRIB"_s}};
+    for (const drawing::Field &field : definition.fields)
+        if (kept.contains(field.code) && !drawing::findField(fields, field.code))
+            fields.push_back(field);
+    drawing::transformFields(fields, toDrawing);
+    fields.push_back({1, definition.value});
+    fields.push_back({2, definition.tag});
+    return fields;
+}
+
+void createInsert(CommandContext &context, const QString &block, const InsertPlacement &placement,
+                  const std::vector<Definition> &attributes)
+{
+    FieldList head = insertFields(context, block, placement);
+    if (attributes.empty()) {
+        context.create(head);
+        return;
+    }
+    head.push_back({66, qint64(1)});
+    const Matrix toDrawing = placementMatrix(context, context.drawing().blocks().get(block)->basePoint, placement);
+    std::vector<FieldList> children;
+    for (const Definition &definition : attributes)
+        children.push_back(attributeFor(definition, toDrawing));
+    context.createComplex(head, children);
+}
+
+/// Puts copies of the block's entities into the drawing.
+void createPieces(CommandContext &context, const Wanted &wanted, const InsertPlacement &placement)
+{
+    drawing::Drawing &drawing = context.drawing();
+    const drawing::Block block = *drawing.blocks().get(wanted.block);
+    std::vector<RecordId> pieces;
+    for (const RecordId entity : drawing.children(block.record))
+        pieces.push_back(drawing::copyEntityTo(drawing, entity, currentSpace(drawing)));
+    transformAll(context, pieces, placementMatrix(context, block.basePoint, placement));
+    if (wanted.isNew)
+        drawing.blocks().erase(block.record);
+}
+
+/// Asks which block, and lists those that there are.
+Dialogue<Wanted> askBlock(CommandContext &context)
+{
+    const QString last = context.document().variables().text(u"INSNAME");
+    // GCC 12 destroys a temporary twice that one branch of a condition makes within a co_await.
+    const QString prompt =
+        last.isEmpty() ? u"Enter block name or [?]: "_s : u"Enter block name or [?] <%1>: "_s.arg(last);
+    PromptReply name = co_await context.text(prompt, last, u"?"_s);
+    while (name.isKeyword(u"?")) {
+        const PromptReply pattern = co_await context.text(u"Enter block(s) to list <*>: "_s, u"*"_s);
+        listBlocks(context, pattern.hasValue() ? pattern.text.trimmed() : u"*"_s);
+        name = co_await context.text(prompt, last, u"?"_s);
+    }
+    co_return wantedBlock(context, name.hasValue() ? name.text.trimmed() : last);
+}
+
+/// Asks for the values of the attributes that are asked for (ATTREQ 0: none, their defaults count).
+Dialogue<std::vector<Definition>> askAttributes(CommandContext &context, const QString &block)
+{
+    std::vector<Definition> attributes = attributeDefinitions(context.drawing(), block);
+    const bool areAsked = context.document().variables().integer(u"ATTREQ") != 0;
+    for (Definition &definition : attributes) {
+        if (!areAsked || !definition.isAsked)
+            continue;
+        const QString asked = definition.prompt.isEmpty() ? definition.tag : definition.prompt;
+        const PromptReply value = co_await context.text(u"%1 <%2>: "_s.arg(asked, definition.value), definition.value);
+        if (value.hasValue())
+            definition.value = value.text;
+    }
+    co_return attributes;
+}
+
+// Name, insertion point, scales, rotation, then the values of the attributes.
+CommandTask insert(CommandContext &context)
+{
+    const Wanted wanted = co_await askBlock(context);
+    if (wanted.block.isEmpty())
+        co_return;
+    context.document().variables().setInternally(u"INSNAME", wanted.block);
+    const InsertPlacement placement =
+        co_await askPlacement(context, wanted.isPieces ? InsertScales::One : InsertScales::OfEachAxis);
+    if (context.hasFailed())
+        co_return;
+    if (wanted.isPieces) {
+        createPieces(context, wanted, placement);
+        co_return;
+    }
+    const std::vector<Definition> attributes = co_await askAttributes(context, wanted.block);
+    createInsert(context, wanted.block, placement, attributes);
+}
+
+} // namespace
+
+std::vector<CommandRow> insertCommands()
+{
+    // Programs read a block from a file by "name=file" and an Esc at the next prompt: the block stays.
+    constexpr const char *help = "Inserts a block or drawing file, as a reference or in pieces";
+    return {{"-INSERT", insert, help, WhenCancelled::KeepDone}, {"INSERT", insert, help, WhenCancelled::KeepDone}};
+}
+
+} // namespace host::kernel

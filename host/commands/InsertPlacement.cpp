@@ -1,0 +1,137 @@
+#include "host/commands/InsertPlacement.h"
+
+#include "host/commands/UserPlane.h"
+#include "host/kernel/documents/Document.h"
+#include "host/kernel/running/CommandContext.h"
+
+using namespace Qt::StringLiterals;
+
+namespace host::kernel {
+
+using drawing::FieldList;
+using drawing::Matrix;
+using drawing::Vec3;
+
+namespace {
+
+/// A placement while it is asked for.
+struct Draft
+{
+    InsertPlacement placement;
+    bool hasScale = false;
+    bool hasRotation = false;
+};
+
+Dialogue<double> askFactor(CommandContext &context, const QString prompt)
+{
+    const PromptReply reply = co_await context.real(prompt, {}, u"1"_s, NoZero);
+    co_return reply.hasValue() ? reply.real : 1.0;
+}
+
+Dialogue<double> askRotation(CommandContext &context, const std::optional<Vec3> base)
+{
+    const QString zero = context.shownAngle(0.0);
+    const PromptReply turn = co_await context.orientation(u"Specify rotation angle <%1>: "_s.arg(zero), {}, base, zero);
+    co_return turn.hasValue() ? turn.real : 0.0;
+}
+
+/// An option in front of the insertion point.
+Dialogue<Draft> takeOption(CommandContext &context, Draft draft, const QString option)
+{
+    Vec3 &scale = draft.placement.scale;
+    if (option == u"Rotate"_s) {
+        draft.placement.rotation = co_await askRotation(context, {});
+        draft.hasRotation = true;
+        co_return draft;
+    }
+    draft.hasScale = true;
+    if (option == u"Scale"_s) {
+        const double factor = co_await askFactor(context, u"Specify scale factor for XYZ axes <1>: "_s);
+        scale = {factor, factor, factor};
+        co_return draft;
+    }
+    const double factor = co_await askFactor(context, u"Specify %1 scale factor <1>: "_s.arg(option));
+    (option == u"X"_s ? scale.x : option == u"Y"_s ? scale.y : scale.z) = factor;
+    co_return draft;
+}
+
+/// The factor of a further axis, which is that of x when it is not said.
+Dialogue<double> askLike(CommandContext &context, double xScale, const QString axis)
+{
+    const PromptReply reply =
+        co_await context.real(u"Enter %1 scale factor <use X scale factor>: "_s.arg(axis), {}, u"X"_s, NoZero);
+    co_return reply.hasValue() ? reply.real : xScale;
+}
+
+Dialogue<Vec3> askScales(CommandContext &context, const Vec3 insertion)
+{
+    const PromptReply x = co_await context.real(u"Enter X scale factor or [Corner/XYZ] <1>: "_s, {}, u"1"_s, NoZero);
+    if (x.isKeyword(u"Corner")) {
+        const UserPlane plane(context.document());
+        const PromptReply corner = co_await context.neededPoint(u"Specify opposite corner: "_s, insertion);
+        const Vec3 size = plane.userFromWorld(corner.point) - plane.userFromWorld(insertion);
+        if (size.x == 0.0 || size.y == 0.0)
+            context.fail(u"Value must be nonzero."_s);
+        co_return Vec3{size.x, size.y, size.x};
+    }
+    Vec3 scale;
+    const bool isSpatial = x.isKeyword(u"XYZ");
+    if (isSpatial)
+        scale.x = co_await askFactor(context, u"Specify X scale factor <1>: "_s);
+    else
+        scale.x = x.hasValue() ? x.real : 1.0;
+    scale.y = co_await askLike(context, scale.x, u"Y"_s);
+    scale.z = scale.x;
+    if (isSpatial)
+        scale.z = co_await askLike(context, scale.x, u"Z"_s);
+    co_return scale;
+}
+
+} // namespace
+
+Dialogue<InsertPlacement> askPlacement(CommandContext &context, InsertScales scales)
+{
+    Draft draft;
+    PromptReply point;
+    for (;;) {
+        point = co_await context.neededPoint(u"Specify insertion point or [Scale/X/Y/Z/Rotate]: "_s);
+        if (point.hasValue())
+            break;
+        draft = co_await takeOption(context, draft, point.text);
+    }
+    InsertPlacement &placement = draft.placement;
+    placement.point = point.point;
+    if (scales == InsertScales::One) {
+        double factor = placement.scale.x;
+        if (!draft.hasScale)
+            factor = co_await askFactor(context, u"Specify scale factor <1>: "_s);
+        placement.scale = {factor, factor, factor};
+    } else if (!draft.hasScale) {
+        placement.scale = co_await askScales(context, point.point);
+    }
+    if (!draft.hasRotation && !context.hasFailed())
+        placement.rotation = co_await askRotation(context, point.point);
+    co_return placement;
+}
+
+FieldList insertFields(CommandContext &context, const QString &block, const InsertPlacement &placement)
+{
+    const UserPlane plane(context.document());
+    return plane.placed({{0, u"INSERT"_s},
+                         {2, block},
+                         {10, plane.objectFromWorld(placement.point)},
+                         {41, placement.scale.x},
+                         {42, placement.scale.y},
+                         {43, placement.scale.z},
+                         {50, plane.objectDegrees(placement.rotation)}});
+}
+
+Matrix placementMatrix(CommandContext &context, const Vec3 &basePoint, const InsertPlacement &placement)
+{
+    Matrix axes = context.document().userAxes();
+    axes.origin = placement.point;
+    return axes * Matrix::rotation(placement.rotation) * Matrix::scaling(placement.scale) *
+           Matrix::translation(basePoint * -1.0);
+}
+
+} // namespace host::kernel

@@ -1,0 +1,235 @@
+#include "host/commands/LayerChanges.h"
+
+#include "host/drawing/records/Dictionaries.h"
+#include "host/drawing/records/Tables.h"
+#include "host/drawing/tags/ExtendedData.h"
+#include "host/kernel/documents/Document.h"
+#include "host/kernel/running/CommandContext.h"
+
+#include <cmath>
+
+using namespace Qt::StringLiterals;
+
+namespace host::kernel {
+
+namespace {
+
+using drawing::FieldList;
+using drawing::TableKind;
+using drawing::Version;
+
+constexpr int colourCode = 62;
+constexpr int exactColourCode = 420;
+constexpr int colourBookCode = 430;
+
+/// No change, for a reason; the user is asked for another option then.
+LayerChange refused(CommandContext &context, const QString &reason)
+{
+    context.refuse(reason);
+    return {};
+}
+
+bool isOlderThan(CommandContext &context, Version version)
+{
+    return context.drawing().version() < version;
+}
+
+LayerChange tooOld(CommandContext &context)
+{
+    return refused(context, u"A drawing of this version has no such property of layers."_s);
+}
+
+void erase(FieldList &fields, int code)
+{
+    std::erase_if(fields, [code](const drawing::Field &field) { return field.code == code; });
+}
+
+/// Sets a group in front of the extended data.
+void set(FieldList &fields, int code, const drawing::FieldValue &value)
+{
+    if (drawing::findField(fields, code))
+        return drawing::setField(fields, code, value);
+    const auto place = std::ranges::find_if(fields, [](const drawing::Field &field) { return field.code >= 1000; });
+    fields.insert(place, {code, value});
+}
+
+/// The number of a colour given by number or name; 0 when it is neither.
+int colourNumber(const QString &text)
+{
+    static const QStringList names = {u"RED"_s,  u"YELLOW"_s,  u"GREEN"_s, u"CYAN"_s,
+                                      u"BLUE"_s, u"MAGENTA"_s, u"WHITE"_s};
+    const int number = text.toInt();
+    return number >= 1 && number <= 255 ? number : int(names.indexOf(text.toUpper())) + 1;
+}
+
+void setColour(FieldList &fields, int number)
+{
+    const drawing::Field *present = drawing::findField(fields, colourCode);
+    const bool isOff = present && present->integer() < 0;
+    set(fields, colourCode, qint64(isOff ? -number : number));
+    erase(fields, exactColourCode);
+    erase(fields, colourBookCode);
+}
+
+Dialogue<LayerChange> askExactColour(CommandContext &context)
+{
+    const PromptReply reply = co_await context.name(u"Red,Green,Blue: "_s);
+    const QStringList parts = reply.text.split(u',');
+    qint64 value = 0;
+    for (const QString &part : parts) {
+        bool isNumber = false;
+        const uint number = part.trimmed().toUInt(&isNumber);
+        if (!isNumber || number > 255 || parts.size() != 3)
+            co_return refused(context, u"Requires three numbers from 0 to 255."_s);
+        value = value * 256 + number;
+    }
+    if (isOlderThan(context, Version::R2004))
+        co_return tooOld(context);
+    co_return LayerChange{u"color "_s + reply.text, [value](FieldList &fields) {
+                              erase(fields, colourBookCode);
+                              set(fields, exactColourCode, value);
+                          }};
+}
+
+Dialogue<LayerChange> askColour(CommandContext &context)
+{
+    const PromptReply colour = co_await context.name(u"New color [Truecolor/COlorbook]: "_s);
+    if (colour.isKeyword(u"Truecolor"))
+        co_return co_await askExactColour(context);
+    if (colour.isKeyword(u"COlorbook"))
+        co_return refused(context, u"This program has no color books."_s);
+    const int number = colourNumber(colour.text);
+    if (number == 0)
+        co_return refused(context, u"Requires a color number from 1 to 255 or a color name."_s);
+    co_return LayerChange{u"color "_s + colour.text, [number](FieldList &fields) { setColour(fields, number); }};
+}
+
+Dialogue<LayerChange> askLinetype(CommandContext &context)
+{
+    const drawing::Tables &tables = context.drawing().tables();
+    const QString usual = u"Continuous"_s;
+    PromptReply reply = co_await context.text(u"Enter loaded linetype name or [?] <%1>: "_s.arg(usual), usual, u"?"_s);
+    while (reply.isKeyword(u"?")) {
+        for (const drawing::RecordId entry : tables.entries(TableKind::Linetype))
+            context.print(u'\n' + tables.name(entry));
+        reply = co_await context.text(u"Enter loaded linetype name or [?] <%1>: "_s.arg(usual), usual, u"?"_s);
+    }
+    const QString name = reply.hasValue() ? reply.text.trimmed() : usual;
+    const drawing::RecordId entry = tables.find(TableKind::Linetype, name);
+    if (!isValid(entry))
+        co_return refused(context, u"Linetype \"%1\" not found."_s.arg(name));
+    const QString known = tables.name(entry);
+    co_return LayerChange{u"linetype \"%1\""_s.arg(known), [known](FieldList &fields) { set(fields, 6, known); }};
+}
+
+/// The nearest of the weights that drawings have, in hundredths of a millimetre.
+int nearestWeight(double millimetres)
+{
+    static constexpr int weights[] = {0,  5,  9,  13, 15, 18,  20,  25,  30,  35,  40,  50,
+                                      53, 60, 70, 80, 90, 100, 106, 120, 140, 158, 200, 211};
+    return *std::ranges::min_element(weights, {},
+                                     [millimetres](int weight) { return std::abs(weight - millimetres * 100.0); });
+}
+
+Dialogue<LayerChange> askWeight(CommandContext &context)
+{
+    constexpr qint64 usual = -3;
+    const PromptReply reply =
+        co_await context.real(u"Enter lineweight (0.0mm - 2.11mm) or [Default]: "_s, {}, u"Default"_s, NoNegative);
+    if (isOlderThan(context, Version::R2000))
+        co_return tooOld(context);
+    if (reply.hasValue() && reply.real > 2.11)
+        co_return refused(context, u"Requires a lineweight from 0 to 2.11."_s);
+    const qint64 weight = reply.hasValue() ? nearestWeight(reply.real) : usual;
+    const QString shown = weight < 0 ? u"Default"_s : u"%1mm"_s.arg(double(weight) / 100.0, 0, 'f', 2);
+    co_return LayerChange{u"lineweight "_s + shown, [weight](FieldList &fields) { set(fields, 370, weight); }};
+}
+
+Dialogue<LayerChange> askTransparency(CommandContext &context)
+{
+    constexpr qint64 isValue = 0x02000000;
+    const PromptReply reply =
+        co_await context.integer(u"Enter transparency value (0-90): "_s, {}, {}, NoEmptyAnswer | NoNegative);
+    if (isOlderThan(context, Version::R2004))
+        co_return tooOld(context);
+    if (reply.integer > 90)
+        co_return refused(context, u"Requires an integer from 0 to 90."_s);
+    const auto opacity = qint64(std::lround(255.0 * (100 - reply.integer) / 100.0));
+    FieldList data;
+    if (reply.integer > 0)
+        data.push_back({1071, isValue | opacity});
+    co_return LayerChange{u"transparency value %1"_s.arg(reply.integer),
+                          [data](FieldList &fields) { drawing::setExtendedData(fields, u"AcCmTransparency"_s, data); }};
+}
+
+Dialogue<LayerChange> askMaterial(CommandContext &context)
+{
+    const PromptReply reply = co_await context.text(u"Enter material name <Global>: "_s, u"Global"_s);
+    if (isOlderThan(context, Version::R2007))
+        co_return tooOld(context);
+    const QString name = reply.hasValue() ? reply.text.trimmed() : u"Global"_s;
+    const drawing::Dictionaries &dictionaries = context.drawing().dictionaries();
+    const drawing::RecordId root = dictionaries.root();
+    const drawing::RecordId materials = isValid(root) ? dictionaries.find(root, u"ACAD_MATERIAL") : drawing::noRecord;
+    const drawing::RecordId material = isValid(materials) ? dictionaries.find(materials, name) : drawing::noRecord;
+    if (!isValid(material))
+        co_return refused(context, u"Cannot find material \"%1\"."_s.arg(name));
+    const drawing::Handle handle = context.drawing().handle(material);
+    co_return LayerChange{u"material \"%1\""_s.arg(name), [handle](FieldList &fields) { set(fields, 347, handle); }};
+}
+
+Dialogue<LayerChange> askPlot(CommandContext &context)
+{
+    const PromptReply reply =
+        co_await context.keyword(u"Enter a plotting preference [Plot/No plot] <Plot>: "_s, {}, u"Plot"_s);
+    if (isOlderThan(context, Version::R2000))
+        co_return tooOld(context);
+    const bool isPlotted = reply.text != u"No"_s;
+    co_return LayerChange{u"this plot preference"_s, [isPlotted](FieldList &fields) {
+                              if (isPlotted)
+                                  erase(fields, 290);
+                              else
+                                  set(fields, 290, qint64(0));
+                          }};
+}
+
+Dialogue<LayerChange> askDescription(CommandContext &context)
+{
+    const PromptReply reply = co_await context.text(u"Enter layer description: "_s);
+    if (isOlderThan(context, Version::R2000))
+        co_return tooOld(context);
+    FieldList data;
+    if (reply.hasValue() && !reply.text.isEmpty())
+        data = {{1000, QString()}, {1000, reply.text}};
+    co_return LayerChange{u"this description"_s, [data](FieldList &fields) {
+                              drawing::setExtendedData(fields, u"AcAecLayerStandard"_s, data);
+                          }};
+}
+
+struct Property
+{
+    QStringView option;
+    Dialogue<LayerChange> (*ask)(CommandContext &context);
+};
+
+constexpr Property properties[] = {
+    {u"Color", askColour},
+    {u"Ltype", askLinetype},
+    {u"LWeight", askWeight},
+    {u"TRansparency", askTransparency},
+    {u"MATerial", askMaterial},
+    {u"Plot", askPlot},
+    {u"Description", askDescription},
+};
+
+} // namespace
+
+Dialogue<LayerChange> askLayerChange(CommandContext &context, const QString &option)
+{
+    for (const Property &property : properties)
+        if (property.option == option)
+            co_return co_await property.ask(context);
+    co_return refused(context, u"This program does not keep layer states or named plot styles: nothing was changed."_s);
+}
+
+} // namespace host::kernel

@@ -1,0 +1,260 @@
+#include "host/commands/Commands.h"
+#include "host/commands/LayerChanges.h"
+#include "host/drawing/editing/RenameLayer.h"
+#include "host/drawing/records/Symbols.h"
+#include "host/drawing/records/Tables.h"
+#include "host/drawing/selection/Wildcard.h"
+#include "host/kernel/documents/Document.h"
+#include "host/kernel/running/CommandContext.h"
+#include "host/kernel/variables/SystemVariables.h"
+
+using namespace Qt::StringLiterals;
+
+namespace host::kernel {
+
+namespace {
+
+using drawing::FieldList;
+using drawing::Layer;
+using drawing::TableKind;
+
+QString currentLayer(CommandContext &context)
+{
+    return context.document().variables().text(u"CLAYER");
+}
+
+bool isCurrent(CommandContext &context, const Layer &layer)
+{
+    return layer.name.compare(currentLayer(context), Qt::CaseInsensitive) == 0;
+}
+
+/// Layers whose names match a list of patterns with commas between.
+std::vector<Layer> matchingLayers(CommandContext &context, const QString &patterns)
+{
+    std::vector<Layer> layers = drawing::allLayers(context.drawing());
+    std::erase_if(layers,
+                  [&](const Layer &layer) { return !drawing::matchesWildcard(layer.name, patterns.trimmed()); });
+    if (layers.empty())
+        context.print(u"\nNo matching layer names found."_s);
+    return layers;
+}
+
+void modify(CommandContext &context, const Layer &layer, const std::function<void(FieldList &)> &change)
+{
+    FieldList fields = context.drawing().fields(layer.record);
+    change(fields);
+    context.drawing().tables().modify(layer.record, fields);
+}
+
+void changeFlag(CommandContext &context, const Layer &layer, qint64 bit, bool isOn)
+{
+    modify(context, layer, [bit, isOn](FieldList &fields) {
+        const drawing::Field *flags = drawing::findField(fields, 70);
+        const qint64 before = flags ? flags->integer() : 0;
+        drawing::setField(fields, 70, isOn ? before | bit : before & ~bit);
+    });
+}
+
+/// A negative colour number says that the layer is off.
+void switchLayer(CommandContext &context, const Layer &layer, bool isOn)
+{
+    modify(context, layer,
+           [&](FieldList &fields) { drawing::setField(fields, 62, qint64(isOn ? layer.colour : -layer.colour)); });
+}
+
+/// An option that changes a state of layers.
+struct StateOption
+{
+    QStringView option;
+    const char *prompt;
+    void (*apply)(CommandContext &context, const Layer &layer);
+};
+
+constexpr qint64 frozen = 1;
+constexpr qint64 locked = 4;
+
+void freeze(CommandContext &context, const Layer &layer)
+{
+    if (isCurrent(context, layer))
+        context.print(u"\nCannot freeze layer \"%1\". It is the current layer."_s.arg(layer.name));
+    else
+        changeFlag(context, layer, frozen, true);
+}
+
+constexpr StateOption stateOptions[] = {
+    {u"ON", "turn on", [](CommandContext &context, const Layer &layer) { switchLayer(context, layer, true); }},
+    {u"OFF", "turn off", [](CommandContext &context, const Layer &layer) { switchLayer(context, layer, false); }},
+    {u"Freeze", "freeze", freeze},
+    {u"Thaw", "thaw", [](CommandContext &context, const Layer &layer) { changeFlag(context, layer, frozen, false); }},
+    {u"LOck", "lock", [](CommandContext &context, const Layer &layer) { changeFlag(context, layer, locked, true); }},
+    {u"Unlock", "unlock",
+     [](CommandContext &context, const Layer &layer) { changeFlag(context, layer, locked, false); }},
+};
+
+Dialogue<bool> changeStates(CommandContext &context, const StateOption &state)
+{
+    const PromptReply names =
+        co_await context.text(u"Enter name list of layer(s) to %1: "_s.arg(QLatin1String(state.prompt)));
+    if (!names.hasValue())
+        co_return false;
+    for (const Layer &layer : matchingLayers(context, names.text)) {
+        if (state.option == u"OFF" && isCurrent(context, layer)) {
+            const PromptReply sure = co_await context.keyword(
+                u"Really want layer \"%1\" (the CURRENT layer) off? [Yes/No] <No>: "_s.arg(layer.name), {}, u"No"_s);
+            if (sure.text != u"Yes"_s)
+                continue;
+        }
+        state.apply(context, layer);
+    }
+    co_return true;
+}
+
+/// Makes the layers that are not there. False when a name cannot be one.
+bool makeLayers(CommandContext &context, const QString &names)
+{
+    for (const QString &part : names.split(u',', Qt::SkipEmptyParts)) {
+        const QString name = part.trimmed();
+        if (isValid(context.drawing().tables().find(TableKind::Layer, name)))
+            continue;
+        if (!drawing::isSymbolName(name, context.drawing().version())) {
+            context.refuse(u"\"%1\" cannot be the name of a layer."_s.arg(name));
+            return false;
+        }
+        context.drawing().tables().add(TableKind::Layer, name);
+    }
+    return true;
+}
+
+void setCurrent(CommandContext &context, const QString &typed)
+{
+    const QString name = typed.trimmed();
+    const std::optional<Layer> layer = drawing::findLayer(context.drawing(), name);
+    if (!layer)
+        context.refuse(u"Cannot find layer \"%1\"."_s.arg(name));
+    else if (layer->isFrozen)
+        context.refuse(u"Cannot make layer \"%1\" current: it is frozen."_s.arg(layer->name));
+    else
+        context.document().variables().set(u"CLAYER", layer->name);
+}
+
+Dialogue<bool> make(CommandContext &context)
+{
+    const QString current = currentLayer(context);
+    const PromptReply name =
+        co_await context.text(u"Enter name for new layer (becomes the current layer) <%1>: "_s.arg(current), current);
+    if (name.hasValue() && makeLayers(context, name.text))
+        setCurrent(context, name.text);
+    co_return true;
+}
+
+Dialogue<bool> set(CommandContext &context)
+{
+    const PromptReply name =
+        co_await context.text(u"Enter layer name to make current or <select object>: "_s, u"select object"_s);
+    if (name.hasValue()) {
+        setCurrent(context, name.text);
+        co_return true;
+    }
+    const PromptReply picked = co_await context.entity(u"Select object: "_s);
+    if (!picked.entities.empty())
+        setCurrent(context, context.drawing().tags(picked.entities.front()).text(8, u"0"_s));
+    co_return true;
+}
+
+Dialogue<bool> add(CommandContext &context)
+{
+    const PromptReply names = co_await context.text(u"Enter name list for new layer(s): "_s);
+    if (names.hasValue())
+        makeLayers(context, names.text);
+    co_return true;
+}
+
+Dialogue<bool> rename(CommandContext &context)
+{
+    const PromptReply from = co_await context.text(u"Enter old layer name: "_s);
+    if (!from.hasValue())
+        co_return false;
+    const PromptReply to = co_await context.text(u"Enter new layer name: "_s);
+    if (!to.hasValue())
+        co_return false;
+    const QString problem = drawing::renameLayer(context.drawing(), from.text.trimmed(), to.text.trimmed());
+    if (!problem.isEmpty())
+        context.refuse(problem);
+    co_return problem.isEmpty();
+}
+
+Dialogue<bool> list(CommandContext &context)
+{
+    const PromptReply names = co_await context.text(u"Enter layer name(s) to list <*>: "_s, u"*"_s);
+    context.print(u"\nLayer name  State  Color  Linetype  Lineweight"_s);
+    for (const Layer &layer : matchingLayers(context, names.hasValue() ? names.text : u"*"_s)) {
+        QStringList states = {layer.isOff ? u"off"_s : u"on"_s};
+        if (layer.isFrozen)
+            states.append(u"frozen"_s);
+        if (layer.isLocked)
+            states.append(u"locked"_s);
+        const QString weight = layer.lineweight < 0 ? u"Default"_s : QString::number(layer.lineweight / 100.0, 'f', 2);
+        context.print(u"\n\"%1\"  %2  %3  %4  %5"_s.arg(layer.name, states.join(u','))
+                          .arg(layer.colour)
+                          .arg(layer.linetype, weight));
+    }
+    context.print(u"\nCurrent layer:  \"%1\""_s.arg(currentLayer(context)));
+    co_return true;
+}
+
+/// A value, then the layers that get it.
+Dialogue<bool> changeProperty(CommandContext &context, const QString &option)
+{
+    const LayerChange change = co_await askLayerChange(context, option);
+    if (!change.apply)
+        co_return false;
+    const QString current = currentLayer(context);
+    const PromptReply names =
+        co_await context.text(u"Enter name list of layer(s) for %1 <%2>: "_s.arg(change.what, current), current);
+    for (const Layer &layer : matchingLayers(context, names.hasValue() ? names.text : current))
+        modify(context, layer, change.apply);
+    co_return true;
+}
+
+Dialogue<bool> takeOption(CommandContext &context, const QString &option)
+{
+    struct Action
+    {
+        QStringView option;
+        Dialogue<bool> (*act)(CommandContext &context);
+    };
+    static constexpr Action actions[] = {
+        {u"?", list}, {u"Make", make}, {u"Set", set}, {u"New", add}, {u"Rename", rename}};
+    for (const Action &action : actions)
+        if (action.option == option)
+            co_return co_await action.act(context);
+    for (const StateOption &state : stateOptions)
+        if (state.option == option)
+            co_return co_await changeStates(context, state);
+    co_return co_await changeProperty(context, option);
+}
+
+// Options, one after another until an empty answer.
+CommandTask layer(CommandContext &context)
+{
+    context.print(u"\nCurrent layer:  \"%1\""_s.arg(currentLayer(context)));
+    while (!context.hasFailed()) {
+        const PromptReply option = co_await context.keyword(
+            u"Enter an option "
+            u"[?/Make/Set/New/Rename/ON/OFF/Color/Ltype/LWeight/TRansparency/MATerial/Plot/PStyle/Freeze/"
+            "Thaw/LOck/Unlock/stAte/Description]: "_s);
+        if (!option.hasValue())
+            co_return;
+        co_await takeOption(context, option.text);
+    }
+}
+
+} // namespace
+
+std::vector<CommandRow> layerCommands()
+{
+    return {{"-LAYER", layer, "Makes layers and changes their properties and states"},
+            {"LAYER", layer, "As -LAYER; there is no window for it"}};
+}
+
+} // namespace host::kernel

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "host/drawing/math/Vec.h"
+#include "host/kernel/running/Dialogue.h"
+
+namespace host::kernel {
+
+class CommandContext;
+
+/// Asks for a reference angle and a new one, by numbers, from the base point or by two points. The turn from the one to
+/// the other, in radians.
+Dialogue<double> askReferenceAngle(CommandContext &context, drawing::Vec3 base);
+
+/// The same for lengths: the new one in relation to the reference.
+Dialogue<double> askReferenceFactor(CommandContext &context, drawing::Vec3 base);
+
+} // namespace host::kernel

@@ -1,0 +1,89 @@
+#include "host/commands/Commands.h"
+#include "host/drawing/editing/CopyBetweenDrawings.h"
+#include "host/drawing/file/Save.h"
+#include "host/drawing/records/Blocks.h"
+#include "host/kernel/documents/Document.h"
+#include "host/kernel/documents/Session.h"
+#include "host/kernel/running/CommandContext.h"
+#include "host/kernel/variables/SystemVariables.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+using namespace Qt::StringLiterals;
+
+namespace host::kernel {
+
+namespace {
+
+using drawing::RecordId;
+
+/// Writes a new drawing under a name; a name ending in .dwg is what the tools call their symbol files.
+void writeDrawing(CommandContext &context, const std::unique_ptr<drawing::Drawing> &made, const QString &path)
+{
+    if (!made) {
+        context.print(u"\nNothing to write."_s);
+        return;
+    }
+    const bool isSymbol = path.endsWith(u".dwg"_s, Qt::CaseInsensitive);
+    const drawing::SaveResult result = isSymbol ? drawing::saveSymbolCopy(*made, path) : drawing::saveCopy(*made, path);
+    context.print(!result    ? u'\n' + result.error
+                  : isSymbol ? u"\n%1 was written as DXF text."_s.arg(path)
+                             : u"\n%1 was written."_s.arg(path));
+}
+
+// File name, then a block's name, "*" for the whole drawing, or an empty answer to choose entities and their base
+// point. What is chosen stays in the drawing.
+CommandTask writeBlock(CommandContext &context)
+{
+    Document &document = context.document();
+    const PromptReply file = co_await context.text(u"Enter name of output file: "_s);
+    if (!file.hasValue() || file.text.trimmed().isEmpty())
+        co_return;
+    QString path = QFileInfo(QDir::current(), file.text.trimmed()).absoluteFilePath();
+    if (QFileInfo(path).suffix().isEmpty())
+        path += u".dxf"_s;
+    if (const auto obstacle = obstacleToWriting(path, &document.session())) {
+        document.session().tellNotWritten(obstacle->text);
+        context.fail(obstacle->text);
+        co_return;
+    }
+    if (QFileInfo::exists(path) && document.variables().integer(u"EXPERT") < 2) {
+        const PromptReply replace = co_await context.keyword(
+            u"%1 already exists. Replace it? [Yes/No] <No>: "_s.arg(path), u"Yes No"_s, u"No"_s);
+        if (replace.text != u"Yes"_s)
+            co_return;
+    }
+    const PromptReply name =
+        co_await context.text(u"Enter name of existing block, [= (same name)/* (whole drawing)] <choose entities>: "_s);
+    const QString typed = name.hasValue() ? name.text.trimmed() : QString();
+    if (typed == u"*"_s) {
+        writeDrawing(context,
+                     drawing::wblock(context.drawing(), context.drawing().entities().inSpace(drawing::Space::Model),
+                                     document.variables().point(u"INSBASE")),
+                     path);
+        co_return;
+    }
+    if (!typed.isEmpty()) {
+        const QString wanted = typed == u"="_s ? QFileInfo(path).completeBaseName() : typed;
+        const RecordId block = context.drawing().blocks().find(wanted);
+        if (isValid(block))
+            writeDrawing(context, drawing::wblock(context.drawing(), block), path);
+        else
+            context.print(u"\nBlock \"%1\" not found."_s.arg(wanted));
+        co_return;
+    }
+    const PromptReply base = co_await context.point(u"Specify insertion base point: "_s);
+    const PromptReply chosen = co_await context.selection();
+    writeDrawing(context, drawing::wblock(context.drawing(), chosen.entities, base.point), path);
+}
+
+} // namespace
+
+std::vector<CommandRow> writeBlockCommands()
+{
+    return {{"-WBLOCK", writeBlock, "Writes a block or entities to a drawing file"},
+            {"WBLOCK", writeBlock, "Writes a block or entities to a drawing file"}};
+}
+
+} // namespace host::kernel

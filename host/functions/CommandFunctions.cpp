@@ -1,0 +1,173 @@
+// Running commands from Lisp.
+
+#include "host/functions/FunctionGroups.h"
+#include "host/kernel/documents/Document.h"
+#include "host/kernel/documents/Session.h"
+#include "host/kernel/input/AnswerFromValue.h"
+#include "host/kernel/lisp/LispConversion.h"
+#include "host/kernel/running/CommandRun.h"
+#include "host/kernel/running/CommandStack.h"
+#include "host/kernel/running/ModuleCommandRun.h"
+#include "host/lisp/Interpreter.h"
+#include "host/lisp/Printer.h"
+
+namespace host::kernel {
+
+namespace {
+
+using lisp::Arguments;
+using lisp::Value;
+
+/// The argument that has the user answer: PAUSE.
+const QString pauseText = QStringLiteral("\\");
+
+void dropWhenDone(Document &document)
+{
+    if (const CommandRun *command = document.pendingCommand(); command && command->isDone())
+        document.takePendingCommand();
+}
+
+/// An argument as the answer to a prompt; nothing for the one that has the user answer.
+std::optional<InputAnswer> answerAt(Arguments &args, std::size_t index)
+{
+    if (args[index].isString() && stringAt(args, index) == pauseText)
+        return std::nullopt;
+    const std::optional<InputAnswer> answer = answerFromValue(documentOf(args), args[index]);
+    if (!answer)
+        args.badValue(index, "command argument");
+    return answer;
+}
+
+/// Starts a built-in command. False when there is none of that name, which ends the call.
+bool startCommand(Document &document, const QString &command)
+{
+    std::unique_ptr<CommandRun> started = CommandRun::start(document, command);
+    if (!started) {
+        document.print(QStringLiteral("\nUnknown command \"%1\".\n").arg(CommandTable::plainName(command)));
+        return false;
+    }
+    document.setPendingCommand(std::move(started));
+    return true;
+}
+
+/// Hands an argument to the command under way. False when the command does not take it and has ended.
+bool giveArgument(Arguments &args, std::size_t index)
+{
+    CommandRun &command = *documentOf(args).pendingCommand();
+    if (const std::optional<InputAnswer> answer = answerAt(args, index))
+        command.offer(*answer);
+    else
+        command.askUser();
+    return !command.hasFailed();
+}
+
+GivenAnswers answersFrom(Arguments &args, std::size_t index)
+{
+    GivenAnswers answers;
+    for (; index < args.size(); ++index)
+        answers.push_back(answerAt(args, index));
+    return answers;
+}
+
+/// Tells of the arguments from `index` on, which nothing asked for.
+void tellLeftOver(Arguments &args, std::size_t index)
+{
+    QStringList texts;
+    for (; index < args.size(); ++index)
+        texts.append(QString::fromStdString(lisp::toText(args[index])));
+    documentOf(args).print(QStringLiteral("\nLeft over from (command): %1\n").arg(texts.join(u' ')));
+}
+
+/// Runs the command that the argument at `index` names; `index` moves on to the last argument that was used. False when
+/// there is no such command.
+bool runNamed(Arguments &args, std::size_t &index)
+{
+    Document &document = documentOf(args);
+    const QString name = args[index].isNil() ? QString() : stringAt(args, index);
+    // An empty answer too many at the end of a command does no harm.
+    if (name.isEmpty())
+        return true;
+    const CommandStack &brought = document.session().commandStack();
+    const bool isCommand = CommandTable::find(name) || brought.find(name);
+    const QString command = isCommand ? name : document.commandOfAlias(name);
+    if (OdEdCommand *found = brought.find(command)) {
+        index += runModuleCommand(document, *found, answersFrom(args, index + 1));
+        return true;
+    }
+    return startCommand(document, command);
+}
+
+/// Whether the argument can name a command; nil and "" may stand behind one that is complete.
+bool mayBeName(const Value &argument)
+{
+    return argument.isString() || argument.isNil();
+}
+
+/// Runs the arguments; returns false when a name was no command. What is left over behind a command, because it asked
+/// for less or has ended at an answer that it does not take, is told.
+bool runArguments(Arguments &args)
+{
+    Document &document = documentOf(args);
+    for (std::size_t i = 0; i < args.size(); ++i) {
+        bool isLost = false;
+        if (document.pendingCommand())
+            isLost = !giveArgument(args, i);
+        else if (!mayBeName(args[i]))
+            tellLeftOver(args, std::exchange(i, args.size()));
+        else if (!runNamed(args, i)) {
+            if (i + 1 < args.size())
+                tellLeftOver(args, i + 1);
+            return false;
+        }
+        dropWhenDone(document);
+        if (isLost && i + 1 < args.size())
+            tellLeftOver(args, std::exchange(i, args.size()) + 1);
+    }
+    return true;
+}
+
+// (command argument ...) -> nil. Starts a command, by its name or an alias, and answers its prompts: text,
+// numbers, points in user coordinates, entity names, selection sets; "\\" has the user answer. A built-in command that
+// is not complete goes on with the next call; one that a module brought asks the user for what is missing. Without
+// arguments, or with nil, the command under way is cancelled. A name that is no command is told to the user, and so are
+// arguments that nothing asked for: those behind an answer that the command does not take, which ends it with nothing
+// done, and those behind a complete command that are no command's name.
+Value command(Arguments &args)
+{
+    if (args.size() == 0)
+        documentOf(args).takePendingCommand();
+    runArguments(args);
+    return {};
+}
+
+// (vl-cmdf argument ...) -> T, nil when a name was no command. As (command).
+Value vlCmdf(Arguments &args)
+{
+    if (args.size() == 0)
+        documentOf(args).takePendingCommand();
+    return args.boolean(runArguments(args));
+}
+
+// (command-s argument ...) -> nil. As (command), but the command must be complete: what is still asked is cancelled.
+Value commandS(Arguments &args)
+{
+    runArguments(args);
+    documentOf(args).takePendingCommand();
+    return {};
+}
+
+} // namespace
+
+void addCommandFunctions(lisp::Interpreter &interpreter)
+{
+    static constexpr lisp::NativeRow rows[] = {
+        {"command", command, lisp::Arity::any()},
+        {"command-s", commandS, lisp::Arity::atLeast(1)},
+        {"vl-cmdf", vlCmdf, lisp::Arity::any()},
+    };
+    interpreter.define(rows);
+    // The name that programs use for the argument that has the user answer.
+    interpreter.setVariable("PAUSE", Value::string(pauseText.toStdString()));
+}
+
+} // namespace host::kernel

@@ -1,0 +1,24 @@
+#include "host/functions/FunctionGroups.h"
+
+#include "host/kernel/lisp/NativeFunctions.h"
+
+namespace host::kernel {
+
+void addNativeFunctions(lisp::Interpreter &interpreter)
+{
+    addEntityFunctions(interpreter);
+    addTableFunctions(interpreter);
+    addDictionaryFunctions(interpreter);
+    addSelectionFunctions(interpreter);
+    addPickFunctions(interpreter);
+    addPromptFunctions(interpreter);
+    addVariableFunctions(interpreter);
+    addCommandFunctions(interpreter);
+    addDialogFunctions(interpreter);
+    addCoordinateFunctions(interpreter);
+    addSheetFunctions(interpreter);
+    addTextFunctions(interpreter);
+    addExtentFunctions(interpreter);
+}
+
+} // namespace host::kernel

@@ -1,0 +1,24 @@
+#pragma once
+
+namespace host::lisp {
+class Interpreter;
+}
+
+namespace host::kernel {
+
+// The functions by group: each group is one source file that ends in its table.
+void addEntityFunctions(lisp::Interpreter &interpreter);
+void addTableFunctions(lisp::Interpreter &interpreter);
+void addDictionaryFunctions(lisp::Interpreter &interpreter);
+void addSelectionFunctions(lisp::Interpreter &interpreter);
+void addPickFunctions(lisp::Interpreter &interpreter);
+void addPromptFunctions(lisp::Interpreter &interpreter);
+void addVariableFunctions(lisp::Interpreter &interpreter);
+void addCommandFunctions(lisp::Interpreter &interpreter);
+void addDialogFunctions(lisp::Interpreter &interpreter);
+void addCoordinateFunctions(lisp::Interpreter &interpreter);
+void addSheetFunctions(lisp::Interpreter &interpreter);
+void addTextFunctions(lisp::Interpreter &interpreter);
+void addExtentFunctions(lisp::Interpreter &interpreter);
+
+} // namespace host::kernel

@@ -1,0 +1,253 @@
+#pragma once
+
+#include "host/drawing/file/Save.h"
+#include "host/drawing/math/Matrix.h"
+#include "host/drawing/records/Drawing.h"
+#include "host/kernel/documents/UndoSteps.h"
+#include "host/kernel/files/DrawingClaim.h"
+#include "host/kernel/files/WriteObstacle.h"
+#include "platform/kernel/CKvDocument.h"
+
+#include <QHash>
+#include <QObject>
+#include <QSet>
+#include <QSize>
+#include <QStringList>
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+namespace host::drawing {
+class BoxCache;
+}
+
+namespace host::view {
+class EntityExtents;
+class TextMeasure;
+} // namespace host::view
+
+namespace host::lisp {
+class Interpreter;
+struct Outcome;
+} // namespace host::lisp
+
+namespace host::kernel {
+
+class CommandRun;
+class DrawingDatabase;
+class EntityMaker;
+class LispConsole;
+class LispEngine;
+class SelectionInput;
+class Session;
+class SystemVariables;
+class UserInput;
+
+/// What came of running a command, an expression or a file.
+struct RunResult
+{
+    bool ok = true;
+    QString value;                 ///< the last value as Lisp prints it; empty for a built-in command
+    QString error;                 ///< message, function and place in one line; empty when ok
+    QString report;                ///< the same with the calls under way, a line each
+    bool handledByProgram = false; ///< the program's own *error* took the message
+    bool hasRun = true;            ///< false: there was nothing to run
+};
+
+/// What a window shows of the drawing: plan view of the current space.
+struct ViewState
+{
+    drawing::Vec2 centre;
+    double height = 297.0;      ///< drawing units from bottom to top
+    QSize pixels = {1280, 800}; ///< of the canvas
+
+    double unitsPerPixel() const { return pixels.height() > 0 ? height / pixels.height() : height; }
+};
+
+/// An open drawing: its tags, its Lisp engine, its system variables, its prompts and its undo steps. Made and owned by
+/// the DocumentManager.
+class KV_EXPORT Document final : public QObject, public CKvDocument
+{
+    Q_OBJECT
+
+public:
+    /// `claim` is that of the drawing's file, with its content.
+    Document(Session &session, std::unique_ptr<drawing::Drawing> drawing, DrawingClaim claim,
+             const QString &untitledName);
+    ~Document() override;
+
+    Session &session() const { return m_session; }
+    drawing::Drawing &drawing() { return *m_drawing; }
+    const drawing::Drawing &drawing() const { return *m_drawing; }
+    lisp::Interpreter &interpreter();
+    SystemVariables &variables() { return *m_variables; }
+    const SystemVariables &variables() const { return *m_variables; }
+    UserInput &prompts() { return *m_userInput; }
+    UndoSteps &undoSteps() { return m_undoSteps; }
+    const UndoSteps &undoSteps() const { return m_undoSteps; }
+
+    /// Full path of the file; empty for a drawing that was never saved.
+    QString path() const { return m_drawing->path(); }
+    /// File name, or "Drawing1" for a new one.
+    QString title() const;
+    bool isModified() const;
+    /// Its own file is not written, because another process has it open.
+    bool isReadOnly() const { return m_claim.isReadOnly(); }
+
+    // Running. A whole run is one undo step. Errors are printed on the command line. Output, prompts and reactors of
+    // the run happen during these calls.
+
+    /// Evaluates all forms of `text`. `sourceName` is what errors name.
+    RunResult run(const QString &text, const QString &sourceName = {});
+    /// Loads a Lisp file.
+    RunResult loadLisp(const QString &path);
+    /// A Lisp command (C:NAME), else a built-in one or one that a module brought, by its name as typed or by an alias
+    /// that is no command's name. What it asks is taken from the queue.
+    RunResult runCommand(const QString &name);
+    /// The command that `typed` is an alias for, as the user's alias file has it; `typed` itself when it is none.
+    /// Prints when the file cannot be read. Commands come first: this is for what is the name of none.
+    QString commandOfAlias(const QString &typed);
+    /// Takes the next command, expression or variable from the queue and runs it; an empty line repeats the last
+    /// command. Nothing has run when the queue is empty or holds but the beginning of an expression.
+    RunResult runQueued();
+    /// Runs `body` as a run of its own, for changes that the window makes.
+    void runAs(const QString &name, const std::function<void()> &body);
+    /// A program or command is under way.
+    bool isBusy() const { return m_runs > 0; }
+    /// Names of the commands under way as CMDNAMES has them: "LINE'ZOOM".
+    QString commandNames() const { return m_commandNames.join(u'\''); }
+
+    /// Writes the drawing; the reactors hear of it first. Of a drawing without a path, save() fails. A file that is
+    /// replaced goes into the user's backup folder, where there is one; when it cannot, that is printed and the drawing
+    /// is saved all the same. What obstacleToWriting() finds makes them fail.
+    drawing::SaveResult save(Overrule overrule = Overrule::Nothing);
+    drawing::SaveResult saveAs(const QString &path, Overrule overrule = Overrule::Nothing);
+    /// As saveAs(), but the drawing stays what it is, with its path and its changes; the reactors hear nothing.
+    drawing::SaveResult saveCopy(const QString &path);
+    DrawingClaim &claim() { return m_claim; }
+    const DrawingClaim &claim() const { return m_claim; }
+
+    // What is shown and chosen.
+
+    const ViewState &view() const { return m_view; }
+    void setView(const ViewState &view);
+    /// Shows a box of world coordinates with a margin; an empty box does nothing.
+    void zoomTo(const drawing::Box &box);
+    /// Keeps a view for showEarlierView(), as one of the last ten.
+    void rememberView(const ViewState &view);
+    /// Shows the view that was remembered last, and forgets it. False when there is none.
+    bool showEarlierView();
+    /// Entities shown highlighted; dead ones may be among them.
+    const std::vector<drawing::RecordId> &highlighted() const { return m_highlighted; }
+    void setHighlighted(std::vector<drawing::RecordId> entities);
+    /// What the last selection chose, for "Previous".
+    const std::vector<drawing::RecordId> &previousSelection() const { return m_previousSelection; }
+    void setPreviousSelection(std::vector<drawing::RecordId> entities);
+    /// What is chosen while no command runs, for commands that take what is chosen already.
+    const std::vector<drawing::RecordId> &impliedSelection() const { return m_impliedSelection; }
+    void setImpliedSelection(std::vector<drawing::RecordId> entities);
+
+    /// Prints on the command line as it is.
+    void print(const QString &text);
+    /// Prints a prompt and keeps it as LASTPROMPT.
+    void printPrompt(const QString &text);
+
+    // For the rooms inside: pieces of a run.
+
+    /// Where a file that Lisp names is: the path itself, the working folder, the drawing's folder, the support folders;
+    /// a program by a name that is no full path in the trusted folders only. Empty when nowhere.
+    QString findFile(const QString &name) const;
+    /// Where a file that the drawing names is: see drawing::namedFiles(). Empty when nowhere, or when it may not be
+    /// read.
+    QString findNamedFile(const QString &name);
+    /// What the user named by hand may be read while the document is open.
+    void allowReading(const QString &path);
+    const QStringList &readableFiles() const { return m_readableFiles; }
+    /// Says once that a file which the drawing names was not read.
+    void tellUnread(const QString &path, const QString &reason);
+    /// The command that waits for input from a Lisp program's next (command ...); null when none does.
+    CommandRun *pendingCommand() { return m_pendingCommand.get(); }
+    void setPendingCommand(std::unique_ptr<CommandRun> command);
+    std::unique_ptr<CommandRun> takePendingCommand();
+    void pushCommandName(const QString &name) { m_commandNames.append(name); }
+    void popCommandName() { m_commandNames.removeLast(); }
+    /// From the current user coordinate system to world coordinates.
+    drawing::Matrix userAxes() const;
+    /// Boxes of entities, for picking.
+    drawing::BoxCache &boxes() { return *m_boxes; }
+    /// How much room texts take.
+    view::TextMeasure &textMeasure() const;
+    /// Boxes of what entities draw.
+    view::EntityExtents &entityExtents();
+    /// What (entmake) has collected of an entity or block that is made in pieces.
+    EntityMaker &entityMaker() { return *m_entityMaker; }
+    /// Where (tblnext) and (dictnext) stand, by table name or the dictionary's handle.
+    QHash<QString, drawing::RecordId> &cursors() { return m_cursors; }
+    /// The interpreter is made when the document is announced and gone after LispDocumentClosing.
+    void openLisp();
+    void closeLisp();
+
+    CKvLispEngine *lispEngine() override;
+    CKvUserInput *userInput() override;
+    CKvSelectionInput *selectionInput() override;
+    OdDbDatabase *database() override;
+    OdString systemVariable(const OdString &name) const override;
+    OdGePoint3d userToWorld(const OdGePoint3d &point) const override;
+    OdGePoint3d worldToUser(const OdGePoint3d &point) const override;
+
+signals:
+    /// Text for the command line, with its own line feeds.
+    void printed(const QString &text);
+    void viewChanged();
+    /// What is shown is to be made anew, with what it takes from outside the drawing.
+    void regenerated();
+    void highlightChanged();
+    void impliedSelectionChanged();
+    /// The path or the modified mark may be another now.
+    void titleChanged();
+    /// A run ended: a good moment to update what depends on the drawing or on variables.
+    void runEnded();
+
+private:
+    class Run;
+    drawing::SaveResult notWritten(const QString &reason);
+    drawing::SaveResult saveUnder(const QString &path, DrawingClaim &claim);
+    drawing::SaveResult write(const QString &path, const std::function<drawing::SaveResult()> &writeFile);
+    bool isCommand(const QString &typed) const;
+    bool isLispCommand(const QString &typed) const;
+    RunResult runBuiltIn(const QString &typed);
+    void finishPendingCommand();
+    RunResult report(const lisp::Outcome &outcome);
+
+    Session &m_session;
+    std::unique_ptr<drawing::Drawing> m_drawing;
+    DrawingClaim m_claim;
+    QString m_untitledName;
+    UndoSteps m_undoSteps;
+    std::unique_ptr<SystemVariables> m_variables;
+    std::unique_ptr<UserInput> m_userInput;
+    std::unique_ptr<SelectionInput> m_selectionInput;
+    std::unique_ptr<DrawingDatabase> m_database;
+    std::unique_ptr<LispConsole> m_console;
+    std::unique_ptr<lisp::Interpreter> m_interpreter;
+    std::unique_ptr<LispEngine> m_lispEngine;
+    std::unique_ptr<CommandRun> m_pendingCommand;
+    std::unique_ptr<drawing::BoxCache> m_boxes;
+    std::unique_ptr<EntityMaker> m_entityMaker;
+    mutable std::unique_ptr<view::TextMeasure> m_textMeasure; ///< made when it is first asked for
+    std::unique_ptr<view::EntityExtents> m_entityExtents;     ///< likewise
+    QHash<QString, drawing::RecordId> m_cursors;
+    QStringList m_commandNames;
+    QStringList m_readableFiles;
+    QSet<QString> m_unread; ///< what was told
+    QString m_lastCommand;
+    int m_runs = 0;
+    ViewState m_view;
+    std::vector<ViewState> m_earlierViews;
+    std::vector<drawing::RecordId> m_highlighted;
+    std::vector<drawing::RecordId> m_previousSelection;
+    std::vector<drawing::RecordId> m_impliedSelection;
+};
+
+} // namespace host::kernel

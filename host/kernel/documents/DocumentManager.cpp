@@ -1,0 +1,136 @@
+#include "host/kernel/documents/DocumentManager.h"
+
+#include "files/Leftovers.h"
+#include "files/qt/Files.h"
+#include "host/drawing/file/NewDrawing.h"
+#include "host/kernel/documents/Session.h"
+#include "host/kernel/platform/Services.h"
+
+#include <QDir>
+
+namespace host::kernel {
+
+DocumentManager::DocumentManager(Session &session) : m_session(session) {}
+
+DocumentManager::~DocumentManager()
+{
+    while (!m_documents.empty())
+        remove(m_documents.back().get());
+}
+
+OpenOutcome DocumentManager::open(const QString &path, OpenMode mode)
+{
+    if (Document *open = documentOf(path)) {
+        setActive(open);
+        return {open, {}, {}};
+    }
+    const bool isForced = mode == OpenMode::Alone && m_session.overrule() == Overrule::Obstacles;
+    DrawingClaim claim(path, isForced ? OpenMode::Anyway : mode);
+    if (claim.holder() && !claim.isReadOnly())
+        return {nullptr, openElsewhere(path, *claim.holder()).text, claim.holder()};
+    drawing::ReadResult read = drawing::Drawing::open(path);
+    if (!read)
+        return {nullptr, QStringLiteral("%1: %2").arg(path, read.error.message()), {}};
+    claim.setContent(*read.drawing);
+    const QString file = claim.file();
+    Document *document = add(std::move(read.drawing), std::move(claim));
+    tellLeftovers(*document, file);
+    return {document, {}, {}};
+}
+
+/// Takes away what a save that was killed left beside the file, and tells of a whole copy.
+void DocumentManager::tellLeftovers(Document &document, const QString &path)
+{
+    for (const std::filesystem::path &copy : files::removeLeftovers(files::nativePath(path)))
+        document.print(QStringLiteral("\nSaving this drawing was broken off once. What was to be saved is in %1; the "
+                                      "drawing's own file may have only a part of it.\n")
+                           .arg(QDir::toNativeSeparators(files::fromNativePath(copy))));
+}
+
+Document *DocumentManager::documentOf(const QString &path) const
+{
+    const QString file = canonicalFile(path);
+    const std::optional<FileIdentity> identity = identityOf(path);
+    const auto isIts = [&](const auto &document) { return document->claim().isOf(file, identity); };
+    const auto found = std::find_if(m_documents.begin(), m_documents.end(), isIts);
+    return found == m_documents.end() ? nullptr : found->get();
+}
+
+Document *DocumentManager::create()
+{
+    return add(drawing::newDrawing(), {});
+}
+
+Document *DocumentManager::add(std::unique_ptr<drawing::Drawing> drawing, DrawingClaim claim)
+{
+    const QString untitled = drawing->path().isEmpty() ? QStringLiteral("Drawing%1").arg(++m_untitled) : QString();
+    m_documents.push_back(std::make_unique<Document>(m_session, std::move(drawing), std::move(claim), untitled));
+    Document *document = m_documents.back().get();
+    setActive(document);
+    tell([&](CKvDocumentManagerReactor &reactor) { reactor.DocumentCreated(document); });
+    document->openLisp();
+    tell([&](CKvDocumentManagerReactor &reactor) { reactor.LispDocumentReady(document); });
+    emit opened(document);
+    return document;
+}
+
+bool DocumentManager::close(Document *document)
+{
+    if (!document || document->isBusy())
+        return false;
+    remove(document);
+    return true;
+}
+
+void DocumentManager::remove(Document *document)
+{
+    const auto isIt = [document](const auto &owned) { return owned.get() == document; };
+    const auto place = std::find_if(m_documents.begin(), m_documents.end(), isIt);
+    if (place == m_documents.end())
+        return;
+    emit aboutToClose(document);
+    tell([&](CKvDocumentManagerReactor &reactor) { reactor.LispDocumentClosing(document); });
+    document->closeLisp();
+    tell([&](CKvDocumentManagerReactor &reactor) { reactor.DocumentToBeDestroyed(document); });
+    std::unique_ptr<Document> last = std::move(*std::find_if(m_documents.begin(), m_documents.end(), isIt));
+    std::erase(m_documents, nullptr);
+    if (m_active == document)
+        setActive(m_documents.empty() ? nullptr : m_documents.back().get());
+    last.reset();
+    tell([&](CKvDocumentManagerReactor &reactor) { reactor.DocumentDestroyed(document); });
+}
+
+void DocumentManager::setActive(Document *document)
+{
+    setActiveDocument(document);
+    if (std::exchange(m_active, document) != document)
+        emit activeChanged(document);
+}
+
+CKvDocument *DocumentManager::document(int index) const
+{
+    return index >= 0 && index < documentCount() ? m_documents[static_cast<size_t>(index)].get() : nullptr;
+}
+
+void DocumentManager::addReactor(CKvDocumentManagerReactor *reactor)
+{
+    if (reactor && std::find(m_reactors.begin(), m_reactors.end(), reactor) == m_reactors.end())
+        m_reactors.push_back(reactor);
+}
+
+void DocumentManager::removeReactor(CKvDocumentManagerReactor *reactor)
+{
+    std::erase(m_reactors, reactor);
+}
+
+template <typename Call>
+void DocumentManager::tell(Call &&call)
+{
+    // A copy: reactors may come and go meanwhile.
+    const std::vector<CKvDocumentManagerReactor *> reactors = m_reactors;
+    for (CKvDocumentManagerReactor *reactor : reactors)
+        if (std::find(m_reactors.begin(), m_reactors.end(), reactor) != m_reactors.end())
+            call(*reactor);
+}
+
+} // namespace host::kernel

@@ -1,0 +1,74 @@
+#pragma once
+
+#include "host/kernel/documents/Document.h"
+#include "platform/kernel/CKvDocumentManager.h"
+
+#include <QObject>
+
+#include <memory>
+#include <vector>
+
+namespace host::kernel {
+
+class Session;
+
+/// What came of opening a drawing.
+struct OpenOutcome
+{
+    Document *document = nullptr;     ///< null when the file could not be read
+    QString error;                    ///< a sentence that names the file
+    std::optional<LockHolder> holder; ///< why there is no document: another process has the file open
+
+    explicit operator bool() const { return document != nullptr; }
+};
+
+/// The open documents, in order of opening. Owns them.
+class KV_EXPORT DocumentManager final : public QObject, public CKvDocumentManager
+{
+    Q_OBJECT
+
+public:
+    explicit DocumentManager(Session &session);
+    /// Closes all documents without saving.
+    ~DocumentManager() override;
+
+    /// Opens a DXF file and makes it the active document. A file that is open already becomes active.
+    OpenOutcome open(const QString &path, OpenMode mode = OpenMode::Alone);
+    /// The document whose file the path leads to, by whatever links; null when there is none.
+    Document *documentOf(const QString &path) const;
+    /// A new empty drawing, which becomes active.
+    Document *create();
+    /// Closes without asking and without saving. The document is gone after the call. Refused (false) while a program
+    /// of it runs. The one opened last becomes active when it was the active one.
+    bool close(Document *document);
+
+    Document *active() const { return m_active; }
+    /// `document` must be one of these, or null for none.
+    void setActive(Document *document);
+    const std::vector<std::unique_ptr<Document>> &documents() const { return m_documents; }
+
+    int documentCount() const override { return static_cast<int>(m_documents.size()); }
+    CKvDocument *document(int index) const override;
+    void addReactor(CKvDocumentManagerReactor *reactor) override;
+    void removeReactor(CKvDocumentManagerReactor *reactor) override;
+
+signals:
+    void activeChanged(host::kernel::Document *document);
+    void opened(host::kernel::Document *document);
+    void aboutToClose(host::kernel::Document *document);
+
+private:
+    Document *add(std::unique_ptr<drawing::Drawing> drawing, DrawingClaim claim);
+    static void tellLeftovers(Document &document, const QString &path);
+    void remove(Document *document);
+    template <typename Call>
+    void tell(Call &&call);
+
+    Session &m_session;
+    std::vector<std::unique_ptr<Document>> m_documents;
+    std::vector<CKvDocumentManagerReactor *> m_reactors;
+    Document *m_active = nullptr;
+    int m_untitled = 0;
+};
+
+} // namespace host::kernel

@@ -1,0 +1,127 @@
+#pragma once
+
+#include "host/kernel/documents/DocumentManager.h"
+#include "host/kernel/files/TrustedFolders.h"
+#include "host/kernel/input/InputFeeder.h"
+#include "host/kernel/platform/ModuleLoader.h"
+#include "host/kernel/platform/Services.h"
+#include "host/kernel/running/CommandAliases.h"
+#include "host/kernel/variables/SettingsStore.h"
+
+#include <QPointer>
+#include <QWidget>
+
+#include <memory>
+
+namespace host::kernel {
+
+class CommandStack;
+class CustomBlocks;
+class Editor;
+class HelpService;
+class SystemServices;
+
+/// How a session is set up.
+struct SessionOptions
+{
+    /// Folder of the user's data (LOGFILEPATH). Empty: the environment variable ORTAKIT_HOME, else a folder of this
+    /// program below the system's place for application data. Made when it does not exist, with a folder "Template"
+    /// for drawings to start from.
+    QString home;
+    /// The folders of the installation, in order: programs are looked for there first, other files after the drawing's
+    /// own folder.
+    QStringList supportFolders;
+    /// Folder with the help pages (<topic>.html, index.html).
+    QString helpFolder;
+};
+
+/// One running host: its documents, modules, reactors, help and input. Making one installs the platform's services;
+/// destroying it unloads the modules, closes the documents and puts back what was installed before.
+class KV_EXPORT Session
+{
+public:
+    explicit Session(const SessionOptions &options = {});
+    ~Session();
+    Session(const Session &) = delete;
+    Session &operator=(const Session &) = delete;
+
+    DocumentManager &documents() { return *m_documents; }
+    ModuleLoader &modules() { return *m_modules; }
+    Editor &editor() { return *m_editor; }
+    CommandStack &commandStack() { return *m_commandStack; }
+    InputQueue &input() { return m_input; }
+    CommandAliases &aliases() { return m_aliases; }
+    SettingsStore &settings() { return m_settings; }
+    TrustedFolders &trustedFolders() { return m_trustedFolders; }
+
+    /// Runs what waits in the queue in the active document, one command or expression after the other, until nothing is
+    /// left or only the beginning of an expression: what was typed, and what a script typed before its command ended.
+    /// What came of the first that failed, else of the last. The user may stop it, which empties the queue.
+    RunResult runQueue();
+
+    /// Lets events be processed and says whether the user wants what runs to end. For everything that may go on without
+    /// asking: also what is typed ahead has no end when a script calls itself.
+    bool isStopWanted() { return m_feeder && m_feeder->poll(); }
+
+    /// The most memory, in MB, that Lisp programs may take: the user's setting LISPHEAPMAX, or less where this run has
+    /// a limit of its own.
+    int lispHeapLimit() const { return std::min(m_lispHeapSetting, m_lispHeapCap); }
+    /// Changes and keeps the setting.
+    void setLispHeapLimit(int megabytes);
+    /// A limit for this run, that no program can raise.
+    void capLispHeap(int megabytes) { m_lispHeapCap = megabytes; }
+    static constexpr int leastLispHeap = 16;
+    static constexpr int largestLispHeap = 1024 * 1024;
+
+    /// Who answers when the queue is empty; null (as in the beginning) for nobody. Not owned.
+    void setFeeder(InputFeeder *feeder) { m_feeder = feeder; }
+    InputFeeder *feeder() const { return m_feeder; }
+
+    /// Parent of tool dialogs; null in a run without a window, when nothing is ever shown: alerts are printed and files
+    /// asked for on the command line. The session must be destroyed before the window.
+    void setMainWindow(QWidget *window) { m_mainWindow = window; }
+    QWidget *mainWindow() const { return m_mainWindow; }
+
+    /// What stands against writing files counts for nothing that may be overruled, for runs that nobody can be asked
+    /// in.
+    void setOverrule(Overrule overrule) { m_overrule = overrule; }
+    Overrule overrule() const { return m_overrule; }
+
+    /// Absolute, without a separator at the end.
+    QString home() const { return m_home; }
+    const QStringList &supportFolders() const { return m_supportFolders; }
+    void setSupportFolders(const QStringList &folders) { m_supportFolders = folders; }
+    QString helpFolder() const { return m_helpFolder; }
+
+    /// A file that should have been written was not, or not whole. The user has been told; a run without one ends with
+    /// that.
+    void tellNotWritten(const QString &problem) { m_notWritten.append(problem); }
+    /// It was written after all.
+    void forgetNotWritten(const QString &problem) { m_notWritten.removeOne(problem); }
+    QStringList takeNotWritten() { return std::exchange(m_notWritten, {}); }
+
+private:
+    QStringList m_notWritten;
+    QString m_home;
+    QStringList m_supportFolders;
+    QString m_helpFolder;
+    CommandAliases m_aliases;
+    SettingsStore m_settings;
+    int m_lispHeapSetting;
+    int m_lispHeapCap = largestLispHeap;
+    TrustedFolders m_trustedFolders{*this};
+    InputQueue m_input;
+    InputFeeder *m_feeder = nullptr;
+    Overrule m_overrule = Overrule::Nothing;
+    QPointer<QWidget> m_mainWindow;
+    std::unique_ptr<Editor> m_editor;
+    std::unique_ptr<CommandStack> m_commandStack;
+    std::unique_ptr<HelpService> m_help;
+    std::unique_ptr<CustomBlocks> m_customBlocks;
+    std::unique_ptr<SystemServices> m_services;
+    std::unique_ptr<DocumentManager> m_documents;
+    std::unique_ptr<ModuleLoader> m_modules;
+    Services m_servicesBefore;
+};
+
+} // namespace host::kernel

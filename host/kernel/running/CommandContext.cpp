@@ -1,0 +1,192 @@
+#include "host/kernel/running/CommandContext.h"
+
+#include "host/kernel/documents/CurrentProperties.h"
+#include "host/kernel/documents/CurrentSpace.h"
+#include "host/kernel/documents/Document.h"
+#include "host/kernel/input/Keywords.h"
+#include "host/kernel/input/Units.h"
+#include "host/kernel/variables/SystemVariables.h"
+
+namespace host::kernel {
+
+using drawing::FieldList;
+using drawing::Vec3;
+
+drawing::Drawing &CommandContext::drawing()
+{
+    return m_document.drawing();
+}
+
+void CommandContext::print(const QString &text)
+{
+    m_document.print(text);
+}
+
+void CommandContext::fail(const QString &reason)
+{
+    print(u'\n' + reason);
+    m_hasFailed = true;
+}
+
+bool CommandContext::refuse(const QString &reason)
+{
+    if (m_isAnsweredAhead)
+        fail(reason);
+    else
+        print(u'\n' + reason);
+    return m_isAnsweredAhead;
+}
+
+QString CommandContext::shownLength(double length) const
+{
+    return UnitFormat::of(m_document.variables()).length(length);
+}
+
+QString CommandContext::shownAngle(double angle) const
+{
+    return UnitFormat::of(m_document.variables()).angle(angle);
+}
+
+CommandContext::Reply CommandContext::ask(PromptRequest request)
+{
+    m_request = std::move(request);
+    m_request.forCommand = true;
+    m_request.chosen = m_chosen;
+    return Reply(*this);
+}
+
+CommandContext::Reply CommandContext::askFor(PromptKind kind, const QString &prompt, const QString &options,
+                                             const std::optional<Vec3> &base, const QString &defaultText, int bits)
+{
+    PromptRequest request;
+    request.kind = kind;
+    request.prompt = u'\n' + prompt;
+    request.keywords = options.isEmpty() ? optionsIn(prompt) : options.split(u' ', Qt::SkipEmptyParts);
+    request.base = base;
+    request.defaultText = defaultText;
+    request.bits = bits;
+    return ask(std::move(request));
+}
+
+CommandContext::Reply CommandContext::point(const QString &prompt, const QString &options,
+                                            const std::optional<Vec3> &base, const QString &defaultText, int bits)
+{
+    return askFor(PromptKind::Point, prompt, options, base, defaultText, bits);
+}
+
+CommandContext::Reply CommandContext::neededPoint(const QString &prompt, const std::optional<Vec3> &base,
+                                                  const QString &options)
+{
+    return askFor(PromptKind::Point, prompt, options, base, {}, NoEmptyAnswer);
+}
+
+CommandContext::Reply CommandContext::distance(const QString &prompt, const QString &options,
+                                               const std::optional<Vec3> &base, const QString &defaultText, int bits)
+{
+    return askFor(PromptKind::Distance, prompt, options, base, defaultText, bits);
+}
+
+CommandContext::Reply CommandContext::orientation(const QString &prompt, const QString &options,
+                                                  const std::optional<Vec3> &base, const QString &defaultText, int bits)
+{
+    return askFor(PromptKind::Orientation, prompt, options, base, defaultText, bits);
+}
+
+CommandContext::Reply CommandContext::angle(const QString &prompt, const QString &options,
+                                            const std::optional<Vec3> &base, const QString &defaultText, int bits)
+{
+    return askFor(PromptKind::Angle, prompt, options, base, defaultText, bits);
+}
+
+CommandContext::Reply CommandContext::real(const QString &prompt, const QString &options, const QString &defaultText,
+                                           int bits)
+{
+    return askFor(PromptKind::Real, prompt, options, {}, defaultText, bits);
+}
+
+CommandContext::Reply CommandContext::integer(const QString &prompt, const QString &options, const QString &defaultText,
+                                              int bits)
+{
+    return askFor(PromptKind::Integer, prompt, options, {}, defaultText, bits);
+}
+
+CommandContext::Reply CommandContext::keyword(const QString &prompt, const QString &options, const QString &defaultText)
+{
+    return askFor(PromptKind::Keyword, prompt, options, {}, defaultText);
+}
+
+CommandContext::Reply CommandContext::text(const QString &prompt, const QString &defaultText, const QString &options)
+{
+    PromptRequest request;
+    request.kind = PromptKind::String;
+    request.prompt = u'\n' + prompt;
+    request.keywords = options.split(u' ', Qt::SkipEmptyParts);
+    request.defaultText = defaultText;
+    request.allowSpaces = true;
+    return ask(std::move(request));
+}
+
+CommandContext::Reply CommandContext::name(const QString &prompt, const QString &defaultText)
+{
+    return askFor(PromptKind::String, prompt, {}, {}, defaultText);
+}
+
+CommandContext::Reply CommandContext::entity(const QString &prompt)
+{
+    return askFor(PromptKind::Entity, prompt, {}, {}, {});
+}
+
+CommandContext::Selection CommandContext::selection()
+{
+    const std::vector<drawing::RecordId> implied = m_document.impliedSelection();
+    if (!implied.empty() && m_document.variables().integer(u"PICKFIRST") != 0) {
+        m_document.setImpliedSelection({});
+        m_document.setPreviousSelection(implied);
+        m_reply = {};
+        m_reply.entities = implied;
+        return Selection(*this, true);
+    }
+    m_selection.emplace(m_document);
+    m_request = m_selection->request();
+    return Selection(*this, false);
+}
+
+namespace {
+
+/// Whether all numbers are such as a file can hold.
+bool isFinite(const FieldList &fields)
+{
+    return std::ranges::all_of(fields, [](const drawing::Field &field) {
+        const Vec3 point = field.point();
+        return std::isfinite(field.real()) && std::isfinite(point.x) && std::isfinite(point.y) &&
+               std::isfinite(point.z);
+    });
+}
+
+} // namespace
+
+drawing::RecordId CommandContext::create(const FieldList &fields)
+{
+    if (!isFinite(fields)) {
+        fail(QStringLiteral("The numbers are too large."));
+        return drawing::noRecord;
+    }
+    drawing::Entities &entities = drawing().entities();
+    const drawing::CreateResult made =
+        entities.create(withCurrentProperties(drawing(), fields), currentSpace(drawing()));
+    if (!made)
+        print(u'\n' + made.error);
+    return made.record;
+}
+
+drawing::RecordId CommandContext::createComplex(const FieldList &head, const std::vector<FieldList> &children)
+{
+    drawing::Entities &entities = drawing().entities();
+    const drawing::CreateResult made =
+        entities.createComplex(withCurrentProperties(drawing(), head), children, currentSpace(drawing()));
+    if (!made)
+        print(u'\n' + made.error);
+    return made.record;
+}
+
+} // namespace host::kernel

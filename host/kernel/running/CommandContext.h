@@ -1,0 +1,111 @@
+#pragma once
+
+#include "host/drawing/records/Drawing.h"
+#include "host/drawing/records/Entities.h"
+#include "host/kernel/input/SelectionBuilder.h"
+#include "host/kernel/running/CommandTask.h"
+
+namespace host::kernel {
+
+class Document;
+
+/// What a command's body works with. The asking functions give something to co_await.
+class CommandContext
+{
+public:
+    /// Waits for the reply to a request.
+    class Reply
+    {
+    public:
+        explicit Reply(CommandContext &context) : m_context(context) {}
+        bool await_ready() const noexcept { return false; }
+        void await_suspend(std::coroutine_handle<> waiting) const noexcept { m_context.m_waiting = waiting; }
+        PromptReply await_resume() const { return m_context.m_reply; }
+
+    protected:
+        CommandContext &m_context;
+    };
+
+    /// Waits for a whole selection; what was chosen before the command started is taken without asking.
+    class Selection : public Reply
+    {
+    public:
+        explicit Selection(CommandContext &context, bool isImplied) : Reply(context), m_isImplied(isImplied) {}
+        bool await_ready() const noexcept { return m_isImplied; }
+        /// What was chosen is shown so while the command asks on.
+        PromptReply await_resume() const
+        {
+            m_context.m_chosen = std::make_shared<const std::vector<drawing::RecordId>>(m_context.m_reply.entities);
+            return m_context.m_reply;
+        }
+
+    private:
+        bool m_isImplied;
+    };
+
+    explicit CommandContext(Document &document) : m_document(document) {}
+
+    Document &document() { return m_document; }
+    drawing::Drawing &drawing();
+    void print(const QString &text);
+    /// Prints why the command ends without having done what it was asked for; what it has changed is taken back then.
+    /// The body ends behind it.
+    void fail(const QString &reason);
+    /// Prints why an answer cannot be taken. True when the command fails with that, as the answers come from a program
+    /// or script; false when the user is there to be asked again.
+    bool refuse(const QString &reason);
+    bool hasFailed() const { return m_hasFailed; }
+    /// A length and an angle (radians) as the drawing shows them.
+    QString shownLength(double length) const;
+    QString shownAngle(double angle) const;
+
+    // The options of a prompt are what it lists in brackets ("or [Close/Undo]", see optionsIn()); `options` are taken
+    // instead when there are some: keywords with a blank between, as (initget) has them. `bits`: InputBit.
+    Reply ask(PromptRequest request);
+    Reply point(const QString &prompt, const QString &options = {}, const std::optional<drawing::Vec3> &base = {},
+                const QString &defaultText = {}, int bits = 0);
+    /// A point, or an option, that the command cannot do without: an empty answer is not taken.
+    Reply neededPoint(const QString &prompt, const std::optional<drawing::Vec3> &base = {},
+                      const QString &options = {});
+    Reply distance(const QString &prompt, const QString &options = {}, const std::optional<drawing::Vec3> &base = {},
+                   const QString &defaultText = {}, int bits = 0);
+    /// An angle from the user's x axis, in radians.
+    Reply orientation(const QString &prompt, const QString &options = {}, const std::optional<drawing::Vec3> &base = {},
+                      const QString &defaultText = {}, int bits = 0);
+    /// An angle to turn by, in radians: typed angles count from where they stand, whatever ANGBASE is.
+    Reply angle(const QString &prompt, const QString &options = {}, const std::optional<drawing::Vec3> &base = {},
+                const QString &defaultText = {}, int bits = 0);
+    Reply real(const QString &prompt, const QString &options = {}, const QString &defaultText = {}, int bits = 0);
+    Reply integer(const QString &prompt, const QString &options = {}, const QString &defaultText = {}, int bits = 0);
+    Reply keyword(const QString &prompt, const QString &options = {}, const QString &defaultText = {});
+    /// Text, with blanks. Its options are `options` alone.
+    Reply text(const QString &prompt, const QString &defaultText = {}, const QString &options = {});
+    /// Text up to a blank: a name.
+    Reply name(const QString &prompt, const QString &defaultText = {});
+    /// One entity, with the point it was picked at.
+    Reply entity(const QString &prompt);
+
+    /// The entities that the command works on; they become the previous selection.
+    Selection selection();
+
+    /// Makes an entity in the current space with the current layer, colour, linetype, scale and weight where `fields`
+    /// do not say others, and prints the reason when that fails.
+    drawing::RecordId create(const drawing::FieldList &fields);
+    drawing::RecordId createComplex(const drawing::FieldList &head, const std::vector<drawing::FieldList> &children);
+
+private:
+    friend class CommandRun;
+    Reply askFor(PromptKind kind, const QString &prompt, const QString &options,
+                 const std::optional<drawing::Vec3> &base, const QString &defaultText, int bits = 0);
+
+    Document &m_document;
+    PromptRequest m_request;
+    PromptReply m_reply;
+    std::coroutine_handle<> m_waiting; ///< the body, or the part of it, that stopped for the reply
+    bool m_hasFailed = false;
+    bool m_isAnsweredAhead = false;              ///< the last answer came from a program, or more is typed behind it
+    std::optional<SelectionBuilder> m_selection; ///< while a selection grows
+    std::shared_ptr<const std::vector<drawing::RecordId>> m_chosen; ///< of the last selection
+};
+
+} // namespace host::kernel

@@ -1,0 +1,148 @@
+#include "host/kernel/running/CommandRun.h"
+
+#include "host/kernel/documents/Document.h"
+#include "host/kernel/documents/Session.h"
+#include "host/kernel/input/UserInput.h"
+#include "host/kernel/platform/Editor.h"
+#include "host/kernel/variables/SystemVariables.h"
+#include "host/lisp/Error.h"
+
+namespace host::kernel {
+
+std::unique_ptr<CommandRun> CommandRun::start(Document &document, const QString &typed)
+{
+    if (const CommandRow *row = CommandTable::find(typed))
+        return std::make_unique<CommandRun>(document, *row);
+    const QString name = CommandTable::plainName(typed);
+    if (!document.variables().get(name))
+        return nullptr;
+    auto command = std::make_unique<CommandRun>(document, *CommandTable::find(u"SETVAR"));
+    command->offer(TextAnswer{name});
+    return command;
+}
+
+CommandRun::CommandRun(Document &document, const CommandRow &row)
+    : m_document(document), m_row(row), m_context(document)
+{
+    m_document.session().editor().commandWillStart();
+    m_start = m_document.undoSteps().checkpoint();
+    m_document.pushCommandName(QString::fromLatin1(row.name));
+    m_task.emplace(row.body(m_context));
+    resume();
+}
+
+CommandRun::~CommandRun()
+{
+    if (m_task)
+        cancel();
+}
+
+void CommandRun::offer(const InputAnswer &answer)
+{
+    echoPrompt();
+    m_context.m_isAnsweredAhead = true;
+    if (std::optional<PromptReply> given = m_dialogue->offer(answer))
+        reply(std::move(*given));
+    else if (m_dialogue->wasRefused())
+        refuse();
+}
+
+void CommandRun::askUser()
+{
+    PromptRequest request = m_dialogue->request();
+    request.endsWhenRefused = true;
+    PromptReply given = m_document.prompts().ask(request);
+    m_context.m_isAnsweredAhead = !m_document.session().input().isEmpty();
+    reply(std::move(given));
+    if (hasFailed())
+        m_document.prompts().dropTypedAhead();
+}
+
+void CommandRun::runToEnd()
+{
+    while (!isDone())
+        askUser();
+}
+
+void CommandRun::reply(PromptReply given)
+{
+    if (given.kind == ReplyKind::Cancelled) {
+        m_isCancelled = true;
+        return given.isRefused ? refuse() : cancel();
+    }
+    if (m_context.m_selection && !growSelection(given))
+        return;
+    m_context.m_reply = std::move(given);
+    resume();
+}
+
+bool CommandRun::growSelection(PromptReply &reply)
+{
+    std::optional<SelectionBuilder> &selection = m_context.m_selection;
+    selection->add(reply);
+    if (!selection->isDone()) {
+        m_dialogue.emplace(m_document, selection->request());
+        return false;
+    }
+    reply = {};
+    reply.entities = selection->entities();
+    m_document.setPreviousSelection(reply.entities);
+    selection.reset();
+    return true;
+}
+
+void CommandRun::resume()
+{
+    m_dialogue.reset();
+    try {
+        m_task->resume(std::exchange(m_context.m_waiting, {}));
+    } catch (const lisp::Error &) {
+        finish();
+        throw;
+    } catch (const std::exception &failure) {
+        m_context.fail(QString::fromStdString(lisp::messageOf(failure)));
+    } catch (...) {
+        finish();
+        throw;
+    }
+    if (m_task->isDone() && hasFailed())
+        refuse();
+    else if (m_task->isDone())
+        finish();
+    else
+        m_dialogue.emplace(m_document, m_context.m_request);
+}
+
+void CommandRun::finish()
+{
+    if (!m_task)
+        return;
+    m_task.reset();
+    m_dialogue.reset();
+    m_document.popCommandName();
+    m_document.undoSteps().boundary();
+}
+
+void CommandRun::cancel()
+{
+    m_isCancelled = true;
+    finish();
+    if (m_row.whenCancelled == WhenCancelled::TakeBack)
+        m_document.undoSteps().takeBackTo(m_start);
+}
+
+void CommandRun::refuse()
+{
+    m_context.m_hasFailed = true;
+    finish();
+    m_document.undoSteps().takeBackTo(m_start);
+    m_document.print(QStringLiteral("\n%1 has ended, nothing was changed.").arg(QLatin1String(m_row.name)));
+}
+
+void CommandRun::echoPrompt()
+{
+    if (m_document.variables().integer(u"CMDECHO", 1) != 0)
+        m_document.printPrompt(m_dialogue->request().prompt);
+}
+
+} // namespace host::kernel

@@ -1,0 +1,55 @@
+#pragma once
+
+#include "host/kernel/input/PromptDialogue.h"
+#include "host/kernel/running/CommandContext.h"
+#include "host/kernel/running/CommandTable.h"
+
+namespace host::kernel {
+
+/// A built-in command under way, from its start to its end.
+class CommandRun
+{
+public:
+    /// Starts the command that was typed; a system variable's name starts SETVAR on it. Null when it is neither.
+    static std::unique_ptr<CommandRun> start(Document &document, const QString &typed);
+    /// Starts the command: its reactors hear of it and it runs to its first prompt.
+    CommandRun(Document &document, const CommandRow &row);
+    /// Gives the command up where it waits.
+    ~CommandRun();
+    CommandRun(const CommandRun &) = delete;
+    CommandRun &operator=(const CommandRun &) = delete;
+
+    bool isDone() const { return !m_task; }
+    bool isCancelled() const { return m_isCancelled; }
+    /// Ended without having done what it was asked for: it did not take an answer, or said why it cannot.
+    bool hasFailed() const { return m_context.hasFailed(); }
+    /// An answer to the prompt it waits at, as a Lisp program gives it. One that the prompt does not take ends the
+    /// command, and what it did is taken back.
+    void offer(const InputAnswer &answer);
+    /// Has the user answer the prompt it waits at.
+    void askUser();
+    /// Has the user answer all that is still asked.
+    void runToEnd();
+
+private:
+    void reply(PromptReply given);
+    /// Puts a step of a selection in. True when it is complete; `reply` is all of it then.
+    bool growSelection(PromptReply &reply);
+    void resume();
+    void finish();
+    /// Ends it at a prompt.
+    void cancel();
+    /// Ends it because of an answer that the prompt does not take.
+    void refuse();
+    void echoPrompt();
+
+    Document &m_document;
+    const CommandRow &m_row;
+    int m_start = 0; ///< of the undo steps, where it began
+    CommandContext m_context;
+    std::optional<CommandTask> m_task;
+    std::optional<PromptDialogue> m_dialogue;
+    bool m_isCancelled = false;
+};
+
+} // namespace host::kernel
