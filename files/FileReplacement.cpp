@@ -21,11 +21,6 @@ constexpr mode_t permissions = 0777;
 constexpr mode_t forOwnerAlone = 0600;
 constexpr mode_t asUsual = 0666;
 
-fs::path folderOf(const fs::path &file)
-{
-    return file.has_parent_path() ? file.parent_path() : fs::path(".");
-}
-
 bool isRefusal(int number)
 {
     return number == EACCES || number == EPERM || number == EROFS;

@@ -63,11 +63,6 @@ std::vector<fs::path> removeIn(const fs::path &folder, std::string_view begin)
     return whole;
 }
 
-fs::path folderOf(const fs::path &file)
-{
-    return file.has_parent_path() ? file.parent_path() : fs::path(".");
-}
-
 } // namespace
 
 std::vector<fs::path> removeLeftovers(const fs::path &file)

@@ -6,6 +6,12 @@
 
 namespace files {
 
+/// The folder a file is in; "." for a bare name.
+inline std::filesystem::path folderOf(const std::filesystem::path &file)
+{
+    return file.has_parent_path() ? file.parent_path() : std::filesystem::path(".");
+}
+
 /// What a program that was killed while it replaced a file left beside it.
 ///
 /// The hidden files are called ".NAME.XXXXXX.saving" (content that was never whole) and ".NAME.XXXXXX.whole" (the whole

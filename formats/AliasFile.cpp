@@ -2,6 +2,7 @@
 
 #include "files/qt/Files.h"
 #include "formats/FileWriting.h"
+#include "formats/Translated.h"
 
 #include <QBuffer>
 #include <QCoreApplication>
@@ -22,11 +23,6 @@ constexpr qint64 longestToken = 64 * 1024;
 constexpr qsizetype mostAttributes = 100;
 /// Entities may add this much to what stands in the file.
 constexpr qint64 expansionAllowance = 1024 * 1024;
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("LispExtension", text);
-}
 
 /// More than all commands of all programs have.
 constexpr qint64 largestFile = 64 * 1024 * 1024;
@@ -63,7 +59,7 @@ private:
         if (!needsMore())
             return false;
         if (m_fed - m_fedAtToken > longestToken) {
-            m_xml.raiseError(tr("A tag or text of the file is too long."));
+            m_xml.raiseError(translated("A tag or text of the file is too long."));
             return false;
         }
         const QByteArray piece = m_source.read(pieceSize);
@@ -84,7 +80,7 @@ private:
             return;
         const QXmlStreamAttributes attributes = m_xml.attributes();
         if (attributes.size() > mostAttributes)
-            m_xml.raiseError(tr("An element of the file has too many attributes."));
+            m_xml.raiseError(translated("An element of the file has too many attributes."));
         else if (m_xml.name() == "record"_L1)
             takeRecord({attributes.value("command"_L1).toString(), attributes.value("alias"_L1).toString()});
     }
@@ -119,7 +115,7 @@ private:
     {
         m_taken += record.command.size() + record.alias.size();
         if (m_taken > m_fed + expansionAllowance)
-            m_xml.raiseError(tr("The entities of the file expand to too much text."));
+            m_xml.raiseError(translated("The entities of the file expand to too much text."));
         else
             m_aliases.append(record);
     }
@@ -168,7 +164,7 @@ AliasFile::Written keep(const QString &path, const QByteArray &content)
         replaceFile(copy, content, &error);
         return {error, copy};
     }
-    return {tr("There are too many copies of it already."), {}};
+    return {translated("There are too many copies of it already."), {}};
 }
 
 } // namespace
@@ -223,7 +219,7 @@ AliasReading AliasFile::open(const QString &path)
     m_isChosen = false;
     files::WholeBytes content = files::readWhole(path, largestFile);
     if (!content)
-        return {{}, tr("Error reading alias file."), 0, false};
+        return {{}, translated("Error reading alias file."), 0, false};
     QBuffer buffer(&content.bytes);
     buffer.open(QIODevice::ReadOnly);
     AliasReading reading = readAliases(buffer);
@@ -246,7 +242,7 @@ QString AliasFile::damage() const
     const AliasReading reading = readAliasFile(m_path);
     if (reading)
         return {};
-    return reading.line > 0 ? tr("line %1: %2").arg(reading.line).arg(reading.error) : reading.error;
+    return reading.line > 0 ? translated("line %1: %2").arg(reading.line).arg(reading.error) : reading.error;
 }
 
 AliasFile::Written AliasFile::write(const QList<CommandAlias> &aliases)

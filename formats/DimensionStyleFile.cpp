@@ -15,7 +15,7 @@ namespace {
 
 constexpr QByteArrayView headerWord = "DIMENSION_STYLE_NAME";
 constexpr QByteArrayView endWord = "END_OF_STYLE";
-constexpr QByteArrayView lineEnd = "\r\n";
+constexpr QByteArrayView styleLineEnd = "\r\n";
 
 enum class Side
 {
@@ -48,7 +48,7 @@ LineKind kindOf(QByteArrayView line, Side side)
 }
 
 /// The part of `line` between its blanks number `index` - 1 and `index`, from 0; empty when there are not so many.
-QByteArrayView field(QByteArrayView line, int index)
+QByteArrayView wordAt(QByteArrayView line, int index)
 {
     for (; index > 0; --index) {
         const qsizetype blank = line.indexOf(' ');
@@ -68,11 +68,11 @@ QString text(QByteArrayView bytes)
 /// The name in a header; nothing when `line` is none.
 std::optional<QString> headerName(QByteArrayView line, Side side)
 {
-    const QByteArrayView word = field(line, 0);
+    const QByteArrayView word = wordAt(line, 0);
     if (!word.contains(headerWord))
         return std::nullopt;
     if (side == Side::Import)
-        return text(field(line, 1));
+        return text(wordAt(line, 1));
     return text(line.sliced(std::min(word.size() + 1, line.size())));
 }
 
@@ -109,13 +109,13 @@ void readSection(LineReader &reader, Side side, const QSet<QString> &textStyles,
         case LineKind::End:
             return;
         case LineKind::TextStyleName:
-            style.usesExistingTextStyle |= textStyles.contains(text(field(line, 1)));
+            style.usesExistingTextStyle |= textStyles.contains(text(wordAt(line, 1)));
             break;
         case LineKind::TextStyleDefinition:
             break;
         case LineKind::Linetype:
-            style.entries.append(text(field(line, 0)) + u' ' + text(field(line, 1)));
-            skipDefinition(reader, text(field(line, 2)).toInt());
+            style.entries.append(text(wordAt(line, 0)) + u' ' + text(wordAt(line, 1)));
+            skipDefinition(reader, text(wordAt(line, 2)).toInt());
             break;
         case LineKind::Variable:
             style.entries.append(reader.string());
@@ -198,7 +198,7 @@ private:
 void appendLine(QByteArray &output, QByteArrayView line)
 {
     output.append(line);
-    output.append(lineEnd);
+    output.append(styleLineEnd);
 }
 
 void appendSection(QByteArray &output, const SectionIndex::Section &section, TextStyleCopy textStyle)

@@ -11,8 +11,8 @@ namespace ortakit {
 
 namespace {
 
-constexpr int fieldCount = 2;
-constexpr int nameField = 0;
+constexpr int linetypeFieldCount = 2;
+constexpr int linetypeNameField = 0;
 constexpr int descriptionField = 1;
 
 /// As much of a file as its first line is looked for in: a file of one endless line is not read whole for that.
@@ -30,9 +30,10 @@ bool opensDefinitionOrIsBlank(const QByteArray &beginning)
 
 LinetypeListing listLinetypes(QByteArrayView text)
 {
-    return listDefinitions<LinetypeHeader>({text, fieldCount, nameField}, [](const DefinitionHeaderReader &header) {
-        return LinetypeHeader{header.field(nameField), header.field(descriptionField)};
-    });
+    return listDefinitions<LinetypeHeader>(
+        {text, linetypeFieldCount, linetypeNameField}, [](const DefinitionHeaderReader &header) {
+            return LinetypeHeader{header.field(linetypeNameField), header.field(descriptionField)};
+        });
 }
 
 LinetypeListing readLinetypeFile(const QString &path)

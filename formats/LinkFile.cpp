@@ -8,20 +8,20 @@ namespace ortakit {
 
 namespace {
 
-constexpr QChar separator = u'^';
+constexpr QChar linkSeparator = u'^';
 constexpr QLatin1String removal("REMOVE^");
 
 bool isRemoval(QStringView line)
 {
-    return line.startsWith(removal) && line.count(separator) == 1;
+    return line.startsWith(removal) && line.count(linkSeparator) == 1;
 }
 
 Link linkOf(const QString &line)
 {
-    QStringList fields = line.split(separator);
+    QStringList fields = line.split(linkSeparator);
     const qsizetype surplus = fields.size() - LinkFieldCount;
     if (surplus > 0) {
-        const QString url = fields.sliced(UrlField, surplus + 1).join(separator);
+        const QString url = fields.sliced(UrlField, surplus + 1).join(linkSeparator);
         fields.remove(UrlField, surplus);
         fields[UrlField] = url;
     }
@@ -36,7 +36,7 @@ QString writtenText(const QList<Link> &links, const QStringList &removed)
     for (const Link &link : links) {
         for (const QString &field : link) {
             text += field;
-            text += separator;
+            text += linkSeparator;
         }
         text.chop(1);
         text += QLatin1String("\r\n");

@@ -10,9 +10,9 @@ namespace ortakit {
 namespace {
 
 #ifdef Q_OS_WIN
-constexpr QLatin1String lineEnd("\r\n");
+constexpr QLatin1String dumpLineEnd("\r\n");
 #else
-constexpr QLatin1String lineEnd("\n");
+constexpr QLatin1String dumpLineEnd("\n");
 #endif
 
 enum Field
@@ -41,7 +41,7 @@ void appendAssignment(QString &dump, QStringView name, QStringView quote, QStrin
     dump += u')';
     // Some readers end a line there, and what follows would be no comment any more.
     std::replace(dump.begin() + begin, dump.end(), QChar(u'\r'), QChar(u' '));
-    dump += lineEnd;
+    dump += dumpLineEnd;
 }
 
 } // namespace

@@ -4,22 +4,22 @@ namespace ortakit {
 
 namespace {
 
-constexpr QChar separator = u'^';
+constexpr QChar entrySeparator = u'^';
 constexpr QLatin1String separatorCode("\\U+005E");
 
 QString decoded(QString name)
 {
-    return name.replace(separatorCode, QString(separator));
+    return name.replace(separatorCode, QString(entrySeparator));
 }
 
 } // namespace
 
 ReferenceEntry referenceOf(const QString &text)
 {
-    const qsizetype first = text.indexOf(separator);
+    const qsizetype first = text.indexOf(entrySeparator);
     if (first < 0)
         return {text, {}, {}};
-    const qsizetype second = text.indexOf(separator, first + 1);
+    const qsizetype second = text.indexOf(entrySeparator, first + 1);
     if (second < 0)
         return {text.first(first), decoded(text.sliced(first + 1)), {}};
     return {text.first(first), decoded(text.sliced(first + 1, second - first - 1)), text.sliced(second + 1)};
@@ -27,7 +27,8 @@ ReferenceEntry referenceOf(const QString &text)
 
 QString writtenReference(const ReferenceEntry &entry)
 {
-    return entry.type + separator + QString(entry.name).replace(separator, separatorCode) + separator + entry.path;
+    return entry.type + entrySeparator + QString(entry.name).replace(entrySeparator, separatorCode) + entrySeparator +
+           entry.path;
 }
 
 QString withBackslashes(QString path)

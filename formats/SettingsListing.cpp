@@ -7,7 +7,7 @@ namespace ortakit {
 namespace {
 
 template <class Listing>
-auto &linesOf(Listing &listing, SettingClass settingClass)
+auto &linesOfClass(Listing &listing, SettingClass settingClass)
 {
     switch (settingClass) {
     case SettingClass::ReadOnly:
@@ -31,14 +31,14 @@ SettingClass classOf(QByteArrayView line)
 
 const QList<QByteArray> &SettingsListing::lines(SettingClass settingClass) const
 {
-    return linesOf(*this, settingClass);
+    return linesOfClass(*this, settingClass);
 }
 
 SettingsListing parseSettingsListing(QByteArrayView text)
 {
     SettingsListing listing;
     for (LineReader reader(text); reader.next();)
-        linesOf(listing, classOf(reader.line())).append(reader.line().toByteArray());
+        linesOfClass(listing, classOf(reader.line())).append(reader.line().toByteArray());
     return listing;
 }
 

@@ -4,17 +4,18 @@ namespace ortakit {
 
 namespace {
 
-constexpr int fieldCount = 3;
+constexpr int shapeFieldCount = 3;
 constexpr int numberField = 0;
-constexpr int nameField = 2;
+constexpr int shapeNameField = 2;
 
 } // namespace
 
 ShapeListing listShapes(QByteArrayView text)
 {
-    return listDefinitions<ShapeHeader>({text, fieldCount, nameField}, [](const DefinitionHeaderReader &header) {
-        return ShapeHeader{header.field(numberField), header.field(nameField)};
-    });
+    return listDefinitions<ShapeHeader>({text, shapeFieldCount, shapeNameField},
+                                        [](const DefinitionHeaderReader &header) {
+                                            return ShapeHeader{header.field(numberField), header.field(shapeNameField)};
+                                        });
 }
 
 ShapeListing readShapeFile(const QString &path)

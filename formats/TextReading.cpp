@@ -1,6 +1,7 @@
 #include "formats/TextReading.h"
 
 #include "files/qt/Files.h"
+#include "formats/Translated.h"
 
 #include <QCoreApplication>
 #include <QStringConverter>
@@ -8,11 +9,6 @@
 namespace ortakit {
 
 namespace {
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("LispExtension", text);
-}
 
 /// Latin-1 but for the 32 characters from 0x80 on; the five that are not assigned stand for themselves.
 QString fromWindows1252(QByteArrayView bytes)
@@ -45,7 +41,7 @@ QByteArray withoutByteOrderMark(QByteArray bytes)
 TextReading readTextFile(const QString &path, qint64 largest)
 {
     if (path.isEmpty())
-        return {{}, tr("No file name")};
+        return {{}, translated("No file name")};
     files::WholeBytes file = files::readWhole(path, largest);
     if (!file)
         return {{}, file.reason};

@@ -1,5 +1,6 @@
 #include "module/BlockImport.h"
 
+#include "formats/Translated.h"
 #include "module/CommandDialog.h"
 #include "platform/kernel/CKvDocument.h"
 #include "platform/kernel/CKvLispEngine.h"
@@ -13,11 +14,6 @@ namespace ortakit {
 namespace {
 
 using namespace Qt::StringLiterals;
-
-QString translated(const char *text)
-{
-    return QCoreApplication::translate("LispExtension", text);
-}
 
 /// What the user calls the entries of a symbol table.
 QString kindOf(const QString &table)

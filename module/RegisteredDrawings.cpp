@@ -1,5 +1,6 @@
 #include "module/RegisteredDrawings.h"
 
+#include "formats/Translated.h"
 #include "module/DialogRegistry.h"
 #include "platform/db/OdDbDatabase.h"
 #include "platform/kernel/CKvDocument.h"
@@ -7,17 +8,14 @@
 #include <QCoreApplication>
 #include <QFileInfo>
 
+using ortakit::translated;
+
 namespace {
 
 QString fileOf(const DocumentDialogSet &record)
 {
     const OdDbDatabase *database = record.document()->database();
     return database ? database->getFilename() : QString();
-}
-
-QString translated(const char *text)
-{
-    return QCoreApplication::translate("LispExtension", text);
 }
 
 } // namespace

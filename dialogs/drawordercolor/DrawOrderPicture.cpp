@@ -9,17 +9,17 @@
 namespace {
 
 constexpr int mostSquares = 16;
-constexpr int swatchSize = 16;
+constexpr int pictureSquare = 16;
 constexpr int largestSquare = 40;
 constexpr int largestStep = 14;
-constexpr int lastColor = 256;
+constexpr int lastDrawnColor = 256;
 
 } // namespace
 
 void DrawOrderPicture::setColors(const QList<int> &colors)
 {
     m_colors = colors;
-    m_colors.removeIf([](int color) { return color > lastColor; });
+    m_colors.removeIf([](int color) { return color > lastDrawnColor; });
     m_colors.remove(0, std::max(qsizetype(0), m_colors.size() - mostSquares));
     update();
 }
@@ -36,7 +36,7 @@ void DrawOrderPicture::paintEvent(QPaintEvent *)
     painter.setPen(palette().color(QPalette::WindowText));
     for (const int color : std::as_const(m_colors)) {
         const QRect place(corner, QSize(square, square));
-        painter.drawPixmap(place, CKvQtColorComboBox::colorSwatch(color).pixmap(swatchSize));
+        painter.drawPixmap(place, CKvQtColorComboBox::colorSwatch(color).pixmap(pictureSquare));
         painter.drawRect(place);
         corner += QPoint(step, step);
     }

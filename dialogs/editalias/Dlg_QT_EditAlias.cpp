@@ -19,9 +19,9 @@
 
 namespace {
 
-enum Column
+enum AliasColumn
 {
-    CommandColumn,
+    AliasCommandColumn,
     AliasColumn
 };
 
@@ -147,7 +147,7 @@ void Dlg_QT_EditAlias::fillTable(const QList<ortakit::CommandAlias> &aliases)
     ortakit::setTableRows(*m_ui->lstAlias, rows);
     m_ui->lstAlias->horizontalHeader()->setSortIndicatorShown(false);
     for (int row = 0; row < int(aliases.size()); ++row)
-        m_ui->lstAlias->item(row, CommandColumn)->setWhatsThis(QString(aliases[row].command).remove(u'_'));
+        m_ui->lstAlias->item(row, AliasCommandColumn)->setWhatsThis(QString(aliases[row].command).remove(u'_'));
 }
 
 QString Dlg_QT_EditAlias::cellText(int row, int column) const
@@ -161,7 +161,7 @@ QList<ortakit::CommandAlias> Dlg_QT_EditAlias::tableAliases() const
     QList<ortakit::CommandAlias> aliases;
     aliases.reserve(m_ui->lstAlias->rowCount());
     for (int row = 0; row < m_ui->lstAlias->rowCount(); ++row)
-        aliases.append({cellText(row, CommandColumn), cellText(row, AliasColumn)});
+        aliases.append({cellText(row, AliasCommandColumn), cellText(row, AliasColumn)});
     return aliases;
 }
 
@@ -189,12 +189,12 @@ void Dlg_QT_EditAlias::AddAlias()
         const QScopedValueRollback filling(m_isFilling, true);
         table.insertRow(0);
         // With a text, though empty: the first edit that leaves an item without one empty would count as a change.
-        table.setItem(0, CommandColumn, new QTableWidgetItem(QString()));
+        table.setItem(0, AliasCommandColumn, new QTableWidgetItem(QString()));
         table.setItem(0, AliasColumn, new QTableWidgetItem(QString()));
     }
     table.setFocus();
-    table.setCurrentCell(0, CommandColumn);
-    table.editItem(table.item(0, CommandColumn));
+    table.setCurrentCell(0, AliasCommandColumn);
+    table.editItem(table.item(0, AliasCommandColumn));
 }
 
 void Dlg_QT_EditAlias::delAlias()
@@ -208,7 +208,8 @@ void Dlg_QT_EditAlias::delAlias()
     // selected is asked about twice; when it is gone by then, there is nothing more to do for the second answer.
     QList<std::pair<QPersistentModelIndex, QString>> rows;
     for (const QTableWidgetItem *cell : cells)
-        rows.append({m_ui->lstAlias->model()->index(cell->row(), CommandColumn), cellText(cell->row(), CommandColumn)});
+        rows.append({m_ui->lstAlias->model()->index(cell->row(), AliasCommandColumn),
+                     cellText(cell->row(), AliasCommandColumn)});
     for (const auto &[row, command] : rows) {
         const bool isConfirmed = ask(tr("Are you sure you want to remove this alias for %1?").arg(command));
         if (isConfirmed && row.isValid())

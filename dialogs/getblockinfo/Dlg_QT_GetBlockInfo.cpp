@@ -13,10 +13,10 @@
 
 namespace {
 
-enum Column
+enum InfoColumn
 {
-    NameColumn,
-    InstancesColumn
+    InfoNameColumn,
+    InfoInstancesColumn
 };
 
 constexpr QChar separator = u';';
@@ -25,8 +25,8 @@ constexpr QChar separator = u';';
 QTableWidgetItem *makeItem(const ortakit::BlockCount &block, int column)
 {
     auto *item = new QTableWidgetItem;
-    item->setData(Qt::DisplayRole, column == NameColumn ? QVariant(block.name) : QVariant(block.references));
-    if (column == InstancesColumn)
+    item->setData(Qt::DisplayRole, column == InfoNameColumn ? QVariant(block.name) : QVariant(block.references));
+    if (column == InfoInstancesColumn)
         item->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
     return item;
 }
@@ -41,9 +41,9 @@ Dlg_QT_GetBlockInfo::Dlg_QT_GetBlockInfo(QWidget *parent)
     ortakit::setTableHeaders(*m_ui->blocksTable, tr("Name;Instances"));
     ortakit::setHeaderForSorting(*m_ui->blocksTable);
     QHeaderView *header = m_ui->blocksTable->horizontalHeader();
-    header->setSectionResizeMode(NameColumn, QHeaderView::Stretch);
-    header->setSectionResizeMode(InstancesColumn, QHeaderView::Fixed);
-    header->resizeSection(InstancesColumn, 100);
+    header->setSectionResizeMode(InfoNameColumn, QHeaderView::Stretch);
+    header->setSectionResizeMode(InfoInstancesColumn, QHeaderView::Fixed);
+    header->resizeSection(InfoInstancesColumn, 100);
 
     m_ui->buttonBox->button(QDialogButtonBox::Close)->setDefault(true);
 
@@ -80,7 +80,7 @@ void Dlg_QT_GetBlockInfo::fillTable()
 QStringList Dlg_QT_GetBlockInfo::sortedEntries() const
 {
     QStringList entries = m_ui->nestedCheckBox->isChecked() ? m_withNested : m_topLevel;
-    const auto sort = m_sortColumn == InstancesColumn ? ortakit::sortRowsByNumber : ortakit::sortRows;
+    const auto sort = m_sortColumn == InfoInstancesColumn ? ortakit::sortRowsByNumber : ortakit::sortRows;
     sort(entries, separator, m_sortColumn, m_sortOrder);
     return entries;
 }

@@ -27,10 +27,10 @@ using ortakit::SheetNameProblem;
 
 namespace {
 
-enum Column
+enum MergeColumn
 {
-    SheetColumn,
-    NameColumn
+    MergeSheetColumn,
+    MergeNameColumn
 };
 
 constexpr int sheetWidth = 210;
@@ -131,7 +131,7 @@ void Dlg_QT_MergeSheets::setUpTable()
 {
     QTableWidget &table = *m_ui->lstSheets;
     ortakit::setTableHeaders(table, tr("Sheet;New name"));
-    table.setColumnWidth(SheetColumn, sheetWidth);
+    table.setColumnWidth(MergeSheetColumn, sheetWidth);
     table.horizontalHeader()->setStretchLastSection(true);
     table.horizontalHeader()->setSectionsClickable(false);
     table.horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
@@ -158,7 +158,7 @@ void Dlg_QT_MergeSheets::setSheets(const QStringList &sheets)
 {
     m_sheets = sheets;
     ortakit::setTableRows(*m_ui->lstSheets, int(sheets.size()), [&sheets](int row, int column) {
-        return column == SheetColumn ? sheetItem(sheets[row], row, Qt::Checked) : nullptr;
+        return column == MergeSheetColumn ? sheetItem(sheets[row], row, Qt::Checked) : nullptr;
     });
     refreshNames();
 }
@@ -183,7 +183,7 @@ bool Dlg_QT_MergeSheets::eventFilter(QObject *watched, QEvent *event)
         isSpace && watched == m_ui->lstSheets ? ortakit::rowsWithSelection(*m_ui->lstSheets) : QList<int>();
     if (rows.isEmpty())
         return ToolDialog::eventFilter(watched, event);
-    const bool wasChecked = m_ui->lstSheets->item(rows.first(), SheetColumn)->checkState() == Qt::Checked;
+    const bool wasChecked = m_ui->lstSheets->item(rows.first(), MergeSheetColumn)->checkState() == Qt::Checked;
     checkRows(rows, wasChecked ? Qt::Unchecked : Qt::Checked);
     return true;
 }
@@ -193,7 +193,7 @@ void Dlg_QT_MergeSheets::checkRows(const QList<int> &rows, Qt::CheckState state)
     {
         const QSignalBlocker noSignals(m_ui->lstSheets->model());
         for (const int row : rows)
-            m_ui->lstSheets->setItem(row, SheetColumn, sheetItem(sheetAt(row), numberAt(row) - 1, state));
+            m_ui->lstSheets->setItem(row, MergeSheetColumn, sheetItem(sheetAt(row), numberAt(row) - 1, state));
     }
     refreshNames();
 }
@@ -232,7 +232,7 @@ void Dlg_QT_MergeSheets::showNames(const QList<int> &checked)
     const QSignalBlocker noSignals(m_ui->lstSheets->model());
     for (int row = 0, name = 0; row < m_ui->lstSheets->rowCount(); ++row) {
         const bool isChecked = name < checked.size() && checked[name] == row;
-        m_ui->lstSheets->setItem(row, NameColumn, nameItem(isChecked ? m_names[name++] : ortakit::SheetName()));
+        m_ui->lstSheets->setItem(row, MergeNameColumn, nameItem(isChecked ? m_names[name++] : ortakit::SheetName()));
     }
     m_ui->lstSheets->viewport()->update();
 }
@@ -349,7 +349,7 @@ QList<int> Dlg_QT_MergeSheets::checkedRows() const
 {
     QList<int> rows;
     for (int row = 0; row < m_ui->lstSheets->rowCount(); ++row) {
-        if (m_ui->lstSheets->item(row, SheetColumn)->checkState() == Qt::Checked)
+        if (m_ui->lstSheets->item(row, MergeSheetColumn)->checkState() == Qt::Checked)
             rows.append(row);
     }
     return rows;
@@ -362,5 +362,5 @@ QString Dlg_QT_MergeSheets::sheetAt(int row) const
 
 int Dlg_QT_MergeSheets::numberAt(int row) const
 {
-    return m_ui->lstSheets->item(row, SheetColumn)->data(sheetRole).toInt() + 1;
+    return m_ui->lstSheets->item(row, MergeSheetColumn)->data(sheetRole).toInt() + 1;
 }

@@ -19,10 +19,10 @@
 
 namespace {
 
-enum Column
+enum PathColumn
 {
-    TypeColumn,
-    NameColumn,
+    PathTypeColumn,
+    PathNameColumn,
     PathColumn
 };
 
@@ -50,8 +50,8 @@ void Dlg_QT_RedefinePaths::setUpTable()
     QTableWidget &table = *m_ui->lstFiles;
     ortakit::setTableHeaders(table, tr("Type;Name;Path"));
     ortakit::setHeaderForSorting(table);
-    table.setColumnWidth(TypeColumn, typeWidth);
-    table.setColumnWidth(NameColumn, nameWidth);
+    table.setColumnWidth(PathTypeColumn, typeWidth);
+    table.setColumnWidth(PathNameColumn, nameWidth);
     table.setColumnWidth(PathColumn, pathWidth);
     table.horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     table.horizontalHeader()->setHighlightSections(false);
@@ -156,7 +156,7 @@ void Dlg_QT_RedefinePaths::fillTable()
         const ortakit::ReferenceEntry &entry = *shown[row];
         if (column == PathColumn)
             return new ortakit::WholeTextItem(ortakit::withBackslashes(entry.path));
-        return new QTableWidgetItem(column == TypeColumn ? entry.type : entry.name);
+        return new QTableWidgetItem(column == PathTypeColumn ? entry.type : entry.name);
     });
     m_ui->lstFiles->horizontalHeader()->setSortIndicatorShown(false);
     // The rows are new, and none is selected.
@@ -218,7 +218,7 @@ void Dlg_QT_RedefinePaths::ReadSelected()
     entries.reserve(table.rowCount());
     for (int row = 0; row < table.rowCount(); ++row) {
         entries.append(
-            ortakit::writtenReference({table.item(row, TypeColumn)->text(), table.item(row, NameColumn)->text(),
+            ortakit::writtenReference({table.item(row, PathTypeColumn)->text(), table.item(row, PathNameColumn)->text(),
                                        table.item(row, PathColumn)->text()}));
     }
     setEntries(entries);

@@ -15,10 +15,10 @@
 
 namespace {
 
-enum Column
+enum BlockColumn
 {
-    NameColumn,
-    TypeColumn
+    BlockNameColumn,
+    BlockTypeColumn
 };
 
 const QString activeSource = QStringLiteral("active");
@@ -33,8 +33,8 @@ DLG_QT_SelectBlock::DLG_QT_SelectBlock(QWidget *parent)
     m_drawing = std::make_unique<ElidedPathField>(m_ui->tx_drawing);
     QTableWidget &table = *m_ui->lstBlocks;
     ortakit::setTableHeaders(table, tr("Name;Type"));
-    table.horizontalHeader()->setSectionResizeMode(NameColumn, QHeaderView::Stretch);
-    table.setColumnWidth(TypeColumn, table.fontMetrics().horizontalAdvance(tr("External reference")) + 24);
+    table.horizontalHeader()->setSectionResizeMode(BlockNameColumn, QHeaderView::Stretch);
+    table.setColumnWidth(BlockTypeColumn, table.fontMetrics().horizontalAdvance(tr("External reference")) + 24);
     table.verticalHeader()->setDefaultSectionSize(table.fontMetrics().height() + 8);
 
     connect(m_ui->activeDrawing, &QRadioButton::toggled, this, &DLG_QT_SelectBlock::changeSource);
@@ -149,7 +149,7 @@ void DLG_QT_SelectBlock::fillBlocks()
     const QString types[] = {tr("Block"), tr("Anonymous block"), tr("External reference")};
     ortakit::setTableRows(*m_ui->lstBlocks, int(shown.size()), [&](int row, int column) -> QTableWidgetItem * {
         const BlockEntry &entry = *shown[row];
-        if (column == NameColumn)
+        if (column == BlockNameColumn)
             return new ortakit::WholeTextItem(entry.name);
         return new QTableWidgetItem(types[int(entry.kind)]);
     });
@@ -174,7 +174,7 @@ void DLG_QT_SelectBlock::showCount(qsizetype shown, qsizetype all)
 
 QString DLG_QT_SelectBlock::chosenName() const
 {
-    const QModelIndexList rows = m_ui->lstBlocks->selectionModel()->selectedRows(NameColumn);
+    const QModelIndexList rows = m_ui->lstBlocks->selectionModel()->selectedRows(BlockNameColumn);
     return rows.isEmpty() ? QString() : rows.first().data().toString();
 }
 
@@ -182,10 +182,10 @@ void DLG_QT_SelectBlock::choose(const QString &name)
 {
     QTableWidget &table = *m_ui->lstBlocks;
     for (int row = 0; !name.isEmpty() && row < table.rowCount(); ++row) {
-        if (table.item(row, NameColumn)->text().compare(name, Qt::CaseInsensitive) != 0)
+        if (table.item(row, BlockNameColumn)->text().compare(name, Qt::CaseInsensitive) != 0)
             continue;
         table.selectRow(row);
-        table.scrollToItem(table.item(row, NameColumn));
+        table.scrollToItem(table.item(row, BlockNameColumn));
         return;
     }
 }

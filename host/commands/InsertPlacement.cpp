@@ -36,7 +36,7 @@ Dialogue<double> askRotation(CommandContext &context, const std::optional<Vec3> 
 }
 
 /// An option in front of the insertion point.
-Dialogue<Draft> takeOption(CommandContext &context, Draft draft, const QString option)
+Dialogue<Draft> takePlacementOption(CommandContext &context, Draft draft, const QString option)
 {
     Vec3 &scale = draft.placement.scale;
     if (option == u"Rotate"_s) {
@@ -97,7 +97,7 @@ Dialogue<InsertPlacement> askPlacement(CommandContext &context, InsertScales sca
         point = co_await context.neededPoint(u"Specify insertion point or [Scale/X/Y/Z/Rotate]: "_s);
         if (point.hasValue())
             break;
-        draft = co_await takeOption(context, draft, point.text);
+        draft = co_await takePlacementOption(context, draft, point.text);
     }
     InsertPlacement &placement = draft.placement;
     placement.point = point.point;

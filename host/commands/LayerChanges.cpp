@@ -39,13 +39,13 @@ LayerChange tooOld(CommandContext &context)
     return refused(context, u"A drawing of this version has no such property of layers."_s);
 }
 
-void erase(FieldList &fields, int code)
+void removeField(FieldList &fields, int code)
 {
     std::erase_if(fields, [code](const drawing::Field &field) { return field.code == code; });
 }
 
 /// Sets a group in front of the extended data.
-void set(FieldList &fields, int code, const drawing::FieldValue &value)
+void setBeforeXdata(FieldList &fields, int code, const drawing::FieldValue &value)
 {
     if (drawing::findField(fields, code))
         return drawing::setField(fields, code, value);
@@ -66,9 +66,9 @@ void setColour(FieldList &fields, int number)
 {
     const drawing::Field *present = drawing::findField(fields, colourCode);
     const bool isOff = present && present->integer() < 0;
-    set(fields, colourCode, qint64(isOff ? -number : number));
-    erase(fields, exactColourCode);
-    erase(fields, colourBookCode);
+    setBeforeXdata(fields, colourCode, qint64(isOff ? -number : number));
+    removeField(fields, exactColourCode);
+    removeField(fields, colourBookCode);
 }
 
 Dialogue<LayerChange> askExactColour(CommandContext &context)
@@ -86,8 +86,8 @@ Dialogue<LayerChange> askExactColour(CommandContext &context)
     if (isOlderThan(context, Version::R2004))
         co_return tooOld(context);
     co_return LayerChange{u"color "_s + reply.text, [value](FieldList &fields) {
-                              erase(fields, colourBookCode);
-                              set(fields, exactColourCode, value);
+                              removeField(fields, colourBookCode);
+                              setBeforeXdata(fields, exactColourCode, value);
                           }};
 }
 
@@ -119,7 +119,8 @@ Dialogue<LayerChange> askLinetype(CommandContext &context)
     if (!isValid(entry))
         co_return refused(context, u"Linetype \"%1\" not found."_s.arg(name));
     const QString known = tables.name(entry);
-    co_return LayerChange{u"linetype \"%1\""_s.arg(known), [known](FieldList &fields) { set(fields, 6, known); }};
+    co_return LayerChange{u"linetype \"%1\""_s.arg(known),
+                          [known](FieldList &fields) { setBeforeXdata(fields, 6, known); }};
 }
 
 /// The nearest of the weights that drawings have, in hundredths of a millimetre.
@@ -142,7 +143,8 @@ Dialogue<LayerChange> askWeight(CommandContext &context)
         co_return refused(context, u"Requires a lineweight from 0 to 2.11."_s);
     const qint64 weight = reply.hasValue() ? nearestWeight(reply.real) : usual;
     const QString shown = weight < 0 ? u"Default"_s : u"%1mm"_s.arg(double(weight) / 100.0, 0, 'f', 2);
-    co_return LayerChange{u"lineweight "_s + shown, [weight](FieldList &fields) { set(fields, 370, weight); }};
+    co_return LayerChange{u"lineweight "_s + shown,
+                          [weight](FieldList &fields) { setBeforeXdata(fields, 370, weight); }};
 }
 
 Dialogue<LayerChange> askTransparency(CommandContext &context)
@@ -175,7 +177,8 @@ Dialogue<LayerChange> askMaterial(CommandContext &context)
     if (!isValid(material))
         co_return refused(context, u"Cannot find material \"%1\"."_s.arg(name));
     const drawing::Handle handle = context.drawing().handle(material);
-    co_return LayerChange{u"material \"%1\""_s.arg(name), [handle](FieldList &fields) { set(fields, 347, handle); }};
+    co_return LayerChange{u"material \"%1\""_s.arg(name),
+                          [handle](FieldList &fields) { setBeforeXdata(fields, 347, handle); }};
 }
 
 Dialogue<LayerChange> askPlot(CommandContext &context)
@@ -187,9 +190,9 @@ Dialogue<LayerChange> askPlot(CommandContext &context)
     const bool isPlotted = reply.text != u"No"_s;
     co_return LayerChange{u"this plot preference"_s, [isPlotted](FieldList &fields) {
                               if (isPlotted)
-                                  erase(fields, 290);
+                                  removeField(fields, 290);
                               else
-                                  set(fields, 290, qint64(0));
+                                  setBeforeXdata(fields, 290, qint64(0));
                           }};
 }
 

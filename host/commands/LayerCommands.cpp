@@ -125,7 +125,7 @@ bool makeLayers(CommandContext &context, const QString &names)
     return true;
 }
 
-void setCurrent(CommandContext &context, const QString &typed)
+void setCurrentLayer(CommandContext &context, const QString &typed)
 {
     const QString name = typed.trimmed();
     const std::optional<Layer> layer = drawing::findLayer(context.drawing(), name);
@@ -143,21 +143,21 @@ Dialogue<bool> make(CommandContext &context)
     const PromptReply name =
         co_await context.text(u"Enter name for new layer (becomes the current layer) <%1>: "_s.arg(current), current);
     if (name.hasValue() && makeLayers(context, name.text))
-        setCurrent(context, name.text);
+        setCurrentLayer(context, name.text);
     co_return true;
 }
 
-Dialogue<bool> set(CommandContext &context)
+Dialogue<bool> chooseCurrent(CommandContext &context)
 {
     const PromptReply name =
         co_await context.text(u"Enter layer name to make current or <select object>: "_s, u"select object"_s);
     if (name.hasValue()) {
-        setCurrent(context, name.text);
+        setCurrentLayer(context, name.text);
         co_return true;
     }
     const PromptReply picked = co_await context.entity(u"Select object: "_s);
     if (!picked.entities.empty())
-        setCurrent(context, context.drawing().tags(picked.entities.front()).text(8, u"0"_s));
+        setCurrentLayer(context, context.drawing().tags(picked.entities.front()).text(8, u"0"_s));
     co_return true;
 }
 
@@ -216,7 +216,7 @@ Dialogue<bool> changeProperty(CommandContext &context, const QString &option)
     co_return true;
 }
 
-Dialogue<bool> takeOption(CommandContext &context, const QString &option)
+Dialogue<bool> takeLayerOption(CommandContext &context, const QString &option)
 {
     struct Action
     {
@@ -224,7 +224,7 @@ Dialogue<bool> takeOption(CommandContext &context, const QString &option)
         Dialogue<bool> (*act)(CommandContext &context);
     };
     static constexpr Action actions[] = {
-        {u"?", list}, {u"Make", make}, {u"Set", set}, {u"New", add}, {u"Rename", rename}};
+        {u"?", list}, {u"Make", make}, {u"Set", chooseCurrent}, {u"New", add}, {u"Rename", rename}};
     for (const Action &action : actions)
         if (action.option == option)
             co_return co_await action.act(context);
@@ -245,7 +245,7 @@ CommandTask layer(CommandContext &context)
             "Thaw/LOck/Unlock/stAte/Description]: "_s);
         if (!option.hasValue())
             co_return;
-        co_await takeOption(context, option.text);
+        co_await takeLayerOption(context, option.text);
     }
 }
 

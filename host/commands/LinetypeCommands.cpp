@@ -60,7 +60,7 @@ void tellLoaded(CommandContext &context, const LinetypeDefinition &definition)
                                   : u"\nLinetype \"%1\" not loaded: %2."_s.arg(definition.name, error));
 }
 
-void setCurrent(CommandContext &context, const QString &name)
+void setCurrentLinetype(CommandContext &context, const QString &name)
 {
     if (context.document().variables().set(u"CELTYPE", name.trimmed()) != SetOutcome::Done)
         context.print(u"\nLinetype \"%1\" not found."_s.arg(name));
@@ -85,7 +85,7 @@ CommandTask linetype(CommandContext &context)
         } else if (option.text == u"Set"_s) {
             const PromptReply name = co_await context.text(u"Specify linetype name: "_s);
             if (name.hasValue())
-                setCurrent(context, name.text);
+                setCurrentLinetype(context, name.text);
         } else {
             const PromptReply names = co_await context.text(u"Enter linetype(s) to load: "_s);
             const PromptReply source = co_await context.text(u"Enter name of linetype file: "_s);

@@ -52,7 +52,7 @@ Dialogue<Next> askLength(CommandContext &context, PolylineDraft &draft)
 }
 
 /// The options that straight segments and arcs share.
-Dialogue<Next> takeOption(CommandContext &context, PolylineDraft &draft, const QString &option)
+Dialogue<Next> takePolylineOption(CommandContext &context, PolylineDraft &draft, const QString &option)
 {
     if (option == u"Undo") {
         if (!draft.undo())
@@ -96,7 +96,7 @@ Dialogue<Next> askSegment(CommandContext &context, PolylineDraft &draft, bool &d
         co_return Next::Finish;
     }
     if (reply.kind == ReplyKind::Keyword)
-        co_return co_await takeOption(context, draft, reply.text);
+        co_return co_await takePolylineOption(context, draft, reply.text);
     const Vec2 to = plane.userFromWorld(reply.point).xy();
     const bool isArc = drawsArcs && (to - draft.last()).length() > 0.0;
     const double bulge = isArc ? bulgeTo(to) : 0.0;

@@ -12,12 +12,7 @@ using drawing::Vec3;
 
 namespace {
 
-constexpr double tolerance = 1e-9;
-
-Vec2 turnedLeft(Vec2 v)
-{
-    return {-v.y, v.x};
-}
+constexpr double tangentTolerance = 1e-9;
 
 /// Where the centres of circles with a radius that touch the line can be.
 std::vector<TangentLine> offsets(const TangentLine &line, double radius)
@@ -40,14 +35,14 @@ std::vector<Vec2> straightMeetings(const TangentLine &line, const TangentLine &o
         const double along = dot(other.point - line.point, line.direction);
         const Vec2 foot = line.point + line.direction * along;
         const double square = other.radius * other.radius - dot(foot - other.point, foot - other.point);
-        const double limit = tolerance * std::max(1.0, other.radius * other.radius);
+        const double limit = tangentTolerance * std::max(1.0, other.radius * other.radius);
         if (square < -limit)
             return {};
         const Vec2 aside = line.direction * std::sqrt(std::max(square, 0.0));
         return {foot + aside, foot - aside};
     }
     const double sine = cross(line.direction, other.direction);
-    if (std::abs(sine) < tolerance)
+    if (std::abs(sine) < tangentTolerance)
         return {};
     return {line.point + line.direction * (cross(other.point - line.point, other.direction) / sine)};
 }
@@ -87,7 +82,7 @@ std::optional<TangentLine> tangentLine(const drawing::Drawing &drawing, drawing:
     if (drawing.isType(entity, "LINE")) {
         const Vec3 from = plane.userFromWorld(tags.point(10));
         const Vec3 along = plane.userFromWorld(tags.point(11)) - from;
-        if (!(along.xy().length() > 0.0) || std::abs(along.z) > tolerance * along.length())
+        if (!(along.xy().length() > 0.0) || std::abs(along.z) > tangentTolerance * along.length())
             return {};
         line.point = from.xy();
         line.direction = along.xy() * (1.0 / along.xy().length());
@@ -100,7 +95,7 @@ std::optional<TangentLine> tangentLine(const drawing::Drawing &drawing, drawing:
     const drawing::Matrix object = drawing::Matrix::fromExtrusion(normal);
     const Vec3 centre = plane.userFromWorld(object.point(tags.point(10)));
     const Vec3 tip = plane.userFromWorld(object.point(tags.point(10)) + normal);
-    if ((tip - centre).xy().length() > tolerance)
+    if ((tip - centre).xy().length() > tangentTolerance)
         return {};
     line.isStraight = false;
     line.point = centre.xy();

@@ -120,7 +120,7 @@ Dialogue<bool> zoomToObjects(CommandContext &context)
     co_return true;
 }
 
-Dialogue<bool> takeOption(CommandContext &context, const QString &option)
+Dialogue<bool> takeZoomOption(CommandContext &context, const QString &option)
 {
     if (option == u"Window") {
         const PromptReply first = co_await context.neededPoint(u"Specify first corner: "_s);
@@ -160,7 +160,7 @@ CommandTask zoom(CommandContext &context)
     if (reply.hasValue())
         co_await zoomToWindow(context, reply.point);
     else if (reply.kind == ReplyKind::Keyword)
-        co_await takeOption(context, reply.text);
+        co_await takeZoomOption(context, reply.text);
     if (!context.hasFailed())
         context.document().rememberView(before);
 }

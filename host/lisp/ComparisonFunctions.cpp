@@ -76,7 +76,7 @@ static Value isNull(Arguments &args)
     return args.boolean(args[0].isNil());
 }
 
-static constexpr NativeRow rows[] = {
+static constexpr NativeRow comparisonRows[] = {
     {"=", equalSign, Arity::atLeast(1)},
     {"/=", differs, Arity::atLeast(1)},
     {"<", ordered<std::less<>>, Arity::atLeast(1)},
@@ -91,7 +91,7 @@ static constexpr NativeRow rows[] = {
 
 void addComparisonFunctions(Interpreter &interpreter)
 {
-    interpreter.define(rows);
+    interpreter.define(comparisonRows);
 }
 
 } // namespace host::lisp

@@ -121,7 +121,7 @@ static Value cvunit(Arguments &args)
     return point.toValue();
 }
 
-static constexpr NativeRow rows[] = {
+static constexpr NativeRow conversionRows[] = {
     {"rtos", rtos, Arity::between(1, 3)},     {"angtos", angtos, Arity::between(1, 3)},
     {"distof", distof, Arity::between(1, 2)}, {"angtof", angtof, Arity::between(1, 2)},
     {"itoa", itoa, Arity::exactly(1)},        {"atof", atof, Arity::exactly(1)},
@@ -130,7 +130,7 @@ static constexpr NativeRow rows[] = {
 
 void addConversionFunctions(Interpreter &interpreter)
 {
-    interpreter.define(rows);
+    interpreter.define(conversionRows);
 }
 
 } // namespace host::lisp

@@ -9,7 +9,7 @@
 
 namespace host::lisp {
 
-static std::string printed(const char *format, int precision, double number)
+static std::string formatted(const char *format, int precision, double number)
 {
     const int length = std::snprintf(nullptr, 0, format, precision, number);
     std::string text(static_cast<std::size_t>(length), '\0');
@@ -32,7 +32,7 @@ static std::string withZeros(std::string text, int zeros)
 
 static std::string wholeText(double number)
 {
-    return printed("%.*f", 0, number);
+    return formatted("%.*f", 0, number);
 }
 
 /// A length as a whole number and a fraction of inches, rounded to the precision wanted.
@@ -90,10 +90,10 @@ static std::string architectural(double length, const DistanceFormat &format)
 static std::string engineering(double length, const DistanceFormat &format)
 {
     double feet = std::floor(length / 12);
-    std::string inches = printed("%.*f", format.precision, length - feet * 12);
+    std::string inches = formatted("%.*f", format.precision, length - feet * 12);
     if (leadingNumber(inches) >= 12) {
         feet += 1;
-        inches = printed("%.*f", format.precision, 0.0);
+        inches = formatted("%.*f", format.precision, 0.0);
     }
     const bool isZero = inches.find_first_not_of("0.") == std::string::npos;
     if (isZero && feet > 0 && (format.zeros & 1) == 0)
@@ -112,7 +112,7 @@ std::string formatDistance(double distance, const DistanceFormat &wanted)
     std::string text;
     switch (format.mode) {
     case DistanceFormat::Scientific:
-        text = printed("%.*E", format.precision, length);
+        text = formatted("%.*E", format.precision, length);
         break;
     case DistanceFormat::Engineering:
         text = engineering(length, format);
@@ -124,7 +124,7 @@ std::string formatDistance(double distance, const DistanceFormat &wanted)
         text = fractional(length, format.precision);
         break;
     default:
-        text = withZeros(printed("%.*f", format.precision, length), format.zeros);
+        text = withZeros(formatted("%.*f", format.precision, length), format.zeros);
     }
     const bool isZero = text.find_first_of("123456789") == std::string::npos;
     return distance < 0 && !isZero ? "-" + text : text;

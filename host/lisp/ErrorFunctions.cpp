@@ -46,7 +46,7 @@ static Value exitWithValue(Arguments &args)
     return quit(args);
 }
 
-static constexpr NativeRow rows[] = {
+static constexpr NativeRow errorRows[] = {
     {"vl-catch-all-apply", catchAllApply, Arity::exactly(2)},
     {"vl-catch-all-error-p", isCaughtError, Arity::exactly(1)},
     {"vl-catch-all-error-message", caughtMessage, Arity::exactly(1)},
@@ -58,7 +58,7 @@ static constexpr NativeRow rows[] = {
 
 void addErrorFunctions(Interpreter &interpreter)
 {
-    interpreter.define(rows);
+    interpreter.define(errorRows);
 }
 
 } // namespace host::lisp

@@ -188,7 +188,7 @@ static Value directoryFiles(Arguments &args)
     return list.take();
 }
 
-static constexpr NativeRow rows[] = {
+static constexpr NativeRow fileRows[] = {
     {"vl-file-delete", deleteFile, Arity::exactly(1)},
     {"vl-file-copy", copyFile, Arity::between(2, 3)},
     {"file-put-lines", putLines, Arity::exactly(2)},
@@ -202,7 +202,7 @@ static constexpr NativeRow rows[] = {
 
 void addFileFunctions(Interpreter &interpreter)
 {
-    interpreter.define(rows);
+    interpreter.define(fileRows);
 }
 
 } // namespace host::lisp

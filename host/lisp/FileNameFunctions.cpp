@@ -74,7 +74,7 @@ static Value temporaryName(Arguments &args)
     return path.empty() ? Value() : Value::string(folder + fromPath(path.filename()));
 }
 
-static constexpr NativeRow rows[] = {
+static constexpr NativeRow fileNameRows[] = {
     {"vl-filename-base", base, Arity::exactly(1)},
     {"vl-filename-directory", directory, Arity::exactly(1)},
     {"vl-filename-extension", extension, Arity::exactly(1)},
@@ -84,7 +84,7 @@ static constexpr NativeRow rows[] = {
 
 void addFileNameFunctions(Interpreter &interpreter)
 {
-    interpreter.define(rows);
+    interpreter.define(fileNameRows);
 }
 
 } // namespace host::lisp

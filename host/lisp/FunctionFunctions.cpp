@@ -158,7 +158,7 @@ static Value defunQListSet(Arguments &args)
     return args[0];
 }
 
-static constexpr NativeRow rows[] = {
+static constexpr NativeRow functionRows[] = {
     {"eval", evalFunction, Arity::exactly(1)},
     {"apply", applyFunction, Arity::exactly(2)},
     {"mapcar", mapcar, Arity::atLeast(2)},
@@ -176,7 +176,7 @@ static constexpr NativeRow rows[] = {
 
 void addFunctionFunctions(Interpreter &interpreter)
 {
-    interpreter.define(rows);
+    interpreter.define(functionRows);
 }
 
 } // namespace host::lisp

@@ -36,7 +36,7 @@ static Value polar(Arguments &args)
     return point.toValue();
 }
 
-static Point minus(const Point &a, const Point &b)
+static Point difference(const Point &a, const Point &b)
 {
     return {a.x - b.x, a.y - b.y, a.z - b.z, a.hasZ};
 }
@@ -62,9 +62,9 @@ static Value inters(Arguments &args)
         for (Point &point : points)
             point.z = 0;
     }
-    const Point along = minus(points[1], points[0]);
-    const Point other = minus(points[3], points[2]);
-    const Point between = minus(points[2], points[0]);
+    const Point along = difference(points[1], points[0]);
+    const Point other = difference(points[3], points[2]);
+    const Point between = difference(points[2], points[0]);
     const Point normal = cross(along, other);
     const double size = dot(normal, normal);
     if (size <= tolerance * tolerance * dot(along, along) * dot(other, other))
@@ -83,7 +83,7 @@ static Value inters(Arguments &args)
     return meeting.toValue();
 }
 
-static constexpr NativeRow rows[] = {
+static constexpr NativeRow geometryRows[] = {
     {"angle", angle, Arity::exactly(2)},
     {"distance", distance, Arity::exactly(2)},
     {"polar", polar, Arity::exactly(3)},
@@ -92,7 +92,7 @@ static constexpr NativeRow rows[] = {
 
 void addGeometryFunctions(Interpreter &interpreter)
 {
-    interpreter.define(rows);
+    interpreter.define(geometryRows);
 }
 
 } // namespace host::lisp

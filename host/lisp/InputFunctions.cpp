@@ -139,7 +139,7 @@ static Value autoload(Arguments &args)
     return {};
 }
 
-static constexpr NativeRow rows[] = {
+static constexpr NativeRow inputRows[] = {
     {"open", open, Arity::between(2, 3)},          {"close", close, Arity::exactly(1)},
     {"read-line", readLine, Arity::between(0, 1)}, {"read-char", readChar, Arity::between(0, 1)},
     {"findfile", findFile, Arity::exactly(1)},     {"findtrustedfile", findTrustedFile, Arity::exactly(1)},
@@ -148,7 +148,7 @@ static constexpr NativeRow rows[] = {
 
 void addInputFunctions(Interpreter &interpreter)
 {
-    interpreter.define(rows);
+    interpreter.define(inputRows);
 }
 
 } // namespace host::lisp

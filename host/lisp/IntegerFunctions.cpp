@@ -94,7 +94,7 @@ static Value leastCommonMultiple(Arguments &args)
     return foldWide(args, [](std::int64_t left, std::int64_t right) { return std::lcm(left, right); });
 }
 
-static constexpr NativeRow rows[] = {
+static constexpr NativeRow integerRows[] = {
     {"logand", logand, Arity::any()},
     {"logior", logior, Arity::any()},
     {"logor", logior, Arity::any()},
@@ -109,7 +109,7 @@ static constexpr NativeRow rows[] = {
 
 void addIntegerFunctions(Interpreter &interpreter)
 {
-    interpreter.define(rows);
+    interpreter.define(integerRows);
 }
 
 } // namespace host::lisp

@@ -120,7 +120,7 @@ static Value atom(Arguments &args)
     return args.boolean(!args[0].isCons());
 }
 
-static constexpr NativeRow rows[] = {
+static constexpr NativeRow listRows[] = {
     {"cons", cons, Arity::exactly(2)},
     {"list", list, Arity::any()},
     {"vl-list*", listWithTail, Arity::atLeast(1)},
@@ -138,7 +138,7 @@ static constexpr NativeRow rows[] = {
 
 void addListFunctions(Interpreter &interpreter)
 {
-    interpreter.define(rows);
+    interpreter.define(listRows);
 }
 
 } // namespace host::lisp

@@ -43,8 +43,8 @@ static Value assoc(Arguments &args)
     return {};
 }
 
-// (vl-position item list) -> where the first equal item is, from 0; nil when there is none.
-static Value position(Arguments &args)
+// (vl-listPosition item list) -> where the first equal item is, from 0; nil when there is none.
+static Value listPosition(Arguments &args)
 {
     std::int32_t index = 0;
     for (const Value &item : ListItems(args.list(1))) {
@@ -130,10 +130,10 @@ static Value every(Arguments &args)
     return args.boolean(!findResult<Wanted::False>(args));
 }
 
-static constexpr NativeRow rows[] = {
+static constexpr NativeRow listSearchRows[] = {
     {"member", member, Arity::exactly(2)},
     {"assoc", assoc, Arity::exactly(2)},
-    {"vl-position", position, Arity::exactly(2)},
+    {"vl-listPosition", listPosition, Arity::exactly(2)},
     {"vl-member-if", memberIf<Wanted::True>, Arity::exactly(2)},
     {"vl-member-if-not", memberIf<Wanted::False>, Arity::exactly(2)},
     {"vl-remove", remove, Arity::exactly(2)},
@@ -145,7 +145,7 @@ static constexpr NativeRow rows[] = {
 
 void addListSearchFunctions(Interpreter &interpreter)
 {
-    interpreter.define(rows);
+    interpreter.define(listSearchRows);
 }
 
 } // namespace host::lisp

@@ -179,7 +179,7 @@ static Value minusp(Arguments &args)
     return args.boolean(args.real(0) < 0);
 }
 
-static constexpr NativeRow rows[] = {
+static constexpr NativeRow numberRows[] = {
     {"+", fold<add>, Arity::any()},
     {"-", minus, Arity::any()},
     {"*", fold<multiply>, Arity::any()},
@@ -206,7 +206,7 @@ static constexpr NativeRow rows[] = {
 
 void addNumberFunctions(Interpreter &interpreter)
 {
-    interpreter.define(rows);
+    interpreter.define(numberRows);
 }
 
 } // namespace host::lisp

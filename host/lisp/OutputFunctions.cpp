@@ -97,7 +97,7 @@ static Value toString(Arguments &args)
     return Value::string(printed(args, args[0], Style));
 }
 
-static constexpr NativeRow rows[] = {
+static constexpr NativeRow outputRows[] = {
     {"prin1", write<PrintStyle::Readable>, Arity::between(0, 2)},
     {"princ", write<PrintStyle::Plain>, Arity::between(0, 2)},
     {"print", print, Arity::between(0, 2)},
@@ -111,7 +111,7 @@ static constexpr NativeRow rows[] = {
 
 void addOutputFunctions(Interpreter &interpreter)
 {
-    interpreter.define(rows);
+    interpreter.define(outputRows);
 }
 
 } // namespace host::lisp

@@ -20,7 +20,7 @@ static Value part(Arguments &args)
     return *value;
 }
 
-static constexpr NativeRow rows[] = {
+static constexpr NativeRow pairRows[] = {
     {"car", part<1, 0b0>, Arity::exactly(1)},       {"cdr", part<1, 0b1>, Arity::exactly(1)},
     {"caar", part<2, 0b00>, Arity::exactly(1)},     {"cadr", part<2, 0b01>, Arity::exactly(1)},
     {"cdar", part<2, 0b10>, Arity::exactly(1)},     {"cddr", part<2, 0b11>, Arity::exactly(1)},
@@ -40,7 +40,7 @@ static constexpr NativeRow rows[] = {
 
 void addPairFunctions(Interpreter &interpreter)
 {
-    interpreter.define(rows);
+    interpreter.define(pairRows);
 }
 
 } // namespace host::lisp

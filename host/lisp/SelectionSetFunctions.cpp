@@ -50,7 +50,7 @@ static Value ssdel(Arguments &args)
     return args.selectionSet(1).remove(entity) ? args[1] : Value();
 }
 
-static constexpr NativeRow rows[] = {
+static constexpr NativeRow selectionSetRows[] = {
     {"sslength", sslength, Arity::exactly(1)}, {"ssname", ssname, Arity::exactly(2)},
     {"ssmemb", ssmemb, Arity::exactly(2)},     {"ssadd", ssadd, Arity::between(0, 2)},
     {"ssdel", ssdel, Arity::exactly(2)},
@@ -58,7 +58,7 @@ static constexpr NativeRow rows[] = {
 
 void addSelectionSetFunctions(Interpreter &interpreter)
 {
-    interpreter.define(rows);
+    interpreter.define(selectionSetRows);
 }
 
 } // namespace host::lisp

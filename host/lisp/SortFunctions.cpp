@@ -72,7 +72,7 @@ static Value sortStrings(Arguments &args)
     return Value::list(strings);
 }
 
-static constexpr NativeRow rows[] = {
+static constexpr NativeRow sortRows[] = {
     {"vl-sort", sort, Arity::exactly(2)},
     {"vl-sort-i", sortIndices, Arity::exactly(2)},
     {"acad_strlsort", sortStrings, Arity::exactly(1)},
@@ -80,7 +80,7 @@ static constexpr NativeRow rows[] = {
 
 void addSortFunctions(Interpreter &interpreter)
 {
-    interpreter.define(rows);
+    interpreter.define(sortRows);
 }
 
 } // namespace host::lisp

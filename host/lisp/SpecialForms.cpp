@@ -239,7 +239,7 @@ struct SpecialFormRow
     SpecialFormPointer function;
 };
 
-static constexpr SpecialFormRow rows[] = {
+static constexpr SpecialFormRow specialFormRows[] = {
     {"quote", quote}, {"function", functionForm}, {"setq", setq},     {"if", ifForm},
     {"cond", cond},   {"while", whileForm},       {"repeat", repeat}, {"foreach", foreachForm},
     {"progn", progn}, {"and", andForm},           {"or", orForm},     {"lambda", lambda},
@@ -248,7 +248,7 @@ static constexpr SpecialFormRow rows[] = {
 
 void addSpecialForms(Interpreter &interpreter)
 {
-    for (const SpecialFormRow &row : rows)
+    for (const SpecialFormRow &row : specialFormRows)
         interpreter.defineSpecialForm(row.name, row.function);
 }
 

@@ -166,7 +166,7 @@ static Value translate(Arguments &args)
     return Value::string(fromCharacters(text));
 }
 
-static constexpr NativeRow rows[] = {
+static constexpr NativeRow stringRows[] = {
     {"strcat", strcat, Arity::any()},
     {"strlen", strlen, Arity::any()},
     {"substr", substr, Arity::between(2, 3)},
@@ -186,7 +186,7 @@ static constexpr NativeRow rows[] = {
 
 void addStringFunctions(Interpreter &interpreter)
 {
-    interpreter.define(rows);
+    interpreter.define(stringRows);
 }
 
 } // namespace host::lisp

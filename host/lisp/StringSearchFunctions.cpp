@@ -41,9 +41,9 @@ static Value substitute(Arguments &args)
     return Value::string(std::move(result));
 }
 
-// (vl-string-position code string [start [from-end]]) -> where the character is first, or last with from-end; nil when
-// nowhere.
-static Value position(Arguments &args)
+// (vl-string-characterPosition code string [start [from-end]]) -> where the character is first, or last with from-end;
+// nil when nowhere.
+static Value characterPosition(Arguments &args)
 {
     std::string character;
     appendCharacter(character, static_cast<char32_t>(args.integer(0)));
@@ -76,16 +76,16 @@ static Value mismatch(Arguments &args)
     return Value::integer(static_cast<std::int32_t>(count));
 }
 
-static constexpr NativeRow rows[] = {
+static constexpr NativeRow stringSearchRows[] = {
     {"vl-string-search", search, Arity::between(2, 3)},
     {"vl-string-subst", substitute, Arity::between(3, 4)},
-    {"vl-string-position", position, Arity::between(2, 4)},
+    {"vl-string-characterPosition", characterPosition, Arity::between(2, 4)},
     {"vl-string-mismatch", mismatch, Arity::between(2, 5)},
 };
 
 void addStringSearchFunctions(Interpreter &interpreter)
 {
-    interpreter.define(rows);
+    interpreter.define(stringSearchRows);
 }
 
 } // namespace host::lisp

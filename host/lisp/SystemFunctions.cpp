@@ -70,7 +70,7 @@ static Value sameNumber(Arguments &args)
     return Value::integer(args.integer(0));
 }
 
-static constexpr NativeRow rows[] = {
+static constexpr NativeRow systemRows[] = {
     {"getenv", getEnvironment, Arity::exactly(1)},
     {"setenv", setEnvironment, Arity::exactly(2)},
     {"ver", version, Arity::exactly(0)},
@@ -92,7 +92,7 @@ static constexpr NativeRow rows[] = {
 
 void addSystemFunctions(Interpreter &interpreter)
 {
-    interpreter.define(rows);
+    interpreter.define(systemRows);
 }
 
 } // namespace host::lisp

@@ -1,5 +1,6 @@
 #include "state/favourites/FavouritesBox.h"
 
+#include "formats/Translated.h"
 #include "platform/kernel/CKvMessageBox.h"
 #include "state/exchange/FavouriteStore.h"
 #include "state/favourites/Dlg_QT_RemoveFavorits.h"
@@ -11,6 +12,7 @@
 #include <QSignalBlocker>
 
 using ortakit::FavouriteStore;
+using ortakit::translated;
 
 namespace {
 
@@ -21,11 +23,6 @@ bool isPassedOver(const QString &key)
                                      QStringLiteral("acceptbutton"), QStringLiteral("btn_preview"),
                                      QStringLiteral("qtentities")};
     return key.isEmpty() || keys.contains(key.toLower());
-}
-
-QString translated(const char *text)
-{
-    return QCoreApplication::translate("LispExtension", text);
 }
 
 } // namespace

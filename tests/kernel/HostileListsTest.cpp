@@ -16,7 +16,7 @@ struct HostileCase
 };
 
 const char *const makeRecord = "(setq r (dictadd (namedobjdict) \"R\" (entmakex '((0 . \"XRECORD\") (1 . \"a\")))))";
-const char *const makeText = "(setq e (entmakex '((0 . \"TEXT\") (10 0 0 0) (40 . 1) (1 . \"x\"))))";
+const char *const makeHostileText = "(setq e (entmakex '((0 . \"TEXT\") (10 0 0 0) (40 . 1) (1 . \"x\"))))";
 
 const HostileCase cases[] = {
     {"structure as a type",
@@ -111,7 +111,7 @@ TEST_P(HostileLists, leaveAFileThatOpensAgainWithTheSameRecords)
                                                     "0\nENDSEC\n0\nEOF\n");
         ASSERT_TRUE(session.documents().open(path));
     }
-    lisp(makeText);
+    lisp(makeHostileText);
     lisp(makeRecord);
     for (const HostileCase &row : cases) {
         SCOPED_TRACE(row.name);

@@ -24,7 +24,7 @@ PromptRequest requestFor(char kind)
     return request;
 }
 
-const std::vector<QueueCase> cases = {
+const std::vector<QueueCase> queueCases = {
     {"a line of words", "line 0,0 1,1 \n", "cwww", {"line", "0,0", "1,1", ""}},
     {"lines of words", "line\n0,0\n\n", "cww", {"line", "0,0", ""}},
     {"line ends of other systems", "line\r\n0,0\r\n\r\n", "cww", {"line", "0,0", ""}},
@@ -42,7 +42,7 @@ const std::vector<QueueCase> cases = {
 
 TEST(InputQueue, promptsTakeAsMuchAsTheyWant)
 {
-    for (const QueueCase &row : cases) {
+    for (const QueueCase &row : queueCases) {
         SCOPED_TRACE(row.name);
         InputQueue queue;
         queue.pushTyped(QString::fromUtf8(row.typed));

@@ -13,7 +13,7 @@ struct KeywordCase
     const char *expected; ///< null: no match
 };
 
-const std::vector<KeywordCase> cases = {
+const std::vector<KeywordCase> keywordCases = {
     {"Yes No", "y", "Yes"},       {"Yes No", "YES", "Yes"},        {"Yes No", "yess", nullptr},
     {"Yes No", "_No", "No"},      {"Yes No", "", nullptr},         {"Yes No", "_", nullptr},
     {"LType", "l", nullptr},      {"LType", "LT", "LType"},        {"LType", "lty", "LType"},
@@ -26,7 +26,7 @@ const std::vector<KeywordCase> cases = {
 
 TEST(Keywords, abbreviations)
 {
-    for (const KeywordCase &row : cases) {
+    for (const KeywordCase &row : keywordCases) {
         SCOPED_TRACE(std::string(row.keywords) + " / " + row.typed);
         const QStringList keywords = QString::fromUtf8(row.keywords).split(u' ');
         const std::optional<QString> found = matchKeyword(QString::fromUtf8(row.typed), keywords);

@@ -35,7 +35,7 @@ TEST_P(Selecting, gives)
     check();
 }
 
-const LispCase cases[] = {
+const LispCase selectionCases[] = {
     {"the whole drawing, newest first", "", "(types (ssget \"X\"))",
      "(\"TEXT\" \"CIRCLE\" \"LINE\" \"LINE\" \"LINE\")"},
     {"by type", "", "(count (ssget \"X\" '((0 . \"LINE\"))))", "3"},
@@ -83,7 +83,7 @@ const LispCase cases[] = {
     {"an entity by expression", "", "(types (ssget))", "(\"TEXT\")", "(entlast)\n\n"},
 };
 
-INSTANTIATE_TEST_SUITE_P(All, Selecting, testing::ValuesIn(cases));
+INSTANTIATE_TEST_SUITE_P(All, Selecting, testing::ValuesIn(selectionCases));
 
 using Picking = Selecting;
 

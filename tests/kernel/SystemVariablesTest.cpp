@@ -19,7 +19,7 @@ TEST_P(Variables, gives)
     check();
 }
 
-const LispCase cases[] = {
+const LispCase variableCases[] = {
     {"any letter case", "(setvar \"cmdecho\" 0)", "(getvar \"CmdEcho\")", "0"},
     {"unknown", "", "(getvar \"NOSUCH\")", "nil"},
     {"setting an unknown one", "", "(setvar \"NOSUCH\" 1)",
@@ -66,7 +66,7 @@ const LispCase cases[] = {
     {"a group of undo that is open", "(command \"_.UNDO\" \"_BE\")", "(getvar \"UNDOCTL\")", "13"},
 };
 
-INSTANTIATE_TEST_SUITE_P(All, Variables, testing::ValuesIn(cases));
+INSTANTIATE_TEST_SUITE_P(All, Variables, testing::ValuesIn(variableCases));
 
 TEST_F(Bench, aSettingKeptInAnObjectIsStoredWhenTheRunEnds)
 {

@@ -14,14 +14,14 @@ using ortakit::test::FakeDatabase;
 
 constexpr qint64 minute = 60 * 1000;
 
-qint64 now = 0;
+qint64 editingNow = 0;
 
 class EditingTimes : public testing::Test
 {
 protected:
     EditingTimes()
     {
-        ortakit::setClock([] { return now; });
+        ortakit::setClock([] { return editingNow; });
     }
     ~EditingTimes() override { ortakit::setClock(nullptr); }
 };
@@ -46,10 +46,10 @@ TEST_F(EditingTimes, CountWorkAndNotPauses)
     for (const auto &row : rows) {
         const qint64 start = 1700000000000;
         EditingTime time{.isTracked = true, .idleLimitMinutes = row.limitMinutes, .hours = 2, .lastActivity = start};
-        now = start + row.elapsed;
+        editingNow = start + row.elapsed;
         ortakit::advance(time);
         EXPECT_NEAR(time.hours, 2 + row.hours, 1e-9) << row.name;
-        EXPECT_EQ(time.lastActivity, now) << row.name;
+        EXPECT_EQ(time.lastActivity, editingNow) << row.name;
     }
 }
 
@@ -87,13 +87,13 @@ TEST_F(EditingTimes, AreReadUnlessTheRecordIsDamaged)
 
 TEST_F(EditingTimes, AreWrittenSoThatTheyComeBack)
 {
-    now = 5;
+    editingNow = 5;
     constexpr double infinite = std::numeric_limits<double>::infinity();
     const std::pair<EditingTime, EditingTime> rows[] = {
-        {{true, 5, 1.25, 1700000000123}, {true, 5, 1.25, now}},
-        {{false, 15, 2.5, -7}, {false, 15, 2.5, now}},
-        {{true, 0, -1, 0}, {true, 0, 0, now}}, // the clock was put back
-        {{true, 0, infinite, 0}, {true, 0, 1e6, now}},
+        {{true, 5, 1.25, 1700000000123}, {true, 5, 1.25, editingNow}},
+        {{false, 15, 2.5, -7}, {false, 15, 2.5, editingNow}},
+        {{true, 0, -1, 0}, {true, 0, 0, editingNow}}, // the clock was put back
+        {{true, 0, infinite, 0}, {true, 0, 1e6, editingNow}},
     };
     FakeDatabase database;
     EXPECT_EQ(ortakit::readEditingTime(&database), EditingTime());

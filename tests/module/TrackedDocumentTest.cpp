@@ -23,17 +23,17 @@ using host::kernel::Document;
 using ortakit::EditingTime;
 using ortakit::test::ModalAnswers;
 
-constexpr qint64 minute = 60 * 1000;
+constexpr qint64 trackedMinute = 60 * 1000;
 
-qint64 now = 0;
+qint64 trackedNow = 0;
 
 class TrackedDocument : public testing::Test
 {
 protected:
     TrackedDocument()
     {
-        now = 1700000000000;
-        ortakit::setClock([] { return now; });
+        trackedNow = 1700000000000;
+        ortakit::setClock([] { return trackedNow; });
         const auto drawing = host::drawing::newDrawing();
         EXPECT_TRUE(host::drawing::saveCopy(*drawing, m_path));
         EXPECT_TRUE(host::drawing::saveCopy(*drawing, m_folder.filePath(u"other.dxf"_s)));
@@ -93,7 +93,7 @@ protected:
 
 TEST_F(TrackedDocument, TimeGrowsIsSavedAndComesBack)
 {
-    now += 10 * minute;
+    trackedNow += 10 * trackedMinute;
     lisp(u"(command \"POINT\" '(1 2))"_s);
     EXPECT_FALSE(isTracked());
     EXPECT_EQ(minutes(), 0);
@@ -111,36 +111,36 @@ TEST_F(TrackedDocument, TimeGrowsIsSavedAndComesBack)
         qint64 pause;
         double counted; ///< minutes
     } rows[] = {
-        {"command", [this] { lisp(u"(command \"POINT\" '(1 2))"_s); }, 6 * minute, 6},
-        {"expression", [this] { lisp(u"(+ 1 2)"_s); }, 3 * minute, 3},
-        {"pause of the limit", [this] { lisp(u"(+ 1 2)"_s); }, 15 * minute, 15},
-        {"longer pause", [this] { lisp(u"(+ 1 2)"_s); }, 15 * minute + 1000, 0},
-        {"prompts", [this] { document().printPrompt(u"Specify: "_s); }, 2 * minute, 0},
-        {"after prompts", [this] { lisp(u"(setvar \"CMDECHO\" 0)"_s); }, 2 * minute, 4},
+        {"command", [this] { lisp(u"(command \"POINT\" '(1 2))"_s); }, 6 * trackedMinute, 6},
+        {"expression", [this] { lisp(u"(+ 1 2)"_s); }, 3 * trackedMinute, 3},
+        {"pause of the limit", [this] { lisp(u"(+ 1 2)"_s); }, 15 * trackedMinute, 15},
+        {"longer pause", [this] { lisp(u"(+ 1 2)"_s); }, 15 * trackedMinute + 1000, 0},
+        {"prompts", [this] { document().printPrompt(u"Specify: "_s); }, 2 * trackedMinute, 0},
+        {"after prompts", [this] { lisp(u"(setvar \"CMDECHO\" 0)"_s); }, 2 * trackedMinute, 4},
     };
     double expected = 0;
     for (const auto &row : rows) {
-        now += row.pause;
+        trackedNow += row.pause;
         row.act();
         expected += row.counted;
         EXPECT_NEAR(minutes(), expected, 1e-6) << row.name;
     }
 
-    now += 2 * minute;
+    trackedNow += 2 * trackedMinute;
     EXPECT_TRUE(document().save());
     ASSERT_TRUE(inFile());
     EXPECT_NEAR(inFile()->hours * 60, 30, 1e-6);
     closeDrawing();
-    now += 600 * minute;
+    trackedNow += 600 * trackedMinute;
     openDrawing();
     EXPECT_NEAR(minutes(), 30, 1e-6) << "closed is not worked on";
-    now += 4 * minute;
+    trackedNow += 4 * trackedMinute;
     lisp(u"(+ 1 2)"_s);
     EXPECT_NEAR(minutes(), 34, 1e-6);
     EXPECT_EQ(inTracker({u"ButtonCancel"_s}), u"On, 15 min 0.57"_s);
 
     inTracker({u"btnTrackOff"_s, u"acceptButton"_s});
-    now += 5 * minute;
+    trackedNow += 5 * trackedMinute;
     lisp(u"(+ 1 2)"_s);
     EXPECT_NEAR(minutes(), 34, 1e-6);
     EXPECT_TRUE(document().save());
@@ -164,7 +164,7 @@ TEST_F(TrackedDocument, DamagedRecordsStayUntilTrackingIsSwitchedOn)
     ASSERT_TRUE(kept);
     EXPECT_EQ(kept->getDouble(), -3);
     inTracker({u"btnTrackOn"_s, u"acceptButton"_s});
-    now += 3 * minute;
+    trackedNow += 3 * trackedMinute;
     EXPECT_TRUE(document().save());
     ASSERT_TRUE(inFile());
     EXPECT_TRUE(inFile()->isTracked);

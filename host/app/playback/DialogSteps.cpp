@@ -1,5 +1,6 @@
 #include "host/app/playback/DialogSteps.h"
 
+#include "host/app/playback/PlaybackText.h"
 #include "host/app/playback/WidgetActions.h"
 #include "host/app/playback/WidgetFinder.h"
 #include "host/app/playback/WidgetValues.h"
@@ -21,11 +22,6 @@ using namespace Qt::StringLiterals;
 namespace host::app {
 
 namespace {
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("Playback", text);
-}
 
 QAbstractButton *messageButton(QMessageBox &message, const QString &name)
 {

@@ -1,6 +1,7 @@
 #include "host/app/playback/PlaybackScript.h"
 
 #include "files/qt/Files.h"
+#include "host/app/playback/PlaybackText.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -76,11 +77,6 @@ const VerbRow *findVerb(QStringView name)
     const auto row = std::find_if(std::begin(verbRows), std::end(verbRows),
                                   [&](const VerbRow &candidate) { return name == QLatin1StringView(candidate.name); });
     return row == std::end(verbRows) ? nullptr : row;
-}
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("Playback", text);
 }
 
 std::optional<std::array<double, 3>> parsePoint(const QString &word)

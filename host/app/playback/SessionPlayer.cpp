@@ -1,6 +1,7 @@
 #include "host/app/playback/SessionPlayer.h"
 
 #include "host/app/playback/DialogSteps.h"
+#include "host/app/playback/PlaybackText.h"
 #include "host/app/playback/WidgetFinder.h"
 #include "host/app/workbench/DrawingPicture.h"
 #include "host/drawing/geometry/EntityGeometry.h"
@@ -17,11 +18,6 @@ using namespace Qt::StringLiterals;
 namespace host::app {
 
 namespace {
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("Playback", text);
-}
 
 drawing::Vec3 toVec(const std::array<double, 3> &point)
 {

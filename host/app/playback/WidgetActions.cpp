@@ -1,5 +1,6 @@
 #include "host/app/playback/WidgetActions.h"
 
+#include "host/app/playback/PlaybackText.h"
 #include "host/app/playback/WidgetFinder.h"
 
 #include <QAbstractButton>
@@ -23,11 +24,6 @@ using namespace Qt::StringLiterals;
 namespace host::app {
 
 namespace {
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("Playback", text);
-}
 
 /// Why a person could not use the widget now; empty when one could.
 QString whyUnusable(const QWidget &widget)

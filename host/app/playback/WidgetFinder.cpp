@@ -1,5 +1,7 @@
 #include "host/app/playback/WidgetFinder.h"
 
+#include "host/app/playback/PlaybackText.h"
+
 #include <QAbstractButton>
 #include <QCoreApplication>
 #include <QDialogButtonBox>
@@ -21,11 +23,6 @@ namespace {
 constexpr int mostNamesListed = 40;
 
 using WidgetTest = std::function<bool(const QWidget &)>;
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("Playback", text);
-}
 
 QWidget *firstWidget(QWidget &root, const WidgetTest &test, int skip = 0)
 {

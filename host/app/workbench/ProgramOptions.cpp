@@ -62,7 +62,7 @@ QString setMemoryLimit(ProgramOptions &options, const QString &value)
 }
 
 template <QString ProgramOptions::*member>
-QString setText(ProgramOptions &options, const QString &value)
+QString setTextOption(ProgramOptions &options, const QString &value)
 {
     options.*member = value;
     return {};
@@ -86,15 +86,15 @@ const QList<OptionRow> &optionRows()
 {
     static const QList<OptionRow> rows = {
         {"--style", Value::Needed, {}, setStyle},
-        {"--home", Value::Needed, {}, setText<&ProgramOptions::home>},
-        {"--module", Value::Needed, {}, setText<&ProgramOptions::module>},
-        {"--tools", Value::Needed, {}, setText<&ProgramOptions::tools>},
+        {"--home", Value::Needed, {}, setTextOption<&ProgramOptions::home>},
+        {"--module", Value::Needed, {}, setTextOption<&ProgramOptions::module>},
+        {"--tools", Value::Needed, {}, setTextOption<&ProgramOptions::tools>},
         {"--allow-read", Value::Needed, {}, addText<&ProgramOptions::readableFolders>},
         {"--trust", Value::Needed, {Mode::Window, Mode::Run, Mode::Lisp}, addText<&ProgramOptions::trustedFolders>},
-        {"--screenshot-dir", Value::Needed, {Mode::Window, Mode::Run}, setText<&ProgramOptions::pictureFolder>},
-        {"--session", Value::Needed, {Mode::Window}, setText<&ProgramOptions::session>},
-        {"--out", Value::Needed, {Mode::Run}, setText<&ProgramOptions::outFolder>},
-        {"--drawing", Value::Needed, {Mode::Lisp}, setText<&ProgramOptions::drawing>},
+        {"--screenshot-dir", Value::Needed, {Mode::Window, Mode::Run}, setTextOption<&ProgramOptions::pictureFolder>},
+        {"--session", Value::Needed, {Mode::Window}, setTextOption<&ProgramOptions::session>},
+        {"--out", Value::Needed, {Mode::Run}, setTextOption<&ProgramOptions::outFolder>},
+        {"--drawing", Value::Needed, {Mode::Lisp}, setTextOption<&ProgramOptions::drawing>},
         {"--time-limit", Value::Needed, {}, setTimeLimit},
         {"--memory-limit", Value::Needed, {Mode::Run, Mode::Lisp, Mode::Window}, setMemoryLimit},
         {"--png", Value::None, {Mode::Run}, setFlag<&ProgramOptions::withPictures>},

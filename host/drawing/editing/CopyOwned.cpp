@@ -1,7 +1,9 @@
 #include "host/drawing/editing/DrawingCopier.h"
 #include "host/drawing/records/Dictionaries.h"
+#include "host/drawing/records/SortTable.h"
 #include "host/drawing/records/Structure.h"
 #include "host/drawing/records/Tables.h"
+#include "host/drawing/tags/GroupCodes.h"
 
 // What copies own (extension dictionaries and the objects in them, reactors of images) and their references to each
 // other. A reference to what may be copied later stands as the source's handle with a mark until all are there.
@@ -14,8 +16,6 @@ namespace {
 
 /// No file counts its handles this far.
 constexpr quint64 pendingMark = quint64(1) << 63;
-constexpr int subclassCode = 100;
-constexpr int sortHandleCode = 5;
 
 /// The handles behind a record's head.
 std::vector<Handle> references(const Drawing &drawing, RecordId record)

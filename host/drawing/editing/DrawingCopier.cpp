@@ -7,6 +7,7 @@
 #include "host/drawing/records/Entities.h"
 #include "host/drawing/records/Structure.h"
 #include "host/drawing/records/Tables.h"
+#include "host/drawing/tags/GroupCodes.h"
 
 namespace host::drawing {
 
@@ -14,8 +15,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int subclassCode = 100;
-constexpr int groupCode = 102;
 /// How far references from entry to entry and from object to object are followed; drawings need three or four.
 constexpr int deepestReference = 100;
 

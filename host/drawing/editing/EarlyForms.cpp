@@ -27,12 +27,6 @@ FieldList lookOf(const FieldList &fields, const QString &type)
     return look;
 }
 
-double realOf(const FieldList &fields, int code, double otherwise)
-{
-    const Field *field = findField(fields, code);
-    return field ? field->real() : otherwise;
-}
-
 qint64 integerOf(const FieldList &fields, int code, qint64 otherwise)
 {
     const Field *field = findField(fields, code);

@@ -10,6 +10,7 @@
 #include "host/drawing/records/Journal.h"
 #include "host/drawing/records/LayoutTabs.h"
 #include "host/drawing/records/Tables.h"
+#include "host/drawing/tags/GroupCodes.h"
 
 namespace host::drawing {
 
@@ -17,7 +18,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int subclassCode = 100;
 constexpr int blockCode = 330;
 constexpr int viewTargetCode = 17;
 

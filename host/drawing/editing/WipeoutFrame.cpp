@@ -10,8 +10,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString entryName = u"ACAD_WIPEOUT_VARS"_s;
-const QString objectType = u"WIPEOUTVARIABLES"_s;
+const QString wipeoutEntry = u"ACAD_WIPEOUT_VARS"_s;
+const QString wipeoutType = u"WIPEOUTVARIABLES"_s;
 constexpr int frameCode = 70;
 constexpr int shown = 1;
 
@@ -19,12 +19,12 @@ constexpr int shown = 1;
 RecordId named(const Drawing &drawing)
 {
     const Dictionaries &dictionaries = drawing.dictionaries();
-    return dictionaries.find(dictionaries.root(), entryName);
+    return dictionaries.find(dictionaries.root(), wipeoutEntry);
 }
 
 bool isSettings(const Drawing &drawing, RecordId record)
 {
-    return isValid(record) && drawing.isType(record, objectType.toLatin1());
+    return isValid(record) && drawing.isType(record, wipeoutType.toLatin1());
 }
 
 bool addSettings(Drawing &drawing, int value)
@@ -33,13 +33,13 @@ bool addSettings(Drawing &drawing, int value)
         return false;
     const JournalGroup group(drawing.journal(), {});
     const RecordId root = drawing.dictionaries().ensureRoot();
-    ensureClass(drawing, objectType);
-    FieldList fields = recordHead(drawing, objectType, drawing.handle(root));
+    ensureClass(drawing, wipeoutType);
+    FieldList fields = recordHead(drawing, wipeoutType, drawing.handle(root));
     fields.push_back({100, u"AcDbWipeoutVariables"_s});
     fields.push_back({frameCode, qint64(value)});
     const RecordId record =
         drawing.insert(noRecord, ensureSection(drawing, Section::Objects), RecordKind::Object, fields);
-    return drawing.dictionaries().set(root, entryName, record);
+    return drawing.dictionaries().set(root, wipeoutEntry, record);
 }
 
 } // namespace

@@ -16,11 +16,6 @@ constexpr qint64 largestHead = 1024 * 1024;
 /// Room for the lines of a section's start: what straddles two pieces is found with the second.
 constexpr qsizetype longestSectionStart = 4 * longestMarkerLine;
 
-bool isWord(QByteArrayView text, QByteArrayView word)
-{
-    return text.compare(word, Qt::CaseInsensitive) == 0;
-}
-
 QByteArrayView withoutMark(QByteArrayView bytes)
 {
     return bytes.startsWith("\xEF\xBB\xBF") ? bytes.sliced(3) : bytes;
@@ -152,8 +147,8 @@ bool endsAsDrawing(QByteArrayView text)
     return isRecordStart(text.first(end), "EOF", end);
 }
 
-/// The text of a header variable, empty when it has none; nothing when there is more than one of that name.
-std::optional<QString> variable(QByteArrayView head, QByteArrayView name)
+/// The text of a header headerVariable, empty when it has none; nothing when there is more than one of that name.
+std::optional<QString> headerVariable(QByteArrayView head, QByteArrayView name)
 {
     QString value;
     int count = 0;
@@ -173,8 +168,8 @@ std::optional<QString> variable(QByteArrayView head, QByteArrayView name)
 
 FileHead headOf(QByteArrayView bytes)
 {
-    const std::optional<QString> version = variable(bytes, "$ACADVER");
-    const std::optional<QString> codePage = variable(bytes, "$DWGCODEPAGE");
+    const std::optional<QString> version = headerVariable(bytes, "$ACADVER");
+    const std::optional<QString> codePage = headerVariable(bytes, "$DWGCODEPAGE");
     // A carriage return alone ends lines in some files and is text in others: the whole file tells.
     if (!version || !codePage || hasLoneCarriageReturn(bytes))
         return {};

@@ -6,14 +6,13 @@
 #include "host/drawing/records/LayoutTabs.h"
 #include "host/drawing/records/Structure.h"
 #include "host/drawing/records/Tables.h"
+#include "host/drawing/tags/GroupCodes.h"
 
 namespace host::drawing {
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr int subclassCode = 100;
 
 QByteArray skeleton()
 {

@@ -1,15 +1,13 @@
 #include "host/drawing/file/ObjectsText.h"
 
 #include "host/drawing/records/Dictionaries.h"
+#include "host/drawing/tags/GroupCodes.h"
 #include "host/drawing/tags/MarkerLines.h"
 #include "host/drawing/tags/TagList.h"
 
 namespace host::drawing {
 
 namespace {
-
-constexpr int commentCode = 999;
-constexpr int entryNameCode = 3;
 
 const Finding doubt{};
 const Finding noRecordThere{true};

@@ -23,7 +23,7 @@ QByteArrayView viewOf(std::string_view bytes)
     return {bytes.data(), static_cast<qsizetype>(bytes.size())};
 }
 
-bool isSame(const Drawing &drawing, QByteArrayView bytes)
+bool isSameContent(const Drawing &drawing, QByteArrayView bytes)
 {
     QByteArrayView left = bytes;
     const bool isBegin = drawing.forEachPiece([&left](QByteArrayView piece) {
@@ -52,7 +52,7 @@ RecordId firstOther(const Drawing &drawing, const Drawing &readBack)
 /// Why the bytes would not open as this drawing; empty when they would.
 QString whyNot(const Drawing &drawing, QByteArrayView bytes)
 {
-    if (!isSame(drawing, bytes))
+    if (!isSameContent(drawing, bytes))
         return u"what was written does not read back the same"_s;
     // These bytes were opened once.
     if (drawing.revision() == 0)

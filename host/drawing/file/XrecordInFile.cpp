@@ -15,7 +15,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qint64 largestFile = 0xFFFFFFFFLL;
+constexpr qint64 largestDrawingFile = 0xFFFFFFFFLL;
 
 std::optional<FieldList> xrecordOf(const Drawing &drawing, QStringView name)
 {
@@ -52,7 +52,7 @@ std::optional<FieldList> readXrecord(QIODevice &file, QStringView name, const Pi
         return {};
     };
     const qint64 size = file.size();
-    if (size >= largestFile)
+    if (size >= largestDrawingFile)
         return failed(u"the file is larger than 4 GB"_s);
     if (!file.seek(0))
         return failed(file.errorString());
@@ -72,7 +72,7 @@ std::optional<FieldList> xrecordInFile(const QString &path, QStringView name, QS
 {
     QFile file;
     std::optional<FieldList> found;
-    QString reason = files::openRegular(file, path, largestFile);
+    QString reason = files::openRegular(file, path, largestDrawingFile);
     if (reason.isEmpty())
         found = readXrecord(file, name, {}, &reason);
     if (error)

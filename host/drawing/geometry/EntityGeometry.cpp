@@ -17,18 +17,6 @@ double distanceToSegment(Vec2 point, Vec2 from, Vec2 to)
     return (point - (from + along * t)).length();
 }
 
-bool contains(const Path &path, Vec2 point)
-{
-    bool isInside = false;
-    for (size_t i = 0, previous = path.size() - 1; i < path.size(); previous = i++) {
-        const Vec3 &a = path[i];
-        const Vec3 &b = path[previous];
-        if ((a.y > point.y) != (b.y > point.y) && point.x < (b.x - a.x) * (point.y - a.y) / (b.y - a.y) + a.x)
-            isInside = !isInside;
-    }
-    return isInside;
-}
-
 bool isInFilledArea(const Outline &outline, Vec2 point)
 {
     bool isInside = false;
@@ -75,6 +63,18 @@ bool pathMeets(const Path &path, const Box &window)
 }
 
 } // namespace
+
+bool contains(const Path &polygon, Vec2 point)
+{
+    bool isInside = false;
+    for (size_t i = 0, previous = polygon.size() - 1; i < polygon.size(); previous = i++) {
+        const Vec3 &a = polygon[i];
+        const Vec3 &b = polygon[previous];
+        if ((a.y > point.y) != (b.y > point.y) && point.x < (b.x - a.x) * (point.y - a.y) / (b.y - a.y) + a.x)
+            isInside = !isInside;
+    }
+    return isInside;
+}
 
 Outline entityOutline(const Drawing &drawing, RecordId entity, WorkBudget &work, const Flatness &flatness,
                       const Matrix &transform)

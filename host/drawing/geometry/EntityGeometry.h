@@ -92,4 +92,7 @@ private:
     std::vector<bool> m_known;
 };
 
+/// Whether the point lies inside the polygon by the even-odd rule, seen from above. The last corner joins the first.
+bool contains(const Path &polygon, Vec2 point);
+
 } // namespace host::drawing

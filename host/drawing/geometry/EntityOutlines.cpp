@@ -1,5 +1,6 @@
 #include "host/drawing/geometry/EntityOutlines.h"
 
+#include "host/drawing/math/Angles.h"
 #include "host/drawing/records/Tables.h"
 
 #include <numbers>
@@ -8,7 +9,6 @@ namespace host::drawing {
 
 namespace {
 
-constexpr double radians = std::numbers::pi / 180.0;
 /// Long enough to cross any drawing, short enough for exact arithmetic.
 constexpr double endless = 1e9;
 
@@ -124,7 +124,7 @@ void outlineOfViewport(OutlineSink &sink, const TagList &tags)
               center + Vec3{-x, -y, 0}});
 }
 
-constexpr std::pair<const char *, OutlineFunction> functions[] = {
+constexpr std::pair<const char *, OutlineFunction> outlineFunctions[] = {
     {"LINE", outlineOfLine},       {"POINT", outlineOfPoint},       {"CIRCLE", outlineOfCircle},
     {"ARC", outlineOfArc},         {"ELLIPSE", outlineOfEllipse},   {"SPLINE", outlineOfSpline},
     {"HELIX", outlineOfSpline},    {"SOLID", outlineOfSolid},       {"TRACE", outlineOfSolid},
@@ -167,7 +167,7 @@ void appendOutline(Outline &outline, const Drawing &drawing, RecordId entity, co
     const QByteArrayView type = drawing.typeName(entity);
     const TagList tags = drawing.tags(entity);
     OutlineSink sink(outline, transform, flatness);
-    for (const auto &[name, function] : functions) {
+    for (const auto &[name, function] : outlineFunctions) {
         if (type == name)
             return function(sink, tags);
     }

@@ -1,12 +1,11 @@
 #include "host/drawing/geometry/TransformFields.h"
+#include "host/drawing/math/Angles.h"
 
 #include <numbers>
 
 namespace host::drawing {
 
 namespace {
-
-constexpr double radians = std::numbers::pi / 180.0;
 
 enum EdgeType
 {

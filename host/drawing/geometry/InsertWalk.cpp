@@ -9,8 +9,6 @@ namespace host::drawing {
 
 namespace {
 
-constexpr int maximumDepth = 32;
-
 bool isReference(QByteArrayView type)
 {
     return type == "INSERT" || type == "ACAD_TABLE" || type.endsWith("DIMENSION");
@@ -32,7 +30,7 @@ public:
             m_isStopped = !m_visitor({entity, transform, m_inserts});
             return;
         }
-        if (m_inserts.size() >= maximumDepth)
+        if (m_inserts.size() >= deepestNesting)
             return;
         m_inserts.push_back(entity);
         open(entity, transform);

@@ -1,23 +1,9 @@
 #include "host/drawing/geometry/EntityOutlines.h"
+#include "host/drawing/records/PolylineFlags.h"
 
 namespace host::drawing {
 
 namespace {
-
-enum PolylineFlag
-{
-    FlagClosed = 1,
-    Flag3d = 8,
-    FlagMesh = 16,
-    FlagClosedAcross = 32,
-    FlagFaces = 64
-};
-enum VertexFlag
-{
-    FlagFrameControl = 16,
-    FlagMeshVertex = 64,
-    FlagFaceRecord = 128
-};
 
 struct Vertex
 {

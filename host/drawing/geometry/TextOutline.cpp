@@ -1,4 +1,5 @@
 #include "host/drawing/geometry/EntityOutlines.h"
+#include "host/drawing/math/Angles.h"
 #include "host/drawing/text/DrawingVariables.h"
 #include "host/drawing/text/ParagraphText.h"
 #include "host/drawing/text/RemoteTextContent.h"
@@ -11,7 +12,6 @@ namespace host::drawing {
 
 namespace {
 
-constexpr double radians = std::numbers::pi / 180.0;
 constexpr double letterWidth = 0.75; ///< in text heights
 constexpr double lineDistance = 5.0 / 3.0;
 

@@ -3,6 +3,7 @@
 #include "host/drawing/geometry/TransformFields.h"
 #include "host/drawing/records/Blocks.h"
 #include "host/drawing/records/Journal.h"
+#include "host/drawing/records/PolylineFlags.h"
 #include "host/drawing/records/Structure.h"
 #include "host/drawing/records/Tables.h"
 
@@ -11,13 +12,6 @@ namespace host::drawing {
 using namespace Qt::StringLiterals;
 
 namespace {
-
-enum PolylineFlag
-{
-    Flag3d = 8,
-    FlagMesh = 16,
-    FlagFaces = 64
-};
 
 using Changes = std::vector<std::pair<RecordId, FieldList>>;
 

@@ -1,5 +1,6 @@
 #include "host/drawing/geometry/TransformFields.h"
 
+#include "host/drawing/math/Angles.h"
 #include "host/drawing/text/ParagraphText.h"
 
 #include <numbers>
@@ -8,15 +9,8 @@ namespace host::drawing {
 
 namespace {
 
-constexpr double radians = std::numbers::pi / 180.0;
 constexpr double tolerance = 1e-9;
 const Vec3 upward{0.0, 0.0, 1.0};
-
-double realOf(const FieldList &fields, int code, double otherwise = 0.0)
-{
-    const Field *field = findField(fields, code);
-    return field ? field->real() : otherwise;
-}
 
 Vec3 pointOf(const FieldList &fields, int code, const Vec3 &otherwise = {})
 {
@@ -306,7 +300,7 @@ bool transformHatchOf(FieldList &fields, const Matrix &matrix)
 
 using FieldsFunction = bool (*)(FieldList &, const Matrix &);
 
-constexpr std::pair<QStringView, FieldsFunction> functions[] = {
+constexpr std::pair<QStringView, FieldsFunction> transformFunctions[] = {
     {u"LINE", transformWorldPoints},
     {u"POINT", transformWorldPoints},
     {u"3DFACE", transformWorldPoints},
@@ -392,9 +386,9 @@ void setOwnField(FieldList &fields, int code, const FieldValue &value)
 bool transformFields(FieldList &fields, const Matrix &matrix)
 {
     const QString type = fields.empty() ? QString() : fields.front().text();
-    const auto *row = std::find_if(std::begin(functions), std::end(functions),
+    const auto *row = std::find_if(std::begin(transformFunctions), std::end(transformFunctions),
                                    [&](const auto &known) { return known.first == type; });
-    if (row == std::end(functions))
+    if (row == std::end(transformFunctions))
         return false;
     FieldList behind(ownEnd(fields), fields.end());
     fields.erase(ownEnd(fields), fields.end());

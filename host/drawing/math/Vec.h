@@ -38,6 +38,12 @@ inline double dot(Vec2 a, Vec2 b)
 {
     return a.x * b.x + a.y * b.y;
 }
+/// A quarter turn, counter-clockwise.
+inline Vec2 turnedLeft(Vec2 v)
+{
+    return {-v.y, v.x};
+}
+
 inline double cross(Vec2 a, Vec2 b)
 {
     return a.x * b.y - a.y * b.x;

@@ -8,6 +8,9 @@
 
 namespace host::drawing {
 
+/// How many blocks within blocks are followed where a drawing is drawn or measured; more is taken for damage.
+inline constexpr int deepestNesting = 32;
+
 /// A block definition.
 struct Block
 {

@@ -2,6 +2,7 @@
 
 #include "host/drawing/records/Journal.h"
 #include "host/drawing/records/Structure.h"
+#include "host/drawing/tags/GroupCodes.h"
 
 #include <QMultiHash>
 
@@ -11,13 +12,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int subclassCode = 100;
-constexpr int entryNameCode = 3;
 constexpr int softOwnerCode = 350;
 constexpr int hardOwnerCode = 360;
 constexpr int cloningCode = 280;
 
-bool isSame(const QString &name, QStringView wanted)
+bool isSameName(const QString &name, QStringView wanted)
 {
     return name.compare(wanted, Qt::CaseInsensitive) == 0;
 }
@@ -26,7 +25,7 @@ bool isSame(const QString &name, QStringView wanted)
 qsizetype entryIndex(const FieldList &fields, QStringView name)
 {
     for (size_t i = 0; i + 1 < fields.size(); ++i) {
-        if (fields[i].code == entryNameCode && isSame(fields[i].text(), name) &&
+        if (fields[i].code == entryNameCode && isSameName(fields[i].text(), name) &&
             Dictionaries::isReference(fields[i + 1].code))
             return static_cast<qsizetype>(i);
     }
@@ -94,7 +93,7 @@ std::vector<Dictionaries::Entry> Dictionaries::entries(RecordId dictionary) cons
 RecordId Dictionaries::find(RecordId dictionary, QStringView name) const
 {
     for (const Entry &entry : entries(dictionary)) {
-        if (isSame(entry.name, name))
+        if (isSameName(entry.name, name))
             return entry.record;
     }
     return noRecord;

@@ -10,6 +10,7 @@
 #include "host/drawing/records/Layouts.h"
 #include "host/drawing/records/Structure.h"
 #include "host/drawing/records/Tables.h"
+#include "host/drawing/tags/GroupCodes.h"
 
 #include <QFileInfo>
 
@@ -18,9 +19,6 @@ namespace host::drawing {
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr int subclassCode = 100;
-constexpr int ownerCode = 330;
 
 int handleCodeOf(RecordKind kind, QByteArrayView type)
 {

@@ -4,6 +4,7 @@
 #include "host/drawing/records/EntityBuilder.h"
 #include "host/drawing/records/EntityRules.h"
 #include "host/drawing/records/Journal.h"
+#include "host/drawing/records/PolylineFlags.h"
 #include "host/drawing/records/Structure.h"
 #include "host/drawing/records/Tables.h"
 
@@ -13,11 +14,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-enum PolylineFlag
-{
-    Flag3dPolyline = 8,
-    Flag3dVertex = 32
-};
 constexpr int attributeBlockFlag = 2;
 
 QStringView spaceBlockName(Space space)
@@ -26,7 +22,7 @@ QStringView spaceBlockName(Space space)
 }
 
 /// What may change of an entity's head stays as it was: type, handle, {...} groups, owner.
-FieldList headOf(const Drawing &drawing, RecordId entity)
+FieldList commonHeadOf(const Drawing &drawing, RecordId entity)
 {
     FieldList head;
     bool isInGroup = false;
@@ -179,7 +175,7 @@ QString Entities::checkChildren(const QString &type, const FieldList &head, cons
     if (type != u"INSERT" && type != u"POLYLINE")
         return u"%1: an entity of this type has no parts"_s.arg(type);
     const Field *flags = findField(head, 70);
-    const bool is3d = type == u"POLYLINE" && flags && (flags->integer() & Flag3dPolyline) != 0;
+    const bool is3d = type == u"POLYLINE" && flags && (flags->integer() & Flag3d) != 0;
     for (FieldList fields : *children) {
         const Field *given = findField(fields, 0);
         if (given && given->text() == u"SEQEND")
@@ -234,7 +230,8 @@ QString Entities::modify(RecordId entity, const FieldList &fields)
     if (std::ranges::equal(wanted, before, {}, &Field::code, &Field::code))
         m_drawing.setFields(entity, wanted);
     else
-        m_drawing.setFields(entity, builder.build(headOf(m_drawing, entity), isPaper ? Space::Paper : Space::Model));
+        m_drawing.setFields(entity,
+                            builder.build(commonHeadOf(m_drawing, entity), isPaper ? Space::Paper : Space::Model));
     return {};
 }
 

@@ -4,22 +4,13 @@
 #include "host/drawing/records/EntityRules.h"
 #include "host/drawing/records/Structure.h"
 #include "host/drawing/records/Tables.h"
+#include "host/drawing/tags/GroupCodes.h"
 
 namespace host::drawing {
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr int subclassCode = 100;
-constexpr int embeddedObjectCode = 101;
-constexpr int groupCode = 102;
-constexpr int firstXdataCode = 1000;
-
-bool isPoint(const Field &field)
-{
-    return std::holds_alternative<Vec2>(field.value) || std::holds_alternative<Vec3>(field.value);
-}
 
 bool isNumber(const Field &field)
 {

@@ -6,12 +6,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-bool isWord(QByteArrayView text, QByteArrayView upperWord)
-{
-    return text.size() == upperWord.size() && (text[0] | 0x20) == (upperWord[0] | 0x20) &&
-           text.compare(upperWord, Qt::CaseInsensitive) == 0;
-}
-
 /// The text of a line for a message: short, and nothing unprintable.
 QString quoted(QByteArrayView line)
 {

@@ -6,6 +6,7 @@
 #include "host/drawing/records/Journal.h"
 #include "host/drawing/records/Structure.h"
 #include "host/drawing/records/Tables.h"
+#include "host/drawing/tags/GroupCodes.h"
 
 namespace host::drawing {
 
@@ -13,7 +14,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int subclassCode = 100;
 constexpr QStringView layoutDictionary = u"ACAD_LAYOUT";
 
 FieldList plotSettings(bool isModel)

@@ -13,9 +13,8 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int entityCode = 331;
-constexpr int sortHandleCode = 5;
-const QString entryName = u"ACAD_SORTENTS"_s;
-const QString objectType = u"SORTENTSTABLE"_s;
+const QString sortEntry = u"ACAD_SORTENTS"_s;
+const QString sortType = u"SORTENTSTABLE"_s;
 
 /// Each entity is sorted as the handle that is in its place when all are sorted. Those that it is anyway are left out.
 FieldList sortPairs(const Drawing &drawing, const std::vector<RecordId> &order)
@@ -49,15 +48,15 @@ bool setDrawOrder(Drawing &drawing, const std::vector<RecordId> &order)
         return false;
     const JournalGroup group(drawing.journal(), {});
     const RecordId dictionary = drawing.dictionaries().ensureExtensionDictionary(block);
-    const RecordId table = drawing.dictionaries().find(dictionary, entryName);
+    const RecordId table = drawing.dictionaries().find(dictionary, sortEntry);
     const FieldList pairs = sortPairs(drawing, order);
     FieldList fields;
     if (drawing.isAlive(table)) {
-        if (!drawing.isType(table, objectType.toLatin1()))
+        if (!drawing.isType(table, sortType.toLatin1()))
             return false;
         fields = tableHead(drawing.fields(table));
     } else {
-        fields = recordHead(drawing, objectType, drawing.handle(dictionary));
+        fields = recordHead(drawing, sortType, drawing.handle(dictionary));
         fields.push_back({100, u"AcDbSortentsTable"_s});
         fields.push_back({330, drawing.handle(block)});
     }
@@ -67,7 +66,7 @@ bool setDrawOrder(Drawing &drawing, const std::vector<RecordId> &order)
         return true;
     }
     const RecordId section = ensureSection(drawing, Section::Objects);
-    return drawing.dictionaries().set(dictionary, entryName,
+    return drawing.dictionaries().set(dictionary, sortEntry,
                                       drawing.insert(noRecord, section, RecordKind::Object, fields));
 }
 

@@ -7,14 +7,14 @@ namespace host::drawing {
 namespace {
 
 /// Groups `first` to `last` are written since a version.
-struct CodeRange
+struct CodesSince
 {
     int first;
     int last;
     Version since;
 };
 
-constexpr CodeRange dimensionStyleCodes[] = {
+constexpr CodesSince dimensionStyleCodes[] = {
     {49, 50, Version::R2007},   {69, 69, Version::R2007},   {79, 79, Version::R2000},   {90, 90, Version::R2007},
     {148, 148, Version::R2000}, {179, 179, Version::R2000}, {270, 275, Version::R13},   {276, 279, Version::R2000},
     {280, 288, Version::R13},   {289, 289, Version::R2000}, {290, 290, Version::R2007}, {294, 294, Version::R2010},
@@ -22,12 +22,12 @@ constexpr CodeRange dimensionStyleCodes[] = {
 };
 
 /// What stands on a dash beside its length: the early version has dashes alone.
-constexpr CodeRange linetypeCodes[] = {
+constexpr CodesSince linetypeCodes[] = {
     {9, 9, Version::R13},   {44, 46, Version::R13},   {50, 50, Version::R13},
     {74, 75, Version::R13}, {340, 340, Version::R13},
 };
 
-std::span<const CodeRange> codesOf(TableKind kind)
+std::span<const CodesSince> codesOf(TableKind kind)
 {
     if (kind == TableKind::DimStyle)
         return dimensionStyleCodes;
@@ -40,7 +40,7 @@ std::span<const CodeRange> codesOf(TableKind kind)
 
 bool hasCode(TableKind kind, int code, Version version)
 {
-    for (const CodeRange &range : codesOf(kind)) {
+    for (const CodesSince &range : codesOf(kind)) {
         if (code >= range.first && code <= range.last)
             return version >= range.since;
     }

@@ -153,7 +153,7 @@ DashSign shapeOf(const DefinedDash &dash, ShapeFiles &shapes)
     return {.shape = *found};
 }
 
-bool isPlain(const DefinedDash &dash)
+bool isPlainDash(const DefinedDash &dash)
 {
     return dash.text.isEmpty() && dash.shape.isEmpty();
 }
@@ -185,7 +185,7 @@ FieldList patternFields(Drawing &drawing, const LinetypeDefinition &definition, 
 {
     std::vector<DashSign> signs;
     for (const DefinedDash &dash : definition.dashes) {
-        if (!isPlain(dash) && drawing.version() < Version::R13) {
+        if (!isPlainDash(dash) && drawing.version() < Version::R13) {
             error = u"a drawing of this version has no texts and shapes in linetypes"_s;
             return {};
         }

@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qint64 largestFile = 16 * 1024 * 1024;
+constexpr qint64 largestShapeFile = 16 * 1024 * 1024;
 
 /// Files are named with their ending or without it.
 QString withoutEnding(const QString &name)
@@ -25,7 +25,7 @@ QString withoutEnding(const QString &name)
 
 std::shared_ptr<const ShapeFile> readFile(const QString &path)
 {
-    const files::WholeBytes file = files::readWhole(path, largestFile);
+    const files::WholeBytes file = files::readWhole(path, largestShapeFile);
     if (!file)
         return nullptr;
     auto read = std::make_shared<const ShapeFile>(readShapeFile(file.bytes));

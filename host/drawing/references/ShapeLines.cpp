@@ -6,7 +6,7 @@ namespace host::drawing {
 
 namespace {
 
-constexpr int deepestNesting = 8;
+constexpr int deepestShape = 8;
 constexpr int mostSteps = 100'000; ///< of one shape with those within it
 constexpr std::size_t mostKept = 64;
 constexpr double largestScale = 1e9;
@@ -21,7 +21,7 @@ public:
     bool draw(int number, int depth)
     {
         const auto codes = m_file.codes.constFind(number);
-        if (codes == m_file.codes.constEnd() || depth > deepestNesting)
+        if (codes == m_file.codes.constEnd() || depth > deepestShape)
             return false;
         Codes rest{*codes};
         while (m_isSound && !rest.isAtEnd()) {

@@ -2,6 +2,7 @@
 
 #include "host/drawing/records/Entities.h"
 #include "host/drawing/records/Layouts.h"
+#include "host/drawing/tags/GroupCodes.h"
 #include "host/drawing/text/ParagraphText.h"
 
 #include <QHash>
@@ -17,9 +18,7 @@ namespace {
 constexpr int paperCode = 67;
 constexpr int layoutCode = 410;
 constexpr int vertexCode = 10;
-constexpr int ownerCode = 330;
 constexpr int constantWidthCode = 43;
-constexpr int xdataCode = 1001;
 
 const Field extrusion{210, Vec3{0.0, 0.0, 1.0}};
 
@@ -153,7 +152,7 @@ public:
     {
         const auto owner = hasMarkers() ? findOwner(m_fields) : m_fields.end();
         const auto end = ownEnd(m_fields);
-        for (auto field = m_fields.begin(); field != m_fields.end() && field->code != xdataCode; ++field) {
+        for (auto field = m_fields.begin(); field != m_fields.end() && field->code != applicationCode; ++field) {
             if (field == end)
                 showImplied();
             if (field == owner)
@@ -164,7 +163,7 @@ public:
             if (m_isLightPolyline && field->code == vertexCode)
                 showVertex(field);
         }
-        if (end == m_fields.end() || end->code == xdataCode)
+        if (end == m_fields.end() || end->code == applicationCode)
             showImplied();
         return std::move(m_shown);
     }

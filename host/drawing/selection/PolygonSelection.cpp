@@ -4,19 +4,6 @@ namespace host::drawing {
 
 namespace {
 
-/// Whether `point` lies inside by the even-odd rule.
-bool contains(const Path &polygon, Vec2 point)
-{
-    bool isInside = false;
-    for (size_t i = 0, j = polygon.size() - 1; i < polygon.size(); j = i++) {
-        const Vec2 a = polygon[i].xy();
-        const Vec2 b = polygon[j].xy();
-        if ((a.y > point.y) != (b.y > point.y) && point.x < (b.x - a.x) * (point.y - a.y) / (b.y - a.y) + a.x)
-            isInside = !isInside;
-    }
-    return isInside;
-}
-
 bool isBetween(Vec2 a, Vec2 b, Vec2 point)
 {
     return std::min(a.x, b.x) <= point.x && point.x <= std::max(a.x, b.x) && std::min(a.y, b.y) <= point.y &&

@@ -2,6 +2,7 @@
 
 #include "host/drawing/selection/ImpliedFields.h"
 #include "host/drawing/selection/Wildcard.h"
+#include "host/drawing/tags/GroupCodes.h"
 
 namespace host::drawing {
 
@@ -10,21 +11,13 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int operatorCode = -4;
-constexpr int xdataCode = -3;
-constexpr int firstXdataCode = 1000;
-constexpr int appNameCode = 1001;
-constexpr int maximumDepth = 200;
+constexpr int deepestFilter = 200;
 
 bool isRelation(const QString &name)
 {
     static const QStringList known = {u"*"_s,  u"="_s, u"!="_s, u"/="_s, u"<>"_s, u"<"_s,
                                       u"<="_s, u">"_s, u">="_s, u"&"_s,  u"&="_s};
     return known.contains(name);
-}
-
-bool isPoint(const Field &field)
-{
-    return std::holds_alternative<Vec2>(field.value) || std::holds_alternative<Vec3>(field.value);
 }
 
 bool isBitwise(const QString &relation)
@@ -113,7 +106,7 @@ private:
 
     bool parseParts(Node &node, const QString &closing, int depth)
     {
-        if (depth > maximumDepth)
+        if (depth > deepestFilter)
             return fail(u"groups are nested too deep"_s);
         while (m_next < m_conditions.size()) {
             const Field &field = m_conditions[m_next++];
@@ -221,7 +214,7 @@ private:
     bool hasXdata(const QString &application)
     {
         return std::any_of(tags().begin(), tags().end(), [&](const Tag &tag) {
-            return tag.code == appNameCode && matchesWildcard(tags().decoded(tag), application);
+            return tag.code == applicationCode && matchesWildcard(tags().decoded(tag), application);
         });
     }
 

@@ -6,11 +6,6 @@ namespace host::drawing {
 
 namespace {
 
-bool isWord(QByteArrayView text, QByteArrayView word)
-{
-    return text.compare(word, Qt::CaseInsensitive) == 0;
-}
-
 } // namespace
 
 qsizetype findWord(QByteArrayView text, QByteArrayView word, qsizetype from)

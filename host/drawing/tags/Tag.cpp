@@ -1,12 +1,14 @@
 #include "host/drawing/tags/Tag.h"
 
+#include "host/drawing/tags/GroupCodes.h"
+
 #include <charconv>
 
 namespace host::drawing {
 
 namespace {
 
-struct CodeRange
+struct TypeRange
 {
     int first;
     int last;
@@ -14,7 +16,7 @@ struct CodeRange
 };
 
 // What is not listed is text.
-constexpr CodeRange codeRanges[] = {
+constexpr TypeRange codeRanges[] = {
     {5, 5, TagType::Handle},       {10, 59, TagType::Real},     {60, 79, TagType::Int16},
     {90, 99, TagType::Int32},      {105, 105, TagType::Handle}, {110, 149, TagType::Real},
     {160, 169, TagType::Int64},    {170, 179, TagType::Int16},  {210, 239, TagType::Real},
@@ -25,8 +27,6 @@ constexpr CodeRange codeRanges[] = {
     {1005, 1005, TagType::Handle}, {1010, 1059, TagType::Real}, {1060, 1070, TagType::Int16},
     {1071, 1071, TagType::Int32},
 };
-
-constexpr int firstXdataCode = 1000;
 
 QByteArrayView withoutPlus(QByteArrayView text)
 {
@@ -65,7 +65,7 @@ TagType tagType(int code)
 {
     const auto *range =
         std::lower_bound(std::begin(codeRanges), std::end(codeRanges), code,
-                         [](const CodeRange &candidate, int wanted) { return candidate.last < wanted; });
+                         [](const TypeRange &candidate, int wanted) { return candidate.last < wanted; });
     return range != std::end(codeRanges) && code >= range->first ? range->type : TagType::Text;
 }
 
@@ -184,6 +184,17 @@ const Field *findField(const FieldList &fields, int code)
 Field *findField(FieldList &fields, int code)
 {
     return const_cast<Field *>(findField(std::as_const(fields), code));
+}
+
+double realOf(const FieldList &fields, int code, double otherwise)
+{
+    const Field *field = findField(fields, code);
+    return field ? field->real() : otherwise;
+}
+
+bool isPoint(const Field &field)
+{
+    return std::holds_alternative<Vec2>(field.value) || std::holds_alternative<Vec3>(field.value);
 }
 
 void setField(FieldList &fields, int code, FieldValue value)

@@ -129,6 +129,10 @@ private:
 /// those of an embedded object nor those in {...} groups.
 const Field *findField(const FieldList &fields, int code);
 Field *findField(FieldList &fields, int code);
+/// The real number of the field that findField() gives, `otherwise` when there is none.
+double realOf(const FieldList &fields, int code, double otherwise = 0.0);
+/// Whether the value is a point, of two or three coordinates.
+bool isPoint(const Field &field);
 /// Changes the field that findField() gives, or adds one behind the last own one; extended data goes to the end.
 void setField(FieldList &fields, int code, FieldValue value);
 

@@ -1,14 +1,11 @@
 #include "host/drawing/tags/TagList.h"
 
 #include "host/drawing/tags/FieldSpan.h"
+#include "host/drawing/tags/GroupCodes.h"
 
 namespace host::drawing {
 
 namespace {
-
-constexpr int commentCode = 999;
-constexpr int subclassCode = 100;
-constexpr int firstXdataCode = 1000;
 
 FieldValue textValue(const Tag &tag, const TextCodec &codec)
 {

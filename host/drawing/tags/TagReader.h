@@ -14,6 +14,14 @@ enum class LineEnds
     Any
 };
 
+/// Whether the text is a word of the format, in any letter case; the word is not empty and in upper case. The first
+/// letter decides nearly always, without a call.
+inline bool isWord(QByteArrayView text, QByteArrayView upperWord)
+{
+    return text.size() == upperWord.size() && (text[0] | 0x20) == (upperWord[0] | 0x20) &&
+           text.compare(upperWord, Qt::CaseInsensitive) == 0;
+}
+
 /// The end of the line that starts at `begin`, before its line end; `next` becomes the start of the next line. A last
 /// line without line end stops at `end`.
 inline const char *findLineEnd(const char *begin, const char *end, LineEnds lineEnds, const char *&next)

@@ -1,12 +1,13 @@
 #include "host/drawing/tags/TagWriter.h"
 
+#include "host/drawing/tags/GroupCodes.h"
+
 #include <charconv>
 
 namespace host::drawing {
 
 namespace {
 
-constexpr int commentCode = 999;
 /// Binary data longer than this goes on in another tag of the same code.
 constexpr qsizetype binaryBytesOfATag = 127;
 

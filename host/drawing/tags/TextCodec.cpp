@@ -88,7 +88,7 @@ QByteArray systemName(QByteArrayView codePage)
     return "CP" + (known.contains(name) ? name : QByteArray("1252"));
 }
 
-bool isPlain(QByteArrayView bytes)
+bool isPlainText(QByteArrayView bytes)
 {
     return std::all_of(bytes.begin(), bytes.end(),
                        [](char c) { return static_cast<signed char>(c) >= 0 && c != '\\' && c != '^'; });
@@ -296,7 +296,7 @@ TextCodec TextCodec::forCodePage(QByteArrayView name)
 
 QString TextCodec::decode(QByteArrayView bytes) const
 {
-    if (isPlain(bytes))
+    if (isPlainText(bytes))
         return QString::fromLatin1(bytes);
     return withoutEscapes(m_converter ? m_converter->toText(bytes) : fromUtf8(bytes));
 }

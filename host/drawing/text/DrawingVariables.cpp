@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString numberText(double number)
+QString variableText(double number)
 {
     return QString::number(number, 'g', 12);
 }
@@ -21,11 +21,11 @@ QString valueText(const Field &field)
 {
     constexpr int angleCode = 50;
     if (const auto *point = std::get_if<Vec3>(&field.value))
-        return numberText(point->x) + u',' + numberText(point->y) + u',' + numberText(point->z);
+        return variableText(point->x) + u',' + variableText(point->y) + u',' + variableText(point->z);
     if (const auto *point = std::get_if<Vec2>(&field.value))
-        return numberText(point->x) + u',' + numberText(point->y);
+        return variableText(point->x) + u',' + variableText(point->y);
     if (const auto *number = std::get_if<double>(&field.value))
-        return numberText(field.code == angleCode ? *number * M_PI / 180.0 : *number);
+        return variableText(field.code == angleCode ? *number * M_PI / 180.0 : *number);
     if (const auto *number = std::get_if<qint64>(&field.value))
         return QString::number(*number);
     return field.text();

@@ -9,7 +9,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// Calls within calls. What people write has a handful.
-constexpr int deepestNesting = 100;
+constexpr int deepestExpression = 100;
 /// Characters read and made, in all. An expression can evaluate its own text again and again (eval of a variable that
 /// holds the same), and a drawing can hold many such: this ends each within a millisecond.
 constexpr qsizetype mostWork = 100'000;
@@ -161,7 +161,7 @@ QString Evaluation::evaluated(QStringView text)
 
 QString Evaluation::call(Source &source, Mode mode)
 {
-    if (++m_depth > deepestNesting)
+    if (++m_depth > deepestExpression)
         stop(Stop::Excess);
     const QString name = argument(source, mode).trimmed();
     MacroArguments arguments;

@@ -157,7 +157,7 @@ Result written(const Arguments &arguments, const NumberStyle &style, const Surro
     return writer ? writer(*number, *mode, *precision) : QString::number(*number * style.plainFactor, 'f', *precision);
 }
 
-constexpr MacroFunction functions[] = {
+constexpr MacroFunction macroFunctions[] = {
     {"+"_L1, 1, anyNumber, [](const Arguments &a, const Surroundings &) { return combined(a, std::plus()); }},
     {"-"_L1, 1, anyNumber, [](const Arguments &a, const Surroundings &) { return combined(a, std::minus()); }},
     {"*"_L1, 1, anyNumber, [](const Arguments &a, const Surroundings &) { return combined(a, std::multiplies()); }},
@@ -204,10 +204,10 @@ std::optional<int> macroInteger(QStringView text)
 
 const MacroFunction *findMacroFunction(QStringView name)
 {
-    const auto *found = std::find_if(std::begin(functions), std::end(functions), [name](const MacroFunction &row) {
-        return name.compare(row.name, Qt::CaseInsensitive) == 0;
-    });
-    return found == std::end(functions) ? nullptr : found;
+    const auto *found =
+        std::find_if(std::begin(macroFunctions), std::end(macroFunctions),
+                     [name](const MacroFunction &row) { return name.compare(row.name, Qt::CaseInsensitive) == 0; });
+    return found == std::end(macroFunctions) ? nullptr : found;
 }
 
 } // namespace host::drawing

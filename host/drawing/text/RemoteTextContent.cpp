@@ -9,7 +9,7 @@ namespace host::drawing {
 
 namespace {
 
-constexpr qint64 largestFile = 256 * 1024;
+constexpr qint64 largestTextFile = 256 * 1024;
 
 // Bits of group 70.
 constexpr qint64 expressionBit = 1;
@@ -30,7 +30,7 @@ std::optional<QString> readNamed(const Drawing &drawing, const QString &name, co
     const QString path = find(name);
     if (path.isEmpty())
         return std::nullopt;
-    const files::WholeBytes file = files::readWhole(path, largestFile);
+    const files::WholeBytes file = files::readWhole(path, largestTextFile);
     if (!file && surroundings.unread)
         surroundings.unread(path, QStringLiteral("%1 (remote texts have at most 256 kB)").arg(file.reason));
     return file ? std::optional(decoded(file.bytes, drawing.codec())) : std::nullopt;

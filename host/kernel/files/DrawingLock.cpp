@@ -26,7 +26,7 @@ namespace {
 
 using files::OpenDescriptor;
 
-const QByteArray firstLine = "ortakit lock 1\n";
+const QByteArray lockMark = "ortakit lock 1\n";
 /// More than any lock file that is written here.
 constexpr qsizetype longestLock = 2048;
 constexpr int mostAttempts = 20;
@@ -86,7 +86,7 @@ QByteArray newLock()
         // Last: a lock file without it is still being written.
         {"token", QByteArray::number(QRandomGenerator::system()->generate64(), 16)},
     };
-    QByteArray text = firstLine;
+    QByteArray text = lockMark;
     for (const auto &[name, value] : lines)
         text += name + QByteArray(" ") + onOneLine(value) + '\n';
     return text;
@@ -116,7 +116,7 @@ QByteArray contentOf(const OpenDescriptor &file)
 class LockText
 {
 public:
-    explicit LockText(const QByteArray &content) : m_isWhole(content.startsWith(firstLine) && content.endsWith('\n'))
+    explicit LockText(const QByteArray &content) : m_isWhole(content.startsWith(lockMark) && content.endsWith('\n'))
     {
         for (const QByteArray &line : content.split('\n'))
             if (const qsizetype blank = line.indexOf(' '); blank > 0)

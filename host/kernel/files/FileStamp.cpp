@@ -69,7 +69,7 @@ private:
     size_t m_value = 1;
 };
 
-std::optional<quint64> contentOf(const QString &path)
+std::optional<quint64> contentSum(const QString &path)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered))
@@ -137,7 +137,7 @@ FileChange FileStamp::changeOf(const QString &path) const
         return FileChange::Content;
     if (m_isTimeCertain && now->m_time == m_time && now->m_identity == m_identity)
         return FileChange::None;
-    const std::optional<quint64> content = contentOf(path);
+    const std::optional<quint64> content = contentSum(path);
     if (!content)
         return FileChange::Gone;
     return *content == m_content ? FileChange::None : FileChange::Content;

@@ -63,7 +63,7 @@ QStringList fullPaths(const QString &list)
     return paths;
 }
 
-QString folderOf(const Document &document)
+QString folderOfDrawing(const Document &document)
 {
     return document.path().isEmpty() ? QString() : QFileInfo(document.path()).absolutePath();
 }
@@ -116,7 +116,7 @@ QString TrustedFolders::objection(const QString &path, const Document &document)
                     [&file](const QString &folder) { return drawing::isBelow(file, folder); }))
         return {};
     const QString folder = QFileInfo(file).absolutePath();
-    const bool isUsers = drawing::isBelow(folder, m_session.home()) && folder != canonical(folderOf(document));
+    const bool isUsers = drawing::isBelow(folder, m_session.home()) && folder != canonical(folderOfDrawing(document));
     if (file.isEmpty() || (!isUsers && !isNamed(folder)))
         return u"its folder is not trusted"_s;
     const QString open = openToEveryone(file);
@@ -184,7 +184,7 @@ QString TrustedFolders::findProgram(Document &document, const QStringList &names
                 return path;
     for (const QString &asked : names) {
         const QString name = QString(asked).replace(u'\\', u'/');
-        for (const QString &folder : {QDir::currentPath(), folderOf(document)}) {
+        for (const QString &folder : {QDir::currentPath(), folderOfDrawing(document)}) {
             const QString path = canonical(isFullPath ? name : folder + u'/' + name);
             if (name.isEmpty() || (!isFullPath && folder.isEmpty()) || !isFile(path))
                 continue;

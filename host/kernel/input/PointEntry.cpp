@@ -10,8 +10,8 @@ namespace {
 
 using drawing::Vec3;
 
-/// A number in the drawing's units, finite.
-std::optional<double> number(const QString &text, const UnitFormat &units)
+/// A coordinate in the drawing's units, finite.
+std::optional<double> coordinate(const QString &text, const UnitFormat &units)
 {
     const std::optional<double> value = units.parseLength(text.trimmed());
     return value && std::isfinite(*value) ? value : std::nullopt;
@@ -22,9 +22,9 @@ std::optional<Vec3> parseCartesian(const QString &text, const UnitFormat &units,
     const QStringList parts = text.split(u',');
     if (parts.size() != 2 && parts.size() != 3)
         return {};
-    const auto x = number(parts[0], units);
-    const auto y = number(parts[1], units);
-    const auto z = parts.size() == 3 ? number(parts[2], units) : std::optional(elevation);
+    const auto x = coordinate(parts[0], units);
+    const auto y = coordinate(parts[1], units);
+    const auto z = parts.size() == 3 ? coordinate(parts[2], units) : std::optional(elevation);
     if (!x || !y || !z)
         return {};
     return Vec3{*x, *y, *z};
@@ -37,9 +37,9 @@ std::optional<Vec3> parsePolar(const QString &text, const UnitFormat &units, dou
     if (parts.size() != 2 && parts.size() != 3)
         return {};
     const QString height = parts.size() == 2 ? parts[1].section(u',', 1) : QString();
-    const auto distance = number(parts[0], units);
+    const auto distance = coordinate(parts[0], units);
     const auto angle = units.parseDirection(parts.size() == 2 ? parts[1].section(u',', 0, 0) : parts[1]);
-    const auto z = height.isEmpty() ? std::optional(elevation) : number(height, units);
+    const auto z = height.isEmpty() ? std::optional(elevation) : coordinate(height, units);
     if (!distance || !angle || !z)
         return {};
     if (parts.size() == 2)

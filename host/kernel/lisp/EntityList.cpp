@@ -2,6 +2,7 @@
 
 #include "host/drawing/records/Structure.h"
 #include "host/drawing/selection/Wildcard.h"
+#include "host/drawing/tags/GroupCodes.h"
 #include "host/kernel/documents/Document.h"
 #include "host/kernel/lisp/LispConversion.h"
 #include "host/kernel/lisp/ParagraphSize.h"
@@ -15,6 +16,7 @@ namespace host::kernel {
 
 namespace {
 
+using drawing::applicationCode;
 using drawing::Field;
 using drawing::FieldList;
 using drawing::Handle;
@@ -22,11 +24,10 @@ using drawing::RecordId;
 using drawing::TagType;
 using drawing::Vec2;
 using drawing::Vec3;
+using drawing::xdataCode;
 using lisp::Value;
 
 constexpr int nameCode = -1;
-constexpr int xdataCode = -3;
-constexpr int applicationCode = 1001;
 
 /// Marks the entity name of a handle that leads nowhere, so that handing the list back keeps it.
 constexpr std::uint64_t danglingBit = std::uint64_t(1) << 63;

@@ -1,15 +1,16 @@
 #include "host/kernel/lisp/SelectionFilterList.h"
 
+#include "host/drawing/tags/GroupCodes.h"
 #include "host/kernel/lisp/EntityList.h"
 
 namespace host::kernel {
 
 namespace {
 
+using drawing::xdataCode;
 using lisp::Value;
 
 constexpr int operatorCode = -4;
-constexpr int xdataCode = -3;
 
 void appendCondition(const Document &document, const Value &item, drawing::FieldList &conditions)
 {

@@ -3,6 +3,7 @@
 #include "host/drawing/geometry/TransformEntity.h"
 #include "host/drawing/records/Dictionaries.h"
 #include "host/drawing/records/Structure.h"
+#include "host/drawing/tags/GroupCodes.h"
 #include "host/kernel/documents/CurrentSpace.h"
 #include "host/kernel/documents/Document.h"
 #include "host/kernel/input/SelectionQuery.h"
@@ -20,11 +21,10 @@ namespace host::kernel {
 
 namespace {
 
+using drawing::applicationCode;
 using drawing::FieldList;
 using drawing::RecordId;
-
-constexpr int xdataCode = -3;
-constexpr int applicationCode = 1001;
+using drawing::xdataCode;
 
 struct VariableLink
 {

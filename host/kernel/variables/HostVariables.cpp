@@ -35,19 +35,19 @@ QString withSeparator(const QString &folder)
     return folder.endsWith(u'/') ? folder : folder + u'/';
 }
 
-VariableValue folderOf(const QString &folder)
+VariableValue folderValue(const QString &folder)
 {
     return withSeparator(folder);
 }
 
 VariableValue drawingFolder(const Document &document)
 {
-    return folderOf(document.path().isEmpty() ? QDir::currentPath() : QFileInfo(document.path()).absolutePath());
+    return folderValue(document.path().isEmpty() ? QDir::currentPath() : QFileInfo(document.path()).absolutePath());
 }
 
 VariableValue logFilePath(const Document &document)
 {
-    return folderOf(document.session().home());
+    return folderValue(document.session().home());
 }
 
 /// What the current space shows. The header's own values are those of the last save.
@@ -330,8 +330,9 @@ std::vector<HostVariable> stateVariables()
         computed("ROAMABLEROOTPREFIX", logFilePath),
         computed("SAVENAME", [](const Document &document) -> VariableValue { return document.path(); }),
         computed("SCREENSIZE", screenSize),
-        computed("TEMPPREFIX",
-                 [](const Document &) { return folderOf(QString::fromStdString(files::temporaryFolder().string())); }),
+        computed(
+            "TEMPPREFIX",
+            [](const Document &) { return folderValue(QString::fromStdString(files::temporaryFolder().string())); }),
         {"READPATHS", Computed, ReadWrite, text(""), 0.0, 0.0, 0,
          [](const Document &document) -> VariableValue {
              return document.session().trustedFolders().named(TrustedFolders::List::Read);

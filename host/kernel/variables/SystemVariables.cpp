@@ -55,7 +55,7 @@ VariableValue fromField(const Field &field)
     return field.text();
 }
 
-Field toField(int code, const VariableValue &value)
+Field headerField(int code, const VariableValue &value)
 {
     Field field{code, {}};
     std::visit(
@@ -195,7 +195,7 @@ void SystemVariables::setInternally(QStringView name, const VariableValue &value
         const QString headed = headerName(m_document.drawing(), upper);
         const std::optional<Field> present = header.get(headed);
         const int code = present ? present->code : variable ? variable->code : 1;
-        header.set(headed, toField(code, value));
+        header.set(headed, headerField(code, value));
         if (const auto *limit = std::get_if<Vec2>(&value); limit && isOfSheet(m_document.drawing(), upper))
             setLayoutLimit(m_document.drawing(), layoutCode(upper), *limit);
         // Old files may have no header at all: there the value lasts as long as the document is open.

@@ -1,15 +1,16 @@
 #include "host/drawing/geometry/EntityGeometry.h"
+#include "host/drawing/math/Angles.h"
 #include "host/view/build/DisplayBuilder.h"
 
 #include <numbers>
 
 namespace host::view {
 
+using drawing::radians;
 using drawing::TagList;
 
 namespace {
 
-constexpr double radians = std::numbers::pi / 180.0;
 constexpr double wholeTurn = 2.0 * std::numbers::pi;
 
 /// The counter-clockwise way from one angle to another; an end at the start means all the way round.

@@ -11,11 +11,6 @@ using drawing::TagList;
 
 namespace {
 
-bool areUsable(const Path &points)
-{
-    return !points.empty() && std::ranges::all_of(points, [](const Vec3 &p) { return isUsable(p); });
-}
-
 Path closed(Path points)
 {
     points.push_back(points.front());

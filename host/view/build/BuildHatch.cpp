@@ -7,7 +7,7 @@ using drawing::TagList;
 
 namespace {
 
-constexpr std::int64_t mostPieces = 200'000; ///< of one hatch
+constexpr std::int64_t mostHatchPieces = 200'000; ///< of one hatch
 
 void place(Curve &curve, const Matrix &ocs)
 {
@@ -20,7 +20,7 @@ void place(Curve &curve, const Matrix &ocs)
     }
 }
 
-void addArea(BuildContext &context, HatchData &hatch, const Matrix &ocs, FillKind kind)
+void addHatchArea(BuildContext &context, HatchData &hatch, const Matrix &ocs, FillKind kind)
 {
     std::ranges::for_each(hatch.loops, [&](Curve &loop) { place(loop, ocs); });
     context.add(Fill{.contours = std::move(hatch.loops), .kind = kind});
@@ -40,10 +40,10 @@ void blendGradient(BuildContext &context, const std::vector<quint32> &colours)
 
 bool addPattern(BuildContext &context, HatchData &hatch, const Matrix &ocs)
 {
-    HatchLines lines = hatchLines(hatch, mostPieces, context.work);
+    HatchLines lines = hatchLines(hatch, mostHatchPieces, context.work);
     if (lines.isTooDense) {
         context.display.isCutShort = true;
-        addArea(context, hatch, ocs, FillKind::Dense);
+        addHatchArea(context, hatch, ocs, FillKind::Dense);
         return true;
     }
     for (Path *points : {&lines.pieces.ends, &lines.pieces.dots})
@@ -66,7 +66,7 @@ bool buildHatch(BuildContext &context, const TagList &tags)
     if (!hatch.isSolid && !hatch.lines.empty())
         return addPattern(context, hatch, ocs);
     blendGradient(context, hatch.gradientColours);
-    addArea(context, hatch, ocs, FillKind::Area);
+    addHatchArea(context, hatch, ocs, FillKind::Area);
     return true;
 }
 

@@ -1,5 +1,6 @@
 #include "host/view/build/BuildMText.h"
 
+#include "host/drawing/math/Angles.h"
 #include "host/drawing/text/ParagraphText.h"
 #include "host/view/build/TextLook.h"
 
@@ -7,12 +8,11 @@
 
 namespace host::view {
 
+using drawing::radians;
 using drawing::Tag;
 using drawing::TagList;
 
 namespace {
-
-constexpr double radians = std::numbers::pi / 180.0;
 
 Style runStyle(const BuildContext &context, const MTextFormat &format)
 {
@@ -26,7 +26,7 @@ Style runStyle(const BuildContext &context, const MTextFormat &format)
     return style;
 }
 
-Matrix glyphMatrix(const MTextRun &run)
+Matrix runMatrix(const MTextRun &run)
 {
     const double slant = std::tan(run.format.oblique * radians);
     const double height = run.format.height;
@@ -104,7 +104,7 @@ void addMText(BuildContext &context, const MTextPlace &place, const QString &con
             continue;
         auto text = std::make_unique<TextRun>(TextRun{.text = run.text, .font = run.font});
         text->width = run.width / (run.format.height * run.format.widthFactor);
-        text->placement = placement * glyphMatrix(run);
+        text->placement = placement * runMatrix(run);
         context.add(std::move(text), runStyle(context, run.format));
     }
     for (const MTextRule &rule : layout.rules) {

@@ -100,11 +100,6 @@ std::vector<Vec3> readPoints(const Drawing &drawing, const std::vector<RecordId>
     return points;
 }
 
-bool areUsable(const std::vector<Vec3> &points)
-{
-    return !points.empty() && std::ranges::all_of(points, [](const Vec3 &p) { return isUsable(p); });
-}
-
 bool build3dPolyline(BuildContext &context, const std::vector<RecordId> &children, qint64 flags)
 {
     std::vector<Vec3> points = readPoints(context.drawing, children, flags);

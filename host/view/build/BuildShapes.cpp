@@ -1,3 +1,4 @@
+#include "host/drawing/math/Angles.h"
 #include "host/view/build/DisplayBuilder.h"
 #include "host/view/build/Scene.h"
 
@@ -5,11 +6,10 @@
 
 namespace host::view {
 
+using drawing::radians;
 using drawing::TagList;
 
 namespace {
-
-constexpr double radians = std::numbers::pi / 180.0;
 
 /// From the shape's own coordinates, in which it has size 1; nothing when the numbers make no shape.
 std::optional<Matrix> placementOf(const TagList &tags)

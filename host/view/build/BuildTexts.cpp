@@ -1,3 +1,4 @@
+#include "host/drawing/math/Angles.h"
 #include "host/drawing/records/Symbols.h"
 #include "host/view/build/DisplayBuilder.h"
 #include "host/view/build/TextLook.h"
@@ -8,12 +9,12 @@
 
 namespace host::view {
 
+using drawing::radians;
 using drawing::Tag;
 using drawing::TagList;
 
 namespace {
 
-constexpr double radians = std::numbers::pi / 180.0;
 constexpr double descent = 0.33; ///< below the base line, in text heights
 
 /// Single-line text as its record has it. Angles are radians.

@@ -121,6 +121,11 @@ bool isUsable(const Vec3 &point)
     return isUsable(point.x) && isUsable(point.y) && isUsable(point.z);
 }
 
+bool areUsable(const Path &points)
+{
+    return !points.empty() && std::ranges::all_of(points, [](const Vec3 &point) { return isUsable(point); });
+}
+
 Appearance &BuildContext::appearance() const
 {
     return scene.appearance();

@@ -37,6 +37,8 @@ struct BuildContext
 inline constexpr double farthestCoordinate = 1e16;
 bool isUsable(double value);
 bool isUsable(const Vec3 &point);
+/// Whether there are points and all are usable.
+bool areUsable(const Path &points);
 
 /// Makes the display of one entity. What cannot be drawn, by its type or because its numbers make no shape, is marked
 /// as skipped; what is drawn coarser than it should be because the work is used up, as simplified.

@@ -1,6 +1,7 @@
 #include "host/view/build/EntityExtents.h"
 
 #include "host/drawing/geometry/EntityGeometry.h"
+#include "host/drawing/records/Blocks.h"
 #include "host/view/build/DisplayBuilder.h"
 #include "host/view/build/HatchBoundary.h"
 #include "host/view/display/DisplayBoxes.h"
@@ -8,8 +9,6 @@
 namespace host::view {
 
 namespace {
-
-constexpr std::size_t deepestNesting = 32;
 
 Matrix axesAlone(const Matrix &map)
 {
@@ -94,7 +93,7 @@ Box EntityExtents::ofBlock(int block, const Matrix &map)
         return {};
     if (const auto known = m_known.find(key); known != m_known.end())
         return movedBox(known->second, map.origin);
-    if (m_work.left() <= 0 || m_open.size() >= deepestNesting)
+    if (m_work.left() <= 0 || m_open.size() >= drawing::deepestNesting)
         return mappedBox(m_scene.display(block).box, map);
     m_work.charge(1);
     m_open.push_back(block);

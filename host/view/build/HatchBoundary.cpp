@@ -1,5 +1,6 @@
 #include "host/view/build/HatchBoundary.h"
 
+#include "host/drawing/math/Angles.h"
 #include "host/view/build/DisplayBuilder.h"
 #include "host/view/display/WideLine.h"
 
@@ -7,12 +8,12 @@
 
 namespace host::view {
 
+using drawing::radians;
 using drawing::Tag;
 using drawing::TagList;
 
 namespace {
 
-constexpr double radians = std::numbers::pi / 180.0;
 constexpr std::size_t mostLoopsForIslands = 400;
 constexpr std::size_t mostPatternLines = 500;
 

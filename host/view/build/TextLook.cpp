@@ -28,7 +28,7 @@ void readFamily(const drawing::TagList &tags, FontRequest &request)
     }
 }
 
-double sane(double value, double limit, double otherwise)
+double saneWithin(double value, double limit, double otherwise)
 {
     return std::abs(value) <= limit ? value : otherwise;
 }
@@ -42,8 +42,8 @@ TextLook readTextLook(const BuildContext &context, const QString &styleName)
     if (style) {
         look.request.name = style->fontFile;
         readFamily(context.drawing.tags(style->record), look.request);
-        look.widthFactor = style->widthFactor > 0.0 ? sane(style->widthFactor, 100.0, 1.0) : 1.0;
-        look.oblique = sane(style->obliqueAngle, 85.0, 0.0) * std::numbers::pi / 180.0;
+        look.widthFactor = style->widthFactor > 0.0 ? saneWithin(style->widthFactor, 100.0, 1.0) : 1.0;
+        look.oblique = saneWithin(style->obliqueAngle, 85.0, 0.0) * std::numbers::pi / 180.0;
         look.generation = (style->isBackward ? 2 : 0) | (style->isUpsideDown ? 4 : 0);
         look.isVertical = style->isVertical;
     }

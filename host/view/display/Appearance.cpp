@@ -20,7 +20,7 @@ constexpr int standardWeight = 25;
 /// The oldest writers show the default weight as a hairline; a quarter of a millimetre is what it has been since.
 constexpr int thickestWeight = 211;
 
-double sane(double value, double otherwise)
+double sanePositive(double value, double otherwise)
 {
     return std::isfinite(value) && value > 0.0 && value < 1e12 ? value : otherwise;
 }
@@ -48,7 +48,7 @@ LinePatternElement readElement(const drawing::Drawing &drawing, const drawing::L
         return element;
     const drawing::RecordId style = drawing.find(dash.style);
     const auto look = isValid(style) ? drawing::readTextStyle(drawing, style) : drawing::TextStyle{};
-    element.size = sane(dash.scale, 1.0);
+    element.size = sanePositive(dash.scale, 1.0);
     if (dash.shape != 0) {
         element.shape = shapeCurves(shapes.find(look.fontFile), dash.shape).value_or(std::vector<Curve>());
     } else {
@@ -150,7 +150,7 @@ void Appearance::reload(const drawing::Drawing &drawing, Fonts &fonts, drawing::
                                       : Colour{Colour::Kind::Index, static_cast<std::uint32_t>(read.colour)};
         m_layers[static_cast<std::size_t>(layer(read.name))] = look;
     }
-    m_linetypeScale = sane(drawing.header().real(u"$LTSCALE"_s, 1.0), 1.0);
+    m_linetypeScale = sanePositive(drawing.header().real(u"$LTSCALE"_s, 1.0), 1.0);
     m_maskFrame = drawing::wipeoutFrame(drawing);
     m_pointMode = static_cast<int>(drawing.header().integer(u"$PDMODE"_s, 0));
     m_pointSize = drawing.header().real(u"$PDSIZE"_s, 0.0);
@@ -189,7 +189,7 @@ ResolvedStyle Appearance::resolve(const Style &style, const ResolvedStyle *inser
     else if (weight == Style::byBlock)
         weight = insert ? insert->lineweight : Style::defaultWeight;
     resolved.lineweight = weight < 0 ? standardWeight : std::min(weight, thickestWeight);
-    resolved.linetypeScale = m_linetypeScale * sane(style.linetypeScale, 1.0);
+    resolved.linetypeScale = m_linetypeScale * sanePositive(style.linetypeScale, 1.0);
     return resolved;
 }
 

@@ -25,7 +25,7 @@ QString message(const char *text)
     return QCoreApplication::translate("host::view::Export", text);
 }
 
-QSize bounded(const QSize &size)
+QSize boundedSize(const QSize &size)
 {
     return {std::clamp(size.width(), 1, largestSide), std::clamp(size.height(), 1, largestSide)};
 }
@@ -87,7 +87,7 @@ ExportResult cannotPaint(const QString &path)
 
 QImage paintImage(Picture &picture, const QSize &size, PaintResult *painted = nullptr)
 {
-    QImage image(bounded(size), QImage::Format_RGB32);
+    QImage image(boundedSize(size), QImage::Format_RGB32);
     if (image.isNull())
         return image;
     QPainter painter(&image);
@@ -118,7 +118,7 @@ ExportResult exportSvg(const drawing::Drawing &drawing, const QString &path, con
     Picture picture(drawing, options);
     if (!picture.exists())
         return missingBlock(options);
-    const QSize size = bounded(options.pixels);
+    const QSize size = boundedSize(options.pixels);
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
     QSvgGenerator generator;

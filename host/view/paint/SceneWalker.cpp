@@ -1,5 +1,6 @@
 #include "host/view/paint/SceneWalker.h"
 
+#include "host/drawing/records/Blocks.h"
 #include "host/view/build/Scene.h"
 #include "host/view/display/ArrayCells.h"
 #include "host/view/text/Fonts.h"
@@ -10,9 +11,8 @@ namespace host::view {
 
 namespace {
 
-constexpr int deepestNesting = 32;
-constexpr double smallest = 0.8; ///< pixels
-constexpr double farthest = 1e7; ///< pixels; what lies beyond is cut off before a painter sees it
+constexpr double smallest = 0.8;      ///< pixels
+constexpr double farthestPixel = 1e7; ///< pixels; what lies beyond is cut off before a painter sees it
 
 constexpr std::int64_t recordsOfUnit = 16;
 constexpr std::int64_t unitsOfLetter = 2;
@@ -334,8 +334,8 @@ void SceneWalker::show(const Endless &line, const ResolvedStyle &style, const Co
     if (!(pixelsPerUnit > 0.0) || !m_options.view)
         return;
     const QPointF unit(direction.x / pixelsPerUnit, direction.y / pixelsPerUnit);
-    const QPointF start = base - unit * (line.isBothWays ? farthest : 0.0);
-    const QPointF end = base + unit * farthest;
+    const QPointF start = base - unit * (line.isBothWays ? farthestPixel : 0.0);
+    const QPointF end = base + unit * farthestPixel;
     const auto part = visiblePart(start, end, *m_options.view);
     if (!part)
         return;
@@ -420,8 +420,8 @@ void SceneWalker::show(const std::unique_ptr<Reference> &reference, const Resolv
     const BlockDisplay &block = m_scene.display(reference->block);
     if (block.box.isEmpty() && !block.isEndless && reference->beside.empty())
         return;
-    m_isTooDeep |= context.depth >= deepestNesting;
-    if (context.depth >= deepestNesting)
+    m_isTooDeep |= context.depth >= drawing::deepestNesting;
+    if (context.depth >= drawing::deepestNesting)
         return;
     m_isOpen[index] = 1;
     showArray(*reference, block, style, context);

@@ -8,11 +8,11 @@ namespace {
 
 constexpr double smallestScale = 1e-14;
 constexpr double largestScale = 1e12;
-constexpr double farthest = 1e15;
+constexpr double farthestView = 1e15;
 
-bool isUsable(double value)
+bool isUsableNumber(double value)
 {
-    return std::isfinite(value) && std::abs(value) <= farthest;
+    return std::isfinite(value) && std::abs(value) <= farthestView;
 }
 
 } // namespace
@@ -24,7 +24,7 @@ void ViewTransform::resize(const QSizeF &screen)
 
 void ViewTransform::setView(Vec2 center, double pixelsPerUnit)
 {
-    if (isUsable(center.x) && isUsable(center.y))
+    if (isUsableNumber(center.x) && isUsableNumber(center.y))
         m_center = center;
     if (std::isfinite(pixelsPerUnit) && pixelsPerUnit > 0.0)
         m_scale = std::clamp(pixelsPerUnit, smallestScale, largestScale);
