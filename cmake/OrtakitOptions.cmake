@@ -2,6 +2,9 @@
 option(ORTAKIT_TESTS "Build the tests" ON)
 option(ORTAKIT_BENCH "Build the benchmarks" OFF)
 option(ORTAKIT_FUZZ "Build the fuzz targets (Clang only)" OFF)
+# Several files are compiled as one, which reads the headers once for all of them. Off, each file shows that it includes
+# what it needs; both are kept working.
+option(ORTAKIT_UNITY "Compile the files of a room in batches" ON)
 set(ORTAKIT_SANITIZE "" CACHE STRING "Sanitizers, as -fsanitize= takes them")
 
 set(CMAKE_CXX_STANDARD 20)
@@ -12,6 +15,9 @@ set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 set(CMAKE_AUTOMOC ON)
 set(CMAKE_AUTOUIC ON)
 set(CMAKE_AUTORCC ON)
+
+set(CMAKE_UNITY_BUILD ${ORTAKIT_UNITY})
+set(CMAKE_UNITY_BUILD_BATCH_SIZE 8)
 
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/bin")
 set(CMAKE_LIBRARY_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/lib")
@@ -33,6 +39,11 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
     # GCC 12 reports these in the standard library's and Qt's own inlined code, more so under the sanitizers.
     add_compile_options(-Wno-restrict -Wno-maybe-uninitialized -Wno-stringop-overflow -Wno-array-bounds
                         -Wno-dangling-pointer -Wno-free-nonheap-object -fpch-preprocess)
+endif()
+if(ORTAKIT_UNITY AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+    # Of files compiled as one, the constants of one lie around the other, whose own names may hide them, and the types
+    # of either's unnamed namespace look as if they came from a header.
+    add_compile_options(-Wno-shadow -Wshadow=local -Wno-subobject-linkage)
 endif()
 if(CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
     # Part of the language since C++14, and off unless asked for before Clang 19.
