@@ -9,7 +9,7 @@ using drawing::Vec2;
 namespace {
 
 /// Directions that differ by less count as one.
-constexpr double leastSine = 1e-12;
+constexpr double circleTolerance = 1e-12;
 
 } // namespace
 
@@ -18,7 +18,7 @@ std::optional<Vec2> circleCentre(Vec2 first, Vec2 second, Vec2 third)
     const Vec2 a = second - first;
     const Vec2 b = third - first;
     const double area = 2.0 * cross(a, b);
-    if (!(std::abs(area) > leastSine * a.length() * b.length()))
+    if (!(std::abs(area) > circleTolerance * a.length() * b.length()))
         return {};
     const Vec2 sum = a * dot(b, b) - b * dot(a, a);
     return first + turnedLeft(sum) * (1.0 / area);
@@ -59,7 +59,7 @@ std::vector<Vec2> circleMeetings(Vec2 first, double firstRadius, Vec2 second, do
     const double along =
         (distance * distance + firstRadius * firstRadius - secondRadius * secondRadius) / (2.0 * distance);
     const double square = firstRadius * firstRadius - along * along;
-    const double limit = leastSine * distance * distance;
+    const double limit = circleTolerance * distance * distance;
     if (square < -limit)
         return {};
     const Vec2 foot = first + between * (along / distance);

@@ -43,7 +43,7 @@ static Value assoc(Arguments &args)
     return {};
 }
 
-// (vl-listPosition item list) -> where the first equal item is, from 0; nil when there is none.
+// (vl-position item list) -> where the first equal item is, from 0; nil when there is none.
 static Value listPosition(Arguments &args)
 {
     std::int32_t index = 0;
@@ -133,7 +133,7 @@ static Value every(Arguments &args)
 static constexpr NativeRow listSearchRows[] = {
     {"member", member, Arity::exactly(2)},
     {"assoc", assoc, Arity::exactly(2)},
-    {"vl-listPosition", listPosition, Arity::exactly(2)},
+    {"vl-position", listPosition, Arity::exactly(2)},
     {"vl-member-if", memberIf<Wanted::True>, Arity::exactly(2)},
     {"vl-member-if-not", memberIf<Wanted::False>, Arity::exactly(2)},
     {"vl-remove", remove, Arity::exactly(2)},

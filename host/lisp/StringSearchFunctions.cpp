@@ -41,7 +41,7 @@ static Value substitute(Arguments &args)
     return Value::string(std::move(result));
 }
 
-// (vl-string-characterPosition code string [start [from-end]]) -> where the character is first, or last with from-end;
+// (vl-string-position code string [start [from-end]]) -> where the character is first, or last with from-end;
 // nil when nowhere.
 static Value characterPosition(Arguments &args)
 {
@@ -79,7 +79,7 @@ static Value mismatch(Arguments &args)
 static constexpr NativeRow stringSearchRows[] = {
     {"vl-string-search", search, Arity::between(2, 3)},
     {"vl-string-subst", substitute, Arity::between(3, 4)},
-    {"vl-string-characterPosition", characterPosition, Arity::between(2, 4)},
+    {"vl-string-position", characterPosition, Arity::between(2, 4)},
     {"vl-string-mismatch", mismatch, Arity::between(2, 5)},
 };
 

@@ -42,7 +42,7 @@ std::string chainedBlocks(int levels)
 
 const std::string linesOfPattern = "|53 30|43 0|44 0|45 0|46 2|79 0";
 
-/// A hatchRecord whose boundary goes up and down `turns` times.
+/// A hatch whose boundary goes up and down `turns` times.
 std::string zigzagHatch(int turns, const std::string &style, const std::string &lines = "|78 1" + linesOfPattern)
 {
     std::string points;
@@ -119,9 +119,9 @@ std::vector<Row> rows()
          true},
         {"pattern without spacing", hatchRecord + "|78 1|53 0|43 0|44 0|45 0|46 0|79 0"},
         {"pattern starting beyond reach", hatchRecord + "|78 1|53 0|43 1e15|44 1e15|45 0|46 1|79 0"},
-        {"hatchRecord that promises more than it has",
+        {"hatch that promises more than it has",
          "0 HATCH|8 0|10 0|20 0|30 0|2 X|70 1|71 0|91 2000000000|92 7|72 0|73 1|93 2000000000|10 10|20 10|10 90"},
-        {"hatchRecord of one point",
+        {"hatch of one point",
          "0 HATCH|8 0|10 0|20 0|30 0|2 X|70 1|71 0|91 1|92 7|72 0|73 1|93 1|10 10|20 10|97 0"},
         {"spline with a hundred thousand knots",
          "0 SPLINE|8 0|70 8|71 3|72 100000|73 99996" + repeated("|40 1", 100'000) + repeated("|10 5|20 5", 99'996)},
@@ -263,7 +263,7 @@ TEST(HostileDrawing, WorkGrowsWithTheInput)
     };
     const auto loop = [](int turns) { return DxfText{.entities = zigzagHatch(turns, "0")}; };
     const std::tuple<const char *, std::function<DxfText(int)>, int> rows[] = {
-        {"cells of an array", insert, 1'000}, {"dashes", dashed, 200}, {"loop of a hatchRecord", loop, 200}};
+        {"cells of an array", insert, 1'000}, {"dashes", dashed, 200}, {"loop of a hatch", loop, 200}};
     for (const auto &[name, drawing, count] : rows) {
         const Work once = workOf(drawing(count));
         const Work twice = workOf(drawing(2 * count));
