@@ -7,6 +7,7 @@
 #include <QBuffer>
 #include <QCoreApplication>
 #include <QFileInfo>
+#include <QXmlStreamAttribute>
 #include <QXmlStreamReader>
 #include <QXmlStreamWriter>
 

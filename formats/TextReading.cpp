@@ -5,6 +5,7 @@
 
 #include <QCoreApplication>
 #include <QStringConverter>
+#include <QStringDecoder>
 
 namespace ortakit {
 

@@ -7,6 +7,8 @@
 
 #include <QAbstractButton>
 #include <QDialogButtonBox>
+#include <QKeySequence>
+#include <QMessageBox>
 #include <QShortcut>
 #include <QShowEvent>
 

@@ -11,6 +11,8 @@
 #include "ui_Dlg_QT_Breakline.h"
 
 #include <QFileInfo>
+#include <QLayout>
+#include <QToolButton>
 
 namespace {
 

@@ -7,6 +7,7 @@
 #include "state/pickers/FilePicker.h"
 #include "ui_Dlg_QT_ExchangedDimensionStyle.h"
 
+#include <QDialogButtonBox>
 #include <QFileInfo>
 
 Dlg_QT_ExchangedDimensionStyle::Dlg_QT_ExchangedDimensionStyle(QWidget *parent)

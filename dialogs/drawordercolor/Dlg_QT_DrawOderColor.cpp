@@ -8,6 +8,7 @@
 #include "ui_Dlg_QT_DrawOderColor.h"
 
 #include <QHeaderView>
+#include <QKeySequence>
 #include <QSet>
 #include <QShortcut>
 

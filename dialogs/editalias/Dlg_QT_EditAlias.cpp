@@ -11,9 +11,12 @@
 #include "state/widgets/PlainTexts.h"
 #include "ui_Dlg_QT_EditAlias.h"
 
+#include <QItemSelectionModel>
 #include <QKeyEvent>
+#include <QPersistentModelIndex>
 #include <QScopedValueRollback>
 #include <QTextDocument>
+#include <QToolButton>
 
 #include <functional>
 

@@ -3,6 +3,8 @@
 #include "formats/TextCase.h"
 #include "ui_Dlg_QT_EditTextCase.h"
 
+#include <QRadioButton>
+
 #include <iterator>
 
 namespace {

@@ -5,6 +5,8 @@
 
 #include <QPainter>
 #include <QTextLayout>
+#include <QTextLine>
+#include <QTextOption>
 
 namespace {
 

@@ -6,6 +6,8 @@
 #include "state/pickers/FilePicker.h"
 #include "ui_Dlg_QT_ExportSettings.h"
 
+#include <QDialogButtonBox>
+
 using ortakit::SettingClass;
 
 namespace {

@@ -6,6 +6,7 @@
 #include "state/tables/TableRows.h"
 #include "ui_Dlg_QT_GetBlockInfo.h"
 
+#include <QDialogButtonBox>
 #include <QFileInfo>
 #include <QHeaderView>
 #include <QPointer>

@@ -13,10 +13,15 @@
 #include "state/widgets/FullText.h"
 #include "ui_Dlg_QT_LispExplorer.h"
 
+#include <QDialogButtonBox>
 #include <QDir>
+#include <QIcon>
 #include <QKeyEvent>
+#include <QListWidget>
 #include <QPointer>
+#include <QRadioButton>
 #include <QSignalBlocker>
+#include <QTextCursor>
 
 namespace {
 

@@ -3,6 +3,8 @@
 #include "dialogs/lispexplorer/LispKeywords.h"
 #include "state/widgets/FullText.h"
 
+#include <QTextDocument>
+
 using ortakit::LispRun;
 using ortakit::LispStyle;
 

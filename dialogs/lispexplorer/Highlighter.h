@@ -6,6 +6,7 @@
 #include <QPointer>
 #include <QSyntaxHighlighter>
 #include <QTextCharFormat>
+#include <QTextDocument>
 
 #include <array>
 

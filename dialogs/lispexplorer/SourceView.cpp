@@ -4,6 +4,7 @@
 
 #include <QPlainTextEdit>
 #include <QTextBlock>
+#include <QTextDocument>
 
 namespace {
 

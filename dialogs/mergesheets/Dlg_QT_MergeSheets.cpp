@@ -17,6 +17,7 @@
 #include <QDir>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QRadioButton>
 #include <QSignalBlocker>
 #include <QStyle>
 

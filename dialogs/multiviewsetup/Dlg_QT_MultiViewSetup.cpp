@@ -12,6 +12,8 @@
 #include "state/widgets/FullText.h"
 #include "ui_Dlg_QT_MultiViewSetup.h"
 
+#include <QRadioButton>
+
 namespace {
 
 constexpr int factorColumn = 1;

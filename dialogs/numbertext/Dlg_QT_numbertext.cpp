@@ -2,6 +2,8 @@
 
 #include "ui_Dlg_QT_numbertext.h"
 
+#include <QRadioButton>
+
 namespace {
 
 constexpr int mostDigits = 8;

@@ -8,7 +8,9 @@
 #include "state/widgets/DialogPicture.h"
 #include "ui_DLG_QT_PatternHatch.h"
 
+#include <QDoubleSpinBox>
 #include <QEvent>
+#include <QRadioButton>
 #include <QSignalBlocker>
 
 using Kind = ortakit::PatternSource::Kind;

@@ -1,5 +1,6 @@
 #include "dialogs/patternhatch/MaskPatterns.h"
 
+#include <QAction>
 #include <QMenu>
 
 namespace ortakit {

@@ -10,6 +10,8 @@
 #include "ui_DLG_QT_SelectBlock.h"
 
 #include <QFileInfo>
+#include <QModelIndexList>
+#include <QRadioButton>
 
 #include <algorithm>
 

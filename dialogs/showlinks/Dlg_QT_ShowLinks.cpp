@@ -18,7 +18,9 @@
 #include <QDir>
 #include <QEvent>
 #include <QFileInfo>
+#include <QMessageBox>
 #include <QSet>
+#include <QUrl>
 
 #include <numeric>
 #include <utility>

@@ -3,6 +3,8 @@
 #include "formats/LinkFile.h"
 #include "state/ToolDialog.h"
 
+#include <QUrl>
+
 #include <memory>
 
 namespace Ui {

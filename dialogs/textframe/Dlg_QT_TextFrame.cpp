@@ -4,6 +4,9 @@
 #include "ui_Dlg_QT_TextFrame.h"
 
 #include <QDoubleValidator>
+#include <QLocale>
+#include <QRadioButton>
+#include <QValidator>
 
 namespace {
 

@@ -5,6 +5,8 @@
 #include "state/widgets/FullText.h"
 #include "ui_Dlg_QT_TextMask.h"
 
+#include <QRadioButton>
+
 namespace {
 
 constexpr qint16 hiddenFrames = 0;

@@ -12,6 +12,7 @@
 #include <QDir>
 #include <QEventLoop>
 #include <QFileInfo>
+#include <QMessageLogContext>
 #include <QSettings>
 
 #include <clocale>

@@ -4,6 +4,7 @@
 
 #include <QComboBox>
 #include <QIcon>
+#include <QStyleOptionComboBox>
 
 /// A combo box of the colours of a drawing. The text of an item is its index number in decimal, so that a number set
 /// as the current text picks the colour; what is shown is a swatch and the colour's name.

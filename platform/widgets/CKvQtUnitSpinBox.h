@@ -3,6 +3,7 @@
 #include "platform/Export.h"
 
 #include <QDoubleSpinBox>
+#include <QValidator>
 
 class OdDbDatabase;
 

@@ -6,6 +6,7 @@
 #include "state/widgets/PlainTexts.h"
 #include "ui_Dlg_QT_RemoveFavorits.h"
 
+#include <QListWidget>
 #include <QShowEvent>
 
 Dlg_QT_RemoveFavorits::Dlg_QT_RemoveFavorits(QWidget *parent, const QString &group)

@@ -3,6 +3,8 @@
 #include "platform/kernel/CKvMessageBox.h"
 #include "state/pickers/PathChecks.h"
 
+#include <QMessageBox>
+
 namespace ortakit {
 
 namespace {

@@ -7,6 +7,7 @@
 #include <QCoreApplication>
 #include <QHash>
 #include <QHeaderView>
+#include <QItemSelectionModel>
 #include <QSet>
 #include <QTableWidget>
 

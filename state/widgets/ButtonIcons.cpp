@@ -3,6 +3,7 @@
 #include "platform/kernel/CKvUtils.h"
 
 #include <QAbstractButton>
+#include <QIcon>
 
 namespace ortakit {
 

@@ -6,6 +6,7 @@
 #include <QFileInfo>
 #include <QLabel>
 #include <QPainter>
+#include <QPixmap>
 
 namespace {
 

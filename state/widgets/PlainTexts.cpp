@@ -2,9 +2,11 @@
 
 #include "files/qt/VisibleText.h"
 
+#include <QAbstractItemDelegate>
 #include <QAbstractItemView>
 #include <QHeaderView>
 #include <QHelpEvent>
+#include <QLocale>
 #include <QToolTip>
 
 #include <typeinfo>

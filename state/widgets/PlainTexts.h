@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QLocale>
 #include <QStyledItemDelegate>
 
 class QWidget;

@@ -1,6 +1,8 @@
 #include "dialogs/multiviewsetup/Dlg_QT_MultiViewSetup.h"
 #include "tests/dialogs/DialogTest.h"
 
+#include <QRadioButton>
+
 using namespace ortakit::test;
 using namespace Qt::StringLiterals;
 

@@ -6,9 +6,12 @@
 #include "host/app/window/Mnemonics.h"
 #include "platform/kernel/CKvHelp.h"
 
+#include <QAction>
 #include <QActionGroup>
 #include <QApplication>
 #include <QDir>
+#include <QKeySequence>
+#include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QTabWidget>

@@ -8,6 +8,7 @@
 #include "host/app/window/WindowFeeder.h"
 #include "host/drawing/records/HeaderVariables.h"
 
+#include <QAction>
 #include <QCloseEvent>
 #include <QDockWidget>
 #include <QDragEnterEvent>
@@ -17,6 +18,7 @@
 #include <QStatusBar>
 #include <QTabBar>
 #include <QTabWidget>
+#include <QUrl>
 
 using namespace Qt::StringLiterals;
 

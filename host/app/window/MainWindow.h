@@ -7,7 +7,11 @@
 #include "host/kernel/input/PromptRequest.h"
 #include "host/view/display/AciColor.h"
 
+#include <QAction>
+#include <QDockWidget>
+#include <QKeySequence>
 #include <QMainWindow>
+#include <QMenu>
 #include <QTimer>
 
 class QActionGroup;

@@ -1,6 +1,8 @@
 #include "host/drawing/text/DateText.h"
 
+#include <QDate>
 #include <QLocale>
+#include <QTime>
 
 namespace host::drawing {
 

@@ -3,6 +3,7 @@
 #include "host/drawing/records/HeaderVariables.h"
 #include "host/drawing/text/DateText.h"
 
+#include <QDateTime>
 #include <QDir>
 #include <QFileInfo>
 

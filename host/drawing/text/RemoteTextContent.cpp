@@ -3,6 +3,7 @@
 #include "files/qt/Files.h"
 #include "host/drawing/references/NamedFiles.h"
 
+#include <QStringConverter>
 #include <QStringDecoder>
 
 namespace host::drawing {

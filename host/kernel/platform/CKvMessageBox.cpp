@@ -1,6 +1,7 @@
 #include "platform/kernel/CKvMessageBox.h"
 
 #include <QDialogButtonBox>
+#include <QMessageBox>
 #include <QMetaEnum>
 #include <QPushButton>
 

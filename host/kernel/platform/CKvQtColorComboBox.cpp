@@ -4,7 +4,10 @@
 
 #include <QCoreApplication>
 #include <QHash>
+#include <QIcon>
 #include <QPainter>
+#include <QPixmap>
+#include <QStyleOptionComboBox>
 #include <QStyledItemDelegate>
 
 namespace {

@@ -3,6 +3,8 @@
 #include "platform/kernel/CKvUtils.h"
 
 #include <QAbstractButton>
+#include <QDialogButtonBox>
+#include <QIcon>
 
 namespace {
 

@@ -4,6 +4,9 @@
 #include "host/kernel/input/Units.h"
 #include "host/kernel/platform/DrawingDatabase.h"
 
+#include <QDoubleSpinBox>
+#include <QLocale>
+#include <QValidator>
 #include <QtMath>
 
 namespace {

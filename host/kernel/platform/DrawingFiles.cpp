@@ -9,6 +9,8 @@
 #include "host/view/paint/Export.h"
 #include "platform/kernel/CKvUtils.h"
 
+#include <QImage>
+
 using host::kernel::HostDatabase;
 
 namespace {

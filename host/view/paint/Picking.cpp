@@ -3,6 +3,8 @@
 #include "host/drawing/geometry/EntityGeometry.h"
 #include "host/view/paint/SceneWalker.h"
 
+#include <QPainterPath>
+
 #include <array>
 
 namespace host::view {

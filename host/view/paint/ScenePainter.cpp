@@ -3,6 +3,8 @@
 #include "host/view/paint/SceneWalker.h"
 
 #include <QPaintEngine>
+#include <QPainterPath>
+#include <QPen>
 
 #include <array>
 
