@@ -1,5 +1,5 @@
-// Any text as a recorded session: every line is a step, an error or nothing, a step's own text reads as that step, and
-// the lines of a session mean what each means by itself.
+// Any text as a recorded session: every line is a step, an error or nothing, or writes what a part has, of which there
+// is no end of steps; a step's own text reads as that step, and the lines of a session mean what each means by itself.
 
 #include "fuzz/Require.h"
 #include "host/app/playback/PlaybackScript.h"
@@ -14,6 +14,19 @@ void requireEqual(const Step &step, const Step &other)
     require(step.points == other.points && step.source == other.source);
 }
 
+/// Steps in the order of their lines, each on one of its own but for what a part writes.
+void requireInOrder(const QList<Step> &steps, int before, qsizetype lines)
+{
+    for (const Step &step : steps) {
+        require(step.line > before || (step.line == before && !step.place.isEmpty()));
+        require(step.line <= lines);
+        before = step.line;
+        const PlaybackScript alone = parsePlayback(step.source);
+        require(alone.errors.isEmpty() && alone.steps.size() == 1);
+        requireEqual(step, alone.steps.first());
+    }
+}
+
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
@@ -21,14 +34,10 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     const QString text = QString::fromUtf8(reinterpret_cast<const char *>(data), qsizetype(size));
     const PlaybackScript script = parsePlayback(text);
     const qsizetype lines = text.count(u'\n') + text.count(u'\r') + 1;
-    require(script.steps.size() <= lines);
-    int before = 0;
-    for (const Step &step : script.steps) {
-        require(step.line > before && step.line <= lines);
-        before = step.line;
-        const PlaybackScript alone = parsePlayback(step.source);
-        require(alone.errors.isEmpty() && alone.steps.size() == 1);
-        requireEqual(step, alone.steps.first());
+    requireInOrder(script.steps, 0, lines);
+    for (const PlaybackCase &one : script.cases) {
+        require(one.line > 0 && one.line <= lines);
+        requireInOrder(one.steps, one.line - 1, lines);
     }
     for (const ScriptError &error : script.errors)
         require(error.line > 0 && error.line <= lines && !error.message.isEmpty());

@@ -23,8 +23,8 @@ TEST(ProgramOptions, RefusesWhatMakesNoSense)
         {u"--style blue"_s, u"--style is light or dark, not \"blue\""_s},
         {u"--png"_s, u"--png has no meaning here"_s},
         {u"--out there plan.dxf"_s, u"--out has no meaning here"_s},
-        {u"run"_s, u"run needs a session and at least one drawing"_s},
-        {u"run session.txt"_s, u"run needs a session and at least one drawing"_s},
+        {u"run"_s, u"run needs a session"_s},
+        {u"lisp a.lsp --audit x"_s, u"--audit has no meaning here"_s},
         {u"run s d --png=yes"_s, u"--png takes no value"_s},
         {u"run s d --drawing x"_s, u"--drawing has no meaning here"_s},
         {u"run s d --time-limit 0"_s, u"--time-limit takes seconds up to a day, not \"0\""_s},
@@ -57,6 +57,8 @@ TEST(ProgramOptions, UnderstandsEachUse)
     EXPECT_EQ(run.outFolder, u"o=1"_s);
     EXPECT_TRUE(run.withPictures);
     EXPECT_EQ(run.timeLimit->count(), 500);
+    EXPECT_EQ(parse("run s.txt --audit x").audit, u"x"_s);
+    EXPECT_EQ(parse("run s.txt").drawings, QStringList());
     EXPECT_EQ(parse("lisp a.lsp --memory-limit 64").memoryLimit, 64);
     EXPECT_EQ(parse("convert a.dxf b.dxf --time-limit 2").timeLimit->count(), 2000);
     EXPECT_EQ(parse("lisp a.lsp - --drawing d.dxf").lispFiles, QStringList({u"a.lsp"_s, u"-"_s}));

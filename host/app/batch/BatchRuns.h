@@ -7,7 +7,8 @@ namespace host::app {
 // The program's work without a window. Results go to standard output, messages to standard error; each returns the
 // status to end the program with. None of them waits for a person: a dialog or prompt that nobody answers is rejected.
 
-/// Plays the session over each drawing.
+/// Plays the session over each drawing, else over the one that it is for; each of its cases over the drawing opened
+/// anew.
 int runSessions(const ProgramOptions &options);
 /// Loads the Lisp files.
 int runLispFiles(const ProgramOptions &options);

@@ -49,9 +49,10 @@ bool DialogDriver::eventFilter(QObject *object, QEvent *event)
 {
     if (event->type() == QEvent::Show || event->type() == QEvent::Hide) {
         auto *window = qobject_cast<QWidget *>(object);
-        if (window && event->type() == QEvent::Hide)
+        if (window && event->type() == QEvent::Hide) {
             m_known.removeAll(window);
-        else if (window && isAttended(*window))
+            m_rejections.remove(window);
+        } else if (window && isAttended(*window))
             wake();
     }
     return QObject::eventFilter(object, event);
@@ -105,6 +106,8 @@ void DialogDriver::attend()
     m_known.removeAll(QPointer<QWidget>());
     if (reaction == Reaction::GiveUp)
         giveUp();
+    if (reaction == Reaction::Reject && window)
+        reject(*window);
     wake();
 }
 

@@ -28,6 +28,7 @@ protected:
     {
         Done,   ///< something was done; ask again when the window is still open
         Looked, ///< the same, but the window stays as well known as it was
+        Reject, ///< close this window as Esc does
         GiveUp  ///< reject this window and all that are open or will be
     };
     /// A modal dialog or menu is open, in front, and idle. May return late: closing it, or opening another one, happens

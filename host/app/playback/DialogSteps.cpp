@@ -1,6 +1,7 @@
 #include "host/app/playback/DialogSteps.h"
 
 #include "host/app/playback/PlaybackText.h"
+#include "host/app/playback/RowActions.h"
 #include "host/app/playback/WidgetActions.h"
 #include "host/app/playback/WidgetFinder.h"
 #include "host/app/playback/WidgetValues.h"

@@ -1,90 +1,8 @@
 #pragma once
 
-#include <QList>
-#include <QString>
-#include <QStringList>
-
-#include <array>
+#include "host/app/playback/PlaybackLine.h"
 
 namespace host::app {
-
-/// What a line of a recorded session does.
-enum class Verb
-{
-    // Between commands
-    Command,
-    Lisp,
-    Undo,
-    Redo,
-    Save,
-    ExpectLisp,
-    ExpectError,
-    // At a prompt
-    Answer,
-    Point,
-    Pick,
-    PickHandle,
-    Window,
-    Crossing,
-    Select,
-    Enter,
-    Cancel,
-    // What must be open next
-    Dialog,
-    Message,
-    File,
-    Menu,
-    // In the dialog that is open
-    Set,
-    Type,
-    Key,
-    Check,
-    Focus,
-    Click,
-    DoubleClick,
-    Row,
-    CheckRow,
-    Cell,
-    Close,
-    Expect,
-    ExpectItems,
-    ExpectEnabled,
-    ExpectVisible,
-    ExpectFocus,
-    ExpectTitle,
-    // Anywhere
-    ExpectPrinted,
-    ExpectModified,
-    ExpectCount,
-    Screenshot
-};
-
-/// When a verb can be used.
-enum class VerbKind
-{
-    Start,
-    Answer,
-    Opening,
-    Widget,
-    Anywhere
-};
-
-/// One line of a session.
-struct Step
-{
-    int line = 0; ///< from 1
-    Verb verb = Verb::Enter;
-    VerbKind kind = VerbKind::Start;
-    /// The arguments, quotes taken off. A text that runs to the end of the line is one argument.
-    QStringList words;
-    /// The arguments that are points, in order, in the drawing's current user coordinates.
-    QList<std::array<double, 3>> points;
-    /// The line as written, without blanks around; for messages.
-    QString source;
-
-    /// The argument, or an empty text where it was left out.
-    QString word(int index) const { return words.value(index); }
-};
 
 /// What is wrong with a line.
 struct ScriptError
@@ -93,20 +11,31 @@ struct ScriptError
     QString message;
 };
 
+/// What is played over a drawing that is opened anew for it.
+struct PlaybackCase
+{
+    int line = 0; ///< where it begins; 0 of a session without cases
+    QString name; ///< empty of a session without cases
+    QList<Step> steps;
+};
+
 /// A session, read and checked. Use it only when `errors` is empty.
 struct PlaybackScript
 {
-    QList<Step> steps;
+    QString drawing;           ///< which one the session is for, as it says itself; empty when it does not
+    QList<Step> steps;         ///< the lines in front of the first case; all lines where there is none
+    QList<PlaybackCase> cases; ///< each with its own lines alone
     QList<ScriptError> errors;
 };
 
-/// Reads the text of a session; the grammar is in docs/playback.md. Every bad line is reported, not just the first.
+/// Reads the text of a session; the grammar is in docs/playback.md. What parts write stands where they are played.
+/// Every bad line is reported, not just the first.
 PlaybackScript parsePlayback(const QString &text);
 
 /// The same with a file, which must be UTF-8 and at most 16 MB. A file that cannot be read gives one error on line 0.
 PlaybackScript readPlayback(const QString &path);
 
-/// All verbs as they are written.
-QStringList playbackVerbs();
+/// What is to be played one after the other: the cases, each with the lines in front of the first one, or all lines.
+QList<PlaybackCase> casesToPlay(const PlaybackScript &script);
 
 } // namespace host::app

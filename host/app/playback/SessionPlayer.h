@@ -1,45 +1,15 @@
 #pragma once
 
 #include "host/app/playback/DialogDriver.h"
+#include "host/app/playback/PlaybackOptions.h"
 #include "host/app/playback/PlaybackScript.h"
 #include "host/kernel/documents/Document.h"
-#include "host/kernel/input/InputFeeder.h"
-#include "host/view/build/Scene.h"
 
-#include <QHash>
 #include <QTimer>
-
-#include <chrono>
-#include <functional>
-#include <optional>
 
 namespace host::app {
 
-/// What a recorded session runs with.
-struct PlaybackOptions
-{
-    /// What ${NAME} stands for in its lines. DRAWING (path of the drawing) and HOME_DIR are set by the player.
-    QHash<QString, QString> variables;
-    /// Where `save` writes, and ${OUT}. Empty: `save` fails.
-    QString outFolder;
-    /// Where `screenshot` writes; empty: the out folder.
-    QString pictureFolder;
-    /// The session fails when it takes longer.
-    std::chrono::milliseconds timeLimit = std::chrono::seconds(120);
-    /// Told of every prompt while it waits, and of none when it is answered: for a window that shows what is asked.
-    std::function<void(const std::optional<kernel::PromptRequest> &request)> showPrompt;
-};
-
-/// What came of a session.
-struct PlaybackResult
-{
-    bool ok = false;
-    int line = 0;      ///< the session's line that failed; 0 when none did
-    QString message;   ///< why it failed, naming the line and what was open
-    QString printed;   ///< everything that was printed on the command line meanwhile
-    QStringList files; ///< drawings and pictures that were written
-    std::vector<std::pair<QString, view::RenderReport>> incomplete{}; ///< pictures that do not show all, by their path
-};
+struct CheckedState;
 
 /// Plays recorded sessions: runs their commands on a document, answers prompts and drives dialogs. Everything that is
 /// not as the session says, left-over lines included, ends it with a message; nothing waits for a person. When it
@@ -48,10 +18,14 @@ struct PlaybackResult
 ///
 /// A session without a main window gets a hidden one, so that programs show message boxes and file dialogs to it as
 /// they would to a person.
+///
+/// A script with cases fails: each of casesToPlay() wants the drawing opened anew, which is the caller's.
 PlaybackResult runSession(const PlaybackScript &script, kernel::Document &document,
                           const PlaybackOptions &options = {});
 /// The same with the text of a session.
 PlaybackResult runSession(const QString &text, kernel::Document &document, const PlaybackOptions &options = {});
+/// The same with one of casesToPlay().
+PlaybackResult runCase(const PlaybackCase &one, kernel::Document &document, const PlaybackOptions &options = {});
 
 /// One session being played. Use runSession().
 class SessionPlayer final : public DialogDriver, public kernel::InputFeeder
@@ -69,36 +43,56 @@ private:
     Reaction handleWindow(QWidget &window, Acquaintance acquaintance) override;
 
     const Step *next() const { return m_position < m_steps.size() ? &m_steps[m_position] : nullptr; }
-    Step take() { return m_steps[m_position++]; }
+    /// The next step with its values filled in; the session has failed when one is missing or wrong.
+    Step take();
     bool hasFailed() const { return !m_result.message.isEmpty(); }
     void fail(const QString &message);
     void failAt(const Step &step, const QString &message);
-    void checkEnd(const QString &open);
-    bool substituteVariables();
+    bool knowsAllNames();
 
+    void playSteps();
     void runStart(const Step &step);
     void runProgram(const Step &step);
+    void rehearse(const Step &step);
+    bool isCancelledHere(const QString &what);
+    bool comparesRun() const;
     kernel::RunResult withScript(const kernel::RunResult &result);
     void finishRun(const Step &step, const kernel::RunResult &result);
+    void finishCancelled(const Step &step, const kernel::RunResult &result);
     QString undoOrRedo(Verb verb);
     QString save(const Step &step);
+    kernel::RunResult evaluate(const QString &expression, QString &error);
     QString expectLisp(const Step &step);
+    QString let(const Step &step);
+    QString onlyIf(const Step &step);
 
     kernel::FeedResult answerPrompt(const kernel::PromptRequest &request, kernel::InputQueue &queue);
-    kernel::InputAnswer answerFor(const Step &step, QString &error);
+    QString answer(const Step &step, kernel::InputQueue &queue);
+    QString actOn(QWidget &window, Acquaintance acquaintance, const Step &step);
+    CheckedState checkedState() const;
     QString check(const Step &step, QWidget *window);
-    QString expectPrinted(const QString &text) const;
-    QString expectCount(const Step &step) const;
     QString screenshot(const Step &step, QWidget *window);
-    QString outputPath(const QString &folder, const QString &name, QString &error) const;
+
+    /// A run that is played several times, cancelled each time at another prompt or window.
+    struct Rehearsal
+    {
+        qsizetype cancelAt = 0; ///< how many prompts and windows are answered before
+        qsizetype opened = 0;
+        QString cancelled; ///< where it was; empty: not yet
+    };
 
     QList<Step> m_steps;
     qsizetype m_position = 0;
     kernel::Document &m_document;
     const PlaybackOptions m_options;
+    QHash<QString, QString> m_values; ///< of the ${NAME}s
     PlaybackResult m_result;
     qsizetype m_printedBefore = 0; ///< length of what was printed before the run under way
+    QByteArray m_opened;           ///< the drawing when the session began, where a line asks for it
+    QByteArray m_before;           ///< the drawing before the run under way, where a line asks for it
     bool m_wasCancelled = false;   ///< the session cancelled a prompt of the run under way
+    bool m_isAbandoned = false;    ///< whatever opens until the run ends is cancelled
+    std::optional<Rehearsal> m_rehearsal;
     QTimer m_watchdog;
 };
 

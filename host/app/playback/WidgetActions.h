@@ -27,13 +27,5 @@ QString giveFocus(QWidget &widget);
 
 /// Presses a button, or the mouse in the middle of anything else.
 QString click(QWidget &widget);
-/// On the row with this text of a list, table or tree; without a text in the middle of the widget.
-QString doubleClick(QWidget &widget, const QString &row);
-
-/// Selects these rows of a list, table or tree, and no others.
-QString selectRows(QWidget &widget, const QStringList &rows);
-QString checkRow(QWidget &widget, const QString &row, bool checked);
-/// Writes into a cell of a table that can be written to; numbers from 0.
-QString setCell(QWidget &widget, int row, int column, const QString &text);
 
 } // namespace host::app

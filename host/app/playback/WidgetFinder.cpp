@@ -3,7 +3,6 @@
 #include "host/app/playback/PlaybackText.h"
 
 #include <QAbstractButton>
-#include <QCoreApplication>
 #include <QDialogButtonBox>
 #include <QGroupBox>
 #include <QLabel>

@@ -94,6 +94,7 @@ const QList<OptionRow> &optionRows()
         {"--screenshot-dir", Value::Needed, {Mode::Window, Mode::Run}, setTextOption<&ProgramOptions::pictureFolder>},
         {"--session", Value::Needed, {Mode::Window}, setTextOption<&ProgramOptions::session>},
         {"--out", Value::Needed, {Mode::Run}, setTextOption<&ProgramOptions::outFolder>},
+        {"--audit", Value::Needed, {Mode::Run}, setTextOption<&ProgramOptions::audit>},
         {"--drawing", Value::Needed, {Mode::Lisp}, setTextOption<&ProgramOptions::drawing>},
         {"--time-limit", Value::Needed, {}, setTimeLimit},
         {"--memory-limit", Value::Needed, {Mode::Run, Mode::Lisp, Mode::Window}, setMemoryLimit},
@@ -137,10 +138,12 @@ QString assignWords(ProgramOptions &options, const QStringList &words)
 {
     switch (options.mode) {
     case Mode::Run:
-        if (words.size() < 2)
-            return u"run needs a session and at least one drawing"_s;
+        if (words.isEmpty())
+            return u"run needs a session"_s;
         options.session = words.first();
         options.drawings = words.mid(1);
+        if (options.audit.isEmpty())
+            options.audit = qEnvironmentVariable("ORTAKIT_AUDIT");
         return {};
     case Mode::Lisp:
         if (words.isEmpty())
@@ -229,14 +232,18 @@ Options of the window:
 
 )";
 
-constexpr auto runHelp = R"(Usage: ortakit run SESSION DRAWING... [--out DIR] [--png] [OPTION...]
+constexpr auto runHelp = R"(Usage: ortakit run SESSION [DRAWING...] [--out DIR] [--png] [OPTION...]
 
-Plays a recorded session over each drawing, one after the other, each opened afresh. The drawings themselves stay as
-they are. Prints a line for each. What a picture does not show, or only in part, is told on standard error, by type.
+Plays a recorded session over each drawing, one after the other, each opened afresh; without a drawing, over the one that
+the session says. The drawings themselves stay as they are. Prints a line for each, and of a session with cases for each
+of them. What a picture does not show, or only in part, is told on standard error, by type.
 
   --trust DIR           run programs of this folder and those below as well; may be given again
-  --out DIR             write the drawings that the session changed there, under their own names
+  --out DIR             write the drawings that the session changed there, under their own names; of a session with
+                        cases, what it saves itself
   --png                 write a picture of each drawing as it is in the end to the out folder, or else beside the drawing
+  --audit PROGRAM       an independent reader for sessions that ask one (default: the environment's ORTAKIT_AUDIT); see
+                        scripts/audit
   --screenshot-dir DIR  where pictures go that the session takes, and those of --png
   --force               write files as well that another program has open, or has changed since they were opened
   --time-limit SECONDS  the most the session may take with one drawing (default 120); one that does not stop then ends the

@@ -41,7 +41,8 @@ struct ProgramOptions
     Mode mode = Mode::Window;
     Mode helpFor = Mode::Window; ///< of Help: Window means the whole program
     QString session;             ///< Run; in a window what is played first
-    QStringList drawings;        ///< Window, Run
+    QStringList drawings;        ///< Window, Run; of Run none when the session says which it is for
+    QString audit;               ///< Run: a program that reads drawings, for sessions that ask it; see DrawingAudit
     QStringList lispFiles;       ///< Lisp
     QString drawing;             ///< Lisp; empty: a new drawing
     QString input;               ///< Convert

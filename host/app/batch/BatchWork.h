@@ -1,0 +1,28 @@
+#pragma once
+
+#include "host/app/workbench/ProgramOptions.h"
+#include "host/app/workbench/Workbench.h"
+#include "host/kernel/documents/DocumentManager.h"
+#include "host/view/build/Scene.h"
+
+namespace host::app {
+
+// What runs over sessions and over programs share. Who tells writes to standard error.
+
+WorkbenchOptions workbenchOptions(const ProgramOptions &options);
+void setForce(Workbench &workbench, const ProgramOptions &options);
+
+/// Tells the problems from `told` on.
+void tellProblems(const Workbench &workbench, qsizetype &told);
+/// Tells which files a session or program should have written and did not.
+bool tellNotWritten(kernel::Session &session);
+/// What is missing in a picture, and whether that is because there was too much.
+int tellMissing(const QString &path, const view::RenderReport &report);
+
+/// A path as people write it on this system.
+QString native(const QString &path);
+
+/// A drawing that another process has open is read as it was saved; its own file is not written then.
+kernel::OpenOutcome openToRead(Workbench &workbench, const QString &path);
+
+} // namespace host::app

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QProcess>
+#include <QString>
+
+namespace host::app {
+
+/// A program that reads drawings and knows nothing of this one's code. It is started once, with "--serve", when the
+/// first drawing is asked about: it reads the path of a drawing a line, and answers each with a line: "ok", or what it
+/// complains about. See scripts/audit.
+class DrawingAudit
+{
+public:
+    /// `program`: its path.
+    explicit DrawingAudit(const QString &program);
+    ~DrawingAudit();
+
+    /// What it finds wrong with the drawing, or that it cannot be asked; empty when the drawing is sound.
+    QString complaints(const QString &path);
+
+private:
+    bool isRunning();
+
+    QString m_program;
+    QProcess m_process;
+};
+
+} // namespace host::app

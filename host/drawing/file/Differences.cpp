@@ -1,0 +1,66 @@
+#include "host/drawing/file/Differences.h"
+
+#include <QHash>
+
+using namespace Qt::StringLiterals;
+
+namespace host::drawing {
+
+namespace {
+
+/// Records by what names them.
+QHash<QString, RecordId> namedRecords(const Drawing &drawing)
+{
+    QHash<QString, RecordId> records;
+    QHash<QString, int> nameless;
+    for (RecordId id = drawing.first(); isValid(id); id = drawing.next(id)) {
+        const QString type = QString::fromUtf8(drawing.typeName(id));
+        QString name = drawing.handle(id).toString();
+        if (drawing.kind(id) == RecordKind::Variable)
+            name = type;
+        else if (drawing.handle(id).isNull())
+            name = u"%1 number %2"_s.arg(type).arg(++nameless[type]);
+        records.insert(name, id);
+    }
+    return records;
+}
+
+QString typeOf(const Drawing &drawing, RecordId id)
+{
+    return QString::fromUtf8(drawing.typeName(id));
+}
+
+} // namespace
+
+QStringList differences(const Drawing &before, const Drawing &after)
+{
+    const QHash<QString, RecordId> old = namedRecords(before);
+    const QHash<QString, RecordId> now = namedRecords(after);
+    QStringList found;
+    for (auto record = old.cbegin(); record != old.cend(); ++record) {
+        const auto same = now.constFind(record.key());
+        if (same == now.cend())
+            found.append(u'-' + typeOf(before, *record));
+        else if (before.bytes(*record) != after.bytes(*same))
+            found.append(u'~' + typeOf(before, *record));
+    }
+    for (auto record = now.cbegin(); record != now.cend(); ++record)
+        if (!old.contains(record.key()))
+            found.append(u'+' + typeOf(after, *record));
+    found.sort();
+    return found;
+}
+
+QStringList counted(const QStringList &sorted)
+{
+    QStringList texts;
+    for (qsizetype i = 0; i < sorted.size();) {
+        const qsizetype first = i;
+        while (i < sorted.size() && sorted[i] == sorted[first])
+            ++i;
+        texts.append(QString::number(i - first) + sorted[first]);
+    }
+    return texts;
+}
+
+} // namespace host::drawing
