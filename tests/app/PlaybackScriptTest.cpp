@@ -63,6 +63,10 @@ TEST(PlaybackScript, TellsWhatIsWrongWithALine)
         {u"answer \"a\"b"_s, u"answer: a quote is not closed, or text follows right behind it"_s},
         {u"answer \"a\" b"_s, u"answer: too much on the line: \"b\""_s},
         {u"lisp (a \\"_s, u"the line goes on (it ends in a backslash), but the session ends"_s},
+        {u"part a"_s, u"part: it has no end"_s},
+        {u"end"_s, u"end: no part was begun"_s},
+        {u"play a"_s, u"play: there is no part a"_s},
+        {u"expect-same-file a"_s, u"expect-same-file: something is missing at the end of the line"_s},
     };
     for (const auto &[line, message] : rows) {
         const PlaybackScript script = parsePlayback(u"# first\n\n"_s + line);
@@ -70,6 +74,75 @@ TEST(PlaybackScript, TellsWhatIsWrongWithALine)
         EXPECT_EQ(script.errors[0].message, message);
         EXPECT_EQ(script.errors[0].line, 3) << line.toStdString();
     }
+}
+
+/// Steps as they are played, a line each.
+QString stepsOf(const QList<Step> &steps)
+{
+    QStringList lines;
+    for (const Step &step : steps)
+        lines.append(step.source);
+    return lines.join(u'|');
+}
+
+TEST(PlaybackScript, PutsPartsWhereTheyArePlayed)
+{
+    const std::pair<QString, QString> rows[] = {
+        {u"part a X Y\npoint ${X}\nanswer <${Y}>${Z}\nend\nplay a 1,2 \"b \\\"c\""_s,
+         u"point 1,2|answer <b \"c>${Z}"_s},
+        {u"part a X REST...\nlisp (f ${REST} ${X})\nend\nplay a 1 \"two\"  three"_s, u"lisp (f \"two\"  three 1)"_s},
+        {u"part a LINE\n${LINE}\nenter\nend\nplay a \"\"\nplay a cancel\nplay a #"_s, u"enter|cancel|enter|enter"_s},
+        {u"part a X\nplay b ${X}${X}\nend\npart b X\nanswer ${X}\nend\nplay a 7"_s, u"answer 77"_s},
+        {u"part a\nend\nplay a"_s, QString()},
+    };
+    for (const auto &[text, steps] : rows) {
+        const PlaybackScript script = parsePlayback(text);
+        EXPECT_TRUE(script.errors.isEmpty()) << script.errors.value(0).message.toStdString();
+        EXPECT_EQ(stepsOf(script.steps), steps);
+    }
+}
+
+TEST(PlaybackScript, TellsWhatIsWrongWithPartsAndWhere)
+{
+    // The error's line is that of the outermost play.
+    const std::tuple<QString, int, QString> rows[] = {
+        {u"part a\n\nclik\nend\nenter\nplay a"_s, 6, u"part a, line 3: unknown word \"clik\""_s},
+        {u"part a X\npoint ${X}\nend\npart b\nplay a one\nend\nplay b"_s, 7,
+         u"part b, line 5, part a, line 2: point: \"one\" is no point; write x,y or x,y,z"_s},
+        {u"part a\nplay b\nend\npart b\nplay a\nend\nplay a"_s, 7,
+         u"part a, line 2, part b, line 5: play: the part a plays itself"_s},
+        {u"part a X Y...\nend\nplay a"_s, 3, u"play: the part a takes X Y..."_s},
+        {u"part a\nend\nplay a b"_s, 3, u"play: the part a takes no arguments"_s},
+        {u"part a\npart b\nend"_s, 2, u"part: the part before it has no end"_s},
+        {u"part a\nend\npart a\nend"_s, 3, u"part: there is a part a already"_s},
+        {u"enter\ndrawing new"_s, 2, u"drawing: only the first line says which drawing it is"_s},
+    };
+    for (const auto &[text, line, message] : rows) {
+        const PlaybackScript script = parsePlayback(text);
+        ASSERT_FALSE(script.errors.isEmpty()) << message.toStdString();
+        EXPECT_EQ(script.errors[0].message, message);
+        EXPECT_EQ(script.errors[0].line, line) << message.toStdString();
+    }
+    QString doubling = u"part p0 X\nanswer ${X}\nend\n"_s;
+    for (int i = 1; i < 60; ++i)
+        doubling += u"part p%1 X\nplay p%2 ${X}${X}\nplay p%2 ${X}\nend\n"_s.arg(i).arg(i - 1);
+    for (const auto &[part, message] : {std::pair(u"p29"_s, u"the parts write too much"_s),
+                                        {u"p59"_s, u"too many parts are played one in the other"_s}})
+        EXPECT_TRUE(parsePlayback(doubling + u"play %1 xxxx"_s.arg(part)).errors.value(0).message.endsWith(message));
+}
+
+TEST(PlaybackScript, PlaysEachCaseBehindTheFirstLines)
+{
+    const PlaybackScript script =
+        parsePlayback(u"drawing a b.dxf\npart p X\ncase ${X}\nend\nlisp 1\ncase one two\nenter\n"
+                      "play p three\ncancel\n"_s);
+    ASSERT_TRUE(script.errors.isEmpty()) << script.errors[0].message.toStdString();
+    EXPECT_EQ(script.drawing, u"a b.dxf"_s);
+    const QList<PlaybackCase> cases = casesToPlay(script);
+    ASSERT_EQ(cases.size(), 2);
+    EXPECT_EQ(cases[0].name + u'=' + stepsOf(cases[0].steps), u"one two=lisp 1|enter"_s);
+    EXPECT_EQ(cases[1].name + u'=' + stepsOf(cases[1].steps), u"three=lisp 1|cancel"_s);
+    EXPECT_EQ(stepsOf(casesToPlay(parsePlayback(u"enter"_s)).value(0).steps), u"enter"_s);
 }
 
 TEST(PlaybackScript, ReportsEveryBadLineAndKeepsNumbersBehindLongOnes)

@@ -23,6 +23,10 @@ struct SessionPlayerTest : testing::Test, HostFixture
         PlaybackOptions options;
         options.outFolder = folder.path();
         options.timeLimit = std::chrono::seconds(20);
+        options.audit = [](const QString &file) {
+            const bool isDrawing = host::drawing::Drawing::open(file).drawing != nullptr;
+            return isDrawing ? QString() : u"complaint about "_s + QFileInfo(file).fileName();
+        };
         return options;
     }
     PlaybackResult play(const QString &text) { return runSession(text, *document, options()); }
@@ -97,6 +101,28 @@ TEST_F(SessionPlayerTest, PlaysWhatHappens)
         {"script of a program",
          u"lisp (command \"SCRIPT\" \"${OUT}/two.scr\")\nanswer 2\nexpect-count CIRCLE 2\nundo\nundo\n"
          "expect-lisp (not (command \"SCRIPT\" \"none.scr\"))\nexpect-modified no"_s},
+        {"values",
+         u"let X (list 1 2)\nlet TEXT (strcat \"a \\\"b\" \"\\\\\")\nlet N 2\nexpect-lisp (equal '${X} '(1 2))\n"
+         "lisp (setq s (getstring T \"Text: \"))\nanswer ${TEXT}\nexpect-lisp (= s \"a \\\"b\\\\\")\nexpect-count LINE ${N}"_s},
+        {"ended by a condition", u"only-if 1\nonly-if nil\nlisp (car 5)"_s},
+        {"one step",
+         u"lisp (entdel (handent \"2A\"))\nexpect-undo\nexpect-changes 1-LINE\nundo\nexpect-changes \"\"\nlisp "
+         "(setq x 1)\nexpect-unchanged"_s},
+        {"files",
+         u"write sub/a.txt \"one\\r\\ntwo ü\"\nexpect-file sub/a.txt two ü\nexpect-text sub/a.txt \"one\\r\\ntwo ü\"\n"
+         "expect-file ${OUT}/sub/a.txt\nwrite b.txt \"one\\r\\ntwo ü\"\nexpect-same-file b.txt sub/a.txt\n"
+         "expect-no-file none.txt"_s},
+        {"not printed", u"lisp (princ \"one\")\nlisp (princ \"two\")\nexpect-not-printed one"_s},
+        {"sound", u"expect-sound\nexpect-sound ${DRAWING}"_s},
+        {"abandoned prompt", u"lisp (progn (vl-catch-all-apply 'getpoint '(\"From: \")) (samplebox) (setq b 7))\n"
+                             "abandon\nexpect-lisp (= b 7)"_s},
+        {"abandoned dialog",
+         u"lisp (setq b (samplebox))\ndialog SampleBox\nclick again\nabandon\nexpect-lisp (null b)"_s},
+        {"cancelled at each prompt and window",
+         u"lisp (setq times 0)\ncancel-each\nlisp (progn (setq times (1+ times)) (setq p (getpoint \"From: \")) (if "
+         "(samplebox) (progn (getint \"N: \") (entdel (handent \"2A\")))))\nexpect-modified no\npoint 1,2\n"
+         "dialog SampleBox\nset name new\nclick accept\nanswer 1\nexpect-lisp (= times 4)\n"
+         "expect-changes 1-LINE\nundo"_s},
         {"change, undo, redo",
          u"lisp (entdel (handent \"2A\"))\nexpect-count LINE 1\nexpect-modified yes\nundo\nexpect-count line 2\n"
          "redo\nexpect-count * 2\nundo"_s},
@@ -167,6 +193,35 @@ TEST_F(SessionPlayerTest, FailsOnWhatItDoesNotExpect)
          u"what was printed is \"two\""_s},
         {"no such entity", u"lisp (entsel)\npickhandle FFF"_s, 2, u"no entity with the handle FFF"_s},
         {"nothing to undo", u"undo"_s, 1, u"there is nothing to undo"_s},
+        {"cases", u"case a\nenter"_s, 1, u"the session has cases"_s},
+        {"value of an error", u"let X (car 5)"_s, 1, u"the run ended with \"bad argument type"_s},
+        {"value of the wrong kind", u"let N 1.5\nexpect-count LINE ${N}"_s, 2, u"\"1.5\" is no whole number"_s},
+        {"value that comes later", u"answer ${X}\nlet X 1"_s, 1, u"${X} is not known"_s},
+        {"line of a part", u"part a X\nexpect-count LINE ${X}\nend\n\nplay a 7"_s, 5,
+         u"line 5, part a, line 2 (expect-count LINE 7): there are 2"_s},
+        {"nothing changed", u"lisp 1\nexpect-undo"_s, 2, u"the run changed nothing"_s},
+        {"two steps",
+         u"lisp (foreach h '(\"2A\" \"2C\") (command \"_.UNDO\" \"_Begin\") (entdel (handent h)) (command \"_.UNDO\" \"_End\"))\nexpect-undo"_s,
+         2, u"undone, the drawing differs from what it was: 1-LINE"_s},
+        {"no run", u"expect-undo"_s, 1, u"there was no run before it"_s},
+        {"changed", u"lisp (entdel (handent \"2A\"))\nexpect-unchanged"_s, 2, u"differs from what it was: 1-LINE"_s},
+        {"other changes", u"lisp (entdel (handent \"2A\"))\nexpect-changes 1-CIRCLE"_s, 2,
+         u"the changes are \"1-LINE\""_s},
+        {"unsound", u"write a.dxf nonsense\nexpect-sound a.dxf"_s, 2, u"complaint about a.dxf"_s},
+        {"printed", u"lisp (princ \"one\")\nexpect-not-printed one"_s, 2, u"what was printed is \"one\""_s},
+        {"no file", u"expect-file none.txt"_s, 1, u"cannot read"_s},
+        {"file without the text", u"write a.txt one\nexpect-file a.txt two"_s, 2, u"its text is \"one\""_s},
+        {"other text", u"write a.txt one\nexpect-text a.txt on"_s, 2, u"the file's text is \"one\""_s},
+        {"file", u"write a.txt one\nexpect-no-file a.txt"_s, 2, u"the file is there"_s},
+        {"other file", u"write a.txt one\nwrite b.txt ore\nexpect-same-file a.txt b.txt"_s, 3,
+         u"differ at byte 1: \"ne\" and \"re\""_s},
+        {"nothing to cancel", u"cancel-each\nundo"_s, 1, u"it stands in front of a command or lisp"_s},
+        {"changed where it was cancelled",
+         u"cancel-each\nlisp (progn (getint \"One: \") (entdel (handent \"2A\")) (getint \"Two: \"))\nanswer 1\nanswer 2"_s,
+         2, u"cancelled at the prompt \"Two:\", the drawing differs from what it was: 1-LINE"_s},
+        {"error where it was cancelled",
+         u"cancel-each\nlisp (if (vl-catch-all-error-p (vl-catch-all-apply 'getint '(\"One: \"))) (car 5))\nanswer 1"_s,
+         2, u"cancelled at the prompt \"One:\", the run ended with \"bad argument type"_s},
     };
     write(u"error.scr"_s, "(car 5)\n");
     write(u"asks.scr"_s, "circle\n");

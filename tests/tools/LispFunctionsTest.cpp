@@ -60,11 +60,15 @@ protected:
         options.variables = {{u"SAMPLES"_s, ToolRun::sample({})}, {u"SESSION_DIR"_s, ToolRun::sample({})}};
         options.outFolder = run.path(u"out"_s);
         ASSERT_TRUE(QDir().mkpath(options.outFolder));
-        Document *document = bench.documents().open(plan).document;
-        ASSERT_TRUE(document);
-        const auto outcome = host::app::runSession(example, *document, options);
-        EXPECT_TRUE(outcome.ok) << outcome.message.toStdString();
-        EXPECT_TRUE(bench.documents().close(document));
+        const host::app::PlaybackScript script = host::app::parsePlayback(example);
+        EXPECT_TRUE(script.errors.isEmpty()) << script.errors.value(0).message.toStdString();
+        for (const host::app::PlaybackCase &one : host::app::casesToPlay(script)) {
+            Document *document = bench.documents().open(plan).document;
+            ASSERT_TRUE(document);
+            const auto outcome = host::app::runCase(one, *document, options);
+            EXPECT_TRUE(outcome.ok) << outcome.message.toStdString();
+            EXPECT_TRUE(bench.documents().close(document));
+        }
     }
 
     ToolRun run;

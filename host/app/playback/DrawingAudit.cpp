@@ -11,7 +11,7 @@ namespace host::app {
 namespace {
 
 /// In milliseconds; large drawings take such a program a while.
-constexpr int patience = 120'000;
+constexpr int auditPatience = 120'000;
 
 } // namespace
 
@@ -24,7 +24,7 @@ DrawingAudit::~DrawingAudit()
 {
     // Its input ends, and so does the program.
     m_process.closeWriteChannel();
-    if (m_process.state() != QProcess::NotRunning && !m_process.waitForFinished(patience))
+    if (m_process.state() != QProcess::NotRunning && !m_process.waitForFinished(auditPatience))
         m_process.kill();
 }
 
@@ -32,7 +32,7 @@ bool DrawingAudit::isRunning()
 {
     if (m_process.state() == QProcess::NotRunning)
         m_process.start(m_program, {u"--serve"_s});
-    return m_process.waitForStarted(patience);
+    return m_process.waitForStarted(auditPatience);
 }
 
 QString DrawingAudit::complaints(const QString &path)
@@ -43,7 +43,8 @@ QString DrawingAudit::complaints(const QString &path)
     elapsed.start();
     if (isRunning()) {
         m_process.write(path.toUtf8() + '\n');
-        while (!m_process.canReadLine() && !elapsed.hasExpired(patience) && m_process.waitForReadyRead(patience)) {
+        while (!m_process.canReadLine() && !elapsed.hasExpired(auditPatience) &&
+               m_process.waitForReadyRead(auditPatience)) {
         }
         if (m_process.canReadLine()) {
             const QString said = QString::fromUtf8(m_process.readLine()).trimmed();
@@ -51,7 +52,7 @@ QString DrawingAudit::complaints(const QString &path)
         }
     }
     m_process.kill();
-    m_process.waitForFinished(patience);
+    m_process.waitForFinished(auditPatience);
     return tr("the reader %1 does not answer").arg(m_program);
 }
 

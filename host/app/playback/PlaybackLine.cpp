@@ -191,7 +191,7 @@ QString filledIn(const QString &text, const QHash<QString, QString> &values)
         filled += values.value(match.captured(1), match.captured(0));
         from = match.capturedEnd();
     }
-    return filled + QStringView(text).sliced(from);
+    return filled.append(QStringView(text).sliced(from));
 }
 
 QString fillIn(Step &step, const QHash<QString, QString> &values)
