@@ -1,5 +1,6 @@
 #include "host/app/playback/WidgetActions.h"
 
+#include "host/app/playback/RowActions.h"
 #include "host/app/playback/WidgetFinder.h"
 #include "host/app/playback/WidgetValues.h"
 #include "platform/widgets/CKvQtUnitSpinBox.h"
