@@ -1,0 +1,78 @@
+// Lisp files on one drawing.
+
+#include "files/qt/Files.h"
+#include "host/app/batch/BatchRuns.h"
+#include "host/app/batch/BatchWork.h"
+#include "host/app/batch/UnattendedFeeder.h"
+#include "host/app/workbench/LimitWatch.h"
+#include "host/app/workbench/ProgramOutput.h"
+#include "host/lisp/Paths.h"
+
+#include <QFile>
+
+using namespace Qt::StringLiterals;
+
+namespace host::app {
+
+namespace {
+
+kernel::RunResult loadLisp(kernel::Document &document, const QString &file)
+{
+    if (file != "-"_L1)
+        return document.loadLisp(file);
+    QFile input;
+    if (!input.open(stdin, QIODevice::ReadOnly))
+        return {.ok = false, .value = {}, .error = input.errorString(), .report = {}};
+    return document.run(QString::fromUtf8(input.readAll()), u"standard input"_s);
+}
+
+bool isReadable(const QString &file)
+{
+    QFile probe;
+    if (file == "-"_L1 || files::openRegular(probe, file, lisp::largestTextFile).isEmpty())
+        return true;
+    writeMessage(u"%1: the file cannot be read"_s.arg(native(file)));
+    return false;
+}
+
+} // namespace
+
+int runLispFiles(const ProgramOptions &options)
+{
+    if (!std::all_of(options.lispFiles.begin(), options.lispFiles.end(), isReadable))
+        return ExitFileError;
+    const std::chrono::milliseconds timeLimit = options.timeLimit.value_or(std::chrono::milliseconds());
+    const LimitWatch watch(LimitWatch::withTimeToStop(timeLimit), options.lispFiles.join(", "_L1));
+    Workbench workbench(workbenchOptions(options));
+    setForce(workbench, options);
+    UnattendedFeeder nobody(timeLimit);
+    workbench.session().setFeeder(&nobody);
+    kernel::Document *document = nullptr;
+    if (options.drawing.isEmpty()) {
+        document = workbench.documents().create();
+    } else if (const auto opened = openToRead(workbench, options.drawing)) {
+        document = opened.document;
+    } else {
+        writeMessage(opened.error);
+        return ExitFileError;
+    }
+    qsizetype told = 0;
+    tellProblems(workbench, told);
+    QObject::connect(document, &kernel::Document::printed, document, writeResult);
+    int status = ExitDone;
+    for (const QString &file : options.lispFiles) {
+        kernel::RunResult result = loadLisp(*document, file);
+        if (result.ok)
+            result = workbench.session().runQueue();
+        if (result.ok && nobody.problem().isEmpty())
+            continue;
+        writeMessage(native(file) + u": "_s + (nobody.problem().isEmpty() ? result.error : nobody.problem()));
+        status = ExitFailed;
+        break;
+    }
+    workbench.session().setFeeder(nullptr);
+    workbench.documents().close(document);
+    return tellNotWritten(workbench.session()) && status == ExitDone ? ExitFileError : status;
+}
+
+} // namespace host::app
