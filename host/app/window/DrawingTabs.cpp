@@ -1,25 +1,80 @@
 #include "host/app/window/DrawingTabs.h"
 
+#include "host/app/window/DrawingCanvas.h"
+#include "host/app/window/DrawingTabBar.h"
+
+#include <QDir>
+
 namespace host::app {
 
-QSize DrawingTabBar::tabSizeHint(int index) const
+DrawingTabs::Many::Many(DrawingTabs &tabs) : m_tabs(tabs)
 {
-    const QChar button = tabButton(index, RightSide) || tabButton(index, LeftSide) ? u'1' : u'0';
-    const QString key = button + tabText(index);
-    const auto known = m_sizes.constFind(key);
-    if (known != m_sizes.constEnd())
-        return *known;
-    // The texts of tabs that were closed or renamed are not kept for ever.
-    if (m_sizes.size() > 4 * count() + 100)
-        m_sizes.clear();
-    return *m_sizes.insert(key, QTabBar::tabSizeHint(index));
+    ++m_tabs.m_many;
+    m_tabs.tabBar()->hide();
 }
 
-void DrawingTabBar::changeEvent(QEvent *event)
+DrawingTabs::Many::~Many()
 {
-    // Another style or font measures otherwise.
-    m_sizes.clear();
-    QTabBar::changeEvent(event);
+    if (--m_tabs.m_many > 0)
+        return;
+    m_tabs.tabBar()->show();
+    emit m_tabs.manyEnded();
+}
+
+DrawingTabs::DrawingTabs(QWidget *parent) : QTabWidget(parent)
+{
+    setTabBar(new DrawingTabBar(this));
+    setDocumentMode(true);
+    setTabsClosable(true);
+    setFocusPolicy(Qt::NoFocus);
+}
+
+DrawingCanvas *DrawingTabs::add(kernel::Document &document)
+{
+    auto *canvas = new DrawingCanvas(document);
+    canvas->setGround(m_ground);
+    addTab(canvas, {});
+    updateTitle(document);
+    return canvas;
+}
+
+void DrawingTabs::remove(const kernel::Document *document)
+{
+    delete canvas(tabOf(document));
+}
+
+DrawingCanvas *DrawingTabs::canvas(int index) const
+{
+    return qobject_cast<DrawingCanvas *>(widget(index));
+}
+
+int DrawingTabs::tabOf(const kernel::Document *document) const
+{
+    for (int i = 0; i < count(); ++i)
+        if (DrawingCanvas *tab = canvas(i); tab && &tab->document() == document)
+            return i;
+    return -1;
+}
+
+void DrawingTabs::updateTitle(const kernel::Document &document)
+{
+    const int index = tabOf(&document);
+    if (index < 0)
+        return;
+    // An & in a file name is no mnemonic.
+    const QString title = document.title().replace(u'&', QStringLiteral("&&"));
+    const QString name = document.isReadOnly() ? tr("%1 (read only)").arg(title) : title;
+    const QString text = document.isModified() ? name + u'*' : name;
+    if (tabText(index) != text)
+        setTabText(index, text);
+    setTabToolTip(index, Qt::convertFromPlainText(QDir::toNativeSeparators(document.path()), Qt::WhiteSpaceNormal));
+}
+
+void DrawingTabs::setGround(view::Ground ground)
+{
+    m_ground = ground;
+    for (int i = 0; i < count(); ++i)
+        canvas(i)->setGround(ground);
 }
 
 } // namespace host::app

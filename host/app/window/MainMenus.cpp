@@ -1,7 +1,9 @@
 // The menus of the main window.
 
 #include "host/app/window/CommandLine.h"
+#include "host/app/window/CommandRunner.h"
 #include "host/app/window/DrawingCanvas.h"
+#include "host/app/window/DrawingTabs.h"
 #include "host/app/window/MainWindow.h"
 #include "host/app/window/Mnemonics.h"
 #include "platform/kernel/CKvHelp.h"
@@ -14,7 +16,6 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
-#include <QTabWidget>
 
 using namespace Qt::StringLiterals;
 
@@ -83,10 +84,10 @@ void MainWindow::buildFileMenu()
 void MainWindow::buildEditMenu()
 {
     QMenu &menu = *menuBar()->addMenu(tr("&Edit"));
-    m_undo =
-        addAction(menu, tr("&Undo"), QKeySequence(u"Ctrl+Z"_s), WhenBusy::Disabled, [this] { runFromMenu(u"_U"_s); });
+    m_undo = addAction(menu, tr("&Undo"), QKeySequence(u"Ctrl+Z"_s), WhenBusy::Disabled,
+                       [this] { m_runner->start(u"_U"_s); });
     m_redo = addAction(menu, tr("&Redo"), QKeySequence(u"Ctrl+Y"_s), WhenBusy::Disabled,
-                       [this] { runFromMenu(u"_REDO"_s); });
+                       [this] { m_runner->start(u"_REDO"_s); });
 }
 
 void MainWindow::buildViewMenu()
@@ -129,7 +130,7 @@ void MainWindow::buildToolsMenu()
     for (qsizetype i = 0; i < entries.size(); ++i) {
         const ToolEntry &entry = entries[i];
         QAction *action =
-            addAction(menu, captions[i], {}, WhenBusy::Disabled, [this, entry] { runFromMenu(entry.command); });
+            addAction(menu, captions[i], {}, WhenBusy::Disabled, [this, entry] { m_runner->start(entry.command); });
         action->setToolTip(entry.tip);
         action->setStatusTip(u"%1 (%2)"_s.arg(entry.tip, entry.command));
     }

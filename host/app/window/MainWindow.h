@@ -4,7 +4,6 @@
 #include "host/app/window/AppStyle.h"
 #include "host/app/window/FileActions.h"
 #include "host/app/workbench/Workbench.h"
-#include "host/kernel/input/PromptRequest.h"
 #include "host/view/display/AciColor.h"
 
 #include <QAction>
@@ -15,14 +14,15 @@
 #include <QTimer>
 
 class QActionGroup;
-class QLabel;
 class QTabWidget;
 
 namespace host::app {
 
 class CommandLine;
+class CommandRunner;
 class DrawingCanvas;
-class WindowFeeder;
+class DrawingStatus;
+class DrawingTabs;
 
 /// The window: drawings in tabs, one command line for all, menus and a status bar.
 ///
@@ -38,7 +38,7 @@ public:
 
     Workbench &workbench() { return *m_workbench; }
     CommandLine &commandLine() { return *m_commandLine; }
-    QTabWidget &tabs() { return *m_tabs; }
+    QTabWidget &tabs();
     /// Null when no drawing is open.
     DrawingCanvas *canvas() const;
     kernel::Document *document() const;
@@ -76,29 +76,17 @@ private:
     void showHelp();
     void showAbout();
 
-    class ManyTabs;
-
-    void buildStatusBar();
-    void connectCommandLine();
+    void connectRunner();
     void openAll(const QStringList &drawings);
     void addTab(kernel::Document *document);
-    void removeTab(kernel::Document *document);
     void activateTab(int index);
     void showActive(kernel::Document *document);
     /// Whether the user lets the tab's drawing go; it may have been saved for that.
     bool mayClose(int index);
     void closeTab(int index);
     bool closeAllTabs();
-    int tabOf(const kernel::Document *document) const;
 
-    bool isBusy() const;
-    void runQueue();
-    /// The window was to be closed while something ran.
-    void closeIfWanted();
-    void answer(const kernel::InputAnswer &answer);
     void cancel();
-    void runFromMenu(const QString &command);
-    void showRequest(const std::optional<kernel::PromptRequest> &request);
     void tellProblems();
     void loadPreferences();
     void savePreferences() const;
@@ -107,17 +95,17 @@ private:
     void updateWindowTitle();
     void updateReport();
     void setGround(view::Ground ground);
+
+    // In DroppedFiles.cpp.
     void openDropped(const QStringList &paths);
 
     std::unique_ptr<Workbench> m_workbench;
-    std::unique_ptr<WindowFeeder> m_feeder;
     FileActions m_files;
-    QTabWidget *m_tabs;
+    DrawingTabs *m_tabs;
     CommandLine *m_commandLine;
     QDockWidget *m_commandDock;
-    QLabel *m_coordinates;
-    QLabel *m_status;
-    QLabel *m_notDrawn;
+    std::unique_ptr<CommandRunner> m_runner;
+    std::unique_ptr<DrawingStatus> m_status;
     QList<QAction *> m_idleActions; ///< disabled while something runs
     QAction *m_undo = nullptr;
     QAction *m_redo = nullptr;
@@ -125,12 +113,9 @@ private:
     QAction *m_whiteGround = nullptr;
     QAction *m_lightStyle = nullptr;
     QAction *m_darkStyle = nullptr;
-    view::Ground m_ground = view::Ground::Black;
     QTimer m_reportTimer;
     qsizetype m_problemsTold = 0;
-    int m_manyTabs = 0;       ///< ManyTabs that there are
-    bool m_isRunning = false; ///< the queue is being worked off
-    bool m_isCloseWanted = false;
+    bool m_isCloseWanted = false; ///< the window was to be closed while something ran
 };
 
 } // namespace host::app

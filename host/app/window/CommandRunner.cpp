@@ -1,0 +1,110 @@
+#include "host/app/window/CommandRunner.h"
+
+#include "host/app/window/CommandLine.h"
+
+namespace host::app {
+
+CommandRunner::CommandRunner(kernel::Session &session, CommandLine &commandLine)
+    : m_session(session), m_commandLine(commandLine), m_feeder(session.input())
+{
+    m_session.setFeeder(&m_feeder);
+    connect(&m_feeder, &WindowFeeder::requestChanged, this, [this] { showRequest(m_feeder.request()); });
+}
+
+CommandRunner::~CommandRunner()
+{
+    m_session.setFeeder(nullptr);
+}
+
+bool CommandRunner::isBusy() const
+{
+    const auto &documents = m_session.documents().documents();
+    return m_isRunning ||
+           std::any_of(documents.begin(), documents.end(), [](const auto &open) { return open->isBusy(); });
+}
+
+void CommandRunner::enter(const QString &text)
+{
+    kernel::InputQueue &queue = m_session.input();
+    if (m_feeder.request()) {
+        queue.pushTyped(text);
+    } else if (isBusy()) {
+        m_commandLine.print(tr("\nA command is running; Esc stops it.\n"));
+    } else if (!document()) {
+        m_commandLine.print(tr("\nNo drawing is open.\n"));
+    } else {
+        queue.pushTyped(text);
+        runQueue();
+    }
+}
+
+void CommandRunner::answer(const kernel::InputAnswer &answer)
+{
+    if (m_feeder.request())
+        m_session.input().push(answer);
+}
+
+void CommandRunner::runQueue()
+{
+    m_isRunning = true;
+    m_feeder.forgetCancel();
+    emit stateChanged();
+    m_session.runQueue();
+    m_isRunning = false;
+    const bool isUnfinished = !m_session.input().isEmpty();
+    m_commandLine.setUnfinished(isUnfinished);
+    m_commandLine.setPrompt(isUnfinished ? tr("(_>") : tr("Command:"));
+    if (document() && !document()->impliedSelection().empty())
+        document()->setImpliedSelection({});
+    emit stateChanged();
+    emit ended();
+}
+
+PlaybackResult CommandRunner::play(const PlaybackScript &script, PlaybackOptions options)
+{
+    if (isBusy() || !document())
+        return {.ok = false, .line = 0, .message = tr("No session can be played now."), .printed = {}, .files = {}};
+    m_isRunning = true;
+    emit stateChanged();
+    options.showPrompt = [this](const std::optional<kernel::PromptRequest> &request) { showRequest(request); };
+    PlaybackResult result = runSession(script, *document(), options);
+    m_isRunning = false;
+    if (!result.ok)
+        m_commandLine.print(u'\n' + result.message + u'\n');
+    emit stateChanged();
+    emit ended();
+    return result;
+}
+
+void CommandRunner::cancel()
+{
+    m_feeder.cancel();
+    if (isBusy())
+        return;
+    m_session.input().clear();
+    m_commandLine.setUnfinished(false);
+    m_commandLine.setPrompt(tr("Command:"));
+    if (document())
+        document()->setImpliedSelection({});
+}
+
+void CommandRunner::start(const QString &command)
+{
+    if (!document() || isBusy())
+        return;
+    // The rest of an expression that was begun at the command line is not what the menu means.
+    m_session.input().clear();
+    enter(command);
+}
+
+void CommandRunner::showRequest(const std::optional<kernel::PromptRequest> &request)
+{
+    emit requestChanged(request);
+    const bool takesBlanks = request && request->kind == kernel::PromptKind::String && request->allowSpaces;
+    m_commandLine.setSpace(takesBlanks ? CommandLine::Space::IsText : CommandLine::Space::Enters);
+    m_commandLine.setPrompt(request ? request->prompt : tr("Command:"));
+    m_commandLine.setFocus();
+    emit stateChanged();
+}
+
+} // namespace host::app

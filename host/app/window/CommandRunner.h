@@ -1,0 +1,54 @@
+#pragma once
+
+#include "host/app/playback/SessionPlayer.h"
+#include "host/app/window/WindowFeeder.h"
+#include "host/kernel/documents/Session.h"
+
+namespace host::app {
+
+class CommandLine;
+
+/// What runs in the window: one line, program or recorded session at a time, on the active drawing. While one runs,
+/// what is entered answers its prompts. The command line shows the prompt, and what cannot be done is told there.
+class CommandRunner final : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// Feeds the session's prompts as long as it lives; session and command line must outlive it.
+    CommandRunner(kernel::Session &session, CommandLine &commandLine);
+    ~CommandRunner() override;
+
+    /// Whether anything runs, in any of the drawings.
+    bool isBusy() const;
+    /// Answers the prompt that waits, else runs the line.
+    void enter(const QString &text);
+    /// Runs a command in place of what was begun at the command line; nothing while another one runs.
+    void start(const QString &command);
+    /// Answers the prompt that waits; nothing when there is none.
+    void answer(const kernel::InputAnswer &answer);
+    /// Stops what runs; else gives up what was begun or chosen.
+    void cancel();
+    /// Stops what runs.
+    void stop() { m_feeder.cancel(); }
+    PlaybackResult play(const PlaybackScript &script, PlaybackOptions options);
+
+signals:
+    /// What the pointer may answer from now on; nothing between prompts.
+    void requestChanged(const std::optional<host::kernel::PromptRequest> &request);
+    /// What can be done now may be another.
+    void stateChanged();
+    void ended();
+
+private:
+    kernel::Document *document() const { return m_session.documents().active(); }
+    void runQueue();
+    void showRequest(const std::optional<kernel::PromptRequest> &request);
+
+    kernel::Session &m_session;
+    CommandLine &m_commandLine;
+    WindowFeeder m_feeder;
+    bool m_isRunning = false; ///< the queue is being worked off, or a session played
+};
+
+} // namespace host::app
