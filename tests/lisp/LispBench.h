@@ -46,40 +46,39 @@ public:
     int stopAtPoll = 1'000'000'000;
 };
 
-/// An interpreter with such a console.
-struct Bench
-{
-    TestConsole console;
-    Interpreter interpreter{console};
-
-    /// The printed result, or "! " and the error without its place.
-    std::string operator()(std::string_view source)
-    {
-        const Outcome outcome = interpreter.run(source);
-        if (outcome.ok())
-            return toText(outcome.value);
-        std::string text = "! " + outcome.error->message();
-        if (!outcome.error->function.empty())
-            text += " in (" + outcome.error->function + ")";
-        if (outcome.error->argument > 0)
-            text += ", argument " + std::to_string(outcome.error->argument);
-        return text;
-    }
-};
-
 struct Row
 {
     const char *source;
     const char *expected;
 };
 
-/// Each source in an interpreter of its own.
-inline void check(const std::vector<Row> &rows)
+/// An interpreter with such a console.
+struct Bench
 {
-    for (const Row &row : rows) {
-        Bench bench;
-        EXPECT_EQ(bench(row.source), row.expected) << row.source;
+    explicit Bench(const Settings &settings = {}) : interpreter(console, settings) {}
+
+    TestConsole console;
+    Interpreter interpreter;
+
+    /// The printed result, or "! " and the error without its place; "!! " when `*error*` dealt with it.
+    std::string operator()(std::string_view source)
+    {
+        const Outcome outcome = interpreter.run(source);
+        if (outcome.ok())
+            return toText(outcome.value);
+        std::string text = (outcome.error->handledByProgram ? "!! " : "! ") + outcome.error->message();
+        if (!outcome.error->function.empty())
+            text += " in (" + outcome.error->function + ")";
+        if (outcome.error->argument > 0)
+            text += ", argument " + std::to_string(outcome.error->argument);
+        return text;
     }
-}
+    /// One behind the other.
+    void check(const std::vector<Row> &rows)
+    {
+        for (const Row &row : rows)
+            EXPECT_EQ((*this)(row.source), row.expected) << row.source;
+    }
+};
 
 } // namespace host::lisp::test

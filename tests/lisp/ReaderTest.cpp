@@ -5,8 +5,10 @@
 using namespace host::lisp;
 using namespace host::lisp::test;
 
+namespace {
+
 /// All forms of a text, fed in pieces of `size` bytes, or the error.
-static std::string readInPieces(const std::string &text, std::size_t size)
+std::string readInPieces(const std::string &text, std::size_t size)
 {
     Bench bench;
     Reader reader(bench.interpreter, "piece");
@@ -94,3 +96,5 @@ TEST(Reader, AfterAnErrorItStartsAnew)
     reader.feed("(d)\n");
     EXPECT_EQ(toText(*reader.next()), "(D)");
 }
+
+} // namespace
