@@ -1,7 +1,5 @@
 #include "tests/kernel/Bench.h"
 
-#include <ostream>
-
 using namespace host::kernel;
 
 Bench::Bench() : session({.home = folder.path() + QStringLiteral("/home"), .supportFolders = {}, .helpFolder = {}})
@@ -55,21 +53,4 @@ QString Bench::write(const char *name, const QByteArray &content) const
     EXPECT_TRUE(file.open(QIODevice::WriteOnly));
     file.write(content);
     return file.fileName();
-}
-
-std::ostream &operator<<(std::ostream &stream, const LispCase &row)
-{
-    return stream << row.name;
-}
-
-void LispTable::check()
-{
-    const LispCase &row = GetParam();
-    if (*row.setUp) {
-        ASSERT_NE(lisp(row.setUp).substr(0, 5), "error");
-    }
-    if (row.typed)
-        type(row.typed);
-    EXPECT_EQ(lisp(row.expression), row.expected);
-    EXPECT_TRUE(session.input().isEmpty()) << "left over";
 }

@@ -34,22 +34,3 @@ protected:
 private:
     QString m_printed;
 };
-
-/// One row of a table of Lisp cases.
-struct LispCase
-{
-    const char *name;
-    const char *setUp; ///< evaluated first
-    const char *expression;
-    const char *expected;
-    const char *typed = nullptr; ///< for the prompts of the expression
-};
-
-std::ostream &operator<<(std::ostream &stream, const LispCase &row);
-
-/// Gives the row its host and compares.
-class LispTable : public Bench, public testing::WithParamInterface<LispCase>
-{
-protected:
-    void check();
-};

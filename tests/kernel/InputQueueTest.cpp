@@ -1,5 +1,7 @@
 #include "host/kernel/input/InputQueue.h"
 
+#include "host/kernel/input/Keywords.h"
+
 #include <gtest/gtest.h>
 
 using namespace host::kernel;
@@ -67,17 +69,6 @@ TEST(InputQueue, theBeginningOfAnExpressionWaits)
     EXPECT_TRUE(queue.isEmpty());
 }
 
-TEST(InputQueue, answersComeWholeAndInOrder)
-{
-    InputQueue queue;
-    queue.pushTyped(QStringLiteral("a"));
-    queue.push(TextAnswer{QStringLiteral("b c")});
-    queue.pushTyped(QStringLiteral("d"));
-    EXPECT_EQ(std::get<TextAnswer>(*queue.take(requestFor('w'))).text, QStringLiteral("a"));
-    EXPECT_EQ(std::get<TextAnswer>(*queue.take(requestFor('w'))).text, QStringLiteral("b c"));
-    EXPECT_EQ(std::get<TextAnswer>(*queue.take(requestFor('w'))).text, QStringLiteral("d"));
-}
-
 TEST(InputQueue, scriptsComeBeforeWhatIsTypedAheadAndReplaceEachOther)
 {
     using enum InputQueue::ScriptOutcome;
@@ -88,8 +79,10 @@ TEST(InputQueue, scriptsComeBeforeWhatIsTypedAheadAndReplaceEachOther)
             words += std::get<TextAnswer>(*queue.take(requestFor('w'))).text.toStdString();
         return words;
     };
-    queue.pushTyped(QStringLiteral("script typed"));
-    EXPECT_EQ(taken(), "script");
+    queue.pushTyped(QStringLiteral("script"));
+    queue.push(TextAnswer{QStringLiteral("b c")});
+    queue.pushTyped(QStringLiteral("typed"));
+    EXPECT_EQ(taken(2), "scriptb c") << "answers come whole and in order";
     EXPECT_EQ(queue.pushScript(QStringLiteral("a b")), Taken);
     EXPECT_EQ(queue.pushScript(QStringLiteral("c d")), Taken) << "a was not begun";
     EXPECT_EQ(taken(3), "abc");
@@ -100,12 +93,9 @@ TEST(InputQueue, scriptsComeBeforeWhatIsTypedAheadAndReplaceEachOther)
         EXPECT_EQ(queue.pushScript(QStringLiteral("again\n\n")), Taken) << "nothing but blanks was left";
         EXPECT_EQ(taken(), "again");
     }
-    queue.clear();
-    queue.push(TextAnswer{QStringLiteral("x")});
-    const QString large(32 * 1024 * 1024, u'y');
-    EXPECT_EQ(queue.pushScript(large), Taken);
-    EXPECT_EQ(queue.pushScript(large), TooLong);
-    EXPECT_EQ(taken(2).size(), std::size_t(large.size()) + 1);
+    EXPECT_EQ(queue.pushScript(QStringLiteral("x")), Taken);
+    EXPECT_EQ(queue.pushScript(QString(64 * 1024 * 1024, u'y')), TooLong) << "with what waits";
+    EXPECT_EQ(taken(), "x");
 }
 
 TEST(InputQueue, aLongScriptIsTakenInAReasonableTime)
@@ -117,6 +107,45 @@ TEST(InputQueue, aLongScriptIsTakenInAReasonableTime)
     while (!queue.isEmpty() && queue.take(requestFor('w')))
         ++taken;
     EXPECT_EQ(taken, count);
+}
+
+struct KeywordCase
+{
+    const char *keywords; ///< with a blank between
+    const char *typed;
+    const char *expected; ///< null: no match
+};
+
+const std::vector<KeywordCase> keywordCases = {
+    {"Yes No", "y", "Yes"},       {"Yes No", "YES", "Yes"},        {"Yes No", "yess", nullptr},
+    {"Yes No", "_No", "No"},      {"Yes No", "", nullptr},         {"Yes No", "_", nullptr},
+    {"LType", "l", nullptr},      {"LType", "LT", "LType"},        {"LType", "lty", "LType"},
+    {"LTYPE,LT", "lt", "LTYPE"},  {"LTYPE,LT", "ltyp", "LTYPE"},   {"LTYPE,LT", "l", nullptr},
+    {"LTYPE,LT", "LTX", nullptr}, {"eXit", "x", "eXit"},           {"eXit", "xi", "eXit"},
+    {"eXit", "ex", "eXit"},       {"eXit", "e", nullptr},          {"SAVE", "s", nullptr},
+    {"SAVE", "save", "SAVE"},     {"BEgin Begone", "be", "BEgin"}, {"BEgin Begone", "begone", "Begone"},
+    {"auto", "a", nullptr},       {"auto", "AUTO", "auto"},        {"2D 3D", "3d", "3D"},
+};
+
+TEST(Keywords, abbreviations)
+{
+    for (const KeywordCase &row : keywordCases) {
+        SCOPED_TRACE(std::string(row.keywords) + " / " + row.typed);
+        const QStringList keywords = QString::fromUtf8(row.keywords).split(u' ');
+        const std::optional<QString> found = matchKeyword(QString::fromUtf8(row.typed), keywords);
+        EXPECT_EQ(found.value_or(QStringLiteral("-")), QString::fromUtf8(row.expected ? row.expected : "-"));
+    }
+}
+
+TEST(Keywords, namesToReadAndWhatIsTypedForThem)
+{
+    const QStringList keywords = {QStringLiteral(". for none,."), QStringLiteral("Enter to 0,5")};
+    EXPECT_EQ(matchKeyword(QStringLiteral("."), keywords), QStringLiteral("."));
+    EXPECT_EQ(matchKeyword(QStringLiteral(". for none"), keywords), QStringLiteral(".")) << "picked from a menu";
+    EXPECT_EQ(matchKeyword(QStringLiteral(".x"), keywords), std::nullopt);
+    EXPECT_EQ(matchKeyword(QStringLiteral("5"), keywords), QStringLiteral("Enter to 0")) << "not its beginning";
+    EXPECT_EQ(formatPrompt(QStringLiteral("Path"), keywords.first(1), QStringLiteral("a b")),
+              QStringLiteral("Path [. for none] <a b>: "));
 }
 
 } // namespace

@@ -31,7 +31,7 @@ TEST(OdResBufTest, aLongChainIsFreedWithoutRecursion)
 {
     OdResBufPtr first = OdResBuf::newRb(OdResBuf::kRtNil);
     OdResBuf *last = first.get();
-    for (int i = 0; i < 1'000'000; ++i)
+    for (int i = 0; i < 300'000; ++i)
         last = last->setNext(OdResBuf::newRb(OdResBuf::kRtNil));
     EXPECT_EQ(first->takeNext()->restype(), OdResBuf::kRtNil);
     EXPECT_EQ(first->next(), nullptr);

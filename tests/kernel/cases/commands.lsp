@@ -1,0 +1,114 @@
+; `dir` is a folder of the case's own.
+(defun file (name text / f) (setq f (open (strcat dir name) "w")) (princ text f) (close f) (strcat dir name))
+(defun shapes (/ e all)
+  (setq e (entnext))
+  (while e
+    (setq all (cons (mapcar 'cdr (vl-remove-if-not '(lambda (g) (member (car g) '(0 10 11 40))) (entget e))) all)
+          e (entnext e)))
+  (reverse all))
+(defun field (code) (cdr (assoc code (entget (entlast)))))
+(defun block (name inner)
+  (entmake (list '(0 . "BLOCK") (cons 2 name) '(70 . 0) '(10 0.0 0.0 0.0)))
+  (entmake '((0 . "POINT") (10 0.0 0.0 0.0)))
+  (foreach i inner (insert i))
+  (entmake '((0 . "ENDBLK"))))
+(defun insert (name) (entmake (list '(0 . "INSERT") (cons 2 name) '(10 0.0 0.0 0.0))))
+(defun blocks (/ b all)
+  (while (setq b (tblnext "BLOCK" (not b))) (setq all (cons (cdr (assoc 2 b)) all)))
+  (reverse all))
+(defun purge-blocks (pattern) (command "_.-PURGE" "_Blocks" pattern "_No") (blocks))
+
+; Calls that are no dialogue: more or less than is asked for, in pieces, given up
+(command "CIRCLE" '(0 0) 1 2.5 '(3 3) "x")(command "POINT" '(1 1))(shapes)
+;= (("CIRCLE" (0.0 0.0 0.0) 1.0) ("POINT" (1.0 1.0 0.0)))
+(command "_.U")(command "LINE" '(0 0))(foreach p '((1 0) (2 0)) (command p))(command "")(length (shapes)) ;= 2
+(command "_.U")(command "LINE" '(0 0) '(1 0))(command)(command "CIRCLE" '(0 0) 1)(mapcar 'car (shapes)) ;= ("LINE" "CIRCLE")
+(command "_.U")(command "LINE" '(0 0) '(1 0)) (getvar "CMDNAMES") ;= "LINE"
+(length (shapes)) ;= 1
+(command "LINE" '(0 0))(setq name (getvar "CMDNAMES"))(car 5) ;= error: bad argument type: listp 5 in (CAR), argument 1
+(list name (getvar "CMDNAMES") (length (shapes))) ;= ("LINE" "" 1)
+(command "LINE" '(0 0) '(1 0) "nonsense" '(1 0) "")(length (shapes)) ;= 1
+(command "NOSUCH" '(0 0)) ;> Unknown command "NOSUCH". ;= nil
+(command "_.-INSERT" "nosuch" '(1 1) 1 1 0)(length (shapes)) ;> Cannot find block or file "nosuch". ;= 1
+
+; Typed: expressions, a command of a program and its repetition, variables, a script
+(shapes) ;! line (list 1 2) (list 3 4) \n ;= (("LINE" (1.0 2.0 0.0) (3.0 4.0 0.0)))
+(entdel (entlast))(defun c:twice (/ p) (setq p (getpoint "\nWhere: ")) (command "CIRCLE" p pause) (command "POINT" p)) ;= C:TWICE
+(mapcar 'cdr (shapes)) ;! twice 1,2 7\n\n3,4 1\n ;= (((1.0 2.0 0.0) 7.0) ((1.0 2.0 0.0)) ((3.0 4.0 0.0) 1.0) ((3.0 4.0 0.0)))
+(command "ORTHOMODE" 1)(mapcar 'getvar '("OSMODE" "LIMMAX" "ORTHOMODE")) ;! osmode 7\nlimmax 5,6\n ;= (7 (5.0 6.0) 1)
+(getvar "ERRNO") ;! dwgname\n ;> (read only) ;= 0
+a ;! (setq a (+ 1 2))\n!a\n ;> \n3 ;= 3
+(command "SCRIPT" (strcat dir "none.scr")) ;> Cannot read script ;= nil
+(setvar "CMDECHO" 0)(command "CIRCLE" '(0 0) 1) ;= nil
+(setvar "CMDECHO" 1)(command "CIRCLE" '(0 0) 1) ;> Specify center point for circle or [3P/2P/Ttr (tan tan radius)]: ;= nil
+
+; WBLOCK and -INSERT carry a drawing; what was written stays
+(command "LINE" '(10 10) '(12 10) "")(command "CIRCLE" '(50 50) 1)
+(command "_.-WBLOCK" (strcat dir "symbol.dwg") "" '(10 10) (ssget "X" '((0 . "LINE"))) "")
+(list (mapcar 'car (shapes)) (vl-file-size (strcat dir "none")) (< 100 (vl-file-size (strcat dir "symbol.dwg"))))
+;= (("LINE" "CIRCLE") nil T)
+(command "_.-INSERT" (strcat "SYM=" dir "symbol.dwg") '(1 1) 1 1 0)(list (field 2) (field 10)) ;= ("SYM" (1.0 1.0 0.0))
+(setq e (entget (cdr (assoc -2 (tblsearch "BLOCK" "SYM")))))(mapcar '(lambda (c) (cdr (assoc c e))) '(0 11)) ;= ("LINE" (12.0 10.0 0.0))
+
+; Layers
+(command "_.-LAYER" "_N" "A,B" "_C" "3" "A" "_OFF" "B" "_LO" "A" "_S" "A" "_F" "A,B" "")
+(getvar "CLAYER") ;> Cannot freeze layer "A" ;= "A"
+(mapcar '(lambda (n) (mapcar '(lambda (c) (cdr (assoc c (tblsearch "LAYER" n)))) '(62 70))) '("A" "B")) ;= ((3 4) (-7 1))
+
+; Views
+(command "LINE" '(0 0) '(100 50) "")(command "ZOOM" "_E")(setq h (getvar "VIEWSIZE"))(getvar "VIEWCTR") ;= (50.0 25.0 0.0)
+(command "ZOOM" "2x")(equal (getvar "VIEWSIZE") (/ h 2) 1e-9) ;= T
+(command "ZOOM" "_W" '(0 0) '(10 10))(list (getvar "VIEWCTR") (< 10 (getvar "VIEWSIZE") 11)) ;= ((5.0 5.0 0.0) T)
+
+; Linetypes of a file: the first of a name, kept or read anew
+(setq my (file "my.lin" "*DASH,first\nA,1,-1\n*DOTS,. .\nA,0,-1\n*BAD,b\nA,one\n*dash,second\nA,2,-2\n"))
+(defun dash () (cdr (assoc 40 (tblsearch "LTYPE" "DASH"))))
+(command "_.-LINETYPE" "_Load" "DASH" "none.lin" "") ;> Cannot read linetype file "none.lin". ;= nil
+(command "_.-LINETYPE" "_Load" "NONE" my "") ;> No matching linetypes found. ;= nil
+(command "_.-LINETYPE" "_L" "BAD" my "")(dash) ;> Linetype "BAD" not loaded: "one" is no length. ;= nil
+(command "_.-LINETYPE" "_Load" "D*" my "")(dash) ;> Linetype "DOTS" loaded. ;= 2.0
+(setq d (entget (tblobjname "LTYPE" "DASH")))(entmod (subst '(40 . 9.0) (assoc 40 d) d))
+(command "_.-LINETYPE" "_Load" "dash" my "_No" "")(dash) ;> already loaded. Reload it? ;= 9.0
+(command "_.-LINETYPE" "_Load" "dash" my "_Yes" "_Set" "DASH" "")(list (dash) (getvar "CELTYPE")) ;= (2.0 "DASH")
+
+; Shapes of a loaded file
+(command "_.SHAPE" "BOX") ;> Cannot find shape "BOX". Load its file first. ;= nil
+(command "_.LOAD" "none") ;> Cannot read shape file "none". ;= nil
+(setq signs (file "signs.shp" "*1,2,BOX\n010,0\n"))
+(command "_.LOAD" signs "_.LOAD" signs "_.SHAPE" "box" '(1 2) 0.0)(entlast) ;= nil
+(command "_.SHAPE" "box" '(1 2) "" "90")(mapcar 'field '(0 10 40 2)) ;= ("SHAPE" (1.0 2.0 0.0) 1.0 "BOX")
+(tblnext "STYLE" T)(list (= (cdr (assoc 3 (tblnext "STYLE"))) signs) (tblnext "STYLE")) ;= (T nil)
+
+; Only blocks that nothing needs go: not what is shown, within what is shown or stays, an arrow, named by extended data
+(block "A" nil)(block "B" nil)(block "C" '("B"))(insert "C")(purge-blocks "*") ;= ("B" "C")
+(block "D" nil)(block "E" '("D"))(purge-blocks "D") ;= ("B" "C" "D" "E")
+(purge-blocks "*") ;= ("B" "C")
+(block "A1" nil)(block "A2" nil)(entmake '((0 . "TEXT") (8 . "A1") (1 . "A1") (10 0.0 0.0 0.0) (40 . 1.0)))
+(purge-blocks "a#") ;= ("B" "C")
+(block "F" nil)(setq r (cdr (assoc 330 (entget (tblobjname "BLOCK" "F")))))
+(entmod (append (entget (tblobjname "DIMSTYLE" "Standard")) (list (cons 342 r))))(purge-blocks "*") ;= ("B" "C" "F")
+(block "G" nil)(regapp "X")(setq h (cdr (assoc 5 (entget (tblobjname "BLOCK" "G")))))
+(entmake (list '(0 . "POINT") '(10 0.0 0.0 0.0) (list -3 (list "X" (cons 1005 h)))))
+(purge-blocks "*") ;= ("B" "C" "F" "G")
+(block "H" nil)(block "I" nil)(command "_.-PURGE" "_Blocks" "*" "_Yes" "_No" "_Yes")(blocks) ;= ("B" "C" "F" "G" "H")
+
+; References are attached and their paths changed
+(setq empty "  0\nSECTION\n  2\nENTITIES\n  0\nENDSEC\n  0\nEOF\n" site (file "site.dwg" empty))
+(command "_.-XREF" "_Attach" site '(1.0 2.0 0.0) 2.0 3.0 90.0)(mapcar 'field '(2 10 41 42)) ;= ("site" (1.0 2.0 0.0) 2.0 3.0)
+(setq s (tblsearch "BLOCK" "SITE"))(list (= (cdr (assoc 1 s)) site) (cdr (assoc 70 s))) ;= (T 4)
+(command "_.-XREF" "_Path" "SI*" "d:/a b/site.dwg")(cdr (assoc 1 (tblsearch "BLOCK" "site"))) ;= "d:/a b/site.dwg"
+(block "A" nil)(setq before (entlast))(command "_.-XREF" "_Attach" "none.dwg") ;> Cannot find file "none.dwg". ;= nil
+(command "_.-XREF" "_Attach" (file "A.dwg" empty)) ;> The name "A" is a block's already. ;= nil
+(command "_.-XREF" "_Path" "A" "x")(eq before (entlast)) ;> No matching references found. ;= T
+
+; The draw order is kept in drawings that can
+(setq p (mapcar '(lambda (x) (entmakex (list '(0 . "POINT") (list 10 x 0 0)))) '(1 2 3 4 5)))
+(defun e (i) (nth (1- i) p))
+(command "_.DRAWORDER" (e 2) "" "_Front")(order) ;= "13452"
+(command "_.DRAWORDER" (e 5) (e 2) "" "_Front")(order) ;= "13452"
+(command "_.DRAWORDER" (e 4) "" "_Back")(order) ;= "41352"
+(command "_.DRAWORDER" (e 3) "" "")(order) ;= "34152"
+(command "_.DRAWORDER" (e 3) "" "_Above" (e 1) (e 2) "")(order) ;= "41523"
+(command "_.DRAWORDER" (e 5) "" "_Under" (e 1) (e 2) "")(order) ;= "45123"
+(entmake '((0 . "POINT") (10 6 0 0)))(entdel (e 1))(order) ;= "45236"
+(command "_.UNDO" 2)(order) ;= "41523"

@@ -1,0 +1,70 @@
+; Lines at x = 0, 10, 20 from y = 0 to 5; a circle round (50 50) on layer RED; a text at (0 30).
+(foreach x '(0.0 10.0 20.0) (entmake (list '(0 . "LINE") '(8 . "0") (list 10 x 0.0 0.0) (list 11 x 5.0 0.0))))
+(entmake '((0 . "LAYER") (2 . "RED") (70 . 0) (62 . 1)))
+(entmake '((0 . "CIRCLE") (8 . "RED") (62 . 3) (10 50.0 50.0 0.0) (40 . 5.0)))
+(entmake '((0 . "TEXT") (8 . "0") (10 0.0 30.0 0.0) (40 . 2.0) (1 . "Plan A")))
+(defun all (code set / i out)
+  (repeat (setq i (if set (sslength set) 0)) (setq i (1- i) out (cons (cdr (assoc code (entget (ssname set i)))) out))))
+(defun types (set) (all 0 set))
+(defun places (set) (mapcar 'car (all 10 set)))
+(defun count (set) (if set (sslength set) 0))
+
+(types (ssget "X")) ;= ("TEXT" "CIRCLE" "LINE" "LINE" "LINE")
+(count (ssget "X" '((0 . "LINE")))) ;= 3
+(count (ssget "X" '((0 . "LINE") (-4 . ">=,*,*") (10 10.0 0.0 0.0)))) ;= 2
+(count (ssget "X" '((-4 . "<OR") (0 . "TEXT") (-4 . "<AND") (0 . "LINE") (10 0.0 0.0 0.0) (-4 . "AND>") (-4 . "OR>"))))
+;= 2
+(count (ssget "X" '((410 . "Model")))) ;= 5
+(substr (vl-catch-all-error-message (vl-catch-all-apply 'ssget '("X" ((-4 . "<OR") (0 . "LINE"))))) 1 14)
+;= "bad SSGET list"
+(places (ssget "W" '(-1 -1) '(11 6))) ;= (10.0 0.0)
+(places (ssget "P")) ;= (10.0 0.0)
+(ssget "W" '(-1 -1) '(11 4)) ;= nil
+(places (ssget "C" '(-1 -1) '(11 4))) ;= (10.0 0.0)
+(types (ssget "C" '(-1 -1) '(100 100) '((0 . "CIRCLE")))) ;= ("CIRCLE")
+(places (ssget "F" '((5 2) (25 2)))) ;= (20.0 10.0)
+(places (ssget "WP" '((-1 -1) (5 -1) (5 6) (-1 6)))) ;= (0.0)
+(places (ssget "CP" '((-1 2) (15 2) (15 3)))) ;= (10.0 0.0)
+(list (places (ssget '(10.0 2.0))) (ssget '(15.0 2.0)) (types (ssget "L"))) ;= ((10.0) nil ("TEXT"))
+(ssget "Q") ;= error: bad argument value: SSGET mode string "Q" in (SSGET), argument 1
+
+; Answered at the prompt
+(count (ssget)) ;< all\n\n ;= 5
+(places (ssget)) ;< 0,2\n\n ;= (0.0)
+(places (ssget)) ;< 0,2\n10,2\n0,3\n\n ;= (0.0 10.0)
+(places (ssget)) ;< -1,-1\n11,6\n\n ;= (0.0 10.0)
+(places (ssget)) ;< 15,3\n-1,-1\n\n ;= (0.0 10.0)
+(places (ssget)) ;< w\n-1,-1\n11,6\n\n ;= (0.0 10.0)
+(places (ssget)) ;< f\n5,2\n25,2\n\n\n ;= (10.0 20.0)
+(count (ssget)) ;< all\nr\n0,2\n\n ;= 4
+(count (ssget)) ;< all\nr\nc\n-1,-1\n25,3\na\n0,2\n\n ;= 3
+(places (ssget)) ;< 0,2\nall\nu\n\n ;= (0.0)
+(types (ssget)) ;< l\n\n ;= ("TEXT")
+(types (ssget '((0 . "CIRCLE")))) ;< all\n\n ;= ("CIRCLE")
+(places (ssget ":S")) ;< 0,2\n ;= (0.0)
+(ssget) ;< \n ;= nil
+(count (ssget)) ;< foo\nall\n\n ;= 5
+(types (ssget)) ;< (entlast)\n\n ;= ("TEXT")
+(ssget) ;= error: Function cancelled in (SSGET)
+
+; Layers that are locked, frozen, off
+(command "_.-LAYER" "_LO" "RED" "")(count (ssget "_:L")) ;< all\n\n ;= 4
+(command "_.-LAYER" "_F" "RED" "")(list (count (ssget "A")) (count (ssget "X"))) ;= (4 5)
+(command "_.-LAYER" "_T" "RED" "_OFF" "RED" "")(ssget '(55.0 50.0)) ;= nil
+
+; One entity
+(cdr (setq s (entsel))) ;< 10.1,2 ;= ((10.1 2.0 0.0))
+(cdr (assoc 10 (entget (car s)))) ;= (10.0 0.0 0.0)
+(list (entsel) (getvar "ERRNO")) ;< 15,2 ;= (nil 7)
+(list (entsel) (getvar "ERRNO")) ;< \n ;= (nil 52)
+(initget "Name")(entsel) ;< name ;= "Name"
+
+; Inside a block, and outside, where there is no matrix
+(entmake '((0 . "BLOCK") (2 . "B") (70 . 0) (10 0 0 0)))
+(entmake '((0 . "LINE") (8 . "0") (10 0 0 0) (11 4 0 0)))(entmake '((0 . "CIRCLE") (8 . "0") (10 2 2 0) (40 . 1)))
+(entmake '((0 . "ENDBLK")))
+(entmake '((0 . "INSERT") (2 . "B") (10 100.0 100.0 0.0) (41 . 2.0) (42 . 2.0) (43 . 2.0)))
+(setq n (nentsel))(list (cdr (assoc 0 (entget (car n)))) (equal (cadddr n) (list (entlast)))) ;< 104,106 ;= ("CIRCLE" T)
+(caddr n) ;= ((2.0 0.0 0.0) (0.0 2.0 0.0) (0.0 0.0 2.0) (100.0 100.0 0.0))
+(cdr (assoc 0 (entget (car (nentselp '(102.0 100.0)))))) ;= "LINE"
+(length (nentsel)) ;< 10,2 ;= 2
