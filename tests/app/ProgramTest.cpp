@@ -1,4 +1,5 @@
 #include "tests/app/AppFixture.h"
+#include "tests/support/CaseFile.h"
 #include "tests/support/QtTestPrinters.h"
 
 #include <QDir>
@@ -30,31 +31,12 @@ struct ProgramTest : testing::Test
         write(u"b.dxf"_s, smallDrawing());
         write(u"solid.dxf"_s, QByteArray(smallDrawing()).replace("0\nCIRCLE\n", "0\n3DSOLID\n"));
         write(u"broken.dxf"_s, "0\nSECTION\n2\nENT");
-        write(u"erase.txt"_s, "lisp (entdel (handent \"2A\"))\nexpect-count LINE 1\n");
-        write(u"fails.txt"_s, "expect-count LINE 7\n");
-        write(u"looks.txt"_s, "expect-count LINE 2\n");
-        write(u"sees.txt"_s, "expect-modified no\n");
-        write(u"asks.txt"_s, "lisp (getpoint \"Where: \")\n");
-        write(u"bad.txt"_s, "enter\nnonsense\n");
-        write(u"good.lsp"_s, "(princ (strcat \"sum \" (itoa (+ 1 2)) \" größe\\n\"))(princ)\n");
-        write(u"error.lsp"_s, "(princ \"before\")\n(car 5)\n");
-        write(u"asks.lsp"_s, "(princ (getint \"How many: \"))\n(princ \"went on\")\n");
-        write(u"draw.scr"_s,
-              "; one shape\ncircle 1,1 2\n(princ (strcat \"drawn \" (itoa (sslength (ssget \"_X\")))))\n");
-        write(u"script.lsp"_s, "(command \"SCRIPT\" \"draw.scr\")(princ)\n");
-        write(u"again.scr"_s, "circle 1,1 2\nSCRIPT again.scr\n");
-        write(u"again.lsp"_s, "(command \"SCRIPT\" \"again.scr\")(princ)\n");
-        write(u"again.txt"_s, "command SCRIPT\nanswer again.scr\n");
-        write(u"fills.lsp"_s, "(setvar \"LISPHEAPMAX\" 1000000)(while t (setq l (cons 1 l)))\n");
-        write(u"loops.lsp"_s, "(while t (vl-catch-all-apply 'car '(5)))\n");
-        write(u"stops.lsp"_s, "(command \"SCRIPT\" \"error.lsp\")(princ)\n");
-        write(u"loads.lsp"_s, "(load \"good\")");
-        write(u"whose.lsp"_s, "(princ (if (kora_string_trim \" a \") \"installed\"))");
         EXPECT_TRUE(QDir(folder.path()).mkpath(u"tools"_s) && QDir(folder.path()).mkpath(u"support"_s));
         EXPECT_TRUE(QDir(folder.path()).mkpath(u"sub"_s));
         write(u"sub/remote.dxf"_s,
               QByteArray(smallDrawing()).replace("0\nCIRCLE\n", "0\nRTEXT\n70\n0\n1\n../good.lsp\n"));
-        write(u"support/strings.lsp"_s, "(princ \"a stranger's\")");
+        for (const auto &row : runs.groups.at(0))
+            write(QString::fromStdString(row.text('~')), QByteArray::fromStdString(row.lines('=')));
         // Blocks within blocks, deeper than they are opened.
         QByteArray blocks;
         for (int i = 0; i < 40; ++i)
@@ -108,90 +90,25 @@ struct ProgramTest : testing::Test
     }
 
     QTemporaryDir folder;
+    /// The files that are there, then what is run in their folder.
+    const ortakit::test::CaseFile runs = ortakit::test::readCases(ortakit::test::testFile("app/program.runs"));
     rlim_t room = RLIM_INFINITY; ///< how large a file may become, as where the disk ends
 };
 
 TEST_F(ProgramTest, EndsWithTheStatusItsManualNames)
 {
-    // Arguments, the status, and parts of what goes to the output and to the messages.
-    const std::tuple<QString, int, QString, QString> rows[] = {
-        {u"--version"_s, 0, u"ortakit "_s, {}},
-        {u"--help"_s, 0, u"Exit status: 0 done"_s, {}},
-        {u"run --help"_s, 0, u"Usage: ortakit run"_s, {}},
-        {u"lisp good.lsp"_s, 0, u"sum 3 größe\n"_s, {}},
-        {u"lisp good.lsp --drawing a.dxf"_s, 0, u"sum 3"_s, {}},
-        {u"lisp script.lsp --drawing a.dxf --trust ."_s, 0, u"drawn 4"_s, {}},
-        {u"lisp script.lsp --drawing a.dxf"_s, 0, u"draw.scr was not loaded: its folder is not trusted."_s, {}},
-        {u"lisp loads.lsp"_s, 1, u"good.lsp was not loaded: its folder is not trusted."_s, u"LOAD failed: \"good\""_s},
-        {u"lisp loads.lsp --trust none --trust=."_s, 0, u"sum 3"_s, {}},
-        {u"lisp whose.lsp --tools %1/share/ortakit/tools"_s.arg(qEnvironmentVariable("ORTAKIT_BUILD")),
-         0,
-         u"installed"_s,
-         {}},
-        {u"convert a.dxf copy.dxf"_s, 0, {}, {}},
-        {u"convert a.dxf copy.dxf --strict --json"_s, 0, u"{\"input\":\"a.dxf\",\"output\":\"copy.dxf\"}\n"_s, {}},
-        {u"convert a.dxf picture.png --strict --json"_s,
-         0,
-         u"{\"complete\":true,\"cutShort\":false,\"drawn\":3,\"inPart\":{},\"input\":\"a.dxf\",\"invisible\":0,"
-         "\"notDrawn\":{},\"output\":\"picture.png\"}\n"_s,
-         {}},
-        {u"convert solid.dxf solid.png --json"_s, 0, u"\"notDrawn\":{\"3DSOLID\":1}"_s,
-         u"ortakit: solid.dxf: 1 not drawn (3DSOLID 1)\n"_s},
-        {u"convert sub/remote.dxf remote.png --json"_s, 0, u"\"inPart\":{\"RTEXT\":1}"_s,
-         u"good.lsp was not read: it is not in the drawing's folder."_s},
-        {u"convert sub/remote.dxf remote.png --json --allow-read ."_s, 0, u"\"inPart\":{}"_s, {}},
-        {u"convert a.dxf picture.png"_s, 0, {}, {}},
-        {u"convert a.dxf picture.svg"_s, 0, {}, {}},
-        {u"convert a.dxf picture.pdf"_s, 0, {}, {}},
-        {u"run erase.txt a.dxf b.dxf --out out --png"_s, 0, u"a.dxf: done, out/a.dxf, out/a.png\n"_s, {}},
-        {u"run looks.txt a.dxf --out unchanged"_s, 0, u"a.dxf: done\n"_s, {}},
-
-        {u"lisp stops.lsp --trust ."_s, 1, u"before"_s, u"stops.lsp: bad argument type"_s},
-        {u"lisp error.lsp"_s, 1, u"before"_s, u"error.lsp"_s},
-        {u"lisp fills.lsp --memory-limit 20"_s, 1, {}, u"fills.lsp: out of memory (limit 20 MB) in (CONS)"_s},
-        {u"lisp loops.lsp --time-limit 0.3"_s, 1, {}, u"loops.lsp: it took longer than 0.3 s"_s},
-        {u"lisp again.lsp --time-limit 0.3 --trust ."_s, 1, u"Command: circle"_s,
-         u"again.lsp: it took longer than 0.3 s"_s},
-        {u"run again.txt a.dxf --time-limit 0.3 --trust ."_s, 1, u"a.dxf: failed"_s,
-         u"the session took longer than 0.3 s"_s},
-        {u"lisp asks.lsp"_s, 1, {}, u"asks.lsp"_s},
-        {u"run fails.txt a.dxf"_s, 1, u"a.dxf: failed\n"_s, u"line 1 (expect-count LINE 7): there are 2"_s},
-        {u"run asks.txt a.dxf"_s, 1, u"a.dxf: failed\n"_s, u"the prompt \"Where:\" is open"_s},
-        {u"run bad.txt a.dxf"_s, 1, {}, u"bad.txt:2: unknown word \"nonsense\""_s},
-        {u"run fails.txt a.dxf b.dxf"_s, 1, u"b.dxf: failed\n"_s, {}},
-
-        {u"--nonsense"_s, 2, {}, u"there is no option --nonsense"_s},
-        {u"run erase.txt"_s, 2, {}, u"at least one drawing"_s},
-        {u"run erase.txt a.dxf --strict"_s, 2, {}, u"--strict has no meaning here"_s},
-        {u"convert a.dxf a.txt"_s, 2, {}, u"the extension must be dxf, png, svg, pdf"_s},
-        {u"run erase.txt a.dxf ./a.dxf --out out"_s, 2, {}, u"the same name"_s},
-        {u"a.dxf"_s, 2, {}, u"there is no display"_s},
-
-        {u"convert solid.dxf solid.pdf --strict"_s, 3, {}, u"solid.dxf: 1 not drawn (3DSOLID 1)"_s},
-        {u"run erase.txt a.dxf broken.dxf"_s, 3, u"broken.dxf: not read\n"_s, u"broken.dxf"_s},
-
-        {u"convert deep.dxf deep.png"_s, 5, {}, u"deep.dxf: cut short: there is more than is drawn in one go\n"_s},
-        {u"run sees.txt deep.dxf --png --out deep"_s, 5, u"deep.dxf: done, deep/deep.png\n"_s,
-         u"deep.png: cut short"_s},
-        {u"run sees.txt a.dxf deep.dxf --png --out some"_s, 3, {}, u"deep.png: cut short"_s},
-
-        {u"lisp none.lsp"_s, 4, {}, u"none.lsp"_s},
-        {u"lisp good.lsp --drawing none.dxf"_s, 4, {}, u"none.dxf"_s},
-        {u"run none.txt a.dxf"_s, 4, {}, u"none.txt"_s},
-        {u"run erase.txt none.dxf broken.dxf"_s, 4, u"none.dxf: not read\n"_s, {}},
-        {u"run erase.txt a.dxf --out a.dxf/out"_s, 4, {}, u"a.dxf/out"_s},
-        {u"convert none.dxf copy.dxf"_s, 4, {}, u"none.dxf"_s},
-        {u"convert a.dxf none/copy.dxf"_s, 4, {}, u"none/copy.dxf"_s},
-        {u"convert a.dxf none/copy.png"_s, 4, {}, u"none/copy.png"_s},
-        {u"convert a.dxf copy.dwg"_s, 4, {}, u"this program cannot write DWG files"_s},
-    };
-    for (const auto &[arguments, status, output, message] : rows) {
-        const Ended ended = run(arguments);
-        const std::string name = arguments.toStdString();
-        EXPECT_EQ(ended.status, status) << name << '\n' << ended.messages.toStdString();
-        EXPECT_TRUE(ended.output.contains(output)) << name << '\n' << ended.output.toStdString();
-        EXPECT_TRUE(ended.messages.contains(message)) << name << '\n' << ended.messages.toStdString();
+    for (std::size_t i = 1; i < runs.groups.size(); ++i) {
+        for (const auto &row : runs.groups[i]) {
+            SCOPED_TRACE(row.place + ' ' + row.source);
+            const QString arguments = QString::fromStdString(row.source);
+            const Ended ended = run(QString(arguments).replace(u"%BUILD%"_s, qEnvironmentVariable("ORTAKIT_BUILD")));
+            EXPECT_EQ(std::to_string(ended.status), row.text('=')) << ended.messages.toStdString();
+            EXPECT_TRUE(ended.output.contains(QString::fromStdString(row.lines('>')))) << ended.output.toStdString();
+            EXPECT_TRUE(ended.messages.contains(QString::fromStdString(row.lines('?'))))
+                << ended.messages.toStdString();
+        }
     }
+    EXPECT_GT(runs.groups.size(), 5u);
     // What those runs have left behind: converted without changing a byte, changed as a copy only.
     EXPECT_EQ(read(u"copy.dxf"_s), smallDrawing());
     EXPECT_FALSE(QImage(folder.filePath(u"picture.png"_s)).isNull());
@@ -257,13 +174,6 @@ TEST_F(ProgramTest, EndsAToolWhoseDialogCouldNotHandOverWhatWasChosen)
     EXPECT_TRUE(ended.output.contains(u"tool.state could not be written: what was chosen is lost"_s));
     EXPECT_TRUE(ended.output.contains(u"none/tool.state cannot be written"_s));
     EXPECT_TRUE(ended.output.endsWith(u"(nil T nil new)"_s)) << ended.output.toStdString();
-}
-
-TEST_F(ProgramTest, ReadsExpressionsFromStandardInput)
-{
-    const Ended ended = run(u"lisp -"_s, "(princ (* 6 7))");
-    EXPECT_EQ(ended.status, 0);
-    EXPECT_EQ(ended.output, u"42"_s);
 }
 
 /// A program that has "a.dxf" open and waits for its standard input.
@@ -332,9 +242,9 @@ TEST_F(ProgramTest, WritesNothingThatAnotherOneHasOpen)
 
 TEST_F(ProgramTest, TellsOfAMissingModuleOnStandardErrorOnly)
 {
-    const Ended ended = run(u"lisp good.lsp --module none.so"_s);
+    const Ended ended = run(u"lisp - --module none.so"_s, "(princ (* 6 7))");
     EXPECT_EQ(ended.status, 0);
-    EXPECT_EQ(ended.output, u"sum 3 größe\n"_s);
+    EXPECT_EQ(ended.output, u"42"_s) << "read from standard input";
     EXPECT_TRUE(ended.messages.contains(u"none.so"_s));
     EXPECT_TRUE(ended.messages.contains(u"Tools with dialogs will not work."_s));
 }
