@@ -157,12 +157,10 @@ private:
 class MakeShapeTool : public ToolTest
 {
 protected:
-    static QString confirmed(const QString &file, const QString &resolution, const QString &name = u"new"_s,
-                             bool isReplaced = false)
+    static QString confirmed(const QString &file, const QString &resolution)
     {
-        return u"command MAKESHAPE\ndialog Dlg_QT_MakeShape\nset shapeFile %1\nset name %2\nset resolution \"%3\"\n"
-               "click acceptButton\n%4"_s.arg(file, name, resolution,
-                                              isReplaced ? u"message already Yes\n"_s : QString());
+        return u"command MAKESHAPE\ndialog Dlg_QT_MakeShape\nset shapeFile %1\nset name new\nset resolution %2\n"
+               "click acceptButton\n"_s.arg(file, resolution);
     }
     static QString picked(const QString &base) { return u"window 90,-20 140,30\nenter\npoint %1\n"_s.arg(base); }
 
@@ -242,87 +240,6 @@ TEST_F(MakeShapeTool, TheBytesDrawWhatWasPicked)
             EXPECT_LE(farthest(expected, drawn), tolerance);
             EXPECT_LE(farthest(drawn, expected), tolerance);
         }
-    }
-}
-
-TEST_F(MakeShapeTool, NumbersAndReplacesInFilesThatAreThere)
-{
-    const struct
-    {
-        const char *what;
-        QByteArray before;
-        QByteArray after; ///< with the definition's own lines as %
-        QString name;
-        QByteArray number;
-        bool isReplaced;
-    } rows[] = {
-        {"new file", "", "%", u"new"_s, "1", false},
-        {"first free number", ";; mine\n*1,2,A\n16,0\n\n*3,2,C\n16,0\n", ";; mine\n*1,2,A\n16,0\n\n*3,2,C\n16,0\n%",
-         u"new"_s, "2", false},
-        {"hexadecimal ones count", "*01,2,A\n16,0\n*002,2,B\n16,0\n", "*01,2,A\n16,0\n*002,2,B\n16,0\n%", u"new"_s, "3",
-         false},
-        {"replaced, its number stays", "*1,2,A\n16,0\n*07,2,New\n1,\n16,0\n\n;; c\n*9,2,C\n16,0",
-         "*1,2,A\n16,0\n%\n;; c\n*9,2,C\n16,0", u"nEw"_s, "07", true},
-    };
-    for (const auto &row : rows) {
-        SCOPED_TRACE(row.what);
-        run.writeFile(u"my.shp"_s, row.before);
-        plays(line + confirmed(file, u"10"_s, row.name, row.isReplaced) + picked(u"100,0"_s));
-        QByteArray expected = row.after;
-        expected.replace("%", "*" + row.number + ",6,NEW\n3,10,160,4,10,0\n");
-        EXPECT_EQ(ToolRun::readFile(file), expected);
-    }
-}
-
-TEST_F(MakeShapeTool, WhatCannotBeAShapeIsSaidAndNothingIsWritten)
-{
-    const QString manyLines =
-        u"lisp (repeat 1200 (entmake (list '(0 . \"LINE\") (list 10 (+ 100.0 (setq x (+ (if x x 0.0) "
-        "0.02))) (* 10.0 (abs (sin (* 37 x)))) 0.0) (list 11 (+ 100.01 x) 0.0 0.0))))\n"_s;
-    QByteArray full;
-    for (int number = 1; number <= 255; ++number)
-        full += "*" + QByteArray::number(number) + ",2,N" + QByteArray::number(number) + "\n16,0\n";
-    const QString atStart = picked(u"100,0"_s);
-    const struct
-    {
-        QString message;
-        QString answers = {}; ///< behind the dialog
-        QByteArray before = {};
-        QString name = u"new"_s;
-        QString resolution = u"10"_s;
-        QString drawn = u"lisp (entmake '((0 . \"LINE\") (10 100.0 0.0 0.0) (11 110.0 0.0 0.0)))\n"_s;
-    } rows[] = {
-        {u"3 picked, 3 of no use: 1 of another kind, 2 tilted or in space."_s,
-         u"window 90,-20 140,30\nenter\n"_s,
-         {},
-         u"new"_s,
-         u"10"_s,
-         u"lisp (foreach one '(((0 . \"TEXT\") (10 100.0 0.0 0.0) (40 . 1.0) (1 . \"X\")) ((0 . \"CIRCLE\") "
-         "(10 0.0 0.0 105.0) (40 . 4.0) (210 1.0 0.0 0.0)) ((0 . \"POLYLINE\") (66 . 1) (70 . 8)) ((0 . \"VERTEX\") "
-         "(10 100.0 0.0 0.0) (70 . 32)) ((0 . \"VERTEX\") (10 110.0 0.0 9.0) (70 . 32)) ((0 . \"SEQEND\"))) (entmake one))\n"_s},
-        {u"The resolution must be a whole number from 1 to 255."_s, {}, {}, u"new"_s, u"fine"_s},
-        {u"The resolution must be"_s, {}, {}, u"new"_s, u"0"_s},
-        {u"The resolution must be"_s, {}, {}, u"new"_s, u"256"_s},
-        {u"The resolution must be"_s, {}, {}, u"new"_s, u"1.5"_s},
-        {u"A shape cannot be named A,B."_s, {}, {}, u"a,b"_s},
-        {u"A shape cannot be named TÜR."_s, {}, {}, u"tür"_s},
-        {u"2000 are the most"_s, atStart, {}, u"new"_s, u"255"_s, manyLines},
-        {u"The insertion point is too far away"_s, picked(u"99999,0"_s)},
-        {u"The file has no free number left"_s, atStart, full},
-        {u"is a text font"_s, atStart, "*0,4,txt\n6,2,0,0\n"},
-        {u"does not look like a file of definitions"_s, atStart, "Dear reader,\n"},
-        {u"Select lines"_s, u"cancel\n"_s},
-        {u"Specify insertion point"_s, u"window 90,-20 140,30\nenter\ncancel\n"_s},
-    };
-    for (const auto &row : rows) {
-        SCOPED_TRACE(row.message.toStdString());
-        QFile::remove(file);
-        if (!row.before.isNull())
-            run.writeFile(u"my.shp"_s, row.before);
-        plays(row.drawn + confirmed(file, row.resolution, row.name) + row.answers +
-              u"expect-printed %1\n"_s.arg(row.message));
-        EXPECT_EQ(ToolRun::readFile(file), row.before);
-        EXPECT_EQ(QFile::exists(file), !row.before.isNull());
     }
 }
 

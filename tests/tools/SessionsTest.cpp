@@ -2,7 +2,6 @@
 // named by its folder and its file.
 
 #include "host/app/batch/BatchWork.h"
-#include "host/app/playback/DrawingAudit.h"
 #include "host/app/playback/SessionPlayer.h"
 #include "tests/support/QtTestPrinters.h"
 #include "tests/tools/ToolRun.h"
@@ -22,19 +21,12 @@ QString inSource(const QString &path)
     return qEnvironmentVariable("ORTAKIT_SOURCE") + u'/' + path;
 }
 
-/// One reader for all sessions: starting it takes longer than most of them.
-QString complaints(const QString &path)
-{
-    static DrawingAudit audit(inSource(u"scripts/audit"_s));
-    return audit.complaints(path);
-}
-
 /// Whether a drawing made elsewhere is sound before anything is done to it.
 bool isSoundElsewhere(const QString &path)
 {
     static QHash<QString, bool> known;
     if (!known.contains(path))
-        known.insert(path, complaints(path).isEmpty());
+        known.insert(path, tools_test::complaints(path).isEmpty());
     return known.value(path);
 }
 
@@ -110,7 +102,7 @@ private:
         options.variables.insert(u"SESSION_DIR"_s, QFileInfo(m_path).absolutePath());
         options.outFolder = m_folder.path(u"out"_s);
         QDir().mkpath(options.outFolder);
-        options.audit = complaints;
+        options.audit = tools_test::complaints;
         return options;
     }
 

@@ -13,11 +13,11 @@ namespace tools_test {
 /// What the program did with a session.
 struct RunOutcome
 {
-    int status = -1; ///< exit status of the program; -1 when it did not end
-    QString output;  ///< both streams
+    int status = -1; ///< exit status of the program, as host::app::ExitStatus has it
 };
 
-/// A folder of a test's own with a user's home, and the built program to run in it.
+/// A folder of a test's own with a user's home, and the program's batch runs in it, with the built module and tools.
+/// They run in the test's own process: messages go to its standard error.
 class ToolRun
 {
 public:
@@ -53,11 +53,13 @@ protected:
 /// What Python with an independent reader of drawings prints, on both streams, for these arguments.
 QString runPython(const QStringList &arguments);
 
-/// Whether an independent reader finds no error in the drawing; its complaints are the message.
+/// What an independent reader complains about in the drawing; empty when it is sound. One reader, started once, for all
+/// tests.
+QString complaints(const QString &drawing);
+/// The same to expect: its complaints are the message.
 testing::AssertionResult isSound(const QString &drawing);
 
-/// What one drawing file has that the other has not: record types by handle, each "+TYPE", "-TYPE" or "~TYPE" for
-/// added, gone and changed, sorted; header variables by name. Empty when the files are the same.
+/// host::drawing::differences() of two files.
 QStringList differences(const QString &before, const QString &after);
 
 } // namespace tools_test

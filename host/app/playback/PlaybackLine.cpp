@@ -190,6 +190,8 @@ QString filledIn(const QString &text, const QHash<QString, QString> &values)
         filled += QStringView(text).sliced(from, match.capturedStart() - from);
         filled += values.value(match.captured(1), match.captured(0));
         from = match.capturedEnd();
+        if (filled.size() > longestSession)
+            return filled;
     }
     return filled.append(QStringView(text).sliced(from));
 }

@@ -43,7 +43,11 @@ LineRead readPlaybackLine(const QString &line);
 /// Takes one word off the front of `rest`, its quotes off. False: a quote without its end.
 bool takeWord(QStringView &rest, QString &word);
 
-/// Puts `values` in for each ${NAME} that they know; what is put in is not looked at again.
+/// A session's text, and what parts write, which could be far more than their text.
+constexpr qsizetype longestSession = 16 * 1024 * 1024;
+
+/// Puts `values` in for each ${NAME} that they know; what is put in is not looked at again. A text that gets longer
+/// than a session is left off there.
 QString filledIn(const QString &text, const QHash<QString, QString> &values);
 /// The same with all arguments of a step, which are checked with that. Returns what is wrong with them, else empty: a
 /// name without a value, a number that is none.

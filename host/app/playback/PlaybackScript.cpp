@@ -14,8 +14,6 @@ namespace host::app {
 
 namespace {
 
-/// Of a session's text; and of what parts write, which could be far more than their text.
-constexpr qint64 longestSession = 16 * 1024 * 1024;
 /// Parts that play parts.
 constexpr int deepestPart = 32;
 

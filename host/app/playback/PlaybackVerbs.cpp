@@ -60,6 +60,7 @@ constexpr VerbRow verbRows[] = {
     {"expect-modified", Verb::ExpectModified, VerbKind::Anywhere, "b"},
     {"expect-unchanged", Verb::ExpectUnchanged, VerbKind::Anywhere, ""},
     {"expect-changes", Verb::ExpectChanges, VerbKind::Anywhere, "t"},
+    {"expect-file-changes", Verb::ExpectFileChanges, VerbKind::Anywhere, "wt"},
     {"expect-count", Verb::ExpectCount, VerbKind::Anywhere, "wn"},
     {"expect-sound", Verb::ExpectSound, VerbKind::Anywhere, "?t"},
     {"expect-file", Verb::ExpectFile, VerbKind::Anywhere, "w?t"},

@@ -67,6 +67,7 @@ enum class Verb
     ExpectModified,
     ExpectUnchanged,
     ExpectChanges,
+    ExpectFileChanges,
     ExpectCount,
     ExpectSound,
     ExpectFile,

@@ -45,10 +45,20 @@ QString countedDifferences(const QByteArray &before, const QByteArray &after)
     return drawing::counted(changes).join(u' ');
 }
 
+/// The text is the last argument; of a drawing file its place is in front.
 QString expectChanges(const Step &step, const CheckedState &state)
 {
-    const QString changes = countedDifferences(state.opened, state.document.drawing().toBytes());
-    return changes == step.word(0).simplified() ? QString() : tr("the changes are \"%1\"").arg(changes);
+    QByteArray bytes;
+    if (step.verb == Verb::ExpectFileChanges) {
+        QString error;
+        bytes = bytesOfFile(step.word(0), state.options, error);
+        if (!error.isEmpty())
+            return error;
+    } else {
+        bytes = state.document.drawing().toBytes();
+    }
+    const QString changes = countedDifferences(state.opened, bytes);
+    return changes == step.words.last().simplified() ? QString() : tr("the changes are \"%1\"").arg(changes);
 }
 
 QString expectUnchanged(const CheckedState &state)
@@ -118,6 +128,7 @@ QString checkState(const Step &step, const CheckedState &state)
     case Verb::ExpectUnchanged:
         return expectUnchanged(state);
     case Verb::ExpectChanges:
+    case Verb::ExpectFileChanges:
         return expectChanges(step, state);
     case Verb::ExpectCount:
         return expectCount(step, state.document.drawing());

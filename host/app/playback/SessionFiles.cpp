@@ -63,22 +63,31 @@ QString writeText(const Step &step, const PlaybackOptions &options)
     return files::replaceFile(path, step.word(1).toUtf8());
 }
 
+QByteArray bytesOfFile(const QString &name, const PlaybackOptions &options, QString &error)
+{
+    const QString path = placeOfFile(options.outFolder, name, error);
+    if (!error.isEmpty())
+        return {};
+    const files::WholeBytes file = files::readWhole(path, largestFile);
+    if (!file)
+        error = tr("cannot read %1: %2").arg(path, file.reason);
+    return file.bytes;
+}
+
 QString checkFile(const Step &step, const PlaybackOptions &options)
 {
     QString error;
-    const QString path = placeOfFile(options.outFolder, step.word(0), error);
+    if (step.verb == Verb::ExpectNoFile) {
+        const QString path = placeOfFile(options.outFolder, step.word(0), error);
+        return error.isEmpty() && QFileInfo::exists(path) ? tr("the file is there") : error;
+    }
+    const QByteArray bytes = bytesOfFile(step.word(0), options, error);
     if (!error.isEmpty())
         return error;
-    if (step.verb == Verb::ExpectNoFile)
-        return QFileInfo::exists(path) ? tr("the file is there") : QString();
-    const files::WholeBytes file = files::readWhole(path, largestFile);
-    if (!file)
-        return tr("cannot read %1: %2").arg(path, file.reason);
     if (step.verb != Verb::ExpectSameFile)
-        return checkContent(step, file.bytes);
-    const QString otherPath = placeOfFile(options.outFolder, step.word(1), error);
-    const files::WholeBytes other = files::readWhole(otherPath, largestFile);
-    return other ? checkSame(file.bytes, other.bytes) : tr("cannot read %1: %2").arg(otherPath, other.reason);
+        return checkContent(step, bytes);
+    const QByteArray others = bytesOfFile(step.word(1), options, error);
+    return error.isEmpty() ? checkSame(bytes, others) : error;
 }
 
 } // namespace host::app

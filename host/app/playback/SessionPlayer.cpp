@@ -106,7 +106,10 @@ void SessionPlayer::playSteps()
 {
     if (!knowsAllNames())
         return;
-    if (std::any_of(m_steps.begin(), m_steps.end(), [](const Step &one) { return one.verb == Verb::ExpectChanges; }))
+    const auto comparesOpened = [](const Step &step) {
+        return step.verb == Verb::ExpectChanges || step.verb == Verb::ExpectFileChanges;
+    };
+    if (std::any_of(m_steps.begin(), m_steps.end(), comparesOpened))
         m_opened = m_document.drawing().toBytes();
     while (next() && !hasFailed() && !m_result.wasLeft) {
         const Step step = take();
