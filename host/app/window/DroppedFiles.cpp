@@ -5,6 +5,7 @@
 
 #include <QDragEnterEvent>
 #include <QMimeData>
+#include <QUrl>
 
 using namespace Qt::StringLiterals;
 
