@@ -1,9 +1,9 @@
 #include "host/app/window/DrawingCanvas.h"
 
+#include "host/app/window/PointerMarks.h"
 #include "host/drawing/records/HeaderVariables.h"
 #include "host/kernel/documents/ExpressionSurroundings.h"
 #include "host/kernel/variables/SystemVariables.h"
-#include "host/view/paint/Picking.h"
 #include "host/view/paint/ScenePainter.h"
 
 #include <QMouseEvent>
@@ -20,28 +20,10 @@ using kernel::PromptKind;
 /// The pointer must go this far with the button held for a drag, in pixels.
 constexpr double dragDistance = 5.0;
 constexpr double wheelStep = 1.25;
-constexpr int crosshairGap = 0;
 
 bool wantsEntities(const std::optional<kernel::PromptRequest> &request)
 {
     return request && (request->kind == PromptKind::Entity || request->kind == PromptKind::Selection);
-}
-
-/// Whether a point is an answer.
-bool wantsPoint(const std::optional<kernel::PromptRequest> &request)
-{
-    if (!request)
-        return false;
-    switch (request->kind) {
-    case PromptKind::Distance:
-    case PromptKind::Angle:
-    case PromptKind::Orientation:
-    case PromptKind::Point:
-    case PromptKind::Corner:
-        return true;
-    default:
-        return false;
-    }
 }
 
 } // namespace
@@ -85,6 +67,27 @@ void DrawingCanvas::setTransform(const view::ViewTransform &transform)
     view.height = transform.height();
     view.pixels = size();
     m_document.setView(view);
+}
+
+bool DrawingCanvas::wantsPoint() const
+{
+    if (!m_request)
+        return false;
+    switch (m_request->kind) {
+    case PromptKind::Distance:
+    case PromptKind::Angle:
+    case PromptKind::Orientation:
+    case PromptKind::Point:
+    case PromptKind::Corner:
+        return true;
+    default:
+        return false;
+    }
+}
+
+int DrawingCanvas::pickReach() const
+{
+    return std::clamp(m_document.variables().integer(u"PICKBOX", 3), 1, 50);
 }
 
 int DrawingCanvas::space() const
@@ -188,59 +191,24 @@ void DrawingCanvas::paintOverlay(QPainter &painter)
         return;
     if (m_box) {
         const QPointF from = transform().toScreen(m_box->corner);
-        paintBox(painter, from, *m_pointer, m_pointer->x() < from.x() && m_box->use != BoxUse::Zoom);
+        paintPointerBox(painter, from, *m_pointer, m_pointer->x() < from.x() && m_box->use != BoxUse::Zoom);
     } else if (m_request && m_request->base) {
-        paintDragged(painter);
+        if (m_dragged)
+            m_dragged->paint(painter, m_scene, space(), transform(), m_ground, *m_pointer);
         paintRubberBand(painter);
     }
-    paintCrosshair(painter);
-}
-
-void DrawingCanvas::paintCrosshair(QPainter &painter)
-{
-    const QColor color = m_ground == view::Ground::Black ? QColor(0xd0, 0xd4, 0xd8) : QColor(0x40, 0x44, 0x48);
-    painter.setPen(QPen(color, 0));
-    const QPointF at(std::floor(m_pointer->x()) + 0.5, std::floor(m_pointer->y()) + 0.5);
-    const bool hasBox = !wantsPoint(m_request) && !m_isZoomWindow;
-    const int reach = std::clamp(m_document.variables().integer(u"PICKBOX", 3), 1, 50);
-    if (hasBox)
-        painter.drawRect(QRectF(at.x() - reach, at.y() - reach, 2.0 * reach, 2.0 * reach));
-    if (wantsEntities(m_request))
-        return;
-    const double gap = hasBox ? reach : crosshairGap;
-    painter.drawLine(QPointF(0, at.y()), QPointF(at.x() - gap, at.y()));
-    painter.drawLine(QPointF(at.x() + gap, at.y()), QPointF(width(), at.y()));
-    painter.drawLine(QPointF(at.x(), 0), QPointF(at.x(), at.y() - gap));
-    painter.drawLine(QPointF(at.x(), at.y() + gap), QPointF(at.x(), height()));
-}
-
-void DrawingCanvas::paintDragged(QPainter &painter)
-{
-    if (m_dragged)
-        m_dragged->paint(painter, m_scene, space(), transform(), m_ground, *m_pointer);
+    const bool hasBox = !wantsPoint() && !m_isZoomWindow;
+    paintCrosshair(painter, *m_pointer, size(),
+                   {.ground = m_ground, .pickBox = hasBox ? pickReach() : 0, .hasLines = !wantsEntities(m_request)});
 }
 
 void DrawingCanvas::paintRubberBand(QPainter &painter)
 {
     const QPointF from = transform().toScreen(m_request->base->xy());
-    if (m_request->kind == PromptKind::Corner) {
-        paintBox(painter, from, *m_pointer, m_pointer->x() < from.x());
-        return;
-    }
-    const bool isDashed = (m_request->bits & kernel::DashedRubberBand) != 0;
-    painter.setPen(QPen(QColor(0xf0, 0xa0, 0x30), 0, isDashed ? Qt::DashLine : Qt::SolidLine));
-    painter.drawLine(from, *m_pointer);
-}
-
-void DrawingCanvas::paintBox(QPainter &painter, QPointF from, QPointF to, bool isCrossing)
-{
-    const QColor color = isCrossing ? QColor(0x3c, 0xb0, 0x5a) : QColor(0x3d, 0x7f, 0xc4);
-    QColor tint = color;
-    tint.setAlpha(50);
-    painter.setPen(QPen(color, 0, isCrossing ? Qt::DashLine : Qt::SolidLine));
-    painter.setBrush(tint);
-    painter.drawRect(QRectF(from, to).normalized());
-    painter.setBrush(Qt::NoBrush);
+    if (m_request->kind == PromptKind::Corner)
+        paintPointerBox(painter, from, *m_pointer, m_pointer->x() < from.x());
+    else
+        paintPointerBand(painter, from, *m_pointer, (m_request->bits & kernel::DashedRubberBand) != 0);
 }
 
 void DrawingCanvas::showEvent(QShowEvent *)
@@ -320,91 +288,6 @@ void DrawingCanvas::keyPressEvent(QKeyEvent *event)
         return;
     event->ignore();
     emit keyPressed(event);
-}
-
-drawing::Vec3 DrawingCanvas::world(QPointF screen) const
-{
-    const drawing::Vec2 point = transform().toWorld(screen);
-    return {point.x, point.y, 0.0};
-}
-
-drawing::RecordId DrawingCanvas::entityAt(QPointF screen)
-{
-    const int reach = std::clamp(m_document.variables().integer(u"PICKBOX", 3), 1, 50);
-    const view::ViewTransform now = transform();
-    return view::pickAt(m_scene, space(), now.toWorld(screen), now.toWorldLength(reach));
-}
-
-void DrawingCanvas::press(QPointF screen, Qt::KeyboardModifiers modifiers)
-{
-    if (m_box) {
-        finishBox(screen);
-        return;
-    }
-    const Choice choice = modifiers.testFlag(Qt::ShiftModifier) ? Choice::Drop : Choice::Add;
-    if (m_isZoomWindow) {
-        beginBox(screen, BoxUse::Zoom, choice);
-    } else if (m_request) {
-        pressForPrompt(screen);
-    } else if (!m_document.isBusy()) {
-        if (const drawing::RecordId entity = entityAt(screen); drawing::isValid(entity))
-            choose({entity}, choice);
-        else
-            beginBox(screen, BoxUse::Choose, choice);
-    }
-}
-
-void DrawingCanvas::pressForPrompt(QPointF screen)
-{
-    if (m_request->kind == PromptKind::Selection) {
-        if (const drawing::RecordId entity = entityAt(screen); drawing::isValid(entity))
-            emit answered(kernel::EntityAnswer{entity, world(screen)});
-        else
-            beginBox(screen, BoxUse::Answer, Choice::Add);
-    } else if (wantsPoint(m_request) || m_request->kind == PromptKind::Entity) {
-        emit answered(kernel::PointAnswer{world(screen)});
-    }
-}
-
-void DrawingCanvas::choose(const std::vector<drawing::RecordId> &entities, Choice choice)
-{
-    std::vector<drawing::RecordId> chosen = m_document.impliedSelection();
-    for (const drawing::RecordId entity : entities) {
-        const auto place = std::find(chosen.begin(), chosen.end(), entity);
-        if (choice == Choice::Add && place == chosen.end())
-            chosen.push_back(entity);
-        else if (choice == Choice::Drop && place != chosen.end())
-            chosen.erase(place);
-    }
-    m_document.setImpliedSelection(std::move(chosen));
-}
-
-void DrawingCanvas::beginBox(QPointF screen, BoxUse use, Choice choice)
-{
-    m_box = PendingBox{transform().toWorld(screen), screen, use, choice};
-    update();
-}
-
-void DrawingCanvas::finishBox(QPointF screen)
-{
-    const PendingBox box = *m_box;
-    m_box.reset();
-    update();
-    const drawing::Vec2 opposite = transform().toWorld(screen);
-    if (box.use == BoxUse::Zoom) {
-        m_isZoomWindow = false;
-        drawing::Box seen;
-        seen.add(drawing::Vec3{box.corner.x, box.corner.y, 0.0});
-        seen.add(drawing::Vec3{opposite.x, opposite.y, 0.0});
-        view::ViewTransform changed = transform();
-        changed.fit(seen, 0.0);
-        setTransform(changed);
-    } else if (box.use == BoxUse::Answer) {
-        emit answered(kernel::WindowAnswer{{box.corner.x, box.corner.y, 0.0}, {opposite.x, opposite.y, 0.0}});
-    } else {
-        const auto mode = opposite.x < box.corner.x ? view::PickMode::Crossing : view::PickMode::Window;
-        choose(view::pickRectangle(m_scene, space(), box.corner, opposite, mode), box.choice);
-    }
 }
 
 } // namespace host::app

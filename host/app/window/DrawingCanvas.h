@@ -84,11 +84,13 @@ private:
     int space() const;
     void repaintScene();
     void paintOverlay(QPainter &painter);
-    void paintCrosshair(QPainter &painter);
-    void paintDragged(QPainter &painter);
     void paintRubberBand(QPainter &painter);
-    void paintBox(QPainter &painter, QPointF from, QPointF to, bool isCrossing);
 
+    /// Whether a point answers the prompt that waits.
+    bool wantsPoint() const;
+    /// From the pointer to a side of the box that picks entities, in pixels.
+    int pickReach() const;
+    // In CanvasPresses.cpp.
     drawing::RecordId entityAt(QPointF screen);
     void press(QPointF screen, Qt::KeyboardModifiers modifiers);
     void pressForPrompt(QPointF screen);

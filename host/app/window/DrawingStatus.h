@@ -1,7 +1,7 @@
 #pragma once
 
 #include "host/drawing/records/Drawing.h"
-#include "host/view/build/Scene.h"
+#include "host/view/display/RenderReport.h"
 
 #include <QCoreApplication>
 

@@ -1,0 +1,94 @@
+// What a press on the canvas means: an answer to the prompt that waits, a choice of entities, or a corner of a box.
+
+#include "host/app/window/DrawingCanvas.h"
+#include "host/view/paint/Picking.h"
+
+namespace host::app {
+
+using kernel::PromptKind;
+
+drawing::Vec3 DrawingCanvas::world(QPointF screen) const
+{
+    const drawing::Vec2 point = transform().toWorld(screen);
+    return {point.x, point.y, 0.0};
+}
+
+drawing::RecordId DrawingCanvas::entityAt(QPointF screen)
+{
+    const view::ViewTransform now = transform();
+    return view::pickAt(m_scene, space(), now.toWorld(screen), now.toWorldLength(pickReach()));
+}
+
+void DrawingCanvas::press(QPointF screen, Qt::KeyboardModifiers modifiers)
+{
+    if (m_box) {
+        finishBox(screen);
+        return;
+    }
+    const Choice choice = modifiers.testFlag(Qt::ShiftModifier) ? Choice::Drop : Choice::Add;
+    if (m_isZoomWindow) {
+        beginBox(screen, BoxUse::Zoom, choice);
+    } else if (m_request) {
+        pressForPrompt(screen);
+    } else if (!m_document.isBusy()) {
+        if (const drawing::RecordId entity = entityAt(screen); drawing::isValid(entity))
+            choose({entity}, choice);
+        else
+            beginBox(screen, BoxUse::Choose, choice);
+    }
+}
+
+void DrawingCanvas::pressForPrompt(QPointF screen)
+{
+    if (m_request->kind == PromptKind::Selection) {
+        if (const drawing::RecordId entity = entityAt(screen); drawing::isValid(entity))
+            emit answered(kernel::EntityAnswer{entity, world(screen)});
+        else
+            beginBox(screen, BoxUse::Answer, Choice::Add);
+    } else if (wantsPoint() || m_request->kind == PromptKind::Entity) {
+        emit answered(kernel::PointAnswer{world(screen)});
+    }
+}
+
+void DrawingCanvas::choose(const std::vector<drawing::RecordId> &entities, Choice choice)
+{
+    std::vector<drawing::RecordId> chosen = m_document.impliedSelection();
+    for (const drawing::RecordId entity : entities) {
+        const auto place = std::find(chosen.begin(), chosen.end(), entity);
+        if (choice == Choice::Add && place == chosen.end())
+            chosen.push_back(entity);
+        else if (choice == Choice::Drop && place != chosen.end())
+            chosen.erase(place);
+    }
+    m_document.setImpliedSelection(std::move(chosen));
+}
+
+void DrawingCanvas::beginBox(QPointF screen, BoxUse use, Choice choice)
+{
+    m_box = PendingBox{transform().toWorld(screen), screen, use, choice};
+    update();
+}
+
+void DrawingCanvas::finishBox(QPointF screen)
+{
+    const PendingBox box = *m_box;
+    m_box.reset();
+    update();
+    const drawing::Vec2 opposite = transform().toWorld(screen);
+    if (box.use == BoxUse::Zoom) {
+        m_isZoomWindow = false;
+        drawing::Box seen;
+        seen.add(drawing::Vec3{box.corner.x, box.corner.y, 0.0});
+        seen.add(drawing::Vec3{opposite.x, opposite.y, 0.0});
+        view::ViewTransform changed = transform();
+        changed.fit(seen, 0.0);
+        setTransform(changed);
+    } else if (box.use == BoxUse::Answer) {
+        emit answered(kernel::WindowAnswer{{box.corner.x, box.corner.y, 0.0}, {opposite.x, opposite.y, 0.0}});
+    } else {
+        const auto mode = opposite.x < box.corner.x ? view::PickMode::Crossing : view::PickMode::Window;
+        choose(view::pickRectangle(m_scene, space(), box.corner, opposite, mode), box.choice);
+    }
+}
+
+} // namespace host::app

@@ -1,0 +1,42 @@
+#include "host/app/window/PointerMarks.h"
+
+#include <QPainter>
+
+#include <cmath>
+
+namespace host::app {
+
+void paintCrosshair(QPainter &painter, QPointF pointer, QSize canvas, const Crosshair &look)
+{
+    const QColor color = look.ground == view::Ground::Black ? QColor(0xd0, 0xd4, 0xd8) : QColor(0x40, 0x44, 0x48);
+    painter.setPen(QPen(color, 0));
+    const QPointF at(std::floor(pointer.x()) + 0.5, std::floor(pointer.y()) + 0.5);
+    const double gap = look.pickBox;
+    if (look.pickBox > 0)
+        painter.drawRect(QRectF(at.x() - gap, at.y() - gap, 2.0 * gap, 2.0 * gap));
+    if (!look.hasLines)
+        return;
+    painter.drawLine(QPointF(0, at.y()), QPointF(at.x() - gap, at.y()));
+    painter.drawLine(QPointF(at.x() + gap, at.y()), QPointF(canvas.width(), at.y()));
+    painter.drawLine(QPointF(at.x(), 0), QPointF(at.x(), at.y() - gap));
+    painter.drawLine(QPointF(at.x(), at.y() + gap), QPointF(at.x(), canvas.height()));
+}
+
+void paintPointerBand(QPainter &painter, QPointF from, QPointF pointer, bool isDashed)
+{
+    painter.setPen(QPen(QColor(0xf0, 0xa0, 0x30), 0, isDashed ? Qt::DashLine : Qt::SolidLine));
+    painter.drawLine(from, pointer);
+}
+
+void paintPointerBox(QPainter &painter, QPointF from, QPointF pointer, bool isCrossing)
+{
+    const QColor color = isCrossing ? QColor(0x3c, 0xb0, 0x5a) : QColor(0x3d, 0x7f, 0xc4);
+    QColor tint = color;
+    tint.setAlpha(50);
+    painter.setPen(QPen(color, 0, isCrossing ? Qt::DashLine : Qt::SolidLine));
+    painter.setBrush(tint);
+    painter.drawRect(QRectF(from, pointer).normalized());
+    painter.setBrush(Qt::NoBrush);
+}
+
+} // namespace host::app

@@ -1,0 +1,28 @@
+#pragma once
+
+#include "host/view/display/AciColor.h"
+
+#include <QPointF>
+#include <QSize>
+
+class QPainter;
+
+namespace host::app {
+
+// What the canvas shows at the pointer, over the drawing. Places are the canvas's pixels.
+
+struct Crosshair
+{
+    view::Ground ground = view::Ground::Black;
+    int pickBox = 0;      ///< from the pointer to a side of the box that picks entities; 0 without one
+    bool hasLines = true; ///< which cross the canvas, but for the box
+};
+void paintCrosshair(QPainter &painter, QPointF pointer, QSize canvas, const Crosshair &look);
+
+/// A box with a corner at the pointer. One that takes what it crosses looks unlike one that takes what lies within.
+void paintPointerBox(QPainter &painter, QPointF from, QPointF pointer, bool isCrossing);
+
+/// The line that follows the pointer while a prompt has a base point.
+void paintPointerBand(QPainter &painter, QPointF from, QPointF pointer, bool isDashed);
+
+} // namespace host::app
