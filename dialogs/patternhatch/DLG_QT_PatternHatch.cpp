@@ -1,23 +1,18 @@
 #include "dialogs/patternhatch/DLG_QT_PatternHatch.h"
 
-#include "dialogs/patternhatch/MaskPatterns.h"
 #include "platform/kernel/CKvDocument.h"
 #include "platform/kernel/CKvUtils.h"
-#include "state/pickers/DrawingPicker.h"
-#include "state/pickers/FilePicker.h"
 #include "state/widgets/DialogPicture.h"
 #include "ui_DLG_QT_PatternHatch.h"
 
 #include <QDoubleSpinBox>
 #include <QEvent>
 #include <QRadioButton>
-#include <QSignalBlocker>
 
 using Kind = ortakit::PatternSource::Kind;
 
 namespace {
 
-constexpr double smallestTolerance = 0.01;
 constexpr QSize largestPreview(600, 600);
 
 /// Keys of numbers and options. They come first in the state, so that a file or a pattern whose name holds "width=" is
@@ -31,12 +26,6 @@ QStringList plainKeys()
             QStringLiteral("rotation"),      QStringLiteral("typeobjectblock"), QStringLiteral("typeobjectgroup"),
             QStringLiteral("trimtolimits"),  QStringLiteral("notexceedlimits"), QStringLiteral("tolerance"),
             QStringLiteral("qtentities")};
-}
-
-void setValueSilently(CKvQtUnitSpinBox &box, double value)
-{
-    const QSignalBlocker noSignals(box);
-    box.setUnitValue(value);
 }
 
 } // namespace
@@ -62,6 +51,8 @@ DLG_QT_PatternHatch::DLG_QT_PatternHatch(QWidget *parent)
                                      {m_ui->Cb_Favorits, m_ui->Btn_SaveFav, m_ui->Btn_Erase});
     m_favourites->refresh();
     state().prependKeys(plainKeys());
+    m_sizes = std::make_unique<ortakit::PatternSizes>(
+        ortakit::PatternSizes::Fields{m_ui->Width, m_ui->Height, m_ui->ScaleFactor, m_ui->aspectRatio});
     connectSource();
     connectSizes();
     connectBoundaries();
@@ -95,7 +86,6 @@ void DLG_QT_PatternHatch::connectSizes()
 {
     connect(m_ui->Width, &QDoubleSpinBox::valueChanged, this, &DLG_QT_PatternHatch::checkAspectWidth);
     connect(m_ui->Height, &QDoubleSpinBox::valueChanged, this, &DLG_QT_PatternHatch::checkAspectHeight);
-    connect(m_ui->ScaleFactor, &QCheckBox::toggled, this, &DLG_QT_PatternHatch::showSizesInUnits);
     connect(m_ui->ScaleFactor, &QCheckBox::clicked, this, &DLG_QT_PatternHatch::checkAspectWidth);
     connect(m_ui->aspectRatio, &QCheckBox::clicked, this, &DLG_QT_PatternHatch::refreshSizes);
     connect(m_ui->selOrigin, &QPushButton::clicked, this, &DLG_QT_PatternHatch::selectOrigin);
@@ -151,7 +141,7 @@ void DLG_QT_PatternHatch::beforeShow()
     OdDbDatabase *database = ACTIVE_DOCUMENT() ? ACTIVE_DOCUMENT()->database() : nullptr;
     for (CKvQtUnitSpinBox *box : {m_ui->OffsetX, m_ui->OffsetY, m_ui->positionX, m_ui->positionY, m_ui->Rotation})
         box->setDatabase(database);
-    showSizesInUnits();
+    m_sizes->showInUnits();
     refreshFavourites();
 }
 
@@ -234,7 +224,7 @@ void DLG_QT_PatternHatch::showSource()
     if (source == m_source && source.kind != Kind::Block)
         return; // reading a large drawing takes a while
     m_source = source;
-    m_ownSize = ortakit::ownSize(source);
+    m_sizes->setOwnSize(ortakit::ownSize(source));
     if (source.kind == Kind::Image && source.changed.isValid())
         m_ui->PreviewBlock->setImage(ortakit::imagePicture(source.path, largestPreview));
     else if (source.kind == Kind::Block)
@@ -243,59 +233,22 @@ void DLG_QT_PatternHatch::showSource()
         m_ui->PreviewBlock->setDrawing(source.path);
 }
 
-double DLG_QT_PatternHatch::heightOverWidth() const
-{
-    if (m_ui->ScaleFactor->isChecked())
-        return 1; // factors of the source's own width and height: equal ones keep its proportions
-    return m_ownSize.isValid() ? m_ownSize.height() / m_ownSize.width() : m_keptRatio;
-}
-
 void DLG_QT_PatternHatch::refreshSizes()
 {
-    const double width = m_ui->Width->value();
-    const double height = m_ui->Height->value();
-    m_keptRatio = width > 0 && height > 0 ? height / width : 1;
+    m_sizes->keepProportions();
     checkAspectWidth();
 }
 
 void DLG_QT_PatternHatch::checkAspectWidth()
 {
-    if (m_ui->aspectRatio->isChecked() && !m_isApplying)
-        setValueSilently(*m_ui->Height, m_ui->Width->value() * heightOverWidth());
+    if (!m_isApplying)
+        m_sizes->followWidth();
 }
 
 void DLG_QT_PatternHatch::checkAspectHeight()
 {
-    if (m_ui->aspectRatio->isChecked() && !m_isApplying)
-        setValueSilently(*m_ui->Width, m_ui->Height->value() / heightOverWidth());
-}
-
-void DLG_QT_PatternHatch::setOwnSize()
-{
-    if (m_ui->ScaleFactor->isChecked()) {
-        setValueSilently(*m_ui->Width, 1);
-        setValueSilently(*m_ui->Height, 1);
-    } else if (m_ownSize.isValid()) {
-        // Pixels are no length in a drawing: of an image only the proportions are taken.
-        if (m_source.kind == Kind::Drawing)
-            setValueSilently(*m_ui->Width, m_ownSize.width());
-        setValueSilently(*m_ui->Height, m_ui->Width->value() * heightOverWidth());
-    }
-}
-
-void DLG_QT_PatternHatch::showSizesInUnits()
-{
-    // Lengths follow the drawing's units; factors are plain numbers in every drawing.
-    constexpr int factorDecimals = 6;
-    const bool areFactors = m_ui->ScaleFactor->isChecked();
-    OdDbDatabase *database = ACTIVE_DOCUMENT() ? ACTIVE_DOCUMENT()->database() : nullptr;
-    for (CKvQtUnitSpinBox *box : {m_ui->Width, m_ui->Height}) {
-        const QSignalBlocker noSignals(box);
-        box->setUnitType(areFactors ? CKvQtUnitSpinBox::Unitless : CKvQtUnitSpinBox::Distance);
-        if (areFactors)
-            box->setDecimals(factorDecimals);
-        box->setDatabase(database);
-    }
+    if (!m_isApplying)
+        m_sizes->followHeight();
 }
 
 void DLG_QT_PatternHatch::takeBoundaryCount()
@@ -353,124 +306,4 @@ void DLG_QT_PatternHatch::ReviewDialog()
 {
     UpdateFav();
     changeTab();
-}
-
-void DLG_QT_PatternHatch::takeFile(const Type &type, const QString &path)
-{
-    type.file->setFullPath(path);
-    state().setFavouriteValue(type.file->name(), path);
-    showSource();
-    setOwnSize();
-}
-
-void DLG_QT_PatternHatch::selectBlock()
-{
-    const Type &type = m_types[Block];
-    const QString path = ortakit::pickDrawing(
-        this, {.start = type.file->fullPath(), .circularReferences = ortakit::CircularReferences::Allow});
-    if (path.isEmpty())
-        return;
-    takeFile(type, path);
-    closeWith(QStringLiteral("GET_BLOCK=") + path);
-}
-
-void DLG_QT_PatternHatch::selectXref()
-{
-    const Type &type = m_types[Xref];
-    const QString path = ortakit::pickDrawing(this, {.start = type.file->fullPath()});
-    if (path.isEmpty())
-        return;
-    takeFile(type, path);
-    closeWith(QStringLiteral("GET_XREF=") + m_ui->LbTitleXref->toolTip());
-}
-
-void DLG_QT_PatternHatch::selectImage()
-{
-    const Type &type = m_types[Image];
-    const QString path = ortakit::pickFileToOpen(
-        this,
-        {.title = tr("Select image for pattern"), .filter = ortakit::imageFilter(), .start = type.file->fullPath()});
-    if (path.isEmpty())
-        return;
-    takeFile(type, path);
-    closeWith(QStringLiteral("GET_IMAGE=") + path);
-}
-
-void DLG_QT_PatternHatch::selectPattern()
-{
-    const QString name = ortakit::pickMaskPattern(m_ui->SelectPattern);
-    if (!name.isEmpty())
-        m_patternName->setFullPath(name);
-}
-
-void DLG_QT_PatternHatch::getEntityFromDwg()
-{
-    closeWith(QStringLiteral("GET_ENTITY"));
-}
-
-void DLG_QT_PatternHatch::selectEntities()
-{
-    closeWith(QStringLiteral("GET_ENTITIES"));
-}
-
-void DLG_QT_PatternHatch::selectPoints()
-{
-    closeWith(QStringLiteral("GET_POINTS"));
-}
-
-void DLG_QT_PatternHatch::deleteEntities()
-{
-    closeWith(QStringLiteral("DELETE"));
-}
-
-void DLG_QT_PatternHatch::showEntities()
-{
-    closeWith(QStringLiteral("SHOW"));
-}
-
-void DLG_QT_PatternHatch::ExtractFromHatch()
-{
-    closeWith(QStringLiteral("GET_FROMHATCH"));
-}
-
-void DLG_QT_PatternHatch::selectOrigin()
-{
-    closeWith(QStringLiteral("GET_ORIGIN"));
-}
-
-void DLG_QT_PatternHatch::selectRotation()
-{
-    closeWith(QStringLiteral("GET_ROTATION"));
-}
-
-void DLG_QT_PatternHatch::ClosePreview()
-{
-    if (acceptsValues())
-        closeWith(QStringLiteral("PREVIEW"));
-}
-
-void DLG_QT_PatternHatch::CloseAccept()
-{
-    if (acceptsValues())
-        closeWith(QStringLiteral("OK"));
-}
-
-void DLG_QT_PatternHatch::closeWith(const QString &action)
-{
-    state().setAction(action);
-    state().save();
-    accept();
-}
-
-bool DLG_QT_PatternHatch::acceptsValues()
-{
-    if (const Type &type = currentType(); type.file && type.file->fullPath().isEmpty())
-        warn(tr("Specify Pattern "));
-    else if (!(m_ui->Width->value() > 0 && m_ui->Height->value() > 0))
-        warn(tr("Scale must be higher than zero. "));
-    else if (m_ui->tolerance->value() < smallestTolerance)
-        warn(tr("The tolerance value is less than minimum. The value is reset to minimum (0.01). "));
-    else
-        return true;
-    return false;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "dialogs/patternhatch/PatternSizes.h"
 #include "dialogs/patternhatch/PatternSource.h"
 #include "state/ToolDialog.h"
 #include "state/favourites/FavouritesBox.h"
@@ -10,7 +11,6 @@
 #include <memory>
 #include <optional>
 
-class CKvQtUnitSpinBox;
 class QRadioButton;
 
 namespace Ui {
@@ -76,6 +76,7 @@ private:
     void UpdateFav();
     void ReviewDialog();
 
+    // In PatternHatchActions.cpp.
     void selectBlock();
     void selectImage();
     void selectXref();
@@ -92,17 +93,14 @@ private:
     void CloseAccept();
 
     void closeWith(const QString &action);
+    void takeFile(const Type &type, const QString &path);
     bool acceptsValues();
-    bool hasSource() const;
 
     const Type &currentType() const;
-    void takeFile(const Type &type, const QString &path);
+    bool hasSource() const;
     void takeSources();
     void showSource();
     void refreshSizes();
-    void setOwnSize();
-    void showSizesInUnits();
-    double heightOverWidth() const;
 
     void takeBoundaryCount();
     void enableButtons();
@@ -114,11 +112,10 @@ private:
     std::unique_ptr<Ui::DLG_QT_PatternHatch> m_ui;
     std::array<Type, Mask + 1> m_types{};
     std::unique_ptr<ElidedPathField> m_patternName;
+    std::unique_ptr<ortakit::PatternSizes> m_sizes;
     FavouritesBox *m_favourites;
     QString m_mode;
     ortakit::PatternSource m_source; ///< what the preview shows
-    QSizeF m_ownSize;                ///< of m_source; invalid when it has none
-    double m_keptRatio = 1;          ///< height over width that is kept of a source without a size of its own
     std::optional<int> m_boundaryEntities;
     bool m_isApplying = false; ///< values come in one by one: none follows another
 };
