@@ -3,7 +3,7 @@
 #include "host/app/workbench/ProgramOptions.h"
 #include "host/app/workbench/Workbench.h"
 #include "host/kernel/documents/DocumentManager.h"
-#include "host/view/build/Scene.h"
+#include "host/view/display/RenderReport.h"
 
 namespace host::app {
 

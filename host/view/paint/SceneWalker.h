@@ -81,6 +81,7 @@ private:
     bool isHidden(const ResolvedStyle &style, const Shape &shape, const Context &context) const;
     bool isOutside(const Box &box, const Matrix &map, QRectF *reach) const;
 
+    // But for references, in SceneWalkerShapes.cpp.
     void show(const Stroke &stroke, const ResolvedStyle &style, const Context &context);
     void show(const Fill &fill, const ResolvedStyle &style, const Context &context);
     void show(const Segments &segments, const ResolvedStyle &style, const Context &context);

@@ -1,0 +1,56 @@
+#include "host/view/display/RenderReport.h"
+
+#include <QStringList>
+
+namespace host::view {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+void addCounts(QStringList &parts, const QMap<QString, qint64> &counts, qint64 total, const QString &word)
+{
+    if (total == 0)
+        return;
+    QStringList types;
+    for (auto it = counts.begin(); it != counts.end(); ++it)
+        types.append(u"%1 %2"_s.arg(it.key()).arg(it.value()));
+    parts.append(u"%1 %2 (%3)"_s.arg(total).arg(word, types.join(u", "_s)));
+}
+
+qint64 total(const QMap<QString, qint64> &counts)
+{
+    qint64 sum = 0;
+    for (const qint64 count : counts)
+        sum += count;
+    return sum;
+}
+
+} // namespace
+
+qint64 RenderReport::skippedCount() const
+{
+    return total(skipped);
+}
+
+QString RenderReport::summary() const
+{
+    QStringList parts{u"%1 drawn"_s.arg(drawn)};
+    if (hidden > 0)
+        parts.append(u"%1 invisible"_s.arg(hidden));
+    addCounts(parts, simplified, total(simplified), u"simplified"_s);
+    addCounts(parts, skipped, skippedCount(), u"skipped"_s);
+    return parts.join(u", "_s);
+}
+
+QString RenderReport::missing() const
+{
+    QStringList parts;
+    addCounts(parts, skipped, skippedCount(), u"not drawn"_s);
+    addCounts(parts, simplified, total(simplified), u"drawn in part"_s);
+    if (isCutShort)
+        parts.append(u"cut short: there is more than is drawn in one go"_s);
+    return parts.join(u", "_s);
+}
+
+} // namespace host::view
