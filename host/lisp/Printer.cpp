@@ -5,6 +5,7 @@
 #include "host/lisp/Native.h"
 #include "host/lisp/Text.h"
 
+#include <cmath>
 #include <cstdio>
 
 namespace host::lisp {

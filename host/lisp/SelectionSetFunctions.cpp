@@ -5,6 +5,8 @@
 #include "host/lisp/Builtins.h"
 #include "host/lisp/Interpreter.h"
 
+#include <cmath>
+
 namespace host::lisp {
 
 // (sslength set) -> the number of entities.

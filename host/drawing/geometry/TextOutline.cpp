@@ -120,8 +120,9 @@ void outlineOfParagraphText(OutlineSink &sink, const TagList &tags)
     const double width = tags.real(42, static_cast<double>(size.longest) * letter);
     const double total = tags.real(43, height + spacing * static_cast<double>(size.lines - 1));
     const qint64 attachment = std::clamp<qint64>(tags.integer(71, 1), 1, 9) - 1;
+    const qint64 row = attachment / 3;
     const double left = -width * static_cast<double>(attachment % 3) / 2.0;
-    const double bottom = -total + total * static_cast<double>(attachment / 3) / 2.0;
+    const double bottom = -total + total * static_cast<double>(row) / 2.0;
     const Vec3 extrusion = tags.point(210, {0, 0, 1});
     sink.useExtrusion(extrusion);
     addBox(sink, Matrix::fromExtrusion(extrusion).inverted().point(tags.point(10)),

@@ -1,5 +1,8 @@
 #include "host/drawing/math/Curves.h"
 
+#include <QtGlobal>
+
+#include <array>
 #include <numbers>
 
 namespace host::drawing {

@@ -2,6 +2,8 @@
 
 #include "host/drawing/records/Drawing.h"
 
+#include <QStringList>
+
 #include <functional>
 
 namespace host::drawing {

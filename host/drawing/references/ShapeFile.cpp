@@ -11,7 +11,7 @@ namespace {
 /// Names in sources are ASCII; a source in another encoding keeps its numbers.
 void addShape(ShapeFile &file, int number, const QString &name, std::vector<int> codes)
 {
-    file.codes.insert(number, std::move(codes));
+    file.codes.emplace(number, std::move(codes));
     const QString key = name.trimmed().toUpper();
     if (!key.isEmpty() && !file.numbers.contains(key))
         file.numbers.insert(key, number);

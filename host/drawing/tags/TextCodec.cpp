@@ -24,7 +24,8 @@ public:
     Iconv(const Iconv &) = delete;
     Iconv &operator=(const Iconv &) = delete;
 
-    bool isOpen() const { return m_handle != reinterpret_cast<iconv_t>(-1); }
+    // iconv's own mark of a failure.
+    bool isOpen() const { return m_handle != reinterpret_cast<iconv_t>(-1); } // NOLINT(performance-no-int-to-ptr)
 
     /// Converts as much as goes and takes it off the input; true when nothing is left.
     bool convert(QByteArrayView &input, QByteArray &output)

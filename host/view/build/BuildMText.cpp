@@ -91,11 +91,12 @@ void addMText(BuildContext &context, const MTextPlace &place, const QString &con
 {
     const TextLook look = readTextLook(context, place.styleName);
     const int column = place.attachment % 3;
+    const int row = place.attachment / 3;
     box.styleFont = look.request;
     box.alignment = column == 1 ? MTextAlignment::Center : column == 2 ? MTextAlignment::Right : MTextAlignment::Left;
     const MTextFormat start{.height = place.height, .widthFactor = look.widthFactor, .oblique = look.oblique / radians};
     const MTextLayout layout = layOutMText(MTextParser(content, start).parse(), box, place.height, context.fonts());
-    const Vec3 corner{-layout.width * column / 2.0, layout.height * (place.attachment / 3) / 2.0, 0.0};
+    const Vec3 corner{-layout.width * column / 2.0, layout.height * row / 2.0, 0.0};
     const Matrix placement = place.frame * Matrix::translation(corner);
     if (place.cover)
         addCover(context, *place.cover, placement, layout, place.height);

@@ -122,7 +122,7 @@ std::optional<std::vector<Curve>> Appearance::shapeNamed(const QString &name, dr
             break;
         }
     }
-    return *m_shapes.insert(name, std::move(found));
+    return *m_shapes.emplace(name, std::move(found));
 }
 
 void Appearance::reload(const drawing::Drawing &drawing, Fonts &fonts, drawing::ShapeFiles &shapes)
