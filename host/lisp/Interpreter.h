@@ -18,18 +18,19 @@
 
 namespace host::lisp {
 
+/// What an engine may use; fixed from when it is made.
 struct Settings
 {
     /// Bytes of machine stack that an evaluation may use, counted from where the outermost run() or call() began.
     /// Deeper calls get the error "stack overflow". The default leaves natives a quarter of an 8 MB main stack.
     std::size_t stackBudget = 6 * 1024 * 1024;
-    /// Evaluations between two calls of Console::poll().
+    /// Evaluations between two calls of Console::poll(): how soon a loop notices that the user wants it to stop.
     std::uint32_t pollInterval = 10'000;
     /// The longest string, in bytes, that a program may make: a loop that doubles a string must not eat all memory.
     std::size_t longestString = 256 * 1024 * 1024;
 };
 
-/// What came of a run.
+/// What came of a run: either a value or an error.
 struct Outcome
 {
     /// The value of the last form; nil after an error.
@@ -46,15 +47,15 @@ struct FunctionEntry
 {
     enum class Kind : std::uint8_t
     {
-        Builtin,
-        SpecialForm,
-        External,
-        User
+        Builtin,     ///< of this engine
+        SpecialForm, ///< gets its arguments unevaluated
+        External,    ///< defined by whoever embeds the engine
+        User         ///< of a program
     };
 
     std::string name; ///< upper case
     Kind kind = Kind::Builtin;
-    std::string arity;      ///< "2", "1-3", "1+"
+    std::string arity;      ///< "2", "1-3", "1+"; of user functions, how many parameters there are
     std::string parameters; ///< of a user function, as written: "(A B / C)"; empty for natives
     std::string file;       ///< where a user function was read; empty when unknown
     int line = 0;
@@ -71,27 +72,32 @@ struct FunctionEntry
 class Interpreter
 {
 public:
-    /// `console` must outlive the interpreter.
+    /// Comes with all built-ins of the dialect, and 8 MB of address space for arguments. `console` must outlive the
+    /// interpreter.
     explicit Interpreter(Console &console, Settings settings = {});
     ~Interpreter();
     Interpreter(const Interpreter &) = delete;
     Interpreter &operator=(const Interpreter &) = delete;
 
+    /// Who prints, answers and says when to stop.
     Console &console() noexcept { return m_console; }
+    /// As they were given.
     const Settings &settings() const noexcept { return m_settings; }
 
     // Whole evaluations.
 
-    /// Evaluates all forms of `text` up to the first error.
+    /// Evaluates all forms of `text` up to the first error. What the forms before it did stays done. `sourceName` is
+    /// what messages call the text, usually a file's path; without one they name the line alone.
     Outcome run(std::string_view text, std::string_view sourceName = {});
     /// The same with a file: UTF-8 with or without byte-order mark; a file that is no valid UTF-8 is taken as
     /// Windows-1252. `path` is a real path, not searched for.
     Outcome loadFile(const std::string &path);
-    /// Calls the function that symbol `name` holds.
+    /// Calls the function that symbol `name` holds, in any mix of cases. The arguments are values, not forms: nothing
+    /// evaluates them again. No function there is an error like any other.
     Outcome call(std::string_view name, std::span<const Value> arguments = {});
-    /// Evaluates one form that was read already.
+    /// Evaluates one form that was read already, by this interpreter.
     Outcome evaluate(const Value &form);
-    /// True while any evaluation is under way.
+    /// True while any evaluation is under way, however deep inside natives.
     bool isRunning() const noexcept { return m_nesting > 0; }
     /// Whose wish the call under way is: the person's in the text of an outermost run(), outside of functions and of
     /// files that it loads.
@@ -112,25 +118,31 @@ public:
     void undefine(std::string_view name);
     /// The symbol holds a function of any kind.
     bool isDefined(std::string_view name) const;
-    /// All functions that symbols hold, sorted by name.
+    /// All functions that symbols hold, sorted by name: the built-ins as well as what was defined since.
     std::vector<FunctionEntry> functions() const;
 
+    /// The symbol of a name, in any mix of cases; made when there is none. Good as long as the interpreter.
     Symbol &intern(std::string_view name) { return m_symbols.intern(name); }
+    /// All names that were ever read, defined or set.
     const SymbolTable &symbols() const noexcept { return m_symbols; }
     /// The value of a variable as it is bound now; nil when it has none.
     Value variable(std::string_view name) const;
+    /// Sets the innermost binding, as setq does: during a call that may be a function's local.
     void setVariable(std::string_view name, Value value);
 
+    /// The symbol T, which is true by custom.
     const Value &t() const noexcept { return m_t; }
+    /// T or nil.
     Value boolean(bool truth) const noexcept { return truth ? m_t : Value(); }
+    /// The symbol of a name as a value.
     Value symbol(std::string_view name) { return Value::symbol(intern(name)); }
 
-    /// A new selection set with the next number. Repeated entities are dropped.
+    /// A new selection set with the next number, in the order given. Repeated entities are dropped.
     Value makeSelectionSet(const std::vector<std::uint64_t> &entities);
 
     // For native functions.
 
-    /// Evaluates a form.
+    /// Evaluates a form: a list calls, a symbol gives its value, everything else itself.
     Value eval(const Value &form);
     /// Evaluates the forms of a list in turn; the value of the last, nil when there is none.
     Value evalBody(const Value &forms);
@@ -162,11 +174,13 @@ public:
     /// Throws when a string of that many bytes may not be made: it would be too long, or the heap has no room for it.
     void checkStringLength(std::size_t bytes) const;
 
+    /// Where forms were read, by the marks of their pairs.
     SourceMap &sources() noexcept { return m_sources; }
     /// Values that (vl-bb-set) keeps, by upper-case name.
     std::map<std::string, Value> &blackboard() noexcept { return m_blackboard; }
     /// What (setenv) keeps, by name; it comes before the environment of the process.
     const std::map<std::string, std::string> &environment() const noexcept { return m_environment; }
+    /// The process keeps its own: programs of one drawing do not change it for others.
     void setEnvironment(const std::string &name, const std::string &value);
     /// Characters typed but not yet taken by (read-char).
     std::string &typedAhead() noexcept { return m_typedAhead; }
@@ -179,6 +193,7 @@ private:
         const Function *function;
         Location location; ///< of the calling form
     };
+    // What lives on the machine stack and takes things back when it goes.
     class ValueFrame;
     class Binding;
     class TopLevel;
@@ -207,25 +222,25 @@ private:
 
     Console &m_console;
     Settings m_settings;
-    SymbolTable m_symbols;
+    SymbolTable m_symbols; ///< the values of all variables are in them
     Value m_t;
     Symbol *m_errorSymbol = nullptr;
     Symbol *m_lambdaSymbol = nullptr;
     Symbol *m_slashSymbol = nullptr;
 
-    std::unique_ptr<std::byte[]> m_stackMemory;
+    std::unique_ptr<std::byte[]> m_stackMemory; ///< for arguments and saved values of variables
     Value *m_stackTop = nullptr;
     Value *m_stackEnd = nullptr;
 
-    std::uintptr_t m_stackLimit = 0;
-    std::uint32_t m_pollCountdown = 1;
-    int m_nesting = 0;
-    int m_textDepth = 0;    ///< texts under way, one loading the other
-    bool m_isTyped = false; ///< the outermost of them is no file
-    int m_catchDepth = 0;
-    bool m_inErrorHandler = false;
-    CallFrame *m_frame = nullptr;
-    Location m_location = 0; ///< of the list form evaluated last
+    std::uintptr_t m_stackLimit = 0;   ///< lowest address that the machine stack may reach
+    std::uint32_t m_pollCountdown = 1; ///< ticks until the console is asked
+    int m_nesting = 0;                 ///< whole evaluations under way, one inside the other
+    int m_textDepth = 0;               ///< texts under way, one loading the other
+    bool m_isTyped = false;            ///< the outermost of them is no file
+    int m_catchDepth = 0;              ///< catchAll() under way: errors are theirs, not `*error*`'s
+    bool m_inErrorHandler = false;     ///< an error in `*error*` calls none
+    CallFrame *m_frame = nullptr;      ///< the innermost user function under way
+    Location m_location = 0;           ///< of the list form evaluated last
 
     SourceMap m_sources;
     std::map<std::string, Value> m_blackboard;

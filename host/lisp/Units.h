@@ -6,16 +6,19 @@
 
 namespace host::lisp {
 
+// Numbers as the drawing shows them. Without state and locale: the decimal sign is a point everywhere. Callers take
+// what a program leaves out from the system variables.
+
 /// How a distance is written; the numbers are those of the dialect (and of LUNITS, LUPREC, DIMZIN).
 struct DistanceFormat
 {
     enum Mode : int
     {
-        Scientific = 1,
-        Decimal,
-        Engineering,
-        Architectural,
-        Fractional
+        Scientific = 1, ///< 1.7500E+01
+        Decimal,        ///< 17.5000
+        Engineering,    ///< 1'-5.50"
+        Architectural,  ///< 1'-5 1/2"
+        Fractional      ///< 17 1/2
     };
 
     int mode = Decimal;
@@ -26,9 +29,11 @@ struct DistanceFormat
     int zeros = 0;
 };
 
-/// Like `17.5000`, `1.7500E+01`, `1'-5.50"`, `1'-5 1/2"`, `17 1/2`. One unit is one inch where there are inches.
+/// A distance in drawing units as text. One unit is one inch where there are inches; what rounds to a full foot or inch
+/// is carried over.
 std::string formatDistance(double distance, const DistanceFormat &format);
-/// The distance that a text in the form of `mode` means; nothing when it is none.
+/// The distance in drawing units that a text in the form of `mode` means; nothing when it is none. Nothing may stand
+/// behind the number.
 std::optional<double> parseDistance(std::string_view text, int mode);
 
 /// How an angle is written; the numbers are those of the dialect (and of AUNITS, AUPREC, ANGBASE, ANGDIR, DIMZIN).
@@ -36,16 +41,16 @@ struct AngleFormat
 {
     enum Mode : int
     {
-        Degrees = 0,
-        DegreesMinutesSeconds,
-        Grads,
-        Radians,
-        Surveyor
+        Degrees = 0,           ///< 45.00
+        DegreesMinutesSeconds, ///< 45d0'0"
+        Grads,                 ///< 50.0g, of which a full turn has 400
+        Radians,               ///< 0.79r
+        Surveyor               ///< N 45d E; counts from north or south, whatever `base` is
     };
 
     int mode = Degrees;
-    int precision = 0;
-    int zeros = 0;
+    int precision = 0;        ///< decimal places, 0 to 8; how far down minutes, seconds and their decimals are told
+    int zeros = 0;            ///< as for distances, bits 4 and 8
     double base = 0;          ///< direction of angle 0, in radians
     bool isClockwise = false; ///< which way angles grow
 };

@@ -17,6 +17,7 @@
 
 namespace host::lisp {
 
+// The kinds that live in objects; most programs of this room need only one or two of them in full.
 class Symbol;
 struct Object;
 struct Cons;
@@ -27,41 +28,49 @@ class File;
 struct SelectionSet;
 struct CaughtError;
 
-/// What a value is. Everything from String on lives in a reference-counted object.
+/// What a value is. Everything from String on lives in a reference-counted object: the order counts, since retain() and
+/// release() ask whether a tag is at least String.
 enum class Tag : std::uint8_t
 {
-    Nil,
-    Integer,
-    Real,
-    EntityName,
-    Symbol,
-    String,
-    Cons,
-    Function,
-    Native,
-    File,
-    SelectionSet,
-    CaughtError,
+    Nil,          ///< also the empty list and false
+    Integer,      ///< 32 bits with a sign
+    Real,         ///< a double; finite or not, as the arithmetic gave it
+    EntityName,   ///< a number of the embedder's
+    Symbol,       ///< not counted: symbols live as long as their interpreter
+    String,       ///< StringObject
+    Cons,         ///< Cons
+    Function,     ///< of a program: defun, lambda
+    Native,       ///< of this engine or of whoever embeds it; special forms as well
+    File,         ///< open or closed
+    SelectionSet, ///< shared, and the only kind that programs change in place
+    CaughtError,  ///< what vl-catch-all-apply gave
 };
 
 /// One Lisp value: 16 bytes, cheap to copy (a count at most), never a cycle, because lists cannot be changed in place.
 ///
-/// Values belong to the thread of their interpreter. A value that holds a symbol is good for as long as the
-/// interpreter whose symbol it is. The `as...` accessors assert the kind: ask `is...` first, or take arguments
-/// through Arguments, which raises the dialect's errors.
+/// Values belong to the thread of their interpreter: the counts are no atomics. A value that holds a symbol is good for
+/// as long as the interpreter whose symbol it is; all others may outlive theirs. The `as...` accessors assert the kind
+/// and are undefined for another one in a release: ask `is...` first, or take arguments through Arguments, which raises
+/// the dialect's errors.
+///
+/// Making an object throws the Lisp error "out of memory" where the program has used up what it may (see Heap). Letting
+/// go of one frees all that only it held, at once and without recursion, however long or deep that is.
 class Value
 {
 public:
     /// nil, which is also the empty list and false.
     Value() noexcept : m_integer(0) {}
     Value(const Value &other) noexcept : m_tag(other.m_tag), m_bits(other.m_bits) { retain(); }
+    /// The source of a move is nil afterwards.
     Value(Value &&other) noexcept : m_tag(other.m_tag), m_bits(other.m_bits) { other.m_tag = Tag::Nil; }
+    /// By way of a copy, so that a value may be assigned a part of what it holds itself: `list = list.cdr()`.
     Value &operator=(const Value &other) noexcept
     {
         Value copy(other);
         swap(copy);
         return *this;
     }
+    /// By way of another one, so that a value may be assigned a part of itself that is moved.
     Value &operator=(Value &&other) noexcept
     {
         Value taken(std::move(other));
@@ -70,43 +79,65 @@ public:
     }
     ~Value() { release(); }
 
+    /// Without touching a count.
     void swap(Value &other) noexcept
     {
         std::swap(m_tag, other.m_tag);
         std::swap(m_bits, other.m_bits);
     }
 
+    // Values of each kind. What is counted may throw the Lisp error "out of memory".
+
     static Value integer(std::int32_t number) noexcept;
     static Value real(double number) noexcept;
-    /// `text` is UTF-8.
+    /// `text` is UTF-8, which nobody checks: other bytes are kept and come back as they are. The length is not limited
+    /// here; what makes strings for a program asks Interpreter::checkStringLength() before.
     static Value string(std::string text);
+    /// The symbol itself, not its value. Symbols come from Interpreter::intern().
     static Value symbol(Symbol &symbol) noexcept;
     /// `id` is whatever the embedder knows its entity by; 0 is a valid name that no selection set refuses.
     static Value entityName(std::uint64_t id) noexcept;
+    /// A pair; a list when `cdr` is one, else dotted.
     static Value cons(Value car, Value cdr);
+    /// A list in the order of the items; nil for none. To build one item by item, use ListBuilder.
     static Value list(std::initializer_list<Value> items);
     static Value list(std::span<const Value> items);
-    /// A list of two reals, or of three.
+    /// A list of two reals, or of three: the shape that points have everywhere in the dialect, in drawing units.
     static Value point(double x, double y);
     static Value point(double x, double y, double z);
-    /// Takes over the one reference that a newly made object carries.
+    /// Takes over the one reference that a newly made object carries. `tag` must be that of the object's class: it says
+    /// later as what the object is deleted.
     static Value adopt(Tag tag, Object *object) noexcept;
 
+    // What it is.
+
+    /// For what treats the kinds apart.
     Tag tag() const noexcept { return m_tag; }
+    /// Also what has not been set.
     bool isNil() const noexcept { return m_tag == Tag::Nil; }
     /// Everything but nil is true.
     bool isTrue() const noexcept { return m_tag != Tag::Nil; }
     bool isInteger() const noexcept { return m_tag == Tag::Integer; }
+    /// A whole number too, when it is one of the kind.
     bool isReal() const noexcept { return m_tag == Tag::Real; }
+    /// Of either kind.
     bool isNumber() const noexcept { return isInteger() || isReal(); }
+    // Each is of one kind exactly; nil is of none but its own.
     bool isString() const noexcept { return m_tag == Tag::String; }
+    /// Not nil, whose name is one to programs.
     bool isSymbol() const noexcept { return m_tag == Tag::Symbol; }
+    /// A list with items, or a dotted pair.
     bool isCons() const noexcept { return m_tag == Tag::Cons; }
-    /// nil or a cons, dotted or not.
+    /// nil or a cons, dotted or not: what car() and cdr() are meant for.
     bool isList() const noexcept { return isNil() || isCons(); }
+    /// Of an entity that is there, erased, or never was.
     bool isEntityName() const noexcept { return m_tag == Tag::EntityName; }
+    /// An empty set is one too.
     bool isSelectionSet() const noexcept { return m_tag == Tag::SelectionSet; }
+    /// A program's function or a native one, special forms included; not a list (lambda ...), which apply() takes too.
     bool isFunction() const noexcept { return m_tag == Tag::Function || m_tag == Tag::Native; }
+
+    // What is in it. References are good while a value holds the object; the kind is the caller's to know.
 
     std::int32_t asInteger() const noexcept
     {
@@ -119,53 +150,67 @@ public:
         assert(isNumber());
         return isInteger() ? m_integer : m_real;
     }
+    /// UTF-8, of any length.
     const std::string &asString() const noexcept;
+    /// For its name and its value.
     Symbol &asSymbol() const noexcept
     {
         assert(isSymbol());
         return *m_symbol;
     }
+    /// The embedder's number, as it was given to entityName().
     std::uint64_t asEntityName() const noexcept
     {
         assert(isEntityName());
         return m_id;
     }
+    /// To be changed through it: all values that hold the set see the change.
     SelectionSet &asSelectionSet() const noexcept;
+    /// The pair; car() and cdr() do without asking for the kind first.
     const Cons &asCons() const noexcept;
+    /// The object of a string, whose mark keeps the number of its characters.
     StringObject &asStringObject() const noexcept;
+    /// Their classes are declared in Function.h, Native.h and File.h.
     Function &asFunction() const noexcept;
     NativeFunction &asNative() const noexcept;
     File &asFile() const noexcept;
     CaughtError &asCaughtError() const noexcept;
 
-    /// First item and rest of a list; nil for nil and for everything that is no cons.
+    /// First item and rest of a list; nil for nil and for everything that is no cons. The references are good while
+    /// this value holds the pair.
     const Value &car() const noexcept;
     const Value &cdr() const noexcept;
 
-    /// The same object, symbol or number (an integer and a real are never the same).
+    /// Lisp's `eq`: the same object, symbol or number (an integer and a real are never the same), or two strings of the
+    /// same text. Takes time with the length of strings only.
     bool isSame(const Value &other) const noexcept;
 
 private:
+    // One more, one less that holds the object; nothing for kinds that have none.
     void retain() const noexcept;
     void release() noexcept;
 
     Tag m_tag = Tag::Nil;
     union {
-        std::int32_t m_integer;
-        double m_real;
-        std::uint64_t m_id;
-        Symbol *m_symbol;
-        Object *m_object;
-        std::uint64_t m_bits;
+        std::int32_t m_integer; ///< Integer
+        double m_real;          ///< Real
+        std::uint64_t m_id;     ///< EntityName
+        Symbol *m_symbol;       ///< Symbol
+        Object *m_object;       ///< String and all behind it
+        std::uint64_t m_bits;   ///< whichever it is, to copy and compare
     };
     friend class Demolition;
 };
 
+// A list of a million items should not take more than pairs of these do.
 static_assert(sizeof(Value) == 16);
 
-/// What every counted object begins with. `mark` is for the kind's own use. Objects are deleted as what they are.
+/// What every counted object begins with. `mark` is for the kind's own use. Objects are deleted as what they are, by
+/// destroyObject(), since there is no virtual destructor: 8 bytes of head are all that an object costs. Their memory
+/// counts towards the program's heap; `new` throws the Lisp error "out of memory" when there is no room for one.
 struct Object
 {
+    /// Asks and counts; the block is as large as the allocator makes it.
     static void *operator new(std::size_t size)
     {
         Heap::check(Heap::blockOf(size));
@@ -179,78 +224,92 @@ struct Object
         ::operator delete(memory, size);
     }
 
-    std::uint32_t references = 1;
-    std::uint32_t mark = 0;
+    std::uint32_t references = 1; ///< values that hold it; a new object belongs to whoever adopts it
+    std::uint32_t mark = 0;       ///< see the kinds below
 };
 
-/// Frees an object whose last reference went, and all that goes with it, without recursion however deep it is.
+/// Frees an object whose last reference went, and all that goes with it, without recursion however deep it is: pairs
+/// that wait for their turn are linked through their own cells, so that it needs no memory either. Called by Value.
 void destroyObject(Tag tag, Object *object) noexcept;
 
-/// A pair. `mark` is the source location that the reader gave the list form (see SourceMap), 0 for none.
+/// A pair. `mark` is the source location that the reader gave the list form (see SourceMap), 0 for none. Nothing
+/// changes a pair that a program has seen; ListBuilder does with those that it has not handed out yet.
 struct Cons : Object
 {
-    Value car;
-    Value cdr;
+    Value car; ///< the item
+    Value cdr; ///< the rest: a list, or an atom in a dotted pair
 };
 
-/// A string. `mark` caches the number of characters plus one, 0 while it was not counted.
+/// A string. `mark` caches the number of characters plus one, 0 while it was not counted. The text never changes; what
+/// it takes outside of the object, which is nothing up to 15 bytes, counts towards the heap.
 struct StringObject : Object
 {
+    /// Throws "out of memory" where the text has no room in the heap.
     explicit StringObject(std::string content);
-    ~StringObject();
+    ~StringObject(); // gives back what the text took of the heap
 
-    const std::string text;
+    const std::string text; ///< UTF-8
 
 private:
+    /// What the text takes beside the object; 0 for a short one.
     std::size_t bytesOutside() const noexcept;
 };
 
 /// Entities chosen together, in order, without repetition. Shared by all values that refer to it: ssadd and ssdel
-/// change it in place. `mark` is the number that it prints with. Made by Interpreter::makeSelectionSet.
+/// change it in place. `mark` is the number that it prints with. Made by Interpreter::makeSelectionSet. Whether an
+/// entity is in takes the same time however many there are; so does adding one.
 struct SelectionSet : Object
 {
     /// To be read only; add() and remove() change it.
     std::deque<std::uint64_t> entities;
 
+    /// Whether it is in, erased or not: the set knows numbers, not drawings.
     bool contains(std::uint64_t entity) const { return members.contains(entity); }
-    /// Puts it at the end; false when it was there already.
+    /// Puts it at the end; false when it was there already. Throws "out of memory" when the program has no more.
     bool add(std::uint64_t entity);
     /// False when it was not there. Quick at both ends, which is where programs take entities away.
     bool remove(std::uint64_t entity);
 
 private:
-    std::unordered_set<std::uint64_t> members;
-    std::size_t counted = 0; ///< for how many members there is a share
-    HeapShare share;
+    std::unordered_set<std::uint64_t> members; ///< the same as in `entities`
+    std::size_t counted = 0;                   ///< for how many members there is a share: the most that there were
+    HeapShare share;                           ///< what the members take outside of the object
 };
 
-/// What vl-catch-all-apply gives back for an error.
+/// What vl-catch-all-apply gives back for an error: an atom that only vl-catch-all-error-p and
+/// vl-catch-all-error-message look into.
 struct CaughtError : Object
 {
-    std::string message;
+    std::string message; ///< as `*error*` would have got it, without place
 };
 
-/// Builds a list from front to back in constant time an item.
+/// Builds a list from front to back in constant time an item. What was built goes with the builder unless take() handed
+/// it out, so an error half-way leaks nothing.
 class ListBuilder
 {
 public:
+    /// Throws "out of memory" when the program has no more; the list is as it was then.
     void append(Value item);
-    /// Makes the list end in `tail` instead of nil. Nothing may be appended after that.
+    /// Makes the list end in `tail` instead of nil: a dotted pair, or the shared rest of another list. Nothing may be
+    /// appended after that.
     void setTail(Value tail);
+    /// Nothing was appended since it was made or taken from.
     bool isEmpty() const noexcept { return m_head.isNil(); }
-    /// The list; the builder is empty again.
+    /// The list, nil when nothing was appended; the builder is empty again.
     Value take();
 
 private:
-    Value m_head;
-    Cons *m_last = nullptr;
+    Value m_head;           ///< the first pair, which holds all others
+    Cons *m_last = nullptr; ///< the pair to go on from; null while empty and behind setTail()
 };
 
-/// Walks the items of a list: `for (const Value &item : ListItems(list))`. A dotted tail is not visited. The list must
-/// stay referenced meanwhile.
+/// Walks the items of a list: `for (const Value &item : ListItems(list))`. A dotted tail is not visited; of nil and of
+/// an atom there are no items. The list must stay referenced meanwhile: where a program's function is called in
+/// between, hold a copy of the list.
 class ListItems
 {
 public:
+    /// Points into the pairs, so it is good as long as the list is held. All ends are equal.
     class Iterator
     {
     public:
@@ -260,7 +319,9 @@ public:
         using pointer = const Value *;
         using reference = const Value &;
 
+        /// The end of every list.
         Iterator() = default;
+        /// Stands at the first item of `rest`, a list or the rest of one.
         explicit Iterator(const Value *rest) : m_rest(rest) {}
         const Value &operator*() const { return m_rest->car(); }
         Iterator &operator++()
@@ -274,8 +335,9 @@ public:
             ++*this;
             return before;
         }
-        /// The list from here on.
+        /// The list from here on: its car is the item, behind the last item it is nil or the dotted tail.
         const Value &rest() const { return *m_rest; }
+        /// The same pair of the same list, or both behind the last item.
         bool operator==(const Iterator &other) const
         {
             const bool ended = !m_rest || !m_rest->isCons();
@@ -284,127 +346,31 @@ public:
         }
 
     private:
-        const Value *m_rest = nullptr;
+        const Value *m_rest = nullptr; ///< within the pairs of the list; null at the end
     };
 
+    /// `list` is referred to, not copied.
     explicit ListItems(const Value &list) : m_list(&list) {}
+    // For range-based loops; a list without items has none of them.
     Iterator begin() const { return Iterator(m_list); }
     Iterator end() const { return Iterator(); }
 
 private:
-    const Value *m_list;
+    const Value *m_list; ///< whose holder outlives the walk
 };
 
-/// The number of items of a list; a dotted tail does not count.
+// For natives that need more than one look at a list.
+
+/// The number of items of a list; a dotted tail does not count. Walks through the list.
 std::size_t listLength(const Value &list);
-/// The items of a list as a vector.
+/// The items of a list as a vector, for what needs to go back and forth; without a dotted tail.
 std::vector<Value> listToVector(const Value &list);
 
 /// Lisp's `equal`: numbers by value within `fuzz` (an integer equals a real), strings by text, lists item by item.
-/// Does not recurse.
+/// Does not recurse, and cannot be stopped: lists that hold each other many times take time with what they would print
+/// as. For a program's own lists there is Interpreter::equal(), which the user can stop.
 bool isEqual(const Value &left, const Value &right, double fuzz = 0.0);
 
-inline Value Value::integer(std::int32_t number) noexcept
-{
-    Value value;
-    value.m_tag = Tag::Integer;
-    value.m_integer = number;
-    return value;
-}
-
-inline Value Value::real(double number) noexcept
-{
-    Value value;
-    value.m_tag = Tag::Real;
-    value.m_real = number;
-    return value;
-}
-
-inline Value Value::symbol(Symbol &symbol) noexcept
-{
-    Value value;
-    value.m_tag = Tag::Symbol;
-    value.m_symbol = &symbol;
-    return value;
-}
-
-inline Value Value::entityName(std::uint64_t id) noexcept
-{
-    Value value;
-    value.m_tag = Tag::EntityName;
-    value.m_id = id;
-    return value;
-}
-
-inline Value Value::adopt(Tag tag, Object *object) noexcept
-{
-    Value value;
-    value.m_tag = tag;
-    value.m_object = object;
-    return value;
-}
-
-inline Value Value::cons(Value car, Value cdr)
-{
-    auto *pair = new Cons;
-    pair->car.swap(car);
-    pair->cdr.swap(cdr);
-    return adopt(Tag::Cons, pair);
-}
-
-inline void Value::retain() const noexcept
-{
-    if (m_tag >= Tag::String)
-        ++m_object->references;
-}
-
-inline void Value::release() noexcept
-{
-    if (m_tag >= Tag::String && --m_object->references == 0)
-        destroyObject(m_tag, m_object);
-}
-
-inline const Cons &Value::asCons() const noexcept
-{
-    assert(isCons());
-    return *static_cast<const Cons *>(m_object);
-}
-
-inline StringObject &Value::asStringObject() const noexcept
-{
-    assert(isString());
-    return *static_cast<StringObject *>(m_object);
-}
-
-inline const std::string &Value::asString() const noexcept
-{
-    return asStringObject().text;
-}
-
-inline SelectionSet &Value::asSelectionSet() const noexcept
-{
-    assert(isSelectionSet());
-    return *static_cast<SelectionSet *>(m_object);
-}
-
-inline CaughtError &Value::asCaughtError() const noexcept
-{
-    assert(m_tag == Tag::CaughtError);
-    return *static_cast<CaughtError *>(m_object);
-}
-
-namespace detail {
-inline const Value nil;
-}
-
-inline const Value &Value::car() const noexcept
-{
-    return isCons() ? static_cast<const Cons *>(m_object)->car : detail::nil;
-}
-
-inline const Value &Value::cdr() const noexcept
-{
-    return isCons() ? static_cast<const Cons *>(m_object)->cdr : detail::nil;
-}
-
 } // namespace host::lisp
+
+#include "host/lisp/ValueInline.h"
