@@ -34,6 +34,7 @@ struct Outcome;
 
 namespace host::kernel {
 
+// The parts of a document, which their own headers describe.
 class CommandRun;
 class DrawingDatabase;
 class EntityMaker;
@@ -44,7 +45,8 @@ class Session;
 class SystemVariables;
 class UserInput;
 
-/// What came of running a command, an expression or a file.
+/// What came of running a command, an expression or a file. The user has seen the error already: it is for whoever ran
+/// it, who decides whether to go on.
 struct RunResult
 {
     bool ok = true;
@@ -58,32 +60,43 @@ struct RunResult
 /// What a window shows of the drawing: plan view of the current space.
 struct ViewState
 {
-    drawing::Vec2 centre;
+    drawing::Vec2 centre;       ///< world coordinates
     double height = 297.0;      ///< drawing units from bottom to top
     QSize pixels = {1280, 800}; ///< of the canvas
 
+    /// How long a pixel is in drawing units; that of a canvas without pixels is never 0.
     double unitsPerPixel() const { return pixels.height() > 0 ? height / pixels.height() : height; }
 };
 
 /// An open drawing: its tags, its Lisp engine, its system variables, its prompts and its undo steps. Made and owned by
-/// the DocumentManager.
+/// the DocumentManager, which does not close one while something runs in it. Used on the thread of the user interface
+/// only; a run may process events while it asks or works long, so that any function of a window may be called inside
+/// it: isBusy() says so.
 class KV_EXPORT Document final : public QObject, public CKvDocument
 {
     Q_OBJECT
 
 public:
-    /// `claim` is that of the drawing's file, with its content.
+    /// `claim` is that of the drawing's file, with its content; `untitledName` what the drawing is called while it has
+    /// none. Without Lisp until openLisp().
     Document(Session &session, std::unique_ptr<drawing::Drawing> drawing, DrawingClaim claim,
              const QString &untitledName);
     ~Document() override;
 
+    // Its parts, which live as long as the document.
+
     Session &session() const { return m_session; }
+    /// What is changed through it outside of a run becomes an undo step of its own.
     drawing::Drawing &drawing() { return *m_drawing; }
     const drawing::Drawing &drawing() const { return *m_drawing; }
+    /// There from openLisp() to closeLisp() only.
     lisp::Interpreter &interpreter();
+    /// By name, those of the drawing's header and objects and those of the host.
     SystemVariables &variables() { return *m_variables; }
     const SystemVariables &variables() const { return *m_variables; }
+    /// What asks the user, for programs, commands and modules alike.
     UserInput &prompts() { return *m_userInput; }
+    /// Undo, redo, groups and marks.
     UndoSteps &undoSteps() { return m_undoSteps; }
     const UndoSteps &undoSteps() const { return m_undoSteps; }
 
@@ -91,6 +104,7 @@ public:
     QString path() const { return m_drawing->path(); }
     /// File name, or "Drawing1" for a new one.
     QString title() const;
+    /// Whether it differs from what was opened or saved last; undone changes do not count.
     bool isModified() const;
     /// Its own file is not written, because another process has it open.
     bool isReadOnly() const { return m_claim.isReadOnly(); }
@@ -100,7 +114,7 @@ public:
 
     /// Evaluates all forms of `text`. `sourceName` is what errors name.
     RunResult run(const QString &text, const QString &sourceName = {});
-    /// Loads a Lisp file.
+    /// Loads a Lisp file of this very path, trusted or not: whoever calls has asked.
     RunResult loadLisp(const QString &path);
     /// A Lisp command (C:NAME), else a built-in one or one that a module brought, by its name as typed or by an alias
     /// that is no command's name. What it asks is taken from the queue.
@@ -111,7 +125,7 @@ public:
     /// Takes the next command, expression or variable from the queue and runs it; an empty line repeats the last
     /// command. Nothing has run when the queue is empty or holds but the beginning of an expression.
     RunResult runQueued();
-    /// Runs `body` as a run of its own, for changes that the window makes.
+    /// Runs `body` as a run of its own, for changes that the window makes. `name` is what the undo step is called.
     void runAs(const QString &name, const std::function<void()> &body);
     /// A program or command is under way.
     bool isBusy() const { return m_runs > 0; }
@@ -125,12 +139,14 @@ public:
     drawing::SaveResult saveAs(const QString &path, Overrule overrule = Overrule::Nothing);
     /// As saveAs(), but the drawing stays what it is, with its path and its changes; the reactors hear nothing.
     drawing::SaveResult saveCopy(const QString &path);
+    /// What this process holds of the drawing's file: its lock, and how the file was when it was read or written last.
     DrawingClaim &claim() { return m_claim; }
     const DrawingClaim &claim() const { return m_claim; }
 
-    // What is shown and chosen.
+    // What is shown and chosen. None of it is a change of the drawing, or undone; a window listens to the signals.
 
     const ViewState &view() const { return m_view; }
+    /// Only tells the window; it does not remember the view before.
     void setView(const ViewState &view);
     /// Shows a box of world coordinates with a margin; an empty box does nothing.
     void zoomTo(const drawing::Box &box);
@@ -140,15 +156,19 @@ public:
     bool showEarlierView();
     /// Entities shown highlighted; dead ones may be among them.
     const std::vector<drawing::RecordId> &highlighted() const { return m_highlighted; }
+    /// In place of those before; none: nothing is highlighted.
     void setHighlighted(std::vector<drawing::RecordId> entities);
     /// What the last selection chose, for "Previous".
     const std::vector<drawing::RecordId> &previousSelection() const { return m_previousSelection; }
+    /// In place of the one before, by whatever has selected.
     void setPreviousSelection(std::vector<drawing::RecordId> entities);
     /// What is chosen while no command runs, for commands that take what is chosen already.
     const std::vector<drawing::RecordId> &impliedSelection() const { return m_impliedSelection; }
+    /// A command that takes them empties it.
     void setImpliedSelection(std::vector<drawing::RecordId> entities);
 
     /// Prints on the command line as it is.
+    /// Where nobody listens to printed(), the text is lost.
     void print(const QString &text);
     /// Prints a prompt and keeps it as LASTPROMPT.
     void printPrompt(const QString &text);
@@ -163,20 +183,24 @@ public:
     QString findNamedFile(const QString &name);
     /// What the user named by hand may be read while the document is open.
     void allowReading(const QString &path);
+    /// Those, as full paths.
     const QStringList &readableFiles() const { return m_readableFiles; }
     /// Says once that a file which the drawing names was not read.
     void tellUnread(const QString &path, const QString &reason);
     /// The command that waits for input from a Lisp program's next (command ...); null when none does.
     CommandRun *pendingCommand() { return m_pendingCommand.get(); }
+    /// In place of the one before, which is given up.
     void setPendingCommand(std::unique_ptr<CommandRun> command);
+    /// None waits afterwards; null when none did.
     std::unique_ptr<CommandRun> takePendingCommand();
+    /// One name of commandNames() more, one less.
     void pushCommandName(const QString &name) { m_commandNames.append(name); }
     void popCommandName() { m_commandNames.removeLast(); }
     /// From the current user coordinate system to world coordinates.
     drawing::Matrix userAxes() const;
-    /// Boxes of entities, for picking.
+    /// Boxes of entities, for picking; kept from one pick to the next while the drawing stays as it is.
     drawing::BoxCache &boxes() { return *m_boxes; }
-    /// How much room texts take.
+    /// How much room texts take, in the fonts that were found. Making it costs the first caller the reading of fonts.
     view::TextMeasure &textMeasure() const;
     /// Boxes of what entities draw.
     view::EntityExtents &entityExtents();
@@ -185,8 +209,11 @@ public:
     /// Where (tblnext) and (dictnext) stand, by table name or the dictionary's handle.
     QHash<QString, drawing::RecordId> &cursors() { return m_cursors; }
     /// The interpreter is made when the document is announced and gone after LispDocumentClosing.
+    /// Defines all functions of the host in it.
     void openLisp();
     void closeLisp();
+
+    // As CKvDocument says; the objects are this document's and go with it.
 
     CKvLispEngine *lispEngine() override;
     CKvUserInput *userInput() override;
@@ -199,9 +226,11 @@ public:
 signals:
     /// Text for the command line, with its own line feeds.
     void printed(const QString &text);
+    /// view() is another.
     void viewChanged();
     /// What is shown is to be made anew, with what it takes from outside the drawing.
     void regenerated();
+    // Whether or not the entities are others than before.
     void highlightChanged();
     void impliedSelectionChanged();
     /// The path or the modified mark may be another now.
@@ -210,14 +239,17 @@ signals:
     void runEnded();
 
 private:
+    /// One run from its start to its end, with the undo step and the reactors that belong to it.
     class Run;
     drawing::SaveResult notWritten(const QString &reason);
     drawing::SaveResult saveUnder(const QString &path, DrawingClaim &claim);
     drawing::SaveResult write(const QString &path, const std::function<drawing::SaveResult()> &writeFile);
+    // Names as typed, with their prefixes.
     bool isCommand(const QString &typed) const;
     bool isLispCommand(const QString &typed) const;
     RunResult runBuiltIn(const QString &typed);
     void finishPendingCommand();
+    /// Prints an error that the program itself did not take, and makes a result of it.
     RunResult report(const lisp::Outcome &outcome);
 
     Session &m_session;
@@ -238,13 +270,13 @@ private:
     mutable std::unique_ptr<view::TextMeasure> m_textMeasure; ///< made when it is first asked for
     std::unique_ptr<view::EntityExtents> m_entityExtents;     ///< likewise
     QHash<QString, drawing::RecordId> m_cursors;
-    QStringList m_commandNames;
+    QStringList m_commandNames; ///< outermost first
     QStringList m_readableFiles;
     QSet<QString> m_unread; ///< what was told
-    QString m_lastCommand;
-    int m_runs = 0;
+    QString m_lastCommand;  ///< for an empty line
+    int m_runs = 0;         ///< under way, one inside the other
     ViewState m_view;
-    std::vector<ViewState> m_earlierViews;
+    std::vector<ViewState> m_earlierViews; ///< oldest first
     std::vector<drawing::RecordId> m_highlighted;
     std::vector<drawing::RecordId> m_previousSelection;
     std::vector<drawing::RecordId> m_impliedSelection;

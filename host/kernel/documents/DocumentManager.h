@@ -22,17 +22,20 @@ struct OpenOutcome
     explicit operator bool() const { return document != nullptr; }
 };
 
-/// The open documents, in order of opening. Owns them.
+/// The open documents, in order of opening. Owns them. A document has a Lisp engine while reactors hear of it between
+/// LispDocumentReady and LispDocumentClosing; windows listen to the signals. There may be none at all, as at the start.
 class KV_EXPORT DocumentManager final : public QObject, public CKvDocumentManager
 {
     Q_OBJECT
 
 public:
+    /// The session owns it.
     explicit DocumentManager(Session &session);
     /// Closes all documents without saving.
     ~DocumentManager() override;
 
-    /// Opens a DXF file and makes it the active document. A file that is open already becomes active.
+    /// Opens a DXF file and makes it the active document. A file that is open already becomes active, and is not read
+    /// again. What a save that was killed left beside the file is taken away, and told in the document.
     OpenOutcome open(const QString &path, OpenMode mode = OpenMode::Alone);
     /// The document whose file the path leads to, by whatever links; null when there is none.
     Document *documentOf(const QString &path) const;
@@ -42,10 +45,14 @@ public:
     /// of it runs. The one opened last becomes active when it was the active one.
     bool close(Document *document);
 
+    /// The one that is typed to and that the module works on; null when none is open.
     Document *active() const { return m_active; }
     /// `document` must be one of these, or null for none.
     void setActive(Document *document);
+    /// In order of opening; another vector after any call that opens or closes.
     const std::vector<std::unique_ptr<Document>> &documents() const { return m_documents; }
+
+    // As CKvDocumentManager says. Reactors are not owned, and are told in the order in which they came.
 
     int documentCount() const override { return static_cast<int>(m_documents.size()); }
     CKvDocument *document(int index) const override;
@@ -53,8 +60,11 @@ public:
     void removeReactor(CKvDocumentManagerReactor *reactor) override;
 
 signals:
+    /// Null when the last one was closed.
     void activeChanged(host::kernel::Document *document);
+    /// It has its Lisp engine, and the reactors have heard of it.
     void opened(host::kernel::Document *document);
+    /// The document is whole still.
     void aboutToClose(host::kernel::Document *document);
 
 private:
@@ -68,7 +78,7 @@ private:
     std::vector<std::unique_ptr<Document>> m_documents;
     std::vector<CKvDocumentManagerReactor *> m_reactors;
     Document *m_active = nullptr;
-    int m_untitled = 0;
+    int m_untitled = 0; ///< new drawings so far, which are numbered on
 };
 
 } // namespace host::kernel

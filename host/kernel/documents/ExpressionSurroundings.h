@@ -13,7 +13,8 @@ class Document;
 /// lives.
 KV_EXPORT drawing::MacroSurroundings expressionSurroundings(Document &document);
 
-/// The same for a drawing that is no open document, with the variables that it has by itself.
+/// The same for a drawing that is no open document, with the variables that it has by itself. `readable` says which of
+/// the files that it names may be read; none without it. Valid while the drawing lives.
 KV_EXPORT drawing::MacroSurroundings expressionSurroundings(const drawing::Drawing &drawing,
                                                             drawing::ReadableFiles readable = {});
 

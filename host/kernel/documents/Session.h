@@ -37,21 +37,34 @@ struct SessionOptions
 
 /// One running host: its documents, modules, reactors, help and input. Making one installs the platform's services;
 /// destroying it unloads the modules, closes the documents and puts back what was installed before.
+///
+/// Everything happens on the thread of the user interface. There may be several, one inside the other's life, as tests
+/// have them: the platform's services are those of the one made last.
 class KV_EXPORT Session
 {
 public:
+    /// Makes the home folder and clears away what writes of files that were cut off left behind there. Opens nothing.
     explicit Session(const SessionOptions &options = {});
+    /// Documents are closed without asking and without saving.
     ~Session();
     Session(const Session &) = delete;
     Session &operator=(const Session &) = delete;
 
+    // The parts, which live as long as the session.
+
     DocumentManager &documents() { return *m_documents; }
     ModuleLoader &modules() { return *m_modules; }
+    /// Tells reactors of commands, programs, variables and saving.
     Editor &editor() { return *m_editor; }
+    /// The commands that modules brought.
     CommandStack &commandStack() { return *m_commandStack; }
+    /// What was typed ahead, by a person, a script or a recorded session, for whichever document is active.
     InputQueue &input() { return m_input; }
+    /// The user's short names of commands, of home()/alias.xml.
     CommandAliases &aliases() { return m_aliases; }
+    /// What is kept between sessions, in home()/settings.ini.
     SettingsStore &settings() { return m_settings; }
+    /// Where programs are loaded from, and what drawings may read.
     TrustedFolders &trustedFolders() { return m_trustedFolders; }
 
     /// Runs what waits in the queue in the active document, one command or expression after the other, until nothing is
@@ -66,20 +79,22 @@ public:
     /// The most memory, in MB, that Lisp programs may take: the user's setting LISPHEAPMAX, or less where this run has
     /// a limit of its own.
     int lispHeapLimit() const { return std::min(m_lispHeapSetting, m_lispHeapCap); }
-    /// Changes and keeps the setting.
+    /// Changes and keeps the setting; `megabytes` between the two limits below, which the caller has checked.
     void setLispHeapLimit(int megabytes);
     /// A limit for this run, that no program can raise.
     void capLispHeap(int megabytes) { m_lispHeapCap = megabytes; }
-    static constexpr int leastLispHeap = 16;
-    static constexpr int largestLispHeap = 1024 * 1024;
+    static constexpr int leastLispHeap = 16;            ///< MB; less is none for the tools themselves
+    static constexpr int largestLispHeap = 1024 * 1024; ///< MB
 
     /// Who answers when the queue is empty; null (as in the beginning) for nobody. Not owned.
     void setFeeder(InputFeeder *feeder) { m_feeder = feeder; }
+    /// Null while nobody answers.
     InputFeeder *feeder() const { return m_feeder; }
 
     /// Parent of tool dialogs; null in a run without a window, when nothing is ever shown: alerts are printed and files
     /// asked for on the command line. The session must be destroyed before the window.
     void setMainWindow(QWidget *window) { m_mainWindow = window; }
+    /// Null as well when the window has gone before.
     QWidget *mainWindow() const { return m_mainWindow; }
 
     /// What stands against writing files counts for nothing that may be overruled, for runs that nobody can be asked
@@ -89,6 +104,7 @@ public:
 
     /// Absolute, without a separator at the end.
     QString home() const { return m_home; }
+    /// In the order in which they are looked through. A change counts from the next search on.
     const QStringList &supportFolders() const { return m_supportFolders; }
     void setSupportFolders(const QStringList &folders) { m_supportFolders = folders; }
     QString helpFolder() const { return m_helpFolder; }
@@ -98,17 +114,18 @@ public:
     void tellNotWritten(const QString &problem) { m_notWritten.append(problem); }
     /// It was written after all.
     void forgetNotWritten(const QString &problem) { m_notWritten.removeOne(problem); }
+    /// All that was told since the last call, oldest first.
     QStringList takeNotWritten() { return std::exchange(m_notWritten, {}); }
 
 private:
-    QStringList m_notWritten;
+    QStringList m_notWritten; ///< told since takeNotWritten()
     QString m_home;
     QStringList m_supportFolders;
     QString m_helpFolder;
     CommandAliases m_aliases;
     SettingsStore m_settings;
-    int m_lispHeapSetting;
-    int m_lispHeapCap = largestLispHeap;
+    int m_lispHeapSetting;               ///< MB, between leastLispHeap and largestLispHeap
+    int m_lispHeapCap = largestLispHeap; ///< MB, for this run
     TrustedFolders m_trustedFolders{*this};
     InputQueue m_input;
     InputFeeder *m_feeder = nullptr;
@@ -121,7 +138,7 @@ private:
     std::unique_ptr<SystemServices> m_services;
     std::unique_ptr<DocumentManager> m_documents;
     std::unique_ptr<ModuleLoader> m_modules;
-    Services m_servicesBefore;
+    Services m_servicesBefore; ///< put back at the end
 };
 
 } // namespace host::kernel

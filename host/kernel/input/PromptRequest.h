@@ -16,16 +16,16 @@ namespace host::kernel {
 /// What a prompt asks for.
 enum class PromptKind
 {
-    Command, ///< the next command, Lisp expression or `!variable`
-    Integer,
-    Real,
-    Distance,
+    Command,     ///< the next command, Lisp expression or `!variable`
+    Integer,     ///< of 32 bits
+    Real,        ///< without unit
+    Distance,    ///< drawing units, typed as LUNITS has them or shown by points
     Angle,       ///< relative to the ANGBASE direction, as getangle has it
     Orientation, ///< absolute, as getorient has it
     Point,
-    Corner, ///< the corner opposite to the base point
-    String,
-    Keyword,
+    Corner,   ///< the corner opposite to the base point
+    String,   ///< up to a blank, or with blanks (allowSpaces)
+    Keyword,  ///< one of the keywords and nothing else
     Entity,   ///< one entity, with the point it was picked at
     Selection ///< one step of a selection: an entity, a window, a word such as "ALL", or nothing to end it
 };
@@ -33,14 +33,14 @@ enum class PromptKind
 /// Option bits of a request, as (initget) has them.
 enum InputBit : int
 {
-    NoEmptyAnswer = 1,
-    NoZero = 2,
-    NoNegative = 4,
-    OutsideLimits = 8,
-    DashedRubberBand = 32,
-    FlatDistance = 64,
-    AnyText = 128,
-    SignedAngle = 256 ///< Angle: a typed one keeps its sign
+    NoEmptyAnswer = 1,     ///< asked again until there is a value or keyword
+    NoZero = 2,            ///< of a number
+    NoNegative = 4,        ///< likewise
+    OutsideLimits = 8,     ///< a point may lie outside the drawing's limits though LIMCHECK is on
+    DashedRubberBand = 32, ///< a window draws the line from `base` dashed
+    FlatDistance = 64,     ///< a distance of points without their heights
+    AnyText = 128,         ///< what is no value and no keyword is given back as it is
+    SignedAngle = 256      ///< Angle: a typed one keeps its sign
 };
 
 /// A question to the user, with all that a window needs to show it and a batch run to report it.
@@ -62,6 +62,9 @@ struct PromptRequest
     std::shared_ptr<const std::vector<drawing::RecordId>> chosen{};
 };
 
+// What can answer. Which of them a request takes says PromptDialogue; one that it does not take is refused with a
+// message and asked for again, like a wrong text.
+
 /// Text as one whole answer: what a line edit or a recorded session hands over. Blanks do not split it.
 struct TextAnswer
 {
@@ -78,7 +81,7 @@ struct EntityAnswer
     drawing::RecordId entity = drawing::noRecord;
     drawing::Vec3 point;
 };
-/// Several entities at once, for a Selection.
+/// Several entities at once, for a Selection, in this order. Such as are not there any more are left out.
 struct EntitiesAnswer
 {
     std::vector<drawing::RecordId> entities;
@@ -89,7 +92,7 @@ struct WindowAnswer
     drawing::Vec3 first;
     drawing::Vec3 second;
 };
-/// Esc.
+/// Esc: the prompt is cancelled, and the program or command that asks with it.
 struct CancelAnswer
 {
 };

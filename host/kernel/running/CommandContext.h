@@ -10,10 +10,16 @@ namespace host::kernel {
 class Document;
 
 /// What a command's body works with. The asking functions give something to co_await.
+///
+/// A body is a coroutine that stops at each prompt, so the same one is answered by a window, a script or a Lisp program
+/// that calls (command) piece by piece. Esc destroys it where it waits; what it changed is taken back unless
+/// its row says that each answer is a step of its own (WhenCancelled). Points are in world coordinates, angles in
+/// radians.
 class CommandContext
 {
 public:
-    /// Waits for the reply to a request.
+    /// Waits for the reply to a request. The body gets only replies that the request takes: a value, a keyword, or
+    /// nothing where an empty answer is allowed; being cancelled it never sees.
     class Reply
     {
     public:
@@ -43,10 +49,13 @@ public:
         bool m_isImplied;
     };
 
+    /// Made by CommandRun for each run of a command.
     explicit CommandContext(Document &document) : m_document(document) {}
 
     Document &document() { return m_document; }
+    /// What is changed through it is a part of the command's undo step.
     drawing::Drawing &drawing();
+    /// Prints on the command line; texts bring their own line feeds, by custom in front.
     void print(const QString &text);
     /// Prints why the command ends without having done what it was asked for; what it has changed is taken back then.
     /// The body ends behind it.
@@ -55,18 +64,27 @@ public:
     /// or script; false when the user is there to be asked again.
     bool refuse(const QString &reason);
     bool hasFailed() const { return m_hasFailed; }
-    /// A length and an angle (radians) as the drawing shows them.
+
+    /// A length and an angle (radians) as the drawing shows them, in its units and decimals: for default values.
     QString shownLength(double length) const;
     QString shownAngle(double angle) const;
 
     // The options of a prompt are what it lists in brackets ("or [Close/Undo]", see optionsIn()); `options` are taken
     // instead when there are some: keywords with a blank between, as (initget) has them. `bits`: InputBit.
+    // `prompt` comes without the line feed in front and with a blank behind its colon.
+    //
+    // `base`: where a rubber band starts, and what relative coordinates count from. `defaultText`: what an empty answer
+    // means, as shown; the body puts the value in itself when the reply is empty.
+
+    /// Any request; the functions below are short for the usual ones.
     Reply ask(PromptRequest request);
+    /// A point.
     Reply point(const QString &prompt, const QString &options = {}, const std::optional<drawing::Vec3> &base = {},
                 const QString &defaultText = {}, int bits = 0);
     /// A point, or an option, that the command cannot do without: an empty answer is not taken.
     Reply neededPoint(const QString &prompt, const std::optional<drawing::Vec3> &base = {},
                       const QString &options = {});
+    /// A length in drawing units, typed or by one or two points; what it may be is said by `bits`.
     Reply distance(const QString &prompt, const QString &options = {}, const std::optional<drawing::Vec3> &base = {},
                    const QString &defaultText = {}, int bits = 0);
     /// An angle from the user's x axis, in radians.
@@ -75,8 +93,11 @@ public:
     /// An angle to turn by, in radians: typed angles count from where they stand, whatever ANGBASE is.
     Reply angle(const QString &prompt, const QString &options = {}, const std::optional<drawing::Vec3> &base = {},
                 const QString &defaultText = {}, int bits = 0);
+    /// A number without unit.
     Reply real(const QString &prompt, const QString &options = {}, const QString &defaultText = {}, int bits = 0);
+    /// A whole number of 32 bits.
     Reply integer(const QString &prompt, const QString &options = {}, const QString &defaultText = {}, int bits = 0);
+    /// One of the options and nothing else.
     Reply keyword(const QString &prompt, const QString &options = {}, const QString &defaultText = {});
     /// Text, with blanks. Its options are `options` alone.
     Reply text(const QString &prompt, const QString &defaultText = {}, const QString &options = {});
@@ -90,7 +111,9 @@ public:
 
     /// Makes an entity in the current space with the current layer, colour, linetype, scale and weight where `fields`
     /// do not say others, and prints the reason when that fails.
+    /// noRecord then.
     drawing::RecordId create(const drawing::FieldList &fields);
+    /// The same for an entity with parts that end in a SEQEND, which is made too.
     drawing::RecordId createComplex(const drawing::FieldList &head, const std::vector<drawing::FieldList> &children);
 
 private:
@@ -99,8 +122,8 @@ private:
                  const std::optional<drawing::Vec3> &base, const QString &defaultText, int bits = 0);
 
     Document &m_document;
-    PromptRequest m_request;
-    PromptReply m_reply;
+    PromptRequest m_request;           ///< what the body waits for
+    PromptReply m_reply;               ///< what it gets when it goes on
     std::coroutine_handle<> m_waiting; ///< the body, or the part of it, that stopped for the reply
     bool m_hasFailed = false;
     bool m_isAnsweredAhead = false;              ///< the last answer came from a program, or more is typed behind it

@@ -6,7 +6,9 @@
 
 namespace host::kernel {
 
-/// A built-in command under way, from its start to its end.
+/// A built-in command under way, from its start to its end. It stands at a prompt or is done; whoever has it says who
+/// answers next: a program's offer(), or the user. It belongs to one document, where it changes CMDNAMES while it is
+/// there, and to one run: a command that waits for a program's next (command ...) is the document's pending one.
 class CommandRun
 {
 public:
@@ -19,27 +21,32 @@ public:
     CommandRun(const CommandRun &) = delete;
     CommandRun &operator=(const CommandRun &) = delete;
 
+    /// At its end, however it came there.
     bool isDone() const { return !m_task; }
+    /// Ended by Esc, or because nobody was there to answer.
     bool isCancelled() const { return m_isCancelled; }
     /// Ended without having done what it was asked for: it did not take an answer, or said why it cannot.
     bool hasFailed() const { return m_context.hasFailed(); }
     /// An answer to the prompt it waits at, as a Lisp program gives it. One that the prompt does not take ends the
     /// command, and what it did is taken back.
     void offer(const InputAnswer &answer);
-    /// Has the user answer the prompt it waits at.
+    /// Has the user answer the prompt it waits at. Blocks until there is an answer; a refused one is asked for again.
     void askUser();
-    /// Has the user answer all that is still asked.
+    /// Has the user answer all that is still asked. Afterwards it is done.
     void runToEnd();
 
 private:
+    /// Goes on with a reply that the prompt takes; a cancelled one ends the command.
     void reply(PromptReply given);
     /// Puts a step of a selection in. True when it is complete; `reply` is all of it then.
     bool growSelection(PromptReply &reply);
+    /// Runs the body to its next prompt or its end.
     void resume();
+    /// Lets the body go, and its name from CMDNAMES; what it did stays and ends its undo step.
     void finish();
-    /// Ends it at a prompt.
+    /// Ends it at a prompt; what stays says its row.
     void cancel();
-    /// Ends it because of an answer that the prompt does not take.
+    /// Ends it because of an answer that the prompt does not take: all that it did is taken back.
     void refuse();
     void echoPrompt();
 
@@ -47,8 +54,8 @@ private:
     const CommandRow &m_row;
     int m_start = 0; ///< of the undo steps, where it began
     CommandContext m_context;
-    std::optional<CommandTask> m_task;
-    std::optional<PromptDialogue> m_dialogue;
+    std::optional<CommandTask> m_task;        ///< the body; none when it has ended
+    std::optional<PromptDialogue> m_dialogue; ///< the prompt it waits at
     bool m_isCancelled = false;
 };
 

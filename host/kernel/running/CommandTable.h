@@ -20,9 +20,9 @@ enum class WhenCancelled
 /// One built-in command.
 struct CommandRow
 {
-    const char *name; ///< upper case, without prefix
-    CommandTask (*body)(CommandContext &);
-    const char *help; ///< one line for listings
+    const char *name;                      ///< upper case, without prefix
+    CommandTask (*body)(CommandContext &); ///< see CommandContext
+    const char *help;                      ///< one line for listings
     WhenCancelled whenCancelled = WhenCancelled::TakeBack;
 };
 

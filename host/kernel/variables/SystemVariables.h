@@ -13,17 +13,18 @@ namespace host::kernel {
 
 class Document;
 
-/// The value of a system variable: an integer, a real, text or a point.
+/// The value of a system variable: an integer, a real, text or a point, flat or not. Lengths are drawing units, angles
+/// radians. Which of the kinds a variable has never changes.
 using VariableValue = std::variant<qint32, double, QString, drawing::Vec2, drawing::Vec3>;
 
 /// What came of setting a variable.
 enum class SetOutcome
 {
     Done,
-    Unknown,
-    ReadOnly,
-    WrongType,
-    OutOfRange
+    Unknown,   ///< no variable of that name
+    ReadOnly,  ///< only the host itself sets it
+    WrongType, ///< no value of its kind, nor one that becomes one
+    OutOfRange ///< beyond its limits, or the name of a layer, style ... that there is not
 };
 
 /// The system variables of one document, by name without regard to letter case: those of the drawing's header (named
@@ -33,12 +34,13 @@ enum class SetOutcome
 class KV_EXPORT SystemVariables
 {
 public:
+    /// The document owns it. Nothing is read before it is asked for.
     explicit SystemVariables(Document &document);
     ~SystemVariables();
     SystemVariables(const SystemVariables &) = delete;
     SystemVariables &operator=(const SystemVariables &) = delete;
 
-    /// Nothing for an unknown name.
+    /// Nothing for an unknown name. Some are worked out at each call (DATE, EXTMIN), which costs what that costs.
     std::optional<VariableValue> get(QStringView name) const;
     /// Tells the editor's reactors first, when the value is acceptable.
     SetOutcome set(QStringView name, const VariableValue &value);
@@ -58,8 +60,9 @@ public:
     /// trace: making the object takes a handle, which cannot be given back.
     void storeObjectSettings();
 
+    /// Whether set() refuses every value; false for an unknown name.
     bool isReadOnly(QStringView name) const;
-    /// All names, sorted.
+    /// All names, sorted: those of the host and those that the drawing's header has.
     QStringList names() const;
 
 private:
