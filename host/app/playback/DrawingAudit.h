@@ -11,14 +11,16 @@ namespace host::app {
 class DrawingAudit
 {
 public:
-    /// `program`: its path.
+    /// `program`: its path. Nothing is started yet.
     explicit DrawingAudit(const QString &program);
+    /// Ends the program, if it was started.
     ~DrawingAudit();
 
     /// What it finds wrong with the drawing, or that it cannot be asked; empty when the drawing is sound.
     QString complaints(const QString &path);
 
 private:
+    /// Starts it at the first call.
     bool isRunning();
 
     QString m_program;

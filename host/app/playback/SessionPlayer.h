@@ -27,29 +27,37 @@ PlaybackResult runSession(const QString &text, kernel::Document &document, const
 /// The same with one of casesToPlay().
 PlaybackResult runCase(const PlaybackCase &one, kernel::Document &document, const PlaybackOptions &options = {});
 
-/// One session being played. Use runSession().
+/// One session being played. Use runSession(). It is the driver of dialogs and the feeder of prompts at once, since
+/// both take the next of the same lines; a line that does not fit what is open fails the session.
 class SessionPlayer final : public DialogDriver, public kernel::InputFeeder
 {
 public:
+    /// `document` must outlive it. Nothing is played yet.
     SessionPlayer(QList<Step> steps, kernel::Document &document, const PlaybackOptions &options);
     ~SessionPlayer() override;
 
+    /// Once. Returns when the last line is done, when one fails, or when the time is up.
     PlaybackResult play();
 
+    // What the host asks for meanwhile.
     kernel::FeedResult feed(const kernel::PromptRequest &request, kernel::InputQueue &queue) override;
     bool poll() override;
 
 private:
     Reaction handleWindow(QWidget &window, Acquaintance acquaintance) override;
 
+    /// The line that comes next; null behind the last one.
     const Step *next() const { return m_position < m_steps.size() ? &m_steps[m_position] : nullptr; }
     /// The next step with its values filled in; the session has failed when one is missing or wrong.
     Step take();
     bool hasFailed() const { return !m_result.message.isEmpty(); }
+    /// Ends the session; only the first message counts.
     void fail(const QString &message);
+    /// The same, naming the line.
     void failAt(const Step &step, const QString &message);
     bool knowsAllNames();
 
+    /// All lines that are left, until one fails.
     void playSteps();
     void runStart(const Step &step);
     void runProgram(const Step &step);
@@ -66,6 +74,7 @@ private:
     QString let(const Step &step);
     QString onlyIf(const Step &step);
 
+    // What the lines do where something waits; a text that is not empty is what went wrong.
     kernel::FeedResult answerPrompt(const kernel::PromptRequest &request, kernel::InputQueue &queue);
     QString answer(const Step &step, kernel::InputQueue &queue);
     QString actOn(QWidget &window, Acquaintance acquaintance, const Step &step);
@@ -77,12 +86,12 @@ private:
     struct Rehearsal
     {
         qsizetype cancelAt = 0; ///< how many prompts and windows are answered before
-        qsizetype opened = 0;
-        QString cancelled; ///< where it was; empty: not yet
+        qsizetype opened = 0;   ///< prompts and windows so far, in this round
+        QString cancelled;      ///< where it was; empty: not yet
     };
 
     QList<Step> m_steps;
-    qsizetype m_position = 0;
+    qsizetype m_position = 0; ///< of the line that comes next
     kernel::Document &m_document;
     const PlaybackOptions m_options;
     QHash<QString, QString> m_values; ///< of the ${NAME}s
@@ -93,7 +102,7 @@ private:
     bool m_wasCancelled = false;   ///< the session cancelled a prompt of the run under way
     bool m_isAbandoned = false;    ///< whatever opens until the run ends is cancelled
     std::optional<Rehearsal> m_rehearsal;
-    QTimer m_watchdog;
+    QTimer m_watchdog; ///< of the time limit
 };
 
 } // namespace host::app

@@ -28,39 +28,55 @@ class DrawingTabs;
 ///
 /// One thing runs at a time. While a command or program runs, what is entered answers its prompts, and whatever would
 /// start another one is disabled. Esc cancels the prompt or stops the program.
+///
+/// The window owns the workbench, and with it all documents: closing the window asks about each that was changed and
+/// closes them. Runs process events, so every slot here may be called while a command is under way.
 class MainWindow : public QMainWindow
 {
     Q_OBJECT
 
 public:
+    /// Loads module and tools, which takes the time that the program takes to start. Shows nothing yet and opens no
+    /// drawing; what went wrong is told on the command line.
     explicit MainWindow(const WorkbenchOptions &options);
     ~MainWindow() override;
 
+    // The parts, which live as long as the window.
+
     Workbench &workbench() { return *m_workbench; }
     CommandLine &commandLine() { return *m_commandLine; }
+    /// One tab a document, whose widget is its DrawingCanvas.
     QTabWidget &tabs();
     /// Null when no drawing is open.
     DrawingCanvas *canvas() const;
+    /// The active one; null likewise.
     kernel::Document *document() const;
 
-    /// Opens the drawings, or a new one when none of them could be.
+    /// Opens the drawings in this order, the last one in front, or a new one when none of them could be and none is
+    /// open. What cannot be read is told in a box each; of what another program has open the user says what to do.
     void start(const QStringList &drawings);
-    /// Runs a line as if it was entered at the command line.
+    /// Runs a line as if it was entered at the command line: an answer where a prompt waits, else a command, expression
+    /// or alias, an empty one repeating the last command. Refused with a line while something runs that asks nothing.
+    /// Returns when what it started has ended.
     void enter(const QString &text);
+    /// Of all windows of the program, those that are open included; kept for the next start when this one closes.
     void setStyleOfWindows(Style style);
     /// Plays a recorded session on the active drawing; meanwhile the window takes no commands.
     PlaybackResult play(const PlaybackScript &script, PlaybackOptions options);
 
 protected:
+    /// Refused while something runs, which is asked to stop; the window closes when it has.
     void closeEvent(QCloseEvent *event) override;
+    // Drawings are opened, Lisp files loaded after a question, in the order in which they were dropped.
     void dragEnterEvent(QDragEnterEvent *event) override;
     void dropEvent(QDropEvent *event) override;
 
 private:
+    /// What becomes of a menu entry while something runs.
     enum class WhenBusy
     {
-        Disabled,
-        Enabled
+        Disabled, ///< it would start something else
+        Enabled   ///< it only looks, or stops what runs
     };
 
     // Menus, in MainMenus.cpp.
@@ -70,30 +86,46 @@ private:
     void buildViewMenu();
     void buildToolsMenu();
     void buildHelpMenu();
+    /// An entry that does `body` when it is chosen; the mnemonic is the text's own.
     QAction *addAction(QMenu &menu, const QString &text, const QKeySequence &shortcut, WhenBusy whenBusy,
                        const std::function<void()> &body);
+    /// The same with a mark, of which one in the group is set.
     QAction *addChoice(QMenu &menu, QActionGroup &group, const QString &text, const std::function<void()> &body);
+    // In windows of their own.
     void showHelp();
     void showAbout();
 
     void connectRunner();
     void openAll(const QStringList &drawings);
+    // Tabs follow the documents, whoever opened them: a menu, a drop, a command, a module.
     void addTab(kernel::Document *document);
+    /// The user chose the tab: its document becomes the active one.
     void activateTab(int index);
+    /// The document became the active one: its tab is shown.
     void showActive(kernel::Document *document);
     /// Whether the user lets the tab's drawing go; it may have been saved for that.
     bool mayClose(int index);
     void closeTab(int index);
+    /// False when the user keeps one of them: then all stay.
     bool closeAllTabs();
 
+    /// Esc: a box that was begun on the canvas, else the prompt or program under way; where nothing runs, the
+    /// unfinished line and what is chosen.
     void cancel();
+    /// Those of the workbench that were not told yet.
     void tellProblems();
     void loadPreferences();
+    /// Style, ground, place of the window, and what was entered.
     void savePreferences() const;
+    /// What is enabled, after anything that may change it.
     void updateState();
+    /// Of its tab.
     void updateTitle(const kernel::Document &document);
+    /// Names the active drawing, with the mark of a changed one.
     void updateWindowTitle();
+    /// What of the drawing is not drawn, in the status bar.
     void updateReport();
+    /// What all drawings lie on.
     void setGround(view::Ground ground);
 
     // In DroppedFiles.cpp.
@@ -107,14 +139,15 @@ private:
     std::unique_ptr<CommandRunner> m_runner;
     std::unique_ptr<DrawingStatus> m_status;
     QList<QAction *> m_idleActions; ///< disabled while something runs
+    // Entries whose mark or state follows what they are about.
     QAction *m_undo = nullptr;
     QAction *m_redo = nullptr;
     QAction *m_blackGround = nullptr;
     QAction *m_whiteGround = nullptr;
     QAction *m_lightStyle = nullptr;
     QAction *m_darkStyle = nullptr;
-    QTimer m_reportTimer;
-    qsizetype m_problemsTold = 0;
+    QTimer m_reportTimer;         ///< the report is made once for changes that come together
+    qsizetype m_problemsTold = 0; ///< of those of the workbench, from the first on
     bool m_isCloseWanted = false; ///< the window was to be closed while something ran
 };
 

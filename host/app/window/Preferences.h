@@ -11,12 +11,14 @@ namespace host::app {
 /// lacks, or cannot give, is as in a new Preferences; a folder that cannot be written to is no reason to complain.
 struct Preferences
 {
-    Style style = Style::Light;
+    Style style = Style::Light; ///< of all windows
     view::Ground ground = view::Ground::Black;
     QByteArray geometry; ///< of the window; empty: as it comes
     QStringList entries; ///< of the command line, oldest first
 
+    /// `folder` is that of the user's data. A file that is no settings file is left alone, and not read.
     static Preferences load(const QString &folder);
+    /// What else is in the file stays. Nobody is told when it cannot be written: windows close when nobody is there.
     void save(const QString &folder) const;
 };
 

@@ -20,13 +20,13 @@ namespace host::app {
 /// the drawing may ask for.
 view::ExportResult writeDrawingPicture(const drawing::Drawing &drawing, const QString &path,
                                        const drawing::MacroSurroundings &surroundings);
-/// The same for an open document, which knows more system variables.
+/// The same for an open document, which knows more system variables, as it is now, saved or not.
 view::ExportResult writeDrawingPicture(kernel::Document &document, const QString &path);
 
 /// What the widget looks like now, as PNG; empty when it was written.
 QString writeWidgetPicture(QWidget &widget, const QString &path);
 
-/// The extensions that writeDrawingPicture() takes, lower case, without dots.
+/// The extensions that writeDrawingPicture() takes, lower case, without dots: png, svg, pdf.
 QStringList pictureExtensions();
 
 } // namespace host::app

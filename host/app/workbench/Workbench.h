@@ -28,13 +28,17 @@ class Workbench : public QObject
 
 public:
     /// `mainWindow` becomes the parent of tool dialogs and must outlive the workbench; null without a window.
+    /// Makes the session and loads the module; opens no drawing.
     explicit Workbench(const WorkbenchOptions &options, QWidget *mainWindow = nullptr);
+    /// Closes the documents without asking.
     ~Workbench() override;
 
     kernel::Session &session() { return m_session; }
+    /// The session's; empty until someone opens a drawing.
     kernel::DocumentManager &documents() { return m_session.documents(); }
+    /// As found when it was made: a tool that comes into the folder later counts from the next start.
     const ToolIndex &tools() const { return m_tools; }
-    /// What went wrong so far, a sentence each.
+    /// What went wrong so far, a sentence each, oldest first. Grows when a document's tools cannot be loaded.
     const QStringList &problems() const { return m_problems; }
 
 private:
