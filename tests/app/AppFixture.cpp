@@ -4,7 +4,9 @@
 #include "host/lisp/Interpreter.h"
 #include "tests/app/SampleBox.h"
 
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
 
 #include <gtest/gtest.h>
 
@@ -27,12 +29,19 @@ QByteArray smallDrawing()
            "0\nENDSEC\n0\nEOF\n";
 }
 
-QString HostFixture::write(const QString &name, const QByteArray &bytes) const
+QString TestFolder::write(const QString &name, const QByteArray &bytes) const
 {
     QFile file(path(name));
-    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+    EXPECT_TRUE(QFileInfo(file).dir().mkpath(u"."_s) && file.open(QIODevice::WriteOnly)) << name.toStdString();
     file.write(bytes);
     return file.fileName();
+}
+
+QByteArray TestFolder::read(const QString &name) const
+{
+    QFile file(path(name));
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << name.toStdString();
+    return file.readAll();
 }
 
 HostFixture::HostFixture() : session({.home = folder.filePath(u"home"_s), .supportFolders = {}, .helpFolder = {}})

@@ -23,7 +23,7 @@ struct Ended
 };
 
 /// The built program in a folder of its own.
-struct ProgramTest : testing::Test
+struct ProgramTest : testing::Test, TestFolder
 {
     ProgramTest()
     {
@@ -31,8 +31,7 @@ struct ProgramTest : testing::Test
         write(u"b.dxf"_s, smallDrawing());
         write(u"solid.dxf"_s, QByteArray(smallDrawing()).replace("0\nCIRCLE\n", "0\n3DSOLID\n"));
         write(u"broken.dxf"_s, "0\nSECTION\n2\nENT");
-        EXPECT_TRUE(QDir(folder.path()).mkpath(u"tools"_s) && QDir(folder.path()).mkpath(u"support"_s));
-        EXPECT_TRUE(QDir(folder.path()).mkpath(u"sub"_s));
+        EXPECT_TRUE(QDir(folder.path()).mkpath(u"tools"_s));
         write(u"sub/remote.dxf"_s,
               QByteArray(smallDrawing()).replace("0\nCIRCLE\n", "0\nRTEXT\n70\n0\n1\n../good.lsp\n"));
         for (const auto &row : runs.groups.at(0))
@@ -46,19 +45,6 @@ struct ProgramTest : testing::Test
                                  "0\nBLOCK\n8\n0\n2\nB40\n10\n0\n20\n0\n0\nLINE\n8\n0\n10\n0\n20\n0\n11\n9\n21\n9\n0\n"
                                  "ENDBLK\n8\n0\n0\nENDSEC\n0\nSECTION\n2\nENTITIES\n0\nINSERT\n8\n0\n2\nB0\n10\n0\n20\n"
                                  "0\n0\nENDSEC\n0\nEOF\n");
-    }
-
-    void write(const QString &name, const QByteArray &bytes)
-    {
-        QFile file(folder.filePath(name));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(bytes);
-    }
-    QByteArray read(const QString &name)
-    {
-        QFile file(folder.filePath(name));
-        EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << name.toStdString();
-        return file.readAll();
     }
 
     static QString program() { return qEnvironmentVariable("ORTAKIT_BUILD") + u"/bin/ortakit"_s; }
@@ -89,7 +75,6 @@ struct ProgramTest : testing::Test
                 QString::fromUtf8(process.readAllStandardOutput()), QString::fromUtf8(process.readAllStandardError())};
     }
 
-    QTemporaryDir folder;
     /// The files that are there, then what is run in their folder.
     const ortakit::test::CaseFile runs = ortakit::test::readCases(ortakit::test::testFile("app/program.runs"));
     rlim_t room = RLIM_INFINITY; ///< how large a file may become, as where the disk ends

@@ -25,17 +25,10 @@ protected:
         services()->setStringSetting(u"SETBACKUPFOLDER"_s, u"setbackupfolder"_s, name);
     }
     static CKvSystemServices *services() { return GetKvSystemServices(); }
-    QByteArray read(const char *name) const
-    {
-        QFile file(path(name));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
     QStringList backups() const
     {
         return QDir(path("bak")).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot, QDir::Name);
     }
-    /// Changes the drawing, so that the next file is another.
-    void change() { lisp("(entmake '((0 . \"POINT\") (10 1.0 2.0 3.0)))"); }
 };
 
 TEST_F(Backup, holdsWhatASaveReplaced)
@@ -133,7 +126,7 @@ TEST_F(Backup, theFolderIsKeptBetweenSessions)
     const QString name = u"odd, [name]=\"1\"; größe\\n % @x"_s;
     setFolder(name);
     services()->setStringSetting(u"SETBACKUPFOLDER"_s, u"other"_s, u"x"_s);
-    const Session next({.home = session.home(), .supportFolders = {}, .helpFolder = {}});
+    const Session next(homeIn("home"));
     EXPECT_EQ(services()->stringSetting(u"SETBACKUPFOLDER"_s, u"setbackupfolder"_s), name);
     EXPECT_EQ(services()->stringSetting(u"SETBACKUPFOLDER"_s, u"none"_s), QString());
     EXPECT_EQ(services()->licenceState(), KvLicence::None);

@@ -2,7 +2,7 @@
 
 using namespace host::kernel;
 
-Bench::Bench() : session({.home = folder.path() + QStringLiteral("/home"), .supportFolders = {}, .helpFolder = {}})
+Bench::Bench() : session(homeIn("home"))
 {
     QObject::connect(&session.documents(), &DocumentManager::opened, [this](Document *opened) {
         QObject::connect(opened, &Document::printed, [this](const QString &text) { m_printed += text; });
@@ -53,4 +53,15 @@ QString Bench::write(const char *name, const QByteArray &content) const
     EXPECT_TRUE(file.open(QIODevice::WriteOnly));
     file.write(content);
     return file.fileName();
+}
+
+QByteArray Bench::read(const char *name) const
+{
+    QFile file(path(name));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+SessionOptions Bench::homeIn(const char *name) const
+{
+    return {.home = path(name), .supportFolders = {}, .helpFolder = {}};
 }

@@ -28,6 +28,13 @@ protected:
     /// A file in the bench's folder.
     QString write(const char *name, const QByteArray &content) const;
 
+    /// Empty for a file that is not there.
+    QByteArray read(const char *name) const;
+    /// Makes a point, so that the next file is another.
+    void change() { lisp("(entmake '((0 . \"POINT\") (10 1.0 2.0 3.0)))"); }
+    /// What a session beside this one is set up with.
+    host::kernel::SessionOptions homeIn(const char *name) const;
+
     QTemporaryDir folder;
     host::kernel::Session session;
 

@@ -31,53 +31,42 @@ QByteArray oddFile()
         "1001\nOTHER\n1000\nkept\n  0\nENDSEC\n  0\nEOF\n");
 }
 
-class OddFile : public Bench
+TEST_F(Bench, ofAnOddFileOnlyWhatIsMeantChanges)
 {
-protected:
-    OddFile() { session.documents().open(write("odd.dxf", oddFile())); }
-};
-
-TEST_F(OddFile, handingBackAListChangesNothing)
-{
-    const QByteArray before = drawing().toBytes();
-    EXPECT_EQ(lisp("(null (entmod (entget (entlast))))"), "nil");
-    EXPECT_EQ(drawing().toBytes(), before);
-    EXPECT_FALSE(document().isModified());
-    EXPECT_FALSE(document().undoSteps().canUndo());
-}
-
-// The size that programs see is not the file's.
-TEST_F(OddFile, handingBackAParagraphChangesNothing)
-{
-    const QByteArray withParagraph =
-        oddFile().replace("  0\nENDSEC\n  0\nEOF",
-                          "  0\nMTEXT\n  5\n30\n100\nAcDbEntity\n  8\n0\n100\nAcDbMText\n 10\n1.50\n 20\n2\n 30\n"
-                          "0\n 40\n.5\n  1\nHi\n 42\n99.0\n  0\nENDSEC\n  0\nEOF");
-    session.documents().open(write("paragraph.dxf", withParagraph));
-    EXPECT_EQ(lisp("(null (entmod (entget (entlast))))"), "nil");
-    EXPECT_EQ(drawing().toBytes(), withParagraph);
-    lisp("(entmod (subst '(1 . \"Ho\") (assoc 1 (entget (entlast))) (entget (entlast))))");
+    const QByteArray pointer = "  8\n0\n347\nABC\n100\nAcDbText\n 10"; // a handle that leads nowhere
+    // The size that programs see is not the file's.
+    const QByteArray paragraph =
+        "  0\nMTEXT\n  5\n30\n100\nAcDbEntity\n  8\n0\n100\nAcDbMText\n 10\n1.50\n 20\n2\n 30\n"
+        "0\n 40\n.5\n  1\nHi\n 42\n99.0\n  0\nENDSEC\n  0\nEOF";
+    const struct
+    {
+        const char *what;
+        QByteArray file;
+        const char *change;
+        QByteArray expected; ///< empty: the same
+    } rows[] = {
+        {"a list handed back", oddFile(), "(entmod (entget (entlast)))", {}},
+        {"a paragraph's", oddFile().replace("  0\nENDSEC\n  0\nEOF", paragraph), "(entmod (entget (entlast)))", {}},
+        {"a text's content", oddFile(), "(entmod (subst '(1 . \"Ho\") '(1 . \"Hi\") (entget (entlast))))",
+         oddFile().replace("\nHi\n", "\nHo\n")},
+        {"a colour", oddFile().replace("  8\n0\n100\nAcDbText\n 10", pointer),
+         "(entmod (append (entget (entlast)) '((62 . 1))))",
+         oddFile().replace("  8\n0\n100\nAcDbText\n 10", QByteArray(pointer).replace("ABC\n", "ABC\n 62\n1\n"))},
+    };
+    for (const auto &row : rows) {
+        SCOPED_TRACE(row.what);
+        ASSERT_TRUE(session.documents().open(write((std::string(row.what) + ".dxf").c_str(), row.file)));
+        EXPECT_NE(lisp(row.change), "nil");
+        const QByteArray expected = row.expected.isEmpty() ? row.file : row.expected;
+        EXPECT_EQ(drawing().toBytes().toStdString(), expected.toStdString());
+        EXPECT_EQ(document().isModified(), !row.expected.isEmpty());
+        EXPECT_EQ(document().undoSteps().undo(), row.expected.isEmpty() ? 0 : 1);
+        EXPECT_EQ(drawing().toBytes(), row.file);
+    }
+    ASSERT_TRUE(session.documents().open(path("a paragraph's.dxf")));
+    lisp("(entmod (subst '(1 . \"Ho\") '(1 . \"Hi\") (entget (entlast))))");
     EXPECT_TRUE(drawing().toBytes().contains("\nHo\n"));
     EXPECT_FALSE(drawing().toBytes().contains("99.0")) << "the size of another text";
-}
-
-TEST_F(OddFile, aChangeKeepsTheSpellingOfTheRest)
-{
-    lisp("(setq l (entget (entlast)))(entmod (subst '(1 . \"Ho\") (assoc 1 l) l))");
-    QByteArray expected = oddFile();
-    expected.replace("\nHi\n", "\nHo\n");
-    EXPECT_EQ(drawing().toBytes().toStdString(), expected.toStdString());
-    EXPECT_EQ(document().undoSteps().undo(), 1);
-    EXPECT_EQ(drawing().toBytes().toStdString(), oddFile().toStdString());
-}
-
-TEST_F(OddFile, aHandleThatLeadsNowhereSurvives)
-{
-    const QByteArray withPointer =
-        oddFile().replace("  8\n0\n100\nAcDbText\n 10", "  8\n0\n347\nABC\n100\nAcDbText\n 10");
-    session.documents().open(write("pointer.dxf", withPointer));
-    EXPECT_EQ(lisp("(null (entmod (append (entget (entlast)) '((62 . 1)))))"), "nil");
-    EXPECT_TRUE(drawing().toBytes().contains("347\nABC\n"));
 }
 
 } // namespace

@@ -228,30 +228,19 @@ TEST_F(Engine, aHandlerWorksOnTheDocumentThatCalls)
     EXPECT_EQ(ACTIVE_DOCUMENT(), &document());
 }
 
-TEST_F(Engine, functionsComeAndGo)
+TEST_F(Engine, functionsAndSymbolsComeAndGo)
 {
-    does([](CKvLispEngine &) {});
-    EXPECT_EQ(lisp("(PROBE)"), "nil");
-    document().lispEngine()->undefineFunction(QStringLiteral("pRoBe"));
-    document().lispEngine()->undefineFunction(QStringLiteral("nosuch"));
-    EXPECT_EQ(lisp("(probe)").rfind("error: no function definition: PROBE", 0), 0U);
-    // What a program defined itself stays.
-    lisp("(defun mine () 1)");
-    document().lispEngine()->undefineFunction(QStringLiteral("mine"));
-    EXPECT_EQ(lisp("(mine)"), "1");
-}
-
-TEST_F(Engine, anExternalCommandCanBeTyped)
-{
-    does([](CKvLispEngine &engine) { engine.print(QStringLiteral("\nhello")); });
-    document().lispEngine()->defineFunction(QStringLiteral("c:greet"), probe);
+    CKvLispEngine &engine = *document().lispEngine();
+    does([](CKvLispEngine &lisp) { lisp.print(QStringLiteral("\nhello")); });
+    engine.defineFunction(QStringLiteral("c:greet"), probe);
     EXPECT_TRUE(document().runCommand(QStringLiteral("greet")).ok);
-    EXPECT_EQ(takePrinted(), "\nhello");
-}
-
-TEST_F(Engine, symbols)
-{
-    document().lispEngine()->setSymbol(QStringLiteral("LispCanceled"), *OdResBuf::newInteger(OdResBuf::kRtShort, 1));
+    EXPECT_EQ(takePrinted(), "\nhello") << "typed as a command";
+    lisp("(defun mine () 1)");
+    for (const auto *name : {u"pRoBe", u"nosuch", u"mine"})
+        engine.undefineFunction(QString::fromUtf16(name));
+    EXPECT_EQ(lisp("(probe)").rfind("error: no function definition: PROBE", 0), 0U);
+    EXPECT_EQ(lisp("(mine)"), "1") << "what a program defined itself";
+    engine.setSymbol(QStringLiteral("LispCanceled"), *OdResBuf::newInteger(OdResBuf::kRtShort, 1));
     EXPECT_EQ(lisp("lispcanceled"), "1");
 }
 

@@ -29,13 +29,7 @@ protected:
         other = session.documents().create();
         session.documents().setActive(plan);
     }
-    QByteArray read(const char *name) const
-    {
-        QFile file(path(name));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
     QStringList locks() const { return QDir(folder.path()).entryList({u".*.lock"_s}, QDir::Files | QDir::Hidden); }
-    void change() { lisp("(entmake '((0 . \"POINT\") (10 1.0 2.0 3.0)))"); }
     std::string notWritten() { return session.takeNotWritten().join(u'|').toStdString(); }
 
     Document *plan;
@@ -207,7 +201,7 @@ TEST_F(OpenFiles, areAskedAboutByTheCommands)
 
 TEST_F(OpenFiles, ofAnotherSessionAreReadOrTakenOver)
 {
-    Session second({.home = path("home2"), .supportFolders = {}, .helpFolder = {}});
+    Session second(homeIn("home2"));
     DocumentManager &documents = second.documents();
     const OpenOutcome refused = documents.open(path("plan.dxf"));
     EXPECT_FALSE(refused);
@@ -239,7 +233,7 @@ TEST_F(OpenFiles, canBeSavedWithoutAsking)
     EXPECT_TRUE(plan->save());
     EXPECT_FALSE(other->saveAs(path("plan.dxf"))) << "two of this program would not know of each other";
     EXPECT_TRUE(session.documents().close(plan));
-    Session second({.home = path("home2"), .supportFolders = {}, .helpFolder = {}});
+    Session second(homeIn("home2"));
     EXPECT_TRUE(second.documents().open(path("plan.dxf")));
     EXPECT_TRUE(session.documents().open(path("plan.dxf")));
 }

@@ -1,4 +1,5 @@
 #include "tests/kernel/Bench.h"
+#include "tests/support/CaseFile.h"
 
 #include <QDir>
 
@@ -45,55 +46,16 @@ private:
 
 TEST_F(TrustedFoldersTest, ProgramsRunFromTrustedFoldersOnly)
 {
-    const QString refused = u"its folder is not trusted"_s;
-    struct Row
-    {
-        const char *expression;
-        const char *expected;
-        QString printed;
-    };
-    const Row rows[] = {
-        {"(load \"tool\")", "\"support\"", {}},
-        {"(load \"sub\\\\tool.lsp\")", "\"support/sub\"", {}},
-        {"(load \"support/tool.lsp\" 'no)", "NO", refused},
-        {"(load \"own\" 'no)", "NO", path("beside/own.lsp") + u" was not loaded: its folder"_s},
-        {"(load \"own\")", "error: LOAD failed: \"own\"", refused},
-        {"(load \"OWN2.LSP\" 'no)", "NO", refused},
-        {"(load \"plain\" 'no)", "NO", refused},
-        {"(load \"own3\" 'no)", "NO", path("work/own3.lsp")},
-        {"(load \"./own3\" 'no)", "NO", refused},
-        {"(load \"../beside/own\" 'no)", "NO", refused},
-        {"(load \"leads-in\")", "\"named\"", {}},
-        {"(load \"leads-out\" 'no)", "NO", {}},
-        {"(load \"none\" 'no)", "NO", {}},
-        {"(load \"\" 'no)", "NO", {}},
-        // What a person types with its full path is that person's own act; what a program names is not.
-        {"(load (strcat top \"beside/own\"))", "\"beside\"", {}},
-        {"(run (strcat top \"beside/own\"))", "REFUSED", refused},
-        {"(run (strcat top \"named/loads.lsp\"))", "error: LOAD failed: \"", refused},
-        {"(run (strcat top \"named/../beside/own\"))", "REFUSED", refused},
-        {"(run (strcat top \"named/leads-out.lsp\"))", "REFUSED", refused},
-        {"(run (strcat top \"named/tool\"))", "\"named\"", {}},
-        {"(run (strcat top \"named/sub/tool\"))", "REFUSED", refused},
-        {"(run (strcat top \"home/sub/tool\"))", "\"home/sub\"", {}},
-        {"(run (strcat top \"open/tool\"))", "REFUSED", u"everyone may write to "_s + path("open")},
-        {"(progn (autoload \"own\" '(\"OWN\")) (vl-catch-all-error-p (vl-catch-all-apply 'c:own nil)))", "T", refused},
-        // Other files are found beside the drawing as ever.
-        {"(list (findfile \"own.lsp\") (findfile \"OWN2.LSP\") (findfile \"type.scr\") (findtrustedfile \"data.lin\"))",
-         "(nil nil nil nil)",
-         {}},
-        {"(= (findfile \"data.lin\") (strcat top \"beside/data.lin\"))", "T", {}},
-        {"(= (findtrustedfile \"tool.lsp\") (findfile \"tool.lsp\") (strcat top \"support/tool.lsp\"))", "T", {}},
-        {"(progn (command \"SCRIPT\" \"type.scr\") typed)", "nil", refused},
-        {"(getvar \"TRUSTEDPATHS\")", "\"", {}},
-    };
-    for (const Row &row : rows) {
+    const auto file = ortakit::test::readCases(ortakit::test::testFile("kernel/trusted.lsp"));
+    ASSERT_EQ(file.groups.size(), 1U);
+    lisp(file.prelude);
+    for (const auto &row : file.groups.front()) {
+        SCOPED_TRACE(row.place);
         takePrinted();
-        const std::string value = lisp(row.expression);
-        EXPECT_EQ(value.substr(0, std::string(row.expected).size()), row.expected) << row.expression << '\n' << value;
-        const QString printed = QString::fromStdString(takePrinted());
-        EXPECT_EQ(printed.contains(u"was not loaded"_s), !row.printed.isEmpty()) << row.expression;
-        EXPECT_TRUE(printed.contains(row.printed)) << row.expression << '\n' << printed.toStdString();
+        EXPECT_EQ(lisp(row.source), row.text('='));
+        const std::string printed = takePrinted();
+        EXPECT_EQ(printed.find("was not loaded") != std::string::npos, row.has('>')) << printed;
+        EXPECT_NE(printed.find(row.text('>')), std::string::npos) << printed;
     }
     runTyped(qPrintable(u"SCRIPT\n%1\n"_s.arg(path("beside/type.scr"))));
     EXPECT_EQ(lisp("typed"), "T") << "typed with its full path";
@@ -120,7 +82,7 @@ TEST_F(TrustedFoldersTest, APersonIsAskedAndTheListIsKept)
     EXPECT_EQ(lisp("(run \"own\")"), "\"beside\"");
     EXPECT_EQ(session.trustedFolders().wanted(document(), path("named/leads-out.lsp")), path("beside/own.lsp"));
     EXPECT_EQ(asked, QStringList{u"own.lsp|trusted|0"_s}) << "only where the question was wanted";
-    Session next({.home = session.home(), .supportFolders = {}, .helpFolder = {}});
+    Session next(homeIn("home"));
     EXPECT_TRUE(next.trustedFolders().named().endsWith(u';' + path("beside")))
         << next.trustedFolders().named().toStdString();
     lisp("(setvar \"TRUSTEDPATHS\" (strcat top \"beside/...;.;..\"))");

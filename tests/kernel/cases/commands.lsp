@@ -42,6 +42,14 @@ a ;! (setq a (+ 1 2))\n!a\n ;> \n3 ;= 3
 (setvar "CMDECHO" 0)(command "CIRCLE" '(0 0) 1) ;= nil
 (setvar "CMDECHO" 1)(command "CIRCLE" '(0 0) 1) ;> Specify center point for circle or [3P/2P/Ttr (tan tan radius)]: ;= nil
 
+; In the user's coordinates
+(turned) ;= nil
+(list (trans '(1 2 3) 1 0) (trans '(1 0 0) 1 0 T) (trans '(8 21 3) 0 1) (getvar "WORLDUCS"))
+;= ((8.0 21.0 3.0) (0.0 1.0 0.0) (1.0 2.0 3.0) 0)
+(getpoint) ;< 1,2\n ;= (1.0 2.0 0.0)
+(command "LINE" '(0 0) '(10 0) "")(field 11) ;= (10.0 30.0 0.0)
+(alert "Mind the gap") ;> Mind the gap ;= nil
+
 ; WBLOCK and -INSERT carry a drawing; what was written stays
 (command "LINE" '(10 10) '(12 10) "")(command "CIRCLE" '(50 50) 1)
 (command "_.-WBLOCK" (strcat dir "symbol.dwg") "" '(10 10) (ssget "X" '((0 . "LINE"))) "")
