@@ -2,9 +2,6 @@
 #include "platform/widgets/CKvQtUnitSpinBox.h"
 #include "tests/dialogs/DialogTest.h"
 
-using namespace ortakit::test;
-using namespace Qt::StringLiterals;
-
 namespace {
 
 class BreakLine : public DialogTest<Dlg_QT_Breakline>

@@ -1,9 +1,7 @@
 #pragma once
 
 #include "state/ToolDialog.h"
-#include "tests/support/FakeHost.h"
-#include "tests/support/ModalAnswers.h"
-#include "tests/support/QtTestPrinters.h"
+#include "tests/support/ModuleTest.h"
 
 #include <QAbstractButton>
 #include <QCheckBox>
@@ -16,8 +14,6 @@
 #include <QSettings>
 #include <QTableWidget>
 #include <QTest>
-
-#include <gtest/gtest.h>
 
 namespace ortakit::test {
 

@@ -2,9 +2,6 @@
 #include "dialogs/dimensionstyle/Dlg_QT_ImportDimensionStyle.h"
 #include "tests/dialogs/DialogTest.h"
 
-using namespace ortakit::test;
-using namespace Qt::StringLiterals;
-
 namespace {
 
 QByteArray section(const char *name, const char *body)

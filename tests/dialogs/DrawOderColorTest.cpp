@@ -2,9 +2,6 @@
 #include "platform/widgets/CKvQtColorComboBox.h"
 #include "tests/dialogs/DialogTest.h"
 
-using namespace ortakit::test;
-using namespace Qt::StringLiterals;
-
 namespace {
 
 class DrawOderColor : public DialogTest<Dlg_QT_DrawOderColor>

@@ -2,12 +2,9 @@
 #include "tests/dialogs/DialogTest.h"
 #include "tests/support/PdfText.h"
 
-using namespace ortakit::test;
-using namespace Qt::StringLiterals;
-
 namespace {
 
-const QString used = u"critical \"\" \"This alias already begin used for other command.\" OK"_s;
+const QString aliasInUse = u"critical \"\" \"This alias already begin used for other command.\" OK"_s;
 
 class EditAlias : public DialogTest<Dlg_QT_EditAlias>
 {
@@ -81,38 +78,25 @@ TEST_F(EditAlias, EachShowingReadsTheHostsFile)
     EXPECT_EQ(shownFile(), aliasFile);
 }
 
-TEST_F(EditAlias, FilesThatCannotBeReadAreSaidOverTheDialog)
+TEST_F(EditAlias, WhatCouldNotBeReadWholeIsSaidAndNotWrittenOverUnasked)
 {
-    host.writeFile(u"alias.xml"_s, "<aliases><record command='LINE' alias='L'/><record");
-    ModalAnswers answers;
-    answers.drive([this](QWidget *box) {
+    const QByteArray damaged = "<aliases>\n<record command='LINE' alias='L'/><record";
+    host.writeFile(u"alias.xml"_s, damaged);
+    ModalAnswers reading;
+    reading.drive([this](QWidget *box) {
         EXPECT_TRUE(dialog->isVisible());
         box->close();
     });
     dialog->show();
     settle();
-    EXPECT_TRUE(answers.shown().value(0).contains(u"Premature end of document."_s));
+    EXPECT_TRUE(reading.shown().value(0).contains(u"Premature end of document."_s));
     EXPECT_EQ(rows(), u"LINE=L"_s) << "what could be read";
-}
-
-TEST_F(EditAlias, WhatCouldNotBeReadWholeIsNotWrittenOverUnasked)
-{
-    const QByteArray damaged = "<aliases>\n<record command='LINE' alias='L'/><record";
-    host.writeFile(u"alias.xml"_s, damaged);
     for (const auto answer : {QMessageBox::No, QMessageBox::Yes}) {
-        ModalAnswers answers;
-        if (!dialog->isVisible()) {
-            answers.press(QMessageBox::Ok);
-            dialog->show();
-            settle();
-        }
-        answers.press(answer);
-        click("acceptButton");
-        EXPECT_TRUE(answers.shown().last().contains(u"could not be read whole (line 2: Premature end of document.)"_s))
-            << answers.shown().last().toStdString();
+        EXPECT_TRUE(shownBy("acceptButton", {answer})
+                        .value(0)
+                        .contains(u"could not be read whole (line 2: Premature end of document.)"_s));
         EXPECT_EQ(dialog->isVisible(), answer == QMessageBox::No);
-        EXPECT_EQ(ortakit::test::FakeHost::readFile(answer == QMessageBox::No ? aliasFile : aliasFile + u".kept"_s),
-                  damaged);
+        EXPECT_EQ(FakeHost::readFile(answer == QMessageBox::No ? aliasFile : aliasFile + u".kept"_s), damaged);
     }
     EXPECT_EQ(pairsOf(aliasFile), u"LINE=L"_s);
 }
@@ -139,7 +123,7 @@ TEST_F(EditAlias, ConfirmingWaitsWhenTheOpenCellIsRefused)
     const ModalAnswers answers;
     click("acceptButton");
     settle();
-    EXPECT_EQ(answers.shown(), QStringList{used});
+    EXPECT_EQ(answers.shown(), QStringList{aliasInUse});
     EXPECT_TRUE(dialog->isVisible());
     EXPECT_EQ(rows(), u"LINE=L ARC=A"_s);
 }
@@ -166,7 +150,7 @@ TEST_F(EditAlias, KeysInACellBelongToTheCell)
 
 TEST_F(EditAlias, AliasesOfOtherRowsAreRefused)
 {
-    // What goes into this column of ARC=A, after the click on the alias of that row; refused where used.
+    // What goes into this column of ARC=A, after the click on the alias of that row; refused where it is in use.
     const std::tuple<const char *, int, int, QString, QString, bool> cases[] = {
         {"free", 1, 1, u"AR"_s, u"LINE=L ARC=AR MOVE="_s, false},
         {"used in another case", 1, 1, u"l"_s, u"LINE=L ARC=A MOVE="_s, true},
@@ -182,7 +166,7 @@ TEST_F(EditAlias, AliasesOfOtherRowsAreRefused)
         const ModalAnswers answers;
         setCell(1, column, entered);
         settle();
-        EXPECT_EQ(answers.shown(), refused ? QStringList{used} : QStringList()) << what;
+        EXPECT_EQ(answers.shown(), refused ? QStringList{aliasInUse} : QStringList()) << what;
         EXPECT_EQ(rows(), after) << what;
     }
 }
@@ -195,7 +179,7 @@ TEST_F(EditAlias, ACellReachedWithTheKeyboardGetsItsOwnTextBack)
     click("btnAdd");
     type(u"MOVE"_s, Qt::Key_Tab);
     type(u"l"_s, Qt::Key_Return);
-    EXPECT_EQ(answers.shown(), QStringList{used});
+    EXPECT_EQ(answers.shown(), QStringList{aliasInUse});
     EXPECT_EQ(rows(), u"MOVE= LINE=L ARC=A"_s);
 }
 
@@ -228,7 +212,8 @@ TEST_F(EditAlias, RemovingAsksForEachSelectedCell)
 TEST_F(EditAlias, CleaningEmptiesTheTableAndNotTheFile)
 {
     showAliases(u"LINE=L ARC=A"_s);
-    EXPECT_EQ(shownBy("btnClean", {QMessageBox::No}).size(), 1);
+    for (const auto &answers : {QList{QMessageBox::No}, QList<QMessageBox::StandardButton>()}) // or closed
+        EXPECT_EQ(shownBy("btnClean", answers).size(), 1);
     EXPECT_EQ(table()->rowCount(), 2);
     shownBy("btnClean", {QMessageBox::Yes});
     EXPECT_EQ(rows(), QString());
@@ -301,12 +286,22 @@ TEST_F(EditAlias, HeadingsSort)
 
 TEST_F(EditAlias, PrintsAListInUpperCase)
 {
-    showAliases(u"_line=l CIRCLE=ci"_s);
+    // More than a page takes.
+    showAliases(u"_line=l"_s + u" CIRCLE=ci"_s.repeated(150));
     const QString file = host.path(u"list.pdf"_s);
-    ModalAnswers answers;
-    answers.drive(printingTo(file));
+    ModalAnswers user;
+    user.drive([](QWidget *window) { window->close(); });
     click("btnPrint");
-    EXPECT_EQ(pdfLines(file), (QStringList{u"_LINE .... L"_s, u"CIRCLE ... CI"_s}));
+    EXPECT_FALSE(QFile::exists(file));
+    user.drive(printingTo(file));
+    click("btnPrint");
+    EXPECT_EQ(pdfLines(file), QStringList{u"_LINE .... L"_s} + QStringList(150, u"CIRCLE ... CI"_s));
+    EXPECT_EQ(user.shown().size(), 2) << "no message";
+    user.drive(printingTo(u"/dev/full"_s));
+    user.press(QMessageBox::Yes); // write over what is there
+    user.press(QMessageBox::Ok);
+    click("btnPrint");
+    EXPECT_EQ(user.shown().value(4), u"critical \"\" \"The document could not be printed.\" OK"_s);
 }
 
 } // namespace

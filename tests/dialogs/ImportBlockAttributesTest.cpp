@@ -1,15 +1,12 @@
 #include "dialogs/importblockattributes/Dlg_QT_ImportBlockAttributes.h"
 #include "tests/dialogs/DialogTest.h"
 
-using namespace ortakit::test;
-using namespace Qt::StringLiterals;
-
 namespace {
 
-const QByteArray doors = "HANDLE\tNAME\tNUMBER\n"
-                         "'1A\tDOOR\tD-2\n"
-                         "'1B\tdoor\tABCabc\tsurplus\n"
-                         "'1C\tGATE\n";
+const QByteArray doorTable = "HANDLE\tNAME\tNUMBER\n"
+                             "'1A\tDOOR\tD-2\n"
+                             "'1B\tdoor\tABCabc\tsurplus\n"
+                             "'1C\tGATE\n";
 
 class ImportBlockAttributes : public DialogTest<Dlg_QT_ImportBlockAttributes>
 {
@@ -65,7 +62,7 @@ TEST_F(ImportBlockAttributes, AFileIsShownAsItsLinesAre)
     showWith({});
     EXPECT_EQ(focusName(), u"selectfile"_s);
     EXPECT_FALSE(isEnabled("selectAll"));
-    showFile(doors);
+    showFile(doorTable);
     EXPECT_EQ(headers(), u"HANDLE|NAME|NUMBER"_s);
     EXPECT_EQ(rows(), u"'1A|DOOR|D-2 '1B|door|ABCabc '1C|GATE|-"_s);
     EXPECT_TRUE(isEnabled("selectAll"));
@@ -76,7 +73,7 @@ TEST_F(ImportBlockAttributes, AFileIsShownAsItsLinesAre)
 
 TEST_F(ImportBlockAttributes, EachShowingReadsTheFileOfTheState)
 {
-    file = host.writeFile(u"doors.txt"_s, doors);
+    file = host.writeFile(u"doors.txt"_s, doorTable);
     showWith(u"attributefile=%1\nattributes=HANDLE^x\nselectall=TRUE\n"_s.arg(file));
     EXPECT_EQ(table()->rowCount(), 3);
     EXPECT_EQ(states(), u"- - -"_s);
@@ -101,7 +98,7 @@ TEST_F(ImportBlockAttributes, PathsThatLeadNowhereGiveTheLastOneBack)
         EXPECT_EQ(shownEntering("AttributeFile", path), QStringList{message});
         EXPECT_EQ(shownFile(), QString());
         EXPECT_FALSE(isEnabled("selectAll"));
-        showFile(doors);
+        showFile(doorTable);
         EXPECT_EQ(shownEntering("AttributeFile", path), QStringList{message});
         EXPECT_EQ(shownFile(), file);
         EXPECT_EQ(table()->rowCount(), 3);
@@ -119,7 +116,7 @@ TEST_F(ImportBlockAttributes, PathsThatLeadNowhereGiveTheLastOneBack)
 
 TEST_F(ImportBlockAttributes, APathThatWasOnlyTypedCountsWhenItIsLeft)
 {
-    showFile(doors);
+    showFile(doorTable);
     const QString other = host.writeFile(u"other.txt"_s, "A\n1\n");
     find("AttributeFile")->setFocus();
     setText("AttributeFile", other);
@@ -136,7 +133,7 @@ TEST_F(ImportBlockAttributes, APathThatWasOnlyTypedCountsWhenItIsLeft)
 // Enter reads the file once, also where a message has taken the focus.
 TEST_F(ImportBlockAttributes, WhatIsNoTableIsSaidOnceAndLeavesNone)
 {
-    showFile(doors);
+    showFile(doorTable);
     EXPECT_EQ(shownEntering("AttributeFile", host.writeFile(u"wide.txt"_s, QByteArray(20'000, '\t'))),
               QStringList{u"warning \"Import Block Attributes\" \"The table is too large.\" OK"_s});
     EXPECT_EQ(table()->rowCount() + table()->columnCount(), 0);
@@ -147,7 +144,7 @@ TEST_F(ImportBlockAttributes, BrowsingTakesTheFile)
 {
     showWith({});
     QDir().mkpath(host.path(u"tables"_s));
-    file = host.writeFile(u"tables/doors.txt"_s, doors);
+    file = host.writeFile(u"tables/doors.txt"_s, doorTable);
     const QString chooser = u"choose \"Select the file to import\" \"%1\" \"Attributes files (*.txt)\""_s;
     EXPECT_EQ(shownChoosing("selectfile", {}), QStringList{chooser.arg(host.path({}))});
     shownChoosing("selectfile", file);
@@ -158,7 +155,7 @@ TEST_F(ImportBlockAttributes, BrowsingTakesTheFile)
 
 TEST_F(ImportBlockAttributes, WhatIsEnabledFollowsTheSelection)
 {
-    showFile(doors);
+    showFile(doorTable);
     EXPECT_EQ(states(), u"- - -"_s);
     clickCell(1, 1);
     EXPECT_EQ(states(), u"find ok -"_s);
@@ -190,7 +187,7 @@ TEST_F(ImportBlockAttributes, ReplacingGoesThroughTheSelectedCells)
         {"a cell without an item", {2, 2}, u"a"_s, u"X"_s, unchanged},
     };
     for (const auto &[what, cell, found, replacement, after] : cases) {
-        showFile(doors);
+        showFile(doorTable);
         clickCell(cell.y(), cell.x());
         setText("txsearch", found);
         setText("txreplace", replacement);
@@ -202,7 +199,7 @@ TEST_F(ImportBlockAttributes, ReplacingGoesThroughTheSelectedCells)
 
 TEST_F(ImportBlockAttributes, EnterInTheFieldsReplaces)
 {
-    showFile(doors);
+    showFile(doorTable);
     clickRow(0);
     setText("txsearch", u"door"_s);
     find("txreplace")->setFocus();
@@ -217,7 +214,7 @@ TEST_F(ImportBlockAttributes, EnterInTheFieldsReplaces)
 
 TEST_F(ImportBlockAttributes, WholeRowsGoToLispInTheOrderOfTheirSelection)
 {
-    showFile(doors);
+    showFile(doorTable);
     clickRow(2);
     clickRow(0, Qt::ControlModifier);
     clickCell(1, 1, Qt::ControlModifier);
@@ -235,7 +232,7 @@ TEST_F(ImportBlockAttributes, WholeRowsGoToLispInTheOrderOfTheirSelection)
 TEST_F(ImportBlockAttributes, WithoutWholeRowsTheDialogStays)
 {
     const QStringList noRows{u"information \"Import Block Attributes\" \"Select the rows of table for import.\" OK"_s};
-    showFile(doors);
+    showFile(doorTable);
     clickCell(0, 0);
     EXPECT_EQ(shownBy("acceptButton"), noRows);
     EXPECT_TRUE(dialog->isVisible());
@@ -267,7 +264,7 @@ TEST_F(ImportBlockAttributes, CancellingLeavesTheTable)
 {
     // About as much as is read at all.
     constexpr int count = 1'600'000;
-    showFile(doors);
+    showFile(doorTable);
     const QString large = host.writeFile(u"large.txt"_s, "A\tB\tC\n" + QByteArray("b\ta\tc\n").repeated(count));
     const auto cancel = [](QWidget *progress) { progress->findChild<QPushButton *>()->click(); };
     ModalAnswers answers;
@@ -288,10 +285,10 @@ TEST_F(ImportBlockAttributes, CancellingLeavesTheTable)
 
 TEST_F(ImportBlockAttributes, CanBeDestroyedWithASelectionAndTheFocusInTheField)
 {
-    showFile(doors);
+    showFile(doorTable);
     click("selectAll");
     find("AttributeFile")->setFocus();
-    setText("AttributeFile", host.writeFile(u"other.txt"_s, doors));
+    setText("AttributeFile", host.writeFile(u"other.txt"_s, doorTable));
     dialog.reset();
     EXPECT_FALSE(window.focusWidget());
 }

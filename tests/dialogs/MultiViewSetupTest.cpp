@@ -3,9 +3,6 @@
 
 #include <QRadioButton>
 
-using namespace ortakit::test;
-using namespace Qt::StringLiterals;
-
 namespace {
 
 class MultiViewSetup : public DialogTest<Dlg_QT_MultiViewSetup>

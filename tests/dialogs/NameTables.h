@@ -23,21 +23,4 @@ inline void choose(QTableWidget &table, const QString &names)
         table.item(row, 0)->setSelected(wanted.contains(table.item(row, 0)->data(Qt::UserRole).toString()));
 }
 
-/// A dialog that replaces the blocks of its left table.
-template <class Dialog>
-class BlockDialogTest : public DialogTest<Dialog>
-{
-protected:
-    QTableWidget *left() const { return this->template find<QTableWidget>("blocksTable"); }
-    QTableWidget *right() const { return this->template find<QTableWidget>("blocksTableRep"); }
-    QString leftRows() const { return this->tableText("blocksTable"); }
-    QString rightRows() const { return this->tableText("blocksTableRep"); }
-    /// `names` have blanks between.
-    void showBlocks(const QString &names, const QString &state = {})
-    {
-        this->dialog->setBlocks(names.split(u' '));
-        this->showWith(state);
-    }
-};
-
 } // namespace ortakit::test

@@ -6,9 +6,6 @@
 #include <QMenu>
 #include <QtMath>
 
-using namespace ortakit::test;
-using namespace Qt::StringLiterals;
-
 namespace {
 
 class PatternHatch : public DialogTest<DLG_QT_PatternHatch>
@@ -26,15 +23,13 @@ protected:
     QString writtenState() const { return QString::fromUtf8(FakeHost::readFile(stateFile)).remove(QChar(0xFEFF)); }
     QString writtenAction() const { return writtenState().section(u'\n', 1, 1); }
 
-    /// A drawing 8 wide and 4 high, with a reference to another file where one is named.
-    QString writeDrawing(const QString &name, const QByteArray &reference = {}) const
+    /// A copy of a drawing beside this test: a door 8 wide and 4 high, something flat, or what has itself as a
+    /// reference.
+    QString drawing(const QString &name) const
     {
-        QByteArray blocks;
-        if (!reference.isEmpty())
-            blocks = "0\nSECTION\n2\nBLOCKS\n0\nBLOCK\n8\n0\n2\nREF\n70\n4\n10\n0\n20\n0\n3\nREF\n1\n" + reference +
-                     "\n0\nENDBLK\n8\n0\n0\nENDSEC\n";
-        return host.writeFile(name, blocks + "0\nSECTION\n2\nENTITIES\n0\nLINE\n8\n0\n10\n1\n20\n1\n11\n9\n21\n5\n"
-                                             "0\nENDSEC\n0\nEOF\n");
+        const QString beside =
+            qEnvironmentVariable("ORTAKIT_SOURCE") + u"/tests/dialogs/patternhatch/%1.dxf"_s.arg(name);
+        return host.writeFile(name + u".dwg"_s, FakeHost::readFile(beside));
     }
     QString writeImage(const QString &name, const QSize &size) const
     {
@@ -44,7 +39,7 @@ protected:
         return host.path(name);
     }
 
-    const QString block = writeDrawing(u"door.dwg"_s);
+    const QString block = drawing(u"door"_s);
     const QString image = writeImage(u"brick.png"_s, {30, 90});
 };
 
@@ -105,8 +100,7 @@ TEST_F(PatternHatch, ButtonsCloseWithTheirActions)
 
 TEST_F(PatternHatch, PickersCloseWithTheFile)
 {
-    const QString xref = writeDrawing(u"site.dwg"_s);
-    const QString circular = writeDrawing(u"loop.dwg"_s, "loop.dwg");
+    const QString circular = drawing(u"loop"_s);
     const QString drawings = u"Specify a drawing"_s;
     const QString images = u"Select image for pattern"_s;
     // What is chosen; no action: stays open.
@@ -114,7 +108,7 @@ TEST_F(PatternHatch, PickersCloseWithTheFile)
         {"pattern_block", "Bt_selectBlock", "LbTitleblock", drawings, circular, u"GET_BLOCK="_s + circular},
         {"pattern_image", "Bt_selectImage", "LbTitleimage", images, image, u"GET_IMAGE="_s + image},
         {"pattern_image", "Bt_selectImage", "LbTitleimage", images, {}, {}},
-        {"pattern_xref", "Bt_selectBlock_2", "LbTitleXref", drawings, xref, u"GET_XREF="_s + xref},
+        {"pattern_xref", "Bt_selectBlock_2", "LbTitleXref", drawings, block, u"GET_XREF="_s + block},
         {"pattern_xref", "Bt_selectBlock_2", "LbTitleXref", drawings, circular, {}},
     };
     for (const auto &[radio, button, label, title, file, action] : rows) {
@@ -133,13 +127,11 @@ TEST_F(PatternHatch, PickersCloseWithTheFile)
 
 TEST_F(PatternHatch, ChosenFilesBringTheirSize)
 {
-    const QString flat = host.writeFile(
-        u"flat.dwg"_s, "0\nSECTION\n2\nENTITIES\n0\nLINE\n8\n0\n10\n0\n20\n0\n11\n5\n21\n0\n0\nENDSEC\n0\nEOF\n");
     const std::tuple<const char *, QString, QString, QSizeF> rows[] = {
         {"a drawing's extents", u"width=3\nheight=3\n"_s, block, {8, 4}},
         {"as factors", u"scalefactor=TRUE\nwidth=3\nheight=2\n"_s, block, {1, 1}},
         {"an image's proportions", u"width=2\nheight=2\npattern_image=TRUE\n"_s, image, {2, 6}},
-        {"a drawing without height", u"width=3\nheight=2\n"_s, flat, {3, 2}},
+        {"a drawing without height", u"width=3\nheight=2\n"_s, drawing(u"flat"_s), {3, 2}},
         {"no drawing", u"width=3\nheight=2\n"_s, image, {3, 2}},
         {"no image", u"width=3\nheight=2\npattern_image=TRUE\n"_s, block, {3, 2}},
     };

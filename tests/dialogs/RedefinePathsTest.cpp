@@ -2,9 +2,6 @@
 #include "state/tables/TableSelection.h"
 #include "tests/dialogs/DialogTest.h"
 
-using namespace ortakit::test;
-using namespace Qt::StringLiterals;
-
 namespace {
 
 const QStringList fiveEntries{u"Xref^Anna^D:/maps/anna.dwg"_s, u"IMAGE^bob^C:\\b/ob.png"_s,

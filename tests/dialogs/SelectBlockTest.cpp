@@ -4,9 +4,6 @@
 #include "tests/dialogs/DialogTest.h"
 #include "tests/dialogs/NameTables.h"
 
-using namespace ortakit::test;
-using namespace Qt::StringLiterals;
-
 namespace {
 
 /// A drawing file with these blocks: "NAME" or "NAME/flags", with blanks between.

@@ -6,9 +6,6 @@
 #include <QScrollBar>
 #include <QUrl>
 
-using namespace ortakit::test;
-using namespace Qt::StringLiterals;
-
 namespace {
 
 /// Takes the URLs of some schemes in place of the desktop.
@@ -121,32 +118,34 @@ TEST_F(ShowLinks, ShowEntityWritesTheSelectedLinksAndKeepsTheRemovals)
     EXPECT_EQ(written(), "31^plan=1.pdf^LINE^Layout1\r\n32^x^TEXT^Model\r\nREMOVE^2F\r\n");
 }
 
-TEST_F(ShowLinks, OnlyReturnReadsTheFileOnTheWayBack)
+// Else the removals of one run would reach the drawing with the next, or those that were cancelled.
+TEST_F(ShowLinks, RemovalsBelongToTheirRun)
 {
-    for (const auto &[action, rows] : {std::pair(u"RETURN"_s, 1), std::pair(u"return"_s, 2), std::pair(QString(), 2)}) {
+    const QByteArray one = "2F^http://b.org^LINE^Model\r\n";
+    const QByteArray two = "30^http://A.org^TEXT^Model\r\n31^plan=1.pdf^LINE^Layout1\r\n";
+    // How the run is left in which the first link was removed, the action of the next call and the links of its file,
+    // and what is written when that is closed.
+    const std::tuple<const char *, QString, QByteArray, QByteArray> rows[] = {
+        {"btnShowEntity", u"RETURN"_s, two, two + "REMOVE^2F\r\n"},
+        {"btnShowEntity", u"RETURN"_s, one, one},
+        {"btnShowEntity", u"return"_s, one, two + "REMOVE^2F\r\n"},
+        {"btnShowEntity", {}, one, two + "REMOVE^2F\r\n"},
+        {"btnShowEntity", u"START"_s, one, one}, // a run that was left while its entity was shown does not come back
+        {"btnClose", u"OK"_s, one + two, one + two},
+        {nullptr, u"OK"_s, one + two, one + two},
+    };
+    for (const auto &[exit, action, links, closed] : rows) {
         SetUp();
         showLinks();
         remove({0});
         choose({0});
-        click("btnShowEntity");
-        showLinks(action, "30^http://A.org^TEXT^Model\n");
-        EXPECT_EQ(table()->rowCount(), rows) << action.toStdString();
-    }
-}
-
-// A run that was left while its entity was shown does not come back.
-TEST_F(ShowLinks, ANewRunHasNothingRemoved)
-{
-    for (const auto &[action, removed] : {std::pair(u"START"_s, ""), std::pair(u"RETURN"_s, "REMOVE^30\r\n")}) {
-        SetUp();
-        showLinks();
-        remove({0, 1});
-        choose({0});
-        click("btnShowEntity");
-        showLinks(action, "2F^http://b.org^LINE^Model\n");
-        EXPECT_EQ(table()->rowCount(), 1);
+        if (exit)
+            click(exit);
+        else
+            QTest::keyClick(dialog.get(), Qt::Key_Escape);
+        showLinks(action, links);
         click("btnClose");
-        EXPECT_EQ(written(), QByteArray("2F^http://b.org^LINE^Model\r\n") + removed) << action.toStdString();
+        EXPECT_EQ(written(), closed) << (exit ? exit : "Escape") << " then " << action.toStdString();
     }
 }
 
@@ -157,25 +156,6 @@ TEST_F(ShowLinks, NoRowIsSelectedThatTheStateNames)
         showWith(u"linkfile=%1\n!action!=%2\ntableurl=30^\n"_s.arg(linkFile, action));
         EXPECT_EQ(ortakit::rowsWithSelection(*table()), QList<int>());
         EXPECT_FALSE(isEnabled("btnRemoveUrl"));
-    }
-}
-
-// Else the removals of one run would reach the drawing with the next, or those that were cancelled.
-TEST_F(ShowLinks, EachRunStartsFromItsFile)
-{
-    for (const bool closes : {true, false}) {
-        SetUp();
-        showLinks();
-        remove({0});
-        if (closes)
-            click("btnClose");
-        else
-            QTest::keyClick(dialog.get(), Qt::Key_Escape);
-        EXPECT_EQ(written().contains("REMOVE"), closes);
-        showLinks(u"OK"_s);
-        EXPECT_EQ(table()->rowCount(), 3);
-        click("btnClose");
-        EXPECT_FALSE(written().contains("REMOVE"));
     }
 }
 

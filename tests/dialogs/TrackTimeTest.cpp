@@ -7,10 +7,6 @@
 #include <QThread>
 #include <QTimer>
 
-using namespace ortakit;
-using namespace ortakit::test;
-using namespace Qt::StringLiterals;
-
 namespace {
 
 QString recordName()

@@ -1,20 +1,14 @@
 #include "formats/AliasFile.h"
 
 #include "tests/formats/Folder.h"
-#include "tests/support/QtTestPrinters.h"
 
 #include <QBuffer>
 
-#include <gtest/gtest.h>
 #include <sys/stat.h>
-
-using namespace ortakit;
-using namespace Qt::StringLiterals;
-using formats_test::Folder;
 
 namespace {
 
-AliasReading read(QByteArray text)
+AliasReading aliasesOf(QByteArray text)
 {
     QBuffer device(&text);
     device.open(QIODevice::ReadOnly);
@@ -22,7 +16,7 @@ AliasReading read(QByteArray text)
 }
 
 /// The pairs as "LINE=L CIRCLE=C".
-QString pairs(const QList<CommandAlias> &aliases)
+QString aliasPairs(const QList<CommandAlias> &aliases)
 {
     QStringList texts;
     for (const CommandAlias &pair : aliases)
@@ -66,8 +60,8 @@ TEST(AliasFile, ReadsRecordsWhereverTheyStand)
         {"attribute twice", "<a><record alias='X' alias='Y'/></a>", u""_s, "redefined"},
     };
     for (const auto &row : rows) {
-        const AliasReading reading = read(row.text);
-        EXPECT_EQ(pairs(reading.aliases), row.pairs) << row.name;
+        const AliasReading reading = aliasesOf(row.text);
+        EXPECT_EQ(aliasPairs(reading.aliases), row.pairs) << row.name;
         EXPECT_EQ(bool(reading), row.error == nullptr) << row.name << ": " << reading.error.toStdString();
         EXPECT_TRUE(reading.error.contains(QLatin1StringView(row.error))) << row.name;
     }
@@ -82,29 +76,24 @@ TEST(AliasFile, HostileFilesAreRefused)
         bomb += "<!ENTITY e" + QByteArray::number(i) + " '" + inner.repeated(10) + "'>";
     }
     QByteArray attributes = "<a><record";
-    for (int i = 0; i < 1'000'000; ++i)
+    for (int i = 0; i < 20'000; ++i)
         attributes += " a" + QByteArray::number(i) + "=''";
-    const struct
-    {
-        const char *name;
-        QByteArray text;
-        QString error;
-    } rows[] = {
+    const std::tuple<const char *, QByteArray, QString> rows[] = {
         {"entities in entities", bomb + "]><a><record command='&e29;' alias='L'/></a>", u"expansion limit"_s},
         {"one entity again and again",
          "<!DOCTYPE a [<!ENTITY e '" + QByteArray(4000, 'x') + "'>]><a>" +
-             QByteArray("<record command='&e;' alias='L'/>").repeated(200'000) + "</a>",
+             QByteArray("<record command='&e;' alias='L'/>").repeated(2'000) + "</a>",
          u"expand to too much"_s},
         {"default of an attribute",
          "<!DOCTYPE a [<!ATTLIST record command CDATA '" + QByteArray(60'000, 'x') + "'>]><a>" +
-             QByteArray("<record/>").repeated(200'000) + "</a>",
+             QByteArray("<record/>").repeated(2'000) + "</a>",
          u"expand to too much"_s},
         {"attributes", attributes + "/></a>", u"too long"_s},
-        {"one long value", "<a><record command='" + QByteArray(20'000'000, 'x') + "'/></a>", u"too long"_s},
-        {"depth", QByteArray("<a>").repeated(2'000'000), u"Premature end"_s},
+        {"one long value", "<a><record command='" + QByteArray(200'000, 'x') + "'/></a>", u"too long"_s},
+        {"depth", QByteArray("<a>").repeated(200'000), u"Premature end"_s},
     };
-    for (const auto &row : rows)
-        EXPECT_TRUE(read(row.text).error.contains(row.error)) << row.name;
+    for (const auto &[name, text, error] : rows)
+        EXPECT_TRUE(aliasesOf(text).error.contains(error)) << name;
 }
 
 TEST(AliasFile, WritesUpperCaseAndLeavesOutWhatIsIncomplete)
@@ -120,9 +109,9 @@ TEST(AliasFile, WritesUpperCaseAndLeavesOutWhatIsIncomplete)
     const QByteArray text = writtenAliases(aliases);
     EXPECT_TRUE(text.trimmed().startsWith("<aliases>\n    <record command=\"LINE\" alias=\"L\"/>\n"))
         << text.toStdString();
-    const AliasReading reading = read(text);
+    const AliasReading reading = aliasesOf(text);
     EXPECT_EQ(reading.error, QString());
-    EXPECT_EQ(pairs(reading.aliases), u"LINE=L STRASSE=\u00c4 A<B>&\"C'=\U0001F600\t B=C"_s);
+    EXPECT_EQ(aliasPairs(reading.aliases), u"LINE=L STRASSE=\u00c4 A<B>&\"C'=\U0001F600\t B=C"_s);
 }
 
 TEST(AliasFile, ListingHasTheAliasesInAColumn)
@@ -153,14 +142,8 @@ TEST(AliasFile, KeepsBesideWhatItWouldNotWrite)
     const Folder folder;
     const QString path = folder.path(u"alias.xml"_s);
     const QByteArray whole = "<aliases><record command='LINE' alias='L'/></aliases>";
-    const struct
-    {
-        const char *name;
-        QByteArray read;
-        QByteArray later; ///< what another program makes of it
-        const char *damage;
-        bool isKept;
-    } rows[] = {
+    // later: what another program makes of it
+    const std::tuple<const char *, QByteArray, QByteArray, const char *, bool> rows[] = {
         {"nothing but aliases", whole, whole, "", false},
         {"none yet", {}, {}, "", false},
         {"a comment", "<aliases><!-- mine --></aliases>", {}, "", true},
@@ -180,26 +163,26 @@ TEST(AliasFile, KeepsBesideWhatItWouldNotWrite)
          "line 1: Encountered incorrectly encoded content.",
          true},
     };
-    for (const auto &row : rows) {
-        SCOPED_TRACE(row.name);
+    for (const auto &[name, read, later, damage, isKept] : rows) {
+        SCOPED_TRACE(name);
         QFile::remove(path);
         QFile::remove(path + u".kept"_s);
-        if (!row.read.isEmpty())
-            folder.writeFile(u"alias.xml"_s, row.read);
+        if (!read.isEmpty())
+            folder.writeFile(u"alias.xml"_s, read);
         AliasFile file;
         file.open(path);
-        const QByteArray before = row.later.isEmpty() ? row.read : row.later;
-        if (!row.later.isEmpty())
-            folder.writeFile(u"alias.xml"_s, row.later);
-        EXPECT_EQ(file.damage().toStdString(), row.damage);
+        const QByteArray before = later.isEmpty() ? read : later;
+        if (!later.isEmpty())
+            folder.writeFile(u"alias.xml"_s, later);
+        EXPECT_EQ(file.damage().toStdString(), damage);
         const AliasFile::Written written = file.write({{u"line"_s, u"l"_s}});
         EXPECT_EQ(written.error, QString());
-        EXPECT_EQ(written.kept, row.isKept ? path + u".kept"_s : QString());
-        EXPECT_EQ(Folder::readFile(path + u".kept"_s), row.isKept ? before : QByteArray());
-        EXPECT_EQ(pairs(readAliasFile(path).aliases), u"LINE=L"_s);
+        EXPECT_EQ(written.kept, isKept ? path + u".kept"_s : QString());
+        EXPECT_EQ(Folder::readFile(path + u".kept"_s), isKept ? before : QByteArray());
+        EXPECT_EQ(aliasPairs(readAliasFile(path).aliases), u"LINE=L"_s);
         EXPECT_EQ(file.write({}).kept, QString()) << "it is known now";
         folder.writeFile(u"alias.xml"_s, "<aliases><!-- another --></aliases>");
-        EXPECT_EQ(file.write({}).kept, path + (row.isKept ? u".kept2"_s : u".kept"_s)) << "none takes another's place";
+        EXPECT_EQ(file.write({}).kept, path + (isKept ? u".kept2"_s : u".kept"_s)) << "none takes another's place";
         QFile::remove(path + u".kept2"_s);
     }
     AliasFile chosen;

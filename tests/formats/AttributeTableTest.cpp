@@ -1,23 +1,14 @@
 #include "formats/AttributeTable.h"
 
 #include "formats/TextReading.h"
-#include "tests/support/QtTestPrinters.h"
-
-#include <gtest/gtest.h>
-
-using namespace ortakit;
-using namespace Qt::StringLiterals;
+#include "tests/formats/Folder.h"
 
 namespace {
 
 TEST(AttributeTable, ReadsFieldsThatHaveAColumn)
 {
-    const struct
-    {
-        const char *name;
-        QByteArray text;
-        QString table; ///< "[field][field]" for the headers and each row
-    } rows[] = {
+    // table: "[field][field]" for the headers and each row
+    const std::tuple<const char *, QByteArray, QString> rows[] = {
         {"empty", "", {}},
         {"only headers", "HANDLE\tNAME", u"[HANDLE][NAME]"_s},
         {"without an end", "A\tB\r\n1\t2\r\n3\t4", u"[A][B] [1][2] [3][4]"_s},
@@ -39,17 +30,17 @@ TEST(AttributeTable, ReadsFieldsThatHaveAColumn)
         {"lines with a carriage return", "A\r1\r\r2\r", u"[A] [1] [] [2]"_s},
         {"separators of other formats", "A;B,C\n1;2,3^4=5\n", u"[A;B,C] [1;2,3^4=5]"_s},
     };
-    for (const auto &row : rows) {
-        AttributeTableReader reader(row.text);
-        EXPECT_FALSE(reader.isTooLarge()) << row.name;
+    for (const auto &[name, text, table] : rows) {
+        AttributeTableReader reader(text);
+        EXPECT_FALSE(reader.isTooLarge()) << name;
         const auto shown = [](const QStringList &fields) { return u'[' + fields.join(u"]["_s) + u']'; };
         QStringList found;
         while (reader.next())
             found.append(shown(reader.fields()));
-        EXPECT_EQ(reader.rowCount(), found.size()) << row.name;
+        EXPECT_EQ(reader.rowCount(), found.size()) << name;
         if (!reader.headers().isEmpty())
             found.prepend(shown(reader.headers()));
-        EXPECT_EQ(found.join(u' '), row.table) << row.name;
+        EXPECT_EQ(found.join(u' '), table) << name;
     }
 }
 
@@ -57,22 +48,16 @@ TEST(AttributeTable, RefusesWhatNoMemoryHolds)
 {
     const qsizetype mostColumns = AttributeTableReader::mostColumns;
     const qsizetype mostCells = AttributeTableReader::mostCells;
-    const struct
-    {
-        const char *name;
-        qsizetype columns;
-        qsizetype rows;
-        bool isTooLarge;
-    } rows[] = {
+    const std::tuple<const char *, qsizetype, qsizetype, bool> rows[] = {
         {"as wide as may be", mostColumns, 1, false},
         {"wider", mostColumns + 1, 0, true},
         {"very wide", 5'000'000, 0, true},
         {"as many cells as may be", 1000, mostCells / 1000, false},
         {"more cells", 1000, mostCells / 1000 + 1, true},
     };
-    for (const auto &row : rows) {
-        const QByteArray text = QByteArray(row.columns - 1, '\t') + QByteArray(row.rows + 1, '\n');
-        EXPECT_EQ(AttributeTableReader(text).isTooLarge(), row.isTooLarge) << row.name;
+    for (const auto &[name, columns, lines, isTooLarge] : rows) {
+        const QByteArray text = QByteArray(columns - 1, '\t') + QByteArray(lines + 1, '\n');
+        EXPECT_EQ(AttributeTableReader(text).isTooLarge(), isTooLarge) << name;
     }
 }
 

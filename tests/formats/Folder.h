@@ -1,7 +1,13 @@
 #pragma once
 
+// What tests of file formats are written with, and the names they are written in.
+
+#include "tests/support/QtTestPrinters.h"
+
 #include <QFile>
 #include <QTemporaryDir>
+
+#include <gtest/gtest.h>
 
 namespace formats_test {
 
@@ -32,3 +38,9 @@ private:
 };
 
 } // namespace formats_test
+
+namespace ortakit {
+}
+using namespace ortakit;
+using namespace formats_test;
+using namespace Qt::StringLiterals;

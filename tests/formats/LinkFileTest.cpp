@@ -1,18 +1,11 @@
 #include "formats/LinkFile.h"
 
 #include "tests/formats/Folder.h"
-#include "tests/support/QtTestPrinters.h"
-
-#include <gtest/gtest.h>
-
-using namespace ortakit;
-using namespace Qt::StringLiterals;
-using formats_test::Folder;
 
 namespace {
 
 /// Links as "entity|url|type|space", with blanks between.
-QString shown(const QList<Link> &links)
+QString shownLinks(const QList<Link> &links)
 {
     QStringList rows;
     for (const Link &link : links)
@@ -22,13 +15,7 @@ QString shown(const QList<Link> &links)
 
 TEST(LinkFile, IsReadLineByLineAndWrittenBack)
 {
-    const struct
-    {
-        const char *name;
-        QByteArray read;
-        QString links;
-        QByteArray written;
-    } rows[] = {
+    const std::tuple<const char *, QByteArray, QString, QByteArray> rows[] = {
         {"empty", "", u""_s, ""},
         {"two links", "2F^http://a.b^LINE^Model\n30^c:/x y.pdf^TEXT^Layout 1\n",
          u"2F|http://a.b|LINE|Model 30|c:/x y.pdf|TEXT|Layout 1"_s,
@@ -42,10 +29,10 @@ TEST(LinkFile, IsReadLineByLineAndWrittenBack)
         {"no UTF-8", "2F^\xFC.pdf^TEXT^Model\n30^\x80\x9F^x^y", u"2F|\u00fc.pdf|TEXT|Model 30|\u0080\u009f|x|y"_s,
          "2F^\xFC.pdf^TEXT^Model\r\n30^\x80\x9F^x^y\r\n"},
     };
-    for (const auto &row : rows) {
-        const LinkReading reading = readLinks(row.read);
-        EXPECT_EQ(shown(reading.links), row.links) << row.name;
-        EXPECT_EQ(writtenLinks(reading.links, {}, reading.encoding), row.written) << row.name;
+    for (const auto &[name, read, links, written] : rows) {
+        const LinkReading reading = readLinks(read);
+        EXPECT_EQ(shownLinks(reading.links), links) << name;
+        EXPECT_EQ(writtenLinks(reading.links, {}, reading.encoding), written) << name;
     }
 }
 
@@ -55,13 +42,6 @@ TEST(LinkFile, RemovalsFollowTheLinks)
               "2F^u^LINE^Model\r\nREMOVE^30\r\nREMOVE^31\r\n");
     EXPECT_EQ(writtenLinks({Link{u"\u00fc"_s, u"\u20ac"_s}}, {}, LinkEncoding::Latin1), "\xC3\xBC^\xE2\x82\xAC^^\r\n")
         << "what Latin-1 does not have";
-}
-
-TEST(LinkFile, AFileThatCannotBeReadSaysWhy)
-{
-    const Folder folder;
-    EXPECT_FALSE(readLinkFile(folder.path(u"missing"_s)).error.isEmpty());
-    EXPECT_EQ(shown(readLinkFile(folder.writeFile(u"links"_s, "2F^u^LINE^Model")).links), u"2F|u|LINE|Model"_s);
 }
 
 TEST(LinkFile, ALinkLeadsToAFileOrToAUrlWithAScheme)

@@ -1,12 +1,7 @@
 #include "formats/ReferenceEntry.h"
 
 #include "formats/NameFilter.h"
-#include "tests/support/QtTestPrinters.h"
-
-#include <gtest/gtest.h>
-
-using namespace ortakit;
-using namespace Qt::StringLiterals;
+#include "tests/formats/Folder.h"
 
 namespace {
 
@@ -25,30 +20,9 @@ TEST(ReferenceEntry, IsTakenApartAndPutTogether)
     }
 }
 
-TEST(ReferenceEntry, PathsAreRedefined)
-{
-    // A path, what is found in it, what takes its place, and the path then.
-    const std::tuple<QString, QString, QString, QString> rows[] = {
-        {u"plan.dwg"_s, {}, u"D:\\Maps\\"_s, u"D:\\Maps\\plan.dwg"_s},
-        {u"C:\\a\\a\\x"_s, u"\\a"_s, {}, u"C:\\x"_s},
-        {u"C:\\A\\a"_s, u"A"_s, u"$1"_s, u"C:\\$1\\a"_s},
-        {u"C:\\x"_s, u"D:"_s, u"E:"_s, u"C:\\x"_s},
-        {u"aa"_s, u"a"_s, u"aa"_s, u"aaaa"_s},
-    };
-    for (const auto &[path, found, replacement, redefined] : rows)
-        EXPECT_EQ(redefinedPath(path, found, replacement), redefined);
-    EXPECT_EQ(withBackslashes(u"//server/a\\b/c"_s), u"\\\\server\\a\\b\\c"_s);
-}
-
 TEST(NameFilter, ShowsNamesInWhichItIsFound)
 {
-    const struct
-    {
-        const char *what;
-        QString expression;
-        QString shown;
-        bool isUsable;
-    } rows[] = {
+    const std::tuple<const char *, QString, QString, bool> rows[] = {
         {"empty", {}, u"Anna Bob hanna * a+"_s, true},
         {"lone star", u"*"_s, u"Anna Bob hanna * a+"_s, true},
         {"anywhere", u"nn"_s, u"Anna hanna"_s, true},
@@ -59,15 +33,15 @@ TEST(NameFilter, ShowsNamesInWhichItIsFound)
         {"invalid star", u"**"_s, {}, false},
         {"a limit does not go up", u"(*LIMIT_MATCH=4000000000)^A"_s, u"Anna"_s, true},
     };
-    for (const auto &row : rows) {
-        NameFilter filter(row.expression);
+    for (const auto &[what, expression, expected, isUsable] : rows) {
+        NameFilter filter(expression);
         QStringList shown;
         for (const QString &name : {u"Anna"_s, u"Bob"_s, u"hanna"_s, u"*"_s, u"a+"_s}) {
             if (filter.accepts(name))
                 shown.append(name);
         }
-        EXPECT_EQ(shown.join(u' '), row.shown) << row.what;
-        EXPECT_EQ(filter.isUsable(), row.isUsable) << row.what;
+        EXPECT_EQ(shown.join(u' '), expected) << what;
+        EXPECT_EQ(filter.isUsable(), isUsable) << what;
     }
 }
 

@@ -1,11 +1,6 @@
 #include "formats/TextCase.h"
 
-#include "tests/support/QtTestPrinters.h"
-
-#include <gtest/gtest.h>
-
-using namespace ortakit;
-using namespace Qt::StringLiterals;
+#include "tests/formats/Folder.h"
 
 namespace {
 

@@ -5,7 +5,7 @@
 #include <QStringList>
 #include <QVariant>
 
-namespace lispfuncs_test {
+namespace ortakit::test {
 
 /// What one word of a table stands for: "T", "nil", "(1 2 3)" for a point, "7" (of 16 bits where it fits), "2.5", and
 /// "\"\"" for a text without characters; all else is a text.
@@ -35,4 +35,4 @@ inline QVariantList argumentsOf(const QString &text)
     return arguments;
 }
 
-} // namespace lispfuncs_test
+} // namespace ortakit::test

@@ -1,14 +1,9 @@
 #include "lispfuncs/KeywordPrompts.h"
 
 #include "tests/lispfuncs/CallText.h"
-#include "tests/support/FakeHost.h"
-#include "tests/support/QtTestPrinters.h"
-
-#include <gtest/gtest.h>
+#include "tests/support/ModuleTest.h"
 
 namespace {
-
-using namespace Qt::StringLiterals;
 
 // A call without bits and keywords asks for no initget: it leaves what the program has set.
 TEST(KeywordPrompts, AskTheHost)
@@ -16,13 +11,8 @@ TEST(KeywordPrompts, AskTheHost)
     constexpr auto getPoint = ortakit::koraGetPoint;
     constexpr auto getString = ortakit::koraGetString;
     constexpr auto getKword = ortakit::koraGetKword;
-    const struct
-    {
-        const char *name;
-        CKvLispEngine::Handler function;
-        QString arguments;
-        QString requests; ///< what the host is asked, with "; " between; nothing for wrong arguments
-    } rows[] = {
+    // requests: what the host is asked, with "; " between; nothing for wrong arguments
+    const std::tuple<const char *, CKvLispEngine::Handler, QString, QString> rows[] = {
         {"point, nothing given", getPoint, {}, u"getPoint \"\""_s},
         {"point, bits alone", getPoint, u"33 | \\nNext: "_s, u"initget 33; getPoint \"\nNext: \""_s},
         {"point, base in front", getPoint, u"(1 2 0) | 70000 | Undo, eXit, | Next"_s,
@@ -50,15 +40,15 @@ TEST(KeywordPrompts, AskTheHost)
         {"keyword, no prompt", getKword, u"A,B"_s, u"initget 0 A B; getKeyword \"\nSpecify option [A/B]: \""_s},
         {"keyword, a fifth string", getKword, u"A | B | C | D | E"_s, {}},
     };
-    for (const auto &row : rows) {
-        SCOPED_TRACE(row.name);
+    for (const auto &[name, function, arguments, requests] : rows) {
+        SCOPED_TRACE(name);
         ortakit::test::FakeHost host;
         ortakit::test::FakeDocument &document = host.document();
         document.setUserOrigin({100, 0, 0});
-        document.lisp().defineFunction(u"ask"_s, row.function);
-        const int code = document.lisp().call(u"ask"_s, lispfuncs_test::argumentsOf(row.arguments));
-        EXPECT_EQ(document.input().requests().join(u"; "_s), row.requests);
-        EXPECT_EQ(code, row.requests.isEmpty() ? kRtError : kRtNormal);
+        document.lisp().defineFunction(u"ask"_s, function);
+        const int code = document.lisp().call(u"ask"_s, argumentsOf(arguments));
+        EXPECT_EQ(document.input().requests().join(u"; "_s), requests);
+        EXPECT_EQ(code, requests.isEmpty() ? kRtError : kRtNormal);
     }
 }
 

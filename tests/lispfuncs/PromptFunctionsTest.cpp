@@ -1,22 +1,13 @@
 #include "lispfuncs/PromptFunctions.h"
 
 #include "tests/lispfuncs/CallText.h"
-#include "tests/support/FakeHost.h"
-#include "tests/support/QtTestPrinters.h"
-
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
+#include "tests/support/ModuleTest.h"
 
 namespace {
 
-using namespace Qt::StringLiterals;
-using lispfuncs_test::argumentsOf;
-using lispfuncs_test::valueOf;
-using ortakit::test::FakeAnswer;
-using ortakit::test::FakeHost;
 using testing::ElementsAre;
 
-constexpr std::pair<const char *, CKvLispEngine::Handler> functions[] = {
+constexpr std::pair<const char *, CKvLispEngine::Handler> promptFunctions[] = {
     {"getIntOrtakit", ortakit::getIntOrtakit},       {"getStringOrtakit", ortakit::getStringOrtakit},
     {"getPointOrtakit", ortakit::getPointOrtakit},   {"getKwordOrtakit", ortakit::getKwordOrtakit},
     {"getRealOrtakit", ortakit::getRealOrtakit},     {"getDistOrtakit", ortakit::getDistOrtakit},
@@ -44,7 +35,7 @@ class PromptFunctions : public testing::Test
 protected:
     PromptFunctions()
     {
-        for (const auto &[name, handler] : functions)
+        for (const auto &[name, handler] : promptFunctions)
             m_host.document().lisp().defineFunction(QString::fromLatin1(name), handler);
         m_host.document().setUserOrigin({100, 0, 0});
         call(u"initgetOrtakit"_s);
@@ -178,29 +169,24 @@ TEST_F(PromptFunctions, BitsAreSharedByDocuments)
 
 TEST_F(PromptFunctions, InitgetTakesBitsAndText)
 {
-    const struct
-    {
-        QString arguments;
-        int bits;
-        int released;
-    } rows[] = {
+    const std::tuple<QString, int, int> rows[] = {
         {{}, 0, -1},         {u"70000 | Yes No"_s, 70000, 1}, {u"5 | Yes No"_s, 5, 1}, {u"3"_s, 3, -1},
         {u"Yes No"_s, 0, 1}, {u"1.5 | Yes No"_s, 0, 2}, // a real is no bits
     };
-    for (const auto &row : rows) {
-        SCOPED_TRACE(row.arguments.toStdString());
+    for (const auto &[arguments, bits, released] : rows) {
+        SCOPED_TRACE(arguments.toStdString());
         call(u"initgetOrtakit"_s, {1});
-        EXPECT_EQ(call(u"initgetOrtakit"_s, argumentsOf(row.arguments)), kRtNormal);
+        EXPECT_EQ(call(u"initgetOrtakit"_s, argumentsOf(arguments)), kRtNormal);
         EXPECT_EQ(result(), "");
-        EXPECT_EQ(m_host.document().lisp().releasedArguments(), row.released);
+        EXPECT_EQ(m_host.document().lisp().releasedArguments(), released);
         call(u"getRealOrtakit"_s);
-        EXPECT_EQ(requests().at(requests().size() - 2), "initget " + std::to_string(row.bits));
+        EXPECT_EQ(requests().at(requests().size() - 2), "initget " + std::to_string(bits));
     }
 }
 
 TEST_F(PromptFunctions, EachClearsLispCanceled)
 {
-    for (const auto &[name, handler] : functions) {
+    for (const auto &[name, handler] : promptFunctions) {
         m_host.document().lisp().setSymbol(u"LispCanceled"_s, *OdResBuf::newInteger(OdResBuf::kRtShort, 1));
         call(QString::fromLatin1(name));
         const bool prompts = handler != ortakit::initgetOrtakit;
@@ -213,7 +199,7 @@ TEST(PromptFunctionsWithoutDocument, AreErrors)
 {
     FakeHost host;
     host.documents().close(&host.document());
-    for (const auto &[name, handler] : functions)
+    for (const auto &[name, handler] : promptFunctions)
         EXPECT_EQ(handler(), kRtError) << name;
 }
 

@@ -1,23 +1,13 @@
 #include "lispfuncs/PromptText.h"
 
-#include <gtest/gtest.h>
+#include "tests/support/ModuleTest.h"
 
 namespace {
 
-using ortakit::isNumericDefault;
-using ortakit::parsePrompt;
-using ortakit::PromptText;
-
 TEST(PromptText, TakesPromptsApart)
 {
-    const struct
-    {
-        const char *name;
-        const char *prompt;
-        const char *cleaned;
-        const char *keywords; ///< with "|" between
-        const char *defaultText;
-    } rows[] = {
+    // keywords: with "|" between
+    const std::tuple<const char *, const char *, const char *, const char *, const char *> rows[] = {
         {"nothing", "", "", "", ""},
         {"plain", "Specify size", "Specify size", "", ""},
         {"options and default", "Specify size [Auto/Manual] <Auto>: ", "Specify size", "Auto|Manual", "Auto"},
@@ -35,19 +25,18 @@ TEST(PromptText, TakesPromptsApart)
         {"colon inside", "Scale 1:50 <1:100>: ", "Scale 1:50", "", "1:100"},
         {"not only ASCII", "Größe [Höhe/Länge] <Höhe>:", "Größe", "Höhe|Länge", "Höhe"},
     };
-    for (const auto &row : rows) {
-        SCOPED_TRACE(row.name);
-        const PromptText parsed = parsePrompt(QString::fromUtf8(row.prompt));
-        EXPECT_EQ(parsed.given.toStdString(), row.prompt);
-        EXPECT_EQ(parsed.cleaned.toStdString(), row.cleaned);
-        EXPECT_EQ(parsed.keywords.join(u'|').toStdString(), row.keywords);
-        EXPECT_EQ(parsed.defaultText.toStdString(), row.defaultText);
+    for (const auto &[name, prompt, cleaned, keywords, defaultText] : rows) {
+        SCOPED_TRACE(name);
+        const PromptText parsed = parsePrompt(QString::fromUtf8(prompt));
+        EXPECT_EQ(parsed.given.toStdString(), prompt);
+        EXPECT_EQ(parsed.cleaned.toStdString(), cleaned);
+        EXPECT_EQ(parsed.keywords.join(u'|').toStdString(), keywords);
+        EXPECT_EQ(parsed.defaultText.toStdString(), defaultText);
     }
 }
 
 TEST(PromptText, WrittenLineBreaksGo)
 {
-    using namespace Qt::StringLiterals;
     EXPECT_EQ(parsePrompt(u"\\nPick\\n a point:"_s).given.toStdString(), "Pick a point:");
     EXPECT_EQ(parsePrompt(u"\\\\nn"_s).given.toStdString(), "\\n") << "a removed break joins no new one";
     EXPECT_EQ(parsePrompt(u"[Au\\nto/Manual]"_s).keywords.join(u'|').toStdString(), "Auto|Manual");

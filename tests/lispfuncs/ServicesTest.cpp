@@ -2,20 +2,11 @@
 #include "lispfuncs/LicenceState.h"
 #include "lispfuncs/RemoteText.h"
 #include "platform/rx/OdError.h"
-#include "tests/support/FakeHost.h"
-#include "tests/support/ModalAnswers.h"
-#include "tests/support/QtTestPrinters.h"
+#include "tests/support/ModuleTest.h"
 
 #include <QDir>
 
-#include <gtest/gtest.h>
-
 namespace {
-
-using namespace Qt::StringLiterals;
-using ortakit::test::FakeAnswer;
-using ortakit::test::FakeHost;
-using ortakit::test::ModalAnswers;
 
 class Services : public testing::Test
 {
@@ -40,13 +31,7 @@ TEST_F(Services, TheBackupFolderIsWhatTheUserEntered)
 {
     const QString old = host.path(u"old"_s);
     const QString file = host.writeFile(u"file"_s, "x");
-    const struct
-    {
-        const char *what;
-        FakeAnswer answer;
-        QString kept;
-        QString printed;
-    } rows[] = {
+    const std::tuple<const char *, FakeAnswer, QString, QString> rows[] = {
         {"a folder", {kRtNormal, host.path(u"new folder"_s), {}}, host.path(u"new folder"_s), {}},
         {"Enter keeps what there is", {kRtNormal, {}, {}}, old, {}},
         {"below the current folder", {kRtNormal, u"."_s, {}}, u"."_s, {}},
@@ -58,14 +43,14 @@ TEST_F(Services, TheBackupFolderIsWhatTheUserEntered)
         {"a file", {kRtNormal, file, {}}, old, u"\n\"%1\" is a invalid directory."_s.arg(file)},
         {"empty", {kRtNormal, u""_s, {}}, old, u"\n\"\" is a invalid directory."_s},
     };
-    for (const auto &row : rows) {
-        SCOPED_TRACE(row.what);
+    for (const auto &[what, answer, kept, printed] : rows) {
+        SCOPED_TRACE(what);
         setting() = old;
         lisp.clearPrinted();
-        host.document().input().answer(row.answer);
+        host.document().input().answer(answer);
         EXPECT_EQ(lisp.call(u"C:SetBackupFolder"_s), kRtNormal);
-        EXPECT_EQ(setting(), row.kept);
-        EXPECT_EQ(lisp.printed(), row.printed);
+        EXPECT_EQ(setting(), kept);
+        EXPECT_EQ(lisp.printed(), printed);
         EXPECT_EQ(lisp.result(), u"");
     }
     EXPECT_EQ(
@@ -94,14 +79,7 @@ TEST_F(Services, ATildeOpensTheFolderChooser)
 
 TEST_F(Services, RemoteTextsWantFourArgumentsOfTheirTypes)
 {
-    const struct
-    {
-        const char *what;
-        QVariantList arguments;
-        QStringList steps;
-        QString result;
-        int released;
-    } rows[] = {
+    const std::tuple<const char *, QVariantList, QStringList, QString, int> rows[] = {
         {"a file", {u"note.txt"_s, 0.0, 2.5, u""_s}, {u"start"_s, u"append"_s, u"end"_s, u"flush"_s}, u"<1>"_s, 1},
         {"more", {u"note.txt"_s, 0.0, 2.5, u"x"_s, 1, 2}, {u"start"_s, u"append"_s, u"end"_s, u"flush"_s}, u"<1>"_s, 3},
         {"none", {}, {u"start"_s, u"end"_s}, {}, -1},
@@ -110,15 +88,15 @@ TEST_F(Services, RemoteTextsWantFourArgumentsOfTheirTypes)
         {"no real for the angle", {u"note.txt"_s, 0, 2.5, u""_s}, {u"start"_s, u"end"_s}, {}, -1},
         {"nil", {u"note.txt"_s, 0.0, 2.5, QVariant()}, {u"start"_s, u"end"_s}, {}, -1},
     };
-    for (const auto &row : rows) {
-        SCOPED_TRACE(row.what);
+    for (const auto &[what, arguments, steps, result, released] : rows) {
+        SCOPED_TRACE(what);
         FakeHost other;
         auto &engine = other.document().lisp();
         engine.defineFunction(u"CreateRtext"_s, ortakit::createRtext);
-        EXPECT_EQ(engine.call(u"createrTEXT"_s, row.arguments), kRtNormal);
-        EXPECT_EQ(other.document().fakeDatabase().steps(), row.steps);
-        EXPECT_EQ(engine.result(), row.result);
-        EXPECT_EQ(engine.releasedArguments(), row.released);
+        EXPECT_EQ(engine.call(u"createrTEXT"_s, arguments), kRtNormal);
+        EXPECT_EQ(other.document().fakeDatabase().steps(), steps);
+        EXPECT_EQ(engine.result(), result);
+        EXPECT_EQ(engine.releasedArguments(), released);
     }
 }
 

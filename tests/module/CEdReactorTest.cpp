@@ -1,45 +1,31 @@
 #include "module/CEdReactor.h"
 
 #include "module/DialogRegistry.h"
-#include "tests/support/FakeHost.h"
-#include "tests/support/QtTestPrinters.h"
-
-#include <gtest/gtest.h>
+#include "tests/support/ModuleTest.h"
 
 namespace {
 
-using namespace Qt::StringLiterals;
-using ortakit::test::FakeDocument;
-using ortakit::test::FakeHost;
+qint64 reactorNow = 0;
 
-qint64 now = 0;
-
-qint64 testClock()
-{
-    return now;
-}
-
-/// Two documents, the second one active; time stands an hour after the last activity of every record.
+/// Two documents, the second one active, with two records; time stands an hour after the last activity of each.
 class EditorReactor : public testing::Test
 {
 protected:
     EditorReactor()
     {
-        ortakit::setClock(testClock);
-        now = hour;
-        for (FakeDocument *document : {m_first, m_active}) {
-            registry().append(document);
-            registry().records().back().editingTime.isTracked = true;
+        ortakit::setClock([] { return reactorNow; });
+        reactorNow = hour;
+        for (FakeDocument *document : {m_first, m_active, m_active}) {
+            records().emplace_back(document).editingTime.isTracked = true;
         }
     }
     ~EditorReactor() override
     {
-        registry().records().clear();
+        records().clear();
         ortakit::setClock(nullptr);
     }
 
-    static DialogRegistry &registry() { return DialogRegistry::instance(); }
-    static double hours(size_t record) { return registry().records().at(record).editingTime.hours; }
+    static std::vector<DocumentDialogSet> &records() { return DialogRegistry::instance().records(); }
     static bool hasRecord(FakeDocument *document) { return document->fakeDatabase().getAt(u"KORA_TRACKTIME"_s); }
 
     static constexpr qint64 hour = 3600 * 1000;
@@ -49,61 +35,46 @@ protected:
     OdStaticRxObject<CEdReactor> m_reactor;
 };
 
-TEST_F(EditorReactor, ActivityCountsForTheActiveDocumentAndSavingWritesItsTime)
+TEST_F(EditorReactor, ActivityCountsForTheTrackedActiveDocumentAndSavingWritesItsTime)
 {
-    const auto variable = [](const char *name) {
-        return [name](CEdReactor &reactor) { reactor.sysVarWillChange(nullptr, QString::fromLatin1(name)); };
-    };
-    const struct
-    {
-        const char *name;
-        std::function<void(CEdReactor &)> notify;
-        bool counts;
-    } rows[] = {
-        {"command", [](CEdReactor &reactor) { reactor.commandWillStart(nullptr, nullptr); }, true},
-        {"Lisp", [](CEdReactor &reactor) { reactor.lispWillStart(nullptr, u"(foo)"_s); }, true},
-        {"variable", variable("CLAYER"), true},
-        {"nameless variable", variable(""), true},
-        {"longer name", variable("LASTPROMPT2"), true},
-        {"prompt", variable("LASTPROMPT"), false},
-        {"prompt, mixed", variable("LastPrompt"), false},
-    };
+    const std::pair<QString, bool> variables[] = {{u"CLAYER"_s, true},
+                                                  {u""_s, true},
+                                                  {u"LASTPROMPT2"_s, true},
+                                                  {u"LASTPROMPT"_s, false},
+                                                  {u"LastPrompt"_s, false}};
     double expected = 0;
-    for (const auto &row : rows) {
-        registry().records()[1].editingTime.lastActivity = now - hour;
-        row.notify(m_reactor);
-        expected += row.counts ? 1 : 0;
-        EXPECT_NEAR(hours(1), expected, 1e-9) << row.name;
-        EXPECT_FALSE(hasRecord(m_active)) << row.name;
+    const auto expectHours = [&](bool counts) {
+        expected += counts ? 1 : 0;
+        for (const size_t record : {1, 2}) {
+            EXPECT_NEAR(records()[record].editingTime.hours, expected, 1e-9);
+            records()[record].editingTime.lastActivity = 0;
+        }
+    };
+    m_reactor.commandWillStart(nullptr, nullptr);
+    expectHours(true);
+    m_reactor.lispWillStart(nullptr, u"(foo)"_s);
+    expectHours(true);
+    for (const auto &[name, counts] : variables) {
+        SCOPED_TRACE(name.toStdString());
+        m_reactor.sysVarWillChange(nullptr, name);
+        expectHours(counts);
     }
-    registry().records()[1].editingTime.lastActivity = now - hour;
-    m_reactor.beginSave(nullptr, u"plan.dxf"_s);
-    EXPECT_NEAR(hours(1), expected + 1, 1e-9);
-    EXPECT_TRUE(hasRecord(m_active));
-    EXPECT_FALSE(hasRecord(m_first));
-    EXPECT_EQ(hours(0), 0);
-}
-
-TEST_F(EditorReactor, UntrackedDocumentsAreLeftAlone)
-{
-    registry().records()[1].editingTime = {};
-    m_reactor.beginSave(nullptr, {});
-    EXPECT_EQ(hours(1), 0);
-    EXPECT_EQ(registry().records()[1].editingTime.lastActivity, 0);
     EXPECT_FALSE(hasRecord(m_active));
-
     m_host.documents().activate(nullptr);
     m_reactor.beginSave(nullptr, {});
-    EXPECT_EQ(hours(0), 0) << "no document, no activity";
-}
+    expectHours(false);
+    m_host.documents().activate(m_active);
+    m_reactor.beginSave(nullptr, u"plan.dxf"_s);
+    expectHours(true);
+    EXPECT_TRUE(hasRecord(m_active));
+    EXPECT_FALSE(hasRecord(m_first));
+    EXPECT_EQ(records()[0].editingTime.hours, 0);
 
-TEST_F(EditorReactor, EveryRecordOfTheDocumentCounts)
-{
-    registry().append(m_active);
-    registry().records().back().editingTime.isTracked = true;
-    m_reactor.commandWillStart(nullptr, nullptr);
-    EXPECT_NEAR(hours(1), 1, 1e-9);
-    EXPECT_NEAR(hours(2), 1, 1e-9);
+    records()[0].editingTime = {};
+    m_host.documents().activate(m_first);
+    m_reactor.beginSave(nullptr, {});
+    EXPECT_EQ(records()[0].editingTime.lastActivity, 0) << "not tracked";
+    EXPECT_FALSE(hasRecord(m_first));
 }
 
 } // namespace

@@ -2,21 +2,10 @@
 
 #include "module/DialogRegistry.h"
 #include "platform/rx/OdRxWin32Module.h"
-#include "tests/support/FakeHost.h"
-#include "tests/support/ModalAnswers.h"
-#include "tests/support/QtTestPrinters.h"
-
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
+#include "tests/support/ModuleTest.h"
 
 namespace {
 
-using namespace Qt::StringLiterals;
-using ortakit::test::FakeCommandStack;
-using ortakit::test::FakeDocument;
-using ortakit::test::FakeEditor;
-using ortakit::test::FakeHost;
-using ortakit::test::ModalAnswers;
 using testing::ElementsAre;
 using testing::IsEmpty;
 

@@ -5,21 +5,11 @@
 #include "module/DialogRegistry.h"
 #include "platform/kernel/CKvLispEngine.h"
 #include "state/ToolDialog.h"
-#include "tests/support/FakeHost.h"
-#include "tests/support/ModalAnswers.h"
-#include "tests/support/QtTestPrinters.h"
+#include "tests/support/ModuleTest.h"
 
 #include <QAbstractButton>
 
-#include <gtest/gtest.h>
-
 namespace {
-
-using namespace Qt::StringLiterals;
-using namespace ortakit;
-using ortakit::test::FakeHost;
-using ortakit::test::FakeLispEngine;
-using ortakit::test::ModalAnswers;
 
 class DialogFunctions : public testing::Test
 {

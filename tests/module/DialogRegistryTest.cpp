@@ -1,17 +1,10 @@
 #include "module/DialogRegistry.h"
 
 #include "tests/module/SampleDialog.h"
-#include "tests/support/FakeHost.h"
-#include "tests/support/QtTestPrinters.h"
-
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
+#include "tests/support/ModuleTest.h"
 
 namespace {
 
-using ortakit::test::FakeDocument;
-using ortakit::test::FakeHost;
-using ortakit::test::SampleDialog;
 using testing::ElementsAre;
 
 CKvDialog *makeSample(QWidget *parent)

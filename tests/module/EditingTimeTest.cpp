@@ -1,16 +1,10 @@
 #include "module/EditingTime.h"
 
-#include "tests/support/FakeDocument.h"
-#include "tests/support/QtTestPrinters.h"
+#include "tests/support/ModuleTest.h"
 
-#include <gtest/gtest.h>
 #include <limits>
 
 namespace {
-
-using namespace Qt::StringLiterals;
-using ortakit::EditingTime;
-using ortakit::test::FakeDatabase;
 
 constexpr qint64 minute = 60 * 1000;
 
@@ -28,13 +22,7 @@ protected:
 
 TEST_F(EditingTimes, CountWorkAndNotPauses)
 {
-    const struct
-    {
-        const char *name;
-        qint32 limitMinutes;
-        qint64 elapsed;
-        double hours;
-    } rows[] = {
+    const std::tuple<const char *, qint32, qint64, double> rows[] = {
         {"pause of the limit exactly", 5, 5 * minute, 5.0 / 60},
         {"pause just over the limit", 5, 5 * minute + 1, 0},
         {"no limit", 0, 600 * minute, 10},
@@ -43,13 +31,13 @@ TEST_F(EditingTimes, CountWorkAndNotPauses)
         {"milliseconds", 5, 36, 0.00001},
         {"clock was put back", 5, -60 * minute, -1},
     };
-    for (const auto &row : rows) {
+    for (const auto &[name, limitMinutes, elapsed, hours] : rows) {
         const qint64 start = 1700000000000;
-        EditingTime time{.isTracked = true, .idleLimitMinutes = row.limitMinutes, .hours = 2, .lastActivity = start};
-        editingNow = start + row.elapsed;
+        EditingTime time{.isTracked = true, .idleLimitMinutes = limitMinutes, .hours = 2, .lastActivity = start};
+        editingNow = start + elapsed;
         ortakit::advance(time);
-        EXPECT_NEAR(time.hours, 2 + row.hours, 1e-9) << row.name;
-        EXPECT_EQ(time.lastActivity, editingNow) << row.name;
+        EXPECT_NEAR(time.hours, 2 + hours, 1e-9) << name;
+        EXPECT_EQ(time.lastActivity, editingNow) << name;
     }
 }
 

@@ -1,20 +1,11 @@
 #include "host/kernel/platform/Services.h"
 #include "platform/rx/OdRxModule.h"
-#include "tests/support/FakeHost.h"
-#include "tests/support/ModalAnswers.h"
-#include "tests/support/QtTestPrinters.h"
+#include "tests/support/ModuleTest.h"
 
 #include <dlfcn.h>
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
 #include <new>
 
 namespace {
-
-using namespace Qt::StringLiterals;
-using ortakit::test::FakeDocument;
-using ortakit::test::FakeHost;
-using ortakit::test::ModalAnswers;
 
 /// The module's file as a host loads it.
 class ModuleFile : public testing::Test

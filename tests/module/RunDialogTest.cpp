@@ -4,23 +4,12 @@
 #include "module/DialogRegistry.h"
 #include "module/ExceptionGuard.h"
 #include "tests/module/SampleDialog.h"
-#include "tests/support/FakeHost.h"
-#include "tests/support/ModalAnswers.h"
-#include "tests/support/QtTestPrinters.h"
+#include "tests/support/ModuleTest.h"
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
 #include <stdexcept>
 
 namespace {
 
-using namespace Qt::StringLiterals;
-using namespace ortakit;
-using ortakit::test::FakeDocument;
-using ortakit::test::FakeHost;
-using ortakit::test::FakeUserInput;
-using ortakit::test::ModalAnswers;
-using ortakit::test::SampleDialog;
 using testing::IsEmpty;
 
 int plain()
@@ -89,7 +78,7 @@ int refusedByDatabase()
     throw OdError(u"There is no room for it."_s);
 }
 
-constexpr std::pair<const char *, CKvLispEngine::Handler> functions[] = {
+constexpr std::pair<const char *, CKvLispEngine::Handler> sampleFunctions[] = {
     {"plain", guarded<plain>},       {"listIn", guarded<listIn>},   {"anyFirst", guarded<anyFirst>},
     {"loadOnly", guarded<loadOnly>}, {"refused", guarded<refused>}, {"twoTexts", guarded<twoTexts>},
     {"noResult", guarded<noResult>}, {"failing", guarded<failing>}, {"refusedByDatabase", guarded<refusedByDatabase>},
@@ -108,7 +97,7 @@ protected:
 
     static void addDocument(FakeDocument &document)
     {
-        for (const auto &[name, handler] : functions)
+        for (const auto &[name, handler] : sampleFunctions)
             document.lisp().defineFunction(QString::fromLatin1(name), handler);
         DialogRegistry::instance().append(&document);
     }
@@ -167,14 +156,7 @@ TEST_F(RunDialog, AcceptingSavesCancellingLeavesTheFile)
 
 TEST_F(RunDialog, ArgumentsAreChecked)
 {
-    const struct
-    {
-        const char *name;
-        QString function;
-        QVariantList arguments;
-        int code;
-        int released;
-    } rows[] = {
+    const std::tuple<const char *, QString, QVariantList, int, int> rows[] = {
         {"nothing", u"plain"_s, {}, kRtError, -1},
         {"an integer", u"plain"_s, {3}, kRtError, -1},
         {"nil before a string", u"plain"_s, {QVariant(), u"x"_s}, kRtError, -1},
@@ -190,13 +172,13 @@ TEST_F(RunDialog, ArgumentsAreChecked)
         {"optional: nothing", u"noResult"_s, {}, kRtNormal, -1},
         {"optional: an integer", u"noResult"_s, {3}, kRtNormal, 1},
     };
-    for (const auto &row : rows) {
-        SCOPED_TRACE(row.name);
+    for (const auto &[name, function, arguments, code, released] : rows) {
+        SCOPED_TRACE(name);
         const auto shownBefore = m_user.shown().size();
-        EXPECT_EQ(call(row.function, row.arguments), row.code);
-        EXPECT_EQ(m_user.shown().size() - shownBefore, row.code == kRtNormal ? 1 : 0);
-        EXPECT_EQ(lisp().releasedArguments(), row.released);
-        EXPECT_EQ(lisp().result(), row.code == kRtNormal && row.function != u"noResult" ? u"nil" : u"");
+        EXPECT_EQ(call(function, arguments), code);
+        EXPECT_EQ(m_user.shown().size() - shownBefore, code == kRtNormal ? 1 : 0);
+        EXPECT_EQ(lisp().releasedArguments(), released);
+        EXPECT_EQ(lisp().result(), code == kRtNormal && function != u"noResult" ? u"nil" : u"");
     }
 }
 
@@ -205,26 +187,19 @@ TEST_F(RunDialog, EachKindGivesItsResultAndLeavesOrWritesTheFile)
     const QString path = stateFile({});
     const QByteArray before = "name=door\n";
     const QByteArray after = "\xEF\xBB\xBFname=gate\n!action!=\n";
-    const struct
-    {
-        QString function;
-        QVariantList arguments;
-        QString found;
-        QString result;
-        QByteArray file;
-    } rows[] = {
+    const std::tuple<QString, QVariantList, QString, QString, QByteArray> rows[] = {
         {u"listIn"_s, {path, u"a"_s, 7, u"b"_s}, u"door"_s, u"\"a,b\""_s, after},
         {u"loadOnly"_s, {path, u"a"_s}, u"door"_s, u"\"gate\""_s, before},
         {u"twoTexts"_s, {path, u"a"_s}, path, u"T"_s, before},
         {u"noResult"_s, {}, {}, {}, before},
     };
-    for (const auto &row : rows) {
+    for (const auto &[function, arguments, found, result, file] : rows) {
         stateFile(before);
         userAccepts(u"gate"_s);
-        EXPECT_EQ(call(row.function, row.arguments), kRtNormal) << row.function.toStdString();
-        EXPECT_EQ(m_found.takeLast(), row.found) << row.function.toStdString();
-        EXPECT_EQ(lisp().result(), row.result) << row.function.toStdString();
-        EXPECT_EQ(FakeHost::readFile(path), row.file) << row.function.toStdString();
+        EXPECT_EQ(call(function, arguments), kRtNormal) << function.toStdString();
+        EXPECT_EQ(m_found.takeLast(), found) << function.toStdString();
+        EXPECT_EQ(lisp().result(), result) << function.toStdString();
+        EXPECT_EQ(FakeHost::readFile(path), file) << function.toStdString();
     }
     userCancels();
     call(u"noResult"_s, {});
@@ -294,12 +269,8 @@ TEST(ArgumentLists, AreReadAsListsOfTheirStrings)
     constexpr int dotted = OdResBuf::kRtDottedPair;
     constexpr int nil = OdResBuf::kRtNil;
     constexpr int string = OdResBuf::kRtString;
-    const struct
-    {
-        const char *name;
-        QList<int> types; ///< the strings are "0", "1" and so on by their place
-        QList<QStringList> lists;
-    } rows[] = {
+    // types: the strings are "0", "1" and so on by their place
+    const std::tuple<const char *, QList<int>, QList<QStringList>> rows[] = {
         {"nothing", {}, {}},
         {"two", {begin, string, string, end, begin, string, end}, {{u"1"_s, u"2"_s}, {u"5"_s}}},
         {"nil is empty", {nil, begin, string, end, nil}, {{}, {u"2"_s}, {}}},
@@ -310,13 +281,13 @@ TEST(ArgumentLists, AreReadAsListsOfTheirStrings)
         {"without an end", {begin, string}, {{u"1"_s}}},
         {"an end too many", {end, begin, string, end}, {{u"2"_s}}},
     };
-    for (const auto &row : rows) {
+    for (const auto &[name, types, lists] : rows) {
         OdResBuf chain(OdResBuf::kRtString);
         OdResBuf *last = &chain;
-        for (qsizetype place = 0; place < row.types.size(); ++place)
-            last = last->setNext(row.types[place] == string ? OdResBuf::newString(string, QString::number(place))
-                                                            : OdResBuf::newRb(row.types[place]));
-        EXPECT_EQ(stringLists(chain.next()), row.lists) << row.name;
+        for (qsizetype place = 0; place < types.size(); ++place)
+            last = last->setNext(types[place] == string ? OdResBuf::newString(string, QString::number(place))
+                                                        : OdResBuf::newRb(types[place]));
+        EXPECT_EQ(stringLists(chain.next()), lists) << name;
     }
     EXPECT_EQ(test::chainText(stringList({u"a"_s, {}}).get()), u"( \"a\" \"\" )"_s);
 }

@@ -7,21 +7,15 @@
 #include "module/DialogRegistry.h"
 #include "platform/kernel/CKvUtils.h"
 #include "platform/rx/OdRxWin32Module.h"
-#include "tests/support/ModalAnswers.h"
-#include "tests/support/QtTestPrinters.h"
+#include "tests/support/ModuleTest.h"
 
 #include <QAbstractButton>
 #include <QTableWidget>
 #include <QTemporaryDir>
 
-#include <gtest/gtest.h>
-
 namespace {
 
-using namespace Qt::StringLiterals;
 using host::kernel::Document;
-using ortakit::EditingTime;
-using ortakit::test::ModalAnswers;
 
 constexpr qint64 trackedMinute = 60 * 1000;
 
@@ -104,13 +98,8 @@ TEST_F(TrackedDocument, TimeGrowsIsSavedAndComesBack)
     EXPECT_TRUE(document().isModified());
     EXPECT_FALSE(inFile()) << "not before it is saved";
 
-    const struct
-    {
-        const char *name;
-        std::function<void()> act;
-        qint64 pause;
-        double counted; ///< minutes
-    } rows[] = {
+    // counted: minutes
+    const std::tuple<const char *, std::function<void()>, qint64, double> rows[] = {
         {"command", [this] { lisp(u"(command \"POINT\" '(1 2))"_s); }, 6 * trackedMinute, 6},
         {"expression", [this] { lisp(u"(+ 1 2)"_s); }, 3 * trackedMinute, 3},
         {"pause of the limit", [this] { lisp(u"(+ 1 2)"_s); }, 15 * trackedMinute, 15},
@@ -119,11 +108,11 @@ TEST_F(TrackedDocument, TimeGrowsIsSavedAndComesBack)
         {"after prompts", [this] { lisp(u"(setvar \"CMDECHO\" 0)"_s); }, 2 * trackedMinute, 4},
     };
     double expected = 0;
-    for (const auto &row : rows) {
-        trackedNow += row.pause;
-        row.act();
-        expected += row.counted;
-        EXPECT_NEAR(minutes(), expected, 1e-6) << row.name;
+    for (const auto &[name, act, pause, counted] : rows) {
+        trackedNow += pause;
+        act();
+        expected += counted;
+        EXPECT_NEAR(minutes(), expected, 1e-6) << name;
     }
 
     trackedNow += 2 * trackedMinute;

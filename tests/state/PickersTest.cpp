@@ -1,59 +1,7 @@
 #include "state/pickers/DrawingPicker.h"
-#include "state/pickers/FilePicker.h"
-#include "state/pickers/FolderPicker.h"
-#include "tests/support/FakeHost.h"
-#include "tests/support/ModalAnswers.h"
-#include "tests/support/QtTestPrinters.h"
-
-#include <gtest/gtest.h>
-
-using namespace Qt::StringLiterals;
-using namespace ortakit;
-using ortakit::test::FakeHost;
-using ortakit::test::ModalAnswers;
+#include "tests/support/ModuleTest.h"
 
 namespace {
-
-TEST(FolderPicker, StartsWhereItIsToldOrAtTheHostsFolder)
-{
-    const FakeHost host;
-    const QString folder = host.path(u"sheets"_s);
-    ASSERT_TRUE(QDir().mkpath(folder));
-    const QString own = QDir(host.path({})).absolutePath();
-    ModalAnswers user;
-    const std::pair<QString, QString> rows[] = {{folder, folder}, {{}, own}, {host.path(u"missing"_s), own}};
-    for (const auto &[start, shownAt] : rows) {
-        user.choose(folder);
-        EXPECT_EQ(pickFolder(nullptr, start), folder);
-        EXPECT_TRUE(user.shown().last().startsWith(u"choose \"Select folder\" \"%1\""_s.arg(shownAt)));
-    }
-    user.choose({});
-    EXPECT_EQ(pickFolder(nullptr, folder, u"Specify folder"_s), QString()) << "cancelled";
-    EXPECT_TRUE(user.shown().last().startsWith(u"choose \"Specify folder\""_s));
-}
-
-TEST(FilePicker, AsksBeforeAFileIsWrittenOverUnlessToldNotTo)
-{
-    const FakeHost host;
-    const QString file = host.writeFile(u"list.txt"_s, "x");
-    FilePickerOptions options{
-        .title = u"Save As"_s, .filter = u"Text files (*.txt);; All files (*.*)"_s, .start = file};
-    ModalAnswers user;
-    user.choose(file);
-    user.press(QMessageBox::Yes);
-    EXPECT_EQ(pickFileToSave(nullptr, options), file);
-    EXPECT_EQ(user.shown().size(), 2);
-    EXPECT_TRUE(user.shown().value(0).startsWith(u"choose \"Save As\" \"%1\""_s.arg(QFileInfo(file).path())));
-
-    options.overwriting = Overwriting::Silent;
-    user.choose(file);
-    EXPECT_EQ(pickFileToSave(nullptr, options), file);
-    user.choose(file);
-    EXPECT_EQ(pickFileToOpen(nullptr, options), file);
-    user.choose({});
-    EXPECT_EQ(pickFileToOpen(nullptr, options), QString()) << "cancelled";
-    EXPECT_EQ(user.shown().size(), 5);
-}
 
 TEST(DrawingPicker, GivesTheChosenDrawingUnlessItIsTheOneItIsFor)
 {

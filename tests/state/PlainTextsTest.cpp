@@ -2,7 +2,7 @@
 
 #include "files/qt/VisibleText.h"
 #include "state/tables/WholeTextItem.h"
-#include "tests/support/QtTestPrinters.h"
+#include "tests/support/ModuleTest.h"
 
 #include <QDialog>
 #include <QHeaderView>
@@ -11,11 +11,6 @@
 #include <QStyledItemDelegate>
 #include <QTableWidget>
 #include <QToolTip>
-
-#include <gtest/gtest.h>
-
-using namespace ortakit;
-using namespace Qt::StringLiterals;
 
 namespace {
 

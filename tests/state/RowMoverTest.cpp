@@ -2,7 +2,7 @@
 
 #include "state/tables/TableRows.h"
 #include "state/tables/TableSelection.h"
-#include "tests/support/QtTestPrinters.h"
+#include "tests/support/ModuleTest.h"
 
 #include <QDropEvent>
 #include <QMimeData>
@@ -10,11 +10,6 @@
 #include <QSignalSpy>
 #include <QTableWidget>
 #include <QTest>
-
-#include <gtest/gtest.h>
-
-using namespace Qt::StringLiterals;
-using ortakit::RowMove;
 
 namespace {
 

@@ -1,49 +1,14 @@
-#include "state/host/HelpTopicMap.h"
-#include "state/host/ModuleFolder.h"
 #include "state/pickers/PathChecks.h"
 #include "state/pickers/PathMessages.h"
 #include "state/tables/RowSorting.h"
-#include "tests/support/FakeHost.h"
-#include "tests/support/ModalAnswers.h"
-#include "tests/support/QtTestPrinters.h"
-
-#include <gtest/gtest.h>
-
-using namespace Qt::StringLiterals;
-using namespace ortakit;
-using ortakit::test::FakeHost;
-using ortakit::test::ModalAnswers;
+#include "tests/support/ModuleTest.h"
 
 namespace {
-
-TEST(HelpTopics, TheHostIsAskedForThePageOfTheExactName)
-{
-    {
-        FakeHost host;
-        for (const QString &tool : {u"textmask"_s, u"exportInfo"_s, u"exportinfo"_s, u"unknown"_s})
-            HelpTopicMap::showHelp(tool);
-        QStringList expected;
-        for (const int topic : {9115, 9133, 0, 0})
-            expected.append(u"help.file %1 new no-parent 16"_s.arg(topic));
-        EXPECT_EQ(host.help().requests, expected);
-    }
-    HelpTopicMap::showHelp(u"textmask"_s); // without a host: nothing
-}
-
-TEST(ModuleFolder, IsTheVariableWithTheNameRightBehindIt)
-{
-    FakeHost host;
-    host.document().setSystemVariable(u"LOGFILEPATH"_s, u"/logs/a"_s);
-    EXPECT_EQ(moduleFolder(), u"/logs/aOrtakit"_s);
-    host.documents().close(&host.document());
-    EXPECT_EQ(moduleFolder(), u"Ortakit"_s);
-}
 
 TEST(PathChecks, TheUserIsToldWhatIsWrong)
 {
     const FakeHost host;
     const QString file = host.writeFile(u"door.dwg"_s, "x");
-    const QString folder = host.path({});
     const QString missing = host.path(u"missing"_s);
     const QString noName = u"warning \"\" \"Filename can`t be empty\" OK"_s;
     const QString replace =
@@ -62,14 +27,8 @@ TEST(PathChecks, TheUserIsToldWhatIsWrong)
         {"keep", false, replace.arg(u"door"_s), [&] { return acceptsNewDrawingName(nullptr, u"door"_s, file); },
          QMessageBox::No},
         {"good name", true, {}, [&] { return acceptsNewDrawingName(nullptr, u"Tür 2 (neu).alt"_s, missing); }},
-        {"no folder", false, u"warning \"\" \"Path can`t be empty\" OK"_s, [&] { return acceptsFolder(nullptr, {}); }},
         {"a file is no folder", false, u"warning \"\" \"Cannot find the specified Path.\" OK"_s,
          [&] { return acceptsFolder(nullptr, file); }},
-        {"a folder", true, {}, [&] { return acceptsFolder(nullptr, folder); }},
-        {"no file", false, noName, [&] { return acceptsFile(nullptr, {}); }},
-        {"a folder is no file", false, u"warning \"\" \"Cannot find the specified file.\" OK"_s,
-         [&] { return acceptsFile(nullptr, folder); }},
-        {"a file", true, {}, [&] { return acceptsFile(nullptr, file); }},
     };
     for (const auto &row : rows) {
         ModalAnswers user;

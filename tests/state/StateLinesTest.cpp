@@ -1,10 +1,6 @@
 #include "state/exchange/StateLines.h"
 
-#include "tests/support/QtTestPrinters.h"
-
-#include <gtest/gtest.h>
-
-using namespace Qt::StringLiterals;
+#include "tests/support/ModuleTest.h"
 
 namespace {
 
@@ -16,12 +12,12 @@ StateLines stored(const QString &text)
     return lines;
 }
 
-using Row = std::tuple<const char *, QString, QString, QString>;
+using StateLinesRow = std::tuple<const char *, QString, QString, QString>;
 
 TEST(StateLines, MergingReplacesByTheKeyAsItIsSpelled)
 {
     // What is stored, what is merged into it, and what it is then.
-    const Row rows[] = {
+    const StateLinesRow rows[] = {
         {"new keys go to the end", u"ab=1"_s, u"a=2|c=3"_s, u"ab=1|a=2|c=3"_s},
         {"the new line's key is lowered", u"flag=TRUE"_s, u"Flag=FALSE"_s, u"Flag=FALSE"_s},
         {"the stored line's is not", u"Flag=TRUE"_s, u"Flag=FALSE"_s, u"Flag=TRUE|Flag=FALSE"_s},
@@ -45,7 +41,7 @@ TEST(StateLines, MergingReplacesByTheKeyAsItIsSpelled)
 
 TEST(StateLines, LookupTakesTheFirstLineThatHoldsTheKeyAnywhere)
 {
-    const Row rows[] = {
+    const StateLinesRow rows[] = {
         {"no such key", u"a=1"_s, u"b"_s, {}},
         {"an empty key", u"=1|a=1"_s, {}, {}},
         {"a key without its equals sign", u"abc"_s, u"abc"_s, {}},
@@ -72,7 +68,7 @@ TEST(StateLines, LookupTakesTheFirstLineThatHoldsTheKeyAnywhere)
 
 TEST(StateLines, NumberedKeysAreFoundAsEachAlone)
 {
-    const Row rows[] = {
+    const StateLinesRow rows[] = {
         {"in the order of the numbers", u"style10=j|style2=b|style1=a"_s, u"style"_s, u"a b j"_s},
         {"not beyond the count", u"style11=k|style0=z|style99999999999=y"_s, u"style"_s, {}},
         {"the end of another key, the first of two", u"xSTYLE1=x|style1=a"_s, u"style"_s, u"x"_s},

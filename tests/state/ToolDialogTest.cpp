@@ -1,18 +1,10 @@
 #include "state/ToolDialog.h"
 
-#include "tests/support/FakeHost.h"
-#include "tests/support/ModalAnswers.h"
-#include "tests/support/QtTestPrinters.h"
+#include "tests/support/ModuleTest.h"
 
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTest>
-
-#include <gtest/gtest.h>
-
-using namespace Qt::StringLiterals;
-using ortakit::test::FakeHost;
-using ortakit::test::ModalAnswers;
 
 namespace {
 
@@ -21,21 +13,15 @@ class SampleTool final : public ToolDialog
 {
 public:
     using ToolDialog::acceptWith;
-    using ToolDialog::ask;
-    using ToolDialog::inform;
-    using ToolDialog::reportError;
-    using ToolDialog::warn;
 
     QStringList events;
     QLineEdit *name = new QLineEdit(this);
-    QPushButton *help = new QPushButton(this);
     QPushButton *cancel = new QPushButton(this);
 
     SampleTool() : ToolDialog(nullptr, u"textframe"_s)
     {
         name->setObjectName(u"name"_s);
         name->resize(400, 20);
-        help->setObjectName(u"buttonHelp"_s);
         cancel->setObjectName(u"ButtonCancel"_s);
         setUpButtons();
     }
@@ -131,28 +117,6 @@ TEST(ToolDialog, AnswersTheLispProgramThroughTheStateFile)
 
     user.drive([&](QWidget *) { tool.cancel->click(); });
     EXPECT_EQ(tool.exec(), QDialog::Rejected);
-}
-
-TEST(ToolDialog, HelpAndMessages)
-{
-    FakeHost host;
-    SampleTool tool;
-    tool.help->click();
-    EXPECT_EQ(host.help().requests, QStringList{u"help.file 9113 new no-parent 16"_s});
-
-    ModalAnswers user;
-    for (const auto button : {QMessageBox::Ok, QMessageBox::Ok, QMessageBox::Ok, QMessageBox::Yes, QMessageBox::No})
-        user.press(button);
-    tool.inform(u"told"_s, u"Title"_s);
-    tool.warn(u"<refused>"_s);
-    tool.reportError(u"failed"_s);
-    EXPECT_TRUE(tool.ask(u"sure?"_s));
-    EXPECT_FALSE(tool.ask(u"sure?"_s, u"Again"_s));
-    EXPECT_FALSE(tool.ask(u"closed?"_s)) << "closing a question is no Yes";
-    EXPECT_EQ(user.shown(),
-              (QStringList{u"information \"Title\" \"told\" OK"_s, u"warning \"\" \"<refused>\" OK"_s,
-                           u"critical \"\" \"failed\" OK"_s, u"question \"\" \"sure?\" Yes/No"_s,
-                           u"question \"Again\" \"sure?\" Yes/No"_s, u"question \"\" \"closed?\" Yes/No"_s}));
 }
 
 } // namespace

@@ -1,14 +1,9 @@
 #include "state/exchange/WidgetValue.h"
 
 #include "tests/state/Gallery.h"
-#include "tests/support/QtTestPrinters.h"
+#include "tests/support/ModuleTest.h"
 
 #include <cmath>
-#include <gtest/gtest.h>
-
-using namespace Qt::StringLiterals;
-using ortakit::applyValue;
-using ortakit::writtenValue;
 
 namespace {
 

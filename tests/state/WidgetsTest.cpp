@@ -3,10 +3,7 @@
 #include "state/widgets/DialogPicture.h"
 #include "state/widgets/DrawingPreview.h"
 #include "state/widgets/ElidedPathField.h"
-#include "state/widgets/LongWork.h"
-#include "tests/support/FakeHost.h"
-#include "tests/support/ModalAnswers.h"
-#include "tests/support/QtTestPrinters.h"
+#include "tests/support/ModuleTest.h"
 
 #include <QApplication>
 #include <QFocusEvent>
@@ -15,11 +12,6 @@
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTableWidget>
-
-#include <gtest/gtest.h>
-
-using namespace Qt::StringLiterals;
-using namespace ortakit;
 
 namespace {
 
@@ -215,19 +207,6 @@ TEST(TableSelection, NewSelectionsAreTold)
     EXPECT_EQ(selectedCellCount(table), 39'998);
     table.selectRow(3);
     EXPECT_EQ(rowsWithSelection(table), QList<int>{3});
-}
-
-TEST(LongWork, ComesUpAfterAWhileAndCanBeCancelled)
-{
-    QWidget window;
-    test::ModalAnswers answers;
-    answers.drive([](QWidget *progress) { progress->findChild<QPushButton *>()->click(); });
-    LongWork slow(&window, u"Working..."_s, 1000000);
-    EXPECT_TRUE(slow.goesOn()) << "and not at once";
-    while (slow.goesOn())
-        continue;
-    EXPECT_TRUE(answers.isDone());
-    EXPECT_FALSE(slow.goesOn());
 }
 
 } // namespace

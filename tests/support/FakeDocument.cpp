@@ -133,24 +133,9 @@ void FakeLispEngine::releaseArguments(OdResBuf *first)
     }
 }
 
-void FakeLispEngine::returnString(const OdString &value)
-{
-    m_result = quoted(value);
-}
-
 void FakeLispEngine::returnPoint(const OdGePoint3d &point)
 {
     m_result = pointText(point);
-}
-
-void FakeLispEngine::returnEntityName(const OdDbObjectId &object)
-{
-    m_result = QStringLiteral("<%1>").arg(object.number());
-}
-
-void FakeLispEngine::returnSelectionSet(const OdDbObjectIdArray &entities)
-{
-    m_result = QStringLiteral("<set of %1>").arg(entities.size());
 }
 
 void FakeLispEngine::returnList(OdResBufPtr chain)
@@ -166,9 +151,11 @@ void FakeLispEngine::setSymbol(const OdString &name, const OdResBuf &value)
     m_symbols[name.toLower()] = linkText(value);
 }
 
-FakeAnswer FakeUserInput::take(const QString &request)
+FakeAnswer FakeUserInput::take(const char *kind, const QString &prompt, const Base &base, const QString &defaultText)
 {
-    m_requests.append(request);
+    m_requests.append(QString::fromLatin1(kind) + QLatin1Char(' ') + quoted(prompt) +
+                      (base ? QStringLiteral(" from ") + pointText(*base) : QString()) +
+                      (defaultText.isEmpty() ? QString() : QStringLiteral(" default ") + defaultText));
     m_input.clear();
     if (m_answers.empty())
         return {.code = kRtCancel, .value = {}, .keyword = {}};
@@ -196,88 +183,17 @@ OdString FakeUserInput::formatPrompt(const OdString &prompt, const OdString &def
     return text + QStringLiteral(": ");
 }
 
-OdString FakeUserInput::lengthText(double length) const
-{
-    return QStringLiteral("%1 m").arg(length);
-}
-
 OdString FakeUserInput::angleText(double angle) const
 {
     return QStringLiteral("%1 deg").arg(qRadiansToDegrees(angle), 0, 'f', 2);
 }
 
-namespace {
-
-QString request(const char *kind, const QString &prompt, const std::optional<OdGePoint3d> &base = std::nullopt,
-                const QString &defaultText = {})
-{
-    QString text = QString::fromLatin1(kind) + QLatin1Char(' ') + quoted(prompt);
-    if (base)
-        text += QStringLiteral(" from ") + pointText(*base);
-    if (!defaultText.isEmpty())
-        text += QStringLiteral(" default ") + defaultText;
-    return text;
-}
-
-template <class T>
-int give(const FakeAnswer &answer, T &value)
-{
-    if (answer.code == kRtNormal && answer.value.isValid())
-        value = answer.value.value<T>();
-    return answer.code;
-}
-
-template <class T>
-QString defaultText(bool hasDefault, T value)
-{
-    return hasDefault ? QString::number(value) : QString();
-}
-
-} // namespace
-
-int FakeUserInput::getInteger(const OdString &prompt, bool hasDefault, qint32 &value)
-{
-    return give(take(request("getInteger", prompt, {}, defaultText(hasDefault, value))), value);
-}
-
-int FakeUserInput::getReal(const OdString &prompt, bool hasDefault, double &value)
-{
-    return give(take(request("getReal", prompt, {}, defaultText(hasDefault, value))), value);
-}
-
-int FakeUserInput::getDistance(const OdString &prompt, const std::optional<OdGePoint3d> &base, bool hasDefault,
-                               double &value)
-{
-    return give(take(request("getDistance", prompt, base, defaultText(hasDefault, value))), value);
-}
-
-int FakeUserInput::getAngle(const OdString &prompt, const std::optional<OdGePoint3d> &base, bool hasDefault,
-                            double &value)
-{
-    return give(take(request("getAngle", prompt, base, defaultText(hasDefault, value))), value);
-}
-
-int FakeUserInput::getPoint(const OdString &prompt, const std::optional<OdGePoint3d> &base, OdGePoint3d &value)
-{
-    return give(take(request("getPoint", prompt, base)), value);
-}
-
-int FakeUserInput::getCorner(const OdString &prompt, const OdGePoint3d &base, OdGePoint3d &value)
-{
-    return give(take(request("getCorner", prompt, base)), value);
-}
-
 int FakeUserInput::getString(const OdString &prompt, bool allowSpaces, OdString &value)
 {
-    const FakeAnswer answer = take(request(allowSpaces ? "getString with spaces" : "getString", prompt, {}, value));
-    if (answer.code == kRtKeyword)
+    const int code = ask(allowSpaces ? "getString with spaces" : "getString", prompt, {}, value, value);
+    if (code == kRtKeyword)
         value.clear();
-    return give(answer, value);
-}
-
-int FakeUserInput::getKeyword(const OdString &prompt, OdString &value)
-{
-    return give(take(request("getKeyword", prompt, {}, value)), value);
+    return code;
 }
 
 class FakeDatabase::Record final : public OdDbXrecord
@@ -359,16 +275,6 @@ void FakeDocument::setHasLisp(bool has)
 {
     if (has != bool(m_lisp))
         m_lisp = has ? std::make_unique<FakeLispEngine>() : nullptr;
-}
-
-OdGePoint3d FakeDocument::userToWorld(const OdGePoint3d &point) const
-{
-    return {point.x + m_userOrigin.x, point.y + m_userOrigin.y, point.z + m_userOrigin.z};
-}
-
-OdGePoint3d FakeDocument::worldToUser(const OdGePoint3d &point) const
-{
-    return {point.x - m_userOrigin.x, point.y - m_userOrigin.y, point.z - m_userOrigin.z};
 }
 
 } // namespace ortakit::test

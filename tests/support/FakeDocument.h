@@ -55,12 +55,18 @@ public:
     void returnTrue() override { m_result = QStringLiteral("T"); }
     void returnInteger(qint32 value) override { m_result = QString::number(value); }
     void returnReal(double value) override { m_result = QString::number(value); }
-    void returnString(const OdString &value) override;
+    void returnString(const OdString &value) override { m_result = QStringLiteral("\"%1\"").arg(value); }
     void returnPoint(const OdGePoint3d &point) override;
-    void returnEntityName(const OdDbObjectId &object) override;
+    void returnEntityName(const OdDbObjectId &object) override
+    {
+        m_result = QStringLiteral("<%1>").arg(object.number());
+    }
     /// Selection sets are not among the arguments that a test can make.
     OdDbObjectIdArray selectionMembers(const OdResBuf &) const override { return {}; }
-    void returnSelectionSet(const OdDbObjectIdArray &entities) override;
+    void returnSelectionSet(const OdDbObjectIdArray &entities) override
+    {
+        m_result = QStringLiteral("<set of %1>").arg(entities.size());
+    }
     void returnList(OdResBufPtr chain) override;
     void setSymbol(const OdString &name, const OdResBuf &value) override;
     bool loadFile(const OdString &path) override
@@ -94,8 +100,9 @@ struct FakeAnswer
 class FakeUserInput final : public CKvUserInput
 {
 public:
+    using Base = std::optional<OdGePoint3d>;
+
     void answer(const FakeAnswer &answer) { m_answers.push_back(answer); }
-    bool hasAnswersLeft() const { return !m_answers.empty(); }
     /// Requests so far, each a line such as: getPoint "Corner: " from (1 2 3)
     const QStringList &requests() const { return m_requests; }
 
@@ -103,22 +110,50 @@ public:
     /// Prompt, keywords of the last initget() in brackets, default in angle brackets, colon.
     OdString formatPrompt(const OdString &prompt, const OdString &defaultText) const override;
     /// In metres, and in degrees.
-    OdString lengthText(double length) const override;
+    OdString lengthText(double length) const override { return QStringLiteral("%1 m").arg(length); }
     OdString angleText(double angle) const override;
-    int getInteger(const OdString &prompt, bool hasDefault, qint32 &value) override;
-    int getReal(const OdString &prompt, bool hasDefault, double &value) override;
-    int getDistance(const OdString &prompt, const std::optional<OdGePoint3d> &base, bool hasDefault,
-                    double &value) override;
-    int getAngle(const OdString &prompt, const std::optional<OdGePoint3d> &base, bool hasDefault,
-                 double &value) override;
-    int getPoint(const OdString &prompt, const std::optional<OdGePoint3d> &base, OdGePoint3d &value) override;
-    int getCorner(const OdString &prompt, const OdGePoint3d &base, OdGePoint3d &value) override;
+    int getInteger(const OdString &prompt, bool hasDefault, qint32 &value) override
+    {
+        return ask("getInteger", prompt, {}, defaultText(hasDefault, value), value);
+    }
+    int getReal(const OdString &prompt, bool hasDefault, double &value) override
+    {
+        return ask("getReal", prompt, {}, defaultText(hasDefault, value), value);
+    }
+    int getDistance(const OdString &prompt, const Base &base, bool hasDefault, double &value) override
+    {
+        return ask("getDistance", prompt, base, defaultText(hasDefault, value), value);
+    }
+    int getAngle(const OdString &prompt, const Base &base, bool hasDefault, double &value) override
+    {
+        return ask("getAngle", prompt, base, defaultText(hasDefault, value), value);
+    }
+    int getPoint(const OdString &prompt, const Base &base, OdGePoint3d &value) override
+    {
+        return ask("getPoint", prompt, base, {}, value);
+    }
+    int getCorner(const OdString &prompt, const OdGePoint3d &base, OdGePoint3d &value) override
+    {
+        return ask("getCorner", prompt, base, {}, value);
+    }
     int getString(const OdString &prompt, bool allowSpaces, OdString &value) override;
-    int getKeyword(const OdString &prompt, OdString &value) override;
+    int getKeyword(const OdString &prompt, OdString &value) override
+    {
+        return ask("getKeyword", prompt, {}, value, value);
+    }
     OdString input() const override { return m_input; }
 
 private:
-    FakeAnswer take(const QString &request);
+    FakeAnswer take(const char *kind, const QString &prompt, const Base &base, const QString &defaultText);
+    static QString defaultText(bool has, double value) { return has ? QString::number(value) : QString(); }
+    template <class T>
+    int ask(const char *kind, const QString &prompt, const Base &base, const QString &defaultText, T &value)
+    {
+        const FakeAnswer answer = take(kind, prompt, base, defaultText);
+        if (answer.code == kRtNormal && answer.value.isValid())
+            value = answer.value.value<T>();
+        return answer.code;
+    }
 
     std::deque<FakeAnswer> m_answers;
     QStringList m_requests;
@@ -206,8 +241,14 @@ public:
     CKvSelectionInput *selectionInput() override { return &m_selection; }
     OdDbDatabase *database() override { return m_ownDatabase ? m_ownDatabase.get() : &m_database; }
     OdString systemVariable(const OdString &name) const override { return m_variables.value(name.toLower()); }
-    OdGePoint3d userToWorld(const OdGePoint3d &point) const override;
-    OdGePoint3d worldToUser(const OdGePoint3d &point) const override;
+    OdGePoint3d userToWorld(const OdGePoint3d &point) const override
+    {
+        return {point.x + m_userOrigin.x, point.y + m_userOrigin.y, point.z + m_userOrigin.z};
+    }
+    OdGePoint3d worldToUser(const OdGePoint3d &point) const override
+    {
+        return {point.x - m_userOrigin.x, point.y - m_userOrigin.y, point.z - m_userOrigin.z};
+    }
 
 private:
     std::unique_ptr<FakeLispEngine> m_lisp = std::make_unique<FakeLispEngine>();

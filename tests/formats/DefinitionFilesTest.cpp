@@ -1,19 +1,15 @@
 #include "formats/LinetypeFile.h"
-
+#include "formats/ShapeFile.h"
 #include "tests/formats/Folder.h"
-#include "tests/support/QtTestPrinters.h"
 
-#include <gtest/gtest.h>
+#include <QDir>
+
 #include <sys/stat.h>
-
-using namespace ortakit;
-using namespace Qt::StringLiterals;
-using formats_test::Folder;
 
 namespace {
 
 /// Linetypes as "name|description" and what was odd as "line: text", all in one.
-QString listed(const LinetypeListing &listing)
+QString listedLinetypes(const LinetypeListing &listing)
 {
     QStringList rows;
     for (const LinetypeHeader &linetype : listing.definitions)
@@ -25,12 +21,7 @@ QString listed(const LinetypeListing &listing)
 
 TEST(LinetypeFile, ListsHeadersAndSaysWhatWasOdd)
 {
-    const struct
-    {
-        const char *name;
-        QByteArray bytes;
-        QString listed;
-    } rows[] = {
+    const std::tuple<const char *, QByteArray, QString> rows[] = {
         {"empty", "", {}},
         {"two with comments", "*GAS,Gas line\nA,1,-1\n;; between\n*WALL,x x x\nA,2\n", u"GAS|Gas line; WALL|x x x"_s},
         {"carriage returns, no last line end", "*GAS,Gas line\r\nA,1\r\n*B,b", u"GAS|Gas line; B|b"_s},
@@ -44,22 +35,18 @@ TEST(LinetypeFile, ListsHeadersAndSaysWhatWasOdd)
         {"a star further on opens nothing", " *A,b\n;*B,c\nA,*1\n", {}},
     };
     const Folder folder;
-    for (const auto &row : rows) {
-        const LinetypeListing listing = readLinetypeFile(folder.writeFile(u"a.lin"_s, row.bytes));
-        EXPECT_EQ(listed(listing), row.listed) << row.name;
-        EXPECT_EQ(listing.error, QString()) << row.name;
+    for (const auto &[name, bytes, listed] : rows) {
+        const LinetypeListing listing = readLinetypeFile(folder.writeFile(u"a.lin"_s, bytes));
+        EXPECT_EQ(listedLinetypes(listing), listed) << name;
+        EXPECT_EQ(listing.error, QString()) << name;
     }
     EXPECT_FALSE(readLinetypeFile(folder.path(u"missing.lin"_s)).error.isEmpty());
 }
 
 TEST(LinetypeFile, FilesAreAcceptedByNameAndFirstLine)
 {
-    const struct
-    {
-        const char *name;
-        const char *bytes; ///< null: there is no such file
-        bool accepted;
-    } rows[] = {
+    // A file, what is in it, null for one that does not exist, and whether it is accepted.
+    const std::tuple<const char *, const char *, bool> rows[] = {
         {"MISSING.LIN", nullptr, true},
         {"missing.txt", nullptr, false},
         {"my.lines.txt", nullptr, true}, // the extension may stand anywhere
@@ -70,11 +57,11 @@ TEST(LinetypeFile, FilesAreAcceptedByNameAndFirstLine)
         {"star.txt", "*A,b\n", false},
     };
     const Folder folder;
-    for (const auto &row : rows) {
-        const QString name = QString::fromLatin1(row.name);
-        const QString path = row.bytes ? folder.writeFile(name, row.bytes) : folder.path(name);
-        EXPECT_EQ(isAcceptableLinetypeFile(path, u".lin"_s), row.accepted) << row.name;
-        EXPECT_FALSE(isAcceptableLinetypeFile(path, u".shp"_s)) << row.name;
+    for (const auto &[name, bytes, accepted] : rows) {
+        const QString file = QString::fromLatin1(name);
+        const QString path = bytes ? folder.writeFile(file, bytes) : folder.path(file);
+        EXPECT_EQ(isAcceptableLinetypeFile(path, u".lin"_s), accepted) << name;
+        EXPECT_FALSE(isAcceptableLinetypeFile(path, u".shp"_s)) << name;
     }
     // A folder or a pipe is no file to add to; the folder's name is part of the path that is looked at.
     ASSERT_TRUE(QDir(folder.path({})).mkpath(u"folder.lin"_s));
@@ -83,6 +70,24 @@ TEST(LinetypeFile, FilesAreAcceptedByNameAndFirstLine)
     EXPECT_FALSE(isAcceptableLinetypeFile(pipe, u".lin"_s));
     EXPECT_FALSE(isAcceptableLinetypeFile(folder.path(u"folder.lin"_s), u".lin"_s));
     EXPECT_TRUE(isAcceptableLinetypeFile(folder.path(u"folder.lin/new.txt"_s), u".LIN"_s));
+}
+
+// How headers are found is the business of LinetypeFile's test; these are the fields of shapes.
+TEST(ShapeFile, ListsNumbersAndNamesAndSaysWhatWasOdd)
+{
+    const Folder folder;
+    const ShapeListing listing = readShapeFile(folder.writeFile(
+        u"a.shp"_s, ";; mine\n*1,3,BOX\n1,16,0\n\n*2,2,T\xC3\x9CR,x\n*0000A,9,\n2\n*00041,33\n*3,3,BO"));
+    QStringList shapes;
+    for (const ShapeHeader &shape : listing.definitions)
+        shapes.append(shape.number + u'|' + shape.name);
+    EXPECT_EQ(shapes.join(u' '), u"1|BOX 2|TÜR 0000A| 00041| 3|BO"_s);
+    EXPECT_EQ(listing.diagnostics, (QList<HeaderDiagnostic>{{6, HeaderOddity::NoName, u"*0000A,9,"_s},
+                                                            {8, HeaderOddity::TooFewFields, u"*00041,33"_s}}));
+    EXPECT_FALSE(readShapeFile(folder.path(u"missing.shp"_s)).error.isEmpty());
+    const ShapeListing stars = listShapes(QByteArray("*1,2,A\n").repeated(mostHeaders + 2));
+    EXPECT_EQ(stars.definitions.size(), mostHeaders);
+    EXPECT_EQ(stars.diagnostics, (QList<HeaderDiagnostic>{{mostHeaders + 1, HeaderOddity::TooMany, {}}}));
 }
 
 } // namespace

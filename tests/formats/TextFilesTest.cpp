@@ -1,25 +1,13 @@
+#include "formats/FileWriting.h"
 #include "formats/TextReading.h"
-
 #include "tests/formats/Folder.h"
-#include "tests/support/QtTestPrinters.h"
-
-#include <gtest/gtest.h>
-#include <sys/stat.h>
-
-using namespace ortakit;
-using namespace Qt::StringLiterals;
-using formats_test::Folder;
 
 namespace {
 
 TEST(TextReading, ReadsTheLinesOfWhatAnEditorOrProgramWrote)
 {
-    const struct
-    {
-        const char *name;
-        QByteArray bytes;
-        QString expected; ///< each line with "|" behind it
-    } rows[] = {
+    // expected: each line with "|" behind it
+    const std::tuple<const char *, QByteArray, QString> rows[] = {
         {"empty", "", {}},
         {"only a byte-order mark", "\xEF\xBB\xBF", {}},
         {"a byte-order mark", "\xEF\xBB\xBFx=1\nb=2\n", u"x=1|b=2|"_s},
@@ -35,26 +23,38 @@ TEST(TextReading, ReadsTheLinesOfWhatAnEditorOrProgramWrote)
         {"a null character", QByteArray("a=\0x\nb=2", 8), u"a=\0x|b=2|"_s},
     };
     const Folder folder;
-    for (const auto &row : rows) {
-        const TextReading file = readTextFile(folder.writeFile(u"text"_s, row.bytes));
-        ASSERT_TRUE(file) << row.name;
+    for (const auto &[name, bytes, expected] : rows) {
+        const TextReading file = readTextFile(folder.writeFile(u"text"_s, bytes));
+        ASSERT_TRUE(file) << name;
         QString lines;
         for (LineReader reader(file.text); reader.next();)
             lines += reader.string() + u'|';
-        EXPECT_EQ(lines, row.expected) << row.name;
+        EXPECT_EQ(lines, expected) << name;
     }
 }
 
 TEST(TextReading, WhatIsNoTextFileIsRefusedWithAReason)
 {
     const Folder folder;
-    const QString pipe = folder.path(u"pipe"_s);
-    ASSERT_EQ(mkfifo(pipe.toLocal8Bit().constData(), 0600), 0);
-    QFile huge(folder.path(u"huge"_s));
-    ASSERT_TRUE(huge.open(QIODevice::WriteOnly) && huge.resize(qint64(40) * 1024 * 1024 * 1024));
-    for (const QString &path : {QString(), folder.path(u"missing"_s), folder.path(u"."_s), u"/dev/zero"_s, pipe,
-                                huge.fileName(), folder.path(u"missing/text"_s)})
+    for (const QString &path : {QString(), folder.path(u"missing"_s), folder.path(u"."_s), u"/dev/zero"_s})
         EXPECT_FALSE(readTextFile(path).error.isEmpty()) << path.toStdString();
+    EXPECT_FALSE(readTextFile(folder.writeFile(u"text"_s, "12345"), 4).error.isEmpty());
+}
+
+// What becomes of links, permissions and full disks is in the tests of files/.
+TEST(FileWriting, ReplacesAndAppendsOrSaysWhyNot)
+{
+    const Folder folder;
+    const QString path = folder.writeFile(u"text"_s, QByteArray(100, 'x'));
+    EXPECT_TRUE(replaceFile(path, "new\n") && appendToFile(path, "two\n"));
+    EXPECT_EQ(Folder::readFile(path), "new\ntwo\n");
+    for (const auto &write : {replaceFile, appendToFile}) {
+        for (const QString &refused : {QString(), folder.path(u"missing/text"_s), folder.path({}), u"/dev/full"_s}) {
+            QString error;
+            EXPECT_FALSE(write(refused, "new", &error)) << refused.toStdString();
+            EXPECT_FALSE(error.isEmpty()) << refused.toStdString();
+        }
+    }
 }
 
 } // namespace
