@@ -1,0 +1,86 @@
+;;; Blocks, references, attributes and links to make, and to look at. Names may be given as symbols.
+(defun said (name) (if (= (type name) 'SYM) (vl-symbol-name name) name))
+(defun block (name things)
+  (entmake (list '(0 . "BLOCK") (cons 2 (said name)) '(70 . 0) '(10 0.0 0.0 0.0)))
+  (foreach one things (entmake one))
+  (entmake '((0 . "ENDBLK"))))
+(defun dot () '((0 . "POINT") (8 . "0") (10 0.0 0.0 0.0)))
+(defun dots (names) (foreach name names (block name (list (dot)))))
+;; A block with definitions of attributes: ((tag text) ...), one above the other from y up.
+(defun defs (name y tags)
+  (block name (mapcar '(lambda (tag) (list '(0 . "ATTDEF") '(8 . "0") (cons 2 (said (car tag))) (cons 1 (said (cadr tag)))
+                                           '(3 . "?") '(70 . 0) (list 10 1.0 (setq y (1+ y)) 0.0) '(40 . 0.5)))
+                      tags)))
+
+(defun ref (name layer)
+  (list '(0 . "INSERT") (cons 8 (said layer)) (cons 2 (said name)) '(10 3.0 4.0 0.0) '(41 . 2.0) '(42 . -2.0) '(50 . 0.5)))
+(defun refs (names) (foreach name names (entmake (ref name "0"))))
+(defun full (name texts)
+  (entmake (cons '(66 . 1) (ref name "0")))
+  (foreach text texts
+    (entmake (list '(0 . "ATTRIB") '(8 . "0") (cons 2 (car text)) (cons 1 (cdr text)) '(10 0.0 0.0 0.0) '(40 . 1.0)
+                   '(70 . 0))))
+  (entmake '((0 . "SEQEND"))))
+;; A and B with attributes, and a reference of A.
+(defun attributed ()
+  (defs "A" 0.0 '((X "x") (Y "y")))
+  (defs "B" 2.0 '(("y" "b") (Z "z")))
+  (full "A" '(("X" . "1") ("Y" . "2"))))
+
+(defun of (e code) (kora_field (entget e) code))
+(defun names () (mapcar '(lambda (i) (of i 2)) (kora_space_inserts)))
+(defun texts ()
+  (mapcar '(lambda (i) (mapcar '(lambda (a) (cons (of a 2) (of a 1))) (kora_attributes i))) (kora_space_inserts)))
+
+(defun nested ()
+  (dots '(A))
+  (block "C" (list (ref "A" "0") (ref "A" "SHUT")))
+  (block "B" (list (ref "A" "0")))
+  (foreach layer '("0" "SHUT") (entmake (ref "a" layer))))
+
+;; A reference with extended data; one in a group, behind all others, with a dictionary.
+(defun tagged ()
+  (attributed)
+  (regapp "APP")
+  (entmod (append (entget (entlast)) '((-3 ("APP" (1000 . "kept")))))))
+(defun gathered ()
+  (attributed)
+  (setq i (entlast))
+  (kora_make_group (list i (handent "2F")))
+  (extend i "OWN")
+  (command "_.DRAWORDER" i "" "_Back"))
+(defun sorted ()
+  (dictsearch (kora_extension (entget (kora_owner (entget (entlast))))) "ACAD_SORTENTS"))
+
+;; Extended data of a block's record, as an anonymous block has it that stands for another one.
+(defun place (name) (cons 1005 (of (kora_block_record name) 5)))
+(defun tell (name app said)
+  (regapp app)
+  (entmod (append (entget (kora_block_record name)) (list (list -3 (list app '(1070 . 1) said))))))
+(defun stand_in (thing name / made)
+  (setq made (block "*U" (list thing)))
+  (tell made "AcDbBlockRepBTag" (place (cond (name) (made))))
+  made)
+;; Gives an entity a dictionary with one record.
+(defun extend (e name / d)
+  (setq d (entmakex '((0 . "DICTIONARY"))))
+  (entmod (append (entget e) (list '(102 . "{ACAD_XDICTIONARY") (cons 360 d) '(102 . "}"))))
+  (dictadd d name (entmakex '((0 . "XRECORD")))))
+
+(defun link (handle url)
+  (regapp "PE_URL")
+  (if url (entmod (append (entget (handent handle)) (list (list -3 (list "PE_URL" (cons 1000 url))))))))
+(defun url (handle) (cdr (cadr (cadr (assoc -3 (entget (handent handle) '("PE_URL")))))))
+
+;; The text style with the path of a font, or of a big one; remote texts with paths, the last one locked.
+(defun font (code path)
+  (entmod (kora_with_field (entget (tblobjname "STYLE" "Standard")) code path))
+  (tblobjname "STYLE" "Standard"))
+(defun remotes ()
+  (cons (font 4 "c:\\f\\big.shx")
+    (mapcar '(lambda (kind layer text)
+               (entmakex (list '(0 . "RTEXT") (cons 8 layer) '(10 0.0 0.0 0.0) '(40 . 1.0) '(50 . 0.0)
+                               '(7 . "Standard") (cons 70 kind) (cons 1 text))))
+            '(0 1 0) '("0" "0" "SHUT") '("c:/f/a^b.txt" "$(c:/f)" "c:\\f\\l.txt"))))
+
+(entmake '((0 . "LAYER") (2 . "SHUT") (70 . 4) (62 . 7) (6 . "Continuous")))
