@@ -7,19 +7,20 @@
 
 namespace host::drawing {
 
-/// Things with names that drawings collect and may lose when nothing needs them.
+/// Things with names that drawings collect and may lose when nothing needs them. Some are entries of symbol tables,
+/// others objects that a dictionary below the root names; drawings of R12 have only the former.
 enum class NamedKind
 {
     Blocks,
     DetailViewStyles,
     DimStyles,
-    Groups,
+    Groups, ///< unused without a member that is still there
     Layers,
     Linetypes,
     Materials,
     MultileaderStyles,
     PlotStyles,
-    Shapes, ///< text styles that stand for shape files
+    Shapes, ///< text styles that stand for shape files; any SHAPE in the drawing keeps all of them
     TextStyles,
     MultilineStyles,
     SectionViewStyles,
@@ -28,27 +29,29 @@ enum class NamedKind
     Applications
 };
 
-/// All kinds, in the order of NamedKind.
+/// All kinds, in the order of NamedKind. What the span shows lives as long as the program.
 std::span<const NamedKind> allNamedKinds();
-/// What people call several of a kind: "text styles".
+/// What people call several of a kind: "text styles". English, not translated.
 QString kindName(NamedKind kind);
 
 struct NamedThing
 {
-    RecordId record = noRecord;
-    QString name; ///< of a shape file its file's name
+    RecordId record = noRecord; ///< the BLOCK, the table entry or the object
+    QString name;               ///< of a shape file its file's name
 };
 
 /// Those of the kind that nothing in the drawing refers to, by handle or by name, and whose names `isWanted` accepts.
 /// What every drawing has, what is current and what belongs to external references is never among them. Costs one pass
-/// over all records.
+/// over all records. What an unused thing of another kind needs is not among them: ask again when that is erased.
 std::vector<NamedThing> unusedNames(const Drawing &drawing, NamedKind kind,
                                     const std::function<bool(const QString &)> &isWanted);
-/// Takes them out of the drawing, blocks with what they own.
+/// Takes them out of the drawing, with the objects that they own. One step of the journal. Nobody looks again whether
+/// they are unused.
 void eraseNamed(Drawing &drawing, NamedKind kind, const std::vector<NamedThing> &things);
 
-/// Takes out the table entries that an external reference of this name has brought ("name|layer") and that nothing
-/// refers to by handle or name.
+/// Takes out the blocks and table entries that an external reference of this name has brought ("name|layer"): all of
+/// its blocks, and of its layers, dimension styles, linetypes and text styles those that nothing refers to by handle or
+/// name any more. One step of the journal.
 void eraseDependents(Drawing &drawing, const QString &reference);
 
 } // namespace host::drawing

@@ -20,6 +20,7 @@ struct Flatness
 /// Points on a circular arc in the x-y plane, both ends included, counter-clockwise from `start` to `end` (radians; an
 /// end not behind the start means once round).
 Path arcPath(const Vec3 &center, double radius, double start, double end, const Flatness &flatness = {});
+/// All round, the first point again as the last one.
 Path circlePath(const Vec3 &center, double radius, const Flatness &flatness = {});
 
 /// A circular arc through two points, as polylines have it.
@@ -32,7 +33,7 @@ struct BulgeArc
 };
 /// The arc of a segment: `bulge` is the tangent of a quarter of the swept angle. A zero bulge has no arc: radius 0.
 BulgeArc bulgeArc(Vec2 from, Vec2 to, double bulge);
-/// Appends the points of the segment behind `from` up to and with `to`.
+/// Appends the points of the segment behind `from` up to and with `to`, which rise evenly from the one to the other.
 void appendBulge(Path &path, const Vec3 &from, const Vec3 &to, double bulge, const Flatness &flatness = {});
 
 /// Points on an ellipse; `majorAxis` from center to the end of the longer axis, parameters in radians (0 and 2 pi:
@@ -43,18 +44,19 @@ Path ellipsePath(const Vec3 &center, const Vec3 &majorAxis, const Vec3 &extrusio
 /// A B-spline; with weights a rational one.
 struct Spline
 {
-    int degree = 3;
-    bool isClosed = false;
+    int degree = 3;            ///< 1 to 25
+    bool isClosed = false;     ///< counts for fit points alone
     std::vector<double> knots; ///< controlPoints + degree + 1 of them
     std::vector<Vec3> controlPoints;
     std::vector<double> weights; ///< one a control point, or none
-    std::vector<Vec3> fitPoints;
+    std::vector<Vec3> fitPoints; ///< what the curve was drawn through; looked at where control points are not valid
 
-    /// Whether knots, weights and control points go together.
+    /// Whether knots, weights and control points go together, which all below takes for granted.
     bool isValid() const;
     /// The parameters between which the curve runs.
     double firstParameter() const;
     double lastParameter() const;
+    /// Parameters outside of the curve give its nearer end. Costs the square of the degree.
     Vec3 point(double parameter) const;
 };
 /// Empty for a spline with neither valid control points nor two fit points. From fit points alone a smooth curve is run

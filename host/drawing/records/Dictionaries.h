@@ -7,13 +7,14 @@
 namespace host::drawing {
 
 /// Named objects of the OBJECTS section. R12 has none: there reading finds nothing and every change returns failure.
-/// Names are compared without regard to letter case.
+/// Names are compared without regard to letter case. What programs keep in a drawing for themselves stands in extension
+/// records (XRECORD), below the root for the drawing or below a record's extension dictionary for that record.
 class Dictionaries
 {
 public:
     struct Entry
     {
-        QString name;
+        QString name;               ///< as the file spells it
         RecordId record = noRecord; ///< noRecord when the handle leads nowhere
         Handle handle;
     };
@@ -25,7 +26,10 @@ public:
     /// The same, made with the OBJECTS section when missing; noRecord in R12.
     RecordId ensureRoot();
 
+    // A dictionary that is noRecord or erased is an empty one that takes no entry.
+    /// In the file's order. Costs a pass over the dictionary's tags, as does every look for a name.
     std::vector<Entry> entries(RecordId dictionary) const;
+    /// What the name leads to; noRecord when there is no such entry, or its object is gone.
     RecordId find(RecordId dictionary, QStringView name) const;
     /// Makes `name` lead to `object`, in place of what it led to. One without an owner is the dictionary's then. False
     /// in R12.
@@ -38,6 +42,7 @@ public:
     /// The data of the extension record under `name`: its fields behind the marker, the cloning flag (280, from R2000
     /// on) left out; nothing when there is none.
     std::optional<FieldList> xrecord(RecordId dictionary, QStringView name) const;
+    /// As xrecord(), of the record itself.
     FieldList xrecordData(RecordId xrecord) const;
     /// The same of the fields of such a record in a drawing of `version`.
     static FieldList xrecordData(const FieldList &fields, Version version);

@@ -25,7 +25,8 @@ class Tables;
 struct IndexedFile;
 struct RecordState;
 
-/// The versions of the format, by the number in $ACADVER ("AC1009" is 1009). Files without it count as R12.
+/// The versions of the format, by the number in $ACADVER ("AC1009" is 1009), so that later ones are greater. Files
+/// without it count as R12; other numbers, older and newer ones, are kept as they are.
 enum class Version : int
 {
     R12 = 1009,
@@ -39,7 +40,7 @@ enum class Version : int
     R2018 = 1032
 };
 
-/// The version that $ACADVER names; R12 for what is none.
+/// The version that $ACADVER names, in any letter case; R12 for what is none.
 Version versionNamed(const QString &name);
 
 /// The outcome of reading: a whole drawing, or none and the reason.
@@ -56,12 +57,17 @@ struct ReadResult
 /// dictionaries().
 ///
 /// Every change goes through journal(). Not thread-safe; different drawings may live on different threads.
+///
+/// Functions that take a RecordId take one that this drawing gave out, and not noRecord, where they do not say more:
+/// they do not check it. Records are never removed from memory, so an id stays good whatever is erased or undone.
 class Drawing final
 {
 public:
-    /// Reads the text of a DXF file of any version. All or nothing. Costs one pass over the bytes, which are kept.
+    /// Reads the text of a DXF file of any version. All or nothing: what is wrong in the structure is told with its
+    /// line, values are not looked at. Costs one pass over the bytes, which are kept.
     static ReadResult fromBytes(QByteArray bytes);
-    /// As fromBytes(), for a file; remembers its path. What the file is, is told from its content, not from its name.
+    /// As fromBytes(), for a regular file of up to 4 GB; remembers its path. What the file is, is told from its
+    /// content, not from its name. Errors of opening begin with the path.
     static ReadResult open(const QString &path);
     ~Drawing();
     Drawing(const Drawing &) = delete;
@@ -70,14 +76,18 @@ public:
     /// Where the drawing was read from or last saved to; empty for a new one.
     QString path() const;
     void setPath(const QString &path);
+    /// What the file said when it was read: writing $ACADVER does not change it.
     Version version() const;
+    /// How texts are spelt in the file's bytes, fixed with the version.
     const TextCodec &codec() const;
-    /// The whole drawing as the bytes of a file.
+    /// The whole drawing as the bytes of a file. Until the first change these are the bytes read, shared and not
+    /// copied; later it costs a copy of everything.
     QByteArray toBytes() const;
-    /// The same in pieces, in order and without copying them; a drawing nobody changed is one piece. Stops when
-    /// `take` returns false.
+    /// The same in pieces, in order and without copying them; a drawing nobody changed is one piece. Stops, and returns
+    /// false, when `take` does. The views hold until the drawing is destroyed.
     bool forEachPiece(const std::function<bool(QByteArrayView)> &take) const;
 
+    // The parts. They belong to the drawing and live as long as it does.
     Journal &journal() { return *m_journal; }
     const Journal &journal() const { return *m_journal; }
     HeaderVariables &header() { return *m_header; }
@@ -95,49 +105,59 @@ public:
 
     /// Whether the record is in the drawing now: neither erased nor its adding undone. Any number may be asked about.
     bool isAlive(RecordId id) const;
-    /// Whether the record was erased and can be brought back with setErased().
+    /// Whether the record was erased and can be brought back with setErased(). Any number may be asked about.
     bool isErased(RecordId id) const;
     /// All ids ever given out are below this number.
     quint32 idLimit() const;
 
     // What a record is. The id must be one this drawing gave out; erased records can be asked as well.
     RecordKind kind(RecordId id) const;
+    /// The section it stands in; None for the preamble and what is behind the last section.
     Section section(RecordId id) const;
     /// Value of group 0 ("LINE"), of group 9 for a header variable; without blanks around. A view into the drawing.
     QByteArrayView typeName(RecordId id) const;
+    /// Compares letter by letter with what the file has.
     bool isType(RecordId id, QByteArrayView type) const { return typeName(id) == type; }
+    /// Null where the file gives the record none, as R12 files may. Constant cost.
     Handle handle(RecordId id) const;
     /// The owner's handle (group 330 before the first subclass marker); null where the file has none.
     Handle owner(RecordId id) const;
+    /// Costs a pass over the record's bytes, as all that is made of it: keep the list where more than one tag is
+    /// wanted.
     TagList tags(RecordId id) const;
-    /// tags(id).fields(): the record as a typed list.
+    /// tags(id).fields(): the record as a typed list that does not depend on the drawing any more.
     FieldList fields(RecordId id) const;
-    /// The record's bytes as they are written.
+    /// The record's bytes as they are written. They stay readable while the drawing lives, but a change of the record
+    /// goes into others.
     QByteArrayView bytes(RecordId id) const;
 
-    /// The record with this handle, erased or not; noRecord when there is none. Constant cost.
+    /// The record with this handle, erased or not; noRecord when there is none, and for the null handle. Of several
+    /// with the same handle one. Constant cost.
     RecordId find(Handle handle) const;
 
     // Order. Only records that are alive are given; an erased one may be asked for its neighbours.
     /// The record in whose range this one stands: the POLYLINE or INSERT of a child, the BLOCK of its entities, the
     /// TABLE of its entries, the SECTION of everything else; noRecord for sections.
     RecordId parent(RecordId id) const;
-    /// In file order, across everything.
+    /// In file order, across everything; noRecord beyond both ends.
     RecordId first() const;
     RecordId next(RecordId id) const;
     RecordId previous(RecordId id) const;
-    /// Among the records with the same parent, end markers (ENDSEC, ENDTAB, ENDBLK, SEQEND) left out.
+    /// Among the records with the same parent, end markers (ENDSEC, ENDTAB, ENDBLK, SEQEND) left out; noRecord when
+    /// there is none. A step costs no more than the parts of `id`.
     RecordId firstChild(RecordId parent) const;
     RecordId nextSibling(RecordId id) const;
+    /// All of them, in file order: the list to go through when they are changed on the way.
     std::vector<RecordId> children(RecordId parent) const;
-    /// ENDSEC, ENDTAB, ENDBLK or SEQEND of such a record; noRecord when it has none.
+    /// ENDSEC, ENDTAB, ENDBLK or SEQEND of such a record, alive or erased with it; noRecord when it has none.
     RecordId endOf(RecordId parent) const;
-    /// The first section of this kind, noRecord when the file has none.
+    /// The first section of this kind, noRecord when the file has none. Costs a step for each section in front.
     RecordId sectionRecord(Section section) const;
 
     // Changes. Each is journaled and told to the observers.
     /// Gives a record other tags. The type and handle stay as they are, whatever `fields` say about groups 0 and 5 (105
-    /// for a DIMSTYLE). Tags that are the same as before keep their bytes. False when nothing changed.
+    /// for a DIMSTYLE), and codes that no record may have are dropped. Tags that are the same as before keep their
+    /// bytes. False when nothing changed, and for a record that is not alive.
     bool setFields(RecordId id, const FieldList &fields);
     /// Takes a record out of the drawing or brings it back, with its children and end marker, and for a TABLE, BLOCK or
     /// SECTION all within. False when it was so already or the record was never in the drawing as it now is.
@@ -146,13 +166,16 @@ public:
     /// exactly the fields given; only the handle index is kept. Callers wanting a correct drawing use the parts
     /// instead.
     RecordId insert(RecordId after, RecordId parent, RecordKind kind, const FieldList &fields);
-    /// The next free handle, and $HANDSEED moved on. Null in a file without handles ($HANDLING 0).
+    /// The next free handle, and $HANDSEED moved on, which is a change as any other. Null in a file without handles
+    /// ($HANDLING 0 in R12).
     Handle takeHandle();
 
-    /// Observers are not owned and are told in the order they were added.
+    /// Observers are not owned and are told in the order they were added. They must be removed before they are gone.
     void addObserver(DrawingObserver *observer);
+    /// Within a call to an observer the one behind it may miss that change.
     void removeObserver(DrawingObserver *observer);
-    /// Grows with every change of any kind, undo included. For caches.
+    /// Grows with every change of any kind, undo included, and is 0 only while the drawing is as it was read. For
+    /// caches.
     quint64 revision() const;
     /// As revision(), for changes in one section only.
     quint64 revision(Section section) const;
@@ -165,6 +188,7 @@ private:
 
     bool isInside(RecordId id, RecordId container) const;
     void link(RecordId id, RecordId after);
+    /// All changes come through here: it journals, counts and tells.
     void changeState(RecordId id, const RecordState &state);
 
     struct Private;

@@ -15,16 +15,19 @@ class Layouts
 public:
     explicit Layouts(Drawing &drawing) : m_drawing(drawing) {}
 
+    // None of these looks at anything but LAYOUT objects, their dictionary and the blocks of spaces.
     /// Name of the layout whose paper space is in use; "Layout1" where the file does not say.
     QString paperName() const;
     /// That layout's object; noRecord in drawings without layouts.
     RecordId paperLayout() const;
-    /// Name of the layout whose entities the block holds; empty for a block of no layout.
+    /// Name of the layout whose entities the BLOCK record holds, as its dictionary spells it; empty for a block of no
+    /// layout.
     QString ofBlock(RecordId block) const;
-    /// Name of the layout that an entity, or what it is a part of, stands in; empty within a block to insert.
+    /// Name of the layout that an entity, or what it is a part of, stands in; empty within a block to insert. "Model"
+    /// and the paper space in use are told by the entity's own group 67.
     QString ofEntity(RecordId entity) const;
-    /// The blocks of all layouts. Those of model space and of the paper space in use are empty, others hold the
-    /// layout's entities.
+    /// The blocks of all layouts, known by their names, in file order. Those of model space and of the paper space in
+    /// use are empty, their entities standing in the ENTITIES section; others hold the layout's entities.
     std::vector<RecordId> blocks() const;
 
 private:
@@ -33,9 +36,10 @@ private:
         QString name;
         RecordId record = noRecord;
     };
+    /// What was read at the revisions below.
     struct Known
     {
-        QHash<RecordId, Layout> byBlock;
+        QHash<RecordId, Layout> byBlock; ///< by the BLOCK record
         Layout paper;
     };
     const Known &known() const;
@@ -43,7 +47,7 @@ private:
 
     Drawing &m_drawing;
     mutable Known m_known;
-    mutable std::array<quint64, 3> m_revisions{~quint64(0)};
+    mutable std::array<quint64, 3> m_revisions{~quint64(0)}; ///< of objects, and of the structure of tables and blocks
 };
 
 } // namespace host::drawing

@@ -4,7 +4,10 @@
 
 namespace host::drawing {
 
-/// The section's record, made in its proper place when the file lacks it.
+// What a drawing needs around the records that people mean: sections, classes, table entries, heads of records. All of
+// it is journaled with the change that asked for it.
+
+/// The section's record, made in its proper place when the file lacks it. For sections up to Objects.
 RecordId ensureSection(Drawing &drawing, Section section);
 
 /// Whether a record may have groups of this code: readers take no larger one, and a comment is no group.
@@ -19,7 +22,7 @@ inline bool isRecordCode(int code)
 /// entries and the objects of this program, and nothing that is no word. `type` is in upper case.
 bool mayBeEntity(const QString &type);
 
-/// The class record of a type; noRecord when the drawing has none.
+/// The class record of a type; noRecord when the drawing has none. Goes through all classes.
 RecordId findClass(const Drawing &drawing, const QString &type);
 
 /// Entities and objects that programs outside the format's core brought (IMAGE, WIPEOUT, RTEXT) need a class record
@@ -43,13 +46,15 @@ inline bool hasOwners(const Drawing &drawing)
     return drawing.version() >= Version::R2000;
 }
 
-/// Type, handle and owner: the start of a new record. The handle is a new one.
+/// Type, handle and owner: the start of a new record, as the drawing's version has it. The handle is a new one, and is
+/// taken even when nothing comes of the record.
 FieldList recordHead(Drawing &drawing, const QString &type, Handle owner);
 
-/// Adds an object behind the others: head, then `body` from its first marker on.
+/// Adds an object behind the others: head, then `body` from its first marker on. Whoever is to find it by a name has to
+/// be told (see Dictionaries::set()).
 RecordId insertObject(Drawing &drawing, const QString &type, Handle owner, const FieldList &body);
 
-/// Adds BLOCK, ENDBLK and the table entry under a name that is free.
+/// Adds BLOCK, ENDBLK and the table entry under a name that is free; gives the BLOCK record. `flags` are its group 70.
 RecordId insertBlockDefinition(Drawing &drawing, const QString &name, const Vec3 &basePoint, int flags);
 
 } // namespace host::drawing

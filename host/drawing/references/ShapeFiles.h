@@ -17,7 +17,8 @@ class ShapeFiles
 public:
     explicit ShapeFiles(FileFinder finder) : m_finder(std::move(finder)) {}
 
-    /// Null when there is no such file, or none that can be read. Valid until forget().
+    /// The file of a name as drawings have it, with or without path and ending. Null when there is no such file, or
+    /// none that can be read; that is kept in mind as well. Valid until forget().
     const ShapeFile *find(const QString &name);
     /// Files are read anew the next time.
     void forget() { m_read.clear(); }
@@ -32,7 +33,8 @@ private:
 /// The files that the drawing's styles for shape files name, in their order.
 QStringList shapeFileNames(const Drawing &drawing);
 
-/// The style that stands for a shape file, made where the drawing lacks it.
+/// The style that stands for a shape file, made where the drawing lacks it. Endings and letter case of `name` do not
+/// count in looking for it.
 RecordId shapeFileStyle(Drawing &drawing, const QString &name);
 
 } // namespace host::drawing

@@ -8,10 +8,12 @@
 
 namespace host::drawing {
 
-/// Keeps the bytes of edited records. Addresses stay; nothing is freed before the arena, as the journal refers to it.
+/// Keeps the bytes of edited records. Addresses stay; nothing is freed before the arena, as the journal refers to it:
+/// a drawing grows by every edit until it is closed.
 class ByteArena
 {
 public:
+    /// Where the copy is, without a zero behind it. No address is given twice, but for no bytes at all.
     const char *store(QByteArrayView bytes)
     {
         const auto size = static_cast<size_t>(bytes.size());
@@ -22,6 +24,7 @@ public:
     }
 
 private:
+    // What is larger than a quarter of a chunk gets one of its own, so that no more than that is ever left unused.
     static constexpr size_t chunkSize = 64 * 1024;
 
     char *addChunk(size_t size) { return m_chunks.emplace_back(std::make_unique<char[]>(size)).get(); }
@@ -37,9 +40,9 @@ private:
         return place;
     }
 
-    std::vector<std::unique_ptr<char[]>> m_chunks;
-    char *m_free = nullptr;
-    size_t m_left = 0;
+    std::vector<std::unique_ptr<char[]>> m_chunks; ///< in the order in which they were needed
+    char *m_free = nullptr;                        ///< behind what was taken of the chunk in use
+    size_t m_left = 0;                             ///< bytes from there to its end
 };
 
 } // namespace host::drawing

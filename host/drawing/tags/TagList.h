@@ -15,12 +15,13 @@ class TagList
 public:
     TagList(std::vector<Tag> tags, const TextCodec &codec) : m_tags(std::move(tags)), m_codec(&codec) {}
 
+    // All tags, whoever they belong to.
     auto begin() const { return m_tags.begin(); }
     auto end() const { return m_tags.end(); }
     size_t size() const { return m_tags.size(); }
     const Tag &operator[](size_t index) const { return m_tags[index]; }
 
-    /// What stands in front of an embedded object and extended data.
+    /// What stands in front of an embedded object and extended data, {...} groups included.
     std::span<const Tag> own() const &;
     std::span<const Tag> own() const && = delete;
     /// The first tag with this code that is the record's own: not inside a {...} group of 102, and for codes below 1000
@@ -31,18 +32,21 @@ public:
     const Tag *find(int code, QByteArrayView subclass) const &;
     const Tag *find(int code, QByteArrayView subclass) const && = delete;
 
+    // The value of find(code), decoded or read as a number; `otherwise` where there is no such tag, and for numbers
+    // where it has none. Each call goes through the tags.
     QString text(int code, const QString &otherwise = {}) const;
     double real(int code, double otherwise = 0.0) const;
     qint64 integer(int code, qint64 otherwise = 0) const;
-    Handle handle(int code) const;
+    Handle handle(int code) const; ///< null without
     /// The point whose x has this code; parts that are missing are taken from `otherwise`.
     Vec3 point(int code, const Vec3 &otherwise = {}) const;
     /// All own points whose x has this code, in order (vertices, control points). Only tags after `from` are looked
     /// at.
     std::vector<Vec3> points(int code, size_t from = 0) const;
+    /// Likewise all numbers; 0 for what is none.
     std::vector<double> reals(int code, size_t from = 0) const;
 
-    /// The value of one tag as text.
+    /// The value of one tag as text, in the drawing's code page; the tag must be of this drawing.
     QString decoded(const Tag &tag) const { return m_codec->decode(tag.value); }
     /// The point that starts at tag `index`; `next` is set to the first tag behind it.
     Vec3 pointAt(size_t index, size_t *next = nullptr) const;

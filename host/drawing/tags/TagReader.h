@@ -6,12 +6,11 @@
 
 namespace host::drawing {
 
-/// Where the lines of a file end. With LineFeed a carriage return before the line feed belongs to the line end and
-/// others to the text; Any takes CR LF, LF and CR alike.
+/// Where the lines of a file end; one kind holds for all of it.
 enum class LineEnds
 {
-    LineFeed,
-    Any
+    LineFeed, ///< carriage returns right before the line feed belong to the line end, others to the text
+    Any       ///< CR LF, LF and CR alike
 };
 
 /// Whether the text is a word of the format, in any letter case; the word is not empty and in upper case. The first
@@ -23,7 +22,8 @@ inline bool isWord(QByteArrayView text, QByteArrayView upperWord)
 }
 
 /// The end of the line that starts at `begin`, before its line end; `next` becomes the start of the next line. A last
-/// line without line end stops at `end`.
+/// line without line end stops at `end`. All of them point into the same bytes, `begin` not behind `end`; at `end` an
+/// empty line comes back, again and again. Inline, as every line of a file passes through here.
 inline const char *findLineEnd(const char *begin, const char *end, LineEnds lineEnds, const char *&next)
 {
     const char *stop = nullptr;
@@ -40,7 +40,8 @@ inline const char *findLineEnd(const char *begin, const char *end, LineEnds line
     return stop;
 }
 
-/// The group code on a line, blanks around it allowed: -5 to 1071. False when the line is something else.
+/// The group code on a line, blanks and tabs around it allowed: -5 to 1071, without a plus sign. False when the line is
+/// something else; `code` has no meaning then.
 inline bool parseGroupCode(const char *begin, const char *end, int &code)
 {
     while (begin < end && (*begin == ' ' || *begin == '\t'))
@@ -58,16 +59,19 @@ inline bool parseGroupCode(const char *begin, const char *end, int &code)
     return hasDigits && begin == end && code >= -5 && code <= 1071;
 }
 
-/// Goes through the tags of bytes that were checked before.
+/// Goes through the tags of bytes that were checked before, such as a record's. Copies nothing: the tags are views into
+/// the bytes and live as long as they do.
 class TagReader
 {
 public:
+    /// `bytes` begin with a group code.
     TagReader(QByteArrayView bytes, LineEnds lineEnds)
         : m_next(bytes.data()), m_end(bytes.data() + bytes.size()), m_lineEnds(lineEnds)
     {
     }
 
-    /// False at the end, or where the bytes are no tags.
+    /// Takes the next two lines. False at the end, or where the bytes are no tags; the reader stays there. A last code
+    /// without a value line has an empty value.
     bool read(Tag &tag)
     {
         const char *begin = m_next;
@@ -84,7 +88,7 @@ public:
     }
 
 private:
-    const char *m_next;
+    const char *m_next; ///< where the next group code begins
     const char *m_end;
     LineEnds m_lineEnds;
 };

@@ -25,12 +25,14 @@ public:
     /// DOS850 ..., ISO8859-1 ..., ASCII). An unknown name gives ANSI_1252.
     static TextCodec forCodePage(QByteArrayView name);
 
-    /// Never fails: bytes that are not valid in the encoding are read one by one as Latin-1.
+    /// Never fails: bytes that are not valid in the encoding are read one by one as Latin-1. encode() does not always
+    /// give the same bytes back, so who keeps a value keeps its bytes.
     QString decode(QByteArrayView bytes) const;
     /// Never fails: characters that the encoding lacks become \U+XXXX, control characters their caret form. The result
     /// is one line.
     QByteArray encode(QStringView text) const;
 
+    /// False for every code page, one that has all characters too.
     bool isUtf8() const;
 
 private:
