@@ -17,18 +17,22 @@ namespace host::view {
 class EntityExtents final : public drawing::DrawingObserver
 {
 public:
+    /// `surroundings` as for a Scene.
     explicit EntityExtents(drawing::Drawing &drawing, drawing::MacroSurroundings surroundings = {});
     ~EntityExtents() override;
     EntityExtents(const EntityExtents &) = delete;
     EntityExtents &operator=(const EntityExtents &) = delete;
 
-    /// In the coordinates of the space or block that the entity stands in.
+    /// In the coordinates of the space or block that the entity stands in; empty for what is nothing. Builds the entity
+    /// each time, while what was measured of blocks is kept until the drawing changes.
     Box of(RecordId entity);
 
     void recordChanged(RecordId record, drawing::RecordChange change, drawing::ChangeCause cause) override;
 
 private:
+    /// The three axes of a map, one after the other: where a block stands does not change its size.
     using Axes = std::array<double, 9>;
+    // `map` leads to the coordinates in which the box is wanted.
     void add(const RecordDisplay &display, const Matrix &map, Box &box);
     Box ofReference(const Reference &reference, const Matrix &map);
     Box ofBlock(int block, const Matrix &map);

@@ -15,27 +15,31 @@
 
 namespace host::view {
 
+/// For whose eyes extents are measured.
 enum class Seen
 {
     OnScreen, ///< layers that are on and thawed
     Plotted   ///< of those, the ones that are plotted
 };
 
-/// The display of a space or of a block definition.
+/// The display of a space or of a block definition, in its own coordinates: base points are in the references to it.
 struct BlockDisplay
 {
     int number = 0; ///< in the scene
     QString name{};
     std::vector<RecordDisplay> records{}; ///< in drawing order
-    Box box{};
-    bool isEndless = false;
-    bool isBuilt = false;
+    Box box{};                            ///< of all records, hidden layers too; lines without end left out
+    bool isEndless = false;               ///< has lines without end, itself or through its references
+    bool isBuilt = false;                 ///< otherwise nobody looked at it yet, and the rest is empty
 };
 
 /// A drawing taken apart into shapes, kept and brought up to date record by record as the drawing changes.
 ///
 /// Only blocks that are looked at are built. Looking at a scene brings it up to date; until then changes cost next to
 /// nothing. Must not outlive its drawing.
+///
+/// Building costs time and memory by the records' own points; what it makes beyond them (pattern lines, pieces of
+/// splines) takes from one budget for the whole scene and is coarser when that is used up. User-interface thread only.
 class Scene final : public drawing::DrawingObserver
 {
 public:
@@ -45,7 +49,7 @@ public:
     /// Follows the drawing's changes. `surroundings` is what expressions in it may ask for; without a function for
     /// variables they know those of the drawing itself.
     explicit Scene(drawing::Drawing &drawing, drawing::MacroSurroundings surroundings = {});
-    /// For one look at a drawing that does not change meanwhile.
+    /// For one look at a drawing that does not change meanwhile: it is not observed.
     explicit Scene(const drawing::Drawing &drawing, drawing::MacroSurroundings surroundings = {});
     ~Scene() override;
     Scene(const Scene &) = delete;
@@ -58,22 +62,30 @@ public:
     void regenerate();
     /// A number for a block by its name, whether or not there is such a block (yet). Layout blocks are spaces.
     int block(const QString &name);
+    /// Numbers given out so far.
     std::size_t blockCount() const { return m_blocks.size(); }
+    /// Whether the drawing has the block now; the two spaces always are.
     bool exists(int block) const;
 
-    /// Brings everything that the block shows up to date. Cheap when nothing changed.
+    /// Brings everything that the block shows up to date. Cheap when nothing changed; after changes it costs by what
+    /// changed, unless blocks, styles or the order of drawing are concerned.
     void prepare(int block);
-    /// As of the last prepare().
+    /// As of the last prepare(). The reference stays, its content changes with the next one.
     const BlockDisplay &display(int block) const { return *m_blocks[static_cast<std::size_t>(block)]; }
+    // What the displays' numbers mean, up to date as the displays are.
     Appearance &appearance() { return m_appearance; }
     const Appearance &appearance() const { return m_appearance; }
     Fonts &fonts() { return m_fonts; }
     drawing::ShapeFiles &shapes() { return m_shapes; }
 
-    /// Of what can be seen of the space or block. Lines without end do not count.
+    // These prepare the block.
+    /// Of what can be seen of the space or block; empty when that is nothing. Lines without end do not count. Goes
+    /// through all records that are shown.
     Box extents(int block, Seen seen = Seen::OnScreen);
+    /// Of the block and all that it shows through references. `isCutShort` tells of the building, not of the painting.
     RenderReport report(int block);
-    /// The display of a record of that space; null when it has none.
+    /// The display of a record of that space; null when it has none. Searches all records, and holds until the next
+    /// change is looked at.
     const RecordDisplay *find(int block, RecordId record);
     /// The display of one entity by itself, whether or not its space is built. What it refers to is up to date then.
     RecordDisplay buildAlone(RecordId record);
@@ -93,7 +105,9 @@ private:
         bool any() const { return order || tables || everything || !records.empty(); }
     };
 
-    // Up to rememberSpace() in SceneChanges.cpp.
+    // In SceneChanges.cpp, up to rememberSpace(). What the observer hears is only noted; applyChanges() acts on it at
+    // the next look. The usual edits, one record changed or added at the end, cost a search for it; anything that
+    // concerns order or names goes through all blocks that are built.
     void markEntity(RecordId record, drawing::RecordChange change);
     bool hasChangedSpace(RecordId entity) const;
     void applyChanges();
@@ -118,17 +132,17 @@ private:
 
     const drawing::Drawing &m_drawing;
     drawing::MacroSurroundings m_surroundings;
-    drawing::Drawing *m_followed = nullptr;
+    drawing::Drawing *m_followed = nullptr; ///< the drawing where its changes are observed
     Fonts m_fonts;
     drawing::ShapeFiles m_shapes;
     Appearance m_appearance;
-    std::vector<std::unique_ptr<BlockDisplay>> m_blocks;
-    QHash<QString, int> m_blockNumbers;
+    std::vector<std::unique_ptr<BlockDisplay>> m_blocks; ///< by number; they keep their place in memory
+    QHash<QString, int> m_blockNumbers;                  ///< by names in folded case
     std::vector<int> m_waiting;  ///< blocks that displays refer to and that may have to be built
     std::vector<qint8> m_spaces; ///< by record: 1 + the space it was last seen in
     Changes m_changes;
     bool m_boxesStale = false;
-    std::optional<SortHandles> m_sortHandles;
+    std::optional<SortHandles> m_sortHandles; ///< nothing: to be read again
     qint64 m_builtRecords = 0;
     drawing::WorkBudget m_work{drawing::displayWork};
 };

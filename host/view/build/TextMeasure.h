@@ -13,7 +13,8 @@ namespace host::view {
 
 class Scene;
 
-/// How much room the texts of a drawing take in the fonts that they are drawn with. Keeps the fonts it has met.
+/// How much room the texts of a drawing take in the fonts that they are drawn with. Keeps the fonts it has met. The
+/// machine's fonts decide, so results differ from one machine to another. Needs a QGuiApplication.
 class TextMeasure
 {
 public:
@@ -27,7 +28,7 @@ public:
     /// degrees. Empty when nothing is shown.
     Box lineBox(const drawing::FieldList &fields);
     /// Of an MTEXT: the length of its longest line, and the height from the top of the first line to the base of the
-    /// last. 0 and 0 when nothing is shown.
+    /// last, both in drawing units. 0 and 0 when nothing is shown.
     Vec2 paragraphSize(const drawing::FieldList &fields);
 
 private:

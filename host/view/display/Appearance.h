@@ -10,17 +10,18 @@
 
 namespace host::view {
 
-/// One dash, gap (negative) or dot (0) of a linetype, and the text or shape set on it.
+/// One dash, gap (negative) or dot (0) of a linetype, and the text or shape set on it. Lengths are those of the
+/// linetype's own units, which a scale makes into drawing units.
 struct LinePatternElement
 {
     double length = 0.0;
     QString text{};
-    int font = 0;
-    std::vector<Curve> shape{}; ///< at size 1; empty when there is none
-    double size = 0.0;          ///< of the text's capitals, or of the shape
-    double rotation = 0.0;      ///< radians
-    bool isRotationAbsolute = false;
-    Vec2 offset{};
+    int font = 0;                    ///< of the text, in Fonts
+    std::vector<Curve> shape{};      ///< at size 1; empty when there is none
+    double size = 0.0;               ///< of the text's capitals, or of the shape
+    double rotation = 0.0;           ///< radians
+    bool isRotationAbsolute = false; ///< from the x axis of the screen; otherwise from the line
+    Vec2 offset{};                   ///< from where the element ends: along the line and to its left
 
     bool hasSign() const { return !text.isEmpty() || !shape.empty(); }
 };
@@ -33,21 +34,22 @@ struct LinePattern
     bool lacksShapes = false; ///< has shapes that are left out: their files are not found
 };
 
+/// What a layer gives to what lies on it. A layer that the drawing does not have looks like this.
 struct LayerLook
 {
-    Colour colour{.kind = Colour::Kind::Index, .value = 7};
-    int linetype = 0;
-    int lineweight = Style::defaultWeight;
+    Colour colour{.kind = Colour::Kind::Index, .value = 7}; ///< an index or a true colour
+    int linetype = 0;                                       ///< in the appearance; 0 is a full line
+    int lineweight = Style::defaultWeight;                  ///< hundredths of a millimetre, or that constant
     bool isOff = false;
     bool isFrozen = false;
-    bool isPlotted = true;
+    bool isPlotted = true; ///< never for "Defpoints"
 };
 
 /// How a shape is drawn, with nothing left to look up.
 struct ResolvedStyle
 {
     QRgb colour = 0;
-    int layer = 0;
+    int layer = 0;              ///< the insert's, for a shape on layer 0 within a block
     int linetype = 0;           ///< in the appearance; 0 is a full line
     int lineweight = 25;        ///< hundredths of a millimetre
     double linetypeScale = 1.0; ///< times everything but the block's own size
@@ -56,30 +58,38 @@ struct ResolvedStyle
 class Fonts;
 
 /// Layers and linetypes of a drawing, and the settings that change the look of everything. Entities name layers and
-/// linetypes by a number from here; numbers stay the same when the tables change.
+/// linetypes by a number from here; numbers stay the same when the tables change, so that a layer's new colour is seen
+/// without building anything anew.
 class Appearance
 {
 public:
     Appearance();
 
-    int layer(const QString &name);
+    // The number of a name in any letter case, given out at the first asking whether or not the drawing has it.
+    int layer(const QString &name); ///< "0" is 0
+    /// "Continuous" is 0; an empty name and "ByLayer" give Style::byLayer, "ByBlock" Style::byBlock.
     int linetype(const QString &name);
+    // References hold until the next new name or reload().
     const LayerLook &layerLook(int layer) const { return m_layers[static_cast<std::size_t>(layer)]; }
     const LinePattern &pattern(int linetype) const { return m_patterns[static_cast<std::size_t>(linetype)]; }
 
-    /// Reads layers, linetypes and settings again.
+    /// Reads layers, linetypes and settings again. Of a linetype the first thousand elements count.
     void reload(const drawing::Drawing &drawing, Fonts &fonts, drawing::ShapeFiles &shapes);
     /// The shape of this name in the first of the drawing's shape files that has it, at size 1; nothing when none has.
     std::optional<std::vector<Curve>> shapeNamed(const QString &name, drawing::ShapeFiles &shapes);
 
-    /// `insert` is what the insert that the shape is seen through was resolved to; null outside blocks.
+    /// `insert` is what the insert that the shape is seen through was resolved to; null outside blocks, where "by
+    /// block" is colour 7, a full line and the default weight. Constant cost: it is done anew at every look.
     ResolvedStyle resolve(const Style &style, const ResolvedStyle *insert, Ground ground) const;
 
     /// Whether the frames of masks are seen on the screen, and on paper.
     bool showsMaskFrames(bool isPlotted) const { return m_maskFrame != 0 && !(isPlotted && m_maskFrame == 2); }
-    double linetypeScale() const { return m_linetypeScale; }
-    int pointMode() const { return m_pointMode; }
-    double pointSize() const { return m_pointSize; }
+    double linetypeScale() const { return m_linetypeScale; } ///< $LTSCALE, positive
+    int pointMode() const { return m_pointMode; }            ///< $PDMODE
+    double pointSize() const
+    {
+        return m_pointSize;
+    } ///< $PDSIZE: drawing units; below 0 per cent of the view, 0 five of them
 
 private:
     QRgb color(const Colour &colour, int layer, const ResolvedStyle *insert, Ground ground) const;

@@ -13,14 +13,15 @@ namespace host::view {
 /// A curve as a screen sees it: straight pieces, with how far along the curve (in its own units) each point lies.
 struct Track
 {
-    std::vector<QPointF> points{};
+    std::vector<QPointF> points{};      ///< pixels
     std::vector<double> along{};        ///< as many as points, rising from 0
     std::vector<std::size_t> corners{}; ///< where in points the vertices of the curve are
 
+    /// Keeps the memory, so that one track serves many curves.
     void clear();
 };
 
-/// Where a map takes a point, seen from above.
+/// Where a map takes a point, seen from above: as Matrix::point() without the work for z.
 inline QPointF flat(const Matrix &map, const Vec3 &p)
 {
     return {map.xAxis.x * p.x + map.yAxis.x * p.y + map.zAxis.x * p.z + map.origin.x,
@@ -39,7 +40,8 @@ public:
     {
     }
 
-    /// The track is replaced. Points that are not finite end up nowhere: the track is empty then.
+    /// The track is replaced. Points that are not finite end up nowhere: the track is empty then. Straight segments
+    /// stay whole, however far they reach.
     void trace(const Curve &curve, Track &track);
 
 private:
@@ -48,18 +50,22 @@ private:
     bool needsDividing(const ArcSpan &arc, double from, double to, int depth) const;
     void append(const Vec3 &point, double length, Track &track);
 
+    // All three are the caller's and must outlive the tracer.
     const Matrix &m_map;
     const std::optional<QRectF> &m_view;
     drawing::WorkBudget &m_work;
-    double m_screenRadius = 0.0;
-    double m_ownRadius = 0.0;
-    std::size_t m_arcLimit = 0;
+    // Of the arc that is being traced.
+    double m_screenRadius = 0.0; ///< pixels, the larger one
+    double m_ownRadius = 0.0;    ///< units of the curve, the mean of both
+    std::size_t m_arcLimit = 0;  ///< points that the track may have behind it
 };
 
-/// The part of a segment that lies in the rectangle, as fractions of it; nothing when it stays outside.
+/// The part of a segment that lies in the rectangle or on its edge, as fractions of the way from `from` to `to`;
+/// nothing when it stays outside.
 std::optional<std::pair<double, double>> visiblePart(QPointF from, QPointF to, const QRectF &view);
 
-/// The polygon cut off at the rectangle. What of a filled area lies in the rectangle stays the same.
+/// The polygon cut off at the rectangle, so that painters need not see far coordinates. What of a filled area lies in
+/// the rectangle stays the same; elsewhere edges may run along the rectangle's. The last corner joins the first.
 QPolygonF clippedPolygon(const QPolygonF &polygon, const QRectF &view);
 
 } // namespace host::view

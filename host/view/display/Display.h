@@ -31,12 +31,12 @@ struct Colour
     enum class Kind : std::uint8_t
     {
         ByLayer,
-        ByBlock,
+        ByBlock, ///< that of the insert; colour 7 outside of blocks
         Index,
         True
     };
     Kind kind = Kind::ByLayer;
-    std::uint32_t value = 0; ///< index 1-255, or 0xRRGGBB
+    std::uint32_t value = 0; ///< index 1-255, or 0xRRGGBB; of no meaning for the other kinds
 
     bool operator==(const Colour &) const = default;
 };
@@ -44,6 +44,7 @@ struct Colour
 /// How a shape is drawn, unresolved. Layers and linetypes are places in the Appearance of the scene.
 struct Style
 {
+    // In place of a linetype or a weight.
     static constexpr int byLayer = -1;
     static constexpr int byBlock = -2;
     static constexpr int defaultWeight = -3;
@@ -51,8 +52,8 @@ struct Style
     Colour colour{};
     int layer = 0;
     int linetype = byLayer;
-    int lineweight = byLayer; ///< hundredths of a millimetre, or one of the constants
-    double linetypeScale = 1.0;
+    int lineweight = byLayer;   ///< hundredths of a millimetre, or one of the constants
+    double linetypeScale = 1.0; ///< the entity's own, beside that of the drawing
 };
 
 /// An elliptical arc in space, which every affine map takes to such an arc again: center + xAxis cos t + yAxis sin t.
@@ -69,9 +70,11 @@ struct ArcSpan
 };
 
 /// A line through points, some of its segments arcs. A closed curve ends with its first point.
+///
+/// Segment i leads from point i to point i + 1; where it is an arc, its span begins and ends at these points.
 struct Curve
 {
-    Path points{};
+    Path points{};               ///< one alone is a dot
     std::vector<ArcSpan> arcs{}; ///< by rising segment
     bool isOneRun = true;        ///< a linetype runs through; otherwise it begins anew at every vertex
 };
@@ -79,7 +82,7 @@ struct Curve
 /// A curve drawn as a line.
 struct Stroke
 {
-    Curve curve{};
+    Curve curve{}; ///< dashed by the linetype of its style
 };
 
 /// A straight line that does not end, on one or both sides.
@@ -94,7 +97,7 @@ struct Endless
 struct Segments
 {
     Path ends{}; ///< two points a piece
-    Path dots{};
+    Path dots{}; ///< one each
 };
 
 enum class FillKind : std::uint8_t
@@ -104,6 +107,7 @@ enum class FillKind : std::uint8_t
     Mask   ///< covers with the ground's colour what was drawn before
 };
 
+/// An area between closed curves, islands among them.
 struct Fill
 {
     std::vector<Curve> contours{};
@@ -130,9 +134,12 @@ struct PointMark
 
 struct Reference;
 
+/// The kinds there are. Texts and references are large and rare, so a shape only points to them and owns them; that
+/// makes displays things to move, not to copy.
 using Shape =
     std::variant<Stroke, Fill, Segments, Endless, PointMark, std::unique_ptr<TextRun>, std::unique_ptr<Reference>>;
 
+/// One shape with how it is drawn. The later one of a display covers the earlier.
 struct DisplayItem
 {
     Style style{};
@@ -143,11 +150,11 @@ struct DisplayItem
 /// A block or space seen through a map, once or as an array.
 struct Reference
 {
-    int block = 0; ///< in the scene
-    Matrix placement{};
+    int block = 0;      ///< in the scene
+    Matrix placement{}; ///< of the first cell: from the block's coordinates to those of the reference
     std::int64_t columns = 1;
     std::int64_t rows = 1;
-    Vec3 columnStep{};
+    Vec3 columnStep{}; ///< from cell to cell, in the coordinates of the reference
     Vec3 rowStep{};
     Path clip{};                       ///< polygon, in coordinates of the block; empty: all is shown
     std::vector<int> hiddenLayers{};   ///< layers frozen in this view of the block, rising
@@ -156,14 +163,14 @@ struct Reference
     bool isViewport = false; ///< by-block properties and layer 0 do not come from it
 };
 
-/// All that one record of a drawing shows.
+/// All that one record of a drawing shows, with the VERTEX or ATTRIB records that belong to it.
 struct RecordDisplay
 {
     RecordId record = noRecord;
-    Box box{}; ///< of what has an end; grows with the blocks it refers to
-    std::vector<DisplayItem> items{};
-    std::int64_t work = 0;  ///< units of the scene's budget that went into the items
-    bool isEndless = false; ///< has lines without end: the box does not bound it
+    Box box{};                        ///< of what has an end; grows with the blocks it refers to
+    std::vector<DisplayItem> items{}; ///< none for what is not to be seen or cannot be drawn
+    std::int64_t work = 0;            ///< units of the scene's budget that went into the items
+    bool isEndless = false;           ///< has lines without end: the box does not bound it
     bool hasReferences = false;
     bool isSkipped = false;    ///< could not be drawn
     bool isExternal = false;   ///< shows another drawing, which is not looked at

@@ -12,6 +12,7 @@ namespace host::view {
 /// drawing. A handle is in one block only, so the tables of all blocks are taken together.
 using SortHandles = QHash<quint64, quint64>;
 
+/// Goes through all objects of the drawing. Empty in most drawings.
 SortHandles readSortHandles(const drawing::Drawing &drawing);
 
 /// The entities of one space or block in the order in which they are drawn: file order, unless sort handles concern

@@ -9,15 +9,16 @@ namespace host::view {
 struct PolylineVertex
 {
     Vec3 at{};
-    double startWidth = 0.0;
+    double startWidth = 0.0; ///< drawing units, across the whole line
     double endWidth = 0.0;
-    double bulge = 0.0;
+    double bulge = 0.0; ///< tangent of a quarter of the swept angle, positive counter-clockwise; 0: straight
 };
 
 /// The line through the vertices; bulged segments are arcs. `ocs` maps to the coordinates that are wanted. A closed
 /// polyline's last segment goes back to the first vertex.
 Curve polylineCurve(const std::vector<PolylineVertex> &vertices, bool isClosed, const Matrix &ocs);
 
+/// Whether any segment is to be drawn as an area.
 bool hasWidth(const std::vector<PolylineVertex> &vertices);
 
 /// The area that a polyline with widths covers: mitred where straight segments meet, tapering where widths differ.

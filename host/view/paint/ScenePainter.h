@@ -12,6 +12,7 @@ namespace host::view {
 
 using RecordSet = std::unordered_set<RecordId>;
 
+/// Sets of records are not owned and must outlive the painting.
 struct PaintOptions
 {
     Ground ground = Ground::Black;
@@ -30,7 +31,8 @@ struct PaintResult
 };
 
 /// Draws a space or block as the view shows it. The painter's units are taken for pixels; its pen, brush and clip are
-/// as before afterwards. Costs a look at every record's box and, for those in view, time by what they show.
+/// as before afterwards. Prepares the block. Costs a look at every record's box and, for those in view, time by what
+/// they show; what is multiplied is bounded (see drawing::WorkBudget), less where the painter writes a file of lines.
 PaintResult paintScene(QPainter &painter, Scene &scene, int block, const ViewTransform &view,
                        const PaintOptions &options = {});
 

@@ -8,11 +8,11 @@
 namespace host::view {
 
 /// A piece of multi-line text where it stands: x to the right and y up from the top left corner of the text box,
-/// drawing units.
+/// drawing units. All of it looks the same and stands on one line.
 struct MTextRun
 {
     QString text{};
-    int font = 0;
+    int font = 0;         ///< in Fonts
     MTextFormat format{}; ///< height and width factor as drawn, also inside stacks
     double x = 0.0;
     double y = 0.0;     ///< of the base line
@@ -22,13 +22,15 @@ struct MTextRun
 /// A straight line of the text: under, over or through it, or the bar of a fraction.
 struct MTextRule
 {
+    // Both ends, in the coordinates of MTextRun.
     double x1 = 0.0;
     double y1 = 0.0;
     double x2 = 0.0;
     double y2 = 0.0;
-    MTextFormat format{};
+    MTextFormat format{}; ///< for its colour
 };
 
+/// A multi-line text taken apart, in no particular order.
 struct MTextLayout
 {
     std::vector<MTextRun> runs{};
@@ -37,13 +39,14 @@ struct MTextLayout
     double height = 0.0; ///< from the top of the first line to the base of the last
 };
 
+/// What the entity says for all of its text.
 struct MTextBox
 {
-    double width = 0.0; ///< lines are broken here; 0: nowhere
-    double lineSpacing = 1.0;
-    bool isSpacingExact = false;
-    MTextAlignment alignment = MTextAlignment::Left;
-    FontRequest styleFont{};
+    double width = 0.0;                              ///< lines are broken here; 0: nowhere
+    double lineSpacing = 1.0;                        ///< factor on five thirds of the height
+    bool isSpacingExact = false;                     ///< taller letters do not push lines apart
+    MTextAlignment alignment = MTextAlignment::Left; ///< of paragraphs that have none of their own
+    FontRequest styleFont{};                         ///< for what names no font
 };
 
 /// Breaks the tokens into lines and says where each piece stands. Lines break between words; a word longer than the

@@ -39,12 +39,13 @@ enum class MTextAlignment
 /// Indents of the paragraph, in drawing units, and how its lines stand.
 struct MTextParagraph
 {
-    double firstIndent = 0.0;
+    double firstIndent = 0.0; ///< of its first line, beside the left one
     double leftIndent = 0.0;
     double rightIndent = 0.0;
     MTextAlignment alignment = MTextAlignment::Default;
 };
 
+/// A piece of the text between two places where something may happen.
 struct MTextToken
 {
     enum class Kind
@@ -56,6 +57,7 @@ struct MTextToken
         NewLine, ///< end of a paragraph
         NewColumn
     };
+    /// Between the two parts of a stack.
     enum class Bar
     {
         None,
@@ -64,11 +66,11 @@ struct MTextToken
     };
 
     Kind kind = Kind::Word;
-    QString text{};
+    QString text{};  ///< of a word or stack
     QString lower{}; ///< of a stack
     Bar bar = Bar::None;
     MTextFormat format{};
-    MTextParagraph paragraph{};
+    MTextParagraph paragraph{}; ///< of the paragraph as far as its codes were read
 };
 
 /// Takes the inline codes of multi-line text apart.
@@ -78,8 +80,11 @@ struct MTextToken
 class MTextParser
 {
 public:
+    /// `text` must outlive the parser; `start` is how the entity says that letters look. Indents count in its height.
     MTextParser(QStringView text, const MTextFormat &start);
 
+    /// All tokens in order; to be called once. Never fails: what makes no sense is left out, and costs grow with the
+    /// length of the text.
     std::vector<MTextToken> parse();
 
 private:
