@@ -38,6 +38,7 @@ public:
     /// The system's words, or notRegularFile of RegularFile.h; UTF-8, no sentence.
     const std::string &reason() const noexcept { return m_reason; }
 
+    /// Adds to the new content. Small pieces are gathered first: a failure may show with a later call.
     bool write(std::string_view bytes);
 
     /// Hands everything to the system, and hands what the system has of it to `isRight`, whose view lasts as long as
@@ -64,16 +65,17 @@ private:
     std::filesystem::path m_target; ///< behind all links
     std::filesystem::path m_beside; ///< the hidden file; empty when it has no name
     OpenDescriptor m_descriptor;
-    std::string m_buffer;
+    std::string m_buffer; ///< written to the hidden file when it is full
     std::string m_reason;
-    std::optional<mode_t> m_mode;
-    struct stat m_old = {}; ///< the target's; st_nlink 0 when there is none
+    std::optional<mode_t> m_mode; ///< nothing: the old file's, or what the system gives to new ones
+    struct stat m_old = {};       ///< the target's; st_nlink 0 when there is none
 };
 
 /// Replaces a file by `bytes`, or makes it. Empty, or why not, as FileReplacement::reason().
 std::string replaceFile(const std::filesystem::path &path, std::string_view bytes);
 
-/// The file that a name leads to through all symbolic links, which need not exist yet.
+/// The file that a name leads to through all symbolic links, which need not exist yet. Links that lead back to
+/// themselves are given up after forty.
 std::filesystem::path behindLinks(const std::filesystem::path &path);
 
 } // namespace files

@@ -10,7 +10,7 @@ namespace files {
 
 /// A regular file that is written or added to where it is, as programs write their own files: what was written is
 /// there even when the writer dies, and what was there before is gone. For files that people keep, see
-/// FileReplacement.
+/// FileReplacement. Closing it is the writer's to do where a failure matters: the destructor tells nobody.
 class WritableFile
 {
 public:
@@ -32,6 +32,7 @@ public:
     /// Whether there is nothing in front of the first byte written.
     bool isEmpty() const noexcept { return m_begin == 0; }
 
+    /// Small pieces are gathered first: a failure may show with a later call.
     bool write(std::string_view bytes);
     /// What was written is with the system; full disks show here at the latest, but for network drives.
     bool flush();
@@ -39,7 +40,7 @@ public:
     bool sync();
     /// As flush(); the file is closed whatever comes of it.
     bool close();
-    /// Takes back what was written since the file was opened at its end.
+    /// Takes back what was written since the file was opened at its end, after a failure as well.
     void cutBack();
 
 private:
@@ -48,7 +49,7 @@ private:
     OpenDescriptor m_descriptor;
     std::string m_buffer;
     std::string m_reason;
-    std::intmax_t m_begin = 0;
+    std::intmax_t m_begin = 0; ///< the file's bytes when it was opened at its end
 };
 
 /// Adds bytes to the end of a file, or makes it; on the disk when it comes back. Where the disk takes only a part, the

@@ -17,7 +17,7 @@ namespace files {
 std::filesystem::path nativePath(const QString &path);
 QString fromNativePath(const std::filesystem::path &path);
 
-/// Replaces a file by `bytes`, or makes it: see FileReplacement.
+/// Replaces a file by `bytes`, or makes it: see FileReplacement. Copies nothing.
 QString replaceFile(const QString &path, QByteArrayView bytes);
 
 /// Adds bytes to a file, or makes it: see WritableFile.h.
