@@ -1,23 +1,91 @@
 #include "files/FileReplacement.h"
-
 #include "files/Leftovers.h"
+#include "files/RegularFile.h"
 #include "files/WritableFile.h"
-#include "tests/files/Sandbox.h"
 
+#include <cerrno>
 #include <csignal>
 #include <fcntl.h>
+#include <filesystem>
+#include <gtest/gtest.h>
+#include <limits>
 #include <sys/file.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
 #include <sys/xattr.h>
+#include <unistd.h>
 
 namespace files::test {
 
-class FileReplacementTest : public Sandbox
+namespace fs = std::filesystem;
+
+/// A folder for one test.
+class Sandbox : public testing::Test
 {
+protected:
+    void SetUp() override
+    {
+        std::string name = (fs::temp_directory_path() / "filesXXXXXX").string();
+        m_folder = mkdtemp(name.data());
+    }
+    void TearDown() override
+    {
+        fs::permissions(m_folder, fs::perms::owner_all);
+        fs::remove_all(m_folder);
+    }
+
+    fs::path path(const std::string &name) const { return m_folder / name; }
+    fs::path put(const std::string &name, const std::string &content) const
+    {
+        FILE *file = std::fopen(path(name).c_str(), "wb");
+        std::fwrite(content.data(), 1, content.size(), file);
+        std::fclose(file);
+        return path(name);
+    }
+    std::string content(const std::string &name) const
+    {
+        return readWholeFile(path(name), std::numeric_limits<std::uintmax_t>::max()).bytes;
+    }
+    size_t fileCount() const
+    {
+        return static_cast<size_t>(std::distance(fs::directory_iterator(m_folder), fs::directory_iterator()));
+    }
+    struct stat status(const std::string &name) const
+    {
+        struct stat result = {};
+        EXPECT_EQ(stat(path(name).c_str(), &result), 0);
+        return result;
+    }
+
+    /// Runs `body` in a process of its own, so that limits and users end with it; what it gives is the exit status.
+    template <typename Body>
+    static int inChild(Body body)
+    {
+        const pid_t child = fork();
+        if (child == 0)
+            _exit(body());
+        int status = 0;
+        waitpid(child, &status, 0);
+        return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+    }
+    /// The disk is full after so many bytes of a file.
+    static void limitFiles(rlim_t bytes)
+    {
+        signal(SIGXFSZ, SIG_IGN);
+        const rlimit limit = {bytes, bytes};
+        setrlimit(RLIMIT_FSIZE, &limit);
+    }
+
+    fs::path m_folder;
 };
+
+using ReplacementTest = Sandbox;
+using RegularFileTest = Sandbox;
 
 constexpr char oldContent[] = "old, and longer than the new";
 
-TEST_F(FileReplacementTest, WhatPeopleGaveAFileStays)
+TEST_F(ReplacementTest, WhatPeopleGaveAFileStays)
 {
     put("plan.dxf", oldContent);
     chmod(path("plan.dxf").c_str(), 04640);
@@ -32,7 +100,7 @@ TEST_F(FileReplacementTest, WhatPeopleGaveAFileStays)
     EXPECT_EQ(fileCount(), 1U);
 }
 
-TEST_F(FileReplacementTest, LinksOfBothKindsStay)
+TEST_F(ReplacementTest, LinksOfBothKindsStay)
 {
     fs::create_directory(path("archive"));
     put("archive/plan.dxf", oldContent);
@@ -50,7 +118,7 @@ TEST_F(FileReplacementTest, LinksOfBothKindsStay)
     EXPECT_NE(replaceFile(path("ring.dxf"), "no"), "");
 }
 
-TEST_F(FileReplacementTest, AFullDiskIsToldAndLeavesTheOldFile)
+TEST_F(ReplacementTest, AFullDiskIsToldAndLeavesTheOldFile)
 {
     put("kept.dxf", oldContent);
     put("linked.dxf", oldContent);
@@ -77,7 +145,7 @@ TEST_F(FileReplacementTest, AFullDiskIsToldAndLeavesTheOldFile)
     EXPECT_EQ(fileCount(), files);
 }
 
-TEST_F(FileReplacementTest, WhereTheFolderTakesNoFileItIsWrittenInPlace)
+TEST_F(ReplacementTest, WhereTheFolderTakesNoFileItIsWrittenInPlace)
 {
     put("plan.dxf", oldContent);
     chmod(path("plan.dxf").c_str(), 0666);
@@ -96,7 +164,7 @@ TEST_F(FileReplacementTest, WhereTheFolderTakesNoFileItIsWrittenInPlace)
     EXPECT_EQ(status("plan.dxf").st_ino, before);
 }
 
-TEST_F(FileReplacementTest, AnotherOwnersFileKeepsItsOwner)
+TEST_F(ReplacementTest, AnotherOwnersFileKeepsItsOwner)
 {
     if (geteuid() != 0)
         GTEST_SKIP() << "only the superuser can give files away";
@@ -113,7 +181,7 @@ TEST_F(FileReplacementTest, AnotherOwnersFileKeepsItsOwner)
     EXPECT_EQ(status("theirs.dxf").st_gid, 4321U);
 }
 
-TEST_F(FileReplacementTest, OnlyRegularFilesThatMayBeWrittenAreReplaced)
+TEST_F(ReplacementTest, OnlyRegularFilesThatMayBeWrittenAreReplaced)
 {
     mkfifo(path("pipe").c_str(), 0666);
     fs::create_directory(path("folder"));
@@ -126,7 +194,7 @@ TEST_F(FileReplacementTest, OnlyRegularFilesThatMayBeWrittenAreReplaced)
     EXPECT_TRUE(fs::is_fifo(path("pipe")));
 }
 
-TEST_F(FileReplacementTest, WhatIsNotCommittedIsGone)
+TEST_F(ReplacementTest, WhatIsNotCommittedIsGone)
 {
     put("plan.dxf", oldContent);
     {
@@ -139,7 +207,7 @@ TEST_F(FileReplacementTest, WhatIsNotCommittedIsGone)
     EXPECT_EQ(fileCount(), 1U);
 }
 
-TEST_F(FileReplacementTest, WhatAKilledWriterLeftGoesAndAWholeCopyIsTold)
+TEST_F(ReplacementTest, WhatAKilledWriterLeftGoesAndAWholeCopyIsTold)
 {
     put("plan.dxf", oldContent);
     inChild([&] {
@@ -148,7 +216,7 @@ TEST_F(FileReplacementTest, WhatAKilledWriterLeftGoesAndAWholeCopyIsTold)
         return raise(SIGKILL);
     });
     put(".plan.dxf.abcdef.whole", "whole");
-    put(".plan.dxf.mine.saving", "of somebody else");
+    put(".plan.dxf.mine42.saving", "of somebody else");
     put(".other.dxf.abcdef.saving", "of another file");
     FileReplacement busy(path("busy.dxf"));
     ASSERT_EQ(fileCount(), 6U);
@@ -157,6 +225,48 @@ TEST_F(FileReplacementTest, WhatAKilledWriterLeftGoesAndAWholeCopyIsTold)
     EXPECT_EQ(removeLeftoversIn(m_folder).size(), 1U);
     EXPECT_EQ(fileCount(), 4U) << "a file that is being written was taken away, or one of somebody else";
     EXPECT_TRUE(busy.write("x") && busy.commit());
+}
+
+TEST_F(RegularFileTest, OnlyRegularFilesUpToTheLimitAreRead)
+{
+    put("text", "1234");
+    mkfifo(path("pipe").c_str(), 0666);
+    fs::create_symlink("/dev/zero", path("zero"));
+    const std::tuple<fs::path, std::uintmax_t, std::string> rows[] = {
+        {path("text"), 4, ""},
+        {path("text"), 3, tooLargeFile},
+        {path("pipe"), 100, notRegularFile},
+        {path("zero"), 100, notRegularFile},
+        {m_folder, 100, notRegularFile},
+        {"/proc/self/environ", 100, notRegularFile},
+        {"/sys/kernel/mm/transparent_hugepage/enabled", 100, notRegularFile},
+        {path("none"), 100, errorText(ENOENT)},
+        {path("text") / "below", 100, errorText(ENOTDIR)},
+        {{}, 100, errorText(ENOENT)},
+    };
+    for (const auto &[path, largest, reason] : rows) {
+        if (path.string().starts_with("/sys") && !fs::exists(path))
+            continue;
+        const WholeFile file = readWholeFile(path, largest);
+        EXPECT_EQ(file.reason, reason) << path;
+        EXPECT_EQ(file.bytes, reason.empty() ? "1234" : "") << path;
+    }
+}
+
+TEST_F(RegularFileTest, WritingInPlaceTellsWhereTheDiskEnds)
+{
+    put("text", "1234");
+    EXPECT_EQ(inChild([&] {
+                  limitFiles(100);
+                  WritableFile file(path("text"), WritableFile::Start::AtEnd);
+                  const bool isTaken = file.write(std::string(200, 'x'));
+                  return isTaken && !file.close() && file.reason() == errorText(EFBIG) ? 0 : 1;
+              }),
+              0)
+        << "what is in the buffer is written when the file is closed";
+    WritableFile again(path("text"), WritableFile::Start::Empty);
+    EXPECT_TRUE(again.isEmpty() && again.write("new") && again.close());
+    EXPECT_EQ(content("text"), "new");
 }
 
 } // namespace files::test
