@@ -8,8 +8,6 @@
 #include "host/drawing/records/Tables.h"
 #include "tests/drawing/DrawingSample.h"
 
-#include <QDir>
-
 namespace host::drawing {
 
 using namespace Qt::StringLiterals;
@@ -53,6 +51,13 @@ void expectFurnished(const Drawing &drawing, const std::vector<RecordId> &entiti
     EXPECT_TRUE(isValid(drawing.blocks().find(u"Inner")));
 }
 
+double boxDifference(const Drawing &source, const Drawing &target)
+{
+    const Box from = spaceBox(source, source.entities().all());
+    const Box to = spaceBox(target, target.entities().all());
+    return (from.high - to.high).length() + (from.low - to.low).length();
+}
+
 TEST(Copy, ToANewDrawingWithAllItNeeds)
 {
     for (const char *version : {"AC1009", "AC1015", "AC1032"}) {
@@ -65,9 +70,7 @@ TEST(Copy, ToANewDrawingWithAllItNeeds)
         EXPECT_EQ(target->header().point(u"$INSBASE"), (Vec3{3, 4, 5}));
         EXPECT_FALSE(target->journal().canUndo());
         EXPECT_EQ(source->toBytes(), before);
-        const Box from = spaceBox(*source, source->entities().all());
-        const Box to = spaceBox(*target, target->entities().all());
-        EXPECT_LT((from.high - to.high).length() + (from.low - to.low).length(), 1e-9);
+        EXPECT_LT(boxDifference(*source, *target), 1e-9);
         EXPECT_AUDIT_CLEAN(*target);
     }
     const auto source = furnished("AC1015");
@@ -149,14 +152,11 @@ TEST(Copy, OneBlockWithAllItNeeds)
     EXPECT_FALSE(copyBlock(*source, source->entities().all().front(), *target));
 }
 
-// Into a drawing of the oldest version: what comes of an entity as "TYPE vertices" and its box, which stays.
+// Into a drawing of the oldest version: what comes of an entity as "TYPE vertices", nothing when it is left out, and
+// its box, which stays.
 TEST(Copy, WhatAnEarlyVersionLacksIsConvertedOrCounted)
 {
-    const struct
-    {
-        const char *entity;
-        QString made; ///< empty: left out
-    } rows[] = {
+    const std::pair<const char *, QString> rows[] = {
         {"0 LWPOLYLINE|90 3|70 1|38 2.5|10 0,0|40 0.1|41 0.2|42 1.0|10 4,0|10 4,3", u"POLYLINE 3"_s},
         {"0 LWPOLYLINE|90 2|70 0|43 0.5|10 0,0|10 4,0|210 0,0,-1", u"POLYLINE 2"_s},
         {"0 ELLIPSE|10 1,2,3|11 4,0,0|40 0.5|41 0.0|42 1.5707963267948966", u"POLYLINE 19"_s},
@@ -164,23 +164,20 @@ TEST(Copy, WhatAnEarlyVersionLacksIsConvertedOrCounted)
         {"0 RAY|10 0,0,0|11 1,0,0", {}},
         {"0 MESH|100 AcDbEntity|8 0|100 AcDbSubDMesh|71 2", {}},
     };
-    for (const auto &row : rows) {
-        SCOPED_TRACE(row.entity);
+    for (const auto &[entity, made] : rows) {
+        SCOPED_TRACE(entity);
         const auto source = newDrawing();
-        ASSERT_TRUE(source->entities().create(fieldsOf(row.entity)));
+        ASSERT_TRUE(source->entities().create(fieldsOf(entity)));
         const auto target = sample("AC1009");
         const CopyResult result = copyEntities(*source, source->entities().all(), *target);
-        EXPECT_EQ(result.converted, row.made.isEmpty() ? 0 : 1);
-        EXPECT_EQ(result.skipped, row.made.isEmpty() ? 1 : 0);
-        QStringList made;
-        for (const RecordId entity : target->entities().all())
-            made.append(
-                u"%1 %2"_s.arg(QString::fromLatin1(target->typeName(entity))).arg(target->children(entity).size()));
-        EXPECT_EQ(made.join(u' '), row.made);
-        if (row.made.startsWith(u"POLY")) {
-            const Box from = spaceBox(*source, source->entities().all());
-            const Box to = spaceBox(*target, target->entities().all());
-            EXPECT_LT((from.high - to.high).length() + (from.low - to.low).length(), 1e-6);
+        EXPECT_EQ(result.converted, made.isEmpty() ? 0 : 1);
+        EXPECT_EQ(result.skipped, made.isEmpty() ? 1 : 0);
+        QStringList found;
+        for (const RecordId id : target->entities().all())
+            found.append(u"%1 %2"_s.arg(QString::fromLatin1(target->typeName(id))).arg(target->children(id).size()));
+        EXPECT_EQ(found.join(u' '), made);
+        if (made.startsWith(u"POLY")) {
+            EXPECT_LT(boxDifference(*source, *target), 1e-6);
         }
         EXPECT_AUDIT_CLEAN(*target);
     }
@@ -239,21 +236,12 @@ TEST(Copy, WhatRefersToItselfIsCopiedOnce)
 
 TEST(Copy, CorpusDrawingsGoIntoANewOne)
 {
-    const QString folder = qEnvironmentVariable("ORTAKIT_CORPUS");
-    if (folder.isEmpty())
-        GTEST_SKIP() << "ORTAKIT_CORPUS names no folder of drawings";
-    for (const QFileInfo &file : QDir(folder).entryInfoList({u"*.dxf"_s})) {
-        SCOPED_TRACE(file.fileName().toStdString());
-        const ReadResult source = Drawing::open(file.filePath());
-        if (!source)
-            continue;
+    SKIP_WITHOUT_CORPUS(forEachCorpusDrawing([](const Drawing &source) {
         const auto target = newDrawing();
-        const CopyResult result = insertAsBlock(*source.drawing, *target, u"Whole"_s);
+        const CopyResult result = insertAsBlock(source, *target, u"Whole"_s);
         ASSERT_TRUE(result) << result.error.toStdString();
-        std::cout << file.fileName().toStdString() << ": " << target->children(result.record).size() << " copied, "
-                  << result.skipped << " left out\n";
         EXPECT_AUDIT_CLEAN(*target);
-    }
+    }));
 }
 
 } // namespace

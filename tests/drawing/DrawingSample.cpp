@@ -9,58 +9,6 @@ namespace host::drawing {
 
 using namespace Qt::StringLiterals;
 
-namespace {
-
-QByteArray tables(bool isOld)
-{
-    const auto marker = [isOld](const QByteArray &name) {
-        return isOld ? QByteArray() : "100 AcDbSymbolTableRecord\n100 " + name + '\n';
-    };
-    const auto head = [isOld](const QByteArray &type, int handle, int owner) {
-        return "0 " + type +
-               (isOld ? "\n"
-                      : "\n5 " + QByteArray::number(handle, 16).toUpper() + "\n330 " +
-                            QByteArray::number(owner, 16).toUpper() + '\n');
-    };
-    const auto table = [isOld](const QByteArray &type, int handle) {
-        return "0 TABLE\n2 " + type + '\n' +
-               (isOld ? QByteArray() : "5 " + QByteArray::number(handle, 16) + "\n330 0\n100 AcDbSymbolTable\n") +
-               "70 1\n" + (isOld || type != "DIMSTYLE" ? "" : "100 AcDbDimStyleTable\n71 0\n");
-    };
-    const QByteArray end = "0 ENDTAB\n";
-    QByteArray text = table("LTYPE", 2) + head("LTYPE", 0x10, 2) + marker("AcDbLinetypeTableRecord") +
-                      "2 CONTINUOUS\n70 0\n3 Solid line\n72 65\n73 0\n40 0.0\n" + end;
-    text += table("LAYER", 3) + head("LAYER", 0x11, 3) + marker("AcDbLayerTableRecord") +
-            "2 0\n70 0\n62 7\n6 CONTINUOUS\n" + end;
-    text += table("STYLE", 4) + head("STYLE", 0x12, 4) + marker("AcDbTextStyleTableRecord") +
-            "2 STANDARD\n70 0\n40 0.0\n41 1.0\n50 0.0\n71 0\n42 2.5\n3 txt\n4 \n" + end;
-    text += table("APPID", 5) + head("APPID", 0x13, 5) + marker("AcDbRegAppTableRecord") + "2 ACAD\n70 0\n" + end;
-    if (isOld)
-        return text;
-    text += table("BLOCK_RECORD", 1) + head("BLOCK_RECORD", 0x1F, 1) + marker("AcDbBlockTableRecord") +
-            "2 *Model_Space\n" + head("BLOCK_RECORD", 0x1B, 1) + marker("AcDbBlockTableRecord") + "2 *Paper_Space\n" +
-            end;
-    return text;
-}
-
-QByteArray layoutBlocks(bool isOld)
-{
-    if (isOld)
-        return {};
-    QByteArray text;
-    int handle = 0x20;
-    for (const auto &[name, owner] : {std::pair{"*Model_Space", "1F"}, std::pair{"*Paper_Space", "1B"}}) {
-        text += "0 BLOCK\n5 " + QByteArray::number(handle, 16) + "\n330 " + owner +
-                "\n100 AcDbEntity\n8 0\n100 AcDbBlockBegin\n2 " + name + "\n70 0\n10 0.0\n20 0.0\n30 0.0\n3 " + name +
-                "\n1\n0 ENDBLK\n5 " + QByteArray::number(handle + 1, 16) + "\n330 " + owner +
-                "\n100 AcDbEntity\n8 0\n100 AcDbBlockEnd\n";
-        handle += 2;
-    }
-    return text;
-}
-
-} // namespace
-
 QByteArray tagLines(const QByteArray &pairs, const QByteArray &lineEnd)
 {
     QByteArray text;
@@ -76,18 +24,15 @@ QByteArray tagLines(const QByteArray &pairs, const QByteArray &lineEnd)
 
 QByteArray sampleText(const QByteArray &version, const QByteArray &entities, const QByteArray &blocks)
 {
-    const bool isOld = version < "AC1012";
-    QByteArray pairs = "0 SECTION\n2 HEADER\n9 $ACADVER\n1 " + version;
-    if (version < "AC1021")
-        pairs += "\n9 $DWGCODEPAGE\n3 ANSI_1250";
-    pairs += isOld ? "\n9 $HANDLING\n70 1" : "";
-    pairs += "\n9 $HANDSEED\n5 100\n9 $INSBASE\n10 0.0\n20 0.0\n30 0.0\n0 ENDSEC\n0 SECTION\n2 TABLES\n";
-    pairs += tables(isOld) + "0 ENDSEC\n0 SECTION\n2 BLOCKS\n" + layoutBlocks(isOld) + blocks;
-    pairs += "\n0 ENDSEC\n0 SECTION\n2 ENTITIES\n" + entities + "\n0 ENDSEC\n";
-    if (!isOld)
-        pairs += "0 SECTION\n2 OBJECTS\n0 DICTIONARY\n5 C\n330 0\n100 AcDbDictionary\n281 1\n3 ACAD_GROUP\n350 D\n"
-                 "0 DICTIONARY\n5 D\n330 C\n100 AcDbDictionary\n281 1\n0 ENDSEC\n";
-    return tagLines(pairs + "0 EOF\n");
+    static const QByteArray lines = contents(dataFile(u"sample.tags"_s));
+    const QByteArray kinds = QByteArray(version < "AC1012" ? " -" : " +") + (version < "AC1021" ? "p" : "");
+    QByteArray pairs;
+    for (const QByteArray &line : lines.split('\n')) {
+        if (!line.isEmpty() && kinds.contains(line.front()))
+            pairs += line.sliced(1) + '\n';
+    }
+    pairs.replace("VERSION", version).replace("BLOCKS HERE", blocks).replace("ENTITIES HERE", entities);
+    return tagLines(pairs);
 }
 
 namespace {
@@ -152,30 +97,36 @@ QString dataFile(const QString &name)
     return qEnvironmentVariable("ORTAKIT_SOURCE") + u"/tests/drawing/data/"_s + name;
 }
 
+bool forEachCorpusDrawing(const std::function<void(const Drawing &)> &check)
+{
+    const QString folder = qEnvironmentVariable("ORTAKIT_CORPUS");
+    for (const QFileInfo &file : QDir(folder).entryInfoList({u"*.dxf"_s})) {
+        SCOPED_TRACE(file.fileName().toStdString());
+        if (const ReadResult source = folder.isEmpty() ? ReadResult() : Drawing::open(file.filePath()))
+            check(*source.drawing);
+    }
+    return !folder.isEmpty();
+}
+
 QString auditOf(const Drawing &drawing, bool &isThere)
 {
-    static const QString python = u"/usr/bin/python3"_s;
-    static const QString program = u"import sys\n"
-                                   "try:\n"
-                                   "    import ezdxf\n"
-                                   "except ImportError:\n"
-                                   "    sys.exit(77)\n"
-                                   "drawing = ezdxf.readfile(sys.argv[1])\n"
-                                   "audit = drawing.audit()\n"
-                                   "for entry in list(audit.errors) + list(audit.fixes):\n"
-                                   // It objects so to the end of attributes in any R12 block, its own files' too.
-                                   "    if drawing.dxfversion == 'AC1009' and 'Deleted SEQEND' in entry.message:\n"
-                                   "        continue\n"
-                                   "    print(entry.message)\n"_s;
+    // Started once; it ends when its input does.
+    static const std::unique_ptr<QProcess, void (*)(QProcess *)> audit(new QProcess, [](QProcess *process) {
+        process->closeWriteChannel();
+        process->waitForFinished();
+        delete process;
+    });
+    if (audit->program().isEmpty())
+        audit->start(qEnvironmentVariable("ORTAKIT_SOURCE") + u"/scripts/audit"_s, {u"--fixes"_s, u"--serve"_s});
     const QTemporaryDir folder;
-    const QString path = folder.filePath(u"audited.dxf"_s);
-    write(path, drawing.toBytes());
-    QProcess process;
-    process.start(python, {u"-c"_s, program, path});
-    isThere = process.waitForStarted() && process.waitForFinished(60000) && process.exitCode() != 77;
-    if (!isThere)
-        return u"no Python with ezdxf"_s;
-    return QString::fromUtf8(process.readAllStandardOutput() + process.readAllStandardError()).trimmed();
+    write(folder.filePath(u"audited.dxf"_s), drawing.toBytes());
+    audit->write(folder.filePath(u"audited.dxf\n"_s).toUtf8());
+    QByteArray answer;
+    while (!answer.endsWith('\n') && audit->waitForReadyRead(60000))
+        answer += audit->readAllStandardOutput();
+    const QByteArray trouble = audit->readAllStandardError();
+    isThere = !answer.isEmpty() || !trouble.contains("No module named");
+    return answer == "ok\n" ? QString() : QString::fromUtf8(answer + trouble).trimmed();
 }
 
 } // namespace host::drawing

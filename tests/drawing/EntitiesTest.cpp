@@ -11,10 +11,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const FieldList line = fieldsOf("0 LINE|10 0,0,0|11 1,0,0");
+const FieldList plainLine = fieldsOf("0 LINE|10 0,0,0|11 1,0,0");
 
 /// The record's tags without handle and owner, as "0 LINE|8 0".
-QByteArray shape(const Drawing &drawing, RecordId id)
+QByteArray writtenForm(const Drawing &drawing, RecordId id)
 {
     QByteArray text;
     for (const Tag &tag : drawing.tags(id)) {
@@ -26,13 +26,7 @@ QByteArray shape(const Drawing &drawing, RecordId id)
 
 TEST(Entities, AreMadeAsTheVersionHasThem)
 {
-    const struct
-    {
-        const char *name;
-        const char *version;
-        const char *fields;
-        QByteArray shape;
-    } rows[] = {
+    const std::tuple<const char *, const char *, const char *, QByteArray> rows[] = {
         {"line, old", "AC1009", "0 LINE|10 0,0,0|11 1,0,0", "0 LINE|8 0|10 0.0|20 0.0|30 0.0|11 1.0|21 0.0|31 0.0"},
         {"line", "AC1015", "0 LINE|10 0,0,0|11 1,0,0",
          "0 LINE|100 AcDbEntity|8 0|100 AcDbLine|10 0.0|20 0.0|30 0.0|11 1.0|21 0.0|31 0.0"},
@@ -58,14 +52,14 @@ TEST(Entities, AreMadeAsTheVersionHasThem)
          "0 THING|100 AcDbEntity|8 0|100 Thing|90 1"},
         {"lower-case type", "AC1009", "0 point|10 0,0,0", "0 POINT|8 0|10 0.0|20 0.0|30 0.0"},
     };
-    for (const auto &row : rows) {
-        SCOPED_TRACE(row.name);
-        const auto drawing = sample(row.version);
-        const CreateResult result = drawing->entities().create(fieldsOf(row.fields));
+    for (const auto &[name, version, fields, shape] : rows) {
+        SCOPED_TRACE(name);
+        const auto drawing = sample(version);
+        const CreateResult result = drawing->entities().create(fieldsOf(fields));
         ASSERT_TRUE(result) << result.error.toStdString();
-        EXPECT_EQ(shape(*drawing, result.record), row.shape);
+        EXPECT_EQ(writtenForm(*drawing, result.record), shape);
         EXPECT_EQ(drawing->handle(result.record), Handle{0x100});
-        EXPECT_EQ(drawing->owner(result.record), (row.version == QByteArray("AC1009") ? Handle{} : Handle{0x1F}));
+        EXPECT_EQ(drawing->owner(result.record), (version == QByteArray("AC1009") ? Handle{} : Handle{0x1F}));
         EXPECT_EQ(drawing->header().get(u"$HANDSEED")->handle(), Handle{0x101});
         EXPECT_EQ(drawing->entities().all(), std::vector{result.record});
     }
@@ -73,32 +67,25 @@ TEST(Entities, AreMadeAsTheVersionHasThem)
 
 TEST(Entities, SayWhatIsMissing)
 {
-    const auto old = sample("AC1009");
-    const auto newer = sample("AC1015");
-    const struct
-    {
-        Drawing &drawing;
-        FieldList fields;
-        const char *error;
-    } rows[] = {
-        {*newer, fieldsOf("8 0"), "group 0 (the type) is missing"},
-        {*newer, fieldsOf("0 LINE|10 0,0,0"), "LINE: group 11 is missing"},
-        {*newer, fieldsOf("0 LINE|10 0,0,0|11 5"), "LINE: group 11 is not a point"},
-        {*newer, {{0, u"CIRCLE"_s}, {10, Vec3{}}, {40, u"big"_s}}, "CIRCLE: group 40 is not a number"},
-        {*newer, {{0, u"POINT"_s}, {10, Vec3{}}, {8, qint64(5)}}, "POINT: group 8 is not a text"},
-        {*newer, {{0, u"POINT"_s}, {10, Vec3{}}, {62, u"red"_s}}, "POINT: group 62 is not a number"},
-        {*newer, fieldsOf("0 POINT|10 0,0,0|6 WAVES"), "POINT: linetype WAVES is not in the drawing"},
-        {*newer, fieldsOf("0 TEXT|10 0,0,0|40 1|1 a|7 FANCY"), "TEXT: text style FANCY is not in the drawing"},
-        {*newer, fieldsOf("0 INSERT|2 NONE|10 0,0,0"), "INSERT: block NONE is not in the drawing"},
-        {*newer, fieldsOf("0 THING|8 0"),
+    const std::tuple<const char *, FieldList, const char *> rows[] = {
+        {"AC1015", fieldsOf("8 0"), "group 0 (the type) is missing"},
+        {"AC1015", fieldsOf("0 LINE|10 0,0,0"), "LINE: group 11 is missing"},
+        {"AC1015", fieldsOf("0 LINE|10 0,0,0|11 5"), "LINE: group 11 is not a point"},
+        {"AC1015", {{0, u"CIRCLE"_s}, {10, Vec3{}}, {40, u"big"_s}}, "CIRCLE: group 40 is not a number"},
+        {"AC1015", {{0, u"POINT"_s}, {10, Vec3{}}, {8, qint64(5)}}, "POINT: group 8 is not a text"},
+        {"AC1015", {{0, u"POINT"_s}, {10, Vec3{}}, {62, u"red"_s}}, "POINT: group 62 is not a number"},
+        {"AC1015", fieldsOf("0 POINT|10 0,0,0|6 WAVES"), "POINT: linetype WAVES is not in the drawing"},
+        {"AC1015", fieldsOf("0 TEXT|10 0,0,0|40 1|1 a|7 FANCY"), "TEXT: text style FANCY is not in the drawing"},
+        {"AC1015", fieldsOf("0 INSERT|2 NONE|10 0,0,0"), "INSERT: block NONE is not in the drawing"},
+        {"AC1015", fieldsOf("0 THING|8 0"),
          "THING: this type is not known, and its subclass markers (group 100) are missing"},
-        {*old, fieldsOf("0 MTEXT|10 0,0,0|1 a"), "MTEXT: a drawing of this version has no such entity"},
-        {*newer, fieldsOf("0 POLYLINE|8 0"), "POLYLINE: its vertices are missing"},
+        {"AC1009", fieldsOf("0 MTEXT|10 0,0,0|1 a"), "MTEXT: a drawing of this version has no such entity"},
+        {"AC1015", fieldsOf("0 POLYLINE|8 0"), "POLYLINE: its vertices are missing"},
     };
-    for (const auto &row : rows) {
-        const QByteArray before = row.drawing.toBytes();
-        EXPECT_EQ(row.drawing.entities().create(row.fields).error, QLatin1String(row.error));
-        EXPECT_EQ(row.drawing.toBytes(), before) << row.error;
+    for (const auto &[version, fields, error] : rows) {
+        const auto drawing = sample(version);
+        EXPECT_EQ(drawing->entities().create(fields).error, QLatin1String(error));
+        EXPECT_EQ(drawing->toBytes(), sampleText(version)) << error;
     }
 }
 
@@ -128,45 +115,39 @@ TEST(Entities, ComplexOnesStandTogether)
     const auto drawing = sample("AC1015");
     EXPECT_EQ(drawing->entities().createComplex(fieldsOf("0 POLYLINE"), {fieldsOf("0 LINE")}).error,
               u"POLYLINE: VERTEX expected, found LINE"_s);
-    EXPECT_EQ(drawing->entities().createComplex(line, {fieldsOf("10 0,0,0")}).error,
+    EXPECT_EQ(drawing->entities().createComplex(plainLine, {fieldsOf("10 0,0,0")}).error,
               u"LINE: an entity of this type has no parts"_s);
 }
 
 TEST(Entities, HandlesFollowTheSeed)
 {
-    const struct
-    {
-        const char *name;
-        QByteArray seed;
-        QByteArray handling;
-        Handle handle;
-    } rows[] = {
+    const std::tuple<const char *, QByteArray, QByteArray, Handle> rows[] = {
         {"as it says", "100", "1", {0x100}},
         {"behind the last one used", "20", "1", {0x51}},
         {"at the end of the range", "FFFFFFFFFFFFFFFF", "1", {0x51}},
         {"no number", "xyz", "1", {0x51}},
         {"no handles", "100", "0", {}},
     };
-    for (const auto &row : rows) {
-        SCOPED_TRACE(row.name);
+    for (const auto &[name, seed, handling, handle] : rows) {
+        SCOPED_TRACE(name);
         const QByteArray text = sampleText("AC1009", "0 POINT\n5 50\n8 0\n10 0\n20 0");
         const auto drawing = readGood(QByteArray(text)
-                                          .replace("$HANDSEED\n  5\n100", "$HANDSEED\n  5\n" + row.seed)
-                                          .replace("$HANDLING\n 70\n1", "$HANDLING\n 70\n" + row.handling));
-        const CreateResult result = drawing->entities().create(line);
+                                          .replace("$HANDSEED\n  5\n100", "$HANDSEED\n  5\n" + seed)
+                                          .replace("$HANDLING\n 70\n1", "$HANDLING\n 70\n" + handling));
+        const CreateResult result = drawing->entities().create(plainLine);
         ASSERT_TRUE(result);
-        EXPECT_EQ(drawing->handle(result.record), row.handle);
-        EXPECT_EQ(drawing->find(row.handle), row.handle.isNull() ? noRecord : result.record);
+        EXPECT_EQ(drawing->handle(result.record), handle);
+        EXPECT_EQ(drawing->find(handle), handle.isNull() ? noRecord : result.record);
     }
 }
 
 TEST(Entities, GoIntoSpacesAndBlocks)
 {
     const auto drawing = sample("AC1015");
-    const RecordId inModel = drawing->entities().create(line).record;
-    const RecordId inPaper = drawing->entities().create(line, Space::Paper).record;
+    const RecordId inModel = drawing->entities().create(plainLine).record;
+    const RecordId inPaper = drawing->entities().create(plainLine, Space::Paper).record;
     const RecordId block = drawing->blocks().create(u"B"_s, {1, 2, 3});
-    const RecordId inBlock = drawing->entities().createInBlock(block, line).record;
+    const RecordId inBlock = drawing->entities().createInBlock(block, plainLine).record;
     const RecordId attribute =
         drawing->entities().createInBlock(block, fieldsOf("0 ATTDEF|10 0,0,0|40 1.0|1 |2 T|3 P")).record;
     EXPECT_EQ(drawing->entities().inSpace(Space::Model), std::vector{inModel});
@@ -175,7 +156,7 @@ TEST(Entities, GoIntoSpacesAndBlocks)
     EXPECT_EQ(drawing->children(block), (std::vector{inBlock, attribute}));
     EXPECT_EQ(drawing->owner(inBlock), drawing->handle(drawing->blocks().read(block).tableEntry));
     EXPECT_TRUE(drawing->blocks().read(block).hasAttributes());
-    EXPECT_EQ(drawing->entities().createInBlock(inModel, line).error, u"there is no such block"_s);
+    EXPECT_EQ(drawing->entities().createInBlock(inModel, plainLine).error, u"there is no such block"_s);
 }
 
 TEST(Entities, AreModifiedAsLispHandsThemBack)

@@ -9,7 +9,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr double pi = std::numbers::pi;
+using std::numbers::pi;
 
 void expectNear(const Vec3 &a, const Vec3 &b, double tolerance = 1e-9)
 {
@@ -28,19 +28,14 @@ TEST(Matrix, ComposesAndInverts)
 
 TEST(Matrix, FollowsTheArbitraryAxisRule)
 {
-    const struct
-    {
-        Vec3 extrusion;
-        Vec3 xAxis;
-        Vec3 yAxis;
-    } rows[] = {
+    const std::tuple<Vec3, Vec3, Vec3> rows[] = {
         {{0, 0, 1}, {1, 0, 0}, {0, 1, 0}},  {{0, 0, 0}, {1, 0, 0}, {0, 1, 0}}, {{0, 0, -5}, {-1, 0, 0}, {0, 1, 0}},
         {{0, 1, 0}, {-1, 0, 0}, {0, 0, 1}}, {{1, 0, 0}, {0, 1, 0}, {0, 0, 1}},
     };
-    for (const auto &row : rows) {
-        const Matrix matrix = Matrix::fromExtrusion(row.extrusion);
-        expectNear(matrix.xAxis, row.xAxis);
-        expectNear(matrix.yAxis, row.yAxis);
+    for (const auto &[extrusion, xAxis, yAxis] : rows) {
+        const Matrix matrix = Matrix::fromExtrusion(extrusion);
+        expectNear(matrix.xAxis, xAxis);
+        expectNear(matrix.yAxis, yAxis);
     }
 }
 
@@ -91,82 +86,27 @@ TEST(Curves, SplinesRunThroughTheirShape)
     EXPECT_TRUE(splinePath(bad).empty());
 }
 
+/// The cases of data/boxes.tags, where their form is told.
 TEST(Geometry, BoxesOfEntities)
 {
-    const struct
-    {
-        const char *name;
-        QByteArray entity;
-        const char *box; ///< its lowest and its highest corner
-    } rows[] = {
-        {"line", "0 LINE\n10 1\n20 5\n30 0\n11 4\n21 2\n31 7", "1,2,0 4,5,7"},
-        {"circle", "0 CIRCLE\n10 5\n20 5\n30 0\n40 2", "3,3,0 7,7,0"},
-        {"mirrored circle", "0 CIRCLE\n10 5\n20 5\n30 0\n40 2\n210 0\n220 0\n230 -1", "-7,3,0 -3,7,0"},
-        {"arc over zero", "0 ARC\n10 0\n20 0\n30 0\n40 2\n50 270\n51 90", "0,-2,0 2,2,0"},
-        {"ellipse", "0 ELLIPSE\n10 0\n20 0\n30 0\n11 0\n21 4\n31 0\n40 0.5\n41 0\n42 6.283185307", "-2,-4,0 2,4,0"},
-        {"light polyline with arc", "0 LWPOLYLINE\n90 2\n70 0\n38 3\n10 0\n20 0\n42 -1\n10 2\n20 0", "0,0,3 2,1,3"},
-        {"wide polyline", "0 LWPOLYLINE\n90 2\n70 0\n43 2\n10 0\n20 0\n10 10\n20 0", "0,-1,0 10,1,0"},
-        {"closed polyline", "0 POLYLINE\n70 1\n0 VERTEX\n10 0\n20 0\n30 0\n0 VERTEX\n10 2\n20 0\n30 0\n42 1\n0 SEQEND",
-         "0,0,0 2,1,0"},
-        {"polyline in space", "0 POLYLINE\n70 8\n0 VERTEX\n10 0\n20 0\n30 5\n0 VERTEX\n10 2\n20 3\n30 9\n0 SEQEND",
-         "0,0,5 2,3,9"},
-        {"spline frame left out",
-         "0 POLYLINE\n70 4\n0 VERTEX\n70 16\n10 99\n20 0\n30 0\n0 VERTEX\n70 8\n10 1\n20 1\n30 0\n0 VERTEX\n70 8\n10 "
-         "2\n20 2\n30 0\n0 SEQEND",
-         "1,1,0 2,2,0"},
-        {"solid", "0 SOLID\n10 0\n20 0\n11 4\n21 0\n12 0\n22 3\n13 4\n23 3", "0,0,0 4,3,0"},
-        {"insert", "0 INSERT\n2 UNIT\n10 10\n20 10\n30 0\n41 2\n42 3\n50 90", "7,10,0 10,12,0"},
-        {"array of inserts", "0 INSERT\n2 UNIT\n10 0\n20 0\n30 0\n70 3\n71 2\n44 10\n45 5", "0,0,0 21,6,0"},
-        {"nested", "0 INSERT\n2 OUTER\n10 100\n20 0\n30 0", "102,0,0 104,2,0"},
-        {"mirrored insert", "0 INSERT\n2 UNIT\n10 5\n20 0\n30 0\n41 -1", "4,0,0 5,1,0"},
-        {"dimension", "0 DIMENSION\n2 UNIT2\n10 50\n20 50\n30 0", "0,0,0 1,1,0"},
-        {"hatch",
-         "0 HATCH\n10 0\n20 0\n30 0\n210 0\n220 0\n230 1\n2 SOLID\n70 1\n71 0\n91 1\n92 1\n93 2\n72 1\n10 0\n20 0\n11 "
-         "4\n21 0\n72 2\n10 2\n20 0\n40 2\n50 0\n51 180\n73 1\n97 0",
-         "0,0,0 4,2,0"},
-        {"clipped image", "0 IMAGE\n10 0\n20 0\n30 0\n11 0.5\n21 0\n31 0\n12 0\n22 0.5\n32 0\n13 20\n23 10\n280 0",
-         "0,0,0 10,5,0"},
-    };
-    const QByteArray blocks =
-        "0 BLOCK\n8 0\n2 UNIT\n70 0\n10 1\n20 1\n30 0\n0 SOLID\n10 1\n20 1\n11 2\n21 1\n12 1\n22 2\n13 2\n23 2\n0 "
-        "ATTDEF\n10 900\n20 0\n40 1\n1 x\n0 ENDBLK\n"
-        "0 BLOCK\n8 0\n2 UNIT2\n70 0\n10 0\n20 0\n30 0\n0 LINE\n10 0\n20 0\n30 0\n11 1\n21 1\n31 0\n0 ENDBLK\n"
-        "0 BLOCK\n8 0\n2 OUTER\n70 0\n10 0\n20 0\n30 0\n0 INSERT\n2 UNIT\n10 2\n20 0\n30 0\n41 2\n42 2\n0 ENDBLK\n";
-    for (const auto &row : rows) {
-        SCOPED_TRACE(row.name);
-        const auto drawing = sample("AC1009", row.entity, blocks);
-        const Box box = entityBox(*drawing, drawing->entities().all().front());
-        const QList<QByteArray> corners = QByteArray(row.box).split(' ');
-        expectNear(box.low, fieldsOf("10 " + corners[0])[0].point(), 0.01);
-        expectNear(box.high, fieldsOf("10 " + corners[1])[0].point(), 0.01);
-    }
-}
-
-TEST(Geometry, TextsHaveBoxesWhereTheyStand)
-{
-    const struct
-    {
-        const char *name;
-        QByteArray entity;
-        Vec2 inside;
-        Vec2 outside;
-    } rows[] = {
-        {"left", "0 TEXT\n10 0\n20 0\n40 2\n1 abcd", {1, 1}, {-1, 1}},
-        {"right", "0 TEXT\n10 0\n20 0\n40 2\n1 abcd\n72 2\n11 10\n21 0", {9, 1}, {11, 1}},
-        {"middle", "0 TEXT\n10 0\n20 0\n40 2\n1 abcd\n72 4\n11 10\n21 10", {10, 10}, {10, 12}},
-        {"turned", "0 TEXT\n10 0\n20 0\n40 2\n1 abcd\n50 90", {-1, 1}, {1, 1}},
-        {"fit", "0 TEXT\n10 0\n20 0\n40 1\n1 a\n72 5\n11 20\n21 0", {19, 0.5}, {21, 0.5}},
-        {"paragraph, top left", "0 MTEXT\n10 0\n20 0\n40 2\n71 1\n1 ab\\Pcd", {1, -4}, {1, 1}},
-        {"paragraph, bottom right", "0 MTEXT\n10 0\n20 0\n40 2\n71 9\n1 abcd", {-1, 1}, {1, 1}},
-        {"paragraph without its codes", "0 MTEXT\n10 0\n20 0\n40 1\n71 1\n1 {\\fArial|b0;a}", {0.5, -0.5}, {3, -0.5}},
-    };
-    for (const auto &row : rows) {
-        SCOPED_TRACE(row.name);
-        const auto drawing = sample("AC1015", row.entity);
+    QList<QByteArray> cases = contents(dataFile(u"boxes.tags"_s)).replace("\n|", "|").replace("\n\n", "@").split('@');
+    const auto tagsOf = [](const QByteArray &text) { return text.mid(text.indexOf("\n0 ")).replace('|', '\n'); };
+    const QByteArray blocks = tagsOf(cases.takeAt(1));
+    for (const QByteArray &text : cases.mid(1)) {
+        SCOPED_TRACE(text.toStdString());
+        const QByteArray looks = text.trimmed().mid(text.trimmed().lastIndexOf('\n') + 1);
+        const QList<QByteArray> points = looks.split(' ');
+        const auto point = [&points](qsizetype i) { return fieldsOf("10 " + points[i])[0].point(); };
+        const auto drawing = sample("AC1015", tagsOf(text.first(text.indexOf(looks))), blocks);
         const Outline outline = entityOutline(*drawing, drawing->entities().all().front());
-        EXPECT_TRUE(outline.isApproximate);
-        EXPECT_EQ(flatDistance(outline, row.inside), 0.0);
-        EXPECT_GT(flatDistance(outline, row.outside), 0.0);
+        EXPECT_EQ(outline.isApproximate, points[0] == "within");
+        if (points[0] == "box") {
+            expectNear(outlineBox(outline).low, point(1), 0.01);
+            expectNear(outlineBox(outline).high, point(2), 0.01);
+        } else {
+            EXPECT_EQ(flatDistance(outline, point(1).xy()), 0.0);
+            EXPECT_GT(flatDistance(outline, point(3).xy()), 0.0);
+        }
     }
 }
 
@@ -223,12 +163,7 @@ TEST(Geometry, HostileDrawingsEnd)
         bomb += "0 BLOCK\n8 0\n2 B" + QByteArray::number(i) + "\n10 0\n20 0\n0 INSERT\n2 B" + next + "\n0 INSERT\n2 B" +
                 next + "\n0 ENDBLK\n";
     }
-    const struct
-    {
-        const char *name;
-        QByteArray entity;
-        QByteArray blocks;
-    } rows[] = {
+    const std::tuple<const char *, QByteArray, QByteArray> rows[] = {
         {"block in itself", "0 INSERT\n2 A", "0 BLOCK\n2 A\n10 0\n20 0\n0 INSERT\n2 A\n0 INSERT\n2 A\n0 ENDBLK\n"},
         {"doubling blocks", "0 INSERT\n2 B0", bomb},
         {"array without end", "0 INSERT\n2 A\n70 2000000000\n71 2000000000", "0 BLOCK\n2 A\n10 0\n20 0\n0 ENDBLK\n"},
@@ -237,9 +172,9 @@ TEST(Geometry, HostileDrawingsEnd)
         {"circle of no size", "0 CIRCLE\n10 1e300\n20 1e300\n40 1e308", {}},
         {"nothing given", "0 SPLINE\n0 ELLIPSE\n0 ARC\n0 LWPOLYLINE\n0 IMAGE\n0 MTEXT\n0 LEADER\n0 MLINE\n0 HATCH", {}},
     };
-    for (const auto &row : rows) {
-        SCOPED_TRACE(row.name);
-        const auto drawing = sample("AC1009", row.entity, row.blocks);
+    for (const auto &[name, entity, blocks] : rows) {
+        SCOPED_TRACE(name);
+        const auto drawing = sample("AC1009", entity, blocks);
         for (const RecordId id : drawing->entities().all())
             entityBox(*drawing, id);
     }

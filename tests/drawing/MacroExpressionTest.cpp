@@ -4,7 +4,8 @@
 
 #include <gtest/gtest.h>
 
-using namespace host::drawing;
+namespace host::drawing {
+
 using namespace Qt::StringLiterals;
 
 namespace {
@@ -24,18 +25,14 @@ std::optional<QString> sampleVariable(const QString &name)
     return found == variables.constEnd() ? std::nullopt : std::optional(*found);
 }
 
-QString valueOf(const QString &text)
+QString macroValue(const QString &text)
 {
     return evaluateMacro(text, {.variable = sampleVariable});
 }
 
 TEST(MacroExpression, values)
 {
-    const struct
-    {
-        const char *text;
-        const char *value;
-    } rows[] = {
+    const std::pair<const char *, const char *> rows[] = {
         {"no call: a,b) (c \"d\" $ 5", "no call: a,b) (c \"d\" $ 5"},
         {"", ""},
         {"Layer $(getvar,clayer)!", "Layer WALLS, \"outer\"!"},
@@ -103,8 +100,8 @@ TEST(MacroExpression, values)
         {"a$(+,1,\"2)", "a$?"},
         {"a$(eval,\"b$(\")c", "ab$?"},
     };
-    for (const auto &row : rows)
-        EXPECT_EQ(valueOf(QString::fromUtf8(row.text)).toStdString(), row.value) << row.text;
+    for (const auto &[text, value] : rows)
+        EXPECT_EQ(macroValue(QString::fromUtf8(text)).toStdString(), value) << text;
 }
 
 TEST(MacroExpression, LengthsAndAnglesAreWrittenByTheSurroundings)
@@ -123,13 +120,7 @@ TEST(MacroExpression, HostileTextsEndSoonAndSmall)
 {
     const QString deep = QStringLiteral("$(upper,").repeated(5000);
     const QString pair = QStringLiteral("$(upper,$(getvar,users3))").repeated(2);
-    const struct
-    {
-        const char *name;
-        QString text;
-        QString begin;
-        QString end;
-    } rows[] = {
+    const std::tuple<const char *, QString, QString, QString> rows[] = {
         {"deep nesting", u'a' + deep, u"a"_s, u"$(++)"_s},
         {"deep nesting that closes", deep + QString(5000, u')'), {}, u"$(++)"_s},
         {"as deep as allowed", QStringLiteral("$(upper,").repeated(100) + u'b' + QString(100, u')'), u"B"_s, u"B"_s},
@@ -140,11 +131,11 @@ TEST(MacroExpression, HostileTextsEndSoonAndSmall)
         {"a large gap", u"$(upper,"_s + QString(5'000'000, u' ') + u"b)"_s, {}, u"$(++)"_s},
         {"many faults", QStringLiteral("$(x)").repeated(100'000), u"$(x)??$(x)??"_s, u"$(++)"_s},
     };
-    for (const auto &row : rows) {
-        const QString value = valueOf(row.text);
-        EXPECT_LE(value.size(), largestMacroText) << row.name;
-        EXPECT_TRUE(value.startsWith(row.begin)) << row.name << ": " << value.left(40).toStdString();
-        EXPECT_TRUE(value.endsWith(row.end)) << row.name << ": " << value.right(40).toStdString();
+    for (const auto &[name, text, begin, end] : rows) {
+        const QString value = macroValue(text);
+        EXPECT_LE(value.size(), largestMacroText) << name;
+        EXPECT_TRUE(value.startsWith(begin)) << name << ": " << value.left(40).toStdString();
+        EXPECT_TRUE(value.endsWith(end)) << name << ": " << value.right(40).toStdString();
     }
 }
 
@@ -166,3 +157,4 @@ TEST(MacroExpression, ADrawingAloneKnowsItsHeaderItsNameAndTheTime)
 }
 
 } // namespace
+} // namespace host::drawing

@@ -9,8 +9,6 @@
 
 #include <csignal>
 #include <sys/resource.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
 namespace host::drawing {
 
@@ -59,20 +57,6 @@ TEST_F(SaveTest, CopiesLeaveTheDrawingAlone)
     EXPECT_TRUE(Drawing::open(path(u"symbol.dwg"_s)));
 }
 
-TEST_F(SaveTest, KeepsLinksAndPermissions)
-{
-    write(path(u"real.dxf"_s), "old");
-    ASSERT_TRUE(QFile::link(path(u"real.dxf"_s), path(u"link.dxf"_s)));
-    ASSERT_EQ(chmod(QFile::encodeName(path(u"real.dxf"_s)).constData(), 0640), 0);
-    const auto drawing = changed();
-    EXPECT_TRUE(save(*drawing, path(u"link.dxf"_s)));
-    EXPECT_TRUE(QFileInfo(path(u"link.dxf"_s)).isSymLink());
-    EXPECT_EQ(contents(path(u"real.dxf"_s)), drawing->toBytes());
-    struct stat status;
-    ASSERT_EQ(stat(QFile::encodeName(path(u"real.dxf"_s)).constData(), &status), 0);
-    EXPECT_EQ(status.st_mode & 0777, 0640U);
-}
-
 TEST_F(SaveTest, RefusesTheOtherFormat)
 {
     for (const QString &name : {u"a.dwg"_s, u"a.DWG"_s, u"a.Dwg "_s}) {
@@ -117,45 +101,6 @@ TEST_F(SaveTest, WhatWouldNotOpenTheSameAgainIsNotSaved)
         EXPECT_EQ(contents(path(u"a.dxf"_s)), "old") << fields;
         EXPECT_EQ(files(), QStringList{u"a.dxf"_s}) << fields;
     }
-}
-
-/// The superuser may write everywhere: for its life such a process is an ordinary user.
-class SomebodyElse
-{
-public:
-    SomebodyElse() { m_isOther = geteuid() == 0 && setresuid(65534, 65534, 0) == 0; }
-    ~SomebodyElse()
-    {
-        if (m_isOther && setresuid(0, 0, 0) != 0)
-            ADD_FAILURE() << "cannot become the superuser again";
-    }
-    SomebodyElse(const SomebodyElse &) = delete;
-    SomebodyElse &operator=(const SomebodyElse &) = delete;
-
-private:
-    bool m_isOther = false;
-};
-
-TEST_F(SaveTest, WithoutPermissionTheOldFileStays)
-{
-    write(path(u"a.dxf"_s), "old");
-    chmod(QFile::encodeName(path(u"a.dxf"_s)).constData(), 0444);
-    chmod(QFile::encodeName(m_folder.path()).constData(), 0777);
-    const SomebodyElse nobody;
-    expectFailure(path(u"a.dxf"_s), u"Permission denied"_s);
-    EXPECT_EQ(files(), QStringList{u"a.dxf"_s});
-    EXPECT_EQ(contents(path(u"a.dxf"_s)), "old");
-}
-
-TEST_F(SaveTest, AFolderThatTakesNoFilesIsTold)
-{
-    chmod(QFile::encodeName(m_folder.path()).constData(), 0555);
-    {
-        const SomebodyElse nobody;
-        expectFailure(path(u"a.dxf"_s), u"Permission denied"_s);
-    }
-    chmod(QFile::encodeName(m_folder.path()).constData(), 0755);
-    EXPECT_TRUE(files().isEmpty());
 }
 
 /// A disk that is full half-way, by way of the limit on a file's size.

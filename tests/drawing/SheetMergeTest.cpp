@@ -9,7 +9,6 @@
 #include "host/drawing/records/Tables.h"
 #include "tests/drawing/DrawingSample.h"
 
-#include <QDir>
 #include <QMap>
 
 namespace host::drawing {
@@ -88,25 +87,20 @@ TEST(SheetMerge, ViewportsLookWhereTheModelWentAndKeepTheirEdge)
 TEST(SheetMerge, WhatDiffersIsKeptOrNamedAnew)
 {
     const auto source = withSheet("0.2", "3");
-    const struct
-    {
-        NameClash clash;
-        QString block;
-        QString layer;
-        QString nested;
-    } rows[] = {{NameClash::Keep, u"DOOR"_s, u"WALLS"_s, u"KNOB"_s},
-                {NameClash::Prefix, u"site$DOOR"_s, u"site$WALLS"_s, u"site$KNOB"_s}};
-    for (const auto &row : rows) {
+    const std::tuple<NameClash, QString, QString, QString> rows[] = {
+        {NameClash::Keep, u"DOOR"_s, u"WALLS"_s, u"KNOB"_s},
+        {NameClash::Prefix, u"site$DOOR"_s, u"site$WALLS"_s, u"site$KNOB"_s}};
+    for (const auto &[clash, block, layer, nested] : rows) {
         const auto target = withSheet("0.1", "1");
         const MergeResult result =
-            mergeSheets(*source, {{u"Layout1"_s, u"Plan"_s}}, *target, {.clash = row.clash, .prefix = u"site$"_s});
+            mergeSheets(*source, {{u"Layout1"_s, u"Plan"_s}}, *target, {.clash = clash, .prefix = u"site$"_s});
         ASSERT_TRUE(result);
         const RecordId door = target->entities().inSpace(Space::Model).back();
-        EXPECT_EQ(target->tags(door).text(2), row.block);
-        EXPECT_EQ(target->tags(door).text(8), row.layer);
-        const std::vector<RecordId> parts = target->children(target->blocks().find(row.block));
-        EXPECT_EQ(target->tags(parts[0]).text(2), row.nested);
-        EXPECT_EQ(target->tags(parts[1]).text(8), row.layer);
+        EXPECT_EQ(target->tags(door).text(2), block);
+        EXPECT_EQ(target->tags(door).text(8), layer);
+        const std::vector<RecordId> parts = target->children(target->blocks().find(block));
+        EXPECT_EQ(target->tags(parts[0]).text(2), nested);
+        EXPECT_EQ(target->tags(parts[1]).text(8), layer);
         QStringList clashes;
         for (const KeptName &name : result.clashes)
             clashes.append(name.name);
@@ -119,22 +113,17 @@ TEST(SheetMerge, WhatDiffersIsKeptOrNamedAnew)
 TEST(SheetMerge, RefusesWhatHasNoPlace)
 {
     const auto source = withSheet("0.1", "1");
-    const struct
-    {
-        QByteArray version;
-        MergedSheet sheet;
-        QString error;
-    } rows[] = {
+    const std::tuple<QByteArray, MergedSheet, QString> rows[] = {
         {"AC1009", {u"Layout1"_s, u"Plan"_s}, u"a drawing of this version has one sheet only"_s},
         {"AC1032", {u"Nowhere"_s, u"Plan"_s}, u"there is no sheet \"Nowhere\""_s},
         {"AC1032", {u"layout1"_s, u"model"_s}, u"there is a sheet \"model\" already"_s},
         {"AC1032", {u"Model"_s, u"Plan"_s}, u"there is no sheet \"Model\""_s},
         {"AC1032", {u"Layout1"_s, u"a<b>"_s}, u"\"a<b>\" cannot be the name of a sheet"_s},
     };
-    for (const auto &row : rows) {
-        const auto target = row.version == "AC1009" ? sample(row.version) : newDrawing();
+    for (const auto &[version, sheet, error] : rows) {
+        const auto target = version == "AC1009" ? sample(version) : newDrawing();
         const QByteArray before = target->toBytes();
-        EXPECT_EQ(mergeSheets(*source, {row.sheet}, *target, {}).error, row.error);
+        EXPECT_EQ(mergeSheets(*source, {sheet}, *target, {}).error, error);
         EXPECT_EQ(target->toBytes(), before);
     }
     const auto drawing = withSheet("0.1", "1");
@@ -146,28 +135,20 @@ TEST(SheetMerge, RefusesWhatHasNoPlace)
 // nowhere.
 TEST(SheetMerge, CorpusSheetsArriveWhole)
 {
-    const QString folder = qEnvironmentVariable("ORTAKIT_CORPUS");
-    if (folder.isEmpty())
-        GTEST_SKIP() << "ORTAKIT_CORPUS names no folder of drawings";
-    for (const QFileInfo &file : QDir(folder).entryInfoList({u"*.dxf"_s})) {
-        SCOPED_TRACE(file.fileName().toStdString());
-        const ReadResult source = Drawing::open(file.filePath());
-        if (!source)
-            continue;
+    SKIP_WITHOUT_CORPUS(forEachCorpusDrawing([](const Drawing &source) {
         auto target = withSheet("0.1", "1");
         std::vector<MergedSheet> sheets;
-        for (const LayoutTab &layout : layoutTabs(*source.drawing))
+        for (const LayoutTab &layout : layoutTabs(source))
             if (!layout.isModel())
                 sheets.push_back({layout.name, u"New "_s + layout.name});
-        const MergeResult result =
-            mergeSheets(*source.drawing, sheets, *target,
-                        {.clash = NameClash::Prefix, .prefix = u"x$"_s, .modelOffset = {9, 0, 0}});
+        const MergeResult result = mergeSheets(
+            source, sheets, *target, {.clash = NameClash::Prefix, .prefix = u"x$"_s, .modelOffset = {9, 0, 0}});
         ASSERT_TRUE(result) << result.error.toStdString();
         EXPECT_EQ(result.skipped, 0);
         for (const MergedSheet &sheet : sheets)
-            EXPECT_EQ(kindsOn(*target, sheet.name), kindsOn(*source.drawing, sheet.layout));
+            EXPECT_EQ(kindsOn(*target, sheet.name), kindsOn(source, sheet.layout));
         EXPECT_AUDIT_CLEAN(*target);
-    }
+    }));
 }
 
 } // namespace

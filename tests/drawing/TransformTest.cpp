@@ -13,43 +13,14 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr double pi = std::numbers::pi;
+using std::numbers::pi;
 
-/// One of each type, with everything that a map has to take along.
+/// One of each type, with everything that a map has to take along: the blocks of a file, a blank line, the entities.
 std::unique_ptr<Drawing> everything()
 {
-    const QByteArray entities =
-        "0 LINE\n8 0\n10 1\n20 2\n30 3\n11 4\n21 5\n31 6\n"
-        "0 POINT\n8 0\n10 1\n20 2\n30 3\n"
-        "0 CIRCLE\n8 0\n10 5\n20 5\n30 1\n40 2\n"
-        "0 CIRCLE\n8 0\n10 5\n20 5\n30 1\n40 2\n210 0\n220 0\n230 -1\n"
-        "0 CIRCLE\n8 0\n10 5\n20 5\n30 1\n40 2\n210 1\n220 1\n230 1\n"
-        "0 ARC\n8 0\n10 5\n20 5\n30 0\n40 2\n50 10\n51 100\n"
-        "0 ARC\n8 0\n10 5\n20 5\n30 0\n40 2\n50 300\n51 20\n210 0\n220 1\n230 0\n"
-        "0 ELLIPSE\n8 0\n10 3\n20 4\n30 0\n11 2\n21 1\n31 0\n40 0.4\n41 0.5\n42 3\n"
-        "0 SPLINE\n8 0\n70 8\n71 2\n72 6\n73 3\n40 0\n40 0\n40 0\n40 1\n40 1\n40 1\n10 0\n20 0\n30 0\n10 1\n20 3\n30 "
-        "0\n10 4\n20 0\n30 0\n"
-        "0 LWPOLYLINE\n8 0\n90 3\n70 1\n38 2\n10 0\n20 0\n42 0.5\n10 4\n20 0\n10 4\n20 3\n42 -0.3\n"
-        "0 POLYLINE\n8 0\n66 1\n70 1\n10 0\n20 0\n30 2\n0 VERTEX\n8 0\n10 0\n20 0\n30 2\n42 0.7\n0 VERTEX\n8 0\n10 "
-        "3\n20 0\n30 2\n0 SEQEND\n8 0\n"
-        "0 POLYLINE\n8 0\n66 1\n70 8\n0 VERTEX\n8 0\n70 32\n10 0\n20 0\n30 2\n0 VERTEX\n8 0\n70 32\n10 3\n20 1\n30 "
-        "7\n0 SEQEND\n8 0\n"
-        "0 SOLID\n8 0\n10 0\n20 0\n30 0\n11 2\n21 0\n31 0\n12 0\n22 1\n32 0\n13 2\n23 1\n33 0\n"
-        "0 3DFACE\n8 0\n10 0\n20 0\n30 0\n11 2\n21 0\n31 1\n12 0\n22 1\n32 0\n13 2\n23 1\n33 4\n"
-        "0 INSERT\n8 0\n2 PART\n10 3\n20 1\n30 0\n41 2\n42 2\n43 2\n50 30\n"
-        "0 INSERT\n8 0\n2 PART\n10 3\n20 1\n30 0\n41 -1\n50 200\n70 2\n71 2\n44 5\n45 6\n210 0\n220 0\n230 -1\n"
-        "0 LEADER\n8 0\n10 0\n20 0\n30 0\n10 3\n20 3\n30 0\n"
-        "0 HATCH\n8 0\n10 0\n20 0\n30 0\n210 0\n220 0\n230 1\n2 SOLID\n70 1\n71 0\n91 2\n92 3\n72 1\n73 1\n93 2\n10 "
-        "0\n20 0\n42 1\n10 4\n20 0\n42 0.2\n97 0\n"
-        "92 1\n93 3\n72 2\n10 9\n20 0\n40 2\n50 20\n51 140\n73 1\n72 2\n10 9\n20 9\n40 2\n50 20\n51 140\n73 0\n72 "
-        "3\n10 20\n20 0\n11 3\n21 1\n40 0.5\n50 0\n51 200\n73 1\n97 0\n75 0\n76 1\n98 0\n"
-        "0 DIMENSION\n8 0\n2 *D0\n70 0\n10 5\n20 5\n30 0\n11 3\n21 3\n31 0\n13 0\n23 0\n33 0\n14 5\n24 0\n34 0\n50 0\n"
-        "0 IMAGE\n8 0\n10 1\n20 1\n30 0\n11 0.1\n21 0\n31 0\n12 0\n22 0.1\n32 0\n13 20\n23 10\n";
-    const QByteArray blocks =
-        "0 BLOCK\n8 0\n2 PART\n70 0\n10 1\n20 0\n30 0\n0 ARC\n8 0\n10 2\n20 0\n30 0\n40 1\n50 0\n51 200\n0 LINE\n8 "
-        "0\n10 0\n20 0\n30 0\n11 1\n21 3\n31 1\n0 ENDBLK\n8 0\n"
-        "0 BLOCK\n8 0\n2 *D0\n70 1\n10 0\n20 0\n30 0\n0 LINE\n8 0\n10 0\n20 5\n30 0\n11 5\n21 5\n31 0\n0 ENDBLK\n8 0\n";
-    return sample("AC1018", entities, blocks);
+    const QByteArray text = contents(dataFile(u"everything.tags"_s)).replace("\n|", "|").replace('|', '\n');
+    const qsizetype blank = text.indexOf("\n\n");
+    return sample("AC1018", text.mid(blank), text.first(blank + 1));
 }
 
 /// The largest distance of a point of one outline from the other.
@@ -77,12 +48,7 @@ double deviation(const Outline &a, const Outline &b)
 /// Mapping the entity gives what mapping its picture gives.
 TEST(Transform, EntitiesLookAsTheirMappedPicture)
 {
-    const struct
-    {
-        const char *name;
-        Matrix matrix;
-        int refused; ///< how many of everything() cannot take the map
-    } rows[] = {
+    const std::tuple<const char *, Matrix, int> rows[] = {
         {"move", Matrix::translation({10, 20, 5}), 0},
         {"turn", Matrix::rotation(0.7, {3, 3, 0}), 0},
         {"scale", Matrix::scaling({2.5, 2.5, 2.5}, {1, 1, 0}), 0},
@@ -94,15 +60,15 @@ TEST(Transform, EntitiesLookAsTheirMappedPicture)
     };
     Flatness fine;
     fine.maximumAngle = 0.02;
-    for (const auto &row : rows) {
-        SCOPED_TRACE(row.name);
+    for (const auto &[name, matrix, refusals] : rows) {
+        SCOPED_TRACE(name);
         const auto drawing = everything();
         int refused = 0;
         for (const RecordId id : drawing->entities().all()) {
             SCOPED_TRACE(drawing->bytes(id).toByteArray().toStdString());
             const QByteArray before = drawing->toBytes();
-            const Outline wanted = entityOutline(*drawing, id, fine, row.matrix);
-            if (!transformEntity(*drawing, id, row.matrix)) {
+            const Outline wanted = entityOutline(*drawing, id, fine, matrix);
+            if (!transformEntity(*drawing, id, matrix)) {
                 ++refused;
                 EXPECT_EQ(drawing->toBytes(), before);
                 continue;
@@ -114,7 +80,7 @@ TEST(Transform, EntitiesLookAsTheirMappedPicture)
             EXPECT_TRUE(drawing->journal().undo());
             EXPECT_EQ(drawing->toBytes(), before);
         }
-        EXPECT_EQ(refused, row.refused);
+        EXPECT_EQ(refused, refusals) << "of everything()";
     }
 }
 
@@ -130,15 +96,11 @@ TEST(Transform, TextsStayReadable)
     for (const quint64 handle : {0x50, 0x51, 0x52, 0x53})
         EXPECT_TRUE(
             transformEntity(*drawing, drawing->find({handle}), Matrix::rotation(pi / 2) * Matrix::scaling({3, 3, 3})));
-    const struct
-    {
-        quint64 handle;
-        int code;
-        double value;
-    } rows[] = {{0x50, 40, 6}, {0x50, 50, 100}, {0x50, 11, -6}, {0x50, 21, 3},   {0x51, 40, 6},  {0x51, 41, 90},
-                {0x51, 11, 0}, {0x51, 21, 1},   {0x52, 40, 6},  {0x52, 50, 100}, {0x52, 10, -6}, {0x52, 20, 3}};
-    for (const auto &row : rows)
-        EXPECT_NEAR(drawing->tags(drawing->find({row.handle})).real(row.code), row.value, 1e-9) << row.code;
+    const std::tuple<quint64, int, double> rows[] = {{0x50, 40, 6}, {0x50, 50, 100}, {0x50, 11, -6}, {0x50, 21, 3},
+                                                     {0x51, 40, 6}, {0x51, 41, 90},  {0x51, 11, 0},  {0x51, 21, 1},
+                                                     {0x52, 40, 6}, {0x52, 50, 100}, {0x52, 10, -6}, {0x52, 20, 3}};
+    for (const auto &[handle, code, value] : rows)
+        EXPECT_NEAR(drawing->tags(drawing->find({handle})).real(code), value, 1e-9) << code;
     const FieldList paragraph = drawing->fields(drawing->find({0x53}));
     const FieldList columns(ownEnd(paragraph) + 1, paragraph.end());
     EXPECT_NEAR((findField(paragraph, 11)->point() - Vec3{0, 1, 0}).length(), 0.0, 1e-9);

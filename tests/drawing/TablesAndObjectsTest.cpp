@@ -1,9 +1,10 @@
-#include "host/drawing/records/Tables.h"
-
+#include "host/drawing/editing/WipeoutFrame.h"
 #include "host/drawing/file/NewDrawing.h"
 #include "host/drawing/records/Blocks.h"
+#include "host/drawing/records/Dictionaries.h"
 #include "host/drawing/records/Journal.h"
 #include "host/drawing/records/Symbols.h"
+#include "host/drawing/records/Tables.h"
 #include "tests/drawing/DrawingSample.h"
 
 namespace host::drawing {
@@ -61,18 +62,14 @@ TEST(Tables, DimensionStylesHaveTheirHandleElsewhere)
 TEST(Tables, EntriesHaveNoGroupsThatTheVersionLacks)
 {
     const FieldList given = fieldsOf("40 2.0|342 12|271 3|49 1.5|345 13");
-    const struct
-    {
-        const char *version;
-        std::vector<int> kept;
-    } rows[] = {
+    const std::pair<const char *, std::vector<int>> rows[] = {
         {"AC1009", {40}},
         {"AC1014", {40, 271}},
         {"AC1015", {40, 342, 271}},
         {"AC1021", {40, 342, 271, 49, 345}},
     };
-    for (const auto &row : rows) {
-        const auto drawing = sample(row.version);
+    for (const auto &[version, kept] : rows) {
+        const auto drawing = sample(version);
         Tables &tables = drawing->tables();
         const RecordId made = tables.add(TableKind::DimStyle, u"Made"_s, given);
         const RecordId changed = tables.add(TableKind::DimStyle, u"Changed"_s);
@@ -81,12 +78,12 @@ TEST(Tables, EntriesHaveNoGroupsThatTheVersionLacks)
         EXPECT_TRUE(tables.modify(changed, fields));
         EXPECT_FALSE(tables.modify(changed, drawing->fields(changed)));
         for (const RecordId style : {made, changed}) {
-            std::vector<int> kept;
+            std::vector<int> codes;
             for (const Field &field : drawing->fields(style)) {
                 if (findField(given, field.code))
-                    kept.push_back(field.code);
+                    codes.push_back(field.code);
             }
-            EXPECT_EQ(kept, row.kept) << row.version;
+            EXPECT_EQ(codes, kept) << version;
         }
     }
 }
@@ -140,6 +137,109 @@ TEST(NewDrawing, IsCompleteAndSatisfiesAnotherReader)
         EXPECT_TRUE(isValid(drawing->tables().find(TableKind::Layer, u"0")));
         EXPECT_AUDIT_CLEAN(*drawing);
     }
+}
+
+const FieldList namedData = fieldsOf("1 čas|40 12.5|90 -7|10 1,2,3|290 1");
+
+TEST(Dictionaries, KeepNamedData)
+{
+    for (const QByteArray &version : {QByteArray("AC1015"), QByteArray("AC1032")}) {
+        SCOPED_TRACE(version.toStdString());
+        const auto drawing = sample(version);
+        Dictionaries &dictionaries = drawing->dictionaries();
+        const RecordId root = dictionaries.root();
+        EXPECT_EQ(root, drawing->find({0xC}));
+        EXPECT_FALSE(dictionaries.xrecord(root, u"EDIT_TIME").has_value());
+        const RecordId record = dictionaries.setXrecord(root, u"EDIT_TIME"_s, namedData);
+        EXPECT_EQ(dictionaries.xrecord(root, u"edit_time"), namedData);
+        EXPECT_EQ(dictionaries.setXrecord(root, u"Edit_Time"_s, fieldsOf("1 later")), record);
+        EXPECT_EQ(dictionaries.xrecord(root, u"EDIT_TIME"), fieldsOf("1 later"));
+        EXPECT_EQ(dictionaries.entries(root).size(), 2U);
+        const auto again = readGood(drawing->toBytes());
+        EXPECT_EQ(again->dictionaries().xrecord(again->dictionaries().root(), u"EDIT_TIME"), fieldsOf("1 later"));
+        EXPECT_AUDIT_CLEAN(*drawing);
+        EXPECT_TRUE(dictionaries.remove(root, u"EDIT_TIME"));
+        EXPECT_FALSE(dictionaries.remove(root, u"EDIT_TIME"));
+        EXPECT_FALSE(drawing->isAlive(record));
+        EXPECT_AUDIT_CLEAN(*drawing);
+    }
+}
+
+TEST(Dictionaries, NestAndRefuseOtherThings)
+{
+    const auto drawing = newDrawing();
+    Dictionaries &dictionaries = drawing->dictionaries();
+    const RecordId root = dictionaries.root();
+    const RecordId own = dictionaries.ensureDictionary(root, u"MINE"_s);
+    EXPECT_EQ(dictionaries.ensureDictionary(root, u"mine"_s), own);
+    EXPECT_TRUE(isValid(dictionaries.setXrecord(own, u"a"_s, namedData)));
+    EXPECT_FALSE(isValid(dictionaries.setXrecord(root, u"ACAD_GROUP"_s, namedData))) << "a dictionary is no record";
+    EXPECT_FALSE(isValid(dictionaries.ensureDictionary(own, u"a"_s))) << "a record is no dictionary";
+    EXPECT_AUDIT_CLEAN(*drawing);
+}
+
+TEST(Dictionaries, AreMadeWhereTheVersionHasThem)
+{
+    const auto removeObjects = [](const QByteArray &text) {
+        const qsizetype begin = text.lastIndexOf("  0\nSECTION");
+        return text.first(begin) + "  0\nEOF\n";
+    };
+    const auto newer = readGood(removeObjects(sampleText("AC1018")));
+    EXPECT_FALSE(isValid(newer->dictionaries().root()));
+    const RecordId root = newer->dictionaries().ensureRoot();
+    ASSERT_TRUE(isValid(root));
+    EXPECT_TRUE(isValid(newer->dictionaries().setXrecord(root, u"X"_s, namedData)));
+    const auto again = readGood(newer->toBytes());
+    EXPECT_EQ(again->dictionaries().entries(again->dictionaries().root()).size(), 1U);
+
+    const auto old = sample("AC1009");
+    const QByteArray before = old->toBytes();
+    EXPECT_FALSE(isValid(old->dictionaries().ensureRoot()));
+    EXPECT_FALSE(isValid(old->dictionaries().setXrecord(noRecord, u"X"_s, namedData)));
+    EXPECT_FALSE(isValid(old->dictionaries().ensureDictionary(noRecord, u"X"_s)));
+    EXPECT_EQ(old->toBytes(), before);
+}
+
+TEST(Dictionaries, ExtensionDictionariesAreFound)
+{
+    const auto drawing = sample(
+        "AC1015", "0 LINE\n5 50\n102 {ACAD_XDICTIONARY\n360 D\n102 }\n330 1F\n100 AcDbEntity\n8 0\n0 POINT\n5 51\n8 0");
+    EXPECT_EQ(drawing->dictionaries().extensionDictionary(drawing->find({0x50})), drawing->find({0xD}));
+    EXPECT_FALSE(isValid(drawing->dictionaries().extensionDictionary(drawing->find({0x51}))));
+}
+
+TEST(WipeoutFrame, IsKeptInTheDrawing)
+{
+    const std::pair<QByteArray, bool> rows[] = {
+        {"AC1009", false}, {"AC1014", false}, {"AC1015", true}, {"AC1032", true}};
+    for (const auto &[version, isKept] : rows) {
+        SCOPED_TRACE(version.toStdString());
+        const auto drawing = sample(version);
+        const QByteArray before = drawing->toBytes();
+        EXPECT_EQ(wipeoutFrame(*drawing), 1) << "without the object";
+        EXPECT_EQ(setWipeoutFrame(*drawing, 0), isKept);
+        EXPECT_EQ(drawing->journal().isModified(), isKept);
+        if (!isKept)
+            continue;
+        EXPECT_EQ(wipeoutFrame(*readGood(drawing->toBytes())), 0);
+        EXPECT_AUDIT_CLEAN(*drawing);
+        EXPECT_TRUE(setWipeoutFrame(*drawing, 2)) << "the object is there now";
+        EXPECT_EQ(wipeoutFrame(*readGood(drawing->toBytes())), 2);
+        EXPECT_EQ(drawing->toBytes().count("WIPEOUTVARIABLES"), 2) << "class and object";
+        drawing->journal().undo();
+        EXPECT_TRUE(drawing->journal().undo());
+        EXPECT_EQ(drawing->toBytes(), before);
+    }
+}
+
+TEST(WipeoutFrame, LeavesAnObjectOfTheSameNameAlone)
+{
+    const auto drawing = sample("AC1015");
+    drawing->dictionaries().setXrecord(drawing->dictionaries().root(), u"ACAD_WIPEOUT_VARS"_s, fieldsOf("70 0"));
+    const QByteArray before = drawing->toBytes();
+    EXPECT_EQ(wipeoutFrame(*drawing), 1);
+    EXPECT_FALSE(setWipeoutFrame(*drawing, 0));
+    EXPECT_EQ(drawing->toBytes(), before);
 }
 
 } // namespace
