@@ -14,9 +14,9 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-const DxfText text{.entities = "0 LINE|8 0|10 10|20 10|11 90|21 90|0 3DSOLID|8 0|0 TEXT|8 0|10 10|20 50|40 5|1 Hello",
-                   .blocks =
-                       blockText("CROSS", "0 LINE|8 0|62 1|10 0|20 5|11 10|21 5|0 LINE|8 0|62 1|10 5|20 0|11 5|21 10")};
+const DxfText exportedText{
+    .entities = "0 LINE|8 0|10 10|20 10|11 90|21 90|0 3DSOLID|8 0|0 TEXT|8 0|10 10|20 50|40 5|1 Hello",
+    .blocks = blockText("CROSS", "0 LINE|8 0|62 1|10 0|20 5|11 10|21 5|0 LINE|8 0|62 1|10 5|20 0|11 5|21 10")};
 
 QByteArray readAll(const QString &path)
 {
@@ -28,7 +28,7 @@ class ExportTest : public testing::Test
 {
 protected:
     QTemporaryDir m_folder;
-    std::unique_ptr<drawing::Drawing> m_drawing = readDrawing(text);
+    std::unique_ptr<drawing::Drawing> m_drawing = readDrawing(exportedText);
     QString path(const QString &name) const { return m_folder.filePath(name); }
 };
 
@@ -95,7 +95,7 @@ TEST_F(ExportTest, PicturesOfDrawingsAndBlocks)
 
     QFile file(path(u"symbol.dxf"_s));
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(dxfBytes(text));
+    file.write(dxfBytes(exportedText));
     file.close();
     EXPECT_EQ(picture(file.fileName(), {80, 60}), whole);
     EXPECT_TRUE(picture(path(u"gone.dxf"_s), {80, 60}).isNull());

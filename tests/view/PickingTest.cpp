@@ -1,6 +1,6 @@
 #include "host/view/paint/Picking.h"
 
-#include "tests/view/DxfText.h"
+#include "tests/view/Rendering.h"
 
 #include <gtest/gtest.h>
 
@@ -35,14 +35,7 @@ protected:
 
 TEST_F(PickingTest, AtAPoint)
 {
-    struct Row
-    {
-        const char *name;
-        Vec2 point;
-        double aperture;
-        std::string found; ///< best first
-    };
-    const std::vector<Row> rows = {
+    const std::tuple<const char *, Vec2, double, std::string> rows[] = {
         {"on a line", {30, 0}, 1, "A1"},
         {"beside a line", {30, 0.9}, 1, "A1"},
         {"too far", {30, 1.1}, 1, ""},
@@ -59,24 +52,16 @@ TEST_F(PickingTest, AtAPoint)
         {"no aperture", {30, 0}, 0, ""},
         {"not a number", {qQNaN(), 0}, 1, ""},
     };
-    for (const Row &row : rows) {
-        EXPECT_EQ(handles(pickAllAt(m_scene, Scene::modelSpace, row.point, row.aperture)), row.found) << row.name;
-        const RecordId best = pickAt(m_scene, Scene::modelSpace, row.point, row.aperture);
-        EXPECT_EQ(isValid(best), !row.found.empty()) << row.name;
+    for (const auto &[name, point, aperture, found] : rows) {
+        EXPECT_EQ(handles(pickAllAt(m_scene, Scene::modelSpace, point, aperture)), found) << name;
+        const RecordId best = pickAt(m_scene, Scene::modelSpace, point, aperture);
+        EXPECT_EQ(isValid(best), !found.empty()) << name;
     }
 }
 
 TEST_F(PickingTest, InARectangle)
 {
-    struct Row
-    {
-        const char *name;
-        Vec2 corner;
-        Vec2 opposite;
-        std::string within;
-        std::string crossing;
-    };
-    const std::vector<Row> rows = {
+    const std::tuple<const char *, Vec2, Vec2, std::string, std::string> rows[] = {
         {"around the circle", {25, 25}, {75, 75}, "A2", "A2"},
         {"through the circle", {40, 25}, {75, 75}, "", "A2"},
         {"inside the circle", {45, 45}, {55, 55}, "", ""},
@@ -88,11 +73,9 @@ TEST_F(PickingTest, InARectangle)
         {"over the construction line", {10, -60}, {20, -40}, "", "A8"},
         {"a point", {30, 0}, {30, 0}, "", "A1"},
     };
-    for (const Row &row : rows) {
-        EXPECT_EQ(handles(pickRectangle(m_scene, 0, row.corner, row.opposite, PickMode::Window)), row.within)
-            << row.name;
-        EXPECT_EQ(handles(pickRectangle(m_scene, 0, row.corner, row.opposite, PickMode::Crossing)), row.crossing)
-            << row.name;
+    for (const auto &[name, corner, opposite, within, crossing] : rows) {
+        EXPECT_EQ(handles(pickRectangle(m_scene, 0, corner, opposite, PickMode::Window)), within) << name;
+        EXPECT_EQ(handles(pickRectangle(m_scene, 0, corner, opposite, PickMode::Crossing)), crossing) << name;
     }
 }
 
