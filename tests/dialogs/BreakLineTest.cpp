@@ -20,17 +20,6 @@ protected:
     QString symbol = host.writeFile(u"zigzag.dxf"_s, "0\nEOF\n");
 };
 
-TEST_F(BreakLine, ConfirmingWritesFileAndDistances)
-{
-    EXPECT_TRUE(QDir(host.path(u"Ortakit/BreakLine"_s)).exists()) << "where its symbols are kept";
-    showWith(u"lbtitleblock=%1\n_dist_size=2.5\n_dist_offset=0.25\n"_s.arg(symbol));
-    EXPECT_EQ(focusName(), u"acceptButton"_s);
-    click("acceptButton");
-    EXPECT_TRUE(isAccepted());
-    EXPECT_EQ(savedState(), u"lbtitleblock=%1\n!action!=OK\n_dist_size=2.5\nqt_spinbox_lineedit=2.5000\n"
-                            "_dist_offset=0.25\nqt_spinbox_lineedit=0.2500\n"_s.arg(symbol));
-}
-
 TEST_F(BreakLine, ValuesOfEarlierCallsStayUntilCreate)
 {
     // The two distances come first in the state, so that looser keys in the file never answer for them.

@@ -111,20 +111,6 @@ TEST_F(MakeLineStyle, BrowsingTakesOnlyLinetypeFiles)
     }
 }
 
-TEST_F(MakeLineStyle, LongPathsAreShownShortAndSavedWhole)
-{
-    const QString folder = QString(150, u'x');
-    ASSERT_TRUE(QDir(host.path({})).mkpath(folder));
-    const QString file = host.writeFile(folder + u"/my.lin"_s, "*GAS,g\n");
-    showWithFile(file);
-    EXPECT_TRUE(text("Linetypefile").contains(u'\u2026'));
-    EXPECT_EQ(rows(), QStringList{u"GAS|g"_s});
-    setText("name", u"WATER"_s);
-    setText("description", u"Water, cold"_s);
-    click("acceptButton");
-    EXPECT_EQ(savedState(), u"linetypefile=%1\n!action!=\nname=WATER\ndescription=Water, cold\n"_s.arg(file));
-}
-
 class MakeShape : public DefinitionDialogTest<Dlg_QT_MakeShape>
 {
 protected:

@@ -72,19 +72,6 @@ TEST_F(DrawOderColor, TheOrderIsWhatTheButtonsMakeOfIt)
     EXPECT_EQ(order(), u"140"_s);
 }
 
-TEST_F(DrawOderColor, LispLearnsTheOrderWithOkAlone)
-{
-    showColors(u"1 2 3"_s, u"newcolor=5\n"_s);
-    selectRows(list(), {2});
-    click("toBack");
-    click("acceptButton");
-    EXPECT_TRUE(isAccepted());
-    EXPECT_EQ(missingInState({u"lstcolors=3^1^2^"_s, u"!action!=OK"_s, u"newcolor=5"_s}), QStringList());
-    showColors(u"2 1"_s);
-    EXPECT_EQ(order(), u"2 1"_s) << "each call starts from its arguments";
-    EXPECT_EQ(focusName(), u"lstColors"_s);
-}
-
 TEST_F(DrawOderColor, AFavouriteBringsItsOrderAndLosesNoColourOfTheDrawing)
 {
     showColors(u"7 3 2 1"_s);

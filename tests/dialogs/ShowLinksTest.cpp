@@ -130,7 +130,7 @@ TEST_F(ShowLinks, RemovalsBelongToTheirRun)
         {"btnShowEntity", u"RETURN"_s, one, one},
         {"btnShowEntity", u"return"_s, one, two + "REMOVE^2F\r\n"},
         {"btnShowEntity", {}, one, two + "REMOVE^2F\r\n"},
-        {"btnShowEntity", u"START"_s, one, one}, // a run that was left while its entity was shown does not come back
+        {"btnShowEntity", u"START"_s, two, two}, // a run that was left while its entity was shown does not come back
         {"btnClose", u"OK"_s, one + two, one + two},
         {nullptr, u"OK"_s, one + two, one + two},
     };
