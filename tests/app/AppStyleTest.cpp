@@ -38,7 +38,7 @@ Pixels emptyField()
 }
 
 /// Rows of a list with the keyboard: 0 is neither current nor selected, 1 current alone, 2 selected alone.
-Pixels rows(int first, int second)
+Pixels listRows(int first, int second)
 {
     QListWidget list;
     list.setSelectionMode(QAbstractItemView::MultiSelection);
@@ -54,7 +54,7 @@ Pixels rows(int first, int second)
 }
 
 /// The greatest difference of lightness between pixels at the same place.
-int difference(const Pixels &pixels)
+int lightnessDifference(const Pixels &pixels)
 {
     int most = 0;
     for (int x = 0; x < pixels.first.width(); ++x)
@@ -75,13 +75,14 @@ TEST(AppStyle, StatesCanBeToldApart)
         {"check box that is off", optionThatIsOff<QCheckBox>, 50},
         {"radio button that is off", optionThatIsOff<QRadioButton>, 50},
         {"empty field, usable and not", emptyField, 14},
-        {"current row and another", [] { return rows(1, 0); }, 60},
-        {"current row and a selected one", [] { return rows(1, 2); }, 40},
+        {"current row and another", [] { return listRows(1, 0); }, 60},
+        {"current row and a selected one", [] { return listRows(1, 2); }, 40},
     };
     for (const Style style : {Style::Light, Style::Dark}) {
         applyStyle(style);
         for (const auto &row : cases)
-            EXPECT_GE(difference(row.pixels()), row.least) << row.what << (style == Style::Dark ? ", dark" : ", light");
+            EXPECT_GE(lightnessDifference(row.pixels()), row.least)
+                << row.what << (style == Style::Dark ? ", dark" : ", light");
     }
     applyStyle(Style::Light);
 }

@@ -11,8 +11,8 @@ using namespace host::kernel;
 
 namespace {
 
-const char *const types = "(progn (setq e nil all nil) (while (setq e (if e (entnext e) (entnext)))"
-                          " (setq all (cons (cdr (assoc 0 (entget e))) all))) (reverse all))";
+const char *const entityTypes = "(progn (setq e nil all nil) (while (setq e (if e (entnext e) (entnext)))"
+                                " (setq all (cons (cdr (assoc 0 (entget e))) all))) (reverse all))";
 
 /// A command as a module brings it: asks for a name and a number and prints them.
 class LabelCommand final : public OdStaticRxObject<OdEdCommand>
@@ -66,7 +66,7 @@ TEST_F(Bench, commandsOfAModuleTakeTheirAnswersFromProgramAndUser)
         EXPECT_NE(takePrinted().find(row.printed), std::string::npos);
         EXPECT_TRUE(session.input().isEmpty());
     }
-    EXPECT_EQ(lisp(types), "(\"POINT\")") << "the next command follows in the same call";
+    EXPECT_EQ(lisp(entityTypes), "(\"POINT\")") << "the next command follows in the same call";
     lisp("(setvar \"CMDECHO\" 0)");
     takePrinted();
     lisp("(command \"label\" \"quiet\" 7)");
@@ -101,7 +101,7 @@ TEST_F(Bench, aCommandThatFindsNoMemoryIsTakenBack)
     EXPECT_EQ(lisp("(command \"greedy\")"), "error: out of memory in (COMMAND)");
     EXPECT_EQ(lisp("(+ 1 2)"), "3");
     session.commandStack().removeCommand(&greedy);
-    EXPECT_EQ(lisp(types), "(\"POINT\")") << "a program may go on with what there is";
+    EXPECT_EQ(lisp(entityTypes), "(\"POINT\")") << "a program may go on with what there is";
 }
 
 TEST_F(Bench, noObjectOfAPurgedBlockStaysBehind)
@@ -139,7 +139,7 @@ TEST_F(Bench, aScriptIsReadWhereTheNextAnswersCome)
     write("draw.scr", "; two shapes\nline 0,0 1,0 \ncircle 5,5\n2\n");
     document().run(QStringLiteral("(command \"SCRIPT\" \"%1\")").arg(path("draw.scr")));
     runQueued();
-    EXPECT_EQ(lisp(types), "(\"LINE\" \"CIRCLE\")");
+    EXPECT_EQ(lisp(entityTypes), "(\"LINE\" \"CIRCLE\")");
 }
 
 TEST(CommandTable, namesAsPeopleTypeThem)

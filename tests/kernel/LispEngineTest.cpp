@@ -8,11 +8,11 @@ using namespace host::kernel;
 namespace {
 
 /// What the handlers below do: handlers are plain functions.
-std::function<int(CKvLispEngine &)> behaviour;
+std::function<int(CKvLispEngine &)> probeBehaviour;
 
-int probe()
+int callProbe()
 {
-    return behaviour(*ACTIVE_DOCUMENT()->lispEngine());
+    return probeBehaviour(*ACTIVE_DOCUMENT()->lispEngine());
 }
 
 /// The chain as "5003:1 5016 5005:a 5017".
@@ -48,12 +48,12 @@ std::string chainText(const OdResBuf *link)
 class Engine : public Bench
 {
 protected:
-    Engine() { document().lispEngine()->defineFunction(QStringLiteral("Probe"), probe); }
-    ~Engine() override { behaviour = nullptr; }
+    Engine() { document().lispEngine()->defineFunction(QStringLiteral("Probe"), callProbe); }
+    ~Engine() override { probeBehaviour = nullptr; }
     /// What a call does that ends well.
     void does(const std::function<void(CKvLispEngine &)> &body)
     {
-        behaviour = [body](CKvLispEngine &engine) {
+        probeBehaviour = [body](CKvLispEngine &engine) {
             body(engine);
             return kRtNormal;
         };
@@ -169,18 +169,18 @@ TEST_F(Engine, resultsOfEachKind)
 
 TEST_F(Engine, resultCodes)
 {
-    behaviour = [](CKvLispEngine &) { return kRtError; };
+    probeBehaviour = [](CKvLispEngine &) { return kRtError; };
     EXPECT_EQ(lisp("(probe 1)"), "error: bad argument: Probe in (PROBE)");
     EXPECT_EQ(lisp("(vl-catch-all-error-p (vl-catch-all-apply 'probe '()))"), "T");
-    behaviour = [](CKvLispEngine &) { return kRtCancel; };
+    probeBehaviour = [](CKvLispEngine &) { return kRtCancel; };
     EXPECT_EQ(lisp("(defun *error* (m) (setq said m))(probe)").rfind("error: Function cancelled", 0), 0U);
     EXPECT_EQ(lisp("(setq *error* nil)said"), "\"Function cancelled\"");
-    behaviour = [](CKvLispEngine &engine) {
+    probeBehaviour = [](CKvLispEngine &engine) {
         engine.returnInteger(4);
         return kRtNone;
     };
     EXPECT_EQ(lisp("(probe)"), "4");
-    behaviour = [](CKvLispEngine &) -> int { throw std::runtime_error("oops"); };
+    probeBehaviour = [](CKvLispEngine &) -> int { throw std::runtime_error("oops"); };
     EXPECT_EQ(lisp("(probe)"), "error: Probe: oops in (PROBE)");
 }
 
@@ -232,7 +232,7 @@ TEST_F(Engine, functionsAndSymbolsComeAndGo)
 {
     CKvLispEngine &engine = *document().lispEngine();
     does([](CKvLispEngine &lisp) { lisp.print(QStringLiteral("\nhello")); });
-    engine.defineFunction(QStringLiteral("c:greet"), probe);
+    engine.defineFunction(QStringLiteral("c:greet"), callProbe);
     EXPECT_TRUE(document().runCommand(QStringLiteral("greet")).ok);
     EXPECT_EQ(takePrinted(), "\nhello") << "typed as a command";
     lisp("(defun mine () 1)");

@@ -297,7 +297,7 @@ TEST_F(OpenFiles, whoseHolderIsGoneAreFree)
 }
 
 /// How many of so many processes that try at once get the lock.
-int winners(const QString &file, int processes)
+int lockWinners(const QString &file, int processes)
 {
     int starts[2];
     int results[2];
@@ -344,7 +344,7 @@ TEST_F(OpenFiles, haveOneLockWhoeverTriesAtOnce)
     for (int round = 0; round < 8; ++round) {
         if (round % 2 == 1)
             write(".race.dxf.lock", left);
-        EXPECT_EQ(winners(path("race.dxf"), 8), 1) << (round % 2 == 1 ? "one was left behind" : "there was none");
+        EXPECT_EQ(lockWinners(path("race.dxf"), 8), 1) << (round % 2 == 1 ? "one was left behind" : "there was none");
         EXPECT_FALSE(QFile::exists(path(".race.dxf.lock")));
     }
 }

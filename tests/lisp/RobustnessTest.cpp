@@ -9,7 +9,7 @@ using namespace host::lisp::test;
 
 namespace {
 
-std::string repeated(std::string_view text, std::size_t count)
+std::string repeatedText(std::string_view text, std::size_t count)
 {
     std::string result;
     result.reserve(text.size() * count);
@@ -84,17 +84,17 @@ TEST(Robustness, ParenthesesAndArgumentsWithoutNumber)
 {
     Bench bench(smallStack());
     const std::size_t depth = 200'000; // a stack of 8 MB has 40 bytes for each
-    const std::string open = repeated("(", depth);
-    const std::string close = repeated(")", depth);
+    const std::string open = repeatedText("(", depth);
+    const std::string close = repeatedText(")", depth);
     EXPECT_EQ(bench(open), "! malformed list on input");
     EXPECT_EQ(bench(close), "! extra right paren on input");
     EXPECT_EQ(bench("'" + open + close).size(), 2 * depth + 1);
-    EXPECT_EQ(bench(repeated("(+ 1 ", depth) + "1" + close), "! stack overflow");
-    EXPECT_EQ(bench(repeated("(progn ", depth) + close), "! stack overflow");
-    EXPECT_EQ(bench("(length (quote (" + repeated("'", depth) + "a)))"), "1");
-    EXPECT_EQ(bench(repeated("(", Reader::maxNesting + 1)), "! lists nested too deeply on input");
-    EXPECT_EQ(bench("(+ " + repeated("1 ", 100'000) + ")"), "100000");
-    EXPECT_EQ(bench("(+ " + repeated("1 ", 600'000) + ")"), "! stack overflow");
+    EXPECT_EQ(bench(repeatedText("(+ 1 ", depth) + "1" + close), "! stack overflow");
+    EXPECT_EQ(bench(repeatedText("(progn ", depth) + close), "! stack overflow");
+    EXPECT_EQ(bench("(length (quote (" + repeatedText("'", depth) + "a)))"), "1");
+    EXPECT_EQ(bench(repeatedText("(", Reader::maxNesting + 1)), "! lists nested too deeply on input");
+    EXPECT_EQ(bench("(+ " + repeatedText("1 ", 100'000) + ")"), "100000");
+    EXPECT_EQ(bench("(+ " + repeatedText("1 ", 600'000) + ")"), "! stack overflow");
     EXPECT_EQ(bench("(+ 1 2)"), "3");
 }
 
@@ -146,10 +146,10 @@ TEST(Robustness, AFullHeapIsCaughtLikeAnyError)
 
 TEST(Robustness, HostilePatternsAndTextEndInAnAnswer)
 {
-    const std::string text = repeated("a", 20'000);
-    EXPECT_FALSE(wildcardMatch(text, repeated("*a", 200) + "b"));
-    EXPECT_TRUE(wildcardMatch(text, repeated("*", 20'000)));
-    EXPECT_FALSE(wildcardMatch("x", repeated("[", 200'000)));
+    const std::string text = repeatedText("a", 20'000);
+    EXPECT_FALSE(wildcardMatch(text, repeatedText("*a", 200) + "b"));
+    EXPECT_TRUE(wildcardMatch(text, repeatedText("*", 20'000)));
+    EXPECT_FALSE(wildcardMatch("x", repeatedText("[", 200'000)));
     const std::string hostile[] = {std::string("\0(+ 1 2)\0", 9), "\x1A", "(\xC3\x28 \xFF)", "\"\\U+D800\\U+\\777\""};
     for (const std::string &source : hostile) {
         Bench bench;

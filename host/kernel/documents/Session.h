@@ -83,7 +83,7 @@ public:
     void setLispHeapLimit(int megabytes);
     /// A limit for this run, that no program can raise.
     void capLispHeap(int megabytes) { m_lispHeapCap = megabytes; }
-    static constexpr int leastLispHeap = 16;            ///< MB; less is none for the tools themselves
+    static constexpr int leastLispHeap = 16;            ///< MB; what settings, options and LISPHEAPMAX may say
     static constexpr int largestLispHeap = 1024 * 1024; ///< MB
 
     /// Who answers when the queue is empty; null (as in the beginning) for nobody. Not owned.
