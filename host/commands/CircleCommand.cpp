@@ -49,6 +49,7 @@ Dialogue<MaybeCircle> askThreePoints(CommandContext &context)
         points.push_back(reply.point);
     }
     std::vector<Vec2> flat;
+    flat.reserve(points.size());
     for (const Vec3 &point : points)
         flat.push_back(plane.userFromWorld(point).xy());
     const std::optional<Vec2> centre = circleCentre(flat[0], flat[1], flat[2]);

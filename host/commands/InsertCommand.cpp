@@ -136,6 +136,7 @@ void createInsert(CommandContext &context, const QString &block, const InsertPla
     head.push_back({66, qint64(1)});
     const Matrix toDrawing = placementMatrix(context, context.drawing().blocks().get(block)->basePoint, placement);
     std::vector<FieldList> children;
+    children.reserve(attributes.size());
     for (const Definition &definition : attributes)
         children.push_back(attributeFor(definition, toDrawing));
     context.createComplex(head, children);

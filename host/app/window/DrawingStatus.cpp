@@ -4,6 +4,7 @@
 
 #include <QLabel>
 #include <QStatusBar>
+#include <QTextDocument>
 
 using namespace Qt::StringLiterals;
 

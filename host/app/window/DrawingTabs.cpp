@@ -4,6 +4,7 @@
 #include "host/app/window/DrawingTabBar.h"
 
 #include <QDir>
+#include <QTextDocument>
 
 namespace host::app {
 

@@ -115,7 +115,7 @@ const QHash<QString, Mode> &modeNames()
 /// Reads "--name value" or "--name=value" at `position`, which is left on its last argument.
 QString readOption(ProgramOptions &options, const QStringList &arguments, qsizetype &position)
 {
-    const QString argument = arguments[position];
+    const QString &argument = arguments[position];
     const QString name = argument.section(u'=', 0, 0);
     const bool hasValue = argument.contains(u'=');
     for (const OptionRow &row : optionRows()) {

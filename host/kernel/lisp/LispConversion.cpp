@@ -49,7 +49,7 @@ Value toLisp(lisp::Interpreter &interpreter, const std::vector<RecordId> &entiti
     std::vector<std::uint64_t> names(entities.size());
     std::transform(entities.begin(), entities.end(), names.begin(),
                    [](RecordId id) { return static_cast<std::uint64_t>(id); });
-    return interpreter.makeSelectionSet(std::move(names));
+    return interpreter.makeSelectionSet(names);
 }
 
 std::optional<Vec3> pointFrom(const Value &value)

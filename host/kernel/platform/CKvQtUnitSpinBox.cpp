@@ -5,6 +5,7 @@
 #include "host/kernel/platform/DrawingDatabase.h"
 
 #include <QDoubleSpinBox>
+#include <QLineEdit>
 #include <QLocale>
 #include <QValidator>
 #include <QtMath>
