@@ -51,7 +51,8 @@ struct ProgramTest : testing::Test, TestFolder
     void prepare(QProcess &process)
     {
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        for (const char *name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM", "ORTAKIT_MODULE", "ORTAKIT_TOOLS"})
+        for (const char *name :
+             {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM", "ORTAKIT_MODULE", "ORTAKIT_TOOLS", "ORTAKIT_AUDIT"})
             environment.remove(QString::fromLatin1(name));
         environment.insert(u"ORTAKIT_HOME"_s, folder.filePath(u"home"_s));
         environment.insert(u"ORTAKIT_TOOLS"_s, folder.filePath(u"tools"_s));
@@ -103,6 +104,7 @@ TEST_F(ProgramTest, EndsWithTheStatusItsManualNames)
     EXPECT_EQ(read(u"out/b.dxf"_s).count("\nLINE\n"), 1);
     EXPECT_FALSE(QImage(folder.filePath(u"out/a.png"_s)).isNull());
     EXPECT_FALSE(QFile::exists(folder.filePath(u"unchanged/a.dxf"_s))) << "nothing was changed";
+    EXPECT_FALSE(QFile::exists(folder.filePath(u"cased/a.dxf"_s))) << "each case has its own end";
 }
 
 TEST_F(ProgramTest, SaysWhatAFullDiskDidNotTakeAndKeepsTheOldFile)
