@@ -8,12 +8,14 @@
 (defun dots (names) (foreach name names (block name (list (dot)))))
 ;; A block with definitions of attributes: ((tag text) ...), one above the other from y up.
 (defun defs (name y tags)
-  (block name (mapcar '(lambda (tag) (list '(0 . "ATTDEF") '(8 . "0") (cons 2 (said (car tag))) (cons 1 (said (cadr tag)))
-                                           '(3 . "?") '(70 . 0) (list 10 1.0 (setq y (1+ y)) 0.0) '(40 . 0.5)))
+  (block name (mapcar '(lambda (tag)
+                         (list '(0 . "ATTDEF") '(8 . "0") (cons 2 (said (car tag))) (cons 1 (said (cadr tag))) '(3 . "?")
+                               '(70 . 0) (list 10 1.0 (setq y (1+ y)) 0.0) '(40 . 0.5)))
                       tags)))
 
 (defun ref (name layer)
-  (list '(0 . "INSERT") (cons 8 (said layer)) (cons 2 (said name)) '(10 3.0 4.0 0.0) '(41 . 2.0) '(42 . -2.0) '(50 . 0.5)))
+  (list '(0 . "INSERT") (cons 8 (said layer)) (cons 2 (said name)) '(10 3.0 4.0 0.0) '(41 . 2.0) '(42 . -2.0)
+        '(50 . 0.5)))
 (defun refs (names) (foreach name names (entmake (ref name "0"))))
 (defun full (name texts)
   (entmake (cons '(66 . 1) (ref name "0")))
