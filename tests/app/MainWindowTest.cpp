@@ -287,7 +287,7 @@ TEST_F(MainWindowTest, WhatIsReplacedIsAskedAboutByItsCompleteName)
     for (const auto &[menuEntry, typed, target] : rows) {
         SCOPED_TRACE(menuEntry.toStdString() + ' ' + typed.toStdString());
         write(target, "old");
-        const auto isOld = [&] { return read(target) == "old"; };
+        const auto isOld = [&, &file = target] { return read(file) == "old"; };
         ortakit::test::ModalAnswers user;
         user.choose(path(typed));
         user.press(QMessageBox::No);

@@ -27,7 +27,7 @@ protected:
         EXPECT_TRUE(copyStyle(path, name, output, textStyle));
         return output.data();
     }
-    const Folder folder;
+    const Folder folder{};
 };
 
 TEST_F(DimensionStyleFile, ListsNamesWholeOnExportAndByFirstWordOnImport)
