@@ -94,7 +94,7 @@ void SessionPlayer::rehearse(const Step &step)
     if (!next() || !isRun(next()->verb))
         return failAt(step, tr("it stands in front of a command or lisp"));
     const qsizetype start = m_position;
-    m_rehearsal.emplace();
+    m_rehearsal = Rehearsal{};
     for (bool wasCancelled = true; wasCancelled && !hasFailed(); ++m_rehearsal->cancelAt) {
         m_position = start;
         m_rehearsal->opened = 0;
