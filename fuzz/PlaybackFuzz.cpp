@@ -14,12 +14,11 @@ void requireEqual(const Step &step, const Step &other)
     require(step.points == other.points && step.source == other.source);
 }
 
-/// Steps in the order of their lines, each on one of its own but for what a part writes.
+/// Steps in the order of their lines, which may hold several.
 void requireInOrder(const QList<Step> &steps, int before, qsizetype lines)
 {
     for (const Step &step : steps) {
-        require(step.line > before || (step.line == before && !step.place.isEmpty()));
-        require(step.line <= lines);
+        require(step.line >= before && step.line > 0 && step.line <= lines);
         before = step.line;
         const PlaybackScript alone = parsePlayback(step.source);
         require(alone.errors.isEmpty() && alone.steps.size() == 1);
@@ -37,7 +36,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     requireInOrder(script.steps, 0, lines);
     for (const PlaybackCase &one : script.cases) {
         require(one.line > 0 && one.line <= lines);
-        requireInOrder(one.steps, one.line - 1, lines);
+        requireInOrder(one.steps, one.line, lines);
     }
     for (const ScriptError &error : script.errors)
         require(error.line > 0 && error.line <= lines && !error.message.isEmpty());

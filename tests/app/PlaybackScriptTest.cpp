@@ -94,6 +94,10 @@ TEST(PlaybackScript, PutsPartsWhereTheyArePlayed)
         {u"part a LINE\n${LINE}\nenter\nend\nplay a \"\"\nplay a cancel\nplay a #"_s, u"enter|cancel|enter|enter"_s},
         {u"part a X\nplay b ${X}${X}\nend\npart b X\nanswer ${X}\nend\nplay a 7"_s, u"answer 77"_s},
         {u"part a\nend\nplay a"_s, QString()},
+        {u"point 1,2 ~ enter  ~  ~ answer \"a ~ \\\" ~ b\" ~ lisp (f \"x ~ y\" '~) \\\n ~ enter"_s,
+         u"point 1,2|enter|answer \"a ~ \\\" ~ b\"|lisp (f \"x ~ y\" '~)|enter"_s},
+        {u"part a X ~ answer ${X} ~ enter ~ end ~ play a 1 ~ play a \"2 ~ # x ~ cancel\""_s,
+         u"answer 1|enter|answer 2|cancel|enter"_s},
     };
     for (const auto &[text, steps] : rows) {
         const PlaybackScript script = parsePlayback(text);

@@ -79,9 +79,11 @@ bool SessionBatch::hasClashingNames() const
 bool SessionBatch::findDrawings()
 {
     m_drawings = m_options.drawings;
+    // Other people's drawings are known to the tests alone.
+    const bool isElsewhere = m_script.drawing.section(u' ', 0, 0) == "elsewhere"_L1;
     if (m_drawings.isEmpty() && m_script.drawing == "new"_L1)
         m_drawings.append(QString());
-    else if (m_drawings.isEmpty() && !m_script.drawing.isEmpty())
+    else if (m_drawings.isEmpty() && !m_script.drawing.isEmpty() && !isElsewhere)
         m_drawings.append(QDir(QFileInfo(m_options.session).absolutePath()).filePath(m_script.drawing));
     if (m_drawings.isEmpty())
         writeMessage(

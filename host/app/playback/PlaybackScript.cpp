@@ -29,6 +29,31 @@ bool endsInContinuation(const QString &text)
     return QStringView(text).trimmed().endsWith(" \\"_L1);
 }
 
+/// A line may hold several, with " ~ " between them, which within quotes stands for itself.
+void takePieces(QList<WholeLine> &lines, int number, const QString &text)
+{
+    bool isQuoted = false;
+    qsizetype from = 0;
+    const auto take = [&](qsizetype end) {
+        QString piece = text.mid(from, end - from).trimmed();
+        // Read by itself it would go on.
+        while (endsInContinuation(piece))
+            piece = piece.chopped(1).trimmed();
+        if (!piece.isEmpty() && !piece.startsWith(u'#'))
+            lines.append({number, piece});
+    };
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        if (text[i] == u'"' && (i == 0 || text[i - 1] != u'\\'))
+            isQuoted = !isQuoted;
+        if (isQuoted || !QStringView(text).sliced(i).startsWith(" ~ "_L1))
+            continue;
+        take(i);
+        from = i + 3;
+        i = from - 1;
+    }
+    take(text.size());
+}
+
 /// The lines of a session that count for something.
 QList<WholeLine> wholeLines(const QString &text, QList<ScriptError> &errors)
 {
@@ -46,7 +71,7 @@ QList<WholeLine> wholeLines(const QString &text, QList<ScriptError> &errors)
         }
         pending += line.toString();
         if (!endsInContinuation(pending)) {
-            lines.append({first, pending.trimmed()});
+            takePieces(lines, first, pending);
             pending.clear();
         }
         // Several are as one: what is left of them would go on again when it is read by itself.
@@ -193,9 +218,11 @@ private:
                     fail(tr("play: the parts write too much"));
                 break;
             }
-            // An argument may be empty, and with it the line.
-            if (!text.isEmpty() && !text.startsWith(u'#'))
-                readLine(text);
+            // An argument may be empty, and with it the line; or it may write several.
+            QList<WholeLine> pieces;
+            takePieces(pieces, line.number, text);
+            for (const WholeLine &piece : pieces)
+                readLine(piece.text);
         }
         m_playing.removeLast();
         m_place = outer;
