@@ -15,7 +15,10 @@ public:
     /// Undoes initApp(); dialogs of every document are deleted.
     void uninitApp() override;
 
+    /// Defines the functions in the document's engine and adds its record, with the editing time that its drawing
+    /// holds. Nothing for a document without an engine, which is announced again when it has one.
     void LispDocumentReady(CKvDocument *document) override;
+    /// Takes the functions back and deletes the document's dialogs, also one that is running.
     void LispDocumentClosing(CKvDocument *document) override;
 
 private:

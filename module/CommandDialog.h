@@ -14,13 +14,14 @@ namespace ortakit {
 /// "LispExtension". Nothing without an answer, a document, or somebody to ask.
 std::optional<OdString> askForText(const char *prompt);
 
-/// Asks so for the path of the state file.
+/// Asks so for the path of the state file. Whether there is such a file is not looked at.
 std::optional<OdString> askForStateFile();
 
 /// The window that dialogs are shown over; null when there is none.
 QWidget *dialogParent();
 
-/// In what the dialog of a command differs from the plain case. A null function does nothing.
+/// For a class derived from ToolDialog: in what the dialog of a command differs from the plain case. A null function
+/// does nothing.
 template <class Dialog>
 struct CommandDialogPeculiarities
 {
@@ -33,6 +34,8 @@ struct CommandDialogPeculiarities
 /// The common body of the commands that show a dialog: asks for the state file, loads it, and saves it when the dialog
 /// was accepted. A rejected dialog leaves the file as it was, so the caller knows the outcome by the action word that
 /// the dialog sets. The dialog is made for the call and goes with it.
+///
+/// Nothing happens without a path. A dialog that is destroyed while it runs counts as rejected.
 template <class Dialog>
 void runCommandDialog(const CommandDialogPeculiarities<Dialog> &own)
 {

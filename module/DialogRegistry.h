@@ -6,7 +6,8 @@
 
 class QWidget;
 
-/// The records of all documents that have the Lisp functions, in the order they got them.
+/// The records of all documents that have the Lisp functions, in the order they got them. Used on the thread of the
+/// user interface alone. Documents are not owned; they are compared as pointers and never looked into here.
 class DialogRegistry
 {
 public:
@@ -18,6 +19,7 @@ public:
     /// Destroys the first record of `document` with its dialogs; without one nothing happens.
     void remove(const CKvDocument *document);
 
+    /// Valid until the next append() or remove(), which a dialog or a Lisp program may cause.
     std::vector<DocumentDialogSet> &records() { return m_records; }
 
     /// The dialog of `document` in `slot`, made by `create` with `parent` when the slot is empty; of two records the

@@ -18,11 +18,14 @@ bool runGuarded(const Work &work) noexcept
     }
 }
 
-/// Says on the command line of the active document what the drawing database refused.
+/// Says on the command line of the active document what the drawing database refused; nowhere when no document is
+/// active. Never throws, though it has to make a text: a message that cannot be made is dropped.
 void tellError(const OdError &error) noexcept;
 
 /// `handler` as the host may call it: an exception becomes the result code for an error, and what the drawing database
-/// says about it is told.
+/// says about it is told. A template of its own for each handler, because the host takes plain functions:
+///
+///     lisp.defineFunction(name, guarded<dlgBreakLine>);
 template <CKvLispEngine::Handler handler>
 int guarded() noexcept
 {

@@ -23,8 +23,11 @@ enum class FirstArgument
 /// What is done with the state file.
 enum class StateFile
 {
+    /// Loaded before the dialog runs, saved when it was accepted.
     LoadAndSave,
+    /// The dialog saves it itself.
     LoadOnly,
+    /// There is none: the first argument is something else.
     None,
 };
 
@@ -72,7 +75,8 @@ bool areAcceptable(const OdResBuf *first, FirstArgument firstArgument, ExtraArgu
 /// The strings among the arguments from `rest` on, in their order; what is no string is passed over.
 QStringList strings(const OdResBuf *rest);
 
-/// The chains that give Lisp a list of strings, and one of 16-bit integers.
+/// The chains that give Lisp a list of strings, and one of 16-bit integers, for CKvLispEngine::returnList(). Without
+/// strings or numbers they are the empty list.
 OdResBufPtr stringList(const QStringList &strings);
 OdResBufPtr shortList(const QList<int> &numbers);
 
@@ -80,9 +84,11 @@ OdResBufPtr shortList(const QList<int> &numbers);
 /// no string in a list is passed over, lists in lists give theirs to the outer one.
 QList<QStringList> stringLists(const OdResBuf *rest);
 
-/// Gives back what the function no longer needs of its arguments.
+/// Gives back what the function no longer needs of its arguments, before the dialog runs. Links that were given back may
+/// not be read any more.
 void releaseArguments(CKvLispEngine &lisp, ExtraArguments extra);
 
+/// The same for a dialog of a known class, which is the one that has the slot.
 template <class Dialog>
 Dialog *findDialog(const CKvDocument &document, DialogSlot slot)
 {
@@ -90,6 +96,7 @@ Dialog *findDialog(const CKvDocument &document, DialogSlot slot)
         findDialog(document, slot, [](QWidget *parent) -> CKvDialog * { return new Dialog(parent); }));
 }
 
+/// Hands a call's arguments, which were found acceptable, to the dialog. `first` is null in a call without any.
 template <class Dialog>
 void takeArguments(Dialog &dialog, const OdResBuf *first, const DialogPeculiarities<Dialog> &own)
 {
@@ -101,6 +108,7 @@ void takeArguments(Dialog &dialog, const OdResBuf *first, const DialogPeculiarit
         own.takeExtra(dialog, first ? first->next() : nullptr);
 }
 
+/// Saves the state where the function does that, before the program that called hears of the outcome.
 template <class Dialog>
 void giveAcceptance(Dialog &dialog, CKvLispEngine &lisp, const DialogPeculiarities<Dialog> &own)
 {
@@ -112,6 +120,7 @@ void giveAcceptance(Dialog &dialog, CKvLispEngine &lisp, const DialogPeculiariti
         lisp.returnTrue();
 }
 
+/// Leaves the state file as the program wrote it.
 template <class Dialog>
 void giveRejection(Dialog &dialog, CKvLispEngine &lisp, const DialogPeculiarities<Dialog> &own)
 {

@@ -45,19 +45,27 @@ protected:
     void beforeShow() override;
     void afterShow() override;
 
+    /// The table of what replaces has another selection, or was just filled: shows its preview.
     virtual void blockSelectRep() = 0;
     /// The checks behind Apply.
     virtual void closeDialog() = 0;
 
+    /// The two tables, there from setUpBlocks() on. The first has the names of blocks(); what stands in the second is
+    /// the derived class's.
+    /// @{
     NameTable &replaced() { return *m_replaced; }
     NameTable &replacing() { return *m_replacing; }
+    /// @}
+    /// In the order of blocks().
     QStringList blockNames() const;
 
+    /// What closeDialog() tells a user who chose no block to replace.
     static QString chooseBlocksText();
     /// Tells the user that a chosen name of `table` would mean another block to Lisp; false when there is none.
     bool refusesIndistinctName(const NameTable &table, const QString &title);
 
 private:
+    // Slots of the form.
     void ClickHeaderTable(int column);
     void ClickHeaderTableRep(int column);
     void blockSelect();

@@ -22,26 +22,30 @@ protected:
     struct Messages
     {
         QString title;
-        QString noFile;
-        QString noName;
-        QString blankInName;
-        QString exists; ///< asks whether to replace
+        QString noFile;      ///< when the path is empty; whether there is such a file is not looked at
+        QString noName;      ///< when the name is empty
+        QString blankInName; ///< for blanks alone: other white space is fine
+        QString exists;      ///< asks whether to replace
     };
 
     /// To be called once behind setupUi(). `headers` are the table's, ";" between; its first column stays
     /// `firstWidth` wide, the second takes the rest.
     void setUpDefinitions(QLineEdit *file, QTableWidget *table, const QString &headers, int firstWidth);
 
-    /// Fills the table and remembers the names, which are in column `nameColumn` of the rows.
+    /// Fills the table, in place of what it showed, and remembers the names, which are in column `nameColumn` of the
+    /// rows. Cells show the first 500 characters of a text. Nothing is read or checked here: the rows are what the
+    /// derived class made of its file.
     void showDefinitions(const QList<QStringList> &rows, int nameColumn);
 
     /// Whether `name` can be defined in the file at `path`, whose definitions are shown: both are there, the name has
     /// no blank, and is new in any mix of cases or the user agrees that it is replaced. Says otherwise why not.
     bool acceptsDefinition(const QString &path, const QString &name, const Messages &messages);
 
+    /// Keeps Enter in the field of the file from the default button.
     void keyPressEvent(QKeyEvent *event) override;
 
 private:
+    /// What to tell instead of defining; empty when nothing is wrong with file and name.
     QString problem(const QString &path, const QString &name, const Messages &messages) const;
 
     QLineEdit *m_file = nullptr;

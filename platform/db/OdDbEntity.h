@@ -5,8 +5,8 @@
 
 class OdDbDatabase;
 
-/// An entity that is being made. It becomes a part of a drawing when it is appended to a block, as it is at that
-/// moment; destroying it closes it.
+/// An entity that is being made, by the module or by its class (see OdRxClass::create()). It becomes a part of a
+/// drawing when it is appended to a block, as it is at that moment; destroying it closes it.
 class KV_EXPORT OdDbEntity : public OdRxObject
 {
 public:
@@ -15,7 +15,8 @@ public:
     virtual void setDatabaseDefaults(OdDbDatabase *database) = 0;
 };
 
-/// A block of a drawing that was opened for writing: a space or a definition. Belongs to the drawing.
+/// A block of a drawing that was opened for writing: a space or a definition. Belongs to the drawing, and is valid
+/// until the end of the transaction that it was opened in.
 class KV_EXPORT OdDbBlockTableRecord
 {
 public:

@@ -21,8 +21,9 @@ public:
     }
 
     /// The name of the file, or the expression.
+    /// Taken as it is: the file is looked for, or the expression evaluated, when the text is drawn.
     virtual void setStringContents(const OdString &contents) = 0;
-    /// Whether the contents are an expression.
+    /// Whether the contents are an expression rather than the name of a file.
     virtual void setToExpression(bool isExpression) = 0;
     /// In drawing units; throws OdError for what is not above 0.
     virtual void setHeight(double height) = 0;

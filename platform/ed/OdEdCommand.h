@@ -3,6 +3,7 @@
 #include "platform/rx/OdRxObject.h"
 #include "platform/rx/OdString.h"
 
+/// What a host knows of the run of a command. The module passes it on unread, and it may be null.
 class OdEdCommandContext;
 
 /// A command that a module brings along. It belongs to the module.

@@ -3,7 +3,9 @@
 #include "platform/ed/OdEditorReactor.h"
 
 /// The editor of the process. A reactor is not owned and must be removed before it goes away. One that is also an
-/// OdEdCommandStackReactor or an OdEdLispEngineReactor hears of those events too.
+/// OdEdCommandStackReactor or an OdEdLispEngineReactor hears of those events too. Reactors hear in the order in which
+/// they were added, on the thread of the user interface, and may add and remove others or themselves meanwhile: one
+/// that is removed during an event does not hear of it any more.
 class KV_EXPORT OdEditor
 {
 public:

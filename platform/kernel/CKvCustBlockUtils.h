@@ -10,7 +10,8 @@ class KV_EXPORT CKvCustBlockUtils
 public:
     virtual ~CKvCustBlockUtils() = default;
 
-    /// The host's one object; null before the host has started.
+    /// The host's one object; null before the host has started, and in a host without custom blocks. It lives as long
+    /// as the host and is not the caller's.
     static CKvCustBlockUtils *Get();
 
     /// Whether `document` is editing a custom block now. Tools that make blocks of their own cannot run then.

@@ -4,12 +4,15 @@
 
 #include <QDialog>
 
-/// Base of every dialog that the host shows: follows the host's style, and is hidden rather than deleted when closed.
+/// Base of every dialog that the host shows: follows the host's style, and is hidden rather than deleted when closed,
+/// so that its widgets keep their values until it is shown again. Its window has no button for "What's this?".
 class KV_EXPORT CKvDialog : public QDialog
 {
     Q_OBJECT
 
 public:
+    /// Belongs to `parent`, which may delete it at any time, also while it runs; commonly the host's main window. Null
+    /// in a run without windows: then the caller is the owner.
     explicit CKvDialog(QWidget *parent = nullptr);
     ~CKvDialog() override;
 };

@@ -2,7 +2,8 @@
 
 #include "platform/ed/OdEditorReactor.h"
 
-/// The reactor kinds of the editor in one, for a class that listens to several.
+/// The reactor kinds of the editor in one, for a class that listens to several: OdEditor::addReactor() finds out which
+/// of them a reactor is and tells it of all these events.
 class KV_EXPORT CKvEditorReactor : public OdEditorReactor, public OdEdCommandStackReactor, public OdEdLispEngineReactor
 {
 };

@@ -5,16 +5,18 @@
 
 class QWidget;
 
-/// Shows pages of help files.
+/// Shows pages of help files: the module's own is CKvSystemServices::helpFile(), and what kind of file it is, a folder
+/// of pages or a compiled one, only the host knows.
 class KV_EXPORT CKvHelp
 {
 public:
     virtual ~CKvHelp() = default;
 
     /// Shows topic number `topic` of `helpFile`; an unknown topic, 0 among them, shows the start page. `keepOpen`
-    /// leaves a page that is shown already; `parent` may be null; `style` is the host's window style.
+    /// leaves a page that is shown already; `parent` may be null; `style` is the host's window style. Returns at once:
+    /// the page stands beside a modal dialog and can be read while that runs. Help that is missing is no error.
     virtual void Help(const OdString &helpFile, int topic, bool keepOpen, QWidget *parent, int style) = 0;
 };
 
-/// The help service; null before the host has started.
+/// The help service, which lives as long as the host; null before the host has started.
 KV_EXPORT CKvHelp *GetKvHelp();

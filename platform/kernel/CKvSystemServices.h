@@ -15,7 +15,8 @@ enum class KvLicence
     None ///< the host needs no licence or has none
 };
 
-/// What the host offers once for the whole process.
+/// What the host offers once for the whole process. The object and what it hands out are the host's own and live as
+/// long as it does; paths are full, with the separators that Qt uses.
 class KV_EXPORT CKvSystemServices
 {
 public:

@@ -43,18 +43,22 @@ public:
         kRtSymbol = 5022, ///< a symbol other than nil and T; its name as the string
     };
 
+    /// Without a value, as list begins and ends, nil and T are.
     explicit OdResBuf(int type) : m_type(type) {}
     /// Frees the chain without recursion, however long it is.
     ~OdResBuf();
     OdResBuf(const OdResBuf &) = delete;
     OdResBuf &operator=(const OdResBuf &) = delete;
 
+    // A link alone, which is the caller's. No type is checked against the value: group codes of records serve as types,
+    // too.
     static std::unique_ptr<OdResBuf> newRb(int type) { return std::make_unique<OdResBuf>(type); }
     static std::unique_ptr<OdResBuf> newString(int type, const OdString &value);
     static std::unique_ptr<OdResBuf> newInteger(int type, qint64 value);
     static std::unique_ptr<OdResBuf> newReal(int type, double value);
     static std::unique_ptr<OdResBuf> newPoint(int type, const OdGePoint3d &value);
 
+    /// A Type, or a DXF group code in the data of records.
     int restype() const { return m_type; }
     OdString getString() const;
     qint64 getInteger() const;
@@ -65,7 +69,7 @@ public:
     OdResBuf *next() const { return m_next.get(); }
     /// Puts `next` behind this link in place of what was there, and returns it.
     OdResBuf *setNext(std::unique_ptr<OdResBuf> next);
-    /// Takes off what is behind this link.
+    /// Takes off what is behind this link, which is the last one then; null when it was already.
     std::unique_ptr<OdResBuf> takeNext() { return std::move(m_next); }
 
 private:
@@ -74,9 +78,11 @@ private:
     std::unique_ptr<OdResBuf> m_next;
 };
 
+/// A chain by its first link; null is an empty one.
 using OdResBufPtr = std::unique_ptr<OdResBuf>;
 
-/// Result codes of external functions and of user input.
+/// Result codes of external functions and of user input. A function that returns kRtError fails the Lisp call,
+/// kRtCancel cancels the expression that it stands in, and every other code ends it with the result that was set.
 enum KvResult : int
 {
     kRtNormal = 5100,   ///< done

@@ -10,7 +10,8 @@ using OdAllocationFailureHandler = void (*)(std::size_t size);
 /// Memory from the host's allocator, `size` bytes aligned for any type; null when there is none left.
 KV_EXPORT void *odrxAlloc(std::size_t size);
 
-/// Gives back what odrxAlloc() returned. Null is allowed.
+/// Gives back what odrxAlloc() returned, and nothing else: the host's allocator may be another than the module's. Null
+/// is allowed.
 KV_EXPORT void odrxFree(void *memory);
 
 /// The installed handler, null when the host has none.

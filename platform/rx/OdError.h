@@ -8,9 +8,11 @@
 class KV_EXPORT OdError
 {
 public:
+    /// `description` is shown to the user as it is.
     explicit OdError(const OdString &description) : m_description(description) {}
 
-    /// What went wrong, a sentence for the user.
+    /// What went wrong, a sentence for the user: the module prints it on the command line of the active document and
+    /// adds nothing.
     OdString description() const { return m_description; }
 
 private:

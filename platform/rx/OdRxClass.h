@@ -10,6 +10,6 @@ class KV_EXPORT OdRxClass
 public:
     virtual ~OdRxClass() = default;
 
-    /// A new object of the class, which is the caller's.
+    /// A new object of the class, which is the caller's; of an entity, one that is in no drawing yet.
     virtual std::unique_ptr<OdRxObject> create() const = 0;
 };

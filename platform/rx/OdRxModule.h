@@ -14,7 +14,9 @@ public:
     virtual void *sysData() = 0;
     /// Destroys the module object. Only after uninitApp().
     virtual void deleteModule() = 0;
+    /// Makes the module known to the host: functions, commands, reactors. Called once, when the host is up.
     virtual void initApp() = 0;
+    /// Takes back what initApp() did, while documents may still be open.
     virtual void uninitApp() = 0;
     /// Full file name of the loaded module.
     virtual OdString moduleName() const = 0;

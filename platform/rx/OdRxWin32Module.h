@@ -11,12 +11,16 @@
 KV_EXPORT OdString odrxModuleFileName(void *handle, int capacity);
 
 /// Turns a class with initApp() and uninitApp() into the single module object of a process.
+///
+/// The object counts its references and does nothing about them: the host ends it by deleteModule(). A host that loads
+/// the file again afterwards gets a new object.
 template <class T>
 class OdRxWin32Module final : public T
 {
 public:
     /// The process's module object; made with the host's allocator on the first call. Throws std::bad_alloc when
     /// there is no memory and the host installed no handler of its own.
+    /// `handle` is the loader's of the module's file; only that of the first call is kept.
     static OdRxModule *instance(void *handle)
     {
         if (!s_module)
@@ -27,9 +31,12 @@ public:
     void addRef() override { m_references.fetch_add(1); }
     void release() override { m_references.fetch_sub(1); }
     long numRefs() const override { return m_references.load(); }
+    /// The handle that instance() was given.
     void *sysData() override { return m_handle; }
+    /// At most 259 characters of the name: longer ones are cut, as other loaders do it.
     OdString moduleName() const override { return odrxModuleFileName(m_handle, fileNameCapacity); }
 
+    /// The memory goes back to the host's allocator, where it came from.
     void deleteModule() override
     {
         s_module = nullptr;
@@ -38,10 +45,12 @@ public:
     }
 
 private:
+    /// The longest path of the system that the name comes from, its ending zero included.
     static constexpr int fileNameCapacity = 260;
 
     explicit OdRxWin32Module(void *handle) : m_handle(handle) {}
 
+    /// The host's handler may free memory, throw or end the process; what it does not solve is a std::bad_alloc.
     static void *allocate()
     {
         void *memory = odrxAlloc(sizeof(OdRxWin32Module));

@@ -13,9 +13,10 @@ class KV_EXPORT CKvQtColorComboBox : public QComboBox
     Q_OBJECT
 
 public:
+    /// With by layer, by block and the seven named colours.
     explicit CKvQtColorComboBox(QWidget *parent = nullptr);
 
-    /// Colour index: 0 by block, 1 to 255, 256 by layer.
+    /// Colour index: 0 by block, 1 to 255, 256 by layer. 0 as well where the current text is no colour.
     int colorIndex() const;
     /// Picks the colour, adding an item for it when there was none. Numbers outside 0 to 256 are ignored.
     void setColorIndex(int index);
@@ -28,5 +29,6 @@ public:
     /// @}
 
 protected:
+    /// Swatch and name in place of the number, which stays the text.
     void initStyleOption(QStyleOptionComboBox *option) const override;
 };

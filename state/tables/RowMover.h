@@ -39,6 +39,7 @@ class RowMover : public QObject
     Q_OBJECT
 
 public:
+    /// All four must be there, and must outlive the table or go with it.
     struct Buttons
     {
         QAbstractButton *toTop;
@@ -50,13 +51,16 @@ public:
     /// Belongs to `table`. Enables the buttons as the selection allows.
     RowMover(QTableWidget *table, const Buttons &buttons);
 
-    /// Makes the rows those that were number rows[0], rows[1] and so on; the others go.
+    /// Makes the rows those that were number rows[0], rows[1] and so on; the others go, and with them their items. No
+    /// number comes twice. What is selected is scrolled to.
     void arrange(const QList<int> &rows);
 
+    /// Keys and drops of the table. A drop never takes cells over, as the table's own would.
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 signals:
-    /// The rows have another order now, or fewer of them are left.
+    /// The rows have another order now, or fewer of them are left: by the user, or by arrange(), whether or not
+    /// anything changed.
     void arranged();
 
 private:

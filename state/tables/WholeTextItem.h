@@ -10,6 +10,7 @@ class WholeTextItem final : public QTableWidgetItem
 public:
     using QTableWidgetItem::QTableWidgetItem;
 
+    /// The tool tip is made when it is asked for, so it takes no memory and is never that of an older text.
     QVariant data(int role) const override
     {
         return QTableWidgetItem::data(role == Qt::ToolTipRole ? int(Qt::DisplayRole) : role);

@@ -13,14 +13,15 @@ class DialogPicture : public QObject
     Q_OBJECT
 
 public:
-    /// Belongs to `widget`. `picture` is the light variant, such as ":/images/breakline.png"; the dark one is looked
-    /// for as ":/images/svg_icons/dark/breakline.svg", or under `darkName` in place of "breakline"; the light one stays
-    /// where there is none.
+    /// Belongs to `widget`, and stands in for its painting unless that is a label. `picture` is the light variant, such
+    /// as ":/images/breakline.png"; the dark one is looked for as ":/images/svg_icons/dark/breakline.svg", or under
+    /// `darkName` in place of "breakline"; the light one stays where there is none.
     DialogPicture(QWidget *widget, const QString &picture, const QString &darkName = {});
 
     /// Resource path of the variant that is shown.
     QString shownPicture() const { return m_shown; }
 
+    /// Changes the variant with the palette, and when the widget is shown.
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
