@@ -14,11 +14,17 @@ class Dlg_QT_Breakline;
 ///
 /// Closes with the action "OK" (draw with what the state file says) or "CREATE" (make the symbol `name` in the symbol
 /// folder, write its path to `LbTitleblock` and call again). Shown after "CREATE" it takes the state's values anew.
+///
+/// "OK" needs a file that is there; whether it can be read as a drawing is left to the drawing of the line. "CREATE"
+/// needs a name that may be one of a file and that no other symbol has, unless the user agrees that it is replaced.
+/// Sizes are in drawing units.
 class Dlg_QT_Breakline final : public ToolDialog
 {
     Q_OBJECT
 
 public:
+    /// Makes the folder for symbols with those that come along where they are missing. The first of all showings begins
+    /// with the symbol "zigzag.dxf" when it is there.
     explicit Dlg_QT_Breakline(QWidget *parent = nullptr);
     ~Dlg_QT_Breakline() override;
 
@@ -27,12 +33,16 @@ protected:
     void afterShow() override;
 
 private:
+    /// Symbols can only be made under a name.
     void setName(const QString &name);
     void pressEnterforName();
     void selectBlock();
+    /// Closes with "OK".
     void CloseAccept();
+    /// Closes with "CREATE".
     void CreateDesing();
 
+    /// Shows the drawing of the symbol's file.
     void refreshSymbol();
     void validateOk();
     bool hasSymbolFile() const;

@@ -10,6 +10,9 @@ class DLG_QT_ConvertNotes;
 
 /// The options of the tool that converts simple notes: what of a note is kept, in which order the notes are taken, and
 /// whether the new text wraps. Closes with no action word; Lisp converts the notes.
+///
+/// All options are in the state file under their widgets' names, and none of them depends on another or on the drawing:
+/// OK takes them as they are.
 class DLG_QT_ConvertNotes final : public ToolDialog
 {
     Q_OBJECT
@@ -19,6 +22,7 @@ public:
     ~DLG_QT_ConvertNotes() override;
 
 protected:
+    /// The keyboard begins at the first option.
     void afterShow() override;
 
 private:

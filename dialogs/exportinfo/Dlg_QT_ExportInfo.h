@@ -11,6 +11,11 @@ class Dlg_QT_ExportInfo;
 
 /// Takes a problem report from the user and writes it to a text file, with what a Lisp program found out about the
 /// system. Closes with no action word.
+///
+/// Each showing begins with numbered lines for the steps that lead to the problem, and with the system information of
+/// the file. OK asks for the report's file and closes whether or not one was chosen and could be written, which the
+/// host tells of: the Lisp programs expect the dialog to end there. The report is UTF-8 with the line ends of the
+/// platform.
 class Dlg_QT_ExportInfo final : public ToolDialog
 {
     Q_OBJECT
@@ -28,6 +33,7 @@ protected:
     void afterShow() override;
 
 private:
+    /// What the fields hold, whole where they show less.
     ortakit::UserReport report() const;
     void clickOK();
 

@@ -25,6 +25,7 @@ protected:
     void afterShow() override;
 
 private:
+    /// Turns off what has no meaning beside what is chosen.
     void updateDialog();
 
     std::unique_ptr<Ui::Dlg_QT_TextFrame> m_ui;

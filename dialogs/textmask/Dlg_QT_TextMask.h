@@ -23,6 +23,7 @@ public:
     ~Dlg_QT_TextMask() override;
 
 public slots:
+    /// Puts the drawing's setting back to what it was when the dialog was shown.
     void reject() override;
 
 protected:
@@ -30,7 +31,9 @@ protected:
     void afterShow() override;
 
 private:
+    /// Follows the type: sets the drawing's setting, and turns off what has no meaning.
     void updateDialog();
+    /// Closes when the offset is a number that is not negative.
     void checkValues();
 
     std::unique_ptr<Ui::Dlg_QT_TextMask> m_ui;

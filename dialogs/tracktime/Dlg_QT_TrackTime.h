@@ -40,16 +40,22 @@ protected:
 private:
     void SelectFolder();
     void EnterFolder();
+    /// Lists the folder that was typed when it is another one than that which is listed, and there.
     void LeaveFolder();
     void Refresh();
     void FillTable();
     void ClickHeaderTable(int column);
     void SelectChanged();
+    /// The box of a cell was clicked. A box among the selected rows stands for all of them.
     void TrackChanged(const QTableWidgetItem *item);
+    // For the selected rows; nothing is written before the dialog closes.
     void Track(bool isTracked);
     void ApplyIdleLimit();
+    /// After a question.
     void ResetTime();
+    /// Writes what the table shows to a file, with semicolons to a ".csv" and with tabs to any other.
     void ExportTable();
+    /// OK: writes, names the drawings that could not be written, and closes unless the user cancelled that.
     void CloseDialog();
 
     void setUpTable();
@@ -58,6 +64,7 @@ private:
     bool hasFolder();
     void listFolder();
     bool readFolder();
+    /// Asks about changes that were not written yet.
     bool mayDropChanges();
     void showListedFolder();
     QTableWidgetItem *makeItem(int drawing, TimeColumn column) const;
@@ -65,6 +72,7 @@ private:
     void showDrawing(int row);
     void showTotal();
     QList<int> shownDrawings() const;
+    /// The drawing's place in m_drawings.
     int drawingAt(int row) const;
     QList<int> selectedRows() const;
     void changeRows(const QList<int> &rows, const std::function<void(DrawingTime &)> &change);
@@ -75,14 +83,14 @@ private:
     std::unique_ptr<Ui::Dlg_QT_TrackTime> m_ui;
     OpenDrawings *m_open = nullptr;
     QList<DrawingTime> m_drawings;
-    QString m_listedFolder;
+    QString m_listedFolder; ///< whose drawings m_drawings are
     bool m_hasListedSubFolders = false;
     /// The widgets take their values from a state, or a folder is being listed: what they say meanwhile is no wish of
     /// the user's.
     bool m_isBusy = false;
     TimeColumn m_sortColumn = TimeColumn::Name;
     Qt::SortOrder m_sortOrder = Qt::AscendingOrder;
-    QString m_exportFile;
+    QString m_exportFile; ///< chosen last; empty at first
     FavouritesBox *m_favourites = nullptr;
     std::unique_ptr<ElidedPathField> m_directory;
 };
