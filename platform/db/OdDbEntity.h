@@ -12,6 +12,7 @@ class KV_EXPORT OdDbEntity : public OdRxObject
 public:
     /// What new entities of the drawing have: layer, colour, linetype, linetype scale and lineweight; of a text the
     /// style too.
+    /// The entity is in no drawing by that, and nothing is taken over from a database that is null or another host's.
     virtual void setDatabaseDefaults(OdDbDatabase *database) = 0;
 };
 

@@ -24,9 +24,10 @@ public:
     /// Taken as it is: the file is looked for, or the expression evaluated, when the text is drawn.
     virtual void setStringContents(const OdString &contents) = 0;
     /// Whether the contents are an expression rather than the name of a file.
+    /// It is a name for a new one.
     virtual void setToExpression(bool isExpression) = 0;
     /// In drawing units; throws OdError for what is not above 0.
     virtual void setHeight(double height) = 0;
-    /// In radians; throws OdError for what is no finite number.
+    /// In radians from the x axis, counter-clockwise; throws OdError for what is no finite number. 0 for a new one.
     virtual void setRotAngle(double angle) = 0;
 };

@@ -11,7 +11,7 @@ class KV_EXPORT OdEditor
 public:
     virtual ~OdEditor() = default;
 
-    /// Adding a reactor twice has no further effect.
+    /// Adding a reactor twice has no further effect, nor has null.
     virtual void addReactor(OdEditorReactor *reactor) = 0;
     /// Removing one that was not added has no effect.
     virtual void removeReactor(OdEditorReactor *reactor) = 0;

@@ -11,8 +11,9 @@ class KV_EXPORT CKvDialog : public QDialog
     Q_OBJECT
 
 public:
-    /// Belongs to `parent`, which may delete it at any time, also while it runs; commonly the host's main window. Null
-    /// in a run without windows: then the caller is the owner.
+    /// Not shown yet. Belongs to `parent`, which may delete it at any time, also while it runs; commonly the host's
+    /// main window. Null in a run without windows: then the caller is the owner.
     explicit CKvDialog(QWidget *parent = nullptr);
+    /// Ends a dialog that is running; its exec() returns then, to a caller who must not touch it any more.
     ~CKvDialog() override;
 };

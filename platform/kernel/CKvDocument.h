@@ -26,7 +26,8 @@ public:
     /// The value of a system variable as text; empty for an unknown name. Names are compared without regard to case.
     /// Numbers come with a decimal point whatever the language; OdDbDatabase::getSysVar() has them with their type.
     virtual OdString systemVariable(const OdString &name) const = 0;
-    /// Turns a point of the current user coordinate system into world coordinates, and back.
+    /// Turns a point of the current user coordinate system into world coordinates, and back: of the space that is
+    /// current, model or paper, each of which has a system of its own. Cannot fail.
     virtual OdGePoint3d userToWorld(const OdGePoint3d &point) const = 0;
     virtual OdGePoint3d worldToUser(const OdGePoint3d &point) const = 0;
 };

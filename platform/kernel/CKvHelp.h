@@ -15,6 +15,7 @@ public:
     /// Shows topic number `topic` of `helpFile`; an unknown topic, 0 among them, shows the start page. `keepOpen`
     /// leaves a page that is shown already; `parent` may be null; `style` is the host's window style. Returns at once:
     /// the page stands beside a modal dialog and can be read while that runs. Help that is missing is no error.
+    /// In a run without windows it may do no more than name the page on the command line.
     virtual void Help(const OdString &helpFile, int topic, bool keepOpen, QWidget *parent, int style) = 0;
 };
 

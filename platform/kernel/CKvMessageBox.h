@@ -21,10 +21,11 @@ public:
     /// plainer hand; without one the box has its text alone.
     static Button warning(QWidget *parent, const QString &title, const QString &text, Buttons buttons = QMessageBox::Ok,
                           const QString &explanation = {});
-    /// Tells of something that cannot go on.
+    /// Tells of something that cannot go on. Nothing is ended by it.
     static Button critical(QWidget *parent, const QString &title, const QString &text,
                            Buttons buttons = QMessageBox::Ok);
-    /// Asks, and returns one of `buttons`.
+    /// Asks, and returns one of `buttons`. None of them is pressed by itself, so a run that nobody watches needs
+    /// somebody who answers for it.
     static Button question(QWidget *parent, const QString &title, const QString &text,
                            Buttons buttons = QMessageBox::Yes | QMessageBox::No);
 };

@@ -43,6 +43,7 @@ public:
     virtual OdString stringSetting(const OdString &globalName, const OdString &localName) const = 0;
     /// Keeps the setting from now on. Where it cannot, the host tells the user.
     virtual void setStringSetting(const OdString &globalName, const OdString &localName, const OdString &value) = 0;
+    /// As of now: a licence may come or run out while the host runs.
     virtual KvLicence licenceState() const = 0;
 };
 

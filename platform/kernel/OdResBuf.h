@@ -60,6 +60,7 @@ public:
 
     /// A Type, or a DXF group code in the data of records.
     int restype() const { return m_type; }
+    // The value, see above for those of another kind. A point in two dimensions has z 0.
     OdString getString() const;
     qint64 getInteger() const;
     double getDouble() const;
@@ -85,6 +86,7 @@ using OdResBufPtr = std::unique_ptr<OdResBuf>;
 /// kRtCancel cancels the expression that it stands in, and every other code ends it with the result that was set.
 enum KvResult : int
 {
+    // The numbers are the dialect's, and so are those of the types above.
     kRtNormal = 5100,   ///< done
     kRtNone = 5000,     ///< an empty answer where no default was given
     kRtError = -5001,   ///< wrong arguments

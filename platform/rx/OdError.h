@@ -4,7 +4,8 @@
 #include "platform/rx/OdString.h"
 
 /// What operations of the drawing database throw where their comments say so. It passes through the module's own code
-/// only; the module turns it into a failed call whose reason is on the command line.
+/// only; the module turns it into a failed call whose reason is on the command line. It is thrown and caught on both
+/// sides of the boundary, so its type information is the host's.
 class KV_EXPORT OdError
 {
 public:

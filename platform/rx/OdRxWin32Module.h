@@ -28,6 +28,7 @@ public:
         return s_module;
     }
 
+    // Counted for whoever asks: nothing follows from it.
     void addRef() override { m_references.fetch_add(1); }
     void release() override { m_references.fetch_sub(1); }
     long numRefs() const override { return m_references.load(); }
@@ -48,6 +49,7 @@ private:
     /// The longest path of the system that the name comes from, its ending zero included.
     static constexpr int fileNameCapacity = 260;
 
+    /// Made by instance() alone, in memory that deleteModule() can give back.
     explicit OdRxWin32Module(void *handle) : m_handle(handle) {}
 
     /// The host's handler may free memory, throw or end the process; what it does not solve is a std::bad_alloc.
@@ -61,7 +63,7 @@ private:
         throw std::bad_alloc();
     }
 
-    inline static OdRxWin32Module *s_module = nullptr;
-    std::atomic<int> m_references{0};
-    void *m_handle;
+    inline static OdRxWin32Module *s_module = nullptr; ///< null before the first call and after deleteModule()
+    std::atomic<int> m_references{0};                  ///< may be counted from any thread
+    void *m_handle;                                    ///< the loader's of the file
 };

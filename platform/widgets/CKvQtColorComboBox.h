@@ -7,7 +7,8 @@
 #include <QStyleOptionComboBox>
 
 /// A combo box of the colours of a drawing. The text of an item is its index number in decimal, so that a number set
-/// as the current text picks the colour; what is shown is a swatch and the colour's name.
+/// as the current text picks the colour; what is shown is a swatch and the colour's name. So the text is what a state
+/// file and Lisp have of it, in every language.
 class KV_EXPORT CKvQtColorComboBox : public QComboBox
 {
     Q_OBJECT
