@@ -17,7 +17,8 @@ std::optional<OdString> askForText(const char *prompt);
 /// Asks so for the path of the state file. Whether there is such a file is not looked at.
 std::optional<OdString> askForStateFile();
 
-/// The window that dialogs are shown over; null when there is none.
+/// The window that dialogs are shown over, which owns them; null when there is none, as in a run of a program without
+/// windows or before the host has started.
 QWidget *dialogParent();
 
 /// For a class derived from ToolDialog: in what the dialog of a command differs from the plain case. A null function

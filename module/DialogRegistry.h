@@ -11,7 +11,8 @@ class QWidget;
 class DialogRegistry
 {
 public:
-    /// The one of the process; records left in it go when the module's code is unloaded.
+    /// The one of the process, made on the first call; records left in it go when the module's code is unloaded,
+    /// without their dialogs when the application has ended by then.
     static DialogRegistry &instance();
 
     /// Adds an empty record for `document` at the end.

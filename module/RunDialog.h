@@ -46,7 +46,15 @@ enum class ExtraArguments
 };
 
 /// In what a Dlg_ function differs from the plain case: one string comes in, the state is loaded and saved, T or nil
-/// goes back. A null function means the plain case.
+/// goes back. A null function means the plain case, so a row names what is different alone:
+///
+///     return runDialog<Dlg_QT_MergeSheets>(
+///         DialogSlot::MergeSheets,
+///         {.firstArgument = FirstArgument::Present,
+///          .extraArguments = ExtraArguments::List,
+///          .takeExtra = [](Dlg_QT_MergeSheets &dialog, const OdResBuf *rest) { dialog.setSheets(strings(rest)); }});
+///
+/// Links that the functions are given belong to the engine and may be read during the call only.
 template <class Dialog>
 struct DialogPeculiarities
 {
@@ -84,8 +92,8 @@ OdResBufPtr shortList(const QList<int> &numbers);
 /// no string in a list is passed over, lists in lists give theirs to the outer one.
 QList<QStringList> stringLists(const OdResBuf *rest);
 
-/// Gives back what the function no longer needs of its arguments, before the dialog runs. Links that were given back may
-/// not be read any more.
+/// Gives back what the function no longer needs of its arguments, before the dialog runs. Links that were given back
+/// may not be read any more.
 void releaseArguments(CKvLispEngine &lisp, ExtraArguments extra);
 
 /// The same for a dialog of a known class, which is the one that has the slot.
@@ -133,6 +141,10 @@ void giveRejection(Dialog &dialog, CKvLispEngine &lisp, const DialogPeculiaritie
 /// The common body of the Dlg_ functions: shows the active document's dialog in `slot`, which keeps its widgets from
 /// call to call, and gives the outcome to Lisp. Returns 5100, or -5001 with no dialog shown and no result set when
 /// the arguments are wrong or the active document has no record.
+///
+/// In this order: the function is refused or not; the dialog is found or made; the arguments are checked; the state is
+/// loaded, and the dialog gets what `takeFirst` and `takeExtra` have for it; the arguments are given back; the dialog
+/// runs; when it was accepted the state is saved; the result is set.
 ///
 /// A dialog that is destroyed while it runs, as by the closing of its document, gives no result.
 template <class Dialog>
