@@ -11,6 +11,9 @@ class Dlg_QT_GetBlockInfo;
 
 /// The block information report: the blocks of the drawing with the number of their references, which the Lisp program
 /// counts, to be written to a text file or, by the Lisp program, to be put into the drawing as a table.
+///
+/// Both ways take the blocks as they are shown, in their order, and close the dialog. A file that cannot be written is
+/// told on the command line; what was there before stays.
 class Dlg_QT_GetBlockInfo final : public ToolDialog
 {
     Q_OBJECT
@@ -31,9 +34,12 @@ protected:
 private:
     void fillTable();
     void exportToTable();
+    /// Closes, asks for the file and writes it before the Lisp program goes on.
     void ClickInFileButton();
+    /// Each click on any column turns the direction.
     void ClickHeaderTable(int column);
 
+    /// Those with nested references or without them, as the user wants it.
     QStringList sortedEntries() const;
 
     std::unique_ptr<Ui::Dlg_QT_GetBlockInfo> m_ui;

@@ -16,7 +16,9 @@ class Dlg_QT_ImportBlockAttributes;
 /// The selected rows go to the Lisp program, which gives them to the blocks of the drawing: the state file has them
 /// under "attributes" in the form of ortakit::attributeText(), in place of what a table writes there.
 ///
-/// Each showing reads the file again.
+/// Each showing reads the file again. The field holds the path of the file that the table is from: one that leads
+/// nowhere is told and goes. A file that cannot be read, or holds more than a table takes, leaves the table empty; a
+/// user who does not wait for one keeps the table and the file of before. Nothing is ever written to the file.
 class Dlg_QT_ImportBlockAttributes final : public ToolDialog
 {
     Q_OBJECT
@@ -41,10 +43,14 @@ private:
     using TableItems = std::vector<std::unique_ptr<QTableWidgetItem>>;
 
     void SelectFileAtt();
+    /// Enter in the field of the file.
     void fillAttributes();
+    /// Selects all cells, or none.
     void Select();
     void SelectChanged();
+    /// In the texts of the selected cells, in any mix of cases.
     void replace();
+    /// OK: hands the rows that are selected as a whole to the state.
     void ReadSelected();
     void ClickHeaderTable(int column);
 
@@ -54,7 +60,9 @@ private:
     void takeFile(Report report);
     bool readTable(const QString &path, Report report);
     void showTable(const QStringList &headers, int rowCount, TableItems items);
+    /// Turns on what needs a selection.
     void followSelection();
+    /// From one range of the selection to the next.
     QList<QTableWidgetItem *> selectedItems() const;
     QStringList headers() const;
     QStringList rowTexts(int row) const;

@@ -17,7 +17,9 @@ class Dlg_QT_LispExplorer;
 /// Lisp engine holds, as a catalogue file lists them.
 ///
 /// Takes no part in the exchange of states and has no result. Each time it is shown it reads the folder again; what the
-/// last catalogue said stays until the next one is read.
+/// last catalogue said stays until the next one is read. Files are read and never written; a file can be loaded into
+/// the engine of the active document, where its programs may do anything, even close the document and with it the
+/// dialog.
 class Dlg_QT_LispExplorer final : public ToolDialog
 {
     Q_OBJECT
@@ -38,17 +40,25 @@ protected:
 private:
     void ClickHeaderTable(int column);
     void Selectdirectory();
+    /// Lists the functions of the file; one that cannot be read is told.
     void Openfile(QListWidgetItem *item);
     void OpenfileFromInt(int row);
+    /// -1 for none.
     void OnFunctionSelected(int row);
+    /// Shows the parts of the function that are wanted: its header, its body or both.
     void updateFunctionView();
+    /// Goes to the next match, from the beginning again behind the last one.
     void OnSearchClicked();
     void OnSearchTyped();
+    /// Lists the symbols of the kind that is wanted.
     void fillKoraTabs();
+    /// Loads the selected file into the engine.
     void LoadInKora();
+    /// Changes between the page of files and that of loaded symbols.
     void changeType();
     void changeKora();
     void Loaddirectory();
+    /// Writes the catalogue to a file.
     void lispDump();
 
     void setUpLibraryPage();
@@ -59,6 +69,7 @@ private:
     void showEntry(int row);
     void updateSearchControls();
     void focusBeginning();
+    /// The catalogue's lines of the kind that is wanted.
     const QStringList &chosenSymbols() const;
 
     std::unique_ptr<Ui::Dlg_QT_LispExplorer> m_ui;
