@@ -1,5 +1,5 @@
-// Any text as a recorded session: every line is a step, an error or nothing, or writes what a part has, of which there
-// is no end of steps; a step's own text reads as that step, and the lines of a session mean what each means by itself.
+// Any text as a recorded session: every line is steps, errors or nothing, and a step's own text reads as that step: the
+// lines of a session mean what each means by itself.
 
 #include "fuzz/Require.h"
 #include "host/app/playback/PlaybackScript.h"
@@ -20,6 +20,9 @@ void requireInOrder(const QList<Step> &steps, int before, qsizetype lines)
     for (const Step &step : steps) {
         require(step.line >= before && step.line > 0 && step.line <= lines);
         before = step.line;
+        // What a part was given may have line feeds in it, which no line has.
+        if (step.source.contains(u'\n'))
+            continue;
         const PlaybackScript alone = parsePlayback(step.source);
         require(alone.errors.isEmpty() && alone.steps.size() == 1);
         requireEqual(step, alone.steps.first());
