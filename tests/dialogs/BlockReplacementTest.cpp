@@ -221,8 +221,12 @@ TEST_F(ReplaceBlockToXref, ApplyChecksInOrder)
         EXPECT_TRUE(shown.join(u' ').contains(message) && shown.isEmpty() == message.isEmpty());
         EXPECT_EQ(isAccepted(), message.isEmpty()) << replaced.toStdString();
     }
-    EXPECT_EQ(savedState(), u"blockstable=7^DOOR^WALL^\n!action!=OK\ndirectory=%1\nblockstablerep=a.dwg^\n"
-                            "purgeitems=FALSE\n"_s.arg(refs));
+    EXPECT_EQ(savedState(), uR"(blockstable=7^DOOR^WALL^
+!action!=OK
+directory=%1
+blockstablerep=a.dwg^
+purgeitems=FALSE
+)"_s.arg(refs));
 }
 
 TEST_F(ReplaceBlockToXref, AFolderIsTypedAndEnteredOrChosen)

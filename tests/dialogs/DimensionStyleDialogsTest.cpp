@@ -1,18 +1,12 @@
 #include "dialogs/dimensionstyle/Dlg_QT_ExchangedDimensionStyle.h"
 #include "dialogs/dimensionstyle/Dlg_QT_ImportDimensionStyle.h"
 #include "tests/dialogs/DialogTest.h"
+#include "tests/support/Texts.h"
 
 namespace {
 
-QByteArray section(const char *name, const char *body)
-{
-    return "DIMENSION_STYLE_NAME " + QByteArray(name) + "\r\n" + body + "END_OF_STYLE\r\n";
-}
-
-const QByteArray isoSection =
-    section("ISO-25", "DIMFILE 1\r\nDIMSCALE 2.5\r\nDIMASZ 3 x\r\nDIMLT DASHED 14\r\n*D,d\r\nA,1,-1 x\r\nEMPTY\r\n"
-                      "DIMTXSTY Roman\r\nDIMTXT_FONT romans\r\n");
-const QByteArray archSection = section("Arch Small", "DIMFILE 1\r\nDIMTXSTY Standard\r\n");
+const QByteArray isoSection = testText("dialogs/dimensionstyle/iso.dim"); // lines end with "\r\n"
+const QByteArray archSection = testText("dialogs/dimensionstyle/arch.dim");
 
 template <class Dialog>
 class DimensionStyleDialog : public DialogTest<Dialog>

@@ -1,12 +1,10 @@
 #include "dialogs/importblockattributes/Dlg_QT_ImportBlockAttributes.h"
 #include "tests/dialogs/DialogTest.h"
+#include "tests/support/Texts.h"
 
 namespace {
 
-const QByteArray doorTable = "HANDLE\tNAME\tNUMBER\n"
-                             "'1A\tDOOR\tD-2\n"
-                             "'1B\tdoor\tABCabc\tsurplus\n"
-                             "'1C\tGATE\n";
+const QByteArray doorTable = testText("dialogs/importblockattributes/doors.txt");
 
 class ImportBlockAttributes : public DialogTest<Dlg_QT_ImportBlockAttributes>
 {

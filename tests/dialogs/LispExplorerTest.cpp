@@ -1,5 +1,6 @@
 #include "dialogs/lispexplorer/Dlg_QT_LispExplorer.h"
 #include "tests/dialogs/DialogTest.h"
+#include "tests/support/Texts.h"
 
 #include <QListWidget>
 #include <QPlainTextEdit>
@@ -180,9 +181,7 @@ TEST_F(LispExplorer, LoadsTheSelectedFile)
               (QStringList{folder + u"/plan.lsp"_s, folder + u"/PLAN.LSP"_s, folder + u"/lsp.lsp"_s}));
 }
 
-const QByteArray symbolCatalogue =
-    "VARIABLE!pi!REAL!3.14\nFUNCTION!car!SUBR!Built in!<car>\nCOMMAND!C:B!USUBR!Lisp!<b>\n"
-    "VARIABLE!title!STR!Ground floor\nCOMMAND!C:A!USUBR!Lisp!<a>\nFUNCTION!short\n";
+const QByteArray symbolCatalogue = testText("dialogs/lispexplorer/catalogue");
 
 TEST_F(LispExplorer, ShowsAndDumpsWhatTheCatalogueSays)
 {

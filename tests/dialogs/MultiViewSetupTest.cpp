@@ -126,8 +126,16 @@ TEST_F(MultiViewSetup, EachButtonClosesWithItsWord)
 TEST_F(MultiViewSetup, TheFirstShowingTakesTheState)
 {
     addFiles(u"own"_s, {u"a3.dwg"_s, u"a4.dwg"_s});
-    showWith(u"directory=%1\nlstblocks=a4.dwg^\nunitstitle=Meters\nspacemodel=TRUE\nmsmetric=TRUE\nmslstscales=1:50^\n"
-             "curscale=55\noplay=TRUE\nlayer=SHEET\n"_s.arg(host.path(u"own"_s)));
+    showWith(uR"(directory=%1
+lstblocks=a4.dwg^
+unitstitle=Meters
+spacemodel=TRUE
+msmetric=TRUE
+mslstscales=1:50^
+curscale=55
+oplay=TRUE
+layer=SHEET
+)"_s.arg(host.path(u"own"_s)));
     EXPECT_EQ(listed(), (QStringList{u"a3.dwg"_s, u"a4.dwg"_s}));
     EXPECT_TRUE(isEnabled("InsertTitle"));
     EXPECT_TRUE(isEnabled("layer"));

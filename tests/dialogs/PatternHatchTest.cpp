@@ -2,6 +2,7 @@
 #include "platform/widgets/CKvQtUnitSpinBox.h"
 #include "state/widgets/DrawingPreview.h"
 #include "tests/dialogs/DialogTest.h"
+#include "tests/support/Texts.h"
 
 #include <QMenu>
 #include <QtMath>
@@ -27,9 +28,7 @@ protected:
     /// reference.
     QString drawing(const QString &name) const
     {
-        const QString beside =
-            qEnvironmentVariable("ORTAKIT_SOURCE") + u"/tests/dialogs/patternhatch/%1.dxf"_s.arg(name);
-        return host.writeFile(name + u".dwg"_s, FakeHost::readFile(beside));
+        return host.writeFile(name + u".dwg"_s, testText(qPrintable(u"dialogs/patternhatch/%1.dxf"_s.arg(name))));
     }
     QString writeImage(const QString &name, const QSize &size) const
     {
@@ -215,8 +214,12 @@ TEST_F(PatternHatch, ButtonsFollowBoundaryAndSource)
 // Drawings and patterns may be called after their sizes.
 TEST_F(PatternHatch, NamesAreNotTakenForValues)
 {
-    enter(u"NEW"_s, u"lbtitleblock=/blocks/door width=900,height=2100.dwg\npatternname=rotation=5\nwidth=3\nheight=4\n"
-                    "rotation=45\n"_s);
+    enter(u"NEW"_s, uR"(lbtitleblock=/blocks/door width=900,height=2100.dwg
+patternname=rotation=5
+width=3
+height=4
+rotation=45
+)"_s);
     EXPECT_EQ(shownSize(), QSizeF(3, 4));
     EXPECT_NEAR(value("Rotation"), M_PI_4, 1e-9);
 }
@@ -235,10 +238,21 @@ TEST_F(PatternHatch, LongNamesAreShownShortAndKeptWhole)
 
 TEST_F(PatternHatch, FavouritesKeepValuesAndFileAndLeaveTheBoundary)
 {
-    enter(u"NEW"_s, u"lbtitleblock=%1\naspectratio=TRUE\nwidth=6\nrotation=30\nqtentities=2\n"_s.arg(block));
+    enter(u"NEW"_s, uR"(lbtitleblock=%1
+aspectratio=TRUE
+width=6
+rotation=30
+qtentities=2
+)"_s.arg(block));
     auto *box = find<QComboBox>("Cb_Favorits");
     saveFavourite("Cb_Favorits", "Btn_SaveFav", u"Door pattern"_s);
-    enter(u"NEW"_s, u"pattern_mask=TRUE\nlbtitleblock=other.dwg\naspectratio=FALSE\nwidth=1\nheight=9\nrotation=0\n"_s);
+    enter(u"NEW"_s, uR"(pattern_mask=TRUE
+lbtitleblock=other.dwg
+aspectratio=FALSE
+width=1
+height=9
+rotation=0
+)"_s);
     pickFavourite("Cb_Favorits", u"Door pattern"_s);
     EXPECT_TRUE(find("Pageblock")->isVisible());
     EXPECT_EQ(fullText("LbTitleblock"), block);

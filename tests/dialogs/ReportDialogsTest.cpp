@@ -4,6 +4,7 @@
 #include "dialogs/exportsettings/Dlg_QT_ExportSettings.h"
 #include "dialogs/getblockinfo/Dlg_QT_GetBlockInfo.h"
 #include "tests/dialogs/DialogTest.h"
+#include "tests/support/Texts.h"
 
 #include <QDialogButtonBox>
 #include <QTextEdit>
@@ -29,12 +30,7 @@ TEST_F(ExportInfo, WritesTheReport)
     host.writeFile(u"report.txt"_s, QByteArray(5000, 'x'));
     shownChoosing("acceptButton", reportPath, {QMessageBox::Yes});
     EXPECT_TRUE(isAccepted());
-    const QString rule = QString(36, u'@') + u'\n';
-    EXPECT_EQ(QString::fromUtf8(FakeHost::readFile(reportPath)),
-              rule + u"\t\tUSER INFORMATION\n"_s + rule +
-                  u"NAME:   Ann\nE-MAIL: ann@example.com\nPHONE:  12\n\nISSUE DESCRIPTION:\nIt\nst\u00F6ps\n\n"_s +
-                  rule + u"\tSTEPS TO REPRODUCE THE ISSUE\n"_s + rule + u"1. \n2. \n3. \n4. \n5. \n... \n\n"_s + rule +
-                  u"\tSYSTEM INFORMATION\n"_s + rule + u"\nOS=x\n\nRAM=<b>y</b>"_s);
+    EXPECT_EQ(FakeHost::readFile(reportPath), testText("dialogs/exportinfo/report.txt"));
     EXPECT_EQ(savedState(), u"lineedit=Ann\n!action!=\nlineedit_2=ann@example.com\nlineedit_3=12\n"_s);
 
     // Whether or not a report is written, the dialog ends with acceptance; each call begins with the template.
@@ -71,9 +67,7 @@ protected:
     QString shown() const { return find<QTextEdit>("plainTextEdit")->toPlainText(); }
     void choose(int type) { find<QComboBox>("Type")->setCurrentIndex(type); }
 
-    const QByteArray listing =
-        "(setvar \"A\" 1)\n(setvar \"B\" 2) ;dangerous\n(setvar \"C\" 3) ;read-only\n"
-        "(setvar \"D\" 4) ;dangerous read-only\nE Read-only DANGEROUS readonly\nnon-dangerously\n";
+    const QByteArray listing = testText("dialogs/exportsettings/listing.txt");
     QString script = host.path(u"out.scr"_s);
 };
 
@@ -97,9 +91,12 @@ TEST_F(ExportSettings, ModeNamesTheDialogAndItsButton)
 
 TEST_F(ExportSettings, WhatIsShownIsWhatIsSaved)
 {
-    const QByteArray a = "(setvar \"A\" 1)\nE Read-only DANGEROUS readonly";
-    const QByteArray b = "(setvar \"B\" 2) ;dangerous\nnon-dangerously";
-    const QByteArray c = "(setvar \"C\" 3) ;read-only\n(setvar \"D\" 4) ;dangerous read-only";
+    const QByteArray a = R"((setvar "A" 1)
+E Read-only DANGEROUS readonly)";
+    const QByteArray b = R"((setvar "B" 2) ;dangerous
+non-dangerously)";
+    const QByteArray c = R"((setvar "C" 3) ;read-only
+(setvar "D" 4) ;dangerous read-only)";
     const std::pair<int, QByteArray> rows[] = {{0, c + '\n' + b + '\n' + a}, {1, c}, {2, b}, {3, a}};
     showListing(listing, u"new"_s);
     for (const auto &[type, expected] : rows) {

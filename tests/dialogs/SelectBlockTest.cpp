@@ -3,19 +3,20 @@
 #include "state/widgets/DrawingPreview.h"
 #include "tests/dialogs/DialogTest.h"
 #include "tests/dialogs/NameTables.h"
+#include "tests/support/Texts.h"
 
 namespace {
 
 /// A drawing file with these blocks: "NAME" or "NAME/flags", with blanks between.
 QByteArray drawingWith(const QString &blocks)
 {
-    QByteArray file = "0\nSECTION\n2\nBLOCKS\n";
+    QByteArray file = "0 SECTION 2 BLOCKS ";
     for (const QString &block : blocks.split(u' ', Qt::SkipEmptyParts)) {
-        file += "0\nBLOCK\n8\n0\n2\n" + block.section(u'/', 0, 0).toUtf8() + "\n70\n" +
+        file += "0 BLOCK 8 0 2 " + block.section(u'/', 0, 0).toUtf8() + " 70 " +
                 block.section(u'/', 1, 1).toUtf8().rightJustified(1, '0') +
-                "\n10\n0\n20\n0\n30\n0\n0\nLINE\n8\n0\n10\n0\n20\n0\n11\n9\n21\n9\n0\nENDBLK\n8\n0\n";
+                " 10 0 20 0 30 0 0 LINE 8 0 10 0 20 0 11 9 21 9 0 ENDBLK 8 0 ";
     }
-    return file + "0\nENDSEC\n0\nEOF\n";
+    return dxfText(file + "0 ENDSEC 0 EOF");
 }
 
 bool isLit(const QImage &picture)
