@@ -2,6 +2,7 @@
 
 #include "tests/state/Gallery.h"
 #include "tests/support/ModuleTest.h"
+#include "tests/support/Texts.h"
 
 namespace {
 
@@ -43,14 +44,7 @@ TEST_F(DialogStateTest, EveryWidgetOfADialogIsWrittenInOrder)
     all.setAction(u"OK"_s);
     all.load(host.path(u"state"_s));
     all.save();
-    const QByteArray expected =
-        bom +
-        "ck_flag=TRUE\n!action!=OK\ntx_edit=typed\nrd_choice=FALSE\ncb_color=256\ncb_color_index=0\ncb_fixed=one\n"
-        "cb_fixed_index=0\ncb_free=anything\ncb_free_index=-1\ncb_favorits=mine\ncb_favorits_index=-1\n"
-        "cb_font=Nowhere Sans\ncb_font_index=-1\nls_names=second\nsp_length=0\nqt_spinbox_lineedit=0.000000\n"
-        "sp_angle=90\nqt_spinbox_lineedit=90\nsp_rotation=0\nqt_spinbox_lineedit=0\nsp_real=0.5\n"
-        "qt_spinbox_lineedit=0.500000\nqt_spinbox_lineedit=3\ntb_pages=0\ntb_rows=Window^\n";
-    EXPECT_EQ(FakeHost::readFile(host.path(u"state"_s)), expected);
+    EXPECT_EQ(FakeHost::readFile(host.path(u"state"_s)), bom + testText("state/gallery.state"));
 }
 
 TEST_F(DialogStateTest, TheActionFollowsTheFirstWidgetAndItsIndex)
@@ -114,7 +108,14 @@ TEST_F(DialogStateTest, ValuesStayUntilALineReplacesThem)
 
 TEST_F(DialogStateTest, AListIsAsLongAsItsLengthSays)
 {
-    loadText("style1=Standard\nstylelength=2\nstyle2=Roman\nstyle3=old\ndimlength=2000000000\ndim7=ISO-25\nodd1=a\n");
+    loadText(R"(style1=Standard
+stylelength=2
+style2=Roman
+style3=old
+dimlength=2000000000
+dim7=ISO-25
+odd1=a
+)");
     EXPECT_EQ(state.lookupList(u"style"_s), (QStringList{u"Standard"_s, u"Roman"_s}));
     EXPECT_EQ(state.lookupList(u"dim"_s), QStringList{u"ISO-25"_s});
     EXPECT_EQ(state.lookupList(u"odd"_s), QStringList());
