@@ -1,20 +1,13 @@
 #include "formats/DimensionStyleFile.h"
 
 #include "tests/formats/Folder.h"
+#include "tests/support/Texts.h"
 
 #include <QBuffer>
 
 namespace {
 
-const char *const isoSection = "DIMENSION_STYLE_NAME ISO-25\r\n"
-                               "DIMFILE 1\r\n"
-                               "DIMTXSTY Roman\r\n"
-                               "DIMTXT_FONT romans.shx\r\n"
-                               "DIMLT DASHED 28\r\n"
-                               "*DASHED,dashes\r\nA,0.5,-0.25 \r\n"
-                               "DIMSCALE 1.5\r\n"
-                               "DIMPOST <> mm\r\n"
-                               "END_OF_STYLE\r\n";
+const QByteArray isoSection = ortakit::test::testText("formats/dimensionstyles/iso.dim"); // lines end with "\r\n"
 
 class DimensionStyleFile : public testing::Test
 {
@@ -127,7 +120,7 @@ TEST_F(DimensionStyleFile, TheTableLeavesOutTheFirstEntryAndThoseWithoutABlank)
 
 TEST_F(DimensionStyleFile, CopiesLineByLine)
 {
-    const QByteArray section = isoSection;
+    const QByteArray &section = isoSection;
     const QByteArray unixSection = QByteArray(section).replace("\r\n", "\n");
     const std::tuple<const char *, QByteArray, QByteArray> rows[] = {
         {"as it is", section, section},
@@ -153,9 +146,7 @@ TEST_F(DimensionStyleFile, CopiesLineByLine)
 TEST_F(DimensionStyleFile, CopiesManyAsOneByOne)
 {
     // Sections that hold headers of others, a header that is an end, and one section that is never closed.
-    const QString path = write("DIMENSION_STYLE_NAME a\nx 1\nDIMENSION_STYLE_NAME b\nx 2\nEND_OF_STYLE\n"
-                               "DIMENSION_STYLE_NAME c\nDIMENSION_STYLE_NAME END_OF_STYLE\nDIMTXT_ 1\nEND_OF_STYLE\n" +
-                               QByteArray(isoSection) + "DIMENSION_STYLE_NAME B\nx 3\nDIMENSION_STYLE_NAME d\nx");
+    const QString path = write(ortakit::test::testText("formats/dimensionstyles/many.dim"));
     const QStringList names = {u"d"_s, u"b"_s, u"END_OF_STYLE"_s, u"c"_s, u"ISO-25"_s, u"a"_s, u"b"_s, u"none"_s};
     for (const TextStyleCopy textStyle : {TextStyleCopy::Full, TextStyleCopy::NameOnly}) {
         QByteArray oneByOne;
