@@ -6,6 +6,7 @@
 #include "platform/kernel/CKvLispEngine.h"
 #include "platform/kernel/CKvUserInput.h"
 #include "tests/kernel/Bench.h"
+#include "tests/support/Texts.h"
 
 using namespace host::kernel;
 
@@ -128,7 +129,7 @@ TEST_F(Bench, noObjectOfAPurgedBlockStaysBehind)
 TEST_F(Bench, aDrawingThatKeepsNoDrawOrderSaysSo)
 {
     session.documents().open(
-        write("old.dxf", "0\nSECTION\n2\nENTITIES\n0\nPOINT\n5\n1\n8\n0\n10\n1\n20\n0\n0\nENDSEC\n0\nEOF\n"));
+        write("old.dxf", ortakit::test::dxfText("0 SECTION 2 ENTITIES 0 POINT 5 1 8 0 10 1 20 0 0 ENDSEC 0 EOF")));
     lisp("(command \"_.DRAWORDER\" (entlast) \"\" \"_Front\")");
     EXPECT_NE(takePrinted().find("A drawing of this version keeps no draw order."), std::string::npos);
     EXPECT_FALSE(document().isModified());

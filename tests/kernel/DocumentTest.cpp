@@ -8,6 +8,7 @@
 #include "platform/kernel/CKvLispEngine.h"
 #include "platform/kernel/CKvSystemServices.h"
 #include "tests/kernel/Bench.h"
+#include "tests/support/Texts.h"
 
 using namespace host::kernel;
 
@@ -15,7 +16,7 @@ namespace {
 
 QByteArray r12File()
 {
-    return "0\nSECTION\n2\nENTITIES\n0\nLINE\n8\n0\n10\n0.0\n20\n0.0\n11\n1.0\n21\n1.0\n0\nENDSEC\n0\nEOF\n";
+    return ortakit::test::dxfText("0 SECTION 2 ENTITIES 0 LINE 8 0 10 0.0 20 0.0 11 1.0 21 1.0 0 ENDSEC 0 EOF");
 }
 
 class DocumentListener final : public CKvDocumentManagerReactor

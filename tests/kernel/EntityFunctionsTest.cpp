@@ -1,5 +1,6 @@
 #include "host/drawing/records/Entities.h"
 #include "tests/kernel/Bench.h"
+#include "tests/support/Texts.h"
 
 #include <QFile>
 
@@ -21,23 +22,14 @@ TEST_F(Bench, anglesOfProgramsAreWrittenAsTheyWereMeant)
 /// A small file with odd spelling that must survive what nobody meant to change.
 QByteArray oddFile()
 {
-    return QByteArray(
-        "  0\nSECTION\n  2\nHEADER\n  9\n$ACADVER\n  1\nAC1015\n  9\n$HANDSEED\n  5\nFF\n  0\nENDSEC\n"
-        "  0\nSECTION\n  2\nTABLES\n  0\nTABLE\n  2\nLAYER\n 70\n1\n  0\nLAYER\n  2\n0\n 70\n0\n 62\n7\n"
-        "  6\nCONTINUOUS\n  0\nENDTAB\n  0\nTABLE\n  2\nAPPID\n 70\n1\n  0\nAPPID\n  2\nOTHER\n"
-        " 70\n0\n  0\nENDTAB\n  0\nENDSEC\n  0\nSECTION\n  2\nENTITIES\n"
-        "  0\nTEXT\n  5\n2F\n100\nAcDbEntity\n  8\n0\n100\nAcDbText\n 10\n1.50\n 20\n2.5000\n 30\n0\n 40\n.5\n"
-        "  1\nHi\n 50\n33.333333333333336\n100\nAcDbText\n"
-        "1001\nOTHER\n1000\nkept\n  0\nENDSEC\n  0\nEOF\n");
+    return ortakit::test::testText("kernel/odd/text.dxf");
 }
 
 TEST_F(Bench, ofAnOddFileOnlyWhatIsMeantChanges)
 {
     const QByteArray pointer = "  8\n0\n347\nABC\n100\nAcDbText\n 10"; // a handle that leads nowhere
     // The size that programs see is not the file's.
-    const QByteArray paragraph =
-        "  0\nMTEXT\n  5\n30\n100\nAcDbEntity\n  8\n0\n100\nAcDbMText\n 10\n1.50\n 20\n2\n 30\n"
-        "0\n 40\n.5\n  1\nHi\n 42\n99.0\n  0\nENDSEC\n  0\nEOF";
+    const QByteArray paragraph = ortakit::test::testText("kernel/odd/paragraph.tags");
     const struct
     {
         const char *what;

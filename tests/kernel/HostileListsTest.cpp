@@ -4,6 +4,7 @@
 #include "host/drawing/records/Drawing.h"
 #include "tests/kernel/Bench.h"
 #include "tests/support/CaseFile.h"
+#include "tests/support/Texts.h"
 
 namespace {
 
@@ -29,9 +30,8 @@ class HostileLists : public Bench, public testing::WithParamInterface<QByteArray
 TEST_P(HostileLists, leaveAFileThatOpensAgainWithTheSameRecords)
 {
     if (!GetParam().isEmpty()) {
-        const QString path = write("early.dxf", "0\nSECTION\n2\nHEADER\n" + GetParam() +
-                                                    "0\nENDSEC\n0\nSECTION\n2\nENTITIES\n0\nPOINT\n8\n0\n10\n1\n20\n2\n"
-                                                    "0\nENDSEC\n0\nEOF\n");
+        const QString path = write("early.dxf", ortakit::test::dxfText("0 SECTION 2 HEADER " + GetParam() + R"( 0 ENDSEC
+            0 SECTION 2 ENTITIES 0 POINT 8 0 10 1 20 2 0 ENDSEC 0 EOF)"));
         ASSERT_TRUE(session.documents().open(path));
     }
     const auto file = ortakit::test::readCases(ortakit::test::testFile("kernel/hostile.lsp"));
@@ -49,10 +49,9 @@ TEST_P(HostileLists, leaveAFileThatOpensAgainWithTheSameRecords)
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    versions, HostileLists,
-    testing::Values(QByteArray(), QByteArray("9\n$ACADVER\n1\nAC1009\n9\n$HANDLING\n70\n0\n"),
-                    QByteArray("9\n$ACADVER\n1\nAC1009\n9\n$HANDLING\n70\n1\n9\n$HANDSEED\n5\n20\n"),
-                    QByteArray("9\n$ACADVER\n1\nAC1015\n9\n$DWGCODEPAGE\n3\nANSI_932\n")));
+INSTANTIATE_TEST_SUITE_P(versions, HostileLists,
+                         testing::Values(QByteArray(), QByteArray("9 $ACADVER 1 AC1009 9 $HANDLING 70 0"),
+                                         QByteArray("9 $ACADVER 1 AC1009 9 $HANDLING 70 1 9 $HANDSEED 5 20"),
+                                         QByteArray("9 $ACADVER 1 AC1015 9 $DWGCODEPAGE 3 ANSI_932")));
 
 } // namespace

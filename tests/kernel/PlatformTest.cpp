@@ -6,12 +6,15 @@
 #include "platform/rx/OdRxWin32Module.h"
 #include "platform/widgets/CKvQtColorComboBox.h"
 #include "tests/kernel/Bench.h"
+#include "tests/support/Texts.h"
 
 #include <QAbstractButton>
 #include <QApplication>
 #include <QTimer>
 
 #include <gtest/gtest.h>
+
+using ortakit::test::dxfText;
 
 namespace {
 
@@ -163,12 +166,12 @@ TEST(Utils, darkStyleFollowsThePalette)
 QByteArray fileWithReferences()
 {
     const auto block = [](const QByteArray &name, int flags, const QByteArray &path) {
-        return "0\nBLOCK\n8\n0\n2\n" + name + "\n70\n" + QByteArray::number(flags) + "\n10\n0\n20\n0\n30\n0\n3\n" +
-               name + "\n1\n" + path + "\n0\nENDBLK\n8\n0\n";
+        return dxfText("0 BLOCK 8 0 2 " + name + " 70 " + QByteArray::number(flags) + " 10 0 20 0 30 0 3 " + name) +
+               "1\n" + path + '\n' + dxfText("0 ENDBLK 8 0");
     };
-    const QByteArray file = "0\nSECTION\n2\nBLOCKS\n" + block("PLAIN", 0, "") + block("SITE", 4, "..\\site\\plan.dwg") +
-                            block("OVER", 12, "/drawings/over.dwg");
-    return file + "0\nENDSEC\n0\nSECTION\n2\nENTITIES\n0\nCIRCLE\n8\n0\n10\n5\n20\n5\n40\n4\n0\nENDSEC\n0\nEOF\n";
+    return dxfText("0 SECTION 2 BLOCKS") + block("PLAIN", 0, "") + block("SITE", 4, "..\\site\\plan.dwg") +
+           block("OVER", 12, "/drawings/over.dwg") +
+           dxfText("0 ENDSEC 0 SECTION 2 ENTITIES 0 CIRCLE 8 0 10 5 20 5 40 4 0 ENDSEC 0 EOF");
 }
 
 TEST_F(Bench, drawingsReferTo)
@@ -212,10 +215,11 @@ TEST_F(Bench, drawingsHaveTheSizeOfWhatTheyShow)
         QSizeF size;
     } rows[] = {
         {"a circle of radius 4", fileWithReferences(), {8, 8}},
-        {"nothing in it", "0\nSECTION\n2\nENTITIES\n0\nENDSEC\n0\nEOF\n", {}},
+        {"nothing in it", dxfText("0 SECTION 2 ENTITIES 0 ENDSEC 0 EOF"), {}},
         {"a line on a layer that is off",
-         "0\nSECTION\n2\nTABLES\n0\nTABLE\n2\nLAYER\n0\nLAYER\n2\nHIDDEN\n70\n0\n62\n-7\n6\nCONTINUOUS\n0\nENDTAB\n"
-         "0\nENDSEC\n0\nSECTION\n2\nENTITIES\n0\nLINE\n8\nHIDDEN\n10\n0\n20\n0\n11\n5\n21\n5\n0\nENDSEC\n0\nEOF\n",
+         dxfText(R"(
+            0 SECTION 2 TABLES 0 TABLE 2 LAYER 0 LAYER 2 HIDDEN 70 0 62 -7 6 CONTINUOUS 0 ENDTAB 0 ENDSEC
+            0 SECTION 2 ENTITIES 0 LINE 8 HIDDEN 10 0 20 0 11 5 21 5 0 ENDSEC 0 EOF)"),
          {}},
         {"no drawing", "\x89PNG", {}},
     };

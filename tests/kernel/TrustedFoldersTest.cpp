@@ -1,5 +1,6 @@
 #include "tests/kernel/Bench.h"
 #include "tests/support/CaseFile.h"
+#include "tests/support/Texts.h"
 
 #include <QDir>
 
@@ -35,7 +36,8 @@ protected:
         QDir::setCurrent(path("work"));
         session.setSupportFolders({path("support")});
         session.trustedFolders().setNamed(path("named") + u";work;"_s + path("open"));
-        EXPECT_TRUE(session.documents().open(write("beside/plan.dxf", "0\nSECTION\n2\nENTITIES\n0\nENDSEC\n0\nEOF\n")));
+        EXPECT_TRUE(session.documents().open(
+            write("beside/plan.dxf", ortakit::test::dxfText("0 SECTION 2 ENTITIES 0 ENDSEC 0 EOF"))));
         lisp("(defun run (x) (load x 'refused)) (setq top \"" + folder.path().toStdString() + "/\")");
     }
     ~TrustedFoldersTest() override { QDir::setCurrent(m_before); }
@@ -107,7 +109,7 @@ TEST_F(TrustedFoldersTest, DrawingsNameFilesOfTheirFolder)
     for (const char *file :
          {"beside/note.txt", "beside/support/deep.txt", "work/out.txt", "named/kept.txt", "open/later.txt"})
         write(file, "x");
-    write("work/other.dxf", "0\nSECTION\n2\nENTITIES\n0\nENDSEC\n0\nEOF\n");
+    write("work/other.dxf", ortakit::test::dxfText("0 SECTION 2 ENTITIES 0 ENDSEC 0 EOF"));
     QFile::link(path("work/out.txt"), path("beside/link.txt"));
     mkfifo(qPrintable(path("beside/pipe")), 0666);
     session.trustedFolders().setNamed(path("open"), TrustedFolders::List::Read);
