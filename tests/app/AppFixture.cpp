@@ -3,6 +3,7 @@
 #include "host/lisp/Arguments.h"
 #include "host/lisp/Interpreter.h"
 #include "tests/app/SampleBox.h"
+#include "tests/support/Texts.h"
 
 #include <QDir>
 #include <QFile>
@@ -16,17 +17,16 @@ namespace host::app::test {
 
 QByteArray smallDrawing()
 {
-    return "0\nSECTION\n2\nHEADER\n9\n$ACADVER\n1\nAC1015\n9\n$HANDSEED\n5\n100\n0\nENDSEC\n"
-           "0\nSECTION\n2\nTABLES\n0\nTABLE\n2\nLAYER\n5\n2\n100\nAcDbSymbolTable\n70\n1\n"
-           "0\nLAYER\n5\n10\n100\nAcDbSymbolTableRecord\n100\nAcDbLayerTableRecord\n2\n0\n70\n0\n62\n7\n6\nCONTINUOUS\n"
-           "0\nENDTAB\n0\nENDSEC\n"
-           "0\nSECTION\n2\nENTITIES\n"
-           "0\nLINE\n5\n2A\n100\nAcDbEntity\n8\n0\n100\nAcDbLine\n10\n0.0\n20\n0.0\n30\n0.0\n11\n10.0\n21\n0.0\n31\n0."
-           "0\n"
-           "0\nCIRCLE\n5\n2B\n100\nAcDbEntity\n8\n0\n100\nAcDbCircle\n10\n5.0\n20\n5.0\n30\n0.0\n40\n2.0\n"
-           "0\nLINE\n5\n2C\n100\nAcDbEntity\n8\n0\n100\nAcDbLine\n10\n0.0\n20\n10.0\n30\n0.0\n11\n10.0\n21\n10."
-           "0\n31\n0.0\n"
-           "0\nENDSEC\n0\nEOF\n";
+    return ortakit::test::dxfText(R"(
+0 SECTION 2 HEADER 9 $ACADVER 1 AC1015 9 $HANDSEED 5 100 0 ENDSEC
+0 SECTION 2 TABLES 0 TABLE 2 LAYER 5 2 100 AcDbSymbolTable 70 1
+0 LAYER 5 10 100 AcDbSymbolTableRecord 100 AcDbLayerTableRecord 2 0 70 0 62 7 6 CONTINUOUS
+0 ENDTAB 0 ENDSEC
+0 SECTION 2 ENTITIES
+0 LINE 5 2A 100 AcDbEntity 8 0 100 AcDbLine 10 0.0 20 0.0 30 0.0 11 10.0 21 0.0 31 0.0
+0 CIRCLE 5 2B 100 AcDbEntity 8 0 100 AcDbCircle 10 5.0 20 5.0 30 0.0 40 2.0
+0 LINE 5 2C 100 AcDbEntity 8 0 100 AcDbLine 10 0.0 20 10.0 30 0.0 11 10.0 21 10.0 31 0.0
+0 ENDSEC 0 EOF)");
 }
 
 QString TestFolder::write(const QString &name, const QByteArray &bytes) const

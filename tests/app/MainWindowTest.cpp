@@ -55,8 +55,9 @@ struct MainWindowTest : testing::Test, TestFolder
 {
     MainWindowTest()
     {
-        write(u"tools/sample.lsp"_s, ";;; menu: Sample tool | SAMPLETOOL | Prints\n"
-                                     "(defun c:sampletool () (princ \"sample tool\") (princ))\n");
+        write(u"tools/sample.lsp"_s, R"(;;; menu: Sample tool | SAMPLETOOL | Prints
+(defun c:sampletool () (princ "sample tool") (princ))
+)");
         drawing = write(u"small.dxf"_s, smallDrawing());
         window = std::make_unique<MainWindow>(
             WorkbenchOptions{.home = path(u"home"_s), .module = path(u"none.so"_s), .tools = path(u"tools"_s)});
@@ -561,7 +562,7 @@ TEST_F(MainWindowTest, RemembersStyleGroundAndEntries)
 TEST_F(MainWindowTest, PlaysSessionsAndShowsWhatIsAsked)
 {
     const PlaybackScript script =
-        parsePlayback(u"lisp (setq p (getpoint \"\\nFrom: \"))\nscreenshot w.png\npoint 1,2\nexpect-lisp p"_s);
+        parsePlayback(uR"(lisp (setq p (getpoint "\nFrom: ")) ~ screenshot w.png ~ point 1,2 ~ expect-lisp p)"_s);
     PlaybackOptions options;
     options.outFolder = folder.path();
     const PlaybackResult result = window->play(script, options);

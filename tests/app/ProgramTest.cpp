@@ -1,6 +1,7 @@
 #include "tests/app/AppFixture.h"
 #include "tests/support/CaseFile.h"
 #include "tests/support/QtTestPrinters.h"
+#include "tests/support/Texts.h"
 
 #include <QDir>
 #include <QFile>
@@ -39,12 +40,11 @@ struct ProgramTest : testing::Test, TestFolder
         // Blocks within blocks, deeper than they are opened.
         QByteArray blocks;
         for (int i = 0; i < 40; ++i)
-            blocks += "0\nBLOCK\n8\n0\n2\nB" + QByteArray::number(i) + "\n10\n0\n20\n0\n0\nINSERT\n8\n0\n2\nB" +
-                      QByteArray::number(i + 1) + "\n10\n0\n20\n0\n0\nENDBLK\n8\n0\n";
-        write(u"deep.dxf"_s, "0\nSECTION\n2\nBLOCKS\n" + blocks +
-                                 "0\nBLOCK\n8\n0\n2\nB40\n10\n0\n20\n0\n0\nLINE\n8\n0\n10\n0\n20\n0\n11\n9\n21\n9\n0\n"
-                                 "ENDBLK\n8\n0\n0\nENDSEC\n0\nSECTION\n2\nENTITIES\n0\nINSERT\n8\n0\n2\nB0\n10\n0\n20\n"
-                                 "0\n0\nENDSEC\n0\nEOF\n");
+            blocks += "0 BLOCK 8 0 2 B" + QByteArray::number(i) + " 10 0 20 0 0 INSERT 8 0 2 B" +
+                      QByteArray::number(i + 1) + " 10 0 20 0 0 ENDBLK 8 0 ";
+        write(u"deep.dxf"_s, ortakit::test::dxfText("0 SECTION 2 BLOCKS " + blocks + R"(
+            0 BLOCK 8 0 2 B40 10 0 20 0 0 LINE 8 0 10 0 20 0 11 9 21 9 0 ENDBLK 8 0 0 ENDSEC
+            0 SECTION 2 ENTITIES 0 INSERT 8 0 2 B0 10 0 20 0 0 ENDSEC 0 EOF)"));
     }
 
     static QString program() { return qEnvironmentVariable("ORTAKIT_BUILD") + u"/bin/ortakit"_s; }
@@ -116,7 +116,7 @@ TEST_F(ProgramTest, SaysWhatAFullDiskDidNotTakeAndKeepsTheOldFile)
     write(u"closes.lsp"_s, "(setq f (open \"text\" \"w\"))(repeat 200 (write-line \"0123456789\" f))(close f)");
     write(u"forgets.lsp"_s, "(setq f (open \"text\" \"w\"))(repeat 200 (write-line \"0123456789\" f))");
     write(u"saves.lsp"_s, "(command \"LINE\" \"0,0\" \"1,1\" \"\" \"QSAVE\")");
-    write(u"saves.txt"_s, "command LINE\nanswer 0,0\nanswer 1,1\nenter\ncommand QSAVE\n");
+    write(u"saves.txt"_s, "command LINE ~ answer 0,0 ~ answer 1,1 ~ enter ~ command QSAVE\n");
     write(u"lines.lsp"_s, "(princ (list (kora_write_lines \"lines\" '(\"short\" \"\"))"
                           " (kora_write_lines \"lines\" (list (vl-prin1-to-string kora:plain_variables)))))");
     const QString tools = u" --tools "_s + qEnvironmentVariable("ORTAKIT_SOURCE") + u"/tools"_s;
@@ -150,12 +150,12 @@ TEST_F(ProgramTest, SaysWhatAFullDiskDidNotTakeAndKeepsTheOldFile)
 TEST_F(ProgramTest, EndsAToolWhoseDialogCouldNotHandOverWhatWasChosen)
 {
     write(u"show.lsp"_s,
-          "(defun silent (file) T)\n"
-          "(defun writes (file) (kora_writestate file '((\"a\" . \"new\"))) (setq h (open file \"w\"))"
-          " (write-line \"a=new\" h) (close h) T)\n"
-          "(kora_writestate \"tool.state\" '((\"a\" . \"old\")))\n"
-          "(princ (list (kora_show 'silent '(\"tool.state\")) (kora_show 'writes '(\"tool.state\"))\n"
-          " (kora_show 'writes '(\"none/tool.state\")) (kora_state_value (kora_readstate \"tool.state\") \"a\")))");
+          R"((defun silent (file) T)
+(defun writes (file)
+  (kora_writestate file '(("a" . "new"))) (setq h (open file "w")) (write-line "a=new" h) (close h) T)
+(kora_writestate "tool.state" '(("a" . "old")))
+(princ (list (kora_show 'silent '("tool.state")) (kora_show 'writes '("tool.state"))
+ (kora_show 'writes '("none/tool.state")) (kora_state_value (kora_readstate "tool.state") "a"))))");
     const Ended ended = run(u"lisp show.lsp --tools "_s + qEnvironmentVariable("ORTAKIT_SOURCE") + u"/tools"_s);
     EXPECT_EQ(ended.status, 0) << ended.messages.toStdString();
     EXPECT_TRUE(ended.output.contains(u"tool.state could not be written: what was chosen is lost"_s));

@@ -44,88 +44,92 @@ struct SessionPlayerTest : testing::Test, HostFixture
 TEST_F(SessionPlayerTest, PlaysWhatHappens)
 {
     const std::pair<const char *, QString> rows[] = {
-        {"expression", u"lisp (setq x 1)\nexpect-lisp (= x 1)"_s},
-        {"number at a prompt", u"lisp (setq x (getreal \"Size: \"))\nanswer 12.5\nexpect-lisp (= x 12.5)"_s},
-        {"default", u"lisp (setq x (getint \"Count <3>: \"))\nenter\nexpect-lisp (null x)"_s},
-        {"point", u"lisp (setq p (getpoint \"From: \"))\npoint 1,2\nexpect-lisp (equal p '(1.0 2.0 0.0))"_s},
-        {"picked point", u"lisp (setq p (getpoint \"From: \"))\npick 3,4\nexpect-lisp (equal p '(3.0 4.0 0.0))"_s},
+        {"expression", uR"(lisp (setq x 1) ~ expect-lisp (= x 1))"_s},
+        {"number at a prompt", uR"(lisp (setq x (getreal "Size: ")) ~ answer 12.5 ~ expect-lisp (= x 12.5))"_s},
+        {"default", uR"(lisp (setq x (getint "Count <3>: ")) ~ enter ~ expect-lisp (null x))"_s},
+        {"point", uR"(lisp (setq p (getpoint "From: ")) ~ point 1,2 ~ expect-lisp (equal p '(1.0 2.0 0.0)))"_s},
+        {"picked point", uR"(lisp (setq p (getpoint "From: ")) ~ pick 3,4 ~ expect-lisp (equal p '(3.0 4.0 0.0)))"_s},
         {"text with blanks",
-         u"lisp (setq s (getstring T \"Text: \"))\nanswer two words\nexpect-lisp (= s \"two words\")"_s},
-        {"picked entity", u"lisp (setq e (entsel))\npickhandle 2B\nexpect-lisp (= (car e) (handent \"2B\"))"_s},
-        {"selection", u"lisp (setq s (ssget))\nselect 2A 2C\nselect 2B\nenter\nexpect-lisp (= (sslength s) 3)"_s},
-        {"all", u"lisp (setq s (ssget))\nselect all\nenter\nexpect-lisp (= (sslength s) 3)"_s},
+         uR"(lisp (setq s (getstring T "Text: ")) ~ answer two words ~ expect-lisp (= s "two words"))"_s},
+        {"picked entity", uR"(lisp (setq e (entsel)) ~ pickhandle 2B ~ expect-lisp (= (car e) (handent "2B")))"_s},
+        {"selection",
+         uR"(lisp (setq s (ssget)) ~ select 2A 2C ~ select 2B ~ enter ~ expect-lisp (= (sslength s) 3))"_s},
+        {"all", uR"(lisp (setq s (ssget)) ~ select all ~ enter ~ expect-lisp (= (sslength s) 3))"_s},
         {"window takes what is within",
-         u"lisp (setq s (ssget))\nwindow 11,6 -1,-1\nenter\nexpect-lisp (= (sslength s) 1)"_s},
+         uR"(lisp (setq s (ssget)) ~ window 11,6 -1,-1 ~ enter ~ expect-lisp (= (sslength s) 1))"_s},
         {"crossing takes what it touches",
-         u"lisp (setq s (ssget))\ncrossing -1,-1 11,6\nenter\nexpect-lisp (= (sslength s) 2)"_s},
-        {"cancelled prompt", u"lisp (getpoint \"From: \")\ncancel"_s},
-        {"error that is expected", u"lisp (car 5)\nexpect-error bad argument type"_s},
+         uR"(lisp (setq s (ssget)) ~ crossing -1,-1 11,6 ~ enter ~ expect-lisp (= (sslength s) 2))"_s},
+        {"cancelled prompt", uR"(lisp (getpoint "From: ") ~ cancel)"_s},
+        {"error that is expected", uR"(lisp (car 5) ~ expect-error bad argument type)"_s},
         {"printed",
-         u"lisp (princ \"earlier\")\nlisp (princ \"one\\n  two\")\nexpect-printed one two\nexpect-modified no"_s},
-        {"dialog", u"lisp (setq r (samplebox))\ndialog SampleBox\n expect-title Sample\n set _dist_size 2.5\n"
-                   "expect _dist_size 2.5\n type name zigzag\n click accept\n"
-                   "expect-lisp (and r (= entered \"zigzag\"))"_s},
-        {"dialog by base class", u"lisp (samplebox)\ndialog QDialog\nclose"_s},
+         uR"(lisp (princ "earlier") ~ lisp (princ "one\n  two") ~ expect-printed one two ~ expect-modified no)"_s},
+        {"dialog", uR"(lisp (setq r (samplebox)) ~ dialog SampleBox ~ expect-title Sample ~ set _dist_size 2.5
+             expect _dist_size 2.5 ~ type name zigzag ~ click accept ~ expect-lisp (and r (= entered "zigzag")))"_s},
+        {"dialog by base class", uR"(lisp (samplebox) ~ dialog QDialog ~ close)"_s},
         {"message while a click is under way",
-         u"lisp (setq r (samplebox))\ndialog SampleBox\nclick accept\nmessage \"can`t be empty\" Ok\n"
-         "set name old\nclick accept\nmessage Replace No\nclick accept\nmessage Replace Yes\nexpect-lisp r"_s},
+         uR"(lisp (setq r (samplebox)) ~ dialog SampleBox ~ click accept ~ message "can`t be empty" Ok
+             set name old ~ click accept ~ message Replace No ~ click accept ~ message Replace Yes ~ expect-lisp r)"_s},
         {"message in front of a message",
-         u"lisp (samplebox)\ndialog SampleBox\nclick again\nmessage Really Yes\nmessage sure ok\nclose"_s},
+         uR"(lisp (samplebox) ~ dialog SampleBox ~ click again ~ message Really Yes ~ message sure ok ~ close)"_s},
         {"message long behind the click",
-         u"lisp (samplebox)\ndialog SampleBox\nclick later\nmessage Really No\nclose"_s},
+         uR"(lisp (samplebox) ~ dialog SampleBox ~ click later ~ message Really No ~ close)"_s},
         {"looking at a message before it is answered",
-         u"lisp (samplebox)\ndialog SampleBox\nclick again\nscreenshot m.png\nexpect-modified no\n"
-         "message Really No\nclose"_s},
+         uR"(lisp (samplebox) ~ dialog SampleBox ~ click again ~ screenshot m.png ~ expect-modified no
+             message Really No ~ close)"_s},
         {"looking at a dialog and a menu before",
-         u"lisp (samplebox)\nscreenshot b.png\ndialog SampleBox\nclick more\nscreenshot n.png\nmenu Second\nclose"_s},
-        {"focus after a message", u"lisp (samplebox)\ndialog SampleBox\nfocus name\nfocus _dist_size\nclick accept\n"
-                                  "message empty Ok\nexpect-focus _dist_size\nclose"_s},
-        {"message closed", u"lisp (samplebox)\ndialog SampleBox\nclick again\nmessage Really close\nclose"_s},
-        {"message behind the click", u"lisp (samplebox)\ndialog SampleBox\nclick late\nmessage Really No\nclose"_s},
-        {"file", u"lisp (samplebox)\ndialog SampleBox\nclick browse\nfile ${OUT}/made.txt\nclick accept\n"
-                 "expect-lisp (wcmatch entered \"*/made.txt\")"_s},
+         uR"(lisp (samplebox) ~ screenshot b.png ~ dialog SampleBox ~ click more ~ screenshot n.png ~ menu Second
+             close)"_s},
+        {"focus after a message",
+         uR"(lisp (samplebox) ~ dialog SampleBox ~ focus name ~ focus _dist_size ~ click accept ~ message empty Ok
+             expect-focus _dist_size ~ close)"_s},
+        {"message closed", uR"(lisp (samplebox) ~ dialog SampleBox ~ click again ~ message Really close ~ close)"_s},
+        {"message behind the click",
+         uR"(lisp (samplebox) ~ dialog SampleBox ~ click late ~ message Really No ~ close)"_s},
+        {"file", uR"(lisp (samplebox) ~ dialog SampleBox ~ click browse ~ file ${OUT}/made.txt ~ click accept
+             expect-lisp (wcmatch entered "*/made.txt"))"_s},
         {"file that exists asks back",
-         u"lisp (samplebox)\ndialog SampleBox\nclick browse\nfile ${DRAWING}\nmessage \"already exists\" Yes\n"
-         "expect name ${DRAWING}\nclose"_s},
+         uR"(lisp (samplebox) ~ dialog SampleBox ~ click browse ~ file ${DRAWING} ~ message "already exists" Yes
+             expect name ${DRAWING} ~ close)"_s},
         {"file in place of the one that was shown",
-         u"lisp (samplebox)\ndialog SampleBox\nset name ${DRAWING}\nclick browse\nfile ${OUT}/made.txt\n"
-         "expect name ${OUT}/made.txt\nclick browse\nfile made.txt\nexpect name ${OUT}/made.txt\nclose"_s},
-        {"file cancelled", u"lisp (samplebox)\ndialog SampleBox\nclick browse\nfile cancel\nclose"_s},
-        {"menu", u"lisp (samplebox)\ndialog SampleBox\nclick more\nmenu Second\nexpect name Second...\nclose"_s},
+         uR"(lisp (samplebox) ~ dialog SampleBox ~ set name ${DRAWING} ~ click browse ~ file ${OUT}/made.txt
+             expect name ${OUT}/made.txt ~ click browse ~ file made.txt ~ expect name ${OUT}/made.txt ~ close)"_s},
+        {"file cancelled", uR"(lisp (samplebox) ~ dialog SampleBox ~ click browse ~ file cancel ~ close)"_s},
+        {"menu",
+         uR"(lisp (samplebox) ~ dialog SampleBox ~ click more ~ menu Second ~ expect name Second... ~ close)"_s},
         {"dialog that comes back",
-         u"lisp (progn (samplebox) (getint \"Between: \") (samplebox))\ndialog SampleBox\nclose\nanswer 1\n"
-         "dialog SampleBox\nclose"_s},
-        {"alert", u"lisp (alert \"Nothing found\")\nmessage Nothing Ok"_s},
-        {"script", u"command SCRIPT\nanswer ${OUT}/two.scr\nanswer 2\nexpect-count CIRCLE 2\nexpect-count LINE 3\n"
-                   "expect-printed \"Command: line\"\nundo\nundo\nexpect-modified no"_s},
+         uR"(lisp (progn (samplebox) (getint "Between: ") (samplebox)) ~ dialog SampleBox ~ close ~ answer 1
+             dialog SampleBox ~ close)"_s},
+        {"alert", uR"(lisp (alert "Nothing found") ~ message Nothing Ok)"_s},
+        {"script", uR"(command SCRIPT ~ answer ${OUT}/two.scr ~ answer 2 ~ expect-count CIRCLE 2 ~ expect-count LINE 3
+             expect-printed "Command: line" ~ undo ~ undo ~ expect-modified no)"_s},
         {"script of a program",
-         u"lisp (command \"SCRIPT\" \"${OUT}/two.scr\")\nanswer 2\nexpect-count CIRCLE 2\nundo\nundo\n"
-         "expect-lisp (not (command \"SCRIPT\" \"none.scr\"))\nexpect-modified no"_s},
-        {"values",
-         u"let X (list 1 2)\nlet TEXT (strcat \"a \\\"b\" \"\\\\\")\nlet N 2\nexpect-lisp (equal '${X} '(1 2))\n"
-         "lisp (setq s (getstring T \"Text: \"))\nanswer ${TEXT}\nexpect-lisp (= s \"a \\\"b\\\\\")\nexpect-count LINE ${N}"_s},
-        {"ended by a condition", u"only-if 1\nonly-if nil\nlisp (car 5)"_s},
-        {"one step", u"lisp (entdel (handent \"2A\"))\nexpect-undo\nexpect-changes 1-LINE\nsave "
-                     u"c.dxf\nexpect-file-changes c.dxf 1-LINE\nundo\nexpect-changes \"\"\nlisp "
-                     "(setq x 1)\nexpect-unchanged"_s},
+         uR"(lisp (command "SCRIPT" "${OUT}/two.scr") ~ answer 2 ~ expect-count CIRCLE 2 ~ undo ~ undo
+             expect-lisp (not (command "SCRIPT" "none.scr")) ~ expect-modified no)"_s},
+        {"values", uR"(let X (list 1 2) ~ let N 2 ~ expect-lisp (equal '${X} '(1 2)) ~ let TEXT (strcat "a \"b" "\\")
+             lisp (setq s (getstring T "Text: ")) ~ answer ${TEXT} ~ expect-lisp (= s "a \"b\\")
+             expect-count LINE ${N})"_s},
+        {"ended by a condition", uR"(only-if 1 ~ only-if nil ~ lisp (car 5))"_s},
+        {"one step", uR"(lisp (entdel (handent "2A")) ~ expect-undo ~ expect-changes 1-LINE ~ save c.dxf
+             expect-file-changes c.dxf 1-LINE ~ undo ~ expect-changes "" ~ lisp (setq x 1) ~ expect-unchanged)"_s},
         {"files",
-         u"write sub/a.txt \"one\\r\\ntwo ü\"\nexpect-file sub/a.txt two ü\nexpect-text sub/a.txt \"one\\r\\ntwo ü\"\n"
-         "expect-file ${OUT}/sub/a.txt\nwrite b.txt \"one\\r\\ntwo ü\"\nexpect-same-file b.txt sub/a.txt\n"
-         "expect-no-file none.txt"_s},
-        {"not printed", u"lisp (princ \"one\")\nlisp (princ \"two\")\nexpect-not-printed one"_s},
-        {"sound", u"expect-sound\nexpect-sound ${DRAWING}"_s},
-        {"abandoned prompt", u"lisp (progn (vl-catch-all-apply 'getpoint '(\"From: \")) (samplebox) (setq b 7))\n"
-                             "abandon\nexpect-lisp (= b 7)"_s},
+         uR"(write sub/a.txt "one\r\ntwo ü" ~ expect-file sub/a.txt two ü ~ expect-text sub/a.txt "one\r\ntwo ü"
+             expect-file ${OUT}/sub/a.txt ~ write b.txt "one\r\ntwo ü" ~ expect-same-file b.txt sub/a.txt
+             expect-no-file none.txt)"_s},
+        {"not printed", uR"(lisp (princ "one") ~ lisp (princ "two") ~ expect-not-printed one)"_s},
+        {"sound", uR"(expect-sound ~ expect-sound ${DRAWING})"_s},
+        {"abandoned prompt",
+         uR"(lisp (progn (vl-catch-all-apply 'getpoint '("From: ")) (samplebox) (setq b 7)) ~ abandon
+             expect-lisp (= b 7))"_s},
         {"abandoned dialog",
-         u"lisp (setq b (samplebox))\ndialog SampleBox\nclick again\nabandon\nexpect-lisp (null b)"_s},
-        {"cancelled at each prompt and window",
-         u"lisp (setq times 0)\ncancel-each\nlisp (progn (setq times (1+ times)) (setq p (getpoint \"From: \")) (if "
-         "(samplebox) (progn (getint \"N: \") (entdel (handent \"2A\")))))\nexpect-not-printed Two\npoint 1,2\n"
-         "dialog SampleBox\nset name new\nclick accept\nanswer 1\nexpect-lisp (= times 4)\n"
-         "expect-changes 1-LINE\nundo"_s},
+         uR"(lisp (setq b (samplebox)) ~ dialog SampleBox ~ click again ~ abandon ~ expect-lisp (null b))"_s},
+        {"cancelled at each prompt and window", uR"(lisp (setq times 0) ~ cancel-each
+             lisp (progn (setq times (1+ times)) (setq p (getpoint "From: ")) \
+             (if (samplebox) (progn (getint "N: ") (entdel (handent "2A")))))
+             expect-not-printed Two ~ point 1,2 ~ dialog SampleBox ~ set name new ~ click accept ~ answer 1
+             expect-lisp (= times 4) ~ expect-changes 1-LINE ~ undo)"_s},
         {"change, undo, redo",
-         u"lisp (entdel (handent \"2A\"))\nexpect-count LINE 1\nexpect-modified yes\nundo\nexpect-count line 2\n"
-         "redo\nexpect-count * 2\nundo"_s},
+         uR"(lisp (entdel (handent "2A")) ~ expect-count LINE 1 ~ expect-modified yes ~ undo ~ expect-count line 2
+             redo ~ expect-count * 2 ~ undo)"_s},
     };
     write(u"two.scr"_s, "line 0,0 5,5 \ncircle 1,1\n");
     for (const auto &[name, steps] : rows) {
@@ -247,9 +251,8 @@ TEST_F(SessionPlayerTest, NeverOutlastsItsTimeLimit)
 
 TEST_F(SessionPlayerTest, WritesDrawingsAndPictures)
 {
-    const PlaybackResult result = play(u"lisp (entdel (handent \"2A\"))\nsave changed.dxf\nexpect-modified no\n"
-                                       "screenshot all.png\nlisp (samplebox)\ndialog SampleBox\n"
-                                       "screenshot box.png\nclose"_s);
+    const PlaybackResult result = play(uR"(lisp (entdel (handent "2A")) ~ save changed.dxf ~ expect-modified no
+        screenshot all.png ~ lisp (samplebox) ~ dialog SampleBox ~ screenshot box.png ~ close)"_s);
     ASSERT_TRUE(result.ok) << result.message.toStdString();
     EXPECT_EQ(result.files, QStringList({path(u"changed.dxf"_s), path(u"all.png"_s), path(u"box.png"_s)}));
     EXPECT_FALSE(QImage(path(u"all.png"_s)).isNull());
