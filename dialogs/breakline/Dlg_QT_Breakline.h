@@ -15,34 +15,42 @@ class Dlg_QT_Breakline;
 /// Closes with the action "OK" (draw with what the state file says) or "CREATE" (make the symbol `name` in the symbol
 /// folder, write its path to `LbTitleblock` and call again). Shown after "CREATE" it takes the state's values anew.
 ///
-/// "OK" needs a file that is there; whether it can be read as a drawing is left to the drawing of the line. "CREATE"
-/// needs a name that may be one of a file and that no other symbol has, unless the user agrees that it is replaced.
-/// Sizes are in drawing units.
+/// | key | value |
+/// |---|---|
+/// | lbtitleblock | whole path of the symbol's drawing |
+/// | _dist_size, _dist_offset | lengths in drawing units |
+/// | name | of the new symbol, without folder and extension; empty at each showing |
+///
+/// OK can be pressed while there is a file at the path; one that has gone since is told with "Cannot find the specified
+/// drawing file.". A new symbol's name must be one that a file can have, and a drawing of that name is replaced only
+/// after a question. The dialog itself writes no drawing.
 class Dlg_QT_Breakline final : public ToolDialog
 {
     Q_OBJECT
 
 public:
-    /// Makes the folder for symbols with those that come along where they are missing. The first of all showings begins
-    /// with the symbol "zigzag.dxf" when it is there.
+    /// Makes the symbol folder, puts the starter symbols into it where it has no drawing, and begins with the zigzag of
+    /// these; the path stays empty where there is none.
     explicit Dlg_QT_Breakline(QWidget *parent = nullptr);
     ~Dlg_QT_Breakline() override;
 
 protected:
+    /// The whole state after "CREATE", which brings the new symbol's path; otherwise all stays as the user left it.
     Reentry reentry() const override;
     void afterShow() override;
 
 private:
-    /// Symbols can only be made under a name.
+    /// The symbol can be made as soon as it has a name; whether the name is good is looked at when it is made.
     void setName(const QString &name);
     void pressEnterforName();
+    /// A chosen file that is not named like a drawing empties the field.
     void selectBlock();
-    /// Closes with "OK".
+    /// The slot of OK; nothing while the file field has the focus, whose Enter only takes the path.
     void CloseAccept();
-    /// Closes with "CREATE".
+    /// The slot of the button that closes with "CREATE".
     void CreateDesing();
 
-    /// Shows the drawing of the symbol's file.
+    /// Preview and OK follow the file field.
     void refreshSymbol();
     void validateOk();
     bool hasSymbolFile() const;
@@ -50,5 +58,5 @@ private:
     std::unique_ptr<Ui::Dlg_QT_Breakline> m_ui;
     /// Where symbols are kept; made by the constructor when it is missing.
     const QString m_symbolFolder;
-    std::unique_ptr<ElidedPathField> m_file;
+    std::unique_ptr<ElidedPathField> m_file; ///< of LbTitleblock
 };

@@ -19,7 +19,8 @@ class Dlg_QT_DrawOderColor;
 /// Picking a favourite brings its colours in their order; colours of this call that it does not know stay behind them,
 /// for a drawing may have more colours than the one that the favourite was made with.
 ///
-/// Closes with the action "OK".
+/// Closes with the action "OK" and checks nothing: an empty list and one of a single colour are orders as well. The
+/// drawing is not looked at, so that a colour may be in the list that no entity has.
 class Dlg_QT_DrawOderColor final : public ToolDialog
 {
     Q_OBJECT
@@ -39,21 +40,28 @@ protected:
     void afterShow() override;
 
 private:
+    /// Puts the chosen colour in front of all others, or selects it where the list has it.
     void addColor();
+    /// Those of the selected rows; the row behind them is selected then, to go on with.
     void removeColors();
+    /// Reversing and sorting move rows that are there, so that the selection goes with them.
     void reverse();
     void sortNumbers();
+    /// Whenever a favourite was loaded; one without an order changes nothing.
     void takeFavourite();
 
     void setUpTable();
     void connectWidgets();
+    /// In time in proportion to the colours.
     void fill(const QList<int> &colors);
+    /// Whenever the order changed: the picture, the buttons, and what state file and favourites get for the table are
+    /// brought up to date.
     void followOrder();
     void enableButtons();
 
     std::unique_ptr<Ui::Dlg_QT_DrawOderColor> m_ui;
-    RowMover *m_mover;
-    FavouritesBox *m_favourites;
+    RowMover *m_mover;           ///< owned by the table, as its child
+    FavouritesBox *m_favourites; ///< owned by the dialog, as its child
     /// What this call began with.
     QList<int> m_givenColors;
 };

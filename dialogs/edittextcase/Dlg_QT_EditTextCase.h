@@ -14,8 +14,16 @@ class Dlg_QT_EditTextCase;
 /// action word; Lisp converts the texts of the drawing.
 ///
 /// Beside the option that is checked, the state carries the style's name under "current". A program that gives only
-/// that finds the style preselected as well, while one that gives the options too is taken by these. The names are
-/// those of the user's language, "Sentence", "Lower", "Upper", "Title" and "toGgle" without a translation.
+/// that finds the style preselected as well.
+///
+/// | key | value |
+/// |---|---|
+/// | referenceedit | the text to show, often that of the first entity |
+/// | radiobutton1 ... radiobutton5 | TRUE for one of Sentence, Lower, Upper, Title, toGgle, in this order |
+/// | current | the style's name, translated as the options are; comes in and goes out |
+///
+/// "current" counts only where the file of this call has none of the five options, and only spelled as the dialog
+/// writes it; another word leaves the option that was checked. Accepting checks nothing.
 class Dlg_QT_EditTextCase final : public ToolDialog
 {
     Q_OBJECT
@@ -28,13 +36,13 @@ protected:
     void afterShow() override;
 
 private:
-    /// Shows the reference text in the style that is checked, and puts the style's name into the state.
+    /// With each option: shows the reference text in its style and sets "current" for the state file.
     void UpdatePreview();
     /// Nothing happens for a name that no style has.
     void preselect(const QString &modeName);
-    /// Of the styles by number, from 1 on in the order of the buttons.
+    /// 1 to 5; nothing else is allowed.
     QRadioButton *button(int modeNumber) const;
-    /// 0 when none is checked.
+    /// 1 to 5; 0 when none is checked, as a state file may have it.
     int checkedMode() const;
 
     std::unique_ptr<Ui::Dlg_QT_EditTextCase> m_ui;

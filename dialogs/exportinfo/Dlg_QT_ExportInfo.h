@@ -12,10 +12,14 @@ class Dlg_QT_ExportInfo;
 /// Takes a problem report from the user and writes it to a text file, with what a Lisp program found out about the
 /// system. Closes with no action word.
 ///
-/// Each showing begins with numbered lines for the steps that lead to the problem, and with the system information of
-/// the file. OK asks for the report's file and closes whether or not one was chosen and could be written, which the
-/// host tells of: the Lisp programs expect the dialog to end there. The report is UTF-8 with the line ends of the
-/// platform.
+/// | key | value |
+/// |---|---|
+/// | lineedit, lineedit_2, lineedit_3 | name, e-mail and telephone of the user, kept for the next report |
+///
+/// The problem, its steps and the system information are in the report only. No field has to be filled in. OK asks for
+/// the file and then closes with acceptance whatever came of it: also when no file was chosen, and when it could not be
+/// written, which the command line tells and which leaves an older file as it was. The report is UTF-8 with the
+/// platform's line ends.
 class Dlg_QT_ExportInfo final : public ToolDialog
 {
     Q_OBJECT
@@ -30,14 +34,15 @@ public:
     QString reportFile() const { return m_reportFile; }
 
 protected:
+    /// Begins the steps anew and reads the system information; all else stays from the last report.
     void afterShow() override;
 
 private:
-    /// What the fields hold, whole where they show less.
+    /// What the fields say now, those that show a text shortened with the whole of it.
     ortakit::UserReport report() const;
     void clickOK();
 
     std::unique_ptr<Ui::Dlg_QT_ExportInfo> m_ui;
-    QString m_systemFile;
+    QString m_systemFile; ///< of the last call
     QString m_reportFile;
 };

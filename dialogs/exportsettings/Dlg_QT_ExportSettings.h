@@ -12,9 +12,12 @@ class Dlg_QT_ExportSettings;
 /// Shows the system variables that a Lisp program has listed, by class, and saves what it shows as a script or adds it
 /// to one. Exchanges no state.
 ///
-/// Saving leaves the dialog open, for the variables of another class perhaps, and Close accepts it. A script that
-/// cannot be written is told on the command line. Texts of the listing are shown as they are, whatever markup they look
-/// like.
+/// The one button that writes asks for a file and stays open, so that several classes can be saved one after the other;
+/// Close accepts, which makes the function's result T whether or not anything was saved. What a script cannot take, as
+/// on a full disk, is told on the command line, and the file stays as it was.
+///
+/// Mode and listing decide title, texts and help page; they are to be set before each showing and stay otherwise. Texts
+/// of the listing are shown as they are, whatever markup they look like.
 class Dlg_QT_ExportSettings final : public ToolDialog
 {
     Q_OBJECT
@@ -29,6 +32,7 @@ public:
     void setMode(const QString &mode) { m_mode = mode; }
 
 protected:
+    /// Reads the listing; its size is bounded by ortakit::readSettingsListing().
     void beforeShow() override;
     void afterShow() override;
 
@@ -41,21 +45,22 @@ private:
         QString standard;
         QString closing;
     };
+    /// For the style that the host has when the dialog is made; a later change of style is not followed.
     static Markup chosenMarkup();
 
-    /// Title, button and help page of the mode.
+    /// Title, button and help page of m_mode.
     void showMode();
-    /// Of the classes that the item `index` of the combo box stands for: all, or one of them.
+    /// `index`: 0 for all classes, 1 read-only, 2 dangerous, everything else standard.
     void showVariables(int index);
     /// The lines of a class as rich text.
     QString entries(ortakit::SettingClass settingClass) const;
-    /// Asks for the script and writes what is shown to it.
+    /// Saves m_shownLines: of the classes that are shown, nothing else.
     void ClickInFileButton();
 
     std::unique_ptr<Ui::Dlg_QT_ExportSettings> m_ui;
     const Markup m_markup = chosenMarkup(); ///< of the style that there was when the dialog was made
     QString m_listingPath;
-    QString m_mode;
+    QString m_mode; ///< as setMode() had it, known or not
     ortakit::SettingsListing m_listing;
-    QList<QByteArray> m_shownLines; ///< as bytes of the listing, which go into the script
+    QList<QByteArray> m_shownLines; ///< in their order, in the bytes of the listing
 };

@@ -12,8 +12,17 @@ class Dlg_QT_GetBlockInfo;
 /// The block information report: the blocks of the drawing with the number of their references, which the Lisp program
 /// counts, to be written to a text file or, by the Lisp program, to be put into the drawing as a table.
 ///
-/// Both ways take the blocks as they are shown, in their order, and close the dialog. A file that cannot be written is
-/// told on the command line; what was there before stays.
+/// Of the widgets only "nestedcheckbox" matters to the state: TRUE counts the references nested in other blocks, too.
+/// Three buttons close the dialog, all with acceptance and without an action word:
+///
+/// | button | resultText() | what is left behind |
+/// |---|---|---|
+/// | exportTable | "TABLE" | nothing yet: Lisp draws the table |
+/// | exportButton | empty | a text file with what the table shows, or what was there when it cannot be written |
+/// | Close | empty | nothing |
+///
+/// The text file is chosen over the main window after the dialog has closed, so that the drawing can be seen; the Lisp
+/// program goes on when that is done. What cannot be written is told on the command line.
 class Dlg_QT_GetBlockInfo final : public ToolDialog
 {
     Q_OBJECT
@@ -29,21 +38,24 @@ public:
     QString resultText() const { return m_resultText; }
 
 protected:
+    /// Forgets the last result and fills the table from the lists of this call.
     void afterShow() override;
 
 private:
+    /// In time n log n with the number of blocks: the entries are sorted, not the rows.
     void fillTable();
+    /// Closes for a table in the drawing.
     void exportToTable();
-    /// Closes, asks for the file and writes it before the Lisp program goes on.
+    /// The dialog may be gone when it returns: choosing a file handles events.
     void ClickInFileButton();
-    /// Each click on any column turns the direction.
+    /// Sorts by the column, each click in the direction opposite to the click before it.
     void ClickHeaderTable(int column);
 
-    /// Those with nested references or without them, as the user wants it.
+    /// Of the list that the check box says, by name or by number.
     QStringList sortedEntries() const;
 
     std::unique_ptr<Ui::Dlg_QT_GetBlockInfo> m_ui;
-    QStringList m_topLevel;
+    QStringList m_topLevel; ///< "NAME;NUMBER" each, as Lisp gave them
     QStringList m_withNested;
     /// As they are shown, from top to bottom.
     QList<ortakit::BlockCount> m_blocks;

@@ -27,10 +27,11 @@ public:
     ~Highlighter() override;
 
 protected:
+    /// Called by Qt for each line that changed; costs by its length, and by what the search expression takes.
     void highlightBlock(const QString &text) override;
 
 private:
-    QPointer<QLineEdit> m_searchField;
+    QPointer<QLineEdit> m_searchField; ///< null when there is none any more: nothing is marked then
     ortakit::LispPainter m_painter;
     std::array<QTextCharFormat, 7> m_formats; // by LispStyle
 };

@@ -12,10 +12,22 @@ class Dlg_QT_MakeLineStyle;
 /// The linetype maker's dialog: the ".lin" file, what it defines already, and name and description of the new linetype.
 /// Closes with no action word; Lisp measures the pattern and writes the definition.
 ///
-/// The file may be one that is not there yet. What it defines is read when it is chosen, when Enter is pressed in its
-/// field, with each showing and before OK checks the name: one that cannot be read defines nothing. A chosen file whose
-/// content or ending is not that of a linetype file is refused; one that was typed is taken as it is. The state file
-/// has its whole path, whatever the field shows of it.
+/// | key | value |
+/// |---|---|
+/// | linetypefile | whole path of the file, which need not exist yet |
+/// | name, description | of the new linetype, as typed |
+///
+/// OK says what keeps it from closing, all under the title "Make Linestyle":
+///
+/// | when | message |
+/// |---|---|
+/// | no file | "You must select a file. " |
+/// | no name | "You must provide a name for the Linestyle. " |
+/// | a blank in the name | "Linestyle names cannot include blank spaces." |
+/// | the file has the name, in any mix of cases | asks "Linestyle already exists, you want to replace it?" |
+///
+/// A chosen file that holds something else is refused with "The format of the file is not valid. "; one that was typed
+/// is not looked at so. The dialog reads the file with each showing and writes none.
 class Dlg_QT_MakeLineStyle final : public DefinitionDialog
 {
     Q_OBJECT
@@ -25,15 +37,16 @@ public:
     ~Dlg_QT_MakeLineStyle() override;
 
 protected:
+    /// Lists the file anew: the run before may have added to it.
     void afterShow() override;
 
 private:
     void SelectLinetypeFile();
-    /// OK: closes when file and name are acceptable (see acceptsDefinition()).
+    /// The slot of OK; takes a path that is still being typed first.
     void CheckName();
-    /// Shows what the file defines now.
+    /// A file that is not there lists nothing, and is no error.
     void refreshLinetypes();
 
     std::unique_ptr<Ui::Dlg_QT_MakeLineStyle> m_ui;
-    std::unique_ptr<ElidedPathField> m_file;
+    std::unique_ptr<ElidedPathField> m_file; ///< of Linetypefile
 };

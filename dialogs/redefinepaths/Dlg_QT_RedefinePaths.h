@@ -19,6 +19,18 @@ class Dlg_QT_RedefinePaths;
 ///
 /// The key "modes" of the state holds the words "Xrefs", "Images", "Styles" and "Rtext" for types to check at the first
 /// showing.
+///
+/// | key | value |
+/// |---|---|
+/// | modes | comes in, at the first showing |
+/// | tyxref, tyimages, tystyles, tyrtext | TRUE for the types that are shown |
+/// | filter | regular expression for names; see ortakit::NameFilter |
+/// | txsearch, txreplace | the texts of the last replacing |
+///
+/// Accepting checks nothing, asks nothing and sets no action word: whether the new paths lead anywhere is the program's
+/// to find out. Replacing wants selected rows, "Select the rows of table for search." otherwise; an empty text to find
+/// puts the replacement in front of each path. Filtering, sorting and replacing can be cancelled when they take long,
+/// which leaves the table as it was.
 class Dlg_QT_RedefinePaths final : public ToolDialog
 {
     Q_OBJECT
@@ -33,10 +45,13 @@ public:
     /// What was set last, or with OK the rows of the table in their order.
     const QStringList &entries() const { return m_entries; }
 
+    /// The table: the focus selects a first row, and in a wide dialog the paths get the place.
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 protected:
+    /// From here to afterShow() options change without the table being filled for each.
     void beforeShow() override;
+    /// Fills the table with the entries of this call.
     void afterShow() override;
 
 private:
@@ -47,24 +62,31 @@ private:
         const QCheckBox *typeBox = nullptr;
     };
 
+    /// With new rows, none of them selected, in the order of the entries.
     void fillTable();
+    /// The slot of "select all".
     void Select();
     void SelectChanged();
+    /// In the paths of the selected rows; upper and lower case differ.
     void replace();
+    /// The slot of OK: entries() are then the rows that are shown, whatever its name says of a selection.
     void ReadSelected();
     void ClickHeaderTable(int column);
 
     void setUpTable();
     void connectWidgets();
+    /// Only checks: a type that the state had checked stays so.
     void checkModes();
+    /// By the word of an entry, in any mix of cases; null for a word that is not known.
     const QCheckBox *boxOfType(const QString &type) const;
+    /// False when the user did not wait. The pointers hold until m_references change.
     bool findShown(QList<const ortakit::ReferenceEntry *> &shown);
 
     std::unique_ptr<Ui::Dlg_QT_RedefinePaths> m_ui;
     QStringList m_entries;
-    QList<Reference> m_references;
-    bool m_hasCheckedModes = false;
+    QList<Reference> m_references;  ///< m_entries taken apart
+    bool m_hasCheckedModes = false; ///< "modes" counts once
     /// The widgets take their values from the state; the table is filled once behind that.
     bool m_isShowing = false;
-    bool m_isSelecting = false;
+    bool m_isSelecting = false; ///< the dialog changes the selection, which it looks at once afterwards
 };

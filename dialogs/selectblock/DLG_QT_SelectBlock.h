@@ -16,11 +16,21 @@ class DLG_QT_SelectBlock;
 /// the file. Lisp writes the same two to have a block and its drawing chosen when the dialog opens.
 ///
 /// Anonymous blocks are listed on demand; layouts, and what belongs to external references, never. An external
-/// reference or an anonymous block of a file cannot be chosen: neither can be brought into another drawing by name. Nor
-/// can a block whose name holds control characters, as a state file has lines.
+/// reference or an anonymous block of a file cannot be chosen: neither can be brought into another drawing by name.
 ///
-/// A file is read when it is chosen or its field is left, and again before OK when it has changed since: a block that
-/// is gone by then is told. Without a block, or with a file that is no drawing, OK says what is missing and stays.
+/// OK, and a double click on a block, look at the drawing again and refuse:
+///
+/// | when | message |
+/// |---|---|
+/// | the file is missing | "Filename can`t be empty", "Cannot find the specified file." |
+/// | it is no drawing | "The drawing file cannot be read.", with the reason |
+/// | there is no block in it | "The drawing has no blocks." |
+/// | it had the block and has it no more | "The drawing file does not have the block ... any more." |
+/// | no block is selected | "You must first select a block." |
+/// | the name has control characters, which no state file can hold | "... Rename it first." |
+///
+/// A file's path goes out absolute. Nothing is brought into the drawing here: that is who calls, with the two keys.
+/// "filter", a regular expression for names in any case, begins empty each time; "showanonymous" stays.
 class DLG_QT_SelectBlock final : public ToolDialog
 {
     Q_OBJECT
@@ -30,40 +40,42 @@ public:
     ~DLG_QT_SelectBlock() override;
 
 protected:
+    /// From here to afterShow() options change without the blocks being read for each.
     void beforeShow() override;
     void afterShow() override;
 
 private:
-    /// The active drawing in place of a file, or the other way round.
+    /// The other drawing is read at once, and no block is chosen then.
     void changeSource();
-    /// The path that was typed counts when its field is left.
+    /// Reads another file than the one that is listed; nothing while the active drawing is chosen.
     void leaveDrawing();
-    /// As with Enter, which also tells what is wrong with the file.
+    /// Enter in the file field: also tells what is wrong with the file.
     void enterDrawing();
     void selectDrawing();
-    /// Lists the blocks that the filter lets through; one that is found alone is chosen.
+    /// Lists the blocks that the filter finds, keeping the chosen one; the only one that a typed filter finds is
+    /// chosen. In time in proportion to the blocks.
     void fillBlocks();
     /// Shows the chosen block.
     void blockSelect();
     void clickOK();
 
-    /// Sets the widgets of the source as the state has it.
+    /// Which drawing the state names; the active one without a word of it.
     void applySource();
     /// Takes the source from these widgets and lists its blocks.
     void readBlocks();
-    /// Says how many blocks there are, or why there are none.
+    /// Or says in its place why there are none.
     void showCount(qsizetype shown, qsizetype all);
-    /// Empty when none is chosen.
+    /// Empty while no block is selected.
     QString chosenName() const;
-    /// In any mix of cases; nothing happens when it is not in the list.
+    /// In any mix of cases; a name that is not listed changes nothing.
     void choose(const QString &name);
-    // The checks of OK. Each tells the user what is wrong, and is false then.
+    /// Each with its message, and true when there is nothing to tell.
     bool acceptsSource();
     bool acceptsBlock(const QString &name);
 
     std::unique_ptr<Ui::DLG_QT_SelectBlock> m_ui;
-    std::unique_ptr<ElidedPathField> m_drawing;
-    BlockSource m_source;
+    std::unique_ptr<ElidedPathField> m_drawing; ///< of tx_drawing
+    BlockSource m_source;                       ///< holds at most one other drawing in memory
     /// The widgets are being set; nothing follows from it yet.
     bool m_isShowing = false;
 };

@@ -5,13 +5,15 @@
 #include <QList>
 
 /// The drawings that are open in this program: their editing time goes on in memory, and their files hold an older one.
+///
+/// The dialog asks for them each time it lists a folder, so that what is opened or closed meanwhile shows at the next.
 class OpenDrawings
 {
 public:
     struct Drawing
     {
-        QString path; ///< of its file
-        ortakit::EditingTime time;
+        QString path;              ///< of its file
+        ortakit::EditingTime time; ///< now, with what went on since the last save
     };
 
     virtual ~OpenDrawings() = default;
