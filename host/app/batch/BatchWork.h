@@ -9,7 +9,9 @@ namespace host::app {
 
 // What runs over sessions and over programs share. Who tells writes to standard error.
 
+/// What of the options concerns the workbench.
 WorkbenchOptions workbenchOptions(const ProgramOptions &options);
+/// With the option for it, obstacles to writing a file that a person may overrule count as overruled.
 void setForce(Workbench &workbench, const ProgramOptions &options);
 
 /// Tells the problems from `told` on.

@@ -59,16 +59,22 @@ private:
 
     /// All lines that are left, until one fails.
     void playSteps();
+    /// A line that is met while nothing is open.
     void runStart(const Step &step);
     void runProgram(const Step &step);
+    /// The run of the next line, once cancelled at each prompt and window that it opens, at last as it is.
     void rehearse(const Step &step);
+    /// To be asked once for each prompt and window that opens; `what` is named if it goes wrong.
     bool isCancelledHere(const QString &what);
     bool comparesRun() const;
+    /// Plays what the run has left in the input queue; the outcome of both together.
     kernel::RunResult withScript(const kernel::RunResult &result);
     void finishRun(const Step &step, const kernel::RunResult &result);
+    /// Fails unless the drawing has the bytes that it had before the run.
     void finishCancelled(const Step &step, const kernel::RunResult &result);
     QString undoOrRedo(Verb verb);
     QString save(const Step &step);
+    /// The value of the expression; `error` says why there is none. What it prints counts with the run before.
     kernel::RunResult evaluate(const QString &expression, QString &error);
     QString expectLisp(const Step &step);
     QString let(const Step &step);
@@ -80,6 +86,7 @@ private:
     QString actOn(QWidget &window, Acquaintance acquaintance, const Step &step);
     CheckedState checkedState() const;
     QString check(const Step &step, QWidget *window);
+    /// Of the window, of the main one, or of the drawing where none is to be seen.
     QString screenshot(const Step &step, QWidget *window);
 
     /// A run that is played several times, cancelled each time at another prompt or window.

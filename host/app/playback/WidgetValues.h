@@ -8,6 +8,7 @@ class QWidget;
 namespace host::app {
 
 /// What the widget shows: text, number, "yes" or "no", the current item, the captions of selected rows joined with "^".
+/// Captions have no mnemonics. Of a widget of any other class the property "value", which may be empty.
 QString shownValue(const QWidget &widget);
 
 /// Whether the widget shows `expected`. Numbers are compared as numbers; of a text shown shortened, the full text in

@@ -15,11 +15,14 @@ namespace host::app {
 ///
 /// Up and Down go through what was entered before. A space ends an answer as Enter does when setSpaceEnters() says so
 /// and the text begins no Lisp expression or string. Options of the prompt are links.
+/// It keeps the last 5000 lines of what was printed and the last 500 entries, one that repeats the entry before it not
+/// at all. What is typed on the history goes to the line; moving about in it and copying do not.
 class CommandLine : public QWidget
 {
     Q_OBJECT
 
 public:
+    /// What a space means at the end of a line.
     enum class Space
     {
         Enters,
@@ -37,7 +40,9 @@ public:
     /// While an expression is unfinished every line belongs to it, spaces included.
     void setUnfinished(bool unfinished) { m_isUnfinished = unfinished; }
 
+    /// What was printed and is kept, with line feeds.
     QString historyText() const;
+    /// Owned by this; it has the focus whenever this is given it.
     QLineEdit *input() { return m_input; }
     /// Hands on a key that was pressed elsewhere, on the canvas say. False when the key means nothing here.
     bool takeKey(QKeyEvent *event);
@@ -57,10 +62,13 @@ protected:
     bool eventFilter(QObject *object, QEvent *event) override;
 
 private:
+    /// Takes the line: it is emptied and remembered before entered() tells of it.
     void enter();
+    /// -1 for the entry before, 1 for the one behind; behind the last comes the draft again.
     void recall(int direction);
     bool filterInputKey(const QKeyEvent &key);
     bool filterHistoryKey(QKeyEvent &key);
+    /// False for a key that is the line edit's own.
     bool handleKey(const QKeyEvent &event);
     bool spaceEnters() const;
 
@@ -72,7 +80,7 @@ private:
     qsizetype m_recalled = 0; ///< in m_entries; their number when none is recalled
     QString m_draft;          ///< what was being written before recalling
     Space m_space = Space::Enters;
-    bool m_isUnfinished = false;
+    bool m_isUnfinished = false; ///< see setUnfinished()
 };
 
 } // namespace host::app

@@ -28,10 +28,13 @@ public:
     explicit DrawingCanvas(kernel::Document &document, QWidget *parent = nullptr);
     ~DrawingCanvas() override;
 
+    /// Not owned; the same for the canvas's whole life.
     kernel::Document &document() { return m_document; }
+    /// Paints anew at the next turn of the event loop.
     void setGround(view::Ground ground);
     /// Also what it begins with when it is first shown.
     void zoomExtents();
+    /// About the middle of the canvas; above 1 magnifies.
     void zoomBy(double factor);
     /// The next box drawn is what is shown.
     void beginZoomWindow();
@@ -44,6 +47,7 @@ public:
     view::RenderReport report();
     /// Whether the last picture was cut short and that was not asked before.
     bool isCutShortNews();
+    /// Pixels of the screen, as everything here that is no point of the drawing.
     QSize sizeHint() const override { return {1000, 600}; }
 
 signals:
@@ -51,12 +55,16 @@ signals:
     void pointerMoved(const host::drawing::Vec2 &point);
     /// The pointer answered the prompt.
     void answered(const host::kernel::InputAnswer &answer);
+    /// The right button.
     void enterPressed();
+    /// A key that means nothing here; who takes it accepts the event, which lives until the signal returns.
     void keyPressed(QKeyEvent *event);
 
 protected:
+    /// Paints the scene only when drawing, view or marks have changed; cross-hair and boxes come over that picture.
     void paintEvent(QPaintEvent *event) override;
     void showEvent(QShowEvent *event) override;
+    /// The document's view hears of the new size; what is in the middle stays there.
     void resizeEvent(QResizeEvent *event) override;
     void wheelEvent(QWheelEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
@@ -67,22 +75,28 @@ protected:
     void keyPressEvent(QKeyEvent *event) override;
 
 private:
+    /// What becomes of a box when its second corner is there.
     enum class BoxUse
     {
         Choose,
         Answer,
         Zoom
     };
+    /// What becomes of entities within it, by Shift at its first corner.
     enum class Choice
     {
         Add,
         Drop
     };
 
+    /// The document's view for this size: the document keeps it, not the canvas.
     view::ViewTransform transform() const;
     void setTransform(const view::ViewTransform &transform);
+    /// Model space or the current paper space, as a number of the scene.
     int space() const;
+    /// Into m_picture, with what is highlighted, chosen or dragged marked.
     void repaintScene();
+    /// What moves with the pointer; nothing while that is elsewhere.
     void paintOverlay(QPainter &painter);
     void paintRubberBand(QPainter &painter);
 
@@ -91,25 +105,29 @@ private:
     /// From the pointer to a side of the box that picks entities, in pixels.
     int pickReach() const;
     // In CanvasPresses.cpp.
+    /// Within reach of the point; invalid when there is none.
     drawing::RecordId entityAt(QPointF screen);
+    /// The left button: the second corner of a box that was begun, an answer, a choice, or a first corner.
     void press(QPointF screen, Qt::KeyboardModifiers modifiers);
     void pressForPrompt(QPointF screen);
+    /// Adds to the implied selection, each once, or takes from it.
     void choose(const std::vector<drawing::RecordId> &entities, Choice choice);
     void beginBox(QPointF screen, BoxUse use, Choice choice);
     void finishBox(QPointF screen);
+    /// On the plane z 0.
     drawing::Vec3 world(QPointF screen) const;
 
     kernel::Document &m_document;
-    view::Scene m_scene;
+    view::Scene m_scene; ///< follows the drawing
     view::Ground m_ground = view::Ground::Black;
-    QPixmap m_picture; ///< the scene as last painted; null when it is out of date
-    quint64 m_paintedRevision = 0;
-    bool m_isCutShort = false; ///< part of the scene is missing in the picture
+    QPixmap m_picture;             ///< the scene as last painted; null when it is out of date
+    quint64 m_paintedRevision = 0; ///< of the drawing, in m_picture
+    bool m_isCutShort = false;     ///< part of the scene is missing in the picture
     bool m_isCutShortTold = false;
     std::optional<kernel::PromptRequest> m_request;
     std::optional<DragPreview> m_dragged; ///< while the prompt has entities hang at the pointer
     std::optional<QPointF> m_pointer;     ///< where the pointer is, while it is on the canvas
-    std::optional<QPointF> m_panFrom;
+    std::optional<QPointF> m_panFrom;     ///< while the middle button is held
 
     struct PendingBox
     {
@@ -119,7 +137,7 @@ private:
         Choice choice;
     };
     std::optional<PendingBox> m_box;
-    bool m_isZoomWindow = false;
+    bool m_isZoomWindow = false; ///< the next box says what is shown
     bool m_wasShown = false;
 };
 

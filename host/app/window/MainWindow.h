@@ -95,7 +95,9 @@ private:
     void showHelp();
     void showAbout();
 
+    /// What is entered, answered and cancelled goes to the runner, and its prompts to the canvas in front.
     void connectRunner();
+    /// With one change of the tab in front for all of them.
     void openAll(const QStringList &drawings);
     // Tabs follow the documents, whoever opened them: a menu, a drop, a command, a module.
     void addTab(kernel::Document *document);
@@ -132,9 +134,9 @@ private:
     void openDropped(const QStringList &paths);
 
     std::unique_ptr<Workbench> m_workbench;
-    FileActions m_files;
+    FileActions m_files; ///< opening and saving, with their questions
     DrawingTabs *m_tabs;
-    CommandLine *m_commandLine;
+    CommandLine *m_commandLine; ///< owned by the dock, that by the window
     QDockWidget *m_commandDock;
     std::unique_ptr<CommandRunner> m_runner;
     std::unique_ptr<DrawingStatus> m_status;

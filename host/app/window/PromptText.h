@@ -13,6 +13,7 @@ struct PromptOption
 };
 
 /// The options in the square brackets of "Specify next point or [Arc/Undo]: ", the last pair of them.
+/// Empty without brackets; empty options between two "/" are left out.
 QList<PromptOption> promptOptions(const QString &prompt);
 
 /// The last line of a prompt as rich text, its options as links to "option:ANSWER" with the answer percent-encoded.
