@@ -119,6 +119,7 @@ private:
     BlockDisplay *ownerOf(RecordId entity);
     void rememberSpace(RecordId record, const BlockDisplay &block);
     void build(BlockDisplay &block);
+    /// Until no display refers to a block that is not built.
     void buildWaiting();
     std::vector<RecordId> members(const BlockDisplay &block) const;
     RecordDisplay buildRecord(RecordId record);

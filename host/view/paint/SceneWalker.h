@@ -24,7 +24,9 @@ public:
     virtual bool beginRecord(RecordId) { return true; }
     /// At least two points.
     virtual void line(std::span<const QPointF> points, const ResolvedStyle &style) = 0;
+    /// What is too small to have a shape, points, and the dots of linetypes.
     virtual void dot(QPointF point, const ResolvedStyle &style) = 0;
+    /// Closed contours with the fill rule set; cut off at the view where there is one.
     virtual void fill(const QPainterPath &area, FillKind kind, const ResolvedStyle &style) = 0;
     /// `toScreen` maps the run's own coordinates.
     virtual void text(const TextRun &run, const Matrix &toScreen, const ResolvedStyle &style) = 0;
@@ -33,14 +35,17 @@ public:
     virtual void endClip() = 0;
 };
 
+/// How a walk looks at the scene; the scene itself is the same for all of them.
 struct WalkOptions
 {
     /// The part of the screen that is of interest. Nothing: everything, however far.
     std::optional<QRectF> view{};
     Ground ground = Ground::Black;
+    /// Dashes are laid out only where a view bounds their number; without one all lines are full.
     bool withLinetypes = true;
     /// What is smaller than a pixel becomes a dot.
     bool collapseSmall = true;
+    /// Leaves out layers that are not plotted.
     bool plottedOnly = false;
     /// Lines and areas become pixels, which cost the more the larger they are.
     bool isRaster = false;
@@ -58,6 +63,8 @@ public:
     /// The scene must be prepared for the blocks walked.
     SceneWalker(Scene &scene, const WalkOptions &options, DisplaySink &sink, drawing::WorkBudget &work);
 
+    /// Everything in the space or block that touches the view, in drawing order. Costs a look at each record's box, and
+    /// what is seen of it.
     void walk(int block, const Matrix &toScreen);
     /// One record of a block alone.
     void walkRecord(const RecordDisplay &record, const Matrix &toScreen);
@@ -66,19 +73,23 @@ public:
     bool wasCutShort() const { return m_isTooDeep || m_work.refusals() > m_refusalsBefore; }
 
 private:
+    /// Where a walk is: inside which reference, seen how.
     struct Context
     {
-        Matrix map{};
-        const ResolvedStyle *insert = nullptr;
-        const std::vector<int> *hiddenLayers = nullptr;
-        int depth = 0;
+        Matrix map{};                          ///< from the block's coordinates to the screen
+        const ResolvedStyle *insert = nullptr; ///< of the reference, for what is by block; null in the space itself
+        const std::vector<int> *hiddenLayers = nullptr; ///< sorted; of the viewport that is looked through
+        int depth = 0;                                  ///< references around this
         bool isRepeated = false; ///< what follows was shown before: all of it takes from the budget
     };
 
     void walkBlock(const BlockDisplay &block, const Context &context);
     void walkDisplay(const RecordDisplay &record, const Context &context);
+    /// With `dot` given all shows as a dot there, in the style of the first that is seen.
     void walkItems(const std::vector<DisplayItem> &items, const Context &context, std::optional<QPointF> dot);
+    /// By its layer: off, frozen, not plotted, or hidden in the viewport.
     bool isHidden(const ResolvedStyle &style, const Shape &shape, const Context &context) const;
+    /// Whether nothing in the box is in the view; `reach`, if given, is the box on the screen, unless it is empty.
     bool isOutside(const Box &box, const Matrix &map, QRectF *reach) const;
 
     // But for references, in SceneWalkerShapes.cpp.
@@ -90,31 +101,38 @@ private:
     void show(const std::unique_ptr<TextRun> &run, const ResolvedStyle &style, const Context &context);
     void show(const std::unique_ptr<Reference> &reference, const ResolvedStyle &style, const Context &context);
 
+    /// The cells that the view sees; all but the first are repeated.
     void showArray(const Reference &reference, const BlockDisplay &block, const ResolvedStyle &style,
                    const Context &context);
     void showCell(const Reference &reference, const BlockDisplay &block, const ResolvedStyle &style,
                   const Context &context);
+    /// Takes the units from the budget where what follows is repeated; false when it has not so many left.
     bool mayGoOn(const Context &context, std::int64_t units);
+    /// Units of work to draw it whole: its pieces, and its pixels where lines become pixels.
     std::int64_t unitsOf(const Track &track) const;
     bool canDash(const LineDasher &dasher, const Stroke &stroke);
+    /// 1 for all lines of a pattern, 2 for every other, and so on, as the budget allows.
     std::size_t strideOf(const Segments &segments, const Context &context);
     void emitOutlines(const Fill &fill, const ResolvedStyle &style, const Context &context);
+    /// The parts in the view, as full lines.
     void emitTrack(const Track &track, const ResolvedStyle &style);
     void emitDashes(const Track &track, bool isOneRun, const LineDasher &dasher, const ResolvedStyle &style);
     DashOutput dashOutput(const ResolvedStyle &style);
+    /// A text or shape in a linetype.
     void emitSign(const LinePatternElement &element, const Matrix &toScreen, const ResolvedStyle &style);
+    /// `size`: half of the mark's, in pixels; `mode` as in the header variable PDMODE.
     void emitMarkShape(QPointF at, double size, int mode, const ResolvedStyle &style);
 
     Scene &m_scene;
     const WalkOptions m_options;
     DisplaySink &m_sink;
     drawing::WorkBudget &m_work;
-    const std::int64_t m_refusalsBefore;
+    const std::int64_t m_refusalsBefore; ///< of the budget, which others may have used before
     const PixelCost m_cost;
-    bool m_isTooDeep = false;
+    bool m_isTooDeep = false;    ///< blocks were nested deeper than they are opened
     std::vector<char> m_isOpen;  ///< by block
     std::vector<char> m_isShown; ///< by block: it was met
-    Track m_track;
+    Track m_track;               ///< the line under way; kept for its memory
 };
 
 } // namespace host::view

@@ -10,23 +10,24 @@ namespace host::view {
 /// How the characters that follow look, as the inline codes of multi-line text have set it.
 struct MTextFormat
 {
-    double height = 1.0; ///< drawing units
-    double widthFactor = 1.0;
-    double oblique = 0.0;  ///< degrees
-    double tracking = 1.0; ///< factor on the advance of each character
-    QString fontName{};    ///< family or file; empty: as the style has it
+    double height = 1.0;      ///< drawing units; codes set 1e-9 to 1e12
+    double widthFactor = 1.0; ///< of letters; codes set 0.01 to 100
+    double oblique = 0.0;     ///< degrees to the right of upright; codes set -85 to 85
+    double tracking = 1.0;    ///< factor on the advance of each character; codes set 0.1 to 10
+    QString fontName{};       ///< family or file; empty: as the style has it
     bool isBold = false;
     bool isItalic = false;
     bool isUnderlined = false;
     bool isOverlined = false;
     bool isStruck = false;
     int raise = 0;                       ///< 0 on the base line, 1 in the middle of the line, 2 at its top
-    std::optional<int> colourIndex{};    ///< 0 by block, 256 by layer
-    std::optional<quint32> trueColour{}; ///< 0xRRGGBB
+    std::optional<int> colourIndex{};    ///< 0 by block, 256 by layer; nothing: as the entity
+    std::optional<quint32> trueColour{}; ///< 0xRRGGBB; goes before the index
 
     bool operator==(const MTextFormat &) const = default;
 };
 
+/// How the lines of a paragraph stand between its sides.
 enum class MTextAlignment
 {
     Default, ///< as the attachment point says
@@ -88,23 +89,31 @@ public:
     std::vector<MTextToken> parse();
 
 private:
+    /// What stands behind a backslash; one at the end of the text is left out.
     void takeCode();
+    /// A code that changes m_format or m_paragraph. Numbers out of range leave what was there, or give the usual one.
     void takeFormatCode(QChar code);
+    /// upper^lower, upper/lower or upper#lower up to the ";"; a backslash takes the next character literally.
     void takeStack();
+    /// Family|b1|i0|c0|p0, or the name of a font file alone.
     void takeFont();
+    /// Indents and alignment; tab stops and line spacing are left out.
     void takeParagraph();
+    /// Up to the ";" that ends it, which is passed, or to the end of the text.
     QString argument();
+    /// `current` for what is no number; `isRelative` when an "x" stands behind it.
     double number(const QString &argument, double current, bool *isRelative = nullptr) const;
     void flushWord();
+    /// A token without a text, behind the word under way.
     void add(MTextToken::Kind kind);
 
     QStringView m_text;
-    qsizetype m_at = 0;
+    qsizetype m_at = 0; ///< in m_text
     MTextFormat m_format;
-    double m_startHeight;
+    double m_startHeight; ///< what indents are multiples of
     MTextParagraph m_paragraph;
-    std::vector<MTextFormat> m_groups;
-    QString m_word;
+    std::vector<MTextFormat> m_groups; ///< what holds again behind each group that is open
+    QString m_word;                    ///< the word under way
     std::vector<MTextToken> m_tokens;
 };
 
