@@ -96,6 +96,8 @@ TEST(PlaybackScript, PutsPartsWhereTheyArePlayed)
         {u"part a\nend\nplay a"_s, QString()},
         {u"point 1,2 ~ enter  ~  ~ answer \"a ~ \\\" ~ b\" ~ lisp (f \"x ~ y\" '~) \\\n ~ enter"_s,
          u"point 1,2|enter|answer \"a ~ \\\" ~ b\"|lisp (f \"x ~ y\" '~)|enter"_s},
+        {u"lisp (f \"\\\\\") ~ enter ~ answer \"\\\\\" ~ cancel"_s,
+         u"lisp (f \"\\\\\")|enter|answer \"\\\\\"|cancel"_s},
         {u"part a X ~ answer ${X} ~ enter ~ end ~ play a 1 ~ play a \"2 ~ # x ~ cancel\""_s,
          u"answer 1|enter|answer 2|cancel|enter"_s},
     };

@@ -43,7 +43,9 @@ void takePieces(QList<WholeLine> &lines, int number, const QString &text)
             lines.append({number, piece});
     };
     for (qsizetype i = 0; i < text.size(); ++i) {
-        if (text[i] == u'"' && (i == 0 || text[i - 1] != u'\\'))
+        if (isQuoted && text[i] == u'\\')
+            ++i;
+        else if (text[i] == u'"' && (isQuoted || i == 0 || text[i - 1] != u'\\'))
             isQuoted = !isQuoted;
         if (isQuoted || !QStringView(text).sliced(i).startsWith(" ~ "_L1))
             continue;
