@@ -290,7 +290,7 @@ TEST_F(EditAlias, PrintsAListInUpperCase)
     showAliases(u"_line=l"_s + u" CIRCLE=ci"_s.repeated(150));
     const QString file = host.path(u"list.pdf"_s);
     ModalAnswers user;
-    user.drive([](QWidget *window) { window->close(); });
+    user.drive([](QWidget *shown) { shown->close(); });
     click("btnPrint");
     EXPECT_FALSE(QFile::exists(file));
     user.drive(printingTo(file));
