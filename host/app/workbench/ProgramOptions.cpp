@@ -215,7 +215,7 @@ more to show than is drawn in one go: a few lines of a drawing can make millions
 )";
 
 constexpr auto windowHelp = R"(Usage: ortakit [OPTION...] [DRAWING...]
-       ortakit run SESSION DRAWING... [--out DIR] [--png]
+       ortakit run SESSION [DRAWING...] [--out DIR] [--png]
        ortakit lisp FILE... [--drawing DRAWING]
        ortakit convert IN OUT [--strict] [--json]
 
