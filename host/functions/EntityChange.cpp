@@ -1,6 +1,7 @@
 #include "host/functions/EntityChange.h"
 
 #include "host/drawing/records/EntityRules.h"
+#include "host/drawing/tags/GroupCodes.h"
 #include "host/kernel/documents/Document.h"
 #include "host/kernel/lisp/EntityList.h"
 #include "host/kernel/lisp/ParagraphSize.h"
@@ -15,20 +16,19 @@ namespace host::kernel {
 
 namespace {
 
+using drawing::applicationCode;
+using drawing::embeddedObjectCode;
 using drawing::Field;
 using drawing::FieldList;
+using drawing::groupCode;
+using drawing::ownerCode;
 using drawing::RecordId;
 using drawing::ShownField;
+using drawing::subclassCode;
 using drawing::Vec2;
 using drawing::Vec3;
+using drawing::xdataCode;
 using lisp::Value;
-
-constexpr int xdataCode = -3;
-constexpr int nameOfXdata = 1001;
-constexpr int markerCode = 100;
-constexpr int embeddedCode = 101;
-constexpr int braceCode = 102;
-constexpr int ownerCode = 330;
 
 /// Where a group belongs: groups of an embedded object are others than the record's own with the same code.
 struct Key
@@ -55,7 +55,7 @@ class KeyMaker
 public:
     Key take(int code)
     {
-        m_isEmbedded = m_isEmbedded || code == embeddedCode;
+        m_isEmbedded = m_isEmbedded || code == embeddedObjectCode;
         return {code, m_isEmbedded};
     }
 
@@ -92,7 +92,7 @@ bool isOrdered(const QString &type)
 
 FieldList::iterator findMarker(FieldList &fields)
 {
-    return std::find_if(fields.begin(), fields.end(), [](const Field &field) { return field.code == markerCode; });
+    return std::find_if(fields.begin(), fields.end(), [](const Field &field) { return field.code == subclassCode; });
 }
 
 class Change
@@ -162,7 +162,7 @@ private:
     {
         for (auto count = m_counts.begin(); count != m_counts.end(); ++count) {
             const int before = static_cast<int>(m_shownByKey.value(count.key()).size());
-            if (count.value() != before && (before != 0 || count.key().code == braceCode || count.key().isEmbedded))
+            if (count.value() != before && (before != 0 || count.key().code == groupCode || count.key().isEmbedded))
                 return false;
         }
         return true;
@@ -188,7 +188,7 @@ private:
     /// The record's fields in their places, with other values where the list has such.
     FieldList substituted()
     {
-        FieldList body(m_present.begin(), std::ranges::find(m_present, nameOfXdata, &Field::code));
+        FieldList body(m_present.begin(), std::ranges::find(m_present, applicationCode, &Field::code));
         std::vector<FieldList> behind(body.size());
         FieldList added;
         for (const Given &given : m_given) {
@@ -223,7 +223,7 @@ private:
         auto place = drawing::ownEnd(fields);
         if (isEntityKind(m_document.drawing().kind(m_record)) && drawing::isCommonCode(field.code)) {
             const auto marker = std::find_if(fields.begin(), place, [](const Field &each) {
-                return each.code == markerCode && each.text() == QStringLiteral("AcDbEntity");
+                return each.code == subclassCode && each.text() == QStringLiteral("AcDbEntity");
             });
             if (marker != place)
                 place = std::find_if_not(marker + 1, place,
@@ -242,7 +242,7 @@ private:
         restoreHead(result);
         KeyMaker keys;
         for (const Field &field : m_present) {
-            if (field.code == nameOfXdata)
+            if (field.code == applicationCode)
                 break;
             const Key key = keys.take(field.code);
             const bool isProperty = field.code < 10 || (field.code >= 48 && field.code <= 67 && field.code != 50);
