@@ -45,6 +45,7 @@ inline double dot(Vec2 a, Vec2 b)
 {
     return a.x * b.x + a.y * b.y;
 }
+
 /// A quarter turn, counter-clockwise.
 inline Vec2 turnedLeft(Vec2 v)
 {
