@@ -43,8 +43,7 @@ TEST(MText, Structure)
         {u"%%c20 %%p1 45%%d 5%%%"_s, u"\u230020_\u00b11_45\u00b0_5%"_s},
         {u"{\\fArial|b1|i0|c0|p34;x}y"_s, u"xy"_s},
         {u"\\A1;\\pi-3,l3,t3;x"_s, u"x"_s},
-        {u"\\zq"_s, u"q"_s},
-        {u"unfinished \\"_s, u"unfinished_"_s},
+        {u"unfinished \\"_s, u"unfinished_\\"_s},
         {u"unfinished \\H2.5"_s, u"unfinished_"_s},
         {u"unfinished \\S1/2"_s, u"unfinished_[1/2]"_s},
         {u"}}x{{{"_s, u"x"_s},
@@ -61,7 +60,7 @@ TEST(MText, Formats)
         {u"\\H1.5x;x"_s, {.height = 3.0}},
         {u"\\H2x;\\H2x;x"_s, {.height = 8.0}},
         {u"{\\H5;a}x"_s, {.height = 2.0}},
-        {u"\\Hrubbish;x"_s, {.height = 1.0}},
+        {u"\\Hrubbish;x"_s, {.height = 2.0}},
         {u"\\H-4;x"_s, {.height = 2.0}},
         {u"\\W0.5;\\Q15;x"_s, {.height = 2.0, .widthFactor = 0.5, .oblique = 15.0}},
         {u"\\L\\O\\Kx"_s, {.height = 2.0, .isUnderlined = true, .isOverlined = true, .isStruck = true}},
@@ -78,6 +77,51 @@ TEST(MText, Formats)
         const std::vector<MTextToken> tokens = MTextParser(text, start).parse();
         ASSERT_FALSE(tokens.empty());
         EXPECT_EQ(tokens.back().format, format) << text.toStdString();
+    }
+}
+
+/// A code without its semicolon takes what can be meant, and no text with it.
+TEST(MText, CodesWithoutTheirEnd)
+{
+    const MTextFormat plain;
+    struct Row
+    {
+        QString text;
+        QString tokens;
+        MTextFormat last{};
+    };
+    const Row rows[] = {
+        {u"\\H3Hello world; and"_s, u"Hello_world;_and"_s, {.height = 3.0}},
+        {u"\\H2.5xbig"_s, u"big"_s, {.height = 2.5}},
+        {u"\\H2. Next"_s, u"._Next"_s, {.height = 2.0}},
+        {u"\\H1e2;x"_s, u"x"_s, {.height = 100.0}},
+        {u"\\Hello; you"_s, u"\\Hello;_you"_s, plain},
+        {u"\\H;x"_s, u"x"_s, plain},
+        {u"\\W0.5wide"_s, u"wide"_s, {.widthFactor = 0.5}},
+        {u"\\Q-15slanted"_s, u"slanted"_s, {.oblique = -15.0}},
+        {u"\\T2 x"_s, u"_x"_s, {.tracking = 2.0}},
+        {u"C:\\Temp"_s, u"C:\\Temp"_s, plain},
+        {u"\\A110 kV"_s, u"10_kV"_s, {.raise = 1}},
+        {u"\\C1Red {\\C2;green}"_s, u"Red_green"_s, {.colourIndex = 2}},
+        {u"\\c255x"_s, u"x"_s, {.trueColour = 0xff0000}},
+        {u"\\fTimes New Roman|b1|i0|c0|p18 Hello"_s, u"_Hello"_s, {.fontName = u"Times New Roman"_s, .isBold = true}},
+        {u"\\Fromans.shx Hello"_s, u"_Hello"_s, {.fontName = u"romans.shx"_s}},
+        {u"\\Fonts \\C1;x"_s, u"\\Fonts_x"_s, {.colourIndex = 1}},
+        {u"\\pi-3,l3,t3 Hello; x"_s, u"_Hello;_x"_s, plain},
+        {u"\\pxqcHello"_s, u"Hello"_s, plain},
+        {u"\\program"_s, u"\\program"_s, plain},
+        {u"\\S1/2 inch"_s, u"[1/2]_inch"_s, plain},
+        {u"\\S+1^ -2 mm"_s, u"[+1^-2]_mm"_s, plain},
+        {u"\\S1/2\\Pnext; x"_s, u"[1/2]/next;_x"_s, plain},
+        {u"{\\S1#2}x;"_s, u"[1#2]x;"_s, plain},
+        {u"\\Some text"_s, u"\\Some_text"_s, plain},
+        {u"\\zq"_s, u"\\zq"_s, plain},
+        {u"a}b{\\C1;c"_s, u"abc"_s, {.colourIndex = 1}},
+    };
+    for (const Row &row : rows) {
+        const std::vector<MTextToken> tokens = MTextParser(row.text, plain).parse();
+        EXPECT_EQ(shortFormOfTokens(tokens), row.tokens) << row.text.toStdString();
+        EXPECT_TRUE(!tokens.empty() && tokens.back().format == row.last) << row.text.toStdString();
     }
 }
 

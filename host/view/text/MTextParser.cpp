@@ -1,5 +1,6 @@
 #include "host/view/text/MTextParser.h"
 
+#include "host/view/text/MTextArguments.h"
 #include "host/view/text/TextCodes.h"
 
 #include <QStringList>
@@ -77,8 +78,10 @@ void MTextParser::add(MTextToken::Kind kind)
 void MTextParser::takeCode()
 {
     ++m_at;
-    if (m_at >= m_text.size())
+    if (m_at >= m_text.size()) {
+        m_word += u'\\';
         return;
+    }
     const QChar code = m_text[m_at++];
     switch (code.unicode()) {
     case u'\\':
@@ -90,84 +93,98 @@ void MTextParser::takeCode()
         m_word += QChar(QChar::Nbsp);
         break;
     case u'P':
+    case u'X':
         add(MTextToken::Kind::NewLine);
         break;
     case u'N':
         add(MTextToken::Kind::NewColumn);
         break;
-    case u'S':
-        flushWord();
-        takeStack();
-        break;
     default:
-        flushWord();
-        takeFormatCode(code);
+        if (!takeFormatCode(code)) {
+            m_word += u'\\';
+            --m_at;
+        }
     }
 }
 
-void MTextParser::takeFormatCode(QChar code)
+bool MTextParser::takeFormatCode(QChar code)
 {
     switch (code.unicode()) {
     case u'L':
     case u'l':
+        flushWord();
         m_format.isUnderlined = code == u'L';
-        break;
+        return true;
     case u'O':
     case u'o':
+        flushWord();
         m_format.isOverlined = code == u'O';
-        break;
+        return true;
     case u'K':
     case u'k':
+        flushWord();
         m_format.isStruck = code == u'K';
-        break;
+        return true;
+    case u'S':
+        return takeStack();
+    case u'f':
+    case u'F':
+        return takeFont();
+    case u'p':
+        return takeParagraph();
+    default:
+        return takeNumberCode(code);
+    }
+}
+
+bool MTextParser::takeNumberCode(QChar code)
+{
+    if (!u"HWQTACc"_s.contains(code))
+        return false;
+    const NumberForm form = code == u'H'                   ? NumberForm::MayBeFactor
+                            : code == u'C' || code == u'c' ? NumberForm::Whole
+                                                           : NumberForm::Plain;
+    const auto argument = code == u'A' ? takeDigitArgument(m_text, m_at) : takeNumberArgument(m_text, m_at, form);
+    if (!argument)
+        return false;
+    flushWord();
+    if (!argument->trimmed().isEmpty())
+        setNumber(code, argument->toString());
+    return true;
+}
+
+void MTextParser::setNumber(QChar code, const QString &argument)
+{
+    switch (code.unicode()) {
     case u'H': {
         bool isRelative = false;
-        const double value = number(argument(), 1.0, &isRelative);
+        const double value = number(argument, 1.0, &isRelative);
         m_format.height =
             bounded(isRelative ? m_format.height * value : value, smallestHeight, largestHeight, m_format.height);
         break;
     }
     case u'W':
-        m_format.widthFactor = bounded(number(argument(), m_format.widthFactor), 0.01, 100.0, m_format.widthFactor);
+        m_format.widthFactor = bounded(number(argument, m_format.widthFactor), 0.01, 100.0, m_format.widthFactor);
         break;
     case u'Q':
-        m_format.oblique = bounded(number(argument(), 0.0), -85.0, 85.0, 0.0);
+        m_format.oblique = bounded(number(argument, 0.0), -85.0, 85.0, 0.0);
         break;
     case u'T':
-        m_format.tracking = bounded(number(argument(), 1.0), 0.1, 10.0, 1.0);
+        m_format.tracking = bounded(number(argument, 1.0), 0.1, 10.0, 1.0);
         break;
     case u'A':
-        m_format.raise = static_cast<int>(bounded(number(argument(), 0.0), 0.0, 2.0, 0.0));
+        m_format.raise = static_cast<int>(bounded(number(argument, 0.0), 0.0, 2.0, 0.0));
         break;
     case u'C':
-        m_format.colourIndex = static_cast<int>(bounded(number(argument(), 256.0), 0.0, 257.0, 256.0));
+        m_format.colourIndex = static_cast<int>(bounded(number(argument, 256.0), 0.0, 257.0, 256.0));
         m_format.trueColour.reset();
         break;
-    case u'c': {
+    default: {
         // Blue stands in the high byte here.
-        const auto value = static_cast<quint32>(bounded(number(argument(), 0.0), 0.0, 4294967295.0, 0.0));
+        const auto value = static_cast<quint32>(bounded(number(argument, 0.0), 0.0, 4294967295.0, 0.0));
         m_format.trueColour = (value & 0xff) << 16 | (value & 0xff00) | (value >> 16 & 0xff);
-        break;
     }
-    case u'f':
-    case u'F':
-        takeFont();
-        break;
-    case u'p':
-        takeParagraph();
-        break;
-    default:
-        break;
     }
-}
-
-/// Up to the semicolon that ends it.
-QString MTextParser::argument()
-{
-    const qsizetype end = m_text.indexOf(u';', m_at);
-    const QString found = m_text.mid(m_at, (end < 0 ? m_text.size() : end) - m_at).toString();
-    m_at = end < 0 ? m_text.size() : end + 1;
-    return found;
 }
 
 double MTextParser::number(const QString &argument, double current, bool *isRelative) const
@@ -184,15 +201,19 @@ double MTextParser::number(const QString &argument, double current, bool *isRela
 }
 
 /// upper^lower, upper/lower or upper#lower; a backslash takes the next character literally.
-void MTextParser::takeStack()
+bool MTextParser::takeStack()
 {
+    const auto argument = takeStackArgument(m_text, m_at);
+    if (!argument)
+        return false;
+    flushWord();
     MTextToken stack{.kind = MTextToken::Kind::Stack, .format = m_format, .paragraph = m_paragraph};
     bool isLower = false;
-    while (m_at < m_text.size() && m_text[m_at] != u';') {
-        QChar c = m_text[m_at++];
-        const bool isLiteral = c == u'\\' && m_at < m_text.size();
+    for (qsizetype at = 0; at < argument->size();) {
+        QChar c = argument->at(at++);
+        const bool isLiteral = c == u'\\' && at < argument->size();
         if (isLiteral)
-            c = m_text[m_at++];
+            c = argument->at(at++);
         if (!isLiteral && !isLower && (c == u'^' || c == u'/' || c == u'#')) {
             isLower = true;
             stack.bar = c == u'^'   ? MTextToken::Bar::None
@@ -202,25 +223,34 @@ void MTextParser::takeStack()
             (isLower ? stack.lower : stack.text) += c;
         }
     }
-    ++m_at;
     stack.text = stack.text.trimmed();
     stack.lower = stack.lower.trimmed();
     m_tokens.push_back(std::move(stack));
+    return true;
 }
 
 /// Family|b1|i0|c0|p0, or a file name alone.
-void MTextParser::takeFont()
+bool MTextParser::takeFont()
 {
-    const QStringList parts = argument().split(u'|');
-    m_format.fontName = parts.front();
+    const auto argument = takeFontArgument(m_text, m_at);
+    if (!argument)
+        return false;
+    flushWord();
+    const QStringList parts = argument->toString().split(u'|');
+    m_format.fontName = parts.front().trimmed();
     m_format.isBold = parts.contains("b1"_L1);
     m_format.isItalic = parts.contains("i1"_L1);
+    return true;
 }
 
 /// i: first line, l and r: sides, in text heights; q: alignment. Tab stops and spacing are left out.
-void MTextParser::takeParagraph()
+bool MTextParser::takeParagraph()
 {
-    for (QString part : argument().split(u',')) {
+    const auto argument = takeParagraphArgument(m_text, m_at);
+    if (!argument)
+        return false;
+    flushWord();
+    for (QString part : argument->toString().split(u',')) {
         if (part.startsWith(u'x'))
             part.remove(0, 1);
         if (part.isEmpty())
@@ -247,6 +277,7 @@ void MTextParser::takeParagraph()
             break;
         }
     }
+    return true;
 }
 
 } // namespace host::view

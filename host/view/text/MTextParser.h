@@ -76,8 +76,9 @@ struct MTextToken
 
 /// Takes the inline codes of multi-line text apart.
 ///
-/// Understood: \P \N \~ \\ \{ \} \L \l \O \o \K \k \H \W \Q \T \A \C \c \S \f \F \p, {groups}, and %% character codes.
-/// Unknown codes are left out; unfinished ones end with the text. Groups nest as deep as the text is long.
+/// Understood: \P \N \X \~ \\ \{ \} \L \l \O \o \K \k \H \W \Q \T \A \C \c \S \f \F \p, {groups}, and %% character
+/// codes. A code without its semicolon ends with what can be its argument (see MTextArguments.h). What is no code, or
+/// lacks its argument, is shown as it stands, so that no text vanishes. Groups nest as deep as the text is long.
 class MTextParser
 {
 public:
@@ -89,18 +90,19 @@ public:
     std::vector<MTextToken> parse();
 
 private:
-    /// What stands behind a backslash; one at the end of the text is left out.
+    /// What stands behind a backslash.
     void takeCode();
     /// A code that changes m_format or m_paragraph. Numbers out of range leave what was there, or give the usual one.
-    void takeFormatCode(QChar code);
-    /// upper^lower, upper/lower or upper#lower up to the ";"; a backslash takes the next character literally.
-    void takeStack();
+    /// False for what is no code.
+    bool takeFormatCode(QChar code);
+    bool takeNumberCode(QChar code);
+    void setNumber(QChar code, const QString &argument);
+    /// upper^lower, upper/lower or upper#lower; a backslash takes the next character literally.
+    bool takeStack();
     /// Family|b1|i0|c0|p0, or the name of a font file alone.
-    void takeFont();
+    bool takeFont();
     /// Indents and alignment; tab stops and line spacing are left out.
-    void takeParagraph();
-    /// Up to the ";" that ends it, which is passed, or to the end of the text.
-    QString argument();
+    bool takeParagraph();
     /// `current` for what is no number; `isRelative` when an "x" stands behind it.
     double number(const QString &argument, double current, bool *isRelative = nullptr) const;
     void flushWord();
