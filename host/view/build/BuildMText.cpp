@@ -1,6 +1,7 @@
 #include "host/view/build/BuildMText.h"
 
 #include "host/drawing/math/Angles.h"
+#include "host/drawing/text/ParagraphColumns.h"
 #include "host/drawing/text/ParagraphText.h"
 #include "host/view/build/TextLook.h"
 
@@ -36,15 +37,62 @@ Matrix runMatrix(const MTextRun &run)
             {run.x, run.y, 0.0}};
 }
 
-MTextBox readBox(const TagList &tags)
+constexpr qint64 mostColumns = 1000; ///< what a record says, which may be damage
+
+double saneLength(double value)
+{
+    return isUsable(value) && value > 0.0 ? value : 0.0;
+}
+
+/// Columns that other entities hold are drawn with these.
+bool hasLinkedColumns(const BuildContext &context, const drawing::ParagraphColumns &columns)
+{
+    return std::ranges::any_of(columns.linked, [&](drawing::Handle handle) {
+        const RecordId record = context.drawing.find(handle);
+        return isValid(record) && context.drawing.isType(record, "MTEXT");
+    });
+}
+
+MTextColumns columnsOf(const drawing::ParagraphColumns &read)
+{
+    MTextColumns columns;
+    columns.count = static_cast<std::size_t>(std::clamp<qint64>(read.count, 1, mostColumns));
+    columns.isCountFixed = !read.isDynamic;
+    columns.gutter = saneLength(read.gutter);
+    columns.isReversed = read.isReversed;
+    columns.furtherHeight = saneLength(read.definedHeight);
+    if (read.isDynamic && !read.isAutoHeight)
+        std::ranges::transform(read.heights, std::back_inserter(columns.heights), saneLength);
+    return columns;
+}
+
+MTextBox readBox(const BuildContext &context, const TagList &tags)
 {
     MTextBox box;
-    const double width = tags.real(41);
-    box.width = isUsable(width) && width > 0.0 ? width : 0.0;
+    box.width = saneLength(tags.real(41));
     const double spacing = tags.real(44, 1.0);
     box.lineSpacing = spacing >= 0.1 && spacing <= 10.0 ? spacing : 1.0;
     box.isSpacingExact = tags.integer(73, 1) == 2;
+    const auto columns = drawing::paragraphColumns(tags);
+    if (columns && isUsable(columns->width) && !hasLinkedColumns(context, *columns)) {
+        box.width = columns->width;
+        box.columns = columnsOf(*columns);
+    }
     return box;
+}
+
+double coverMargin(const TagList &tags)
+{
+    const double scale = tags.real(45, 1.5);
+    return scale >= 1.0 && scale <= 5.0 ? scale - 1.0 : 0.5;
+}
+
+/// A frame that is an entity by itself is drawn with that.
+std::optional<double> readFrame(const BuildContext &context, const TagList &tags)
+{
+    const drawing::ParagraphFrame frame = drawing::paragraphFrame(tags);
+    const bool isLost = !frame.polyline.isNull() && !isValid(context.drawing.find(frame.polyline));
+    return frame.isShown || isLost ? std::optional(coverMargin(tags)) : std::nullopt;
 }
 
 /// Background: a colour of its own, or that of what the drawing lies on.
@@ -56,8 +104,7 @@ std::optional<MTextPlace::Cover> readCover(const TagList &tags)
     if ((flags & (hasColour | hasGround)) == 0)
         return std::nullopt;
     MTextPlace::Cover cover;
-    const double scale = tags.real(45, 1.5);
-    cover.margin = scale >= 1.0 && scale <= 5.0 ? scale - 1.0 : 0.5;
+    cover.margin = coverMargin(tags);
     if ((flags & hasGround) != 0)
         return cover;
     cover.kind = FillKind::Area;
@@ -68,21 +115,33 @@ std::optional<MTextPlace::Cover> readCover(const TagList &tags)
     return cover;
 }
 
-void addCover(BuildContext &context, const MTextPlace::Cover &cover, const Matrix &placement, const MTextLayout &layout,
-              double textHeight)
+/// Around the text with the tails of its last line.
+Curve frameAround(const MTextLayout &layout, const Matrix &placement, double margin, double textHeight)
 {
     constexpr double tails = 0.33;
-    const double margin = cover.margin * textHeight;
+    margin *= textHeight;
+    const double bottom = -layout.height - margin - tails * textHeight;
     Curve frame;
     for (const Vec3 &corner : {Vec3{-margin, margin, 0.0}, Vec3{layout.width + margin, margin, 0.0},
-                               Vec3{layout.width + margin, -layout.height - margin - tails * textHeight, 0.0},
-                               Vec3{-margin, -layout.height - margin - tails * textHeight, 0.0}}) {
+                               Vec3{layout.width + margin, bottom, 0.0}, Vec3{-margin, bottom, 0.0}}) {
         frame.points.push_back(placement.point(corner));
     }
     frame.points.push_back(frame.points.front());
+    return frame;
+}
+
+void addSurroundings(BuildContext &context, const MTextPlace &place, const MTextLayout &layout, const Matrix &placement)
+{
     Style style = context.style;
-    style.colour = cover.colour;
-    context.add(Fill{.contours = {frame}, .kind = cover.kind}, style);
+    style.linetype = 0;
+    if (place.cover) {
+        Style area = style;
+        area.colour = place.cover->colour;
+        Curve edge = frameAround(layout, placement, place.cover->margin, place.height);
+        context.add(Fill{.contours = {std::move(edge)}, .kind = place.cover->kind}, area);
+    }
+    if (place.frameMargin)
+        context.add(Stroke{frameAround(layout, placement, *place.frameMargin, place.height)}, style);
 }
 
 } // namespace
@@ -98,8 +157,7 @@ void addMText(BuildContext &context, const MTextPlace &place, const QString &con
     const MTextLayout layout = layOutMText(MTextParser(content, start).parse(), box, place.height, context.fonts());
     const Vec3 corner{-layout.width * column / 2.0, layout.height * row / 2.0, 0.0};
     const Matrix placement = place.frame * Matrix::translation(corner);
-    if (place.cover)
-        addCover(context, *place.cover, placement, layout, place.height);
+    addSurroundings(context, place, layout, placement);
     for (const MTextRun &run : layout.runs) {
         if (run.text.trimmed().isEmpty())
             continue;
@@ -127,9 +185,10 @@ bool buildMText(BuildContext &context, const TagList &tags)
                            .height = height,
                            .attachment = static_cast<int>(std::clamp<qint64>(tags.integer(71, 1), 1, 9)) - 1,
                            .styleName = tags.text(7),
-                           .cover = readCover(tags)};
+                           .cover = readCover(tags),
+                           .frameMargin = readFrame(context, tags)};
     // An empty text shows nothing, which is what it says.
-    addMText(context, place, drawing::paragraphContent(tags), readBox(tags));
+    addMText(context, place, drawing::paragraphContent(tags), readBox(context, tags));
     return true;
 }
 

@@ -21,6 +21,7 @@ struct MTextPlace
     int attachment = 0; ///< which point of the text is the insertion point: three rows of three from the top left
     QString styleName{};
     std::optional<Cover> cover{};
+    std::optional<double> frameMargin{}; ///< a frame around the text, as far from it in text heights
 };
 
 /// Adds the text; font and alignment of `box` are filled in from the place.

@@ -19,6 +19,10 @@ struct Line
     MTextParagraph paragraph{};
     double indent = 0.0;
     bool endsParagraph = false;
+    bool endsColumn = false;
+    // Filled in when all lines are there.
+    std::size_t column = 0;
+    double base = 0.0; ///< below the top of its column, counted down from 0
 };
 
 class Layouter
@@ -52,6 +56,7 @@ private:
         case MTextToken::Kind::NewLine:
         case MTextToken::Kind::NewColumn:
             m_line.height = std::max(m_line.height, m_line.runs.empty() ? token.format.height : 0.0);
+            m_line.endsColumn = token.kind == MTextToken::Kind::NewColumn;
             finishLine(true);
             break;
         case MTextToken::Kind::Space:
@@ -206,33 +211,76 @@ private:
         }
     }
 
+    /// Shares the lines out among the columns and says where each stands in its own.
+    void stackLines()
+    {
+        std::size_t column = 0;
+        double base = 0.0;
+        bool isFirst = true;
+        for (Line &line : m_lines) {
+            const double height = m_box.isSpacingExact ? m_height : line.height;
+            const double step = height * lineStep * m_box.lineSpacing;
+            if (!isFirst && startsColumn(base - step, column)) {
+                ++column;
+                isFirst = true;
+            }
+            base = isFirst ? -line.height : base - step;
+            isFirst = false;
+            line.column = column;
+            line.base = base;
+            m_previousEndsColumn = line.endsColumn;
+        }
+    }
+
+    bool startsColumn(double base, std::size_t column) const
+    {
+        if (!m_box.columns || (m_box.columns->isCountFixed && column + 1 >= m_box.columns->count))
+            return false;
+        const std::vector<double> &heights = m_box.columns->heights;
+        const double limit = column < heights.size() ? heights[column] : m_box.columns->furtherHeight;
+        return m_previousEndsColumn || (limit > 0.0 && -base > limit * (1.0 + 1e-9));
+    }
+
+    double columnStep() const { return m_box.width + m_box.columns->gutter; }
+
+    double columnStart(const Line &line, std::size_t count) const
+    {
+        if (!m_box.columns)
+            return 0.0;
+        return columnStep() * static_cast<double>(m_box.columns->isReversed ? count - 1 - line.column : line.column);
+    }
+
     MTextLayout assemble()
     {
+        stackLines();
+        double width = m_box.width;
+        std::size_t columns = m_box.columns ? m_box.columns->count : 1;
         MTextLayout layout;
-        layout.width = m_box.width;
-        if (layout.width <= 0.0) {
-            for (const Line &line : m_lines)
-                layout.width = std::max(layout.width, line.indent + line.visibleWidth);
+        for (const Line &line : m_lines) {
+            columns = std::max(columns, line.column + 1);
+            layout.height = std::max(layout.height, -line.base);
+            if (m_box.width <= 0.0)
+                width = std::max(width, line.indent + line.visibleWidth);
         }
-        double base = 0.0;
-        for (std::size_t i = 0; i < m_lines.size(); ++i) {
-            Line &line = m_lines[i];
-            const double height = m_box.isSpacingExact ? m_height : line.height;
-            base -= i == 0 ? line.height : height * lineStep * m_box.lineSpacing;
-            justify(line, layout.width);
-            const double start = lineStart(line, layout.width);
-            for (MTextRun &run : line.runs) {
-                const double raise = run.y + (line.height - run.format.height) * run.format.raise / 2.0;
-                run.x += start;
-                run.y = base + (run.y == 0.0 ? raise : run.y);
-                layout.runs.push_back(std::move(run));
-            }
-            for (MTextRule &rule : line.rules) {
-                layout.rules.push_back({rule.x1 + start, rule.y1 + base, rule.x2 + start, rule.y2 + base, rule.format});
-            }
+        layout.width = m_box.columns ? columnStep() * static_cast<double>(columns) - m_box.columns->gutter : width;
+        for (Line &line : m_lines) {
+            justify(line, width);
+            add(line, columnStart(line, columns) + lineStart(line, width), layout);
         }
-        layout.height = -base;
         return layout;
+    }
+
+    static void add(Line &line, double start, MTextLayout &layout)
+    {
+        for (MTextRun &run : line.runs) {
+            const double raise = run.y + (line.height - run.format.height) * run.format.raise / 2.0;
+            run.x += start;
+            run.y = line.base + (run.y == 0.0 ? raise : run.y);
+            layout.runs.push_back(std::move(run));
+        }
+        for (const MTextRule &rule : line.rules)
+            layout.rules.push_back(
+                {rule.x1 + start, rule.y1 + line.base, rule.x2 + start, rule.y2 + line.base, rule.format});
     }
 
     const MTextBox &m_box;
@@ -241,6 +289,7 @@ private:
     Line m_line;
     std::vector<Line> m_lines;
     bool m_isNewParagraph = true;
+    bool m_previousEndsColumn = false;
 };
 
 } // namespace

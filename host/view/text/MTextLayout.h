@@ -3,6 +3,7 @@
 #include "host/view/text/Fonts.h"
 #include "host/view/text/MTextParser.h"
 
+#include <optional>
 #include <vector>
 
 namespace host::view {
@@ -35,18 +36,30 @@ struct MTextLayout
 {
     std::vector<MTextRun> runs{};
     std::vector<MTextRule> rules{};
-    double width = 0.0;  ///< of the box: the given one, or that of the longest line
-    double height = 0.0; ///< from the top of the first line to the base of the last
+    double width = 0.0;  ///< of the box: the given one with all columns, or that of the longest line
+    double height = 0.0; ///< from the top of the first line to the base of the last, in the highest column
+};
+
+/// Columns that the lines are shared out among. A line that does not end within its column's height goes to the next.
+struct MTextColumns
+{
+    std::vector<double> heights{}; ///< of the columns one by one; 0 has no limit
+    double furtherHeight = 0.0;    ///< of those behind
+    std::size_t count = 1;         ///< columns that the box has at least
+    bool isCountFixed = false;     ///< what is left over stays in the last one
+    double gutter = 0.0;           ///< between two
+    bool isReversed = false;       ///< the first one stands on the right
 };
 
 /// What the entity says for all of its text.
 struct MTextBox
 {
-    double width = 0.0;                              ///< lines are broken here; 0: nowhere
+    double width = 0.0;                              ///< lines are broken here; 0: nowhere; that of a column
     double lineSpacing = 1.0;                        ///< factor on five thirds of the height
     bool isSpacingExact = false;                     ///< taller letters do not push lines apart
     MTextAlignment alignment = MTextAlignment::Left; ///< of paragraphs that have none of their own
     FontRequest styleFont{};                         ///< for what names no font
+    std::optional<MTextColumns> columns{};           ///< with a width only
 };
 
 /// Breaks the tokens into lines and says where each piece stands. Lines break between words; a word longer than the
