@@ -128,14 +128,15 @@ private:
         return path;
     }
 
+    /// The angles are directions, as those of circles, and no parameters.
     Path ellipseEdge()
     {
         const Vec3 center = point(10);
         Vec3 major = point(11);
         major.z = 0.0;
         const double ratio = real(40, 1.0);
-        const double start = real(50, 0.0) * radians;
-        const double end = real(51, 360.0) * radians;
+        const double start = ellipseParameter(real(50, 0.0) * radians, ratio);
+        const double end = ellipseParameter(real(51, 360.0) * radians, ratio);
         if (integer(73, 1) != 0)
             return ellipsePath(center, major, {0, 0, 1}, ratio, start, end, m_sink.flatness());
         Path path = ellipsePath(center, major, {0, 0, 1}, ratio, -end, -start, m_sink.flatness());

@@ -177,6 +177,14 @@ Path ellipsePath(const Vec3 &center, const Vec3 &majorAxis, const Vec3 &extrusio
     return path;
 }
 
+double ellipseParameter(double angle, double ratio)
+{
+    if (!(std::abs(ratio) > 0.0) || !std::isfinite(angle))
+        return angle;
+    const double nearest = std::atan2(std::sin(angle), std::abs(ratio) * std::cos(angle));
+    return nearest + std::round((angle - nearest) / (2.0 * pi)) * 2.0 * pi;
+}
+
 bool Spline::isValid() const
 {
     const auto order = static_cast<size_t>(degree) + 1;

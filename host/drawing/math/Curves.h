@@ -41,6 +41,11 @@ void appendBulge(Path &path, const Vec3 &from, const Vec3 &to, double bulge, con
 Path ellipsePath(const Vec3 &center, const Vec3 &majorAxis, const Vec3 &extrusion, double ratio, double startParameter,
                  double endParameter, const Flatness &flatness = {});
 
+/// The parameter of the point of an ellipse that lies in a direction: both angles in radians from its major axis,
+/// `ratio` that of the minor axis to the major one. Whole turns stay whole turns. A ratio of 0 has no such point: the
+/// angle itself.
+double ellipseParameter(double angle, double ratio);
+
 /// A B-spline; with weights a rational one.
 struct Spline
 {

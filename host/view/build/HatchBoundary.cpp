@@ -149,11 +149,12 @@ private:
         loop.points.push_back(arc.point(arc.start + arc.sweep));
     }
 
-    /// Angles of a clockwise arc are counted clockwise as well.
-    void readSweep(ArcSpan &arc)
+    /// Angles of a clockwise arc are counted clockwise as well. They are directions, of ellipses too: `ratio` makes
+    /// them parameters.
+    void readSweep(ArcSpan &arc, double ratio = 1.0)
     {
-        const double start = m_cursor.realIf(50) * radians;
-        double sweep = m_cursor.realIf(51) * radians - start;
+        const double start = drawing::ellipseParameter(m_cursor.realIf(50) * radians, ratio);
+        double sweep = drawing::ellipseParameter(m_cursor.realIf(51) * radians, ratio) - start;
         const bool isCounterClockwise = m_cursor.integerIf(73, 1) != 0;
         constexpr double turn = 2.0 * std::numbers::pi;
         if (!(std::abs(sweep) <= turn + 1e-9))
@@ -180,7 +181,7 @@ private:
         const double ratio = m_cursor.realIf(40, 1.0);
         arc.xAxis.z = 0.0;
         arc.yAxis = Vec3{-arc.xAxis.y, arc.xAxis.x, 0.0} * ratio;
-        readSweep(arc);
+        readSweep(arc, ratio);
         appendArc(loop, arc);
     }
 
