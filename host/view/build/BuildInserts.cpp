@@ -1,6 +1,7 @@
 #include "host/drawing/geometry/EntityGeometry.h"
 #include "host/drawing/records/Blocks.h"
 #include "host/drawing/records/Dictionaries.h"
+#include "host/drawing/tags/GroupCodes.h"
 #include "host/view/build/DisplayBuilder.h"
 #include "host/view/build/Scene.h"
 #include "host/view/display/DisplayBoxes.h"
@@ -28,6 +29,62 @@ Matrix readRows(const std::vector<double> &numbers, std::size_t from)
     return {column(0), column(1), column(2), column(3)};
 }
 
+/// Two corners stand for the rectangle between them.
+Path polygonOf(Path corners)
+{
+    if (corners.size() != 2)
+        return corners;
+    return {corners[0], {corners[1].x, corners[0].y, 0.0}, corners[1], {corners[0].x, corners[1].y, 0.0}};
+}
+
+/// The points of an extension record behind the mark `name` (102), up to the next mark.
+Path markedPoints(const drawing::FieldList &fields, QStringView name)
+{
+    Path points;
+    bool isWanted = false;
+    for (const drawing::Field &field : fields) {
+        if (field.code == drawing::groupCode)
+            isWanted = field.text() == name;
+        else if (isWanted && field.code == 10)
+            points.push_back(field.point());
+    }
+    return points;
+}
+
+/// What an inverted clip leaves out; empty for a usual one. The filter itself has, for programs that do not know of
+/// inverted clips, some polygon of what is left. The boundary counts as long as that is the one it was noted with.
+Path invertedBoundary(const drawing::Drawing &drawing, RecordId filter, const Path &corners)
+{
+    const drawing::Dictionaries &dictionaries = drawing.dictionaries();
+    const auto sameFlat = [](const Vec3 &a, const Vec3 &b) { return a.xy() == b.xy(); };
+    for (const auto &entry : dictionaries.entries(dictionaries.extensionDictionary(filter))) {
+        if (!isValid(entry.record) || !drawing.isType(entry.record, "XRECORD"))
+            continue;
+        const drawing::FieldList data = dictionaries.xrecordData(entry.record);
+        Path left = markedPoints(data, u"ACAD_INVERTEDCLIP_ROUNDTRIP");
+        if (left.size() > 1 &&
+            std::ranges::equal(markedPoints(data, u"ACAD_INVERTEDCLIP_ROUNDTRIP_COMPARE"), corners, sameFlat))
+            return polygonOf(std::move(left));
+    }
+    return {};
+}
+
+/// A polygon of what lies around `inner`: a far larger rectangle that goes to its first corner and back.
+Path polygonAround(const Path &inner, const Path &filter)
+{
+    constexpr double reach = 10.0; ///< times the size of the filter's own polygon, which held all of the block
+    Box box;
+    for (const Path *points : {&inner, &filter})
+        std::ranges::for_each(*points, [&box](const Vec3 &p) { box.add(p); });
+    const Vec3 margin = (box.high - box.low) * reach;
+    const Vec3 low = box.low - margin;
+    const Vec3 high = box.high + margin;
+    Path around = inner;
+    around.insert(around.end(),
+                  {inner.front(), low, {high.x, low.y, 0.0}, {high.x, high.y, 0.0}, {low.x, high.y, 0.0}, low});
+    return around;
+}
+
 /// The clip boundary of an insert, in coordinates of the block; empty when it has none that is switched on.
 Path readClip(BuildContext &context, RecordId insert)
 {
@@ -46,8 +103,8 @@ Path readClip(BuildContext &context, RecordId insert)
         numbers.erase(numbers.begin()); // distance of the front clip plane
     if (corners.size() < 2 || numbers.size() < 24)
         return {};
-    if (corners.size() == 2)
-        corners = {corners[0], {corners[1].x, corners[0].y, 0.0}, corners[1], {corners[0].x, corners[1].y, 0.0}};
+    const Path inverted = invertedBoundary(context.drawing, filter, corners);
+    corners = inverted.empty() ? polygonOf(std::move(corners)) : polygonAround(inverted, corners);
     // Many inserts may name one filter.
     if (!context.work.take(static_cast<std::int64_t>(corners.size())))
         return {};
