@@ -102,10 +102,15 @@ void outlineOfImage(OutlineSink &sink, const TagList &tags)
     const Vec3 size = tags.point(13, {1, 1, 0});
     const auto at = [&](double x, double y) { return origin + columns * x + rows * y; };
     const Path clip = tags.points(14);
+    const Path whole = {at(0, 0), at(size.x, 0), at(size.x, size.y), at(0, size.y), at(0, 0)};
+    const bool isClipped = clip.size() > 1 && tags.integer(280, 1) != 0;
+    const bool isInverted = tags.integer(290) == 1;
+    if (!isClipped || isInverted)
+        sink.add(whole);
+    if (!isClipped)
+        return;
     Path frame;
-    if (clip.size() < 2 || tags.integer(280, 1) == 0)
-        frame = {at(0, 0), at(size.x, 0), at(size.x, size.y), at(0, size.y)};
-    else if (clip.size() == 2)
+    if (clip.size() == 2)
         frame = {at(clip[0].x + 0.5, size.y - clip[0].y - 0.5), at(clip[1].x + 0.5, size.y - clip[0].y - 0.5),
                  at(clip[1].x + 0.5, size.y - clip[1].y - 0.5), at(clip[0].x + 0.5, size.y - clip[1].y - 0.5)};
     else

@@ -25,30 +25,6 @@ void addArea(BuildContext &context, Path outline, FillKind kind)
     context.add(std::move(fill));
 }
 
-/// The frame of a picture or mask: its clip boundary, which is in pixels from the middle of the top left pixel, y
-/// down; without one the whole picture.
-Path pictureFrame(const TagList &tags)
-{
-    const Vec3 corner = tags.point(10);
-    const Vec3 across = tags.point(11);
-    const Vec3 up = tags.point(12);
-    const Vec3 size = tags.point(13, {1.0, 1.0, 0.0});
-    Path boundary = tags.points(14);
-    if (boundary.size() < 2)
-        boundary = {{-0.5, -0.5, 0.0}, {size.x - 0.5, size.y - 0.5, 0.0}};
-    if (boundary.size() == 2) {
-        const Vec3 a = boundary[0];
-        const Vec3 b = boundary[1];
-        boundary = {a, {b.x, a.y, 0.0}, b, {a.x, b.y, 0.0}};
-    }
-    if (boundary.size() > 2 && boundary.front() == boundary.back())
-        boundary.pop_back();
-    Path frame;
-    for (const Vec3 &p : boundary)
-        frame.push_back(corner + across * (p.x + 0.5) + up * (size.y - 0.5 - p.y));
-    return frame;
-}
-
 /// Numbers of a viewport's view, from the model to the sheet.
 struct ViewportView
 {
@@ -171,26 +147,6 @@ bool buildMesh(BuildContext &context, const TagList &tags)
             context.addStroke(closed(std::move(edge)));
     }
     return !context.display.items.empty();
-}
-
-bool buildWipeout(BuildContext &context, const TagList &tags)
-{
-    Path frame = pictureFrame(tags);
-    if (!areUsable(frame))
-        return false;
-    addArea(context, frame, FillKind::Mask);
-    context.addStroke(closed(std::move(frame)));
-    context.display.items.back().isMaskFrame = true;
-    return true;
-}
-
-bool buildImage(BuildContext &context, const TagList &tags)
-{
-    Path frame = pictureFrame(tags);
-    if (!areUsable(frame))
-        return false;
-    context.addStroke(closed(std::move(frame)));
-    return true;
 }
 
 bool buildViewport(BuildContext &context, const TagList &tags)

@@ -41,7 +41,7 @@ constexpr std::array typeRows = {
     TypeRow{"3DFACE", build3dFace},
     TypeRow{"MESH", buildMesh, true},
     TypeRow{"WIPEOUT", buildWipeout},
-    TypeRow{"IMAGE", buildImage, true},
+    TypeRow{"IMAGE", buildImage},
     TypeRow{"VIEWPORT", buildViewport},
     TypeRow{"TEXT", buildText},
     TypeRow{"ATTRIB", buildText},

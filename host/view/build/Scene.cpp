@@ -12,9 +12,20 @@ namespace host::view {
 using namespace Qt::StringLiterals;
 using drawing::Space;
 
+namespace {
+
+/// Whether entities of the type show what is in files beside the drawing.
+bool showsFiles(QByteArrayView type)
+{
+    return type == "RTEXT" || type == "SHAPE" || type == "IMAGE";
+}
+
+} // namespace
+
 Scene::Scene(const drawing::Drawing &drawing, drawing::MacroSurroundings surroundings)
     : m_drawing(drawing), m_surroundings(std::move(surroundings)),
-      m_shapes(m_surroundings.file ? m_surroundings.file : drawing::namedFiles(drawing))
+      m_shapes(m_surroundings.file ? m_surroundings.file : drawing::namedFiles(drawing)),
+      m_images(m_surroundings.file ? m_surroundings.file : drawing::namedFiles(drawing))
 {
     if (!m_surroundings.variable)
         m_surroundings.variable = drawing::surroundingsOf(drawing).variable;
@@ -43,10 +54,11 @@ void Scene::regenerate()
 {
     for (const auto &block : m_blocks) {
         for (const RecordDisplay &shown : block->records) {
-            if (m_drawing.isType(shown.record, "RTEXT") || m_drawing.isType(shown.record, "SHAPE"))
+            if (showsFiles(m_drawing.typeName(shown.record)))
                 m_changes.records.insert(shown.record);
         }
     }
+    m_images.forget();
     m_changes.tables = true;
 }
 

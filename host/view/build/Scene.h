@@ -7,6 +7,7 @@
 #include "host/view/display/Appearance.h"
 #include "host/view/display/Display.h"
 #include "host/view/display/DrawOrder.h"
+#include "host/view/display/RasterFiles.h"
 #include "host/view/display/RenderReport.h"
 #include "host/view/text/Fonts.h"
 
@@ -57,8 +58,8 @@ public:
 
     const drawing::Drawing &drawing() const { return m_drawing; }
     const drawing::MacroSurroundings &surroundings() const { return m_surroundings; }
-    /// What comes from outside the drawing, the files and expressions of remote texts and the shape files, is read
-    /// again before the next look.
+    /// What comes from outside the drawing, the files and expressions of remote texts, the shape files and
+    /// the pictures, is read again before the next look.
     void regenerate();
     /// A number for a block by its name, whether or not there is such a block (yet). Layout blocks are spaces.
     int block(const QString &name);
@@ -77,6 +78,7 @@ public:
     const Appearance &appearance() const { return m_appearance; }
     Fonts &fonts() { return m_fonts; }
     drawing::ShapeFiles &shapes() { return m_shapes; }
+    RasterFiles &images() { return m_images; }
 
     // These prepare the block.
     /// Of what can be seen of the space or block; empty when that is nothing. Lines without end do not count. Goes
@@ -136,6 +138,7 @@ private:
     drawing::Drawing *m_followed = nullptr; ///< the drawing where its changes are observed
     Fonts m_fonts;
     drawing::ShapeFiles m_shapes;
+    RasterFiles m_images;
     Appearance m_appearance;
     std::vector<std::unique_ptr<BlockDisplay>> m_blocks; ///< by number; they keep their place in memory
     QHash<QString, int> m_blockNumbers;                  ///< by names in folded case

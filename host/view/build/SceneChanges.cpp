@@ -37,12 +37,12 @@ void Scene::recordChanged(RecordId record, RecordChange change, drawing::ChangeC
     } else if (kind == RecordKind::TableEntry) {
         m_changes.tables |= type == "LAYER" || type == "LTYPE";
         m_changes.everything |= type == "STYLE" || type == "DIMSTYLE";
-    } else if (kind == RecordKind::Variable || type == "WIPEOUTVARIABLES") {
+    } else if (kind == RecordKind::Variable || type == "WIPEOUTVARIABLES" || type == "RASTERVARIABLES") {
         m_changes.tables = true;
     } else if (type == "SORTENTSTABLE") {
         m_sortHandles.reset();
         m_changes.order = true;
-    } else if (type == "SPATIAL_FILTER") {
+    } else if (type == "SPATIAL_FILTER" || type == "IMAGEDEF") {
         m_changes.everything = true;
     }
 }

@@ -1,6 +1,7 @@
 #include "host/view/display/Appearance.h"
 
 #include "host/drawing/editing/WipeoutFrame.h"
+#include "host/drawing/records/Dictionaries.h"
 #include "host/drawing/records/HeaderVariables.h"
 #include "host/drawing/records/Tables.h"
 #include "host/view/display/WideLine.h"
@@ -75,6 +76,15 @@ LinePattern readPattern(const drawing::Drawing &drawing, const drawing::Linetype
     if (!(pattern.length > 1e-12) || !std::isfinite(pattern.length))
         pattern.elements.clear();
     return pattern;
+}
+
+/// A drawing that does not say so shows the frames of pictures.
+int imageFrame(const drawing::Drawing &drawing)
+{
+    const drawing::Dictionaries &dictionaries = drawing.dictionaries();
+    const drawing::RecordId root = dictionaries.root();
+    const drawing::RecordId settings = isValid(root) ? dictionaries.find(root, u"ACAD_IMAGE_VARS") : drawing::noRecord;
+    return isValid(settings) ? static_cast<int>(drawing.tags(settings).integer(70, 1)) : 1;
 }
 
 } // namespace
@@ -152,6 +162,7 @@ void Appearance::reload(const drawing::Drawing &drawing, Fonts &fonts, drawing::
     }
     m_linetypeScale = sanePositive(drawing.header().real(u"$LTSCALE"_s, 1.0), 1.0);
     m_maskFrame = drawing::wipeoutFrame(drawing);
+    m_imageFrame = imageFrame(drawing);
     m_pointMode = static_cast<int>(drawing.header().integer(u"$PDMODE"_s, 0));
     m_pointSize = drawing.header().real(u"$PDSIZE"_s, 0.0);
 }

@@ -84,6 +84,8 @@ public:
 
     /// Whether the frames of masks are seen on the screen, and on paper.
     bool showsMaskFrames(bool isPlotted) const { return m_maskFrame != 0 && !(isPlotted && m_maskFrame == 2); }
+    /// The same of pictures.
+    bool showsImageFrames(bool isPlotted) const { return m_imageFrame != 0 && !(isPlotted && m_imageFrame == 2); }
     double linetypeScale() const { return m_linetypeScale; } ///< $LTSCALE, positive
     int pointMode() const { return m_pointMode; }            ///< $PDMODE
     double pointSize() const
@@ -101,7 +103,8 @@ private:
     QStringList m_shapeFiles; ///< that styles of the drawing name
     QHash<QString, std::optional<std::vector<Curve>>> m_shapes;
     double m_linetypeScale = 1.0;
-    int m_maskFrame = 1; ///< see drawing::wipeoutFrame()
+    int m_maskFrame = 1;  ///< see drawing::wipeoutFrame()
+    int m_imageFrame = 1; ///< likewise, of the drawing's RASTERVARIABLES
     int m_pointMode = 0;
     double m_pointSize = 0.0;
 };

@@ -107,12 +107,42 @@ enum class FillKind : std::uint8_t
     Mask   ///< covers with the ground's colour what was drawn before
 };
 
+/// Colours that run into one another, along x from 0 to 1 or outwards from a point, in coordinates of its own.
+struct Gradient
+{
+    struct Stop
+    {
+        double at = 0.0;
+        std::uint32_t colour = 0; ///< 0xRRGGBB
+    };
+
+    std::vector<Stop> stops{}; ///< at least two, rising from 0 to 1; of a radial one from its center to its radius
+    bool isRadial = false;
+    Vec2 center{};
+    double radius = 1.0;
+    Matrix placement{}; ///< from its own coordinates
+};
+
 /// An area between closed curves, islands among them.
 struct Fill
 {
     std::vector<Curve> contours{};
     FillKind kind = FillKind::Area;
-    bool isEvenOdd = true; ///< otherwise overlapping contours of one direction make one area
+    bool isEvenOdd = true;                      ///< otherwise overlapping contours of one direction make one area
+    std::shared_ptr<const Gradient> gradient{}; ///< of an area, in place of its colour; null for most
+};
+
+struct RasterPixels;
+
+/// A picture made of pixels.
+struct Raster
+{
+    std::shared_ptr<const RasterPixels> pixels{};
+    Matrix placement{};         ///< from a square of 0 to 1 both ways, y up, that the picture fills
+    std::vector<Curve> area{};  ///< what of it is seen: closed, every second area inwards
+    bool isClipped = false;     ///< the area is not just the whole picture
+    bool isTransparent = false; ///< where it has no pixels, what lies below is seen
+    double opacity = 1.0;       ///< less lets the ground's colour through
 };
 
 /// A piece of text in one font, on one line. In its own coordinates it starts at the origin, runs along x, and its
@@ -134,17 +164,18 @@ struct PointMark
 
 struct Reference;
 
-/// The kinds there are. Texts and references are large and rare, so a shape only points to them and owns them; that
-/// makes displays things to move, not to copy.
-using Shape =
-    std::variant<Stroke, Fill, Segments, Endless, PointMark, std::unique_ptr<TextRun>, std::unique_ptr<Reference>>;
+/// The kinds there are. Texts, pictures and references are large and rare, so a shape only points to them and owns
+/// them; that makes displays things to move, not to copy.
+using Shape = std::variant<Stroke, Fill, Segments, Endless, PointMark, std::unique_ptr<TextRun>,
+                           std::unique_ptr<Raster>, std::unique_ptr<Reference>>;
 
 /// One shape with how it is drawn. The later one of a display covers the earlier.
 struct DisplayItem
 {
     Style style{};
     Shape shape{};
-    bool isMaskFrame = false; ///< seen as the drawing's setting for the frames of masks says
+    bool isMaskFrame = false;  ///< seen as the drawing's setting for the frames of masks says
+    bool isImageFrame = false; ///< likewise, of pictures
 };
 
 /// A block or space seen through a map, once or as an array.

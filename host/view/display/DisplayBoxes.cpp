@@ -39,6 +39,10 @@ struct BoxAdder
         for (const QPointF &corner : {room.topLeft(), room.topRight(), room.bottomLeft(), room.bottomRight()})
             box.add(placement.point({corner.x(), corner.y(), 0.0}));
     }
+    void operator()(const std::unique_ptr<Raster> &raster) const
+    {
+        std::ranges::for_each(raster->area, [this](auto &c) { addCurveBox(c, map, box); });
+    }
     void operator()(const std::unique_ptr<Reference> &) const {}
 
 private:

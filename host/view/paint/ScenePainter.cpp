@@ -1,5 +1,6 @@
 #include "host/view/paint/ScenePainter.h"
 
+#include "host/view/display/RasterFiles.h"
 #include "host/view/paint/SceneWalker.h"
 
 #include <QPaintEngine>
@@ -15,7 +16,8 @@ namespace {
 constexpr double readableText = 3.0; ///< pixels; smaller texts are drawn as a line
 constexpr double largestCachedText = 40.0;
 constexpr qsizetype longestCachedText = 4096;
-constexpr double margin = 4.0; ///< pixels beyond the edge, for thick lines
+constexpr double margin = 4.0;             ///< pixels beyond the edge, for thick lines
+constexpr double imageDotsPerInch = 300.0; ///< of pictures in files of lines
 constexpr int denseAlpha = 110;
 constexpr int highlightFillAlpha = 120;
 
@@ -32,6 +34,51 @@ struct Pen
 
     bool operator==(const Pen &) const = default;
 };
+
+/// What a map does in the plane.
+QTransform planeTransform(const Matrix &map)
+{
+    return {map.xAxis.x, map.xAxis.y, map.yAxis.x, map.yAxis.y, map.origin.x, map.origin.y};
+}
+
+QBrush gradientBrush(const Gradient &gradient, const Matrix &toScreen)
+{
+    QGradient own = QLinearGradient(0.0, 0.0, 1.0, 0.0);
+    if (gradient.isRadial)
+        own = QRadialGradient({gradient.center.x, gradient.center.y}, gradient.radius);
+    QGradientStops stops;
+    for (const Gradient::Stop &stop : gradient.stops)
+        stops.emplaceBack(stop.at, QColor(QRgb(stop.colour)));
+    own.setStops(stops);
+    QBrush brush(own);
+    brush.setTransform(planeTransform(toScreen));
+    return brush;
+}
+
+/// As areas, what of them lies in `reach`: a painter loses its way where one of them is far larger than the screen.
+void drawLargePixels(QPainter &painter, const QImage &image, const QTransform &ofPixels, const QRectF &reach)
+{
+    const QRect seen = ofPixels.inverted().mapRect(reach).toAlignedRect() & image.rect();
+    for (int y = seen.top(); y <= seen.bottom(); ++y) {
+        for (int x = seen.left(); x <= seen.right(); ++x) {
+            QPainterPath pixel;
+            pixel.addPolygon(clippedPolygon(ofPixels.map(QPolygonF(QRectF(x, y, 1.0, 1.0))), reach));
+            painter.fillPath(pixel, image.pixelColor(x, y));
+        }
+    }
+}
+
+/// `place` maps a square of 0 to 1 both ways, y up, to the screen; `reach` is where something is seen. The painter's
+/// transform is left changed.
+void drawPixels(QPainter &painter, const QImage &image, const QTransform &place, const QRectF &reach)
+{
+    constexpr double largestPixel = 1000.0; ///< units of the screen
+    const QTransform ofPixels = QTransform(1.0 / image.width(), 0.0, 0.0, -1.0 / image.height(), 0.0, 1.0) * place;
+    if (std::min(std::hypot(ofPixels.m11(), ofPixels.m12()), std::hypot(ofPixels.m21(), ofPixels.m22())) > largestPixel)
+        return drawLargePixels(painter, image, ofPixels, reach);
+    painter.setWorldTransform(ofPixels * painter.worldTransform());
+    painter.drawImage(QPointF(0.0, 0.0), image);
+}
 
 /// Collects lines and dots by pen, so that the painter draws many with one pen at a time: changing pens costs more than
 /// drawing a short line. Between two calls of flush() lines of different thin pens may change places, which can be told
@@ -160,6 +207,32 @@ public:
         m_painter.fillPath(area, color);
     }
 
+    void shade(const QPainterPath &area, const Gradient &gradient, const Matrix &toScreen,
+               const ResolvedStyle &style) override
+    {
+        if (m_isHighlighted)
+            return fill(area, FillKind::Area, style);
+        flush();
+        m_painter.fillPath(area, gradientBrush(gradient, toScreen));
+    }
+
+    void image(const Raster &raster, const QPainterPath &area, const Matrix &toScreen, QSize dots,
+               const ResolvedStyle &style) override
+    {
+        flush();
+        if (!raster.isTransparent || raster.opacity < 1.0)
+            m_painter.fillPath(area, groundColor(m_options.ground));
+        m_painter.save();
+        if (raster.isClipped)
+            m_painter.setClipPath(area, Qt::IntersectClip);
+        m_painter.setOpacity(raster.opacity);
+        m_painter.setRenderHint(QPainter::SmoothPixmapTransform, true);
+        drawPixels(m_painter, raster.pixels->levelFor(dots), planeTransform(toScreen), area.boundingRect());
+        m_painter.restore();
+        if (m_isHighlighted)
+            fill(area, FillKind::Area, style);
+    }
+
     void text(const TextRun &run, const Matrix &toScreen, const ResolvedStyle &style) override
     {
         const double width = std::hypot(toScreen.xAxis.x, toScreen.xAxis.y);
@@ -173,8 +246,7 @@ public:
             return;
         }
         flush();
-        const QTransform place(toScreen.xAxis.x, toScreen.xAxis.y, toScreen.yAxis.x, toScreen.yAxis.y,
-                               toScreen.origin.x, toScreen.origin.y);
+        const QTransform place = planeTransform(toScreen);
         m_painter.setRenderHint(QPainter::Antialiasing, true);
         if (m_isRaster && area / width <= largestCachedText && run.text.size() <= longestCachedText)
             drawCached(run, place, colourOf(style));
@@ -256,7 +328,8 @@ PaintResult paintScene(QPainter &painter, Scene &scene, int block, const ViewTra
     WalkOptions walk{.view = screen.adjusted(-margin, -margin, margin, margin),
                      .ground = options.ground,
                      .plottedOnly = options.plottedOnly,
-                     .isRaster = isRaster(painter)};
+                     .isRaster = isRaster(painter),
+                     .dotsPerUnit = isRaster(painter) ? 1.0 : imageDotsPerInch / painter.device()->logicalDpiX()};
     drawing::WorkBudget work(walk.isRaster ? drawing::pictureWork : drawing::vectorWork);
     SceneWalker walker(scene, walk, sink, work);
     walker.walk(block, view.matrix());

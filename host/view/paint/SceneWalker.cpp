@@ -99,7 +99,9 @@ void SceneWalker::walkItems(const std::vector<DisplayItem> &items, const Context
 {
     for (const DisplayItem &item : items) {
         const ResolvedStyle style = m_scene.appearance().resolve(item.style, context.insert, m_options.ground);
-        const bool isHiddenFrame = item.isMaskFrame && !m_scene.appearance().showsMaskFrames(m_options.plottedOnly);
+        const Appearance &appearance = m_scene.appearance();
+        const bool isHiddenFrame = (item.isMaskFrame && !appearance.showsMaskFrames(m_options.plottedOnly)) ||
+                                   (item.isImageFrame && !appearance.showsImageFrames(m_options.plottedOnly));
         if (isHiddenFrame || isHidden(style, item.shape, context))
             continue;
         if (!mayGoOn(context, 1))

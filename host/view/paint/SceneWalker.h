@@ -15,7 +15,8 @@ namespace host::view {
 class Scene;
 struct BlockDisplay;
 
-/// Takes what a walk finds, in screen coordinates and in the order in which it is drawn.
+/// Takes what a walk finds, in screen coordinates and in the order in which it is drawn. To one that knows neither
+/// gradients nor pictures they are areas.
 class DisplaySink
 {
 public:
@@ -28,6 +29,12 @@ public:
     virtual void dot(QPointF point, const ResolvedStyle &style) = 0;
     /// Closed contours with the fill rule set; cut off at the view where there is one.
     virtual void fill(const QPainterPath &area, FillKind kind, const ResolvedStyle &style) = 0;
+    /// An area whose colours run into one another; `toScreen` maps the coordinates of the gradient.
+    virtual void shade(const QPainterPath &area, const Gradient &gradient, const Matrix &toScreen,
+                       const ResolvedStyle &style);
+    /// A picture, of which the area is seen; `dots` is how many pixels of it are wanted across and up.
+    virtual void image(const Raster &raster, const QPainterPath &area, const Matrix &toScreen, QSize dots,
+                       const ResolvedStyle &style);
     /// `toScreen` maps the run's own coordinates.
     virtual void text(const TextRun &run, const Matrix &toScreen, const ResolvedStyle &style) = 0;
     /// Until the matching endClip() only what lies within the polygon is to be seen. Clips nest.
@@ -49,6 +56,8 @@ struct WalkOptions
     bool plottedOnly = false;
     /// Lines and areas become pixels, which cost the more the larger they are.
     bool isRaster = false;
+    /// How many pixels of a picture a unit of the screen can show.
+    double dotsPerUnit = 1.0;
 };
 
 /// Goes through the shapes of a space or block, opens the blocks it refers to, and hands out straight pieces, areas and
@@ -99,6 +108,7 @@ private:
     void show(const Endless &line, const ResolvedStyle &style, const Context &context);
     void show(const PointMark &mark, const ResolvedStyle &style, const Context &context);
     void show(const std::unique_ptr<TextRun> &run, const ResolvedStyle &style, const Context &context);
+    void show(const std::unique_ptr<Raster> &raster, const ResolvedStyle &style, const Context &context);
     void show(const std::unique_ptr<Reference> &reference, const ResolvedStyle &style, const Context &context);
 
     /// The cells that the view sees; all but the first are repeated.
@@ -113,7 +123,12 @@ private:
     bool canDash(const LineDasher &dasher, const Stroke &stroke);
     /// 1 for all lines of a pattern, 2 for every other, and so on, as the budget allows.
     std::size_t strideOf(const Segments &segments, const Context &context);
-    void emitOutlines(const Fill &fill, const ResolvedStyle &style, const Context &context);
+    void emitOutlines(const std::vector<Curve> &contours, const ResolvedStyle &style, const Context &context);
+    /// The contours as the view sees them, with what filling them takes; those thinner than a pixel are added to
+    /// `edges` as well, if given. Nothing when the work is used up.
+    std::optional<std::pair<QPainterPath, std::int64_t>> areaOf(const std::vector<Curve> &contours,
+                                                                const Context &context, std::vector<Track> *edges);
+    QSize dotsOf(const Matrix &toScreen) const;
     /// The parts in the view, as full lines.
     void emitTrack(const Track &track, const ResolvedStyle &style);
     void emitDashes(const Track &track, bool isOneRun, const LineDasher &dasher, const ResolvedStyle &style);

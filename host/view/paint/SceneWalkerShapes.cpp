@@ -1,6 +1,7 @@
 // What a walk through a scene does with each kind of shape that it meets; references to blocks are SceneWalker.cpp's.
 
 #include "host/view/build/Scene.h"
+#include "host/view/display/RasterFiles.h"
 #include "host/view/paint/SceneWalker.h"
 #include "host/view/text/Fonts.h"
 
@@ -13,7 +14,10 @@ namespace {
 constexpr double farthestPixel = 1e7; ///< pixels; what lies beyond is cut off before a painter sees it
 
 constexpr std::int64_t unitsOfLetter = 2;
-constexpr std::int64_t freeElements = 32; ///< of a linetype, on each line
+constexpr double mostDots = 100'000.0;           ///< of a picture, a side
+constexpr std::int64_t unitsOfImage = 8;         ///< for what a plain area of the same size takes one
+constexpr std::int64_t pixelsOfWrittenUnit = 20; ///< of a picture in a file of lines
+constexpr std::int64_t freeElements = 32;        ///< of a linetype, on each line
 
 /// How much longer things in a block get on the way to the drawing: linetypes grow with them.
 double sizeOf(const Matrix &map)
@@ -134,17 +138,35 @@ void SceneWalker::emitDashes(const Track &track, bool isOneRun, const LineDasher
 
 void SceneWalker::show(const Fill &fill, const ResolvedStyle &style, const Context &context)
 {
-    QPainterPath area;
-    area.setFillRule(fill.isEvenOdd ? Qt::OddEvenFill : Qt::WindingFill);
-    CurveTracer tracer(context.map, m_options.view, m_work);
     std::vector<Track> edges;
+    auto area = areaOf(fill.contours, context, fill.kind == FillKind::Area ? &edges : nullptr);
+    if (!area)
+        return;
+    area->first.setFillRule(fill.isEvenOdd ? Qt::OddEvenFill : Qt::WindingFill);
+    if (!m_work.take(area->second)) {
+        if (fill.kind != FillKind::Mask)
+            emitOutlines(fill.contours, style, context);
+    } else if (fill.gradient) {
+        m_sink.shade(area->first, *fill.gradient, context.map * fill.gradient->placement, style);
+    } else {
+        m_sink.fill(area->first, fill.kind, style);
+    }
+    for (const Track &edge : edges)
+        emitTrack(edge, style);
+}
+
+std::optional<std::pair<QPainterPath, std::int64_t>>
+SceneWalker::areaOf(const std::vector<Curve> &contours, const Context &context, std::vector<Track> *edges)
+{
+    QPainterPath area;
+    CurveTracer tracer(context.map, m_options.view, m_work);
     FillCost fillCost(m_cost);
-    for (const Curve &contour : fill.contours) {
+    for (const Curve &contour : contours) {
         tracer.trace(contour, m_track);
         if (m_track.points.size() < 2)
             continue;
         if (!mayGoOn(context, static_cast<std::int64_t>(m_track.points.size())))
-            return;
+            return std::nullopt;
         fillCost.add(m_track);
         QPolygonF polygon(QList<QPointF>(m_track.points.begin(), m_track.points.end()));
         const QRectF reach = polygon.boundingRect();
@@ -153,26 +175,59 @@ void SceneWalker::show(const Fill &fill, const ResolvedStyle &style, const Conte
         area.addPolygon(polygon);
         area.closeSubpath();
         // An area thinner than a pixel still shows as its edge.
-        if (fill.kind == FillKind::Area && std::min(reach.width(), reach.height()) < 2.0)
-            edges.push_back(m_track);
+        if (edges && std::min(reach.width(), reach.height()) < 2.0)
+            edges->push_back(m_track);
     }
-    if (m_work.take(fillCost.units()))
-        m_sink.fill(area, fill.kind, style);
-    else if (fill.kind != FillKind::Mask)
-        emitOutlines(fill, style, context);
-    for (const Track &edge : edges)
-        emitTrack(edge, style);
+    return std::pair(area, fillCost.units());
 }
 
 /// In place of an area that would cost too much.
-void SceneWalker::emitOutlines(const Fill &fill, const ResolvedStyle &style, const Context &context)
+void SceneWalker::emitOutlines(const std::vector<Curve> &contours, const ResolvedStyle &style, const Context &context)
 {
     CurveTracer tracer(context.map, m_options.view, m_work);
-    for (const Curve &contour : fill.contours) {
+    for (const Curve &contour : contours) {
         tracer.trace(contour, m_track);
         if (!m_track.points.empty() && (!context.isRepeated || m_work.take(unitsOf(m_track))))
             emitTrack(m_track, style);
     }
+}
+
+/// A picture seen edge-on, or infinitely large, shows nothing.
+QSize SceneWalker::dotsOf(const Matrix &toScreen) const
+{
+
+    const double area = std::abs(cross(toScreen.xAxis.xy(), toScreen.yAxis.xy()));
+    if (!(area > 0.0) || !std::isfinite(area))
+        return {};
+    const auto dots = [this](const Vec3 &axis) {
+        return std::max(1, static_cast<int>(std::min(axis.xy().length() * m_options.dotsPerUnit, mostDots)));
+    };
+    return {dots(toScreen.xAxis), dots(toScreen.yAxis)};
+}
+
+void SceneWalker::show(const std::unique_ptr<Raster> &raster, const ResolvedStyle &style, const Context &context)
+{
+    const Matrix toScreen = context.map * raster->placement;
+    const QSize dots = dotsOf(toScreen);
+    const auto area = dots.isEmpty() ? std::nullopt : areaOf(raster->area, context, nullptr);
+    if (!area)
+        return;
+    const QSize size = raster->pixels->levelFor(dots).size();
+    const std::int64_t written = m_options.isRaster ? 0 : qint64(size.width()) * size.height() / pixelsOfWrittenUnit;
+    if (m_work.take(area->second * unitsOfImage + written))
+        m_sink.image(*raster, area->first, toScreen, dots, style);
+    else
+        emitOutlines(raster->area, style, context);
+}
+
+void DisplaySink::shade(const QPainterPath &area, const Gradient &, const Matrix &, const ResolvedStyle &style)
+{
+    fill(area, FillKind::Area, style);
+}
+
+void DisplaySink::image(const Raster &, const QPainterPath &area, const Matrix &, QSize, const ResolvedStyle &style)
+{
+    fill(area, FillKind::Area, style);
 }
 
 void SceneWalker::show(const Segments &segments, const ResolvedStyle &style, const Context &context)

@@ -1,0 +1,11 @@
+#pragma once
+
+#include "host/view/build/DisplayBuilder.h"
+
+namespace host::view {
+
+/// Writes the name of a file that is not shown into the middle of where it would be: `placement` maps a square of 0 to
+/// 1 both ways, y up, onto that. Folders are left out. Nothing where the square has no area.
+void addFileName(BuildContext &context, const Matrix &placement, const QString &name);
+
+} // namespace host::view
