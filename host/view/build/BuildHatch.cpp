@@ -1,4 +1,5 @@
 #include "host/view/build/DisplayBuilder.h"
+#include "host/view/build/HatchGradient.h"
 #include "host/view/build/HatchLines.h"
 
 namespace host::view {
@@ -22,20 +23,9 @@ void place(Curve &curve, const Matrix &ocs)
 
 void addHatchArea(BuildContext &context, HatchData &hatch, const Matrix &ocs, FillKind kind)
 {
+    auto gradient = kind == FillKind::Area ? hatchGradient(hatch, ocs) : nullptr;
     std::ranges::for_each(hatch.loops, [&](Curve &loop) { place(loop, ocs); });
-    context.add(Fill{.contours = std::move(hatch.loops), .kind = kind});
-}
-
-/// A gradient is drawn in the mean of its colours.
-void blendGradient(BuildContext &context, const std::vector<quint32> &colours)
-{
-    if (colours.size() < 2)
-        return;
-    quint32 mean = 0;
-    for (const int shift : {0, 8, 16})
-        mean |= (((colours[0] >> shift & 0xff) + (colours[1] >> shift & 0xff)) / 2) << shift;
-    context.style.colour = {.kind = Colour::Kind::True, .value = mean};
-    context.display.isSimplified = true;
+    context.add(Fill{.contours = std::move(hatch.loops), .kind = kind, .gradient = std::move(gradient)});
 }
 
 bool addPattern(BuildContext &context, HatchData &hatch, const Matrix &ocs)
@@ -65,7 +55,6 @@ bool buildHatch(BuildContext &context, const TagList &tags)
     const Matrix ocs = Matrix::fromExtrusion(hatch.extrusion);
     if (!hatch.isSolid && !hatch.lines.empty())
         return addPattern(context, hatch, ocs);
-    blendGradient(context, hatch.gradientColours);
     addHatchArea(context, hatch, ocs, FillKind::Area);
     return true;
 }

@@ -2,6 +2,7 @@
 
 #include "host/drawing/math/Angles.h"
 #include "host/view/build/DisplayBuilder.h"
+#include "host/view/display/AciColor.h"
 #include "host/view/display/WideLine.h"
 
 #include <numbers>
@@ -16,6 +17,7 @@ namespace {
 
 constexpr std::size_t mostLoopsForIslands = 400;
 constexpr std::size_t mostPatternLines = 500;
+constexpr std::size_t mostGradientColours = 64;
 
 /// A place in the tags that moves forward.
 class Cursor
@@ -236,24 +238,48 @@ private:
             case 53:
                 readPatternLine(hatch);
                 break;
-            case 450:
-                m_isGradient = m_cursor.takeInteger() != 0;
-                break;
-            case 421:
-                readGradientColour(hatch);
-                break;
             default:
-                m_cursor.next();
+                readGradient(hatch.gradient);
             }
         }
     }
 
-    /// Plain hatches carry the colours of a gradient that is switched off.
-    void readGradientColour(HatchData &hatch)
+    void readGradient(HatchGradientData &gradient)
     {
-        const auto colour = static_cast<quint32>(m_cursor.takeInteger() & 0xffffff);
-        if (m_isGradient)
-            hatch.gradientColours.push_back(colour);
+        auto &colours = gradient.colours;
+        switch (m_cursor.code()) {
+        case 450:
+            gradient.isOn = m_cursor.takeInteger() != 0;
+            break;
+        case 460:
+            gradient.angle = m_cursor.takeReal();
+            break;
+        case 461:
+            gradient.shift = m_cursor.takeReal();
+            break;
+        case 462:
+            gradient.tint = m_cursor.takeReal();
+            break;
+        case 463:
+            if (const double at = m_cursor.takeReal(); colours.size() < mostGradientColours)
+                colours.push_back({.at = std::clamp(at, 0.0, 1.0)});
+            break;
+        case 63:
+            if (const qint64 index = m_cursor.takeInteger(); !colours.empty())
+                colours.back().colour =
+                    aciColor(static_cast<int>(std::clamp<qint64>(index, 1, 255)), Ground::Black).rgb();
+            break;
+        case 421:
+            if (const qint64 colour = m_cursor.takeInteger(); !colours.empty())
+                colours.back().colour = static_cast<std::uint32_t>(colour & 0xffffff);
+            break;
+        case 470:
+            gradient.name = m_tags.decoded(m_tags[m_cursor.position()]);
+            m_cursor.next();
+            break;
+        default:
+            m_cursor.next();
+        }
     }
 
     void readPatternLine(HatchData &hatch)
@@ -280,7 +306,6 @@ private:
     drawing::WorkBudget &m_work;
     Cursor m_cursor;
     double m_elevation = 0.0;
-    bool m_isGradient = false;
 };
 
 bool contains(const Path &polygon, const Vec3 &p)

@@ -17,6 +17,17 @@ struct PatternLine
     std::vector<double> dashes{}; ///< negative: gap; empty: a full line
 };
 
+/// The gradient of a HATCH as its record has it.
+struct HatchGradientData
+{
+    bool isOn = false; ///< plain hatches carry one that is switched off
+    QString name{};
+    double angle = 0.0;                    ///< radians
+    double shift = 0.0;                    ///< 0 for a gradient that is centred, up to 1
+    double tint = 1.0;                     ///< of a gradient of one colour
+    std::vector<Gradient::Stop> colours{}; ///< as they stand there
+};
+
 /// A HATCH as its record has it.
 struct HatchData
 {
@@ -32,7 +43,7 @@ struct HatchData
     bool isSolid = false;
     std::vector<PatternLine> lines{};
     Vec3 extrusion{0.0, 0.0, 1.0};
-    std::vector<quint32> gradientColours{}; ///< 0xRRGGBB; of a gradient fill, its first and last
+    HatchGradientData gradient{};
 };
 
 /// Reads the record from front to back: its group codes mean different things in different places. What is cut off or
