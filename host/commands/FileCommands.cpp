@@ -74,8 +74,9 @@ bool isOwnVersion(CommandContext &context, const QString &wanted)
     return false;
 }
 
-/// The questions that a DXF file is asked for by other programs: accuracy and version.
-Dialogue<bool> askDxfOptions(CommandContext &context)
+/// The questions that a DXF file is asked for by other programs: accuracy, form and version. Nothing when the drawing
+/// is not to be written.
+Dialogue<std::optional<drawing::FileForm>> askDxfOptions(CommandContext &context)
 {
     for (;;) {
         const PromptReply reply =
@@ -85,20 +86,29 @@ Dialogue<bool> askDxfOptions(CommandContext &context)
             const PromptReply version =
                 co_await context.keyword(u"Enter version [%1]: "_s.arg(formatOptions().replace(u' ', u'/')));
             if (version.hasValue() && !isOwnVersion(context, version.text))
-                co_return false;
+                co_return std::nullopt;
             continue;
         }
+        if (reply.isKeyword(u"Binary"))
+            co_return drawing::FileForm::Binary;
         if (reply.kind == ReplyKind::Keyword || (reply.hasValue() && reply.integer != 16)) {
-            context.fail(u"This program writes whole drawings as text with all decimal places: nothing was written."_s);
-            co_return false;
+            context.fail(u"This program writes whole drawings with all decimal places: nothing was written."_s);
+            co_return std::nullopt;
         }
-        co_return true;
+        co_return drawing::FileForm::Text;
     }
 }
 
+/// Where and in which form a drawing is to be saved.
+struct SaveTarget
+{
+    QString path;
+    drawing::FileForm form;
+};
+
 /// Asks for a version first when one was answered in place of a file's name; then for the name. Nothing when the
-/// drawing is not to be written.
-Dialogue<std::optional<QString>> askSavePath(CommandContext &context)
+/// drawing is not to be written. The form is the drawing's own where no other was asked for.
+Dialogue<std::optional<SaveTarget>> askSaveTarget(CommandContext &context)
 {
     const Document &document = context.document();
     const QString usual = document.title();
@@ -106,20 +116,20 @@ Dialogue<std::optional<QString>> askSavePath(CommandContext &context)
     PromptReply reply = co_await context.text(
         u"Save drawing as, or enter file format [%1/DXF] <%2>: "_s.arg(formatOptions().replace(u' ', u'/'), usual),
         path, formatOptions() + u" DXF"_s);
+    std::optional<drawing::FileForm> form = document.drawing().form();
     if (reply.kind == ReplyKind::Keyword) {
-        bool isWritten = true;
         if (reply.text == u"DXF"_s)
-            isWritten = co_await askDxfOptions(context);
-        else
-            isWritten = isOwnVersion(context, reply.text);
-        if (!isWritten)
+            form = co_await askDxfOptions(context);
+        else if (!isOwnVersion(context, reply.text))
+            form = std::nullopt;
+        if (!form)
             co_return std::nullopt;
         reply = co_await context.text(u"Save drawing as <%1>: "_s.arg(usual), path);
     }
     const QString typed = reply.hasValue() ? reply.text.trimmed() : path;
     if (typed.isEmpty())
         co_return std::nullopt;
-    co_return drawingPath(typed);
+    co_return SaveTarget{drawingPath(typed), *form};
 }
 
 /// What the user wants of a file that should not be written unasked.
@@ -161,7 +171,7 @@ Dialogue<std::optional<QString>> askName(CommandContext &context)
 }
 
 /// Saves under the path, or under another one that is asked for when something stands against it; asks before an
-/// existing other file is replaced, unless EXPERT is 2 or more. False when nothing was to be written.
+/// existing other file is replaced, unless EXPERT is 2 or more. False when nothing was written.
 Dialogue<bool> saveUnder(CommandContext &context, std::optional<QString> path)
 {
     Document &document = context.document();
@@ -173,8 +183,9 @@ Dialogue<bool> saveUnder(CommandContext &context, std::optional<QString> path)
         if (obstacle)
             wish = co_await askAboutObstacle(context, *obstacle);
         if (wish == Wish::Write) {
-            tell(context, document.saveAs(*path, obstacle ? Overrule::Obstacles : Overrule::Nothing), *path);
-            co_return true;
+            const auto result = document.saveAs(*path, obstacle ? Overrule::Obstacles : Overrule::Nothing);
+            tell(context, result, *path);
+            co_return bool(result);
         }
         if (wish == Wish::Nothing)
             break;
@@ -192,11 +203,33 @@ CommandTask quickSave(CommandContext &context)
     co_await saveUnder(context, path);
 }
 
+/// The form of a drawing while it is being saved, which is its own again when nothing was written.
+class FormWhileSaving
+{
+public:
+    FormWhileSaving(drawing::Drawing &drawing, drawing::FileForm form) : m_drawing(drawing), m_own(drawing.form())
+    {
+        drawing.setForm(form);
+    }
+    ~FormWhileSaving() { m_drawing.setForm(m_isKept ? m_drawing.form() : m_own); }
+    FormWhileSaving(const FormWhileSaving &) = delete;
+    FormWhileSaving &operator=(const FormWhileSaving &) = delete;
+    void keep(bool isKept) { m_isKept = isKept; }
+
+private:
+    drawing::Drawing &m_drawing;
+    drawing::FileForm m_own;
+    bool m_isKept = false;
+};
+
 // Version or file name.
 CommandTask saveAs(CommandContext &context)
 {
-    const std::optional<QString> path = co_await askSavePath(context);
-    co_await saveUnder(context, path);
+    const std::optional<SaveTarget> target = co_await askSaveTarget(context);
+    if (!target)
+        co_return;
+    FormWhileSaving form(context.drawing(), target->form);
+    form.keep(co_await saveUnder(context, target->path));
 }
 
 /// The value that text means for a variable of the kind that `like` is; nothing when it does not.

@@ -40,7 +40,7 @@ bool isDrawing(const QString &path)
     if (!files::openRegular(file, path, largestDrawing).isEmpty())
         return false;
     const QByteArray start = file.read(64);
-    return drawing::isDwg(start) || drawing::isBinaryDxf(start) || bool(drawing::Drawing::open(path));
+    return drawing::isDwg(start) || bool(drawing::Drawing::open(path));
 }
 
 /// The external reference to the file, made when the drawing has none of the file's name yet. noRecord, with the reason

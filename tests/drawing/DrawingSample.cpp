@@ -1,5 +1,7 @@
 #include "tests/drawing/DrawingSample.h"
 
+#include "host/drawing/file/FileBytes.h"
+
 #include <QDir>
 #include <QFile>
 #include <QProcess>
@@ -78,6 +80,17 @@ std::unique_ptr<Drawing> readGood(const QByteArray &bytes)
     return std::move(Drawing::fromBytes("0\nEOF\n").drawing);
 }
 
+QByteArray fileBytes(const Drawing &drawing)
+{
+    QByteArray bytes;
+    const QString problem = forEachFilePiece(drawing, [&bytes](QByteArrayView piece) {
+        bytes += piece;
+        return true;
+    });
+    EXPECT_EQ(problem, QString());
+    return bytes;
+}
+
 QByteArray contents(const QString &path)
 {
     QFile file(path);
@@ -119,7 +132,7 @@ QString auditOf(const Drawing &drawing, bool &isThere)
     if (audit->program().isEmpty())
         audit->start(qEnvironmentVariable("ORTAKIT_SOURCE") + u"/scripts/audit"_s, {u"--fixes"_s, u"--serve"_s});
     const QTemporaryDir folder;
-    write(folder.filePath(u"audited.dxf"_s), drawing.toBytes());
+    write(folder.filePath(u"audited.dxf"_s), fileBytes(drawing));
     audit->write(folder.filePath(u"audited.dxf\n"_s).toUtf8());
     QByteArray answer;
     while (!answer.endsWith('\n') && audit->waitForReadyRead(60000))

@@ -31,6 +31,9 @@ inline std::unique_ptr<Drawing> sample(const QByteArray &version, const QByteArr
     return readGood(sampleText(version, entities, blocks));
 }
 
+/// What is in the file that the drawing is, in its form.
+QByteArray fileBytes(const Drawing &drawing);
+
 QByteArray contents(const QString &path);
 void write(const QString &path, const QByteArray &bytes);
 

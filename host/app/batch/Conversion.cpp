@@ -57,6 +57,13 @@ drawing::ReadableFiles readableFor(const ProgramOptions &options)
     return readable;
 }
 
+/// In the form that was asked for, whatever the input's is. Returns why not; empty when it was written.
+QString writeDxf(drawing::Drawing &drawing, const ProgramOptions &options)
+{
+    drawing.setForm(options.isBinary ? drawing::FileForm::Binary : drawing::FileForm::Text);
+    return drawing::saveCopy(drawing, options.output).error;
+}
+
 } // namespace
 
 int convertDrawing(const ProgramOptions &options)
@@ -67,6 +74,10 @@ int convertDrawing(const ProgramOptions &options)
     if (!isPicture && extension != "dxf"_L1 && extension != "dwg"_L1) {
         writeMessage(
             u"%1: the extension must be dxf, %2"_s.arg(native(options.output), pictureExtensions().join(", "_L1)));
+        return ExitUsage;
+    }
+    if (isPicture && options.isBinary) {
+        writeMessage(u"--binary is for DXF files"_s);
         return ExitUsage;
     }
     const LimitWatch watch(options.timeLimit.value_or(std::chrono::milliseconds()), native(options.input));
@@ -84,7 +95,7 @@ int convertDrawing(const ProgramOptions &options)
         written = writeDrawingPicture(*read.drawing, options.output,
                                       kernel::expressionSurroundings(*read.drawing, readableFor(options)));
     else
-        written.error = drawing::saveCopy(*read.drawing, options.output).error;
+        written.error = writeDxf(*read.drawing, options);
     if (!written) {
         writeMessage(written.error);
         return ExitFileError;

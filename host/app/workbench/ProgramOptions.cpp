@@ -101,6 +101,7 @@ const QList<OptionRow> &optionRows()
         {"--png", Value::None, {Mode::Run}, setFlag<&ProgramOptions::withPictures>},
         {"--force", Value::None, {Mode::Run, Mode::Lisp, Mode::Convert}, setFlag<&ProgramOptions::isForced>},
         {"--strict", Value::None, {Mode::Convert}, setFlag<&ProgramOptions::isStrict>},
+        {"--binary", Value::None, {Mode::Convert}, setFlag<&ProgramOptions::isBinary>},
         {"--json", Value::None, {Mode::Convert}, setFlag<&ProgramOptions::withJson>}};
     return rows;
 }
@@ -276,6 +277,7 @@ only in part, is told on standard error, by type.
   --time-limit SECONDS  the most it may take (default: no limit); OUT stays as it was when it takes longer
   --force   write OUT although another program has it open
   --strict  end with status 3 when something is missing in the picture, which is written all the same
+  --binary  write a DXF file in the binary form; without it, as text
   --json    print one line of JSON: input, output, and of pictures complete, drawn, invisible, inPart and notDrawn (a
             number for each type) and cutShort
 

@@ -51,6 +51,7 @@ struct ProgramOptions
     bool withPictures = false;   ///< Run
     bool isStrict = false;       ///< Convert
     bool isForced = false;       ///< Run, Lisp, Convert: files are written whatever other programs do with them
+    bool isBinary = false;       ///< Convert: a DXF file is written in the binary form
     bool withJson = false;       ///< Convert
     QString pictureFolder;
     std::optional<Style> style;

@@ -3,6 +3,7 @@
 #include "files/FileReplacement.h"
 #include "files/RegularFile.h"
 #include "files/qt/Files.h"
+#include "host/drawing/file/FileBytes.h"
 #include "host/drawing/records/Journal.h"
 
 #include <QDir>
@@ -26,24 +27,32 @@ QByteArrayView viewOf(std::string_view bytes)
 bool isSameContent(const Drawing &drawing, QByteArrayView bytes)
 {
     QByteArrayView left = bytes;
-    const bool isBegin = drawing.forEachPiece([&left](QByteArrayView piece) {
-        const bool matches = left.startsWith(piece);
-        left = left.sliced(matches ? piece.size() : 0);
-        return matches;
+    bool isSame = true;
+    forEachFilePiece(drawing, [&](QByteArrayView piece) {
+        isSame = left.startsWith(piece);
+        left = left.sliced(isSame ? piece.size() : 0);
+        return isSame;
     });
-    return isBegin && left.isEmpty();
+    return isSame && left.isEmpty();
+}
+
+/// The next record that is made of tags: what stands behind EOF is compared as bytes, and not part of every form.
+RecordId nextOfTags(const Drawing &drawing, RecordId id)
+{
+    const RecordId next = isValid(id) ? drawing.next(id) : drawing.first();
+    return isValid(next) && drawing.kind(next) == RecordKind::Tail ? noRecord : next;
 }
 
 /// The first record that is not where it is in what was read back, the last one where there is more; noRecord when all
 /// are.
 RecordId firstOther(const Drawing &drawing, const Drawing &readBack)
 {
-    RecordId there = readBack.first();
+    RecordId there = nextOfTags(readBack, noRecord);
     RecordId last = noRecord;
-    for (RecordId id = drawing.first(); id != noRecord; id = drawing.next(id)) {
+    for (RecordId id = nextOfTags(drawing, noRecord); isValid(id); id = nextOfTags(drawing, id)) {
         if (there == noRecord || readBack.typeName(there) != drawing.typeName(id))
             return id;
-        there = readBack.next(there);
+        there = nextOfTags(readBack, there);
         last = id;
     }
     return there == noRecord ? noRecord : last;
@@ -54,8 +63,8 @@ QString whyNot(const Drawing &drawing, QByteArrayView bytes)
 {
     if (!isSameContent(drawing, bytes))
         return u"what was written does not read back the same"_s;
-    // These bytes were opened once.
-    if (drawing.revision() == 0)
+    // These bytes were opened once, or are the text of those.
+    if (drawing.revision() == 0 && (drawing.form() == FileForm::Text || drawing.isBinaryFile()))
         return {};
     // Only looked at as long as the bytes are there.
     const ReadResult read = Drawing::fromBytes(QByteArray::fromRawData(bytes.data(), bytes.size()));
@@ -75,8 +84,9 @@ SaveResult failure(const QString &path, const QString &reason)
 SaveResult writeFile(const Drawing &drawing, const QString &path)
 {
     files::FileReplacement file(files::nativePath(path));
-    drawing.forEachPiece([&file](QByteArrayView piece) { return file.write(viewOf(piece)); });
-    QString problem;
+    QString problem = forEachFilePiece(drawing, [&file](QByteArrayView piece) { return file.write(viewOf(piece)); });
+    if (!problem.isEmpty())
+        return failure(path, problem);
     const bool isRight = file.readBack([&](std::string_view bytes) {
         problem = whyNot(drawing, viewOf(bytes));
         return problem.isEmpty();

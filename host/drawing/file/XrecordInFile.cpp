@@ -57,7 +57,7 @@ std::optional<FieldList> readXrecord(QIODevice &file, QStringView name, const Pi
     if (!file.seek(0))
         return failed(file.errorString());
     // Those of other programs are not read whole only to be refused.
-    if (const QByteArray start = file.peek(64); isDwg(start) || isBinaryDxf(start))
+    if (const QByteArray start = file.peek(64); isDwg(start))
         return failed(foreignContent(start));
     Finding found = findInPieces(file, name, sizes);
     if (found.isCertain)

@@ -35,6 +35,10 @@ Drawing::Drawing(IndexedFile &&file)
     d->version = versionNamed(m_header->text(u"$ACADVER"));
     if (d->version < Version::R2007)
         d->codec = TextCodec::forCodePage(m_header->text(u"$DWGCODEPAGE").toLatin1());
+    d->form = d->file.binary ? FileForm::Binary : FileForm::Text;
+    d->binary.codeSize = d->version < Version::R13 ? CodeSize::One : CodeSize::Two;
+    if (d->file.binary)
+        d->binary = std::exchange(*d->file.binary, {});
     for (quint32 i = 0; i < d->records().size(); ++i)
         d->nextHandle = std::max(d->nextHandle, d->entry(RecordId(i)).handle + 1);
 }
@@ -84,6 +88,31 @@ Version Drawing::version() const
 const TextCodec &Drawing::codec() const
 {
     return d->codec;
+}
+
+FileForm Drawing::form() const
+{
+    return d->form;
+}
+
+void Drawing::setForm(FileForm form)
+{
+    d->form = form;
+}
+
+bool Drawing::isBinaryFile() const
+{
+    return d->file.binary.has_value();
+}
+
+const BinaryOrigin &Drawing::binaryOrigin() const
+{
+    return d->binary;
+}
+
+QByteArrayView Drawing::fileText() const
+{
+    return d->file.bytes;
 }
 
 QByteArray Drawing::toBytes() const

@@ -2,6 +2,7 @@
 
 #include "host/drawing/records/DrawingObserver.h"
 #include "host/drawing/records/Record.h"
+#include "host/drawing/tags/BinaryTags.h"
 #include "host/drawing/tags/Diagnostic.h"
 #include "host/drawing/tags/TagList.h"
 
@@ -63,8 +64,9 @@ struct ReadResult
 class Drawing final
 {
 public:
-    /// Reads the text of a DXF file of any version. All or nothing: what is wrong in the structure is told with its
-    /// line, values are not looked at. Costs one pass over the bytes, which are kept.
+    /// Reads a DXF file of any version, text or binary. All or nothing: what is wrong in the structure is told with its
+    /// line, values are not looked at. Costs one pass over the bytes, which are kept; those of a binary file are made
+    /// text, which is kept instead.
     static ReadResult fromBytes(QByteArray bytes);
     /// As fromBytes(), for a regular file of up to 4 GB; remembers its path. What the file is, is told from its
     /// content, not from its name. Errors of opening begin with the path.
@@ -80,8 +82,18 @@ public:
     Version version() const;
     /// How texts are spelt in the file's bytes, fixed with the version.
     const TextCodec &codec() const;
-    /// The whole drawing as the bytes of a file. Until the first change these are the bytes read, shared and not
-    /// copied; later it costs a copy of everything.
+    /// What save() writes: the form of the file that was read, text for a new drawing. Asking for the other one is no
+    /// change of the drawing.
+    FileForm form() const;
+    void setForm(FileForm form);
+    /// Whether the file that was read is a binary one.
+    bool isBinaryFile() const;
+    /// What a drawing in the binary form is written with: how its file was, or how such files of its version are.
+    const BinaryOrigin &binaryOrigin() const;
+    /// What the file was read as: its text. Views into it are what KeptTag::place counts from.
+    QByteArrayView fileText() const;
+    /// The whole drawing as the text of a file, whatever its form; forEachFilePiece() gives the file. Until the first
+    /// change this is what was read, shared and not copied; later it costs a copy of everything.
     QByteArray toBytes() const;
     /// The same in pieces, in order and without copying them; a drawing nobody changed is one piece. Stops, and returns
     /// false, when `take` does. The views hold until the drawing is destroyed.

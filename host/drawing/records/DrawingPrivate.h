@@ -30,6 +30,8 @@ struct Drawing::Private
     IndexedFile file;
     TextCodec codec;
     Version version = Version::R12;
+    FileForm form = FileForm::Text;
+    BinaryOrigin binary;
     QString path;
     ByteArena arena;
     quint64 nextHandle = 1; ///< above every handle seen so far

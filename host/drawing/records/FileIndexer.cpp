@@ -319,6 +319,40 @@ void Indexer::indexHandles()
     }
 }
 
+IndexResult indexText(const QByteArray &bytes)
+{
+    IndexResult result = Indexer(bytes, LineEnds::LineFeed).run();
+    // A carriage return alone is text in some files and a line end in others; what reads is right.
+    if (!result.file && hasLoneCarriageReturn(bytes)) {
+        IndexResult other = Indexer(bytes, LineEnds::Any).run();
+        if (other.file || !bytes.contains('\n'))
+            return other;
+    }
+    return result;
+}
+
+/// Binary files have no lines, so their tags are counted.
+Diagnostic atTag(qint64 tag, const QString &text)
+{
+    return {0, u"tag %1 of the binary file: %2"_s.arg(tag).arg(text)};
+}
+
+IndexResult indexBinary(QByteArray bytes)
+{
+    BinaryAsText read = textFromBinary(bytes);
+    bytes.clear();
+    if (!read.error.isEmpty())
+        return {std::nullopt, atTag(read.tagCount + 1, read.error)};
+    if (quint64(read.text.size()) >= 0xFFFFFFFFULL)
+        return {std::nullopt, {0, u"the file is larger than 4 GB as text"_s}};
+    IndexResult result = Indexer(read.text, LineEnds::LineFeed).run();
+    if (result.file)
+        result.file->binary = std::move(read.origin);
+    else
+        result.error = atTag((result.error.line + 1) / 2, result.error.text);
+    return result;
+}
+
 } // namespace
 
 Section sectionNamed(QByteArrayView name)
@@ -334,11 +368,6 @@ Section sectionNamed(QByteArrayView name)
     return Section::Other;
 }
 
-bool isBinaryDxf(QByteArrayView bytes)
-{
-    return bytes.first(std::min<qsizetype>(bytes.size(), 22)).contains("Binary DXF");
-}
-
 bool isDwg(QByteArrayView bytes)
 {
     const auto isVersionDigit = [](char c) { return (c >= '0' && c <= '9') || c == '.'; };
@@ -350,12 +379,15 @@ QString foreignContent(QByteArrayView bytes)
 {
     if (bytes.trimmed().isEmpty())
         return u"the file is empty"_s;
-    if (isBinaryDxf(bytes))
-        return u"this is a binary DXF file; only text DXF can be read"_s;
     if (isDwg(bytes))
         return u"this is a DWG file; this program reads DXF only"_s;
     if (bytes.startsWith("\xFF\xFE") || bytes.startsWith("\xFE\xFF"))
         return u"this is a UTF-16 text file, not a DXF file"_s;
+    if (bytes.startsWith("\x1F\x8B") || bytes.startsWith("PK\x03\x04"))
+        return u"this is a packed file; unpack it first"_s;
+    // A transfer as text takes the file's line ends for those of another system.
+    if (bytes.startsWith(binaryMark().first(18)) && !bytes.startsWith(binaryMark()))
+        return u"this is a binary DXF file whose first bytes are damaged, as by a transfer as text"_s;
     return {};
 }
 
@@ -374,14 +406,7 @@ IndexResult indexFile(QByteArray bytes)
         return {std::nullopt, {0, u"the file is larger than 4 GB"_s}};
     if (const QString foreign = foreignContent(bytes); !foreign.isEmpty())
         return {std::nullopt, {0, foreign}};
-    IndexResult result = Indexer(bytes, LineEnds::LineFeed).run();
-    // A carriage return alone is text in some files and a line end in others; what reads is right.
-    if (!result.file && hasLoneCarriageReturn(bytes)) {
-        IndexResult other = Indexer(bytes, LineEnds::Any).run();
-        if (other.file || !bytes.contains('\n'))
-            return other;
-    }
-    return result;
+    return bytes.startsWith(binaryMark()) ? indexBinary(std::move(bytes)) : indexText(bytes);
 }
 
 } // namespace host::drawing

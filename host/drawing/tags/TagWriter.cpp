@@ -65,12 +65,18 @@ QByteArray formatReal(double number)
 {
     if (!std::isfinite(number))
         return "0.0";
-    char buffer[40];
-    const auto [end, error] = std::to_chars(buffer, buffer + sizeof buffer, number);
-    QByteArray text(buffer, end - buffer);
-    if (!text.contains('.') && !text.contains('e'))
-        text += ".0";
-    return text;
+    char buffer[realTextLength];
+    return {buffer, writeRealText(buffer, number)};
+}
+
+qsizetype writeRealText(char *buffer, double number)
+{
+    char *end = std::to_chars(buffer, buffer + realTextLength, number).ptr;
+    if (std::none_of(buffer, end, [](char c) { return c == '.' || c == 'e'; })) {
+        *end++ = '.';
+        *end++ = '0';
+    }
+    return end - buffer;
 }
 
 void TagWriter::write(const Field &field)

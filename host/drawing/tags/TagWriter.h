@@ -45,4 +45,8 @@ QByteArray rewriteFields(const std::vector<FieldSpan> &before, const FieldList &
 /// the language of the system. What is not finite becomes 0.0.
 QByteArray formatReal(double number);
 
+/// The same into a buffer of realTextLength characters, for a finite number; how many were written.
+qsizetype writeRealText(char *buffer, double number);
+inline constexpr qsizetype realTextLength = 40;
+
 } // namespace host::drawing

@@ -1,6 +1,6 @@
 #include "host/kernel/files/FileStamp.h"
 
-#include "host/drawing/records/Drawing.h"
+#include "host/drawing/file/FileBytes.h"
 
 #include <QDir>
 #include <QFile>
@@ -117,7 +117,7 @@ void FileStamp::setContent(const drawing::Drawing &drawing)
 {
     ContentHash hash;
     qint64 size = 0;
-    drawing.forEachPiece([&](QByteArrayView piece) {
+    drawing::forEachFilePiece(drawing, [&](QByteArrayView piece) {
         hash.add(piece);
         size += piece.size();
         return true;

@@ -6,4 +6,5 @@
 (view) ;! ZOOM|S|big ;> Requires a scale factor ;? (getvar "VIEWSIZE") ;= 100.0
 ;! SAVEAS|R12|x.dxf ;> no drawing in another version ;=
 ;! SAVEAS|DXF|8|x.dxf ;> with all decimal places ;=
+;! SAVEAS|DXF|Binary|nowhere/x.dxf ;> cannot be written ;=
 ;! SAVEAS|DXF|V|R12|16|x.dxf ;> no drawing in another version ;=
