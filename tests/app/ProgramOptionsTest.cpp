@@ -32,12 +32,46 @@ TEST(ProgramOptions, RefusesWhatMakesNoSense)
         {u"lisp a.lsp --memory-limit 15"_s, u"--memory-limit takes megabytes from 16 to 1048576, not \"15\""_s},
         {u"lisp a.lsp --memory-limit 1e3"_s, u"--memory-limit takes megabytes from 16 to 1048576, not \"1e3\""_s},
         {u"convert a.dxf b.dxf --memory-limit 64"_s, u"--memory-limit has no meaning here"_s},
+        {u"run s --paper A4"_s, u"--paper has no meaning here"_s},
+        {u"convert a b --paper A9"_s,
+         u"--paper takes A0 to A6, B0 to B6, ANSI-A to ANSI-E, ARCH-A to ARCH-E1 or millimetres from 10 to 5000 as "
+         u"420x297, with -landscape or -portrait behind, not \"A9\""_s},
+        {u"convert a b --scale 1:0"_s,
+         u"--scale takes millimetres on the sheet to drawing units, as 1:50, not \"1:0\""_s},
+        {u"convert a b --scale half"_s,
+         u"--scale takes millimetres on the sheet to drawing units, as 1:50, not \"half\""_s},
+        {u"convert a b --size 20000x10"_s, u"--size takes pixels from 1 to 16000 as 2000x1400, not \"20000x10\""_s},
+        {u"convert a b --size 20.5x10"_s, u"--size takes pixels from 1 to 16000 as 2000x1400, not \"20.5x10\""_s},
+        {u"convert a b --dpi 0"_s, u"--dpi takes dots an inch from 1 to 2400, not \"0\""_s},
+        {u"convert a b --ground grey"_s, u"--ground is black or white, not \"grey\""_s},
+        {u"convert a b --window 1,2,3"_s, u"--window takes two corners as 0,0,420,297, not \"1,2,3\""_s},
+        {u"convert a b --window 1,2,1,nan"_s, u"--window takes two corners as 0,0,420,297, not \"1,2,1,nan\""_s},
+        {u"convert a b --text letters"_s, u"--text is outlines or text, not \"letters\""_s},
         {u"lisp"_s, u"lisp needs at least one file"_s},
         {u"convert a.dxf"_s, u"convert needs two files"_s},
         {u"convert a b c"_s, u"convert needs two files"_s},
     };
     for (const auto &[arguments, error] : rows)
         EXPECT_EQ(parseArguments(arguments.split(u' ')).error, error) << arguments.toStdString();
+}
+
+TEST(ProgramOptions, KnowPapers)
+{
+    const std::pair<QString, QSizeF> rows[] = {
+        {u"A3"_s, {420, 297}},
+        {u"a4-portrait"_s, {210, 297}},
+        {u"B1-Landscape"_s, {1000, 707}},
+        {u"ANSID"_s, {863.6, 558.8}},
+        {u"arch-e1"_s, {1066.8, 762}},
+        {u"300x500.5"_s, {300, 500.5}},
+        {u"300X500-landscape"_s, {500, 300}},
+    };
+    for (const auto &[name, size] : rows) {
+        const ProgramOptions options = parseArguments({u"convert"_s, u"a"_s, u"b.pdf"_s, u"--paper"_s, name});
+        EXPECT_EQ(options.picture.as.sheet.paper, size) << name.toStdString() << options.error.toStdString();
+        EXPECT_EQ(options.picture.as.sheet.turnsPaper, name.size() < 8 && !name.contains(u'x'));
+    }
+    EXPECT_EQ(parseArguments({u"convert"_s, u"a"_s, u"b"_s, u"--scale=1:50"_s}).picture.as.sheet.scale, 0.02);
 }
 
 TEST(ProgramOptions, UnderstandsEachUse)

@@ -23,6 +23,36 @@ struct Ended
     QString messages;
 };
 
+/// A sheet of 100 by 50 millimetres of each name, with a line.
+QByteArray drawingWithSheets(const QByteArrayList &names)
+{
+    QByteArray records;
+    QByteArray blocks;
+    QByteArray layouts;
+    QByteArray entries;
+    for (qsizetype i = 0; i < names.size(); ++i) {
+        const QByteArray block = i == 0 ? "*Paper_Space" : "*Paper_Space" + QByteArray::number(i - 1);
+        const QByteArray number = QByteArray::number(i);
+        records += "0\nBLOCK_RECORD\n5\nE" + number + "\n2\n" + block + '\n';
+        blocks += "0\nBLOCK\n8\n0\n2\n" + block + "\n10\n0\n20\n0\n" +
+                  (i == 0 ? "" : "0\nLINE\n8\n0\n10\n1\n20\n1\n11\n9\n21\n9\n") + "0\nENDBLK\n8\n0\n";
+        entries += "3\n" + names[i] + "\n350\nA" + number + '\n';
+        layouts += "0\nLAYOUT\n5\nA" + number +
+                   "\n100\nAcDbPlotSettings\n70\n128\n74\n5\n72\n1\n44\n100\n45\n50\n142\n" +
+                   "1\n143\n1\n100\nAcDbLayout\n1\n" + names[i] + "\n71\n" + QByteArray::number(i + 1) + "\n330\nE" +
+                   number + '\n';
+    }
+    return "0\nSECTION\n2\nHEADER\n9\n$ACADVER\n1\nAC1015\n0\nENDSEC\n0\nSECTION\n2\nTABLES\n0\nTABLE\n2\n"
+           "BLOCK_RECORD\n0\nBLOCK_RECORD\n5\nEE\n2\n*Model_Space\n" +
+           records + "0\nENDTAB\n0\nENDSEC\n0\nSECTION\n2\nBLOCKS\n0\nBLOCK\n8\n0\n2\n*Model_Space\n0\nENDBLK\n" +
+           blocks +
+           "0\nENDSEC\n0\nSECTION\n2\nENTITIES\n0\nLINE\n67\n1\n8\n0\n10\n1\n20\n1\n11\n9\n21\n9\n0\nENDSEC\n" +
+           "0\nSECTION\n2\nOBJECTS\n0\nDICTIONARY\n5\nD0\n3\nACAD_LAYOUT\n350\nD1\n0\nDICTIONARY\n5\nD1\n330\nD0\n3\n" +
+           "Model\n350\nAA\n" + entries +
+           "0\nLAYOUT\n5\nAA\n100\nAcDbPlotSettings\n70\n0\n100\nAcDbLayout\n1\nModel\n71\n" + "0\n330\nEE\n" +
+           layouts + "0\nENDSEC\n0\nEOF\n";
+}
+
 /// The built program in a folder of its own.
 struct ProgramTest : testing::Test, TestFolder
 {
@@ -37,6 +67,7 @@ struct ProgramTest : testing::Test, TestFolder
               QByteArray(smallDrawing()).replace("0\nCIRCLE\n", "0\nRTEXT\n70\n0\n1\n../good.lsp\n"));
         for (const auto &row : runs.groups.at(0))
             write(QString::fromStdString(row.text('~')), QByteArray::fromStdString(row.lines('=')));
+        write(u"sheets.dxf"_s, drawingWithSheets({"Plan", "A/B: 1", "a:b/ 1"}));
         // Blocks within blocks, deeper than they are opened.
         QByteArray blocks;
         for (int i = 0; i < 40; ++i)

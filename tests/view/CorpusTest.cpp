@@ -33,7 +33,7 @@ void checkDrawing(const QFileInfo &file)
     if (!folder.isEmpty()) {
         ASSERT_TRUE(image.save(QDir(folder).filePath(file.completeBaseName() + u".png"_s)));
         const QString sheet = QDir(folder).filePath(file.completeBaseName() + u"-sheet.png"_s);
-        EXPECT_TRUE(exportPng(*read.drawing, sheet, {.space = u"*Paper_Space"_s, .pixels = {1000, 750}}));
+        EXPECT_TRUE(exportPng(*read.drawing, sheet, {.space = u"*Paper_Space"_s, .pixels = QSize(1000, 750)}));
     }
     // Everything that has a place is found where it is.
     const Box all = scene.extents(Scene::modelSpace);

@@ -34,7 +34,7 @@ protected:
 
 TEST_F(ExportTest, Png)
 {
-    const ExportResult result = exportPng(*m_drawing, path(u"a.png"_s), {.pixels = {320, 240}});
+    const ExportResult result = exportPng(*m_drawing, path(u"a.png"_s), {.pixels = QSize(320, 240)});
     ASSERT_TRUE(result) << result.error.toStdString();
     const QImage image(path(u"a.png"_s));
     EXPECT_EQ(image.size(), QSize(320, 240));
@@ -59,7 +59,7 @@ TEST_F(ExportTest, SvgIsWellFormedAndHasLines)
 
 TEST_F(ExportTest, PdfHasTheSheetItWasAskedFor)
 {
-    const ExportResult result = exportPdf(*m_drawing, path(u"a.pdf"_s), {.sheet = {420.0, 297.0}});
+    const ExportResult result = exportPdf(*m_drawing, path(u"a.pdf"_s), {.sheet = {.paper = QSizeF(420.0, 297.0)}});
     ASSERT_TRUE(result) << result.error.toStdString();
     const QByteArray bytes = readAll(path(u"a.pdf"_s));
     EXPECT_TRUE(bytes.startsWith("%PDF-"));

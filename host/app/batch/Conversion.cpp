@@ -6,11 +6,14 @@
 #include "host/app/workbench/DrawingPicture.h"
 #include "host/app/workbench/LimitWatch.h"
 #include "host/app/workbench/ProgramOutput.h"
+#include "host/drawing/records/LayoutTabs.h"
 #include "host/kernel/documents/ExpressionSurroundings.h"
 
 #include <QFileInfo>
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QRegularExpression>
 #include <QSet>
 
 using namespace Qt::StringLiterals;
@@ -27,18 +30,42 @@ QJsonObject counts(const QMap<QString, qint64> &byType)
     return object;
 }
 
-/// One line of JSON; `report` is null where nothing was drawn.
-QByteArray conversionReport(const ProgramOptions &options, const view::RenderReport *report)
+void addReport(QJsonObject &object, const view::RenderReport &report)
+{
+    object.insert(u"complete"_s, report.isWhole());
+    object.insert(u"drawn"_s, report.drawn);
+    object.insert(u"invisible"_s, report.hidden);
+    object.insert(u"inPart"_s, counts(report.simplified));
+    object.insert(u"notDrawn"_s, counts(report.skipped));
+    object.insert(u"cutShort"_s, report.isCutShort);
+}
+
+/// A file that a conversion writes, and the sheets in it.
+struct PictureFile
+{
+    QString path;
+    QStringList layouts{}; ///< none: all of model space
+    view::ExportResult written{};
+};
+
+/// One line of JSON; `files` are none where nothing was drawn.
+QByteArray conversionReport(const ProgramOptions &options, const std::vector<PictureFile> &files)
 {
     QJsonObject object{{u"input"_s, options.input}, {u"output"_s, options.output}};
-    if (report) {
-        object.insert(u"complete"_s, report->isWhole());
-        object.insert(u"drawn"_s, report->drawn);
-        object.insert(u"invisible"_s, report->hidden);
-        object.insert(u"inPart"_s, counts(report->simplified));
-        object.insert(u"notDrawn"_s, counts(report->skipped));
-        object.insert(u"cutShort"_s, report->isCutShort);
+    view::RenderReport whole;
+    QJsonArray pages;
+    for (const PictureFile &file : files) {
+        whole.add(file.written.report);
+        for (const view::PageReport &page : file.written.pages) {
+            QJsonObject shown{{u"layout"_s, page.layout}, {u"output"_s, file.path}};
+            addReport(shown, page.report);
+            pages.append(shown);
+        }
     }
+    if (!files.empty())
+        addReport(object, whole);
+    if (!options.picture.layout.isEmpty())
+        object.insert(u"pages"_s, pages);
     return QJsonDocument(object).toJson(QJsonDocument::Compact) + '\n';
 }
 
@@ -64,6 +91,89 @@ QString writeDxf(drawing::Drawing &drawing, const ProgramOptions &options)
     return drawing::saveCopy(drawing, options.output).error;
 }
 
+/// The sheets that are asked for; nothing, and told, where there is no such layout.
+std::optional<QStringList> chosenLayouts(const drawing::Drawing &drawing, const QString &wanted)
+{
+    if (wanted.isEmpty())
+        return QStringList();
+    QStringList known;
+    QStringList sheets;
+    for (const drawing::LayoutTab &tab : drawing::layoutTabs(drawing)) {
+        known.append(tab.name);
+        if (!tab.isModel())
+            sheets.append(tab.name);
+    }
+    if (wanted.compare("all"_L1, Qt::CaseInsensitive) == 0 && !sheets.isEmpty())
+        return sheets;
+    if (known.contains(wanted, Qt::CaseInsensitive))
+        return QStringList(wanted);
+    writeMessage(u"There is no layout named %1; there are: %2"_s.arg(files::visibleText(wanted),
+                                                                     files::visibleText(known.join(", "_L1))));
+    return {};
+}
+
+/// A layout's name as a part of a file's name, on every system.
+QString safeName(const QString &layout)
+{
+    static const QRegularExpression unsafe(u"[\\x00-\\x1f\\x7f<>:\"/\\\\|?*]"_s);
+    QString name = layout.trimmed().left(100);
+    name.replace(unsafe, u"_"_s);
+    while (name.endsWith(u'.') || name.endsWith(u' '))
+        name.chop(1);
+    return name.isEmpty() ? u"_"_s : name;
+}
+
+/// One file, or one a sheet where the format has no pages.
+std::vector<PictureFile> pictureFiles(const ProgramOptions &options, const QStringList &layouts)
+{
+    const QFileInfo output(options.output);
+    const bool isForAll = options.picture.layout.compare("all"_L1, Qt::CaseInsensitive) == 0;
+    if (!isForAll || output.suffix().toLower() == "pdf"_L1)
+        return {{options.output, layouts}};
+    const QString stem = options.output.chopped(output.suffix().size() + 1);
+    std::vector<PictureFile> files;
+    QSet<QString> taken;
+    for (const QString &layout : layouts) {
+        QString name = safeName(layout);
+        for (int number = 2; taken.contains(name.toCaseFolded()); ++number)
+            name = u"%1-%2"_s.arg(safeName(layout)).arg(number);
+        taken.insert(name.toCaseFolded());
+        files.push_back({u"%1-%2.%3"_s.arg(stem, name, output.suffix()), {layout}});
+    }
+    return files;
+}
+
+bool mayWrite(const ProgramOptions &options, const QString &path)
+{
+    const auto obstacle = kernel::obstacleToWriting(path, nullptr);
+    if (!obstacle || options.isForced)
+        return true;
+    writeMessage(obstacle->text);
+    return false;
+}
+
+int writePictures(const ProgramOptions &options, const drawing::Drawing &drawing, std::vector<PictureFile> &files)
+{
+    view::ExportOptions how = options.picture.as;
+    how.surroundings = kernel::expressionSurroundings(drawing, readableFor(options));
+    view::Exporter exporter(drawing, how);
+    int status = ExitDone;
+    for (PictureFile &file : files) {
+        file.written = writePages(exporter, file.path, file.layouts);
+        if (!file.written) {
+            writeMessage(file.written.error);
+            return ExitFileError;
+        }
+        for (const view::PageReport &page : file.written.pages) {
+            const QString name = page.layout.isEmpty() ? options.input : options.input + u", "_s + page.layout;
+            status = std::max(status, tellMissing(name, page.report));
+            if (status == ExitDone && options.isStrict && !page.report.isWhole())
+                status = ExitPartly;
+        }
+    }
+    return status;
+}
+
 } // namespace
 
 int convertDrawing(const ProgramOptions &options)
@@ -80,30 +190,37 @@ int convertDrawing(const ProgramOptions &options)
         writeMessage(u"--binary is for DXF files"_s);
         return ExitUsage;
     }
-    const LimitWatch watch(options.timeLimit.value_or(std::chrono::milliseconds()), native(options.input));
-    if (const auto obstacle = kernel::obstacleToWriting(options.output, nullptr); obstacle && !options.isForced) {
-        writeMessage(obstacle->text);
-        return ExitFileError;
+    if (const QString conflict = pictureConflict(options.picture, extension); !conflict.isEmpty()) {
+        writeMessage(conflict);
+        return ExitUsage;
     }
+    const LimitWatch watch(options.timeLimit.value_or(std::chrono::milliseconds()), native(options.input));
+    // Looked at first: reading may take long.
+    if (!mayWrite(options, options.output))
+        return ExitFileError;
     const drawing::ReadResult read = drawing::Drawing::open(options.input);
     if (!read) {
         writeMessage(native(options.input) + u": "_s + read.error.message());
         return ExitFileError;
     }
-    view::ExportResult written;
-    if (isPicture)
-        written = writeDrawingPicture(*read.drawing, options.output,
-                                      kernel::expressionSurroundings(*read.drawing, readableFor(options)));
-    else
-        written.error = writeDxf(*read.drawing, options);
-    if (!written) {
-        writeMessage(written.error);
-        return ExitFileError;
+    std::vector<PictureFile> pictures;
+    int status = ExitDone;
+    if (isPicture) {
+        const auto layouts = chosenLayouts(*read.drawing, options.picture.layout);
+        if (!layouts)
+            return ExitUsage;
+        pictures = pictureFiles(options, *layouts);
+        for (const PictureFile &file : pictures)
+            if (!mayWrite(options, file.path))
+                return ExitFileError;
+        status = writePictures(options, *read.drawing, pictures);
+    } else if (const QString error = writeDxf(*read.drawing, options); !error.isEmpty()) {
+        writeMessage(error);
+        status = ExitFileError;
     }
-    if (options.withJson)
-        writeResult(QString::fromUtf8(conversionReport(options, isPicture ? &written.report : nullptr)));
-    const int status = tellMissing(options.input, written.report);
-    return status == ExitDone && options.isStrict && !written.report.isWhole() ? ExitPartly : status;
+    if (status != ExitFileError && options.withJson)
+        writeResult(QString::fromUtf8(conversionReport(options, pictures)));
+    return status;
 }
 
 } // namespace host::app

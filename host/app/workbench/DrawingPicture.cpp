@@ -25,18 +25,21 @@ view::ExportResult writeDrawingPicture(kernel::Document &document, const QString
 view::ExportResult writeDrawingPicture(const drawing::Drawing &drawing, const QString &path,
                                        const drawing::MacroSurroundings &surroundings)
 {
+    view::Exporter exporter(drawing, {.surroundings = surroundings});
+    return writePages(exporter, path, {});
+}
+
+view::ExportResult writePages(view::Exporter &exporter, const QString &path, const QStringList &layouts)
+{
     const QString extension = QFileInfo(path).suffix().toLower();
-    view::ExportOptions options;
-    options.surroundings = surroundings;
     if (extension == "svg"_L1)
-        return view::exportSvg(drawing, path, options);
+        return exporter.svg(path, layouts);
     if (extension == "pdf"_L1)
-        return view::exportPdf(drawing, path, options);
+        return exporter.pdf(path, layouts);
     if (extension == "png"_L1)
-        return view::exportPng(drawing, path, options);
+        return exporter.png(path, layouts);
     return {.error = u"%1: the extension must be %2"_s.arg(QDir::toNativeSeparators(path),
-                                                           pictureExtensions().join(", "_L1)),
-            .report = {}};
+                                                           pictureExtensions().join(", "_L1))};
 }
 
 QString writeWidgetPicture(QWidget &widget, const QString &path)

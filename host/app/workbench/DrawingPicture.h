@@ -23,6 +23,9 @@ view::ExportResult writeDrawingPicture(const drawing::Drawing &drawing, const QS
 /// The same for an open document, which knows more system variables, as it is now, saved or not.
 view::ExportResult writeDrawingPicture(kernel::Document &document, const QString &path);
 
+/// The same with the sheets of layouts: any number in a PDF, one or none in the other formats.
+view::ExportResult writePages(view::Exporter &exporter, const QString &path, const QStringList &layouts);
+
 /// What the widget looks like now, as PNG; empty when it was written.
 QString writeWidgetPicture(QWidget &widget, const QString &path);
 

@@ -25,6 +25,7 @@ struct OptionRow
     QList<Mode> modes; ///< where it makes sense; empty: everywhere
     /// Returns why the value is refused, empty when it is taken.
     std::function<QString(ProgramOptions &, const QString &)> apply;
+    bool isOfPicture = false; ///< says what a picture shows: noted as given
 };
 
 QString setStyle(ProgramOptions &options, const QString &value)
@@ -82,9 +83,49 @@ QString setFlag(ProgramOptions &options, const QString &)
     return {};
 }
 
-const QList<OptionRow> &optionRows()
+template <QString (*read)(PictureOptions &, const QString &)>
+QString setPicture(ProgramOptions &options, const QString &value)
 {
-    static const QList<OptionRow> rows = {
+    return read(options.picture, value);
+}
+
+template <QString PictureOptions::*member>
+QString setPictureText(ProgramOptions &options, const QString &value)
+{
+    options.picture.*member = value;
+    return {};
+}
+
+QString setShownLayers(ProgramOptions &options, const QString &value)
+{
+    options.picture.as.layers = value;
+    return {};
+}
+
+QString setThin(ProgramOptions &options, const QString &)
+{
+    options.picture.as.withLineweights = false;
+    return {};
+}
+
+/// What a picture shows and how.
+QList<OptionRow> pictureRows()
+{
+    return {{"--layout", Value::Needed, {Mode::Convert}, setPictureText<&PictureOptions::layout>, true},
+            {"--paper", Value::Needed, {Mode::Convert}, setPicture<setPaper>, true},
+            {"--scale", Value::Needed, {Mode::Convert}, setPicture<setScale>, true},
+            {"--size", Value::Needed, {Mode::Convert}, setPicture<setSize>, true},
+            {"--dpi", Value::Needed, {Mode::Convert}, setPicture<setResolution>, true},
+            {"--ground", Value::Needed, {Mode::Convert}, setPicture<setPictureGround>, true},
+            {"--window", Value::Needed, {Mode::Convert}, setPicture<setWindow>, true},
+            {"--layers", Value::Needed, {Mode::Convert}, setShownLayers, true},
+            {"--text", Value::Needed, {Mode::Convert}, setPicture<setTextForm>, true},
+            {"--thin", Value::None, {Mode::Convert}, setThin, true}};
+}
+
+QList<OptionRow> generalRows()
+{
+    return {
         {"--style", Value::Needed, {}, setStyle},
         {"--home", Value::Needed, {}, setTextOption<&ProgramOptions::home>},
         {"--module", Value::Needed, {}, setTextOption<&ProgramOptions::module>},
@@ -103,6 +144,11 @@ const QList<OptionRow> &optionRows()
         {"--strict", Value::None, {Mode::Convert}, setFlag<&ProgramOptions::isStrict>},
         {"--binary", Value::None, {Mode::Convert}, setFlag<&ProgramOptions::isBinary>},
         {"--json", Value::None, {Mode::Convert}, setFlag<&ProgramOptions::withJson>}};
+}
+
+const QList<OptionRow> &optionRows()
+{
+    static const QList<OptionRow> rows = generalRows() + pictureRows();
     return rows;
 }
 
@@ -124,6 +170,8 @@ QString readOption(ProgramOptions &options, const QStringList &arguments, qsizet
             continue;
         if (!row.modes.isEmpty() && !row.modes.contains(options.mode))
             return u"%1 has no meaning here"_s.arg(name);
+        if (row.isOfPicture)
+            options.picture.given.append(name);
         if (row.value == Value::None)
             return hasValue ? u"%1 takes no value"_s.arg(name) : row.apply(options, {});
         if (!hasValue && position + 1 >= arguments.size())
@@ -218,7 +266,7 @@ more to show than is drawn in one go: a few lines of a drawing can make millions
 constexpr auto windowHelp = R"(Usage: ortakit [OPTION...] [DRAWING...]
        ortakit run SESSION [DRAWING...] [--out DIR] [--png]
        ortakit lisp FILE... [--drawing DRAWING]
-       ortakit convert IN OUT [--strict] [--json]
+       ortakit convert IN OUT [--layout NAME] [--paper A3] [--scale 1:50] [OPTION...]
 
 Opens the drawings in a window, or works on them without one. "ortakit COMMAND --help" tells more about a command.
 A drawing whose name is that of a command is written with its folder: ./run
@@ -269,17 +317,33 @@ system variable TRUSTEDPATHS lists, and those named here.
 
 )";
 
-constexpr auto convertHelp = R"(Usage: ortakit convert IN OUT [--strict] [--json] [OPTION...]
+constexpr auto convertHelp = R"(Usage: ortakit convert IN OUT [OPTION...]
 
 Opens a drawing and writes it as what the extension of OUT says: dxf, png, svg or pdf. What a picture does not show, or
 only in part, is told on standard error, by type.
+
+Without the options of a sheet, png and svg show all of model space in 1600 by 1200 pixels, with the lineweights that it
+would have on a sheet 297 mm long; pdf shows it on A4.
+
+  --layout NAME     the sheet of a layout as its page setup has it; "model" for the page of model space; "all" for every
+                    sheet: a page each in a pdf, a file each as png and svg, with its name: OUT-NAME.png
+  --paper SIZE      another sheet, on which everything is to be seen: A0 to A6, B0 to B6, ANSI-A to ANSI-E, ARCH-A to
+                    ARCH-E1 or millimetres as 420x297; -landscape or -portrait behind it turns it
+  --scale 1:50      millimetres on the sheet to drawing units, in place of what the page says or as fits
+  --window X,Y,X,Y  show what lies between these corners, in drawing units
+  --size WxH        png, svg: so many pixels, 1 to 16000 each way; a sheet goes into their middle
+  --dpi N           png, svg: pixels an inch of the sheet (150 and 254)
+  --ground black|white  what it lies on (white)
+  --layers PATTERN  only layers whose names match, as in a layer filter: "walls,door*"
+  --text outlines|text  pdf, svg: texts as areas, or as text that can be searched (outlines)
+  --thin            all lines as thin as can be
 
   --time-limit SECONDS  the most it may take (default: no limit); OUT stays as it was when it takes longer
   --force   write OUT although another program has it open
   --strict  end with status 3 when something is missing in the picture, which is written all the same
   --binary  write a DXF file in the binary form; without it, as text
   --json    print one line of JSON: input, output, and of pictures complete, drawn, invisible, inPart and notDrawn (a
-            number for each type) and cutShort
+            number for each type) and cutShort; with --layout all of it for each of the pages, with layout and output
 
 )";
 

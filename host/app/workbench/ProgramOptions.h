@@ -1,5 +1,7 @@
 #pragma once
 
+#include "host/app/workbench/PictureOptions.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -53,6 +55,7 @@ struct ProgramOptions
     bool isForced = false;       ///< Run, Lisp, Convert: files are written whatever other programs do with them
     bool isBinary = false;       ///< Convert: a DXF file is written in the binary form
     bool withJson = false;       ///< Convert
+    PictureOptions picture;      ///< Convert
     QString pictureFolder;
     std::optional<Style> style;
     QString home;

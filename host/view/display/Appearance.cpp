@@ -4,6 +4,7 @@
 #include "host/drawing/records/Dictionaries.h"
 #include "host/drawing/records/HeaderVariables.h"
 #include "host/drawing/records/Tables.h"
+#include "host/drawing/selection/Wildcard.h"
 #include "host/view/display/WideLine.h"
 #include "host/view/text/Fonts.h"
 
@@ -101,8 +102,13 @@ int Appearance::layer(const QString &name)
     const auto known = m_layerNumbers.constFind(key);
     if (known != m_layerNumbers.constEnd())
         return *known;
-    m_layers.emplace_back();
+    m_layers.push_back({.isOff = isLeftOut(name)});
     return *m_layerNumbers.insert(key, static_cast<int>(m_layers.size()) - 1);
+}
+
+bool Appearance::isLeftOut(const QString &layer) const
+{
+    return !m_shownLayers.isEmpty() && !drawing::matchesWildcard(layer, m_shownLayers);
 }
 
 int Appearance::linetype(const QString &name)
@@ -146,11 +152,12 @@ void Appearance::reload(const drawing::Drawing &drawing, Fonts &fonts, drawing::
         if (number > continuous)
             m_patterns[static_cast<std::size_t>(number)] = readPattern(drawing, read, fonts, shapes);
     }
-    std::ranges::fill(m_layers, LayerLook{});
+    for (auto it = m_layerNumbers.cbegin(); it != m_layerNumbers.cend(); ++it)
+        m_layers[static_cast<std::size_t>(*it)] = {.isOff = isLeftOut(it.key())};
     for (const drawing::Layer &read : drawing::allLayers(drawing)) {
         LayerLook look{.linetype = std::max(continuous, linetype(read.linetype)),
                        .lineweight = read.lineweight,
-                       .isOff = read.isOff,
+                       .isOff = read.isOff || isLeftOut(read.name),
                        .isFrozen = read.isFrozen,
                        .isPlotted = read.isPlotted};
         // What dimensions are measured from is never plotted, whatever its layer says.

@@ -78,6 +78,10 @@ public:
     /// The shape of this name in the first of the drawing's shape files that has it, at size 1; nothing when none has.
     std::optional<std::vector<Curve>> shapeNamed(const QString &name, drawing::ShapeFiles &shapes);
 
+    /// Only layers whose names match the pattern (see drawing::matchesWildcard()) are to be seen, the others are off;
+    /// empty: all. Holds from the next reload().
+    void showOnly(const QString &layers) { m_shownLayers = layers; }
+
     /// `insert` is what the insert that the shape is seen through was resolved to; null outside blocks, where "by
     /// block" is colour 7, a full line and the default weight. Constant cost: it is done anew at every look.
     ResolvedStyle resolve(const Style &style, const ResolvedStyle *insert, Ground ground) const;
@@ -94,6 +98,7 @@ public:
     } ///< $PDSIZE: drawing units; below 0 per cent of the view, 0 five of them
 
 private:
+    bool isLeftOut(const QString &layer) const;
     QRgb color(const Colour &colour, int layer, const ResolvedStyle *insert, Ground ground) const;
 
     QHash<QString, int> m_layerNumbers;
@@ -102,6 +107,7 @@ private:
     std::vector<LinePattern> m_patterns;
     QStringList m_shapeFiles; ///< that styles of the drawing name
     QHash<QString, std::optional<std::vector<Curve>>> m_shapes;
+    QString m_shownLayers;
     double m_linetypeScale = 1.0;
     int m_maskFrame = 1;  ///< see drawing::wipeoutFrame()
     int m_imageFrame = 1; ///< likewise, of the drawing's RASTERVARIABLES

@@ -26,7 +26,22 @@ qint64 total(const QMap<QString, qint64> &counts)
     return sum;
 }
 
+void mergeCounts(QMap<QString, qint64> &counts, const QMap<QString, qint64> &others)
+{
+    for (auto it = others.begin(); it != others.end(); ++it)
+        counts[it.key()] += it.value();
+}
+
 } // namespace
+
+void RenderReport::add(const RenderReport &other)
+{
+    drawn += other.drawn;
+    hidden += other.hidden;
+    mergeCounts(simplified, other.simplified);
+    mergeCounts(skipped, other.skipped);
+    isCutShort |= other.isCutShort;
+}
 
 qint64 RenderReport::skippedCount() const
 {

@@ -14,6 +14,8 @@ struct RenderReport
     QMap<QString, qint64> skipped;    ///< not drawn, by type; "XREF" is an insert of a drawing that is not here
     bool isCutShort = false;          ///< there was more to show than is drawn in one go; who painted it knows
 
+    /// What both show together; what is in both counts twice.
+    void add(const RenderReport &other);
     bool isWhole() const { return simplified.isEmpty() && skipped.isEmpty() && !isCutShort; }
     qint64 skippedCount() const;
     /// What is missing, for people: "3 not drawn (3DSOLID 2, XREF 1), 1 drawn in part (IMAGE 1)"; empty when nothing

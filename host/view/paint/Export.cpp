@@ -1,7 +1,8 @@
 #include "host/view/paint/Export.h"
 
 #include "files/qt/Files.h"
-#include "host/view/paint/ScenePainter.h"
+#include "host/view/paint/PagePainter.h"
+#include "host/view/paint/SvgClips.h"
 
 #include <QBuffer>
 #include <QCoreApplication>
@@ -15,158 +16,179 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int largestSide = 16'000;
 constexpr int pdfDotsPerInch = 1200;
-constexpr double millimetresPerInch = 25.4;
-constexpr double svgPixelsPerMillimetre = 96.0 / millimetresPerInch;
+constexpr double pngDotsPerInch = 150.0;
+constexpr double svgDotsPerInch = 254.0;
+constexpr double svgPictureDotsPerInch = 96.0;
+constexpr double smallestSheet = 10.0;
+constexpr double largestSheet = 5000.0;
 
 QString message(const char *text)
 {
     return QCoreApplication::translate("host::view::Export", text);
 }
 
-QSize boundedSize(const QSize &size)
+QString firstOf(const QStringList &layouts)
 {
-    return {std::clamp(size.width(), 1, largestSide), std::clamp(size.height(), 1, largestSide)};
+    return layouts.isEmpty() ? QString() : layouts.first();
 }
 
-QString writeFile(const QString &path, const QByteArray &bytes)
+void writeFile(ExportResult &result, const QString &path, const QByteArray &bytes)
 {
     const QString reason = files::replaceFile(path, bytes);
-    return reason.isEmpty() ? QString() : message("Cannot write %1: %2").arg(QDir::toNativeSeparators(path), reason);
+    if (!reason.isEmpty())
+        result.error = message("Cannot write %1: %2").arg(QDir::toNativeSeparators(path), reason);
 }
 
-/// A scene with the space that the options name, and the view that they ask for.
-class Picture
+ExportResult failed(const QString &path, const QString &reason = {})
 {
-public:
-    Picture(const drawing::Drawing &drawing, const ExportOptions &options)
-        : m_scene(drawing, options.surroundings), m_options(options),
-          m_block(options.space.isEmpty() ? Scene::modelSpace : m_scene.block(options.space))
-    {
-    }
-
-    bool exists() const { return m_scene.exists(m_block); }
-
-    /// `fixedScale` in painter units a drawing unit; 0: fitted.
-    PaintResult paint(QPainter &painter, const QSizeF &size, double fixedScale, PaintOptions paintOptions)
-    {
-        ViewTransform view(size);
-        const Box box = m_options.window ? *m_options.window : m_scene.extents(m_block, Seen::Plotted);
-        view.fit(box);
-        if (fixedScale > 0.0)
-            view.setView(view.center(), fixedScale);
-        paintOptions.ground = m_options.ground;
-        paintOptions.plottedOnly = true;
-        return paintScene(painter, m_scene, m_block, view, paintOptions);
-    }
-
-    ExportResult result(const PaintResult &painted, const QString &path, const QByteArray &bytes)
-    {
-        RenderReport report = m_scene.report(m_block);
-        report.isCutShort |= painted.isCutShort;
-        return {.error = writeFile(path, bytes), .report = report};
-    }
-
-private:
-    Scene m_scene;
-    const ExportOptions &m_options;
-    int m_block;
-};
-
-ExportResult missingBlock(const ExportOptions &options)
-{
-    return {.error = message("There is no block named %1").arg(options.space), .report = {}};
+    const QString file = QDir::toNativeSeparators(path);
+    return {.error = reason.isEmpty() ? message("Cannot make a picture of this size for %1").arg(file)
+                                      : u"%1: %2"_s.arg(file, reason)};
 }
 
-ExportResult cannotPaint(const QString &path)
+QImage paintImage(PagePainter &pages, const Page &page, const Frame &frame, ExportResult &result)
 {
-    return {.error = message("Cannot make a picture of this size for %1").arg(QDir::toNativeSeparators(path)),
-            .report = {}};
-}
-
-QImage paintImage(Picture &picture, const QSize &size, PaintResult *painted = nullptr)
-{
-    QImage image(boundedSize(size), QImage::Format_RGB32);
+    QImage image(frame.size, QImage::Format_RGB32);
     if (image.isNull())
         return image;
     QPainter painter(&image);
-    const PaintResult result = picture.paint(painter, image.size(), 0.0, {.antialias = true});
-    if (painted)
-        *painted = result;
+    pages.paint(painter, page, frame, {}, result);
+    painter.end();
+    if (page.isSheet) {
+        image.setDotsPerMeterX(qRound(frame.unitsPerMillimetre * 1000.0));
+        image.setDotsPerMeterY(qRound(frame.unitsPerMillimetre * 1000.0));
+    }
     return image;
+}
+
+/// A picture by itself, null where there is no such block.
+QImage pictureOf(const drawing::Drawing &drawing, const ExportOptions &options)
+{
+    PagePainter pages(drawing, options);
+    QString error;
+    ExportResult ignored;
+    const auto page = pages.page({}, false, error);
+    const auto frame = page ? pages.frame(*page, pngDotsPerInch, error) : std::nullopt;
+    return frame ? paintImage(pages, *page, *frame, ignored) : QImage();
+}
+
+void setSheet(QPdfWriter &writer, const QSizeF &size)
+{
+    const QSizeF sheet(std::clamp(size.width(), smallestSheet, largestSheet),
+                       std::clamp(size.height(), smallestSheet, largestSheet));
+    writer.setPageSize(QPageSize(sheet, QPageSize::Millimeter, {}, QPageSize::ExactMatch));
+    writer.setPageMargins(QMarginsF(0.0, 0.0, 0.0, 0.0));
 }
 
 } // namespace
 
-ExportResult exportPng(const drawing::Drawing &drawing, const QString &path, const ExportOptions &options)
+class Exporter::Private
 {
-    Picture picture(drawing, options);
-    if (!picture.exists())
-        return missingBlock(options);
-    PaintResult painted;
-    const QImage image = paintImage(picture, options.pixels, &painted);
+public:
+    PagePainter pages;
+};
+
+Exporter::Exporter(const drawing::Drawing &drawing, const ExportOptions &options) : d(new Private{{drawing, options}})
+{
+}
+
+Exporter::~Exporter() = default;
+
+ExportResult Exporter::png(const QString &path, const QStringList &layouts)
+{
+    QString error;
+    const auto page = d->pages.page(firstOf(layouts), false, error);
+    const auto frame = page ? d->pages.frame(*page, pngDotsPerInch, error) : std::nullopt;
+    if (!frame)
+        return failed(path, error);
+    ExportResult result;
+    const QImage image = paintImage(d->pages, *page, *frame, result);
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
     if (image.isNull() || !image.save(&buffer, "PNG"))
-        return cannotPaint(path);
-    return picture.result(painted, path, buffer.data());
+        return failed(path);
+    writeFile(result, path, buffer.data());
+    return result;
 }
 
-ExportResult exportSvg(const drawing::Drawing &drawing, const QString &path, const ExportOptions &options)
+ExportResult Exporter::svg(const QString &path, const QStringList &layouts)
 {
-    Picture picture(drawing, options);
-    if (!picture.exists())
-        return missingBlock(options);
-    const QSize size = boundedSize(options.pixels);
+    QString error;
+    const auto page = d->pages.page(firstOf(layouts), false, error);
+    const auto frame = page ? d->pages.frame(*page, svgDotsPerInch, error) : std::nullopt;
+    if (!frame)
+        return failed(path, error);
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
     QSvgGenerator generator;
     generator.setOutputDevice(&buffer);
-    generator.setResolution(96);
-    generator.setSize(size);
-    generator.setViewBox(QRect(QPoint(0, 0), size));
+    generator.setResolution(
+        qRound(page->isSheet ? frame->unitsPerMillimetre * drawing::millimetresPerInch : svgPictureDotsPerInch));
+    generator.setSize(frame->size);
+    generator.setViewBox(QRect(QPoint(0, 0), frame->size));
     QPainter painter;
     if (!painter.begin(&generator))
-        return cannotPaint(path);
-    const PaintResult painted = picture.paint(
-        painter, size, 0.0,
-        {.antialias = true, .pixelsPerMillimetre = options.withLineweights ? svgPixelsPerMillimetre : 0.0});
+        return failed(path);
+    ExportResult result;
+    SvgClips clips;
+    d->pages.paint(painter, *page, *frame, {.clips = &clips}, result);
     painter.end();
-    return picture.result(painted, path, buffer.data());
+    writeFile(result, path, clips.applied(buffer.data()));
+    return result;
 }
 
-ExportResult exportPdf(const drawing::Drawing &drawing, const QString &path, const ExportOptions &options)
+ExportResult Exporter::pdf(const QString &path, const QStringList &layouts)
 {
-    Picture picture(drawing, options);
-    if (!picture.exists())
-        return missingBlock(options);
-    const QSizeF sheet(std::clamp(options.sheet.width(), 10.0, 5000.0),
-                       std::clamp(options.sheet.height(), 10.0, 5000.0));
+    std::vector<Page> planned;
+    for (const QString &layout : layouts.isEmpty() ? QStringList{QString()} : layouts) {
+        QString error;
+        const auto page = d->pages.page(layout, true, error);
+        if (!page)
+            return failed(path, error);
+        planned.push_back(*page);
+    }
     QBuffer buffer;
     buffer.open(QIODevice::WriteOnly);
     QPdfWriter writer(&buffer);
     writer.setResolution(pdfDotsPerInch);
-    writer.setPageSize(QPageSize(sheet, QPageSize::Millimeter, {}, QPageSize::ExactMatch));
-    writer.setPageMargins(QMarginsF(0.0, 0.0, 0.0, 0.0));
+    setSheet(writer, planned.front().plan.size);
     QPainter painter;
     if (!painter.begin(&writer))
-        return cannotPaint(path);
-    const double dotsPerMillimetre = pdfDotsPerInch / millimetresPerInch;
-    const PaintResult painted =
-        picture.paint(painter, QSizeF(writer.width(), writer.height()), options.millimetresPerUnit * dotsPerMillimetre,
-                      {.fillGround = options.ground == Ground::Black,
-                       .antialias = true,
-                       .pixelsPerMillimetre = options.withLineweights ? dotsPerMillimetre : 0.0});
+        return failed(path);
+    ExportResult result;
+    for (const Page &page : planned) {
+        if (!result.pages.empty()) {
+            setSheet(writer, page.plan.size);
+            writer.newPage();
+        }
+        const Frame frame{.size = {writer.width(), writer.height()},
+                          .unitsPerMillimetre = pdfDotsPerInch / drawing::millimetresPerInch};
+        d->pages.paint(painter, page, frame, {.fillGround = d->pages.options().ground == Ground::Black}, result);
+    }
     painter.end();
-    return picture.result(painted, path, buffer.data());
+    writeFile(result, path, buffer.data());
+    return result;
+}
+
+ExportResult exportPng(const drawing::Drawing &drawing, const QString &path, const ExportOptions &options)
+{
+    return Exporter(drawing, options).png(path, options.layouts);
+}
+
+ExportResult exportSvg(const drawing::Drawing &drawing, const QString &path, const ExportOptions &options)
+{
+    return Exporter(drawing, options).svg(path, options.layouts);
+}
+
+ExportResult exportPdf(const drawing::Drawing &drawing, const QString &path, const ExportOptions &options)
+{
+    return Exporter(drawing, options).pdf(path, options.layouts);
 }
 
 QImage picture(const drawing::Drawing &drawing, const QSize &size, Ground ground)
 {
-    const ExportOptions options{.ground = ground};
-    Picture shown(drawing, options);
-    return paintImage(shown, size);
+    return pictureOf(drawing, {.ground = ground, .pixels = size, .withLineweights = false});
 }
 
 QImage picture(const QString &path, const QSize &size, Ground ground)
@@ -187,9 +209,7 @@ QSizeF drawnSize(const QString &path)
 
 QImage blockPicture(const drawing::Drawing &drawing, const QString &block, const QSize &size, Ground ground)
 {
-    const ExportOptions options{.space = block, .ground = ground};
-    Picture shown(drawing, options);
-    return shown.exists() ? paintImage(shown, size) : QImage();
+    return pictureOf(drawing, {.space = block, .ground = ground, .pixels = size, .withLineweights = false});
 }
 
 } // namespace host::view

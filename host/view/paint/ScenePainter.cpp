@@ -248,7 +248,8 @@ public:
         flush();
         const QTransform place = planeTransform(toScreen);
         m_painter.setRenderHint(QPainter::Antialiasing, true);
-        if (m_isRaster && area / width <= largestCachedText && run.text.size() <= longestCachedText)
+        const bool isCached = m_isRaster ? area / width <= largestCachedText : m_options.textAsLetters;
+        if (isCached && run.text.size() <= longestCachedText)
             drawCached(run, place, colourOf(style));
         else
             drawOutline(run, place, colourOf(style));
@@ -263,11 +264,15 @@ public:
         path.addPolygon(polygon);
         m_painter.save();
         m_painter.setClipPath(path, Qt::IntersectClip);
+        if (m_options.clips)
+            m_options.clips->begin(m_painter, path);
     }
 
     void endClip() override
     {
         flush();
+        if (m_options.clips)
+            m_options.clips->end(m_painter);
         m_painter.restore();
     }
 

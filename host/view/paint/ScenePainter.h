@@ -5,6 +5,7 @@
 
 #include <QColor>
 #include <QPainter>
+#include <QPainterPath>
 
 #include <unordered_set>
 
@@ -12,13 +13,24 @@ namespace host::view {
 
 using RecordSet = std::unordered_set<RecordId>;
 
-/// Sets of records are not owned and must outlive the painting.
+/// Hears where a clip begins and ends, between what is painted.
+class ClipMarks
+{
+public:
+    virtual ~ClipMarks() = default;
+    virtual void begin(QPainter &painter, const QPainterPath &clip) = 0;
+    virtual void end(QPainter &painter) = 0;
+};
+
+/// Sets of records, and what hears of clips, are not owned and must outlive the painting.
 struct PaintOptions
 {
     Ground ground = Ground::Black;
     bool fillGround = true;                 ///< paints the ground first; otherwise what is there shines through
     bool antialias = false;                 ///< of lines; texts and areas are always smooth
     double pixelsPerMillimetre = 0.0;       ///< lines get their weight; 0: all are as thin as can be
+    bool textAsLetters = false;             ///< texts stay letters where the painter writes a file; else outlines
+    ClipMarks *clips = nullptr;             ///< told of clips, for painters that cannot clip
     bool plottedOnly = false;               ///< leaves out layers that are not for plotting
     const RecordSet *only = nullptr;        ///< draws no other records of the space than these
     const RecordSet *highlighted = nullptr; ///< records of the space drawn dashed in `highlight`

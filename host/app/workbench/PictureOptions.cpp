@@ -1,0 +1,175 @@
+#include "host/app/workbench/PictureOptions.h"
+
+#include <QRegularExpression>
+
+#include <array>
+
+using namespace Qt::StringLiterals;
+
+namespace host::app {
+
+namespace {
+
+using view::ExportOptions;
+
+constexpr double smallestPaper = 10.0; ///< millimetres
+constexpr double largestPaper = 5000.0;
+constexpr int mostPixels = 16'000;
+
+struct PaperRow
+{
+    const char *name;
+    double shortSide; ///< millimetres
+    double longSide;
+};
+
+constexpr std::array paperRows = {
+    PaperRow{"A0", 841, 1189},         PaperRow{"A1", 594, 841},         PaperRow{"A2", 420, 594},
+    PaperRow{"A3", 297, 420},          PaperRow{"A4", 210, 297},         PaperRow{"A5", 148, 210},
+    PaperRow{"A6", 105, 148},          PaperRow{"B0", 1000, 1414},       PaperRow{"B1", 707, 1000},
+    PaperRow{"B2", 500, 707},          PaperRow{"B3", 353, 500},         PaperRow{"B4", 250, 353},
+    PaperRow{"B5", 176, 250},          PaperRow{"B6", 125, 176},         PaperRow{"ANSI-A", 215.9, 279.4},
+    PaperRow{"ANSI-B", 279.4, 431.8},  PaperRow{"ANSI-C", 431.8, 558.8}, PaperRow{"ANSI-D", 558.8, 863.6},
+    PaperRow{"ANSI-E", 863.6, 1117.6}, PaperRow{"ARCH-A", 228.6, 304.8}, PaperRow{"ARCH-B", 304.8, 457.2},
+    PaperRow{"ARCH-C", 457.2, 609.6},  PaperRow{"ARCH-D", 609.6, 914.4}, PaperRow{"ARCH-E", 914.4, 1219.2},
+    PaperRow{"ARCH-E1", 762, 1066.8}};
+
+std::optional<QSizeF> twoNumbers(const QString &text)
+{
+    static const QRegularExpression form(u"^([0-9]+(?:\\.[0-9]+)?)[xX]([0-9]+(?:\\.[0-9]+)?)$"_s);
+    const QRegularExpressionMatch match = form.match(text);
+    if (!match.hasMatch())
+        return {};
+    return QSizeF(match.captured(1).toDouble(), match.captured(2).toDouble());
+}
+
+std::optional<QSizeF> namedPaper(const QString &name)
+{
+    for (const PaperRow &row : paperRows) {
+        const QString known = QString::fromLatin1(row.name);
+        if (known.compare(name, Qt::CaseInsensitive) == 0 ||
+            QString(known).remove(u'-').compare(name, Qt::CaseInsensitive) == 0)
+            return QSizeF(row.longSide, row.shortSide);
+    }
+    return {};
+}
+
+bool isPaper(const QSizeF &size)
+{
+    const auto [low, high] = std::minmax({size.width(), size.height()});
+    return low >= smallestPaper && high <= largestPaper;
+}
+
+std::optional<double> positiveNumber(const QString &text)
+{
+    bool isNumber = false;
+    const double value = text.toDouble(&isNumber);
+    return isNumber && std::isfinite(value) && value > 0.0 ? std::optional(value) : std::nullopt;
+}
+
+} // namespace
+
+QString setScale(PictureOptions &options, const QString &value)
+{
+    const auto paper = positiveNumber(value.section(u':', 0, 0));
+    const auto units = value.contains(u':') ? positiveNumber(value.section(u':', 1)) : std::optional(1.0);
+    const double scale = paper && units ? *paper / *units : 0.0;
+    if (!(scale >= 1e-9 && scale <= 1e9))
+        return u"--scale takes millimetres on the sheet to drawing units, as 1:50, not \"%1\""_s.arg(value);
+    options.as.sheet.scale = scale;
+    return {};
+}
+
+QString setPaper(PictureOptions &options, const QString &value)
+{
+    QString name = value;
+    std::optional<bool> isAcross;
+    for (const auto &[ending, across] : {std::pair{u"-landscape"_s, true}, std::pair{u"-portrait"_s, false}}) {
+        if (name.endsWith(ending, Qt::CaseInsensitive)) {
+            name.chop(ending.size());
+            isAcross = across;
+        }
+    }
+    std::optional<QSizeF> size = twoNumbers(name);
+    options.as.sheet.turnsPaper = !size && !isAcross;
+    if (!size)
+        size = namedPaper(name);
+    if (!size || !isPaper(*size))
+        return u"--paper takes A0 to A6, B0 to B6, ANSI-A to ANSI-E, ARCH-A to ARCH-E1 or millimetres from 10 to 5000 "
+               u"as 420x297, with -landscape or -portrait behind, not \"%1\""_s.arg(value);
+    if (isAcross && *isAcross != (size->width() > size->height()))
+        size->transpose();
+    options.as.sheet.paper = size;
+    return {};
+}
+
+QString setSize(PictureOptions &options, const QString &value)
+{
+    const auto size = twoNumbers(value);
+    const QSize pixels = size ? size->toSize() : QSize();
+    const auto [low, high] = std::minmax({pixels.width(), pixels.height()});
+    if (!size || value.contains(u'.') || low < 1 || high > mostPixels)
+        return u"--size takes pixels from 1 to %1 as 2000x1400, not \"%2\""_s.arg(mostPixels).arg(value);
+    options.as.pixels = pixels;
+    return {};
+}
+
+QString setResolution(PictureOptions &options, const QString &value)
+{
+    const auto dots = positiveNumber(value);
+    if (!dots || *dots < 1.0 || *dots > 2400.0)
+        return u"--dpi takes dots an inch from 1 to 2400, not \"%1\""_s.arg(value);
+    options.as.dotsPerInch = dots;
+    return {};
+}
+
+QString setPictureGround(PictureOptions &options, const QString &value)
+{
+    if (value != "black"_L1 && value != "white"_L1)
+        return u"--ground is black or white, not \"%1\""_s.arg(value);
+    options.as.ground = value == "black"_L1 ? view::Ground::Black : view::Ground::White;
+    return {};
+}
+
+QString setWindow(PictureOptions &options, const QString &value)
+{
+    drawing::Box box;
+    const QStringList parts = value.split(u',');
+    bool isGood = parts.size() == 4;
+    for (qsizetype i = 0; isGood && i < 4; i += 2) {
+        bool hasX = false;
+        bool hasY = false;
+        const drawing::Vec3 corner{parts[i].toDouble(&hasX), parts[i + 1].toDouble(&hasY), 0.0};
+        isGood = hasX && hasY && std::abs(corner.x) <= 1e15 && std::abs(corner.y) <= 1e15;
+        box.add(corner);
+    }
+    if (!isGood || !(box.low.x < box.high.x) || !(box.low.y < box.high.y))
+        return u"--window takes two corners as 0,0,420,297, not \"%1\""_s.arg(value);
+    options.as.sheet.window = box;
+    return {};
+}
+
+QString setTextForm(PictureOptions &options, const QString &value)
+{
+    if (value != "outlines"_L1 && value != "text"_L1)
+        return u"--text is outlines or text, not \"%1\""_s.arg(value);
+    options.as.text = value == "text"_L1 ? view::TextForm::Letters : view::TextForm::Outlines;
+    return {};
+}
+
+QString pictureConflict(const PictureOptions &options, const QString &extension)
+{
+    const QStringList &given = options.given;
+    if (extension == "dxf"_L1 && !given.isEmpty())
+        return u"%1 is for pictures, and %2 is none"_s.arg(given.first(), extension);
+    for (const QString &option : {u"--size"_s, u"--dpi"_s})
+        if (extension == "pdf"_L1 && given.contains(option))
+            return u"%1 is for png and svg: a pdf has its sheet, see --paper"_s.arg(option);
+    if (extension == "png"_L1 && given.contains(u"--text"_s))
+        return u"--text is for pdf and svg: a png has no letters"_s;
+    if (given.contains(u"--size"_s) && given.contains(u"--dpi"_s))
+        return u"--size and --dpi exclude each other"_s;
+    return {};
+}
+
+} // namespace host::app
