@@ -1,4 +1,4 @@
-// The cases of shapes.txt, where their form is told.
+// The cases of shapes.txt, where their form is told, and of the files beside it that have the same form.
 
 #include "tests/view/Rendering.h"
 
@@ -44,10 +44,9 @@ bool takeShapeLine(ShapeCase &shape, const QByteArray &line)
     return true;
 }
 
-std::vector<ShapeCase> shapeCases()
+void readShapeCases(const QString &fileName, std::vector<ShapeCase> &cases)
 {
-    QFile file(qEnvironmentVariable("ORTAKIT_SOURCE") + QStringLiteral("/tests/view/shapes.txt"));
-    std::vector<ShapeCase> cases;
+    QFile file(qEnvironmentVariable("ORTAKIT_SOURCE") + QStringLiteral("/tests/view/") + fileName);
     std::vector<std::pair<QByteArray, QByteArray>> names;
     ShapeCase common;
     bool isWithin = false; // a case, not the lines below a heading
@@ -68,6 +67,13 @@ std::vector<ShapeCase> shapeCases()
             cases.back().name += line.toStdString();
         }
     }
+}
+
+std::vector<ShapeCase> shapeCases()
+{
+    std::vector<ShapeCase> cases;
+    for (const auto *name : {"shapes.txt", "annotations.txt"})
+        readShapeCases(QString::fromLatin1(name), cases);
     return cases;
 }
 

@@ -36,6 +36,7 @@ constexpr std::array typeRows = {
     TypeRow{"MLINE", buildMline, true},
     TypeRow{"LEADER", buildLeader},
     TypeRow{"MULTILEADER", buildMultiLeader},
+    TypeRow{"MLEADER", buildMultiLeader},
     TypeRow{"SOLID", buildSolid},
     TypeRow{"TRACE", buildSolid},
     TypeRow{"3DFACE", build3dFace},
