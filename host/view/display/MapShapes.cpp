@@ -12,6 +12,11 @@ struct ShapeMapper
     void operator()(Fill &fill) const
     {
         std::ranges::for_each(fill.contours, [this](Curve &contour) { mapCurve(contour, map); });
+        if (fill.gradient) {
+            auto moved = std::make_shared<Gradient>(*fill.gradient);
+            moved->placement = map * moved->placement;
+            fill.gradient = std::move(moved);
+        }
     }
     void operator()(Segments &pieces) const
     {
@@ -24,6 +29,11 @@ struct ShapeMapper
         line.direction = drawing::normalized(map.direction(line.direction));
     }
     void operator()(PointMark &point) const { point.at = map.point(point.at); }
+    void operator()(std::unique_ptr<Raster> &raster) const
+    {
+        raster->placement = map * raster->placement;
+        std::ranges::for_each(raster->area, [this](Curve &contour) { mapCurve(contour, map); });
+    }
     void operator()(std::unique_ptr<TextRun> &text) const { text->placement = map * text->placement; }
     void operator()(std::unique_ptr<Reference> &reference) const
     {
