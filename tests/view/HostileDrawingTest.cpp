@@ -217,8 +217,11 @@ Work workOf(const DxfText &text)
     Scene scene(*drawing);
     scene.prepare(Scene::modelSpace);
     Work work;
-    for (const RecordDisplay &record : scene.display(Scene::modelSpace).records)
-        work.display += record.work;
+    const BlockDisplay &shown = scene.display(Scene::modelSpace);
+    for (const RecordSummary &record : shown.records) {
+        RecordDisplay made;
+        work.display += scene.shown(shown, record, made).work;
+    }
     drawing::WorkBudget budget(drawing::pictureWork);
     NoSink sink;
     SceneWalker walker(scene, {.view = QRectF(0, 0, 200, 200), .isRaster = true}, sink, budget);

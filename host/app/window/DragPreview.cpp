@@ -36,14 +36,14 @@ void DragPreview::paint(QPainter &painter, view::Scene &scene, int space, const 
 QRect DragPreview::reach(view::Scene &scene, int space, const view::ViewTransform &around) const
 {
     const QRect all = QRectF(QPointF(), around.screenSize()).toAlignedRect();
-    scene.prepare(space);
     drawing::Box box;
-    for (const view::RecordDisplay &record : scene.display(space).records) {
-        if (!m_records.contains(record.record))
+    for (const drawing::RecordId dragged : m_records) {
+        const view::RecordSummary *record = scene.find(space, dragged);
+        if (!record)
             continue;
-        if (record.isEndless)
+        if (record->isEndless)
             return all;
-        box.add(record.box);
+        box.add(record->box);
     }
     if (box.isEmpty())
         return {};

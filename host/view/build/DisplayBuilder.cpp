@@ -19,35 +19,36 @@ struct TypeRow
     std::string_view type;
     Builder build;
     bool isSimplified = false; ///< the builder shows less than the entity holds
+    Making making = Making::Once;
 };
 
 constexpr std::array typeRows = {
-    TypeRow{"LINE", buildLine},
-    TypeRow{"CIRCLE", buildCircle},
-    TypeRow{"ARC", buildArc},
-    TypeRow{"ELLIPSE", buildEllipse},
+    TypeRow{"LINE", buildLine, false, Making::Anywhere},
+    TypeRow{"CIRCLE", buildCircle, false, Making::Anywhere},
+    TypeRow{"ARC", buildArc, false, Making::Anywhere},
+    TypeRow{"ELLIPSE", buildEllipse, false, Making::Anywhere},
     TypeRow{"SPLINE", buildSpline},
     TypeRow{"HELIX", buildSpline},
-    TypeRow{"RAY", buildRay},
-    TypeRow{"XLINE", buildXline},
-    TypeRow{"POINT", buildPoint},
-    TypeRow{"LWPOLYLINE", buildLwPolyline},
-    TypeRow{"POLYLINE", buildPolyline},
+    TypeRow{"RAY", buildRay, false, Making::Anywhere},
+    TypeRow{"XLINE", buildXline, false, Making::Anywhere},
+    TypeRow{"POINT", buildPoint, false, Making::Anywhere},
+    TypeRow{"LWPOLYLINE", buildLwPolyline, false, Making::Anywhere},
+    TypeRow{"POLYLINE", buildPolyline, false, Making::Anywhere},
     TypeRow{"MLINE", buildMline, true},
     TypeRow{"LEADER", buildLeader},
     TypeRow{"MULTILEADER", buildMultiLeader},
     TypeRow{"MLEADER", buildMultiLeader},
-    TypeRow{"SOLID", buildSolid},
-    TypeRow{"TRACE", buildSolid},
-    TypeRow{"3DFACE", build3dFace},
+    TypeRow{"SOLID", buildSolid, false, Making::Anywhere},
+    TypeRow{"TRACE", buildSolid, false, Making::Anywhere},
+    TypeRow{"3DFACE", build3dFace, false, Making::Anywhere},
     TypeRow{"MESH", buildMesh, true},
     TypeRow{"WIPEOUT", buildWipeout},
     TypeRow{"IMAGE", buildImage},
     TypeRow{"VIEWPORT", buildViewport},
-    TypeRow{"TEXT", buildText},
+    TypeRow{"TEXT", buildText, false, Making::Again},
     TypeRow{"ATTRIB", buildText},
-    TypeRow{"ATTDEF", buildAttdef},
-    TypeRow{"MTEXT", buildMText},
+    TypeRow{"ATTDEF", buildAttdef, false, Making::Again},
+    TypeRow{"MTEXT", buildMText, false, Making::Again},
     TypeRow{"RTEXT", buildRemoteText},
     TypeRow{"SHAPE", buildShape},
     TypeRow{"HATCH", buildHatch},
@@ -70,14 +71,14 @@ const TypeRow *findType(QByteArrayView name)
     return found == byType.end() ? nullptr : found->second;
 }
 
-void readStyleTag(const TagList &tags, const Tag &tag, Appearance &appearance, Style &style, bool &isInvisible)
+void readStyleTag(const TagList &tags, const Tag &tag, StyleNames &names, Style &style, bool &isInvisible)
 {
     switch (tag.code) {
     case 6:
-        style.linetype = appearance.linetype(tags.decoded(tag).trimmed());
+        style.linetype = names.linetype(tags, tag);
         break;
     case 8:
-        style.layer = appearance.layer(tags.decoded(tag));
+        style.layer = names.layer(tags, tag);
         break;
     case 48:
         style.linetypeScale = tag.real().value_or(1.0);
@@ -151,11 +152,45 @@ void BuildContext::charge(std::size_t points, std::size_t ownPoints)
     work.charge(static_cast<std::int64_t>(points) - static_cast<std::int64_t>(ownPoints));
 }
 
+Making makingOf(QByteArrayView type)
+{
+    const TypeRow *row = findType(type);
+    return row ? row->making : Making::Once;
+}
+
+template <class Find>
+int StyleNames::find(Numbers &numbers, QByteArrayView name, const Find &find)
+{
+    const std::string_view key(name.data(), static_cast<std::size_t>(name.size()));
+    if (const auto known = numbers.find(key); known != numbers.end())
+        return known->second;
+    const std::optional<int> number = find();
+    m_hasUnknown |= !number;
+    return number ? numbers.emplace(key, *number).first->second : 0;
+}
+
+int StyleNames::layer(const TagList &tags, const Tag &tag)
+{
+    return find(m_layers, tag.value, [&]() -> std::optional<int> {
+        const QString name = tags.decoded(tag);
+        return m_appearance ? m_appearance->layer(name) : m_known->knownLayer(name);
+    });
+}
+
+int StyleNames::linetype(const TagList &tags, const Tag &tag)
+{
+    return find(m_linetypes, tag.value, [&]() -> std::optional<int> {
+        const QString name = tags.decoded(tag).trimmed();
+        return m_appearance ? m_appearance->linetype(name) : m_known->knownLinetype(name);
+    });
+}
+
+namespace {
+
 /// The common groups stand in front of the type's own marker; R12 has no markers and mixes them.
-Style readStyle(const TagList &tags, Appearance &appearance, bool *isInvisible)
+Style readStyleWith(const TagList &tags, StyleNames &names, bool &isInvisible)
 {
     Style style;
-    bool invisible = false;
     bool isInGroup = false;
     for (const Tag &tag : tags) {
         if (tag.code >= 1000 || (tag.code == 100 && tag.trimmed() != "AcDbEntity"))
@@ -163,8 +198,35 @@ Style readStyle(const TagList &tags, Appearance &appearance, bool *isInvisible)
         if (tag.code == 102)
             isInGroup = tag.trimmed().startsWith('{');
         else if (!isInGroup)
-            readStyleTag(tags, tag, appearance, style, invisible);
+            readStyleTag(tags, tag, names, style, isInvisible);
     }
+    return style;
+}
+
+void buildFrom(const TagList &tags, const TypeRow &type, BuildContext &context)
+{
+    RecordDisplay &display = context.display;
+    const std::int64_t before = context.work.left();
+    const std::int64_t refusals = context.work.refusals();
+    const RecordId parent = context.drawing.parent(display.record);
+    context.isInBlock = isValid(parent) && context.drawing.kind(parent) == drawing::RecordKind::Block;
+    display.isSkipped = !type.build(context, tags);
+    display.work = before - context.work.left();
+    display.isCutShort |= context.work.refusals() > refusals;
+    display.isSimplified = !display.isSkipped && (type.isSimplified || display.isSimplified || display.isCutShort);
+    for (const DisplayItem &item : display.items) {
+        display.isEndless |= std::holds_alternative<Endless>(item.shape);
+        display.hasReferences |= std::holds_alternative<std::unique_ptr<Reference>>(item.shape);
+    }
+}
+
+} // namespace
+
+Style readStyle(const TagList &tags, Appearance &appearance, bool *isInvisible)
+{
+    bool invisible = false;
+    StyleNames names(appearance);
+    const Style style = readStyleWith(tags, names, invisible);
     if (isInvisible)
         *isInvisible = invisible;
     return style;
@@ -174,27 +236,34 @@ RecordDisplay buildDisplay(const drawing::Drawing &drawing, Scene &scene, drawin
 {
     RecordDisplay display{.record = record};
     const TypeRow *type = findType(drawing.typeName(record));
-    if (!type) {
-        display.isSkipped = true;
+    display.isSkipped = type == nullptr;
+    if (!type)
         return display;
-    }
     const TagList tags = drawing.tags(record);
-    const std::int64_t before = work.left();
-    const std::int64_t refusals = work.refusals();
     BuildContext context{drawing, scene, work, display};
     context.style = readStyle(tags, scene.appearance(), &display.isHidden);
-    if (display.isHidden)
-        return display;
-    const RecordId parent = drawing.parent(record);
-    context.isInBlock = isValid(parent) && drawing.kind(parent) == drawing::RecordKind::Block;
-    display.isSkipped = !type->build(context, tags);
-    display.work = before - work.left();
-    display.isCutShort |= work.refusals() > refusals;
-    display.isSimplified = !display.isSkipped && (type->isSimplified || display.isSimplified || display.isCutShort);
-    for (const DisplayItem &item : display.items) {
-        display.isEndless |= std::holds_alternative<Endless>(item.shape);
-        display.hasReferences |= std::holds_alternative<std::unique_ptr<Reference>>(item.shape);
-    }
+    if (!display.isHidden)
+        buildFrom(tags, *type, context);
+    return display;
+}
+
+std::optional<RecordDisplay> buildFreely(const drawing::Drawing &drawing, Scene &scene, StyleNames &names,
+                                         RecordId record, const TagList &tags)
+{
+    const TypeRow *type = findType(drawing.typeName(record));
+    if (!type || type->making == Making::Once)
+        return std::nullopt;
+    std::optional<RecordDisplay> display(std::in_place);
+    display->record = record;
+    // As much as a scene may have: what is made with it is the same as with none, or takes from it.
+    drawing::WorkBudget work(drawing::displayWork);
+    BuildContext context{drawing, scene, work, *display};
+    names.forgetUnknown();
+    context.style = readStyleWith(tags, names, display->isHidden);
+    if (!display->isHidden)
+        buildFrom(tags, *type, context);
+    if (names.hasUnknown() || work.left() != drawing::displayWork || work.refusals() > 0)
+        display.reset();
     return display;
 }
 

@@ -5,6 +5,9 @@
 #include "host/view/display/Display.h"
 #include "host/view/text/Fonts.h"
 
+#include <optional>
+#include <unordered_map>
+
 namespace host::view {
 
 class Appearance;
@@ -39,6 +42,50 @@ bool isUsable(double value);
 bool isUsable(const Vec3 &point);
 /// Whether there are points and all are usable.
 bool areUsable(const Path &points);
+
+/// How the displays of a type of entity may be made.
+enum class Making : std::uint8_t
+{
+    Once,    ///< in drawing order; kept, since what is left of the work, and what files say, shows in it
+    Again,   ///< at any time, always the same until styles change
+    Anywhere ///< also on other threads: it takes nothing of the scene but the numbers of layers and linetypes
+};
+Making makingOf(QByteArrayView type);
+
+/// Numbers of layers and linetypes by the bytes that files have for them, for one thread. Bytes that were asked about
+/// must stay readable.
+class StyleNames
+{
+public:
+    /// Names without a number get one.
+    explicit StyleNames(Appearance &appearance) : m_appearance(&appearance) {}
+    /// Knows the names that had a number in the appearance, which must not give out others meanwhile.
+    explicit StyleNames(const Appearance &appearance) : m_known(&appearance) {}
+
+    /// Of group 8.
+    int layer(const drawing::TagList &tags, const drawing::Tag &tag);
+    /// Of group 6.
+    int linetype(const drawing::TagList &tags, const drawing::Tag &tag);
+    /// Whether a name was asked for that has no number. Then its answer was of no meaning.
+    bool hasUnknown() const { return m_hasUnknown; }
+    void forgetUnknown() { m_hasUnknown = false; }
+
+private:
+    using Numbers = std::unordered_map<std::string_view, int>;
+    template <class Find>
+    int find(Numbers &numbers, QByteArrayView name, const Find &find);
+
+    Appearance *m_appearance = nullptr;
+    const Appearance *m_known = nullptr;
+    Numbers m_layers;
+    Numbers m_linetypes;
+    bool m_hasUnknown = false;
+};
+
+/// A display that can be made again or anywhere, from the tags of its record. Nothing where it must be made once after
+/// all: a name is unknown, or it takes from the work that a scene is granted.
+std::optional<RecordDisplay> buildFreely(const drawing::Drawing &drawing, Scene &scene, StyleNames &names,
+                                         RecordId record, const drawing::TagList &tags);
 
 /// Makes the display of one entity. What cannot be drawn, by its type or because its numbers make no shape, is marked
 /// as skipped; what is drawn coarser than it should be because the work is used up, as simplified.

@@ -98,8 +98,11 @@ Box EntityExtents::ofBlock(int block, const Matrix &map)
     m_work.charge(1);
     m_open.push_back(block);
     Box box;
-    for (const RecordDisplay &record : m_scene.display(block).records)
-        add(record, axesAlone(map), box);
+    const BlockDisplay &shown = m_scene.display(block);
+    for (const RecordSummary &record : shown.records) {
+        RecordDisplay made;
+        add(m_scene.shown(shown, record, made), axesAlone(map), box);
+    }
     m_open.pop_back();
     m_known.emplace(key, box);
     return movedBox(box, map.origin);

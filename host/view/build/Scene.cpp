@@ -2,7 +2,6 @@
 
 #include "host/drawing/records/Blocks.h"
 #include "host/drawing/text/DrawingVariables.h"
-#include "host/view/build/DisplayBuilder.h"
 #include "host/view/build/PostOrder.h"
 #include "host/view/build/VisibleExtents.h"
 #include "host/view/display/DisplayBoxes.h"
@@ -10,9 +9,12 @@
 namespace host::view {
 
 using namespace Qt::StringLiterals;
-using drawing::Space;
 
 namespace {
+
+constexpr unsigned mostThreads = 8;
+/// Of so few records none is worth an index.
+constexpr std::size_t fewRecords = 512;
 
 /// Whether entities of the type show what is in files beside the drawing.
 bool showsFiles(QByteArrayView type)
@@ -25,7 +27,8 @@ bool showsFiles(QByteArrayView type)
 Scene::Scene(const drawing::Drawing &drawing, drawing::MacroSurroundings surroundings)
     : m_drawing(drawing), m_surroundings(std::move(surroundings)),
       m_shapes(m_surroundings.file ? m_surroundings.file : drawing::namedFiles(drawing)),
-      m_images(m_surroundings.file ? m_surroundings.file : drawing::namedFiles(drawing))
+      m_images(m_surroundings.file ? m_surroundings.file : drawing::namedFiles(drawing)),
+      m_threads(static_cast<int>(std::clamp(std::thread::hardware_concurrency(), 1U, mostThreads)))
 {
     if (!m_surroundings.variable)
         m_surroundings.variable = drawing::surroundingsOf(drawing).variable;
@@ -53,7 +56,7 @@ Scene::~Scene()
 void Scene::regenerate()
 {
     for (const auto &block : m_blocks) {
-        for (const RecordDisplay &shown : block->records) {
+        for (const RecordSummary &shown : block->records) {
             if (showsFiles(m_drawing.typeName(shown.record)))
                 m_changes.records.insert(shown.record);
         }
@@ -88,69 +91,6 @@ void Scene::prepare(int block)
         updateBoxes();
 }
 
-/// Building a block may name further blocks, which are then built as well.
-void Scene::buildWaiting()
-{
-    while (!m_waiting.empty()) {
-        const int next = m_waiting.back();
-        m_waiting.pop_back();
-        BlockDisplay &block = *m_blocks[static_cast<std::size_t>(next)];
-        if (!block.isBuilt)
-            build(block);
-    }
-}
-
-std::vector<RecordId> Scene::members(const BlockDisplay &block) const
-{
-    if (block.number <= paperSpace)
-        return m_drawing.entities().inSpace(block.number == modelSpace ? Space::Model : Space::Paper);
-    const RecordId record = m_drawing.blocks().find(block.name);
-    return isValid(record) ? m_drawing.children(record) : std::vector<RecordId>{};
-}
-
-RecordDisplay Scene::buildRecord(RecordId record)
-{
-    ++m_builtRecords;
-    RecordDisplay built = buildDisplay(m_drawing, *this, m_work, record);
-    for (const DisplayItem &item : built.items) {
-        if (const auto *reference = std::get_if<std::unique_ptr<Reference>>(&item.shape))
-            m_waiting.push_back((*reference)->block);
-    }
-    return built;
-}
-
-void Scene::forget(const RecordDisplay &display)
-{
-    m_work.giveBack(display.work);
-}
-
-/// Keeps the displays of records that it still has and that did not change.
-void Scene::build(BlockDisplay &block)
-{
-    std::vector<RecordDisplay> old = std::move(block.records);
-    QHash<RecordId, std::size_t> places;
-    places.reserve(static_cast<qsizetype>(old.size()));
-    for (std::size_t i = 0; i < old.size(); ++i)
-        places.insert(old[i].record, i);
-    if (!m_sortHandles)
-        m_sortHandles = readSortHandles(m_drawing);
-    const std::vector<RecordId> now = drawOrder(m_drawing, *m_sortHandles, members(block));
-    std::vector<RecordDisplay> records;
-    records.reserve(now.size());
-    for (const RecordId record : now) {
-        const auto known = places.constFind(record);
-        if (known != places.constEnd() && !m_changes.records.contains(record))
-            records.push_back(std::move(old[*known]));
-        else
-            records.push_back(buildRecord(record));
-    }
-    std::ranges::for_each(old, [this](const RecordDisplay &left) { forget(left); });
-    block.records = std::move(records);
-    block.isBuilt = true;
-    m_boxesStale = true;
-    std::ranges::for_each(now, [&](RecordId record) { rememberSpace(record, block); });
-}
-
 void Scene::updateBoxes()
 {
     for (const auto &block : m_blocks) {
@@ -170,10 +110,11 @@ void Scene::updateBoxes()
 std::vector<std::size_t> Scene::blocksShownBy(std::size_t block) const
 {
     std::vector<std::size_t> shown;
-    for (const RecordDisplay &record : m_blocks[block]->records) {
+    for (const std::uint32_t place : m_blocks[block]->references) {
+        const RecordSummary &record = m_blocks[block]->records[place];
         if (!record.hasReferences)
             continue;
-        for (const DisplayItem &item : record.items) {
+        for (const DisplayItem &item : m_kept[record.look]->items) {
             if (const auto *found = std::get_if<std::unique_ptr<Reference>>(&item.shape))
                 shown.push_back(static_cast<std::size_t>((*found)->block));
         }
@@ -183,27 +124,49 @@ std::vector<std::size_t> Scene::blocksShownBy(std::size_t block) const
 
 void Scene::updateBox(BlockDisplay &block)
 {
-    for (RecordDisplay &record : block.records) {
-        updateBox(record);
-        block.box.add(record.box);
-        block.isEndless |= record.isEndless;
+    if (std::exchange(block.isPlainStale, false)) {
+        block.plainBox = {};
+        block.isPlainEndless = false;
+        for (const RecordSummary &record : block.records) {
+            if (record.hasReferences)
+                continue;
+            block.plainBox.add(record.box);
+            block.isPlainEndless |= record.isEndless;
+        }
+    }
+    block.box = block.plainBox;
+    block.isEndless = block.isPlainEndless;
+    for (const std::uint32_t place : block.references) {
+        if (!block.records[place].hasReferences)
+            continue;
+        updateBox(block, place);
+        block.box.add(block.records[place].box);
+        block.isEndless |= block.records[place].isEndless;
     }
 }
 
-void Scene::updateBox(RecordDisplay &record) const
+/// Of a record with references: it reaches as far as its blocks do.
+void Scene::updateBox(BlockDisplay &block, std::uint32_t place)
 {
-    if (!record.hasReferences && !record.box.isEmpty())
-        return;
-    record.box = {};
-    for (const DisplayItem &item : record.items) {
+    RecordDisplay &display = *m_kept[block.records[place].look];
+    const Box before = block.records[place].box;
+    display.box = {};
+    display.isEndless = false;
+    for (const DisplayItem &item : display.items) {
         if (const auto *found = std::get_if<std::unique_ptr<Reference>>(&item.shape)) {
-            const BlockDisplay &block = *m_blocks[static_cast<std::size_t>((*found)->block)];
-            record.box.add(referenceBox(**found, block.box));
-            record.isEndless |= block.isEndless;
+            const BlockDisplay &referred = *m_blocks[static_cast<std::size_t>((*found)->block)];
+            display.box.add(referenceBox(**found, referred.box));
+            display.isEndless |= referred.isEndless;
         } else {
-            addItemBox(item, record.box);
+            addItemBox(item, display.box);
+            display.isEndless |= std::holds_alternative<Endless>(item.shape);
         }
     }
+    RecordSummary &record = block.records[place];
+    record.box = display.box;
+    record.isEndless = display.isEndless;
+    if (record.box.low != before.low || record.box.high != before.high || record.isEndless)
+        block.index.touch(block.records, place);
 }
 
 Box Scene::extents(int block, Seen seen)
@@ -224,44 +187,71 @@ RenderReport Scene::report(int block)
 }
 
 /// Shapes in its linetype are left out.
-bool Scene::lacksPatternShapes(const RecordDisplay &record) const
+bool Scene::lacksPatternShapes(const BlockDisplay &block, const RecordSummary &record)
 {
-    return std::ranges::any_of(record.items, [this](const DisplayItem &item) {
-        const int own = item.style.linetype;
-        const int shown = own == Style::byLayer ? m_appearance.layerLook(item.style.layer).linetype : own;
+    const auto lacksShapes = [this](const Style &style) {
+        const int shown =
+            style.linetype == Style::byLayer ? m_appearance.layerLook(style.layer).linetype : style.linetype;
         return shown > 0 && m_appearance.pattern(shown).lacksShapes;
-    });
+    };
+    if (record.isEmpty || !m_appearance.lacksShapes())
+        return false;
+    if (record.hasOneStyle && !record.isKept)
+        return lacksShapes(styleOf(record));
+    RecordDisplay made;
+    return std::ranges::any_of(shown(block, record, made).items,
+                               [&](const DisplayItem &item) { return lacksShapes(item.style); });
 }
 
-void Scene::countInto(RenderReport &report, const BlockDisplay &block) const
+void Scene::countInto(RenderReport &report, const BlockDisplay &block)
 {
-    for (const RecordDisplay &record : block.records) {
+    const auto typeOf = [this](const RecordSummary &record) {
+        return record.isExternal ? u"XREF"_s : QString::fromLatin1(m_drawing.typeName(record.record));
+    };
+    for (const RecordSummary &record : block.records) {
+        if (record.isGone)
+            continue;
         report.isCutShort |= record.isCutShort && !record.isHidden;
-        const QString type = record.isExternal ? u"XREF"_s : QString::fromLatin1(m_drawing.typeName(record.record));
         if (record.isSkipped)
-            ++report.skipped[type];
+            ++report.skipped[typeOf(record)];
         else if (record.isHidden)
             ++report.hidden;
-        else if (record.isSimplified || lacksPatternShapes(record))
-            ++report.simplified[type];
+        else if (record.isSimplified || lacksPatternShapes(block, record))
+            ++report.simplified[typeOf(record)];
         else
             ++report.drawn;
     }
 }
 
-const RecordDisplay *Scene::find(int block, RecordId record)
+const RecordSummary *Scene::find(int block, RecordId record)
 {
     prepare(block);
-    const auto &records = display(block).records;
-    const auto found = std::ranges::find(records, record, &RecordDisplay::record);
-    return found == records.end() ? nullptr : &*found;
+    const auto place = placeIn(display(block), record);
+    return place ? &display(block).records[*place] : nullptr;
+}
+
+std::vector<std::uint32_t> Scene::recordsIn(int block, const Box &box)
+{
+    prepare(block);
+    BlockDisplay &searched = *m_blocks[static_cast<std::size_t>(block)];
+    if (searched.records.size() > fewRecords && (!searched.index.isBuilt() || searched.index.isWorn()))
+        searched.index.build(searched.records);
+    if (searched.index.isBuilt())
+        return searched.index.find(searched.records, box);
+    std::vector<std::uint32_t> found;
+    for (std::size_t i = 0; i < searched.records.size(); ++i) {
+        const RecordSummary &record = searched.records[i];
+        if (!record.isGone && (record.isEndless || record.box.touchesFlat(box)))
+            found.push_back(static_cast<std::uint32_t>(i));
+    }
+    return found;
 }
 
 RecordDisplay Scene::buildAlone(RecordId record)
 {
     applyChanges();
     RecordDisplay built = buildRecord(record);
-    forget(built);
+    m_work.giveBack(built.work);
     buildWaiting();
     if (m_boxesStale)
         updateBoxes();

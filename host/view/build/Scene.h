@@ -4,11 +4,13 @@
 #include "host/drawing/records/Drawing.h"
 #include "host/drawing/records/Entities.h"
 #include "host/drawing/text/MacroExpression.h"
+#include "host/view/build/BlockDisplay.h"
+#include "host/view/build/DisplayBuilder.h"
 #include "host/view/display/Appearance.h"
-#include "host/view/display/Display.h"
 #include "host/view/display/DrawOrder.h"
 #include "host/view/display/RasterFiles.h"
 #include "host/view/display/RenderReport.h"
+#include "host/view/display/StyleTable.h"
 #include "host/view/text/Fonts.h"
 
 #include <optional>
@@ -23,24 +25,19 @@ enum class Seen
     Plotted   ///< of those, the ones that are plotted
 };
 
-/// The display of a space or of a block definition, in its own coordinates: base points are in the references to it.
-struct BlockDisplay
-{
-    int number = 0; ///< in the scene
-    QString name{};
-    std::vector<RecordDisplay> records{}; ///< in drawing order
-    Box box{};                            ///< of all records, hidden layers too; lines without end left out
-    bool isEndless = false;               ///< has lines without end, itself or through its references
-    bool isBuilt = false;                 ///< otherwise nobody looked at it yet, and the rest is empty
-};
-
 /// A drawing taken apart into shapes, kept and brought up to date record by record as the drawing changes.
 ///
 /// Only blocks that are looked at are built. Looking at a scene brings it up to date; until then changes cost next to
 /// nothing. Must not outlive its drawing.
 ///
-/// Building costs time and memory by the records' own points; what it makes beyond them (pattern lines, pieces of
-/// splines) takes from one budget for the whole scene and is coarser when that is used up. User-interface thread only.
+/// Building goes through all records of a block and keeps a summary of each, some 70 bytes. Shapes are kept of what
+/// cannot be made the same again: references, and what takes from the budget (pattern lines, pieces of splines: what is
+/// made beyond the records' own points, for the whole scene, and coarser when that is used up). The shapes of all else,
+/// most lines, curves and texts, are made when they are looked at: see shown().
+///
+/// User-interface thread only. While it builds a large block it has helpers make the summaries of types that are
+/// Making::Anywhere, from the drawing and the numbers of layers and linetypes, which nobody changes meanwhile; the rest
+/// it then makes itself in drawing order. So a scene is the same with any number of threads.
 class Scene final : public drawing::DrawingObserver
 {
 public:
@@ -73,6 +70,16 @@ public:
     void prepare(int block);
     /// As of the last prepare(). The reference stays, its content changes with the next one.
     const BlockDisplay &display(int block) const { return *m_blocks[static_cast<std::size_t>(block)]; }
+    /// What a record of a prepared block shows: the display that is kept of it, or one made now, in `made`. Holds until
+    /// the next change is looked at, and as long as `made` does. About a microsecond for a line.
+    const RecordDisplay &shown(const BlockDisplay &block, const RecordSummary &record, RecordDisplay &made);
+    /// The style of all that the record shows, where it has one.
+    const Style &styleOf(const RecordSummary &record) const { return m_styles[record.look]; }
+    /// Places in a prepared block, in drawing order, of the records whose boxes touch the box as seen from above, lines
+    /// without end among them. Of many records the first search after building makes an index.
+    std::vector<std::uint32_t> recordsIn(int block, const Box &box);
+    /// How many threads may build, the caller's among them; at first as many as the machine has.
+    void useThreads(int threads) { m_threads = threads; }
     // What the displays' numbers mean, up to date as the displays are.
     Appearance &appearance() { return m_appearance; }
     const Appearance &appearance() const { return m_appearance; }
@@ -82,16 +89,16 @@ public:
 
     // These prepare the block.
     /// Of what can be seen of the space or block; empty when that is nothing. Lines without end do not count. Goes
-    /// through all records that are shown.
+    /// through the summaries of all records that are shown.
     Box extents(int block, Seen seen = Seen::OnScreen);
     /// Of the block and all that it shows through references. `isCutShort` tells of the building, not of the painting.
     RenderReport report(int block);
-    /// The display of a record of that space; null when it has none. Searches all records, and holds until the next
-    /// change is looked at.
-    const RecordDisplay *find(int block, RecordId record);
+    /// The summary of a record of that space; null when it has none. Constant cost; holds until the next change is
+    /// looked at.
+    const RecordSummary *find(int block, RecordId record);
     /// The display of one entity by itself, whether or not its space is built. What it refers to is up to date then.
     RecordDisplay buildAlone(RecordId record);
-    /// Number of records whose display was built so far, for measuring.
+    /// Number of records that were built so far, for measuring; looking at them does not count.
     qint64 builtRecords() const { return m_builtRecords; }
 
     void recordChanged(RecordId record, drawing::RecordChange change, drawing::ChangeCause cause) override;
@@ -107,31 +114,40 @@ private:
         bool any() const { return order || tables || everything || !records.empty(); }
     };
 
-    // In SceneChanges.cpp, up to rememberSpace(). What the observer hears is only noted; applyChanges() acts on it at
-    // the next look. The usual edits, one record changed or added at the end, cost a search for it; anything that
-    // concerns order or names goes through all blocks that are built.
+    // In SceneChanges.cpp, up to replace(). What the observer hears is only noted; applyChanges() acts on it at
+    // the next look. The usual edits, records changed, erased, brought back or added at the end, cost by their number;
+    // anything that concerns order or names goes through all blocks that are built.
     void markEntity(RecordId record, drawing::RecordChange change);
     bool hasChangedSpace(RecordId entity) const;
     void applyChanges();
     void forgetEverything();
     void rebuildMembers();
     void rebuildChanged();
-    void rebuildChanged(BlockDisplay &block);
+    void rebuildChanged(BlockDisplay &block, std::uint32_t place);
+    bool isInItsPlace(const BlockDisplay &block, std::uint32_t place) const;
     void appendRun(RecordId first);
     BlockDisplay *ownerOf(RecordId entity);
-    void rememberSpace(RecordId record, const BlockDisplay &block);
+    /// The place of a record in the block that it belongs to; nothing where that is not built or does not have it.
+    std::optional<std::uint32_t> placeIn(const BlockDisplay &block, RecordId record) const;
+    void rememberPlace(RecordId record, const BlockDisplay &block, std::size_t place);
+    void replace(BlockDisplay &block, std::uint32_t place, RecordSummary summary);
+
+    // In SceneBuilding.cpp, up to forget().
     void build(BlockDisplay &block);
     /// Until no display refers to a block that is not built.
     void buildWaiting();
     std::vector<RecordId> members(const BlockDisplay &block) const;
+    RecordSummary buildSummary(RecordId record);
     RecordDisplay buildRecord(RecordId record);
-    void forget(const RecordDisplay &display);
+    RecordSummary keep(RecordDisplay display);
+    void forget(RecordSummary &record);
+
     void updateBoxes();
     std::vector<std::size_t> blocksShownBy(std::size_t block) const;
     void updateBox(BlockDisplay &block);
-    void updateBox(RecordDisplay &record) const;
-    bool lacksPatternShapes(const RecordDisplay &record) const;
-    void countInto(RenderReport &report, const BlockDisplay &block) const;
+    void updateBox(BlockDisplay &block, std::uint32_t place);
+    bool lacksPatternShapes(const BlockDisplay &block, const RecordSummary &record);
+    void countInto(RenderReport &report, const BlockDisplay &block);
 
     const drawing::Drawing &m_drawing;
     drawing::MacroSurroundings m_surroundings;
@@ -142,8 +158,14 @@ private:
     Appearance m_appearance;
     std::vector<std::unique_ptr<BlockDisplay>> m_blocks; ///< by number; they keep their place in memory
     QHash<QString, int> m_blockNumbers;                  ///< by names in folded case
-    std::vector<int> m_waiting;  ///< blocks that displays refer to and that may have to be built
-    std::vector<qint8> m_spaces; ///< by record: 1 + the space it was last seen in
+    std::vector<int> m_waiting;          ///< blocks that displays refer to and that may have to be built
+    std::vector<qint8> m_spaces;         ///< by record: 1 + the space it was last seen in
+    std::vector<std::uint32_t> m_places; ///< by record: its place in its block, if that has it there
+    StyleTable m_styles;
+    StyleNames m_names{m_appearance};
+    std::vector<std::unique_ptr<RecordDisplay>> m_kept; ///< by the numbers in summaries; null where one is free
+    std::vector<std::uint32_t> m_freeKept;
+    int m_threads;
     Changes m_changes;
     bool m_boxesStale = false;
     std::optional<SortHandles> m_sortHandles; ///< nothing: to be read again

@@ -89,9 +89,14 @@ void Scene::applyChanges()
 void Scene::forgetEverything()
 {
     for (const auto &block : m_blocks) {
-        std::ranges::for_each(block->records, [this](const RecordDisplay &left) { forget(left); });
+        std::ranges::for_each(block->records, [this](RecordSummary &left) { forget(left); });
         block->records.clear();
+        block->references.clear();
+        block->index.clear();
     }
+    m_kept.clear();
+    m_freeKept.clear();
+    m_styles.clear();
 }
 
 void Scene::rebuildMembers()
@@ -102,34 +107,80 @@ void Scene::rebuildMembers()
     }
 }
 
-/// The usual case: some records changed or went, some were added at the end. Anything else is left to rebuildMembers().
+/// The usual case: some records changed, went or came back, some were added at the end. Anything else is left to
+/// rebuildMembers().
 void Scene::rebuildChanged()
 {
-    for (std::size_t i = 0; i < m_blocks.size() && !m_changes.records.empty(); ++i)
-        rebuildChanged(*m_blocks[i]);
+    std::vector<RecordId> changed(m_changes.records.begin(), m_changes.records.end());
+    std::ranges::sort(changed);
+    for (const RecordId record : changed) {
+        BlockDisplay *block = ownerOf(record);
+        const auto place = block && block->isBuilt ? placeIn(*block, record) : std::nullopt;
+        if (!place)
+            continue;
+        const bool returns = block->records[*place].isGone && m_drawing.isAlive(record);
+        if (returns && !isInItsPlace(*block, *place))
+            m_changes.order = true;
+        m_changes.appeared.erase(record);
+        rebuildChanged(*block, *place);
+    }
     std::erase_if(m_changes.appeared, [this](RecordId record) { return !m_drawing.isAlive(record); });
     while (!m_changes.appeared.empty() && !m_changes.order)
         appendRun(*std::ranges::min_element(m_changes.appeared));
 }
 
-void Scene::rebuildChanged(BlockDisplay &block)
+void Scene::rebuildChanged(BlockDisplay &block, std::uint32_t place)
 {
-    bool hasGone = false;
-    for (RecordDisplay &record : block.records) {
-        if (!m_changes.records.contains(record.record))
-            continue;
-        forget(record);
-        m_changes.appeared.erase(record.record);
-        m_boxesStale = true;
-        if (m_drawing.isAlive(record.record)) {
-            record = buildRecord(record.record);
-        } else {
-            record.record = noRecord;
-            hasGone = true;
-        }
+    RecordSummary &record = block.records[place];
+    forget(record);
+    if (m_drawing.isAlive(record.record))
+        replace(block, place, buildSummary(record.record));
+    else
+        replace(block, place, {.record = record.record, .isEmpty = true, .isGone = true});
+}
+
+/// Puts a new summary where an old one, of which nothing is kept any more, was.
+void Scene::replace(BlockDisplay &block, std::uint32_t place, RecordSummary summary)
+{
+    RecordSummary &record = block.records[place];
+    const auto isAtEdge = [&block](const Box &box) {
+        const Box &all = block.plainBox;
+        return !box.isEmpty() && (box.low.x <= all.low.x || box.low.y <= all.low.y || box.low.z <= all.low.z ||
+                                  box.high.x >= all.high.x || box.high.y >= all.high.y || box.high.z >= all.high.z);
+    };
+    const bool hadReferences = record.hasReferences;
+    // While the block's box is the same, what shows the block needs no other one either.
+    if (!hadReferences)
+        block.isPlainStale |= record.isEndless || isAtEdge(record.box);
+    if (!summary.hasReferences) {
+        m_boxesStale |= summary.isEndless || isAtEdge(summary.box);
+        block.plainBox.add(summary.box);
+        block.isPlainEndless |= summary.isEndless;
     }
-    if (hasGone)
-        std::erase_if(block.records, [](const RecordDisplay &record) { return !isValid(record.record); });
+    summary.isLoose = record.isLoose;
+    record = summary;
+    block.index.touch(block.records, place);
+    if (summary.hasReferences) {
+        const auto at = std::ranges::lower_bound(block.references, place);
+        if (at == block.references.end() || *at != place)
+            block.references.insert(at, place);
+    }
+    m_boxesStale |= block.isPlainStale || hadReferences || summary.hasReferences;
+}
+
+/// Whether a record that comes back stands where its neighbours in the drawing say.
+bool Scene::isInItsPlace(const BlockDisplay &block, std::uint32_t place) const
+{
+    if (!m_sortHandles || !m_sortHandles->isEmpty())
+        return false;
+    std::size_t next = place + 1;
+    while (next < block.records.size() && !m_drawing.isAlive(block.records[next].record))
+        ++next;
+    RecordId follower = m_drawing.nextSibling(block.records[place].record);
+    // Entities of the other space may stand between.
+    while (isValid(follower) && !placeIn(block, follower) && !m_changes.appeared.contains(follower))
+        follower = m_drawing.nextSibling(follower);
+    return next < block.records.size() ? follower == block.records[next].record : !isValid(follower);
 }
 
 /// Takes `first` and what stands behind it, all of which must be new; otherwise the order has to be looked up.
@@ -143,10 +194,19 @@ void Scene::appendRun(RecordId first)
         BlockDisplay *block = ownerOf(record);
         if (!block || !block->isBuilt)
             continue;
-        block->records.push_back(buildRecord(record));
-        rememberSpace(record, *block);
-        m_boxesStale = true;
+        block->records.push_back({.record = record, .isEmpty = true});
+        rememberPlace(record, *block, block->records.size() - 1);
+        replace(*block, static_cast<std::uint32_t>(block->records.size() - 1), buildSummary(record));
     }
+}
+
+std::optional<std::uint32_t> Scene::placeIn(const BlockDisplay &block, RecordId record) const
+{
+    const auto index = static_cast<std::size_t>(record);
+    if (index >= m_places.size() || m_places[index] >= block.records.size())
+        return std::nullopt;
+    const std::uint32_t place = m_places[index];
+    return block.records[place].record == record ? std::optional(place) : std::nullopt;
 }
 
 BlockDisplay *Scene::ownerOf(RecordId entity)
@@ -158,14 +218,16 @@ BlockDisplay *Scene::ownerOf(RecordId entity)
     return m_blocks[static_cast<std::size_t>(isModel ? modelSpace : paperSpace)].get();
 }
 
-void Scene::rememberSpace(RecordId record, const BlockDisplay &block)
+void Scene::rememberPlace(RecordId record, const BlockDisplay &block, std::size_t place)
 {
-    if (block.number > paperSpace)
-        return;
     const auto index = static_cast<std::size_t>(record);
-    if (m_spaces.size() <= index)
-        m_spaces.resize(std::max<std::size_t>(index + 1, m_drawing.idLimit()));
-    m_spaces[index] = static_cast<qint8>(1 + block.number);
+    if (m_places.size() <= index) {
+        m_places.resize(std::max<std::size_t>(index + 1, m_drawing.idLimit()));
+        m_spaces.resize(m_places.size());
+    }
+    m_places[index] = static_cast<std::uint32_t>(place);
+    if (block.number <= paperSpace)
+        m_spaces[index] = static_cast<qint8>(1 + block.number);
 }
 
 } // namespace host::view

@@ -20,26 +20,48 @@ Box VisibleExtents::of(int block)
     return m_known.value(whole);
 }
 
-bool VisibleExtents::isSeen(const DisplayItem &item, Seeing what) const
+bool VisibleExtents::isSeen(const Style &style, Seeing what) const
 {
-    return item.style.layer == 0 ? what % 2 != 0 : isShown(item.style.layer);
+    return style.layer == 0 ? what % 2 != 0 : isShown(style.layer);
 }
 
 template <class Visit>
-void VisibleExtents::forEachItem(Seeing what, const Visit &visit) const
+void VisibleExtents::forEachOfReferences(Seeing what, const Visit &visit)
 {
-    for (const RecordDisplay &record : m_scene.display(static_cast<int>(what / 2)).records)
-        std::ranges::for_each(record.items, visit);
+    const BlockDisplay &block = m_scene.display(static_cast<int>(what / 2));
+    for (const std::uint32_t place : block.references) {
+        if (block.records[place].hasReferences)
+            std::ranges::for_each(m_scene.shown(block, block.records[place], m_made).items, visit);
+    }
+}
+
+/// Records of one style reach as far as their boxes.
+void VisibleExtents::addPlain(Seeing what, Box &box)
+{
+    const BlockDisplay &block = m_scene.display(static_cast<int>(what / 2));
+    for (const RecordSummary &record : block.records) {
+        if (record.hasReferences || record.isEmpty)
+            continue;
+        if (record.hasOneStyle && !record.isKept) {
+            if (isSeen(m_scene.styleOf(record), what))
+                box.add(record.box);
+            continue;
+        }
+        for (const DisplayItem &item : m_scene.shown(block, record, m_made).items) {
+            if (isSeen(item.style, what))
+                addItemBox(item, box);
+        }
+    }
 }
 
 /// A layer that is off does not hide what inserts on it bring from other layers.
-std::vector<VisibleExtents::Seeing> VisibleExtents::shownBy(Seeing what) const
+std::vector<VisibleExtents::Seeing> VisibleExtents::shownBy(Seeing what)
 {
     std::vector<Seeing> shown;
-    forEachItem(what, [&](const DisplayItem &item) {
+    forEachOfReferences(what, [&](const DisplayItem &item) {
         const auto *reference = std::get_if<std::unique_ptr<Reference>>(&item.shape);
         if (reference && !m_scene.appearance().layerLook(item.style.layer).isFrozen)
-            shown.push_back(seeing((*reference)->block, isSeen(item, what)));
+            shown.push_back(seeing((*reference)->block, isSeen(item.style, what)));
     });
     return shown;
 }
@@ -48,13 +70,14 @@ std::vector<VisibleExtents::Seeing> VisibleExtents::shownBy(Seeing what) const
 void VisibleExtents::measure(Seeing what)
 {
     Box box;
-    forEachItem(what, [&](const DisplayItem &item) {
+    addPlain(what, box);
+    forEachOfReferences(what, [&](const DisplayItem &item) {
         const auto *reference = std::get_if<std::unique_ptr<Reference>>(&item.shape);
         if (!reference) {
-            if (isSeen(item, what))
+            if (isSeen(item.style, what))
                 addItemBox(item, box);
         } else if (!m_scene.appearance().layerLook(item.style.layer).isFrozen) {
-            box.add(referenceBox(**reference, m_known.value(seeing((*reference)->block, isSeen(item, what)))));
+            box.add(referenceBox(**reference, m_known.value(seeing((*reference)->block, isSeen(item.style, what)))));
         }
     });
     m_known.insert(what, box);

@@ -12,7 +12,7 @@ class VisibleExtents
 {
 public:
     /// The scene must be prepared for the blocks asked for.
-    VisibleExtents(const Scene &scene, Seen seen) : m_scene(scene), m_seen(seen) {}
+    VisibleExtents(Scene &scene, Seen seen) : m_scene(scene), m_seen(seen) {}
 
     Box of(int block);
 
@@ -22,15 +22,17 @@ private:
     static Seeing seeing(int block, bool showsLayer0) { return 2 * static_cast<Seeing>(block) + (showsLayer0 ? 1 : 0); }
 
     template <class Visit>
-    void forEachItem(Seeing what, const Visit &visit) const;
-    std::vector<Seeing> shownBy(Seeing what) const;
+    void forEachOfReferences(Seeing what, const Visit &visit);
+    void addPlain(Seeing what, Box &box);
+    std::vector<Seeing> shownBy(Seeing what);
     void measure(Seeing what);
-    bool isSeen(const DisplayItem &item, Seeing what) const;
+    bool isSeen(const Style &style, Seeing what) const;
     bool isShown(int layer) const;
 
-    const Scene &m_scene;
+    Scene &m_scene;
     const Seen m_seen;
     QHash<Seeing, Box> m_known;
+    RecordDisplay m_made; ///< of the record looked at
 };
 
 } // namespace host::view

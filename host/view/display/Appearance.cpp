@@ -96,14 +96,18 @@ Appearance::Appearance()
     linetype(u"Continuous"_s);
 }
 
+std::optional<int> Appearance::knownLayer(const QString &name) const
+{
+    const auto known = m_layerNumbers.constFind(name.toCaseFolded());
+    return known != m_layerNumbers.constEnd() ? std::optional(*known) : std::nullopt;
+}
+
 int Appearance::layer(const QString &name)
 {
-    const QString key = name.toCaseFolded();
-    const auto known = m_layerNumbers.constFind(key);
-    if (known != m_layerNumbers.constEnd())
+    if (const auto known = knownLayer(name))
         return *known;
     m_layers.push_back({.isOff = isLeftOut(name)});
-    return *m_layerNumbers.insert(key, static_cast<int>(m_layers.size()) - 1);
+    return *m_layerNumbers.insert(name.toCaseFolded(), static_cast<int>(m_layers.size()) - 1);
 }
 
 bool Appearance::isLeftOut(const QString &layer) const
@@ -111,7 +115,7 @@ bool Appearance::isLeftOut(const QString &layer) const
     return !m_shownLayers.isEmpty() && !drawing::matchesWildcard(layer, m_shownLayers);
 }
 
-int Appearance::linetype(const QString &name)
+std::optional<int> Appearance::knownLinetype(const QString &name) const
 {
     const QString key = name.toCaseFolded();
     if (key.isEmpty() || key == "bylayer"_L1)
@@ -119,10 +123,15 @@ int Appearance::linetype(const QString &name)
     if (key == "byblock"_L1)
         return Style::byBlock;
     const auto known = m_linetypeNumbers.constFind(key);
-    if (known != m_linetypeNumbers.constEnd())
+    return known != m_linetypeNumbers.constEnd() ? std::optional(*known) : std::nullopt;
+}
+
+int Appearance::linetype(const QString &name)
+{
+    if (const auto known = knownLinetype(name))
         return *known;
     m_patterns.emplace_back();
-    return *m_linetypeNumbers.insert(key, static_cast<int>(m_patterns.size()) - 1);
+    return *m_linetypeNumbers.insert(name.toCaseFolded(), static_cast<int>(m_patterns.size()) - 1);
 }
 
 std::optional<std::vector<Curve>> Appearance::shapeNamed(const QString &name, drawing::ShapeFiles &shapes)

@@ -8,6 +8,8 @@
 #include <QColor>
 #include <QHash>
 
+#include <optional>
+
 namespace host::view {
 
 /// One dash, gap (negative) or dot (0) of a linetype, and the text or shape set on it. Lengths are those of the
@@ -69,9 +71,15 @@ public:
     int layer(const QString &name); ///< "0" is 0
     /// "Continuous" is 0; an empty name and "ByLayer" give Style::byLayer, "ByBlock" Style::byBlock.
     int linetype(const QString &name);
+    // The same for names that have a number already.
+    std::optional<int> knownLayer(const QString &name) const;
+    std::optional<int> knownLinetype(const QString &name) const;
     // References hold until the next new name or reload().
     const LayerLook &layerLook(int layer) const { return m_layers[static_cast<std::size_t>(layer)]; }
     const LinePattern &pattern(int linetype) const { return m_patterns[static_cast<std::size_t>(linetype)]; }
+
+    /// Whether some pattern does.
+    bool lacksShapes() const { return std::ranges::any_of(m_patterns, &LinePattern::lacksShapes); }
 
     /// Reads layers, linetypes and settings again. Of a linetype the first thousand elements count.
     void reload(const drawing::Drawing &drawing, Fonts &fonts, drawing::ShapeFiles &shapes);

@@ -54,6 +54,8 @@ struct Style
     int linetype = byLayer;
     int lineweight = byLayer;   ///< hundredths of a millimetre, or one of the constants
     double linetypeScale = 1.0; ///< the entity's own, beside that of the drawing
+
+    bool operator==(const Style &) const = default;
 };
 
 /// An elliptical arc in space, which every affine map takes to such an arc again: center + xAxis cos t + yAxis sin t.

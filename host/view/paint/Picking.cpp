@@ -86,19 +86,20 @@ QRectF around(QPointF point, double reach)
 }
 
 /// How far the record is from the origin of the map, in its pixels; infinite when it is not seen there.
-double distance(Scene &scene, const RecordDisplay &record, const Matrix &map, drawing::WorkBudget &work)
+double distance(Scene &scene, const BlockDisplay &block, const RecordSummary &record, const Matrix &map,
+                drawing::WorkBudget &work)
 {
     OutlineSink sink;
     SceneWalker walker(
         scene, {.view = around({}, 2.0 * aperturePixels), .withLinetypes = false, .collapseSmall = false}, sink, work);
-    walker.walkRecord(record, map);
+    walker.walkRecord(block, record, map);
     double best = drawing::flatDistance(sink.outline(), {});
     if (sink.isInside())
         best = std::min(best, aperturePixels * 0.99);
     return best;
 }
 
-/// Whether the record's box may be larger than what it shows.
+/// Whether the box of a record with these shapes may be larger than what it shows.
 bool isBoxLoose(const RecordDisplay &record)
 {
     return record.hasReferences || std::ranges::any_of(record.items, [](const DisplayItem &item) {
@@ -106,12 +107,31 @@ bool isBoxLoose(const RecordDisplay &record)
            });
 }
 
-bool isPicked(Scene &scene, const RecordDisplay &record, const Box &window, PickMode mode, drawing::WorkBudget &work)
+/// Of what inserts bring from other layers only frozen ones take anything away.
+bool isShown(const Scene &scene, const Style &style, bool isReference)
+{
+    const LayerLook &look = scene.appearance().layerLook(style.layer);
+    return !look.isFrozen && (!look.isOff || isReference);
+}
+
+/// Whether layers show any of the record.
+bool isAnyShown(Scene &scene, const BlockDisplay &block, const RecordSummary &record)
+{
+    if (record.hasOneStyle && !record.isKept)
+        return isShown(scene, scene.styleOf(record), false);
+    RecordDisplay made;
+    return std::ranges::any_of(scene.shown(block, record, made).items, [&scene](const DisplayItem &item) {
+        return isShown(scene, item.style, std::holds_alternative<std::unique_ptr<Reference>>(item.shape));
+    });
+}
+
+bool isPicked(Scene &scene, const BlockDisplay &block, const RecordSummary &record, const Box &window, PickMode mode,
+              drawing::WorkBudget &work)
 {
     if (!record.isEndless && !record.box.isEmpty() && window.containsFlat(record.box))
-        return true;
-    const bool mayLieWithin = isBoxLoose(record) && !record.isEndless;
-    if ((!record.isEndless && !window.touchesFlat(record.box)) || (mode == PickMode::Window && !mayLieWithin))
+        return isAnyShown(scene, block, record);
+    RecordDisplay made;
+    if (mode == PickMode::Window && (record.isEndless || !isBoxLoose(scene.shown(block, record, made))))
         return false;
     const double size = std::max(window.high.x - window.low.x, window.high.y - window.low.y);
     const double factor = size > 0.0 ? windowPixels / size : 1.0;
@@ -122,7 +142,7 @@ bool isPicked(Scene &scene, const RecordDisplay &record, const Box &window, Pick
     if (mode == PickMode::Crossing)
         options.view = seen;
     SceneWalker walker(scene, options, sink, work);
-    walker.walkRecord(record, enlarged(window.low.xy(), factor));
+    walker.walkRecord(block, record, enlarged(window.low.xy(), factor));
     const Box scaled{{0.0, 0.0, 0.0}, {seen.width(), seen.height(), 0.0}};
     return mode == PickMode::Crossing ? sink.isInside() || drawing::crosses(sink.outline(), scaled)
                                       : drawing::liesWithin(sink.outline(), scaled);
@@ -140,10 +160,12 @@ std::vector<RecordId> pickAllAt(Scene &scene, int block, Vec2 point, double aper
     const Matrix map = enlarged(point, aperturePixels / aperture);
     drawing::WorkBudget work(drawing::pickWork);
     std::vector<std::pair<double, RecordId>> found;
-    for (const RecordDisplay &record : scene.display(block).records) {
-        if (!record.isEndless && (record.box.isEmpty() || !reach.touchesFlat(record.box)))
+    const BlockDisplay &shown = scene.display(block);
+    for (const std::uint32_t place : scene.recordsIn(block, reach)) {
+        const RecordSummary &record = shown.records[place];
+        if (record.isEmpty)
             continue;
-        if (const double away = distance(scene, record, map, work); away <= aperturePixels)
+        if (const double away = distance(scene, shown, record, map, work); away <= aperturePixels)
             found.emplace_back(away, record.record);
     }
     std::ranges::reverse(found);
@@ -170,8 +192,10 @@ std::vector<RecordId> pickRectangle(Scene &scene, int block, Vec2 corner, Vec2 o
     window.add(Vec3{corner.x, corner.y, 0.0});
     window.add(Vec3{opposite.x, opposite.y, 0.0});
     drawing::WorkBudget work(drawing::pickWork);
-    for (const RecordDisplay &record : scene.display(block).records) {
-        if (!record.items.empty() && isPicked(scene, record, window, mode, work))
+    const BlockDisplay &shown = scene.display(block);
+    for (const std::uint32_t place : scene.recordsIn(block, window)) {
+        const RecordSummary &record = shown.records[place];
+        if (!record.isEmpty && isPicked(scene, shown, record, window, mode, work))
             picked.push_back(record.record);
     }
     return picked;

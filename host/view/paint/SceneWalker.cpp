@@ -11,6 +11,8 @@ namespace {
 constexpr double smallest = 0.8; ///< pixels
 
 constexpr std::int64_t recordsOfUnit = 16;
+/// Going through so few costs less than asking which of them are seen.
+constexpr std::size_t fewRecords = 256;
 
 QRectF flatReach(const Box &box, const Matrix &map)
 {
@@ -45,21 +47,49 @@ void SceneWalker::walk(int block, const Matrix &toScreen)
 {
     m_isOpen.assign(m_scene.blockCount(), 0);
     m_isOpen[static_cast<std::size_t>(block)] = 1;
-    for (const RecordDisplay &record : m_scene.display(block).records) {
+    const BlockDisplay &shown = m_scene.display(block);
+    const auto show = [&](const RecordSummary &record) {
         if (!record.isEndless && m_options.view && isOutside(record.box, toScreen, nullptr))
-            continue;
-        if (m_sink.beginRecord(record.record))
-            walkDisplay(record, {.map = toScreen});
-    }
+            return;
+        if (!record.isEmpty && m_sink.beginRecord(record.record))
+            walkDisplay(shown, record, {.map = toScreen});
+    };
+    if (const auto places = seenPlaces(shown, toScreen))
+        std::ranges::for_each(*places, [&](std::uint32_t place) { show(shown.records[place]); });
+    else
+        std::ranges::for_each(shown.records, show);
 }
 
-void SceneWalker::walkRecord(const RecordDisplay &record, const Matrix &toScreen)
+void SceneWalker::walkRecord(const BlockDisplay &block, const RecordSummary &record, const Matrix &toScreen)
 {
     m_isOpen.assign(m_scene.blockCount(), 0);
     // Records are looked at one by one, and many may show the same block.
     m_isShown.assign(m_scene.blockCount(), 1);
     if (m_sink.beginRecord(record.record))
-        walkDisplay(record, {.map = toScreen});
+        walkDisplay(block, record, {.map = toScreen});
+}
+
+/// Only where the map keeps heights out of sight can be told what part of the block the view is.
+std::optional<std::vector<std::uint32_t>> SceneWalker::seenPlaces(const BlockDisplay &block, const Matrix &map) const
+{
+    const double area = map.xAxis.x * map.yAxis.y - map.xAxis.y * map.yAxis.x;
+    if (!m_options.view || block.records.size() < fewRecords || map.zAxis.x != 0.0 || map.zAxis.y != 0.0 ||
+        !std::isnormal(area)) {
+        return std::nullopt;
+    }
+    Box seen;
+    for (const QPointF &corner : {m_options.view->topLeft(), m_options.view->topRight(), m_options.view->bottomLeft(),
+                                  m_options.view->bottomRight()}) {
+        const double x = corner.x() - map.origin.x;
+        const double y = corner.y() - map.origin.y;
+        seen.add(Vec3{(x * map.yAxis.y - y * map.yAxis.x) / area, (y * map.xAxis.x - x * map.xAxis.y) / area, 0.0});
+    }
+    // What lies on the edge must not be lost to rounding.
+    const Vec3 slack{(seen.high.x - seen.low.x) * 1e-3, (seen.high.y - seen.low.y) * 1e-3, 0.0};
+    seen = {seen.low - slack, seen.high + slack};
+    const Vec3 all = block.box.high - block.box.low;
+    const bool isMost = seen.high.x - seen.low.x > all.x * 0.7 && seen.high.y - seen.low.y > all.y * 0.7;
+    return isMost ? std::nullopt : std::optional(m_scene.recordsIn(block.number, seen));
 }
 
 bool SceneWalker::isOutside(const Box &box, const Matrix &map, QRectF *reach) const
@@ -76,22 +106,44 @@ void SceneWalker::walkBlock(const BlockDisplay &block, const Context &context)
 {
     if (!mayGoOn(context, static_cast<std::int64_t>(block.records.size()) / recordsOfUnit))
         return;
-    for (const RecordDisplay &record : block.records) {
-        // Some time, so that a block of many records out of sight ends as well.
+    // Some time, so that a block of many records out of sight ends as well.
+    const auto show = [&](const RecordSummary &record) {
         if (context.isRepeated && m_work.left() <= 0)
-            return m_work.refuse();
-        walkDisplay(record, context);
-    }
+            return false;
+        walkDisplay(block, record, context);
+        return true;
+    };
+    bool isDone = true;
+    if (const auto places = seenPlaces(block, context.map))
+        isDone = std::ranges::all_of(*places, [&](std::uint32_t place) { return show(block.records[place]); });
+    else
+        isDone = std::ranges::all_of(block.records, show);
+    if (!isDone)
+        m_work.refuse();
 }
 
-void SceneWalker::walkDisplay(const RecordDisplay &record, const Context &context)
+void SceneWalker::walkDisplay(const BlockDisplay &block, const RecordSummary &record, const Context &context)
 {
     QRectF reach;
-    if (record.items.empty() || (!record.isEndless && isOutside(record.box, context.map, &reach)))
+    if (record.isEmpty || (!record.isEndless && isOutside(record.box, context.map, &reach)))
         return;
     const bool isSmall =
         m_options.collapseSmall && !record.isEndless && reach.width() < smallest && reach.height() < smallest;
-    walkItems(record.items, context, isSmall ? std::optional(reach.center()) : std::nullopt);
+    if (isSmall && showAsDot(record, reach.center(), context))
+        return;
+    RecordDisplay made;
+    walkItems(m_scene.shown(block, record, made).items, context,
+              isSmall ? std::optional(reach.center()) : std::nullopt);
+}
+
+bool SceneWalker::showAsDot(const RecordSummary &record, QPointF at, const Context &context)
+{
+    if (!record.hasOneStyle || record.isKept || record.hasMarks)
+        return false;
+    const ResolvedStyle style = m_scene.appearance().resolve(m_scene.styleOf(record), context.insert, m_options.ground);
+    if (!isHidden(style, false, context) && mayGoOn(context, 1))
+        m_sink.dot(at, style);
+    return true;
 }
 
 /// With `dot` given all shows as a dot there, in the style of the first that is seen.
@@ -102,7 +154,7 @@ void SceneWalker::walkItems(const std::vector<DisplayItem> &items, const Context
         const Appearance &appearance = m_scene.appearance();
         const bool isHiddenFrame = (item.isMaskFrame && !appearance.showsMaskFrames(m_options.plottedOnly)) ||
                                    (item.isImageFrame && !appearance.showsImageFrames(m_options.plottedOnly));
-        if (isHiddenFrame || isHidden(style, item.shape, context))
+        if (isHiddenFrame || isHidden(style, std::holds_alternative<std::unique_ptr<Reference>>(item.shape), context))
             continue;
         if (!mayGoOn(context, 1))
             return;
@@ -117,10 +169,9 @@ void SceneWalker::walkItems(const std::vector<DisplayItem> &items, const Context
 
 /// A layer that is off hides what lies on it but not what inserts on it bring from other layers; a frozen one hides
 /// both.
-bool SceneWalker::isHidden(const ResolvedStyle &style, const Shape &shape, const Context &context) const
+bool SceneWalker::isHidden(const ResolvedStyle &style, bool isReference, const Context &context) const
 {
     const LayerLook &look = m_scene.appearance().layerLook(style.layer);
-    const bool isReference = std::holds_alternative<std::unique_ptr<Reference>>(shape);
     if (look.isFrozen || (look.isOff && !isReference) || (m_options.plottedOnly && !look.isPlotted))
         return true;
     return context.hiddenLayers && std::ranges::binary_search(*context.hiddenLayers, style.layer);

@@ -14,6 +14,7 @@ namespace host::view {
 
 class Scene;
 struct BlockDisplay;
+struct RecordSummary;
 
 /// Takes what a walk finds, in screen coordinates and in the order in which it is drawn. To one that knows neither
 /// gradients nor pictures they are areas.
@@ -76,7 +77,7 @@ public:
     /// what is seen of it.
     void walk(int block, const Matrix &toScreen);
     /// One record of a block alone.
-    void walkRecord(const RecordDisplay &record, const Matrix &toScreen);
+    void walkRecord(const BlockDisplay &block, const RecordSummary &record, const Matrix &toScreen);
     /// Whether part of what there is was left out or drawn coarser: the work was used up, or blocks are nested deeper
     /// than they are opened.
     bool wasCutShort() const { return m_isTooDeep || m_work.refusals() > m_refusalsBefore; }
@@ -93,11 +94,15 @@ private:
     };
 
     void walkBlock(const BlockDisplay &block, const Context &context);
-    void walkDisplay(const RecordDisplay &record, const Context &context);
+    void walkDisplay(const BlockDisplay &block, const RecordSummary &record, const Context &context);
+    /// What is too small to have a shape, without looking at its shapes; false where these are needed for that.
+    bool showAsDot(const RecordSummary &record, QPointF at, const Context &context);
+    /// Places of the records that the view may see, in drawing order; nothing where that may be most of them.
+    std::optional<std::vector<std::uint32_t>> seenPlaces(const BlockDisplay &block, const Matrix &map) const;
     /// With `dot` given all shows as a dot there, in the style of the first that is seen.
     void walkItems(const std::vector<DisplayItem> &items, const Context &context, std::optional<QPointF> dot);
     /// By its layer: off, frozen, not plotted, or hidden in the viewport.
-    bool isHidden(const ResolvedStyle &style, const Shape &shape, const Context &context) const;
+    bool isHidden(const ResolvedStyle &style, bool isReference, const Context &context) const;
     /// Whether nothing in the box is in the view; `reach`, if given, is the box on the screen, unless it is empty.
     bool isOutside(const Box &box, const Matrix &map, QRectF *reach) const;
 
