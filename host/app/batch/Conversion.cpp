@@ -8,6 +8,7 @@
 #include "host/app/workbench/ProgramOutput.h"
 #include "host/drawing/records/LayoutTabs.h"
 #include "host/kernel/documents/ExpressionSurroundings.h"
+#include "host/kernel/documents/Session.h"
 
 #include <QFileInfo>
 #include <QJsonArray>
@@ -75,6 +76,7 @@ drawing::ReadableFiles readableFor(const ProgramOptions &options)
     drawing::ReadableFiles readable;
     for (const QString &folder : options.readableFolders)
         readable.folders.append(QFileInfo(folder).absoluteFilePath());
+    readable.folders.append(kernel::Session::homeFolder(options.home) + u"/plotstyles"_s);
     readable.refused = [told = std::make_shared<QSet<QString>>()](const QString &path, const QString &reason) {
         if (told->contains(path))
             return;
@@ -152,10 +154,31 @@ bool mayWrite(const ProgramOptions &options, const QString &path)
     return false;
 }
 
+/// What the option for plot styles says. False, and told, where there is no such table.
+bool choosePlotStyles(view::ExportOptions &how, const QString &wanted)
+{
+    how.withPlotStyles = wanted.isEmpty();
+    if (wanted.isEmpty() || wanted == "none"_L1)
+        return true;
+    drawing::PlotStyleReading reading;
+    if (!QFileInfo::exists(wanted))
+        reading.table = drawing::builtInPlotStyles(wanted);
+    if (!reading.table)
+        reading = drawing::readPlotStyleFile(wanted);
+    if (!reading.table) {
+        writeMessage(u"%1: %2"_s.arg(native(wanted), reading.error));
+        return false;
+    }
+    how.plotStyles = std::make_shared<drawing::PlotStyleTable>(*std::move(reading.table));
+    return true;
+}
+
 int writePictures(const ProgramOptions &options, const drawing::Drawing &drawing, std::vector<PictureFile> &files)
 {
     view::ExportOptions how = options.picture.as;
     how.surroundings = kernel::expressionSurroundings(drawing, readableFor(options));
+    if (!choosePlotStyles(how, options.picture.plotStyle))
+        return ExitFileError;
     view::Exporter exporter(drawing, how);
     int status = ExitDone;
     for (PictureFile &file : files) {
@@ -167,6 +190,8 @@ int writePictures(const ProgramOptions &options, const drawing::Drawing &drawing
         for (const view::PageReport &page : file.written.pages) {
             const QString name = page.layout.isEmpty() ? options.input : options.input + u", "_s + page.layout;
             status = std::max(status, tellMissing(name, page.report));
+            if (!page.lack.isEmpty())
+                writeMessage(u"%1: %2"_s.arg(native(name), files::visibleText(page.lack)));
             if (status == ExitDone && options.isStrict && !page.report.isWhole())
                 status = ExitPartly;
         }

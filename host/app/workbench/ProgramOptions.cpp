@@ -120,6 +120,7 @@ QList<OptionRow> pictureRows()
             {"--window", Value::Needed, {Mode::Convert}, setPicture<setWindow>, true},
             {"--layers", Value::Needed, {Mode::Convert}, setShownLayers, true},
             {"--text", Value::Needed, {Mode::Convert}, setPicture<setTextForm>, true},
+            {"--plot-style", Value::Needed, {Mode::Convert}, setPictureText<&PictureOptions::plotStyle>, true},
             {"--thin", Value::None, {Mode::Convert}, setThin, true}};
 }
 
@@ -336,6 +337,8 @@ would have on a sheet 297 mm long; pdf shows it on A4.
   --ground black|white  what it lies on (white)
   --layers PATTERN  only layers whose names match, as in a layer filter: "walls,door*"
   --text outlines|text  pdf, svg: texts as areas, or as text that can be searched (outlines)
+  --plot-style FILE a table of plot styles (ctb, stb) in place of what the page names; "none" for none. Without a file
+                    there are monochrome, grayscale and screening 25%, 50%, 75%, 100%
   --thin            all lines as thin as can be
 
   --time-limit SECONDS  the most it may take (default: no limit); OUT stays as it was when it takes longer

@@ -15,15 +15,12 @@ namespace host::kernel {
 
 namespace {
 
-QString homeFolder(const QString &wanted)
+QString madeHomeFolder(const QString &wanted)
 {
-    QString folder = wanted.isEmpty() ? qEnvironmentVariable("ORTAKIT_HOME") : wanted;
-    if (folder.isEmpty()) {
-        folder = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + QStringLiteral("/ortakit");
-    }
+    const QString folder = Session::homeFolder(wanted);
     // A folder that cannot be made shows when the first file is written to it, with that file's name.
     QDir().mkpath(folder + QStringLiteral("/Template"));
-    return QDir::cleanPath(QDir(folder).absolutePath());
+    return folder;
 }
 
 /// Takes away what programs that were killed left in the folders of the user's data.
@@ -48,8 +45,16 @@ int lispHeapSetting(const SettingsStore &settings)
 
 } // namespace
 
+QString Session::homeFolder(const QString &wanted)
+{
+    QString folder = wanted.isEmpty() ? qEnvironmentVariable("ORTAKIT_HOME") : wanted;
+    if (folder.isEmpty())
+        folder = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + QStringLiteral("/ortakit");
+    return QDir::cleanPath(QDir(folder).absolutePath());
+}
+
 Session::Session(const SessionOptions &options)
-    : m_home(homeFolder(options.home)), m_supportFolders(options.supportFolders), m_helpFolder(options.helpFolder),
+    : m_home(madeHomeFolder(options.home)), m_supportFolders(options.supportFolders), m_helpFolder(options.helpFolder),
       m_aliases(m_home + QStringLiteral("/alias.xml")), m_settings(m_home + QStringLiteral("/settings.ini")),
       m_lispHeapSetting(lispHeapSetting(m_settings)), m_editor(std::make_unique<Editor>()),
       m_commandStack(std::make_unique<CommandStack>()), m_help(std::make_unique<HelpService>(*this)),

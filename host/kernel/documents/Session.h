@@ -50,6 +50,9 @@ public:
     Session(const Session &) = delete;
     Session &operator=(const Session &) = delete;
 
+    /// The folder of the user's data by what the options say of it, whether or not it is there.
+    static QString homeFolder(const QString &wanted);
+
     // The parts, which live as long as the session.
 
     DocumentManager &documents() { return *m_documents; }

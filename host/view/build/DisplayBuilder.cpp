@@ -93,6 +93,14 @@ void readStyleTag(const TagList &tags, const Tag &tag, StyleNames &names, Style 
     case 370:
         style.lineweight = static_cast<int>(std::clamp<qint64>(tag.integer().value_or(-1), -3, 211));
         break;
+    case 380:
+        // In place of the name that a handle tells.
+        if (const qint64 kind = tag.integer().value_or(0); kind != 3)
+            style.plotStyle = kind == 1 ? Style::byBlock : kind == 2 ? 0 : Style::byLayer;
+        break;
+    case 390:
+        style.plotStyle = appearance.plotStyle(tag.handle().value_or(drawing::Handle{}));
+        break;
     case 420:
         if (const auto value = tag.integer())
             style.colour = {.kind = Colour::Kind::True, .value = static_cast<std::uint32_t>(*value & 0xffffff)};

@@ -18,7 +18,6 @@ namespace {
 
 constexpr int continuous = 0;
 constexpr std::size_t mostElements = 1000;
-constexpr int standardWeight = 25;
 /// The oldest writers show the default weight as a hairline; a quarter of a millimetre is what it has been since.
 constexpr int thickestWeight = 211;
 
@@ -61,6 +60,23 @@ LinePatternElement readElement(const drawing::Drawing &drawing, const drawing::L
     element.isRotationAbsolute = dash.isRotationAbsolute;
     element.offset = dash.offset;
     return element;
+}
+
+/// So many per cent of the ink.
+QColor screened(const QColor &ink, const QColor &ground, int part)
+{
+    const auto mixed = [part](int of, int in) { return (of * part + in * (100 - part) + 50) / 100; };
+    return {mixed(ink.red(), ground.red()), mixed(ink.green(), ground.green()), mixed(ink.blue(), ground.blue())};
+}
+
+LinePattern plotPattern(const std::vector<double> &lengths)
+{
+    LinePattern pattern;
+    for (const double length : lengths) {
+        pattern.elements.push_back({.length = length});
+        pattern.length += std::abs(length);
+    }
+    return pattern;
 }
 
 LinePattern readPattern(const drawing::Drawing &drawing, const drawing::Linetype &linetype, Fonts &fonts,
@@ -110,6 +126,21 @@ int Appearance::layer(const QString &name)
     return *m_layerNumbers.insert(name.toCaseFolded(), static_cast<int>(m_layers.size()) - 1);
 }
 
+void Appearance::readPlotStyles(const drawing::Drawing &drawing)
+{
+    m_plotStyles.clear();
+    m_plotStyleNames = {u"Normal"_s};
+    const drawing::Dictionaries &dictionaries = drawing.dictionaries();
+    const RecordId root = dictionaries.root();
+    const RecordId names = isValid(root) ? dictionaries.find(root, u"ACAD_PLOTSTYLENAME") : noRecord;
+    if (!isValid(names))
+        return;
+    for (const drawing::Dictionaries::Entry &entry : dictionaries.entries(names)) {
+        m_plotStyles.insert(entry.handle.value, static_cast<int>(m_plotStyleNames.size()));
+        m_plotStyleNames.append(entry.name);
+    }
+}
+
 bool Appearance::isLeftOut(const QString &layer) const
 {
     return !m_shownLayers.isEmpty() && !drawing::matchesWildcard(layer, m_shownLayers);
@@ -154,12 +185,21 @@ void Appearance::reload(const drawing::Drawing &drawing, Fonts &fonts, drawing::
 {
     m_shapeFiles = drawing::shapeFileNames(drawing);
     m_shapes.clear();
+    readPlotStyles(drawing);
     std::ranges::fill(m_patterns, LinePattern{});
     for (const drawing::RecordId entry : drawing.tables().entries(drawing::TableKind::Linetype)) {
         const drawing::Linetype read = drawing::readLinetype(drawing, entry);
         const int number = linetype(read.name);
         if (number > continuous)
             m_patterns[static_cast<std::size_t>(number)] = readPattern(drawing, read, fonts, shapes);
+    }
+    // By names that no linetype of a file can have.
+    const auto &plotted = drawing::plotLinetypes();
+    for (std::size_t i = 0; i < plotted.size(); ++i) {
+        const int number = linetype(u"\n%1"_s.arg(i));
+        m_patterns[static_cast<std::size_t>(number)] = plotPattern(plotted[i]);
+        if (i == 0)
+            m_firstPlotLinetype = number;
     }
     for (auto it = m_layerNumbers.cbegin(); it != m_layerNumbers.cend(); ++it)
         m_layers[static_cast<std::size_t>(*it)] = {.isOff = isLeftOut(it.key())};
@@ -168,7 +208,8 @@ void Appearance::reload(const drawing::Drawing &drawing, Fonts &fonts, drawing::
                        .lineweight = read.lineweight,
                        .isOff = read.isOff || isLeftOut(read.name),
                        .isFrozen = read.isFrozen,
-                       .isPlotted = read.isPlotted};
+                       .isPlotted = read.isPlotted,
+                       .plotStyle = plotStyle(drawing.tags(read.record).handle(390))};
         // What dimensions are measured from is never plotted, whatever its layer says.
         if (read.name.compare("defpoints"_L1, Qt::CaseInsensitive) == 0)
             look.isPlotted = false;
@@ -183,41 +224,71 @@ void Appearance::reload(const drawing::Drawing &drawing, Fonts &fonts, drawing::
     m_pointSize = drawing.header().real(u"$PDSIZE"_s, 0.0);
 }
 
-QRgb Appearance::color(const Colour &colour, int layer, const ResolvedStyle *insert, Ground ground) const
+std::pair<QRgb, int> Appearance::color(const Colour &colour, int layer, const ResolvedStyle *insert,
+                                       Ground ground) const
 {
+    constexpr int foreground = 7;
+    const auto indexed = [ground](int index) { return std::pair(aciColor(index, ground).rgb(), index); };
     switch (colour.kind) {
     case Colour::Kind::ByBlock:
-        return insert ? insert->colour : aciColor(7, ground).rgb();
+        return insert ? std::pair(insert->own.colour, insert->own.index) : indexed(foreground);
     case Colour::Kind::Index:
-        return aciColor(static_cast<int>(colour.value), ground).rgb();
+        return indexed(static_cast<int>(colour.value));
     case Colour::Kind::True:
-        return trueColor(static_cast<int>(colour.value)).rgb();
+        return {trueColor(static_cast<int>(colour.value)).rgb(), 0};
     case Colour::Kind::ByLayer:
         break;
     }
     const Colour &ofLayer = layerLook(layer).colour;
-    return ofLayer.kind == Colour::Kind::ByLayer ? aciColor(7, ground).rgb() : color(ofLayer, layer, insert, ground);
+    return ofLayer.kind == Colour::Kind::ByLayer ? indexed(foreground) : color(ofLayer, layer, insert, ground);
 }
 
 ResolvedStyle Appearance::resolve(const Style &style, const ResolvedStyle *insert, Ground ground) const
 {
     ResolvedStyle resolved;
+    ResolvedStyle::Unstyled &own = resolved.own;
     resolved.layer = style.layer == 0 && insert ? insert->layer : style.layer;
     const LayerLook &look = layerLook(resolved.layer);
-    resolved.colour = color(style.colour, resolved.layer, insert, ground);
-    resolved.linetype = style.linetype;
-    if (style.linetype == Style::byLayer)
-        resolved.linetype = look.linetype;
-    else if (style.linetype == Style::byBlock)
-        resolved.linetype = insert ? insert->linetype : continuous;
-    int weight = style.lineweight;
-    if (weight == Style::byLayer)
-        weight = look.lineweight;
-    else if (weight == Style::byBlock)
-        weight = insert ? insert->lineweight : Style::defaultWeight;
-    resolved.lineweight = weight < 0 ? standardWeight : std::min(weight, thickestWeight);
+    std::tie(own.colour, own.index) = color(style.colour, resolved.layer, insert, ground);
+    const auto chosen = [&](int value, int ofLayer, int ofInsert) {
+        return value == Style::byLayer ? ofLayer : value == Style::byBlock ? ofInsert : value;
+    };
+    own.linetype = chosen(style.linetype, look.linetype, insert ? insert->own.linetype : continuous);
+    const int weight =
+        chosen(style.lineweight, look.lineweight, insert ? insert->own.lineweight : Style::defaultWeight);
+    own.lineweight = weight < 0 ? m_defaultWeight : std::min(weight, thickestWeight);
+    own.plotStyle = chosen(style.plotStyle, look.plotStyle, insert ? insert->own.plotStyle : 0);
+    resolved.colour = own.colour;
+    resolved.linetype = own.linetype;
+    resolved.lineweight = own.lineweight;
     resolved.linetypeScale = m_linetypeScale * sanePositive(style.linetypeScale, 1.0);
+    if (m_plotLook.table)
+        applyPlotStyle(resolved, ground);
     return resolved;
+}
+
+void Appearance::applyPlotStyle(ResolvedStyle &style, Ground ground) const
+{
+    const drawing::PlotStyleTable &table = *m_plotLook.table;
+    const drawing::PlotStyle *plot =
+        table.isByColour() ? table.ofColour(style.own.index) : table.named(m_plotStyleNames.value(style.own.plotStyle));
+    if (!plot)
+        return;
+    QColor colour(style.colour);
+    // Black is the ink of paper; on a black ground that is white.
+    if (plot->colour)
+        colour = *plot->colour == 0 ? aciColor(7, ground) : trueColor(static_cast<int>(*plot->colour));
+    if (plot->isGrey)
+        colour = QColor::fromRgb(qGray(colour.rgb()), qGray(colour.rgb()), qGray(colour.rgb()));
+    style.colour = screened(colour, groundColor(ground), plot->screening).rgb();
+    if (plot->lineweight >= 0)
+        style.lineweight = plot->lineweight;
+    if (plot->linetype > 0 && m_firstPlotLinetype > 0) {
+        style.linetype = m_firstPlotLinetype + plot->linetype;
+        style.linetypeScale = -m_plotLook.unitsPerMillimetre;
+    } else if (plot->linetype == 0) {
+        style.linetype = continuous;
+    }
 }
 
 } // namespace host::view

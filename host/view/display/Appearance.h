@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/drawing/records/Symbols.h"
+#include "host/drawing/references/PlotStyleFile.h"
 #include "host/drawing/references/ShapeFiles.h"
 #include "host/view/display/AciColor.h"
 #include "host/view/display/Display.h"
@@ -8,6 +9,7 @@
 #include <QColor>
 #include <QHash>
 
+#include <memory>
 #include <optional>
 
 namespace host::view {
@@ -45,6 +47,7 @@ struct LayerLook
     bool isOff = false;
     bool isFrozen = false;
     bool isPlotted = true; ///< never for "Defpoints"
+    int plotStyle = 0;     ///< a place among the drawing's plot style names
 };
 
 /// How a shape is drawn, with nothing left to look up.
@@ -54,10 +57,28 @@ struct ResolvedStyle
     int layer = 0;              ///< the insert's, for a shape on layer 0 within a block
     int linetype = 0;           ///< in the appearance; 0 is a full line
     int lineweight = 25;        ///< hundredths of a millimetre
-    double linetypeScale = 1.0; ///< times everything but the block's own size
+    double linetypeScale = 1.0; ///< times everything but the block's own size; below 0 in units of the screen
+
+    /// The same before plot styles: what is by block takes it from here.
+    struct Unstyled
+    {
+        QRgb colour = 0;
+        int index = 0; ///< of the colour; 0 for a true one
+        int linetype = 0;
+        int lineweight = 25;
+        int plotStyle = 0; ///< a place among the drawing's plot style names
+    };
+    Unstyled own{};
 };
 
 class Fonts;
+
+/// Plot styles with what they need to know of the device: units of the screen a millimetre of paper.
+struct PlotLook
+{
+    std::shared_ptr<const drawing::PlotStyleTable> table{}; ///< null: none
+    double unitsPerMillimetre = 1.0;
+};
 
 /// Layers and linetypes of a drawing, and the settings that change the look of everything. Entities name layers and
 /// linetypes by a number from here; numbers stay the same when the tables change, so that a layer's new colour is seen
@@ -90,6 +111,13 @@ public:
     /// empty: all. Holds from the next reload().
     void showOnly(const QString &layers) { m_shownLayers = layers; }
 
+    /// What resolve() makes of everything from now on.
+    void setPlotLook(PlotLook look) { m_plotLook = std::move(look); }
+    /// The weight of what has the default one, hundredths of a millimetre; 25 until set.
+    void setDefaultWeight(int weight) { m_defaultWeight = weight; }
+    /// The place of the plot style name whose handle the drawing's dictionary has; 0 for one that it has not.
+    int plotStyle(drawing::Handle handle) const { return m_plotStyles.value(handle.value, 0); }
+
     /// `insert` is what the insert that the shape is seen through was resolved to; null outside blocks, where "by
     /// block" is colour 7, a full line and the default weight. Constant cost: it is done anew at every look.
     ResolvedStyle resolve(const Style &style, const ResolvedStyle *insert, Ground ground) const;
@@ -107,7 +135,10 @@ public:
 
 private:
     bool isLeftOut(const QString &layer) const;
-    QRgb color(const Colour &colour, int layer, const ResolvedStyle *insert, Ground ground) const;
+    /// The colour with its index.
+    std::pair<QRgb, int> color(const Colour &colour, int layer, const ResolvedStyle *insert, Ground ground) const;
+    void readPlotStyles(const drawing::Drawing &drawing);
+    void applyPlotStyle(ResolvedStyle &style, Ground ground) const;
 
     QHash<QString, int> m_layerNumbers;
     std::vector<LayerLook> m_layers;
@@ -116,6 +147,11 @@ private:
     QStringList m_shapeFiles; ///< that styles of the drawing name
     QHash<QString, std::optional<std::vector<Curve>>> m_shapes;
     QString m_shownLayers;
+    PlotLook m_plotLook;
+    QHash<quint64, int> m_plotStyles; ///< by handle, places in the names
+    QStringList m_plotStyleNames;     ///< the first stands for those that are not known
+    int m_firstPlotLinetype = 0;      ///< in m_patterns; 0: they are not there
+    int m_defaultWeight = 25;
     double m_linetypeScale = 1.0;
     int m_maskFrame = 1;  ///< see drawing::wipeoutFrame()
     int m_imageFrame = 1; ///< likewise, of the drawing's RASTERVARIABLES

@@ -54,6 +54,7 @@ struct Style
     int linetype = byLayer;
     int lineweight = byLayer;   ///< hundredths of a millimetre, or one of the constants
     double linetypeScale = 1.0; ///< the entity's own, beside that of the drawing
+    int plotStyle = byLayer;    ///< a place among the drawing's plot style names, or one of the constants
 
     bool operator==(const Style &) const = default;
 };

@@ -32,6 +32,9 @@ struct ExportOptions
     bool withLineweights = true;         ///< where the page has them too; otherwise lines are as thin as can be
     TextForm text = TextForm::Outlines;
     QString layers{}; ///< pattern of the names that are shown, as drawing::matchesWildcard() has it; empty: all
+    /// Plot styles of all that is written; without them those that a layout's page names.
+    std::shared_ptr<const drawing::PlotStyleTable> plotStyles{};
+    bool withPlotStyles = true; ///< otherwise what a page names does not count
     /// What expressions in the drawing may ask for; nothing: the drawing's own variables.
     drawing::MacroSurroundings surroundings{};
 };
@@ -41,6 +44,7 @@ struct PageReport
 {
     QString layout{}; ///< its name as the drawing spells it; empty for what is no layout
     RenderReport report;
+    QString lack{}; ///< a sentence on plot styles that were not found or not read; empty when all is well
 };
 
 /// What came of writing a file.

@@ -1,5 +1,7 @@
 #include "host/view/paint/PagePainter.h"
 
+#include "files/qt/Files.h"
+
 #include <QCoreApplication>
 
 namespace host::view {
@@ -82,6 +84,33 @@ ViewTransform PagePainter::pictureView(const Page &page, const QSize &size)
     return view;
 }
 
+const drawing::PlotStyleReading &PagePainter::readStyleSheet(const QString &name)
+{
+    if (const auto known = m_plotStyles.constFind(name); known != m_plotStyles.constEnd())
+        return *known;
+    const auto &find = m_options.surroundings.file;
+    const QString path = find ? find(name) : drawing::namedFiles(m_scene.drawing())(name);
+    if (path.isEmpty()) {
+        const auto table = drawing::builtInPlotStyles(name);
+        return *m_plotStyles.insert(name, {table, table ? QString() : pageMessage("it is not found")});
+    }
+    return *m_plotStyles.insert(name, drawing::readPlotStyleFile(path));
+}
+
+std::shared_ptr<const drawing::PlotStyleTable> PagePainter::plotStyles(const Page &page, QString &lack)
+{
+    if (m_options.plotStyles || !m_options.withPlotStyles)
+        return m_options.plotStyles;
+    const QString &name = page.plan.styleSheet;
+    if (!page.plan.hasPlotStyles || name.isEmpty())
+        return {};
+    const drawing::PlotStyleReading &reading = readStyleSheet(name);
+    if (reading.table)
+        return std::make_shared<drawing::PlotStyleTable>(*reading.table);
+    lack = pageMessage("the plot styles %1 are left out: %2").arg(name, reading.error);
+    return {};
+}
+
 PaintOptions PagePainter::paintOptions(const Page &page, const Frame &frame, PaintOptions base) const
 {
     base.ground = m_options.ground;
@@ -101,6 +130,8 @@ void PagePainter::paint(QPainter &painter, const Page &page, const Frame &frame,
     if (base.fillGround)
         painter.fillRect(QRect(QPoint(), frame.size), groundColor(m_options.ground));
     const double units = frame.unitsPerMillimetre;
+    QString lack;
+    m_scene.appearance().setPlotLook({plotStyles(page, lack), units});
     painter.save();
     painter.translate(frame.corner);
     QPainterPath clip;
@@ -118,7 +149,7 @@ void PagePainter::paint(QPainter &painter, const Page &page, const Frame &frame,
     RenderReport report = m_scene.report(page.plan.block);
     report.isCutShort |= painted.isCutShort;
     result.report.add(report);
-    result.pages.push_back({page.layout, report});
+    result.pages.push_back({page.layout, report, lack});
 }
 
 } // namespace host::view

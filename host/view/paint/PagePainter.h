@@ -41,10 +41,14 @@ public:
 
 private:
     ViewTransform pictureView(const Page &page, const QSize &size);
+    /// The table for a page; null for none, with the reason in `lack` when there should be one.
+    std::shared_ptr<const drawing::PlotStyleTable> plotStyles(const Page &page, QString &lack);
+    const drawing::PlotStyleReading &readStyleSheet(const QString &name);
     PaintOptions paintOptions(const Page &page, const Frame &frame, PaintOptions base) const;
 
     Scene m_scene;
     const ExportOptions m_options;
+    QHash<QString, drawing::PlotStyleReading> m_plotStyles; ///< read, by the names that pages have for them
 };
 
 } // namespace host::view

@@ -25,6 +25,12 @@ double sizeOf(const Matrix &map)
     return map.xAxis.length();
 }
 
+/// What makes elements of the linetype into units of the curve, of which each is so many pixels.
+double dashScale(const ResolvedStyle &style, double pixelsPerUnit)
+{
+    return style.linetypeScale < 0.0 ? -style.linetypeScale / pixelsPerUnit : style.linetypeScale;
+}
+
 } // namespace
 
 std::int64_t SceneWalker::unitsOf(const Track &track) const
@@ -38,7 +44,8 @@ void SceneWalker::show(const Stroke &stroke, const ResolvedStyle &style, const C
     if (m_track.points.empty() || (context.isRepeated && !m_work.take(unitsOf(m_track))))
         return;
     if (style.linetype > 0 && m_options.withLinetypes && m_options.view) {
-        const LineDasher dasher(m_scene.appearance().pattern(style.linetype), style.linetypeScale, *m_options.view);
+        const LineDasher dasher(m_scene.appearance().pattern(style.linetype), dashScale(style, sizeOf(context.map)),
+                                *m_options.view);
         if (dasher.isWorthwhile(m_track) && canDash(dasher, stroke)) {
             emitDashes(m_track, stroke.curve.isOneRun, dasher, style);
             return;
@@ -287,7 +294,8 @@ void SceneWalker::show(const Endless &line, const ResolvedStyle &style, const Co
     const double phase = (fromBase.x() * unit.x() + fromBase.y() * unit.y()) / pixelsPerUnit;
     const QPointF length = seen.points[1] - seen.points[0];
     seen.along = {0.0, std::hypot(length.x(), length.y()) / pixelsPerUnit};
-    const LineDasher dasher(m_scene.appearance().pattern(style.linetype), style.linetypeScale, *m_options.view);
+    const LineDasher dasher(m_scene.appearance().pattern(style.linetype), dashScale(style, pixelsPerUnit),
+                            *m_options.view);
     if (m_options.withLinetypes && dasher.isWorthwhile(seen) && m_work.take(dasher.elementCount(seen)))
         dasher.runEndless(seen, phase, dashOutput(style));
     else
