@@ -99,7 +99,7 @@ void readStyleTag(const TagList &tags, const Tag &tag, StyleNames &names, Style 
             style.plotStyle = kind == 1 ? Style::byBlock : kind == 2 ? 0 : Style::byLayer;
         break;
     case 390:
-        style.plotStyle = appearance.plotStyle(tag.handle().value_or(drawing::Handle{}));
+        style.plotStyle = names.plotStyle(tag.handle().value_or(drawing::Handle{}));
         break;
     case 420:
         if (const auto value = tag.integer())
@@ -191,6 +191,11 @@ int StyleNames::linetype(const TagList &tags, const Tag &tag)
         const QString name = tags.decoded(tag).trimmed();
         return m_appearance ? m_appearance->linetype(name) : m_known->knownLinetype(name);
     });
+}
+
+int StyleNames::plotStyle(drawing::Handle handle) const
+{
+    return (m_appearance ? m_appearance : m_known)->plotStyle(handle);
 }
 
 namespace {

@@ -66,6 +66,8 @@ public:
     int layer(const drawing::TagList &tags, const drawing::Tag &tag);
     /// Of group 6.
     int linetype(const drawing::TagList &tags, const drawing::Tag &tag);
+    /// Of group 390. All of them have numbers.
+    int plotStyle(drawing::Handle handle) const;
     /// Whether a name was asked for that has no number. Then its answer was of no meaning.
     bool hasUnknown() const { return m_hasUnknown; }
     void forgetUnknown() { m_hasUnknown = false; }
