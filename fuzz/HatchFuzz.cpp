@@ -43,7 +43,8 @@ void check(HatchData hatch)
 {
     const std::size_t loops = hatch.loops.size();
     const Box box = boxOf(hatch.loops);
-    const HatchLines lines = hatchLines(hatch, mostPieces);
+    drawing::WorkBudget work(drawing::displayWork);
+    const HatchLines lines = hatchLines(hatch, mostPieces, work);
     require(std::ssize(lines.pieces.ends) <= 2 * mostPieces && std::ssize(lines.pieces.dots) <= mostPieces);
     require(lines.pieces.ends.size() % 2 == 0);
     require(!lines.isTooDense || (lines.pieces.ends.empty() && lines.pieces.dots.empty()));
@@ -61,7 +62,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     const drawing::ReadResult read = drawing::Drawing::fromBytes(fuzzed.text("AC1015"));
     if (!read)
         return 0;
+    drawing::WorkBudget work(drawing::displayWork);
     for (const RecordId entity : read.drawing->entities().all())
-        check(readHatch(read.drawing->tags(entity)));
+        check(readHatch(read.drawing->tags(entity), work));
     return 0;
 }

@@ -1,5 +1,6 @@
 #include "host/view/build/DisplayBuilder.h"
 
+#include "host/view/build/ProxyGraphics.h"
 #include "host/view/build/Scene.h"
 
 #include <array>
@@ -58,6 +59,8 @@ constexpr std::array typeRows = {
     TypeRow{"LARGE_RADIAL_DIMENSION", buildDimension},
     TypeRow{"ACAD_TABLE", buildTable},
 };
+
+constexpr TypeRow unknownType{"", [](BuildContext &, const TagList &) { return false; }};
 
 const TypeRow *findType(QByteArrayView name)
 {
@@ -216,6 +219,17 @@ Style readStyleWith(const TagList &tags, StyleNames &names, bool &isInvisible)
     return style;
 }
 
+/// What follows from the items.
+void finish(RecordDisplay &display)
+{
+    display.isSkipped = false;
+    display.isSimplified |= display.isCutShort;
+    for (const DisplayItem &item : display.items) {
+        display.isEndless |= std::holds_alternative<Endless>(item.shape);
+        display.hasReferences |= std::holds_alternative<std::unique_ptr<Reference>>(item.shape);
+    }
+}
+
 void buildFrom(const TagList &tags, const TypeRow &type, BuildContext &context)
 {
     RecordDisplay &display = context.display;
@@ -223,14 +237,13 @@ void buildFrom(const TagList &tags, const TypeRow &type, BuildContext &context)
     const std::int64_t refusals = context.work.refusals();
     const RecordId parent = context.drawing.parent(display.record);
     context.isInBlock = isValid(parent) && context.drawing.kind(parent) == drawing::RecordKind::Block;
-    display.isSkipped = !type.build(context, tags);
+    const bool isBuilt = type.build(context, tags);
     display.work = before - context.work.left();
     display.isCutShort |= context.work.refusals() > refusals;
-    display.isSimplified = !display.isSkipped && (type.isSimplified || display.isSimplified || display.isCutShort);
-    for (const DisplayItem &item : display.items) {
-        display.isEndless |= std::holds_alternative<Endless>(item.shape);
-        display.hasReferences |= std::holds_alternative<std::unique_ptr<Reference>>(item.shape);
-    }
+    display.isSimplified = isBuilt && (type.isSimplified || display.isSimplified);
+    finish(display);
+    display.isSkipped = !isBuilt;
+    display.isSimplified &= isBuilt;
 }
 
 } // namespace
@@ -249,14 +262,14 @@ RecordDisplay buildDisplay(const drawing::Drawing &drawing, Scene &scene, drawin
 {
     RecordDisplay display{.record = record};
     const TypeRow *type = findType(drawing.typeName(record));
-    display.isSkipped = type == nullptr;
-    if (!type)
-        return display;
     const TagList tags = drawing.tags(record);
     BuildContext context{drawing, scene, work, display};
     context.style = readStyle(tags, scene.appearance(), &display.isHidden);
     if (!display.isHidden)
-        buildFrom(tags, *type, context);
+        buildFrom(tags, type ? *type : unknownType, context);
+    // The picture that it keeps of itself stands in for what is not known.
+    if (display.isSkipped && drawProxyGraphics(context, proxyGraphics(tags)))
+        finish(display);
     return display;
 }
 
@@ -275,7 +288,8 @@ std::optional<RecordDisplay> buildFreely(const drawing::Drawing &drawing, Scene 
     context.style = readStyleWith(tags, names, display->isHidden);
     if (!display->isHidden)
         buildFrom(tags, *type, context);
-    if (names.hasUnknown() || work.left() != drawing::displayWork || work.refusals() > 0)
+    const bool isDrawnOtherwise = display->isSkipped && !proxyGraphics(tags).isEmpty();
+    if (isDrawnOtherwise || names.hasUnknown() || work.left() != drawing::displayWork || work.refusals() > 0)
         display.reset();
     return display;
 }
