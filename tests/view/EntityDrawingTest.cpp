@@ -101,6 +101,58 @@ TEST(EntityDrawing, RemoteTextShowsTheValueOfItsExpressionUntilTheNextRegenerati
     }
 }
 
+/// As records keep the text of a model: every letter but blanks as what it lacks to 159.
+std::string enciphered(std::string text)
+{
+    for (char &letter : text)
+        letter = letter == ' ' ? letter : static_cast<char>(159 - letter);
+    return text;
+}
+
+/// A solid whose text has these records, as the reader of drawings takes it.
+std::unique_ptr<drawing::Drawing> solidOf(const std::vector<std::string> &records)
+{
+    std::string entity = "0 3DSOLID|8 0|100 AcDbModelerGeometry|70 1";
+    for (const std::string &record : records) {
+        std::string text = enciphered(record);
+        std::ranges::replace(text, '|', '~'); // which stands between the tags here, and for a sign that none has
+        entity += "|1 " + text;
+    }
+    QByteArray bytes = dxfBytes({.entities = entity});
+    return drawing::Drawing::fromBytes(bytes.replace('~', '|')).drawing;
+}
+
+TEST(EntityDrawing, SolidsShowTheEdgesOfTheirModel)
+{
+    // An edge from 0,0 to 40,0 and half a circle over it, twice as large and moved by 10,10.
+    std::vector<std::string> records = {
+        "106 12 1 0",
+        "body $-1 $1 $-1 $9 #",
+        "edge $-1 $2 $3 $-1 $6 0 #",
+        "vertex $-1 $1 $4 #",
+        "vertex $-1 $1 $5 #",
+        "point $-1 0 0 0 #",
+        "point $-1 40 0 0 #",
+        "straight-curve $-1 0 0 0 1 0 0 0 0 #",
+        "edge $-1 $2 $3 $-1 $8 0 #",
+        "ellipse-curve $-1 20 0 0 0 0 -1 20 0 0 1 #",
+        "transform $-1 1 0 0 0 1 0 0 0 1 10 10 0 2 0 0 0 #",
+        "plane-surface $-1 0 0 0 0 0 1 1 0 0 0 0 0 0 #",
+        "End-of-ACIS-data",
+    };
+    const auto drawing = solidOf(records);
+    Scene scene(*drawing);
+    expectInk(Rendering(scene, Scene::modelSpace), "50,10 50,50 21.7,38.3", "50,30 50,70");
+    EXPECT_EQ(scene.report(Scene::modelSpace).drawn, 1);
+    records[9] = "intcurve-curve $-1 0 { exactcur nubs 3 0 } #";
+    const auto odd = solidOf(records);
+    EXPECT_EQ(Scene(*odd).report(Scene::modelSpace).simplified.value(u"3DSOLID"_s), 1) << "the line alone";
+    for (std::string &record : records)
+        record = record.substr(0, record.size() / 2) + " $4 $99999999999999999999 $0 1e400 #";
+    const auto damaged = solidOf(records);
+    EXPECT_EQ(Scene(*damaged).report(Scene::modelSpace).skippedCount(), 1);
+}
+
 TEST(EntityDrawing, WhatCannotBeDrawnIsCounted)
 {
     const Rendering shown({.entities = "0 LINE|8 0|10 10|20 10|11 90|21 10|0 3DSOLID|8 0|0 3DSOLID|8 0|0 OLE2FRAME|8 0"

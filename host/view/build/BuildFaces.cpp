@@ -114,41 +114,6 @@ bool build3dFace(BuildContext &context, const TagList &tags)
     return true;
 }
 
-bool buildMesh(BuildContext &context, const TagList &tags)
-{
-    Path vertices;
-    std::vector<qint64> faces;
-    bool isInFaces = false;
-    for (std::size_t i = 0; i < tags.size() && tags[i].code < 1000; ++i) {
-        const Tag &tag = tags[i];
-        if (tag.code == 10)
-            vertices.push_back(tags.pointAt(i));
-        else if (tag.code == 93)
-            isInFaces = true;
-        else if (tag.code == 94)
-            isInFaces = false;
-        else if (tag.code == 90 && isInFaces)
-            faces.push_back(tag.integer().value_or(-1));
-    }
-    if (!areUsable(vertices))
-        return false;
-    // Faces are lists of vertex numbers, each with its length in front.
-    const auto limit = static_cast<qint64>(vertices.size());
-    for (std::size_t at = 0; at < faces.size();) {
-        const qint64 count = faces[at++];
-        if (count < 2 || count > static_cast<qint64>(faces.size() - at))
-            break;
-        Path edge;
-        for (qint64 i = 0; i < count; ++i, ++at) {
-            if (faces[at] >= 0 && faces[at] < limit)
-                edge.push_back(vertices[static_cast<std::size_t>(faces[at])]);
-        }
-        if (edge.size() > 1)
-            context.addStroke(closed(std::move(edge)));
-    }
-    return !context.display.items.empty();
-}
-
 bool buildViewport(BuildContext &context, const TagList &tags)
 {
     constexpr qint64 sheetItself = 1;

@@ -14,6 +14,7 @@ struct PicturePlace
     Matrix placement{};        ///< from a square of 0 to 1 both ways, y up
     std::vector<Curve> area{}; ///< what is seen of it: closed, every second area inwards
     bool isClipped = false;
+    Box seen{{0.0, 0.0, 0.0}, {1.0, 1.0, 0.0}}; ///< around the clip boundary, in the same coordinates as the square
 };
 
 Curve closedCurve(Path corners)
@@ -60,6 +61,10 @@ std::optional<PicturePlace> placeOf(const TagList &tags)
     place.isClipped = corners.size() > 2 && !areWhole(corners);
     if (!place.isClipped || isInverted)
         place.area.push_back(closedCurve({{0, 0, 0}, {1, 0, 0}, {1, 1, 0}, {0, 1, 0}}));
+    if (place.isClipped && !isInverted) {
+        place.seen = {};
+        std::ranges::for_each(corners, [&place](const Vec3 &corner) { place.seen.add(corner); });
+    }
     if (place.isClipped)
         place.area.push_back(closedCurve(corners));
     for (Curve &contour : place.area) {
@@ -139,7 +144,7 @@ bool buildImage(BuildContext &context, const TagList &tags)
         addRaster(context, tags, *place, std::move(pixels));
     addFrames(context, place->area, isMissing ? nullptr : &DisplayItem::isImageFrame);
     if (isMissing)
-        addFileName(context, place->placement, file);
+        addFileName(context, place->placement * squareOnto(place->seen), file);
     context.display.isSimplified = isMissing;
     return true;
 }

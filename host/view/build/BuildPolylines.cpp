@@ -158,16 +158,20 @@ bool buildFaces(BuildContext &context, const std::vector<RecordId> &children)
 {
     std::vector<Vec3> points;
     bool isSound = true;
+    bool hasFaces = false;
     for (const RecordId child : children) {
         const TagList tags = context.drawing.tags(child);
         if ((tags.integer(70) & isFacesFlag) != 0) {
             points.push_back(tags.point(10));
             isSound &= isUsable(points.back());
         } else if (isSound) {
+            hasFaces = true;
             addFaceEdges(context, tags, points);
         }
     }
-    return !context.display.items.empty();
+    // Points without faces are nothing to be seen, and no failure.
+    context.display.isHidden = isSound && !points.empty() && !hasFaces;
+    return !context.display.items.empty() || context.display.isHidden;
 }
 
 } // namespace

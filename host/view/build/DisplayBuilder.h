@@ -116,6 +116,8 @@ bool buildMultiLeader(BuildContext &context, const drawing::TagList &tags);
 bool buildSolid(BuildContext &context, const drawing::TagList &tags);
 bool build3dFace(BuildContext &context, const drawing::TagList &tags);
 bool buildMesh(BuildContext &context, const drawing::TagList &tags);
+bool buildSolidModel(BuildContext &context, const drawing::TagList &tags);
+bool buildUnderlay(BuildContext &context, const drawing::TagList &tags);
 bool buildWipeout(BuildContext &context, const drawing::TagList &tags);
 bool buildImage(BuildContext &context, const drawing::TagList &tags);
 bool buildViewport(BuildContext &context, const drawing::TagList &tags);

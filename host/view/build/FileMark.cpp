@@ -10,6 +10,12 @@ constexpr qsizetype longestMark = 80; ///< characters
 
 } // namespace
 
+Matrix squareOnto(const Box &box)
+{
+    const Vec3 size = box.high - box.low;
+    return {{size.x, 0.0, 0.0}, {0.0, size.y, 0.0}, {0.0, 0.0, 1.0}, box.low};
+}
+
 void addFileName(BuildContext &context, const Matrix &placement, const QString &name)
 {
     const QString file = QString(name).replace(u'\\', u'/').section(u'/', -1).left(longestMark);

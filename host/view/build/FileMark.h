@@ -4,6 +4,9 @@
 
 namespace host::view {
 
+/// The map from a square of 0 to 1 both ways onto a box.
+Matrix squareOnto(const Box &box);
+
 /// Writes the name of a file that is not shown into the middle of where it would be: `placement` maps a square of 0 to
 /// 1 both ways, y up, onto that. Folders are left out. Nothing where the square has no area.
 void addFileName(BuildContext &context, const Matrix &placement, const QString &name);
