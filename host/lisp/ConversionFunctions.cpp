@@ -3,11 +3,13 @@
 #include "host/lisp/Arguments.h"
 #include "host/lisp/Builtins.h"
 #include "host/lisp/Interpreter.h"
-#include "host/lisp/Units.h"
+#include "host/units/Units.h"
 
 #include <limits>
 
 namespace host::lisp {
+
+using namespace units;
 
 static double systemNumber(Arguments &args, std::string_view name, double otherwise)
 {

@@ -3,7 +3,7 @@
 #include "host/drawing/text/DrawingVariables.h"
 #include "host/kernel/documents/Document.h"
 #include "host/kernel/variables/SystemVariables.h"
-#include "host/lisp/Units.h"
+#include "host/units/Units.h"
 
 namespace host::kernel {
 
@@ -33,15 +33,15 @@ MacroSurroundings surroundingsWith(const Variable &variable)
     MacroSurroundings surroundings{.variable = variable};
     surroundings.length = [variable](double value, int mode, int precision) {
         const int zeros = static_cast<int>(numberOf(variable, "DIMZIN"));
-        return QString::fromStdString(lisp::formatDistance(value, {mode, precision, zeros}));
+        return QString::fromStdString(units::formatDistance(value, {mode, precision, zeros}));
     };
     surroundings.angle = [variable](double radians, int mode, int precision) {
-        const lisp::AngleFormat format{.mode = mode,
-                                       .precision = precision,
-                                       .zeros = static_cast<int>(numberOf(variable, "DIMZIN")),
-                                       .base = numberOf(variable, "ANGBASE"),
-                                       .isClockwise = numberOf(variable, "ANGDIR") != 0.0};
-        return QString::fromStdString(lisp::formatAngle(radians, format));
+        const units::AngleFormat format{.mode = mode,
+                                        .precision = precision,
+                                        .zeros = static_cast<int>(numberOf(variable, "DIMZIN")),
+                                        .base = numberOf(variable, "ANGBASE"),
+                                        .isClockwise = numberOf(variable, "ANGDIR") != 0.0};
+        return QString::fromStdString(units::formatAngle(radians, format));
     };
     return surroundings;
 }

@@ -1,7 +1,7 @@
 #include "host/kernel/input/Units.h"
 
 #include "host/kernel/variables/SystemVariables.h"
-#include "host/lisp/Units.h"
+#include "host/units/Units.h"
 
 #include <cmath>
 
@@ -29,12 +29,12 @@ UnitFormat UnitFormat::of(const SystemVariables &variables)
 
 QString UnitFormat::length(double value) const
 {
-    return QString::fromStdString(lisp::formatDistance(value, {lengthMode, lengthPrecision, zeros}));
+    return QString::fromStdString(units::formatDistance(value, {lengthMode, lengthPrecision, zeros}));
 }
 
 QString UnitFormat::angle(double radians) const
 {
-    return QString::fromStdString(lisp::formatAngle(radians, {angleMode, anglePrecision, zeros, 0.0, false}));
+    return QString::fromStdString(units::formatAngle(radians, {angleMode, anglePrecision, zeros, 0.0, false}));
 }
 
 QString UnitFormat::exactLength(double value) const
@@ -65,20 +65,20 @@ std::optional<double> UnitFormat::parseLength(const QString &text) const
 {
     const std::string given = text.trimmed().toStdString();
     // Whatever the drawing shows, people type feet, inches and fractions where they think in them.
-    for (int mode : {lengthMode, int(lisp::DistanceFormat::Architectural), int(lisp::DistanceFormat::Fractional)})
-        if (const std::optional<double> value = lisp::parseDistance(given, mode))
+    for (int mode : {lengthMode, int(units::DistanceFormat::Architectural), int(units::DistanceFormat::Fractional)})
+        if (const std::optional<double> value = units::parseDistance(given, mode))
             return value;
     return {};
 }
 
 std::optional<double> UnitFormat::parseAngle(const QString &text) const
 {
-    return lisp::parseAngle(text.trimmed().toStdString(), {angleMode, anglePrecision, zeros, 0.0, false});
+    return units::parseAngle(text.trimmed().toStdString(), {angleMode, anglePrecision, zeros, 0.0, false});
 }
 
 std::optional<double> UnitFormat::parseDirection(const QString &text) const
 {
-    return lisp::parseAngle(text.trimmed().toStdString(), {angleMode, anglePrecision, zeros, angleBase, isClockwise});
+    return units::parseAngle(text.trimmed().toStdString(), {angleMode, anglePrecision, zeros, angleBase, isClockwise});
 }
 
 double normalizedAngle(double radians)

@@ -1,12 +1,12 @@
-#include "host/lisp/Text.h"
-#include "host/lisp/Units.h"
+#include "host/units/AsciiText.h"
+#include "host/units/Units.h"
 
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
 #include <numbers>
 
-namespace host::lisp {
+namespace host::units {
 
 static constexpr double fullTurn = 2 * std::numbers::pi;
 
@@ -102,7 +102,7 @@ namespace {
 class AngleParser
 {
 public:
-    AngleParser(std::string_view text, int mode) : m_text(toLowerCase(text)), m_rest(m_text), m_mode(mode) {}
+    AngleParser(std::string_view text, int mode) : m_text(lowered(text)), m_rest(m_text), m_mode(mode) {}
 
     /// In radians; whether it is a compass direction goes to `isBearing`.
     std::optional<double> parse(bool &isBearing)
@@ -212,4 +212,4 @@ std::optional<double> parseAngle(std::string_view text, const AngleFormat &forma
     return withinTurn(format.isClockwise ? format.base - *angle : format.base + *angle);
 }
 
-} // namespace host::lisp
+} // namespace host::units

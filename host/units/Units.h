@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-namespace host::lisp {
+namespace host::units {
 
 // Numbers as the drawing shows them. Without state and locale: the decimal sign is a point everywhere. Callers take
 // what a program leaves out from the system variables.
@@ -69,4 +69,4 @@ std::optional<double> unitFactor(std::string_view from, std::string_view to);
 /// The number that a text begins with, after blanks; 0 when it begins with none. `length` says how much was read.
 double leadingNumber(std::string_view text, std::size_t *length = nullptr);
 
-} // namespace host::lisp
+} // namespace host::units

@@ -1,11 +1,11 @@
-#include "host/lisp/Text.h"
-#include "host/lisp/Units.h"
+#include "host/units/AsciiText.h"
+#include "host/units/Units.h"
 
 #include <array>
 #include <cmath>
 #include <numbers>
 
-namespace host::lisp {
+namespace host::units {
 
 namespace {
 
@@ -84,7 +84,7 @@ int takePower(std::string &name)
 
 std::optional<Measure> findMeasure(std::string_view text)
 {
-    std::string name = toLowerCase(text);
+    std::string name = lowered(text);
     const int power = takePower(name);
     if (name.empty() || name.find(' ') != std::string::npos)
         return std::nullopt;
@@ -106,4 +106,4 @@ std::optional<double> unitFactor(std::string_view from, std::string_view to)
     return source->size / target->size;
 }
 
-} // namespace host::lisp
+} // namespace host::units

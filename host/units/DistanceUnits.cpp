@@ -1,5 +1,5 @@
-#include "host/lisp/Text.h"
-#include "host/lisp/Units.h"
+#include "host/units/AsciiText.h"
+#include "host/units/Units.h"
 
 #include <algorithm>
 #include <charconv>
@@ -7,7 +7,7 @@
 #include <cstdio>
 #include <numeric>
 
-namespace host::lisp {
+namespace host::units {
 
 static std::string formatted(const char *format, int precision, double number)
 {
@@ -264,4 +264,4 @@ std::optional<double> parseDistance(std::string_view text, int mode)
     return isWhole ? std::optional(number) : std::nullopt;
 }
 
-} // namespace host::lisp
+} // namespace host::units
