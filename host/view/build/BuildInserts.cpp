@@ -2,6 +2,7 @@
 #include "host/drawing/records/Blocks.h"
 #include "host/drawing/records/Dictionaries.h"
 #include "host/drawing/tags/GroupCodes.h"
+#include "host/view/build/AnnotationParts.h"
 #include "host/view/build/DisplayBuilder.h"
 #include "host/view/build/Scene.h"
 #include "host/view/display/DisplayBoxes.h"
@@ -145,21 +146,6 @@ void addAttributes(BuildContext &context, Reference &reference)
     context.display.items.resize(first);
 }
 
-/// Shows a block that is drawn for this entity alone and stands where it belongs.
-bool addOwnBlock(BuildContext &context, const QString &name, const Matrix &placement)
-{
-    const auto block = context.drawing.blocks().get(name);
-    if (!block || name.isEmpty())
-        return false;
-    auto reference = std::make_unique<Reference>();
-    reference->block = context.scene.block(name);
-    reference->placement = placement * Matrix::translation(block->basePoint * -1.0);
-    if (!isUsableMatrix(reference->placement))
-        return false;
-    context.add(std::move(reference));
-    return true;
-}
-
 /// The definition of an external reference names a file and has nothing of it.
 bool showsOtherDrawing(const drawing::Drawing &drawing, const QString &name)
 {
@@ -194,17 +180,12 @@ bool buildInsert(BuildContext &context, const TagList &tags)
     return (exists || hasAttributes) && !context.display.isExternal;
 }
 
-bool buildDimension(BuildContext &context, const TagList &tags)
-{
-    return addOwnBlock(context, tags.text(2), {});
-}
-
 bool buildTable(BuildContext &context, const TagList &tags)
 {
     const Vec3 across = tags.point(11, {1.0, 0.0, 0.0});
     const Matrix placement = Matrix::fromExtrusion(tags.point(210, {0.0, 0.0, 1.0})) *
                              Matrix::translation(tags.point(10)) * Matrix::rotation(std::atan2(across.y, across.x));
-    return addOwnBlock(context, tags.text(2), placement);
+    return addBlock(context, tags.text(2), placement, context.style);
 }
 
 } // namespace host::view
