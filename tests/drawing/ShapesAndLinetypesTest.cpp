@@ -105,7 +105,8 @@ TEST(ShapeFile, CompiledFilesAreReadAsFarAsTheyGo)
     EXPECT_FALSE(file.numberOf(u"C"_s));
     for (qsizetype size = 0; size < whole.size() - 3; ++size)
         EXPECT_LT(readShapeFile(whole.first(size)).codes.size(), 2) << size;
-    EXPECT_EQ(readShapeFile(QByteArray(whole).replace(" shapes ", " unifont ")).error, u"it is a compiled font"_s);
+    EXPECT_EQ(readShapeFile(QByteArray(whole).replace(" shapes ", " picture ")).error,
+              u"it is a compiled file of another kind"_s);
     EXPECT_EQ(readShapeFile("Dear reader,\n").error, u"there are no shapes in it"_s);
 }
 

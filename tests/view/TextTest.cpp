@@ -140,6 +140,7 @@ TEST(TextCodes, Pieces)
         {u"%%o%%kx"_s, {{.text = u"x"_s, .isOverlined = true, .isStruck = true}}},
         {u"%%D%%P%%C%%%"_s, {{.text = u"\u00b0\u00b1\u2300%"_s}}},
         {u"%%065%%066"_s, {{.text = u"AB"_s}}},
+        {u"%%127%%128%%129%%176"_s, {{.text = u"\u00b0\u00b1\u2300\u00b0"_s}}},
         {u"50% %"_s, {{.text = u"50% %"_s}}},
         {u"%%"_s, {{.text = u"%%"_s}}},
         {u""_s, {}},

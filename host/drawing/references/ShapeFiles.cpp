@@ -46,11 +46,16 @@ void forEachShapeStyle(const Drawing &drawing, Visit visit)
 
 const ShapeFile *ShapeFiles::find(const QString &name)
 {
+    return share(name).get();
+}
+
+std::shared_ptr<const ShapeFile> ShapeFiles::share(const QString &name)
+{
     const QString key = withoutEnding(name).toCaseFolded();
     auto known = m_read.constFind(key);
     if (known == m_read.constEnd())
         known = m_read.insert(key, readFile(pathOf(name)));
-    return known->get();
+    return *known;
 }
 
 QString ShapeFiles::pathOf(const QString &name) const
@@ -59,7 +64,8 @@ QString ShapeFiles::pathOf(const QString &name) const
     if (base.isEmpty())
         return {};
     QString youngest;
-    for (const QString &stem : {base, base.section(u'/', -1)}) {
+    const QString file = base.section(u'/', -1);
+    for (const QString &stem : {base, file, file.toLower(), file.toUpper()}) {
         for (const QLatin1StringView ending : {".shp"_L1, ".shx"_L1, ".SHP"_L1, ".SHX"_L1}) {
             const QString path = m_finder(stem + ending);
             if (!path.isEmpty() &&

@@ -7,11 +7,11 @@
 
 namespace host::drawing {
 
-/// The shape files of a drawing, each read when it is asked for.
+/// The shape files of a drawing, fonts among them, each read when it is asked for.
 ///
 /// Drawings name compiled files. Where the source lies beside it, or instead of it, the younger of the two is read, so
 /// that a shape that was just made need not be compiled. A file that another system's path names is found by its name
-/// alone. Files of more than 16 MB, and what is no ordinary file, are not read.
+/// alone, also in small or in capital letters. Files of more than 16 MB, and what is no ordinary file, are not read.
 class ShapeFiles
 {
 public:
@@ -20,6 +20,8 @@ public:
     /// The file of a name as drawings have it, with or without path and ending. Null when there is no such file, or
     /// none that can be read; that is kept in mind as well. Valid until forget().
     const ShapeFile *find(const QString &name);
+    /// The same to be kept.
+    std::shared_ptr<const ShapeFile> share(const QString &name);
     /// Files are read anew the next time.
     void forget() { m_read.clear(); }
 

@@ -11,12 +11,13 @@ constexpr int mostSteps = 100'000; ///< of one shape with those within it
 constexpr std::size_t mostKept = 64;
 constexpr double largestScale = 1e9;
 constexpr double octant = std::numbers::pi / 4.0;
+constexpr int stretchedPieces = 8; ///< of an arc that is drawn wider than high
 
 /// Moves a pen as the codes of a shape say.
 class ShapePen
 {
 public:
-    explicit ShapePen(const ShapeFile &file) : m_file(file) {}
+    ShapePen(const ShapeFile &file, ShapeDirection direction) : m_file(file), m_direction(direction) {}
 
     bool draw(int number, int depth)
     {
@@ -34,6 +35,8 @@ public:
         // Programs take a shape whose last 0 is missing as well.
         return m_isSound;
     }
+
+    Vec2 place() const { return m_at; }
 
     std::vector<ShapeLine> takeLines()
     {
@@ -78,8 +81,7 @@ private:
             keepOrReturn(code == 5);
             break;
         case 7:
-            if (const int number = rest.take(); !m_isSkipping)
-                m_isSound &= draw(number, depth + 1);
+            takeShape(rest, depth);
             break;
         case 8:
         case 12:
@@ -97,7 +99,7 @@ private:
             takePartialOctants(rest);
             break;
         case 14:
-            skipNext(rest, depth);
+            takeNextDown(rest, depth);
             break;
         default:
             takeDirection(code);
@@ -105,15 +107,71 @@ private:
     }
 
     /// The next code is for texts that run downwards.
-    void skipNext(Codes &rest, int depth)
+    void takeNextDown(Codes &rest, int depth)
     {
         int code = 14;
         while (code == 14 && !rest.isAtEnd())
             code = rest.take() & 0xff;
-        m_isSkipping = true;
+        const bool wasSkipping = m_isSkipping;
+        m_isSkipping |= m_direction == ShapeDirection::Across;
         if (code != 14)
             step(code, rest, depth);
-        m_isSkipping = false;
+        m_isSkipping = wasSkipping;
+    }
+
+    int takeNumber(Codes &rest) const
+    {
+        const int first = rest.take();
+        return m_file.hasLongNumbers ? (first & 0xff) << 8 | (rest.take() & 0xff) : first;
+    }
+
+    /// A shape within this one. In a big font a 0 in front says that it is a part of a letter, with its place, width
+    /// and height.
+    void takeShape(Codes &rest, int depth)
+    {
+        if (m_file.isBigFont() && !rest.isAtEnd() && (rest.codes[rest.next] & 0xff) == 0) {
+            rest.take();
+            takePart(rest, depth);
+        } else if (const int number = takeNumber(rest); !m_isSkipping) {
+            m_isSound &= draw(number, depth + 1);
+        }
+    }
+
+    void takePart(Codes &rest, int depth)
+    {
+        const int number = takeNumber(rest);
+        const Vec2 at{double(rest.takeSigned()), double(rest.takeSigned())};
+        const int width = rest.take() & 0xff;
+        const int height = rest.take() & 0xff;
+        const ShapeFontHead head = m_file.font.value_or(ShapeFontHead{});
+        if (m_isSkipping || head.above <= 0 || head.width <= 0)
+            return;
+        ShapePen part(m_file, m_direction);
+        part.m_steps = m_steps;
+        m_isSound &= part.draw(number, depth + 1);
+        m_steps = part.m_steps;
+        const Vec2 factor{width * m_scale / head.width, height * m_scale / head.above};
+        for (const ShapeLine &line : part.takeLines())
+            m_lines.push_back(stretched(line, m_at + at * m_scale, factor));
+        m_isLineOpen = false;
+    }
+
+    /// Arcs become straight pieces where they do not stay arcs.
+    static ShapeLine stretched(const ShapeLine &line, Vec2 origin, Vec2 factor)
+    {
+        ShapeLine result;
+        const auto add = [&](Vec2 p, double bulge) {
+            result.push_back({.at = origin + Vec2{p.x * factor.x, p.y * factor.y}, .bulge = bulge});
+        };
+        for (std::size_t i = 0; i < line.size(); ++i) {
+            const ShapeVertex &vertex = line[i];
+            const bool isArc = vertex.bulge != 0.0 && i + 1 < line.size();
+            add(vertex.at, factor.x == factor.y ? vertex.bulge : 0.0);
+            if (isArc && factor.x != factor.y)
+                for (int piece = 1; piece < stretchedPieces; ++piece)
+                    add(pointOnBulge(vertex, line[i + 1].at, double(piece) / stretchedPieces), 0.0);
+        }
+        return result;
     }
 
     void setPen(bool isDown)
@@ -218,6 +276,7 @@ private:
     }
 
     const ShapeFile &m_file;
+    const ShapeDirection m_direction;
     std::vector<ShapeLine> m_lines;
     std::vector<Vec2> m_kept;
     Vec2 m_at;
@@ -231,12 +290,34 @@ private:
 
 } // namespace
 
-std::optional<std::vector<ShapeLine>> shapeLines(const ShapeFile &file, int number)
+Vec2 pointOnBulge(const ShapeVertex &from, Vec2 to, double part)
 {
-    ShapePen pen(file);
+    const double sweep = 4.0 * std::atan(from.bulge);
+    const Vec2 chord = to - from.at;
+    const double sine = std::sin(sweep / 2.0);
+    if (std::abs(sine) < 1e-9)
+        return from.at + chord * part;
+    // From the start, a point lies on the ray that turns with half of the angle that is left.
+    const double length = std::sin(sweep * part / 2.0) / sine;
+    const double turn = -sweep * (1.0 - part) / 2.0;
+    const double c = std::cos(turn) * length;
+    const double s = std::sin(turn) * length;
+    return from.at + Vec2{chord.x * c - chord.y * s, chord.x * s + chord.y * c};
+}
+
+std::optional<ShapeTrace> traceShape(const ShapeFile &file, int number, ShapeDirection direction)
+{
+    ShapePen pen(file, direction);
     if (!pen.draw(number, 0))
         return std::nullopt;
-    return pen.takeLines();
+    const Vec2 end = pen.place();
+    return ShapeTrace{.lines = pen.takeLines(), .end = end};
+}
+
+std::optional<std::vector<ShapeLine>> shapeLines(const ShapeFile &file, int number)
+{
+    auto trace = traceShape(file, number);
+    return trace ? std::optional(std::move(trace->lines)) : std::nullopt;
 }
 
 } // namespace host::drawing

@@ -50,7 +50,8 @@ TextData readText(const TagList &tags, const TextLook &look, bool isAttribute)
     data.at = tags.point(10);
     data.second = tags.point(11, data.at);
     data.height = std::abs(tags.real(40, 1.0));
-    data.rotation = tags.real(50) * radians;
+    // Texts that run downwards have 270 degrees; without an angle they are meant to stand upright as well.
+    data.rotation = tags.real(50, look.isVertical ? 270.0 : 0.0) * radians;
     data.widthFactor = std::abs(tags.real(41, look.widthFactor));
     data.oblique = realOf(tags.find(51), look.oblique / radians) * radians;
     data.generation = integerOf(tags.find(71, "AcDbText"), look.generation);
@@ -140,18 +141,43 @@ void addLines(BuildContext &context, const TextPiece &piece, const Matrix &place
         addRule(context, context.style, placement, from, y + 0.5 * height, to, y + 0.5 * height);
 }
 
-/// Vertical styles set one character below the other.
-void addVerticalText(BuildContext &context, const TextData &data, const TextLook &look, const Matrix &placement)
+/// How far a text that runs downwards reaches, from the top of its first letter to the base of its last; in heights.
+double lengthDown(const BuildContext &context, const std::vector<TextPiece> &pieces, int font)
 {
-    double y = 0.0;
-    for (const TextPiece &piece : parseTextCodes(data.text)) {
+    double length = 0.0;
+    double lastDrop = 1.0;
+    for (const TextPiece &piece : pieces) {
+        for (const QChar c : piece.text) {
+            lastDrop = context.fonts().hanging(font, QString(c)).drop;
+            length += lastDrop;
+        }
+    }
+    return length - lastDrop + 1.0;
+}
+
+/// Vertical styles set one character below the other, each with its middle on the line through the insertion point. Of
+/// the alignments those along the text count.
+void addVerticalText(BuildContext &context, const TextData &data, const TextLook &look, const Matrix &ocs)
+{
+    constexpr qint64 left = 0;
+    constexpr qint64 right = 2;
+    const std::vector<TextPiece> pieces = parseTextCodes(data.text);
+    const bool isMoved = data.horizontal != left && data.horizontal != 3 && data.horizontal != 5;
+    const double length = isMoved ? lengthDown(context, pieces, look.font) * data.height : 0.0;
+    double y = data.horizontal == right ? length : length / 2.0;
+    const Matrix placement = ocs * Matrix::translation(isMoved ? data.second : data.at) *
+                             Matrix::rotation(data.rotation + std::numbers::pi / 2.0);
+    for (const TextPiece &piece : pieces) {
         for (const QChar c : piece.text) {
             auto run = std::make_unique<TextRun>(TextRun{.text = QString(c), .font = look.font});
             run->width = context.fonts().width(look.font, run->text);
-            const double x = -run->width * data.height * data.widthFactor / 2.0;
-            run->placement = placement * glyphMatrix(x, y, data.height, data.widthFactor, data.oblique);
-            context.add(std::move(run));
-            y -= data.height * 5.0 / 3.0;
+            const Fonts::Hanging hanging = context.fonts().hanging(look.font, run->text);
+            run->placement =
+                placement * glyphMatrix(hanging.start.x * data.height * data.widthFactor,
+                                        y + hanging.start.y * data.height, data.height, data.widthFactor, data.oblique);
+            if (!c.isSpace())
+                context.add(std::move(run));
+            y -= data.height * hanging.drop;
         }
     }
 }
@@ -165,6 +191,8 @@ void addHorizontalText(BuildContext &context, const TextData &data, const TextLo
         widths.push_back(context.fonts().width(look.font, piece.text));
         lineWidth += widths.back();
     }
+    if (!pieces.empty())
+        lineWidth += context.fonts().inkWidth(look.font, pieces.back().text) - widths.back();
     const TextFrame frame = frameOf(data, lineWidth);
     const Matrix placement = ocs * frame.placement;
     double x = frame.dx;
@@ -184,8 +212,7 @@ bool addText(BuildContext &context, const TextData &data, const TextLook &look)
         return false;
     const Matrix ocs = Matrix::fromExtrusion(data.extrusion);
     if (look.isVertical)
-        addVerticalText(context, data, look,
-                        ocs * Matrix::translation(data.at) * Matrix::rotation(data.rotation + std::numbers::pi / 2.0));
+        addVerticalText(context, data, look, ocs);
     else
         addHorizontalText(context, data, look, ocs);
     return true;

@@ -1,6 +1,7 @@
 #include "host/view/build/Scene.h"
 
 #include "host/drawing/records/Blocks.h"
+#include "host/drawing/records/HeaderVariables.h"
 #include "host/drawing/text/DrawingVariables.h"
 #include "host/view/build/PostOrder.h"
 #include "host/view/build/VisibleExtents.h"
@@ -32,6 +33,7 @@ Scene::Scene(const drawing::Drawing &drawing, drawing::MacroSurroundings surroun
 {
     if (!m_surroundings.variable)
         m_surroundings.variable = drawing::surroundingsOf(drawing).variable;
+    m_fonts.readFilesBy(m_shapes, drawing.header().text(u"$DWGCODEPAGE"_s).toLatin1());
     for (const QString &space : {u"*Model_Space"_s, u"*Paper_Space"_s})
         block(space);
     // The names that the oldest versions have for the same.
@@ -62,6 +64,8 @@ void Scene::regenerate()
         }
     }
     m_images.forget();
+    m_shapes.forget();
+    m_changes.everything |= m_fonts.readAnew();
     m_changes.tables = true;
 }
 

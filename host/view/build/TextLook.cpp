@@ -19,9 +19,10 @@ void readFamily(const drawing::TagList &tags, FontRequest &request)
     for (const drawing::Tag &tag : tags) {
         if (tag.code == 1001)
             isOurs = tag.trimmed() == "ACAD";
-        else if (tag.code == 1000 && isOurs && !tag.trimmed().isEmpty())
+        else if (tag.code == 1000 && isOurs && !tag.trimmed().isEmpty()) {
             request.name = tags.decoded(tag);
-        else if (tag.code == 1071 && isOurs) {
+            request.isFile = false;
+        } else if (tag.code == 1071 && isOurs) {
             request.isBold = (tag.integer().value_or(0) & boldFlag) != 0;
             request.isItalic = (tag.integer().value_or(0) & italicFlag) != 0;
         }
@@ -37,10 +38,11 @@ double saneWithin(double value, double limit, double otherwise)
 
 TextLook readTextLook(const BuildContext &context, const QString &styleName)
 {
-    TextLook look;
+    TextLook look{.request = {.name = u"txt"_s, .isFile = true}};
     const auto style = drawing::findTextStyle(context.drawing, styleName.isEmpty() ? u"Standard"_s : styleName);
     if (style) {
-        look.request.name = style->fontFile;
+        look.request.name = style->fontFile.isEmpty() ? u"txt"_s : style->fontFile;
+        look.request.bigFont = style->bigFontFile;
         readFamily(context.drawing.tags(style->record), look.request);
         look.widthFactor = style->widthFactor > 0.0 ? saneWithin(style->widthFactor, 100.0, 1.0) : 1.0;
         look.oblique = saneWithin(style->obliqueAngle, 85.0, 0.0) * std::numbers::pi / 180.0;

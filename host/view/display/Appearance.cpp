@@ -53,7 +53,7 @@ LinePatternElement readElement(const drawing::Drawing &drawing, const drawing::L
     if (dash.shape != 0) {
         element.shape = shapeCurves(shapes.find(look.fontFile), dash.shape).value_or(std::vector<Curve>());
     } else {
-        element.font = fonts.find({.name = look.fontFile});
+        element.font = fonts.find({.name = look.fontFile, .isFile = true, .bigFont = look.bigFontFile});
         element.size *= look.fixedHeight > 0.0 ? look.fixedHeight : 1.0;
     }
     element.rotation = dash.rotation * std::numbers::pi / 180.0;

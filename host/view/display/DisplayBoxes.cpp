@@ -102,9 +102,9 @@ QRectF letterBox(Fonts &fonts, const TextRun &run)
 {
     if (run.text.trimmed().isEmpty())
         return {};
-    const QRectF ink = fonts.outline(run.font, run.text).boundingRect();
-    const double low = ink.top() < -overshoot ? ink.top() : 0.0;
-    const double high = ink.bottom() > 1.0 + overshoot ? ink.bottom() : 1.0;
+    const drawing::Vec2 reach = fonts.reach(run.font, run.text);
+    const double low = reach.x < -overshoot ? reach.x : 0.0;
+    const double high = reach.y > 1.0 + overshoot ? reach.y : 1.0;
     return {0.0, low, run.width, high - low};
 }
 

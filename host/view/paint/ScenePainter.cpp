@@ -2,6 +2,7 @@
 
 #include "host/view/display/RasterFiles.h"
 #include "host/view/paint/SceneWalker.h"
+#include "host/view/paint/TextStrokes.h"
 
 #include <QPaintEngine>
 #include <QPainterPath>
@@ -177,8 +178,8 @@ private:
 class PainterSink final : public DisplaySink
 {
 public:
-    PainterSink(QPainter &painter, Scene &scene, const PaintOptions &options)
-        : m_painter(painter), m_scene(scene), m_options(options), m_base(painter.worldTransform()),
+    PainterSink(QPainter &painter, Scene &scene, const PaintOptions &options, const QRectF &screen)
+        : m_painter(painter), m_scene(scene), m_options(options), m_screen(screen), m_base(painter.worldTransform()),
           m_isRaster(isRaster(painter)), m_batches(painter, options.pixelsPerMillimetre)
     {
     }
@@ -245,6 +246,10 @@ public:
             line(ends, style);
             return;
         }
+        if (m_scene.fonts().isStroked(run.font)) {
+            drawStrokes(run, toScreen, style);
+            return;
+        }
         flush();
         const QTransform place = planeTransform(toScreen);
         m_painter.setRenderHint(QPainter::Antialiasing, true);
@@ -294,6 +299,12 @@ private:
         m_painter.drawText(QPointF(0.0, 0.0), run.text);
     }
 
+    void drawStrokes(const TextRun &run, const Matrix &toScreen, const ResolvedStyle &style)
+    {
+        forEachTextStroke(m_scene.fonts(), run, toScreen, m_screen,
+                          [&](std::span<const QPointF> points) { line(points, style); });
+    }
+
     void drawOutline(const TextRun &run, const QTransform &place, QRgb colour)
     {
         m_painter.setWorldTransform(place * m_base);
@@ -310,6 +321,7 @@ private:
     QPainter &m_painter;
     Scene &m_scene;
     const PaintOptions &m_options;
+    const QRectF m_screen; ///< what lies beyond is not seen
     const QTransform m_base;
     const bool m_isRaster;
     LineBatches m_batches;
@@ -329,8 +341,9 @@ PaintResult paintScene(QPainter &painter, Scene &scene, int block, const ViewTra
     painter.setBrush(Qt::NoBrush);
     if (options.fillGround)
         painter.fillRect(screen, groundColor(options.ground));
-    PainterSink sink(painter, scene, options);
-    WalkOptions walk{.view = screen.adjusted(-margin, -margin, margin, margin),
+    const QRectF seen = screen.adjusted(-margin, -margin, margin, margin);
+    PainterSink sink(painter, scene, options, seen);
+    WalkOptions walk{.view = seen,
                      .ground = options.ground,
                      .plottedOnly = options.plottedOnly,
                      .isRaster = isRaster(painter),

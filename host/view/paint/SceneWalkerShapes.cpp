@@ -358,7 +358,10 @@ void SceneWalker::emitMarkShape(QPointF at, double half, int mode, const Resolve
 
 void SceneWalker::show(const std::unique_ptr<TextRun> &run, const ResolvedStyle &style, const Context &context)
 {
-    if (mayGoOn(context, run->text.size() * unitsOfLetter))
+    if (!mayGoOn(context, run->text.size() * unitsOfLetter))
+        return;
+    const std::int64_t extra = m_scene.fonts().extraPoints(run->font, run->text);
+    if (extra == 0 || m_work.take(extra))
         m_sink.text(*run, context.map * run->placement, style);
 }
 

@@ -14,7 +14,7 @@ struct Line
     std::vector<MTextRun> runs{};
     std::vector<MTextRule> rules{};
     double width = 0.0;
-    double visibleWidth = 0.0; ///< without blanks at the end
+    double visibleWidth = 0.0; ///< without blanks at the end, and the room behind the last letter
     double height = 0.0;
     MTextParagraph paragraph{};
     double indent = 0.0;
@@ -70,7 +70,7 @@ private:
         case MTextToken::Kind::Word:
             breakBefore(tokens, at);
             addText(token, token.text);
-            m_line.visibleWidth = m_line.width;
+            m_line.visibleWidth = m_line.width - roomBehind(token);
             break;
         case MTextToken::Kind::Stack:
             breakBefore(tokens, at);
@@ -102,12 +102,22 @@ private:
     {
         if (format.fontName.isEmpty())
             return m_fonts.find(m_box.styleFont);
-        return m_fonts.find({format.fontName, format.isBold, format.isItalic});
+        return m_fonts.find({.name = format.fontName,
+                             .isBold = format.isBold,
+                             .isItalic = format.isItalic,
+                             .bigFont = m_box.styleFont.bigFont});
     }
 
     double textWidth(const MTextFormat &format, const QString &text)
     {
         return m_fonts.width(fontOf(format), text) * format.height * format.widthFactor * format.tracking;
+    }
+
+    double roomBehind(const MTextToken &word)
+    {
+        const int font = fontOf(word.format);
+        return (m_fonts.width(font, word.text) - m_fonts.inkWidth(font, word.text)) * word.format.height *
+               word.format.widthFactor * word.format.tracking;
     }
 
     double widthOf(const MTextToken &token)

@@ -5,6 +5,9 @@ namespace host::view {
 namespace {
 
 constexpr qsizetype codeLength = 3;
+constexpr char16_t degreeSign = 0x00b0;
+constexpr char16_t plusMinusSign = 0x00b1;
+constexpr char16_t diameterSign = 0x2300;
 
 bool isCode(QStringView text, qsizetype at)
 {
@@ -20,7 +23,9 @@ QString numberedCharacter(QStringView text, qsizetype &at)
     if (end != at + 5 || number < 32)
         return {};
     at = end;
-    return QString(QChar(static_cast<char16_t>(number)));
+    // The numbers that stroke fonts have for these signs; in code pages there is nothing to be seen there.
+    static constexpr char16_t signs[] = {degreeSign, plusMinusSign, diameterSign};
+    return QString(QChar(number >= 127 && number <= 129 ? signs[number - 127] : static_cast<char16_t>(number)));
 }
 
 } // namespace
@@ -32,13 +37,13 @@ QString takeCharacterCode(QStringView text, qsizetype &at)
     char16_t sign = 0;
     switch (text[at + 2].toLower().unicode()) {
     case u'd':
-        sign = 0x00b0;
+        sign = degreeSign;
         break;
     case u'p':
-        sign = 0x00b1;
+        sign = plusMinusSign;
         break;
     case u'c':
-        sign = 0x2300;
+        sign = diameterSign;
         break;
     case u'%':
         sign = u'%';

@@ -18,7 +18,8 @@ struct TextPiece
 };
 
 /// Takes the %% codes of single-line text apart: %%u %%o %%k switch lines on and off, %%d %%p %%c are the degree,
-/// plus-minus and diameter signs, %%% a per cent sign, %%nnn the character of that number. Anything else behind %% is
+/// plus-minus and diameter signs, %%% a per cent sign, %%nnn the character of that number, 127 to 129 the
+/// three signs. Anything else behind %% is
 /// left out with it, as drawings have come to rely on. Pieces are in order and not empty; there are none for a text of
 /// no letters.
 std::vector<TextPiece> parseTextCodes(QStringView text);
