@@ -207,6 +207,65 @@ TEST_P(SceneEdits, AreAsGoodAsANewScene)
     }
 }
 
+/// A picture that is kept, with only those parts painted anew where something changed.
+class KeptPicture
+{
+public:
+    explicit KeptPicture(Scene &scene) : m_scene(scene), m_view(QSizeF(m_image.size()))
+    {
+        m_view.setView({50, 50}, 6.0);
+        m_scene.takeDamage(Scene::modelSpace);
+        paint(m_image, {});
+    }
+
+    QImage whole()
+    {
+        QImage image(m_image.size(), m_image.format());
+        paint(image, {});
+        return image;
+    }
+    /// Whether not all had to be painted.
+    bool update()
+    {
+        const Damage damage = m_scene.takeDamage(Scene::modelSpace);
+        for (const Box &box : damage.boxes) {
+            const QRectF reach(m_view.toScreen(box.low.xy()), m_view.toScreen(box.high.xy()));
+            paint(m_image, QRectF(reach.normalized().adjusted(-2, -2, 2, 2).toAlignedRect()));
+        }
+        if (damage.isEverywhere)
+            paint(m_image, {});
+        return !damage.isEverywhere;
+    }
+    const QImage &image() const { return m_image; }
+
+private:
+    void paint(QImage &image, const std::optional<QRectF> &part)
+    {
+        QPainter painter(&image);
+        paintScene(painter, m_scene, Scene::modelSpace, m_view, {.part = part});
+    }
+
+    Scene &m_scene;
+    QImage m_image{500, 400, QImage::Format_RGB32};
+    ViewTransform m_view;
+};
+
+TEST_P(SceneEdits, ArePaintedWhereTheyAreSeen)
+{
+    Dice dice(100 + GetParam());
+    const auto drawing = startingDrawing(dice, 700);
+    Scene scene(*drawing);
+    KeptPicture picture(scene);
+    int parts = 0;
+    for (int round = 0; round < 40 && !HasFailure(); ++round) {
+        SCOPED_TRACE(round);
+        changeSomething(*drawing, dice);
+        parts += picture.update() ? 1 : 0;
+        EXPECT_EQ(picture.image(), picture.whole());
+    }
+    EXPECT_GT(parts, 10);
+}
+
 INSTANTIATE_TEST_SUITE_P(Seeds, SceneEdits, testing::Range(1U, 7U));
 
 TEST(SceneEdits, AnErasedRecordComesBackWithoutTheOthersBeingLookedAt)

@@ -1,4 +1,5 @@
 // The cases of shapes.txt, where their form is told, and of the files beside it that have the same form.
+// With ORTAKIT_RENDERINGS naming a folder the pictures are left there to be looked at.
 
 #include "tests/view/Rendering.h"
 
@@ -86,6 +87,10 @@ TEST_P(Shapes, AreDrawn)
     const ShapeCase &shape = GetParam();
     const Rendering shown(shape.text);
     EXPECT_EQ(shown.report().skippedCount(), 0);
+    if (const QString folder = qEnvironmentVariable("ORTAKIT_RENDERINGS"); !folder.isEmpty()) {
+        const QString name = QString::fromStdString(shape.name).replace(QLatin1Char('/'), QLatin1Char(' '));
+        EXPECT_TRUE(shown.image().save(QStringLiteral("%1/%2.png").arg(folder, name)));
+    }
     expectInk(shown, shape.ink, shape.blank);
     EXPECT_TRUE(shape.runs < 0 || shown.runs({10, 50}, {90, 50}) == shape.runs) << shown.runs({10, 50}, {90, 50});
     const QRectF ink = shown.inkBox();

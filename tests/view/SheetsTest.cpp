@@ -29,12 +29,14 @@ DxfText sheets(const std::string &plan, const std::string &detail = {})
     };
     const std::string entries =
         "0 BLOCK_RECORD|5 E0|2 *Model_Space|0 BLOCK_RECORD|5 E1|2 *Paper_Space|0 BLOCK_RECORD|5 E2|2 *Paper_Space0";
-    return {.entities = "0 LINE|67 1" + lines + "|0 LINE|8 0|10 0|20 0|11 10|21 10|0 TEXT|8 0|10 1|20 8|40 1|1 Words",
+    return {.entities =
+                "0 LINE|67 1" + lines + "|0 LINE|8 0|10 0|20 0|11 10|21 10|0 TEXT|8 0|10 1|20 8|40 1|7 FACE|1 Words",
             .blocks = blockText("*Model_Space", "") + "|" + blockText("*Paper_Space", "") + "|" +
                       blockText("*Paper_Space0", "0 LINE" + lines),
             .layers = "0 LAYER|2 thin|70 0|62 1|6 Continuous|370 0",
             .tables = tableText("BLOCK_RECORD", entries) + "|" +
-                      tableText("VIEW", "0 VIEW|2 corner|70 0|40 20|41 40|10 20|20 10"),
+                      tableText("VIEW", "0 VIEW|2 corner|70 0|40 20|41 40|10 20|20 10") + "|" +
+                      tableText("STYLE", "0 STYLE|2 FACE|70 0|40 0|41 1|50 0|71 0|42 1|3 arial.ttf|4 "),
             .objects = "0 DICTIONARY|5 D0|3 ACAD_LAYOUT|350 D1|0 DICTIONARY|5 D1|330 D0|3 Model|350 A0|3 Plan|350 A1|"
                        "3 Detail|350 A2|" +
                        layout("A0", "Model", "0", "E0", "70 128|74 1|72 1|44 210|45 297|142 1|143 1") + "|" +

@@ -21,6 +21,7 @@ struct BlockDisplay
     bool isPlainStale = true;                ///< both are to be worked out again
     std::vector<std::uint32_t> references{}; ///< places of the records that have some, and maybe of others
     BoxIndex index{};
+    std::vector<Box> damage{}; ///< where something has changed since that was asked
 };
 
 } // namespace host::view

@@ -16,6 +16,8 @@ namespace {
 constexpr unsigned mostThreads = 8;
 /// Of so few records none is worth an index.
 constexpr std::size_t fewRecords = 512;
+/// Beyond so many changes all is looked at again.
+constexpr std::size_t mostDamage = 1024;
 
 /// Whether entities of the type show what is in files beside the drawing.
 bool showsFiles(QByteArrayView type)
@@ -169,8 +171,32 @@ void Scene::updateBox(BlockDisplay &block, std::uint32_t place)
     RecordSummary &record = block.records[place];
     record.box = display.box;
     record.isEndless = display.isEndless;
-    if (record.box.low != before.low || record.box.high != before.high || record.isEndless)
-        block.index.touch(block.records, place);
+    if (record.box.low == before.low && record.box.high == before.high && !record.isEndless)
+        return;
+    block.index.touch(block.records, place);
+    damage(block, record);
+}
+
+void Scene::damage(BlockDisplay &block, const RecordSummary &record)
+{
+    m_isDamagedEverywhere |= record.isEndless || block.damage.size() == mostDamage;
+    if (!m_isDamagedEverywhere && !record.box.isEmpty())
+        block.damage.push_back(record.box);
+}
+
+/// Where a change in another block is seen is not followed up.
+Damage Scene::takeDamage(int block)
+{
+    prepare(block);
+    Damage damage{.isEverywhere = std::exchange(m_isDamagedEverywhere, false)};
+    for (const auto &other : m_blocks) {
+        std::vector<Box> boxes = std::exchange(other->damage, {});
+        if (other->number == block)
+            damage.boxes = std::move(boxes);
+        else
+            damage.isEverywhere |= !boxes.empty();
+    }
+    return damage;
 }
 
 Box Scene::extents(int block, Seen seen)

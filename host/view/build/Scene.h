@@ -25,6 +25,13 @@ enum class Seen
     Plotted   ///< of those, the ones that are plotted
 };
 
+/// Where a space or block looks otherwise than it did.
+struct Damage
+{
+    bool isEverywhere = false;
+    std::vector<Box> boxes{}; ///< of records as they were and as they are
+};
+
 /// A drawing taken apart into shapes, kept and brought up to date record by record as the drawing changes.
 ///
 /// Only blocks that are looked at are built. Looking at a scene brings it up to date; until then changes cost next to
@@ -78,6 +85,8 @@ public:
     /// Places in a prepared block, in drawing order, of the records whose boxes touch the box as seen from above, lines
     /// without end among them. Of many records the first search after building makes an index.
     std::vector<std::uint32_t> recordsIn(int block, const Box &box);
+    /// Brings the block up to date and tells what has changed since this was asked before, of any block.
+    Damage takeDamage(int block);
     /// How many threads may build, the caller's among them; at first as many as the machine has.
     void useThreads(int threads) { m_threads = threads; }
     // What the displays' numbers mean, up to date as the displays are.
@@ -142,6 +151,7 @@ private:
     RecordSummary keep(RecordDisplay display);
     void forget(RecordSummary &record);
 
+    void damage(BlockDisplay &block, const RecordSummary &record);
     void updateBoxes();
     std::vector<std::size_t> blocksShownBy(std::size_t block) const;
     void updateBox(BlockDisplay &block);
@@ -166,6 +176,7 @@ private:
     std::vector<std::unique_ptr<RecordDisplay>> m_kept; ///< by the numbers in summaries; null where one is free
     std::vector<std::uint32_t> m_freeKept;
     int m_threads;
+    bool m_isDamagedEverywhere = true;
     Changes m_changes;
     bool m_boxesStale = false;
     std::optional<SortHandles> m_sortHandles; ///< nothing: to be read again

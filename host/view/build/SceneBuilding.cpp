@@ -145,6 +145,7 @@ void Scene::build(BlockDisplay &block)
     block.isPlainStale = true;
     block.isBuilt = true;
     m_boxesStale = true;
+    m_isDamagedEverywhere = true;
     for (std::size_t i = 0; i < block.records.size(); ++i) {
         rememberPlace(block.records[i].record, block, i);
         if (block.records[i].hasReferences)

@@ -3,6 +3,8 @@
 #include "host/drawing/records/Blocks.h"
 #include "host/view/build/Scene.h"
 
+#include <array>
+
 namespace host::view {
 
 using drawing::RecordChange;
@@ -14,6 +16,14 @@ namespace {
 bool isEntityKind(RecordKind kind)
 {
     return kind == RecordKind::Entity || kind == RecordKind::Child || kind == RecordKind::EndChildren;
+}
+
+/// Variables that nearly every change of the drawing sets and nothing is drawn by.
+bool isBookkeeping(QByteArrayView variable)
+{
+    constexpr std::array names = {"$HANDSEED", "$TDUPDATE", "$TDUUPDATE", "$TDINDWG",   "$TDUSRTIMER",
+                                  "$CLAYER",   "$CECOLOR",  "$CELTYPE",   "$CELWEIGHT", "$CELTSCALE"};
+    return std::ranges::find(names, variable) != names.end();
 }
 
 /// The entity that a VERTEX, ATTRIB or SEQEND is a part of.
@@ -37,7 +47,9 @@ void Scene::recordChanged(RecordId record, RecordChange change, drawing::ChangeC
     } else if (kind == RecordKind::TableEntry) {
         m_changes.tables |= type == "LAYER" || type == "LTYPE";
         m_changes.everything |= type == "STYLE" || type == "DIMSTYLE";
-    } else if (kind == RecordKind::Variable || type == "WIPEOUTVARIABLES" || type == "RASTERVARIABLES") {
+    } else if (kind == RecordKind::Variable) {
+        m_changes.tables |= !isBookkeeping(type);
+    } else if (type == "WIPEOUTVARIABLES" || type == "RASTERVARIABLES") {
         m_changes.tables = true;
     } else if (type == "SORTENTSTABLE") {
         m_sortHandles.reset();
@@ -75,6 +87,7 @@ void Scene::applyChanges()
     if (m_changes.tables || m_changes.everything) {
         m_shapes.forget();
         m_appearance.reload(m_drawing, m_fonts, m_shapes);
+        m_isDamagedEverywhere = true;
     }
     if (m_changes.everything)
         forgetEverything();
@@ -157,6 +170,8 @@ void Scene::replace(BlockDisplay &block, std::uint32_t place, RecordSummary summ
         block.plainBox.add(summary.box);
         block.isPlainEndless |= summary.isEndless;
     }
+    damage(block, record);
+    damage(block, summary);
     summary.isLoose = record.isLoose;
     record = summary;
     block.index.touch(block.records, place);

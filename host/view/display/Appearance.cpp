@@ -181,6 +181,14 @@ std::optional<std::vector<Curve>> Appearance::shapeNamed(const QString &name, dr
     return *m_shapes.emplace(name, std::move(found));
 }
 
+bool Appearance::reachesBeyondBoxes() const
+{
+    const auto hasSigns = [](const LinePattern &pattern) {
+        return std::ranges::any_of(pattern.elements, &LinePatternElement::hasSign);
+    };
+    return m_pointMode != 0 || std::ranges::any_of(m_patterns, hasSigns);
+}
+
 void Appearance::reload(const drawing::Drawing &drawing, Fonts &fonts, drawing::ShapeFiles &shapes)
 {
     m_shapeFiles = drawing::shapeFileNames(drawing);

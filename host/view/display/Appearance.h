@@ -102,6 +102,9 @@ public:
     /// Whether some pattern does.
     bool lacksShapes() const { return std::ranges::any_of(m_patterns, &LinePattern::lacksShapes); }
 
+    /// Whether records may be seen outside of their boxes: as marks of points, or by texts and shapes on lines.
+    bool reachesBeyondBoxes() const;
+
     /// Reads layers, linetypes and settings again. Of a linetype the first thousand elements count.
     void reload(const drawing::Drawing &drawing, Fonts &fonts, drawing::ShapeFiles &shapes);
     /// The shape of this name in the first of the drawing's shape files that has it, at size 1; nothing when none has.

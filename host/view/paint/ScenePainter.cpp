@@ -1,12 +1,11 @@
 #include "host/view/paint/ScenePainter.h"
 
 #include "host/view/display/RasterFiles.h"
+#include "host/view/paint/LineBatches.h"
 #include "host/view/paint/SceneWalker.h"
 #include "host/view/paint/TextStrokes.h"
 
-#include <QPaintEngine>
 #include <QPainterPath>
-#include <QPen>
 
 #include <array>
 
@@ -21,20 +20,6 @@ constexpr double margin = 4.0;             ///< pixels beyond the edge, for thic
 constexpr double imageDotsPerInch = 300.0; ///< of pictures in files of lines
 constexpr int denseAlpha = 110;
 constexpr int highlightFillAlpha = 120;
-
-bool isRaster(const QPainter &painter)
-{
-    return painter.paintEngine() && painter.paintEngine()->type() == QPaintEngine::Raster;
-}
-
-struct Pen
-{
-    QRgb colour = 0;
-    int weight = 0; ///< hundredths of a millimetre
-    bool isHighlighted = false;
-
-    bool operator==(const Pen &) const = default;
-};
 
 /// What a map does in the plane.
 QTransform planeTransform(const Matrix &map)
@@ -81,106 +66,14 @@ void drawPixels(QPainter &painter, const QImage &image, const QTransform &place,
     painter.drawImage(QPointF(0.0, 0.0), image);
 }
 
-/// Collects lines and dots by pen, so that the painter draws many with one pen at a time: changing pens costs more than
-/// drawing a short line. Between two calls of flush() lines of different thin pens may change places, which can be told
-/// only by the one pixel where they cross; thick ones keep their order.
-class LineBatches
-{
-public:
-    LineBatches(QPainter &painter, double pixelsPerMillimetre)
-        : m_painter(painter), m_pixelsPerMillimetre(pixelsPerMillimetre), m_isRaster(isRaster(painter))
-    {
-    }
-
-    void addLine(std::span<const QPointF> points, const Pen &pen)
-    {
-        Batch &batch = batchFor(pen);
-        // Files stay small and dashes whole when a polyline is drawn as one.
-        if (points.size() > 2 && (!m_isRaster || pen.isHighlighted || widthOf(pen) > 0.0)) {
-            flush();
-            m_painter.setPen(painterPen(pen));
-            m_painter.drawPolyline(points.data(), static_cast<int>(points.size()));
-            return;
-        }
-        for (std::size_t i = 1; i < points.size(); ++i)
-            batch.lines.emplaceBack(points[i - 1], points[i]);
-        flushWhenFull(batch.lines.size());
-    }
-
-    void addDot(QPointF point, const Pen &pen)
-    {
-        Batch &batch = batchFor(pen);
-        batch.dots.append(point);
-        flushWhenFull(batch.dots.size());
-    }
-
-    void flush()
-    {
-        for (Batch &batch : m_batches) {
-            m_painter.setPen(painterPen(batch.pen));
-            m_painter.drawLines(batch.lines);
-            m_painter.drawPoints(batch.dots.constData(), static_cast<int>(batch.dots.size()));
-        }
-        m_batches.clear();
-        m_last = 0;
-    }
-
-private:
-    struct Batch
-    {
-        Pen pen;
-        QList<QLineF> lines{};
-        QList<QPointF> dots{};
-    };
-
-    Batch &batchFor(const Pen &pen)
-    {
-        if (m_last < m_batches.size() && m_batches[m_last].pen == pen)
-            return m_batches[m_last];
-        if (widthOf(pen) > 0.0 || m_batches.size() == mostBatches)
-            flush();
-        const auto known = std::ranges::find(m_batches, pen, &Batch::pen);
-        m_last = static_cast<std::size_t>(known - m_batches.begin());
-        return known != m_batches.end() ? *known : m_batches.emplace_back(Batch{.pen = pen});
-    }
-
-    void flushWhenFull(qsizetype count)
-    {
-        if (count >= batchSize)
-            flush();
-    }
-
-    /// Pixels; 0 for lines as thin as can be.
-    double widthOf(const Pen &pen) const
-    {
-        const double width = pen.weight / 100.0 * m_pixelsPerMillimetre;
-        return width > 1.0 ? width : 0.0;
-    }
-
-    QPen painterPen(const Pen &pen) const
-    {
-        QPen made(QColor(pen.colour), widthOf(pen), pen.isHighlighted ? Qt::DashLine : Qt::SolidLine, Qt::RoundCap,
-                  Qt::RoundJoin);
-        made.setCosmetic(true);
-        return made;
-    }
-
-    static constexpr std::size_t mostBatches = 24;
-    static constexpr qsizetype batchSize = 8192;
-
-    QPainter &m_painter;
-    const double m_pixelsPerMillimetre;
-    const bool m_isRaster;
-    std::vector<Batch> m_batches;
-    std::size_t m_last = 0;
-};
-
 class PainterSink final : public DisplaySink
 {
 public:
-    PainterSink(QPainter &painter, Scene &scene, const PaintOptions &options, const QRectF &screen)
-        : m_painter(painter), m_scene(scene), m_options(options), m_screen(screen), m_base(painter.worldTransform()),
-          m_isRaster(isRaster(painter)), m_batches(painter, options.pixelsPerMillimetre)
+    /// Within `part` of the screen.
+    PainterSink(QPainter &painter, Scene &scene, const PaintOptions &options, const QRectF &part)
+        : m_painter(painter), m_scene(scene), m_options(options),
+          m_seen(part.adjusted(-margin, -margin, margin, margin)), m_base(painter.worldTransform()),
+          m_isRaster(isRaster(painter)), m_batches(painter, options.pixelsPerMillimetre, part)
     {
     }
 
@@ -265,6 +158,7 @@ public:
     void beginClip(const QPolygonF &polygon) override
     {
         flush();
+        m_batches.beginClip();
         QPainterPath path;
         path.addPolygon(polygon);
         m_painter.save();
@@ -279,6 +173,7 @@ public:
         if (m_options.clips)
             m_options.clips->end(m_painter);
         m_painter.restore();
+        m_batches.endClip();
     }
 
     void flush() { m_batches.flush(); }
@@ -301,7 +196,7 @@ private:
 
     void drawStrokes(const TextRun &run, const Matrix &toScreen, const ResolvedStyle &style)
     {
-        forEachTextStroke(m_scene.fonts(), run, toScreen, m_screen,
+        forEachTextStroke(m_scene.fonts(), run, toScreen, m_seen,
                           [&](std::span<const QPointF> points) { line(points, style); });
     }
 
@@ -311,7 +206,7 @@ private:
         m_painter.fillPath(m_scene.fonts().outline(run.font, run.text), QColor(colour));
     }
 
-    Pen penOf(const ResolvedStyle &style) const
+    LinePen penOf(const ResolvedStyle &style) const
     {
         return {.colour = colourOf(style),
                 .weight = m_options.pixelsPerMillimetre > 0.0 ? style.lineweight : 0,
@@ -320,8 +215,8 @@ private:
 
     QPainter &m_painter;
     Scene &m_scene;
-    const PaintOptions &m_options;
-    const QRectF m_screen; ///< what lies beyond is not seen
+    const PaintOptions m_options;
+    const QRectF m_seen; ///< what lies beyond is not seen
     const QTransform m_base;
     const bool m_isRaster;
     LineBatches m_batches;
@@ -330,30 +225,76 @@ private:
 
 } // namespace
 
-PaintResult paintScene(QPainter &painter, Scene &scene, int block, const ViewTransform &view,
-                       const PaintOptions &options)
+struct ScenePainting::Private
+{
+    Private(QPainter &ground, Scene &scene, const ViewTransform &view, const PaintOptions &options, const QRectF &part)
+        : painter(ground), sink(ground, scene, options, part), work(options.work > 0    ? options.work
+                                                                    : isRaster(painter) ? drawing::pictureWork
+                                                                                        : drawing::vectorWork),
+          granted(work.left()), walker(scene, walkOptions(ground, view, options), sink, work)
+    {
+    }
+
+    static WalkOptions walkOptions(QPainter &ground, const ViewTransform &view, const PaintOptions &options)
+    {
+        const QRectF screen(QPointF(0.0, 0.0), view.screenSize());
+        WalkOptions walk{.view = screen.adjusted(-margin, -margin, margin, margin),
+                         .ground = options.ground,
+                         .plottedOnly = options.plottedOnly,
+                         .isRaster = isRaster(ground),
+                         .dotsPerUnit = isRaster(ground) ? 1.0 : imageDotsPerInch / ground.device()->logicalDpiX()};
+        if (options.part)
+            walk.part = options.part->adjusted(-margin, -margin, margin, margin);
+        return walk;
+    }
+
+    QPainter &painter;
+    PainterSink sink;
+    drawing::WorkBudget work;
+    const std::int64_t granted;
+    SceneWalker walker;
+};
+
+ScenePainting::ScenePainting(QPainter &painter, Scene &scene, int block, const ViewTransform &view,
+                             const PaintOptions &options)
 {
     scene.prepare(block);
     const QRectF screen(QPointF(0.0, 0.0), view.screenSize());
+    const QRectF part = options.part ? *options.part & screen : screen;
     painter.save();
-    painter.setClipRect(screen, Qt::IntersectClip);
+    painter.setClipRect(part, Qt::IntersectClip);
     painter.setRenderHint(QPainter::Antialiasing, options.antialias);
     painter.setBrush(Qt::NoBrush);
     if (options.fillGround)
-        painter.fillRect(screen, groundColor(options.ground));
-    const QRectF seen = screen.adjusted(-margin, -margin, margin, margin);
-    PainterSink sink(painter, scene, options, seen);
-    WalkOptions walk{.view = seen,
-                     .ground = options.ground,
-                     .plottedOnly = options.plottedOnly,
-                     .isRaster = isRaster(painter),
-                     .dotsPerUnit = isRaster(painter) ? 1.0 : imageDotsPerInch / painter.device()->logicalDpiX()};
-    drawing::WorkBudget work(walk.isRaster ? drawing::pictureWork : drawing::vectorWork);
-    SceneWalker walker(scene, walk, sink, work);
-    walker.walk(block, view.matrix());
-    sink.flush();
-    painter.restore();
-    return {.isCutShort = walker.wasCutShort()};
+        painter.fillRect(part, groundColor(options.ground));
+    d = std::make_unique<Private>(painter, scene, view, options, part);
+    d->walker.begin(block, view.matrix());
+}
+
+ScenePainting::~ScenePainting()
+{
+    d->painter.restore();
+}
+
+bool ScenePainting::paint(const std::function<bool()> &mayGoOn)
+{
+    const bool isDone = d->walker.goOn(mayGoOn);
+    d->sink.flush();
+    return isDone;
+}
+
+PaintResult ScenePainting::result() const
+{
+    return {.isCutShort = d->walker.wasCutShort(),
+            .work = d->granted - d->work.left() + static_cast<std::int64_t>(d->walker.walkedRecords())};
+}
+
+PaintResult paintScene(QPainter &painter, Scene &scene, int block, const ViewTransform &view,
+                       const PaintOptions &options)
+{
+    ScenePainting painting(painter, scene, block, view, options);
+    painting.paint();
+    return painting.result();
 }
 
 } // namespace host::view

@@ -7,6 +7,9 @@
 #include <QPainter>
 #include <QPainterPath>
 
+#include <functional>
+#include <memory>
+#include <optional>
 #include <unordered_set>
 
 namespace host::view {
@@ -35,16 +38,42 @@ struct PaintOptions
     const RecordSet *only = nullptr;        ///< draws no other records of the space than these
     const RecordSet *highlighted = nullptr; ///< records of the space drawn dashed in `highlight`
     QColor highlight{0x4f, 0xa3, 0xff};
+    /// The part of the screen to be painted, which then looks as if all was; nothing: all of it. Whole pixels.
+    std::optional<QRectF> part{};
+    std::int64_t work = 0; ///< granted for what is multiplied; 0: as much as goes with the painter
 };
 
 struct PaintResult
 {
     bool isCutShort = false; ///< there was more than is drawn in one go: some is missing or coarser than it should be
+    std::int64_t work = 0;   ///< about how much there was to do, in units of the budget; grows with what is seen
+};
+
+/// The painting of a space or block, in slices: begun by the constructor, which paints the ground, and gone on with
+/// until it is done. The painter belongs to it meanwhile; painter, scene and what the options point to must outlive it,
+/// and the drawing must not change.
+class ScenePainting
+{
+public:
+    ScenePainting(QPainter &painter, Scene &scene, int block, const ViewTransform &view, const PaintOptions &options);
+    ~ScenePainting();
+    ScenePainting(const ScenePainting &) = delete;
+    ScenePainting &operator=(const ScenePainting &) = delete;
+
+    /// Goes on for as long as `mayGoOn` says, which is asked every hundred records; without it to the end. True when
+    /// all is done.
+    bool paint(const std::function<bool()> &mayGoOn = {});
+    /// Of what was painted so far.
+    PaintResult result() const;
+
+private:
+    struct Private;
+    std::unique_ptr<Private> d;
 };
 
 /// Draws a space or block as the view shows it. The painter's units are taken for pixels; its pen, brush and clip are
-/// as before afterwards. Prepares the block. Costs a look at every record's box and, for those in view, time by what
-/// they show; what is multiplied is bounded (see drawing::WorkBudget), less where the painter writes a file of lines.
+/// as before afterwards. Prepares the block. Costs a look at the boxes of the records in view and time by what these
+/// show; what is multiplied is bounded (see drawing::WorkBudget), less where the painter writes a file of lines.
 PaintResult paintScene(QPainter &painter, Scene &scene, int block, const ViewTransform &view,
                        const PaintOptions &options = {});
 

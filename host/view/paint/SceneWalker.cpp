@@ -45,19 +45,34 @@ bool SceneWalker::mayGoOn(const Context &context, std::int64_t units)
 
 void SceneWalker::walk(int block, const Matrix &toScreen)
 {
+    begin(block, toScreen);
+    goOn();
+}
+
+void SceneWalker::begin(int block, const Matrix &toScreen)
+{
     m_isOpen.assign(m_scene.blockCount(), 0);
     m_isOpen[static_cast<std::size_t>(block)] = 1;
-    const BlockDisplay &shown = m_scene.display(block);
-    const auto show = [&](const RecordSummary &record) {
-        if (!record.isEndless && m_options.view && isOutside(record.box, toScreen, nullptr))
-            return;
-        if (!record.isEmpty && m_sink.beginRecord(record.record))
-            walkDisplay(shown, record, {.map = toScreen});
-    };
-    if (const auto places = seenPlaces(shown, toScreen))
-        std::ranges::for_each(*places, [&](std::uint32_t place) { show(shown.records[place]); });
-    else
-        std::ranges::for_each(shown.records, show);
+    m_walked = &m_scene.display(block);
+    m_toScreen = toScreen;
+    m_places = seenPlaces(*m_walked, toScreen);
+    m_next = 0;
+}
+
+bool SceneWalker::goOn(const std::function<bool()> &mayGoOn)
+{
+    constexpr std::size_t recordsOfQuestion = 100;
+    const std::size_t count = m_places ? m_places->size() : m_walked->records.size();
+    for (; m_next < count; ++m_next) {
+        if (mayGoOn && m_next % recordsOfQuestion == 0 && !mayGoOn())
+            return false;
+        const RecordSummary &record = m_walked->records[m_places ? (*m_places)[m_next] : m_next];
+        if (record.isEmpty || (!record.isEndless && seenPart() && isOutside(record.box, m_toScreen, nullptr)))
+            continue;
+        if (m_sink.beginRecord(record.record))
+            walkDisplay(*m_walked, record, {.map = m_toScreen});
+    }
+    return true;
 }
 
 void SceneWalker::walkRecord(const BlockDisplay &block, const RecordSummary &record, const Matrix &toScreen)
@@ -73,13 +88,13 @@ void SceneWalker::walkRecord(const BlockDisplay &block, const RecordSummary &rec
 std::optional<std::vector<std::uint32_t>> SceneWalker::seenPlaces(const BlockDisplay &block, const Matrix &map) const
 {
     const double area = map.xAxis.x * map.yAxis.y - map.xAxis.y * map.yAxis.x;
-    if (!m_options.view || block.records.size() < fewRecords || map.zAxis.x != 0.0 || map.zAxis.y != 0.0 ||
+    if (!seenPart() || block.records.size() < fewRecords || map.zAxis.x != 0.0 || map.zAxis.y != 0.0 ||
         !std::isnormal(area)) {
         return std::nullopt;
     }
     Box seen;
-    for (const QPointF &corner : {m_options.view->topLeft(), m_options.view->topRight(), m_options.view->bottomLeft(),
-                                  m_options.view->bottomRight()}) {
+    for (const QPointF &corner :
+         {seenPart()->topLeft(), seenPart()->topRight(), seenPart()->bottomLeft(), seenPart()->bottomRight()}) {
         const double x = corner.x() - map.origin.x;
         const double y = corner.y() - map.origin.y;
         seen.add(Vec3{(x * map.yAxis.y - y * map.yAxis.x) / area, (y * map.xAxis.x - x * map.xAxis.y) / area, 0.0});
@@ -99,7 +114,7 @@ bool SceneWalker::isOutside(const Box &box, const Matrix &map, QRectF *reach) co
     const QRectF flatBox = flatReach(box, map);
     if (reach)
         *reach = flatBox;
-    return m_options.view && !touches(flatBox, *m_options.view);
+    return seenPart() && !touches(flatBox, *seenPart());
 }
 
 void SceneWalker::walkBlock(const BlockDisplay &block, const Context &context)
@@ -208,7 +223,7 @@ void SceneWalker::showArray(const Reference &reference, const BlockDisplay &bloc
     QRectF cell = flatReach(block.box, first);
     if (!reference.beside.empty())
         cell |= flatReach(reference.besideBox, context.map);
-    const ArrayCells cells(cell, columnStep.xy(), rowStep.xy(), reference.columns, reference.rows, m_options.view);
+    const ArrayCells cells(cell, columnStep.xy(), rowStep.xy(), reference.columns, reference.rows, seenPart());
     bool isRepeated = context.isRepeated;
     cells.visit([&](std::int64_t column, std::int64_t row) {
         if (isRepeated && !m_work.take(1))

@@ -8,6 +8,7 @@
 
 #include <QPainterPath>
 
+#include <functional>
 #include <span>
 
 namespace host::view {
@@ -48,6 +49,8 @@ struct WalkOptions
 {
     /// The part of the screen that is of interest. Nothing: everything, however far.
     std::optional<QRectF> view{};
+    /// A part of the view: records that lie outside are left out, while those in it are shown as in the whole view.
+    std::optional<QRectF> part{};
     Ground ground = Ground::Black;
     /// Dashes are laid out only where a view bounds their number; without one all lines are full.
     bool withLinetypes = true;
@@ -73,9 +76,15 @@ public:
     /// The scene must be prepared for the blocks walked.
     SceneWalker(Scene &scene, const WalkOptions &options, DisplaySink &sink, drawing::WorkBudget &work);
 
-    /// Everything in the space or block that touches the view, in drawing order. Costs a look at each record's box, and
-    /// what is seen of it.
+    /// Everything in the space or block that touches the view, in drawing order. Costs a look at the boxes of the
+    /// records there, and what is seen of them.
     void walk(int block, const Matrix &toScreen);
+    /// The same in pieces.
+    void begin(int block, const Matrix &toScreen);
+    /// Asks every hundred records whether to go on; without a question it goes on to the end. True there.
+    bool goOn(const std::function<bool()> &mayGoOn = {});
+    /// Of the space, so far.
+    std::size_t walkedRecords() const { return m_next; }
     /// One record of a block alone.
     void walkRecord(const BlockDisplay &block, const RecordSummary &record, const Matrix &toScreen);
     /// Whether part of what there is was left out or drawn coarser: the work was used up, or blocks are nested deeper
@@ -101,6 +110,8 @@ private:
     std::optional<std::vector<std::uint32_t>> seenPlaces(const BlockDisplay &block, const Matrix &map) const;
     /// With `dot` given all shows as a dot there, in the style of the first that is seen.
     void walkItems(const std::vector<DisplayItem> &items, const Context &context, std::optional<QPointF> dot);
+    /// What decides whether a record is shown at all.
+    const std::optional<QRectF> &seenPart() const { return m_options.part ? m_options.part : m_options.view; }
     /// By its layer: off, frozen, not plotted, or hidden in the viewport.
     bool isHidden(const ResolvedStyle &style, bool isReference, const Context &context) const;
     /// Whether nothing in the box is in the view; `reach`, if given, is the box on the screen, unless it is empty.
@@ -149,7 +160,12 @@ private:
     drawing::WorkBudget &m_work;
     const std::int64_t m_refusalsBefore; ///< of the budget, which others may have used before
     const PixelCost m_cost;
-    bool m_isTooDeep = false;    ///< blocks were nested deeper than they are opened
+    bool m_isTooDeep = false; ///< blocks were nested deeper than they are opened
+    // The walk under way.
+    const BlockDisplay *m_walked = nullptr;
+    Matrix m_toScreen;
+    std::optional<std::vector<std::uint32_t>> m_places; ///< nothing: all of the block
+    std::size_t m_next = 0;
     std::vector<char> m_isOpen;  ///< by block
     std::vector<char> m_isShown; ///< by block: it was met
     Track m_track;               ///< the line under way; kept for its memory
