@@ -80,7 +80,7 @@ ViewTransform PagePainter::pictureView(const Page &page, const QSize &size)
 {
     ViewTransform view{QSizeF(size)};
     const auto &window = m_options.sheet.window;
-    view.fit(window ? *window : m_scene.extents(page.plan.block, Seen::Plotted), pictureMargin);
+    view.fit(window ? *window : m_scene.extents(page.plan.block, Seen::Plotted), window ? 0.0 : pictureMargin);
     return view;
 }
 

@@ -132,8 +132,10 @@ int layoutBlock(Scene &scene, const drawing::LayoutTab &layout)
 SheetPlan planBlock(Scene &scene, int block, const SheetWish &wish)
 {
     SheetPlan plan{.block = block, .size = paperFor(wish, usualSheet)};
-    const double dx = plan.size.width() * blankPart;
-    const double dy = plan.size.height() * blankPart;
+    // A window is shown to its corners.
+    const double blank = wish.window ? 0.0 : blankPart;
+    const double dx = plan.size.width() * blank;
+    const double dy = plan.size.height() * blank;
     plan.printed = QRectF(QPointF(), plan.size).adjusted(dx, dy, -dx, -dy);
     const Box shown = wish.window ? *wish.window : scene.extents(block, Seen::Plotted);
     if (!shown.isEmpty()) {
