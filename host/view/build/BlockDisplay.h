@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/view/build/ExternalDrawings.h"
 #include "host/view/display/BoxIndex.h"
 #include "host/view/display/RecordSummary.h"
 
@@ -14,6 +15,9 @@ struct BlockDisplay
     Box box{};                            ///< of all records, hidden layers too; lines without end left out
     bool isEndless = false;               ///< has lines without end, itself or through its references
     bool isBuilt = false;                 ///< otherwise nobody looked at it yet, and the rest is empty
+
+    /// What it shows beside its records where it stands for another drawing; null for other blocks.
+    std::shared_ptr<const ExternalView> external{};
 
     // For the scene that keeps it.
     Box plainBox{};                          ///< of the records without references

@@ -4,6 +4,7 @@
 #include "host/drawing/tags/GroupCodes.h"
 #include "host/view/build/AnnotationParts.h"
 #include "host/view/build/DisplayBuilder.h"
+#include "host/view/build/FileMark.h"
 #include "host/view/build/Scene.h"
 #include "host/view/display/DisplayBoxes.h"
 
@@ -146,11 +147,17 @@ void addAttributes(BuildContext &context, Reference &reference)
     context.display.items.resize(first);
 }
 
-/// The definition of an external reference names a file and has nothing of it.
-bool showsOtherDrawing(const drawing::Drawing &drawing, const QString &name)
+/// Whether the insert of another drawing can be left at what its reference shows. One that is not to be had is a mark
+/// with its name.
+bool finishExternal(BuildContext &context, const TagList &tags, const ExternalView &external)
 {
-    const auto block = drawing.blocks().get(name);
-    return block && block->isExternal() && drawing.children(block->record).empty();
+    context.display.isExternal = true;
+    context.display.isHidden = external.state == ExternalView::State::LeftOut;
+    if (external.state != ExternalView::State::Missing)
+        return true;
+    const Matrix ocs = Matrix::fromExtrusion(tags.point(210, {0.0, 0.0, 1.0}));
+    addFileMark(context, Matrix::translation(ocs.point(tags.point(10))), external.path);
+    return false;
 }
 
 } // namespace
@@ -175,9 +182,9 @@ bool buildInsert(BuildContext &context, const TagList &tags)
     reference->clip = readClip(context, context.display.record);
     addAttributes(context, *reference);
     const bool hasAttributes = !context.display.items.empty() || !reference->beside.empty();
+    const ExternalView *external = context.scene.external(reference->block);
     context.add(std::move(reference));
-    context.display.isExternal = showsOtherDrawing(context.drawing, name);
-    return (exists || hasAttributes) && !context.display.isExternal;
+    return external ? finishExternal(context, tags, *external) : exists || hasAttributes;
 }
 
 bool buildTable(BuildContext &context, const TagList &tags)

@@ -93,7 +93,9 @@ Box EntityExtents::ofBlock(int block, const Matrix &map)
         return {};
     if (const auto known = m_known.find(key); known != m_known.end())
         return movedBox(known->second, map.origin);
-    if (m_work.left() <= 0 || m_open.size() >= drawing::deepestNesting)
+    // Of other drawings the boxes of their records are enough.
+    const bool isExternal = m_scene.display(block).external != nullptr;
+    if (isExternal || m_work.left() <= 0 || m_open.size() >= drawing::deepestNesting)
         return mappedBox(m_scene.display(block).box, map);
     m_work.charge(1);
     m_open.push_back(block);

@@ -11,4 +11,8 @@ Matrix squareOnto(const Box &box);
 /// 1 both ways, y up, onto that. Folders are left out. Nothing where the square has no area.
 void addFileName(BuildContext &context, const Matrix &placement, const QString &name);
 
+/// The name in a small frame, from the lower left corner that `at` maps the origin to: as large as can be read on a
+/// sheet of the whole drawing, as far as its header tells how large that is.
+void addFileMark(BuildContext &context, const Matrix &at, const QString &name);
+
 } // namespace host::view

@@ -28,14 +28,29 @@ bool showsFiles(QByteArrayView type)
 } // namespace
 
 Scene::Scene(const drawing::Drawing &drawing, drawing::MacroSurroundings surroundings)
-    : m_drawing(drawing), m_surroundings(std::move(surroundings)),
+    : m_drawing(drawing), m_surroundings(std::move(surroundings)), m_externalFiles(std::make_shared<ExternalFiles>()),
+      m_fonts(std::make_shared<Fonts>()),
       m_shapes(m_surroundings.file ? m_surroundings.file : drawing::namedFiles(drawing)),
       m_images(m_surroundings.file ? m_surroundings.file : drawing::namedFiles(drawing)),
       m_threads(static_cast<int>(std::clamp(std::thread::hardware_concurrency(), 1U, mostThreads)))
 {
+    m_fonts->readFilesBy(m_shapes, drawing.header().text(u"$DWGCODEPAGE"_s).toLatin1());
+    begin();
+}
+
+Scene::Scene(const drawing::Drawing &drawing, drawing::MacroSurroundings surroundings, Scene &host,
+             const QString &prefix)
+    : m_drawing(drawing), m_surroundings(std::move(surroundings)), m_host(&host), m_externalFiles(host.m_externalFiles),
+      m_fonts(host.m_fonts), m_shapes(m_surroundings.file), m_images(m_surroundings.file),
+      m_appearance(host.m_appearance, prefix), m_threads(host.m_threads)
+{
+    begin();
+}
+
+void Scene::begin()
+{
     if (!m_surroundings.variable)
-        m_surroundings.variable = drawing::surroundingsOf(drawing).variable;
-    m_fonts.readFilesBy(m_shapes, drawing.header().text(u"$DWGCODEPAGE"_s).toLatin1());
+        m_surroundings.variable = drawing::surroundingsOf(m_drawing).variable;
     for (const QString &space : {u"*Model_Space"_s, u"*Paper_Space"_s})
         block(space);
     // The names that the oldest versions have for the same.
@@ -67,7 +82,8 @@ void Scene::regenerate()
     }
     m_images.forget();
     m_shapes.forget();
-    m_changes.everything |= m_fonts.readAnew();
+    m_changes.everything |= m_fonts->readAnew();
+    forgetExternals();
     m_changes.tables = true;
 }
 
@@ -81,6 +97,28 @@ int Scene::block(const QString &name)
     const int number = static_cast<int>(m_blocks.size()) - 1;
     m_blockNumbers.insert(key, number);
     return number;
+}
+
+const ExternalView *Scene::external(int block)
+{
+    BlockDisplay &display = *m_blocks[static_cast<std::size_t>(block)];
+    const auto definition = block > paperSpace ? m_drawing.blocks().get(display.name) : std::nullopt;
+    // One whose content is in the drawing is a block as any other.
+    if (!definition || !definition->isExternal() || !m_drawing.children(definition->record).empty())
+        display.external.reset();
+    else if (!display.external || display.external->path != definition->externalPath)
+        display.external = std::make_shared<ExternalView>(openExternal(*this, *definition));
+    return display.external.get();
+}
+
+void Scene::forgetExternals()
+{
+    bool hasSome = false;
+    for (const auto &block : m_blocks)
+        hasSome |= std::exchange(block->external, nullptr) != nullptr;
+    if (hasSome)
+        m_externalFiles->forget();
+    m_changes.everything |= hasSome;
 }
 
 bool Scene::exists(int block) const
@@ -142,6 +180,11 @@ void Scene::updateBox(BlockDisplay &block)
     }
     block.box = block.plainBox;
     block.isEndless = block.isPlainEndless;
+    if (block.external && block.external->scene) {
+        const BlockDisplay &model = block.external->scene->display(modelSpace);
+        block.box.add(mappedBox(model.box, block.external->placement));
+        block.isEndless |= model.isEndless;
+    }
     for (const std::uint32_t place : block.references) {
         if (!block.records[place].hasReferences)
             continue;
@@ -212,7 +255,12 @@ RenderReport Scene::report(int block)
     PostOrder order(m_blocks.size());
     order.visit(
         static_cast<std::size_t>(block), [this](std::size_t shown) { return blocksShownBy(shown); },
-        [&](std::size_t shown) { countInto(report, *m_blocks[shown]); });
+        [&](std::size_t shown) {
+            const BlockDisplay &counted = *m_blocks[shown];
+            countInto(report, counted);
+            if (counted.external && counted.external->scene)
+                report.add(counted.external->scene->report(modelSpace));
+        });
     return report;
 }
 

@@ -56,14 +56,23 @@ public:
     explicit Scene(drawing::Drawing &drawing, drawing::MacroSurroundings surroundings = {});
     /// For one look at a drawing that does not change meanwhile: it is not observed.
     explicit Scene(const drawing::Drawing &drawing, drawing::MacroSurroundings surroundings = {});
+    /// Of a drawing that is seen in that of `host`, where its layers and linetypes have names behind `prefix`. The host
+    /// must outlive it.
+    Scene(const drawing::Drawing &drawing, drawing::MacroSurroundings surroundings, Scene &host, const QString &prefix);
     ~Scene() override;
     Scene(const Scene &) = delete;
     Scene &operator=(const Scene &) = delete;
 
     const drawing::Drawing &drawing() const { return m_drawing; }
     const drawing::MacroSurroundings &surroundings() const { return m_surroundings; }
-    /// What comes from outside the drawing, the files and expressions of remote texts, the shape files and
-    /// the pictures, is read again before the next look.
+    /// The scene that this one's drawing is seen in; null for one that is looked at itself.
+    const Scene *host() const { return m_host; }
+    /// Shared by all scenes that are seen in one.
+    ExternalFiles &externalFiles() { return *m_externalFiles; }
+    /// What the block shows where it stands for another drawing, which is opened by the first call; null for others.
+    const ExternalView *external(int block);
+    /// What comes from outside the drawing, the files and expressions of remote texts, the shape files,
+    /// the pictures and other drawings, is read again before the next look.
     void regenerate();
     /// A number for a block by its name, whether or not there is such a block (yet). Layout blocks are spaces.
     int block(const QString &name);
@@ -92,7 +101,7 @@ public:
     // What the displays' numbers mean, up to date as the displays are.
     Appearance &appearance() { return m_appearance; }
     const Appearance &appearance() const { return m_appearance; }
-    Fonts &fonts() { return m_fonts; }
+    Fonts &fonts() { return *m_fonts; }
     drawing::ShapeFiles &shapes() { return m_shapes; }
     RasterFiles &images() { return m_images; }
 
@@ -151,6 +160,10 @@ private:
     RecordSummary keep(RecordDisplay display);
     void forget(RecordSummary &record);
 
+    void begin();
+    void reloadStyles();
+    bool hasChangedExternals() const;
+    void forgetExternals();
     void damage(BlockDisplay &block, const RecordSummary &record);
     void updateBoxes();
     std::vector<std::size_t> blocksShownBy(std::size_t block) const;
@@ -162,7 +175,9 @@ private:
     const drawing::Drawing &m_drawing;
     drawing::MacroSurroundings m_surroundings;
     drawing::Drawing *m_followed = nullptr; ///< the drawing where its changes are observed
-    Fonts m_fonts;
+    Scene *m_host = nullptr;
+    std::shared_ptr<ExternalFiles> m_externalFiles;
+    std::shared_ptr<Fonts> m_fonts; ///< the host's, where there is one
     drawing::ShapeFiles m_shapes;
     RasterFiles m_images;
     Appearance m_appearance;

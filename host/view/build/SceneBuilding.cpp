@@ -114,6 +114,8 @@ void Scene::build(BlockDisplay &block)
 {
     if (!m_sortHandles)
         m_sortHandles = readSortHandles(m_drawing);
+    if (const ExternalView *shown = external(block.number); shown && shown->scene)
+        shown->scene->prepare(modelSpace);
     const std::vector<RecordId> now = members(block);
     std::vector<RecordSummary> old = std::move(block.records);
     std::vector<RecordSummary> records(now.size());

@@ -80,13 +80,33 @@ bool Scene::hasChangedSpace(RecordId entity) const
     return index < m_spaces.size() && m_spaces[index] != 0 && m_spaces[index] != 1 + space;
 }
 
+/// Those of the drawings within are added again.
+void Scene::reloadStyles()
+{
+    m_shapes.forget();
+    m_appearance.reload(m_drawing, *m_fonts, m_shapes);
+    for (const auto &block : m_blocks) {
+        if (block->external && block->external->scene)
+            block->external->scene->reloadStyles();
+    }
+}
+
+/// Whether blocks stand for other files than they did.
+bool Scene::hasChangedExternals() const
+{
+    return std::ranges::any_of(m_blocks, [this](const auto &block) {
+        const auto definition = block->external ? m_drawing.blocks().get(block->name) : std::nullopt;
+        return block->external && (!definition || definition->externalPath != block->external->path);
+    });
+}
+
 void Scene::applyChanges()
 {
     if (!m_changes.any())
         return;
+    m_changes.everything |= m_changes.order && hasChangedExternals();
     if (m_changes.tables || m_changes.everything) {
-        m_shapes.forget();
-        m_appearance.reload(m_drawing, m_fonts, m_shapes);
+        reloadStyles();
         m_isDamagedEverywhere = true;
     }
     if (m_changes.everything)

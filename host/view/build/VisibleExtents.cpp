@@ -13,8 +13,12 @@ bool VisibleExtents::isShown(int layer) const
 
 Box VisibleExtents::of(int block)
 {
+    return of(seeing(block, isShown(0)));
+}
+
+Box VisibleExtents::of(Seeing whole)
+{
     PostOrder order;
-    const Seeing whole = seeing(block, isShown(0));
     order.visit(
         whole, [this](Seeing what) { return shownBy(what); }, [this](Seeing what) { measure(what); });
     return m_known.value(whole);
@@ -71,6 +75,11 @@ void VisibleExtents::measure(Seeing what)
 {
     Box box;
     addPlain(what, box);
+    const auto &external = m_scene.display(static_cast<int>(what / 2)).external;
+    if (external && external->scene) {
+        VisibleExtents within(*external->scene, m_seen);
+        box.add(mappedBox(within.of(seeing(Scene::modelSpace, what % 2 != 0)), external->placement));
+    }
     forEachOfReferences(what, [&](const DisplayItem &item) {
         const auto *reference = std::get_if<std::unique_ptr<Reference>>(&item.shape);
         if (!reference) {

@@ -21,6 +21,7 @@ private:
     using Seeing = std::size_t;
     static Seeing seeing(int block, bool showsLayer0) { return 2 * static_cast<Seeing>(block) + (showsLayer0 ? 1 : 0); }
 
+    Box of(Seeing whole);
     template <class Visit>
     void forEachOfReferences(Seeing what, const Visit &visit);
     void addPlain(Seeing what, Box &box);

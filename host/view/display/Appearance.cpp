@@ -112,14 +112,27 @@ Appearance::Appearance()
     linetype(u"Continuous"_s);
 }
 
+QString Appearance::nameOf(const QString &own) const
+{
+    static const QStringList shared = {u"0"_s, u"defpoints"_s, u"continuous"_s, u"bylayer"_s, u"byblock"_s, u""_s};
+    // Those of drawings within have their own in front already.
+    if (own.contains(u'|') || shared.contains(own, Qt::CaseInsensitive))
+        return own;
+    return m_prefix + u'|' + own;
+}
+
 std::optional<int> Appearance::knownLayer(const QString &name) const
 {
+    if (m_host)
+        return whole().knownLayer(nameOf(name));
     const auto known = m_layerNumbers.constFind(name.toCaseFolded());
     return known != m_layerNumbers.constEnd() ? std::optional(*known) : std::nullopt;
 }
 
 int Appearance::layer(const QString &name)
 {
+    if (m_host)
+        return whole().layer(nameOf(name));
     if (const auto known = knownLayer(name))
         return *known;
     m_layers.push_back({.isOff = isLeftOut(name)});
@@ -148,6 +161,8 @@ bool Appearance::isLeftOut(const QString &layer) const
 
 std::optional<int> Appearance::knownLinetype(const QString &name) const
 {
+    if (m_host)
+        return whole().knownLinetype(nameOf(name));
     const QString key = name.toCaseFolded();
     if (key.isEmpty() || key == "bylayer"_L1)
         return Style::byLayer;
@@ -159,6 +174,8 @@ std::optional<int> Appearance::knownLinetype(const QString &name) const
 
 int Appearance::linetype(const QString &name)
 {
+    if (m_host)
+        return whole().linetype(nameOf(name));
     if (const auto known = knownLinetype(name))
         return *known;
     m_patterns.emplace_back();
@@ -186,18 +203,55 @@ bool Appearance::reachesBeyondBoxes() const
     const auto hasSigns = [](const LinePattern &pattern) {
         return std::ranges::any_of(pattern.elements, &LinePatternElement::hasSign);
     };
-    return m_pointMode != 0 || std::ranges::any_of(m_patterns, hasSigns);
+    return pointMode() != 0 || std::ranges::any_of(whole().m_patterns, hasSigns);
+}
+
+LayerLook Appearance::readLook(const drawing::Drawing &drawing, const drawing::Layer &layer)
+{
+    LayerLook look{.linetype = std::max(continuous, linetype(layer.linetype)),
+                   .lineweight = layer.lineweight,
+                   .isOff = layer.isOff || whole().isLeftOut(m_host ? nameOf(layer.name) : layer.name),
+                   .isFrozen = layer.isFrozen,
+                   .isPlotted = layer.isPlotted,
+                   .plotStyle = plotStyle(drawing.tags(layer.record).handle(390))};
+    // What dimensions are measured from is never plotted, whatever its layer says.
+    if (layer.name.compare("defpoints"_L1, Qt::CaseInsensitive) == 0)
+        look.isPlotted = false;
+    look.colour = layer.trueColour ? Colour{Colour::Kind::True, *layer.trueColour}
+                                   : Colour{Colour::Kind::Index, static_cast<std::uint32_t>(layer.colour)};
+    return look;
+}
+
+/// What the tables of the host have goes before what the drawing itself says.
+void Appearance::addTo(Appearance &whole, const drawing::Drawing &drawing, Fonts &fonts, drawing::ShapeFiles &shapes)
+{
+    for (const drawing::RecordId entry : drawing.tables().entries(drawing::TableKind::Linetype)) {
+        const drawing::Linetype read = drawing::readLinetype(drawing, entry);
+        const int number = linetype(read.name);
+        if (number > continuous && !whole.m_ownLinetypes.contains(number))
+            whole.m_patterns[static_cast<std::size_t>(number)] = readPattern(drawing, read, fonts, shapes);
+    }
+    for (const drawing::Layer &read : drawing::allLayers(drawing)) {
+        const int number = layer(read.name);
+        if (number > 0 && !whole.m_ownLayers.contains(number))
+            whole.m_layers[static_cast<std::size_t>(number)] = readLook(drawing, read);
+    }
 }
 
 void Appearance::reload(const drawing::Drawing &drawing, Fonts &fonts, drawing::ShapeFiles &shapes)
 {
     m_shapeFiles = drawing::shapeFileNames(drawing);
     m_shapes.clear();
+    if (m_host)
+        return addTo(whole(), drawing, fonts, shapes);
     readPlotStyles(drawing);
+    m_ownLayers.clear();
+    m_ownLinetypes.clear();
     std::ranges::fill(m_patterns, LinePattern{});
     for (const drawing::RecordId entry : drawing.tables().entries(drawing::TableKind::Linetype)) {
         const drawing::Linetype read = drawing::readLinetype(drawing, entry);
         const int number = linetype(read.name);
+        m_ownLinetypes.insert(number);
         if (number > continuous)
             m_patterns[static_cast<std::size_t>(number)] = readPattern(drawing, read, fonts, shapes);
     }
@@ -212,18 +266,9 @@ void Appearance::reload(const drawing::Drawing &drawing, Fonts &fonts, drawing::
     for (auto it = m_layerNumbers.cbegin(); it != m_layerNumbers.cend(); ++it)
         m_layers[static_cast<std::size_t>(*it)] = {.isOff = isLeftOut(it.key())};
     for (const drawing::Layer &read : drawing::allLayers(drawing)) {
-        LayerLook look{.linetype = std::max(continuous, linetype(read.linetype)),
-                       .lineweight = read.lineweight,
-                       .isOff = read.isOff || isLeftOut(read.name),
-                       .isFrozen = read.isFrozen,
-                       .isPlotted = read.isPlotted,
-                       .plotStyle = plotStyle(drawing.tags(read.record).handle(390))};
-        // What dimensions are measured from is never plotted, whatever its layer says.
-        if (read.name.compare("defpoints"_L1, Qt::CaseInsensitive) == 0)
-            look.isPlotted = false;
-        look.colour = read.trueColour ? Colour{Colour::Kind::True, *read.trueColour}
-                                      : Colour{Colour::Kind::Index, static_cast<std::uint32_t>(read.colour)};
-        m_layers[static_cast<std::size_t>(layer(read.name))] = look;
+        const int number = layer(read.name);
+        m_ownLayers.insert(number);
+        m_layers[static_cast<std::size_t>(number)] = readLook(drawing, read);
     }
     m_linetypeScale = sanePositive(drawing.header().real(u"$LTSCALE"_s, 1.0), 1.0);
     m_maskFrame = drawing::wipeoutFrame(drawing);
@@ -253,6 +298,8 @@ std::pair<QRgb, int> Appearance::color(const Colour &colour, int layer, const Re
 
 ResolvedStyle Appearance::resolve(const Style &style, const ResolvedStyle *insert, Ground ground) const
 {
+    if (m_host)
+        return whole().resolve(style, insert, ground);
     ResolvedStyle resolved;
     ResolvedStyle::Unstyled &own = resolved.own;
     resolved.layer = style.layer == 0 && insert ? insert->layer : style.layer;

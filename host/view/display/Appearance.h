@@ -8,6 +8,7 @@
 
 #include <QColor>
 #include <QHash>
+#include <QSet>
 
 #include <memory>
 #include <optional>
@@ -87,6 +88,9 @@ class Appearance
 {
 public:
     Appearance();
+    /// Of a drawing that is seen in another one: its names are that one's, behind `prefix` and a bar, but for those
+    /// that all drawings share. All else is the host's, which must outlive it.
+    Appearance(Appearance &host, const QString &prefix) : m_host(&host), m_prefix(prefix) {}
 
     // The number of a name in any letter case, given out at the first asking whether or not the drawing has it.
     int layer(const QString &name); ///< "0" is 0
@@ -96,16 +100,17 @@ public:
     std::optional<int> knownLayer(const QString &name) const;
     std::optional<int> knownLinetype(const QString &name) const;
     // References hold until the next new name or reload().
-    const LayerLook &layerLook(int layer) const { return m_layers[static_cast<std::size_t>(layer)]; }
-    const LinePattern &pattern(int linetype) const { return m_patterns[static_cast<std::size_t>(linetype)]; }
+    const LayerLook &layerLook(int layer) const { return whole().m_layers[static_cast<std::size_t>(layer)]; }
+    const LinePattern &pattern(int linetype) const { return whole().m_patterns[static_cast<std::size_t>(linetype)]; }
 
     /// Whether some pattern does.
-    bool lacksShapes() const { return std::ranges::any_of(m_patterns, &LinePattern::lacksShapes); }
+    bool lacksShapes() const { return std::ranges::any_of(whole().m_patterns, &LinePattern::lacksShapes); }
 
     /// Whether records may be seen outside of their boxes: as marks of points, or by texts and shapes on lines.
     bool reachesBeyondBoxes() const;
 
-    /// Reads layers, linetypes and settings again. Of a linetype the first thousand elements count.
+    /// Reads layers, linetypes and settings again. Of a linetype the first thousand elements count. One that is seen in
+    /// another drawing adds what that does not have itself.
     void reload(const drawing::Drawing &drawing, Fonts &fonts, drawing::ShapeFiles &shapes);
     /// The shape of this name in the first of the drawing's shape files that has it, at size 1; nothing when none has.
     std::optional<std::vector<Curve>> shapeNamed(const QString &name, drawing::ShapeFiles &shapes);
@@ -126,23 +131,34 @@ public:
     ResolvedStyle resolve(const Style &style, const ResolvedStyle *insert, Ground ground) const;
 
     /// Whether the frames of masks are seen on the screen, and on paper.
-    bool showsMaskFrames(bool isPlotted) const { return m_maskFrame != 0 && !(isPlotted && m_maskFrame == 2); }
+    bool showsMaskFrames(bool isPlotted) const { return isFrameShown(whole().m_maskFrame, isPlotted); }
     /// The same of pictures.
-    bool showsImageFrames(bool isPlotted) const { return m_imageFrame != 0 && !(isPlotted && m_imageFrame == 2); }
-    double linetypeScale() const { return m_linetypeScale; } ///< $LTSCALE, positive
-    int pointMode() const { return m_pointMode; }            ///< $PDMODE
+    bool showsImageFrames(bool isPlotted) const { return isFrameShown(whole().m_imageFrame, isPlotted); }
+    double linetypeScale() const { return whole().m_linetypeScale; } ///< $LTSCALE, positive
+    int pointMode() const { return whole().m_pointMode; }            ///< $PDMODE
     double pointSize() const
     {
-        return m_pointSize;
+        return whole().m_pointSize;
     } ///< $PDSIZE: drawing units; below 0 per cent of the view, 0 five of them
 
 private:
+    const Appearance &whole() const { return m_host ? m_host->whole() : *this; }
+    Appearance &whole() { return m_host ? m_host->whole() : *this; }
+    static bool isFrameShown(int setting, bool isPlotted) { return setting != 0 && !(isPlotted && setting == 2); }
+    /// As the host's tables have it.
+    QString nameOf(const QString &own) const;
+    LayerLook readLook(const drawing::Drawing &drawing, const drawing::Layer &layer);
+    void addTo(Appearance &whole, const drawing::Drawing &drawing, Fonts &fonts, drawing::ShapeFiles &shapes);
     bool isLeftOut(const QString &layer) const;
     /// The colour with its index.
     std::pair<QRgb, int> color(const Colour &colour, int layer, const ResolvedStyle *insert, Ground ground) const;
     void readPlotStyles(const drawing::Drawing &drawing);
     void applyPlotStyle(ResolvedStyle &style, Ground ground) const;
 
+    Appearance *m_host = nullptr; ///< has all that follows but the prefix; null for a drawing by itself
+    QString m_prefix;
+    QSet<int> m_ownLayers;    ///< that the drawing itself has
+    QSet<int> m_ownLinetypes; ///< likewise
     QHash<QString, int> m_layerNumbers;
     std::vector<LayerLook> m_layers;
     QHash<QString, int> m_linetypeNumbers;

@@ -207,7 +207,7 @@ struct RecordDisplay
     bool isEndless = false;           ///< has lines without end: the box does not bound it
     bool hasReferences = false;
     bool isSkipped = false;    ///< could not be drawn
-    bool isExternal = false;   ///< shows another drawing, which is not looked at
+    bool isExternal = false;   ///< shows another drawing
     bool isSimplified = false; ///< drawn, but not all that the record says
     bool isCutShort = false;   ///< simplified because there was too much to draw
     bool isHidden = false;     ///< says that it is not to be seen

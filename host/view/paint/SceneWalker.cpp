@@ -121,6 +121,8 @@ void SceneWalker::walkBlock(const BlockDisplay &block, const Context &context)
 {
     if (!mayGoOn(context, static_cast<std::int64_t>(block.records.size()) / recordsOfUnit))
         return;
+    if (block.external && block.external->scene)
+        walkExternal(*block.external, context);
     // Some time, so that a block of many records out of sight ends as well.
     const auto show = [&](const RecordSummary &record) {
         if (context.isRepeated && m_work.left() <= 0)
@@ -135,6 +137,18 @@ void SceneWalker::walkBlock(const BlockDisplay &block, const Context &context)
         isDone = std::ranges::all_of(block.records, show);
     if (!isDone)
         m_work.refuse();
+}
+
+void SceneWalker::walkExternal(const ExternalView &external, const Context &context)
+{
+    const BlockDisplay &model = external.scene->display(Scene::modelSpace);
+    SceneWalker within(*external.scene, m_options, m_sink, m_work);
+    within.m_isOpen.assign(external.scene->blockCount(), 0);
+    within.m_isOpen[Scene::modelSpace] = 1;
+    Context inner = context;
+    inner.map = context.map * external.placement;
+    within.walkBlock(model, inner);
+    m_isTooDeep |= within.m_isTooDeep;
 }
 
 void SceneWalker::walkDisplay(const BlockDisplay &block, const RecordSummary &record, const Context &context)

@@ -15,6 +15,7 @@ namespace host::view {
 
 class Scene;
 struct BlockDisplay;
+struct ExternalView;
 struct RecordSummary;
 
 /// Takes what a walk finds, in screen coordinates and in the order in which it is drawn. To one that knows neither
@@ -103,6 +104,8 @@ private:
     };
 
     void walkBlock(const BlockDisplay &block, const Context &context);
+    /// The model space of another drawing.
+    void walkExternal(const ExternalView &external, const Context &context);
     void walkDisplay(const BlockDisplay &block, const RecordSummary &record, const Context &context);
     /// What is too small to have a shape, without looking at its shapes; false where these are needed for that.
     bool showAsDot(const RecordSummary &record, QPointF at, const Context &context);
