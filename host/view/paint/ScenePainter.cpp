@@ -13,7 +13,8 @@ namespace host::view {
 
 namespace {
 
-constexpr double readableText = 3.0; ///< pixels; smaller texts are drawn as a line
+constexpr double readableText = 3.0;       ///< pixels; smaller texts are drawn as a line
+constexpr double widestStroke = 1.0 / 6.0; ///< of a letter, in heights
 constexpr double largestCachedText = 40.0;
 constexpr qsizetype longestCachedText = 4096;
 constexpr double margin = 4.0;             ///< pixels beyond the edge, for thick lines
@@ -133,14 +134,16 @@ public:
         const double area = std::abs(cross(toScreen.xAxis.xy(), toScreen.yAxis.xy()));
         if (!(area > 0.0) || !std::isfinite(area))
             return;
-        if (area / width < readableText) {
+        const bool isStroked = m_scene.fonts().isStroked(run.font);
+        // Lines stay exact in a file, which may be looked at in any size.
+        if (area / width < readableText && (m_isRaster || !isStroked)) {
             const std::array<QPointF, 2> ends = {flat(toScreen, {0.0, 0.5, 0.0}),
                                                  flat(toScreen, {run.width, 0.5, 0.0})};
             line(ends, style);
             return;
         }
-        if (m_scene.fonts().isStroked(run.font)) {
-            drawStrokes(run, toScreen, style);
+        if (isStroked) {
+            drawStrokes(run, toScreen, style, area / width);
             return;
         }
         flush();
@@ -194,10 +197,16 @@ private:
         m_painter.drawText(QPointF(0.0, 0.0), run.text);
     }
 
-    void drawStrokes(const TextRun &run, const Matrix &toScreen, const ResolvedStyle &style)
+    /// With the weight of its style, or the widest that leaves letters of this height readable.
+    void drawStrokes(const TextRun &run, const Matrix &toScreen, const ResolvedStyle &style, double height)
     {
+        ResolvedStyle readable = style;
+        if (m_options.pixelsPerMillimetre > 0.0) {
+            const double widest = height * widestStroke / m_options.pixelsPerMillimetre * 100.0;
+            readable.lineweight = static_cast<int>(std::min<double>(style.lineweight, widest));
+        }
         forEachTextStroke(m_scene.fonts(), run, toScreen, m_seen,
-                          [&](std::span<const QPointF> points) { line(points, style); });
+                          [&](std::span<const QPointF> points) { line(points, readable); });
     }
 
     void drawOutline(const TextRun &run, const QTransform &place, QRgb colour)
