@@ -227,6 +227,9 @@ TEST(Fonts, ProportionsOfTheFontThatWasAskedFor)
     EXPECT_NEAR(fonts.width(fonts.find({.name = u"simplex"_s}), u"\u0e01"_s),
                 fonts.width(fonts.find({.name = u"simplex"_s}), u"?"_s), 1e-9)
         << "a letter that no font has";
+    EXPECT_NEAR(fonts.width(fonts.find({.name = u"gdt.shx"_s}), u"j\u2316J"_s),
+                fonts.width(fonts.find({.name = u"simplex"_s}), u"\u2316\u2316J"_s), 1e-9)
+        << "signs of tolerances under letters";
 }
 
 TEST(Fonts, FilesOfTheUser)

@@ -15,7 +15,6 @@ namespace {
 constexpr int referenceSize = 128;
 constexpr int outlineCacheElements = 2'000'000;
 constexpr qsizetype longestRun = 4096;
-constexpr std::int64_t usualPoints = 256; ///< of a letter
 
 bool hasFamily(const QString &family)
 {
@@ -159,6 +158,7 @@ Fonts::Face Fonts::makeFace(const FontRequest &request)
             face.widthFactor = look.widthFactor;
             face.slant = look.slant;
             face.pitch = look.pitch;
+            face.hasToleranceSigns = look.hasToleranceSigns;
         }
         return face;
     }
@@ -174,7 +174,7 @@ Fonts::Face Fonts::makeFace(const FontRequest &request)
 const StrokeGlyph &Fonts::glyphOf(const Face &face, char32_t letter)
 {
     static const StrokeGlyph nothing;
-    for (const char32_t shown : {letter, U'?'}) {
+    for (const char32_t shown : {face.hasToleranceSigns ? toleranceSign(letter) : letter, U'?'}) {
         if (const StrokeGlyph *own = face.strokes->find(shown))
             return *own;
         if (const StrokeGlyph *plain = plainStrokeFont().find(shown))
@@ -234,9 +234,10 @@ Fonts::Hanging Fonts::hanging(int font, const QString &letter) const
 std::int64_t Fonts::extraPoints(int font, const QString &text) const
 {
     std::int64_t extra = 0;
-    if (isStroked(font))
+    const Face &face = faceOf(font);
+    if (face.strokes && face.strokes->hasOrnateLetters())
         forEachGlyph(font, text, [&extra](const StrokeGlyph &glyph, const Placement &) {
-            extra += std::max<std::int64_t>(0, glyph.points - usualPoints);
+            extra += std::max<std::int64_t>(0, glyph.points - StrokeFont::usualPoints);
         });
     return extra;
 }

@@ -114,6 +114,7 @@ private:
         double widthFactor = 1.0;
         double slant = 0.0; ///< to the right for each unit upwards
         double pitch = 0.0; ///< advance of each letter; 0: its own
+        bool hasToleranceSigns = false;
     };
     using OutlineKey = std::pair<int, QString>;
 

@@ -230,6 +230,8 @@ std::unique_ptr<const StrokeGlyph> StrokeFont::make(char32_t letter) const
     if (!glyph || !isSound(*glyph))
         return nullptr;
     finish(*glyph);
+    if (glyph->points > usualPoints)
+        m_hasOrnate.store(true, std::memory_order_relaxed);
     return glyph;
 }
 

@@ -52,6 +52,10 @@ public:
     /// have that of `codec`.
     StrokeFont(File file, File bigFont, const drawing::TextCodec &codec);
 
+    /// What a letter has as a rule, and whether one of those that were made has more.
+    static constexpr std::int64_t usualPoints = 256;
+    bool hasOrnateLetters() const { return m_hasOrnate.load(std::memory_order_relaxed); }
+
     bool hasOwnFile() const { return m_file != nullptr; }
     /// Whether what is drawn is the same.
     bool hasSameFiles(const StrokeFont &other) const;
@@ -68,6 +72,7 @@ private:
     File m_file;
     File m_bigFont;
     drawing::TextCodec m_codec;
+    mutable std::atomic<bool> m_hasOrnate = false;
     mutable std::mutex m_making;
     /// By letter; null for one that the files lack. Nothing is ever taken out.
     mutable std::map<char32_t, std::unique_ptr<const StrokeGlyph>> m_glyphs;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <string_view>
 
 namespace host::view {
 
@@ -54,8 +55,8 @@ const LookRow lookRows[] = {
     {"symath"_L1, {}},
     {"symeteo"_L1, {}},
     {"symusic"_L1, {}},
-    {"gdt"_L1, {}},
-    {"amgdt"_L1, {}},
+    {"gdt"_L1, {.hasToleranceSigns = true}},
+    {"amgdt"_L1, {.hasToleranceSigns = true}},
 };
 
 QString stemOf(const QString &name)
@@ -71,6 +72,14 @@ std::optional<StrokeFontLook> strokeFontLook(const QString &name)
 {
     const auto row = std::ranges::find(lookRows, stemOf(name), &LookRow::name);
     return row == std::end(lookRows) ? std::nullopt : std::optional(row->look);
+}
+
+char32_t toleranceSign(char32_t letter)
+{
+    static constexpr std::u32string_view signs =
+        U"\u2220\u22a5\u23e5\u2313\u25cb\u2225\u232d\u2197\u232f\u2316\u2312\u24c1\u24c2"
+        U"\u2300\u25a1\u24c5\u2104\u25ce\u24c8\u2330\u23e4\u2334\u2335\u21a7\u2332\u2333";
+    return letter >= U'a' && letter <= U'z' ? signs[letter - U'a'] : letter;
 }
 
 QByteArray bigFontCodePage(const QString &name)
