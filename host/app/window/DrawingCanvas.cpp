@@ -4,7 +4,6 @@
 #include "host/drawing/records/HeaderVariables.h"
 #include "host/kernel/documents/ExpressionSurroundings.h"
 #include "host/kernel/variables/SystemVariables.h"
-#include "host/view/paint/ScenePainter.h"
 
 #include <QMouseEvent>
 #include <QPainter>
@@ -37,17 +36,15 @@ DrawingCanvas::DrawingCanvas(kernel::Document &document, QWidget *parent)
     setCursor(Qt::BlankCursor);
     setAttribute(Qt::WA_OpaquePaintEvent);
     setMinimumSize(200, 120);
-    const auto repaint = [this] {
-        m_picture = {};
-        update();
-    };
-    connect(&m_document, &kernel::Document::viewChanged, this, repaint);
-    connect(&m_document, &kernel::Document::highlightChanged, this, repaint);
-    connect(&m_document, &kernel::Document::regenerated, this, [this, repaint] {
+    connect(&m_picture, &ScenePicture::refined, this, qOverload<>(&QWidget::update));
+    connect(&m_document, &kernel::Document::viewChanged, this, qOverload<>(&QWidget::update));
+    connect(&m_document, &kernel::Document::highlightChanged, this, &DrawingCanvas::updateMarks);
+    connect(&m_document, &kernel::Document::impliedSelectionChanged, this, &DrawingCanvas::updateMarks);
+    connect(&m_document, &kernel::Document::regenerated, this, [this] {
         m_scene.regenerate();
-        repaint();
+        m_picture.renew();
+        update();
     });
-    connect(&m_document, &kernel::Document::impliedSelectionChanged, this, repaint);
     connect(&m_document, &kernel::Document::runEnded, this, qOverload<>(&QWidget::update));
 }
 
@@ -99,7 +96,6 @@ int DrawingCanvas::space() const
 void DrawingCanvas::setGround(view::Ground ground)
 {
     m_ground = ground;
-    m_picture = {};
     update();
 }
 
@@ -132,7 +128,7 @@ void DrawingCanvas::setRequest(const std::optional<kernel::PromptRequest> &reque
     if (request && request->base && request->dragged && !request->dragged->empty())
         m_dragged.emplace(*request->dragged, request->base->xy());
     if (hadMarked || m_dragged || (m_request && m_request->chosen))
-        m_picture = {};
+        updateMarks();
     update();
 }
 
@@ -148,40 +144,34 @@ bool DrawingCanvas::abandonBox()
 view::RenderReport DrawingCanvas::report()
 {
     view::RenderReport report = m_scene.report(space());
-    report.isCutShort |= m_isCutShort;
+    report.isCutShort |= m_picture.isCutShort();
     return report;
 }
 
 bool DrawingCanvas::isCutShortNews()
 {
-    return m_isCutShort && !std::exchange(m_isCutShortTold, true);
+    return m_picture.isCutShort() && !std::exchange(m_isCutShortTold, true);
 }
 
-void DrawingCanvas::repaintScene()
+void DrawingCanvas::updateMarks()
 {
-    const double ratio = devicePixelRatioF();
-    m_picture = QPixmap(size() * ratio);
-    m_picture.setDevicePixelRatio(ratio);
-    QPainter painter(&m_picture);
-    view::RecordSet highlighted(m_document.highlighted().begin(), m_document.highlighted().end());
-    highlighted.insert(m_document.impliedSelection().begin(), m_document.impliedSelection().end());
-    view::PaintOptions options;
-    options.ground = m_ground;
+    view::RecordSet marked(m_document.highlighted().begin(), m_document.highlighted().end());
+    marked.insert(m_document.impliedSelection().begin(), m_document.impliedSelection().end());
     if (m_dragged)
-        highlighted.insert(m_dragged->records().begin(), m_dragged->records().end());
+        marked.insert(m_dragged->records().begin(), m_dragged->records().end());
     if (m_request && m_request->chosen)
-        highlighted.insert(m_request->chosen->begin(), m_request->chosen->end());
-    options.highlighted = &highlighted;
-    m_isCutShort = view::paintScene(painter, m_scene, space(), transform(), options).isCutShort;
-    m_paintedRevision = m_document.drawing().revision();
+        marked.insert(m_request->chosen->begin(), m_request->chosen->end());
+    m_picture.setHighlighted(std::move(marked));
+    update();
 }
 
 void DrawingCanvas::paintEvent(QPaintEvent *)
 {
-    if (m_picture.isNull() || m_paintedRevision != m_document.drawing().revision())
-        repaintScene();
     QPainter painter(this);
-    painter.drawPixmap(0, 0, m_picture);
+    m_picture.paint(painter,
+                    {.view = transform(), .space = space(), .ground = m_ground, .pixelRatio = devicePixelRatioF()});
+    if (m_picture.isProvisional())
+        paintUnfinishedMark(painter, tr("simplified"), size(), m_ground);
     paintOverlay(painter);
 }
 

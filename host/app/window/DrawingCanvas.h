@@ -1,12 +1,12 @@
 #pragma once
 
 #include "host/app/window/DragPreview.h"
+#include "host/app/window/ScenePicture.h"
 #include "host/kernel/documents/Document.h"
 #include "host/kernel/input/PromptRequest.h"
 #include "host/view/build/Scene.h"
 #include "host/view/paint/ViewTransform.h"
 
-#include <QPixmap>
 #include <QWidget>
 
 #include <optional>
@@ -61,7 +61,8 @@ signals:
     void keyPressed(QKeyEvent *event);
 
 protected:
-    /// Paints the scene only when drawing, view or marks have changed; cross-hair and boxes come over that picture.
+    /// The scene's picture as it is known, with a mark while it is to be put right yet; cross-hair and boxes come over
+    /// it.
     void paintEvent(QPaintEvent *event) override;
     void showEvent(QShowEvent *event) override;
     /// The document's view hears of the new size; what is in the middle stays there.
@@ -94,8 +95,8 @@ private:
     void setTransform(const view::ViewTransform &transform);
     /// Model space or the current paper space, as a number of the scene.
     int space() const;
-    /// Into m_picture, with what is highlighted, chosen or dragged marked.
-    void repaintScene();
+    /// Tells the picture what is highlighted, chosen or dragged.
+    void updateMarks();
     /// What moves with the pointer; nothing while that is elsewhere.
     void paintOverlay(QPainter &painter);
     void paintRubberBand(QPainter &painter);
@@ -120,9 +121,7 @@ private:
     kernel::Document &m_document;
     view::Scene m_scene; ///< follows the drawing
     view::Ground m_ground = view::Ground::Black;
-    QPixmap m_picture;             ///< the scene as last painted; null when it is out of date
-    quint64 m_paintedRevision = 0; ///< of the drawing, in m_picture
-    bool m_isCutShort = false;     ///< part of the scene is missing in the picture
+    ScenePicture m_picture{m_scene};
     bool m_isCutShortTold = false;
     std::optional<kernel::PromptRequest> m_request;
     std::optional<DragPreview> m_dragged; ///< while the prompt has entities hang at the pointer

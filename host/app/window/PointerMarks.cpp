@@ -6,10 +6,26 @@
 
 namespace host::app {
 
+namespace {
+
+QColor markColor(view::Ground ground)
+{
+    return ground == view::Ground::Black ? QColor(0xd0, 0xd4, 0xd8) : QColor(0x40, 0x44, 0x48);
+}
+
+} // namespace
+
+void paintUnfinishedMark(QPainter &painter, const QString &text, QSize canvas, view::Ground ground)
+{
+    constexpr int border = 6;
+    painter.setPen(markColor(ground));
+    painter.drawText(QRect(QPoint(), canvas).adjusted(border, border, -border, -border),
+                     Qt::AlignRight | Qt::AlignBottom, text);
+}
+
 void paintCrosshair(QPainter &painter, QPointF pointer, QSize canvas, const Crosshair &look)
 {
-    const QColor color = look.ground == view::Ground::Black ? QColor(0xd0, 0xd4, 0xd8) : QColor(0x40, 0x44, 0x48);
-    painter.setPen(QPen(color, 0));
+    painter.setPen(QPen(markColor(look.ground), 0));
     const QPointF at(std::floor(pointer.x()) + 0.5, std::floor(pointer.y()) + 0.5);
     const double gap = look.pickBox;
     if (look.pickBox > 0)

@@ -4,6 +4,7 @@
 
 #include <QPointF>
 #include <QSize>
+#include <QString>
 
 class QPainter;
 
@@ -21,6 +22,9 @@ void paintCrosshair(QPainter &painter, QPointF pointer, QSize canvas, const Cros
 
 /// A box with a corner at the pointer. One that takes what it crosses looks unlike one that takes what lies within.
 void paintPointerBox(QPainter &painter, QPointF from, QPointF pointer, bool isCrossing);
+
+/// Says in a corner that the picture is to be put right yet.
+void paintUnfinishedMark(QPainter &painter, const QString &text, QSize canvas, view::Ground ground);
 
 /// The line that follows the pointer while a prompt has a base point.
 void paintPointerBand(QPainter &painter, QPointF from, QPointF pointer, bool isDashed);

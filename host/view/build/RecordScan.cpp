@@ -17,9 +17,9 @@ bool belongsTo(drawing::Space space, const drawing::TagList &tags)
 
 } // namespace
 
-std::vector<std::uint32_t> RecordScan::run(const std::vector<RecordId> &records, std::vector<RecordSummary> &summaries,
-                                           StyleTable &styles, int threads,
-                                           const std::function<bool(std::size_t)> &isKnown)
+std::vector<RecordScan::Left> RecordScan::run(const std::vector<RecordId> &records,
+                                              std::vector<RecordSummary> &summaries, StyleTable &styles, int threads,
+                                              const std::function<bool(std::size_t)> &isKnown)
 {
     std::vector<Piece> pieces((records.size() + recordsOfPiece - 1) / recordsOfPiece);
     inParallel(pieces.size(), threads, [&](std::size_t number) {
@@ -30,10 +30,10 @@ std::vector<std::uint32_t> RecordScan::run(const std::vector<RecordId> &records,
                 scan(records[i], summaries[i], i, names, pieces[number]);
         }
     });
-    std::vector<std::uint32_t> left;
+    std::vector<Left> left;
     for (std::size_t number = 0; number < pieces.size(); ++number) {
-        const Piece &piece = pieces[number];
-        left.insert(left.end(), piece.left.begin(), piece.left.end());
+        Piece &piece = pieces[number];
+        std::ranges::move(piece.left, std::back_inserter(left));
         m_built += piece.built;
         std::vector<std::uint32_t> numbers;
         for (const Style &style : piece.styles.styles())
@@ -52,7 +52,7 @@ void RecordScan::scan(RecordId record, RecordSummary &summary, std::size_t place
 {
     const bool isForAnyone = makingOf(m_drawing.typeName(record)) == Making::Anywhere;
     if (!isForAnyone && !m_space) {
-        piece.left.push_back(static_cast<std::uint32_t>(place));
+        piece.left.push_back({.place = static_cast<std::uint32_t>(place)});
         return;
     }
     const drawing::TagList tags = m_drawing.tags(record);
@@ -63,16 +63,20 @@ void RecordScan::scan(RecordId record, RecordSummary &summary, std::size_t place
     std::optional<RecordDisplay> display =
         isForAnyone ? buildFreely(m_drawing, m_scene, names, record, tags) : std::nullopt;
     if (!display) {
-        piece.left.push_back(static_cast<std::uint32_t>(place));
+        piece.left.push_back({.place = static_cast<std::uint32_t>(place)});
         return;
     }
     for (const DisplayItem &item : display->items)
         addItemBox(item, display->box);
+    ++piece.built;
+    if (isLarge(*display)) {
+        piece.left.push_back({static_cast<std::uint32_t>(place), std::move(display)});
+        return;
+    }
     summary = summaryOf(*display);
     summary.isNew = summary.hasOneStyle;
     if (summary.isNew)
         summary.look = piece.styles.number(display->items.front().style);
-    ++piece.built;
 }
 
 } // namespace host::view

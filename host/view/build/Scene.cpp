@@ -308,14 +308,14 @@ const RecordSummary *Scene::find(int block, RecordId record)
     return place ? &display(block).records[*place] : nullptr;
 }
 
-std::vector<std::uint32_t> Scene::recordsIn(int block, const Box &box)
+std::vector<std::uint32_t> Scene::recordsIn(int block, const Box &box, std::size_t most)
 {
     prepare(block);
     BlockDisplay &searched = *m_blocks[static_cast<std::size_t>(block)];
     if (searched.records.size() > fewRecords && (!searched.index.isBuilt() || searched.index.isWorn()))
         searched.index.build(searched.records);
     if (searched.index.isBuilt())
-        return searched.index.find(searched.records, box);
+        return searched.index.find(searched.records, box, most);
     std::vector<std::uint32_t> found;
     for (std::size_t i = 0; i < searched.records.size(); ++i) {
         const RecordSummary &record = searched.records[i];

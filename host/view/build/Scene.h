@@ -13,6 +13,7 @@
 #include "host/view/display/StyleTable.h"
 #include "host/view/text/Fonts.h"
 
+#include <limits>
 #include <optional>
 #include <unordered_set>
 
@@ -92,8 +93,10 @@ public:
     /// The style of all that the record shows, where it has one.
     const Style &styleOf(const RecordSummary &record) const { return m_styles[record.look]; }
     /// Places in a prepared block, in drawing order, of the records whose boxes touch the box as seen from above, lines
-    /// without end among them. Of many records the first search after building makes an index.
-    std::vector<std::uint32_t> recordsIn(int block, const Box &box);
+    /// without end among them. Of many records the first search after building makes an index. Of more than `most` only
+    /// so many are found, or a few more.
+    std::vector<std::uint32_t> recordsIn(int block, const Box &box,
+                                         std::size_t most = std::numeric_limits<std::size_t>::max());
     /// Brings the block up to date and tells what has changed since this was asked before, of any block.
     Damage takeDamage(int block);
     /// How many threads may build, the caller's among them; at first as many as the machine has.

@@ -59,6 +59,8 @@ RecordSummary Scene::buildSummary(RecordId record)
     ++m_builtRecords;
     for (const DisplayItem &item : built->items)
         addItemBox(item, built->box);
+    if (isLarge(*built))
+        return keep(std::move(*built));
     RecordSummary summary = summaryOf(*built);
     if (summary.hasOneStyle)
         summary.look = m_styles.number(built->items.front().style);
@@ -136,8 +138,8 @@ void Scene::build(BlockDisplay &block)
         space = block.number == modelSpace ? Space::Model : Space::Paper;
     RecordScan scan(*this, m_appearance, space);
     const auto known = old.empty() ? std::function<bool(std::size_t)>() : takeOver;
-    for (const std::uint32_t place : scan.run(now, records, m_styles, m_threads, known))
-        records[place] = buildSummary(now[place]);
+    for (RecordScan::Left &left : scan.run(now, records, m_styles, m_threads, known))
+        records[left.place] = left.display ? keep(std::move(*left.display)) : buildSummary(now[left.place]);
     m_builtRecords += scan.builtRecords();
     std::ranges::for_each(old, [this](RecordSummary &left) { forget(left); });
     std::erase_if(records, [](const RecordSummary &record) { return record.isElsewhere; });

@@ -154,15 +154,16 @@ void BoxIndex::touch(std::vector<RecordSummary> &records, std::uint32_t place)
 }
 
 void BoxIndex::descend(const std::vector<RecordSummary> &records, const Box &box, std::size_t level, std::size_t node,
-                       std::vector<std::uint32_t> &found) const
+                       std::size_t most, std::vector<std::uint32_t> &found) const
 {
     const FlatBox &around = m_levels[level][node];
-    if (around.left > box.high.x || box.low.x > around.right || around.bottom > box.high.y || box.low.y > around.top)
+    if (found.size() >= most || around.left > box.high.x || box.low.x > around.right || around.bottom > box.high.y ||
+        box.low.y > around.top)
         return;
     const std::size_t count = level > 0 ? m_levels[level - 1].size() : m_places.size();
     for (std::size_t i = node * fanOut; i < std::min(count, (node + 1) * fanOut); ++i) {
         if (level > 0) {
-            descend(records, box, level - 1, i, found);
+            descend(records, box, level - 1, i, most, found);
         } else if (const RecordSummary &record = records[m_places[i]];
                    !record.isLoose && !record.isGone && record.box.touchesFlat(box)) {
             found.push_back(m_places[i]);
@@ -170,11 +171,12 @@ void BoxIndex::descend(const std::vector<RecordSummary> &records, const Box &box
     }
 }
 
-std::vector<std::uint32_t> BoxIndex::find(const std::vector<RecordSummary> &records, const Box &box) const
+std::vector<std::uint32_t> BoxIndex::find(const std::vector<RecordSummary> &records, const Box &box,
+                                          std::size_t most) const
 {
     std::vector<std::uint32_t> found;
     if (!m_levels.empty() && !m_levels.back().empty())
-        descend(records, box, m_levels.size() - 1, 0, found);
+        descend(records, box, m_levels.size() - 1, 0, most, found);
     for (const std::uint32_t place : m_loose) {
         const RecordSummary &record = records[place];
         if (!record.isGone && (record.isEndless || record.box.touchesFlat(box)))

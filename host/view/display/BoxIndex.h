@@ -22,8 +22,9 @@ public:
     /// So much has changed that it is worth building anew.
     bool isWorn() const { return m_loose.size() > 256 + m_places.size() / 64; }
 
-    /// Rising places of all that may touch the box as seen from above, lines without end among them.
-    std::vector<std::uint32_t> find(const std::vector<RecordSummary> &records, const Box &box) const;
+    /// Rising places of all that touch the box as seen from above, lines without end among them. Of more than `most`
+    /// only so many are found, or a few more.
+    std::vector<std::uint32_t> find(const std::vector<RecordSummary> &records, const Box &box, std::size_t most) const;
 
 private:
     /// Seen from above, and rounded outwards.
@@ -37,7 +38,7 @@ private:
     using Level = std::vector<FlatBox>; ///< each around `fanOut` boxes of the level below, or records
 
     void descend(const std::vector<RecordSummary> &records, const Box &box, std::size_t level, std::size_t node,
-                 std::vector<std::uint32_t> &found) const;
+                 std::size_t most, std::vector<std::uint32_t> &found) const;
 
     std::vector<std::uint32_t> m_places; ///< in the order of the leaves
     std::vector<Level> m_levels;         ///< from the leaves up to a single box

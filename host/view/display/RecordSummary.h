@@ -29,6 +29,9 @@ struct RecordSummary
     bool isNew : 1 = false;       ///< likewise: its style has no number of the scene yet
 };
 
+/// Whether making it again would cost more than keeping it.
+bool isLarge(const RecordDisplay &display);
+
 /// Of a display with its box known: all but where its shapes are.
 RecordSummary summaryOf(const RecordDisplay &display);
 

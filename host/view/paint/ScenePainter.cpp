@@ -240,7 +240,7 @@ struct ScenePainting::Private
         : painter(ground), sink(ground, scene, options, part), work(options.work > 0    ? options.work
                                                                     : isRaster(painter) ? drawing::pictureWork
                                                                                         : drawing::vectorWork),
-          granted(work.left()), walker(scene, walkOptions(ground, view, options), sink, work)
+          walker(scene, walkOptions(ground, view, options), sink, work)
     {
     }
 
@@ -260,7 +260,6 @@ struct ScenePainting::Private
     QPainter &painter;
     PainterSink sink;
     drawing::WorkBudget work;
-    const std::int64_t granted;
     SceneWalker walker;
 };
 
@@ -294,8 +293,7 @@ bool ScenePainting::paint(const std::function<bool()> &mayGoOn)
 
 PaintResult ScenePainting::result() const
 {
-    return {.isCutShort = d->walker.wasCutShort(),
-            .work = d->granted - d->work.left() + static_cast<std::int64_t>(d->walker.walkedRecords())};
+    return {.isCutShort = d->walker.wasCutShort(), .effort = d->walker.effort()};
 }
 
 PaintResult paintScene(QPainter &painter, Scene &scene, int block, const ViewTransform &view,

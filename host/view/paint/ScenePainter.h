@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/view/build/Scene.h"
+#include "host/view/paint/SceneWalker.h"
 #include "host/view/paint/ViewTransform.h"
 
 #include <QColor>
@@ -46,7 +47,7 @@ struct PaintOptions
 struct PaintResult
 {
     bool isCutShort = false; ///< there was more than is drawn in one go: some is missing or coarser than it should be
-    std::int64_t work = 0;   ///< about how much there was to do, in units of the budget; grows with what is seen
+    WalkEffort effort{};
 };
 
 /// The painting of a space or block, in slices: begun by the constructor, which paints the ground, and gone on with

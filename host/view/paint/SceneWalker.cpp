@@ -57,6 +57,7 @@ void SceneWalker::begin(int block, const Matrix &toScreen)
     m_toScreen = toScreen;
     m_places = seenPlaces(*m_walked, toScreen);
     m_next = 0;
+    m_effort = {};
 }
 
 bool SceneWalker::goOn(const std::function<bool()> &mayGoOn)
@@ -69,8 +70,14 @@ bool SceneWalker::goOn(const std::function<bool()> &mayGoOn)
         const RecordSummary &record = m_walked->records[m_places ? (*m_places)[m_next] : m_next];
         if (record.isEmpty || (!record.isEndless && seenPart() && isOutside(record.box, m_toScreen, nullptr)))
             continue;
-        if (m_sink.beginRecord(record.record))
-            walkDisplay(*m_walked, record, {.map = m_toScreen});
+        if (!m_sink.beginRecord(record.record))
+            continue;
+        const std::int64_t before = m_pieces - m_work.left();
+        walkDisplay(*m_walked, record, {.map = m_toScreen});
+        const std::int64_t units = m_pieces - m_work.left() - before + 1;
+        m_effort.units += units;
+        m_effort.records += 1;
+        m_effort.heaviest = std::max(m_effort.heaviest, units);
     }
     return true;
 }

@@ -65,6 +65,14 @@ struct WalkOptions
     double dotsPerUnit = 1.0;
 };
 
+/// How much there was to show, in units of the budget, whether or not they were taken from it: about microseconds.
+struct WalkEffort
+{
+    std::int64_t units = 0;
+    std::int64_t records = 0;  ///< of the space, that were in view
+    std::int64_t heaviest = 0; ///< units of one record of the space
+};
+
 /// Goes through the shapes of a space or block, opens the blocks it refers to, and hands out straight pieces, areas and
 /// texts with everything resolved. Blocks that contain themselves are opened once.
 ///
@@ -84,8 +92,8 @@ public:
     void begin(int block, const Matrix &toScreen);
     /// Asks every hundred records whether to go on; without a question it goes on to the end. True there.
     bool goOn(const std::function<bool()> &mayGoOn = {});
-    /// Of the space, so far.
-    std::size_t walkedRecords() const { return m_next; }
+    /// What was shown so far.
+    const WalkEffort &effort() const { return m_effort; }
     /// One record of a block alone.
     void walkRecord(const BlockDisplay &block, const RecordSummary &record, const Matrix &toScreen);
     /// Whether part of what there is was left out or drawn coarser: the work was used up, or blocks are nested deeper
@@ -169,6 +177,8 @@ private:
     Matrix m_toScreen;
     std::optional<std::vector<std::uint32_t>> m_places; ///< nothing: all of the block
     std::size_t m_next = 0;
+    WalkEffort m_effort;
+    std::int64_t m_pieces = 0;   ///< shown without taking from the budget
     std::vector<char> m_isOpen;  ///< by block
     std::vector<char> m_isShown; ///< by block: it was met
     Track m_track;               ///< the line under way; kept for its memory

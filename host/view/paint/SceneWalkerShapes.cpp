@@ -41,6 +41,7 @@ std::int64_t SceneWalker::unitsOf(const Track &track) const
 void SceneWalker::show(const Stroke &stroke, const ResolvedStyle &style, const Context &context)
 {
     CurveTracer(context.map, m_options.view, m_work).trace(stroke.curve, m_track);
+    m_pieces += static_cast<std::int64_t>(m_track.points.size());
     if (m_track.points.empty() || (context.isRepeated && !m_work.take(unitsOf(m_track))))
         return;
     if (style.linetype > 0 && m_options.withLinetypes && m_options.view) {
@@ -174,6 +175,7 @@ SceneWalker::areaOf(const std::vector<Curve> &contours, const Context &context, 
             continue;
         if (!mayGoOn(context, static_cast<std::int64_t>(m_track.points.size())))
             return std::nullopt;
+        m_pieces += static_cast<std::int64_t>(m_track.points.size());
         fillCost.add(m_track);
         QPolygonF polygon(QList<QPointF>(m_track.points.begin(), m_track.points.end()));
         const QRectF reach = polygon.boundingRect();
@@ -358,6 +360,7 @@ void SceneWalker::emitMarkShape(QPointF at, double half, int mode, const Resolve
 
 void SceneWalker::show(const std::unique_ptr<TextRun> &run, const ResolvedStyle &style, const Context &context)
 {
+    m_pieces += run->text.size() * unitsOfLetter;
     if (!mayGoOn(context, run->text.size() * unitsOfLetter))
         return;
     const std::int64_t extra = m_scene.fonts().extraPoints(run->font, run->text);
