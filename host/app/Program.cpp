@@ -86,7 +86,8 @@ int runWindow(const ProgramOptions &options)
     const QString home = window.workbench().session().home();
     window.setStyleOfWindows(options.style.value_or(Preferences::load(home).style));
     window.show();
-    window.start(options.drawings);
+    window.start(options.drawings,
+                 options.isRecovering ? MainWindow::Opening::Recovering : MainWindow::Opening::AsUsual);
     if (!options.pictureFolder.isEmpty())
         return pictureOfWindow(window, options);
     QTimer::singleShot(0, &window, [&] { playInWindow(window, options); });

@@ -59,4 +59,12 @@ kernel::OpenOutcome openToRead(Workbench &workbench, const QString &path)
     return workbench.documents().open(path, kernel::OpenMode::ReadOnly);
 }
 
+kernel::OpenOutcome recoverToRead(Workbench &workbench, const QString &path)
+{
+    const kernel::OpenOutcome opened = workbench.documents().openRecovered(path);
+    for (const QString &line : opened.recovered)
+        writeMessage(u"%1: %2"_s.arg(native(path), line));
+    return opened;
+}
+
 } // namespace host::app

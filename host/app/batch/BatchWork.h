@@ -27,4 +27,7 @@ QString native(const QString &path);
 /// A drawing that another process has open is read as it was saved; its own file is not written then.
 kernel::OpenOutcome openToRead(Workbench &workbench, const QString &path);
 
+/// What is sound of a damaged drawing; tells what was dropped.
+kernel::OpenOutcome recoverToRead(Workbench &workbench, const QString &path);
+
 } // namespace host::app

@@ -3,12 +3,15 @@
 #include "files/qt/VisibleText.h"
 #include "host/app/batch/BatchRuns.h"
 #include "host/app/batch/BatchWork.h"
+#include "host/app/batch/RecoveryTelling.h"
 #include "host/app/workbench/DrawingPicture.h"
 #include "host/app/workbench/LimitWatch.h"
 #include "host/app/workbench/ProgramOutput.h"
+#include "host/drawing/file/Recovery.h"
 #include "host/drawing/records/LayoutTabs.h"
 #include "host/kernel/documents/ExpressionSurroundings.h"
 #include "host/kernel/documents/Session.h"
+#include "host/kernel/files/FileStamp.h"
 
 #include <QFileInfo>
 #include <QJsonArray>
@@ -50,7 +53,8 @@ struct PictureFile
 };
 
 /// One line of JSON; `files` are none where nothing was drawn.
-QByteArray conversionReport(const ProgramOptions &options, const std::vector<PictureFile> &files)
+QByteArray conversionReport(const ProgramOptions &options, const std::vector<PictureFile> &files,
+                            const std::optional<drawing::RecoveryReport> &recovery)
 {
     QJsonObject object{{u"input"_s, options.input}, {u"output"_s, options.output}};
     view::RenderReport whole;
@@ -67,6 +71,8 @@ QByteArray conversionReport(const ProgramOptions &options, const std::vector<Pic
         addReport(object, whole);
     if (!options.picture.layout.isEmpty())
         object.insert(u"pages"_s, pages);
+    if (recovery)
+        object.insert(u"recovered"_s, recoveryObject(*recovery));
     return QJsonDocument(object).toJson(QJsonDocument::Compact) + '\n';
 }
 
@@ -91,6 +97,39 @@ QString writeDxf(drawing::Drawing &drawing, const ProgramOptions &options)
 {
     drawing.setForm(options.isBinary ? drawing::FileForm::Binary : drawing::FileForm::Text);
     return drawing::saveCopy(drawing, options.output).error;
+}
+
+/// The drawing to convert, and what recovering it came to.
+struct ConversionInput
+{
+    std::unique_ptr<drawing::Drawing> drawing; ///< null, and told, when there is none
+    std::optional<drawing::RecoveryReport> report;
+};
+
+ConversionInput recoverInput(const ProgramOptions &options)
+{
+    const auto input = kernel::identityOf(options.input);
+    if (input && input == kernel::identityOf(options.output)) {
+        writeMessage(u"%1: what is recovered is not written over the damaged file; give it another name"_s.arg(
+            native(options.output)));
+        return {};
+    }
+    drawing::Recovered recovered = drawing::recoverFile(options.input);
+    if (!recovered)
+        writeMessage(native(options.input) + u": "_s + recovered.error.message());
+    else
+        tellRecovery(options.input, recovered.report);
+    return {std::move(recovered.drawing), std::move(recovered.report)};
+}
+
+ConversionInput openInput(const ProgramOptions &options)
+{
+    if (options.isRecovering)
+        return recoverInput(options);
+    drawing::ReadResult read = drawing::Drawing::open(options.input);
+    if (!read)
+        writeMessage(native(options.input) + u": "_s + drawing::openingError(read));
+    return {std::move(read.drawing), std::nullopt};
 }
 
 /// The sheets that are asked for; nothing, and told, where there is no such layout.
@@ -223,28 +262,26 @@ int convertDrawing(const ProgramOptions &options)
     // Looked at first: reading may take long.
     if (!mayWrite(options, options.output))
         return ExitFileError;
-    const drawing::ReadResult read = drawing::Drawing::open(options.input);
-    if (!read) {
-        writeMessage(native(options.input) + u": "_s + read.error.message());
+    const ConversionInput input = openInput(options);
+    if (!input.drawing)
         return ExitFileError;
-    }
     std::vector<PictureFile> pictures;
     int status = ExitDone;
     if (isPicture) {
-        const auto layouts = chosenLayouts(*read.drawing, options.picture.layout);
+        const auto layouts = chosenLayouts(*input.drawing, options.picture.layout);
         if (!layouts)
             return ExitUsage;
         pictures = pictureFiles(options, *layouts);
         for (const PictureFile &file : pictures)
             if (!mayWrite(options, file.path))
                 return ExitFileError;
-        status = writePictures(options, *read.drawing, pictures);
-    } else if (const QString error = writeDxf(*read.drawing, options); !error.isEmpty()) {
+        status = writePictures(options, *input.drawing, pictures);
+    } else if (const QString error = writeDxf(*input.drawing, options); !error.isEmpty()) {
         writeMessage(error);
         status = ExitFileError;
     }
     if (status != ExitFileError && options.withJson)
-        writeResult(QString::fromUtf8(conversionReport(options, pictures)));
+        writeResult(QString::fromUtf8(conversionReport(options, pictures, input.report)));
     return status;
 }
 

@@ -121,13 +121,15 @@ int SessionBatch::run()
 }
 
 /// The tools that a drawing loads when it opens have nobody to ask either.
-kernel::OpenOutcome openUnattended(Workbench &workbench, const QString &path)
+kernel::OpenOutcome openUnattended(Workbench &workbench, const QString &path, bool isRecovering)
 {
     UnattendedFeeder nobody;
     workbench.session().setFeeder(&nobody);
     kernel::OpenOutcome opened;
     if (path.isEmpty())
         opened.document = workbench.documents().create();
+    else if (isRecovering)
+        opened = recoverToRead(workbench, path);
     else
         opened = openToRead(workbench, path);
     workbench.session().setFeeder(nullptr);
@@ -143,7 +145,7 @@ QString titleOf(const QString &path, const PlaybackCase &one)
 
 int SessionBatch::runOne(Workbench &workbench, const QString &path, const PlaybackCase &one)
 {
-    const kernel::OpenOutcome opened = openUnattended(workbench, path);
+    const kernel::OpenOutcome opened = openUnattended(workbench, path, m_options.isRecovering);
     tellProblems(workbench, m_told);
     if (!opened) {
         writeMessage(opened.error);

@@ -46,6 +46,14 @@ kernel::Document *FileActions::openFile(const QString &path)
     return outcome.document;
 }
 
+kernel::Document *FileActions::recoverFile(const QString &path)
+{
+    const kernel::OpenOutcome outcome = m_workbench.documents().openRecovered(QFileInfo(path).absoluteFilePath());
+    if (!outcome)
+        complain(outcome.error);
+    return outcome.document;
+}
+
 int FileActions::choose(const QString &text, const QStringList &choices)
 {
     QMessageBox box(QMessageBox::Warning, u"Ortakit"_s, text, QMessageBox::Cancel, &m_window);

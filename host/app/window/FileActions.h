@@ -28,6 +28,8 @@ public:
     QStringList pathsToOpen();
     /// Null when it could not be opened, or the user gave up as another process has it open.
     kernel::Document *openFile(const QString &path);
+    /// What is sound of a damaged file; null when that is nothing.
+    kernel::Document *recoverFile(const QString &path);
     /// Under its own name, or asking for one when it has none. False when it was not saved.
     bool save(kernel::Document &document);
     bool saveAs(kernel::Document &document);

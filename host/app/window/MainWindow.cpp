@@ -106,9 +106,13 @@ kernel::Document *MainWindow::document() const
     return m_workbench->documents().active();
 }
 
-void MainWindow::start(const QStringList &drawings)
+void MainWindow::start(const QStringList &drawings, Opening opening)
 {
-    openAll(drawings);
+    if (opening == Opening::AsUsual)
+        openAll(drawings);
+    else
+        for (const QString &path : drawings)
+            m_files.recoverFile(path);
     if (m_tabs->count() == 0)
         m_workbench->documents().create();
 }

@@ -52,9 +52,15 @@ public:
     /// The active one; null likewise.
     kernel::Document *document() const;
 
+    /// How drawings are opened: as far as they are sound, when they are damaged.
+    enum class Opening
+    {
+        AsUsual,
+        Recovering
+    };
     /// Opens the drawings in this order, the last one in front, or a new one when none of them could be and none is
     /// open. What cannot be read is told in a box each; of what another program has open the user says what to do.
-    void start(const QStringList &drawings);
+    void start(const QStringList &drawings, Opening opening = Opening::AsUsual);
     /// Runs a line as if it was entered at the command line: an answer where a prompt waits, else a command, expression
     /// or alias, an empty one repeating the last command. Refused with a line while something runs that asks nothing.
     /// Returns when what it started has ended.

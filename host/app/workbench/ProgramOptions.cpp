@@ -144,6 +144,7 @@ QList<OptionRow> generalRows()
         {"--force", Value::None, {Mode::Run, Mode::Lisp, Mode::Convert}, setFlag<&ProgramOptions::isForced>},
         {"--strict", Value::None, {Mode::Convert}, setFlag<&ProgramOptions::isStrict>},
         {"--binary", Value::None, {Mode::Convert}, setFlag<&ProgramOptions::isBinary>},
+        {"--recover", Value::None, {Mode::Window, Mode::Run, Mode::Convert}, setFlag<&ProgramOptions::isRecovering>},
         {"--json", Value::None, {Mode::Convert}, setFlag<&ProgramOptions::withJson>}};
 }
 
@@ -273,6 +274,8 @@ Opens the drawings in a window, or works on them without one. "ortakit COMMAND -
 A drawing whose name is that of a command is written with its folder: ./run
 
 Options of the window:
+  --recover             open damaged drawings as far as they are sound; they have no file until they are saved under a
+                        name
   --trust DIR           run programs of this folder and those below as well; may be given again
   --session FILE        play a recorded session in the window first
   --screenshot-dir DIR  write a picture of the window to DIR/window.png and end
@@ -288,6 +291,7 @@ Plays a recorded session over each drawing, one after the other, each opened afr
 the session says. The drawings themselves stay as they are. Prints a line for each, and of a session with cases for each
 of them. What a picture does not show, or only in part, is told on standard error, by type.
 
+  --recover             open damaged drawings as far as they are sound, and tell on standard error what was dropped
   --trust DIR           run programs of this folder and those below as well; may be given again
   --out DIR             write the drawings that the session changed there, under their own names; of a session with
                         cases, what it saves itself
@@ -345,8 +349,11 @@ would have on a sheet 297 mm long; pdf shows it on A4.
   --force   write OUT although another program has it open
   --strict  end with status 3 when something is missing in the picture, which is written all the same
   --binary  write a DXF file in the binary form; without it, as text
+  --recover open a damaged IN as far as it is sound, and tell on standard error what was dropped; OUT must be another
+            file
   --json    print one line of JSON: input, output, and of pictures complete, drawn, invisible, inPart and notDrawn (a
-            number for each type) and cutShort; with --layout all of it for each of the pages, with layout and output
+            number for each type) and cutShort; with --layout all of it for each of the pages, with layout and output;
+            with --recover the same of what was dropped, mended and added
 
 )";
 

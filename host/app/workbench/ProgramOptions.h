@@ -54,6 +54,7 @@ struct ProgramOptions
     bool isStrict = false;       ///< Convert
     bool isForced = false;       ///< Run, Lisp, Convert: files are written whatever other programs do with them
     bool isBinary = false;       ///< Convert: a DXF file is written in the binary form
+    bool isRecovering = false;   ///< Window, Run, Convert: drawings are opened as far as they are sound
     bool withJson = false;       ///< Convert
     PictureOptions picture;      ///< Convert
     QString pictureFolder;

@@ -49,7 +49,7 @@ ReadResult Drawing::fromBytes(QByteArray bytes)
 {
     IndexResult indexed = indexFile(std::move(bytes));
     if (!indexed.file)
-        return {nullptr, indexed.error};
+        return {nullptr, indexed.error, indexed.isDamaged};
     return {std::unique_ptr<Drawing>(new Drawing(std::move(*indexed.file))), {}};
 }
 

@@ -49,6 +49,7 @@ struct ReadResult
 {
     std::unique_ptr<Drawing> drawing; ///< null when the file could not be read
     Diagnostic error;                 ///< meaningful when there is no drawing
+    bool isDamaged = false; ///< there is no drawing, but the file began as one: recoverFile() may open what is sound
 
     explicit operator bool() const { return drawing != nullptr; }
 };

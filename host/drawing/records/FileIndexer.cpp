@@ -6,16 +6,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The text of a line for a message: short, and nothing unprintable.
-QString quoted(QByteArrayView line)
-{
-    constexpr qsizetype longest = 40;
-    QString text;
-    for (const char c : line.first(std::min(longest, line.size())))
-        text += c >= 0x20 && c < 0x7F ? QChar::fromLatin1(c) : QLatin1Char('?');
-    return u"\"%1%2\""_s.arg(text, line.size() > longest ? u"..."_s : QString());
-}
-
 /// Cuts one file. The state is what is open while records go by.
 class Indexer
 {
@@ -30,7 +20,7 @@ public:
     {
         const bool isDone = m_lineEnds == LineEnds::LineFeed ? cut<LineEnds::LineFeed>() : cut<LineEnds::Any>();
         if (!isDone)
-            return {std::nullopt, m_error};
+            return {std::nullopt, m_error, isValid(m_sectionRecord)};
         findStyle();
         indexHandles();
         return {std::move(m_file), {}};
@@ -121,7 +111,7 @@ bool Indexer::cut()
 
 bool Indexer::badCode(const char *begin, const char *end)
 {
-    const QString text = u"group code expected, found "_s + quoted(QByteArrayView(begin, end));
+    const QString text = u"group code expected, found "_s + quotedLine(QByteArrayView(begin, end));
     return fail(isValid(m_sectionRecord) ? text : u"this is not a DXF file: "_s + text);
 }
 
@@ -170,7 +160,7 @@ bool Indexer::startRecord(const char *begin, QByteArrayView type)
         return fail(u"%1 inside a section: ENDSEC is missing"_s.arg(QString::fromLatin1(type).toUpper()));
     switch (m_section) {
     case Section::Header:
-        return fail(u"%1 stands in the header section"_s.arg(quoted(type)));
+        return fail(u"%1 stands in the header section"_s.arg(quotedLine(type)));
     case Section::Tables:
         return startInTables(begin, type);
     case Section::Blocks:
@@ -203,8 +193,8 @@ bool Indexer::startOutside(const char *begin, QByteArrayView type)
         return true;
     }
     if (!isValid(m_sectionRecord))
-        return fail(u"this is not a DXF file: section expected, found "_s + quoted(type));
-    return fail(u"%1 stands outside of the sections"_s.arg(quoted(type)));
+        return fail(u"this is not a DXF file: section expected, found "_s + quotedLine(type));
+    return fail(u"%1 stands outside of the sections"_s.arg(quotedLine(type)));
 }
 
 bool Indexer::startInTables(const char *begin, QByteArrayView type)
@@ -216,7 +206,7 @@ bool Indexer::startInTables(const char *begin, QByteArrayView type)
         return true;
     }
     if (!isValid(m_container))
-        return fail(u"%1 stands outside of the tables: TABLE is missing"_s.arg(quoted(type)));
+        return fail(u"%1 stands outside of the tables: TABLE is missing"_s.arg(quotedLine(type)));
     if (isWord(type, "ENDTAB")) {
         openRecord(begin, RecordKind::EndTable, m_container);
         m_container = noRecord;
@@ -237,7 +227,7 @@ bool Indexer::startInBlocks(const char *begin, QByteArrayView type)
         return true;
     }
     if (!isValid(m_container))
-        return fail(u"%1 stands outside of the blocks: BLOCK is missing"_s.arg(quoted(type)));
+        return fail(u"%1 stands outside of the blocks: BLOCK is missing"_s.arg(quotedLine(type)));
     if (isWord(type, "ENDBLK")) {
         openRecord(begin, RecordKind::EndBlock, m_container);
         m_container = noRecord;
@@ -342,7 +332,7 @@ IndexResult indexBinary(QByteArray bytes)
     BinaryAsText read = textFromBinary(bytes);
     bytes.clear();
     if (!read.error.isEmpty())
-        return {std::nullopt, atTag(read.tagCount + 1, read.error)};
+        return {std::nullopt, atTag(read.tagCount + 1, read.error), true};
     if (quint64(read.text.size()) >= 0xFFFFFFFFULL)
         return {std::nullopt, {0, u"the file is larger than 4 GB as text"_s}};
     IndexResult result = Indexer(read.text, LineEnds::LineFeed).run();

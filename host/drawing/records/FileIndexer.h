@@ -25,7 +25,8 @@ struct IndexedFile
 struct IndexResult
 {
     std::optional<IndexedFile> file;
-    Diagnostic error; ///< with the line at which reading ended; of no meaning when there is a file
+    Diagnostic error;       ///< with the line at which reading ended; of no meaning when there is a file
+    bool isDamaged = false; ///< there is no file, but the beginning of one
 };
 
 /// Cuts the bytes of a DXF file, text or binary, into records. One pass; every group code is looked at, values only

@@ -150,6 +150,11 @@ void Journal::markSaved()
     d->savedDepth = static_cast<qint64>(d->undoSteps.size());
 }
 
+void Journal::markUnsaved()
+{
+    d->savedDepth = -1;
+}
+
 void Journal::clear()
 {
     const bool wasModified = isModified();

@@ -54,6 +54,8 @@ public:
     /// The drawing as it is now is what the file holds. An open group becomes a step up to here, and goes on under the
     /// same name.
     void markSaved();
+    /// No file holds the drawing as it is: it is modified until it is saved.
+    void markUnsaved();
     /// Forgets all steps, keeps the drawing and whether it is modified. A modified drawing stays so until it is saved.
     void clear();
 

@@ -20,7 +20,7 @@ constexpr int greatestCode = 1071;
 constexpr int wideCodeMark = 255; ///< in front of a code of two bytes where codes have one
 constexpr qsizetype longestData = 255;
 
-bool isCode(int code)
+bool isKnownCode(int code)
 {
     return code >= leastCode && code <= greatestCode;
 }
@@ -126,7 +126,7 @@ QByteArrayView binaryMark()
 CodeSize codeSizeOf(QByteArrayView tags)
 {
     // In the narrow form the second byte is the first letter of a text, which makes no code together with the first.
-    return tags.size() >= 2 && isCode(qFromLittleEndian<qint16>(tags.data())) ? CodeSize::Two : CodeSize::One;
+    return tags.size() >= 2 && isKnownCode(qFromLittleEndian<qint16>(tags.data())) ? CodeSize::Two : CodeSize::One;
 }
 
 qsizetype BinaryTagReader::readCode(int &code) const
@@ -146,7 +146,7 @@ qsizetype BinaryTagReader::readCode(int &code) const
 bool BinaryTagReader::read(BinaryTag &tag)
 {
     const qsizetype begin = readCode(tag.code);
-    if (begin == 0 || !isCode(tag.code))
+    if (begin == 0 || !isKnownCode(tag.code))
         return false;
     const TagType type = tagType(tag.code);
     qsizetype valueBegin = begin;
@@ -172,8 +172,8 @@ QString BinaryTagReader::problem() const
 {
     int code = 0;
     const bool isWhole = readCode(code) > 0;
-    return isWhole && !isCode(code) ? u"group code expected, found %1"_s.arg(code)
-                                    : u"the file is cut off: it ends before EOF"_s;
+    return isWhole && !isKnownCode(code) ? u"group code expected, found %1"_s.arg(code)
+                                         : u"the file is cut off: it ends before EOF"_s;
 }
 
 bool appendAsText(QByteArray &text, const BinaryTag &tag, CodeSize codeSize)

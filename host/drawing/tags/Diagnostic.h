@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArrayView>
 #include <QString>
 
 namespace host::drawing {
@@ -13,5 +14,8 @@ struct Diagnostic
     /// "line 1234: text", or the text alone when there is no line.
     QString message() const;
 };
+
+/// The text of a line in quotes for a message: short, and nothing unprintable.
+QString quotedLine(QByteArrayView line);
 
 } // namespace host::drawing

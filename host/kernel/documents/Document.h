@@ -102,6 +102,9 @@ public:
 
     /// Full path of the file; empty for a drawing that was never saved.
     QString path() const { return m_drawing->path(); }
+    /// The damaged file that the drawing was recovered from, which it does not replace; empty for other drawings.
+    const QString &damagedFile() const { return m_damagedFile; }
+    void setDamagedFile(const QString &path) { m_damagedFile = path; }
     /// File name, or "Drawing1" for a new one.
     QString title() const;
     /// Whether it differs from what was opened or saved last; undone changes do not count.
@@ -256,6 +259,7 @@ private:
     std::unique_ptr<drawing::Drawing> m_drawing;
     DrawingClaim m_claim;
     QString m_untitledName;
+    QString m_damagedFile;
     UndoSteps m_undoSteps;
     std::unique_ptr<SystemVariables> m_variables;
     std::unique_ptr<UserInput> m_userInput;

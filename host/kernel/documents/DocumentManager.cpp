@@ -3,10 +3,12 @@
 #include "files/Leftovers.h"
 #include "files/qt/Files.h"
 #include "host/drawing/file/NewDrawing.h"
+#include "host/drawing/file/Recovery.h"
 #include "host/kernel/documents/Session.h"
 #include "host/kernel/platform/Services.h"
 
 #include <QDir>
+#include <QFileInfo>
 
 namespace host::kernel {
 
@@ -22,20 +24,34 @@ OpenOutcome DocumentManager::open(const QString &path, OpenMode mode)
 {
     if (Document *open = documentOf(path)) {
         setActive(open);
-        return {open, {}, {}};
+        return {open, {}};
     }
     const bool isForced = mode == OpenMode::Alone && m_session.overrule() == Overrule::Obstacles;
     DrawingClaim claim(path, isForced ? OpenMode::Anyway : mode);
     if (claim.holder() && !claim.isReadOnly())
-        return {nullptr, openElsewhere(path, *claim.holder()).text, claim.holder()};
+        return {nullptr, openElsewhere(path, *claim.holder()).text, {}, claim.holder()};
     drawing::ReadResult read = drawing::Drawing::open(path);
     if (!read)
-        return {nullptr, QStringLiteral("%1: %2").arg(path, read.error.message()), {}};
+        return {nullptr, QStringLiteral("%1: %2").arg(path, drawing::openingError(read))};
     claim.setContent(*read.drawing);
     const QString file = claim.file();
     Document *document = add(std::move(read.drawing), std::move(claim));
     tellLeftovers(*document, file);
-    return {document, {}, {}};
+    return {document, {}};
+}
+
+OpenOutcome DocumentManager::openRecovered(const QString &path)
+{
+    constexpr qsizetype longestList = 200;
+    drawing::Recovered recovered = drawing::recoverFile(path);
+    if (!recovered)
+        return {nullptr, QStringLiteral("%1: %2").arg(path, recovered.error.message())};
+    const QString name = QStringLiteral("%1 (recovered)").arg(QFileInfo(path).fileName());
+    Document *document = add(std::move(recovered.drawing), {}, name);
+    document->setDamagedFile(path);
+    const QStringList told = recovered.report.lines(longestList);
+    document->print(u'\n' + told.join(u'\n') + u'\n');
+    return {document, {}, told};
 }
 
 /// Takes away what a save that was killed left beside the file, and tells of a whole copy.
@@ -61,9 +77,10 @@ Document *DocumentManager::create()
     return add(drawing::newDrawing(), {});
 }
 
-Document *DocumentManager::add(std::unique_ptr<drawing::Drawing> drawing, DrawingClaim claim)
+Document *DocumentManager::add(std::unique_ptr<drawing::Drawing> drawing, DrawingClaim claim, const QString &name)
 {
-    const QString untitled = drawing->path().isEmpty() ? QStringLiteral("Drawing%1").arg(++m_untitled) : QString();
+    const bool isNew = drawing->path().isEmpty() && name.isEmpty();
+    const QString untitled = isNew ? QStringLiteral("Drawing%1").arg(++m_untitled) : name;
     m_documents.push_back(std::make_unique<Document>(m_session, std::move(drawing), std::move(claim), untitled));
     Document *document = m_documents.back().get();
     setActive(document);

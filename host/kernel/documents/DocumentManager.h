@@ -15,9 +15,10 @@ class Session;
 /// What came of opening a drawing.
 struct OpenOutcome
 {
-    Document *document = nullptr;     ///< null when the file could not be read
-    QString error;                    ///< a sentence that names the file
-    std::optional<LockHolder> holder; ///< why there is no document: another process has the file open
+    Document *document = nullptr;       ///< null when the file could not be read
+    QString error;                      ///< a sentence that names the file
+    QStringList recovered{};            ///< what opening a damaged file dropped and mended, a sentence each
+    std::optional<LockHolder> holder{}; ///< why there is no document: another process has the file open
 
     explicit operator bool() const { return document != nullptr; }
 };
@@ -37,6 +38,9 @@ public:
     /// Opens a DXF file and makes it the active document. A file that is open already becomes active, and is not read
     /// again. What a save that was killed left beside the file is taken away, and told in the document.
     OpenOutcome open(const QString &path, OpenMode mode = OpenMode::Alone);
+    /// Opens what is sound of a damaged file as a drawing that has no file yet and differs from what any file holds:
+    /// "plan.dxf (recovered)". It is never saved under the path of the damaged one. What was dropped is printed in it.
+    OpenOutcome openRecovered(const QString &path);
     /// The document whose file the path leads to, by whatever links; null when there is none.
     Document *documentOf(const QString &path) const;
     /// A new empty drawing, which becomes active.
@@ -68,7 +72,7 @@ signals:
     void aboutToClose(host::kernel::Document *document);
 
 private:
-    Document *add(std::unique_ptr<drawing::Drawing> drawing, DrawingClaim claim);
+    Document *add(std::unique_ptr<drawing::Drawing> drawing, DrawingClaim claim, const QString &name = {});
     static void tellLeftovers(Document &document, const QString &path);
     void remove(Document *document);
     template <typename Call>

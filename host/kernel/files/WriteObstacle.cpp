@@ -34,6 +34,9 @@ std::optional<WriteObstacle> ownObstacle(const QString &path, DrawingClaim &clai
 std::optional<WriteObstacle> findObstacle(const QString &path, Session *session, Document *writer)
 {
     const QString shown = QDir::toNativeSeparators(path);
+    if (const auto identity = identityOf(path); writer && identity && identity == identityOf(writer->damagedFile()))
+        return {{Kind::Damaged, u"%1 is the damaged file that this drawing was recovered from; save it under another "
+                                "name."_s.arg(shown)}};
     if (writer && writer->claim().isOf(path))
         return ownObstacle(shown, writer->claim());
     // A link may lead elsewhere by now; what is there is not what was opened.

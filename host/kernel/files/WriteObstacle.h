@@ -20,6 +20,7 @@ struct WriteObstacle
         OpenHere,      ///< another drawing that is open in this program
         OpenElsewhere, ///< open in another process
         ReadOnly,      ///< the drawing's own, which was opened for reading only
+        Damaged,       ///< the file that the drawing was recovered from
         Changed,       ///< the drawing's own; something else has written it since
         Gone           ///< the drawing's own; nothing is there any more
     };
@@ -28,7 +29,7 @@ struct WriteObstacle
     QString text; ///< a sentence that names the file
 
     /// Whoever is asked may have the file written all the same.
-    bool mayBeOverruled() const { return kind != Kind::OpenHere && kind != Kind::ReadOnly; }
+    bool mayBeOverruled() const { return kind != Kind::OpenHere && kind != Kind::ReadOnly && kind != Kind::Damaged; }
 };
 
 /// Whether something is known by what a drawing's file must not be replaced.

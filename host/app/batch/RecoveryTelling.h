@@ -1,0 +1,17 @@
+#pragma once
+
+#include "host/drawing/file/RecoveryReport.h"
+
+class QJsonObject;
+
+namespace host::app {
+
+/// What recovering a drawing dropped, mended and added, on standard error: the first 200 steps, a line each, and the
+/// sums.
+void tellRecovery(const QString &path, const drawing::RecoveryReport &report);
+
+/// All of it: "dropped" with a number for each type, "mended", "added", and "steps" with what was done to what, why,
+/// how often and in which lines ("tag" and "byte" for a binary file).
+QJsonObject recoveryObject(const drawing::RecoveryReport &report);
+
+} // namespace host::app
