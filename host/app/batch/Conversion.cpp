@@ -119,6 +119,9 @@ ConversionInput recoverInput(const ProgramOptions &options)
         writeMessage(native(options.input) + u": "_s + recovered.error.message());
     else
         tellRecovery(options.input, recovered.report);
+    // What the drawing names is looked for beside the file; nothing is saved there.
+    if (recovered)
+        recovered.drawing->setPath(options.input);
     return {std::move(recovered.drawing), std::move(recovered.report)};
 }
 
