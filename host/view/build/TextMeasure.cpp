@@ -1,12 +1,11 @@
 #include "host/view/build/TextMeasure.h"
 
+#include "host/drawing/math/Angles.h"
 #include "host/drawing/tags/TagReader.h"
 #include "host/drawing/tags/TagWriter.h"
 #include "host/view/build/DisplayBuilder.h"
 #include "host/view/build/Scene.h"
 #include "host/view/display/DisplayBoxes.h"
-
-#include <numbers>
 
 namespace host::view {
 
@@ -42,7 +41,7 @@ double directionOf(const TagList &tags)
     const Vec3 span = tags.point(11) - tags.point(10);
     if ((kind == 3 || kind == 5) && span.length() > 0.0)
         return std::atan2(span.y, span.x);
-    return tags.real(50) * std::numbers::pi / 180.0;
+    return tags.real(50) * drawing::radians;
 }
 
 Matrix ownFrame(const TagList &tags, const Vec3 &normal)
@@ -87,7 +86,7 @@ Box TextMeasure::lineBox(const FieldList &fields)
             return;
         for (const double y : {letters.top(), letters.bottom()}) {
             box.add(map.point({0.0, y, 0.0}));
-            box.add(map.point({run.width, y, 0.0}));
+            box.add(map.point({letters.right(), y, 0.0}));
         }
     });
     return box;

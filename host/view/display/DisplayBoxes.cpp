@@ -105,7 +105,9 @@ QRectF letterBox(Fonts &fonts, const TextRun &run)
     const drawing::Vec2 reach = fonts.reach(run.font, run.text);
     const double low = reach.x < -overshoot ? reach.x : 0.0;
     const double high = reach.y > 1.0 + overshoot ? reach.y : 1.0;
-    return {0.0, low, run.width, high - low};
+    // A stroke font's last letter counts without the room behind it, as it does where texts are aligned.
+    const double right = fonts.isStroked(run.font) ? fonts.inkWidth(run.font, run.text) : run.width;
+    return {0.0, low, right, high - low};
 }
 
 Box mappedBox(const Box &box, const Matrix &map)
