@@ -18,6 +18,7 @@ std::vector<CommandRow> writeBlockCommands();
 std::vector<CommandRow> layerCommands();
 std::vector<CommandRow> linetypeCommands();
 std::vector<CommandRow> shapeCommands();
+std::vector<CommandRow> layoutCommands();
 std::vector<CommandRow> purgeCommands();
 std::vector<CommandRow> referenceCommands();
 std::vector<CommandRow> fileCommands();

@@ -65,8 +65,7 @@ CommandTask drawOrder(CommandContext &context)
             co_return;
     }
     drawing::Drawing &drawing = context.drawing();
-    const Entities all =
-        view::drawOrder(drawing, view::readSortHandles(drawing), drawing.entities().inSpace(currentSpace(drawing)));
+    const Entities all = view::drawOrder(drawing, view::readSortHandles(drawing), currentEntities(drawing));
     if (!drawing::setDrawOrder(drawing, reordered(all, chosen.entities, where, references)))
         context.print(u"\nA drawing of this version keeps no draw order."_s);
 }

@@ -149,7 +149,7 @@ void createPieces(CommandContext &context, const Wanted &wanted, const InsertPla
     const drawing::Block block = *drawing.blocks().get(wanted.block);
     std::vector<RecordId> pieces;
     for (const RecordId entity : drawing.children(block.record))
-        pieces.push_back(drawing::copyEntityTo(drawing, entity, currentSpace(drawing)));
+        pieces.push_back(copyToCurrent(drawing, entity));
     transformAll(context, pieces, placementMatrix(context, block.basePoint, placement));
     if (wanted.isNew)
         drawing.blocks().erase(block.record);

@@ -20,7 +20,7 @@ using drawing::Vec3;
 drawing::Box extents(CommandContext &context)
 {
     const drawing::Drawing &drawing = context.drawing();
-    return drawing::spaceBox(drawing, drawing.entities().inSpace(currentSpace(drawing)));
+    return drawing::spaceBox(drawing, currentEntities(drawing));
 }
 
 /// What is drawn and the limits.

@@ -5,6 +5,7 @@
 #include "host/drawing/records/Tables.h"
 #include "host/functions/EntityChange.h"
 #include "host/functions/FunctionGroups.h"
+#include "host/kernel/documents/CurrentSpace.h"
 #include "host/kernel/documents/Document.h"
 #include "host/kernel/lisp/EntityList.h"
 #include "host/kernel/lisp/EntityMaker.h"
@@ -185,15 +186,24 @@ Value entupd(Arguments &args)
     return documentOf(args).drawing().isAlive(recordAt(args, 0)) ? args[0] : Value();
 }
 
-// (entlast) -> the last entity of the drawing that is not a part of another, nil for an empty drawing.
+/// The last entity of a section or block; noRecord when it has none, or is none.
+RecordId lastWithin(const drawing::Drawing &drawing, RecordId container)
+{
+    RecordId last = isValid(container) ? drawing.previous(drawing.endOf(container)) : drawing::noRecord;
+    while (isValid(last) && (drawing.kind(last) == RecordKind::Child || drawing.kind(last) == RecordKind::EndChildren))
+        last = drawing.parent(last);
+    return isValid(last) && drawing.kind(last) == RecordKind::Entity ? last : drawing::noRecord;
+}
+
+// (entlast) -> the last entity of the drawing that is not a part of another, nil for an empty drawing. While a sheet
+// that rests in its block is current, the last one there, if there is any.
 Value entlast(Arguments &args)
 {
     const drawing::Drawing &drawing = documentOf(args).drawing();
-    const RecordId section = drawing.sectionRecord(drawing::Section::Entities);
-    RecordId last = isValid(section) ? drawing.previous(drawing.endOf(section)) : drawing::noRecord;
-    while (isValid(last) && (drawing.kind(last) == RecordKind::Child || drawing.kind(last) == RecordKind::EndChildren))
-        last = drawing.parent(last);
-    return isValid(last) && drawing.kind(last) == RecordKind::Entity ? toLisp(last) : Value();
+    RecordId last = lastWithin(drawing, restingSheet(drawing));
+    if (!isValid(last))
+        last = lastWithin(drawing, drawing.sectionRecord(drawing::Section::Entities));
+    return isValid(last) ? toLisp(last) : Value();
 }
 
 // (entnext [entity]) -> the next entity, going into the parts of a POLYLINE or INSERT; in a block up to its end.

@@ -21,15 +21,6 @@ namespace {
 constexpr int blockCode = 330;
 constexpr int viewTargetCode = 17;
 
-std::optional<LayoutTab> findLayout(const Drawing &drawing, const QString &name)
-{
-    for (LayoutTab &layout : layoutTabs(drawing)) {
-        if (layout.name.compare(name, Qt::CaseInsensitive) == 0)
-            return std::move(layout);
-    }
-    return std::nullopt;
-}
-
 /// The first viewport of a sheet stands for the sheet itself.
 bool isSheetItself(const Drawing &drawing, RecordId entity)
 {

@@ -125,6 +125,12 @@ void copyPicture(Drawing &drawing, RecordId dimension)
     drawing.setFields(dimension, fields);
 }
 
+/// Groups that say again where an entity stands: paper space, and the layout's name.
+bool isOfPlace(const Field &field)
+{
+    return field.code == 67 || field.code == 410;
+}
+
 RecordId copyInto(Drawing &drawing, RecordId entity, RecordId container, Handle owner)
 {
     const std::vector<RecordId> children = drawing.children(entity);
@@ -161,6 +167,19 @@ RecordId copyEntity(Drawing &drawing, RecordId entity)
     return copyInto(drawing, entity, drawing.parent(entity), drawing.owner(entity));
 }
 
+RecordId copyEntityInto(Drawing &drawing, RecordId entity, RecordId block)
+{
+    const RecordId entry = drawing.blocks().read(block).tableEntry;
+    if (!drawing.isAlive(entity) || drawing.kind(entity) != RecordKind::Entity)
+        return noRecord;
+    const JournalGroup group(drawing.journal(), {});
+    const RecordId copy = copyInto(drawing, entity, block, isValid(entry) ? drawing.handle(entry) : Handle{});
+    FieldList fields = drawing.fields(copy);
+    std::erase_if(fields, isOfPlace);
+    drawing.setFields(copy, fields);
+    return copy;
+}
+
 RecordId copyEntityTo(Drawing &drawing, RecordId entity, Space space)
 {
     if (!drawing.isAlive(entity) || drawing.kind(entity) != RecordKind::Entity)
@@ -171,7 +190,7 @@ RecordId copyEntityTo(Drawing &drawing, RecordId entity, Space space)
     const Handle owner = isValid(entry) ? drawing.handle(entry) : Handle{};
     const RecordId copy = copyInto(drawing, entity, ensureSection(drawing, Section::Entities), owner);
     FieldList fields = drawing.fields(copy);
-    std::erase_if(fields, [](const Field &field) { return field.code == 67; });
+    std::erase_if(fields, isOfPlace);
     if (space == Space::Paper)
         fields.insert(std::ranges::find(fields, 8, &Field::code), {67, qint64(1)});
     drawing.setFields(copy, fields);

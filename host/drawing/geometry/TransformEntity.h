@@ -15,5 +15,7 @@ bool transformEntity(Drawing &drawing, RecordId entity, const Matrix &matrix);
 RecordId copyEntity(Drawing &drawing, RecordId entity);
 /// As copyEntity(), but into a space, wherever the entity stands.
 RecordId copyEntityTo(Drawing &drawing, RecordId entity, Space space);
+/// The same into a block or the sheet that rests in it.
+RecordId copyEntityInto(Drawing &drawing, RecordId entity, RecordId block);
 
 } // namespace host::drawing

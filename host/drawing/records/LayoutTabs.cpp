@@ -94,6 +94,14 @@ std::vector<LayoutTab> layoutTabs(const Drawing &drawing)
     return result;
 }
 
+std::optional<LayoutTab> findLayout(const Drawing &drawing, const QString &name)
+{
+    for (const LayoutTab &tab : layoutTabs(drawing))
+        if (tab.name.compare(name, Qt::CaseInsensitive) == 0)
+            return tab;
+    return {};
+}
+
 std::vector<RecordId> layoutEntities(const Drawing &drawing, const LayoutTab &layout)
 {
     if (layout.isModel())

@@ -2,6 +2,7 @@
 
 #include "host/drawing/records/Drawing.h"
 
+#include <optional>
 #include <vector>
 
 namespace host::drawing {
@@ -19,6 +20,9 @@ struct LayoutTab
 
 /// The tabs in their order. A drawing older than R2000 has no layouts: its paper space counts as "Layout1".
 std::vector<LayoutTab> layoutTabs(const Drawing &drawing);
+
+/// The tab of that name in any letter case; nothing when there is none.
+std::optional<LayoutTab> findLayout(const Drawing &drawing, const QString &name);
 
 /// What is drawn on a layout, in drawing order. Of the sheet in use and of model space that stands in the ENTITIES
 /// section, of other sheets in their blocks.

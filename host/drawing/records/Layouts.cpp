@@ -46,6 +46,43 @@ QString Layouts::ofEntity(RecordId entity) const
     return m_drawing.entities().space(entity) == Space::Paper ? paperName() : u"Model"_s;
 }
 
+RecordId Layouts::currentSheet() const
+{
+    return m_drawing.isAlive(m_sheet) && known().byBlock.contains(m_sheet) ? m_sheet : noRecord;
+}
+
+QString Layouts::currentName() const
+{
+    const RecordId sheet = currentSheet();
+    return isValid(sheet) ? ofBlock(sheet) : paperName();
+}
+
+RecordId Layouts::currentLayout() const
+{
+    const RecordId sheet = currentSheet();
+    return isValid(sheet) ? known().byBlock.value(sheet).record : paperLayout();
+}
+
+bool Layouts::setCurrentSheet(const QString &name)
+{
+    if (name.compare(paperName(), Qt::CaseInsensitive) == 0) {
+        m_sheet = noRecord;
+        return true;
+    }
+    const RecordId block = blockOf(name);
+    m_sheet = isValid(block) ? block : m_sheet;
+    return isValid(block);
+}
+
+RecordId Layouts::blockOf(const QString &name) const
+{
+    const Known &all = known();
+    for (auto it = all.byBlock.cbegin(); it != all.byBlock.cend(); ++it)
+        if (it->name.compare(name, Qt::CaseInsensitive) == 0 && name.compare(u"Model", Qt::CaseInsensitive) != 0)
+            return it.key();
+    return noRecord;
+}
+
 std::vector<RecordId> Layouts::blocks() const
 {
     std::vector<RecordId> blocks = m_drawing.blocks().all();

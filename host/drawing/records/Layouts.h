@@ -30,6 +30,16 @@ public:
     /// use are empty, their entities standing in the ENTITIES section; others hold the layout's entities.
     std::vector<RecordId> blocks() const;
 
+    // The sheet that is looked at and drawn on, which is no part of the file: it begins as the one in use, and is that
+    // again when the chosen one is gone.
+    /// The block with its entities; noRecord for the paper space in use, whose entities stand elsewhere.
+    RecordId currentSheet() const;
+    QString currentName() const;
+    /// Its object; noRecord in drawings without layouts.
+    RecordId currentLayout() const;
+    /// By name in any letter case. False when no sheet has it.
+    bool setCurrentSheet(const QString &name);
+
 private:
     struct Layout
     {
@@ -43,9 +53,11 @@ private:
         Layout paper;
     };
     const Known &known() const;
+    RecordId blockOf(const QString &name) const;
     Known read() const;
 
     Drawing &m_drawing;
+    RecordId m_sheet = noRecord; ///< the block that was chosen; noRecord for the paper space in use
     mutable Known m_known;
     mutable std::array<quint64, 3> m_revisions{~quint64(0)}; ///< of objects, and of the structure of tables and blocks
 };

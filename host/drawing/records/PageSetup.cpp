@@ -141,12 +141,4 @@ std::optional<Box> namedView(const Drawing &drawing, const QString &name)
     return boxBetween(centre - half, centre + half);
 }
 
-std::optional<LayoutTab> findLayout(const Drawing &drawing, const QString &name)
-{
-    for (const LayoutTab &tab : layoutTabs(drawing))
-        if (tab.name.compare(name, Qt::CaseInsensitive) == 0)
-            return tab;
-    return {};
-}
-
 } // namespace host::drawing

@@ -57,7 +57,4 @@ PageSetup readPageSetup(const Drawing &drawing, const LayoutTab &layout);
 std::optional<Box> layoutLimits(const Drawing &drawing, const LayoutTab &layout);
 std::optional<Box> namedView(const Drawing &drawing, const QString &name);
 
-/// The tab of that name in any letter case; nothing when there is none.
-std::optional<LayoutTab> findLayout(const Drawing &drawing, const QString &name);
-
 } // namespace host::drawing

@@ -1,5 +1,7 @@
 #include "host/kernel/documents/CurrentSpace.h"
 
+#include "host/drawing/geometry/TransformEntity.h"
+#include "host/drawing/records/Blocks.h"
 #include "host/drawing/records/HeaderVariables.h"
 #include "host/drawing/records/Layouts.h"
 
@@ -21,7 +23,7 @@ drawing::Space currentSpace(const drawing::Drawing &drawing)
 
 QString currentLayout(const drawing::Drawing &drawing)
 {
-    return currentSpace(drawing) == drawing::Space::Model ? model() : drawing.layouts().paperName();
+    return currentSpace(drawing) == drawing::Space::Model ? model() : drawing.layouts().currentName();
 }
 
 QString layoutName(const drawing::Drawing &drawing, const QString &name)
@@ -29,12 +31,64 @@ QString layoutName(const drawing::Drawing &drawing, const QString &name)
     for (const QString &known : {model(), drawing.layouts().paperName()})
         if (known.compare(name, Qt::CaseInsensitive) == 0)
             return known;
+    for (const drawing::RecordId block : drawing.layouts().blocks())
+        if (const QString known = drawing.layouts().ofBlock(block);
+            !known.isEmpty() && known.compare(name, Qt::CaseInsensitive) == 0)
+            return known;
     return {};
+}
+
+bool setCurrentLayout(drawing::Drawing &drawing, const QString &name)
+{
+    const bool isModel = model().compare(name, Qt::CaseInsensitive) == 0;
+    if (!isModel && !drawing.layouts().setCurrentSheet(name))
+        return false;
+    drawing.header().set(u"$TILEMODE", drawing::Field{70, qint64(isModel)});
+    return true;
+}
+
+drawing::RecordId restingSheet(const drawing::Drawing &drawing)
+{
+    return currentSpace(drawing) == drawing::Space::Paper ? drawing.layouts().currentSheet() : drawing::noRecord;
+}
+
+QString currentSpaceBlock(const drawing::Drawing &drawing)
+{
+    const drawing::RecordId sheet = restingSheet(drawing);
+    if (isValid(sheet))
+        return drawing.blocks().name(sheet);
+    return currentSpace(drawing) == drawing::Space::Model ? QStringLiteral("*Model_Space")
+                                                          : QStringLiteral("*Paper_Space");
+}
+
+std::vector<drawing::RecordId> currentEntities(const drawing::Drawing &drawing)
+{
+    const drawing::RecordId sheet = restingSheet(drawing);
+    return isValid(sheet) ? drawing.children(sheet) : drawing.entities().inSpace(currentSpace(drawing));
+}
+
+drawing::CreateResult createOnCurrent(drawing::Drawing &drawing, const drawing::FieldList &fields,
+                                      const std::vector<drawing::FieldList> &children)
+{
+    drawing::Entities &entities = drawing.entities();
+    const drawing::RecordId sheet = restingSheet(drawing);
+    if (isValid(sheet))
+        return children.empty() ? entities.createInBlock(sheet, fields)
+                                : entities.createComplexInBlock(sheet, fields, children);
+    return children.empty() ? entities.create(fields, currentSpace(drawing))
+                            : entities.createComplex(fields, children, currentSpace(drawing));
+}
+
+drawing::RecordId copyToCurrent(drawing::Drawing &drawing, drawing::RecordId entity)
+{
+    const drawing::RecordId sheet = restingSheet(drawing);
+    return isValid(sheet) ? drawing::copyEntityInto(drawing, entity, sheet)
+                          : drawing::copyEntityTo(drawing, entity, currentSpace(drawing));
 }
 
 std::optional<drawing::Vec2> layoutLimit(const drawing::Drawing &drawing, int code)
 {
-    const drawing::RecordId layout = drawing.layouts().paperLayout();
+    const drawing::RecordId layout = drawing.layouts().currentLayout();
     if (!isValid(layout))
         return {};
     return drawing.tags(layout).point(code).xy();
@@ -42,12 +96,17 @@ std::optional<drawing::Vec2> layoutLimit(const drawing::Drawing &drawing, int co
 
 void setLayoutLimit(drawing::Drawing &drawing, int code, const drawing::Vec2 &corner)
 {
-    const drawing::RecordId layout = drawing.layouts().paperLayout();
+    const drawing::RecordId layout = drawing.layouts().currentLayout();
     if (!isValid(layout))
         return;
     drawing::FieldList fields = drawing.fields(layout);
     drawing::setField(fields, code, corner);
     drawing.setFields(layout, fields);
+}
+
+bool isSheetInHeader(const drawing::Drawing &drawing)
+{
+    return !isValid(drawing.layouts().currentSheet());
 }
 
 } // namespace host::kernel

@@ -6,18 +6,39 @@
 
 namespace host::kernel {
 
-/// The space that TILEMODE makes current: new entities go there, "all" and picks look there.
+/// The space that TILEMODE makes current: model space, or the sheet that was chosen last.
 drawing::Space currentSpace(const drawing::Drawing &drawing);
 
-/// Name of the layout tab that is current: "Model" or that of the paper space in use.
+/// Name of the layout tab that is current: "Model" or that of the sheet.
 QString currentLayout(const drawing::Drawing &drawing);
 
-/// The layout's name as the drawing spells it: "Model", or the paper space in use; empty for any other name.
+/// The layout's name as the drawing spells it; empty for a name of none.
 QString layoutName(const drawing::Drawing &drawing, const QString &name);
 
-/// A corner of the limits of the layout whose paper space is in use: the lower left under group 10, the upper right
-/// under 11. Nothing in drawings without layouts.
+/// Makes a layout current by its name. Of the drawing nothing changes but TILEMODE: which sheet it is that is current
+/// is known to this program alone. False when there is no such layout.
+bool setCurrentLayout(drawing::Drawing &drawing, const QString &name);
+
+/// The block of the current layout where its entities stand in it; noRecord for those in the ENTITIES section.
+drawing::RecordId restingSheet(const drawing::Drawing &drawing);
+
+/// Name of the block that holds what is drawn on the current layout: "*Model_Space", "*Paper_Space" ...
+QString currentSpaceBlock(const drawing::Drawing &drawing);
+
+// What is drawn on the current layout, where new entities go, "all" and picks look.
+/// In file order. Looks at every entity, but for a sheet that rests in its block.
+std::vector<drawing::RecordId> currentEntities(const drawing::Drawing &drawing);
+/// As Entities::create() and createComplex(); without children a simple entity.
+drawing::CreateResult createOnCurrent(drawing::Drawing &drawing, const drawing::FieldList &fields,
+                                      const std::vector<drawing::FieldList> &children = {});
+/// A copy of an entity from anywhere; noRecord when it cannot be copied.
+drawing::RecordId copyToCurrent(drawing::Drawing &drawing, drawing::RecordId entity);
+
+/// A corner of the limits of the sheet that is current: the lower left under group 10, the upper right under 11.
+/// Nothing in drawings without layouts.
 std::optional<drawing::Vec2> layoutLimit(const drawing::Drawing &drawing, int code);
 void setLayoutLimit(drawing::Drawing &drawing, int code, const drawing::Vec2 &corner);
+/// Whether that sheet is the one whose limits the header repeats.
+bool isSheetInHeader(const drawing::Drawing &drawing);
 
 } // namespace host::kernel

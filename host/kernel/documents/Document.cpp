@@ -5,6 +5,7 @@
 #include "host/drawing/records/HeaderVariables.h"
 #include "host/drawing/records/Journal.h"
 #include "host/drawing/records/Tables.h"
+#include "host/kernel/documents/CurrentSpace.h"
 #include "host/kernel/documents/ExpressionSurroundings.h"
 #include "host/kernel/documents/Session.h"
 #include "host/kernel/files/DrawingBackup.h"
@@ -57,7 +58,7 @@ Document::Document(Session &session, std::unique_ptr<drawing::Drawing> drawing, 
       m_userInput(std::make_unique<UserInput>(*this)), m_selectionInput(std::make_unique<SelectionInput>(*this)),
       m_database(std::make_unique<DrawingDatabase>(*this)), m_console(std::make_unique<LispConsole>(*this)),
       m_boxes(std::make_unique<drawing::BoxCache>(*m_drawing)), m_entityMaker(std::make_unique<EntityMaker>(*this)),
-      m_view(viewOf(*m_drawing))
+      m_view(viewOf(*m_drawing)), m_shownLayout(currentLayout(*m_drawing))
 {
 }
 
@@ -194,6 +195,25 @@ void Document::zoomTo(const drawing::Box &box)
     view.centre = ((box.low + box.high) * 0.5).xy();
     view.height = height > 0.0 && std::isfinite(height) ? height : m_view.height;
     setView(view);
+}
+
+void Document::followLayout()
+{
+    const QString now = currentLayout(*m_drawing);
+    if (now == m_shownLayout)
+        return;
+    m_layoutViews.insert(m_shownLayout, m_view);
+    m_shownLayout = now;
+    // What is chosen elsewhere is not to be seen.
+    setImpliedSelection({});
+    if (const auto known = m_layoutViews.constFind(now); known != m_layoutViews.constEnd()) {
+        ViewState view = *known;
+        view.pixels = m_view.pixels;
+        setView(view);
+    } else {
+        zoomTo(drawing::spaceBox(*m_drawing, currentEntities(*m_drawing)));
+    }
+    emit layoutChanged();
 }
 
 void Document::rememberView(const ViewState &view)

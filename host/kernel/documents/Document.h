@@ -153,6 +153,9 @@ public:
     void setView(const ViewState &view);
     /// Shows a box of world coordinates with a margin; an empty box does nothing.
     void zoomTo(const drawing::Box &box);
+    /// Sees to the view when another layout has become current: the one that was shown of it before, otherwise all of
+    /// it. Runs end with this.
+    void followLayout();
     /// Keeps a view for showEarlierView(), as one of the last ten.
     void rememberView(const ViewState &view);
     /// Shows the view that was remembered last, and forgets it. False when there is none.
@@ -231,6 +234,8 @@ signals:
     void printed(const QString &text);
     /// view() is another.
     void viewChanged();
+    /// Another layout is current.
+    void layoutChanged();
     /// What is shown is to be made anew, with what it takes from outside the drawing.
     void regenerated();
     // Whether or not the entities are others than before.
@@ -280,7 +285,9 @@ private:
     QString m_lastCommand;  ///< for an empty line
     int m_runs = 0;         ///< under way, one inside the other
     ViewState m_view;
-    std::vector<ViewState> m_earlierViews; ///< oldest first
+    std::vector<ViewState> m_earlierViews;   ///< oldest first
+    QString m_shownLayout;                   ///< whose view m_view is
+    QHash<QString, ViewState> m_layoutViews; ///< of the layouts that were shown before
     std::vector<drawing::RecordId> m_highlighted;
     std::vector<drawing::RecordId> m_previousSelection;
     std::vector<drawing::RecordId> m_impliedSelection;

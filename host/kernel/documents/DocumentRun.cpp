@@ -33,6 +33,7 @@ public:
         m_document.m_userInput->forgetOptions();
         m_document.m_undoSteps.endRun();
         if (--m_document.m_runs == 0) {
+            m_document.followLayout();
             emit m_document.runEnded();
             emit m_document.titleChanged();
         }

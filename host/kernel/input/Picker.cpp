@@ -79,14 +79,14 @@ std::vector<RecordId> Picker::visible() const
 {
     const drawing::Drawing &drawing = m_document.drawing();
     const auto isHidden = [](const drawing::Layer &layer) { return layer.isOff || layer.isFrozen; };
-    return without(drawing, drawing.entities().inSpace(currentSpace(drawing)), layersThat(drawing, isHidden));
+    return without(drawing, currentEntities(drawing), layersThat(drawing, isHidden));
 }
 
 std::vector<RecordId> Picker::thawed() const
 {
     const drawing::Drawing &drawing = m_document.drawing();
     const auto isOut = [](const drawing::Layer &layer) { return layer.isFrozen || layer.isLocked; };
-    return without(drawing, drawing.entities().inSpace(currentSpace(drawing)), layersThat(drawing, isOut));
+    return without(drawing, currentEntities(drawing), layersThat(drawing, isOut));
 }
 
 RecordId Picker::entityAt(const Vec3 &point) const

@@ -51,12 +51,26 @@ bool hasParts(const QString &type, const FieldList &fields)
 RecordId restingLayoutOf(const drawing::Drawing &drawing, const FieldList &fields)
 {
     const QString wanted = textOf(fields, 410);
-    if (wanted.isEmpty() || !layoutName(drawing, wanted).isEmpty())
+    if (wanted.isEmpty() || wanted.compare(u"Model"_s, Qt::CaseInsensitive) == 0 ||
+        wanted.compare(drawing.layouts().paperName(), Qt::CaseInsensitive) == 0)
         return drawing::noRecord;
     for (const RecordId block : drawing.layouts().blocks())
         if (drawing.layouts().ofBlock(block).compare(wanted, Qt::CaseInsensitive) == 0)
             return block;
     return drawing::noRecord;
+}
+
+/// The half of the ENTITIES section that the fields ask for, by the name of a layout or by group 67; nothing where that
+/// leaves it to what is current.
+std::optional<drawing::Space> namedSpace(const drawing::Drawing &drawing, const FieldList &fields)
+{
+    const Field *paper = drawing::findField(fields, 67);
+    const bool isPaper = paper && paper->integer() != 0;
+    if (const QString layout = textOf(fields, 410); !layout.isEmpty() && !paper)
+        return layout.compare(u"Model"_s, Qt::CaseInsensitive) == 0 ? drawing::Space::Model : drawing::Space::Paper;
+    if (!paper || (isPaper && currentSpace(drawing) == drawing::Space::Paper && textOf(fields, 410).isEmpty()))
+        return {};
+    return isPaper ? drawing::Space::Paper : drawing::Space::Model;
 }
 
 /// The objects that programs can make, with the markers of their classes.
@@ -133,17 +147,16 @@ EntityMaker::Outcome EntityMaker::create(const FieldList &head, const std::vecto
     FieldList fields = head;
     if (!drawing::findField(fields, 8))
         fields.push_back({8, m_document.variables().text(u"CLAYER")});
-    const Field *paper = drawing::findField(fields, 67);
-    const drawing::Space space =
-        paper ? (paper->integer() ? drawing::Space::Paper : drawing::Space::Model) : currentSpace(drawing);
     const bool isComplex = parts && !parts->empty();
     drawing::CreateResult made;
     if (const RecordId block = restingLayoutOf(drawing, fields); isValid(block))
         made = isComplex ? drawing.entities().createComplexInBlock(block, fields, *parts)
                          : drawing.entities().createInBlock(block, fields);
+    else if (const auto space = namedSpace(drawing, fields))
+        made = isComplex ? drawing.entities().createComplex(fields, *parts, *space)
+                         : drawing.entities().create(fields, *space);
     else
-        made = isComplex ? drawing.entities().createComplex(fields, *parts, space)
-                         : drawing.entities().create(fields, space);
+        made = createOnCurrent(drawing, fields, isComplex ? *parts : std::vector<FieldList>());
     return made ? Outcome{true, made.record, {}, {}} : failed(made.error);
 }
 

@@ -171,7 +171,7 @@ public:
         if (!own)
             throw OdError(QStringLiteral("An entity of another host cannot be in the drawing."));
         drawing::Drawing &drawing = m_document.drawing();
-        const drawing::CreateResult made = drawing.entities().create(own->fields(), currentSpace(drawing));
+        const drawing::CreateResult made = createOnCurrent(drawing, own->fields());
         if (!made)
             throw OdError(made.error);
         return OdDbObjectId(static_cast<quint64>(made.record));

@@ -171,9 +171,7 @@ drawing::RecordId CommandContext::create(const FieldList &fields)
         fail(QStringLiteral("The numbers are too large."));
         return drawing::noRecord;
     }
-    drawing::Entities &entities = drawing().entities();
-    const drawing::CreateResult made =
-        entities.create(withCurrentProperties(drawing(), fields), currentSpace(drawing()));
+    const drawing::CreateResult made = createOnCurrent(drawing(), withCurrentProperties(drawing(), fields));
     if (!made)
         print(u'\n' + made.error);
     return made.record;
@@ -181,9 +179,7 @@ drawing::RecordId CommandContext::create(const FieldList &fields)
 
 drawing::RecordId CommandContext::createComplex(const FieldList &head, const std::vector<FieldList> &children)
 {
-    drawing::Entities &entities = drawing().entities();
-    const drawing::CreateResult made =
-        entities.createComplex(withCurrentProperties(drawing(), head), children, currentSpace(drawing()));
+    const drawing::CreateResult made = createOnCurrent(drawing(), withCurrentProperties(drawing(), head), children);
     if (!made)
         print(u'\n' + made.error);
     return made.record;

@@ -54,7 +54,7 @@ VariableValue logFilePath(const Document &document)
 drawing::Box extents(const Document &document)
 {
     const drawing::Drawing &drawing = document.drawing();
-    return drawing::spaceBox(drawing, drawing.entities().inSpace(currentSpace(drawing)));
+    return drawing::spaceBox(drawing, currentEntities(drawing));
 }
 
 VariableValue undoControl(const Document &document)
@@ -177,6 +177,7 @@ std::vector<HostVariable> preferences()
             host("HPSPACE", 1.0),
             host("INSNAME", text("")),
             host("LISPINIT", 1, 0, 1),
+            host("LWDEFAULT", 25, 0, 211),
             host("MENUECHO", 0, 0, 15),
             host("MODEMACRO", text("")),
             host("NOMUTT", 0, 0, 1),

@@ -178,8 +178,7 @@ void SystemVariables::setInternally(QStringView name, const VariableValue &value
     if (upper == QStringLiteral("CECOLOR")) {
         header.set(u"$CECOLOR", Field{62, colourNumber(std::get<QString>(value))});
     } else if (upper == QStringLiteral("CTAB")) {
-        const bool isModel = std::get<QString>(value).compare(QStringLiteral("Model"), Qt::CaseInsensitive) == 0;
-        header.set(u"$TILEMODE", Field{70, qint64(isModel)});
+        setCurrentLayout(m_document.drawing(), std::get<QString>(value));
     } else if (upper == QStringLiteral("LOGFILEPATH")) {
         const QString folder = std::get<QString>(value);
         m_values.insert(upper, folder.endsWith(u'/') ? folder : folder + u'/');
@@ -195,13 +194,18 @@ void SystemVariables::setInternally(QStringView name, const VariableValue &value
         const QString headed = headerName(m_document.drawing(), upper);
         const std::optional<Field> present = header.get(headed);
         const int code = present ? present->code : variable ? variable->code : 1;
-        header.set(headed, headerField(code, value));
+        const bool isOfOther =
+            isOfSheet(m_document.drawing(), upper) && layoutCode(upper) != 0 && !isSheetInHeader(m_document.drawing());
+        if (!isOfOther)
+            header.set(headed, headerField(code, value));
         if (const auto *limit = std::get_if<Vec2>(&value); limit && isOfSheet(m_document.drawing(), upper))
             setLayoutLimit(m_document.drawing(), layoutCode(upper), *limit);
         // Old files may have no header at all: there the value lasts as long as the document is open.
         if (!header.get(headed))
             m_values.insert(upper, value);
     }
+    if (upper == QStringLiteral("CTAB") || upper == QStringLiteral("TILEMODE"))
+        m_document.followLayout();
 }
 
 void SystemVariables::storeObjectSettings()

@@ -1,0 +1,158 @@
+#include "host/commands/Commands.h"
+#include "host/drawing/editing/LayoutEdits.h"
+#include "host/drawing/records/Blocks.h"
+#include "host/kernel/documents/CurrentSpace.h"
+#include "host/kernel/documents/Document.h"
+#include "host/kernel/running/CommandContext.h"
+#include "host/kernel/running/Dialogue.h"
+
+using namespace Qt::StringLiterals;
+
+namespace host::kernel {
+
+namespace {
+
+using drawing::LayoutTab;
+
+/// The layout that an answer names, or the current one for an empty answer; nothing, and told, where there is none.
+std::optional<LayoutTab> layoutNamed(CommandContext &context, const PromptReply &reply)
+{
+    const QString name = reply.hasValue() ? reply.text.trimmed() : currentLayout(context.drawing());
+    std::optional<LayoutTab> found = drawing::findLayout(context.drawing(), name);
+    if (!found)
+        context.fail(u"Layout \"%1\" not found."_s.arg(name));
+    return found;
+}
+
+/// The sheet that is offered where model space is no answer.
+QString offeredSheet(CommandContext &context)
+{
+    return currentSpace(context.drawing()) == drawing::Space::Paper ? currentLayout(context.drawing()) : QString();
+}
+
+void listLayouts(CommandContext &context)
+{
+    const std::vector<LayoutTab> tabs = drawing::layoutTabs(context.drawing());
+    context.print(u"\nActive layouts:"_s);
+    for (const LayoutTab &tab : tabs)
+        context.print(u"\nLayout: %1\tBlock name: %2."_s.arg(
+            tab.name, isValid(tab.block) ? context.drawing().blocks().name(tab.block) : u"-"_s));
+    context.print(u"\n%1 active layout(s) found."_s.arg(tabs.size()));
+}
+
+/// The outcome of an edit: a reason to end with, or a line for the user.
+void tell(CommandContext &context, const QString &obstacle, const QString &done)
+{
+    if (obstacle.isEmpty())
+        context.print(u'\n' + done);
+    else
+        context.fail(obstacle);
+}
+
+Dialogue<bool> copyOne(CommandContext &context)
+{
+    const QString offered = offeredSheet(context);
+    const PromptReply which = co_await context.text(u"Enter name of layout to copy: "_s, offered);
+    if (which.kind == ReplyKind::Cancelled)
+        co_return false;
+    const std::optional<LayoutTab> layout = layoutNamed(context, which);
+    if (!layout)
+        co_return false;
+    const QString usual = drawing::freeCopyName(context.drawing(), layout->name);
+    const PromptReply name = co_await context.text(u"Enter layout name for copy: "_s, usual);
+    if (name.kind == ReplyKind::Cancelled)
+        co_return false;
+    const QString chosen = name.hasValue() ? name.text.trimmed() : usual;
+    tell(context, drawing::copyLayout(context.drawing(), *layout, chosen),
+         u"Layout \"%1\" copied to \"%2\"."_s.arg(layout->name, chosen));
+    co_return true;
+}
+
+Dialogue<bool> makeOne(CommandContext &context)
+{
+    const QString usual = drawing::freeLayoutName(context.drawing());
+    const PromptReply name = co_await context.text(u"Enter new Layout name: "_s, usual);
+    if (name.kind == ReplyKind::Cancelled)
+        co_return false;
+    const QString chosen = name.hasValue() ? name.text.trimmed() : usual;
+    tell(context, drawing::newLayout(context.drawing(), chosen), u"Layout \"%1\" created."_s.arg(chosen));
+    co_return true;
+}
+
+Dialogue<bool> renameOne(CommandContext &context)
+{
+    const PromptReply which = co_await context.text(u"Enter layout to rename: "_s, offeredSheet(context));
+    if (which.kind == ReplyKind::Cancelled)
+        co_return false;
+    const std::optional<LayoutTab> layout = layoutNamed(context, which);
+    if (!layout)
+        co_return false;
+    const PromptReply name = co_await context.text(u"Enter new layout name: "_s);
+    if (!name.hasValue())
+        co_return false;
+    const QString chosen = name.text.trimmed();
+    tell(context, drawing::renameLayout(context.drawing(), *layout, chosen),
+         u"Layout \"%1\" renamed to \"%2\"."_s.arg(layout->name, chosen));
+    co_return true;
+}
+
+/// Where the deleted one was current, the sheet that is in use then becomes so.
+Dialogue<bool> deleteOne(CommandContext &context)
+{
+    const PromptReply which = co_await context.text(u"Enter name of layout to delete: "_s, offeredSheet(context));
+    if (which.kind == ReplyKind::Cancelled)
+        co_return false;
+    const std::optional<LayoutTab> layout = layoutNamed(context, which);
+    if (!layout)
+        co_return false;
+    tell(context, drawing::deleteLayout(context.drawing(), *layout), u"Layout \"%1\" deleted."_s.arg(layout->name));
+    context.document().followLayout();
+    co_return true;
+}
+
+Dialogue<bool> makeCurrent(CommandContext &context)
+{
+    const PromptReply which =
+        co_await context.text(u"Enter layout to make current: "_s, currentLayout(context.drawing()));
+    if (which.kind == ReplyKind::Cancelled)
+        co_return false;
+    if (const std::optional<LayoutTab> layout = layoutNamed(context, which)) {
+        setCurrentLayout(context.drawing(), layout->name);
+        context.document().followLayout();
+    }
+    co_return true;
+}
+
+CommandTask layout(CommandContext &context)
+{
+    const PromptReply option =
+        co_await context.keyword(u"Enter layout option [Copy/Delete/New/Template/Rename/SAveas/Set/?]: "_s,
+                                 u"Copy Delete New Template Rename SAveas Set ?"_s, u"Set"_s);
+    if (option.kind == ReplyKind::Cancelled)
+        co_return;
+    const QString what = option.hasValue() ? option.text : u"Set"_s;
+    if (what == u"Copy")
+        co_await copyOne(context);
+    else if (what == u"Delete")
+        co_await deleteOne(context);
+    else if (what == u"New")
+        co_await makeOne(context);
+    else if (what == u"Rename")
+        co_await renameOne(context);
+    else if (what == u"Set")
+        co_await makeCurrent(context);
+    else if (what == u"?")
+        listLayouts(context);
+    else
+        context.fail(u"Layouts of other drawings are neither read nor written here."_s);
+}
+
+} // namespace
+
+std::vector<CommandRow> layoutCommands()
+{
+    return {{"LAYOUT", layout, "Makes, copies, renames and deletes layouts and chooses the current one"},
+            {"-LAYOUT", layout, "As LAYOUT; there is no window for it"}};
+}
+
+} // namespace host::kernel

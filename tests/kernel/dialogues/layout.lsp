@@ -1,0 +1,25 @@
+;! LAYOUT|N|Plan ;> Layout "Plan" created. ;? (tabs) ;= ("Model" "Layout1" "Plan")
+;! -LAYOUT|New| ;> Layout "Layout2" created ;? (tabs) ;= ("Model" "Layout1" "Layout2")
+;! LAYOUT|N|layout1 ;> Layout "layout1" already exists. ;? (tabs) ;= ("Model" "Layout1")
+;! LAYOUT|N|A*B ;> A layout cannot be called "A*B". ;? (tabs) ;= ("Model" "Layout1")
+(plan) ;! LAYOUT|R|plan|Ground floor ;> Layout "Plan" renamed to "Ground floor". ;? (tabs) ;= ("Model" "Layout1" "Ground floor")
+(plan) ;! LAYOUT|R|Plan|Ground ;> renamed ;? (on-sheet "Ground") ;= (("LINE" 7.0))
+(plan) ;! LAYOUT|R|Plan|PLAN ;> renamed ;? (tabs) ;= ("Model" "Layout1" "PLAN")
+(plan) ;! LAYOUT|R|Model|M ;> Model space cannot be renamed. ;? (tabs) ;= ("Model" "Layout1" "Plan")
+(plan) ;! LAYOUT|R|Plan|Layout1 ;> Layout "Layout1" already exists. ;? (tabs) ;= ("Model" "Layout1" "Plan")
+(plan) ;! LAYOUT|D|Plan ;> Layout "Plan" deleted. ;? (tabs) ;= ("Model" "Layout1")
+(plan) ;! LAYOUT|D|Layout1 ;> Layout "Layout1" deleted. ;? (list (tabs) (on-sheet "Plan")) ;= (("Model" "Plan") (("LINE" 7.0)))
+;! LAYOUT|D|Layout1 ;> The last layout cannot be deleted. ;? (tabs) ;= ("Model" "Layout1")
+(plan) ;! LAYOUT|D|Model ;> Model space cannot be deleted. ;? (tabs) ;= ("Model" "Layout1" "Plan")
+(plan) ;! LAYOUT|D|Other ;> Layout "Other" not found. ;? (tabs) ;= ("Model" "Layout1" "Plan")
+(plan) ;! LAYOUT|C|Plan|Twin ;> Layout "Plan" copied to "Twin". ;? (list (tabs) (on-sheet "Plan") (on-sheet "Twin"))
+;= (("Model" "Layout1" "Plan" "Twin") (("LINE" 7.0)) (("LINE" 7.0)))
+(plan) ;! LAYOUT|C|Plan| ;> copied to "Plan (2)" ;? (on-sheet "Plan (2)") ;= (("LINE" 7.0))
+;! LAYOUT|C|Layout1|Twin ;> copied ;? (page "Twin" 44) ;= 210.0
+(plan) ;! LAYOUT|C|Model|Twin ;> Model space cannot be copied. ;? (tabs) ;= ("Model" "Layout1" "Plan")
+(plan) ;! LAYOUT|S|plan ;? (list (getvar "CTAB") (getvar "TILEMODE")) ;= ("Plan" 0)
+(plan) ;! LAYOUT||layout1 ;? (getvar "CTAB") ;= "Layout1"
+;! LAYOUT|S|none ;> Layout "none" not found. ;? (getvar "CTAB") ;= "Model"
+;! LAYOUT|? ;> Layout: Model	Block name: *Model_Space. ;? (getvar "CTAB") ;= "Model"
+;! LAYOUT|T ;> Layouts of other drawings are neither read nor written here. ;? (tabs) ;= ("Model" "Layout1")
+;! LAYOUT|SA ;> Layouts of other drawings are neither read nor written here. ;? (tabs) ;= ("Model" "Layout1")
