@@ -117,6 +117,46 @@ TEST_F(MainWindowTest, WorksWithoutModuleAndSaysSo)
     EXPECT_EQ(history().count(u"sample tool"_s), 2) << "an empty line repeats it";
 }
 
+TEST_F(MainWindowTest, LayoutsHaveTabsBelowTheDrawing)
+{
+    window->workbench().documents().create();
+    auto *tabs = window->findChild<QTabBar *>(u"layouts"_s);
+    ASSERT_TRUE(tabs);
+    const auto texts = [tabs] {
+        QStringList all;
+        for (int i = 0; i < tabs->count(); ++i)
+            all.append(tabs->tabText(i));
+        return all.join(u'|');
+    };
+    EXPECT_EQ(texts(), u"Model|Layout1"_s);
+    lisp(u"(command \"LAYOUT\" \"N\" \"Ground floor & first floor of the whole house\" \"CIRCLE\" '(0 0) 5)"_s);
+    EXPECT_EQ(texts(), u"Model|Layout1|Ground floor && first floor of t\u2026"_s);
+    EXPECT_TRUE(tabs->tabToolTip(2).contains(u"of the whole house"_s));
+
+    window->canvas()->zoomBy(3.0);
+    const double height = window->document()->view().height;
+    tabs->setCurrentIndex(2);
+    EXPECT_EQ(lisp(u"(substr (getvar \"CTAB\") 1 6)"_s), u"\"Ground\""_s);
+    EXPECT_EQ(window->canvas()->report().drawn, 0);
+    lisp(u"(command \"LINE\" '(10 10) '(20 20) \"\")"_s);
+    EXPECT_EQ(window->canvas()->report().drawn, 1);
+    lisp(u"(command \"ZOOM\" \"C\" '(15 15) 40)"_s);
+    click(15, 15);
+    EXPECT_EQ(window->document()->impliedSelection().size(), 1u) << "picks look at the sheet";
+    tabs->setCurrentIndex(0);
+    EXPECT_TRUE(window->document()->impliedSelection().empty());
+    EXPECT_DOUBLE_EQ(window->document()->view().height, height) << "each keeps its view";
+    tabs->setCurrentIndex(2);
+    EXPECT_DOUBLE_EQ(window->document()->view().height, 40.0);
+
+    lisp(u"(setvar \"CTAB\" \"layout1\")"_s);
+    EXPECT_EQ(tabs->currentIndex(), 1);
+    while (window->document()->isModified() && window->document()->undoSteps().canUndo())
+        window->enter(u"U"_s);
+    EXPECT_EQ(texts(), u"Model|Layout1"_s) << "undone";
+    EXPECT_EQ(tabs->currentIndex(), 0);
+}
+
 TEST_F(MainWindowTest, EveryTabHasALispEngineOfItsOwn)
 {
     window->enter(u"(setq who \"first\")"_s);

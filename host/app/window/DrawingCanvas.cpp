@@ -2,6 +2,8 @@
 
 #include "host/app/window/PointerMarks.h"
 #include "host/drawing/records/HeaderVariables.h"
+#include "host/drawing/records/PageSetup.h"
+#include "host/kernel/documents/CurrentSpace.h"
 #include "host/kernel/documents/ExpressionSurroundings.h"
 #include "host/kernel/variables/SystemVariables.h"
 
@@ -38,6 +40,7 @@ DrawingCanvas::DrawingCanvas(kernel::Document &document, QWidget *parent)
     setMinimumSize(200, 120);
     connect(&m_picture, &ScenePicture::refined, this, qOverload<>(&QWidget::update));
     connect(&m_document, &kernel::Document::viewChanged, this, qOverload<>(&QWidget::update));
+    connect(&m_document, &kernel::Document::layoutChanged, this, qOverload<>(&QWidget::update));
     connect(&m_document, &kernel::Document::highlightChanged, this, &DrawingCanvas::updateMarks);
     connect(&m_document, &kernel::Document::impliedSelectionChanged, this, &DrawingCanvas::updateMarks);
     connect(&m_document, &kernel::Document::regenerated, this, [this] {
@@ -87,10 +90,9 @@ int DrawingCanvas::pickReach() const
     return std::clamp(m_document.variables().integer(u"PICKBOX", 3), 1, 50);
 }
 
-int DrawingCanvas::space() const
+int DrawingCanvas::space()
 {
-    const bool isModel = m_document.drawing().header().integer(u"$TILEMODE", 1) != 0;
-    return isModel ? view::Scene::modelSpace : view::Scene::paperSpace;
+    return m_scene.block(kernel::currentSpaceBlock(m_document.drawing()));
 }
 
 void DrawingCanvas::setGround(view::Ground ground)
@@ -168,8 +170,13 @@ void DrawingCanvas::updateMarks()
 void DrawingCanvas::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    m_picture.paint(painter,
-                    {.view = transform(), .space = space(), .ground = m_ground, .pixelRatio = devicePixelRatioF()});
+    const bool hasWeights = m_document.variables().integer(u"LWDISPLAY") != 0;
+    m_picture.paint(painter, {.view = transform(),
+                              .space = space(),
+                              .ground = m_ground,
+                              .pixelRatio = devicePixelRatioF(),
+                              .pixelsPerMillimetre = hasWeights ? logicalDpiX() / drawing::millimetresPerInch : 0.0,
+                              .defaultWeight = m_document.variables().integer(u"LWDEFAULT", 25)});
     if (m_picture.isProvisional())
         paintUnfinishedMark(painter, tr("simplified"), size(), m_ground);
     paintOverlay(painter);

@@ -93,8 +93,8 @@ private:
     /// The document's view for this size: the document keeps it, not the canvas.
     view::ViewTransform transform() const;
     void setTransform(const view::ViewTransform &transform);
-    /// Model space or the current paper space, as a number of the scene.
-    int space() const;
+    /// Model space or the current sheet, as a number of the scene.
+    int space();
     /// Tells the picture what is highlighted, chosen or dragged.
     void updateMarks();
     /// What moves with the pointer; nothing while that is elsewhere.

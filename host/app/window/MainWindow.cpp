@@ -5,14 +5,17 @@
 #include "host/app/window/DrawingCanvas.h"
 #include "host/app/window/DrawingStatus.h"
 #include "host/app/window/DrawingTabs.h"
+#include "host/app/window/LayoutTabs.h"
 #include "host/app/window/Preferences.h"
 #include "host/app/window/TrustQuestion.h"
+#include "host/kernel/variables/SystemVariables.h"
 
 #include <QAction>
 #include <QCloseEvent>
 #include <QDockWidget>
 #include <QStatusBar>
 #include <QTabBar>
+#include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
 
@@ -27,7 +30,7 @@ constexpr int reportDelay = 150;
 
 MainWindow::MainWindow(const WorkbenchOptions &options)
     : m_workbench(std::make_unique<Workbench>(options, this)), m_files(*m_workbench, *this),
-      m_tabs(new DrawingTabs(this)), m_commandLine(new CommandLine(this)),
+      m_tabs(new DrawingTabs(this)), m_layouts(new LayoutTabs(this)), m_commandLine(new CommandLine(this)),
       m_commandDock(new QDockWidget(tr("Command line"), this)),
       m_runner(std::make_unique<CommandRunner>(m_workbench->session(), *m_commandLine)),
       m_status(std::make_unique<DrawingStatus>(*statusBar()))
@@ -35,7 +38,12 @@ MainWindow::MainWindow(const WorkbenchOptions &options)
     setObjectName(u"mainWindow"_s);
     resize(1280, 800);
     setAcceptDrops(true);
-    setCentralWidget(m_tabs);
+    setCentralWidget(new QWidget(this));
+    auto *middle = new QVBoxLayout(centralWidget());
+    middle->setContentsMargins(0, 0, 0, 0);
+    middle->setSpacing(0);
+    middle->addWidget(m_tabs, 1);
+    middle->addWidget(m_layouts);
     m_commandDock->setObjectName(u"commandDock"_s);
     m_commandDock->setWidget(m_commandLine);
     m_commandDock->setFeatures(QDockWidget::DockWidgetMovable | QDockWidget::DockWidgetFloatable);
@@ -48,6 +56,7 @@ MainWindow::MainWindow(const WorkbenchOptions &options)
     connect(m_tabs, &QTabWidget::currentChanged, this, &MainWindow::activateTab);
     connect(m_tabs, &QTabWidget::tabCloseRequested, this, &MainWindow::closeTab);
     connect(m_tabs, &DrawingTabs::manyEnded, this, [this] { showActive(document()); });
+    connect(m_layouts, &LayoutTabs::chosen, this, &MainWindow::showLayout);
     kernel::DocumentManager &documents = m_workbench->documents();
     connect(&documents, &kernel::DocumentManager::opened, this, &MainWindow::addTab);
     connect(&documents, &kernel::DocumentManager::aboutToClose, m_tabs, &DrawingTabs::remove);
@@ -184,6 +193,14 @@ void MainWindow::showActive(kernel::Document *document)
     updateState();
 }
 
+void MainWindow::showLayout(const QString &name)
+{
+    kernel::Document *active = document();
+    if (active && !m_runner->isBusy())
+        active->runAs(u"LAYOUT"_s, [&] { active->variables().set(u"CTAB", name); });
+    updateState();
+}
+
 bool MainWindow::mayClose(int index)
 {
     DrawingCanvas *tab = m_tabs->canvas(index);
@@ -264,6 +281,8 @@ void MainWindow::updateState()
     for (QAction *action : m_idleActions)
         action->setEnabled(isIdle);
     m_tabs->tabBar()->setEnabled(isIdle);
+    m_layouts->setEnabled(isIdle);
+    m_layouts->show(active);
     m_undo->setEnabled(isIdle && active && active->undoSteps().canUndo());
     m_redo->setEnabled(isIdle && active && active->undoSteps().canRedo());
     updateWindowTitle();

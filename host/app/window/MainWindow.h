@@ -23,6 +23,7 @@ class CommandRunner;
 class DrawingCanvas;
 class DrawingStatus;
 class DrawingTabs;
+class LayoutTabs;
 
 /// The window: drawings in tabs, one command line for all, menus and a status bar.
 ///
@@ -111,6 +112,8 @@ private:
     void activateTab(int index);
     /// The document became the active one: its tab is shown.
     void showActive(kernel::Document *document);
+    /// The user chose the layout, as CTAB would.
+    void showLayout(const QString &name);
     /// Whether the user lets the tab's drawing go; it may have been saved for that.
     bool mayClose(int index);
     void closeTab(int index);
@@ -142,6 +145,7 @@ private:
     std::unique_ptr<Workbench> m_workbench;
     FileActions m_files; ///< opening and saving, with their questions
     DrawingTabs *m_tabs;
+    LayoutTabs *m_layouts;      ///< of the drawing in front, below it
     CommandLine *m_commandLine; ///< owned by the dock, that by the window
     QDockWidget *m_commandDock;
     std::unique_ptr<CommandRunner> m_runner;

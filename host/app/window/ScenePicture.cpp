@@ -93,26 +93,32 @@ view::PaintOptions ScenePicture::options(const SceneLook &look) const
     options.ground = look.ground;
     options.highlighted = &m_highlighted;
     options.work = screenWork;
+    options.pixelsPerMillimetre = look.pixelsPerMillimetre;
     return options;
 }
 
 bool ScenePicture::isSameSheet(const SceneLook &look) const
 {
     return !m_shown.isNull() && look.space == m_look.space && look.ground == m_look.ground &&
+           look.pixelsPerMillimetre == m_look.pixelsPerMillimetre && look.defaultWeight == m_look.defaultWeight &&
            look.pixelRatio == m_look.pixelRatio && look.view.screenSize() == m_look.view.screenSize();
 }
 
 void ScenePicture::paint(QPainter &painter, const SceneLook &look)
 {
+    m_scene.appearance().setDefaultWeight(look.defaultWeight);
     const view::Damage damage = m_scene.takeDamage(look.space);
-    if (m_painting && (damage.isEverywhere || !damage.boxes.empty() || !isSameView(m_painting->look.view, look.view) ||
-                       m_painting->revision != m_scene.drawing().revision()))
+    if (m_painting &&
+        (damage.isEverywhere || !damage.boxes.empty() || !isSameView(m_painting->look.view, look.view) ||
+         m_painting->look.space != look.space || m_painting->look.pixelsPerMillimetre != look.pixelsPerMillimetre ||
+         m_painting->revision != m_scene.drawing().revision()))
         m_painting.reset();
     if (!isSameSheet(look)) {
         m_shown = {};
         m_isStale = true;
     }
-    m_isStale |= damage.isEverywhere;
+    // Wide lines reach beyond the boxes of what has changed.
+    m_isStale |= damage.isEverywhere || (look.pixelsPerMillimetre > 0.0 && !damage.boxes.empty());
     if (!m_isStale)
         repaintChanges(damage);
     const bool isRight = !m_isStale && (isSameView(m_look.view, look.view) || shiftTo(look));

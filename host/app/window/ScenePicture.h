@@ -17,6 +17,8 @@ struct SceneLook
     int space = view::Scene::modelSpace;
     view::Ground ground = view::Ground::Black;
     double pixelRatio = 1.0;
+    double pixelsPerMillimetre = 0.0; ///< of lineweights; 0: thin lines
+    int defaultWeight = 25;           ///< hundredths of a millimetre
 };
 
 /// The picture of a scene that a canvas shows.
