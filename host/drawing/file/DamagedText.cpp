@@ -1,6 +1,7 @@
 #include "host/drawing/file/DamagedText.h"
 
 #include "host/drawing/file/RecordTypes.h"
+#include "host/drawing/tags/Diagnostic.h"
 #include "host/drawing/tags/GroupCodes.h"
 #include "host/drawing/tags/Tag.h"
 

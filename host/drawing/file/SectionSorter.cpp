@@ -3,6 +3,7 @@
 #include "host/drawing/file/RecordTypes.h"
 #include "host/drawing/records/FileIndexer.h"
 
+#include <QHash>
 #include <QSet>
 
 #include <deque>
