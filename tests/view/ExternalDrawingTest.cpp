@@ -139,6 +139,20 @@ TEST_F(ExternalDrawing, StandsWhereItsBasePointSays)
     EXPECT_NEAR(box.high.x, 70.0, 1e-9);
 }
 
+TEST_F(ExternalDrawing, IsCutOffAtTheClipOfItsInsert)
+{
+    write(u"site.dxf"_s, {.entities = lineAt(50)});
+    const std::string identity = "|40 1|40 0|40 0|40 0|40 0|40 1|40 0|40 0|40 0|40 0|40 1|40 0";
+    const auto drawing = host({.entities = insertOf("SITE", "|102 {ACAD_XDICTIONARY|360 B1|102 }|10 0|20 0"),
+                               .blocks = referenceTo("SITE", "site.dxf"),
+                               .objects = "0 DICTIONARY|5 B1|3 ACAD_FILTER|360 B2|0 DICTIONARY|5 B2|3 SPATIAL|360 B3"
+                                          "|0 SPATIAL_FILTER|5 B3|70 2|10 40|20 40|10 60|20 60|210 0|220 0|230 1|11 0"
+                                          "|21 0|31 0|71 1|72 0|73 0" +
+                                          identity + identity});
+    Scene scene(*drawing);
+    expectInk(Rendering(scene, Scene::modelSpace), "50,50", "30,50 70,50");
+}
+
 TEST_F(ExternalDrawing, WithinAnotherIsShownButNoOverlayAndNoCircle)
 {
     write(u"a.dxf"_s, {.entities = lineAt(20) + "|" + insertOf("B") + "|" + insertOf("OVER") + "|" + insertOf("HOST"),

@@ -25,6 +25,7 @@ struct TypeRow
 
 constexpr std::array typeRows = {
     TypeRow{"LINE", buildLine, false, Making::Anywhere},
+    TypeRow{"3DLINE", buildLine, false, Making::Anywhere},
     TypeRow{"CIRCLE", buildCircle, false, Making::Anywhere},
     TypeRow{"ARC", buildArc, false, Making::Anywhere},
     TypeRow{"ELLIPSE", buildEllipse, false, Making::Anywhere},

@@ -41,8 +41,8 @@ Scene::Scene(const drawing::Drawing &drawing, drawing::MacroSurroundings surroun
 Scene::Scene(const drawing::Drawing &drawing, drawing::MacroSurroundings surroundings, Scene &host,
              const QString &prefix)
     : m_drawing(drawing), m_surroundings(std::move(surroundings)), m_host(&host), m_externalFiles(host.m_externalFiles),
-      m_fonts(host.m_fonts), m_shapes(m_surroundings.file), m_images(m_surroundings.file),
-      m_appearance(host.m_appearance, prefix), m_threads(host.m_threads)
+      m_fonts(host.m_fonts), m_shapes(m_surroundings.file), m_images(m_surroundings.file, host.m_images),
+      m_appearance(host.m_appearance, prefix), m_threads(host.m_threads), m_work(host.m_work)
 {
     begin();
 }
@@ -104,18 +104,31 @@ const ExternalView *Scene::external(int block)
     BlockDisplay &display = *m_blocks[static_cast<std::size_t>(block)];
     const auto definition = block > paperSpace ? m_drawing.blocks().get(display.name) : std::nullopt;
     // One whose content is in the drawing is a block as any other.
-    if (!definition || !definition->isExternal() || !m_drawing.children(definition->record).empty())
-        display.external.reset();
-    else if (!display.external || display.external->path != definition->externalPath)
+    const bool isOther = definition && definition->isExternal() && m_drawing.children(definition->record).empty();
+    if (display.external && (!isOther || display.external->path != definition->externalPath))
+        release(display);
+    if (isOther && !display.external)
         display.external = std::make_shared<ExternalView>(openExternal(*this, *definition));
     return display.external.get();
+}
+
+/// What went into the other drawing's shapes is given back.
+void Scene::release(BlockDisplay &block)
+{
+    if (block.external && block.external->scene) {
+        block.external->scene->forgetExternals();
+        block.external->scene->forgetEverything();
+    }
+    block.external.reset();
 }
 
 void Scene::forgetExternals()
 {
     bool hasSome = false;
-    for (const auto &block : m_blocks)
-        hasSome |= std::exchange(block->external, nullptr) != nullptr;
+    for (const auto &block : m_blocks) {
+        hasSome |= block->external != nullptr;
+        release(*block);
+    }
     if (hasSome)
         m_externalFiles->forget();
     m_changes.everything |= hasSome;

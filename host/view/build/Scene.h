@@ -167,6 +167,7 @@ private:
     void reloadStyles();
     bool hasChangedExternals() const;
     void forgetExternals();
+    static void release(BlockDisplay &block);
     void damage(BlockDisplay &block, const RecordSummary &record);
     void updateBoxes();
     std::vector<std::size_t> blocksShownBy(std::size_t block) const;
@@ -199,7 +200,8 @@ private:
     bool m_boxesStale = false;
     std::optional<SortHandles> m_sortHandles; ///< nothing: to be read again
     qint64 m_builtRecords = 0;
-    drawing::WorkBudget m_work{drawing::displayWork};
+    drawing::WorkBudget m_ownWork{drawing::displayWork};
+    drawing::WorkBudget &m_work = m_ownWork; ///< the host's, where there is one
 };
 
 } // namespace host::view

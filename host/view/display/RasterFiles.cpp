@@ -109,9 +109,9 @@ QImage RasterFiles::read(const QString &name)
     const QSize own = isKnownForm(reader.format()) ? reader.size() : QSize();
     if (own.isEmpty())
         return {};
-    m_readLeft -= qint64(own.width()) * own.height();
-    const QSize kept = keptSize(own, m_pixelsLeft / 2);
-    if (m_readLeft < 0 || kept.isEmpty())
+    m_limits->readLeft -= qint64(own.width()) * own.height();
+    const QSize kept = keptSize(own, m_limits->pixelsLeft / 2);
+    if (m_limits->readLeft < 0 || kept.isEmpty())
         return {};
     if (kept != own)
         reader.setScaledSize(kept);
@@ -120,22 +120,22 @@ QImage RasterFiles::read(const QString &name)
 
 std::shared_ptr<const RasterPixels> RasterFiles::find(const QString &name, RasterLook look)
 {
-    const std::scoped_lock lock(m_mutex);
+    const std::scoped_lock lock(m_limits->mutex);
     const QString key = u"%1/%2/%3"_s.arg(look.brightness).arg(look.contrast).arg(name);
     if (const auto known = m_known.constFind(key); known != m_known.constEnd())
         return *known;
     QImage image = read(name);
-    m_pixelsLeft -= qint64(image.width()) * image.height();
+    m_limits->pixelsLeft -= qint64(image.width()) * image.height();
     applyLook(image, look);
     return *m_known.insert(key, withLevels(std::move(image)));
 }
 
 void RasterFiles::forget()
 {
-    const std::scoped_lock lock(m_mutex);
+    const std::scoped_lock lock(m_limits->mutex);
     m_known.clear();
-    m_pixelsLeft = mostPixels;
-    m_readLeft = mostRead;
+    m_limits->pixelsLeft = Limits().pixelsLeft;
+    m_limits->readLeft = Limits().readLeft;
 }
 
 } // namespace host::view

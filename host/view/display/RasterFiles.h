@@ -38,7 +38,14 @@ struct RasterLook
 class RasterFiles
 {
 public:
-    explicit RasterFiles(drawing::FileFinder finder) : m_finder(std::move(finder)) {}
+    explicit RasterFiles(drawing::FileFinder finder) : m_finder(std::move(finder)), m_limits(std::make_shared<Limits>())
+    {
+    }
+    /// Of a drawing that is seen in another: what both keep counts together.
+    RasterFiles(drawing::FileFinder finder, const RasterFiles &ofHost)
+        : m_finder(std::move(finder)), m_limits(ofHost.m_limits)
+    {
+    }
 
     /// Null when there is no such file, none that may be read, or none that is a picture; that is kept in mind as well.
     std::shared_ptr<const RasterPixels> find(const QString &name, RasterLook look = {});
@@ -46,16 +53,18 @@ public:
     void forget();
 
 private:
-    static constexpr qint64 mostPixels = 64'000'000;
-    static constexpr qint64 mostRead = 1'000'000'000;
+    struct Limits
+    {
+        std::mutex mutex{};
+        qint64 pixelsLeft = 64'000'000;  ///< that may be kept
+        qint64 readLeft = 1'000'000'000; ///< that files may say they have
+    };
 
     QImage read(const QString &name);
 
     drawing::FileFinder m_finder;
-    std::mutex m_mutex;
+    std::shared_ptr<Limits> m_limits;
     QHash<QString, std::shared_ptr<const RasterPixels>> m_known; ///< by name and look
-    qint64 m_pixelsLeft = mostPixels;                            ///< that may be kept
-    qint64 m_readLeft = mostRead;                                ///< that files may say they have
 };
 
 } // namespace host::view
