@@ -7,6 +7,8 @@
 #include "host/view/build/VisibleExtents.h"
 #include "host/view/display/DisplayBoxes.h"
 
+#include <thread>
+
 namespace host::view {
 
 using namespace Qt::StringLiterals;
