@@ -270,12 +270,14 @@ bool ProxyDrawer::lightPolyline(ProxyBytes &bytes)
     const std::vector<PolylineVertex> vertices = lightVertices(bits, counts, elevation, width);
     if (!bits.isGood() || !areSound(vertices))
         return false;
-    const Matrix ocs = map() * Matrix::fromExtrusion(normal);
+    const Matrix ocs = Matrix::fromExtrusion(normal);
     const bool isClosed = (flags & LightIsClosed) != 0;
-    if (vertices.size() > 1 && hasWidth(vertices))
-        m_context.add(polylineBand(vertices, isClosed, ocs, m_context.work), m_style);
-    else
-        m_context.add(Stroke{polylineCurve(vertices, isClosed, ocs)}, m_style);
+    if (vertices.size() < 2 || !hasWidth(vertices))
+        return addShape(polylineCurve(vertices, isClosed, ocs), false);
+    Fill band = polylineBand(vertices, isClosed, map() * ocs, m_context.work);
+    if (!std::ranges::all_of(band.contours, [](const Curve &contour) { return areUsable(contour.points); }))
+        return false;
+    m_context.add(std::move(band), m_style);
     return true;
 }
 
