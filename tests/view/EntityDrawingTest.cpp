@@ -29,6 +29,27 @@ TEST(EntityDrawing, SpacesAndViewports)
     EXPECT_FALSE(paper.isInk(5, 2)) << "the model itself is not on the sheet";
 }
 
+TEST(EntityDrawing, ViewportsOfAllVersionsFreezeLayers)
+{
+    const std::string viewport = "0 VIEWPORT|8 0|67 1|10 50|20 40|40 60|41 40|68 2|69 2|";
+    const std::string own = "12 5|22 2|16 0|26 0|36 1|17 0|27 0|37 0|45 10|90 0|";
+    const std::string ofOld =
+        "1001 ACAD|1000 MVIEW|1002 {|1070 16|1010 0|1020 0|1030 0|1010 0|1020 0|1030 1|1040 0|1040 10"
+        "|1040 5|1040 2|1040 50|1040 0|1040 0|1070 0|1070 100|1070 1|1070 0|1070 0|1070 0|1070 0"
+        "|1070 0|1040 0|1040 0|1040 0|1040 1|1040 1|1040 1|1040 1|1070 0|1002 {|";
+    for (const std::string &form : {own + "331 A7", own + "341 A7", ofOld + "1003 hidden|1002 }|1002 }"}) {
+        const Rendering paper(
+            {.entities = viewport + form + "|0 LINE|8 0|10 0|20 2|11 10|21 2|0 INSERT|8 0|2 B|10 0|20 0",
+             .blocks = blockText("B", "0 LINE|8 HIDDEN|10 0|20 4|11 10|21 4|0 LINE|8 0|10 0|20 0|11 10"
+                                      "|21 0"),
+             .layers = "0 LAYER|5 A7|2 HIDDEN|70 0|62 7"},
+            {}, Scene::paperSpace);
+        EXPECT_TRUE(paper.isInk(50, 40)) << form;
+        EXPECT_TRUE(paper.isInk(50, 32)) << form;
+        EXPECT_FALSE(paper.isInk(50, 48)) << form;
+    }
+}
+
 TEST(EntityDrawing, SortHandlesOrderWhatCoversWhat)
 {
     const std::string red = "0 SOLID|5 A1|8 0|62 1|10 10|20 10|11 90|21 10|12 10|22 90|13 90|23 90";

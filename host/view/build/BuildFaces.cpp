@@ -1,5 +1,6 @@
 #include "host/view/build/DisplayBuilder.h"
 #include "host/view/build/Scene.h"
+#include "host/view/build/ViewportView.h"
 
 #include <array>
 #include <numbers>
@@ -25,57 +26,34 @@ void addArea(BuildContext &context, Path outline, FillKind kind)
     context.add(std::move(fill));
 }
 
-/// Numbers of a viewport's view, from the model to the sheet.
-struct ViewportView
-{
-    Vec3 center{};
-    double height = 0.0;
-    Matrix modelToSheet{};
-};
-
-ViewportView readView(const TagList &tags)
-{
-    ViewportView view{.center = tags.point(10), .height = tags.real(41)};
-    const Vec3 viewCenter = tags.point(12);
-    const double viewHeight = tags.real(45);
-    const double scale = view.height / viewHeight;
-    const Matrix display = Matrix::fromExtrusion(tags.point(16, {0.0, 0.0, 1.0}));
-    const Matrix toDisplay = display.inverted() * Matrix::translation(tags.point(17) * -1.0);
-    const Matrix turned = Matrix::rotation(tags.real(51) * std::numbers::pi / 180.0) * toDisplay;
-    view.modelToSheet = Matrix::translation(view.center) * Matrix::scaling({scale, scale, scale}) *
-                        Matrix::translation(viewCenter * -1.0) * turned;
-    return view;
-}
-
-std::vector<int> frozenLayers(const BuildContext &context, const TagList &tags)
+std::vector<int> frozenLayers(const BuildContext &context, const ViewportView &view)
 {
     std::vector<int> layers;
-    for (const Tag &tag : tags) {
-        if (tag.code != 331 && tag.code != 341)
-            continue;
-        const RecordId entry = context.drawing.find(tag.handle().value_or(drawing::Handle{}));
+    for (const drawing::Handle handle : view.frozenHandles) {
+        const RecordId entry = context.drawing.find(handle);
         if (isValid(entry) && context.drawing.isType(entry, "LAYER"))
             layers.push_back(context.appearance().layer(context.drawing.tags(entry).text(2)));
     }
+    for (const QString &name : view.frozenLayers)
+        layers.push_back(context.appearance().layer(name));
     std::ranges::sort(layers);
     return layers;
 }
 
-bool showsModel(const TagList &tags)
+bool isViewportOn(const TagList &tags)
 {
     constexpr qint64 isOff = 0x20000;
-    return tags.real(45) > 0.0 && tags.integer(68, 1) != 0 && (tags.integer(90) & isOff) == 0;
+    return tags.integer(68, 1) != 0 && (tags.integer(90) & isOff) == 0;
 }
 
-void addModelView(BuildContext &context, const TagList &tags, const Path &frame)
+void addModelView(BuildContext &context, const ViewportView &view, const Path &frame)
 {
-    const ViewportView view = readView(tags);
     auto reference = std::make_unique<Reference>();
     reference->block = Scene::modelSpace;
-    reference->placement = view.modelToSheet;
+    reference->placement = view.modelToSheet();
     reference->isViewport = true;
-    reference->hiddenLayers = frozenLayers(context, tags);
-    const Matrix toModel = view.modelToSheet.inverted();
+    reference->hiddenLayers = frozenLayers(context, view);
+    const Matrix toModel = reference->placement.inverted();
     for (const Vec3 &corner : frame)
         reference->clip.push_back(toModel.point(corner));
     if (areUsable(reference->clip))
@@ -121,14 +99,15 @@ bool buildViewport(BuildContext &context, const TagList &tags)
         context.display.isHidden = true;
         return true;
     }
-    const Vec3 center = tags.point(10);
-    const Vec3 half{tags.real(40) / 2.0, tags.real(41) / 2.0, 0.0};
+    const ViewportView view = readViewport(tags);
+    const Vec3 &center = view.center;
+    const Vec3 half{view.width / 2.0, view.height / 2.0, 0.0};
     const Path frame = {center - half, center + Vec3{half.x, -half.y, 0.0}, center + half,
                         center + Vec3{-half.x, half.y, 0.0}};
     if (!areUsable(frame))
         return false;
-    if (showsModel(tags))
-        addModelView(context, tags, frame);
+    if (isViewportOn(tags) && view.viewHeight > 0.0)
+        addModelView(context, view, frame);
     context.addStroke(closed(frame));
     return true;
 }

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "host/drawing/tags/TagList.h"
+#include "host/view/display/Display.h"
+
+#include <QStringList>
+
+namespace host::view {
+
+/// What a viewport looks at, however its version writes it: in groups of its own from R2000 on, before that in extended
+/// data of the application ACAD (MVIEW).
+struct ViewportView
+{
+    Vec3 center{}; ///< on the sheet
+    double width = 0.0;
+    double height = 0.0;
+    Vec3 target{};                 ///< what of the model is looked at
+    Vec3 direction{0.0, 0.0, 1.0}; ///< from there to the eye
+    Vec3 middle{};                 ///< of the view, in coordinates of the display
+    double twist = 0.0;            ///< radians
+    double viewHeight = 0.0;       ///< how much of the model is seen; 0: nothing
+    QStringList frozenLayers{};    ///< named ones, of the old form
+    std::vector<drawing::Handle> frozenHandles{};
+
+    /// Drawing units of the sheet for one of the model.
+    double scale() const { return height / viewHeight; }
+    Matrix modelToSheet() const;
+};
+
+ViewportView readViewport(const drawing::TagList &tags);
+
+} // namespace host::view
