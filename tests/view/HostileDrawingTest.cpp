@@ -77,6 +77,17 @@ std::vector<HostileRow> hostileRows()
         {"angles of a million turns",
          "0 ARC|8 0|10 50|20 50|40 30|50 -1e9|51 1e12|0 ELLIPSE|8 0|10 50|20 50|11 40|21 0|40 0.5|41 -1e8|42 1e9",
          true},
+        {"table whose cells claim all others",
+         "0 ACAD_TABLE|8 0|100 AcDbTable|10 0|20 90" + repeated("|141 1", 300) + repeated("|142 1", 300) +
+             repeated("|171 1|173 0|175 65535|176 65535", 90'000),
+         true},
+        {"dimension with a text of a hundred thousand letters",
+         "0 DIMENSION|8 0|70 32|10 90|20 50|13 10|23 10|14 90|24 10|1 " + repeated("<>A", 33'000), true},
+        {"leader with as many breaks as corners",
+         "0 MULTILEADER|8 0|100 AcDbMLeader|300 CONTEXT_DATA{|302 LEADER{|304 LEADER_LINE{" +
+             repeated("|10 10|20 10|10 90|20 50", 2'000) + repeated("|11 20|21 15|12 30|22 20", 2'000) +
+             "|305 }|303 }|301 }|170 1",
+         true},
         {"circle around the world", "0 CIRCLE|8 0|10 50|20 -1e9|40 1000000050", true},
         {"huge bulges",
          "0 LWPOLYLINE|8 0|90 3|70 1|43 1|10 10|20 10|42 1e300|10 90|20 10|42 -1e15|10 90|20 90|42 1e-300"},

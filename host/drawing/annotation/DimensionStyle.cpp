@@ -1,5 +1,6 @@
 #include "host/drawing/annotation/DimensionStyle.h"
 
+#include "host/drawing/annotation/AnnotationScale.h"
 #include "host/drawing/records/Symbols.h"
 #include "host/drawing/records/Tables.h"
 
@@ -201,6 +202,8 @@ DimensionStyle readDimensionStyle(const Drawing &drawing, const TagList &entity)
         }
     }
     takeOverrides(style, drawing, entity);
+    if (style.scale == 0.0)
+        style.scale = annotationFactor(drawing);
     // A style of a fixed height makes its texts that high whatever the dimension style says.
     if (const auto text = findTextStyle(drawing, style.textStyle); text && text->fixedHeight > 0.0)
         style.textHeight = text->fixedHeight / (style.scale > 0.0 ? style.scale : 1.0);

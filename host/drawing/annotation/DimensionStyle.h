@@ -95,7 +95,7 @@ struct DimensionStyle
 };
 
 /// The style that the entity names in group 3, with what its extended data (ACAD, DSTYLE) say in its place. Sizes that
-/// are no sizes (negative, beyond 1e12) count as left out; a scale of 0, which stands for that of the viewport, is 1.
+/// are no sizes (negative, beyond 1e12) count as left out; a scale of 0 stands for the annotation scale in use.
 /// Costs a pass over the style's tags for each group that it has.
 DimensionStyle readDimensionStyle(const Drawing &drawing, const TagList &entity);
 

@@ -2,6 +2,7 @@
 #include "host/drawing/math/Angles.h"
 #include "host/view/build/DisplayBuilder.h"
 
+#include <algorithm>
 #include <numbers>
 
 namespace host::view {
@@ -47,6 +48,33 @@ bool isInDimension(const BuildContext &context)
 {
     const RecordId block = context.drawing.parent(context.display.record);
     return context.drawing.tags(block).text(2).startsWith(QStringLiteral("*D"), Qt::CaseInsensitive);
+}
+
+/// The turns of a helix from its axis, its radii below and above, and the height of a turn.
+Path helixPath(const TagList &tags)
+{
+    constexpr double mostTurns = 500.0;
+    constexpr int piecesOfTurn = 36;
+    const Vec3 base = tags.point(10);
+    const Vec3 axis = drawing::normalized(tags.point(12, {0.0, 0.0, 1.0}));
+    const Vec3 from = tags.point(11) - base;
+    const Vec3 across = from - axis * dot(from, axis);
+    const double turns = tags.real(41);
+    const double radius = across.length();
+    if (!(turns > 0.0) || !(turns <= mostTurns) || !(radius > 0.0) || axis == Vec3{})
+        return {};
+    const Vec3 x = across * (1.0 / radius);
+    const Vec3 y = cross(axis, x) * (tags.integer(290, 1) != 0 ? 1.0 : -1.0);
+    const int pieces = static_cast<int>(turns * piecesOfTurn) + 1;
+    Path path;
+    for (int i = 0; i <= pieces; ++i) {
+        const double part = static_cast<double>(i) / pieces;
+        const double angle = wholeTurn * turns * part;
+        const double away = radius + (tags.real(40, radius) - radius) * part;
+        path.push_back(base + (x * std::cos(angle) + y * std::sin(angle)) * away +
+                       axis * (dot(from, axis) + turns * tags.real(42) * part));
+    }
+    return path;
 }
 
 bool addEndless(BuildContext &context, const TagList &tags, bool isBothWays)
@@ -112,6 +140,21 @@ bool buildSpline(BuildContext &context, const TagList &tags)
     if (path.size() < 2 || !std::ranges::all_of(path, [](const Vec3 &p) { return isUsable(p); }))
         return false;
     context.addStroke(std::move(path));
+    return true;
+}
+
+/// A helix holds the spline that it looks like, and behind it, in codes that splines use, what it was made from.
+bool buildHelix(BuildContext &context, const TagList &tags)
+{
+    const auto isHelix = [](const drawing::Tag &tag) { return tag.code == 100 && tag.trimmed() == "AcDbHelix"; };
+    const auto marker = std::ranges::find_if(tags, isHelix);
+    if (buildSpline(context, TagList({tags.begin(), marker}, context.drawing.codec())))
+        return true;
+    Path turns = helixPath(TagList({marker, tags.end()}, context.drawing.codec()));
+    context.charge(turns.size(), 0);
+    if (turns.size() < 2 || !areUsable(turns))
+        return false;
+    context.addStroke(std::move(turns));
     return true;
 }
 

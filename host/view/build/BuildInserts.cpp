@@ -2,7 +2,6 @@
 #include "host/drawing/records/Blocks.h"
 #include "host/drawing/records/Dictionaries.h"
 #include "host/drawing/tags/GroupCodes.h"
-#include "host/view/build/AnnotationParts.h"
 #include "host/view/build/DisplayBuilder.h"
 #include "host/view/build/FileMark.h"
 #include "host/view/build/Scene.h"
@@ -185,14 +184,6 @@ bool buildInsert(BuildContext &context, const TagList &tags)
     const ExternalView *external = context.scene.external(reference->block);
     context.add(std::move(reference));
     return external ? finishExternal(context, tags, *external) : exists || hasAttributes;
-}
-
-bool buildTable(BuildContext &context, const TagList &tags)
-{
-    const Vec3 across = tags.point(11, {1.0, 0.0, 0.0});
-    const Matrix placement = Matrix::fromExtrusion(tags.point(210, {0.0, 0.0, 1.0})) *
-                             Matrix::translation(tags.point(10)) * Matrix::rotation(std::atan2(across.y, across.x));
-    return addBlock(context, tags.text(2), placement, context.style);
 }
 
 } // namespace host::view

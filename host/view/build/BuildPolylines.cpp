@@ -194,40 +194,4 @@ bool buildPolyline(BuildContext &context, const TagList &tags)
     return build2dPolyline(context, tags, children, flags);
 }
 
-/// Each vertex has a mitre direction, and for every element of the style how far along it the element lies.
-bool buildMline(BuildContext &context, const TagList &tags)
-{
-    std::vector<Path> elements;
-    Vec3 vertex;
-    Vec3 miter;
-    std::size_t element = 0;
-    bool isOffsetNext = false;
-    for (std::size_t i = 0; i < tags.size() && tags[i].code < 1000; ++i) {
-        const Tag &tag = tags[i];
-        if (tag.code == 11) {
-            vertex = tags.pointAt(i);
-            element = 0;
-        } else if (tag.code == 13) {
-            miter = tags.pointAt(i);
-        } else if (tag.code == 74) {
-            isOffsetNext = true;
-        } else if (tag.code == 41 && isOffsetNext) {
-            // The first parameter of an element is its offset; those behind it say where the line is cut.
-            isOffsetNext = false;
-            if (elements.size() <= element)
-                elements.resize(element + 1);
-            elements[element++].push_back(vertex + miter * tag.real().value_or(0.0));
-        }
-    }
-    const bool isClosed = (tags.integer(71) & 2) != 0;
-    for (Path &line : elements) {
-        if (!areUsable(line))
-            return false;
-        if (isClosed)
-            line.push_back(line.front());
-        context.addStroke(std::move(line));
-    }
-    return !elements.empty();
-}
-
 } // namespace host::view

@@ -1,7 +1,7 @@
 #include "host/drawing/annotation/Arrowheads.h"
 #include "host/drawing/annotation/DimensionPicture.h"
-#include "host/view/build/AnnotationParts.h"
 #include "host/view/build/BuildMText.h"
+#include "host/view/build/annotations/AnnotationParts.h"
 
 namespace host::view {
 

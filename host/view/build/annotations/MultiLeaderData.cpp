@@ -1,4 +1,4 @@
-#include "host/view/build/MultiLeaderData.h"
+#include "host/view/build/annotations/MultiLeaderData.h"
 
 namespace host::view {
 

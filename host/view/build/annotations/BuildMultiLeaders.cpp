@@ -1,7 +1,8 @@
-#include "host/view/build/AnnotationParts.h"
 #include "host/view/build/BuildMText.h"
-#include "host/view/build/LeaderLines.h"
-#include "host/view/build/MultiLeaderData.h"
+#include "host/view/build/annotations/AnnotationParts.h"
+#include "host/view/build/annotations/LeaderLines.h"
+#include "host/view/build/annotations/MultiLeaderData.h"
+#include "host/view/build/annotations/ToleranceFrame.h"
 
 #include <optional>
 
@@ -25,6 +26,7 @@ constexpr MultiLeaderValue leaderLinetype{2, 341, 340};
 constexpr MultiLeaderValue leaderWeight{3, 171, 92};
 constexpr MultiLeaderValue leaderHasDogleg{6, 291, 291};
 constexpr MultiLeaderValue leaderArrow{8, 342, 341};
+constexpr MultiLeaderValue leaderContent{10, 172, 170};
 constexpr MultiLeaderValue leaderTextFrame{17, 292, 292};
 
 class MultiLeaderBuilder
@@ -190,6 +192,14 @@ private:
         const std::size_t first = m_context.display.items.size();
         BuildContext part = contextWithStyle(m_context, coloured(m_context.style, text.colour));
         const Matrix frame = planeFrame(text.at, textDirection(), text.normal);
+        if (integer(leaderContent, 2) == 3) {
+            addToleranceFrame(m_context, content, frame,
+                              {.height = m_data.textHeight,
+                               .textStyle = nameOf(m_context, text.style),
+                               .lines = m_context.style,
+                               .letters = part.style});
+            return;
+        }
         const MTextPlace place{.frame = frame,
                                .height = m_data.textHeight,
                                .attachment = static_cast<int>(std::clamp<qint64>(text.alignment, 1, 3)) - 1,

@@ -1,7 +1,7 @@
 #include "host/drawing/annotation/Arrowheads.h"
 #include "host/drawing/annotation/DimensionStyle.h"
-#include "host/view/build/AnnotationParts.h"
-#include "host/view/build/LeaderLines.h"
+#include "host/view/build/annotations/AnnotationParts.h"
+#include "host/view/build/annotations/LeaderLines.h"
 
 #include <optional>
 

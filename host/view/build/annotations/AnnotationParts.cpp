@@ -1,4 +1,4 @@
-#include "host/view/build/AnnotationParts.h"
+#include "host/view/build/annotations/AnnotationParts.h"
 
 #include "host/drawing/annotation/Arrowheads.h"
 #include "host/drawing/records/Blocks.h"
