@@ -211,6 +211,16 @@ TEST_F(SheetsTest, LinesHaveTheirWeights)
     EXPECT_EQ(width(with(raised, {{"142 1", "142 0.5"}}), 254), 10);
 }
 
+TEST_F(SheetsTest, AreThereWithoutLayoutsOfTheirOwn)
+{
+    const std::string line = "0 LINE|67 1|8 0|10 0|20 0|11 10|21 10";
+    for (const char *objects : {"", "0 DICTIONARY|5 D0|3 ACAD_LAYOUT|350 D1|0 DICTIONARY|5 D1|330 D0"}) {
+        const QImage image = sheet({.entities = line, .objects = objects}, {.layouts = {u"Layout1"_s}});
+        EXPECT_EQ(image.size(), QSize(297, 210)) << objects;
+        EXPECT_FALSE(isBlank(image));
+    }
+}
+
 TEST_F(SheetsTest, PagesOfAPdfHaveTheirOwnSizes)
 {
     const auto drawing = readDrawing(sheets(usualPage, with(usualPage, {{"44 100", "44 594"}, {"45 80", "45 420"}})));

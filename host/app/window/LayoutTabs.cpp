@@ -26,6 +26,7 @@ LayoutTabs::LayoutTabs(QWidget *parent) : QTabBar(parent)
 {
     setObjectName(QStringLiteral("layouts"));
     setShape(QTabBar::RoundedNorth); // southern tabs do not show which one is current in the dark style
+    setDocumentMode(true);
     setDrawBase(false);
     setExpanding(false);
     setUsesScrollButtons(true);

@@ -89,6 +89,9 @@ std::vector<LayoutTab> layoutTabs(const Drawing &drawing)
             result.push_back(
                 {entry.name, entry.record, blockOfLayout(drawing, entry.record), orderOf(drawing, entry.record)});
     }
+    // Programs of today leave the dictionary empty in drawings of the time before layouts.
+    if (result.empty())
+        return withoutObjects(drawing);
     std::stable_sort(result.begin(), result.end(),
                      [](const LayoutTab &one, const LayoutTab &other) { return one.order < other.order; });
     return result;
