@@ -3,6 +3,7 @@
 #include "host/view/text/StrokeFontTable.h"
 
 #include <QFontDatabase>
+#include <QSet>
 
 #include <stdexcept>
 
@@ -16,9 +17,16 @@ constexpr int referenceSize = 128;
 constexpr int outlineCacheElements = 2'000'000;
 constexpr qsizetype longestRun = 4096;
 
+/// The machine's families are listed once: a drawing may name thousands of fonts.
 bool hasFamily(const QString &family)
 {
-    return QFontDatabase::families().contains(family, Qt::CaseInsensitive);
+    static const QSet<QString> families = [] {
+        QSet<QString> folded;
+        for (const QString &name : QFontDatabase::families())
+            folded.insert(name.toCaseFolded());
+        return folded;
+    }();
+    return families.contains(family.toCaseFolded());
 }
 
 /// Stand-ins are narrow ones where there are: what drawings ask for is mostly narrower than the fonts of free systems.
