@@ -1,5 +1,5 @@
-// Any bytes as multi-line text, in boxes of several widths: every letter of its words stands somewhere, in order, and
-// each piece at a place that is a number.
+// Any bytes as multi-line text, in boxes of several widths and in columns: every letter of its words stands somewhere,
+// in order, and each piece at a place that is a number.
 
 #include "fuzz/GuiApplication.h"
 #include "fuzz/Require.h"
@@ -25,10 +25,13 @@ QString lettersOf(const std::vector<MTextToken> &tokens)
     return letters;
 }
 
-void checkLayout(const std::vector<MTextToken> &tokens, double width, Fonts &fonts)
+void checkLayout(const std::vector<MTextToken> &tokens, double width, bool isInColumns, Fonts &fonts)
 {
     MTextBox box;
     box.width = width;
+    box.styleFont = {.name = isInColumns ? QStringLiteral("txt.shx") : QString()};
+    if (isInColumns)
+        box.columns = MTextColumns{.heights = {3.0, 0.5}, .furtherHeight = 4.0, .count = 2, .gutter = 1.0};
     const MTextLayout layout = layOutMText(tokens, box, 1.0, fonts);
     QString letters;
     for (const MTextRun &run : layout.runs) {
@@ -40,7 +43,7 @@ void checkLayout(const std::vector<MTextToken> &tokens, double width, Fonts &fon
     for (const MTextRule &rule : layout.rules)
         require(std::isfinite(rule.x1) && std::isfinite(rule.y1) && std::isfinite(rule.x2) && std::isfinite(rule.y2));
     require(std::isfinite(layout.width) && std::isfinite(layout.height));
-    require(width <= 0.0 || layout.width == width);
+    require(width <= 0.0 || (isInColumns ? layout.width > 2.0 * width : layout.width == width));
 }
 
 } // namespace
@@ -58,6 +61,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     const std::vector<MTextToken> tokens = MTextParser(text, {}).parse();
     require(tokens.size() <= std::size_t(text.size()) + 1);
     for (const double width : {0.0, 0.5, 20.0})
-        checkLayout(tokens, width, fonts);
+        checkLayout(tokens, width, false, fonts);
+    checkLayout(tokens, 20.0, true, fonts);
     return 0;
 }
