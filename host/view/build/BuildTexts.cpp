@@ -188,11 +188,11 @@ void addHorizontalText(BuildContext &context, const TextData &data, const TextLo
     std::vector<double> widths;
     double lineWidth = 0.0;
     for (const TextPiece &piece : pieces) {
-        widths.push_back(context.fonts().width(look.font, piece.text));
+        const bool isLast = &piece == &pieces.back();
+        widths.push_back(isLast ? context.fonts().inkWidth(look.font, piece.text)
+                                : context.fonts().width(look.font, piece.text));
         lineWidth += widths.back();
     }
-    if (!pieces.empty())
-        lineWidth += context.fonts().inkWidth(look.font, pieces.back().text) - widths.back();
     const TextFrame frame = frameOf(data, lineWidth);
     const Matrix placement = ocs * frame.placement;
     double x = frame.dx;

@@ -131,16 +131,28 @@ private:
     {
         const double width = textWidth(token.format, text);
         addRules(token.format, m_line.width, m_line.width + width);
-        addRun(token.format, text, m_line.width, 0.0, width);
+        addRun(token.format, text, m_line.width, 0.0);
         m_line.width += width;
         m_line.height = std::max(m_line.height, token.format.height);
     }
 
-    void addRun(MTextFormat format, const QString &text, double x, double y, double width)
+    /// Letters that stand apart, or closer than usual, are pieces by themselves.
+    void addRun(const MTextFormat &format, const QString &text, double x, double y)
     {
         const int font = fontOf(format);
-        format.widthFactor *= format.tracking;
-        m_line.runs.push_back({text, font, format, x, y, width});
+        if (format.tracking == 1.0) {
+            const double width = m_fonts.inkWidth(font, text) * format.height * format.widthFactor;
+            m_line.runs.push_back({text, font, format, x, y, width});
+            return;
+        }
+        for (qsizetype i = 0; i < text.size();) {
+            const qsizetype length = text[i].isHighSurrogate() && i + 1 < text.size() ? 2 : 1;
+            const QString letter = text.mid(i, length);
+            const double advance = m_fonts.width(font, letter) * format.height * format.widthFactor;
+            m_line.runs.push_back({letter, font, format, x, y, advance});
+            x += advance * format.tracking;
+            i += length;
+        }
     }
 
     void addRules(const MTextFormat &format, double from, double to)
@@ -165,13 +177,13 @@ private:
         const double full = token.format.height;
         if (token.bar == MTextToken::Bar::Diagonal) {
             width = above + below + 0.4 * full;
-            addRun(format, token.text, x, full * 0.5, above);
-            addRun(format, token.lower, x + width - below, -full * 0.2, below);
+            addRun(format, token.text, x, full * 0.5);
+            addRun(format, token.lower, x + width - below, -full * 0.2);
             m_line.rules.push_back({x + above, -full * 0.2, x + width - below, full * 1.2, token.format});
         } else {
             const bool isFraction = token.bar == MTextToken::Bar::Horizontal;
-            addRun(format, token.text, x + (isFraction ? (width - above) / 2.0 : 0.0), full * 0.65, above);
-            addRun(format, token.lower, x + (isFraction ? (width - below) / 2.0 : 0.0), -full * 0.4, below);
+            addRun(format, token.text, x + (isFraction ? (width - above) / 2.0 : 0.0), full * 0.65);
+            addRun(format, token.lower, x + (isFraction ? (width - below) / 2.0 : 0.0), -full * 0.4);
             if (isFraction)
                 m_line.rules.push_back({x, full * 0.5, x + width, full * 0.5, token.format});
         }
@@ -208,15 +220,17 @@ private:
     {
         if (line.paragraph.alignment != MTextAlignment::Justified || line.endsParagraph)
             return;
-        const auto isBlank = [](const MTextRun &run) { return run.text == u" "; };
+        // The blank that the line was broken at is not among them.
+        const auto isBlank = [&line](const MTextRun &run) { return run.text == u" " && run.x < line.visibleWidth; };
         const auto blanks = std::ranges::count_if(line.runs, isBlank);
         const double room = width - line.indent - line.paragraph.rightIndent - line.visibleWidth;
         if (blanks < 1 || room <= 0.0)
             return;
         double shift = 0.0;
         for (MTextRun &run : line.runs) {
+            const bool isSharing = isBlank(run);
             run.x += shift;
-            if (isBlank(run))
+            if (isSharing)
                 shift += room / static_cast<double>(blanks);
         }
     }

@@ -17,7 +17,7 @@ struct MTextRun
     MTextFormat format{}; ///< height and width factor as drawn, also inside stacks
     double x = 0.0;
     double y = 0.0;     ///< of the base line
-    double width = 0.0; ///< drawing units
+    double width = 0.0; ///< drawing units, without the room that a stroke font has behind the last letter
 };
 
 /// A straight line of the text: under, over or through it, or the bar of a fraction.

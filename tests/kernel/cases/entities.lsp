@@ -66,7 +66,7 @@
 ; A paragraph has the size of what it says now
 (setq e (entmakex '((0 . "MTEXT") (10 0 0 0) (40 . 3.0) (41 . 90.0) (42 . 7.0) (43 . 9.0) (1 . "H\\PH"))))
 (setq old (entget e))(entmod (subst '(1 . "HH") '(1 . "H\\PH") old))(setq new (entget e))
-(list (cdr (assoc 43 old)) (cdr (assoc 43 new)) (< 1.9 (/ (cdr (assoc 42 new)) (cdr (assoc 42 old))) 2.5)) ;= (8.0 3.0 T)
+(list (cdr (assoc 43 old)) (cdr (assoc 43 new)) (< 1.9 (/ (cdr (assoc 42 new)) (cdr (assoc 42 old))) 2.7)) ;= (8.0 3.0 T)
 
 ; Tables
 (vl-remove-if '(lambda (f) (> (car f) 99)) (tblsearch "LAYER" "0"))
