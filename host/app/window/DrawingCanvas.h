@@ -45,6 +45,8 @@ public:
 
     /// What of the current space can be drawn.
     view::RenderReport report();
+    /// Whether what was last painted is to be put right yet, while the hand rests.
+    bool isProvisional() const { return m_picture.isProvisional(); }
     /// Whether the last picture was cut short and that was not asked before.
     bool isCutShortNews();
     /// Pixels of the screen, as everything here that is no point of the drawing.

@@ -126,8 +126,10 @@ void ScenePicture::paint(QPainter &painter, const SceneLook &look)
         paintWhole(look);
     m_isProvisional = m_isStale || !isSameView(m_look.view, look.view);
     if (m_isProvisional) {
+        // Painting the same again, for the pointer's sake, is no move of the hand.
+        const bool isMove = !m_rest.isActive() || !isSameView(m_refinedLook.view, look.view);
         m_refinedLook = look;
-        if (!m_painting)
+        if (!m_painting && isMove)
             m_rest.start(m_shown.isNull() ? 0 : restTime);
     } else {
         m_rest.stop();

@@ -26,6 +26,15 @@ bool isBookkeeping(QByteArrayView variable)
     return std::ranges::find(names, variable) != names.end();
 }
 
+/// Whether the box around `all` may depend on this one. In a drawing without heights its other sides tell.
+bool isAtEdge(const Box &box, const Box &all)
+{
+    const bool hasHeights = all.low.z < all.high.z;
+    return !box.isEmpty() && (box.low.x <= all.low.x || box.low.y <= all.low.y || box.high.x >= all.high.x ||
+                              box.high.y >= all.high.y || box.low.z < all.low.z || box.high.z > all.high.z ||
+                              (hasHeights && (box.low.z == all.low.z || box.high.z == all.high.z)));
+}
+
 /// The entity that a VERTEX, ATTRIB or SEQEND is a part of.
 RecordId wholeEntity(const drawing::Drawing &drawing, RecordId record)
 {
@@ -176,17 +185,14 @@ void Scene::rebuildChanged(BlockDisplay &block, std::uint32_t place)
 void Scene::replace(BlockDisplay &block, std::uint32_t place, RecordSummary summary)
 {
     RecordSummary &record = block.records[place];
-    const auto isAtEdge = [&block](const Box &box) {
-        const Box &all = block.plainBox;
-        return !box.isEmpty() && (box.low.x <= all.low.x || box.low.y <= all.low.y || box.low.z <= all.low.z ||
-                                  box.high.x >= all.high.x || box.high.y >= all.high.y || box.high.z >= all.high.z);
-    };
     const bool hadReferences = record.hasReferences;
     // While the block's box is the same, what shows the block needs no other one either.
+    const bool isSameBox = !hadReferences && !summary.hasReferences && !record.isEndless && !summary.isEndless &&
+                           record.box.low == summary.box.low && record.box.high == summary.box.high;
     if (!hadReferences)
-        block.isPlainStale |= record.isEndless || isAtEdge(record.box);
+        block.isPlainStale |= !isSameBox && (record.isEndless || isAtEdge(record.box, block.plainBox));
     if (!summary.hasReferences) {
-        m_boxesStale |= summary.isEndless || isAtEdge(summary.box);
+        m_boxesStale |= !isSameBox && (summary.isEndless || isAtEdge(summary.box, block.plainBox));
         block.plainBox.add(summary.box);
         block.isPlainEndless |= summary.isEndless;
     }
@@ -194,7 +200,8 @@ void Scene::replace(BlockDisplay &block, std::uint32_t place, RecordSummary summ
     damage(block, summary);
     summary.isLoose = record.isLoose;
     record = summary;
-    block.index.touch(block.records, place);
+    if (!isSameBox)
+        block.index.touch(block.records, place);
     if (summary.hasReferences) {
         const auto at = std::ranges::lower_bound(block.references, place);
         if (at == block.references.end() || *at != place)

@@ -23,10 +23,10 @@ struct LinePen
     bool operator==(const LinePen &) const = default;
 };
 
-/// Draws lines and dots. Thin ones on a picture that nobody smooths go straight into its pixels. Others are collected
-/// by pen, so that the painter draws many with one pen at a time: changing pens costs more than drawing a short line.
-/// Between two calls of flush() those of different thin pens may change places, which can be told only by the one pixel
-/// where they cross; thick ones keep their order.
+/// Draws lines and dots. Thin dots on a picture go straight into its pixels, and so do thin lines that nobody smooths.
+/// Others are collected by pen, so that the painter draws many with one pen at a time: changing pens costs more than
+/// drawing a short line. Between two calls of flush() those of different thin pens may change places, which can be told
+/// only by the one pixel where they cross; thick ones keep their order.
 class LineBatches
 {
 public:
@@ -48,7 +48,7 @@ private:
         QList<QPointF> dots{};
     };
 
-    /// Where the line goes straight into pixels; null for the painter.
+    /// What the pen draws straight into pixels with; null for the painter.
     PixelLines *pixelsFor(const LinePen &pen);
     Batch &batchFor(const LinePen &pen);
     void flushWhenFull(qsizetype count);
@@ -60,6 +60,7 @@ private:
     const double m_pixelsPerMillimetre;
     const bool m_isRaster;
     std::optional<PixelLines> m_pixels;
+    const bool m_isSmooth;
     int m_clips = 0;
     std::vector<Batch> m_batches;
     std::size_t m_last = 0;

@@ -25,8 +25,8 @@ bool hasFullColours(const QImage &image)
 std::optional<PixelLines> PixelLines::of(QPainter &painter, const QRectF &part)
 {
     QPaintDevice *device = painter.device();
-    if (!device || device->devType() != QInternal::Image || painter.testRenderHint(QPainter::Antialiasing) ||
-        painter.opacity() < 1.0 || painter.compositionMode() != QPainter::CompositionMode_SourceOver) {
+    if (!device || device->devType() != QInternal::Image || painter.opacity() < 1.0 ||
+        painter.compositionMode() != QPainter::CompositionMode_SourceOver) {
         return std::nullopt;
     }
     auto &image = static_cast<QImage &>(*device);

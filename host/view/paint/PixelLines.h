@@ -14,7 +14,7 @@ namespace host::view {
 class PixelLines
 {
 public:
-    /// For a painter on such a picture that smooths nothing; nothing for any other. `part` is in the painter's units;
+    /// For a painter on such a picture; nothing for any other. `part` is in the painter's units;
     /// only pixels wholly or partly in it are drawn. The picture must stay where it is while this is used.
     static std::optional<PixelLines> of(QPainter &painter, const QRectF &part);
 
