@@ -274,9 +274,10 @@ void zoomFrame(benchmark::State &state)
 void longestSlice(benchmark::State &state)
 {
     Canvas canvas(sizeOf(state));
+    bool isIn = false;
     for (auto _ : state) {
-        canvas.wheel({400, 200}, 120);
-        canvas.wheel({400, 200}, -120);
+        canvas.wheel({400, 200}, isIn ? -120 : 120);
+        isIn = !isIn;
         canvas.frame();
         double longest = 0.0;
         while (canvas.widget().isProvisional()) {
