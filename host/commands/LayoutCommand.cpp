@@ -14,14 +14,18 @@ namespace {
 
 using drawing::LayoutTab;
 
-/// The layout that an answer names, or the current one for an empty answer; nothing, and told, where there is none.
-std::optional<LayoutTab> layoutNamed(CommandContext &context, const PromptReply &reply)
+/// Asks for a layout, `usual` being offered; an empty answer without an offer is the current one. Nothing after a
+/// cancel, and, which is told, where there is none of that name.
+Dialogue<std::optional<LayoutTab>> askForLayout(CommandContext &context, QString question, QString usual)
 {
+    const PromptReply reply = co_await context.text(question, usual);
+    if (reply.kind == ReplyKind::Cancelled)
+        co_return std::nullopt;
     const QString name = reply.hasValue() ? reply.text.trimmed() : currentLayout(context.drawing());
     std::optional<LayoutTab> found = drawing::findLayout(context.drawing(), name);
     if (!found)
         context.fail(u"Layout \"%1\" not found."_s.arg(name));
-    return found;
+    co_return found;
 }
 
 /// The sheet that is offered where model space is no answer.
@@ -51,11 +55,7 @@ void tell(CommandContext &context, const QString &obstacle, const QString &done)
 
 Dialogue<bool> copyOne(CommandContext &context)
 {
-    const QString offered = offeredSheet(context);
-    const PromptReply which = co_await context.text(u"Enter name of layout to copy: "_s, offered);
-    if (which.kind == ReplyKind::Cancelled)
-        co_return false;
-    const std::optional<LayoutTab> layout = layoutNamed(context, which);
+    const auto layout = co_await askForLayout(context, u"Enter name of layout to copy: "_s, offeredSheet(context));
     if (!layout)
         co_return false;
     const QString usual = drawing::freeCopyName(context.drawing(), layout->name);
@@ -81,10 +81,7 @@ Dialogue<bool> makeOne(CommandContext &context)
 
 Dialogue<bool> renameOne(CommandContext &context)
 {
-    const PromptReply which = co_await context.text(u"Enter layout to rename: "_s, offeredSheet(context));
-    if (which.kind == ReplyKind::Cancelled)
-        co_return false;
-    const std::optional<LayoutTab> layout = layoutNamed(context, which);
+    const auto layout = co_await askForLayout(context, u"Enter layout to rename: "_s, offeredSheet(context));
     if (!layout)
         co_return false;
     const PromptReply name = co_await context.text(u"Enter new layout name: "_s);
@@ -99,10 +96,7 @@ Dialogue<bool> renameOne(CommandContext &context)
 /// Where the deleted one was current, the sheet that is in use then becomes so.
 Dialogue<bool> deleteOne(CommandContext &context)
 {
-    const PromptReply which = co_await context.text(u"Enter name of layout to delete: "_s, offeredSheet(context));
-    if (which.kind == ReplyKind::Cancelled)
-        co_return false;
-    const std::optional<LayoutTab> layout = layoutNamed(context, which);
+    const auto layout = co_await askForLayout(context, u"Enter name of layout to delete: "_s, offeredSheet(context));
     if (!layout)
         co_return false;
     tell(context, drawing::deleteLayout(context.drawing(), *layout), u"Layout \"%1\" deleted."_s.arg(layout->name));
@@ -112,14 +106,12 @@ Dialogue<bool> deleteOne(CommandContext &context)
 
 Dialogue<bool> makeCurrent(CommandContext &context)
 {
-    const PromptReply which =
-        co_await context.text(u"Enter layout to make current: "_s, currentLayout(context.drawing()));
-    if (which.kind == ReplyKind::Cancelled)
+    const auto layout =
+        co_await askForLayout(context, u"Enter layout to make current: "_s, currentLayout(context.drawing()));
+    if (!layout)
         co_return false;
-    if (const std::optional<LayoutTab> layout = layoutNamed(context, which)) {
-        setCurrentLayout(context.drawing(), layout->name);
-        context.document().followLayout();
-    }
+    setCurrentLayout(context.drawing(), layout->name);
+    context.document().followLayout();
     co_return true;
 }
 
