@@ -175,8 +175,8 @@ TEST_F(ImageDrawing, IsCoveredPickedAndExported)
 TEST_F(ImageDrawing, StrangeNumbersEnd)
 {
     std::string clip = "|71 2|91 200000";
-    for (int i = 0; i < 200'000; ++i)
-        clip += "|14 " + std::to_string(i * 7919 % 40) + "|24 " + std::to_string(i * 104729 % 20);
+    for (std::int64_t i = 0; i < 200'000; ++i)
+        clip += "|14 " + std::to_string(i * 7919 % 40) + "|24 " + std::to_string(i * 4729 % 20);
     for (const std::string &tags :
          {std::string("|10 10|20 30|11 2|21 0|12 4|22 0"), std::string("|10 10|20 30|11 0|21 0|12 0|22 0"),
           std::string("|10 1e300|20 0|11 1e300|21 0|12 0|22 1"), std::string("|10 nan|20 0|11 1|21 0|12 0|22 1"),
