@@ -121,6 +121,35 @@ void replaceBytes(FoundRecord &record, const QByteArray &bytes, ByteArena &arena
     record.bytes = QByteArrayView(arena.store(bytes), bytes.size());
 }
 
+/// A variable's name and its first value.
+struct OneValue
+{
+    QByteArray bytes;
+    bool hasValue = false;
+    bool hasMore = false; ///< behind it stands what belongs to nothing
+};
+
+/// Points are one value of two or three tags.
+OneValue oneValueOf(const FoundRecord &variable)
+{
+    constexpr int nameCode = 9;
+    OneValue result;
+    int expected = 0; // of the ordinate that comes next
+    forEachFoundTag(variable, [&](const Tag &tag) {
+        const bool isFirst = !result.hasValue && tag.code != nameCode && tag.code != commentCode;
+        const bool isOrdinate = tag.code == expected && expected <= 30;
+        if (isFirst || isOrdinate)
+            expected = isFirst && tag.code != 10 ? 0 : tag.code + 10;
+        const bool isKept = isFirst || isOrdinate || tag.code == nameCode || tag.code == commentCode;
+        result.hasValue = result.hasValue || isFirst;
+        result.hasMore = result.hasMore || !isKept;
+        if (isKept)
+            result.bytes += tag.whole;
+        return true;
+    });
+    return result;
+}
+
 /// Those that more than one record has, in order.
 std::vector<quint64> sharedHandles(const std::vector<FoundRecord> &records)
 {
@@ -224,6 +253,22 @@ void dropNameless(std::vector<FoundRecord> &records, RecoveryReport &report)
         if (isNameless)
             noteDropped(report, record, u"it has no name"_s);
         return isNameless;
+    });
+}
+
+void mendVariables(std::vector<FoundRecord> &records, RecoveryReport &report, ByteArena &arena)
+{
+    std::erase_if(records, [&](FoundRecord &record) {
+        if (!record.isVariable)
+            return false;
+        const OneValue found = oneValueOf(record);
+        if (!found.hasValue)
+            noteDropped(report, record, u"it has no value"_s);
+        else if (found.hasMore)
+            noteMended(report, record, u"it has more than one value, of which the first was taken"_s);
+        if (found.hasValue && found.hasMore)
+            replaceBytes(record, found.bytes, arena);
+        return !found.hasValue;
     });
 }
 

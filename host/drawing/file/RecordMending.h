@@ -23,6 +23,9 @@ FileTraits traitsOf(std::vector<FoundRecord> &records, QByteArrayView text, Reco
 /// Takes out entries of tables that have lost their name.
 void dropNameless(std::vector<FoundRecord> &records, RecoveryReport &report);
 
+/// Takes out header variables that have lost their value, and what stands behind the value of others.
+void mendVariables(std::vector<FoundRecord> &records, RecoveryReport &report, ByteArena &arena);
+
 /// From R13 on the first object is the dictionary that leads to all others. Where it is lost, another one that nobody
 /// owns takes its place, or a new one, with those of the file's dictionaries whose names their contents tell.
 void mendRoot(std::vector<FoundRecord> &records, FileTraits &traits, RecoveryReport &report, ByteArena &arena);

@@ -102,6 +102,7 @@ Recovered recoverDrawing(QByteArray bytes)
         return nothingRecovered(u"nothing in this file is a part of a drawing"_s);
     FileTraits traits = traitsOf(found.records, text, result.report);
     dropNameless(found.records, result.report);
+    mendVariables(found.records, result.report, arena);
     const quint64 firstNewHandle = traits.nextHandle;
     mendHandles(found.records, traits, result.report, arena);
     mendTexts(found.records, traits, result.report, arena);
