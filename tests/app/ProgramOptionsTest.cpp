@@ -38,6 +38,8 @@ TEST(ProgramOptions, RefusesWhatMakesNoSense)
          u"420x297, with -landscape or -portrait behind, not \"A9\""_s},
         {u"convert a b --scale 1:0"_s,
          u"--scale takes millimetres on the sheet to drawing units, as 1:50, not \"1:0\""_s},
+        {u"convert a b --scale 50"_s,
+         u"--scale takes millimetres on the sheet to drawing units, as 1:50, not \"50\""_s},
         {u"convert a b --scale half"_s,
          u"--scale takes millimetres on the sheet to drawing units, as 1:50, not \"half\""_s},
         {u"convert a b --size 20000x10"_s, u"--size takes pixels from 1 to 16000 as 2000x1400, not \"20000x10\""_s},

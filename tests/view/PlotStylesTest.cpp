@@ -85,7 +85,7 @@ TEST(PlotStyles, OfDamagedFilesAreRefused)
     }
     for (const QByteArray &odd :
          {QByteArray("x"), QByteArray(100'000, '{').replace("{", "a{\n"), QByteArray("}\n}\n=\n")})
-        EXPECT_TRUE(readPlotStyles(packed("STB", odd)).table) << "nothing in it is a style";
+        EXPECT_EQ(readPlotStyles(packed("STB", odd)).error, u"it holds no plot styles"_s);
     const PlotStyleReading wide = readPlotStyles(packed("STB", "plot_style{\n0{\nname=\"W\n}\n}", 8));
     EXPECT_TRUE(wide.table && wide.table->named(u"w"_s)) << "numbers of eight bytes";
 }

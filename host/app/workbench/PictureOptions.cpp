@@ -72,7 +72,8 @@ std::optional<double> positiveNumber(const QString &text)
 QString setScale(PictureOptions &options, const QString &value)
 {
     const auto paper = positiveNumber(value.section(u':', 0, 0));
-    const auto units = value.contains(u':') ? positiveNumber(value.section(u':', 1)) : std::optional(1.0);
+    // A number alone could be meant either way about.
+    const auto units = positiveNumber(value.section(u':', 1));
     const double scale = paper && units ? *paper / *units : 0.0;
     if (!(scale >= 1e-9 && scale <= 1e9))
         return u"--scale takes millimetres on the sheet to drawing units, as 1:50, not \"%1\""_s.arg(value);

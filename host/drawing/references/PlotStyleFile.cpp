@@ -210,7 +210,9 @@ PlotStyleReading readPlotStyles(const QByteArray &bytes)
     const std::vector<int> weights = readWeights(root);
     std::vector<PlotStyle> styles(isByColour ? colourCount : 0);
     const PlotGroup *list = root.group(u"plot_style");
-    for (const auto &[place, group] : list ? list->groups : std::vector<std::pair<QString, PlotGroup>>()) {
+    if (!list)
+        return refusedTable("it holds no plot styles");
+    for (const auto &[place, group] : list->groups) {
         bool isPlace = false;
         const int number = place.toInt(&isPlace);
         if (!isByColour)
