@@ -189,8 +189,12 @@ const Box &BoxCache::box(RecordId entity)
 std::vector<RecordId> BoxCache::touching(const std::vector<RecordId> &entities, const Box &window)
 {
     std::vector<RecordId> found;
-    std::copy_if(entities.begin(), entities.end(), std::back_inserter(found),
-                 [&](RecordId entity) { return !box(entity).isEmpty() && box(entity).touchesFlat(window); });
+    const auto mayTouch = [&](RecordId entity) {
+        const Box &known = box(entity);
+        // What has no end has no box either, and nor has what shows it.
+        return known.isEmpty() ? entityOutline(m_drawing, entity, m_work).isInfinite : known.touchesFlat(window);
+    };
+    std::copy_if(entities.begin(), entities.end(), std::back_inserter(found), mayTouch);
     return found;
 }
 

@@ -87,7 +87,7 @@ public:
 
     /// As entityBox(), but for one budget that all share until the next change. Good until the next call.
     const Box &box(RecordId entity);
-    /// Those of the given entities whose box touches the window, in order.
+    /// Those of the given entities whose box touches the window, and those without end, in order.
     std::vector<RecordId> touching(const std::vector<RecordId> &entities, const Box &window);
 
     /// Everything is measured again: remote texts show what is outside the drawing.

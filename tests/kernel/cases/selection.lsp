@@ -68,3 +68,17 @@
 (caddr n) ;= ((2.0 0.0 0.0) (0.0 2.0 0.0) (0.0 0.0 2.0) (100.0 100.0 0.0))
 (cdr (assoc 0 (entget (car (nentselp '(102.0 100.0)))))) ;= "LINE"
 (length (nentsel)) ;< 10,2 ;= 2
+
+; Lines without end
+(entmake '((0 . "RAY") (100 . "AcDbEntity") (8 . "0") (100 . "AcDbRay") (10 0.0 -50.0 0.0) (11 1.0 0.0 0.0)))
+(types (ssget "C" '(400 -51) '(401 -49))) ;= ("RAY")
+(types (ssget "F" '((400 -51) (400 -49)))) ;= ("RAY")
+(types (ssget '(300.0 -50.0))) ;= ("RAY")
+(ssget "W" '(-9 -60) '(900 -40)) ;= nil
+(ssget "C" '(-9 -51) '(-8 -49)) ;= nil
+(entdel (entlast))
+(entmake '((0 . "BLOCK") (2 . "BEAM") (70 . 0) (10 0.0 0.0 0.0)))
+(entmake '((0 . "RAY") (100 . "AcDbEntity") (8 . "0") (100 . "AcDbRay") (10 0.0 0.0 0.0) (11 1.0 0.0 0.0)))
+(entmake '((0 . "ENDBLK")))
+(entmake '((0 . "INSERT") (2 . "BEAM") (10 0.0 -50.0 0.0)))
+(types (ssget "C" '(400 -51) '(401 -49))) ;= ("INSERT")
