@@ -137,6 +137,17 @@ std::vector<HostileRow> hostileRows()
         {"text of a hundred thousand characters", "0 TEXT|8 0|10 0|20 50|40 5|1 " + std::string(100'000, 'x'), true},
         {"text in multi-line text of a hundred thousand words",
          "0 MTEXT|8 0|10 0|20 90|40 1|41 1e-9|1 " + repeated("xx ", 100'000), true},
+        {"text in multi-line text of ten million characters",
+         "0 MTEXT|8 0|10 0|20 90|40 1|41 20" + repeated("|3 " + std::string(99, 'x') + " ", 100'000) + "|1 end", true},
+        {"multiple line with a hundred thousand corners",
+         "0 MLINE|8 0|2 STANDARD|40 1|70 0|71 1|72 100000|73 1|10 0|20 0" +
+             repeated("|11 10|21 10|12 1|22 1|13 0|23 1|74 1|41 0|75 0|11 90|21 90|12 1|22 1|13 0|23 1|74 1|41 0|75 0",
+                      50'000),
+         true},
+        {"multileader with a hundred thousand corners",
+         "0 MULTILEADER|8 0|100 AcDbMLeader|300 CONTEXT_DATA{|302 LEADER{|304 LEADER_LINE{" +
+             repeated("|10 10|20 10|10 90|20 50", 50'000) + "|305 }|303 }|301 }|170 1",
+         true},
         {"viewport looking at itself",
          "0 VIEWPORT|8 0|10 50|20 50|40 90|41 90|68 2|69 2|12 0|22 0|45 1e-300|16 0|26 0|36 0|" + line, true},
         {"point marks beyond the screen", "0 POINT|8 0|10 50|20 50", false, "", "",

@@ -44,6 +44,9 @@ double saneLength(double value)
     return isUsable(value) && value > 0.0 ? value : 0.0;
 }
 
+/// Characters of a text that are shown. Each word takes some hundred times its own memory.
+constexpr qsizetype mostShown = 200'000;
+
 /// Columns that other entities hold are drawn with these.
 bool hasLinkedColumns(const BuildContext &context, const drawing::ParagraphColumns &columns)
 {
@@ -154,7 +157,10 @@ void addMText(BuildContext &context, const MTextPlace &place, const QString &con
     box.styleFont = look.request;
     box.alignment = column == 1 ? MTextAlignment::Center : column == 2 ? MTextAlignment::Right : MTextAlignment::Left;
     const MTextFormat start{.height = place.height, .widthFactor = look.widthFactor, .oblique = look.oblique / radians};
-    const MTextLayout layout = layOutMText(MTextParser(content, start).parse(), box, place.height, context.fonts());
+    if (content.size() > mostShown)
+        context.work.refuse();
+    const MTextLayout layout =
+        layOutMText(MTextParser(content.left(mostShown), start).parse(), box, place.height, context.fonts());
     const Vec3 corner{-layout.width * column / 2.0, layout.height * row / 2.0, 0.0};
     const Matrix placement = place.frame * Matrix::translation(corner);
     addSurroundings(context, place, layout, placement);

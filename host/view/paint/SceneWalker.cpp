@@ -283,12 +283,16 @@ void SceneWalker::showCell(const Reference &reference, const BlockDisplay &block
         walkBlock(block, inner);
         return;
     }
-    QPolygonF clip;
+    Track edge;
     for (const Vec3 &corner : reference.clip)
-        clip.append(flat(context.map, corner));
-    if (!mayGoOn(inner, clip.size() + m_cost.ofArea(clip.boundingRect())))
+        edge.points.push_back(flat(context.map, corner));
+    // Its edges are sorted as those of an area are, and that takes long in what stands only once as well.
+    FillCost cost(m_cost);
+    cost.add(edge);
+    const auto corners = static_cast<std::int64_t>(edge.points.size());
+    if (!mayGoOn(inner, corners) || !m_work.take(cost.units()))
         return;
-    m_sink.beginClip(clip);
+    m_sink.beginClip(QPolygonF(QList<QPointF>(edge.points.begin(), edge.points.end())));
     walkBlock(block, inner);
     m_sink.endClip();
 }

@@ -72,7 +72,7 @@ MlineStyle readMlineStyle(BuildContext &context, const TagList &mline)
 std::vector<MlineVertex> readMlineVertices(const TagList &tags)
 {
     std::vector<MlineVertex> vertices;
-    for (std::size_t i = 0; i < tags.own().size(); ++i) {
+    for (std::size_t i = 0, end = tags.own().size(); i < end; ++i) {
         const Tag &tag = tags[i];
         if (tag.code == 11)
             vertices.push_back({.at = tags.pointAt(i)});

@@ -233,7 +233,9 @@ private:
     {
         const MultiLeaderData::Block &block = m_data.block;
         const std::vector<double> &m = block.matrix;
-        if (m.size() == 16) {
+        // One that maps nothing was never filled in: the other fields say where the block is.
+        static const std::vector<double> identity = {1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1};
+        if (m.size() == 16 && m != identity) {
             const Matrix given{{m[0], m[4], m[8]}, {m[1], m[5], m[9]}, {m[2], m[6], m[10]}, {m[3], m[7], m[11]}};
             if (given.determinant() != 0.0)
                 return given;

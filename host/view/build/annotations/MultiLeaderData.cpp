@@ -16,7 +16,7 @@ public:
     MultiLeaderData read()
     {
         bool isOfType = false; // the common groups use some of the codes
-        for (std::size_t i = 0; i < m_tags.own().size(); ++i) {
+        for (std::size_t i = 0, end = m_tags.own().size(); i < end; ++i) {
             const Tag &tag = m_tags[i];
             isOfType |= tag.code == 270 || tag.code == 300 || (tag.code == 100 && tag.trimmed() == "AcDbMLeader");
             if (isOfType && !changesPart(tag))
