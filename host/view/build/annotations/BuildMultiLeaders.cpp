@@ -234,10 +234,11 @@ private:
         const MultiLeaderData::Block &block = m_data.block;
         const std::vector<double> &m = block.matrix;
         // One that maps nothing was never filled in: the other fields say where the block is.
-        static const std::vector<double> identity = {1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1};
-        if (m.size() == 16 && m != identity) {
+        if (m.size() == 16) {
             const Matrix given{{m[0], m[4], m[8]}, {m[1], m[5], m[9]}, {m[2], m[6], m[10]}, {m[3], m[7], m[11]}};
-            if (given.determinant() != 0.0)
+            // Some writers leave the identity, and say the place of the block only beside it.
+            const bool saysPlace = given.origin != Vec3{} || block.at == Vec3{};
+            if (given.determinant() != 0.0 && saysPlace)
                 return given;
         }
         return Matrix::translation(block.at) * Matrix::fromExtrusion(block.normal) * Matrix::rotation(block.rotation) *
