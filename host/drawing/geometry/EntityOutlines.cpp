@@ -182,8 +182,11 @@ void appendOutline(Outline &outline, const Drawing &drawing, RecordId entity, co
         outlineOfHatch(sink, tags);
 }
 
-Spline readSpline(const TagList &tags)
+Spline readSpline(const TagList &record)
 {
+    // What a helix was made from stands behind its spline, in codes that splines use.
+    const auto isHelix = [](const Tag &tag) { return tag.code == 100 && tag.trimmed() == "AcDbHelix"; };
+    const TagList tags({record.begin(), std::ranges::find_if(record, isHelix)}, record.codec());
     Spline spline;
     spline.degree = static_cast<int>(std::clamp<qint64>(tags.integer(71, 3), 0, 100));
     spline.isClosed = (tags.integer(70) & 1) != 0;
@@ -191,7 +194,7 @@ Spline readSpline(const TagList &tags)
     spline.weights = tags.reals(41);
     spline.controlPoints = tags.points(10);
     spline.fitPoints = tags.points(11);
-    // A helix has groups of the same codes behind its spline part.
+    // More knots than there should be are damage that the curve can be drawn without.
     const size_t knotCount = spline.controlPoints.size() + static_cast<size_t>(spline.degree) + 1;
     if (tags.find(72) && spline.knots.size() > knotCount)
         spline.knots.resize(knotCount);

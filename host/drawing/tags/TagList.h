@@ -20,6 +20,8 @@ public:
     auto end() const { return m_tags.end(); }
     size_t size() const { return m_tags.size(); }
     const Tag &operator[](size_t index) const { return m_tags[index]; }
+    /// The code page that its texts are in.
+    const TextCodec &codec() const { return *m_codec; }
 
     /// What stands in front of an embedded object and extended data, {...} groups included.
     std::span<const Tag> own() const &;

@@ -146,10 +146,10 @@ bool buildSpline(BuildContext &context, const TagList &tags)
 /// A helix holds the spline that it looks like, and behind it, in codes that splines use, what it was made from.
 bool buildHelix(BuildContext &context, const TagList &tags)
 {
+    if (buildSpline(context, tags))
+        return true;
     const auto isHelix = [](const drawing::Tag &tag) { return tag.code == 100 && tag.trimmed() == "AcDbHelix"; };
     const auto marker = std::ranges::find_if(tags, isHelix);
-    if (buildSpline(context, TagList({tags.begin(), marker}, context.drawing.codec())))
-        return true;
     Path turns = helixPath(TagList({marker, tags.end()}, context.drawing.codec()));
     context.charge(turns.size(), 0);
     if (turns.size() < 2 || !areUsable(turns))
