@@ -1,6 +1,7 @@
 #include "host/drawing/annotation/AnnotationScale.h"
 
 #include "host/drawing/records/Dictionaries.h"
+#include "host/drawing/records/HeaderVariables.h"
 
 #include <QStringList>
 
@@ -35,23 +36,41 @@ double factorInList(const Drawing &drawing, const QString &name)
         if (!isValid(entry.record) || !drawing.isType(entry.record, "SCALE"))
             continue;
         const TagList tags = drawing.tags(entry.record);
-        const double paper = tags.real(140, 1.0);
-        if (tags.text(300) == name && isFactor(paper))
-            return tags.real(141, 1.0) / paper;
+        if (tags.text(300) == name)
+            return scaleFactor(tags).value_or(0.0);
     }
     return 0.0;
 }
 
-} // namespace
-
-double annotationFactor(const Drawing &drawing)
+/// A variable that drawings keep among their objects, or in the header; empty without it.
+QString annotationVariable(const Drawing &drawing, const QString &name)
 {
     const Dictionaries &dictionaries = drawing.dictionaries();
     const RecordId variables = dictionaries.find(dictionaries.root(), u"AcDbVariableDictionary"_s);
-    const RecordId record = isValid(variables) ? dictionaries.find(variables, u"CANNOSCALE"_s) : noRecord;
-    if (!isValid(record))
-        return 1.0;
-    const QString name = drawing.tags(record).text(1);
+    const RecordId record = dictionaries.find(variables, name);
+    return isValid(record) ? drawing.tags(record).text(1) : drawing.header().text(u'$' + name);
+}
+
+} // namespace
+
+std::optional<double> scaleFactor(const TagList &scale)
+{
+    const double paper = scale.real(140, 1.0);
+    const double factor = isFactor(paper) ? scale.real(141, 1.0) / paper : 0.0;
+    return isFactor(factor) ? std::optional(factor) : std::nullopt;
+}
+
+AnnotationView annotationView(const Drawing &drawing)
+{
+    const bool isInHeader = drawing.header().integer(u"$ANNOALLVISIBLE"_s, 1) != 0;
+    const QString showsAll = annotationVariable(drawing, u"ANNOALLVISIBLE"_s);
+    return {.scale = annotationVariable(drawing, u"CANNOSCALE"_s),
+            .showsAll = showsAll.isEmpty() ? isInHeader : showsAll.trimmed() != u"0"};
+}
+
+double annotationFactor(const Drawing &drawing)
+{
+    const QString name = annotationVariable(drawing, u"CANNOSCALE"_s);
     const double listed = factorInList(drawing, name);
     const double factor = isFactor(listed) ? listed : factorOfName(name);
     return isFactor(factor) ? factor : 1.0;

@@ -1,3 +1,4 @@
+#include "host/drawing/annotation/AnnotativeEntity.h"
 #include "host/drawing/geometry/EntityGeometry.h"
 #include "host/drawing/records/Blocks.h"
 #include "host/drawing/records/Dictionaries.h"
@@ -125,7 +126,11 @@ void addAttributes(BuildContext &context, Reference &reference)
     for (const RecordId child : context.drawing.children(context.display.record)) {
         if (!context.drawing.isType(child, "ATTRIB"))
             continue;
-        const TagList tags = context.drawing.tags(child);
+        const TagList record = context.drawing.tags(child);
+        const drawing::AnnotativeEntity shown(
+            context.drawing, context.isInBlock ? drawing::AnnotationView{} : context.scene.annotationView(), child,
+            record, context.work);
+        const TagList &tags = shown.tags();
         bool isInvisible = false;
         BuildContext own{context.drawing,
                          context.scene,
@@ -134,7 +139,7 @@ void addAttributes(BuildContext &context, Reference &reference)
                          readStyle(tags, context.appearance(), &isInvisible),
                          true};
         constexpr qint64 invisibleFlag = 1;
-        if (!isInvisible && (tags.integer(70) & invisibleFlag) == 0)
+        if (!isInvisible && !shown.isHidden() && (tags.integer(70) & invisibleFlag) == 0)
             buildText(own, tags);
     }
     if (!isArray)

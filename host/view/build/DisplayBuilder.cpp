@@ -1,5 +1,6 @@
 #include "host/view/build/DisplayBuilder.h"
 
+#include "host/drawing/annotation/AnnotativeEntity.h"
 #include "host/view/build/ProxyGraphics.h"
 #include "host/view/build/Scene.h"
 
@@ -21,6 +22,7 @@ struct TypeRow
     Builder build;
     bool isSimplified = false; ///< the builder shows less than the entity holds
     Making making = Making::Once;
+    bool isAnnotative = false; ///< may have representations for annotation scales
 };
 
 constexpr std::array typeRows = {
@@ -37,10 +39,10 @@ constexpr std::array typeRows = {
     TypeRow{"LWPOLYLINE", buildLwPolyline, false, Making::Anywhere},
     TypeRow{"POLYLINE", buildPolyline, false, Making::Anywhere},
     TypeRow{"MLINE", buildMline},
-    TypeRow{"LEADER", buildLeader},
-    TypeRow{"MULTILEADER", buildMultiLeader},
-    TypeRow{"MLEADER", buildMultiLeader},
-    TypeRow{"TOLERANCE", buildTolerance},
+    TypeRow{"LEADER", buildLeader, false, Making::Once, true},
+    TypeRow{"MULTILEADER", buildMultiLeader, false, Making::Once, true},
+    TypeRow{"MLEADER", buildMultiLeader, false, Making::Once, true},
+    TypeRow{"TOLERANCE", buildTolerance, false, Making::Once, true},
     TypeRow{"SOLID", buildSolid, false, Making::Anywhere},
     TypeRow{"TRACE", buildSolid, false, Making::Anywhere},
     TypeRow{"3DFACE", build3dFace, false, Making::Anywhere},
@@ -61,17 +63,17 @@ constexpr std::array typeRows = {
     TypeRow{"WIPEOUT", buildWipeout},
     TypeRow{"IMAGE", buildImage},
     TypeRow{"VIEWPORT", buildViewport},
-    TypeRow{"TEXT", buildText, false, Making::Again},
+    TypeRow{"TEXT", buildText, false, Making::Again, true},
     TypeRow{"ATTRIB", buildText},
     TypeRow{"ATTDEF", buildAttdef, false, Making::Again},
-    TypeRow{"MTEXT", buildMText, false, Making::Again},
+    TypeRow{"MTEXT", buildMText, false, Making::Again, true},
     TypeRow{"RTEXT", buildRemoteText},
     TypeRow{"SHAPE", buildShape},
     TypeRow{"HATCH", buildHatch},
-    TypeRow{"INSERT", buildInsert},
-    TypeRow{"DIMENSION", buildDimension},
-    TypeRow{"ARC_DIMENSION", buildDimension},
-    TypeRow{"LARGE_RADIAL_DIMENSION", buildDimension},
+    TypeRow{"INSERT", buildInsert, false, Making::Once, true},
+    TypeRow{"DIMENSION", buildDimension, false, Making::Once, true},
+    TypeRow{"ARC_DIMENSION", buildDimension, false, Making::Once, true},
+    TypeRow{"LARGE_RADIAL_DIMENSION", buildDimension, false, Making::Once, true},
     TypeRow{"ACAD_TABLE", buildTable},
 };
 
@@ -252,7 +254,15 @@ void buildFrom(const TagList &tags, const TypeRow &type, BuildContext &context)
     const std::int64_t refusals = context.work.refusals();
     const RecordId parent = context.drawing.parent(display.record);
     context.isInBlock = isValid(parent) && context.drawing.kind(parent) == drawing::RecordKind::Block;
-    const bool isBuilt = type.build(context, tags);
+    bool isBuilt = false;
+    if (type.isAnnotative && !context.isInBlock && tags.integer(67) == 0) {
+        const drawing::AnnotativeEntity shown(context.drawing, context.scene.annotationView(), display.record, tags,
+                                              context.work);
+        display.isHidden = shown.isHidden();
+        isBuilt = shown.isHidden() || type.build(context, shown.tags());
+    } else {
+        isBuilt = type.build(context, tags);
+    }
     display.work = before - context.work.left();
     display.isCutShort |= context.work.refusals() > refusals;
     display.isSimplified = isBuilt && (type.isSimplified || display.isSimplified);

@@ -263,6 +263,13 @@ Box Scene::extents(int block, Seen seen)
     return VisibleExtents(*this, seen).of(block);
 }
 
+const drawing::AnnotationView &Scene::annotationView()
+{
+    if (!m_annotationView)
+        m_annotationView = drawing::annotationView(m_drawing);
+    return *m_annotationView;
+}
+
 RenderReport Scene::report(int block)
 {
     prepare(block);

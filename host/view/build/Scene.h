@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/drawing/annotation/AnnotationScale.h"
 #include "host/drawing/math/WorkBudget.h"
 #include "host/drawing/records/Drawing.h"
 #include "host/drawing/records/Entities.h"
@@ -106,6 +107,8 @@ public:
     const Appearance &appearance() const { return m_appearance; }
     Fonts &fonts() { return *m_fonts; }
     drawing::ShapeFiles &shapes() { return m_shapes; }
+    /// The annotation scale in use; looked up once.
+    const drawing::AnnotationView &annotationView();
     RasterFiles &images() { return m_images; }
 
     // These prepare the block.
@@ -198,7 +201,8 @@ private:
     bool m_isDamagedEverywhere = true;
     Changes m_changes;
     bool m_boxesStale = false;
-    std::optional<SortHandles> m_sortHandles; ///< nothing: to be read again
+    std::optional<drawing::AnnotationView> m_annotationView; ///< nothing: to be read again
+    std::optional<SortHandles> m_sortHandles;                ///< nothing: to be read again
     qint64 m_builtRecords = 0;
     drawing::WorkBudget m_ownWork{drawing::displayWork};
     drawing::WorkBudget &m_work = m_ownWork; ///< the host's, where there is one

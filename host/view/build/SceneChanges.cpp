@@ -26,6 +26,12 @@ bool isBookkeeping(QByteArrayView variable)
     return std::ranges::find(names, variable) != names.end();
 }
 
+/// Objects that say how annotative entities show: variables (the scale in use), scales and representations.
+bool isOfAnnotationScales(QByteArrayView type)
+{
+    return type == "DICTIONARYVAR" || type == "SCALE" || type.endsWith("OBJECTCONTEXTDATA_CLASS");
+}
+
 /// Whether the box around `all` may depend on this one. In a drawing without heights its other sides tell.
 bool isAtEdge(const Box &box, const Box &all)
 {
@@ -58,12 +64,13 @@ void Scene::recordChanged(RecordId record, RecordChange change, drawing::ChangeC
         m_changes.everything |= type == "STYLE" || type == "DIMSTYLE";
     } else if (kind == RecordKind::Variable) {
         m_changes.tables |= !isBookkeeping(type);
+        m_changes.everything |= type == "$CANNOSCALE" || type == "$ANNOALLVISIBLE";
     } else if (type == "WIPEOUTVARIABLES" || type == "RASTERVARIABLES") {
         m_changes.tables = true;
     } else if (type == "SORTENTSTABLE") {
         m_sortHandles.reset();
         m_changes.order = true;
-    } else if (type == "SPATIAL_FILTER" || type == "IMAGEDEF") {
+    } else if (type == "SPATIAL_FILTER" || type == "IMAGEDEF" || isOfAnnotationScales(type)) {
         m_changes.everything = true;
     }
 }
@@ -136,6 +143,7 @@ void Scene::forgetEverything()
         block->references.clear();
         block->index.clear();
     }
+    m_annotationView.reset();
     m_kept.clear();
     m_freeKept.clear();
     m_styles.clear();
