@@ -115,6 +115,8 @@ std::vector<DamageRow> damageRows()
          sound.first(sound.indexOf("  0\nPOINT")) + sound.mid(sound.indexOf("  0\nPOINT")).replace("\n", "\r"),
          all,
          {}},
+        {"handle twice, lines ended by CR and by LF", with("  0\nCIRCLE\n  5\n51\n", "  0\rCIRCLE\r  5\r50\r"), all,
+         u"CIRCLE mended: its handle was another record's"_s},
         {"unknown section kept",
          with("  0\nEOF", "  0\nSECTION\n  2\nMINE\n  0\nTHING\n  1\nx\n  0\nENDSEC\n  0\nEOF"),
          all,

@@ -160,6 +160,7 @@ void DamagedTextScanner::readRecord()
     const Position begin = m_next;
     FoundRecord record;
     record.line = begin.line;
+    record.lineEnds = m_lineEnds;
     m_tags.clear();
     m_bad.clear();
     Tag tag;

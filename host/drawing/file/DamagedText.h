@@ -14,7 +14,8 @@ struct FoundRecord
     qint64 line = 0;      ///< of the file, where it begins
     quint64 handle = 0;   ///< 0 where it has none
     bool isVariable = false;
-    bool lacksHandle = false; ///< the file has something that is none
+    bool lacksHandle = false;          ///< the file has something that is none
+    LineEnds lineEnds = LineEnds::Any; ///< that its lines were told apart by
 };
 
 /// What a damaged file holds.

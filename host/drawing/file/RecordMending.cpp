@@ -13,12 +13,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Goes through the tags of a record. Those of the file's other line ends are read as well: a record has only its own.
+/// Goes through the tags of a record.
 template <typename Take>
 void forEachFoundTag(const FoundRecord &record, Take take)
 {
-    const LineEnds lineEnds = record.bytes.contains('\n') ? LineEnds::LineFeed : LineEnds::Any;
-    TagReader reader(record.bytes, lineEnds);
+    TagReader reader(record.bytes, record.lineEnds);
     for (Tag tag; reader.read(tag);) {
         if (!take(tag))
             return;
