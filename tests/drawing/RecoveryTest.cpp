@@ -93,6 +93,7 @@ std::vector<DamageRow> damageRows()
          u"ENDBLK added"_s},
         {"no SEQEND", with("  0\nSEQEND\n  5\n62\n330\n60\n100\nAcDbEntity\n  8\n0\n", ""), all, u"SEQEND added"_s},
         {"no BLOCK", with("  0\nBLOCK\n  5\n70\n", "  5\n70\n"), all, u"BLOCK added"_s},
+        {"empty name of a block", with("  2\nA\n 70\n", "  2\n\n 70\n"), all, u"BLOCK mended: it had no name"_s},
         {"no POLYLINE", with("  0\nPOLYLINE\n", "  0\nPOINT\n"), "LINE LINE CIRCLE POINT POINT",
          u"VERTEX dropped: what it is a part of is not there"_s},
         {"no head of ENTITIES", with("  0\nSECTION\n  2\nENTITIES\n", ""), all, u"outside of its section"_s},
@@ -152,6 +153,8 @@ TEST(Recovery, KeepsWhatIsSoundAndTellsTheRest)
             EXPECT_EQ(drawing->toBytes(), row.text);
         }
         EXPECT_AUDIT_CLEAN(*drawing);
+        const QStringList toldAgain = recoverDrawing(drawing->toBytes()).report.lines(100);
+        EXPECT_TRUE(recoverDrawing(drawing->toBytes()).report.isEmpty()) << toldAgain.join(u'\n').toStdString();
     }
 }
 

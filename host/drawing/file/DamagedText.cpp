@@ -222,8 +222,11 @@ void DamagedTextScanner::noteTag(FoundRecord &record, const Tag &tag)
     } else if (tag.code == subclassCode) {
         m_handleCode = 0;
     }
-    if (tag.code == 2 && isWord(record.type, "SECTION"))
+    if (tag.code == 2 && isWord(record.type, "SECTION")) {
         m_isInHeader = isWord(tag.value.trimmed(), "HEADER");
+        // Drawings take none behind the name: it is what is left of a record within the section.
+        m_handleCode = 0;
+    }
 }
 
 void DamagedTextScanner::push(const FoundRecord &record)

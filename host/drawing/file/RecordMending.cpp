@@ -188,6 +188,17 @@ QByteArrayView firstValue(const FoundRecord &record, int code)
     return value;
 }
 
+QByteArray withoutCode(const FoundRecord &record, int code)
+{
+    QByteArray bytes;
+    forEachFoundTag(record, [&](const Tag &tag) {
+        if (tag.code != code)
+            bytes += tag.whole;
+        return true;
+    });
+    return bytes;
+}
+
 FileTraits traitsOf(std::vector<FoundRecord> &records, QByteArrayView text, RecoveryReport &report)
 {
     // Larger ones are a damage themselves, and would leave no room above.

@@ -40,4 +40,7 @@ void mendTexts(std::vector<FoundRecord> &records, const FileTraits &traits, Reco
 /// The value of the record's first tag with this code, without blanks around; empty when there is none.
 QByteArrayView firstValue(const FoundRecord &record, int code);
 
+/// The bytes of a record but for its tags of a code.
+QByteArray withoutCode(const FoundRecord &record, int code);
+
 } // namespace host::drawing

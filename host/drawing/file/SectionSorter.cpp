@@ -352,9 +352,10 @@ void SectionSorter::openBlock(const FoundRecord &record)
 {
     m_isBlockOpen = true;
     m_blockOwner = Handle::fromText(firstValue(record, 330)).value_or(Handle{}).value;
-    m_section->content.add(record.bytes);
     if (!firstValue(record, 2).isEmpty())
-        return;
+        return m_section->content.add(record.bytes);
+    // A name that is empty would be the first, which counts.
+    m_section->content.add(made(withoutCode(record, 2)));
     const QByteArray name = freeBlockName(m_blockOwner);
     m_section->content.add(made("  2\n" + name + '\n'));
     note(RecoveryStep::Done::Mended, u"BLOCK"_s, u"it had no name, and is %1 now"_s.arg(QString::fromLatin1(name)));
