@@ -1,4 +1,5 @@
-// Any bytes: what is recovered of them opens as any drawing, and recovering that again drops nothing more.
+// Any bytes: what is recovered of them opens as any drawing, and can be recovered again. That may mend or drop more
+// where a file is damaged in several places: recovering is stricter about the types of records than opening.
 
 #include "fuzz/Require.h"
 #include "host/drawing/file/Recovery.h"
@@ -22,8 +23,6 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     require(bool(Drawing::fromBytes(text)));
     if (recovered.report.isEmpty() && !recovered.drawing->isBinaryFile() && !bytes.startsWith(binaryMark()))
         require(text == bytes);
-    const Recovered again = recoverDrawing(text);
-    require(bool(again));
-    require(again.report.count(RecoveryStep::Done::Dropped) == 0);
+    require(bool(recoverDrawing(text)));
     return 0;
 }
