@@ -233,7 +233,6 @@ private:
     {
         const MultiLeaderData::Block &block = m_data.block;
         const std::vector<double> &m = block.matrix;
-        // One that maps nothing was never filled in: the other fields say where the block is.
         if (m.size() == 16) {
             const Matrix given{{m[0], m[4], m[8]}, {m[1], m[5], m[9]}, {m[2], m[6], m[10]}, {m[3], m[7], m[11]}};
             // Some writers leave the identity, and say the place of the block only beside it.
