@@ -1,12 +1,12 @@
 #include "host/kernel/input/Picker.h"
 
-#include "host/drawing/geometry/EntityGeometry.h"
 #include "host/drawing/records/Entities.h"
 #include "host/drawing/records/Symbols.h"
 #include "host/drawing/selection/PolygonSelection.h"
 #include "host/kernel/documents/CurrentSpace.h"
 #include "host/kernel/documents/Document.h"
 #include "host/kernel/variables/SystemVariables.h"
+#include "host/view/build/EntityExtents.h"
 
 #include <QSet>
 
@@ -56,6 +56,19 @@ Box boxAround(const Vec3 &point, double reach)
     return box;
 }
 
+/// A rectangle, filled.
+drawing::Outline outlineOf(const Box &box)
+{
+    drawing::Outline outline;
+    outline.isApproximate = true;
+    if (box.isEmpty())
+        return outline;
+    const auto [low, high] = std::pair(box.low, box.high);
+    outline.pieces.push_back(
+        {.points = {low, {high.x, low.y, low.z}, high, {low.x, high.y, low.z}, low}, .isFilled = true});
+    return outline;
+}
+
 bool isChosen(const drawing::Outline &outline, ShapeKind kind, const std::vector<Vec3> &corners)
 {
     switch (kind) {
@@ -92,13 +105,12 @@ std::vector<RecordId> Picker::thawed() const
 RecordId Picker::entityAt(const Vec3 &point) const
 {
     const double reach = m_document.variables().integer(u"PICKBOX", 3) * m_document.view().unitsPerPixel();
-    const std::vector<RecordId> near = m_document.boxes().touching(visible(), boxAround(point, reach));
+    const std::vector<RecordId> near = touching(boxAround(point, reach));
     RecordId best = drawing::noRecord;
     double bestDistance = reach;
     drawing::WorkBudget work = drawing::outlineBudget(near.size());
     for (RecordId id : near) {
-        const drawing::Outline outline = drawing::entityOutline(m_document.drawing(), id, work);
-        const double distance = drawing::flatDistance(outline, point.xy());
+        const double distance = drawing::flatDistance(outline(id, work), point.xy());
         if (distance <= bestDistance) {
             best = id;
             bestDistance = distance;
@@ -109,12 +121,33 @@ RecordId Picker::entityAt(const Vec3 &point) const
 
 std::vector<RecordId> Picker::inShape(ShapeKind kind, const std::vector<Vec3> &corners) const
 {
-    std::vector<RecordId> chosen = m_document.boxes().touching(visible(), boxOf(corners));
+    std::vector<RecordId> chosen = touching(boxOf(corners));
     drawing::WorkBudget work = drawing::outlineBudget(chosen.size());
-    std::erase_if(chosen, [&](RecordId id) {
-        return !isChosen(drawing::entityOutline(m_document.drawing(), id, work), kind, corners);
-    });
+    std::erase_if(chosen, [&](RecordId id) { return !isChosen(outline(id, work), kind, corners); });
     return chosen;
+}
+
+std::vector<RecordId> Picker::touching(const Box &window) const
+{
+    const std::vector<RecordId> all = visible();
+    const std::vector<RecordId> known = m_document.boxes().touching(all, window);
+    std::vector<RecordId> found;
+    auto next = known.begin();
+    for (const RecordId id : all) {
+        if (next != known.end() && *next == id) {
+            found.push_back(id);
+            ++next;
+        } else if (m_document.boxes().box(id).isEmpty() && m_document.entityExtents().of(id).touchesFlat(window)) {
+            found.push_back(id);
+        }
+    }
+    return found;
+}
+
+drawing::Outline Picker::outline(RecordId entity, drawing::WorkBudget &work) const
+{
+    drawing::Outline own = drawing::entityOutline(m_document.drawing(), entity, work);
+    return own.pieces.empty() ? outlineOf(m_document.entityExtents().of(entity)) : own;
 }
 
 NestedPick Picker::nestedAt(RecordId entity, const Vec3 &point) const

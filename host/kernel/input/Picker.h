@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/drawing/geometry/EntityGeometry.h"
 #include "host/drawing/math/Matrix.h"
 #include "host/drawing/records/Drawing.h"
 
@@ -47,6 +48,11 @@ public:
     std::vector<drawing::RecordId> thawed() const;
 
 private:
+    /// Of visible(), those whose box touches the window, and those without end.
+    std::vector<drawing::RecordId> touching(const drawing::Box &window) const;
+    /// What is picked by: the entity's outline, or the box of what it shows where that alone is known (multileaders,
+    /// dimensions without a block).
+    drawing::Outline outline(drawing::RecordId entity, drawing::WorkBudget &work) const;
     NestedPick nearestInside(drawing::RecordId insert, const drawing::Vec3 &point) const;
     drawing::RecordId nearestVertex(drawing::RecordId polyline, const drawing::Vec3 &point) const;
 

@@ -82,3 +82,9 @@
 (entmake '((0 . "ENDBLK")))
 (entmake '((0 . "INSERT") (2 . "BEAM") (10 0.0 -50.0 0.0)))
 (types (ssget "C" '(400 -51) '(401 -49))) ;= ("INSERT")
+
+; What has no outline of its own is found by the box of what it shows.
+(entmake '((0 . "DIMENSION") (100 . "AcDbEntity") (8 . "0") (100 . "AcDbDimension") (10 640.0 20.0 0.0) (70 . 32) (1 . "L") (100 . "AcDbAlignedDimension") (13 600.0 0.0 0.0) (14 640.0 0.0 0.0) (100 . "AcDbRotatedDimension")))
+(types (ssget "C" '(610 10) '(620 30))) ;= ("DIMENSION")
+(types (ssget "W" '(590 -10) '(650 40))) ;= ("DIMENSION")
+(ssget "C" '(700 10) '(720 30)) ;= nil
