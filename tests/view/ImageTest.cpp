@@ -132,6 +132,11 @@ TEST_F(ImageDrawing, WhatIsNoPictureIsAFrameWithItsName)
         EXPECT_EQ(shown.runs({12, 50}, {88, 50}) > 2, !isFound && QByteArray(file).size() > 0) << "the name";
         EXPECT_EQ(scene.report(Scene::modelSpace).missing().contains(u"IMAGE"), !isFound);
     }
+    const auto both = drawingOf("|10 10|20 80|11 0.1|21 0|12 0|22 0.1", "huge.png",
+                                "|0 IMAGE|5 A4|8 0|340 A5|10 10|20 30|11 2|21 0|12 0|22 2|13 40|23 20",
+                                "|0 IMAGEDEF|5 A5|1 four.png|10 40|20 20");
+    Scene scene(*both);
+    EXPECT_EQ(Rendering(scene, Scene::modelSpace).color(30, 60), QColor(Qt::red)) << "what follows a huge one";
 }
 
 TEST_F(ImageDrawing, FramesAreSeenAsTheDrawingSays)

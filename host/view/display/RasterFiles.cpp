@@ -109,10 +109,12 @@ QImage RasterFiles::read(const QString &name)
     const QSize own = isKnownForm(reader.format()) ? reader.size() : QSize();
     if (own.isEmpty())
         return {};
-    m_limits->readLeft -= qint64(own.width()) * own.height();
+    // A file that says too much is refused alone: it takes nothing from the others.
+    const qint64 said = qint64(own.width()) * own.height();
     const QSize kept = keptSize(own, m_limits->pixelsLeft / 2);
-    if (m_limits->readLeft < 0 || kept.isEmpty())
+    if (said > m_limits->readLeft || kept.isEmpty())
         return {};
+    m_limits->readLeft -= said;
     if (kept != own)
         reader.setScaledSize(kept);
     return reader.read();
