@@ -117,7 +117,9 @@ TEST(Geometry, PickingAndWindows)
                          "0 HATCH\n10 0\n20 0\n30 0\n2 SOLID\n70 1\n71 0\n91 2\n92 3\n72 0\n73 1\n93 4\n10 0\n20 0\n10 "
                          "9\n20 0\n10 9\n20 9\n10 0\n20 9\n97 0\n"
                          "92 2\n72 0\n73 1\n93 4\n10 3\n20 3\n10 6\n20 3\n10 6\n20 6\n10 3\n20 6\n97 0\n"
-                         "0 XLINE\n10 0\n20 50\n30 0\n11 1\n21 0\n31 0\n0 POINT\n10 5\n20 5\n30 0");
+                         "0 XLINE\n10 0\n20 50\n30 0\n11 1\n21 0\n31 0\n0 POINT\n10 5\n20 5\n30 0\n"
+                         "0 VIEWPORT\n10 5\n20 5\n30 0\n40 9\n41 9\n69 1\n"
+                         "0 VIEWPORT\n10 5\n20 5\n30 0\n40 8\n41 6\n69 2");
     const std::vector<RecordId> all = drawing->entities().all();
     const Outline line = entityOutline(*drawing, all[0]);
     EXPECT_DOUBLE_EQ(flatDistance(line, {5, 3}), 3.0);
@@ -128,6 +130,8 @@ TEST(Geometry, PickingAndWindows)
     const Outline endless = entityOutline(*drawing, all[2]);
     EXPECT_NEAR(flatDistance(endless, {1e6, 49}), 1.0, 1e-6);
     EXPECT_TRUE(entityBox(*drawing, all[2]).isEmpty());
+    EXPECT_TRUE(entityBox(*drawing, all[4]).isEmpty()) << "the sheet itself";
+    EXPECT_EQ(entityBox(*drawing, all[5]).high, (Vec3{9, 8, 0}));
     EXPECT_EQ(flatDistance(Outline(), {0, 0}), std::numeric_limits<double>::infinity());
 
     const Outline point = entityOutline(*drawing, all[3]);

@@ -120,8 +120,12 @@ void outlineOfImage(OutlineSink &sink, const TagList &tags)
     sink.add(frame);
 }
 
+/// The viewport that stands for the sheet itself is not seen, and as large as the window it was last looked at in.
 void outlineOfViewport(OutlineSink &sink, const TagList &tags)
 {
+    constexpr qint64 sheetItself = 1;
+    if (tags.integer(69) == sheetItself)
+        return;
     const Vec3 center = tags.point(10);
     const double x = tags.real(40) / 2.0;
     const double y = tags.real(41) / 2.0;
