@@ -1,5 +1,7 @@
 #pragma once
 
+#include "host/units/AsciiText.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <string>
@@ -37,10 +39,6 @@ char32_t lowerCharacter(char32_t character) noexcept;
 /// The text of a file: a byte-order mark is dropped, and what is no valid UTF-8 is taken as Windows-1252.
 std::string decodeFile(std::string bytes);
 
-/// Blank, tab, line feed, carriage return, form feed or vertical tab.
-constexpr bool isBlank(char c) noexcept
-{
-    return c == ' ' || (c >= '\t' && c <= '\r');
-}
+using units::isBlank;
 
 } // namespace host::lisp

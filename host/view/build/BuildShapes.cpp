@@ -1,8 +1,7 @@
 #include "host/drawing/math/Angles.h"
 #include "host/view/build/DisplayBuilder.h"
 #include "host/view/build/Scene.h"
-
-#include <numbers>
+#include "host/view/display/MapShapes.h"
 
 namespace host::view {
 
@@ -39,13 +38,7 @@ bool buildShape(BuildContext &context, const TagList &tags)
     Style full = context.style;
     full.linetype = 0;
     for (Curve &curve : *curves) {
-        for (Vec3 &point : curve.points)
-            point = placement->point(point);
-        for (ArcSpan &arc : curve.arcs) {
-            arc.center = placement->point(arc.center);
-            arc.xAxis = placement->direction(arc.xAxis);
-            arc.yAxis = placement->direction(arc.yAxis);
-        }
+        mapCurve(curve, *placement);
         context.add(Stroke{std::move(curve)}, full);
     }
     return true;
