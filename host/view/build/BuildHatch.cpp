@@ -1,6 +1,7 @@
 #include "host/view/build/DisplayBuilder.h"
 #include "host/view/build/HatchGradient.h"
 #include "host/view/build/HatchLines.h"
+#include "host/view/display/MapShapes.h"
 
 namespace host::view {
 
@@ -10,21 +11,10 @@ namespace {
 
 constexpr std::int64_t mostHatchPieces = 200'000; ///< of one hatch
 
-void place(Curve &curve, const Matrix &ocs)
-{
-    for (Vec3 &point : curve.points)
-        point = ocs.point(point);
-    for (ArcSpan &arc : curve.arcs) {
-        arc.center = ocs.point(arc.center);
-        arc.xAxis = ocs.direction(arc.xAxis);
-        arc.yAxis = ocs.direction(arc.yAxis);
-    }
-}
-
 void addHatchArea(BuildContext &context, HatchData &hatch, const Matrix &ocs, FillKind kind)
 {
     auto gradient = kind == FillKind::Area ? hatchGradient(hatch, ocs) : nullptr;
-    std::ranges::for_each(hatch.loops, [&](Curve &loop) { place(loop, ocs); });
+    std::ranges::for_each(hatch.loops, [&](Curve &loop) { mapCurve(loop, ocs); });
     context.add(Fill{.contours = std::move(hatch.loops), .kind = kind, .gradient = std::move(gradient)});
 }
 

@@ -1,6 +1,7 @@
 #include "host/view/build/SolidModel.h"
 
 #include "host/view/build/DisplayBuilder.h"
+#include "host/view/display/MapShapes.h"
 
 #include <charconv>
 #include <numbers>
@@ -197,12 +198,8 @@ private:
 
     bool keep(Curve curve, const Matrix &placement)
     {
-        for (Vec3 &point : curve.points)
-            point = placement.point(point);
-        for (ArcSpan &span : curve.arcs) {
-            span.center = placement.point(span.center);
-            span.xAxis = placement.direction(span.xAxis);
-            span.yAxis = placement.direction(span.yAxis);
+        mapCurve(curve, placement);
+        for (const ArcSpan &span : curve.arcs) {
             if (!isUsable(span.center) || !isUsable(span.xAxis) || !isUsable(span.yAxis) || !isUsable(span.sweep))
                 return false;
         }
