@@ -10,6 +10,19 @@ function(ortakit_room name)
     ortakit_pch(${name} "${ROOM_PCH}")
 endfunction()
 
+# ortakit_host_room(NAME SOURCES ...)
+#
+# A room that is compiled by itself and becomes a part of the host's one library: what is added to it leaves the batches
+# of the other rooms as they are.
+function(ortakit_host_room name)
+    cmake_parse_arguments(ROOM "" "" "SOURCES" ${ARGN})
+    add_library(${name} OBJECT ${ROOM_SOURCES})
+    target_include_directories(${name} PRIVATE "${CMAKE_SOURCE_DIR}")
+    target_link_libraries(${name} PRIVATE Qt6::Widgets)
+    target_link_libraries(ortakit_host PRIVATE ${name})
+    ortakit_pch(${name} widgets)
+endfunction()
+
 # What a third of the files with Qt include. The umbrella headers take twice as long to precompile and to load.
 set(ORTAKIT_CORE_HEADERS
     <QByteArray> <QByteArrayView> <QCoreApplication> <QDir> <QFile> <QFileInfo> <QHash> <QIODevice> <QList> <QMap>

@@ -5,11 +5,28 @@ namespace host::kernel {
 std::vector<CommandRow> builtInCommands()
 {
     std::vector<CommandRow> rows;
-    for (const auto &group :
-         {drawCommands(), circleCommands(), polylineCommands(), textCommands(), editCommands(), drawOrderCommands(),
-          insertCommands(), writeBlockCommands(), layerCommands(), linetypeCommands(), shapeCommands(),
-          layoutCommands(), purgeCommands(), referenceCommands(), fileCommands(), viewCommands(), undoCommands()})
+    // clang-format off
+    for (const auto &group : {
+             circleCommands(),
+             drawCommands(),
+             drawOrderCommands(),
+             editCommands(),
+             fileCommands(),
+             insertCommands(),
+             layerCommands(),
+             layoutCommands(),
+             linetypeCommands(),
+             polylineCommands(),
+             purgeCommands(),
+             referenceCommands(),
+             shapeCommands(),
+             textCommands(),
+             undoCommands(),
+             viewCommands(),
+             writeBlockCommands(),
+         })
         rows.insert(rows.end(), group.begin(), group.end());
+    // clang-format on
     return rows;
 }
 

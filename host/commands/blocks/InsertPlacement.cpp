@@ -1,6 +1,6 @@
-#include "host/commands/InsertPlacement.h"
+#include "host/commands/blocks/InsertPlacement.h"
 
-#include "host/commands/UserPlane.h"
+#include "host/commands/common/UserPlane.h"
 #include "host/kernel/documents/Document.h"
 #include "host/kernel/running/CommandContext.h"
 

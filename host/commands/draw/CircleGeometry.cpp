@@ -1,4 +1,4 @@
-#include "host/commands/CircleGeometry.h"
+#include "host/commands/draw/CircleGeometry.h"
 
 #include <cmath>
 

@@ -1,4 +1,4 @@
-#include "host/commands/Justification.h"
+#include "host/commands/annotate/Justification.h"
 
 #include "host/kernel/running/CommandContext.h"
 

@@ -1,4 +1,4 @@
-#include "host/commands/EntityEdits.h"
+#include "host/commands/common/EntityEdits.h"
 
 #include "host/drawing/geometry/TransformEntity.h"
 #include "host/kernel/input/SelectionQuery.h"

@@ -1,10 +1,10 @@
 // The ways to draw an arc of a polyline. All of them start where the last segment ended; points are in the user's
 // plane.
 
-#include "host/commands/PolylineArcs.h"
+#include "host/commands/draw/PolylineArcs.h"
 
-#include "host/commands/CircleGeometry.h"
-#include "host/commands/UserPlane.h"
+#include "host/commands/common/UserPlane.h"
+#include "host/commands/draw/CircleGeometry.h"
 #include "host/kernel/documents/Document.h"
 #include "host/kernel/running/CommandContext.h"
 

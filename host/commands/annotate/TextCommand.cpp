@@ -1,6 +1,6 @@
 #include "host/commands/Commands.h"
-#include "host/commands/Justification.h"
-#include "host/commands/UserPlane.h"
+#include "host/commands/annotate/Justification.h"
+#include "host/commands/common/UserPlane.h"
 #include "host/drawing/records/Symbols.h"
 #include "host/drawing/records/Tables.h"
 #include "host/drawing/selection/Wildcard.h"

@@ -1,4 +1,4 @@
-#include "host/commands/LayerChanges.h"
+#include "host/commands/layers/LayerChanges.h"
 
 #include "host/drawing/records/Dictionaries.h"
 #include "host/drawing/records/Tables.h"

@@ -1,7 +1,7 @@
-#include "host/commands/TangentCircle.h"
+#include "host/commands/draw/TangentCircle.h"
 
-#include "host/commands/CircleGeometry.h"
-#include "host/commands/UserPlane.h"
+#include "host/commands/common/UserPlane.h"
+#include "host/commands/draw/CircleGeometry.h"
 
 #include <cmath>
 

@@ -1,5 +1,5 @@
 #include "host/commands/Commands.h"
-#include "host/commands/UserPlane.h"
+#include "host/commands/common/UserPlane.h"
 #include "host/drawing/references/ShapeFiles.h"
 #include "host/kernel/documents/Document.h"
 #include "host/kernel/running/CommandContext.h"

@@ -1,4 +1,4 @@
-#include "host/commands/ReferenceValue.h"
+#include "host/commands/common/ReferenceValue.h"
 
 #include "host/kernel/running/CommandContext.h"
 

@@ -1,5 +1,5 @@
 #include "host/commands/Commands.h"
-#include "host/commands/EntityEdits.h"
+#include "host/commands/common/EntityEdits.h"
 #include "host/drawing/editing/UnusedNames.h"
 #include "host/drawing/records/Entities.h"
 #include "host/drawing/selection/Wildcard.h"

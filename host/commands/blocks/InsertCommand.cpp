@@ -1,6 +1,6 @@
 #include "host/commands/Commands.h"
-#include "host/commands/EntityEdits.h"
-#include "host/commands/InsertPlacement.h"
+#include "host/commands/blocks/InsertPlacement.h"
+#include "host/commands/common/EntityEdits.h"
 #include "host/drawing/editing/CopyBetweenDrawings.h"
 #include "host/drawing/geometry/TransformEntity.h"
 #include "host/drawing/geometry/TransformFields.h"

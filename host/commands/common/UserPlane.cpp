@@ -1,4 +1,4 @@
-#include "host/commands/UserPlane.h"
+#include "host/commands/common/UserPlane.h"
 
 #include "host/kernel/documents/Document.h"
 

@@ -1,5 +1,5 @@
 #include "host/commands/Commands.h"
-#include "host/commands/LayerChanges.h"
+#include "host/commands/layers/LayerChanges.h"
 #include "host/drawing/editing/RenameLayer.h"
 #include "host/drawing/records/Symbols.h"
 #include "host/drawing/records/Tables.h"

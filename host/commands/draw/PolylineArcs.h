@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/commands/PolylineDraft.h"
+#include "host/commands/draw/PolylineDraft.h"
 #include "host/kernel/running/Dialogue.h"
 
 namespace host::kernel {
