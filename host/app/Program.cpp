@@ -103,6 +103,8 @@ int runMode(const ProgramOptions &options)
         return runLispFiles(options);
     case Mode::Convert:
         return convertDrawing(options);
+    case Mode::Names:
+        return listNames(options);
     default:
         return runWindow(options);
     }

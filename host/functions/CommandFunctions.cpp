@@ -161,9 +161,11 @@ Value commandS(Arguments &args)
 void addCommandFunctions(lisp::Interpreter &interpreter)
 {
     static constexpr lisp::NativeRow rows[] = {
-        {"command", command, lisp::Arity::any()},
-        {"command-s", commandS, lisp::Arity::atLeast(1)},
-        {"vl-cmdf", vlCmdf, lisp::Arity::any()},
+        {"command", command, lisp::Arity::any(), "[answer...]",
+         "runs commands with these answers; without any, cancels"},
+        {"command-s", commandS, lisp::Arity::atLeast(1), "command answer...",
+         "runs one command that these answers bring to its end"},
+        {"vl-cmdf", vlCmdf, lisp::Arity::any(), "[answer...]", "as command; T"},
     };
     interpreter.define(rows);
     // The name that programs use for the argument that has the user answer.

@@ -47,7 +47,8 @@ Value trans(Arguments &args)
 void addCoordinateFunctions(lisp::Interpreter &interpreter)
 {
     static constexpr lisp::NativeRow rows[] = {
-        {"trans", trans, lisp::Arity::between(3, 4)},
+        {"trans", trans, lisp::Arity::between(3, 4), "point from to [displacement]",
+         "a point or displacement in another coordinate system"},
     };
     interpreter.define(rows);
 }

@@ -115,9 +115,12 @@ Value nothing(Arguments &)
 void addDialogFunctions(lisp::Interpreter &interpreter)
 {
     static constexpr lisp::NativeRow rows[] = {
-        {"alert", alert, lisp::Arity::exactly(1)},      {"getfiled", getfiled, lisp::Arity::exactly(4)},
-        {"graphscr", nothing, lisp::Arity::exactly(0)}, {"textscr", nothing, lisp::Arity::exactly(0)},
-        {"textpage", nothing, lisp::Arity::exactly(0)},
+        {"alert", alert, lisp::Arity::exactly(1), "text", "shows a message"},
+        {"getfiled", getfiled, lisp::Arity::exactly(4), "title default extension flags",
+         "asks for a file with a dialog"},
+        {"graphscr", nothing, lisp::Arity::exactly(0), "", "shows the drawing"},
+        {"textscr", nothing, lisp::Arity::exactly(0), "", "shows the text window"},
+        {"textpage", nothing, lisp::Arity::exactly(0), "", "shows the text window, cleared"},
     };
     interpreter.define(rows);
 }

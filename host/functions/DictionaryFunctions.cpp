@@ -111,9 +111,13 @@ Value regapp(Arguments &args)
 void addDictionaryFunctions(lisp::Interpreter &interpreter)
 {
     static constexpr lisp::NativeRow rows[] = {
-        {"namedobjdict", namedobjdict, lisp::Arity::exactly(0)}, {"dictsearch", dictsearch, lisp::Arity::between(2, 3)},
-        {"dictnext", dictnext, lisp::Arity::between(1, 2)},      {"dictadd", dictadd, lisp::Arity::exactly(3)},
-        {"dictremove", dictremove, lisp::Arity::exactly(2)},     {"regapp", regapp, lisp::Arity::exactly(1)},
+        {"namedobjdict", namedobjdict, lisp::Arity::exactly(0), "", "the dictionary of all dictionaries"},
+        {"dictsearch", dictsearch, lisp::Arity::between(2, 3), "dictionary name [restart]",
+         "the object of a name in a dictionary, as entget gives it"},
+        {"dictnext", dictnext, lisp::Arity::between(1, 2), "dictionary [rewind]", "the next object of a dictionary"},
+        {"dictadd", dictadd, lisp::Arity::exactly(3), "dictionary name object", "puts an object into a dictionary"},
+        {"dictremove", dictremove, lisp::Arity::exactly(2), "dictionary name", "takes a name out of a dictionary"},
+        {"regapp", regapp, lisp::Arity::exactly(1), "name", "registers an application, for extended data"},
     };
     interpreter.define(rows);
 }

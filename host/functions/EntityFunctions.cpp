@@ -229,11 +229,17 @@ Value handent(Arguments &args)
 void addEntityFunctions(lisp::Interpreter &interpreter)
 {
     static constexpr lisp::NativeRow rows[] = {
-        {"entget", entget, lisp::Arity::between(1, 2)},   {"entmod", entmod, lisp::Arity::exactly(1)},
-        {"entmake", entmake, lisp::Arity::between(0, 1)}, {"entmakex", entmakex, lisp::Arity::between(0, 1)},
-        {"entdel", entdel, lisp::Arity::exactly(1)},      {"entupd", entupd, lisp::Arity::exactly(1)},
-        {"entlast", entlast, lisp::Arity::exactly(0)},    {"entnext", entnext, lisp::Arity::between(0, 1)},
-        {"handent", handent, lisp::Arity::exactly(1)},
+        {"entget", entget, lisp::Arity::between(1, 2), "entity [applications]",
+         "the fields of an entity, as a list of pairs"},
+        {"entmod", entmod, lisp::Arity::exactly(1), "list", "changes an entity to the fields of a list"},
+        {"entmake", entmake, lisp::Arity::between(0, 1), "[list]", "makes an entity, or a part of one"},
+        {"entmakex", entmakex, lisp::Arity::between(0, 1), "[list]",
+         "makes an object or entity without an owner; its name"},
+        {"entdel", entdel, lisp::Arity::exactly(1), "entity", "erases an entity, or takes that back"},
+        {"entupd", entupd, lisp::Arity::exactly(1), "entity", "shows an entity as it is now"},
+        {"entlast", entlast, lisp::Arity::exactly(0), "", "the entity made last"},
+        {"entnext", entnext, lisp::Arity::between(0, 1), "[entity]", "the next entity; without one, the first"},
+        {"handent", handent, lisp::Arity::exactly(1), "handle", "the entity of a handle"},
     };
     interpreter.define(rows);
 }

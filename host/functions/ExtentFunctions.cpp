@@ -26,7 +26,7 @@ Value entityExtents(Arguments &args)
 void addExtentFunctions(lisp::Interpreter &interpreter)
 {
     static constexpr lisp::NativeRow rows[] = {
-        {"acet-ent-geomextents", entityExtents, lisp::Arity::exactly(1)},
+        {"acet-ent-geomextents", entityExtents, lisp::Arity::exactly(1), "entity", "the corners of an entity's box"},
     };
     interpreter.define(rows);
 }

@@ -123,10 +123,14 @@ Value redraw(Arguments &args)
 void addPickFunctions(lisp::Interpreter &interpreter)
 {
     static constexpr lisp::NativeRow rows[] = {
-        {"entsel", entsel, lisp::Arity::between(0, 1)},
-        {"nentsel", nentsel, lisp::Arity::between(0, 1)},
-        {"nentselp", nentselp, lisp::Arity::between(0, 2)},
-        {"redraw", redraw, lisp::Arity::between(0, 2)},
+        {"entsel", entsel, lisp::Arity::between(0, 1), "[prompt]",
+         "asks for an entity: its name and where it was picked"},
+        {"nentsel", nentsel, lisp::Arity::between(0, 1), "[prompt]",
+         "asks for an entity within blocks: name, point, matrix and the blocks around it"},
+        {"nentselp", nentselp, lisp::Arity::between(0, 2), "[prompt] [point]",
+         "the same, with the matrix as four by four; or at a point"},
+        {"redraw", redraw, lisp::Arity::between(0, 2), "[entity [mode]]",
+         "draws again; shows, hides or highlights an entity"},
     };
     interpreter.define(rows);
 }

@@ -141,11 +141,19 @@ Value getkword(Arguments &args)
 void addPromptFunctions(lisp::Interpreter &interpreter)
 {
     static constexpr lisp::NativeRow rows[] = {
-        {"initget", initget, lisp::Arity::between(0, 2)},     {"getint", getint, lisp::Arity::between(0, 1)},
-        {"getreal", getreal, lisp::Arity::between(0, 1)},     {"getdist", getdist, lisp::Arity::between(0, 2)},
-        {"getangle", getangle, lisp::Arity::between(0, 2)},   {"getorient", getorient, lisp::Arity::between(0, 2)},
-        {"getpoint", getpoint, lisp::Arity::between(0, 2)},   {"getcorner", getcorner, lisp::Arity::between(1, 2)},
-        {"getstring", getstring, lisp::Arity::between(0, 2)}, {"getkword", getkword, lisp::Arity::between(0, 1)},
+        {"initget", initget, lisp::Arity::between(0, 2), "[bits] [keywords]", "says what the next prompt takes"},
+        {"getint", getint, lisp::Arity::between(0, 1), "[prompt]", "asks for an integer"},
+        {"getreal", getreal, lisp::Arity::between(0, 1), "[prompt]", "asks for a real"},
+        {"getdist", getdist, lisp::Arity::between(0, 2), "[base] [prompt]", "asks for a length, typed or by points"},
+        {"getangle", getangle, lisp::Arity::between(0, 2), "[base] [prompt]",
+         "asks for an angle, counted from ANGBASE"},
+        {"getorient", getorient, lisp::Arity::between(0, 2), "[base] [prompt]",
+         "asks for an angle, counted from the x axis"},
+        {"getpoint", getpoint, lisp::Arity::between(0, 2), "[base] [prompt]", "asks for a point"},
+        {"getcorner", getcorner, lisp::Arity::between(1, 2), "base [prompt]",
+         "asks for the corner opposite to a point"},
+        {"getstring", getstring, lisp::Arity::between(0, 2), "[blanks] [prompt]", "asks for a text"},
+        {"getkword", getkword, lisp::Arity::between(0, 1), "[prompt]", "asks for one of the keywords of initget"},
     };
     interpreter.define(rows);
 }

@@ -111,9 +111,10 @@ Value ssgetfirst(Arguments &args)
 void addSelectionFunctions(lisp::Interpreter &interpreter)
 {
     static constexpr lisp::NativeRow rows[] = {
-        {"ssget", ssget, lisp::Arity::between(0, 4)},
-        {"ssgetfirst", ssgetfirst, lisp::Arity::exactly(0)},
-        {"sssetfirst", sssetfirst, lisp::Arity::between(1, 2)},
+        {"ssget", ssget, lisp::Arity::between(0, 4), "[method] [points] [filter]",
+         "a selection set: asked for, or by method, points and filter"},
+        {"ssgetfirst", ssgetfirst, lisp::Arity::exactly(0), "", "what is chosen before a command"},
+        {"sssetfirst", sssetfirst, lisp::Arity::between(1, 2), "[grips] [chosen]", "chooses entities before a command"},
     };
     interpreter.define(rows);
 }

@@ -270,9 +270,11 @@ Value mergeSheets(Arguments &args)
 void addSheetFunctions(lisp::Interpreter &interpreter)
 {
     static constexpr lisp::NativeRow rows[] = {
-        {"drawing-sheets", drawingSheets, lisp::Arity::between(0, 1)},
-        {"merge-clashes", mergeClashes, lisp::Arity::exactly(2)},
-        {"merge-sheets", mergeSheets, lisp::Arity::exactly(3)},
+        {"drawing-sheets", drawingSheets, lisp::Arity::between(0, 1), "[file]", "the sheets of a drawing"},
+        {"merge-clashes", mergeClashes, lisp::Arity::exactly(2), "files mode",
+         "names that mean different things in drawings that are to become one"},
+        {"merge-sheets", mergeSheets, lisp::Arity::exactly(3), "file sheets options",
+         "puts sheets of drawings into one"},
     };
     interpreter.define(rows);
 }

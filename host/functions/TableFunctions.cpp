@@ -132,10 +132,12 @@ Value snvalid(Arguments &args)
 void addTableFunctions(lisp::Interpreter &interpreter)
 {
     static constexpr lisp::NativeRow rows[] = {
-        {"tblsearch", tblsearch, lisp::Arity::between(2, 3)},
-        {"tblnext", tblnext, lisp::Arity::between(1, 2)},
-        {"tblobjname", tblobjname, lisp::Arity::exactly(2)},
-        {"snvalid", snvalid, lisp::Arity::between(1, 2)},
+        {"tblsearch", tblsearch, lisp::Arity::between(2, 3), "table name [next]",
+         "the entry of a table, as a list of pairs"},
+        {"tblnext", tblnext, lisp::Arity::between(1, 2), "table [rewind]", "the next entry of a table"},
+        {"tblobjname", tblobjname, lisp::Arity::exactly(2), "table name", "the entity name of a table's entry"},
+        {"snvalid", snvalid, lisp::Arity::between(1, 2), "name [flag]",
+         "T for what may be the name of a table's entry"},
     };
     interpreter.define(rows);
 }

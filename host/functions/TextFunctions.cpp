@@ -57,7 +57,7 @@ Value textbox(Arguments &args)
 void addTextFunctions(lisp::Interpreter &interpreter)
 {
     static constexpr lisp::NativeRow rows[] = {
-        {"textbox", textbox, lisp::Arity::exactly(1)},
+        {"textbox", textbox, lisp::Arity::exactly(1), "list", "the corners of a text's box, from the text's own point"},
     };
     interpreter.define(rows);
 }

@@ -73,8 +73,8 @@ Value setvar(Arguments &args)
 void addVariableFunctions(lisp::Interpreter &interpreter)
 {
     static constexpr lisp::NativeRow rows[] = {
-        {"getvar", getvar, lisp::Arity::exactly(1)},
-        {"setvar", setvar, lisp::Arity::exactly(2)},
+        {"getvar", getvar, lisp::Arity::exactly(1), "name", "the value of a system variable; nil for an unknown name"},
+        {"setvar", setvar, lisp::Arity::exactly(2), "name value", "sets a system variable"},
     };
     interpreter.define(rows);
 }

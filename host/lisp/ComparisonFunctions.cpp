@@ -77,16 +77,16 @@ static Value isNull(Arguments &args)
 }
 
 static constexpr NativeRow comparisonRows[] = {
-    {"=", equalSign, Arity::atLeast(1)},
-    {"/=", differs, Arity::atLeast(1)},
-    {"<", ordered<std::less<>>, Arity::atLeast(1)},
-    {"<=", ordered<std::less_equal<>>, Arity::atLeast(1)},
-    {">", ordered<std::greater<>>, Arity::atLeast(1)},
-    {">=", ordered<std::greater_equal<>>, Arity::atLeast(1)},
-    {"eq", eq, Arity::exactly(2)},
-    {"equal", equal, Arity::between(2, 3)},
-    {"not", isNull, Arity::exactly(1)},
-    {"null", isNull, Arity::exactly(1)},
+    {"=", equalSign, Arity::atLeast(1), "value...", "T when all are equal, numbers or strings"},
+    {"/=", differs, Arity::atLeast(1), "value...", "T when no two neighbours are equal"},
+    {"<", ordered<std::less<>>, Arity::atLeast(1), "value...", "T when each is less than the next"},
+    {"<=", ordered<std::less_equal<>>, Arity::atLeast(1), "value...", "T when no one is greater than the next"},
+    {">", ordered<std::greater<>>, Arity::atLeast(1), "value...", "T when each is greater than the next"},
+    {">=", ordered<std::greater_equal<>>, Arity::atLeast(1), "value...", "T when no one is less than the next"},
+    {"eq", eq, Arity::exactly(2), "a b", "T when both are the same object"},
+    {"equal", equal, Arity::between(2, 3), "a b [tolerance]", "T when both look the same, numbers within a tolerance"},
+    {"not", isNull, Arity::exactly(1), "value", "T for nil"},
+    {"null", isNull, Arity::exactly(1), "value", "T for nil"},
 };
 
 void addComparisonFunctions(Interpreter &interpreter)

@@ -124,10 +124,16 @@ static Value cvunit(Arguments &args)
 }
 
 static constexpr NativeRow conversionRows[] = {
-    {"rtos", rtos, Arity::between(1, 3)},     {"angtos", angtos, Arity::between(1, 3)},
-    {"distof", distof, Arity::between(1, 2)}, {"angtof", angtof, Arity::between(1, 2)},
-    {"itoa", itoa, Arity::exactly(1)},        {"atof", atof, Arity::exactly(1)},
-    {"atoi", atoi, Arity::exactly(1)},        {"cvunit", cvunit, Arity::exactly(3)},
+    {"rtos", rtos, Arity::between(1, 3), "number [mode [precision]]",
+     "a length as text, by LUNITS and LUPREC or as said"},
+    {"angtos", angtos, Arity::between(1, 3), "angle [mode [precision]]",
+     "an angle as text, by AUNITS and AUPREC or as said"},
+    {"distof", distof, Arity::between(1, 2), "text [mode]", "the length that a text says"},
+    {"angtof", angtof, Arity::between(1, 2), "text [mode]", "the angle that a text says, in radians"},
+    {"itoa", itoa, Arity::exactly(1), "integer", "an integer as text"},
+    {"atof", atof, Arity::exactly(1), "text", "the real that a text begins with, else 0.0"},
+    {"atoi", atoi, Arity::exactly(1), "text", "the integer that a text begins with, else 0"},
+    {"cvunit", cvunit, Arity::exactly(3), "value from to", "a number or list converted between units of measure"},
 };
 
 void addConversionFunctions(Interpreter &interpreter)

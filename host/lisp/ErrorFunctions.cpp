@@ -47,13 +47,15 @@ static Value exitWithValue(Arguments &args)
 }
 
 static constexpr NativeRow errorRows[] = {
-    {"vl-catch-all-apply", catchAllApply, Arity::exactly(2)},
-    {"vl-catch-all-error-p", isCaughtError, Arity::exactly(1)},
-    {"vl-catch-all-error-message", caughtMessage, Arity::exactly(1)},
-    {"exit", quit, Arity::exactly(0)},
-    {"quit", quit, Arity::exactly(0)},
-    {"vl-exit-with-error", exitWithError, Arity::exactly(1)},
-    {"vl-exit-with-value", exitWithValue, Arity::exactly(1)},
+    {"vl-catch-all-apply", catchAllApply, Arity::exactly(2), "function list",
+     "calls a function; an error in it becomes the value"},
+    {"vl-catch-all-error-p", isCaughtError, Arity::exactly(1), "value", "T for an error that was caught"},
+    {"vl-catch-all-error-message", caughtMessage, Arity::exactly(1), "error",
+     "the message of an error that was caught"},
+    {"exit", quit, Arity::exactly(0), "", "ends the program"},
+    {"quit", quit, Arity::exactly(0), "", "ends the program"},
+    {"vl-exit-with-error", exitWithError, Arity::exactly(1), "text", "ends the program with an error"},
+    {"vl-exit-with-value", exitWithValue, Arity::exactly(1), "value", "ends the program with a value"},
 };
 
 void addErrorFunctions(Interpreter &interpreter)

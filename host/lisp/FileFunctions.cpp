@@ -189,15 +189,17 @@ static Value directoryFiles(Arguments &args)
 }
 
 static constexpr NativeRow fileRows[] = {
-    {"vl-file-delete", deleteFile, Arity::exactly(1)},
-    {"vl-file-copy", copyFile, Arity::between(2, 3)},
-    {"file-put-lines", putLines, Arity::exactly(2)},
-    {"vl-file-rename", renameFile, Arity::exactly(2)},
-    {"vl-file-size", fileSize, Arity::exactly(1)},
-    {"vl-file-directory-p", isDirectory, Arity::exactly(1)},
-    {"vl-file-systime", fileTime, Arity::exactly(1)},
-    {"vl-mkdir", makeDirectory, Arity::exactly(1)},
-    {"vl-directory-files", directoryFiles, Arity::between(0, 3)},
+    {"vl-file-delete", deleteFile, Arity::exactly(1), "file", "deletes a file; T when done"},
+    {"vl-file-copy", copyFile, Arity::between(2, 3), "from to [append]", "copies a file; the number of bytes, or nil"},
+    {"file-put-lines", putLines, Arity::exactly(2), "file lines", "writes a list of lines as a file, as a whole"},
+    {"vl-file-rename", renameFile, Arity::exactly(2), "from to", "renames a file; T when done"},
+    {"vl-file-size", fileSize, Arity::exactly(1), "file", "the size of a file in bytes, 0 for a folder"},
+    {"vl-file-directory-p", isDirectory, Arity::exactly(1), "name", "T for a folder"},
+    {"vl-file-systime", fileTime, Arity::exactly(1), "file",
+     "when a file was written: year, month, weekday, day, hour, minute, second"},
+    {"vl-mkdir", makeDirectory, Arity::exactly(1), "folder", "makes a folder; T when done"},
+    {"vl-directory-files", directoryFiles, Arity::between(0, 3), "[folder [pattern [kind]]]",
+     "what is in a folder: all (0), folders (-1) or files (1)"},
 };
 
 void addFileFunctions(Interpreter &interpreter)

@@ -75,11 +75,12 @@ static Value temporaryName(Arguments &args)
 }
 
 static constexpr NativeRow fileNameRows[] = {
-    {"vl-filename-base", base, Arity::exactly(1)},
-    {"vl-filename-directory", directory, Arity::exactly(1)},
-    {"vl-filename-extension", extension, Arity::exactly(1)},
-    {"fnsplitl", splitName, Arity::exactly(1)},
-    {"vl-filename-mktemp", temporaryName, Arity::between(0, 3)},
+    {"vl-filename-base", base, Arity::exactly(1), "name", "a file's name without folder and extension"},
+    {"vl-filename-directory", directory, Arity::exactly(1), "name", "a file's folder"},
+    {"vl-filename-extension", extension, Arity::exactly(1), "name", "a file's extension with its dot"},
+    {"fnsplitl", splitName, Arity::exactly(1), "name", "a file name's folder, base and extension"},
+    {"vl-filename-mktemp", temporaryName, Arity::between(0, 3), "[pattern [folder [extension]]]",
+     "a name of a file that does not exist, for the time of the program"},
 };
 
 void addFileNameFunctions(Interpreter &interpreter)

@@ -159,19 +159,21 @@ static Value defunQListSet(Arguments &args)
 }
 
 static constexpr NativeRow functionRows[] = {
-    {"eval", evalFunction, Arity::exactly(1)},
-    {"apply", applyFunction, Arity::exactly(2)},
-    {"mapcar", mapcar, Arity::atLeast(2)},
-    {"set", set, Arity::exactly(2)},
-    {"boundp", boundp, Arity::exactly(1)},
-    {"type", type, Arity::exactly(1)},
-    {"read", read, Arity::between(0, 1)},
-    {"vl-symbol-name", symbolName, Arity::exactly(1)},
-    {"vl-symbol-value", symbolValue, Arity::exactly(1)},
-    {"vl-symbolp", symbolp, Arity::exactly(1)},
-    {"atoms-family", atomsFamily, Arity::between(1, 2)},
-    {"defun-q-list-ref", defunQListRef, Arity::exactly(1)},
-    {"defun-q-list-set", defunQListSet, Arity::exactly(2)},
+    {"eval", evalFunction, Arity::exactly(1), "form", "evaluates a form"},
+    {"apply", applyFunction, Arity::exactly(2), "function list", "calls a function with a list of arguments"},
+    {"mapcar", mapcar, Arity::atLeast(2), "function list...",
+     "a list of what a function gives for the elements of lists"},
+    {"set", set, Arity::exactly(2), "symbol value", "sets the symbol that a form gives"},
+    {"boundp", boundp, Arity::exactly(1), "symbol", "T when a symbol has a value"},
+    {"type", type, Arity::exactly(1), "value", "what kind of value it is, as a symbol"},
+    {"read", read, Arity::between(0, 1), "[text]", "the first value that a text spells"},
+    {"vl-symbol-name", symbolName, Arity::exactly(1), "symbol", "the name of a symbol"},
+    {"vl-symbol-value", symbolValue, Arity::exactly(1), "symbol", "the value of a symbol"},
+    {"vl-symbolp", symbolp, Arity::exactly(1), "value", "T for a symbol"},
+    {"atoms-family", atomsFamily, Arity::between(1, 2), "form [names]",
+     "the names of all functions and variables, as symbols (0) or strings (1)"},
+    {"defun-q-list-ref", defunQListRef, Arity::exactly(1), "name", "the list that a function of defun-q is kept as"},
+    {"defun-q-list-set", defunQListSet, Arity::exactly(2), "name list", "defines a function by such a list"},
 };
 
 void addFunctionFunctions(Interpreter &interpreter)

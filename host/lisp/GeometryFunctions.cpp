@@ -84,10 +84,10 @@ static Value inters(Arguments &args)
 }
 
 static constexpr NativeRow geometryRows[] = {
-    {"angle", angle, Arity::exactly(2)},
-    {"distance", distance, Arity::exactly(2)},
-    {"polar", polar, Arity::exactly(3)},
-    {"inters", inters, Arity::between(4, 5)},
+    {"angle", angle, Arity::exactly(2), "from to", "the angle from one point to another, in radians"},
+    {"distance", distance, Arity::exactly(2), "from to", "the distance of two points"},
+    {"polar", polar, Arity::exactly(3), "point angle distance", "the point that lies there from a point"},
+    {"inters", inters, Arity::between(4, 5), "a b c d [bounded]", "where two lines meet; nil when nowhere"},
 };
 
 void addGeometryFunctions(Interpreter &interpreter)

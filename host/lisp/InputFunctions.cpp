@@ -140,10 +140,16 @@ static Value autoload(Arguments &args)
 }
 
 static constexpr NativeRow inputRows[] = {
-    {"open", open, Arity::between(2, 3)},          {"close", close, Arity::exactly(1)},
-    {"read-line", readLine, Arity::between(0, 1)}, {"read-char", readChar, Arity::between(0, 1)},
-    {"findfile", findFile, Arity::exactly(1)},     {"findtrustedfile", findTrustedFile, Arity::exactly(1)},
-    {"load", load, Arity::between(1, 2)},          {"autoload", autoload, Arity::exactly(2)},
+    {"open", open, Arity::between(2, 3), "file mode [encoding]",
+     "opens a file for \"r\", \"w\" or \"a\"; nil when that fails"},
+    {"close", close, Arity::exactly(1), "file", "closes a file"},
+    {"read-line", readLine, Arity::between(0, 1), "[file]", "the next line of a file or of the keyboard"},
+    {"read-char", readChar, Arity::between(0, 1), "[file]", "the next character, as its number"},
+    {"findfile", findFile, Arity::exactly(1), "name",
+     "the path of a file that is found in the search path; nil when none"},
+    {"findtrustedfile", findTrustedFile, Arity::exactly(1), "name", "the same in trusted folders alone"},
+    {"load", load, Arity::between(1, 2), "file [otherwise]", "reads and evaluates a Lisp file"},
+    {"autoload", autoload, Arity::exactly(2), "file commands", "loads a file when one of its commands is called first"},
 };
 
 void addInputFunctions(Interpreter &interpreter)

@@ -95,16 +95,16 @@ static Value leastCommonMultiple(Arguments &args)
 }
 
 static constexpr NativeRow integerRows[] = {
-    {"logand", logand, Arity::any()},
-    {"logior", logior, Arity::any()},
-    {"logor", logior, Arity::any()},
-    {"logxor", logxor, Arity::any()},
-    {"lognot", complement, Arity::exactly(1)},
-    {"~", complement, Arity::exactly(1)},
-    {"lsh", shift, Arity::exactly(2)},
-    {"boole", boole, Arity::atLeast(2)},
-    {"gcd", greatestCommonDivisor, Arity::any()},
-    {"lcm", leastCommonMultiple, Arity::any()},
+    {"logand", logand, Arity::any(), "integer...", "bits that all have"},
+    {"logior", logior, Arity::any(), "integer...", "bits that any has"},
+    {"logor", logior, Arity::any(), "integer...", "bits that any has"},
+    {"logxor", logxor, Arity::any(), "integer...", "bits that an odd number of them has"},
+    {"lognot", complement, Arity::exactly(1), "integer", "all bits the other way round"},
+    {"~", complement, Arity::exactly(1), "integer", "all bits the other way round"},
+    {"lsh", shift, Arity::exactly(2), "integer count", "bits shifted to the left, to the right for a negative count"},
+    {"boole", boole, Arity::atLeast(2), "operation integer...", "bits put together by the table that a number is"},
+    {"gcd", greatestCommonDivisor, Arity::any(), "integer...", "the greatest common divisor"},
+    {"lcm", leastCommonMultiple, Arity::any(), "integer...", "the least common multiple"},
 };
 
 void addIntegerFunctions(Interpreter &interpreter)

@@ -185,19 +185,23 @@ void Interpreter::define(std::span<const NativeRow> rows)
         native->function = row.function;
         native->arity = row.arity;
         native->name = toUpperCase(row.name);
+        native->usage = row.usage;
+        native->help = row.help;
         setVariable(row.name, std::move(value));
     }
 }
 
-void Interpreter::defineSpecialForm(std::string_view name, SpecialFormPointer function)
+void Interpreter::defineSpecialForm(const SpecialFormRow &row)
 {
     auto *native = new NativeFunction;
     Value value = Value::adopt(Tag::Native, native);
-    native->specialForm = function;
+    native->specialForm = row.function;
     native->kind = NativeKind::SpecialForm;
     native->arity = Arity::any();
-    native->name = toUpperCase(name);
-    setVariable(name, std::move(value));
+    native->name = toUpperCase(row.name);
+    native->usage = row.usage;
+    native->help = row.help;
+    setVariable(row.name, std::move(value));
 }
 
 void Interpreter::undefine(std::string_view name)
@@ -235,6 +239,8 @@ std::vector<FunctionEntry> Interpreter::functions() const
             const NativeFunction &native = symbol->value().asNative();
             entry.kind = entryKind(native.kind);
             entry.arity = native.arity.text();
+            entry.usage = native.usage;
+            entry.help = native.help;
         } else if (symbol->value().tag() == Tag::Function) {
             const Function &function = symbol->value().asFunction();
             SourceMap::Place place = m_sources.place(function.location);

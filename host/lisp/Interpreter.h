@@ -57,6 +57,8 @@ struct FunctionEntry
     Kind kind = Kind::Builtin;
     std::string arity;      ///< "2", "1-3", "1+"; of user functions, how many parameters there are
     std::string parameters; ///< of a user function, as written: "(A B / C)"; empty for natives
+    std::string usage;      ///< of a built-in, its arguments: "item list"
+    std::string help;       ///< of a built-in, one line; empty when its table has none
     std::string file;       ///< where a user function was read; empty when unknown
     int line = 0;
 };
@@ -112,8 +114,8 @@ public:
     void define(std::string_view name, NativeClosure function, Arity arity, NativeKind kind = NativeKind::External);
     /// The same for a table of built-ins.
     void define(std::span<const NativeRow> rows);
-    /// `function` gets its arguments unevaluated; it fails by throwing Error, as natives do.
-    void defineSpecialForm(std::string_view name, SpecialFormPointer function);
+    /// One that gets its arguments unevaluated; it fails by throwing Error, as natives do.
+    void defineSpecialForm(const SpecialFormRow &row);
     /// Takes the function away; a symbol that holds something else than a native function is left alone.
     void undefine(std::string_view name);
     /// The symbol holds a function of any kind.

@@ -121,19 +121,19 @@ static Value atom(Arguments &args)
 }
 
 static constexpr NativeRow listRows[] = {
-    {"cons", cons, Arity::exactly(2)},
-    {"list", list, Arity::any()},
-    {"vl-list*", listWithTail, Arity::atLeast(1)},
-    {"append", append, Arity::any()},
-    {"reverse", reverse, Arity::exactly(1)},
-    {"nth", nth, Arity::exactly(2)},
-    {"last", last, Arity::exactly(1)},
-    {"length", length, Arity::exactly(1)},
-    {"vl-list-length", properLength, Arity::exactly(1)},
-    {"subst", subst, Arity::exactly(3)},
-    {"listp", listp, Arity::exactly(1)},
-    {"vl-consp", consp, Arity::exactly(1)},
-    {"atom", atom, Arity::exactly(1)},
+    {"cons", cons, Arity::exactly(2), "first rest", "a list with an element in front, or a pair"},
+    {"list", list, Arity::any(), "value...", "a list of values"},
+    {"vl-list*", listWithTail, Arity::atLeast(1), "value... rest", "a list of values that ends in the last of them"},
+    {"append", append, Arity::any(), "list...", "lists behind each other, as one"},
+    {"reverse", reverse, Arity::exactly(1), "list", "a list backwards"},
+    {"nth", nth, Arity::exactly(2), "index list", "an element, counted from 0; nil behind the end"},
+    {"last", last, Arity::exactly(1), "list", "the last element"},
+    {"length", length, Arity::exactly(1), "list", "how many elements a list has"},
+    {"vl-list-length", properLength, Arity::exactly(1), "list", "the same; nil for what ends in a pair"},
+    {"subst", subst, Arity::exactly(3), "new old list", "a list with each element that equals the old one replaced"},
+    {"listp", listp, Arity::exactly(1), "value", "T for a list or nil"},
+    {"vl-consp", consp, Arity::exactly(1), "value", "T for a list that is not nil"},
+    {"atom", atom, Arity::exactly(1), "value", "T for what is no list, and for nil"},
 };
 
 void addListFunctions(Interpreter &interpreter)

@@ -131,16 +131,22 @@ static Value every(Arguments &args)
 }
 
 static constexpr NativeRow listSearchRows[] = {
-    {"member", member, Arity::exactly(2)},
-    {"assoc", assoc, Arity::exactly(2)},
-    {"vl-position", listPosition, Arity::exactly(2)},
-    {"vl-member-if", memberIf<Wanted::True>, Arity::exactly(2)},
-    {"vl-member-if-not", memberIf<Wanted::False>, Arity::exactly(2)},
-    {"vl-remove", remove, Arity::exactly(2)},
-    {"vl-remove-if", removeIf<Wanted::True>, Arity::exactly(2)},
-    {"vl-remove-if-not", removeIf<Wanted::False>, Arity::exactly(2)},
-    {"vl-some", some, Arity::atLeast(2)},
-    {"vl-every", every, Arity::atLeast(2)},
+    {"member", member, Arity::exactly(2), "value list",
+     "the rest of a list from an element on; nil when it is not there"},
+    {"assoc", assoc, Arity::exactly(2), "key list", "the first pair with this key"},
+    {"vl-position", listPosition, Arity::exactly(2), "value list", "the index of an element"},
+    {"vl-member-if", memberIf<Wanted::True>, Arity::exactly(2), "function list",
+     "the rest of a list from the first element on that a function takes"},
+    {"vl-member-if-not", memberIf<Wanted::False>, Arity::exactly(2), "function list",
+     "the rest of a list from the first element on that a function does not take"},
+    {"vl-remove", remove, Arity::exactly(2), "value list", "a list without an element"},
+    {"vl-remove-if", removeIf<Wanted::True>, Arity::exactly(2), "function list",
+     "a list without the elements that a function takes"},
+    {"vl-remove-if-not", removeIf<Wanted::False>, Arity::exactly(2), "function list",
+     "the elements of a list that a function takes"},
+    {"vl-some", some, Arity::atLeast(2), "function list...",
+     "what a function gives for the first element that it takes"},
+    {"vl-every", every, Arity::atLeast(2), "function list...", "T when a function takes all elements"},
 };
 
 void addListSearchFunctions(Interpreter &interpreter)

@@ -44,12 +44,23 @@ using NativeClosure = std::function<Value(Arguments &)>;
 /// Gets the list of its argument forms, unevaluated.
 using SpecialFormPointer = Value (*)(Interpreter &, const Value &forms);
 
-/// One row of a table of built-ins.
+/// One row of a table of built-ins. Documents and help are made from its texts.
 struct NativeRow
 {
     const char *name;
     NativePointer function;
     Arity arity;
+    const char *usage = ""; ///< its arguments: "item list", "[point] mode", "text..."
+    const char *help = "";  ///< one line: what it gives, or does
+};
+
+/// One row of a table of special forms, whose texts serve as those of a NativeRow.
+struct SpecialFormRow
+{
+    const char *name;
+    SpecialFormPointer function;
+    const char *usage = "";
+    const char *help = "";
 };
 
 /// A native function as a value.
@@ -59,7 +70,9 @@ struct NativeFunction : Object
     SpecialFormPointer specialForm = nullptr;
     NativeKind kind = NativeKind::Builtin;
     Arity arity;
-    std::string name; ///< upper case
+    std::string name;       ///< upper case
+    const char *usage = ""; ///< as in NativeRow; static
+    const char *help = "";  ///< likewise
     NativeClosure closure;
 };
 

@@ -98,15 +98,17 @@ static Value toString(Arguments &args)
 }
 
 static constexpr NativeRow outputRows[] = {
-    {"prin1", write<PrintStyle::Readable>, Arity::between(0, 2)},
-    {"princ", write<PrintStyle::Plain>, Arity::between(0, 2)},
-    {"print", print, Arity::between(0, 2)},
-    {"prompt", prompt, Arity::exactly(1)},
-    {"terpri", terpri, Arity::exactly(0)},
-    {"write-line", writeLine, Arity::between(1, 2)},
-    {"write-char", writeChar, Arity::between(1, 2)},
-    {"vl-princ-to-string", toString<PrintStyle::Plain>, Arity::exactly(1)},
-    {"vl-prin1-to-string", toString<PrintStyle::Readable>, Arity::exactly(1)},
+    {"prin1", write<PrintStyle::Readable>, Arity::between(0, 2), "[value [file]]",
+     "prints a value as it is read; without one, nothing, quietly"},
+    {"princ", write<PrintStyle::Plain>, Arity::between(0, 2), "[value [file]]",
+     "prints a value as people read it; without one, nothing, quietly"},
+    {"print", print, Arity::between(0, 2), "[value [file]]", "prints a value on a line of its own"},
+    {"prompt", prompt, Arity::exactly(1), "text", "prints a text on the command line"},
+    {"terpri", terpri, Arity::exactly(0), "", "prints a line feed"},
+    {"write-line", writeLine, Arity::between(1, 2), "text [file]", "writes a text and a line feed"},
+    {"write-char", writeChar, Arity::between(1, 2), "number [file]", "writes a character"},
+    {"vl-princ-to-string", toString<PrintStyle::Plain>, Arity::exactly(1), "value", "what princ prints, as text"},
+    {"vl-prin1-to-string", toString<PrintStyle::Readable>, Arity::exactly(1), "value", "what prin1 prints, as text"},
 };
 
 void addOutputFunctions(Interpreter &interpreter)

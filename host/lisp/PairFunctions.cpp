@@ -40,7 +40,12 @@ static constexpr NativeRow pairRows[] = {
 
 void addPairFunctions(Interpreter &interpreter)
 {
-    interpreter.define(pairRows);
+    // One text for all, since the name says the way.
+    for (NativeRow row : pairRows) {
+        row.usage = "list";
+        row.help = "the part that the letters lead to, read from the right: a is the first element, d the rest";
+        interpreter.define({&row, 1});
+    }
 }
 
 } // namespace host::lisp

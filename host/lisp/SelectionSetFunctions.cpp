@@ -53,9 +53,11 @@ static Value ssdel(Arguments &args)
 }
 
 static constexpr NativeRow selectionSetRows[] = {
-    {"sslength", sslength, Arity::exactly(1)}, {"ssname", ssname, Arity::exactly(2)},
-    {"ssmemb", ssmemb, Arity::exactly(2)},     {"ssadd", ssadd, Arity::between(0, 2)},
-    {"ssdel", ssdel, Arity::exactly(2)},
+    {"sslength", sslength, Arity::exactly(1), "set", "how many entities a selection set has"},
+    {"ssname", ssname, Arity::exactly(2), "set index", "an entity of a selection set, counted from 0"},
+    {"ssmemb", ssmemb, Arity::exactly(2), "entity set", "the entity when it is in the set"},
+    {"ssadd", ssadd, Arity::between(0, 2), "[entity [set]]", "a selection set with an entity put in"},
+    {"ssdel", ssdel, Arity::exactly(2), "entity set", "takes an entity out of a set"},
 };
 
 void addSelectionSetFunctions(Interpreter &interpreter)

@@ -233,23 +233,29 @@ static Value untrace(Interpreter &, const Value &forms)
     return setTraced(forms, 0);
 }
 
-struct SpecialFormRow
-{
-    const char *name;
-    SpecialFormPointer function;
-};
-
 static constexpr SpecialFormRow specialFormRows[] = {
-    {"quote", quote}, {"function", functionForm}, {"setq", setq},     {"if", ifForm},
-    {"cond", cond},   {"while", whileForm},       {"repeat", repeat}, {"foreach", foreachForm},
-    {"progn", progn}, {"and", andForm},           {"or", orForm},     {"lambda", lambda},
-    {"defun", defun}, {"defun-q", defunQ},        {"trace", trace},   {"untrace", untrace},
+    {"quote", quote, "form", "the form itself, not evaluated"},
+    {"function", functionForm, "form", "the form itself, as code"},
+    {"setq", setq, "[symbol value]...", "sets symbols to values"},
+    {"if", ifForm, "test then [else]", "one of two forms, by a test"},
+    {"cond", cond, "(test form...)...", "the forms behind the first test that holds"},
+    {"while", whileForm, "test form...", "evaluates forms as long as a test holds"},
+    {"repeat", repeat, "count form...", "evaluates forms a number of times"},
+    {"foreach", foreachForm, "symbol list form...", "evaluates forms with a symbol bound to each element"},
+    {"progn", progn, "form...", "evaluates forms, gives the last value"},
+    {"and", andForm, "form...", "T when all forms give something, looking no further than the first nil"},
+    {"or", orForm, "form...", "T when a form gives something, looking no further than that"},
+    {"lambda", lambda, "(parameter... [/ local...]) form...", "a function without a name"},
+    {"defun", defun, "name (parameter... [/ local...]) form...", "defines a function"},
+    {"defun-q", defunQ, "name (parameter... [/ local...]) form...", "defines a function that is kept as a list"},
+    {"trace", trace, "name...", "writes out the calls of these functions"},
+    {"untrace", untrace, "name...", "ends that"},
 };
 
 void addSpecialForms(Interpreter &interpreter)
 {
     for (const SpecialFormRow &row : specialFormRows)
-        interpreter.defineSpecialForm(row.name, row.function);
+        interpreter.defineSpecialForm(row);
 }
 
 } // namespace host::lisp

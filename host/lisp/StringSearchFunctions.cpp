@@ -77,10 +77,14 @@ static Value mismatch(Arguments &args)
 }
 
 static constexpr NativeRow stringSearchRows[] = {
-    {"vl-string-search", search, Arity::between(2, 3)},
-    {"vl-string-subst", substitute, Arity::between(3, 4)},
-    {"vl-string-position", characterPosition, Arity::between(2, 4)},
-    {"vl-string-mismatch", mismatch, Arity::between(2, 5)},
+    {"vl-string-search", search, Arity::between(2, 3), "pattern text [start]",
+     "where a text has a part, counted from 0"},
+    {"vl-string-subst", substitute, Arity::between(3, 4), "new old text [start]",
+     "a text with the first such part replaced"},
+    {"vl-string-position", characterPosition, Arity::between(2, 4), "character text [start [backwards]]",
+     "where a text has a character"},
+    {"vl-string-mismatch", mismatch, Arity::between(2, 5), "a b [start-a [start-b [any-case]]]",
+     "how many characters two texts begin with alike"},
 };
 
 void addStringSearchFunctions(Interpreter &interpreter)

@@ -14,5 +14,7 @@ int runSessions(const ProgramOptions &options);
 int runLispFiles(const ProgramOptions &options);
 /// Opens one file and writes it as another.
 int convertDrawing(const ProgramOptions &options);
+/// Prints the functions, commands and variables that programs find in a new drawing.
+int listNames(const ProgramOptions &options);
 
 } // namespace host::app

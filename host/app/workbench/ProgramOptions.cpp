@@ -157,7 +157,7 @@ const QList<OptionRow> &optionRows()
 const QHash<QString, Mode> &modeNames()
 {
     static const QHash<QString, Mode> names = {
-        {u"run"_s, Mode::Run}, {u"lisp"_s, Mode::Lisp}, {u"convert"_s, Mode::Convert}};
+        {u"run"_s, Mode::Run}, {u"lisp"_s, Mode::Lisp}, {u"convert"_s, Mode::Convert}, {u"names"_s, Mode::Names}};
     return names;
 }
 
@@ -207,6 +207,8 @@ QString assignWords(ProgramOptions &options, const QStringList &words)
         options.input = words[0];
         options.output = words[1];
         return {};
+    case Mode::Names:
+        return words.isEmpty() ? QString() : u"names takes no word"_s;
     default:
         options.drawings = words;
         return {};
@@ -269,6 +271,7 @@ constexpr auto windowHelp = R"(Usage: ortakit [OPTION...] [DRAWING...]
        ortakit run SESSION [DRAWING...] [--out DIR] [--png]
        ortakit lisp FILE... [--drawing DRAWING]
        ortakit convert IN OUT [--layout NAME] [--paper A3] [--scale 1:50] [OPTION...]
+       ortakit names
 
 Opens the drawings in a window, or works on them without one. "ortakit COMMAND --help" tells more about a command.
 A drawing whose name is that of a command is written with its folder: ./run
@@ -357,6 +360,18 @@ would have on a sheet 297 mm long; pdf shows it on A4.
 
 )";
 
+constexpr auto namesHelp = R"(Usage: ortakit names
+
+Prints what Lisp programs find here in a new drawing, a line each with tabs between its fields, sorted:
+
+  function  NAME  ARGUMENTS  WHAT IT GIVES
+  command   NAME  -          WHAT IT DOES
+  variable  NAME  KIND       WHAT IT IS
+
+Documents are made from this, and scripts/demand compares it with what programs ask for.
+
+)";
+
 } // namespace
 
 QString helpText(Mode mode)
@@ -364,6 +379,7 @@ QString helpText(Mode mode)
     const char *text = mode == Mode::Run       ? runHelp
                        : mode == Mode::Lisp    ? lispHelp
                        : mode == Mode::Convert ? convertHelp
+                       : mode == Mode::Names   ? namesHelp
                                                : windowHelp;
     return QString::fromUtf8(text) + QString::fromUtf8(commonHelp);
 }

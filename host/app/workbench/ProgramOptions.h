@@ -27,6 +27,7 @@ enum class Mode
     Run,
     Lisp,
     Convert,
+    Names,
     Help,
     Version
 };
