@@ -1,5 +1,6 @@
 #include "host/drawing/editing/EarlyForms.h"
 
+#include "host/drawing/curves/EntityCurve.h"
 #include "host/drawing/geometry/EntityGeometry.h"
 #include "host/drawing/math/Matrix.h"
 #include "host/drawing/text/ParagraphText.h"
@@ -151,7 +152,7 @@ std::vector<EarlyForm> paragraphForms(const TagList &tags, const FieldList &fiel
 Path pathOf(const TagList &tags, QByteArrayView type)
 {
     if (type == "SPLINE")
-        return splinePath(readSpline(tags));
+        return splinePath(shownSpline(tags));
     if (type == "LEADER")
         return tags.points(10);
     const Vec3 extrusion = tags.point(210, {0.0, 0.0, 1.0});

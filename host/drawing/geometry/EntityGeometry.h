@@ -72,9 +72,6 @@ struct VisitedEntity
 void visitInserted(const Drawing &drawing, RecordId insert, WorkBudget &work,
                    const std::function<bool(const VisitedEntity &)> &visitor);
 
-/// Reads a SPLINE record, or the spline that a HELIX has; the result need not be valid.
-Spline readSpline(const TagList &tags);
-
 /// Boxes of entities, each measured when it is asked for and kept until the entity, or a block, changes. The drawing
 /// must outlive it.
 class BoxCache : public DrawingObserver

@@ -1,5 +1,6 @@
 #include "host/drawing/geometry/EntityOutlines.h"
 
+#include "host/drawing/curves/EntityCurve.h"
 #include "host/drawing/math/Angles.h"
 #include "host/drawing/records/Tables.h"
 
@@ -44,7 +45,7 @@ void outlineOfEllipse(OutlineSink &sink, const TagList &tags)
 
 void outlineOfSpline(OutlineSink &sink, const TagList &tags)
 {
-    sink.add(splinePath(readSpline(tags), sink.flatness()));
+    sink.add(splinePath(shownSpline(tags), sink.flatness()));
 }
 
 // The third and fourth corner come crosswise; a triangle has them equal.
@@ -184,27 +185,6 @@ void appendOutline(Outline &outline, const Drawing &drawing, RecordId entity, co
         return;
     if (type == "HATCH")
         outlineOfHatch(sink, tags);
-}
-
-Spline readSpline(const TagList &record)
-{
-    // What a helix was made from stands behind its spline, in codes that splines use.
-    const auto isHelix = [](const Tag &tag) { return tag.code == 100 && tag.trimmed() == "AcDbHelix"; };
-    const TagList tags({record.begin(), std::ranges::find_if(record, isHelix)}, record.codec());
-    Spline spline;
-    spline.degree = static_cast<int>(std::clamp<qint64>(tags.integer(71, 3), 0, 100));
-    spline.isClosed = (tags.integer(70) & 1) != 0;
-    spline.knots = tags.reals(40);
-    spline.weights = tags.reals(41);
-    spline.controlPoints = tags.points(10);
-    spline.fitPoints = tags.points(11);
-    // More knots than there should be are damage that the curve can be drawn without.
-    const size_t knotCount = spline.controlPoints.size() + static_cast<size_t>(spline.degree) + 1;
-    if (tags.find(72) && spline.knots.size() > knotCount)
-        spline.knots.resize(knotCount);
-    if (spline.weights.size() != spline.controlPoints.size())
-        spline.weights.clear();
-    return spline;
 }
 
 } // namespace host::drawing

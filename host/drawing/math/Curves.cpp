@@ -1,5 +1,7 @@
 #include "host/drawing/math/Curves.h"
 
+#include "host/drawing/math/SplineEdit.h"
+
 #include <QtGlobal>
 
 #include <array>
@@ -82,34 +84,6 @@ private:
     const Flatness &m_flatness;
     Path &m_path;
 };
-
-/// A smooth curve through points: each stretch a cubic with the directions that the neighbours give.
-Path fitPath(const std::vector<Vec3> &points, bool isClosed)
-{
-    const size_t count = points.size();
-    const size_t stretches = isClosed ? count : count - 1;
-    const auto at = [&](qsizetype i) {
-        const auto n = static_cast<qsizetype>(count);
-        return points[static_cast<size_t>(isClosed ? (i + n) % n : std::clamp<qsizetype>(i, 0, n - 1))];
-    };
-    Path path{points.front()};
-    constexpr int pieces = 12;
-    for (size_t s = 0; s < stretches; ++s) {
-        const auto i = static_cast<qsizetype>(s);
-        const Vec3 from = at(i);
-        const Vec3 to = at(i + 1);
-        const Vec3 leaving = (to - at(i - 1)) * 0.5;
-        const Vec3 arriving = (at(i + 2) - from) * 0.5;
-        for (int k = 1; k <= pieces; ++k) {
-            const double t = static_cast<double>(k) / pieces;
-            const double t2 = t * t;
-            const double t3 = t2 * t;
-            path.push_back(from * (2 * t3 - 3 * t2 + 1) + leaving * (t3 - 2 * t2 + t) + to * (3 * t2 - 2 * t3) +
-                           arriving * (t3 - t2));
-        }
-    }
-    return path;
-}
 
 } // namespace
 
@@ -234,8 +208,10 @@ Vec3 Spline::point(double parameter) const
 
 Path splinePath(const Spline &spline, const Flatness &flatness)
 {
-    if (!spline.isValid())
-        return spline.fitPoints.size() >= 2 ? fitPath(spline.fitPoints, spline.isClosed) : Path();
+    if (!spline.isValid()) {
+        const Spline fitted = fittedSpline(spline.fitPoints, spline.isClosed);
+        return fitted.isValid() ? splinePath(fitted, flatness) : Path();
+    }
     Path path{spline.point(spline.firstParameter())};
     CurveSampler sampler(spline, flatness, path);
     for (size_t i = static_cast<size_t>(spline.degree); i < spline.controlPoints.size(); ++i) {

@@ -1,3 +1,4 @@
+#include "host/drawing/curves/EntityCurve.h"
 #include "host/drawing/geometry/EntityGeometry.h"
 #include "host/drawing/math/Angles.h"
 #include "host/view/build/DisplayBuilder.h"
@@ -133,7 +134,7 @@ bool buildEllipse(BuildContext &context, const TagList &tags)
 bool buildSpline(BuildContext &context, const TagList &tags)
 {
     // A turn of two degrees a piece looks round at any size that a screen or sheet shows it in.
-    const drawing::Spline spline = drawing::readSpline(tags);
+    const drawing::Spline spline = drawing::shownSpline(tags);
     const std::size_t own = spline.controlPoints.size() + spline.fitPoints.size();
     Path path = drawing::splinePath(spline, context.flatness({.maximumAngle = 0.035, .maximumPieces = 4000}, own));
     context.charge(path.size(), own);
