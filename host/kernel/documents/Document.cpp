@@ -9,6 +9,7 @@
 #include "host/kernel/documents/ExpressionSurroundings.h"
 #include "host/kernel/documents/Session.h"
 #include "host/kernel/files/DrawingBackup.h"
+#include "host/kernel/input/PointAim.h"
 #include "host/kernel/input/UserInput.h"
 #include "host/kernel/lisp/EntityMaker.h"
 #include "host/kernel/lisp/LispConsole.h"
@@ -58,7 +59,7 @@ Document::Document(Session &session, std::unique_ptr<drawing::Drawing> drawing, 
       m_userInput(std::make_unique<UserInput>(*this)), m_selectionInput(std::make_unique<SelectionInput>(*this)),
       m_database(std::make_unique<DrawingDatabase>(*this)), m_console(std::make_unique<LispConsole>(*this)),
       m_boxes(std::make_unique<drawing::BoxCache>(*m_drawing)), m_entityMaker(std::make_unique<EntityMaker>(*this)),
-      m_view(viewOf(*m_drawing)), m_shownLayout(currentLayout(*m_drawing))
+      m_aim(std::make_unique<PointAim>()), m_view(viewOf(*m_drawing)), m_shownLayout(currentLayout(*m_drawing))
 {
 }
 

@@ -40,6 +40,7 @@ class DrawingDatabase;
 class EntityMaker;
 class LispConsole;
 class LispEngine;
+struct PointAim;
 class SelectionInput;
 class Session;
 class SystemVariables;
@@ -122,6 +123,8 @@ public:
     /// A Lisp command (C:NAME), else a built-in one or one that a module brought, by its name as typed or by an alias
     /// that is no command's name. What it asks is taken from the queue.
     RunResult runCommand(const QString &name);
+    /// Whether a program has defined a command of this name (as typed, with its prefixes).
+    bool isLispCommand(const QString &typed) const;
     /// The command that `typed` is an alias for, as the user's alias file has it; `typed` itself when it is none.
     /// Prints when the file cannot be read. Commands come first: this is for what is the name of none.
     QString commandOfAlias(const QString &typed);
@@ -210,6 +213,8 @@ public:
     view::TextMeasure &textMeasure() const;
     /// Boxes of what entities draw.
     view::EntityExtents &entityExtents();
+    /// What a distance alone at a prompt for points counts towards.
+    PointAim &aim() { return *m_aim; }
     /// What (entmake) has collected of an entity or block that is made in pieces.
     EntityMaker &entityMaker() { return *m_entityMaker; }
     /// Where (tblnext) and (dictnext) stand, by table name or the dictionary's handle.
@@ -252,9 +257,7 @@ private:
     drawing::SaveResult notWritten(const QString &reason);
     drawing::SaveResult saveUnder(const QString &path, DrawingClaim &claim);
     drawing::SaveResult write(const QString &path, const std::function<drawing::SaveResult()> &writeFile);
-    // Names as typed, with their prefixes.
     bool isCommand(const QString &typed) const;
-    bool isLispCommand(const QString &typed) const;
     RunResult runBuiltIn(const QString &typed);
     void finishPendingCommand();
     /// Prints an error that the program itself did not take, and makes a result of it.
@@ -276,6 +279,7 @@ private:
     std::unique_ptr<CommandRun> m_pendingCommand;
     std::unique_ptr<drawing::BoxCache> m_boxes;
     std::unique_ptr<EntityMaker> m_entityMaker;
+    std::unique_ptr<PointAim> m_aim;
     mutable std::unique_ptr<view::TextMeasure> m_textMeasure; ///< made when it is first asked for
     std::unique_ptr<view::EntityExtents> m_entityExtents;     ///< likewise
     QHash<QString, drawing::RecordId> m_cursors;

@@ -142,12 +142,13 @@ std::optional<InputAnswer> InputQueue::take(const PromptRequest &request)
     }
     Typed &typed = std::get<Typed>(m_items.front());
     typed.isBegun = true;
+    const bool isFromScript = typed.position < typed.scriptEnd;
     const std::optional<QString> text = takeTyped(typed, request);
     if (typed.position >= typed.text.size())
         m_items.pop_front();
     if (!text)
         return {};
-    return TextAnswer{*text};
+    return TextAnswer{*text, isFromScript};
 }
 
 std::optional<QString> InputQueue::takeTyped(Typed &typed, const PromptRequest &request)

@@ -57,6 +57,8 @@ std::optional<TypedPoint> parsePoint(const QString &text, const PointContext &co
 {
     QString rest = text.trimmed();
     TypedPoint typed;
+    if (rest.startsWith(u'#'))
+        rest.remove(0, 1);
     typed.isWorld = rest.startsWith(u'*');
     if (typed.isWorld)
         rest.remove(0, 1);

@@ -21,8 +21,8 @@ struct TypedPoint
 };
 
 /// Reads `x,y`, `x,y,z`, `distance<angle`, `distance<angle,z`, `distance<angle<angle`, each absolute or, behind "@",
-/// relative to the last point; "@" alone is the last point. Numbers and angles are in the drawing's units. Nothing
-/// for other text.
+/// relative to the last point; "@" alone is the last point. "#" in front changes nothing: it says what is so. Numbers
+/// and angles are in the drawing's units. Nothing for other text.
 std::optional<TypedPoint> parsePoint(const QString &text, const PointContext &context);
 
 } // namespace host::kernel

@@ -5,6 +5,7 @@
 #include "host/kernel/input/Keywords.h"
 #include "host/kernel/input/Picker.h"
 #include "host/kernel/input/PointEntry.h"
+#include "host/kernel/lisp/LispConversion.h"
 #include "host/kernel/variables/SystemVariables.h"
 #include "host/lisp/Interpreter.h"
 
@@ -90,12 +91,20 @@ PromptDialogue::Reading PromptDialogue::read(const CancelAnswer &)
 PromptDialogue::Reading PromptDialogue::read(const TextAnswer &answer)
 {
     const QString text = isTextual(m_request.kind) ? answer.text : answer.text.trimmed();
+    m_typedBy = answer.isFromScript ? Origin::Script : Origin::Keyboard;
+    if (!text.isEmpty() && m_request.forCommand && (text.startsWith(u'(') || text.startsWith(u'!')))
+        return readEvaluated(text);
+    return m_part ? readPart(text) : readText(text);
+}
+
+PromptDialogue::Reading PromptDialogue::readText(const QString &text)
+{
     if (text.isEmpty())
         return readEmpty();
-    if (m_request.forCommand && (text.startsWith(u'(') || text.startsWith(u'!')))
-        return readEvaluated(text);
     if (const auto keyword = matchKeyword(text, m_request.keywords))
         return {replyOf(m_request.kind == PromptKind::Keyword ? ReplyKind::Value : ReplyKind::Keyword, *keyword), {}};
+    if (takePointWord(text))
+        return {};
     Reading reading = readValue(text);
     if (!reading.reply && !reading.refusal.isEmpty() && (m_request.bits & AnyText))
         return {replyOf(ReplyKind::Keyword, text), {}};
@@ -143,7 +152,9 @@ PromptDialogue::Reading PromptDialogue::readValue(const QString &text)
         break;
     }
     if (const std::optional<Vec3> point = typedPoint(text))
-        return takePoint(*point);
+        return takeGiven(*point, m_typedBy);
+    if (const std::optional<Vec3> point = directDistance(text))
+        return takeAssembled(m_assembly.take(*point, userBase()));
     if (m_request.kind == PromptKind::Distance)
         return readReal(text);
     return isAngle(m_request.kind) ? readAngle(text) : refuse();
@@ -194,29 +205,6 @@ PromptDialogue::Reading PromptDialogue::readAngle(const QString &text)
     return checkNumber(reply.real, reply);
 }
 
-std::optional<Vec3> PromptDialogue::typedPoint(const QString &text) const
-{
-    const SystemVariables &variables = m_document.variables();
-    PointContext context{UnitFormat::of(variables), variables.point(u"LASTPOINT"), variables.real(u"ELEVATION")};
-    if (m_request.base) {
-        const OdGePoint3d base = m_document.worldToUser({m_request.base->x, m_request.base->y, m_request.base->z});
-        context.last = {base.x, base.y, base.z};
-    }
-    const std::optional<TypedPoint> typed = parsePoint(text, context);
-    if (!typed || typed->isWorld)
-        return typed ? std::optional(typed->point) : std::nullopt;
-    const OdGePoint3d world = m_document.userToWorld({typed->point.x, typed->point.y, typed->point.z});
-    return Vec3{world.x, world.y, world.z};
-}
-
-PromptDialogue::Reading PromptDialogue::read(const PointAnswer &answer)
-{
-    if (m_request.kind == PromptKind::Integer || m_request.kind == PromptKind::Real ||
-        m_request.kind == PromptKind::Keyword || isTextual(m_request.kind))
-        return refuse();
-    return takePoint(answer.point);
-}
-
 PromptDialogue::Reading PromptDialogue::takePoint(const Vec3 &world)
 {
     if (m_request.kind == PromptKind::Entity || m_request.kind == PromptKind::Selection)
@@ -224,6 +212,7 @@ PromptDialogue::Reading PromptDialogue::takePoint(const Vec3 &world)
     if (isOutsideLimits(world))
         return {{}, QStringLiteral("**Outside limits")};
     const OdGePoint3d user = m_document.worldToUser({world.x, world.y, world.z});
+    keepDirection({user.x, user.y, user.z});
     m_document.variables().setInternally(u"LASTPOINT", Vec3{user.x, user.y, user.z});
     if (m_request.kind == PromptKind::Distance || isAngle(m_request.kind))
         return takeSecondPoint(world);
@@ -271,7 +260,7 @@ PromptDialogue::Reading PromptDialogue::pickAt(const Vec3 &world)
 PromptDialogue::Reading PromptDialogue::read(const EntityAnswer &answer)
 {
     if (m_request.kind != PromptKind::Entity && m_request.kind != PromptKind::Selection)
-        return read(PointAnswer{answer.point});
+        return read(PointAnswer{answer.point, false});
     // Of a selection an erased entity is just not found.
     if (m_request.kind == PromptKind::Entity && !m_document.drawing().isAlive(answer.entity))
         return refuse();

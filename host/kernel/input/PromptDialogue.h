@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/kernel/input/PointAssembly.h"
 #include "host/kernel/input/PromptReply.h"
 
 namespace host::kernel {
@@ -11,13 +12,17 @@ class Document;
 ///
 /// A refused answer is told on the command line and the question stands. A distance or angle that begins with a point
 /// turns into the question for the second one. Points become LASTPOINT.
+///
+/// Wherever a point may answer, so may words that put one together (see PointAssembly), and at a prompt for points with
+/// a base a number: that far from the base towards the pointer, or, where nobody has moved one, in the direction in
+/// which the last point with a base lay from it (at first along the user's x axis).
 class PromptDialogue
 {
 public:
     PromptDialogue(Document &document, PromptRequest request);
 
     /// What is asked now.
-    const PromptRequest &request() const { return m_request; }
+    const PromptRequest &request() const { return m_part ? *m_part : m_request; }
     /// The reply when `answer` ends the prompt; nothing when it was refused or more is needed.
     std::optional<PromptReply> offer(const InputAnswer &answer);
     /// Whether the answer offered last was refused.
@@ -37,6 +42,7 @@ private:
     Reading read(const WindowAnswer &answer);
     Reading read(const CancelAnswer &answer);
 
+    Reading readText(const QString &text);
     Reading readEmpty();
     Reading readEvaluated(const QString &expression);
     Reading readValue(const QString &text);
@@ -44,6 +50,25 @@ private:
     Reading readReal(const QString &text);
     Reading readAngle(const QString &text);
     Reading checkNumber(double value, PromptReply reply);
+    // Points, as they are given and as they are put together.
+    enum class Origin
+    {
+        Pointer,
+        Keyboard,
+        Script,
+        Program
+    };
+    bool takesPoints() const;
+    bool takePointWord(const QString &text);
+    bool lockDirection(const QString &text);
+    Reading readPart(const QString &text);
+    std::optional<drawing::Vec3> directDistance(const QString &text) const;
+    Reading takeGiven(const drawing::Vec3 &world, Origin origin);
+    /// When `user` completes the point; nothing: more is asked for.
+    Reading takeAssembled(const std::optional<drawing::Vec3> &user);
+    void askForPart();
+    std::optional<drawing::Vec3> userBase() const;
+    void keepDirection(const drawing::Vec3 &user);
     Reading takePoint(const drawing::Vec3 &world);
     Reading takeSecondPoint(const drawing::Vec3 &world);
     Reading pickAt(const drawing::Vec3 &world);
@@ -53,6 +78,9 @@ private:
 
     Document &m_document;
     PromptRequest m_request;
+    PointAssembly m_assembly;
+    Origin m_typedBy = Origin::Keyboard; ///< of the text that is being read
+    std::optional<PromptRequest> m_part; ///< what is asked while a point is put together
     bool m_wasRefused = false;
 };
 

@@ -40,7 +40,8 @@ enum InputBit : int
     DashedRubberBand = 32, ///< a window draws the line from `base` dashed
     FlatDistance = 64,     ///< a distance of points without their heights
     AnyText = 128,         ///< what is no value and no keyword is given back as it is
-    SignedAngle = 256      ///< Angle: a typed one keeps its sign
+    DistanceFirst = 256,   ///< Point: a number is a distance towards the pointer though AnyText would take it
+    SignedAngle = 1 << 16  ///< Angle: a typed one keeps its sign; none of (initget)
 };
 
 /// A question to the user, with all that a window needs to show it and a batch run to report it.
@@ -54,6 +55,7 @@ struct PromptRequest
     std::optional<drawing::Vec3> base; ///< where a rubber band starts; world coordinates
     bool allowSpaces = false;          ///< String: blanks belong to the answer
     bool forCommand = false;           ///< asked by a command rather than by a Lisp program
+    bool isTransparent = false;        ///< asked by a command that was called in the middle of another prompt
     bool endsWhenRefused = false;      ///< a refused answer cancels the prompt when more was typed behind it
     /// Point: these hang at the pointer by `base`; null for none.
     std::shared_ptr<const std::vector<drawing::RecordId>> dragged{};
@@ -69,11 +71,13 @@ struct PromptRequest
 struct TextAnswer
 {
     QString text;
+    bool isFromScript = false;
 };
-/// A point that was picked; world coordinates.
+/// A point; world coordinates.
 struct PointAnswer
 {
     drawing::Vec3 point;
+    bool isByHand = false; ///< from where the pointer is, so that snaps and ORTHOMODE move it
 };
 /// An entity that was picked, at a point in world coordinates.
 struct EntityAnswer

@@ -5,6 +5,7 @@
 #include "host/kernel/input/Keywords.h"
 #include "host/kernel/input/PromptDialogue.h"
 #include "host/kernel/input/Units.h"
+#include "host/kernel/running/TransparentCall.h"
 #include "host/kernel/variables/SystemVariables.h"
 
 namespace host::kernel {
@@ -37,6 +38,11 @@ PromptReply refusedReply()
 PromptReply UserInput::ask(const PromptRequest &request)
 {
     PromptDialogue dialogue(m_document, request);
+    return ask(dialogue, request.endsWhenRefused ? WhenRefused::EndBeforeMore : WhenRefused::AskAgain);
+}
+
+PromptReply UserInput::ask(PromptDialogue &dialogue, WhenRefused whenRefused)
+{
     for (;;) {
         const bool isSilent = isAnsweredSilently();
         if (!isSilent)
@@ -44,9 +50,14 @@ PromptReply UserInput::ask(const PromptRequest &request)
         const InputAnswer answer = nextAnswer(dialogue.request());
         if (!isSilent)
             echo(answer);
+        if (const std::optional<QString> called = transparentCall(answer, dialogue.request())) {
+            runTransparent(m_document, *called, dialogue.request());
+            continue;
+        }
         if (std::optional<PromptReply> reply = dialogue.offer(answer))
             return *reply;
-        if (dialogue.wasRefused() && request.endsWhenRefused && !m_document.session().input().isEmpty())
+        if (dialogue.wasRefused() && whenRefused == WhenRefused::EndBeforeMore &&
+            !m_document.session().input().isEmpty())
             return refusedReply();
     }
 }
@@ -111,7 +122,7 @@ void UserInput::echo(const InputAnswer &answer)
 
 void UserInput::initget(int bits, const QStringList &keywords)
 {
-    m_bits = bits;
+    m_bits = bits & 0xffff; // what lies above is not for programs
     m_keywords = keywords;
     m_keywords.removeAll(QString());
 }

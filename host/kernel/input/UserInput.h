@@ -8,6 +8,7 @@
 namespace host::kernel {
 
 class Document;
+class PromptDialogue;
 
 /// What a program has prepared for the prompts of a command, in order; nothing where the user is to answer ("pause").
 using GivenAnswers = std::deque<std::optional<InputAnswer>>;
@@ -24,9 +25,18 @@ public:
     /// The document owns it.
     explicit UserInput(Document &document) : m_document(document) {}
 
-    /// Asks until the answer is acceptable. Cancelled when nobody is there; refused, which is a kind of cancelled, when
-    /// the request says that a wrong answer ends it and more was typed behind that.
+    /// Asks until the answer is acceptable; commands that are called in the middle of it run meanwhile. Cancelled when
+    /// nobody is there; refused, which is a kind of cancelled, when the request says that a wrong answer ends it and
+    /// more was typed behind that.
     PromptReply ask(const PromptRequest &request);
+    /// What a refused answer does while more was typed behind it.
+    enum class WhenRefused
+    {
+        AskAgain,
+        EndBeforeMore ///< the prompt is cancelled
+    };
+    /// The same for a prompt that may have been answered in part.
+    PromptReply ask(PromptDialogue &dialogue, WhenRefused whenRefused);
     /// Forgets what was typed ahead, because it was meant for other questions than those that come now, and prints that
     /// it was. Nothing is printed when there is none.
     void dropTypedAhead();

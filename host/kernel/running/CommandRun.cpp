@@ -4,25 +4,26 @@
 #include "host/kernel/documents/Session.h"
 #include "host/kernel/input/UserInput.h"
 #include "host/kernel/platform/Editor.h"
+#include "host/kernel/running/TransparentCall.h"
 #include "host/kernel/variables/SystemVariables.h"
 #include "host/lisp/Error.h"
 
 namespace host::kernel {
 
-std::unique_ptr<CommandRun> CommandRun::start(Document &document, const QString &typed)
+std::unique_ptr<CommandRun> CommandRun::start(Document &document, const QString &typed, Manner manner)
 {
     if (const CommandRow *row = CommandTable::find(typed))
-        return std::make_unique<CommandRun>(document, *row);
+        return std::make_unique<CommandRun>(document, *row, manner);
     const QString name = CommandTable::plainName(typed);
     if (!document.variables().get(name))
         return nullptr;
-    auto command = std::make_unique<CommandRun>(document, *CommandTable::find(u"SETVAR"));
-    command->offer(TextAnswer{name});
+    auto command = std::make_unique<CommandRun>(document, *CommandTable::find(u"SETVAR"), manner);
+    command->offer(TextAnswer{name, false});
     return command;
 }
 
-CommandRun::CommandRun(Document &document, const CommandRow &row)
-    : m_document(document), m_row(row), m_context(document)
+CommandRun::CommandRun(Document &document, const CommandRow &row, Manner manner)
+    : m_document(document), m_row(row), m_context(document), m_manner(manner)
 {
     m_document.session().editor().commandWillStart();
     m_start = m_document.undoSteps().checkpoint();
@@ -33,12 +34,15 @@ CommandRun::CommandRun(Document &document, const CommandRow &row)
 
 CommandRun::~CommandRun()
 {
+    m_inside.reset();
     if (m_task)
         cancel();
 }
 
 void CommandRun::offer(const InputAnswer &answer)
 {
+    if (offerInside(answer))
+        return;
     echoPrompt();
     m_context.m_isAnsweredAhead = true;
     if (std::optional<PromptReply> given = m_dialogue->offer(answer))
@@ -47,11 +51,34 @@ void CommandRun::offer(const InputAnswer &answer)
         refuse();
 }
 
+bool CommandRun::offerInside(const InputAnswer &answer)
+{
+    const std::optional<QString> called = transparentCall(answer, m_dialogue->request());
+    if (!m_inside && !called)
+        return false;
+    if (m_inside)
+        m_inside->offer(answer);
+    else
+        m_inside = startTransparent(m_document, *called, m_dialogue->request());
+    leaveInside();
+    return true;
+}
+
+void CommandRun::leaveInside()
+{
+    if (m_inside && !m_inside->isDone())
+        return;
+    m_inside.reset();
+    tellResumed(m_document);
+}
+
 void CommandRun::askUser()
 {
-    PromptRequest request = m_dialogue->request();
-    request.endsWhenRefused = true;
-    PromptReply given = m_document.prompts().ask(request);
+    if (m_inside) {
+        m_inside->askUser();
+        return leaveInside();
+    }
+    PromptReply given = m_document.prompts().ask(*m_dialogue, UserInput::WhenRefused::EndBeforeMore);
     m_context.m_isAnsweredAhead = !m_document.session().input().isEmpty();
     reply(std::move(given));
     if (hasFailed())
@@ -81,7 +108,7 @@ bool CommandRun::growSelection(PromptReply &reply)
     std::optional<SelectionBuilder> &selection = m_context.m_selection;
     selection->add(reply);
     if (!selection->isDone()) {
-        m_dialogue.emplace(m_document, selection->request());
+        standAt(selection->request());
         return false;
     }
     reply = {};
@@ -110,7 +137,15 @@ void CommandRun::resume()
     else if (m_task->isDone())
         finish();
     else
-        m_dialogue.emplace(m_document, m_context.m_request);
+        standAt(m_context.m_request);
+}
+
+void CommandRun::standAt(PromptRequest request)
+{
+    request.isTransparent = m_manner == Manner::Transparent;
+    if (request.isTransparent)
+        request.prompt.insert(request.prompt.startsWith(u'\n') ? 1 : 0, QStringLiteral(">>"));
+    m_dialogue.emplace(m_document, std::move(request));
 }
 
 void CommandRun::finish()

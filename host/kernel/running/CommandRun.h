@@ -12,10 +12,16 @@ namespace host::kernel {
 class CommandRun
 {
 public:
+    /// How it was called.
+    enum class Manner
+    {
+        Usual,
+        Transparent ///< in the middle of another prompt, so that its own ones look like that
+    };
     /// Starts the command that was typed; a system variable's name starts SETVAR on it. Null when it is neither.
-    static std::unique_ptr<CommandRun> start(Document &document, const QString &typed);
+    static std::unique_ptr<CommandRun> start(Document &document, const QString &typed, Manner manner = Manner::Usual);
     /// Starts the command: its reactors hear of it and it runs to its first prompt.
-    CommandRun(Document &document, const CommandRow &row);
+    CommandRun(Document &document, const CommandRow &row, Manner manner = Manner::Usual);
     /// Gives the command up where it waits.
     ~CommandRun();
     CommandRun(const CommandRun &) = delete;
@@ -28,7 +34,8 @@ public:
     /// Ended without having done what it was asked for: it did not take an answer, or said why it cannot.
     bool hasFailed() const { return m_context.hasFailed(); }
     /// An answer to the prompt it waits at, as a Lisp program gives it. One that the prompt does not take ends the
-    /// command, and what it did is taken back.
+    /// command, and what it did is taken back. One that calls another command in the middle of the prompt has the
+    /// answers behind it go there until that has ended.
     void offer(const InputAnswer &answer);
     /// Has the user answer the prompt it waits at. Blocks until there is an answer; a refused one is asked for again.
     void askUser();
@@ -40,6 +47,12 @@ private:
     void reply(PromptReply given);
     /// Puts a step of a selection in. True when it is complete; `reply` is all of it then.
     bool growSelection(PromptReply &reply);
+    /// Begins or answers a command in the middle of the prompt. False when there is none and `answer` calls none.
+    bool offerInside(const InputAnswer &answer);
+    /// Goes back to the prompt when that command has ended.
+    void leaveInside();
+    /// Waits at a prompt.
+    void standAt(PromptRequest request);
     /// Runs the body to its next prompt or its end.
     void resume();
     /// Lets the body go, and its name from CMDNAMES; what it did stays and ends its undo step.
@@ -56,6 +69,8 @@ private:
     CommandContext m_context;
     std::optional<CommandTask> m_task;        ///< the body; none when it has ended
     std::optional<PromptDialogue> m_dialogue; ///< the prompt it waits at
+    std::unique_ptr<CommandRun> m_inside;     ///< a command in the middle of that prompt
+    Manner m_manner;
     bool m_isCancelled = false;
 };
 

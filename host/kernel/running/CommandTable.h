@@ -24,6 +24,7 @@ struct CommandRow
     CommandTask (*body)(CommandContext &); ///< see CommandContext
     const char *help;                      ///< one line for listings
     WhenCancelled whenCancelled = WhenCancelled::TakeBack;
+    bool isTransparent = false; ///< may be called in the middle of a prompt; the room of the commands has the list
 };
 
 /// All built-in commands, in no order. The kernel runs them and asks no more of them: they are defined above it, in the

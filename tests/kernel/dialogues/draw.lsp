@@ -14,3 +14,10 @@
 (setvar "CIRCLERAD" 4.0) ;! CIRCLE|1,1| ;= CIRCLE 10=1,1,0 40=4
 (turned) ;! CIRCLE|2P|0,0|10,0 ;= CIRCLE 10=10,25,0 40=5
 (tilted) ;! CIRCLE|3P|1,0|0,1|-1,0 ;= CIRCLE 10=0,5,0 40=1 210=0,-1,0
+
+; Points put together, distances alone, commands in the middle
+;! LINE|.x|1,2|3,4|5| ;~ keeps ;= LINE 10=1,4,0 11=6,4,0
+;! CIRCLE|m2p|0,0|4,2|.y|5,5|2,0 ;= CIRCLE 10=2,1,0 40=4
+(setvar "PICKBOX" 3) ;! CIRCLE|'PICKBOX|5|1,2|'_.ZOOM|C|0,0|40|3 ;= CIRCLE 10=1,2,0 40=3
+;! CIRCLE|1,2|'CIRCLE|3 ;> may not be invoked transparently ;= CIRCLE 10=1,2,0 40=3
+(turned) ;! LINE|0,0|from|1,1|@2,0|<90|4| ;~ keeps ;= LINE 10=10,20,0 11=9,23,0; LINE 10=9,23,0 11=5,23,0

@@ -1,0 +1,174 @@
+// How a prompt gets its points: typed, shown, or put together from others.
+
+#include "host/kernel/documents/Document.h"
+#include "host/kernel/input/PointAim.h"
+#include "host/kernel/input/PointEntry.h"
+#include "host/kernel/input/PromptDialogue.h"
+#include "host/kernel/lisp/LispConversion.h"
+#include "host/kernel/variables/SystemVariables.h"
+
+#include <cmath>
+
+using namespace Qt::StringLiterals;
+
+namespace host::kernel {
+
+namespace {
+
+using drawing::Vec3;
+
+/// Along the user's axis, turned by SNAPANG, that is nearest to the direction: what ORTHOMODE makes of it.
+Vec3 orthogonal(const Vec3 &away, double turn)
+{
+    const Vec3 x{std::cos(turn), std::sin(turn), 0.0};
+    const Vec3 y{-x.y, x.x, 0.0};
+    return std::abs(dot(away, x)) >= std::abs(dot(away, y)) ? x * dot(away, x) : y * dot(away, y);
+}
+
+bool isOrthoOn(const SystemVariables &variables)
+{
+    return variables.integer(u"ORTHOMODE") != 0;
+}
+
+} // namespace
+
+PromptDialogue::Reading PromptDialogue::read(const PointAnswer &answer)
+{
+    if (!takesPoints() && m_request.kind != PromptKind::Entity && m_request.kind != PromptKind::Selection)
+        return refuse();
+    return takeGiven(answer.point, answer.isByHand ? Origin::Pointer : Origin::Program);
+}
+
+bool PromptDialogue::takesPoints() const
+{
+    switch (m_request.kind) {
+    case PromptKind::Distance:
+    case PromptKind::Angle:
+    case PromptKind::Orientation:
+    case PromptKind::Point:
+    case PromptKind::Corner:
+        return true;
+    default:
+        return false;
+    }
+}
+
+bool PromptDialogue::takePointWord(const QString &text)
+{
+    if (!takesPoints() || !(m_assembly.takeWord(text) || lockDirection(text)))
+        return false;
+    askForPart();
+    return true;
+}
+
+bool PromptDialogue::lockDirection(const QString &text)
+{
+    // Where an angle is asked for, "<30" would be one.
+    const bool mayBe = m_request.kind == PromptKind::Point && text.startsWith(u'<') && userBase();
+    const std::optional<double> angle =
+        mayBe ? UnitFormat::of(m_document.variables()).parseDirection(text.mid(1)) : std::nullopt;
+    if (!angle)
+        return false;
+    m_assembly.lockDirection(*angle);
+    m_document.print(u"\nAngle Override: "_s + text.mid(1));
+    return true;
+}
+
+void PromptDialogue::askForPart()
+{
+    m_part.reset();
+    if (!m_assembly.isOpen())
+        return;
+    m_part = m_request;
+    m_part->kind = PromptKind::Point;
+    m_part->prompt = m_assembly.prompt();
+    m_part->keywords.clear();
+    m_part->defaultText.clear();
+    if (const std::optional<Vec3> base = m_assembly.base())
+        m_part->base = toWorld(m_document, *base);
+}
+
+PromptDialogue::Reading PromptDialogue::readPart(const QString &text)
+{
+    if (text.isEmpty()) {
+        const std::optional<Vec3> point = m_assembly.takeEnter();
+        return point ? takeAssembled(point) : refuse();
+    }
+    if (takePointWord(text))
+        return {};
+    const std::optional<double> number = UnitFormat::of(m_document.variables()).parseLength(text);
+    if (number && std::isfinite(*number) && m_assembly.isCoordinateMissing())
+        return takeAssembled(m_assembly.takeCoordinate(*number));
+    if (const std::optional<Vec3> point = typedPoint(text))
+        return takeGiven(*point, m_typedBy);
+    if (const std::optional<Vec3> point = directDistance(text))
+        return takeAssembled(m_assembly.take(*point, userBase()));
+    return refuse();
+}
+
+std::optional<Vec3> PromptDialogue::userBase() const
+{
+    if (const std::optional<Vec3> base = m_assembly.base())
+        return base;
+    return m_request.base ? std::optional(toUser(m_document, *m_request.base)) : std::nullopt;
+}
+
+std::optional<Vec3> PromptDialogue::directDistance(const QString &text) const
+{
+    const std::optional<Vec3> base = userBase();
+    const bool isText = (m_request.bits & AnyText) && !(m_request.bits & DistanceFirst) && !m_part;
+    if (request().kind != PromptKind::Point || !base || isText)
+        return {};
+    const std::optional<double> distance = UnitFormat::of(m_document.variables()).parseLength(text);
+    if (!distance || !std::isfinite(*distance))
+        return {};
+    if (const std::optional<Vec3> locked = m_assembly.direction())
+        return *base + *locked * *distance;
+    const PointAim &aim = m_document.aim();
+    Vec3 along = aim.from(*base, aim.pointer ? std::optional(toUser(m_document, *aim.pointer)) : std::nullopt);
+    if (isOrthoOn(m_document.variables()))
+        along = normalized(orthogonal(along, m_document.variables().real(u"SNAPANG")));
+    return *base + along * *distance;
+}
+
+std::optional<Vec3> PromptDialogue::typedPoint(const QString &text) const
+{
+    const SystemVariables &variables = m_document.variables();
+    PointContext context{UnitFormat::of(variables), variables.point(u"LASTPOINT"), variables.real(u"ELEVATION")};
+    context.last = userBase().value_or(context.last);
+    const std::optional<TypedPoint> typed = parsePoint(text, context);
+    if (!typed)
+        return {};
+    return typed->isWorld ? typed->point : toWorld(m_document, typed->point);
+}
+
+PromptDialogue::Reading PromptDialogue::takeGiven(const Vec3 &world, Origin origin)
+{
+    Vec3 user = toUser(m_document, world);
+    const std::optional<Vec3> base = userBase();
+    const bool isStraightened =
+        origin == Origin::Pointer && base && request().kind == PromptKind::Point && isOrthoOn(m_document.variables());
+    if (isStraightened)
+        user = *base + orthogonal(user - *base, m_document.variables().real(u"SNAPANG"));
+    // What goes nowhere else stays the number it was.
+    if (!isStraightened && !m_assembly.isOpen() && !m_assembly.isDirectionLocked())
+        return takePoint(world);
+    return takeAssembled(m_assembly.take(user, base));
+}
+
+PromptDialogue::Reading PromptDialogue::takeAssembled(const std::optional<Vec3> &user)
+{
+    askForPart();
+    return user ? takePoint(toWorld(m_document, *user)) : Reading{};
+}
+
+void PromptDialogue::keepDirection(const Vec3 &user)
+{
+    if (!m_request.base)
+        return;
+    const Vec3 away = user - toUser(m_document, *m_request.base);
+    if (away.length() > 0.0 && std::isfinite(away.length()))
+        m_document.aim().direction = normalized(away);
+}
+
+} // namespace host::kernel
