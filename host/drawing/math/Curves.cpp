@@ -210,7 +210,8 @@ Path splinePath(const Spline &spline, const Flatness &flatness)
 {
     if (!spline.isValid()) {
         const Spline fitted = fittedSpline(spline.fitPoints, spline.isClosed);
-        return fitted.isValid() ? splinePath(fitted, flatness) : Path();
+        // Points that are one still show where they are.
+        return fitted.isValid() ? splinePath(fitted, flatness) : spline.fitPoints;
     }
     Path path{spline.point(spline.firstParameter())};
     CurveSampler sampler(spline, flatness, path);
