@@ -7,19 +7,28 @@
 namespace host::kernel {
 
 // The rows of each file of commands.
+std::vector<CommandRow> arcCommands();
 std::vector<CommandRow> circleCommands();
+std::vector<CommandRow> constructionLineCommands();
 std::vector<CommandRow> drawCommands();
 std::vector<CommandRow> drawOrderCommands();
 std::vector<CommandRow> editCommands();
+std::vector<CommandRow> ellipseCommands();
+std::vector<CommandRow> faceCommands();
 std::vector<CommandRow> fileCommands();
 std::vector<CommandRow> insertCommands();
 std::vector<CommandRow> layerCommands();
 std::vector<CommandRow> layoutCommands();
 std::vector<CommandRow> linetypeCommands();
+std::vector<CommandRow> mlineCommands();
+std::vector<CommandRow> polygonCommands();
 std::vector<CommandRow> polylineCommands();
 std::vector<CommandRow> purgeCommands();
+std::vector<CommandRow> rectangleCommands();
 std::vector<CommandRow> referenceCommands();
+std::vector<CommandRow> revisionCloudCommands();
 std::vector<CommandRow> shapeCommands();
+std::vector<CommandRow> splineCommands();
 std::vector<CommandRow> textCommands();
 std::vector<CommandRow> undoCommands();
 std::vector<CommandRow> viewCommands();

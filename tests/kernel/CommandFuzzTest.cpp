@@ -19,11 +19,12 @@ TEST_P(CommandFuzz, UndoGivesBackTheBytes)
          "1.0 0.0 0.0)))(entmake '((0 . \"ENDBLK\")))(command \"LINE\" '(0 0) '(9 9) \"\")");
     std::minstd_rand random(GetParam());
     const QStringList commands =
-        QStringLiteral("CIRCLE|TEXT|PLINE|LINE|MOVE|COPY|ROTATE|SCALE|ERASE|ZOOM|-INSERT|-LAYER|-PURGE|-XREF|DRAWORDER")
+        QStringLiteral("CIRCLE|TEXT|PLINE|LINE|MOVE|COPY|ROTATE|SCALE|ERASE|ZOOM|-INSERT|-LAYER|-PURGE|-XREF|DRAWORDER|"
+                       "ARC|ELLIPSE|SPLINE|XLINE|RAY|RECTANG|POLYGON|DONUT|3DPOLY|SOLID|TRACE|3DFACE|REVCLOUD|MLINE")
             .split(u'|');
     const QStringList answers =
         QStringLiteral(
-            "|0,0|10,0|3,4|@5<30|1e308,1e308|0|-1|2.5|1e300|90|ALL|L|P|2P|3P|T|D|A|CE|CL|R|S|W|U|C|J|FIT|*|?|Door"
+            "|0,0|10,0|3,4|@5<30|1e308,1e308|0|-1|2.5|1e300|90|ALL|L|P|2P|3P|T|D|A|CE|CL|R|S|W|UN|C|J|FIT|*|?|Door"
             "|*Door|Y|N|M|LA|2x|!pi|\u00e4/\"")
             .split(u'|');
     const auto pick = [&random](const QStringList &list) { return list[qsizetype(random() % quint32(list.size()))]; };

@@ -13,6 +13,23 @@ constexpr double circleTolerance = 1e-12;
 
 } // namespace
 
+Vec2 polar(double direction, double length)
+{
+    return {length * std::cos(direction), length * std::sin(direction)};
+}
+
+double turnAround(Vec2 centre, Vec2 from, Vec2 to)
+{
+    const double turn = std::atan2(cross(from - centre, to - centre), dot(from - centre, to - centre));
+    return turn > 0.0 ? turn : turn + 2.0 * M_PI;
+}
+
+Vec2 turnedRound(Vec2 point, Vec2 centre, double angle)
+{
+    const Vec2 spoke = point - centre;
+    return centre + spoke * std::cos(angle) + turnedLeft(spoke) * std::sin(angle);
+}
+
 std::optional<Vec2> circleCentre(Vec2 first, Vec2 second, Vec2 third)
 {
     const Vec2 a = second - first;

@@ -7,7 +7,14 @@
 
 namespace host::kernel {
 
-// Circles and arcs in a plane.
+// Circles and arcs in a plane. Angles and directions are in radians.
+
+/// So far in a direction.
+drawing::Vec2 polar(double direction, double length);
+/// How far an arc round a centre turns left from one point to the direction of another: up to once round, never 0.
+double turnAround(drawing::Vec2 centre, drawing::Vec2 from, drawing::Vec2 to);
+/// The point turned round a centre.
+drawing::Vec2 turnedRound(drawing::Vec2 point, drawing::Vec2 centre, double angle);
 
 /// The centre of the circle through three points; nothing when they lie in one line or two of them are one.
 std::optional<drawing::Vec2> circleCentre(drawing::Vec2 first, drawing::Vec2 second, drawing::Vec2 third);

@@ -19,11 +19,6 @@ using drawing::Vec3;
 
 namespace {
 
-Vec2 along(double direction, double length)
-{
-    return {length * std::cos(direction), length * std::sin(direction)};
-}
-
 /// Asks with a rubber band from the end of the polyline, and reads points in its plane.
 class ArcPrompts
 {
@@ -77,27 +72,17 @@ private:
     double m_direction;
 };
 
-/// How far an arc turns left from `from` to `to` round its centre.
-double turnAround(Vec2 centre, Vec2 from, Vec2 to)
-{
-    const double turn = std::atan2(cross(from - centre, to - centre), dot(from - centre, to - centre));
-    return turn > 0.0 ? turn : turn + 2.0 * M_PI;
-}
-
 /// The arc round a centre, so far to the left.
 MaybeArc arcAround(ArcPrompts &prompts, Vec2 centre, double turn)
 {
-    const Vec2 spoke = prompts.from() - centre;
-    const Vec2 end = centre + Vec2{spoke.x * std::cos(turn) - spoke.y * std::sin(turn),
-                                   spoke.x * std::sin(turn) + spoke.y * std::cos(turn)};
-    return prompts.arc(end, bulgeOfAngle(turn));
+    return prompts.arc(turnedRound(prompts.from(), centre, turn), bulgeOfAngle(turn));
 }
 
 /// The arc with a radius and an angle whose chord runs in a direction.
 MaybeArc arcOnChord(ArcPrompts &prompts, double radius, double turn, double chordDirection)
 {
     const double chord = 2.0 * std::abs(radius * std::sin(turn / 2.0));
-    return prompts.arc(prompts.from() + along(chordDirection, chord), bulgeOfAngle(turn));
+    return prompts.arc(prompts.from() + polar(chordDirection, chord), bulgeOfAngle(turn));
 }
 
 Dialogue<MaybeArc> askByAngle(CommandContext &context, ArcPrompts &prompts)
@@ -159,7 +144,7 @@ Dialogue<MaybeArc> askByRadius(CommandContext &, ArcPrompts &prompts)
         co_return prompts.impossible();
     // Of the two short arcs the one that goes on in the direction so far; a negative radius means the long one.
     const double turn = radius.real < 0.0 ? 2.0 * M_PI - 2.0 * std::asin(sine) : 2.0 * std::asin(sine);
-    const bool isLeft = cross(along(prompts.direction(), 1.0), chord) >= 0.0;
+    const bool isLeft = cross(polar(prompts.direction(), 1.0), chord) >= 0.0;
     co_return prompts.arc(prompts.flat(end), bulgeOfAngle(isLeft ? turn : -turn));
 }
 

@@ -21,6 +21,8 @@ FieldList lightPolyline(const PolylineDraft &draft, const std::vector<Vec3> &poi
                         {90, qint64(points.size())},
                         {70, qint64(draft.isClosed ? 1 : 0)},
                         {38, points.front().z}};
+    if (draft.thickness != 0.0)
+        fields.push_back({39, draft.thickness});
     for (std::size_t i = 0; i < points.size(); ++i) {
         fields.push_back({10, points[i].xy()});
         fields.push_back({40, draft.vertices[i].startWidth});
@@ -81,6 +83,16 @@ bool PolylineDraft::undo()
     return true;
 }
 
+PolylineDraft closedDraft(const std::vector<Vec2> &corners, double height, double width)
+{
+    PolylineDraft draft;
+    for (const Vec2 corner : corners)
+        draft.vertices.push_back({corner, 0.0, width, width});
+    draft.height = height;
+    draft.isClosed = true;
+    return draft;
+}
+
 void createPolyline(CommandContext &context, const PolylineDraft &draft)
 {
     if (draft.vertices.size() < 2)
@@ -93,10 +105,12 @@ void createPolyline(CommandContext &context, const PolylineDraft &draft)
         context.create(plane.placed(lightPolyline(draft, points)));
         return;
     }
-    const FieldList head = {{0, u"POLYLINE"_s},
-                            {66, qint64(1)},
-                            {10, Vec3{0.0, 0.0, points.front().z}},
-                            {70, qint64(draft.isClosed ? 1 : 0)}};
+    FieldList head = {{0, u"POLYLINE"_s},
+                      {66, qint64(1)},
+                      {10, Vec3{0.0, 0.0, points.front().z}},
+                      {70, qint64(draft.isClosed ? 1 : 0)}};
+    if (draft.thickness != 0.0)
+        head.push_back({39, draft.thickness});
     context.createComplex(plane.placed(head), heavyVertices(draft, points));
 }
 

@@ -28,7 +28,8 @@ struct PolylineDraft
     std::vector<Vertex> vertices;
     std::vector<Widths> before; ///< the widths in front of each segment, for taking it back
     Widths widths;
-    double height = 0.0; ///< above the user's plane
+    double height = 0.0;    ///< above the user's plane
+    double thickness = 0.0; ///< how far it rises from there
     bool isClosed = false;
 
     drawing::Vec2 last() const { return vertices.back().point; }
@@ -40,6 +41,9 @@ struct PolylineDraft
     /// Takes the last segment back. False when there is none.
     bool undo();
 };
+
+/// Corners with straight segments of one width between them, closed.
+PolylineDraft closedDraft(const std::vector<drawing::Vec2> &corners, double height, double width = 0.0);
 
 /// Makes the polyline in the drawing, in the form that its version has, when it has a segment.
 void createPolyline(CommandContext &context, const PolylineDraft &draft);

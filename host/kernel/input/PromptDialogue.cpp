@@ -231,6 +231,7 @@ PromptDialogue::Reading PromptDialogue::takeSecondPoint(const Vec3 &world)
     const OdGePoint3d from = m_document.worldToUser({m_request.base->x, m_request.base->y, m_request.base->z});
     const OdGePoint3d to = m_document.worldToUser({world.x, world.y, world.z});
     PromptReply reply;
+    reply.isShown = true;
     if (m_request.kind == PromptKind::Distance) {
         const double rise = (m_request.bits & FlatDistance) ? 0.0 : to.z - from.z;
         reply.real = std::hypot(to.x - from.x, to.y - from.y, rise);

@@ -24,6 +24,7 @@ struct PromptReply
     std::vector<drawing::RecordId> entities; ///< Entity, Selection
     bool isRefused = false;                  ///< Cancelled: by an answer that the prompt does not take
     bool isMiss = false;                     ///< Entity: empty because nothing was where the user picked
+    bool isShown = false;                    ///< Distance, Angle, Orientation: by points rather than typed
     bool isWindow = false;                   ///< Selection: two corners follow in `point` and `corner`
     drawing::Vec3 corner;
 

@@ -1,0 +1,276 @@
+#include "host/commands/Commands.h"
+#include "host/commands/common/EntityEdits.h"
+#include "host/commands/common/KeptValues.h"
+#include "host/commands/draw/CurveEntity.h"
+#include "host/commands/draw/SplineFit.h"
+#include "host/drawing/records/PolylineFlags.h"
+#include "host/kernel/documents/Document.h"
+
+using namespace Qt::StringLiterals;
+
+namespace host::kernel {
+
+namespace {
+
+using drawing::FieldList;
+using drawing::RecordId;
+using drawing::Spline;
+using drawing::Vec3;
+
+/// Bits of group 70 of a SPLINE.
+enum SplineFlag : qint64
+{
+    SplineClosed = 1,
+    SplinePeriodic = 2,
+    SplinePlanar = 8
+};
+
+/// The normal of the plane that all points lie in; nothing when there is none, or more than one.
+std::optional<Vec3> commonNormal(const std::vector<Vec3> &points)
+{
+    double size = 0.0;
+    Vec3 normal;
+    for (const Vec3 &point : points)
+        size = std::max(size, (point - points.front()).length());
+    for (std::size_t i = 2; i < points.size() && normal == Vec3{}; ++i) {
+        const Vec3 across = cross(points[i - 1] - points.front(), points[i] - points.front());
+        if (across.length() > 1e-9 * size * size)
+            normal = drawing::normalized(across);
+    }
+    const auto isOn = [&](const Vec3 &p) { return std::abs(dot(p - points.front(), normal)) <= 1e-9 * size; };
+    if (normal == Vec3{} || !std::ranges::all_of(points, isOn))
+        return {};
+    return normal.z < 0.0 ? normal * -1.0 : normal;
+}
+
+/// The record of a spline. Tangents are written where they were given.
+FieldList splineFields(const Spline &spline, const SplineFit *fit, double tolerance)
+{
+    const std::optional<Vec3> normal = commonNormal(spline.controlPoints);
+    const bool isPeriodic = spline.isClosed && !fit;
+    qint64 flags = normal ? qint64(SplinePlanar) : 0;
+    flags |= spline.isClosed ? qint64(SplineClosed) : 0;
+    flags |= isPeriodic ? qint64(SplinePeriodic) : 0;
+    FieldList fields = {{0, u"SPLINE"_s}};
+    if (normal)
+        fields.push_back({210, *normal});
+    fields.insert(fields.end(), {{70, flags},
+                                 {71, qint64(spline.degree)},
+                                 {72, qint64(spline.knots.size())},
+                                 {73, qint64(spline.controlPoints.size())},
+                                 {74, qint64(spline.fitPoints.size())},
+                                 {42, 1e-7},
+                                 {43, 1e-7}});
+    if (fit)
+        fields.push_back({44, std::max(tolerance, 1e-10)});
+    if (fit && fit->startTangent)
+        fields.push_back({12, drawing::normalized(*fit->startTangent)});
+    if (fit && fit->endTangent)
+        fields.push_back({13, drawing::normalized(*fit->endTangent)});
+    for (const double knot : spline.knots)
+        fields.push_back({40, knot});
+    for (const Vec3 &point : spline.controlPoints)
+        fields.push_back({10, point});
+    for (const Vec3 &point : spline.fitPoints)
+        fields.push_back({11, point});
+    return fields;
+}
+
+/// A spline while it is drawn; points are in world coordinates.
+struct SplineDraft
+{
+    SplineFit fit;
+    bool isFit = true; ///< its points are passed, not only aimed at
+    int degree = 3;
+    double tolerance = 0.0;
+    bool hasAskedStart = false; ///< the start tangent was given before the points ended
+    bool hasAskedEnd = false;
+};
+
+KnotSpacing spacingNamed(const QString &name)
+{
+    return name == u"Uniform" ? KnotSpacing::Uniform : name == u"Square" ? KnotSpacing::SquareRoot : KnotSpacing::Chord;
+}
+
+/// The curve that a polyline with the smoothing of splines shows; nothing for another.
+std::optional<Spline> splineOfPolyline(const drawing::Drawing &drawing, RecordId polyline)
+{
+    constexpr qint64 splineFit = 4;
+    constexpr qint64 quadratic = 5;
+    const drawing::TagList tags = drawing.tags(polyline);
+    const qint64 flags = tags.integer(70);
+    if (!drawing.isType(polyline, "POLYLINE") || (flags & splineFit) == 0 || (flags & drawing::FlagMesh) != 0)
+        return {};
+    const bool isFlat = (flags & drawing::Flag3d) == 0;
+    const drawing::Matrix object =
+        isFlat ? drawing::Matrix::fromExtrusion(tags.point(210, {0.0, 0.0, 1.0})) : drawing::Matrix();
+    std::vector<Vec3> frame;
+    for (const RecordId vertex : drawing.children(polyline)) {
+        const drawing::TagList own = drawing.tags(vertex);
+        if ((own.integer(70) & drawing::FlagFrameControl) != 0)
+            frame.push_back(object.point(own.point(10)));
+    }
+    const bool isClosed = (flags & drawing::FlagClosed) != 0;
+    if (frame.size() < (isClosed ? 3 : 2))
+        return {};
+    return splineOver(std::move(frame), tags.integer(75) == quadratic ? 2 : 3, isClosed);
+}
+
+/// Splines in place of polylines.
+Dialogue<bool> convertPolylines(CommandContext &context)
+{
+    const PromptReply chosen = co_await context.selection();
+    qsizetype converted = 0;
+    for (const RecordId id : editable(context, chosen.entities)) {
+        const std::optional<Spline> spline = splineOfPolyline(context.drawing(), id);
+        if (!spline)
+            continue;
+        FieldList fields = splineFields(*spline, nullptr, 0.0);
+        const FieldList look = context.drawing().fields(id);
+        for (const int code : {8, 6, 62, 48, 370})
+            if (const drawing::Field *field = drawing::findField(look, code))
+                fields.push_back(*field);
+        if (!isValid(context.create(fields)))
+            continue;
+        ++converted;
+        if (context.document().variables().integer(u"DELOBJ", 1) != 0)
+            context.drawing().setErased(id, true);
+    }
+    if (converted == 0)
+        context.print(u"\nOnly polylines with the smoothing of splines can be converted."_s);
+    co_return converted > 0;
+}
+
+/// The first point, and what is set in front of it. Nothing when the command is done with that.
+Dialogue<std::optional<Vec3>> askFirst(CommandContext &context, SplineDraft &draft)
+{
+    for (;;) {
+        const QString prompt = draft.isFit ? u"Specify first point or [Method/Knots/Object]: "_s
+                                           : u"Specify first point or [Method/Degree/Object]: "_s;
+        const PromptReply reply = co_await context.neededPoint(prompt);
+        if (reply.isKeyword(u"Object")) {
+            co_await convertPolylines(context);
+            co_return std::nullopt;
+        }
+        if (reply.isKeyword(u"Method")) {
+            const QString method = co_await askUsualOption(context, u"Enter spline creation method [Fit/CV]"_s,
+                                                           draft.isFit ? u"Fit"_s : u"CV"_s, u"Fit CV,C"_s);
+            draft.isFit = method == u"Fit";
+            keepValue(context, u"SPLMETHOD", draft.isFit ? 0 : 1);
+        } else if (reply.isKeyword(u"Knots")) {
+            const QString spacing = co_await askUsualOption(
+                context, u"Enter knot parameterization [Chord/Square root/Uniform]"_s, u"Chord"_s);
+            draft.fit.spacing = spacingNamed(spacing);
+            keepValue(context, u"SPLKNOTS", static_cast<qint32>(draft.fit.spacing));
+        } else if (reply.isKeyword(u"Degree")) {
+            const PromptReply degree = co_await context.integer(u"Enter degree of spline <%1>: "_s.arg(draft.degree),
+                                                                {}, QString::number(draft.degree), NoZero);
+            draft.degree = std::clamp(degree.hasValue() ? degree.integer : draft.degree, 1, 10);
+            keepValue(context, u"SPLDEGREE", draft.degree);
+        } else {
+            co_return reply.point;
+        }
+    }
+}
+
+Dialogue<std::optional<Vec3>> askTangent(CommandContext &context, const QString prompt, const Vec3 base)
+{
+    const PromptReply reply = co_await context.point(prompt, {}, base);
+    const bool isDirection = reply.hasValue() && (reply.point - base).length() > 0.0;
+    co_return isDirection ? std::optional(reply.point - base) : std::nullopt;
+}
+
+/// What is asked behind each point. False when there are enough of them.
+Dialogue<bool> askNext(CommandContext &context, SplineDraft &draft)
+{
+    std::vector<Vec3> &points = draft.fit.points;
+    const QString close = points.size() > 2 ? u"Close/"_s : u""_s;
+    const QString prompt =
+        !draft.isFit        ? u"Enter next point or [%1Undo]: "_s.arg(close)
+        : points.size() < 2 ? u"Enter next point or [start Tangency/toLerance]: "_s
+                            : u"Enter next point or [%1Fit tolerance/Undo/end Tangency] <start tangent>: "_s.arg(close);
+    const QString options =
+        u"Close "_s.left(close.size()) + u"Undo"_s + (draft.isFit ? u" Tangency toLerance Fit"_s : u""_s);
+    const PromptReply reply = co_await context.point(prompt, options, points.back());
+    if (reply.isEmpty())
+        co_return false;
+    if (reply.isKeyword(u"Close")) {
+        draft.fit.isClosed = true;
+        co_return false;
+    }
+    if (reply.isKeyword(u"Undo")) {
+        if (points.size() > 1)
+            points.pop_back();
+        else
+            context.print(u"\nAll points already undone."_s);
+    } else if (reply.isKeyword(u"Tangency") && points.size() < 2) {
+        draft.fit.startTangent = co_await askTangent(context, u"Specify start tangent: "_s, points.front());
+        draft.hasAskedStart = true;
+    } else if (reply.isKeyword(u"Tangency")) {
+        draft.fit.endTangent = co_await askTangent(context, u"Specify end tangent: "_s, points.back());
+        draft.hasAskedEnd = true;
+        co_return false;
+    } else if (reply.kind == ReplyKind::Keyword) {
+        draft.tolerance = co_await askUsualLength(context, u"Specify fit tolerance"_s, draft.tolerance);
+    } else if ((reply.point - points.back()).length() > 0.0) {
+        points.push_back(reply.point);
+    }
+    co_return true;
+}
+
+/// The directions at the ends, which an empty answer leaves to the curve.
+Dialogue<bool> askTangents(CommandContext &context, SplineDraft &draft)
+{
+    const std::vector<Vec3> &points = draft.fit.points;
+    if (draft.fit.isClosed) {
+        draft.fit.startTangent = co_await askTangent(context, u"Specify tangent: "_s, points.front());
+        co_return true;
+    }
+    // Those who give an end with the points have had the start to give as well.
+    if (!draft.hasAskedStart && !draft.hasAskedEnd)
+        draft.fit.startTangent = co_await askTangent(context, u"Specify start tangent: "_s, points.front());
+    if (!draft.hasAskedEnd)
+        draft.fit.endTangent = co_await askTangent(context, u"Specify end tangent: "_s, points.back());
+    co_return true;
+}
+
+void createSpline(CommandContext &context, SplineDraft draft)
+{
+    std::vector<Vec3> &points = draft.fit.points;
+    if (draft.fit.isClosed && (points.back() - points.front()).length() == 0.0)
+        points.pop_back();
+    const Spline spline = draft.isFit ? splineThrough(draft.fit)
+                                      : splineOver(points, draft.degree, draft.fit.isClosed && points.size() > 2);
+    createCurve(context, splineFields(spline, draft.isFit ? &draft.fit : nullptr, draft.tolerance),
+                drawing::splinePath(spline));
+}
+
+// Points until an empty answer, then the tangents; or control points; or polylines that have a spline's shape already.
+CommandTask spline(CommandContext &context)
+{
+    const SystemVariables &variables = context.document().variables();
+    SplineDraft draft;
+    draft.isFit = variables.integer(u"SPLMETHOD") == 0;
+    draft.degree = std::clamp(variables.integer(u"SPLDEGREE", 3), 1, 10);
+    draft.fit.spacing = static_cast<KnotSpacing>(std::clamp(variables.integer(u"SPLKNOTS"), 0, 2));
+    const std::optional<Vec3> first = co_await askFirst(context, draft);
+    if (!first)
+        co_return;
+    draft.fit.points = {*first};
+    while (co_await askNext(context, draft)) {
+    }
+    if (draft.fit.points.size() < 2)
+        co_return;
+    if (draft.isFit)
+        co_await askTangents(context, draft);
+    createSpline(context, std::move(draft));
+}
+
+} // namespace
+
+std::vector<CommandRow> splineCommands()
+{
+    return {{"SPLINE", spline, "Draws a smooth curve through points or along control points"}};
+}
+
+} // namespace host::kernel
