@@ -50,3 +50,7 @@
 (defun all-of (code) (mapcar 'cdr (vl-remove-if-not '(lambda (f) (= (car f) code)) (entget (entlast)))))
 (defun value-of (code) (cdr (assoc code (entget (entlast)))))
 (defun near (a b) (if (equal a b 1e-6) T (list a b)))
+(defun own (codes) (mapcar '(lambda (c) (cdr (assoc c (entget (entlast) '("*"))))) codes))
+(defun types-from (e / r) (while e (setq r (cons (cdr (assoc 0 (entget e))) r) e (entnext e))) (reverse r))
+(defun types () (types-from (entnext)))
+(defun picture () (types-from (cdr (assoc -2 (tblsearch "BLOCK" (cdr (assoc 2 (entget (entlast)))))))))

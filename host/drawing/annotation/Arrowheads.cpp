@@ -74,14 +74,30 @@ QHash<QString, Arrowhead> makeArrowheads()
     return all;
 }
 
+const QHash<QString, Arrowhead> &allArrowheads()
+{
+    static const QHash<QString, Arrowhead> all = makeArrowheads();
+    return all;
+}
+
+QString arrowheadKey(QStringView name)
+{
+    return (name.startsWith(u'_') ? name.sliced(1) : name).toString().toLower();
+}
+
 } // namespace
 
 const Arrowhead &arrowheadNamed(QStringView name)
 {
-    static const QHash<QString, Arrowhead> all = makeArrowheads();
-    const QString key = (name.startsWith(u'_') ? name.sliced(1) : name).toString().toLower();
-    const auto found = all.constFind(key);
+    const QHash<QString, Arrowhead> &all = allArrowheads();
+    const auto found = all.constFind(arrowheadKey(name));
     return found == all.constEnd() ? *all.constFind(QString()) : *found;
+}
+
+bool isArrowheadName(QStringView name)
+{
+    const QString key = arrowheadKey(name);
+    return !key.isEmpty() && allArrowheads().contains(key);
 }
 
 const Arrowhead &tickMark()

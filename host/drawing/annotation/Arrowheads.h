@@ -25,6 +25,8 @@ struct Arrowhead
 /// an underscore in front. The usual filled arrow for an empty name and for one that is none of them. The reference
 /// stays.
 const Arrowhead &arrowheadNamed(QStringView name);
+/// Whether the name is one of a built-in arrow head, the usual one's left out.
+bool isArrowheadName(QStringView name);
 
 /// The short stroke across the line that DIMTSZ puts in place of arrows.
 const Arrowhead &tickMark();

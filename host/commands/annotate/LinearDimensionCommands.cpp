@@ -1,0 +1,209 @@
+#include "host/commands/Commands.h"
+#include "host/commands/annotate/MeasuredObject.h"
+#include "host/commands/annotate/NewDimension.h"
+#include "host/kernel/documents/Document.h"
+
+#include <numbers>
+
+using namespace Qt::StringLiterals;
+
+namespace host::kernel {
+
+using drawing::Vec2;
+using drawing::Vec3;
+
+namespace {
+
+/// What a linear dimension measures, in user coordinates.
+struct MeasuredSpan
+{
+    Vec3 first{};
+    Vec3 second{};
+    std::optional<Vec3> center{}; ///< of a circle, which is measured along the line
+    double radius = 0.0;
+};
+
+MeasuredSpan spanOf(const MeasuredObject &object, const Vec3 &pickedAt, const UserPlane &plane)
+{
+    MeasuredSpan span{.first = plane.userFromWorld(object.first), .second = plane.userFromWorld(object.second)};
+    if (!object.isCircle)
+        return span;
+    span.center = plane.userFromWorld(object.center);
+    span.radius = object.radius;
+    const Vec3 away = plane.userFromWorld(pickedAt) - *span.center;
+    const double length = away.xy().length();
+    const Vec2 out = length > 0.0 ? away.xy() * (object.radius / length) : Vec2{object.radius, 0.0};
+    span.first = *span.center + Vec3{out.x, out.y, 0.0};
+    span.second = *span.center - Vec3{out.x, out.y, 0.0};
+    return span;
+}
+
+/// A circle is measured where the line's direction leaves it.
+void turnSpan(MeasuredSpan &span, double angle)
+{
+    if (!span.center)
+        return;
+    const Vec3 out{span.radius * std::cos(angle), span.radius * std::sin(angle), 0.0};
+    span.first = *span.center - out;
+    span.second = *span.center + out;
+}
+
+/// Two points, or an entity behind an empty answer.
+Dialogue<std::optional<MeasuredSpan>> askSpan(CommandContext &context)
+{
+    const UserPlane plane(context.document());
+    const PromptReply first =
+        co_await context.point(u"Specify first extension line origin or <select object>: "_s, {}, {});
+    if (first.hasValue()) {
+        const PromptReply second =
+            co_await context.neededPoint(u"Specify second extension line origin: "_s, first.point);
+        co_return MeasuredSpan{.first = plane.userFromWorld(first.point), .second = plane.userFromWorld(second.point)};
+    }
+    for (;;) {
+        const PromptReply picked = co_await context.entity(u"Select object to dimension: "_s);
+        if (picked.entities.empty()) {
+            if (!picked.isMiss)
+                co_return std::nullopt;
+            continue;
+        }
+        if (const auto object = measuredObject(context.drawing(), picked.entities.front(), picked.point))
+            co_return spanOf(*object, picked.point, plane);
+        if (context.refuse(u"Object selected is not a line, arc, circle or piece of a polyline."_s))
+            co_return std::nullopt;
+    }
+}
+
+/// Along x where the line is above or below what it measures, along y beside it.
+double angleByPlace(const MeasuredSpan &span, Vec2 place)
+{
+    const auto outside = [](double at, double a, double b) {
+        return std::max(std::min(a, b) - at, at - std::max(a, b));
+    };
+    const Vec2 reach = span.center ? Vec2{span.radius, span.radius} : Vec2{};
+    const Vec2 a = span.center ? span.center->xy() - reach : span.first.xy();
+    const Vec2 b = span.center ? span.center->xy() + reach : span.second.xy();
+    const bool isBeside = outside(place.x, a.x, b.x) > outside(place.y, a.y, b.y);
+    return isBeside ? std::numbers::pi / 2.0 : 0.0;
+}
+
+double spanAlong(const MeasuredSpan &span, double angle)
+{
+    return std::abs(dot(span.second.xy() - span.first.xy(), Vec2{std::cos(angle), std::sin(angle)}));
+}
+
+/// Where the second extension line meets a dimension line through `place`.
+Vec3 footOnLine(const MeasuredSpan &span, double angle, Vec2 place)
+{
+    const Vec2 aside{-std::sin(angle), std::cos(angle)};
+    const Vec2 foot = span.second.xy() + aside * dot(place - span.second.xy(), aside);
+    return {foot.x, foot.y, span.second.z};
+}
+
+drawing::FieldList linearFields(const UserPlane &plane, const MeasuredSpan &span, double angle, Vec2 place, int kind)
+{
+    drawing::FieldList fields = {{0, u"DIMENSION"_s},
+                                 {10, plane.worldFromUser(footOnLine(span, angle, place))},
+                                 {70, qint64(kind)},
+                                 {13, plane.worldFromUser(span.first)},
+                                 {14, plane.worldFromUser(span.second)}};
+    if (kind == 0)
+        fields.push_back({50, plane.objectDegrees(angle)});
+    return fields;
+}
+
+// Two points or an entity, then where the line goes; Horizontal, Vertical and Rotated fix its direction.
+CommandTask linearDimension(CommandContext &context)
+{
+    const UserPlane plane(context.document());
+    std::optional<MeasuredSpan> span = co_await askSpan(context);
+    if (!span)
+        co_return;
+    std::optional<double> angle;
+    DimensionAnswers answers;
+    PromptReply place;
+    QString options = u"Mtext/Text/Angle/Horizontal/Vertical/Rotated"_s;
+    for (;;) {
+        LineQuestion question{u"Specify dimension line location or [%1]: "_s.arg(options),
+                              plane.worldFromUser(span->second),
+                              context.shownLength(spanAlong(*span, angle.value_or(0.0)))};
+        place = co_await askDimensionLine(context, question, answers);
+        if (place.hasValue())
+            break;
+        if (place.isKeyword(u"Rotated")) {
+            const PromptReply turn =
+                co_await context.orientation(u"Specify angle of dimension line <0>: "_s, {}, {}, u"0"_s);
+            angle = turn.hasValue() ? turn.real : 0.0;
+            continue;
+        }
+        angle = place.isKeyword(u"Vertical") ? std::numbers::pi / 2.0 : 0.0;
+        options = u"Mtext/Text/Angle"_s;
+    }
+    const Vec2 at = plane.userFromWorld(place.point).xy();
+    const double along = angle.value_or(angleByPlace(*span, at));
+    turnSpan(*span, along);
+    createDimension(context, linearFields(plane, *span, along, at, 0), answers);
+}
+
+// Two points or an entity, then where the line goes, which runs from the one to the other.
+CommandTask alignedDimension(CommandContext &context)
+{
+    const UserPlane plane(context.document());
+    const std::optional<MeasuredSpan> span = co_await askSpan(context);
+    if (!span)
+        co_return;
+    const Vec2 along = span->second.xy() - span->first.xy();
+    if (along == Vec2{}) {
+        context.fail(u"The two points are one."_s);
+        co_return;
+    }
+    DimensionAnswers answers;
+    const LineQuestion question{u"Specify dimension line location or [Mtext/Text/Angle]: "_s,
+                                plane.worldFromUser(span->second), context.shownLength(along.length())};
+    const PromptReply place = co_await askDimensionLine(context, question, answers);
+    const Vec2 at = plane.userFromWorld(place.point).xy();
+    createDimension(context, linearFields(plane, *span, std::atan2(along.y, along.x), at, 1), answers);
+}
+
+/// Whether an ordinate is measured along x, by where its leader goes.
+bool isOrdinateX(Vec2 leader)
+{
+    return std::abs(leader.y) > std::abs(leader.x);
+}
+
+// The feature, then where its leader ends; which ordinate it is follows from that, or from an option.
+CommandTask ordinateDimension(CommandContext &context)
+{
+    constexpr int ordinateKind = 6;
+    constexpr int alongX = 64;
+    const UserPlane plane(context.document());
+    const PromptReply feature = co_await context.neededPoint(u"Specify feature location: "_s);
+    const Vec2 at = plane.userFromWorld(feature.point).xy();
+    std::optional<bool> isX;
+    DimensionAnswers answers;
+    PromptReply end;
+    for (;;) {
+        LineQuestion question{u"Specify leader endpoint or [Xdatum/Ydatum/Mtext/Text/Angle]: "_s, feature.point,
+                              context.shownLength(std::abs(isX.value_or(true) ? at.x : at.y))};
+        end = co_await askDimensionLine(context, question, answers);
+        if (end.hasValue())
+            break;
+        isX = end.isKeyword(u"Xdatum");
+    }
+    const Vec2 leader = plane.userFromWorld(end.point).xy() - at;
+    const int kind = ordinateKind | (isX.value_or(isOrdinateX(leader)) ? alongX : 0);
+    createDimension(
+        context,
+        {{0, u"DIMENSION"_s}, {10, plane.worldFromUser({})}, {70, qint64(kind)}, {13, feature.point}, {14, end.point}},
+        answers);
+}
+
+} // namespace
+
+std::vector<CommandRow> linearDimensionCommands()
+{
+    return {{"DIMALIGNED", alignedDimension, "Dimensions a distance along itself"},
+            {"DIMLINEAR", linearDimension, "Dimensions a distance along x, y or another direction"},
+            {"DIMORDINATE", ordinateDimension, "Dimensions the x or y coordinate of a point"}};
+}
+
+} // namespace host::kernel

@@ -1,0 +1,188 @@
+#include "host/commands/annotate/NewDimension.h"
+
+#include "host/drawing/annotation/DimensionBlock.h"
+#include "host/drawing/annotation/DimensionText.h"
+#include "host/drawing/annotation/DimensionVariables.h"
+#include "host/drawing/records/Blocks.h"
+#include "host/drawing/records/HeaderVariables.h"
+#include "host/drawing/records/Tables.h"
+#include "host/kernel/documents/Document.h"
+#include "host/kernel/variables/SystemVariables.h"
+#include "host/view/build/TextMeasure.h"
+
+using namespace Qt::StringLiterals;
+
+namespace host::kernel {
+
+using drawing::FieldList;
+using drawing::RecordId;
+using drawing::Vec2;
+
+namespace {
+
+constexpr qint64 pictureIsOwnFlag = 32;
+
+/// What does not depend on the kind of dimension.
+void addDimensionCommons(CommandContext &context, FieldList &fields, const DimensionAnswers &answers)
+{
+    const UserPlane plane(context.document());
+    const QString style = currentDimensionStyle(context);
+    drawing::Field *flags = drawing::findField(fields, 70);
+    flags->value = flags->integer() | pictureIsOwnFlag;
+    fields.push_back({3, style});
+    if (context.drawing().version() >= drawing::Version::R2000)
+        fields.push_back({71, qint64(5)});
+    if (!answers.text.isEmpty())
+        fields.push_back({1, answers.text});
+    if (answers.textAngle)
+        fields.push_back({53, plane.objectDegrees(*answers.textAngle)});
+    if (const double level = plainDegrees(-plane.objectDegrees(0.0)); level != 0.0)
+        fields.push_back({51, level});
+    fields = plane.placed(std::move(fields));
+    drawing::setOverrides(fields, drawing::currentOverrides(context.drawing(), style));
+}
+
+/// An entity of a picture as one of its own: what was as the dimension is as new entities are.
+FieldList freed(const FieldList &part)
+{
+    FieldList fields;
+    for (const drawing::Field &field : part) {
+        const bool isAsBlock = (field.code == 62 && field.integer() == 0) ||
+                               (field.code == 6 && field.text() == u"ByBlock") ||
+                               (field.code == 370 && field.integer() == -2);
+        if (!isAsBlock && field.code != 8)
+            fields.push_back(field);
+    }
+    return fields;
+}
+
+/// Leaves the entities of the picture in place of the dimension, without the measured points.
+void replaceByPicture(CommandContext &context, RecordId dimension)
+{
+    drawing::Drawing &drawing = context.drawing();
+    const RecordId block = drawing.blocks().find(drawing.tags(dimension).text(2));
+    std::vector<FieldList> parts;
+    for (const RecordId part : drawing.children(block))
+        if (!drawing.isType(part, "POINT"))
+            parts.push_back(freed(drawing.fields(part)));
+    drawing.setErased(dimension, true);
+    drawing.blocks().erase(block);
+    for (const FieldList &part : parts)
+        context.create(part);
+}
+
+/// The place that was given for a radius or diameter is where its line ends: the text stands above that end, or beside
+/// it.
+void placeBesideLine(CommandContext &context, RecordId dimension)
+{
+    drawing::Drawing &drawing = context.drawing();
+    const auto data = readDimension(drawing, dimension, drawing.tags(dimension));
+    const bool isRound =
+        data && (data->kind == drawing::DimensionKind::Radius || data->kind == drawing::DimensionKind::Diameter);
+    if (!isRound || !data->textAt)
+        return;
+    const drawing::DimensionStyle style = readDimensionStyle(drawing, drawing.tags(dimension));
+    const Vec2 size =
+        dimensionTextSize(context, style.textStyle)(dimensionText(*data, style), style.textHeight * style.scale);
+    const Vec2 middle =
+        data->kind == drawing::DimensionKind::Radius ? data->definition : (data->definition + data->third) * 0.5;
+    const Vec2 out = *data->textAt - middle;
+    const bool isInside = out.length() < (data->third - middle).length();
+    const bool isLevel = isInside ? style.isLevelInside : style.isLevelOutside;
+    const double turn = isLevel ? data->horizontal : std::atan2(out.y, out.x);
+    Vec2 along{std::cos(turn), std::sin(turn)};
+    if (isLevel && dot(out, along) < 0.0)
+        along = along * -1.0;
+    const bool isReadLeft = along.x < -1e-9 || (std::abs(along.x) <= 1e-9 && along.y < 0.0);
+    const double gap = std::abs(style.gap) * style.scale;
+    Vec2 at = *data->textAt;
+    if (isLevel)
+        at = at + along * (style.arrowSize * style.scale + gap + size.x / 2.0);
+    if (style.textPlace != 0)
+        at = at + turnedLeft(along) * ((isReadLeft ? -1.0 : 1.0) * (gap + size.y / 2.0));
+    FieldList fields = drawing.fields(dimension);
+    drawing::Field *text = drawing::findField(fields, 11);
+    text->value = drawing::Vec3{at.x, at.y, text->point().z};
+    drawing.setFields(dimension, fields);
+}
+
+} // namespace
+
+double plainDegrees(double degrees)
+{
+    const double rest = std::fmod(degrees, 360.0);
+    const double positive = rest < 0.0 ? rest + 360.0 : rest;
+    return positive < 1e-9 || positive > 360.0 - 1e-9 ? 0.0 : positive;
+}
+
+QString currentDimensionStyle(CommandContext &context)
+{
+    drawing::Tables &tables = context.drawing().tables();
+    const QString name = context.drawing().header().text(u"$DIMSTYLE", u"Standard"_s);
+    const RecordId style = tables.find(drawing::TableKind::DimStyle, name);
+    return tables.name(isValid(style) ? style : tables.add(drawing::TableKind::DimStyle, u"Standard"_s));
+}
+
+bool isDimension(const drawing::Drawing &drawing, RecordId entity)
+{
+    return drawing.isAlive(entity) && drawing.typeName(entity).endsWith("DIMENSION");
+}
+
+drawing::TextSize dimensionTextSize(CommandContext &context, const QString &textStyle)
+{
+    view::TextMeasure &measure = context.document().textMeasure();
+    const RecordId style = context.drawing().tables().find(drawing::TableKind::Style, textStyle);
+    const QString name = isValid(style) ? textStyle : u"Standard"_s;
+    return [&measure, name](const QString &content, double height) -> Vec2 {
+        const auto size =
+            measure.paragraphSize({{0, u"MTEXT"_s}, {40, height}, {41, 0.0}, {71, qint64(5)}, {1, content}, {7, name}});
+        return {size.x, size.y};
+    };
+}
+
+Dialogue<PromptReply> askDimensionLine(CommandContext &context, LineQuestion question, DimensionAnswers &answers)
+{
+    for (;;) {
+        const PromptReply place = co_await context.neededPoint(question.prompt, question.base);
+        if (place.isKeyword(u"Mtext") || place.isKeyword(u"Text")) {
+            const PromptReply text =
+                co_await context.text(u"Enter dimension text <%1>: "_s.arg(question.measured), question.measured);
+            answers.text = text.hasValue() ? text.text : QString();
+        } else if (place.isKeyword(u"Angle")) {
+            const PromptReply angle = co_await context.orientation(u"Specify angle of dimension text: "_s);
+            answers.textAngle = angle.hasValue() ? std::optional(angle.real) : std::nullopt;
+        } else {
+            co_return place;
+        }
+    }
+}
+
+void redrawDimension(CommandContext &context, RecordId dimension, bool movesTextHome)
+{
+    drawing::Drawing &drawing = context.drawing();
+    const drawing::DimensionStyle style = readDimensionStyle(drawing, drawing.tags(dimension));
+    drawDimension(drawing, dimension, dimensionTextSize(context, style.textStyle),
+                  movesTextHome ? drawing::TextPlace::ByStyle : drawing::TextPlace::AsNoted);
+}
+
+RecordId createDimension(CommandContext &context, FieldList fields, const DimensionAnswers &answers)
+{
+    addDimensionCommons(context, fields, answers);
+    const RecordId made = context.create(fields);
+    if (!isValid(made))
+        return made;
+    placeBesideLine(context, made);
+    redrawDimension(context, made);
+    drawing::Drawing &drawing = context.drawing();
+    if (const auto data = readDimension(drawing, made, drawing.tags(made))) {
+        drawing::DimensionData measured = *data;
+        measured.text.clear();
+        context.print(u"\nDimension text = "_s +
+                      drawing::dimensionText(measured, readDimensionStyle(drawing, drawing.tags(made))));
+    }
+    if (context.document().variables().integer(u"DIMASSOC", 2) == 0)
+        replaceByPicture(context, made);
+    return made;
+}
+
+} // namespace host::kernel
