@@ -73,8 +73,7 @@ static Value sortStrings(Arguments &args)
 }
 
 static constexpr NativeRow sortRows[] = {
-    {"vl-sort", sort, Arity::exactly(2), "list less",
-     "a list sorted by a function; equal ones stay in their order"},
+    {"vl-sort", sort, Arity::exactly(2), "list less", "a list sorted by a function; equal ones stay in their order"},
     {"vl-sort-i", sortIndices, Arity::exactly(2), "list less", "the indices of the elements in sorted order"},
     {"acad_strlsort", sortStrings, Arity::exactly(1), "strings", "strings in alphabetical order"},
 };
