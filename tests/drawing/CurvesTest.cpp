@@ -1,4 +1,4 @@
-#include "host/drawing/curves/EntityCurve.h"
+#include "host/drawing/curves/Crossings.h"
 #include "tests/drawing/DrawingSample.h"
 
 #include <numbers>
@@ -162,6 +162,110 @@ TEST(EntityCurve, TellsWhatItIs)
                          "0 SPLINE\n71 3\n10 0\n20 0\n10 1\n20 0\n0 CIRCLE\n10 0\n20 0\n40 0");
     for (const RecordId entity : drawing->entities().inSpace(Space::Model))
         EXPECT_FALSE(EntityCurve::ofEntity(*drawing, entity)) << drawing->typeName(entity).toByteArray().toStdString();
+}
+
+EntityCurve segmentCurve(double x1, double y1, double x2, double y2)
+{
+    return EntityCurve::line({x1, y1, 0}, {x2, y2, 0});
+}
+
+/// Two curves and the points that they share.
+struct CrossingRow
+{
+    const char *name;
+    EntityCurve first;
+    EntityCurve second;
+    std::vector<Vec3> points; ///< along the first one
+};
+
+TEST(Crossings, AreThoseOfGeometry)
+{
+    const EntityCurve circle = curveOf("0 CIRCLE\n10 0\n20 0\n40 5");
+    const EntityCurve ellipse =
+        curveOf("0 ELLIPSE\n10 0\n20 0\n30 0\n11 4\n21 0\n31 0\n40 0.5\n41 0\n42 6.283185307179586");
+    const EntityCurve arc = curveOf("0 ARC\n10 0\n20 0\n40 5\n50 0\n51 90");
+    const EntityCurve square = curveOf("0 LWPOLYLINE\n90 4\n70 1\n10 0\n20 0\n10 4\n20 0\n10 4\n20 4\n10 0\n20 4");
+    const EntityCurve cubic = curveOf("0 SPLINE\n71 3\n72 8\n73 4\n40 0\n40 0\n40 0\n40 0\n40 1\n40 1\n40 1\n40 1\n"
+                                      "10 0\n20 0\n30 0\n10 0\n20 4\n30 0\n10 4\n20 -4\n30 0\n10 4\n20 0\n30 0");
+    const double y = std::sqrt(25.0 - 9.0);
+    const CrossingRow rows[] = {
+        {"lines", segmentCurve(0, 0, 4, 4), segmentCurve(0, 4, 4, 0), {{2, 2, 0}}},
+        {"lines at an end", segmentCurve(0, 0, 4, 4), segmentCurve(4, 4, 9, 1), {{4, 4, 0}}},
+        {"lines too short", segmentCurve(0, 0, 1, 1), segmentCurve(0, 4, 4, 0), {}},
+        {"extended", segmentCurve(0, 0, 1, 1).extended(Extension::End), segmentCurve(0, 4, 4, 0), {{2, 2, 0}}},
+        {"extended at the wrong end",
+         segmentCurve(0, 0, 1, 1).extended(Extension::Start),
+         segmentCurve(0, 4, 4, 0),
+         {}},
+        {"one behind the other", segmentCurve(0, 0, 4, 0), segmentCurve(4, 0, 9, 0), {{4, 0, 0}}},
+        {"one upon the other", segmentCurve(0, 0, 4, 0), segmentCurve(2, 0, 9, 0), {}},
+        {"lines above each other", segmentCurve(0, 0, 4, 4), EntityCurve::line({0, 4, 1}, {4, 0, 1}), {}},
+        {"circle", segmentCurve(3, -9, 3, 9), circle, {{3, -y, 0}, {3, y, 0}}},
+        {"tangent", segmentCurve(-9, 5, 9, 5), circle, {{0, 5, 0}}},
+        {"through a circle's plane", EntityCurve::line({3, 4, -1}, {3, 4, 1}), circle, {{3, 4, 0}}},
+        {"arc", segmentCurve(3, -9, 3, 9), arc, {{3, y, 0}}},
+        {"whole turn of an arc", segmentCurve(3, -9, 3, 9), arc.extended(Extension::End), {{3, -y, 0}, {3, y, 0}}},
+        {"circles", circle, curveOf("0 CIRCLE\n10 6\n20 0\n40 5"), {{3, 4, 0}, {3, -4, 0}}},
+        {"circles that touch", circle, curveOf("0 CIRCLE\n10 8\n20 0\n40 3"), {{5, 0, 0}}},
+        {"circle within another", circle, curveOf("0 CIRCLE\n10 1\n20 0\n40 2"), {}},
+        {"the same circle", circle, circle, {}},
+        {"circles of two planes",
+         circle,
+         curveOf("0 CIRCLE\n10 0\n20 0\n40 5\n210 1\n220 0\n230 0"),
+         {{0, 5, 0}, {0, -5, 0}}},
+        {"ellipse", segmentCurve(-9, 0, 9, 0), ellipse, {{-4, 0, 0}, {4, 0, 0}}},
+        {"ellipse touched", segmentCurve(-9, 2, 9, 2), ellipse, {{0, 2, 0}}},
+        {"ellipse and circle",
+         curveOf("0 CIRCLE\n10 0\n20 0\n40 3"),
+         ellipse,
+         {{std::sqrt(20.0 / 3.0), std::sqrt(7.0 / 3.0), 0},
+          {-std::sqrt(20.0 / 3.0), std::sqrt(7.0 / 3.0), 0},
+          {-std::sqrt(20.0 / 3.0), -std::sqrt(7.0 / 3.0), 0},
+          {std::sqrt(20.0 / 3.0), -std::sqrt(7.0 / 3.0), 0}}},
+        {"ellipse and circle that touch", curveOf("0 CIRCLE\n10 0\n20 0\n40 2"), ellipse, {{0, 2, 0}, {0, -2, 0}}},
+        {"through a corner", segmentCurve(-1, -1, 9, 9), square, {{0, 0, 0}, {4, 4, 0}}},
+        {"a corner of itself", square, segmentCurve(-1, 1, 1, -1), {{0, 0, 0}}},
+        {"spline", segmentCurve(-1, 0, 9, 0), cubic, {{0, 0, 0}, {2, 0, 0}, {4, 0, 0}}},
+        {"spline and its like",
+         cubic,
+         cubic.transformed(Matrix::mirror({0, 0, 0}, {1, 0, 0})),
+         {{0, 0, 0}, {2, 0, 0}, {4, 0, 0}}},
+        {"the same spline", cubic, cubic, {}},
+        {"endless line and spline", curveOf("0 XLINE\n10 2\n20 900\n30 0\n11 0\n21 1\n31 0"), cubic, {{2, 0, 0}}},
+    };
+    for (const CrossingRow &row : rows) {
+        SCOPED_TRACE(row.name);
+        const std::vector<CurveCrossing> found = crossings(row.first, row.second);
+        EXPECT_EQ(found.size(), row.points.size());
+        for (size_t i = 0; i < std::min(found.size(), row.points.size()); ++i) {
+            EXPECT_LE((found[i].point - row.points[i]).length(), 2e-6) << testing::PrintToString(found[i].point);
+            EXPECT_LE((row.second.point(found[i].second) - row.points[i]).length(), 2e-6);
+        }
+    }
+}
+
+TEST(Crossings, OfManyCurvesCostLittle)
+{
+    // A comb: 20,000 short lines across a zigzag of as many pieces.
+    std::vector<EntityCurve> teeth;
+    std::vector<Vec3> zigzag;
+    for (int i = 0; i < 20000; ++i) {
+        teeth.push_back(segmentCurve(i + 0.5, -1, i + 0.5, 2));
+        zigzag.push_back({static_cast<double>(i), static_cast<double>(i % 2), 0});
+    }
+    const EntityCurve curve = EntityCurve::through(zigzag);
+    EXPECT_EQ(CurveCrosser(std::move(teeth)).crossings(curve).size(), 19999U);
+    EXPECT_TRUE(selfCrossings(curve).empty());
+}
+
+TEST(Crossings, OfACurveWithItself)
+{
+    EXPECT_TRUE(selfCrossings(curveOf("0 CIRCLE\n10 0\n20 0\n40 5")).empty());
+    const EntityCurve bow = EntityCurve::through({{0, 0, 0}, {4, 4, 0}, {4, 0, 0}, {0, 4, 0}}, true);
+    const std::vector<CurveCrossing> found = selfCrossings(bow);
+    ASSERT_EQ(found.size(), 1U);
+    EXPECT_DOUBLE_EQ(found.front().first, 0.5);
+    EXPECT_DOUBLE_EQ(found.front().second, 2.5);
 }
 
 } // namespace

@@ -211,7 +211,9 @@ Path splinePath(const Spline &spline, const Flatness &flatness)
     if (!spline.isValid()) {
         const Spline fitted = fittedSpline(spline.fitPoints, spline.isClosed);
         // Points that are one still show where they are.
-        return fitted.isValid() ? splinePath(fitted, flatness) : spline.fitPoints;
+        if (fitted.isValid())
+            return splinePath(fitted, flatness);
+        return spline.fitPoints.size() >= 2 ? spline.fitPoints : Path();
     }
     Path path{spline.point(spline.firstParameter())};
     CurveSampler sampler(spline, flatness, path);
