@@ -20,7 +20,8 @@ TEST_P(CommandFuzz, UndoGivesBackTheBytes)
     std::minstd_rand random(GetParam());
     const QStringList commands =
         QStringLiteral("CIRCLE|TEXT|PLINE|LINE|MOVE|COPY|ROTATE|SCALE|ERASE|ZOOM|-INSERT|-LAYER|-PURGE|-XREF|DRAWORDER|"
-                       "ARC|ELLIPSE|SPLINE|XLINE|RAY|RECTANG|POLYGON|DONUT|3DPOLY|SOLID|TRACE|3DFACE|REVCLOUD|MLINE")
+                       "ARC|ELLIPSE|SPLINE|XLINE|RAY|RECTANG|POLYGON|DONUT|3DPOLY|SOLID|TRACE|3DFACE|REVCLOUD|MLINE|-"
+                       "MTEXT|-STYLE|TXT2MTXT|DDEDIT")
             .split(u'|');
     const QStringList answers =
         QStringLiteral(

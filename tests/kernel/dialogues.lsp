@@ -54,3 +54,4 @@
 (defun types-from (e / r) (while e (setq r (cons (cdr (assoc 0 (entget e))) r) e (entnext e))) (reverse r))
 (defun types () (types-from (entnext)))
 (defun picture () (types-from (cdr (assoc -2 (tblsearch "BLOCK" (cdr (assoc 2 (entget (entlast)))))))))
+(defun style (n) (mapcar '(lambda (c) (cdr (assoc c (tblsearch "STYLE" n)))) '(70 40 41 50 71 3 4)))

@@ -71,6 +71,14 @@ const Justification *justificationOf(const QString &option)
     return nullptr;
 }
 
+const Justification *justificationOf(int horizontal, int vertical)
+{
+    for (const Justification &row : justifications)
+        if (row.horizontal == horizontal && row.vertical == vertical)
+            return &row;
+    return nullptr;
+}
+
 QString justificationOptions()
 {
     QStringList options;

@@ -30,6 +30,8 @@ struct Justification
 const Justification &leftJustification();
 /// The one that the option names; null for none.
 const Justification *justificationOf(const QString &option);
+/// The one with these groups 72 and 73; null for none.
+const Justification *justificationOf(int horizontal, int vertical);
 /// All options with a blank between, for prompts that take them without listing them.
 QString justificationOptions();
 

@@ -1,9 +1,10 @@
 #include "host/commands/Commands.h"
 #include "host/commands/annotate/Justification.h"
+#include "host/commands/annotate/TextStyles.h"
 #include "host/commands/common/UserPlane.h"
+#include "host/drawing/math/Angles.h"
 #include "host/drawing/records/Symbols.h"
-#include "host/drawing/records/Tables.h"
-#include "host/drawing/selection/Wildcard.h"
+#include "host/kernel/documents/CurrentSpace.h"
 #include "host/kernel/documents/Document.h"
 #include "host/kernel/running/CommandContext.h"
 #include "host/kernel/variables/SystemVariables.h"
@@ -18,9 +19,11 @@ namespace host::kernel {
 namespace {
 
 using drawing::FieldList;
-using drawing::TableKind;
 using drawing::TextStyle;
 using drawing::Vec3;
+
+/// Lines of text that go on below each other are so many heights apart.
+constexpr double lineStep = 5.0 / 3.0;
 
 /// Where a text stands and how; points are in world coordinates, the angle is the user's.
 struct TextPlace
@@ -29,46 +32,35 @@ struct TextPlace
     Vec3 first;
     Vec3 second; ///< of a stretched text
     double height = 0.0;
-    double angle = 0.0; ///< radians
+    double angle = 0.0;   ///< radians
+    bool isBelow = false; ///< goes on from the text before, with its height and angle
 };
 
-TextStyle currentStyle(CommandContext &context)
+/// A line below the text that was written last, and like it. Nothing when there is none, or when it is stretched.
+/// Looks at every entity.
+std::optional<TextPlace> placeBelowLast(CommandContext &context)
 {
-    const QString name = context.document().variables().text(u"TEXTSTYLE");
-    TextStyle style = drawing::findTextStyle(context.drawing(), name).value_or(TextStyle());
-    style.name = name;
-    return style;
-}
-
-void listStyles(CommandContext &context, const QString &pattern)
-{
-    for (const drawing::RecordId entry : context.drawing().tables().entries(TableKind::Style)) {
-        const TextStyle style = drawing::readTextStyle(context.drawing(), entry);
-        if (!style.isShapeFile && drawing::matchesWildcard(style.name, pattern))
-            context.print(u"\nStyle name: \"%1\"  Font files: %2  Height: %3  Width factor: %4"_s.arg(
-                style.name, style.fontFile, context.shownLength(style.fixedHeight),
-                context.shownLength(style.widthFactor)));
-    }
-}
-
-/// Asks for the style that is current from here on. False when the drawing has none of the name.
-Dialogue<bool> askStyle(CommandContext &context)
-{
-    for (;;) {
-        const QString current = context.document().variables().text(u"TEXTSTYLE");
-        const PromptReply name =
-            co_await context.text(u"Enter style name or [?] <%1>: "_s.arg(current), current, u"?"_s);
-        if (name.isKeyword(u"?")) {
-            const PromptReply pattern = co_await context.text(u"Enter text style(s) to list <*>: "_s, u"*"_s);
-            listStyles(context, pattern.hasValue() ? pattern.text.trimmed() : u"*"_s);
-            continue;
-        }
-        const QString wanted = name.hasValue() ? name.text.trimmed() : current;
-        const bool isKnown = context.document().variables().set(u"TEXTSTYLE", wanted) == SetOutcome::Done;
-        if (!isKnown)
-            context.fail(u"Cannot find text style \"%1\"."_s.arg(wanted));
-        co_return isKnown;
-    }
+    const std::vector<drawing::RecordId> entities = currentEntities(context.drawing());
+    const auto isText = [&](drawing::RecordId id) { return context.drawing().isType(id, "TEXT"); };
+    const auto last = std::find_if(entities.rbegin(), entities.rend(), isText);
+    if (last == entities.rend())
+        return {};
+    const drawing::TagList tags = context.drawing().tags(*last);
+    TextPlace place;
+    place.justification = justificationOf(int(tags.integer(72)), int(tags.integer(73)));
+    if (!place.justification || place.justification->isStretched())
+        return {};
+    const drawing::Matrix object = drawing::Matrix::fromExtrusion(tags.point(210, {0.0, 0.0, 1.0}));
+    const double turn = tags.real(50) * drawing::radians;
+    place.height = tags.real(40);
+    const Vec3 down = Vec3{std::sin(turn), -std::cos(turn), 0.0} * (place.height * lineStep);
+    place.first = object.point(tags.point(place.justification->isLeft() ? 10 : 11) + down);
+    const UserPlane plane(context.document());
+    const Vec3 along = plane.userFromWorld(place.first + object.direction({std::cos(turn), std::sin(turn), 0.0})) -
+                       plane.userFromWorld(place.first);
+    place.angle = std::atan2(along.y, along.x);
+    place.isBelow = true;
+    return place;
 }
 
 /// Asks where the text starts, with its justification and style. Nothing when the dialogue ended there.
@@ -78,9 +70,15 @@ Dialogue<std::optional<TextPlace>> askStart(CommandContext &context)
     const QString options = u"Justify Style "_s + justificationOptions();
     PromptReply start;
     for (;;) {
-        start = co_await context.neededPoint(u"Specify start point of text or [Justify/Style]: "_s, {}, options);
+        start = co_await context.point(u"Specify start point of text or [Justify/Style]: "_s, options);
+        if (start.isEmpty()) {
+            std::optional<TextPlace> below = placeBelowLast(context);
+            if (!below)
+                context.fail(u"There is no text to go on below."_s);
+            co_return below;
+        }
         if (start.isKeyword(u"Style")) {
-            if (!co_await askStyle(context))
+            if (!co_await askTextStyle(context))
                 co_return std::nullopt;
             continue;
         }
@@ -108,7 +106,7 @@ Dialogue<std::optional<TextPlace>> askStart(CommandContext &context)
 Dialogue<TextPlace> askSize(CommandContext &context, TextPlace place)
 {
     const SystemVariables &variables = context.document().variables();
-    const double fixed = currentStyle(context).fixedHeight;
+    const double fixed = currentTextStyle(context).fixedHeight;
     place.height = fixed > 0.0 ? fixed : variables.real(u"TEXTSIZE");
     if (!place.justification->isAligned() && !(fixed > 0.0)) {
         const QString usual = context.shownLength(place.height);
@@ -127,7 +125,7 @@ Dialogue<TextPlace> askSize(CommandContext &context, TextPlace place)
 void createText(CommandContext &context, const TextPlace &place, const QString &content)
 {
     const UserPlane plane(context.document());
-    const TextStyle style = currentStyle(context);
+    const TextStyle style = currentTextStyle(context);
     const Vec3 first = plane.objectFromWorld(place.first);
     Vec3 second = plane.objectFromWorld(place.second);
     second.z = first.z;
@@ -156,7 +154,9 @@ CommandTask text(CommandContext &context)
     const std::optional<TextPlace> start = co_await askStart(context);
     if (!start)
         co_return;
-    const TextPlace place = co_await askSize(context, *start);
+    TextPlace place = *start;
+    if (!place.isBelow)
+        place = co_await askSize(context, place);
     const PromptReply content = co_await context.text(u"Enter text: "_s);
     if (!content.hasValue() || content.text.isEmpty())
         co_return;
@@ -169,7 +169,9 @@ CommandTask text(CommandContext &context)
 
 std::vector<CommandRow> textCommands()
 {
-    return {{"TEXT", text, "Writes one line of text"}, {"-TEXT", text, "Writes one line of text"}};
+    return {{"-TEXT", text, "Writes one line of text"},
+            {"DTEXT", text, "Writes one line of text"},
+            {"TEXT", text, "Writes one line of text"}};
 }
 
 } // namespace host::kernel

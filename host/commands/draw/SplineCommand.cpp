@@ -1,8 +1,9 @@
 #include "host/commands/Commands.h"
 #include "host/commands/common/EntityEdits.h"
 #include "host/commands/common/KeptValues.h"
+#include "host/commands/draw/ControlSpline.h"
 #include "host/commands/draw/CurveEntity.h"
-#include "host/commands/draw/SplineFit.h"
+#include "host/drawing/math/SplineEdit.h"
 #include "host/drawing/records/PolylineFlags.h"
 #include "host/kernel/documents/Document.h"
 
@@ -13,6 +14,7 @@ namespace host::kernel {
 namespace {
 
 using drawing::FieldList;
+using drawing::FitSpacing;
 using drawing::RecordId;
 using drawing::Spline;
 using drawing::Vec3;
@@ -43,6 +45,16 @@ std::optional<Vec3> commonNormal(const std::vector<Vec3> &points)
     return normal.z < 0.0 ? normal * -1.0 : normal;
 }
 
+/// What a smooth curve is to pass, and how. Tangents have length 1; a closed curve has one, at its seam.
+struct SplineFit
+{
+    std::vector<Vec3> points;
+    bool isClosed = false;
+    FitSpacing spacing = FitSpacing::Chord;
+    std::optional<Vec3> startTangent{};
+    std::optional<Vec3> endTangent{};
+};
+
 /// The record of a spline. Tangents are written where they were given.
 FieldList splineFields(const Spline &spline, const SplineFit *fit, double tolerance)
 {
@@ -64,9 +76,9 @@ FieldList splineFields(const Spline &spline, const SplineFit *fit, double tolera
     if (fit)
         fields.push_back({44, std::max(tolerance, 1e-10)});
     if (fit && fit->startTangent)
-        fields.push_back({12, drawing::normalized(*fit->startTangent)});
+        fields.push_back({12, *fit->startTangent});
     if (fit && fit->endTangent)
-        fields.push_back({13, drawing::normalized(*fit->endTangent)});
+        fields.push_back({13, *fit->endTangent});
     for (const double knot : spline.knots)
         fields.push_back({40, knot});
     for (const Vec3 &point : spline.controlPoints)
@@ -87,9 +99,9 @@ struct SplineDraft
     bool hasAskedEnd = false;
 };
 
-KnotSpacing spacingNamed(const QString &name)
+FitSpacing spacingNamed(const QString &name)
 {
-    return name == u"Uniform" ? KnotSpacing::Uniform : name == u"Square" ? KnotSpacing::SquareRoot : KnotSpacing::Chord;
+    return name == u"Uniform" ? FitSpacing::Uniform : name == u"Square" ? FitSpacing::SquareRoot : FitSpacing::Chord;
 }
 
 /// The curve that a polyline with the smoothing of splines shows; nothing for another.
@@ -177,7 +189,7 @@ Dialogue<std::optional<Vec3>> askTangent(CommandContext &context, const QString 
 {
     const PromptReply reply = co_await context.point(prompt, {}, base);
     const bool isDirection = reply.hasValue() && (reply.point - base).length() > 0.0;
-    co_return isDirection ? std::optional(reply.point - base) : std::nullopt;
+    co_return isDirection ? std::optional(drawing::normalized(reply.point - base)) : std::nullopt;
 }
 
 /// What is asked behind each point. False when there are enough of them.
@@ -234,6 +246,18 @@ Dialogue<bool> askTangents(CommandContext &context, SplineDraft &draft)
     co_return true;
 }
 
+Spline splineThrough(const SplineFit &fit)
+{
+    std::vector<Vec3> points = fit.points;
+    const bool hasSeam = fit.isClosed && fit.startTangent;
+    if (fit.isClosed)
+        points.push_back(points.front());
+    Spline spline = drawing::fittedSpline(points, fit.isClosed && !hasSeam, fit.startTangent,
+                                          hasSeam ? fit.startTangent : fit.endTangent, fit.spacing);
+    spline.isClosed = fit.isClosed;
+    return spline;
+}
+
 void createSpline(CommandContext &context, SplineDraft draft)
 {
     std::vector<Vec3> &points = draft.fit.points;
@@ -252,7 +276,7 @@ CommandTask spline(CommandContext &context)
     SplineDraft draft;
     draft.isFit = variables.integer(u"SPLMETHOD") == 0;
     draft.degree = std::clamp(variables.integer(u"SPLDEGREE", 3), 1, 10);
-    draft.fit.spacing = static_cast<KnotSpacing>(std::clamp(variables.integer(u"SPLKNOTS"), 0, 2));
+    draft.fit.spacing = static_cast<FitSpacing>(std::clamp(variables.integer(u"SPLKNOTS"), 0, 2));
     const std::optional<Vec3> first = co_await askFirst(context, draft);
     if (!first)
         co_return;

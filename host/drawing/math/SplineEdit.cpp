@@ -64,15 +64,22 @@ double inLongestStretch(const std::vector<double> &knots, size_t first, size_t l
 /// Points with the parameters at which a curve passes them.
 struct PassedPoints
 {
-    std::vector<Vec3> points;
-    std::vector<double> at;
+    FitSpacing spacing = FitSpacing::Chord;
+    std::vector<Vec3> points{};
+    std::vector<double> at{};
 
     double width(size_t i) const { return at[i + 1] - at[i]; }
     Vec3 slope(size_t i) const { return (points[i + 1] - points[i]) * (1.0 / width(i)); }
     void add(const Vec3 &point)
     {
-        at.push_back(at.empty() ? 0.0 : at.back() + (point - points.back()).length());
+        at.push_back(at.empty() ? 0.0 : at.back() + step((point - points.back()).length()));
         points.push_back(point);
+    }
+    double step(double chord) const
+    {
+        if (spacing == FitSpacing::Uniform)
+            return 1.0;
+        return spacing == FitSpacing::SquareRoot ? std::sqrt(chord) : chord;
     }
 };
 
@@ -86,7 +93,7 @@ std::vector<Vec3> steadySlopes(const PassedPoints &passed, const std::optional<V
     std::vector<Vec3> slopes(last + 1);
     // Elimination from the first row down ...
     above[0] = start ? 0.0 : 0.5;
-    slopes[0] = start ? *start : passed.slope(0) * 1.5;
+    slopes[0] = start ? *start * passed.slope(0).length() : passed.slope(0) * 1.5;
     for (size_t i = 1; i < last; ++i) {
         const double left = passed.width(i - 1);
         const double right = passed.width(i);
@@ -95,7 +102,8 @@ std::vector<Vec3> steadySlopes(const PassedPoints &passed, const std::optional<V
         above[i] = left / pivot;
         slopes[i] = (wanted - slopes[i - 1] * right) * (1.0 / pivot);
     }
-    slopes[last] = end ? *end : (passed.slope(last - 1) * 3.0 - slopes[last - 1]) * (1.0 / (2.0 - above[last - 1]));
+    slopes[last] = end ? *end * passed.slope(last - 1).length()
+                       : (passed.slope(last - 1) * 3.0 - slopes[last - 1]) * (1.0 / (2.0 - above[last - 1]));
     // ... and up again.
     for (size_t i = last; i > 0; --i)
         slopes[i - 1] = slopes[i - 1] - slopes[i] * above[i - 1];
@@ -108,7 +116,7 @@ std::vector<Vec3> steadySlopesAround(const PassedPoints &passed)
 {
     constexpr size_t enough = 40; // points, each of which lessens what the end does to a quarter
     const size_t count = passed.points.size() - 1;
-    PassedPoints around;
+    PassedPoints around{passed.spacing};
     const size_t first = count - enough % count;
     for (size_t i = 0; i <= count + 2 * enough; ++i)
         around.add(passed.points[(first + i) % count]);
@@ -215,12 +223,12 @@ Spline reversedSpline(const Spline &spline)
 }
 
 Spline fittedSpline(const std::vector<Vec3> &points, bool isClosed, const std::optional<Vec3> &startDirection,
-                    const std::optional<Vec3> &endDirection)
+                    const std::optional<Vec3> &endDirection, FitSpacing spacing)
 {
     Spline spline;
     spline.fitPoints = points;
     spline.isClosed = isClosed;
-    PassedPoints passed;
+    PassedPoints passed{spacing};
     for (const Vec3 &point : points) {
         if (passed.points.empty() || point != passed.points.back())
             passed.add(point);

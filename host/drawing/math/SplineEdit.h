@@ -31,11 +31,19 @@ Spline splineChain(const Spline &first, const Spline &second);
 /// The spline run the other way, over the same range of parameters.
 Spline reversedSpline(const Spline &spline);
 
-/// A cubic spline through points, with steady curvature and parameters in proportion to the chords. At its ends it
-/// has the directions that are given, and otherwise no curvature; a closed one goes on smoothly across its first point,
-/// which need not be there twice. Equal neighbours count once. Not valid for fewer than two different points.
-/// `fitPoints` holds the points.
+/// How the parameters of a curve are spaced at the points that it goes through.
+enum class FitSpacing
+{
+    Chord,      ///< in proportion to the chords
+    SquareRoot, ///< to their square roots
+    Uniform
+};
+
+/// A cubic spline through points, with steady curvature. At its ends it
+/// has the directions that are given, of length 1, and otherwise no curvature; a closed one goes on smoothly across its
+/// first point, which need not be there twice. Equal neighbours count once. Not valid for fewer than two different
+/// points. `fitPoints` holds the points.
 Spline fittedSpline(const std::vector<Vec3> &points, bool isClosed, const std::optional<Vec3> &startDirection = {},
-                    const std::optional<Vec3> &endDirection = {});
+                    const std::optional<Vec3> &endDirection = {}, FitSpacing spacing = FitSpacing::Chord);
 
 } // namespace host::drawing
