@@ -108,6 +108,7 @@ bool mayBeName(const Value &argument)
 bool runArguments(Arguments &args)
 {
     Document &document = documentOf(args);
+    document.prompts().refuseInDialog();
     for (std::size_t i = 0; i < args.size(); ++i) {
         bool isLost = false;
         if (document.pendingCommand())

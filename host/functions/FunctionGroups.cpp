@@ -15,6 +15,10 @@ void addNativeFunctions(lisp::Interpreter &interpreter)
     addVariableFunctions(interpreter);
     addCommandFunctions(interpreter);
     addDialogFunctions(interpreter);
+    addDialogFileFunctions(interpreter);
+    addDialogRunFunctions(interpreter);
+    addTileFunctions(interpreter);
+    addTileImageFunctions(interpreter);
     addCoordinateFunctions(interpreter);
     addSheetFunctions(interpreter);
     addTextFunctions(interpreter);

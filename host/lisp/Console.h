@@ -37,6 +37,10 @@ public:
     /// only now. A full disk that write-line or close meets is an error of theirs.
     virtual void tellLostText(std::string_view message) { write(message); }
 
+    /// An error that the program does not catch ends it. Comes before its `*error*`: the time to take from the screen
+    /// what only the program could go on with.
+    virtual void programFails() {}
+
     /// Called every Settings::pollInterval evaluations: the time to process events and to see whether the user wants
     /// to stop. May call into the interpreter.
     virtual PollAnswer poll() { return PollAnswer::Continue; }

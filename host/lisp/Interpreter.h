@@ -108,6 +108,9 @@ public:
         return m_isTyped && m_textDepth == 1 && !m_frame ? LoadedBy::Person : LoadedBy::Program;
     }
 
+    /// The source of the form under way: a file's path, or what run() was told; empty when it is unknown.
+    std::string sourceOfCall() const { return m_sources.place(m_location).file; }
+
     // Functions and variables.
 
     /// Makes `function` callable as `name`, in any mix of cases, in place of what the symbol held.

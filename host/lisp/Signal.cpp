@@ -62,8 +62,10 @@ void Interpreter::signal(Error &error, const NativeFunction *native)
         error.chain.clear();
     }
     const bool isCaught = m_catchDepth > 0 && error.kind() != ErrorKind::Interrupted;
-    if (!isCaught)
-        callErrorHandler(error);
+    if (isCaught)
+        return;
+    m_console.programFails();
+    callErrorHandler(error);
 }
 
 void Interpreter::fillPlace(Error &error, const NativeFunction *native) const

@@ -17,8 +17,8 @@ namespace {
 QPushButton *makeButton(const Tile &tile)
 {
     auto *button = new QPushButton(captionOf(tile));
-    button->setDefault(tile.flag(u"is_default"_s));
-    button->setAutoDefault(true);
+    // The dialog sees to Enter itself: what it would press by habit is no button that the file says.
+    button->setAutoDefault(false);
     return button;
 }
 

@@ -7,6 +7,7 @@
 #include "host/dcl/widgets/TileMetrics.h"
 
 #include <QBoxLayout>
+#include <QKeyEvent>
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollArea>
@@ -47,7 +48,8 @@ QWidget *fittedTo(const QSize &room, QWidget &contents)
 
 } // namespace
 
-DialogWindow::DialogWindow(const QString &name, const Tile &dialog, QWidget *parent) : QDialog(parent)
+DialogWindow::DialogWindow(const QString &name, const Tile &dialog, QWidget *parent)
+    : QDialog(parent), m_key(dialog.key())
 {
     setObjectName(name);
     setWindowTitle(dialog.text(dialog.has(u"value"_s) ? u"value"_s : u"label"_s));
@@ -60,6 +62,8 @@ DialogWindow::DialogWindow(const QString &name, const Tile &dialog, QWidget *par
     constexpr double share = 0.9;
     layout->addWidget(fittedTo((QSizeF(screen()->availableSize()) * share).toSize(), *contents));
     layout->setSizeConstraint(QLayout::SetFixedSize);
+    if (TileControl *button = firstWith(u"is_default"_s))
+        static_cast<QPushButton *>(button->field())->setDefault(true);
     ensurePolished();
     adjustSize();
     settleLayouts(*this);
@@ -129,6 +133,16 @@ void DialogWindow::reject()
         finish(Rejected);
     else if (button->widget()->isEnabled())
         static_cast<QPushButton *>(button->field())->click();
+}
+
+void DialogWindow::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter)
+        return QDialog::keyPressEvent(event);
+    if (auto *focused = qobject_cast<QPushButton *>(focusWidget()))
+        focused->click();
+    else
+        pressDefault();
 }
 
 void DialogWindow::pressDefault()

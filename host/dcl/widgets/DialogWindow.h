@@ -25,6 +25,8 @@ public:
 
     /// The tile of this key, in the case that it is written in; the first of several. Null when there is none.
     TileControl *tile(const QString &key) const { return m_byKey.value(key); }
+    /// The dialog's own key; empty when it has none.
+    const QString &dialogKey() const { return m_key; }
     /// The radio cluster that a radio button belongs to; null for other tiles.
     const TileControl *radioClusterOf(const TileControl &tile) const { return m_clusters.value(&tile); }
 
@@ -46,11 +48,15 @@ public:
 
     void add(TileControl &control, TileControl *radioCluster);
 
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+
 private:
     void tell(const TileControl &control, Reason reason, const QPoint &at);
     TileControl *firstWith(const QString &flag) const;
     void focusFirst(const QString &key);
 
+    QString m_key;
     QList<TileControl *> m_controls;
     QHash<QString, TileControl *> m_byKey;
     QHash<const TileControl *, TileControl *> m_clusters;

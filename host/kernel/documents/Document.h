@@ -135,6 +135,10 @@ public:
     void runAs(const QString &name, const std::function<void()> &body);
     /// A program or command is under way.
     bool isBusy() const { return m_runs > 0; }
+    /// A dialog that a Lisp program made is on the screen: until it is gone the program may neither ask nor run
+    /// commands, see UserInput::refuseInDialog().
+    bool isDialogOpen() const { return m_isDialogOpen; }
+    void setDialogOpen(bool open) { m_isDialogOpen = open; }
     /// Names of the commands under way as CMDNAMES has them: "LINE'ZOOM".
     QString commandNames() const { return m_commandNames.join(u'\''); }
 
@@ -248,6 +252,8 @@ signals:
     void impliedSelectionChanged();
     /// The path or the modified mark may be another now.
     void titleChanged();
+    /// A Lisp program ends with an error that it does not catch; its *error* has not been called yet.
+    void programFailed();
     /// A run ended: a good moment to update what depends on the drawing or on variables.
     void runEnded();
 
@@ -287,7 +293,8 @@ private:
     QStringList m_readableFiles;
     QSet<QString> m_unread; ///< what was told
     QString m_lastCommand;  ///< for an empty line
-    int m_runs = 0;         ///< under way, one inside the other
+    bool m_isDialogOpen = false;
+    int m_runs = 0; ///< under way, one inside the other
     ViewState m_view;
     std::vector<ViewState> m_earlierViews;   ///< oldest first
     QString m_shownLayout;                   ///< whose view m_view is

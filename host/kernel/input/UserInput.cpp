@@ -7,6 +7,7 @@
 #include "host/kernel/input/Units.h"
 #include "host/kernel/running/TransparentCall.h"
 #include "host/kernel/variables/SystemVariables.h"
+#include "host/lisp/Error.h"
 
 namespace host::kernel {
 
@@ -35,8 +36,15 @@ PromptReply refusedReply()
 
 } // namespace
 
+void UserInput::refuseInDialog() const
+{
+    if (m_document.isDialogOpen())
+        throw lisp::Error("function refused: a dialog is open");
+}
+
 PromptReply UserInput::ask(const PromptRequest &request)
 {
+    refuseInDialog();
     PromptDialogue dialogue(m_document, request);
     return ask(dialogue, request.endsWhenRefused ? WhenRefused::EndBeforeMore : WhenRefused::AskAgain);
 }
@@ -88,6 +96,7 @@ std::optional<InputAnswer> UserInput::takeGiven()
 
 InputAnswer UserInput::nextAnswer(const PromptRequest &request)
 {
+    refuseInDialog();
     if (const std::optional<InputAnswer> answer = takeGiven())
         return *answer;
     Session &session = m_document.session();

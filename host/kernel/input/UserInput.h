@@ -37,6 +37,8 @@ public:
     };
     /// The same for a prompt that may have been answered in part.
     PromptReply ask(PromptDialogue &dialogue, WhenRefused whenRefused);
+    /// Throws the dialect's error while a dialog of a Lisp program is on the screen: nobody could answer then.
+    void refuseInDialog() const;
     /// Forgets what was typed ahead, because it was meant for other questions than those that come now, and prints that
     /// it was. Nothing is printed when there is none.
     void dropTypedAhead();

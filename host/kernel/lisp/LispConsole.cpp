@@ -18,6 +18,11 @@ void LispConsole::tellLostText(std::string_view message)
     m_document.session().tellNotWritten(fromUtf8(message).trimmed());
 }
 
+void LispConsole::programFails()
+{
+    emit m_document.programFailed();
+}
+
 lisp::PollAnswer LispConsole::poll()
 {
     return m_document.session().isStopWanted() ? lisp::PollAnswer::Stop : lisp::PollAnswer::Continue;

@@ -16,6 +16,7 @@ public:
 
     void write(std::string_view text) override;
     void tellLostText(std::string_view message) override;
+    void programFails() override;
     lisp::PollAnswer poll() override;
     std::int64_t heapLimit() override;
     std::optional<std::string> readLine() override;

@@ -1,0 +1,4 @@
+good : dialog { ok_only; }
+bad : dialog {
+  : text { label = "x" }
+}
