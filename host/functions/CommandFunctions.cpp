@@ -103,12 +103,20 @@ bool mayBeName(const Value &argument)
     return argument.isString() || argument.isNil();
 }
 
-/// Runs the arguments; returns false when a name was no command. What is left over behind a command, because it asked
-/// for less or has ended at an answer that it does not take, is told.
-bool runArguments(Arguments &args)
+enum class Ending
+{
+    Done,          ///< or the command waits for more
+    NoSuchCommand, ///< a name was none
+    Failed         ///< a command did not take an answer, or said why it cannot
+};
+
+/// Runs the arguments. What is left over behind a command, because it asked for less or has ended at an answer that it
+/// does not take, is told.
+Ending runArguments(Arguments &args)
 {
     Document &document = documentOf(args);
     document.prompts().refuseInDialog();
+    Ending ending = Ending::Done;
     for (std::size_t i = 0; i < args.size(); ++i) {
         bool isLost = false;
         if (document.pendingCommand())
@@ -118,13 +126,14 @@ bool runArguments(Arguments &args)
         else if (!runNamed(args, i)) {
             if (i + 1 < args.size())
                 tellLeftOver(args, i + 1);
-            return false;
+            return Ending::NoSuchCommand;
         }
         dropWhenDone(document);
+        ending = isLost ? Ending::Failed : ending;
         if (isLost && i + 1 < args.size())
             tellLeftOver(args, std::exchange(i, args.size()) + 1);
     }
-    return true;
+    return ending;
 }
 
 // (command argument ...) -> nil. Starts a command, by its name or an alias, and answers its prompts: text,
@@ -141,19 +150,32 @@ Value command(Arguments &args)
     return {};
 }
 
-// (vl-cmdf argument ...) -> T, nil when a name was no command. As (command).
+// (vl-cmdf argument ...) -> T, nil when a name was no command or an answer was not taken. As (command).
 Value vlCmdf(Arguments &args)
 {
     if (args.size() == 0)
         documentOf(args).takePendingCommand();
-    return args.boolean(runArguments(args));
+    return args.boolean(runArguments(args) == Ending::Done);
 }
 
-// (command-s argument ...) -> nil. As (command), but the command must be complete: what is still asked is cancelled.
+// (command-s argument ...) -> nil. As (command), but the whole of one or more commands: the user is not asked. It is an
+// error when an argument is to be answered by the user, when a name is no command, and when a command fails or still
+// asks for something; that one is cancelled then.
 Value commandS(Arguments &args)
 {
-    runArguments(args);
-    documentOf(args).takePendingCommand();
+    Document &document = documentOf(args);
+    for (std::size_t i = 0; i < args.size(); ++i)
+        if (args[i].isString() && stringAt(args, i) == pauseText)
+            args.fail("the user cannot be asked here");
+    document.takePendingCommand();
+    const Ending ending = runArguments(args);
+    const bool isComplete = !document.takePendingCommand();
+    if (ending == Ending::NoSuchCommand)
+        args.fail("unknown command");
+    if (ending == Ending::Failed)
+        args.fail("the command has failed");
+    if (!isComplete)
+        args.fail("the command asks for more");
     return {};
 }
 

@@ -23,6 +23,7 @@ void addNativeFunctions(lisp::Interpreter &interpreter)
     addSheetFunctions(interpreter);
     addTextFunctions(interpreter);
     addExtentFunctions(interpreter);
+    addScreenFunctions(interpreter);
 }
 
 } // namespace host::kernel

@@ -24,5 +24,6 @@ void addCoordinateFunctions(lisp::Interpreter &interpreter);
 void addSheetFunctions(lisp::Interpreter &interpreter);
 void addTextFunctions(lisp::Interpreter &interpreter);
 void addExtentFunctions(lisp::Interpreter &interpreter);
+void addScreenFunctions(lisp::Interpreter &interpreter);
 
 } // namespace host::kernel

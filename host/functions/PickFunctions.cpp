@@ -101,12 +101,15 @@ Value nentselp(Arguments &args)
     return nestedList(args, reply, MatrixForm::FourByFour);
 }
 
-// (redraw [entity [mode]]) -> nil. Mode 3 highlights the entity, 4 ends that; the others have no visible effect.
+// (redraw [entity [mode]]) -> nil. Alone it takes away what programs have drawn for the moment. Mode 3 highlights the
+// entity, 4 ends that; 1 and 2, which show and hide it, have no visible effect.
 Value redraw(Arguments &args)
 {
-    if (!args.has(0))
-        return {};
     Document &document = documentOf(args);
+    if (!args.has(0)) {
+        document.clearSketch();
+        return {};
+    }
     const RecordId entity = recordAt(args, 0);
     const int mode = std::abs(args.integerOr(1, 1));
     std::vector<RecordId> shown = document.highlighted();

@@ -1,4 +1,5 @@
 #include "host/drawing/records/Entities.h"
+#include "host/kernel/documents/ScreenSketch.h"
 #include "host/kernel/input/UserInput.h"
 #include "host/kernel/variables/SystemVariables.h"
 #include "tests/kernel/Bench.h"
@@ -47,6 +48,42 @@ TEST_F(Bench, picksSelect)
     document().runCommand(QStringLiteral("ERASE"));
     EXPECT_EQ(lisp("(types (ssget \"X\"))"), "(\"LINE\" \"LINE\" \"LINE\")") << "what is chosen is not asked for";
     EXPECT_TRUE(document().impliedSelection().empty());
+}
+
+TEST_F(Bench, pointerAndPressesAreEvents)
+{
+    lisp("(setvar \"UCSORG\" '(1 0 0))");
+    session.input().push(PointerAnswer{{3.0, 4.0, 0.0}});
+    session.input().push(PointAnswer{{5.0, 6.0, 0.0}});
+    session.input().push(PointerAnswer{{7.0, 8.0, 0.0}, true});
+    session.input().push(KeyAnswer{65});
+    session.input().push(TextAnswer{QStringLiteral("ok")});
+    session.input().push(TextAnswer{});
+    session.input().push(CancelAnswer{});
+    session.input().push(CancelAnswer{});
+    EXPECT_EQ(lisp("(list (grread T) (grread) (grread) (grread) (grread) (grread) (grread) (grread T 12))"),
+              "((5 (3.0 4.0 0.0)) (3 (5.0 6.0 0.0)) (25 (7.0 8.0 0.0)) (2 65) (2 111) (2 107) (2 13) (2 27))");
+    EXPECT_EQ(lisp("(grread)"), "error: Function cancelled in (GREAD)");
+    EXPECT_TRUE(session.input().isEmpty());
+}
+
+TEST_F(Bench, linesDrawnForTheMomentGoWithARedraw)
+{
+    const auto lines = [this] { return document().sketch().lines(); };
+    lisp("(grdraw '(0 0) '(1 2) 3 1)(grvecs '(5 (0 0) (1 0) 256 (2 0) (3 0) -4 (0 1) (0 2))"
+         " '((2 0 0 1) (0 2 0 0) (0 0 2 0) (0 0 0 1)))");
+    const std::vector<ScreenSketch::Line> drawn = {{{}, {1.0, 2.0, 0.0}, 3, true},
+                                                   {{1.0, 0.0, 0.0}, {3.0, 0.0, 0.0}, 5, false},
+                                                   {{5.0, 0.0, 0.0}, {7.0, 0.0, 0.0}, ScreenSketch::inverted, false},
+                                                   {{1.0, 2.0, 0.0}, {1.0, 4.0, 0.0}, 4, true}};
+    EXPECT_EQ(lines(), drawn);
+    lisp("(grdraw '(5 0) '(7 0) -1)");
+    EXPECT_EQ(lines().size(), 3U) << "the second time takes it away";
+    lisp("(redraw)");
+    EXPECT_TRUE(lines().empty());
+    lisp("(grdraw '(0 0) '(1 2) 3)(command \"REDRAW\")");
+    EXPECT_TRUE(lines().empty());
+    EXPECT_FALSE(document().isModified());
 }
 
 /// Pushes its answers one by one when asked.

@@ -27,6 +27,7 @@ constexpr VerbRow verbRows[] = {
     {"answer", Verb::Answer, VerbKind::Answer, "t"},
     {"point", Verb::Point, VerbKind::Answer, "p"},
     {"pick", Verb::Pick, VerbKind::Answer, "p"},
+    {"hover", Verb::Hover, VerbKind::Answer, "p"},
     {"pickhandle", Verb::PickHandle, VerbKind::Answer, "h?p"},
     {"window", Verb::Window, VerbKind::Answer, "pp"},
     {"crossing", Verb::Crossing, VerbKind::Answer, "pp"},

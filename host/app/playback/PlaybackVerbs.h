@@ -30,6 +30,7 @@ enum class Verb
     Answer,
     Point,
     Pick,
+    Hover,
     PickHandle,
     Window,
     Crossing,

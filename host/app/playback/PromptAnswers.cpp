@@ -60,6 +60,8 @@ kernel::InputAnswer answerFor(const Step &step, const drawing::Drawing &drawing,
     switch (step.verb) {
     case Verb::Pick:
         return kernel::PointAnswer{toVec(step.points.first())};
+    case Verb::Hover:
+        return kernel::PointerAnswer{toVec(step.points.first())};
     case Verb::Window:
     case Verb::Crossing:
         return box(toVec(step.points[0]), toVec(step.points[1]), step.verb);

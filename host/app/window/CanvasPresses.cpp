@@ -40,13 +40,17 @@ void DrawingCanvas::press(QPointF screen, Qt::KeyboardModifiers modifiers)
 
 void DrawingCanvas::pressForPrompt(QPointF screen)
 {
+    if (wantsEvents()) {
+        emit answered(kernel::PointAnswer{world(screen)});
+        return;
+    }
     if (m_request->kind == PromptKind::Selection) {
         if (const drawing::RecordId entity = entityAt(screen); drawing::isValid(entity))
             emit answered(kernel::EntityAnswer{entity, world(screen)});
         else
             beginBox(screen, BoxUse::Answer, Choice::Add);
     } else if (wantsPoint() || m_request->kind == PromptKind::Entity) {
-        emit answered(kernel::PointAnswer{world(screen)});
+        emit answered(kernel::PointAnswer{world(screen), true});
     }
 }
 

@@ -103,7 +103,9 @@ void CommandRunner::showRequest(const std::optional<kernel::PromptRequest> &requ
     const bool takesBlanks = request && request->kind == kernel::PromptKind::String && request->allowSpaces;
     m_commandLine.setSpace(takesBlanks ? CommandLine::Space::IsText : CommandLine::Space::Enters);
     m_commandLine.setPrompt(request ? request->prompt : tr("Command:"));
-    m_commandLine.setFocus();
+    // Keys are for a program that waits for events, not for the line.
+    if (!request || request->kind != kernel::PromptKind::Event)
+        m_commandLine.setFocus();
     emit stateChanged();
 }
 

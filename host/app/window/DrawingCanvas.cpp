@@ -5,6 +5,8 @@
 #include "host/drawing/records/PageSetup.h"
 #include "host/kernel/documents/CurrentSpace.h"
 #include "host/kernel/documents/ExpressionSurroundings.h"
+#include "host/kernel/documents/ScreenSketch.h"
+#include "host/kernel/input/PointAim.h"
 #include "host/kernel/variables/SystemVariables.h"
 
 #include <QMouseEvent>
@@ -48,6 +50,7 @@ DrawingCanvas::DrawingCanvas(kernel::Document &document, QWidget *parent)
         m_picture.renew();
         update();
     });
+    connect(&m_document, &kernel::Document::sketchChanged, this, qOverload<>(&QWidget::update));
     connect(&m_document, &kernel::Document::runEnded, this, qOverload<>(&QWidget::update));
 }
 
@@ -125,6 +128,8 @@ void DrawingCanvas::setRequest(const std::optional<kernel::PromptRequest> &reque
 {
     const bool hadMarked = m_dragged || (m_request && m_request->chosen);
     m_request = request;
+    if (wantsEvents())
+        setFocus();
     m_box.reset();
     m_dragged.reset();
     if (request && request->base && request->dragged && !request->dragged->empty())
@@ -179,7 +184,16 @@ void DrawingCanvas::paintEvent(QPaintEvent *)
                               .defaultWeight = m_document.variables().integer(u"LWDEFAULT", 25)});
     if (m_picture.isProvisional())
         paintUnfinishedMark(painter, tr("simplified"), size(), m_ground);
+    paintSketch(painter);
     paintOverlay(painter);
+}
+
+void DrawingCanvas::paintSketch(QPainter &painter)
+{
+    const view::ViewTransform now = transform();
+    for (const kernel::ScreenSketch::Line &line : m_document.sketch().lines())
+        paintSketchLine(painter, now.toScreen(line.from.xy()), now.toScreen(line.to.xy()),
+                        {.colour = line.colour, .isDashed = line.isHighlighted, .ground = m_ground});
 }
 
 void DrawingCanvas::paintOverlay(QPainter &painter)
@@ -234,6 +248,8 @@ void DrawingCanvas::mousePressEvent(QMouseEvent *event)
     if (event->button() == Qt::MiddleButton) {
         m_panFrom = event->position();
         setCursor(Qt::ClosedHandCursor);
+    } else if (event->button() == Qt::RightButton && wantsEvents()) {
+        emit answered(kernel::PointerAnswer{world(event->position()), true});
     } else if (event->button() == Qt::RightButton) {
         emit enterPressed();
     } else if (event->button() == Qt::LeftButton) {
@@ -250,6 +266,9 @@ void DrawingCanvas::mouseMoveEvent(QMouseEvent *event)
         m_panFrom = event->position();
         setTransform(changed);
     }
+    m_document.aim().pointer = world(event->position());
+    if (wantsEvents() && m_request->tracksPointer)
+        emit answered(kernel::PointerAnswer{world(event->position())});
     emit pointerMoved(transform().toWorld(event->position()));
     update();
 }
@@ -283,6 +302,10 @@ void DrawingCanvas::keyPressEvent(QKeyEvent *event)
 {
     if (event->key() == Qt::Key_Escape && abandonBox())
         return;
+    if (wantsEvents() && event->key() != Qt::Key_Escape && !event->text().isEmpty()) {
+        emit answered(kernel::KeyAnswer{event->text().front().unicode()});
+        return;
+    }
     event->ignore();
     emit keyPressed(event);
 }

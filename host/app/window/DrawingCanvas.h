@@ -102,9 +102,13 @@ private:
     /// What moves with the pointer; nothing while that is elsewhere.
     void paintOverlay(QPainter &painter);
     void paintRubberBand(QPainter &painter);
+    /// What programs show for the moment.
+    void paintSketch(QPainter &painter);
 
     /// Whether a point answers the prompt that waits.
     bool wantsPoint() const;
+    /// Whether a program waits for whatever is done next.
+    bool wantsEvents() const { return m_request && m_request->kind == kernel::PromptKind::Event; }
     /// From the pointer to a side of the box that picks entities, in pixels.
     int pickReach() const;
     // In CanvasPresses.cpp.

@@ -44,7 +44,8 @@ QString versionName(drawing::Version version)
 } // namespace
 
 DrawingStatus::DrawingStatus(QStatusBar &bar)
-    : m_coordinates(new QLabel(&bar)), m_drawing(new QLabel(&bar)), m_notDrawn(new QLabel(&bar))
+    : m_coordinates(new QLabel(&bar)), m_program(new QLabel(&bar)), m_drawing(new QLabel(&bar)),
+      m_notDrawn(new QLabel(&bar))
 {
     m_coordinates->setObjectName(u"coordinates"_s);
     m_coordinates->setMinimumWidth(bar.fontMetrics().horizontalAdvance(u"-000000.0000, -000000.0000"_s));
@@ -52,8 +53,12 @@ DrawingStatus::DrawingStatus(QStatusBar &bar)
     m_notDrawn->setObjectName(u"notDrawn"_s);
     // They show names from files: markup in these could read further files.
     m_drawing->setTextFormat(Qt::PlainText);
+    m_coordinates->setTextFormat(Qt::PlainText);
+    m_program->setObjectName(u"programText"_s);
+    m_program->setTextFormat(Qt::PlainText);
     m_notDrawn->setTextFormat(Qt::PlainText);
     bar.addWidget(m_coordinates);
+    bar.addWidget(m_program);
     bar.addWidget(m_drawing, 1);
     bar.addPermanentWidget(m_notDrawn);
 }
@@ -61,6 +66,13 @@ DrawingStatus::DrawingStatus(QStatusBar &bar)
 void DrawingStatus::showPointer(const drawing::Vec2 &world)
 {
     m_coordinates->setText(u"%1, %2"_s.arg(world.x, 0, 'f', 4).arg(world.y, 0, 'f', 4));
+}
+
+void DrawingStatus::showTexts(const QString &coordinates, const QString &status)
+{
+    m_program->setText(status);
+    if (!coordinates.isEmpty())
+        m_coordinates->setText(coordinates);
 }
 
 void DrawingStatus::show(const drawing::Drawing &drawing, const view::RenderReport &report)

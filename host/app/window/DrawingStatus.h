@@ -20,6 +20,8 @@ public:
     explicit DrawingStatus(QStatusBar &bar);
 
     void showPointer(const drawing::Vec2 &world);
+    /// What a program writes in place of the coordinates and of the drawing's line; empty: what is there otherwise.
+    void showTexts(const QString &coordinates, const QString &status);
     void show(const drawing::Drawing &drawing, const view::RenderReport &report);
     /// Says nothing about the picture, which is about to be another.
     void clearReport();
@@ -28,6 +30,7 @@ public:
 
 private:
     QLabel *m_coordinates;
+    QLabel *m_program;
     QLabel *m_drawing;
     QLabel *m_notDrawn;
 };

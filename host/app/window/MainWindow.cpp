@@ -8,6 +8,7 @@
 #include "host/app/window/LayoutTabs.h"
 #include "host/app/window/Preferences.h"
 #include "host/app/window/TrustQuestion.h"
+#include "host/kernel/documents/ScreenSketch.h"
 #include "host/kernel/variables/SystemVariables.h"
 
 #include <QAction>
@@ -162,6 +163,10 @@ void MainWindow::addTab(kernel::Document *document)
     });
     connect(canvas, &DrawingCanvas::pointerMoved, this,
             [this](const drawing::Vec2 &point) { m_status->showPointer(point); });
+    connect(document, &kernel::Document::sketchChanged, this, [this, document] {
+        using enum kernel::ScreenSketch::Place;
+        m_status->showTexts(document->sketch().text(Coordinates), document->sketch().text(Status));
+    });
     connect(document, &kernel::Document::printed, m_commandLine, &CommandLine::print);
     connect(document, &kernel::Document::titleChanged, this, [this, document] { updateTitle(*document); });
     connect(document, &kernel::Document::runEnded, this, [this, document] {

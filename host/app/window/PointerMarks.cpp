@@ -44,6 +44,19 @@ void paintPointerBand(QPainter &painter, QPointF from, QPointF pointer, bool isD
     painter.drawLine(from, pointer);
 }
 
+void paintSketchLine(QPainter &painter, QPointF from, QPointF to, const SketchLook &look)
+{
+    // Far outside the window the painter's numbers run over.
+    constexpr double farthest = 1e6;
+    const auto isNear = [](QPointF p) { return std::abs(p.x()) < farthest && std::abs(p.y()) < farthest; };
+    if (!isNear(from) || !isNear(to))
+        return;
+    // 0 draws in the ground's colour: programs take lines away with it.
+    const QColor color = look.colour == 0 ? view::groundColor(look.ground) : view::aciColor(look.colour, look.ground);
+    painter.setPen(QPen(color, 0, look.isDashed ? Qt::DashLine : Qt::SolidLine));
+    painter.drawLine(from, to);
+}
+
 void paintPointerBox(QPainter &painter, QPointF from, QPointF pointer, bool isCrossing)
 {
     const QColor color = isCrossing ? QColor(0x3c, 0xb0, 0x5a) : QColor(0x3d, 0x7f, 0xc4);

@@ -29,4 +29,13 @@ void paintUnfinishedMark(QPainter &painter, const QString &text, QSize canvas, v
 /// The line that follows the pointer while a prompt has a base point.
 void paintPointerBand(QPainter &painter, QPointF from, QPointF pointer, bool isDashed);
 
+/// A line that a program draws for the moment; the colour is an index of the table, or below 0 one unlike the ground.
+struct SketchLook
+{
+    int colour = 7;
+    bool isDashed = false;
+    view::Ground ground = view::Ground::Black;
+};
+void paintSketchLine(QPainter &painter, QPointF from, QPointF to, const SketchLook &look);
+
 } // namespace host::app

@@ -168,6 +168,7 @@ CommandTask zoom(CommandContext &context)
 CommandTask regenerate(CommandContext &context)
 {
     context.document().boxes().forget();
+    context.document().clearSketch();
     emit context.document().regenerated();
     co_return;
 }

@@ -7,6 +7,7 @@
 #include "host/drawing/records/Tables.h"
 #include "host/kernel/documents/CurrentSpace.h"
 #include "host/kernel/documents/ExpressionSurroundings.h"
+#include "host/kernel/documents/ScreenSketch.h"
 #include "host/kernel/documents/Session.h"
 #include "host/kernel/files/DrawingBackup.h"
 #include "host/kernel/input/PointAim.h"
@@ -59,7 +60,8 @@ Document::Document(Session &session, std::unique_ptr<drawing::Drawing> drawing, 
       m_userInput(std::make_unique<UserInput>(*this)), m_selectionInput(std::make_unique<SelectionInput>(*this)),
       m_database(std::make_unique<DrawingDatabase>(*this)), m_console(std::make_unique<LispConsole>(*this)),
       m_boxes(std::make_unique<drawing::BoxCache>(*m_drawing)), m_entityMaker(std::make_unique<EntityMaker>(*this)),
-      m_aim(std::make_unique<PointAim>()), m_view(viewOf(*m_drawing)), m_shownLayout(currentLayout(*m_drawing))
+      m_aim(std::make_unique<PointAim>()), m_sketch(std::make_unique<ScreenSketch>()), m_view(viewOf(*m_drawing)),
+      m_shownLayout(currentLayout(*m_drawing))
 {
 }
 
@@ -177,6 +179,14 @@ drawing::SaveResult Document::write(const QString &path, const std::function<dra
     if (!result || !problem.isEmpty())
         m_session.tellNotWritten(result ? problem : result.error);
     return result;
+}
+
+void Document::clearSketch()
+{
+    if (m_sketch->lines().empty())
+        return;
+    m_sketch->clear();
+    emit sketchChanged();
 }
 
 void Document::setView(const ViewState &view)

@@ -41,6 +41,7 @@ class EntityMaker;
 class LispConsole;
 class LispEngine;
 struct PointAim;
+class ScreenSketch;
 class SelectionInput;
 class Session;
 class SystemVariables;
@@ -219,6 +220,10 @@ public:
     view::EntityExtents &entityExtents();
     /// What a distance alone at a prompt for points counts towards.
     PointAim &aim() { return *m_aim; }
+    /// What programs show for the moment; who changes it emits sketchChanged().
+    ScreenSketch &sketch() { return *m_sketch; }
+    /// A redraw: what was drawn for the moment is gone.
+    void clearSketch();
     /// What (entmake) has collected of an entity or block that is made in pieces.
     EntityMaker &entityMaker() { return *m_entityMaker; }
     /// Where (tblnext) and (dictnext) stand, by table name or the dictionary's handle.
@@ -249,6 +254,7 @@ signals:
     void regenerated();
     // Whether or not the entities are others than before.
     void highlightChanged();
+    void sketchChanged();
     void impliedSelectionChanged();
     /// The path or the modified mark may be another now.
     void titleChanged();
@@ -286,6 +292,7 @@ private:
     std::unique_ptr<drawing::BoxCache> m_boxes;
     std::unique_ptr<EntityMaker> m_entityMaker;
     std::unique_ptr<PointAim> m_aim;
+    std::unique_ptr<ScreenSketch> m_sketch;
     mutable std::unique_ptr<view::TextMeasure> m_textMeasure; ///< made when it is first asked for
     std::unique_ptr<view::EntityExtents> m_entityExtents;     ///< likewise
     QHash<QString, drawing::RecordId> m_cursors;

@@ -135,13 +135,25 @@ void InputQueue::clear()
 
 std::optional<InputAnswer> InputQueue::take(const PromptRequest &request)
 {
-    if (auto *answer = std::get_if<InputAnswer>(&m_items.front())) {
+    auto *answer = std::get_if<InputAnswer>(&m_items.front());
+    if (auto *text = answer ? std::get_if<TextAnswer>(answer) : nullptr; text && request.kind == PromptKind::Event) {
+        // One that was handed over whole has no line end behind it but where that is all it is.
+        m_items.front() = Typed{text->text.isEmpty() ? QStringLiteral("\n") : text->text};
+        answer = nullptr;
+    }
+    if (answer) {
         InputAnswer taken = std::move(*answer);
         m_items.pop_front();
         return taken;
     }
     Typed &typed = std::get<Typed>(m_items.front());
     typed.isBegun = true;
+    if (request.kind == PromptKind::Event) {
+        const InputAnswer key = takeKey(typed);
+        if (typed.position >= typed.text.size())
+            m_items.pop_front();
+        return key;
+    }
     const bool isFromScript = typed.position < typed.scriptEnd;
     const std::optional<QString> text = takeTyped(typed, request);
     if (typed.position >= typed.text.size())
@@ -149,6 +161,18 @@ std::optional<InputAnswer> InputQueue::take(const PromptRequest &request)
     if (!text)
         return {};
     return TextAnswer{*text, isFromScript};
+}
+
+InputAnswer InputQueue::takeKey(Typed &typed)
+{
+    constexpr int enterKey = 13;
+    const char32_t first = typed.text[typed.position].unicode();
+    if (first == u'\n' || first == u'\r') {
+        skipDelimiter(typed, typed.position);
+        return KeyAnswer{enterKey};
+    }
+    ++typed.position;
+    return KeyAnswer{int(first)};
 }
 
 std::optional<QString> InputQueue::takeTyped(Typed &typed, const PromptRequest &request)

@@ -24,6 +24,7 @@ public:
 
     /// A typed line or a whole script. A line feed is put behind it when it has none.
     void pushTyped(const QString &text);
+    /// The characters of a text are the keys for an event.
     void push(const InputAnswer &answer);
 
     enum class ScriptOutcome
@@ -58,6 +59,8 @@ private:
         qsizetype scriptEnd = 0; ///< up to here it is a script's; only in the first item
         bool isBegun = false;    ///< something of the script was taken
     };
+    /// The next character. There must be one.
+    static InputAnswer takeKey(Typed &typed);
     using Item = std::variant<Typed, InputAnswer>;
 
     static std::optional<QString> takeTyped(Typed &typed, const PromptRequest &request);

@@ -40,6 +40,7 @@ QString refusalText(PromptKind kind)
                               "Previous/Undo/Single.");
     case PromptKind::Command:
     case PromptKind::String:
+    case PromptKind::Event:
         return QStringLiteral("Invalid input.");
     case PromptKind::Point:
     case PromptKind::Corner:

@@ -41,6 +41,8 @@ private:
     Reading read(const EntitiesAnswer &answer);
     Reading read(const WindowAnswer &answer);
     Reading read(const CancelAnswer &answer);
+    Reading read(const KeyAnswer &) { return refuse(); }
+    Reading read(const PointerAnswer &) { return refuse(); }
 
     Reading readText(const QString &text);
     Reading readEmpty();

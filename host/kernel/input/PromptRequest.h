@@ -23,11 +23,12 @@ enum class PromptKind
     Angle,       ///< relative to the ANGBASE direction, as getangle has it
     Orientation, ///< absolute, as getorient has it
     Point,
-    Corner,   ///< the corner opposite to the base point
-    String,   ///< up to a blank, or with blanks (allowSpaces)
-    Keyword,  ///< one of the keywords and nothing else
-    Entity,   ///< one entity, with the point it was picked at
-    Selection ///< one step of a selection: an entity, a window, a word such as "ALL", or nothing to end it
+    Corner,    ///< the corner opposite to the base point
+    String,    ///< up to a blank, or with blanks (allowSpaces)
+    Keyword,   ///< one of the keywords and nothing else
+    Entity,    ///< one entity, with the point it was picked at
+    Selection, ///< one step of a selection: an entity, a window, a word such as "ALL", or nothing to end it
+    Event      ///< whatever is done next with pointer and keys; nothing of it is echoed or checked
 };
 
 /// Option bits of a request, as (initget) has them.
@@ -55,6 +56,7 @@ struct PromptRequest
     std::optional<drawing::Vec3> base; ///< where a rubber band starts; world coordinates
     bool allowSpaces = false;          ///< String: blanks belong to the answer
     bool forCommand = false;           ///< asked by a command rather than by a Lisp program
+    bool tracksPointer = false;        ///< Event: that the pointer moves is one
     bool isTransparent = false;        ///< asked by a command that was called in the middle of another prompt
     bool endsWhenRefused = false;      ///< a refused answer cancels the prompt when more was typed behind it
     /// Point: these hang at the pointer by `base`; null for none.
@@ -96,11 +98,24 @@ struct WindowAnswer
     drawing::Vec3 first;
     drawing::Vec3 second;
 };
+/// A key, for an Event alone.
+struct KeyAnswer
+{
+    int code = 0; ///< of its character; 13 for Enter
+};
+/// The pointer has moved, or the right button was pressed; for an Event alone. World coordinates.
+struct PointerAnswer
+{
+    drawing::Vec3 point;
+    bool isRightPress = false;
+};
 /// Esc: the prompt is cancelled, and the program or command that asks with it.
 struct CancelAnswer
 {
+    bool isFinal = false; ///< nobody is there, or all is to stop: the next prompt would be cancelled too
 };
 
-using InputAnswer = std::variant<TextAnswer, PointAnswer, EntityAnswer, EntitiesAnswer, WindowAnswer, CancelAnswer>;
+using InputAnswer = std::variant<TextAnswer, PointAnswer, EntityAnswer, EntitiesAnswer, WindowAnswer, KeyAnswer,
+                                 PointerAnswer, CancelAnswer>;
 
 } // namespace host::kernel

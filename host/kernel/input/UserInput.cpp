@@ -103,7 +103,7 @@ InputAnswer UserInput::nextAnswer(const PromptRequest &request)
     // Not behind feeding: what the user does next is for the next prompt, and nobody would take it here.
     if (!session.input().isEmpty() && session.isStopWanted()) {
         session.input().clear();
-        return CancelAnswer{};
+        return CancelAnswer{.isFinal = true};
     }
     for (;;) {
         if (!session.input().isEmpty())
@@ -114,7 +114,7 @@ InputAnswer UserInput::nextAnswer(const PromptRequest &request)
         if (!isFed || session.input().isEmpty()) {
             m_document.print(
                 QStringLiteral("\nNobody is there to answer \"%1\": cancelled.\n").arg(request.prompt.trimmed()));
-            return CancelAnswer{};
+            return CancelAnswer{.isFinal = true};
         }
     }
 }
