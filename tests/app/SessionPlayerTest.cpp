@@ -50,8 +50,8 @@ TEST_F(SessionPlayerTest, PlaysWhatHappens)
         {"point", uR"(lisp (setq p (getpoint "From: ")) ~ point 1,2 ~ expect-lisp (equal p '(1.0 2.0 0.0)))"_s},
         {"picked point", uR"(lisp (setq p (getpoint "From: ")) ~ pick 3,4 ~ expect-lisp (equal p '(3.0 4.0 0.0)))"_s},
         {"events", uR"(lisp (setq e (list (grread T 15) (grread) (grread) (grread) (grread)))
-                       ~ hover 1,2 ~ pick 3,4 ~ answer ok ~ enter
-                       ~ expect-lisp (equal e '((5 (1.0 2.0 0.0)) (3 (3.0 4.0 0.0)) (2 111) (2 107) (2 13))))"_s},
+                       hover 1,2 ~ pick 3,4 ~ answer ok ~ enter
+                       expect-lisp (equal e '((5 (1.0 2.0 0.0)) (3 (3.0 4.0 0.0)) (2 111) (2 107) (2 13))))"_s},
         {"text with blanks",
          uR"(lisp (setq s (getstring T "Text: ")) ~ answer two words ~ expect-lisp (= s "two words"))"_s},
         {"picked entity", uR"(lisp (setq e (entsel)) ~ pickhandle 2B ~ expect-lisp (= (car e) (handent "2B")))"_s},

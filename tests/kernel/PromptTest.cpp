@@ -63,7 +63,7 @@ TEST_F(Bench, pointerAndPressesAreEvents)
     session.input().push(CancelAnswer{});
     EXPECT_EQ(lisp("(list (grread T) (grread) (grread) (grread) (grread) (grread) (grread) (grread T 12))"),
               "((5 (3.0 4.0 0.0)) (3 (5.0 6.0 0.0)) (25 (7.0 8.0 0.0)) (2 65) (2 111) (2 107) (2 13) (2 27))");
-    EXPECT_EQ(lisp("(grread)"), "error: Function cancelled in (GREAD)");
+    EXPECT_EQ(lisp("(grread)"), "error: Function cancelled in (GRREAD)");
     EXPECT_TRUE(session.input().isEmpty());
 }
 
