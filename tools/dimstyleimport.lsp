@@ -139,8 +139,8 @@
 ;; then. -> the variables as the drawing's version has them.
 (defun dimstyleimport:converted (variables)
   (cond
-    ((>= (getvar "ACADVER") "AC1015") (dimstyleimport:parted (dimstyleimport:parted variables T) nil))
-    ((= (getvar "ACADVER") "AC1009") variables)
+    ((>= (kora_file_version) "AC1015") (dimstyleimport:parted (dimstyleimport:parted variables T) nil))
+    ((= (kora_file_version) "AC1009") variables)
     (T (dimstyleimport:joined (dimstyleimport:joined variables T) nil))))
 
 ;; Old variable, the two new ones, and rows (old value, the new values), first of lengths, then of fitting.
@@ -183,11 +183,11 @@
   (setq name (if variable (kora_with_characters (cdr variable)) ""))
   (if (and (/= name "") (null (tblobjname "BLOCK" name))) (kora_make_arrow name))
   (cond ((= name "") nil)
-        ((and (null (cadr row)) (< (getvar "ACADVER") "AC1015")) (setq left (cons (caddr row) left)) nil)
+        ((and (null (cadr row)) (< (kora_file_version) "AC1015")) (setq left (cons (caddr row) left)) nil)
         ((null (setq block (tblobjname "BLOCK" name)))
          (kora_alert_message (strcat "The drawing has no block " name " for " (caddr row) ", the usual arrow is used."))
          nil)
-        ((and (>= (getvar "ACADVER") "AC1015") (setq record (kora_field (entget block) 330))) (list (cons (car row) record)))
+        ((and (>= (kora_file_version) "AC1015") (setq record (kora_field (entget block) 330))) (list (cons (car row) record)))
         ((cadr row) (list (cons (cadr row) name)))))
 
 ;; The group for a linetype, which is made where the drawing lacks it.
@@ -196,7 +196,7 @@
     (if (= (car linetype) (cadr row)) (setq found linetype)))
   (setq name (if found (kora_with_characters (cadr found))))
   (cond ((null found) nil)
-        ((< (getvar "ACADVER") "AC1021") (setq left (cons (caddr row) left)) nil)
+        ((< (kora_file_version) "AC1021") (setq left (cons (caddr row) left)) nil)
         ((tblobjname "LTYPE" name) (list (cons (car row) (tblobjname "LTYPE" name))))
         ((if (snvalid name) (dimstyleimport:make_linetype (car row) name (caddr found))))
         (T (kora_alert_message (strcat "The linetype " name " has no definition in the file.")) nil)))

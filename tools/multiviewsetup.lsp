@@ -206,7 +206,7 @@
 
 (defun multiviewsetup:create (state / grid area frames doomed count)
   (cond
-    ((= (getvar "ACADVER") "AC1009") (kora_refuse "A drawing of this version cannot have such viewports."))
+    ((= (kora_file_version) "AC1009") (kora_refuse "A drawing of this version cannot have such viewports."))
     ((null (setq grid (multiviewsetup:grid state))) nil)
     ((progn (setq doomed (multiviewsetup:doomed (multiviewsetup:choice state "removeviewports") "viewports"
                                                 '((0 . "VIEWPORT"))))
@@ -359,7 +359,7 @@
                                         (cond ((caddr corner)) (0.0)))
                                   1 normal))
                         '(0 1 1 0) '(0 0 1 1)))
-  (if (= (getvar "ACADVER") "AC1009")
+  (if (= (kora_file_version) "AC1009")
     (progn
       (entmake (list '(0 . "POLYLINE") '(66 . 1) '(70 . 1) (list 10 0.0 0.0 (caddar corners)) (cons 210 normal)))
       (foreach point corners (entmake (list '(0 . "VERTEX") (cons 10 point) (cons 210 normal))))

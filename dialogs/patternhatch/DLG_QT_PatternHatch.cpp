@@ -204,7 +204,7 @@ QString DLG_QT_PatternHatch::limitsOfCutting() const
 {
     // Drawings of the oldest version have no clips, images or masks.
     const bool isOldest =
-        ACTIVE_DOCUMENT() && ACTIVE_DOCUMENT()->systemVariable(QStringLiteral("ACADVER")) == QLatin1String("AC1009");
+        ACTIVE_DOCUMENT() && ACTIVE_DOCUMENT()->systemVariable(QStringLiteral("DXFVERSION")) == QLatin1String("AC1009");
     if (m_ui->pattern_image->isChecked() || m_ui->pattern_mask->isChecked())
         return isOldest ? tr("A drawing of this version has neither images nor masks.") : QString();
     if (isOldest)

@@ -61,6 +61,7 @@ std::vector<CommandRow> builtInCommands()
              styleCommands(),
              textCommands(),
              undoCommands(),
+             variableCommands(),
              viewCommands(),
              writeBlockCommands(),
          })

@@ -40,6 +40,7 @@ std::vector<CommandRow> splineCommands();
 std::vector<CommandRow> styleCommands();
 std::vector<CommandRow> textCommands();
 std::vector<CommandRow> undoCommands();
+std::vector<CommandRow> variableCommands();
 std::vector<CommandRow> viewCommands();
 std::vector<CommandRow> writeBlockCommands();
 

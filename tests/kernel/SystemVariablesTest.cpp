@@ -122,4 +122,50 @@ TEST_F(Bench, reactorsHearBeforeAVariableChanges)
     EXPECT_EQ(listener.names.size(), 1);
 }
 
+TEST_F(Bench, theUsersSettingsOutliveTheSessionAndOthersDoNot)
+{
+    lisp("(setvar \"OSMODE\" 35)(setvar \"FONTALT\" \"a,b\")(setvar \"ZOOMFACTOR\" 40)(setvar \"ZOOMFACTOR\" 60)"
+         "(setvar \"EXPERT\" 3)(setvar \"USERS1\" \"x\")");
+    const QByteArray kept = read("home/settings.ini");
+    EXPECT_TRUE(kept.contains("OSMODE=35")) << kept.toStdString();
+    EXPECT_FALSE(kept.contains("EXPERT"));
+    Session next({.home = path("home"), .supportFolders = {}, .helpFolder = {}});
+    const auto then = [&](QStringView name) { return next.documents().create()->variables().display(name); };
+    EXPECT_EQ(then(u"OSMODE"), u"35");
+    EXPECT_EQ(then(u"FONTALT"), u"a,b");
+    EXPECT_EQ(then(u"EXPERT"), u"0");
+    EXPECT_EQ(then(u"USERS1"), u"");
+}
+
+TEST_F(Bench, aSettingThatAnotherProgramSpoiltIsTheUsualOne)
+{
+    Session next(homeIn("spoilt"));
+    next.settings().setTexts(u"Variables"_s, {{u"PICKBOX"_s, u"900"_s}, {u"APERTURE"_s, u"x"_s}});
+    Session later({.home = next.home(), .supportFolders = {}, .helpFolder = {}});
+    SystemVariables &variables = later.documents().create()->variables();
+    EXPECT_EQ(variables.integer(u"PICKBOX"), 3);
+    EXPECT_EQ(variables.integer(u"APERTURE"), 10);
+}
+
+TEST_F(Bench, aDrawingThatDoesNotSayAVariableHasItsDefault)
+{
+    const QByteArray old =
+        "0\nSECTION\n2\nHEADER\n9\n$ACADVER\n1\nAC1009\n0\nENDSEC\n0\nSECTION\n2\nENTITIES\n0\nENDSEC\n0\nEOF\n";
+    Document *opened = session.documents().open(write("old.dxf", old)).document;
+    ASSERT_TRUE(opened);
+    SystemVariables &variables = opened->variables();
+    EXPECT_EQ(variables.real(u"DIMTXT"), 0.18) << "inches";
+    EXPECT_EQ(variables.text(u"DIMDSEP"), u".");
+    opened->runAs(u"A"_s, [&] { EXPECT_EQ(variables.set(u"DIMTXT", 0.18), SetOutcome::Done); });
+    EXPECT_EQ(opened->drawing().toBytes(), old) << "nothing new was said";
+    // What the format of that version has no name for lasts as long as the document.
+    opened->runAs(u"B"_s, [&] { EXPECT_EQ(variables.set(u"DIMLWD", 50), SetOutcome::Done); });
+    EXPECT_EQ(variables.integer(u"DIMLWD"), 50);
+    EXPECT_EQ(opened->drawing().toBytes(), old);
+    opened->runAs(u"C"_s, [&] { EXPECT_EQ(variables.set(u"DIMTXT", 5), SetOutcome::Done); });
+    EXPECT_TRUE(opened->drawing().toBytes().contains("$DIMTXT\n40\n5.0"));
+    EXPECT_EQ(opened->undoSteps().undo(), 1);
+    EXPECT_EQ(opened->drawing().toBytes(), old);
+}
+
 } // namespace

@@ -155,7 +155,7 @@
   (setq fields (mapcar 'kora:field_of (kora_string_split (substr line 16) "|")))
   (if (and (not (member nil fields))
            (= (type (kora_field fields 0)) 'STR)
-           (wcmatch (kora_field fields 0) (if (= (getvar "ACADVER") "AC1009") kora:early_kinds kora:block_kinds)))
+           (wcmatch (kora_field fields 0) (if (= (kora_file_version) "AC1009") kora:early_kinds kora:block_kinds)))
     (vl-remove-if '(lambda (field)
                      (or (and (= (car field) 6) (null (tblobjname "LTYPE" (cdr field))))
                          (and (= (car field) 7) (null (tblobjname "STYLE" (cdr field))))))

@@ -133,7 +133,7 @@
   (cond
     ((= (kora_field data 0) "LINE") (mapcar '(lambda (piece) (kora:line_entity data piece)) run))
     ((and curved (member (kora_field data 0) '("ARC" "CIRCLE"))) (list (kora:arc_entity data run)))
-    ((/= "AC1009" (getvar "ACADVER")) (list (kora:polyline_entity data run)))
+    ((/= "AC1009" (kora_file_version)) (list (kora:polyline_entity data run)))
     (T (mapcar '(lambda (piece)
                   (if (= 0.0 (caddr piece)) (kora:line_entity data piece) (kora:arc_entity data (list piece))))
                run))))

@@ -26,3 +26,7 @@
 (defun kora_style_height (/ height)
   (setq height (kora_field (tblsearch "STYLE" (getvar "TEXTSTYLE")) 40))
   (if (and height (> height 0.0)) height))
+
+;; (kora_file_version) -> the version of the drawing's file, as "AC1015".
+(defun kora_file_version ()
+  (cond ((getvar "DXFVERSION")) ((getvar "ACADVER"))))

@@ -232,48 +232,6 @@ CommandTask saveAs(CommandContext &context)
     form.keep(co_await saveUnder(context, target->path));
 }
 
-/// The value that text means for a variable of the kind that `like` is; nothing when it does not.
-std::optional<VariableValue> valueFromText(const VariableValue &like, const QString &text)
-{
-    bool isNumber = true;
-    const auto number = [&](const QString &part) { return isNumber ? part.trimmed().toDouble(&isNumber) : 0.0; };
-    std::optional<VariableValue> value;
-    if (std::holds_alternative<QString>(like))
-        value = text == u"."_s ? QString() : text;
-    else if (std::holds_alternative<qint32>(like))
-        value = text.toInt(&isNumber);
-    else if (std::holds_alternative<double>(like))
-        value = number(text);
-    else
-        value = drawing::Vec3{number(text.section(u',', 0, 0)), number(text.section(u',', 1, 1)),
-                              text.count(u',') > 1 ? number(text.section(u',', 2, 2)) : 0.0};
-    return isNumber ? value : std::nullopt;
-}
-
-// Name and new value of a system variable; an empty value leaves it.
-CommandTask setVariable(CommandContext &context)
-{
-    SystemVariables &variables = context.document().variables();
-    const PromptReply name = co_await context.name(u"Enter variable name: "_s);
-    const std::optional<VariableValue> present = variables.get(name.text);
-    if (!present) {
-        context.print(u"\nUnknown variable name."_s);
-        co_return;
-    }
-    const QString shown = variables.display(name.text);
-    if (variables.isReadOnly(name.text)) {
-        context.print(u"\n%1 = %2 (read only)"_s.arg(name.text.toUpper(), shown));
-        co_return;
-    }
-    const PromptReply typed =
-        co_await context.text(u"Enter new value for %1 <%2>: "_s.arg(name.text.toUpper(), shown), shown);
-    if (!typed.hasValue())
-        co_return;
-    const std::optional<VariableValue> value = valueFromText(*present, typed.text);
-    if (!value || variables.set(name.text, *value) != SetOutcome::Done)
-        context.print(u"\nCannot set %1 to that value."_s.arg(name.text.toUpper()));
-}
-
 /// The largest script that is read, in bytes.
 constexpr qint64 largestScript = 64 * 1024 * 1024;
 
@@ -316,8 +274,7 @@ std::vector<CommandRow> fileCommands()
     return {{"QSAVE", quickSave, "Saves the drawing under its own name"},
             {"SAVE", saveAs, "Saves the drawing under a name"},
             {"SAVEAS", saveAs, "Saves the drawing under a name"},
-            {"SCRIPT", script, "Types what a script file holds"},
-            {"SETVAR", setVariable, "Shows or sets a system variable"}};
+            {"SCRIPT", script, "Types what a script file holds"}};
 }
 
 } // namespace host::kernel

@@ -45,10 +45,7 @@ double factorInList(const Drawing &drawing, const QString &name)
 /// A variable that drawings keep among their objects, or in the header; empty without it.
 QString annotationVariable(const Drawing &drawing, const QString &name)
 {
-    const Dictionaries &dictionaries = drawing.dictionaries();
-    const RecordId variables = dictionaries.find(dictionaries.root(), u"AcDbVariableDictionary"_s);
-    const RecordId record = dictionaries.find(variables, name);
-    return isValid(record) ? drawing.tags(record).text(1) : drawing.header().text(u'$' + name);
+    return drawing.dictionaries().variable(name).value_or(drawing.header().text(u'$' + name));
 }
 
 } // namespace

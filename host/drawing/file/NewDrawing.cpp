@@ -2,6 +2,7 @@
 
 #include "host/drawing/records/Blocks.h"
 #include "host/drawing/records/Dictionaries.h"
+#include "host/drawing/records/DimensionVariables.h"
 #include "host/drawing/records/HeaderVariables.h"
 #include "host/drawing/records/LayoutTabs.h"
 #include "host/drawing/records/Structure.h"
@@ -13,6 +14,11 @@ namespace host::drawing {
 using namespace Qt::StringLiterals;
 
 namespace {
+
+constexpr Version newVersion = Version::R2018;
+// The groups of a dimension style that lead to other records; the first leads to its text style.
+constexpr int firstHandleCode = 340;
+constexpr int lastHandleCode = 347;
 
 QByteArray skeleton()
 {
@@ -105,28 +111,30 @@ Variables unitVariables(Measurement measurement)
     const auto length = [isMetric](double metric, double imperial) { return isMetric ? metric : imperial; };
     return {{"$LIMMAX", {10, isMetric ? Vec2{420.0, 297.0} : Vec2{12.0, 9.0}}},
             {"$TEXTSIZE", {40, length(2.5, 0.2)}},
-            {"$DIMSCALE", {40, 1.0}},
-            {"$DIMASZ", {40, length(2.5, 0.18)}},
-            {"$DIMEXO", {40, length(0.625, 0.0625)}},
-            {"$DIMEXE", {40, length(1.25, 0.18)}},
-            {"$DIMTXT", {40, length(2.5, 0.18)}},
-            {"$DIMGAP", {40, length(0.625, 0.09)}},
             {"$INSUNITS", {70, qint64(isMetric ? 4 : 1)}},
             {"$MEASUREMENT", {70, qint64(isMetric ? 1 : 0)}}};
 }
 
-/// The same lengths as the header has them for the dimensions to come.
+/// The variables of dimensions, which depend on the unit as well.
+void setDimensionVariables(Drawing &drawing)
+{
+    for (const DimensionVariable &variable : dimensionVariables()) {
+        if (variable.since <= newVersion && variable.until >= newVersion)
+            drawing.header().set(u'$' + QString::fromLatin1(variable.name), usualValue(drawing, variable));
+    }
+}
+
+/// The same as the header has for the dimensions to come.
 FieldList dimensionStyle(const Drawing &drawing, Handle textStyle)
 {
-    FieldList fields = {{70, qint64(0)}, {40, 1.0}};
-    for (const auto &[code, name] :
-         {std::pair{41, u"$DIMASZ"_s}, std::pair{42, u"$DIMEXO"_s}, std::pair{44, u"$DIMEXE"_s},
-          std::pair{140, u"$DIMTXT"_s}, std::pair{147, u"$DIMGAP"_s}})
-        fields.push_back({code, drawing.header().real(name)});
-    for (const auto &[code, value] : {std::pair{73, 0}, std::pair{74, 0}, std::pair{77, 1}, std::pair{271, 2},
-                                      std::pair{272, 2}, std::pair{277, 2}})
-        fields.push_back({code, qint64(value)});
-    fields.push_back({340, textStyle});
+    FieldList fields = {{70, qint64(0)}};
+    for (const DimensionVariable &variable : dimensionVariables()) {
+        const bool isNamed = variable.styleCode >= firstHandleCode && variable.styleCode <= lastHandleCode;
+        const bool isInHeader = variable.since <= newVersion && variable.until >= newVersion;
+        if (variable.styleCode != 0 && !isNamed && isInHeader)
+            fields.push_back({variable.styleCode, usualValue(drawing, variable).value});
+    }
+    fields.push_back({firstHandleCode, textStyle});
     return fields;
 }
 
@@ -207,6 +215,7 @@ std::unique_ptr<Drawing> newDrawing(Measurement measurement)
         for (const auto &[name, value] : variables)
             draft->header().set(QString::fromLatin1(name), value);
     }
+    setDimensionVariables(*draft);
     addTables(*draft);
     addObjects(*draft);
     // Read afresh: no journal, and every record in one piece of memory.

@@ -15,6 +15,10 @@ namespace {
 constexpr int softOwnerCode = 350;
 constexpr int hardOwnerCode = 360;
 constexpr int cloningCode = 280;
+constexpr int variableCode = 1;
+const QString variablesEntry = u"AcDbVariableDictionary"_s;
+const QString variableType = u"DICTIONARYVAR"_s;
+const QString variableMarker = u"DictionaryVariables"_s;
 
 bool isSameName(const QString &name, QStringView wanted)
 {
@@ -208,6 +212,37 @@ RecordId Dictionaries::setXrecord(RecordId dictionary, const QString &name, cons
     fields.insert(fields.end(), data.begin(), data.end());
     m_drawing.setFields(existing, fields);
     return existing;
+}
+
+std::optional<QString> Dictionaries::variable(QStringView name) const
+{
+    const RecordId record = find(find(root(), variablesEntry), name);
+    if (!isValid(record) || !m_drawing.isType(record, variableType.toLatin1()))
+        return std::nullopt;
+    return m_drawing.tags(record).text(variableCode);
+}
+
+bool Dictionaries::setVariable(const QString &name, const QString &value)
+{
+    if (!hasOwners(m_drawing))
+        return false;
+    const JournalGroup group(m_drawing.journal(), {});
+    const RecordId all = ensureDictionary(ensureRoot(), variablesEntry);
+    if (!isValid(all))
+        return false;
+    if (const RecordId present = find(all, name); isValid(present)) {
+        if (!m_drawing.isType(present, variableType.toLatin1()))
+            return false;
+        FieldList fields = m_drawing.fields(present);
+        setField(fields, variableCode, value);
+        m_drawing.setFields(present, fields);
+        return true;
+    }
+    ensureClass(m_drawing, variableType);
+    const RecordId made =
+        insertObject(m_drawing, variableType, m_drawing.handle(all),
+                     {{subclassCode, variableMarker}, {cloningCode, qint64(0)}, {variableCode, value}});
+    return set(all, name, made);
 }
 
 RecordId Dictionaries::extensionDictionary(RecordId record) const

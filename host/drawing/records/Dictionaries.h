@@ -49,6 +49,13 @@ public:
     /// Creates or replaces the extension record under `name`; noRecord in R12, or when the entry is something else.
     RecordId setXrecord(RecordId dictionary, const QString &name, const FieldList &data);
 
+    /// A setting that the drawing keeps among its objects (AcDbVariableDictionary), as text: CANNOSCALE and the like.
+    /// Nothing where the drawing does not say it.
+    std::optional<QString> variable(QStringView name) const;
+    /// Changes the setting, making its object where it is missing. False, and nothing happens, in versions before
+    /// R2000, or when something else has the setting's name.
+    bool setVariable(const QString &name, const QString &value);
+
     /// Whether a tag of this code behind an entry's name leads to its object.
     static bool isReference(int code);
 

@@ -40,6 +40,7 @@ constexpr ClassRule classRules[] = {
     {"IMAGEDEF"_L1, "AcDbRasterImageDef"_L1, "ISM"_L1, 0, false},
     {"WIPEOUT"_L1, "AcDbWipeout"_L1, "WipeOut"_L1, 2175},
     {"WIPEOUTVARIABLES"_L1, "AcDbWipeoutVariables"_L1, "WipeOut"_L1, 0, false},
+    {"DICTIONARYVAR"_L1, "AcDbDictionaryVar"_L1, "ObjectDBX Classes"_L1, 0, false},
     {"SPATIAL_FILTER"_L1, "AcDbSpatialFilter"_L1, "ObjectDBX Classes"_L1, 0, false},
     {"RTEXT"_L1, "RText"_L1, "RText"_L1, 0},
 };

@@ -7,6 +7,7 @@
 #include "host/kernel/platform/Services.h"
 #include "host/kernel/running/CommandAliases.h"
 #include "host/kernel/variables/SettingsStore.h"
+#include "host/kernel/variables/UserVariables.h"
 
 #include <QPointer>
 #include <QWidget>
@@ -67,6 +68,8 @@ public:
     CommandAliases &aliases() { return m_aliases; }
     /// What is kept between sessions, in home()/settings.ini.
     SettingsStore &settings() { return m_settings; }
+    /// The system variables among them.
+    UserVariables &userVariables() { return m_userVariables; }
     /// Where programs are loaded from, and what drawings may read.
     TrustedFolders &trustedFolders() { return m_trustedFolders; }
 
@@ -127,6 +130,7 @@ private:
     QString m_helpFolder;
     CommandAliases m_aliases;
     SettingsStore m_settings;
+    UserVariables m_userVariables{m_settings};
     int m_lispHeapSetting;               ///< MB, between leastLispHeap and largestLispHeap
     int m_lispHeapCap = largestLispHeap; ///< MB, for this run
     TrustedFolders m_trustedFolders{*this};

@@ -2,7 +2,12 @@
 
 #include "platform/Export.h"
 
+#include <QHash>
 #include <QString>
+
+#include <functional>
+
+class QSettings;
 
 namespace host::kernel {
 
@@ -19,9 +24,18 @@ public:
     /// False when it cannot be kept.
     bool setText(const QString &globalName, const QString &localName, const QString &value);
 
+    // All texts of one global name, by their local names; reading and changing them costs the file once.
+    QHash<QString, QString> texts(const QString &globalName) const;
+    /// Those given are changed, others stay. False when they cannot be kept.
+    bool setTexts(const QString &globalName, const QHash<QString, QString> &values);
+    /// Takes one away, or with an empty local name all of the global name. False when that cannot be kept.
+    bool remove(const QString &globalName, const QString &localName);
+
     QString path() const { return m_path; }
 
 private:
+    bool change(const std::function<void(QSettings &)> &work);
+
     QString m_path;
 };
 

@@ -1,12 +1,16 @@
 #include "host/kernel/variables/SystemVariables.h"
 
 #include "host/drawing/editing/WipeoutFrame.h"
+#include "host/drawing/records/Dictionaries.h"
 #include "host/drawing/records/HeaderVariables.h"
+#include "host/drawing/records/Tables.h"
 #include "host/kernel/documents/CurrentSpace.h"
 #include "host/kernel/documents/Document.h"
 #include "host/kernel/documents/Session.h"
 #include "host/kernel/platform/Editor.h"
 #include "host/kernel/variables/HostVariables.h"
+#include "host/kernel/variables/UserVariables.h"
+#include "host/kernel/variables/VariableText.h"
 
 #include <QtMath>
 
@@ -21,6 +25,9 @@ using drawing::Vec3;
 
 /// Group code of angles in the header: degrees in the file, radians for programs.
 constexpr int angleCode = 50;
+
+/// Digits that lose nothing of a real.
+constexpr int exactDigits = 17;
 
 const QString wipeoutFrame = QStringLiteral("WIPEOUTFRAME");
 
@@ -72,42 +79,17 @@ Field headerField(int code, const VariableValue &value)
     return field;
 }
 
-/// `value` as the kind that `like` is; nothing when it cannot be.
-std::optional<VariableValue> convertedTo(const VariableValue &like, const VariableValue &value)
+/// The model's viewport; noRecord while a sheet is current, which has its own.
+drawing::RecordId modelViewport(const drawing::Drawing &drawing)
 {
-    if (like.index() == value.index())
-        return value;
-    if (std::holds_alternative<double>(like) && std::holds_alternative<qint32>(value))
-        return double(std::get<qint32>(value));
-    if (std::holds_alternative<Vec3>(like) && std::holds_alternative<Vec2>(value)) {
-        const Vec2 flat = std::get<Vec2>(value);
-        return Vec3{flat.x, flat.y, 0.0};
-    }
-    if (std::holds_alternative<Vec2>(like) && std::holds_alternative<Vec3>(value))
-        return std::get<Vec3>(value).xy();
-    return {};
+    if (currentSpace(drawing) == drawing::Space::Paper)
+        return drawing::noRecord;
+    return drawing.tables().find(drawing::TableKind::Viewport, u"*Active");
 }
 
-bool isInRange(const HostVariable &variable, const VariableValue &value)
+bool hasHeader(const HostVariable &variable, drawing::Version version)
 {
-    if (variable.low >= variable.high)
-        return true;
-    double number = 0.0;
-    if (const auto *integer = std::get_if<qint32>(&value))
-        number = *integer;
-    else if (const auto *real = std::get_if<double>(&value))
-        number = *real;
-    else
-        return true;
-    return number >= variable.low && number <= variable.high;
-}
-
-/// CECOLOR is text to programs and a number in the file.
-qint64 colourNumber(const QString &text)
-{
-    if (text.compare(QStringLiteral("BYLAYER"), Qt::CaseInsensitive) == 0)
-        return 256;
-    return text.compare(QStringLiteral("BYBLOCK"), Qt::CaseInsensitive) == 0 ? 0 : text.toInt();
+    return variable.since <= version && version <= variable.until;
 }
 
 } // namespace
@@ -128,26 +110,66 @@ std::optional<VariableValue> SystemVariables::headerValue(const QString &name) c
     return fromField(*field);
 }
 
+std::optional<VariableValue> SystemVariables::viewportValue(const HostVariable &variable) const
+{
+    const drawing::Drawing &drawing = m_document.drawing();
+    const drawing::RecordId viewport = modelViewport(drawing);
+    if (!isValid(viewport))
+        return {};
+    for (const Field &field : drawing.fields(viewport))
+        if (field.code == variable.code)
+            return fromField(field);
+    return {};
+}
+
+std::optional<VariableValue> SystemVariables::userValue(const HostVariable &variable) const
+{
+    const std::optional<QString> text = m_document.session().userVariables().text(QString::fromLatin1(variable.name));
+    const std::optional<VariableValue> value = text ? variableFromText(variable.initial, *text) : std::nullopt;
+    // Anybody may have written into the file of settings.
+    return value && isInRange(variable, *value) ? value : std::nullopt;
+}
+
+std::optional<VariableValue> SystemVariables::dictionaryValue(const HostVariable &variable) const
+{
+    const QString name = QString::fromLatin1(variable.name);
+    if (m_values.contains(name))
+        return {};
+    const std::optional<QString> text = m_document.drawing().dictionaries().variable(name);
+    return text ? variableFromText(variable.initial, *text) : headerValue(name);
+}
+
+std::optional<VariableValue> SystemVariables::storedValue(const HostVariable &variable) const
+{
+    switch (variable.place) {
+    case VariablePlace::Header:
+        return headerValue(QString::fromLatin1(variable.name));
+    case VariablePlace::Viewport:
+        return viewportValue(variable);
+    case VariablePlace::User:
+        return userValue(variable);
+    case VariablePlace::Dictionary:
+        return dictionaryValue(variable);
+    case VariablePlace::Document:
+    case VariablePlace::Computed:
+        break;
+    }
+    return {};
+}
+
 std::optional<VariableValue> SystemVariables::get(QStringView name) const
 {
     const QString upper = name.toString().toUpper();
     const HostVariable *variable = findHostVariable(upper);
     if (!variable)
         return headerValue(upper);
-    switch (variable->place) {
-    case VariablePlace::Header:
-        // A file may have the wrong group code; programs rely on the kind.
-        if (const std::optional<VariableValue> value = headerValue(upper))
-            if (std::optional<VariableValue> usual = convertedTo(variable->initial, *value))
-                return usual;
-        return m_values.value(upper, variable->initial);
-    case VariablePlace::Host:
-        return m_values.value(upper, variable->initial);
-    case VariablePlace::Computed:
-        break;
-    }
-    const auto stored = m_values.constFind(upper);
-    return stored != m_values.constEnd() ? *stored : variable->compute(m_document);
+    // A file may have the wrong group code; programs rely on the kind.
+    if (const std::optional<VariableValue> value = storedValue(*variable))
+        if (std::optional<VariableValue> usual = convertedTo(variable->initial, *value))
+            return usual;
+    if (const auto set = m_values.constFind(upper); set != m_values.constEnd())
+        return *set;
+    return variable->compute ? variable->compute(m_document) : usualValue(m_document, *variable);
 }
 
 SetOutcome SystemVariables::set(QStringView name, const VariableValue &value)
@@ -159,65 +181,86 @@ SetOutcome SystemVariables::set(QStringView name, const VariableValue &value)
     const HostVariable *variable = findHostVariable(upper);
     if (variable && variable->access == VariableAccess::ReadOnly)
         return SetOutcome::ReadOnly;
-    const std::optional<VariableValue> converted = convertedTo(*present, value);
-    if (!converted)
+    std::optional<VariableValue> wanted = convertedTo(*present, value);
+    if (!wanted)
         return SetOutcome::WrongType;
-    if (variable &&
-        (!isInRange(*variable, *converted) || (variable->accepts && !variable->accepts(m_document, *converted))))
+    if (variable && !isInRange(*variable, *wanted))
+        return SetOutcome::OutOfRange;
+    if (variable && variable->accept)
+        wanted = variable->accept(m_document, *wanted);
+    if (!wanted)
         return SetOutcome::OutOfRange;
     m_document.session().editor().sysVarWillChange(m_document.database(), name.toString());
-    setInternally(upper, *converted);
+    setInternally(upper, *wanted);
     return SetOutcome::Done;
 }
 
 void SystemVariables::setInternally(QStringView name, const VariableValue &value)
 {
     const QString upper = name.toString().toUpper();
+    // A drawing that does not say what counts anyway goes on not saying it.
+    if (get(upper) == value)
+        return;
     const HostVariable *variable = findHostVariable(upper);
-    drawing::HeaderVariables &header = m_document.drawing().header();
-    if (upper == QStringLiteral("CECOLOR")) {
-        header.set(u"$CECOLOR", Field{62, colourNumber(std::get<QString>(value))});
-    } else if (upper == QStringLiteral("CTAB")) {
-        setCurrentLayout(m_document.drawing(), std::get<QString>(value));
-    } else if (upper == QStringLiteral("LOGFILEPATH")) {
-        const QString folder = std::get<QString>(value);
-        m_values.insert(upper, folder.endsWith(u'/') ? folder : folder + u'/');
-    } else if (upper == QStringLiteral("LISPHEAPMAX")) {
-        m_document.session().setLispHeapLimit(std::get<qint32>(value));
-    } else if (upper == QStringLiteral("TRUSTEDPATHS") || upper == QStringLiteral("READPATHS")) {
-        const auto list = upper.startsWith(u'T') ? TrustedFolders::List::Run : TrustedFolders::List::Read;
-        if (!m_document.session().trustedFolders().setNamed(std::get<QString>(value), list))
-            m_document.print(QStringLiteral("\n%1 cannot be kept.\n").arg(upper));
-    } else if (variable && variable->place != VariablePlace::Header) {
+    if (variable && variable->store)
+        variable->store(m_document, value);
+    else if (!variable || variable->place == VariablePlace::Header)
+        setInHeader(upper, variable, value);
+    else if (variable->place == VariablePlace::User)
+        m_document.session().userVariables().set(upper, variableText(value, exactDigits));
+    else if (variable->place != VariablePlace::Viewport || !setInViewport(*variable, value))
         m_values.insert(upper, value);
-    } else {
-        const QString headed = headerName(m_document.drawing(), upper);
-        const std::optional<Field> present = header.get(headed);
-        const int code = present ? present->code : variable ? variable->code : 1;
-        const bool isOfOther =
-            isOfSheet(m_document.drawing(), upper) && layoutCode(upper) != 0 && !isSheetInHeader(m_document.drawing());
-        if (!isOfOther)
-            header.set(headed, headerField(code, value));
-        if (const auto *limit = std::get_if<Vec2>(&value); limit && isOfSheet(m_document.drawing(), upper))
-            setLayoutLimit(m_document.drawing(), layoutCode(upper), *limit);
-        // Old files may have no header at all: there the value lasts as long as the document is open.
-        if (!header.get(headed))
-            m_values.insert(upper, value);
-    }
     if (upper == QStringLiteral("CTAB") || upper == QStringLiteral("TILEMODE"))
         m_document.followLayout();
 }
 
+void SystemVariables::setInHeader(const QString &name, const HostVariable *variable, const VariableValue &value)
+{
+    drawing::Drawing &drawing = m_document.drawing();
+    const QString headed = headerName(drawing, name);
+    const std::optional<Field> present = drawing.header().get(headed);
+    const int code = present ? present->code : variable ? variable->code : 1;
+    const bool isOfOther = isOfSheet(drawing, name) && layoutCode(name) != 0 && !isSheetInHeader(drawing);
+    if (!isOfOther && (present || !variable || hasHeader(*variable, drawing.version())))
+        drawing.header().set(headed, headerField(code, value));
+    if (const auto *limit = std::get_if<Vec2>(&value); limit && isOfSheet(drawing, name))
+        setLayoutLimit(drawing, layoutCode(name), *limit);
+    // Old files may have no header at all, or none of that name: there the value lasts as long as the document is open.
+    if (!drawing.header().get(headed))
+        m_values.insert(name, value);
+}
+
+bool SystemVariables::setInViewport(const HostVariable &variable, const VariableValue &value)
+{
+    drawing::Drawing &drawing = m_document.drawing();
+    const drawing::RecordId viewport = modelViewport(drawing);
+    if (!isValid(viewport))
+        return false;
+    drawing::FieldList fields = drawing.fields(viewport);
+    drawing::setField(fields, variable.code, headerField(variable.code, value).value);
+    drawing.setFields(viewport, fields);
+    return true;
+}
+
 void SystemVariables::storeObjectSettings()
 {
-    const auto frame = m_values.constFind(wipeoutFrame);
-    if (frame == m_values.constEnd())
-        return;
-    const qint32 value = std::get<qint32>(*frame);
     drawing::Drawing &drawing = m_document.drawing();
-    // In a version that has no such object the value lasts as long as the document is open.
-    if (drawing::wipeoutFrame(drawing) == value || drawing::setWipeoutFrame(drawing, value))
-        m_values.erase(frame);
+    // In a version that has no such objects the values last as long as the document is open.
+    m_values.removeIf([&](const auto &entry) {
+        const HostVariable *variable = findHostVariable(entry.key());
+        if (entry.key() == wipeoutFrame) {
+            const qint32 value = std::get<qint32>(entry.value());
+            return drawing::wipeoutFrame(drawing) == value || drawing::setWipeoutFrame(drawing, value);
+        }
+        if (!variable || variable->place != VariablePlace::Dictionary)
+            return false;
+        const QString text = variableText(entry.value(), exactDigits);
+        const std::optional<QString> present = drawing.dictionaries().variable(entry.key());
+        const bool isUnsaid = !present && entry.value() == usualValue(m_document, *variable);
+        return isUnsaid || present == text || drawing.dictionaries().setVariable(entry.key(), text);
+    });
+    if (!m_document.session().userVariables().store())
+        m_document.print(QStringLiteral("\nThe user's settings cannot be kept.\n"));
 }
 
 qint32 SystemVariables::integer(QStringView name, qint32 otherwise) const
@@ -252,18 +295,7 @@ QString SystemVariables::text(QStringView name) const
 QString SystemVariables::display(QStringView name) const
 {
     const std::optional<VariableValue> value = get(name);
-    if (!value)
-        return {};
-    const auto number = [](double real) { return QString::number(real, 'g', 12); };
-    if (const auto *integer = std::get_if<qint32>(&*value))
-        return QString::number(*integer);
-    if (const auto *real = std::get_if<double>(&*value))
-        return number(*real);
-    if (const auto *flat = std::get_if<Vec2>(&*value))
-        return number(flat->x) + u',' + number(flat->y);
-    if (const auto *point = std::get_if<Vec3>(&*value))
-        return number(point->x) + u',' + number(point->y) + u',' + number(point->z);
-    return std::get<QString>(*value);
+    return value ? variableText(*value) : QString();
 }
 
 bool SystemVariables::isReadOnly(QStringView name) const

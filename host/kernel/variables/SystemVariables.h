@@ -12,6 +12,7 @@
 namespace host::kernel {
 
 class Document;
+struct HostVariable;
 
 /// The value of a system variable: an integer, a real, text or a point, flat or not. Lengths are drawing units, angles
 /// radians. Which of the kinds a variable has never changes.
@@ -28,9 +29,9 @@ enum class SetOutcome
 };
 
 /// The system variables of one document, by name without regard to letter case: those of the drawing's header (named
-/// without the $ that the file has; changing one is an undoable change of the drawing), those of its objects and those
-/// of the host. Angles
-/// are radians. Numbers given for a real variable may be integers; the other way round is refused.
+/// without the $ that the file has; changing one is an undoable change of the drawing), those of its objects, those of
+/// the user's settings and those of the host. Angles are radians. Numbers given for a real variable may be integers;
+/// the other way round is refused. Setting what a variable is already changes nothing, nor the drawing.
 class KV_EXPORT SystemVariables
 {
 public:
@@ -55,9 +56,10 @@ public:
     /// As text, whatever its kind: what a prompt shows. Empty for an unknown name.
     QString display(QStringView name) const;
 
-    /// Puts into the drawing what is kept in one of its objects and was set since the last time. Called at the end of
-    /// each run and before the drawing is saved, so that a setting which a program changes and puts back leaves no
-    /// trace: making the object takes a handle, which cannot be given back.
+    /// Puts into the drawing what is kept in one of its objects, and into the user's settings what is kept there, as
+    /// far as it was set since the last time. Called at the end of each run and before the drawing is saved, so that a
+    /// setting which a program changes and puts back leaves no trace: making the object takes a handle, which cannot be
+    /// given back.
     void storeObjectSettings();
 
     /// Whether set() refuses every value; false for an unknown name.
@@ -66,10 +68,18 @@ public:
     QStringList names() const;
 
 private:
+    // What is kept where the variable's row says; nothing where it does not say it.
     std::optional<VariableValue> headerValue(const QString &name) const;
+    std::optional<VariableValue> viewportValue(const HostVariable &variable) const;
+    std::optional<VariableValue> userValue(const HostVariable &variable) const;
+    std::optional<VariableValue> dictionaryValue(const HostVariable &variable) const;
+    std::optional<VariableValue> storedValue(const HostVariable &variable) const;
+    void setInHeader(const QString &name, const HostVariable *variable, const VariableValue &value);
+    bool setInViewport(const HostVariable &variable, const VariableValue &value);
 
     Document &m_document;
-    QHash<QString, VariableValue> m_values; ///< host variables that were set, by upper-case name
+    /// By upper-case name: what is kept in memory, and what has still to be put into an object of the drawing.
+    QHash<QString, VariableValue> m_values;
 };
 
 } // namespace host::kernel

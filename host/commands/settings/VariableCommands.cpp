@@ -1,0 +1,114 @@
+#include "host/commands/Commands.h"
+#include "host/drawing/selection/Wildcard.h"
+#include "host/kernel/documents/Document.h"
+#include "host/kernel/input/Units.h"
+#include "host/kernel/running/CommandContext.h"
+#include "host/kernel/running/Dialogue.h"
+#include "host/kernel/variables/HostVariables.h"
+#include "host/kernel/variables/VariableText.h"
+
+using namespace Qt::StringLiterals;
+
+namespace host::kernel {
+
+namespace {
+
+/// Texts in quotes, as programs write them.
+QString listedValue(const SystemVariables &variables, const QString &name)
+{
+    const std::optional<VariableValue> value = variables.get(name);
+    const QString shown = value ? variableText(*value) : QString();
+    return value && std::holds_alternative<QString>(*value) ? u'"' + shown + u'"' : shown;
+}
+
+/// Names with wildcards, divided by commas; an empty answer means all. True when there were some.
+Dialogue<bool> listVariables(CommandContext &context)
+{
+    const PromptReply typed = co_await context.text(u"Enter variable(s) to list <*>: "_s, u"*"_s);
+    const QString pattern = typed.hasValue() ? typed.text.trimmed() : u"*"_s;
+    const SystemVariables &variables = context.document().variables();
+    QString lines;
+    for (const QString &name : variables.names()) {
+        if (drawing::matchesWildcard(name, pattern))
+            lines += u"\n%1 %2%3"_s.arg(name.leftJustified(23), listedValue(variables, name),
+                                        variables.isReadOnly(name) ? u" (read only)"_s : QString());
+    }
+    context.print(lines.isEmpty() ? u"\nNo variable has such a name."_s : lines);
+    co_return !lines.isEmpty();
+}
+
+/// Switches may be said in words, lengths in the drawing's units.
+std::optional<VariableValue> typedValue(const SystemVariables &variables, const QString &name,
+                                        const VariableValue &present, const QString &text)
+{
+    const HostVariable *row = findHostVariable(name);
+    if (row && std::holds_alternative<qint32>(present) && row->low == 0.0 && row->high == 1.0)
+        for (const auto &[word, value] : {std::pair{u"OFF"_s, 0}, std::pair{u"ON"_s, 1}})
+            if (text.trimmed().compare(word, Qt::CaseInsensitive) == 0)
+                return value;
+    std::optional<VariableValue> value = variableFromText(present, text);
+    if (!value && std::holds_alternative<double>(present))
+        if (const std::optional<double> length = UnitFormat::of(variables).parseLength(text))
+            return *length;
+    return value;
+}
+
+/// What a value of that variable must be.
+QString requirement(const QString &name, const VariableValue &present)
+{
+    const HostVariable *row = findHostVariable(name);
+    const bool hasRange = row && row->low < row->high;
+    const auto between = [&](const QString &what) {
+        const bool isOpen = !hasRange || row->high >= 1e99;
+        return isOpen ? u"Requires %1."_s.arg(what)
+                      : u"Requires %1 between %2 and %3."_s.arg(what).arg(row->low).arg(row->high);
+    };
+    if (std::holds_alternative<qint32>(present))
+        return between(u"an integer"_s);
+    if (std::holds_alternative<double>(present))
+        return between(u"a number"_s);
+    if (std::holds_alternative<QString>(present))
+        return u"Cannot set %1 to that value."_s.arg(name);
+    return u"Requires a point."_s;
+}
+
+// Name of a variable, or ? to list them, and a new value; an empty value leaves it.
+CommandTask setVariable(CommandContext &context)
+{
+    SystemVariables &variables = context.document().variables();
+    const PromptReply typedName = co_await context.name(u"Enter variable name or [?]: "_s);
+    const QString name = typedName.text.trimmed().toUpper();
+    if (name == u"?"_s) {
+        co_await listVariables(context);
+        co_return;
+    }
+    const std::optional<VariableValue> present = variables.get(name);
+    if (!present) {
+        context.fail(u"Unknown variable name \"%1\". Type SETVAR ? for a list of variables."_s.arg(name));
+        co_return;
+    }
+    const QString shown = listedValue(variables, name);
+    if (variables.isReadOnly(name)) {
+        context.print(u"\n%1 = %2 (read only)"_s.arg(name, shown));
+        co_return;
+    }
+    while (true) {
+        const PromptReply typed = co_await context.text(u"Enter new value for %1 <%2>: "_s.arg(name, shown), shown);
+        if (!typed.hasValue())
+            co_return;
+        const std::optional<VariableValue> value = typedValue(variables, name, *present, typed.text);
+        if (value && variables.set(name, *value) == SetOutcome::Done)
+            co_return;
+        if (context.refuse(requirement(name, *present)))
+            co_return;
+    }
+}
+
+} // namespace
+
+std::vector<CommandRow> variableCommands()
+{
+    return {{"SETVAR", setVariable, "Shows, lists or sets a system variable"}};
+}
+
+} // namespace host::kernel
