@@ -1,7 +1,7 @@
 #include "host/commands/Commands.h"
 #include "host/commands/annotate/NewDimension.h"
 #include "host/drawing/annotation/DimensionStyle.h"
-#include "host/drawing/annotation/DimensionVariables.h"
+#include "host/drawing/annotation/StyleValues.h"
 #include "host/drawing/math/Angles.h"
 #include "host/drawing/records/Blocks.h"
 #include "host/drawing/records/Entities.h"
@@ -62,8 +62,9 @@ double lineSpacing(const drawing::Drawing &drawing, RecordId dimension)
     const RecordId style = drawing.tables().find(drawing::TableKind::DimStyle, name ? name->text() : u"Standard"_s);
     const FieldList overrides = drawing::overridesOf(fields);
     const drawing::DimensionVariable &variable = *drawing::dimensionVariable(u"DIMDLI");
-    double spacing = isValid(style) ? valueInStyle(drawing, drawing.fields(style), variable).real() : variable.usual;
-    if (const drawing::Field *own = drawing::findField(overrides, variable.code))
+    const FieldList said = isValid(style) ? drawing.fields(style) : FieldList();
+    double spacing = valueInStyle(drawing, said, variable).real();
+    if (const drawing::Field *own = drawing::findField(overrides, variable.styleCode))
         spacing = own->real();
     return spacing * readDimensionStyle(drawing, drawing.tags(dimension)).scale;
 }

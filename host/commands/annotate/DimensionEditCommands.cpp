@@ -1,7 +1,7 @@
 #include "host/commands/Commands.h"
 #include "host/commands/annotate/NewDimension.h"
 #include "host/commands/common/EntityEdits.h"
-#include "host/drawing/annotation/DimensionVariables.h"
+#include "host/drawing/annotation/StyleValues.h"
 #include "host/drawing/records/Entities.h"
 #include "host/drawing/records/Tables.h"
 #include "host/kernel/documents/Document.h"
@@ -168,11 +168,11 @@ CommandTask editDimensionText(CommandContext &context)
 /// A typed value of a variable in the form of the header; nothing for one that it does not take.
 std::optional<Field> typedValue(CommandContext &context, const DimensionVariable &variable, const QString &typed)
 {
-    if (variable.kind == DimensionValue::Real) {
+    if (kindOf(variable) == DimensionValue::Real) {
         const auto value = UnitFormat::of(context.document().variables()).parseLength(typed);
         return value ? std::optional(Field{40, *value}) : std::nullopt;
     }
-    if (variable.kind != DimensionValue::Integer)
+    if (kindOf(variable) != DimensionValue::Integer)
         return Field{1, typed};
     if (typed.compare(u"on", Qt::CaseInsensitive) == 0 || typed.compare(u"off", Qt::CaseInsensitive) == 0)
         return Field{70, qint64(typed.size() == 2 ? 1 : 0)};
@@ -187,9 +187,9 @@ QString valueInUse(CommandContext &context, const DimensionVariable &variable)
     const RecordId style = drawing.tables().find(drawing::TableKind::DimStyle, currentDimensionStyle(context));
     const Field value =
         valueInHeader(drawing, variable).value_or(valueInStyle(drawing, drawing.fields(style), variable));
-    if (variable.kind == DimensionValue::Real)
+    if (kindOf(variable) == DimensionValue::Real)
         return context.shownLength(value.real());
-    return variable.kind == DimensionValue::Integer ? QString::number(value.integer()) : value.text();
+    return kindOf(variable) == DimensionValue::Integer ? QString::number(value.integer()) : value.text();
 }
 
 /// Variables with their values, until an empty answer; nothing when one was refused.
@@ -198,7 +198,7 @@ Dialogue<std::optional<FieldList>> askOverrides(CommandContext &context, QString
     FieldList overrides;
     for (QString name = firstName; !name.isEmpty();) {
         const DimensionVariable *variable = drawing::dimensionVariable(name);
-        if (!variable) {
+        if (!variable || !isOfStyles(*variable)) {
             if (context.refuse(u"Unknown dimension variable \"%1\"."_s.arg(name)))
                 co_return std::nullopt;
         } else {

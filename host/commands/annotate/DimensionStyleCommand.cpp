@@ -1,7 +1,7 @@
 #include "host/commands/Commands.h"
 #include "host/commands/annotate/NewDimension.h"
 #include "host/commands/common/EntityEdits.h"
-#include "host/drawing/annotation/DimensionVariables.h"
+#include "host/drawing/annotation/StyleValues.h"
 #include "host/drawing/records/Entities.h"
 #include "host/drawing/records/Tables.h"
 #include "host/drawing/selection/Wildcard.h"
@@ -22,9 +22,9 @@ namespace {
 
 QString shownValue(CommandContext &context, const DimensionVariable &variable, const Field &value)
 {
-    if (variable.kind == drawing::DimensionValue::Real)
+    if (kindOf(variable) == drawing::DimensionValue::Real)
         return context.shownLength(value.real());
-    return variable.kind == drawing::DimensionValue::Integer ? QString::number(value.integer()) : value.text();
+    return kindOf(variable) == drawing::DimensionValue::Integer ? QString::number(value.integer()) : value.text();
 }
 
 /// Prints the variables: those in use, or those of a style.
@@ -32,6 +32,8 @@ void listVariables(CommandContext &context, RecordId style, bool isInUse)
 {
     const FieldList fields = context.drawing().fields(style);
     for (const DimensionVariable &variable : drawing::dimensionVariables()) {
+        if (!isOfStyles(variable))
+            continue;
         Field value = valueInStyle(context.drawing(), fields, variable);
         if (isInUse)
             value = valueInHeader(context.drawing(), variable).value_or(value);

@@ -2,7 +2,7 @@
 
 #include "host/drawing/annotation/DimensionBlock.h"
 #include "host/drawing/annotation/DimensionText.h"
-#include "host/drawing/annotation/DimensionVariables.h"
+#include "host/drawing/annotation/StyleValues.h"
 #include "host/drawing/records/Blocks.h"
 #include "host/drawing/records/HeaderVariables.h"
 #include "host/drawing/records/Tables.h"

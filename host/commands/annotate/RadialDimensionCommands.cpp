@@ -1,7 +1,7 @@
 #include "host/commands/Commands.h"
 #include "host/commands/annotate/MeasuredObject.h"
 #include "host/commands/annotate/NewDimension.h"
-#include "host/drawing/annotation/DimensionVariables.h"
+#include "host/drawing/annotation/StyleValues.h"
 #include "host/drawing/records/Tables.h"
 #include "host/kernel/documents/Document.h"
 

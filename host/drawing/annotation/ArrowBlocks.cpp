@@ -1,5 +1,5 @@
 #include "host/drawing/annotation/Arrowheads.h"
-#include "host/drawing/annotation/DimensionVariables.h"
+#include "host/drawing/annotation/StyleValues.h"
 #include "host/drawing/records/Blocks.h"
 #include "host/drawing/records/Entities.h"
 

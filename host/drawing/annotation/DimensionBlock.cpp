@@ -1,6 +1,6 @@
 #include "host/drawing/annotation/DimensionBlock.h"
 
-#include "host/drawing/annotation/DimensionVariables.h"
+#include "host/drawing/annotation/StyleValues.h"
 #include "host/drawing/math/Angles.h"
 #include "host/drawing/records/Blocks.h"
 #include "host/drawing/records/Entities.h"

@@ -1,8 +1,6 @@
 #pragma once
 
-#include "host/drawing/records/Drawing.h"
-
-#include <span>
+#include "host/drawing/records/DimensionVariables.h"
 
 namespace host::drawing {
 
@@ -17,19 +15,12 @@ enum class DimensionValue
     Linetype   ///< likewise
 };
 
-/// One variable of the DIM family: the header has it by name, a dimension style and the overrides of a dimension by
-/// group code.
-struct DimensionVariable
-{
-    const char *name; ///< without the $ of the header
-    int code;         ///< in a style
-    DimensionValue kind;
-    double usual = 0.0; ///< where a file says nothing; texts are empty then
-};
-/// In the order in which styles list them.
-std::span<const DimensionVariable> dimensionVariables();
-/// By name without the $, in any letter case; null for none.
-const DimensionVariable *dimensionVariable(QStringView name);
+DimensionValue kindOf(const DimensionVariable &variable);
+/// Whether styles and overrides have it, under its group of a style. DIMTFILLCLR is left out: its group in a style is
+/// that of the style's flags.
+bool isOfStyles(const DimensionVariable &variable);
+
+// The variables that these take are of styles.
 
 /// What a style says about a variable, in the form of the header (names in place of handles). `style` are the fields of
 /// a DIMSTYLE entry.

@@ -1,4 +1,4 @@
-#include "host/drawing/annotation/DimensionVariables.h"
+#include "host/drawing/annotation/StyleValues.h"
 
 #include "host/drawing/records/HeaderVariables.h"
 #include "host/drawing/records/TableCodes.h"
@@ -7,6 +7,7 @@
 #include "host/drawing/tags/GroupCodes.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace host::drawing {
 
@@ -16,83 +17,9 @@ namespace {
 
 using enum DimensionValue;
 
-constexpr DimensionVariable variableRows[] = {
-    {"DIMPOST", 3, Text},
-    {"DIMAPOST", 4, Text},
-    {"DIMSCALE", 40, Real, 1.0},
-    {"DIMASZ", 41, Real, 0.18},
-    {"DIMEXO", 42, Real, 0.0625},
-    {"DIMDLI", 43, Real, 0.38},
-    {"DIMEXE", 44, Real, 0.18},
-    {"DIMRND", 45, Real},
-    {"DIMDLE", 46, Real},
-    {"DIMTP", 47, Real},
-    {"DIMTM", 48, Real},
-    {"DIMFXL", 49, Real, 1.0},
-    {"DIMTXT", 140, Real, 0.18},
-    {"DIMCEN", 141, Real, 0.09},
-    {"DIMTSZ", 142, Real},
-    {"DIMALTF", 143, Real, 25.4},
-    {"DIMLFAC", 144, Real, 1.0},
-    {"DIMTVP", 145, Real},
-    {"DIMTFAC", 146, Real, 1.0},
-    {"DIMGAP", 147, Real, 0.09},
-    {"DIMALTRND", 148, Real},
-    {"DIMTFILL", 69, Integer},
-    {"DIMTOL", 71, Integer},
-    {"DIMLIM", 72, Integer},
-    {"DIMTIH", 73, Integer, 1.0},
-    {"DIMTOH", 74, Integer, 1.0},
-    {"DIMSE1", 75, Integer},
-    {"DIMSE2", 76, Integer},
-    {"DIMTAD", 77, Integer},
-    {"DIMZIN", 78, Integer},
-    {"DIMAZIN", 79, Integer},
-    {"DIMARCSYM", 90, Integer},
-    {"DIMALT", 170, Integer},
-    {"DIMALTD", 171, Integer, 2.0},
-    {"DIMTOFL", 172, Integer},
-    {"DIMSAH", 173, Integer},
-    {"DIMTIX", 174, Integer},
-    {"DIMSOXD", 175, Integer},
-    {"DIMCLRD", 176, Integer},
-    {"DIMCLRE", 177, Integer},
-    {"DIMCLRT", 178, Integer},
-    {"DIMADEC", 179, Integer},
-    {"DIMDEC", 271, Integer, 4.0},
-    {"DIMTDEC", 272, Integer, 4.0},
-    {"DIMALTU", 273, Integer, 2.0},
-    {"DIMALTTD", 274, Integer, 2.0},
-    {"DIMAUNIT", 275, Integer},
-    {"DIMFRAC", 276, Integer},
-    {"DIMLUNIT", 277, Integer, 2.0},
-    {"DIMDSEP", 278, Integer, 46.0},
-    {"DIMTMOVE", 279, Integer},
-    {"DIMJUST", 280, Integer},
-    {"DIMSD1", 281, Integer},
-    {"DIMSD2", 282, Integer},
-    {"DIMTOLJ", 283, Integer, 1.0},
-    {"DIMTZIN", 284, Integer},
-    {"DIMALTZ", 285, Integer},
-    {"DIMALTTZ", 286, Integer},
-    {"DIMUPT", 288, Integer},
-    {"DIMATFIT", 289, Integer, 3.0},
-    {"DIMFXLON", 290, Integer},
-    {"DIMTXSTY", 340, TextStyle},
-    {"DIMLDRBLK", 341, Arrow},
-    {"DIMBLK", 342, Arrow},
-    {"DIMBLK1", 343, Arrow},
-    {"DIMBLK2", 344, Arrow},
-    {"DIMLTYPE", 345, Linetype},
-    {"DIMLTEX1", 346, Linetype},
-    {"DIMLTEX2", 347, Linetype},
-    {"DIMLWD", 371, Integer, -2.0},
-    {"DIMLWE", 372, Integer, -2.0},
-};
-
 bool isNamed(DimensionValue kind)
 {
-    return kind == Arrow || kind == TextStyle || kind == Linetype;
+    return kind == Arrow || kind == DimensionValue::TextStyle || kind == DimensionValue::Linetype;
 }
 
 QString headerName(const DimensionVariable &variable)
@@ -100,59 +27,38 @@ QString headerName(const DimensionVariable &variable)
     return u'$' + QString::fromLatin1(variable.name);
 }
 
-/// The group that the header keeps a variable under.
-int headerCode(const DimensionVariable &variable)
-{
-    switch (variable.kind) {
-    case Real:
-        return 40;
-    case Integer:
-        return 70;
-    case TextStyle:
-        return 7;
-    case Linetype:
-        return 6;
-    default:
-        return 1;
-    }
-}
-
 /// Files before R2000 name the arrow heads of a style under these groups.
 int earlyCode(const DimensionVariable &variable)
 {
-    return variable.code >= 342 && variable.code <= 344 ? variable.code - 337 : 0;
+    return variable.styleCode >= 342 && variable.styleCode <= 344 ? variable.styleCode - 337 : 0;
 }
 
-FieldValue usualValue(const DimensionVariable &variable)
+/// What counts where a style does not say it, in inches as in millimetres.
+FieldValue usualInStyle(const DimensionVariable &variable)
 {
-    switch (variable.kind) {
-    case Real:
-        return variable.usual;
-    case Integer:
-        return static_cast<qint64>(variable.usual);
-    case TextStyle:
-        return u"Standard"_s;
-    default:
-        return QString();
-    }
+    if (const auto *number = std::get_if<int>(&variable.imperial))
+        return qint64(*number);
+    if (const auto *real = std::get_if<double>(&variable.imperial))
+        return *real;
+    return QString::fromLatin1(std::get<const char *>(variable.imperial));
 }
 
 /// Names of arrow heads and tables go by without their underscore and letter case; a dot stands for none.
 QString comparable(const DimensionVariable &variable, const QString &name)
 {
     QString plain = name.trimmed().toLower();
-    if (variable.kind == Arrow && (plain == u"." || plain == u"_closedfilled" || plain == u"closedfilled"))
+    if (kindOf(variable) == Arrow && (plain == u"." || plain == u"_closedfilled" || plain == u"closedfilled"))
         return {};
-    if (variable.kind == Arrow && plain.startsWith(u'_'))
+    if (kindOf(variable) == Arrow && plain.startsWith(u'_'))
         plain.remove(0, 1);
     return plain;
 }
 
 bool areSame(const DimensionVariable &variable, const Field &a, const Field &b)
 {
-    if (variable.kind == Real)
+    if (kindOf(variable) == Real)
         return std::abs(a.real() - b.real()) <= 1e-12 * std::max(1.0, std::abs(a.real()));
-    if (variable.kind == Integer)
+    if (kindOf(variable) == Integer)
         return a.integer() == b.integer();
     return comparable(variable, a.text()) == comparable(variable, b.text());
 }
@@ -165,9 +71,21 @@ QString nameOfRecord(const Drawing &drawing, Handle handle)
 
 TableKind tableOf(const DimensionVariable &variable)
 {
-    return variable.kind == Arrow       ? TableKind::BlockRecord
-           : variable.kind == TextStyle ? TableKind::Style
-                                        : TableKind::Linetype;
+    return kindOf(variable) == Arrow                       ? TableKind::BlockRecord
+           : kindOf(variable) == DimensionValue::TextStyle ? TableKind::Style
+                                                           : TableKind::Linetype;
+}
+
+/// Those of styles, by their group there.
+const std::vector<DimensionVariable> &styleVariables()
+{
+    static const std::vector<DimensionVariable> rows = [] {
+        std::vector<DimensionVariable> found;
+        std::ranges::copy_if(dimensionVariables(), std::back_inserter(found), isOfStyles);
+        std::ranges::sort(found, {}, &DimensionVariable::styleCode);
+        return found;
+    }();
+    return rows;
 }
 
 /// Which fields of `entity` are the overrides: from the word DSTYLE up to behind its closing brace; both at the end
@@ -192,32 +110,40 @@ std::pair<std::size_t, std::size_t> overrideRange(const FieldList &entity)
 
 } // namespace
 
-std::span<const DimensionVariable> dimensionVariables()
+DimensionValue kindOf(const DimensionVariable &variable)
 {
-    return variableRows;
+    switch (variable.headerCode) {
+    case 40:
+        return Real;
+    case 7:
+        return DimensionValue::TextStyle;
+    case 6:
+        return DimensionValue::Linetype;
+    case 1:
+        return variable.styleCode > 340 ? Arrow : Text;
+    default:
+        return Integer;
+    }
 }
 
-const DimensionVariable *dimensionVariable(QStringView name)
+bool isOfStyles(const DimensionVariable &variable)
 {
-    const auto found = std::ranges::find_if(variableRows, [name](const DimensionVariable &row) {
-        return name.compare(QLatin1StringView(row.name), Qt::CaseInsensitive) == 0;
-    });
-    return found == std::end(variableRows) ? nullptr : found;
+    return variable.styleCode != 0 && variable.styleCode != 70;
 }
 
 Field valueInStyle(const Drawing &drawing, const FieldList &style, const DimensionVariable &variable)
 {
-    const int code = headerCode(variable);
+    const int code = variable.headerCode;
     if (const Field *early = findField(style, earlyCode(variable)); early && earlyCode(variable) != 0)
         return {code, early->text()};
-    const Field *found = findField(style, variable.code);
+    const Field *found = findField(style, variable.styleCode);
     if (!found)
-        return {code, usualValue(variable)};
-    if (isNamed(variable.kind))
+        return {code, usualInStyle(variable)};
+    if (isNamed(kindOf(variable)))
         return {code, nameOfRecord(drawing, found->handle())};
-    if (variable.kind == Real)
+    if (kindOf(variable) == Real)
         return {code, found->real()};
-    return variable.kind == Integer ? Field{code, found->integer()} : Field{code, found->text()};
+    return kindOf(variable) == Integer ? Field{code, found->integer()} : Field{code, found->text()};
 }
 
 std::optional<Field> valueInHeader(const Drawing &drawing, const DimensionVariable &variable)
@@ -227,17 +153,17 @@ std::optional<Field> valueInHeader(const Drawing &drawing, const DimensionVariab
 
 Field fieldOfStyle(Drawing &drawing, const DimensionVariable &variable, const Field &value)
 {
-    if (variable.kind == Real)
-        return {variable.code, value.real()};
-    if (variable.kind == Integer)
-        return {variable.code, value.integer()};
-    if (variable.kind == Text)
-        return {variable.code, value.text()};
-    const QString name = variable.kind == Arrow ? ensureArrowBlock(drawing, value.text()) : value.text();
-    if (variable.kind == Arrow && drawing.version() < Version::R2000)
-        return {earlyCode(variable) != 0 ? earlyCode(variable) : variable.code, name};
+    if (kindOf(variable) == Real)
+        return {variable.styleCode, value.real()};
+    if (kindOf(variable) == Integer)
+        return {variable.styleCode, value.integer()};
+    if (kindOf(variable) == Text)
+        return {variable.styleCode, value.text()};
+    const QString name = kindOf(variable) == Arrow ? ensureArrowBlock(drawing, value.text()) : value.text();
+    if (kindOf(variable) == Arrow && drawing.version() < Version::R2000)
+        return {earlyCode(variable) != 0 ? earlyCode(variable) : variable.styleCode, name};
     const RecordId record = name.isEmpty() ? noRecord : drawing.tables().find(tableOf(variable), name);
-    return {variable.code, isValid(record) ? drawing.handle(record) : Handle{}};
+    return {variable.styleCode, isValid(record) ? drawing.handle(record) : Handle{}};
 }
 
 FieldList currentOverrides(Drawing &drawing, const QString &style)
@@ -247,9 +173,9 @@ FieldList currentOverrides(Drawing &drawing, const QString &style)
     if (!isValid(record))
         return result;
     const FieldList fields = drawing.fields(record);
-    for (const DimensionVariable &variable : variableRows) {
+    for (const DimensionVariable &variable : styleVariables()) {
         const std::optional<Field> value = valueInHeader(drawing, variable);
-        const bool isKnown = hasCode(TableKind::DimStyle, variable.code, drawing.version());
+        const bool isKnown = hasCode(TableKind::DimStyle, variable.styleCode, drawing.version());
         if (value && isKnown && !areSame(variable, *value, valueInStyle(drawing, fields, variable)))
             result.push_back(fieldOfStyle(drawing, variable, *value));
     }
@@ -259,11 +185,11 @@ FieldList currentOverrides(Drawing &drawing, const QString &style)
 void makeStyleCurrent(Drawing &drawing, RecordId style)
 {
     const FieldList fields = drawing.fields(style);
-    for (const DimensionVariable &variable : variableRows) {
+    for (const DimensionVariable &variable : styleVariables()) {
         const Field value = valueInStyle(drawing, fields, variable);
         // What the header leaves out is what a style leaves out.
         const std::optional<Field> present = valueInHeader(drawing, variable);
-        const bool isNeeded = present || !areSame(variable, value, {value.code, usualValue(variable)});
+        const bool isNeeded = present || !areSame(variable, value, {value.code, usualInStyle(variable)});
         if (isNeeded && !(present && areSame(variable, *present, value)))
             drawing.header().set(headerName(variable), value);
     }
@@ -275,11 +201,11 @@ RecordId saveStyle(Drawing &drawing, const QString &name)
     const RecordId current = drawing.tables().find(TableKind::DimStyle, drawing.header().text(u"$DIMSTYLE"));
     const FieldList base = isValid(current) ? drawing.fields(current) : FieldList{};
     FieldList fields = {{70, qint64(0)}};
-    for (const DimensionVariable &variable : variableRows) {
+    for (const DimensionVariable &variable : styleVariables()) {
         const Field value = valueInHeader(drawing, variable).value_or(valueInStyle(drawing, base, variable));
-        const bool isUsual = areSame(variable, value, {value.code, usualValue(variable)});
-        const bool isKnown = hasCode(TableKind::DimStyle, variable.code, drawing.version());
-        if (isKnown && (!isUsual || findField(base, variable.code)))
+        const bool isUsual = areSame(variable, value, {value.code, usualInStyle(variable)});
+        const bool isKnown = hasCode(TableKind::DimStyle, variable.styleCode, drawing.version());
+        if (isKnown && (!isUsual || findField(base, variable.styleCode)))
             fields.push_back(fieldOfStyle(drawing, variable, value));
     }
     const RecordId there = drawing.tables().find(TableKind::DimStyle, name);
