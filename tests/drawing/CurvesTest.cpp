@@ -1,4 +1,5 @@
 #include "host/drawing/curves/Crossings.h"
+#include "host/drawing/curves/Offset.h"
 #include "tests/drawing/DrawingSample.h"
 
 #include <numbers>
@@ -266,6 +267,151 @@ TEST(Crossings, OfACurveWithItself)
     ASSERT_EQ(found.size(), 1U);
     EXPECT_DOUBLE_EQ(found.front().first, 0.5);
     EXPECT_DOUBLE_EQ(found.front().second, 2.5);
+}
+
+/// The curve that a record becomes in a drawing of its own.
+EntityCurve made(const CurveRecord &record)
+{
+    const auto drawing = sample("AC1018");
+    const CreateResult created = record.create(*drawing, Space::Model);
+    EXPECT_TRUE(created) << created.error.toStdString();
+    EXPECT_AUDIT_CLEAN(*drawing);
+    return EntityCurve::ofEntity(*drawing, created.record).value();
+}
+
+TEST(Sections, AreWhatTheyWereOfTheCurve)
+{
+    for (const CurveRow &row : curveRows) {
+        SCOPED_TRACE(row.name);
+        const auto drawing = sample("AC1018", row.fields);
+        const RecordId entity = drawing->entities().inSpace(Space::Model).front();
+        const EntityCurve whole = *EntityCurve::ofEntity(*drawing, entity);
+        const double from = at(whole, 0.23);
+        const double to = at(whole, 0.71);
+        const std::optional<CurveRecord> record = curveSection(*drawing, entity, from, to);
+        EXPECT_EQ(record.has_value(), whole.kind() != EntityCurve::Kind::Leader);
+        if (!record)
+            continue;
+        const EntityCurve part = made(*record);
+        const double length = whole.distanceAt(to) - whole.distanceAt(from);
+        EXPECT_NEAR(part.length(), length, 1e-8 * length);
+        EXPECT_LE((part.startPoint() - whole.point(from)).length(), 1e-9);
+        EXPECT_LE((part.endPoint() - whole.point(to)).length(), 1e-9);
+        for (const double share : {0.1, 0.5, 0.8})
+            EXPECT_TRUE(whole.parameterAt(part.point(at(part, share)))) << share;
+        const std::optional<CurveRecord> rest = curveSection(*drawing, entity, to, from);
+        EXPECT_EQ(rest.has_value(), whole.isClosed());
+        if (rest) {
+            EXPECT_NEAR(made(*rest).length(), whole.length() - length, 1e-8 * length);
+        }
+    }
+}
+
+TEST(Sections, GoOnBeyondTheEnds)
+{
+    const auto drawing =
+        sample("AC1018", "0 LINE\n8 WALLS\n62 3\n10 0\n20 0\n11 3\n21 4\n0 ARC\n10 0\n20 0\n40 2\n50 0\n51 90\n"
+                         "0 LWPOLYLINE\n90 3\n70 0\n10 0\n20 0\n40 1\n41 3\n10 4\n20 0\n40 3\n41 3\n42 1\n10 4\n20 2");
+    const std::vector<RecordId> entities = drawing->entities().inSpace(Space::Model);
+    const CurveRecord line = curveSection(*drawing, entities[0], -5, 10).value();
+    EXPECT_LE((findField(line.head, 10)->point() - Vec3{-3, -4, 0}).length(), 1e-12);
+    EXPECT_LE((findField(line.head, 11)->point() - Vec3{6, 8, 0}).length(), 1e-12);
+    EXPECT_EQ(findField(line.head, 8)->text().toStdString(), "WALLS");
+    const EntityCurve arc = made(curveSection(*drawing, entities[1], -pi / 2, pi).value());
+    EXPECT_NEAR(arc.length(), 3 * pi, 1e-12);
+    const CurveRecord polyline = curveSection(*drawing, entities[2], -0.5, 1.5).value();
+    EXPECT_NEAR(made(polyline).length(), 6 + pi / 2, 1e-12);
+    EXPECT_EQ(findField(polyline.head, 40)->real(), 1.0);
+    const CurveRecord half = curveSection(*drawing, entities[2], 0.5, 1).value();
+    EXPECT_EQ(findField(half.head, 40)->real(), 2.0);
+    EXPECT_FALSE(curveSection(*drawing, entities[0], 3, 3));
+    EXPECT_FALSE(curveSection(*drawing, entities[0], 4, 3));
+}
+
+struct OffsetRow
+{
+    const char *name;
+    const char *fields;
+    double distance;
+    std::vector<double> areas; ///< or lengths, where open, sorted
+};
+
+const char *const rectangle = "0 LWPOLYLINE\n90 4\n70 1\n10 0\n20 0\n10 10\n20 0\n10 10\n20 4\n10 0\n20 4";
+// Two rooms with a passage of width 1.
+const char *const rooms =
+    "0 LWPOLYLINE\n90 12\n70 1\n10 0\n20 0\n10 4\n20 0\n10 4\n20 1.5\n10 6\n20 1.5\n10 6\n20 0\n10 10\n20 0\n"
+    "10 10\n20 4\n10 6\n20 4\n10 6\n20 2.5\n10 4\n20 2.5\n10 4\n20 4\n10 0\n20 4";
+
+const OffsetRow offsetRows[] = {
+    {"line", "0 LINE\n10 0\n20 0\n11 3\n21 4", 2, {5}},
+    {"circle outwards", "0 CIRCLE\n10 0\n20 0\n40 5", 1, {36 * pi}},
+    {"circle inwards", "0 CIRCLE\n10 0\n20 0\n40 5", -1, {16 * pi}},
+    {"circle that vanishes", "0 CIRCLE\n10 0\n20 0\n40 5", -5, {}},
+    {"arc", "0 ARC\n10 0\n20 0\n40 5\n50 0\n51 90", 1, {3 * pi}},
+    {"rectangle outwards", rectangle, 1, {12 * 6}},
+    {"rectangle inwards", rectangle, -1, {8 * 2}},
+    {"rectangle that vanishes", rectangle, -2.5, {}},
+    {"rooms", rooms, -0.25, {3.5 * 3.5 * 2 + 2.5 * 0.5}},
+    {"rooms apart", rooms, -1, {4, 4}},
+    {"angle inside", "0 LWPOLYLINE\n90 3\n70 0\n10 0\n20 0\n10 10\n20 0\n10 10\n20 10", -1, {18}},
+    {"angle outside", "0 LWPOLYLINE\n90 3\n70 0\n10 0\n20 0\n10 10\n20 0\n10 10\n20 10", 1, {22}},
+    {"corner that is cut away",
+     "0 LWPOLYLINE\n90 4\n70 0\n10 0\n20 0\n10 10\n20 0\n10 11\n20 1\n10 11\n20 11",
+     -5,
+     {12}},
+    {"slot",
+     "0 LWPOLYLINE\n90 4\n70 1\n10 0\n20 0\n42 0\n10 4\n20 0\n42 1\n10 4\n20 2\n42 0\n10 0\n20 2\n42 1",
+     1,
+     {16 + 4 * pi}},
+    {"slot inwards",
+     "0 LWPOLYLINE\n90 4\n70 1\n10 0\n20 0\n42 0\n10 4\n20 0\n42 1\n10 4\n20 2\n42 0\n10 0\n20 2\n42 1",
+     -0.5,
+     {4 + pi / 4}},
+    {"mirrored rectangle",
+     "0 LWPOLYLINE\n90 4\n70 1\n10 0\n20 0\n10 10\n20 0\n10 10\n20 4\n10 0\n20 4\n210 0\n220 0\n230 -1",
+     1,
+     {72}},
+};
+
+TEST(Offsets, KeepTheirDistance)
+{
+    for (const OffsetRow &row : offsetRows) {
+        SCOPED_TRACE(row.name);
+        const auto drawing = sample("AC1018", row.fields);
+        const RecordId entity = drawing->entities().inSpace(Space::Model).front();
+        const EntityCurve original = *EntityCurve::ofEntity(*drawing, entity);
+        std::vector<double> sizes;
+        for (const CurveRecord &record : offsetCurve(*drawing, entity, row.distance, {0, 0, 1})) {
+            const EntityCurve curve = made(record);
+            sizes.push_back(curve.isClosed() ? curve.area() : curve.length());
+            for (int i = 0; i < 100; ++i) {
+                const Vec3 point = curve.point(at(curve, (i + 0.5) / 100));
+                EXPECT_GE((original.point(original.closest(point)) - point).length(), std::abs(row.distance) - 1e-6);
+                EXPECT_GT(offsetDistance(original, point, {0, 0, 1}) * row.distance, 0.0);
+            }
+        }
+        std::ranges::sort(sizes);
+        ASSERT_EQ(sizes.size(), row.areas.size());
+        for (size_t i = 0; i < sizes.size(); ++i)
+            EXPECT_NEAR(sizes[i], row.areas[i], 1e-6);
+    }
+}
+
+TEST(Offsets, OfAnEllipseAreFitted)
+{
+    const auto drawing = sample("AC1018", curveRows[5].fields);
+    const RecordId entity = drawing->entities().inSpace(Space::Model).front();
+    const EntityCurve ellipse = *EntityCurve::ofEntity(*drawing, entity);
+    const std::vector<CurveRecord> records = offsetCurve(*drawing, entity, 1.5, {0, 0, 1});
+    ASSERT_EQ(records.size(), 1U);
+    const EntityCurve curve = made(records.front());
+    EXPECT_TRUE(curve.isClosed());
+    for (int i = 0; i < 200; ++i) {
+        const Vec3 point = curve.point(at(curve, i / 200.0));
+        EXPECT_NEAR((ellipse.point(ellipse.closest(point)) - point).length(), 1.5, 2e-5);
+    }
+    // What is parallel to a closed convex curve is longer by a whole turn of the distance.
+    EXPECT_NEAR(curve.length(), ellipse.length() + 2 * pi * 1.5, 1e-4);
 }
 
 } // namespace

@@ -83,6 +83,12 @@ struct PassedPoints
     }
 };
 
+/// Whether two points differ by rounding alone.
+bool isSamePlace(const Vec3 &a, const Vec3 &b)
+{
+    return (a - b).length() <= 1e-14 * (a.length() + b.length());
+}
+
 /// Directions at points of a cubic through them, from the demand that curvature is steady there: one row each of a
 /// system that couples neighbours alone.
 std::vector<Vec3> steadySlopes(const PassedPoints &passed, const std::optional<Vec3> &start,
@@ -230,10 +236,10 @@ Spline fittedSpline(const std::vector<Vec3> &points, bool isClosed, const std::o
     spline.isClosed = isClosed;
     PassedPoints passed{spacing};
     for (const Vec3 &point : points) {
-        if (passed.points.empty() || point != passed.points.back())
+        if (passed.points.empty() || !isSamePlace(point, passed.points.back()))
             passed.add(point);
     }
-    if (isClosed && passed.points.size() > 1 && passed.points.front() != passed.points.back())
+    if (isClosed && passed.points.size() > 1 && !isSamePlace(passed.points.front(), passed.points.back()))
         passed.add(passed.points.front());
     if (passed.points.size() < 2)
         return spline;
