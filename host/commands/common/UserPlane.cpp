@@ -33,7 +33,7 @@ double UserPlane::objectDegrees(double userAngle) const
 
 Matrix UserPlane::rotation(double angle, const Vec3 &centre) const
 {
-    return m_user * Matrix::rotation(angle, userFromWorld(centre)) * m_toUser;
+    return inWorld(Matrix::rotation(angle, userFromWorld(centre)));
 }
 
 drawing::FieldList UserPlane::placed(drawing::FieldList fields) const

@@ -27,6 +27,9 @@ public:
     /// Turning and scaling in the plane, round a point in world coordinates. The angle is in radians.
     drawing::Matrix rotation(double angle, const drawing::Vec3 &centre) const;
 
+    /// A map in user coordinates as one of the world.
+    drawing::Matrix inWorld(const drawing::Matrix &map) const { return m_user * map * m_toUser; }
+
     /// `fields` with the plane's direction (group 210) where it is not the usual one.
     drawing::FieldList placed(drawing::FieldList fields) const;
 

@@ -1,5 +1,6 @@
 #include "host/commands/Commands.h"
 #include "host/commands/common/EntityEdits.h"
+#include "host/commands/common/Movement.h"
 #include "host/commands/common/ReferenceValue.h"
 #include "host/commands/common/UserPlane.h"
 #include "host/kernel/documents/Document.h"
@@ -25,17 +26,6 @@ CommandTask erase(CommandContext &context)
         context.drawing().setErased(id, true);
 }
 
-/// A displacement, typed as a point: the way from the user's origin to it.
-Dialogue<Vec3> askDisplacement(CommandContext &context)
-{
-    const QString zero = context.shownLength(0.0);
-    const QString usual = u"%1, %1, %1"_s.arg(zero);
-    const UserPlane plane(context.document());
-    const PromptReply reply =
-        co_await context.point(u"Specify displacement <%1>: "_s.arg(usual), {}, plane.worldFromUser({}), usual);
-    co_return reply.hasValue() ? plane.displacement(reply.point) : Vec3{};
-}
-
 // Base point and second point, or a displacement; an empty second point takes the first one as the displacement.
 CommandTask move(CommandContext &context)
 {
@@ -43,33 +33,52 @@ CommandTask move(CommandContext &context)
     const std::vector<RecordId> entities = editable(context, chosen.entities);
     if (entities.empty())
         co_return;
-    const PromptReply from =
-        co_await context.point(u"Specify base point or [Displacement] <Displacement>: "_s, {}, {}, u"Displacement"_s);
-    if (!from.hasValue()) {
-        const Vec3 by = co_await askDisplacement(context);
-        transformAll(context, entities, Matrix::translation(by));
-        co_return;
-    }
-    const PromptReply to =
-        co_await context.point(u"Specify second point or <use first point as displacement>: "_s, {}, from.point);
-    const Vec3 by = to.hasValue() ? to.point - from.point : UserPlane(context.document()).displacement(from.point);
+    const Vec3 by = co_await askMovement(context);
     transformAll(context, entities, Matrix::translation(by));
 }
 
+using Copies = std::vector<RecordId>;
+
+/// A row of copies from the base point on: their number, with the original, and the second one or with Fit the last.
+Dialogue<Copies> askCopiesInRow(CommandContext &context, const Copies &entities, Vec3 from)
+{
+    constexpr int fewest = 2;
+    PromptReply count;
+    do {
+        count = co_await context.integer(u"Enter number of items to array: "_s, {}, {}, NoEmptyAnswer | NoNegative);
+        if (count.integer < fewest && context.refuse(u"Requires an integer of 2 or more."_s))
+            co_return Copies();
+    } while (count.integer < fewest);
+    PromptReply to = co_await context.neededPoint(u"Specify second point or [Fit]: "_s, from);
+    const bool isFit = to.isKeyword(u"Fit");
+    if (isFit)
+        to = co_await context.neededPoint(u"Specify second point: "_s, from);
+    const int steps = count.integer - 1;
+    Copies made;
+    if (!mayCopy(context, entities.size(), steps))
+        co_return made;
+    const Vec3 step = (to.point - from) * (isFit ? 1.0 / steps : 1.0);
+    for (int i = 1; i <= steps; ++i)
+        std::ranges::copy(copyAll(context, entities, Matrix::translation(step * i)), std::back_inserter(made));
+    co_return made;
+}
+
 /// Asks where the copies go, one after another, as far as COPYMODE lets it; Undo takes the last one back.
-Dialogue<bool> askCopies(CommandContext &context, const std::vector<RecordId> &entities, Vec3 from)
+Dialogue<bool> askCopies(CommandContext &context, const Copies &entities, Vec3 from)
 {
     const auto copyTo = [&](const Vec3 &by) { return copyAll(context, entities, Matrix::translation(by)); };
-    PromptReply to = co_await context.point(u"Specify second point or <use first point as displacement>: "_s, {}, from);
-    if (!to.hasValue()) {
+    PromptReply to =
+        co_await context.point(u"Specify second point or [Array] <use first point as displacement>: "_s, {}, from);
+    if (to.isEmpty()) {
         copyTo(UserPlane(context.document()).displacement(from));
         co_return true;
     }
-    std::vector<std::vector<RecordId>> made = {copyTo(to.point - from)};
-    while (context.document().variables().integer(u"COPYMODE") == 0) {
-        to = co_await context.point(u"Specify second point or [Exit/Undo] <Exit>: "_s, {}, from, u"Exit"_s);
+    std::vector<Copies> made;
+    for (;;) {
         if (to.hasValue()) {
             made.push_back(copyTo(to.point - from));
+        } else if (to.isKeyword(u"Array")) {
+            made.push_back(co_await askCopiesInRow(context, entities, from));
         } else if (!to.isKeyword(u"Undo")) {
             break;
         } else if (!made.empty()) {
@@ -77,6 +86,9 @@ Dialogue<bool> askCopies(CommandContext &context, const std::vector<RecordId> &e
                 context.drawing().setErased(id, true);
             made.pop_back();
         }
+        if (context.hasFailed() || context.document().variables().integer(u"COPYMODE") != 0)
+            break;
+        to = co_await context.point(u"Specify second point or [Array/Exit/Undo] <Exit>: "_s, {}, from, u"Exit"_s);
     }
     co_return true;
 }

@@ -1,5 +1,6 @@
 #include "host/commands/layers/LayerChanges.h"
 
+#include "host/commands/common/PropertyValues.h"
 #include "host/drawing/records/Dictionaries.h"
 #include "host/drawing/records/Tables.h"
 #include "host/drawing/tags/ExtendedData.h"
@@ -53,15 +54,6 @@ void setBeforeXdata(FieldList &fields, int code, const drawing::FieldValue &valu
     fields.insert(place, {code, value});
 }
 
-/// The number of a colour given by number or name; 0 when it is neither.
-int colourNumber(const QString &text)
-{
-    static const QStringList names = {u"RED"_s,  u"YELLOW"_s,  u"GREEN"_s, u"CYAN"_s,
-                                      u"BLUE"_s, u"MAGENTA"_s, u"WHITE"_s};
-    const int number = text.toInt();
-    return number >= 1 && number <= 255 ? number : int(names.indexOf(text.toUpper())) + 1;
-}
-
 void setColour(FieldList &fields, int number)
 {
     const drawing::Field *present = drawing::findField(fields, colourCode);
@@ -74,20 +66,14 @@ void setColour(FieldList &fields, int number)
 Dialogue<LayerChange> askExactColour(CommandContext &context)
 {
     const PromptReply reply = co_await context.name(u"Red,Green,Blue: "_s);
-    const QStringList parts = reply.text.split(u',');
-    qint64 value = 0;
-    for (const QString &part : parts) {
-        bool isNumber = false;
-        const uint number = part.trimmed().toUInt(&isNumber);
-        if (!isNumber || number > 255 || parts.size() != 3)
-            co_return refused(context, u"Requires three numbers from 0 to 255."_s);
-        value = value * 256 + number;
-    }
+    const std::optional<qint64> value = exactColour(reply.text);
+    if (!value)
+        co_return refused(context, u"Requires three numbers from 0 to 255."_s);
     if (isOlderThan(context, Version::R2004))
         co_return tooOld(context);
     co_return LayerChange{u"color "_s + reply.text, [value](FieldList &fields) {
                               removeField(fields, colourBookCode);
-                              setBeforeXdata(fields, exactColourCode, value);
+                              setBeforeXdata(fields, exactColourCode, *value);
                           }};
 }
 
@@ -121,15 +107,6 @@ Dialogue<LayerChange> askLinetype(CommandContext &context)
     const QString known = tables.name(entry);
     co_return LayerChange{u"linetype \"%1\""_s.arg(known),
                           [known](FieldList &fields) { setBeforeXdata(fields, 6, known); }};
-}
-
-/// The nearest of the weights that drawings have, in hundredths of a millimetre.
-int nearestWeight(double millimetres)
-{
-    static constexpr int weights[] = {0,  5,  9,  13, 15, 18,  20,  25,  30,  35,  40,  50,
-                                      53, 60, 70, 80, 90, 100, 106, 120, 140, 158, 200, 211};
-    return *std::ranges::min_element(weights, {},
-                                     [millimetres](int weight) { return std::abs(weight - millimetres * 100.0); });
 }
 
 Dialogue<LayerChange> askWeight(CommandContext &context)

@@ -41,7 +41,7 @@ FieldList::iterator ownFields(FieldList &fields)
                         [](const Field &field) { return field.code == subclassCode && field.text() == u"AcDbLayout"; });
 }
 
-void setOwnField(FieldList &fields, int code, const FieldValue &value)
+void setLayoutField(FieldList &fields, int code, const FieldValue &value)
 {
     const auto found =
         std::find_if(ownFields(fields), fields.end(), [code](const Field &field) { return field.code == code; });
@@ -58,7 +58,7 @@ Handle entryHandle(const Drawing &drawing, RecordId block)
 void setEntryOf(Drawing &drawing, RecordId layout, RecordId block)
 {
     FieldList fields = drawing.fields(layout);
-    setOwnField(fields, entryHandleCode, entryHandle(drawing, block));
+    setLayoutField(fields, entryHandleCode, entryHandle(drawing, block));
     drawing.setFields(layout, fields);
     if (const RecordId entry = drawing.blocks().read(block).tableEntry; isValid(entry)) {
         FieldList own = drawing.fields(entry);
@@ -133,9 +133,9 @@ void copyPage(Drawing &drawing, const LayoutTab &from, const LayoutTab &to, cons
     if (!isValid(from.record))
         return;
     FieldList fields = pageFields(drawing, from.record);
-    setOwnField(fields, 1, to.name);
-    setOwnField(fields, 71, to.order);
-    setOwnField(fields, entryHandleCode, entryHandle(drawing, to.block));
+    setLayoutField(fields, 1, to.name);
+    setLayoutField(fields, 71, to.order);
+    setLayoutField(fields, entryHandleCode, entryHandle(drawing, to.block));
     followViewport(fields, made);
     drawing.setFields(to.record, fields);
 }
@@ -231,7 +231,7 @@ QString renameLayout(Drawing &drawing, const LayoutTab &layout, const QString &n
         entry->value = name;
     drawing.setFields(names, entries);
     FieldList fields = drawing.fields(layout.record);
-    setOwnField(fields, 1, name);
+    setLayoutField(fields, 1, name);
     drawing.setFields(layout.record, fields);
     return {};
 }

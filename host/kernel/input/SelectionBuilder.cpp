@@ -147,7 +147,10 @@ void SelectionBuilder::finishShape()
         kind = m_corners[1].x < m_corners[0].x ? ShapeKind::Crossing : ShapeKind::Window;
     m_shape.reset();
     m_shapeByDirection = false;
-    take(Picker(m_document).inShape(kind, m_corners));
+    std::vector<RecordId> found = Picker(m_document).inShape(kind, m_corners);
+    take(found);
+    if (!m_isRemoving)
+        m_shapes.push_back({kind, m_corners, std::move(found)});
 }
 
 void SelectionBuilder::take(const std::vector<RecordId> &found)

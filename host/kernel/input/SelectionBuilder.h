@@ -15,6 +15,14 @@ enum class SelectionSize
     Single ///< one step
 };
 
+/// A window, polygon or fence of a selection, and what it found.
+struct SelectionShape
+{
+    ShapeKind kind = ShapeKind::Window;
+    std::vector<drawing::Vec3> corners; ///< world coordinates; of a window two
+    std::vector<drawing::RecordId> found;
+};
+
 /// A selection while it grows, step by step: who asks the user puts each reply in and asks request() next.
 ///
 ///     SelectionBuilder chosen(document);
@@ -38,6 +46,8 @@ public:
     bool isCancelled() const { return m_isCancelled; }
     /// What is chosen, in the order of choosing.
     const std::vector<drawing::RecordId> &entities() const { return m_entities; }
+    /// The shapes by which entities were added, in order.
+    const std::vector<SelectionShape> &shapes() const { return m_shapes; }
 
 private:
     void addIdle(const PromptReply &reply);
@@ -52,6 +62,7 @@ private:
     std::function<bool(drawing::RecordId)> m_accepts;
     QString m_prompt = QStringLiteral("\nSelect objects: ");
     std::vector<drawing::RecordId> m_entities;
+    std::vector<SelectionShape> m_shapes;
     QSet<quint32> m_members;
     std::vector<std::vector<drawing::RecordId>> m_before; ///< for Undo: the selection before each step
     std::optional<ShapeKind> m_shape;                     ///< corners of it are being asked for

@@ -64,6 +64,8 @@ public:
     /// or script; false when the user is there to be asked again.
     bool refuse(const QString &reason);
     bool hasFailed() const { return m_hasFailed; }
+    /// Whether the last answer was an argument of a Lisp program's (command).
+    bool isAnsweredByProgram() const { return m_isAnsweredByProgram; }
 
     /// A length and an angle (radians) as the drawing shows them, in its units and decimals: for default values.
     QString shownLength(double length) const;
@@ -126,8 +128,9 @@ private:
     PromptReply m_reply;               ///< what it gets when it goes on
     std::coroutine_handle<> m_waiting; ///< the body, or the part of it, that stopped for the reply
     bool m_hasFailed = false;
-    bool m_isAnsweredAhead = false;              ///< the last answer came from a program, or more is typed behind it
-    std::optional<SelectionBuilder> m_selection; ///< while a selection grows
+    bool m_isAnsweredAhead = false; ///< the last answer came from a program, or more is typed behind it
+    bool m_isAnsweredByProgram = false;
+    std::optional<SelectionBuilder> m_selection;                    ///< while a selection grows
     std::shared_ptr<const std::vector<drawing::RecordId>> m_chosen; ///< of the last selection
 };
 

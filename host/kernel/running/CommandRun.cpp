@@ -45,6 +45,7 @@ void CommandRun::offer(const InputAnswer &answer)
         return;
     echoPrompt();
     m_context.m_isAnsweredAhead = true;
+    m_context.m_isAnsweredByProgram = true;
     if (std::optional<PromptReply> given = m_dialogue->offer(answer))
         reply(std::move(*given));
     else if (m_dialogue->wasRefused())
@@ -79,6 +80,7 @@ void CommandRun::askUser()
         return leaveInside();
     }
     PromptReply given = m_document.prompts().ask(*m_dialogue, UserInput::WhenRefused::EndBeforeMore);
+    m_context.m_isAnsweredByProgram = false;
     m_context.m_isAnsweredAhead = !m_document.session().input().isEmpty();
     reply(std::move(given));
     if (hasFailed())

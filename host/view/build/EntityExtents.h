@@ -27,6 +27,9 @@ public:
     /// each time, while what was measured of blocks is kept until the drawing changes.
     Box of(RecordId entity);
 
+    /// What it measures by, for those who want the shapes themselves.
+    Scene &scene() { return m_scene; }
+
     void recordChanged(RecordId record, drawing::RecordChange change, drawing::ChangeCause cause) override;
 
 private:

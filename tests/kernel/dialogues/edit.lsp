@@ -19,3 +19,60 @@
 (line 0 0 1 0)(line 1 0 5 5) ;! ERASE|L| ;= LINE 10=0,0,0 11=1,0,0
 (line 0 0 1 0)(line 1 0 5 5) ;! ERASE|ALL|R|L| ;= LINE 10=1,0,0 11=5,5,0
 (command "CIRCLE" '(1 1) 2) ;! SCALE|L||0,0|2 ;= CIRCLE 10=2,2,0 40=4
+(line 0 0 1 0) ;! COPY|ALL||0,0|A|3|0,2| ;~ keeps
+;= LINE 10=0,0,0 11=1,0,0; LINE 10=0,2,0 11=1,2,0; LINE 10=0,4,0 11=1,4,0
+(line 0 0 1 0) ;! COPY|ALL||0,0|A|3|F|0,2| ;~ keeps
+;= LINE 10=0,0,0 11=1,0,0; LINE 10=0,1,0 11=1,1,0; LINE 10=0,2,0 11=1,2,0
+(line 0 0 2 1) ;! MIRROR|ALL||5,0|5,9|Y ;= LINE 10=10,0,0 11=8,1,0
+(line 0 0 2 1) ;! MIRROR|ALL||0,0|1,0| ;= LINE 10=0,0,0 11=2,1,0; LINE 10=0,0,0 11=2,-1,0
+(turned)(line 0 0 2 0) ;! MIRROR|ALL||0,0|5,0|Y ;= LINE 10=20,0,0 11=18,0,0
+(line 0 0 2 1) ;! MIRROR|ALL||5,5|5,5 ;> The two points are one. ;= LINE 10=0,0,0 11=2,1,0
+(arc-at) ;! MIRROR|ALL||0,0|1,0|Y ;= ARC 10=5,-5,0 40=2 50=270
+(text-at 0) ;! MIRROR|ALL||5,0|5,9|Y ;? (list (getfield 50) (< 8.0 (car (getfield 10)) 10.0) (getfield 71)) ;= (0.0 T 0)
+(text-at 0) ;! MIRROR|ALL||0,5|9,5|Y ;? (list (getfield 50) (getfield 10)) ;= (0.0 (0.0 9.0 0.0))
+(setvar "MIRRTEXT" 1)(text-at 0) ;! MIRROR|ALL||5,0|5,9|Y ;? (list (getfield 50) (car (getfield 10)) (getfield 71)) ;= (0.0 10.0 2)
+(door)(command "-INSERT" "Door" '(1 2) 1 "" 0) ;! MIRROR|ALL||5,0|5,9|Y ;= INSERT 2=Door 10=9,2,0 41=-1 42=1 43=1
+(door)(command "-INSERT" "Door" '(1 2) 1 "" 30) ;! MIRROR|ALL||0,0|9,0|Y ;= INSERT 2=Door 10=1,-2,0 41=-1 42=1 43=1 50=150
+(line 1 0 2 0) ;! MIRROR3D|ALL||YZ|5,0,0|Y ;= LINE 10=9,0,0 11=8,0,0
+(line 1 0 2 0) ;! MIRROR3D|ALL||0,0,0|0,0,5|3,3,0|Y ;= LINE 10=0,1,0 11=0,2,0
+(line 1 0 2 0) ;! ROTATE3D|ALL||Y||90 ;= LINE 10=0,0,-1 11=0,0,-2
+(line 1 0 2 0) ;! ROTATE3D|ALL||0,0,0|0,0,1|R|0|90 ;= LINE 10=0,1,0 11=0,2,0
+(line 0 0 1 0) ;! ARRAY|ALL||R|2|2|5|3
+;= LINE 10=0,0,0 11=1,0,0; LINE 10=3,0,0 11=4,0,0; LINE 10=0,5,0 11=1,5,0; LINE 10=3,5,0 11=4,5,0
+(line 0 0 1 0) ;! -ARRAY|ALL|||1|2|-3 ;= LINE 10=0,0,0 11=1,0,0; LINE 10=-3,0,0 11=-2,0,0
+(line 0 0 1 0) ;! -ARRAY|ALL||R|2|2|1,1|3,5
+;= LINE 10=0,0,0 11=1,0,0; LINE 10=2,0,0 11=3,0,0; LINE 10=0,4,0 11=1,4,0; LINE 10=2,4,0 11=3,4,0
+(setvar "SNAPANG" (/ pi 2))(line 0 0 1 0) ;! ARRAY|ALL||R|1|2|3 ;= LINE 10=0,0,0 11=1,0,0; LINE 10=0,3,0 11=1,3,0
+(line 0 0 1 0) ;! ARRAY|ALL||R||| ;> One-element array ;= LINE 10=0,0,0 11=1,0,0
+(line 0 0 1 0) ;! ARRAY|ALL||R|30000|30000|1|1 ;> at most 100000 are made at once ;= LINE 10=0,0,0 11=1,0,0
+(line 1 0 2 0) ;! ARRAY|ALL||P|0,0|4||
+;= LINE 10=1,0,0 11=2,0,0; LINE 10=0,1,0 11=0,2,0; LINE 10=-1,0,0 11=-2,0,0; LINE 10=0,-1,0 11=0,-2,0
+(line 1 0 2 0) ;! ARRAY|ALL||P|0,0|3|-180|N ;= LINE 10=1,0,0 11=2,0,0; LINE 10=0,-1,0 11=1,-1,0; LINE 10=-1,0,0 11=0,0,0
+(line 1 0 2 0) ;! ARRAY|ALL||P|B|2,0|0,0||90|90|N ;= LINE 10=1,0,0 11=2,0,0; LINE 10=-1,2,0 11=0,2,0
+(tilted)(line 1 0 2 0) ;! ARRAY|ALL||P|0,-5|2|180|Y ;= LINE 10=1,0,0 11=2,0,0; LINE 10=-1,0,0 11=-2,0,0
+(line 0 0 2 0) ;! ALIGN|ALL||0,0|5,5| ;= LINE 10=5,5,0 11=7,5,0
+(line 0 0 2 0) ;! ALIGN|ALL||0,0|5,5|2,0|5,9||N ;= LINE 10=5,5,0 11=5,7,0
+(line 0 0 2 0) ;! ALIGN|ALL||0,0|5,5|2,0|5,9||Y ;= LINE 10=5,5,0 11=5,9,0
+(line 0 0 2 0) ;! ALIGN|ALL||0,0,0|0,0,0|1,0,0|0,0,1|0,1,0|0,1,0 ;= LINE 10=0,0,0 11=0,0,2
+(line 0 0 2 0)(layer-a) ;! CHPROP|ALL||LA|A|C|RED|S|2| ;? (mapcar 'getfield '(8 62 48)) ;= ("A" 1 2.0)
+(line 0 0 2 0) ;! CHPROP|ALL||C|T|255,128,0|LW|0.3| ;? (mapcar 'getfield '(420 370)) ;= (16744448 30)
+(line 0 0 2 0)(command "CHPROP" "ALL" "" "C" 3 "LT" "BYBLOCK" "T" 4 "") ;! CHPROP|ALL||C|BYLAYER|T||LT|ByLayer|
+;? (mapcar 'getfield '(62 6 39)) ;= (nil nil 4.0)
+(line 0 0 2 0) ;! CHPROP|ALL||LA|Nowhere ;> Cannot find layer "Nowhere". ;= LINE 10=0,0,0 11=2,0,0
+(line 0 0 2 0) ;! CHANGE|ALL||P|E|4| ;= LINE 10=0,0,4 11=2,0,4
+(line 0 0 2 0)(line 9 9 2 0) ;! CHANGE|ALL||3,1 ;= LINE 10=0,0,0 11=3,1,0; LINE 10=9,9,0 11=3,1,0
+(command "CIRCLE" '(1 1) 2) ;! CHANGE|L||1,6 ;= CIRCLE 10=1,1,0 40=5
+(text-at 0) ;! CHANGE|L||5,5||3|90|new ;= TEXT 10=5,5,0 40=3 1=new 50=90
+(door)(command "-INSERT" "Door" '(1 2) 1 "" 0) ;! CHANGE|L||5,5|90 ;= INSERT 2=Door 10=5,5,0 41=1 42=1 43=1 50=90
+(line 0 0 4 0)(line 2 0 9 9) ;! STRETCH|C|3,-1|5,1||0,0|1,2 ;= LINE 10=0,0,0 11=5,2,0; LINE 10=2,0,0 11=9,9,0
+(line 0 0 4 0) ;! STRETCH|C|-1,-1|5,1||0,0|1,2 ;= LINE 10=1,2,0 11=5,2,0
+(line 0 0 4 0) ;! STRETCH|CP|3,-1|5,-1|5,1|3,1|||D|1,0 ;= LINE 10=0,0,0 11=5,0,0
+(turned)(line 0 0 4 0) ;! STRETCH|C|-19,5|-21,7||0,0|0,-1 ;= LINE 10=0,0,0 11=5,0,0
+(pline '((0 0) (4 0) (4 4)) 0) ;! STRETCH|C|3,3|5,5||0,0|1,0 ;= LWPOLYLINE 10=0,0 10=4,0 10=5,4
+(arc-at) ;! STRETCH|C|3.5,6.5|5,8||0,0|0,0 ;= ARC 10=5,5,0 40=2 51=90
+(layer-a)(line 0 0 2 0)(command "CHPROP" "L" "" "LA" "A" "C" 1 "")(line 0 5 2 5) ;! MATCHPROP|1,0|1,5|
+;? (mapcar 'getfield '(8 62)) ;= ("A" 1)
+(layer-a)(line 0 0 2 0)(command "CHPROP" "L" "" "LA" "A" "C" 1 "")(line 0 5 2 5) ;! MATCHPROP|1,0|S|L||1,5|
+;? (mapcar 'getfield '(8 62)) ;= ("0" 1)
+(line 0 0 2 0)(on-layer "B")(line 0 5 2 5) ;! SELECTSIMILAR|1,5| ;> 2 selected.
+;= LINE 10=0,0,0 11=2,0,0; LINE 10=1,1,0 11=2,2,0; LINE 10=0,5,0 11=2,5,0

@@ -1,0 +1,32 @@
+#include "host/commands/common/ObjectChoice.h"
+
+#include "host/kernel/documents/Document.h"
+#include "host/kernel/running/CommandContext.h"
+
+namespace host::kernel {
+
+Dialogue<ObjectChoice> askObjects(CommandContext &context, QString prompt, QStringList options, ChoiceEnd end)
+{
+    SelectionBuilder builder(context.document());
+    builder.setPrompt(u'\n' + prompt);
+    QString option;
+    while (!builder.isDone() && option.isEmpty()) {
+        PromptRequest request = builder.request();
+        const bool takesOptions = request.kind == PromptKind::Selection;
+        if (takesOptions)
+            request.keywords = options + request.keywords;
+        const PromptReply reply = co_await context.ask(std::move(request));
+        if (takesOptions && reply.kind == ReplyKind::Keyword && options.contains(reply.text))
+            option = reply.text;
+        else
+            builder.add(reply);
+        const bool isBetween = builder.request().kind == PromptKind::Selection;
+        if (end == ChoiceEnd::FirstOfProgram && context.isAnsweredByProgram() && isBetween &&
+            !builder.entities().empty())
+            break;
+    }
+    context.document().setPreviousSelection(builder.entities());
+    co_return ObjectChoice{builder.entities(), builder.shapes(), option};
+}
+
+} // namespace host::kernel

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QString>
+
+#include <optional>
+
+namespace host::kernel {
+
+// What people type for properties of layers and entities.
+
+/// The number of a colour given by number or name ("red"); 0 when it is neither.
+int colourNumber(const QString &text);
+/// "255,128,0" as 0xRRGGBB; nothing for other text.
+std::optional<qint64> exactColour(const QString &text);
+/// The nearest of the weights that drawings have, in hundredths of a millimetre.
+int nearestWeight(double millimetres);
+
+} // namespace host::kernel

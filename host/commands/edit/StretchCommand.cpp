@@ -1,0 +1,93 @@
+#include "host/commands/Commands.h"
+#include "host/commands/common/EntityEdits.h"
+#include "host/commands/common/Movement.h"
+#include "host/commands/common/ObjectChoice.h"
+#include "host/drawing/editing/StretchEntity.h"
+#include "host/drawing/geometry/EntityGeometry.h"
+#include "host/drawing/geometry/TransformEntity.h"
+#include "host/kernel/documents/Document.h"
+#include "host/kernel/running/CommandContext.h"
+
+#include <QSet>
+
+using namespace Qt::StringLiterals;
+
+namespace host::kernel {
+
+namespace {
+
+using drawing::Matrix;
+using drawing::RecordId;
+using drawing::Vec3;
+
+/// What crossing windows and polygons catch, as seen from above, and which entities they found.
+struct StretchArea
+{
+    std::vector<drawing::Path> polygons;
+    QSet<RecordId> crossed;
+
+    bool catches(const Vec3 &point) const
+    {
+        return std::ranges::any_of(polygons, [&](const drawing::Path &polygon) {
+            // On the edge counts as within.
+            const drawing::Outline outline{.pieces = {{.points = polygon}}};
+            return drawing::contains(polygon, point.xy()) || drawing::flatDistance(outline, point.xy()) <= 1e-9;
+        });
+    }
+};
+
+drawing::Path closedPolygon(const SelectionShape &shape)
+{
+    drawing::Path polygon = shape.corners;
+    if (shape.kind == ShapeKind::Crossing && polygon.size() == 2) {
+        const Vec3 a = polygon[0];
+        const Vec3 b = polygon[1];
+        polygon = {a, {b.x, a.y, a.z}, b, {a.x, b.y, a.z}};
+    }
+    polygon.push_back(polygon.front());
+    return polygon;
+}
+
+StretchArea areaOf(const std::vector<SelectionShape> &shapes)
+{
+    StretchArea area;
+    for (const SelectionShape &shape : shapes) {
+        if (shape.kind != ShapeKind::Crossing && shape.kind != ShapeKind::CrossingPolygon)
+            continue;
+        area.polygons.push_back(closedPolygon(shape));
+        for (const RecordId id : shape.found)
+            area.crossed.insert(id);
+    }
+    return area;
+}
+
+// By crossing windows or polygons: what lies within moves. What was chosen otherwise moves as a whole.
+CommandTask stretch(CommandContext &context)
+{
+    context.print(u"\nSelect objects to stretch by crossing-window or crossing-polygon..."_s);
+    const ObjectChoice chosen = co_await askObjects(context, u"Select objects: "_s);
+    const std::vector<RecordId> entities = editable(context, chosen.entities);
+    if (entities.empty())
+        co_return;
+    const Vec3 by = co_await askMovement(context);
+    const StretchArea area = areaOf(chosen.shapes);
+    const auto isCaught = [&area](const Vec3 &point) { return area.catches(point); };
+    int refused = 0;
+    for (const RecordId id : entities) {
+        if (area.crossed.contains(id))
+            refused += drawing::stretchEntity(context.drawing(), id, isCaught, by) == drawing::StretchOutcome::Refused;
+        else
+            refused += drawing::transformEntity(context.drawing(), id, Matrix::translation(by)) ? 0 : 1;
+    }
+    if (refused > 0)
+        context.print(u"\n%1 could not be changed."_s.arg(refused));
+}
+
+} // namespace
+
+std::vector<CommandRow> stretchCommands()
+{
+    return {{"STRETCH", stretch, "Moves what lies within a window, and what is tied to it follows"}};
+}
+
+} // namespace host::kernel
