@@ -12,6 +12,9 @@
 #include <QDir>
 #include <QFileInfo>
 
+#include <algorithm>
+#include <unistd.h>
+
 namespace host::kernel {
 
 using namespace Qt::StringLiterals;
@@ -60,8 +63,8 @@ bool isOwnTemporary(const QFileInfo &file, const Document &document)
     const QString folder = file.canonicalPath();
     const bool isTemporary = folder == QFileInfo(QDir::tempPath()).canonicalFilePath();
     const bool isBesideDrawing = !document.path().isEmpty() && folder == QFileInfo(document.path()).canonicalPath();
-    const bool isOwn = file.ownerId() == QFileInfo(QDir::homePath()).ownerId() &&
-                       !(file.permissions() & QFileDevice::WriteOther) && !file.isSymLink();
+    const bool isOwn =
+        file.ownerId() == geteuid() && !(file.permissions() & QFileDevice::WriteOther) && !file.isSymLink();
     return isTemporary && isOwn && !isBesideDrawing;
 }
 

@@ -74,6 +74,11 @@ void DialogBuilder::fillCluster(QBoxLayout &layout, const Tile &cluster)
 {
     for (const Tile &child : cluster.children)
         addChild(layout, cluster, child);
+    // What is left over in a column goes below its tiles, and in a line of text behind it, unless one of them takes it.
+    const Qt::Orientation along = isRow(cluster.kind) ? Qt::Horizontal : Qt::Vertical;
+    const bool isPacked = !isRow(cluster.kind) || cluster.kind == TileKind::Concatenation;
+    if (isPacked && !(layout.expandingDirections() & along))
+        layout.addStretch();
 }
 
 void DialogBuilder::addChild(QBoxLayout &layout, const Tile &cluster, const Tile &child)

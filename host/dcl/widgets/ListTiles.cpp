@@ -34,9 +34,16 @@ QStringList itemsInFile(const Tile &tile)
     return list.isEmpty() ? QStringList() : list.split(u'\n');
 }
 
+/// A list that wants to be no larger than its tile asks for.
+class TileList final : public QListView
+{
+public:
+    QSize sizeHint() const override { return minimumSize(); }
+};
+
 QListView *makeList(const Tile &tile, const TileMetrics &metrics)
 {
-    auto *list = new QListView;
+    auto *list = new TileList;
     list->setFont(fontOf(tile, list->font()));
     list->setModel(new QStringListModel(itemsInFile(tile), list));
     list->setItemDelegate(new TabbedItems(tile, metrics, list));
