@@ -1,5 +1,6 @@
 // (load_dialog) and (unload_dialog): where dialog files are found, and whether expressions in them may run.
 
+#include "files/TemporaryFolder.h"
 #include "files/qt/Files.h"
 #include "host/functions/FunctionGroups.h"
 #include "host/functions/OpenDialogs.h"
@@ -56,16 +57,18 @@ QString dialogFile(Document &document, const QString &asked, const QString &call
     return document.findFile(name);
 }
 
-/// Programs write dialog files to the folder for temporary files. There others write too, and mail programs put
-/// drawings with what came beside them.
+/// Programs write dialog files to the folder for temporary files: this process's own, where nobody else may look, or
+/// the system's. There others write too, and mail programs put drawings with what came beside them.
 bool isOwnTemporary(const QFileInfo &file, const Document &document)
 {
     const QString folder = file.canonicalPath();
-    const bool isTemporary = folder == QFileInfo(QDir::tempPath()).canonicalFilePath();
-    const bool isBesideDrawing = !document.path().isEmpty() && folder == QFileInfo(document.path()).canonicalPath();
+    const auto isFolder = [&folder](const QString &path) { return folder == QFileInfo(path).canonicalFilePath(); };
+    if (isFolder(files::fromNativePath(files::temporaryFolder())))
+        return true;
+    const bool isBesideDrawing = !document.path().isEmpty() && isFolder(QFileInfo(document.path()).path());
     const bool isOwn =
         file.ownerId() == geteuid() && !(file.permissions() & QFileDevice::WriteOther) && !file.isSymLink();
-    return isTemporary && isOwn && !isBesideDrawing;
+    return isFolder(QDir::tempPath()) && isOwn && !isBesideDrawing;
 }
 
 /// Expressions of a file run as a program's do: its folder must be trusted, or be that of the program that asks for it.
