@@ -63,6 +63,15 @@ RecordId Layouts::currentLayout() const
     return isValid(sheet) ? known().byBlock.value(sheet).record : paperLayout();
 }
 
+RecordId Layouts::currentViewport() const
+{
+    if (!isValid(m_viewport) || !m_drawing.isAlive(m_viewport))
+        return noRecord;
+    const RecordId parent = m_drawing.parent(m_viewport);
+    const bool isResting = isValid(parent) && m_drawing.kind(parent) == RecordKind::Block;
+    return (isResting ? parent : noRecord) == currentSheet() ? m_viewport : noRecord;
+}
+
 bool Layouts::setCurrentSheet(const QString &name)
 {
     if (name.compare(paperName(), Qt::CaseInsensitive) == 0) {

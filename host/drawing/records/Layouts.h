@@ -39,6 +39,11 @@ public:
     RecordId currentLayout() const;
     /// By name in any letter case. False when no sheet has it.
     bool setCurrentSheet(const QString &name);
+    /// The viewport of that sheet through which model space is worked on, no part of the file either; noRecord while
+    /// the sheet itself is, and when the viewport is gone or another sheet was chosen.
+    RecordId currentViewport() const;
+    /// A VIEWPORT of the current sheet, or noRecord to work on the sheet itself.
+    void setCurrentViewport(RecordId viewport) { m_viewport = viewport; }
 
 private:
     struct Layout
@@ -58,6 +63,7 @@ private:
 
     Drawing &m_drawing;
     RecordId m_sheet = noRecord; ///< the block that was chosen; noRecord for the paper space in use
+    RecordId m_viewport = noRecord;
     mutable Known m_known;
     mutable std::array<quint64, 3> m_revisions{~quint64(0)}; ///< of objects, and of the structure of tables and blocks
 };

@@ -1,6 +1,6 @@
+#include "host/drawing/geometry/ViewportView.h"
 #include "host/view/build/DisplayBuilder.h"
 #include "host/view/build/Scene.h"
-#include "host/view/build/ViewportView.h"
 
 #include <array>
 #include <numbers>
@@ -26,7 +26,7 @@ void addArea(BuildContext &context, Path outline, FillKind kind)
     context.add(std::move(fill));
 }
 
-std::vector<int> frozenLayers(const BuildContext &context, const ViewportView &view)
+std::vector<int> frozenLayers(const BuildContext &context, const drawing::ViewportView &view)
 {
     std::vector<int> layers;
     for (const drawing::Handle handle : view.frozenHandles) {
@@ -46,7 +46,7 @@ bool isViewportOn(const TagList &tags)
     return tags.integer(68, 1) != 0 && (tags.integer(90) & isOff) == 0;
 }
 
-void addModelView(BuildContext &context, const ViewportView &view, const Path &frame)
+void addModelView(BuildContext &context, const drawing::ViewportView &view, const Path &frame)
 {
     auto reference = std::make_unique<Reference>();
     reference->block = Scene::modelSpace;
@@ -99,7 +99,7 @@ bool buildViewport(BuildContext &context, const TagList &tags)
         context.display.isHidden = true;
         return true;
     }
-    const ViewportView view = readViewport(tags);
+    const drawing::ViewportView view = drawing::readViewport(tags);
     const Vec3 &center = view.center;
     const Vec3 half{view.width / 2.0, view.height / 2.0, 0.0};
     const Path frame = {center - half, center + Vec3{half.x, -half.y, 0.0}, center + half,

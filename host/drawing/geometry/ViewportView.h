@@ -1,11 +1,11 @@
 #pragma once
 
+#include "host/drawing/math/Matrix.h"
 #include "host/drawing/tags/TagList.h"
-#include "host/view/display/Display.h"
 
 #include <QStringList>
 
-namespace host::view {
+namespace host::drawing {
 
 /// What a viewport looks at, however its version writes it: in groups of its own from R2000 on, before that in extended
 /// data of the application ACAD (MVIEW).
@@ -20,13 +20,13 @@ struct ViewportView
     double twist = 0.0;            ///< radians
     double viewHeight = 0.0;       ///< how much of the model is seen; 0: nothing
     QStringList frozenLayers{};    ///< named ones, of the old form
-    std::vector<drawing::Handle> frozenHandles{};
+    std::vector<Handle> frozenHandles{};
 
     /// Drawing units of the sheet for one of the model.
     double scale() const { return height / viewHeight; }
     Matrix modelToSheet() const;
 };
 
-ViewportView readViewport(const drawing::TagList &tags);
+ViewportView readViewport(const TagList &tags);
 
-} // namespace host::view
+} // namespace host::drawing

@@ -1,11 +1,8 @@
-#include "host/view/build/ViewportView.h"
+#include "host/drawing/geometry/ViewportView.h"
 
 #include "host/drawing/math/Angles.h"
 
-namespace host::view {
-
-using drawing::Tag;
-using drawing::TagList;
+namespace host::drawing {
 
 namespace {
 
@@ -45,7 +42,7 @@ private:
     {
         switch (m_numbers++) {
         case 0:
-            m_view.twist = value * drawing::radians;
+            m_view.twist = value * radians;
             break;
         case 1:
             m_view.viewHeight = value;
@@ -88,13 +85,13 @@ ViewportView readViewport(const TagList &tags)
     view.target = tags.point(17);
     view.direction = tags.point(16, {0.0, 0.0, 1.0});
     view.middle = tags.point(12);
-    view.twist = tags.real(51) * drawing::radians;
+    view.twist = tags.real(51) * radians;
     view.viewHeight = tags.real(45);
     for (const Tag &tag : tags.own()) {
         if (tag.code == 331 || tag.code == 341)
-            view.frozenHandles.push_back(tag.handle().value_or(drawing::Handle{}));
+            view.frozenHandles.push_back(tag.handle().value_or(Handle{}));
     }
     return view;
 }
 
-} // namespace host::view
+} // namespace host::drawing
