@@ -57,6 +57,7 @@ std::vector<CommandRow> builtInCommands()
              polygonCommands(),
              matchCommands(),
              mirrorCommands(),
+             namedViewCommands(),
              polylineCommands(),
              purgeCommands(),
              rectangleCommands(),
@@ -71,9 +72,12 @@ std::vector<CommandRow> builtInCommands()
              statusCommands(),
              stretchCommands(),
              textCommands(),
+             ucsCommands(),
              undoCommands(),
              variableCommands(),
              viewCommands(),
+             viewportCommands(),
+             viewportLayerCommands(),
              writeBlockCommands(),
          })
         rows.insert(rows.end(), group.begin(), group.end());

@@ -36,6 +36,7 @@ std::vector<CommandRow> paragraphCommands();
 std::vector<CommandRow> polygonCommands();
 std::vector<CommandRow> matchCommands();
 std::vector<CommandRow> mirrorCommands();
+std::vector<CommandRow> namedViewCommands();
 std::vector<CommandRow> polylineCommands();
 std::vector<CommandRow> purgeCommands();
 std::vector<CommandRow> rectangleCommands();
@@ -50,9 +51,12 @@ std::vector<CommandRow> shapeCommands();
 std::vector<CommandRow> statusCommands();
 std::vector<CommandRow> stretchCommands();
 std::vector<CommandRow> textCommands();
+std::vector<CommandRow> ucsCommands();
 std::vector<CommandRow> undoCommands();
 std::vector<CommandRow> variableCommands();
 std::vector<CommandRow> viewCommands();
+std::vector<CommandRow> viewportCommands();
+std::vector<CommandRow> viewportLayerCommands();
 std::vector<CommandRow> writeBlockCommands();
 
 } // namespace host::kernel

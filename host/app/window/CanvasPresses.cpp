@@ -1,6 +1,8 @@
 // What a press on the canvas means: an answer to the prompt that waits, a choice of entities, or a corner of a box.
 
 #include "host/app/window/DrawingCanvas.h"
+#include "host/kernel/documents/CurrentSpace.h"
+#include "host/kernel/documents/CurrentView.h"
 #include "host/view/paint/Picking.h"
 
 namespace host::app {
@@ -10,13 +12,18 @@ using kernel::PromptKind;
 drawing::Vec3 DrawingCanvas::world(QPointF screen) const
 {
     const drawing::Vec2 point = transform().toWorld(screen);
-    return {point.x, point.y, 0.0};
+    return kernel::workedPoint(m_document, {point.x, point.y, 0.0});
+}
+
+int DrawingCanvas::workedSpace()
+{
+    return isValid(kernel::currentViewport(m_document.drawing())) ? view::Scene::modelSpace : space();
 }
 
 drawing::RecordId DrawingCanvas::entityAt(QPointF screen)
 {
-    const view::ViewTransform now = transform();
-    return view::pickAt(m_scene, space(), now.toWorld(screen), now.toWorldLength(pickReach()));
+    const double reach = transform().toWorldLength(pickReach());
+    return view::pickAt(m_scene, workedSpace(), world(screen).xy(), kernel::workedLength(m_document, reach));
 }
 
 void DrawingCanvas::press(QPointF screen, Qt::KeyboardModifiers modifiers)
@@ -87,11 +94,15 @@ void DrawingCanvas::finishBox(QPointF screen)
         view::ViewTransform changed = transform();
         changed.fit(seen, 0.0);
         setTransform(changed);
-    } else if (box.use == BoxUse::Answer) {
-        emit answered(kernel::WindowAnswer{{box.corner.x, box.corner.y, 0.0}, {opposite.x, opposite.y, 0.0}});
+        return;
+    }
+    const drawing::Vec3 from = kernel::workedPoint(m_document, {box.corner.x, box.corner.y, 0.0});
+    const drawing::Vec3 to = world(screen);
+    if (box.use == BoxUse::Answer) {
+        emit answered(kernel::WindowAnswer{from, to});
     } else {
         const auto mode = opposite.x < box.corner.x ? view::PickMode::Crossing : view::PickMode::Window;
-        choose(view::pickRectangle(m_scene, space(), box.corner, opposite, mode), box.choice);
+        choose(view::pickRectangle(m_scene, workedSpace(), from.xy(), to.xy(), mode), box.choice);
     }
 }
 

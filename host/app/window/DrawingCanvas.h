@@ -97,6 +97,8 @@ private:
     void setTransform(const view::ViewTransform &transform);
     /// Model space or the current sheet, as a number of the scene.
     int space();
+    /// What commands work on: that block, or model space through a viewport of the sheet.
+    int workedSpace();
     /// Tells the picture what is highlighted, chosen or dragged.
     void updateMarks();
     /// What moves with the pointer; nothing while that is elsewhere.

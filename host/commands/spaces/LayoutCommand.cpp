@@ -31,7 +31,7 @@ Dialogue<std::optional<LayoutTab>> askForLayout(CommandContext &context, QString
 /// The sheet that is offered where model space is no answer.
 QString offeredSheet(CommandContext &context)
 {
-    return currentSpace(context.drawing()) == drawing::Space::Paper ? currentLayout(context.drawing()) : QString();
+    return isModelTab(context.drawing()) ? QString() : currentLayout(context.drawing());
 }
 
 void listLayouts(CommandContext &context)

@@ -1,11 +1,10 @@
 #include "host/commands/Commands.h"
+#include "host/commands/spaces/ViewDirection.h"
 #include "host/drawing/geometry/EntityGeometry.h"
-#include "host/kernel/documents/CurrentSpace.h"
-#include "host/kernel/documents/Document.h"
+#include "host/kernel/documents/CurrentView.h"
 #include "host/kernel/input/Keywords.h"
 #include "host/kernel/running/CommandContext.h"
 #include "host/kernel/running/Dialogue.h"
-#include "host/kernel/variables/SystemVariables.h"
 
 #include <cmath>
 
@@ -17,67 +16,62 @@ namespace {
 
 using drawing::Vec3;
 
-drawing::Box extents(CommandContext &context)
-{
-    const drawing::Drawing &drawing = context.drawing();
-    return drawing::spaceBox(drawing, currentEntities(drawing));
-}
-
-/// What is drawn and the limits.
-drawing::Box wholeDrawing(CommandContext &context)
-{
-    drawing::Box box = extents(context);
-    const Vec3 low = context.document().variables().point(u"LIMMIN");
-    const Vec3 high = context.document().variables().point(u"LIMMAX");
-    if (low.x < high.x && low.y < high.y) {
-        box.add(low);
-        box.add(high);
-    }
-    return box;
-}
-
 void showAt(CommandContext &context, const Vec3 &centre, double height)
 {
-    ViewState view = context.document().view();
+    ViewState view = currentView(context.document());
     view.centre = centre.xy();
     view.height = height;
-    context.document().setView(view);
+    showCurrentView(context.document(), view);
 }
 
-/// A typed factor: "2x" and "2xp" count from what is shown, a plain number from the whole.
+/// A typed factor.
 struct Magnification
 {
+    enum class To
+    {
+        Whole, ///< "2": all of the drawing
+        Shown, ///< "2x"
+        Sheet  ///< "2xp": units of the sheet for one of the model
+    };
     double factor = 0.0;
-    bool isRelative = false;
+    To to = To::Whole;
 };
 
 std::optional<Magnification> magnification(QString text)
 {
     Magnification result;
-    for (const QString &ending : {u"xp"_s, u"x"_s}) {
-        if (!result.isRelative && text.endsWith(ending, Qt::CaseInsensitive)) {
+    for (const auto &[ending, to] :
+         {std::pair{u"xp"_s, Magnification::To::Sheet}, {u"x"_s, Magnification::To::Shown}}) {
+        if (result.to == Magnification::To::Whole && text.endsWith(ending, Qt::CaseInsensitive)) {
             text.chop(ending.size());
-            result.isRelative = true;
+            result.to = to;
         }
     }
+    // A ratio is customary for the scale of a sheet.
     bool isNumber = false;
-    result.factor = text.toDouble(&isNumber);
+    result.factor = text.section(u'/', 0, 0).toDouble(&isNumber);
+    if (isNumber && text.contains(u'/'))
+        result.factor /= text.section(u'/', 1).toDouble(&isNumber);
     const bool isFactor = isNumber && result.factor > 0.0 && std::isfinite(result.factor);
     return isFactor ? std::optional(result) : std::nullopt;
 }
 
 void zoomByFactor(CommandContext &context, const QString &text)
 {
+    Document &document = context.document();
     const std::optional<Magnification> wanted = magnification(text.trimmed());
-    if (!wanted) {
-        context.fail(u"Requires a scale factor, two corners or an option keyword."_s);
+    if (!wanted)
+        return context.fail(u"Requires a scale factor, two corners or an option keyword."_s);
+    if (wanted->to == Magnification::To::Sheet) {
+        if (!showAtSheetScale(document, wanted->factor))
+            context.fail(u"A scale of the sheet is for viewports: MSPACE goes into one."_s);
         return;
     }
-    if (!wanted->isRelative)
-        context.document().zoomTo(wholeDrawing(context));
-    ViewState view = context.document().view();
+    if (wanted->to == Magnification::To::Whole)
+        showBox(document, wholeDrawing(context));
+    ViewState view = currentView(document);
     view.height /= wanted->factor;
-    context.document().setView(view);
+    showCurrentView(document, view);
 }
 
 Dialogue<bool> zoomToWindow(CommandContext &context, const Vec3 first)
@@ -86,15 +80,14 @@ Dialogue<bool> zoomToWindow(CommandContext &context, const Vec3 first)
     drawing::Box box;
     box.add(first);
     box.add(corner.point);
-    context.document().zoomTo(box);
+    showBox(context.document(), box);
     co_return true;
 }
 
-/// A centre, then how much is to be seen around it: a height or a magnification.
-Dialogue<bool> zoomToCentre(CommandContext &context)
+/// Asks how much is to be seen: a height or a magnification. Nothing, with the command failed, for another answer.
+Dialogue<std::optional<double>> askViewHeight(CommandContext &context)
 {
-    const PromptReply centre = co_await context.neededPoint(u"Specify center point: "_s);
-    const double height = context.document().view().height;
+    const double height = currentView(context.document()).height;
     const QString usual = context.shownLength(height);
     PromptRequest request;
     request.kind = PromptKind::Distance;
@@ -102,11 +95,37 @@ Dialogue<bool> zoomToCentre(CommandContext &context)
     request.defaultText = usual;
     request.bits = AnyText | NoZero | NoNegative;
     const PromptReply size = co_await context.ask(request);
-    const auto factor = size.kind == ReplyKind::Keyword ? magnification(size.text) : std::optional<Magnification>();
-    if (size.kind == ReplyKind::Keyword && !(factor && factor->isRelative))
-        context.fail(u"Requires a height, or a magnification (nX)."_s);
-    else
-        showAt(context, centre.point, size.hasValue() ? size.real : factor ? height / factor->factor : height);
+    if (size.hasValue() || size.kind != ReplyKind::Keyword)
+        co_return size.hasValue() ? size.real : height;
+    const std::optional<Magnification> factor = magnification(size.text);
+    if (factor && factor->to == Magnification::To::Sheet && showAtSheetScale(context.document(), factor->factor))
+        co_return currentView(context.document()).height;
+    if (factor && factor->to == Magnification::To::Shown)
+        co_return height / factor->factor;
+    context.fail(u"Requires a height, or a magnification (nX)."_s);
+    co_return std::nullopt;
+}
+
+/// A centre, or with an empty answer the one that is shown, then how much is to be seen around it.
+Dialogue<bool> zoomToCentre(CommandContext &context)
+{
+    const drawing::Vec2 shown = currentView(context.document()).centre;
+    const PromptReply centre = co_await context.point(u"Specify center point: "_s);
+    const std::optional<double> height = co_await askViewHeight(context);
+    if (height)
+        showAt(context, centre.hasValue() ? centre.point : Vec3{shown.x, shown.y, 0.0}, *height);
+    co_return true;
+}
+
+/// The lower left corner in place of the centre.
+Dialogue<bool> zoomToLeft(CommandContext &context)
+{
+    const PromptReply corner = co_await context.neededPoint(u"Specify lower left corner point: "_s);
+    const std::optional<double> height = co_await askViewHeight(context);
+    const QSize pixels = currentView(context.document()).pixels;
+    const double aspect = pixels.isEmpty() ? 1.0 : double(pixels.width()) / pixels.height();
+    if (height)
+        showAt(context, corner.point + Vec3{*height * aspect / 2.0, *height / 2.0, 0.0}, *height);
     co_return true;
 }
 
@@ -116,7 +135,7 @@ Dialogue<bool> zoomToObjects(CommandContext &context)
     drawing::Box box;
     for (const drawing::RecordId entity : chosen.entities)
         box.add(context.document().boxes().box(entity));
-    context.document().zoomTo(box);
+    showBox(context.document(), box);
     co_return true;
 }
 
@@ -128,13 +147,17 @@ Dialogue<bool> takeZoomOption(CommandContext &context, const QString &option)
     }
     if (option == u"Center")
         co_return co_await zoomToCentre(context);
+    if (option == u"Left")
+        co_return co_await zoomToLeft(context);
     if (option == u"Object")
         co_return co_await zoomToObjects(context);
     if (option == u"Scale") {
         const PromptReply factor = co_await context.name(u"Enter a scale factor (nX or nXP): "_s);
         zoomByFactor(context, factor.text);
-    } else if (option == u"All" || option == u"Extents") {
-        context.document().zoomTo(option == u"All" ? wholeDrawing(context) : extents(context));
+    } else if (option == u"All" || option == u"Extents" || option == u"Vmax") {
+        showBox(context.document(), option == u"All" ? wholeDrawing(context) : drawnExtents(context));
+    } else if (option == u"Dynamic") {
+        context.fail(u"There is no dynamic zoom: use the window's wheel."_s);
     } else {
         zoomByFactor(context, option);
     }
@@ -147,11 +170,11 @@ CommandTask zoom(CommandContext &context)
     PromptRequest request;
     request.kind = PromptKind::Point;
     request.prompt = u"\nSpecify corner of window, enter a scale factor (nX or nXP), or "
-                     "[All/Center/Extents/Previous/Scale/Window/Object]: "_s;
-    request.keywords = optionsIn(request.prompt);
+                     "[All/Center/Dynamic/Extents/Previous/Scale/Window/Object] <real time>: "_s;
+    request.keywords = optionsIn(request.prompt) + QStringList{u"Left"_s, u"Vmax"_s};
     request.bits = AnyText;
     const PromptReply reply = co_await context.ask(request);
-    const ViewState before = context.document().view();
+    const ViewState before = currentView(context.document());
     if (reply.isKeyword(u"Previous")) {
         if (!context.document().showEarlierView())
             context.print(u"\nNo previous view saved."_s);
@@ -162,7 +185,20 @@ CommandTask zoom(CommandContext &context)
     else if (reply.kind == ReplyKind::Keyword)
         co_await takeZoomOption(context, reply.text);
     if (!context.hasFailed())
-        context.document().rememberView(before);
+        rememberCurrentView(context.document(), before);
+}
+
+// Two points, or one that is the displacement itself.
+CommandTask pan(CommandContext &context)
+{
+    const PromptReply from = co_await context.neededPoint(u"Specify base point or displacement: "_s);
+    const PromptReply to = co_await context.point(u"Specify second point: "_s, {}, from.point);
+    const Vec3 by = to.hasValue() ? to.point - from.point : from.point - context.document().userAxes().origin;
+    const ViewState before = currentView(context.document());
+    ViewState view = before;
+    view.centre = view.centre - by.xy();
+    rememberCurrentView(context.document(), before);
+    showCurrentView(context.document(), view);
 }
 
 CommandTask regenerate(CommandContext &context)
@@ -177,8 +213,12 @@ CommandTask regenerate(CommandContext &context)
 
 std::vector<CommandRow> viewCommands()
 {
-    return {{"REDRAW", regenerate, "Draws the window anew"},
+    return {{"-PAN", pan, "Moves what is shown"},
+            {"PAN", pan, "As -PAN; the middle button of the mouse moves the view too"},
+            {"REDRAW", regenerate, "Draws the window anew"},
+            {"REDRAWALL", regenerate, "Draws the window anew"},
             {"REGEN", regenerate, "Draws the window anew"},
+            {"REGENALL", regenerate, "Draws the window anew"},
             {"ZOOM", zoom, "Shows more or less of the drawing"}};
 }
 

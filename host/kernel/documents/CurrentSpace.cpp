@@ -16,14 +16,35 @@ QString model()
 
 } // namespace
 
+bool isModelTab(const drawing::Drawing &drawing)
+{
+    return drawing.header().integer(u"$TILEMODE", 1) != 0;
+}
+
+drawing::RecordId currentViewport(const drawing::Drawing &drawing)
+{
+    return isModelTab(drawing) ? drawing::noRecord : drawing.layouts().currentViewport();
+}
+
+int currentViewportNumber(const drawing::Drawing &drawing)
+{
+    constexpr int sheetItself = 1;
+    constexpr int firstOther = 2;
+    constexpr int numberCode = 69;
+    const drawing::RecordId viewport = currentViewport(drawing);
+    if (isValid(viewport))
+        return int(drawing.tags(viewport).integer(numberCode, firstOther));
+    return isModelTab(drawing) ? firstOther : sheetItself;
+}
+
 drawing::Space currentSpace(const drawing::Drawing &drawing)
 {
-    return drawing.header().integer(u"$TILEMODE", 1) != 0 ? drawing::Space::Model : drawing::Space::Paper;
+    return isModelTab(drawing) || isValid(currentViewport(drawing)) ? drawing::Space::Model : drawing::Space::Paper;
 }
 
 QString currentLayout(const drawing::Drawing &drawing)
 {
-    return currentSpace(drawing) == drawing::Space::Model ? model() : drawing.layouts().currentName();
+    return isModelTab(drawing) ? model() : drawing.layouts().currentName();
 }
 
 QString layoutName(const drawing::Drawing &drawing, const QString &name)
@@ -43,6 +64,7 @@ bool setCurrentLayout(drawing::Drawing &drawing, const QString &name)
     const bool isModel = model().compare(name, Qt::CaseInsensitive) == 0;
     if (!isModel && !drawing.layouts().setCurrentSheet(name))
         return false;
+    drawing.layouts().setCurrentViewport(drawing::noRecord);
     drawing.header().set(u"$TILEMODE", drawing::Field{70, qint64(isModel)});
     return true;
 }

@@ -6,7 +6,11 @@
 
 namespace host::kernel {
 
-/// The space that TILEMODE makes current: model space, or the sheet that was chosen last.
+/// Whether TILEMODE shows model space by itself rather than a sheet.
+bool isModelTab(const drawing::Drawing &drawing);
+
+/// The space that is worked on: model space, by itself or through a viewport of the sheet, or the sheet that was chosen
+/// last.
 drawing::Space currentSpace(const drawing::Drawing &drawing);
 
 /// Name of the layout tab that is current: "Model" or that of the sheet.
@@ -18,6 +22,12 @@ QString layoutName(const drawing::Drawing &drawing, const QString &name);
 /// Makes a layout current by its name. Of the drawing nothing changes but TILEMODE: which sheet it is that is current
 /// is known to this program alone. False when there is no such layout.
 bool setCurrentLayout(drawing::Drawing &drawing, const QString &name);
+
+/// The viewport of the current sheet through which model space is worked on; noRecord on the sheet itself and where
+/// model space is shown by itself.
+drawing::RecordId currentViewport(const drawing::Drawing &drawing);
+/// As CVPORT has it: 1 on the sheet itself, that of the viewport, 2 where model space is shown by itself.
+int currentViewportNumber(const drawing::Drawing &drawing);
 
 /// The block of the current layout where its entities stand in it; noRecord for those in the ENTITIES section.
 drawing::RecordId restingSheet(const drawing::Drawing &drawing);

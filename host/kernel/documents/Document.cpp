@@ -6,6 +6,7 @@
 #include "host/drawing/records/Journal.h"
 #include "host/drawing/records/Tables.h"
 #include "host/kernel/documents/CurrentSpace.h"
+#include "host/kernel/documents/CurrentView.h"
 #include "host/kernel/documents/ExpressionSurroundings.h"
 #include "host/kernel/documents/ScreenSketch.h"
 #include "host/kernel/documents/Session.h"
@@ -197,15 +198,8 @@ void Document::setView(const ViewState &view)
 
 void Document::zoomTo(const drawing::Box &box)
 {
-    if (box.isEmpty())
-        return;
-    constexpr double margin = 1.05;
-    const double aspect = m_view.pixels.isEmpty() ? 1.0 : double(m_view.pixels.width()) / m_view.pixels.height();
-    const double height = std::max(box.high.y - box.low.y, (box.high.x - box.low.x) / aspect) * margin;
-    ViewState view = m_view;
-    view.centre = ((box.low + box.high) * 0.5).xy();
-    view.height = height > 0.0 && std::isfinite(height) ? height : m_view.height;
-    setView(view);
+    if (!box.isEmpty())
+        setView(fittedTo(m_view, box));
 }
 
 void Document::followLayout()
@@ -348,7 +342,7 @@ OdString Document::systemVariable(const OdString &name) const
 drawing::Matrix Document::userAxes() const
 {
     const drawing::HeaderVariables &header = m_drawing->header();
-    const bool isModel = header.integer(u"$TILEMODE", 1) != 0;
+    const bool isModel = currentSpace(*m_drawing) == drawing::Space::Model;
     const auto name = [&](const char *end) {
         return (isModel ? QStringLiteral("$UCS") : QStringLiteral("$PUCS")) + QLatin1String(end);
     };

@@ -3,6 +3,7 @@
 #include "host/drawing/file/Save.h"
 #include "host/drawing/math/Matrix.h"
 #include "host/drawing/records/Drawing.h"
+#include "host/kernel/documents/CommandMemory.h"
 #include "host/kernel/documents/UndoSteps.h"
 #include "host/kernel/files/DrawingClaim.h"
 #include "host/kernel/files/WriteObstacle.h"
@@ -212,6 +213,8 @@ public:
     void popCommandName() { m_commandNames.removeLast(); }
     /// From the current user coordinate system to world coordinates.
     drawing::Matrix userAxes() const;
+    /// What commands remember from one run to the next.
+    CommandMemory &memory() { return m_memory; }
     /// Boxes of entities, for picking; kept from one pick to the next while the drawing stays as it is.
     drawing::BoxCache &boxes() { return *m_boxes; }
     /// How much room texts take, in the fonts that were found. Making it costs the first caller the reading of fonts.
@@ -296,6 +299,7 @@ private:
     mutable std::unique_ptr<view::TextMeasure> m_textMeasure; ///< made when it is first asked for
     std::unique_ptr<view::EntityExtents> m_entityExtents;     ///< likewise
     QHash<QString, drawing::RecordId> m_cursors;
+    CommandMemory m_memory;
     QStringList m_commandNames; ///< outermost first
     QStringList m_readableFiles;
     QSet<QString> m_unread; ///< what was told

@@ -4,6 +4,7 @@
 #include "host/drawing/records/Symbols.h"
 #include "host/drawing/selection/PolygonSelection.h"
 #include "host/kernel/documents/CurrentSpace.h"
+#include "host/kernel/documents/CurrentView.h"
 #include "host/kernel/documents/Document.h"
 #include "host/kernel/variables/SystemVariables.h"
 #include "host/view/build/EntityExtents.h"
@@ -104,7 +105,8 @@ std::vector<RecordId> Picker::thawed() const
 
 RecordId Picker::entityAt(const Vec3 &point) const
 {
-    const double reach = m_document.variables().integer(u"PICKBOX", 3) * m_document.view().unitsPerPixel();
+    const double reach =
+        m_document.variables().integer(u"PICKBOX", 3) * workedLength(m_document, m_document.view().unitsPerPixel());
     const std::vector<RecordId> near = touching(boxAround(point, reach));
     RecordId best = drawing::noRecord;
     double bestDistance = reach;

@@ -3,6 +3,7 @@
 #include "host/drawing/records/HeaderVariables.h"
 #include "host/drawing/records/Tables.h"
 #include "host/kernel/documents/CurrentSpace.h"
+#include "host/kernel/documents/CurrentView.h"
 #include "host/kernel/documents/Document.h"
 #include "host/kernel/variables/VariableRows.h"
 
@@ -18,14 +19,14 @@ constexpr double largestLength = 1e99;
 
 VariableValue viewCentre(const Document &document)
 {
-    const Vec2 centre = document.view().centre;
+    const Vec2 centre = currentView(document).centre;
     const OdGePoint3d user = document.worldToUser({centre.x, centre.y, 0.0});
     return Vec3{user.x, user.y, user.z};
 }
 
 VariableValue viewHeight(const Document &document)
 {
-    return document.view().height;
+    return currentView(document).height;
 }
 
 VariableValue screenPixels(const Document &document)
@@ -37,7 +38,7 @@ VariableValue screenPixels(const Document &document)
 /// The corners of what can be seen.
 Vec3 virtualCorner(const Document &document, double side)
 {
-    const ViewState &view = document.view();
+    const ViewState view = currentView(document);
     const double width = view.pixels.height() > 0 ? view.height * view.pixels.width() / view.pixels.height() : 0.0;
     return {view.centre.x + side * width / 2.0, view.centre.y + side * view.height / 2.0, 0.0};
 }
@@ -79,7 +80,7 @@ void setFollowing(Document &document, const VariableValue &value)
 /// 1 is the sheet itself.
 VariableValue currentViewport(const Document &document)
 {
-    return currentSpace(document.drawing()) == drawing::Space::Paper ? 1 : 2;
+    return currentViewportNumber(document.drawing());
 }
 
 /// The view, and where it is looked from.

@@ -1,0 +1,18 @@
+; What is remembered from one command to the next: each space has its own systems
+(defun origin () (car (list (getvar "UCSORG"))))
+(command "UCS" "O" '(7 0 0) "UCS" "O" '(7 0 0))(origin) ;= (14.0 0.0 0.0)
+(command "UCS" "P")(origin) ;= (7.0 0.0 0.0)
+(command "UCS" "P")(list (origin) (getvar "WORLDUCS")) ;= ((0.0 0.0 0.0) 1)
+(command "UCS" "P") ;> No previous coordinate system saved ;= nil
+; Model space through a viewport: its own coordinates, entities and view, until the sheet is gone back to
+(command "LINE" '(0 0) '(40 20) "")(setvar "CTAB" "Layout1")(command "MVIEW" '(0 0) '(100 50))(getvar "CVPORT") ;= 1
+(command "UCS" "O" '(5 5))(trans '(0 0 0) 1 0) ;= (5.0 5.0 0.0)
+(command "MSPACE")(list (getvar "CVPORT") (getvar "TILEMODE") (getvar "CTAB") (trans '(0 0 0) 1 0)) ;= (2 0 "Layout1" (0.0 0.0 0.0))
+(sslength (ssget "A")) ;= 1
+(entmake '((0 . "POINT") (10 1.0 1.0 0.0)))(cdr (assoc 410 (entget (entlast)))) ;= "Model"
+(command "CIRCLE" '(10 10) 2)(cdr (assoc 410 (entget (entlast)))) ;= "Model"
+(command "MSPACE") ;> Already in model space ;= nil
+(command "PSPACE")(command "CIRCLE" '(10 10) 2)(mapcar '(lambda (c) (cdr (assoc c (entget (entlast))))) '(410 10)) ;= ("Layout1" (15.0 15.0 0.0))
+(command "PSPACE") ;> Already in paper space ;= nil
+(command "MSPACE")(command "ERASE" (ssget "X" '((0 . "VIEWPORT"))) "")(getvar "CVPORT") ;= 1
+(command "U")(setvar "CTAB" "Model")(setvar "CTAB" "Layout1")(getvar "CVPORT") ;= 1
