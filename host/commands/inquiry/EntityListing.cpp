@@ -2,6 +2,7 @@
 
 #include "host/commands/common/UserPlane.h"
 #include "host/drawing/annotation/DimensionData.h"
+#include "host/drawing/curves/EntityCurve.h"
 #include "host/drawing/geometry/EntityGeometry.h"
 #include "host/drawing/math/Angles.h"
 #include "host/drawing/math/Curves.h"

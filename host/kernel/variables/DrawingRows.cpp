@@ -208,7 +208,7 @@ VariableRows drawingSwitches()
             since(R2004, inHeader("PROJECTNAME", 1, text(""))),
             since(R14, inHeader("PROXYGRAPHICS", 70, 1, 0, 1)),
             since(R13, inHeader("PSLTSCALE", 70, 1, 0, 1)),
-            readOnly(since(R2000, inHeader("PSTYLEMODE", 290, 1))),
+            since(R2000, inHeader("PSTYLEMODE", 290, 1, 0, 1)),
             ofUser("PSTYLEPOLICY", 1, 0, 1),
             since(R2000, inHeader("PSVPSCALE", 40, 0.0, 0, unbounded)),
             inHeader("QTEXTMODE", 70, 0, 0, 1),

@@ -14,7 +14,7 @@
 (round-block)(command "-INSERT" "Round" '(0 0) 2 1 0) ;! EXPLODE|L| ;~ keeps
 ;? (list (getfield 0) (getfield 11) (getfield 40)) ;= ("ELLIPSE" (4.0 0.0 0.0) 0.5)
 (round-block)(setvar "EXPLMODE" 0)(command "-INSERT" "Round" '(0 0) 2 1 0) ;! EXPLODE|L| ;> scales of block "Round" differ
-;= INSERT 2=Round 41=2 42=1 43=1
+;= INSERT 2=Round 10=0,0,0 41=2 42=1 43=2
 (round-block)(command "-INSERT" "Round" '(5 0) -1 1 0) ;! EXPLODE|L| ;~ keeps
 ;= CIRCLE 10=-5,0,0 40=2 210=0,0,-1
 (arc-block)(command "-INSERT" "Bent" '(0 0) 2 1 0) ;! EXPLODE|L| ;~ keeps

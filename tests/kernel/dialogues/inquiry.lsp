@@ -8,7 +8,7 @@
 (line 0 0 3 4) ;! LIST|ALL| ;> Length = 5.0000,  Angle in XY Plane = 53 ;= LINE 10=0,0,0 11=3,4,0
 (turned)(line 0 0 3 4) ;! LIST|ALL| ;> from point, X=-20.0000  Y=10.0000  Z=0.0000 ;= LINE 10=0,0,0 11=3,4,0
 (command "CIRCLE" '(1 1) 2) ;! LIST|ALL| ;> area  12.5664 ;= CIRCLE 10=1,1,0 40=2
-(pline '((0 0) (4 0) (4 3)) 1) ;! LIST|ALL| ;> perimeter  12.0000 ;= LWPOLYLINE 90=3 70=1 10=0,0 10=4,0 10=4,3
+(pline '((0 0) (4 0) (4 3)) 1) ;! LIST|ALL| ;> perimeter  12.0000 ;= LWPOLYLINE 70=1 10=0,0 10=4,0 10=4,3
 (arc-pline) ;! LIST|ALL| ;> length  10.2832 ;? nil ;= nil
 (arc-at) ;! LIST|ALL| ;> length  3.1416 ;= ARC 10=5,5,0 40=2 51=90
 (door)(command "-INSERT" "Door" '(1 2) 1 "" 90) ;! LIST|ALL| ;> rotation angle  90 ;= INSERT 2=Door 10=1,2,0 41=1 42=1 43=1 50=90

@@ -1,6 +1,6 @@
 ;;; A style Rich with an own value for everything that the drawing's version has, each number another one; and files of
 ;;; styles compared by their lines.
-(setq version (getvar "ACADVER"))
+(setq version (getvar "DXFVERSION"))
 (defun is_from (least) (>= version least))
 (defun numbered (codes step / value)
   (setq value 0)
