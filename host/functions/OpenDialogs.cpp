@@ -35,10 +35,7 @@ OpenDialogs::OpenDialogs(Document &document) : QObject(&document), m_document(do
     setObjectName(openDialogsName);
     connect(&document, &Document::programFailed, this, [this] { finishAll(0); });
     // What a program made and never started goes with its run.
-    connect(&document, &Document::runEnded, this, [this] {
-        m_open.clear();
-        tellWhetherOpen();
-    });
+    connect(&document, &Document::runEnded, this, &OpenDialogs::forgetUnstarted);
 }
 
 int OpenDialogs::load(Loaded loaded)
@@ -96,10 +93,15 @@ void OpenDialogs::finish(OpenDialog &dialog, int status)
     tellWhetherOpen();
 }
 
-void OpenDialogs::finishAll(int status)
+void OpenDialogs::forgetUnstarted()
 {
     while (!m_open.empty() && !m_open.back()->isStarted)
         m_open.pop_back();
+}
+
+void OpenDialogs::finishAll(int status)
+{
+    forgetUnstarted();
     for (const std::unique_ptr<OpenDialog> &dialog : m_open)
         if (dialog->isStarted && !dialog->window->isFinished())
             finish(*dialog, status);

@@ -85,6 +85,7 @@ public:
 
 private:
     explicit OpenDialogs(Document &document);
+    void forgetUnstarted();
     void handle(lisp::Interpreter &interpreter, OpenDialog &dialog, const dcl::TileControl &tile,
                 const dcl::TileEvent &event);
     QString actionFor(const OpenDialog &dialog, const dcl::TileControl &tile, QString &key) const;

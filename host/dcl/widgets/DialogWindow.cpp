@@ -88,7 +88,8 @@ void DialogWindow::add(TileControl &control, TileControl *radioCluster)
         list->setOnDoubleClick(accepts);
     else if (auto *image = dynamic_cast<ImageControl *>(&control))
         image->setOnDoubleClick(accepts);
-    else if (auto *edit = dynamic_cast<EditControl *>(&control))
+    else if (auto *edit = dynamic_cast<EditControl *>(&control)) {
+        m_edits.append(edit);
         edit->setOnEnter([this, accepts](const TileControl &from) {
             accepts(from);
             // Where Enter does not press it, it goes on to it.
@@ -96,10 +97,15 @@ void DialogWindow::add(TileControl &control, TileControl *radioCluster)
             if (button && !from.tile().flag(u"allow_accept"_s))
                 button->giveFocus();
         });
+    }
 }
 
 void DialogWindow::tell(const TileControl &control, Reason reason, const QPoint &at)
 {
+    // A shortcut presses a button without taking the keyboard from the edit box where something was typed.
+    if (control.tile().kind == TileKind::Button)
+        for (EditControl *edit : m_edits)
+            edit->tellLeft();
     if (!m_isFinished && m_listener)
         m_listener(control, {control.key(), control.value(), reason, at});
 }

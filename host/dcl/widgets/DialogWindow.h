@@ -8,6 +8,8 @@
 
 namespace host::dcl {
 
+class EditControl;
+
 /// A dialog of a dialog file, as a modal window. The object name of the window is the dialog's name, that of each
 /// tile's field its key.
 ///
@@ -58,6 +60,7 @@ private:
 
     QString m_key;
     QList<TileControl *> m_controls;
+    QList<EditControl *> m_edits;
     QHash<QString, TileControl *> m_byKey;
     QHash<const TileControl *, TileControl *> m_clusters;
     EventListener m_listener;

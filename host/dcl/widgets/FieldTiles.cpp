@@ -146,6 +146,14 @@ void EditControl::selectText()
     edit()->selectAll();
 }
 
+void EditControl::tellLeft()
+{
+    if (edit()->text() == m_reported)
+        return;
+    m_reported = edit()->text();
+    report(Reason::Left);
+}
+
 bool EditControl::eventFilter(QObject *object, QEvent *event)
 {
     if (event->type() == QEvent::KeyPress) {
@@ -161,10 +169,8 @@ bool EditControl::eventFilter(QObject *object, QEvent *event)
     if (event->type() == QEvent::FocusOut) {
         const Qt::FocusReason why = static_cast<QFocusEvent *>(event)->reason();
         const bool isLeft = why != Qt::ActiveWindowFocusReason && why != Qt::PopupFocusReason;
-        if (isLeft && edit()->text() != m_reported) {
-            m_reported = edit()->text();
-            report(Reason::Left);
-        }
+        if (isLeft)
+            tellLeft();
     }
     return TileControl::eventFilter(object, event);
 }

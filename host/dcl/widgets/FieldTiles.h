@@ -19,6 +19,8 @@ public:
     QString value() const override;
     void setValue(const QString &value) override;
     void selectText() override;
+    /// As when it is left: a text that nobody was told of is told.
+    void tellLeft();
     /// What Enter does beyond the action.
     void setOnEnter(std::function<void(const EditControl &)> onEnter) { m_onEnter = std::move(onEnter); }
 
