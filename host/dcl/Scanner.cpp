@@ -110,7 +110,7 @@ Token Scanner::word()
     const qsizetype start = m_at;
     const bool isNumber = beginsNumber(peek()) || peek().isDigit();
     ++m_at;
-    while (isNameCharacter(peek()) || (isNumber && peek() == u'.'))
+    while (isNameCharacter(peek()) || peek() == u'-' || (isNumber && peek() == u'.'))
         ++m_at;
     const QString text = m_text.sliced(start, m_at - start).toString();
     const Token::Kind kind = kindOfWord(text);

@@ -10,7 +10,7 @@ struct Token
 {
     enum class Kind
     {
-        Name,    ///< letters, digits and underscores
+        Name,    ///< letters, digits, underscores, and hyphens but for the first
         Integer, ///< with or without a sign
         Real,
         String,  ///< `text` is what stands between the quotes, its escapes read
