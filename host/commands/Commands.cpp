@@ -8,10 +8,10 @@ namespace {
 
 /// Those that ask for nothing but how things are shown or set, so that they do no harm in the middle of another.
 constexpr const char *transparentNames[] = {
-    "-LAYER",  "-LINETYPE", "-OSNAP", "-STYLE",   "-VIEW", "APERTURE", "BASE",      "BLIPMODE",  "COLOR",  "DELAY",
-    "DIST",    "ELEV",      "FILL",   "GRAPHSCR", "GRID",  "HELP",     "ID",        "ISOPLANE",  "LAYER",  "LIMITS",
-    "LTSCALE", "LWEIGHT",   "ORTHO",  "OSNAP",    "PAN",   "REDRAW",   "REDRAWALL", "REGENAUTO", "RESUME", "SCRIPT",
-    "SETVAR",  "SNAP",      "STATUS", "TEXTSCR",  "TIME",  "UNITS",    "ZOOM",
+    "-LAYER",    "-LINETYPE", "-OSNAP",  "-STYLE", "-VIEW",    "APERTURE", "BASE",   "BLIPMODE",  "COLOR",     "DELAY",
+    "DSETTINGS", "DIST",      "ELEV",    "FILL",   "GRAPHSCR", "GRID",     "HELP",   "ID",        "ISOPLANE",  "LAYER",
+    "LIMITS",    "LTSCALE",   "LWEIGHT", "ORTHO",  "OSNAP",    "PAN",      "REDRAW", "REDRAWALL", "REGENAUTO", "RESUME",
+    "SCRIPT",    "SETVAR",    "SNAP",    "STATUS", "TEXTSCR",  "TIME",     "UNITS",  "ZOOM",
 };
 
 void markTransparent(std::vector<CommandRow> &rows)
@@ -71,6 +71,7 @@ std::vector<CommandRow> builtInCommands()
              shapeCommands(),
              statusCommands(),
              stretchCommands(),
+             snapCommands(),
              textCommands(),
              ucsCommands(),
              undoCommands(),

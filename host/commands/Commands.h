@@ -50,6 +50,7 @@ std::vector<CommandRow> selectCommands();
 std::vector<CommandRow> shapeCommands();
 std::vector<CommandRow> statusCommands();
 std::vector<CommandRow> stretchCommands();
+std::vector<CommandRow> snapCommands();
 std::vector<CommandRow> textCommands();
 std::vector<CommandRow> ucsCommands();
 std::vector<CommandRow> undoCommands();

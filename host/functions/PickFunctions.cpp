@@ -2,9 +2,12 @@
 
 #include "host/functions/FunctionGroups.h"
 #include "host/kernel/documents/Document.h"
+#include "host/kernel/input/ObjectSnap.h"
 #include "host/kernel/input/Picker.h"
+#include "host/kernel/input/SnapModes.h"
 #include "host/kernel/input/UserInput.h"
 #include "host/kernel/lisp/LispConversion.h"
+#include "host/kernel/variables/SystemVariables.h"
 #include "host/lisp/Interpreter.h"
 
 namespace host::kernel {
@@ -101,6 +104,19 @@ Value nentselp(Arguments &args)
     return nestedList(args, reply, MatrixForm::FourByFour);
 }
 
+// (osnap point modes) -> the point in user coordinates that modes such as "_end,_int" find near the point, on
+// what comes within APERTURE pixels of it; nil when they find none, and for words that are no modes. A
+// perpendicular or tangent starts from LASTPOINT.
+Value osnap(Arguments &args)
+{
+    Document &document = documentOf(args);
+    const Vec3 place = toWorld(document, pointAt(args, 0));
+    const std::optional<int> modes = parseSnapModes(stringAt(args, 1));
+    const Vec3 base = toWorld(document, document.variables().point(u"LASTPOINT"));
+    const auto found = ObjectSnap(document).find(place, modes.value_or(0), base);
+    return found ? toLisp(toUser(document, found->point)) : Value();
+}
+
 // (redraw [entity [mode]]) -> nil. Alone it takes away what programs have drawn for the moment. Mode 3 highlights the
 // entity, 4 ends that; 1 and 2, which show and hide it, have no visible effect.
 Value redraw(Arguments &args)
@@ -132,6 +148,8 @@ void addPickFunctions(lisp::Interpreter &interpreter)
          "asks for an entity within blocks: name, point, matrix and the blocks around it"},
         {"nentselp", nentselp, lisp::Arity::between(0, 2), "[prompt] [point]",
          "the same, with the matrix as four by four; or at a point"},
+        {"osnap", osnap, lisp::Arity::exactly(2), "point modes",
+         "the point that object snap finds near another, by modes such as \"_end,_int\""},
         {"redraw", redraw, lisp::Arity::between(0, 2), "[entity [mode]]",
          "draws again; shows, hides or highlights an entity"},
     };

@@ -250,6 +250,66 @@ TEST_F(MainWindowTest, DraggedEntitiesHangAtThePointer)
     EXPECT_FALSE(isDrawn(6.0, 7.5));
 }
 
+TEST_F(MainWindowTest, PointsSnapToWhatTheMarkSays)
+{
+    const auto hasMark = [this](double x, double y) {
+        const QImage picture = window->canvas()->grab().toImage();
+        const QPoint at = onScreen(x, y).toPoint();
+        for (int i = -8; i <= 8; ++i)
+            if (picture.pixelColor(at.x() + i, at.y() - 6) == QColor(0x2f, 0xc8, 0x5a))
+                return true;
+        return false;
+    };
+    lisp(u"(setvar \"OSMODE\" 1)"_s);
+    mouse(QEvent::MouseMove, 4.0, 0.05);
+    EXPECT_FALSE(hasMark(0.0, 0.0)) << "no point is asked for";
+    meanwhile([&] {
+        mouse(QEvent::MouseMove, 4.0, 0.05);
+        EXPECT_TRUE(hasMark(0.0, 0.0));
+        mouse(QEvent::MouseMove, 9.0, 0.05);
+        EXPECT_TRUE(hasMark(10.0, 0.0));
+        EXPECT_FALSE(hasMark(0.0, 0.0));
+        click(4.0, 0.05);
+    });
+    window->enter(u"(setq p (getpoint))"_s);
+    EXPECT_EQ(lisp(u"p"_s), u"(0.0 0.0 0.0)"_s);
+    meanwhile([&] {
+        window->enter(u"_mid"_s);
+        meanwhile([&] {
+            mouse(QEvent::MouseMove, 4.0, 0.05);
+            EXPECT_TRUE(hasMark(5.0, 0.0)) << "the word goes before OSMODE";
+            click(4.0, 0.05);
+        });
+    });
+    window->enter(u"(setq p (getpoint))"_s);
+    EXPECT_EQ(lisp(u"p"_s), u"(5.0 0.0 0.0)"_s);
+}
+
+TEST_F(MainWindowTest, ProgramsFollowThePointerAndDrawForTheMoment)
+{
+    meanwhile([this] {
+        mouse(QEvent::MouseMove, 3.0, 4.0);
+        meanwhile([this] {
+            click(5.0, 6.0);
+            meanwhile([this] {
+                QKeyEvent typed(QEvent::KeyPress, Qt::Key_A, Qt::NoModifier, u"a"_s);
+                QCoreApplication::sendEvent(window->canvas(), &typed);
+            });
+        });
+    });
+    window->enter(u"(setq e (list (grread T) (grread) (grread)))"_s);
+    EXPECT_EQ(lisp(u"(mapcar 'car e)"_s), u"(5 3 2)"_s);
+    EXPECT_EQ(lisp(u"(equal (mapcar 'cadr e) '((3.0 4.0 0.0) (5.0 6.0 0.0) 97) 0.1)"_s), u"T"_s);
+    const auto colour = [this] { return window->canvas()->grab().toImage().pixelColor(onScreen(5.0, 8.5).toPoint()); };
+    const QColor ground = colour();
+    lisp(u"(grdraw '(2 8.5) '(8 8.5) 1)(grtext -1 \"Turn it\")"_s);
+    EXPECT_EQ(colour(), QColor(Qt::red));
+    EXPECT_EQ(window->findChild<QLabel *>(u"programText"_s)->text(), u"Turn it"_s);
+    lisp(u"(redraw)(grtext)"_s);
+    EXPECT_EQ(colour(), ground);
+    EXPECT_EQ(window->findChild<QLabel *>(u"programText"_s)->text(), u""_s);
+}
+
 TEST_F(MainWindowTest, EscCancelsPromptsAndStopsEndlessLoops)
 {
     meanwhile([this] { key(Qt::Key_Escape); });

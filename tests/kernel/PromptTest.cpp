@@ -1,5 +1,6 @@
 #include "host/drawing/records/Entities.h"
 #include "host/kernel/documents/ScreenSketch.h"
+#include "host/kernel/input/PointAim.h"
 #include "host/kernel/input/UserInput.h"
 #include "host/kernel/variables/SystemVariables.h"
 #include "tests/kernel/Bench.h"
@@ -65,6 +66,32 @@ TEST_F(Bench, pointerAndPressesAreEvents)
               "((5 (3.0 4.0 0.0)) (3 (5.0 6.0 0.0)) (25 (7.0 8.0 0.0)) (2 65) (2 111) (2 107) (2 13) (2 27))");
     EXPECT_EQ(lisp("(grread)"), "error: Function cancelled in (GRREAD)");
     EXPECT_TRUE(session.input().isEmpty());
+}
+
+TEST_F(Bench, pointsShownByHandSnapAndFollowOrtho)
+{
+    lisp("(command \"ZOOM\" \"C\" '(0 0) 100)(command \"LINE\" '(0 0) '(40 0) \"\")(setvar \"OSMODE\" 1)");
+    const auto shown = [this](double x, double y, const char *expression) {
+        session.input().push(PointAnswer{{x, y, 0.0}, true});
+        return lisp(expression);
+    };
+    EXPECT_EQ(shown(5.0, 0.5, "(getpoint)"), "(0.0 0.0 0.0)");
+    EXPECT_EQ(shown(5.0, 5.0, "(getpoint)"), "(5.0 5.0 0.0)");
+    EXPECT_EQ(lisp("(command \"POINT\" '(5 0.5))(cdr (assoc 10 (entget (entlast))))"), "(5.0 0.5 0.0)")
+        << "a program means what it says";
+    session.input().pushScript(QStringLiteral("5,0.5"));
+    EXPECT_EQ(lisp("(getpoint)"), "(0.0 0.0 0.0)") << "OSNAPCOORD 2";
+    lisp("(setvar \"ORTHOMODE\" 1)");
+    EXPECT_EQ(shown(9.0, 20.0, "(getpoint '(3 10))"), "(3.0 20.0 0.0)");
+    EXPECT_EQ(shown(39.0, 0.5, "(getpoint '(3 10))"), "(40.0 0.0 0.0)") << "snaps go first";
+    EXPECT_EQ(shown(9.0, 20.0, "(getcorner '(3 10))"), "(9.0 20.0 0.0)");
+    document().aim().pointer = host::drawing::Vec3{9.0, 20.0, 0.0};
+    type("2");
+    EXPECT_EQ(lisp("(getpoint '(3 10))"), "(3.0 12.0 0.0)") << "towards the pointer";
+    lisp("(setvar \"ORTHOMODE\" 0)");
+    document().aim().pointer = host::drawing::Vec3{6.0, 14.0, 0.0};
+    type("10");
+    EXPECT_EQ(lisp("(getpoint '(3 10))"), "(9.0 18.0 0.0)");
 }
 
 TEST_F(Bench, linesDrawnForTheMomentGoWithARedraw)

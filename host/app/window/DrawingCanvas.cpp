@@ -6,7 +6,9 @@
 #include "host/kernel/documents/CurrentSpace.h"
 #include "host/kernel/documents/ExpressionSurroundings.h"
 #include "host/kernel/documents/ScreenSketch.h"
+#include "host/kernel/input/ObjectSnap.h"
 #include "host/kernel/input/PointAim.h"
+#include "host/kernel/input/SnapModes.h"
 #include "host/kernel/variables/SystemVariables.h"
 
 #include <QMouseEvent>
@@ -40,6 +42,7 @@ DrawingCanvas::DrawingCanvas(kernel::Document &document, QWidget *parent)
     setCursor(Qt::BlankCursor);
     setAttribute(Qt::WA_OpaquePaintEvent);
     setMinimumSize(200, 120);
+    m_document.lendScene(&m_scene);
     connect(&m_picture, &ScenePicture::refined, this, qOverload<>(&QWidget::update));
     connect(&m_document, &kernel::Document::viewChanged, this, qOverload<>(&QWidget::update));
     connect(&m_document, &kernel::Document::layoutChanged, this, qOverload<>(&QWidget::update));
@@ -54,7 +57,10 @@ DrawingCanvas::DrawingCanvas(kernel::Document &document, QWidget *parent)
     connect(&m_document, &kernel::Document::runEnded, this, qOverload<>(&QWidget::update));
 }
 
-DrawingCanvas::~DrawingCanvas() = default;
+DrawingCanvas::~DrawingCanvas()
+{
+    m_document.lendScene(nullptr);
+}
 
 view::ViewTransform DrawingCanvas::transform() const
 {
@@ -132,6 +138,7 @@ void DrawingCanvas::setRequest(const std::optional<kernel::PromptRequest> &reque
         setFocus();
     m_box.reset();
     m_dragged.reset();
+    updateSnap();
     if (request && request->base && request->dragged && !request->dragged->empty())
         m_dragged.emplace(*request->dragged, request->base->xy());
     if (hadMarked || m_dragged || (m_request && m_request->chosen))
@@ -188,6 +195,23 @@ void DrawingCanvas::paintEvent(QPaintEvent *)
     paintOverlay(painter);
 }
 
+void DrawingCanvas::updateSnap()
+{
+    m_snap.reset();
+    const bool mayBe = m_pointer && m_request && (wantsPoint() || m_request->snaps);
+    if (!mayBe)
+        return;
+    const kernel::ObjectSnap snaps(m_document);
+    m_snap = snaps.find(world(*m_pointer), m_request->snaps.value_or(snaps.runningModes()), m_request->base);
+}
+
+void DrawingCanvas::paintSnap(QPainter &painter)
+{
+    if (m_snap)
+        paintSnapMark(painter, transform().toScreen(m_snap->point.xy()), m_snap->kind,
+                      kernel::snapModeName(m_snap->kind));
+}
+
 void DrawingCanvas::paintSketch(QPainter &painter)
 {
     const view::ViewTransform now = transform();
@@ -208,6 +232,7 @@ void DrawingCanvas::paintOverlay(QPainter &painter)
             m_dragged->paint(painter, m_scene, space(), transform(), m_ground, *m_pointer);
         paintRubberBand(painter);
     }
+    paintSnap(painter);
     const bool hasBox = !wantsPoint() && !m_isZoomWindow;
     paintCrosshair(painter, *m_pointer, size(),
                    {.ground = m_ground, .pickBox = hasBox ? pickReach() : 0, .hasLines = !wantsEntities(m_request)});
@@ -269,6 +294,7 @@ void DrawingCanvas::mouseMoveEvent(QMouseEvent *event)
     m_document.aim().pointer = world(event->position());
     if (wantsEvents() && m_request->tracksPointer)
         emit answered(kernel::PointerAnswer{world(event->position())});
+    updateSnap();
     emit pointerMoved(transform().toWorld(event->position()));
     update();
 }

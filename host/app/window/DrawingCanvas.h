@@ -2,6 +2,7 @@
 
 #include "host/app/window/DragPreview.h"
 #include "host/app/window/ScenePicture.h"
+#include "host/drawing/geometry/SnapPoints.h"
 #include "host/kernel/documents/Document.h"
 #include "host/kernel/input/PromptRequest.h"
 #include "host/view/build/Scene.h"
@@ -104,6 +105,9 @@ private:
     /// What moves with the pointer; nothing while that is elsewhere.
     void paintOverlay(QPainter &painter);
     void paintRubberBand(QPainter &painter);
+    /// Where the next point would snap to.
+    void updateSnap();
+    void paintSnap(QPainter &painter);
     /// What programs show for the moment.
     void paintSketch(QPainter &painter);
 
@@ -132,9 +136,10 @@ private:
     ScenePicture m_picture{m_scene};
     bool m_isCutShortTold = false;
     std::optional<kernel::PromptRequest> m_request;
-    std::optional<DragPreview> m_dragged; ///< while the prompt has entities hang at the pointer
-    std::optional<QPointF> m_pointer;     ///< where the pointer is, while it is on the canvas
-    std::optional<QPointF> m_panFrom;     ///< while the middle button is held
+    std::optional<DragPreview> m_dragged;     ///< while the prompt has entities hang at the pointer
+    std::optional<QPointF> m_pointer;         ///< where the pointer is, while it is on the canvas
+    std::optional<drawing::SnapPoint> m_snap; ///< for the pointer's place, while a point is asked for
+    std::optional<QPointF> m_panFrom;         ///< while the middle button is held
 
     struct PendingBox
     {

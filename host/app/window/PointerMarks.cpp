@@ -1,6 +1,9 @@
 #include "host/app/window/PointerMarks.h"
 
+#include "host/drawing/geometry/SnapPoints.h"
+
 #include <QPainter>
+#include <QPainterPath>
 
 #include <cmath>
 
@@ -42,6 +45,65 @@ void paintPointerBand(QPainter &painter, QPointF from, QPointF pointer, bool isD
 {
     painter.setPen(QPen(QColor(0xf0, 0xa0, 0x30), 0, isDashed ? Qt::DashLine : Qt::SolidLine));
     painter.drawLine(from, pointer);
+}
+
+namespace {
+
+constexpr double snapMarkSize = 6.0;
+const QColor snapMarkColor(0x2f, 0xc8, 0x5a);
+
+/// The sign's lines about the origin, from -1 to 1 both ways, y down.
+QPainterPath snapSign(int kind)
+{
+    using namespace drawing;
+    QPainterPath path;
+    switch (kind) {
+    case SnapMidPoint:
+        path.addPolygon(QPolygonF({{-1, 1}, {1, 1}, {0, -1}, {-1, 1}}));
+        break;
+    case SnapCentre:
+        path.addEllipse(QPointF(), 1, 1);
+        break;
+    case SnapNode:
+        path.addEllipse(QPointF(), 1, 1);
+        [[fallthrough]];
+    case SnapIntersection:
+    case SnapApparentIntersection:
+        path.addPolygon(QPolygonF({{-1, -1}, {1, 1}}));
+        path.addPolygon(QPolygonF({{-1, 1}, {1, -1}}));
+        break;
+    case SnapQuadrant:
+        path.addPolygon(QPolygonF({{0, -1}, {1, 0}, {0, 1}, {-1, 0}, {0, -1}}));
+        break;
+    case SnapInsertion:
+        path.addPolygon(QPolygonF(
+            {{-1, -1}, {0.3, -1}, {0.3, -0.3}, {1, -0.3}, {1, 1}, {-0.3, 1}, {-0.3, 0.3}, {-1, 0.3}, {-1, -1}}));
+        break;
+    case SnapPerpendicular:
+        path.addPolygon(QPolygonF({{-1, -1}, {-1, 1}, {1, 1}}));
+        path.addPolygon(QPolygonF({{-1, 0}, {0, 0}, {0, 1}}));
+        break;
+    case SnapTangent:
+        path.addEllipse(QPointF(0, 0.2), 0.8, 0.8);
+        path.addPolygon(QPolygonF({{-1, -0.8}, {1, -0.8}}));
+        break;
+    case SnapNearest:
+        path.addPolygon(QPolygonF({{-1, -1}, {1, -1}, {-1, 1}, {1, 1}, {-1, -1}}));
+        break;
+    default:
+        path.addRect(-1, -1, 2, 2);
+    }
+    return path;
+}
+
+} // namespace
+
+void paintSnapMark(QPainter &painter, QPointF at, int kind, const QString &name)
+{
+    constexpr double textGap = 14.0;
+    painter.setPen(QPen(snapMarkColor, 2.0));
+    painter.drawPath(QTransform::fromTranslate(at.x(), at.y()).scale(snapMarkSize, snapMarkSize).map(snapSign(kind)));
+    painter.drawText(at + QPointF(textGap, textGap + painter.fontMetrics().ascent()), name);
 }
 
 void paintSketchLine(QPainter &painter, QPointF from, QPointF to, const SketchLook &look)

@@ -29,6 +29,9 @@ void paintUnfinishedMark(QPainter &painter, const QString &text, QSize canvas, v
 /// The line that follows the pointer while a prompt has a base point.
 void paintPointerBand(QPainter &painter, QPointF from, QPointF pointer, bool isDashed);
 
+/// Where the next point snaps to: a sign of its kind (drawing::SnapKind), and what it is called beside the pointer.
+void paintSnapMark(QPainter &painter, QPointF at, int kind, const QString &name);
+
 /// A line that a program draws for the moment; the colour is an index of the table, or below 0 one unlike the ground.
 struct SketchLook
 {

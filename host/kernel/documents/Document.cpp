@@ -24,6 +24,7 @@
 #include "host/kernel/variables/SystemVariables.h"
 #include "host/lisp/Interpreter.h"
 #include "host/view/build/EntityExtents.h"
+#include "host/view/build/Scene.h"
 #include "host/view/build/TextMeasure.h"
 
 #include <QDir>
@@ -73,6 +74,15 @@ view::TextMeasure &Document::textMeasure() const
     if (!m_textMeasure)
         m_textMeasure = std::make_unique<view::TextMeasure>(*m_drawing);
     return *m_textMeasure;
+}
+
+view::Scene &Document::scene()
+{
+    if (m_lentScene)
+        return *m_lentScene;
+    if (!m_scene)
+        m_scene = std::make_unique<view::Scene>(*m_drawing, expressionSurroundings(*this));
+    return *m_scene;
 }
 
 view::EntityExtents &Document::entityExtents()

@@ -25,6 +25,7 @@ class BoxCache;
 
 namespace host::view {
 class EntityExtents;
+class Scene;
 class TextMeasure;
 } // namespace host::view
 
@@ -227,6 +228,11 @@ public:
     ScreenSketch &sketch() { return *m_sketch; }
     /// A redraw: what was drawn for the moment is gone.
     void clearSketch();
+    /// What is looked through for what is near a place: the scene of the window, which shows the document, or one of
+    /// its own, made by the first call.
+    view::Scene &scene();
+    /// The window has one, until it says null.
+    void lendScene(view::Scene *scene) { m_lentScene = scene; }
     /// What (entmake) has collected of an entity or block that is made in pieces.
     EntityMaker &entityMaker() { return *m_entityMaker; }
     /// Where (tblnext) and (dictnext) stand, by table name or the dictionary's handle.
@@ -298,6 +304,8 @@ private:
     std::unique_ptr<ScreenSketch> m_sketch;
     mutable std::unique_ptr<view::TextMeasure> m_textMeasure; ///< made when it is first asked for
     std::unique_ptr<view::EntityExtents> m_entityExtents;     ///< likewise
+    std::unique_ptr<view::Scene> m_scene;                     ///< likewise
+    view::Scene *m_lentScene = nullptr;
     QHash<QString, drawing::RecordId> m_cursors;
     CommandMemory m_memory;
     QStringList m_commandNames; ///< outermost first

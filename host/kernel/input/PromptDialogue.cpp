@@ -95,7 +95,7 @@ PromptDialogue::Reading PromptDialogue::read(const TextAnswer &answer)
     m_typedBy = answer.isFromScript ? Origin::Script : Origin::Keyboard;
     if (!text.isEmpty() && m_request.forCommand && (text.startsWith(u'(') || text.startsWith(u'!')))
         return readEvaluated(text);
-    return m_part ? readPart(text) : readText(text);
+    return m_assembly.isOpen() ? readPart(text) : readText(text);
 }
 
 PromptDialogue::Reading PromptDialogue::readText(const QString &text)
@@ -104,7 +104,7 @@ PromptDialogue::Reading PromptDialogue::readText(const QString &text)
         return readEmpty();
     if (const auto keyword = matchKeyword(text, m_request.keywords))
         return {replyOf(m_request.kind == PromptKind::Keyword ? ReplyKind::Value : ReplyKind::Keyword, *keyword), {}};
-    if (takePointWord(text))
+    if (takePointWord(text) || takeSnapWord(text))
         return {};
     Reading reading = readValue(text);
     if (!reading.reply && !reading.refusal.isEmpty() && (m_request.bits & AnyText))

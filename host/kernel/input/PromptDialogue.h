@@ -16,6 +16,11 @@ class Document;
 /// Wherever a point may answer, so may words that put one together (see PointAssembly), and at a prompt for points with
 /// a base a number: that far from the base towards the pointer, or, where nobody has moved one, in the direction in
 /// which the last point with a base lay from it (at first along the user's x axis).
+///
+/// Words of object snap (see parseSnapModes()) are for the next point, wherever it comes from, here and where entities
+/// are picked; when nothing is found, the point is refused. The kinds of OSMODE move points that are shown by hand,
+/// and by OSNAPCOORD: 0 all points, 1 no others, 2 those that scripts type. Points that programs give are the places
+/// they mean.
 class PromptDialogue
 {
 public:
@@ -63,6 +68,10 @@ private:
     bool takesPoints() const;
     bool takePointWord(const QString &text);
     bool lockDirection(const QString &text);
+    bool takeSnapWord(const QString &text);
+    bool isSnapped(Origin origin) const;
+    /// Moves the place where snaps want it. What is refused; empty when nothing is. `hasMoved` tells.
+    QString snap(drawing::Vec3 &world, Origin origin, bool &hasMoved);
     Reading readPart(const QString &text);
     std::optional<drawing::Vec3> directDistance(const QString &text) const;
     Reading takeGiven(const drawing::Vec3 &world, Origin origin);
@@ -81,6 +90,7 @@ private:
     Document &m_document;
     PromptRequest m_request;
     PointAssembly m_assembly;
+    std::optional<int> m_snaps;          ///< of words, for the next point
     Origin m_typedBy = Origin::Keyboard; ///< of the text that is being read
     std::optional<PromptRequest> m_part; ///< what is asked while a point is put together
     bool m_wasRefused = false;

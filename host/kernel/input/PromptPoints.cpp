@@ -1,9 +1,11 @@
 // How a prompt gets its points: typed, shown, or put together from others.
 
 #include "host/kernel/documents/Document.h"
+#include "host/kernel/input/ObjectSnap.h"
 #include "host/kernel/input/PointAim.h"
 #include "host/kernel/input/PointEntry.h"
 #include "host/kernel/input/PromptDialogue.h"
+#include "host/kernel/input/SnapModes.h"
 #include "host/kernel/lisp/LispConversion.h"
 #include "host/kernel/variables/SystemVariables.h"
 
@@ -23,6 +25,13 @@ Vec3 orthogonal(const Vec3 &away, double turn)
     const Vec3 x{std::cos(turn), std::sin(turn), 0.0};
     const Vec3 y{-x.y, x.x, 0.0};
     return std::abs(dot(away, x)) >= std::abs(dot(away, y)) ? x * dot(away, x) : y * dot(away, y);
+}
+
+QString snapPrompt(int kinds)
+{
+    using namespace drawing;
+    constexpr int towards = SnapPerpendicular | SnapTangent | SnapNearest | SnapParallel;
+    return kinds & towards ? u" to "_s : u" of "_s;
 }
 
 bool isOrthoOn(const SystemVariables &variables)
@@ -61,6 +70,17 @@ bool PromptDialogue::takePointWord(const QString &text)
     return true;
 }
 
+bool PromptDialogue::takeSnapWord(const QString &text)
+{
+    const bool picks = m_request.kind == PromptKind::Entity || m_request.kind == PromptKind::Selection;
+    const std::optional<int> kinds = takesPoints() || picks ? parseSnapModes(text) : std::nullopt;
+    if (!kinds)
+        return false;
+    m_snaps = kinds;
+    askForPart();
+    return true;
+}
+
 bool PromptDialogue::lockDirection(const QString &text)
 {
     // Where an angle is asked for, "<30" would be one.
@@ -77,13 +97,18 @@ bool PromptDialogue::lockDirection(const QString &text)
 void PromptDialogue::askForPart()
 {
     m_part.reset();
-    if (!m_assembly.isOpen())
+    if (!m_assembly.isOpen() && !m_snaps)
         return;
     m_part = m_request;
-    m_part->kind = PromptKind::Point;
-    m_part->prompt = m_assembly.prompt();
-    m_part->keywords.clear();
-    m_part->defaultText.clear();
+    m_part->snaps = m_snaps;
+    if (m_assembly.isOpen()) {
+        m_part->kind = PromptKind::Point;
+        m_part->prompt = m_assembly.prompt();
+        m_part->keywords.clear();
+        m_part->defaultText.clear();
+    }
+    if (m_snaps)
+        m_part->prompt = snapPrompt(*m_snaps);
     if (const std::optional<Vec3> base = m_assembly.base())
         m_part->base = toWorld(m_document, *base);
 }
@@ -94,7 +119,7 @@ PromptDialogue::Reading PromptDialogue::readPart(const QString &text)
         const std::optional<Vec3> point = m_assembly.takeEnter();
         return point ? takeAssembled(point) : refuse();
     }
-    if (takePointWord(text))
+    if (takePointWord(text) || takeSnapWord(text))
         return {};
     const std::optional<double> number = UnitFormat::of(m_document.variables()).parseLength(text);
     if (number && std::isfinite(*number) && m_assembly.isCoordinateMissing())
@@ -116,7 +141,7 @@ std::optional<Vec3> PromptDialogue::userBase() const
 std::optional<Vec3> PromptDialogue::directDistance(const QString &text) const
 {
     const std::optional<Vec3> base = userBase();
-    const bool isText = (m_request.bits & AnyText) && !(m_request.bits & DistanceFirst) && !m_part;
+    const bool isText = (m_request.bits & AnyText) && !(m_request.bits & DistanceFirst) && !m_assembly.isOpen();
     if (request().kind != PromptKind::Point || !base || isText)
         return {};
     const std::optional<double> distance = UnitFormat::of(m_document.variables()).parseLength(text);
@@ -144,16 +169,50 @@ std::optional<Vec3> PromptDialogue::typedPoint(const QString &text) const
 
 PromptDialogue::Reading PromptDialogue::takeGiven(const Vec3 &world, Origin origin)
 {
-    Vec3 user = toUser(m_document, world);
+    Vec3 place = world;
+    bool isSnapped = false;
+    if (const QString refusal = snap(place, origin, isSnapped); !refusal.isEmpty())
+        return {{}, refusal};
+    Vec3 user = toUser(m_document, place);
     const std::optional<Vec3> base = userBase();
-    const bool isStraightened =
-        origin == Origin::Pointer && base && request().kind == PromptKind::Point && isOrthoOn(m_document.variables());
+    const bool isStraightened = !isSnapped && origin == Origin::Pointer && base &&
+                                request().kind == PromptKind::Point && isOrthoOn(m_document.variables());
     if (isStraightened)
         user = *base + orthogonal(user - *base, m_document.variables().real(u"SNAPANG"));
     // What goes nowhere else stays the number it was.
-    if (!isStraightened && !m_assembly.isOpen() && !m_assembly.isDirectionLocked())
-        return takePoint(world);
+    if (!isStraightened && !m_assembly.isOpen() && !m_assembly.isDirectionLocked()) {
+        askForPart();
+        return takePoint(place);
+    }
     return takeAssembled(m_assembly.take(user, base));
+}
+
+bool PromptDialogue::isSnapped(Origin origin) const
+{
+    if (m_request.kind == PromptKind::Entity || m_request.kind == PromptKind::Selection)
+        return false;
+    constexpr int exceptInScripts = 2;
+    const int rule = m_document.variables().integer(u"OSNAPCOORD", exceptInScripts);
+    return origin == Origin::Pointer || rule == 0 || (rule == exceptInScripts && origin == Origin::Script);
+}
+
+QString PromptDialogue::snap(Vec3 &world, Origin origin, bool &hasMoved)
+{
+    const std::optional<int> wanted = std::exchange(m_snaps, std::nullopt);
+    if (!wanted && !isSnapped(origin))
+        return {};
+    const ObjectSnap snaps(m_document);
+    const std::optional<Vec3> base = userBase();
+    const auto found = snaps.find(world, wanted.value_or(snaps.runningModes()),
+                                  base ? std::optional(toWorld(m_document, *base)) : std::nullopt);
+    if (found) {
+        world = found->point;
+        hasMoved = true;
+    } else if (wanted && *wanted != 0) {
+        askForPart();
+        return u"No %1 found for specified point."_s.arg(snapModeName(*wanted));
+    }
+    return {};
 }
 
 PromptDialogue::Reading PromptDialogue::takeAssembled(const std::optional<Vec3> &user)

@@ -56,6 +56,7 @@ struct PromptRequest
     std::optional<drawing::Vec3> base; ///< where a rubber band starts; world coordinates
     bool allowSpaces = false;          ///< String: blanks belong to the answer
     bool forCommand = false;           ///< asked by a command rather than by a Lisp program
+    std::optional<int> snaps{};        ///< kinds that the next point snaps to in place of those of OSMODE; 0: none
     bool tracksPointer = false;        ///< Event: that the pointer moves is one
     bool isTransparent = false;        ///< asked by a command that was called in the middle of another prompt
     bool endsWhenRefused = false;      ///< a refused answer cancels the prompt when more was typed behind it

@@ -1,0 +1,59 @@
+#include "host/commands/Commands.h"
+#include "host/kernel/documents/Document.h"
+#include "host/kernel/input/SnapModes.h"
+#include "host/kernel/running/CommandContext.h"
+#include "host/kernel/variables/SystemVariables.h"
+
+using namespace Qt::StringLiterals;
+
+namespace host::kernel {
+
+namespace {
+
+// OSNAP, -OSNAP, DSETTINGS: which object snaps are always on, as a list of words. An empty answer leaves them, "none"
+// and "off" end them.
+CommandTask setSnapModes(CommandContext &context)
+{
+    SystemVariables &variables = context.document().variables();
+    const int modes = variables.integer(u"OSMODE");
+    context.print(u"\nCurrent osnap modes: "_s + snapModeWords(modes & drawing::SnapsSwitchedOff ? 0 : modes));
+    for (;;) {
+        const PromptReply reply = co_await context.text(u"Enter list of object snap modes: "_s);
+        if (reply.isEmpty() || reply.text.trimmed().isEmpty())
+            co_return;
+        const bool isOff = reply.text.trimmed().compare(u"off"_s, Qt::CaseInsensitive) == 0;
+        if (const std::optional<int> wanted = isOff ? 0 : parseSnapModes(reply.text)) {
+            variables.set(u"OSMODE", *wanted);
+            co_return;
+        }
+        if (context.refuse(u"Invalid object snap mode."_s))
+            co_return;
+    }
+}
+
+// APERTURE: how near the pointer an entity is snapped to, in pixels.
+CommandTask setAperture(CommandContext &context)
+{
+    SystemVariables &variables = context.document().variables();
+    for (;;) {
+        const PromptReply reply = co_await context.integer(
+            u"Object snap target height (1-50 pixels) <%1>: "_s.arg(variables.integer(u"APERTURE")), {},
+            variables.display(u"APERTURE"));
+        if (reply.isEmpty() || variables.set(u"APERTURE", reply.integer) == SetOutcome::Done)
+            co_return;
+        if (context.refuse(u"Value must be between 1 and 50."_s))
+            co_return;
+    }
+}
+
+} // namespace
+
+std::vector<CommandRow> snapCommands()
+{
+    return {{"OSNAP", setSnapModes, "Says which object snaps are always on"},
+            {"-OSNAP", setSnapModes, "Says which object snaps are always on"},
+            {"DSETTINGS", setSnapModes, "Says which object snaps are always on"},
+            {"APERTURE", setAperture, "Says how near the pointer object snap looks"}};
+}
+
+} // namespace host::kernel
