@@ -8,6 +8,7 @@
 #include "host/app/window/DrawingCanvas.h"
 #include "host/drawing/records/Entities.h"
 #include "host/kernel/documents/Session.h"
+#include "host/kernel/input/ObjectSnap.h"
 #include "host/view/paint/Export.h"
 #include "host/view/paint/Picking.h"
 #include "host/view/paint/ScenePainter.h"
@@ -304,6 +305,23 @@ void pick(benchmark::State &state)
             view::pickAllAt(scene, view::Scene::modelSpace, {place(engine), place(engine)}, side / 600.0 * 3.0));
 }
 
+/// Where the pointer would snap to, for all kinds at once, with a hundredth of the drawing's side in view.
+void snap(benchmark::State &state)
+{
+    Canvas canvas(sizeOf(state));
+    const double side = entities(sizeOf(state)).side();
+    kernel::ViewState shown = canvas.document().view();
+    shown.height = side / 100.0;
+    canvas.document().setView(shown);
+    const kernel::ObjectSnap snaps(canvas.document());
+    snaps.find({}, drawing::SnapEndPoint);
+    std::mt19937 engine(3);
+    std::uniform_real_distribution place(0.0, side);
+    constexpr int allKinds = drawing::SnapsSwitchedOff - 1;
+    for (auto _ : state)
+        benchmark::DoNotOptimize(snaps.find({place(engine), place(engine), 0.0}, allKinds, drawing::Vec3{}));
+}
+
 /// One entity is changed and the canvas painted.
 void editFrame(benchmark::State &state)
 {
@@ -386,6 +404,7 @@ int main(int argc, char **argv)
             ->Iterations(3)
             ->UseManualTime();
     add("pick", pick);
+    add("snap", snap);
     add("editFrame", editFrame);
     const auto addOnce = [&](const char *name, void (*run)(benchmark::State &)) {
         benchmark::RegisterBenchmark(name, run)->Unit(benchmark::kMillisecond)->Arg(few)->Iterations(1)->UseRealTime();
@@ -398,10 +417,10 @@ int main(int argc, char **argv)
         ratios.push_back({sized("firstPicture"), sized("readFile")});
         ratios.push_back({sized("wholePainted"), sized("barePainter")});
         ratios.push_back({sized("wholePaintedSmooth"), sized("barePainterSmooth")});
-        for (const char *frame : {"panFrame", "zoomFrame", "longestSlice", "pick", "editFrame"})
+        for (const char *frame : {"panFrame", "zoomFrame", "longestSlice", "pick", "snap", "editFrame"})
             ratios.push_back({sized(frame), sized("barePainter")});
     }
-    for (const char *name : {"firstPicture", "wholePainted", "panFrame", "zoomFrame", "pick", "editFrame"})
+    for (const char *name : {"firstPicture", "wholePainted", "panFrame", "zoomFrame", "pick", "snap", "editFrame"})
         ratios.push_back({name + ("/" + std::to_string(many)), name + ("/" + std::to_string(few))});
     ratios.push_back({"pdfByLibreCad/" + std::to_string(few), "pdf/" + std::to_string(few)});
     return bench::runWithRatios(argc, argv, ratios);
