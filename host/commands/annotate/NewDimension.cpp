@@ -8,7 +8,6 @@
 #include "host/drawing/records/Tables.h"
 #include "host/kernel/documents/Document.h"
 #include "host/kernel/variables/SystemVariables.h"
-#include "host/view/build/TextMeasure.h"
 
 using namespace Qt::StringLiterals;
 
@@ -126,18 +125,6 @@ QString currentDimensionStyle(CommandContext &context)
 bool isDimension(const drawing::Drawing &drawing, RecordId entity)
 {
     return drawing.isAlive(entity) && drawing.typeName(entity).endsWith("DIMENSION");
-}
-
-drawing::TextSize dimensionTextSize(CommandContext &context, const QString &textStyle)
-{
-    view::TextMeasure &measure = context.document().textMeasure();
-    const RecordId style = context.drawing().tables().find(drawing::TableKind::Style, textStyle);
-    const QString name = isValid(style) ? textStyle : u"Standard"_s;
-    return [&measure, name](const QString &content, double height) -> Vec2 {
-        const auto size =
-            measure.paragraphSize({{0, u"MTEXT"_s}, {40, height}, {41, 0.0}, {71, qint64(5)}, {1, content}, {7, name}});
-        return {size.x, size.y};
-    };
 }
 
 Dialogue<PromptReply> askDimensionLine(CommandContext &context, LineQuestion question, DimensionAnswers &answers)

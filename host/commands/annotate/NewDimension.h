@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/commands/common/TextSizes.h"
 #include "host/commands/common/UserPlane.h"
 #include "host/drawing/annotation/DimensionPicture.h"
 #include "host/kernel/running/CommandContext.h"
@@ -23,9 +24,6 @@ struct LineQuestion
 };
 /// Asks until there is a point, or an option that is the command's own.
 Dialogue<PromptReply> askDimensionLine(CommandContext &context, LineQuestion question, DimensionAnswers &answers);
-
-/// How large the current fonts write a text in that style of the drawing.
-drawing::TextSize dimensionTextSize(CommandContext &context, const QString &textStyle);
 
 /// Makes a DIMENSION from its kind (group 70) and points, in the user's plane, with the current style and its
 /// overrides, draws its block and tells the measured value. DIMASSOC 0 leaves the entities of the picture in its place.

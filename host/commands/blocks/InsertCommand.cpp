@@ -1,9 +1,9 @@
 #include "host/commands/Commands.h"
+#include "host/commands/blocks/AttributeDefinitions.h"
 #include "host/commands/blocks/InsertPlacement.h"
 #include "host/commands/common/EntityEdits.h"
 #include "host/drawing/editing/CopyBetweenDrawings.h"
 #include "host/drawing/geometry/TransformEntity.h"
-#include "host/drawing/geometry/TransformFields.h"
 #include "host/drawing/records/Blocks.h"
 #include "host/drawing/selection/Wildcard.h"
 #include "host/kernel/documents/CurrentSpace.h"
@@ -22,7 +22,6 @@ namespace {
 using drawing::FieldList;
 using drawing::Matrix;
 using drawing::RecordId;
-using drawing::TagList;
 
 /// What an answer to INSERT means.
 struct Wanted
@@ -85,48 +84,8 @@ void listBlocks(CommandContext &context, const QString &pattern)
     }
 }
 
-/// An attribute definition of the block.
-struct Definition
-{
-    FieldList fields;
-    QString tag;
-    QString prompt;
-    QString value;
-    bool isAsked = true;
-};
-
-std::vector<Definition> attributeDefinitions(const drawing::Drawing &drawing, const QString &block)
-{
-    constexpr qint64 constant = 2;
-    constexpr qint64 preset = 8;
-    std::vector<Definition> definitions;
-    for (RecordId id : drawing.children(drawing.blocks().find(block))) {
-        if (!drawing.isType(id, "ATTDEF"))
-            continue;
-        const TagList tags = drawing.tags(id);
-        if (!(tags.integer(70) & constant))
-            definitions.push_back(
-                {drawing.fields(id), tags.text(2), tags.text(3), tags.text(1), !(tags.integer(70) & preset)});
-    }
-    return definitions;
-}
-
-/// The attribute that a definition becomes where the block is inserted.
-FieldList attributeFor(const Definition &definition, const Matrix &toDrawing)
-{
-    static const QSet<int> kept = {6, 7, 8, 10, 11, 39, 40, 41, 50, 51, 62, 70, 71, 72, 73, 74, 210};
-    FieldList fields = {{0, u"ATTRIB"_s}};
-    for (const drawing::Field &field : definition.fields)
-        if (kept.contains(field.code) && !drawing::findField(fields, field.code))
-            fields.push_back(field);
-    drawing::transformFields(fields, toDrawing);
-    fields.push_back({1, definition.value});
-    fields.push_back({2, definition.tag});
-    return fields;
-}
-
 void createInsert(CommandContext &context, const QString &block, const InsertPlacement &placement,
-                  const std::vector<Definition> &attributes)
+                  const std::vector<AttributeDefinition> &attributes)
 {
     FieldList head = insertFields(context, block, placement);
     if (attributes.empty()) {
@@ -137,7 +96,7 @@ void createInsert(CommandContext &context, const QString &block, const InsertPla
     const Matrix toDrawing = placementMatrix(context, context.drawing().blocks().get(block)->basePoint, placement);
     std::vector<FieldList> children;
     children.reserve(attributes.size());
-    for (const Definition &definition : attributes)
+    for (const AttributeDefinition &definition : attributes)
         children.push_back(attributeFor(definition, toDrawing));
     context.createComplex(head, children);
 }
@@ -172,11 +131,11 @@ Dialogue<Wanted> askBlock(CommandContext &context)
 }
 
 /// Asks for the values of the attributes that are asked for (ATTREQ 0: none, their defaults count).
-Dialogue<std::vector<Definition>> askAttributes(CommandContext &context, const QString &block)
+Dialogue<std::vector<AttributeDefinition>> askAttributes(CommandContext &context, const QString &block)
 {
-    std::vector<Definition> attributes = attributeDefinitions(context.drawing(), block);
+    std::vector<AttributeDefinition> attributes = attributeDefinitions(context.drawing(), block);
     const bool areAsked = context.document().variables().integer(u"ATTREQ") != 0;
-    for (Definition &definition : attributes) {
+    for (AttributeDefinition &definition : attributes) {
         if (!areAsked || !definition.isAsked)
             continue;
         const QString asked = definition.prompt.isEmpty() ? definition.tag : definition.prompt;
@@ -202,7 +161,7 @@ CommandTask insert(CommandContext &context)
         createPieces(context, wanted, placement);
         co_return;
     }
-    const std::vector<Definition> attributes = co_await askAttributes(context, wanted.block);
+    const std::vector<AttributeDefinition> attributes = co_await askAttributes(context, wanted.block);
     createInsert(context, wanted.block, placement, attributes);
 }
 

@@ -2,6 +2,9 @@
 #include "host/commands/common/EntityEdits.h"
 #include "host/commands/common/Movement.h"
 #include "host/commands/common/ObjectChoice.h"
+#include "host/commands/common/TextSizes.h"
+#include "host/drawing/annotation/DimensionBlock.h"
+#include "host/drawing/annotation/DimensionStyle.h"
 #include "host/drawing/editing/StretchEntity.h"
 #include "host/drawing/geometry/EntityGeometry.h"
 #include "host/drawing/geometry/TransformEntity.h"
@@ -61,6 +64,21 @@ StretchArea areaOf(const std::vector<SelectionShape> &shapes)
     return area;
 }
 
+drawing::StretchOutcome stretchOne(CommandContext &context, RecordId id, const StretchArea &area, const Vec3 &by)
+{
+    drawing::Drawing &drawing = context.drawing();
+    if (!area.crossed.contains(id))
+        return drawing::transformEntity(drawing, id, Matrix::translation(by)) ? drawing::StretchOutcome::Done
+                                                                              : drawing::StretchOutcome::Refused;
+    const auto isCaught = [&area](const Vec3 &point) { return area.catches(point); };
+    const drawing::StretchOutcome outcome = drawing::stretchEntity(drawing, id, isCaught, by);
+    if (outcome == drawing::StretchOutcome::Done && drawing.typeName(id).endsWith("DIMENSION")) {
+        const drawing::DimensionStyle style = readDimensionStyle(drawing, drawing.tags(id));
+        drawDimension(drawing, id, dimensionTextSize(context, style.textStyle));
+    }
+    return outcome;
+}
+
 // By crossing windows or polygons: what lies within moves. What was chosen otherwise moves as a whole.
 CommandTask stretch(CommandContext &context)
 {
@@ -71,14 +89,9 @@ CommandTask stretch(CommandContext &context)
         co_return;
     const Vec3 by = co_await askMovement(context);
     const StretchArea area = areaOf(chosen.shapes);
-    const auto isCaught = [&area](const Vec3 &point) { return area.catches(point); };
     int refused = 0;
-    for (const RecordId id : entities) {
-        if (area.crossed.contains(id))
-            refused += drawing::stretchEntity(context.drawing(), id, isCaught, by) == drawing::StretchOutcome::Refused;
-        else
-            refused += drawing::transformEntity(context.drawing(), id, Matrix::translation(by)) ? 0 : 1;
-    }
+    for (const RecordId id : entities)
+        refused += stretchOne(context, id, area, by) == drawing::StretchOutcome::Refused ? 1 : 0;
     if (refused > 0)
         context.print(u"\n%1 could not be changed."_s.arg(refused));
 }

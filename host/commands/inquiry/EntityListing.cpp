@@ -5,7 +5,6 @@
 #include "host/drawing/curves/EntityCurve.h"
 #include "host/drawing/geometry/EntityGeometry.h"
 #include "host/drawing/math/Angles.h"
-#include "host/drawing/math/Curves.h"
 #include "host/drawing/records/Entities.h"
 #include "host/drawing/records/Layouts.h"
 #include "host/drawing/records/PolylineFlags.h"
@@ -26,7 +25,6 @@ using drawing::Matrix;
 using drawing::radians;
 using drawing::RecordId;
 using drawing::TagList;
-using drawing::Vec2;
 using drawing::Vec3;
 
 /// The lines of one entity while they are written.
@@ -64,6 +62,10 @@ public:
     {
         value(what, context.shownLength(area));
         value(round, context.shownLength(perimeter));
+    }
+    std::optional<drawing::EntityCurve> curve() const
+    {
+        return drawing::EntityCurve::ofEntity(context.drawing(), record);
     }
     const UserPlane &plane() const { return m_plane; }
     QString take() { return std::move(m_text); }
@@ -114,59 +116,28 @@ void listCircle(ListedSheet &sheet)
 
 void listArc(ListedSheet &sheet)
 {
-    const double radius = sheet.tags.real(40);
-    double sweep = sheet.tags.real(51) - sheet.tags.real(50);
-    sweep += sweep <= 0.0 ? 360.0 : 0.0;
     sheet.flatPoint(u"center point,"_s, sheet.tags.point(10));
-    sheet.length(u"radius"_s, radius);
+    sheet.length(u"radius"_s, sheet.tags.real(40));
     sheet.direction(u"start angle"_s, sheet.tags.real(50));
     sheet.direction(u"end angle"_s, sheet.tags.real(51));
-    sheet.length(u"length"_s, radius * sweep * radians);
+    if (const auto curve = sheet.curve())
+        sheet.length(u"length"_s, curve->length());
 }
 
 void listEllipse(ListedSheet &sheet)
 {
     const Vec3 major = sheet.tags.point(11);
-    const double ratio = sheet.tags.real(40, 1.0);
     sheet.point(u"Center:"_s, sheet.tags.point(10));
     sheet.point(u"Major Axis:"_s, sheet.plane().worldFromUser({}) + major);
-    sheet.length(u"Radius Ratio"_s, ratio);
-    sheet.length(u"Area"_s, std::numbers::pi * dot(major, major) * ratio);
-}
-
-/// What a polyline's vertices in a plane enclose, and how long it is.
-struct PolylineSize
-{
-    double area = 0.0;
-    double length = 0.0;
-};
-
-PolylineSize polylineSize(const std::vector<Vec2> &points, const std::vector<double> &bulges, bool isClosed)
-{
-    PolylineSize size;
-    const std::size_t count = points.size();
-    for (std::size_t i = 0; i < count; ++i) {
-        const Vec2 from = points[i];
-        const Vec2 to = points[(i + 1) % count];
-        const bool isDrawn = isClosed || i + 1 < count;
-        size.area += cross(from - points[0], to - points[0]) / 2.0;
-        if (!isDrawn)
-            continue;
-        const drawing::BulgeArc arc = drawing::bulgeArc(from, to, bulges[i]);
-        size.length += bulges[i] == 0.0 ? (to - from).length() : arc.radius * std::abs(arc.sweep);
-        size.area += bulges[i] == 0.0 ? 0.0 : arc.radius * arc.radius * (arc.sweep - std::sin(arc.sweep)) / 2.0;
-    }
-    size.area = std::abs(size.area);
-    return size;
+    sheet.length(u"Radius Ratio"_s, sheet.tags.real(40, 1.0));
+    if (const auto curve = sheet.curve())
+        sheet.numbers(u"Area"_s, curve->area(), curve->length(), u"Length"_s);
 }
 
 void listVertices(ListedSheet &sheet, const std::vector<Vec3> &points, const std::vector<double> &bulges, bool isClosed)
 {
-    std::vector<Vec2> flat;
-    for (const Vec3 &point : points)
-        flat.push_back(point.xy());
-    const PolylineSize size = polylineSize(flat, bulges, isClosed);
-    sheet.numbers(u"area"_s, size.area, size.length, isClosed ? u"perimeter"_s : u"length"_s);
+    if (const auto curve = sheet.curve())
+        sheet.numbers(u"area"_s, curve->area(), curve->length(), isClosed ? u"perimeter"_s : u"length"_s);
     for (std::size_t i = 0; i < points.size(); ++i) {
         sheet.flatPoint(u"at point"_s, points[i]);
         if (bulges[i] != 0.0)
@@ -203,20 +174,15 @@ void listPolyline(ListedSheet &sheet)
     sheet.line(isClosed ? u"Closed"_s : u"Open"_s);
     std::vector<Vec3> points;
     std::vector<double> bulges;
-    double length = 0.0;
     for (const RecordId child : sheet.context.drawing().children(sheet.record)) {
         const TagList vertex = sheet.context.drawing().tags(child);
         points.push_back(vertex.point(10));
         bulges.push_back(vertex.real(42));
-        if (points.size() > 1)
-            length += (points.back() - points[points.size() - 2]).length();
     }
     if (isFlat && !points.empty())
         return listVertices(sheet, points, bulges, isClosed);
-    if (isClosed && !points.empty())
-        length += (points.front() - points.back()).length();
-    if ((flags & drawing::Flag3d) != 0)
-        sheet.length(u"length"_s, length);
+    if (const auto curve = sheet.curve())
+        sheet.length(u"length"_s, curve->length());
     for (const Vec3 &point : points)
         sheet.point(u"at point"_s, point);
 }
@@ -239,11 +205,8 @@ void listCorners(ListedSheet &sheet)
 void listSpline(ListedSheet &sheet)
 {
     const drawing::Spline spline = drawing::readSpline(sheet.tags);
-    double length = 0.0;
-    const drawing::Path path = drawing::splinePath(spline, {.maximumAngle = 0.01});
-    for (std::size_t i = 1; i < path.size(); ++i)
-        length += (path[i] - path[i - 1]).length();
-    sheet.length(u"Length"_s, length);
+    if (const auto curve = sheet.curve())
+        sheet.length(u"Length"_s, curve->length());
     sheet.value(u"Order"_s, QString::number(spline.degree + 1));
     for (const Vec3 &point : spline.controlPoints)
         sheet.point(u"Control Point:"_s, point);

@@ -1,11 +1,9 @@
 #include "host/drawing/editing/StretchEntity.h"
 
-#include "host/drawing/annotation/DimensionData.h"
 #include "host/drawing/geometry/TransformEntity.h"
 #include "host/drawing/geometry/TransformFields.h"
 #include "host/drawing/math/Angles.h"
 #include "host/drawing/math/Curves.h"
-#include "host/drawing/records/Blocks.h"
 #include "host/drawing/records/Journal.h"
 #include "host/drawing/records/PolylineFlags.h"
 
@@ -239,7 +237,6 @@ private:
         m_isMoved = true;
     }
 
-    /// With its measured points the measure changes; the picture does not, so it goes.
     StretchOutcome stretchDimension()
     {
         bool isAll = true;
@@ -253,18 +250,7 @@ private:
             moveAt(code, m_plane);
         if (!m_isMoved)
             return StretchOutcome::Nothing;
-        if (const Field *picture = findField(m_fields, 2); picture && picture->text().startsWith(u'*')) {
-            const RecordId block = m_drawing.blocks().find(picture->text());
-            std::erase_if(m_fields, [](const Field &field) { return field.code == 2; });
-            if (isValid(block))
-                m_drawing.blocks().erase(block);
-        }
         m_drawing.setFields(m_entity, m_fields);
-        const auto data = readDimension(m_drawing, m_entity, m_drawing.tags(m_entity));
-        if (data && findField(m_fields, 42)) {
-            setOwnField(m_fields, 42, data->measured());
-            m_drawing.setFields(m_entity, m_fields);
-        }
         return StretchOutcome::Done;
     }
 

@@ -19,8 +19,7 @@ enum class StretchOutcome
 
 /// Moves the points of an entity that are caught: ends of lines and arcs, vertices, corners, control points, the points
 /// of dimensions. An arc keeps its height over the chord. What has one point (texts, circles, references ...) moves as
-/// a whole when that is caught. A dimension whose points do not all move loses its picture, and is drawn by its style
-/// until that is made again.
+/// a whole when that is caught. The picture of a dimension is to be drawn anew (drawDimension()).
 StretchOutcome stretchEntity(Drawing &drawing, RecordId entity, const IsCaught &isCaught, const Vec3 &by);
 
 } // namespace host::drawing

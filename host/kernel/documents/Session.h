@@ -115,6 +115,10 @@ public:
     void setSupportFolders(const QStringList &folders) { m_supportFolders = folders; }
     QString helpFolder() const { return m_helpFolder; }
 
+    /// What was cut or copied last, in a drawing of its own, whose insertion base is the base point; null for nothing.
+    const drawing::Drawing *clipboard() const { return m_clipboard.get(); }
+    void setClipboard(std::unique_ptr<drawing::Drawing> drawing) { m_clipboard = std::move(drawing); }
+
     /// A file that should have been written was not, or not whole. The user has been told; a run without one ends with
     /// that.
     void tellNotWritten(const QString &problem) { m_notWritten.append(problem); }
@@ -124,6 +128,7 @@ public:
     QStringList takeNotWritten() { return std::exchange(m_notWritten, {}); }
 
 private:
+    std::unique_ptr<drawing::Drawing> m_clipboard;
     QStringList m_notWritten; ///< told since takeNotWritten()
     QString m_home;
     QStringList m_supportFolders;
