@@ -77,8 +77,7 @@ void setFollowing(Document &document, const VariableValue &value)
     document.drawing().setFields(viewport, fields);
 }
 
-/// 1 is the sheet itself.
-VariableValue currentViewport(const Document &document)
+VariableValue viewportNumber(const Document &document)
 {
     return currentViewportNumber(document.drawing());
 }
@@ -86,7 +85,7 @@ VariableValue currentViewport(const Document &document)
 /// The view, and where it is looked from.
 VariableRows viewRows()
 {
-    return {computed("CVPORT", currentViewport),
+    return {computed("CVPORT", viewportNumber),
             computed("SCREENSIZE", screenPixels),
             computed("VIEWCTR", viewCentre),
             computed("VIEWSIZE", viewHeight),
