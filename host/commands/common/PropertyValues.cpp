@@ -13,6 +13,8 @@ int colourNumber(const QString &text)
 {
     static const QStringList names = {u"RED"_s,  u"YELLOW"_s,  u"GREEN"_s, u"CYAN"_s,
                                       u"BLUE"_s, u"MAGENTA"_s, u"WHITE"_s};
+    if (text.startsWith(u'_'))
+        return colourNumber(text.mid(1));
     const int number = text.toInt();
     return number >= 1 && number <= 255 ? number : int(names.indexOf(text.toUpper())) + 1;
 }

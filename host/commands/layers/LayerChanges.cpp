@@ -79,12 +79,12 @@ Dialogue<LayerChange> askExactColour(CommandContext &context)
 
 Dialogue<LayerChange> askColour(CommandContext &context)
 {
-    const PromptReply colour = co_await context.name(u"New color [Truecolor/COlorbook]: "_s);
+    const PromptReply colour = co_await context.name(u"New color [Truecolor/COlorbook] <7 (white)>: "_s, u"7"_s);
     if (colour.isKeyword(u"Truecolor"))
         co_return co_await askExactColour(context);
     if (colour.isKeyword(u"COlorbook"))
         co_return refused(context, u"This program has no color books."_s);
-    const int number = colourNumber(colour.text);
+    const int number = colour.hasValue() ? colourNumber(colour.text) : 7;
     if (number == 0)
         co_return refused(context, u"Requires a color number from 1 to 255 or a color name."_s);
     co_return LayerChange{u"color "_s + colour.text, [number](FieldList &fields) { setColour(fields, number); }};

@@ -1,5 +1,6 @@
 #include "host/commands/Commands.h"
 #include "host/commands/layers/LayerChanges.h"
+#include "host/commands/layers/LayerStates.h"
 #include "host/drawing/editing/RenameLayer.h"
 #include "host/drawing/records/Symbols.h"
 #include "host/drawing/records/Tables.h"
@@ -17,16 +18,6 @@ namespace {
 using drawing::FieldList;
 using drawing::Layer;
 using drawing::TableKind;
-
-QString currentLayer(CommandContext &context)
-{
-    return context.document().variables().text(u"CLAYER");
-}
-
-bool isCurrent(CommandContext &context, const Layer &layer)
-{
-    return layer.name.compare(currentLayer(context), Qt::CaseInsensitive) == 0;
-}
 
 /// Layers whose names match a list of patterns with commas between.
 std::vector<Layer> matchingLayers(CommandContext &context, const QString &patterns)
@@ -46,22 +37,6 @@ void modify(CommandContext &context, const Layer &layer, const std::function<voi
     context.drawing().tables().modify(layer.record, fields);
 }
 
-void changeFlag(CommandContext &context, const Layer &layer, qint64 bit, bool isOn)
-{
-    modify(context, layer, [bit, isOn](FieldList &fields) {
-        const drawing::Field *flags = drawing::findField(fields, 70);
-        const qint64 before = flags ? flags->integer() : 0;
-        drawing::setField(fields, 70, isOn ? before | bit : before & ~bit);
-    });
-}
-
-/// A negative colour number says that the layer is off.
-void switchLayer(CommandContext &context, const Layer &layer, bool isOn)
-{
-    modify(context, layer,
-           [&](FieldList &fields) { drawing::setField(fields, 62, qint64(isOn ? layer.colour : -layer.colour)); });
-}
-
 /// An option that changes a state of layers.
 struct StateOption
 {
@@ -70,25 +45,24 @@ struct StateOption
     void (*apply)(CommandContext &context, const Layer &layer);
 };
 
-constexpr qint64 frozen = 1;
-constexpr qint64 locked = 4;
-
 void freeze(CommandContext &context, const Layer &layer)
 {
     if (isCurrent(context, layer))
         context.print(u"\nCannot freeze layer \"%1\". It is the current layer."_s.arg(layer.name));
     else
-        changeFlag(context, layer, frozen, true);
+        changeLayerFlag(context, layer, frozenLayer, true);
 }
 
 constexpr StateOption stateOptions[] = {
     {u"ON", "turn on", [](CommandContext &context, const Layer &layer) { switchLayer(context, layer, true); }},
     {u"OFF", "turn off", [](CommandContext &context, const Layer &layer) { switchLayer(context, layer, false); }},
     {u"Freeze", "freeze", freeze},
-    {u"Thaw", "thaw", [](CommandContext &context, const Layer &layer) { changeFlag(context, layer, frozen, false); }},
-    {u"LOck", "lock", [](CommandContext &context, const Layer &layer) { changeFlag(context, layer, locked, true); }},
+    {u"Thaw", "thaw",
+     [](CommandContext &context, const Layer &layer) { changeLayerFlag(context, layer, frozenLayer, false); }},
+    {u"LOck", "lock",
+     [](CommandContext &context, const Layer &layer) { changeLayerFlag(context, layer, lockedLayer, true); }},
     {u"Unlock", "unlock",
-     [](CommandContext &context, const Layer &layer) { changeFlag(context, layer, locked, false); }},
+     [](CommandContext &context, const Layer &layer) { changeLayerFlag(context, layer, lockedLayer, false); }},
 };
 
 Dialogue<bool> changeStates(CommandContext &context, const StateOption &state)
@@ -202,6 +176,14 @@ Dialogue<bool> list(CommandContext &context)
     co_return true;
 }
 
+/// There is no list of layers to look through here: the answer is taken so that programs go on in step.
+Dialogue<bool> reconcile(CommandContext &context)
+{
+    co_await context.text(u"Enter name list of layer(s) to reconcile: "_s);
+    context.print(u"\nNo unreconciled layers."_s);
+    co_return true;
+}
+
 /// A value, then the layers that get it.
 Dialogue<bool> changeProperty(CommandContext &context, const QString &option)
 {
@@ -223,8 +205,8 @@ Dialogue<bool> takeLayerOption(CommandContext &context, const QString &option)
         QStringView option;
         Dialogue<bool> (*act)(CommandContext &context);
     };
-    static constexpr Action actions[] = {
-        {u"?", list}, {u"Make", make}, {u"Set", chooseCurrent}, {u"New", add}, {u"Rename", rename}};
+    static constexpr Action actions[] = {{u"?", list},  {u"Make", make},     {u"Set", chooseCurrent},
+                                         {u"New", add}, {u"Rename", rename}, {u"rEconcile", reconcile}};
     for (const Action &action : actions)
         if (action.option == option)
             co_return co_await action.act(context);
@@ -234,19 +216,27 @@ Dialogue<bool> takeLayerOption(CommandContext &context, const QString &option)
     co_return co_await changeProperty(context, option);
 }
 
-// Options, one after another until an empty answer.
-CommandTask layer(CommandContext &context)
+/// Options, one after another until an empty answer.
+Dialogue<bool> takeLayerOptions(CommandContext &context)
 {
-    context.print(u"\nCurrent layer:  \"%1\""_s.arg(currentLayer(context)));
     while (!context.hasFailed()) {
         const PromptReply option = co_await context.keyword(
             u"Enter an option "
             u"[?/Make/Set/New/Rename/ON/OFF/Color/Ltype/LWeight/TRansparency/MATerial/Plot/PStyle/Freeze/"
-            "Thaw/LOck/Unlock/stAte/Description]: "_s);
+            "Thaw/LOck/Unlock/stAte/Description/rEconcile]: "_s);
         if (!option.hasValue())
-            co_return;
+            break;
         co_await takeLayerOption(context, option.text);
     }
+    co_return true;
+}
+
+CommandTask layer(CommandContext &context)
+{
+    context.print(u"\nCurrent layer:  \"%1\""_s.arg(currentLayer(context)));
+    const LayerStates before = layerStates(context);
+    co_await takeLayerOptions(context);
+    rememberLayers(context, before);
 }
 
 } // namespace

@@ -92,20 +92,18 @@ enum class Change
 void changeIn(CommandContext &context, RecordId viewport, const QStringList &names, Change change)
 {
     drawing::Drawing &drawing = context.drawing();
-    QStringList frozen = drawing::layersFrozenIn(drawing, viewport);
-    QSet<QString> known;
-    for (const QString &name : frozen)
-        known.insert(name.toCaseFolded());
+    QStringList toFreeze;
     QSet<QString> thawed;
     for (const QString &name : names) {
-        const bool isToFreeze = change == Change::Freeze || (change == Change::Reset && isFrozenInNew(drawing, name));
-        if (!isToFreeze)
+        if (change == Change::Freeze || (change == Change::Reset && isFrozenInNew(drawing, name)))
+            toFreeze.append(name);
+        else
             thawed.insert(name.toCaseFolded());
-        else if (!known.contains(name.toCaseFolded()))
-            frozen.append(name);
     }
+    QStringList frozen = drawing::layersFrozenIn(drawing, viewport);
     frozen.removeIf([&](const QString &name) { return thawed.contains(name.toCaseFolded()); });
     drawing::setLayersFrozenIn(drawing, viewport, frozen);
+    drawing::freezeLayersIn(drawing, viewport, toFreeze);
 }
 
 Dialogue<QStringList> layersOfChosen(CommandContext &context)

@@ -33,14 +33,17 @@ bool namesLayer(const Drawing &drawing, RecordId id, int code)
     }
 }
 
-void renameIn(Drawing &drawing, RecordId id, const QString &from, const QString &to)
+void renameIn(Drawing &drawing, RecordId id, const QHash<QString, QString> &names)
 {
     FieldList fields = drawing.fields(id);
     bool isChanged = false;
     for (Field &field : fields) {
-        if (!namesLayer(drawing, id, field.code) || field.text().compare(from, Qt::CaseInsensitive) != 0)
+        if (!namesLayer(drawing, id, field.code))
             continue;
-        field.value = to;
+        const auto other = names.constFind(field.text().toCaseFolded());
+        if (other == names.constEnd())
+            continue;
+        field.value = *other;
         isChanged = true;
     }
     if (isChanged)
@@ -73,9 +76,14 @@ QString renameLayer(Drawing &drawing, const QString &from, const QString &to)
     FieldList fields = drawing.fields(entry);
     setField(fields, 2, to);
     drawing.setFields(entry, fields);
-    for (RecordId id = drawing.first(); isValid(id); id = drawing.next(id))
-        renameIn(drawing, id, name, to);
+    replaceLayerNames(drawing, {{name.toCaseFolded(), to}});
     return {};
+}
+
+void replaceLayerNames(Drawing &drawing, const QHash<QString, QString> &names)
+{
+    for (RecordId id = drawing.first(); isValid(id); id = drawing.next(id))
+        renameIn(drawing, id, names);
 }
 
 } // namespace host::drawing

@@ -5,6 +5,8 @@
 #include "host/drawing/records/Tables.h"
 #include "host/drawing/tags/ExtendedData.h"
 
+#include <QSet>
+
 using namespace Qt::StringLiterals;
 
 namespace host::drawing {
@@ -172,6 +174,18 @@ QStringList layersFrozenIn(const Drawing &drawing, RecordId viewport)
             names.append(drawing.tables().name(entry));
     }
     return names;
+}
+
+void freezeLayersIn(Drawing &drawing, RecordId viewport, const QStringList &names)
+{
+    QStringList frozen = layersFrozenIn(drawing, viewport);
+    QSet<QString> known;
+    for (const QString &name : frozen)
+        known.insert(name.toCaseFolded());
+    for (const QString &name : names)
+        if (!known.contains(name.toCaseFolded()))
+            frozen.append(name);
+    setLayersFrozenIn(drawing, viewport, frozen);
 }
 
 void setLayersFrozenIn(Drawing &drawing, RecordId viewport, const QStringList &names)

@@ -46,6 +46,8 @@ bool setViewportFlag(Drawing &drawing, RecordId viewport, ViewportFlag flag, boo
 
 /// Names of the layers that are frozen in the viewport alone.
 QStringList layersFrozenIn(const Drawing &drawing, RecordId viewport);
+/// Freezes more of them there.
+void freezeLayersIn(Drawing &drawing, RecordId viewport, const QStringList &names);
 /// In place of those before; names of no layer are left out.
 void setLayersFrozenIn(Drawing &drawing, RecordId viewport, const QStringList &names);
 

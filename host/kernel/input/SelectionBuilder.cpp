@@ -47,7 +47,7 @@ PromptRequest SelectionBuilder::request() const
     if (!m_shape) {
         request.kind = PromptKind::Selection;
         request.prompt = m_isRemoving ? QStringLiteral("\nRemove objects: ") : m_prompt;
-        request.keywords = selectionWords();
+        request.keywords = m_options + selectionWords();
         return request;
     }
     request.kind = PromptKind::Point;
@@ -76,6 +76,9 @@ void SelectionBuilder::add(const PromptReply &reply)
 void SelectionBuilder::addIdle(const PromptReply &reply)
 {
     if (reply.isEmpty()) {
+        m_isDone = true;
+    } else if (reply.kind == ReplyKind::Keyword && m_options.contains(reply.text)) {
+        m_option = reply.text;
         m_isDone = true;
     } else if (reply.kind == ReplyKind::Keyword) {
         addWord(reply.text);

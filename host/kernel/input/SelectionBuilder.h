@@ -37,6 +37,10 @@ public:
 
     /// Another prompt than "Select objects: " while entities are added.
     void setPrompt(const QString &prompt);
+    /// Keywords that end the selection, for whoever asks; they go before the selection's own words.
+    void setOptions(const QStringList &options) { m_options = options; }
+    /// The one of them that was given; empty for none.
+    const QString &option() const { return m_option; }
     /// The request for the next step, with its prompt.
     PromptRequest request() const;
     /// Puts a reply in and tells the user how many were found.
@@ -61,6 +65,8 @@ private:
     SelectionSize m_size;
     std::function<bool(drawing::RecordId)> m_accepts;
     QString m_prompt = QStringLiteral("\nSelect objects: ");
+    QStringList m_options;
+    QString m_option;
     std::vector<drawing::RecordId> m_entities;
     std::vector<SelectionShape> m_shapes;
     QSet<quint32> m_members;

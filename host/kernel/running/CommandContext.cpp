@@ -136,7 +136,7 @@ CommandContext::Reply CommandContext::entity(const QString &prompt)
     return askFor(PromptKind::Entity, prompt, {}, {}, {});
 }
 
-CommandContext::Selection CommandContext::selection()
+CommandContext::Selection CommandContext::selection(const QString &prompt)
 {
     const std::vector<drawing::RecordId> implied = m_document.impliedSelection();
     if (!implied.empty() && m_document.variables().integer(u"PICKFIRST") != 0) {
@@ -147,6 +147,10 @@ CommandContext::Selection CommandContext::selection()
         return Selection(*this, true);
     }
     m_selection.emplace(m_document);
+    if (!prompt.isEmpty()) {
+        m_selection->setPrompt(u'\n' + prompt);
+        m_selection->setOptions(optionsIn(prompt));
+    }
     m_request = m_selection->request();
     return Selection(*this, false);
 }

@@ -108,8 +108,9 @@ public:
     /// One entity, with the point it was picked at.
     Reply entity(const QString &prompt);
 
-    /// The entities that the command works on; they become the previous selection.
-    Selection selection();
+    /// The entities that the command works on; they become the previous selection. `prompt` stands in place of "Select
+    /// objects: "; an option that it lists in brackets ends the selection as a keyword, with what was chosen so far.
+    Selection selection(const QString &prompt = {});
 
     /// Makes an entity in the current space with the current layer, colour, linetype, scale and weight where `fields`
     /// do not say others, and prints the reason when that fails.

@@ -115,6 +115,9 @@ bool CommandRun::growSelection(PromptReply &reply)
     }
     reply = {};
     reply.entities = selection->entities();
+    reply.text = selection->option();
+    if (!reply.text.isEmpty())
+        reply.kind = ReplyKind::Keyword;
     m_document.setPreviousSelection(reply.entities);
     selection.reset();
     return true;

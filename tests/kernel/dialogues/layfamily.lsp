@@ -1,0 +1,33 @@
+(walls) ;! LAYISO|1,1| ;? (list (bits) (colours) (getvar "CLAYER")) ;= ((4 0 4) (7 7 7) "Wall")
+(walls) ;! LAYISO|S|O||1,1| ;? (list (bits) (colours) (getvar "CLAYER")) ;= ((0 0 0) (-7 7 -7) "Wall")
+(walls) ;! LAYISO| ;> Nothing was selected ;? (bits) ;= (0 0 0)
+(walls) ;! LAYOFF|1,1|9,9| ;? (colours) ;= (7 -7 -7)
+(walls) ;! LAYOFF|1,1|9,9|U| ;? (colours) ;= (7 -7 7)
+(walls)(setvar "CLAYER" "Wall") ;! LAYOFF|1,1|N| ;? (colours) ;= (7 7 7)
+(walls)(setvar "CLAYER" "Wall") ;! LAYOFF|1,1|Y| ;? (colours) ;= (7 -7 7)
+(walls) ;! LAYFRZ|1,1| ;> Layer "Wall" has been frozen ;? (bits) ;= (0 1 0)
+(walls)(setvar "CLAYER" "Wall") ;! LAYFRZ|1,1|9,9| ;> It is the current layer ;? (bits) ;= (0 0 1)
+(walls)(command "-LAYER" "OFF" "Wall,Door" "F" "Door" "") ;! LAYON ;? (list (bits) (colours)) ;= ((0 0 1) (7 7 7))
+(walls)(command "-LAYER" "OFF" "Wall,Door" "F" "Door" "") ;! LAYTHW ;? (list (bits) (colours)) ;= ((0 0 0) (7 -7 -7))
+(walls) ;! LAYLCK|1,1 ;? (bits) ;= (0 4 0)
+(walls)(lock "Wall") ;! LAYULK|1,1 ;? (bits) ;= (0 0 0)
+(walls) ;! LAYMCUR|1,1 ;? (getvar "CLAYER") ;= "Wall"
+(walls) ;! LAYCUR|ALL| ;? (on-layers) ;= ("0" "0")
+(walls)(lock "Wall") ;! LAYCUR|C|-9,-9|9.5,9.5| ;> 1 was on a locked layer ;? (on-layers) ;= ("Wall" "0")
+(walls) ;! LAYMCH|9,9||1,1 ;? (on-layers) ;= ("Wall" "Wall")
+(walls) ;! LAYMCH|ALL||N|Door ;? (on-layers) ;= ("Door" "Door")
+(walls) ;! LAYMCH|ALL||N|None ;> Cannot find layer "None" ;? (on-layers) ;= ("Wall" "Door")
+(walls) ;! -LAYDEL|N|wall||Y ;? (list (on-layers) (tblsearch "LAYER" "Wall")) ;= (("Door") nil)
+(walls) ;! LAYDEL|1,1|9,9|U||Y ;? (on-layers) ;= ("Door")
+(walls) ;! -LAYDEL|N|Wall||N ;? (on-layers) ;= ("Wall" "Door")
+(walls) ;! -LAYDEL|N|0|| ;> needed by every drawing ;? (on-layers) ;= ("Wall" "Door")
+(walls)(block "B" 0 '((0 . "LINE") (8 . "Wall") (10 1.0 0.0 0.0) (11 3.0 0.0 0.0))) ;! -LAYDEL|N|Wall||Y
+;? (cdr (assoc 0 (entget (cdr (assoc -2 (tblsearch "BLOCK" "B")))))) ;= "ENDBLK"
+(walls) ;! -LAYMRG|N|Wall||N|Door|Y ;? (list (on-layers) (tblsearch "LAYER" "Wall")) ;= (("Door" "Door") nil)
+(walls)(block "B" 0 '((0 . "LINE") (8 . "Wall") (10 1.0 0.0 0.0) (11 3.0 0.0 0.0))) ;! LAYMRG|1,1||9,9|Y
+;? (cdr (assoc 8 (entget (cdr (assoc -2 (tblsearch "BLOCK" "B")))))) ;= "Door"
+(walls)(setvar "CLAYER" "Wall") ;! -LAYMRG|N|Wall|N|Door||N|0|Y ;> is the current layer ;? (on-layers) ;= ("Wall" "0")
+(walls)(port)(command "MSPACE") ;! LAYVPI|1,1| ;? (getvar "CVPORT") ;= 2
+;! LAYVPI|1,1 ;> through a viewport of a sheet ;? (getvar "CTAB") ;= "Model"
+(walls) ;! -LAYER|E|*| ;? (bits) ;= (0 0 0)
+(walls) ;! -LAYER|C||Wall|C|_red|Door| ;? (colours) ;= (7 7 1)
