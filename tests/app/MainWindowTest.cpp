@@ -300,7 +300,7 @@ TEST_F(MainWindowTest, ProgramsFollowThePointerAndDrawForTheMoment)
     window->enter(u"(setq e (list (grread T) (grread) (grread)))"_s);
     EXPECT_EQ(lisp(u"(mapcar 'car e)"_s), u"(5 3 2)"_s);
     EXPECT_EQ(lisp(u"(equal (mapcar 'cadr e) '((3.0 4.0 0.0) (5.0 6.0 0.0) 97) 0.1)"_s), u"T"_s);
-    const auto colour = [this] { return window->canvas()->grab().toImage().pixelColor(onScreen(5.0, 8.5).toPoint()); };
+    const auto colour = [this] { return window->canvas()->grab().toImage().pixelColor(onScreen(7.0, 8.5).toPoint()); };
     const QColor ground = colour();
     lisp(u"(grdraw '(2 8.5) '(8 8.5) 1)(grtext -1 \"Turn it\")"_s);
     EXPECT_EQ(colour(), QColor(Qt::red));

@@ -2,11 +2,11 @@
 #include "host/commands/common/EntityEdits.h"
 #include "host/drawing/geometry/EntityGeometry.h"
 #include "host/drawing/geometry/TransformEntity.h"
+#include "host/drawing/geometry/ViewportView.h"
 #include "host/kernel/documents/CurrentSpace.h"
 #include "host/kernel/documents/Document.h"
 #include "host/kernel/running/CommandContext.h"
 #include "host/kernel/variables/SystemVariables.h"
-#include "host/view/build/ViewportView.h"
 
 using namespace Qt::StringLiterals;
 
@@ -18,13 +18,13 @@ using drawing::RecordId;
 using Entities = std::vector<RecordId>;
 
 /// The viewports of the sheet that is current, but for the one that stands for the sheet itself.
-std::vector<view::ViewportView> sheetViewports(const drawing::Drawing &drawing)
+std::vector<drawing::ViewportView> sheetViewports(const drawing::Drawing &drawing)
 {
-    std::vector<view::ViewportView> views;
+    std::vector<drawing::ViewportView> views;
     for (const RecordId id : currentEntities(drawing)) {
         if (!drawing.isType(id, "VIEWPORT") || drawing.tags(id).integer(69) == 1)
             continue;
-        const view::ViewportView seen = view::readViewport(drawing.tags(id));
+        const drawing::ViewportView seen = drawing::readViewport(drawing.tags(id));
         if (seen.viewHeight > 0.0 && seen.height > 0.0)
             views.push_back(seen);
     }
@@ -32,10 +32,10 @@ std::vector<view::ViewportView> sheetViewports(const drawing::Drawing &drawing)
 }
 
 /// The viewport that the entities of a sheet lie in; of several the first, and the first of all where there is none.
-const view::ViewportView &viewportOf(const std::vector<view::ViewportView> &views, const drawing::Box &box)
+const drawing::ViewportView &viewportOf(const std::vector<drawing::ViewportView> &views, const drawing::Box &box)
 {
     const drawing::Vec3 middle = (box.low + box.high) * 0.5;
-    const auto found = std::ranges::find_if(views, [&](const view::ViewportView &seen) {
+    const auto found = std::ranges::find_if(views, [&](const drawing::ViewportView &seen) {
         return std::abs(middle.x - seen.center.x) <= seen.width / 2.0 &&
                std::abs(middle.y - seen.center.y) <= seen.height / 2.0;
     });
@@ -55,10 +55,10 @@ RecordId copyToOtherSpace(drawing::Drawing &drawing, RecordId id, bool isToSheet
 void moveToOtherSpace(CommandContext &context, const Entities &entities, bool isToSheet)
 {
     drawing::Drawing &drawing = context.drawing();
-    const std::vector<view::ViewportView> views = sheetViewports(drawing);
+    const std::vector<drawing::ViewportView> views = sheetViewports(drawing);
     if (views.empty())
         return context.fail(u"The sheet has no viewport."_s);
-    const view::ViewportView &seen =
+    const drawing::ViewportView &seen =
         isToSheet ? views.front() : viewportOf(views, drawing::spaceBox(drawing, entities));
     const drawing::Matrix toSheet = seen.modelToSheet();
     Entities moved;
