@@ -126,7 +126,7 @@
   (if (and d (setq d (dictsearch d "ACAD_FILTER"))) (dictsearch (cdr (assoc -1 d)) "SPATIAL")))
 (defun clip-codes (codes / c) (if (setq c (clip-object)) (mapcar '(lambda (n) (cdr (assoc n c))) codes)))
 (defun clipped () (command "-INSERT" "Door" '(0 0) 1 "" 0) (command "XCLIP" "L" "" "N" "R" '(2 -1) '(9 1)))
-(defun sheet ()
+(defun sheet-port ()
   (setvar "CTAB" "Layout1")
   (entmake '((0 . "VIEWPORT") (100 . "AcDbEntity") (67 . 1) (100 . "AcDbViewport") (10 20.0 20.0 0.0) (40 . 40.0) (41 . 30.0) (68 . 2)
     (69 . 2) (12 100.0 50.0) (16 0.0 0.0 1.0) (17 0.0 0.0 0.0) (45 . 60.0))))
