@@ -2,6 +2,7 @@
 
 #include "host/kernel/documents/UndoSteps.h"
 #include "host/kernel/platform/Editor.h"
+#include "host/kernel/variables/VariableHelp.h"
 #include "platform/db/OdDbDatabase.h"
 #include "tests/kernel/Bench.h"
 
@@ -166,6 +167,15 @@ TEST_F(Bench, aDrawingThatDoesNotSayAVariableHasItsDefault)
     EXPECT_TRUE(opened->drawing().toBytes().contains("$DIMTXT\n40\n5.0"));
     EXPECT_EQ(opened->undoSteps().undo(), 1);
     EXPECT_EQ(opened->drawing().toBytes(), old);
+}
+
+TEST_F(Bench, linesOfHelpAreOfVariablesThatThereAre)
+{
+    for (const auto rows : {dimensionHelp(), helpToK(), helpFromL()}) {
+        EXPECT_TRUE(std::ranges::is_sorted(rows, {}, [](const auto &row) { return std::string_view(row.name); }));
+        for (const VariableHelp &row : rows)
+            EXPECT_TRUE(document().variables().get(QString::fromLatin1(row.name))) << row.name;
+    }
 }
 
 } // namespace

@@ -5,6 +5,7 @@
 #include "host/app/workbench/ProgramOutput.h"
 #include "host/kernel/running/CommandTable.h"
 #include "host/kernel/variables/SystemVariables.h"
+#include "host/kernel/variables/VariableHelp.h"
 #include "host/lisp/Interpreter.h"
 
 using namespace Qt::StringLiterals;
@@ -51,7 +52,8 @@ void addVariables(QStringList &lines, const kernel::Document &document)
     for (const QString &name : variables.names()) {
         const std::optional<kernel::VariableValue> value = variables.get(name);
         const QString kind = value ? kindOf(*value) : u"-"_s;
-        addLine(lines, {u"variable"_s, name, variables.isReadOnly(name) ? kind + u", told only"_s : kind, u"-"_s});
+        addLine(lines, {u"variable"_s, name, variables.isReadOnly(name) ? kind + u", told only"_s : kind,
+                        QString::fromLatin1(kernel::variableHelp(name))});
     }
 }
 
