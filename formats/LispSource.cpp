@@ -158,10 +158,10 @@ QList<LispFunctionEntry> scanLispSource(QByteArrayView text)
     return entries;
 }
 
-LispSourceReading readLispSource(const QString &path)
+LispSourceReading readLispSource(const QString &path, QByteArrayView codePage)
 {
-    const TextReading file = readTextFile(path, largestLispSource);
-    return {file ? scanLispSource(utf8OfLegacy(file.text)) : QList<LispFunctionEntry>(), file.error};
+    const TextReading file = readLegacyText(path, largestLispSource, codePage);
+    return {file ? scanLispSource(file.text) : QList<LispFunctionEntry>(), file.error};
 }
 
 } // namespace ortakit

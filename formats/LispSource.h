@@ -45,6 +45,7 @@ struct LispSourceReading
 /// Nobody writes a program of this size by hand; what is larger is data under a wrong name.
 inline constexpr qint64 largestLispSource = qint64(32) * 1024 * 1024;
 
-LispSourceReading readLispSource(const QString &path);
+/// In any form of Unicode, else in the code page: see files::utf8Text().
+LispSourceReading readLispSource(const QString &path, QByteArrayView codePage = {});
 
 } // namespace ortakit

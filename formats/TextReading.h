@@ -29,8 +29,12 @@ QByteArray withoutByteOrderMark(QByteArray bytes);
 /// UTF-8 decoded whole: U+FEFF at the beginning of a piece of text is a part of it.
 QString decoded(QByteArrayView text);
 
-/// `bytes` as UTF-8: what is no valid UTF-8 is taken as Windows-1252, as the Lisp engine takes a program's source.
-QByteArray utf8OfLegacy(QByteArray bytes);
+/// `bytes` of a text file as UTF-8, whatever editor wrote it: see files::utf8Text(), as the Lisp engine takes a
+/// program's source.
+QByteArray utf8OfLegacy(const QByteArray &bytes, QByteArrayView codePage = {});
+
+/// As readTextFile(), for a file that may be in no form of Unicode.
+TextReading readLegacyText(const QString &path, qint64 largest, QByteArrayView codePage = {});
 
 /// Goes through a text line by line without copying it. A line ends with "\n" or "\r\n", the last one also at the end
 /// of the text and with "\r" there; an end behind the last line opens no further line.

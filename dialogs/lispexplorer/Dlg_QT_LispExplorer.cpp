@@ -25,6 +25,13 @@
 
 namespace {
 
+/// Of sources in no form of Unicode: the same as the engine's.
+QByteArray sourceCodePage()
+{
+    return ACTIVE_DOCUMENT() ? ACTIVE_DOCUMENT()->systemVariable(QStringLiteral("LISPCODEPAGE")).toLatin1()
+                             : QByteArray();
+}
+
 /// Names of the Lisp files of a folder as the file system lists them. What stands behind the last dot counts, or the
 /// whole name where there is none.
 QStringList lispFiles(const QString &folder)
@@ -198,7 +205,7 @@ void Dlg_QT_LispExplorer::OpenfileFromInt(int row)
 void Dlg_QT_LispExplorer::Openfile(QListWidgetItem *item)
 {
     clearFunctions();
-    const ortakit::LispSourceReading source = ortakit::readLispSource(m_folder + u'/' + item->text());
+    const ortakit::LispSourceReading source = ortakit::readLispSource(m_folder + u'/' + item->text(), sourceCodePage());
     m_entries = source.functions;
     listFunctions();
     m_ui->Bt_Load->setEnabled(true);

@@ -1,14 +1,15 @@
 // (load_dialog) and (unload_dialog): where dialog files are found, and whether expressions in them may run.
 
 #include "files/TemporaryFolder.h"
+#include "files/TextEncoding.h"
 #include "files/qt/Files.h"
 #include "host/functions/FunctionGroups.h"
 #include "host/functions/OpenDialogs.h"
 #include "host/kernel/documents/Document.h"
 #include "host/kernel/documents/Session.h"
 #include "host/kernel/lisp/LispConversion.h"
+#include "host/kernel/variables/SystemVariables.h"
 #include "host/lisp/Interpreter.h"
-#include "host/lisp/Text.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -82,12 +83,15 @@ bool mayRunActionsOf(Document &document, const QStringList &paths, const QString
     });
 }
 
-dcl::SourceText readDialogText(const QString &path)
+/// In the encodings that Lisp sources have.
+dcl::SourceText readDialogText(Document &document, const QString &path)
 {
     files::WholeBytes read = files::readWhole(path, largestDialogFile);
     if (!read)
         return {{}, read.reason};
-    return {QString::fromStdString(lisp::decodeFile(read.bytes.toStdString())), {}};
+    return {QString::fromStdString(
+                files::utf8Text(read.bytes.toStdString(), document.variables().text(u"LISPCODEPAGE").toStdString())),
+            {}};
 }
 
 void tellDialogProblems(Document &document, const dcl::DialogFile &file)
@@ -117,7 +121,8 @@ Value loadDialog(Arguments &args)
     const auto find = [&](const QString &name, const QString &from) {
         return dialogFile(document, name, QFileInfo(from).absolutePath());
     };
-    dcl::DialogFile file = dcl::DialogFile::read(path, {find, readDialogText});
+    const auto readText = [&document](const QString &name) { return readDialogText(document, name); };
+    dcl::DialogFile file = dcl::DialogFile::read(path, {find, readText});
     tellDialogProblems(document, file);
     if (!file.isUsable())
         return Value::integer(-1);

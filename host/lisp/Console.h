@@ -48,6 +48,12 @@ public:
     /// The most memory, in bytes, that Lisp values may take while an evaluation runs, asked for at its outermost begin.
     virtual std::int64_t heapLimit() { return Heap::unlimited; }
 
+    /// Somebody may answer prompts. Where nobody does, files load past what they ask while they load.
+    virtual bool isAttended() { return true; }
+
+    /// The code page of files that are in no form of Unicode, as files::utf8Text() knows it.
+    virtual std::string codePage() { return "CP1252"; }
+
     /// A line that the user types, without line feed; nothing when there is none to be had.
     virtual std::optional<std::string> readLine() { return std::nullopt; }
 

@@ -13,6 +13,8 @@ enum class ErrorKind : std::uint8_t
 {
     /// A wrong argument, an unknown function, ...: programs may catch it.
     Ordinary,
+    /// A symbol that is called holds nothing: caught like an ordinary one, and a file goes on loading behind it.
+    MissingFunction,
     /// Calls nested deeper than the stack allows; caught like an ordinary one.
     StackOverflow,
     /// The user declined a prompt (Esc); caught like an ordinary one. Message "Function cancelled".

@@ -185,9 +185,10 @@ Value Interpreter::resolveFunction(const Value &function)
         const Value &held = function.asSymbol().value();
         if (held.isFunction())
             return held;
+        if (held.isNil())
+            throw Error(ErrorKind::MissingFunction, "no function definition: " + toShortText(function));
         if (!held.isCons())
-            throw Error((held.isNil() ? "no function definition: " : "bad function: ") +
-                        toShortText(held.isNil() ? function : held));
+            throw Error("bad function: " + toShortText(held));
         return resolveFunction(held);
     }
     const bool isLambda = function.car().isSymbol() && &function.car().asSymbol() == m_lambdaSymbol;

@@ -1,5 +1,6 @@
 #include "host/lisp/File.h"
 
+#include "files/TextEncoding.h"
 #include "host/lisp/Console.h"
 #include "host/lisp/Paths.h"
 #include "host/lisp/Text.h"
@@ -24,7 +25,7 @@ std::unique_ptr<File> File::open(Console &console, const std::string &path, Mode
         std::optional<std::string> bytes = readWholeFile(toPath(path), largestTextFile);
         if (!bytes)
             return nullptr;
-        file->m_text = file->m_isBytes ? std::move(*bytes) : decodeFile(std::move(*bytes));
+        file->m_text = file->m_isBytes ? std::move(*bytes) : files::utf8Text(std::move(*bytes), console.codePage());
         file->m_share.grow(file->m_text.capacity());
         return file;
     }

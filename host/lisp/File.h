@@ -13,9 +13,9 @@ class Console;
 
 /// A text file that a program has open. It closes itself when the last value that refers to it goes.
 ///
-/// A file opened for reading is taken into memory and decoded as a whole: UTF-8 with or without byte-order mark, else
-/// Windows-1252. Line ends of both kinds count as one line feed. Read as bytes, nothing is decoded and no byte is left
-/// out: a byte-order mark and carriage returns are part of the lines, so that what is not changed can be written back.
+/// A file opened for reading is taken into memory and decoded as a whole: what files::utf8Text() takes it for. Line
+/// ends of both kinds count as one line feed. Read as bytes, nothing is decoded and no byte is left out: a byte-order
+/// mark and carriage returns are part of the lines, so that what is not changed can be written back.
 class File : public Object
 {
 public:

@@ -1,5 +1,6 @@
 // Reading text from files and from the user, and loading programs.
 
+#include "files/TextEncoding.h"
 #include "host/lisp/Arguments.h"
 #include "host/lisp/Builtins.h"
 #include "host/lisp/File.h"
@@ -105,12 +106,14 @@ static std::string programPath(Interpreter &interpreter, const std::string &name
 static Value load(Arguments &args)
 {
     Interpreter &interpreter = args.interpreter();
-    const std::string path = programPath(interpreter, args.string(0));
+    // What (findfile) did not find is nil.
+    const bool isFound = args.has(0) || args.size() < 2;
+    const std::string path = isFound ? programPath(interpreter, args.string(0)) : std::string();
     std::optional<std::string> bytes;
     if (!path.empty())
         bytes = readWholeFile(toPath(path), largestTextFile);
     if (bytes)
-        return interpreter.evalText(decodeFile(std::move(*bytes)), path);
+        return interpreter.loadText(files::utf8Text(std::move(*bytes), interpreter.console().codePage()), path);
     if (args.size() < 2)
         args.fail("LOAD failed: " + toText(args[0]));
     const bool isCallable = args[1].isFunction() || (args[1].isSymbol() && args[1].asSymbol().value().isFunction());

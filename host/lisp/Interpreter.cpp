@@ -1,5 +1,6 @@
 #include "host/lisp/Interpreter.h"
 
+#include "files/TextEncoding.h"
 #include "host/lisp/Arguments.h"
 #include "host/lisp/Builtins.h"
 #include "host/lisp/Function.h"
@@ -133,7 +134,7 @@ Outcome Interpreter::loadFile(const std::string &path)
         std::optional<std::string> bytes = readWholeFile(toPath(path), largestTextFile);
         if (!bytes)
             throw Error("LOAD failed: " + toText(Value::string(path)));
-        return evalText(decodeFile(std::move(*bytes)), path);
+        return loadText(files::utf8Text(std::move(*bytes), m_console.codePage()), path);
     });
 }
 
@@ -149,6 +150,16 @@ Outcome Interpreter::evaluate(const Value &form)
 
 Value Interpreter::evalText(std::string_view text, std::string_view sourceName)
 {
+    return evalForms(text, sourceName, false);
+}
+
+Value Interpreter::loadText(std::string_view text, std::string_view sourceName)
+{
+    return evalForms(text, sourceName, true);
+}
+
+Value Interpreter::evalForms(std::string_view text, std::string_view sourceName, bool isLoading)
+{
     const TextScope scope(m_textDepth);
     Reader reader(*this, sourceName);
     reader.feed(text);
@@ -161,8 +172,31 @@ Value Interpreter::evalText(std::string_view text, std::string_view sourceName)
         return reader.next();
     };
     while (std::optional<Value> form = readForm())
-        last = eval(*form);
+        last = evalForm(*form, isLoading);
     return last;
+}
+
+Value Interpreter::evalForm(const Value &form, bool isLoading)
+{
+    if (!isLoading)
+        return eval(form);
+    const TextScope scope(m_loadDepth);
+    try {
+        return eval(form);
+    } catch (const Error &error) {
+        if (!isLeftOutWhileLoading(error))
+            throw;
+        m_console.write("\n" + error.summary() + "; this form of the file is left out.\n");
+    }
+    return {};
+}
+
+bool Interpreter::isLeftOutWhileLoading(const Error &error)
+{
+    if (m_loadDepth == 0)
+        return false;
+    return error.kind() == ErrorKind::MissingFunction ||
+           (error.kind() == ErrorKind::Cancelled && !m_console.isAttended());
 }
 
 void Interpreter::define(std::string_view name, NativeClosure function, Arity arity, NativeKind kind)

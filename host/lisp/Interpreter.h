@@ -91,8 +91,8 @@ public:
     /// Evaluates all forms of `text` up to the first error. What the forms before it did stays done. `sourceName` is
     /// what messages call the text, usually a file's path; without one they name the line alone.
     Outcome run(std::string_view text, std::string_view sourceName = {});
-    /// The same with a file: UTF-8 with or without byte-order mark; a file that is no valid UTF-8 is taken as
-    /// Windows-1252. `path` is a real path, not searched for.
+    /// The same with a file, in what files::utf8Text() takes it for; a form that lacks a function is left out, see
+    /// loadText(). `path` is a real path, not searched for.
     Outcome loadFile(const std::string &path);
     /// Calls the function that symbol `name` holds, in any mix of cases. The arguments are values, not forms: nothing
     /// evaluates them again. No function there is an error like any other.
@@ -158,8 +158,12 @@ public:
     Value resolveFunction(const Value &function);
     /// A function of a parameter list, with "/" before the locals, and a body. `name` is null for a lambda.
     Value makeFunction(Symbol *name, const Value &parameters, const Value &body);
-    /// Reads a whole text and evaluates it, throwing: what `load` does.
+    /// Reads a whole text and evaluates it, throwing.
     Value evalText(std::string_view text, std::string_view sourceName);
+    /// The same for a file's text, which is what `load` does: a form that fails because something it calls is not
+    /// defined (yet), or because nobody is there to answer its prompt, is told and left out, and the forms behind it
+    /// are evaluated all the same. `*error*` hears nothing of it.
+    Value loadText(std::string_view text, std::string_view sourceName);
     /// Says that some work was done; every Settings::pollInterval of them the console is asked. For loops in natives.
     void tick()
     {
@@ -220,6 +224,9 @@ private:
     void fillPlace(Error &error, const NativeFunction *native) const;
     void fillChain(Error &error) const;
     void callErrorHandler(Error &error);
+    bool isLeftOutWhileLoading(const Error &error);
+    Value evalForm(const Value &form, bool isLoading);
+    Value evalForms(std::string_view text, std::string_view sourceName, bool isLoading);
     void poll();
 
     template <typename Body>
@@ -242,6 +249,7 @@ private:
     int m_nesting = 0;                 ///< whole evaluations under way, one inside the other
     int m_textDepth = 0;               ///< texts under way, one loading the other
     bool m_isTyped = false;            ///< the outermost of them is no file
+    int m_loadDepth = 0;               ///< forms of files under way, one loading the other
     int m_catchDepth = 0;              ///< catchAll() under way: errors are theirs, not `*error*`'s
     bool m_inErrorHandler = false;     ///< an error in `*error*` calls none
     CallFrame *m_frame = nullptr;      ///< the innermost user function under way

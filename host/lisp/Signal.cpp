@@ -62,7 +62,7 @@ void Interpreter::signal(Error &error, const NativeFunction *native)
         error.chain.clear();
     }
     const bool isCaught = m_catchDepth > 0 && error.kind() != ErrorKind::Interrupted;
-    if (isCaught)
+    if (isCaught || isLeftOutWhileLoading(error))
         return;
     m_console.programFails();
     callErrorHandler(error);

@@ -192,27 +192,4 @@ std::string toFullCase(std::string_view text, const CaseTable &table)
     });
 }
 
-static std::string decodeWindows1252(std::string_view bytes)
-{
-    static constexpr std::array<char16_t, 32> special = {
-        0x20AC, 0x81,   0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
-        0x2039, 0x0152, 0x8D,   0x017D, 0x8F,   0x90,   0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
-        0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x9D,   0x017E, 0x0178,
-    };
-    std::string text;
-    text.reserve(bytes.size() + bytes.size() / 8);
-    for (const char c : bytes) {
-        const auto byte = static_cast<unsigned char>(c);
-        appendCharacter(text, byte >= 0x80 && byte < 0xA0 ? special[byte - 0x80] : byte);
-    }
-    return text;
-}
-
-std::string decodeFile(std::string bytes)
-{
-    if (bytes.starts_with("\xEF\xBB\xBF"))
-        bytes.erase(0, 3);
-    return isValidUtf8(bytes) ? std::move(bytes) : decodeWindows1252(bytes);
-}
-
 } // namespace host::lisp

@@ -36,9 +36,6 @@ std::string toFullCase(std::string_view text, const CaseTable &table);
 char32_t upperCharacter(char32_t character) noexcept;
 char32_t lowerCharacter(char32_t character) noexcept;
 
-/// The text of a file: a byte-order mark is dropped, and what is no valid UTF-8 is taken as Windows-1252.
-std::string decodeFile(std::string bytes);
-
 using units::isBlank;
 
 } // namespace host::lisp

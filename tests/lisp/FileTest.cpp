@@ -51,6 +51,10 @@ TEST_F(Files, EncodingsAndLineEnds)
     put("ansi.txt", "\xE4\x80\n");
     put("empty.txt", "");
     put("ansi.lsp", "(setq word \"\xE4\")");
+    put("wide.lsp", std::string("\xFF\xFE(\0+\0 \0"
+                                "1\0 \0"
+                                "2\0)\0",
+                                16));
     bench("(defun lines (name / f l r) (setq f (open (at name) \"r\")) (while (setq l (read-line f)) "
           "(setq r (cons l r))) (close f) (reverse r))");
     bench.check({
@@ -58,6 +62,7 @@ TEST_F(Files, EncodingsAndLineEnds)
         {"(mapcar 'lines '(\"bom.txt\" \"ansi.txt\" \"empty.txt\"))", "((\"ä\") (\"ä€\") nil)"},
         {"(setq f (open (at \"new.txt\") \"w\" \"utf8-bom\")) (write-line \"ö\" f) (close f)", "nil"},
         {"(load (at \"ansi.lsp\"))", "\"ä\""},
+        {"(load (at \"wide.lsp\"))", "3"},
     });
     EXPECT_EQ(get("new.txt"), "\xEF\xBB\xBFö\n");
 }

@@ -21,6 +21,7 @@ public:
     QString problem() const { return m_problem; }
 
     kernel::FeedResult feed(const kernel::PromptRequest &request, kernel::InputQueue &queue) override;
+    bool isAttended() const override { return false; }
     bool poll() override;
 
 private:

@@ -21,6 +21,9 @@ public:
     /// not throw.
     virtual FeedResult feed(const PromptRequest &request, InputQueue &queue) = 0;
 
+    /// Whether somebody may answer: batch runs have nobody, and their prompts are cancelled.
+    virtual bool isAttended() const { return true; }
+
     /// Called now and then while a program runs: the time to process events. True when the user wants to stop it.
     virtual bool poll() { return false; }
 };

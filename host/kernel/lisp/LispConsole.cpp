@@ -33,6 +33,17 @@ std::int64_t LispConsole::heapLimit()
     return std::int64_t(m_document.session().lispHeapLimit()) * 1024 * 1024;
 }
 
+bool LispConsole::isAttended()
+{
+    Session &session = m_document.session();
+    return !session.input().isEmpty() || (session.feeder() && session.feeder()->isAttended());
+}
+
+std::string LispConsole::codePage()
+{
+    return m_document.variables().text(u"LISPCODEPAGE").toStdString();
+}
+
 std::optional<std::string> LispConsole::readLine()
 {
     PromptRequest request;

@@ -19,6 +19,8 @@ public:
     void programFails() override;
     lisp::PollAnswer poll() override;
     std::int64_t heapLimit() override;
+    bool isAttended() override;
+    std::string codePage() override;
     std::optional<std::string> readLine() override;
     std::string findFile(const std::string &name) override;
     std::string findTrustedFile(const std::string &name) override;

@@ -1,5 +1,6 @@
 // How the user likes to work: asked for, chosen, snapped and told.
 
+#include "files/TextEncoding.h"
 #include "host/kernel/variables/VariableRows.h"
 
 namespace host::kernel {
@@ -7,6 +8,13 @@ namespace host::kernel {
 using namespace rows;
 
 namespace {
+
+/// Of Lisp sources that are in no form of Unicode.
+std::optional<VariableValue> knownCodePage(const Document &, const VariableValue &value)
+{
+    const std::string page = files::codePageName(std::get<QString>(value).toStdString());
+    return page.empty() ? std::nullopt : std::optional(value);
+}
 
 /// Picking, choosing and snapping.
 VariableRows pointingVariables()
@@ -131,13 +139,14 @@ VariableRows filesAndPrograms()
             ofUser("DEFPLSTYLE", text("ByColor")), ofUser("DEMANDLOAD", 3, 0, 3), ofUser("DWGCHECK", 1, 0, 3),
             ofUser("FONTALT", text("simplex.shx")), ofUser("FONTMAP", text("")), ofUser("INETLOCATION", text("")),
             ofUser("ISAVEBAK", 1, 0, 1), ofUser("ISAVEPERCENT", 50, 0, 100), ofUser("LEGACYCODESEARCH", 0, 0, 1),
-            ofUser("LISPINIT", 1, 0, 1), ofUser("LOGFILEMODE", 0, 0, 1), ofUser("LWDEFAULT", 25, 0, 211),
-            ofUser("LWUNITS", 1, 0, 1), ofUser("MAXSORT", 1000, 0, 32767), ofUser("MEASUREINIT", 1, 0, 1),
-            ofUser("OLEHIDE", 0, 0, 3), ofUser("OLEQUALITY", 3, 0, 3), ofUser("OPENPARTIAL", 1, 0, 1),
-            ofUser("PARAMETERCOPYMODE", 1, 0, 4), ofUser("RASTERPREVIEW", 1, 0, 1), ofUser("RECOVERYAUTO", 0, 0, 2),
-            ofUser("RECOVERYMODE", 2, 0, 2), ofUser("REGENAUTO", 1, 0, 1), ofUser("REMEMBERFOLDERS", 1, 0, 1),
-            ofUser("REPORTERROR", 1, 0, 1), ofUser("ROAMABLESETTINGS", 0, 0, 1), ofUser("SAVEFIDELITY", 1, 0, 1),
-            ofUser("SAVETIME", 10, 0, 600), ofUser("SDI", 0, 0, 3),
+            checked(knownCodePage, ofUser("LISPCODEPAGE", text("ANSI_1252"))), ofUser("LISPINIT", 1, 0, 1),
+            ofUser("LOGFILEMODE", 0, 0, 1), ofUser("LWDEFAULT", 25, 0, 211), ofUser("LWUNITS", 1, 0, 1),
+            ofUser("MAXSORT", 1000, 0, 32767), ofUser("MEASUREINIT", 1, 0, 1), ofUser("OLEHIDE", 0, 0, 3),
+            ofUser("OLEQUALITY", 3, 0, 3), ofUser("OPENPARTIAL", 1, 0, 1), ofUser("PARAMETERCOPYMODE", 1, 0, 4),
+            ofUser("RASTERPREVIEW", 1, 0, 1), ofUser("RECOVERYAUTO", 0, 0, 2), ofUser("RECOVERYMODE", 2, 0, 2),
+            ofUser("REGENAUTO", 1, 0, 1), ofUser("REMEMBERFOLDERS", 1, 0, 1), ofUser("REPORTERROR", 1, 0, 1),
+            ofUser("ROAMABLESETTINGS", 0, 0, 1), ofUser("SAVEFIDELITY", 1, 0, 1), ofUser("SAVETIME", 10, 0, 600),
+            ofUser("SDI", 0, 0, 3),
             // What may be loaded is said by the folders that the user trusts, whatever this says.
             kept("SECURELOAD", 1, 0, 2), ofUser("SECUREREMOTEACCESS", 0, 0, 1), ofUser("SKETCHTOLERANCE", 0.5, 0, 1),
             ofUser("STARTINFOLDER", text("")), ofUser("STARTMODE", 0, 0, 1), ofUser("STARTUP", 0, 0, 3),

@@ -44,6 +44,21 @@
 ;= "no function definition: C:GATE"
 (autoload (at "door") '("DOOR")) (list (c:door) (c:door)) ;= (OPENED OPENED)
 
+; What lacks a function is left out of a file, and told; other errors end it
+(put "later.lsp" "(setq a 1)\n(no-such a)\n(c:none)\n(setq a (1+ a))\n(defun later () (setq b (list (no-such))))")
+(setq heard nil) (defun *error* (m) (setq heard m)) (load (at "later")) ;= LATER
+(list a heard) ;= (2 nil)
+(setq *error* nil) (later) ;= ! no function definition: NO-SUCH
+(put "wrong.lsp" "(setq c 1)\n(setq c (+ c \"x\"))\n(setq c 3)") (load (at "wrong"))
+;= ! bad argument type: numberp: "x" in (+), argument 2
+c ;= 1
+(put "outer.lsp" "(load (at \"later\"))\n(inner-only)\n(setq outer t)") (load (at "outer")) ;= T
+(vl-catch-all-error-p (vl-catch-all-apply 'load (list (at "later")))) ;= nil
+(put "caught.lsp" "(setq d (vl-catch-all-error-message (vl-catch-all-apply '(lambda () (no-such)) nil)))") (load (at "caught"))
+;= "no function definition: NO-SUCH"
+(load nil nil) ;= nil
+(list (load (at "none") nil) (load (findfile "none") nil)) ;= (nil nil)
+
 ; Files on disk
 (put "a.txt" "12345") (put "B.TXT" "") (put "c.lsp" "") (vl-mkdir (at "sub"))
 (list (vl-file-size (at "a.txt")) (vl-file-size (at "sub")) (vl-file-size (at "none"))) ;= (5 0 nil)
