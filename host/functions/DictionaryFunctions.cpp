@@ -96,6 +96,17 @@ Value dictremove(Arguments &args)
     return isValid(found) && dictionaries.remove(dictionary, name) ? toLisp(found) : Value();
 }
 
+// (dictrename dictionary old new) -> the new name, nil when there is no old one or something has the new one.
+Value dictrename(Arguments &args)
+{
+    Dictionaries &dictionaries = documentOf(args).drawing().dictionaries();
+    const RecordId dictionary = dictionaryAt(args, 0);
+    const QString newName = stringAt(args, 2);
+    if (!isValid(dictionary) || newName.isEmpty())
+        return {};
+    return dictionaries.rename(dictionary, stringAt(args, 1), newName) ? args[2] : Value();
+}
+
 // (regapp name) -> the name; nil when the application is registered already or the name cannot be one.
 Value regapp(Arguments &args)
 {
@@ -117,6 +128,7 @@ void addDictionaryFunctions(lisp::Interpreter &interpreter)
         {"dictnext", dictnext, lisp::Arity::between(1, 2), "dictionary [rewind]", "the next object of a dictionary"},
         {"dictadd", dictadd, lisp::Arity::exactly(3), "dictionary name object", "puts an object into a dictionary"},
         {"dictremove", dictremove, lisp::Arity::exactly(2), "dictionary name", "takes a name out of a dictionary"},
+        {"dictrename", dictrename, lisp::Arity::exactly(3), "dictionary old new", "renames an entry of a dictionary"},
         {"regapp", regapp, lisp::Arity::exactly(1), "name", "registers an application, for extended data"},
     };
     interpreter.define(rows);

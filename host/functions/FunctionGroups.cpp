@@ -1,6 +1,7 @@
 #include "host/functions/FunctionGroups.h"
 
 #include "host/kernel/lisp/NativeFunctions.h"
+#include "host/objects/ObjectModel.h"
 
 namespace host::kernel {
 
@@ -24,6 +25,16 @@ void addNativeFunctions(lisp::Interpreter &interpreter)
     addTextFunctions(interpreter);
     addExtentFunctions(interpreter);
     addScreenFunctions(interpreter);
+    addProgramFunctions(interpreter);
+    addMenuFunctions(interpreter);
+    addNamespaceFunctions(interpreter);
+    addProgramDataFunctions(interpreter);
+    addToolkitFunctions(interpreter);
+    addViewFunctions(interpreter);
+    addColourFunctions(interpreter);
+    addPropertyFunctions(interpreter);
+    addSettingsFunctions(interpreter);
+    addObjectFunctions(interpreter);
 }
 
 } // namespace host::kernel

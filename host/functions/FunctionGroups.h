@@ -25,5 +25,14 @@ void addSheetFunctions(lisp::Interpreter &interpreter);
 void addTextFunctions(lisp::Interpreter &interpreter);
 void addExtentFunctions(lisp::Interpreter &interpreter);
 void addScreenFunctions(lisp::Interpreter &interpreter);
+void addProgramFunctions(lisp::Interpreter &interpreter);
+void addMenuFunctions(lisp::Interpreter &interpreter);
+void addNamespaceFunctions(lisp::Interpreter &interpreter);
+void addProgramDataFunctions(lisp::Interpreter &interpreter);
+void addToolkitFunctions(lisp::Interpreter &interpreter);
+void addViewFunctions(lisp::Interpreter &interpreter);
+void addColourFunctions(lisp::Interpreter &interpreter);
+void addPropertyFunctions(lisp::Interpreter &interpreter);
+void addSettingsFunctions(lisp::Interpreter &interpreter);
 
 } // namespace host::kernel

@@ -7,6 +7,8 @@
 #include "host/kernel/lisp/SelectionFilterList.h"
 #include "host/lisp/Interpreter.h"
 
+#include <unordered_map>
+
 namespace host::kernel {
 
 namespace {
@@ -15,6 +17,9 @@ using drawing::RecordId;
 using drawing::Vec3;
 using lisp::Arguments;
 using lisp::Value;
+
+/// What a set remembers of how it was chosen.
+using Steps = std::vector<SelectionStep>;
 
 bool isPointList(const Value &value)
 {
@@ -84,7 +89,77 @@ Value ssget(Arguments &args)
     const SelectionOutcome chosen = select(documentOf(args), query);
     if (chosen.isCancelled)
         throw lisp::Error::cancelled();
-    return chosen.entities.empty() ? Value() : toLisp(args.interpreter(), chosen.entities);
+    if (chosen.entities.empty())
+        return {};
+    Value set = toLisp(args.interpreter(), chosen.entities);
+    if (!chosen.steps.empty())
+        set.asSelectionSet().details = std::make_shared<const Steps>(chosen.steps);
+    return set;
+}
+
+/// A point as (ssnamex) gives it: how it was given, and user coordinates.
+Value markedPoint(const Document &document, const Vec3 &point)
+{
+    return Value::list({Value::integer(0), toLisp(toUser(document, point))});
+}
+
+/// How each entity came in: its step, by the entity's name.
+std::unordered_map<std::uint64_t, std::size_t> stepsByEntity(const Steps &steps)
+{
+    std::unordered_map<std::uint64_t, std::size_t> all;
+    for (std::size_t i = 0; i < steps.size(); ++i)
+        for (const RecordId entity : steps[i].entities)
+            all[toLisp(entity).asEntityName()] = i;
+    return all;
+}
+
+/// What (ssnamex) tells of one entity: (way entity mark point...). Of a window the mark leads to its corners, which
+/// stand behind all entities under the same negative number.
+Value chosenEntity(const Document &document, std::uint64_t entity, const SelectionStep *step, std::size_t number)
+{
+    using Way = SelectionStep::Way;
+    const Way way = step ? step->way : Way::Other;
+    const bool isInShape = way == Way::Window || way == Way::Crossing;
+    lisp::ListBuilder list;
+    list.append(Value::integer(static_cast<std::int32_t>(way)));
+    list.append(Value::entityName(entity));
+    list.append(Value::integer(isInShape ? -static_cast<std::int32_t>(number) - 1 : 0));
+    if (way == Way::Pick || way == Way::Fence)
+        for (const Vec3 &point : step->points)
+            list.append(markedPoint(document, point));
+    return list.take();
+}
+
+// (ssnamex set [index]) -> how the entities were chosen, a list each: 0 by all, last and the like, 1 picked, 2 in a
+// window, 3 crossing one, 4 by a fence. A set to which entities were added later tells 0 of all.
+Value ssnamex(Arguments &args)
+{
+    const Document &document = documentOf(args);
+    const lisp::SelectionSet &set = args.selectionSet(0);
+    const auto *steps = static_cast<const Steps *>(set.details.get());
+    const auto byEntity = steps ? stepsByEntity(*steps) : std::unordered_map<std::uint64_t, std::size_t>();
+    std::vector<bool> isTold(steps ? steps->size() : 0);
+    lisp::ListBuilder list;
+    for (std::size_t i = 0; i < set.entities.size(); ++i) {
+        if (args.has(1) && args.integer(1) != static_cast<std::int32_t>(i))
+            continue;
+        const auto found = byEntity.find(set.entities[i]);
+        const SelectionStep *step = found == byEntity.end() ? nullptr : &(*steps)[found->second];
+        list.append(chosenEntity(document, set.entities[i], step, step ? found->second : 0));
+        if (step)
+            isTold[found->second] =
+                step->way == SelectionStep::Way::Window || step->way == SelectionStep::Way::Crossing;
+    }
+    for (std::size_t i = 0; i < isTold.size(); ++i) {
+        if (!isTold[i])
+            continue;
+        lisp::ListBuilder corners;
+        corners.append(Value::integer(-static_cast<std::int32_t>(i) - 1));
+        for (const Vec3 &corner : (*steps)[i].points)
+            corners.append(markedPoint(document, corner));
+        list.append(corners.take());
+    }
+    return list.take();
 }
 
 // (sssetfirst grips [set]) -> (nil set). What is chosen without a command is the set from now on; nil clears it.
@@ -113,6 +188,7 @@ void addSelectionFunctions(lisp::Interpreter &interpreter)
     static constexpr lisp::NativeRow rows[] = {
         {"ssget", ssget, lisp::Arity::between(0, 4), "[method] [points] [filter]",
          "a selection set: asked for, or by method, points and filter"},
+        {"ssnamex", ssnamex, lisp::Arity::between(1, 2), "set [index]", "how the entities of a set were chosen"},
         {"ssgetfirst", ssgetfirst, lisp::Arity::exactly(0), "", "what is chosen before a command"},
         {"sssetfirst", sssetfirst, lisp::Arity::between(1, 2), "[grips] [chosen]", "chooses entities before a command"},
     };

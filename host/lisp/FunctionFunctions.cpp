@@ -78,6 +78,8 @@ static const char *typeName(const Value &value)
         return "PICKSET";
     case Tag::CaughtError:
         return "VL-CATCH-ALL-APPLY-ERROR";
+    case Tag::HostObject:
+        return "VLA-OBJECT";
     case Tag::Nil:
         break;
     }

@@ -88,6 +88,9 @@ static void appendAtom(std::string &out, const Value &atom, PrintStyle style)
     case Tag::CaughtError:
         out += "<Caught error: " + atom.asCaughtError().message + ">";
         break;
+    case Tag::HostObject:
+        out += "#<VLA-OBJECT " + atom.asHostObject().kind + " " + hexadecimal(atom.asHostObject().number) + ">";
+        break;
     case Tag::Cons:
         break;
     }

@@ -100,6 +100,9 @@ private:
         case Tag::CaughtError:
             delete static_cast<CaughtError *>(object);
             break;
+        case Tag::HostObject:
+            delete static_cast<HostObject *>(object);
+            break;
         default:
             assert(false);
         }
@@ -109,6 +112,15 @@ private:
 void destroyObject(Tag tag, Object *object) noexcept
 {
     Demolition::run(tag, object);
+}
+
+Value Value::hostObject(std::string kind, std::uint64_t number)
+{
+    auto *object = new HostObject;
+    Value value = adopt(Tag::HostObject, object);
+    object->kind = std::move(kind);
+    object->number = number;
+    return value;
 }
 
 Value Value::string(std::string text)
@@ -153,6 +165,8 @@ bool Value::isSame(const Value &other) const noexcept
     case Tag::String:
         // Nothing can tell two strings of the same text apart, so neither does eq.
         return m_object == other.m_object || asString() == other.asString();
+    case Tag::HostObject:
+        return asHostObject().kind == other.asHostObject().kind && asHostObject().number == other.asHostObject().number;
     default:
         return m_bits == other.m_bits;
     }
@@ -188,6 +202,7 @@ bool SelectionSet::add(std::uint64_t entity)
     if (!members.insert(entity).second)
         return false;
     entities.push_back(entity);
+    details.reset();
     return true;
 }
 

@@ -8,6 +8,7 @@
 #include <deque>
 #include <initializer_list>
 #include <iterator>
+#include <memory>
 #include <span>
 #include <string>
 #include <string_view>
@@ -27,6 +28,7 @@ struct NativeFunction;
 class File;
 struct SelectionSet;
 struct CaughtError;
+struct HostObject;
 
 /// What a value is. Everything from String on lives in a reference-counted object: the order counts, since retain() and
 /// release() ask whether a tag is at least String.
@@ -44,6 +46,7 @@ enum class Tag : std::uint8_t
     File,         ///< open or closed
     SelectionSet, ///< shared, and the only kind that programs change in place
     CaughtError,  ///< what vl-catch-all-apply gave
+    HostObject,   ///< an object of the embedder's: type VLA-OBJECT
 };
 
 /// One Lisp value: 16 bytes, cheap to copy (a count at most), never a cycle, because lists cannot be changed in place.
@@ -97,6 +100,8 @@ public:
     static Value symbol(Symbol &symbol) noexcept;
     /// `id` is whatever the embedder knows its entity by; 0 is a valid name that no selection set refuses.
     static Value entityName(std::uint64_t id) noexcept;
+    /// See HostObject.
+    static Value hostObject(std::string kind, std::uint64_t number);
     /// A pair; a list when `cdr` is one, else dotted.
     static Value cons(Value car, Value cdr);
     /// A list in the order of the items; nil for none. To build one item by item, use ListBuilder.
@@ -175,6 +180,8 @@ public:
     NativeFunction &asNative() const noexcept;
     File &asFile() const noexcept;
     CaughtError &asCaughtError() const noexcept;
+    bool isHostObject() const noexcept { return m_tag == Tag::HostObject; }
+    const HostObject &asHostObject() const noexcept;
 
     /// First item and rest of a list; nil for nil and for everything that is no cons. The references are good while
     /// this value holds the pair.
@@ -263,6 +270,9 @@ struct SelectionSet : Object
     /// To be read only; add() and remove() change it.
     std::deque<std::uint64_t> entities;
 
+    /// What the embedder remembers of how the entities were chosen; gone when one is put in later.
+    std::shared_ptr<const void> details;
+
     /// Whether it is in, erased or not: the set knows numbers, not drawings.
     bool contains(std::uint64_t entity) const { return members.contains(entity); }
     /// Puts it at the end; false when it was there already. Throws "out of memory" when the program has no more.
@@ -274,6 +284,14 @@ private:
     std::unordered_set<std::uint64_t> members; ///< the same as in `entities`
     std::size_t counted = 0;                   ///< for how many members there is a share: the most that there were
     HeapShare share;                           ///< what the members take outside of the object
+};
+
+/// An object of the embedder's object model. It is told by kind and number, so that two values of the same ones are the
+/// same object to programs; what they mean, and whether it is there still, the embedder knows.
+struct HostObject : Object
+{
+    std::string kind; ///< "Document": what it prints with
+    std::uint64_t number = 0;
 };
 
 /// What vl-catch-all-apply gives back for an error: an atom that only vl-catch-all-error-p and

@@ -90,6 +90,12 @@ inline SelectionSet &Value::asSelectionSet() const noexcept
     return *static_cast<SelectionSet *>(m_object);
 }
 
+inline const HostObject &Value::asHostObject() const noexcept
+{
+    assert(m_tag == Tag::HostObject);
+    return *static_cast<const HostObject *>(m_object);
+}
+
 inline CaughtError &Value::asCaughtError() const noexcept
 {
     assert(m_tag == Tag::CaughtError);

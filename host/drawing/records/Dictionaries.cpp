@@ -134,6 +134,20 @@ void Dictionaries::giveOwner(RecordId object, RecordId dictionary)
     m_drawing.setFields(object, fields);
 }
 
+bool Dictionaries::rename(RecordId dictionary, QStringView name, const QString &newName)
+{
+    if (!m_drawing.isAlive(dictionary))
+        return false;
+    FieldList fields = m_drawing.fields(dictionary);
+    const qsizetype index = entryIndex(fields, name);
+    const qsizetype taken = entryIndex(fields, newName);
+    if (index < 0 || (taken >= 0 && taken != index))
+        return false;
+    fields[static_cast<size_t>(index)].value = newName;
+    m_drawing.setFields(dictionary, fields);
+    return true;
+}
+
 bool Dictionaries::remove(RecordId dictionary, QStringView name)
 {
     if (!m_drawing.isAlive(dictionary))

@@ -36,6 +36,8 @@ public:
     bool set(RecordId dictionary, const QString &name, RecordId object);
     /// Takes the entry out and erases what it owned. False when there is none.
     bool remove(RecordId dictionary, QStringView name);
+    /// Gives the entry another name; its object stays. False when there is none, or something has the new name.
+    bool rename(RecordId dictionary, QStringView name, const QString &newName);
     /// The dictionary under that name, made when there is none; noRecord when the entry is something else, or in R12.
     RecordId ensureDictionary(RecordId parent, const QString &name);
 

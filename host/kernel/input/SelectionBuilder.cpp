@@ -3,6 +3,7 @@
 #include "host/drawing/records/Entities.h"
 #include "host/kernel/documents/CurrentSpace.h"
 #include "host/kernel/documents/Document.h"
+#include "host/kernel/lisp/LispConversion.h"
 
 namespace host::kernel {
 
@@ -21,6 +22,24 @@ const QStringList &selectionWords()
 }
 
 } // namespace
+
+SelectionStep shapeStep(const Document &document, ShapeKind kind, const std::vector<drawing::Vec3> &points)
+{
+    using Way = SelectionStep::Way;
+    SelectionStep step{.way = Way::Crossing, .points = points, .entities = {}};
+    if (kind == ShapeKind::Window || kind == ShapeKind::WindowPolygon)
+        step.way = Way::Window;
+    else if (kind == ShapeKind::Fence)
+        step.way = Way::Fence;
+    const bool isBox = kind == ShapeKind::Window || kind == ShapeKind::Crossing;
+    if (isBox && points.size() == 2) {
+        const drawing::Vec3 low = toUser(document, points[0]);
+        const drawing::Vec3 high = toUser(document, points[1]);
+        step.points = {points[0], toWorld(document, {high.x, low.y, low.z}), points[1],
+                       toWorld(document, {low.x, high.y, low.z})};
+    }
+    return step;
+}
 
 SelectionBuilder::SelectionBuilder(Document &document, SelectionSize size, std::function<bool(RecordId)> accepts)
     : m_document(document), m_size(size), m_accepts(std::move(accepts))
@@ -92,7 +111,7 @@ void SelectionBuilder::addIdle(const PromptReply &reply)
         m_shapeByDirection = true;
         m_corners = {reply.point};
     } else {
-        take(reply.entities);
+        take(reply.entities, {.way = SelectionStep::Way::Pick, .points = {reply.point}, .entities = {}});
     }
 }
 
@@ -151,12 +170,12 @@ void SelectionBuilder::finishShape()
     m_shape.reset();
     m_shapeByDirection = false;
     std::vector<RecordId> found = Picker(m_document).inShape(kind, m_corners);
-    take(found);
+    take(found, shapeStep(m_document, kind, m_corners));
     if (!m_isRemoving)
         m_shapes.push_back({kind, m_corners, std::move(found)});
 }
 
-void SelectionBuilder::take(const std::vector<RecordId> &found)
+void SelectionBuilder::take(const std::vector<RecordId> &found, SelectionStep step)
 {
     m_before.push_back(m_entities);
     int count = 0;
@@ -170,9 +189,12 @@ void SelectionBuilder::take(const std::vector<RecordId> &found)
         else if (!m_isRemoving && !m_members.contains(quint32(id))) {
             m_members.insert(quint32(id));
             m_entities.push_back(id);
+            step.entities.push_back(id);
         }
     }
     std::erase_if(m_entities, [&](RecordId id) { return removed.contains(quint32(id)); });
+    if (!step.entities.empty())
+        m_steps.push_back(std::move(step));
     m_document.print(m_before.back().empty()
                          ? QStringLiteral("\n%1 found").arg(count)
                          : QStringLiteral("\n%1 found, %2 total").arg(count).arg(m_entities.size()));

@@ -23,6 +23,24 @@ struct SelectionShape
     std::vector<drawing::RecordId> found;
 };
 
+/// One step of choosing: how, where, and what came in by it.
+struct SelectionStep
+{
+    enum class Way
+    {
+        Other = 0, ///< all, last, previous, a program's own
+        Pick = 1,
+        Window = 2,
+        Crossing = 3,
+        Fence = 4
+    };
+    Way way = Way::Other;
+    std::vector<drawing::Vec3> points; ///< world coordinates: where it was picked, or the corners of the shape
+    std::vector<drawing::RecordId> entities;
+};
+/// What a shape counts as, and its corners: of a window all four, from the user's axes.
+SelectionStep shapeStep(const Document &document, ShapeKind kind, const std::vector<drawing::Vec3> &points);
+
 /// A selection while it grows, step by step: who asks the user puts each reply in and asks request() next.
 ///
 ///     SelectionBuilder chosen(document);
@@ -48,6 +66,8 @@ public:
 
     bool isDone() const { return m_isDone; }
     bool isCancelled() const { return m_isCancelled; }
+    /// How it was chosen. An entity may be named in a step and have been taken out later.
+    const std::vector<SelectionStep> &steps() const { return m_steps; }
     /// What is chosen, in the order of choosing.
     const std::vector<drawing::RecordId> &entities() const { return m_entities; }
     /// The shapes by which entities were added, in order.
@@ -58,7 +78,7 @@ private:
     void addShapePoint(const PromptReply &reply);
     void addWord(const QString &word);
     void finishShape();
-    void take(const std::vector<drawing::RecordId> &found);
+    void take(const std::vector<drawing::RecordId> &found, SelectionStep step = {});
     bool isPolygon() const;
 
     Document &m_document;
@@ -74,6 +94,7 @@ private:
     std::optional<ShapeKind> m_shape;                     ///< corners of it are being asked for
     bool m_shapeByDirection = false; ///< window or crossing, depending on where the second corner is
     std::vector<drawing::Vec3> m_corners;
+    std::vector<SelectionStep> m_steps;
     bool m_isRemoving = false;
     bool m_isDone = false;
     bool m_isCancelled = false;

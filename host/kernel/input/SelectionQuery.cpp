@@ -66,6 +66,7 @@ struct Method
     QLatin1StringView name;
     std::size_t corners; ///< at least so many points belong to it
     std::vector<RecordId> (*choose)(Document &document, const SelectionQuery &query);
+    std::optional<ShapeKind> shape = {};
 };
 
 constexpr Method methods[] = {
@@ -74,11 +75,11 @@ constexpr Method methods[] = {
     {QLatin1StringView("P"), 0, previous},
     {QLatin1StringView("I"), 0, implied},
     {QLatin1StringView("L"), 0, last},
-    {QLatin1StringView("W"), 2, inShape<ShapeKind::Window>},
-    {QLatin1StringView("C"), 2, inShape<ShapeKind::Crossing>},
-    {QLatin1StringView("WP"), 3, inShape<ShapeKind::WindowPolygon>},
-    {QLatin1StringView("CP"), 3, inShape<ShapeKind::CrossingPolygon>},
-    {QLatin1StringView("F"), 2, inShape<ShapeKind::Fence>},
+    {QLatin1StringView("W"), 2, inShape<ShapeKind::Window>, ShapeKind::Window},
+    {QLatin1StringView("C"), 2, inShape<ShapeKind::Crossing>, ShapeKind::Crossing},
+    {QLatin1StringView("WP"), 3, inShape<ShapeKind::WindowPolygon>, ShapeKind::WindowPolygon},
+    {QLatin1StringView("CP"), 3, inShape<ShapeKind::CrossingPolygon>, ShapeKind::CrossingPolygon},
+    {QLatin1StringView("F"), 2, inShape<ShapeKind::Fence>, ShapeKind::Fence},
 };
 
 const Method *findMethod(const QString &name)
@@ -108,13 +109,15 @@ SelectionOutcome chosenByUser(Document &document, const SelectionQuery &query)
         builder.setPrompt(query.prompt);
     while (!builder.isDone())
         builder.add(document.prompts().ask(builder.request()));
-    return {builder.isCancelled(), builder.entities()};
+    return {builder.isCancelled(), builder.entities(), builder.steps()};
 }
 
 SelectionOutcome chosenAtPoint(Document &document, const SelectionQuery &query)
 {
     const RecordId entity = Picker(document).entityAt(query.points.front());
-    return {false, isValid(entity) ? std::vector<RecordId>{entity} : std::vector<RecordId>()};
+    if (!isValid(entity))
+        return {};
+    return {false, {entity}, {{SelectionStep::Way::Pick, {query.points.front()}, {entity}}}};
 }
 
 SelectionOutcome choose(Document &document, const SelectionQuery &query)
@@ -123,7 +126,13 @@ SelectionOutcome choose(Document &document, const SelectionQuery &query)
         return chosenByUser(document, query);
     if (query.method.isEmpty())
         return chosenAtPoint(document, query);
-    return {false, findMethod(query.method)->choose(document, query)};
+    const Method &method = *findMethod(query.method);
+    SelectionOutcome outcome{false, method.choose(document, query)};
+    if (method.shape) {
+        outcome.steps.push_back(shapeStep(document, *method.shape, query.points));
+        outcome.steps.back().entities = outcome.entities;
+    }
+    return outcome;
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/drawing/selection/SelectionFilter.h"
+#include "host/kernel/input/SelectionBuilder.h"
 
 #include <QSet>
 
@@ -39,6 +40,7 @@ struct SelectionOutcome
 {
     bool isCancelled = false;
     std::vector<drawing::RecordId> entities; ///< alive, each once; the newest first where the user does not choose
+    std::vector<SelectionStep> steps{};      ///< how; none for what is neither picked nor in a shape
 };
 
 /// Chooses. The query must be without fault. What was chosen becomes the previous selection.

@@ -116,6 +116,7 @@ private:
         case lisp::Tag::Native:
         case lisp::Tag::File:
         case lisp::Tag::CaughtError:
+        case lisp::Tag::HostObject:
             break;
         }
         throw lisp::Error("bad argument type");
