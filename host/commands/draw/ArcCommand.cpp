@@ -1,10 +1,9 @@
 #include "host/commands/Commands.h"
+#include "host/commands/common/CircleGeometry.h"
 #include "host/commands/common/KeptValues.h"
 #include "host/commands/common/UserPlane.h"
-#include "host/commands/draw/CircleGeometry.h"
 #include "host/commands/draw/LastEnd.h"
 #include "host/kernel/documents/Document.h"
-#include "host/kernel/input/Units.h"
 
 #include <cmath>
 
@@ -161,27 +160,20 @@ Dialogue<MaybeUserArc> askContinued(CommandContext &context, LastEnd last)
     co_return arcAlong(from.xy(), std::atan2(along.y, along.x), flatPoint(context, end));
 }
 
-/// From 0 up to one turn, which rounding does not reach.
-double angleOfRecord(double angle)
-{
-    const double normal = normalizedAngle(angle);
-    return 2.0 * M_PI - normal < 1e-12 ? 0.0 : normal;
-}
-
 /// The arc becomes an entity, and where it ends the last point.
 void createArc(CommandContext &context, const UserArc &arc, double height)
 {
     const UserPlane plane(context.document());
     const double end = arc.start + arc.sweep;
-    const double from = angleOfRecord(arc.sweep > 0.0 ? arc.start : end);
-    const double to = angleOfRecord(arc.sweep > 0.0 ? end : arc.start);
+    const double from = arc.sweep > 0.0 ? arc.start : end;
+    const double to = arc.sweep > 0.0 ? end : arc.start;
     const Vec2 tip = arc.centre + polar(end, arc.radius);
     context.document().variables().setInternally(u"LASTPOINT", Vec3{tip.x, tip.y, height});
     context.create(plane.placed({{0, u"ARC"_s},
                                  {10, plane.objectFromUser({arc.centre.x, arc.centre.y, height})},
                                  {40, arc.radius},
-                                 {50, plane.objectDegrees(from)},
-                                 {51, plane.objectDegrees(to)}}));
+                                 {50, settledDegrees(plane.objectDegrees(from))},
+                                 {51, settledDegrees(plane.objectDegrees(to))}}));
 }
 
 // Start, second point and end; or centre, end, angles, lengths and directions in the order in which they are asked for.

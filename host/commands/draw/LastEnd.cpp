@@ -1,6 +1,6 @@
 #include "host/commands/draw/LastEnd.h"
 
-#include "host/commands/draw/CircleGeometry.h"
+#include "host/commands/common/CircleGeometry.h"
 #include "host/drawing/math/Angles.h"
 #include "host/drawing/math/Matrix.h"
 #include "host/drawing/records/PolylineFlags.h"

@@ -1,6 +1,6 @@
 #include "host/commands/Commands.h"
+#include "host/commands/common/CircleGeometry.h"
 #include "host/commands/common/UserPlane.h"
-#include "host/commands/draw/CircleGeometry.h"
 #include "host/commands/draw/PolylineArcs.h"
 #include "host/commands/draw/PolylineDraft.h"
 #include "host/kernel/documents/Document.h"

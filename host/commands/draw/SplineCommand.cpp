@@ -1,7 +1,8 @@
 #include "host/commands/Commands.h"
+#include "host/commands/common/ControlSpline.h"
 #include "host/commands/common/EntityEdits.h"
 #include "host/commands/common/KeptValues.h"
-#include "host/commands/draw/ControlSpline.h"
+#include "host/commands/common/SplineRecord.h"
 #include "host/commands/draw/CurveEntity.h"
 #include "host/drawing/math/SplineEdit.h"
 #include "host/drawing/records/PolylineFlags.h"
@@ -19,32 +20,6 @@ using drawing::RecordId;
 using drawing::Spline;
 using drawing::Vec3;
 
-/// Bits of group 70 of a SPLINE.
-enum SplineFlag : qint64
-{
-    SplineClosed = 1,
-    SplinePeriodic = 2,
-    SplinePlanar = 8
-};
-
-/// The normal of the plane that all points lie in; nothing when there is none, or more than one.
-std::optional<Vec3> commonNormal(const std::vector<Vec3> &points)
-{
-    double size = 0.0;
-    Vec3 normal;
-    for (const Vec3 &point : points)
-        size = std::max(size, (point - points.front()).length());
-    for (std::size_t i = 2; i < points.size() && normal == Vec3{}; ++i) {
-        const Vec3 across = cross(points[i - 1] - points.front(), points[i] - points.front());
-        if (across.length() > 1e-9 * size * size)
-            normal = drawing::normalized(across);
-    }
-    const auto isOn = [&](const Vec3 &p) { return std::abs(dot(p - points.front(), normal)) <= 1e-9 * size; };
-    if (normal == Vec3{} || !std::ranges::all_of(points, isOn))
-        return {};
-    return normal.z < 0.0 ? normal * -1.0 : normal;
-}
-
 /// What a smooth curve is to pass, and how. Tangents have length 1; a closed curve has one, at its seam.
 struct SplineFit
 {
@@ -56,35 +31,16 @@ struct SplineFit
 };
 
 /// The record of a spline. Tangents are written where they were given.
-FieldList splineFields(const Spline &spline, const SplineFit *fit, double tolerance)
+FieldList fittedRecord(const Spline &spline, const SplineFit &fit, double tolerance)
 {
-    const std::optional<Vec3> normal = commonNormal(spline.controlPoints);
-    const bool isPeriodic = spline.isClosed && !fit;
-    qint64 flags = normal ? qint64(SplinePlanar) : 0;
-    flags |= spline.isClosed ? qint64(SplineClosed) : 0;
-    flags |= isPeriodic ? qint64(SplinePeriodic) : 0;
-    FieldList fields = {{0, u"SPLINE"_s}};
-    if (normal)
-        fields.push_back({210, *normal});
-    fields.insert(fields.end(), {{70, flags},
-                                 {71, qint64(spline.degree)},
-                                 {72, qint64(spline.knots.size())},
-                                 {73, qint64(spline.controlPoints.size())},
-                                 {74, qint64(spline.fitPoints.size())},
-                                 {42, 1e-7},
-                                 {43, 1e-7}});
-    if (fit)
-        fields.push_back({44, std::max(tolerance, 1e-10)});
-    if (fit && fit->startTangent)
-        fields.push_back({12, *fit->startTangent});
-    if (fit && fit->endTangent)
-        fields.push_back({13, *fit->endTangent});
-    for (const double knot : spline.knots)
-        fields.push_back({40, knot});
-    for (const Vec3 &point : spline.controlPoints)
-        fields.push_back({10, point});
-    for (const Vec3 &point : spline.fitPoints)
-        fields.push_back({11, point});
+    FieldList fields = splineRecord(spline);
+    FieldList more = {{44, std::max(tolerance, 1e-10)}};
+    if (fit.startTangent)
+        more.push_back({12, *fit.startTangent});
+    if (fit.endTangent)
+        more.push_back({13, *fit.endTangent});
+    const auto knots = std::ranges::find(fields, 40, &drawing::Field::code);
+    fields.insert(knots, more.begin(), more.end());
     return fields;
 }
 
@@ -137,7 +93,7 @@ Dialogue<bool> convertPolylines(CommandContext &context)
         const std::optional<Spline> spline = splineOfPolyline(context.drawing(), id);
         if (!spline)
             continue;
-        FieldList fields = splineFields(*spline, nullptr, 0.0);
+        FieldList fields = splineRecord(*spline);
         const FieldList look = context.drawing().fields(id);
         for (const int code : {8, 6, 62, 48, 370})
             if (const drawing::Field *field = drawing::findField(look, code))
@@ -265,7 +221,7 @@ void createSpline(CommandContext &context, SplineDraft draft)
         points.pop_back();
     const Spline spline = draft.isFit ? splineThrough(draft.fit)
                                       : splineOver(points, draft.degree, draft.fit.isClosed && points.size() > 2);
-    createCurve(context, splineFields(spline, draft.isFit ? &draft.fit : nullptr, draft.tolerance),
+    createCurve(context, draft.isFit ? fittedRecord(spline, draft.fit, draft.tolerance) : splineRecord(spline),
                 drawing::splinePath(spline));
 }
 

@@ -1,4 +1,4 @@
-#include "host/commands/draw/CircleGeometry.h"
+#include "host/commands/common/CircleGeometry.h"
 
 #include <cmath>
 
@@ -22,6 +22,13 @@ double turnAround(Vec2 centre, Vec2 from, Vec2 to)
 {
     const double turn = std::atan2(cross(from - centre, to - centre), dot(from - centre, to - centre));
     return turn > 0.0 ? turn : turn + 2.0 * M_PI;
+}
+
+double settledDegrees(double degrees)
+{
+    const double turned = std::fmod(degrees, 360.0);
+    const double settled = turned < 0.0 ? turned + 360.0 : turned;
+    return 360.0 - settled < 1e-10 ? 0.0 : settled;
 }
 
 Vec2 turnedRound(Vec2 point, Vec2 centre, double angle)

@@ -1,7 +1,7 @@
-#include "host/commands/draw/TangentCircle.h"
+#include "host/commands/common/TangentCircle.h"
 
+#include "host/commands/common/CircleGeometry.h"
 #include "host/commands/common/UserPlane.h"
-#include "host/commands/draw/CircleGeometry.h"
 
 #include <cmath>
 
@@ -55,22 +55,6 @@ std::vector<Vec2> meetings(const TangentLine &first, const TangentLine &second)
                              : circleMeetings(first.point, first.radius, second.point, second.radius);
 }
 
-/// How far the point where a circle round `centre` touches the line is from where the line was picked.
-double missedBy(const TangentLine &line, Vec2 centre, double radius)
-{
-    if (line.isStraight) {
-        const Vec2 foot = line.point + line.direction * dot(centre - line.point, line.direction);
-        return (foot - line.picked).length();
-    }
-    const Vec2 away = centre - line.point;
-    if (!(away.length() > 0.0))
-        return std::numeric_limits<double>::infinity();
-    // One circle round the other touches it on the far side.
-    const bool isAround = radius > line.radius && away.length() < radius;
-    const Vec2 touch = line.point + away * ((isAround ? -line.radius : line.radius) / away.length());
-    return (touch - line.picked).length();
-}
-
 } // namespace
 
 std::optional<TangentLine> tangentLine(const drawing::Drawing &drawing, drawing::RecordId entity,
@@ -104,16 +88,29 @@ std::optional<TangentLine> tangentLine(const drawing::Drawing &drawing, drawing:
     return line;
 }
 
+Vec2 touchingPoint(const TangentLine &line, Vec2 centre, double radius)
+{
+    if (line.isStraight)
+        return line.point + line.direction * dot(centre - line.point, line.direction);
+    const Vec2 away = centre - line.point;
+    if (!(away.length() > 0.0))
+        return line.point;
+    // One circle round the other touches it on the far side.
+    const bool isAround = radius > line.radius && away.length() < radius;
+    return line.point + away * ((isAround ? -line.radius : line.radius) / away.length());
+}
+
 std::optional<Vec2> tangentCentre(const TangentLine &first, const TangentLine &second, double radius)
 {
     std::optional<Vec2> best;
     double least = std::numeric_limits<double>::infinity();
-    if (!(radius > 0.0))
+    if (!(radius >= 0.0))
         return best;
     for (const TangentLine &left : offsets(first, radius)) {
         for (const TangentLine &right : offsets(second, radius)) {
             for (const Vec2 centre : meetings(left, right)) {
-                const double missed = missedBy(first, centre, radius) + missedBy(second, centre, radius);
+                const double missed = (touchingPoint(first, centre, radius) - first.picked).length() +
+                                      (touchingPoint(second, centre, radius) - second.picked).length();
                 if (missed < least) {
                     least = missed;
                     best = centre;

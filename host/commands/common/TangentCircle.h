@@ -24,7 +24,10 @@ std::optional<TangentLine> tangentLine(const drawing::Drawing &drawing, drawing:
                                        const UserPlane &plane, const drawing::Vec3 &pickedAt);
 
 /// The centre of the circle with that radius which touches both nearest to where they were picked; nothing when there
-/// is none.
+/// is none. Of radius 0: where they meet.
 std::optional<drawing::Vec2> tangentCentre(const TangentLine &first, const TangentLine &second, double radius);
+
+/// Where a circle that touches the line does so.
+drawing::Vec2 touchingPoint(const TangentLine &line, drawing::Vec2 centre, double radius);
 
 } // namespace host::kernel

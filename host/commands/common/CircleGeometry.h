@@ -13,6 +13,8 @@ namespace host::kernel {
 drawing::Vec2 polar(double direction, double length);
 /// How far an arc round a centre turns left from one point to the direction of another: up to once round, never 0.
 double turnAround(drawing::Vec2 centre, drawing::Vec2 from, drawing::Vec2 to);
+/// An angle in degrees as records have it: from 0 up to a whole turn, which rounding does not reach.
+double settledDegrees(double degrees);
 /// The point turned round a centre.
 drawing::Vec2 turnedRound(drawing::Vec2 point, drawing::Vec2 centre, double angle);
 

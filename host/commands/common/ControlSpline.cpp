@@ -1,4 +1,4 @@
-#include "host/commands/draw/ControlSpline.h"
+#include "host/commands/common/ControlSpline.h"
 
 #include <algorithm>
 
