@@ -54,6 +54,8 @@ std::vector<CommandRow> builtInCommands()
              fileCommands(),
              groupCommands(),
              inquiryCommands(),
+             hatchCommands(),
+             hatchEditCommands(),
              insertCommands(),
              layerCommands(),
              layoutCommands(),

@@ -33,6 +33,8 @@ std::vector<CommandRow> explodeCommands();
 std::vector<CommandRow> fileCommands();
 std::vector<CommandRow> groupCommands();
 std::vector<CommandRow> inquiryCommands();
+std::vector<CommandRow> hatchCommands();
+std::vector<CommandRow> hatchEditCommands();
 std::vector<CommandRow> insertCommands();
 std::vector<CommandRow> layerCommands();
 std::vector<CommandRow> layoutCommands();

@@ -137,3 +137,8 @@
   (setq e (entnext))
   (while e (setq r (cons (cdr (assoc 8 (entget e))) r) e (entnext e)))
   (reverse r))
+(defun box (a b c d)
+  (entmake (list '(0 . "LWPOLYLINE") '(100 . "AcDbEntity") '(100 . "AcDbPolyline") '(90 . 4) '(70 . 1) (list 10 (float a) (float b))
+    (list 10 (float c) (float b)) (list 10 (float c) (float d)) (list 10 (float a) (float d)))))
+(defun every (code)
+  (mapcar 'cdr (vl-remove-if-not '(lambda (f) (= (car f) code)) (entget (entlast)))))

@@ -54,18 +54,13 @@ std::optional<DimensionData> chainableData(const drawing::Drawing &drawing, Reco
     return data && isChainable(data->kind) ? data : std::nullopt;
 }
 
-/// How far apart the lines of a baseline are: DIMDLI with the scale of the dimension's style.
+/// How far apart the lines of a baseline are: DIMDLI as it is now, with the scale of the dimension gone on from.
 double lineSpacing(const drawing::Drawing &drawing, RecordId dimension)
 {
-    const FieldList fields = drawing.fields(dimension);
-    const drawing::Field *name = drawing::findField(fields, 3);
-    const RecordId style = drawing.tables().find(drawing::TableKind::DimStyle, name ? name->text() : u"Standard"_s);
-    const FieldList overrides = drawing::overridesOf(fields);
     const drawing::DimensionVariable &variable = *drawing::dimensionVariable(u"DIMDLI");
-    const FieldList said = isValid(style) ? drawing.fields(style) : FieldList();
-    double spacing = valueInStyle(drawing, said, variable).real();
-    if (const drawing::Field *own = drawing::findField(overrides, variable.styleCode))
-        spacing = own->real();
+    const RecordId style = drawing.tables().find(drawing::TableKind::DimStyle, drawing.tags(dimension).text(3));
+    const FieldList fields = isValid(style) ? drawing.fields(style) : FieldList{};
+    const double spacing = valueInHeader(drawing, variable).value_or(valueInStyle(drawing, fields, variable)).real();
     return spacing * readDimensionStyle(drawing, drawing.tags(dimension)).scale;
 }
 

@@ -1,0 +1,210 @@
+#include "host/commands/Commands.h"
+#include "host/commands/annotate/HatchDialogue.h"
+#include "host/commands/annotate/HatchDraft.h"
+#include "host/kernel/running/CommandContext.h"
+
+using namespace Qt::StringLiterals;
+
+namespace host::kernel {
+
+using drawing::RecordId;
+using drawing::Vec3;
+
+namespace {
+
+constexpr const char *hatchPrompt =
+    "Specify internal point or [Properties/Select objects/draW boundary/remove Boundaries/Advanced/DRaw order/Origin/"
+    "ANnotative/hatch COlor/LAyer/Transparency]: ";
+
+QString hatchOptions()
+{
+    return u"Properties Select draW Boundaries Advanced DRaw Origin ANnotative COlor LAyer Transparency"_s;
+}
+
+/// Adds the boundary round a point; false when there is none, which was told.
+bool addAreaAt(CommandContext &context, const HatchSettings &settings, std::vector<HatchArea> &areas, const Vec3 &point)
+{
+    BoundarySearch search(context.document(), settings.boundary);
+    Boundary boundary = search.at(point);
+    if (boundary.empty()) {
+        context.print(search.wasTooMuch() ? u"\nToo many curves cross here: choose a boundary set."_s
+                                          : u"\nValid hatch boundary not found."_s);
+        return false;
+    }
+    areas.push_back({std::move(boundary), point});
+    return true;
+}
+
+void addAreaOf(CommandContext &context, const HatchSettings &settings, std::vector<HatchArea> &areas,
+               const std::vector<RecordId> &entities)
+{
+    BoundarySearch search(context.document(), settings.boundary);
+    Boundary boundary = search.of(entities);
+    if (boundary.empty())
+        return context.print(u"\nThe objects make no closed boundary."_s);
+    areas.push_back({std::move(boundary), std::nullopt});
+}
+
+/// A boundary of points, one after another, closed by an empty answer or by Close.
+Dialogue<bool> askDrawnBoundary(CommandContext &context, HatchSettings &settings, std::vector<HatchArea> &areas)
+{
+    const UserPlane plane(context.document());
+    const PromptReply retain = co_await context.keyword(u"Retain polyline boundary? [Yes/No] <N>: "_s, {}, u"No"_s);
+    const bool isKept = retain.text == u"Yes";
+    PromptReply start = co_await context.neededPoint(u"Specify start point: "_s);
+    while (start.hasValue()) {
+        std::vector<Vec3> points = {start.point};
+        for (;;) {
+            const PromptReply next = co_await context.point(u"Specify next point or [Close/Undo] <Close>: "_s, {},
+                                                            points.back(), u"Close"_s);
+            if (next.isKeyword(u"Undo")) {
+                if (points.size() > 1)
+                    points.pop_back();
+            } else if (next.hasValue()) {
+                points.push_back(next.point);
+            } else {
+                break;
+            }
+        }
+        addDrawnArea(context, plane, points, isKept, areas);
+        start = co_await context.point(u"Specify start point for new boundary or <Accept>: "_s, {}, {}, u"Accept"_s);
+    }
+    settings.isAssociative = settings.isAssociative && isKept;
+    co_return true;
+}
+
+/// The form of earlier days: name, scale and angle, then the entities.
+Dialogue<bool> askNamedHatch(CommandContext &context, HatchSettings &settings, std::vector<HatchArea> &areas,
+                             QString name)
+{
+    if (!co_await askPatternOf(context, settings.look, name))
+        co_return false;
+    const PromptReply chosen = co_await context.selection();
+    if (!chosen.entities.empty())
+        addAreaOf(context, settings, areas, chosen.entities);
+    co_return true;
+}
+
+/// Takes out the boundaries that are picked inside of, or follow an entity that is picked.
+Dialogue<bool> removeBoundaries(CommandContext &context, std::vector<HatchArea> &areas)
+{
+    for (;;) {
+        const PromptReply picked = co_await context.entity(u"Select boundary to remove: "_s);
+        if (picked.entities.empty())
+            co_return true;
+        for (HatchArea &area : areas)
+            std::erase_if(area.boundary, [&](const BoundaryLoop &loop) {
+                return std::ranges::find(loop.sources, picked.entities.front()) != loop.sources.end();
+            });
+        std::erase_if(areas, [](const HatchArea &area) { return area.boundary.empty(); });
+    }
+}
+
+/// One option of the hatch's main prompt; false when the command ends with it.
+Dialogue<bool> takeHatchOption(CommandContext &context, HatchSettings &settings, std::vector<HatchArea> &areas,
+                               QString option)
+{
+    if (option == u"Properties")
+        co_return co_await askHatchPattern(context, settings.look);
+    if (option == u"Select") {
+        const PromptReply chosen = co_await context.selection();
+        if (!chosen.entities.empty())
+            addAreaOf(context, settings, areas, chosen.entities);
+    } else if (option == u"draW") {
+        co_await askDrawnBoundary(context, settings, areas);
+    } else if (option == u"Boundaries") {
+        co_await removeBoundaries(context, areas);
+    } else if (option == u"Advanced") {
+        co_await askAdvancedHatch(context, settings);
+    } else {
+        co_return co_await askHatchProperty(context, settings, option);
+    }
+    co_return true;
+}
+
+// Points inside or entities, with options between, until an empty answer; or a pattern's name, scale, angle and the
+// entities.
+CommandTask hatch(CommandContext &context)
+{
+    HatchSettings settings = currentHatchSettings(context.document());
+    std::vector<HatchArea> areas;
+    context.print(u"\nCurrent hatch pattern:  "_s + settings.look.pattern);
+    for (;;) {
+        const bool isFirst = areas.empty();
+        const PromptReply reply =
+            co_await context.point(QLatin1StringView(hatchPrompt), hatchOptions(), {}, {}, isFirst ? AnyText : 0);
+        if (reply.isEmpty())
+            break;
+        if (reply.hasValue()) {
+            addAreaAt(context, settings, areas, reply.point);
+            continue;
+        }
+        const bool isOption = hatchOptions().split(u' ').contains(reply.text);
+        if (!isOption) {
+            const QString name = reply.text.trimmed();
+            co_await askNamedHatch(context, settings, areas, name);
+            break;
+        }
+        if (!co_await takeHatchOption(context, settings, areas, reply.text))
+            co_return;
+    }
+    if (!areas.empty() && !context.hasFailed())
+        createHatches(context, settings, areas);
+}
+
+/// What of a boundary is looked for; Object type has the polyline alone.
+Dialogue<bool> askBoundaryOptions(CommandContext &context, HatchSettings &settings)
+{
+    for (;;) {
+        const PromptReply option =
+            co_await context.keyword(u"Enter an option [Boundary set/Island detection/Object type] <eXit>: "_s,
+                                     u"Boundary Island Object eXit"_s, u"eXit"_s);
+        if (option.text == u"Boundary") {
+            co_await askBoundarySet(context, settings.boundary);
+        } else if (option.text == u"Island") {
+            co_await askIslandDetection(context, settings.boundary);
+        } else if (option.text == u"Object") {
+            const PromptReply type = co_await context.keyword(
+                u"Enter type of boundary object [Region/Polyline] <Polyline>: "_s, {}, u"Polyline"_s);
+            if (type.text == u"Region" && context.refuse(u"Regions are not made: the boundary is a polyline."_s))
+                co_return false;
+        } else {
+            co_return true;
+        }
+    }
+}
+
+// Points inside areas: a polyline round each, and round the islands in it.
+CommandTask boundary(CommandContext &context)
+{
+    HatchSettings settings = currentHatchSettings(context.document());
+    int made = 0;
+    for (;;) {
+        const PromptReply reply = co_await context.point(u"Specify internal point or [Advanced options]: "_s);
+        if (reply.isKeyword(u"Advanced")) {
+            if (!co_await askBoundaryOptions(context, settings))
+                co_return;
+            continue;
+        }
+        if (!reply.hasValue())
+            break;
+        std::vector<HatchArea> areas;
+        if (addAreaAt(context, settings, areas, reply.point))
+            made += createBoundaryPolylines(context, areas.front().boundary);
+    }
+    context.print(made == 1 ? u"\nBOUNDARY created 1 polyline"_s : u"\nBOUNDARY created %1 polylines"_s.arg(made));
+}
+
+} // namespace
+
+std::vector<CommandRow> hatchCommands()
+{
+    return {{"-BHATCH", hatch, "Hatches areas"},
+            {"-BOUNDARY", boundary, "Makes polylines round areas"},
+            {"-HATCH", hatch, "Hatches areas"},
+            {"BHATCH", hatch, "Hatches areas"},
+            {"BOUNDARY", boundary, "Makes polylines round areas"},
+            {"HATCH", hatch, "Hatches areas"}};
+}
+
+} // namespace host::kernel
