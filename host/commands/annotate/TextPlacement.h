@@ -14,8 +14,8 @@ class CommandContext;
 struct TextPlace
 {
     const Justification *justification = &leftJustification();
-    Vec3 first;
-    Vec3 second; ///< of a stretched text
+    drawing::Vec3 first;
+    drawing::Vec3 second; ///< of a stretched text
     double height = 0.0;
     double angle = 0.0;   ///< radians
     bool isBelow = false; ///< goes on from the text before, with its height and angle

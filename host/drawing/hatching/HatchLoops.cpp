@@ -9,24 +9,24 @@ namespace host::drawing {
 
 namespace {
 
-using Stretch = PlaneGraph::Stretch;
+using EdgeStretch = PlaneGraph::Stretch;
 
 bool isOfCircle(const CurvePiece &piece)
 {
     return piece.shape() == CurvePiece::Shape::Round && piece.isCircular();
 }
 
-Vec2 beginOf(const Stretch &stretch)
+Vec2 beginOf(const EdgeStretch &stretch)
 {
     return (stretch.isReversed ? stretch.piece.endPoint() : stretch.piece.startPoint()).xy();
 }
-Vec2 endOf(const Stretch &stretch)
+Vec2 endOf(const EdgeStretch &stretch)
 {
     return (stretch.isReversed ? stretch.piece.startPoint() : stretch.piece.endPoint()).xy();
 }
 
 /// What a round stretch sweeps, counter-clockwise as seen from above, in radians.
-double sweepOf(const Stretch &stretch)
+double sweepOf(const EdgeStretch &stretch)
 {
     const CurvePiece &piece = stretch.piece;
     const double side = cross(piece.xAxis().xy(), piece.yAxis().xy()) < 0.0 ? -1.0 : 1.0;
@@ -54,7 +54,7 @@ void addEdgeAngles(FieldList &fields, double begin, double sweep)
     fields.push_back({73, qint64(sweep < 0.0 ? 0 : 1)});
 }
 
-void addArcEdge(FieldList &fields, const Stretch &stretch)
+void addArcEdge(FieldList &fields, const EdgeStretch &stretch)
 {
     const Vec2 center = stretch.piece.center().xy();
     fields.insert(fields.end(), {{72, qint64(2)}, {10, center}, {40, stretch.piece.xAxis().xy().length()}});
@@ -65,7 +65,7 @@ void addArcEdge(FieldList &fields, const Stretch &stretch)
 }
 
 /// Of any two axes those at right angles: by how much the angle on the curve differs, and the axes.
-void addEllipseEdge(FieldList &fields, const Stretch &stretch)
+void addEllipseEdge(FieldList &fields, const EdgeStretch &stretch)
 {
     const CurvePiece &piece = stretch.piece;
     const Vec2 x = piece.xAxis().xy();
@@ -83,7 +83,7 @@ void addEllipseEdge(FieldList &fields, const Stretch &stretch)
 }
 
 /// Files from R2010 on count the fit points behind the control points.
-void addSplineEdge(FieldList &fields, const Stretch &stretch, Version version)
+void addSplineEdge(FieldList &fields, const EdgeStretch &stretch, Version version)
 {
     BezierSpan span = stretch.piece.span();
     if (stretch.isReversed) {
@@ -108,7 +108,7 @@ void addSplineEdge(FieldList &fields, const Stretch &stretch, Version version)
         fields.push_back({97, qint64(0)});
 }
 
-void addEdge(FieldList &fields, const Stretch &stretch, Version version)
+void addEdge(FieldList &fields, const EdgeStretch &stretch, Version version)
 {
     switch (stretch.piece.shape()) {
     case CurvePiece::Shape::Straight:
@@ -134,7 +134,7 @@ bool isPolylineLoop(const PlaneGraph::Loop &loop)
 std::optional<LoopPolyline> loopPolyline(const PlaneGraph::Loop &loop)
 {
     LoopPolyline result;
-    for (const Stretch &stretch : loop.stretches) {
+    for (const EdgeStretch &stretch : loop.stretches) {
         if (stretch.piece.shape() == CurvePiece::Shape::Straight) {
             result.corners.push_back({beginOf(stretch), 0.0});
             continue;
@@ -174,7 +174,7 @@ FieldList hatchPath(const PlaneGraph::Loop &loop, qint64 flags, const std::vecto
         }
     } else {
         fields = {{92, flags}, {93, qint64(loop.stretches.size())}};
-        for (const Stretch &stretch : loop.stretches)
+        for (const EdgeStretch &stretch : loop.stretches)
             addEdge(fields, stretch, version);
     }
     fields.push_back({97, qint64(handles.size())});
