@@ -23,8 +23,7 @@
 ;= ("1" 5 ("x"))
 
 ; Data that programs keep in the drawing
-(entmake '((0 . "POINT") (10 1.0 0.0 0.0))) (setq e (entlast) long (vl-string-translate "x" "ä" (apply 'strcat (mapcar 'chr (vl-list->string-list)))))
-;= error: no function definition: VL-LIST->STRING-LIST
+(entmake '((0 . "POINT") (10 1.0 0.0 0.0))) (setq e (entlast))
 (setq long "ä") (repeat 10 (setq long (strcat long long))) (strlen long) ;= 1024
 (setq data (list 1 -2.5 "a" long 'sym nil '(1 . 2) (list '(3 "b") e))) (equal (vlax-ldata-put "Mine" "k" data) data) ;= T
 (equal (vlax-ldata-get "Mine" "K") data) ;= T
