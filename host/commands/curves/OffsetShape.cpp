@@ -225,7 +225,8 @@ std::vector<OffsetSlice> farSlices(const EntityCurve &raw, const EntityCurve &or
     }
     std::ranges::sort(cuts);
     const CurveDistance away(original);
-    const double least = std::abs(distance) * (1.0 - nearlyAway) - original.tolerance();
+    // Turns so small that their crossing counts as a joint leave what is a little too near.
+    const double least = std::abs(distance) * (1.0 - nearlyAway) - 4.0 * original.tolerance();
     std::vector<OffsetSlice> slices;
     for (std::size_t i = 1; i < cuts.size(); ++i) {
         const double width = cuts[i] - cuts[i - 1];
