@@ -215,6 +215,19 @@ void appendSlice(const CurveVertices &raw, const OffsetSlice &slice, std::vector
     }
 }
 
+/// Whether a part goes forth and back on one line to where it began, as stretches do that overlap at a small turn.
+bool isSliver(const EntityCurve &raw, double from, double to)
+{
+    const double reach = 10.0 * raw.tolerance();
+    const Vec2 start = raw.point(from).xy();
+    const Vec2 along = raw.firstDerivative(from).xy();
+    const auto isOnLine = [&](double share) {
+        const Vec2 way = raw.point(from + (to - from) * share).xy() - start;
+        return std::abs(cross(along, way)) <= reach * along.length();
+    };
+    return (raw.point(to).xy() - start).length() <= reach && isOnLine(0.25) && isOnLine(0.5) && isOnLine(0.75);
+}
+
 /// The parts that are nowhere too near.
 std::vector<OffsetSlice> farSlices(const EntityCurve &raw, const EntityCurve &original, double distance)
 {
@@ -233,7 +246,7 @@ std::vector<OffsetSlice> farSlices(const EntityCurve &raw, const EntityCurve &or
         if (!(width > 1e-9))
             continue;
         const auto isFar = [&](double share) { return !away.isWithin(raw.point(cuts[i - 1] + width * share), least); };
-        if (isFar(0.5) && isFar(0.25) && isFar(0.75))
+        if (isFar(0.5) && isFar(0.25) && isFar(0.75) && !isSliver(raw, cuts[i - 1], cuts[i]))
             slices.push_back({cuts[i - 1], cuts[i], raw.point(cuts[i - 1]).xy(), raw.point(cuts[i]).xy()});
     }
     return slices;

@@ -28,3 +28,4 @@
 (command "-MTEXT" '(0 0) "W" 0 "text" "")(view) ;! OFFSET|1|0.1,-0.1 ;> Cannot offset that object. ;? (value-of 0) ;= "MTEXT"
 (turned)(command "LINE" '(0 0) '(10 0) "")(view) ;! OFFSET|2|5,0|5,5| ;~ keeps ;= LINE 10=10,20,0 11=10,30,0; LINE 10=8,20,0 11=8,30,0
 (command "PLINE" '(0 0) '(10 0) '(20 0.0445) '(30 -5) '(40 -20) "")(view) ;! OFFSET|0.2|5,0|5,5| ;~ keeps ;? (list (value-of 90) (sslength (ssget "X"))) ;= (6 2)
+(command "PLINE" '(0 0) '(10 0) '(20 0.06) '(30 -5) '(40 -20) "")(view) ;! OFFSET|0.2|5,0|5,5| ;~ keeps ;? (list (value-of 90) (sslength (ssget "X"))) ;= (5 2)
