@@ -82,9 +82,8 @@ CommandTask cutClip(CommandContext &context)
     if (entities.empty())
         co_return;
     putOnClipboard(context, entities, lowerLeft(context.drawing(), entities));
-    for (const RecordId id : entities)
-        if (!context.hasFailed())
-            context.drawing().setErased(id, true);
+    if (!context.hasFailed())
+        eraseAll(context, entities);
 }
 
 /// The drawing on the clipboard; null, and the command fails, when there is none.

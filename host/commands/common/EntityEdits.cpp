@@ -1,6 +1,7 @@
 #include "host/commands/common/EntityEdits.h"
 
 #include "host/drawing/geometry/TransformEntity.h"
+#include "host/drawing/records/Dictionaries.h"
 #include "host/kernel/input/SelectionQuery.h"
 #include "host/kernel/running/CommandContext.h"
 
@@ -19,6 +20,13 @@ std::vector<RecordId> editable(CommandContext &context, std::vector<RecordId> en
     if (count > 0)
         context.print(count == 1 ? u"\n1 was on a locked layer."_s : u"\n%1 were on a locked layer."_s.arg(count));
     return entities;
+}
+
+void eraseAll(CommandContext &context, const std::vector<RecordId> &entities)
+{
+    for (const RecordId id : entities)
+        context.drawing().setErased(id, true);
+    context.drawing().dictionaries().eraseOwnedBy(entities);
 }
 
 bool mayCopy(CommandContext &context, std::size_t entities, double copies)

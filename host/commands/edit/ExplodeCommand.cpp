@@ -37,15 +37,19 @@ void explodeAll(CommandContext &context, const Entities &entities)
     rules.takesUneven = context.document().variables().integer(u"EXPLMODE", 1) != 0;
     rules.shown = [&context](RecordId id) { return displayedParts(context.document().entityExtents().scene(), id); };
     Entities pieces;
+    Entities exploded;
     QStringList told;
     int leftOut = 0;
     for (const RecordId id : entities) {
         const drawing::ExplodeResult result = drawing::explodeEntity(drawing, id, rules, work);
         pieces.insert(pieces.end(), result.pieces.begin(), result.pieces.end());
         leftOut += result.leftOut;
+        if (result)
+            exploded.push_back(id);
         if (!result && !told.contains(result.refusal))
             told.append(result.refusal);
     }
+    eraseAll(context, exploded);
     for (const QString &reason : told)
         context.print(u'\n' + reason);
     if (leftOut > 0)

@@ -62,11 +62,13 @@ void moveToOtherSpace(CommandContext &context, const Entities &entities, bool is
         isToSheet ? views.front() : viewportOf(views, drawing::spaceBox(drawing, entities));
     const drawing::Matrix toSheet = seen.modelToSheet();
     Entities moved;
+    Entities gone;
     for (const RecordId id : entities)
         if (const RecordId copy = copyToOtherSpace(drawing, id, isToSheet); isValid(copy)) {
             moved.push_back(copy);
-            drawing.setErased(id, true);
+            gone.push_back(id);
         }
+    eraseAll(context, gone);
     transformAll(context, moved, isToSheet ? toSheet : toSheet.inverted());
     context.document().setPreviousSelection(moved);
     context.print(u"\n%1 object(s) changed from %2 space to %3 space."_s.arg(moved.size())
