@@ -10,7 +10,9 @@
 #include "host/drawing/records/PolylineFlags.h"
 #include "host/drawing/text/ParagraphText.h"
 #include "host/kernel/documents/Document.h"
+#include "host/kernel/input/Units.h"
 #include "host/kernel/running/CommandContext.h"
+#include "host/kernel/variables/SystemVariables.h"
 
 #include <cmath>
 #include <numbers>
@@ -32,21 +34,23 @@ class ListedSheet
 {
 public:
     ListedSheet(CommandContext &context, RecordId record)
-        : context(context), record(record), tags(context.drawing().tags(record)), m_plane(context.document()),
+        : context(context), record(record), tags(context.drawing().tags(record)),
+          m_units(UnitFormat::of(context.document().variables())), m_plane(context.document()),
           m_toWorld(Matrix::fromExtrusion(tags.point(210, {0.0, 0.0, 1.0})))
     {
     }
 
+    QString shown(double size) const { return m_units.length(size); }
+    QString shownAngle(double turn) const { return m_units.angle(turn); }
     void line(const QString &text) { m_text += u"\n          "_s + text; }
     void value(const QString &what, const QString &text) { line(what.rightJustified(16) + u"  "_s + text); }
-    void length(const QString &what, double size) { value(what, context.shownLength(size)); }
-    void angle(const QString &what, double turn) { value(what, context.shownAngle(turn)); }
+    void length(const QString &what, double size) { value(what, shown(size)); }
+    void angle(const QString &what, double turn) { value(what, shownAngle(turn)); }
     /// In world coordinates.
     void point(const QString &what, const Vec3 &world)
     {
         const Vec3 at = m_plane.userFromWorld(world);
-        line(u"%1 X=%2  Y=%3  Z=%4"_s.arg(what, context.shownLength(at.x), context.shownLength(at.y),
-                                          context.shownLength(at.z)));
+        line(u"%1 X=%2  Y=%3  Z=%4"_s.arg(what, shown(at.x), shown(at.y), shown(at.z)));
     }
     /// In object coordinates.
     void flatPoint(const QString &what, const Vec3 &object) { point(what, m_toWorld.point(object)); }
@@ -60,8 +64,8 @@ public:
     }
     void numbers(const QString &what, double area, double perimeter, const QString &round = u"perimeter"_s)
     {
-        value(what, context.shownLength(area));
-        value(round, context.shownLength(perimeter));
+        value(what, shown(area));
+        value(round, shown(perimeter));
     }
     std::optional<drawing::EntityCurve> curve() const
     {
@@ -75,6 +79,7 @@ public:
     TagList tags;
 
 private:
+    UnitFormat m_units;
     UserPlane m_plane;
     Matrix m_toWorld;
     QString m_text;
@@ -89,10 +94,9 @@ void listLine(ListedSheet &sheet)
     const Vec3 by = sheet.plane().userFromWorld(to) - sheet.plane().userFromWorld(from);
     const double turn = std::atan2(by.y, by.x);
     sheet.line(u"Length = %1,  Angle in XY Plane = %2"_s.arg(
-        sheet.context.shownLength(by.length()),
-        sheet.context.shownAngle(turn < 0.0 ? turn + 2.0 * std::numbers::pi : turn)));
-    sheet.line(u"Delta X = %1, Delta Y = %2, Delta Z = %3"_s.arg(
-        sheet.context.shownLength(by.x), sheet.context.shownLength(by.y), sheet.context.shownLength(by.z)));
+        sheet.shown(by.length()), sheet.shownAngle(turn < 0.0 ? turn + 2.0 * std::numbers::pi : turn)));
+    sheet.line(
+        u"Delta X = %1, Delta Y = %2, Delta Z = %3"_s.arg(sheet.shown(by.x), sheet.shown(by.y), sheet.shown(by.z)));
 }
 
 void listPoint(ListedSheet &sheet)
@@ -141,7 +145,7 @@ void listVertices(ListedSheet &sheet, const std::vector<Vec3> &points, const std
     for (std::size_t i = 0; i < points.size(); ++i) {
         sheet.flatPoint(u"at point"_s, points[i]);
         if (bulges[i] != 0.0)
-            sheet.value(u"bulge"_s, sheet.context.shownLength(bulges[i]));
+            sheet.value(u"bulge"_s, sheet.shown(bulges[i]));
     }
 }
 
@@ -278,8 +282,7 @@ void listDimension(ListedSheet &sheet)
     for (const int code : {10, 13, 14, 15})
         if (sheet.tags.find(code))
             sheet.point(u"defining point:"_s, sheet.tags.point(code));
-    sheet.value(u"measurement"_s,
-                isAngle ? sheet.context.shownAngle(data->measured()) : sheet.context.shownLength(data->measured()));
+    sheet.value(u"measurement"_s, isAngle ? sheet.shownAngle(data->measured()) : sheet.shown(data->measured()));
     if (!data->text.isEmpty())
         sheet.value(u"text"_s, data->text);
 }
