@@ -1,8 +1,8 @@
 #include "host/app/workbench/PictureOptions.h"
 
-#include <QRegularExpression>
+#include "host/view/paint/PaperSizes.h"
 
-#include <array>
+#include <QRegularExpression>
 
 using namespace Qt::StringLiterals;
 
@@ -16,24 +16,6 @@ constexpr double smallestPaper = 10.0; ///< millimetres
 constexpr double largestPaper = 5000.0;
 constexpr int mostPixels = 16'000;
 
-struct PaperRow
-{
-    const char *name;
-    double shortSide; ///< millimetres
-    double longSide;
-};
-
-constexpr std::array paperRows = {
-    PaperRow{"A0", 841, 1189},         PaperRow{"A1", 594, 841},         PaperRow{"A2", 420, 594},
-    PaperRow{"A3", 297, 420},          PaperRow{"A4", 210, 297},         PaperRow{"A5", 148, 210},
-    PaperRow{"A6", 105, 148},          PaperRow{"B0", 1000, 1414},       PaperRow{"B1", 707, 1000},
-    PaperRow{"B2", 500, 707},          PaperRow{"B3", 353, 500},         PaperRow{"B4", 250, 353},
-    PaperRow{"B5", 176, 250},          PaperRow{"B6", 125, 176},         PaperRow{"ANSI-A", 215.9, 279.4},
-    PaperRow{"ANSI-B", 279.4, 431.8},  PaperRow{"ANSI-C", 431.8, 558.8}, PaperRow{"ANSI-D", 558.8, 863.6},
-    PaperRow{"ANSI-E", 863.6, 1117.6}, PaperRow{"ARCH-A", 228.6, 304.8}, PaperRow{"ARCH-B", 304.8, 457.2},
-    PaperRow{"ARCH-C", 457.2, 609.6},  PaperRow{"ARCH-D", 609.6, 914.4}, PaperRow{"ARCH-E", 914.4, 1219.2},
-    PaperRow{"ARCH-E1", 762, 1066.8}};
-
 std::optional<QSizeF> twoNumbers(const QString &text)
 {
     static const QRegularExpression form(u"^([0-9]+(?:\\.[0-9]+)?)[xX]([0-9]+(?:\\.[0-9]+)?)$"_s);
@@ -41,17 +23,6 @@ std::optional<QSizeF> twoNumbers(const QString &text)
     if (!match.hasMatch())
         return {};
     return QSizeF(match.captured(1).toDouble(), match.captured(2).toDouble());
-}
-
-std::optional<QSizeF> namedPaper(const QString &name)
-{
-    for (const PaperRow &row : paperRows) {
-        const QString known = QString::fromLatin1(row.name);
-        if (known.compare(name, Qt::CaseInsensitive) == 0 ||
-            QString(known).remove(u'-').compare(name, Qt::CaseInsensitive) == 0)
-            return QSizeF(row.longSide, row.shortSide);
-    }
-    return {};
 }
 
 bool isPaper(const QSizeF &size)
@@ -94,7 +65,7 @@ QString setPaper(PictureOptions &options, const QString &value)
     std::optional<QSizeF> size = twoNumbers(name);
     options.as.sheet.turnsPaper = !size && !isAcross;
     if (!size)
-        size = namedPaper(name);
+        size = view::namedPaper(name);
     if (!size || !isPaper(*size))
         return u"--paper takes A0 to A6, B0 to B6, ANSI-A to ANSI-E, ARCH-A to ARCH-E1 or millimetres from 10 to 5000 "
                u"as 420x297, with -landscape or -portrait behind, not \"%1\""_s.arg(value);

@@ -252,7 +252,8 @@ CommandTask reference(CommandContext &context)
 std::vector<CommandRow> referenceCommands()
 {
     return {
-        {"-XREF", reference, "Attaches drawing files as external references, and changes, binds and detaches these"}};
+        {"-XREF", reference, "Attaches drawing files as external references, and changes, binds and detaches these"},
+        {"XREF", reference, "As -XREF; there is no window for it"}};
 }
 
 } // namespace host::kernel

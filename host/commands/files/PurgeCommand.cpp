@@ -189,7 +189,8 @@ CommandTask purge(CommandContext &context)
 
 std::vector<CommandRow> purgeCommands()
 {
-    return {{"-PURGE", purge, "Takes out of the drawing what nothing refers to"}};
+    return {{"-PURGE", purge, "Takes out of the drawing what nothing refers to"},
+            {"PURGE", purge, "As -PURGE; there is no window for it"}};
 }
 
 } // namespace host::kernel

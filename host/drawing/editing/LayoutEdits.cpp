@@ -216,7 +216,7 @@ QString renameLayout(Drawing &drawing, const LayoutTab &layout, const QString &n
     if (layout.isModel())
         return u"Model space cannot be renamed."_s;
     if (!isValid(layout.record))
-        return noMoreSheets();
+        return u"Layout \"%1\" has no object in this drawing that a name could be given to."_s.arg(layout.name);
     if (const QString obstacle = obstacleToLayoutName(drawing, name, layout.name); !obstacle.isEmpty())
         return obstacle;
     const JournalGroup group(drawing.journal(), {});

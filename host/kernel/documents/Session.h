@@ -10,6 +10,7 @@
 #include "host/kernel/variables/UserVariables.h"
 
 #include <QPointer>
+#include <QSet>
 #include <QWidget>
 
 #include <memory>
@@ -66,6 +67,8 @@ public:
     InputQueue &input() { return m_input; }
     /// The user's short names of commands, of home()/alias.xml.
     CommandAliases &aliases() { return m_aliases; }
+    /// Built-in commands that a program has hidden, by their names: only a point in front ("_.LINE") runs them.
+    QSet<QString> &undefinedCommands() { return m_undefinedCommands; }
     /// What is kept between sessions, in home()/settings.ini.
     SettingsStore &settings() { return m_settings; }
     /// The system variables among them.
@@ -129,6 +132,7 @@ public:
 
 private:
     std::unique_ptr<drawing::Drawing> m_clipboard;
+    QSet<QString> m_undefinedCommands;
     QStringList m_notWritten; ///< told since takeNotWritten()
     QString m_home;
     QStringList m_supportFolders;

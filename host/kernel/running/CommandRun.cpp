@@ -12,9 +12,12 @@ namespace host::kernel {
 
 std::unique_ptr<CommandRun> CommandRun::start(Document &document, const QString &typed, Manner manner)
 {
-    if (const CommandRow *row = CommandTable::find(typed))
-        return std::make_unique<CommandRun>(document, *row, manner);
     const QString name = CommandTable::plainName(typed);
+    // A point asks for the built-in command whatever programs have hidden.
+    const bool isAskedFor = QStringView(typed).trimmed().chopped(name.size()).contains(u'.');
+    const bool isHidden = !isAskedFor && document.session().undefinedCommands().contains(name);
+    if (const CommandRow *row = isHidden ? nullptr : CommandTable::find(typed))
+        return std::make_unique<CommandRun>(document, *row, manner);
     if (!document.variables().get(name))
         return nullptr;
     auto command = std::make_unique<CommandRun>(document, *CommandTable::find(u"SETVAR"), manner);

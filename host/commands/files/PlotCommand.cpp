@@ -1,0 +1,304 @@
+#include "host/commands/Commands.h"
+#include "host/commands/files/PlotRequest.h"
+#include "host/drawing/geometry/EntityGeometry.h"
+#include "host/kernel/documents/CurrentSpace.h"
+#include "host/kernel/documents/Document.h"
+#include "host/kernel/running/CommandContext.h"
+#include "host/kernel/running/Dialogue.h"
+#include "host/view/paint/PaperSizes.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QRegularExpression>
+
+using namespace Qt::StringLiterals;
+
+namespace host::kernel {
+
+namespace {
+
+using drawing::Box;
+using drawing::PageSetup;
+using drawing::Vec3;
+
+/// Yes or no; the default for an empty answer.
+Dialogue<bool> isYes(CommandContext &context, QString question, bool usual)
+{
+    const QString shown = usual ? u"Yes"_s : u"No"_s;
+    const PromptReply reply = co_await context.keyword(u"%1 [Yes/No] <%2>: "_s.arg(question, shown), {}, shown);
+    co_return reply.text.isEmpty() ? usual : reply.text == u"Yes"_s;
+}
+
+/// Text; "?" prints what there is and asks again. `usual` for an empty answer.
+Dialogue<QString> askListed(CommandContext &context, QString question, QString usual, QStringList choices)
+{
+    for (;;) {
+        const PromptReply reply = co_await context.text(u"%1 or [?] <%2>: "_s.arg(question, usual), usual, u"?"_s);
+        if (reply.kind != ReplyKind::Keyword)
+            co_return reply.hasValue() ? reply.text.trimmed() : usual;
+        for (const QString &choice : choices)
+            context.print(u'\n' + choice);
+    }
+}
+
+QStringList plotDevices()
+{
+    return {u"PDF"_s, u"PNG"_s, u"SVG"_s};
+}
+
+QStringList knownPapers()
+{
+    return {u"A0 to A6, B0 to B6"_s, u"ANSI-A to ANSI-E, ARCH-A to ARCH-E1"_s, u"CUSTOM (WIDTH x HEIGHT MM)"_s};
+}
+
+QStringList knownPlotTables()
+{
+    return {u"monochrome.ctb"_s,    u"grayscale.ctb"_s,     u"screening 25%.ctb"_s,
+            u"screening 50%.ctb"_s, u"screening 75%.ctb"_s, u"screening 100%.ctb"_s};
+}
+
+Dialogue<std::optional<PlotRequest>> askLayout(CommandContext &context)
+{
+    QStringList names;
+    for (const drawing::LayoutTab &tab : drawing::layoutTabs(context.drawing()))
+        names.append(tab.name);
+    const QString current = currentLayout(context.drawing());
+    const QString name = co_await askListed(context, u"Enter a layout name"_s, current, names);
+    const auto layout = drawing::findLayout(context.drawing(), name);
+    if (!layout) {
+        context.fail(u"Layout \"%1\" not found."_s.arg(name));
+        co_return std::nullopt;
+    }
+    PlotRequest request;
+    request.layout = *layout;
+    co_return request;
+}
+
+/// False, with the command failed, for a device that there is not.
+Dialogue<bool> askDevice(CommandContext &context, PlotRequest *request)
+{
+    const QString device = co_await askListed(context, u"Enter an output device name"_s, u"PDF"_s, plotDevices());
+    request->extension = plotExtension(device);
+    if (request->extension.isEmpty())
+        context.fail(u"There is no device \"%1\": plots are files of PDF, PNG or SVG."_s.arg(device));
+    co_return !request->extension.isEmpty();
+}
+
+/// What is held as the drawing lies on it.
+void turn(QSizeF &paper, bool isAcross)
+{
+    if (isAcross != (paper.width() > paper.height()))
+        paper.transpose();
+}
+
+Dialogue<bool> askPaper(CommandContext &context, PlotRequest *request)
+{
+    const PageSetup page = drawing::readPageSetup(context.drawing(), request->layout);
+    const QString usual = page.hasPaper() ? u"%1 x %2 MM"_s.arg(page.paper.x).arg(page.paper.y) : u"A4"_s;
+    const QString name = co_await askListed(context, u"Enter paper size"_s, usual, knownPapers());
+    if (name != usual)
+        request->paper = view::plotterPaper(name);
+    if (name != usual && !request->paper) {
+        context.fail(u"There is no paper size \"%1\"."_s.arg(name));
+        co_return false;
+    }
+    const PromptReply units =
+        co_await context.keyword(u"Enter paper units [Inches/Millimeters] <Millimeters>: "_s, {}, u"Millimeters"_s);
+    const bool isAcross = !page.hasPaper() || page.paper.x > page.paper.y;
+    const QString across = isAcross ? u"Landscape"_s : u"Portrait"_s;
+    const PromptReply held =
+        co_await context.keyword(u"Enter drawing orientation [Portrait/Landscape] <%1>: "_s.arg(across), {}, across);
+    const bool isWantedAcross = held.text.isEmpty() ? isAcross : held.text == u"Landscape"_s;
+    if (!request->paper && isWantedAcross != isAcross && page.hasPaper())
+        request->paper = QSizeF(page.paper.x, page.paper.y);
+    if (request->paper)
+        turn(*request->paper, isWantedAcross);
+    // Until the scale is known: how long a plotted unit is.
+    request->scale = units.text == u"Inches"_s ? drawing::millimetresPerInch : 1.0;
+    const bool isUpsideDown = co_await isYes(context, u"Plot upside down?"_s, false);
+    if (isUpsideDown)
+        context.print(u"\nPlots stand upright here."_s);
+    co_return true;
+}
+
+Box shownArea(CommandContext &context)
+{
+    const ViewState &view = context.document().view();
+    const double aspect = view.pixels.isEmpty() ? 1.0 : double(view.pixels.width()) / view.pixels.height();
+    const Vec3 half{view.height * aspect / 2.0, view.height / 2.0, 0.0};
+    const Vec3 centre{view.centre.x, view.centre.y, 0.0};
+    Box box;
+    box.add(centre - half);
+    box.add(centre + half);
+    return box;
+}
+
+Dialogue<std::optional<Box>> askPlotWindow(CommandContext &context)
+{
+    const PromptReply low = co_await context.neededPoint(u"Enter lower left corner of window <0.000000,0.000000>: "_s);
+    const PromptReply high = co_await context.neededPoint(u"Enter upper right corner of window: "_s, low.point);
+    Box box;
+    box.add(low.point);
+    box.add(high.point);
+    co_return box;
+}
+
+/// The area by its option. Of a layout that is plotted whole it is nothing: its page says it.
+Dialogue<bool> askArea(CommandContext &context, PlotRequest *request)
+{
+    const bool isModel = request->layout.isModel();
+    const QString usual = isModel ? u"Display"_s : u"Layout"_s;
+    const QString options = isModel ? u"Display/Extents/Limits/View/Window"_s : u"Display/Extents/Layout/View/Window"_s;
+    const PromptReply reply = co_await context.keyword(u"Enter plot area [%1] <%2>: "_s.arg(options, usual), {}, usual);
+    const QString area = reply.text.isEmpty() ? usual : reply.text;
+    const drawing::Drawing &drawing = context.drawing();
+    if (area == u"Window") {
+        request->window = co_await askPlotWindow(context);
+    } else if (area == u"View") {
+        const PromptReply name = co_await context.text(u"Enter view name: "_s);
+        request->window = drawing::namedView(drawing, name.text.trimmed());
+        if (!request->window)
+            context.fail(u"Cannot find view \"%1\"."_s.arg(name.text.trimmed()));
+    } else if (area == u"Extents") {
+        request->window = drawing::spaceBox(drawing, drawing::layoutEntities(drawing, request->layout));
+    } else if (area == u"Limits") {
+        request->window = drawing::layoutLimits(drawing, request->layout);
+    } else if (area == u"Display" && request->layout.name == currentLayout(drawing)) {
+        request->window = shownArea(context);
+    } else if (area == u"Layout" &&
+               drawing::readPageSetup(drawing, request->layout).area != drawing::PlotArea::Layout) {
+        request->window = drawing::layoutLimits(drawing, request->layout);
+    }
+    // A line without height has no proportions, but may be plotted.
+    const Box box = request->window.value_or(Box());
+    if (!(box.high.x > box.low.x && box.high.y > box.low.y))
+        request->window.reset();
+    co_return !context.hasFailed();
+}
+
+Dialogue<bool> askScale(CommandContext &context, PlotRequest *request)
+{
+    const double unitSize = request->scale.value_or(1.0);
+    const PageSetup page = drawing::readPageSetup(context.drawing(), request->layout);
+    const bool isFitting = page.scale <= 0.0;
+    const QString usual = isFitting ? u"Fit"_s : u"%1=1"_s.arg(page.scale);
+    const PromptReply reply = co_await context.text(
+        u"Enter plot scale (Plotted Millimeters=Drawing Units) or [Fit] <%1>: "_s.arg(usual), usual, u"Fit"_s);
+    request->scale.reset();
+    const bool isFit = reply.kind == ReplyKind::Keyword || (!reply.hasValue() && isFitting);
+    const QString typed = reply.hasValue() ? reply.text : usual;
+    if (!isFit) {
+        request->scale = plotScale(typed, reply.hasValue() ? unitSize : page.unitSize);
+        if (!request->scale)
+            context.fail(u"\"%1\" is no plot scale."_s.arg(typed));
+    }
+    const PromptReply offset =
+        co_await context.point(u"Enter plot offset (x,y) or [Center] <Center>: "_s, {}, {}, u"Center"_s);
+    if (offset.hasValue() && (request->window || request->paper))
+        context.print(u"\nPlots lie in the middle of their paper."_s);
+    co_return !context.hasFailed();
+}
+
+Dialogue<bool> askLook(CommandContext &context, PlotRequest *request)
+{
+    request->withStyles = co_await isYes(context, u"Plot with plot styles?"_s, true);
+    if (request->withStyles) {
+        const QString page = drawing::readPageSetup(context.drawing(), request->layout).styleSheet;
+        const QString name = co_await askListed(context, u"Enter plot style table name"_s, page, knownPlotTables());
+        request->withStyles = name != u".";
+        request->styles = name == u"." || name == page ? QString() : name;
+    }
+    request->withLineweights = co_await isYes(context, u"Plot with lineweights?"_s, true);
+    if (request->layout.isModel()) {
+        // Model space is plotted as lines, whatever the answer.
+        co_await context.text(
+            u"Enter shade plot setting [As displayed/Wireframe/Hidden/Visual styles/Rendered] <As displayed>: "_s,
+            u"As displayed"_s);
+        co_return true;
+    }
+    // What sheets are plotted with is in their page setup; the answers are taken so that programs go on in step.
+    co_await isYes(context, u"Scale lineweights with plot scale?"_s, false);
+    co_await isYes(context, u"Plot paper space first?"_s, false);
+    co_await isYes(context, u"Hide paperspace objects?"_s, false);
+    co_return true;
+}
+
+QString usualPath(CommandContext &context, const PlotRequest &request)
+{
+    const Document &document = context.document();
+    const QString folder = document.path().isEmpty() ? QDir::currentPath() : QFileInfo(document.path()).absolutePath();
+    static const QRegularExpression unsafe(u"[\\x00-\\x1f<>:\"/\\\\|?*]"_s);
+    return u"%1/%2-%3.%4"_s.arg(folder, QFileInfo(document.title()).completeBaseName(),
+                                QString(request.layout.name).replace(unsafe, u"_"_s), request.extension);
+}
+
+Dialogue<bool> askFile(CommandContext &context, PlotRequest *request)
+{
+    const QString usual = usualPath(context, *request);
+    const PromptReply reply = co_await context.text(u"Enter file name <%1>: "_s.arg(usual), usual);
+    QString typed = reply.hasValue() ? reply.text.trimmed() : usual;
+    typed.replace(u'\\', u'/');
+    if (!typed.endsWith(u'.' + request->extension, Qt::CaseInsensitive))
+        typed += u'.' + request->extension;
+    request->path = QFileInfo(QDir::current(), typed).absoluteFilePath();
+    const bool isKept = co_await isYes(context, u"Save changes to page setup?"_s, false);
+    if (isKept)
+        context.print(u"\nThe page setup stays as it is."_s);
+    co_return co_await isYes(context, u"Proceed with plot"_s, true);
+}
+
+Dialogue<bool> askDetails(CommandContext &context, PlotRequest *request)
+{
+    const bool hasDevice = co_await askDevice(context, request);
+    if (!hasDevice)
+        co_return false;
+    const bool hasPaper = co_await askPaper(context, request);
+    if (!hasPaper)
+        co_return false;
+    const bool hasArea = co_await askArea(context, request);
+    if (!hasArea)
+        co_return false;
+    const bool hasScale = co_await askScale(context, request);
+    if (!hasScale)
+        co_return false;
+    co_return co_await askLook(context, request);
+}
+
+/// As the page setup has it.
+Dialogue<bool> askBriefly(CommandContext &context, PlotRequest *request)
+{
+    co_await context.text(u"Enter a page setup name <>: "_s);
+    co_return co_await askDevice(context, request);
+}
+
+CommandTask plot(CommandContext &context)
+{
+    const bool isDetailed = co_await isYes(context, u"Detailed plot configuration?"_s, false);
+    std::optional<PlotRequest> request = co_await askLayout(context);
+    if (!request)
+        co_return;
+    bool isSaid = false;
+    if (isDetailed)
+        isSaid = co_await askDetails(context, &*request);
+    else
+        isSaid = co_await askBriefly(context, &*request);
+    if (!isSaid)
+        co_return;
+    const bool isWanted = co_await askFile(context, &*request);
+    if (!isWanted)
+        co_return;
+    if (const QString problem = writePlot(context, *request); !problem.isEmpty())
+        context.fail(problem);
+    else
+        context.print(u"\nPlotted to %1."_s.arg(request->path));
+}
+
+} // namespace
+
+std::vector<CommandRow> plotCommands()
+{
+    return {{"-PLOT", plot, "Plots a layout to a file of PDF, PNG or SVG"},
+            {"PLOT", plot, "As -PLOT; there is no window for it"}};
+}
+
+} // namespace host::kernel

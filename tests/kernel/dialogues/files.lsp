@@ -1,0 +1,42 @@
+;! NETLOAD|x.dll ;> was not loaded ;= 
+;! MENULOAD|x.mnu ;> no menu files here ;=
+;! MENUUNLOAD|custom ;> There is no customization group ;=
+;! ARX|L|x.arx ;> do not run here ;=
+;! DELAY|5 ;=
+;! DELAY|-5 ;> must not be negative ;=
+;! AUDIT|Y ;> Total errors found 0 fixed 0 ;=
+;! TEXTSCR ;=
+(tables) ;! PURGE|LA|*|N ;? (left "Spare") ;= (nil T T T T)
+;! -PLOT|N|None ;> Layout "None" not found ;=
+;! -PLOT|Y|?|Model|Plotter ;> plots are files of PDF, PNG or SVG ;=
+;! -PLOT|Y|Model|PDF|B9 ;> There is no paper size "B9" ;=
+;! -PLOT|Y|Model|PDF|A4|M|L|N|V|Front ;> Cannot find view "Front" ;=
+;! -PLOT|Y|Model|PDF|A4|M|L|N|E|wide ;> "wide" is no plot scale ;=
+(line 1 1 5 5) ;! -PLOT|Y|Model|PDF|A4|M|L|N|E|F|C|Y|none.ctb|Y|A|nowhere/x|N|Y ;> Cannot find plot style table ;= LINE 10=1,1,0 11=5,5,0
+(line 1 1 5 5) ;! -PLOT|Y|Model|PDF|A4|M|L|N|E|F|C|Y||Y|A|nowhere/x|N|Y ;> Cannot write ;= LINE 10=1,1,0 11=5,5,0
+(line 1 1 5 5) ;! -PLOT|N|Layout1||PDF|nowhere/x|N|N ;= LINE 10=1,1,0 11=5,5,0
+(door)(entmake '((0 . "INSERT") (2 . "door") (10 0.0 0.0 0.0))) ;! -RENAME|B|Door|Gate ;= INSERT 2=Gate 10=0,0,0
+(door)(entmake '((0 . "INSERT") (2 . "Door") (10 0.0 0.0 0.0))) ;! RENAME|B|door|DOOR ;= INSERT 2=DOOR 10=0,0,0
+(door)(label) ;! -RENAME|B|Door|label ;> Block "label" already exists ;=
+;! -RENAME|B|*Model_Space|M ;> cannot be renamed ;=
+(tables) ;! -RENAME|LT|used|Mine ;? (list (cdr (assoc 6 (entget (entlast)))) (left "Used")) ;= ("Mine" (T nil T T T))
+(tables) ;! -RENAME|S|Used|Mine ;? (list (cdr (assoc 7 (entget (entlast)))) (left "Used")) ;= ("Mine" (T T nil T T))
+(tables) ;! -RENAME|LA|Used|Mine ;? (list (cdr (assoc 8 (entget (entlast)))) (left "Used")) ;= ("Mine" (nil T T T T))
+(tables) ;! -RENAME|D|Used|Mine ;? (left "Used") ;= (T T T nil T)
+;! -RENAME|LT|Continuous|Full ;> cannot be renamed ;=
+;! -RENAME|S|None|Full ;> Cannot find text style "None" ;=
+;! -RENAME|S|Standard|A*B ;> cannot be a name ;=
+(save-ucs "Wall")(command "UCS" "R" "Wall") ;! -RENAME|U|wall|Side ;? (list (getvar "UCSNAME") (car (entry-of "UCS" "Side" '(10)))) ;= ("Side" (1.0 2.0 3.0))
+(command "-VIEW" "S" "Here") ;! -RENAME|VI|here|There ;? (list (tblsearch "VIEW" "Here") (type (tblsearch "VIEW" "There"))) ;= (nil LIST)
+(command "-VPORTS" "2" "" "-VPORTS" "S" "Two") ;! -RENAME|VP|two|Pair ;? (mapcar 'car (screen)) ;= ("*Active" "*Active" "Pair" "Pair")
+(plan) ;! -RENAME|LAYO|plan|Ground ;? (tabs) ;= ("Model" "Layout1" "Ground")
+;! UNDEFINE|nosuch ;> Unknown command "nosuch" ;=
+;! LIMITS|1,2|30,40 ;? (list (getvar "LIMMIN") (getvar "LIMMAX")) ;= ((1.0 2.0) (30.0 40.0))
+;! LIMITS|ON ;? (getvar "LIMCHECK") ;= 1
+;! ELEV|2|3 ;? (list (getvar "ELEVATION") (getvar "THICKNESS")) ;= (2.0 3.0)
+;! COLOR|_red ;? (getvar "CECOLOR") ;= "1"
+;! -COLOR|ByBlock ;? (getvar "CECOLOR") ;= "BYBLOCK"
+;! -COLOR|nocolour ;> cannot be set to that value ;? (getvar "CECOLOR") ;= "BYLAYER"
+;! ORTHO|ON ;? (getvar "ORTHOMODE") ;= 1
+;! SNAP|5 ;? (list (getvar "SNAPUNIT") (getvar "SNAPMODE")) ;= ((5.0 5.0) 1)
+;! GRID|A|2|4 ;? (getvar "GRIDUNIT") ;= (2.0 4.0)
