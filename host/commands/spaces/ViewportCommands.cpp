@@ -168,11 +168,13 @@ Dialogue<bool> lockChosen(CommandContext &context)
 /// How viewports are shaded on paper is kept; they are drawn as lines all the same.
 Dialogue<bool> shadeChosen(CommandContext &context)
 {
-    static const QStringList ways = {u"As"_s, u"Wireframe"_s, u"Hidden"_s, u"Rendered"_s};
-    const PromptReply way = co_await context.keyword(
-        u"Shade plot? [As displayed/Wireframe/Hidden/Rendered] <As displayed>: "_s, {}, u"As displayed"_s);
+    // By their first letters, as one of them has a blank.
+    const QString letters = u"AWHR"_s;
+    const PromptReply way = co_await context.text(
+        u"Shade plot? [As displayed/Wireframe/Hidden/Rendered] <As displayed>: "_s, u"As displayed"_s);
     const PromptReply chosen = co_await context.selection();
-    const qint64 number = std::max<qint64>(0, ways.indexOf(way.text));
+    const QString word = way.text.trimmed().toUpper().remove(u'_');
+    const qint64 number = word.isEmpty() ? 0 : std::max<qint64>(0, letters.indexOf(word.front()));
     for (const RecordId viewport : viewportsAmong(context, chosen.entities)) {
         if (context.drawing().version() < drawing::Version::R2004)
             continue;

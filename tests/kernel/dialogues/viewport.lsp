@@ -10,6 +10,7 @@
 (port)(command "MVIEW" "OFF" "L" "") ;! MVIEW|ON|L| ;? (cadr (ports '(68 90))) ;= (2 32864)
 (port) ;! MVIEW|L|ON|L| ;? (cadr (ports '(90))) ;= (49248)
 (port)(lock "0") ;! MVIEW|L|ON|L| ;> locked layer ;? (cadr (ports '(90))) ;= (32864)
+(port) ;! MVIEW|S|As displayed|ALL| ;? (cadr (ports '(170))) ;= (0)
 (port) ;! MVIEW|S|H|ALL| ;? (cadr (ports '(170))) ;= (2)
 (sheet)(entmake '((0 . "CIRCLE") (10 20.0 20.0 0.0) (40 . 10.0))) ;! MVIEW|O|20,30
 ;? (list (eq (caadr (ports '(340))) (ssname (ssget "X" '((0 . "CIRCLE"))) 0)) (cadr (ports '(10 40 90)))) ;= (T ((20.0 20.0 0.0) 20.0 98400))
