@@ -60,6 +60,7 @@ std::vector<CommandRow> builtInCommands()
              insertCommands(),
              layerCommands(),
              layoutCommands(),
+             leaderCommands(),
              linearDimensionCommands(),
              linetypeCommands(),
              mlineCommands(),

@@ -40,6 +40,7 @@ std::vector<CommandRow> hatchEditCommands();
 std::vector<CommandRow> insertCommands();
 std::vector<CommandRow> layerCommands();
 std::vector<CommandRow> layoutCommands();
+std::vector<CommandRow> leaderCommands();
 std::vector<CommandRow> linearDimensionCommands();
 std::vector<CommandRow> linetypeCommands();
 std::vector<CommandRow> mlineCommands();

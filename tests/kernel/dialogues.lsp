@@ -142,3 +142,5 @@
     (list 10 (float c) (float b)) (list 10 (float c) (float d)) (list 10 (float a) (float d)))))
 (defun every (code)
   (mapcar 'cdr (vl-remove-if-not '(lambda (f) (= (car f) code)) (entget (entlast)))))
+(defun leader (codes) (mapcar '(lambda (c) (cdr (assoc c (entget (entnext))))) codes))
+(defun points () (mapcar 'cdr (vl-remove-if-not '(lambda (f) (= (car f) 10)) (entget (entnext)))))

@@ -42,6 +42,8 @@ constexpr ClassRule classRules[] = {
     {"WIPEOUTVARIABLES"_L1, "AcDbWipeoutVariables"_L1, "WipeOut"_L1, 0, false},
     {"DICTIONARYVAR"_L1, "AcDbDictionaryVar"_L1, "ObjectDBX Classes"_L1, 0, false},
     {"SPATIAL_FILTER"_L1, "AcDbSpatialFilter"_L1, "ObjectDBX Classes"_L1, 0, false},
+    {"MULTILEADER"_L1, "AcDbMLeader"_L1, "ACDB_MLEADER_CLASS"_L1, 1025},
+    {"MLEADERSTYLE"_L1, "AcDbMLeaderStyle"_L1, "ACDB_MLEADERSTYLE_CLASS"_L1, 4095, false},
     {"RTEXT"_L1, "RText"_L1, "RText"_L1, 0},
 };
 

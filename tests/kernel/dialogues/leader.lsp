@@ -1,0 +1,14 @@
+;! LEADER|0,0|10,10|20,10||Note| ;? (list (types) (leader '(71 72 73 76 75)) (points)) ;= (("LEADER" "MTEXT") (1 0 0 3 0) ((0.0 0.0 0.0) (10.0 10.0 0.0) (20.0 10.0 0.0)))
+;! LEADER|0,0|10,10||Note|below| ;? (list (leader '(75 76)) (points) (own '(1 40 71 10))) ;= ((1 3) ((0.0 0.0 0.0) (10.0 10.0 0.0) (12.5 10.0 0.0)) ("Note\\Pbelow" 2.5 7 (13.125 10.625 0.0)))
+;! LEADER|0,0|-10,10||Note| ;? (own '(71 10)) ;= (9 (-13.125 10.625 0.0))
+;! LEADER|0,0|10,10|20,20|U|F|S|F|N|||N ;? (list (types) (leader '(71 72 73 76))) ;= (("LEADER") (0 1 3 2))
+(door) ;! LEADER|0,0|10,10|||B|Door|2|90 ;? (list (leader '(73)) (own '(0 2 10 41 50))) ;= ((2) ("INSERT" "Door" (10.0 10.0 0.0) 2.0 1.5708))
+;! LEADER|0,0|10,10|||B|Gate ;> Cannot find block "Gate". ;=
+;! LEADER|0,0|10,10|||T|{\Fgdt;p}%%v0.1 ;? (list (leader '(73)) (own '(0 1))) ;= ((1) ("TOLERANCE" "{\\Fgdt;p}%%v0.1"))
+;! LEADER|0,0|10,10||Note| ;? (eq (entnext) (cdr (assoc 330 (cdr (member '(102 . "{ACAD_REACTORS") (entget (entlast))))))) ;= T
+(tilted) ;! LEADER|0,0|10,0||Note| ;? (list (leader '(210 211)) (points)) ;= (((0.0 -1.0 0.0) (1.0 0.0 0.0)) ((0.0 0.0 5.0) (10.0 0.0 5.0)))
+;! QLEADER|0,0|10,10|20,10|30|Note| ;? (own '(0 1 41)) ;= ("MTEXT" "Note" 30.0)
+;! QLEADER|0,0|10,10|||Note| ;? (length (types)) ;= 2
+;! MLEADER|0,0|10,10|Note ;? (list (types) (every 304) (own '(290 172))) ;= (("MULTILEADER") ("Note" "LEADER_LINE{") (1 1))
+;! MLEADER|L|10,10|0,0|Note ;? (points) ;= ((18.0 10.0 0.0) (10.0 10.0 0.0) (0.0 0.0 0.0) (1.0 1.0 1.0))
+;! MLEADER|C|10,10|20,12|Note|30,30 ;? (points) ;= ((2.0 10.0 0.0) (10.0 10.0 0.0) (30.0 30.0 0.0) (1.0 1.0 1.0))
