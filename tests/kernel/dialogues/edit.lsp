@@ -78,5 +78,4 @@
 ;= LINE 10=0,0,0 11=2,0,0; LINE 10=1,1,0 11=2,2,0; LINE 10=0,5,0 11=2,5,0
 (line 0 0 2 0) ;! CHSPACE ;> Only a layout has both spaces. ;= LINE 10=0,0,0 11=2,0,0
 (sheet-port)(entmake '((0 . "LINE") (67 . 1) (10 20.0 20.0 0.0) (11 30.0 20.0 0.0))) ;! CHSPACE|L| ;> scaled by a factor of 2
-(sheet)(entmake '((0 . "LINE") (67 . 1) (10 20.0 20.0 0.0) (11 30.0 20.0 0.0))) ;! CHSPACE|L| ;> scaled by a factor of 2
 ;? (list (getfield 67) (getfield 10) (getfield 11)) ;= (0 (100.0 50.0 0.0) (120.0 50.0 0.0))
