@@ -21,6 +21,7 @@ void addNativeFunctions(lisp::Interpreter &interpreter)
     addTileFunctions(interpreter);
     addTileImageFunctions(interpreter);
     addCoordinateFunctions(interpreter);
+    addCurveFunctions(interpreter);
     addSheetFunctions(interpreter);
     addTextFunctions(interpreter);
     addExtentFunctions(interpreter);

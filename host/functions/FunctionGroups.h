@@ -21,6 +21,7 @@ void addDialogRunFunctions(lisp::Interpreter &interpreter);
 void addTileFunctions(lisp::Interpreter &interpreter);
 void addTileImageFunctions(lisp::Interpreter &interpreter);
 void addCoordinateFunctions(lisp::Interpreter &interpreter);
+void addCurveFunctions(lisp::Interpreter &interpreter);
 void addSheetFunctions(lisp::Interpreter &interpreter);
 void addTextFunctions(lisp::Interpreter &interpreter);
 void addExtentFunctions(lisp::Interpreter &interpreter);
