@@ -1,0 +1,145 @@
+#include "host/commands/Commands.h"
+#include "host/commands/curves/PickedCurve.h"
+#include "host/kernel/documents/Document.h"
+#include "host/kernel/variables/SystemVariables.h"
+
+using namespace Qt::StringLiterals;
+
+namespace host::kernel {
+
+namespace {
+
+using drawing::EntityCurve;
+using drawing::Vec3;
+
+/// What AREA measured, and the sum that Add and Subtract make.
+struct AreaSession
+{
+    enum class Mode
+    {
+        Once,
+        Add,
+        Subtract
+    };
+
+    CommandContext &context;
+    Mode mode = Mode::Once;
+    double total = 0.0;
+
+    QString modeText() const
+    {
+        return mode == Mode::Once ? QString() : mode == Mode::Add ? u"(ADD mode) "_s : u"(SUBTRACT mode) "_s;
+    }
+    void count(double area, double around, const QString &aroundName);
+};
+
+void AreaSession::count(double area, double around, const QString &aroundName)
+{
+    context.print(u"\nArea = %1, %2 = %3"_s.arg(context.shownLength(area), aroundName, context.shownLength(around)));
+    SystemVariables &variables = context.document().variables();
+    if (mode != Mode::Once) {
+        total += mode == Mode::Add ? area : -area;
+        context.print(u"\nTotal area = %1"_s.arg(context.shownLength(total)));
+    }
+    variables.setInternally(u"AREA", mode == Mode::Once ? area : total);
+    variables.setInternally(u"PERIMETER", around);
+}
+
+void countCurve(AreaSession &session, const EntityCurve &curve)
+{
+    if (curve.isEndless() || !curve.isPlanar())
+        return session.context.print(u"\nSelected object does not have an area."_s);
+    const bool isCircle = curve.kind() == EntityCurve::Kind::Circle;
+    session.count(curve.area(), curve.length(),
+                  isCircle           ? u"Circumference"_s
+                  : curve.isClosed() ? u"Perimeter"_s
+                                     : u"Length"_s);
+}
+
+void countCorners(AreaSession &session, const std::vector<Vec3> &corners)
+{
+    if (corners.size() < 3)
+        return;
+    const Vec3 up = userNormal(session.context);
+    const EntityCurve around = EntityCurve::through(corners, true).flattened(up);
+    Vec3 swept;
+    for (const drawing::CurvePiece &piece : around.pieces())
+        swept = swept + piece.sweptArea(around.startPoint());
+    session.count(swept.length() / 2.0, around.length(), u"Perimeter"_s);
+}
+
+/// Corners behind the first one, until an empty answer.
+Dialogue<bool> measureCorners(AreaSession &session, Vec3 first)
+{
+    std::vector<Vec3> corners = {first};
+    for (;;) {
+        const QString prompt = corners.size() < 3 ? u"%1Specify next point or [Undo]: "_s
+                                                  : u"%1Specify next point or [Undo/Total] <Total>: "_s;
+        const PromptReply next = co_await session.context.point(prompt.arg(session.modeText()), {}, corners.back());
+        if (next.isKeyword(u"Undo")) {
+            if (corners.size() > 1)
+                corners.pop_back();
+            continue;
+        }
+        if (!next.hasValue())
+            break;
+        corners.push_back(next.point);
+    }
+    countCorners(session, corners);
+    co_return true;
+}
+
+/// One curve; in the modes that sum as many as are picked.
+Dialogue<bool> measureObjects(AreaSession &session)
+{
+    for (;;) {
+        const PromptReply reply = co_await session.context.entity(session.modeText() + u"Select objects: "_s);
+        if (reply.entities.empty() && !reply.isMiss)
+            co_return true;
+        if (reply.entities.empty())
+            continue;
+        const auto curve = EntityCurve::ofEntity(session.context.drawing(), reply.entities.front());
+        if (curve)
+            countCurve(session, *curve);
+        else
+            session.context.print(u"\nSelected object does not have an area."_s);
+        if (session.mode == AreaSession::Mode::Once)
+            co_return true;
+    }
+}
+
+// Corners, or a curve; with Add area and Subtract area as many as one likes, until an empty answer.
+CommandTask area(CommandContext &context)
+{
+    AreaSession session{context};
+    for (;;) {
+        const bool isOnce = session.mode == AreaSession::Mode::Once;
+        const QString prompt = isOnce ? u"Specify first corner point or [Object/Add area/Subtract area] <Object>: "_s
+                               : session.mode == AreaSession::Mode::Add
+                                   ? u"Specify first corner point or [Object/Subtract area]: "_s
+                                   : u"Specify first corner point or [Object/Add area]: "_s;
+        const PromptReply reply = co_await context.point(prompt, {}, {}, isOnce ? u"Object"_s : QString());
+        if (reply.isEmpty() && !isOnce)
+            co_return;
+        const QString word = reply.kind == ReplyKind::Keyword ? reply.text : QString();
+        if (word.startsWith(u"Add"_s))
+            session.mode = AreaSession::Mode::Add;
+        else if (word.startsWith(u"Subtract"_s))
+            session.mode = AreaSession::Mode::Subtract;
+        else if (reply.hasValue())
+            co_await measureCorners(session, reply.point);
+        else
+            co_await measureObjects(session);
+        if (session.mode == AreaSession::Mode::Once)
+            co_return;
+    }
+}
+
+} // namespace
+
+std::vector<CommandRow> areaCommands()
+{
+    return {{"AREA", area, "measures areas and perimeters of corners and curves"}};
+}
+
+} // namespace host::kernel
