@@ -14,6 +14,9 @@ namespace host::kernel {
 ///     ...
 ///     const std::optional<double> factor = co_await askFactor(context);
 ///
+/// A text that depends on a condition gets a name of its own first: GCC 12 destroys what `c ? a.text : b` makes twice
+/// where it stands within the co_await expression itself.
+///
 /// Its arguments must outlive it: the waiting body holds them. A cancelled prompt destroys it with the body, so what it
 /// holds is let go by destructors and nothing behind the co_await runs. What it throws arrives in the body that waits.
 /// It is waited for once: nothing of it runs until then, and a second time there would be nothing left to take.
