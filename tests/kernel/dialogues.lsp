@@ -146,5 +146,5 @@
 (defun points () (mapcar 'cdr (vl-remove-if-not '(lambda (f) (= (car f) 10)) (entget (entnext)))))
 (defun circle (x y r) (entmake (list '(0 . "CIRCLE") (list 10 (float x) (float y) 0.0) (cons 40 (float r)))))
 (defun arc (x y r a b) (entmake (list '(0 . "ARC") (list 10 (float x) (float y) 0.0) (cons 40 (float r)) (cons 50 (* pi (/ a 180.0))) (cons 51 (* pi (/ b 180.0))))))
-(defun pline (closed points) (entmake (append (list '(0 . "LWPOLYLINE") '(100 . "AcDbEntity") '(100 . "AcDbPolyline") (cons 90 (length points)) (cons 70 closed)) (mapcar '(lambda (p) (cons 10 p)) points))))
+(defun chain (closed points) (entmake (append (list '(0 . "LWPOLYLINE") '(100 . "AcDbEntity") '(100 . "AcDbPolyline") (cons 90 (length points)) (cons 70 closed)) (mapcar '(lambda (p) (cons 10 p)) points))))
 (defun cross () (line -10 0 10 0) (line -2 -5 -2 5) (line 3 -5 3 5))

@@ -4,6 +4,7 @@
 #include "host/commands/Commands.h"
 #include "host/kernel/documents/Document.h"
 #include "host/kernel/documents/Session.h"
+#include "host/kernel/input/InputFeeder.h"
 #include "host/kernel/running/CommandContext.h"
 
 #include <QThread>
@@ -45,11 +46,14 @@ CommandTask nothing(CommandContext &)
     co_return;
 }
 
-/// Milliseconds, in pieces between which the user may stop the run.
+/// Milliseconds, in pieces between which the user may stop the run. Where nobody watches there is nothing to wait for.
 CommandTask delay(CommandContext &context)
 {
     const PromptReply time =
         co_await context.integer(u"Enter delay time (in milliseconds): "_s, {}, {}, NoEmptyAnswer | NoNegative);
+    const InputFeeder *watcher = context.document().session().feeder();
+    if (!watcher || !watcher->isAttended())
+        co_return;
     constexpr int longest = 32767;
     constexpr int piece = 50;
     for (int left = std::min(time.integer, longest); left > 0; left -= piece) {

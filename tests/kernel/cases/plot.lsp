@@ -14,6 +14,6 @@
 (getvar "CTAB") ;= "Model"
 
 ; The sample plots every layout beside the drawing and goes back to where it was
-(setvar "TRUSTEDPATHS" (strcat (getvar "DWGPREFIX") "samples/lisp"))(command "SAVEAS" (strcat dir "plan.dxf"))(command "LAYOUT" "N" "Ground floor" "LAYOUT" "R" "Layout1" "Detail")(load "samples/lisp/plot-layouts.lsp")(princ) ;> PLOTLAYOUTS plots all layouts
+(setq samples (strcat (getenv "ORTAKIT_SOURCE") "/samples/lisp"))(setvar "TRUSTEDPATHS" samples)(command "SAVEAS" (strcat dir "plan.dxf"))(command "LAYOUT" "N" "Ground floor" "LAYOUT" "R" "Layout1" "Detail")(load (strcat samples "/plot-layouts.lsp"))(princ) ;> PLOTLAYOUTS plots all layouts
 (progn (c:plotlayouts) nil) ;> 2 of 2 layouts plotted. ;= nil
 (list (getvar "CTAB") (getvar "CMDECHO") (mapcar '(lambda (n) (if (findfile (strcat dir "plan-" n ".pdf")) T)) '("Ground floor" "Detail"))) ;= ("Model" 1 (T T))

@@ -17,7 +17,7 @@
 (line 0 0 9 0)(lock "0")(on-layer "B") ;! TRIM||5,0| ;~ keeps ;> That object is on a locked layer.
 ;= LINE 10=0,0,0 11=9,0,0; LINE 10=1,1,0 11=2,2,0
 (circle 0 0 5)(line 0 -9 0 9) ;! TRIM||5,0| ;~ keeps ;= LINE 10=0,-9,0 11=0,9,0; ARC 10=0,0,0 40=5 50=90 51=270
-(pline 1 '((0.0 0.0) (8.0 0.0) (8.0 4.0) (0.0 4.0)))(line 4 -9 4 9) ;! TRIM||8,2| ;~ keeps
+(chain 1 '((0.0 0.0) (8.0 0.0) (8.0 4.0) (0.0 4.0)))(line 4 -9 4 9) ;! TRIM||8,2| ;~ keeps
 ;= LWPOLYLINE 10=4,4 10=0,4 10=0,0 10=4,0; LINE 10=4,-9,0 11=4,9,0
 (line 0 0 9 0)(line 3 -5 3 5)(line 6 -5 6 5) ;! TRIM|L||F|8,-1|8,1|| ;~ keeps
 ;= LINE 10=0,0,0 11=6,0,0; LINE 10=3,-5,0 11=3,5,0; LINE 10=6,-5,0 11=6,5,0
@@ -28,7 +28,7 @@
 (line 0 0 4 0)(line 6 -5 6 5)(line 9 -5 9 5) ;! EXTEND||3,0| ;~ keeps ;= LINE 10=0,0,0 11=6,0,0; LINE 10=6,-5,0 11=6,5,0; LINE 10=9,-5,0 11=9,5,0
 (line 0 0 4 0)(line 6 -5 6 5) ;! EXTEND||1,0| ;~ keeps ;> Object does not intersect an edge. ;= LINE 10=0,0,0 11=4,0,0; LINE 10=6,-5,0 11=6,5,0
 (arc 0 0 5 0 45)(line 0 0 0 9) ;! EXTEND|L||3.5355339,3.5355339| ;~ keeps ;= ARC 10=0,0,0 40=5 51=90; LINE 10=0,0,0 11=0,9,0
-(pline 0 '((0.0 0.0) (8.0 0.0) (8.0 4.0)))(line 0 9 9 9) ;! EXTEND|L||8,3| ;~ keeps ;= LWPOLYLINE 10=0,0 10=8,0 10=8,9; LINE 10=0,9,0 11=9,9,0
+(chain 0 '((0.0 0.0) (8.0 0.0) (8.0 4.0)))(line 0 9 9 9) ;! EXTEND|L||8,3| ;~ keeps ;= LWPOLYLINE 10=0,0 10=8,0 10=8,9; LINE 10=0,9,0 11=9,9,0
 (circle 0 0 5)(line 0 -9 0 9) ;! EXTEND||5,0| ;~ keeps ;> Cannot EXTEND this object. ;= CIRCLE 10=0,0,0 40=5; LINE 10=0,-9,0 11=0,9,0
 
 ; Taken apart
@@ -37,7 +37,7 @@
 (line 0 0 9 0) ;! BREAK|3,0|20,1 ;= LINE 10=0,0,0 11=3,0,0
 (circle 0 0 5) ;! BREAK|5,0|0,5 ;= ARC 10=0,0,0 40=5 50=90
 (circle 0 0 5) ;! BREAK|5,0|@ ;> cannot be broken at one point ;= CIRCLE 10=0,0,0 40=5
-(pline 1 '((0.0 0.0) (8.0 0.0) (8.0 4.0) (0.0 4.0))) ;! BREAK|2,0|6,0 ;= LWPOLYLINE 10=6,0 10=8,0 10=8,4 10=0,4 10=0,0 10=2,0
+(chain 1 '((0.0 0.0) (8.0 0.0) (8.0 4.0) (0.0 4.0))) ;! BREAK|2,0|6,0 ;= LWPOLYLINE 10=6,0 10=8,0 10=8,4 10=0,4 10=0,0 10=2,0
 
 ; Longer and shorter, at the end near the pick
 (line 0 0 9 0) ;! LENGTHEN|DE|2|8,0| ;~ keeps ;= LINE 10=0,0,0 11=11,0,0
@@ -51,7 +51,7 @@
 
 ; Points along
 (line 0 0 9 0) ;! DIVIDE|8,0|3 ;= LINE 10=0,0,0 11=9,0,0; POINT 10=3,0,0; POINT 10=6,0,0
-(pline 1 '((0.0 0.0) (8.0 0.0) (8.0 8.0) (0.0 8.0))) ;! DIVIDE|8,2|4 ;= LWPOLYLINE 70=1 10=0,0 10=8,0 10=8,8 10=0,8; POINT 10=0,0,0; POINT 10=8,0,0; POINT 10=8,8,0; POINT 10=0,8,0
+(chain 1 '((0.0 0.0) (8.0 0.0) (8.0 8.0) (0.0 8.0))) ;! DIVIDE|8,2|4 ;= LWPOLYLINE 70=1 10=0,0 10=8,0 10=8,8 10=0,8; POINT 10=0,0,0; POINT 10=8,0,0; POINT 10=8,8,0; POINT 10=0,8,0
 (line 0 0 9 0) ;! MEASURE|8,0|4 ;= LINE 10=0,0,0 11=9,0,0; POINT 10=1,0,0; POINT 10=5,0,0
 (door)(line 0 0 0 9) ;! DIVIDE|0,1|B|Door||2 ;= LINE 10=0,0,0 11=0,9,0; INSERT 2=Door 10=0,4.5,0 50=90
 (door)(line 0 0 0 9) ;! MEASURE|0,1|B|Door|N|5 ;= LINE 10=0,0,0 11=0,9,0; INSERT 2=Door 10=0,5,0
@@ -61,5 +61,5 @@
 (line 0 0 9 0) ;! AREA|0,0|4,0|4,3| ;> Area = 6.0000, Perimeter = 12.0000 ;= LINE 10=0,0,0 11=9,0,0
 (circle 0 0 2) ;! AREA|O|2,0 ;> Area = 12.5664, Circumference = 12.5664 ;= CIRCLE 10=0,0,0 40=2
 (tilted)(line 0 0 9 0) ;! AREA|0,0|4,0|4,3| ;? (list (getvar "AREA") (getvar "PERIMETER")) ;= (6.0 12.0)
-(circle 0 0 2)(pline 1 '((-5.0 -5.0) (5.0 -5.0) (5.0 5.0) (-5.0 5.0))) ;! AREA|A|O|5,0||S|O|2,0|| ;> Total area = 87.4336
+(circle 0 0 2)(chain 1 '((-5.0 -5.0) (5.0 -5.0) (5.0 5.0) (-5.0 5.0))) ;! AREA|A|O|5,0||S|O|2,0|| ;> Total area = 87.4336
 ;= CIRCLE 10=0,0,0 40=2; LWPOLYLINE 70=1 10=-5,-5 10=5,-5 10=5,5 10=-5,5
