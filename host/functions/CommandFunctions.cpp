@@ -4,6 +4,8 @@
 #include "host/kernel/documents/Document.h"
 #include "host/kernel/documents/Session.h"
 #include "host/kernel/input/AnswerFromValue.h"
+#include "host/kernel/input/Keywords.h"
+#include "host/kernel/input/SnapModes.h"
 #include "host/kernel/lisp/LispConversion.h"
 #include "host/kernel/running/CommandRun.h"
 #include "host/kernel/running/CommandStack.h"
@@ -103,6 +105,22 @@ bool mayBeName(const Value &argument)
     return argument.isString() || argument.isNil();
 }
 
+/// Whether a text that a program begins a call with can be no answer to the prompt that still waits, but names a
+/// command: (command "FILLET" "R" 2) leaves FILLET asking for entities, and programs begin it anew all the same.
+bool beginsAnother(const CommandRun &waiting, const Value &argument)
+{
+    const PromptRequest &request = waiting.request();
+    if (!argument.isString() || request.kind == PromptKind::String || (request.bits & AnyText) != 0)
+        return false;
+    const QString text = fromUtf8(argument.asString());
+    if (text.startsWith(u'\'') || !CommandTable::find(text))
+        return false;
+    // Behind a dot stands a command's name and nothing else; other words may be options, snaps or ways to choose.
+    const bool isNameAlone = text.startsWith(u'.') || text.startsWith(QStringLiteral("_."));
+    return isNameAlone || (request.kind != PromptKind::Selection && !matchKeyword(text, request.keywords) &&
+                           !parseSnapModes(text));
+}
+
 enum class Ending
 {
     Done,          ///< or the command waits for more
@@ -117,6 +135,8 @@ Ending runArguments(Arguments &args)
     Document &document = documentOf(args);
     document.prompts().refuseInDialog();
     Ending ending = Ending::Done;
+    if (args.size() > 0 && document.pendingCommand() && beginsAnother(*document.pendingCommand(), args[0]))
+        document.takePendingCommand();
     for (std::size_t i = 0; i < args.size(); ++i) {
         bool isLost = false;
         if (document.pendingCommand())

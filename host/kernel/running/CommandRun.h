@@ -33,6 +33,8 @@ public:
     bool isCancelled() const { return m_isCancelled; }
     /// Ended without having done what it was asked for: it did not take an answer, or said why it cannot.
     bool hasFailed() const { return m_context.hasFailed(); }
+    /// The prompt it waits at, or that of a command in the middle of it. Not to be asked when it is done.
+    const PromptRequest &request() const { return m_inside ? m_inside->request() : m_dialogue->request(); }
     /// An answer to the prompt it waits at, as a Lisp program gives it. One that the prompt does not take ends the
     /// command, and what it did is taken back. One that calls another command in the middle of the prompt has the
     /// answers behind it go there until that has ended.

@@ -120,3 +120,9 @@ a ;! (setq a (+ 1 2))\n!a\n ;> \n3 ;= 3
 (command "_.DRAWORDER" (e 5) "" "_Under" (e 1) (e 2) "")(order) ;= "45123"
 (entmake '((0 . "POINT") (10 6 0 0)))(entdel (e 1))(order) ;= "45236"
 (command "_.UNDO" 2)(order) ;= "41523"
+
+; A command's name ends the one that still asks for something else, as older programs expect
+(progn (command "_.ERASE" "_All" "") (command "LINE" '(0 0) '(9 0) "" "LINE" '(0 0) '(0 9) "") (setq b (entlast) a (entnext)) (command "FILLET" "R" 2) (command "FILLET" (list a '(8 0)) (list b '(0 8))) (list (getvar "FILLETRAD") (cdr (assoc 0 (entget (entlast)))))) ;= (2.0 "ARC")
+(progn (command "_.LINE" '(1 1) '(2 2)) (command "CIRCLE" '(5 5) 1) (list (getvar "CMDACTIVE") (cdr (assoc 0 (entget (entlast)))))) ;= (0 "CIRCLE")
+(progn (command "_.TEXT" '(0 0) 1 0) (command "CIRCLE") (cdr (assoc 1 (entget (entlast))))) ;= "CIRCLE"
+(progn (command "_.ERASE") (command "All" "") (getvar "CMDACTIVE")) ;= 0
