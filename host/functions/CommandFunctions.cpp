@@ -117,8 +117,8 @@ bool beginsAnother(const CommandRun &waiting, const Value &argument)
         return false;
     // Behind a dot stands a command's name and nothing else; other words may be options, snaps or ways to choose.
     const bool isNameAlone = text.startsWith(u'.') || text.startsWith(QStringLiteral("_."));
-    return isNameAlone || (request.kind != PromptKind::Selection && !matchKeyword(text, request.keywords) &&
-                           !parseSnapModes(text));
+    return isNameAlone ||
+           (request.kind != PromptKind::Selection && !matchKeyword(text, request.keywords) && !parseSnapModes(text));
 }
 
 enum class Ending
