@@ -80,18 +80,7 @@ void DrawingCanvas::setTransform(const view::ViewTransform &transform)
 
 bool DrawingCanvas::wantsPoint() const
 {
-    if (!m_request)
-        return false;
-    switch (m_request->kind) {
-    case PromptKind::Distance:
-    case PromptKind::Angle:
-    case PromptKind::Orientation:
-    case PromptKind::Point:
-    case PromptKind::Corner:
-        return true;
-    default:
-        return false;
-    }
+    return m_request && takesPoints(m_request->kind);
 }
 
 int DrawingCanvas::pickReach() const

@@ -29,15 +29,10 @@ Dialogue<TextStyle> askStyleName(CommandContext &context)
 {
     for (;;) {
         const QString usual = context.document().variables().text(u"TEXTSTYLE");
-        const PromptReply reply =
-            co_await context.text(u"Enter name of text style or [?] <%1>: "_s.arg(usual), usual, u"?"_s);
-        if (reply.isKeyword(u"?")) {
-            const PromptReply pattern = co_await context.text(u"Enter text style(s) to list <*>: "_s, u"*"_s);
-            listTextStyles(context, pattern.hasValue() ? pattern.text.trimmed() : u"*"_s);
+        const QString name = co_await askTextStyleName(context, u"Enter name of text style"_s);
+        if (name.isEmpty())
             co_return TextStyle();
-        }
-        const QString name = reply.hasValue() ? reply.text.trimmed() : usual;
-        if (name.isEmpty() || name.contains(QRegularExpression(u"[<>/\\\\\":;?*|,=`]"_s))) {
+        if (name.contains(QRegularExpression(u"[<>/\\\\\":;?*|,=`]"_s))) {
             if (context.refuse(u"Invalid style name."_s))
                 co_return TextStyle();
             continue;

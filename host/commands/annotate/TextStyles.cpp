@@ -32,23 +32,26 @@ void listTextStyles(CommandContext &context, const QString &pattern)
     }
 }
 
+Dialogue<QString> askTextStyleName(CommandContext &context, QString prompt)
+{
+    const QString current = context.document().variables().text(u"TEXTSTYLE");
+    const PromptReply name = co_await context.text(u"%1 or [?] <%2>: "_s.arg(prompt, current), current, u"?"_s);
+    if (!name.isKeyword(u"?"))
+        co_return name.hasValue() ? name.text.trimmed() : current;
+    const PromptReply pattern = co_await context.text(u"Enter text style(s) to list <*>: "_s, u"*"_s);
+    listTextStyles(context, pattern.hasValue() ? pattern.text.trimmed() : u"*"_s);
+    co_return QString();
+}
+
 Dialogue<bool> askTextStyle(CommandContext &context)
 {
-    for (;;) {
-        const QString current = context.document().variables().text(u"TEXTSTYLE");
-        const PromptReply name =
-            co_await context.text(u"Enter style name or [?] <%1>: "_s.arg(current), current, u"?"_s);
-        if (name.isKeyword(u"?")) {
-            const PromptReply pattern = co_await context.text(u"Enter text style(s) to list <*>: "_s, u"*"_s);
-            listTextStyles(context, pattern.hasValue() ? pattern.text.trimmed() : u"*"_s);
-            continue;
-        }
-        const QString wanted = name.hasValue() ? name.text.trimmed() : current;
-        const bool isKnown = context.document().variables().set(u"TEXTSTYLE", wanted) == SetOutcome::Done;
-        if (!isKnown)
-            context.fail(u"Cannot find text style \"%1\"."_s.arg(wanted));
-        co_return isKnown;
-    }
+    QString wanted;
+    while (wanted.isEmpty())
+        wanted = co_await askTextStyleName(context, u"Enter style name"_s);
+    const bool isKnown = context.document().variables().set(u"TEXTSTYLE", wanted) == SetOutcome::Done;
+    if (!isKnown)
+        context.fail(u"Cannot find text style \"%1\"."_s.arg(wanted));
+    co_return isKnown;
 }
 
 } // namespace host::kernel

@@ -38,6 +38,7 @@ CurveVertices heavyVertices(const Drawing &drawing, RecordId entity, const TagLi
     polyline.isClosed = (flags & FlagClosed) != 0;
     polyline.isSpatial = (flags & Flag3d) != 0;
     polyline.extrusion = polyline.isSpatial ? polyline.extrusion : tags.point(210, polyline.extrusion);
+    // Some programs say the height in the vertices alone.
     const double elevation = tags.point(10).z;
     for (const RecordId child : drawing.children(entity)) {
         const TagList vertex = drawing.tags(child);
@@ -47,7 +48,7 @@ CurveVertices heavyVertices(const Drawing &drawing, RecordId entity, const TagLi
         if (polyline.isSpatial)
             polyline.vertices.push_back({point});
         else
-            polyline.vertices.push_back({{point.x, point.y, elevation},
+            polyline.vertices.push_back({{point.x, point.y, elevation != 0.0 ? elevation : point.z},
                                          vertex.real(42),
                                          vertex.real(40, tags.real(40)),
                                          vertex.real(41, tags.real(41))});

@@ -1,17 +1,10 @@
+#include "host/drawing/curves/CurveVertices.h"
 #include "host/drawing/geometry/EntityOutlines.h"
 #include "host/drawing/records/PolylineFlags.h"
 
 namespace host::drawing {
 
 namespace {
-
-struct Vertex
-{
-    Vec3 point;
-    double bulge = 0.0;
-    double startWidth = 0.0;
-    double endWidth = 0.0;
-};
 
 void addWideStretch(OutlineSink &sink, const Path &path, double startWidth, double endWidth)
 {
@@ -31,15 +24,15 @@ void addWideStretch(OutlineSink &sink, const Path &path, double startWidth, doub
     }
 }
 
-void addVertices(OutlineSink &sink, const std::vector<Vertex> &vertices, bool isClosed)
+void addVertices(OutlineSink &sink, const std::vector<CurveVertex> &vertices, bool isClosed)
 {
     if (vertices.empty())
         return;
     Path whole{vertices.front().point};
     const size_t stretches = isClosed ? vertices.size() : vertices.size() - 1;
     for (size_t i = 0; i < stretches; ++i) {
-        const Vertex &from = vertices[i];
-        const Vertex &to = vertices[(i + 1) % vertices.size()];
+        const CurveVertex &from = vertices[i];
+        const CurveVertex &to = vertices[(i + 1) % vertices.size()];
         const size_t first = whole.size() - 1;
         appendBulge(whole, from.point, to.point, from.bulge, sink.flatness());
         if (from.startWidth > 0.0 || from.endWidth > 0.0)
@@ -49,26 +42,11 @@ void addVertices(OutlineSink &sink, const std::vector<Vertex> &vertices, bool is
     sink.add(whole);
 }
 
-void outlineOfLightPolyline(OutlineSink &sink, const TagList &tags)
+void outlineOfFlatOrSpatial(OutlineSink &sink, const CurveVertices &polyline)
 {
-    const double elevation = tags.real(38);
-    const double width = tags.real(43);
-    std::vector<Vertex> vertices;
-    for (size_t i = 0; i < tags.size(); ++i) {
-        const Tag &tag = tags[i];
-        if (tag.code == 10) {
-            const Vec3 point = tags.pointAt(i);
-            vertices.push_back({{point.x, point.y, elevation}, 0.0, width, width});
-        } else if (!vertices.empty() && tag.code == 42) {
-            vertices.back().bulge = tag.real().value_or(0.0);
-        } else if (!vertices.empty() && tag.code == 40) {
-            vertices.back().startWidth = tag.real().value_or(0.0);
-        } else if (!vertices.empty() && tag.code == 41) {
-            vertices.back().endWidth = tag.real().value_or(0.0);
-        }
-    }
-    sink.useExtrusion(tags.point(210, {0, 0, 1}));
-    addVertices(sink, vertices, (tags.integer(70) & FlagClosed) != 0);
+    if (!polyline.isSpatial)
+        sink.useExtrusion(polyline.extrusion);
+    addVertices(sink, polyline.vertices, polyline.isClosed);
 }
 
 void outlineOfMesh(OutlineSink &sink, const Path &points, const TagList &tags)
@@ -114,48 +92,33 @@ void addFace(OutlineSink &sink, const Path &points, const TagList &face)
     }
 }
 
-void outlineOfOldPolyline(OutlineSink &sink, const Drawing &drawing, RecordId polyline, const TagList &tags)
+void outlineOfMeshOrFaces(OutlineSink &sink, const Drawing &drawing, RecordId polyline, const TagList &tags)
 {
-    const qint64 flags = tags.integer(70);
-    const bool isFlat = (flags & (Flag3d | FlagMesh | FlagFaces)) == 0;
-    const Vec3 elevation{0.0, 0.0, tags.point(10).z};
-    std::vector<Vertex> vertices;
+    const bool isMesh = (tags.integer(70) & FlagMesh) != 0;
     Path points;
     std::vector<RecordId> faces;
     for (const RecordId child : drawing.children(polyline)) {
         const TagList vertex = drawing.tags(child);
-        const qint64 vertexFlags = vertex.integer(70);
-        if ((flags & FlagFaces) != 0 && (vertexFlags & FlagFaceRecord) != 0 && (vertexFlags & FlagMeshVertex) == 0) {
+        const qint64 flags = vertex.integer(70);
+        if (!isMesh && (flags & FlagFaceRecord) != 0 && (flags & FlagMeshVertex) == 0)
             faces.push_back(child);
-            continue;
-        }
-        if ((vertexFlags & FlagFrameControl) != 0)
-            continue;
-        const Vec3 point = vertex.point(10, isFlat ? elevation : Vec3{});
-        points.push_back(point);
-        vertices.push_back({point, isFlat ? vertex.real(42) : 0.0, isFlat ? vertex.real(40, tags.real(40)) : 0.0,
-                            isFlat ? vertex.real(41, tags.real(41)) : 0.0});
+        else if ((flags & FlagFrameControl) == 0)
+            points.push_back(vertex.point(10));
     }
-    if ((flags & FlagMesh) != 0)
+    if (isMesh)
         return outlineOfMesh(sink, points, tags);
     for (const RecordId face : faces)
         addFace(sink, points, drawing.tags(face));
-    if ((flags & FlagFaces) != 0)
-        return;
-    if (isFlat)
-        sink.useExtrusion(tags.point(210, {0, 0, 1}));
-    addVertices(sink, vertices, (flags & FlagClosed) != 0);
 }
 
 } // namespace
 
 bool outlineOfPolyline(OutlineSink &sink, const Drawing &drawing, RecordId entity, const TagList &tags)
 {
-    const bool isLight = drawing.isType(entity, "LWPOLYLINE");
-    if (isLight)
-        outlineOfLightPolyline(sink, tags);
+    if (const std::optional<CurveVertices> polyline = polylineVertices(drawing, entity))
+        outlineOfFlatOrSpatial(sink, *polyline);
     else if (drawing.isType(entity, "POLYLINE"))
-        outlineOfOldPolyline(sink, drawing, entity, tags);
+        outlineOfMeshOrFaces(sink, drawing, entity, tags);
     else
         return false;
     return true;

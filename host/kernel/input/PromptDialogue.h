@@ -65,7 +65,6 @@ private:
         Script,
         Program
     };
-    bool takesPoints() const;
     bool takePointWord(const QString &text);
     bool lockDirection(const QString &text);
     bool takeSnapWord(const QString &text);

@@ -43,28 +43,14 @@ bool isOrthoOn(const SystemVariables &variables)
 
 PromptDialogue::Reading PromptDialogue::read(const PointAnswer &answer)
 {
-    if (!takesPoints() && m_request.kind != PromptKind::Entity && m_request.kind != PromptKind::Selection)
+    if (!takesPoints(m_request.kind) && m_request.kind != PromptKind::Entity && m_request.kind != PromptKind::Selection)
         return refuse();
     return takeGiven(answer.point, answer.isByHand ? Origin::Pointer : Origin::Program);
 }
 
-bool PromptDialogue::takesPoints() const
-{
-    switch (m_request.kind) {
-    case PromptKind::Distance:
-    case PromptKind::Angle:
-    case PromptKind::Orientation:
-    case PromptKind::Point:
-    case PromptKind::Corner:
-        return true;
-    default:
-        return false;
-    }
-}
-
 bool PromptDialogue::takePointWord(const QString &text)
 {
-    if (!takesPoints() || !(m_assembly.takeWord(text) || lockDirection(text)))
+    if (!takesPoints(m_request.kind) || !(m_assembly.takeWord(text) || lockDirection(text)))
         return false;
     askForPart();
     return true;
@@ -73,7 +59,7 @@ bool PromptDialogue::takePointWord(const QString &text)
 bool PromptDialogue::takeSnapWord(const QString &text)
 {
     const bool picks = m_request.kind == PromptKind::Entity || m_request.kind == PromptKind::Selection;
-    const std::optional<int> kinds = takesPoints() || picks ? parseSnapModes(text) : std::nullopt;
+    const std::optional<int> kinds = takesPoints(m_request.kind) || picks ? parseSnapModes(text) : std::nullopt;
     if (!kinds)
         return false;
     m_snaps = kinds;

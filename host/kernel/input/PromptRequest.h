@@ -31,6 +31,13 @@ enum class PromptKind
     Event      ///< whatever is done next with pointer and keys; nothing of it is echoed or checked
 };
 
+/// Whether a point answers it, or the first of two.
+constexpr bool takesPoints(PromptKind kind)
+{
+    return kind == PromptKind::Distance || kind == PromptKind::Angle || kind == PromptKind::Orientation ||
+           kind == PromptKind::Point || kind == PromptKind::Corner;
+}
+
 /// Option bits of a request, as (initget) has them.
 enum InputBit : int
 {
