@@ -89,23 +89,31 @@ Dialogue<bool> measureCorners(AreaSession &session, Vec3 first)
     co_return true;
 }
 
-/// One curve; in the modes that sum as many as are picked.
+void countEntity(AreaSession &session, drawing::RecordId entity)
+{
+    const auto curve = EntityCurve::ofEntity(session.context.drawing(), entity);
+    if (curve)
+        countCurve(session, *curve);
+    else
+        session.context.print(u"\nSelected object does not have an area."_s);
+}
+
+/// One curve; in the modes that sum a whole selection.
 Dialogue<bool> measureObjects(AreaSession &session)
 {
-    for (;;) {
-        const PromptReply reply = co_await session.context.entity(session.modeText() + u"Select objects: "_s);
-        if (reply.entities.empty() && !reply.isMiss)
-            co_return true;
-        if (reply.entities.empty())
-            continue;
-        const auto curve = EntityCurve::ofEntity(session.context.drawing(), reply.entities.front());
-        if (curve)
-            countCurve(session, *curve);
-        else
-            session.context.print(u"\nSelected object does not have an area."_s);
-        if (session.mode == AreaSession::Mode::Once)
-            co_return true;
+    const QString prompt = session.modeText() + u"Select objects: "_s;
+    if (session.mode != AreaSession::Mode::Once) {
+        const PromptReply chosen = co_await session.context.selection(prompt);
+        for (const drawing::RecordId entity : chosen.entities)
+            countEntity(session, entity);
+        co_return true;
     }
+    PromptReply reply = co_await session.context.entity(prompt);
+    while (reply.isMiss)
+        reply = co_await session.context.entity(prompt);
+    if (!reply.entities.empty())
+        countEntity(session, reply.entities.front());
+    co_return true;
 }
 
 // Corners, or a curve; with Add area and Subtract area as many as one likes, until an empty answer.

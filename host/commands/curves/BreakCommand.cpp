@@ -21,15 +21,13 @@ bool goesRound(const EntityCurve &curve)
     return curve.isClosed() && (kind == EntityCurve::Kind::Circle || kind == EntityCurve::Kind::Ellipse);
 }
 
-/// What is left without the part between two parameters. Of circles and ellipses the part goes counter-clockwise from
-/// the first to the second; of other curves the order does not matter.
+/// What is left without the part between two parameters. Of closed curves the part goes from the first to the second,
+/// counter-clockwise on circles and ellipses and as others run; of open ones the order does not matter.
 std::vector<std::pair<double, double>> partsBeside(const EntityCurve &curve, double first, double second)
 {
-    if (goesRound(curve))
+    if (curve.isClosed())
         return {{second, first}};
     const auto [low, high] = std::minmax(first, second);
-    if (curve.isClosed())
-        return {{high, low}};
     const double start = curve.startParameter();
     const double end = curve.endParameter();
     const auto hasExtent = [&](double from, double to) {

@@ -6,8 +6,8 @@ using drawing::EntityCurve;
 using drawing::RecordId;
 using drawing::Vec3;
 
-CuttingEdges::CuttingEdges(CommandContext &context, std::vector<RecordId> edges)
-    : m_context(context), m_edges(std::move(edges))
+CuttingEdges::CuttingEdges(CommandContext &context, const std::vector<RecordId> &edges)
+    : m_context(context), m_edges(edges.begin(), edges.end())
 {
 }
 
@@ -44,9 +44,9 @@ void CuttingEdges::look()
 
 void CuttingEdges::changed(RecordId entity, const std::vector<RecordId> &made)
 {
-    if (std::ranges::find(m_edges, entity) == m_edges.end())
+    if (!m_edges.contains(entity))
         return;
-    m_edges.insert(m_edges.end(), made.begin(), made.end());
+    m_edges.insert(made.begin(), made.end());
     constexpr size_t fewChanges = 64; // above which all are looked up again
     if (m_changed.size() >= fewChanges)
         return forget();
@@ -60,6 +60,19 @@ void CuttingEdges::changed(RecordId entity, const std::vector<RecordId> &made)
     note(entity);
     for (const RecordId id : made)
         note(id);
+}
+
+std::vector<double> CuttingEdges::onAndWithin(RecordId entity, const EntityCurve &curve)
+{
+    std::vector<double> found = on(entity, curve);
+    if (!m_edges.contains(entity))
+        return found;
+    for (const drawing::CurveCrossing &crossing : drawing::selfCrossings(prepared(curve, false))) {
+        found.push_back(crossing.first);
+        found.push_back(crossing.second);
+    }
+    std::ranges::sort(found);
+    return found;
 }
 
 std::vector<double> CuttingEdges::on(RecordId entity, const EntityCurve &curve)

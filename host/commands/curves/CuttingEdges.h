@@ -4,6 +4,7 @@
 #include "host/drawing/curves/Crossings.h"
 
 #include <map>
+#include <set>
 
 namespace host::kernel {
 
@@ -19,7 +20,7 @@ public:
         View  ///< from where the view looks: from above
     };
 
-    CuttingEdges(CommandContext &context, std::vector<drawing::RecordId> edges);
+    CuttingEdges(CommandContext &context, const std::vector<drawing::RecordId> &edges);
 
     /// With EDGEMODE edges count as far as they can be extended.
     void set(Projection projection, bool areExtended);
@@ -29,13 +30,15 @@ public:
 
     /// The parameters, sorted, at which a curve meets the edges, itself left out.
     std::vector<double> on(drawing::RecordId entity, const drawing::EntityCurve &curve);
+    /// Those too at which it crosses itself, if it is an edge.
+    std::vector<double> onAndWithin(drawing::RecordId entity, const drawing::EntityCurve &curve);
 
 private:
     drawing::EntityCurve prepared(const drawing::EntityCurve &curve, bool isEdge) const;
     void look();
 
     CommandContext &m_context;
-    std::vector<drawing::RecordId> m_edges;
+    std::set<drawing::RecordId> m_edges;
     Projection m_projection = Projection::User;
     bool m_areExtended = false;
     std::optional<drawing::CurveCrosser> m_crosser; ///< of those that did not change since

@@ -10,7 +10,6 @@ namespace host::kernel {
 namespace {
 
 using drawing::EntityCurve;
-using drawing::RecordId;
 
 /// How the new length is given.
 struct LengthChange
@@ -102,12 +101,12 @@ bool mayBeLengthened(CommandContext &context, const EntityCurve &curve)
 /// Picks curves to be changed until an empty answer. Undo takes the last one back.
 Dialogue<bool> changeLengths(CommandContext &context, LengthChange change)
 {
-    std::vector<std::pair<RecordId, drawing::FieldList>> steps;
+    std::vector<CurveStep> steps;
     for (;;) {
         const CurveAnswer answer =
             co_await askCurve(context, u"Select an object to change or [Undo]: "_s, u"LENGTHEN"_s);
         if (answer.reply.isKeyword(u"Undo") && !steps.empty()) {
-            context.drawing().setFields(steps.back().first, steps.back().second);
+            takeBack(context, steps.back());
             steps.pop_back();
         }
         if (!answer.picked && answer.reply.kind != ReplyKind::Keyword)
@@ -122,9 +121,9 @@ Dialogue<bool> changeLengths(CommandContext &context, LengthChange change)
         } else if (const std::optional<double> length = newLength(picked.curve, change)) {
             range = rangeOfLength(picked.curve, *length, picked.isNearStart());
         }
-        drawing::FieldList before = context.drawing().fields(picked.entity);
-        if (range && replaceByParts(context, picked.entity, {*range}))
-            steps.emplace_back(picked.entity, std::move(before));
+        CurveStep step{picked.entity, context.drawing().fields(picked.entity), {}};
+        if (range && replaceByParts(context, picked.entity, {*range}, &step.made))
+            steps.push_back(std::move(step));
         else
             context.print(u"\nThe object cannot have that length."_s);
     }

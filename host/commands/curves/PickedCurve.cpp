@@ -87,4 +87,13 @@ bool replaceByParts(CommandContext &context, RecordId entity, const std::vector<
     return isValid(first);
 }
 
+void takeBack(CommandContext &context, const CurveStep &step)
+{
+    for (const RecordId id : step.made)
+        context.drawing().setErased(id, true);
+    if (context.drawing().isErased(step.entity))
+        context.drawing().setErased(step.entity, false);
+    context.drawing().setFields(step.entity, step.before);
+}
+
 } // namespace host::kernel

@@ -42,4 +42,13 @@ bool replaceByParts(CommandContext &context, drawing::RecordId entity,
                     const std::vector<std::pair<double, double>> &parts,
                     std::vector<drawing::RecordId> *made = nullptr);
 
+/// A change of one curve that the user may take back while the command still runs.
+struct CurveStep
+{
+    drawing::RecordId entity = drawing::noRecord;
+    drawing::FieldList before;
+    std::vector<drawing::RecordId> made; ///< what came beside it or in its place
+};
+void takeBack(CommandContext &context, const CurveStep &step);
+
 } // namespace host::kernel

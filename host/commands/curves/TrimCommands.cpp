@@ -24,13 +24,7 @@ struct TrimSession
     CuttingEdges edges;
     bool isExtending;
 
-    struct Step
-    {
-        RecordId entity;
-        drawing::FieldList before;
-        std::vector<RecordId> made;
-    };
-    std::vector<Step> steps;
+    std::vector<CurveStep> steps;
 
     QString verb() const { return isExtending ? u"EXTEND"_s : u"TRIM"_s; }
     bool apply(const PickedCurve &picked);
@@ -112,7 +106,7 @@ bool TrimSession::apply(const PickedCurve &picked)
     }
     const std::optional<Parts> parts =
         isExtending ? partExtended(*this, picked)
-                    : partsLeft(picked.curve, edges.on(picked.entity, picked.curve), picked.parameter);
+                    : partsLeft(picked.curve, edges.onAndWithin(picked.entity, picked.curve), picked.parameter);
     if (!parts) {
         context.print(u"\nObject does not intersect an edge."_s);
         return false;
@@ -137,13 +131,8 @@ void TrimSession::undo()
 {
     if (steps.empty())
         return context.print(u"\nCommand has been completely undone."_s);
-    const Step step = std::move(steps.back());
+    takeBack(context, steps.back());
     steps.pop_back();
-    for (const RecordId id : step.made)
-        context.drawing().setErased(id, true);
-    if (context.drawing().isErased(step.entity))
-        context.drawing().setErased(step.entity, false);
-    context.drawing().setFields(step.entity, step.before);
     edges.forget();
 }
 
