@@ -216,9 +216,8 @@ void appendSlice(const CurveVertices &raw, const OffsetSlice &slice, std::vector
 }
 
 /// Whether a part goes forth and back on one line to where it began, as stretches do that overlap at a small turn.
-bool isSliver(const EntityCurve &raw, double from, double to)
+bool isSliver(const EntityCurve &raw, double from, double to, double reach)
 {
-    const double reach = 10.0 * raw.tolerance();
     const Vec2 start = raw.point(from).xy();
     const Vec2 along = raw.firstDerivative(from).xy();
     const auto isOnLine = [&](double share) {
@@ -229,7 +228,7 @@ bool isSliver(const EntityCurve &raw, double from, double to)
 }
 
 /// The parts that are nowhere too near.
-std::vector<OffsetSlice> farSlices(const EntityCurve &raw, const EntityCurve &original, double distance)
+std::vector<OffsetSlice> farSlices(const EntityCurve &raw, const EntityCurve &original, double distance, double reach)
 {
     std::vector<double> cuts = {raw.startParameter(), raw.endParameter()};
     for (const drawing::CurveCrossing &crossing : drawing::selfCrossings(raw)) {
@@ -246,7 +245,7 @@ std::vector<OffsetSlice> farSlices(const EntityCurve &raw, const EntityCurve &or
         if (!(width > 1e-9))
             continue;
         const auto isFar = [&](double share) { return !away.isWithin(raw.point(cuts[i - 1] + width * share), least); };
-        if (isFar(0.5) && isFar(0.25) && isFar(0.75) && !isSliver(raw, cuts[i - 1], cuts[i]))
+        if (isFar(0.5) && isFar(0.25) && isFar(0.75) && !isSliver(raw, cuts[i - 1], cuts[i], reach))
             slices.push_back({cuts[i - 1], cuts[i], raw.point(cuts[i - 1]).xy(), raw.point(cuts[i]).xy()});
     }
     return slices;
@@ -328,7 +327,7 @@ std::vector<CurveVertices> offsetPolyline(const CurveVertices &polyline, double 
         return {};
     const EntityCurve curve = drawing::polylineCurve(raw);
     const double reach = 10.0 * curve.tolerance();
-    const std::vector<OffsetSlice> slices = farSlices(curve, drawing::polylineCurve(flat), distance);
+    const std::vector<OffsetSlice> slices = farSlices(curve, drawing::polylineCurve(flat), distance, reach);
     std::vector<CurveVertices> made = chained(raw, withoutDoubles(curve, slices, reach), reach);
     for (CurveVertices &chain : made)
         chain.extrusion = polyline.extrusion;

@@ -49,9 +49,10 @@ std::optional<Parts> partsLeft(const EntityCurve &curve, const std::vector<doubl
 {
     const double start = curve.startParameter();
     const double end = curve.endParameter();
+    const double tolerance = curve.tolerance(); // a pass over the curve
     const auto isAtEnd = [&](double cut) {
         const auto isNear = [&](double limit) {
-            return std::isfinite(limit) && (curve.point(cut) - curve.point(limit)).length() <= curve.tolerance();
+            return std::isfinite(limit) && (curve.point(cut) - curve.point(limit)).length() <= tolerance;
         };
         return !curve.isClosed() && (isNear(start) || isNear(end));
     };
@@ -83,11 +84,12 @@ std::optional<Parts> partExtended(TrimSession &session, const PickedCurve &picke
     const EntityCurve longer = curve.extended(atStart ? Extension::Start : Extension::End);
     const double start = curve.startParameter();
     const double end = curve.endParameter();
+    const double tolerance = curve.tolerance();
     std::optional<double> nearest;
     for (const double cut : session.edges.on(picked.entity, longer)) {
         const bool isBeyond = atStart ? cut < start : cut > end;
         const Vec3 limit = atStart ? curve.startPoint() : curve.endPoint();
-        if (!isBeyond || (longer.point(cut) - limit).length() <= curve.tolerance())
+        if (!isBeyond || (longer.point(cut) - limit).length() <= tolerance)
             continue;
         if (!nearest || (atStart ? cut > *nearest : cut < *nearest))
             nearest = cut;
