@@ -135,6 +135,19 @@ TEST_F(Bench, aDrawingThatKeepsNoDrawOrderSaysSo)
     EXPECT_FALSE(document().isModified());
 }
 
+TEST_F(Bench, anOldDrawingGetsBoundariesOfItsOwnForm)
+{
+    session.documents().open(
+        write("old.dxf", ortakit::test::dxfText("0 SECTION 2 ENTITIES 0 CIRCLE 8 0 10 1 20 2 40 5 0 ENDSEC 0 EOF")));
+    document().setView({});
+    const QByteArray before = drawing().toBytes();
+    lisp("(command \"_.-BOUNDARY\" \"1,2\" \"\")");
+    EXPECT_EQ(lisp(entityTypes), "(\"CIRCLE\" \"POLYLINE\" \"VERTEX\" \"VERTEX\" \"SEQEND\")");
+    EXPECT_EQ(lisp("(equal (vlax-curve-getArea (entlast)) (* 25.0 pi) 1e-6)"), "T");
+    lisp("(command \"_.U\")");
+    EXPECT_EQ(drawing().toBytes(), before);
+}
+
 TEST_F(Bench, aScriptIsReadWhereTheNextAnswersCome)
 {
     write("draw.scr", "; two shapes\nline 0,0 1,0 \ncircle 5,5\n2\n");

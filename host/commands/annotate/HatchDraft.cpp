@@ -1,5 +1,6 @@
 #include "host/commands/annotate/HatchDraft.h"
 
+#include "host/commands/common/FlatPolyline.h"
 #include "host/drawing/hatching/HatchLoops.h"
 #include "host/drawing/math/Angles.h"
 #include "host/drawing/records/HeaderVariables.h"
@@ -263,7 +264,7 @@ int createBoundaryPolylines(CommandContext &context, const Boundary &boundary)
             if (corner.bulge != 0.0)
                 fields.push_back({42, corner.bulge});
         }
-        made += isValid(context.create(plane.placed(std::move(fields)))) ? 1 : 0;
+        made += isValid(createFlatPolyline(context, plane.placed(std::move(fields)))) ? 1 : 0;
     }
     return made;
 }

@@ -1,5 +1,6 @@
 #include "host/commands/Commands.h"
 #include "host/commands/common/EntityEdits.h"
+#include "host/commands/common/FlatPolyline.h"
 #include "host/commands/common/UserPlane.h"
 #include "host/drawing/editing/BlockClip.h"
 #include "host/drawing/geometry/EntityGeometry.h"
@@ -135,7 +136,7 @@ void drawBoundaries(CommandContext &context, const std::vector<RecordId> &refere
         fields.push_back({38, plane.objectFromWorld(boundary.front()).z});
         for (const Vec3 &corner : boundary)
             fields.push_back({10, plane.objectFromWorld(corner).xy()});
-        context.create(plane.placed(std::move(fields)));
+        createFlatPolyline(context, plane.placed(std::move(fields)));
     }
 }
 

@@ -1,6 +1,7 @@
 #include "host/commands/draw/PolylineDraft.h"
 
 #include "host/commands/common/CircleGeometry.h"
+#include "host/commands/common/FlatPolyline.h"
 #include "host/commands/common/UserPlane.h"
 #include "host/kernel/documents/Document.h"
 #include "host/kernel/running/CommandContext.h"
@@ -30,18 +31,6 @@ FieldList lightPolyline(const PolylineDraft &draft, const std::vector<Vec3> &poi
         fields.push_back({42, draft.vertices[i].bulge});
     }
     return fields;
-}
-
-std::vector<FieldList> heavyVertices(const PolylineDraft &draft, const std::vector<Vec3> &points)
-{
-    std::vector<FieldList> children;
-    for (std::size_t i = 0; i < points.size(); ++i)
-        children.push_back({{0, u"VERTEX"_s},
-                            {10, points[i]},
-                            {40, draft.vertices[i].startWidth},
-                            {41, draft.vertices[i].endWidth},
-                            {42, draft.vertices[i].bulge}});
-    return children;
 }
 
 } // namespace
@@ -101,17 +90,7 @@ void createPolyline(CommandContext &context, const PolylineDraft &draft)
     std::vector<Vec3> points;
     for (const PolylineDraft::Vertex &vertex : draft.vertices)
         points.push_back(plane.objectFromUser({vertex.point.x, vertex.point.y, draft.height}));
-    if (context.drawing().version() >= drawing::Version::R14) {
-        context.create(plane.placed(lightPolyline(draft, points)));
-        return;
-    }
-    FieldList head = {{0, u"POLYLINE"_s},
-                      {66, qint64(1)},
-                      {10, Vec3{0.0, 0.0, points.front().z}},
-                      {70, qint64(draft.isClosed ? 1 : 0)}};
-    if (draft.thickness != 0.0)
-        head.push_back({39, draft.thickness});
-    context.createComplex(plane.placed(head), heavyVertices(draft, points));
+    createFlatPolyline(context, plane.placed(lightPolyline(draft, points)));
 }
 
 } // namespace host::kernel
