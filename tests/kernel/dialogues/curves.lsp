@@ -25,7 +25,7 @@
 (turned)(cross) ;! TRIM||-20,10| ;~ keeps ;= LINE 10=-10,0,0 11=-2,0,0; LINE 10=-2,-5,0 11=-2,5,0; LINE 10=3,-5,0 11=3,5,0; LINE 10=3,0,0 11=10,0,0
 
 ; A curve that crosses itself is cut there
-(pline 0 '((0.0 0.0) (8.0 0.0) (8.0 4.0) (4.0 4.0) (4.0 -4.0))) ;! TRIM|ALL||8,2| ;~ keeps
+(chain 0 '((0.0 0.0) (8.0 0.0) (8.0 4.0) (4.0 4.0) (4.0 -4.0))) ;! TRIM|ALL||8,2| ;~ keeps
 ;= LWPOLYLINE 10=0,0 10=4,0; LWPOLYLINE 10=4,0 10=4,-4
 (line 0 0 9 0)(line 5 5 5 9)(setvar "EDGEMODE" 1) ;! TRIM||_E|_N|9,0| ;~ keeps ;> Object does not intersect an edge.
 ;= LINE 10=0,0,0 11=9,0,0; LINE 10=5,5,0 11=5,9,0
@@ -44,8 +44,8 @@
 (circle 0 0 5) ;! BREAK|5,0|0,5 ;= ARC 10=0,0,0 40=5 50=90
 (circle 0 0 5) ;! BREAK|5,0|@ ;> cannot be broken at one point ;= CIRCLE 10=0,0,0 40=5
 (chain 1 '((0.0 0.0) (8.0 0.0) (8.0 4.0) (0.0 4.0))) ;! BREAK|2,0|6,0 ;= LWPOLYLINE 10=6,0 10=8,0 10=8,4 10=0,4 10=0,0 10=2,0
-(pline 1 '((0.0 0.0) (8.0 0.0) (8.0 4.0) (0.0 4.0))) ;! BREAK|2,0|6,0 ;= LWPOLYLINE 10=6,0 10=8,0 10=8,4 10=0,4 10=0,0 10=2,0
-(pline 1 '((0.0 0.0) (8.0 0.0) (8.0 4.0) (0.0 4.0))) ;! BREAK|6,0|2,0 ;= LWPOLYLINE 10=2,0 10=6,0
+(chain 1 '((0.0 0.0) (8.0 0.0) (8.0 4.0) (0.0 4.0))) ;! BREAK|2,0|6,0 ;= LWPOLYLINE 10=6,0 10=8,0 10=8,4 10=0,4 10=0,0 10=2,0
+(chain 1 '((0.0 0.0) (8.0 0.0) (8.0 4.0) (0.0 4.0))) ;! BREAK|6,0|2,0 ;= LWPOLYLINE 10=2,0 10=6,0
 
 ; Longer and shorter, at the end near the pick
 (line 0 0 9 0) ;! LENGTHEN|DE|2|8,0| ;~ keeps ;= LINE 10=0,0,0 11=11,0,0
@@ -73,5 +73,5 @@
 (tilted)(line 0 0 9 0) ;! AREA|0,0|4,0|4,3| ;? (list (getvar "AREA") (getvar "PERIMETER")) ;= (6.0 12.0)
 (circle 0 0 2)(chain 1 '((-5.0 -5.0) (5.0 -5.0) (5.0 5.0) (-5.0 5.0))) ;! AREA|A|O|5,0||S|O|2,0|| ;> Total area = 87.4336
 ;= CIRCLE 10=0,0,0 40=2; LWPOLYLINE 70=1 10=-5,-5 10=5,-5 10=5,5 10=-5,5
-(circle 0 0 2)(pline 1 '((-5.0 -5.0) (5.0 -5.0) (5.0 5.0) (-5.0 5.0))) ;! AREA|_A|_O|ALL|||
+(circle 0 0 2)(chain 1 '((-5.0 -5.0) (5.0 -5.0) (5.0 5.0) (-5.0 5.0))) ;! AREA|_A|_O|ALL|||
 ;? (list (rtos (getvar "AREA") 2 4) (rtos (getvar "PERIMETER") 2 4)) ;= ("112.5664" "40.0000")
