@@ -36,7 +36,7 @@ FieldList lookOfEntity(const FieldList &fields)
 {
     static const QSet<int> codes = {6, 8, 39, 48, 60, 62, 370, 420, 430, 440};
     FieldList look;
-    for (auto field = fields.begin(); field != drawing::ownEnd(fields); ++field)
+    for (auto field = fields.begin(), end = drawing::ownEnd(fields); field != end; ++field)
         if (codes.contains(field->code))
             look.push_back(*field);
     return look;

@@ -97,7 +97,7 @@ void renameReferences(Drawing &drawing, const RenameRule &rule, const QString &f
         const QByteArrayView type = drawing.typeName(id);
         FieldList fields = drawing.fields(id);
         bool isChanged = false;
-        for (auto field = fields.begin(); field != ownEnd(fields); ++field) {
+        for (auto field = fields.begin(), end = ownEnd(fields); field != end; ++field) {
             if (!rule.namesIt(kind, type, field->code) || field->text().compare(from, Qt::CaseInsensitive) != 0)
                 continue;
             field->value = to;
