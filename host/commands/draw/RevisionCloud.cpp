@@ -1,4 +1,5 @@
 #include "host/commands/Commands.h"
+#include "host/commands/common/EntityEdits.h"
 #include "host/commands/common/KeptValues.h"
 #include "host/commands/common/UserPlane.h"
 #include "host/commands/draw/PolylineDraft.h"
@@ -161,7 +162,7 @@ Dialogue<bool> askObject(CommandContext &context, CloudLook look)
     const drawing::RecordId entity = picked.entities.front();
     const bool isDone = co_await createCloud(context, lineOfEntity(context, entity), look, true);
     if (isDone && context.document().variables().integer(u"DELOBJ", 1) != 0)
-        context.drawing().setErased(entity, true);
+        eraseAll(context, editable(context, {entity}));
     co_return isDone;
 }
 

@@ -88,7 +88,7 @@ std::optional<Spline> splineOfPolyline(const drawing::Drawing &drawing, RecordId
 Dialogue<bool> convertPolylines(CommandContext &context)
 {
     const PromptReply chosen = co_await context.selection();
-    qsizetype converted = 0;
+    std::vector<RecordId> converted;
     for (const RecordId id : editable(context, chosen.entities)) {
         const std::optional<Spline> spline = splineOfPolyline(context.drawing(), id);
         if (!spline)
@@ -98,15 +98,14 @@ Dialogue<bool> convertPolylines(CommandContext &context)
         for (const int code : {8, 6, 62, 48, 370})
             if (const drawing::Field *field = drawing::findField(look, code))
                 fields.push_back(*field);
-        if (!isValid(context.create(fields)))
-            continue;
-        ++converted;
-        if (context.document().variables().integer(u"DELOBJ", 1) != 0)
-            context.drawing().setErased(id, true);
+        if (isValid(context.create(fields)))
+            converted.push_back(id);
     }
-    if (converted == 0)
+    if (context.document().variables().integer(u"DELOBJ", 1) != 0)
+        eraseAll(context, converted);
+    if (converted.empty())
         context.print(u"\nOnly polylines with the smoothing of splines can be converted."_s);
-    co_return converted > 0;
+    co_return !converted.empty();
 }
 
 /// The first point, and what is set in front of it. Nothing when the command is done with that.

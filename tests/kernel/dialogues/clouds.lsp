@@ -5,6 +5,7 @@
 (command "CIRCLE" '(0 0) 10)(view) ;! REVCLOUD|A|2|2|O|10,0|N ;? (list (value-of 0) (value-of 90) (near (value-of 42) 0.520567))
 ;= ("LWPOLYLINE" 37 T)
 (command "CIRCLE" '(0 0) 10)(view) ;! REVCLOUD|A|2|3||10,0|Y ;? (list (value-of 90) (near (value-of 42) -0.520567)) ;= (29 T)
+(command "CIRCLE" '(0 0) 10)(view)(lock "0") ;! REVCLOUD|A|2|2|O|10,0|N ;> 1 was on a locked layer. ;? (types) ;= ("CIRCLE" "LWPOLYLINE")
 (line 0 0 10 0)(view) ;! REVCLOUD|A|2|O|5,0| ;? (list (value-of 90) (value-of 70)) ;= (7 0)
 ;! REVCLOUD|P|0,0|10,0|10,10|| ;? (list (value-of 70) (near (value-of 42) 0.520567)) ;= (1 T)
 ;! REVCLOUD|F|0,0|0,10|10,10||N ;? (list (value-of 70) (near (value-of 42) -0.520567)) ;= (1 T)
