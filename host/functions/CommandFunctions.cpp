@@ -105,8 +105,8 @@ bool mayBeName(const Value &argument)
     return argument.isString() || argument.isNil();
 }
 
-/// Whether a text that a program begins a call with can be no answer to the prompt that still waits, but names a
-/// command: (command "FILLET" "R" 2) leaves FILLET asking for entities, and programs begin it anew all the same.
+/// Whether a text that a program gives can be no answer to the prompt that still waits, but names a command: (command
+/// "FILLET" "R" 2) leaves FILLET asking for entities, and programs begin it anew all the same.
 bool beginsAnother(const CommandRun &waiting, const Value &argument)
 {
     const PromptRequest &request = waiting.request();
@@ -135,9 +135,9 @@ Ending runArguments(Arguments &args)
     Document &document = documentOf(args);
     document.prompts().refuseInDialog();
     Ending ending = Ending::Done;
-    if (args.size() > 0 && document.pendingCommand() && beginsAnother(*document.pendingCommand(), args[0]))
-        document.takePendingCommand();
     for (std::size_t i = 0; i < args.size(); ++i) {
+        if (document.pendingCommand() && beginsAnother(*document.pendingCommand(), args[i]))
+            document.takePendingCommand();
         bool isLost = false;
         if (document.pendingCommand())
             isLost = !giveArgument(args, i);

@@ -9,14 +9,17 @@ using namespace Qt::StringLiterals;
 
 namespace host::kernel {
 
+QString withoutMark(const QString &word)
+{
+    return word.startsWith(u'_') ? word.mid(1) : word;
+}
+
 int colourNumber(const QString &text)
 {
     static const QStringList names = {u"RED"_s,  u"YELLOW"_s,  u"GREEN"_s, u"CYAN"_s,
                                       u"BLUE"_s, u"MAGENTA"_s, u"WHITE"_s};
-    if (text.startsWith(u'_'))
-        return colourNumber(text.mid(1));
     const int number = text.toInt();
-    return number >= 1 && number <= 255 ? number : int(names.indexOf(text.toUpper())) + 1;
+    return number >= 1 && number <= 255 ? number : int(names.indexOf(withoutMark(text).toUpper())) + 1;
 }
 
 std::optional<qint64> exactColour(const QString &text)

@@ -8,6 +8,8 @@ namespace host::kernel {
 
 // What people type for properties of layers and entities.
 
+/// A word without the "_" in front that marks it as English.
+QString withoutMark(const QString &word);
 /// The number of a colour given by number or name ("red"); 0 when it is neither.
 int colourNumber(const QString &text);
 /// "255,128,0" as 0xRRGGBB; nothing for other text.

@@ -1,5 +1,6 @@
 #include "host/commands/edit/EntityProperties.h"
 
+#include "host/commands/common/LoadableLinetype.h"
 #include "host/commands/common/PropertyValues.h"
 #include "host/drawing/geometry/TransformFields.h"
 #include "host/drawing/records/Entities.h"
@@ -89,7 +90,7 @@ Dialogue<PropertyChange> askColourChange(CommandContext &context, const Entities
     }
     if (reply.isKeyword(u"COlorbook"))
         co_return noChange(context, u"This program has no color books."_s);
-    const QString typed = reply.text.toUpper();
+    const QString typed = withoutMark(reply.text).toUpper();
     if (typed == u"BYLAYER" || typed == u"256")
         co_return colourChange(drawing::colourByLayer);
     if (typed == u"BYBLOCK" || typed == u"0")
@@ -111,11 +112,11 @@ Dialogue<PropertyChange> askNameChange(CommandContext &context, const Entities &
         entities, [&](RecordId id) { return context.drawing().tags(id).text(code, isLayer ? u"0"_s : u"ByLayer"_s); });
     const QString what = isLayer ? u"layer name"_s : u"linetype name"_s;
     const PromptReply reply = co_await context.text(u"Enter new %1 <%2>: "_s.arg(what, usual), usual);
-    const QString name = reply.text.trimmed();
+    const QString name = isLayer ? reply.text.trimmed() : withoutMark(reply.text.trimmed());
     if (!reply.hasValue() || name.isEmpty())
         co_return PropertyChange{};
     const drawing::Tables &tables = context.drawing().tables();
-    const RecordId entry = tables.find(kind, name);
+    const RecordId entry = isLayer ? tables.find(kind, name) : loadedLinetype(context, name);
     const bool isByLayer = !isLayer && name.compare(u"ByLayer"_s, Qt::CaseInsensitive) == 0;
     const bool isByBlock = !isLayer && name.compare(u"ByBlock"_s, Qt::CaseInsensitive) == 0;
     if (!isValid(entry) && !isByLayer && !isByBlock)

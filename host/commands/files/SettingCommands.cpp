@@ -133,7 +133,7 @@ CommandTask colour(CommandContext &context)
     if (!reply.hasValue())
         co_return;
     const int number = colourNumber(reply.text);
-    setSetting(context, u"CECOLOR", number > 0 ? QString::number(number) : reply.text);
+    setSetting(context, u"CECOLOR", number > 0 ? QString::number(number) : withoutMark(reply.text));
 }
 
 } // namespace

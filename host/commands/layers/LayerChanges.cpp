@@ -1,5 +1,6 @@
 #include "host/commands/layers/LayerChanges.h"
 
+#include "host/commands/common/LoadableLinetype.h"
 #include "host/commands/common/PropertyValues.h"
 #include "host/drawing/records/Dictionaries.h"
 #include "host/drawing/records/Tables.h"
@@ -101,7 +102,7 @@ Dialogue<LayerChange> askLinetype(CommandContext &context)
         reply = co_await context.text(u"Enter loaded linetype name or [?] <%1>: "_s.arg(usual), usual, u"?"_s);
     }
     const QString name = reply.hasValue() ? reply.text.trimmed() : usual;
-    const drawing::RecordId entry = tables.find(TableKind::Linetype, name);
+    const drawing::RecordId entry = loadedLinetype(context, name);
     if (!isValid(entry))
         co_return refused(context, u"Linetype \"%1\" not found."_s.arg(name));
     const QString known = tables.name(entry);

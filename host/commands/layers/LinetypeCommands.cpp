@@ -1,5 +1,7 @@
 #include "files/qt/Files.h"
 #include "host/commands/Commands.h"
+#include "host/commands/common/LoadableLinetype.h"
+#include "host/commands/common/PropertyValues.h"
 #include "host/drawing/records/Tables.h"
 #include "host/drawing/references/LinetypeSource.h"
 #include "host/drawing/selection/Wildcard.h"
@@ -7,6 +9,7 @@
 #include "host/kernel/running/CommandContext.h"
 #include "host/kernel/variables/SystemVariables.h"
 
+#include <QFileInfo>
 #include <QSet>
 
 using namespace Qt::StringLiterals;
@@ -21,12 +24,28 @@ using drawing::TableKind;
 /// Larger sources are no hand-written linetypes.
 constexpr qint64 largestSource = 16 * 1024 * 1024;
 
-/// The definitions in the source file that was named; nothing, with the reason printed, when it cannot be read.
+/// The linetypes of the sources that come with the program, under the names that programs call them by; nothing for
+/// another name.
+std::vector<LinetypeDefinition> suppliedDefinitions(const QString &source)
+{
+    const QString name = QFileInfo(source).completeBaseName().toLower();
+    if (name == u"acad")
+        return drawing::predefinedLinetypes(drawing::LinetypeUnit::Inch);
+    if (name == u"acadiso")
+        return drawing::predefinedLinetypes(drawing::LinetypeUnit::Millimetre);
+    return {};
+}
+
+/// The definitions in the source that was named: a file, or without one what comes with the program. Nothing, with the
+/// reason printed, when it cannot be read.
 std::vector<LinetypeDefinition> definitionsOf(CommandContext &context, const QString &typed)
 {
     QString path = context.document().findFile(typed.trimmed());
     if (path.isEmpty())
         path = context.document().findFile(typed.trimmed() + u".lin"_s);
+    if (path.isEmpty())
+        if (std::vector<LinetypeDefinition> supplied = suppliedDefinitions(typed.trimmed()); !supplied.empty())
+            return supplied;
     const files::WholeBytes file = files::readWhole(path, largestSource);
     if (!file) {
         context.print(path.isEmpty()
@@ -60,9 +79,11 @@ void tellLoaded(CommandContext &context, const LinetypeDefinition &definition)
                                   : u"\nLinetype \"%1\" not loaded: %2."_s.arg(definition.name, error));
 }
 
-void setCurrentLinetype(CommandContext &context, const QString &name)
+void setCurrentLinetype(CommandContext &context, const QString &typed)
 {
-    if (context.document().variables().set(u"CELTYPE", name.trimmed()) != SetOutcome::Done)
+    const QString name = withoutMark(typed.trimmed());
+    loadedLinetype(context, name);
+    if (context.document().variables().set(u"CELTYPE", name) != SetOutcome::Done)
         context.print(u"\nLinetype \"%1\" not found."_s.arg(name));
 }
 

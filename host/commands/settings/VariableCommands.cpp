@@ -1,6 +1,8 @@
 #include "host/commands/Commands.h"
+#include "host/commands/common/PropertyValues.h"
 #include "host/drawing/selection/Wildcard.h"
 #include "host/kernel/documents/Document.h"
+#include "host/kernel/input/Keywords.h"
 #include "host/kernel/input/Units.h"
 #include "host/kernel/running/CommandContext.h"
 #include "host/kernel/running/Dialogue.h"
@@ -37,15 +39,40 @@ Dialogue<bool> listVariables(CommandContext &context)
     co_return !lines.isEmpty();
 }
 
+/// A word that stands for bits of a variable which commands of its name switch.
+struct SwitchWord
+{
+    const char *variable;
+    QStringView word; ///< capital letters abbreviate it
+    qint32 cleared;   ///< bits
+    qint32 set;       ///< bits
+};
+
+constexpr SwitchWord switchWords[] = {
+    {"DRAGMODE", u"ON", 3, 1}, {"DRAGMODE", u"OFF", 3, 0},   {"DRAGMODE", u"Auto", 3, 2},    {"UCSICON", u"ON", 0, 1},
+    {"UCSICON", u"OFF", 1, 0}, {"UCSICON", u"ORigin", 0, 2}, {"UCSICON", u"Noorigin", 2, 0},
+};
+
+/// The value that one of those words, or ON and OFF of a variable with nothing else, stands for.
+std::optional<qint32> switchedValue(const QString &name, qint32 present, const QString &word)
+{
+    for (const SwitchWord &row : switchWords)
+        if (name == QLatin1StringView(row.variable) && matchKeyword(word, {row.word.toString()}))
+            return (present & ~row.cleared) | row.set;
+    const HostVariable *row = findHostVariable(name);
+    if (!row || row->low != 0.0 || row->high != 1.0)
+        return std::nullopt;
+    const bool isOn = word.compare(u"ON"_s, Qt::CaseInsensitive) == 0;
+    return isOn || word.compare(u"OFF"_s, Qt::CaseInsensitive) == 0 ? std::optional<qint32>(isOn) : std::nullopt;
+}
+
 /// Switches may be said in words, lengths in the drawing's units.
 std::optional<VariableValue> typedValue(const SystemVariables &variables, const QString &name,
                                         const VariableValue &present, const QString &text)
 {
-    const HostVariable *row = findHostVariable(name);
-    if (row && std::holds_alternative<qint32>(present) && row->low == 0.0 && row->high == 1.0)
-        for (const auto &[word, value] : {std::pair{u"OFF"_s, 0}, std::pair{u"ON"_s, 1}})
-            if (text.trimmed().compare(word, Qt::CaseInsensitive) == 0)
-                return value;
+    if (const qint32 *number = std::get_if<qint32>(&present))
+        if (const std::optional<qint32> value = switchedValue(name, *number, withoutMark(text.trimmed())))
+            return *value;
     std::optional<VariableValue> value = variableFromText(present, text);
     if (!value && std::holds_alternative<double>(present))
         if (const std::optional<double> length = UnitFormat::of(variables).parseLength(text))

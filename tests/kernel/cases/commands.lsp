@@ -78,6 +78,14 @@ a ;! (setq a (+ 1 2))\n!a\n ;> \n3 ;= 3
 (setq d (entget (tblobjname "LTYPE" "DASH")))(entmod (subst '(40 . 9.0) (assoc 40 d) d))
 (command "_.-LINETYPE" "_Load" "dash" my "_No" "")(dash) ;> already loaded. Reload it? ;= 9.0
 (command "_.-LINETYPE" "_Load" "dash" my "_Yes" "_Set" "DASH" "")(list (dash) (getvar "CELTYPE")) ;= (2.0 "DASH")
+; What comes with the program needs no file: for inches and for millimetres; layers and entities load it themselves
+(defun length-of (name) (cdr (assoc 40 (tblsearch "LTYPE" name))))
+(command "_.-LINETYPE" "_L" "HIDDEN,center2" "acad.lin" "")(mapcar 'length-of '("Hidden" "CENTER2" "CENTER")) ;= (0.375 1.125 nil)
+(command "_.-linetype" "_l" "dashed*,ACAD_ISO02W100" "acadiso" "")(mapcar 'length-of '("DASHED" "DASHEDX2" "ACAD_ISO02W100")) ;= (19.05 38.1 15.0)
+(command "_.-layer" "_m" "X" "_lt" "phantom" "" "")(cdr (assoc 6 (tblsearch "LAYER" "X"))) ;= "PHANTOM"
+(command "LINE" '(0 0) '(9 0) "")(command "_.chprop" (entlast) "" "_c" "_red" "_lt" "divide" "")(mapcar 'field '(6 62)) ;= ("DIVIDE" 1)
+(command "_.-linetype" "_s" "Border" "")(getvar "CELTYPE") ;= "BORDER"
+(command "_.-linetype" "_s" "Nowhere" "") ;> Linetype "Nowhere" not found ;= nil
 
 ; Shapes of a loaded file
 (command "_.SHAPE" "BOX") ;> Cannot find shape "BOX". Load its file first. ;= nil
@@ -126,3 +134,10 @@ a ;! (setq a (+ 1 2))\n!a\n ;> \n3 ;= 3
 (progn (command "_.LINE" '(1 1) '(2 2)) (command "CIRCLE" '(5 5) 1) (list (getvar "CMDACTIVE") (cdr (assoc 0 (entget (entlast)))))) ;= (0 "CIRCLE")
 (progn (command "_.TEXT" '(0 0) 1 0) (command "CIRCLE") (cdr (assoc 1 (entget (entlast))))) ;= "CIRCLE"
 (progn (command "_.ERASE") (command "All" "") (getvar "CMDACTIVE")) ;= 0
+; Within one call too
+(command "_.FILLET" "_R" 2.5 "_.POINT" '(1 1))(list (getvar "FILLETRAD") (field 0)) ;= (2.5 "POINT")
+
+; Words for values, with the mark of English
+(command "_.-COLOR" 3 "_.-COLOR" "_bylayer")(getvar "CECOLOR") ;= "BYLAYER"
+(setvar "UCSICON" 3)(command "_.UCSICON" "_off" "_.DRAGMODE" "_a" "_.BLIPMODE" "_on")(mapcar 'getvar '("UCSICON" "DRAGMODE" "BLIPMODE")) ;= (2 2 1)
+(command "_.UCSICON" "_on" "_.UCSICON" "_n" "_.BLIPMODE" "off")(mapcar 'getvar '("UCSICON" "BLIPMODE")) ;= (1 0)
