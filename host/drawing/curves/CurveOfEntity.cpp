@@ -14,6 +14,13 @@ using MaybeCurve = std::optional<EntityCurve>;
 constexpr double endOfNone = std::numeric_limits<double>::infinity();
 const Vec3 curveUpwards{0, 0, 1};
 
+/// Turns that leave no digits for the angle itself are damage, and say nothing.
+double soundAngle(double angle)
+{
+    constexpr double mostAngle = 1e4;
+    return std::abs(angle) <= mostAngle ? angle : std::fmod(angle, wholeTurn);
+}
+
 /// The end of a range of angles that does not lie behind its start: a turn on.
 double turnedBehind(double start, double end)
 {
@@ -54,8 +61,8 @@ Vec3 curveDirection(const TagList &tags)
 
 MaybeCurve curveOfArc(const Drawing &, RecordId, const TagList &tags)
 {
-    const double start = tags.real(50) * radians;
-    const double end = turnedBehind(start, tags.real(51) * radians);
+    const double start = soundAngle(tags.real(50) * radians);
+    const double end = turnedBehind(start, soundAngle(tags.real(51) * radians));
     return EntityCurve(Kind::Arc, {circularPiece(tags, start, end)}, false, curveDirection(tags));
 }
 
@@ -69,8 +76,8 @@ MaybeCurve curveOfEllipse(const Drawing &, RecordId, const TagList &tags)
     const Vec3 up = curveDirection(tags);
     const Vec3 major = tags.point(11);
     const Vec3 minor = cross(up, major) * tags.real(40, 1.0);
-    const double start = tags.real(41);
-    const double end = turnedBehind(start, tags.real(42, wholeTurn));
+    const double start = soundAngle(tags.real(41));
+    const double end = turnedBehind(start, soundAngle(tags.real(42, wholeTurn)));
     const bool isWhole = end - start >= wholeTurn - 1e-12;
     return EntityCurve(Kind::Ellipse, {CurvePiece::round(tags.point(10), major, minor, start, end, start, end)},
                        isWhole, up);

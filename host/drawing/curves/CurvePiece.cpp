@@ -95,7 +95,12 @@ std::pair<double, double> roundExtent(double center, double x, double y, double 
     std::pair<double, double> extent = std::minmax(at(low), at(high));
     const double crest = std::atan2(y, x);
     const double half = std::numbers::pi;
-    for (double angle = crest + std::ceil((low - crest) / half) * half; angle <= high; angle += half) {
+    // Of crests and troughs in turn the first two say all, and angles so large that half a turn is lost in them end.
+    const double first = std::ceil((low - crest) / half);
+    for (const double turned : {first, first + 1.0}) {
+        const double angle = crest + turned * half;
+        if (angle > high)
+            break;
         extent.first = std::min(extent.first, at(angle));
         extent.second = std::max(extent.second, at(angle));
     }

@@ -25,10 +25,15 @@ public:
             return crossLineAndRound(m_second, m_first, true);
         if (areCirclesOfOnePlane())
             return crossCircles();
+        if (areOfOneCurve())
+            return offerSharedEnds();
         crossByHalves();
     }
+    int halvings() const { return mostHalvings - m_work; }
 
 private:
+    static constexpr int mostHalvings = 4000; ///< after which the pieces count as running along each other
+
     /// Whether it spans a plane: seen from its side it does not.
     static bool isFlatRound(const CurvePiece &piece)
     {
@@ -134,6 +139,15 @@ private:
                std::abs(dot(up, m_second.center() - m_first.center())) <= m_tolerance;
     }
 
+    /// Copies that lie upon each other run along each other, which needs no search.
+    bool areOfOneCurve() const
+    {
+        const auto isSame = [&](auto part) { return std::invoke(part, m_first) == std::invoke(part, m_second); };
+        return isSame(&CurvePiece::shape) && isSame(&CurvePiece::center) && isSame(&CurvePiece::xAxis) &&
+               isSame(&CurvePiece::yAxis) && m_first.span().points == m_second.span().points &&
+               m_first.span().weights == m_second.span().weights;
+    }
+
     void crossCircles()
     {
         const double radius = m_first.xAxis().length();
@@ -166,8 +180,8 @@ private:
     const CurvePiece &m_second;
     const double m_tolerance;
     std::vector<CurveCrossing> &m_found;
-    int m_work = 4000;       ///< steps of halving, after which the pieces count as running along each other
-    double m_nearness = 0.0; ///< how near parts have to come to be looked at
+    int m_work = mostHalvings; ///< what is left of them
+    double m_nearness = 0.0;   ///< how near parts have to come to be looked at
 };
 
 /// An endless line as far as it can meet what is in the box.
@@ -307,14 +321,17 @@ void PiecePair::descend(const CurvePiece &first, const CurvePiece &second)
 
 } // namespace
 
-void appendCrossings(std::vector<CurveCrossing> &found, const CurvePiece &first, const CurvePiece &second,
-                     double tolerance)
+int appendCrossings(std::vector<CurveCrossing> &found, const CurvePiece &first, const CurvePiece &second,
+                    double tolerance)
 {
     const auto hasExtent = [](const CurvePiece &piece) {
         return piece.shape() != CurvePiece::Shape::Straight || piece.xAxis() != Vec3{};
     };
-    if (hasExtent(first) && hasExtent(second))
-        PiecePair(first, second, tolerance, found).cross();
+    if (!hasExtent(first) || !hasExtent(second))
+        return 1;
+    PiecePair pair(first, second, tolerance, found);
+    pair.cross();
+    return 1 + pair.halvings();
 }
 
 } // namespace host::drawing

@@ -73,7 +73,7 @@ PlaneGraph::PlaneGraph(std::vector<FlatPiece> pieces, double tolerance, double g
     addEdges(cuts, tolerance);
     dropDoubles(tolerance);
     if (gap > tolerance)
-        bridgeGaps(tolerance, gap);
+        bridgeGaps(tolerance, gap, work);
     findFaces();
     dropBridges();
     findFaces();
@@ -92,11 +92,10 @@ void PlaneGraph::cutPieces(double tolerance, WorkBudget &work, std::vector<std::
         index.touching(boxes[i], [&](std::size_t k) {
             if (k <= i || !m_isComplete)
                 return;
-            m_isComplete = work.take(1);
             const CurvePiece &first = m_pieces[i].piece;
             const CurvePiece &second = m_pieces[k].piece;
             found.clear();
-            appendCrossings(found, first, second, tolerance);
+            m_isComplete = work.take(appendCrossings(found, first, second, tolerance));
             for (const CurveCrossing &crossing : found) {
                 cuts[i].push_back(crossing.first);
                 cuts[k].push_back(crossing.second);
@@ -165,7 +164,7 @@ void PlaneGraph::dropDoubles(double tolerance)
 }
 
 /// Joins loose ends, the nearest pairs first.
-void PlaneGraph::bridgeGaps(double tolerance, double gap)
+void PlaneGraph::bridgeGaps(double tolerance, double gap, WorkBudget &work)
 {
     std::vector<int> degree(m_nodes.size());
     for (const Edge &edge : m_edges)
@@ -188,11 +187,12 @@ void PlaneGraph::bridgeGaps(double tolerance, double gap)
     };
     std::vector<Pair> pairs;
     const BoxIndex index(boxes);
-    for (std::size_t i = 0; i < loose.size(); ++i) {
+    for (std::size_t i = 0; i < loose.size() && m_isComplete; ++i) {
         const Vec3 at{m_nodes[loose[i]].x, m_nodes[loose[i]].y, 0.0};
         index.touching({at, at}, [&](std::size_t k) {
             const double distance = (m_nodes[loose[i]] - m_nodes[loose[k]]).length();
-            if (k > i && distance <= gap && distance > tolerance)
+            m_isComplete = m_isComplete && (k <= i || work.take(1));
+            if (k > i && m_isComplete && distance <= gap && distance > tolerance)
                 pairs.push_back({distance, loose[i], loose[k]});
         });
     }

@@ -24,8 +24,8 @@ class PlaneGraph
 {
 public:
     /// `tolerance`: points nearer than this are one. `gap`: loose ends that near to each other are joined by a straight
-    /// line. Costs n log n of the pieces and their crossings; each crossing takes from `work`, and isComplete() is
-    /// false when that was used up.
+    /// line. Costs n log n of the pieces and their crossings; each crossing, and each pair of loose ends, takes from
+    /// `work`, and isComplete() is false when that was used up.
     PlaneGraph(std::vector<FlatPiece> pieces, double tolerance, double gap, WorkBudget &work);
 
     bool isComplete() const { return m_isComplete; }
@@ -96,7 +96,7 @@ private:
 
     void cutPieces(double tolerance, WorkBudget &work, std::vector<std::vector<double>> &cuts);
     void addEdges(const std::vector<std::vector<double>> &cuts, double tolerance);
-    void bridgeGaps(double tolerance, double gap);
+    void bridgeGaps(double tolerance, double gap, WorkBudget &work);
     void dropDoubles(double tolerance);
     void findFaces();
     void dropBridges();

@@ -27,3 +27,6 @@
 (progn (box 0 0 10 6) (command "-HATCH" "P" "SOLID" "5,3" "")) ;! -HATCHEDIT|5,3|DI ;? (list (own '(71 97)) (assoc 102 (entget (entnext)))) ;= ((0 0) nil)
 (progn (box 0 0 10 6) (command "-HATCH" "P" "SOLID" "5,3" "")) ;! -HATCHEDIT|5,3|S|I ;? (own '(75 91)) ;= (2 1)
 (box 0 0 10 6) ;! -HATCHEDIT|0,3 ;> Object selected is not a hatch. ;? (types) ;= ("LWPOLYLINE")
+(progn (setvar "HPGAPTOL" 5000) (setq i 0) (repeat 2000 (setq i (1+ i)) (line (* i 0.001) 0 (* i 0.001) 1))) ;! -HATCH|P|SOLID|0.0015,0.5| ;> Too many curves cross here ;? (length (types)) ;= 2000
+(repeat 60 (entmake '((0 . "ELLIPSE") (100 . "AcDbEntity") (100 . "AcDbEllipse") (10 0.0 0.0 0.0) (11 8.0 0.0 0.0) (40 . 0.5)))) ;! -HATCH|P|SOLID|1,1| ;? (own '(91 11)) ;= (1 (8.0 0.0))
+(progn (entmake '((0 . "ARC") (10 0.0 0.0 0.0) (40 . 5.0) (50 . 1e20) (51 . 3e20))) (line -9 0 9 0)) ;! -HATCH|P|SOLID|1,1| ;> Valid hatch boundary not found. ;? (length (types)) ;= 2
