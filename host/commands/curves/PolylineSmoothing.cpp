@@ -115,6 +115,9 @@ std::vector<SmoothVertex> smoothedByArcs(const EditedPolyline &polyline)
     return made;
 }
 
+/// A curve of more is made coarser.
+constexpr std::size_t mostMadeVertices = 1'000'000;
+
 std::vector<SmoothVertex> smoothedBySpline(const EditedPolyline &polyline, const SplineSmoothing &settings)
 {
     const std::vector<EditedVertex> &vertices = polyline.vertices;
@@ -128,14 +131,15 @@ std::vector<SmoothVertex> smoothedBySpline(const EditedPolyline &polyline, const
     }
     const drawing::Spline spline = splineOver(frame, settings.degree, isClosed);
     const std::size_t stretches = isClosed ? vertices.size() : vertices.size() - 1;
-    const std::size_t count = stretches * static_cast<std::size_t>(settings.segments);
+    const std::size_t segments =
+        std::min(static_cast<std::size_t>(settings.segments), std::max<std::size_t>(1, mostMadeVertices / stretches));
+    const std::size_t count = stretches * segments;
     const double first = spline.firstParameter();
     const double range = spline.lastParameter() - first;
     for (std::size_t i = 0; i < count + (isClosed ? 0 : 1); ++i) {
         SmoothVertex vertex;
         vertex.point = spline.point(first + range * static_cast<double>(i) / static_cast<double>(count));
-        const EditedVertex &corner =
-            vertices[std::min(i / static_cast<std::size_t>(settings.segments), vertices.size() - 1)];
+        const EditedVertex &corner = vertices[std::min(i / segments, vertices.size() - 1)];
         vertex.startWidth = corner.startWidth;
         vertex.endWidth = corner.startWidth;
         vertex.flags = MadeBySpline;

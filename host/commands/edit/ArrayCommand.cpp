@@ -74,7 +74,7 @@ void copyToCells(CommandContext &context, const Entities &entities, int rows, in
     const Matrix turned = Matrix::rotation(context.document().variables().real(u"SNAPANG"));
     const Vec3 origin = plane.worldFromUser({});
     for (int row = 0; row < rows; ++row) {
-        for (int column = 0; column < columns; ++column) {
+        for (int column = 0; column < columns && !context.hasFailed(); ++column) {
             const Vec3 by = turned.direction({column * steps.column, row * steps.row, 0.0});
             if (row > 0 || column > 0)
                 copyAll(context, entities, Matrix::translation(plane.worldFromUser(by) - origin));
@@ -175,7 +175,7 @@ void copyRound(CommandContext &context, const Entities &entities, const Vec3 &ce
                const std::optional<Vec3> &base)
 {
     const UserPlane plane(context.document());
-    for (int item = 1; item < steps.items; ++item) {
+    for (int item = 1; item < steps.items && !context.hasFailed(); ++item) {
         const Matrix turn = plane.rotation(steps.step * item, centre);
         copyAll(context, entities, base ? Matrix::translation(turn.point(*base) - *base) : turn);
     }

@@ -64,19 +64,28 @@ void BoxIndex::addLevel(std::vector<Node> level)
 
 void BoxIndex::touching(const Box &box, const std::function<void(size_t)> &found) const
 {
+    anyTouching(box, [&](size_t number) {
+        found(number);
+        return false;
+    });
+}
+
+bool BoxIndex::anyTouching(const Box &box, const std::function<bool(size_t)> &isSought) const
+{
     if (m_nodes.empty())
-        return;
+        return false;
     std::vector<std::uint32_t> open = {static_cast<std::uint32_t>(m_nodes.size() - 1)};
     while (!open.empty()) {
         const Node &node = m_nodes[open.back()];
         open.pop_back();
         if (!boxesTouch(node.box, box))
             continue;
-        if (node.count == 0)
-            found(node.first);
+        if (node.count == 0 && isSought(node.first))
+            return true;
         for (std::uint32_t i = 0; i < node.count; ++i)
             open.push_back(node.first + i);
     }
+    return false;
 }
 
 } // namespace host::drawing

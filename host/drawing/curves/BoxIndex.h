@@ -18,6 +18,8 @@ public:
 
     /// Calls with the number of each box that touches `box`, its faces included, in no order.
     void touching(const Box &box, const std::function<void(size_t)> &found) const;
+    /// Whether any box that touches `box` is one of those looked for; it ends with the first.
+    bool anyTouching(const Box &box, const std::function<bool(size_t)> &isSought) const;
 
 private:
     struct Node
