@@ -3,7 +3,7 @@
 // Every built-in command gets answers of all kinds: points, numbers, options, words of snaps and filters, entities,
 // selection sets, commands in the middle, files of a temporary folder. A test run takes a few seconds of it;
 // ORTAKIT_FUZZ_SECONDS says how long each way goes on, ORTAKIT_FUZZ_SEED where it begins, and with ORTAKIT_FUZZ_LOG
-// each call stands in that file before it is made.
+// each call stands in that file before it is made, and behind it how long it took if that was more than a second.
 
 #include "host/kernel/running/CommandTable.h"
 #include "host/kernel/variables/SystemVariables.h"
@@ -95,6 +95,8 @@ protected:
         QElapsedTimer time;
         time.start();
         const RunResult result = document().run(QStringLiteral("(command %1)").arg(call));
+        if (time.elapsed() > 1000)
+            log(QStringLiteral("; %1 ms").arg(time.elapsed()));
         EXPECT_LT(time.elapsed(), longestCall) << call.toStdString();
         // Answers that are worked out by Lisp may fail there: without an entity, without a selection.
         EXPECT_TRUE(result.ok || call.contains(QStringLiteral("(ss")) || call.contains(QStringLiteral("(list")))
