@@ -2,6 +2,7 @@
 
 #include "host/drawing/records/Tables.h"
 #include "host/drawing/selection/Wildcard.h"
+#include "host/kernel/documents/CurrentProperties.h"
 #include "host/kernel/running/CommandContext.h"
 #include "host/kernel/variables/SystemVariables.h"
 
@@ -112,14 +113,13 @@ Dialogue<bool> askHatchLayer(CommandContext &context, HatchSettings &settings)
 
 Dialogue<bool> askHatchTransparency(CommandContext &context, HatchSettings &settings)
 {
-    constexpr qint64 ownValue = 0x02000000;
     const PromptReply value =
         co_await context.text(u"Enter new transparency value (0-90) or [. (for use current)] <.>: "_s, u"."_s);
     std::erase_if(settings.entity, [](const drawing::Field &field) { return field.code == 440; });
     bool isNumber = false;
     const int percent = value.text.trimmed().toInt(&isNumber);
     if (isNumber && percent >= 0 && percent <= 90)
-        settings.entity.push_back({440, ownValue | qRound(255.0 * (100 - percent) / 100.0)});
+        settings.entity.push_back({440, transparencyValue(percent)});
     else if (!value.text.trimmed().isEmpty() && value.text.trimmed() != u"." &&
              context.refuse(u"Requires a whole number from 0 to 90."_s))
         co_return false;

@@ -1,5 +1,7 @@
 #include "host/commands/Commands.h"
+#include "host/commands/draw/LastEnd.h"
 #include "host/kernel/running/CommandContext.h"
+#include "host/kernel/running/Dialogue.h"
 
 using namespace Qt::StringLiterals;
 
@@ -15,14 +17,35 @@ RecordId createLine(CommandContext &context, const Vec3 &from, const Vec3 &to)
     return context.create({{0, u"LINE"_s}, {10, from}, {11, to}});
 }
 
+/// Where a line begins: an empty answer is the end of what was drawn last, and behind an arc the line leaves it
+/// straight on, so that its length alone is asked for. The points that are known then; none when there is nothing to
+/// go on from.
+Dialogue<std::vector<Vec3>> askLineStart(CommandContext &context)
+{
+    const PromptReply first = co_await context.point(u"Specify first point: "_s);
+    if (first.hasValue())
+        co_return std::vector<Vec3>{first.point};
+    const std::optional<LastEnd> last = lastEnd(context);
+    if (!last) {
+        context.fail(u"No line or arc to continue."_s);
+        co_return std::vector<Vec3>();
+    }
+    if (!last->isRound)
+        co_return std::vector<Vec3>{last->point};
+    const PromptReply length = co_await context.distance(u"Length of line: "_s, {}, last->point, {}, NoEmptyAnswer);
+    co_return std::vector<Vec3>{last->point, last->point + normalized(last->direction) * length.real};
+}
+
 // First point, next points; Undo takes back one segment, Close goes back to the first point.
 CommandTask line(CommandContext &context)
 {
-    PromptReply reply = co_await context.point(u"Specify first point: "_s);
-    if (!reply.hasValue())
+    std::vector<Vec3> points = co_await askLineStart(context);
+    if (points.empty())
         co_return;
-    std::vector<Vec3> points = {reply.point};
     std::vector<RecordId> segments;
+    if (points.size() == 2)
+        segments.push_back(createLine(context, points[0], points[1]));
+    PromptReply reply;
     for (;;) {
         const QString shown =
             points.size() > 2 ? u"Specify next point or [Close/Undo]: "_s : u"Specify next point or [Undo]: "_s;

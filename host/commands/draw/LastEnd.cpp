@@ -33,8 +33,8 @@ LastEnd arcEnd(const TagList &tags, const Vec3 &lastPoint)
     const double start = tags.real(50);
     const double end = tags.real(51);
     if ((at(start) - lastPoint).length() < 1e-9 * (1.0 + lastPoint.length()))
-        return {at(start), along(start, -1.0)};
-    return {at(end), along(end, 1.0)};
+        return {at(start), along(start, -1.0), true};
+    return {at(end), along(end, 1.0), true};
 }
 
 std::optional<LastEnd> polylineEnd(const TagList &tags)
@@ -55,7 +55,7 @@ std::optional<LastEnd> polylineEnd(const TagList &tags)
     const std::size_t last = points.size() - 1;
     const Vec2 along = polar(arrivalDirection(points[last - 1], points[last], bulges[last - 1]), 1.0);
     return LastEnd{object.point({points[last].x, points[last].y, tags.real(38)}),
-                   object.direction({along.x, along.y, 0.0})};
+                   object.direction({along.x, along.y, 0.0}), bulges[last - 1] != 0.0};
 }
 
 } // namespace
@@ -68,7 +68,7 @@ std::optional<LastEnd> lastEnd(CommandContext &context)
         return {};
     const TagList tags = drawing.tags(entities.back());
     if (drawing.isType(entities.back(), "LINE"))
-        return LastEnd{tags.point(11), tags.point(11) - tags.point(10)};
+        return LastEnd{tags.point(11), tags.point(11) - tags.point(10), false};
     if (drawing.isType(entities.back(), "LWPOLYLINE"))
         return polylineEnd(tags);
     if (!drawing.isType(entities.back(), "ARC"))

@@ -13,6 +13,7 @@ struct LastEnd
 {
     drawing::Vec3 point;
     drawing::Vec3 direction; ///< in which it arrives there; not of a certain length
+    bool isRound = false;    ///< it arrives there on an arc
 };
 
 /// Of the last entity of the current space when it is a line, an arc or an open polyline; nothing otherwise. An arc

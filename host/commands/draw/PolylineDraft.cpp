@@ -22,8 +22,8 @@ FieldList lightPolyline(const PolylineDraft &draft, const std::vector<Vec3> &poi
                         {90, qint64(points.size())},
                         {70, qint64(draft.isClosed ? 1 : 0)},
                         {38, points.front().z}};
-    if (draft.thickness != 0.0)
-        fields.push_back({39, draft.thickness});
+    if (draft.thickness)
+        fields.push_back({39, *draft.thickness});
     for (std::size_t i = 0; i < points.size(); ++i) {
         fields.push_back({10, points[i].xy()});
         fields.push_back({40, draft.vertices[i].startWidth});

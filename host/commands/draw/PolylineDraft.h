@@ -2,6 +2,7 @@
 
 #include "host/drawing/math/Vec.h"
 
+#include <optional>
 #include <vector>
 
 namespace host::kernel {
@@ -28,8 +29,8 @@ struct PolylineDraft
     std::vector<Vertex> vertices;
     std::vector<Widths> before; ///< the widths in front of each segment, for taking it back
     Widths widths;
-    double height = 0.0;    ///< above the user's plane
-    double thickness = 0.0; ///< how far it rises from there
+    double height = 0.0;             ///< above the user's plane
+    std::optional<double> thickness; ///< how far it rises from there; as the drawing has it where it does not say
     bool isClosed = false;
 
     drawing::Vec2 last() const { return vertices.back().point; }

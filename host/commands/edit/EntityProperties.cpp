@@ -7,6 +7,7 @@
 #include "host/drawing/records/Structure.h"
 #include "host/drawing/records/Tables.h"
 #include "host/drawing/tags/GroupCodes.h"
+#include "host/kernel/documents/CurrentProperties.h"
 #include "host/kernel/documents/Document.h"
 #include "host/kernel/running/CommandContext.h"
 #include "host/kernel/variables/SystemVariables.h"
@@ -206,8 +207,6 @@ Dialogue<PropertyChange> askThickness(CommandContext &context, const Entities &e
 
 Dialogue<PropertyChange> askTransparencyOf(CommandContext &context, const Entities &)
 {
-    constexpr qint64 isValue = 0x02000000;
-    constexpr qint64 isByBlock = 0x01000000;
     const PromptReply reply = co_await context.integer(u"Enter new transparency value <ByLayer>: "_s,
                                                        u"ByLayer ByBlock"_s, u"ByLayer"_s, NoNegative);
     if (context.drawing().version() < Version::R2004)
@@ -216,9 +215,9 @@ Dialogue<PropertyChange> askTransparencyOf(CommandContext &context, const Entiti
         co_return noChange(context, u"Requires an integer from 0 to 90."_s);
     std::optional<qint64> value;
     if (reply.isKeyword(u"ByBlock"))
-        value = isByBlock;
+        value = transparencyByBlock;
     else if (reply.hasValue())
-        value = isValue | qint64(std::lround(255.0 * (100 - reply.integer) / 100.0));
+        value = transparencyValue(int(reply.integer));
     co_return PropertyChange{[value](FieldList &fields) {
         std::erase_if(fields, [](const drawing::Field &field) { return field.code == transparencyCode; });
         if (value)

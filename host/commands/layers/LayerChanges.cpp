@@ -5,10 +5,9 @@
 #include "host/drawing/records/Dictionaries.h"
 #include "host/drawing/records/Tables.h"
 #include "host/drawing/tags/ExtendedData.h"
+#include "host/kernel/documents/CurrentProperties.h"
 #include "host/kernel/documents/Document.h"
 #include "host/kernel/running/CommandContext.h"
-
-#include <cmath>
 
 using namespace Qt::StringLiterals;
 
@@ -127,17 +126,15 @@ Dialogue<LayerChange> askWeight(CommandContext &context)
 
 Dialogue<LayerChange> askTransparency(CommandContext &context)
 {
-    constexpr qint64 isValue = 0x02000000;
     const PromptReply reply =
         co_await context.integer(u"Enter transparency value (0-90): "_s, {}, {}, NoEmptyAnswer | NoNegative);
     if (isOlderThan(context, Version::R2004))
         co_return tooOld(context);
     if (reply.integer > 90)
         co_return refused(context, u"Requires an integer from 0 to 90."_s);
-    const auto opacity = qint64(std::lround(255.0 * (100 - reply.integer) / 100.0));
     FieldList data;
     if (reply.integer > 0)
-        data.push_back({1071, isValue | opacity});
+        data.push_back({1071, transparencyValue(int(reply.integer))});
     co_return LayerChange{u"transparency value %1"_s.arg(reply.integer),
                           [data](FieldList &fields) { drawing::setExtendedData(fields, u"AcCmTransparency"_s, data); }};
 }

@@ -167,6 +167,26 @@ bool isFinite(const FieldList &fields)
     });
 }
 
+/// What the session adds to withCurrentProperties(): a transparency of its own, and where lines and points, which lie
+/// in space, rise to.
+FieldList asNewEntity(Document &document, const FieldList &given)
+{
+    FieldList fields = withCurrentProperties(document.drawing(), given);
+    bool isNumber = false;
+    const QString usual = document.variables().text(u"CETRANSPARENCY");
+    const int percent = usual.toInt(&isNumber);
+    const bool isByBlock = usual.compare(u"ByBlock", Qt::CaseInsensitive) == 0;
+    const bool isPossible = document.drawing().version() >= drawing::Version::R2004;
+    if (isPossible && (isByBlock || (isNumber && percent >= 0 && percent <= 90)) && !drawing::findField(fields, 440))
+        fields.push_back({440, isByBlock ? transparencyByBlock : transparencyValue(percent)});
+    const QString type = fields.front().text();
+    const bool isInSpace = type == QStringLiteral("LINE") || type == QStringLiteral("POINT");
+    const Vec3 up = document.userAxes().zAxis;
+    if (isInSpace && drawing::findField(fields, 39) && !drawing::findField(fields, 210) && up != Vec3{0, 0, 1})
+        fields.push_back({210, up});
+    return fields;
+}
+
 } // namespace
 
 drawing::RecordId CommandContext::create(const FieldList &fields)
@@ -175,7 +195,7 @@ drawing::RecordId CommandContext::create(const FieldList &fields)
         fail(QStringLiteral("The numbers are too large."));
         return drawing::noRecord;
     }
-    const drawing::CreateResult made = createOnCurrent(drawing(), withCurrentProperties(drawing(), fields));
+    const drawing::CreateResult made = createOnCurrent(drawing(), asNewEntity(m_document, fields));
     if (!made)
         print(u'\n' + made.error);
     return made.record;
@@ -183,7 +203,7 @@ drawing::RecordId CommandContext::create(const FieldList &fields)
 
 drawing::RecordId CommandContext::createComplex(const FieldList &head, const std::vector<FieldList> &children)
 {
-    const drawing::CreateResult made = createOnCurrent(drawing(), withCurrentProperties(drawing(), head), children);
+    const drawing::CreateResult made = createOnCurrent(drawing(), asNewEntity(m_document, head), children);
     if (!made)
         print(u'\n' + made.error);
     return made.record;

@@ -112,8 +112,8 @@ public:
     /// objects: "; an option that it lists in brackets ends the selection as a keyword, with what was chosen so far.
     Selection selection(const QString &prompt = {});
 
-    /// Makes an entity in the current space with the current layer, colour, linetype, scale and weight where `fields`
-    /// do not say others, and prints the reason when that fails.
+    /// Makes an entity in the current space with the current layer, colour, linetype, scale, weight, thickness and
+    /// transparency where `fields` do not say others, and prints the reason when that fails.
     /// noRecord then.
     drawing::RecordId create(const drawing::FieldList &fields);
     /// The same for an entity with parts that end in a SEQEND, which is made too.

@@ -21,3 +21,20 @@
 (setvar "PICKBOX" 3) ;! CIRCLE|'PICKBOX|5|1,2|'_.ZOOM|C|0,0|40|3 ;= CIRCLE 10=1,2,0 40=3
 ;! CIRCLE|1,2|'CIRCLE|3 ;> may not be invoked transparently ;= CIRCLE 10=1,2,0 40=3
 (turned) ;! LINE|0,0|from|1,1|@2,0|<90|4| ;~ keeps ;= LINE 10=10,20,0 11=9,23,0; LINE 10=9,23,0 11=5,23,0
+
+; An empty first answer goes on from what was drawn last; behind an arc its length alone is asked for
+(line 0 0 3 4) ;! LINE||5,5| ;~ keeps ;= LINE 10=0,0,0 11=3,4,0; LINE 10=3,4,0 11=5,5,0
+(arc-at) ;! LINE||3| ;~ keeps ;= ARC 10=5,5,0 40=2 51=90; LINE 10=5,7,0 11=2,7,0
+(arc-at) ;! LINE||3|0,0|C ;~ keeps ;= ARC 10=5,5,0 40=2 51=90; LINE 10=5,7,0 11=2,7,0; LINE 10=2,7,0 11=0,0,0; LINE 10=0,0,0 11=5,7,0
+(command "CIRCLE" '(1 1) 2) ;! LINE| ;> No line or arc to continue. ;= CIRCLE 10=1,1,0 40=2
+
+; Thickness and transparency of new entities; what lies in space rises along the user's z axis
+(setvar "THICKNESS" 2.5) ;! LINE|0,0|1,0| ;~ keeps ;= LINE 10=0,0,0 11=1,0,0 39=2.5
+(tilted)(setvar "THICKNESS" 2.5) ;! LINE|0,0|1,0| ;~ keeps ;? (list (getfield 39) (getfield 210)) ;= (2.5 (0.0 -1.0 0.0))
+(setvar "THICKNESS" 2.5) ;! PLINE|0,0|1,0| ;~ keeps ;? (getfield 39) ;= 2.5
+(setvar "THICKNESS" 2.5) ;! 3DPOLY|0,0|1,0| ;~ keeps ;? (getfield 39) ;= nil
+(setvar "THICKNESS" 2.5) ;! RECTANG|T|0|0,0|1,1 ;? (getfield 39) ;= 0.0
+(setvar "THICKNESS" 2.5) ;! TEXT|0,0|1|0|AB ;? (getfield 39) ;= nil
+(setvar "CETRANSPARENCY" "40") ;! CIRCLE|1,2|5 ;? (getfield 440) ;= 33554585
+(setvar "CETRANSPARENCY" "ByBlock") ;! CIRCLE|1,2|5 ;? (getfield 440) ;= 16777216
+(setvar "CETRANSPARENCY" "ByLayer") ;! CIRCLE|1,2|5 ;? (getfield 440) ;= nil
