@@ -189,7 +189,51 @@ QString joinPolylines(CommandContext &context, CornerChanges &changes, const Cor
     return {};
 }
 
-/// A corner of one polyline, between neighbouring stretches or such with one stretch between.
+/// The cut of the corner that two stretches make, which come from `start` and go to `end`; without ends where there is
+/// none, and why.
+struct StretchCut
+{
+    std::optional<CutEnds> ends;
+    QString problem{};
+};
+
+StretchCut cutStretches(Vec2 start, Vec2 startEnd, Vec2 endStart, Vec2 end, const CornerCut &cut)
+{
+    const Vec2 in = startEnd - start;
+    const Vec2 out = end - endStart;
+    const double sine = cross(in, out);
+    if (!(std::abs(sine) > 1e-9 * in.length() * out.length()))
+        return {{}, u"The lines are parallel."_s};
+    const Vec2 corner = start + in * (cross(endStart - start, out) / sine);
+    const Vec2 back = (start - corner) * (1.0 / (start - corner).length());
+    const Vec2 on = (end - corner) * (1.0 / (end - corner).length());
+    const std::optional<CutEnds> ends = cutCorner(corner, back, on, cut);
+    if (!ends || ends->firstReach > (start - corner).length() || ends->secondReach > (end - corner).length())
+        return {{}, u"The corner has no room for that."_s};
+    return {ends};
+}
+
+/// An open polyline is closed by the corner of its last and its first stretch.
+QString closeByCorner(CornerChanges &changes, EditedPolyline polyline, const CornerCut &cut)
+{
+    std::vector<EditedVertex> &vertices = polyline.vertices;
+    const std::size_t last = vertices.size() - 1;
+    const StretchCut made = cutStretches(vertices[last - 1].point.xy(), vertices[last].point.xy(),
+                                         vertices[0].point.xy(), vertices[1].point.xy(), cut);
+    if (!made.ends)
+        return made.problem;
+    const double height = vertices[0].point.z;
+    vertices[0].point = {made.ends->second.x, made.ends->second.y, height};
+    vertices[last].point = {made.ends->first.x, made.ends->first.y, height};
+    vertices[last].bulge = made.ends->bulge;
+    if ((made.ends->first - made.ends->second).length() <= 1e-12)
+        vertices.pop_back();
+    polyline.isClosed = true;
+    changes.store(polyline);
+    return {};
+}
+
+/// A corner of one polyline, between neighbouring stretches or such with one stretch between, or between the ends.
 QString cutWithin(CornerChanges &changes, const CornerSession &session, const CornerSide &first,
                   const CornerSide &second)
 {
@@ -202,24 +246,19 @@ QString cutWithin(CornerChanges &changes, const CornerSession &session, const Co
     const std::size_t before = isInOrder ? first.stretch : second.stretch;
     const std::size_t behind = isInOrder ? second.stretch : first.stretch;
     const std::size_t between = (behind + count - before) % count;
+    const bool isByEnds = !polyline.isClosed && before == 0 && behind + 2 == count && between > 2;
+    CornerCut cut = session.current();
+    if (isInOrder == isByEnds)
+        std::swap(cut.first, cut.second);
+    if (isByEnds)
+        return closeByCorner(changes, polyline, cut);
     if (between < 1 || between > 2)
         return u"Only neighbouring stretches of a polyline make a corner."_s;
-    const Vec2 start = vertices[before].point.xy();
-    const Vec2 end = vertices[(behind + 1) % count].point.xy();
-    const Vec2 in = vertices[(before + 1) % count].point.xy() - start;
-    const Vec2 out = end - vertices[behind].point.xy();
-    const double sine = cross(in, out);
-    if (!(std::abs(sine) > 1e-9 * in.length() * out.length()))
-        return u"The lines are parallel."_s;
-    const Vec2 corner = start + in * (cross(vertices[behind].point.xy() - start, out) / sine);
-    CornerCut cut = session.current();
-    if (!isInOrder)
-        std::swap(cut.first, cut.second);
-    const Vec2 back = (start - corner) * (1.0 / (start - corner).length());
-    const Vec2 on = (end - corner) * (1.0 / (end - corner).length());
-    const std::optional<CutEnds> ends = cutCorner(corner, back, on, cut);
-    if (!ends || ends->firstReach > (start - corner).length() || ends->secondReach > (end - corner).length())
-        return u"The corner has no room for that."_s;
+    const StretchCut made = cutStretches(vertices[before].point.xy(), vertices[(before + 1) % count].point.xy(),
+                                         vertices[behind].point.xy(), vertices[(behind + 1) % count].point.xy(), cut);
+    if (!made.ends)
+        return made.problem;
+    const std::optional<CutEnds> &ends = made.ends;
     const double height = vertices[behind].point.z;
     EditedVertex begin = vertices[behind];
     begin.point = {ends->first.x, ends->first.y, height};

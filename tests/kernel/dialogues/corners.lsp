@@ -32,3 +32,7 @@
 (command "PLINE" '(0 0) '(10 0) '(10 6) "")(view) ;! CHAMFER|D|1|2|10,3|5,0 ;~ keeps ;= LWPOLYLINE 10=0,0 10=8,0 10=10,1 10=10,6
 (line 0 0 12 0)(command "CIRCLE" '(0 0) 5)(view) ;! CHAMFER|D|1|2|9,0|0,5 ;~ keeps ;> Only straight lines can be chamfered ;= LINE 10=0,0,0 11=12,0,0; CIRCLE 10=0,0,0 40=5
 (line 0 0 12 0)(line 0 3 12 3)(view) ;! CHAMFER|D|1|2|9,0|9,3 ;~ keeps ;> The lines are parallel ;= LINE 10=0,0,0 11=12,0,0; LINE 10=0,3,0 11=12,3,0
+; The first and the last stretch of an open polyline close it
+(command "PLINE" '(3 0) '(10 0) '(10 8) '(0 8) '(0 3) "")(view) ;! FILLET|R|1|0,5|5,0 ;~ keeps ;= LWPOLYLINE 70=1 10=1,0 10=10,0 10=10,8 10=0,8 10=0,1 42=0.414214
+(command "PLINE" '(3 0) '(10 0) '(10 8) '(0 8) '(0 3) "")(view) ;! FILLET|R|0|5,0|0,5 ;~ keeps ;= LWPOLYLINE 70=1 10=0,0 10=10,0 10=10,8 10=0,8
+(command "PLINE" '(3 0) '(10 0) '(10 8) '(0 8) '(0 3) "")(view) ;! CHAMFER|D|1|2|5,0|0,5 ;~ keeps ;= LWPOLYLINE 70=1 10=1,0 10=10,0 10=10,8 10=0,8 10=0,2
