@@ -18,9 +18,6 @@ using drawing::Vec3;
 using lisp::Arguments;
 using lisp::Value;
 
-/// What a set remembers of how it was chosen.
-using Steps = std::vector<SelectionStep>;
-
 bool isPointList(const Value &value)
 {
     return pointFrom(value.car()).has_value();
@@ -93,7 +90,7 @@ Value ssget(Arguments &args)
         return {};
     Value set = toLisp(args.interpreter(), chosen.entities);
     if (!chosen.steps.empty())
-        set.asSelectionSet().details = std::make_shared<const Steps>(chosen.steps);
+        set.asSelectionSet().details = std::make_shared<const SelectionSteps>(chosen.steps);
     return set;
 }
 
@@ -104,7 +101,7 @@ Value markedPoint(const Document &document, const Vec3 &point)
 }
 
 /// How each entity came in: its step, by the entity's name.
-std::unordered_map<std::uint64_t, std::size_t> stepsByEntity(const Steps &steps)
+std::unordered_map<std::uint64_t, std::size_t> stepsByEntity(const SelectionSteps &steps)
 {
     std::unordered_map<std::uint64_t, std::size_t> all;
     for (std::size_t i = 0; i < steps.size(); ++i)
@@ -136,7 +133,7 @@ Value ssnamex(Arguments &args)
 {
     const Document &document = documentOf(args);
     const lisp::SelectionSet &set = args.selectionSet(0);
-    const auto *steps = static_cast<const Steps *>(set.details.get());
+    const auto *steps = static_cast<const SelectionSteps *>(set.details.get());
     const auto byEntity = steps ? stepsByEntity(*steps) : std::unordered_map<std::uint64_t, std::size_t>();
     std::vector<bool> isTold(steps ? steps->size() : 0);
     lisp::ListBuilder list;

@@ -26,7 +26,7 @@ Dialogue<ObjectChoice> askObjects(CommandContext &context, QString prompt, QStri
             break;
     }
     context.document().setPreviousSelection(builder.entities());
-    co_return ObjectChoice{builder.entities(), builder.shapes(), option};
+    co_return ObjectChoice{builder.entities(), builder.steps(), option};
 }
 
 } // namespace host::kernel

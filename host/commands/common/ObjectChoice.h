@@ -16,8 +16,8 @@ class CommandContext;
 struct ObjectChoice
 {
     std::vector<drawing::RecordId> entities;
-    std::vector<SelectionShape> shapes; ///< by which they were found, for those that were
-    QString option;                     ///< that ended it; empty when an empty answer did
+    SelectionSteps steps; ///< how they were chosen
+    QString option;       ///< that ended it; empty when an empty answer did
 };
 
 /// When a selection ends.

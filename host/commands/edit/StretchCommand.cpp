@@ -39,27 +39,15 @@ struct StretchArea
     }
 };
 
-drawing::Path closedPolygon(const SelectionShape &shape)
-{
-    drawing::Path polygon = shape.corners;
-    if (shape.kind == ShapeKind::Crossing && polygon.size() == 2) {
-        const Vec3 a = polygon[0];
-        const Vec3 b = polygon[1];
-        polygon = {a, {b.x, a.y, a.z}, b, {a.x, b.y, a.z}};
-    }
-    polygon.push_back(polygon.front());
-    return polygon;
-}
-
-StretchArea areaOf(const std::vector<SelectionShape> &shapes)
+StretchArea areaOf(const SelectionSteps &steps)
 {
     StretchArea area;
-    for (const SelectionShape &shape : shapes) {
-        if (shape.kind != ShapeKind::Crossing && shape.kind != ShapeKind::CrossingPolygon)
+    for (const SelectionStep &step : steps) {
+        if (step.way != SelectionStep::Way::Crossing || step.points.empty())
             continue;
-        area.polygons.push_back(closedPolygon(shape));
-        for (const RecordId id : shape.found)
-            area.crossed.insert(id);
+        area.polygons.push_back(step.points);
+        area.polygons.back().push_back(step.points.front());
+        area.crossed.unite(QSet<RecordId>(step.found.begin(), step.found.end()));
     }
     return area;
 }
@@ -88,7 +76,7 @@ CommandTask stretch(CommandContext &context)
     if (entities.empty())
         co_return;
     const Vec3 by = co_await askMovement(context);
-    const StretchArea area = areaOf(chosen.shapes);
+    const StretchArea area = areaOf(chosen.steps);
     int refused = 0;
     for (const RecordId id : entities)
         refused += stretchOne(context, id, area, by) == drawing::StretchOutcome::Refused ? 1 : 0;

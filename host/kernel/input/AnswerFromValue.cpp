@@ -14,6 +14,7 @@ EntitiesAnswer members(const Document &document, const lisp::SelectionSet &set)
     for (std::uint64_t name : set.entities)
         if (const drawing::RecordId record = recordFrom(document, name); isValid(record))
             answer.entities.push_back(record);
+    answer.steps = std::static_pointer_cast<const SelectionSteps>(set.details);
     return answer;
 }
 

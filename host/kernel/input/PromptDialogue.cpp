@@ -274,10 +274,14 @@ PromptDialogue::Reading PromptDialogue::read(const EntityAnswer &answer)
 
 PromptDialogue::Reading PromptDialogue::read(const EntitiesAnswer &answer)
 {
+    // Where one entity is asked for, a set of one stands for it.
+    if (m_request.kind == PromptKind::Entity && answer.entities.size() == 1)
+        return read(EntityAnswer{answer.entities.front(), {}});
     if (m_request.kind != PromptKind::Selection)
         return refuse();
     PromptReply reply;
     reply.entities = answer.entities;
+    reply.steps = answer.steps;
     std::erase_if(reply.entities, [this](drawing::RecordId id) { return !m_document.drawing().isAlive(id); });
     return {reply, {}};
 }

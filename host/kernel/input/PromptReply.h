@@ -18,14 +18,15 @@ struct PromptReply
 {
     ReplyKind kind = ReplyKind::Value;
     qint32 integer = 0;
-    double real = 0.0;                       ///< Real, Distance; Angle and Orientation in radians
-    drawing::Vec3 point;                     ///< Point, Corner, and where an Entity was picked; world coordinates
-    QString text;                            ///< String, Keyword, Command
-    std::vector<drawing::RecordId> entities; ///< Entity, Selection
-    bool isRefused = false;                  ///< Cancelled: by an answer that the prompt does not take
-    bool isMiss = false;                     ///< Entity: empty because nothing was where the user picked
-    bool isShown = false;                    ///< Distance, Angle, Orientation: by points rather than typed
-    bool isWindow = false;                   ///< Selection: two corners follow in `point` and `corner`
+    double real = 0.0;                             ///< Real, Distance; Angle and Orientation in radians
+    drawing::Vec3 point;                           ///< Point, Corner, and where an Entity was picked; world coordinates
+    QString text;                                  ///< String, Keyword, Command
+    std::vector<drawing::RecordId> entities;       ///< Entity, Selection
+    std::shared_ptr<const SelectionSteps> steps{}; ///< Selection by a set: how that was chosen; null when unknown
+    bool isRefused = false;                        ///< Cancelled: by an answer that the prompt does not take
+    bool isMiss = false;                           ///< Entity: empty because nothing was where the user picked
+    bool isShown = false;                          ///< Distance, Angle, Orientation: by points rather than typed
+    bool isWindow = false;                         ///< Selection: two corners follow in `point` and `corner`
     drawing::Vec3 corner;
 
     bool hasValue() const { return kind == ReplyKind::Value; }

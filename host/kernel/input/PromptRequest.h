@@ -2,6 +2,7 @@
 
 #include "host/drawing/math/Vec.h"
 #include "host/drawing/records/Record.h"
+#include "host/kernel/input/SelectionStep.h"
 
 #include <QString>
 #include <QStringList>
@@ -99,6 +100,7 @@ struct EntityAnswer
 struct EntitiesAnswer
 {
     std::vector<drawing::RecordId> entities;
+    std::shared_ptr<const SelectionSteps> steps{}; ///< how a program chose them; null when that is not known
 };
 /// Two corners, world coordinates. From left to right it takes what lies within, from right to left what it crosses.
 struct WindowAnswer

@@ -111,8 +111,19 @@ void SelectionBuilder::addIdle(const PromptReply &reply)
         m_shapeByDirection = true;
         m_corners = {reply.point};
     } else {
-        take(reply.entities, {.way = SelectionStep::Way::Pick, .points = {reply.point}, .entities = {}});
+        takeAnswered(reply);
     }
+}
+
+/// What a program chose before keeps the steps by which it did.
+void SelectionBuilder::takeAnswered(const PromptReply &reply)
+{
+    const bool isKept = reply.steps && !m_isRemoving;
+    take(reply.entities, {.way = isKept ? SelectionStep::Way::Other : SelectionStep::Way::Pick,
+                          .points = isKept ? std::vector<drawing::Vec3>() : std::vector{reply.point},
+                          .entities = {}});
+    if (isKept)
+        m_steps.insert(m_steps.end(), reply.steps->begin(), reply.steps->end());
 }
 
 void SelectionBuilder::addWord(const QString &word)
@@ -169,10 +180,11 @@ void SelectionBuilder::finishShape()
         kind = m_corners[1].x < m_corners[0].x ? ShapeKind::Crossing : ShapeKind::Window;
     m_shape.reset();
     m_shapeByDirection = false;
-    std::vector<RecordId> found = Picker(m_document).inShape(kind, m_corners);
-    take(found, shapeStep(m_document, kind, m_corners));
+    const std::vector<RecordId> found = Picker(m_document).inShape(kind, m_corners);
+    SelectionStep step = shapeStep(m_document, kind, m_corners);
     if (!m_isRemoving)
-        m_shapes.push_back({kind, m_corners, std::move(found)});
+        step.found = found;
+    take(found, std::move(step));
 }
 
 void SelectionBuilder::take(const std::vector<RecordId> &found, SelectionStep step)
@@ -193,7 +205,7 @@ void SelectionBuilder::take(const std::vector<RecordId> &found, SelectionStep st
         }
     }
     std::erase_if(m_entities, [&](RecordId id) { return removed.contains(quint32(id)); });
-    if (!step.entities.empty())
+    if (!step.entities.empty() || !step.found.empty())
         m_steps.push_back(std::move(step));
     m_document.print(m_before.back().empty()
                          ? QStringLiteral("\n%1 found").arg(count)

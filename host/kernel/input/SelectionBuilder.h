@@ -2,6 +2,7 @@
 
 #include "host/kernel/input/Picker.h"
 #include "host/kernel/input/PromptReply.h"
+#include "host/kernel/input/SelectionStep.h"
 
 #include <QSet>
 
@@ -15,29 +16,6 @@ enum class SelectionSize
     Single ///< one step
 };
 
-/// A window, polygon or fence of a selection, and what it found.
-struct SelectionShape
-{
-    ShapeKind kind = ShapeKind::Window;
-    std::vector<drawing::Vec3> corners; ///< world coordinates; of a window two
-    std::vector<drawing::RecordId> found;
-};
-
-/// One step of choosing: how, where, and what came in by it.
-struct SelectionStep
-{
-    enum class Way
-    {
-        Other = 0, ///< all, last, previous, a program's own
-        Pick = 1,
-        Window = 2,
-        Crossing = 3,
-        Fence = 4
-    };
-    Way way = Way::Other;
-    std::vector<drawing::Vec3> points; ///< world coordinates: where it was picked, or the corners of the shape
-    std::vector<drawing::RecordId> entities;
-};
 /// What a shape counts as, and its corners: of a window all four, from the user's axes.
 SelectionStep shapeStep(const Document &document, ShapeKind kind, const std::vector<drawing::Vec3> &points);
 
@@ -66,15 +44,15 @@ public:
 
     bool isDone() const { return m_isDone; }
     bool isCancelled() const { return m_isCancelled; }
-    /// How it was chosen. An entity may be named in a step and have been taken out later.
-    const std::vector<SelectionStep> &steps() const { return m_steps; }
+    /// How it was chosen, what a program chose before and gave as a set included. An entity may be named in a step and
+    /// have been taken out later.
+    const SelectionSteps &steps() const { return m_steps; }
     /// What is chosen, in the order of choosing.
     const std::vector<drawing::RecordId> &entities() const { return m_entities; }
-    /// The shapes by which entities were added, in order.
-    const std::vector<SelectionShape> &shapes() const { return m_shapes; }
 
 private:
     void addIdle(const PromptReply &reply);
+    void takeAnswered(const PromptReply &reply);
     void addShapePoint(const PromptReply &reply);
     void addWord(const QString &word);
     void finishShape();
@@ -88,13 +66,12 @@ private:
     QStringList m_options;
     QString m_option;
     std::vector<drawing::RecordId> m_entities;
-    std::vector<SelectionShape> m_shapes;
     QSet<quint32> m_members;
     std::vector<std::vector<drawing::RecordId>> m_before; ///< for Undo: the selection before each step
     std::optional<ShapeKind> m_shape;                     ///< corners of it are being asked for
     bool m_shapeByDirection = false; ///< window or crossing, depending on where the second corner is
     std::vector<drawing::Vec3> m_corners;
-    std::vector<SelectionStep> m_steps;
+    SelectionSteps m_steps;
     bool m_isRemoving = false;
     bool m_isDone = false;
     bool m_isCancelled = false;

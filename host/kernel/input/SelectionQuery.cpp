@@ -131,6 +131,7 @@ SelectionOutcome choose(Document &document, const SelectionQuery &query)
     if (method.shape) {
         outcome.steps.push_back(shapeStep(document, *method.shape, query.points));
         outcome.steps.back().entities = outcome.entities;
+        outcome.steps.back().found = outcome.entities;
     }
     return outcome;
 }

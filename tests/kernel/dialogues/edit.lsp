@@ -79,3 +79,7 @@
 (line 0 0 2 0) ;! CHSPACE ;> Only a layout has both spaces. ;= LINE 10=0,0,0 11=2,0,0
 (sheet-port)(entmake '((0 . "LINE") (67 . 1) (10 20.0 20.0 0.0) (11 30.0 20.0 0.0))) ;! CHSPACE|L| ;> scaled by a factor of 2
 ;? (list (getfield 67) (getfield 10) (getfield 11)) ;= (0 (100.0 50.0 0.0) (120.0 50.0 0.0))
+(line 0 0 4 0)(line 2 0 9 9)(setq s (ssget "_C" '(3 -1) '(5 1))) ;! STRETCH|!s||0,0|1,2 ;= LINE 10=0,0,0 11=5,2,0; LINE 10=2,0,0 11=9,9,0
+(turned)(line 0 0 4 0)(setq s (ssget "_CP" '((-19 5) (-19 7) (-21 7) (-21 5)))) ;! STRETCH|!s||0,0|0,-1 ;= LINE 10=0,0,0 11=5,0,0
+(line 0 0 4 0)(setq s (ssget "_W" '(-1 -1) '(5 1))) ;! STRETCH|!s||0,0|1,2 ;= LINE 10=1,2,0 11=5,2,0
+(line 0 0 4 0) ;! STRETCH|ALL|C|3,-1|5,1||0,0|1,0 ;= LINE 10=0,0,0 11=5,0,0
