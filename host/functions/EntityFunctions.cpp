@@ -1,5 +1,6 @@
 // Entities by name: reading, changing, making, erasing.
 
+#include "host/drawing/records/Dictionaries.h"
 #include "host/drawing/records/Entities.h"
 #include "host/drawing/records/Journal.h"
 #include "host/drawing/records/Tables.h"
@@ -169,7 +170,8 @@ Value entmakex(Arguments &args)
     return outcome.ok && isValid(outcome.record) ? toLisp(outcome.record) : Value();
 }
 
-// (entdel entity) -> the name; erases it or brings it back. nil for parts of an entity and for table entries.
+// (entdel entity) -> the name; erases it or brings it back, with what it owns. nil for parts of an entity and for table
+// entries.
 Value entdel(Arguments &args)
 {
     drawing::Drawing &drawing = documentOf(args).drawing();
@@ -177,7 +179,8 @@ Value entdel(Arguments &args)
     const RecordKind kind = drawing.kind(record);
     if (kind != RecordKind::Entity && kind != RecordKind::Object)
         return {};
-    return drawing.setErased(record, drawing.isAlive(record)) ? args[0] : Value();
+    const bool isErased = drawing.dictionaries().setErasedWithOwned(record, drawing.isAlive(record));
+    return isErased ? args[0] : Value();
 }
 
 // (entupd entity) -> the name. The window follows every change by itself.

@@ -25,8 +25,7 @@ std::vector<RecordId> editable(CommandContext &context, std::vector<RecordId> en
 void eraseAll(CommandContext &context, const std::vector<RecordId> &entities)
 {
     for (const RecordId id : entities)
-        context.drawing().setErased(id, true);
-    context.drawing().dictionaries().eraseOwnedBy(entities);
+        context.drawing().dictionaries().setErasedWithOwned(id, true);
 }
 
 bool mayCopy(CommandContext &context, std::size_t entities, double copies)

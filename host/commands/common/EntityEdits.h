@@ -14,7 +14,7 @@ class CommandContext;
 
 /// Those of the entities that may be changed: not on locked layers.
 std::vector<drawing::RecordId> editable(CommandContext &context, std::vector<drawing::RecordId> entities);
-/// Takes entities out for good, with what they own in the drawing's objects. Costs one pass over the objects.
+/// Takes entities out for good, with what they own in the drawing's objects.
 void eraseAll(CommandContext &context, const std::vector<drawing::RecordId> &entities);
 /// Whether so many copies of so many entities may be made; the command fails with the reason otherwise.
 bool mayCopy(CommandContext &context, std::size_t entities, double copies);

@@ -1,5 +1,6 @@
 #include "host/drawing/geometry/TransformEntity.h"
 
+#include "host/drawing/geometry/OwnedCopies.h"
 #include "host/drawing/geometry/TransformFields.h"
 #include "host/drawing/records/Blocks.h"
 #include "host/drawing/records/Journal.h"
@@ -143,7 +144,21 @@ RecordId copyInto(Drawing &drawing, RecordId entity, RecordId container, Handle 
         drawing.insert(last, copy, RecordKind::EndChildren, copiedFields(drawing, end, drawing.handle(copy)));
     if (drawing.isType(copy, "DIMENSION"))
         copyPicture(drawing, copy);
+    copyOwnedObjects(drawing, entity, copy);
     return copy;
+}
+
+/// A copied viewport has a number of its own among those that stand where it does.
+void numberViewport(Drawing &drawing, RecordId viewport)
+{
+    qint64 last = 1;
+    for (const RecordId other : drawing.children(drawing.parent(viewport)))
+        if (other != viewport && drawing.isType(other, "VIEWPORT"))
+            last = std::max(last, drawing.tags(other).integer(69));
+    FieldList fields = drawing.fields(viewport);
+    if (Field *number = findField(fields, 69))
+        number->value = last + 1;
+    drawing.setFields(viewport, fields);
 }
 
 } // namespace
@@ -163,8 +178,14 @@ RecordId copyEntity(Drawing &drawing, RecordId entity)
 {
     if (!drawing.isAlive(entity) || drawing.kind(entity) != RecordKind::Entity)
         return noRecord;
+    const bool isViewport = drawing.isType(entity, "VIEWPORT");
+    if (isViewport && drawing.tags(entity).integer(69) == 1)
+        return noRecord; // the sheet itself
     const JournalGroup group(drawing.journal(), {});
-    return copyInto(drawing, entity, drawing.parent(entity), drawing.owner(entity));
+    const RecordId copy = copyInto(drawing, entity, drawing.parent(entity), drawing.owner(entity));
+    if (isViewport)
+        numberViewport(drawing, copy);
+    return copy;
 }
 
 RecordId copyEntityInto(Drawing &drawing, RecordId entity, RecordId block)

@@ -10,8 +10,9 @@ namespace host::drawing {
 /// circle, a skewed block reference); it is then as it was.
 bool transformEntity(Drawing &drawing, RecordId entity, const Matrix &matrix);
 
-/// Adds a copy of an entity and its children as the last of its container; reactors and extension dictionaries stay
-/// with the original. noRecord when it cannot be copied.
+/// Adds a copy of an entity and its children as the last of its container, with copies of what they own: clips and the
+/// other objects of extension dictionaries. Reactors stay with the original, and so do what ties a dimension to its
+/// objects and the representations by annotation scale, which say places. noRecord when it cannot be copied.
 RecordId copyEntity(Drawing &drawing, RecordId entity);
 /// As copyEntity(), but into a space, wherever the entity stands.
 RecordId copyEntityTo(Drawing &drawing, RecordId entity, Space space);

@@ -298,6 +298,28 @@ bool transformHatchOf(FieldList &fields, const Matrix &matrix)
     return transformHatch(fields, planeOf(fields, matrix));
 }
 
+/// The frame stays upright and what is seen in it grows with it. The one that stands for the sheet itself stays, and so
+/// does one that an entity of the sheet cuts off, which would be left behind.
+bool transformViewport(FieldList &fields, const Matrix &matrix)
+{
+    constexpr qint64 clippedFlag = 0x10000;
+    const auto integerOf = [&fields](int code) {
+        const Field *field = findField(fields, code);
+        return field ? field->integer() : 0;
+    };
+    const double lean = matrix.zAxis.xy().length();
+    if (integerOf(69) == 1 || (integerOf(90) & clippedFlag) != 0 || !isUniform(matrix) ||
+        lean > tolerance * matrix.zAxis.length())
+        return false;
+    if (Field *center = findField(fields, 10))
+        center->value = matrix.point(center->point());
+    for (const int size : {40, 41}) {
+        if (Field *field = findField(fields, size))
+            field->value = field->real() * matrix.xAxis.length();
+    }
+    return true;
+}
+
 using FieldsFunction = bool (*)(FieldList &, const Matrix &);
 
 constexpr std::pair<QStringView, FieldsFunction> transformFunctions[] = {
@@ -327,6 +349,7 @@ constexpr std::pair<QStringView, FieldsFunction> transformFunctions[] = {
     {u"LWPOLYLINE", transformLightPolyline},
     {u"DIMENSION", transformDimension},
     {u"HATCH", transformHatchOf},
+    {u"VIEWPORT", transformViewport},
 };
 
 } // namespace

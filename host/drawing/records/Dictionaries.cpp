@@ -5,6 +5,7 @@
 #include "host/drawing/tags/GroupCodes.h"
 
 #include <QMultiHash>
+#include <QSet>
 
 namespace host::drawing {
 
@@ -294,6 +295,40 @@ RecordId Dictionaries::ensureExtensionDictionary(RecordId record)
                   extension.end());
     m_drawing.setFields(record, fields);
     return dictionary;
+}
+
+std::vector<RecordId> Dictionaries::ownedBy(RecordId record) const
+{
+    std::vector<RecordId> owners = m_drawing.children(record);
+    owners.insert(owners.begin(), record);
+    const std::size_t parts = owners.size();
+    QSet<quint32> seen;
+    for (std::size_t i = 0; i < owners.size(); ++i) {
+        const Handle owner = m_drawing.handle(owners[i]);
+        for (const Field &field : owner.isNull() ? FieldList() : m_drawing.fields(owners[i])) {
+            const RecordId object = tagType(field.code) == TagType::Handle ? m_drawing.find(field.handle()) : noRecord;
+            const bool isOwned = isValid(object) && m_drawing.kind(object) == RecordKind::Object &&
+                                 m_drawing.owner(object) == owner && object != owners[i];
+            if (isOwned && !seen.contains(quint32(object))) {
+                seen.insert(quint32(object));
+                owners.push_back(object);
+            }
+        }
+    }
+    owners.erase(owners.begin(), owners.begin() + std::ptrdiff_t(parts));
+    return owners;
+}
+
+bool Dictionaries::setErasedWithOwned(RecordId record, bool erased)
+{
+    const JournalGroup group(m_drawing.journal(), {});
+    // The parts of a record are told only while it is there.
+    const std::vector<RecordId> owned = erased ? ownedBy(record) : std::vector<RecordId>();
+    if (!m_drawing.setErased(record, erased))
+        return false;
+    for (const RecordId object : erased ? owned : ownedBy(record))
+        m_drawing.setErased(object, erased);
+    return true;
 }
 
 void Dictionaries::eraseOwnedBy(const std::vector<RecordId> &records)

@@ -66,7 +66,13 @@ public:
     /// The same, made when there is none; noRecord in R12.
     RecordId ensureExtensionDictionary(RecordId record);
 
-    /// Erases the objects that these records own, and what those own in turn.
+    /// The objects that a record and its parts own, those of their extension dictionaries among them, and what they own
+    /// in turn, each behind its owner. Found by the references to them: one that is erased is among them as long as its
+    /// owner refers to it. Costs a pass over the tags of these records alone.
+    std::vector<RecordId> ownedBy(RecordId record) const;
+    /// As Drawing::setErased(), with the objects of ownedBy(): taken out they would be left without an owner.
+    bool setErasedWithOwned(RecordId record, bool erased);
+    /// Erases the objects that these records own, and what those own in turn. Costs a pass over all objects.
     void eraseOwnedBy(const std::vector<RecordId> &records);
 
 private:

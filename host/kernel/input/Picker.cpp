@@ -87,6 +87,17 @@ bool isChosen(const drawing::Outline &outline, ShapeKind kind, const std::vector
     return drawing::crossesPath(outline, corners);
 }
 
+/// Where an entity is found: a block reference that shows nothing at its insertion point.
+Box placeOf(Document &document, RecordId entity)
+{
+    Box box = document.entityExtents().of(entity);
+    if (!box.isEmpty() || !document.drawing().isType(entity, "INSERT"))
+        return box;
+    const drawing::TagList tags = document.drawing().tags(entity);
+    box.add(drawing::Matrix::fromExtrusion(tags.point(210, {0.0, 0.0, 1.0})).point(tags.point(10)));
+    return box;
+}
+
 } // namespace
 
 std::vector<RecordId> Picker::visible() const
@@ -139,7 +150,7 @@ std::vector<RecordId> Picker::touching(const Box &window) const
         if (next != known.end() && *next == id) {
             found.push_back(id);
             ++next;
-        } else if (m_document.boxes().box(id).isEmpty() && m_document.entityExtents().of(id).touchesFlat(window)) {
+        } else if (m_document.boxes().box(id).isEmpty() && placeOf(m_document, id).touchesFlat(window)) {
             found.push_back(id);
         }
     }
@@ -149,7 +160,7 @@ std::vector<RecordId> Picker::touching(const Box &window) const
 drawing::Outline Picker::outline(RecordId entity, drawing::WorkBudget &work) const
 {
     drawing::Outline own = drawing::entityOutline(m_document.drawing(), entity, work);
-    return own.pieces.empty() ? outlineOf(m_document.entityExtents().of(entity)) : own;
+    return own.pieces.empty() ? outlineOf(placeOf(m_document, entity)) : own;
 }
 
 NestedPick Picker::nestedAt(RecordId entity, const Vec3 &point) const

@@ -83,3 +83,11 @@
 (turned)(line 0 0 4 0)(setq s (ssget "_CP" '((-19 5) (-19 7) (-21 7) (-21 5)))) ;! STRETCH|!s||0,0|0,-1 ;= LINE 10=0,0,0 11=5,0,0
 (line 0 0 4 0)(setq s (ssget "_W" '(-1 -1) '(5 1))) ;! STRETCH|!s||0,0|1,2 ;= LINE 10=1,2,0 11=5,2,0
 (line 0 0 4 0) ;! STRETCH|ALL|C|3,-1|5,1||0,0|1,0 ;= LINE 10=0,0,0 11=5,0,0
+(door)(clipped) ;! COPY|L||0,0|0,5| ;~ keeps ;? (list (clip-codes '(70 10 71)) (eq (getfield 360) (cdr (assoc 360 (entget (entnext)))))) ;= ((2 (2.0 -1.0 0.0) 1) nil)
+(door)(clipped) ;! MIRROR|L||5,0|5,9| ;? (list (clip-codes '(70 71)) (value-of 41)) ;= ((2 1) -1.0)
+(door)(clipped) ;! ARRAY|L||R|1|3|20 ;? (clip-codes '(70 71)) ;= (2 1)
+(door)(clipped)(setq e (entlast) c (cdr (assoc -1 (clip-object))))(entdel e)(setq gone (entget c))(entdel e) ;! COPY|L||0,0|0,5| ;~ keeps
+;? (list gone (eq e (entnext)) (clip-codes '(70))) ;= (nil T (2))
+; A reference that shows nothing is found at its insertion point
+(label)(setvar "ATTREQ" 0)(command "-INSERT" "Label" '(5 5) 2 "" 0)(no-attributes)(view) ;! MOVE|5,5||0,0|1,0 ;? (getfield 10) ;= (6.0 5.0 0.0)
+(label)(setvar "ATTREQ" 0)(command "-INSERT" "Label" '(5 5) 2 "" 0)(no-attributes)(view) ;! ERASE|C|4,4|6,6| ;=

@@ -45,3 +45,8 @@
 (command "-VPORTS" "4") ;! -VPORTS|J ;> cannot be picked ;? (length (screen)) ;= 4
 (command "-VPORTS" "2" "" "-VPORTS" "S" "Two")(sheet) ;! MVIEW|R|Two|0,0|80,40 ;? (cdr (ports '(10 40 41))) ;= (((20.0 20.0 0.0) 40.0 40.0) ((60.0 20.0 0.0) 40.0 40.0))
 (sheet) ;! -VPORTS|10,20|110,70 ;? (length (ports '(69))) ;= 2
+
+; Viewports are moved, copied and scaled like other entities; the one that is the sheet itself is not
+(sheet-port) ;! MOVE|L||0,0|5,6 ;? (list (getfield 10) (getfield 40) (getfield 12)) ;= ((25.0 26.0 0.0) 40.0 (100.0 50.0))
+(sheet-port) ;! COPY|L||0,0|50,0| ;~ keeps ;? (list (getfield 10) (getfield 69)) ;= ((70.0 20.0 0.0) 3)
+(sheet-port) ;! SCALE|L||0,0|2 ;? (mapcar 'getfield '(10 40 41)) ;= ((40.0 40.0 0.0) 80.0 60.0)
