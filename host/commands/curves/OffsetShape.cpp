@@ -237,7 +237,6 @@ std::vector<OffsetSlice> farSlices(const EntityCurve &raw, const EntityCurve &or
     const CurveDistance away(original);
     // Turns so small that their crossing counts as a joint leave what is a little too near.
     const double least = std::abs(distance) * (1.0 - nearlyAway) - 4.0 * original.tolerance();
-    const double reach = 10.0 * raw.tolerance();
     std::vector<OffsetSlice> slices;
     for (std::size_t i = 1; i < cuts.size(); ++i) {
         const double width = cuts[i] - cuts[i - 1];
