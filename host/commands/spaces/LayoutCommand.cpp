@@ -1,4 +1,5 @@
 #include "host/commands/Commands.h"
+#include "host/commands/spaces/LayoutFiles.h"
 #include "host/drawing/editing/LayoutEdits.h"
 #include "host/drawing/records/Blocks.h"
 #include "host/kernel/documents/CurrentSpace.h"
@@ -115,6 +116,16 @@ Dialogue<bool> makeCurrent(CommandContext &context)
     co_return true;
 }
 
+Dialogue<bool> saveOne(CommandContext &context)
+{
+    const QString question = u"Enter layout to save to template: "_s;
+    const auto layout = co_await askForLayout(context, question, offeredSheet(context));
+    if (!layout)
+        co_return false;
+    const bool isSaved = co_await saveLayoutToFile(context, *layout);
+    co_return isSaved;
+}
+
 CommandTask layout(CommandContext &context)
 {
     const PromptReply option =
@@ -135,8 +146,10 @@ CommandTask layout(CommandContext &context)
         co_await makeCurrent(context);
     else if (what == u"?")
         listLayouts(context);
+    else if (what == u"Template")
+        co_await takeLayoutsFromFile(context);
     else
-        context.fail(u"Layouts of other drawings are neither read nor written here."_s);
+        co_await saveOne(context);
 }
 
 } // namespace

@@ -190,7 +190,8 @@ MergeResult mergeSheets(const Drawing &source, const std::vector<MergedSheet> &s
         return result;
     const JournalGroup group(target.journal(), u"merge"_s);
     SheetMerger merger(source, target, rules);
-    merger.addModel();
+    if (rules.takesModel)
+        merger.addModel();
     for (const MergedSheet &sheet : sheets)
         result.sheets.push_back(merger.addSheetOf(*findLayout(source, sheet.layout), sheet.name));
     merger.finish(result);

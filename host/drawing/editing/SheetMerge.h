@@ -20,6 +20,7 @@ struct MergeRules
     NameClash clash = NameClash::Keep;
     QString prefix{};             ///< of definitions that clash
     bool takesEmptySheet = false; ///< the target's only sheet is the first of them when nothing is on it
+    bool takesModel = true;       ///< the source's model space comes along
     Vec3 modelOffset{};           ///< where the origin of the source's model space comes to lie in the target's
 };
 

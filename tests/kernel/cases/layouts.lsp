@@ -21,3 +21,11 @@
 (command "LAYOUT" "N" "Plan")(command "ZOOM" "C" '(5 6) 70)(setvar "CTAB" "Plan") ;= "Plan"
 (command "ZOOM" "C" '(100 200) 30)(setvar "CTAB" "Model")(list (getvar "VIEWCTR") (getvar "VIEWSIZE")) ;= ((5.0 6.0 0.0) 70.0)
 (setvar "CTAB" "Plan")(list (getvar "VIEWCTR") (getvar "VIEWSIZE")) ;= ((100.0 200.0 0.0) 30.0)
+
+; Sheets go to files and come from them, without what is in model space
+(command "LINE" '(0 0) '(9 9) "" "LAYOUT" "N" "Plan" "LAYOUT" "S" "Plan" "LINE" '(1 2) '(3 4) "")(null (setq f (strcat dir "plan.dxf"))) ;= nil
+(command "LAYOUT" "SA" "Plan" (strcat dir "plan"))(if (findfile f) T) ;= T
+(command "LAYOUT" "T" f "*")(layoutlist) ;= ("Layout1" "Plan" "Plan (2)")
+(setvar "CTAB" "Plan (2)")(setq s (ssget "A"))(list (sslength s) (cdr (assoc 10 (entget (ssname s 0))))) ;= (1 (1.0 2.0 0.0))
+(sslength (ssget "X" '((410 . "Model")))) ;= 1
+(command "LAYOUT" "T" f "None") ;> Layout "None" not found ;= nil

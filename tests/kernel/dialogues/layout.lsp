@@ -21,5 +21,5 @@
 (plan) ;! LAYOUT||layout1 ;? (getvar "CTAB") ;= "Layout1"
 ;! LAYOUT|S|none ;> Layout "none" not found. ;? (getvar "CTAB") ;= "Model"
 ;! LAYOUT|? ;> Layout: Model	Block name: *Model_Space. ;? (getvar "CTAB") ;= "Model"
-;! LAYOUT|T ;> Layouts of other drawings are neither read nor written here. ;? (tabs) ;= ("Model" "Layout1")
-;! LAYOUT|SA ;> Layouts of other drawings are neither read nor written here. ;? (tabs) ;= ("Model" "Layout1")
+;! LAYOUT|T|nosuch ;> Cannot find file "nosuch" ;? (tabs) ;= ("Model" "Layout1")
+;! LAYOUT|SA|Model|x ;> there is no sheet "Model" ;? (tabs) ;= ("Model" "Layout1")

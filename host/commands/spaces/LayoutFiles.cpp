@@ -1,0 +1,126 @@
+#include "host/commands/spaces/LayoutFiles.h"
+
+#include "host/drawing/editing/LayoutEdits.h"
+#include "host/drawing/editing/SheetMerge.h"
+#include "host/drawing/file/Recovery.h"
+#include "host/drawing/file/Save.h"
+#include "host/drawing/records/Layouts.h"
+#include "host/drawing/selection/Wildcard.h"
+#include "host/kernel/documents/Session.h"
+#include "host/kernel/running/CommandContext.h"
+#include "host/kernel/variables/SystemVariables.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+using namespace Qt::StringLiterals;
+
+namespace host::kernel {
+
+namespace {
+
+/// Sheets alone: what their viewports show is the model of the drawing that they come into.
+constexpr bool withoutModel = false;
+
+QString withDrawingEnding(const QString &typed)
+{
+    const QString name = typed.trimmed();
+    return QFileInfo(name).suffix().isEmpty() ? name + u".dxf"_s : name;
+}
+
+std::vector<drawing::LayoutTab> sheetsNamed(const drawing::Drawing &source, const QString &names)
+{
+    std::vector<drawing::LayoutTab> sheets = drawing::layoutTabs(source);
+    std::erase_if(sheets, [&](const drawing::LayoutTab &tab) {
+        return tab.isModel() || !drawing::matchesWildcard(tab.name, names);
+    });
+    return sheets;
+}
+
+/// Each by itself, so that the free name of the next is looked for among all.
+void addSheets(CommandContext &context, const drawing::Drawing &source, const std::vector<drawing::LayoutTab> &sheets)
+{
+    drawing::Drawing &target = context.drawing();
+    for (const drawing::LayoutTab &sheet : sheets) {
+        const bool isTaken = drawing::findLayout(target, sheet.name).has_value();
+        const QString name = isTaken ? drawing::freeCopyName(target, sheet.name) : sheet.name;
+        const drawing::MergeResult made =
+            drawing::mergeSheets(source, {{sheet.name, name}}, target, {.takesModel = withoutModel});
+        if (!made)
+            return context.fail(u"Layout \"%1\": %2."_s.arg(sheet.name, made.error));
+        context.print(u"\nLayout \"%1\" created."_s.arg(name));
+        if (made.skipped > 0)
+            context.print(u" %1 of its entities could not be taken over."_s.arg(made.skipped));
+    }
+}
+
+/// Whether the file may be written, which the user is asked about where there is one already.
+Dialogue<bool> mayWrite(CommandContext &context, QString path)
+{
+    Document &document = context.document();
+    if (const auto obstacle = obstacleToWriting(path, &document.session())) {
+        document.session().tellNotWritten(obstacle->text);
+        context.fail(obstacle->text);
+        co_return false;
+    }
+    if (!QFileInfo::exists(path) || document.variables().integer(u"EXPERT") >= 2)
+        co_return true;
+    const QString question = u"%1 already exists. Replace it? [Yes/No] <No>: "_s.arg(path);
+    const PromptReply replace = co_await context.keyword(question, u"Yes No"_s, u"No"_s);
+    co_return replace.text == u"Yes"_s;
+}
+
+} // namespace
+
+Dialogue<bool> takeLayoutsFromFile(CommandContext &context)
+{
+    const PromptReply file = co_await context.text(u"Enter template file name: "_s);
+    if (!file.hasValue())
+        co_return false;
+    const QString path = context.document().findFile(withDrawingEnding(file.text));
+    if (path.isEmpty()) {
+        context.fail(u"Cannot find file \"%1\"."_s.arg(file.text.trimmed()));
+        co_return false;
+    }
+    const drawing::ReadResult source = drawing::Drawing::open(path);
+    if (!source) {
+        context.fail(u"%1: %2"_s.arg(path, drawing::openingError(source)));
+        co_return false;
+    }
+    const PromptReply names = co_await context.text(u"Enter layout name(s): "_s);
+    const QString pattern = names.hasValue() ? names.text.trimmed() : QString();
+    const std::vector<drawing::LayoutTab> sheets = sheetsNamed(*source.drawing, pattern);
+    if (sheets.empty())
+        context.fail(u"Layout \"%1\" not found in %2."_s.arg(pattern, path));
+    else
+        addSheets(context, *source.drawing, sheets);
+    co_return !context.hasFailed();
+}
+
+Dialogue<bool> saveLayoutToFile(CommandContext &context, drawing::LayoutTab layout)
+{
+    const PromptReply file = co_await context.text(u"Enter file name to save layout to: "_s);
+    if (!file.hasValue() || file.text.trimmed().isEmpty())
+        co_return false;
+    const QString path = QFileInfo(QDir::current(), withDrawingEnding(file.text)).absoluteFilePath();
+    const bool isWanted = co_await mayWrite(context, path);
+    if (!isWanted)
+        co_return false;
+    const std::unique_ptr<drawing::Drawing> made = drawing::newDrawingLike(context.drawing());
+    // The sheet that the new drawing has already makes place for the one to save.
+    const bool isRenamed = drawing::renameSheet(*made, made->layouts().paperName(), u"_"_s);
+    const drawing::MergeRules rules{.takesEmptySheet = isRenamed, .takesModel = withoutModel};
+    const drawing::MergeResult merged =
+        drawing::mergeSheets(context.drawing(), {{layout.name, layout.name}}, *made, rules);
+    if (!merged) {
+        context.fail(u"Layout \"%1\": %2."_s.arg(layout.name, merged.error));
+        co_return false;
+    }
+    if (const drawing::SaveResult saved = drawing::saveCopy(*made, path); !saved)
+        context.fail(saved.error);
+    else
+        context.print(u"\n%1 was written."_s.arg(path));
+    co_return !context.hasFailed();
+}
+
+} // namespace host::kernel
