@@ -1,5 +1,6 @@
 #include "host/kernel/documents/CurrentSpace.h"
 
+#include "host/drawing/editing/Viewports.h"
 #include "host/drawing/geometry/TransformEntity.h"
 #include "host/drawing/records/Blocks.h"
 #include "host/drawing/records/HeaderVariables.h"
@@ -35,6 +36,21 @@ int currentViewportNumber(const drawing::Drawing &drawing)
     if (isValid(viewport))
         return int(drawing.tags(viewport).integer(numberCode, firstOther));
     return isModelTab(drawing) ? firstOther : sheetItself;
+}
+
+std::optional<drawing::RecordId> viewportNumbered(const drawing::Drawing &drawing, int number)
+{
+    constexpr int numberCode = 69;
+    if (number == (isModelTab(drawing) ? 2 : 1))
+        return drawing::noRecord;
+    const auto sheet = drawing::findLayout(drawing, currentLayout(drawing));
+    if (isModelTab(drawing) || !sheet)
+        return std::nullopt;
+    for (const drawing::RecordId viewport : drawing::viewportsOf(drawing, *sheet))
+        if (drawing.tags(viewport).integer(numberCode) == number &&
+            !drawing::hasViewportFlag(drawing, viewport, drawing::SwitchedOffViewport))
+            return viewport;
+    return std::nullopt;
 }
 
 drawing::Space currentSpace(const drawing::Drawing &drawing)

@@ -28,6 +28,9 @@ bool setCurrentLayout(drawing::Drawing &drawing, const QString &name);
 drawing::RecordId currentViewport(const drawing::Drawing &drawing);
 /// As CVPORT has it: 1 on the sheet itself, that of the viewport, 2 where model space is shown by itself.
 int currentViewportNumber(const drawing::Drawing &drawing);
+/// The viewport of that number on the current sheet, where it is on; noRecord for the sheet itself and model space, and
+/// nothing for a number of none.
+std::optional<drawing::RecordId> viewportNumbered(const drawing::Drawing &drawing, int number);
 
 /// The block of the current layout where its entities stand in it; noRecord for those in the ENTITIES section.
 drawing::RecordId restingSheet(const drawing::Drawing &drawing);

@@ -1,6 +1,7 @@
 // Views and viewports, the user coordinate system, grid and snap, and what bodies look like.
 
 #include "host/drawing/records/HeaderVariables.h"
+#include "host/drawing/records/Layouts.h"
 #include "host/drawing/records/Tables.h"
 #include "host/kernel/documents/CurrentSpace.h"
 #include "host/kernel/documents/CurrentView.h"
@@ -82,10 +83,22 @@ VariableValue viewportNumber(const Document &document)
     return currentViewportNumber(document.drawing());
 }
 
+std::optional<VariableValue> acceptedViewport(const Document &document, const VariableValue &value)
+{
+    const bool isThere = viewportNumbered(document.drawing(), std::get<qint32>(value)).has_value();
+    return isThere ? std::optional(value) : std::nullopt;
+}
+
+void setViewport(Document &document, const VariableValue &value)
+{
+    if (const auto viewport = viewportNumbered(document.drawing(), std::get<qint32>(value)))
+        document.drawing().layouts().setCurrentViewport(*viewport);
+}
+
 /// The view, and where it is looked from.
 VariableRows viewRows()
 {
-    return {computed("CVPORT", viewportNumber),
+    return {settable(setViewport, 2, checked(acceptedViewport, computed("CVPORT", viewportNumber))),
             computed("SCREENSIZE", screenPixels),
             computed("VIEWCTR", viewCentre),
             computed("VIEWSIZE", viewHeight),

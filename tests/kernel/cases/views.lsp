@@ -16,3 +16,11 @@
 (command "PSPACE") ;> Already in paper space ;= nil
 (command "MSPACE")(command "ERASE" (ssget "X" '((0 . "VIEWPORT"))) "")(getvar "CVPORT") ;= 1
 (command "U")(setvar "CTAB" "Model")(setvar "CTAB" "Layout1")(getvar "CVPORT") ;= 1
+
+; The viewport to work in, by its number
+(setvar "CTAB" "Layout1")(command "MVIEW" '(0 0) '(100 100))(command "MVIEW" '(200 0) '(300 100))(getvar "CVPORT") ;= 1
+(setvar "CVPORT" 3)(list (getvar "CVPORT") (getvar "CTAB")) ;= (3 "Layout1")
+(setvar "CVPORT" 2)(command "LINE" '(0 0) '(1 1) "")(cdr (assoc 410 (entget (entlast)))) ;= "Model"
+(setvar "CVPORT" 1)(command "LINE" '(0 0) '(1 1) "")(cdr (assoc 410 (entget (entlast)))) ;= "Layout1"
+(setvar "CVPORT" 9) ;= error: variable setting rejected: "CVPORT" 9 (out of range) in (SETVAR)
+(setvar "CTAB" "Model")(setvar "CVPORT" 2) ;= 2
