@@ -103,7 +103,7 @@ void defineBlock(CommandContext &context, const QString &name, const Matrix &axe
         if (const RecordId copy = drawing::copyEntityInto(drawing, id, block); isValid(copy))
             copies.push_back(copy);
     transformAll(context, copies, axes.inverted());
-    eraseAll(context, entities);
+    takeOut(context, entities);
 }
 
 // Name, base point and entities, which become the block's and leave the drawing.

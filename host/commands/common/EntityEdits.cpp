@@ -2,6 +2,7 @@
 
 #include "host/drawing/geometry/TransformEntity.h"
 #include "host/drawing/records/Dictionaries.h"
+#include "host/kernel/documents/Document.h"
 #include "host/kernel/input/SelectionQuery.h"
 #include "host/kernel/running/CommandContext.h"
 
@@ -26,6 +27,26 @@ void eraseAll(CommandContext &context, const std::vector<RecordId> &entities)
 {
     for (const RecordId id : entities)
         context.drawing().dictionaries().setErasedWithOwned(id, true);
+}
+
+void takeOut(CommandContext &context, const std::vector<RecordId> &entities)
+{
+    const drawing::Drawing &drawing = context.drawing();
+    std::vector<RecordId> objects;
+    for (RecordId id = drawing.first(); isValid(id); id = drawing.next(id))
+        if (drawing.kind(id) == drawing::RecordKind::Object)
+            objects.push_back(id);
+    eraseAll(context, entities);
+    std::erase_if(objects, [&](RecordId id) { return drawing.isAlive(id); });
+    objects.insert(objects.begin(), entities.begin(), entities.end());
+    rememberTakenOut(context, std::move(objects));
+}
+
+void rememberTakenOut(CommandContext &context, std::vector<RecordId> records)
+{
+    CommandMemory &memory = context.document().memory();
+    memory.takenOut = std::move(records);
+    memory.undosBefore = context.document().undoSteps().undoCount();
 }
 
 bool mayCopy(CommandContext &context, std::size_t entities, double copies)

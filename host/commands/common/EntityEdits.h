@@ -16,6 +16,10 @@ class CommandContext;
 std::vector<drawing::RecordId> editable(CommandContext &context, std::vector<drawing::RecordId> entities);
 /// Takes entities out for good, with what they own in the drawing's objects.
 void eraseAll(CommandContext &context, const std::vector<drawing::RecordId> &entities);
+/// The same of entities that OOPS brings back, with all that goes with them. Looks at every record.
+void takeOut(CommandContext &context, const std::vector<drawing::RecordId> &entities);
+/// What was erased is what OOPS brings back.
+void rememberTakenOut(CommandContext &context, std::vector<drawing::RecordId> records);
 /// Whether so many copies of so many entities may be made; the command fails with the reason otherwise.
 bool mayCopy(CommandContext &context, std::size_t entities, double copies);
 void transformAll(CommandContext &context, const std::vector<drawing::RecordId> &entities,

@@ -22,8 +22,11 @@ using drawing::Vec3;
 CommandTask erase(CommandContext &context)
 {
     const PromptReply chosen = co_await context.selection();
-    for (RecordId id : editable(context, chosen.entities))
+    const std::vector<RecordId> doomed = editable(context, chosen.entities);
+    for (RecordId id : doomed)
         context.drawing().setErased(id, true);
+    if (!doomed.empty())
+        rememberTakenOut(context, doomed);
 }
 
 // Base point and second point, or a displacement; an empty second point takes the first one as the displacement.

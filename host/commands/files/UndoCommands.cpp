@@ -1,6 +1,9 @@
 #include "host/commands/Commands.h"
 #include "host/kernel/documents/Document.h"
 #include "host/kernel/running/CommandContext.h"
+#include "host/kernel/running/Dialogue.h"
+
+#include <limits>
 
 using namespace Qt::StringLiterals;
 
@@ -8,21 +11,59 @@ namespace host::kernel {
 
 namespace {
 
-void report(CommandContext &context, int done, const QString &otherwise)
+/// Takes back steps and names them.
+void takeBack(CommandContext &context, int count)
 {
-    if (done == 0)
-        context.print(u'\n' + otherwise);
+    UndoSteps &steps = context.document().undoSteps();
+    QStringList names;
+    while (names.size() < count && steps.canUndo()) {
+        const QString name = steps.undoName();
+        if (steps.undo() == 0)
+            break;
+        names.append(name);
+    }
+    if (!names.isEmpty())
+        context.print(u'\n' + names.join(u' '));
+    if (names.size() < count)
+        context.print(u"\nEverything has been undone."_s);
 }
 
 CommandTask undoOne(CommandContext &context)
 {
-    UndoSteps &steps = context.document().undoSteps();
-    const QString name = steps.undoName();
-    if (steps.undo() > 0)
-        context.print(u'\n' + name);
-    else
-        context.print(u"\nEverything has been undone."_s);
+    takeBack(context, 1);
     co_return;
+}
+
+/// Undo is always on here; what the options ask next is taken, so that programs and scripts go on in step.
+Dialogue<bool> askSetting(CommandContext &context, bool isAuto)
+{
+    if (isAuto) {
+        co_await context.keyword(u"Enter UNDO Auto mode [ON/OFF] <ON>: "_s, {}, u"ON"_s);
+        co_return true;
+    }
+    const PromptReply control =
+        co_await context.keyword(u"Enter an UNDO control option [All/None/One/Combine/Layer] <All>: "_s, {}, u"All"_s);
+    if (control.text == u"Combine"_s)
+        co_await context.keyword(u"Combine zoom and pan operations? [Yes/No] <Yes>: "_s, {}, u"Yes"_s);
+    else if (control.text == u"Layer"_s)
+        co_await context.keyword(u"Combine layer property changes? [Yes/No] <Yes>: "_s, {}, u"Yes"_s);
+    else if (control.text == u"None"_s || control.text == u"One"_s)
+        context.print(u"\nUndo is always on."_s);
+    co_return true;
+}
+
+/// To the last mark; where there is none, all of it, if the user wants that.
+Dialogue<bool> goBack(CommandContext &context)
+{
+    UndoSteps &steps = context.document().undoSteps();
+    if (!steps.hasMark()) {
+        const PromptReply sure =
+            co_await context.keyword(u"This will undo everything. OK? [Yes/No] <Yes>: "_s, {}, u"Yes"_s);
+        if (sure.text == u"No"_s)
+            co_return false;
+    }
+    steps.back();
+    co_return true;
 }
 
 // A number of steps, or BEgin, End, Mark, Back.
@@ -30,26 +71,59 @@ CommandTask undo(CommandContext &context)
 {
     const PromptReply reply = co_await context.integer(
         u"Enter the number of operations to undo or [Auto/Control/BEgin/End/Mark/Back] <1>: "_s,
-        u"Auto Control BEgin End Mark Back"_s, u"1"_s);
+        u"Auto Control BEgin End Mark Back Group"_s, u"1"_s, NoNegative | NoZero);
     UndoSteps &steps = context.document().undoSteps();
-    if (reply.isKeyword(u"BEgin"))
+    if (reply.isKeyword(u"BEgin") || reply.isKeyword(u"Group"))
         steps.begin();
     else if (reply.isKeyword(u"End"))
         steps.end();
     else if (reply.isKeyword(u"Mark"))
         steps.mark();
     else if (reply.isKeyword(u"Back"))
-        steps.back();
+        co_await goBack(context);
     else if (reply.kind == ReplyKind::Keyword)
-        // Undo is always on here; what the option asks next is taken so that scripts go on in step.
-        co_await context.name(u"Undo is always on. Setting: "_s);
+        co_await askSetting(context, reply.isKeyword(u"Auto"));
     else
-        report(context, steps.undo(reply.hasValue() ? reply.integer : 1), u"Everything has been undone."_s);
+        takeBack(context, reply.hasValue() ? reply.integer : 1);
+}
+
+void redoSteps(CommandContext &context, int count)
+{
+    if (context.document().undoSteps().redo(count) == 0)
+        context.print(u"\nThere is nothing to redo."_s);
 }
 
 CommandTask redo(CommandContext &context)
 {
-    report(context, context.document().undoSteps().redo(), u"There is nothing to redo."_s);
+    redoSteps(context, 1);
+    co_return;
+}
+
+// A number of steps, all that were undone, or the last one.
+CommandTask redoMany(CommandContext &context)
+{
+    const PromptReply reply = co_await context.integer(u"Enter number of actions or [All/Last]: "_s, {}, {},
+                                                       NoEmptyAnswer | NoNegative | NoZero);
+    redoSteps(context, reply.isKeyword(u"All")    ? std::numeric_limits<int>::max()
+                       : reply.isKeyword(u"Last") ? 1
+                                                  : reply.integer);
+}
+
+/// Brings back what ERASE, or the making of a block, took out last, also behind other commands.
+CommandTask oops(CommandContext &context)
+{
+    drawing::Drawing &drawing = context.drawing();
+    const CommandMemory &memory = context.document().memory();
+    const bool isUndone = memory.undosBefore != context.document().undoSteps().undoCount();
+    int count = 0;
+    for (const drawing::RecordId id : memory.takenOut) {
+        if (isUndone || drawing.isAlive(id))
+            continue;
+        drawing.setErased(id, false);
+        ++count;
+    }
+    if (count == 0)
+        context.print(u"\nThere is nothing to bring back."_s);
     co_return;
 }
 
@@ -57,7 +131,9 @@ CommandTask redo(CommandContext &context)
 
 std::vector<CommandRow> undoCommands()
 {
-    return {{"REDO", redo, "Does again what was undone last"},
+    return {{"MREDO", redoMany, "Does again what was undone, several steps at once"},
+            {"OOPS", oops, "Brings back what was erased last"},
+            {"REDO", redo, "Does again what was undone last"},
             {"U", undoOne, "Takes back the last step"},
             {"UNDO", undo, "Takes back steps; marks and groups them"}};
 }

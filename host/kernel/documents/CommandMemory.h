@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/drawing/math/Matrix.h"
+#include "host/drawing/records/Drawing.h"
 #include "host/drawing/tags/Tag.h"
 
 #include <QHash>
@@ -26,9 +27,11 @@ struct CommandMemory
 {
     std::vector<UserSystem> formerModelSystems; ///< oldest first, the last ten
     std::vector<UserSystem> formerSheetSystems;
-    std::vector<LayerStates> formerLayers; ///< before each command over layers, oldest first, the last ten
-    LayerStates beforeIsolation;           ///< by LAYISO, for LAYUNISO; empty when there is none
-    bool isolationTurnsOff = false;        ///< LAYISO turns layers off instead of locking them
+    std::vector<LayerStates> formerLayers;   ///< before each command over layers, oldest first, the last ten
+    LayerStates beforeIsolation;             ///< by LAYISO, for LAYUNISO; empty when there is none
+    std::vector<drawing::RecordId> takenOut; ///< by the last ERASE or making of a block, for OOPS
+    int undosBefore = 0;                     ///< UndoSteps::undoCount() at that time
+    bool isolationTurnsOff = false;          ///< LAYISO turns layers off instead of locking them
 };
 
 } // namespace host::kernel

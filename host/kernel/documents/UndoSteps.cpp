@@ -89,6 +89,7 @@ void UndoSteps::back()
     }
     while (!m_steps.empty() && m_steps.back().depthBefore >= depth)
         undoOne();
+    ++m_undoCount;
     openJournalGroup();
 }
 
@@ -98,6 +99,7 @@ int UndoSteps::undo(int count)
     int done = 0;
     for (; done < count && !m_steps.empty(); ++done)
         undoOne();
+    m_undoCount += done > 0 ? 1 : 0;
     openJournalGroup();
     return done;
 }

@@ -40,10 +40,14 @@ public:
     void mark();
     /// Undoes to the last mark, which is used up; everything when there is none.
     void back();
+    bool hasMark() const { return !m_marks.empty(); }
 
     /// Takes back up to `count` steps; how many there were.
     int undo(int count = 1);
     int redo(int count = 1);
+    /// How many calls of undo() and back() took something back: records that were erased before one of them may not be
+    /// brought back behind it, since what they refer to may never have been.
+    int undoCount() const { return m_undoCount; }
     bool canUndo() const { return !m_steps.empty(); }
     bool canRedo() const { return !m_undone.empty(); }
     QString undoName() const { return m_steps.empty() ? QString() : m_steps.back().name; }
@@ -72,6 +76,7 @@ private:
     std::optional<int> m_groupStart;
     std::vector<int> m_groupEnds; ///< journal depths where the run closed groups
     QString m_runName;
+    int m_undoCount = 0;
     int m_runDepth = 0; ///< how many runs are nested
     int m_runStart = 0; ///< journal depth at the begin of the outermost run
     int m_boundary = 0; ///< journal depth at the last boundary

@@ -48,3 +48,13 @@
 (setvar "CMDECHO" 0) ;= 0
 (getvar "LTSCALE") ;! U\n ;= 7.5
 (getvar "LTSCALE") ;! U\n ;= 1.0
+
+; What was erased last comes back behind other commands, but not behind an undo
+(add)(command "ERASE" "L" "")(point)(command "OOPS")(left) ;= (3 . 1)
+(command "OOPS")(left) ;> There is nothing to bring back ;= (3 . 1)
+(command "-BLOCK" "B" '(0 0) (entlast) "")(command "OOPS")(left) ;= (3 . 1)
+(command "ERASE" "L" "")(command "U")(command "OOPS")(left) ;> There is nothing to bring back ;= (3 . 1)
+(left) ;! UNDO\n20\n ;= (0 . 0)
+(left) ;! MREDO\nAll\n ;= (3 . 1)
+(left) ;! UNDO\nBack\nN\n ;> This will undo everything ;= (3 . 1)
+(undo "_Back")(command "")(left) ;= (0 . 0)
