@@ -108,6 +108,24 @@ struct MainWindowTest : testing::Test, TestFolder
     std::unique_ptr<MainWindow> window;
 };
 
+TEST_F(MainWindowTest, CommandsOpenAndCloseDrawings)
+{
+    const QString other = write(u"other.dxf"_s, smallDrawing());
+    window->enter(u"(command \"OPEN\" \"%1\")"_s.arg(other));
+    ASSERT_EQ(window->tabs().count(), 2);
+    EXPECT_EQ(window->document()->title(), u"other.dxf"_s);
+    // The canvas that has the key goes with the drawing.
+    window->commandLine().input()->setText(u"CLOSE"_s);
+    QKeyEvent enter(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier);
+    QCoreApplication::sendEvent(window->canvas(), &enter);
+    QCoreApplication::processEvents();
+    ASSERT_EQ(window->tabs().count(), 1);
+    EXPECT_EQ(window->document()->title(), u"small.dxf"_s);
+    window->enter(u"QUIT"_s);
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(window->isVisible());
+}
+
 TEST_F(MainWindowTest, WorksWithoutModuleAndSaysSo)
 {
     EXPECT_TRUE(history().contains(u"none.so"_s)) << history().toStdString();

@@ -30,6 +30,13 @@ void setForce(Workbench &workbench, const ProgramOptions &options)
         workbench.session().setOverrule(kernel::Overrule::Obstacles);
 }
 
+void closeAll(Workbench &workbench)
+{
+    kernel::DocumentManager &documents = workbench.documents();
+    while (documents.active() && documents.close(documents.documents().back().get()))
+        continue;
+}
+
 QString native(const QString &path)
 {
     return QDir::toNativeSeparators(path);

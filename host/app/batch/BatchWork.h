@@ -21,6 +21,9 @@ bool tellNotWritten(kernel::Session &session);
 /// What is missing in a picture, and whether that is because there was too much.
 int tellMissing(const QString &path, const view::RenderReport &report);
 
+/// Closes all drawings without saving, those that programs opened too.
+void closeAll(Workbench &workbench);
+
 /// A path as people write it on this system.
 QString native(const QString &path);
 

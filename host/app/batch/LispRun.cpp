@@ -26,6 +26,13 @@ kernel::RunResult loadLisp(kernel::Document &document, const QString &file)
     return document.run(QString::fromUtf8(input.readAll()), u"standard input"_s);
 }
 
+/// A program before may have closed the drawing that it ran in.
+kernel::Document *drawingToRunIn(Workbench &workbench)
+{
+    kernel::DocumentManager &documents = workbench.documents();
+    return documents.active() ? documents.active() : documents.create();
+}
+
 bool isReadable(const QString &file)
 {
     QFile probe;
@@ -58,10 +65,16 @@ int runLispFiles(const ProgramOptions &options)
     }
     qsizetype told = 0;
     tellProblems(workbench, told);
-    QObject::connect(document, &kernel::Document::printed, document, writeResult);
+    const auto show = [](kernel::Document *opened) {
+        QObject::connect(opened, &kernel::Document::printed, opened, writeResult);
+    };
+    show(document);
+    QObject::connect(&workbench.documents(), &kernel::DocumentManager::opened, show);
     int status = ExitDone;
     for (const QString &file : options.lispFiles) {
-        kernel::RunResult result = loadLisp(*document, file);
+        if (workbench.documents().wishes().isQuitWanted())
+            break;
+        kernel::RunResult result = loadLisp(*drawingToRunIn(workbench), file);
         if (result.ok)
             result = workbench.session().runQueue();
         if (result.ok && nobody.problem().isEmpty())
@@ -71,7 +84,7 @@ int runLispFiles(const ProgramOptions &options)
         break;
     }
     workbench.session().setFeeder(nullptr);
-    workbench.documents().close(document);
+    closeAll(workbench);
     return tellNotWritten(workbench.session()) && status == ExitDone ? ExitFileError : status;
 }
 

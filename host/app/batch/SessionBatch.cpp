@@ -153,7 +153,7 @@ int SessionBatch::runOne(Workbench &workbench, const QString &path, const Playba
         return ExitFileError;
     }
     const int status = playOn(*opened.document, path, one);
-    workbench.documents().close(opened.document);
+    closeAll(workbench);
     return status;
 }
 

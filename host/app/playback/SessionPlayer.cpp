@@ -93,8 +93,10 @@ PlaybackResult SessionPlayer::play()
     session.setFeeder(this);
     session.input().clear();
     session.documents().setActive(&m_document);
+    session.documents().wishes().keep(&m_document);
     m_watchdog.start(m_options.timeLimit);
     playSteps();
+    session.documents().wishes().keep(nullptr);
     session.input().clear();
     session.setFeeder(before);
     QCoreApplication::setAttribute(Qt::AA_DontUseNativeDialogs, !hadNativeDialogs);

@@ -118,14 +118,16 @@ bool SessionPlayer::isCancelledHere(const QString &what)
     return true;
 }
 
-/// What a script typed belongs to the run that read it.
+/// What a script typed belongs to the run that read it, also where it went on in another drawing.
 kernel::RunResult SessionPlayer::withScript(const kernel::RunResult &result)
 {
     kernel::Session &session = m_document.session();
-    if (!result.ok || session.input().isEmpty())
+    kernel::DocumentManager &documents = session.documents();
+    if (!result.ok || (session.input().isEmpty() && documents.wishes().isEmpty()))
         return result;
     const kernel::RunResult last = session.runQueue();
     session.input().clear();
+    documents.setActive(&m_document);
     return last.ok ? result : last;
 }
 

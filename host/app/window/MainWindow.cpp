@@ -65,6 +65,8 @@ MainWindow::MainWindow(const WorkbenchOptions &options)
     m_reportTimer.setSingleShot(true);
     m_reportTimer.setInterval(reportDelay);
     connect(&m_reportTimer, &QTimer::timeout, this, &MainWindow::updateReport);
+    documents.wishes().setQuestion([this] { return m_files.pathsToOpen(); });
+    connect(&documents.wishes(), &kernel::DocumentWishes::quitWanted, this, [this] { m_isCloseWanted = true; });
     loadPreferences();
     tellProblems();
     m_commandLine->setFocus();
@@ -136,7 +138,16 @@ void MainWindow::openAll(const QStringList &drawings)
 
 void MainWindow::enter(const QString &text)
 {
-    m_runner->enter(text);
+    if (m_isInCanvas)
+        enterFromCanvas(text);
+    else
+        m_runner->enter(text);
+}
+
+/// What runs may close the drawing of the canvas, and must not begin inside one of its events.
+void MainWindow::enterFromCanvas(const QString &text)
+{
+    QTimer::singleShot(0, this, [this, text] { m_runner->enter(text); });
 }
 
 PlaybackResult MainWindow::play(const PlaybackScript &script, PlaybackOptions options)
@@ -156,10 +167,12 @@ void MainWindow::addTab(kernel::Document *document)
 {
     DrawingCanvas *canvas = m_tabs->add(*document);
     connect(canvas, &DrawingCanvas::answered, m_runner.get(), &CommandRunner::answer);
-    connect(canvas, &DrawingCanvas::enterPressed, this, [this] { enter({}); });
+    connect(canvas, &DrawingCanvas::enterPressed, this, [this] { enterFromCanvas({}); });
     connect(canvas, &DrawingCanvas::keyPressed, this, [this](QKeyEvent *event) {
+        m_isInCanvas = true;
         if (m_commandLine->takeKey(event))
             event->accept();
+        m_isInCanvas = false;
     });
     connect(canvas, &DrawingCanvas::pointerMoved, this,
             [this](const drawing::Vec2 &point) { m_status->showPointer(point); });
@@ -245,6 +258,7 @@ void MainWindow::closeEvent(QCloseEvent *event)
         return;
     }
     m_isCloseWanted = false;
+    m_workbench->documents().wishes().forgetQuit();
     if (!closeAllTabs()) {
         event->ignore();
         return;

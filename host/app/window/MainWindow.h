@@ -108,6 +108,7 @@ private:
     void openAll(const QStringList &drawings);
     // Tabs follow the documents, whoever opened them: a menu, a drop, a command, a module.
     void addTab(kernel::Document *document);
+    void enterFromCanvas(const QString &text);
     /// The user chose the tab: its document becomes the active one.
     void activateTab(int index);
     /// The document became the active one: its tab is shown.
@@ -161,6 +162,7 @@ private:
     QTimer m_reportTimer;         ///< the report is made once for changes that come together
     qsizetype m_problemsTold = 0; ///< of those of the workbench, from the first on
     bool m_isCloseWanted = false; ///< the window was to be closed while something ran
+    bool m_isInCanvas = false;    ///< what is entered comes out of an event of a canvas
 };
 
 } // namespace host::app

@@ -1,5 +1,6 @@
 #include "files/qt/Files.h"
 #include "host/commands/Commands.h"
+#include "host/commands/files/SaveDialogue.h"
 #include "host/kernel/documents/Document.h"
 #include "host/kernel/documents/Session.h"
 #include "host/kernel/running/CommandContext.h"
@@ -15,29 +16,6 @@ using namespace Qt::StringLiterals;
 namespace host::kernel {
 
 namespace {
-
-/// A path as typed, from the current folder, with the ending that drawings have here when it has none.
-QString drawingPath(const QString &typed)
-{
-    const QString path = QFileInfo(QDir::current(), typed.trimmed()).absoluteFilePath();
-    return QFileInfo(path).suffix().isEmpty() ? path + u".dxf"_s : path;
-}
-
-void tell(CommandContext &context, const drawing::SaveResult &result, const QString &path)
-{
-    context.print(result ? u"\nSaved to %1."_s.arg(path) : u'\n' + result.error);
-}
-
-/// Whether a save under this path would go over another file that is not to go unasked.
-bool replacesOther(const Document &document, const QString &path)
-{
-    return QFileInfo::exists(path) && path != document.path() && document.variables().integer(u"EXPERT") < 2;
-}
-
-CommandContext::Reply askToReplace(CommandContext &context, const QString &path)
-{
-    return context.keyword(u"%1 already exists. Replace it? [Yes/No] <No>: "_s.arg(path), u"Yes No"_s, u"No"_s);
-}
 
 /// The versions of the format, by the names that people give them.
 struct FormatName
@@ -106,9 +84,16 @@ struct SaveTarget
     drawing::FileForm form;
 };
 
+/// What an empty answer to the first question means.
+enum class WhenEmpty
+{
+    OwnName,
+    OwnVersion ///< the name is asked for then
+};
+
 /// Asks for a version first when one was answered in place of a file's name; then for the name. Nothing when the
 /// drawing is not to be written. The form is the drawing's own where no other was asked for.
-Dialogue<std::optional<SaveTarget>> askSaveTarget(CommandContext &context)
+Dialogue<std::optional<SaveTarget>> askSaveTarget(CommandContext &context, WhenEmpty whenEmpty)
 {
     const Document &document = context.document();
     const QString usual = document.title();
@@ -117,8 +102,11 @@ Dialogue<std::optional<SaveTarget>> askSaveTarget(CommandContext &context)
         u"Save drawing as, or enter file format [%1/DXF] <%2>: "_s.arg(formatOptions().replace(u' ', u'/'), usual),
         path, formatOptions() + u" DXF"_s);
     std::optional<drawing::FileForm> form = document.drawing().form();
-    if (reply.kind == ReplyKind::Keyword) {
-        if (reply.text == u"DXF"_s)
+    const bool isOwnVersionMeant = whenEmpty == WhenEmpty::OwnVersion && reply.isEmpty();
+    if (reply.kind == ReplyKind::Keyword || isOwnVersionMeant) {
+        if (isOwnVersionMeant)
+            form = document.drawing().form();
+        else if (reply.text == u"DXF"_s)
             form = co_await askDxfOptions(context);
         else if (!isOwnVersion(context, reply.text))
             form = std::nullopt;
@@ -132,75 +120,13 @@ Dialogue<std::optional<SaveTarget>> askSaveTarget(CommandContext &context)
     co_return SaveTarget{drawingPath(typed), *form};
 }
 
-/// What the user wants of a file that should not be written unasked.
-enum class Wish
-{
-    Write,
-    OtherName,
-    Nothing ///< the command has failed
-};
-
-/// Asks about what stands against writing the file.
-Dialogue<Wish> askAboutObstacle(CommandContext &context, const WriteObstacle &obstacle)
-{
-    Session &session = context.document().session();
-    context.print(u'\n' + obstacle.text + u'\n');
-    // Told at once: a run that nobody watches ends at the question.
-    session.tellNotWritten(obstacle.text);
-    const QString options = obstacle.mayBeOverruled() ? u"Anyway Name Cancel"_s : u"Name Cancel"_s;
-    const QString prompt = obstacle.mayBeOverruled()
-                               ? u"Save all the same, or under another name? [Anyway/Name/Cancel] <Cancel>: "_s
-                               : u"Save under another name? [Name/Cancel] <Cancel>: "_s;
-    const PromptReply reply = co_await context.keyword(prompt, options, u"Cancel"_s);
-    const Wish wish = reply.text == u"Anyway"_s ? Wish::Write
-                      : reply.text == u"Name"_s ? Wish::OtherName
-                                                : Wish::Nothing;
-    if (wish == Wish::Nothing)
-        context.fail(u"Nothing was written."_s);
-    else
-        session.forgetNotWritten(obstacle.text);
-    co_return wish;
-}
-
-/// A name to save under; nothing when none was given.
-Dialogue<std::optional<QString>> askName(CommandContext &context)
-{
-    const PromptReply name = co_await context.text(u"Save drawing as: "_s);
-    const QString typed = name.hasValue() ? name.text.trimmed() : QString();
-    co_return typed.isEmpty() ? std::nullopt : std::optional(drawingPath(typed));
-}
-
-/// Saves under the path, or under another one that is asked for when something stands against it; asks before an
-/// existing other file is replaced, unless EXPERT is 2 or more. False when nothing was written.
-Dialogue<bool> saveUnder(CommandContext &context, std::optional<QString> path)
-{
-    Document &document = context.document();
-    while (path) {
-        if (replacesOther(document, *path) && (co_await askToReplace(context, *path)).text != u"Yes"_s)
-            break;
-        const std::optional<WriteObstacle> obstacle = obstacleToWriting(*path, &document.session(), &document);
-        auto wish = Wish::Write;
-        if (obstacle)
-            wish = co_await askAboutObstacle(context, *obstacle);
-        if (wish == Wish::Write) {
-            const auto result = document.saveAs(*path, obstacle ? Overrule::Obstacles : Overrule::Nothing);
-            tell(context, result, *path);
-            co_return bool(result);
-        }
-        if (wish == Wish::Nothing)
-            break;
-        path = co_await askName(context);
-    }
-    co_return false;
-}
-
 // Under the drawing's own name; asks for one when it has none.
 CommandTask quickSave(CommandContext &context)
 {
     std::optional<QString> path = context.document().path();
     if (path->isEmpty())
         path = co_await askName(context);
-    co_await saveUnder(context, path);
+    co_await saveUnder(context, context.document(), path);
 }
 
 /// The form of a drawing while it is being saved, which is its own again when nothing was written.
@@ -222,14 +148,27 @@ private:
     bool m_isKept = false;
 };
 
-// Version or file name.
+Dialogue<bool> askAndSave(CommandContext &context, WhenEmpty whenEmpty)
+{
+    const std::optional<SaveTarget> target = co_await askSaveTarget(context, whenEmpty);
+    if (!target)
+        co_return false;
+    FormWhileSaving form(context.drawing(), target->form);
+    const bool isSaved = co_await saveUnder(context, context.document(), target->path);
+    form.keep(isSaved);
+    co_return isSaved;
+}
+
+// File name, or a version and then the name.
+CommandTask save(CommandContext &context)
+{
+    co_await askAndSave(context, WhenEmpty::OwnName);
+}
+
+// Version or file name; the name behind a version and behind an empty answer.
 CommandTask saveAs(CommandContext &context)
 {
-    const std::optional<SaveTarget> target = co_await askSaveTarget(context);
-    if (!target)
-        co_return;
-    FormWhileSaving form(context.drawing(), target->form);
-    form.keep(co_await saveUnder(context, target->path));
+    co_await askAndSave(context, WhenEmpty::OwnVersion);
 }
 
 /// The largest script that is read, in bytes.
@@ -241,6 +180,19 @@ QString scriptPath(Document &document, const QString &name)
     const lisp::Interpreter &interpreter = document.interpreter();
     const lisp::LoadedBy by = interpreter.isRunning() ? interpreter.calledBy() : lisp::LoadedBy::Person;
     return document.session().trustedFolders().findProgram(document, {name}, by);
+}
+
+void pushScript(CommandContext &context, const QString &text, const QString &name)
+{
+    switch (context.document().session().input().pushScript(text)) {
+    case InputQueue::ScriptOutcome::Taken:
+        break;
+    case InputQueue::ScriptOutcome::Replaced:
+        context.print(u"\nThe rest of the script that called it is left out."_s);
+        break;
+    case InputQueue::ScriptOutcome::TooLong:
+        context.print(u"\nToo many scripts wait to be run: \"%1\" is left out."_s.arg(name));
+    }
 }
 
 // File name; the lines of the file are typed from here on, before what was typed ahead.
@@ -256,23 +208,27 @@ CommandTask script(CommandContext &context)
                                 .arg(largestScript >> 20));
         co_return;
     }
-    switch (context.document().session().input().pushScript(QString::fromUtf8(file.bytes))) {
-    case InputQueue::ScriptOutcome::Taken:
-        break;
-    case InputQueue::ScriptOutcome::Replaced:
-        context.print(u"\nThe rest of the script that called it is left out."_s);
-        break;
-    case InputQueue::ScriptOutcome::TooLong:
-        context.print(u"\nToo many scripts wait to be run: \"%1\" is left out."_s.arg(name.text));
-    }
+    pushScript(context, QString::fromUtf8(file.bytes), name.text);
+}
+
+// The script that was run last, from its beginning.
+CommandTask repeatScript(CommandContext &context)
+{
+    const QString last = context.document().session().input().lastScript();
+    if (last.isEmpty())
+        context.fail(u"No script has been run."_s);
+    else
+        pushScript(context, last, u"RSCRIPT"_s);
+    co_return;
 }
 
 } // namespace
 
 std::vector<CommandRow> fileCommands()
 {
-    return {{"QSAVE", quickSave, "Saves the drawing under its own name"},
-            {"SAVE", saveAs, "Saves the drawing under a name"},
+    return {{"RSCRIPT", repeatScript, "Types the last script once more"},
+            {"QSAVE", quickSave, "Saves the drawing under its own name"},
+            {"SAVE", save, "Saves the drawing under a name"},
             {"SAVEAS", saveAs, "Saves the drawing under a name"},
             {"SCRIPT", script, "Types what a script file holds"}};
 }

@@ -142,6 +142,7 @@ std::vector<CommandRow> settingCommands()
 {
     return {{"-COLOR", colour, "Sets the color of new objects"},
             {"COLOR", colour, "As -COLOR; there is no window for it"},
+            {"COLOUR", colour, "As -COLOR"},
             {"ELEV", elevation, "Sets the elevation and thickness of new objects"},
             {"FILL", fill, "Switches whether areas are filled"},
             {"GRID", grid, "Sets and switches the grid"},

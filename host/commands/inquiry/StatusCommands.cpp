@@ -4,6 +4,7 @@
 #include "host/kernel/documents/Document.h"
 #include "host/kernel/running/CommandContext.h"
 #include "host/kernel/variables/SystemVariables.h"
+#include "platform/kernel/CKvHelp.h"
 
 #include <cmath>
 
@@ -69,11 +70,20 @@ CommandTask tellStatus(CommandContext &context)
     co_return;
 }
 
+CommandTask showHelp(CommandContext &)
+{
+    if (CKvHelp *const help = GetKvHelp())
+        help->Help({}, 0, true, nullptr, 0);
+    co_return;
+}
+
 } // namespace
 
 std::vector<CommandRow> statusCommands()
 {
-    return {{"STATUS", tellStatus, "Tells what is in the drawing and what is current"},
+    return {{"?", showHelp, "As HELP"},
+            {"HELP", showHelp, "Shows the help pages"},
+            {"STATUS", tellStatus, "Tells what is in the drawing and what is current"},
             {"TIME", tellTime, "Tells when the drawing was made and changed"}};
 }
 

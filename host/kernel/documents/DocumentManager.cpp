@@ -77,6 +77,17 @@ Document *DocumentManager::create()
     return add(drawing::newDrawing(), {});
 }
 
+OpenOutcome DocumentManager::createFrom(const QString &path)
+{
+    if (path.isEmpty())
+        return {create(), {}};
+    drawing::ReadResult read = drawing::Drawing::open(path);
+    if (!read)
+        return {nullptr, QStringLiteral("%1: %2").arg(path, drawing::openingError(read))};
+    read.drawing->setPath({});
+    return {add(std::move(read.drawing), {}), {}};
+}
+
 Document *DocumentManager::add(std::unique_ptr<drawing::Drawing> drawing, DrawingClaim claim, const QString &name)
 {
     const bool isNew = drawing->path().isEmpty() && name.isEmpty();

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/kernel/documents/Document.h"
+#include "host/kernel/documents/DocumentWishes.h"
 #include "platform/kernel/CKvDocumentManager.h"
 
 #include <QObject>
@@ -45,6 +45,10 @@ public:
     Document *documentOf(const QString &path) const;
     /// A new empty drawing, which becomes active.
     Document *create();
+    /// A new drawing with what that drawing file holds, which becomes active; an empty one when there is no path.
+    OpenOutcome createFrom(const QString &path);
+    /// What commands want of the documents.
+    DocumentWishes &wishes() { return m_wishes; }
     /// Closes without asking and without saving. The document is gone after the call. Refused (false) while a program
     /// of it runs. The one opened last becomes active when it was the active one.
     bool close(Document *document);
@@ -82,6 +86,7 @@ private:
     std::vector<std::unique_ptr<Document>> m_documents;
     std::vector<CKvDocumentManagerReactor *> m_reactors;
     Document *m_active = nullptr;
+    DocumentWishes m_wishes{*this};
     int m_untitled = 0; ///< new drawings so far, which are numbered on
 };
 

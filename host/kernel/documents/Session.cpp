@@ -82,7 +82,7 @@ void Session::setLispHeapLimit(int megabytes)
 
 RunResult Session::runQueue()
 {
-    RunResult result;
+    RunResult result = grantWishes();
     while (!m_input.isEmpty() && m_documents->active()) {
         if (isStopWanted()) {
             m_input.clear();
@@ -96,7 +96,28 @@ RunResult Session::runQueue()
             break;
         if (result.ok)
             result = next;
+        if (const RunResult granted = grantWishes(); result.ok && !granted.ok)
+            result = granted;
     }
+    if (m_input.isEmpty())
+        m_documents->wishes().closeStandIn();
+    return result;
+}
+
+RunResult Session::grantWishes()
+{
+    using enum DocumentWishes::Typed;
+    RunResult result;
+    DocumentWishes &wishes = m_documents->wishes();
+    const QStringList problems = wishes.grant(m_input.isEmpty() ? Nothing : More);
+    if (wishes.isQuitWanted() || !problems.isEmpty())
+        m_input.clear();
+    if (problems.isEmpty())
+        return result;
+    Document *const told = m_documents->active() ? m_documents->active() : m_documents->create();
+    told->print(u'\n' + problems.join(u'\n') + u'\n');
+    result.ok = false;
+    result.error = result.report = problems.join(u' ');
     return result;
 }
 

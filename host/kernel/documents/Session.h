@@ -78,7 +78,9 @@ public:
 
     /// Runs what waits in the queue in the active document, one command or expression after the other, until nothing is
     /// left or only the beginning of an expression: what was typed, and what a script typed before its command ended.
-    /// What came of the first that failed, else of the last. The user may stop it, which empties the queue.
+    /// What came of the first that failed, else of the last. The user may stop it, which empties the queue. What the
+    /// runs want of the documents is done between them, also what a run before this call wants: see DocumentWishes.
+    /// When that cannot be done, the rest of the queue was meant for another drawing and is forgotten.
     RunResult runQueue();
 
     /// Lets events be processed and says whether the user wants what runs to end. For everything that may go on without
@@ -131,6 +133,8 @@ public:
     QStringList takeNotWritten() { return std::exchange(m_notWritten, {}); }
 
 private:
+    RunResult grantWishes();
+
     std::unique_ptr<drawing::Drawing> m_clipboard;
     QSet<QString> m_undefinedCommands;
     QStringList m_notWritten; ///< told since takeNotWritten()

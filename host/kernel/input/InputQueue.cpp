@@ -112,6 +112,7 @@ InputQueue::ScriptOutcome InputQueue::pushScript(const QString &text)
     first.position = 0;
     first.scriptEnd = scripts.size();
     first.isBegun = false;
+    m_lastScript = text;
     emit filled();
     return isReplaced ? ScriptOutcome::Replaced : ScriptOutcome::Taken;
 }

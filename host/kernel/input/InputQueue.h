@@ -37,6 +37,8 @@ public:
     /// of what is left of that one, so that a script which calls itself repeats and nothing grows. Those that a program
     /// calls one after the other, before any was begun, follow each other.
     ScriptOutcome pushScript(const QString &text);
+    /// The script that was taken last, for RSCRIPT; empty before the first.
+    const QString &lastScript() const { return m_lastScript; }
 
     bool isEmpty() const { return m_items.empty(); }
     /// Forgets everything, as Esc does.
@@ -68,6 +70,7 @@ private:
     static bool isScriptLeft(const Typed &typed);
 
     std::deque<Item> m_items;
+    QString m_lastScript;
 };
 
 } // namespace host::kernel

@@ -141,3 +141,8 @@ a ;! (setq a (+ 1 2))\n!a\n ;> \n3 ;= 3
 (command "_.-COLOR" 3 "_.-COLOR" "_bylayer")(getvar "CECOLOR") ;= "BYLAYER"
 (setvar "UCSICON" 3)(command "_.UCSICON" "_off" "_.DRAGMODE" "_a" "_.BLIPMODE" "_on")(mapcar 'getvar '("UCSICON" "DRAGMODE" "BLIPMODE")) ;= (2 2 1)
 (command "_.UCSICON" "_on" "_.UCSICON" "_n" "_.BLIPMODE" "off")(mapcar 'getvar '("UCSICON" "BLIPMODE")) ;= (1 0)
+; Saving as programs write it: an empty answer or a version in front of the name
+(command "_.SAVEAS" "" (strcat dir "first.dxf"))(getvar "DWGNAME") ;= "first.dxf"
+(command "_.SAVEAS" "_2018" (strcat dir "second"))(getvar "DWGNAME") ;= "second.dxf"
+(command "_.POINT" '(1 1))(command "_.QSAVE")(list (getvar "DBMOD") (getvar "DWGTITLED")) ;= (0 1)
+(command "_.SAVEAS" "2013" (strcat dir "third")) ;> nothing was written ;= nil

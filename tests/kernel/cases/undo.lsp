@@ -55,6 +55,6 @@
 (command "-BLOCK" "B" '(0 0) (entlast) "")(command "OOPS")(left) ;= (3 . 1)
 (command "ERASE" "L" "")(command "U")(command "OOPS")(left) ;> There is nothing to bring back ;= (3 . 1)
 (left) ;! UNDO\n20\n ;= (0 . 0)
-(left) ;! MREDO\nAll\n ;= (3 . 1)
-(left) ;! UNDO\nBack\nN\n ;> This will undo everything ;= (3 . 1)
+(left) ;! MREDO\nAll\n ;= (2 . 1)
+(left) ;! UNDO\nBack\nN\n ;> This will undo everything ;= (2 . 1)
 (undo "_Back")(command "")(left) ;= (0 . 0)

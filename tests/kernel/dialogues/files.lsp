@@ -40,3 +40,21 @@
 ;! ORTHO|ON ;? (getvar "ORTHOMODE") ;= 1
 ;! SNAP|5 ;? (list (getvar "SNAPUNIT") (getvar "SNAPMODE")) ;= ((5.0 5.0) 1)
 ;! GRID|A|2|4 ;? (getvar "GRIDUNIT") ;= (2.0 4.0)
+;! UNITS|2|4|1|2|0|N ;? (mapcar 'getvar '("LUNITS" "LUPREC" "AUNITS" "AUPREC")) ;= (2 4 0 2)
+;! -UNITS|4|16|5|4|90|Y ;? (list (getvar "LUNITS") (getvar "LUPREC") (getvar "AUNITS") (rtos (getvar "ANGBASE") 2 4) (getvar "ANGDIR")) ;= (4 4 4 "1.5708" 1)
+;! UNITS|5|3 ;> Requires a power of two ;? (getvar "LUNITS") ;= 2
+;! UNITS|6 ;> Requires an integer between 1 and 5 ;? (getvar "LUNITS") ;= 2
+;! LWEIGHT|0.5 ;? (getvar "CELWEIGHT") ;= 50
+;! -LWEIGHT|_d ;? (getvar "CELWEIGHT") ;= -3
+;! -LWEIGHT|3 ;> Requires a lineweight ;? (getvar "CELWEIGHT") ;= -1
+;! COLOUR|3 ;? (getvar "CECOLOR") ;= "3"
+;! OPEN|nosuch.dxf ;> Cannot find file "nosuch.dxf" ;=
+;! NEW|nosuch ;> Cannot find template "nosuch" ;=
+(line 1 1 2 2) ;! CLOSE|C ;= LINE 10=1,1,0 11=2,2,0
+(line 1 1 2 2) ;! CLOSEALL|Cancel ;= LINE 10=1,1,0 11=2,2,0
+(line 1 1 2 2) ;! QUIT|N ;= LINE 10=1,1,0 11=2,2,0
+;! RSCRIPT ;> No script has been run ;=
+;! HELP ;> No help page ;=
+;! UNDO|A|OFF ;=
+;! UNDO|C|None ;> Undo is always on ;=
+;! UNDO|C|Combine|N ;=
