@@ -76,3 +76,35 @@
 (circle 0 0 2)(chain 1 '((-5.0 -5.0) (5.0 -5.0) (5.0 5.0) (-5.0 5.0))) ;! AREA|_A|_O|ALL|||
 (circle 0 0 2)(pline 1 '((-5.0 -5.0) (5.0 -5.0) (5.0 5.0) (-5.0 5.0))) ;! AREA|_A|_O|ALL||
 ;? (list (rtos (getvar "AREA") 2 4) (rtos (getvar "PERIMETER") 2 4)) ;= ("112.5664" "40.0000")
+
+; What is there twice, and what overlaps
+(line 0 0 3 0)(line 3 0 0 0)(line 2 0 9 0)(line 0 1 3 1) ;! -OVERKILL|ALL|| ;= LINE 10=0,0,0 11=9,0,0; LINE 10=0,1,0 11=3,1,0
+(line 0 0 3 0)(line 3 0 9 0) ;! -OVERKILL|ALL||E|N| ;= LINE 10=0,0,0 11=3,0,0; LINE 10=3,0,0 11=9,0,0
+(line 0 0 3 0)(line 2 0 9 0)(line 9 0 12 0) ;! OVERKILL|ALL||O|N|_D ;= LINE 10=0,0,0 11=3,0,0; LINE 10=2,0,0 11=12,0,0
+(line 0 0 3 0)(line 0 0.01 3 0.01) ;! -OVERKILL|ALL||T|0.1| ;> 1 duplicate ;= LINE 10=0,0,0 11=3,0,0
+(line 1 1 2 2)(on-layer "B") ;! -OVERKILL|ALL|| ;> 0 duplicate(s) ;= LINE 10=1,1,0 11=2,2,0; LINE 8=B 10=1,1,0 11=2,2,0
+(line 1 1 2 2)(on-layer "B") ;! -OVERKILL|ALL||I|LA| ;> 1 duplicate(s) ;= LINE 10=1,1,0 11=2,2,0
+(circle 0 0 5)(circle 0 0 5)(arc 0 0 5 10 20) ;! -OVERKILL|ALL|| ;= CIRCLE 10=0,0,0 40=5
+(arc 0 0 5 270 20)(arc 0 0 5 10 45)(arc 0 0 5 90 180) ;! -OVERKILL|ALL|| ;= ARC 10=0,0,0 40=5 50=270 51=45; ARC 10=0,0,0 40=5 50=90 51=180
+(arc 0 0 5 0 200)(arc 0 0 5 180 30) ;! -OVERKILL|ALL|| ;= CIRCLE 10=0,0,0 40=5
+(door)(entmake '((0 . "INSERT") (2 . "Door") (10 1.0 1.0 0.0)))(entmake '((0 . "INSERT") (2 . "Door") (10 1.0 1.0 0.0))) ;! -OVERKILL|ALL|| ;= INSERT 2=Door 10=1,1,0 41=1 42=1 43=1
+(old-polyline 0 '((0 0 0) (3 0 0)))(old-polyline 0 '((0 0 0) (3 0 0))) ;! -OVERKILL|ALL|| ;> 1 duplicate(s) ;? (sslength (ssget "X")) ;= 1
+(line 0 0 3 0)(line 0 0 3 0)(lock "0") ;! -OVERKILL|ALL| ;= LINE 10=0,0,0 11=3,0,0; LINE 10=0,0,0 11=3,0,0
+
+; Joined
+(line 0 0 3 0)(line 5 0 9 0) ;! JOIN|ALL| ;> 2 lines joined into 1 line ;= LINE 10=0,0,0 11=9,0,0
+(line 0 0 3 0)(line 9 0 5 0)(line 4 1 5 1) ;! JOIN|1,0||ALL| ;> 1 objects discarded ;= LINE 10=0,0,0 11=9,0,0; LINE 10=4,1,0 11=5,1,0
+(arc 0 0 5 0 45)(arc 0 0 5 90 135) ;! JOIN|ALL| ;= ARC 10=0,0,0 40=5 51=135
+(arc 0 0 5 90 135)(arc 0 0 5 0 45) ;! JOIN|ALL| ;= ARC 10=0,0,0 40=5 50=90 51=45
+(arc 0 0 5 90 135)(arc 0 0 5 0 90) ;! JOIN|ALL| ;= ARC 10=0,0,0 40=5 51=135
+(arc 0 0 5 0 200)(arc 0 0 5 190 20) ;! JOIN|ALL| ;= CIRCLE 10=0,0,0 40=5
+(arc 0 0 5 0 45) ;! JOIN|5,0||L ;= CIRCLE 10=0,0,0 40=5
+(line 0 0 3 0)(line 3 0 3 4)(line 9 9 9 5) ;! JOIN|ALL| ;> 2 objects converted to 1 polyline ;= LINE 10=9,9,0 11=9,5,0; LWPOLYLINE 10=0,0 10=3,0 10=3,4
+(line 5 0 5 5)(arc 0 0 5 0 90) ;! JOIN|ALL| ;= LWPOLYLINE 10=5,5 10=5,0 42=0.414214 10=0,5
+(line 3 0 3 4)(pline 0 '((0.0 0.0) (3.0 0.0))) ;! JOIN|ALL| ;= LWPOLYLINE 10=0,0 10=3,0 10=3,4
+(line 0 0 3 0)(line 3 0 3 4)(line 3 4 0 4)(line 0 4 0 0) ;! JOIN|ALL| ;= LWPOLYLINE 70=1 10=0,0 10=3,0 10=3,4 10=0,4
+(line 0 0 3 0)(line 5 0 9 0)(line 0 2 3 2)(line 5 2 9 2) ;! JOIN|ALL| ;= LINE 10=0,0,0 11=9,0,0; LINE 10=0,2,0 11=9,2,0
+(turned)(line 0 0 3 0)(line 5 0 9 0) ;! JOIN|ALL| ;= LINE 10=0,0,0 11=9,0,0
+(tilted)(line 0 0 3 0)(entmake '((0 . "LINE") (10 3.0 0.0 0.0) (11 3.0 0.0 4.0))) ;! JOIN|ALL| ;? (mapcar 'cdr (vl-remove-if-not '(lambda (f) (member (car f) '(10 210))) (entget (entlast)))) ;= ((0.0 0.0) (3.0 0.0) (3.0 4.0) (0.0 -1.0 0.0))
+(line 0 0 3 0)(line 3 0 3 4)(lock "0") ;! JOIN|ALL| ;= LINE 10=0,0,0 11=3,0,0; LINE 10=3,0,0 11=3,4,0
+(circle 0 0 5)(line 0 0 3 0) ;! JOIN|ALL| ;> 2 objects discarded ;= CIRCLE 10=0,0,0 40=5; LINE 10=0,0,0 11=3,0,0
