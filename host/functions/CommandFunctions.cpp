@@ -107,7 +107,7 @@ bool mayBeName(const Value &argument)
 
 /// Whether a text that a program gives can be no answer to the prompt that still waits, but names a command: (command
 /// "FILLET" "R" 2) leaves FILLET asking for entities, and programs begin it anew all the same.
-bool beginsAnother(const CommandRun &waiting, const Value &argument)
+bool beginsAnother(const CommandRun &waiting, const Value &argument, bool isFirst)
 {
     const PromptRequest &request = waiting.request();
     if (!argument.isString() || request.kind == PromptKind::String || (request.bits & AnyText) != 0)
@@ -115,10 +115,11 @@ bool beginsAnother(const CommandRun &waiting, const Value &argument)
     const QString text = fromUtf8(argument.asString());
     if (text.startsWith(u'\'') || !CommandTable::find(text))
         return false;
-    // Behind a dot stands a command's name and nothing else; other words may be options, snaps or ways to choose.
+    // Behind a dot stands a command's name and nothing else; other words may be options, snaps or ways to choose, and
+    // in the middle of a call they are meant for the prompt.
     const bool isNameAlone = text.startsWith(u'.') || text.startsWith(QStringLiteral("_."));
-    return isNameAlone ||
-           (request.kind != PromptKind::Selection && !matchKeyword(text, request.keywords) && !parseSnapModes(text));
+    return isNameAlone || (isFirst && request.kind != PromptKind::Selection && !matchKeyword(text, request.keywords) &&
+                           !parseSnapModes(text));
 }
 
 enum class Ending
@@ -136,7 +137,7 @@ Ending runArguments(Arguments &args)
     document.prompts().refuseInDialog();
     Ending ending = Ending::Done;
     for (std::size_t i = 0; i < args.size(); ++i) {
-        if (document.pendingCommand() && beginsAnother(*document.pendingCommand(), args[i]))
+        if (document.pendingCommand() && beginsAnother(*document.pendingCommand(), args[i], i == 0))
             document.takePendingCommand();
         bool isLost = false;
         if (document.pendingCommand())

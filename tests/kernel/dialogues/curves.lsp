@@ -73,8 +73,7 @@
 (tilted)(line 0 0 9 0) ;! AREA|0,0|4,0|4,3| ;? (list (getvar "AREA") (getvar "PERIMETER")) ;= (6.0 12.0)
 (circle 0 0 2)(chain 1 '((-5.0 -5.0) (5.0 -5.0) (5.0 5.0) (-5.0 5.0))) ;! AREA|A|O|5,0||S|O|2,0|| ;> Total area = 87.4336
 ;= CIRCLE 10=0,0,0 40=2; LWPOLYLINE 70=1 10=-5,-5 10=5,-5 10=5,5 10=-5,5
-(circle 0 0 2)(chain 1 '((-5.0 -5.0) (5.0 -5.0) (5.0 5.0) (-5.0 5.0))) ;! AREA|_A|_O|ALL|||
-(circle 0 0 2)(pline 1 '((-5.0 -5.0) (5.0 -5.0) (5.0 5.0) (-5.0 5.0))) ;! AREA|_A|_O|ALL||
+(circle 0 0 2)(chain 1 '((-5.0 -5.0) (5.0 -5.0) (5.0 5.0) (-5.0 5.0))) ;! AREA|_A|_O|ALL||
 ;? (list (rtos (getvar "AREA") 2 4) (rtos (getvar "PERIMETER") 2 4)) ;= ("112.5664" "40.0000")
 
 ; What is there twice, and what overlaps
@@ -82,12 +81,12 @@
 (line 0 0 3 0)(line 3 0 9 0) ;! -OVERKILL|ALL||E|N| ;= LINE 10=0,0,0 11=3,0,0; LINE 10=3,0,0 11=9,0,0
 (line 0 0 3 0)(line 2 0 9 0)(line 9 0 12 0) ;! OVERKILL|ALL||O|N|_D ;= LINE 10=0,0,0 11=3,0,0; LINE 10=2,0,0 11=12,0,0
 (line 0 0 3 0)(line 0 0.01 3 0.01) ;! -OVERKILL|ALL||T|0.1| ;> 1 duplicate ;= LINE 10=0,0,0 11=3,0,0
-(line 1 1 2 2)(on-layer "B") ;! -OVERKILL|ALL|| ;> 0 duplicate(s) ;= LINE 10=1,1,0 11=2,2,0; LINE 8=B 10=1,1,0 11=2,2,0
+(line 1 1 2 2)(on-layer "B") ;! -OVERKILL|ALL|| ;> 0 duplicate(s) ;= LINE 10=1,1,0 11=2,2,0; LINE 10=1,1,0 11=2,2,0
 (line 1 1 2 2)(on-layer "B") ;! -OVERKILL|ALL||I|LA| ;> 1 duplicate(s) ;= LINE 10=1,1,0 11=2,2,0
 (circle 0 0 5)(circle 0 0 5)(arc 0 0 5 10 20) ;! -OVERKILL|ALL|| ;= CIRCLE 10=0,0,0 40=5
 (arc 0 0 5 270 20)(arc 0 0 5 10 45)(arc 0 0 5 90 180) ;! -OVERKILL|ALL|| ;= ARC 10=0,0,0 40=5 50=270 51=45; ARC 10=0,0,0 40=5 50=90 51=180
 (arc 0 0 5 0 200)(arc 0 0 5 180 30) ;! -OVERKILL|ALL|| ;= CIRCLE 10=0,0,0 40=5
-(door)(entmake '((0 . "INSERT") (2 . "Door") (10 1.0 1.0 0.0)))(entmake '((0 . "INSERT") (2 . "Door") (10 1.0 1.0 0.0))) ;! -OVERKILL|ALL|| ;= INSERT 2=Door 10=1,1,0 41=1 42=1 43=1
+(door)(entmake '((0 . "INSERT") (2 . "Door") (10 1.0 1.0 0.0)))(entmake '((0 . "INSERT") (2 . "Door") (10 1.0 1.0 0.0))) ;! -OVERKILL|ALL|| ;= INSERT 2=Door 10=1,1,0
 (old-polyline 0 '((0 0 0) (3 0 0)))(old-polyline 0 '((0 0 0) (3 0 0))) ;! -OVERKILL|ALL|| ;> 1 duplicate(s) ;? (sslength (ssget "X")) ;= 1
 (line 0 0 3 0)(line 0 0 3 0)(lock "0") ;! -OVERKILL|ALL| ;= LINE 10=0,0,0 11=3,0,0; LINE 10=0,0,0 11=3,0,0
 
@@ -100,8 +99,8 @@
 (arc 0 0 5 0 200)(arc 0 0 5 190 20) ;! JOIN|ALL| ;= CIRCLE 10=0,0,0 40=5
 (arc 0 0 5 0 45) ;! JOIN|5,0||L ;= CIRCLE 10=0,0,0 40=5
 (line 0 0 3 0)(line 3 0 3 4)(line 9 9 9 5) ;! JOIN|ALL| ;> 2 objects converted to 1 polyline ;= LINE 10=9,9,0 11=9,5,0; LWPOLYLINE 10=0,0 10=3,0 10=3,4
-(line 5 0 5 5)(arc 0 0 5 0 90) ;! JOIN|ALL| ;= LWPOLYLINE 10=5,5 10=5,0 42=0.414214 10=0,5
-(line 3 0 3 4)(pline 0 '((0.0 0.0) (3.0 0.0))) ;! JOIN|ALL| ;= LWPOLYLINE 10=0,0 10=3,0 10=3,4
+(line 5 0 5 5)(arc 0 0 5 0 90) ;! JOIN|ALL| ;= LWPOLYLINE 10=0,5 42=-0.414214 10=5,0 10=5,5
+(line 3 0 3 4)(chain 0 '((0.0 0.0) (3.0 0.0))) ;! JOIN|ALL| ;= LWPOLYLINE 10=0,0 10=3,0 10=3,4
 (line 0 0 3 0)(line 3 0 3 4)(line 3 4 0 4)(line 0 4 0 0) ;! JOIN|ALL| ;= LWPOLYLINE 70=1 10=0,0 10=3,0 10=3,4 10=0,4
 (line 0 0 3 0)(line 5 0 9 0)(line 0 2 3 2)(line 5 2 9 2) ;! JOIN|ALL| ;= LINE 10=0,0,0 11=9,0,0; LINE 10=0,2,0 11=9,2,0
 (turned)(line 0 0 3 0)(line 5 0 9 0) ;! JOIN|ALL| ;= LINE 10=0,0,0 11=9,0,0
