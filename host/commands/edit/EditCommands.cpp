@@ -66,8 +66,8 @@ Dialogue<Copies> askCopiesInRow(CommandContext &context, const Copies &entities,
     co_return made;
 }
 
-/// Asks where the copies go, one after another, as far as COPYMODE lets it; Undo takes the last one back.
-Dialogue<bool> askCopies(CommandContext &context, const Copies &entities, Vec3 from)
+/// Asks where the copies go, one after another where there may be several; Undo takes the last one back.
+Dialogue<bool> askCopies(CommandContext &context, const Copies &entities, Vec3 from, bool isMultiple)
 {
     const auto copyTo = [&](const Vec3 &by) { return copyAll(context, entities, Matrix::translation(by)); };
     PromptReply to =
@@ -89,7 +89,7 @@ Dialogue<bool> askCopies(CommandContext &context, const Copies &entities, Vec3 f
                 context.drawing().setErased(id, true);
             made.pop_back();
         }
-        if (context.hasFailed() || context.document().variables().integer(u"COPYMODE") != 0)
+        if (context.hasFailed() || !isMultiple)
             break;
         to = co_await context.point(u"Specify second point or [Array/Exit/Undo] <Exit>: "_s, {}, from, u"Exit"_s);
     }
@@ -103,9 +103,15 @@ CommandTask copy(CommandContext &context)
     if (chosen.entities.empty())
         co_return;
     PromptReply from;
+    bool isForced = false;
     for (;;) {
-        from = co_await context.point(u"Specify base point or [Displacement/mOde] <Displacement>: "_s, {}, {},
-                                      u"Displacement"_s);
+        // "Multiple" is for this once; older programs say it though COPYMODE would do.
+        from = co_await context.point(u"Specify base point or [Displacement/mOde] <Displacement>: "_s,
+                                      u"Displacement mOde Multiple"_s, {}, u"Displacement"_s);
+        if (from.isKeyword(u"Multiple")) {
+            isForced = true;
+            continue;
+        }
         if (!from.isKeyword(u"mOde"))
             break;
         const PromptReply mode =
@@ -113,7 +119,8 @@ CommandTask copy(CommandContext &context)
         context.document().variables().setInternally(u"COPYMODE", mode.text == u"Single"_s ? 1 : 0);
     }
     if (from.hasValue()) {
-        co_await askCopies(context, chosen.entities, from.point);
+        const bool isMultiple = isForced || context.document().variables().integer(u"COPYMODE") == 0;
+        co_await askCopies(context, chosen.entities, from.point, isMultiple);
         co_return;
     }
     const Vec3 by = co_await askDisplacement(context);

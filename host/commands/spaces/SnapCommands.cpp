@@ -21,7 +21,8 @@ CommandTask setSnapModes(CommandContext &context)
         const PromptReply reply = co_await context.text(u"Enter list of object snap modes: "_s);
         if (reply.isEmpty() || reply.text.trimmed().isEmpty())
             co_return;
-        const bool isOff = reply.text.trimmed().compare(u"off"_s, Qt::CaseInsensitive) == 0;
+        const QString word = reply.text.trimmed().toLower();
+        const bool isOff = word == u"off" || word == u"_off";
         if (const std::optional<int> wanted = isOff ? 0 : parseSnapModes(reply.text)) {
             variables.set(u"OSMODE", *wanted);
             co_return;

@@ -91,3 +91,7 @@
 ; A reference that shows nothing is found at its insertion point
 (label)(setvar "ATTREQ" 0)(command "-INSERT" "Label" '(5 5) 2 "" 0)(no-attributes)(view) ;! MOVE|5,5||0,0|1,0 ;? (getfield 10) ;= (6.0 5.0 0.0)
 (label)(setvar "ATTREQ" 0)(command "-INSERT" "Label" '(5 5) 2 "" 0)(no-attributes)(view) ;! ERASE|C|4,4|6,6| ;=
+(setvar "COPYMODE" 1)(line 0 0 1 0) ;! COPY|ALL||_M|0,0|0,1|0,2| ;~ keeps
+;= LINE 10=0,0,0 11=1,0,0; LINE 10=0,1,0 11=1,1,0; LINE 10=0,2,0 11=1,2,0
+(setvar "COPYMODE" 0)(line 0 0 1 0) ;! COPY|ALL||O|S|0,0|0,1 ;~ keeps
+;= LINE 10=0,0,0 11=1,0,0; LINE 10=0,1,0 11=1,1,0

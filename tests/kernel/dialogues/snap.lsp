@@ -12,3 +12,4 @@
 (setvar "OSMODE" 4) ;! -OSNAP|end,xyz ;> Invalid object snap mode. ;? (getvar "OSMODE") ;= 4
 (setvar "APERTURE" 10) ;! APERTURE|20 ;? (getvar "APERTURE") ;= 20
 (setvar "APERTURE" 10) ;! APERTURE|99 ;> Value must be between 1 and 50. ;? (getvar "APERTURE") ;= 10
+(setvar "OSMODE" 33) ;! -OSNAP|_off ;? (getvar "OSMODE") ;= 0
