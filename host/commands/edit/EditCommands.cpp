@@ -23,8 +23,7 @@ CommandTask erase(CommandContext &context)
 {
     const PromptReply chosen = co_await context.selection();
     const std::vector<RecordId> doomed = editable(context, chosen.entities);
-    for (RecordId id : doomed)
-        context.drawing().setErased(id, true);
+    eraseAll(context, doomed);
     if (!doomed.empty())
         rememberTakenOut(context, doomed);
 }

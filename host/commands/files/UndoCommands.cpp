@@ -1,4 +1,5 @@
 #include "host/commands/Commands.h"
+#include "host/drawing/records/Dictionaries.h"
 #include "host/kernel/documents/Document.h"
 #include "host/kernel/running/CommandContext.h"
 #include "host/kernel/running/Dialogue.h"
@@ -119,7 +120,7 @@ CommandTask oops(CommandContext &context)
     for (const drawing::RecordId id : memory.takenOut) {
         if (isUndone || drawing.isAlive(id))
             continue;
-        drawing.setErased(id, false);
+        drawing.dictionaries().setErasedWithOwned(id, false);
         ++count;
     }
     if (count == 0)

@@ -95,3 +95,5 @@
 ;= LINE 10=0,0,0 11=1,0,0; LINE 10=0,1,0 11=1,1,0; LINE 10=0,2,0 11=1,2,0
 (setvar "COPYMODE" 0)(line 0 0 1 0) ;! COPY|ALL||O|S|0,0|0,1 ;~ keeps
 ;= LINE 10=0,0,0 11=1,0,0; LINE 10=0,1,0 11=1,1,0
+; What an erased reference owned goes with it
+(door)(clipped)(setq c (cdr (assoc -1 (clip-object)))) ;! ERASE|L| ;? (entget c) ;= nil
