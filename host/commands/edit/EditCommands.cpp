@@ -84,8 +84,7 @@ Dialogue<bool> askCopies(CommandContext &context, const Copies &entities, Vec3 f
         } else if (!to.isKeyword(u"Undo")) {
             break;
         } else if (!made.empty()) {
-            for (RecordId id : made.back())
-                context.drawing().setErased(id, true);
+            eraseAll(context, made.back());
             made.pop_back();
         }
         if (context.hasFailed() || !isMultiple)

@@ -97,3 +97,6 @@
 ;= LINE 10=0,0,0 11=1,0,0; LINE 10=0,1,0 11=1,1,0
 ; What an erased reference owned goes with it
 (door)(clipped)(setq c (cdr (assoc -1 (clip-object)))) ;! ERASE|L| ;? (entget c) ;= nil
+; A copy of a clipped reference is taken back whole
+(door)(clipped) ;! COPY|L||0,0|5,5|U|E ;~ keeps
+;? (sslength (ssget "X" (list (cons 0 "INSERT")))) ;= 1
