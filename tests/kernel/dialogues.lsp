@@ -92,6 +92,7 @@
   (entmake '((0 . "DIMENSION") (100 . "AcDbEntity") (8 . "Dims") (62 . 3) (100 . "AcDbDimension") (2 . "*D1") (10 4.0 2.0 0.0)
     (11 2.0 2.0 0.0) (70 . 1) (100 . "AcDbAlignedDimension") (13 0.0 0.0 0.0) (14 4.0 0.0 0.0))))
 (defun rounded (v) (if (listp v) (mapcar 'rounded v) (if (= (type v) 'REAL) (atof (rtos v 2 4)) v)))
+(defun rounded-own (codes) (rounded (own codes)))
 (defun ucs () (mapcar '(lambda (v) (rounded (getvar v))) '("UCSORG" "UCSXDIR" "UCSYDIR")))
 (defun save-ucs (n) (command "UCS" "O" '(1 2 3) "UCS" "S" n "UCS" "W"))
 (defun entry-of (k n codes / e)

@@ -1,6 +1,6 @@
 #include "host/commands/Commands.h"
+#include "host/commands/annotate/DimensionDialogues.h"
 #include "host/commands/annotate/MeasuredObject.h"
-#include "host/commands/annotate/NewDimension.h"
 #include "host/drawing/annotation/DimensionData.h"
 #include "host/kernel/documents/Document.h"
 
@@ -108,13 +108,35 @@ double angleAt(const MeasuredAngle &angle, const UserPlane &plane, const Vec3 &p
     return data.measured();
 }
 
-// An arc, a circle with a second point, two lines or three points, then where the arc goes.
+/// A place that the user gives the text, which is in the middle of the arc otherwise.
+Dialogue<bool> askTextLocation(CommandContext &context, FieldList &fields)
+{
+    constexpr qint64 movedTextFlag = 128;
+    const PromptReply place = co_await context.point(u"Enter text location (or press ENTER): "_s);
+    if (!place.hasValue())
+        co_return false;
+    const UserPlane plane(context.document());
+    Vec3 at = plane.objectFromWorld(place.point);
+    at.z = plane.objectFromWorld(drawing::findField(fields, 10)->point()).z;
+    drawing::setField(fields, 11, at);
+    drawing::setField(fields, 70, drawing::findField(fields, 70)->integer() | movedTextFlag);
+    co_return true;
+}
+
 CommandTask angularDimension(CommandContext &context)
+{
+    co_await dimensionAngle(context, TextAsked::AsOption);
+}
+
+} // namespace
+
+// An arc, a circle with a second point, two lines or three points, then where the arc goes.
+Dialogue<bool> dimensionAngle(CommandContext &context, TextAsked asked)
 {
     const UserPlane plane(context.document());
     const std::optional<MeasuredAngle> angle = co_await askAngle(context);
     if (!angle)
-        co_return;
+        co_return false;
     DimensionAnswers answers;
     std::optional<Vec3> quadrant;
     PromptReply place;
@@ -131,10 +153,12 @@ CommandTask angularDimension(CommandContext &context)
     Vec3 at = place.point;
     if (quadrant && *quadrant != angle->vertex)
         at = angle->vertex + drawing::normalized(*quadrant - angle->vertex) * (place.point - angle->vertex).length();
-    createDimension(context, angleFields(*angle, plane, at), answers);
+    co_await askTextBehind(context, asked, context.shownAngle(angleAt(*angle, plane, at)), answers);
+    FieldList fields = angleFields(*angle, plane, at);
+    if (asked == TextAsked::Behind)
+        co_await askTextLocation(context, fields);
+    co_return isValid(createDimension(context, fields, answers));
 }
-
-} // namespace
 
 std::vector<CommandRow> angularDimensionCommands()
 {

@@ -1,5 +1,5 @@
 #include "host/commands/Commands.h"
-#include "host/commands/annotate/NewDimension.h"
+#include "host/commands/annotate/DimensionDialogues.h"
 #include "host/drawing/annotation/DimensionStyle.h"
 #include "host/drawing/annotation/StyleValues.h"
 #include "host/drawing/math/Angles.h"
@@ -24,12 +24,6 @@ using drawing::Vec2;
 using drawing::Vec3;
 
 namespace {
-
-enum class Chain
-{
-    Continued, ///< each begins where the one before ended
-    Baseline   ///< all begin where the first did, their lines one above the other
-};
 
 /// What the next dimension of a chain goes on from, flat in its plane.
 struct ChainLink
@@ -257,6 +251,14 @@ Dialogue<bool> askChain(CommandContext &context, Chain chain)
     co_return true;
 }
 
+/// What the dimension to a point would show.
+QString measuredOn(CommandContext &context, const ChainLink &link, Chain chain, const Vec3 &point)
+{
+    const DimensionData next = nextInChain(link, chain, link.data.plane.inverted().point(point).xy());
+    const bool isAngle = next.kind == DimensionKind::AngularOfPoints;
+    return isAngle ? context.shownAngle(next.measured()) : context.shownLength(next.measured());
+}
+
 // Second points, one after another, from the last dimension or a selected one, until two empty answers.
 CommandTask continuedDimension(CommandContext &context)
 {
@@ -269,6 +271,28 @@ CommandTask baselineDimension(CommandContext &context)
 }
 
 } // namespace
+
+Dialogue<bool> dimensionOn(CommandContext &context, Chain chain)
+{
+    std::optional<ChainLink> link = lastLink(context);
+    if (!link)
+        link = co_await selectLink(context, chain);
+    PromptReply next;
+    while (link) {
+        next = co_await context.point(u"Specify a second extension line origin or [Select] <Select>: "_s, {}, {},
+                                      u"Select"_s);
+        if (next.hasValue())
+            break;
+        link = co_await selectLink(context, chain);
+    }
+    if (!link)
+        co_return false;
+    DimensionAnswers answers;
+    const QString measured = measuredOn(context, *link, chain, next.point);
+    co_await askTextBehind(context, TextAsked::Behind, measured, answers);
+    const Vec2 at = link->data.plane.inverted().point(next.point).xy();
+    co_return isValid(createDimension(context, chainFields(nextInChain(*link, chain, at)), answers));
+}
 
 std::vector<CommandRow> dimensionChainCommands()
 {

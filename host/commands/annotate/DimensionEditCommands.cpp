@@ -1,7 +1,8 @@
 #include "host/commands/Commands.h"
-#include "host/commands/annotate/NewDimension.h"
+#include "host/commands/annotate/DimensionDialogues.h"
 #include "host/commands/common/EntityEdits.h"
 #include "host/drawing/annotation/StyleValues.h"
+#include "host/drawing/geometry/TransformFields.h"
 #include "host/drawing/records/Entities.h"
 #include "host/drawing/records/Tables.h"
 #include "host/kernel/documents/Document.h"
@@ -84,40 +85,9 @@ Dialogue<bool> obliqueDimensions(CommandContext &context)
         }
         dropField(fields, 52);
         if (angle.hasValue())
-            drawing::setField(fields, 52, plainDegrees(degrees - line));
+            drawing::setOwnField(fields, 52, plainDegrees(degrees - line));
     });
     co_return true;
-}
-
-// Home, New, Rotate or Oblique, then the dimensions; of Oblique the dimensions first.
-CommandTask editDimensions(CommandContext &context)
-{
-    const PromptReply option = co_await context.keyword(
-        u"Enter type of dimension editing [Home/New/Rotate/Oblique] <Home>: "_s, {}, u"Home"_s);
-    if (option.text == u"Oblique") {
-        co_await obliqueDimensions(context);
-        co_return;
-    }
-    DimensionChange change = moveTextHome;
-    if (option.text == u"New") {
-        const PromptReply text = co_await context.text(u"Enter dimension text <<>>: "_s, u"<>"_s);
-        const QString wanted = text.hasValue() && text.text != u"<>" ? text.text : QString();
-        change = [wanted](FieldList &fields) {
-            dropField(fields, 1);
-            if (!wanted.isEmpty())
-                drawing::setField(fields, 1, wanted);
-        };
-    } else if (option.text == u"Rotate") {
-        const PromptReply angle = co_await context.orientation(u"Specify angle for dimension text: "_s);
-        const double degrees = angle.hasValue() ? UserPlane(context.document()).objectDegrees(angle.real) : 0.0;
-        change = [degrees](FieldList &fields) {
-            dropField(fields, 53);
-            if (degrees != 0.0)
-                drawing::setField(fields, 53, degrees);
-        };
-    }
-    const PromptReply chosen = co_await context.selection();
-    changeDimensions(context, chosen.entities, change, option.text != u"New" && option.text != u"Rotate");
 }
 
 /// DIMJUST of one dimension: 1 and 2 put the text at the first or second extension line.
@@ -130,39 +100,6 @@ DimensionChange justified(qint64 justification)
         overrides.push_back({280, justification});
         drawing::setOverrides(fields, overrides);
     };
-}
-
-// One dimension, then the place of its text or a word for it.
-CommandTask editDimensionText(CommandContext &context)
-{
-    const UserPlane plane(context.document());
-    const PromptReply picked = co_await context.entity(u"Select dimension: "_s);
-    if (picked.entities.empty())
-        co_return;
-    if (!isDimension(context.drawing(), picked.entities.front())) {
-        context.fail(u"Object selected is not a dimension."_s);
-        co_return;
-    }
-    const PromptReply place =
-        co_await context.neededPoint(u"Specify new location for dimension text or [Left/Right/Center/Home/Angle]: "_s);
-    DimensionChange change = moveTextHome;
-    if (place.hasValue()) {
-        change = [&](FieldList &fields) {
-            setTextMoved(fields, true);
-            const Field *normal = drawing::findField(fields, 210);
-            const drawing::Matrix axes = drawing::Matrix::fromExtrusion(normal ? normal->point() : Vec3{0, 0, 1});
-            Vec3 at = axes.inverted().point(place.point);
-            at.z = axes.inverted().point(drawing::findField(fields, 10)->point()).z;
-            drawing::setField(fields, 11, at);
-        };
-    } else if (place.isKeyword(u"Angle")) {
-        const PromptReply angle = co_await context.orientation(u"Specify angle for dimension text: "_s);
-        const double degrees = angle.hasValue() ? plane.objectDegrees(angle.real) : 0.0;
-        change = [degrees](FieldList &fields) { drawing::setField(fields, 53, degrees); };
-    } else if (!place.isKeyword(u"Home")) {
-        change = justified(place.isKeyword(u"Left") ? 1 : place.isKeyword(u"Right") ? 2 : 0);
-    }
-    changeDimensions(context, {picked.entities.front()}, change, !place.hasValue() && !place.isKeyword(u"Angle"));
 }
 
 /// A typed value of a variable in the form of the header; nothing for one that it does not take.
@@ -217,8 +154,99 @@ Dialogue<std::optional<FieldList>> askOverrides(CommandContext &context, QString
     co_return overrides;
 }
 
+VariableValue variableValueOf(const Field &value)
+{
+    if (const auto *real = std::get_if<double>(&value.value))
+        return *real;
+    if (const auto *integer = std::get_if<qint64>(&value.value))
+        return static_cast<qint16>(*integer);
+    return value.text();
+}
+
+CommandTask dimensionEdit(CommandContext &context)
+{
+    const PromptReply option = co_await context.keyword(
+        u"Enter type of dimension editing [Home/New/Rotate/Oblique] <Home>: "_s, {}, u"Home"_s);
+    const QString chosen = option.text.isEmpty() ? u"Home"_s : option.text;
+    co_await editDimensions(context, chosen);
+}
+
+CommandTask dimensionTextEdit(CommandContext &context)
+{
+    co_await placeDimensionText(context);
+}
+
+CommandTask dimensionOverride(CommandContext &context)
+{
+    co_await overrideDimensionVariables(context);
+}
+
+} // namespace
+
+// The dimensions are asked for last, but first of Oblique.
+Dialogue<bool> editDimensions(CommandContext &context, QString option)
+{
+    if (option == u"Oblique")
+        co_return co_await obliqueDimensions(context);
+    DimensionChange change = moveTextHome;
+    if (option == u"New") {
+        const PromptReply text = co_await context.text(u"Enter dimension text <<>>: "_s, u"<>"_s);
+        const QString wanted = text.hasValue() && text.text != u"<>" ? text.text : QString();
+        change = [wanted](FieldList &fields) {
+            dropField(fields, 1);
+            if (!wanted.isEmpty())
+                drawing::setOwnField(fields, 1, wanted);
+        };
+    } else if (option == u"Rotate") {
+        const PromptReply angle = co_await context.orientation(u"Specify angle for dimension text: "_s);
+        const double degrees = angle.hasValue() ? UserPlane(context.document()).objectDegrees(angle.real) : 0.0;
+        change = [degrees](FieldList &fields) {
+            dropField(fields, 53);
+            if (degrees != 0.0)
+                drawing::setOwnField(fields, 53, degrees);
+        };
+    }
+    const PromptReply chosen = co_await context.selection();
+    changeDimensions(context, chosen.entities, change, option != u"New" && option != u"Rotate");
+    co_return true;
+}
+
+// One dimension, then the place of its text or a word for it.
+Dialogue<bool> placeDimensionText(CommandContext &context)
+{
+    const UserPlane plane(context.document());
+    const PromptReply picked = co_await context.entity(u"Select dimension: "_s);
+    if (picked.entities.empty())
+        co_return false;
+    if (!isDimension(context.drawing(), picked.entities.front())) {
+        context.fail(u"Object selected is not a dimension."_s);
+        co_return false;
+    }
+    const PromptReply place =
+        co_await context.neededPoint(u"Specify new location for dimension text or [Left/Right/Center/Home/Angle]: "_s);
+    DimensionChange change = moveTextHome;
+    if (place.hasValue()) {
+        change = [&](FieldList &fields) {
+            setTextMoved(fields, true);
+            const Field *normal = drawing::findField(fields, 210);
+            const drawing::Matrix axes = drawing::Matrix::fromExtrusion(normal ? normal->point() : Vec3{0, 0, 1});
+            Vec3 at = axes.inverted().point(place.point);
+            at.z = axes.inverted().point(drawing::findField(fields, 10)->point()).z;
+            drawing::setField(fields, 11, at);
+        };
+    } else if (place.isKeyword(u"Angle")) {
+        const PromptReply angle = co_await context.orientation(u"Specify angle for dimension text: "_s);
+        const double degrees = angle.hasValue() ? plane.objectDegrees(angle.real) : 0.0;
+        change = [degrees](FieldList &fields) { drawing::setOwnField(fields, 53, degrees); };
+    } else if (!place.isKeyword(u"Home")) {
+        change = justified(place.isKeyword(u"Left") ? 1 : place.isKeyword(u"Right") ? 2 : 0);
+    }
+    changeDimensions(context, {picked.entities.front()}, change, !place.hasValue() && !place.isKeyword(u"Angle"));
+    co_return true;
+}
+
 // Variables with values, or Clear, then the dimensions that get them in place of what their style says.
-CommandTask overrideDimensions(CommandContext &context)
+Dialogue<bool> overrideDimensionVariables(CommandContext &context)
 {
     const PromptReply first =
         co_await context.text(u"Enter dimension variable name to override or [Clear overrides]: "_s, {}, u"Clear"_s);
@@ -227,7 +255,7 @@ CommandTask overrideDimensions(CommandContext &context)
     if (!isClearing) {
         const auto asked = co_await askOverrides(context, first.text.trimmed());
         if (!asked || asked->empty())
-            co_return;
+            co_return false;
         overrides = *asked;
     }
     const PromptReply chosen = co_await context.selection();
@@ -239,15 +267,35 @@ CommandTask overrideDimensions(CommandContext &context)
         }
         drawing::setOverrides(fields, own);
     });
+    co_return true;
 }
 
-} // namespace
+Dialogue<bool> setDimensionVariable(CommandContext &context, QString name)
+{
+    const DimensionVariable *variable = drawing::dimensionVariable(name);
+    if (!variable || !isOfStyles(*variable)) {
+        context.refuse(u"Unknown dimension variable \"%1\"."_s.arg(name));
+        co_return false;
+    }
+    for (;;) {
+        const QString usual = valueInUse(context, *variable);
+        const PromptReply typed =
+            co_await context.text(u"Enter new value for dimension variable <%1>: "_s.arg(usual), usual);
+        if (!typed.hasValue() || typed.text.trimmed().isEmpty())
+            co_return true;
+        const auto value = typedValue(context, *variable, typed.text.trimmed());
+        if (value && context.document().variables().set(name, variableValueOf(*value)) == SetOutcome::Done)
+            co_return true;
+        if (context.refuse(u"%1 does not take this value."_s.arg(QLatin1StringView(variable->name))))
+            co_return false;
+    }
+}
 
 std::vector<CommandRow> dimensionEditCommands()
 {
-    return {{"DIMEDIT", editDimensions, "Changes text and extension lines of dimensions"},
-            {"DIMOVERRIDE", overrideDimensions, "Sets variables of single dimensions"},
-            {"DIMTEDIT", editDimensionText, "Moves or turns the text of a dimension"}};
+    return {{"DIMEDIT", dimensionEdit, "Changes text and extension lines of dimensions"},
+            {"DIMOVERRIDE", dimensionOverride, "Sets variables of single dimensions"},
+            {"DIMTEDIT", dimensionTextEdit, "Moves or turns the text of a dimension"}};
 }
 
 } // namespace host::kernel

@@ -1,5 +1,5 @@
 #include "host/commands/Commands.h"
-#include "host/commands/annotate/NewDimension.h"
+#include "host/commands/annotate/DimensionDialogues.h"
 #include "host/commands/common/EntityEdits.h"
 #include "host/drawing/annotation/StyleValues.h"
 #include "host/drawing/records/Entities.h"
@@ -173,32 +173,38 @@ Dialogue<bool> restoreStyle(CommandContext &context)
 // Save, Restore, STatus, Variables, Apply or a list of the styles.
 CommandTask dimensionStyle(CommandContext &context)
 {
-    const QString current = currentDimensionStyle(context);
-    context.print(u"\nCurrent dimension style: "_s + current);
+    context.print(u"\nCurrent dimension style: "_s + currentDimensionStyle(context));
     const PromptReply option = co_await context.keyword(
         u"Enter a dimension style option [ANnotative/Save/Restore/STatus/Variables/Apply/?] <Restore>: "_s, {},
         u"Restore"_s);
-    if (option.text == u"ANnotative") {
+    co_await takeDimensionStyleOption(context, option.text);
+}
+
+} // namespace
+
+Dialogue<bool> takeDimensionStyleOption(CommandContext &context, QString option)
+{
+    if (option == u"ANnotative") {
         co_await makeAnnotativeStyle(context);
-    } else if (option.text == u"Save") {
+    } else if (option == u"Save") {
         co_await askSavedStyle(context);
-    } else if (option.text == u"STatus") {
+    } else if (option == u"STatus") {
+        const QString current = currentDimensionStyle(context);
         listVariables(context, context.drawing().tables().find(TableKind::DimStyle, current), true);
-    } else if (option.text == u"Variables") {
+    } else if (option == u"Variables") {
         const RecordId style = co_await askDimensionStyle(context);
         if (isValid(style))
             listVariables(context, style, false);
-    } else if (option.text == u"Apply") {
+    } else if (option == u"Apply") {
         const PromptReply chosen = co_await context.selection();
         applyCurrentStyle(context, editable(context, chosen.entities));
-    } else if (option.text == u"?") {
+    } else if (option == u"?") {
         co_await askStyleList(context);
     } else {
         co_await restoreStyle(context);
     }
+    co_return true;
 }
-
-} // namespace
 
 std::vector<CommandRow> dimensionStyleCommands()
 {

@@ -1,5 +1,5 @@
 #include "host/commands/Commands.h"
-#include "host/commands/annotate/NewDimension.h"
+#include "host/commands/annotate/DimensionDialogues.h"
 #include "host/commands/annotate/NewMultiLeader.h"
 #include "host/drawing/annotation/StyleValues.h"
 #include "host/drawing/geometry/TransformEntity.h"
@@ -313,6 +313,31 @@ CommandTask multiLeader(CommandContext &context)
 }
 
 } // namespace
+
+Dialogue<bool> drawDimensionLeader(CommandContext &context, QString usualText)
+{
+    LeaderDraft draft;
+    const PromptReply start = co_await context.neededPoint(u"Leader start: "_s);
+    draft.points = {start.point};
+    for (;;) {
+        const PromptReply next = co_await context.point(u"To point: "_s, u"Undo"_s, draft.points.back());
+        if (next.hasValue())
+            draft.points.push_back(next.point);
+        else if (!next.isKeyword(u"Undo"))
+            break;
+        else if (draft.points.size() > 1)
+            draft.points.pop_back();
+    }
+    if (draft.points.size() < 2)
+        co_return false;
+    const PromptReply text = co_await context.text(u"Enter dimension text <%1>: "_s.arg(usualText), usualText);
+    const bool isTyped = text.hasValue() && !text.text.isEmpty();
+    const QString content = isTyped ? text.text : usualText;
+    const RecordId made = createLeader(context, draft);
+    if (isValid(made) && !content.trimmed().isEmpty())
+        addLeaderText(context, made, draft, content, 0.0);
+    co_return isValid(made);
+}
 
 std::vector<CommandRow> leaderCommands()
 {

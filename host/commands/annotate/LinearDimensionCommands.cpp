@@ -1,6 +1,6 @@
 #include "host/commands/Commands.h"
+#include "host/commands/annotate/DimensionDialogues.h"
 #include "host/commands/annotate/MeasuredObject.h"
-#include "host/commands/annotate/NewDimension.h"
 #include "host/kernel/documents/Document.h"
 
 #include <numbers>
@@ -111,57 +111,62 @@ drawing::FieldList linearFields(const UserPlane &plane, const MeasuredSpan &span
     return fields;
 }
 
-// Two points or an entity, then where the line goes; Horizontal, Vertical and Rotated fix its direction.
-CommandTask linearDimension(CommandContext &context)
+Dialogue<double> askLineAngle(CommandContext &context)
+{
+    const PromptReply turn = co_await context.orientation(u"Specify angle of dimension line <0>: "_s, {}, {}, u"0"_s);
+    co_return turn.hasValue() ? turn.real : 0.0;
+}
+
+/// The direction that is known before the place is asked for.
+Dialogue<std::optional<double>> askFixedAngle(CommandContext &context, LengthForm form)
+{
+    if (form == LengthForm::Rotated)
+        co_return co_await askLineAngle(context);
+    if (form == LengthForm::ByPlace || form == LengthForm::Aligned)
+        co_return std::nullopt;
+    co_return form == LengthForm::Vertical ? std::numbers::pi / 2.0 : 0.0;
+}
+
+/// Where the line goes; Horizontal, Vertical and Rotated fix its direction.
+Dialogue<PromptReply> askLinePlace(CommandContext &context, MeasuredSpan span, std::optional<double> &angle,
+                                   DimensionAnswers &answers)
 {
     const UserPlane plane(context.document());
-    std::optional<MeasuredSpan> span = co_await askSpan(context);
-    if (!span)
-        co_return;
-    std::optional<double> angle;
-    DimensionAnswers answers;
-    PromptReply place;
-    QString options = u"Mtext/Text/Angle/Horizontal/Vertical/Rotated"_s;
+    QString options = angle ? u"Mtext/Text/Angle"_s : u"Mtext/Text/Angle/Horizontal/Vertical/Rotated"_s;
     for (;;) {
-        LineQuestion question{u"Specify dimension line location or [%1]: "_s.arg(options),
-                              plane.worldFromUser(span->second),
-                              context.shownLength(spanAlong(*span, angle.value_or(0.0)))};
-        place = co_await askDimensionLine(context, question, answers);
+        const LineQuestion question{u"Specify dimension line location or [%1]: "_s.arg(options),
+                                    plane.worldFromUser(span.second),
+                                    context.shownLength(spanAlong(span, angle.value_or(0.0)))};
+        const PromptReply place = co_await askDimensionLine(context, question, answers);
         if (place.hasValue())
-            break;
+            co_return place;
         if (place.isKeyword(u"Rotated")) {
-            const PromptReply turn =
-                co_await context.orientation(u"Specify angle of dimension line <0>: "_s, {}, {}, u"0"_s);
-            angle = turn.hasValue() ? turn.real : 0.0;
+            angle = co_await askLineAngle(context);
             continue;
         }
         angle = place.isKeyword(u"Vertical") ? std::numbers::pi / 2.0 : 0.0;
         options = u"Mtext/Text/Angle"_s;
     }
-    const Vec2 at = plane.userFromWorld(place.point).xy();
-    const double along = angle.value_or(angleByPlace(*span, at));
-    turnSpan(*span, along);
-    createDimension(context, linearFields(plane, *span, along, at, 0), answers);
 }
 
-// Two points or an entity, then where the line goes, which runs from the one to the other.
-CommandTask alignedDimension(CommandContext &context)
+/// The line goes from the one point to the other.
+Dialogue<bool> dimensionAligned(CommandContext &context, MeasuredSpan span, TextAsked asked)
 {
     const UserPlane plane(context.document());
-    const std::optional<MeasuredSpan> span = co_await askSpan(context);
-    if (!span)
-        co_return;
-    const Vec2 along = span->second.xy() - span->first.xy();
+    const Vec2 along = span.second.xy() - span.first.xy();
     if (along == Vec2{}) {
         context.fail(u"The two points are one."_s);
-        co_return;
+        co_return false;
     }
     DimensionAnswers answers;
+    const QString measured = context.shownLength(along.length());
     const LineQuestion question{u"Specify dimension line location or [Mtext/Text/Angle]: "_s,
-                                plane.worldFromUser(span->second), context.shownLength(along.length())};
+                                plane.worldFromUser(span.second), measured};
     const PromptReply place = co_await askDimensionLine(context, question, answers);
+    co_await askTextBehind(context, asked, measured, answers);
     const Vec2 at = plane.userFromWorld(place.point).xy();
-    createDimension(context, linearFields(plane, *span, std::atan2(along.y, along.x), at, 1), answers);
+    co_return isValid(
+        createDimension(context, linearFields(plane, span, std::atan2(along.y, along.x), at, 1), answers));
 }
 
 /// Whether an ordinate is measured along x, by where its leader goes.
@@ -170,8 +175,44 @@ bool isOrdinateX(Vec2 leader)
     return std::abs(leader.y) > std::abs(leader.x);
 }
 
-// The feature, then where its leader ends; which ordinate it is follows from that, or from an option.
+// Two points or an entity, then where the line goes.
+CommandTask linearDimension(CommandContext &context)
+{
+    co_await dimensionLength(context, LengthForm::ByPlace, TextAsked::AsOption);
+}
+
+CommandTask alignedDimension(CommandContext &context)
+{
+    co_await dimensionLength(context, LengthForm::Aligned, TextAsked::AsOption);
+}
+
 CommandTask ordinateDimension(CommandContext &context)
+{
+    co_await dimensionOrdinate(context, TextAsked::AsOption);
+}
+
+} // namespace
+
+Dialogue<bool> dimensionLength(CommandContext &context, LengthForm form, TextAsked asked)
+{
+    std::optional<double> angle = co_await askFixedAngle(context, form);
+    std::optional<MeasuredSpan> span = co_await askSpan(context);
+    if (!span)
+        co_return false;
+    if (form == LengthForm::Aligned)
+        co_return co_await dimensionAligned(context, *span, asked);
+    const UserPlane plane(context.document());
+    DimensionAnswers answers;
+    const PromptReply place = co_await askLinePlace(context, *span, angle, answers);
+    const Vec2 at = plane.userFromWorld(place.point).xy();
+    const double along = angle.value_or(angleByPlace(*span, at));
+    turnSpan(*span, along);
+    co_await askTextBehind(context, asked, context.shownLength(spanAlong(*span, along)), answers);
+    co_return isValid(createDimension(context, linearFields(plane, *span, along, at, 0), answers));
+}
+
+// The feature, then where its leader ends; which ordinate it is follows from that, or from an option.
+Dialogue<bool> dimensionOrdinate(CommandContext &context, TextAsked asked)
 {
     constexpr int ordinateKind = 6;
     constexpr int alongX = 64;
@@ -179,25 +220,25 @@ CommandTask ordinateDimension(CommandContext &context)
     const PromptReply feature = co_await context.neededPoint(u"Specify feature location: "_s);
     const Vec2 at = plane.userFromWorld(feature.point).xy();
     std::optional<bool> isX;
+    const auto measured = [&] { return context.shownLength(std::abs(isX.value_or(true) ? at.x : at.y)); };
     DimensionAnswers answers;
     PromptReply end;
     for (;;) {
-        LineQuestion question{u"Specify leader endpoint or [Xdatum/Ydatum/Mtext/Text/Angle]: "_s, feature.point,
-                              context.shownLength(std::abs(isX.value_or(true) ? at.x : at.y))};
+        const LineQuestion question{u"Specify leader endpoint or [Xdatum/Ydatum/Mtext/Text/Angle]: "_s, feature.point,
+                                    measured()};
         end = co_await askDimensionLine(context, question, answers);
         if (end.hasValue())
             break;
         isX = end.isKeyword(u"Xdatum");
     }
-    const Vec2 leader = plane.userFromWorld(end.point).xy() - at;
-    const int kind = ordinateKind | (isX.value_or(isOrdinateX(leader)) ? alongX : 0);
-    createDimension(
+    isX = isX.value_or(isOrdinateX(plane.userFromWorld(end.point).xy() - at));
+    co_await askTextBehind(context, asked, measured(), answers);
+    const int kind = ordinateKind | (*isX ? alongX : 0);
+    co_return isValid(createDimension(
         context,
         {{0, u"DIMENSION"_s}, {10, plane.worldFromUser({})}, {70, qint64(kind)}, {13, feature.point}, {14, end.point}},
-        answers);
+        answers));
 }
-
-} // namespace
 
 std::vector<CommandRow> linearDimensionCommands()
 {

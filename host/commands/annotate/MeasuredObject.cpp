@@ -1,8 +1,10 @@
 #include "host/commands/annotate/MeasuredObject.h"
 
+#include "host/commands/common/UserPlane.h"
 #include "host/drawing/geometry/EntityGeometry.h"
 #include "host/drawing/math/Angles.h"
 #include "host/drawing/math/Curves.h"
+#include "host/kernel/documents/Document.h"
 
 #include <cmath>
 
@@ -112,6 +114,16 @@ std::optional<MeasuredObject> measuredObject(const Drawing &drawing, RecordId en
     MeasuredObject object = arcObject(planeOfRecord(tags), tags.point(10), tags.real(40), start, end);
     object.isCircle = type == "CIRCLE";
     return object;
+}
+
+bool isInUserPlane(CommandContext &context, const MeasuredObject &round)
+{
+    const UserPlane plane(context.document());
+    const Vec3 up = plane.worldFromUser({0.0, 0.0, 1.0}) - plane.worldFromUser({});
+    if (std::abs(dot(up, round.plane.zAxis)) > 1.0 - 1e-6)
+        return true;
+    context.fail(QStringLiteral("The object is not parallel to the current UCS."));
+    return false;
 }
 
 } // namespace host::kernel

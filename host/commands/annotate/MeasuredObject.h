@@ -2,6 +2,7 @@
 
 #include "host/drawing/math/Matrix.h"
 #include "host/drawing/records/Drawing.h"
+#include "host/kernel/running/CommandContext.h"
 
 #include <optional>
 
@@ -24,5 +25,8 @@ struct MeasuredObject
 /// above. Nothing for others.
 std::optional<MeasuredObject> measuredObject(const drawing::Drawing &drawing, drawing::RecordId entity,
                                              const drawing::Vec3 &pickedAt);
+
+/// Whether an arc or circle can be shown in the user's plane as what it is; the command fails where it cannot.
+bool isInUserPlane(CommandContext &context, const MeasuredObject &round);
 
 } // namespace host::kernel

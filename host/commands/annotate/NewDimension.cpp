@@ -1,13 +1,17 @@
 #include "host/commands/annotate/NewDimension.h"
 
+#include "host/commands/annotate/DimensionDialogues.h"
 #include "host/drawing/annotation/DimensionBlock.h"
 #include "host/drawing/annotation/DimensionText.h"
 #include "host/drawing/annotation/StyleValues.h"
 #include "host/drawing/records/Blocks.h"
 #include "host/drawing/records/HeaderVariables.h"
 #include "host/drawing/records/Tables.h"
+#include "host/drawing/tags/GroupCodes.h"
 #include "host/kernel/documents/Document.h"
 #include "host/kernel/variables/SystemVariables.h"
+
+#include <numbers>
 
 using namespace Qt::StringLiterals;
 
@@ -20,6 +24,16 @@ using drawing::Vec2;
 namespace {
 
 constexpr qint64 pictureIsOwnFlag = 32;
+
+/// What the style does not say: a jogged radius has its angle with it in any case.
+FieldList newOverrides(CommandContext &context, const QString &type, const QString &style)
+{
+    FieldList overrides = drawing::currentOverrides(context.drawing(), style);
+    const int jogCode = drawing::dimensionVariable(u"DIMJOGANG")->styleCode;
+    if (type == u"LARGE_RADIAL_DIMENSION" && !drawing::findField(overrides, jogCode))
+        overrides.push_back({jogCode, context.document().variables().real(u"DIMJOGANG", std::numbers::pi / 4.0)});
+    return overrides;
+}
 
 /// What does not depend on the kind of dimension.
 void addDimensionCommons(CommandContext &context, FieldList &fields, const DimensionAnswers &answers)
@@ -38,7 +52,22 @@ void addDimensionCommons(CommandContext &context, FieldList &fields, const Dimen
     if (const double level = plainDegrees(-plane.objectDegrees(0.0)); level != 0.0)
         fields.push_back({51, level});
     fields = plane.placed(std::move(fields));
-    drawing::setOverrides(fields, drawing::currentOverrides(context.drawing(), style));
+    drawing::setOverrides(fields, newOverrides(context, fields.front().text(), style));
+}
+
+/// A record in the order of its parts, of which the last is `own`. What drawing it finds out has its place in front.
+FieldList inParts(const FieldList &commons, const FieldList &own)
+{
+    const auto isXdata = [](const drawing::Field &field) { return field.code >= drawing::applicationCode; };
+    const auto xdata = std::ranges::find_if(commons, isXdata);
+    FieldList fields = {commons.front(), {100, u"AcDbEntity"_s}, {100, u"AcDbDimension"_s}, {2, QString()}};
+    fields.insert(fields.end(), commons.begin() + 1, xdata);
+    if (!drawing::findField(fields, 11))
+        fields.push_back({11, drawing::Vec3{}});
+    fields.push_back({42, 0.0});
+    fields.insert(fields.end(), own.begin(), own.end());
+    fields.insert(fields.end(), xdata, commons.end());
+    return fields;
 }
 
 /// An entity of a picture as one of its own: what was as the dimension is as new entities are.
@@ -76,15 +105,17 @@ void placeBesideLine(CommandContext &context, RecordId dimension)
 {
     drawing::Drawing &drawing = context.drawing();
     const auto data = readDimension(drawing, dimension, drawing.tags(dimension));
+    const bool isJogged = data && data->kind == drawing::DimensionKind::LargeRadius;
     const bool isRound =
-        data && (data->kind == drawing::DimensionKind::Radius || data->kind == drawing::DimensionKind::Diameter);
+        isJogged ||
+        (data && (data->kind == drawing::DimensionKind::Radius || data->kind == drawing::DimensionKind::Diameter));
     if (!isRound || !data->textAt)
         return;
     const drawing::DimensionStyle style = readDimensionStyle(drawing, drawing.tags(dimension));
     const Vec2 size =
         dimensionTextSize(context, style.textStyle)(dimensionText(*data, style), style.textHeight * style.scale);
     const Vec2 middle =
-        data->kind == drawing::DimensionKind::Radius ? data->definition : (data->definition + data->third) * 0.5;
+        data->kind == drawing::DimensionKind::Diameter ? (data->definition + data->third) * 0.5 : data->definition;
     const Vec2 out = *data->textAt - middle;
     const bool isInside = out.length() < (data->third - middle).length();
     const bool isLevel = isInside ? style.isLevelInside : style.isLevelOutside;
@@ -95,7 +126,7 @@ void placeBesideLine(CommandContext &context, RecordId dimension)
     const bool isReadLeft = along.x < -1e-9 || (std::abs(along.x) <= 1e-9 && along.y < 0.0);
     const double gap = std::abs(style.gap) * style.scale;
     Vec2 at = *data->textAt;
-    if (isLevel)
+    if (isLevel && !isJogged)
         at = at + along * (style.arrowSize * style.scale + gap + size.x / 2.0);
     if (style.textPlace != 0)
         at = at + turnedLeft(along) * ((isReadLeft ? -1.0 : 1.0) * (gap + size.y / 2.0));
@@ -144,6 +175,17 @@ Dialogue<PromptReply> askDimensionLine(CommandContext &context, LineQuestion que
     }
 }
 
+Dialogue<bool> askTextBehind(CommandContext &context, TextAsked asked, QString measured, DimensionAnswers &answers)
+{
+    if (asked == TextAsked::AsOption)
+        co_return false;
+    const QString usual = answers.text.isEmpty() ? measured : answers.text;
+    const PromptReply text = co_await context.text(u"Enter dimension text <%1>: "_s.arg(usual), usual);
+    if (text.hasValue() && !text.text.isEmpty())
+        answers.text = text.text;
+    co_return true;
+}
+
 void redrawDimension(CommandContext &context, RecordId dimension, bool movesTextHome)
 {
     drawing::Drawing &drawing = context.drawing();
@@ -154,8 +196,11 @@ void redrawDimension(CommandContext &context, RecordId dimension, bool movesText
 
 RecordId createDimension(CommandContext &context, FieldList fields, const DimensionAnswers &answers)
 {
+    const auto marker = std::ranges::find(fields, 100, &drawing::Field::code);
+    const FieldList own(marker, fields.end());
+    fields.erase(marker, fields.end());
     addDimensionCommons(context, fields, answers);
-    const RecordId made = context.create(fields);
+    const RecordId made = context.create(own.empty() ? fields : inParts(fields, own));
     if (!isValid(made))
         return made;
     placeBesideLine(context, made);

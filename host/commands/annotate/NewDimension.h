@@ -27,7 +27,8 @@ Dialogue<PromptReply> askDimensionLine(CommandContext &context, LineQuestion que
 
 /// Makes a DIMENSION from its kind (group 70) and points, in the user's plane, with the current style and its
 /// overrides, draws its block and tells the measured value. DIMASSOC 0 leaves the entities of the picture in its place.
-/// `fields` begin with the type. noRecord when it could not be made, which was told.
+/// `fields` begin with the type; of one that is not DIMENSION what its own part has follows behind its marker (100).
+/// noRecord when it could not be made, which was told.
 drawing::RecordId createDimension(CommandContext &context, drawing::FieldList fields, const DimensionAnswers &answers);
 
 /// Draws a changed dimension anew.

@@ -325,6 +325,7 @@ struct ListedKind
 constexpr ListedKind listedKinds[] = {
     {"3DFACE", listCorners},
     {"ARC", listArc},
+    {"ARC_DIMENSION", listDimension},
     {"ATTDEF", listText},
     {"ATTRIB", listText},
     {"CIRCLE", listCircle},
@@ -332,6 +333,7 @@ constexpr ListedKind listedKinds[] = {
     {"ELLIPSE", listEllipse},
     {"HATCH", listHatch},
     {"INSERT", listReference},
+    {"LARGE_RADIAL_DIMENSION", listDimension},
     {"LINE", listLine},
     {"LWPOLYLINE", listLightPolyline},
     {"MTEXT", listParagraph},

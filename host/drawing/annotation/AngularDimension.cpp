@@ -106,6 +106,11 @@ void sketchArcLength(DimensionSketch &sketch)
         sketch.extension(second, data.third + unitVector(span.start + span.sweep) * radius, true);
     }
     addDimensionArc(sketch, span, radius);
+    if (data.leaderFrom) {
+        const Vec2 along = unitAlong(data.leaderTo - *data.leaderFrom);
+        sketch.arrow(data.leaderTo, along, false);
+        sketch.line(*data.leaderFrom, data.leaderTo - along * sketch.arrowLength(false));
+    }
     if (!sketch.hasText() || sketch.style().arcSign > 1)
         return;
     const double size = 0.82 * sketch.textHeight();

@@ -61,13 +61,25 @@ void readPoints(DimensionData &data, const TagList &tags)
         data.textAt = at;
 }
 
+/// The groups of an arc's own part have codes that stand before it in another sense.
+void readArcLeader(DimensionData &data, const TagList &tags)
+{
+    const Tag *flag = tags.find(71, "AcDbArcDimension");
+    if (!flag || flag->integer().value_or(0) == 0 || !tags.find(16) || !tags.find(17))
+        return;
+    const Matrix toPlane = data.plane.inverted();
+    data.leaderTo = toPlane.point(tags.point(16)).xy();
+    data.leaderFrom = toPlane.point(tags.point(17)).xy();
+}
+
 bool isSound(const DimensionData &data)
 {
     constexpr double farthest = 1e16;
     const auto isNear = [](Vec2 p) { return std::abs(p.x) <= farthest && std::abs(p.y) <= farthest; };
     return isNear(data.definition) && isNear(data.first) && isNear(data.second) && isNear(data.third) &&
-           isNear(data.fourth) && isNear(data.textAt.value_or(Vec2{})) && std::isfinite(data.angle) &&
-           std::isfinite(data.oblique) && std::isfinite(data.textRotation) && std::isfinite(data.horizontal);
+           isNear(data.fourth) && isNear(data.leaderTo) && isNear(data.leaderFrom.value_or(Vec2{})) &&
+           isNear(data.textAt.value_or(Vec2{})) && std::isfinite(data.angle) && std::isfinite(data.oblique) &&
+           std::isfinite(data.textRotation) && std::isfinite(data.horizontal);
 }
 
 /// Extended data of the application ACAD hold it below the number 50 of a style.
@@ -143,6 +155,8 @@ std::optional<DimensionData> readDimension(const Drawing &drawing, RecordId enti
     data.text = tags.text(1);
     if (data.kind == DimensionKind::LargeRadius)
         data.jogAngle = jogAngleOf(tags);
+    if (data.kind == DimensionKind::Arc)
+        readArcLeader(data, tags);
     if (data.kind == DimensionKind::Aligned && !(data.second == data.first))
         data.angle = directionOf(data.second - data.first);
     return isSound(data) ? std::optional(data) : std::nullopt;

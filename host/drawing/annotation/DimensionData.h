@@ -38,6 +38,8 @@ struct DimensionData
     double horizontal = 0.0;   ///< direction of level texts
     double textRotation = 0.0; ///< of a text that is turned; 0: as the style says
     bool isOrdinateX = false;  ///< measured along x
+    std::optional<Vec2> leaderFrom{}; ///< of an arc's length: where a line to the arc comes from; nothing for none
+    Vec2 leaderTo{};
     std::optional<Vec2> textAt{}; ///< middle of the text; nothing: where the style places it
     QString text{};               ///< in place of the measured value, which "<>" in it stands for; a blank for no text
 

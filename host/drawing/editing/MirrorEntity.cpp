@@ -155,7 +155,7 @@ bool mirrorEntity(Drawing &drawing, RecordId entity, const Matrix &mirror, Mirro
     collect(drawing, entity, parts);
     for (const RecordId child : drawing.children(entity))
         collect(drawing, child, parts);
-    if (drawing.isType(entity, "DIMENSION")) {
+    if (drawing.typeName(entity).endsWith("DIMENSION")) {
         const RecordId picture = drawing.blocks().find(drawing.tags(entity).text(2));
         for (const RecordId part : isValid(picture) ? drawing.children(picture) : std::vector<RecordId>())
             collect(drawing, part, parts);

@@ -80,7 +80,7 @@ bool plan(const Drawing &drawing, RecordId entity, const Matrix &matrix, Changes
     if (depth > maximumDepth || !transformFields(fields, matrix))
         return false;
     changes.emplace_back(entity, std::move(fields));
-    if (drawing.isType(entity, "DIMENSION")) {
+    if (drawing.typeName(entity).endsWith("DIMENSION")) {
         const RecordId picture = drawing.blocks().find(drawing.tags(entity).text(2));
         return !isValid(picture) || planAll(drawing, drawing.children(picture), matrix, changes, depth + 1);
     }
@@ -119,7 +119,7 @@ void copyPicture(Drawing &drawing, RecordId dimension)
     const RecordId block = drawing.blocks().create(u"*D"_s, picture->basePoint, picture->flags);
     const Handle owner = drawing.owner(block);
     for (const RecordId entity : drawing.children(picture->record)) {
-        if (!drawing.isType(entity, "DIMENSION"))
+        if (!drawing.typeName(entity).endsWith("DIMENSION"))
             copyInto(drawing, entity, block, owner);
     }
     name->value = drawing.blocks().name(block);
@@ -142,7 +142,7 @@ RecordId copyInto(Drawing &drawing, RecordId entity, RecordId container, Handle 
         last = drawing.insert(last, copy, RecordKind::Child, copiedFields(drawing, child, drawing.handle(copy)));
     if (isValid(end))
         drawing.insert(last, copy, RecordKind::EndChildren, copiedFields(drawing, end, drawing.handle(copy)));
-    if (drawing.isType(copy, "DIMENSION"))
+    if (drawing.typeName(copy).endsWith("DIMENSION"))
         copyPicture(drawing, copy);
     copyOwnedObjects(drawing, entity, copy);
     return copy;

@@ -293,6 +293,30 @@ bool transformDimension(FieldList &fields, const Matrix &matrix)
     return true;
 }
 
+/// Of an arc length, whose leader's ends are points of the world, and whose ends also stand as directions in radians.
+bool transformArcDimension(FieldList &fields, const Matrix &matrix)
+{
+    if (!isUniform(matrix))
+        return false;
+    const PlaneMap plane = planeOf(fields, matrix);
+    mapPoints(fields, {10, 13, 14, 15, 16, 17}, [&](const Vec3 &p) { return matrix.point(p); });
+    mapPoints(fields, {11, 12}, [&](const Vec3 &p) { return plane.point(p); });
+    scaleField(fields, 42, plane.factor());
+    // What runs counter-clockwise goes on doing so.
+    Field *first = findField(fields, 13);
+    Field *second = findField(fields, 14);
+    if (plane.isMirrored() && first && second)
+        std::swap(first->value, second->value);
+    const Matrix toPlane = Matrix::fromExtrusion(plane.extrusion()).inverted();
+    for (const int end : {0, 1}) {
+        const Vec3 out = toPlane.direction(pointOf(fields, 13 + end) - pointOf(fields, 15));
+        const double angle = std::atan2(out.y, out.x);
+        if (Field *direction = findField(fields, 40 + end))
+            direction->value = angle < 0.0 ? angle + wholeTurn : angle;
+    }
+    return true;
+}
+
 bool transformHatchOf(FieldList &fields, const Matrix &matrix)
 {
     return transformHatch(fields, planeOf(fields, matrix));
@@ -348,6 +372,8 @@ constexpr std::pair<QStringView, FieldsFunction> transformFunctions[] = {
     {u"INSERT", transformInsert},
     {u"LWPOLYLINE", transformLightPolyline},
     {u"DIMENSION", transformDimension},
+    {u"ARC_DIMENSION", transformArcDimension},
+    {u"LARGE_RADIAL_DIMENSION", transformDimension},
     {u"HATCH", transformHatchOf},
     {u"VIEWPORT", transformViewport},
 };

@@ -36,6 +36,8 @@ struct ClassRule
 };
 
 constexpr ClassRule classRules[] = {
+    {"ARC_DIMENSION"_L1, "AcDbArcDimension"_L1, "ObjectDBX Classes"_L1, 1025},
+    {"LARGE_RADIAL_DIMENSION"_L1, "AcDbRadialDimensionLarge"_L1, "ObjectDBX Classes"_L1, 1025},
     {"IMAGE"_L1, "AcDbRasterImage"_L1, "ISM"_L1, 2175},
     {"IMAGEDEF"_L1, "AcDbRasterImageDef"_L1, "ISM"_L1, 0, false},
     {"WIPEOUT"_L1, "AcDbWipeout"_L1, "WipeOut"_L1, 2175},

@@ -166,7 +166,7 @@ drawing::Outline Picker::outline(RecordId entity, drawing::WorkBudget &work) con
 NestedPick Picker::nestedAt(RecordId entity, const Vec3 &point) const
 {
     const drawing::Drawing &drawing = m_document.drawing();
-    if (drawing.isType(entity, "INSERT") || drawing.isType(entity, "DIMENSION"))
+    if (drawing.isType(entity, "INSERT") || drawing.typeName(entity).endsWith("DIMENSION"))
         return nearestInside(entity, point);
     NestedPick pick;
     pick.entity = drawing.isType(entity, "POLYLINE") ? nearestVertex(entity, point) : entity;

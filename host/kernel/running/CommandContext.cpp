@@ -184,6 +184,10 @@ FieldList asNewEntity(Document &document, const FieldList &given)
     const Vec3 up = document.userAxes().zAxis;
     if (isInSpace && drawing::findField(fields, 39) && !drawing::findField(fields, 210) && up != Vec3{0, 0, 1})
         fields.push_back({210, up});
+    // A list with markers is in the order of the record: what all entities have stands behind its own.
+    const auto marker = std::ranges::find(fields, drawing::Field{100, QStringLiteral("AcDbEntity")});
+    if (marker != fields.end())
+        std::rotate(marker + 1, fields.begin() + qsizetype(given.size()), fields.end());
     return fields;
 }
 

@@ -114,7 +114,7 @@ public:
 
     /// Makes an entity in the current space with the current layer, colour, linetype, scale, weight, thickness and
     /// transparency where `fields` do not say others, and prints the reason when that fails.
-    /// noRecord then.
+    /// noRecord then. Fields with subclass markers stay in their order, which is that of the record then.
     drawing::RecordId create(const drawing::FieldList &fields);
     /// The same for an entity with parts that end in a SEQEND, which is made too.
     drawing::RecordId createComplex(const drawing::FieldList &head, const std::vector<drawing::FieldList> &children);
