@@ -149,3 +149,8 @@
 (defun arc (x y r a b) (entmake (list '(0 . "ARC") (list 10 (float x) (float y) 0.0) (cons 40 (float r)) (cons 50 (* pi (/ a 180.0))) (cons 51 (* pi (/ b 180.0))))))
 (defun chain (closed points) (entmake (append (list '(0 . "LWPOLYLINE") '(100 . "AcDbEntity") '(100 . "AcDbPolyline") (cons 90 (length points)) (cons 70 closed)) (mapcar '(lambda (p) (cons 10 p)) points))))
 (defun cross () (line -10 0 10 0) (line -2 -5 -2 5) (line 3 -5 3 5))
+(defun dressed (e / d)
+  (setq d (entmakex '((0 . "DICTIONARY") (100 . "AcDbDictionary"))))
+  (dictadd d "NOTE" (setq note (entmakex '((0 . "XRECORD") (100 . "AcDbXrecord") (1 . "x")))))
+  (entmod (append (entget e) (list '(102 . "{ACAD_XDICTIONARY") (cons 360 d) '(102 . "}")))))
+(defun noted () (cdr (assoc 1 (entget note))))

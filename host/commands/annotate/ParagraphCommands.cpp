@@ -274,7 +274,7 @@ CommandTask textsToParagraph(CommandContext &context)
     if (!isValid(context.create(fields)))
         co_return;
     for (const TextLine &line : lines)
-        context.drawing().setErased(line.record, true);
+        eraseAll(context, {line.record});
     context.print(u"\n%1 texts became one paragraph."_s.arg(lines.size()));
 }
 

@@ -2,6 +2,7 @@
 
 #include "host/drawing/geometry/TransformFields.h"
 #include "host/drawing/records/Blocks.h"
+#include "host/drawing/records/Dictionaries.h"
 #include "host/drawing/records/EntityBuilder.h"
 #include "host/drawing/records/Structure.h"
 #include "host/drawing/tags/GroupCodes.h"
@@ -107,7 +108,7 @@ void setAttributes(drawing::Drawing &drawing, RecordId insert, const std::vector
     }
     for (const RecordId child : drawing.children(insert))
         if (!kept.contains(child))
-            drawing.setErased(child, true);
+            drawing.dictionaries().setErasedWithOwned(child, true);
 }
 
 } // namespace host::kernel

@@ -153,8 +153,7 @@ void detach(CommandContext &context, const drawing::Block &block)
     }
     if (editable(context, inserts).size() != inserts.size())
         return context.print(u"\n\"%1\" was not detached."_s.arg(block.name));
-    for (const RecordId insert : inserts)
-        drawing.setErased(insert, true);
+    eraseAll(context, inserts);
     drawing.blocks().erase(block.record);
     drawing::eraseDependents(drawing, block.name);
     context.print(u"\n\"%1\" detached."_s.arg(block.name));

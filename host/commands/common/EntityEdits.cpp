@@ -29,6 +29,12 @@ void eraseAll(CommandContext &context, const std::vector<RecordId> &entities)
         context.drawing().dictionaries().setErasedWithOwned(id, true);
 }
 
+void bringBack(CommandContext &context, const std::vector<RecordId> &entities)
+{
+    for (const RecordId id : entities)
+        context.drawing().dictionaries().setErasedWithOwned(id, false);
+}
+
 void takeOut(CommandContext &context, const std::vector<RecordId> &entities)
 {
     const drawing::Drawing &drawing = context.drawing();

@@ -16,7 +16,9 @@ class CommandContext;
 std::vector<drawing::RecordId> editable(CommandContext &context, std::vector<drawing::RecordId> entities);
 /// Takes entities out for good, with what they own in the drawing's objects.
 void eraseAll(CommandContext &context, const std::vector<drawing::RecordId> &entities);
-/// The same of entities that OOPS brings back, with all that goes with them. Looks at every record.
+/// What eraseAll() took out, for a command's own Undo. Those that are there stay as they are.
+void bringBack(CommandContext &context, const std::vector<drawing::RecordId> &entities);
+/// As eraseAll(), of entities that OOPS brings back, with all that goes with them. Looks at every record.
 void takeOut(CommandContext &context, const std::vector<drawing::RecordId> &entities);
 /// What was erased is what OOPS brings back.
 void rememberTakenOut(CommandContext &context, std::vector<drawing::RecordId> records);

@@ -1,6 +1,7 @@
 #include "host/commands/curves/CornerSides.h"
 
 #include "host/commands/common/CircleGeometry.h"
+#include "host/commands/common/EntityEdits.h"
 #include "host/commands/common/UserPlane.h"
 #include "host/drawing/math/Angles.h"
 #include "host/kernel/documents/CurrentSpace.h"
@@ -178,7 +179,7 @@ void CornerChanges::setFields(RecordId record, const FieldList &fields)
 
 void CornerChanges::erase(RecordId record)
 {
-    m_context.drawing().setErased(record, true);
+    eraseAll(m_context, {record});
     m_erased.push_back(record);
 }
 
@@ -217,11 +218,9 @@ void CornerChanges::takeBack()
 {
     for (auto change = m_changed.rbegin(); change != m_changed.rend(); ++change)
         m_context.drawing().setFields(change->first, change->second);
-    for (const RecordId id : m_made)
-        if (isValid(id))
-            m_context.drawing().setErased(id, true);
-    for (const RecordId id : m_erased)
-        m_context.drawing().setErased(id, false);
+    std::erase_if(m_made, [](RecordId id) { return !isValid(id); });
+    eraseAll(m_context, m_made);
+    bringBack(m_context, m_erased);
 }
 
 void trimSide(CornerChanges &changes, const drawing::Drawing &drawing, const UserPlane &plane, const CornerSide &side,

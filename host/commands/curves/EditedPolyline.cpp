@@ -1,5 +1,6 @@
 #include "host/commands/curves/EditedPolyline.h"
 
+#include "host/commands/common/EntityEdits.h"
 #include "host/commands/curves/PolylineSmoothing.h"
 #include "host/drawing/math/Angles.h"
 #include "host/drawing/records/PolylineFlags.h"
@@ -105,7 +106,7 @@ StoredPolyline storeAnew(CommandContext &context, const EditedPolyline &polyline
         return {};
     }
     if (isValid(polyline.record))
-        context.drawing().setErased(polyline.record, true);
+        eraseAll(context, {polyline.record});
     return {made.record, true};
 }
 

@@ -174,10 +174,9 @@ void takeOffsetBack(CommandContext &context, std::vector<OffsetStep> &steps)
 {
     if (steps.empty())
         return context.print(u"\nNothing to undo"_s);
-    for (const RecordId id : steps.back().made)
-        context.drawing().setErased(id, true);
+    eraseAll(context, steps.back().made);
     if (isValid(steps.back().erased))
-        context.drawing().setErased(steps.back().erased, false);
+        bringBack(context, {steps.back().erased});
     steps.pop_back();
 }
 
@@ -221,7 +220,7 @@ Dialogue<OffsetNext> askSides(CommandContext &context, OffsetSettings settings, 
         }
         if (settings.erasesSource) {
             step.erased = source;
-            context.drawing().setErased(source, true);
+            eraseAll(context, {source});
         }
         steps.push_back(step);
         if (!isMultiple)

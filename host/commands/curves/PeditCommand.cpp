@@ -55,7 +55,7 @@ public:
     }
     void erase(RecordId record)
     {
-        m_context.drawing().setErased(record, true);
+        eraseAll(m_context, {record});
         m_steps.back().erased.push_back(record);
     }
     /// False when there is nothing left to take back.
@@ -65,10 +65,8 @@ public:
             return false;
         const Step step = std::move(m_steps.back());
         m_steps.pop_back();
-        for (const RecordId id : step.made)
-            m_context.drawing().setErased(id, true);
-        for (const RecordId id : step.erased)
-            m_context.drawing().setErased(id, false);
+        eraseAll(m_context, step.made);
+        bringBack(m_context, step.erased);
         polylines = step.before;
         for (const EditedPolyline &polyline : polylines)
             if (polyline.isLight && isValid(polyline.record))

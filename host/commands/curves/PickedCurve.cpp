@@ -1,5 +1,6 @@
 #include "host/commands/curves/PickedCurve.h"
 
+#include "host/commands/common/EntityEdits.h"
 #include "host/kernel/documents/Document.h"
 #include "host/kernel/input/SelectionQuery.h"
 
@@ -73,7 +74,7 @@ bool replaceByParts(CommandContext &context, RecordId entity, const std::vector<
         records.push_back(std::move(*record));
     }
     if (records.empty()) {
-        drawing.setErased(entity, true);
+        eraseAll(context, {entity});
         return true;
     }
     const RecordId first = replaceCurve(drawing, entity, records.front());
@@ -89,10 +90,8 @@ bool replaceByParts(CommandContext &context, RecordId entity, const std::vector<
 
 void takeBack(CommandContext &context, const CurveStep &step)
 {
-    for (const RecordId id : step.made)
-        context.drawing().setErased(id, true);
-    if (context.drawing().isErased(step.entity))
-        context.drawing().setErased(step.entity, false);
+    eraseAll(context, step.made);
+    bringBack(context, {step.entity});
     context.drawing().setFields(step.entity, step.before);
 }
 

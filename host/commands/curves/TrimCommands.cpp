@@ -223,7 +223,7 @@ Dialogue<bool> eraseSome(TrimSession &session)
     const PromptReply chosen = co_await context.selection();
     for (const RecordId entity : editable(context, chosen.entities)) {
         drawing::FieldList before = context.drawing().fields(entity);
-        context.drawing().setErased(entity, true);
+        eraseAll(context, {entity});
         session.note(entity, std::move(before), {});
     }
     co_return true;

@@ -124,8 +124,7 @@ void purgeEntities(CommandContext &context, bool (*isWanted)(const drawing::Draw
         if (drawing.kind(id) == drawing::RecordKind::Entity && isWanted(drawing, id))
             found.push_back(id);
     found = editable(context, std::move(found));
-    for (const RecordId id : found)
-        drawing.setErased(id, true);
+    eraseAll(context, found);
     context.print(u"\n%1 %2 deleted."_s.arg(found.size()).arg(what));
 }
 

@@ -5,6 +5,7 @@
 #include "host/drawing/editing/RenameLayer.h"
 #include "host/drawing/editing/Viewports.h"
 #include "host/drawing/math/Angles.h"
+#include "host/drawing/records/Dictionaries.h"
 #include "host/drawing/records/Layouts.h"
 #include "host/kernel/documents/CurrentSpace.h"
 #include "host/kernel/documents/CurrentView.h"
@@ -162,7 +163,7 @@ Dialogue<bool> deleteViews(CommandContext &context)
     if (doomed.empty())
         context.print(u"\nNo matching views found."_s);
     for (const drawing::RecordId entry : doomed)
-        context.drawing().setErased(entry, true);
+        context.drawing().dictionaries().setErasedWithOwned(entry, true);
     co_return true;
 }
 

@@ -4,6 +4,7 @@
 #include "host/commands/spaces/SheetViewports.h"
 #include "host/drawing/editing/RenameLayer.h"
 #include "host/drawing/math/Angles.h"
+#include "host/drawing/records/Dictionaries.h"
 #include "host/drawing/tags/GroupCodes.h"
 #include "host/kernel/running/CommandContext.h"
 
@@ -51,7 +52,7 @@ void place(drawing::Drawing &drawing, RecordId entry, const Box &box)
 void eraseAll(drawing::Drawing &drawing, const std::vector<RecordId> &entries)
 {
     for (const RecordId entry : entries)
-        drawing.setErased(entry, true);
+        drawing.dictionaries().setErasedWithOwned(entry, true);
 }
 
 RecordId firstInUse(drawing::Drawing &drawing)

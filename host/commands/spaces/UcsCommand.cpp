@@ -3,6 +3,7 @@
 #include "host/commands/spaces/UserSystems.h"
 #include "host/drawing/editing/RenameLayer.h"
 #include "host/drawing/editing/Viewports.h"
+#include "host/drawing/records/Dictionaries.h"
 #include "host/drawing/records/Tables.h"
 #include "host/kernel/documents/CurrentSpace.h"
 #include "host/kernel/documents/Document.h"
@@ -196,7 +197,7 @@ Dialogue<bool> deleteSystems(CommandContext &context)
     if (doomed.empty())
         context.print(u"\nNo matching UCS names found."_s);
     for (const drawing::RecordId entry : doomed)
-        context.drawing().setErased(entry, true);
+        context.drawing().dictionaries().setErasedWithOwned(entry, true);
     co_return true;
 }
 

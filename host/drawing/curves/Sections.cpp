@@ -2,6 +2,7 @@
 
 #include "host/drawing/curves/PolylineRecord.h"
 #include "host/drawing/math/Angles.h"
+#include "host/drawing/records/Dictionaries.h"
 #include "host/drawing/records/Entities.h"
 #include "host/drawing/records/Journal.h"
 #include "host/drawing/tags/GroupCodes.h"
@@ -203,7 +204,7 @@ RecordId replaceCurve(Drawing &drawing, RecordId entity, const CurveRecord &reco
     const JournalGroup group(drawing.journal(), {});
     const RecordId made = addCurve(drawing, entity, record);
     if (isValid(made))
-        drawing.setErased(entity, true);
+        drawing.dictionaries().setErasedWithOwned(entity, true);
     return made;
 }
 

@@ -5,6 +5,7 @@
 #include "host/drawing/geometry/TransformEntity.h"
 #include "host/drawing/geometry/TransformFields.h"
 #include "host/drawing/records/Blocks.h"
+#include "host/drawing/records/Dictionaries.h"
 #include "host/drawing/records/Entities.h"
 #include "host/drawing/records/Journal.h"
 #include "host/drawing/tags/GroupCodes.h"
@@ -224,7 +225,7 @@ ExplodeResult explodeEntity(Drawing &drawing, RecordId entity, const ExplodeRule
     const JournalGroup group(drawing.journal(), {});
     ExplodeResult result = Explosion(drawing, entity, rules, work).run(entity);
     if (result)
-        drawing.setErased(entity, true);
+        drawing.dictionaries().setErasedWithOwned(entity, true);
     return result;
 }
 

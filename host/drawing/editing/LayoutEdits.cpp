@@ -251,10 +251,8 @@ QString deleteLayout(Drawing &drawing, const LayoutTab &layout)
         const auto neighbour = std::ranges::find_if(
             others, [&](const LayoutTab &tab) { return tab.order > layout.order && !isInUse(drawing, tab); });
         const LayoutTab &next = neighbour != others.end() ? *neighbour : others.back();
-        const std::vector<RecordId> entities = layoutEntities(drawing, layout);
-        for (const RecordId entity : entities)
-            drawing.setErased(entity, true);
-        drawing.dictionaries().eraseOwnedBy(entities);
+        for (const RecordId entity : layoutEntities(drawing, layout))
+            drawing.dictionaries().setErasedWithOwned(entity, true);
         bringIntoUse(drawing, next);
     }
     drawing.dictionaries().remove(layoutNames(drawing), layout.name);

@@ -3,6 +3,7 @@
 #include "host/drawing/editing/RenameLayer.h"
 #include "host/drawing/editing/UnusedNames.h"
 #include "host/drawing/editing/Viewports.h"
+#include "host/drawing/records/Dictionaries.h"
 #include "host/drawing/records/HeaderVariables.h"
 #include "host/drawing/records/Journal.h"
 #include "host/drawing/records/Tables.h"
@@ -74,7 +75,7 @@ int eraseLayers(Drawing &drawing, const QStringList &names)
             map.contains(drawing.tags(id).text(entityLayerCode, u"0"_s).toCaseFolded()))
             doomed.push_back(id);
     for (const RecordId id : doomed)
-        drawing.setErased(id, true);
+        drawing.dictionaries().setErasedWithOwned(id, true);
     mergeLayers(drawing, names, u"0"_s);
     return int(doomed.size());
 }

@@ -285,7 +285,7 @@ void eraseDependents(Drawing &drawing, const QString &reference)
         const References references(drawing);
         for (const NamedThing &thing : thingsIn(drawing, rule))
             if (isDependent(thing.name) && !isUsed(drawing, rule, references, thing))
-                drawing.setErased(thing.record, true);
+                drawing.dictionaries().setErasedWithOwned(thing.record, true);
     }
 }
 

@@ -30,7 +30,7 @@ public:
                 m_writer.writeRaw(m_drawing.bytes(id));
             return {};
         }
-        for (const Tag &tag : m_drawing.tags(id)) {
+        for (const Tag &tag : m_drawing.tagsForFile(id)) {
             if (!writeTag(tag))
                 return u"%1 has a value for group %2 that the binary form has no room for: \"%3\""_s.arg(nameOf(id))
                     .arg(tag.code)

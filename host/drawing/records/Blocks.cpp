@@ -97,7 +97,7 @@ RecordId Blocks::create(const QString &name, const Vec3 &basePoint, int flags)
     if (!isValid(existing))
         return insertBlockDefinition(m_drawing, wanted, basePoint, flags);
     for (const RecordId entity : m_drawing.children(existing))
-        m_drawing.setErased(entity, true);
+        m_drawing.dictionaries().setErasedWithOwned(entity, true);
     FieldList fields = m_drawing.fields(existing);
     setField(fields, 10, basePoint);
     setField(fields, 70, qint64(flags));

@@ -115,37 +115,6 @@ QByteArrayView Drawing::fileText() const
     return d->file.bytes;
 }
 
-QByteArray Drawing::toBytes() const
-{
-    if (d->revision == 0)
-        return d->file.bytes;
-    QByteArray bytes;
-    bytes.reserve(d->file.bytes.size() + d->file.bytes.size() / 16);
-    forEachPiece([&](QByteArrayView piece) {
-        bytes += piece;
-        return true;
-    });
-    return bytes;
-}
-
-bool Drawing::forEachPiece(const std::function<bool(QByteArrayView)> &take) const
-{
-    if (d->revision == 0)
-        return take(d->file.bytes);
-    QByteArrayView piece;
-    for (RecordId id = first(); isValid(id); id = next(id)) {
-        const QByteArrayView bytes = d->entry(id).bytes();
-        if (piece.end() == bytes.begin()) {
-            piece = QByteArrayView(piece.begin(), bytes.end());
-            continue;
-        }
-        if (!piece.isEmpty() && !take(piece))
-            return false;
-        piece = bytes;
-    }
-    return piece.isEmpty() || take(piece);
-}
-
 bool Drawing::isAlive(RecordId id) const
 {
     return quint32(id) < d->file.records.size() && d->entry(id).flags == 0;

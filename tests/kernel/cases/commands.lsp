@@ -146,3 +146,11 @@ a ;! (setq a (+ 1 2))\n!a\n ;> \n3 ;= 3
 (command "_.SAVEAS" "_2018" (strcat dir "second"))(getvar "DWGNAME") ;= "second.dxf"
 (command "_.POINT" '(1 1))(command "_.QSAVE")(list (getvar "DBMOD") (getvar "DWGTITLED")) ;= (0 1)
 (command "_.SAVEAS" "2013" (strcat dir "third")) ;> nothing was written ;= nil
+; What a group and a sort table say of erased entities stays out of the file, and is there when they come back.
+(defun count-lines (f text / n l) (setq n 0 f (open f "r")) (while (setq l (read-line f)) (if (= l text) (setq n (1+ n)))) (close f) n)
+(defun mentions (name / h)
+  (command "_.SAVEAS" "" (strcat dir name))
+  (count-lines (strcat dir name) listed))
+; One is left: what stays is sorted as the handle of the other.
+(command "_.POINT" '(1 1) "_.POINT" '(2 2) "_.-GROUP" "_C" "Pair" "" "_ALL" "" "_.DRAWORDER" "_L" "" "_B")(setq e (entlast) listed (cdr (assoc 5 (entget e))))(mentions "listed.dxf") ;= 4
+(entdel e)(list (mentions "gone.dxf") (progn (entdel e) (mentions "back.dxf"))) ;= (1 4)

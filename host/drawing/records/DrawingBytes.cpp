@@ -1,0 +1,95 @@
+// What a drawing is as a file: the bytes of its records, less what they say of records that are gone.
+
+#include "host/drawing/records/DrawingPrivate.h"
+#include "host/drawing/records/SortTable.h"
+
+namespace host::drawing {
+
+namespace {
+
+constexpr int memberCode = 340; ///< of a group
+constexpr int sortedCode = 331; ///< of a sort table; the handle that it is sorted as (5) follows
+
+/// Only these list entities that need not know of it. They go on listing erased ones, which may come back.
+int listingCode(QByteArrayView type)
+{
+    return type == "GROUP" ? memberCode : type == "SORTENTSTABLE" ? sortedCode : 0;
+}
+
+bool isGone(const Drawing &drawing, const Tag &tag)
+{
+    const RecordId record = drawing.find(tag.handle().value_or(Handle{}));
+    return isValid(record) && !drawing.isAlive(record);
+}
+
+/// Puts views together that lie behind each other.
+class JoinedPieces
+{
+public:
+    explicit JoinedPieces(const std::function<bool(QByteArrayView)> &take) : m_take(take) {}
+
+    bool add(QByteArrayView bytes)
+    {
+        if (m_piece.end() == bytes.begin()) {
+            m_piece = QByteArrayView(m_piece.begin(), bytes.end());
+            return true;
+        }
+        return flush() && (m_piece = bytes, true);
+    }
+    bool flush() const { return m_piece.isEmpty() || m_take(m_piece); }
+
+private:
+    const std::function<bool(QByteArrayView)> &m_take;
+    QByteArrayView m_piece;
+};
+
+} // namespace
+
+std::vector<Tag> Drawing::tagsForFile(RecordId id) const
+{
+    const TagList all = tags(id);
+    std::vector<Tag> kept(all.begin(), all.end());
+    const int listing = kind(id) == RecordKind::Object ? listingCode(typeName(id)) : 0;
+    if (listing == 0)
+        return kept;
+    bool isPairGone = false;
+    std::erase_if(kept, [&](const Tag &tag) {
+        const bool isSecond = isPairGone && listing == sortedCode && tag.code == sortHandleCode;
+        isPairGone = tag.code == listing && isGone(*this, tag);
+        return isPairGone || isSecond;
+    });
+    return kept;
+}
+
+QByteArray Drawing::toBytes() const
+{
+    if (d->revision == 0)
+        return d->file.bytes;
+    QByteArray bytes;
+    bytes.reserve(d->file.bytes.size() + d->file.bytes.size() / 16);
+    forEachPiece([&](QByteArrayView piece) {
+        bytes += piece;
+        return true;
+    });
+    return bytes;
+}
+
+bool Drawing::forEachPiece(const std::function<bool(QByteArrayView)> &take) const
+{
+    if (d->revision == 0)
+        return take(d->file.bytes);
+    JoinedPieces pieces(take);
+    for (RecordId id = first(); isValid(id); id = next(id)) {
+        if (kind(id) != RecordKind::Object || listingCode(typeName(id)) == 0) {
+            if (!pieces.add(d->entry(id).bytes()))
+                return false;
+            continue;
+        }
+        for (const Tag &tag : tagsForFile(id))
+            if (!pieces.add(tag.whole))
+                return false;
+    }
+    return pieces.flush();
+}
+
+} // namespace host::drawing
