@@ -1,6 +1,7 @@
 #include "host/drawing/editing/ExplodeEntity.h"
 
 #include "host/drawing/editing/ExplodePolyline.h"
+#include "host/drawing/editing/ExplodeRegion.h"
 #include "host/drawing/geometry/EntityGeometry.h"
 #include "host/drawing/geometry/TransformEntity.h"
 #include "host/drawing/geometry/TransformFields.h"
@@ -115,6 +116,8 @@ private:
         if (type.endsWith("DIMENSION") && takePicture(entity, matrix, depth))
             return true;
         std::vector<FieldList> pieces = polylinePieces(m_drawing, entity);
+        if (pieces.empty())
+            pieces = regionPieces(m_drawing, entity);
         if (pieces.empty() && m_rules.shown)
             pieces = m_rules.shown(entity);
         for (const FieldList &piece : pieces)

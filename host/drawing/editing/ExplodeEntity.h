@@ -28,8 +28,8 @@ struct ExplodeResult
 
 /// Takes an entity apart by one level and erases it: a block reference into what its block holds, in each cell of an
 /// array, with attribute definitions in place of attributes; a polyline into lines and arcs, a mesh into faces; a
-/// dimension into its picture; what `rules.shown` knows into that. What the map of a reference makes impossible (a
-/// circle in different scales) becomes what it is then, or is taken apart itself.
+/// region into the curves round it; a dimension into its picture; what `rules.shown` knows into that. What the map of a
+/// reference makes impossible (a circle in different scales) becomes what it is then, or is taken apart itself.
 ///
 /// Pieces of a block keep what they say of their look, by block included; those of a dimension take its. Takes a unit
 /// of `work` for each piece of a reference. One group of the journal.

@@ -3,6 +3,7 @@
 #include "host/drawing/curves/EntityCurve.h"
 #include "host/drawing/math/Angles.h"
 #include "host/drawing/records/Tables.h"
+#include "host/drawing/solids/SolidModel.h"
 
 #include <numbers>
 
@@ -121,6 +122,14 @@ void outlineOfImage(OutlineSink &sink, const TagList &tags)
     sink.add(frame);
 }
 
+/// The edges of its model.
+void outlineOfModel(OutlineSink &sink, const TagList &tags)
+{
+    for (const SolidEdge &edge : readSolidModel(tags).edges)
+        for (const CurvePiece &piece : edge)
+            sink.add(piecePath(piece, sink.flatness()));
+}
+
 /// The viewport that stands for the sheet itself is not seen, and as large as the window it was last looked at in.
 void outlineOfViewport(OutlineSink &sink, const TagList &tags)
 {
@@ -141,7 +150,8 @@ constexpr std::pair<const char *, OutlineFunction> outlineFunctions[] = {
     {"3DFACE", outlineOfFace},     {"RAY", outlineOfRay},           {"XLINE", outlineOfConstructionLine},
     {"LEADER", outlineOfLeader},   {"MLINE", outlineOfMultiLine},   {"IMAGE", outlineOfImage},
     {"WIPEOUT", outlineOfImage},   {"VIEWPORT", outlineOfViewport}, {"SHAPE", outlineOfPoint},
-    {"TOLERANCE", outlineOfPoint},
+    {"TOLERANCE", outlineOfPoint}, {"REGION", outlineOfModel},      {"BODY", outlineOfModel},
+    {"3DSOLID", outlineOfModel},
 };
 
 } // namespace

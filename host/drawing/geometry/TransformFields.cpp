@@ -376,6 +376,9 @@ constexpr std::pair<QStringView, FieldsFunction> transformFunctions[] = {
     {u"LARGE_RADIAL_DIMENSION", transformDimension},
     {u"HATCH", transformHatchOf},
     {u"VIEWPORT", transformViewport},
+    {u"REGION", transformSolid},
+    {u"BODY", transformSolid},
+    {u"3DSOLID", transformSolid},
 };
 
 } // namespace

@@ -43,5 +43,8 @@ void setOwnField(FieldList &fields, int code, const FieldValue &value);
 bool transformFields(FieldList &fields, const Matrix &matrix);
 /// The part of transformFields() that a HATCH takes: its boundary, pattern and seed points in the plane.
 bool transformHatch(FieldList &fields, const PlaneMap &plane);
+/// The part that models as text take (see SolidText.h): they are placed elsewhere, by a map that scales all directions
+/// alike. The picture of the model that a record may keep is dropped.
+bool transformSolid(FieldList &fields, const Matrix &matrix);
 
 } // namespace host::drawing

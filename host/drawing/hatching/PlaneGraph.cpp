@@ -160,7 +160,7 @@ void PlaneGraph::dropDoubles(double tolerance)
         }
     }
     std::size_t number = 0;
-    std::erase_if(m_edges, [&](const Edge &) { return isDouble[number++]; });
+    m_hasDropped |= std::erase_if(m_edges, [&](const Edge &) { return isDouble[number++]; }) > 0;
 }
 
 /// Joins loose ends, the nearest pairs first.
@@ -291,10 +291,11 @@ void PlaneGraph::walkFaces()
 void PlaneGraph::dropBridges()
 {
     std::size_t number = 0;
-    std::erase_if(m_edges, [&](const Edge &) {
+    const auto dropped = std::erase_if(m_edges, [&](const Edge &) {
         const std::size_t edge = number++;
         return m_face[2 * edge] == m_face[2 * edge + 1];
     });
+    m_hasDropped |= dropped > 0;
 }
 
 void PlaneGraph::numberComponents()

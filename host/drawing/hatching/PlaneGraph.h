@@ -57,6 +57,8 @@ public:
     };
     /// Nothing where no loop runs round the point, and for a point on a curve.
     std::optional<Region> regionAt(Vec2 point) const;
+    /// Whether all of it is one closed line that meets itself nowhere.
+    bool isSimpleLoop() const { return m_firstHalf.size() == 2 && !m_hasDropped; }
     /// Round all that hangs together, a loop each.
     std::vector<Loop> outlines() const;
     /// The graph of one loop.
@@ -127,6 +129,7 @@ private:
     Box m_box;
     double m_tolerance = 0.0;
     bool m_isComplete = true;
+    bool m_hasDropped = false; ///< what lay on something else or enclosed nothing
 };
 
 } // namespace host::drawing

@@ -36,6 +36,7 @@ const std::vector<EntityRule> &rules()
         {"POINT"_L1, R12, {10}, {}, PointForm::Space, "AcDbPoint"_L1},
         {"POLYLINE"_L1, R12, {}, {{66, qint64(1)}, {10, Vec3{}}}, PointForm::Space, {}},
         {"RAY"_L1, R13, {10, 11}, {}, PointForm::Space, "AcDbRay"_L1},
+        {"REGION"_L1, R13, {1}, {{70, qint64(1)}}, PointForm::AsGiven, "AcDbModelerGeometry"_L1},
         {"RTEXT"_L1, R14, {10, 40, 1}, {}, PointForm::Space, "RText"_L1},
         {"SEQEND"_L1, R12, {}, {}, PointForm::Space, {}},
         {"SHAPE"_L1, R12, {10, 40, 2}, {}, PointForm::Space, "AcDbShape"_L1},

@@ -1,6 +1,6 @@
+#include "host/drawing/solids/SolidModel.h"
 #include "host/view/build/DisplayBuilder.h"
 #include "host/view/build/ProxyGraphics.h"
-#include "host/view/build/SolidModel.h"
 
 namespace host::view {
 
@@ -27,6 +27,24 @@ void addMeshFaces(BuildContext &context, const Path &vertices, const std::vector
         edge.push_back(edge.front());
         context.addStroke(std::move(edge));
     }
+}
+
+/// Nothing for a piece with coordinates that cannot be shown.
+std::optional<Curve> pieceCurve(const drawing::CurvePiece &piece)
+{
+    if (piece.shape() != drawing::CurvePiece::Shape::Round) {
+        Curve curve{.points = drawing::piecePath(piece)};
+        return areUsable(curve.points) ? std::optional(std::move(curve)) : std::nullopt;
+    }
+    const double start = piece.angleAt(piece.start());
+    const ArcSpan span{.center = piece.center(),
+                       .xAxis = piece.xAxis(),
+                       .yAxis = piece.yAxis(),
+                       .start = start,
+                       .sweep = piece.angleAt(piece.end()) - start};
+    if (!isUsable(span.center) || !isUsable(span.xAxis) || !isUsable(span.yAxis) || !isUsable(span.sweep))
+        return std::nullopt;
+    return Curve{.points = {piece.startPoint(), piece.endPoint()}, .arcs = {span}};
 }
 
 } // namespace
@@ -64,10 +82,16 @@ bool buildSolidModel(BuildContext &context, const TagList &tags)
 {
     if (drawProxyGraphics(context, proxyGraphics(tags)))
         return true;
-    SolidEdges edges = readSolidEdges(tags);
-    for (Curve &curve : edges.curves)
-        context.add(Stroke{std::move(curve)});
-    context.display.isSimplified = !edges.isWhole;
+    const drawing::SolidModel model = drawing::readSolidModel(tags);
+    context.display.isSimplified = !model.isWhole;
+    for (const drawing::SolidEdge &edge : model.edges) {
+        for (const drawing::CurvePiece &piece : edge) {
+            std::optional<Curve> curve = pieceCurve(piece);
+            context.display.isSimplified |= !curve;
+            if (curve)
+                context.add(Stroke{std::move(*curve)});
+        }
+    }
     return !context.display.items.empty();
 }
 
