@@ -87,6 +87,7 @@ std::vector<CommandRow> builtInCommands()
              radialDimensionCommands(),
              rectangleCommands(),
              referenceCommands(),
+             regionCommands(),
              removeLayerCommands(),
              renameCommands(),
              revisionCloudCommands(),

@@ -66,6 +66,7 @@ std::vector<CommandRow> purgeCommands();
 std::vector<CommandRow> radialDimensionCommands();
 std::vector<CommandRow> rectangleCommands();
 std::vector<CommandRow> referenceCommands();
+std::vector<CommandRow> regionCommands();
 std::vector<CommandRow> removeLayerCommands();
 std::vector<CommandRow> renameCommands();
 std::vector<CommandRow> revisionCloudCommands();

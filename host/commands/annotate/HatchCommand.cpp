@@ -1,6 +1,7 @@
 #include "host/commands/Commands.h"
 #include "host/commands/annotate/HatchDialogue.h"
 #include "host/commands/annotate/HatchDraft.h"
+#include "host/commands/common/KeptValues.h"
 #include "host/kernel/running/CommandContext.h"
 
 using namespace Qt::StringLiterals;
@@ -152,7 +153,7 @@ CommandTask hatch(CommandContext &context)
         createHatches(context, settings, areas);
 }
 
-/// What of a boundary is looked for; Object type has the polyline alone.
+/// What of a boundary is looked for, and what is made of it.
 Dialogue<bool> askBoundaryOptions(CommandContext &context, HatchSettings &settings)
 {
     for (;;) {
@@ -164,35 +165,43 @@ Dialogue<bool> askBoundaryOptions(CommandContext &context, HatchSettings &settin
         } else if (option.text == u"Island") {
             co_await askIslandDetection(context, settings.boundary);
         } else if (option.text == u"Object") {
+            const QString usual = settings.makesRegions ? u"Region"_s : u"Polyline"_s;
             const PromptReply type = co_await context.keyword(
-                u"Enter type of boundary object [Region/Polyline] <Polyline>: "_s, {}, u"Polyline"_s);
-            if (type.text == u"Region" && context.refuse(u"Regions are not made: the boundary is a polyline."_s))
-                co_return false;
+                u"Enter type of boundary object [Region/Polyline] <%1>: "_s.arg(usual), {}, usual);
+            settings.makesRegions = type.text == u"Region";
+            keepValue(context, u"HPBOUND", settings.makesRegions ? 0 : 1);
         } else {
             co_return true;
         }
     }
 }
 
-// Points inside areas: a polyline round each, and round the islands in it.
+// Points inside areas: a polyline round each, and round the islands in it, or a region.
 CommandTask boundary(CommandContext &context)
 {
     HatchSettings settings = currentHatchSettings(context.document());
-    int made = 0;
+    settings.makesRegions = context.document().variables().integer(u"HPBOUND", 1) == 0;
+    int polylines = 0;
+    int regions = 0;
     for (;;) {
         const PromptReply reply = co_await context.point(u"Specify internal point or [Advanced options]: "_s);
         if (reply.isKeyword(u"Advanced")) {
-            if (!co_await askBoundaryOptions(context, settings))
-                co_return;
+            co_await askBoundaryOptions(context, settings);
             continue;
         }
         if (!reply.hasValue())
             break;
         std::vector<HatchArea> areas;
-        if (addAreaAt(context, settings, areas, reply.point))
-            made += createBoundaryPolylines(context, areas.front().boundary);
+        if (!addAreaAt(context, settings, areas, reply.point))
+            continue;
+        if (settings.makesRegions)
+            regions += createBoundaryRegion(context, areas.front().boundary);
+        else
+            polylines += createBoundaryPolylines(context, areas.front().boundary);
     }
-    context.print(made == 1 ? u"\nBOUNDARY created 1 polyline"_s : u"\nBOUNDARY created %1 polylines"_s.arg(made));
+    const int made = regions > 0 ? regions : polylines;
+    const QString what = (regions > 0 ? u"region"_s : u"polyline"_s) + (made == 1 ? u""_s : u"s"_s);
+    context.print(u"\nBOUNDARY created %1 %2"_s.arg(made).arg(what));
 }
 
 } // namespace
@@ -200,10 +209,10 @@ CommandTask boundary(CommandContext &context)
 std::vector<CommandRow> hatchCommands()
 {
     return {{"-BHATCH", hatch, "Hatches areas"},
-            {"-BOUNDARY", boundary, "Makes polylines round areas"},
+            {"-BOUNDARY", boundary, "Makes polylines or regions round areas"},
             {"-HATCH", hatch, "Hatches areas"},
             {"BHATCH", hatch, "Hatches areas"},
-            {"BOUNDARY", boundary, "Makes polylines round areas"},
+            {"BOUNDARY", boundary, "Makes polylines or regions round areas"},
             {"HATCH", hatch, "Hatches areas"}};
 }
 

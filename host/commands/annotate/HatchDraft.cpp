@@ -1,6 +1,7 @@
 #include "host/commands/annotate/HatchDraft.h"
 
 #include "host/commands/common/FlatPolyline.h"
+#include "host/commands/common/RegionDraft.h"
 #include "host/drawing/hatching/HatchLoops.h"
 #include "host/drawing/math/Angles.h"
 #include "host/drawing/records/HeaderVariables.h"
@@ -267,6 +268,20 @@ int createBoundaryPolylines(CommandContext &context, const Boundary &boundary)
         made += isValid(createFlatPolyline(context, plane.placed(std::move(fields)))) ? 1 : 0;
     }
     return made;
+}
+
+int createBoundaryRegion(CommandContext &context, const Boundary &boundary)
+{
+    const UserPlane plane(context.document());
+    const drawing::Vec3 normal = plane.worldFromUser({0.0, 0.0, 1.0}) - plane.worldFromUser({});
+    const double height = plane.objectFromUser({}).z;
+    const drawing::Matrix map =
+        drawing::Matrix::fromExtrusion(normal) * drawing::Matrix::translation({0.0, 0.0, height});
+    drawing::RegionFace face;
+    for (const BoundaryLoop &loop : boundary)
+        if (!loop.isText && loop.depth <= 1)
+            face.push_back(regionLoop(loop.loop, map));
+    return isValid(createRegion(context, {face}, normalized(normal))) ? 1 : 0;
 }
 
 } // namespace host::kernel

@@ -31,6 +31,7 @@ struct HatchSettings
     bool isAssociative = true;
     bool keepsBoundary = false;
     bool isSeparate = false;
+    bool makesRegions = false;   ///< BOUNDARY makes no polylines
     QString order{};             ///< "Back", "Front", "Under", "Above" the boundary; empty: where it is made
     drawing::FieldList entity{}; ///< layer, colour and transparency where they are others than the current ones
 };
@@ -55,5 +56,7 @@ std::vector<drawing::RecordId> createHatches(CommandContext &context, const Hatc
                                              const std::vector<HatchArea> &areas);
 /// Makes polylines along the loops; those that no polyline can follow are told. Gives how many were made.
 int createBoundaryPolylines(CommandContext &context, const Boundary &boundary);
+/// Makes a region of the outer loop with the islands next to it as holes. Gives how many were made.
+int createBoundaryRegion(CommandContext &context, const Boundary &boundary);
 
 } // namespace host::kernel

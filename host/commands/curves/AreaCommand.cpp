@@ -1,5 +1,6 @@
 #include "host/commands/Commands.h"
 #include "host/commands/curves/PickedCurve.h"
+#include "host/drawing/solids/SolidModel.h"
 #include "host/kernel/documents/Document.h"
 #include "host/kernel/variables/SystemVariables.h"
 
@@ -92,8 +93,13 @@ Dialogue<bool> measureCorners(AreaSession &session, Vec3 first)
 void countEntity(AreaSession &session, drawing::RecordId entity)
 {
     const auto curve = EntityCurve::ofEntity(session.context.drawing(), entity);
+    const drawing::TagList tags = session.context.drawing().tags(entity);
+    const bool isRegion = session.context.drawing().isType(entity, "REGION");
+    const auto region = isRegion ? drawing::measureRegion(drawing::readSolidModel(tags)) : std::nullopt;
     if (curve)
         countCurve(session, *curve);
+    else if (region)
+        session.count(region->area, region->perimeter, u"Perimeter"_s);
     else
         session.context.print(u"\nSelected object does not have an area."_s);
 }

@@ -8,6 +8,7 @@
 #include "host/drawing/records/Entities.h"
 #include "host/drawing/records/Layouts.h"
 #include "host/drawing/records/PolylineFlags.h"
+#include "host/drawing/solids/SolidModel.h"
 #include "host/drawing/text/ParagraphText.h"
 #include "host/kernel/documents/Document.h"
 #include "host/kernel/input/Units.h"
@@ -316,6 +317,13 @@ void listBox(ListedSheet &sheet)
     sheet.point(u"              Upper Bound"_s, box.high);
 }
 
+void listRegion(ListedSheet &sheet)
+{
+    if (const auto region = drawing::measureRegion(drawing::readSolidModel(sheet.tags)))
+        sheet.numbers(u"Area:"_s, region->area, region->perimeter, u"Perimeter:"_s);
+    listBox(sheet);
+}
+
 struct ListedKind
 {
     QByteArrayView type;
@@ -340,6 +348,7 @@ constexpr ListedKind listedKinds[] = {
     {"POINT", listPoint},
     {"POLYLINE", listPolyline},
     {"RAY", listEndless},
+    {"REGION", listRegion},
     {"SOLID", listCorners},
     {"SPLINE", listSpline},
     {"TEXT", listText},
