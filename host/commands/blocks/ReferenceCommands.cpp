@@ -1,9 +1,10 @@
 #include "files/qt/Files.h"
 #include "host/commands/Commands.h"
+#include "host/commands/blocks/AttachedDrawing.h"
 #include "host/commands/blocks/InsertPlacement.h"
 #include "host/commands/common/EntityEdits.h"
-#include "host/drawing/editing/CopyBetweenDrawings.h"
-#include "host/drawing/editing/UnusedNames.h"
+#include "host/drawing/editing/ExternalReferences.h"
+#include "host/drawing/editing/RenameLayer.h"
 #include "host/drawing/records/Blocks.h"
 #include "host/drawing/records/FileIndexer.h"
 #include "host/drawing/selection/Wildcard.h"
@@ -23,7 +24,19 @@ using drawing::RecordId;
 
 constexpr int externalFlag = 4;
 constexpr int overlayFlag = 8;
-constexpr int resolvedFlag = 32;
+/// What is typed for a new reference: "file", or "name=file".
+struct NamedFile
+{
+    QString name;
+    QString file;
+};
+
+NamedFile namedFile(const QString &typed)
+{
+    const QString file = typed.section(u'=', typed.contains(u'=') ? 1 : 0).trimmed();
+    const QString name = QString(file).replace(u'\\', u'/');
+    return {typed.contains(u'=') ? typed.section(u'=', 0, 0).trimmed() : QFileInfo(name).completeBaseName(), file};
+}
 
 void setPath(drawing::Drawing &drawing, RecordId block, const QString &path)
 {
@@ -43,50 +56,44 @@ bool isDrawing(const QString &path)
     return drawing::isDwg(start) || bool(drawing::Drawing::open(path));
 }
 
-/// The external reference to the file, made when the drawing has none of the file's name yet. noRecord, with the reason
-/// printed, when there can be none.
+/// Why the drawing can have no reference of that name to the file; empty when it can.
+QString obstacleToReference(CommandContext &context, const NamedFile &named, const QString &path)
+{
+    const QString own = context.document().path();
+    const std::optional<drawing::Block> present = context.drawing().blocks().get(named.name);
+    if (path.isEmpty())
+        return u"Cannot find file \"%1\"."_s.arg(named.file);
+    if (!own.isEmpty() && QFileInfo(path) == QFileInfo(own))
+        return u"The drawing cannot refer to itself."_s;
+    if (present && !present->isExternal())
+        return u"The name \"%1\" is a block's already."_s.arg(named.name);
+    if (!drawing::isSymbolName(named.name, context.drawing().version()))
+        return u"The name \"%1\" cannot be used."_s.arg(named.name);
+    return isDrawing(path) ? QString() : u"\"%1\" is no drawing."_s.arg(path);
+}
+
+/// The external reference to the file, made when the drawing has none of its name yet; noRecord when the command
+/// failed.
 RecordId referenceTo(CommandContext &context, const QString &typed, int flags)
 {
     drawing::Blocks &blocks = context.drawing().blocks();
-    const QString path = context.document().findFile(typed);
-    const QString name = QFileInfo(typed).completeBaseName();
-    const std::optional<drawing::Block> present = blocks.get(name);
-    const QString own = context.document().path();
-    if (path.isEmpty()) {
-        context.fail(u"Cannot find file \"%1\"."_s.arg(typed));
-    } else if (!own.isEmpty() && QFileInfo(path) == QFileInfo(own)) {
-        context.fail(u"The drawing cannot refer to itself."_s);
-    } else if (!isDrawing(path)) {
-        context.print(u"\n\"%1\" is no drawing."_s.arg(path));
-    } else if (present && present->isExternal()) {
-        return present->record;
-    } else if (present) {
-        context.fail(u"The name \"%1\" is a block's already."_s.arg(name));
-    } else if (const RecordId made = blocks.create(name, {}, flags); isValid(made)) {
-        setPath(context.drawing(), made, typed);
-        context.document().allowReading(path);
-        return made;
-    } else {
-        context.fail(u"The name \"%1\" cannot be used."_s.arg(name));
+    const NamedFile named = namedFile(typed);
+    const QString path = findDrawingFile(context, named.file);
+    if (const QString obstacle = obstacleToReference(context, named, path); !obstacle.isEmpty()) {
+        context.fail(obstacle);
+        return drawing::noRecord;
     }
-    return drawing::noRecord;
-}
-
-/// Gives each external reference that the pattern names this path.
-void redefinePaths(CommandContext &context, const QString &names, const QString &path)
-{
-    int count = 0;
-    for (const RecordId id : context.drawing().blocks().all()) {
-        const drawing::Block block = context.drawing().blocks().read(id);
-        if (!block.isExternal() || !drawing::matchesWildcard(block.name, names))
-            continue;
-        setPath(context.drawing(), id, path);
-        ++count;
+    context.document().allowReading(path);
+    RecordId block = blocks.find(named.name);
+    if (isValid(block)) {
+        context.print(u"\nXref \"%1\" has already been defined.\nUsing existing definition."_s.arg(named.name));
+        return block;
     }
-    if (const QString file = context.document().findFile(path); count > 0 && !file.isEmpty())
-        context.document().allowReading(file);
-    if (count == 0)
-        context.print(u"\nNo matching references found."_s);
+    block = blocks.create(named.name, {}, flags);
+    setPath(context.drawing(), block, keptPath(context, path));
+    context.print(u"\n%1 Xref \"%2\": %3"_s.arg((flags & overlayFlag) ? u"Overlay"_s : u"Attach"_s, named.name, path));
+    loadReference(context, blocks.read(block));
+    return block;
 }
 
 /// External references whose names match a list of patterns; a sentence when there are none.
@@ -107,70 +114,42 @@ void listReference(CommandContext &context, const drawing::Block &block)
 {
     const QString type = (block.flags & overlayFlag) ? u"Overlay"_s : u"Attach"_s;
     context.print(u"\n\"%1\"  %2  %3"_s.arg(block.name, block.externalPath, type));
-}
-
-void setFlags(CommandContext &context, const drawing::Block &block, int flags)
-{
-    drawing::FieldList fields = context.drawing().fields(block.record);
-    drawing::setField(fields, 70, qint64(flags));
-    context.drawing().setFields(block.record, fields);
-}
-
-/// Makes what the file holds the block, which is an ordinary one then.
-void bind(CommandContext &context, const drawing::Block &block)
-{
-    const QString path = context.document().findNamedFile(block.externalPath);
-    if (path.isEmpty())
-        return context.fail(u"Cannot find file \"%1\" of reference \"%2\"."_s.arg(block.externalPath, block.name));
-    const drawing::ReadResult source = drawing::Drawing::open(path);
-    if (!source)
-        return context.fail(u"%1: %2"_s.arg(path, source.error.message()));
-    const drawing::CopyResult made = drawing::insertAsBlock(*source.drawing, context.drawing(), block.name);
-    if (!made)
-        return context.fail(made.error);
-    setPath(context.drawing(), made.record, {});
-    drawing::eraseDependents(context.drawing(), block.name);
-    context.print(u"\n\"%1\" is a block of this drawing now."_s.arg(block.name));
-    if (made.skipped > 0)
-        context.print(u" %1 of its records could not be taken over."_s.arg(made.skipped));
+    if (block.isUnloaded)
+        context.print(u"  Unloaded"_s);
 }
 
 /// Takes the reference out with all its insertions; not while a block or a locked layer has one.
 void detach(CommandContext &context, const drawing::Block &block)
 {
     drawing::Drawing &drawing = context.drawing();
-    std::vector<RecordId> inserts;
-    for (RecordId id = drawing.first(); isValid(id); id = drawing.next(id)) {
-        if (!drawing.isType(id, "INSERT") || drawing.tags(id).text(2).compare(block.name, Qt::CaseInsensitive) != 0)
-            continue;
+    const std::vector<RecordId> inserts = drawing::insertionsOf(drawing, block.name);
+    for (const RecordId id : inserts) {
         const RecordId container = drawing.parent(id);
         const bool isInBlock =
             drawing.kind(container) == drawing::RecordKind::Block && !drawing.blocks().read(container).isLayout();
         if (isInBlock)
             return context.print(u"\n\"%1\" was not detached: block \"%2\" holds it."_s.arg(
                 block.name, drawing.blocks().name(container)));
-        inserts.push_back(id);
     }
     if (editable(context, inserts).size() != inserts.size())
         return context.print(u"\n\"%1\" was not detached."_s.arg(block.name));
-    eraseAll(context, inserts);
-    drawing.blocks().erase(block.record);
-    drawing::eraseDependents(drawing, block.name);
+    drawing::eraseReference(drawing, block);
     context.print(u"\n\"%1\" detached."_s.arg(block.name));
 }
 
 void unload(CommandContext &context, const drawing::Block &block)
 {
-    setFlags(context, block, block.flags & ~resolvedFlag);
+    context.drawing().blocks().setUnloaded(block.record, true);
     context.print(u"\n\"%1\" unloaded."_s.arg(block.name));
 }
 
 void reload(CommandContext &context, const drawing::Block &block)
 {
-    if (context.document().findNamedFile(block.externalPath).isEmpty())
-        return context.print(u"\nCannot find file \"%1\" of reference \"%2\"."_s.arg(block.externalPath, block.name));
-    setFlags(context, block, block.flags | resolvedFlag);
-    context.print(u"\n\"%1\" reloaded."_s.arg(block.name));
+    if (!loadReference(context, block))
+        return;
+    context.drawing().blocks().setUnloaded(block.record, false);
+    // The file may have changed though the drawing has not.
+    emit context.document().regenerated();
 }
 
 /// An option that does something to the references named.
@@ -184,7 +163,7 @@ struct NamesOption
 
 constexpr NamesOption namesOptions[] = {
     {u"?", "Enter xref name(s) to list <*>: ", "*", listReference},
-    {u"Bind", "Enter xref name(s) to bind: ", nullptr, bind},
+    {u"Bind", "Enter xref name(s) to bind: ", nullptr, bindWithNested},
     {u"Detach", "Enter xref name(s) to detach: ", nullptr, detach},
     {u"Unload", "Enter xref name(s) to unload: ", nullptr, unload},
     {u"Reload", "Enter xref name(s) to reload: ", nullptr, reload},
@@ -207,10 +186,27 @@ Dialogue<bool> changeNamed(CommandContext &context, const NamesOption &option)
 Dialogue<bool> changePaths(CommandContext &context)
 {
     const PromptReply names = co_await context.text(u"Enter xref name(s) to edit path: "_s);
-    const PromptReply path = co_await context.text(u"Enter new path: "_s);
-    if (names.hasValue() && path.hasValue())
-        redefinePaths(context, names.text.trimmed(), path.text.trimmed());
+    if (!names.hasValue())
+        co_return false;
+    for (const drawing::Block &block : matchingReferences(context, names.text)) {
+        context.print(u"\nXref name: %1\nOld path: %2"_s.arg(block.name, block.externalPath));
+        const PromptReply path = co_await context.text(u"Enter new path: "_s);
+        if (!path.hasValue())
+            continue;
+        setPath(context.drawing(), block.record, path.text.trimmed());
+        if (const QString file = findDrawingFile(context, path.text.trimmed()); !file.isEmpty())
+            context.document().allowReading(file);
+        if (!block.isUnloaded)
+            loadReference(context, context.drawing().blocks().read(block.record));
+    }
     co_return true;
+}
+
+double factorOf(CommandContext &context, RecordId block)
+{
+    const QString path = fileOfReference(context, context.drawing().blocks().read(block));
+    const drawing::ReadResult source = path.isEmpty() ? drawing::ReadResult{} : drawing::Drawing::open(path);
+    return source ? unitFactor(context, *source.drawing) : 1.0;
 }
 
 Dialogue<bool> attach(CommandContext &context, int flags)
@@ -219,16 +215,16 @@ Dialogue<bool> attach(CommandContext &context, int flags)
     const RecordId block = file.hasValue() ? referenceTo(context, file.text.trimmed(), flags) : drawing::noRecord;
     if (!isValid(block))
         co_return false;
-    const InsertPlacement placement = co_await askPlacement(context);
+    const double factor = factorOf(context, block);
+    InsertPlacement placement = co_await askPlacement(context);
     if (context.hasFailed())
         co_return false;
+    placement.scale = placement.scale * factor;
     context.create(insertFields(context, context.drawing().blocks().name(block), placement));
-    context.print(u"\nAttached. This program does not show what the file holds."_s);
     co_return true;
 }
 
-// References by their names, or Attach and Overlay: file, insertion point, scales, rotation. What the file holds is not
-// shown.
+// References by their names, or Attach and Overlay: file, insertion point, scales, rotation.
 CommandTask reference(CommandContext &context)
 {
     const PromptReply option = co_await context.keyword(

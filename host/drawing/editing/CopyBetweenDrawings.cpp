@@ -66,11 +66,16 @@ std::unique_ptr<Drawing> wblock(const Drawing &source, RecordId block)
 
 CopyResult insertAsBlock(const Drawing &source, Drawing &target, const QString &name)
 {
+    return insertAsBlock(source, target, name, {});
+}
+
+CopyResult insertAsBlock(const Drawing &source, Drawing &target, const QString &name, const CopyRules &rules)
+{
     const JournalGroup group(target.journal(), u"insert"_s);
     const RecordId block = target.blocks().create(name, source.header().point(u"$INSBASE"));
     if (!isValid(block))
         return {noRecord, 0, u"\"%1\" cannot be the name of a block"_s.arg(name)};
-    DrawingCopier copier(source, target);
+    DrawingCopier copier(source, target, rules);
     for (const RecordId entity : source.entities().inSpace(Space::Model))
         copier.copyEntity(entity, block);
     setUnits(target, block, source.header().integer(u"$INSUNITS"));

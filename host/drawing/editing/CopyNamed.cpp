@@ -31,8 +31,27 @@ void DrawingCopier::ensureEntry(TableKind kind, Field &name)
 {
     const RecordId entry = m_source.tables().find(kind, name.text());
     const RecordId copy = isValid(entry) ? copyEntry(kind, entry) : noRecord;
-    if (m_rules.clash == NameClash::Prefix && isValid(copy) && copy != m_target.tables().find(kind, name.text()))
+    if (m_rules.clash != NameClash::Keep && isValid(copy) && copy != m_target.tables().find(kind, name.text()))
         name.value = m_target.tables().name(copy);
+}
+
+RecordId DrawingCopier::copyTableEntry(RecordId entry)
+{
+    const std::optional<TableKind> kind = tableKindOf(QString::fromLatin1(m_source.typeName(entry)));
+    return kind ? copyEntry(*kind, entry) : noRecord;
+}
+
+/// What stands for the same in every drawing keeps its name.
+bool DrawingCopier::isRenamed(TableKind kind, const QString &name) const
+{
+    const auto isOneOf = [&](std::initializer_list<QStringView> names) {
+        return std::any_of(names.begin(), names.end(),
+                           [&](QStringView common) { return name.compare(common, Qt::CaseInsensitive) == 0; });
+    };
+    if (m_rules.clash != NameClash::Rename || name.isEmpty() || kind == TableKind::AppId)
+        return false;
+    return !(kind == TableKind::Layer && isOneOf({u"0", u"Defpoints"})) &&
+           !(kind == TableKind::Linetype && isOneOf({u"ByLayer", u"ByBlock", u"Continuous"}));
 }
 
 /// Whether the entry stands for something else in the target. What is on layer 0 of a block looks like the insertion's
@@ -50,8 +69,10 @@ RecordId DrawingCopier::copyEntry(TableKind kind, RecordId entry)
     if (m_depth >= deepestReference)
         return noRecord;
     QString name = m_source.tables().name(entry);
+    if (isRenamed(kind, name))
+        name.prepend(m_rules.prefix);
     const RecordId existing = m_target.tables().find(kind, name);
-    const bool isClash = isValid(existing) && clashes(kind, entry, existing);
+    const bool isClash = isValid(existing) && m_rules.clash != NameClash::Rename && clashes(kind, entry, existing);
     if (isClash)
         m_kept.push_back({kind, m_target.tables().name(existing)});
     if (isClash && m_rules.clash == NameClash::Prefix)

@@ -130,7 +130,17 @@ QString DrawingCopier::ensureBlock(const QString &name)
     if (!block || block->isLayout())
         return *m_blocks.insert(key, name);
     QString wanted = isAnonymous(name) ? name.left(2).toUpper() : name;
-    const RecordId existing = isAnonymous(name) ? noRecord : m_target.blocks().find(name);
+    // The drawing that a block stands for is the same wherever it is seen.
+    if (m_rules.clash == NameClash::Rename && !isAnonymous(name) && !block->isExternal())
+        wanted.prepend(m_rules.prefix);
+    RecordId existing = isAnonymous(name) ? noRecord : m_target.blocks().find(wanted);
+    // A block that happens to have its name is another thing than what a reference stands for, and may hold it.
+    if (isValid(existing) && block->isExternal() && !m_target.blocks().read(existing).isExternal()) {
+        wanted = freeName(TableKind::BlockRecord, name);
+        existing = noRecord;
+    }
+    if (isValid(existing) && m_rules.clash == NameClash::Rename)
+        return *m_blocks.insert(key, wanted);
     if (isValid(existing)) {
         const bool isOther =
             m_rules.depth == CopyDepth::Named || drawDifferently(m_source, block->record, m_target, existing);

@@ -12,8 +12,9 @@ namespace host::drawing {
 /// What becomes of a definition for which the target has another of the same name.
 enum class NameClash
 {
-    Keep,  ///< the target's stands for both
-    Prefix ///< the copy gets a name of its own
+    Keep,   ///< the target's stands for both
+    Prefix, ///< the copy gets a name of its own
+    Rename  ///< every copy gets the prefix, clash or not, but for what every drawing has; what has that name stands
 };
 
 /// How far copies reach.
@@ -26,9 +27,12 @@ enum class CopyDepth
 struct CopyRules
 {
     NameClash clash = NameClash::Keep;
-    QString prefix{}; ///< in front of the name of a copy that clashes
+    QString prefix{}; ///< in front of the name of a copy that clashes, or of every one
     CopyDepth depth = CopyDepth::Named;
 };
+
+/// As insertAsBlock() of two drawings, with rules of its own.
+CopyResult insertAsBlock(const Drawing &source, Drawing &target, const QString &name, const CopyRules &rules);
 
 /// Copies records of one drawing into another with what they name or refer to. What the target has under the same name
 /// wins unless the rules say otherwise; anonymous blocks get a new name, as equal names there mean nothing.
@@ -39,6 +43,9 @@ public:
 
     /// Into a block when one is given, else into a space; noRecord when it cannot be copied.
     RecordId copyEntity(RecordId entity, RecordId block, Space space = Space::Model);
+    /// The entry of a table in the target that stands for one of the source; noRecord when there can be none. Blocks
+    /// that it needs have no contents before something else is copied.
+    RecordId copyTableEntry(RecordId entry);
     /// The block's copy in the target, or what that has under the name; noRecord when it can have none.
     RecordId copyBlock(RecordId block);
     /// A block of the target takes the place of one of the source: the space of a sheet.
@@ -71,6 +78,7 @@ private:
     void ensureEntry(TableKind kind, Field &name);
     RecordId copyEntry(TableKind kind, RecordId entry);
     FieldList entryFields(TableKind kind, RecordId entry);
+    bool isRenamed(TableKind kind, const QString &name) const;
     bool clashes(TableKind kind, RecordId entry, RecordId existing) const;
     QString freeName(TableKind kind, const QString &name) const;
     QString ensureBlock(const QString &name);

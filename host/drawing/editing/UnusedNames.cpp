@@ -270,21 +270,27 @@ void eraseNamed(Drawing &drawing, NamedKind kind, const std::vector<NamedThing> 
         drawing.dictionaries().eraseOwnedBy(owners);
 }
 
-void eraseDependents(Drawing &drawing, const QString &reference)
+void eraseDependents(Drawing &drawing, const QString &reference, const std::function<bool(RecordId)> &isGone)
 {
     const JournalGroup group(drawing.journal(), {});
     const QString prefix = reference + u'|';
-    const auto isDependent = [&](const QString &name) { return name.startsWith(prefix, Qt::CaseInsensitive); };
+    const auto isDependent = [&](RecordId record, const QString &name) {
+        return name.startsWith(prefix, Qt::CaseInsensitive) && (!isGone || isGone(record));
+    };
     std::vector<RecordId> blocks = drawing.blocks().all();
-    std::erase_if(blocks, [&](RecordId block) { return !isDependent(drawing.blocks().name(block)); });
+    std::erase_if(blocks, [&](RecordId block) { return !isDependent(block, drawing.blocks().name(block)); });
     drawing.blocks().erase(blocks);
     // A layer needs its linetype, a linetype its text style.
     for (const NamedKind kind :
          {NamedKind::Layers, NamedKind::DimStyles, NamedKind::Linetypes, NamedKind::TextStyles}) {
         const KindRule &rule = ruleOf(kind);
+        std::vector<NamedThing> dependents = thingsIn(drawing, rule);
+        std::erase_if(dependents, [&](const NamedThing &thing) { return !isDependent(thing.record, thing.name); });
+        if (dependents.empty())
+            continue;
         const References references(drawing);
-        for (const NamedThing &thing : thingsIn(drawing, rule))
-            if (isDependent(thing.name) && !isUsed(drawing, rule, references, thing))
+        for (const NamedThing &thing : dependents)
+            if (!isUsed(drawing, rule, references, thing))
                 drawing.dictionaries().setErasedWithOwned(thing.record, true);
     }
 }

@@ -51,7 +51,7 @@ void eraseNamed(Drawing &drawing, NamedKind kind, const std::vector<NamedThing> 
 
 /// Takes out the blocks and table entries that an external reference of this name has brought ("name|layer"): all of
 /// its blocks, and of its layers, dimension styles, linetypes and text styles those that nothing refers to by handle or
-/// name any more. One step of the journal.
-void eraseDependents(Drawing &drawing, const QString &reference);
+/// name any more; with `isGone`, of both only those that it accepts. One step of the journal.
+void eraseDependents(Drawing &drawing, const QString &reference, const std::function<bool(RecordId)> &isGone = {});
 
 } // namespace host::drawing

@@ -4,6 +4,9 @@
 #include "host/drawing/records/Journal.h"
 #include "host/drawing/records/Structure.h"
 #include "host/drawing/records/Tables.h"
+#include "host/drawing/tags/GroupCodes.h"
+
+#include <algorithm>
 
 namespace host::drawing {
 
@@ -17,6 +20,16 @@ bool isLayoutName(const QString &name)
     static const QString prefixes[] = {u"*Model_Space"_s, u"*Paper_Space"_s, u"$Model_Space"_s, u"$Paper_Space"_s};
     return std::any_of(std::begin(prefixes), std::end(prefixes),
                        [&](const QString &prefix) { return name.startsWith(prefix, Qt::CaseInsensitive); });
+}
+
+const QString unloadedMark = u"ORTAKIT_UNLOADED"_s;
+
+/// Where the mark stands; the end where it does not.
+FieldList::iterator findUnloadedMark(FieldList &fields)
+{
+    return std::ranges::find_if(fields, [](const Field &field) {
+        return field.code == applicationCode && field.text().compare(unloadedMark, Qt::CaseInsensitive) == 0;
+    });
 }
 
 } // namespace
@@ -47,6 +60,10 @@ Block Blocks::read(RecordId record) const
     block.basePoint = tags.point(10);
     block.externalPath = tags.text(1);
     block.flags = static_cast<int>(tags.integer(70));
+    if (block.isExternal()) {
+        FieldList fields = m_drawing.fields(record);
+        block.isUnloaded = findUnloadedMark(fields) != fields.end();
+    }
     return block;
 }
 
@@ -59,6 +76,22 @@ std::vector<RecordId> Blocks::all() const
 QString Blocks::name(RecordId block) const
 {
     return m_drawing.tags(block).text(2);
+}
+
+void Blocks::setUnloaded(RecordId block, bool isUnloaded)
+{
+    FieldList fields = m_drawing.fields(block);
+    const auto mark = findUnloadedMark(fields);
+    if (isUnloaded == (mark != fields.end()))
+        return;
+    const JournalGroup group(m_drawing.journal(), {});
+    if (isUnloaded)
+        fields.insert(fields.end(), {{applicationCode, unloadedMark}, {1070, qint64(1)}});
+    else
+        fields.erase(mark, std::find_if(mark + 1, fields.end(),
+                                        [](const Field &field) { return field.code == applicationCode; }));
+    ensureApplications(m_drawing, fields);
+    m_drawing.setFields(block, fields);
 }
 
 const QHash<QString, RecordId> &Blocks::names() const

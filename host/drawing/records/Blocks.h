@@ -18,8 +18,9 @@ struct Block
     RecordId tableEntry = noRecord; ///< the BLOCK_RECORD; noRecord in R12
     QString name;
     Vec3 basePoint;
-    QString externalPath; ///< file of an external reference
-    int flags = 0;        ///< group 70
+    QString externalPath;    ///< file of an external reference
+    int flags = 0;           ///< group 70
+    bool isUnloaded = false; ///< an external reference that shows nothing until it is loaded again
     /// Made by a program for one use, such as the picture of a dimension.
     bool isAnonymous() const { return (flags & 1) != 0; }
     /// Whether the file says that there are attribute definitions; nobody counted them.
@@ -45,6 +46,9 @@ public:
     /// In file order, layouts among them.
     std::vector<RecordId> all() const;
     QString name(RecordId block) const;
+    /// Unloads an external reference or loads it again. The format has no place for that: it stands in extended data of
+    /// this program.
+    void setUnloaded(RecordId block, bool isUnloaded);
 
     /// Adds an empty definition (BLOCK, ENDBLK and what the version wants beside them) and gives the BLOCK record. One
     /// of that name that exists is emptied, when `basePoint` is its new base point. A name beginning with "*U", "*D",

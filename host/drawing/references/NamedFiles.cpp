@@ -14,6 +14,27 @@ bool isBelow(const QString &path, const QString &folder)
     return !file.isEmpty() && !top.isEmpty() && (file == top || file.startsWith(top.endsWith(u'/') ? top : top + u'/'));
 }
 
+QStringList externalNames(const QString &path)
+{
+    using namespace Qt::StringLiterals;
+    const QString whole = QString(path).replace(u'\\', u'/');
+    const QString bare = whole.section(u'/', -1);
+    QStringList names{whole, bare};
+    if (bare.endsWith(".dwg"_L1, Qt::CaseInsensitive))
+        names += {whole.chopped(4) + ".dxf"_L1, bare.chopped(4) + ".dxf"_L1};
+    else if (!bare.contains(u'.'))
+        names += {whole + ".dxf"_L1, bare + ".dxf"_L1};
+    return names;
+}
+
+FileFinder namedFilesWithin(const Drawing &drawing, FileFinder ofHost)
+{
+    return [own = namedFiles(drawing), ofHost = std::move(ofHost)](const QString &name) {
+        const QString path = own(name);
+        return path.isEmpty() ? ofHost(name) : path;
+    };
+}
+
 FileFinder namedFiles(const Drawing &drawing, ReadableFiles readable)
 {
     return [&drawing, readable = std::move(readable)](const QString &asked) {

@@ -29,6 +29,13 @@ struct ReadableFiles
 /// while the drawing lives.
 FileFinder namedFiles(const Drawing &drawing, ReadableFiles readable = {});
 
+/// Names to look for a drawing by that another one refers to as `path`: as it stands, by its name alone, and as a
+/// drawing of this program where the name is another form's or has no ending. In this order.
+QStringList externalNames(const QString &path);
+
+/// Looks nearest to a drawing that is seen in another one first, then as `ofHost` does. Valid while the drawing lives.
+FileFinder namedFilesWithin(const Drawing &drawing, FileFinder ofHost);
+
 /// Whether `path`, behind all links, is `folder` or below it.
 bool isBelow(const QString &path, const QString &folder);
 

@@ -14,28 +14,6 @@ namespace {
 
 constexpr qint64 largestExternal = 512LL * 1024 * 1024;
 
-/// By the name as it stands, by the name alone, and as a drawing of this program where the name is another form's.
-QStringList externalNames(const QString &path)
-{
-    const QString whole = QString(path).replace(u'\\', u'/');
-    const QString bare = whole.section(u'/', -1);
-    QStringList names{whole, bare};
-    if (bare.endsWith(".dwg"_L1, Qt::CaseInsensitive))
-        names += {whole.chopped(4) + ".dxf"_L1, bare.chopped(4) + ".dxf"_L1};
-    else if (!bare.contains(u'.'))
-        names += {whole + ".dxf"_L1, bare + ".dxf"_L1};
-    return names;
-}
-
-/// Nearest to the drawing itself first, then as its host finds files.
-drawing::FileFinder finderOf(const drawing::Drawing &drawing, const drawing::FileFinder &ofHost)
-{
-    return [own = drawing::namedFiles(drawing), ofHost](const QString &name) {
-        const QString path = own(name);
-        return path.isEmpty() ? ofHost(name) : path;
-    };
-}
-
 drawing::FileFinder finderOf(const Scene &scene)
 {
     return scene.surroundings().file ? scene.surroundings().file : drawing::namedFiles(scene.drawing());
@@ -82,14 +60,14 @@ void ExternalFiles::forget()
 ExternalView openExternal(Scene &host, const drawing::Block &block)
 {
     constexpr int isOverlay = 8;
-    ExternalView view{.path = block.externalPath};
+    ExternalView view{.path = block.externalPath, .isUnloaded = block.isUnloaded};
     const drawing::FileFinder find = finderOf(host);
     const bool isWithin = host.host() != nullptr;
-    if ((isWithin && (block.flags & isOverlay) != 0) || depthOf(&host) >= drawing::deepestNesting) {
+    if (block.isUnloaded || (isWithin && (block.flags & isOverlay) != 0) || depthOf(&host) >= drawing::deepestNesting) {
         view.state = ExternalView::State::LeftOut;
         return view;
     }
-    for (const QString &name : externalNames(block.externalPath)) {
+    for (const QString &name : drawing::externalNames(block.externalPath)) {
         const QString path = find(name);
         if (path.isEmpty())
             continue;
@@ -105,7 +83,7 @@ ExternalView openExternal(Scene &host, const drawing::Block &block)
         return view;
     const Vec3 base = view.drawing->header().point(u"$INSBASE"_s);
     drawing::MacroSurroundings surroundings{.length = host.surroundings().length, .angle = host.surroundings().angle};
-    surroundings.file = finderOf(*view.drawing, find);
+    surroundings.file = drawing::namedFilesWithin(*view.drawing, find);
     view.scene = std::make_shared<Scene>(*view.drawing, std::move(surroundings), host, block.name);
     view.placement = Matrix::translation(block.basePoint - (isUsable(base) ? base : Vec3{}));
     view.state = ExternalView::State::Shown;

@@ -42,15 +42,22 @@ struct ExternalView
     {
         Shown,
         Missing, ///< there is no such file, none that may be read, or none that is a drawing
-        LeftOut ///< what the reference says: it would show a drawing within itself, or is an overlay within a reference
+        LeftOut  ///< it is unloaded, would show a drawing within itself, or is an overlay within a reference
     };
 
-    QString path{}; ///< as the block has it
+    QString path{};          ///< as the block has it
+    bool isUnloaded = false; ///< likewise
     State state = State::Missing;
     std::shared_ptr<const drawing::Drawing> drawing{};
     std::shared_ptr<Scene> scene{}; ///< of the drawing; null where it is not shown
     drawing::Matrix placement{};    ///< from its model space to the block
 };
+
+/// Whether that is what the block still says.
+inline bool standsFor(const ExternalView &view, const drawing::Block &block)
+{
+    return view.path == block.externalPath && view.isUnloaded == block.isUnloaded;
+}
 
 /// Opens what a block of `host` stands for. The names of its layers and linetypes are numbered in the host's appearance
 /// as NAME|LAYER, where NAME is the block's.

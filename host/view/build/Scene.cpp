@@ -107,7 +107,7 @@ const ExternalView *Scene::external(int block)
     const auto definition = block > paperSpace ? m_drawing.blocks().get(display.name) : std::nullopt;
     // One whose content is in the drawing is a block as any other.
     const bool isOther = definition && definition->isExternal() && m_drawing.children(definition->record).empty();
-    if (display.external && (!isOther || display.external->path != definition->externalPath))
+    if (display.external && (!isOther || !standsFor(*display.external, *definition)))
         release(display);
     if (isOther && !display.external)
         display.external = std::make_shared<ExternalView>(openExternal(*this, *definition));

@@ -112,7 +112,7 @@ bool Scene::hasChangedExternals() const
 {
     return std::ranges::any_of(m_blocks, [this](const auto &block) {
         const auto definition = block->external ? m_drawing.blocks().get(block->name) : std::nullopt;
-        return block->external && (!definition || definition->externalPath != block->external->path);
+        return block->external && (!definition || !standsFor(*block->external, *definition));
     });
 }
 
