@@ -19,16 +19,16 @@
     (convertsimplenotes:run notes (kora_readstate file)))
   (kora_end))
 
-(defun convertsimplenotes:run (notes state / open used)
-  (setq open (mapcar 'entget (kora_unlocked notes))
-        used (vl-remove-if-not '(lambda (data) (convertsimplenotes:is_beside data (car open))) open))
+(defun convertsimplenotes:run (notes state / free used)
+  (setq free (mapcar 'entget (kora_unlocked notes))
+        used (vl-remove-if-not '(lambda (data) (convertsimplenotes:is_beside data (car free))) free))
   (cond
     ((null used) (kora_done "Nothing was converted." (length notes)))
     ((entmakex (convertsimplenotes:paragraph (convertsimplenotes:sorted used state) state))
      (foreach data used (entdel (kora_field data -1)))
-     (if (< (length used) (length open))
-       (kora_alert_message (strcat (kora_number_of (- (length open) (length used)) "text") " in another plane left alone.")))
-     (kora_done (strcat (kora_number_of (length used) "text") " made one paragraph.") (- (length notes) (length open))))
+     (if (< (length used) (length free))
+       (kora_alert_message (strcat (kora_number_of (- (length free) (length used)) "text") " in another plane left alone.")))
+     (kora_done (strcat (kora_number_of (length used) "text") " made one paragraph.") (- (length notes) (length free))))
     (T (kora_alert_message "The paragraph could not be made. The texts stay as they are."))))
 
 ;; Whether a text lies in the plane of the first.

@@ -26,11 +26,11 @@
                     (kora_selection_to_list (ssget "_X"))))
 
 ;; Runs the dialog. -> the colors in their order, nil when it was cancelled.
-(defun drawordercolor:ask (colors / file last)
+(defun drawordercolor:ask (colors / file kept)
   (setq file   (kora_statefile "drawordercolor")
-        last   (kora_string_split (cond ((kora_state_value (kora_readstate file) "lstcolors")) ("")) "^")
-        last   (vl-remove-if-not '(lambda (color) (member color colors)) (mapcar 'atoi (vl-remove "" last)))
-        colors (append last (vl-remove-if '(lambda (color) (member color last)) (vl-sort colors '<))))
+        kept   (kora_string_split (cond ((kora_state_value (kora_readstate file) "lstcolors")) ("")) "^")
+        kept   (vl-remove-if-not '(lambda (color) (member color colors)) (mapcar 'atoi (vl-remove "" kept)))
+        colors (append kept (vl-remove-if '(lambda (color) (member color kept)) (vl-sort colors '<))))
   (kora_show 'Dlg_DrawOrderColor (cons file (mapcar 'itoa colors))))
 
 ;; -> a list of (color entity ...), the entities of each in the order in which they came. Sorted by numbers of which the

@@ -70,17 +70,17 @@
 
 ;; -> the height of the texts: that of the last table unless the user says another. A style's own height is not asked.
 ;; It has a file of its own, because the dialog writes what it knows only.
-(defun getblockinfo:ask_height (/ file last)
+(defun getblockinfo:ask_height (/ file kept)
   (setq file (kora_statefile "getblockinfo-table")
-        last (kora_state_real (kora_readstate file) "textheight")
-        last (if (and last (> last 0.0)) last (kora_text_height)))
+        kept (kora_state_real (kora_readstate file) "textheight")
+        kept (if (and kept (> kept 0.0)) kept (kora_text_height)))
   (if (kora_style_height)
     (kora_style_height)
     (progn
       (initgetOrtakit 6)
-      (setq last (getDistOrtakit corner (strcat "\nSpecify text height <" (kora_real_text last) ">: ")))
-      (if last (kora_writestate file (list (cons "textheight" (kora_real_text last)))))
-      last)))
+      (setq kept (getDistOrtakit corner (strcat "\nSpecify text height <" (kora_real_text kept) ">: ")))
+      (if kept (kora_writestate file (list (cons "textheight" (kora_real_text kept)))))
+      kept)))
 
 ;; Rows are two heights of text high; a column has a height of text for each letter, and half of one on both sides.
 (defun getblockinfo:draw_table (corner height rows / widths bottom)

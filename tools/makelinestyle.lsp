@@ -212,16 +212,16 @@
 
 ;; A linetype begins with a dash or a dot: a gap in front is joined to what is behind the last element, which is the same
 ;; line when it repeats. Distances then reach beyond the length of the pattern.
-(defun makelinestyle:rotated (elements / first last)
+(defun makelinestyle:rotated (elements / first tail)
   (setq first (car elements)
-        last  (car (reverse elements)))
+        tail  (car (reverse elements)))
   (cond
     ((or (not (makelinestyle:is_gap first)) (null (cdr elements))) elements)
-    ((makelinestyle:is_gap last)
+    ((makelinestyle:is_gap tail)
      (append (reverse (cdr (reverse (cdr elements))))
-             (list (list (car last) (+ (cadr last) (cadr first)) 'GAP))))
+             (list (list (car tail) (+ (cadr tail) (cadr first)) 'GAP))))
     (T (append (cdr elements)
-               (list (list (cadr last) (+ (cadr last) (cadr first)) 'GAP))))))
+               (list (list (cadr tail) (+ (cadr tail) (cadr first)) 'GAP))))))
 
 ;; The elements with their texts as fourth item, each (place offset data). An element with several is cut where each but
 ;; the first of them starts.
@@ -244,9 +244,9 @@
   (reverse done))
 
 ;; "2.5", "-1.25" or "0" and the text on it in brackets.
-(defun makelinestyle:element_text (element / length)
-  (setq length (- (cadr element) (car element)))
-  (strcat (makelinestyle:number (if (makelinestyle:is_gap element) (- length) length))
+(defun makelinestyle:element_text (element / extent)
+  (setq extent (- (cadr element) (car element)))
+  (strcat (makelinestyle:number (if (makelinestyle:is_gap element) (- extent) extent))
           (if (cadddr element) (makelinestyle:text_text (cadddr element) (cadr element)) "")))
 
 ;; The sign counts from the end of its element; a text's height from that of its style, where that has one.

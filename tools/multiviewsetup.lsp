@@ -184,7 +184,7 @@
 (defun multiviewsetup:set_limits (name place scale / box)
   (if (setq box (kora_block_box name))
     (mapcar '(lambda (variable corner)
-               (setvar variable (mapcar '(lambda (from length) (+ from (* scale length)))
+               (setvar variable (mapcar '(lambda (from extent) (+ from (* scale extent)))
                                         (list (car place) (cadr place)) corner)))
             '("LIMMIN" "LIMMAX") box)
     (kora_alert_message "The limits stay as they are: what the title block draws is not known.")))
@@ -197,10 +197,10 @@
                                     (kora_choose (strcat "Select " noun " to remove: ") filter)))))
 
 ;; -> (how many were erased . how many are on locked layers).
-(defun multiviewsetup:erase (entities / open)
-  (setq open (kora_unlocked entities))
-  (foreach entity open (entdel entity))
-  (cons (length open) (- (length entities) (length open))))
+(defun multiviewsetup:erase (entities / free)
+  (setq free (kora_unlocked entities))
+  (foreach entity free (entdel entity))
+  (cons (length free) (- (length entities) (length free))))
 
 ;;; Viewports.
 
@@ -279,8 +279,8 @@
 
 ;; -> (viewport . point) for a point of the sheet in a viewport, in world coordinates; nil when the user gives up. Besides
 ;; a base there must be no other viewport whose view is fixed.
-(defun multiviewsetup:pick (prompt from base / point viewport)
-  (while (and (setq point (if from (getPointOrtakit (trans from 0 1) prompt) (getPointOrtakit prompt)))
+(defun multiviewsetup:pick (asking from base / point viewport)
+  (while (and (setq point (if from (getPointOrtakit (trans from 0 1) asking) (getPointOrtakit asking)))
               (setq point (trans point 1 0))
               (not (multiviewsetup:serves (setq viewport (kora_viewport_at point)) base))))
   (if point (cons viewport point)))
@@ -294,12 +294,12 @@
         ((kora_view_is_fixed (entget viewport)) (kora_refuse "The display of that viewport is locked."))
         (T T)))
 
-(defun multiviewsetup:scale (state / viewports paper model open fit)
+(defun multiviewsetup:scale (state / viewports paper model free fit)
   (setq viewports (cond (chosen) ((kora_choose "Select viewports to scale: " '((0 . "VIEWPORT")))))
         chosen    nil
         viewports (vl-remove-if-not '(lambda (entity) (kora_is_viewport (entget entity))) viewports)
-        open      (kora_unlocked viewports)
-        fit       (vl-remove-if-not '(lambda (entity) (multiviewsetup:is_scalable (entget entity) state)) open))
+        free      (kora_unlocked viewports)
+        fit       (vl-remove-if-not '(lambda (entity) (multiviewsetup:is_scalable (entget entity) state)) free))
   (if viewports
     (progn
       (setq paper (multiviewsetup:ask_units "\nEnter number of paper space units" 1.0)
@@ -308,8 +308,8 @@
       (foreach entity fit (multiviewsetup:set_scale (entget entity) (/ paper model) (kora_state_is state "ps_scale")))
       (kora_done (strcat (kora_number_of (length fit) "viewport") " scaled to " (kora_number_text paper 8) ":"
                          (kora_number_text model 8)
-                         (kora_also (- (length open) (length fit)) " with a fixed display or border left alone") ".")
-                 (- (length viewports) (length open)))
+                         (kora_also (- (length free) (length fit)) " with a fixed display or border left alone") ".")
+                 (- (length viewports) (length free)))
       (if fit T))))
 
 ;; A border that is an entity of its own does not change with the viewport.
@@ -318,10 +318,10 @@
        (> (cond ((kora_field data 45)) (0.0)) 0.0)
        (not (and (kora_state_is state "ps_scale") (kora_viewport_is_clipped data)))))
 
-(defun multiviewsetup:ask_units (prompt preset)
+(defun multiviewsetup:ask_units (asking preset)
   (if (<= preset 0.0) (setq preset 1.0))
   (initgetOrtakit 6)
-  (getRealOrtakit (strcat prompt " <" (kora_number_text preset 12) ">: ")))
+  (getRealOrtakit (strcat asking " <" (kora_number_text preset 12) ">: ")))
 
 ;; The middle of the viewport stays where it is, and so does what is seen there.
 (defun multiviewsetup:set_scale (data scale border / height)
@@ -342,7 +342,7 @@
      (kora_refuse "Width and height must be lengths greater than zero."))
     (T
      (setq corner (cond ((getpoint "\nSpecify lower left corner of the title block <0,0>: ")) ('(0.0 0.0 0.0)))
-           size   (mapcar '(lambda (length) (* factor length)) size))
+           size   (mapcar '(lambda (extent) (* factor extent)) size))
      (if (multiviewsetup:draw_frame corner size)
        (progn (kora_alert_message (strcat "Title block of " (rtos (car size)) " by " (rtos (cadr size)) " created.")) T)
        (kora_refuse "The title block could not be created.")))))

@@ -37,12 +37,12 @@
         ((and (kora_state_is state "placement_replace") (= (kora_state_value state "search") ""))
          "There is no text to find.")))
 
-(defun numbertext:run (texts state / open points)
-  (setq open (kora_usable texts (list kora_on_locked_layer '(numbertext:is_empty "empty"))))
+(defun numbertext:run (texts state / free points)
+  (setq free (kora_usable texts (list kora_on_locked_layer '(numbertext:is_empty "empty"))))
   (if (kora_state_is state "placement_replace")
-    (setq open (numbertext:with_search open (kora_state_value state "search"))))
+    (setq free (numbertext:with_search free (kora_state_value state "search"))))
   (if (setq points (numbertext:points state))
-    (numbertext:write (numbertext:sorted open state points) state)))
+    (numbertext:write (numbertext:sorted free state points) state)))
 
 ;; Whether a text shows nothing: there is nothing to find its number by.
 (defun numbertext:is_empty (data)

@@ -24,8 +24,8 @@
                 (append (redefinepaths:references) (redefinepaths:images) (redefinepaths:styles)
                         (redefinepaths:remote_texts))))
 
-(defun redefinepaths:file (type name entity group)
-  (list type name (cond ((kora_field (entget entity) group)) ("")) entity group))
+(defun redefinepaths:file (kind name entity group)
+  (list kind name (cond ((kora_field (entget entity) group)) ("")) entity group))
 
 (defun redefinepaths:references ()
   (mapcar '(lambda (name) (redefinepaths:file "Xref" name (tblobjname "BLOCK" name) 1))

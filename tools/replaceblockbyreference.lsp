@@ -19,10 +19,10 @@
           (car (kora_string_split (kora_state_value state "blockstablerep") "^"))))
 
 ;; Attaches the file unless the drawing has it already. -> its name as a block, nil after a message.
-(defun replaceblockbyreference:attach (path / name block last)
+(defun replaceblockbyreference:attach (path / name block mark)
   (setq name  (vl-filename-base path)
         block (tblsearch "BLOCK" name)
-        last  (entlast))
+        mark  (entlast))
   (cond
     ((= (strcase (vl-string-translate "\\" "/" path))
         (strcase (vl-string-translate "\\" "/" (strcat (getvar "DWGPREFIX") (getvar "DWGNAME")))))
@@ -37,7 +37,7 @@
      (if (= 1 (logand 1 (getvar "CMDACTIVE"))) (command '(0.0 0.0 0.0) 1.0 1.0 0.0))
      (if (tblsearch "BLOCK" name)
        (progn
-         (if (not (equal last (entlast))) (entdel (entlast)))
+         (if (not (equal mark (entlast))) (entdel (entlast)))
          name)
        (kora_refuse (strcat "The file " path " could not be attached."))))))
 

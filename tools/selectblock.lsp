@@ -37,6 +37,9 @@
   (if (tblsearch "BLOCK" name) T))
 
 ;; The values of the last insertion are offered for the next one.
+(setq selectblock:scale    1.0
+      selectblock:rotation 0.0)
+
 (defun selectblock:ask_scale ()
   (initgetOrtakit 2)
   (setq selectblock:scale

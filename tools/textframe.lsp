@@ -18,11 +18,11 @@
     (textframe:run texts (kora_readstate file)))
   (kora_end))
 
-(defun textframe:run (texts state / open old framed colour made)
-  (setq open   (kora_unlocked texts)
-        old    (textframe:ask_old (kora_companions open textframe:application))
+(defun textframe:run (texts state / free old framed colour made)
+  (setq free   (kora_unlocked texts)
+        old    (textframe:ask_old (kora_companions free textframe:application))
         colour (if (kora_state_is state "bk_hatch") (atoi (kora_state_value state "color"))))
-  (foreach row (textframe:rows open state)
+  (foreach row (textframe:rows free state)
     (if (setq made (apply 'textframe:make (append (cdr row) (list colour))))
       (progn
         (foreach part made (kora_join_companion part (car row) textframe:application))
@@ -32,7 +32,7 @@
     (if (kora_field (entget (car framed)) 330)
       (kora_bring_to_front framed)
       (kora_alert_message "A drawing of this version cannot have a filled background.")))
-  (kora_done_with "framed" (length framed) (length open) (length texts)))
+  (kora_done_with "framed" (length framed) (length free) (length texts)))
 
 ;; -> the frames of earlier runs that are to go.
 (defun textframe:ask_old (old / count)

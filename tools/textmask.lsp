@@ -19,10 +19,10 @@
     (textmask:run texts (kora_readstate file)))
   (kora_end))
 
-(defun textmask:run (texts state / open old masked masks made)
-  (setq open (kora_unlocked texts)
-        old  (kora_companions open textmask:application))
-  (foreach text open
+(defun textmask:run (texts state / free old masked masks made)
+  (setq free (kora_unlocked texts)
+        old  (kora_companions free textmask:application))
+  (foreach text free
     (if (setq made (textmask:make (entget text) state))
       (setq masks  (cons made masks)
             masked (cons text masked))))
@@ -30,7 +30,7 @@
   (if masked
     (mapcar '(lambda (text mask) (kora_join_companion mask text textmask:application))
             (kora_bring_to_front (reverse masked)) (reverse masks)))
-  (kora_done_with "masked" (length masked) (length open) (length texts)))
+  (kora_done_with "masked" (length masked) (length free) (length texts)))
 
 ;; -> the entity name of a new mask behind the text, nil when there is nothing to mask or it cannot be made.
 (defun textmask:make (data state / box points margin)

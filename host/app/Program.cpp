@@ -100,7 +100,7 @@ int runMode(const ProgramOptions &options)
     case Mode::Run:
         return runSessions(options);
     case Mode::Lisp:
-        return runLispFiles(options);
+        return options.isCheck ? checkLispFiles(options) : runLispFiles(options);
     case Mode::Convert:
         return convertDrawing(options);
     case Mode::Names:

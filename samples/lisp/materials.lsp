@@ -27,13 +27,13 @@
   text)
 
 ;; A pair for each insertion: block and attributes with a tab between, and the copies.
-(defun materials:insertions (here apart / filter set index insert data name pairs)
+(defun materials:insertions (here apart / filter all index insert data name pairs)
   (setq filter (list '(0 . "INSERT"))
         filter (if here (cons (cons 410 (getvar "CTAB")) filter) filter)
-        set    (ssget "_X" filter)
+        all    (ssget "_X" filter)
         index  0)
-  (repeat (if set (sslength set) 0)
-    (setq insert (ssname set index)
+  (repeat (if all (sslength all) 0)
+    (setq insert (ssname all index)
           data   (entget insert)
           name   (cdr (assoc 2 data))
           index  (1+ index))
@@ -45,13 +45,13 @@
   pairs)
 
 ;; Equal ones stand behind each other when they are sorted, so that counting takes one walk.
-(defun materials:rows (here apart / rows last tab)
+(defun materials:rows (here apart / rows seen tab)
   (foreach pair (vl-sort (materials:insertions here apart) '(lambda (a b) (< (car a) (car b))))
-    (if (= (car pair) last)
+    (if (= (car pair) seen)
       (setq rows (cons (cons (+ (caar rows) (cdr pair)) (cdar rows)) (cdr rows)))
-      (setq last (car pair)
-            tab  (vl-string-position 9 last)
-            rows (cons (list (cdr pair) (substr last 1 tab) (substr last (+ tab 2))) rows))))
+      (setq seen (car pair)
+            tab  (vl-string-position 9 seen)
+            rows (cons (list (cdr pair) (substr seen 1 tab) (substr seen (+ tab 2))) rows))))
   (reverse rows))
 
 (defun materials:sorted (rows by)

@@ -11,7 +11,7 @@
 (defun stair:get (stair name) (cdr (assoc name stair)))
 
 ;; The point of the stair at an angle, from its centre.
-(defun stair:at (stair angle radius) (polar (stair:get stair 'centre) angle radius))
+(defun stair:at (stair turned radius) (polar (stair:get stair 'centre) turned radius))
 
 ;; The angle of the line in front of a tread; the first one is 0.
 (defun stair:edge (stair number)
@@ -25,14 +25,14 @@
   (setvar "CLAYER" before))
 
 ;; The arc of a radius over all treads, seen counter-clockwise.
-(defun stair:arc (stair radius / first last)
+(defun stair:arc (stair radius / first final)
   (setq first (stair:edge stair 0)
-        last (stair:edge stair (stair:get stair 'count)))
+        final (stair:edge stair (stair:get stair 'count)))
   (if (minusp (stair:get stair 'step))
     (command "_.ARC" "_Center" "_non" (stair:get stair 'centre)
-             "_non" (stair:at stair last radius) "_non" (stair:at stair first radius))
+             "_non" (stair:at stair final radius) "_non" (stair:at stair first radius))
     (command "_.ARC" "_Center" "_non" (stair:get stair 'centre)
-             "_non" (stair:at stair first radius) "_non" (stair:at stair last radius))))
+             "_non" (stair:at stair first radius) "_non" (stair:at stair final radius))))
 
 (defun stair:draw-treads (stair / number)
   (command "_.CIRCLE" "_non" (stair:get stair 'centre) (stair:get stair 'inner))
@@ -65,12 +65,12 @@
   (stair:arc stair (- (stair:get stair 'outer) (stair:get stair 'rail))))
 
 ;; From a circle in the middle of the first tread to an arrow in the middle of the last one.
-(defun stair:draw-walk (stair / first last tip back radius)
+(defun stair:draw-walk (stair / first final tip back radius)
   (setq radius (stair:get stair 'walk)
         first (stair:edge stair 0.5)
-        last (stair:edge stair (- (stair:get stair 'count) 0.5))
-        tip (stair:at stair last radius)
-        back (- last (* 0.4 (stair:get stair 'step))))
+        final (stair:edge stair (- (stair:get stair 'count) 0.5))
+        tip (stair:at stair final radius)
+        back (- final (* 0.4 (stair:get stair 'step))))
   (command "_.CIRCLE" "_non" (stair:at stair first radius) (stair:text-height stair))
   (if (minusp (stair:get stair 'step))
     (command "_.ARC" "_Center" "_non" (stair:get stair 'centre)

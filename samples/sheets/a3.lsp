@@ -9,8 +9,8 @@
   (entmake (list '(0 . "LWPOLYLINE") '(100 . "AcDbEntity") '(8 . "0") '(100 . "AcDbPolyline") '(90 . 4) '(70 . 1)
                  (list 10 x1 y1) (list 10 x2 y1) (list 10 x2 y2) (list 10 x1 y2))))
 
-(defun a3:field (x y tag prompt preset)
-  (entmake (list '(0 . "ATTDEF") '(8 . "0") (list 10 x y 0.0) '(40 . 5.0) (cons 1 preset) (cons 3 prompt) (cons 2 tag)
+(defun a3:field (x y tag asking preset)
+  (entmake (list '(0 . "ATTDEF") '(8 . "0") (list 10 x y 0.0) '(40 . 5.0) (cons 1 preset) (cons 3 asking) (cons 2 tag)
                  '(70 . 0))))
 
 (setvar "INSUNITS" 4)

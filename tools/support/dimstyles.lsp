@@ -201,7 +201,7 @@
   (mapcar 'kora_string_trim (reverse (cons (vl-list->string (reverse part)) parts))))
 
 ;; The dash with the text or shape that brackets say; as it was when they say neither.
-(defun kora:signed_dash (dash brackets / parts sign style scale turn flags key value)
+(defun kora:signed_dash (dash brackets / parts sign style flags key value)
   (setq parts (kora:pattern_parts (substr brackets 2 (- (strlen brackets) 2)))
         sign  (car parts)
         flags (cond ((= (substr sign 1 1) "\"") 2) ((distof sign 2) 4)))

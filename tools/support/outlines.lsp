@@ -6,20 +6,20 @@
 
 ;; (kora_pieces data) -> the pieces of a line, arc, circle or polyline in their order; nil of another entity and of one
 ;; that is tilted or, a polyline, in space.
-(defun kora_pieces (data / type normal)
-  (setq type   (kora_field data 0)
-        normal (if (= type "LINE") '(0.0 0.0 1.0) (kora_normal data)))
+(defun kora_pieces (data / kind normal)
+  (setq kind   (kora_field data 0)
+        normal (if (= kind "LINE") '(0.0 0.0 1.0) (kora_normal data)))
   (if (equal (abs (caddr normal)) 1.0 1e-9)
     (mapcar '(lambda (piece)
                (list (kora:seen_flat (car piece) normal) (kora:seen_flat (cadr piece) normal)
                      (* (caddr normal) (caddr piece))))
             (cond
-              ((= type "LINE") (list (list (kora_field data 10) (kora_field data 11) 0.0)))
-              ((= type "CIRCLE") (kora:arc_pieces (kora_field data 10) (kora_field data 40) 0.0 (* 2 pi)))
-              ((= type "ARC")
+              ((= kind "LINE") (list (list (kora_field data 10) (kora_field data 11) 0.0)))
+              ((= kind "CIRCLE") (kora:arc_pieces (kora_field data 10) (kora_field data 40) 0.0 (* 2 pi)))
+              ((= kind "ARC")
                (kora:arc_pieces (kora_field data 10) (kora_field data 40) (kora_field data 50) (kora_field data 51)))
-              ((= type "LWPOLYLINE") (kora:joined_pieces (kora:vertices_of data) (kora:is_closed data)))
-              ((and (= type "POLYLINE") (= 0 (logand 88 (cond ((kora_field data 70)) (0)))))
+              ((= kind "LWPOLYLINE") (kora:joined_pieces (kora:vertices_of data) (kora:is_closed data)))
+              ((and (= kind "POLYLINE") (= 0 (logand 88 (cond ((kora_field data 70)) (0)))))
                (kora:joined_pieces (kora:old_vertices data) (kora:is_closed data)))))))
 
 (defun kora:seen_flat (point normal)
@@ -104,15 +104,15 @@
                      (* 0.25 pi)))))))
 
 ;; (kora_outlines data tolerance) -> the polygons of a closed entity or of a hatch; nil of an open or tilted one.
-(defun kora_outlines (data tolerance / type pieces points)
-  (setq type   (kora_field data 0)
+(defun kora_outlines (data tolerance / kind pieces points)
+  (setq kind   (kora_field data 0)
         points (cond
-                 ((member type '("CIRCLE" "LWPOLYLINE" "POLYLINE"))
+                 ((member kind '("CIRCLE" "LWPOLYLINE" "POLYLINE"))
                   (setq pieces (kora_pieces data))
                   (if (and pieces (equal (caar pieces) (cadr (last pieces)) 1e-9)) (kora_flattened pieces tolerance)))
-                 ((= type "ELLIPSE") (if (kora:is_full data) (kora:ellipse_points data tolerance)))
-                 ((= type "SPLINE") (kora:loop_of (kora:spline_points data tolerance)))))
-  (if (= type "HATCH")
+                 ((= kind "ELLIPSE") (if (kora:is_full data) (kora:ellipse_points data tolerance)))
+                 ((= kind "SPLINE") (kora:loop_of (kora:spline_points data tolerance)))))
+  (if (= kind "HATCH")
     (kora:hatch_outlines data tolerance)
     (if (cddr points) (list points))))
 

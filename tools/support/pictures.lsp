@@ -29,16 +29,16 @@
   value)
 
 ;; Segments, each with its length, up to the one that begins a frame.
-(defun kora:jpeg_size (/ code length size)
+(defun kora:jpeg_size (/ code extent size)
   (while (and (not size) (setq code (read-char handle)) (= code 255))
     (while (= code 255) (setq code (read-char handle)))
-    (setq length (kora:number 2 nil))
+    (setq extent (kora:number 2 nil))
     (cond
-      ((or (null code) (< length 2)) (setq size '(nil nil)))
+      ((or (null code) (< extent 2)) (setq size '(nil nil)))
       ((and (<= 192 code 207) (not (member code '(196 200 204))))
        (kora:skip 1)
        (setq size (reverse (list (kora:number 2 nil) (kora:number 2 nil)))))
-      (T (kora:skip (- length 2)))))
+      (T (kora:skip (- extent 2)))))
   size)
 
 ;; The first directory's fields 256 and 257, whose values are 2 or 4 bytes.

@@ -63,7 +63,7 @@
 ;; (kora_refuse text) -> nil; tells the user why.
 (defun kora_refuse (text) (kora_alert_message text) nil)
 
-;; (kora_asked function arguments) -> what a function that asks the user gives; nil when the user cancels it.
-(defun kora_asked (function arguments / answer)
-  (setq answer (vl-catch-all-apply function arguments))
+;; (kora_asked question arguments) -> what a function that asks the user gives; nil when the user cancels it.
+(defun kora_asked (question arguments / answer)
+  (setq answer (vl-catch-all-apply question arguments))
   (if (not (vl-catch-all-error-p answer)) answer))

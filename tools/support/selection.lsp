@@ -9,10 +9,10 @@
   (sssetfirst nil nil)
   entities)
 
-;; (kora_choose prompt filter) -> the entities that fit filter of those that the user chooses, in this order; nil after
+;; (kora_choose asking filter) -> the entities that fit filter of those that the user chooses, in this order; nil after
 ;; a message when there are none. How many do not fit is said; a filter of nil fits all.
-(defun kora_choose (prompt filter / all)
-  (princ (strcat "\n" prompt))
+(defun kora_choose (asking filter / all)
+  (princ (strcat "\n" asking))
   (if (setq all (ssget))
     (kora:fitting all (ssget "_P" filter) "picked")
     (kora_refuse "Nothing was chosen.")))
@@ -73,9 +73,9 @@
               (strcat " " (itoa locked) (if (= locked 1) " on a locked layer was" " on locked layers were") " left alone.")
               ""))))
 
-;; (kora_done_with verb done open all) says how many texts were, say, "masked", out of those on layers that are not locked
+;; (kora_done_with verb done free all) says how many texts were, say, "masked", out of those on layers that are not locked
 ;; and out of all.
-(defun kora_done_with (verb done open all)
+(defun kora_done_with (verb done free all)
   (kora_done (strcat (kora_number_of done "text") " " verb "."
-                     (if (< done open) (strcat " " (itoa (- open done)) " could not be " verb ".") ""))
-             (- all open)))
+                     (if (< done free) (strcat " " (itoa (- free done)) " could not be " verb ".") ""))
+             (- all free)))

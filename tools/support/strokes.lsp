@@ -25,20 +25,20 @@
     (if (or goes_on (not failed))
       (kora:add_stroke (kora:looked_through (entget entity) outer) map depth))))
 
-(defun kora:add_stroke (data map depth / type pieces polygons)
-  (setq type (kora_field data 0))
+(defun kora:add_stroke (data map depth / kind pieces polygons)
+  (setq kind (kora_field data 0))
   (cond
     ((= 1 (kora_field data 60)))
-    ((and (= type "ATTDEF") (= 0 (logand 2 (cond ((kora_field data 70)) (0))))))
-    ((= type "INSERT") (kora:add_reference data map depth))
-    ((and (= type "DIMENSION") (kora_field data 2)) (kora:add_block_strokes (kora_field data 2) map data (1+ depth)))
-    ((= type "POINT") (setq strokes (cons (list data 'POINT (kora_mapped map (kora_field data 10))) strokes)))
+    ((and (= kind "ATTDEF") (= 0 (logand 2 (cond ((kora_field data 70)) (0))))))
+    ((= kind "INSERT") (kora:add_reference data map depth))
+    ((and (= kind "DIMENSION") (kora_field data 2)) (kora:add_block_strokes (kora_field data 2) map data (1+ depth)))
+    ((= kind "POINT") (setq strokes (cons (list data 'POINT (kora_mapped map (kora_field data 10))) strokes)))
     ((setq polygons (kora:filled data map))
      (setq strokes (cons (list data 'AREA (mapcar '(lambda (points) (kora:mapped_points map points)) polygons) map)
                          strokes)))
     ((and (kora:is_even data) (setq pieces (kora:curve_pieces data (/ tolerance (kora:map_reach map)))))
      (setq strokes (cons (list data (kora:mapped_pieces pieces map)
-                               (if (= type "LWPOLYLINE") (* (kora_map_scale map) (car (kora:widths_of data))) 0.0))
+                               (if (= kind "LWPOLYLINE") (* (kora_map_scale map) (car (kora:widths_of data))) 0.0))
                          strokes)))
     (T (setq failed T))))
 
@@ -99,14 +99,14 @@
 
 ;; The polygons of a solid, or of a hatch of one colour or of lines; nil of another, and where nothing filled could be
 ;; made of them.
-(defun kora:filled (data map / type)
-  (setq type (kora_field data 0))
+(defun kora:filled (data map / kind)
+  (setq kind (kora_field data 0))
   (cond
     ((null (namedobjdict)) nil)
-    ((member type '("SOLID" "TRACE"))
+    ((member kind '("SOLID" "TRACE"))
      (if (equal (abs (caddr (kora_normal data))) 1.0 1e-9)
        (list (mapcar '(lambda (code) (kora:seen_flat (kora_field data code) (kora_normal data))) '(10 11 13 12)))))
-    ((and (= type "HATCH") (/= 1 (kora_field data 450)) (equal (kora_normal data) '(0.0 0.0 1.0) 1e-9))
+    ((and (= kind "HATCH") (/= 1 (kora_field data 450)) (equal (kora_normal data) '(0.0 0.0 1.0) 1e-9))
      (kora_outlines data (/ tolerance (kora:map_reach map))))))
 
 ;; Whether the whole stroke has one width; a polyline of early versions has none.
@@ -123,13 +123,13 @@
     (kora:sorted_once (cons (cond ((kora_field data 40)) (0.0))
                             (append (kora:values_of data 40) (kora:values_of data 41))))))
 
-(defun kora:curve_pieces (data tolerance / type points)
-  (setq type (kora_field data 0))
+(defun kora:curve_pieces (data tolerance / kind points)
+  (setq kind (kora_field data 0))
   (cond
-    ((= type "ELLIPSE")
+    ((= kind "ELLIPSE")
      (if (setq points (kora:ellipse_points data tolerance))
        (kora:chain (append points (list (if (kora:is_full data) (car points) (kora:ellipse_end data)))))))
-    ((= type "SPLINE") (kora:chain (kora:spline_points data tolerance)))
+    ((= kind "SPLINE") (kora:chain (kora:spline_points data tolerance)))
     (T (kora_pieces data))))
 
 (defun kora:ellipse_end (data)

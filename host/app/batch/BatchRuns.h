@@ -12,6 +12,8 @@ namespace host::app {
 int runSessions(const ProgramOptions &options);
 /// Loads the Lisp files.
 int runLispFiles(const ProgramOptions &options);
+/// Reads the Lisp files and tells what looks wrong in them; nothing in them is run.
+int checkLispFiles(const ProgramOptions &options);
 /// Opens one file and writes it as another.
 int convertDrawing(const ProgramOptions &options);
 /// Prints the functions, commands and variables that programs find in a new drawing.

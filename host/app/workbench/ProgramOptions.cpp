@@ -1,6 +1,7 @@
 #include "host/app/workbench/ProgramOptions.h"
 
 #include "host/kernel/documents/Session.h"
+#include "host/lisp/checking/Finding.h"
 
 #include <QHash>
 
@@ -83,6 +84,17 @@ QString setFlag(ProgramOptions &options, const QString &)
     return {};
 }
 
+template <QStringList ProgramOptions::*member>
+QString addKinds(ProgramOptions &options, const QString &value)
+{
+    for (const QString &name : value.split(u',', Qt::SkipEmptyParts)) {
+        if (!lisp::checking::findKind(name.toStdString()))
+            return u"there is no kind of finding \"%1\""_s.arg(name);
+        (options.*member).append(name);
+    }
+    return {};
+}
+
 template <QString (*read)(PictureOptions &, const QString &)>
 QString setPicture(ProgramOptions &options, const QString &value)
 {
@@ -145,7 +157,10 @@ QList<OptionRow> generalRows()
         {"--strict", Value::None, {Mode::Convert}, setFlag<&ProgramOptions::isStrict>},
         {"--binary", Value::None, {Mode::Convert}, setFlag<&ProgramOptions::isBinary>},
         {"--recover", Value::None, {Mode::Window, Mode::Run, Mode::Convert}, setFlag<&ProgramOptions::isRecovering>},
-        {"--json", Value::None, {Mode::Convert}, setFlag<&ProgramOptions::withJson>}};
+        {"--json", Value::None, {Mode::Convert, Mode::Lisp}, setFlag<&ProgramOptions::withJson>},
+        {"--check", Value::None, {Mode::Lisp}, setFlag<&ProgramOptions::isCheck>},
+        {"--only", Value::Needed, {Mode::Lisp}, addKinds<&ProgramOptions::onlyKinds>},
+        {"--except", Value::Needed, {Mode::Lisp}, addKinds<&ProgramOptions::exceptKinds>}};
 }
 
 const QList<OptionRow> &optionRows()
@@ -184,6 +199,15 @@ QString readOption(ProgramOptions &options, const QStringList &arguments, qsizet
     return u"there is no option %1"_s.arg(name);
 }
 
+QString assignLispFiles(ProgramOptions &options, const QStringList &files)
+{
+    if (files.isEmpty())
+        return u"lisp needs at least one file"_s;
+    options.lispFiles = files;
+    const bool isOfCheck = options.withJson || !options.onlyKinds.isEmpty() || !options.exceptKinds.isEmpty();
+    return isOfCheck && !options.isCheck ? u"--json, --only and --except go with --check"_s : QString();
+}
+
 /// Gives the words that are no options their meaning.
 QString assignWords(ProgramOptions &options, const QStringList &words)
 {
@@ -197,10 +221,7 @@ QString assignWords(ProgramOptions &options, const QStringList &words)
             options.audit = qEnvironmentVariable("ORTAKIT_AUDIT");
         return {};
     case Mode::Lisp:
-        if (words.isEmpty())
-            return u"lisp needs at least one file"_s;
-        options.lispFiles = words;
-        return {};
+        return assignLispFiles(options, words);
     case Mode::Convert:
         if (words.size() != 2)
             return u"convert needs two files"_s;
@@ -269,7 +290,7 @@ more to show than is drawn in one go: a few lines of a drawing can make millions
 
 constexpr auto windowHelp = R"(Usage: ortakit [OPTION...] [DRAWING...]
        ortakit run SESSION [DRAWING...] [--out DIR] [--png]
-       ortakit lisp FILE... [--drawing DRAWING]
+       ortakit lisp FILE... [--drawing DRAWING] [--check]
        ortakit convert IN OUT [--layout NAME] [--paper A3] [--scale 1:50] [OPTION...]
        ortakit names
 
@@ -310,6 +331,7 @@ of them. What a picture does not show, or only in part, is told on standard erro
 )";
 
 constexpr auto lispHelp = R"(Usage: ortakit lisp FILE... [--drawing DRAWING] [OPTION...]
+       ortakit lisp --check FILE... [--json] [--only KIND,...] [--except KIND,...]
 
 Loads the Lisp files in order and prints what they print. "-" reads expressions from standard input. Without --drawing
 a new drawing is open. Nothing asks a person: prompts are cancelled, and a dialog ends the program with status 1.
@@ -322,6 +344,14 @@ system variable TRUSTEDPATHS lists, and those named here.
   --memory-limit MB     the most memory Lisp may take, more being an error of the program (default: the system variable
                         LISPHEAPMAX)
   --force               write files as well that another program has open, or has changed since they were opened
+
+With --check the files are read and not run, and what looks wrong in them is told, a line each: FILE:LINE:COLUMN: error
+or warning: what it is [KIND]. What one of them defines the others know. Ends with status 1 when something was told.
+
+  --json                tell it as one line of JSON: findings, each with file, line, column, severity, kind and message,
+                        and the numbers of errors and warnings
+  --only KIND,...       tell only these kinds
+  --except KIND,...     tell all kinds but these
 
 )";
 
@@ -372,6 +402,15 @@ Documents are made from this, and scripts/demand compares it with what programs 
 
 )";
 
+/// The rows of kinds as a part of the help.
+QString kindsHelp()
+{
+    QString text = u"Kinds of findings:\n"_s;
+    for (const lisp::checking::FindingKindRow &row : lisp::checking::findingKinds())
+        text += u"  %1 %2\n"_s.arg(QLatin1StringView(row.name), -18).arg(QString::fromUtf8(row.help));
+    return text + u'\n';
+}
+
 } // namespace
 
 QString helpText(Mode mode)
@@ -381,7 +420,7 @@ QString helpText(Mode mode)
                        : mode == Mode::Convert ? convertHelp
                        : mode == Mode::Names   ? namesHelp
                                                : windowHelp;
-    return QString::fromUtf8(text) + QString::fromUtf8(commonHelp);
+    return QString::fromUtf8(text) + (mode == Mode::Lisp ? kindsHelp() : QString()) + QString::fromUtf8(commonHelp);
 }
 
 } // namespace host::app

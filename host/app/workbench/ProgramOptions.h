@@ -56,7 +56,10 @@ struct ProgramOptions
     bool isForced = false;       ///< Run, Lisp, Convert: files are written whatever other programs do with them
     bool isBinary = false;       ///< Convert: a DXF file is written in the binary form
     bool isRecovering = false;   ///< Window, Run, Convert: drawings are opened as far as they are sound
-    bool withJson = false;       ///< Convert
+    bool withJson = false;       ///< Convert; Lisp that is checked
+    bool isCheck = false;        ///< Lisp: the files are read, not run
+    QStringList onlyKinds;       ///< of findings; empty: all
+    QStringList exceptKinds;     ///< likewise; empty: none
     PictureOptions picture;      ///< Convert
     QString pictureFolder;
     std::optional<Style> style;
