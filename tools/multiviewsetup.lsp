@@ -129,6 +129,7 @@
      (kora_refuse (strcat "The title block " name " was not inserted"
                           (if redefine ", but its block is in the drawing." "."))))
     (T
+     (if (kora_state_is state "xref") (multiviewsetup:rescale title scale))
      (if (kora_state_is state "oplay")
        (multiviewsetup:to_layer title (kora_string_trim (kora_state_value state "layer"))))
      (if (kora_state_is state "limits") (multiviewsetup:set_limits name place (cond (scale) (1.0))))
@@ -137,6 +138,12 @@
                         (kora_also (car count) (if (= (car count) 1) " entity removed" " entities removed")) ".")
                 (cdr count))
      T)))
+
+;; Hosts that bring an external drawing to the drawing's unit by themselves multiply the scale that was answered.
+(defun multiviewsetup:rescale (title scale / data)
+  (setq data (entget title))
+  (if (not (equal (kora_field data 41) scale 1e-9))
+    (foreach code '(41 42 43) (entmod (setq data (kora_with_field data code scale))))))
 
 ;; What is still asked for are attributes.
 (defun multiviewsetup:insert (name place scale)

@@ -44,10 +44,11 @@
            (setq name nil))))
   (reverse files))
 
+;; What a reference brought along is its own drawing's to change.
 (defun redefinepaths:styles (/ style entity files)
   (setq style (tblnext "STYLE" T))
   (while style
-    (if (/= (kora_field style 2) "")
+    (if (not (or (= (kora_field style 2) "") (wcmatch (kora_field style 2) "*|*")))
       (foreach row '((3 "") (4 ", big font"))
         (setq files (cons (redefinepaths:file "TextStyle" (strcat (kora_field style 2) (cadr row))
                                               (tblobjname "STYLE" (kora_field style 2)) (car row))
