@@ -52,7 +52,7 @@ bool startCommand(Document &document, const QString &command)
     return true;
 }
 
-/// Hands an argument to the command under way. False when the command does not take it and has ended.
+/// Hands an argument to the command under way. False when the command has ended without doing what it was asked for.
 bool giveArgument(Arguments &args, std::size_t index)
 {
     CommandRun &command = *documentOf(args).pendingCommand();
@@ -129,8 +129,18 @@ enum class Ending
     Failed         ///< a command did not take an answer, or said why it cannot
 };
 
-/// Runs the arguments. What is left over behind a command, because it asked for less or has ended at an answer that it
-/// does not take, is told.
+/// An answer that is not taken is told, and the next one answers the same prompt: programs answer questions that are
+/// not asked everywhere. When it is the last one, nobody knows what the program is about, and the command ends.
+bool endsRefused(Document &document)
+{
+    CommandRun *command = document.pendingCommand();
+    if (!command || !command->wasRefused())
+        return false;
+    command->refuse();
+    return true;
+}
+
+/// Runs the arguments. What is left over behind a command, because it asked for less or has failed, is told.
 Ending runArguments(Arguments &args)
 {
     Document &document = documentOf(args);
@@ -149,6 +159,7 @@ Ending runArguments(Arguments &args)
                 tellLeftOver(args, i + 1);
             return Ending::NoSuchCommand;
         }
+        isLost = isLost || (i + 1 == args.size() && endsRefused(document));
         dropWhenDone(document);
         ending = isLost ? Ending::Failed : ending;
         if (isLost && i + 1 < args.size())
@@ -160,9 +171,10 @@ Ending runArguments(Arguments &args)
 // (command argument ...) -> nil. Starts a command, by its name or an alias, and answers its prompts: text,
 // numbers, points in user coordinates, entity names, selection sets; "\\" has the user answer. A built-in command that
 // is not complete goes on with the next call; one that a module brought asks the user for what is missing. Without
-// arguments, or with nil, the command under way is cancelled. A name that is no command is told to the user, and so are
-// arguments that nothing asked for: those behind an answer that the command does not take, which ends it with nothing
-// done, and those behind a complete command that are no command's name.
+// arguments, or with nil, the command under way is cancelled. An answer that a prompt does not take is told, and the
+// next one answers the same prompt; behind the last one the command ends with nothing done. A name that is no command
+// is told to the user, and so are arguments that nothing asked for: those behind a complete command that are no
+// command's name.
 Value command(Arguments &args)
 {
     if (args.size() == 0)
@@ -171,7 +183,7 @@ Value command(Arguments &args)
     return {};
 }
 
-// (vl-cmdf argument ...) -> T, nil when a name was no command or an answer was not taken. As (command).
+// (vl-cmdf argument ...) -> T, nil when a name was no command or the last answer was not taken. As (command).
 Value vlCmdf(Arguments &args)
 {
     if (args.size() == 0)

@@ -162,3 +162,5 @@
 (defun half-circle () (line 0 0 4 0) (entmake '((0 . "ARC") (10 2.0 0.0 0.0) (40 . 2.0) (50 . 0.0) (51 . 3.141592653589793))))
 (defun wave () (entmake '((0 . "SPLINE") (100 . "AcDbEntity") (100 . "AcDbSpline") (70 . 8) (71 . 2) (72 . 7) (73 . 4) (74 . 0) (40 . 0.0) (40 . 0.0)
   (40 . 0.0) (40 . 1.0) (40 . 2.0) (40 . 2.0) (40 . 2.0) (10 0.0 0.0 0.0) (10 1.0 2.0 0.0) (10 3.0 2.0 0.0) (10 4.0 0.0 0.0))) (line 4 0 0 0))
+(defun pair () (line 0 0 1 0) (line 5 5 6 6) (command "-GROUP" "C" "Pair" "" "ALL" ""))
+(defun begins () (mapcar '(lambda (e) (cadr (assoc 10 (entget e)))) (after nil)))

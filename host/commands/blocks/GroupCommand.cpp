@@ -1,5 +1,6 @@
 #include "host/commands/Commands.h"
 #include "host/commands/common/EntityEdits.h"
+#include "host/commands/common/ObjectChoice.h"
 #include "host/drawing/editing/EntityGroups.h"
 #include "host/drawing/editing/RenameLayer.h"
 #include "host/drawing/selection/Wildcard.h"
@@ -80,7 +81,8 @@ Dialogue<bool> createGroupByName(CommandContext &context)
 /// Add and Remove.
 Dialogue<bool> changeMembers(CommandContext &context, EntityGroup group, bool isAdding)
 {
-    const PromptReply chosen = co_await context.selection();
+    const ObjectChoice chosen =
+        co_await askObjects(context, u"Select objects: "_s, {}, ChoiceEnd::EmptyAnswer, PickReach::Alone);
     for (const RecordId id : chosen.entities) {
         std::erase(group.members, id);
         if (isAdding)

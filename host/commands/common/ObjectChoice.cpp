@@ -5,10 +5,13 @@
 
 namespace host::kernel {
 
-Dialogue<ObjectChoice> askObjects(CommandContext &context, QString prompt, QStringList options, ChoiceEnd end)
+Dialogue<ObjectChoice> askObjects(CommandContext &context, QString prompt, QStringList options, ChoiceEnd end,
+                                  PickReach reach)
 {
     SelectionBuilder builder(context.document());
     builder.setPrompt(u'\n' + prompt);
+    if (reach == PickReach::Alone)
+        builder.setAlone();
     QString option;
     while (!builder.isDone() && option.isEmpty()) {
         PromptRequest request = builder.request();
@@ -16,10 +19,12 @@ Dialogue<ObjectChoice> askObjects(CommandContext &context, QString prompt, QStri
         if (takesOptions)
             request.keywords = options + request.keywords;
         const PromptReply reply = co_await context.ask(std::move(request));
-        if (takesOptions && reply.kind == ReplyKind::Keyword && options.contains(reply.text))
+        if (takesOptions && reply.kind == ReplyKind::Keyword && options.contains(reply.text)) {
             option = reply.text;
-        else
+        } else {
+            builder.setAnsweredByProgram(context.isAnsweredByProgram());
             builder.add(reply);
+        }
         const bool isBetween = builder.request().kind == PromptKind::Selection;
         if (end == ChoiceEnd::FirstOfProgram && context.isAnsweredByProgram() && isBetween &&
             !builder.entities().empty())

@@ -278,7 +278,13 @@ void Document::printPrompt(const QString &text)
         return;
     m_session.editor().sysVarWillChange(m_database.get(), QStringLiteral("LASTPROMPT"));
     m_variables->setInternally(u"LASTPROMPT", text.trimmed());
-    print(text);
+    mutter(text);
+}
+
+void Document::mutter(const QString &text)
+{
+    if (m_variables->integer(u"NOMUTT") == 0)
+        print(text);
 }
 
 QString Document::findFile(const QString &asked) const

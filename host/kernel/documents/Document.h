@@ -186,6 +186,8 @@ public:
     /// Prints on the command line as it is.
     /// Where nobody listens to printed(), the text is lost.
     void print(const QString &text);
+    /// Prints what is said by the way: what was found, why an answer is refused. NOMUTT silences it, and prompts.
+    void mutter(const QString &text);
     /// Prints a prompt and keeps it as LASTPROMPT.
     void printPrompt(const QString &text);
 

@@ -21,6 +21,27 @@ using drawing::Vec3;
 constexpr qint32 pickMissed = 7;
 constexpr qint32 emptyAnswer = 52;
 
+/// Of prompts that have options beside what they ask for; empty of the others.
+QString refusalWithOptions(PromptKind kind)
+{
+    switch (kind) {
+    case PromptKind::Integer:
+        return QStringLiteral("Requires an integer value or option keyword.");
+    case PromptKind::Real:
+        return QStringLiteral("Requires numeric value or option keyword.");
+    case PromptKind::Distance:
+        return QStringLiteral("Requires numeric distance, two points, or option keyword.");
+    case PromptKind::Angle:
+    case PromptKind::Orientation:
+        return QStringLiteral("Requires valid numeric angle, two points, or option keyword.");
+    case PromptKind::Point:
+    case PromptKind::Corner:
+        return QStringLiteral("Point or option keyword required.");
+    default:
+        return {};
+    }
+}
+
 QString refusalText(PromptKind kind)
 {
     switch (kind) {
@@ -36,8 +57,8 @@ QString refusalText(PromptKind kind)
     case PromptKind::Keyword:
         return QStringLiteral("Invalid option keyword.");
     case PromptKind::Selection:
-        return QStringLiteral("Expects a point or Window/Last/Crossing/BOX/ALL/Fence/WPolygon/CPolygon/Add/Remove/"
-                              "Previous/Undo/Single.");
+        return QStringLiteral("Expects a point or Window/Last/Crossing/BOX/ALL/Fence/WPolygon/CPolygon/Group/Add/"
+                              "Remove/Multiple/Previous/Undo/AUto/SIngle.");
     case PromptKind::Command:
     case PromptKind::String:
     case PromptKind::Event:
@@ -80,7 +101,7 @@ std::optional<PromptReply> PromptDialogue::offer(const InputAnswer &answer)
     const Reading reading = std::visit([this](const auto &given) { return read(given); }, answer);
     m_wasRefused = !reading.refusal.isEmpty();
     if (m_wasRefused)
-        m_document.print(u'\n' + reading.refusal);
+        m_document.mutter(u'\n' + reading.refusal);
     return reading.reply;
 }
 
@@ -282,6 +303,7 @@ PromptDialogue::Reading PromptDialogue::read(const EntitiesAnswer &answer)
     PromptReply reply;
     reply.entities = answer.entities;
     reply.steps = answer.steps;
+    reply.isSet = true;
     std::erase_if(reply.entities, [this](drawing::RecordId id) { return !m_document.drawing().isAlive(id); });
     return {reply, {}};
 }
@@ -299,7 +321,8 @@ PromptDialogue::Reading PromptDialogue::read(const WindowAnswer &answer)
 
 PromptDialogue::Reading PromptDialogue::refuse() const
 {
-    return {{}, refusalText(m_request.kind)};
+    const QString withOptions = m_request.keywords.isEmpty() ? QString() : refusalWithOptions(m_request.kind);
+    return {{}, withOptions.isEmpty() ? refusalText(m_request.kind) : withOptions};
 }
 
 bool PromptDialogue::isOutsideLimits(const Vec3 &world) const

@@ -26,14 +26,17 @@ struct PromptReply
     bool isRefused = false;                        ///< Cancelled: by an answer that the prompt does not take
     bool isMiss = false;                           ///< Entity: empty because nothing was where the user picked
     bool isShown = false;                          ///< Distance, Angle, Orientation: by points rather than typed
+    bool isSet = false;                            ///< Selection: of entities chosen before, to be taken as they are
     bool isWindow = false;                         ///< Selection: two corners follow in `point` and `corner`
     drawing::Vec3 corner;
 
     bool hasValue() const { return kind == ReplyKind::Value; }
     bool isEmpty() const { return kind == ReplyKind::Empty; }
+    /// Whether this option was chosen; of a prompt for a keyword alone it is the value.
     bool isKeyword(QStringView keyword) const
     {
-        return kind == ReplyKind::Keyword && text.compare(keyword, Qt::CaseInsensitive) == 0;
+        const bool hasWord = kind == ReplyKind::Keyword || kind == ReplyKind::Value;
+        return hasWord && text.compare(keyword, Qt::CaseInsensitive) == 0;
     }
 };
 

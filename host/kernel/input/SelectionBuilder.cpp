@@ -4,6 +4,7 @@
 #include "host/kernel/documents/CurrentSpace.h"
 #include "host/kernel/documents/Document.h"
 #include "host/kernel/lisp/LispConversion.h"
+#include "host/kernel/variables/SystemVariables.h"
 
 namespace host::kernel {
 
@@ -14,10 +15,10 @@ using drawing::RecordId;
 const QStringList &selectionWords()
 {
     static const QStringList words = {
-        QStringLiteral("Window"), QStringLiteral("Last"),   QStringLiteral("Crossing"), QStringLiteral("BOX"),
-        QStringLiteral("ALL"),    QStringLiteral("Fence"),  QStringLiteral("WPolygon"), QStringLiteral("CPolygon"),
-        QStringLiteral("Add"),    QStringLiteral("Remove"), QStringLiteral("Previous"), QStringLiteral("Undo"),
-        QStringLiteral("Single")};
+        QStringLiteral("Window"),   QStringLiteral("Last"),  QStringLiteral("Crossing"), QStringLiteral("BOX"),
+        QStringLiteral("ALL"),      QStringLiteral("Fence"), QStringLiteral("WPolygon"), QStringLiteral("CPolygon"),
+        QStringLiteral("Group"),    QStringLiteral("Add"),   QStringLiteral("Remove"),   QStringLiteral("Multiple"),
+        QStringLiteral("Previous"), QStringLiteral("Undo"),  QStringLiteral("AUto"),     QStringLiteral("SIngle")};
     return words;
 }
 
@@ -42,7 +43,7 @@ SelectionStep shapeStep(const Document &document, ShapeKind kind, const std::vec
 }
 
 SelectionBuilder::SelectionBuilder(Document &document, SelectionSize size, std::function<bool(RecordId)> accepts)
-    : m_document(document), m_size(size), m_accepts(std::move(accepts))
+    : m_document(document), m_size(size), m_accepts(std::move(accepts)), m_companions(document)
 {
 }
 
@@ -61,8 +62,13 @@ PromptRequest SelectionBuilder::request() const
     PromptRequest request;
     request.forCommand = true;
     request.bits = OutsideLimits;
-    if (!m_entities.empty())
+    if (!m_entities.empty() && m_document.variables().integer(u"HIGHLIGHT", 1) != 0)
         request.chosen = std::make_shared<const std::vector<RecordId>>(m_entities);
+    if (m_isByNames) {
+        request.kind = PromptKind::String;
+        request.prompt = QStringLiteral("\nEnter group name: ");
+        return request;
+    }
     if (!m_shape) {
         request.kind = PromptKind::Selection;
         request.prompt = m_isRemoving ? QStringLiteral("\nRemove objects: ") : m_prompt;
@@ -88,14 +94,18 @@ void SelectionBuilder::add(const PromptReply &reply)
     }
     if (m_shape)
         addShapePoint(reply);
+    else if (m_isByNames)
+        addGroup(reply);
     else
         addIdle(reply);
 }
 
 void SelectionBuilder::addIdle(const PromptReply &reply)
 {
+    // Programs mean a window by two points whatever PICKAUTO is; the user may have it otherwise.
+    const bool startsWindow = m_isByProgram || (m_document.variables().integer(u"PICKAUTO", 5) & 1) != 0;
     if (reply.isEmpty()) {
-        m_isDone = true;
+        m_isDone = !std::exchange(m_isMultiple, false);
     } else if (reply.kind == ReplyKind::Keyword && m_options.contains(reply.text)) {
         m_option = reply.text;
         m_isDone = true;
@@ -105,6 +115,8 @@ void SelectionBuilder::addIdle(const PromptReply &reply)
         m_shape = reply.corner.x < reply.point.x ? ShapeKind::Crossing : ShapeKind::Window;
         m_corners = {reply.point, reply.corner};
         finishShape();
+    } else if (reply.entities.empty() && !reply.isSet && (m_isMultiple || !startsWindow)) {
+        tellFound(0);
     } else if (reply.entities.empty()) {
         // Nothing at the picked point: it is the first corner of a window.
         m_shape = ShapeKind::Window;
@@ -119,9 +131,12 @@ void SelectionBuilder::addIdle(const PromptReply &reply)
 void SelectionBuilder::takeAnswered(const PromptReply &reply)
 {
     const bool isKept = reply.steps && !m_isRemoving;
-    take(reply.entities, {.way = isKept ? SelectionStep::Way::Other : SelectionStep::Way::Pick,
-                          .points = isKept ? std::vector<drawing::Vec3>() : std::vector{reply.point},
-                          .entities = {}});
+    if (!reply.isSet)
+        startOver();
+    take(reply.isSet ? reply.entities : withCompanions(reply.entities),
+         {.way = isKept ? SelectionStep::Way::Other : SelectionStep::Way::Pick,
+          .points = isKept ? std::vector<drawing::Vec3>() : std::vector{reply.point},
+          .entities = {}});
     if (isKept)
         m_steps.insert(m_steps.end(), reply.steps->begin(), reply.steps->end());
 }
@@ -145,17 +160,53 @@ void SelectionBuilder::addWord(const QString &word)
         take(all.empty() ? all : std::vector<RecordId>{all.back()});
     } else if (word == QStringLiteral("Previous")) {
         take(m_document.previousSelection());
-    } else if (word == QStringLiteral("Single")) {
+    } else if (word == QStringLiteral("SIngle")) {
         m_size = SelectionSize::Single;
-    } else if (word == QStringLiteral("Undo") && !m_before.empty()) {
-        m_entities = std::move(m_before.back());
-        m_before.pop_back();
-        m_members.clear();
-        for (RecordId id : m_entities)
-            m_members.insert(quint32(id));
+    } else if (word == QStringLiteral("Group")) {
+        m_isByNames = true;
+    } else if (word == QStringLiteral("Multiple")) {
+        m_isMultiple = true;
+    } else if (word == QStringLiteral("AUto")) {
+        m_isMultiple = false;
+    } else if (word == QStringLiteral("Undo")) {
+        undoStep();
     } else {
         m_isRemoving = word == QStringLiteral("Remove");
+        m_isAdding = !m_isRemoving;
     }
+}
+
+void SelectionBuilder::undoStep()
+{
+    if (m_before.empty())
+        return m_document.mutter(QStringLiteral("\nCommand has been completely undone."));
+    m_entities = std::move(m_before.back());
+    m_before.pop_back();
+    m_members.clear();
+    for (RecordId id : m_entities)
+        m_members.insert(quint32(id));
+}
+
+/// Asked again while there is no group of that name; nothing gives it up.
+void SelectionBuilder::addGroup(const PromptReply &reply)
+{
+    const QString name = reply.hasValue() ? reply.text.trimmed() : QString();
+    const std::optional<std::vector<RecordId>> members = m_companions.group(name);
+    m_isByNames = !members && !name.isEmpty();
+    if (members)
+        take(*members);
+    else if (m_isByNames)
+        m_document.mutter(QStringLiteral("\nCannot find group \"%1\".").arg(name));
+}
+
+/// With PICKADD 0 a user's pick or window takes the place of what was chosen before.
+void SelectionBuilder::startOver()
+{
+    if (m_isByProgram || m_isRemoving || m_isAdding || m_isMultiple ||
+        m_document.variables().integer(u"PICKADD", 2) != 0)
+        return;
+    m_before.push_back(std::exchange(m_entities, {}));
+    m_members.clear();
 }
 
 void SelectionBuilder::addShapePoint(const PromptReply &reply)
@@ -180,7 +231,8 @@ void SelectionBuilder::finishShape()
         kind = m_corners[1].x < m_corners[0].x ? ShapeKind::Crossing : ShapeKind::Window;
     m_shape.reset();
     m_shapeByDirection = false;
-    const std::vector<RecordId> found = Picker(m_document).inShape(kind, m_corners);
+    startOver();
+    const std::vector<RecordId> found = withCompanions(Picker(m_document).inShape(kind, m_corners));
     SelectionStep step = shapeStep(m_document, kind, m_corners);
     if (!m_isRemoving)
         step.found = found;
@@ -207,11 +259,22 @@ void SelectionBuilder::take(const std::vector<RecordId> &found, SelectionStep st
     std::erase_if(m_entities, [&](RecordId id) { return removed.contains(quint32(id)); });
     if (!step.entities.empty() || !step.found.empty())
         m_steps.push_back(std::move(step));
-    m_document.print(m_before.back().empty()
-                         ? QStringLiteral("\n%1 found").arg(count)
-                         : QStringLiteral("\n%1 found, %2 total").arg(count).arg(m_entities.size()));
+    tellFound(count);
     if (m_size == SelectionSize::Single && count > 0)
         m_isDone = true;
+}
+
+std::vector<RecordId> SelectionBuilder::withCompanions(std::vector<RecordId> picked)
+{
+    return m_isAlone ? picked : m_companions.withCompanions(picked);
+}
+
+void SelectionBuilder::tellFound(int count) const
+{
+    const bool isFirst = m_before.empty() || m_before.back().empty();
+    if (!m_isByProgram || m_document.variables().integer(u"CMDECHO", 1) != 0)
+        m_document.mutter(isFirst ? QStringLiteral("\n%1 found").arg(count)
+                                  : QStringLiteral("\n%1 found, %2 total").arg(count).arg(m_entities.size()));
 }
 
 } // namespace host::kernel

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/kernel/input/PickCompanions.h"
 #include "host/kernel/input/Picker.h"
 #include "host/kernel/input/PromptReply.h"
 #include "host/kernel/input/SelectionStep.h"
@@ -37,6 +38,11 @@ public:
     void setOptions(const QStringList &options) { m_options = options; }
     /// The one of them that was given; empty for none.
     const QString &option() const { return m_option; }
+    /// Whether a program's (command) gives the next replies. What a user finds is told whatever CMDECHO is, and picks
+    /// replace what was chosen before when PICKADD is 0.
+    void setAnsweredByProgram(bool isByProgram) { m_isByProgram = isByProgram; }
+    /// Picks choose what is picked alone, whatever PICKSTYLE is.
+    void setAlone() { m_isAlone = true; }
     /// The request for the next step, with its prompt.
     PromptRequest request() const;
     /// Puts a reply in and tells the user how many were found.
@@ -55,8 +61,13 @@ private:
     void takeAnswered(const PromptReply &reply);
     void addShapePoint(const PromptReply &reply);
     void addWord(const QString &word);
+    void addGroup(const PromptReply &reply);
+    void undoStep();
+    void startOver();
     void finishShape();
     void take(const std::vector<drawing::RecordId> &found, SelectionStep step = {});
+    void tellFound(int count) const;
+    std::vector<drawing::RecordId> withCompanions(std::vector<drawing::RecordId> picked);
     bool isPolygon() const;
 
     Document &m_document;
@@ -72,7 +83,13 @@ private:
     bool m_shapeByDirection = false; ///< window or crossing, depending on where the second corner is
     std::vector<drawing::Vec3> m_corners;
     SelectionSteps m_steps;
+    PickCompanions m_companions;
     bool m_isRemoving = false;
+    bool m_isAdding = false;   ///< said so: PICKADD does not count
+    bool m_isMultiple = false; ///< places are picked until an empty answer
+    bool m_isByNames = false;  ///< a group's name is being asked for
+    bool m_isByProgram = false;
+    bool m_isAlone = false;
     bool m_isDone = false;
     bool m_isCancelled = false;
 };

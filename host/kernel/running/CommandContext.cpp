@@ -19,17 +19,18 @@ drawing::Drawing &CommandContext::drawing()
 
 void CommandContext::print(const QString &text)
 {
-    m_document.print(text);
+    m_document.mutter(text);
 }
 
 void CommandContext::fail(const QString &reason)
 {
-    print(u'\n' + reason);
+    m_document.print(u'\n' + reason);
     m_hasFailed = true;
 }
 
 bool CommandContext::refuse(const QString &reason)
 {
+    m_isRefused = true;
     if (m_isAnsweredAhead)
         fail(reason);
     else

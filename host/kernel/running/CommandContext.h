@@ -60,8 +60,8 @@ public:
     /// Prints why the command ends without having done what it was asked for; what it has changed is taken back then.
     /// The body ends behind it.
     void fail(const QString &reason);
-    /// Prints why an answer cannot be taken. True when the command fails with that, as the answers come from a program
-    /// or script; false when the user is there to be asked again.
+    /// Prints why an answer cannot be taken. True when the command fails with that, as more was typed behind it; false
+    /// when it is asked for again: the user is there, or a Lisp program's next answer may do.
     bool refuse(const QString &reason);
     bool hasFailed() const { return m_hasFailed; }
     /// Whether the last answer was an argument of a Lisp program's (command).
@@ -129,7 +129,8 @@ private:
     PromptReply m_reply;               ///< what it gets when it goes on
     std::coroutine_handle<> m_waiting; ///< the body, or the part of it, that stopped for the reply
     bool m_hasFailed = false;
-    bool m_isAnsweredAhead = false; ///< the last answer came from a program, or more is typed behind it
+    bool m_isRefused = false;       ///< the body did not take the last answer
+    bool m_isAnsweredAhead = false; ///< more is typed behind the last answer
     bool m_isAnsweredByProgram = false;
     std::optional<SelectionBuilder> m_selection;                    ///< while a selection grows
     std::shared_ptr<const std::vector<drawing::RecordId>> m_chosen; ///< of the last selection

@@ -47,12 +47,18 @@ void CommandRun::offer(const InputAnswer &answer)
     if (offerInside(answer))
         return;
     echoPrompt();
-    m_context.m_isAnsweredAhead = true;
+    m_context.m_isRefused = false;
+    m_context.m_isAnsweredAhead = false;
     m_context.m_isAnsweredByProgram = true;
     if (std::optional<PromptReply> given = m_dialogue->offer(answer))
         reply(std::move(*given));
-    else if (m_dialogue->wasRefused())
-        refuse();
+}
+
+bool CommandRun::wasRefused() const
+{
+    if (isDone())
+        return false;
+    return m_inside ? m_inside->wasRefused() : m_context.m_isRefused || m_dialogue->wasRefused();
 }
 
 bool CommandRun::offerInside(const InputAnswer &answer)
@@ -83,6 +89,7 @@ void CommandRun::askUser()
         return leaveInside();
     }
     PromptReply given = m_document.prompts().ask(*m_dialogue, UserInput::WhenRefused::EndBeforeMore);
+    m_context.m_isRefused = false;
     m_context.m_isAnsweredByProgram = false;
     m_context.m_isAnsweredAhead = !m_document.session().input().isEmpty();
     reply(std::move(given));
@@ -111,6 +118,7 @@ void CommandRun::reply(PromptReply given)
 bool CommandRun::growSelection(PromptReply &reply)
 {
     std::optional<SelectionBuilder> &selection = m_context.m_selection;
+    selection->setAnsweredByProgram(m_context.m_isAnsweredByProgram);
     selection->add(reply);
     if (!selection->isDone()) {
         standAt(selection->request());
@@ -176,6 +184,7 @@ void CommandRun::cancel()
 
 void CommandRun::refuse()
 {
+    m_inside.reset();
     m_context.m_hasFailed = true;
     finish();
     m_document.undoSteps().takeBackTo(m_start);
@@ -184,8 +193,13 @@ void CommandRun::refuse()
 
 void CommandRun::echoPrompt()
 {
-    if (m_document.variables().integer(u"CMDECHO", 1) != 0)
+    if (isEchoing())
         m_document.printPrompt(m_dialogue->request().prompt);
+}
+
+bool CommandRun::isEchoing() const
+{
+    return m_document.variables().integer(u"CMDECHO", 1) != 0;
 }
 
 } // namespace host::kernel

@@ -35,10 +35,14 @@ public:
     bool hasFailed() const { return m_context.hasFailed(); }
     /// The prompt it waits at, or that of a command in the middle of it. Not to be asked when it is done.
     const PromptRequest &request() const { return m_inside ? m_inside->request() : m_dialogue->request(); }
-    /// An answer to the prompt it waits at, as a Lisp program gives it. One that the prompt does not take ends the
-    /// command, and what it did is taken back. One that calls another command in the middle of the prompt has the
+    /// An answer to the prompt it waits at, as a Lisp program gives it. One that is not taken is told, and the prompt
+    /// waits for the next. One that calls another command in the middle of the prompt has the
     /// answers behind it go there until that has ended.
     void offer(const InputAnswer &answer);
+    /// Whether the answer that it got last was not taken, so that it still asks.
+    bool wasRefused() const;
+    /// Ends it because of an answer that was not taken: all that it did is taken back.
+    void refuse();
     /// Has the user answer the prompt it waits at. Blocks until there is an answer; a refused one is asked for again.
     void askUser();
     /// Has the user answer all that is still asked. Afterwards it is done.
@@ -61,9 +65,8 @@ private:
     void finish();
     /// Ends it at a prompt; what stays says its row.
     void cancel();
-    /// Ends it because of an answer that the prompt does not take: all that it did is taken back.
-    void refuse();
     void echoPrompt();
+    bool isEchoing() const;
 
     Document &m_document;
     const CommandRow &m_row;

@@ -27,7 +27,7 @@
 (length (shapes)) ;= 1
 (command "LINE" '(0 0))(setq name (getvar "CMDNAMES"))(car 5) ;= error: bad argument type: listp 5 in (CAR), argument 1
 (list name (getvar "CMDNAMES") (length (shapes))) ;= ("LINE" "" 1)
-(command "LINE" '(0 0) '(1 0) "nonsense" '(1 0) "")(length (shapes)) ;= 1
+(command "LINE" '(0 0) '(1 0) "nonsense")(length (shapes)) ;> LINE has ended, nothing was changed ;= 1
 (command "NOSUCH" '(0 0)) ;> Unknown command "NOSUCH". ;= nil
 (command "_.-INSERT" "nosuch" '(1 1) 1 1 0)(length (shapes)) ;> Cannot find block or file "nosuch". ;= 1
 
@@ -154,3 +154,19 @@ a ;! (setq a (+ 1 2))\n!a\n ;> \n3 ;= 3
 ; One is left: what stays is sorted as the handle of the other.
 (command "_.POINT" '(1 1) "_.POINT" '(2 2) "_.-GROUP" "_C" "Pair" "" "_ALL" "" "_.DRAWORDER" "_L" "" "_B")(setq e (entlast) listed (cdr (assoc 5 (entget e))))(mentions "listed.dxf") ;= 4
 (entdel e)(list (mentions "gone.dxf") (progn (entdel e) (mentions "back.dxf"))) ;= (1 4)
+; The next argument answers a prompt that did not take one: what is superfluous or unknown does no harm.
+(setvar "CMDECHO" 0)(command "_.-LINETYPE" "_Load" "DASHED" "acad.lin" "_Y" "")(list (getvar "CMDACTIVE") (cdr (assoc 2 (tblsearch "LTYPE" "dashed")))) ;> Invalid option keyword. ;= (0 "DASHED")
+(command "_.LINE" '(7 7) "nonsense" '(8 7) "")(list (getvar "CMDACTIVE") (field 10) (field 11)) ;> Point or option keyword required. ;= (0 (7.0 7.0 0.0) (8.0 7.0 0.0))
+(command "_.U")(equal (field 10) '(7.0 7.0 0.0)) ;= nil
+(command "_.-LAYER" "_M" "Made" "_L" "DOESNOTEXIST" "" "_C" 1 "" "")(list (getvar "CMDACTIVE") (getvar "CLAYER")) ;= (0 "Made")
+(command "_.-LAYER" "_S" "Nowhere" "_S" "0" "")(list (getvar "CMDACTIVE") (getvar "CLAYER")) ;> Cannot find layer "Nowhere". ;= (0 "0")
+(setq e (entlast))(list (vl-cmdf "_.LINE" '(3 3) '(4 4) "nonsense") (getvar "CMDACTIVE") (eq e (entlast))) ;> nothing was changed ;= (nil 0 T)
+(vl-cmdf "_.CIRCLE" '(3 3) "nonsense" -1 2) ;= T
+(list (field 0) (field 40)) ;= ("CIRCLE" 2.0)
+(command-s "_.CIRCLE" '(3 3) "nonsense") ;= error: the command has failed in (COMMAND-S)
+; What was found is told where prompts are, and NOMUTT silences both
+(princ "<")(command "_.SELECT" "_L" "")(princ ">") ;> <> ;= ">"
+(setvar "CMDECHO" 1)(princ "<")(command "_.SELECT" "_L" "") ;> 1 found ;= nil
+(setvar "NOMUTT" 1)(princ "<")(command "_.SELECT" "_L" "")(princ ">") ;> <> ;= ">"
+(setvar "NOMUTT" 0) ;= 0
+

@@ -88,3 +88,17 @@
 (types (ssget "C" '(610 10) '(620 30))) ;= ("DIMENSION")
 (types (ssget "W" '(590 -10) '(650 40))) ;= ("DIMENSION")
 (ssget "C" '(700 10) '(720 30)) ;= nil
+
+; With PICKSTYLE 2 an associative hatch brings its boundary, with 0 nothing. An entity that a program names brings its
+; group, a set is what it is.
+(command "_.ERASE" (ssget "X") "" "_.RECTANG" '(0 0) '(4 4) "_.-HATCH" "_P" "_S" "_S" "_L" "" "")(setvar "PICKSTYLE" 2) ;= 2
+(command "_.SELECT" (entlast) "")(types (ssget "P")) ;= ("HATCH" "LWPOLYLINE")
+(setvar "PICKSTYLE" 0)(command "_.SELECT" (entlast) "")(types (ssget "P")) ;= ("HATCH")
+(setvar "PICKSTYLE" 1)(command "_.POINT" '(9 9) "_.-GROUP" "_C" "Three" "" "_ALL" "" "_.SELECT" (entlast) "")(count (ssget "P")) ;= 3
+(command "_.SELECT" (ssget '(9 9)) "")(count (ssget "P")) ;= 1
+; A user's pick takes the place of those before it when PICKADD is 0, unless it is added
+(setvar "PICKSTYLE" 0)(setvar "PICKADD" 0)(command "_.POINT" '(20 20)) ;= nil
+(types (ssget "P")) ;! SELECT\n9,9\n0,0\n\n ;= ("HATCH")
+(count (ssget "P")) ;! SELECT\n9,9\nA\n20,20\n\n ;= 2
+(setvar "PICKADD" 2)(setvar "PICKAUTO" 0) ;= 0
+(count (ssget "P")) ;! SELECT\n9,9\n15,15\n20,20\n\n ;= 2

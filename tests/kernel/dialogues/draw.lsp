@@ -7,7 +7,7 @@
 ;! CIRCLE|3P|1,0|0,1|-1,0 ;= CIRCLE 10=0,0,0 40=1
 ;! CIRCLE|3P|0,0|1,1|2,2 ;> the points lie in one line ;=
 ;! CIRCLE|2P|3,3|3,3 ;> Circle does not exist ;=
-;! CIRCLE|5P|0,0|10,0 ;> Invalid point ;=
+;! CIRCLE|5P ;> Point or option keyword required ;=
 ;! CIRCLE|0,0|-3 ;> must not be negative ;=
 (line 0 0 10 0)(line 0 0 0 10) ;! CIRCLE|T|5,0|0,5|2
 ;= LINE 10=0,0,0 11=10,0,0; LINE 10=0,0,0 11=0,10,0; CIRCLE 10=2,2,0 40=2

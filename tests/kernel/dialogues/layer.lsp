@@ -10,7 +10,7 @@
 ;= ("New name" nil)
 ;! -LAYER|R|0|New| ;> Layer "0" cannot be renamed ;? (tblsearch "LAYER" "New") ;= nil
 (on-layer "B") ;! -LAYER|S||1.5,1.5| ;? (getvar "CLAYER") ;= "B"
-(layer-a) ;! -LAYER|C|3|A|L|Nowhere|A| ;> Linetype "Nowhere" not found ;? (layer "A") ;= (0 7 "Continuous" -3 nil nil)
-(layer-a) ;! -LAYER|C|3|A|Colour|4|A| ;> Invalid option keyword ;? (layer "A") ;= (0 7 "Continuous" -3 nil nil)
-(layer-a) ;! -LAYER|C|3|A|A|S|x| ;> does not keep layer states ;? (layer "A") ;= (0 7 "Continuous" -3 nil nil)
+(layer-a) ;! -LAYER|C|3|A|L|Nowhere ;> Linetype "Nowhere" not found ;? (layer "A") ;= (0 7 "Continuous" -3 nil nil)
+(layer-a) ;! -LAYER|C|3|A|Colour ;> Invalid option keyword ;? (layer "A") ;= (0 7 "Continuous" -3 nil nil)
+(layer-a) ;! -LAYER|C|3|A|A|S|x ;> does not keep layer states ;? (layer "A") ;= (0 7 "Continuous" -3 nil nil)
 ;! -LAYER|N|A/B| ;> cannot be the name of a layer ;? (tblsearch "LAYER" "A/B") ;= nil

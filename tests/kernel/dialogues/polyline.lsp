@@ -11,4 +11,4 @@
 ;! PLINE|0,0|W|1|3|10,0|U|5,0| ;= LWPOLYLINE 10=0,0 40=1 41=3 10=5,0
 ;! PLINE|0,0|0,5|L|5| ;= LWPOLYLINE 10=0,0 10=0,5 10=0,10
 (turned) ;! PLINE|0,0|10,0|A|10,10| ;= LWPOLYLINE 10=10,20 10=10,30 42=1 10=0,30
-;! PLINE|0,0|10,0|Spline|20,0| ;> Invalid point ;=
+;! PLINE|0,0|10,0|Spline ;> Point or option keyword required ;=
