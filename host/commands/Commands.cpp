@@ -74,6 +74,7 @@ std::vector<CommandRow> builtInCommands()
              matchCommands(),
              mirrorCommands(),
              mlineCommands(),
+             multiLeaderCommands(),
              namedViewCommands(),
              offsetCommands(),
              overkillCommands(),

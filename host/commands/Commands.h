@@ -53,6 +53,7 @@ std::vector<CommandRow> linetypeCommands();
 std::vector<CommandRow> matchCommands();
 std::vector<CommandRow> mirrorCommands();
 std::vector<CommandRow> mlineCommands();
+std::vector<CommandRow> multiLeaderCommands();
 std::vector<CommandRow> namedViewCommands();
 std::vector<CommandRow> offsetCommands();
 std::vector<CommandRow> overkillCommands();

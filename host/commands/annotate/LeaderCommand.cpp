@@ -1,6 +1,5 @@
 #include "host/commands/Commands.h"
 #include "host/commands/annotate/DimensionDialogues.h"
-#include "host/commands/annotate/NewMultiLeader.h"
 #include "host/drawing/annotation/StyleValues.h"
 #include "host/drawing/geometry/TransformEntity.h"
 #include "host/drawing/math/Angles.h"
@@ -282,36 +281,6 @@ CommandTask quickLeader(CommandContext &context)
         addLeaderText(context, made, draft, text, width.hasValue() ? width.real : 0.0);
 }
 
-// The arrow, the landing and the text, in the order that an option says.
-CommandTask multiLeader(CommandContext &context)
-{
-    const QString arrowPrompt = u"Specify leader arrowhead location"_s;
-    const QString landingPrompt = u"Specify leader landing location"_s;
-    PromptReply first = co_await context.neededPoint(arrowPrompt + u" or [leader Landing first/Content first]: "_s, {},
-                                                     u"Landing Content"_s);
-    const bool isLandingFirst = first.isKeyword(u"Landing");
-    const bool isContentFirst = first.isKeyword(u"Content");
-    QString content;
-    if (isContentFirst) {
-        first = co_await context.neededPoint(u"Specify first corner of text: "_s);
-        const PromptReply corner = co_await context.neededPoint(u"Specify opposite corner: "_s, first.point);
-        const PromptReply text = co_await context.text(u"Enter text: "_s);
-        content = text.text;
-    } else if (isLandingFirst) {
-        first = co_await context.neededPoint(landingPrompt + u": "_s);
-    }
-    const bool isArrowNext = isLandingFirst || isContentFirst;
-    const QString nextPrompt = (isArrowNext ? arrowPrompt : landingPrompt) + u": "_s;
-    const PromptReply second = co_await context.neededPoint(nextPrompt, first.point);
-    if (!isContentFirst) {
-        const PromptReply text = co_await context.text(u"Enter text: "_s);
-        content = text.text;
-    }
-    const Vec3 arrow = isArrowNext ? second.point : first.point;
-    const Vec3 landing = isArrowNext ? first.point : second.point;
-    createMultiLeader(context, arrow, landing, content);
-}
-
 } // namespace
 
 Dialogue<bool> drawDimensionLeader(CommandContext &context, QString usualText)
@@ -342,7 +311,6 @@ Dialogue<bool> drawDimensionLeader(CommandContext &context, QString usualText)
 std::vector<CommandRow> leaderCommands()
 {
     return {{"LEADER", leader, "Draws a line from a feature to a note"},
-            {"MLEADER", multiLeader, "Draws an arrow with a note as one entity"},
             {"QLEADER", quickLeader, "Draws a line of up to three points with a text"}};
 }
 

@@ -1,5 +1,6 @@
 #include "host/drawing/geometry/TransformFields.h"
 
+#include "host/drawing/geometry/MultiLeaderFields.h"
 #include "host/drawing/math/Angles.h"
 #include "host/drawing/text/ParagraphText.h"
 
@@ -374,6 +375,7 @@ constexpr std::pair<QStringView, FieldsFunction> transformFunctions[] = {
     {u"DIMENSION", transformDimension},
     {u"ARC_DIMENSION", transformArcDimension},
     {u"LARGE_RADIAL_DIMENSION", transformDimension},
+    {u"MULTILEADER", transformMultiLeader},
     {u"HATCH", transformHatchOf},
     {u"VIEWPORT", transformViewport},
     {u"REGION", transformSolid},

@@ -32,7 +32,7 @@
 ;! DIM1|LEA|0,0|10,10||Note ;? (list (types) (points) (value-of 1)) ;= (("LEADER" "MTEXT") ((0.0 0.0 0.0) (10.0 10.0 0.0) (12.5 10.0 0.0)) "Note")
 (progn (command "DIMLINEAR" "0,0" "10,0" "5,5") (setvar "DIMTXT" 3.5)) ;! DIM1|UPDATE|L| ;? (cdddr (cadr (assoc -3 (entget (entlast) '("*"))))) ;= ((1070 . 140) (1040 . 3.5) (1002 . "}"))
 (command "DIMLINEAR" "0,0" "10,0" "5,5") ;! DIM1|NEWTEXT|about <>|L| ;? (value-of 1) ;= "about <>"
-(progn (command "DIMLINEAR" "0,0" "100,0" "50,5") (command "DIMTEDIT" "L" "40,7")) ;! DIM1|HOM|L| ;? (own '(70 11)) ;= (32 (50.0 6.875 0.0))
+(progn (command "DIMLINEAR" "0,0" "100,0" "50,5") (command "DIMTEDIT" "30,50" "40,70")) ;! DIM1|HOM|L| ;? (own '(70 11)) ;= (32 (50.0 6.875 0.0))
 (command "DIMLINEAR" "0,0" "10,0" "5,5") ;! DIM1|TED|3,5|4,7 ;? (own '(11 70)) ;= ((4.0 7.0 0.0) 160)
 (command "DIMLINEAR" "0,0" "10,0" "5,5") ;! DIM1|TRO|30|L| ;? (value-of 53) ;= 0.523599
 (command "DIMLINEAR" "0,0" "10,0" "5,5") ;! DIM1|OBL|L||60 ;? (value-of 52) ;= 1.0472
