@@ -287,6 +287,8 @@ void PiecePair::halve(const CurvePiece &first, const CurvePiece &second)
     const bool isFirst = firstTurn > secondTurn || (firstTurn == secondTurn && firstDeviation >= secondDeviation);
     const CurvePiece &longer = isFirst ? first : second;
     const double middle = (longer.start() + longer.end()) / 2.0;
+    if (middle <= longer.start() || middle >= longer.end())
+        return descend(first, second); // no number lies between
     for (const CurvePiece &half : {longer.part(longer.start(), middle), longer.part(middle, longer.end())})
         halve(isFirst ? half : first, isFirst ? second : half);
 }

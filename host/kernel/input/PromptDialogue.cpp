@@ -1,5 +1,6 @@
 #include "host/kernel/input/PromptDialogue.h"
 
+#include "host/drawing/math/Finite.h"
 #include "host/kernel/documents/Document.h"
 #include "host/kernel/input/AnswerFromValue.h"
 #include "host/kernel/input/Keywords.h"
@@ -231,6 +232,8 @@ PromptDialogue::Reading PromptDialogue::takePoint(const Vec3 &world)
 {
     if (m_request.kind == PromptKind::Entity || m_request.kind == PromptKind::Selection)
         return pickAt(world);
+    if (!isFinite(world))
+        return refuse();
     if (isOutsideLimits(world))
         return {{}, QStringLiteral("**Outside limits")};
     const OdGePoint3d user = m_document.worldToUser({world.x, world.y, world.z});
@@ -286,6 +289,8 @@ PromptDialogue::Reading PromptDialogue::read(const EntityAnswer &answer)
         return read(PointAnswer{answer.point, false});
     // Of a selection an erased entity is just not found.
     if (m_request.kind == PromptKind::Entity && !m_document.drawing().isAlive(answer.entity))
+        return refuse();
+    if (!isFinite(answer.point))
         return refuse();
     PromptReply reply;
     reply.entities.push_back(answer.entity);

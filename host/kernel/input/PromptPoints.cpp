@@ -1,5 +1,6 @@
 // How a prompt gets its points: typed, shown, or put together from others.
 
+#include "host/drawing/math/Finite.h"
 #include "host/kernel/documents/Document.h"
 #include "host/kernel/input/ObjectSnap.h"
 #include "host/kernel/input/PointAim.h"
@@ -155,6 +156,9 @@ std::optional<Vec3> PromptDialogue::typedPoint(const QString &text) const
 
 PromptDialogue::Reading PromptDialogue::takeGiven(const Vec3 &world, Origin origin)
 {
+    // A program may work out what is no place.
+    if (!isFinite(world))
+        return refuse();
     Vec3 place = world;
     bool isSnapped = false;
     if (const QString refusal = snap(place, origin, isSnapped); !refusal.isEmpty())

@@ -1,5 +1,6 @@
 #include "host/kernel/lisp/EntityList.h"
 
+#include "host/drawing/math/Finite.h"
 #include "host/drawing/records/Structure.h"
 #include "host/drawing/selection/Wildcard.h"
 #include "host/drawing/tags/GroupCodes.h"
@@ -99,7 +100,7 @@ drawing::FieldValue realValue(const Value &item, int code, const Value &value, A
         return isAngle ? degreesFrom(value.asReal()) : value.asReal();
     }
     const std::optional<Vec3> point = drawing::isPointCode(code) ? pointFrom(value) : std::nullopt;
-    if (!point || !std::isfinite(point->x) || !std::isfinite(point->y) || !std::isfinite(point->z))
+    if (!point || !isFinite(*point))
         throw EntityListError{QStringLiteral("not a number or point"), item};
     if (lisp::listLength(value) == 2)
         return point->xy();

@@ -1,5 +1,6 @@
 #include "host/kernel/running/CommandContext.h"
 
+#include "host/drawing/math/Finite.h"
 #include "host/kernel/documents/CurrentProperties.h"
 #include "host/kernel/documents/CurrentSpace.h"
 #include "host/kernel/documents/Document.h"
@@ -162,9 +163,7 @@ namespace {
 bool isFinite(const FieldList &fields)
 {
     return std::ranges::all_of(fields, [](const drawing::Field &field) {
-        const Vec3 point = field.point();
-        return std::isfinite(field.real()) && std::isfinite(point.x) && std::isfinite(point.y) &&
-               std::isfinite(point.z);
+        return std::isfinite(field.real()) && drawing::isFinite(field.point());
     });
 }
 

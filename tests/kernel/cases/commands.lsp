@@ -170,3 +170,6 @@ a ;! (setq a (+ 1 2))\n!a\n ;> \n3 ;= 3
 (setvar "NOMUTT" 1)(princ "<")(command "_.SELECT" "_L" "")(princ ">") ;> <> ;= ">"
 (setvar "NOMUTT" 0) ;= 0
 
+
+; What a program works out that is no number is no place.
+(setq inf (* 1e200 1e200) nan (- inf inf)) (command "LINE" '(0 0) (list inf 0) nil) (command "-BOUNDARY" (list nan 0) nil) (command "ERASE" (list nan 0) "") (entlast) ;= nil
