@@ -122,7 +122,8 @@ private:
         const bool isDrawn = kind == RecordKind::Entity || kind == RecordKind::Child ||
                              kind == RecordKind::EndChildren || kind == RecordKind::Block ||
                              kind == RecordKind::EndBlock;
-        if (isDrawn && code == 8)
+        // Stored states of layers are extension records.
+        if ((isDrawn || m_drawing.isType(id, "XRECORD")) && code == 8)
             add(NamedKind::Layers, text);
         else if (code == 6 && !m_drawing.isType(id, "DIMSTYLE"))
             add(NamedKind::Linetypes, text);
