@@ -1,5 +1,6 @@
 #include "host/drawing/curves/Crossings.h"
 #include "host/drawing/curves/Offset.h"
+#include "host/drawing/math/Quadrature.h"
 #include "tests/drawing/DrawingSample.h"
 
 #include <numbers>
@@ -137,6 +138,18 @@ TEST(EntityCurve, AgreesWithQuadrature)
             EXPECT_NEAR(curve.area(), row.area, 1e-10 * (1 + row.area));
         }
     }
+}
+
+TEST(Quadrature, OfNothingButRoundingComesToAnEnd)
+{
+    int calls = 0;
+    const auto noise = [&](double x) {
+        ++calls;
+        return (x + 1e6) * (x + 3e6) - (x * x + 4e6 * x + 3e12);
+    };
+    EXPECT_NEAR(integral(noise, 0.0, 1.0), 0.0, 1.0);
+    EXPECT_GT(calls, 1000);
+    EXPECT_LT(calls, 100'000);
 }
 
 TEST(EntityCurve, PassesFitPointsSmoothly)

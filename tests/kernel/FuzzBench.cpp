@@ -1,6 +1,7 @@
 #include "tests/kernel/FuzzBench.h"
 
 #include "host/drawing/file/Recovery.h"
+#include "host/drawing/tags/GroupCodes.h"
 #include "host/kernel/input/InputFeeder.h"
 #include "host/kernel/lisp/LispConversion.h"
 #include "host/lisp/Arguments.h"
@@ -262,16 +263,20 @@ QStringList FuzzBench::faults()
         found.append(again.error.message());
     for (const RecoveryStep &step : again.report.steps())
         found.append(step.what + u' ' + step.why);
-    for (RecordId id = drawing().first(); isValid(id); id = drawing().next(id))
-        for (const Tag &tag : drawing().tags(id)) {
-            const bool mayLead = tag.code >= 320 && tagType(tag.code) == TagType::Handle;
-            const auto handle = mayLead ? Handle::fromText(QByteArrayView(tag.value)) : std::nullopt;
-            if (handle && !handle->isNull() && !drawing().isAlive(drawing().find(*handle)))
-                found.append(QStringLiteral("%1 %2=%3 leads nowhere")
-                                 .arg(QLatin1String(drawing().typeName(id)))
-                                 .arg(tag.code)
-                                 .arg(handle->toString()));
-        }
+    const auto look = [&](RecordId id, int code, Handle handle) {
+        if (!handle.isNull() && !drawing().isAlive(drawing().find(handle)))
+            found.append(QStringLiteral("%1 %2=%3 leads nowhere")
+                             .arg(QLatin1String(drawing().typeName(id)))
+                             .arg(code)
+                             .arg(handle.toString()));
+    };
+    for (RecordId id = drawing().first(); isValid(id); id = drawing().next(id)) {
+        look(id, ownerCode, drawing().owner(id));
+        // Who is to be told of changes (330 as well) may be gone.
+        for (const Tag &tag : drawing().tags(id))
+            if (tag.code >= 320 && tag.code != ownerCode && tagType(tag.code) == TagType::Handle)
+                look(id, tag.code, Handle::fromText(QByteArrayView(tag.value)).value_or(Handle{}));
+    }
     return found;
 }
 
