@@ -224,7 +224,10 @@ Boundary BoundarySearch::at(const Vec3 &point)
     // Windows are taken in the world seen from above; in a tilted plane all of it is looked at.
     const bool isLevel = m_toPlane.zAxis.xy().length() <= 1e-9;
     double half = isLevel ? std::min(farthest, std::max(m_document.view().height / 8.0, 1e-6)) : farthest;
-    for (;;) {
+    // Behind so many rounds, what there is lies farther off than anything that was drawn to be looked at together.
+    constexpr int patientRounds = 8;
+    double growth = 4.0;
+    for (int round = 0;; ++round) {
         const Box near = squareRound(point.xy(), half);
         const bool isAll = half >= farthest;
         const Box window = squareRound(flat.xy(), isAll ? 4.0 * half : half);
@@ -232,7 +235,9 @@ Boundary BoundarySearch::at(const Vec3 &point)
             return *boundary;
         if (isAll)
             return {};
-        half = std::min(4.0 * half, farthest);
+        if (round >= patientRounds)
+            growth *= growth;
+        half = std::min(growth * half, farthest);
     }
 }
 
