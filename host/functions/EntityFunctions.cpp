@@ -170,14 +170,14 @@ Value entmakex(Arguments &args)
     return outcome.ok && isValid(outcome.record) ? toLisp(outcome.record) : Value();
 }
 
-// (entdel entity) -> the name; erases it or brings it back, with what it owns. nil for parts of an entity and for table
-// entries.
+// (entdel entity) -> the name; erases it or brings it back, with what it owns. nil for parts of an entity, for table
+// entries and for the dictionary that all others are found by.
 Value entdel(Arguments &args)
 {
     drawing::Drawing &drawing = documentOf(args).drawing();
     const RecordId record = recordAt(args, 0);
     const RecordKind kind = drawing.kind(record);
-    if (kind != RecordKind::Entity && kind != RecordKind::Object)
+    if ((kind != RecordKind::Entity && kind != RecordKind::Object) || record == drawing.dictionaries().root())
         return {};
     const bool isErased = drawing.dictionaries().setErasedWithOwned(record, drawing.isAlive(record));
     return isErased ? args[0] : Value();

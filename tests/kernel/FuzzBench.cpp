@@ -263,6 +263,12 @@ QStringList FuzzBench::faults()
         found.append(again.error.message());
     for (const RecoveryStep &step : again.report.steps())
         found.append(step.what + u' ' + step.why);
+    return found;
+}
+
+QStringList FuzzBench::dangling()
+{
+    QStringList found;
     const auto look = [&](RecordId id, int code, Handle handle) {
         if (!handle.isNull() && !drawing().isAlive(drawing().find(handle)))
             found.append(QStringLiteral("%1 %2=%3 leads nowhere")
@@ -280,12 +286,11 @@ QStringList FuzzBench::faults()
     return found;
 }
 
-void FuzzBench::expectNoMore(const QStringList &faultsBefore, const QString &step)
+void FuzzBench::expectNoMore(const QStringList &before, QStringList now, const QString &step)
 {
-    QStringList more = faults();
-    for (const QString &fault : faultsBefore)
-        more.removeOne(fault);
-    EXPECT_TRUE(more.isEmpty()) << step.toStdString() << '\n' << more.mid(0, 5).join(u'\n').toStdString();
+    for (const QString &fault : before)
+        now.removeOne(fault);
+    EXPECT_TRUE(now.isEmpty()) << step.toStdString() << '\n' << now.mid(0, 5).join(u'\n').toStdString();
 }
 
 void FuzzBench::repeatedly(const std::function<void()> &round)

@@ -39,10 +39,12 @@ protected:
     void playAgain(const QString &logFile);
     /// Evaluates, within the time that a step may take; tells whether it ended without an error.
     bool runTimed(const QString &expression);
-    /// What opening the drawing's file would mend, and which handles of its records name no record.
+    /// What opening the drawing's file would mend.
     QStringList faults();
-    /// That the step has left none but those before it.
-    void expectNoMore(const QStringList &faultsBefore, const QString &step);
+    /// Which handles of its records name no record.
+    QStringList dangling();
+    /// That there is none but those before the step.
+    static void expectNoMore(const QStringList &before, QStringList now, const QString &step);
     /// Until the time is over or several rounds have failed; each that fails is followed by another drawing.
     void repeatedly(const std::function<void()> &round);
 

@@ -25,6 +25,7 @@
 (setq l (entget e))(entdel e)(list (entget e) (entlast) (entmod l)) ;= (nil nil nil)
 (entdel e)(group 8 e) ;= "0"
 (entdel (car (entsel))) ;= error: Function cancelled in (ENTSEL)
+(entdel (namedobjdict)) ;= nil
 
 ; Polylines are made by their ends
 (entmake '((0 . "POLYLINE") (70 . 1)))
