@@ -23,7 +23,7 @@ Symbol &Arguments::symbol(std::size_t index) const
 std::int32_t Arguments::integer(std::size_t index) const
 {
     if (!(*this)[index].isInteger())
-        badType(index, (*this)[index].isReal() ? "fixnump:" : "numberp:");
+        badType(index, "fixnump:");
     return m_values[index].asInteger();
 }
 

@@ -61,7 +61,7 @@ public:
     const std::string &string(std::size_t index) const;
     /// The symbol itself; nil is none. "symbolp"
     Symbol &symbol(std::size_t index) const;
-    /// An integer; a real is refused, whole or not, as "fixnump:", and everything else as "numberp:".
+    /// An integer; what is none, whole reals among it, is refused as "fixnump:".
     std::int32_t integer(std::size_t index) const;
     /// Either kind of number. "numberp:"
     double real(std::size_t index) const;

@@ -6,7 +6,7 @@
 
 namespace host::lisp {
 
-// (vl-catch-all-apply function list) -> the result of the call, or an error object when it failed. *error* is not
+// (vl-catch-all-apply function [list]) -> the result of the call, or an error object when it failed. *error* is not
 // called then. Only the user's interruption of a running program is not caught.
 static Value catchAllApply(Arguments &args)
 {
@@ -47,7 +47,7 @@ static Value exitWithValue(Arguments &args)
 }
 
 static constexpr NativeRow errorRows[] = {
-    {"vl-catch-all-apply", catchAllApply, Arity::exactly(2), "function list",
+    {"vl-catch-all-apply", catchAllApply, Arity::between(1, 2), "function [list]",
      "calls a function; an error in it becomes the value"},
     {"vl-catch-all-error-p", isCaughtError, Arity::exactly(1), "value", "T for an error that was caught"},
     {"vl-catch-all-error-message", caughtMessage, Arity::exactly(1), "error",

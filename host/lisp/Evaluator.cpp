@@ -165,7 +165,7 @@ Value Interpreter::apply(const Value &function, std::span<const Value> arguments
     const Value callee = resolveFunction(function);
     if (callee.tag() == Tag::Native) {
         const NativeFunction &native = callee.asNative();
-        if (native.specialForm)
+        if (native.specialForm && !native.function)
             throw Error("bad function: " + native.name);
         return callNative(native, arguments.data(), arguments.size());
     }

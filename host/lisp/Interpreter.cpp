@@ -230,6 +230,7 @@ void Interpreter::defineSpecialForm(const SpecialFormRow &row)
     auto *native = new NativeFunction;
     Value value = Value::adopt(Tag::Native, native);
     native->specialForm = row.function;
+    native->function = row.applied;
     native->kind = NativeKind::SpecialForm;
     native->arity = Arity::any();
     native->name = toUpperCase(row.name);

@@ -61,12 +61,13 @@ struct SpecialFormRow
     SpecialFormPointer function;
     const char *usage = "";
     const char *help = "";
+    NativePointer applied = nullptr; ///< what (apply) and the like call with values; null: they refuse the form
 };
 
 /// A native function as a value.
 struct NativeFunction : Object
 {
-    NativePointer function = nullptr;
+    NativePointer function = nullptr; ///< of a special form: what it is to (apply); null there for none
     SpecialFormPointer specialForm = nullptr;
     NativeKind kind = NativeKind::Builtin;
     Arity arity;

@@ -1,5 +1,6 @@
 // Forms that get their arguments unevaluated.
 
+#include "host/lisp/Arguments.h"
 #include "host/lisp/Builtins.h"
 #include "host/lisp/Function.h"
 #include "host/lisp/Interpreter.h"
@@ -181,6 +182,23 @@ static Value orForm(Interpreter &interpreter, const Value &forms)
     return {};
 }
 
+// and, or as programs hand them to (apply) and (mapcar): of values.
+static Value andOfValues(Arguments &args)
+{
+    for (std::size_t i = 0; i < args.size(); ++i)
+        if (args[i].isNil())
+            return {};
+    return args.interpreter().t();
+}
+
+static Value orOfValues(Arguments &args)
+{
+    for (std::size_t i = 0; i < args.size(); ++i)
+        if (args[i].isTrue())
+            return args.interpreter().t();
+    return {};
+}
+
 // (lambda (param... [/ local...]) expr...) -> a function.
 static Value lambda(Interpreter &interpreter, const Value &forms)
 {
@@ -243,8 +261,8 @@ static constexpr SpecialFormRow specialFormRows[] = {
     {"repeat", repeat, "count form...", "evaluates forms a number of times"},
     {"foreach", foreachForm, "symbol list form...", "evaluates forms with a symbol bound to each element"},
     {"progn", progn, "form...", "evaluates forms, gives the last value"},
-    {"and", andForm, "form...", "T when all forms give something, looking no further than the first nil"},
-    {"or", orForm, "form...", "T when a form gives something, looking no further than that"},
+    {"and", andForm, "form...", "T when all forms give something, looking no further than the first nil", andOfValues},
+    {"or", orForm, "form...", "T when a form gives something, looking no further than that", orOfValues},
     {"lambda", lambda, "(parameter... [/ local...]) form...", "a function without a name"},
     {"defun", defun, "name (parameter... [/ local...]) form...", "defines a function"},
     {"defun-q", defunQ, "name (parameter... [/ local...]) form...", "defines a function that is kept as a list"},

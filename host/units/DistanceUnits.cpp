@@ -17,6 +17,13 @@ static std::string formatted(const char *format, int precision, double number)
     return text;
 }
 
+/// A number of decimals. What lies exactly between two is rounded away from zero, where printf takes the even one.
+static std::string decimal(int precision, double number)
+{
+    const bool isTie = std::fmod(std::ldexp(std::fabs(number), precision + 1), 2.0) == 1.0;
+    return formatted("%.*f", precision, isTie ? std::nextafter(number, std::copysign(HUGE_VAL, number)) : number);
+}
+
 /// Zeros as DIMZIN's bits 4 and 8 want them.
 static std::string withZeros(std::string text, int zeros)
 {
@@ -32,7 +39,7 @@ static std::string withZeros(std::string text, int zeros)
 
 static std::string wholeText(double number)
 {
-    return formatted("%.*f", 0, number);
+    return decimal(0, number);
 }
 
 /// A length as a whole number and a fraction of inches, rounded to the precision wanted.
@@ -90,10 +97,10 @@ static std::string architectural(double length, const DistanceFormat &format)
 static std::string engineering(double length, const DistanceFormat &format)
 {
     double feet = std::floor(length / 12);
-    std::string inches = formatted("%.*f", format.precision, length - feet * 12);
+    std::string inches = decimal(format.precision, length - feet * 12);
     if (leadingNumber(inches) >= 12) {
         feet += 1;
-        inches = formatted("%.*f", format.precision, 0.0);
+        inches = decimal(format.precision, 0.0);
     }
     const bool isZero = inches.find_first_not_of("0.") == std::string::npos;
     if (isZero && feet > 0 && (format.zeros & 1) == 0)
@@ -124,7 +131,7 @@ std::string formatDistance(double distance, const DistanceFormat &wanted)
         text = fractional(length, format.precision);
         break;
     default:
-        text = withZeros(formatted("%.*f", format.precision, length), format.zeros);
+        text = withZeros(decimal(format.precision, length), format.zeros);
     }
     const bool isZero = text.find_first_of("123456789") == std::string::npos;
     return distance < 0 && !isZero ? "-" + text : text;

@@ -5,7 +5,7 @@
 (list (grread) (getstring)) ;< xyz ;= ((2 120) "yz")
 (grread) ;> Nobody is there ;= error: Function cancelled in (GRREAD)
 (grread T 8) ;= error: Function cancelled in (GRREAD)
-(grread T "8") ;= error: bad argument type: numberp: "8" in (GRREAD), argument 2
+(grread T "8") ;= error: bad argument type: fixnump: "8" in (GRREAD), argument 2
 
 ; What is drawn for the moment
 (grdraw '(0 0) '(1 1 0) 1) ;= nil

@@ -1,4 +1,5 @@
 ; An error is caught
+(list (vl-catch-all-apply '(lambda () 5)) (vl-catch-all-apply '+)) ;= (5 0)
 (list (vl-catch-all-apply '+ '(1 2)) (vl-catch-all-error-p (vl-catch-all-apply '/ '(1 0))) (vl-catch-all-error-p 5))
 ;= (3 T nil)
 (mapcar '(lambda (f) (vl-catch-all-error-message (vl-catch-all-apply f '(1 0)))) '(/ nofunction exit boom cancel))

@@ -34,7 +34,9 @@
 (list (apply '+ '(1 2)) (apply (function (lambda (x) (1+ x))) '(1)) (apply '(lambda (x / y) (setq y x)) '(3)))
 ;= (3 2 3)
 (list (mapcar '+ '(1 2 3) '(10 20)) (mapcar '(lambda (x) (list x)) nil)) ;= ((11 22) nil)
-(apply 'and '(1)) ;= ! bad function: AND in (APPLY)
+(list (apply 'and '(1 nil)) (apply 'and nil) (apply 'or '(nil 2)) (mapcar 'and '(1 nil) '(2 3)) (vl-some 'or '(nil 4)))
+;= (nil T T (T nil) T)
+(apply 'if '(1 2)) ;= ! bad function: IF in (APPLY)
 (nofunction 1) ;= ! no function definition: NOFUNCTION
 (setq five 5) (five) ;= ! bad function: 5
 (5) ;= ! bad function: 5

@@ -6,6 +6,9 @@
 (list (rtos 11.9999 3 2) (rtos 0.3 5 3) (rtos 0.99 5 3) (rtos -0.00001 2 2) (rtos 5 2 0) (rtos 2.5))
 ;= ("1'" "1/4" "1" "0.00" "5" "2.5000")
 (strlen (rtos 1e300 2 99)) ;= 318
+(mapcar '(lambda (v d) (rtos v 2 d)) '(2.5 0.5 -2.5 0.125 1.005 17.25 4503599627370497.5) '(0 0 0 2 2 1 0))
+;= ("3" "1" "-3" "0.13" "1.00" "17.3" "4503599627370498")
+(list (rtos 12.5 3 0) (angtos (/ pi 8) 0 0)) ;= ("1'-1\"" "23")
 (rtos 1 9 2) ;= ! bad argument value: 9 in (RTOS), argument 2
 (rtos "a") ;= ! bad argument type: numberp: "a" in (RTOS), argument 1
 
@@ -30,6 +33,7 @@
 (list (atof "12.5abc") (atof "x") (atof " -3") (atof "inf") (atof "+.5")) ;= (12.5 0.0 -3.0 0.0 0.5)
 (list (atoi "3.9") (atoi "-7x") (atoi "") (atoi "99999999999")) ;= (3 -7 0 2147483647)
 (list (itoa 5) (itoa -2147483648)) ;= ("5" "-2147483648")
+(itoa nil) ;= ! bad argument type: fixnump: nil in (ITOA), argument 1
 (itoa 1.5) ;= ! bad argument type: fixnump: 1.5 in (ITOA), argument 1
 (list (cvunit 1 "inch" "mm") (cvunit 1 "sq ft" "sq inch") (cvunit 180 "degrees" "radian") (cvunit 1 "inch" "hour") (cvunit '(1 2) "m" "cm"))
 ;= (25.4 144.0 3.14159 nil (100.0 200.0))
