@@ -5,9 +5,11 @@
 #include "host/commands/common/KeptValues.h"
 #include "host/commands/common/UserPlane.h"
 #include "host/drawing/math/Angles.h"
+#include "host/drawing/text/ParagraphColumns.h"
 #include "host/drawing/text/ParagraphText.h"
 #include "host/kernel/documents/Document.h"
 #include "host/kernel/input/Units.h"
+#include "host/view/build/TextMeasure.h"
 
 #include <cmath>
 
@@ -35,6 +37,7 @@ struct ParagraphPlace
     qint64 attachment = 1;   ///< 1 to 9
     qint64 spacingStyle = 1; ///< 1 at least, 2 exactly
     double spacing = 1.0;    ///< factor on the usual distance of lines
+    std::optional<drawing::ParagraphColumns> columns{};
 };
 
 /// The usual distance of lines, in heights of capitals.
@@ -53,6 +56,23 @@ void addContent(FieldList &fields, QString content)
     fields.push_back({1, content});
 }
 
+/// With the columns, of which dynamic ones are as many as the text fills.
+FieldList withColumns(CommandContext &context, FieldList fields, drawing::ParagraphColumns columns)
+{
+    constexpr double mostColumns = 1000.0;
+    const drawing::Version version = context.drawing().version();
+    FieldList tried = fields;
+    addParagraphColumns(tried, columns, {}, drawing::Version::R2018);
+    const Vec2 size = context.document().textMeasure().paragraphSize(tried);
+    const double count = std::ceil((size.x + columns.gutter) / (columns.width + columns.gutter) - 1e-6);
+    if (columns.isDynamic)
+        columns.count = static_cast<qint64>(std::clamp(count, 1.0, mostColumns));
+    const FieldList markers = {{100, u"AcDbEntity"_s}, {100, u"AcDbMText"_s}};
+    fields.insert(fields.begin() + 1, markers.begin(), markers.end());
+    addParagraphColumns(fields, columns, size, version);
+    return fields;
+}
+
 RecordId createParagraph(CommandContext &context, const ParagraphPlace &place, const QString &content)
 {
     const UserPlane plane(context.document());
@@ -64,7 +84,10 @@ RecordId createParagraph(CommandContext &context, const ParagraphPlace &place, c
                                  {11, direction({std::cos(place.angle), std::sin(place.angle), 0.0})},
                                  {73, place.spacingStyle},
                                  {44, place.spacing}});
-    return context.create(plane.placed(std::move(fields)));
+    fields = plane.placed(std::move(fields));
+    if (place.columns)
+        fields = withColumns(context, std::move(fields), *place.columns);
+    return context.create(fields);
 }
 
 Dialogue<qint64> askAttachment(CommandContext &context, qint64 usual)
@@ -119,6 +142,55 @@ enum class AfterOption
     Abandon
 };
 
+/// As many columns as are wanted in a total width; false when the command failed with an answer.
+Dialogue<bool> askStaticColumns(CommandContext &context, drawing::ParagraphColumns &columns, double height)
+{
+    constexpr int most = 100;
+    const double total = co_await askUsualLength(context, u"Specify total width"_s, 80.0 * height, NoZero | NoNegative);
+    const PromptReply number = co_await context.integer(u"Specify number of columns <2>: "_s, {}, u"2"_s);
+    columns.count = number.hasValue() ? number.integer : 2;
+    columns.gutter = co_await askUsualLength(context, u"Specify gutter width"_s, 5.0 * height);
+    const double count = static_cast<double>(columns.count);
+    columns.width = columns.count > 0 ? (total - (count - 1.0) * columns.gutter) / count : 0.0;
+    if (columns.width > 0.0 && columns.count <= most)
+        co_return true;
+    context.fail(u"So many columns do not fit into this width."_s);
+    co_return false;
+}
+
+Dialogue<bool> askDynamicColumns(CommandContext &context, drawing::ParagraphColumns &columns, double height)
+{
+    columns.isDynamic = true;
+    columns.isAutoHeight = true;
+    columns.width = co_await askUsualLength(context, u"Specify column width"_s, 30.0 * height, NoZero | NoNegative);
+    columns.gutter = co_await askUsualLength(context, u"Specify gutter width"_s, 5.0 * height);
+    co_return true;
+}
+
+/// The columns give the text its width and height, so that no corner is asked for.
+Dialogue<AfterOption> askColumns(CommandContext &context, ParagraphPlace &place)
+{
+    const QString type =
+        co_await askUsualOption(context, u"Enter column type [Dynamic/Static/No columns]"_s, u"Dynamic"_s);
+    place.columns.reset();
+    if (type == u"No")
+        co_return AfterOption::AskOn;
+    if (context.drawing().version() < drawing::Version::R2007) {
+        context.fail(u"A drawing of this version has no columns in texts: they come with R2007."_s);
+        co_return AfterOption::Abandon;
+    }
+    drawing::ParagraphColumns columns;
+    const bool isStatic = type == u"Static";
+    if (isStatic && !co_await askStaticColumns(context, columns, place.height))
+        co_return AfterOption::Abandon;
+    if (!isStatic)
+        co_await askDynamicColumns(context, columns, place.height);
+    columns.definedHeight =
+        co_await askUsualLength(context, u"Specify column height"_s, 10.0 * place.height, NoZero | NoNegative);
+    place.columns = columns;
+    co_return AfterOption::WriteText;
+}
+
 Dialogue<AfterOption> takeParagraphOption(CommandContext &context, ParagraphPlace &place, QString option)
 {
     if (option == u"Height") {
@@ -144,8 +216,7 @@ Dialogue<AfterOption> takeParagraphOption(CommandContext &context, ParagraphPlac
         place.width = co_await askUsualLength(context, u"Specify width"_s, 0.0, NoNegative, place.at);
         co_return AfterOption::WriteText;
     } else {
-        // Columns are made in no other number.
-        co_await askUsualOption(context, u"Enter column type [No columns]"_s, u"No"_s);
+        co_return co_await askColumns(context, place);
     }
     co_return AfterOption::AskOn;
 }

@@ -1,5 +1,9 @@
 #include "host/drawing/text/ParagraphColumns.h"
 
+#include "host/drawing/tags/ExtendedData.h"
+#include "host/drawing/tags/GroupCodes.h"
+#include "host/drawing/text/ParagraphText.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -10,6 +14,7 @@ namespace {
 enum ColumnType
 {
     NoColumns = 0,
+    StaticColumns = 1,
     DynamicColumns = 2
 };
 
@@ -119,7 +124,62 @@ void readExtended(const TagList &paragraph, ColumnReader &reader)
     }
 }
 
+qint64 typeOf(const ParagraphColumns &columns)
+{
+    return columns.isDynamic ? DynamicColumns : StaticColumns;
+}
+
+void embedColumns(FieldList &paragraph, const ParagraphColumns &columns, Vec2 size)
+{
+    const double count = static_cast<double>(columns.count);
+    FieldList object = {{embeddedObjectCode, QStringLiteral("Embedded Object")},
+                        {70, qint64(1)},
+                        {10, paragraphDirection(paragraph)},
+                        {11, findField(paragraph, 10)->point()},
+                        {40, count * columns.width + (count - 1.0) * columns.gutter},
+                        {41, columns.definedHeight},
+                        {42, size.x},
+                        {43, size.y},
+                        {71, typeOf(columns)},
+                        {72, columns.count},
+                        {44, columns.width},
+                        {45, columns.gutter},
+                        {73, qint64(columns.isAutoHeight)},
+                        {74, qint64(columns.isReversed)}};
+    for (const double height : columns.heights)
+        object.push_back({46, height});
+    paragraph.insert(paragraph.end(), object.begin(), object.end());
+}
+
+void noteColumns(FieldList &paragraph, const ParagraphColumns &columns)
+{
+    const auto whole = [](qint64 code, qint64 value) { return FieldList{{1070, code}, {1070, value}}; };
+    const auto real = [](qint64 code, double value) { return FieldList{{1070, code}, {1040, value}}; };
+    FieldList data = {{1000, QStringLiteral("ACAD_MTEXT_COLUMN_INFO_BEGIN")}};
+    const auto append = [&data](const FieldList &more) { data.insert(data.end(), more.begin(), more.end()); };
+    append(whole(75, typeOf(columns)));
+    append(whole(79, columns.isAutoHeight));
+    append(whole(76, columns.count));
+    append(whole(78, columns.isReversed));
+    append(real(48, columns.width));
+    append(real(49, columns.gutter));
+    append({{1000, QStringLiteral("ACAD_MTEXT_COLUMN_INFO_END")},
+            {1000, QStringLiteral("ACAD_MTEXT_DEFINED_HEIGHT_BEGIN")}});
+    append(real(46, columns.definedHeight));
+    append({{1000, QStringLiteral("ACAD_MTEXT_DEFINED_HEIGHT_END")}});
+    setExtendedData(paragraph, QStringLiteral("ACAD"), data);
+}
+
 } // namespace
+
+void addParagraphColumns(FieldList &paragraph, const ParagraphColumns &columns, Vec2 size, Version version)
+{
+    setField(paragraph, 41, columns.width);
+    if (version >= Version::R2018)
+        embedColumns(paragraph, columns, size);
+    else if (version >= Version::R2007)
+        noteColumns(paragraph, columns);
+}
 
 std::optional<ParagraphColumns> paragraphColumns(const TagList &paragraph)
 {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/drawing/tags/TagList.h"
+#include "host/drawing/records/Drawing.h"
 
 #include <optional>
 
@@ -29,6 +29,10 @@ struct ParagraphColumns
 /// Nothing for a text without columns. Numbers are as the record has them, but for the width; counts too, so they may
 /// be any.
 std::optional<ParagraphColumns> paragraphColumns(const TagList &paragraph);
+
+/// Gives the fields of an MTEXT without columns these, in the form that drawings of the version have; none before
+/// R2007. `size` is that of the whole text. The columns' width is that of its lines too (group 41).
+void addParagraphColumns(FieldList &paragraph, const ParagraphColumns &columns, Vec2 size, Version version);
 
 /// The frame around an MTEXT.
 struct ParagraphFrame

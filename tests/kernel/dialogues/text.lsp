@@ -41,3 +41,6 @@
 ;! -STYLE|Notes|txt|0|1|86 ;> The obliquing angle is ;? (tblsearch "STYLE" "Notes") ;= nil
 ;! -STYLE|a/b ;> Invalid style name ;=
 ;! -STYLE|?|* ;> "Standard" ;=
+;! MTEXT|0,0|C|S|50|3|4|20|a|b| ;? (list (own '(41 1)) (mapcar '(lambda (f) (if (member (car f) '(42 43)) (car f) f)) (cdr (member '(101 . "Embedded Object") (entget (entlast)))))) ;= ((14.0 "a\\Pb") ((70 . 1) (10 1.0 0.0 0.0) (11 0.0 0.0 0.0) (40 . 50.0) (41 . 20.0) 42 43 (71 . 1) (72 . 3) (44 . 14.0) (45 . 4.0) (73 . 0) (74 . 0)))
+;! MTEXT|0,0|C||30|5|10|one\Ptwo\Pthree\Pfour\Pfive| ;? (own '(41)) ;= (30.0)
+;! MTEXT|0,0|C|S|50|20|5 ;> So many columns do not fit into this width. ;=
