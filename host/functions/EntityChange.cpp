@@ -86,7 +86,8 @@ bool isOrdered(const QString &type)
 {
     static const QStringList types = {QStringLiteral("LWPOLYLINE"), QStringLiteral("SPLINE"),  QStringLiteral("HATCH"),
                                       QStringLiteral("MLINE"),      QStringLiteral("LEADER"),  QStringLiteral("LTYPE"),
-                                      QStringLiteral("DICTIONARY"), QStringLiteral("XRECORD"), QStringLiteral("GROUP")};
+                                      QStringLiteral("DICTIONARY"), QStringLiteral("XRECORD"), QStringLiteral("GROUP"),
+                                      QStringLiteral("MULTILEADER")};
     return types.contains(type);
 }
 

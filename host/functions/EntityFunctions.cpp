@@ -5,6 +5,7 @@
 #include "host/drawing/records/Journal.h"
 #include "host/drawing/records/Tables.h"
 #include "host/functions/EntityChange.h"
+#include "host/functions/EntityCompletion.h"
 #include "host/functions/FunctionGroups.h"
 #include "host/kernel/documents/CurrentSpace.h"
 #include "host/kernel/documents/Document.h"
@@ -102,19 +103,37 @@ drawing::FieldList referencesIn(const Document &document, const Value &list)
     return fields;
 }
 
+/// Whether the list says another type than the record has.
+bool changesType(const drawing::Drawing &drawing, RecordId record, const Value &list)
+{
+    for (const Value &item : lisp::ListItems(list)) {
+        if (!item.car().isInteger() || item.car().asInteger() != 0 || !item.cdr().isString())
+            continue;
+        const QString type = QString::fromStdString(item.cdr().asString()).trimmed();
+        return type.compare(QLatin1StringView(drawing.typeName(record)), Qt::CaseInsensitive) != 0;
+    }
+    return false;
+}
+
 Value modifyEntity(Arguments &args, RecordId record)
 {
     Document &document = documentOf(args);
     drawing::Drawing &drawing = document.drawing();
+    if (changesType(drawing, record, args.list(0)))
+        return refused(args, u"the type of an entity cannot be changed"_s);
     const drawing::JournalGroup group(drawing.journal(), {});
     takeExtension(drawing, record, referencesIn(document, args.list(0)));
-    const drawing::FieldList wanted = changedFields(document, record, args.list(0));
+    const drawing::FieldList before = drawing.fields(record);
+    const drawing::FieldList wanted = completedText(document, before, changedFields(document, record, args.list(0)));
     // A list that is handed back as it was must leave no trace.
-    if (wanted == drawing.fields(record))
+    if (wanted == before)
         return args[0];
     if (isEntityKind(drawing.kind(record))) {
         const QString error = drawing.entities().modify(record, wanted);
-        return error.isEmpty() ? args[0] : refused(args, error);
+        if (!error.isEmpty())
+            return refused(args, error);
+        followDimension(document, record, before);
+        return args[0];
     }
     if (drawing.kind(record) == RecordKind::TableEntry)
         drawing.tables().modify(record, wanted);
@@ -145,9 +164,14 @@ EntityMaker::Outcome makeEntity(Arguments &args)
         Document &document = documentOf(args);
         if (!args.has(0))
             args.badType(0, "consp");
-        outcome = document.entityMaker().make(fieldsFromList(document, args.list(0), AngleForm::Radians));
+        drawing::FieldList fields = fieldsFromList(document, args.list(0), AngleForm::Radians);
+        const auto type = std::ranges::find(fields, 0, &drawing::Field::code);
+        std::rotate(fields.begin(), type, type == fields.end() ? type : type + 1);
+        outcome = document.entityMaker().make(completedText(document, std::move(fields)));
         if (!outcome.ok)
             refused(args, outcome.error);
+        else if (isValid(outcome.record))
+            completeDimensions(document, outcome.record);
         return Value();
     });
     return outcome;

@@ -1,8 +1,7 @@
 #include "host/commands/annotate/Justification.h"
 
+#include "host/drawing/text/TextAlignment.h"
 #include "host/kernel/running/CommandContext.h"
-
-#include <cmath>
 
 using namespace Qt::StringLiterals;
 
@@ -32,29 +31,6 @@ constexpr Justification justifications[] = {
     {"BC", "Specify bottom-center point of text: ", 1, 1},
     {"BR", "Specify bottom-right point of text: ", 2, 1},
 };
-
-/// How far the letters' own point for the alignment lies from their left end on the base line.
-Vec3 anchor(const Justification &justification, const drawing::Box &letters, double height)
-{
-    const double width = letters.isEmpty() ? 0.0 : letters.high.x;
-    const double low = letters.isEmpty() ? 0.0 : std::min(letters.low.y, 0.0);
-    const double shares[] = {0.0, 0.5, 1.0, 0.0, 0.5, 0.0};
-    const double rows[] = {0.0, low, height / 2.0, height};
-    // "Middle" is that of all letters, those below the base line included.
-    const double middle = letters.isEmpty() ? height / 2.0 : (letters.low.y + letters.high.y) / 2.0;
-    const double up = justification.horizontal == 4 ? middle : rows[justification.vertical];
-    return {width * shares[justification.horizontal], up, 0.0};
-}
-
-void stretch(FieldList &text, const Justification &justification, double length, const drawing::Box &letters)
-{
-    const double width = letters.isEmpty() ? 0.0 : letters.high.x;
-    if (!(width > 0.0) || !(length > 0.0))
-        return;
-    const int code = justification.isAligned() ? 40 : 41;
-    const drawing::Field *present = drawing::findField(text, code);
-    drawing::setField(text, code, (present ? present->real() : 1.0) * length / width);
-}
 
 } // namespace
 
@@ -105,13 +81,12 @@ void justify(FieldList &text, const Justification &justification, const Vec3 &fi
     drawing::setField(text, 72, qint64(justification.horizontal));
     if (justification.vertical != 0)
         drawing::setField(text, 73, qint64(justification.vertical));
-    if (justification.isStretched())
-        return stretch(text, justification, (second - first).length(), letters);
-    const double angle = drawing::findField(text, 50)->real() * M_PI / 180.0;
-    const Vec3 by = anchor(justification, letters, drawing::findField(text, 40)->real());
-    drawing::setField(text, 10,
-                      first - Vec3{by.x * std::cos(angle) - by.y * std::sin(angle),
-                                   by.x * std::sin(angle) + by.y * std::cos(angle), 0.0});
+    // An attribute's rows stand under another code, which the caller gives them.
+    FieldList line = text;
+    line.front().value = u"TEXT"_s;
+    drawing::alignText(line, letters);
+    line.front() = text.front();
+    text = std::move(line);
 }
 
 } // namespace host::kernel
