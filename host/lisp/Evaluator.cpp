@@ -4,6 +4,7 @@
 #include "host/lisp/Interpreter.h"
 #include "host/lisp/Printer.h"
 #include "host/lisp/ValueFrame.h"
+#include "host/lisp/compiled/Machine.h"
 
 namespace host::lisp {
 
@@ -139,6 +140,8 @@ Value Interpreter::callUser(const Function &function, ValueFrame &values, Locati
         raiseArgumentCount(function, values.size());
     if (function.mark != 0) [[unlikely]]
         return callTraced(function, values, location);
+    if (m_isCompiling && m_machine->takes(function))
+        return m_machine->call(function, {values.values(), values.size()}, location);
     Binding binding(*this, function, values, location);
     return evalBody(function.body);
 }

@@ -3,7 +3,9 @@
 #include "host/lisp/SourceMap.h"
 #include "host/lisp/Symbol.h"
 #include "host/lisp/Value.h"
+#include "host/lisp/compiled/Code.h"
 
+#include <memory>
 #include <vector>
 
 namespace host::lisp {
@@ -17,6 +19,16 @@ struct Function : Object
     Value parameters;                ///< the list as written, with "/" before the locals
     Value body;                      ///< list of forms
     Location location = 0;           ///< of the first form of the body; 0 when unknown
+
+    /// How far its machine has come with it. The list of forms stays what it is made of and the truth.
+    enum class Compiling : std::uint8_t
+    {
+        NotYet,
+        AtNextCall,
+        Never ///< the evaluator does it
+    };
+    mutable Compiling compiling = Compiling::NotYet;
+    mutable std::unique_ptr<const compiled::Code> code; ///< null until it is called
 
     std::string displayName() const { return name ? name->name() : "LAMBDA"; }
 };

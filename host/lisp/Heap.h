@@ -17,6 +17,8 @@ public:
         if (static_cast<std::int64_t>(bytes) > s_left) [[unlikely]]
             refuse();
     }
+    /// Whether check() would let so much be taken.
+    static bool hasRoomFor(std::size_t bytes) noexcept { return static_cast<std::int64_t>(blockOf(bytes)) <= s_left; }
     static void add(std::size_t bytes) noexcept { s_left -= static_cast<std::int64_t>(bytes); }
     static void remove(std::size_t bytes) noexcept { s_left += static_cast<std::int64_t>(bytes); }
     /// check() and add() for what was made already and is about to be kept.

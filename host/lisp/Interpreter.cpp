@@ -8,6 +8,7 @@
 #include "host/lisp/Printer.h"
 #include "host/lisp/Reader.h"
 #include "host/lisp/Text.h"
+#include "host/lisp/compiled/Machine.h"
 
 #include <numbers>
 
@@ -38,6 +39,7 @@ Interpreter::Interpreter(Console &console, Settings settings)
     m_lambdaSymbol = &intern("LAMBDA");
     m_slashSymbol = &intern("/");
     addBuiltins(*this);
+    m_machine = std::make_unique<compiled::Machine>(*this);
 }
 
 Interpreter::~Interpreter() = default;
@@ -145,7 +147,7 @@ Outcome Interpreter::call(std::string_view name, std::span<const Value> argument
 
 Outcome Interpreter::evaluate(const Value &form)
 {
-    return topLevel([&] { return eval(form); });
+    return topLevel([&] { return evalTopForm(form); });
 }
 
 Value Interpreter::evalText(std::string_view text, std::string_view sourceName)
@@ -176,13 +178,22 @@ Value Interpreter::evalForms(std::string_view text, std::string_view sourceName,
     return last;
 }
 
+Value Interpreter::evalTopForm(const Value &form)
+{
+    if (m_isCompiling) {
+        if (std::optional<Value> value = m_machine->evaluate(form))
+            return std::move(*value);
+    }
+    return eval(form);
+}
+
 Value Interpreter::evalForm(const Value &form, bool isLoading)
 {
     if (!isLoading)
-        return eval(form);
+        return evalTopForm(form);
     const TextScope scope(m_loadDepth);
     try {
-        return eval(form);
+        return evalTopForm(form);
     } catch (const Error &error) {
         if (!isLeftOutWhileLoading(error))
             throw;

@@ -16,6 +16,10 @@
 #include <string_view>
 #include <vector>
 
+namespace host::lisp::compiled {
+class Machine;
+} // namespace host::lisp::compiled
+
 namespace host::lisp {
 
 /// What an engine may use; fixed from when it is made.
@@ -145,6 +149,10 @@ public:
     /// A new selection set with the next number, in the order given. Repeated entities are dropped.
     Value makeSelectionSet(const std::vector<std::uint64_t> &entities);
 
+    /// Functions are compiled when they are called, and loops; programs do the same without, more slowly. On by
+    /// default.
+    void setCompiling(bool compiles) noexcept { m_isCompiling = compiles; }
+
     // For native functions.
 
     /// Evaluates a form: a list calls, a symbol gives its value, everything else itself.
@@ -195,7 +203,9 @@ public:
     std::string &typedAhead() noexcept { return m_typedAhead; }
 
 private:
-    /// A user function under way. Lives on the machine stack.
+    friend class compiled::Machine;
+
+    /// A user function under way. Lives on the machine stack, or in the machine of compiled code.
     struct CallFrame
     {
         CallFrame *outer;
@@ -226,6 +236,7 @@ private:
     void callErrorHandler(Error &error);
     bool isLeftOutWhileLoading(const Error &error);
     Value evalForm(const Value &form, bool isLoading);
+    Value evalTopForm(const Value &form);
     Value evalForms(std::string_view text, std::string_view sourceName, bool isLoading);
     void poll();
 
@@ -254,6 +265,9 @@ private:
     bool m_inErrorHandler = false;     ///< an error in `*error*` calls none
     CallFrame *m_frame = nullptr;      ///< the innermost user function under way
     Location m_location = 0;           ///< of the list form evaluated last
+
+    std::unique_ptr<compiled::Machine> m_machine;
+    bool m_isCompiling = true;
 
     SourceMap m_sources;
     std::map<std::string, Value> m_blackboard;

@@ -47,7 +47,12 @@ TEST(Robustness, DeepCallsEndInAnError)
         EXPECT_EQ(bench("(+ 1 2)"), "3");
     }
     Bench bench;
-    EXPECT_EQ(bench("(defun depth (n) (if (> n 0) (1+ (depth (1- n))) 0)) (depth 2000)"), "2000");
+    EXPECT_EQ(bench("(defun depth (n) (if (> n 0) (1+ (depth (1- n))) 0)) (depth 100000)"), "100000");
+    EXPECT_EQ(bench("(defun sum (l) (if l (+ (car l) (sum (cdr l))) 0)) (setq l nil) (repeat 100000 (setq l (cons 1 "
+                    "l))) (sum l)"),
+              "100000");
+    bench.interpreter.setCompiling(false);
+    EXPECT_EQ(bench("(depth 2000)"), "2000");
 }
 
 TEST(Robustness, LongAndDeepListsAreFreedPrintedAndCompared)

@@ -1,0 +1,121 @@
+#pragma once
+
+#include "host/lisp/Function.h"
+#include "host/lisp/Interpreter.h"
+#include "host/lisp/compiled/Code.h"
+
+#include <deque>
+#include <memory>
+#include <optional>
+#include <span>
+
+namespace host::lisp::compiled {
+
+class Compiler;
+
+/// Runs compiled code of one interpreter, with a stack of its own: calls of Lisp functions by Lisp functions take
+/// nothing of the machine's stack.
+///
+/// On the stack lie, for each function under way: the function; the values that its variables had before (until the
+/// call its arguments, which are in the variables since); whatever its instructions put there. All variables are in
+/// their symbols, as everywhere.
+///
+/// What operations may do here is public. The rule for them: whoever may throw or run other code sets `top` before, to
+/// behind the last value that is alive.
+class Machine
+{
+public:
+    explicit Machine(Interpreter &interpreter);
+    ~Machine();
+    Machine(const Machine &) = delete;
+    Machine &operator=(const Machine &) = delete;
+
+    // For the interpreter.
+
+    /// Whether the function has code by now. It gets its code at the first call, a function without name at the second;
+    /// never when it has forms that only the evaluator does as they are meant.
+    bool takes(const Function &function);
+    /// Calls a function that it takes, with as many arguments as it has parameters, which are moved away. `location` is
+    /// the calling form's.
+    Value call(const Function &function, std::span<Value> arguments, Location location);
+    /// Evaluates a form of the top level when it has loops; nothing when that is left to the evaluator.
+    std::optional<Value> evaluate(const Value &form);
+
+    // For operations.
+
+    /// A function under way.
+    struct Frame
+    {
+        Interpreter::CallFrame call; ///< as messages about errors show it
+        const Word *resume;          ///< of the caller; where code ends when C++ called
+        Value *values;               ///< behind the function: what the variables held before
+        std::size_t loops;           ///< how many loops were under way
+    };
+
+    /// A loop over a list under way. What it holds is given back when it ends, by an error too.
+    struct Loop
+    {
+        Symbol *variable = nullptr; ///< of foreach
+        Value saved;                ///< what the variable held before
+        Value list;                 ///< to be held
+        const Value *rest = nullptr;
+        ListBuilder results; ///< of mapcar
+    };
+
+    Interpreter &interpreter() noexcept { return m_interpreter; }
+    Location &location() noexcept { return m_interpreter.m_location; }
+    const Value &t() const noexcept { return m_interpreter.m_t; }
+    std::deque<Loop> &loops() noexcept { return m_loops; }
+    Frame &frame() noexcept { return m_frame[-1]; }
+
+    /// One of the steps that are counted until the console is asked.
+    void tick(Location location, Value *alive)
+    {
+        if (--m_interpreter.m_pollCountdown == 0) [[unlikely]]
+            poll(location, alive);
+    }
+
+    /// Begins a call of the function at top[-count - 1], which takes that many arguments. Gives its first instruction.
+    const Word *enter(const Function &function, std::size_t count, Location location, const Word *resume, Value *alive);
+    /// Ends it: its variables get their values back, and the value at the top takes the place of the function.
+    const Word *leave(Value *alive);
+
+    // What is done in more steps than an instruction should have. All give the new top.
+
+    /// Calls a built-in with the topmost values, whose place its result takes.
+    Value *callNative(const Site &site, Value *alive);
+    /// The same with operands from anywhere.
+    Value callNative(const Site &site, Value *alive, const Value &left, const Value &right);
+    /// Calls whatever lies below the topmost `count` values.
+    const Word *callValue(std::size_t count, Location location, const Word *resume, Value *alive);
+    /// Puts on the stack what the head of a form calls; false for a special form.
+    bool pushHead(Symbol &head, Location location, Value *alive);
+    /// Has the evaluator do a form, whose value goes onto the stack.
+    Value *evaluateForm(const Value &form, Value *alive);
+    /// Fails as the built-in does.
+    [[noreturn]] void refuse(const Site &site, Value *alive, int argument, const char *what, const Value &value);
+    /// Ends the innermost loop.
+    void endLoop();
+
+    Value *top = nullptr; ///< the first free place of the stack
+
+private:
+    Value run(const Code &code);
+    Value runUntilEnd(const Word *at);
+    void unwind(const Frame *outermost, const Value *lowest, std::size_t loops) noexcept;
+    void takeFrameApart() noexcept;
+    void reserveMemory();
+    void checkRoom(std::size_t places, Location location, Value *alive);
+    void poll(Location location, Value *alive);
+
+    Interpreter &m_interpreter;
+    std::unique_ptr<Compiler> m_compiler;
+    std::unique_ptr<std::byte[]> m_stackMemory;
+    std::unique_ptr<std::byte[]> m_frameMemory;
+    Value *m_end = nullptr;      ///< of the stack, less what `*error*` has for itself
+    Frame *m_frame = nullptr;    ///< behind the innermost
+    Frame *m_frameEnd = nullptr; ///< likewise
+    std::deque<Loop> m_loops;    ///< whose places stay
+};
+
+} // namespace host::lisp::compiled
