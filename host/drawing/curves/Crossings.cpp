@@ -109,11 +109,19 @@ CurveCrosser::CurveCrosser(std::vector<EntityCurve> curves) : m_curves(std::move
 
 std::vector<CurveCrosser::Crossing> CurveCrosser::crossings(const EntityCurve &curve) const
 {
+    return crossings(curve, [](size_t) { return true; });
+}
+
+std::vector<CurveCrosser::Crossing> CurveCrosser::crossings(const EntityCurve &curve,
+                                                            const std::function<bool(size_t)> &isWanted) const
+{
     const double own = curve.tolerance();
     std::map<size_t, std::vector<CurveCrossing>> byCurve;
     for (const CurvePiece &piece : curve.pieces()) {
         m_index->touching(grown(piece.box(), own), [&](size_t number) {
             const Place &place = m_places[number];
+            if (!isWanted(place.curve))
+                return;
             appendCrossings(byCurve[place.curve], piece, m_curves[place.curve].pieces()[place.piece],
                             std::max(own, m_tolerances[place.curve]));
         });

@@ -44,6 +44,8 @@ public:
     /// Crossings of `curve` with all of them, along it. Costs its pieces times the logarithm of theirs, and what is
     /// found.
     std::vector<Crossing> crossings(const EntityCurve &curve) const;
+    /// With those of them alone that `isWanted` says by their number.
+    std::vector<Crossing> crossings(const EntityCurve &curve, const std::function<bool(size_t)> &isWanted) const;
 
 private:
     struct Place

@@ -13,8 +13,8 @@ namespace {
 /// A row of control points multiplied by their weights, worked on in place.
 struct BezierRow
 {
-    std::array<Vec3, 26> points;
-    std::array<double, 26> weights;
+    std::array<Vec3, Spline::highestDegree + 1> points;
+    std::array<double, Spline::highestDegree + 1> weights;
     size_t count;
 
     explicit BezierRow(const BezierSpan &span) : count(span.points.size())
@@ -151,6 +151,9 @@ CurvePiece CurvePiece::round(const Vec3 &center, const Vec3 &xAxis, const Vec3 &
 
 CurvePiece CurvePiece::polynomial(BezierSpan span)
 {
+    constexpr size_t mostPoints = Spline::highestDegree + 1;
+    if (span.points.size() > mostPoints)
+        return straight(span.points.front(), span.points.back(), span.start, span.end);
     CurvePiece piece;
     piece.m_shape = Shape::Polynomial;
     piece.m_start = span.start;

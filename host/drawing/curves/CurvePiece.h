@@ -32,7 +32,7 @@ public:
     /// clockwise where `to` is less. The axes may be any two directions.
     static CurvePiece round(const Vec3 &center, const Vec3 &xAxis, const Vec3 &yAxis, double from, double to,
                             double start, double end);
-    /// The weights are positive.
+    /// The weights are positive. Of a degree that no spline may have it is the straight line between its ends.
     static CurvePiece polynomial(BezierSpan span);
 
     Shape shape() const { return m_shape; }

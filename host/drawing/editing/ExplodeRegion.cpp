@@ -66,7 +66,7 @@ FieldList edgeRecord(const FieldList &entity, const SolidEdge &edge)
     if (piece.shape() == CurvePiece::Shape::Round)
         return roundRecord(entity, piece);
     if (piece.shape() == CurvePiece::Shape::Polynomial)
-        return splineRecord(entity, splineOfSpans(edge));
+        return splineRecord(entity, splineOfPieces(edge));
     FieldList line = lookOfPiece(entity, u"LINE"_s);
     line.insert(line.end(), {{10, piece.startPoint()}, {11, piece.endPoint()}});
     return line;

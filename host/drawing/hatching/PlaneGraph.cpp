@@ -30,7 +30,12 @@ public:
 
     quint32 number(Vec2 point, std::vector<Vec2> &nodes)
     {
-        const auto cell = [&](double at) { return static_cast<qint64>(std::floor(at / (4.0 * m_tolerance))); };
+        // Beyond this all is in one cell, as numbers so large are damage.
+        constexpr double farthest = 4e18;
+        const auto cell = [&](double at) {
+            const double number = std::floor(at / (4.0 * m_tolerance));
+            return std::isnan(number) ? 0 : static_cast<qint64>(std::clamp(number, -farthest, farthest));
+        };
         const qint64 x = cell(point.x);
         const qint64 y = cell(point.y);
         for (qint64 i = x - 1; i <= x + 1; ++i) {

@@ -162,7 +162,7 @@ double ellipseParameter(double angle, double ratio)
 bool Spline::isValid() const
 {
     const auto order = static_cast<size_t>(degree) + 1;
-    const bool isSized = degree >= 1 && degree <= 25 && controlPoints.size() >= order &&
+    const bool isSized = degree >= 1 && degree <= highestDegree && controlPoints.size() >= order &&
                          knots.size() == controlPoints.size() + order &&
                          (weights.empty() || weights.size() == controlPoints.size());
     return isSized && std::is_sorted(knots.begin(), knots.end()) && firstParameter() < lastParameter();
@@ -188,8 +188,8 @@ Vec3 Spline::point(double parameter) const
     span = std::min(span, controlPoints.size() - 1);
 
     // De Boor's scheme on points multiplied by their weights.
-    std::array<Vec3, 26> points;
-    std::array<double, 26> factors;
+    std::array<Vec3, highestDegree + 1> points;
+    std::array<double, highestDegree + 1> factors;
     for (size_t i = 0; i <= p; ++i) {
         factors[i] = weights.empty() ? 1.0 : weights[span - p + i];
         points[i] = controlPoints[span - p + i] * factors[i];

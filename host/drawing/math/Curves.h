@@ -49,7 +49,9 @@ double ellipseParameter(double angle, double ratio);
 /// A B-spline; with weights a rational one.
 struct Spline
 {
-    int degree = 3;            ///< 1 to 25
+    static constexpr int highestDegree = 25;
+
+    int degree = 3;            ///< 1 to highestDegree
     bool isClosed = false;     ///< counts for fit points alone
     std::vector<double> knots; ///< controlPoints + degree + 1 of them
     std::vector<Vec3> controlPoints;

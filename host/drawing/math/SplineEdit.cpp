@@ -30,7 +30,7 @@ Weighted weightedPoint(const Spline &spline, size_t index)
 Weighted polarForm(const Spline &spline, size_t span, const double *arguments)
 {
     const auto degree = static_cast<size_t>(spline.degree);
-    std::array<Weighted, 26> row;
+    std::array<Weighted, Spline::highestDegree + 1> row;
     for (size_t i = 0; i <= degree; ++i)
         row[i] = weightedPoint(spline, span - degree + i);
     for (size_t round = 1; round <= degree; ++round) {
@@ -160,7 +160,7 @@ std::vector<BezierSpan> bezierSpans(const Spline &spline)
         BezierSpan &span = spans.emplace_back();
         span.start = spline.knots[k];
         span.end = spline.knots[k + 1];
-        std::array<double, 26> arguments;
+        std::array<double, Spline::highestDegree + 1> arguments;
         arguments.fill(span.start);
         for (size_t i = 0; i <= degree; ++i) {
             const Weighted made = polarForm(spline, k, arguments.data());
@@ -171,6 +171,61 @@ std::vector<BezierSpan> bezierSpans(const Spline &spline)
         }
     }
     return spans;
+}
+
+Spline splineOfSpans(const std::vector<BezierSpan> &spans)
+{
+    const bool isRational = std::ranges::any_of(spans, [](const BezierSpan &span) { return !span.weights.empty(); });
+    const size_t degree = spans.front().points.size() - 1;
+    Spline spline;
+    spline.degree = static_cast<int>(degree);
+    spline.knots = {spans.front().start};
+    for (const BezierSpan &span : spans) {
+        const bool isFirst = spline.controlPoints.empty();
+        spline.knots.insert(spline.knots.end(), degree, span.start);
+        const auto weightOf = [&span](size_t i) { return span.weights.empty() ? 1.0 : span.weights[i]; };
+        const double factor = isFirst || !isRational ? 1.0 : spline.weights.back() / weightOf(0);
+        for (size_t i = isFirst ? 0 : 1; i <= degree; ++i) {
+            spline.controlPoints.push_back(span.points[i]);
+            if (isRational)
+                spline.weights.push_back(weightOf(i) * factor);
+        }
+    }
+    spline.knots.insert(spline.knots.end(), degree + 1, spans.back().end);
+    return spline;
+}
+
+BezierSpan elevatedSpan(const BezierSpan &span, size_t degree)
+{
+    BezierSpan made = span;
+    while (made.points.size() <= degree) {
+        const BezierSpan low = made;
+        const size_t count = low.points.size(); // the degree that is made
+        const auto at = [&low](size_t i) {
+            const double weight = low.weights.empty() ? 1.0 : low.weights[i];
+            return Weighted{low.points[i] * weight, weight};
+        };
+        made.points.push_back(low.points.back());
+        if (!low.weights.empty())
+            made.weights.push_back(low.weights.back());
+        for (size_t i = 1; i < count; ++i) {
+            const Weighted between = at(i).towards(at(i - 1), static_cast<double>(i) / static_cast<double>(count));
+            made.points[i] = between.plain();
+            if (!made.weights.empty())
+                made.weights[i] = between.weight;
+        }
+    }
+    return made;
+}
+
+Spline elevatedSpline(const Spline &spline, int degree)
+{
+    if (spline.degree >= degree)
+        return spline;
+    std::vector<BezierSpan> spans = bezierSpans(spline);
+    for (BezierSpan &span : spans)
+        span = elevatedSpan(span, static_cast<size_t>(degree));
+    return splineOfSpans(spans);
 }
 
 Spline splineSection(const Spline &spline, double from, double to)

@@ -20,6 +20,14 @@ struct BezierSpan
 /// The spans in order, those without extent left out. Costs the cube of the degree a span.
 std::vector<BezierSpan> bezierSpans(const Spline &spline);
 
+/// Neighbouring spans of one degree as one spline, over their parameters. Weights are made alike where spans meet.
+Spline splineOfSpans(const std::vector<BezierSpan> &spans);
+/// The same curve, over the same parameters, by more points; `degree` is not below its own.
+BezierSpan elevatedSpan(const BezierSpan &span, std::size_t degree);
+/// Likewise of a spline. Knots between its spans are there as often as the new degree says; of the same degree it is
+/// left as it is.
+Spline elevatedSpline(const Spline &spline, int degree);
+
 /// The spline between two of its parameters, `from` below `to`, both within its range: the same curve with the same
 /// parameters, by new knots at both ends. Closed ones come as open.
 Spline splineSection(const Spline &spline, double from, double to);

@@ -165,7 +165,7 @@ private:
         case CurvePiece::Shape::Polynomial:
             break;
         }
-        return splineText(splineOfSpans(edge.pieces));
+        return splineText(splineOfPieces(edge.pieces));
     }
 
     /// Knots come once with their number, at both ends once less than splines have them.
@@ -210,28 +210,12 @@ FieldList regionRecord(const std::vector<RegionFace> &faces, const Vec3 &normal,
     return fields;
 }
 
-Spline splineOfSpans(const std::vector<CurvePiece> &spans)
+Spline splineOfPieces(const std::vector<CurvePiece> &pieces)
 {
-    const bool isRational = std::ranges::any_of(spans, [](const CurvePiece &p) { return !p.span().weights.empty(); });
-    const std::size_t degree = spans.front().span().points.size() - 1;
-    Spline spline;
-    spline.degree = static_cast<int>(degree);
-    spline.knots = {spans.front().span().start};
-    double factor = 1.0;
-    for (const CurvePiece &piece : spans) {
-        const BezierSpan &span = piece.span();
-        const bool isFirst = spline.controlPoints.empty();
-        spline.knots.insert(spline.knots.end(), degree, span.start);
-        const auto weightOf = [&span](std::size_t i) { return span.weights.empty() ? 1.0 : span.weights[i]; };
-        factor = isFirst ? 1.0 : spline.weights.empty() ? 1.0 : spline.weights.back() / weightOf(0);
-        for (std::size_t i = isFirst ? 0 : 1; i <= degree; ++i) {
-            spline.controlPoints.push_back(span.points[i]);
-            if (isRational)
-                spline.weights.push_back(weightOf(i) * factor);
-        }
-    }
-    spline.knots.insert(spline.knots.end(), degree + 1, spans.back().span().end);
-    return spline;
+    std::vector<BezierSpan> spans;
+    for (const CurvePiece &piece : pieces)
+        spans.push_back(piece.span());
+    return splineOfSpans(spans);
 }
 
 EllipseAxes ellipseAxes(const CurvePiece &round)

@@ -23,8 +23,8 @@ using RegionFace = std::vector<RegionLoop>;
 /// No face is empty; all lie in one plane. Drawings of R13 and R14 get a model of version 1.6, later ones one of 4.0.
 FieldList regionRecord(const std::vector<RegionFace> &faces, const Vec3 &normal, Version version);
 
-/// The spline that spans of one degree are together. Weights are made alike where they meet.
-Spline splineOfSpans(const std::vector<CurvePiece> &spans);
+/// The spline that polynomial pieces of one degree are together.
+Spline splineOfPieces(const std::vector<CurvePiece> &pieces);
 
 /// A round piece by its axes at right angles to each other, the longer one first, and where it begins and how far it
 /// sweeps on them; never negative.

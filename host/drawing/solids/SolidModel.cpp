@@ -34,7 +34,7 @@ public:
 
     std::optional<Spline> read(bool isRational)
     {
-        constexpr double largestDegree = 25.0;
+        constexpr double largestDegree = Spline::highestDegree;
         const double degree = next();
         ++m_at; // open or closed, which the points say too
         const double different = next();
@@ -260,7 +260,7 @@ Path piecePath(const CurvePiece &piece, const Flatness &flatness)
     if (piece.shape() == CurvePiece::Shape::Straight)
         return {piece.startPoint(), piece.endPoint()};
     if (piece.shape() == CurvePiece::Shape::Polynomial)
-        return splinePath(splineOfSpans({piece}), flatness);
+        return splinePath(splineOfSpans({piece.span()}), flatness);
     const double from = piece.angleAt(piece.start());
     const double to = piece.angleAt(piece.end());
     const double radius = std::max({piece.xAxis().length(), piece.yAxis().length(), 1e-300});
