@@ -42,15 +42,6 @@ Matrix flatMap(const UserPlane &plane)
     return {flat({1.0, 0.0, 0.0}) - origin, flat({0.0, 1.0, 0.0}) - origin, flat({0.0, 0.0, 1.0}) - origin, origin};
 }
 
-QSet<QString> hiddenLayerNames(const drawing::Drawing &drawing)
-{
-    QSet<QString> names;
-    for (const drawing::Layer &layer : drawing::allLayers(drawing))
-        if (layer.isOff || layer.isFrozen)
-            names.insert(layer.name.toUpper());
-    return names;
-}
-
 /// What of an endless line lies about a window.
 CurvePiece finitePiece(const CurvePiece &piece, const Box &window)
 {

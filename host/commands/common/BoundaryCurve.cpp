@@ -1,5 +1,9 @@
 #include "host/commands/common/BoundaryCurve.h"
 
+#include "host/drawing/geometry/EntityGeometry.h"
+#include "host/drawing/records/Symbols.h"
+#include "host/drawing/solids/SolidModel.h"
+
 namespace host::kernel {
 
 using drawing::EntityCurve;
@@ -29,6 +33,41 @@ std::optional<EntityCurve> boundaryCurve(const drawing::Drawing &drawing, Record
     if (type == "SOLID" || type == "TRACE" || type == "3DFACE")
         return EntityCurve::through(faceCorners(drawing, entity), true);
     return type == "LEADER" ? std::nullopt : EntityCurve::ofEntity(drawing, entity);
+}
+
+QSet<QString> hiddenLayerNames(const drawing::Drawing &drawing)
+{
+    QSet<QString> names;
+    for (const drawing::Layer &layer : drawing::allLayers(drawing))
+        if (layer.isOff || layer.isFrozen)
+            names.insert(layer.name.toUpper());
+    return names;
+}
+
+std::vector<EntityCurve> shownCurves(const drawing::Drawing &drawing, RecordId entity,
+                                     const QSet<QString> &hiddenLayers, drawing::WorkBudget &work)
+{
+    std::vector<EntityCurve> curves;
+    const QByteArrayView type = drawing.typeName(entity);
+    const auto add = [&](RecordId shown, const Matrix &map) {
+        if (const auto curve = EntityCurve::ofEntity(drawing, shown))
+            curves.push_back(map == Matrix() ? *curve : curve->transformed(map));
+        else if (drawing.isType(shown, "REGION"))
+            for (const drawing::SolidEdge &edge : drawing::readSolidModel(drawing.tags(shown)).edges)
+                curves.push_back(EntityCurve(EntityCurve::Kind::Polyline3d, edge, false).transformed(map));
+    };
+    if (type != "INSERT" && !type.endsWith("DIMENSION")) {
+        add(entity, {});
+        return curves;
+    }
+    visitInserted(drawing, entity, work, [&](const drawing::VisitedEntity &visited) {
+        const drawing::TagList tags = drawing.tags(visited.entity);
+        const QString layer = tags.text(8, QStringLiteral("0")).toUpper();
+        if (tags.integer(60) == 0 && !hiddenLayers.contains(layer))
+            add(visited.entity, visited.transform);
+        return true;
+    });
+    return curves;
 }
 
 } // namespace host::kernel

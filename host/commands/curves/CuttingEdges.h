@@ -8,7 +8,11 @@
 
 namespace host::kernel {
 
-/// The curves that others are trimmed and extended to. They are looked up again when they change on the way.
+/// The curves that others are trimmed and extended to: entities, what block references show of curves, and the edges of
+/// regions.
+///
+/// They may change on the way. What changed is gathered, a few by themselves and the others in groups that double in
+/// size, so that n changes cost n log n of their number each way.
 class CuttingEdges
 {
 public:
@@ -26,7 +30,7 @@ public:
     void set(Projection projection, bool areExtended);
     /// To be told of entities that were made from an edge or changed.
     void changed(drawing::RecordId entity, const std::vector<drawing::RecordId> &made);
-    void forget() { m_crosser.reset(); }
+    void forget();
 
     /// The parameters, sorted, at which a curve meets the edges, itself left out.
     std::vector<double> on(drawing::RecordId entity, const drawing::EntityCurve &curve);
@@ -36,14 +40,30 @@ public:
 private:
     drawing::EntityCurve prepared(const drawing::EntityCurve &curve, bool isEdge) const;
     void look();
+    void note(drawing::RecordId edge);
+    void settle();
+
+    /// A curve as it was when its entity had changed so often.
+    struct Known
+    {
+        drawing::RecordId edge = drawing::noRecord;
+        unsigned version = 0;
+    };
+    struct Group
+    {
+        drawing::CurveCrosser crosser;
+        std::vector<Known> known; ///< of each of its curves
+    };
+    bool isCurrent(const Known &known) const;
 
     CommandContext &m_context;
     std::set<drawing::RecordId> m_edges;
     Projection m_projection = Projection::User;
     bool m_areExtended = false;
-    std::optional<drawing::CurveCrosser> m_crosser; ///< of those that did not change since
-    std::vector<drawing::RecordId> m_known;         ///< the entity of each of its curves
-    std::map<drawing::RecordId, std::optional<drawing::EntityCurve>> m_changed;
+    bool m_isLooked = false;
+    std::vector<Group> m_groups; ///< the largest first
+    std::vector<std::pair<Known, drawing::EntityCurve>> m_recent;
+    std::map<drawing::RecordId, unsigned> m_versions; ///< of those that changed
 };
 
 } // namespace host::kernel
