@@ -3,6 +3,7 @@
 #include "host/commands/curves/CarrierUnion.h"
 #include "host/commands/curves/PickedCurve.h"
 #include "host/commands/curves/PolylineJoin.h"
+#include "host/commands/curves/SplineJoin.h"
 #include "host/drawing/curves/BoxIndex.h"
 #include "host/drawing/curves/Carriers.h"
 
@@ -38,7 +39,8 @@ CurveParts openCurves(CommandContext &context, const std::vector<RecordId> &enti
     CurveParts parts;
     for (const RecordId entity : entities) {
         std::optional<EntityCurve> curve = EntityCurve::ofEntity(context.drawing(), entity);
-        if (curve && !curve->isClosed() && !curve->isEndless())
+        const bool isLeader = curve && curve->kind() == EntityCurve::Kind::Leader;
+        if (curve && !curve->isClosed() && !curve->isEndless() && !isLeader)
             parts.push_back({entity, std::move(*curve)});
     }
     return parts;
@@ -108,6 +110,52 @@ CurveParts joinToPolyline(JoinSession &session, const CurveParts &parts)
     return rest;
 }
 
+/// The fields of the entity as a spline, which may leave its plane.
+drawing::FieldList splineFields(CommandContext &context, const CurvePart &part, const drawing::Spline &spline)
+{
+    constexpr qint64 planarFlag = 8;
+    drawing::FieldList fields = context.drawing().fields(part.entity);
+    const bool isEllipse = part.curve.kind() == EntityCurve::Kind::Ellipse;
+    const bool isFlat = EntityCurve::spline(spline).isPlanar();
+    std::erase_if(fields, [&](const drawing::Field &field) {
+        return (isEllipse && field.code == 42) || (!isFlat && field.code == 210);
+    });
+    fields = drawing::withSpline(fields, spline);
+    if (drawing::Field *flags = drawing::findField(fields, 70))
+        flags->value = (flags->integer() & ~planarFlag) | (isFlat ? planarFlag : 0);
+    return fields;
+}
+
+/// Splines and parts of ellipses with all that meets them, each as one spline; what is left over comes back.
+CurveParts joinToSplines(JoinSession &session, CurveParts parts)
+{
+    for (std::size_t first = 0; first < parts.size();) {
+        const auto kind = parts[first].curve.kind();
+        const bool isCurved = kind == EntityCurve::Kind::Spline || kind == EntityCurve::Kind::Ellipse;
+        const auto joined =
+            isCurved ? joinAsSpline(session.context.drawing(), parts, first) : std::optional<JoinedSpline>();
+        if (!joined) {
+            ++first;
+            continue;
+        }
+        const CurvePart source = parts[first];
+        replaceCurve(session.context.drawing(), source.entity,
+                     {splineFields(session.context, source, joined->spline), {}});
+        const std::set<size_t> isTaken(joined->taken.begin(), joined->taken.end());
+        CurveParts rest;
+        for (size_t i = 0; i < parts.size(); ++i) {
+            if (!isTaken.contains(i))
+                rest.push_back(parts[i]);
+            else if (i != first)
+                session.erased.push_back(parts[i].entity);
+        }
+        session.joined += isTaken.size();
+        session.context.print(u"\n%1 objects converted to 1 spline"_s.arg(isTaken.size()));
+        parts = std::move(rest);
+    }
+    return parts;
+}
+
 /// Which parts hang together by their ends: of each the number of one of its group. n log n.
 std::vector<size_t> groupsByEnds(const CurveParts &parts)
 {
@@ -136,7 +184,7 @@ std::vector<size_t> groupsByEnds(const CurveParts &parts)
     return group;
 }
 
-/// Chains become polylines; what is left of them comes back.
+/// Chains become splines or polylines; what is left of them comes back.
 CurveParts joinChains(JoinSession &session, const CurveParts &parts)
 {
     const std::vector<size_t> group = groupsByEnds(parts);
@@ -145,6 +193,9 @@ CurveParts joinChains(JoinSession &session, const CurveParts &parts)
         chains[group[i]].push_back(parts[i]);
     CurveParts left;
     for (auto &[number, chain] : chains) {
+        std::ranges::stable_partition(
+            chain, [](const CurvePart &part) { return part.curve.kind() == EntityCurve::Kind::Spline; });
+        chain = joinToSplines(session, std::move(chain));
         // A polyline keeps its properties and its handle.
         std::ranges::stable_partition(chain, [&](const CurvePart &part) { return session.isPolyline(part); });
         while (chain.size() > 1) {

@@ -107,3 +107,20 @@
 (tilted)(line 0 0 3 0)(entmake '((0 . "LINE") (10 3.0 0.0 0.0) (11 3.0 0.0 4.0))) ;! JOIN|ALL| ;? (mapcar 'cdr (vl-remove-if-not '(lambda (f) (member (car f) '(10 210))) (entget (entlast)))) ;= ((0.0 0.0) (3.0 0.0) (3.0 4.0) (0.0 -1.0 0.0))
 (line 0 0 3 0)(line 3 0 3 4)(lock "0") ;! JOIN|ALL| ;= LINE 10=0,0,0 11=3,0,0; LINE 10=3,0,0 11=3,4,0
 (circle 0 0 5)(line 0 0 3 0) ;! JOIN|ALL| ;> 2 objects discarded ;= CIRCLE 10=0,0,0 40=5; LINE 10=0,0,0 11=3,0,0
+; Splines take what meets them, exactly: knots of one degree stay, lines and arcs are raised.
+(progn (bow 0 0 1) (bow 4 0 1)) ;! JOIN|ALL| ;> 2 objects converted to 1 spline ;? (list (types) (all-of 40) (all-of 10))
+;= (("SPLINE") (0.0 0.0 0.0 1.0 1.0 2.0 2.0 2.0) ((0.0 0.0 0.0) (2.0 2.0 0.0) (4.0 0.0 0.0) (6.0 2.0 0.0) (8.0 0.0 0.0)))
+(progn (line 4 0 7 4) (bow 0 0 1)) ;! JOIN|ALL| ;? (list (types) (value-of 71) (all-of 10) (near (curve-length) (+ 5.0 (bow-length)))) ;= (("SPLINE") 2 ((0.0 0.0 0.0) (2.0 2.0 0.0) (4.0 0.0 0.0) (5.5 2.0 0.0) (7.0 4.0 0.0)) T)
+(progn (bow 0 0 1) (arc 4 2 2 270 360) (line 6 2 6 5)) ;! JOIN|ALL| ;> 3 objects converted to 1 spline ;? (list (types) (near (curve-length) (+ 3.0 pi (bow-length))) (near (vlax-curve-getPointAtDist (entlast) (+ (bow-length) (/ pi 2))) (list (+ 4 (sqrt 2)) (- 2 (sqrt 2)) 0.0)))
+;= (("SPLINE") T T)
+(progn (bow 0 0 1) (line 0 0 4 0)) ;! JOIN|ALL| ;? (list (types) (vlax-curve-isClosed (entlast))) ;= (("SPLINE") T)
+(progn (bow 0 0 1) (entmake '((0 . "LINE") (10 4.0 0.0 0.0) (11 4.0 0.0 5.0)))) ;! JOIN|ALL| ;? (list (types) (logand (value-of 70) 8) (vlax-curve-getEndPoint (entlast))) ;= (("SPLINE") 0 (4.0 0.0 5.0))
+(progn (bow 0 0 1) (bow 5 0 1)) ;! JOIN|ALL| ;> 2 objects discarded ;? (types) ;= ("SPLINE" "SPLINE")
+(progn (half-ellipse 0 1) (half-ellipse 1 3)) ;! JOIN|ALL| ;? (list (types) (value-of 41) (value-of 42)) ;= (("ELLIPSE") 0.0 3.0)
+(progn (half-ellipse 0 1.5707963267948966) (line 0 1 -3 1)) ;! JOIN|ALL| ;? (list (types) (rounded (vlax-curve-getStartPoint (entlast))) (rounded (vlax-curve-getEndPoint (entlast)))) ;= (("SPLINE") (2.0 0.0 0.0) (-3.0 1.0 0.0))
+; What block references show is an edge, and so are the edges of a region.
+(progn (door) (command "-INSERT" "Door" '(5 -2) 1 "" 90) (line 0 0 9 0)) ;! TRIM|ALL||8,0| ;~ keeps ;? (value-of 11) ;= (5.0 0.0 0.0)
+(progn (round-block) (command "-INSERT" "Round" '(5 0) -2 1 0) (line 0 0 9 0)) ;! TRIM|ALL||5,0| ;~ keeps ;? (list (types) (value-of 10)) ;= (("INSERT" "LINE") (0.0 0.0 0.0))
+(progn (door) (nested) (command "-INSERT" "Outer" '(0 0) -2 2 0) (entmake '((0 . "LINE") (10 -9.0 2.0 0.0) (11 0.0 2.0 0.0)))) ;! TRIM|ALL||-9,2| ;~ keeps ;? (rounded (value-of 10)) ;= (-3.4641 2.0 0.0)
+(progn (door) (command "-INSERT" "Door" '(5 -2) 1 "" 90) (line 0 0 4 0)) ;! EXTEND|ALL||4,0| ;~ keeps ;? (value-of 11) ;= (5.0 0.0 0.0)
+(progn (circle 5 0 2) (command "REGION" "L" "") (line 0 0 9 0)) ;! TRIM|ALL||5,0| ;~ keeps ;? (rounded (list (types) (value-of 10))) ;= (("REGION" "LINE" "LINE") (7.0 0.0 0.0))
