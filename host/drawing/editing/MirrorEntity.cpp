@@ -114,9 +114,12 @@ void correctParagraph(FieldList &text, const FieldList &before)
     setOwnField(text, 71, row * 3 + column + 1);
 }
 
+/// Reversed along its x axis; one that was so comes back as it had been.
 void correctReference(FieldList &insert, const FieldList &before)
 {
-    if (realOf(before, 42, 1.0) < 0.0 || realOf(before, 41, 1.0) < 0.0)
+    const bool wasUpright = realOf(before, 41, 1.0) >= 0.0 && realOf(before, 42, 1.0) >= 0.0;
+    const bool isReversedTwice = realOf(insert, 41, 1.0) < 0.0 && realOf(insert, 42, 1.0) < 0.0;
+    if (!wasUpright && !isReversedTwice)
         return;
     turnAround(insert);
     for (const int code : {41, 42, 44, 45}) {

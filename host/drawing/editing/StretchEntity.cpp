@@ -1,9 +1,11 @@
 #include "host/drawing/editing/StretchEntity.h"
 
+#include "host/drawing/curves/Sections.h"
 #include "host/drawing/geometry/TransformEntity.h"
 #include "host/drawing/geometry/TransformFields.h"
 #include "host/drawing/math/Angles.h"
 #include "host/drawing/math/Curves.h"
+#include "host/drawing/math/SplineEdit.h"
 #include "host/drawing/records/Journal.h"
 #include "host/drawing/records/PolylineFlags.h"
 
@@ -31,7 +33,13 @@ public:
         if (type == "SOLID" || type == "TRACE")
             return movePoints({10, 11, 12, 13}, m_plane);
         if (type == "SPLINE")
-            return movePoints({10, 11}, Matrix());
+            return stretchSpline();
+        if (type == "MLINE")
+            return stretchMultiline();
+        if (type == "HATCH" && hasStraightBoundary())
+            return stretchHatch();
+        if (type == "VIEWPORT")
+            return stretchViewport();
         if (type == "LEADER")
             return movePoints({10}, Matrix());
         if (type == "ARC")
@@ -51,17 +59,17 @@ private:
         static const QSet<QByteArray> flat = {"CIRCLE", "TEXT", "ATTDEF", "INSERT", "SHAPE"};
         const QByteArrayView type = m_drawing.typeName(m_entity);
         const TagList tags = m_drawing.tags(m_entity);
-        if (type == "HATCH" || type == "VIEWPORT")
-            return middleOf(tags, type);
+        if (type == "HATCH")
+            return middleOf(tags);
         const Vec3 point = tags.point(10);
         return flat.contains(type.toByteArray()) ? m_plane.point(point) : point;
     }
 
     /// Of a hatch the middle of its boundary's points.
-    Vec3 middleOf(const TagList &tags, QByteArrayView type) const
+    Vec3 middleOf(const TagList &tags) const
     {
         std::vector<Vec3> points = tags.points(10);
-        if (type == "VIEWPORT" || points.size() < 2)
+        if (points.size() < 2)
             return tags.point(10);
         Box box;
         for (std::size_t i = 1; i < points.size(); ++i)
@@ -220,6 +228,187 @@ private:
             m_drawing.setFields(vertices[i], fields);
         }
         return StretchOutcome::Done;
+    }
+
+    /// One that runs through fit points is moved by these, and runs through them again.
+    StretchOutcome stretchSpline()
+    {
+        if (!findField(m_fields, 11))
+            return movePoints({10}, Matrix());
+        std::vector<Vec3> points;
+        bool isAll = true;
+        for (auto field = m_fields.begin(), end = ownEnd(m_fields); field != end; ++field) {
+            if (field->code != 11)
+                continue;
+            const bool isCaught = m_isCaught(field->point());
+            points.push_back(field->point() + (isCaught ? m_by : Vec3{}));
+            m_isMoved = m_isMoved || isCaught;
+            isAll = isAll && isCaught;
+        }
+        if (!m_isMoved || isAll)
+            return m_isMoved ? moveWhole(findField(m_fields, 11)->point()) : StretchOutcome::Nothing;
+        const Field *flags = findField(m_fields, 70);
+        const auto tangent = [this](int code) {
+            const Field *field = findField(m_fields, code);
+            return field ? std::optional(field->point()) : std::nullopt;
+        };
+        const Spline spline = fittedSpline(points, flags && (flags->integer() & 1) != 0, tangent(12), tangent(13));
+        if (!spline.isValid())
+            return StretchOutcome::Refused;
+        FieldList fields = withSpline(m_fields, spline);
+        for (const int code : {12, 13})
+            if (const auto direction = tangent(code))
+                fields.insert(ownEnd(fields), {code, *direction});
+        for (const Vec3 &point : points)
+            fields.insert(ownEnd(fields), {11, point});
+        setOwnField(fields, 74, qint64(points.size()));
+        setOwnField(fields, 70, flags ? flags->integer() : qint64(0));
+        m_fields = fields;
+        return finish();
+    }
+
+    /// The lines cross each vertex along its mitre; how far out they do follows from the angle that it makes.
+    StretchOutcome stretchMultiline()
+    {
+        std::vector<std::size_t> vertices; // where their points are among the fields
+        Path points;
+        bool isAll = true;
+        for (std::size_t i = 0; i < m_fields.size() && !endsOwnGroups(m_fields[i]); ++i) {
+            if (m_fields[i].code != 11)
+                continue;
+            const Vec3 at = m_fields[i].point();
+            const bool isCaught = m_isCaught(at);
+            vertices.push_back(i);
+            points.push_back(isCaught ? at + m_by : at);
+            m_isMoved = m_isMoved || isCaught;
+            isAll = isAll && isCaught;
+        }
+        if (!m_isMoved || isAll || points.size() < 2)
+            return m_isMoved ? moveWhole(m_fields[vertices.front()].point()) : StretchOutcome::Nothing;
+        const Field *flags = findField(m_fields, 71);
+        const bool isClosed = flags && (flags->integer() & 2) != 0;
+        for (std::size_t i = 0; i < points.size(); ++i)
+            if (!setMultilineVertex(vertices[i], points, i, isClosed))
+                return StretchOutcome::Refused;
+        setOwnField(m_fields, 10, points.front());
+        return finish();
+    }
+
+    bool setMultilineVertex(std::size_t place, const Path &points, std::size_t i, bool isClosed)
+    {
+        const std::size_t count = points.size();
+        const auto along = [&](std::size_t from) { return normalized(points[(from + 1) % count] - points[from]); };
+        const bool isLast = i + 1 == count && !isClosed;
+        const Vec3 behind = along(isLast ? i - 1 : i);
+        const Vec3 before = i > 0 ? along(i - 1) : isClosed ? along(count - 1) : behind;
+        const Vec3 left = cross(m_plane.zAxis, behind);
+        const Vec3 mitre = normalized(left + cross(m_plane.zAxis, before));
+        const double share = dot(mitre, left);
+        if (!(share > 1e-6) || place + 2 >= m_fields.size() || m_fields[place + 1].code != 12 ||
+            m_fields[place + 2].code != 13)
+            return false;
+        const double oldShare = dot(m_fields[place + 2].point(), cross(m_plane.zAxis, m_fields[place + 1].point()));
+        m_fields[place].value = points[i];
+        m_fields[place + 1].value = behind;
+        m_fields[place + 2].value = mitre;
+        bool isFirst = false; // of an element's distances: how far out it crosses
+        for (std::size_t at = place + 3; at < m_fields.size() && m_fields[at].code != 11; ++at) {
+            if (m_fields[at].code == 41 && isFirst)
+                m_fields[at].value = m_fields[at].real() * oldShare / share;
+            isFirst = m_fields[at].code == 74;
+        }
+        return true;
+    }
+
+    /// Whether the boundary has no edges but lines and the arcs of polylines.
+    bool hasStraightBoundary() const
+    {
+        bool isPolyline = false;
+        for (const Field &field : m_fields) {
+            if (field.code == 75)
+                break;
+            isPolyline = field.code == 92 ? (field.integer() & 2) != 0 : isPolyline;
+            if (field.code == 72 && !isPolyline && field.integer() != 1)
+                return false;
+        }
+        return true;
+    }
+
+    StretchOutcome stretchHatch()
+    {
+        const auto begin = std::ranges::find(m_fields, 91, &Field::code);
+        const auto end = std::find_if(begin, m_fields.end(), [](const Field &field) { return field.code == 75; });
+        const double elevation = findField(m_fields, 10) ? findField(m_fields, 10)->point().z : 0.0;
+        bool isAll = true;
+        Vec3 first;
+        Path before;
+        Path after;
+        std::vector<double> bulges;
+        std::vector<Field *> bulgeFields;
+        const auto endPath = [&] {
+            keepHeights(before, after, true, bulges,
+                        [&](std::size_t i, double bulge) { bulgeFields[i]->value = bulge; });
+            before.clear();
+            after.clear();
+            bulges.clear();
+            bulgeFields.clear();
+        };
+        for (auto field = begin; field != end; ++field) {
+            if (field->code == 92)
+                endPath();
+            if (field->code == 42 && !bulges.empty()) {
+                bulges.back() = field->real();
+                bulgeFields.back() = &*field;
+            }
+            if ((field->code != 10 && field->code != 11) || !isPoint(*field))
+                continue;
+            const Vec3 at{field->point().x, field->point().y, elevation};
+            first = m_plane.point(at);
+            const bool isCaught = m_isCaught(first);
+            m_isMoved = m_isMoved || isCaught;
+            isAll = isAll && isCaught;
+            before.push_back(at);
+            after.push_back(isCaught ? at + m_flatBy : at);
+            bulges.push_back(0.0);
+            bulgeFields.push_back(nullptr);
+            field->value = after.back().xy();
+        }
+        endPath();
+        return m_isMoved && isAll ? moveWhole(first) : finish();
+    }
+
+    /// Two corners on one side move that side: what is seen stays where it is on the sheet.
+    StretchOutcome stretchViewport()
+    {
+        const TagList tags = m_drawing.tags(m_entity);
+        const Vec3 center = tags.point(10);
+        const double width = tags.real(40);
+        const double height = tags.real(41);
+        const auto isCaught = [&](double x, double y) {
+            return m_isCaught(center + Vec3{x * width / 2.0, y * height / 2.0, 0.0});
+        };
+        const bool corners[] = {isCaught(-1, -1), isCaught(1, -1), isCaught(1, 1), isCaught(-1, 1)};
+        const bool isLeft = corners[0] && corners[3];
+        const bool isRight = corners[1] && corners[2];
+        const bool isLow = corners[0] && corners[1];
+        const bool isHigh = corners[2] && corners[3];
+        if (isLeft && isRight)
+            return moveWhole(center + Vec3{width / 2.0, height / 2.0, 0.0});
+        const double wider = isRight ? m_by.x : isLeft ? -m_by.x : 0.0;
+        const double higher = isHigh ? m_by.y : isLow ? -m_by.y : 0.0;
+        if (wider == 0.0 && higher == 0.0)
+            return StretchOutcome::Nothing;
+        if (!(width + wider > 0.0) || !(height + higher > 0.0) || !(height > 0.0))
+            return StretchOutcome::Refused;
+        const Vec2 shift{isLeft || isRight ? m_by.x / 2.0 : 0.0, isLow || isHigh ? m_by.y / 2.0 : 0.0};
+        const double shown = tags.real(45) / height;
+        setOwnField(m_fields, 10, center + Vec3{shift.x, shift.y, 0.0});
+        setOwnField(m_fields, 40, width + wider);
+        setOwnField(m_fields, 41, height + higher);
+        setOwnField(m_fields, 45, shown * (height + higher));
+        setOwnField(m_fields, 12, tags.point(12).xy() + shift * shown);
+        m_isMoved = true;
+        return finish();
     }
 
     bool isCaughtAt(int code, const Matrix &toWorld) const

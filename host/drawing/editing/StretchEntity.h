@@ -18,7 +18,9 @@ enum class StretchOutcome
 };
 
 /// Moves the points of an entity that are caught: ends of lines and arcs, vertices, corners, control points, the points
-/// of dimensions. An arc keeps its height over the chord. What has one point (texts, circles, references ...) moves as
+/// of dimensions. An arc keeps its height over the chord, a spline runs through its fit points again, multilines cross
+/// their vertices along new mitres, hatches follow where their boundary is of lines and polylines, and viewports of
+/// sheets show more or less at the side that moves. What has one point (texts, circles, references ...) moves as
 /// a whole when that is caught. The picture of a dimension is to be drawn anew (drawDimension()).
 StretchOutcome stretchEntity(Drawing &drawing, RecordId entity, const IsCaught &isCaught, const Vec3 &by);
 

@@ -56,8 +56,6 @@ void PickCompanions::readGroups()
             m_groupsOf->insert(quint32(member), m_groups.size());
         m_groups.push_back(group.members);
     }
-    if (!m_groups.empty())
-        m_visible = visibleOnes(m_document);
 }
 
 std::vector<RecordId> PickCompanions::withCompanions(const std::vector<RecordId> &picked)
@@ -77,6 +75,9 @@ std::vector<RecordId> PickCompanions::withCompanions(const std::vector<RecordId>
         for (const std::size_t index : m_groupsOf->values(quint32(id))) {
             const bool isWhole = whole.contains(index);
             whole.insert(index);
+            // All of the space is looked at only once something is in a group.
+            if (m_visible.isEmpty())
+                m_visible = visibleOnes(m_document);
             for (const RecordId member : isWhole ? std::vector<RecordId>() : m_groups[index])
                 if (m_visible.contains(quint32(member)))
                     add(member);

@@ -20,3 +20,8 @@
 (wipe)(command "_.CHPROP" (ssget "X") "" "_LA" "0" "_C" "1" "")(cdr (assoc 62 (entget (entlast)))) ;= 1
 (wipe)(command "_.CHANGE" (entlast) "" "_P" "_C" 3 "")(cdr (assoc 62 (entget (entlast)))) ;= 3
 (wipe)(command "_.COPYBASE" '(5 5) (entlast) "")(command "_.PASTECLIP" '(7 7))(last (made)) ;= ("LINE" (7.0 7.0 0.0) (8.0 7.0 0.0))
+; A reference that is mirrored twice is what it was
+(wipe)(command "_.-BLOCK" "Mark" '(0 0) (entlast) "" "_.-INSERT" "Mark" '(3 4) 2 3 30) ;= nil
+(defun placed () (mapcar '(lambda (c) (rtos (cdr (assoc c (entget (entlast)))) 2 4)) '(41 42 50)))
+(command "_.MIRROR" "_L" "" '(0 0) '(0 1) "_Y")(placed) ;= ("-2.0000" "3.0000" "5.7596")
+(command "_.MIRROR" "_L" "" '(0 0) '(0 1) "_Y")(placed) ;= ("2.0000" "3.0000" "0.5236")

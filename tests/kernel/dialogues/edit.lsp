@@ -100,3 +100,16 @@
 ; A copy of a clipped reference is taken back whole
 (door)(clipped) ;! COPY|L||0,0|5,5|U|E ;~ keeps
 ;? (sslength (ssget "X" (list (cons 0 "INSERT")))) ;= 1
+; STRETCH of what has more than ends: through its fit points again, along new mitres, with its boundary, at one side
+(command "SPLINE" '(0 0) '(5 5) '(10 0) "" "" "") ;! STRETCH|C|9,-3|20,4||0,0|0,10
+;? (list (all-of 11) (last (all-of 10)) (length (all-of 10))) ;= (((0.0 0.0 0.0) (5.0 5.0 0.0) (10.0 10.0 0.0)) (10.0 10.0 0.0) 5)
+(command "MLINE" "J" "Z" '(0 0) '(5 0) '(10 0) "") ;! STRETCH|C|9,-3|20,4||0,0|-5,5
+;? (rounded (list (all-of 11) (all-of 12) (nth 1 (all-of 13)) (nth 4 (all-of 41)))) ;= (((0.0 0.0 0.0) (5.0 0.0 0.0) (5.0 5.0 0.0)) ((1.0 0.0 0.0) (0.0 1.0 0.0) (0.0 1.0 0.0)) (-0.7071 0.7071 0.0) 0.7071)
+(hatch) ;! STRETCH|C|3,-3|9,9||0,0|2,0 ;? (cdr (all-of 10)) ;= ((0.0 0.5) (6.0 0.5) (6.0 3.5) (0.0 3.5))
+(hatch) ;! STRETCH|C|-9,-9|9,9||0,0|2,0 ;? (cdr (all-of 10)) ;= ((2.0 0.5) (6.0 0.5) (6.0 3.5) (2.0 3.5))
+(sheet-port) ;! STRETCH|C|35,-5|60,60||0,0|20,5 ;? (own '(10 40 41 45 12)) ;= ((30.0 20.0 0.0) 60.0 30.0 60.0 (120.0 50.0))
+(sheet-port) ;! STRETCH|C|-5,-5|60,60||0,0|20,5 ;? (own '(10 40 41 45 12)) ;= ((40.0 25.0 0.0) 40.0 30.0 60.0 (100.0 50.0))
+(old-polyline 8 '((0 0 0) (4 0 1) (8 0 2))) ;! STRETCH|C|7,-1|9,1||0,0|0,3 ;? (cdr (assoc 10 (entget (entnext (entnext (entnext (entnext))))))) ;= (8.0 3.0 2.0)
+; Without a number of items, angle and step say it; a negative number of rows is none
+(line 0 0 1 0) ;! -ARRAY|L||P|5,0||180|45|Y ;? (length (types)) ;= 5
+(line 0 0 1 0) ;! -ARRAY|L||R|-2 ;> Value must not be negative. ;= LINE 10=0,0,0 11=1,0,0
