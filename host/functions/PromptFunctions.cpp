@@ -16,8 +16,8 @@ using lisp::Value;
 // (initget [bits] [keywords]) -> nil. Bits and keywords, with a blank between, for the next request only.
 Value initget(Arguments &args)
 {
-    const bool hasBits = args[0].isInteger();
-    const int bits = hasBits ? args.integer(0) : 0;
+    const bool hasBits = args.size() > 1 || args[0].isInteger();
+    const int bits = args.has(0) && hasBits ? args.integer(0) : 0;
     const std::size_t keywordIndex = hasBits ? 1 : 0;
     const QString keywords = args.has(keywordIndex) ? stringAt(args, keywordIndex) : QString();
     documentOf(args).prompts().initget(bits, keywords.split(u' ', Qt::SkipEmptyParts));

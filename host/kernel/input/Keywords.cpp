@@ -2,6 +2,8 @@
 
 #include <QRegularExpression>
 
+#include <algorithm>
+
 namespace host::kernel {
 
 namespace {
@@ -47,6 +49,20 @@ bool isShortFor(const QString &typed, const QString &keyword)
     return fromAbbreviation || fromStart;
 }
 
+/// Where the keyword is that `word` means; -1 when it means none.
+qsizetype findKeyword(const QString &word, const QStringList &keywords)
+{
+    if (word.isEmpty())
+        return -1;
+    const auto find = [&](const auto &isMeant) {
+        const auto found = std::ranges::find_if(keywords, isMeant);
+        return found == keywords.end() ? -1 : found - keywords.begin();
+    };
+    const qsizetype whole =
+        find([&](const QString &keyword) { return keywordName(keyword).compare(word, Qt::CaseInsensitive) == 0; });
+    return whole >= 0 ? whole : find([&](const QString &keyword) { return isShortFor(word, keyword); });
+}
+
 } // namespace
 
 QStringList optionsIn(const QString &prompt)
@@ -76,15 +92,16 @@ QString keywordAnswer(const QString &keyword)
 std::optional<QString> matchKeyword(const QString &typed, const QStringList &keywords)
 {
     const QString word = typed.startsWith(u'_') ? typed.mid(1) : typed;
-    if (word.isEmpty())
-        return {};
-    for (const QString &keyword : keywords)
-        if (keywordName(keyword).compare(word, Qt::CaseInsensitive) == 0)
-            return keywordAnswer(keyword);
-    for (const QString &keyword : keywords)
-        if (isShortFor(word, keyword))
-            return keywordAnswer(keyword);
-    return {};
+    const qsizetype place = findKeyword(word, keywords);
+    return place < 0 ? std::nullopt : std::optional(keywordAnswer(keywords[place]));
+}
+
+std::optional<QString> matchKeyword(const QString &typed, const QStringList &keywords, const QStringList &answers)
+{
+    if (answers.isEmpty() || typed.startsWith(u'_'))
+        return matchKeyword(typed, answers.isEmpty() ? keywords : answers);
+    const qsizetype place = findKeyword(typed, keywords);
+    return place < 0 ? std::nullopt : std::optional(keywordAnswer(answers.value(place, keywords[place])));
 }
 
 QString formatPrompt(const QString &prompt, const QStringList &keywords, const QString &defaultText)

@@ -11,6 +11,9 @@ namespace host::kernel {
 /// ("LTscale" by "LT"; "eXit" by "X"), or to what follows a comma ("LTYPE,LT"). Letter case does not matter, and a
 /// leading "_" is skipped. A whole keyword goes before an abbreviation, the first in the list before later ones.
 std::optional<QString> matchKeyword(const QString &typed, const QStringList &keywords);
+/// The same where the keywords are those of the user's language, and programs get the one at the same place of
+/// `answers`, which may also be typed behind a "_".
+std::optional<QString> matchKeyword(const QString &typed, const QStringList &keywords, const QStringList &answers);
 
 /// The keywords that a prompt lists in its last brackets: "Close" and "3P" of "or [Close/3P (three points)]: ".
 QStringList optionsIn(const QString &prompt);

@@ -18,10 +18,6 @@ namespace {
 
 using drawing::Vec3;
 
-// Values of ERRNO that programs look at behind a pick.
-constexpr qint32 pickMissed = 7;
-constexpr qint32 emptyAnswer = 52;
-
 /// Of prompts that have options beside what they ask for; empty of the others.
 QString refusalWithOptions(PromptKind kind)
 {
@@ -124,7 +120,7 @@ PromptDialogue::Reading PromptDialogue::readText(const QString &text)
 {
     if (text.isEmpty())
         return readEmpty();
-    if (const auto keyword = matchKeyword(text, m_request.keywords))
+    if (const auto keyword = matchKeyword(text, m_request.keywords, m_request.answers))
         return {replyOf(m_request.kind == PromptKind::Keyword ? ReplyKind::Value : ReplyKind::Keyword, *keyword), {}};
     if (takePointWord(text) || takeSnapWord(text))
         return {};

@@ -13,6 +13,10 @@ enum class ReplyKind
     Cancelled ///< Esc, or nobody there
 };
 
+// Values of ERRNO that programs look at behind a pick.
+constexpr qint32 pickMissed = 7;
+constexpr qint32 emptyAnswer = 52;
+
 /// A checked answer. Which member holds the value depends on the request's kind.
 struct PromptReply
 {

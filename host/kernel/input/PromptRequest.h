@@ -59,6 +59,7 @@ struct PromptRequest
     PromptKind kind = PromptKind::Command;
     QString prompt;                    ///< as it is printed, line feeds included
     QStringList keywords;              ///< as (initget) got them: "Auto", "LType,LT", a blank in a keyword is possible
+    QStringList answers{};             ///< what each of them is told as; empty: itself
     QString defaultText;               ///< what an empty answer means; empty when there is no default
     int bits = 0;                      ///< InputBit
     std::optional<drawing::Vec3> base; ///< where a rubber band starts; world coordinates

@@ -117,7 +117,7 @@ void SelectionBuilder::addIdle(const PromptReply &reply)
         finishShape();
     } else if (reply.entities.empty() && !reply.isSet && (m_isMultiple || !startsWindow)) {
         tellFound(0);
-    } else if (reply.entities.empty()) {
+    } else if (reply.entities.empty() && m_size != SelectionSize::OnePicking) {
         // Nothing at the picked point: it is the first corner of a window.
         m_shape = ShapeKind::Window;
         m_shapeByDirection = true;
@@ -260,7 +260,7 @@ void SelectionBuilder::take(const std::vector<RecordId> &found, SelectionStep st
     if (!step.entities.empty() || !step.found.empty())
         m_steps.push_back(std::move(step));
     tellFound(count);
-    if (m_size == SelectionSize::Single && count > 0)
+    if (m_size != SelectionSize::Many && (m_size != SelectionSize::Single || count > 0))
         m_isDone = true;
 }
 

@@ -13,8 +13,10 @@ namespace host::kernel {
 
 enum class SelectionSize
 {
-    Many,  ///< until an empty answer
-    Single ///< one step
+    Many,      ///< until an empty answer
+    Single,    ///< one step that found something
+    OneStep,   ///< one step, whatever it found
+    OnePicking ///< one step, and a place with nothing there is one: it does not begin a window
 };
 
 /// What a shape counts as, and its corners: of a window all four, from the user's axes.

@@ -6,6 +6,7 @@
 #include "host/kernel/documents/Document.h"
 #include "host/kernel/input/SelectionBuilder.h"
 #include "host/kernel/input/UserInput.h"
+#include "host/kernel/variables/SystemVariables.h"
 
 #include <algorithm>
 
@@ -103,12 +104,15 @@ std::function<bool(RecordId)> acceptance(const Document &document, const Selecti
 SelectionOutcome chosenByUser(Document &document, const SelectionQuery &query)
 {
     const bool isSingle = query.flags.contains(QStringLiteral("S"));
-    SelectionBuilder builder(document, isSingle ? SelectionSize::Single : SelectionSize::Many,
-                             acceptance(document, query));
+    const SelectionSize single = query.picksOnly ? SelectionSize::OnePicking : SelectionSize::OneStep;
+    SelectionBuilder builder(document, isSingle ? single : SelectionSize::Many, acceptance(document, query));
     if (!query.prompt.isEmpty())
         builder.setPrompt(query.prompt);
+    PromptReply reply;
     while (!builder.isDone())
-        builder.add(document.prompts().ask(builder.request()));
+        builder.add(reply = document.prompts().ask(builder.request()));
+    if (isSingle && builder.entities().empty())
+        document.variables().setInternally(u"ERRNO", reply.isEmpty() ? emptyAnswer : pickMissed);
     return {builder.isCancelled(), builder.entities(), builder.steps()};
 }
 
@@ -140,9 +144,10 @@ SelectionOutcome choose(Document &document, const SelectionQuery &query)
 
 void SelectionQuery::setMode(const QString &mode)
 {
-    const QStringList parts = mode.toUpper().split(u':');
+    QString whole = mode.toUpper().remove(u'_');
+    picksOnly = whole.contains(u'.');
+    const QStringList parts = whole.remove(u'+').remove(u'.').split(u':');
     method = parts.front();
-    method.remove(u'_').remove(u'+').remove(u'.');
     flags = parts.mid(1);
 }
 

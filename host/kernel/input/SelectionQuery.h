@@ -26,7 +26,8 @@ struct SelectionQuery
 {
     QString prompt;                    ///< for the user; empty: the usual one
     QString method;                    ///< "X", "W", ...; empty for the user's choice
-    QStringList flags;                 ///< behind a colon: "S" single, "L" no locked layers, ...
+    QStringList flags;                 ///< behind a colon: "S" one step, whatever it finds, "L" no locked layers, ...
+    bool picksOnly = false;            ///< "+.": with S, a place with nothing there begins no window
     std::vector<drawing::Vec3> points; ///< world coordinates
     std::optional<drawing::SelectionFilter> filter;
 

@@ -9,6 +9,9 @@
 #include "host/kernel/variables/SystemVariables.h"
 #include "host/lisp/Error.h"
 
+#include <algorithm>
+#include <utility>
+
 namespace host::kernel {
 
 namespace {
@@ -134,12 +137,21 @@ void UserInput::initget(int bits, const QStringList &keywords)
     m_bits = bits & 0xffff; // what lies above is not for programs
     m_keywords = keywords;
     m_keywords.removeAll(QString());
+    // "Ja Nein _Yes No": from the underscore on it is what programs are told.
+    const auto first = std::ranges::find_if(m_keywords, [](const QString &word) { return word.startsWith(u'_'); });
+    m_answers = m_keywords.mid(first - m_keywords.begin());
+    m_keywords.resize(m_keywords.size() - m_answers.size());
+    for (QString &answer : m_answers)
+        answer.remove(0, answer.startsWith(u'_') ? 1 : 0);
+    if (m_keywords.isEmpty())
+        m_keywords = std::exchange(m_answers, {});
 }
 
 void UserInput::applyOptions(PromptRequest &request)
 {
     request.bits = m_bits;
     request.keywords = m_keywords;
+    request.answers = m_answers;
     forgetOptions();
 }
 
@@ -147,6 +159,7 @@ void UserInput::forgetOptions()
 {
     m_bits = 0;
     m_keywords.clear();
+    m_answers.clear();
 }
 
 OdString UserInput::formatPrompt(const OdString &prompt, const OdString &defaultText) const

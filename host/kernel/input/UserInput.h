@@ -98,6 +98,7 @@ private:
     GivenAnswers m_given;
     int m_bits = 0;         ///< InputBit, of the last initget()
     QStringList m_keywords; ///< likewise
+    QStringList m_answers;  ///< likewise
     QString m_input;        ///< the keyword or other text that answered last
 };
 

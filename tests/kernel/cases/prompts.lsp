@@ -45,6 +45,10 @@
 (initget "Undo eXit")(getpoint) ;< x ;= "eXit"
 (initget 128)(getpoint) ;< whatever ;= "whatever"
 (initget "LType LWeight Color")(getkword) ;< lw ;= "LWeight"
+(initget "Ja Nein _Yes No")(getkword) ;< n ;= "No"
+(initget "Ja Nein _Yes No")(getkword) ;< yes\n_yes ;= "Yes"
+(initget "Undo eXit _Zurueck Ende")(getpoint) ;< x ;= "Ende"
+(initget nil "_Abc Def")(getkword) ;< abc ;= "Abc"
 (initget 1 "Yes No")(getkword) ;< maybe\n\ny ;= "Yes"
 (initget "Yes No")(getkword) ;< ;= nil
 (initget "2D 3D")(getint) ;< 2D ;= "2D"

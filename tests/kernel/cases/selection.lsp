@@ -42,6 +42,9 @@
 (types (ssget)) ;< l\n\n ;= ("TEXT")
 (types (ssget '((0 . "CIRCLE")))) ;< all\n\n ;= ("CIRCLE")
 (places (ssget ":S")) ;< 0,2\n ;= (0.0)
+(ssget ":S" '((0 . "CIRCLE"))) ;< 0,2\n ;= nil
+(list (ssget "_+.:E:S") (getvar "ERRNO")) ;< 15,3\n ;= (nil 7)
+(list (ssget "_+.:E:S") (getvar "ERRNO")) ;< \n ;= (nil 52)
 (ssget) ;< \n ;= nil
 (count (ssget)) ;< foo\nall\n\n ;= 5
 (types (ssget)) ;< (entlast)\n\n ;= ("TEXT")
