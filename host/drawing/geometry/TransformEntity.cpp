@@ -58,6 +58,7 @@ bool planPolyline(const Drawing &drawing, RecordId polyline, const Matrix &matri
                 field->value = field->real() * plane.factor();
         }
     }
+    transformXdata(head, matrix);
     changes.emplace_back(polyline, std::move(head));
     return true;
 }

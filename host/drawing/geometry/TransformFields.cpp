@@ -456,7 +456,18 @@ bool transformFields(FieldList &fields, const Matrix &matrix)
             return false;
     }
     fields.insert(fields.end(), behind.begin(), behind.end());
+    transformXdata(fields, matrix);
     return true;
+}
+
+void transformXdata(FieldList &fields, const Matrix &matrix)
+{
+    mapPoints(fields, {1011}, [&](const Vec3 &p) { return matrix.point(p); });
+    mapPoints(fields, {1012}, [&](const Vec3 &d) { return matrix.direction(d); });
+    mapPoints(fields, {1013}, [&](const Vec3 &d) { return normalized(matrix.direction(d)); });
+    for (Field &field : fields)
+        if (field.code == 1041 || field.code == 1042)
+            field.value = field.real() * matrix.xAxis.length();
 }
 
 } // namespace host::drawing

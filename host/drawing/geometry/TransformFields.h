@@ -41,6 +41,9 @@ void setOwnField(FieldList &fields, int code, const FieldValue &value);
 /// Changes the fields of one entity record; false when the map cannot be applied to it or the type is not known. They
 /// may be half changed then: who keeps the entity drops them.
 bool transformFields(FieldList &fields, const Matrix &matrix);
+/// The part of transformFields() that changes extended data: places (1011) are mapped, displacements (1012) and
+/// directions (1013) turned, distances (1041) and factors (1042) scaled.
+void transformXdata(FieldList &fields, const Matrix &matrix);
 /// The part of transformFields() that a HATCH takes: its boundary, pattern and seed points in the plane.
 bool transformHatch(FieldList &fields, const PlaneMap &plane);
 /// The part that models as text take (see SolidText.h): they are placed elsewhere, by a map that scales all directions
