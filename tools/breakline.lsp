@@ -47,6 +47,7 @@
       (setq centre (mapcar '(lambda (low high) (/ (+ low high) 2.0)) (car box) (cadr box)))
       (if (findfile path) (vl-file-delete path))
       (command "_.-WBLOCK" path "" (trans centre 0 1) selection "")
+      (if (findfile path) (command "_.OOPS"))
       (if (findfile path)
         (kora_writestate file (list (cons "lbtitleblock" path)))
         (kora_alert_message (strcat "The symbol could not be written to " path "."))))

@@ -1,4 +1,5 @@
 #include "host/commands/Commands.h"
+#include "host/commands/common/EntityEdits.h"
 #include "host/drawing/editing/CopyBetweenDrawings.h"
 #include "host/drawing/file/Save.h"
 #include "host/drawing/records/Blocks.h"
@@ -18,22 +19,24 @@ namespace {
 
 using drawing::RecordId;
 
-/// Writes a new drawing under a name; a name ending in .dwg is what the tools call their symbol files.
-void writeDrawing(CommandContext &context, const std::unique_ptr<drawing::Drawing> &made, const QString &path)
+/// Writes a new drawing under a name; a name ending in .dwg is what the tools call their symbol files. Whether it was
+/// written.
+bool writeDrawing(CommandContext &context, const std::unique_ptr<drawing::Drawing> &made, const QString &path)
 {
     if (!made) {
         context.print(u"\nNothing to write."_s);
-        return;
+        return false;
     }
     const bool isSymbol = path.endsWith(u".dwg"_s, Qt::CaseInsensitive);
     const drawing::SaveResult result = isSymbol ? drawing::saveSymbolCopy(*made, path) : drawing::saveCopy(*made, path);
     context.print(!result    ? u'\n' + result.error
                   : isSymbol ? u"\n%1 was written as DXF text."_s.arg(path)
                              : u"\n%1 was written."_s.arg(path));
+    return bool(result);
 }
 
 // File name, then a block's name, "*" for the whole drawing, or an empty answer to choose entities and their base
-// point. What is chosen stays in the drawing.
+// point. What is chosen and written goes out of the drawing; OOPS brings it back.
 CommandTask writeBlock(CommandContext &context)
 {
     Document &document = context.document();
@@ -75,7 +78,8 @@ CommandTask writeBlock(CommandContext &context)
     }
     const PromptReply base = co_await context.point(u"Specify insertion base point: "_s);
     const PromptReply chosen = co_await context.selection();
-    writeDrawing(context, drawing::wblock(context.drawing(), chosen.entities, base.point), path);
+    if (writeDrawing(context, drawing::wblock(context.drawing(), chosen.entities, base.point), path))
+        takeOut(context, editable(context, chosen.entities));
 }
 
 } // namespace

@@ -110,7 +110,7 @@ CommandTask redoMany(CommandContext &context)
                                                   : reply.integer);
 }
 
-/// Brings back what ERASE, or the making of a block, took out last, also behind other commands.
+/// Brings back what ERASE, or the making or writing of a block, took out last, also behind other commands.
 CommandTask oops(CommandContext &context)
 {
     drawing::Drawing &drawing = context.drawing();

@@ -29,7 +29,7 @@ struct CommandMemory
     std::vector<UserSystem> formerSheetSystems;
     std::vector<LayerStates> formerLayers;   ///< before each command over layers, oldest first, the last ten
     LayerStates beforeIsolation;             ///< by LAYISO, for LAYUNISO; empty when there is none
-    std::vector<drawing::RecordId> takenOut; ///< by the last ERASE or making of a block, for OOPS
+    std::vector<drawing::RecordId> takenOut; ///< by the last ERASE, or making or writing of a block, for OOPS
     int undosBefore = 0;                     ///< UndoSteps::undoCount() at that time
     bool isolationTurnsOff = false;          ///< LAYISO turns layers off instead of locking them
 };

@@ -50,9 +50,11 @@ a ;! (setq a (+ 1 2))\n!a\n ;> \n3 ;= 3
 (command "LINE" '(0 0) '(10 0) "")(field 11) ;= (10.0 30.0 0.0)
 (alert "Mind the gap") ;> Mind the gap ;= nil
 
-; WBLOCK and -INSERT carry a drawing; what was written stays
+; WBLOCK and -INSERT carry a drawing; what was written goes, and OOPS brings it back
 (command "LINE" '(10 10) '(12 10) "")(command "CIRCLE" '(50 50) 1)
 (command "_.-WBLOCK" (strcat dir "symbol.dwg") "" '(10 10) (ssget "X" '((0 . "LINE"))) "")
+(mapcar 'car (shapes)) ;= ("CIRCLE")
+(command "_.OOPS")
 (list (mapcar 'car (shapes)) (vl-file-size (strcat dir "none")) (< 100 (vl-file-size (strcat dir "symbol.dwg"))))
 ;= (("LINE" "CIRCLE") nil T)
 (command "_.-INSERT" (strcat "SYM=" dir "symbol.dwg") '(1 1) 1 1 0)(list (field 2) (field 10)) ;= ("SYM" (1.0 1.0 0.0))
