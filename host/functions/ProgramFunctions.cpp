@@ -128,12 +128,6 @@ Value productKey(Arguments &)
     return Value::string("Software\\Ortakit\\1.0");
 }
 
-// (vl-bt) -> nil. Errors tell their calls by themselves.
-Value noBacktrace(Arguments &)
-{
-    return {};
-}
-
 /// A defined command's symbol, by a symbol or its name.
 std::string functionNameAt(Arguments &args, std::size_t index)
 {
@@ -157,6 +151,38 @@ Value vlAcadUndefun(Arguments &args)
     return args.boolean(true);
 }
 
+// (vlax-add-cmd name function [name in the user's language] [flags]) -> the name. The function, as a symbol, can be
+// called by that name as a command.
+Value vlaxAddCmd(Arguments &args)
+{
+    const Value function = args.interpreter().resolveFunction(args[1]);
+    args.interpreter().intern("C:" + args.string(0)).value() = function;
+    return args[0];
+}
+
+// (vlax-remove-cmd name) -> T when there was such a command, which is gone now; else nil.
+Value vlaxRemoveCmd(Arguments &args)
+{
+    const std::string name = "C:" + args.string(0);
+    const bool isThere = args.interpreter().isDefined(name);
+    if (isThere)
+        args.interpreter().intern(name).value() = Value();
+    return args.boolean(isThere);
+}
+
+// (help [file [topic [command]]]), (initdia [flag]) and what else has nothing to do here -> nil.
+Value nothing(Arguments &)
+{
+    return {};
+}
+
+// (setfunhelp name [file [topic [command]]]) -> the name.
+Value setfunhelp(Arguments &args)
+{
+    args.string(0);
+    return args[0];
+}
+
 } // namespace
 
 void addProgramFunctions(lisp::Interpreter &interpreter)
@@ -172,9 +198,21 @@ void addProgramFunctions(lisp::Interpreter &interpreter)
         {"initcommandversion", initcommandversion, Arity::between(0, 1), "[version]",
          "T: commands have one version here"},
         {"getcname", getcname, Arity::exactly(1), "name", "a command's name for all languages, or for this one"},
+        {"vlax-add-cmd", vlaxAddCmd, Arity::between(2, 4), "name function [local [flags]]",
+         "makes a function a command of that name"},
+        {"vlax-remove-cmd", vlaxRemoveCmd, Arity::exactly(1), "name", "takes such a command away"},
+        {"autoarxload", nothing, Arity::exactly(2), "name commands", "nothing: programs load no modules"},
+        {"initdia", nothing, Arity::between(0, 1), "[flag]", "nothing: commands ask programs on the command line"},
+        {"help", nothing, Arity::between(0, 3), "[file [topic [command]]]", "nothing: no help files are shown"},
+        {"acad_helpdlg", nothing, Arity::between(0, 2), "file [topic]", "the same"},
+        {"setfunhelp", setfunhelp, Arity::between(1, 4), "name [file [topic [command]]]",
+         "the name: no help files are shown"},
+        {"vl-bt-on", nothing, Arity::exactly(0), "", "nothing: errors tell their calls"},
+        {"vl-bt-off", nothing, Arity::exactly(0), "", "the same"},
+        {"vlax-user-product-key", productKey, Arity::exactly(0), "", "where programs keep their settings"},
         {"vlax-product-key", productKey, Arity::exactly(0), "", "where programs keep their settings"},
         {"vlax-machine-product-key", productKey, Arity::exactly(0), "", "the same"},
-        {"vl-bt", noBacktrace, Arity::exactly(0), "", "nothing: errors tell their calls"},
+        {"vl-bt", nothing, Arity::exactly(0), "", "nothing: errors tell their calls"},
         {"vl-acad-defun", vlAcadDefun, Arity::exactly(1), "symbol", "lets modules call a function, as they can any"},
         {"vl-acad-undefun", vlAcadUndefun, Arity::exactly(1), "symbol", "takes a function's definition away"},
     };

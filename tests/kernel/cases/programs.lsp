@@ -1,6 +1,8 @@
 ; Programs beside this one are started where the user's own settings say so, which none can change
 (startapp "true" "x") ;= nil ;> true is not started
 (list (arxload "nosuch" nil) (arxload "nosuch" 5) (arxunload "nosuch" nil) (arx)) ;= (nil 5 nil nil)
+(vlax-add-cmd "uno" '(lambda () 7))(list (c:uno) (vlax-remove-cmd "uno") (vlax-remove-cmd "uno")) ;= (7 T nil)
+(list (initdia) (initdia 1) (setfunhelp "c:x" "x.chm") (autoarxload "a" '("B")) (help) (vl-bt-on)) ;= (nil nil "c:x" nil nil nil)
 (arxload "nosuch") ;= error: programs load no modules: "nosuch" in (ARXLOAD)
 (list (getcname "_line") (getcname "line") (getcname "nosuch") (initcommandversion) (vl-bt)) ;= ("LINE" "_LINE" nil T nil)
 (defun gone () 1) (list (vl-acad-defun 'gone) (vl-acad-undefun 'gone) (vl-acad-undefun "GONE") gone) ;= (GONE T nil nil)
