@@ -91,6 +91,20 @@ bool isOrdered(const QString &type)
     return types.contains(type);
 }
 
+/// A part of a long text; there may be any number.
+constexpr int chunkCode = 3;
+
+/// Types that have each of their groups once, the chunks of a text aside.
+bool isPlain(const QString &type)
+{
+    static const QStringList types = {
+        QStringLiteral("LINE"),   QStringLiteral("CIRCLE"), QStringLiteral("ARC"),    QStringLiteral("ELLIPSE"),
+        QStringLiteral("POINT"),  QStringLiteral("TEXT"),   QStringLiteral("ATTRIB"), QStringLiteral("ATTDEF"),
+        QStringLiteral("MTEXT"),  QStringLiteral("INSERT"), QStringLiteral("VERTEX"), QStringLiteral("DIMENSION"),
+        QStringLiteral("3DFACE"), QStringLiteral("SOLID"),  QStringLiteral("LAYER"),  QStringLiteral("STYLE")};
+    return types.contains(type);
+}
+
 FieldList::iterator findMarker(FieldList &fields)
 {
     return std::find_if(fields.begin(), fields.end(), [](const Field &field) { return field.code == subclassCode; });
@@ -115,6 +129,8 @@ public:
         FieldList result = hasSameShape() ? substituted() : rebuilt();
         if (m_type == QStringLiteral("MTEXT"))
             adjustParagraph(result);
+        if (m_type == QStringLiteral("LWPOLYLINE"))
+            adjustWidths(result);
         appendXdata(result);
         return result;
     }
@@ -124,15 +140,38 @@ private:
     {
         const AngleForm angles = angleForm(m_document.drawing(), m_record);
         KeyMaker keys;
+        QHash<Key, int> left = occurrences(list);
         for (const Value &item : lisp::ListItems(list)) {
-            const int code = item.car().isInteger() ? item.car().asInteger() : 0;
+            const int code = codeOf(item);
             if (code == xdataCode) {
                 for (const Value &application : lisp::ListItems(item.cdr()))
                     m_applications.push_back(application);
             } else if (code >= 0) {
-                readGroup(item, keys.take(code), angles);
+                const Key key = keys.take(code);
+                if (--left[key] == 0 || !isSingle(key))
+                    readGroup(item, key, angles);
             }
         }
+    }
+
+    static int codeOf(const Value &item) { return item.car().isInteger() ? item.car().asInteger() : 0; }
+
+    static QHash<Key, int> occurrences(const Value &list)
+    {
+        QHash<Key, int> counts;
+        KeyMaker keys;
+        for (const Value &item : lisp::ListItems(list))
+            if (codeOf(item) >= 0)
+                ++counts[keys.take(codeOf(item))];
+        return counts;
+    }
+
+    /// Whether a record has one such group: programs put a new one behind the old, and the last counts.
+    bool isSingle(const Key &key) const
+    {
+        constexpr int lastOwnCode = 79;
+        const bool isOwn = key.code > 0 && key.code <= lastOwnCode && key.code != chunkCode && isPlain(m_type);
+        return !key.isEmbedded && (drawing::isCommonCode(key.code) || (isOwn && m_shownByKey.value(key).size() == 1));
     }
 
     void readGroup(const Value &item, const Key &key, AngleForm angles)
@@ -283,6 +322,20 @@ private:
             remove(42);
             remove(43);
         }
+    }
+
+    /// A changed width of the whole takes the place of those of the vertices, unless the program changed these as well.
+    void adjustWidths(FieldList &fields) const
+    {
+        const auto isWidth = [](const Field &field) { return field.code == 40 || field.code == 41; };
+        bool isWholeChanged = false;
+        for (const Given &given : m_given) {
+            if (isWidth(given.field) && !given.isSame)
+                return;
+            isWholeChanged = isWholeChanged || (given.field.code == 43 && !given.isSame);
+        }
+        if (isWholeChanged)
+            std::erase_if(fields, isWidth);
     }
 
     /// Each application's data in its place, as the list has it where it names the application.

@@ -58,6 +58,15 @@ bool isPlainCode(int code)
     return code != 5 && code != 105 && code != 100 && code != 102 && code != 330 && code != 360 && code < 1000;
 }
 
+/// What a BLOCK has in the file alone: its name twice, the layer of its marker, the path of no file; and what of a
+/// LAYER came to it later, which only (entget) gives.
+bool isFileMatter(drawing::RecordKind kind, QByteArrayView type, const drawing::Field &field)
+{
+    if (kind == drawing::RecordKind::Block)
+        return field.code == 3 || field.code == 8 || (field.code == 1 && field.text().isEmpty());
+    return type == "LAYER" && field.code > 70;
+}
+
 /// The entry as the table functions give it: (0 . "LAYER") (2 . "0") ..., a block with its first entity at the end.
 Value tableList(Arguments &args, RecordId entry)
 {
@@ -66,17 +75,11 @@ Value tableList(Arguments &args, RecordId entry)
     lisp::ListBuilder list;
     const bool isBlock = drawing.kind(entry) == drawing::RecordKind::Block;
     for (const drawing::Field &field : drawing.fields(entry)) {
-        // A BLOCK has its name twice in the file, and the layer of its marker.
-        const bool isFileMatter = isBlock && (field.code == 3 || field.code == 8);
-        if (isPlainCode(field.code) && !isFileMatter)
+        if (isPlainCode(field.code) && !isFileMatter(drawing.kind(entry), drawing.typeName(entry), field))
             list.append(toListItem(document, field, AngleForm::Radians));
     }
-    if (isBlock) {
-        const RecordId first = drawing.firstChild(entry);
-        const RecordId shown = isValid(first) ? first : drawing.endOf(entry);
-        if (isValid(shown))
-            list.append(Value::cons(Value::integer(-2), toLisp(shown)));
-    }
+    if (const RecordId first = isBlock ? firstInBlock(drawing, entry) : drawing::noRecord; isValid(first))
+        list.append(Value::cons(Value::integer(-2), toLisp(first)));
     return list.take();
 }
 

@@ -8,6 +8,7 @@
 #include <QHash>
 
 #include <numbers>
+#include <utility>
 
 namespace host::drawing {
 
@@ -19,6 +20,7 @@ constexpr int paperCode = 67;
 constexpr int layoutCode = 410;
 constexpr int vertexCode = 10;
 constexpr int constantWidthCode = 43;
+constexpr int polylineHead[] = {70, constantWidthCode, 38, 39};
 
 const Field extrusion{210, Vec3{0.0, 0.0, 1.0}};
 
@@ -114,10 +116,15 @@ std::optional<Field> impliedInPolyline(const TagList &tags, int code)
         return Field{code, 0.0};
     if (code != constantWidthCode)
         return Field{code, tags.real(constantWidthCode)};
-    const auto isWide = [](double width) { return width != 0.0; };
-    if (std::ranges::any_of(tags.reals(40), isWide) || std::ranges::any_of(tags.reals(41), isWide))
+    // One width for all, which each vertex may say for itself.
+    std::vector<double> widths = tags.reals(40);
+    const std::vector<double> ends = tags.reals(41);
+    const bool isWhole = widths.size() == tags.points(vertexCode).size() && ends.size() == widths.size();
+    widths.insert(widths.end(), ends.begin(), ends.end());
+    const double width = isWhole && !widths.empty() ? widths.front() : 0.0;
+    if (std::ranges::any_of(widths, [width](double each) { return each != width; }))
         return std::nullopt;
-    return Field{code, 0.0};
+    return Field{code, width};
 }
 
 Field impliedInParagraph(const TagList &tags, int code)
@@ -157,9 +164,13 @@ public:
                 showImplied();
             if (field == owner)
                 continue;
+            if (m_isLightPolyline && field->code == vertexCode)
+                showPolylineHead();
             show(field);
             if (field->code == 0 && owner != m_fields.end())
                 show(owner);
+            if (field->code == 100 && field->text() == u"AcDbEntity")
+                showSpace();
             if (m_isLightPolyline && field->code == vertexCode)
                 showVertex(field);
         }
@@ -184,13 +195,35 @@ private:
 
     void showImplied()
     {
+        showPolylineHead();
         for (const Field &usual : usualFields(m_drawing.typeName(m_record)))
-            if (!m_tags.find(usual.code))
+            if (!m_tags.find(usual.code) && !isOfPolylineHead(usual.code))
                 showImplied(usual.code);
-        if (m_drawing.kind(m_record) != RecordKind::Entity || m_drawing.version() < Version::R2000)
+        showSpace();
+    }
+
+    /// Programs tell spaces apart by these two.
+    void showSpace()
+    {
+        const bool isEntity = m_drawing.kind(m_record) == RecordKind::Entity;
+        if (std::exchange(m_hasSpace, true) || !isEntity || m_drawing.version() < Version::R2000)
             return;
-        // Programs tell spaces apart by these two.
         for (const int code : {paperCode, layoutCode})
+            if (!m_tags.find(code))
+                showImplied(code);
+    }
+
+    bool isOfPolylineHead(int code) const
+    {
+        return m_isLightPolyline && std::ranges::find(polylineHead, code) != std::end(polylineHead);
+    }
+
+    /// Width, elevation and thickness stand before the vertices: programs take "all behind the thickness" for these.
+    void showPolylineHead()
+    {
+        if (!m_isLightPolyline || std::exchange(m_hasPolylineHead, true))
+            return;
+        for (const int code : polylineHead)
             if (!m_tags.find(code))
                 showImplied(code);
     }
@@ -210,6 +243,8 @@ private:
     RecordId m_record;
     TagList m_tags;
     bool m_isLightPolyline;
+    bool m_hasSpace = false;
+    bool m_hasPolylineHead = false;
     std::vector<ShownField> m_shown;
 };
 

@@ -23,8 +23,9 @@ struct ShownField
     int origin = implied; ///< which of the record's fields it is
 };
 
-/// The record's fields as programs see them, extended data aside: the owner directly behind the type; behind the
-/// entity's own groups, or for widths and bulges behind each vertex, what is implied and programs count on.
+/// The record's fields as programs see them, extended data aside: the owner directly behind the type, the space and
+/// layout behind the marker of all entities; behind the entity's own groups, or of an LWPOLYLINE before the vertices
+/// and for widths and bulges behind each of them, what is implied and programs count on.
 std::vector<ShownField> shownFields(const Drawing &drawing, RecordId record, const FieldList &fields);
 
 } // namespace host::drawing

@@ -29,6 +29,7 @@ using drawing::xdataCode;
 using lisp::Value;
 
 constexpr int nameCode = -1;
+constexpr int relatedCode = -2;
 
 /// Marks the entity name of a handle that leads nowhere, so that handing the list back keeps it.
 constexpr std::uint64_t danglingBit = std::uint64_t(1) << 63;
@@ -267,6 +268,25 @@ std::vector<drawing::ShownField> shownFields(const Document &document, RecordId 
     return shown;
 }
 
+namespace {
+
+/// What programs know by -2: of a SEQEND the entity that it ends, of a BLOCK the first entity within. noRecord for
+/// others.
+RecordId relatedTo(const drawing::Drawing &drawing, RecordId record)
+{
+    if (drawing.isType(record, "SEQEND"))
+        return drawing.parent(record);
+    return drawing.kind(record) == drawing::RecordKind::Block ? firstInBlock(drawing, record) : drawing::noRecord;
+}
+
+} // namespace
+
+RecordId firstInBlock(const drawing::Drawing &drawing, RecordId block)
+{
+    const RecordId first = drawing.firstChild(block);
+    return isValid(first) ? first : drawing.endOf(block);
+}
+
 Value entityList(const Document &document, RecordId record, const QStringList &applications)
 {
     const AngleForm angles = angleForm(document.drawing(), record);
@@ -275,6 +295,8 @@ Value entityList(const Document &document, RecordId record, const QStringList &a
     list.append(Value::cons(Value::integer(nameCode), toLisp(record)));
     for (const drawing::ShownField &shown : shownFields(document, record, fields))
         list.append(toListItem(document, shown.field, angles));
+    if (const RecordId related = relatedTo(document.drawing(), record); isValid(related))
+        list.append(Value::cons(Value::integer(relatedCode), toLisp(related)));
     if (const Value xdata = xdataItem(document, fields, applications); xdata.isTrue())
         list.append(xdata);
     return list.take();

@@ -42,6 +42,8 @@ void appendXdata(const Document &document, const lisp::Value &application, drawi
 bool isEntityKind(drawing::RecordKind kind);
 /// The entity behind another, going into its parts; in a block up to its end. noRecord behind the last.
 drawing::RecordId entityBehind(const drawing::Drawing &drawing, drawing::RecordId entity);
+/// A block's first entity; of an empty one the ENDBLK.
+drawing::RecordId firstInBlock(const drawing::Drawing &drawing, drawing::RecordId block);
 
 /// How programs see the angles of a record.
 AngleForm angleForm(const drawing::Drawing &drawing, drawing::RecordId record);

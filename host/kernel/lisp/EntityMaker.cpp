@@ -1,6 +1,7 @@
 #include "host/kernel/lisp/EntityMaker.h"
 
 #include "host/drawing/records/Blocks.h"
+#include "host/drawing/records/EntityRules.h"
 #include "host/drawing/records/Journal.h"
 #include "host/drawing/records/Layouts.h"
 #include "host/drawing/records/Structure.h"
@@ -8,6 +9,10 @@
 #include "host/kernel/documents/CurrentSpace.h"
 #include "host/kernel/documents/Document.h"
 #include "host/kernel/variables/SystemVariables.h"
+
+#include <QSet>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -73,15 +78,28 @@ std::optional<drawing::Space> namedSpace(const drawing::Drawing &drawing, const 
     return isPaper ? drawing::Space::Paper : drawing::Space::Model;
 }
 
+/// The list with each property of all entities once: programs put a new one behind the old, and the last counts.
+FieldList withoutRepeats(const FieldList &fields)
+{
+    FieldList result;
+    QSet<int> seen;
+    for (auto field = fields.rbegin(); field != fields.rend(); ++field) {
+        const bool isRepeated = seen.contains(field->code);
+        seen.insert(field->code);
+        if (!isRepeated || !drawing::isCommonCode(field->code))
+            result.push_back(*field);
+    }
+    std::reverse(result.begin(), result.end());
+    return result;
+}
+
 /// The objects that programs can make, with the markers of their classes.
 const QHash<QString, QStringList> &objectMarkers()
 {
     static const QHash<QString, QStringList> markers = {
-        {u"DICTIONARY"_s, {u"AcDbDictionary"_s}},
-        {u"XRECORD"_s, {u"AcDbXrecord"_s}},
-        {u"GROUP"_s, {u"AcDbGroup"_s}},
-        {u"IMAGEDEF"_s, {u"AcDbRasterImageDef"_s}},
-        {u"SPATIAL_FILTER"_s, {u"AcDbFilter"_s, u"AcDbSpatialFilter"_s}},
+        {u"DICTIONARY"_s, {u"AcDbDictionary"_s}},   {u"DICTIONARYVAR"_s, {u"DictionaryVariables"_s}},
+        {u"XRECORD"_s, {u"AcDbXrecord"_s}},         {u"GROUP"_s, {u"AcDbGroup"_s}},
+        {u"IMAGEDEF"_s, {u"AcDbRasterImageDef"_s}}, {u"SPATIAL_FILTER"_s, {u"AcDbFilter"_s, u"AcDbSpatialFilter"_s}},
     };
     return markers;
 }
@@ -139,12 +157,12 @@ EntityMaker::Outcome EntityMaker::finishEntity()
 EntityMaker::Outcome EntityMaker::create(const FieldList &head, const std::vector<FieldList> *parts)
 {
     if (m_block) {
-        m_block->entities.push_back(head);
+        m_block->entities.push_back(withoutRepeats(head));
         m_block->parts.push_back(parts ? *parts : std::vector<FieldList>());
         return waiting();
     }
     drawing::Drawing &drawing = m_document.drawing();
-    FieldList fields = head;
+    FieldList fields = withoutRepeats(head);
     if (!drawing::findField(fields, 8))
         fields.push_back({8, m_document.variables().text(u"CLAYER")});
     const bool isComplex = parts && !parts->empty();
@@ -233,9 +251,20 @@ EntityMaker::Outcome EntityMaker::makeObject(const QString &type, const FieldLis
     FieldList whole = drawing::recordHead(drawing, type, {});
     for (const QString &marker : objectMarkers().value(type))
         whole.push_back({100, marker});
-    std::copy_if(fields.begin(), fields.end(), std::back_inserter(whole), [](const Field &field) {
-        return field.code != 0 && field.code != 5 && field.code != 100 && field.code != 330;
+    const qsizetype head = qsizetype(whole.size());
+    const auto marker = std::find_if(fields.begin(), fields.end(), [](const Field &field) {
+        return field.code == 100 && field.text() == u"AcDbXrecord";
     });
+    if (marker != fields.end())
+        whole.insert(whole.end(), marker + 1, fields.end()); // all of it is data, whatever its groups mean elsewhere
+    else
+        std::copy_if(fields.begin(), fields.end(), std::back_inserter(whole), [](const Field &field) {
+            return field.code != 0 && field.code != 5 && field.code != 100 && field.code != 330;
+        });
+    // How the record is merged stands before its data; programs read what is behind it.
+    const bool saysMerging = qsizetype(whole.size()) > head && whole[head].code == 280;
+    if (type == u"XRECORD" && !saysMerging)
+        whole.insert(whole.begin() + head, {280, qint64(1)});
     const RecordId section = drawing::ensureSection(drawing, drawing::Section::Objects);
     const RecordId last = drawing.previous(drawing.endOf(section));
     const RecordId made = drawing.insert(last, section, drawing::RecordKind::Object, whole);

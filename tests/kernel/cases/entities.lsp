@@ -6,7 +6,7 @@
 ; The list of a new entity
 (list (entnext) (entlast) (handent "FFFFF")) ;= (nil nil nil)
 (eq (wall) (entlast)) ;= T
-(mapcar 'car (entget e)) ;= (-1 0 330 5 100 8 100 10 11 210 67 410)
+(mapcar 'car (entget e)) ;= (-1 0 330 5 100 67 410 8 100 10 11 210)
 (list (eq (group -1 e) e) (eq e (handent (group 5 e))) (group 11 e) (group 2 (group 330 e)))
 ;= (T T (4.0 5.0 6.0) "*Model_Space")
 (setq e (entmakex (list '(0 . "TEXT") '(10 0.0 0.0 0.0) '(40 . 2.5) '(1 . "Höhe") (cons 50 (/ pi 2)))))
@@ -26,6 +26,9 @@
 (entdel e)(group 8 e) ;= "0"
 (entdel (car (entsel))) ;= error: Function cancelled in (ENTSEL)
 (entdel (namedobjdict)) ;= nil
+(defun all (code e) (mapcar 'cdr (vl-remove-if-not '(lambda (f) (= (car f) code)) (entget e))))
+(entmod (append (entget e) '((62 . 5) (8 . "B") (11 9.0 9.0 0.0))))(mapcar '(lambda (c) (all c e)) '(62 8 11)) ;= ((5) ("B") ((9.0 9.0 0.0)))
+(mapcar '(lambda (c) (all c (entmakex (append (entget e) '((62 . 7)))))) '(62 8)) ;= ((7) ("B"))
 
 ; Polylines are made by their ends
 (entmake '((0 . "POLYLINE") (70 . 1)))
@@ -35,12 +38,18 @@
 (entmake '((0 . "VERTEX") (10 0 0 0))) ;= nil
 (setq e (entmakex '((0 . "LWPOLYLINE") (90 . 2) (70 . 0) (10 0.0 0.0) (10 5.0 0.0) (42 . 1.0))))
 (vl-remove-if-not '(lambda (f) (member (car f) '(10 42))) (entget e)) ;= ((10 0.0 0.0) (42 . 0.0) (10 5.0 0.0) (42 . 1.0))
+(mapcar 'car (member '(70 . 0) (entget e))) ;= (70 43 38 39 10 40 41 42 10 40 41 42 210)
+(command "_.PEDIT" e "_W" 0.5 "")(list (group 43 e) (group 40 e)) ;= (0.5 0.5)
+(entmod (subst '(43 . 2.0) '(43 . 0.5) (entget e)))(mapcar '(lambda (c) (group c e)) '(43 40 41)) ;= (2.0 2.0 2.0)
+(entmake '((0 . "POLYLINE")))(entmake '((0 . "VERTEX") (10 0 0 0)))(setq p (entmakex '((0 . "SEQEND"))))
+(setq all (entget (entnext (entnext p))))(list (cdr (assoc 0 all)) (eq p (cdr (assoc -2 all)))) ;= ("SEQEND" T)
 
 ; Blocks are named by theirs
 (entmake '((0 . "BLOCK") (2 . "Door") (70 . 0) (10 1.0 0.0 0.0)))
 (entmake '((0 . "LINE") (8 . "0") (10 0 0 0) (11 0 9 0)))(entmake '((0 . "CIRCLE") (8 . "0") (10 0 0 0) (40 . 9)))
 (list (entmake '((0 . "ENDBLK"))) (entry 10 "BLOCK" "DOOR")) ;= ("Door" (1.0 0.0 0.0))
-(setq p (entry -2 "BLOCK" "DOOR"))(list (group 0 p) (group 0 (entnext p)) (entnext (entnext p))) ;= ("LINE" "CIRCLE" nil)
+(setq p (entry -2 "BLOCK" "DOOR"))(eq p (group -2 (tblobjname "BLOCK" "DOOR"))) ;= T
+(list (group 0 p) (group 0 (entnext p)) (entnext (entnext p))) ;= ("LINE" "CIRCLE" nil)
 (entmake '((0 . "BLOCK") (2 . "Bad") (70 . 0) (10 0 0 0)))(entmake '((0 . "LINE") (10 0 0 0)))
 (list (entmake '((0 . "ENDBLK"))) (tblsearch "BLOCK" "Bad")) ;= (nil nil)
 (entmake '((0 . "INSERT") (2 . "Door") (66 . 1) (10 0 0 0)))
@@ -56,6 +65,19 @@
 ;= (("A1" (1000 . "new")) ("B1" (1040 . 2.5) (1010 1.0 2.0 3.0)))
 (entmod (list (cons -1 e) '(-3 ("B1"))))(entmod (list (cons -1 e) '(62 . 1)))(xdata e '("*")) ;= (("A1" (1000 . "new")))
 
+(setq e (entmakex '((0 . "POINT") (10 0 0 0) (-3 ("A1" (1040 . 1.0) (1041 . 3.0) (1042 . 2.0) (1010 1 0 0) (1011 1 0 0)
+  (1012 1 0 0) (1013 1 0 0))))))
+(command "_.MOVE" e "" '(1 0) "")(command "_.SCALE" e "" '(0 0) 2)(xdata e '("A1"))
+;= (("A1" (1040 . 1.0) (1041 . 6.0) (1042 . 4.0) (1010 1.0 0.0 0.0) (1011 4.0 0.0 0.0) (1012 2.0 0.0 0.0) (1013 1.0 0.0 0.0)))
+
+; Objects of programs: how a record is merged stands before its data, which is kept whole
+(wall)(setq x (entmakex (list '(0 . "XRECORD") '(100 . "AcDbXrecord") '(1 . "a") (cons 330 e))))
+(dictadd (namedobjdict) "MINE" (setq d (entmakex '((0 . "DICTIONARY") (100 . "AcDbDictionary")))))(dictadd d "ONE" x)
+(equal (member '(280 . 1) (dictsearch d "ONE")) (list '(280 . 1) '(1 . "a") (cons 330 e))) ;= T
+(vl-remove-if '(lambda (f) (member (car f) '(-1 5 330))) (entget (entmakex '((0 . "XRECORD") (280 . 0) (70 . 3)))))
+;= ((0 . "XRECORD") (100 . "AcDbXrecord") (280 . 0) (70 . 3))
+(group 1 (entmakex '((0 . "DICTIONARYVAR") (280 . 0) (1 . "v")))) ;= "v"
+
 ; The box of a text reaches from the base line to the capitals' tops, farther with tails, and does not turn
 (setq d '((1 . "Hx") (40 . 2.0) (10 5.0 5.0 0.0)))(mapcar 'cadr (textbox d)) ;= (0.0 2.0)
 (< -1.0 (cadr (car (textbox '((1 . "Hg") (40 . 2.0))))) -0.1) ;= T
@@ -70,8 +92,7 @@
 (list (cdr (assoc 43 old)) (cdr (assoc 43 new)) (< 1.9 (/ (cdr (assoc 42 new)) (cdr (assoc 42 old))) 2.7)) ;= (8.0 3.0 T)
 
 ; Tables
-(vl-remove-if '(lambda (f) (> (car f) 99)) (tblsearch "LAYER" "0"))
-;= ((0 . "LAYER") (2 . "0") (70 . 0) (62 . 7) (6 . "Continuous"))
+(tblsearch "LAYER" "0") ;= ((0 . "LAYER") (2 . "0") (70 . 0) (62 . 7) (6 . "Continuous"))
 (while (tblnext "LTYPE" (not n)) (setq n (1+ (cond (n) (0)))))n ;= 3
 (entmake '((0 . "LAYER") (2 . "B") (70 . 0)))(tblsearch "LAYER" "0" T)(cdr (assoc 2 (tblnext "LAYER"))) ;= "B"
 (tblsearch "NOSUCH" "0") ;= error: bad argument value: table name "NOSUCH" in (TBLSEARCH), argument 1
