@@ -15,6 +15,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr int nameCode = -1;
+constexpr int relatedCode = -2; ///< of a SEQEND: the entity that it ends
 constexpr int handleCode = 5;
 constexpr int ownerCode = 330;
 constexpr int partsFollowCode = 66;
@@ -77,7 +78,7 @@ void writeEntity(QDataStream &out, const EntityData &data, Owner owner)
     bool isOwnerPast = owner == Owner::Counts;
     data.visit([&](int code, const OdResBuf &value) {
         const bool isOwner = code == ownerCode && !std::exchange(isOwnerPast, true);
-        if (code != nameCode && code != handleCode && !isOwner)
+        if (code != nameCode && code != relatedCode && code != handleCode && !isOwner)
             groups.push_back({code, &value});
     });
     arrange(groups, data.type());
