@@ -105,20 +105,6 @@ bool isPlain(const QString &type)
     return types.contains(type);
 }
 
-/// A part of a long text; there may be any number.
-constexpr int chunkCode = 3;
-
-/// Types that have each of their groups once, the chunks of a text aside.
-bool isPlain(const QString &type)
-{
-    static const QStringList types = {
-        QStringLiteral("LINE"),   QStringLiteral("CIRCLE"), QStringLiteral("ARC"),    QStringLiteral("ELLIPSE"),
-        QStringLiteral("POINT"),  QStringLiteral("TEXT"),   QStringLiteral("ATTRIB"), QStringLiteral("ATTDEF"),
-        QStringLiteral("MTEXT"),  QStringLiteral("INSERT"), QStringLiteral("VERTEX"), QStringLiteral("DIMENSION"),
-        QStringLiteral("3DFACE"), QStringLiteral("SOLID"),  QStringLiteral("LAYER"),  QStringLiteral("STYLE")};
-    return types.contains(type);
-}
-
 FieldList::iterator findMarker(FieldList &fields)
 {
     return std::find_if(fields.begin(), fields.end(), [](const Field &field) { return field.code == subclassCode; });
