@@ -59,7 +59,7 @@
 ;= (("site$0$Wall") ("site$0$Dash") ("site$0$Fine" "site$0$Standard") ("site$0$Door"))
 (list (in-block "site") (in-block "site$0$Door")) ;= (("TEXT site$0$Wall" "INSERT 0") ("LINE site$0$Wall"))
 (mapcar '(lambda (c) (value "LAYER" "site$0$Wall" c)) '(70 62 6)) ;= (0 1 "site$0$Dash")
-(list (value "BLOCK" "site" 70) (value "BLOCK" "site" 1)) ;= (0 "")
+(list (value "BLOCK" "site" 70) (value "BLOCK" "site" 1)) ;= (0 nil)
 (attach "_A" "site") ;> is a block's already ;= "site"
 (progn (attach "_A" "site2=site.dxf")(entdel (entlast))(command "_.-XREF" "_B" "none")) ;> No matching ;= nil
 (command "_.UNDO" "_Back")(newer)(attach "_A" "site.dxf")(bind 1 "*") ;= (("Wall") ("Dash") ("Fine") ("Door"))

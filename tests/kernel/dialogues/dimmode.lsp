@@ -14,7 +14,7 @@
 (circle 0 0 5) ;! DIMARC|5,0 ;> Object selected is not an arc ;? (types) ;= ("CIRCLE")
 (progn (arc 0 0 10 0 90) (command "DIMARC" "10,0" "8,8")) ;! MOVE|L||1,1|2,3 ;? (own '(10 13 14 15 42)) ;= ((9.0 10.0 0.0) (11.0 2.0 0.0) (1.0 12.0 0.0) (1.0 2.0 0.0) 15.708)
 (progn (arc 0 0 10 0 90) (command "DIMARC" "10,0" "8,8")) ;! MIRROR|L||0,0|0,1|Y ;? (rounded-own '(10 13 14 40 41)) ;= ((-8.0 8.0 0.0) (0.0 10.0 0.0) (-10.0 0.0 0.0) 1.5708 3.1416)
-(progn (arc 0 0 10 0 90) (command "DIMARC" "10,0" "8,8")) ;! DIMEDIT|N|x|L| ;? (mapcar 'car (vl-remove-if '(lambda (f) (< (car f) 0)) (member '(100 . "AcDbDimension") (entget (entlast))))) ;= (100 2 10 70 3 71 11 42 1 100 13 14 15 70 40 41 71 16 17 67 410)
+(progn (arc 0 0 10 0 90) (command "DIMARC" "10,0" "8,8")) ;! DIMEDIT|N|x|L| ;? (mapcar 'car (vl-remove-if '(lambda (f) (< (car f) 0)) (member '(100 . "AcDbDimension") (entget (entlast))))) ;= (100 2 10 70 3 71 11 42 1 100 13 14 15 70 40 41 71 16 17)
 ;! DIM1|VERTICAL|1,2|11,5|6,9| ;? (own '(10 13 14 42 50 1)) ;= ((6.0 5.0 0.0) (1.0 2.0 0.0) (11.0 5.0 0.0) 3.0 1.5708 nil)
 ;! DIM1|HOR|1,2|11,5|6,9|L ;? (own '(10 42 1)) ;= ((11.0 9.0 0.0) 10.0 "L")
 (line 0 0 10 0) ;! DIM1|HOR||4,0|5,5| ;? (own '(13 14 10)) ;= ((0.0 0.0 0.0) (10.0 0.0 0.0) (10.0 5.0 0.0))
