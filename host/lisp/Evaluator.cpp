@@ -139,11 +139,50 @@ Value Interpreter::callUser(const Function &function, ValueFrame &values, Locati
     if (values.size() != function.parameterCount) [[unlikely]]
         raiseArgumentCount(function, values.size());
     if (function.mark != 0) [[unlikely]]
+        return callWatched(function, values, location);
+    Binding binding(*this, function, values, location);
+    return evalBody(function.body);
+}
+
+/// Tells the observer of a call, and of its end whatever that is.
+class ObservedCall
+{
+public:
+    ObservedCall(Interpreter &interpreter, CallObserver *observer, const Function &function) : m_observer(observer)
+    {
+        if (m_observer)
+            m_observer->entered(interpreter, function);
+    }
+    ~ObservedCall()
+    {
+        if (m_observer)
+            m_observer->left();
+    }
+    ObservedCall(const ObservedCall &) = delete;
+    ObservedCall &operator=(const ObservedCall &) = delete;
+
+private:
+    CallObserver *m_observer;
+};
+
+Value Interpreter::callWatched(const Function &function, ValueFrame &values, Location location)
+{
+    const ObservedCall call(*this, (function.mark & CallWatch::Observed) ? m_callObserver : nullptr, function);
+    if (function.mark & CallWatch::Traced)
         return callTraced(function, values, location);
     if (m_isCompiling && m_machine->takes(function))
         return m_machine->call(function, {values.values(), values.size()}, location);
     Binding binding(*this, function, values, location);
     return evalBody(function.body);
+}
+
+void Interpreter::setCallObserver(CallObserver &observer)
+{
+    m_callObserver = &observer;
+    for (Symbol *symbol : m_symbols.all()) {
+        if (symbol->value().tag() == Tag::Function)
+            symbol->value().asFunction().mark |= CallWatch::Observed;
+    }
 }
 
 Value Interpreter::callTraced(const Function &function, ValueFrame &values, Location location)
@@ -211,6 +250,8 @@ Value Interpreter::makeFunction(Symbol *name, const Value &parameters, const Val
     function->parameters = parameters;
     function->body = body;
     function->location = body.car().isCons() ? body.car().asCons().mark : 0;
+    if (m_callObserver)
+        function->mark = CallWatch::Observed;
     bool isLocal = false;
     const Value *rest = &parameters;
     for (; rest->isCons(); rest = &rest->cdr()) {

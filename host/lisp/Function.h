@@ -10,7 +10,7 @@
 
 namespace host::lisp {
 
-/// A function written in Lisp. `mark` is 1 while its calls are traced.
+/// A function written in Lisp. `mark` says in which ways its calls are watched: bits of CallWatch.
 struct Function : Object
 {
     Symbol *name = nullptr;          ///< null for a lambda
@@ -31,6 +31,13 @@ struct Function : Object
     mutable std::unique_ptr<const compiled::Code> code; ///< null until it is called
 
     std::string displayName() const { return name ? name->name() : "LAMBDA"; }
+};
+
+/// Why calls of a function take the long way.
+enum CallWatch : std::uint32_t
+{
+    Traced = 1,  ///< they are written out
+    Observed = 2 ///< the interpreter's CallObserver hears of them
 };
 
 inline Function &Value::asFunction() const noexcept

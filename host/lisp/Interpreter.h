@@ -46,6 +46,20 @@ struct Outcome
     bool ok() const noexcept { return !error; }
 };
 
+struct Function;
+class Interpreter;
+
+/// Hears of the calls of a program's functions, as a profiler does.
+class CallObserver
+{
+public:
+    virtual ~CallObserver() = default;
+    /// A call begins. The function lives until left().
+    virtual void entered(Interpreter &interpreter, const Function &function) = 0;
+    /// The innermost call that was entered ended, with a value or an error.
+    virtual void left() noexcept = 0;
+};
+
 /// A function that a symbol holds, for listings.
 struct FunctionEntry
 {
@@ -152,6 +166,9 @@ public:
     /// Functions are compiled when they are called, and loops; programs do the same without, more slowly. On by
     /// default.
     void setCompiling(bool compiles) noexcept { m_isCompiling = compiles; }
+    /// From now on `observer`, which must outlive the interpreter, hears of the calls of all functions that symbols
+    /// hold and that are made later; calls are slower then. Without one they cost nothing.
+    void setCallObserver(CallObserver &observer);
 
     // For native functions.
 
@@ -223,6 +240,7 @@ private:
     Value headFunction(const Value &head);
     Value callNative(const NativeFunction &native, const Value *values, std::size_t count);
     Value callUser(const Function &function, ValueFrame &values, Location location);
+    Value callWatched(const Function &function, ValueFrame &values, Location location);
     Value callTraced(const Function &function, ValueFrame &values, Location location);
     Value callSpecialForm(const NativeFunction &form, const Value &arguments, Location location);
     /// Throws `error` with place and chain, after calling `*error*`.
@@ -263,8 +281,9 @@ private:
     int m_loadDepth = 0;               ///< forms of files under way, one loading the other
     int m_catchDepth = 0;              ///< catchAll() under way: errors are theirs, not `*error*`'s
     bool m_inErrorHandler = false;     ///< an error in `*error*` calls none
-    CallFrame *m_frame = nullptr;      ///< the innermost user function under way
-    Location m_location = 0;           ///< of the list form evaluated last
+    CallObserver *m_callObserver = nullptr; ///< hears of calls of functions with its mark; null for none
+    CallFrame *m_frame = nullptr;           ///< the innermost user function under way
+    Location m_location = 0;                ///< of the list form evaluated last
 
     std::unique_ptr<compiled::Machine> m_machine;
     bool m_isCompiling = true;

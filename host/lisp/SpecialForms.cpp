@@ -225,7 +225,7 @@ static Value defunQ(Interpreter &interpreter, const Value &forms)
     return forms.car();
 }
 
-static Value setTraced(const Value &forms, std::uint32_t mark)
+static Value setTraced(const Value &forms, bool isTraced)
 {
     const Value *last = &detail::nil;
     int number = 1;
@@ -233,7 +233,8 @@ static Value setTraced(const Value &forms, std::uint32_t mark)
         const Value &function = symbolForm(form, number++).value();
         if (function.tag() != Tag::Function)
             throw Error("bad function: " + toShortText(form));
-        function.asFunction().mark = mark;
+        std::uint32_t &watch = function.asFunction().mark;
+        watch = isTraced ? watch | CallWatch::Traced : watch & ~std::uint32_t(CallWatch::Traced);
         last = &form;
     }
     return *last;
@@ -242,13 +243,13 @@ static Value setTraced(const Value &forms, std::uint32_t mark)
 // (trace sym...) -> the last symbol. Calls of these user functions are written out. Others: bad function.
 static Value trace(Interpreter &, const Value &forms)
 {
-    return setTraced(forms, 1);
+    return setTraced(forms, true);
 }
 
 // (untrace sym...) -> the last symbol. Ends trace.
 static Value untrace(Interpreter &, const Value &forms)
 {
-    return setTraced(forms, 0);
+    return setTraced(forms, false);
 }
 
 static constexpr SpecialFormRow specialFormRows[] = {
