@@ -94,13 +94,22 @@ int runWindow(const ProgramOptions &options)
     return QApplication::exec();
 }
 
+int runLisp(const ProgramOptions &options)
+{
+    if (options.isCheck)
+        return checkLispFiles(options);
+    if (options.isTest)
+        return testLispFiles(options);
+    return options.lispFiles.isEmpty() ? promptForLisp(options) : runLispFiles(options);
+}
+
 int runMode(const ProgramOptions &options)
 {
     switch (options.mode) {
     case Mode::Run:
         return runSessions(options);
     case Mode::Lisp:
-        return options.isCheck ? checkLispFiles(options) : runLispFiles(options);
+        return runLisp(options);
     case Mode::Convert:
         return convertDrawing(options);
     case Mode::Names:

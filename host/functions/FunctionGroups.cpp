@@ -23,6 +23,7 @@ void addNativeFunctions(lisp::Interpreter &interpreter)
     addCoordinateFunctions(interpreter);
     addCurveFunctions(interpreter);
     addSheetFunctions(interpreter);
+    addTestFunctions(interpreter);
     addTextFunctions(interpreter);
     addExtentFunctions(interpreter);
     addScreenFunctions(interpreter);

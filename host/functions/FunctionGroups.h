@@ -23,6 +23,7 @@ void addTileImageFunctions(lisp::Interpreter &interpreter);
 void addCoordinateFunctions(lisp::Interpreter &interpreter);
 void addCurveFunctions(lisp::Interpreter &interpreter);
 void addSheetFunctions(lisp::Interpreter &interpreter);
+void addTestFunctions(lisp::Interpreter &interpreter);
 void addTextFunctions(lisp::Interpreter &interpreter);
 void addExtentFunctions(lisp::Interpreter &interpreter);
 void addScreenFunctions(lisp::Interpreter &interpreter);

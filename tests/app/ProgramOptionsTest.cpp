@@ -51,8 +51,11 @@ TEST(ProgramOptions, RefusesWhatMakesNoSense)
         {u"convert a b --text letters"_s, u"--text is outlines or text, not \"letters\""_s},
         {u"lisp a.lsp --only unbalanced"_s, u"--json, --only and --except go with --check"_s},
         {u"lisp a.lsp --check --only unbalanced,odd"_s, u"there is no kind of finding \"odd\""_s},
+        {u"lisp a.lsp --junit r.xml"_s, u"--filter and --junit go with --test"_s},
+        {u"lisp a.lsp --check --profile"_s, u"--profile goes with programs that are run"_s},
+        {u"lisp a.lsp --check --test"_s, u"--check and --test do not go together"_s},
         {u"run a.txt --check"_s, u"--check has no meaning here"_s},
-        {u"lisp"_s, u"lisp needs at least one file"_s},
+        {u"lisp --check"_s, u"lisp needs at least one file for this"_s},
         {u"convert a.dxf"_s, u"convert needs two files"_s},
         {u"convert a b c"_s, u"convert needs two files"_s},
     };

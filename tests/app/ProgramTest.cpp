@@ -7,6 +7,7 @@
 #include <QFile>
 #include <QImage>
 #include <QProcess>
+#include <QRegularExpression>
 
 #include <gtest/gtest.h>
 #include <sys/resource.h>
@@ -257,6 +258,65 @@ TEST_F(ProgramTest, WritesNothingThatAnotherOneHasOpen)
     const Ended next = run(u"lisp save.lsp --drawing a.dxf"_s);
     EXPECT_EQ(next.status, 0) << next.messages.toStdString();
     EXPECT_FALSE(QFile::exists(WaitingProgram::lock(*this))) << "left behind, taken over and removed";
+}
+
+TEST_F(ProgramTest, ReportsTestsAsXml)
+{
+    const Ended ended = run(u"lisp --test proves.lsp fails.lsp --filter *o*e* --junit r.xml"_s);
+    EXPECT_EQ(ended.status, 1);
+    EXPECT_EQ(ended.output, QString());
+    QFile file(folder.filePath(u"r.xml"_s));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    QString report = QString::fromUtf8(file.readAll());
+    report.replace(QRegularExpression(u" time=\"[0-9.]+\""_s), QString());
+    EXPECT_EQ(report.simplified(),
+              u"<?xml version=\"1.0\" encoding=\"UTF-8\"?> <testsuites>"
+              " <testsuite name=\"proves.lsp\" tests=\"2\" failures=\"0\">"
+              " <testcase classname=\"proves.lsp\" name=\"one drawing\"/>"
+              " <testcase classname=\"proves.lsp\" name=\"ONE-DRAWING-AGAIN\"/> </testsuite>"
+              " <testsuite name=\"fails.lsp\" tests=\"1\" failures=\"1\">"
+              " <testcase classname=\"fails.lsp\" name=\"DOUBLES\">"
+              " <failure message=\"expected 4, got 6: (TWICE 2) in (IS-EQUAL)\">fails.lsp:3</failure>"
+              " <system-out>about 2 </system-out> </testcase>"
+              " </testsuite> </testsuites>"_s);
+}
+
+TEST_F(ProgramTest, CountsAndMeasuresCalls)
+{
+    const QString messages = run(u"lisp calls-itself.lsp --profile-out prof.folded"_s).messages;
+    EXPECT_TRUE(messages.contains(QRegularExpression(u"\n +3 +[0-9.]+ +[0-9.]+  DOWN  calls-itself.lsp:1\n"_s)))
+        << messages.toStdString();
+    EXPECT_TRUE(messages.contains(QRegularExpression(u"\n +1 +[0-9.]+ +[0-9.]+  BAD  calls-itself.lsp:3\n"_s)));
+    QFile file(folder.filePath(u"prof.folded"_s));
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const QByteArray stacks = file.readAll();
+    EXPECT_TRUE(stacks.contains("(outside_of_functions);DOWN;DOWN;DOWN ")) << stacks.toStdString();
+    EXPECT_FALSE(stacks.contains("DOWN;BAD")) << "an error ends the calls that it leaves";
+}
+
+TEST_F(ProgramTest, EvaluatesWhatIsPipedIn)
+{
+    const QByteArray input =
+        "(setq a '(1 \"x\"))\n(car\n a) (princ 7)\n?ssname\n(car 5)\n(getpoint \"P\")\n"
+        "(command \"_.LINE\" \"1,1\" \"2,2\" \"\")\nhelp osmode\n?no-such\n(sslength (ssget \"_X\"))\na";
+    const Ended ended = run(u"lisp"_s, input);
+    EXPECT_EQ(ended.status, 1);
+    EXPECT_TRUE(ended.output.startsWith(u"(1 \"x\")\n1\n7\n7\n(ssname set index)\n"_s)) << ended.output.toStdString();
+    EXPECT_TRUE(ended.output.contains(u"system variable OSMODE\n"_s)) << ended.output.toStdString();
+    EXPECT_TRUE(ended.output.endsWith(u"There is nothing of the name no-such.\n1\n(1 \"x\")\n"_s))
+        << ended.output.toStdString();
+    EXPECT_TRUE(ended.messages.contains(u"bad argument type: listp 5 in (CAR), argument 1 (standard input:5)"_s))
+        << ended.messages.toStdString();
+    EXPECT_EQ(run(u"lisp --drawing a.dxf"_s, "(sslength (ssget \"_X\"))(quit)(princ 1)").output, u"3\n"_s);
+    EXPECT_EQ(run(u"lisp"_s, "(quit)").status, 0);
+    EXPECT_EQ(run(u"lisp --drawing none.dxf"_s).status, 4);
+    const Ended broken = run(u"lisp"_s, "(princ 1))\n2\n(list");
+    EXPECT_EQ(broken.status, 1);
+    EXPECT_EQ(broken.output, u"1\n1\n2\n"_s);
+    EXPECT_TRUE(broken.messages.contains(u"extra right paren on input (standard input:1)"_s));
+    EXPECT_TRUE(broken.messages.contains(u"malformed list on input (standard input:3)"_s))
+        << broken.messages.toStdString();
+    EXPECT_TRUE(run(u"lisp --time-limit 0.3"_s, "(while t)").messages.contains(u"it took longer than 0.3 s"_s));
 }
 
 TEST_F(ProgramTest, TellsOfAMissingModuleOnStandardErrorOnly)

@@ -19,7 +19,7 @@
 
 ;; One without a width or a height is scaled as in the other direction.
 (defun kora:copy_scale (own / scales)
-  (setq scales (mapcar '(lambda (wanted is) (if (> is 1e-9) (/ wanted is))) size own))
+  (setq scales (mapcar '(lambda (wanted had) (if (> had 1e-9) (/ wanted had))) size own))
   (list (cond ((car scales)) ((cadr scales)) (1.0)) (cond ((cadr scales)) ((car scales)) (1.0))))
 
 ;; As seen from the lower left corner of a copy, in its size.

@@ -12,8 +12,12 @@ namespace host::app {
 int runSessions(const ProgramOptions &options);
 /// Loads the Lisp files.
 int runLispFiles(const ProgramOptions &options);
+/// Evaluates what is typed or piped in, form by form.
+int promptForLisp(const ProgramOptions &options);
 /// Reads the Lisp files and tells what looks wrong in them; nothing in them is run.
 int checkLispFiles(const ProgramOptions &options);
+/// Runs the tests that the Lisp files define, each on a drawing of its own.
+int testLispFiles(const ProgramOptions &options);
 /// Opens one file and writes it as another.
 int convertDrawing(const ProgramOptions &options);
 /// Prints the functions, commands and variables that programs find in a new drawing.

@@ -3,9 +3,11 @@
 #include "files/qt/Files.h"
 #include "host/app/batch/BatchRuns.h"
 #include "host/app/batch/BatchWork.h"
+#include "host/app/batch/Profile.h"
 #include "host/app/batch/UnattendedFeeder.h"
 #include "host/app/workbench/LimitWatch.h"
 #include "host/app/workbench/ProgramOutput.h"
+#include "host/lisp/Interpreter.h"
 #include "host/lisp/Paths.h"
 
 #include <QFile>
@@ -42,6 +44,18 @@ bool isReadable(const QString &file)
     return false;
 }
 
+/// To standard error, which is no program's output, and where it is wanted to a file; false when that fails.
+bool tellProfile(const Profile &profile, const QString &file)
+{
+    writeMessageLines(profile.table());
+    if (file.isEmpty())
+        return true;
+    const QString reason = files::replaceFile(file, profile.foldedStacks());
+    if (!reason.isEmpty())
+        writeMessage(u"%1: %2"_s.arg(native(file), reason));
+    return reason.isEmpty();
+}
+
 } // namespace
 
 int runLispFiles(const ProgramOptions &options)
@@ -50,6 +64,7 @@ int runLispFiles(const ProgramOptions &options)
         return ExitFileError;
     const std::chrono::milliseconds timeLimit = options.timeLimit.value_or(std::chrono::milliseconds());
     const LimitWatch watch(LimitWatch::withTimeToStop(timeLimit), options.lispFiles.join(", "_L1));
+    Profile profile;
     Workbench workbench(workbenchOptions(options));
     setForce(workbench, options);
     UnattendedFeeder nobody(timeLimit);
@@ -65,12 +80,15 @@ int runLispFiles(const ProgramOptions &options)
     }
     qsizetype told = 0;
     tellProblems(workbench, told);
-    const auto show = [](kernel::Document *opened) {
+    const auto show = [&](kernel::Document *opened) {
         QObject::connect(opened, &kernel::Document::printed, opened, writeResult);
+        if (options.isProfiled)
+            opened->interpreter().setCallObserver(profile);
     };
     show(document);
     QObject::connect(&workbench.documents(), &kernel::DocumentManager::opened, show);
     int status = ExitDone;
+    profile.start();
     for (const QString &file : options.lispFiles) {
         if (workbench.documents().wishes().isQuitWanted())
             break;
@@ -83,6 +101,8 @@ int runLispFiles(const ProgramOptions &options)
         status = ExitFailed;
         break;
     }
+    if (options.isProfiled && !tellProfile(profile, options.profileFile))
+        status = ExitFileError;
     workbench.session().setFeeder(nullptr);
     closeAll(workbench);
     return tellNotWritten(workbench.session()) && status == ExitDone ? ExitFileError : status;

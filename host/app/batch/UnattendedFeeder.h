@@ -11,7 +11,7 @@ namespace host::app {
 
 /// For runs that nobody watches: prompts are cancelled, and a dialog that opens all the same is rejected and ends the
 /// run, as does a limit that is passed.
-class UnattendedFeeder final : public DialogDriver, public kernel::InputFeeder
+class UnattendedFeeder : public DialogDriver, public kernel::InputFeeder
 {
 public:
     /// The most that a run may take from now on; zero for as long as it wants.

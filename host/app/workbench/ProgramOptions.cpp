@@ -108,6 +108,13 @@ QString setPictureText(ProgramOptions &options, const QString &value)
     return {};
 }
 
+QString setProfileFile(ProgramOptions &options, const QString &value)
+{
+    options.isProfiled = true;
+    options.profileFile = value;
+    return {};
+}
+
 QString setShownLayers(ProgramOptions &options, const QString &value)
 {
     options.picture.as.layers = value;
@@ -159,6 +166,11 @@ QList<OptionRow> generalRows()
         {"--recover", Value::None, {Mode::Window, Mode::Run, Mode::Convert}, setFlag<&ProgramOptions::isRecovering>},
         {"--json", Value::None, {Mode::Convert, Mode::Lisp}, setFlag<&ProgramOptions::withJson>},
         {"--check", Value::None, {Mode::Lisp}, setFlag<&ProgramOptions::isCheck>},
+        {"--test", Value::None, {Mode::Lisp}, setFlag<&ProgramOptions::isTest>},
+        {"--filter", Value::Needed, {Mode::Lisp}, setTextOption<&ProgramOptions::testFilter>},
+        {"--junit", Value::Needed, {Mode::Lisp}, setTextOption<&ProgramOptions::reportFile>},
+        {"--profile", Value::None, {Mode::Lisp}, setFlag<&ProgramOptions::isProfiled>},
+        {"--profile-out", Value::Needed, {Mode::Lisp}, setProfileFile},
         {"--only", Value::Needed, {Mode::Lisp}, addKinds<&ProgramOptions::onlyKinds>},
         {"--except", Value::Needed, {Mode::Lisp}, addKinds<&ProgramOptions::exceptKinds>}};
 }
@@ -201,11 +213,18 @@ QString readOption(ProgramOptions &options, const QStringList &arguments, qsizet
 
 QString assignLispFiles(ProgramOptions &options, const QStringList &files)
 {
-    if (files.isEmpty())
-        return u"lisp needs at least one file"_s;
+    if (files.isEmpty() && (options.isCheck || options.isTest || options.isProfiled))
+        return u"lisp needs at least one file for this"_s;
     options.lispFiles = files;
     const bool isOfCheck = options.withJson || !options.onlyKinds.isEmpty() || !options.exceptKinds.isEmpty();
-    return isOfCheck && !options.isCheck ? u"--json, --only and --except go with --check"_s : QString();
+    const bool isOfTest = !options.testFilter.isEmpty() || !options.reportFile.isEmpty();
+    if (isOfCheck && !options.isCheck)
+        return u"--json, --only and --except go with --check"_s;
+    if (isOfTest && !options.isTest)
+        return u"--filter and --junit go with --test"_s;
+    if (options.isProfiled && (options.isCheck || options.isTest))
+        return u"--profile goes with programs that are run"_s;
+    return options.isCheck && options.isTest ? u"--check and --test do not go together"_s : QString();
 }
 
 /// Gives the words that are no options their meaning.
@@ -290,7 +309,7 @@ more to show than is drawn in one go: a few lines of a drawing can make millions
 
 constexpr auto windowHelp = R"(Usage: ortakit [OPTION...] [DRAWING...]
        ortakit run SESSION [DRAWING...] [--out DIR] [--png]
-       ortakit lisp FILE... [--drawing DRAWING] [--check]
+       ortakit lisp [FILE...] [--drawing DRAWING] [--check | --test]
        ortakit convert IN OUT [--layout NAME] [--paper A3] [--scale 1:50] [OPTION...]
        ortakit names
 
@@ -331,7 +350,9 @@ of them. What a picture does not show, or only in part, is told on standard erro
 )";
 
 constexpr auto lispHelp = R"(Usage: ortakit lisp FILE... [--drawing DRAWING] [OPTION...]
+       ortakit lisp [--drawing DRAWING] [OPTION...]
        ortakit lisp --check FILE... [--json] [--only KIND,...] [--except KIND,...]
+       ortakit lisp --test FILE... [--filter PATTERN] [--junit REPORT] [--drawing DRAWING]
 
 Loads the Lisp files in order and prints what they print. "-" reads expressions from standard input. Without --drawing
 a new drawing is open. Nothing asks a person: prompts are cancelled, and a dialog ends the program with status 1.
@@ -344,6 +365,12 @@ system variable TRUSTEDPATHS lists, and those named here.
   --memory-limit MB     the most memory Lisp may take, more being an error of the program (default: the system variable
                         LISPHEAPMAX)
   --force               write files as well that another program has open, or has changed since they were opened
+  --profile             tell on standard error where the time went, function by function
+  --profile-out FILE    write that as folded stacks as well, of which flame graphs are drawn
+
+Without a file it is a prompt: expressions are evaluated as they are typed, and their values printed. Tab completes names,
+"help NAME" or "?NAME" tells about one, Ctrl+C stops what runs, Ctrl+D ends. What is piped in is evaluated form by form;
+errors go to standard error with their line, the forms behind one are evaluated all the same, and the status is 1 then.
 
 With --check the files are read and not run, and what looks wrong in them is told, a line each: FILE:LINE:COLUMN: error
 or warning: what it is [KIND]. What one of them defines the others know. Ends with status 1 when something was told.
@@ -352,6 +379,13 @@ or warning: what it is [KIND]. What one of them defines the others know. Ends wi
                         and the numbers of errors and warnings
   --only KIND,...       tell only these kinds
   --except KIND,...     tell all kinds but these
+
+With --test the tests that the files define by (deftest name form...) are run, each in a new drawing (or DRAWING) into
+which its file was loaded before, and told on standard output in version 14 of the Test Anything Protocol. The time limit
+is that of each test. Ends with status 1 when one failed or there was none.
+
+  --filter PATTERN      run only tests of such names: * stands for any characters, ? for one
+  --junit REPORT        write a report in JUnit's XML instead
 
 )";
 

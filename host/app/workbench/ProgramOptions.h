@@ -46,7 +46,7 @@ struct ProgramOptions
     QString session;             ///< Run; in a window what is played first
     QStringList drawings;        ///< Window, Run; of Run none when the session says which it is for
     QString audit;               ///< Run: a program that reads drawings, for sessions that ask it; see DrawingAudit
-    QStringList lispFiles;       ///< Lisp
+    QStringList lispFiles;       ///< Lisp; empty: a prompt
     QString drawing;             ///< Lisp; empty: a new drawing
     QString input;               ///< Convert
     QString output;              ///< Convert
@@ -58,6 +58,11 @@ struct ProgramOptions
     bool isRecovering = false;   ///< Window, Run, Convert: drawings are opened as far as they are sound
     bool withJson = false;       ///< Convert; Lisp that is checked
     bool isCheck = false;        ///< Lisp: the files are read, not run
+    bool isTest = false;         ///< Lisp: the tests that the files define are run
+    QString testFilter;          ///< of their names, with * and ?; empty: all
+    QString reportFile;          ///< of tests as XML, in place of lines on standard output; empty: none
+    bool isProfiled = false;     ///< Lisp that is run
+    QString profileFile;         ///< of that, folded stacks; empty: none
     QStringList onlyKinds;       ///< of findings; empty: all
     QStringList exceptKinds;     ///< likewise; empty: none
     PictureOptions picture;      ///< Convert

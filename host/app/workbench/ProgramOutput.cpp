@@ -2,6 +2,8 @@
 
 #include <cstdio>
 
+using namespace Qt::StringLiterals;
+
 namespace host::app {
 
 namespace {
@@ -25,7 +27,12 @@ bool hasLostResults()
 
 void writeMessage(const QString &text)
 {
-    const QByteArray bytes = "ortakit: " + text.trimmed().toUtf8() + '\n';
+    writeMessageLines(u"ortakit: "_s + text.trimmed() + u'\n');
+}
+
+void writeMessageLines(const QString &text)
+{
+    const QByteArray bytes = text.toUtf8();
     std::fwrite(bytes.constData(), 1, static_cast<std::size_t>(bytes.size()), stderr);
     std::fflush(stderr);
 }

@@ -8,6 +8,8 @@ namespace host::app {
 void writeResult(const QString &text);
 /// Whether something of it was not taken, as on a full disk.
 bool hasLostResults();
+/// Lines on standard error as they are, in UTF-8.
+void writeMessageLines(const QString &text);
 /// A line on standard error, behind the program's name.
 void writeMessage(const QString &text);
 

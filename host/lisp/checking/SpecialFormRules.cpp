@@ -51,14 +51,24 @@ void walkCond(Collector &collector, const SyntaxNode &form)
     collector.walkClauses(form);
 }
 
+/// What a test sets is gone with its drawing.
+void walkTest(Collector &collector, const SyntaxNode &form)
+{
+    collector.walkItems(form, 2);
+}
+
 constexpr FormRule rules[] = {
     {"AND", Arity::any(), walkAll},
     {"COND", Arity::any(), walkCond},
     {"DEFUN", Arity::atLeast(2), walkDefun},
     {"DEFUN-Q", Arity::atLeast(2), walkDefun},
+    {"DEFTEST", Arity::atLeast(1), walkTest},
     {"FOREACH", Arity::atLeast(2), walkForeach},
     {"FUNCTION", Arity::exactly(1), walkQuote},
     {"IF", Arity::between(2, 3), walkAll},
+    {"IS", Arity::exactly(1), walkAll},
+    {"IS-EQUAL", Arity::between(2, 3), walkAll},
+    {"IS-ERROR", Arity::between(1, 2), walkAll},
     {"LAMBDA", Arity::atLeast(1), walkLambdaForm},
     {"OR", Arity::any(), walkAll},
     {"PROGN", Arity::any(), walkAll},

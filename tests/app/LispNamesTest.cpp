@@ -1,0 +1,63 @@
+#include "host/app/workbench/LispNames.h"
+
+#include "tests/app/AppFixture.h"
+#include "tests/support/QtTestPrinters.h"
+
+#include <gtest/gtest.h>
+
+using namespace host::app;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct LispNames : testing::Test, host::app::test::HostFixture
+{
+    LispNames()
+    {
+        document->run(u"(defun wall:corners (a / b) (list a)) (defun c:walls () 1) (setq wall:n 3)"_s, u"w.lsp"_s);
+    }
+
+    /// "START: name name", of many the first three.
+    QString completed(const QString &text)
+    {
+        const Completion completion = completionOf(*document, text);
+        return QString::number(completion.start) + u": "_s + completion.names.mid(0, 3).join(u' ');
+    }
+};
+
+TEST_F(LispNames, CompleteWhatSymbolsHoldAndWhatStringsMean)
+{
+    const std::pair<QString, QString> rows[] = {
+        {u"(wall:"_s, u"1: wall:corners wall:n"_s},
+        {u"(list 'WALL:N"_s, u"7: wall:n"_s},
+        {u"(c:wa"_s, u"1: c:walls"_s},
+        {u"vl-sort"_s, u"0: vl-sort vl-sort-i"_s},
+        {u"(foo \"vl-sort"_s, u"6: "_s},
+        {u"(getvar \"osmo"_s, u"9: OSMODE"_s},
+        {u"(setvar (strcat \"osmo"_s, u"17: "_s},
+        {u"(setvar (foo) \"osmo"_s, u"15: OSMODE"_s},
+        {u"(setq a \"(\" b) (getvar \"OSMO"_s, u"24: OSMODE"_s},
+        {u"(command \"LAYTR"_s, u"10: "_s},
+        {u"(command \"oops"_s, u"10: OOPS"_s},
+        {u"(princ) ; (wall:"_s, u"16: "_s},
+        {u"; x\n(wall:n"_s, u"5: wall:n"_s},
+        {u"(princ \"a\\\"\") wall:n"_s, u"14: wall:n"_s},
+        {u"(no-such-thing"_s, u"1: "_s},
+    };
+    for (const auto &[text, expected] : rows)
+        EXPECT_EQ(completed(text), expected) << text.toStdString();
+    EXPECT_EQ(completionOf(*document, u"(WALL"_s).commonStart(), u"wall:"_s);
+}
+
+TEST_F(LispNames, HaveHelp)
+{
+    EXPECT_EQ(helpOnName(*document, u"wall:corners"_s), u"wall:corners (a / b)\n  w.lsp:1\n"_s);
+    EXPECT_EQ(helpOnName(*document, u"c:walls"_s), u"c:walls ()\n"_s);
+    EXPECT_EQ(helpOnName(*document, u" CAR "_s).section(u'\n', 0, 0), u"(car list)"_s);
+    EXPECT_TRUE(helpOnName(*document, u"oops"_s).startsWith(u"command OOPS\n  "_s));
+    EXPECT_TRUE(helpOnName(*document, u"osmode"_s).startsWith(u"system variable OSMODE\n  "_s));
+    EXPECT_EQ(helpOnName(*document, u"no-such-thing"_s), QString());
+    EXPECT_EQ(helpOnName(*document, QString()), QString());
+}
+
+} // namespace
