@@ -88,6 +88,8 @@ int runWindow(const ProgramOptions &options)
     window.show();
     window.start(options.drawings,
                  options.isRecovering ? MainWindow::Opening::Recovering : MainWindow::Opening::AsUsual);
+    if (!options.record.isEmpty())
+        window.startRecording(options.record);
     if (!options.pictureFolder.isEmpty())
         return pictureOfWindow(window, options);
     QTimer::singleShot(0, &window, [&] { playInWindow(window, options); });

@@ -24,6 +24,7 @@
 #include <QMimeData>
 #include <QMouseEvent>
 #include <QProxyStyle>
+#include <QRegularExpression>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QTextBrowser>
@@ -746,6 +747,88 @@ TEST_F(MainWindowTest, WheelKeepsWhatIsUnderThePointer)
     EXPECT_LT(window->document()->view().height, before);
     EXPECT_NEAR(onScreen(2.0, 3.0).x(), at.x(), 1e-6);
     EXPECT_NEAR(onScreen(2.0, 3.0).y(), at.y(), 1e-6);
+}
+
+/// What a person does bit by bit, whatever windows open meanwhile.
+struct Hands : QObject
+{
+    explicit Hands(QList<std::function<void()>> acts) : left(std::move(acts)) { goOn(); }
+    void goOn()
+    {
+        QTimer::singleShot(20, this, [this] {
+            if (left.isEmpty())
+                return;
+            const auto act = left.takeFirst();
+            goOn(); // what is done now may open a window and return late
+            act();
+        });
+    }
+    QList<std::function<void()>> left;
+};
+
+QWidget *part(const QString &name)
+{
+    QWidget *dialog = QApplication::activeModalWidget();
+    return dialog ? dialog->findChild<QWidget *>(name) : nullptr;
+}
+
+void press(const QString &name)
+{
+    if (auto *button = qobject_cast<QAbstractButton *>(part(name)))
+        button->click();
+}
+
+TEST_F(MainWindowTest, RecordsASessionThatPlays)
+{
+    const QString everything = u"(progn (setq l nil e (entnext)) (while e (setq l (cons (cdr (entget e)) l) e "
+                               "(entnext e))) l)"_s;
+    defineSampleBox(*window->document());
+    window->startRecording(path(u"out.txt"_s));
+    {
+        const Hands hands(
+            {[&] { window->enter(u"1,1"_s); }, [&] { click(4.0, 3.0); }, [&] { window->enter(QString()); }});
+        window->enter(u"LINE"_s);
+        EXPECT_TRUE(hands.left.isEmpty());
+    }
+    {
+        const Hands hands({[&] { click(5.0, 0.0); }, [&] { window->enter(QString()); }});
+        window->enter(u"erase"_s);
+    }
+    {
+        const Hands hands({[] { press(u"accept"_s); },
+                           [] { QApplication::activeModalWidget()->findChild<QAbstractButton *>()->click(); },
+                           [] { qobject_cast<QLineEdit *>(part(u"name"_s))->insert(u"a \"b\""_s); },
+                           [] {
+                               part(u"_dist_size"_s)->setFocus();
+                               QKeyEvent up(QEvent::KeyPress, Qt::Key_Up, Qt::NoModifier);
+                               QCoreApplication::sendEvent(part(u"_dist_size"_s), &up);
+                           },
+                           [] { press(u"accept"_s); }});
+        window->enter(u"(if (samplebox) (entmake (list (cons 0 \"CIRCLE\") (cons 10 (list 1.0 2.0 0.0)) "
+                      "(cons 40 (float (strlen entered))))))"_s);
+    }
+    {
+        const Hands hands({[&] { window->enter(u"9,9"_s); }, [&] { key(Qt::Key_Escape); }});
+        window->enter(u"line"_s);
+    }
+    const QString drawn = lisp(everything);
+    window->stopRecording();
+    const QString recorded = QString::fromUtf8(read(u"out.txt"_s));
+    const QString point = recorded.section(u'\n', 3, 3);
+    EXPECT_TRUE(point.startsWith(u"pick "_s)) << recorded.toStdString();
+    EXPECT_EQ(
+        QString(recorded).replace(point, u"PICK"_s).replace(QRegularExpression(u"(pickhandle 2A) .*"_s), u"\\1"_s),
+        u"drawing small.dxf\ncommand LINE\nanswer 1,1\nPICK\nenter\ncommand erase\npickhandle 2A\nenter\n"
+        "lisp (if (samplebox) (entmake (list (cons 0 \"CIRCLE\") (cons 10 (list 1.0 2.0 0.0)) (cons 40 (float "
+        "(strlen entered))))))\ndialog SampleBox\n  click accept\nmessage \"Filename can`t be empty\" Ok\n"
+        "  set name \"a \\\"b\\\"\"\n  set _dist_size 1.00\n  click accept\ncommand line\nanswer 9,9\ncancel\n"_s);
+    window->start({write(u"again.dxf"_s, smallDrawing())});
+    defineSampleBox(*window->document());
+    EXPECT_NE(lisp(everything), drawn);
+    const PlaybackResult played = window->play(readPlayback(path(u"out.txt"_s)), {});
+    EXPECT_TRUE(played.ok) << played.message.toStdString();
+    EXPECT_EQ(lisp(everything), drawn);
+    EXPECT_TRUE(drawn.contains(u"(40 . 5.0)"_s)) << drawn.toStdString();
 }
 
 } // namespace

@@ -138,6 +138,17 @@ private:
 
 } // namespace
 
+QString sessionWord(const QString &text)
+{
+    static const QRegularExpression plain(u"^[^\\s\"\\\\~#$]+$"_s);
+    if (plain.match(text).hasMatch())
+        return text;
+    QString quoted = text;
+    quoted.replace(u'\\', u"\\\\"_s).replace(u'"', u"\\\""_s);
+    quoted.replace(u'\n', u"\\n"_s).replace(u'\r', u"\\r"_s).replace(u'\t', u"\\t"_s);
+    return u'"' + quoted + u'"';
+}
+
 bool takeWord(QStringView &rest, QString &word)
 {
     rest = rest.trimmed();

@@ -40,6 +40,9 @@ struct LineRead
 /// Reads one line, its continuations joined. An argument with a ${NAME} in it is checked when that is filled in.
 LineRead readPlaybackLine(const QString &line);
 
+/// A text as one argument, in quotes where it takes them: what takeWord() gives back.
+QString sessionWord(const QString &text);
+
 /// Takes one word off the front of `rest`, its quotes off. False: a quote without its end.
 bool takeWord(QStringView &rest, QString &word);
 

@@ -136,6 +136,8 @@ void MainWindow::buildToolsMenu()
     }
     if (entries.isEmpty())
         menu.addAction(tr("No tools were found"))->setEnabled(false);
+    menu.addSeparator();
+    m_record = addAction(menu, tr("&Record session..."), {}, WhenBusy::Enabled, [this] { toggleRecording(); });
 }
 
 void MainWindow::buildHelpMenu()

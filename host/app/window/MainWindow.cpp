@@ -1,5 +1,6 @@
 #include "host/app/window/MainWindow.h"
 
+#include "host/app/playback/SessionRecorder.h"
 #include "host/app/window/CommandLine.h"
 #include "host/app/window/CommandRunner.h"
 #include "host/app/window/DrawingCanvas.h"
@@ -75,6 +76,7 @@ MainWindow::MainWindow(const WorkbenchOptions &options)
 
 MainWindow::~MainWindow()
 {
+    m_recorder.reset();
     // Closing documents tells of changes that nobody is left to show.
     disconnect(&m_workbench->documents(), nullptr, this, nullptr);
     disconnect(m_tabs, nullptr, this, nullptr);
@@ -216,6 +218,8 @@ void MainWindow::showLayout(const QString &name)
     kernel::Document *active = document();
     if (active && !m_runner->isBusy())
         active->runAs(u"LAYOUT"_s, [&] { active->variables().set(u"CTAB", name); });
+    if (m_recorder)
+        m_recorder->add(u"lisp (setvar \"CTAB\" \"%1\")"_s.arg(name));
     updateState();
 }
 

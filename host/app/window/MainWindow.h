@@ -24,6 +24,7 @@ class DrawingCanvas;
 class DrawingStatus;
 class DrawingTabs;
 class LayoutTabs;
+class SessionRecorder;
 
 /// The window: drawings in tabs, one command line for all, menus and a status bar.
 ///
@@ -68,6 +69,10 @@ public:
     void enter(const QString &text);
     /// Of all windows of the program, those that are open included; kept for the next start when this one closes.
     void setStyleOfWindows(Style style);
+    /// Records what the person does from now on, until stopRecording() or the window goes.
+    void startRecording(const QString &file);
+    /// Writes the session; a file that cannot be written is told.
+    void stopRecording();
     /// Plays a recorded session on the active drawing; meanwhile the window takes no commands.
     PlaybackResult play(const PlaybackScript &script, PlaybackOptions options);
 
@@ -98,6 +103,8 @@ private:
                        const std::function<void()> &body);
     /// The same with a mark, of which one in the group is set.
     QAction *addChoice(QMenu &menu, QActionGroup &group, const QString &text, const std::function<void()> &body);
+    /// The entry that begins and ends recording.
+    void toggleRecording();
     // In windows of their own.
     void showHelp();
     void showAbout();
@@ -150,9 +157,11 @@ private:
     CommandLine *m_commandLine; ///< owned by the dock, that by the window
     QDockWidget *m_commandDock;
     std::unique_ptr<CommandRunner> m_runner;
+    std::unique_ptr<SessionRecorder> m_recorder; ///< null while nothing is recorded
     std::unique_ptr<DrawingStatus> m_status;
     QList<QAction *> m_idleActions; ///< disabled while something runs
     // Entries whose mark or state follows what they are about.
+    QAction *m_record = nullptr;
     QAction *m_undo = nullptr;
     QAction *m_redo = nullptr;
     QAction *m_blackGround = nullptr;

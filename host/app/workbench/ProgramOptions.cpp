@@ -154,6 +154,7 @@ QList<OptionRow> generalRows()
         {"--trust", Value::Needed, {Mode::Window, Mode::Run, Mode::Lisp}, addText<&ProgramOptions::trustedFolders>},
         {"--screenshot-dir", Value::Needed, {Mode::Window, Mode::Run}, setTextOption<&ProgramOptions::pictureFolder>},
         {"--session", Value::Needed, {Mode::Window}, setTextOption<&ProgramOptions::session>},
+        {"--record", Value::Needed, {Mode::Window}, setTextOption<&ProgramOptions::record>},
         {"--out", Value::Needed, {Mode::Run}, setTextOption<&ProgramOptions::outFolder>},
         {"--audit", Value::Needed, {Mode::Run}, setTextOption<&ProgramOptions::audit>},
         {"--drawing", Value::Needed, {Mode::Lisp}, setTextOption<&ProgramOptions::drawing>},
@@ -321,6 +322,7 @@ Options of the window:
                         name
   --trust DIR           run programs of this folder and those below as well; may be given again
   --session FILE        play a recorded session in the window first
+  --record FILE         write what you do down as a session that plays
   --screenshot-dir DIR  write a picture of the window to DIR/window.png and end
   --time-limit SECONDS  the most a session may take (default 120)
   --memory-limit MB     the most memory Lisp may take, 16 to 1048576 (default: the system variable LISPHEAPMAX, which is

@@ -44,6 +44,7 @@ struct ProgramOptions
     Mode mode = Mode::Window;
     Mode helpFor = Mode::Window; ///< of Help: Window means the whole program
     QString session;             ///< Run; in a window what is played first
+    QString record;              ///< Window: what the person does is written there; empty: it is not
     QStringList drawings;        ///< Window, Run; of Run none when the session says which it is for
     QString audit;               ///< Run: a program that reads drawings, for sessions that ask it; see DrawingAudit
     QStringList lispFiles;       ///< Lisp; empty: a prompt

@@ -136,6 +136,14 @@ void InputQueue::clear()
 
 std::optional<InputAnswer> InputQueue::take(const PromptRequest &request)
 {
+    std::optional<InputAnswer> answer = takeNext(request);
+    if (answer)
+        emit taken(request, *answer);
+    return answer;
+}
+
+std::optional<InputAnswer> InputQueue::takeNext(const PromptRequest &request)
+{
     auto *answer = std::get_if<InputAnswer>(&m_items.front());
     if (auto *text = answer ? std::get_if<TextAnswer>(answer) : nullptr; text && request.kind == PromptKind::Event) {
         // One that was handed over whole has no line end behind it but where that is all it is.

@@ -51,6 +51,10 @@ public:
 signals:
     /// Something was pushed.
     void filled();
+    /// A prompt, or the command level, took an answer.
+    void taken(const host::kernel::PromptRequest &request, const host::kernel::InputAnswer &answer);
+    /// A prompt took a point, in world coordinates: the place that snaps and ORTHOMODE made of the one shown.
+    void pointShown(const host::drawing::Vec3 &world);
 
 private:
     /// Typed text and how much of it is used up.
@@ -61,6 +65,7 @@ private:
         qsizetype scriptEnd = 0; ///< up to here it is a script's; only in the first item
         bool isBegun = false;    ///< something of the script was taken
     };
+    std::optional<InputAnswer> takeNext(const PromptRequest &request);
     /// The next character. There must be one.
     static InputAnswer takeKey(Typed &typed);
     using Item = std::variant<Typed, InputAnswer>;

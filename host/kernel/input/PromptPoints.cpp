@@ -2,6 +2,7 @@
 
 #include "host/drawing/math/Finite.h"
 #include "host/kernel/documents/Document.h"
+#include "host/kernel/documents/Session.h"
 #include "host/kernel/input/ObjectSnap.h"
 #include "host/kernel/input/PointAim.h"
 #include "host/kernel/input/PointEntry.h"
@@ -169,6 +170,7 @@ PromptDialogue::Reading PromptDialogue::takeGiven(const Vec3 &world, Origin orig
                                 request().kind == PromptKind::Point && isOrthoOn(m_document.variables());
     if (isStraightened)
         user = *base + orthogonal(user - *base, m_document.variables().real(u"SNAPANG"));
+    emit m_document.session().input().pointShown(isStraightened ? toWorld(m_document, user) : place);
     // What goes nowhere else stays the number it was.
     if (!isStraightened && !m_assembly.isOpen() && !m_assembly.isDirectionLocked()) {
         askForPart();

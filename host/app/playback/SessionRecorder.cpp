@@ -1,0 +1,163 @@
+#include "host/app/playback/SessionRecorder.h"
+
+#include "files/qt/Files.h"
+#include "host/app/playback/PlaybackLine.h"
+#include "host/kernel/documents/Session.h"
+#include "host/kernel/input/Picker.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QRegularExpression>
+
+using namespace Qt::StringLiterals;
+
+namespace host::app {
+
+namespace {
+
+QString number(double value)
+{
+    return QString::number(value, 'g', 17);
+}
+
+QString pointWord(const drawing::Vec3 &point)
+{
+    const QString flat = number(point.x) + u',' + number(point.y);
+    return point.z == 0.0 ? flat : flat + u',' + number(point.z);
+}
+
+QString handleOf(const kernel::Document &document, drawing::RecordId entity)
+{
+    return document.drawing().handle(entity).toString();
+}
+
+/// A Lisp expression in one line; comments in it would swallow what follows.
+QString oneLine(QString expression)
+{
+    static const QRegularExpression lineEnd(u"\\s*[\\r\\n]+\\s*"_s);
+    return expression.replace(lineEnd, u" "_s);
+}
+
+} // namespace
+
+SessionRecorder::SessionRecorder(kernel::Session &session, const QString &file)
+    : m_session(session), m_file(file),
+      m_widgets([this] { return isRunning(); }, [this](const QString &line) { add(line); })
+{
+    const QString path = document() ? document()->path() : QString();
+    m_lines.append(u"drawing "_s + (path.isEmpty() ? u"new"_s : QFileInfo(file).absoluteDir().relativeFilePath(path)));
+    connect(&session.input(), &kernel::InputQueue::taken, this, &SessionRecorder::take);
+    connect(&session.input(), &kernel::InputQueue::pointShown, this, &SessionRecorder::settlePoint);
+}
+
+SessionRecorder::~SessionRecorder()
+{
+    save();
+}
+
+kernel::Document *SessionRecorder::document() const
+{
+    return m_session.documents().active();
+}
+
+bool SessionRecorder::isRunning() const
+{
+    return std::ranges::any_of(m_session.documents().documents(), [](const auto &open) { return open->isBusy(); });
+}
+
+QString SessionRecorder::text() const
+{
+    return m_lines.join(u'\n') + u'\n';
+}
+
+QString SessionRecorder::save()
+{
+    return files::replaceFile(m_file, text().toUtf8());
+}
+
+void SessionRecorder::add(const QString &line)
+{
+    m_hasOpenPoint = false;
+    m_lines.append(line);
+}
+
+void SessionRecorder::take(const kernel::PromptRequest &request, const kernel::InputAnswer &answer)
+{
+    const auto *text = std::get_if<kernel::TextAnswer>(&answer);
+    if (!document() || (text && text->isFromScript))
+        return;
+    if (request.kind == kernel::PromptKind::Command)
+        return takeCommand(answer);
+    const QString line = lineFor(request, answer);
+    add(line);
+    const auto *point = std::get_if<kernel::PointAnswer>(&answer);
+    m_hasOpenPoint = point && point->isByHand && kernel::takesPoints(request.kind);
+}
+
+void SessionRecorder::takeCommand(const kernel::InputAnswer &answer)
+{
+    const auto *typed = std::get_if<kernel::TextAnswer>(&answer);
+    if (!typed)
+        return;
+    addChosen();
+    const QString text = typed->text.trimmed();
+    if (text.startsWith(u'(') || text.startsWith(u'!'))
+        return add(u"lisp "_s + oneLine(text.startsWith(u'!') ? text.mid(1) : text));
+    if (!text.isEmpty())
+        m_lastCommand = text;
+    if (!m_lastCommand.isEmpty())
+        add(u"command "_s + sessionWord(m_lastCommand));
+}
+
+void SessionRecorder::addChosen()
+{
+    const std::vector<drawing::RecordId> &chosen = document()->impliedSelection();
+    if (chosen.empty())
+        return;
+    QString line = u"lisp (progn (setq *chosen* (ssadd))"_s;
+    for (const drawing::RecordId entity : chosen)
+        line += u" (ssadd (handent \"%1\") *chosen*)"_s.arg(handleOf(*document(), entity));
+    add(line + u" (sssetfirst nil *chosen*))"_s);
+}
+
+QString SessionRecorder::lineFor(const kernel::PromptRequest &request, const kernel::InputAnswer &answer)
+{
+    if (const auto *text = std::get_if<kernel::TextAnswer>(&answer))
+        return text->text.isEmpty() ? u"enter"_s : u"answer "_s + sessionWord(text->text);
+    if (const auto *point = std::get_if<kernel::PointAnswer>(&answer))
+        return lineForPoint(request, *point);
+    if (const auto *entity = std::get_if<kernel::EntityAnswer>(&answer))
+        return u"pickhandle %1 %2"_s.arg(handleOf(*document(), entity->entity), pointWord(entity->point));
+    if (const auto *window = std::get_if<kernel::WindowAnswer>(&answer))
+        return u"%1 %2 %3"_s.arg(window->first.x <= window->second.x ? u"window"_s : u"crossing"_s,
+                                 pointWord(window->first), pointWord(window->second));
+    if (const auto *entities = std::get_if<kernel::EntitiesAnswer>(&answer)) {
+        QString line = u"select"_s;
+        for (const drawing::RecordId entity : entities->entities)
+            line += u' ' + handleOf(*document(), entity);
+        return line;
+    }
+    if (const auto *key = std::get_if<kernel::KeyAnswer>(&answer))
+        return key->code == 13 ? u"enter"_s : u"answer "_s + sessionWord(QString(QChar(key->code)));
+    if (const auto *pointer = std::get_if<kernel::PointerAnswer>(&answer))
+        return u"hover "_s + pointWord(pointer->point);
+    return u"cancel"_s;
+}
+
+QString SessionRecorder::lineForPoint(const kernel::PromptRequest &request, const kernel::PointAnswer &answer)
+{
+    if (request.kind == kernel::PromptKind::Entity || request.kind == kernel::PromptKind::Selection) {
+        const drawing::RecordId entity = kernel::Picker(*document()).entityAt(answer.point);
+        if (drawing::isValid(entity))
+            return u"pickhandle %1 %2"_s.arg(handleOf(*document(), entity), pointWord(answer.point));
+    }
+    return u"pick "_s + pointWord(answer.point);
+}
+
+void SessionRecorder::settlePoint(const drawing::Vec3 &world)
+{
+    if (std::exchange(m_hasOpenPoint, false))
+        m_lines.last() = u"pick "_s + pointWord(world);
+}
+
+} // namespace host::app

@@ -1,0 +1,59 @@
+#pragma once
+
+#include "host/app/playback/WidgetRecorder.h"
+#include "host/kernel/input/PromptRequest.h"
+
+#include <QObject>
+#include <QStringList>
+
+#include <optional>
+
+namespace host::kernel {
+class Document;
+class Session;
+} // namespace host::kernel
+
+namespace host::app {
+
+/// Writes down what a person does in a window, as a recorded session that plays: commands and expressions, answers to
+/// prompts, points as they came to be after snaps, entities by their handles, and what is done in dialogs that a run
+/// opens. What scripts and programs answer is no person's and is left out, as are the window's own dialogs.
+class SessionRecorder final : public QObject
+{
+    Q_OBJECT
+
+public:
+    /// From now on. The file is written when a run ends, and by the destructor; `session` must outlive the recorder.
+    SessionRecorder(kernel::Session &session, const QString &file);
+    ~SessionRecorder() override;
+
+    const QString &file() const { return m_file; }
+    /// What was recorded so far, a line each.
+    QString text() const;
+    /// Writes the file; why it could not be written, empty when it was.
+    QString save();
+
+    /// A line for what the window does by itself, without a prompt.
+    void add(const QString &line);
+
+private:
+    void take(const kernel::PromptRequest &request, const kernel::InputAnswer &answer);
+    void takeCommand(const kernel::InputAnswer &answer);
+    QString lineFor(const kernel::PromptRequest &request, const kernel::InputAnswer &answer);
+    QString lineForPoint(const kernel::PromptRequest &request, const kernel::PointAnswer &answer);
+    /// What was chosen before a command began.
+    void addChosen();
+    /// A point shown by hand is known when the prompt made of it what snaps and ORTHOMODE say.
+    void settlePoint(const drawing::Vec3 &world);
+    bool isRunning() const;
+    kernel::Document *document() const;
+
+    kernel::Session &m_session;
+    QString m_file;
+    QStringList m_lines;
+    QString m_lastCommand;
+    bool m_hasOpenPoint = false; ///< the last line is a point that is not settled
+    WidgetRecorder m_widgets;
+};
+
+} // namespace host::app

@@ -1,0 +1,46 @@
+// Sessions that the window records.
+
+#include "host/app/playback/SessionRecorder.h"
+#include "host/app/window/CommandLine.h"
+#include "host/app/window/CommandRunner.h"
+#include "host/app/window/MainWindow.h"
+
+#include <QDir>
+#include <QFileDialog>
+
+using namespace Qt::StringLiterals;
+
+namespace host::app {
+
+void MainWindow::startRecording(const QString &file)
+{
+    m_recorder = std::make_unique<SessionRecorder>(m_workbench->session(), file);
+    // What a crash leaves is whole up to the last run.
+    connect(m_runner.get(), &CommandRunner::ended, m_recorder.get(), [this] { m_recorder->save(); });
+    m_record->setText(tr("Stop &recording"));
+    m_commandLine->print(tr("\nRecording to %1.\n").arg(QDir::toNativeSeparators(file)));
+}
+
+void MainWindow::stopRecording()
+{
+    if (!m_recorder)
+        return;
+    const QString reason = m_recorder->save();
+    const QString file = QDir::toNativeSeparators(m_recorder->file());
+    m_recorder.reset();
+    m_record->setText(tr("&Record session..."));
+    m_commandLine->print(reason.isEmpty() ? tr("\nRecorded in %1.\n").arg(file)
+                                          : tr("\nThe recording was not written: %1: %2\n").arg(file, reason));
+}
+
+void MainWindow::toggleRecording()
+{
+    if (m_recorder)
+        return stopRecording();
+    const QString file = QFileDialog::getSaveFileName(this, tr("Record session"), u"session.txt"_s,
+                                                      tr("Recorded sessions (*.txt);;All files (*)"));
+    if (!file.isEmpty())
+        startRecording(file);
+}
+
+} // namespace host::app
