@@ -1,0 +1,10 @@
+;;; -*- lexical-binding: t -*-
+(defvar l nil)
+(defvar i 0)
+(defvar n 0)
+(defun run ()
+  (while (< i 1000) (setq l (cons (cons i (* i i)) l) i (1+ i)))
+  (setq n 0 i 0)
+  (while (< i 100000) (setq n (+ n (cdr (assoc (% i 1000) l))) i (1+ i))))
+(run)
+(princ n)

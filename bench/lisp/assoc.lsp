@@ -1,0 +1,5 @@
+(setq l nil i 0)
+(while (< i 1000) (setq l (cons (cons i (* i i)) l) i (1+ i)))
+(setq n 0 i 0)
+(while (< i 100000) (setq n (+ n (cdr (assoc (rem i 1000) l))) i (1+ i)))
+(princ n)

@@ -1,0 +1,6 @@
+(define l '())
+(define i 0)
+(define (run) (if (< i 1000000) (begin (set! l (cons i l)) (set! i (+ i 1)) (run))))
+(run)
+(display (length l))
+(display (car (reverse l)))

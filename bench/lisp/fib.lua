@@ -1,0 +1,2 @@
+function fib(n) if n < 2 then return n end return fib(n - 1) + fib(n - 2) end
+io.write(fib(27))

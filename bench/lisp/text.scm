@@ -1,0 +1,5 @@
+(define s "")
+(define i 0)
+(define (run) (if (< i 20000) (begin (set! s (string-append s "x")) (set! i (+ i 1)) (run))))
+(run)
+(display (string-length s))
