@@ -2,6 +2,16 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <utility>
+
+// Whether the sanitizer of addresses is at work, which compilers say in ways of their own.
+#if defined(__SANITIZE_ADDRESS__)
+#define ORTAKIT_ADDRESSES_ARE_WATCHED true
+#elif defined(__clang__)
+#define ORTAKIT_ADDRESSES_ARE_WATCHED __has_feature(address_sanitizer)
+#else
+#define ORTAKIT_ADDRESSES_ARE_WATCHED false
+#endif
 
 namespace host::lisp {
 
@@ -59,6 +69,40 @@ private:
     // One addition for each object: the accesses must not cost a call. (The library is there when the program starts.)
     [[gnu::tls_model("initial-exec")]] static thread_local constinit std::int64_t s_left;
     [[gnu::tls_model("initial-exec")]] static thread_local constinit std::int64_t s_limit;
+};
+
+/// Memory for the smallest objects, of which most are pairs: places of one size, which are used again and never given
+/// back to the system. One store for all interpreters of the thread.
+class SmallBlocks
+{
+public:
+    /// What fits into a place.
+    static constexpr std::size_t size = 40;
+
+    static void *take()
+    {
+        if (s_free) [[likely]]
+            return std::exchange(s_free, *static_cast<void **>(s_free));
+        if (s_next == s_end) [[unlikely]]
+            getMore();
+        return std::exchange(s_next, s_next + size);
+    }
+    /// Whether something of this size goes there. Not under the sanitizer, which sees what happens to memory that comes
+    /// from its own allocator.
+    static constexpr bool isFor(std::size_t bytes) noexcept { return !isWatched && bytes <= size; }
+    static void give(void *block) noexcept
+    {
+        *static_cast<void **>(block) = s_free;
+        s_free = block;
+    }
+
+private:
+    static constexpr bool isWatched = ORTAKIT_ADDRESSES_ARE_WATCHED;
+    static void getMore();
+
+    [[gnu::tls_model("initial-exec")]] static thread_local constinit void *s_free;      ///< each leads to the next
+    [[gnu::tls_model("initial-exec")]] static thread_local constinit std::byte *s_next; ///< never used so far
+    [[gnu::tls_model("initial-exec")]] static thread_local constinit std::byte *s_end;
 };
 
 /// Counts what something that is no Lisp object keeps for a program, until it goes.

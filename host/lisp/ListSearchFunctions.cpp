@@ -22,37 +22,69 @@ private:
     Value m_function;
 };
 
+/// Calls `use` with what tells, by `equal`, whether a value is the one looked for: lists are searched many times over,
+/// so each kind has its own way.
+template <typename Use>
+static auto withTest(Interpreter &interpreter, const Value &wanted, Use use)
+{
+    if (wanted.isInteger()) {
+        const std::int32_t number = wanted.asInteger();
+        return use([number](const Value &value) {
+            return value.isInteger() ? value.asInteger() == number : value.isReal() && value.asReal() == number;
+        });
+    }
+    if (wanted.isReal()) {
+        const double number = wanted.asReal();
+        return use([number](const Value &value) { return value.isNumber() && value.asReal() == number; });
+    }
+    if (wanted.isString()) {
+        const std::string_view text = wanted.asString();
+        return use([text](const Value &value) { return value.isString() && value.asString() == text; });
+    }
+    if (!wanted.isCons())
+        return use([&wanted](const Value &value) { return value.isSame(wanted); });
+    return use([&](const Value &value) { return value.isCons() && interpreter.equal(value, wanted); });
+}
+
 // (member item list) -> the list from the first item that equals it; nil when there is none.
 static Value member(Arguments &args)
 {
     const Value *rest = &args.list(1);
-    while (rest->isCons() && !args.interpreter().equal(rest->car(), args[0]))
-        rest = &rest->cdr();
+    withTest(args.interpreter(), args[0], [&rest](auto isWanted) {
+        while (rest->isCons() && !isWanted(rest->asCons().car))
+            rest = &rest->asCons().cdr;
+    });
     return rest->isCons() ? *rest : Value();
 }
 
 // (assoc key list) -> the first item whose own first item equals key. An item that is no list: bad association list.
 static Value assoc(Arguments &args)
 {
-    for (const Value &item : ListItems(args.list(1))) {
-        if (!item.isList())
-            args.badValue(1, "bad association list");
-        if (item.isCons() && args.interpreter().equal(item.car(), args[0]))
-            return item;
-    }
-    return {};
+    const Value *rest = &args.list(1);
+    withTest(args.interpreter(), args[0], [&](auto isWanted) {
+        for (; rest->isCons(); rest = &rest->asCons().cdr) {
+            const Value &item = rest->asCons().car;
+            if (item.isCons()) {
+                if (isWanted(item.asCons().car))
+                    return;
+            } else if (item.isTrue()) {
+                args.badValue(1, "bad association list");
+            }
+        }
+    });
+    return rest->car();
 }
 
 // (vl-position item list) -> where the first equal item is, from 0; nil when there is none.
 static Value listPosition(Arguments &args)
 {
     std::int32_t index = 0;
-    for (const Value &item : ListItems(args.list(1))) {
-        if (args.interpreter().equal(item, args[0]))
-            return Value::integer(index);
-        ++index;
-    }
-    return {};
+    const Value *rest = &args.list(1);
+    withTest(args.interpreter(), args[0], [&](auto isWanted) {
+        for (; rest->isCons() && !isWanted(rest->asCons().car); rest = &rest->asCons().cdr)
+            ++index;
+    });
+    return rest->isCons() ? Value::integer(index) : Value();
 }
 
 enum class Wanted : std::uint8_t
@@ -77,10 +109,12 @@ static Value memberIf(Arguments &args)
 static Value remove(Arguments &args)
 {
     ListBuilder kept;
-    for (const Value &item : ListItems(args.list(1))) {
-        if (!args.interpreter().equal(item, args[0]))
-            kept.append(item);
-    }
+    withTest(args.interpreter(), args[0], [&](auto isWanted) {
+        for (const Value &item : ListItems(args.list(1))) {
+            if (!isWanted(item))
+                kept.append(item);
+        }
+    });
     return kept.take();
 }
 

@@ -147,13 +147,13 @@ public:
     std::int32_t asInteger() const noexcept
     {
         assert(isInteger());
-        return m_integer;
+        return static_cast<std::int32_t>(m_integer);
     }
     /// The number as a real, whichever of the two kinds it is.
     double asReal() const noexcept
     {
         assert(isNumber());
-        return isInteger() ? m_integer : m_real;
+        return isInteger() ? static_cast<double>(m_integer) : m_real;
     }
     /// UTF-8, of any length.
     const std::string &asString() const noexcept;
@@ -199,7 +199,7 @@ private:
 
     Tag m_tag = Tag::Nil;
     union {
-        std::int32_t m_integer; ///< Integer
+        std::int64_t m_integer; ///< Integer; as wide as the others, since what is copied is all of it
         double m_real;          ///< Real
         std::uint64_t m_id;     ///< EntityName
         Symbol *m_symbol;       ///< Symbol
@@ -221,14 +221,17 @@ struct Object
     static void *operator new(std::size_t size)
     {
         Heap::check(Heap::blockOf(size));
-        void *memory = ::operator new(size);
+        void *memory = SmallBlocks::isFor(size) ? SmallBlocks::take() : ::operator new(size);
         Heap::add(Heap::blockOf(size));
         return memory;
     }
     static void operator delete(void *memory, std::size_t size) noexcept
     {
         Heap::remove(Heap::blockOf(size));
-        ::operator delete(memory, size);
+        if (SmallBlocks::isFor(size))
+            SmallBlocks::give(memory);
+        else
+            ::operator delete(memory, size);
     }
 
     std::uint32_t references = 1; ///< values that hold it; a new object belongs to whoever adopts it

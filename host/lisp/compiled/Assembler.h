@@ -3,7 +3,7 @@
 #include "host/lisp/compiled/Code.h"
 
 #include <algorithm>
-#include <initializer_list>
+#include <optional>
 
 namespace host::lisp::compiled {
 
@@ -66,6 +66,7 @@ public:
     {
         Word word;
         word.operation = operation;
+        m_last = m_code.words.size();
         m_code.words.push_back(word);
         moveDepth(change);
     }
@@ -83,7 +84,23 @@ public:
         m_places.push_back(0);
         return {m_places.size() - 1};
     }
-    void place(Label label) { m_places[label.number] = m_code.words.size(); }
+    void place(Label label)
+    {
+        m_places[label.number] = m_code.words.size();
+        m_reached = m_code.words.size();
+    }
+
+    /// Takes the instruction put last back when it is this one, of two words, and nothing jumps behind it: its operand.
+    std::optional<Word> takeBack(Operation operation, int change)
+    {
+        const bool isIt = m_code.words.size() == m_last + 2 && m_code.words[m_last].operation == operation;
+        if (!isIt || m_reached == m_code.words.size())
+            return std::nullopt;
+        const Word operand = m_code.words.back();
+        m_code.words.resize(m_last);
+        moveDepth(-change);
+        return operand;
+    }
 
     /// Values on the stack at this place.
     int depth() const noexcept { return m_depth; }
@@ -112,6 +129,8 @@ private:
     Code &m_code;
     std::vector<std::size_t> m_places;
     std::vector<Use> m_uses;
+    std::size_t m_last = 0;    ///< where the last instruction begins
+    std::size_t m_reached = 0; ///< the last place of a label
     int m_depth = 0;
 };
 

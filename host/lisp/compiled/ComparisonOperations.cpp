@@ -111,6 +111,11 @@ constexpr bool wantsNumber(Predicate kind)
     return kind == Predicate::IsZero || kind == Predicate::IsNegative;
 }
 
+[[gnu::noinline]] void refuseOperand(Machine &machine, const Word *at, Value *top, const Value &value)
+{
+    machine.callNative(*at[4].site, top, value, value);
+}
+
 template <Predicate Kind, From Operand, bool jumpsWhen>
 const Word *predicate(Machine &machine, const Word *at, Value *top)
 {
@@ -118,7 +123,7 @@ const Word *predicate(Machine &machine, const Word *at, Value *top)
     if constexpr (wantsNumber(Kind)) {
         // Never comes back.
         if (!value.isNumber()) [[unlikely]]
-            machine.callNative(*at[4].site, top, value, value);
+            refuseOperand(machine, at, top, value);
     }
     const bool truth = isOfKind<Kind>(value);
     if constexpr (Operand == From::Stack)

@@ -22,7 +22,6 @@ const Word *copy(Machine &machine, const Word *at, Value *top)
 {
     Value value = *at[1].value;
     at[2].cell->swap(value);
-    machine.top = top;
     return jumpTo(machine, at + 3, top);
 }
 
@@ -35,6 +34,15 @@ const Word *keep(Machine &machine, const Word *at, Value *top)
 {
     top[-1].swap(top[-1 - static_cast<std::ptrdiff_t>(at[1].number)]);
     return jumpTo(machine, at + 2, discard<1>(top));
+}
+
+const Word *keepValue(Machine &machine, const Word *at, Value *top)
+{
+    Value &kept = *(top - at[1].number);
+    if (kept.tag() >= Tag::String) [[unlikely]]
+        empty(kept);
+    new (&kept) Value(*at[2].value);
+    return goOn(machine, at + 3, top);
 }
 
 const Word *jump(Machine &machine, const Word *at, Value *top)
@@ -137,6 +145,7 @@ const Operation storeOperation = store;
 const Operation copyOperation = copy;
 const Operation dropOperation = drop;
 const Operation keepOperation = keep;
+const Operation keepValueOperation = keepValue;
 const Operation jumpOperation = jump;
 const Operation jumpKeepingOperation = jumpKeeping;
 const Operation loopOperation = loop;

@@ -136,28 +136,36 @@ const Word *Machine::enter(const Function &function, std::size_t count, Location
     return code.begin();
 }
 
-void Machine::takeFrameApart() noexcept
+inline void Machine::restoreVariables() noexcept
 {
-    const Frame &frame = *--m_frame;
-    const std::vector<Symbol *> &variables = frame.call.function->variables;
+    const Frame &current = frame();
+    Symbol *const *const variables = current.call.function->variables.data();
     // Backwards, so that a name that occurs twice gets its first value back.
-    for (std::size_t i = variables.size(); i-- > 0;) {
-        variables[i]->value().swap(frame.values[i]);
-        frame.values[i].~Value();
+    for (std::size_t i = current.call.function->variables.size(); i-- > 0;) {
+        variables[i]->value().swap(current.values[i]);
+        current.values[i].~Value();
     }
-    m_interpreter.m_frame = frame.call.outer;
-    m_interpreter.m_location = frame.call.location;
-    top = frame.values - 1;
-    top->~Value();
+}
+
+/// Gives the place of the first of its variables.
+inline Value *Machine::popFrame() noexcept
+{
+    const Frame &current = *--m_frame;
+    m_interpreter.m_frame = current.call.outer;
+    m_interpreter.m_location = current.call.location;
+    return current.values;
 }
 
 const Word *Machine::leave(Value *alive)
 {
     const Word *const resume = frame().resume;
-    assert(alive == frame().values + frame().call.function->variables.size() + 1);
-    Value result(std::move(alive[-1]));
-    takeFrameApart();
-    new (top++) Value(std::move(result));
+    Value &result = alive[-1];
+    assert(&result == frame().values + frame().call.function->variables.size());
+    restoreVariables();
+    // The function goes to where the result was.
+    frame().values[-1].swap(result);
+    top = popFrame();
+    result.~Value();
     return resume;
 }
 
@@ -169,7 +177,9 @@ void Machine::unwind(const Frame *outermost, const Value *lowest, std::size_t lo
             (--top)->~Value();
         while (m_loops.size() > frame().loops)
             endLoop();
-        takeFrameApart();
+        restoreVariables();
+        top = popFrame() - 1;
+        top->~Value();
     }
     while (top > lowest)
         (--top)->~Value();

@@ -103,7 +103,8 @@ private:
     Value run(const Code &code);
     Value runUntilEnd(const Word *at);
     void unwind(const Frame *outermost, const Value *lowest, std::size_t loops) noexcept;
-    void takeFrameApart() noexcept;
+    void restoreVariables() noexcept;
+    Value *popFrame() noexcept;
     void reserveMemory();
     void checkRoom(std::size_t places, Location location, Value *alive);
     void poll(Location location, Value *alive);

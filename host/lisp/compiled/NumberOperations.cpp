@@ -45,15 +45,15 @@ template <From Left, From Right, To Result>
 }
 
 template <Arithmetic Kind, From Left, From Right, To Result>
-const Word *arithmeticOfReals(Machine &machine, const Word *at, Value *top)
+[[gnu::noinline]] const Word *arithmeticOfReals(Machine &machine, const Word *at, Value *top)
 {
     using In = Operands<Left, Right>;
     const Value &left = In::left(at, top);
     const Value &right = In::right(at, top);
     if (!left.isNumber() || !right.isNumber() || (Kind == Arithmetic::Divide && right.asReal() == 0.0)) [[unlikely]]
         return refuseNumbers<Left, Right, Result>(machine, at, top);
-    const Value number = Value::real(combineReals<Kind>(left.asReal(), right.asReal()));
-    top = putPlain<Result, In::onStack>(at[3].cell, top, number);
+    const double number = combineReals<Kind>(left.asReal(), right.asReal());
+    top = putNumber<Result, In::onStack>(at[3].cell, top, [number] { return Value::real(number); });
     return goOn(machine, at + operandWords, top);
 }
 
@@ -65,8 +65,8 @@ const Word *arithmetic(Machine &machine, const Word *at, Value *top)
     const Value &right = In::right(at, top);
     if (!left.isInteger() || !right.isInteger() || (Kind == Arithmetic::Divide && right.asInteger() == 0)) [[unlikely]]
         return arithmeticOfReals<Kind, Left, Right, Result>(machine, at, top);
-    const Value number = Value::integer(combineIntegers<Kind>(left.asInteger(), right.asInteger()));
-    top = putPlain<Result, In::onStack>(at[3].cell, top, number);
+    const std::int32_t number = combineIntegers<Kind>(left.asInteger(), right.asInteger());
+    top = putNumber<Result, In::onStack>(at[3].cell, top, [number] { return Value::integer(number); });
     return goOn(machine, at + operandWords, top);
 }
 

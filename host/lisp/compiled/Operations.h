@@ -63,6 +63,8 @@ extern const Operation copyOperation;
 extern const Operation dropOperation;
 /// number: the topmost value takes the place of one so far below it.
 extern const Operation keepOperation;
+/// number, value: a copy of the value takes the place of the one so far below the first free place.
+extern const Operation keepValueOperation;
 /// target: a step forward, without condition.
 extern const Operation jumpOperation;
 /// target: goes there with the topmost value, if it is true; else takes it away.

@@ -94,8 +94,11 @@ void FormCompiler::compileRound(const Value &forms, const Destination &to, int d
     if (to.kind == Kind::Nothing)
         return compileBody(forms, to);
     compileBody(forms, Destination::stack());
-    m_assembler.begin(keepOperation, -1);
+    const std::optional<Word> value = m_assembler.takeBack(pushOperation, 1);
+    m_assembler.begin(value ? keepValueOperation : keepOperation, value ? 0 : -1);
     m_assembler.add(wordOf(static_cast<std::size_t>(distance)));
+    if (value)
+        m_assembler.add(*value);
 }
 
 void FormCompiler::compileWhile(const Value &form, const Destination &to)

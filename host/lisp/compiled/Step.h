@@ -65,17 +65,26 @@ struct Operands
     }
 };
 
-/// Puts a value that holds no object over `places` values that hold none either, or into a symbol.
-template <To Result, int places>
-[[gnu::always_inline]] inline Value *putPlain(Value *cell, Value *top, const Value &result)
+// A call is a jump only where no variable of the function has an address that anybody may know: what needs one is done
+// by functions of their own, here and in the operations.
+
+/// Lets go of what a symbol holds.
+[[gnu::noinline]] inline void empty(Value &cell)
+{
+    cell = Value();
+}
+
+/// Puts a number, made by `make`, over `places` numbers, or into a symbol.
+template <To Result, int places, typename Make>
+[[gnu::always_inline]] inline Value *putNumber(Value *cell, Value *top, Make make)
 {
     if constexpr (Result == To::Stack) {
-        new (top - places) Value(result);
+        new (top - places) Value(make());
         return top - places + 1;
     } else {
         if (cell->tag() >= Tag::String) [[unlikely]]
-            *cell = Value();
-        new (cell) Value(result);
+            empty(*cell);
+        new (cell) Value(make());
         return top - places;
     }
 }
