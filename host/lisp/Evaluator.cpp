@@ -140,6 +140,8 @@ Value Interpreter::callUser(const Function &function, ValueFrame &values, Locati
         raiseArgumentCount(function, values.size());
     if (function.mark != 0) [[unlikely]]
         return callWatched(function, values, location);
+    if (m_isCompiling && m_machine->takes(function))
+        return m_machine->call(function, {values.values(), values.size()}, location);
     Binding binding(*this, function, values, location);
     return evalBody(function.body);
 }
@@ -170,8 +172,6 @@ Value Interpreter::callWatched(const Function &function, ValueFrame &values, Loc
     const ObservedCall call(*this, (function.mark & CallWatch::Observed) ? m_callObserver : nullptr, function);
     if (function.mark & CallWatch::Traced)
         return callTraced(function, values, location);
-    if (m_isCompiling && m_machine->takes(function))
-        return m_machine->call(function, {values.values(), values.size()}, location);
     Binding binding(*this, function, values, location);
     return evalBody(function.body);
 }
