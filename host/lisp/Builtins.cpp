@@ -1,5 +1,7 @@
 #include "host/lisp/Builtins.h"
 
+#include <initializer_list>
+
 namespace host::lisp {
 
 void addBuiltins(Interpreter &interpreter)

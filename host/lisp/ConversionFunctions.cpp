@@ -5,6 +5,7 @@
 #include "host/lisp/Interpreter.h"
 #include "host/units/Units.h"
 
+#include <cmath>
 #include <limits>
 
 namespace host::lisp {
