@@ -163,7 +163,7 @@ std::string RandomProgram::lambda(int depth)
 std::string RandomProgram::parameters()
 {
     return std::string(m_choices.of({"(x)", "(x)", "(x y)", "(a)", "(a / b)", "(x / x)", "(max)", "(x / car)", "()",
-                                     "(x y / l z)", "(f)", "(x x)"}));
+                                     "(/ b)", "(/ max y)", "(x y / l z)", "(f)", "(x x)"}));
 }
 
 std::string RandomProgram::call(int depth)
@@ -282,7 +282,8 @@ std::vector<std::string> RandomProgram::forms()
     if (m_choices.oneIn(4))
         texts.push_back("(defun *error* (m) (princ (list \"*error*\" m)) " + form(2) + ")");
     for (const std::string_view name : {"f", "g", "h"})
-        texts.push_back("(defun " + std::string(name) + " " + std::string(m_choices.of({"(x)", "(a / b x)", "(x y)"})) +
+        texts.push_back("(defun " + std::string(name) + " " +
+                        std::string(m_choices.of({"(x)", "(a / b x)", "(x y)", "(/ x)"})) +
                         "\n(if (< (setq fuel (1- fuel)) 0) 'spent\n(progn " + forms(4) + ")))");
     for (std::uint32_t more = 2 + m_choices.below(6); more > 0; --more)
         texts.push_back("\n" + form(5));

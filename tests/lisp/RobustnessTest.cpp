@@ -34,6 +34,8 @@ TEST(Robustness, DeepCallsEndInAnError)
         "(defun f (n) (mapcar 'f (list n))) (f 1)",
         "(defun f (a b) (vl-sort '(1 2) 'f)) (f 1 2)",
         "(defun f () (eval '(f))) (f)",
+        "(defun-q f (n) (f n)) (f 1)",
+        "(defun g (/ n) (f 1)) (defun-q f (n) (g)) (g)",
         "(defun f () (apply 'f nil)) (f)",
         "(setq x '(progn (eval x))) (eval x)",
         "(defun f (/ a b c d e f g h) (f)) (defun f2 (/ a b c d e) (f2)) (f2)",
@@ -51,6 +53,7 @@ TEST(Robustness, DeepCallsEndInAnError)
     EXPECT_EQ(bench("(defun sum (l) (if l (+ (car l) (sum (cdr l))) 0)) (setq l nil) (repeat 100000 (setq l (cons 1 "
                     "l))) (sum l)"),
               "100000");
+    EXPECT_EQ(bench("(apply 'depth '(100000))"), "100000");
     bench.interpreter.setCompiling(false);
     EXPECT_EQ(bench("(depth 2000)"), "2000");
 }

@@ -44,9 +44,30 @@ const Word *callNative(Machine &machine, const Word *at, Value *top)
     return jumpTo(machine, at + 2, machine.callNative(*at[1].site, top));
 }
 
+const Word *bindOne(Machine &machine, const Word *at, Value *top)
+{
+    at[1].cell->swap(top[-1]);
+    return goOn(machine, at + 2, top);
+}
+
+const Word *bind(Machine &machine, const Word *at, Value *top)
+{
+    return jumpTo(machine, at + 1, machine.bindVariables(top));
+}
+
+const Word *leaveOne(Machine &machine, const Word *at, Value *top)
+{
+    // The result, below it what the variable held before, below that the function.
+    Value &before = top[-2];
+    at[1].cell->swap(before);
+    before.~Value();
+    return machine.leave(top[-3], top[-1]);
+}
+
 const Word *leave(Machine &machine, const Word *, Value *top)
 {
-    return machine.leave(top);
+    machine.restoreVariables();
+    return machine.leave(machine.frame().values[-1], top[-1]);
 }
 
 } // namespace
@@ -54,6 +75,9 @@ const Word *leave(Machine &machine, const Word *, Value *top)
 const Operation headOperation = head;
 const Operation callOperation = call;
 const Operation callNativeOperation = callNative;
+const Operation bindOneOperation = bindOne;
+const Operation bindOperation = bind;
+const Operation returnOneOperation = leaveOne;
 const Operation returnOperation = leave;
 
 } // namespace host::lisp::compiled

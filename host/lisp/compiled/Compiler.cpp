@@ -25,7 +25,7 @@ std::unique_ptr<const Code> Compiler::compile(const Function &function)
     try {
         auto code = std::make_unique<Code>();
         FormCompiler compiler(m_interpreter, m_shapes, function.variables, *code);
-        if (!compiler.compileAll(function.body, returnOperation))
+        if (!compiler.compileFunction(function.body, function.parameterCount))
             return nullptr;
         code->stackNeed += function.variables.size();
         return finished(std::move(code));
@@ -41,7 +41,7 @@ std::unique_ptr<const Code> Compiler::compile(const Value &form)
         auto code = std::make_unique<Code>();
         FormCompiler compiler(m_interpreter, m_shapes, {}, *code);
         const Value &forms = code->kept.emplace_back(Value::cons(form, Value()));
-        return compiler.compileAll(forms, endOperation) ? finished(std::move(code)) : nullptr;
+        return compiler.compileAll(forms) ? finished(std::move(code)) : nullptr;
     } catch (const Error &) {
         return nullptr;
     }

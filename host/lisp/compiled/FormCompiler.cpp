@@ -6,16 +6,52 @@ namespace host::lisp::compiled {
 
 FormCompiler::FormCompiler(Interpreter &interpreter, const Shapes &shapes, std::span<Symbol *const> variables,
                            Code &code)
-    : m_interpreter(interpreter), m_lambda(interpreter.intern("lambda")), m_code(code), m_analysis(shapes, variables),
-      m_assembler(code)
+    : m_interpreter(interpreter), m_variables(variables), m_lambda(interpreter.intern("lambda")), m_code(code),
+      m_analysis(shapes, variables), m_assembler(code)
 {
 }
 
-bool FormCompiler::compileAll(const Value &forms, Operation end)
+bool FormCompiler::canCompile(const Value &forms)
 {
     m_analysis.effectOfAll(forms);
-    if (!m_analysis.isSuitable())
+    return m_analysis.isSuitable();
+}
+
+bool FormCompiler::compileFunction(const Value &body, std::size_t parameters)
+{
+    if (!canCompile(body))
         return false;
+    // A single local has no argument on the stack.
+    const bool hasOne = m_variables.size() == 1 && parameters == 1;
+    m_assembler.begin(hasOne ? bindOneOperation : bindOperation, 0);
+    if (hasOne)
+        m_assembler.add(wordOf(m_variables[0]->value()));
+    compileForms(body);
+    m_assembler.begin(hasOne ? returnOneOperation : returnOperation, 0);
+    if (hasOne)
+        m_assembler.add(wordOf(m_variables[0]->value()));
+    finish();
+    return true;
+}
+
+bool FormCompiler::compileAll(const Value &forms)
+{
+    if (!canCompile(forms))
+        return false;
+    compileForms(forms);
+    m_assembler.begin(endOperation, 0);
+    finish();
+    return true;
+}
+
+void FormCompiler::finish()
+{
+    compileDetours();
+    m_assembler.finish();
+}
+
+void FormCompiler::compileForms(const Value &forms)
+{
     std::vector<Guard> guards;
     for (const Value &form : ListItems(forms)) {
         if (!m_analysis.collectGuards(form, guards))
@@ -29,10 +65,6 @@ bool FormCompiler::compileAll(const Value &forms, Operation end)
         compileBody(forms, Destination::stack());
         endGuarded(detour);
     }
-    m_assembler.begin(end, 0);
-    compileDetours();
-    m_assembler.finish();
-    return true;
 }
 
 void FormCompiler::compile(const Value &form, const Destination &to)

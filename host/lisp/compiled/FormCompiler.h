@@ -40,9 +40,11 @@ class FormCompiler
 public:
     FormCompiler(Interpreter &interpreter, const Shapes &shapes, std::span<Symbol *const> variables, Code &code);
 
-    /// All forms in turn, the value of the last on the stack, and behind it an instruction that ends the code. False
-    /// when the evaluator has to do them.
-    bool compileAll(const Value &forms, Operation end);
+    /// A function's body, its variables bound before, the first `parameters` of which are parameters; false when the
+    /// evaluator has to do it.
+    bool compileFunction(const Value &body, std::size_t parameters);
+    /// All forms in turn, the value of the last on the stack when the code ends; false likewise.
+    bool compileAll(const Value &forms);
 
 private:
     using Kind = Destination::Kind;
@@ -61,6 +63,10 @@ private:
         int depth;
         bool isBody;
     };
+
+    bool canCompile(const Value &forms);
+    void compileForms(const Value &forms);
+    void finish();
 
     // Any forms.
     void compile(const Value &form, const Destination &to);
@@ -106,6 +112,7 @@ private:
     const Site &newSite(const KnownBuiltin &builtin, const Value &form, std::size_t count);
 
     Interpreter &m_interpreter;
+    std::span<Symbol *const> m_variables;
     Symbol &m_lambda;
     Code &m_code;
     Analysis m_analysis;

@@ -62,6 +62,8 @@ bool Machine::takes(const Function &function)
 
 Value Machine::call(const Function &function, std::span<Value> arguments, Location location)
 {
+    // A function made of a list at each call comes here from code, again and again.
+    m_interpreter.checkStack();
     reserveMemory();
     checkRoom(arguments.size() + 1, location, top);
     const Frame *const frame = m_frame;
@@ -122,51 +124,34 @@ const Word *Machine::enter(const Function &function, std::size_t count, Location
     const Code &code = *function.code;
     if (m_frame >= m_frameEnd || static_cast<std::size_t>(m_end - alive) < code.stackNeed) [[unlikely]]
         checkRoom(code.stackNeed, location, alive);
-    Value *const values = alive - count;
-    const std::size_t variables = function.variables.size();
-    for (std::size_t i = count; i < variables; ++i)
-        new (alive++) Value();
-    for (std::size_t i = 0; i < variables; ++i)
-        function.variables[i]->value().swap(values[i]);
     Frame *const frame =
-        new (m_frame) Frame{{m_interpreter.m_frame, &function, location}, resume, values, m_loops.size()};
+        new (m_frame) Frame{{m_interpreter.m_frame, &function, location}, resume, alive - count, m_loops.size()};
     ++m_frame;
     m_interpreter.m_frame = &frame->call;
     top = alive;
     return code.begin();
 }
 
-inline void Machine::restoreVariables() noexcept
+Value *Machine::bindVariables(Value *alive)
 {
     const Frame &current = frame();
-    Symbol *const *const variables = current.call.function->variables.data();
+    const std::vector<Symbol *> &variables = current.call.function->variables;
+    for (Value *const end = current.values + variables.size(); alive != end;)
+        new (alive++) Value();
+    for (std::size_t i = 0; i < variables.size(); ++i)
+        variables[i]->value().swap(current.values[i]);
+    return alive;
+}
+
+void Machine::restoreVariables() noexcept
+{
+    const Frame &current = frame();
+    const std::vector<Symbol *> &variables = current.call.function->variables;
     // Backwards, so that a name that occurs twice gets its first value back.
-    for (std::size_t i = current.call.function->variables.size(); i-- > 0;) {
+    for (std::size_t i = variables.size(); i-- > 0;) {
         variables[i]->value().swap(current.values[i]);
         current.values[i].~Value();
     }
-}
-
-/// Gives the place of the first of its variables.
-inline Value *Machine::popFrame() noexcept
-{
-    const Frame &current = *--m_frame;
-    m_interpreter.m_frame = current.call.outer;
-    m_interpreter.m_location = current.call.location;
-    return current.values;
-}
-
-const Word *Machine::leave(Value *alive)
-{
-    const Word *const resume = frame().resume;
-    Value &result = alive[-1];
-    assert(&result == frame().values + frame().call.function->variables.size());
-    restoreVariables();
-    // The function goes to where the result was.
-    frame().values[-1].swap(result);
-    top = popFrame();
-    result.~Value();
-    return resume;
 }
 
 void Machine::unwind(const Frame *outermost, const Value *lowest, std::size_t loops) noexcept
@@ -178,7 +163,8 @@ void Machine::unwind(const Frame *outermost, const Value *lowest, std::size_t lo
         while (m_loops.size() > frame().loops)
             endLoop();
         restoreVariables();
-        top = popFrame() - 1;
+        top = frame().values - 1;
+        popFrame();
         top->~Value();
     }
     while (top > lowest)
@@ -247,7 +233,9 @@ const Word *Machine::callValue(std::size_t count, Location location, const Word 
         const Function &function = callee.asFunction();
         if (count != function.parameterCount)
             m_interpreter.raiseArgumentCount(function, count);
-        if (function.mark == 0 && takes(function))
+        // Of others, callUser() counts the calls.
+        const bool isCounted = function.name || function.compiling != Function::Compiling::NotYet;
+        if (function.mark == 0 && isCounted && takes(function))
             return enter(function, count, location, resume, alive);
         Interpreter::ValueFrame values(m_interpreter);
         for (std::size_t i = 0; i < count; ++i)

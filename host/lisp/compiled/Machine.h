@@ -77,8 +77,20 @@ public:
 
     /// Begins a call of the function at top[-count - 1], which takes that many arguments. Gives its first instruction.
     const Word *enter(const Function &function, std::size_t count, Location location, const Word *resume, Value *alive);
-    /// Ends it: its variables get their values back, and the value at the top takes the place of the function.
-    const Word *leave(Value *alive);
+    /// Gives its variables their values, the arguments and nil; what they had before lies in the place of these.
+    Value *bindVariables(Value *alive);
+    void restoreVariables() noexcept;
+    /// Ends the call, when its variables have their values back: the result, alone on the stack behind the places of
+    /// the variables, takes the place of the function.
+    const Word *leave(Value &function, Value &result)
+    {
+        const Word *const resume = frame().resume;
+        popFrame();
+        function.swap(result);
+        top = &function + 1;
+        result.~Value();
+        return resume;
+    }
 
     // What is done in more steps than an instruction should have. All give the new top.
 
@@ -103,8 +115,12 @@ private:
     Value run(const Code &code);
     Value runUntilEnd(const Word *at);
     void unwind(const Frame *outermost, const Value *lowest, std::size_t loops) noexcept;
-    void restoreVariables() noexcept;
-    Value *popFrame() noexcept;
+    void popFrame() noexcept
+    {
+        const Frame &ended = *--m_frame;
+        m_interpreter.m_frame = ended.call.outer;
+        m_interpreter.m_location = ended.call.location;
+    }
     void reserveMemory();
     void checkRoom(std::size_t places, Location location, Value *alive);
     void poll(Location location, Value *alive);

@@ -99,7 +99,13 @@ extern const Operation callOperation;
 extern const Operation callNativeOperation;
 /// site: a list of as many values.
 extern const Operation listOperation;
-/// Ends a function of no, one, any number of variables.
+/// symbol's cell: begins a function of one variable, a parameter, which gets its value and leaves the one that it had
+/// on the stack.
+extern const Operation bindOneOperation;
+/// The same with any number of variables, those of the function under way.
+extern const Operation bindOperation;
+/// symbol's cell: ends such a function.
+extern const Operation returnOneOperation;
 extern const Operation returnOperation;
 
 } // namespace host::lisp::compiled
