@@ -273,14 +273,14 @@ private:
     Value *m_stackTop = nullptr;
     Value *m_stackEnd = nullptr;
 
-    std::uintptr_t m_stackLimit = 0;   ///< lowest address that the machine stack may reach
-    std::uint32_t m_pollCountdown = 1; ///< ticks until the console is asked
-    int m_nesting = 0;                 ///< whole evaluations under way, one inside the other
-    int m_textDepth = 0;               ///< texts under way, one loading the other
-    bool m_isTyped = false;            ///< the outermost of them is no file
-    int m_loadDepth = 0;               ///< forms of files under way, one loading the other
-    int m_catchDepth = 0;              ///< catchAll() under way: errors are theirs, not `*error*`'s
-    bool m_inErrorHandler = false;     ///< an error in `*error*` calls none
+    std::uintptr_t m_stackLimit = 0;        ///< lowest address that the machine stack may reach
+    std::uint32_t m_pollCountdown = 1;      ///< ticks until the console is asked
+    int m_nesting = 0;                      ///< whole evaluations under way, one inside the other
+    int m_textDepth = 0;                    ///< texts under way, one loading the other
+    bool m_isTyped = false;                 ///< the outermost of them is no file
+    int m_loadDepth = 0;                    ///< forms of files under way, one loading the other
+    int m_catchDepth = 0;                   ///< catchAll() under way: errors are theirs, not `*error*`'s
+    bool m_inErrorHandler = false;          ///< an error in `*error*` calls none
     CallObserver *m_callObserver = nullptr; ///< hears of calls of functions with its mark; null for none
     CallFrame *m_frame = nullptr;           ///< the innermost user function under way
     Location m_location = 0;                ///< of the list form evaluated last
