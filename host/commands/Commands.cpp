@@ -1,27 +1,6 @@
 #include "host/commands/Commands.h"
 
-#include <algorithm>
-
 namespace host::kernel {
-
-namespace {
-
-/// Those that ask for nothing but how things are shown or set, so that they do no harm in the middle of another.
-constexpr const char *transparentNames[] = {
-    "-LAYER",    "-LINETYPE", "-OSNAP",  "-STYLE", "-VIEW",    "APERTURE", "BASE",   "BLIPMODE",  "COLOR",     "DELAY",
-    "DSETTINGS", "DIST",      "ELEV",    "FILL",   "GRAPHSCR", "GRID",     "HELP",   "ID",        "ISOPLANE",  "LAYER",
-    "LIMITS",    "LTSCALE",   "LWEIGHT", "ORTHO",  "OSNAP",    "PAN",      "REDRAW", "REDRAWALL", "REGENAUTO", "RESUME",
-    "SCRIPT",    "SETVAR",    "SNAP",    "STATUS", "TEXTSCR",  "TIME",     "UNITS",  "ZOOM",
-};
-
-void markTransparent(std::vector<CommandRow> &rows)
-{
-    for (CommandRow &row : rows)
-        row.isTransparent =
-            std::ranges::any_of(transparentNames, [&row](const char *name) { return qstrcmp(name, row.name) == 0; });
-}
-
-} // namespace
 
 std::vector<CommandRow> builtInCommands()
 {
@@ -114,7 +93,6 @@ std::vector<CommandRow> builtInCommands()
          })
         rows.insert(rows.end(), group.begin(), group.end());
     // clang-format on
-    markTransparent(rows);
     return rows;
 }
 

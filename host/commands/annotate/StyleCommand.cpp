@@ -137,7 +137,7 @@ CommandTask textStyle(CommandContext &context)
 
 std::vector<CommandRow> styleCommands()
 {
-    return {{"-STYLE", textStyle, "Makes and changes text styles"},
+    return {{"-STYLE", textStyle, "Makes and changes text styles", WhenCancelled::TakeBack, Interrupts::Prompts},
             {"STYLE", textStyle, "Makes and changes text styles"}};
 }
 

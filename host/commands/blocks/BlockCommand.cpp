@@ -154,10 +154,11 @@ CommandTask updateField(CommandContext &context)
 std::vector<CommandRow> blockCommands()
 {
     constexpr const char *help = "Makes a block of entities";
-    return {{"-BLOCK", block, help},
-            {"BASE", base, "Sets the point that the drawing is inserted by"},
-            {"BLOCK", block, help},
-            {"UPDATEFIELD", updateField, "Evaluates the expressions of texts anew"}};
+    return {
+        {"-BLOCK", block, help},
+        {"BASE", base, "Sets the point that the drawing is inserted by", WhenCancelled::TakeBack, Interrupts::Prompts},
+        {"BLOCK", block, help},
+        {"UPDATEFIELD", updateField, "Evaluates the expressions of texts anew"}};
 }
 
 } // namespace host::kernel

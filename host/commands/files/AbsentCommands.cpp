@@ -70,14 +70,14 @@ std::vector<CommandRow> absentCommands()
     return {{"ARX", loadRuntime, "Takes what programs ask of it; programs for other hosts do not run here"},
             {"CUILOAD", loadMenu, "Takes the name of a menu file; there are none here"},
             {"CUIUNLOAD", unloadMenu, "Takes the name of a menu; there are none here"},
-            {"DELAY", delay, "Waits for so many milliseconds"},
-            {"GRAPHSCR", nothing, "The drawing is always in sight"},
+            {"DELAY", delay, "Waits for so many milliseconds", WhenCancelled::TakeBack, Interrupts::Prompts},
+            {"GRAPHSCR", nothing, "The drawing is always in sight", WhenCancelled::TakeBack, Interrupts::Prompts},
             {"MENU", loadMenu, "Takes the name of a menu file; there are none here"},
             {"MENULOAD", loadMenu, "Takes the name of a menu file; there are none here"},
             {"MENUUNLOAD", unloadMenu, "Takes the name of a menu; there are none here"},
             {"NETLOAD", loadAssembly, "Takes a file's name; programs for other hosts do not run here"},
-            {"RESUME", nothing, "Scripts go on by themselves"},
-            {"TEXTSCR", nothing, "The command line is always in sight"}};
+            {"RESUME", nothing, "Scripts go on by themselves", WhenCancelled::TakeBack, Interrupts::Prompts},
+            {"TEXTSCR", nothing, "The command line is always in sight", WhenCancelled::TakeBack, Interrupts::Prompts}};
 }
 
 } // namespace host::kernel

@@ -230,7 +230,7 @@ std::vector<CommandRow> fileCommands()
             {"QSAVE", quickSave, "Saves the drawing under its own name"},
             {"SAVE", save, "Saves the drawing under a name"},
             {"SAVEAS", saveAs, "Saves the drawing under a name"},
-            {"SCRIPT", script, "Types what a script file holds"}};
+            {"SCRIPT", script, "Types what a script file holds", WhenCancelled::TakeBack, Interrupts::Prompts}};
 }
 
 } // namespace host::kernel

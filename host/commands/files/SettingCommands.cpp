@@ -140,17 +140,20 @@ CommandTask colour(CommandContext &context)
 
 std::vector<CommandRow> settingCommands()
 {
-    return {{"-COLOR", colour, "Sets the color of new objects"},
-            {"COLOR", colour, "As -COLOR; there is no window for it"},
-            {"COLOUR", colour, "As -COLOR"},
-            {"ELEV", elevation, "Sets the elevation and thickness of new objects"},
-            {"FILL", fill, "Switches whether areas are filled"},
-            {"GRID", grid, "Sets and switches the grid"},
-            {"LIMITS", limits, "Sets and checks the drawing's limits"},
-            {"ORTHO", ortho, "Switches whether lines go along the axes"},
-            {"QTEXT", quickText, "Switches whether texts are boxes"},
-            {"REGENAUTO", regenerateAlone, "Switches whether the drawing is made anew by itself"},
-            {"SNAP", snap, "Sets and switches the grid that points snap to"}};
+    return {
+        {"-COLOR", colour, "Sets the color of new objects"},
+        {"COLOR", colour, "As -COLOR; there is no window for it", WhenCancelled::TakeBack, Interrupts::Prompts},
+        {"COLOUR", colour, "As -COLOR"},
+        {"ELEV", elevation, "Sets the elevation and thickness of new objects", WhenCancelled::TakeBack,
+         Interrupts::Prompts},
+        {"FILL", fill, "Switches whether areas are filled", WhenCancelled::TakeBack, Interrupts::Prompts},
+        {"GRID", grid, "Sets and switches the grid", WhenCancelled::TakeBack, Interrupts::Prompts},
+        {"LIMITS", limits, "Sets and checks the drawing's limits", WhenCancelled::TakeBack, Interrupts::Prompts},
+        {"ORTHO", ortho, "Switches whether lines go along the axes", WhenCancelled::TakeBack, Interrupts::Prompts},
+        {"QTEXT", quickText, "Switches whether texts are boxes"},
+        {"REGENAUTO", regenerateAlone, "Switches whether the drawing is made anew by itself", WhenCancelled::TakeBack,
+         Interrupts::Prompts},
+        {"SNAP", snap, "Sets and switches the grid that points snap to", WhenCancelled::TakeBack, Interrupts::Prompts}};
 }
 
 } // namespace host::kernel

@@ -150,10 +150,11 @@ CommandTask lineweight(CommandContext &context)
 
 std::vector<CommandRow> unitCommands()
 {
-    return {{"-LWEIGHT", lineweight, "Sets the lineweight of new objects"},
-            {"-UNITS", units, "Sets how lengths and angles are shown"},
-            {"LWEIGHT", lineweight, "As -LWEIGHT; there is no window for it"},
-            {"UNITS", units, "As -UNITS; there is no window for it"}};
+    return {
+        {"-LWEIGHT", lineweight, "Sets the lineweight of new objects"},
+        {"-UNITS", units, "Sets how lengths and angles are shown"},
+        {"LWEIGHT", lineweight, "As -LWEIGHT; there is no window for it", WhenCancelled::TakeBack, Interrupts::Prompts},
+        {"UNITS", units, "As -UNITS; there is no window for it", WhenCancelled::TakeBack, Interrupts::Prompts}};
 }
 
 } // namespace host::kernel

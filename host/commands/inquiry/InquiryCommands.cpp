@@ -95,9 +95,10 @@ CommandTask list(CommandContext &context)
 
 std::vector<CommandRow> inquiryCommands()
 {
-    return {{"DIST", distance, "Tells the distance and angle between points"},
-            {"ID", identify, "Tells the coordinates of a point"},
-            {"LIST", list, "Tells what is known of entities"}};
+    return {
+        {"DIST", distance, "Tells the distance and angle between points", WhenCancelled::TakeBack, Interrupts::Prompts},
+        {"ID", identify, "Tells the coordinates of a point", WhenCancelled::TakeBack, Interrupts::Prompts},
+        {"LIST", list, "Tells what is known of entities"}};
 }
 
 } // namespace host::kernel

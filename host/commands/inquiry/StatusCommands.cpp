@@ -82,9 +82,11 @@ CommandTask showHelp(CommandContext &)
 std::vector<CommandRow> statusCommands()
 {
     return {{"?", showHelp, "As HELP"},
-            {"HELP", showHelp, "Shows the help pages"},
-            {"STATUS", tellStatus, "Tells what is in the drawing and what is current"},
-            {"TIME", tellTime, "Tells when the drawing was made and changed"}};
+            {"HELP", showHelp, "Shows the help pages", WhenCancelled::TakeBack, Interrupts::Prompts},
+            {"STATUS", tellStatus, "Tells what is in the drawing and what is current", WhenCancelled::TakeBack,
+             Interrupts::Prompts},
+            {"TIME", tellTime, "Tells when the drawing was made and changed", WhenCancelled::TakeBack,
+             Interrupts::Prompts}};
 }
 
 } // namespace host::kernel

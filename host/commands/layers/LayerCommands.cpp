@@ -243,8 +243,9 @@ CommandTask layer(CommandContext &context)
 
 std::vector<CommandRow> layerCommands()
 {
-    return {{"-LAYER", layer, "Makes layers and changes their properties and states"},
-            {"LAYER", layer, "As -LAYER; there is no window for it"}};
+    return {{"-LAYER", layer, "Makes layers and changes their properties and states", WhenCancelled::TakeBack,
+             Interrupts::Prompts},
+            {"LAYER", layer, "As -LAYER; there is no window for it", WhenCancelled::TakeBack, Interrupts::Prompts}};
 }
 
 } // namespace host::kernel

@@ -133,7 +133,8 @@ CommandTask linetype(CommandContext &context)
 
 std::vector<CommandRow> linetypeCommands()
 {
-    return {{"-LINETYPE", linetype, "Loads linetypes from a file and chooses the current one"},
+    return {{"-LINETYPE", linetype, "Loads linetypes from a file and chooses the current one", WhenCancelled::TakeBack,
+             Interrupts::Prompts},
             {"LINETYPE", linetype, "As -LINETYPE; there is no window for it"}};
 }
 

@@ -135,7 +135,8 @@ CommandTask setVariable(CommandContext &context)
 
 std::vector<CommandRow> variableCommands()
 {
-    return {{"SETVAR", setVariable, "Shows, lists or sets a system variable"}};
+    return {{"SETVAR", setVariable, "Shows, lists or sets a system variable", WhenCancelled::TakeBack,
+             Interrupts::Prompts}};
 }
 
 } // namespace host::kernel

@@ -252,9 +252,10 @@ CommandTask plan(CommandContext &context)
 
 std::vector<CommandRow> namedViewCommands()
 {
-    return {{"-VIEW", namedView, "Saves, restores and deletes named views"},
-            {"PLAN", plan, "Looks straight at the plane of a coordinate system"},
-            {"VIEW", namedView, "As -VIEW; there is no window for it"}};
+    return {
+        {"-VIEW", namedView, "Saves, restores and deletes named views", WhenCancelled::TakeBack, Interrupts::Prompts},
+        {"PLAN", plan, "Looks straight at the plane of a coordinate system"},
+        {"VIEW", namedView, "As -VIEW; there is no window for it"}};
 }
 
 } // namespace host::kernel

@@ -51,10 +51,13 @@ CommandTask setAperture(CommandContext &context)
 
 std::vector<CommandRow> snapCommands()
 {
-    return {{"OSNAP", setSnapModes, "Says which object snaps are always on"},
-            {"-OSNAP", setSnapModes, "Says which object snaps are always on"},
-            {"DSETTINGS", setSnapModes, "Says which object snaps are always on"},
-            {"APERTURE", setAperture, "Says how near the pointer object snap looks"}};
+    return {
+        {"OSNAP", setSnapModes, "Says which object snaps are always on", WhenCancelled::TakeBack, Interrupts::Prompts},
+        {"-OSNAP", setSnapModes, "Says which object snaps are always on", WhenCancelled::TakeBack, Interrupts::Prompts},
+        {"DSETTINGS", setSnapModes, "Says which object snaps are always on", WhenCancelled::TakeBack,
+         Interrupts::Prompts},
+        {"APERTURE", setAperture, "Says how near the pointer object snap looks", WhenCancelled::TakeBack,
+         Interrupts::Prompts}};
 }
 
 } // namespace host::kernel

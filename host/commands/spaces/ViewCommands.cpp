@@ -214,12 +214,13 @@ CommandTask regenerate(CommandContext &context)
 std::vector<CommandRow> viewCommands()
 {
     return {{"-PAN", pan, "Moves what is shown"},
-            {"PAN", pan, "As -PAN; the middle button of the mouse moves the view too"},
-            {"REDRAW", regenerate, "Draws the window anew"},
-            {"REDRAWALL", regenerate, "Draws the window anew"},
+            {"PAN", pan, "As -PAN; the middle button of the mouse moves the view too", WhenCancelled::TakeBack,
+             Interrupts::Prompts},
+            {"REDRAW", regenerate, "Draws the window anew", WhenCancelled::TakeBack, Interrupts::Prompts},
+            {"REDRAWALL", regenerate, "Draws the window anew", WhenCancelled::TakeBack, Interrupts::Prompts},
             {"REGEN", regenerate, "Draws the window anew"},
             {"REGENALL", regenerate, "Draws the window anew"},
-            {"ZOOM", zoom, "Shows more or less of the drawing"}};
+            {"ZOOM", zoom, "Shows more or less of the drawing", WhenCancelled::TakeBack, Interrupts::Prompts}};
 }
 
 } // namespace host::kernel

@@ -17,6 +17,14 @@ enum class WhenCancelled
     KeepDone  ///< each answer was a whole step of its own: the steps so far stay
 };
 
+/// Whether a command may be called in the middle of another's prompt: those that ask for nothing but how things are
+/// shown or set, so that they do no harm there.
+enum class Interrupts
+{
+    Nothing,
+    Prompts
+};
+
 /// One built-in command.
 struct CommandRow
 {
@@ -24,7 +32,7 @@ struct CommandRow
     CommandTask (*body)(CommandContext &); ///< see CommandContext
     const char *help;                      ///< one line for listings
     WhenCancelled whenCancelled = WhenCancelled::TakeBack;
-    bool isTransparent = false; ///< may be called in the middle of a prompt; the room of the commands has the list
+    Interrupts interrupts = Interrupts::Nothing;
 };
 
 /// All built-in commands, in no order. The kernel runs them and asks no more of them: they are defined above it, in the

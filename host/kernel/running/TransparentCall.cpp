@@ -10,7 +10,8 @@ namespace {
 bool isTransparent(const Document &document, const QString &name)
 {
     const CommandRow *row = CommandTable::find(name);
-    return row ? row->isTransparent : document.variables().get(CommandTable::plainName(name)).has_value();
+    return row ? row->interrupts == Interrupts::Prompts
+               : document.variables().get(CommandTable::plainName(name)).has_value();
 }
 
 } // namespace
