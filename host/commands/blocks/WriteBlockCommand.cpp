@@ -1,10 +1,10 @@
 #include "host/commands/Commands.h"
 #include "host/commands/common/EntityEdits.h"
+#include "host/commands/common/OutputFile.h"
 #include "host/drawing/editing/CopyBetweenDrawings.h"
 #include "host/drawing/file/Save.h"
 #include "host/drawing/records/Blocks.h"
 #include "host/kernel/documents/Document.h"
-#include "host/kernel/documents/Session.h"
 #include "host/kernel/running/CommandContext.h"
 #include "host/kernel/variables/SystemVariables.h"
 
@@ -39,31 +39,22 @@ bool writeDrawing(CommandContext &context, const std::unique_ptr<drawing::Drawin
 // point. What is chosen and written goes out of the drawing; OOPS brings it back.
 CommandTask writeBlock(CommandContext &context)
 {
-    Document &document = context.document();
     const PromptReply file = co_await context.text(u"Enter name of output file: "_s);
     if (!file.hasValue() || file.text.trimmed().isEmpty())
         co_return;
     QString path = QFileInfo(QDir::current(), file.text.trimmed()).absoluteFilePath();
     if (QFileInfo(path).suffix().isEmpty())
         path += u".dxf"_s;
-    if (const auto obstacle = obstacleToWriting(path, &document.session())) {
-        document.session().tellNotWritten(obstacle->text);
-        context.fail(obstacle->text);
+    const bool isWanted = co_await mayReplaceFile(context, path);
+    if (!isWanted)
         co_return;
-    }
-    if (QFileInfo::exists(path) && document.variables().integer(u"EXPERT") < 2) {
-        const PromptReply replace = co_await context.keyword(
-            u"%1 already exists. Replace it? [Yes/No] <No>: "_s.arg(path), u"Yes No"_s, u"No"_s);
-        if (replace.text != u"Yes"_s)
-            co_return;
-    }
     const PromptReply name =
         co_await context.text(u"Enter name of existing block, [= (same name)/* (whole drawing)] <choose entities>: "_s);
     const QString typed = name.hasValue() ? name.text.trimmed() : QString();
     if (typed == u"*"_s) {
         writeDrawing(context,
                      drawing::wblock(context.drawing(), context.drawing().entities().inSpace(drawing::Space::Model),
-                                     document.variables().point(u"INSBASE")),
+                                     context.document().variables().point(u"INSBASE")),
                      path);
         co_return;
     }

@@ -1,5 +1,6 @@
 #include "host/commands/spaces/LayoutFiles.h"
 
+#include "host/commands/common/OutputFile.h"
 #include "host/drawing/editing/LayoutEdits.h"
 #include "host/drawing/editing/SheetMerge.h"
 #include "host/drawing/file/Recovery.h"
@@ -54,22 +55,6 @@ void addSheets(CommandContext &context, const drawing::Drawing &source, const st
     }
 }
 
-/// Whether the file may be written, which the user is asked about where there is one already.
-Dialogue<bool> mayWrite(CommandContext &context, QString path)
-{
-    Document &document = context.document();
-    if (const auto obstacle = obstacleToWriting(path, &document.session())) {
-        document.session().tellNotWritten(obstacle->text);
-        context.fail(obstacle->text);
-        co_return false;
-    }
-    if (!QFileInfo::exists(path) || document.variables().integer(u"EXPERT") >= 2)
-        co_return true;
-    const QString question = u"%1 already exists. Replace it? [Yes/No] <No>: "_s.arg(path);
-    const PromptReply replace = co_await context.keyword(question, u"Yes No"_s, u"No"_s);
-    co_return replace.text == u"Yes"_s;
-}
-
 } // namespace
 
 Dialogue<bool> takeLayoutsFromFile(CommandContext &context)
@@ -103,7 +88,7 @@ Dialogue<bool> saveLayoutToFile(CommandContext &context, drawing::LayoutTab layo
     if (!file.hasValue() || file.text.trimmed().isEmpty())
         co_return false;
     const QString path = QFileInfo(QDir::current(), withDrawingEnding(file.text)).absoluteFilePath();
-    const bool isWanted = co_await mayWrite(context, path);
+    const bool isWanted = co_await mayReplaceFile(context, path);
     if (!isWanted)
         co_return false;
     const std::unique_ptr<drawing::Drawing> made = drawing::newDrawingLike(context.drawing());
