@@ -207,7 +207,7 @@ Dialogue<LayerChange> askLayerChange(CommandContext &context, const QString &opt
     for (const Property &property : properties)
         if (property.option == option)
             co_return co_await property.ask(context);
-    co_return refused(context, u"This program does not keep layer states or named plot styles: nothing was changed."_s);
+    co_return refused(context, u"This program keeps no named plot styles: nothing was changed."_s);
 }
 
 } // namespace host::kernel

@@ -1,5 +1,6 @@
 #include "host/commands/Commands.h"
 #include "host/commands/layers/LayerChanges.h"
+#include "host/commands/layers/LayerStateDialogue.h"
 #include "host/commands/layers/LayerStates.h"
 #include "host/drawing/editing/RenameLayer.h"
 #include "host/drawing/records/Symbols.h"
@@ -205,8 +206,9 @@ Dialogue<bool> takeLayerOption(CommandContext &context, const QString &option)
         QStringView option;
         Dialogue<bool> (*act)(CommandContext &context);
     };
-    static constexpr Action actions[] = {{u"?", list},  {u"Make", make},     {u"Set", chooseCurrent},
-                                         {u"New", add}, {u"Rename", rename}, {u"rEconcile", reconcile}};
+    static constexpr Action actions[] = {
+        {u"?", list},        {u"Make", make},           {u"Set", chooseCurrent},   {u"New", add},
+        {u"Rename", rename}, {u"rEconcile", reconcile}, {u"stAte", askLayerStates}};
     for (const Action &action : actions)
         if (action.option == option)
             co_return co_await action.act(context);
