@@ -1,3 +1,4 @@
+#include "host/drawing/file/Recovery.h"
 #include "host/drawing/records/Blocks.h"
 #include "host/drawing/records/Dictionaries.h"
 #include "host/kernel/running/CommandStack.h"
@@ -133,6 +134,26 @@ TEST_F(Bench, aDrawingThatKeepsNoDrawOrderSaysSo)
     lisp("(command \"_.DRAWORDER\" (entlast) \"\" \"_Front\")");
     EXPECT_NE(takePrinted().find("A drawing of this version keeps no draw order."), std::string::npos);
     EXPECT_FALSE(document().isModified());
+}
+
+TEST_F(Bench, auditMendsTheOpenDrawing)
+{
+    session.documents().open(write(
+        "odd.dxf",
+        ortakit::test::dxfText("0 SECTION 2 ENTITIES 0 LINE 8 0 62 red 10 0 20 0 11 1 21 0 0 POINT 8 0 10 5 20 wide"
+                               " 0 CIRCLE 8 0 10 1 20 2 40 3 0 ENDSEC 0 EOF")));
+    const QByteArray before = drawing().toBytes();
+    lisp("(command \"_.AUDIT\" \"_No\")");
+    EXPECT_NE(takePrinted().find("fixed 0"), std::string::npos);
+    EXPECT_EQ(drawing().toBytes(), before);
+    lisp("(command \"_.AUDIT\" \"_Yes\")");
+    EXPECT_EQ(takePrinted().find("fixed 0"), std::string::npos);
+    EXPECT_EQ(drawing().toBytes(), host::drawing::recoverDrawing(before).drawing->toBytes());
+    EXPECT_NE(lisp(entityTypes).find("CIRCLE"), std::string::npos);
+    lisp("(command \"_.AUDIT\" \"_Yes\")");
+    EXPECT_NE(takePrinted().find("Total errors found 0 fixed 0"), std::string::npos);
+    lisp("(command \"_.UNDO\" 2)");
+    EXPECT_EQ(drawing().toBytes(), before);
 }
 
 TEST_F(Bench, anOldDrawingGetsBoundariesOfItsOwnForm)

@@ -1,6 +1,8 @@
 #include "host/commands/Commands.h"
-#include "host/drawing/file/Recovery.h"
+#include "host/drawing/file/MendInPlace.h"
 #include "host/kernel/running/CommandContext.h"
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -8,32 +10,29 @@ namespace host::kernel {
 
 namespace {
 
-/// Prints what recovering the drawing would do to it. It is mended by opening its file so, not while it is open.
+/// Prints what recovering the drawing would do to it, and does that where it is wanted.
 CommandTask audit(CommandContext &context)
 {
     const PromptReply fix = co_await context.keyword(u"Fix any errors detected? [Yes/No] <No>: "_s, {}, u"No"_s);
-    const drawing::Recovered recovered = drawing::recoverDrawing(context.drawing().toBytes());
-    if (!recovered) {
-        context.fail(recovered.error.message());
+    const drawing::MendedInPlace mended = drawing::mendInPlace(context.drawing(), fix.text == u"Yes"_s);
+    if (!mended.error.isEmpty()) {
+        context.fail(mended.error);
         co_return;
     }
     constexpr qsizetype mostTold = 100;
-    if (!recovered.report.isEmpty())
-        for (const QString &line : recovered.report.lines(mostTold))
+    if (!mended.report.isEmpty())
+        for (const QString &line : mended.report.lines(mostTold))
             context.print(u'\n' + line);
-    int count = 0;
-    for (const drawing::RecoveryStep &step : recovered.report.steps())
-        count += step.count;
-    context.print(u"\nTotal errors found %1 fixed 0"_s.arg(count));
-    if (count > 0 && fix.text == u"Yes"_s)
-        context.print(u"\nSave the drawing and open it with --recover: that mends them."_s);
+    context.print(u"\nTotal errors found %1 fixed %2"_s.arg(mended.found).arg(std::max(0, mended.found - mended.left)));
+    if (mended.left > 0 && fix.text == u"Yes"_s)
+        context.print(u"\nSave the drawing and open it with --recover: that mends the others."_s);
 }
 
 } // namespace
 
 std::vector<CommandRow> auditCommands()
 {
-    return {{"AUDIT", audit, "Looks for errors in the drawing"}};
+    return {{"AUDIT", audit, "Looks for errors in the drawing and mends them"}};
 }
 
 } // namespace host::kernel

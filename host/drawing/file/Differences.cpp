@@ -8,20 +8,11 @@ namespace host::drawing {
 
 namespace {
 
-/// Records by what names them.
-QHash<QString, RecordId> namedRecords(const Drawing &drawing)
+QHash<QString, RecordId> recordsByName(const Drawing &drawing)
 {
     QHash<QString, RecordId> records;
-    QHash<QString, int> nameless;
-    for (RecordId id = drawing.first(); isValid(id); id = drawing.next(id)) {
-        const QString type = QString::fromUtf8(drawing.typeName(id));
-        QString name = drawing.handle(id).toString();
-        if (drawing.kind(id) == RecordKind::Variable)
-            name = type;
-        else if (drawing.handle(id).isNull())
-            name = u"%1 number %2"_s.arg(type).arg(++nameless[type]);
+    for (const auto &[name, id] : namedRecords(drawing))
         records.insert(name, id);
-    }
     return records;
 }
 
@@ -32,10 +23,26 @@ QString typeOf(const Drawing &drawing, RecordId id)
 
 } // namespace
 
+std::vector<std::pair<QString, RecordId>> namedRecords(const Drawing &drawing)
+{
+    std::vector<std::pair<QString, RecordId>> records;
+    QHash<QString, int> nameless;
+    for (RecordId id = drawing.first(); isValid(id); id = drawing.next(id)) {
+        const QString type = typeOf(drawing, id);
+        QString name = drawing.handle(id).toString();
+        if (drawing.kind(id) == RecordKind::Variable)
+            name = type;
+        else if (drawing.handle(id).isNull())
+            name = u"%1 number %2"_s.arg(type).arg(++nameless[type]);
+        records.emplace_back(name, id);
+    }
+    return records;
+}
+
 QStringList differences(const Drawing &before, const Drawing &after)
 {
-    const QHash<QString, RecordId> old = namedRecords(before);
-    const QHash<QString, RecordId> now = namedRecords(after);
+    const QHash<QString, RecordId> old = recordsByName(before);
+    const QHash<QString, RecordId> now = recordsByName(after);
     QStringList found;
     for (auto record = old.cbegin(); record != old.cend(); ++record) {
         const auto same = now.constFind(record.key());

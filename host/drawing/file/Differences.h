@@ -12,6 +12,9 @@ namespace host::drawing {
 /// counts for nothing else. Empty when nothing differs.
 QStringList differences(const Drawing &before, const Drawing &after);
 
+/// All records in file order, by what makes them the same in two drawings as above.
+std::vector<std::pair<QString, RecordId>> namedRecords(const Drawing &drawing);
+
 /// Each text once, with its number in front: "2+LINE" for two of "+LINE".
 QStringList counted(const QStringList &sorted);
 
