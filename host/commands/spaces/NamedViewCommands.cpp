@@ -248,13 +248,49 @@ CommandTask plan(CommandContext &context)
     showBox(context.document(), drawnExtents(context));
 }
 
+/// From an angle in the user's x-y plane and one above it.
+Dialogue<Vec3> askTurnedDirection(CommandContext &context)
+{
+    const PromptReply around = co_await context.angle(u"Enter angle in XY plane from X axis: "_s);
+    const PromptReply above = co_await context.angle(u"Enter angle from XY plane: "_s);
+    const double flat = std::cos(above.real);
+    co_return Vec3{flat * std::cos(around.real), flat * std::sin(around.real), std::sin(above.real)};
+}
+
+// Where to look from, in the user's axes; an empty answer leaves the direction.
+CommandTask viewPoint(CommandContext &context)
+{
+    const Vec3 present = context.document().variables().point(u"VIEWDIR");
+    const QString shown = u"%1,%2,%3"_s.arg(context.shownLength(present.x), context.shownLength(present.y),
+                                            context.shownLength(present.z));
+    const PromptReply reply =
+        co_await context.point(u"Specify a view point or [Rotate] <%1>: "_s.arg(shown), u"Rotate"_s, {}, shown);
+    Matrix axes = context.document().userAxes();
+    Vec3 direction = present;
+    if (reply.isKeyword(u"Rotate"))
+        direction = co_await askTurnedDirection(context);
+    else if (reply.hasValue())
+        direction = axes.inverted().point(reply.point);
+    if (direction == Vec3{}) {
+        context.fail(u"There is no direction from the target to itself."_s);
+        co_return;
+    }
+    axes.origin = {};
+    const ViewState before = currentView(context.document());
+    lookAt(context, Matrix::fromExtrusion(axes.point(direction)));
+    rememberCurrentView(context.document(), before);
+    showBox(context.document(), drawnExtents(context));
+}
+
 } // namespace
 
 std::vector<CommandRow> namedViewCommands()
 {
     return {
+        {"-VPOINT", viewPoint, "Looks from another direction"},
         {"-VIEW", namedView, "Saves, restores and deletes named views", WhenCancelled::TakeBack, Interrupts::Prompts},
         {"PLAN", plan, "Looks straight at the plane of a coordinate system"},
+        {"VPOINT", viewPoint, "As -VPOINT; there is no window for it"},
         {"VIEW", namedView, "As -VIEW; there is no window for it"}};
 }
 

@@ -33,3 +33,7 @@
 (turned)(setvar "PICKBOX" 5) ;! PLAN|W ;? (rounded (getvar "VIEWTWIST")) ;= 0.0
 (save-ucs "Wall") ;! PLAN|U|Wall ;? (getvar "VIEWTWIST") ;= 0.0
 ;! PLAN|U|None ;> Cannot find UCS ;? (getvar "CTAB") ;= "Model"
+;! -VPOINT|0,0,0 ;> no direction ;? (getvar "VIEWDIR") ;= (0.0 0.0 1.0)
+;! -VPOINT|0,-2,0 ;? (equal (getvar "VIEWDIR") '(0.0 -1.0 0.0) 1e-9) ;= T
+;! VPOINT|R|90|60 ;? (rounded (getvar "VIEWDIR")) ;= (0.0 0.5 0.866)
+(turned) ;! VPOINT|1,0,0 ;? (equal (getvar "VIEWDIR") '(1.0 0.0 0.0) 1e-9) ;= T
