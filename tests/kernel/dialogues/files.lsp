@@ -58,3 +58,12 @@
 ;! UNDO|A|OFF ;=
 ;! UNDO|C|None ;> Undo is always on ;=
 ;! UNDO|C|Combine|N ;=
+(dimension)(on-layer "Walls") ;! -RENAME|LA|walls|WALLS ;? (cdr (assoc 8 (entget (entlast)))) ;= "WALLS"
+(on-layer "A")(on-layer "B") ;! -RENAME|LA|A|b ;> already exists ;? (on-layers) ;= ("A" "B")
+;! -RENAME|LA|0|Zero ;> cannot be renamed ;=
+(on-layer "A") ;! -RENAME|LA|A|A,B ;> cannot be the name ;? (on-layers) ;= ("A")
+(regapp "App")(on-layer "A")(entmake '((0 . "POINT") (10 1.0 0.0 0.0) (-3 ("App" (1003 . "A"))))) ;! -RENAME|LA|A|B ;? (cdadr (assoc -3 (entget (entlast) '("*")))) ;= ((1003 . "B"))
+(tables)(setvar "TEXTSTYLE" "Used") ;! -RENAME|ST|used|Mine ;? (getvar "TEXTSTYLE") ;= "Mine"
+(tables)(setvar "CELTYPE" "Used") ;! -RENAME|LT|used|Mine ;? (getvar "CELTYPE") ;= "Mine"
+(tables)(setvar "CLAYER" "Used") ;! -RENAME|LA|used|Mine ;? (getvar "CLAYER") ;= "Mine"
+(door)(nested) ;! -RENAME|B|Door|Gate ;? (block-part "Outer" '(0 2)) ;= ("INSERT" "Gate")
