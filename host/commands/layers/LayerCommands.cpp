@@ -233,21 +233,34 @@ Dialogue<bool> takeLayerOptions(CommandContext &context)
     co_return true;
 }
 
+/// Keeps for LAYERP what the layers were, also where Esc ends the command and what it did stays.
+class LayerMemory
+{
+public:
+    explicit LayerMemory(CommandContext &context) : m_context(context), m_before(layerStates(context)) {}
+    ~LayerMemory() { rememberLayers(m_context, m_before); }
+    LayerMemory(const LayerMemory &) = delete;
+    LayerMemory &operator=(const LayerMemory &) = delete;
+
+private:
+    CommandContext &m_context;
+    LayerStates m_before;
+};
+
 CommandTask layer(CommandContext &context)
 {
     context.print(u"\nCurrent layer:  \"%1\""_s.arg(currentLayer(context)));
-    const LayerStates before = layerStates(context);
+    const LayerMemory memory(context);
     co_await takeLayerOptions(context);
-    rememberLayers(context, before);
 }
 
 } // namespace
 
 std::vector<CommandRow> layerCommands()
 {
-    return {{"-LAYER", layer, "Makes layers and changes their properties and states", WhenCancelled::TakeBack,
+    return {{"-LAYER", layer, "Makes layers and changes their properties and states", WhenCancelled::KeepDone,
              Interrupts::Prompts},
-            {"LAYER", layer, "As -LAYER; there is no window for it", WhenCancelled::TakeBack, Interrupts::Prompts}};
+            {"LAYER", layer, "As -LAYER; there is no window for it", WhenCancelled::KeepDone, Interrupts::Prompts}};
 }
 
 } // namespace host::kernel

@@ -14,3 +14,8 @@
 (state "_I" (list (file "bad.las" "0\nLAYERSTATEDICTIONARY\n0\nLAYERSTATE\nx\nBad\n"))) ;> No layer state was taken ;= nil
 (state "_I" (list (file "cut.las" "0\nLAYERSTATEDICTIONARY\n0\nLAYERSTATE\n1"))) ;> No layer state was taken ;= nil
 (progn (state "_I" (list (file "odd.las" "0\nLAYERSTATEDICTIONARY\n0\nLAYERSTATE\n1\nOdd\n62\n9\n8\nNone\n62\n5\n8\nWall\n62\n5\n90\n4\n")))(state "_R" '("Odd"))(list (colour "Wall") (cdr (assoc 70 (tblsearch "LAYER" "Wall"))))) ;= (5 4)
+
+; Esc ends -LAYER with what it did
+(command "_.-LAYER" "_N" "Kept" "_C" 3 nil)(colour "Kept") ;= 7
+(command "_.-LAYER" "_C" 4 "Kept" "_F" nil)(list (colour "Kept") (getvar "CMDNAMES")) ;= (4 "")
+(command "_.LAYERP")(colour "Kept") ;= 7

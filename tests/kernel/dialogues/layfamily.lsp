@@ -29,5 +29,5 @@
 (walls)(setvar "CLAYER" "Wall") ;! -LAYMRG|N|Wall|N|Door||N|0|Y ;> is the current layer ;? (on-layers) ;= ("Wall" "0")
 (walls)(port)(command "MSPACE") ;! LAYVPI|1,1| ;? (getvar "CVPORT") ;= 2
 ;! LAYVPI|1,1 ;> through a viewport of a sheet ;? (getvar "CTAB") ;= "Model"
-(walls) ;! -LAYER|E|*| ;? (bits) ;= (0 0 0)
-(walls) ;! -LAYER|C||Wall|C|_red|Door| ;? (colours) ;= (7 7 1)
+(walls) ;! -LAYER|E|*| ;~ keeps ;? (bits) ;= (0 0 0)
+(walls) ;! -LAYER|C||Wall|C|_red|Door| ;~ keeps ;? (colours) ;= (7 7 1)
