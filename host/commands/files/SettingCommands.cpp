@@ -19,14 +19,15 @@ void setSetting(CommandContext &context, QStringView variable, const VariableVal
         context.fail(u"%1 cannot be set to that value."_s.arg(variable));
 }
 
-/// ON or OFF; an empty answer leaves it.
+/// ON or OFF, or as the variable has it; an empty answer leaves it.
 Dialogue<bool> askSwitch(CommandContext &context, QString variable)
 {
     const bool isOn = context.document().variables().integer(variable) != 0;
     const QString usual = isOn ? u"ON"_s : u"OFF"_s;
-    const PromptReply reply = co_await context.keyword(u"Enter mode [ON/OFF] <%1>: "_s.arg(usual), {}, usual);
+    const PromptReply reply =
+        co_await context.keyword(u"Enter mode [ON/OFF] <%1>: "_s.arg(usual), u"ON OFF 1 0"_s, usual);
     if (reply.hasValue())
-        setSetting(context, variable, qint32(reply.text == u"ON"_s));
+        setSetting(context, variable, qint32(reply.isKeyword(u"ON") || reply.isKeyword(u"1")));
     co_return true;
 }
 
@@ -50,40 +51,121 @@ CommandTask regenerateAlone(CommandContext &context)
     co_await askSwitch(context, u"REGENMODE"_s);
 }
 
-/// Spacing, which switches it on as well, or ON, OFF, or one spacing for each direction.
-Dialogue<bool> askSpacing(CommandContext &context, QString what, QString mode, QString unit)
+/// One spacing for each direction.
+Dialogue<drawing::Vec2> askBothSpacings(CommandContext &context, drawing::Vec2 now)
 {
-    const drawing::Vec2 now = context.document().variables().point(unit).xy();
-    const QString shown = context.shownLength(now.x);
-    const PromptReply reply = co_await context.distance(u"Specify %1 or [ON/OFF/Aspect] <%2>: "_s.arg(what, shown), {},
-                                                        {}, shown, NoNegative);
-    drawing::Vec2 spacing = now;
-    if (reply.isKeyword(u"Aspect")) {
-        const PromptReply x =
-            co_await context.distance(u"Specify horizontal spacing(X) <%1>: "_s.arg(shown), {}, {}, shown, NoNegative);
-        const QString shownY = context.shownLength(now.y);
-        const PromptReply y =
-            co_await context.distance(u"Specify vertical spacing(Y) <%1>: "_s.arg(shownY), {}, {}, shownY, NoNegative);
-        spacing = {x.hasValue() ? x.real : now.x, y.hasValue() ? y.real : now.y};
-    } else if (reply.hasValue()) {
+    const QString shownX = context.shownLength(now.x);
+    const PromptReply x =
+        co_await context.distance(u"Specify horizontal spacing(X) <%1>: "_s.arg(shownX), {}, {}, shownX, NoNegative);
+    const QString shownY = context.shownLength(now.y);
+    const PromptReply y =
+        co_await context.distance(u"Specify vertical spacing(Y) <%1>: "_s.arg(shownY), {}, {}, shownY, NoNegative);
+    co_return drawing::Vec2{x.hasValue() ? x.real : now.x, y.hasValue() ? y.real : now.y};
+}
+
+/// What a spacing is for: the grid that is shown, or the one that points snap to.
+struct SpacingSetting
+{
+    QStringView question;
+    QStringView mode; ///< the variables
+    QStringView unit;
+};
+
+constexpr SpacingSetting gridSpacing = {u"Specify grid spacing(X) or [ON/OFF/Snap/Aspect]", u"GRIDMODE", u"GRIDUNIT"};
+constexpr SpacingSetting snapSpacing = {u"Specify snap spacing or [ON/OFF/Aspect/Rotate/Style/Type]", u"SNAPMODE",
+                                        u"SNAPUNIT"};
+
+/// A spacing, which switches it on as well, or ON, OFF, Aspect. Another option is given back.
+Dialogue<QString> askSpacing(CommandContext &context, SpacingSetting setting)
+{
+    drawing::Vec2 spacing = context.document().variables().point(setting.unit).xy();
+    const QString shown = context.shownLength(spacing.x);
+    const PromptReply reply =
+        co_await context.distance(u"%1 <%2>: "_s.arg(setting.question, shown), {}, {}, shown, NoNegative);
+    const bool isSwitch = reply.isKeyword(u"ON") || reply.isKeyword(u"OFF");
+    if (isSwitch)
+        setSetting(context, setting.mode, qint32(reply.isKeyword(u"ON")));
+    if (isSwitch)
+        co_return QString();
+    if (reply.isKeyword(u"Aspect"))
+        spacing = co_await askBothSpacings(context, spacing);
+    else if (reply.kind == ReplyKind::Keyword)
+        co_return reply.text;
+    else if (reply.hasValue())
         spacing = {reply.real, reply.real};
-    } else if (reply.kind == ReplyKind::Keyword) {
-        setSetting(context, mode, qint32(reply.isKeyword(u"ON")));
-        co_return true;
-    }
-    setSetting(context, unit, spacing);
-    setSetting(context, mode, qint32(1));
-    co_return true;
+    setSetting(context, setting.unit, spacing);
+    setSetting(context, setting.mode, qint32(1));
+    co_return QString();
 }
 
 CommandTask grid(CommandContext &context)
 {
-    co_await askSpacing(context, u"grid spacing(X)"_s, u"GRIDMODE"_s, u"GRIDUNIT"_s);
+    const QString option = co_await askSpacing(context, gridSpacing);
+    if (option == u"Snap"_s)
+        setSetting(context, u"GRIDUNIT", context.document().variables().point(u"SNAPUNIT").xy());
+}
+
+/// Where the snap grid begins and how it is turned.
+Dialogue<bool> askSnapRotation(CommandContext &context)
+{
+    const SystemVariables &variables = context.document().variables();
+    const drawing::Vec3 base = variables.point(u"SNAPBASE");
+    const QString shown = u"%1,%2"_s.arg(context.shownLength(base.x), context.shownLength(base.y));
+    const PromptReply point = co_await context.point(u"Specify base point <%1>: "_s.arg(shown), {}, {}, shown);
+    const QString turn = context.shownAngle(variables.real(u"SNAPANG"));
+    const PromptReply angle = co_await context.angle(u"Specify rotation angle <%1>: "_s.arg(turn), {}, {}, turn);
+    if (point.hasValue())
+        setSetting(context, u"SNAPBASE", context.document().userAxes().inverted().point(point.point).xy());
+    if (angle.hasValue())
+        setSetting(context, u"SNAPANG", angle.real);
+    co_return true;
+}
+
+/// A plain grid, or one along the isometric axes, which has one spacing.
+Dialogue<bool> askSnapStyle(CommandContext &context)
+{
+    const bool wasIsometric = context.document().variables().integer(u"SNAPSTYL") != 0;
+    const QString usual = wasIsometric ? u"Isometric"_s : u"Standard"_s;
+    const PromptReply style =
+        co_await context.keyword(u"Enter snap grid style [Standard/Isometric] <%1>: "_s.arg(usual), {}, usual);
+    const bool isIsometric = style.hasValue() ? style.isKeyword(u"Isometric") : wasIsometric;
+    const QStringView question = isIsometric ? u"Specify vertical spacing" : u"Specify snap spacing or [Aspect]";
+    co_await askSpacing(context, {question, u"SNAPMODE", u"SNAPUNIT"});
+    setSetting(context, u"SNAPSTYL", qint32(isIsometric));
+    co_return true;
+}
+
+Dialogue<bool> askSnapType(CommandContext &context)
+{
+    const QString usual = context.document().variables().integer(u"SNAPTYPE") != 0 ? u"Polar"_s : u"Grid"_s;
+    const PromptReply type = co_await context.keyword(u"Enter snap type [Polar/Grid] <%1>: "_s.arg(usual), {}, usual);
+    if (type.hasValue())
+        setSetting(context, u"SNAPTYPE", qint32(type.isKeyword(u"Polar")));
+    co_return true;
 }
 
 CommandTask snap(CommandContext &context)
 {
-    co_await askSpacing(context, u"snap spacing"_s, u"SNAPMODE"_s, u"SNAPUNIT"_s);
+    const QString option = co_await askSpacing(context, snapSpacing);
+    if (option == u"Rotate"_s)
+        co_await askSnapRotation(context);
+    else if (option == u"Style"_s)
+        co_await askSnapStyle(context);
+    else if (option == u"Type"_s)
+        co_await askSnapType(context);
+}
+
+// An empty answer goes on to the next plane.
+CommandTask isometricPlane(CommandContext &context)
+{
+    static const QStringList planes = {u"Left"_s, u"Top"_s, u"Right"_s};
+    const qsizetype now = context.document().variables().integer(u"SNAPISOPAIR");
+    const QString next = planes[(now + 1) % planes.size()];
+    const PromptReply reply =
+        co_await context.keyword(u"Enter isometric plane setting [Left/Top/Right] <%1>: "_s.arg(next), {}, next);
+    const QString plane = reply.hasValue() ? reply.text : next;
+    setSetting(context, u"SNAPISOPAIR", qint32(planes.indexOf(plane)));
+    context.print(u"\nCurrent Isoplane: "_s + plane);
 }
 
 CommandTask limits(CommandContext &context)
@@ -148,6 +230,7 @@ std::vector<CommandRow> settingCommands()
          Interrupts::Prompts},
         {"FILL", fill, "Switches whether areas are filled", WhenCancelled::TakeBack, Interrupts::Prompts},
         {"GRID", grid, "Sets and switches the grid", WhenCancelled::TakeBack, Interrupts::Prompts},
+        {"ISOPLANE", isometricPlane, "Chooses the isometric plane", WhenCancelled::TakeBack, Interrupts::Prompts},
         {"LIMITS", limits, "Sets and checks the drawing's limits", WhenCancelled::TakeBack, Interrupts::Prompts},
         {"ORTHO", ortho, "Switches whether lines go along the axes", WhenCancelled::TakeBack, Interrupts::Prompts},
         {"QTEXT", quickText, "Switches whether texts are boxes"},
