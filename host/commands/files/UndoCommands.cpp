@@ -128,11 +128,20 @@ CommandTask oops(CommandContext &context)
     co_return;
 }
 
+// Asks for the name of a command alone; what that asks comes next.
+CommandTask multiple(CommandContext &context)
+{
+    const PromptReply name = co_await context.name(u"Enter command name to repeat: "_s);
+    if (name.hasValue() && !context.repeat(name.text))
+        context.fail(u"Unknown command \"%1\": only built-in ones are repeated."_s.arg(name.text));
+}
+
 } // namespace
 
 std::vector<CommandRow> undoCommands()
 {
     return {{"MREDO", redoMany, "Does again what was undone, several steps at once"},
+            {"MULTIPLE", multiple, "Runs a command again and again until it is cancelled"},
             {"OOPS", oops, "Brings back what was erased last"},
             {"REDO", redo, "Does again what was undone last"},
             {"U", undoOne, "Takes back the last step"},

@@ -6,6 +6,7 @@
 #include "host/kernel/documents/Document.h"
 #include "host/kernel/input/Keywords.h"
 #include "host/kernel/input/Units.h"
+#include "host/kernel/running/CommandTable.h"
 #include "host/kernel/variables/SystemVariables.h"
 
 namespace host::kernel {
@@ -27,6 +28,14 @@ void CommandContext::fail(const QString &reason)
 {
     m_document.print(u'\n' + reason);
     m_hasFailed = true;
+}
+
+bool CommandContext::repeat(const QString &name)
+{
+    m_repeated = CommandTable::find(name);
+    if (!m_repeated)
+        m_repeated = CommandTable::find(m_document.commandOfAlias(name));
+    return m_repeated != nullptr;
 }
 
 bool CommandContext::refuse(const QString &reason)

@@ -7,6 +7,7 @@
 
 namespace host::kernel {
 
+struct CommandRow;
 class Document;
 
 /// What a command's body works with. The asking functions give something to co_await.
@@ -64,6 +65,9 @@ public:
     /// when it is asked for again: the user is there, or a Lisp program's next answer may do.
     bool refuse(const QString &reason);
     bool hasFailed() const { return m_hasFailed; }
+    /// Has a built-in command follow when the body has ended, and again after itself until it is cancelled or fails;
+    /// each time is an undo step. One that asks for nothing runs once. False when there is no such command.
+    bool repeat(const QString &name);
     /// Whether the last answer was an argument of a Lisp program's (command).
     bool isAnsweredByProgram() const { return m_isAnsweredByProgram; }
 
@@ -129,8 +133,9 @@ private:
     PromptReply m_reply;               ///< what it gets when it goes on
     std::coroutine_handle<> m_waiting; ///< the body, or the part of it, that stopped for the reply
     bool m_hasFailed = false;
-    bool m_isRefused = false;       ///< the body did not take the last answer
-    bool m_isAnsweredAhead = false; ///< more is typed behind the last answer
+    const CommandRow *m_repeated = nullptr; ///< what follows
+    bool m_isRefused = false;               ///< the body did not take the last answer
+    bool m_isAnsweredAhead = false;         ///< more is typed behind the last answer
     bool m_isAnsweredByProgram = false;
     std::optional<SelectionBuilder> m_selection;                    ///< while a selection grows
     std::shared_ptr<const std::vector<drawing::RecordId>> m_chosen; ///< of the last selection

@@ -26,13 +26,9 @@ std::unique_ptr<CommandRun> CommandRun::start(Document &document, const QString 
 }
 
 CommandRun::CommandRun(Document &document, const CommandRow &row, Manner manner)
-    : m_document(document), m_row(row), m_context(document), m_manner(manner)
+    : m_document(document), m_row(&row), m_context(document), m_manner(manner)
 {
-    m_document.session().editor().commandWillStart();
-    m_start = m_document.undoSteps().checkpoint();
-    m_document.pushCommandName(QString::fromLatin1(row.name));
-    m_task.emplace(row.body(m_context));
-    resume();
+    begin();
 }
 
 CommandRun::~CommandRun()
@@ -134,6 +130,27 @@ bool CommandRun::growSelection(PromptReply &reply)
     return true;
 }
 
+void CommandRun::begin()
+{
+    m_document.session().editor().commandWillStart();
+    m_start = m_document.undoSteps().checkpoint();
+    m_document.pushCommandName(QString::fromLatin1(m_row->name));
+    m_hasAsked = false;
+    m_task.emplace(m_row->body(m_context));
+    resume();
+}
+
+void CommandRun::repeat()
+{
+    const CommandRow *wanted = m_context.m_repeated;
+    // What asks for nothing would go on for ever: it is done once.
+    const bool isEndless = wanted == m_row && !m_hasAsked;
+    if (!wanted || isEndless)
+        return;
+    m_row = wanted;
+    begin();
+}
+
 void CommandRun::resume()
 {
     m_dialogue.reset();
@@ -150,14 +167,16 @@ void CommandRun::resume()
     }
     if (m_task->isDone() && hasFailed())
         refuse();
-    else if (m_task->isDone())
+    else if (m_task->isDone()) {
         finish();
-    else
+        repeat();
+    } else
         standAt(m_context.m_request);
 }
 
 void CommandRun::standAt(PromptRequest request)
 {
+    m_hasAsked = true;
     request.isTransparent = m_manner == Manner::Transparent;
     if (request.isTransparent)
         request.prompt.insert(request.prompt.startsWith(u'\n') ? 1 : 0, QStringLiteral(">>"));
@@ -178,7 +197,7 @@ void CommandRun::cancel()
 {
     m_isCancelled = true;
     finish();
-    if (m_row.whenCancelled == WhenCancelled::TakeBack)
+    if (m_row->whenCancelled == WhenCancelled::TakeBack)
         m_document.undoSteps().takeBackTo(m_start);
 }
 
@@ -188,7 +207,7 @@ void CommandRun::refuse()
     m_context.m_hasFailed = true;
     finish();
     m_document.undoSteps().takeBackTo(m_start);
-    m_document.print(QStringLiteral("\n%1 has ended, nothing was changed.").arg(QLatin1String(m_row.name)));
+    m_document.print(QStringLiteral("\n%1 has ended, nothing was changed.").arg(QLatin1String(m_row->name)));
 }
 
 void CommandRun::echoPrompt()

@@ -59,6 +59,10 @@ private:
     void leaveInside();
     /// Waits at a prompt.
     void standAt(PromptRequest request);
+    /// Starts the body of the row, whose undo step begins here.
+    void begin();
+    /// Starts the command that is to follow this one, where there is one; see CommandContext::repeat().
+    void repeat();
     /// Runs the body to its next prompt or its end.
     void resume();
     /// Lets the body go, and its name from CMDNAMES; what it did stays and ends its undo step.
@@ -69,14 +73,15 @@ private:
     bool isEchoing() const;
 
     Document &m_document;
-    const CommandRow &m_row;
-    int m_start = 0; ///< of the undo steps, where it began
+    const CommandRow *m_row; ///< another one once a command is repeated
+    int m_start = 0;         ///< of the undo steps, where it began
     CommandContext m_context;
     std::optional<CommandTask> m_task;        ///< the body; none when it has ended
     std::optional<PromptDialogue> m_dialogue; ///< the prompt it waits at
     std::unique_ptr<CommandRun> m_inside;     ///< a command in the middle of that prompt
     Manner m_manner;
     bool m_isCancelled = false;
+    bool m_hasAsked = false; ///< since its body started
 };
 
 } // namespace host::kernel
