@@ -49,6 +49,25 @@ TEST_F(LispNames, CompleteWhatSymbolsHoldAndWhatStringsMean)
     EXPECT_EQ(completionOf(*document, u"(WALL"_s).commonStart(), u"wall:"_s);
 }
 
+TEST_F(LispNames, KnowWhereATextStands)
+{
+    const std::tuple<QString, bool, QString> rows[] = {
+        {u""_s, true, {}},
+        {u"(car '(1))"_s, true, {}},
+        {u"(car (list 1"_s, false, u"LIST"_s},
+        {u"(setq a \"(\" b"_s, false, u"SETQ"_s},
+        {u"\"a)"_s, false, {}},
+        {u"(a) ; (b"_s, true, {}},
+        {u"(a ; )\n"_s, false, u"A"_s},
+        {u"(a ;| )\n ( |;)"_s, true, {}},
+        {u"(a) ;| (b)\n"_s, false, {}},
+    };
+    for (const auto &[text, whole, called] : rows) {
+        EXPECT_EQ(isWhole(text), whole) << text.toStdString();
+        EXPECT_EQ(calledAt(text), called) << text.toStdString();
+    }
+}
+
 TEST_F(LispNames, HaveHelp)
 {
     EXPECT_EQ(helpOnName(*document, u"wall:corners"_s), u"wall:corners (a / b)\n  w.lsp:1\n"_s);

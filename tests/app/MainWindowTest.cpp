@@ -2,6 +2,7 @@
 
 #include "host/app/window/CommandLine.h"
 #include "host/app/window/DrawingCanvas.h"
+#include "host/app/window/LispConsole.h"
 #include "host/app/window/Preferences.h"
 #include "host/kernel/input/UserInput.h"
 #include "host/view/paint/ScenePainter.h"
@@ -23,6 +24,7 @@
 #include <QMenuBar>
 #include <QMimeData>
 #include <QMouseEvent>
+#include <QPlainTextEdit>
 #include <QProxyStyle>
 #include <QRegularExpression>
 #include <QTabBar>
@@ -204,6 +206,105 @@ TEST_F(MainWindowTest, ExpressionsMayComeInPieces)
     EXPECT_EQ(window->commandLine().prompt(), u"Command:"_s);
     window->enter(u"(setq x 7)"_s);
     EXPECT_EQ(lisp(u"x"_s), u"7"_s);
+}
+
+/// The window with its Lisp console, and keys for that.
+struct LispConsoleTest : MainWindowTest
+{
+    LispConsoleTest()
+    {
+        action(u"Lisp &console"_s)->trigger();
+        window->activateWindow();
+    }
+    LispConsole &console() { return window->console(); }
+    void press(int code, const QString &text = {})
+    {
+        QKeyEvent event(QEvent::KeyPress, code, Qt::NoModifier, text);
+        QCoreApplication::sendEvent(console().input(), &event);
+    }
+    /// Lines as a person writes them, each ended by Enter.
+    void write(const QString &lines)
+    {
+        for (const QChar c : lines)
+            press(c == u'\n' ? int(Qt::Key_Return) : int(c.toUpper().unicode()), c == u'\n' ? u"\r"_s : QString(c));
+        press(Qt::Key_Return, u"\r"_s);
+    }
+    QString written() { return console().input()->toPlainText(); }
+};
+
+TEST_F(LispConsoleTest, RunsWhatIsWrittenOnceItIsWhole)
+{
+    ASSERT_TRUE(console().isVisible());
+    write(u"(setq x 1)\n(defun twice (n) ; of (n\n  (* 2 n))"_s);
+    EXPECT_EQ(console().outputText(),
+              u"lisp> (setq x 1)\n1\nlisp> (defun twice (n) ; of (n\n    >   (* 2 n))\nTWICE\n"_s);
+    EXPECT_EQ(written(), QString());
+    write(u"(princ \"a\n(b\") (twice 21) x"_s);
+    EXPECT_TRUE(console().outputText().endsWith(u"a\n(b\n1\n"_s)) << console().outputText().toStdString();
+    write(u"(princ)\n(twice\n nil)"_s);
+    EXPECT_TRUE(console().outputText().contains(u"; error: bad argument type"_s))
+        << console().outputText().toStdString();
+    EXPECT_TRUE(console().outputText().contains(u"console:1"_s)) << console().outputText().toStdString();
+    lisp(u"(setq elsewhere (getvar \"CTAB\"))"_s);
+    write(u"(entdel (handent \"2A\"))"_s);
+    action(u"&Undo"_s)->trigger();
+    EXPECT_EQ(lisp(u"(cdr (assoc 0 (entget (handent \"2A\"))))"_s), u"\"LINE\""_s) << "one undo step";
+    EXPECT_FALSE(console().outputText().contains(u"\"LINE\""_s)) << "what others run is not printed here";
+}
+
+TEST_F(LispConsoleTest, CompletesExplainsAndRemembers)
+{
+    console().input()->insertPlainText(u"(vl-string-tri"_s);
+    press(Qt::Key_Tab);
+    EXPECT_EQ(written(), u"(vl-string-trim"_s);
+    EXPECT_TRUE(console().helpText().startsWith(u"(vl-string-trim "_s)) << console().helpText().toStdString();
+    console().input()->insertPlainText(u" \" \" "_s);
+    EXPECT_TRUE(console().helpText().startsWith(u"(vl-string-trim "_s)) << "the call that is being written";
+    press(Qt::Key_Escape);
+    EXPECT_EQ(written(), QString());
+    console().input()->insertPlainText(u"(getvar \"OSMO"_s);
+    press(Qt::Key_Tab);
+    EXPECT_TRUE(console().helpText().startsWith(u"system variable OSMODE"_s));
+    write(u"\")\n(setq a\n 2)"_s);
+    press(Qt::Key_Up);
+    EXPECT_EQ(written(), u"(setq a\n 2)"_s);
+    press(Qt::Key_Up);
+    EXPECT_EQ(written(), u"(setq a\n 2)"_s) << "within the form";
+    console().input()->moveCursor(QTextCursor::Start);
+    press(Qt::Key_Up);
+    EXPECT_EQ(written(), u"(getvar \"OSMODE\")"_s);
+    window->close();
+    EXPECT_EQ(Preferences::load(path(u"home"_s)).forms.size(), 2);
+}
+
+TEST_F(LispConsoleTest, AsksAtTheCommandLineAndIsStoppedByEsc)
+{
+    meanwhile([this] { window->enter(u"12.5"_s); });
+    write(u"(setq size (getreal \"\\nSize: \"))"_s);
+    EXPECT_TRUE(console().outputText().endsWith(u"12.5\n"_s)) << console().outputText().toStdString();
+    QTimer::singleShot(100, window.get(), [this] {
+        write(u"(setq intruder T)"_s);
+        press(Qt::Key_Escape);
+    });
+    write(u"(while T)"_s);
+    EXPECT_TRUE(console().outputText().contains(u"A command is running"_s));
+    EXPECT_EQ(lisp(u"intruder"_s), u"nil"_s);
+    write(u"(setq alive T)"_s);
+    EXPECT_EQ(lisp(u"alive"_s), u"T"_s);
+}
+
+TEST_F(LispConsoleTest, IsRecordedAsLinesThatPlay)
+{
+    const QString file = path(u"recorded.txt"_s);
+    window->startRecording(file);
+    write(u"(setq n 3) ; three\n(setq text\n \"a;b\nc\" #| 1)"_s.replace(u"#| 1"_s, u";| not\n this |;)"_s));
+    window->stopRecording();
+    EXPECT_TRUE(read(u"recorded.txt"_s).contains("lisp (setq text \"a;b\\nc\""))
+        << read(u"recorded.txt"_s).toStdString();
+    lisp(u"(setq n nil text nil)"_s);
+    const PlaybackResult played = window->play(readPlayback(file), {});
+    EXPECT_TRUE(played.ok) << played.message.toStdString();
+    EXPECT_EQ(lisp(u"(list n text)"_s), u"(3 \"a;b\\nc\")"_s);
 }
 
 TEST_F(MainWindowTest, PromptsAreAnsweredByLineAndCanvas)

@@ -31,11 +31,20 @@ QString handleOf(const kernel::Document &document, drawing::RecordId entity)
     return document.drawing().handle(entity).toString();
 }
 
-/// A Lisp expression in one line; comments in it would swallow what follows.
-QString oneLine(QString expression)
+/// A Lisp text in one line: comments, which would swallow what follows, are left out, and line ends in strings are
+/// written as strings have them.
+QString oneLine(const QString &text)
 {
-    static const QRegularExpression lineEnd(u"\\s*[\\r\\n]+\\s*"_s);
-    return expression.replace(lineEnd, u" "_s);
+    static const QRegularExpression part(u"(\"(?:[^\"\\\\]|\\\\.)*\")|;\\|.*?\\|;|;[^\\n]*|\\s*[\\r\\n]+\\s*"_s,
+                                         QRegularExpression::DotMatchesEverythingOption);
+    QString line;
+    qsizetype from = 0;
+    for (const QRegularExpressionMatch &match : part.globalMatch(text)) {
+        line += QStringView(text).sliced(from, match.capturedStart() - from);
+        line += match.hasCaptured(1) ? match.captured(1).replace(u'\n', u"\\n"_s) : u" "_s;
+        from = match.capturedEnd();
+    }
+    return line.append(QStringView(text).sliced(from)).trimmed();
 }
 
 } // namespace
@@ -99,14 +108,20 @@ void SessionRecorder::takeCommand(const kernel::InputAnswer &answer)
     const auto *typed = std::get_if<kernel::TextAnswer>(&answer);
     if (!typed)
         return;
-    addChosen();
     const QString text = typed->text.trimmed();
     if (text.startsWith(u'(') || text.startsWith(u'!'))
-        return add(u"lisp "_s + oneLine(text.startsWith(u'!') ? text.mid(1) : text));
+        return takeExpression(text.startsWith(u'!') ? text.mid(1) : text);
+    addChosen();
     if (!text.isEmpty())
         m_lastCommand = text;
     if (!m_lastCommand.isEmpty())
         add(u"command "_s + sessionWord(m_lastCommand));
+}
+
+void SessionRecorder::takeExpression(const QString &text)
+{
+    addChosen();
+    add(u"lisp "_s + oneLine(text));
 }
 
 void SessionRecorder::addChosen()

@@ -33,6 +33,8 @@ public:
     /// Writes the file; why it could not be written, empty when it was.
     QString save();
 
+    /// A Lisp text that is about to run without having been typed at a prompt.
+    void takeExpression(const QString &text);
     /// A line for what the window does by itself, without a prompt.
     void add(const QString &line);
 

@@ -2,6 +2,8 @@
 
 #include "host/app/window/CommandLine.h"
 
+using namespace Qt::StringLiterals;
+
 namespace host::app {
 
 CommandRunner::CommandRunner(kernel::Session &session, CommandLine &commandLine)
@@ -33,9 +35,16 @@ void CommandRunner::enter(const QString &text)
     } else if (!document()) {
         m_commandLine.print(tr("\nNo drawing is open.\n"));
     } else {
-        queue.pushTyped(text);
-        runQueue();
+        run([&] { queue.pushTyped(text); });
     }
+}
+
+kernel::RunResult CommandRunner::evaluate(const QString &text)
+{
+    kernel::RunResult result;
+    m_session.input().clear();
+    run([&] { result = document()->run(text, u"console"_s); });
+    return result;
 }
 
 void CommandRunner::answer(const kernel::InputAnswer &answer)
@@ -44,11 +53,12 @@ void CommandRunner::answer(const kernel::InputAnswer &answer)
         m_session.input().push(answer);
 }
 
-void CommandRunner::runQueue()
+void CommandRunner::run(const std::function<void()> &begin)
 {
     m_isRunning = true;
     m_feeder.forgetCancel();
     emit stateChanged();
+    begin();
     m_session.runQueue();
     m_isRunning = false;
     const bool isUnfinished = !m_session.input().isEmpty();

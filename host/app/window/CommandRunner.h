@@ -4,6 +4,8 @@
 #include "host/app/window/WindowFeeder.h"
 #include "host/kernel/documents/Session.h"
 
+#include <functional>
+
 namespace host::app {
 
 class CommandLine;
@@ -25,6 +27,9 @@ public:
     void enter(const QString &text);
     /// Runs a command in place of what was begun at the command line; nothing while another one runs.
     void start(const QString &command);
+    /// Runs Lisp text as a whole, in place of what was begun at the command line. Only while a drawing is open and
+    /// nothing runs. What it prints and its error are printed in the drawing.
+    kernel::RunResult evaluate(const QString &text);
     /// Answers the prompt that waits; nothing when there is none.
     void answer(const kernel::InputAnswer &answer);
     /// Stops what runs; else gives up what was begun or chosen.
@@ -42,7 +47,8 @@ signals:
 
 private:
     kernel::Document *document() const { return m_session.documents().active(); }
-    void runQueue();
+    /// `begin`, and what the queue holds then.
+    void run(const std::function<void()> &begin);
     void showRequest(const std::optional<kernel::PromptRequest> &request);
 
     kernel::Session &m_session;

@@ -108,6 +108,8 @@ void MainWindow::buildViewMenu()
     addAction(menu, tr("Zoom &out"), QKeySequence(u"Ctrl+-"_s), WhenBusy::Enabled,
               withCanvas([](DrawingCanvas &current) { current.zoomBy(1.0 / 1.5); }));
     menu.addSeparator();
+    addAction(menu, tr("Lisp &console"), QKeySequence(Qt::Key_F12), WhenBusy::Enabled, [this] { toggleConsole(); });
+    menu.addSeparator();
     auto *grounds = new QActionGroup(this);
     m_blackGround = addChoice(menu, *grounds, tr("&Black ground"), [this] { setGround(view::Ground::Black); });
     m_whiteGround = addChoice(menu, *grounds, tr("W&hite ground"), [this] { setGround(view::Ground::White); });

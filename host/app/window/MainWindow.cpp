@@ -7,6 +7,7 @@
 #include "host/app/window/DrawingStatus.h"
 #include "host/app/window/DrawingTabs.h"
 #include "host/app/window/LayoutTabs.h"
+#include "host/app/window/LispConsole.h"
 #include "host/app/window/Preferences.h"
 #include "host/app/window/TrustQuestion.h"
 #include "host/kernel/documents/ScreenSketch.h"
@@ -51,6 +52,7 @@ MainWindow::MainWindow(const WorkbenchOptions &options)
     m_commandDock->setFeatures(QDockWidget::DockWidgetMovable | QDockWidget::DockWidgetFloatable);
     addDockWidget(Qt::BottomDockWidgetArea, m_commandDock);
     resizeDocks({m_commandDock}, {150}, Qt::Vertical);
+    buildConsole();
     buildMenus();
     connectRunner();
 
@@ -285,6 +287,7 @@ void MainWindow::loadPreferences()
     const Preferences preferences = Preferences::load(m_workbench->session().home());
     restoreGeometry(preferences.geometry);
     m_commandLine->setEntries(preferences.entries);
+    m_console->setEntries(preferences.forms);
     setGround(preferences.ground);
 }
 
@@ -293,7 +296,8 @@ void MainWindow::savePreferences() const
     const Preferences preferences{.style = currentStyle(),
                                   .ground = m_tabs->ground(),
                                   .geometry = saveGeometry(),
-                                  .entries = m_commandLine->entries()};
+                                  .entries = m_commandLine->entries(),
+                                  .forms = m_console->entries()};
     preferences.save(m_workbench->session().home());
 }
 

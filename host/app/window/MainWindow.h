@@ -24,6 +24,7 @@ class DrawingCanvas;
 class DrawingStatus;
 class DrawingTabs;
 class LayoutTabs;
+class LispConsole;
 class SessionRecorder;
 
 /// The window: drawings in tabs, one command line for all, menus and a status bar.
@@ -47,6 +48,7 @@ public:
 
     Workbench &workbench() { return *m_workbench; }
     CommandLine &commandLine() { return *m_commandLine; }
+    LispConsole &console() { return *m_console; }
     /// One tab a document, whose widget is its DrawingCanvas.
     QTabWidget &tabs();
     /// Null when no drawing is open.
@@ -147,6 +149,13 @@ private:
     /// What all drawings lie on.
     void setGround(view::Ground ground);
 
+    // The Lisp console, in Console.cpp.
+    void buildConsole();
+    /// Shows it, with the keyboard; hides it when it has that.
+    void toggleConsole();
+    /// Runs in the active drawing what was entered there.
+    void evaluate(const QString &text);
+
     // In DroppedFiles.cpp.
     void openDropped(const QStringList &paths);
 
@@ -156,6 +165,8 @@ private:
     LayoutTabs *m_layouts;      ///< of the drawing in front, below it
     CommandLine *m_commandLine; ///< owned by the dock, that by the window
     QDockWidget *m_commandDock;
+    LispConsole *m_console = nullptr; ///< owned by its dock
+    QDockWidget *m_consoleDock = nullptr;
     std::unique_ptr<CommandRunner> m_runner;
     std::unique_ptr<SessionRecorder> m_recorder; ///< null while nothing is recorded
     std::unique_ptr<DrawingStatus> m_status;
@@ -170,6 +181,7 @@ private:
     QAction *m_darkStyle = nullptr;
     QTimer m_reportTimer;         ///< the report is made once for changes that come together
     qsizetype m_problemsTold = 0; ///< of those of the workbench, from the first on
+    bool m_wasConsoleShown = false;
     bool m_isCloseWanted = false; ///< the window was to be closed while something ran
     bool m_isInCanvas = false;    ///< what is entered comes out of an event of a canvas
 };

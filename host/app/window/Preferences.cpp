@@ -30,6 +30,7 @@ Preferences Preferences::load(const QString &folder)
         preferences.ground = view::Ground::White;
     preferences.geometry = settings.value("geometry").toByteArray();
     preferences.entries = settings.value("entries").toStringList();
+    preferences.forms = settings.value("forms").toStringList();
     return preferences;
 }
 
@@ -41,6 +42,7 @@ void Preferences::save(const QString &folder) const
         settings.setValue("ground", ground == view::Ground::White ? u"white"_s : u"black"_s);
         settings.setValue("geometry", geometry);
         settings.setValue("entries", entries);
+        settings.setValue("forms", forms);
     });
 }
 

@@ -15,6 +15,7 @@ struct Preferences
     view::Ground ground = view::Ground::Black;
     QByteArray geometry; ///< of the window; empty: as it comes
     QStringList entries; ///< of the command line, oldest first
+    QStringList forms;   ///< of the Lisp console, likewise
 
     /// `folder` is that of the user's data. A file that is no settings file is left alone, and not read.
     static Preferences load(const QString &folder);

@@ -19,8 +19,10 @@ struct LineEnd
 {
     bool isInString = false;
     bool isInComment = false;
+    bool isInBlock = false; ///< a comment that goes over several lines
     qsizetype wordStart = 0;
     QString function; ///< of the innermost list that is open, in capitals; of a string: that in front of it
+    bool isInList = false;
 };
 
 bool endsWord(QChar c)
@@ -42,6 +44,7 @@ public:
             else if (endsWord(m_text[m_next]))
                 takeDelimiter(m_text[m_next]);
         }
+        m_end.isInList = !m_open.isEmpty();
         m_end.function = m_open.isEmpty() ? QString() : m_open.last();
         return m_end;
     }
@@ -71,9 +74,11 @@ private:
 
     void skipComment()
     {
-        const qsizetype line = m_text.indexOf(u'\n', m_next);
-        m_end.isInComment = line < 0;
-        m_next = line < 0 ? m_text.size() : line;
+        const bool isBlock = QStringView(m_text).sliced(m_next).startsWith(u";|"_s);
+        const qsizetype end = isBlock ? m_text.indexOf(u"|;"_s, m_next + 2) : m_text.indexOf(u'\n', m_next);
+        m_end.isInComment = end < 0;
+        m_end.isInBlock = isBlock && end < 0;
+        m_next = end < 0 ? m_text.size() : end + (isBlock ? 1 : 0);
     }
 
     void endWord(bool beginsString)
@@ -164,6 +169,17 @@ Completion completionOf(kernel::Document &document, const QString &text)
     }
     completion.names.sort();
     return completion;
+}
+
+bool isWhole(const QString &text)
+{
+    const LineEnd end = EndFinder(text).run();
+    return !end.isInString && !end.isInList && !end.isInBlock;
+}
+
+QString calledAt(const QString &text)
+{
+    return EndFinder(text).run().function;
 }
 
 QString helpOnName(kernel::Document &document, const QString &name)

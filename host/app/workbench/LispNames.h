@@ -24,6 +24,12 @@ struct Completion
 /// programs begin with "c:") and variables, in small letters. None in other strings and in comments.
 Completion completionOf(kernel::Document &document, const QString &text);
 
+/// Whether all lists, strings and block comments of a Lisp text are closed.
+bool isWhole(const QString &text);
+
+/// What the innermost list calls that is open at the end of `text`, in capitals; empty outside of lists.
+QString calledAt(const QString &text);
+
 /// A few lines about a function (how it is called and what it gives), a command or a system variable, whatever there is
 /// of that name in any mix of cases; empty when there is nothing.
 QString helpOnName(kernel::Document &document, const QString &name);
