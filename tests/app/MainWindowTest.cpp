@@ -208,6 +208,36 @@ TEST_F(MainWindowTest, ExpressionsMayComeInPieces)
     EXPECT_EQ(lisp(u"x"_s), u"7"_s);
 }
 
+TEST_F(MainWindowTest, RecordsErrorsAndWhatCannotBePlayed)
+{
+    window->startRecording(path(u"out.txt"_s));
+    window->enter(u"NOSUCH"_s);
+    window->enter(u"(car 1)"_s);
+    click(1.0, 0.0);
+    window->enter(u"(setq n (sslength (ssget \"I\")))"_s);
+    QTimer::singleShot(100, window.get(), [this] { key(Qt::Key_Escape); });
+    window->enter(u"(progn (setq k 1) (while T))"_s);
+    window->workbench().documents().create();
+    const QString other = window->document()->title();
+    window->enter(u"LINE 0,0 1,1  (setq m 1)"_s);
+    window->tabs().setCurrentIndex(0);
+    window->enter(u"(setq k 3)"_s);
+    window->stopRecording();
+    const QString recorded = QString::fromUtf8(read(u"out.txt"_s));
+    EXPECT_EQ(recorded.section(u'\n', 1, 2), u"command NOSUCH\nexpect-error \"Unknown command \\\"NOSUCH\\\".\""_s);
+    EXPECT_EQ(recorded.section(u'\n', 6),
+              u"lisp (setq n (sslength (ssget \"I\")))\nlisp (sssetfirst nil nil)\nlisp (progn (setq k 1) (while T))\n"
+              "# stopped with Esc, which a session cannot do here\n# in %1: command LINE\n# in %1: answer 0,0\n"
+              "# in %1: answer 1,1\n# in %1: enter\n# in %1: lisp (setq m 1)\nlisp (setq k 3)\n"_s.arg(other));
+    lisp(u"(setq n nil k nil)"_s);
+    QString playable = recorded;
+    const PlaybackResult played =
+        window->play(parsePlayback(playable.remove(u"lisp (progn (setq k 1) (while T))\n"_s)), {});
+    EXPECT_TRUE(played.ok) << played.message.toStdString();
+    EXPECT_EQ(lisp(u"(list n k m)"_s), u"(1 3 nil)"_s);
+    EXPECT_TRUE(window->document()->impliedSelection().empty());
+}
+
 /// The window with its Lisp console, and keys for that.
 struct LispConsoleTest : MainWindowTest
 {

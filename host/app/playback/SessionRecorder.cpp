@@ -47,6 +47,13 @@ QString oneLine(const QString &text)
     return line.append(QStringView(text).sliced(from)).trimmed();
 }
 
+/// The message alone of an error: where it happened has another name when a session plays.
+QString withoutPlace(const QString &error)
+{
+    static const QRegularExpression place(u" (in )?\\(.*"_s, QRegularExpression::DotMatchesEverythingOption);
+    return QString(error).remove(place);
+}
+
 } // namespace
 
 SessionRecorder::SessionRecorder(kernel::Session &session, const QString &file)
@@ -54,6 +61,7 @@ SessionRecorder::SessionRecorder(kernel::Session &session, const QString &file)
       m_widgets([this] { return isRunning(); }, [this](const QString &line) { add(line); })
 {
     const QString path = document() ? document()->path() : QString();
+    m_recorded = document();
     m_lines.append(u"drawing "_s + (path.isEmpty() ? u"new"_s : QFileInfo(file).absoluteDir().relativeFilePath(path)));
     connect(&session.input(), &kernel::InputQueue::taken, this, &SessionRecorder::take);
     connect(&session.input(), &kernel::InputQueue::pointShown, this, &SessionRecorder::settlePoint);
@@ -87,7 +95,23 @@ QString SessionRecorder::save()
 void SessionRecorder::add(const QString &line)
 {
     m_hasOpenPoint = false;
-    m_lines.append(line);
+    m_lines.append(placed(line));
+}
+
+QString SessionRecorder::placed(const QString &line) const
+{
+    const kernel::Document *now = document();
+    return !now || now == m_recorded ? line : u"# in %1: %2"_s.arg(now->title(), line);
+}
+
+void SessionRecorder::takeOutcome(const kernel::RunResult &result)
+{
+    const bool wasCancelled = m_lines.indexOf(placed(u"cancel"_s), m_runStart) >= 0;
+    if (!result.ok && !wasCancelled)
+        add(result.error.contains("cancelled"_L1) ? u"# stopped with Esc, which a session cannot do here"_s
+                                                  : u"expect-error "_s + sessionWord(withoutPlace(result.error)));
+    if (document() && !document()->impliedSelection().empty())
+        add(u"lisp (sssetfirst nil nil)"_s);
 }
 
 void SessionRecorder::take(const kernel::PromptRequest &request, const kernel::InputAnswer &answer)
@@ -114,13 +138,16 @@ void SessionRecorder::takeCommand(const kernel::InputAnswer &answer)
     addChosen();
     if (!text.isEmpty())
         m_lastCommand = text;
-    if (!m_lastCommand.isEmpty())
-        add(u"command "_s + sessionWord(m_lastCommand));
+    if (m_lastCommand.isEmpty())
+        return;
+    m_runStart = m_lines.size();
+    add(u"command "_s + sessionWord(m_lastCommand));
 }
 
 void SessionRecorder::takeExpression(const QString &text)
 {
     addChosen();
+    m_runStart = m_lines.size();
     add(u"lisp "_s + oneLine(text));
 }
 
@@ -155,7 +182,7 @@ QString SessionRecorder::lineFor(const kernel::PromptRequest &request, const ker
     if (const auto *key = std::get_if<kernel::KeyAnswer>(&answer))
         return key->code == 13 ? u"enter"_s : u"answer "_s + sessionWord(QString(QChar(key->code)));
     if (const auto *pointer = std::get_if<kernel::PointerAnswer>(&answer))
-        return u"hover "_s + pointWord(pointer->point);
+        return (pointer->isRightPress ? u"# the right button at "_s : u"hover "_s) + pointWord(pointer->point);
     return u"cancel"_s;
 }
 
@@ -172,7 +199,7 @@ QString SessionRecorder::lineForPoint(const kernel::PromptRequest &request, cons
 void SessionRecorder::settlePoint(const drawing::Vec3 &world)
 {
     if (std::exchange(m_hasOpenPoint, false))
-        m_lines.last() = u"pick "_s + pointWord(world);
+        m_lines.last() = placed(u"pick "_s + pointWord(world));
 }
 
 } // namespace host::app

@@ -35,7 +35,10 @@ void CommandRunner::enter(const QString &text)
     } else if (!document()) {
         m_commandLine.print(tr("\nNo drawing is open.\n"));
     } else {
-        run([&] { queue.pushTyped(text); });
+        run([&] {
+            queue.pushTyped(text);
+            return kernel::RunResult();
+        });
     }
 }
 
@@ -43,7 +46,7 @@ kernel::RunResult CommandRunner::evaluate(const QString &text)
 {
     kernel::RunResult result;
     m_session.input().clear();
-    run([&] { result = document()->run(text, u"console"_s); });
+    run([&] { return result = document()->run(text, u"console"_s); });
     return result;
 }
 
@@ -53,13 +56,14 @@ void CommandRunner::answer(const kernel::InputAnswer &answer)
         m_session.input().push(answer);
 }
 
-void CommandRunner::run(const std::function<void()> &begin)
+void CommandRunner::run(const std::function<kernel::RunResult()> &begin)
 {
     m_isRunning = true;
     m_feeder.forgetCancel();
     emit stateChanged();
-    begin();
-    m_session.runQueue();
+    const kernel::RunResult begun = begin();
+    const kernel::RunResult queued = m_session.runQueue();
+    emit ranTo(begun.ok ? queued : begun);
     m_isRunning = false;
     const bool isUnfinished = !m_session.input().isEmpty();
     m_commandLine.setUnfinished(isUnfinished);

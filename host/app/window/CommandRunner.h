@@ -44,11 +44,13 @@ signals:
     /// What can be done now may be another.
     void stateChanged();
     void ended();
+    /// What was entered has run; what was chosen for it may still be.
+    void ranTo(const host::kernel::RunResult &result);
 
 private:
     kernel::Document *document() const { return m_session.documents().active(); }
-    /// `begin`, and what the queue holds then.
-    void run(const std::function<void()> &begin);
+    /// `begin`, which may run something, and what the queue holds then.
+    void run(const std::function<kernel::RunResult()> &begin);
     void showRequest(const std::optional<kernel::PromptRequest> &request);
 
     kernel::Session &m_session;

@@ -15,6 +15,7 @@ namespace host::app {
 void MainWindow::startRecording(const QString &file)
 {
     m_recorder = std::make_unique<SessionRecorder>(m_workbench->session(), file);
+    connect(m_runner.get(), &CommandRunner::ranTo, m_recorder.get(), &SessionRecorder::takeOutcome);
     // What a crash leaves is whole up to the last run.
     connect(m_runner.get(), &CommandRunner::ended, m_recorder.get(), [this] { m_recorder->save(); });
     m_record->setText(tr("Stop &recording"));
