@@ -1,10 +1,8 @@
 #include "host/commands/Commands.h"
 #include "host/commands/common/EntityEdits.h"
 #include "host/commands/common/KeptValues.h"
-#include "host/commands/common/SplineRecord.h"
 #include "host/commands/common/UserPlane.h"
-#include "host/commands/curves/EditedPolyline.h"
-#include "host/commands/curves/OffsetShape.h"
+#include "host/drawing/curves/Offset.h"
 #include "host/kernel/documents/CurrentSpace.h"
 #include "host/kernel/documents/Document.h"
 
@@ -29,7 +27,7 @@ struct OffsetSettings
     bool isThrough = false; ///< a point decides on the distance
     bool erasesSource = false;
     bool onCurrentLayer = false;
-    OffsetGap gap = OffsetGap::Extend;
+    drawing::OffsetGap gap = drawing::OffsetGap::Extended;
 };
 
 Vec3 offsetNormal(CommandContext &context, const EntityCurve &curve)
@@ -39,103 +37,34 @@ Vec3 offsetNormal(CommandContext &context, const EntityCurve &curve)
     return curve.normal().value_or(user);
 }
 
-/// How far a point lies to the left of a curve, as its normal sees it; the nearest point of the curve counts.
-double signedDistance(const EntityCurve &curve, const Vec3 &normal, const Vec3 &point)
+/// The record of a parallel on its layer, without what the source owns and programs note about it.
+void dressOffset(CommandContext &context, FieldList &fields, const OffsetSettings &settings)
 {
-    const bool isStraight =
-        curve.pieces().size() == 1 && curve.pieces().front().shape() == drawing::CurvePiece::Shape::Straight;
-    const double at =
-        curve.closestProjected(point, normal, isStraight ? drawing::Extension::Both : drawing::Extension::None);
-    const Vec3 way = point - curve.point(at);
-    const Vec3 flat = way - normal * dot(way, normal);
-    // Beyond a corner both of its sides are to be asked: the one that the point is farther aside of is right.
-    double side = 0.0;
-    for (const drawing::CurvePiece &piece : curve.pieces()) {
-        if (!piece.covers(at, 1e-9))
-            continue;
-        const double inside = std::clamp(at, piece.start(), piece.end());
-        const double aside = dot(cross(drawing::normalized(piece.firstDerivative(inside)), flat), normal);
-        side = std::abs(aside) > std::abs(side) ? aside : side;
-    }
-    return std::copysign(flat.length(), side);
-}
-
-/// The source's look, on its layer or the current one.
-FieldList lookOfOffset(CommandContext &context, RecordId source, const OffsetSettings &settings)
-{
-    FieldList fields = context.drawing().fields(source);
-    static const QSet<int> ofRecord = {5, 100, 102, 330, 360};
+    static const QSet<int> ofRecord = {5, 102, 330, 360};
     std::erase_if(fields, [](const drawing::Field &field) { return ofRecord.contains(field.code); });
     fields.erase(drawing::ownEnd(fields), fields.end());
     if (settings.onCurrentLayer)
         drawing::setField(fields, 8, context.document().variables().text(u"CLAYER"));
-    return fields;
 }
 
-RecordId createOffset(CommandContext &context, const FieldList &fields)
-{
-    const drawing::CreateResult made = createOnCurrent(context.drawing(), fields);
-    if (!made)
-        context.print(u'\n' + made.error);
-    return made.record;
-}
-
-std::vector<RecordId> offsetOfPolyline(CommandContext &context, EditedPolyline polyline, double distance,
-                                       const OffsetSettings &settings, const FieldList &look)
-{
-    drawing::CurveVertices vertices = *drawing::polylineVertices(context.drawing(), polyline.record);
-    std::vector<RecordId> made;
-    for (const drawing::CurveVertices &chain : offsetPolyline(vertices, distance, settings.gap)) {
-        EditedPolyline result = polyline;
-        result.record = drawing::noRecord;
-        result.smoothing = Smoothing::None;
-        result.isClosed = chain.isClosed;
-        result.vertices.clear();
-        for (const drawing::CurveVertex &vertex : chain.vertices)
-            result.vertices.push_back({vertex});
-        if (const drawing::Field *layer = drawing::findField(look, 8))
-            drawing::setField(result.look, 8, layer->text());
-        if (const StoredPolyline stored = storePolyline(context, result); isValid(stored.record))
-            made.push_back(stored.record);
-    }
-    return made;
-}
-
-/// The parallel curve at a distance to the left; none where there is no room for one.
+/// The parallel curves at a distance; none where there is no room for one.
 std::vector<RecordId> createParallel(CommandContext &context, RecordId source, const EntityCurve &curve,
                                      double distance, const OffsetSettings &settings)
 {
-    const drawing::Drawing &drawing = context.drawing();
+    std::vector<RecordId> made;
     const Vec3 normal = offsetNormal(context, curve);
-    FieldList fields = lookOfOffset(context, source, settings);
-    const auto single = [](RecordId id) { return isValid(id) ? std::vector{id} : std::vector<RecordId>(); };
-    if (std::optional<EditedPolyline> polyline = readPolyline(drawing, source)) {
-        if (polyline->isSpatial)
-            return {};
-        return offsetOfPolyline(context, std::move(*polyline), distance, settings, fields);
+    for (drawing::CurveRecord &record :
+         drawing::offsetCurve(context.drawing(), source, distance, normal, settings.gap)) {
+        dressOffset(context, record.head, settings);
+        for (FieldList &child : record.children)
+            dressOffset(context, child, settings);
+        const drawing::CreateResult created = createOnCurrent(context.drawing(), record.head, record.children);
+        if (created)
+            made.push_back(created.record);
+        else
+            context.print(u'\n' + created.error);
     }
-    if (drawing.isType(source, "CIRCLE") || drawing.isType(source, "ARC")) {
-        const double radius = drawing::realOf(fields, 40) - distance;
-        drawing::setField(fields, 40, radius);
-        return radius > 1e-9 ? single(createOffset(context, fields)) : std::vector<RecordId>();
-    }
-    if (curve.pieces().front().shape() == drawing::CurvePiece::Shape::Straight) {
-        const Vec3 along = drawing::normalized(curve.pieces().front().firstDerivative(0.0));
-        const Vec3 by = drawing::normalized(cross(normal, along)) * distance;
-        for (const int code : {10, 11})
-            if (code == 10 || drawing.isType(source, "LINE"))
-                drawing::setField(fields, code, drawing::findField(fields, code)->point() + by);
-        return single(createOffset(context, fields));
-    }
-    const std::optional<drawing::Spline> spline =
-        curve.isPlanar() ? offsetSpline(curve, normal, distance) : std::nullopt;
-    if (!spline)
-        return {};
-    FieldList made = splineRecord(*spline);
-    for (const int code : {8, 6, 62, 48, 370})
-        if (const drawing::Field *field = drawing::findField(fields, code))
-            made.push_back(*field);
-    return single(createOffset(context, made));
+    return made;
 }
 
 /// What was made and erased for one point, to be taken back.
@@ -210,7 +139,7 @@ Dialogue<OffsetNext> askSides(CommandContext &context, OffsetSettings settings, 
         }
         const std::optional<EntityCurve> curve = EntityCurve::ofEntity(context.drawing(), source);
         const Vec3 normal = offsetNormal(context, *curve);
-        const double aside = signedDistance(*curve, normal, reply.point);
+        const double aside = drawing::offsetDistance(*curve, reply.point, normal);
         const double distance = settings.isThrough ? aside : std::copysign(settings.distance, aside);
         OffsetStep step{createParallel(context, source, *curve, distance, settings)};
         if (step.made.empty()) {
@@ -233,7 +162,8 @@ Dialogue<OffsetNext> askSides(CommandContext &context, OffsetSettings settings, 
 CommandTask offset(CommandContext &context)
 {
     OffsetSettings settings;
-    settings.gap = static_cast<OffsetGap>(std::clamp(context.document().variables().integer(u"OFFSETGAPTYPE"), 0, 2));
+    settings.gap =
+        static_cast<drawing::OffsetGap>(std::clamp(context.document().variables().integer(u"OFFSETGAPTYPE"), 0, 2));
     co_await askOffsetSettings(context, settings);
     std::vector<OffsetStep> steps;
     for (;;) {

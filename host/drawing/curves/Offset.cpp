@@ -173,12 +173,14 @@ double offsetDistance(const EntityCurve &curve, const Vec3 &point, const Vec3 &u
     const Vec3 place = flattening(normal).point(point);
     const bool isStraight = curve.normal() == std::nullopt;
     const double at = flat.closest(place, isStraight ? Extension::Both : Extension::None);
-    const Vec3 away = place - flat.point(at);
+    const Vec3 nearest = flat.point(at);
+    const Vec3 away = place - nearest;
+    const double same = flat.tolerance();
     // At a corner both pieces may think the point on different sides: the one that runs more across the way decides.
     Vec3 right = rightOf(flat, at, normal);
     for (const CurvePiece &piece : flat.pieces()) {
         for (const double end : {piece.start(), piece.end()}) {
-            if (std::isfinite(end) && (piece.point(end) - flat.point(at)).length() <= flat.tolerance()) {
+            if (std::isfinite(end) && (piece.point(end) - nearest).length() <= same) {
                 const Vec3 other = normalized(cross(piece.firstDerivative(end), normal));
                 right = std::abs(dot(other, away)) > std::abs(dot(right, away)) ? other : right;
             }

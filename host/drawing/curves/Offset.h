@@ -5,12 +5,12 @@
 
 namespace host::drawing {
 
-/// What comes between the pieces of a polyline that an offset takes apart.
+/// What comes between the pieces of a polyline that an offset takes apart; the values of OFFSETGAPTYPE.
 enum class OffsetGap : quint8
 {
     Extended, ///< they go on until they meet; round the corner where they do not
     Rounded,
-    Straight
+    Straight ///< a straight piece as far from the corner as the offset; round where arcs meet
 };
 
 /// The curves at a distance from one, in its plane, with all else that the entity has. A positive distance lies on the

@@ -1,312 +1,349 @@
+#include "host/drawing/curves/BoxIndex.h"
 #include "host/drawing/curves/Crossings.h"
 #include "host/drawing/curves/Offset.h"
 #include "host/drawing/math/Angles.h"
+#include "host/drawing/math/Curves.h"
+
+#include <algorithm>
+#include <cmath>
+#include <map>
 
 namespace host::drawing {
 
 namespace {
 
-const Vec3 offsetUp{0, 0, 1};
-
-/// A piece of the way at the distance, with the stretch of the polyline that it comes from.
-struct OffsetPiece
+/// A stretch of the polyline, moved aside.
+struct MovedStretch
 {
-    CurvePiece piece;
-    const CurveVertex *origin;
-
-    Vec3 start() const { return piece.startPoint(); }
-    Vec3 end() const { return piece.endPoint(); }
+    CurveVertex from; ///< with the bulge and widths of the stretch
+    Vec2 to;
+    std::vector<CurveVertex> filling{}; ///< between it and the next one
 };
 
-CurvePiece arcAbout(const Vec3 &center, const Vec3 &from, const Vec3 &to, bool isLeft)
+/// Rounding of this share of the distance does not count.
+constexpr double nearlyAway = 1e-7;
+/// Corners go on until they meet no farther than this many distances.
+constexpr double longestTip = 1000.0;
+
+bool isSamePlace(Vec2 a, Vec2 b)
 {
-    const Vec3 out = from - center;
-    const double radius = out.length();
-    const double start = std::atan2(out.y, out.x);
-    double sweep = std::remainder(std::atan2(to.y - center.y, to.x - center.x) - start, wholeTurn);
-    if (isLeft != (sweep > 0.0))
-        sweep += isLeft ? wholeTurn : -wholeTurn;
-    return CurvePiece::round(center, {radius, 0, 0}, {0, radius, 0}, start, start + sweep, 0.0, 1.0);
+    return (a - b).length() <= 1e-9 * (1.0 + a.length());
 }
 
-/// Makes the way at a distance, with all its loops, and takes those out that come too near.
-class PolylineOffset
+MovedStretch movedStretch(const CurveVertex &from, const CurveVertex &to, double distance)
+{
+    MovedStretch moved{from, to.point.xy()};
+    const BulgeArc arc = bulgeArc(from.point.xy(), to.point.xy(), from.bulge);
+    if (!(arc.radius > 0.0)) {
+        const Vec2 along = (to.point - from.point).xy();
+        const Vec2 aside = turnedLeft(along) * (distance / along.length());
+        moved.from.point = {from.point.x + aside.x, from.point.y + aside.y, from.point.z};
+        moved.to = to.point.xy() + aside;
+        return moved;
+    }
+    // An arc with no room left turns inside out and is taken out later, being too near.
+    const double share = (arc.radius - (arc.sweep > 0.0 ? distance : -distance)) / arc.radius;
+    const Vec2 start = arc.center + (from.point.xy() - arc.center) * share;
+    moved.from.point = {start.x, start.y, from.point.z};
+    moved.to = arc.center + (to.point.xy() - arc.center) * share;
+    if (!(share > 0.0))
+        moved.from.bulge = 0.0;
+    return moved;
+}
+
+/// The polyline with all stretches moved aside and joined, which may cross itself.
+class RawOffset
 {
 public:
-    PolylineOffset(const CurveVertices &polyline, double distance, OffsetGap gap)
-        : m_polyline(polyline), m_distance(distance), m_gap(gap)
+    RawOffset(const CurveVertices &polyline, double distance, OffsetGap gap)
+        : m_distance(distance), m_gap(gap), m_made(polyline)
     {
-        const std::vector<CurveVertex> &vertices = polyline.vertices;
-        const size_t count = polyline.isClosed ? vertices.size() : vertices.size() - 1;
-        for (size_t i = 0; i < count; ++i) {
-            const Vec3 &to = vertices[(i + 1) % vertices.size()].point;
-            if ((to - vertices[i].point).length() > 0.0)
-                m_own.push_back({bulgedPiece(vertices[i].point, to, vertices[i].bulge, 0.0), &vertices[i]});
+        m_made.vertices.clear();
+        const std::size_t count = polyline.vertices.size();
+        for (std::size_t i = 0; i + (polyline.isClosed ? 0 : 1) < count; ++i) {
+            const CurveVertex &to = polyline.vertices[(i + 1) % count];
+            if (!isSamePlace(polyline.vertices[i].point.xy(), to.point.xy()))
+                m_stretches.push_back(movedStretch(polyline.vertices[i], to, distance));
         }
     }
 
-    std::vector<CurveVertices> make()
+    CurveVertices make()
     {
-        for (const OffsetPiece &own : m_own)
-            appendMoved(own);
-        join();
-        return m_way.empty() ? std::vector<CurveVertices>() : chains();
+        const std::size_t joints = m_stretches.size() - (m_made.isClosed || m_stretches.empty() ? 0 : 1);
+        for (std::size_t i = 0; i < joints; ++i)
+            joinTo(m_stretches[i], m_stretches[(i + 1) % m_stretches.size()]);
+        for (const MovedStretch &stretch : m_stretches) {
+            m_made.vertices.push_back(stretch.from);
+            m_made.vertices.insert(m_made.vertices.end(), stretch.filling.begin(), stretch.filling.end());
+        }
+        if (!m_made.isClosed && !m_stretches.empty())
+            m_made.vertices.push_back(vertexAt(m_stretches.back(), m_stretches.back().to, 0.0));
+        return m_made;
     }
 
 private:
-    static Vec3 toRight(const CurvePiece &piece, double parameter)
+    static CurveVertex vertexAt(const MovedStretch &stretch, Vec2 point, double bulge)
     {
-        return normalized(cross(piece.firstDerivative(parameter), offsetUp));
+        CurveVertex vertex = stretch.from;
+        vertex.point = {point.x, point.y, vertex.point.z};
+        vertex.bulge = bulge;
+        vertex.startWidth = vertex.endWidth;
+        return vertex;
+    }
+    static CurvePiece pieceOf(const MovedStretch &stretch)
+    {
+        return bulgedPiece(stretch.from.point, {stretch.to.x, stretch.to.y, stretch.from.point.z}, stretch.from.bulge,
+                           0.0);
     }
 
-    void appendMoved(const OffsetPiece &own)
+    /// From the end of one stretch to the begin of the next.
+    void joinTo(MovedStretch &before, MovedStretch &behind) const
     {
-        const CurvePiece &piece = own.piece;
-        const Vec3 from = piece.startPoint() + toRight(piece, piece.start()) * m_distance;
-        const Vec3 to = piece.endPoint() + toRight(piece, piece.end()) * m_distance;
-        const double sweep = piece.angleAt(piece.end()) - piece.angleAt(piece.start());
-        const double radius = piece.xAxis().length() + (sweep > 0.0 ? m_distance : -m_distance);
-        if (piece.shape() == CurvePiece::Shape::Round && radius > 0.0)
-            m_raw.push_back({CurvePiece::round(piece.center(), {radius, 0, 0}, {0, radius, 0},
-                                               piece.angleAt(piece.start()), piece.angleAt(piece.end()), 0.0, 1.0),
-                             own.origin});
-        else // an arc that vanishes leaves a way that is too near
-            m_raw.push_back({CurvePiece::straight(from, to, 0.0, 1.0), own.origin});
-    }
-
-    /// Puts the moved pieces one behind the other, with what closes the gaps between them.
-    void join()
-    {
-        m_bridges.resize(m_raw.size());
-        for (size_t i = 0; i + (m_polyline.isClosed ? 0 : 1) < m_raw.size(); ++i)
-            bridge(i, (i + 1) % m_raw.size());
-        for (size_t i = 0; i < m_raw.size(); ++i) {
-            append(m_raw[i]);
-            if (m_bridges[i])
-                append(*m_bridges[i]);
-        }
-    }
-
-    void append(OffsetPiece piece)
-    {
-        const auto number = static_cast<double>(m_way.size());
-        if ((piece.end() - piece.start()).length() <= 1e-12 * std::abs(m_distance) &&
-            piece.piece.shape() == CurvePiece::Shape::Straight)
+        const Vec2 end = before.to;
+        if (isSamePlace(end, behind.from.point.xy()))
             return;
-        piece.piece = renumbered(piece.piece, number);
-        m_way.push_back(piece);
+        const Vec3 arriving = pieceOf(before).firstDerivative(1.0);
+        const Vec3 leaving = pieceOf(behind).firstDerivative(0.0);
+        const double turn = std::atan2(cross(arriving, leaving).z, dot(arriving, leaving));
+        // On the inner side the stretches overlap: what is too much is cut off where they cross.
+        const bool isInner = turn * m_distance >= 0.0;
+        if (isInner || !goOn(before, behind, turn))
+            before.filling = {vertexAt(before, end, isInner ? 0.0 : std::tan(turn / 4.0))};
     }
 
-    static CurvePiece renumbered(const CurvePiece &piece, double number)
+    /// Lets two stretches go on beyond their corner as the gap wants it; false where only an arc fits between them.
+    bool goOn(MovedStretch &before, MovedStretch &behind, double turn) const
     {
-        if (piece.shape() == CurvePiece::Shape::Straight)
-            return CurvePiece::straight(piece.startPoint(), piece.endPoint(), number, number + 1.0);
-        return CurvePiece::round(piece.center(), piece.xAxis(), piece.yAxis(), piece.angleAt(piece.start()),
-                                 piece.angleAt(piece.end()), number, number + 1.0);
-    }
-
-    void bridge(size_t before, size_t behind)
-    {
-        OffsetPiece &first = m_raw[before];
-        OffsetPiece &second = m_raw[behind];
-        const Vec3 from = first.end();
-        const Vec3 to = second.start();
-        if ((to - from).length() <= 1e-9 * std::abs(m_distance))
-            return;
-        const CurvePiece &own = m_own[before].piece;
-        const CurvePiece &next = m_own[behind].piece;
-        const double turn = cross(own.firstDerivative(own.end()), next.firstDerivative(next.start())).z * m_distance;
-        const double ahead = dot(own.firstDerivative(own.end()), next.firstDerivative(next.start()));
-        const bool isOutside = turn > 0.0 || (turn == 0.0 && ahead < 0.0);
-        const CurvePiece straight = CurvePiece::straight(from, to, 0.0, 1.0);
-        if (isOutside && m_gap == OffsetGap::Extended && extendToMeet(first, second, own.endPoint()))
-            return;
-        const bool isRounded = isOutside && m_gap != OffsetGap::Straight;
-        m_bridges[before] = {isRounded ? arcAbout(own.endPoint(), from, to, m_distance > 0.0) : straight, first.origin};
-    }
-
-    /// Two pieces go on until they meet, when they do so not too far from the corner.
-    bool extendToMeet(OffsetPiece &first, OffsetPiece &second, const Vec3 &corner) const
-    {
-        const EntityCurve ahead = goingOn(first.piece, Extension::End);
-        const EntityCurve back = goingOn(second.piece, Extension::Start);
-        const CurveCrossing *nearest = nullptr;
-        const std::vector<CurveCrossing> met = crossings(ahead, back);
-        for (const CurveCrossing &crossing : met) {
-            const bool isBeyond = crossing.first > 1.0 && crossing.second < 0.0;
-            const bool isNearer = !nearest || (crossing.point - corner).length() < (nearest->point - corner).length();
-            if (isBeyond && isNearer)
-                nearest = &crossing;
-        }
-        constexpr double longestTip = 1000.0; // times the distance
-        if (!nearest || (nearest->point - corner).length() > longestTip * std::abs(m_distance))
+        const bool areStraight = before.from.bulge == 0.0 && behind.from.bulge == 0.0;
+        if (m_gap == OffsetGap::Rounded || std::abs(turn) > wholeTurn / 2.0 - 1e-6)
             return false;
-        first.piece = renumbered(first.piece.part(0.0, nearest->first), 0.0);
-        second.piece = renumbered(second.piece.part(nearest->second, 1.0), 0.0);
+        if (!areStraight)
+            return m_gap == OffsetGap::Extended && meetRound(before, behind);
+        const double reach = std::abs(m_distance * std::tan(turn / (m_gap == OffsetGap::Extended ? 2.0 : 4.0)));
+        if (reach > longestTip * std::abs(m_distance))
+            return false;
+        before.to = pieceOf(before).point(1.0 + reach / (before.to - before.from.point.xy()).length()).xy();
+        behind.from.point = pieceOf(behind).point(-reach / (behind.to - behind.from.point.xy()).length());
+        if (m_gap == OffsetGap::Straight)
+            before.filling = {vertexAt(before, before.to, 0.0)};
         return true;
     }
-    static EntityCurve goingOn(const CurvePiece &piece, Extension extension)
+
+    /// Two stretches, of which one at least is an arc, go on along their circles until they meet.
+    bool meetRound(MovedStretch &before, MovedStretch &behind) const
     {
-        return EntityCurve(EntityCurve::Kind::Arc, {piece}, false, offsetUp).extended(extension);
+        const auto goingOn = [](const MovedStretch &stretch, Extension extension) {
+            return EntityCurve(EntityCurve::Kind::Arc, {pieceOf(stretch)}, false, Vec3{0.0, 0.0, 1.0})
+                .extended(extension);
+        };
+        std::optional<CurveCrossing> nearest;
+        const auto away = [&](const CurveCrossing &crossing) { return (crossing.point.xy() - before.to).length(); };
+        for (const CurveCrossing &crossing :
+             crossings(goingOn(before, Extension::End), goingOn(behind, Extension::Start))) {
+            const bool isBeyond = crossing.first > 1.0 && crossing.second < 0.0;
+            if (isBeyond && (!nearest || away(crossing) < away(*nearest)))
+                nearest = crossing;
+        }
+        if (!nearest || away(*nearest) > longestTip * std::abs(m_distance))
+            return false;
+        before.to = nearest->point.xy();
+        before.from.bulge = std::tan(std::atan(before.from.bulge) * nearest->first);
+        behind.from.point = {nearest->point.x, nearest->point.y, behind.from.point.z};
+        behind.from.bulge = std::tan(std::atan(behind.from.bulge) * (1.0 - nearest->second));
+        return true;
     }
 
-    /// The parts of the way that are as far as they should be, put together.
-    std::vector<CurveVertices> chains();
-    std::vector<OffsetPiece> farParts() const;
-    void appendOverlaps(std::vector<double> &cuts) const;
-    CurveVertices toVertices(const std::vector<OffsetPiece> &chain) const;
-
-    const CurveVertices &m_polyline;
-    const double m_distance;
-    const OffsetGap m_gap;
-    std::vector<OffsetPiece> m_own;                    ///< of the polyline
-    std::vector<OffsetPiece> m_raw;                    ///< moved, one each
-    std::vector<std::optional<OffsetPiece>> m_bridges; ///< what follows each of those
-    std::vector<OffsetPiece> m_way;
+    double m_distance; ///< to the left
+    OffsetGap m_gap;
+    CurveVertices m_made;
+    std::vector<MovedStretch> m_stretches;
 };
 
-/// Where straight pieces begin and end upon others, as walls do on both sides of a passage that closes.
-void PolylineOffset::appendOverlaps(std::vector<double> &cuts) const
+/// Tells how far points are from a curve, as long as they are near.
+class CurveDistance
 {
-    const double same = std::max(1e-6, 1e-9 * std::abs(m_distance));
-    std::vector<Box> boxes;
-    for (const OffsetPiece &piece : m_way)
-        boxes.push_back(piece.piece.box());
-    const BoxIndex index(boxes);
-    for (size_t i = 0; i < m_way.size(); ++i) {
-        const CurvePiece &piece = m_way[i].piece;
-        index.touching(boxes[i], [&](size_t k) {
-            const CurvePiece &other = m_way[k].piece;
-            const Vec3 across = cross(normalized(piece.xAxis()), normalized(other.xAxis()));
-            const bool areParallel = piece.shape() == CurvePiece::Shape::Straight &&
-                                     other.shape() == CurvePiece::Shape::Straight && across.length() <= 1e-9;
-            if (k == i || !areParallel)
-                return;
-            for (const Vec3 &end : {other.startPoint(), other.endPoint()}) {
-                const double parameter = piece.closest(end);
-                if ((piece.point(parameter) - end).length() <= same)
-                    cuts.push_back(parameter);
-            }
+public:
+    explicit CurveDistance(const EntityCurve &curve) : m_curve(curve), m_index(boxesOf(curve)) {}
+
+    bool isWithin(const Vec3 &point, double distance) const
+    {
+        const Vec3 reach{distance, distance, distance};
+        Box box;
+        box.add(point - reach);
+        box.add(point + reach);
+        return m_index.anyTouching(box, [&](std::size_t i) {
+            const CurvePiece &piece = m_curve.pieces()[i];
+            return (piece.point(piece.closest(point)) - point).length() < distance;
         });
     }
-}
 
-std::vector<OffsetPiece> PolylineOffset::farParts() const
-{
-    std::vector<CurvePiece> pieces;
-    for (const OffsetPiece &piece : m_way)
-        pieces.push_back(piece.piece);
-    const EntityCurve way(EntityCurve::Kind::LightPolyline, std::move(pieces), m_polyline.isClosed, offsetUp);
-    std::vector<double> cuts;
-    for (const CurveCrossing &crossing : selfCrossings(way)) {
-        cuts.push_back(crossing.first);
-        cuts.push_back(crossing.second);
+private:
+    static std::vector<Box> boxesOf(const EntityCurve &curve)
+    {
+        std::vector<Box> boxes;
+        for (const CurvePiece &piece : curve.pieces())
+            boxes.push_back(piece.box());
+        return boxes;
     }
-    appendOverlaps(cuts);
-    std::ranges::sort(cuts);
-    std::vector<Box> boxes;
-    for (const OffsetPiece &own : m_own)
-        boxes.push_back(own.piece.box());
-    const BoxIndex index(boxes);
-    const double least = std::abs(m_distance) * (1.0 - 1e-6) - 1e-9;
-    const auto isFar = [&](const Vec3 &point) {
-        const Vec3 all{least, least, least};
-        bool isNear = false;
-        index.touching({point - all, point + all}, [&](size_t i) {
-            const CurvePiece &own = m_own[i].piece;
-            isNear = isNear || (own.point(own.closest(point)) - point).length() < least;
-        });
-        return !isNear;
-    };
-    std::vector<OffsetPiece> parts;
-    auto cut = cuts.begin();
-    for (const OffsetPiece &piece : m_way) {
-        double from = piece.piece.start();
-        while (from < piece.piece.end()) {
-            while (cut != cuts.end() && *cut <= from + 1e-9)
-                ++cut;
-            const bool isInside = cut != cuts.end() && *cut < piece.piece.end() - 1e-9;
-            const double to = isInside ? *cut : piece.piece.end();
-            if (isFar(piece.piece.point((from + to) / 2.0)))
-                parts.push_back({piece.piece.part(from, to), piece.origin});
-            from = to;
-        }
-    }
-    return parts;
-}
 
-std::vector<CurveVertices> PolylineOffset::chains()
+    const EntityCurve &m_curve;
+    BoxIndex m_index;
+};
+
+/// A part of the raw polyline between two of its parameters.
+struct OffsetSlice
 {
-    const std::vector<OffsetPiece> parts = farParts();
-    const double same = std::max(1e-6, 1e-9 * std::abs(m_distance));
-    const auto isTwin = [&](const OffsetPiece &a, const OffsetPiece &b) {
-        const auto middle = [](const CurvePiece &piece) { return piece.point((piece.start() + piece.end()) / 2.0); };
-        return (a.start() - b.start()).length() <= same && (a.end() - b.end()).length() <= same &&
-               (middle(a.piece) - middle(b.piece)).length() <= same;
-    };
-    std::vector<Box> starts;
-    for (const OffsetPiece &part : parts) {
-        starts.emplace_back().add(part.start() - Vec3{same, same, same});
-        starts.back().add(part.start() + Vec3{same, same, same});
-    }
-    const BoxIndex index(starts);
-    std::vector<bool> isUsed(parts.size());
-    std::vector<std::vector<OffsetPiece>> found;
-    const auto follow = [&](size_t first) {
-        std::vector<OffsetPiece> chain;
-        for (size_t at = first; at < parts.size();) {
-            isUsed[at] = true;
-            chain.push_back(parts[at]);
-            Box begin;
-            begin.add(parts[at].start());
-            index.touching(begin, [&](size_t i) { isUsed[i] = isUsed[i] || isTwin(parts[i], parts[at]); });
-            Box here;
-            here.add(parts[at].end());
-            const size_t along = at + 1;
-            at = parts.size();
-            index.touching(here, [&](size_t i) {
-                if (!isUsed[i] && (at == parts.size() || i == along))
-                    at = i;
-            });
+    double from = 0.0;
+    double to = 0.0;
+    Vec2 start;
+    Vec2 end;
+};
+
+/// Of parts that run along each other, either way, one is enough.
+std::vector<OffsetSlice> withoutDoubles(const EntityCurve &raw, const std::vector<OffsetSlice> &slices, double reach)
+{
+    std::multimap<double, std::size_t> kept;
+    std::vector<OffsetSlice> made;
+    const auto middle = [&](const OffsetSlice &slice) { return raw.point((slice.from + slice.to) / 2.0).xy(); };
+    const auto isNear = [&](Vec2 a, Vec2 b) { return (a - b).length() <= reach; };
+    const auto isDouble = [&](const OffsetSlice &slice, Vec2 start, Vec2 end) {
+        for (auto it = kept.lower_bound(start.x - reach); it != kept.end() && it->first <= start.x + reach; ++it) {
+            const OffsetSlice &other = made[it->second];
+            if (isNear(other.start, start) && isNear(other.end, end) && isNear(middle(other), middle(slice)))
+                return true;
         }
-        return chain;
+        return false;
     };
-    for (size_t i = 0; i < parts.size(); ++i) {
-        if (!isUsed[i])
-            found.push_back(follow(i));
+    for (const OffsetSlice &slice : slices) {
+        if (isDouble(slice, slice.start, slice.end) || isDouble(slice, slice.end, slice.start))
+            continue;
+        kept.emplace(slice.start.x, made.size());
+        made.push_back(slice);
     }
-    // The first one may go on from the last one, across the start of a closed polyline.
-    if (found.size() > 1 && (found.back().back().end() - found.front().front().start()).length() <= same) {
-        found.back().insert(found.back().end(), found.front().begin(), found.front().end());
-        found.erase(found.begin());
-    }
-    std::vector<CurveVertices> made;
-    for (const std::vector<OffsetPiece> &chain : found)
-        made.push_back(toVertices(chain));
-    std::erase_if(made, [](const CurveVertices &polyline) { return polyline.vertices.size() < 2; });
     return made;
 }
 
-CurveVertices PolylineOffset::toVertices(const std::vector<OffsetPiece> &chain) const
+/// A vertex of the result. Where the raw polyline was cut there need be none.
+struct ChainVertex : CurveVertex
 {
-    CurveVertices polyline = m_polyline;
-    polyline.vertices.clear();
-    const double same = std::max(1e-6, 1e-9 * std::abs(m_distance));
-    for (const OffsetPiece &part : chain) {
-        const CurvePiece &piece = part.piece;
-        const double sweep =
-            piece.shape() == CurvePiece::Shape::Round ? piece.angleAt(piece.end()) - piece.angleAt(piece.start()) : 0.0;
-        if ((part.end() - part.start()).length() > same)
-            polyline.vertices.push_back(
-                {part.start(), std::tan(sweep / 4.0), part.origin->startWidth, part.origin->endWidth});
+    bool isCut = false;
+};
+
+/// Appends the part's vertices, but for its end.
+void appendSlice(const CurveVertices &raw, const OffsetSlice &slice, std::vector<ChainVertex> &vertices)
+{
+    const std::size_t count = raw.vertices.size();
+    for (auto i = static_cast<std::size_t>(std::floor(slice.from)); static_cast<double>(i) < slice.to; ++i) {
+        const auto number = static_cast<double>(i);
+        const double low = std::max(slice.from, number);
+        const double high = std::min(slice.to, number + 1.0);
+        const CurveVertex &from = raw.vertices[i % count];
+        const CurvePiece piece = bulgedPiece(from.point, raw.vertices[(i + 1) % count].point, from.bulge, number);
+        ChainVertex vertex{from, low > number};
+        vertex.point = piece.point(low);
+        vertex.bulge = std::tan(std::atan(from.bulge) * (high - low));
+        if ((piece.point(high) - vertex.point).length() > 1e-9)
+            vertices.push_back(vertex);
     }
-    if (polyline.vertices.empty())
-        return polyline;
-    polyline.isClosed = (chain.back().end() - chain.front().start()).length() <= same;
-    if (!polyline.isClosed)
-        polyline.vertices.push_back(
-            {chain.back().end(), 0.0, chain.back().origin->endWidth, chain.back().origin->endWidth});
-    return polyline;
+}
+
+/// Whether a part goes forth and back on one line to where it began, as stretches do that overlap at a small turn.
+bool isSliver(const EntityCurve &raw, double from, double to, double reach)
+{
+    const Vec2 start = raw.point(from).xy();
+    const Vec2 along = raw.firstDerivative(from).xy();
+    const auto isOnLine = [&](double share) {
+        const Vec2 way = raw.point(from + (to - from) * share).xy() - start;
+        return std::abs(cross(along, way)) <= reach * along.length();
+    };
+    return (raw.point(to).xy() - start).length() <= reach && isOnLine(0.25) && isOnLine(0.5) && isOnLine(0.75);
+}
+
+/// The parts that are nowhere too near.
+std::vector<OffsetSlice> farSlices(const EntityCurve &raw, const EntityCurve &original, double distance, double reach)
+{
+    std::vector<double> cuts = {raw.startParameter(), raw.endParameter()};
+    for (const CurveCrossing &crossing : selfCrossings(raw)) {
+        cuts.push_back(crossing.first);
+        cuts.push_back(crossing.second);
+    }
+    std::ranges::sort(cuts);
+    const CurveDistance away(original);
+    // Turns so small that their crossing counts as a joint leave what is a little too near.
+    const double least = std::abs(distance) * (1.0 - nearlyAway) - 4.0 * original.tolerance();
+    std::vector<OffsetSlice> slices;
+    for (std::size_t i = 1; i < cuts.size(); ++i) {
+        const double width = cuts[i] - cuts[i - 1];
+        if (!(width > 1e-9))
+            continue;
+        const auto isFar = [&](double share) { return !away.isWithin(raw.point(cuts[i - 1] + width * share), least); };
+        if (isFar(0.5) && isFar(0.25) && isFar(0.75) && !isSliver(raw, cuts[i - 1], cuts[i], reach))
+            slices.push_back({cuts[i - 1], cuts[i], raw.point(cuts[i - 1]).xy(), raw.point(cuts[i]).xy()});
+    }
+    return slices;
+}
+
+/// The vertices without those in the middle of a straight line where parts were put together.
+std::vector<CurveVertex> withoutCuts(const std::vector<ChainVertex> &vertices, bool isClosed)
+{
+    std::vector<CurveVertex> made;
+    const std::size_t count = vertices.size();
+    for (std::size_t i = 0; i < count; ++i) {
+        const bool isEnd = !isClosed && (i == 0 || i + 1 == count);
+        const ChainVertex &before = vertices[(i + count - 1) % count];
+        const Vec2 in = (vertices[i].point - before.point).xy();
+        const Vec2 out = (vertices[(i + 1) % count].point - vertices[i].point).xy();
+        const bool isStraight = before.bulge == 0.0 && vertices[i].bulge == 0.0 && dot(in, out) > 0.0 &&
+                                std::abs(cross(in, out)) <= 1e-9 * in.length() * out.length();
+        if (isEnd || !vertices[i].isCut || !isStraight)
+            made.push_back(vertices[i]);
+    }
+    return made;
+}
+
+/// Puts parts together where one ends and another begins.
+std::vector<CurveVertices> chained(const CurveVertices &raw, const std::vector<OffsetSlice> &slices, double reach)
+{
+    std::multimap<double, std::size_t> begins;
+    for (std::size_t i = 0; i < slices.size(); ++i)
+        begins.emplace(slices[i].start.x, i);
+    std::vector<bool> isUsed(slices.size(), false);
+    const auto next = [&](Vec2 end) -> std::optional<std::size_t> {
+        for (auto it = begins.lower_bound(end.x - reach); it != begins.end() && it->first <= end.x + reach; ++it)
+            if (!isUsed[it->second] && (slices[it->second].start - end).length() <= reach)
+                return it->second;
+        return {};
+    };
+    std::vector<CurveVertices> made;
+    for (std::size_t first = 0; first < slices.size(); ++first) {
+        if (isUsed[first])
+            continue;
+        CurveVertices chain;
+        std::vector<ChainVertex> vertices;
+        std::optional<std::size_t> at = first;
+        Vec2 end;
+        while (at) {
+            isUsed[*at] = true;
+            // It may be cut where it begins, though that is a corner of the raw polyline.
+            const std::size_t begin = vertices.size();
+            appendSlice(raw, slices[*at], vertices);
+            if (begin < vertices.size())
+                vertices[begin].isCut = true;
+            end = slices[*at].end;
+            at = next(end);
+        }
+        chain.isClosed = raw.isClosed && (end - slices[first].start).length() <= reach;
+        if (!chain.isClosed && !vertices.empty()) {
+            ChainVertex last = vertices.back();
+            last.point = {end.x, end.y, last.point.z};
+            last.bulge = 0.0;
+            vertices.push_back(last);
+        }
+        chain.vertices = withoutCuts(vertices, chain.isClosed);
+        if (chain.vertices.size() > 1)
+            made.push_back(std::move(chain));
+    }
+    return made;
 }
 
 } // namespace
@@ -315,7 +352,19 @@ std::vector<CurveVertices> offsetPolyline(const CurveVertices &polyline, double 
 {
     if (polyline.isSpatial || polyline.vertices.size() < 2 || distance == 0.0)
         return {};
-    return PolylineOffset(polyline, distance, gap).make();
+    // Heights, and where the plane lies, do not matter here.
+    CurveVertices flat = polyline;
+    flat.extrusion = {0.0, 0.0, 1.0};
+    CurveVertices raw = RawOffset(flat, -distance, gap).make();
+    if (raw.vertices.size() < 2)
+        return {};
+    const EntityCurve curve = polylineCurve(raw);
+    const double reach = 10.0 * curve.tolerance();
+    const std::vector<OffsetSlice> slices = farSlices(curve, polylineCurve(flat), distance, reach);
+    std::vector<CurveVertices> made = chained(raw, withoutDoubles(curve, slices, reach), reach);
+    for (CurveVertices &chain : made)
+        chain.extrusion = polyline.extrusion;
+    return made;
 }
 
 } // namespace host::drawing
