@@ -165,7 +165,13 @@ Dialogue<bool> askJoin(CommandContext &context, PeditSession &session)
     const PromptReply chosen = co_await context.selection();
     std::vector<RecordId> records;
     std::vector<EditedPolyline> others;
+    int splines = 0;
     for (const RecordId id : editable(context, chosen.entities)) {
+        // A spline would lose its shape: JOIN makes a spline of both.
+        if (context.drawing().isType(id, "SPLINE")) {
+            ++splines;
+            continue;
+        }
         std::optional<EditedPolyline> other = readPolyline(context.drawing(), id);
         if (!other)
             other = polylineLike(context.drawing(), id, polyline.extrusion);
@@ -177,6 +183,8 @@ Dialogue<bool> askJoin(CommandContext &context, PeditSession &session)
     const std::vector<std::size_t> taken = joinTo(polyline, others, {});
     for (const std::size_t i : taken)
         session.erase(records[i]);
+    if (splines > 0)
+        context.print(u"\nSplines do not become part of a polyline: %1 left out."_s.arg(splines));
     context.print(u"\n%1 segments added to polyline"_s.arg(taken.size()));
     co_return !taken.empty();
 }

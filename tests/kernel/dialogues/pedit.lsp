@@ -35,3 +35,4 @@
 (entmake '((0 . "LWPOLYLINE") (70 . 0) (10 0.0 0.0) (10 -5.0 0.0) (42 . 1.0) (10 -5.0 5.0) (210 0.0 0.0 -1.0)))(line 0 0 0 9)(view) ;! PEDIT|0,5|Y|J|ALL|| ;~ keeps
 ;= LWPOLYLINE 10=5,5 42=1 10=5,0 10=0,0 10=0,9
 (line 0 0 5 0)(setq s (ssget "_L")) ;! PEDIT|!s|Y|W|2| ;~ keeps ;= LWPOLYLINE 10=0,0 40=2 41=2 10=5,0 40=2 41=2
+(line 0 0 5 0)(line 5 0 5 -5)(command "SPLINE" '(5 -5) '(7 2) '(9 0) "" "" "")(view) ;! PEDIT|2,0||J|ALL|| ;~ keeps ;> 1 left out ;? (acad_strlsort (types)) ;= ("LWPOLYLINE" "SPLINE")
