@@ -3,7 +3,9 @@
 #include "host/commands/common/CircleGeometry.h"
 #include "host/commands/common/UserPlane.h"
 
+#include <algorithm>
 #include <cmath>
+#include <iterator>
 
 namespace host::kernel {
 
@@ -100,25 +102,26 @@ Vec2 touchingPoint(const TangentLine &line, Vec2 centre, double radius)
     return line.point + away * ((isAround ? -line.radius : line.radius) / away.length());
 }
 
+std::vector<Vec2> tangentCentres(const TangentLine &first, const TangentLine &second, double radius)
+{
+    std::vector<Vec2> centres;
+    if (!(radius >= 0.0))
+        return centres;
+    for (const TangentLine &left : offsets(first, radius))
+        for (const TangentLine &right : offsets(second, radius))
+            std::ranges::copy(meetings(left, right), std::back_inserter(centres));
+    const auto missed = [&](Vec2 centre) {
+        return (touchingPoint(first, centre, radius) - first.picked).length() +
+               (touchingPoint(second, centre, radius) - second.picked).length();
+    };
+    std::ranges::stable_sort(centres, {}, missed);
+    return centres;
+}
+
 std::optional<Vec2> tangentCentre(const TangentLine &first, const TangentLine &second, double radius)
 {
-    std::optional<Vec2> best;
-    double least = std::numeric_limits<double>::infinity();
-    if (!(radius >= 0.0))
-        return best;
-    for (const TangentLine &left : offsets(first, radius)) {
-        for (const TangentLine &right : offsets(second, radius)) {
-            for (const Vec2 centre : meetings(left, right)) {
-                const double missed = (touchingPoint(first, centre, radius) - first.picked).length() +
-                                      (touchingPoint(second, centre, radius) - second.picked).length();
-                if (missed < least) {
-                    least = missed;
-                    best = centre;
-                }
-            }
-        }
-    }
-    return best;
+    const std::vector<Vec2> centres = tangentCentres(first, second, radius);
+    return centres.empty() ? std::nullopt : std::optional(centres.front());
 }
 
 } // namespace host::kernel

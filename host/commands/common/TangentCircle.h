@@ -3,6 +3,7 @@
 #include "host/drawing/records/Drawing.h"
 
 #include <optional>
+#include <vector>
 
 namespace host::kernel {
 
@@ -23,8 +24,10 @@ struct TangentLine
 std::optional<TangentLine> tangentLine(const drawing::Drawing &drawing, drawing::RecordId entity,
                                        const UserPlane &plane, const drawing::Vec3 &pickedAt);
 
-/// The centre of the circle with that radius which touches both nearest to where they were picked; nothing when there
-/// is none. Of radius 0: where they meet.
+/// The centres of the circles with that radius that touch both, first those that do so nearest to where they were
+/// picked. Of radius 0: where they meet.
+std::vector<drawing::Vec2> tangentCentres(const TangentLine &first, const TangentLine &second, double radius);
+/// The first of them; nothing when there is none.
 std::optional<drawing::Vec2> tangentCentre(const TangentLine &first, const TangentLine &second, double radius);
 
 /// Where a circle that touches the line does so.

@@ -5,8 +5,7 @@
 #include "host/commands/common/EntityEdits.h"
 #include "host/commands/common/KeptValues.h"
 #include "host/commands/common/UserPlane.h"
-#include "host/commands/curves/CornerCut.h"
-#include "host/commands/curves/CornerSides.h"
+#include "host/commands/curves/CornerPolylines.h"
 #include "host/drawing/math/Angles.h"
 #include "host/kernel/documents/Document.h"
 
@@ -92,14 +91,20 @@ drawing::FieldList cutFields(const UserPlane &plane, Vec2 from, Vec2 to, double 
                          {51, degrees(start + std::abs(arc.sweep))}});
 }
 
-/// How far a side reaches from the corner on the picked side; endless ones without end.
+/// How far a side reaches from the corner on the picked side; endless and round ones without end.
 double reachOf(const drawing::Drawing &drawing, const UserPlane &plane, const CornerSide &side, Vec2 corner, Vec2 way)
 {
+    const auto along = [&](const Vec3 &world) { return dot(plane.userFromWorld(world).xy() - corner, way); };
+    if (side.polyline && side.shape.isStraight) {
+        const std::vector<EditedVertex> &vertices = side.polyline->vertices;
+        const drawing::Matrix world = side.polyline->toWorld();
+        return std::max(along(world.point(vertices[side.stretch].point)),
+                        along(world.point(vertices[(side.stretch + 1) % vertices.size()].point)));
+    }
     if (!drawing.isType(side.record, "LINE"))
         return std::numeric_limits<double>::infinity();
     const drawing::TagList tags = drawing.tags(side.record);
-    const auto along = [&](int code) { return dot(plane.userFromWorld(tags.point(code)).xy() - corner, way); };
-    return std::max(along(10), along(11));
+    return std::max(along(tags.point(10)), along(tags.point(11)));
 }
 
 /// Two lines that are parallel: half a circle from the end of the first one.
@@ -122,155 +127,9 @@ QString joinParallels(CommandContext &context, CornerChanges &changes, const Cor
         return u"The lines are one."_s;
     const double bulge = cross(out, foot - end) > 0.0 ? 1.0 : -1.0;
     if (session.isTrimming) {
-        CornerSide kept = second;
-        kept.shape.picked = foot - out;
-        trimSide(changes, context.drawing(), plane, kept, foot);
+        trimSide(changes, context.drawing(), plane, second, foot, out * -1.0);
     }
     changes.create(cutFields(plane, end, foot, bulge, first.shape.height), first.record, second.record);
-    return {};
-}
-
-/// The polyline that a side is, running towards the cut, up to it.
-std::optional<EditedPolyline> towardsCut(CommandContext &context, const CornerSide &side, Vec2 cut, Vec2 way)
-{
-    const UserPlane plane(context.document());
-    EditedPolyline polyline;
-    if (side.polyline) {
-        polyline = *side.polyline;
-        const std::size_t count = polyline.vertices.size();
-        const drawing::Matrix world = polyline.toWorld();
-        const Vec2 front = plane.userFromWorld(world.point(polyline.vertices[side.stretch].point)).xy();
-        const Vec2 back = plane.userFromWorld(world.point(polyline.vertices[(side.stretch + 1) % count].point)).xy();
-        const bool runsAway = dot(back - front, way) > 0.0;
-        if (polyline.isClosed || side.stretch != (runsAway ? 0 : count - 2))
-            return {};
-        if (runsAway)
-            polyline.reverse();
-    } else {
-        const Vec3 normal = plane.worldFromUser({0.0, 0.0, 1.0}) - plane.worldFromUser({});
-        const std::optional<EditedPolyline> line = polylineLike(context.drawing(), side.record, normal);
-        if (!line || !side.shape.isStraight)
-            return {};
-        polyline = *line;
-        const drawing::Matrix world = polyline.toWorld();
-        const Vec2 front = plane.userFromWorld(world.point(polyline.vertices[0].point)).xy();
-        if (dot(front - cut, way) < dot(plane.userFromWorld(world.point(polyline.vertices[1].point)).xy() - cut, way))
-            polyline.reverse();
-    }
-    polyline.vertices.back().point = polyline.fromWorld(plane.worldFromUser({cut.x, cut.y, side.shape.height}));
-    return polyline;
-}
-
-/// Two polylines, or a line and a polyline, become one.
-QString joinPolylines(CommandContext &context, CornerChanges &changes, const CornerSide &first,
-                      const CornerSide &second, const Meeting &meeting, const CutEnds &ends)
-{
-    const UserPlane plane(context.document());
-    const bool isFirst = first.polyline.has_value();
-    const std::optional<EditedPolyline> start = isFirst ? towardsCut(context, first, ends.first, meeting.first)
-                                                        : towardsCut(context, second, ends.second, meeting.second);
-    std::optional<EditedPolyline> rest = isFirst ? towardsCut(context, second, ends.second, meeting.second)
-                                                 : towardsCut(context, first, ends.first, meeting.first);
-    if (!start || !rest)
-        return u"Only the ends of open polylines and lines can be joined."_s;
-    EditedPolyline polyline = *start;
-    rest->reverse();
-    const double sense = dot(polyline.extrusion, plane.worldFromUser({0.0, 0.0, 1.0}) - plane.worldFromUser({}));
-    polyline.vertices.back().bulge = (isFirst ? ends.bulge : -ends.bulge) * (sense < 0.0 ? -1.0 : 1.0);
-    if (ends.bulge == 0.0 && (ends.first - ends.second).length() < 1e-9)
-        polyline.vertices.pop_back();
-    const drawing::Matrix map = polyline.toWorld().inverted() * rest->toWorld();
-    for (EditedVertex vertex : rest->vertices) {
-        vertex.point = map.point(vertex.point);
-        polyline.vertices.push_back(vertex);
-    }
-    changes.erase(isFirst ? second.record : first.record);
-    changes.store(polyline);
-    return {};
-}
-
-/// The cut of the corner that two stretches make, which come from `start` and go to `end`; without ends where there is
-/// none, and why.
-struct StretchCut
-{
-    std::optional<CutEnds> ends;
-    QString problem{};
-};
-
-StretchCut cutStretches(Vec2 start, Vec2 startEnd, Vec2 endStart, Vec2 end, const CornerCut &cut)
-{
-    const Vec2 in = startEnd - start;
-    const Vec2 out = end - endStart;
-    const double sine = cross(in, out);
-    if (!(std::abs(sine) > 1e-9 * in.length() * out.length()))
-        return {{}, u"The lines are parallel."_s};
-    const Vec2 corner = start + in * (cross(endStart - start, out) / sine);
-    const Vec2 back = (start - corner) * (1.0 / (start - corner).length());
-    const Vec2 on = (end - corner) * (1.0 / (end - corner).length());
-    const std::optional<CutEnds> ends = cutCorner(corner, back, on, cut);
-    if (!ends || ends->firstReach > (start - corner).length() || ends->secondReach > (end - corner).length())
-        return {{}, u"The corner has no room for that."_s};
-    return {ends};
-}
-
-/// An open polyline is closed by the corner of its last and its first stretch.
-QString closeByCorner(CornerChanges &changes, EditedPolyline polyline, const CornerCut &cut)
-{
-    std::vector<EditedVertex> &vertices = polyline.vertices;
-    const std::size_t last = vertices.size() - 1;
-    const StretchCut made = cutStretches(vertices[last - 1].point.xy(), vertices[last].point.xy(),
-                                         vertices[0].point.xy(), vertices[1].point.xy(), cut);
-    if (!made.ends)
-        return made.problem;
-    const double height = vertices[0].point.z;
-    vertices[0].point = {made.ends->second.x, made.ends->second.y, height};
-    vertices[last].point = {made.ends->first.x, made.ends->first.y, height};
-    vertices[last].bulge = made.ends->bulge;
-    if ((made.ends->first - made.ends->second).length() <= 1e-12)
-        vertices.pop_back();
-    polyline.isClosed = true;
-    changes.store(polyline);
-    return {};
-}
-
-/// A corner of one polyline, between neighbouring stretches or such with one stretch between, or between the ends.
-QString cutWithin(CornerChanges &changes, const CornerSession &session, const CornerSide &first,
-                  const CornerSide &second)
-{
-    EditedPolyline polyline = *first.polyline;
-    std::vector<EditedVertex> &vertices = polyline.vertices;
-    const std::size_t count = vertices.size();
-    // Round a closed one the shorter way counts.
-    const std::size_t onward = (second.stretch + count - first.stretch) % count;
-    const bool isInOrder = polyline.isClosed ? onward <= count - onward : first.stretch < second.stretch;
-    const std::size_t before = isInOrder ? first.stretch : second.stretch;
-    const std::size_t behind = isInOrder ? second.stretch : first.stretch;
-    const std::size_t between = (behind + count - before) % count;
-    const bool isByEnds = !polyline.isClosed && before == 0 && behind + 2 == count && between > 2;
-    CornerCut cut = session.current();
-    if (isInOrder == isByEnds)
-        std::swap(cut.first, cut.second);
-    if (isByEnds)
-        return closeByCorner(changes, polyline, cut);
-    if (between < 1 || between > 2)
-        return u"Only neighbouring stretches of a polyline make a corner."_s;
-    const StretchCut made = cutStretches(vertices[before].point.xy(), vertices[(before + 1) % count].point.xy(),
-                                         vertices[behind].point.xy(), vertices[(behind + 1) % count].point.xy(), cut);
-    if (!made.ends)
-        return made.problem;
-    const std::optional<CutEnds> &ends = made.ends;
-    const double height = vertices[behind].point.z;
-    EditedVertex begin = vertices[behind];
-    begin.point = {ends->first.x, ends->first.y, height};
-    begin.bulge = ends->bulge;
-    vertices[behind].point = {ends->second.x, ends->second.y, height};
-    if (between == 2)
-        vertices[(before + 1) % count] = begin;
-    else if ((ends->first - ends->second).length() > 1e-12)
-        vertices.insert(vertices.begin() + static_cast<qsizetype>(behind), begin);
-    if (between == 2 && (ends->first - ends->second).length() <= 1e-12)
-        vertices.erase(vertices.begin() + static_cast<qsizetype>(behind));
-    changes.store(polyline);
     return {};
 }
 
@@ -289,10 +148,10 @@ QString cutStraight(CommandContext &context, CornerChanges &changes, const Corne
         ends->secondReach > reachOf(context.drawing(), plane, second, meeting->corner, meeting->second) + 1e-9)
         return session.cut.isRound ? u"Radius is too large."_s : u"Distance is too large."_s;
     if (session.isTrimming && (first.polyline || second.polyline))
-        return joinPolylines(context, changes, first, second, *meeting, *ends);
+        return joinPolylines(context, changes, first, second, *ends, {meeting->first, meeting->second});
     if (session.isTrimming) {
-        trimSide(changes, context.drawing(), plane, first, ends->first);
-        trimSide(changes, context.drawing(), plane, second, ends->second);
+        trimSide(changes, context.drawing(), plane, first, ends->first, meeting->first);
+        trimSide(changes, context.drawing(), plane, second, ends->second, meeting->second);
     }
     if ((ends->second - ends->first).length() > 1e-12)
         changes.create(cutFields(plane, ends->first, ends->second, ends->bulge, first.shape.height), first.record,
@@ -300,28 +159,47 @@ QString cutStraight(CommandContext &context, CornerChanges &changes, const Corne
     return {};
 }
 
+/// The way from where a side is cut to the part that stays, where the pick says it: on round ones the shorter way.
+Vec2 wayToPick(const TangentLine &shape, Vec2 at)
+{
+    const Vec2 along = shape.isStraight ? shape.direction : turnedLeft(at - shape.point) * (1.0 / shape.radius);
+    return along * (dot(shape.picked - at, along) < 0.0 ? -1.0 : 1.0);
+}
+
 /// With an arc or circle on one side or both.
 QString filletRound(CommandContext &context, CornerChanges &changes, const CornerSession &session,
                     const CornerSide &first, const CornerSide &second)
 {
     const UserPlane plane(context.document());
-    if (first.polyline || second.polyline)
-        return u"Arcs and circles make no corner with polylines."_s;
     const double radius = session.cut.radius;
-    const std::optional<Vec2> centre = tangentCentre(first.shape, second.shape, radius);
-    if (!centre)
+    const std::vector<Vec2> centres = tangentCentres(first.shape, second.shape, radius);
+    if (centres.empty())
         return u"There is no arc of that radius."_s;
-    const Vec2 begin = touchingPoint(first.shape, *centre, radius);
-    const Vec2 end = touchingPoint(second.shape, *centre, radius);
-    if (session.isTrimming) {
-        trimSide(changes, context.drawing(), plane, first, begin);
-        trimSide(changes, context.drawing(), plane, second, end);
-    }
+    const Vec2 centre = centres.front();
+    CutEnds ends;
+    ends.first = touchingPoint(first.shape, centre, radius);
+    ends.second = touchingPoint(second.shape, centre, radius);
+    KeptWays kept{wayToPick(first.shape, ends.first), wayToPick(second.shape, ends.second)};
     if (radius > 0.0) {
-        const double turn = std::atan2(cross(begin - *centre, end - *centre), dot(begin - *centre, end - *centre));
-        changes.create(cutFields(plane, begin, end, bulgeOfAngle(turn), first.shape.height), first.record,
-                       second.record);
+        const Vec2 begin = (ends.first - centre) * (1.0 / radius);
+        const Vec2 end = (ends.second - centre) * (1.0 / radius);
+        const double turn = std::atan2(cross(begin, end), dot(begin, end));
+        ends.bulge = bulgeOfAngle(turn);
+        // The arc goes on smoothly from what stays, wherever the pick was.
+        kept = {turnedLeft(begin) * (turn > 0.0 ? -1.0 : 1.0), turnedLeft(end) * (turn > 0.0 ? 1.0 : -1.0)};
     }
+    if (!(reachOf(context.drawing(), plane, first, ends.first, kept.first) > 0.0) ||
+        !(reachOf(context.drawing(), plane, second, ends.second, kept.second) > 0.0))
+        return u"Radius is too large."_s;
+    if (session.isTrimming && (first.polyline || second.polyline))
+        return joinPolylines(context, changes, first, second, ends, kept);
+    if (session.isTrimming) {
+        trimSide(changes, context.drawing(), plane, first, ends.first, kept.first);
+        trimSide(changes, context.drawing(), plane, second, ends.second, kept.second);
+    }
+    if (radius > 0.0)
+        changes.create(cutFields(plane, ends.first, ends.second, ends.bulge, first.shape.height), first.record,
+                       second.record);
     return {};
 }
 
@@ -332,9 +210,10 @@ bool makeCorner(CommandContext &context, CornerSession &session, const CornerSid
     QString problem;
     if (std::abs(first.shape.height - second.shape.height) > 1e-6)
         problem = u"They do not lie in one plane."_s;
-    else if (first.polyline && second.polyline && first.record == second.record)
-        problem = cutWithin(changes, session, first, second);
-    else if (first.record == second.record)
+    else if (first.record == second.record && first.polyline && session.isTrimming &&
+             (session.cut.isRound || (first.shape.isStraight && second.shape.isStraight)))
+        problem = cutWithin(context, changes, session.current(), first, second);
+    else if (first.record == second.record && !first.polyline)
         problem = u"Two different ones are needed."_s;
     else if (first.shape.isStraight && second.shape.isStraight)
         problem = cutStraight(context, changes, session, first, second);

@@ -17,7 +17,7 @@ Vec2 unitOf(Vec2 v)
     return v.length() > 0.0 ? v * (1.0 / v.length()) : v;
 }
 
-/// Takes out arcs between straight stretches that lead to one corner, where they are tangent.
+/// Takes out arcs between straight stretches that lead to one corner.
 void sharpenRoundCorners(EditedPolyline &polyline)
 {
     std::vector<EditedVertex> &vertices = polyline.vertices;
@@ -31,13 +31,15 @@ void sharpenRoundCorners(EditedPolyline &polyline)
         const EditedVertex &end = vertices[(i + 1) % count];
         const Vec2 from = vertices[i].point.xy();
         const Vec2 to = end.point.xy();
-        const double direction = arrivalDirection(before.point.xy(), from, 0.0);
-        const bool isTangent = std::abs(bulgeAlong(from, direction, to) - vertices[i].bulge) < 1e-6;
-        if (!isTangent || before.bulge != 0.0 || end.bulge != 0.0 || std::abs(vertices[i].bulge) >= 1.0)
+        const Vec2 in = unitOf(from - before.point.xy());
+        const Vec2 out = unitOf(vertices[(i + 2) % count].point.xy() - to);
+        const double sine = cross(in, out);
+        if (before.bulge != 0.0 || end.bulge != 0.0 || !(std::abs(sine) > 1e-9))
             continue;
-        const double reach = (to - from).length() / 2.0 * (1.0 + vertices[i].bulge * vertices[i].bulge) /
-                             (1.0 - vertices[i].bulge * vertices[i].bulge);
-        const Vec2 corner = from + polar(direction, reach);
+        const double ahead = cross(to - from, out) / sine;
+        const Vec2 corner = from + in * ahead;
+        if (!(ahead > 0.0) || !(dot(to - corner, out) > 0.0))
+            continue;
         vertices[i].point = {corner.x, corner.y, vertices[i].point.z};
         vertices[i].bulge = 0.0;
         vertices.erase(vertices.begin() + static_cast<qsizetype>((i + 1) % count));

@@ -36,30 +36,36 @@ Vec3 pickPoint(const drawing::EntityCurve &curve, const PromptReply &picked)
     return away > curve.length() * farFromEntity ? curve.point(middle) : picked.point;
 }
 
+/// The stretch that lies nearest to the pick, among those that lie level in the user's plane.
 std::optional<CornerSide> polylineSide(const UserPlane &plane, EditedPolyline polyline, const Vec3 &picked)
 {
     CornerSide side;
     side.record = polyline.record;
     const drawing::Matrix world = polyline.toWorld();
     const std::size_t count = polyline.vertices.size();
-    const auto user = [&](std::size_t i) {
-        return plane.userFromWorld(world.point(polyline.vertices[i % count].point));
-    };
+    const auto user = [&](const Vec3 &object) { return plane.userFromWorld(world.point(object)); };
+    const Vec3 up = user({0.0, 0.0, 1.0}) - user({});
     double least = std::numeric_limits<double>::infinity();
     const Vec2 at = plane.userFromWorld(picked).xy();
     for (std::size_t i = 0; i + (polyline.isClosed ? 0 : 1) < count; ++i) {
-        const Vec3 from = user(i);
-        const Vec3 to = user(i + 1);
-        const double share = drawing::shareAlong({from.x, from.y, 0.0}, {to.x, to.y, 0.0}, {at.x, at.y, 0.0});
-        const Vec2 along = (to - from).xy();
-        const double away = (from.xy() + along * share - at).length();
-        if (!(away < least) || !(along.length() > 0.0) || polyline.vertices[i].bulge != 0.0 ||
-            std::abs(to.z - from.z) > 1e-9 * along.length())
+        const Vec3 from = user(polyline.vertices[i].point);
+        const Vec3 to = user(polyline.vertices[(i + 1) % count].point);
+        const double bulge = polyline.vertices[i].bulge;
+        const double length = (to - from).xy().length();
+        const bool isLevel = std::abs(to.z - from.z) <= 1e-9 * length && (bulge == 0.0 || up.xy().length() <= 1e-9);
+        if (!(length > 0.0) || !isLevel)
+            continue;
+        const drawing::CurvePiece piece =
+            drawing::bulgedPiece({from.x, from.y, 0.0}, {to.x, to.y, 0.0}, up.z < 0.0 ? -bulge : bulge, 0.0);
+        const double away = (piece.point(piece.closest({at.x, at.y, 0.0})) - Vec3{at.x, at.y, 0.0}).length();
+        if (!(away < least))
             continue;
         least = away;
         side.stretch = i;
-        side.shape.point = from.xy();
-        side.shape.direction = along * (1.0 / along.length());
+        side.shape.isStraight = piece.shape() == drawing::CurvePiece::Shape::Straight;
+        side.shape.point = side.shape.isStraight ? from.xy() : piece.center().xy();
+        side.shape.direction = (to - from).xy() * (1.0 / length);
+        side.shape.radius = side.shape.isStraight ? 0.0 : piece.xAxis().length();
         side.shape.height = from.z;
     }
     side.shape.picked = at;
@@ -84,17 +90,10 @@ bool haveOneLook(const FieldList &first, const FieldList &second)
     return value(first, 8) == value(second, 8);
 }
 
-/// The direction along the side from `at` to where it was picked.
-Vec2 keptDirection(const CornerSide &side, Vec2 at)
-{
-    return side.shape.direction * (dot(side.shape.picked - at, side.shape.direction) < 0.0 ? -1.0 : 1.0);
-}
-
 void trimStraight(CornerChanges &changes, const drawing::Drawing &drawing, const UserPlane &plane,
-                  const CornerSide &side, Vec2 at)
+                  const CornerSide &side, Vec2 at, Vec2 kept)
 {
     FieldList fields = drawing.fields(side.record);
-    const Vec2 kept = keptDirection(side, at);
     const Vec3 cut = plane.worldFromUser({at.x, at.y, side.shape.height});
     const auto along = [&](const Vec3 &world) { return dot(plane.userFromWorld(world).xy() - at, kept); };
     const Vec3 first = drawing::findField(fields, 10)->point();
@@ -113,27 +112,19 @@ void trimStraight(CornerChanges &changes, const drawing::Drawing &drawing, const
 }
 
 void trimRound(CornerChanges &changes, const drawing::Drawing &drawing, const UserPlane &plane, const CornerSide &side,
-               Vec2 at)
+               Vec2 at, Vec2 kept)
 {
     FieldList fields = drawing.fields(side.record);
     const drawing::Field *normal = drawing::findField(fields, 210);
     const drawing::Matrix toObject =
         drawing::Matrix::fromExtrusion(normal ? normal->point() : Vec3{0.0, 0.0, 1.0}).inverted();
-    const Vec3 centre = drawing::findField(fields, 10)->point();
-    const auto angleOf = [&](Vec2 user) {
-        const Vec3 spoke = toObject.point(plane.worldFromUser({user.x, user.y, side.shape.height})) - centre;
-        return settledDegrees(std::atan2(spoke.y, spoke.x) / drawing::radians);
+    const auto object = [&](Vec2 user) {
+        return toObject.point(plane.worldFromUser({user.x, user.y, side.shape.height})).xy();
     };
-    const auto behind = [](double from, double to) { return to >= from ? to - from : to - from + 360.0; };
-    const double start = drawing::realOf(fields, 50);
-    const double end = drawing::realOf(fields, 51);
-    const double cut = angleOf(at);
-    const double sweep = behind(start, end);
-    const double toCut = behind(start, cut);
-    // Within the arc the part with the pick stays; beyond it the nearer end goes on.
-    const bool cutsEnd =
-        toCut <= sweep ? behind(start, angleOf(side.shape.picked)) < toCut : toCut - sweep < 360.0 - toCut;
-    drawing::setField(fields, cutsEnd ? 51 : 50, cut);
+    const Vec2 cut = object(at);
+    const Vec2 spoke = cut - drawing::findField(fields, 10)->point().xy();
+    const bool cutsEnd = cross(spoke, object(at + kept) - cut) < 0.0;
+    drawing::setField(fields, cutsEnd ? 51 : 50, settledDegrees(std::atan2(spoke.y, spoke.x) / drawing::radians));
     changes.setFields(side.record, fields);
 }
 
@@ -224,14 +215,14 @@ void CornerChanges::takeBack()
 }
 
 void trimSide(CornerChanges &changes, const drawing::Drawing &drawing, const UserPlane &plane, const CornerSide &side,
-              Vec2 at)
+              Vec2 at, Vec2 kept)
 {
     if (side.isCircle)
         return;
     if (side.shape.isStraight)
-        trimStraight(changes, drawing, plane, side, at);
+        trimStraight(changes, drawing, plane, side, at, kept);
     else
-        trimRound(changes, drawing, plane, side, at);
+        trimRound(changes, drawing, plane, side, at, kept);
 }
 
 } // namespace host::kernel

@@ -19,7 +19,7 @@ struct CornerSide
     std::size_t stretch = 0;                  ///< which, by the vertex in front of it
 };
 
-/// Of a LINE, RAY, XLINE, ARC, CIRCLE or a straight stretch of a flat polyline in the user's plane; nothing for others.
+/// Of a LINE, RAY, XLINE, ARC, CIRCLE or a stretch of a flat polyline in the user's plane; nothing for others.
 /// An entity that was named without a point counts as picked in its middle.
 std::optional<CornerSide> cornerSide(const drawing::Drawing &drawing, const UserPlane &plane,
                                      const PromptReply &picked);
@@ -44,9 +44,9 @@ private:
     std::vector<drawing::RecordId> m_erased;
 };
 
-/// Cuts a side off, or lets it go on, up to a point on it (user coordinates); the part with the pick stays. Nothing
-/// happens to circles; polylines are not for this.
+/// Cuts a side off, or lets it go on, up to a point on it; what lies in the direction `kept` from there stays. Both in
+/// user coordinates. Nothing happens to circles; polylines are not for this.
 void trimSide(CornerChanges &changes, const drawing::Drawing &drawing, const UserPlane &plane, const CornerSide &side,
-              drawing::Vec2 at);
+              drawing::Vec2 at, drawing::Vec2 kept);
 
 } // namespace host::kernel
