@@ -48,7 +48,7 @@
 (setvar "SNAPSTYL" 1) ;! SNAP|S|S|A|1|2 ;? (mapcar 'getvar '("SNAPSTYL" "SNAPUNIT")) ;= (0 (1.0 2.0))
 (setvar "SNAPTYPE" 0) ;! SNAP|T|P ;? (getvar "SNAPTYPE") ;= 1
 (setvar "SNAPTYPE" 0) ;! SNAP|T| ;? (getvar "SNAPTYPE") ;= 0
-;! SNAP|-5 ;> must be positive ;? (getvar "SNAPMODE") ;= 0
+;! SNAP|-5 ;> must not be negative ;? (getvar "SNAPMODE") ;= 0
 (setvar "SNAPUNIT" '(3 4)) ;! GRID|S ;? (getvar "GRIDUNIT") ;= (3.0 4.0)
 ;! ISOPLANE| ;> Current Isoplane: Top ;? (getvar "SNAPISOPAIR") ;= 1
 (setvar "SNAPISOPAIR" 2) ;! ISOPLANE| ;? (getvar "SNAPISOPAIR") ;= 0

@@ -10,8 +10,8 @@
 ;= ("New name" nil)
 ;! -LAYER|R|0|New| ;~ keeps ;> Layer "0" cannot be renamed ;? (tblsearch "LAYER" "New") ;= nil
 (on-layer "B") ;! -LAYER|S||1.5,1.5| ;~ keeps ;? (getvar "CLAYER") ;= "B"
-(layer-a) ;! -LAYER|C|3|A|L|Nowhere ;~ keeps ;> Linetype "Nowhere" not found ;? (layer "A") ;= (0 7 "Continuous" -3 nil nil)
-(layer-a) ;! -LAYER|C|3|A|Colour ;~ keeps ;> Invalid option keyword ;? (layer "A") ;= (0 7 "Continuous" -3 nil nil)
+(layer-a) ;! -LAYER|L|Nowhere ;~ keeps ;> Linetype "Nowhere" not found ;? (layer "A") ;= (0 7 "Continuous" -3 nil nil)
+(layer-a) ;! -LAYER|Colour ;~ keeps ;> Invalid option keyword ;? (layer "A") ;= (0 7 "Continuous" -3 nil nil)
 ;! -LAYER|N|A/B| ;~ keeps ;> cannot be the name of a layer ;? (tblsearch "LAYER" "A/B") ;= nil
 (layer-a) ;! -LAYER|PS|x| ;~ keeps ;> no named plot styles ;? (layer "A") ;= (0 7 "Continuous" -3 nil nil)
 (layer-a) ;! -LAYER|A|S|Full||| ;~ keeps ;? (states) ;= ("Full" (91 . 2047) (302 . "0") (8 . "0") (8 . "A"))
@@ -26,5 +26,5 @@
 (store "Full") ;! -LAYER|A|D|Full|| ;~ keeps ;? (states) ;= nil
 ;! -LAYER|A|R|None|| ;~ keeps ;> Cannot find layer state "None" ;? (states) ;= nil
 ;! -LAYER|A|I|none.las|| ;~ keeps ;> No layer state was taken ;? (states) ;= nil
-(layer-a)(store "Full")(setvar "EXPERT" 2)(colour-a) ;! -LAYER|A|EX|Full|nowhere/x|| ;~ keeps ;> cannot be written ;? (car (states)) ;= "Full"
+(layer-a)(store "Full")(setvar "EXPERT" 2)(colour-a) ;! -LAYER|A|EX|Full|nowhere/x|| ;~ keeps ;> No such file or directory ;? (car (states)) ;= "Full"
 (layer-a)(store "Full") ;! -RENAME|LA|A|B ;? (states) ;= ("Full" (91 . 2047) (302 . "0") (8 . "0") (8 . "B"))
