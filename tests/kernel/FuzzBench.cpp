@@ -278,9 +278,10 @@ QStringList FuzzBench::dangling()
     };
     for (RecordId id = drawing().first(); isValid(id); id = drawing().next(id)) {
         look(id, ownerCode, drawing().owner(id));
-        // Who is to be told of changes (330 as well) may be gone.
-        for (const Tag &tag : drawing().tags(id))
-            if (tag.code >= 320 && tag.code != ownerCode && tagType(tag.code) == TagType::Handle)
+        // Who is to be told of changes (330 as well) may be gone, and what programs noted in extended data.
+        for (const Tag &tag : drawing().tagsForFile(id))
+            if (tag.code >= 320 && tag.code < firstXdataCode && tag.code != ownerCode &&
+                tagType(tag.code) == TagType::Handle)
                 look(id, tag.code, Handle::fromText(QByteArrayView(tag.value)).value_or(Handle{}));
     }
     return found;

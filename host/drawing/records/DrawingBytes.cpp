@@ -9,10 +9,16 @@ namespace {
 
 constexpr int memberCode = 340; ///< of a group
 constexpr int sortedCode = 331; ///< of a sort table; the handle that it is sorted as (5) follows
+constexpr int insertCode = 331; ///< of a block: where it is inserted
 
-/// Only these list entities that need not know of it. They go on listing erased ones, which may come back.
-int listingCode(QByteArrayView type)
+/// Only these list entities that need not know of it. They go on listing erased ones, which may come back. 0 for
+/// others.
+int listingCode(RecordKind kind, QByteArrayView type)
 {
+    if (kind == RecordKind::TableEntry)
+        return type == "BLOCK_RECORD" ? insertCode : 0;
+    if (kind != RecordKind::Object)
+        return 0;
     return type == "GROUP" ? memberCode : type == "SORTENTSTABLE" ? sortedCode : 0;
 }
 
@@ -49,7 +55,7 @@ std::vector<Tag> Drawing::tagsForFile(RecordId id) const
 {
     const TagList all = tags(id);
     std::vector<Tag> kept(all.begin(), all.end());
-    const int listing = kind(id) == RecordKind::Object ? listingCode(typeName(id)) : 0;
+    const int listing = listingCode(kind(id), typeName(id));
     if (listing == 0)
         return kept;
     bool isPairGone = false;
@@ -80,7 +86,7 @@ bool Drawing::forEachPiece(const std::function<bool(QByteArrayView)> &take) cons
         return take(d->file.bytes);
     JoinedPieces pieces(take);
     for (RecordId id = first(); isValid(id); id = next(id)) {
-        if (kind(id) != RecordKind::Object || listingCode(typeName(id)) == 0) {
+        if (listingCode(kind(id), typeName(id)) == 0) {
             if (!pieces.add(d->entry(id).bytes()))
                 return false;
             continue;
