@@ -24,7 +24,7 @@ using drawing::Vec3;
 
 namespace {
 
-constexpr std::int64_t searchWork = 4'000'000; ///< pairs of curves that may meet
+constexpr std::int64_t searchWork = 4'000'000; ///< of one search, through all its windows
 
 bool isText(QByteArrayView type)
 {
@@ -181,11 +181,11 @@ void BoundarySearch::addTexts(Boundary &boundary, const std::vector<PlaneGraph::
 }
 
 /// Nothing when the area reaches out of the window, so that there may be more about it.
-std::optional<Boundary> BoundarySearch::within(const std::vector<RecordId> &entities, Vec2 point, const Box &window)
+std::optional<Boundary> BoundarySearch::within(const std::vector<RecordId> &entities, Vec2 point, const Box &window,
+                                               drawing::WorkBudget &work)
 {
     const Gathered gathered = gather(entities, window);
     const double reach = std::max((window.high - window.low).length(), point.length());
-    drawing::WorkBudget work(searchWork);
     const PlaneGraph graph(gathered.pieces, std::max(1e-9, 1e-9 * reach), m_options.gap, work);
     m_wasTooMuch = !graph.isComplete();
     if (m_wasTooMuch)
@@ -218,11 +218,12 @@ Boundary BoundarySearch::at(const Vec3 &point)
     // Behind so many rounds, what there is lies farther off than anything that was drawn to be looked at together.
     constexpr int patientRounds = 8;
     double growth = 4.0;
+    drawing::WorkBudget work(searchWork);
     for (int round = 0;; ++round) {
         const Box near = squareRound(point.xy(), half);
         const bool isAll = half >= farthest;
         const Box window = squareRound(flat.xy(), isAll ? 4.0 * half : half);
-        if (auto boundary = within(isAll ? all : m_document.boxes().touching(all, near), flat.xy(), window))
+        if (auto boundary = within(isAll ? all : m_document.boxes().touching(all, near), flat.xy(), window, work))
             return *boundary;
         if (isAll)
             return {};

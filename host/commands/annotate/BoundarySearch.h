@@ -60,7 +60,7 @@ private:
     void gatherReference(Gathered &gathered, drawing::RecordId reference, const drawing::Box &window);
     void gatherText(Gathered &gathered, const drawing::Box &box);
     std::optional<Boundary> within(const std::vector<drawing::RecordId> &entities, drawing::Vec2 point,
-                                   const drawing::Box &window);
+                                   const drawing::Box &window, drawing::WorkBudget &work);
     static void addTexts(Boundary &boundary, const std::vector<drawing::PlaneGraph::Loop> &texts, drawing::Vec2 point,
                          double tolerance);
     BoundaryLoop finished(const drawing::PlaneGraph::Loop &loop, int depth, const Gathered &gathered) const;

@@ -22,14 +22,19 @@ QString hatchOptions()
     return u"Properties Select draW Boundaries Advanced DRaw Origin ANnotative COlor LAyer Transparency"_s;
 }
 
+void tellNoBoundary(CommandContext &context, const BoundarySearch &search, QStringView otherwise)
+{
+    context.print(search.wasTooMuch() ? u"\nToo many curves cross here: choose a boundary set."_s
+                                      : otherwise.toString());
+}
+
 /// Adds the boundary round a point; false when there is none, which was told.
 bool addAreaAt(CommandContext &context, const HatchSettings &settings, std::vector<HatchArea> &areas, const Vec3 &point)
 {
     BoundarySearch search(context.document(), settings.boundary);
     Boundary boundary = search.at(point);
     if (boundary.empty()) {
-        context.print(search.wasTooMuch() ? u"\nToo many curves cross here: choose a boundary set."_s
-                                          : u"\nValid hatch boundary not found."_s);
+        tellNoBoundary(context, search, u"\nValid hatch boundary not found.");
         return false;
     }
     areas.push_back({std::move(boundary), point});
@@ -42,7 +47,7 @@ void addAreaOf(CommandContext &context, const HatchSettings &settings, std::vect
     BoundarySearch search(context.document(), settings.boundary);
     Boundary boundary = search.of(entities);
     if (boundary.empty())
-        return context.print(u"\nThe objects make no closed boundary."_s);
+        return tellNoBoundary(context, search, u"\nThe objects make no closed boundary.");
     areas.push_back({std::move(boundary), std::nullopt});
 }
 

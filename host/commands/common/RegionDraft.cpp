@@ -72,7 +72,7 @@ LoopCheck checkLoop(const RegionLoop &loop)
     if (height > std::max(1e-6, 1e-9 * reach))
         check.fault = LoopFault::NotFlat;
     else if (const PlaneGraph graph(std::move(pieces), tolerance, 0.0, work); !graph.isSimpleLoop())
-        check.fault = graph.outlines().empty() ? LoopFault::Degenerate : LoopFault::Crossing;
+        check.fault = graph.isComplete() && graph.outlines().empty() ? LoopFault::Degenerate : LoopFault::Crossing;
     else if (swept.length() <= 2.0 * tolerance * size)
         check.fault = LoopFault::Degenerate;
     return check;

@@ -173,7 +173,7 @@ private:
     }
 
     void crossByHalves();
-    void halve(const CurvePiece &first, const CurvePiece &second);
+    void halve(const CurvePiece &first, const CurvePiece &second, int depth);
     void descend(const CurvePiece &first, const CurvePiece &second);
 
     const CurvePiece &m_first;
@@ -246,7 +246,7 @@ void PiecePair::crossByHalves()
     const CurvePiece second = m_second.isEndless() ? clippedTo(m_second, firstBox) : m_second;
     m_nearness = m_tolerance * 1e-3;
     const size_t before = m_found.size();
-    halve(first, second);
+    halve(first, second, 0);
     if (m_work <= 0) {
         m_found.resize(before);
         return offerSharedEnds();
@@ -266,8 +266,10 @@ void PiecePair::crossByHalves()
     m_found.resize(std::min(m_found.size(), last + 1));
 }
 
-void PiecePair::halve(const CurvePiece &first, const CurvePiece &second)
+void PiecePair::halve(const CurvePiece &first, const CurvePiece &second, int depth)
 {
+    // Behind so many halvings of both, nothing is left of them; about 0 numbers go on being halved a thousand times.
+    constexpr int deepest = 128;
     const Vec3 a = first.startPoint();
     const Vec3 b = first.endPoint();
     const Vec3 c = second.startPoint();
@@ -287,10 +289,10 @@ void PiecePair::halve(const CurvePiece &first, const CurvePiece &second)
     const bool isFirst = firstTurn > secondTurn || (firstTurn == secondTurn && firstDeviation >= secondDeviation);
     const CurvePiece &longer = isFirst ? first : second;
     const double middle = (longer.start() + longer.end()) / 2.0;
-    if (middle <= longer.start() || middle >= longer.end())
+    if (depth >= deepest || middle <= longer.start() || middle >= longer.end())
         return descend(first, second); // no number lies between
     for (const CurvePiece &half : {longer.part(longer.start(), middle), longer.part(middle, longer.end())})
-        halve(isFirst ? half : first, isFirst ? second : half);
+        halve(isFirst ? half : first, isFirst ? second : half, depth + 1);
 }
 
 void PiecePair::descend(const CurvePiece &first, const CurvePiece &second)

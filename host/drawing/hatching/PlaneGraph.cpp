@@ -14,6 +14,8 @@ namespace host::drawing {
 namespace {
 
 constexpr quint32 noNumber = ~quint32(0);
+/// What the stretches that a crossing makes cost until their faces are known, in units of a budget.
+constexpr int crossingWork = 16;
 
 Box grownFlat(const CurvePiece &piece, double by)
 {
@@ -75,6 +77,9 @@ PlaneGraph::PlaneGraph(std::vector<FlatPiece> pieces, double tolerance, double g
         m_box.add(flat.piece.box());
     std::vector<std::vector<double>> cuts(m_pieces.size());
     cutPieces(tolerance, work, cuts);
+    // Faces of what is not cut everywhere would be wrong, and dear.
+    if (!m_isComplete)
+        return;
     addEdges(cuts, tolerance);
     dropDoubles(tolerance);
     if (gap > tolerance)
@@ -100,7 +105,8 @@ void PlaneGraph::cutPieces(double tolerance, WorkBudget &work, std::vector<std::
             const CurvePiece &first = m_pieces[i].piece;
             const CurvePiece &second = m_pieces[k].piece;
             found.clear();
-            m_isComplete = work.take(appendCrossings(found, first, second, tolerance));
+            const int halvings = appendCrossings(found, first, second, tolerance);
+            m_isComplete = work.take(halvings + crossingWork * static_cast<std::int64_t>(found.size()));
             for (const CurveCrossing &crossing : found) {
                 cuts[i].push_back(crossing.first);
                 cuts[k].push_back(crossing.second);

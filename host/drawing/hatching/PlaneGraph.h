@@ -24,8 +24,8 @@ class PlaneGraph
 {
 public:
     /// `tolerance`: points nearer than this are one. `gap`: loose ends that near to each other are joined by a straight
-    /// line. Costs n log n of the pieces and their crossings; each crossing, and each pair of loose ends, takes from
-    /// `work`, and isComplete() is false when that was used up.
+    /// line. Costs n log n of the pieces and their crossings; each crossing with the faces beside it, and each pair of
+    /// loose ends, takes from `work`. When that was used up isComplete() is false, and there may be no face at all.
     PlaneGraph(std::vector<FlatPiece> pieces, double tolerance, double gap, WorkBudget &work);
 
     bool isComplete() const { return m_isComplete; }

@@ -30,3 +30,5 @@
 (progn (setvar "HPGAPTOL" 5000) (setq i 0) (repeat 2000 (setq i (1+ i)) (line (* i 0.001) 0 (* i 0.001) 1))) ;! -HATCH|P|SOLID|0.0015,0.5| ;> Too many curves cross here ;? (length (types)) ;= 2000
 (repeat 60 (entmake '((0 . "ELLIPSE") (100 . "AcDbEntity") (100 . "AcDbEllipse") (10 0.0 0.0 0.0) (11 8.0 0.0 0.0) (40 . 0.5)))) ;! -HATCH|P|SOLID|1,1| ;? (own '(91 11)) ;= (1 (8.0 0.0))
 (progn (entmake '((0 . "ARC") (10 0.0 0.0 0.0) (40 . 5.0) (50 . 1e20) (51 . 3e20))) (line -9 0 9 0)) ;! -HATCH|P|SOLID|1,1| ;> Valid hatch boundary not found. ;? (length (types)) ;= 2
+(progn (setq i 0) (repeat 600 (setq i (1+ i)) (entmake (list '(0 . "CIRCLE") (list 10 (* 0.001 i) 0.0 0.0) '(40 . 10.0))))) ;! -HATCH|P|SOLID|5,0| ;> Too many curves cross here ;? (length (types)) ;= 600
+(progn (setq i 0) (repeat 600 (setq i (1+ i)) (entmake (list '(0 . "CIRCLE") (list 10 (* 0.001 i) 0.0 0.0) '(40 . 10.0))))) ;! HATCH|SOLID|ALL| ;? (own '(2 91)) ;= ("SOLID" 600)
