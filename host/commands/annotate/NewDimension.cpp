@@ -84,11 +84,14 @@ FieldList freed(const FieldList &part)
     return fields;
 }
 
-/// Leaves the entities of the picture in place of the dimension, without the measured points.
+/// Leaves the entities of the picture in place of the dimension, without the measured points. One without a picture,
+/// too far off to be drawn, stays.
 void replaceByPicture(CommandContext &context, RecordId dimension)
 {
     drawing::Drawing &drawing = context.drawing();
     const RecordId block = drawing.blocks().find(drawing.tags(dimension).text(2));
+    if (!isValid(block))
+        return;
     std::vector<FieldList> parts;
     for (const RecordId part : drawing.children(block))
         if (!drawing.isType(part, "POINT"))

@@ -62,7 +62,7 @@ FieldList versionDefaults(const Drawing &drawing, TableKind kind)
         const RecordId standard = drawing.tables().find(TableKind::Layer, u"0");
         for (const int code : {390, 347, 348}) {
             const Handle reference = isValid(standard) ? drawing.tags(standard).handle(code) : Handle{};
-            if (!reference.isNull())
+            if (!reference.isNull() && drawing.isAlive(drawing.find(reference)))
                 fields.push_back({code, reference});
         }
     } else if (kind == TableKind::BlockRecord && drawing.version() >= Version::R2000) {

@@ -18,6 +18,15 @@ EntitiesAnswer members(const Document &document, const lisp::SelectionSet &set)
     return answer;
 }
 
+/// Layers, dictionaries and the like have names as well, and are nothing that a command works on.
+EntityAnswer entityAnswer(const Document &document, const lisp::Value &name, const drawing::Vec3 &at)
+{
+    const drawing::RecordId record = recordFrom(document, name.asEntityName());
+    const drawing::RecordKind kind = isValid(record) ? document.drawing().kind(record) : drawing::RecordKind::Preamble;
+    const bool isDrawn = kind == drawing::RecordKind::Entity || kind == drawing::RecordKind::Child;
+    return {isDrawn ? record : drawing::noRecord, at};
+}
+
 } // namespace
 
 std::optional<InputAnswer> answerFromValue(const Document &document, const lisp::Value &value)
@@ -33,13 +42,12 @@ std::optional<InputAnswer> answerFromValue(const Document &document, const lisp:
     if (value.isSelectionSet())
         return members(document, value.asSelectionSet());
     if (value.isEntityName())
-        return EntityAnswer{recordFrom(document, value.asEntityName()), {}};
+        return entityAnswer(document, value, {});
     if (const std::optional<drawing::Vec3> point = pointFrom(value))
         return PointAnswer{toWorld(document, *point)};
     if (value.isCons() && value.car().isEntityName()) {
         const std::optional<drawing::Vec3> at = pointFrom(value.cdr().car());
-        return EntityAnswer{recordFrom(document, value.car().asEntityName()),
-                            at ? toWorld(document, *at) : drawing::Vec3{}};
+        return entityAnswer(document, value.car(), at ? toWorld(document, *at) : drawing::Vec3{});
     }
     return {};
 }

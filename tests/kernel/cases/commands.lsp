@@ -175,3 +175,6 @@ a ;! (setq a (+ 1 2))\n!a\n ;> \n3 ;= 3
 
 ; What a program works out that is no number is no place.
 (setq inf (* 1e200 1e200) nan (- inf inf)) (command "LINE" '(0 0) (list inf 0) nil) (command "-BOUNDARY" (list nan 0) nil) (command "ERASE" (list nan 0) "") (entlast) ;= nil
+; What is not drawn has a name as well, and is nothing to erase
+(command "ERASE" (cdr (assoc -1 (dictsearch (namedobjdict) "ACAD_GROUP"))) "") (cdr (assoc 0 (dictsearch (namedobjdict) "ACAD_GROUP"))) ;= "DICTIONARY"
+(command "ERASE" (tblobjname "LAYER" "0") "") (cdr (assoc 2 (tblsearch "LAYER" "0"))) ;= "0"

@@ -38,3 +38,4 @@
 (entmake '((0 . "CIRCLE") (10 5.0 5.0 0.0) (40 . 5.0))) ;! DIMCENTER|10,5 ;? (length (types)) ;= 3
 (setvar "DIMASSOC" 0) ;! DIMLINEAR|0,0|100,0|50,5 ;? (types) ;= ("LINE" "LINE" "LINE" "SOLID" "SOLID" "MTEXT")
 (progn (command "DIMLINEAR" "0,0" "10,0" "5,5") (setvar "DIMDLI" 4.0)) ;! DIMBASELINE|15,1|25,-1|| ;~ keeps ;? (own '(13 14 10 42)) ;= ((0.0 0.0 0.0) (25.0 -1.0 0.0) (25.0 13.0 0.0) 25.0)
+(setvar "DIMASSOC" 0) ;! DIMORDINATE|0,0|1e300,1e300 ;? (types) ;= ("DIMENSION")
