@@ -1,5 +1,5 @@
-// The tools as a user drives them: every session in the folders beside this file and in samples/sessions is a test,
-// named by its folder and its file.
+// The tools and Lisp programs as a user drives them: every session in the folders beside this file, in tests/programs
+// and in samples/sessions is a test, named by its folder and its file.
 
 #include "host/app/batch/BatchWork.h"
 #include "host/app/playback/SessionPlayer.h"
@@ -121,13 +121,18 @@ void registerSession(const QString &suite, const QFileInfo &file)
                           [path = file.filePath()]() -> testing::Test * { return new PlayedSession(path); });
 }
 
+void registerSessionsOf(const QString &suite, const QDir &folder)
+{
+    for (const QFileInfo &file : folder.entryInfoList({u"*.session"_s}))
+        registerSession(suite, file);
+}
+
 bool registerSessions()
 {
     for (const QFileInfo &folder : QDir(inSource(u"tests/tools"_s)).entryInfoList(QDir::Dirs | QDir::NoDotAndDotDot))
-        for (const QFileInfo &file : QDir(folder.filePath()).entryInfoList({u"*.session"_s}))
-            registerSession(folder.fileName(), file);
-    for (const QFileInfo &file : QDir(inSource(u"samples/sessions"_s)).entryInfoList({u"*.session"_s}))
-        registerSession(u"samples"_s, file);
+        registerSessionsOf(folder.fileName(), folder.filePath());
+    registerSessionsOf(u"programs"_s, inSource(u"tests/programs"_s));
+    registerSessionsOf(u"samples"_s, inSource(u"samples/sessions"_s));
     return true;
 }
 

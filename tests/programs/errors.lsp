@@ -1,0 +1,67 @@
+;;; Errors, cancels and undo.
+
+;; UE restores variables and ends its undo group after an error.
+(defun ue-err (s)
+  (setq *msg* s)
+  (command-s "_.UNDO" "_E")
+  (mapcar 'setvar (mapcar 'car ue-vars) (mapcar 'cdr ue-vars))
+  (setq *error* ue-old)
+  (princ))
+(defun c:UE ()
+  (setq ue-vars (mapcar '(lambda (x) (cons x (getvar x)))
+                        '("CMDECHO" "OSMODE" "BLIPMODE" "ORTHOMODE" "PLINEWID"))
+        ue-old *error*
+        *error* ue-err)
+  (mapcar 'setvar '("CMDECHO" "OSMODE" "BLIPMODE" "ORTHOMODE" "PLINEWID") '(0 0 0 1 2.0))
+  (command "_.UNDO" "_BE")
+  (command "_.LINE" '(0 0) '(5 5) "")
+  (/ 1 (getint "\nDivisor: "))
+  (setq *error* ue-old))
+
+;; E1 to E10 end with an error each.
+(defun c:E1 () (strcat 1 "a"))
+(defun c:E2 () (foo 1))
+(defun c:E3 () (exit))
+(defun c:E4 () (getpoint "P: "))
+(defun c:E5 () (car 'a 'b))
+(defun c:E6 ()
+  (command "_.line")
+  (/ 1 0))
+(defun c:E7 () ("x"))
+(defun c:E8 () (nth 'a '(1)))
+(defun c:E9 () (ssname 5 0))
+(defun c:E10 () (vl-exit-with-error "mine"))
+
+;; PS1 ends its undo group when it is cancelled.
+(defun fin (m)
+  (setq fm m)
+  (command-s "_.undo" "_e")
+  (princ))
+(defun c:PS1 ()
+  (setq fold *error* *error* fin)
+  (command "_.undo" "_be")
+  (command "_.circle" '(0 0) 3)
+  (getstring "\nS: ")
+  (setq *error* fold)
+  (princ))
+
+;; VB catches an error between undo marks.
+(vl-load-com)
+(defun c:VB (/ acad doc err)
+  (setq acad (vlax-get-acad-object)
+        doc (vla-get-activedocument acad))
+  (vla-startundomark doc)
+  (setq err (vl-catch-all-apply (function (lambda () (command "_.line" '(0 0) '(1 1) "") (/ 1 0)))))
+  (if (vl-catch-all-error-p err)
+    (princ (strcat "\nErr: " (vl-catch-all-error-message err))))
+  (vla-endundomark doc)
+  (princ))
+
+;; DE has an error function among its local variables.
+(defun c:DE (/ *error* v)
+  (setq v (getvar "OSMODE"))
+  (defun *error* (m)
+    (setvar "OSMODE" v)
+    (setq dm m))
+  (setvar "OSMODE" 0)
+  (car 1))

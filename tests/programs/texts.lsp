@@ -1,0 +1,86 @@
+;;; Texts and paragraphs.
+
+;; CHTH gives selected texts another height, as one undo step.
+(defun c:CHTH (/ *error* ss n e ed h olderr)
+  (setq olderr *error*)
+  (defun *error* (msg)
+    (if (not (wcmatch (strcase msg) "*CANCEL*,*QUIT*"))
+      (princ (strcat "\nError: " msg)))
+    (setq *error* olderr)
+    (princ))
+  (command "_.UNDO" "_BEGIN")
+  (prompt "\nSelect texts: ")
+  (setq ss (ssget '((0 . "TEXT,MTEXT"))))
+  (setq h (getreal "\nNew height <2.5>: "))
+  (if (null h) (setq h 2.5))
+  (setq n 0)
+  (while (< n (sslength ss))
+    (setq e (ssname ss n) ed (entget e))
+    (setq ed (subst (cons 40 h) (assoc 40 ed) ed))
+    (entmod ed)
+    (entupd e)
+    (setq n (+ n 1)))
+  (command "_.UNDO" "_END")
+  (setq *error* olderr)
+  (princ))
+
+;; TNUM numbers texts that are picked.
+(defun c:TNUM (/ ss i n pre e d)
+  (setq pre (getstring T "\nPrefix: ")
+        n (getint "\nStart <1>: "))
+  (or n (setq n 1))
+  (while (setq e (entsel "\nPick text: "))
+    (setq d (entget (car e)))
+    (if (wcmatch (cdr (assoc 0 d)) "*TEXT,ATT*")
+      (progn
+        (entmod (subst (cons 1 (strcat pre (if (< n 10) "0" "") (itoa n))) (assoc 1 d) d))
+        (setq n (1+ n)))
+      (princ "\nNot a text.")))
+  (princ (strcat "\n" (itoa (1- n)) " texts numbered."))
+  (princ))
+
+;; XY labels a point with its coordinates, at a leader.
+(defun c:XY ()
+  (setq p (getpoint "\nPick: "))
+  (setq tx (strcat "E=" (rtos (car p) 2 3) "\\PN=" (rtos (cadr p) 2 3)))
+  (command "_.LEADER" "_non" p "_non" (polar p (/ pi 4) 10) "" tx "")
+  (setq e (entlast))
+  (princ))
+
+;; TXTUP replaces a word in all texts.
+(defun c:TXTUP ()
+  (setq ss (ssget "_X" '((0 . "*TEXT") (1 . "*old*")))
+        n 0)
+  (repeat (sslength ss)
+    (setq d (entget (ssname ss n))
+          s (cdr (assoc 1 d)))
+    (while (vl-string-search "old" s)
+      (setq s (vl-string-subst "new" "old" s)))
+    (entmod (subst (cons 1 s) (assoc 1 d) d))
+    (setq n (1+ n)))
+  (princ (strcat "\n" (itoa n) " changed"))
+  (princ))
+
+;; ST makes text styles and writes with them.
+(defun c:ST ()
+  (command "_.-STYLE" "Notes" "romans.shx" 0 0.9 0 "_N" "_N" "_N")
+  (setq r (list (getvar "TEXTSTYLE") (cdr (assoc 41 (tblsearch "STYLE" "NOTES")))
+                (cdr (assoc 3 (tblsearch "STYLE" "notes")))))
+  (command "_.TEXT" "_S" "Notes" "0,0" 3 0 "hello")
+  (setq r (append r (list (cdr (assoc 7 (entget (entlast)))) (cdr (assoc 41 (entget (entlast)))))))
+  (command "_.-STYLE" "Fix" "arial.ttf" 3.5 1 0 "_N" "_N")
+  (command "_.TEXT" "5,5" 0 "fixed")
+  (note (cdr (assoc 40 (entget (entlast)))))
+  (command "_.TEXT" "_J" "_R" "9,9" 30 "right")
+  (setq r (append r (list (cdr (assoc 72 (entget (entlast)))) (cdr (assoc 11 (entget (entlast)))))))
+  (princ))
+
+;; CC writes characters by their codes.
+(defun c:CC ()
+  (setq a "\U+00D8 20 %%c20 caf\U+00e9"
+        b "tab\tq\"b\\s"
+        c "\101\x42")
+  (setq r (list (strlen a) (substr a 1 1) (strlen b) (vl-prin1-to-string b)))
+  (entmake (list '(0 . "TEXT") '(10 0 0 0) '(40 . 1.0) (cons 1 a)))
+  (note (field 1 (entlast)))
+  (princ))
