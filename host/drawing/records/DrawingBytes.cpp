@@ -7,16 +7,19 @@ namespace host::drawing {
 
 namespace {
 
-constexpr int memberCode = 340; ///< of a group
-constexpr int sortedCode = 331; ///< of a sort table; the handle that it is sorted as (5) follows
-constexpr int insertCode = 331; ///< of a block: where it is inserted
+constexpr int memberCode = 340;     ///< of a group
+constexpr int sortedCode = 331;     ///< of a sort table; the handle that it is sorted as (5) follows
+constexpr int insertCode = 331;     ///< of a block: where it is inserted
+constexpr int annotationCode = 340; ///< of a leader: the text that it leads to
 
-/// Only these list entities that need not know of it. They go on listing erased ones, which may come back. 0 for
+/// Only these name entities that need not know of it. They go on naming erased ones, which may come back. 0 for
 /// others.
 int listingCode(RecordKind kind, QByteArrayView type)
 {
     if (kind == RecordKind::TableEntry)
         return type == "BLOCK_RECORD" ? insertCode : 0;
+    if (kind == RecordKind::Entity)
+        return type == "LEADER" ? annotationCode : 0;
     if (kind != RecordKind::Object)
         return 0;
     return type == "GROUP" ? memberCode : type == "SORTENTSTABLE" ? sortedCode : 0;

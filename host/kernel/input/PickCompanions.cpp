@@ -22,8 +22,10 @@ constexpr int hatchesWithBoundary = 2;
 std::vector<RecordId> boundaryOf(const drawing::Drawing &drawing, RecordId hatch)
 {
     std::vector<RecordId> boundary;
+    if (!drawing.isType(hatch, "HATCH"))
+        return boundary;
     const drawing::TagList tags = drawing.tags(hatch);
-    if (!drawing.isType(hatch, "HATCH") || tags.integer(71) == 0)
+    if (tags.integer(71) == 0)
         return boundary;
     bool isBehindCount = false;
     for (const drawing::Tag &tag : tags.own()) {
@@ -85,6 +87,9 @@ std::vector<RecordId> PickCompanions::withCompanions(const std::vector<RecordId>
     };
     for (const RecordId id : picked) {
         add(id);
+        // Programs name what is not there, too; it is told further on.
+        if (!m_document.drawing().isAlive(id))
+            continue;
         if ((style & wholeGroups) != 0)
             addGroupsOf(id);
         if ((style & hatchesWithBoundary) != 0)
