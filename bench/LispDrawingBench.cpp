@@ -79,7 +79,7 @@ void work(benchmark::State &state, const Task &task)
         state.PauseTiming();
         Workshop workshop;
         const bool isReady = workshop.run(QString::fromUtf8(task.setup).replace(u"%1"_s, QString::number(entities)));
-        const QString program = QString::fromUtf8(task.work).arg(entities / task.share);
+        const QString program = QString::fromUtf8(task.work).replace(u"%1"_s, QString::number(entities / task.share));
         state.ResumeTiming();
         if (!isReady || !workshop.run(program))
             return state.SkipWithError("the program failed");
@@ -135,8 +135,7 @@ int main(int argc, char **argv)
             ->Arg(many)
             ->UseRealTime();
         const std::string name = task.name;
-        ratios.push_back(
-            {name + "/" + std::to_string(many) + "/real_time", name + "/" + std::to_string(few) + "/real_time", 12.0});
+        ratios.push_back({name + '/' + std::to_string(many), name + '/' + std::to_string(few), 12.0});
     }
     benchmark::RegisterBenchmark("pass over the bytes", passOverBytes)->Unit(benchmark::kMillisecond);
     for (const auto &[name, filter] : filters) {
