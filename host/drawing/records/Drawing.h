@@ -99,8 +99,8 @@ public:
     /// The same in pieces, in order and without copying them; a drawing nobody changed is one piece. Stops, and returns
     /// false, when `take` does. The views hold until the drawing is destroyed.
     bool forEachPiece(const std::function<bool(QByteArrayView)> &take) const;
-    /// The tags that a record has in the file. Groups, sort tables, block records and leaders go on naming what was
-    /// erased, as it may come back; what is written leaves these references out.
+    /// The tags that a record has in the file. Groups, sort tables, layouts, block records and leaders go on naming
+    /// what was erased, as it may come back; what is written leaves these references out.
     std::vector<Tag> tagsForFile(RecordId id) const;
 
     // The parts. They belong to the drawing and live as long as it does.

@@ -10,6 +10,7 @@ namespace {
 constexpr int memberCode = 340;     ///< of a group
 constexpr int sortedCode = 331;     ///< of a sort table; the handle that it is sorted as (5) follows
 constexpr int insertCode = 331;     ///< of a block: where it is inserted
+constexpr int viewportCode = 331;   ///< of a layout: which one was worked in last
 constexpr int annotationCode = 340; ///< of a leader: the text that it leads to
 
 /// Only these name entities that need not know of it. They go on naming erased ones, which may come back. 0 for
@@ -22,6 +23,8 @@ int listingCode(RecordKind kind, QByteArrayView type)
         return type == "LEADER" ? annotationCode : 0;
     if (kind != RecordKind::Object)
         return 0;
+    if (type == "LAYOUT")
+        return viewportCode;
     return type == "GROUP" ? memberCode : type == "SORTENTSTABLE" ? sortedCode : 0;
 }
 
