@@ -3,6 +3,7 @@
 #include "host/commands/Commands.h"
 #include "host/commands/annotate/DimensionDialogues.h"
 #include "host/commands/annotate/TextStyles.h"
+#include "host/commands/common/EntityEdits.h"
 #include "host/drawing/annotation/DimensionText.h"
 #include "host/drawing/records/Blocks.h"
 #include "host/drawing/records/DimensionVariables.h"
@@ -186,7 +187,7 @@ void undoInMode(CommandContext &context, std::vector<std::vector<RecordId>> &ste
     for (const RecordId made : steps.back()) {
         const RecordId picture =
             isDimension(drawing, made) ? drawing.blocks().find(drawing.tags(made).text(2)) : drawing::noRecord;
-        drawing.setErased(made, true);
+        eraseAll(context, {made});
         if (isValid(picture))
             drawing.blocks().erase(picture);
     }
