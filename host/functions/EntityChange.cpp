@@ -170,8 +170,12 @@ private:
     bool isSingle(const Key &key) const
     {
         constexpr int lastOwnCode = 79;
+        const size_t shown = m_shownByKey.value(key).size();
+        if (key.isEmbedded || shown > 1)
+            return false; // tables and their styles have a colour for each of their cells
         const bool isOwn = key.code > 0 && key.code <= lastOwnCode && key.code != chunkCode && isPlain(m_type);
-        return !key.isEmbedded && (drawing::isCommonCode(key.code) || (isOwn && m_shownByKey.value(key).size() == 1));
+        const bool isEntity = m_document.drawing().kind(m_record) == drawing::RecordKind::Entity;
+        return (isEntity && drawing::isCommonCode(key.code)) || (isOwn && shown == 1);
     }
 
     void readGroup(const Value &item, const Key &key, AngleForm angles)
