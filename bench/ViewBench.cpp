@@ -6,7 +6,7 @@
 
 #include "bench/ManyEntities.h"
 #include "bench/Ratios.h"
-#include "host/app/window/DrawingCanvas.h"
+#include "host/app/window/canvas/DrawingCanvas.h"
 #include "host/drawing/records/Entities.h"
 #include "host/kernel/documents/Session.h"
 #include "host/kernel/input/ObjectSnap.h"

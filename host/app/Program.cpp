@@ -2,9 +2,9 @@
 
 #include "host/app/batch/BatchRuns.h"
 #include "host/app/playback/SessionPlayer.h"
-#include "host/app/window/AppStyle.h"
 #include "host/app/window/MainWindow.h"
-#include "host/app/window/Preferences.h"
+#include "host/app/window/frame/AppStyle.h"
+#include "host/app/window/frame/Preferences.h"
 #include "host/app/workbench/DrawingPicture.h"
 #include "host/app/workbench/ProgramOutput.h"
 

@@ -1,6 +1,6 @@
 // What must be told apart by looking, in both styles.
 
-#include "host/app/window/AppStyle.h"
+#include "host/app/window/frame/AppStyle.h"
 
 #include <QApplication>
 #include <QCheckBox>

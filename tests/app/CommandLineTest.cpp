@@ -1,6 +1,6 @@
-#include "host/app/window/CommandLine.h"
+#include "host/app/window/entry/CommandLine.h"
 
-#include "host/app/window/PromptText.h"
+#include "host/app/window/entry/PromptText.h"
 #include "tests/support/QtTestPrinters.h"
 
 #include <QKeyEvent>

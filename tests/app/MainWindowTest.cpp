@@ -1,9 +1,9 @@
 #include "host/app/window/MainWindow.h"
 
-#include "host/app/window/CommandLine.h"
-#include "host/app/window/DrawingCanvas.h"
-#include "host/app/window/LispConsole.h"
-#include "host/app/window/Preferences.h"
+#include "host/app/window/canvas/DrawingCanvas.h"
+#include "host/app/window/entry/CommandLine.h"
+#include "host/app/window/entry/LispConsole.h"
+#include "host/app/window/frame/Preferences.h"
 #include "host/kernel/input/UserInput.h"
 #include "host/view/paint/ScenePainter.h"
 #include "platform/kernel/CKvHelp.h"

@@ -1,6 +1,6 @@
 #include "host/app/workbench/ProgramOptions.h"
 
-#include "host/app/window/Mnemonics.h"
+#include "host/app/window/frame/Mnemonics.h"
 #include "host/app/workbench/ToolIndex.h"
 #include "tests/support/QtTestPrinters.h"
 

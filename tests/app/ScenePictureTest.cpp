@@ -1,6 +1,6 @@
 // What the canvas shows of a drawing that is too large to be painted at once.
 
-#include "host/app/window/ScenePicture.h"
+#include "host/app/window/canvas/ScenePicture.h"
 
 #include "host/drawing/records/Entities.h"
 

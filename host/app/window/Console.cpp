@@ -1,10 +1,10 @@
 // Where Lisp is tried out in the window.
 
 #include "host/app/playback/SessionRecorder.h"
-#include "host/app/window/CommandLine.h"
-#include "host/app/window/CommandRunner.h"
-#include "host/app/window/LispConsole.h"
 #include "host/app/window/MainWindow.h"
+#include "host/app/window/entry/CommandLine.h"
+#include "host/app/window/entry/CommandRunner.h"
+#include "host/app/window/entry/LispConsole.h"
 
 #include <QPlainTextEdit>
 

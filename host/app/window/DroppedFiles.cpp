@@ -1,7 +1,7 @@
 // Files that are dropped on the main window.
 
-#include "host/app/window/CommandRunner.h"
 #include "host/app/window/MainWindow.h"
+#include "host/app/window/entry/CommandRunner.h"
 
 #include <QDragEnterEvent>
 #include <QMimeData>

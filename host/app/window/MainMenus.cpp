@@ -1,11 +1,12 @@
 // The menus of the main window.
 
-#include "host/app/window/CommandLine.h"
-#include "host/app/window/CommandRunner.h"
-#include "host/app/window/DrawingCanvas.h"
-#include "host/app/window/DrawingTabs.h"
 #include "host/app/window/MainWindow.h"
-#include "host/app/window/Mnemonics.h"
+#include "host/app/window/canvas/DrawingCanvas.h"
+#include "host/app/window/entry/CommandLine.h"
+#include "host/app/window/entry/CommandRunner.h"
+#include "host/app/window/frame/DrawingTabs.h"
+#include "host/app/window/frame/Mnemonics.h"
+#include "host/app/window/frame/Panels.h"
 #include "platform/kernel/CKvHelp.h"
 
 #include <QAction>
@@ -109,6 +110,7 @@ void MainWindow::buildViewMenu()
               withCanvas([](DrawingCanvas &current) { current.zoomBy(1.0 / 1.5); }));
     menu.addSeparator();
     addAction(menu, tr("Lisp &console"), QKeySequence(Qt::Key_F12), WhenBusy::Enabled, [this] { toggleConsole(); });
+    m_panels->addTo(menu);
     menu.addSeparator();
     auto *grounds = new QActionGroup(this);
     m_blackGround = addChoice(menu, *grounds, tr("&Black ground"), [this] { setGround(view::Ground::Black); });

@@ -1,15 +1,17 @@
 #include "host/app/window/MainWindow.h"
 
 #include "host/app/playback/SessionRecorder.h"
-#include "host/app/window/CommandLine.h"
-#include "host/app/window/CommandRunner.h"
-#include "host/app/window/DrawingCanvas.h"
-#include "host/app/window/DrawingStatus.h"
-#include "host/app/window/DrawingTabs.h"
-#include "host/app/window/LayoutTabs.h"
-#include "host/app/window/LispConsole.h"
-#include "host/app/window/Preferences.h"
-#include "host/app/window/TrustQuestion.h"
+#include "host/app/window/canvas/DrawingCanvas.h"
+#include "host/app/window/entry/CommandLine.h"
+#include "host/app/window/entry/CommandRunner.h"
+#include "host/app/window/entry/LispConsole.h"
+#include "host/app/window/files/TrustQuestion.h"
+#include "host/app/window/frame/DrawingStatus.h"
+#include "host/app/window/frame/DrawingTabs.h"
+#include "host/app/window/frame/LayoutTabs.h"
+#include "host/app/window/frame/Panels.h"
+#include "host/app/window/frame/Preferences.h"
+#include "host/app/window/frame/WindowServices.h"
 #include "host/kernel/documents/ScreenSketch.h"
 #include "host/kernel/variables/SystemVariables.h"
 
@@ -53,6 +55,8 @@ MainWindow::MainWindow(const WorkbenchOptions &options)
     addDockWidget(Qt::BottomDockWidgetArea, m_commandDock);
     resizeDocks({m_commandDock}, {150}, Qt::Vertical);
     buildConsole();
+    buildServices();
+    m_panels = std::make_unique<Panels>(*this, *m_services);
     buildMenus();
     connectRunner();
 
@@ -81,9 +85,10 @@ MainWindow::~MainWindow()
     m_recorder.reset();
     // Closing documents tells of changes that nobody is left to show.
     disconnect(&m_workbench->documents(), nullptr, this, nullptr);
+    disconnect(&m_workbench->documents(), nullptr, m_services.get(), nullptr);
     disconnect(m_tabs, nullptr, this, nullptr);
     for (const auto &open : m_workbench->documents().documents())
-        open->disconnect(this);
+        open->disconnect(this), open->disconnect(m_services.get());
     // The canvases look at drawings that go with the workbench.
     while (m_tabs->count() > 0)
         delete m_tabs->widget(0);
@@ -288,6 +293,7 @@ void MainWindow::loadPreferences()
     restoreGeometry(preferences.geometry);
     m_commandLine->setEntries(preferences.entries);
     m_console->setEntries(preferences.forms);
+    restoreState(preferences.places);
     setGround(preferences.ground);
 }
 
@@ -296,6 +302,7 @@ void MainWindow::savePreferences() const
     const Preferences preferences{.style = currentStyle(),
                                   .ground = m_tabs->ground(),
                                   .geometry = saveGeometry(),
+                                  .places = saveState(),
                                   .entries = m_commandLine->entries(),
                                   .forms = m_console->entries()};
     preferences.save(m_workbench->session().home());
@@ -314,6 +321,7 @@ void MainWindow::updateState()
     m_redo->setEnabled(isIdle && active && active->undoSteps().canRedo());
     updateWindowTitle();
     m_reportTimer.start();
+    emit m_services->stateChanged();
 }
 
 void MainWindow::updateTitle(const kernel::Document &document)

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "host/app/playback/SessionPlayer.h"
-#include "host/app/window/AppStyle.h"
-#include "host/app/window/FileActions.h"
+#include "host/app/window/files/FileActions.h"
+#include "host/app/window/frame/AppStyle.h"
 #include "host/app/workbench/Workbench.h"
 #include "host/view/display/AciColor.h"
 
@@ -25,7 +25,9 @@ class DrawingStatus;
 class DrawingTabs;
 class LayoutTabs;
 class LispConsole;
+class Panels;
 class SessionRecorder;
+class WindowServices;
 
 /// The window: drawings in tabs, one command line for all, menus and a status bar.
 ///
@@ -113,6 +115,9 @@ private:
 
     /// What is entered, answered and cancelled goes to the runner, and its prompts to the canvas in front.
     void connectRunner();
+    // What the parts ask of the window, in MainServices.cpp.
+    class Services;
+    void buildServices();
     /// With one change of the tab in front for all of them.
     void openAll(const QStringList &drawings);
     // Tabs follow the documents, whoever opened them: a menu, a drop, a command, a module.
@@ -170,6 +175,8 @@ private:
     std::unique_ptr<CommandRunner> m_runner;
     std::unique_ptr<SessionRecorder> m_recorder; ///< null while nothing is recorded
     std::unique_ptr<DrawingStatus> m_status;
+    std::unique_ptr<WindowServices> m_services;
+    std::unique_ptr<Panels> m_panels;
     QList<QAction *> m_idleActions; ///< disabled while something runs
     // Entries whose mark or state follows what they are about.
     QAction *m_record = nullptr;

@@ -1,9 +1,9 @@
 // Sessions that the window records.
 
 #include "host/app/playback/SessionRecorder.h"
-#include "host/app/window/CommandLine.h"
-#include "host/app/window/CommandRunner.h"
 #include "host/app/window/MainWindow.h"
+#include "host/app/window/entry/CommandLine.h"
+#include "host/app/window/entry/CommandRunner.h"
 
 #include <QDir>
 #include <QFileDialog>

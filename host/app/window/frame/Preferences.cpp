@@ -1,4 +1,4 @@
-#include "host/app/window/Preferences.h"
+#include "host/app/window/frame/Preferences.h"
 
 #include "files/qt/SettingsFile.h"
 
@@ -29,6 +29,7 @@ Preferences Preferences::load(const QString &folder)
     if (settings.value("ground").toString() == "white"_L1)
         preferences.ground = view::Ground::White;
     preferences.geometry = settings.value("geometry").toByteArray();
+    preferences.places = settings.value("places").toByteArray();
     preferences.entries = settings.value("entries").toStringList();
     preferences.forms = settings.value("forms").toStringList();
     return preferences;
@@ -41,6 +42,7 @@ void Preferences::save(const QString &folder) const
         settings.setValue("style", style == Style::Dark ? u"dark"_s : u"light"_s);
         settings.setValue("ground", ground == view::Ground::White ? u"white"_s : u"black"_s);
         settings.setValue("geometry", geometry);
+        settings.setValue("places", places);
         settings.setValue("entries", entries);
         settings.setValue("forms", forms);
     });

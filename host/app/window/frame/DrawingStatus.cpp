@@ -1,4 +1,4 @@
-#include "host/app/window/DrawingStatus.h"
+#include "host/app/window/frame/DrawingStatus.h"
 
 #include "host/drawing/records/HeaderVariables.h"
 

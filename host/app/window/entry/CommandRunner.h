@@ -1,7 +1,7 @@
 #pragma once
 
 #include "host/app/playback/SessionPlayer.h"
-#include "host/app/window/WindowFeeder.h"
+#include "host/app/window/entry/WindowFeeder.h"
 #include "host/kernel/documents/Session.h"
 
 #include <functional>

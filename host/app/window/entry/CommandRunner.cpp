@@ -1,6 +1,6 @@
-#include "host/app/window/CommandRunner.h"
+#include "host/app/window/entry/CommandRunner.h"
 
-#include "host/app/window/CommandLine.h"
+#include "host/app/window/entry/CommandLine.h"
 
 using namespace Qt::StringLiterals;
 

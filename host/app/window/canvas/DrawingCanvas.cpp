@@ -1,6 +1,6 @@
-#include "host/app/window/DrawingCanvas.h"
+#include "host/app/window/canvas/DrawingCanvas.h"
 
-#include "host/app/window/PointerMarks.h"
+#include "host/app/window/canvas/PointerMarks.h"
 #include "host/drawing/records/HeaderVariables.h"
 #include "host/drawing/records/PageSetup.h"
 #include "host/kernel/documents/CurrentSpace.h"

@@ -1,4 +1,4 @@
-#include "host/app/window/ScenePicture.h"
+#include "host/app/window/canvas/ScenePicture.h"
 
 #include <QElapsedTimer>
 

@@ -1,6 +1,6 @@
 // What a press on the canvas means: an answer to the prompt that waits, a choice of entities, or a corner of a box.
 
-#include "host/app/window/DrawingCanvas.h"
+#include "host/app/window/canvas/DrawingCanvas.h"
 #include "host/kernel/documents/CurrentSpace.h"
 #include "host/kernel/documents/CurrentView.h"
 #include "host/view/paint/Picking.h"

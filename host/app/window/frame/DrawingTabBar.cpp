@@ -1,4 +1,4 @@
-#include "host/app/window/DrawingTabBar.h"
+#include "host/app/window/frame/DrawingTabBar.h"
 
 namespace host::app {
 

@@ -1,4 +1,4 @@
-#include "host/app/window/Mnemonics.h"
+#include "host/app/window/frame/Mnemonics.h"
 
 #include <QSet>
 

@@ -1,4 +1,4 @@
-#include "host/app/window/PointerMarks.h"
+#include "host/app/window/canvas/PointerMarks.h"
 
 #include "host/drawing/geometry/SnapPoints.h"
 

@@ -1,4 +1,4 @@
-#include "host/app/window/TrustQuestion.h"
+#include "host/app/window/files/TrustQuestion.h"
 
 #include "files/qt/VisibleText.h"
 

@@ -1,4 +1,4 @@
-#include "host/app/window/LispConsole.h"
+#include "host/app/window/entry/LispConsole.h"
 
 #include <QAbstractItemView>
 #include <QCompleter>

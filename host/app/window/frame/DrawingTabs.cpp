@@ -1,7 +1,7 @@
-#include "host/app/window/DrawingTabs.h"
+#include "host/app/window/frame/DrawingTabs.h"
 
-#include "host/app/window/DrawingCanvas.h"
-#include "host/app/window/DrawingTabBar.h"
+#include "host/app/window/canvas/DrawingCanvas.h"
+#include "host/app/window/frame/DrawingTabBar.h"
 
 #include <QDir>
 #include <QTextDocument>

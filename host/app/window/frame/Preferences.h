@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/app/window/AppStyle.h"
+#include "host/app/window/frame/AppStyle.h"
 #include "host/view/display/AciColor.h"
 
 #include <QByteArray>
@@ -14,6 +14,7 @@ struct Preferences
     Style style = Style::Light; ///< of all windows
     view::Ground ground = view::Ground::Black;
     QByteArray geometry; ///< of the window; empty: as it comes
+    QByteArray places;   ///< of its panels and bars; empty likewise
     QStringList entries; ///< of the command line, oldest first
     QStringList forms;   ///< of the Lisp console, likewise
 

@@ -1,4 +1,4 @@
-#include "host/app/window/DragPreview.h"
+#include "host/app/window/canvas/DragPreview.h"
 
 #include <QPainter>
 
@@ -7,7 +7,7 @@ namespace host::app {
 namespace {
 
 /// Room round the entities' boxes for thick lines and the marks of points, in pixels.
-constexpr int border = 8;
+constexpr int dragBorder = 8;
 
 } // namespace
 
@@ -48,7 +48,7 @@ QRect DragPreview::reach(view::Scene &scene, int space, const view::ViewTransfor
     if (box.isEmpty())
         return {};
     const QRectF seen = QRectF(around.toScreen(box.low.xy()), around.toScreen(box.high.xy())).normalized();
-    return (seen.adjusted(-border, -border, border, border) & QRectF(all)).toAlignedRect();
+    return (seen.adjusted(-dragBorder, -dragBorder, dragBorder, dragBorder) & QRectF(all)).toAlignedRect();
 }
 
 void DragPreview::makePicture(view::Scene &scene, const Basis &basis)

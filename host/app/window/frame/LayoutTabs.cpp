@@ -1,4 +1,4 @@
-#include "host/app/window/LayoutTabs.h"
+#include "host/app/window/frame/LayoutTabs.h"
 
 #include "host/drawing/records/LayoutTabs.h"
 #include "host/kernel/documents/CurrentSpace.h"

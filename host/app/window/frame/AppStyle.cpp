@@ -1,4 +1,4 @@
-#include "host/app/window/AppStyle.h"
+#include "host/app/window/frame/AppStyle.h"
 
 #include <QAbstractItemView>
 #include <QApplication>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "host/app/window/DragPreview.h"
-#include "host/app/window/ScenePicture.h"
+#include "host/app/window/canvas/DragPreview.h"
+#include "host/app/window/canvas/ScenePicture.h"
 #include "host/drawing/geometry/SnapPoints.h"
 #include "host/kernel/documents/Document.h"
 #include "host/kernel/input/PromptRequest.h"

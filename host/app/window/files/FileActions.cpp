@@ -1,4 +1,4 @@
-#include "host/app/window/FileActions.h"
+#include "host/app/window/files/FileActions.h"
 
 #include "host/app/workbench/DrawingPicture.h"
 

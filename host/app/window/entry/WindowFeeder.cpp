@@ -1,4 +1,4 @@
-#include "host/app/window/WindowFeeder.h"
+#include "host/app/window/entry/WindowFeeder.h"
 
 #include <QCoreApplication>
 

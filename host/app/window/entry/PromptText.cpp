@@ -1,4 +1,4 @@
-#include "host/app/window/PromptText.h"
+#include "host/app/window/entry/PromptText.h"
 
 #include <QUrl>
 
