@@ -29,6 +29,19 @@ TEST(EntityDrawing, SpacesAndViewports)
     EXPECT_FALSE(paper.isInk(5, 2)) << "the model itself is not on the sheet";
 }
 
+TEST(EntityDrawing, ViewportsAreSeenThroughWhenTheirFramesAreHidden)
+{
+    const std::string viewport = "0 VIEWPORT|8 FRAMES|67 1|10 50|20 40|40 60|41 40|68 2|69 2|12 5|22 2|16 0|26 0|36 1"
+                                 "|17 0|27 0|37 0|45 10|90 0";
+    for (const std::string layer : {"70 0|62 -7", "70 1|62 7"}) {
+        const Rendering paper(
+            {.entities = viewport + "|0 LINE|8 0|10 0|20 2|11 10|21 2", .layers = "0 LAYER|2 FRAMES|" + layer}, {},
+            Scene::paperSpace);
+        EXPECT_TRUE(paper.isInk(50, 40)) << layer;
+        EXPECT_FALSE(paper.isInk(50, 20)) << layer;
+    }
+}
+
 TEST(EntityDrawing, ViewportsOfAllVersionsFreezeLayers)
 {
     const std::string viewport = "0 VIEWPORT|8 0|67 1|10 50|20 40|40 60|41 40|68 2|69 2|";

@@ -165,9 +165,8 @@ Dialogue<bool> askArea(CommandContext &context, PlotRequest *request)
         request->window = drawing::layoutLimits(drawing, request->layout);
     } else if (area == u"Display" && request->layout.name == currentLayout(drawing)) {
         request->window = shownArea(context);
-    } else if (area == u"Layout" &&
-               drawing::readPageSetup(drawing, request->layout).area != drawing::PlotArea::Layout) {
-        request->window = drawing::layoutLimits(drawing, request->layout);
+    } else if (area == u"Layout") {
+        request->isSheet = true;
     }
     // A line without height has no proportions, but may be plotted.
     const Box box = request->window.value_or(Box());
@@ -194,8 +193,10 @@ Dialogue<bool> askScale(CommandContext &context, PlotRequest *request)
     }
     const PromptReply offset =
         co_await context.point(u"Enter plot offset (x,y) or [Center] <Center>: "_s, {}, {}, u"Center"_s);
-    if (offset.hasValue() && (request->window || request->paper))
-        context.print(u"\nPlots lie in the middle of their paper."_s);
+    if (isFit && std::exchange(request->isSheet, false) && page.area != drawing::PlotArea::Layout)
+        request->window = drawing::layoutLimits(context.drawing(), request->layout);
+    if (offset.hasValue())
+        request->offset = (offset.point * unitSize).xy();
     co_return !context.hasFailed();
 }
 

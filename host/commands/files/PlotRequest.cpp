@@ -76,7 +76,11 @@ QString writePlot(CommandContext &context, const PlotRequest &request)
     }
     view::ExportOptions how;
     how.layouts = {request.layout.name};
-    how.sheet = {.paper = request.paper, .scale = request.scale, .window = request.window};
+    how.sheet = {.paper = request.paper,
+                 .scale = request.scale,
+                 .window = request.window,
+                 .offset = request.offset,
+                 .isSheet = request.isSheet};
     how.withLineweights = request.withLineweights;
     how.withPlotStyles = request.withStyles;
     how.surroundings = expressionSurroundings(document);

@@ -15,11 +15,13 @@ class CommandContext;
 struct PlotRequest
 {
     drawing::LayoutTab layout{};
-    QString extension{};                  ///< of the file: "pdf", "png" or "svg"
-    std::optional<QSizeF> paper{};        ///< millimetres, as it is held
-    std::optional<drawing::Box> window{}; ///< drawing units
-    std::optional<double> scale{};        ///< millimetres a drawing unit
-    QString styles{};                     ///< file name of a table
+    QString extension{};                   ///< of the file: "pdf", "png" or "svg"
+    std::optional<QSizeF> paper{};         ///< millimetres, as it is held
+    std::optional<drawing::Box> window{};  ///< drawing units
+    bool isSheet = false;                  ///< the layout as it stands on its paper
+    std::optional<double> scale{};         ///< millimetres a drawing unit
+    std::optional<drawing::Vec2> offset{}; ///< millimetres from the paper's corner; in the middle without it
+    QString styles{};                      ///< file name of a table
     bool withStyles = true;
     bool withLineweights = true;
     QString path{};

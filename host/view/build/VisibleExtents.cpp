@@ -58,14 +58,25 @@ void VisibleExtents::addPlain(Seeing what, Box &box)
     }
 }
 
+/// Nothing where a frozen layer hides it. The layer of a viewport is that of its frame.
+std::optional<VisibleExtents::Seeing> VisibleExtents::through(const Reference &reference, const Style &style,
+                                                              Seeing what) const
+{
+    if (reference.isViewport)
+        return seeing(reference.block, isShown(0));
+    if (m_scene.appearance().layerLook(style.layer).isFrozen)
+        return {};
+    return seeing(reference.block, isSeen(style, what));
+}
+
 /// A layer that is off does not hide what inserts on it bring from other layers.
 std::vector<VisibleExtents::Seeing> VisibleExtents::shownBy(Seeing what)
 {
     std::vector<Seeing> shown;
     forEachOfReferences(what, [&](const DisplayItem &item) {
         const auto *reference = std::get_if<std::unique_ptr<Reference>>(&item.shape);
-        if (reference && !m_scene.appearance().layerLook(item.style.layer).isFrozen)
-            shown.push_back(seeing((*reference)->block, isSeen(item.style, what)));
+        if (const auto inner = reference ? through(**reference, item.style, what) : std::nullopt)
+            shown.push_back(*inner);
     });
     return shown;
 }
@@ -85,8 +96,8 @@ void VisibleExtents::measure(Seeing what)
         if (!reference) {
             if (isSeen(item.style, what))
                 addItemBox(item, box);
-        } else if (!m_scene.appearance().layerLook(item.style.layer).isFrozen) {
-            box.add(referenceBox(**reference, m_known.value(seeing((*reference)->block, isSeen(item.style, what)))));
+        } else if (const auto inner = through(**reference, item.style, what)) {
+            box.add(referenceBox(**reference, m_known.value(*inner)));
         }
     });
     m_known.insert(what, box);

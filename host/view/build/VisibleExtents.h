@@ -28,6 +28,7 @@ private:
     std::vector<Seeing> shownBy(Seeing what);
     void measure(Seeing what);
     bool isSeen(const Style &style, Seeing what) const;
+    std::optional<Seeing> through(const Reference &reference, const Style &style, Seeing what) const;
     bool isShown(int layer) const;
 
     Scene &m_scene;

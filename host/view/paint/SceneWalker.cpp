@@ -190,7 +190,10 @@ void SceneWalker::walkItems(const std::vector<DisplayItem> &items, const Context
         const Appearance &appearance = m_scene.appearance();
         const bool isHiddenFrame = (item.isMaskFrame && !appearance.showsMaskFrames(m_options.plottedOnly)) ||
                                    (item.isImageFrame && !appearance.showsImageFrames(m_options.plottedOnly));
-        if (isHiddenFrame || isHidden(style, std::holds_alternative<std::unique_ptr<Reference>>(item.shape), context))
+        const auto *reference = std::get_if<std::unique_ptr<Reference>>(&item.shape);
+        // On the layer of a viewport lies its frame alone: people hide that and see through it all the same.
+        const bool isView = reference && (*reference)->isViewport;
+        if (isHiddenFrame || (!isView && isHidden(style, reference != nullptr, context)))
             continue;
         if (!mayGoOn(context, 1))
             return;

@@ -86,6 +86,15 @@ Box sheetInUnits(const PageSetup &setup, double scale)
     return {{low.x, low.y, 0.0}, {low.x + setup.paper.x / scale, low.y + setup.paper.y / scale, 0.0}};
 }
 
+/// The paper from its very corner: what a sheet without margins, or on other paper, shows.
+void placeSheet(const PageSetup &setup, const SheetWish &wish, SheetPlan &plan)
+{
+    const double pageScale = setup.scale * setup.unitSize;
+    plan.scale = wish.scale.value_or(pageScale > 0.0 ? pageScale : 1.0);
+    plan.printed = QRectF(QPointF(), plan.size);
+    showFromCorner(plan, {}, wish.offset.value_or(Vec2{}));
+}
+
 /// The page's own scale, unless other paper is wished: then all that was on the sheet is to be on that.
 void placePage(Scene &scene, const PageSetup &setup, const std::optional<Box> &area, const SheetWish &wish,
                SheetPlan &plan)
@@ -103,7 +112,9 @@ void placePage(Scene &scene, const PageSetup &setup, const std::optional<Box> &a
     const bool keepsScale = pageScale > 0.0 && !wish.paper && !wish.window;
     plan.scale = wish.scale.value_or(keepsScale ? pageScale : fittingScale(shown, plan.printed.size()));
     if (isSheet && !wish.paper)
-        showFromCorner(plan, {}, setup.offset);
+        showFromCorner(plan, {}, wish.offset.value_or(setup.offset));
+    else if (wish.offset)
+        showFromCorner(plan, shown.low.xy(), *wish.offset);
     else if (setup.isCentred || isSheet || wish.window || wish.paper)
         showCentred(plan, shown);
     else
@@ -154,7 +165,10 @@ SheetPlan planLayout(Scene &scene, const drawing::LayoutTab &layout, const Sheet
     const std::optional<Box> area = wish.window ? wish.window : chosenArea(scene.drawing(), layout, setup);
     const QSizeF own = setup.hasPaper() ? QSizeF(setup.paper.x, setup.paper.y) : usualSheet;
     SheetPlan plan{.block = layoutBlock(scene, layout), .size = paperFor(wish, own)};
-    if (setup.hasPaper() || area)
+    const bool isNewSheet = wish.isSheet && !area && (wish.paper || !setup.hasPaper());
+    if (isNewSheet)
+        placeSheet(setup, wish, plan);
+    else if (setup.hasPaper() || area)
         placePage(scene, setup, area, wish, plan);
     else
         plan = planBlock(scene, plan.block, {.paper = plan.size, .scale = wish.scale});

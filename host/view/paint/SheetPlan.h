@@ -19,6 +19,11 @@ struct SheetWish
     bool turnsPaper = false;
     std::optional<double> scale{}; ///< millimetres a drawing unit
     std::optional<Box> window{};   ///< what is shown, drawing units
+    /// From the lower left corner of what is printed on to that of what is shown; in the middle without it.
+    std::optional<Vec2> offset{};
+    /// The sheet of a layout as it stands, its origin the corner of the paper: what `window` is otherwise, which counts
+    /// first. Its scale is `scale`, else the page's own, else a unit a millimetre.
+    bool isSheet = false;
 };
 
 /// Where on a sheet what is drawn.
