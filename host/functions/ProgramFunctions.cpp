@@ -37,6 +37,8 @@ Value startapp(Arguments &args)
         document.print(QStringLiteral("\nstartapp: %1 is not started: the user's settings do not let programs start "
                                       "others.\n")
                            .arg(program));
+        document.addKeptBack({KeptBack::Act::Start, program,
+                              QStringLiteral("the user's settings do not let programs start others"), false});
         return {};
     }
     qint64 process = 0;

@@ -962,5 +962,34 @@ TEST_F(MainWindowTest, RecordsASessionThatPlays)
     EXPECT_TRUE(drawn.contains(u"(40 . 5.0)"_s)) << drawn.toStdString();
 }
 
+TEST_F(MainWindowTest, WhatWasKeptBackStandsAboveTheDrawingAndCanBeAllowed)
+{
+    write(u"own.lsp"_s, "(setq ran (cons 1 ran))");
+    auto *bar = window->findChild<QWidget *>(u"trustBar"_s);
+    ASSERT_TRUE(bar && !bar->isVisible());
+    const QString load = u"(load \"%1\" nil)"_s.arg(path(u"own.lsp"_s));
+    const auto keepBack = [&] {
+        // The question that comes first is answered with No.
+        ortakit::test::ModalAnswers answers;
+        answers.press(QMessageBox::No);
+        lisp(u"(defun again () %1)(again)"_s.arg(load));
+        QCoreApplication::processEvents();
+    };
+    keepBack();
+    EXPECT_TRUE(bar->isVisible());
+    EXPECT_TRUE(bar->findChild<QLabel *>(u"trustText"_s)->text().contains(u"own.lsp was not loaded"_s));
+    bar->findChild<QAbstractButton *>(u"trustClose"_s)->click();
+    window->workbench().documents().create();
+    EXPECT_FALSE(bar->isVisible()) << "another drawing has its own";
+    window->tabs().setCurrentIndex(0);
+    EXPECT_TRUE(bar->isVisible());
+    bar->findChild<QAbstractButton *>(u"trustDetails"_s)->click();
+    bar->findChild<QAbstractButton *>(u"trustOnce"_s)->click();
+    EXPECT_EQ(lisp(u"ran"_s), u"(1)"_s);
+    EXPECT_EQ(lisp(u"(again) ran"_s), u"(1 1)"_s) << "for the session";
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(bar->isVisible());
+}
+
 } // namespace
 } // namespace host::app

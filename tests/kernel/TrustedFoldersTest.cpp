@@ -94,6 +94,38 @@ TEST_F(TrustedFoldersTest, APersonIsAskedAndTheListIsKept)
     EXPECT_EQ(lisp("(run (strcat top \"named/sub/tool\"))"), "\"named/sub\"");
 }
 
+TEST_F(TrustedFoldersTest, WhatWasKeptBackCanBeAllowed)
+{
+    using Allowance = TrustedFolders::Allowance;
+    TrustedFolders &trusted = session.trustedFolders();
+    write("work/out.txt", "x");
+    lisp("(run \"own\") (run \"own\") (run (strcat top \"open/tool\")) (startapp \"rm\" \"-r\")");
+    document().findNamedFile(path("work/out.txt"));
+    const std::vector<KeptBack> kept = document().keptBack().items();
+    QStringList told;
+    for (const KeptBack &item : kept)
+        told.append(u"%1 %2"_s.arg(int(item.act)).arg(QDir(folder.path()).relativeFilePath(item.path)));
+    EXPECT_EQ(told, (QStringList{u"1 beside/own.lsp"_s, u"1 open/tool.lsp"_s, u"2 rm"_s, u"0 work/out.txt"_s}));
+    // What everyone may write to can be allowed once, not trusted; what starts others is for the settings alone.
+    const bool allowed[][2] = {{true, true}, {true, false}, {false, false}, {true, true}};
+    for (std::size_t i = 0; i < kept.size(); ++i)
+        for (const auto allowance : {Allowance::Once, Allowance::Folder}) {
+            SCOPED_TRACE(told[int(i)].toStdString());
+            document().addKeptBack(kept[i]);
+            EXPECT_EQ(trusted.allow(document(), kept[i], allowance).isEmpty(), allowed[i][int(allowance)]);
+        }
+    EXPECT_EQ(document().keptBack().items(), (std::vector<KeptBack>{kept[2], kept[1]}));
+    EXPECT_EQ(lisp("(list (run \"own\") (run (strcat top \"open/tool\")))"), "(\"beside\" \"open\")");
+    EXPECT_EQ(document().findNamedFile(path("work/out.txt")), path("work/out.txt"));
+    EXPECT_TRUE(trusted.named().endsWith(path("beside"))) << trusted.named().toStdString();
+    EXPECT_EQ(trusted.named(TrustedFolders::List::Read), path("work"));
+    // A million names are not a million lines.
+    for (int i = 0; i < 1000; ++i)
+        document().addKeptBack({KeptBack::Act::Read, QString::number(i), {}, true});
+    EXPECT_EQ(document().keptBack().items().size() + document().keptBack().furtherCount(), 1002U);
+    EXPECT_EQ(document().keptBack().items().size(), KeptBackList::most);
+}
+
 TEST_F(TrustedFoldersTest, TheUsersDataDoNotVouchForWhatLiesBesideTheDrawing)
 {
     EXPECT_EQ(lisp("(run (strcat top \"home/tool\"))"), "\"home\"");

@@ -11,6 +11,7 @@
 #include "host/app/window/frame/LayoutTabs.h"
 #include "host/app/window/frame/Panels.h"
 #include "host/app/window/frame/Preferences.h"
+#include "host/app/window/frame/TrustBar.h"
 #include "host/app/window/frame/WindowServices.h"
 #include "host/kernel/documents/ScreenSketch.h"
 #include "host/kernel/variables/SystemVariables.h"
@@ -56,6 +57,7 @@ MainWindow::MainWindow(const WorkbenchOptions &options)
     resizeDocks({m_commandDock}, {150}, Qt::Vertical);
     buildConsole();
     buildServices();
+    middle->insertWidget(0, new TrustBar(*m_services, centralWidget()));
     m_panels = std::make_unique<Panels>(*this, *m_services);
     buildMenus();
     connectRunner();
@@ -190,6 +192,7 @@ void MainWindow::addTab(kernel::Document *document)
         m_status->showTexts(document->sketch().text(Coordinates), document->sketch().text(Status));
     });
     connect(document, &kernel::Document::printed, m_commandLine, &CommandLine::print);
+    connect(document, &kernel::Document::regenerated, &m_reportTimer, qOverload<>(&QTimer::start));
     connect(document, &kernel::Document::titleChanged, this, [this, document] { updateTitle(*document); });
     connect(document, &kernel::Document::runEnded, this, [this, document] {
         updateTitle(*document);

@@ -330,6 +330,19 @@ void Document::tellUnread(const QString &path, const QString &reason)
                                            .arg(files::visibleText(QDir::toNativeSeparators(path)), reason));
 }
 
+void Document::addKeptBack(const KeptBack &item)
+{
+    if (m_keptBack.add(item))
+        emit keptBackChanged();
+}
+
+void Document::removeKeptBack(const KeptBack &item)
+{
+    m_keptBack.remove(item);
+    m_unread.remove(item.path);
+    emit keptBackChanged();
+}
+
 CKvLispEngine *Document::lispEngine()
 {
     return m_lispEngine.get();

@@ -6,6 +6,7 @@
 #include "host/kernel/documents/CommandMemory.h"
 #include "host/kernel/documents/UndoSteps.h"
 #include "host/kernel/files/DrawingClaim.h"
+#include "host/kernel/files/KeptBack.h"
 #include "host/kernel/files/WriteObstacle.h"
 #include "platform/kernel/CKvDocument.h"
 
@@ -205,6 +206,12 @@ public:
     const QStringList &readableFiles() const { return m_readableFiles; }
     /// Says once that a file which the drawing names was not read.
     void tellUnread(const QString &path, const QString &reason);
+    /// What the drawing and programs in it were kept from doing.
+    const KeptBackList &keptBack() const { return m_keptBack; }
+    /// One more, which is told by whoever adds it.
+    void addKeptBack(const KeptBack &item);
+    /// It was allowed, or is none of the person's business any more; told anew when it comes again.
+    void removeKeptBack(const KeptBack &item);
     /// The command that waits for input from a Lisp program's next (command ...); null when none does.
     CommandRun *pendingCommand() { return m_pendingCommand.get(); }
     /// In place of the one before, which is given up.
@@ -267,6 +274,8 @@ signals:
     void highlightChanged();
     void sketchChanged();
     void impliedSelectionChanged();
+    /// keptBack() is another.
+    void keptBackChanged();
     /// The path or the modified mark may be another now.
     void titleChanged();
     /// A Lisp program ends with an error that it does not catch; its *error* has not been called yet.
@@ -313,6 +322,7 @@ private:
     QStringList m_commandNames; ///< outermost first
     QStringList m_readableFiles;
     QSet<QString> m_unread; ///< what was told
+    KeptBackList m_keptBack;
     QString m_lastCommand;  ///< for an empty line
     bool m_isDialogOpen = false;
     int m_runs = 0; ///< under way, one inside the other

@@ -96,7 +96,39 @@ drawing::ReadableFiles TrustedFolders::readable(Document &document) const
 {
     return {.folders = searched() + m_readForSession + fullPaths(named(List::Read)),
             .files = document.readableFiles(),
-            .refused = [&document](const QString &path, const QString &reason) { document.tellUnread(path, reason); }};
+            .refused = [&document](const QString &path, const QString &reason) {
+                document.tellUnread(path, reason);
+                document.addKeptBack({KeptBack::Act::Read, path, reason, true});
+            }};
+}
+
+bool TrustedFolders::append(const QString &folder, List list)
+{
+    return setNamed(named(list).isEmpty() ? folder : named(list) + u';' + folder, list);
+}
+
+QString TrustedFolders::allow(Document &document, const KeptBack &item, Allowance allowance)
+{
+    const List list = item.act == KeptBack::Act::Read ? List::Read : List::Run;
+    const QString folder = QFileInfo(item.path).absolutePath();
+    if (!item.mayBeAllowed)
+        return u"This cannot be allowed here: %1."_s.arg(item.reason);
+    if (allowance == Allowance::Folder) {
+        const QString open = list == List::Run ? openToEveryone(item.path) : QString();
+        if (!open.isEmpty() || folder.contains(u';'))
+            return u"The folder cannot be trusted: everyone may write to it, or its name has a \";\"."_s;
+        if (!append(folder, list))
+            return u"The list cannot be kept in %1."_s.arg(m_session.settings().path());
+    } else if (list == List::Read) {
+        document.allowReading(item.path);
+    } else {
+        m_allowed.append(item.path);
+    }
+    m_refused.removeAll(item.path);
+    document.removeKeptBack(item);
+    if (list == List::Read)
+        emit document.regenerated();
+    return {};
 }
 
 bool TrustedFolders::isNamed(const QString &folder) const
@@ -140,7 +172,7 @@ bool TrustedFolders::ask(Document &document, const QString &path, const QString 
     const Answer answer = m_question ? m_question(path, reason, canTrust) : Answer::No;
     if (answer == Answer::No)
         m_refused.append(path);
-    if (answer == Answer::Always && !setNamed(named().isEmpty() ? folder : named() + u';' + folder))
+    if (answer == Answer::Always && !append(folder, List::Run))
         document.print(u"\nTRUSTEDPATHS cannot be kept in %1.\n"_s.arg(m_session.settings().path()));
     return answer != Answer::No;
 }
@@ -153,12 +185,15 @@ QString TrustedFolders::wanted(Document &document, const QString &path)
 
 bool TrustedFolders::mayRun(Document &document, const QString &path, const QString &reason, lisp::LoadedBy by)
 {
+    if (m_allowed.contains(path))
+        return true;
     const bool isNew = by == lisp::LoadedBy::Person || !m_refused.contains(path);
     if (isNew && ask(document, path, reason))
         return true;
     document.print(
         u"\n%1 was not loaded: %2. TRUSTEDPATHS, or the option --trust, names folders whose programs may run.\n"_s.arg(
             files::visibleText(QDir::toNativeSeparators(path)), reason));
+    document.addKeptBack({KeptBack::Act::Run, path, reason, true});
     return false;
 }
 

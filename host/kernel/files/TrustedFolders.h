@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/drawing/references/NamedFiles.h"
+#include "host/kernel/files/KeptBack.h"
 #include "host/lisp/Console.h"
 #include "platform/Export.h"
 
@@ -54,6 +55,16 @@ public:
     /// Who is asked; without a question (as in the beginning), what is not trusted does not run.
     void setQuestion(Question question) { m_question = std::move(question); }
 
+    /// How far something is allowed.
+    enum class Allowance
+    {
+        Once,  ///< this file: to be read while the document is open, to be run while the session lives
+        Folder ///< all of its folder, from now on; kept in the lists
+    };
+    /// Allows what the document was kept from, which is off its list then: what was not read is shown, a program may be
+    /// loaded now and is not loaded by this. Why it cannot be, as a sentence; empty when it was.
+    QString allow(Document &document, const KeptBack &item, Allowance allowance);
+
     /// What speaks against running this file for a document, as the end of a sentence; empty when nothing does. The
     /// user's data are no reason to trust what lies right beside the drawing.
     QString objection(const QString &path, const Document &document) const;
@@ -75,6 +86,8 @@ private:
     QStringList searched() const;
     bool ask(Document &document, const QString &path, const QString &reason);
     bool isNamed(const QString &folder) const;
+    /// The folder at the end of a list that is kept.
+    bool append(const QString &folder, List list);
     /// Asks, or says that it does not run.
     bool mayRun(Document &document, const QString &path, const QString &reason, lisp::LoadedBy by);
 
@@ -83,6 +96,7 @@ private:
     QStringList m_forSession;
     QStringList m_readForSession;
     QStringList m_refused; ///< by a person, so that programs need not ask again
+    QStringList m_allowed; ///< by a person, as full paths
 };
 
 } // namespace host::kernel
