@@ -323,7 +323,7 @@ private:
     QStringList m_readableFiles;
     QSet<QString> m_unread; ///< what was told
     KeptBackList m_keptBack;
-    QString m_lastCommand;  ///< for an empty line
+    QString m_lastCommand; ///< for an empty line
     bool m_isDialogOpen = false;
     int m_runs = 0; ///< under way, one inside the other
     ViewState m_view;
