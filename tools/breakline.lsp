@@ -1,4 +1,4 @@
-;;; menu: Break line | BREAKLINE | Cuts a line open and draws a break symbol in the gap
+;;; menu: Break line | BREAKLINE | Cuts a line open and draws a break symbol in the gap | Lines and hatches
 ;;;
 ;;; BREAKLINE: the dialog gives the symbol, its size and the offset; then a line is picked and two points on it. The
 ;;; symbol stands in the middle between the points, its longer side as long as the size, turned with the line and on

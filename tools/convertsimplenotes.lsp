@@ -1,4 +1,4 @@
-;;; menu: Convert simple notes | CONVERTSIMPLENOTES | Makes one paragraph of single-line texts
+;;; menu: Convert simple notes | CONVERTSIMPLENOTES | Makes one paragraph of single-line texts | Texts
 ;;;
 ;;; CONVERTSIMPLENOTES: single-line texts are chosen; the dialog gives what of their look is kept and in which order they
 ;;; are taken. One MTEXT takes their place, on the layer of the first, turned with it, its top left corner where theirs

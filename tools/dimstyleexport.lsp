@@ -1,4 +1,4 @@
-;;; menu: Export dimension style | DIMSTYLEEXPORT | Writes dimension styles of the drawing to a file
+;;; menu: Export dimension style | DIMSTYLEEXPORT | Writes dimension styles of the drawing to a file | Dimension styles
 ;;;
 ;;; DIMSTYLEEXPORT: all dimension styles of the drawing are written to a file of the tool's own, each with its text
 ;;; style and linetypes (see support/dimstyles.lsp for the form). The dialog copies those that the user chooses from

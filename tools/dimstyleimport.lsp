@@ -1,4 +1,4 @@
-;;; menu: Import dimension style | DIMSTYLEIMPORT | Brings dimension styles from a file into the drawing
+;;; menu: Import dimension style | DIMSTYLEIMPORT | Brings dimension styles from a file into the drawing | Dimension styles
 ;;;
 ;;; DIMSTYLEIMPORT: the dialog gives a file, the styles chosen from it, and whether dimension styles and text styles
 ;;; that the drawing has already are overwritten; without that they stay as they are. Linetypes that the drawing has

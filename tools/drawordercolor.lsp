@@ -1,4 +1,4 @@
-;;; menu: Draw order by color | DRAWORDERCOLOR | Puts entities over each other in the order of their colors
+;;; menu: Draw order by color | DRAWORDERCOLOR | Puts entities over each other in the order of their colors | Lines and hatches
 ;;;
 ;;; DRAWORDERCOLOR: of what is chosen already, or of all in the current space, the dialog shows the colors; it begins with
 ;;; the order of the last time. The entities of the first color come to lie under all others, those of the last one over

@@ -1,4 +1,4 @@
-;;; menu: Edit text case | EDITTEXTCASE | Writes texts in capitals, small letters or as titles
+;;; menu: Edit text case | EDITTEXTCASE | Writes texts in capitals, small letters or as titles | Texts
 ;;;
 ;;; EDITTEXTCASE: texts, attributes of blocks and attribute definitions are chosen; the dialog shows the first of them in
 ;;; the style that the user picks, and all are written so. What is no letter stays: the codes of paragraphs, degree and

@@ -1,4 +1,4 @@
-;;; menu: Export block attributes | EXPORTBLOCKATTRIBUTES | Writes texts of attributes to a table in a text file
+;;; menu: Export block attributes | EXPORTBLOCKATTRIBUTES | Writes texts of attributes to a table in a text file | Blocks and attributes
 ;;;
 ;;; EXPORTBLOCKATTRIBUTES: of the chosen block references, those with attributes are written to a text file, one a row,
 ;;; the cells divided by tabs: the handle, the block's name, a column for each tag, and a mark by which the row is known

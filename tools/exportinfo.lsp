@@ -1,4 +1,4 @@
-;;; menu: Export information | EXPORTINFO | Writes a problem report with what the program and the drawing are
+;;; menu: Export information | EXPORTINFO | Writes a problem report with what the program and the drawing are | Sheets and files
 ;;;
 ;;; EXPORTINFO: the dialog takes who reports what, shows what the tool found out about the program and the drawing, and
 ;;; writes both to a text file. The user sees all that goes into it, and can change it. The drawing stays as it is.

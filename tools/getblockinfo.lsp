@@ -1,4 +1,4 @@
-;;; menu: Get block info | GETBLOCKINFO | Counts the blocks of the drawing, for a text file or a table in the drawing
+;;; menu: Get block info | GETBLOCKINFO | Counts the blocks of the drawing, for a text file or a table in the drawing | Blocks and attributes
 ;;;
 ;;; GETBLOCKINFO: the dialog shows how often each block stands in the drawing, in all its layouts, and with the blocks
 ;;; within other blocks as often as they are seen: a desk in a room that stands there three times counts three. It

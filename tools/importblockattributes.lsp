@@ -1,4 +1,4 @@
-;;; menu: Import block attributes | IMPORTBLOCKATTRIBUTES | Takes texts of attributes from a table in a text file
+;;; menu: Import block attributes | IMPORTBLOCKATTRIBUTES | Takes texts of attributes from a table in a text file | Blocks and attributes
 ;;;
 ;;; IMPORTBLOCKATTRIBUTES: the dialog shows the table, has texts in it replaced, and gives the rows that the user chose.
 ;;; Columns are known by their headings, in any order; what no heading names stays as it is. A row is for the block

@@ -1,5 +1,5 @@
-;;; menu: Lisp explorer | LISPEXPLORER | Shows the functions of Lisp files and what the Lisp engine of this drawing holds
-;;; menu: Lisp dump | LISPDUMP | Shows what the Lisp engine of this drawing holds and writes it to a dump file
+;;; menu: Lisp explorer | LISPEXPLORER | Shows the functions of Lisp files and what the Lisp engine of this drawing holds | Settings and programs
+;;; menu: Lisp dump | LISPDUMP | Shows what the Lisp engine of this drawing holds and writes it to a dump file | Settings and programs
 ;;;
 ;;; LISPEXPLORER opens the Lisp Explorer on the page that was shown last, at first the library of Lisp files. LISPDUMP
 ;;; opens it on the page of loaded symbols, where Export... writes the dump file.

@@ -1,4 +1,4 @@
-;;; menu: Make linestyle | MAKELINESTYLE | Makes a linetype of a drawn pattern and writes it into a linetype file
+;;; menu: Make linestyle | MAKELINESTYLE | Makes a linetype of a drawn pattern and writes it into a linetype file | Lines and hatches
 ;;;
 ;;; MAKELINESTYLE: the dialog gives the file, the name and the description; then the pattern is picked, lines,
 ;;; polylines, points, texts and shapes that lie along a direction, and the points where it starts and where it repeats.

@@ -1,4 +1,4 @@
-;;; menu: Make shape | MAKESHAPE | Makes a shape of drawn lines and arcs and writes it into a shape source file
+;;; menu: Make shape | MAKESHAPE | Makes a shape of drawn lines and arcs and writes it into a shape source file | Lines and hatches
 ;;;
 ;;; MAKESHAPE: the dialog gives the file, the name and the resolution; then lines, arcs, circles and polylines are picked
 ;;; and the point that the shape is inserted by. The resolution is the number of steps that the longer side of the

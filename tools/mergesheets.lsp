@@ -1,4 +1,4 @@
-;;; menu: Merge sheets | MERGESHEETS | Makes one drawing of the sheets of several
+;;; menu: Merge sheets | MERGESHEETS | Makes one drawing of the sheets of several | Sheets and files
 ;;;
 ;;; MERGESHEETS: offers the sheets of the drawing on which something is drawn, and those of drawing files that are added
 ;;; before, one by one or by their folder. In the dialog they are chosen, put in order and named. They become the last

@@ -1,4 +1,4 @@
-;;; menu: Multiview setup | MULTIVIEWSETUP | Sets up a sheet: title block, viewports, their alignment and scale
+;;; menu: Multiview setup | MULTIVIEWSETUP | Sets up a sheet: title block, viewports, their alignment and scale | Sheets and files
 ;;;
 ;;; MULTIVIEWSETUP: each button of the dialog does one step in the drawing, after which the dialog comes back as it was
 ;;; left, until it is closed. Each step can be undone for itself. Where a step was done, in paper space or in model space,

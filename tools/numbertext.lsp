@@ -1,4 +1,4 @@
-;;; menu: Number text | NUMBERTEXT | Writes numbers into texts in the order of their places
+;;; menu: Number text | NUMBERTEXT | Writes numbers into texts in the order of their places | Texts
 ;;;
 ;;; NUMBERTEXT: texts are chosen, single lines and paragraphs; the dialog gives their order, the first number and the
 ;;; step, what the number looks like and where in a text it goes. For an order relative to points these are picked then.

@@ -1,4 +1,4 @@
-;;; menu: Pattern hatch | PATTERNHATCH | Fills a closed area with copies of a block, an image, a drawing or a mask
+;;; menu: Pattern hatch | PATTERNHATCH | Fills a closed area with copies of a block, an image, a drawing or a mask | Lines and hatches
 ;;;
 ;;; PATTERNHATCH: the dialog gives what the area is filled with, how the copies are sized, spaced, placed and turned,
 ;;; and what becomes of those that reach over the boundary. On the way the boundary is picked, as closed entities, as

@@ -1,4 +1,4 @@
-;;; menu: Redefine paths | REDEFINEPATHS | Changes the paths of the files that the drawing refers to
+;;; menu: Redefine paths | REDEFINEPATHS | Changes the paths of the files that the drawing refers to | Sheets and files
 ;;;
 ;;; REDEFINEPATHS: the dialog shows the files of external references, images, text styles and remote texts and has their
 ;;; paths searched and replaced. What it gives back goes into the drawing where it differs. A path that was written with

@@ -1,4 +1,4 @@
-;;; menu: Replace block | REPLACEBLOCK | Replaces all references to chosen blocks by another block of the drawing
+;;; menu: Replace block | REPLACEBLOCK | Replaces all references to chosen blocks by another block of the drawing | Blocks and attributes
 ;;;
 ;;; REPLACEBLOCK: the dialog gives the blocks to replace and the one that takes their place. Blocks can be picked in the
 ;;; drawing, before the command or on the way. Every reference stays where it is, with its scale, rotation, layer and

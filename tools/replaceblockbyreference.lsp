@@ -1,4 +1,4 @@
-;;; menu: Replace block by reference | REPLACEBLOCKBYREFERENCE | Replaces all references to chosen blocks by a drawing file
+;;; menu: Replace block by reference | REPLACEBLOCKBYREFERENCE | Replaces all references to chosen blocks by a drawing file | Blocks and attributes
 ;;;
 ;;; REPLACEBLOCKBYREFERENCE: as REPLACEBLOCK, but a drawing file takes the place of the blocks: it is attached as an
 ;;; external reference under the name of the file. Attributes stay as they are, because a drawing file has none to give.

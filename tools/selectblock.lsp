@@ -1,4 +1,4 @@
-;;; menu: Select block | SELECTBLOCK | Chooses a block of this drawing or of a drawing file and inserts it
+;;; menu: Select block | SELECTBLOCK | Chooses a block of this drawing or of a drawing file and inserts it | Blocks and attributes
 ;;;
 ;;; SELECTBLOCK: the dialog gives a block, of the drawing or of a drawing file. Then insertion points are asked for until
 ;;; there is no more of them, each with scale factor and rotation angle; both begin with those of the last insertion.

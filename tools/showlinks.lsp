@@ -1,4 +1,4 @@
-;;; menu: Show links | SHOWLINKS | Lists the hyperlinks of entities, to change, remove and find them
+;;; menu: Show links | SHOWLINKS | Lists the hyperlinks of entities, to change, remove and find them | Sheets and files
 ;;;
 ;;; SHOWLINKS: the dialog shows the links of the entities in all layouts and writes them to a file when it closes; from
 ;;; there what was changed and removed goes into the drawing. Of entities chosen before the command only theirs are shown.

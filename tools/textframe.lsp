@@ -1,4 +1,4 @@
-;;; menu: Text frame | TEXTFRAME | Draws slots, rectangles or circles around texts
+;;; menu: Text frame | TEXTFRAME | Draws slots, rectangles or circles around texts | Texts
 ;;;
 ;;; TEXTFRAME: texts are chosen; the dialog gives the shape of the frames, their distance from the text, which of their
 ;;; dimensions are the same for all, and whether they are filled. Frames are on the layers of their texts, turned with

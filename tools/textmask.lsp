@@ -1,4 +1,4 @@
-;;; menu: Text mask | TEXTMASK | Hides what lies behind texts
+;;; menu: Text mask | TEXTMASK | Hides what lies behind texts | Texts
 ;;;
 ;;; TEXTMASK: texts are chosen; the dialog gives what the masks are made of and how far they reach beyond the text. Each
 ;;; text gets a mask of its own, on its layer, over all that was there; the texts come in front of that. A wipeout takes

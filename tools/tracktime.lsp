@@ -1,4 +1,4 @@
-;;; menu: Track time | TRACKTIME | Shows and sets the time that was worked on the drawings of a folder
+;;; menu: Track time | TRACKTIME | Shows and sets the time that was worked on the drawings of a folder | Sheets and files
 ;;;
 ;;; TRACKTIME: the dialog writes what was changed itself, to the files of the drawings or, where one is open, to the time
 ;;; that goes on in it. The dialog belongs to a command of the module's; what became of it is in the state file, which

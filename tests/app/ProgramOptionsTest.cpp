@@ -133,7 +133,7 @@ TEST(ToolIndex, ListsToolsByTheirMenuLine)
         file.write(text);
     };
     write("ortakit.lsp", ";;; The support library.\n");
-    write("zigzag.lsp", ";;; menu: Zigzag | zigzag | Draws a zigzag\n(defun c:zigzag ())\n");
+    write("zigzag.lsp", ";;; menu: Zigzag | zigzag | Draws a zigzag | Lines\n(defun c:zigzag ())\n");
     write("b.lsp", "\xef\xbb\xbf;; menu:  After the mark|B\n");
     write("plain.lsp", "(princ \"menu: No | NO | in a string\")\n; see menu: x | y\n");
     write("two.lsp", ";;; menu: Rooms | ROOMS | Lists rooms\n;;; menu: Areas | AREAS | Sums up areas\n");
@@ -142,9 +142,9 @@ TEST(ToolIndex, ListsToolsByTheirMenuLine)
     const ToolIndex index = readTools(folder.path());
     QStringList shown;
     for (const ToolEntry &entry : index.entries)
-        shown.append(entry.caption + u'=' + entry.command + u'=' + entry.tip);
+        shown.append(entry.caption + u'=' + entry.command + u'=' + entry.tip + entry.subject);
     EXPECT_EQ(shown, QStringList({u"After the mark=B="_s, u"Areas=AREAS=Sums up areas"_s, u"Rooms=ROOMS=Lists rooms"_s,
-                                  u"Zigzag=ZIGZAG=Draws a zigzag"_s}));
+                                  u"Zigzag=ZIGZAG=Draws a zigzagLines"_s}));
     ASSERT_EQ(index.files.size(), 6);
     EXPECT_TRUE(index.files[0].endsWith(u"ortakit.lsp"_s));
     EXPECT_TRUE(readTools(folder.filePath(u"none"_s)).folder.isEmpty());

@@ -9,6 +9,7 @@
 #include "host/app/window/frame/DrawingStatus.h"
 #include "host/app/window/frame/DrawingTabs.h"
 #include "host/app/window/frame/LayoutTabs.h"
+#include "host/app/window/frame/Menus.h"
 #include "host/app/window/frame/Panels.h"
 #include "host/app/window/frame/Preferences.h"
 #include "host/app/window/frame/TrustBar.h"
@@ -315,13 +316,14 @@ void MainWindow::updateState()
 {
     const kernel::Document *active = document();
     const bool isIdle = !m_runner->isBusy();
-    for (QAction *action : m_idleActions)
-        action->setEnabled(isIdle);
+    m_menus->setActivity(isIdle                     ? Activity::Nothing
+                         : m_runner->takesCommand() ? Activity::Prompting
+                                                    : Activity::Running);
     m_tabs->tabBar()->setEnabled(isIdle);
     m_layouts->setEnabled(isIdle);
     m_layouts->show(active);
-    m_undo->setEnabled(isIdle && active && active->undoSteps().canUndo());
-    m_redo->setEnabled(isIdle && active && active->undoSteps().canRedo());
+    m_menus->find(u"_U"_s)->setEnabled(isIdle && active && active->undoSteps().canUndo());
+    m_menus->find(u"_REDO"_s)->setEnabled(isIdle && active && active->undoSteps().canRedo());
     updateWindowTitle();
     m_reportTimer.start();
     emit m_services->stateChanged();
@@ -359,14 +361,14 @@ void MainWindow::updateReport()
 void MainWindow::setGround(view::Ground ground)
 {
     view::setShownGround(ground);
-    (ground == view::Ground::Black ? m_blackGround : m_whiteGround)->setChecked(true);
+    m_menus->find(ground == view::Ground::Black ? u"blackGround"_s : u"whiteGround"_s)->setChecked(true);
     m_tabs->setGround(ground);
 }
 
 void MainWindow::setStyleOfWindows(Style style)
 {
     applyStyle(style);
-    (style == Style::Dark ? m_darkStyle : m_lightStyle)->setChecked(true);
+    m_menus->find(style == Style::Dark ? u"darkStyle"_s : u"lightStyle"_s)->setChecked(true);
 }
 
 } // namespace host::app

@@ -6,14 +6,12 @@
 #include "host/app/workbench/Workbench.h"
 #include "host/view/display/AciColor.h"
 
-#include <QAction>
 #include <QDockWidget>
-#include <QKeySequence>
+#include <QHash>
 #include <QMainWindow>
-#include <QMenu>
 #include <QTimer>
 
-class QActionGroup;
+class QMenu;
 class QTabWidget;
 
 namespace host::app {
@@ -25,6 +23,7 @@ class DrawingStatus;
 class DrawingTabs;
 class LayoutTabs;
 class LispConsole;
+class Menus;
 class Panels;
 class SessionRecorder;
 class WindowServices;
@@ -88,25 +87,11 @@ protected:
     void dropEvent(QDropEvent *event) override;
 
 private:
-    /// What becomes of a menu entry while something runs.
-    enum class WhenBusy
-    {
-        Disabled, ///< it would start something else
-        Enabled   ///< it only looks, or stops what runs
-    };
-
-    // Menus, in MainMenus.cpp.
+    // Menus, in MainMenus.cpp; their entries are rows of frame/MenuTable.
     void buildMenus();
-    void buildFileMenu();
-    void buildEditMenu();
-    void buildViewMenu();
-    void buildToolsMenu();
-    void buildHelpMenu();
-    /// An entry that does `body` when it is chosen; the mnemonic is the text's own.
-    QAction *addAction(QMenu &menu, const QString &text, const QKeySequence &shortcut, WhenBusy whenBusy,
-                       const std::function<void()> &body);
-    /// The same with a mark, of which one in the group is set.
-    QAction *addChoice(QMenu &menu, QActionGroup &group, const QString &text, const std::function<void()> &body);
+    QHash<QString, std::function<void()>> menuBodies();
+    /// The tools, grouped by what they work on.
+    void addTools(Menus &menus, QMenu &menu);
     /// The entry that begins and ends recording.
     void toggleRecording();
     // In windows of their own.
@@ -177,15 +162,7 @@ private:
     std::unique_ptr<DrawingStatus> m_status;
     std::unique_ptr<WindowServices> m_services;
     std::unique_ptr<Panels> m_panels;
-    QList<QAction *> m_idleActions; ///< disabled while something runs
-    // Entries whose mark or state follows what they are about.
-    QAction *m_record = nullptr;
-    QAction *m_undo = nullptr;
-    QAction *m_redo = nullptr;
-    QAction *m_blackGround = nullptr;
-    QAction *m_whiteGround = nullptr;
-    QAction *m_lightStyle = nullptr;
-    QAction *m_darkStyle = nullptr;
+    std::unique_ptr<Menus> m_menus;
     QTimer m_reportTimer;         ///< the report is made once for changes that come together
     qsizetype m_problemsTold = 0; ///< of those of the workbench, from the first on
     bool m_wasConsoleShown = false;

@@ -4,7 +4,9 @@
 #include "host/app/window/MainWindow.h"
 #include "host/app/window/entry/CommandLine.h"
 #include "host/app/window/entry/CommandRunner.h"
+#include "host/app/window/frame/Menus.h"
 
+#include <QAction>
 #include <QDir>
 #include <QFileDialog>
 
@@ -18,7 +20,7 @@ void MainWindow::startRecording(const QString &file)
     connect(m_runner.get(), &CommandRunner::ranTo, m_recorder.get(), &SessionRecorder::takeOutcome);
     // What a crash leaves is whole up to the last run.
     connect(m_runner.get(), &CommandRunner::ended, m_recorder.get(), [this] { m_recorder->save(); });
-    m_record->setText(tr("Stop &recording"));
+    m_menus->find(u"record"_s)->setText(tr("Stop &recording"));
     m_commandLine->print(tr("\nRecording to %1.\n").arg(QDir::toNativeSeparators(file)));
 }
 
@@ -29,7 +31,7 @@ void MainWindow::stopRecording()
     const QString reason = m_recorder->save();
     const QString file = QDir::toNativeSeparators(m_recorder->file());
     m_recorder.reset();
-    m_record->setText(tr("&Record session..."));
+    m_menus->find(u"record"_s)->setText(tr("&Record session..."));
     m_commandLine->print(reason.isEmpty() ? tr("\nRecorded in %1.\n").arg(file)
                                           : tr("\nThe recording was not written: %1: %2\n").arg(file, reason));
 }

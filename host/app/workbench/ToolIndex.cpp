@@ -33,6 +33,7 @@ bool readMenuLine(const QString &line, ToolEntry &entry)
     entry.caption = parts[0].trimmed();
     entry.command = parts[1].trimmed().toUpper();
     entry.tip = parts.value(2).trimmed();
+    entry.subject = parts.value(3).trimmed();
     return !entry.caption.isEmpty() && !entry.command.isEmpty();
 }
 

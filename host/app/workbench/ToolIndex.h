@@ -11,6 +11,7 @@ struct ToolEntry
     QString caption; ///< "Break line"
     QString command; ///< "BREAKLINE"
     QString tip;     ///< what it does, in a sentence
+    QString subject; ///< what it works on, which its menu is called by: "Lines and hatches"; may be empty
     QString file;    ///< absolute path
 };
 
@@ -25,7 +26,8 @@ struct ToolIndex
 
 /// Reads the folder's *.lsp files. A tool has a line at its begin for each of its commands that says what the menu
 /// shows:
-///     ;;; menu: Break line | BREAKLINE | Cuts a line open and draws a break symbol in the gap
+///     ;;; menu: Break line | BREAKLINE | Cuts a line open and draws a break symbol in the gap | Lines and hatches
+/// The last part may be left out.
 /// The support library is the file ortakit.lsp.
 ToolIndex readTools(const QString &folder);
 

@@ -102,13 +102,23 @@ void CommandRunner::cancel()
         document()->setImpliedSelection({});
 }
 
-void CommandRunner::start(const QString &command)
+bool CommandRunner::takesCommand() const
 {
+    using enum kernel::PromptKind;
+    const std::optional<kernel::PromptRequest> &request = m_feeder.request();
+    return request && request->kind != Command && request->kind != String && request->kind != Event &&
+           !request->isTransparent;
+}
+
+void CommandRunner::start(const QString &line)
+{
+    if (takesCommand())
+        return enter(u'\'' + line);
     if (!document() || isBusy())
         return;
     // The rest of an expression that was begun at the command line is not what the menu means.
     m_session.input().clear();
-    enter(command);
+    enter(line);
 }
 
 void CommandRunner::showRequest(const std::optional<kernel::PromptRequest> &request)

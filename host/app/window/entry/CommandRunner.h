@@ -25,8 +25,12 @@ public:
     bool isBusy() const;
     /// Answers the prompt that waits, else runs the line.
     void enter(const QString &text);
-    /// Runs a command in place of what was begun at the command line; nothing while another one runs.
-    void start(const QString &command);
+    /// Whether a prompt waits that takes a command in the middle: it asks for no text, and for a command's sake is not
+    /// one itself that was called there.
+    bool takesCommand() const;
+    /// Runs a line in place of what was begun at the command line. At a prompt that takesCommand() it is called in the
+    /// middle of it, which commands other than those that may be tell; nothing while something else runs.
+    void start(const QString &line);
     /// Runs Lisp text as a whole, in place of what was begun at the command line. Only while a drawing is open and
     /// nothing runs. What it prints and its error are printed in the drawing.
     kernel::RunResult evaluate(const QString &text);
