@@ -78,7 +78,7 @@ Value Interpreter::evalList(const Value &form)
     tick();
     checkStack();
     const Cons &cell = form.asCons();
-    const Location location = cell.mark ? cell.mark : m_location;
+    const Location location = cell.mark() ? cell.mark() : m_location;
     m_location = location;
     // A copy: the program may give the symbol another value while its function runs.
     Value function = cell.car.isSymbol() ? cell.car.asSymbol().value() : Value();
@@ -249,7 +249,7 @@ Value Interpreter::makeFunction(Symbol *name, const Value &parameters, const Val
     function->name = name;
     function->parameters = parameters;
     function->body = body;
-    function->location = body.car().isCons() ? body.car().asCons().mark : 0;
+    function->location = body.car().isCons() ? body.car().asCons().mark() : 0;
     if (m_callObserver)
         function->mark = CallWatch::Observed;
     bool isLocal = false;

@@ -70,7 +70,7 @@ private:
 
 inline File &Value::asFile() const noexcept
 {
-    assert(m_tag == Tag::File);
+    assert(tag() == Tag::File);
     return *static_cast<File *>(m_object);
 }
 

@@ -42,7 +42,7 @@ enum CallWatch : std::uint32_t
 
 inline Function &Value::asFunction() const noexcept
 {
-    assert(m_tag == Tag::Function);
+    assert(tag() == Tag::Function);
     return *static_cast<Function *>(m_object);
 }
 

@@ -20,11 +20,15 @@ void Heap::refuse()
     throw Error("out of memory (limit " + std::to_string(s_limit / megabyte) + " MB)");
 }
 
-thread_local constinit void *SmallBlocks::s_free = nullptr;
-thread_local constinit std::byte *SmallBlocks::s_next = nullptr;
-thread_local constinit std::byte *SmallBlocks::s_end = nullptr;
+template <std::size_t Size>
+thread_local constinit void *SmallBlocks<Size>::s_free = nullptr;
+template <std::size_t Size>
+thread_local constinit std::byte *SmallBlocks<Size>::s_next = nullptr;
+template <std::size_t Size>
+thread_local constinit std::byte *SmallBlocks<Size>::s_end = nullptr;
 
-void SmallBlocks::getMore()
+template <std::size_t Size>
+void SmallBlocks<Size>::getMore()
 {
     // Programs with few values take little; for many, the system has large pages, which are there sooner.
     constexpr std::size_t least = 64UL * 1024;
@@ -38,7 +42,10 @@ void SmallBlocks::getMore()
 #endif
     taken += bytes;
     s_next = memory;
-    s_end = memory + bytes / size * size;
+    s_end = memory + bytes / Size * Size;
 }
+
+template class SmallBlocks<pairSize>;
+template class SmallBlocks<stringSize>;
 
 } // namespace host::lisp

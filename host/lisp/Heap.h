@@ -71,25 +71,20 @@ private:
     [[gnu::tls_model("initial-exec")]] static thread_local constinit std::int64_t s_limit;
 };
 
-/// Memory for the smallest objects, of which most are pairs: places of one size, which are used again and never given
-/// back to the system. One store for all interpreters of the thread.
+/// Memory for small objects: places of one size, which are used again and never given back to the system. One store for
+/// all interpreters of the thread and for each size.
+template <std::size_t Size>
 class SmallBlocks
 {
 public:
-    /// What fits into a place.
-    static constexpr std::size_t size = 40;
-
     static void *take()
     {
         if (s_free) [[likely]]
             return std::exchange(s_free, *static_cast<void **>(s_free));
         if (s_next == s_end) [[unlikely]]
             getMore();
-        return std::exchange(s_next, s_next + size);
+        return std::exchange(s_next, s_next + Size);
     }
-    /// Whether something of this size goes there. Not under the sanitizer, which sees what happens to memory that comes
-    /// from its own allocator.
-    static constexpr bool isFor(std::size_t bytes) noexcept { return !isWatched && bytes <= size; }
     static void give(void *block) noexcept
     {
         *static_cast<void **>(block) = s_free;
@@ -97,13 +92,39 @@ public:
     }
 
 private:
-    static constexpr bool isWatched = ORTAKIT_ADDRESSES_ARE_WATCHED;
     static void getMore();
 
     [[gnu::tls_model("initial-exec")]] static thread_local constinit void *s_free;      ///< each leads to the next
     [[gnu::tls_model("initial-exec")]] static thread_local constinit std::byte *s_next; ///< never used so far
     [[gnu::tls_model("initial-exec")]] static thread_local constinit std::byte *s_end;
 };
+
+/// Pairs, of which half fill a line of the processor's cache.
+inline constexpr std::size_t pairSize = 32;
+/// Short strings.
+inline constexpr std::size_t stringSize = 40;
+extern template class SmallBlocks<pairSize>;
+extern template class SmallBlocks<stringSize>;
+
+/// A block for an object. Under the sanitizer all come from its own allocator, so that it sees what happens to them.
+[[gnu::always_inline]] inline void *takeBlock(std::size_t size)
+{
+    if (!ORTAKIT_ADDRESSES_ARE_WATCHED && size <= pairSize)
+        return SmallBlocks<pairSize>::take();
+    if (!ORTAKIT_ADDRESSES_ARE_WATCHED && size <= stringSize)
+        return SmallBlocks<stringSize>::take();
+    return ::operator new(size);
+}
+/// Gives it back, by the same size.
+[[gnu::always_inline]] inline void giveBlock(void *block, std::size_t size) noexcept
+{
+    if (!ORTAKIT_ADDRESSES_ARE_WATCHED && size <= pairSize)
+        SmallBlocks<pairSize>::give(block);
+    else if (!ORTAKIT_ADDRESSES_ARE_WATCHED && size <= stringSize)
+        SmallBlocks<stringSize>::give(block);
+    else
+        ::operator delete(block, size);
+}
 
 /// Counts what something that is no Lisp object keeps for a program, until it goes.
 class HeapShare

@@ -3,6 +3,7 @@
 #include "host/lisp/Arguments.h"
 #include "host/lisp/Builtins.h"
 #include "host/lisp/Interpreter.h"
+#include "host/lisp/PairWalk.h"
 
 namespace host::lisp {
 
@@ -30,7 +31,9 @@ static auto withTest(Interpreter &interpreter, const Value &wanted, Use use)
     if (wanted.isInteger()) {
         const std::int32_t number = wanted.asInteger();
         return use([number](const Value &value) {
-            return value.isInteger() ? value.asInteger() == number : value.isReal() && value.asReal() == number;
+            if (value.isInteger()) [[likely]]
+                return value.asInteger() == number;
+            return value.isReal() && value.asReal() == number;
         });
     }
     if (wanted.isReal()) {
@@ -49,42 +52,45 @@ static auto withTest(Interpreter &interpreter, const Value &wanted, Use use)
 // (member item list) -> the list from the first item that equals it; nil when there is none.
 static Value member(Arguments &args)
 {
-    const Value *rest = &args.list(1);
-    withTest(args.interpreter(), args[0], [&rest](auto isWanted) {
-        while (rest->isCons() && !isWanted(rest->asCons().car))
-            rest = &rest->asCons().cdr;
+    const Value &list = args.list(1);
+    return withTest(args.interpreter(), args[0], [&list](auto isWanted) {
+        PairWalk at(list);
+        while (at.isPair() && !isWanted(at.item()))
+            at.step();
+        return at.isPair() ? at.rest() : Value();
     });
-    return rest->isCons() ? *rest : Value();
 }
 
 // (assoc key list) -> the first item whose own first item equals key. An item that is no list: bad association list.
 static Value assoc(Arguments &args)
 {
-    const Value *rest = &args.list(1);
-    withTest(args.interpreter(), args[0], [&](auto isWanted) {
-        for (; rest->isCons(); rest = &rest->asCons().cdr) {
-            const Value &item = rest->asCons().car;
-            if (item.isCons()) {
-                if (isWanted(item.asCons().car))
-                    return;
+    const Value &list = args.list(1);
+    return withTest(args.interpreter(), args[0], [&](auto isWanted) {
+        for (PairWalk at(list); at.isPair(); at.step()) {
+            const Value &item = at.item();
+            if (item.isCons()) [[likely]] {
+                if (isWanted(item.asCons().car)) [[unlikely]]
+                    return item;
             } else if (item.isTrue()) {
                 args.badValue(1, "bad association list");
             }
         }
+        return Value();
     });
-    return rest->car();
 }
 
 // (vl-position item list) -> where the first equal item is, from 0; nil when there is none.
 static Value listPosition(Arguments &args)
 {
-    std::int32_t index = 0;
-    const Value *rest = &args.list(1);
-    withTest(args.interpreter(), args[0], [&](auto isWanted) {
-        for (; rest->isCons() && !isWanted(rest->asCons().car); rest = &rest->asCons().cdr)
-            ++index;
+    const Value &list = args.list(1);
+    return withTest(args.interpreter(), args[0], [&list](auto isWanted) {
+        std::int32_t index = 0;
+        for (PairWalk at(list); at.isPair(); at.step(), ++index) {
+            if (isWanted(at.item()))
+                return Value::integer(index);
+        }
+        return Value();
     });
-    return rest->isCons() ? Value::integer(index) : Value();
 }
 
 enum class Wanted : std::uint8_t

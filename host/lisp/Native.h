@@ -79,7 +79,7 @@ struct NativeFunction : Object
 
 inline NativeFunction &Value::asNative() const noexcept
 {
-    assert(m_tag == Tag::Native);
+    assert(tag() == Tag::Native);
     return *static_cast<NativeFunction *>(m_object);
 }
 

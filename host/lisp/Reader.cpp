@@ -297,7 +297,7 @@ Value Reader::takeList(Frame &frame)
 {
     Value list = frame.items.take();
     if (list.isCons())
-        const_cast<Cons &>(list.asCons()).mark = frame.location;
+        const_cast<Cons &>(list.asCons()).setMark(frame.location);
     return list;
 }
 
@@ -326,7 +326,7 @@ bool Reader::add(Value item)
         quoted.append(m_interpreter.symbol("QUOTE"));
         quoted.append(std::move(item));
         item = quoted.take();
-        const_cast<Cons &>(item.asCons()).mark = m_frames.back().location;
+        const_cast<Cons &>(item.asCons()).setMark(m_frames.back().location);
         m_frames.pop_back();
     }
     if (m_frames.empty()) {

@@ -12,7 +12,7 @@ namespace host::lisp {
 class Demolition
 {
 public:
-    static void run(Tag tag, Object *object) noexcept
+    static void run(Tag tag, Head *object) noexcept
     {
         if (Cons *first = takeApart(tag, object))
             freePairs(first);
@@ -20,7 +20,7 @@ public:
 
 private:
     /// Frees an object and, while it was the last to hold a function or list, that too, up to the first pair.
-    static Cons *takeApart(Tag tag, Object *object) noexcept
+    static Cons *takeApart(Tag tag, Head *object) noexcept
     {
         while (tag == Tag::Function) {
             auto *function = static_cast<Function *>(object);
@@ -29,12 +29,12 @@ private:
             delete function;
             if (!loseReference(body))
                 return nullptr;
-            tag = body.m_tag;
+            tag = body.tag();
             object = body.m_object;
-            body.m_tag = Tag::Nil;
+            body.setTag(Tag::Nil);
         }
         if (tag == Tag::Cons)
-            return static_cast<Cons *>(object);
+            return reinterpret_cast<Cons *>(object);
         deleteLeaf(tag, object);
         return nullptr;
     }
@@ -42,9 +42,9 @@ private:
     /// Whether `value` held the last reference to its object. It holds none afterwards, but still points there.
     static bool loseReference(Value &value) noexcept
     {
-        if (value.m_tag >= Tag::String && --value.m_object->references == 0)
+        if (value.tag() >= Tag::String && --value.m_object->references == 0)
             return true;
-        value.m_tag = Tag::Nil;
+        value.setTag(Tag::Nil);
         return false;
     }
 
@@ -53,10 +53,12 @@ private:
     {
         if (!loseReference(cell))
             return nullptr;
-        const Tag tag = cell.m_tag;
-        cell.m_tag = Tag::Nil;
+        const Tag tag = cell.tag();
+        cell.setTag(Tag::Nil);
         return takeApart(tag, cell.m_object);
     }
+
+    static Head *headOf(Cons *pair) noexcept { return pair ? &pair->car.m_head : nullptr; }
 
     static void freePairs(Cons *pair) noexcept
     {
@@ -65,8 +67,8 @@ private:
             Cons *first = emptyCell(pair->car);
             Cons *rest = emptyCell(pair->cdr);
             if (first && rest) {
-                pair->car.m_object = first;
-                pair->cdr.m_object = waiting;
+                pair->car.m_object = headOf(first);
+                pair->cdr.m_object = headOf(waiting);
                 waiting = pair;
                 pair = rest;
                 continue;
@@ -74,15 +76,15 @@ private:
             delete pair;
             pair = first ? first : rest;
             if (!pair && waiting) {
-                Cons *next = static_cast<Cons *>(waiting->cdr.m_object);
-                pair = static_cast<Cons *>(waiting->car.m_object);
+                auto *next = reinterpret_cast<Cons *>(waiting->cdr.m_object);
+                pair = reinterpret_cast<Cons *>(waiting->car.m_object);
                 delete waiting;
                 waiting = next;
             }
         }
     }
 
-    static void deleteLeaf(Tag tag, Object *object) noexcept
+    static void deleteLeaf(Tag tag, Head *object) noexcept
     {
         switch (tag) {
         case Tag::String:
@@ -109,7 +111,7 @@ private:
     }
 };
 
-void destroyObject(Tag tag, Object *object) noexcept
+void destroyObject(Tag tag, Head *object) noexcept
 {
     Demolition::run(tag, object);
 }
@@ -153,9 +155,9 @@ Value Value::point(double x, double y, double z)
 
 bool Value::isSame(const Value &other) const noexcept
 {
-    if (m_tag != other.m_tag)
+    if (tag() != other.tag())
         return false;
-    switch (m_tag) {
+    switch (tag()) {
     case Tag::Nil:
         return true;
     case Tag::Integer:

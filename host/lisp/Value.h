@@ -12,6 +12,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <type_traits>
 #include <unordered_set>
 #include <utility>
 #include <vector>
@@ -32,7 +33,7 @@ struct HostObject;
 
 /// What a value is. Everything from String on lives in a reference-counted object: the order counts, since retain() and
 /// release() ask whether a tag is at least String.
-enum class Tag : std::uint8_t
+enum class Tag : std::uint32_t
 {
     Nil,          ///< also the empty list and false
     Integer,      ///< 32 bits with a sign
@@ -49,6 +50,18 @@ enum class Tag : std::uint8_t
     HostObject,   ///< an object of the embedder's: type VLA-OBJECT
 };
 
+/// The eight bytes that both a value and a counted object begin with, so that a pair needs no more than its two values:
+/// whoever holds an object, of whatever kind, finds its count in the same place.
+///
+/// In an object both are the object's. In a value `mark` is the tag; `references` belongs to what the value is a part
+/// of: a pair counts in that of its first value how many hold it, and keeps its own mark in that of its second. For all
+/// other values nobody sets it or asks for it, and no copy or move of a value touches it.
+struct Head
+{
+    std::uint32_t mark;
+    std::uint32_t references;
+};
+
 /// One Lisp value: 16 bytes, cheap to copy (a count at most), never a cycle, because lists cannot be changed in place.
 ///
 /// Values belong to the thread of their interpreter: the counts are no atomics. A value that holds a symbol is good for
@@ -62,10 +75,18 @@ class Value
 {
 public:
     /// nil, which is also the empty list and false.
-    Value() noexcept : m_integer(0) {}
-    Value(const Value &other) noexcept : m_tag(other.m_tag), m_bits(other.m_bits) { retain(); }
+    Value() noexcept : Value(Tag::Nil) { m_integer = 0; }
+    Value(const Value &other) noexcept : Value(other.tag())
+    {
+        m_bits = other.m_bits;
+        retain();
+    }
     /// The source of a move is nil afterwards.
-    Value(Value &&other) noexcept : m_tag(other.m_tag), m_bits(other.m_bits) { other.m_tag = Tag::Nil; }
+    Value(Value &&other) noexcept : Value(other.tag())
+    {
+        m_bits = other.m_bits;
+        other.setTag(Tag::Nil);
+    }
     /// By way of a copy, so that a value may be assigned a part of what it holds itself: `list = list.cdr()`.
     Value &operator=(const Value &other) noexcept
     {
@@ -85,7 +106,7 @@ public:
     /// Without touching a count.
     void swap(Value &other) noexcept
     {
-        std::swap(m_tag, other.m_tag);
+        std::swap(m_head.mark, other.m_head.mark);
         std::swap(m_bits, other.m_bits);
     }
 
@@ -113,34 +134,35 @@ public:
     /// Takes over the one reference that a newly made object carries. `tag` must be that of the object's class: it says
     /// later as what the object is deleted.
     static Value adopt(Tag tag, Object *object) noexcept;
+    static Value adopt(Cons *pair) noexcept;
 
     // What it is.
 
     /// For what treats the kinds apart.
-    Tag tag() const noexcept { return m_tag; }
+    Tag tag() const noexcept { return static_cast<Tag>(m_head.mark); }
     /// Also what has not been set.
-    bool isNil() const noexcept { return m_tag == Tag::Nil; }
+    bool isNil() const noexcept { return tag() == Tag::Nil; }
     /// Everything but nil is true.
-    bool isTrue() const noexcept { return m_tag != Tag::Nil; }
-    bool isInteger() const noexcept { return m_tag == Tag::Integer; }
+    bool isTrue() const noexcept { return tag() != Tag::Nil; }
+    bool isInteger() const noexcept { return tag() == Tag::Integer; }
     /// A whole number too, when it is one of the kind.
-    bool isReal() const noexcept { return m_tag == Tag::Real; }
+    bool isReal() const noexcept { return tag() == Tag::Real; }
     /// Of either kind.
     bool isNumber() const noexcept { return isInteger() || isReal(); }
     // Each is of one kind exactly; nil is of none but its own.
-    bool isString() const noexcept { return m_tag == Tag::String; }
+    bool isString() const noexcept { return tag() == Tag::String; }
     /// Not nil, whose name is one to programs.
-    bool isSymbol() const noexcept { return m_tag == Tag::Symbol; }
+    bool isSymbol() const noexcept { return tag() == Tag::Symbol; }
     /// A list with items, or a dotted pair.
-    bool isCons() const noexcept { return m_tag == Tag::Cons; }
+    bool isCons() const noexcept { return tag() == Tag::Cons; }
     /// nil or a cons, dotted or not: what car() and cdr() are meant for.
     bool isList() const noexcept { return isNil() || isCons(); }
     /// Of an entity that is there, erased, or never was.
-    bool isEntityName() const noexcept { return m_tag == Tag::EntityName; }
+    bool isEntityName() const noexcept { return tag() == Tag::EntityName; }
     /// An empty set is one too.
-    bool isSelectionSet() const noexcept { return m_tag == Tag::SelectionSet; }
+    bool isSelectionSet() const noexcept { return tag() == Tag::SelectionSet; }
     /// A program's function or a native one, special forms included; not a list (lambda ...), which apply() takes too.
-    bool isFunction() const noexcept { return m_tag == Tag::Function || m_tag == Tag::Native; }
+    bool isFunction() const noexcept { return tag() == Tag::Function || tag() == Tag::Native; }
 
     // What is in it. References are good while a value holds the object; the kind is the caller's to know.
 
@@ -180,7 +202,7 @@ public:
     NativeFunction &asNative() const noexcept;
     File &asFile() const noexcept;
     CaughtError &asCaughtError() const noexcept;
-    bool isHostObject() const noexcept { return m_tag == Tag::HostObject; }
+    bool isHostObject() const noexcept { return tag() == Tag::HostObject; }
     const HostObject &asHostObject() const noexcept;
 
     /// First item and rest of a list; nil for nil and for everything that is no cons. The references are good while
@@ -193,62 +215,81 @@ public:
     bool isSame(const Value &other) const noexcept;
 
 private:
+    /// Leaves the rest to be filled in.
+    explicit Value(Tag tag) noexcept { setTag(tag); }
+    void setTag(Tag tag) noexcept { m_head.mark = static_cast<std::uint32_t>(tag); }
     // One more, one less that holds the object; nothing for kinds that have none.
     void retain() const noexcept;
     void release() noexcept;
 
-    Tag m_tag = Tag::Nil;
+    Head m_head; ///< its second half is not the value's: see Head
     union {
         std::int64_t m_integer; ///< Integer; as wide as the others, since what is copied is all of it
         double m_real;          ///< Real
         std::uint64_t m_id;     ///< EntityName
         Symbol *m_symbol;       ///< Symbol
-        Object *m_object;       ///< String and all behind it
-        std::uint64_t m_bits;   ///< whichever it is, to copy and compare
+        Head *m_object;       ///< String and all behind it: what the object, or the first value of a pair, begins with
+        std::uint64_t m_bits; ///< whichever it is, to copy and compare
     };
     friend class Demolition;
+    friend struct Cons;
 };
 
 // A list of a million items should not take more than pairs of these do.
 static_assert(sizeof(Value) == 16);
 
-/// What every counted object begins with. `mark` is for the kind's own use. Objects are deleted as what they are, by
-/// destroyObject(), since there is no virtual destructor: 8 bytes of head are all that an object costs. Their memory
-/// counts towards the program's heap; `new` throws the Lisp error "out of memory" when there is no room for one.
-struct Object
+/// The memory of objects counts towards the program's heap; `new` throws the Lisp error "out of memory" when there is
+/// no room for one.
+struct CountedMemory
 {
     /// Asks and counts; the block is as large as the allocator makes it.
     static void *operator new(std::size_t size)
     {
         Heap::check(Heap::blockOf(size));
-        void *memory = SmallBlocks::isFor(size) ? SmallBlocks::take() : ::operator new(size);
+        void *memory = takeBlock(size);
         Heap::add(Heap::blockOf(size));
         return memory;
     }
     static void operator delete(void *memory, std::size_t size) noexcept
     {
         Heap::remove(Heap::blockOf(size));
-        if (SmallBlocks::isFor(size))
-            SmallBlocks::give(memory);
-        else
-            ::operator delete(memory, size);
+        giveBlock(memory, size);
     }
+};
 
-    std::uint32_t references = 1; ///< values that hold it; a new object belongs to whoever adopts it
-    std::uint32_t mark = 0;       ///< see the kinds below
+/// What every counted object but a pair begins with. `mark` is for the kind's own use; `references` says how many
+/// values hold it, and a new object belongs to whoever adopts it. Objects are deleted as what they are, by
+/// destroyObject(), since there is no virtual destructor: 8 bytes of head are all that an object costs.
+struct Object : Head, CountedMemory
+{
+    Object() : Head{0, 1} {}
 };
 
 /// Frees an object whose last reference went, and all that goes with it, without recursion however deep it is: pairs
 /// that wait for their turn are linked through their own cells, so that it needs no memory either. Called by Value.
-void destroyObject(Tag tag, Object *object) noexcept;
+void destroyObject(Tag tag, Head *object) noexcept;
 
-/// A pair. `mark` is the source location that the reader gave the list form (see SourceMap), 0 for none. Nothing
-/// changes a pair that a program has seen; ListBuilder does with those that it has not handed out yet.
-struct Cons : Object
+/// A pair, which is no more than its two values: its count and its mark are in their heads. Nothing changes a pair that
+/// a program has seen; ListBuilder does with those that it has not handed out yet.
+struct Cons : CountedMemory
 {
+    /// Takes over what the two hold, which are nil afterwards; belongs to whoever adopts it.
+    Cons(Value &first, Value &rest) noexcept
+    {
+        car.swap(first);
+        cdr.swap(rest);
+        car.m_head.references = 1;
+        setMark(0);
+    }
+    /// The source location that the reader gave the list form (see SourceMap), 0 for none.
+    std::uint32_t mark() const noexcept { return cdr.m_head.references; }
+    void setMark(std::uint32_t mark) noexcept { cdr.m_head.references = mark; }
+
     Value car; ///< the item
     Value cdr; ///< the rest: a list, or an atom in a dotted pair
 };
+static_assert(sizeof(Cons) == 2 * sizeof(Value) && offsetof(Cons, car) == 0);
+static_assert(std::is_standard_layout_v<Cons>, "a pair may be taken for its first value, and that for its head");
 
 /// A string. `mark` caches the number of characters plus one, 0 while it was not counted. The text never changes; what
 /// it takes outside of the object, which is nothing up to 15 bytes, counts towards the heap.

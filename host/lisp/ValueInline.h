@@ -9,68 +9,67 @@ namespace host::lisp {
 
 inline Value Value::integer(std::int32_t number) noexcept
 {
-    Value value;
-    value.m_tag = Tag::Integer;
+    Value value(Tag::Integer);
     value.m_integer = number;
     return value;
 }
 
 inline Value Value::real(double number) noexcept
 {
-    Value value;
-    value.m_tag = Tag::Real;
+    Value value(Tag::Real);
     value.m_real = number;
     return value;
 }
 
 inline Value Value::symbol(Symbol &symbol) noexcept
 {
-    Value value;
-    value.m_tag = Tag::Symbol;
+    Value value(Tag::Symbol);
     value.m_symbol = &symbol;
     return value;
 }
 
 inline Value Value::entityName(std::uint64_t id) noexcept
 {
-    Value value;
-    value.m_tag = Tag::EntityName;
+    Value value(Tag::EntityName);
     value.m_id = id;
     return value;
 }
 
 inline Value Value::adopt(Tag tag, Object *object) noexcept
 {
-    Value value;
-    value.m_tag = tag;
+    Value value(tag);
     value.m_object = object;
+    return value;
+}
+
+inline Value Value::adopt(Cons *pair) noexcept
+{
+    Value value(Tag::Cons);
+    value.m_object = &pair->car.m_head;
     return value;
 }
 
 inline Value Value::cons(Value car, Value cdr)
 {
-    auto *pair = new Cons;
-    pair->car.swap(car);
-    pair->cdr.swap(cdr);
-    return adopt(Tag::Cons, pair);
+    return adopt(new Cons(car, cdr));
 }
 
 inline void Value::retain() const noexcept
 {
-    if (m_tag >= Tag::String)
+    if (tag() >= Tag::String)
         ++m_object->references;
 }
 
 inline void Value::release() noexcept
 {
-    if (m_tag >= Tag::String && --m_object->references == 0)
-        destroyObject(m_tag, m_object);
+    if (tag() >= Tag::String && --m_object->references == 0)
+        destroyObject(tag(), m_object);
 }
 
 inline const Cons &Value::asCons() const noexcept
 {
     assert(isCons());
-    return *static_cast<const Cons *>(m_object);
+    return *reinterpret_cast<const Cons *>(m_object);
 }
 
 inline StringObject &Value::asStringObject() const noexcept
@@ -92,13 +91,13 @@ inline SelectionSet &Value::asSelectionSet() const noexcept
 
 inline const HostObject &Value::asHostObject() const noexcept
 {
-    assert(m_tag == Tag::HostObject);
+    assert(tag() == Tag::HostObject);
     return *static_cast<const HostObject *>(m_object);
 }
 
 inline CaughtError &Value::asCaughtError() const noexcept
 {
-    assert(m_tag == Tag::CaughtError);
+    assert(tag() == Tag::CaughtError);
     return *static_cast<CaughtError *>(m_object);
 }
 
@@ -108,12 +107,12 @@ inline const Value nil;
 
 inline const Value &Value::car() const noexcept
 {
-    return isCons() ? static_cast<const Cons *>(m_object)->car : detail::nil;
+    return isCons() ? asCons().car : detail::nil;
 }
 
 inline const Value &Value::cdr() const noexcept
 {
-    return isCons() ? static_cast<const Cons *>(m_object)->cdr : detail::nil;
+    return isCons() ? asCons().cdr : detail::nil;
 }
 
 } // namespace host::lisp

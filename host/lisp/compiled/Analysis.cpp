@@ -149,7 +149,7 @@ Effect Analysis::ownEffect(const KnownBuiltin &builtin, const Value &arguments) 
 
 Effect Analysis::walk(const Value &form)
 {
-    if (form.asCons().mark == 0)
+    if (form.asCons().mark() == 0)
         m_isSuitable = false;
     Effect effect = Effect::Calls;
     const auto visit = [this, &effect](const Value &part) {

@@ -7,7 +7,7 @@ namespace host::lisp::compiled {
 
 const Site &FormCompiler::newSite(const KnownBuiltin &builtin, const Value &form, std::size_t count)
 {
-    return m_code.sites.emplace_back(Site{builtin.native, form.asCons().mark, count});
+    return m_code.sites.emplace_back(Site{builtin.native, form.asCons().mark(), count});
 }
 
 void FormCompiler::pushArguments(const Value &forms)

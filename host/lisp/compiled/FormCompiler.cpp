@@ -234,7 +234,7 @@ void FormCompiler::compileCall(const Value &form, const Destination &to)
     const Value &head = form.car();
     if (!head.isSymbol() && !(Analysis::isLiteralLambda(head, m_lambda) && pushLambda(head)))
         return compileEvaluation(form, to);
-    const std::size_t location = form.asCons().mark;
+    const std::size_t location = form.asCons().mark();
     const Label end = m_assembler.newLabel();
     if (head.isSymbol()) {
         m_assembler.begin(headOperation, 1);

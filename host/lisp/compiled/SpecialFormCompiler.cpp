@@ -111,7 +111,7 @@ void FormCompiler::compileWhile(const Value &form, const Destination &to)
     compileRound(form.cdr().cdr(), to, 1);
     m_assembler.begin(loopOperation, 0);
     m_assembler.add(round);
-    m_assembler.add(wordOf(std::size_t{form.asCons().mark}));
+    m_assembler.add(wordOf(std::size_t{form.asCons().mark()}));
     m_assembler.place(end);
     if (to.kind != Kind::Nothing)
         deliver(to);
@@ -130,7 +130,7 @@ void FormCompiler::compileRepeat(const KnownBuiltin &builtin, const Value &form,
     m_assembler.place(round);
     m_assembler.begin(repeatNextOperation, 0);
     m_assembler.add(end);
-    m_assembler.add(wordOf(std::size_t{form.asCons().mark}));
+    m_assembler.add(wordOf(std::size_t{form.asCons().mark()}));
     compileRound(form.cdr().cdr(), to, 2);
     m_assembler.begin(jumpOperation, 0);
     m_assembler.add(round);
@@ -155,7 +155,7 @@ void FormCompiler::compileForeach(const KnownBuiltin &builtin, const Value &form
     m_assembler.place(round);
     m_assembler.begin(foreachNextOperation, 0);
     m_assembler.add(end);
-    m_assembler.add(wordOf(std::size_t{form.asCons().mark}));
+    m_assembler.add(wordOf(std::size_t{form.asCons().mark()}));
     compileRound(arguments.cdr().cdr(), to, 1);
     m_assembler.begin(jumpOperation, 0);
     m_assembler.add(round);

@@ -21,6 +21,13 @@
 (list (member 2 '(1 2 3)) (member 9 '(1)) (member '(1) '((1) 2))) ;= ((2 3) nil ((1) 2))
 (list (assoc 2 '((1 . a) (2 . b))) (assoc "x" '(("x" 1))) (assoc 9 nil)) ;= ((2 . B) ("x" 1) nil)
 (assoc 1 '(2 3)) ;= ! bad argument value: bad association list (2 3) in (ASSOC), argument 2
+; pairs that lie anywhere in memory, and such as were used before
+(setq i 0 l nil) (repeat 40 (setq l (cons (list (rem (* i 17) 41) i) l) i (1+ i)))
+(setq l (vl-sort l '(lambda (a b) (< (car a) (car b)))) l (append l (list '(50 51)) '((52 . 53) (50 0))))
+(list (length l) (assoc 0 l) (assoc 40 l) (assoc 50 l) (assoc 52.0 l) (assoc 54 l)) ;= (43 (0 0) (40 12) (50 51) (52 . 53) nil)
+(list (vl-position '(34 2) l) (length (member '(50 51) l)) (member '(50) l) (length (vl-remove '(50 0) l))) ;= (33 3 nil 42)
+(setq i 0 k nil) (repeat 50 (setq k (cons i k) k (cons (reverse k) (cdr (reverse k))) k (car k) i (1+ i)))
+(list (length k) (vl-position 49 k) (length (member 7 k)) (apply '+ k)) ;= (50 49 22 1225)
 (list (vl-position 'c '(a b c)) (vl-position 'z '(a))) ;= (2 nil)
 (list (vl-member-if 'minusp '(1 -2 3)) (vl-member-if-not 'minusp '(-1 2 -3))) ;= ((-2 3) (2 -3))
 (list (vl-remove 1 '(1 2 1.0 3)) (vl-remove-if 'minusp '(1 -2 3))) ;= ((2 3) (1 3))
