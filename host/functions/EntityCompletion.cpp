@@ -2,18 +2,13 @@
 
 #include "host/drawing/annotation/DimensionBlock.h"
 #include "host/drawing/annotation/DimensionStyle.h"
-#include "host/drawing/math/Angles.h"
 #include "host/drawing/records/Blocks.h"
 #include "host/drawing/records/EntityRules.h"
 #include "host/drawing/tags/GroupCodes.h"
-#include "host/drawing/text/TextAlignment.h"
 #include "host/kernel/documents/Document.h"
-#include "host/kernel/documents/TextSizes.h"
 #include "host/kernel/lisp/EntityList.h"
-#include "host/view/build/TextMeasure.h"
 
 #include <algorithm>
-#include <cmath>
 
 using namespace Qt::StringLiterals;
 
@@ -24,12 +19,6 @@ namespace {
 using drawing::Field;
 using drawing::FieldList;
 using drawing::RecordId;
-
-bool isLineOfText(const FieldList &fields)
-{
-    const QString type = fields.empty() ? QString() : fields.front().text().toUpper();
-    return type == u"TEXT" || type == u"ATTRIB" || type == u"ATTDEF";
-}
 
 /// The fields with these codes, in their order.
 template <typename Wanted>
@@ -82,42 +71,7 @@ void drawPicture(Document &document, RecordId dimension)
     drawing.setFields(dimension, fields);
 }
 
-/// The text as it is without its alignment, for measuring it.
-FieldList atLeftEnd(const FieldList &text)
-{
-    return fieldsThat(text, [](const Field &field) {
-        constexpr int alignment[] = {11, 72, 73, 74};
-        return std::ranges::find(alignment, field.code) == std::end(alignment);
-    });
-}
-
-/// A stretched text runs from the one point to the other.
-void directStretched(FieldList &text)
-{
-    const Field *from = drawing::findField(text, 10);
-    const Field *to = drawing::findField(text, 11);
-    if (!drawing::textAlignment(text).isStretched() || !from || !to)
-        return;
-    const drawing::Vec3 way = to->point() - from->point();
-    if (way.length() > 0.0)
-        drawing::setField(text, 50, std::atan2(way.y, way.x) / drawing::radians);
-}
-
 } // namespace
-
-FieldList completedText(Document &document, FieldList fields)
-{
-    if (!isLineOfText(fields) || drawing::textAlignment(fields).isLeft())
-        return fields;
-    const Field *own = drawing::findField(fields, 11);
-    if (!own || !drawing::isPoint(*own) || !drawing::findField(fields, 40))
-        return fields;
-    if (!drawing::findField(fields, 10))
-        fields.insert(fields.begin() + (own - fields.data()), {10, own->point()});
-    directStretched(fields);
-    drawing::alignText(fields, document.textMeasure().lineBox(atLeftEnd(fields)));
-    return fields;
-}
 
 FieldList completedText(Document &document, const FieldList &before, FieldList after)
 {

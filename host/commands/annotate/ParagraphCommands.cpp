@@ -4,9 +4,9 @@
 #include "host/commands/common/EntityEdits.h"
 #include "host/commands/common/KeptValues.h"
 #include "host/commands/common/UserPlane.h"
+#include "host/drawing/editing/TextContent.h"
 #include "host/drawing/math/Angles.h"
 #include "host/drawing/text/ParagraphColumns.h"
-#include "host/drawing/text/ParagraphText.h"
 #include "host/kernel/documents/Document.h"
 #include "host/kernel/input/Units.h"
 #include "host/view/build/TextMeasure.h"
@@ -43,19 +43,6 @@ struct ParagraphPlace
 /// The usual distance of lines, in heights of capitals.
 constexpr double usualLineStep = 5.0 / 3.0;
 
-/// A long content is in pieces, of which the last has a code of its own.
-void addContent(FieldList &fields, QString content)
-{
-    constexpr qsizetype pieceLength = 250;
-    while (content.size() > pieceLength) {
-        // No pair of half characters is parted.
-        const qsizetype length = pieceLength - (content[pieceLength - 1].isHighSurrogate() ? 1 : 0);
-        fields.push_back({3, content.first(length)});
-        content.remove(0, length);
-    }
-    fields.push_back({1, content});
-}
-
 /// With the columns, of which dynamic ones are as many as the text fills.
 FieldList withColumns(CommandContext &context, FieldList fields, drawing::ParagraphColumns columns)
 {
@@ -79,7 +66,7 @@ RecordId createParagraph(CommandContext &context, const ParagraphPlace &place, c
     const auto direction = [&](const Vec3 &user) { return plane.worldFromUser(user) - plane.worldFromUser({}); };
     FieldList fields = {{0, u"MTEXT"_s},   {10, place.at},         {40, place.height},
                         {41, place.width}, {71, place.attachment}, {72, qint64(5)}};
-    addContent(fields, content);
+    drawing::addParagraphContent(fields, content);
     fields.insert(fields.end(), {{7, currentTextStyle(context).name},
                                  {11, direction({std::cos(place.angle), std::sin(place.angle), 0.0})},
                                  {73, place.spacingStyle},
@@ -339,7 +326,7 @@ CommandTask textsToParagraph(CommandContext &context)
     QStringList contents;
     for (const TextLine &line : lines)
         contents.append(asParagraphLine(drawing::findField(line.fields, 1)->text()));
-    addContent(fields, contents.join(u"\\P"));
+    drawing::addParagraphContent(fields, contents.join(u"\\P"));
     fields.push_back(
         {11, object.direction({std::cos(turn * drawing::radians), std::sin(turn * drawing::radians), 0.0})});
     if (!isValid(context.create(fields)))
@@ -349,66 +336,12 @@ CommandTask textsToParagraph(CommandContext &context)
     context.print(u"\n%1 texts became one paragraph."_s.arg(lines.size()));
 }
 
-/// Gives a text, paragraph or definition another content.
-void changeContent(CommandContext &context, RecordId entity, const QString &content)
-{
-    FieldList fields = context.drawing().fields(entity);
-    if (context.drawing().isType(entity, "MTEXT")) {
-        std::erase_if(fields, [](const drawing::Field &field) { return field.code == 3; });
-        const auto at = std::ranges::find(fields, 1, &drawing::Field::code);
-        FieldList pieces;
-        addContent(pieces, content);
-        const auto behind = at == fields.end() ? at : fields.erase(at);
-        fields.insert(behind, pieces.begin(), pieces.end());
-    } else {
-        drawing::setField(fields, 1, content);
-    }
-    const QString error = context.drawing().entities().modify(entity, fields);
-    if (!error.isEmpty())
-        context.print(u'\n' + error);
-}
-
-/// Texts that can be written anew.
-bool hasContent(const drawing::Drawing &drawing, RecordId entity)
-{
-    return drawing.isType(entity, "TEXT") || drawing.isType(entity, "MTEXT") || drawing.isType(entity, "ATTDEF") ||
-           drawing.isType(entity, "ATTRIB");
-}
-
-// Texts, one after another, and what they say from now on; an empty line leaves one as it is.
-CommandTask editText(CommandContext &context)
-{
-    for (;;) {
-        const PromptReply picked = co_await context.entity(u"Select an annotation object: "_s);
-        if (picked.entities.empty() && !picked.isMiss)
-            co_return;
-        if (picked.entities.empty())
-            continue;
-        const RecordId entity = picked.entities.front();
-        if (!hasContent(context.drawing(), entity)) {
-            if (context.refuse(u"Requires a text."_s))
-                co_return;
-            continue;
-        }
-        if (editable(context, {entity}).empty())
-            continue;
-        const drawing::TagList tags = context.drawing().tags(entity);
-        const QString present =
-            context.drawing().isType(entity, "MTEXT") ? drawing::paragraphContent(tags) : tags.text(1);
-        const PromptReply content = co_await context.text(u"Enter text <%1>: "_s.arg(present), present);
-        if (content.hasValue() && !content.text.isEmpty())
-            changeContent(context, entity, content.text);
-    }
-}
-
 } // namespace
 
 std::vector<CommandRow> paragraphCommands()
 {
     return {{"-MTEXT", paragraph, "Writes a paragraph of several lines"},
-            {"DDEDIT", editText, "Changes what texts say", WhenCancelled::KeepDone},
             {"MTEXT", paragraph, "Writes a paragraph of several lines"},
-            {"TEXTEDIT", editText, "Changes what texts say", WhenCancelled::KeepDone},
             {"TXT2MTXT", textsToParagraph, "Makes one paragraph of texts"}};
 }
 

@@ -150,7 +150,8 @@ PromptDialogue::Reading PromptDialogue::readEvaluated(const QString &expression)
     const std::optional<InputAnswer> answer = answerFromValue(m_document, outcome.value);
     if (!answer)
         return refuse();
-    if (const auto *text = std::get_if<TextAnswer>(&*answer); text && text->text.startsWith(u'('))
+    const auto *text = std::get_if<TextAnswer>(&*answer);
+    if (text && (text->text.startsWith(u'(') || text->text.startsWith(u'!')))
         return readValue(text->text);
     return std::visit([this](const auto &given) { return read(given); }, *answer);
 }

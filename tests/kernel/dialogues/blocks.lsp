@@ -42,3 +42,14 @@
 (line 1 2 4 2)(command "COPYBASE" '(1 2) "ALL" "") ;! PASTEBLOCK|10,10 ;? (list (getfield 0) (getfield 10) (getfield 2)) ;= ("INSERT" (10.0 10.0 0.0) "A$C00000001")
 (line 1 2 4 2) ;! CUTCLIP|ALL| ;=
 ;! PASTECLIP ;> The clipboard is empty. ;=
+(twins) ;! EATTEDIT|!e|1|one|NO|first|2|.| ;? (values) ;= ("first" "")
+(twins) ;! EATTEDIT|!e|?|1|| ;> 2  NO  Second  b ;? (values) ;= ("a" "b")
+(twins) ;! EATTEDIT|!e|?|| ;> 3  FIX    never  (constant) ;? (values) ;= ("a" "b")
+(twins)(setq s "(x)") ;! EATTEDIT|!e|2|!s| ;? (values) ;= ("a" "(x)")
+(twins)(lock "0") ;! EATTEDIT|!e ;> locked layer ;? (values) ;= ("a" "b")
+(twins) ;! EATTEDIT|!e|3 ;> The value of 3 is constant. ;? (values) ;= ("a" "b")
+(twins) ;! EATTEDIT|!e|4 ;> There is no attribute "4". ;? (values) ;= ("a" "b")
+(twins)(view) ;! EATTEDIT|5.5,5.5|no|seen| ;? (values) ;= ("seen" "b")
+(door)(command "-INSERT" "Door" '(0 0) 1 "" 0)(setq e (entlast)) ;! EATTEDIT|!e ;> has no attributes ;? (getfield 2) ;= "Door"
+(twins)(setq a (entnext e)) ;! TEXTEDIT|!a|by itself| ;~ keeps ;? (values) ;= ("by itself" "b")
+(twins)(lines-of (entnext e)) ;! EATTEDIT|!e|1|up\Pdown| ;? (list (values) (said-inside)) ;= (("up" "b") "up\\Pdown")

@@ -44,3 +44,17 @@
 ;! MTEXT|0,0|C|S|50|3|4|20|a|b| ;? (list (own '(41 1)) (mapcar '(lambda (f) (if (member (car f) '(42 43)) (car f) f)) (cdr (member '(101 . "Embedded Object") (entget (entlast)))))) ;= ((14.0 "a\\Pb") ((70 . 1) (10 1.0 0.0 0.0) (11 0.0 0.0 0.0) (40 . 50.0) (41 . 20.0) 42 43 (71 . 1) (72 . 3) (44 . 14.0) (45 . 4.0) (73 . 0) (74 . 0)))
 ;! MTEXT|0,0|C||30|5|10|one\Ptwo\Pthree\Pfour\Pfive| ;? (own '(41)) ;= (30.0)
 ;! MTEXT|0,0|C|S|50|20|5 ;> So many columns do not fit into this width. ;=
+(command "TEXT" "J" "R" '(10 5) 2 0 "ABC")(setq start (value-of 10))(view) ;! TEXTEDIT|9.5,5.5|A| ;~ keeps
+;? (list (value-of 1) (equal (value-of 11) '(10.0 5.0 0.0)) (> (car (value-of 10)) (car start))) ;= ("A" T T)
+(tilted)(command "TEXT" "J" "MC" '(3 3) 2 30 "AB")(setq e (entlast)) ;! DDEDIT|!e|longer| ;~ keeps ;? (list (value-of 1) (near (trans (value-of 11) e 1) '(3.0 3.0 0.0))) ;= ("longer" T)
+(command "TEXT" '(5 1) 2 0 "old")(setq e (entlast) s "(not Lisp)") ;! TEXTEDIT|!e|!s| ;~ keeps ;? (value-of 1) ;= "(not Lisp)"
+(command "TEXT" '(5 1) 2 0 "old")(setq e (entlast) s "!either") ;! TEXTEDIT|!e|!s| ;~ keeps ;? (value-of 1) ;= "!either"
+(command "TEXT" '(5 1) 2 0 "old")(setq e (entlast) was (entget e)) ;! TEXTEDIT|!e|old| ;~ keeps ;? (equal was (entget e)) ;= T
+(command "-MTEXT" '(0 0) "W" 0 (apply 'strcat (mapcar '(lambda (x) "0123456789") '(1 2 3 4 5 6 7 8 9 0 1 2 3 4 5 6 7 8 9 0 1 2 3 4 5 6))) "")(setq e (entlast))
+;! TEXTEDIT|!e|{\fArial;short} %%c \U+2300| ;~ keeps ;? (own '(3 1)) ;= (nil "{\\fArial;short} %%c ⌀")
+(dimension)(setq e (entlast)) ;! TEXTEDIT|!e|about <>| ;~ keeps ;? (list (value-of 1) (not (picture))) ;= ("about <>" nil)
+(dimension)(setq e (entlast))(command "TEXTEDIT" e "x" "") ;! TEXTEDIT|!e|<>| ;~ keeps ;? (value-of 1) ;= nil
+(entmake '((0 . "ATTDEF") (10 0.0 0.0 0.0) (40 . 2.5) (1 . "7") (2 . "NO") (3 . "Number") (70 . 0)))(setq e (entlast))
+;! TEXTEDIT|!e|name|What?|.| ;~ keeps ;? (own '(2 3 1)) ;= ("NAME" "What?" "")
+(entmake '((0 . "ATTDEF") (10 0.0 0.0 0.0) (40 . 2.5) (1 . "7") (2 . "NO") (3 . "Number") (70 . 0)))(setq e (entlast))
+;! TEXTEDIT|!e|a b ;> A tag has no blanks ;? (own '(2 3 1)) ;= ("NO" "Number" "7")
