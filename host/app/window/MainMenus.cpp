@@ -56,6 +56,7 @@ QHash<QString, std::function<void()>> MainWindow::menuBodies()
         {u"close"_s, [this] { closeTab(m_tabs->currentIndex()); }},
         {u"save"_s, withDocument([this](kernel::Document &active) { m_files.save(active); })},
         {u"saveAs"_s, withDocument([this](kernel::Document &active) { m_files.saveAs(active); })},
+        {u"settings"_s, [this] { showSettings(); }},
         {u"exportPng"_s, exporting(u"png"_s)},
         {u"exportSvg"_s, exporting(u"svg"_s)},
         {u"exportPdf"_s, exporting(u"pdf"_s)},

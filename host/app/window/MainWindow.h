@@ -26,6 +26,7 @@ class LispConsole;
 class Menus;
 class Panels;
 class SessionRecorder;
+class SettingsWindow;
 class WindowServices;
 
 /// The window: drawings in tabs, one command line for all, menus and a status bar.
@@ -136,6 +137,8 @@ private:
     void updateWindowTitle();
     /// What of the drawing is not drawn, in the status bar.
     void updateReport();
+    /// Made when it is first wanted.
+    void showSettings();
     /// What all drawings lie on.
     void setGround(view::Ground ground);
 
@@ -162,6 +165,7 @@ private:
     std::unique_ptr<DrawingStatus> m_status;
     std::unique_ptr<WindowServices> m_services;
     std::unique_ptr<Panels> m_panels;
+    SettingsWindow *m_settings = nullptr; ///< owned by this
     std::unique_ptr<Menus> m_menus;
     QTimer m_reportTimer;         ///< the report is made once for changes that come together
     qsizetype m_problemsTold = 0; ///< of those of the workbench, from the first on

@@ -89,7 +89,9 @@ void Workbench::loadModule(const QString &file)
 
 void Workbench::loadTools(kernel::Document &document)
 {
-    for (const QString &file : m_tools.files)
+    // What the person wants in every drawing comes behind the tools, which it may build upon.
+    const QString own = m_session.settings().text(QStringLiteral("Programs"), QStringLiteral("load"));
+    for (const QString &file : m_tools.files + own.split(u';', Qt::SkipEmptyParts))
         if (const kernel::RunResult result = document.loadLisp(file); !result.ok) {
             const QString problem = tr("%1: %2").arg(QDir::toNativeSeparators(file), result.error);
             if (!m_problems.contains(problem))

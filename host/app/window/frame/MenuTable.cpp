@@ -215,6 +215,7 @@ constexpr MenuRow rows[] = {
     {"&Tools/In&quiry", "Times", "_TIME"},
     {"&Tools", "System &variables", "_SETVAR"},
     {"&Tools", "Run a s&cript", "_SCRIPT"},
+    {"&Tools", "S&ettings...", "settings", "Ctrl+,", "", "", "Snaps, display, selection, units, folders and trust", always},
     {"&Tools", "&Record session...", "record", "", "", "", "Writes down what you do as a session that plays", always},
 
     {"&Help", "&Contents", "help", "F1", "", "", "Shows the help pages", always},
