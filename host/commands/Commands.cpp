@@ -40,6 +40,7 @@ std::vector<CommandRow> builtInCommands()
              explodeCommands(),
              faceCommands(),
              fileCommands(),
+             gripCommands(),
              groupCommands(),
              hatchCommands(),
              hatchEditCommands(),

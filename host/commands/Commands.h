@@ -40,6 +40,7 @@ std::vector<CommandRow> ellipseCommands();
 std::vector<CommandRow> explodeCommands();
 std::vector<CommandRow> faceCommands();
 std::vector<CommandRow> fileCommands();
+std::vector<CommandRow> gripCommands();
 std::vector<CommandRow> groupCommands();
 std::vector<CommandRow> hatchCommands();
 std::vector<CommandRow> hatchEditCommands();

@@ -20,6 +20,8 @@
 #include <QAction>
 #include <QCloseEvent>
 #include <QDockWidget>
+#include <QKeyEvent>
+#include <QPointer>
 #include <QStatusBar>
 #include <QTabBar>
 #include <QVBoxLayout>
@@ -162,6 +164,17 @@ void MainWindow::enterFromCanvas(const QString &text)
     QTimer::singleShot(0, this, [this, text] { m_runner->enter(text); });
 }
 
+void MainWindow::moveGrips(const std::vector<kernel::InputAnswer> &answers)
+{
+    const QPointer<kernel::Document> edited = document();
+    if (!edited || m_runner->isBusy())
+        return;
+    const std::vector<drawing::RecordId> chosen = edited->impliedSelection();
+    m_runner->startWith(u"_.GRIPEDIT"_s, answers);
+    if (edited)
+        edited->setImpliedSelection(chosen);
+}
+
 PlaybackResult MainWindow::play(const PlaybackScript &script, PlaybackOptions options)
 {
     return m_runner->play(script, std::move(options));
@@ -173,12 +186,28 @@ void MainWindow::cancel()
         m_runner->cancel();
 }
 
+void MainWindow::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Escape)
+        cancel();
+    else
+        QMainWindow::keyPressEvent(event);
+}
+
 // Drawings, which come, are shown and go
 
 void MainWindow::addTab(kernel::Document *document)
 {
     DrawingCanvas *canvas = m_tabs->add(*document);
     connect(canvas, &DrawingCanvas::answered, m_runner.get(), &CommandRunner::answer);
+    connect(canvas, &DrawingCanvas::gripsTaken, this, [this](const std::vector<drawing::Vec3> &places) {
+        std::vector<kernel::InputAnswer> answers;
+        for (const drawing::Vec3 &place : places)
+            answers.emplace_back(kernel::PointAnswer{place});
+        answers.emplace_back(kernel::TextAnswer{});
+        // Not within the canvas's event, as enterFromCanvas().
+        QTimer::singleShot(0, this, [this, answers] { moveGrips(answers); });
+    });
     connect(canvas, &DrawingCanvas::enterPressed, this, [this] { enterFromCanvas({}); });
     connect(canvas, &DrawingCanvas::keyPressed, this, [this](QKeyEvent *event) {
         m_isInCanvas = true;

@@ -83,6 +83,8 @@ public:
 protected:
     /// Refused while something runs, which is asked to stop; the window closes when it has.
     void closeEvent(QCloseEvent *event) override;
+    /// Esc that no part of the window has taken.
+    void keyPressEvent(QKeyEvent *event) override;
     // Drawings are opened, Lisp files loaded after a question, in the order in which they were dropped.
     void dragEnterEvent(QDragEnterEvent *event) override;
     void dropEvent(QDropEvent *event) override;
@@ -109,6 +111,8 @@ private:
     // Tabs follow the documents, whoever opened them: a menu, a drop, a command, a module.
     void addTab(kernel::Document *document);
     void enterFromCanvas(const QString &text);
+    /// Edits what is chosen by its grips; it stays chosen for the next one, also when the edit is cancelled.
+    void moveGrips(const std::vector<kernel::InputAnswer> &answers);
     /// The user chose the tab: its document becomes the active one.
     void activateTab(int index);
     /// The document became the active one: its tab is shown.

@@ -1,10 +1,13 @@
 #include "host/commands/common/EntityEdits.h"
 
+#include "host/drawing/editing/MirrorEntity.h"
 #include "host/drawing/geometry/TransformEntity.h"
 #include "host/drawing/records/Dictionaries.h"
 #include "host/kernel/documents/Document.h"
 #include "host/kernel/input/SelectionQuery.h"
 #include "host/kernel/running/CommandContext.h"
+#include "host/kernel/variables/SystemVariables.h"
+#include "host/view/build/TextMeasure.h"
 
 using namespace Qt::StringLiterals;
 
@@ -77,6 +80,21 @@ void transformAll(CommandContext &context, const std::vector<RecordId> &entities
         refused += drawing::transformEntity(context.drawing(), id, matrix) ? 0 : 1;
     if (refused > 0)
         context.print(u"\n%1 could not be changed."_s.arg(refused));
+}
+
+void mirrorAll(CommandContext &context, const std::vector<RecordId> &entities, const Matrix &matrix)
+{
+    const bool isReversed = context.document().variables().integer(u"MIRRTEXT") != 0;
+    const auto texts = isReversed ? drawing::MirroredText::Reversed : drawing::MirroredText::Readable;
+    const auto lineSize = [&context](const drawing::FieldList &text) {
+        const drawing::Box letters = context.document().textMeasure().lineBox(text);
+        return drawing::Vec2{letters.isEmpty() ? 0.0 : letters.high.x, drawing::realOf(text, 40)};
+    };
+    int refused = 0;
+    for (const RecordId id : entities)
+        refused += drawing::mirrorEntity(context.drawing(), id, matrix, texts, lineSize) ? 0 : 1;
+    if (refused > 0)
+        context.print(u"\n%1 could not be mirrored."_s.arg(refused));
 }
 
 std::vector<RecordId> copyAll(CommandContext &context, const std::vector<RecordId> &entities, const Matrix &matrix)

@@ -26,6 +26,8 @@ void rememberTakenOut(CommandContext &context, std::vector<drawing::RecordId> re
 bool mayCopy(CommandContext &context, std::size_t entities, double copies);
 void transformAll(CommandContext &context, const std::vector<drawing::RecordId> &entities,
                   const drawing::Matrix &matrix);
+/// Mirrors them; what MIRRTEXT says becomes of their texts.
+void mirrorAll(CommandContext &context, const std::vector<drawing::RecordId> &entities, const drawing::Matrix &matrix);
 /// Copies, moved by the matrix; the originals stay as they are. Returns the copies.
 std::vector<drawing::RecordId> copyAll(CommandContext &context, const std::vector<drawing::RecordId> &entities,
                                        const drawing::Matrix &matrix);

@@ -8,6 +8,9 @@ namespace host::kernel {
 Dialogue<ObjectChoice> askObjects(CommandContext &context, QString prompt, QStringList options, ChoiceEnd end,
                                   PickReach reach)
 {
+    // What was chosen before does not count, and must not look chosen.
+    if (!context.document().impliedSelection().empty())
+        context.document().setImpliedSelection({});
     SelectionBuilder builder(context.document());
     builder.setPrompt(u'\n' + prompt);
     if (reach == PickReach::Alone)

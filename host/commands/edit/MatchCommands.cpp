@@ -7,6 +7,7 @@
 #include "host/kernel/documents/Document.h"
 #include "host/kernel/input/Picker.h"
 #include "host/kernel/running/CommandContext.h"
+#include "host/kernel/variables/SystemVariables.h"
 
 #include <QSet>
 
@@ -113,13 +114,18 @@ Dialogue<QSet<QString>> askSettings(CommandContext &context, QSet<QString> off)
     }
 }
 
-// The source, then those that take its properties over.
+// The source, unless it was chosen before; then those that take its properties over.
 CommandTask matchProperties(CommandContext &context)
 {
     PromptReply source;
-    do
-        source = co_await context.entity(u"Select source object: "_s);
-    while (source.entities.empty() && source.isMiss);
+    const bool isChosen = context.document().impliedSelection().size() == 1 &&
+                          context.document().variables().integer(u"PICKFIRST", 1) != 0;
+    if (isChosen)
+        source = co_await context.selection();
+    else
+        do
+            source = co_await context.entity(u"Select source object: "_s);
+        while (source.entities.empty() && source.isMiss);
     if (source.entities.empty())
         co_return;
     const FieldList fields = context.drawing().fields(source.entities.front());

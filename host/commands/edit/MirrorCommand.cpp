@@ -1,13 +1,9 @@
 #include "host/commands/Commands.h"
 #include "host/commands/common/EntityEdits.h"
 #include "host/commands/common/UserPlane.h"
-#include "host/drawing/editing/MirrorEntity.h"
-#include "host/drawing/geometry/TransformEntity.h"
 #include "host/kernel/documents/Document.h"
 #include "host/kernel/running/CommandContext.h"
 #include "host/kernel/running/Dialogue.h"
-#include "host/kernel/variables/SystemVariables.h"
-#include "host/view/build/TextMeasure.h"
 
 using namespace Qt::StringLiterals;
 
@@ -15,25 +11,9 @@ namespace host::kernel {
 
 namespace {
 
-using drawing::FieldList;
 using drawing::Matrix;
 using drawing::RecordId;
 using drawing::Vec3;
-
-void mirrorAll(CommandContext &context, const std::vector<RecordId> &entities, const Matrix &matrix)
-{
-    const bool isReversed = context.document().variables().integer(u"MIRRTEXT") != 0;
-    const auto texts = isReversed ? drawing::MirroredText::Reversed : drawing::MirroredText::Readable;
-    const auto lineSize = [&context](const FieldList &text) {
-        const drawing::Box letters = context.document().textMeasure().lineBox(text);
-        return drawing::Vec2{letters.isEmpty() ? 0.0 : letters.high.x, drawing::realOf(text, 40)};
-    };
-    int refused = 0;
-    for (const RecordId id : entities)
-        refused += drawing::mirrorEntity(context.drawing(), id, matrix, texts, lineSize) ? 0 : 1;
-    if (refused > 0)
-        context.print(u"\n%1 could not be mirrored."_s.arg(refused));
-}
 
 /// The entities, or copies of them, in the mirror.
 Dialogue<bool> finishMirror(CommandContext &context, std::vector<RecordId> entities, Matrix matrix, QString question)

@@ -107,6 +107,13 @@ std::vector<RecordId> Picker::visible() const
     return without(drawing, currentEntities(drawing), layersThat(drawing, isHidden));
 }
 
+std::vector<RecordId> Picker::choosable() const
+{
+    const drawing::Drawing &drawing = m_document.drawing();
+    const auto isOut = [](const drawing::Layer &layer) { return layer.isOff || layer.isFrozen || layer.isLocked; };
+    return without(drawing, currentEntities(drawing), layersThat(drawing, isOut));
+}
+
 std::vector<RecordId> Picker::thawed() const
 {
     const drawing::Drawing &drawing = m_document.drawing();

@@ -46,6 +46,8 @@ public:
     std::vector<drawing::RecordId> visible() const;
     /// As visible(), but of layers that are off as well, and none on locked layers: what "ALL" means.
     std::vector<drawing::RecordId> thawed() const;
+    /// Of visible(), those that are on no locked layer: what can be seen and changed.
+    std::vector<drawing::RecordId> choosable() const;
 
 private:
     /// Of visible(), those whose box touches the window, and those without end.

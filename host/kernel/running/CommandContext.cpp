@@ -157,6 +157,9 @@ CommandContext::Selection CommandContext::selection(const QString &prompt)
         m_reply.entities = implied;
         return Selection(*this, true);
     }
+    // With PICKFIRST 0 it is asked for; what was chosen before must not look chosen then.
+    if (!implied.empty())
+        m_document.setImpliedSelection({});
     m_selection.emplace(m_document);
     if (!prompt.isEmpty()) {
         m_selection->setPrompt(u'\n' + prompt);

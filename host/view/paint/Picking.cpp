@@ -150,7 +150,7 @@ bool isPicked(Scene &scene, const BlockDisplay &block, const RecordSummary &reco
 
 } // namespace
 
-std::vector<RecordId> pickAllAt(Scene &scene, int block, Vec2 point, double aperture)
+std::vector<RecordId> pickAllAt(Scene &scene, int block, Vec2 point, double aperture, std::size_t most)
 {
     scene.prepare(block);
     std::vector<RecordId> picked;
@@ -161,7 +161,7 @@ std::vector<RecordId> pickAllAt(Scene &scene, int block, Vec2 point, double aper
     drawing::WorkBudget work(drawing::pickWork);
     std::vector<std::pair<double, RecordId>> found;
     const BlockDisplay &shown = scene.display(block);
-    for (const std::uint32_t place : scene.recordsIn(block, reach)) {
+    for (const std::uint32_t place : scene.recordsIn(block, reach, most)) {
         const RecordSummary &record = shown.records[place];
         if (record.isEmpty)
             continue;

@@ -2,6 +2,7 @@
 
 #include "host/view/build/Scene.h"
 
+#include <limits>
 #include <vector>
 
 namespace host::view {
@@ -12,8 +13,9 @@ namespace host::view {
 /// The record whose lines come closest to the point, at most `aperture` away; inside an area counts less than any line
 /// in reach. Of equals the one drawn last; noRecord when there is none.
 RecordId pickAt(Scene &scene, int block, Vec2 point, double aperture);
-/// All records within the aperture, the best first.
-std::vector<RecordId> pickAllAt(Scene &scene, int block, Vec2 point, double aperture);
+/// All records within the aperture, the best first. At most so many are looked at, or a few more.
+std::vector<RecordId> pickAllAt(Scene &scene, int block, Vec2 point, double aperture,
+                                std::size_t most = std::numeric_limits<std::size_t>::max());
 
 enum class PickMode
 {

@@ -296,6 +296,29 @@ PaintResult ScenePainting::result() const
     return {.isCutShort = d->walker.wasCutShort(), .effort = d->walker.effort()};
 }
 
+void ScenePainting::paintAlone(QPainter &painter, Scene &scene, int block, RecordId record, const ViewTransform &view,
+                               const PaintOptions &options)
+{
+    scene.prepare(block);
+    const RecordSummary *summary = scene.find(block, record);
+    if (!summary)
+        return;
+    const QRectF screen(QPointF(0.0, 0.0), view.screenSize());
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing, options.antialias);
+    painter.setBrush(Qt::NoBrush);
+    Private alone(painter, scene, view, options, options.part ? *options.part & screen : screen);
+    alone.walker.walkRecord(scene.display(block), *summary, view.matrix());
+    alone.sink.flush();
+    painter.restore();
+}
+
+void paintRecord(QPainter &painter, Scene &scene, int block, RecordId record, const ViewTransform &view,
+                 const PaintOptions &options)
+{
+    ScenePainting::paintAlone(painter, scene, block, record, view, options);
+}
+
 PaintResult paintScene(QPainter &painter, Scene &scene, int block, const ViewTransform &view,
                        const PaintOptions &options)
 {

@@ -66,6 +66,9 @@ public:
     bool paint(const std::function<bool()> &mayGoOn = {});
     /// Of what was painted so far.
     PaintResult result() const;
+    /// See paintRecord().
+    static void paintAlone(QPainter &painter, Scene &scene, int block, RecordId record, const ViewTransform &view,
+                           const PaintOptions &options);
 
 private:
     struct Private;
@@ -77,5 +80,10 @@ private:
 /// show; what is multiplied is bounded (see drawing::WorkBudget), less where the painter writes a file of lines.
 PaintResult paintScene(QPainter &painter, Scene &scene, int block, const ViewTransform &view,
                        const PaintOptions &options = {});
+
+/// Draws one record of a space or block by itself, as paintScene() does with it alone in `options.only`, but without a
+/// look at any other. Nothing where the block does not have it.
+void paintRecord(QPainter &painter, Scene &scene, int block, RecordId record, const ViewTransform &view,
+                 const PaintOptions &options);
 
 } // namespace host::view

@@ -3,6 +3,7 @@
 #include "host/app/window/canvas/DrawingCanvas.h"
 #include "host/kernel/documents/CurrentSpace.h"
 #include "host/kernel/documents/CurrentView.h"
+#include "host/kernel/input/Picker.h"
 #include "host/view/paint/Picking.h"
 
 namespace host::app {
@@ -22,6 +23,8 @@ int DrawingCanvas::workedSpace()
 
 drawing::RecordId DrawingCanvas::entityAt(QPointF screen)
 {
+    if (const drawing::RecordId marked = m_hover.chosenAt(screen); drawing::isValid(marked))
+        return marked;
     const double reach = transform().toWorldLength(pickReach());
     return view::pickAt(m_scene, workedSpace(), world(screen).xy(), kernel::workedLength(m_document, reach));
 }
@@ -37,12 +40,54 @@ void DrawingCanvas::press(QPointF screen, Qt::KeyboardModifiers modifiers)
         beginBox(screen, BoxUse::Zoom, choice);
     } else if (m_request) {
         pressForPrompt(screen);
-    } else if (!m_document.isBusy()) {
+    } else if (!m_document.isBusy() && modifiers.testFlag(Qt::ControlModifier)) {
+        pressNext(screen);
+    } else if (!m_document.isBusy() && !pressGrip(screen, modifiers)) {
         if (const drawing::RecordId entity = entityAt(screen); drawing::isValid(entity))
             choose({entity}, choice);
         else
             beginBox(screen, BoxUse::Choose, choice);
     }
+}
+
+void DrawingCanvas::pressNext(QPointF screen)
+{
+    const bool isAgain = m_cycled && (screen - *m_cycled).manhattanLength() < dragDistance;
+    if (isAgain && m_hover.next()) {
+        choose(m_chosenLast, Choice::Drop);
+    } else {
+        m_hover.look(m_scene, workedSpace(), screen, world(screen).xy(),
+                     kernel::workedLength(m_document, transform().toWorldLength(pickReach())));
+    }
+    m_cycled = screen;
+    m_chosenLast.clear();
+    if (drawing::isValid(m_hover.entity()))
+        m_chosenLast.push_back(m_hover.entity());
+    choose(m_chosenLast, Choice::Add);
+}
+
+bool DrawingCanvas::pressGrip(QPointF screen, Qt::KeyboardModifiers modifiers)
+{
+    m_grips.update();
+    const std::optional<drawing::Vec3> place = m_grips.at(screen, transform());
+    if (!place)
+        return false;
+    if (modifiers.testFlag(Qt::ShiftModifier)) {
+        m_grips.toggle(*place);
+    } else {
+        m_gripFrom = screen;
+        emit gripsTaken(m_grips.take(*place));
+    }
+    update();
+    return true;
+}
+
+void DrawingCanvas::releaseGrip(QPointF screen)
+{
+    const bool wasDragged = m_gripFrom && (screen - *m_gripFrom).manhattanLength() > dragDistance;
+    m_gripFrom.reset();
+    if (wasDragged && wantsPoint())
+        pressForPrompt(screen);
 }
 
 void DrawingCanvas::pressForPrompt(QPointF screen)
@@ -56,9 +101,22 @@ void DrawingCanvas::pressForPrompt(QPointF screen)
             emit answered(kernel::EntityAnswer{entity, world(screen)});
         else
             beginBox(screen, BoxUse::Answer, Choice::Add);
+    } else if (const auto marked = m_hover.chosenAt(screen);
+               m_request->kind == PromptKind::Entity && drawing::isValid(marked)) {
+        emit answered(kernel::EntityAnswer{marked, world(screen)});
+    } else if (const auto grip = m_grips.at(screen, transform(), false); grip && wantsPoint()) {
+        emit answered(kernel::PointAnswer{*grip});
     } else if (wantsPoint() || m_request->kind == PromptKind::Entity) {
         emit answered(kernel::PointAnswer{world(screen), true});
     }
+}
+
+void DrawingCanvas::chooseAll()
+{
+    if (m_request && m_request->kind == PromptKind::Selection)
+        emit answered(kernel::TextAnswer{QStringLiteral("_ALL")});
+    else if (!m_request && !m_document.isBusy())
+        m_document.setImpliedSelection(kernel::Picker(m_document).choosable());
 }
 
 void DrawingCanvas::choose(const std::vector<drawing::RecordId> &entities, Choice choice)

@@ -22,9 +22,9 @@ namespace {
 
 using kernel::PromptKind;
 
-/// The pointer must go this far with the button held for a drag, in pixels.
-constexpr double dragDistance = 5.0;
 constexpr double wheelStep = 1.25;
+/// Moves of the pointer that come together are looked at once, in milliseconds.
+constexpr int hoverDelay = 20;
 
 bool wantsEntities(const std::optional<kernel::PromptRequest> &request)
 {
@@ -43,6 +43,9 @@ DrawingCanvas::DrawingCanvas(kernel::Document &document, QWidget *parent)
     setAttribute(Qt::WA_OpaquePaintEvent);
     setMinimumSize(200, 120);
     m_document.lendScene(&m_scene);
+    m_hoverDelay.setSingleShot(true);
+    m_hoverDelay.setInterval(hoverDelay);
+    m_hoverDelay.callOnTimeout(this, &DrawingCanvas::updateHover);
     connect(&m_picture, &ScenePicture::refined, this, qOverload<>(&QWidget::update));
     connect(&m_document, &kernel::Document::viewChanged, this, qOverload<>(&QWidget::update));
     connect(&m_document, &kernel::Document::layoutChanged, this, qOverload<>(&QWidget::update));
@@ -128,6 +131,8 @@ void DrawingCanvas::setRequest(const std::optional<kernel::PromptRequest> &reque
     m_box.reset();
     m_dragged.reset();
     updateSnap();
+    m_hover.clear();
+    m_hoverDelay.start();
     if (request && request->base && request->dragged && !request->dragged->empty())
         m_dragged.emplace(*request->dragged, request->base->xy());
     if (hadMarked || m_dragged || (m_request && m_request->chosen))
@@ -181,7 +186,40 @@ void DrawingCanvas::paintEvent(QPaintEvent *)
     if (m_picture.isProvisional())
         paintUnfinishedMark(painter, tr("simplified"), size(), m_ground);
     paintSketch(painter);
+    m_hover.paint(painter, m_scene, space(), transform(), m_ground);
+    m_grips.update();
+    m_grips.paint(painter, transform(), m_ground, m_pointer);
     paintOverlay(painter);
+}
+
+bool DrawingCanvas::wantsHover() const
+{
+    constexpr int whenIdle = 1;
+    constexpr int whenAsked = 2;
+    if (!m_pointer || m_panFrom || m_box || m_isZoomWindow)
+        return false;
+    const int when = m_document.variables().integer(u"SELECTIONPREVIEW", whenIdle | whenAsked);
+    if (m_request)
+        return (when & whenAsked) != 0 && wantsEntities(m_request);
+    return (when & whenIdle) != 0 && !m_document.isBusy() && !m_grips.at(*m_pointer, transform());
+}
+
+void DrawingCanvas::updateHover()
+{
+    // Through a viewport of a sheet the scene shows the model smaller than it is worked on.
+    const bool isChanged =
+        wantsHover() && workedSpace() == space()
+            ? m_hover.look(m_scene, space(), *m_pointer, world(*m_pointer).xy(), transform().toWorldLength(pickReach()))
+            : m_hover.clear();
+    if (isChanged)
+        update();
+}
+
+void DrawingCanvas::markNext()
+{
+    updateHover();
+    if (m_hover.next())
+        update();
 }
 
 void DrawingCanvas::updateSnap()
@@ -284,6 +322,8 @@ void DrawingCanvas::mouseMoveEvent(QMouseEvent *event)
     if (wantsEvents() && m_request->tracksPointer)
         emit answered(kernel::PointerAnswer{world(event->position())});
     updateSnap();
+    if (!m_hoverDelay.isActive())
+        m_hoverDelay.start();
     emit pointerMoved(transform().toWorld(event->position()));
     update();
 }
@@ -297,6 +337,8 @@ void DrawingCanvas::mouseReleaseEvent(QMouseEvent *event)
     const bool wasDragged = m_box && (event->position() - m_box->pressedAt).manhattanLength() > dragDistance;
     if (event->button() == Qt::LeftButton && wasDragged)
         finishBox(event->position());
+    if (event->button() == Qt::LeftButton)
+        releaseGrip(event->position());
 }
 
 void DrawingCanvas::mouseDoubleClickEvent(QMouseEvent *event)
@@ -310,6 +352,7 @@ void DrawingCanvas::mouseDoubleClickEvent(QMouseEvent *event)
 void DrawingCanvas::leaveEvent(QEvent *)
 {
     m_pointer.reset();
+    m_hover.clear();
     update();
 }
 

@@ -1,6 +1,8 @@
 #pragma once
 
 #include "host/app/window/canvas/DragPreview.h"
+#include "host/app/window/canvas/Grips.h"
+#include "host/app/window/canvas/HoverMark.h"
 #include "host/app/window/canvas/ScenePicture.h"
 #include "host/drawing/geometry/SnapPoints.h"
 #include "host/kernel/documents/Document.h"
@@ -8,6 +10,7 @@
 #include "host/view/build/Scene.h"
 #include "host/view/paint/ViewTransform.h"
 
+#include <QTimer>
 #include <QWidget>
 
 #include <optional>
@@ -41,6 +44,10 @@ public:
     void beginZoomWindow();
     /// What the pointer answers from now on; nothing between prompts.
     void setRequest(const std::optional<kernel::PromptRequest> &request);
+    /// Chooses what can be seen and changed of the current space; a prompt for a selection gets all.
+    void chooseAll();
+    /// Marks the next of the entities that lie on top of each other under the pointer: a click means that one then.
+    void markNext();
     /// Gives up a box that was begun. False when there was none.
     bool abandonBox();
 
@@ -58,6 +65,8 @@ signals:
     void pointerMoved(const host::drawing::Vec2 &point);
     /// The pointer answered the prompt.
     void answered(const host::kernel::InputAnswer &answer);
+    /// Grips were taken to be moved, the one under the pointer last.
+    void gripsTaken(const std::vector<host::drawing::Vec3> &places);
     /// The right button.
     void enterPressed();
     /// A key that means nothing here; who takes it accepts the event, which lives until the signal returns.
@@ -105,6 +114,9 @@ private:
     /// What moves with the pointer; nothing while that is elsewhere.
     void paintOverlay(QPainter &painter);
     void paintRubberBand(QPainter &painter);
+    /// Marks what is under the pointer, where SELECTIONPREVIEW and what is asked for say so.
+    void updateHover();
+    bool wantsHover() const;
     /// Where the next point would snap to.
     void updateSnap();
     void paintSnap(QPainter &painter);
@@ -117,12 +129,20 @@ private:
     bool wantsEvents() const { return m_request && m_request->kind == kernel::PromptKind::Event; }
     /// From the pointer to a side of the box that picks entities, in pixels.
     int pickReach() const;
+    /// The pointer must go this far with the button held for a drag, in pixels.
+    static constexpr double dragDistance = 5.0;
     // In CanvasPresses.cpp.
     /// Within reach of the point; invalid when there is none.
     drawing::RecordId entityAt(QPointF screen);
     /// The left button: the second corner of a box that was begun, an answer, a choice, or a first corner.
     void press(QPointF screen, Qt::KeyboardModifiers modifiers);
     void pressForPrompt(QPointF screen);
+    /// With Ctrl, chooses the next of those on top of each other each time in place of the one before.
+    void pressNext(QPointF screen);
+    /// False where there is no grip.
+    bool pressGrip(QPointF screen, Qt::KeyboardModifiers modifiers);
+    /// The end of a drag that took a grip.
+    void releaseGrip(QPointF screen);
     /// Adds to the implied selection, each once, or takes from it.
     void choose(const std::vector<drawing::RecordId> &entities, Choice choice);
     void beginBox(QPointF screen, BoxUse use, Choice choice);
@@ -139,6 +159,12 @@ private:
     std::optional<DragPreview> m_dragged;     ///< while the prompt has entities hang at the pointer
     std::optional<QPointF> m_pointer;         ///< where the pointer is, while it is on the canvas
     std::optional<drawing::SnapPoint> m_snap; ///< for the pointer's place, while a point is asked for
+    Grips m_grips{m_document};
+    HoverMark m_hover;
+    QTimer m_hoverDelay;                      ///< looked once for moves that come together
+    std::optional<QPointF> m_cycled;          ///< where one of several was chosen last
+    std::vector<drawing::RecordId> m_chosenLast; ///< which one
+    std::optional<QPointF> m_gripFrom;        ///< where the button took a grip, until it is let go
     std::optional<QPointF> m_panFrom;         ///< while the middle button is held
 
     struct PendingBox

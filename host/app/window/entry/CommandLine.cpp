@@ -2,12 +2,15 @@
 
 #include "host/app/window/entry/PromptText.h"
 
+#include <QClipboard>
 #include <QFontDatabase>
+#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QKeySequence>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMimeData>
 #include <QPlainTextEdit>
 #include <QScrollBar>
 #include <QTextCursor>
@@ -21,6 +24,22 @@ namespace {
 
 constexpr int linesKept = 5000;
 constexpr qsizetype entriesKept = 500;
+
+/// Whether the clipboard has text alone; copied entities are there as a file.
+bool isTextOnClipboard()
+{
+    const QMimeData *data = QGuiApplication::clipboard()->mimeData();
+    return data && data->hasText() && !data->hasUrls();
+}
+
+/// Whether a key means the drawing while nothing is written: the line must not claim it then.
+bool isForDrawing(const QKeyEvent &key)
+{
+    using enum QKeySequence::StandardKey;
+    const auto isOne = [&key](auto... wanted) { return (key.matches(wanted) || ...); };
+    const bool isShiftSpace = key.key() == Qt::Key_Space && key.modifiers() == Qt::ShiftModifier;
+    return isShiftSpace || isOne(Undo, Redo, Cut, Copy, Delete, SelectAll) || (key.matches(Paste) && !isTextOnClipboard());
+}
 
 } // namespace
 
@@ -121,9 +140,8 @@ bool CommandLine::eventFilter(QObject *object, QEvent *event)
 
 bool CommandLine::filterInputKey(const QKeyEvent &key)
 {
-    // With nothing written, undoing means the drawing: the line must not claim the keys.
     if (key.type() == QEvent::ShortcutOverride)
-        return m_input->text().isEmpty() && (key.matches(QKeySequence::Undo) || key.matches(QKeySequence::Redo));
+        return m_input->text().isEmpty() && isForDrawing(key);
     return handleKey(key);
 }
 

@@ -61,6 +61,11 @@ void CommandRunner::run(const std::function<kernel::RunResult()> &begin)
     m_isRunning = true;
     m_feeder.forgetCancel();
     emit stateChanged();
+    // What a run chooses itself stays chosen; what was chosen for it does not.
+    bool hasChosen = false;
+    QObject here;
+    if (document())
+        connect(document(), &kernel::Document::impliedSelectionChanged, &here, [&hasChosen] { hasChosen = true; });
     const kernel::RunResult begun = begin();
     const kernel::RunResult queued = m_session.runQueue();
     emit ranTo(begun.ok ? queued : begun);
@@ -68,7 +73,7 @@ void CommandRunner::run(const std::function<kernel::RunResult()> &begin)
     const bool isUnfinished = !m_session.input().isEmpty();
     m_commandLine.setUnfinished(isUnfinished);
     m_commandLine.setPrompt(isUnfinished ? tr("(_>") : tr("Command:"));
-    if (document() && !document()->impliedSelection().empty())
+    if (document() && !hasChosen && !document()->impliedSelection().empty())
         document()->setImpliedSelection({});
     emit stateChanged();
     emit ended();
@@ -119,6 +124,19 @@ void CommandRunner::start(const QString &line)
     // The rest of an expression that was begun at the command line is not what the menu means.
     m_session.input().clear();
     enter(line);
+}
+
+void CommandRunner::startWith(const QString &line, const std::vector<kernel::InputAnswer> &answers)
+{
+    if (!document() || isBusy())
+        return;
+    m_session.input().clear();
+    run([&] {
+        m_session.input().pushTyped(line);
+        for (const kernel::InputAnswer &answer : answers)
+            m_session.input().push(answer);
+        return kernel::RunResult();
+    });
 }
 
 void CommandRunner::showRequest(const std::optional<kernel::PromptRequest> &request)

@@ -34,6 +34,9 @@ public:
     /// Runs Lisp text as a whole, in place of what was begun at the command line. Only while a drawing is open and
     /// nothing runs. What it prints and its error are printed in the drawing.
     kernel::RunResult evaluate(const QString &text);
+    /// Runs a line in place of what was begun at the command line, with answers to its first prompts; nothing while
+    /// something else runs.
+    void startWith(const QString &line, const std::vector<kernel::InputAnswer> &answers);
     /// Answers the prompt that waits; nothing when there is none.
     void answer(const kernel::InputAnswer &answer);
     /// Stops what runs; else gives up what was begun or chosen.
