@@ -11,6 +11,7 @@
 #include "host/drawing/records/Structure.h"
 #include "host/drawing/records/Tables.h"
 #include "host/drawing/tags/GroupCodes.h"
+#include "host/drawing/tags/TagReader.h"
 
 #include <QFileInfo>
 
@@ -142,10 +143,8 @@ Section Drawing::section(RecordId id) const
 
 QByteArrayView Drawing::typeName(RecordId id) const
 {
-    const RecordEntry &entry = d->entry(id);
     Tag tag;
-    const bool hasType = entry.kind != RecordKind::Preamble && entry.kind != RecordKind::Tail;
-    return hasType && TagReader(entry.bytes(), d->file.lineEnds).read(tag) ? tag.trimmed() : QByteArrayView();
+    return kind(id) != RecordKind::Preamble && tagReader(id).read(tag) ? tag.trimmed() : QByteArrayView();
 }
 
 Handle Drawing::handle(RecordId id) const
@@ -155,7 +154,7 @@ Handle Drawing::handle(RecordId id) const
 
 Handle Drawing::owner(RecordId id) const
 {
-    TagReader reader(d->entry(id).bytes(), d->file.lineEnds);
+    TagReader reader = tagReader(id);
     Tag tag;
     bool isInGroup = false;
     while (reader.read(tag) && tag.code != subclassCode) {
@@ -170,13 +169,32 @@ Handle Drawing::owner(RecordId id) const
 TagList Drawing::tags(RecordId id) const
 {
     std::vector<Tag> tags;
-    if (kind(id) != RecordKind::Tail) {
-        tags.reserve(std::min<size_t>(d->entry(id).length / 8 + 1, 64));
-        TagReader reader(d->entry(id).bytes(), d->file.lineEnds);
-        for (Tag tag; reader.read(tag);)
-            tags.push_back(tag);
-    }
+    tags.reserve(std::min<size_t>(d->entry(id).length / 8 + 1, 64));
+    TagReader reader = tagReader(id);
+    for (Tag tag; reader.read(tag);)
+        tags.push_back(tag);
     return {std::move(tags), d->codec};
+}
+
+TagReader Drawing::tagReader(RecordId id) const
+{
+    const RecordEntry &entry = d->entry(id);
+    return {entry.kind == RecordKind::Tail ? QByteArrayView() : entry.bytes(), d->file.lineEnds};
+}
+
+std::optional<Tag> Drawing::findTag(RecordId id, int code) const
+{
+    TagReader reader = tagReader(id);
+    BraceDepth braces;
+    bool isOwn = true;
+    for (Tag tag; reader.read(tag);) {
+        isOwn = isOwn && !endsOwnGroups(tag);
+        if (!isOwn && code < firstXdataCode)
+            break;
+        if (!braces.isInside(tag) && tag.code == code)
+            return tag;
+    }
+    return std::nullopt;
 }
 
 FieldList Drawing::fields(RecordId id) const

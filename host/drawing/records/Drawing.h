@@ -11,6 +11,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace host::drawing {
@@ -23,6 +24,7 @@ class HeaderVariables;
 class Journal;
 class Layouts;
 class Tables;
+class TagReader;
 struct IndexedFile;
 struct RecordState;
 
@@ -141,6 +143,10 @@ public:
     /// Costs a pass over the record's bytes, as all that is made of it: keep the list where more than one tag is
     /// wanted.
     TagList tags(RecordId id) const;
+    /// The same tags one after another, without a list of them: for one look at very many records.
+    TagReader tagReader(RecordId id) const;
+    /// The tag that tags(id).find(code) finds. Goes through the record up to there.
+    std::optional<Tag> findTag(RecordId id, int code) const;
     /// tags(id).fields(): the record as a typed list that does not depend on the drawing any more.
     FieldList fields(RecordId id) const;
     /// The record's bytes as they are written. They stay readable while the drawing lives, but a change of the record

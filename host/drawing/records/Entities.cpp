@@ -7,6 +7,7 @@
 #include "host/drawing/records/PolylineFlags.h"
 #include "host/drawing/records/Structure.h"
 #include "host/drawing/records/Tables.h"
+#include "host/drawing/tags/GroupCodes.h"
 
 namespace host::drawing {
 
@@ -67,7 +68,8 @@ Space Entities::space(RecordId entity) const
     const RecordKind kind = m_drawing.kind(entity);
     if (kind == RecordKind::Child || kind == RecordKind::EndChildren)
         return space(m_drawing.parent(entity));
-    return m_drawing.tags(entity).integer(67) != 0 ? Space::Paper : Space::Model;
+    const std::optional<Tag> paper = m_drawing.findTag(entity, paperSpaceCode);
+    return paper && paper->integer().value_or(0) != 0 ? Space::Paper : Space::Model;
 }
 
 RecordId Entities::nextOfAll(RecordId entity) const

@@ -89,12 +89,6 @@ QByteArray systemName(QByteArrayView codePage)
     return "CP" + (known.contains(name) ? name : QByteArray("1252"));
 }
 
-bool isPlainText(QByteArrayView bytes)
-{
-    return std::all_of(bytes.begin(), bytes.end(),
-                       [](char c) { return static_cast<signed char>(c) >= 0 && c != '\\' && c != '^'; });
-}
-
 /// Value of `count` hexadecimal digits at `position`; -1 when there are fewer.
 int hexAt(QStringView text, qsizetype position, int count)
 {
@@ -297,7 +291,7 @@ TextCodec TextCodec::forCodePage(QByteArrayView name)
 
 QString TextCodec::decode(QByteArrayView bytes) const
 {
-    if (isPlainText(bytes))
+    if (isPlain(bytes))
         return QString::fromLatin1(bytes);
     return withoutEscapes(m_converter ? m_converter->toText(bytes) : fromUtf8(bytes));
 }
@@ -306,6 +300,12 @@ QByteArray TextCodec::encode(QStringView text) const
 {
     const QString line = withCarets(text);
     return m_converter ? m_converter->toBytes(line) : toUtf8(line);
+}
+
+bool TextCodec::isPlain(QByteArrayView bytes)
+{
+    return std::all_of(bytes.begin(), bytes.end(),
+                       [](char c) { return static_cast<signed char>(c) >= 0 && c != '\\' && c != '^'; });
 }
 
 bool TextCodec::isUtf8() const

@@ -32,6 +32,8 @@ public:
     /// is one line.
     QByteArray encode(QStringView text) const;
 
+    /// Whether the bytes are their text in every encoding: ASCII without anything that may begin an escape.
+    static bool isPlain(QByteArrayView bytes);
     /// False for every code page, one that has all characters too.
     bool isUtf8() const;
 
