@@ -16,8 +16,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int paperCode = 67;
-constexpr int layoutCode = 410;
 constexpr int vertexCode = 10;
 constexpr int constantWidthCode = 43;
 constexpr int polylineHead[] = {70, constantWidthCode, 38, 39};
@@ -104,7 +102,7 @@ bool isVertexGroup(int code)
 
 bool isPaper(const Drawing &drawing, RecordId entity, const TagList &tags)
 {
-    if (const Tag *given = tags.find(paperCode))
+    if (const Tag *given = tags.find(paperSpaceCode))
         return given->integer().value_or(0) != 0;
     const QString layout = drawing.layouts().ofEntity(entity);
     return !layout.isEmpty() && layout != u"Model";
@@ -208,7 +206,7 @@ private:
         const bool isEntity = m_drawing.kind(m_record) == RecordKind::Entity;
         if (std::exchange(m_hasSpace, true) || !isEntity || m_drawing.version() < Version::R2000)
             return;
-        for (const int code : {paperCode, layoutCode})
+        for (const int code : {paperSpaceCode, layoutNameCode})
             if (!m_tags.find(code))
                 showImplied(code);
     }
@@ -253,28 +251,39 @@ private:
 std::optional<Field> impliedField(const Drawing &drawing, RecordId entity, const TagList &tags, int code)
 {
     const QByteArrayView type = drawing.typeName(entity);
-    if (code == paperCode)
+    if (code == paperSpaceCode)
         return Field{code, qint64(isPaper(drawing, entity, tags) ? 1 : 0)};
-    if (code == layoutCode) {
+    if (code == layoutNameCode) {
         const QString layout = drawing.layouts().ofEntity(entity);
         return layout.isEmpty() ? std::nullopt : std::optional(Field{code, layout});
     }
-    if (type == "LWPOLYLINE" && (isVertexGroup(code) || code == constantWidthCode))
-        return impliedInPolyline(tags, code);
-    if (type == "VERTEX" && (code == 40 || code == 41))
-        return Field{code, drawing.tags(drawing.parent(entity)).real(code)};
-    if (type == "MTEXT" && (code == 11 || code == 50))
+    if (!isImpliedByType(type, code)) {
+        if (type == "LWPOLYLINE")
+            return impliedInPolyline(tags, code);
+        if (type == "VERTEX")
+            return Field{code, drawing.tags(drawing.parent(entity)).real(code)};
         return impliedInParagraph(tags, code);
+    }
     for (const FieldList *usual : {&usualFields(type), &commonFields()})
         if (const Field *field = findField(*usual, code))
             return *field;
     return std::nullopt;
 }
 
-bool isImpliedBeside(const Drawing &drawing, RecordId entity, const TagList &tags, int code)
+bool isImpliedByType(QByteArrayView type, int code)
 {
-    return isVertexGroup(code) && drawing.isType(entity, "LWPOLYLINE") &&
-           tags.reals(code).size() < tags.reals(vertexCode).size();
+    const bool isOfPolyline = type == "LWPOLYLINE" && (isVertexGroup(code) || code == constantWidthCode);
+    const bool isOfVertex = type == "VERTEX" && (code == 40 || code == 41);
+    const bool isOfParagraph = type == "MTEXT" && (code == 11 || code == 50);
+    return code != paperSpaceCode && code != layoutNameCode && !isOfPolyline && !isOfVertex && !isOfParagraph;
+}
+
+bool isImpliedBeside(const Drawing &drawing, RecordId entity, int code)
+{
+    if (!isVertexGroup(code) || !drawing.isType(entity, "LWPOLYLINE"))
+        return false;
+    const TagList tags = drawing.tags(entity);
+    return tags.reals(code).size() < tags.reals(vertexCode).size();
 }
 
 std::vector<ShownField> shownFields(const Drawing &drawing, RecordId record, const FieldList &fields)

@@ -11,9 +11,12 @@ namespace host::drawing {
 /// Nothing for a group that says nothing about such an entity. Whether the record has the group is not looked at.
 std::optional<Field> impliedField(const Drawing &drawing, RecordId entity, const TagList &tags, int code);
 
+/// Whether impliedField() gives the same for all entities of a type.
+bool isImpliedByType(QByteArrayView type, int code);
+
 /// Whether something is implied although some groups of this code are there: the widths and the bulge of an
 /// LWPOLYLINE's vertices.
-bool isImpliedBeside(const Drawing &drawing, RecordId entity, const TagList &tags, int code);
+bool isImpliedBeside(const Drawing &drawing, RecordId entity, int code);
 
 /// A field as programs see it.
 struct ShownField

@@ -1,8 +1,10 @@
 #include "host/drawing/selection/SelectionFilter.h"
 
-#include "host/drawing/selection/ImpliedFields.h"
-#include "host/drawing/selection/Wildcard.h"
-#include "host/drawing/tags/GroupCodes.h"
+#include "host/drawing/selection/FilterMatcher.h"
+
+#include <QHash>
+
+#include <algorithm>
 
 namespace host::drawing {
 
@@ -12,65 +14,6 @@ namespace {
 
 constexpr int operatorCode = -4;
 constexpr int deepestFilter = 200;
-
-bool isRelation(const QString &name)
-{
-    static const QStringList known = {u"*"_s,  u"="_s, u"!="_s, u"/="_s, u"<>"_s, u"<"_s,
-                                      u"<="_s, u">"_s, u">="_s, u"&"_s,  u"&="_s};
-    return known.contains(name);
-}
-
-bool isBitwise(const QString &relation)
-{
-    return relation == u"&" || relation == u"&=";
-}
-
-bool compareNumbers(double has, double wanted, const QString &relation)
-{
-    // Lisp writes numbers of files with fewer digits; 1e-9 of the size is beyond what a drawing means.
-    const double tolerance = 1e-9 * std::max({1.0, std::abs(has), std::abs(wanted)});
-    const bool isEqual = std::abs(has - wanted) <= tolerance;
-    if (relation == u"*")
-        return true;
-    if (relation == u"=" || relation.isEmpty())
-        return isEqual;
-    if (relation == u"!=" || relation == u"/=" || relation == u"<>")
-        return !isEqual;
-    if (relation == u"<")
-        return !isEqual && has < wanted;
-    if (relation == u"<=")
-        return isEqual || has < wanted;
-    if (relation == u">")
-        return !isEqual && has > wanted;
-    return isEqual || has > wanted;
-}
-
-bool compareField(const Field &has, const Field &wanted, const std::vector<QString> &operators)
-{
-    const QString first = operators.empty() ? QString() : operators.front();
-    if (isPoint(wanted)) {
-        const Vec3 a = has.point();
-        const Vec3 b = wanted.point();
-        const auto relation = [&](size_t i) {
-            return i < operators.size() ? operators[i] : operators.empty() ? u"="_s : u"*"_s;
-        };
-        const bool isFlat = std::holds_alternative<Vec2>(has.value) || std::holds_alternative<Vec2>(wanted.value);
-        // A single operator holds for all coordinates.
-        const auto at = [&](size_t i) { return operators.size() == 1 ? first : relation(i); };
-        return isPoint(has) && compareNumbers(a.x, b.x, at(0)) && compareNumbers(a.y, b.y, at(1)) &&
-               (isFlat || compareNumbers(a.z, b.z, at(2)));
-    }
-    if (std::holds_alternative<QString>(wanted.value) || std::holds_alternative<Handle>(wanted.value)) {
-        const bool isSame = matchesWildcard(has.text(), wanted.text());
-        const bool isNegated = first == u"!=" || first == u"/=" || first == u"<>";
-        return first == u"*" || isSame != isNegated;
-    }
-    if (isBitwise(first)) {
-        const qint64 common = has.integer() & wanted.integer();
-        return first == u"&" ? common != 0 : common == wanted.integer();
-    }
-    return compareNumbers(has.real(), wanted.real(), first);
-}
 
 } // namespace
 
@@ -85,15 +28,34 @@ public:
         Node root;
         if (!parseParts(root, {}, 0))
             return std::nullopt;
+        sortByCost(root);
         return root;
     }
     const QString &error() const { return m_error; }
+    std::size_t tests() const { return m_tests; }
 
 private:
+    void addTest(Node &node, FieldTest test)
+    {
+        Node &leaf = node.parts.emplace_back();
+        leaf.test = std::move(test);
+        leaf.number = m_tests++;
+    }
+
     bool fail(const QString &text)
     {
         m_error = u"bad SSGET list: %1"_s.arg(text);
         return false;
+    }
+
+    /// The type of an entity is known without a look into its record; groups may ask for anything.
+    static int costOf(const Node &node) { return !node.test ? 2 : node.test->wanted.code == 0 ? 0 : 1; }
+    /// No order of questions changes an answer.
+    static void sortByCost(Node &node)
+    {
+        std::ranges::stable_sort(node.parts, {}, costOf);
+        for (Node &part : node.parts)
+            sortByCost(part);
     }
 
     static std::optional<Join> joinNamed(const QString &name)
@@ -111,7 +73,7 @@ private:
         while (m_next < m_conditions.size()) {
             const Field &field = m_conditions[m_next++];
             if (field.code != operatorCode) {
-                node.parts.emplace_back().test = Test{field, {}};
+                addTest(node, {field, {}});
                 continue;
             }
             const QString name = field.text().trimmed().toUpper();
@@ -135,18 +97,19 @@ private:
             return true;
         }
         const QStringList relations = name.split(u',');
-        std::vector<QString> operators;
-        for (const QString &relation : relations) {
-            if (!isRelation(relation.trimmed()))
+        std::vector<Relation> operators;
+        for (const QString &each : relations) {
+            const std::optional<Relation> relation = relationNamed(QStringView(each).trimmed());
+            if (!relation)
                 return fail(u"\"%1\" is no operator"_s.arg(name));
-            operators.push_back(relation.trimmed());
+            operators.push_back(*relation);
         }
         if (m_next >= m_conditions.size() || m_conditions[m_next].code == operatorCode)
             return fail(u"nothing follows \"%1\""_s.arg(name));
         const Field &field = m_conditions[m_next++];
         if (operators.size() > 3 || (operators.size() > 1 && !isPoint(field)))
             return fail(u"\"%1\" needs a point"_s.arg(name));
-        node.parts.emplace_back().test = Test{field, std::move(operators)};
+        addTest(node, {field, std::move(operators)});
         return true;
     }
 
@@ -159,75 +122,8 @@ private:
 
     const FieldList &m_conditions;
     size_t m_next = 0;
+    std::size_t m_tests = 0;
     QString m_error;
-};
-
-/// One entity held against the tree.
-class SelectionFilter::Matcher
-{
-public:
-    Matcher(const Drawing &drawing, RecordId entity) : m_drawing(drawing), m_entity(entity) {}
-
-    bool matches(const Node &node)
-    {
-        if (node.test)
-            return matchesTest(*node.test);
-        const auto holds = [this](const Node &part) { return matches(part); };
-        switch (node.join) {
-        case Join::And:
-            return std::all_of(node.parts.begin(), node.parts.end(), holds);
-        case Join::Or:
-            return std::any_of(node.parts.begin(), node.parts.end(), holds);
-        case Join::Xor:
-            return std::count_if(node.parts.begin(), node.parts.end(), holds) == 1;
-        case Join::Not:
-            return std::none_of(node.parts.begin(), node.parts.end(), holds);
-        }
-        return false;
-    }
-
-private:
-    bool matchesTest(const Test &test)
-    {
-        if (test.field.code == 0) // most lists ask for the type: it is known without reading the record
-            return compareField({0, QString::fromLatin1(m_drawing.typeName(m_entity))}, test.field, test.operators);
-        if (test.field.code == xdataCode)
-            return hasXdata(test.field.text());
-        // Only the groups asked for are made into fields: most of a record is never looked at.
-        const int code = test.field.code;
-        bool isThere = false;
-        const TagList &record = tags();
-        const size_t end = code < firstXdataCode ? record.own().size() : record.size();
-        for (size_t i = 0; i < end; ++i) {
-            if (record[i].code != code)
-                continue;
-            isThere = true;
-            if (compareField(record.fieldAt(i), test.field, test.operators))
-                return true;
-        }
-        if (isThere && !isImpliedBeside(m_drawing, m_entity, record, code))
-            return false;
-        const std::optional<Field> implied = impliedField(m_drawing, m_entity, record, code);
-        return implied && compareField(*implied, test.field, test.operators);
-    }
-
-    bool hasXdata(const QString &application)
-    {
-        return std::any_of(tags().begin(), tags().end(), [&](const Tag &tag) {
-            return tag.code == applicationCode && matchesWildcard(tags().decoded(tag), application);
-        });
-    }
-
-    const TagList &tags()
-    {
-        if (!m_tags)
-            m_tags = m_drawing.tags(m_entity);
-        return *m_tags;
-    }
-
-    const Drawing &m_drawing;
-    RecordId m_entity;
-    std::optional<TagList> m_tags;
 };
 
 SelectionFilter::Outcome SelectionFilter::create(const FieldList &conditions)
@@ -239,19 +135,20 @@ SelectionFilter::Outcome SelectionFilter::create(const FieldList &conditions)
     Outcome outcome;
     outcome.filter.emplace();
     outcome.filter->m_root = std::move(*root);
+    outcome.filter->m_tests = parser.tests();
     return outcome;
 }
 
 bool SelectionFilter::matches(const Drawing &drawing, RecordId entity) const
 {
-    return drawing.isAlive(entity) && Matcher(drawing, entity).matches(m_root);
+    return Matcher(*this, drawing).matches(entity);
 }
 
 std::vector<RecordId> SelectionFilter::matching(const Drawing &drawing, const std::vector<RecordId> &entities) const
 {
     std::vector<RecordId> found;
-    std::copy_if(entities.begin(), entities.end(), std::back_inserter(found),
-                 [&](RecordId entity) { return matches(drawing, entity); });
+    Matcher matcher(*this, drawing);
+    std::ranges::copy_if(entities, std::back_inserter(found), [&](RecordId entity) { return matcher.matches(entity); });
     return found;
 }
 

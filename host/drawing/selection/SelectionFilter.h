@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/drawing/records/Drawing.h"
+#include "host/drawing/selection/FieldTest.h"
 
 #include <optional>
 
@@ -18,22 +19,18 @@ class SelectionFilter
 {
 public:
     struct Outcome;
+    class Matcher; ///< see FilterMatcher.h
     /// Checks the list; a bad operator or grouping that does not close, or groups more than 200 deep, are told in the
     /// outcome. An empty list is met by everything.
     static Outcome create(const FieldList &conditions);
 
-    /// False for what is erased. Numbers are equal when they differ by less than 1e-9 of their size. Costs at most a
-    /// pass over the record for each condition, and none for its type.
+    /// False for what is erased. Costs at most a pass over the record for each condition, and none for its type;
+    /// whoever asks about many keeps a Matcher.
     bool matches(const Drawing &drawing, RecordId entity) const;
     /// Of all given, those that match, in order.
     std::vector<RecordId> matching(const Drawing &drawing, const std::vector<RecordId> &entities) const;
 
 private:
-    struct Test
-    {
-        Field field;
-        std::vector<QString> operators; ///< one for a number, up to three for a point; empty: equal
-    };
     enum class Join
     {
         And,
@@ -43,14 +40,15 @@ private:
     };
     struct Node
     {
-        std::optional<Test> test; ///< a leaf; otherwise a group
+        std::optional<FieldTest> test; ///< a leaf; otherwise a group
         Join join = Join::And;
-        std::vector<Node> parts; ///< of a group, in the order of the list
+        std::vector<Node> parts; ///< of a group, what costs least to ask first
+        std::size_t number = 0;  ///< of a leaf: how many others were before it in the list
     };
     class Parser;
-    class Matcher;
 
     Node m_root;
+    std::size_t m_tests = 0; ///< how many leaves there are
 };
 
 struct SelectionFilter::Outcome

@@ -82,11 +82,22 @@ bool isInSet(QChar c, QStringView set, Qt::CaseSensitivity sensitivity)
     return false;
 }
 
+bool isSameLetter(QChar a, QChar b, Qt::CaseSensitivity sensitivity)
+{
+    if (a == b || sensitivity == Qt::CaseSensitive)
+        return a == b;
+    // Letters that differ in case alone differ by one bit; few others do.
+    const bool isPlain = (a.unicode() | b.unicode()) < 0x80;
+    if (isPlain && ((a.unicode() ^ b.unicode()) != 0x20 || !a.isLetter()))
+        return false;
+    return a.toCaseFolded() == b.toCaseFolded();
+}
+
 bool matchesElement(QChar c, const Element &element, Qt::CaseSensitivity sensitivity)
 {
     switch (element.kind) {
     case Element::Kind::Exactly:
-        return QStringView(&c, 1).compare(element.set, sensitivity) == 0;
+        return isSameLetter(c, element.set.front(), sensitivity);
     case Element::Kind::Any:
         return true;
     case Element::Kind::Digit:
@@ -105,7 +116,8 @@ bool matchesElement(QChar c, const Element &element, Qt::CaseSensitivity sensiti
 
 /// One pattern without commas. On a mismatch only the last star is tried further: that is enough, as earlier stars
 /// have found their shortest run.
-bool matchesOne(QStringView text, QStringView pattern, Qt::CaseSensitivity sensitivity)
+template <typename Text>
+bool matchesOne(Text text, QStringView pattern, Qt::CaseSensitivity sensitivity)
 {
     qsizetype at = 0;
     qsizetype position = 0;
@@ -118,7 +130,7 @@ bool matchesOne(QStringView text, QStringView pattern, Qt::CaseSensitivity sensi
             starText = at;
             continue;
         }
-        if (position < pattern.size() && matchesElement(text[at], readElement(pattern, next), sensitivity)) {
+        if (position < pattern.size() && matchesElement(QChar(text[at]), readElement(pattern, next), sensitivity)) {
             position = next;
             ++at;
         } else if (starPosition >= 0) {
@@ -149,9 +161,8 @@ qsizetype patternLength(QStringView patterns, qsizetype lastClose)
     return patterns.size();
 }
 
-} // namespace
-
-bool matchesWildcard(QStringView text, QStringView pattern, Qt::CaseSensitivity sensitivity)
+template <typename Text>
+bool matchesAny(Text text, QStringView pattern, Qt::CaseSensitivity sensitivity)
 {
     qsizetype lastClose = pattern.lastIndexOf(u']');
     while (true) {
@@ -165,6 +176,18 @@ bool matchesWildcard(QStringView text, QStringView pattern, Qt::CaseSensitivity 
         pattern = pattern.mid(length + 1);
         lastClose -= length + 1;
     }
+}
+
+} // namespace
+
+bool matchesWildcard(QStringView text, QStringView pattern, Qt::CaseSensitivity sensitivity)
+{
+    return matchesAny(text, pattern, sensitivity);
+}
+
+bool matchesWildcard(QLatin1StringView text, QStringView pattern, Qt::CaseSensitivity sensitivity)
+{
+    return matchesAny(text, pattern, sensitivity);
 }
 
 } // namespace host::drawing

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QLatin1StringView>
 #include <QStringView>
 
 namespace host::drawing {
@@ -8,5 +9,7 @@ namespace host::drawing {
 /// letters, * any run, ? any character, ~ at the start the opposite, [..] [~..] one of a set, commas between patterns,
 /// ` the next character as it is. Letter case counts only if asked for. Costs at most the product of both lengths.
 bool matchesWildcard(QStringView text, QStringView pattern, Qt::CaseSensitivity sensitivity = Qt::CaseInsensitive);
+bool matchesWildcard(QLatin1StringView text, QStringView pattern,
+                     Qt::CaseSensitivity sensitivity = Qt::CaseInsensitive);
 
 } // namespace host::drawing

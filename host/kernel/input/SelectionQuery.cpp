@@ -3,6 +3,7 @@
 #include "host/drawing/records/Entities.h"
 #include "host/drawing/records/Layouts.h"
 #include "host/drawing/records/Symbols.h"
+#include "host/drawing/selection/FilterMatcher.h"
 #include "host/kernel/documents/Document.h"
 #include "host/kernel/input/SelectionBuilder.h"
 #include "host/kernel/input/UserInput.h"
@@ -94,10 +95,12 @@ std::function<bool(RecordId)> acceptance(const Document &document, const Selecti
 {
     const drawing::Drawing &drawing = document.drawing();
     const QSet<QString> locked = query.flags.contains(QStringLiteral("L")) ? lockedLayers(drawing) : QSet<QString>();
-    return [&drawing, &query, locked](RecordId id) {
+    using Matcher = drawing::SelectionFilter::Matcher;
+    const auto matcher = query.filter ? std::make_shared<Matcher>(*query.filter, drawing) : nullptr;
+    return [&drawing, locked, matcher](RecordId id) {
         if (!locked.isEmpty() && isOnLayerOf(locked, drawing, id))
             return false;
-        return !query.filter || query.filter->matches(drawing, id);
+        return !matcher || matcher->matches(id);
     };
 }
 
@@ -185,7 +188,8 @@ QSet<QString> lockedLayers(const drawing::Drawing &drawing)
 
 bool isOnLayerOf(const QSet<QString> &layers, const drawing::Drawing &drawing, RecordId entity)
 {
-    return layers.contains(drawing.tags(entity).text(8, QStringLiteral("0")).toUpper());
+    const std::optional<drawing::Tag> layer = drawing.findTag(entity, 8);
+    return layers.contains(layer ? drawing.codec().decode(layer->value).toUpper() : QStringLiteral("0"));
 }
 
 } // namespace host::kernel
