@@ -326,8 +326,7 @@ Value Interpreter::makeSelectionSet(const std::vector<std::uint64_t> &entities)
 {
     auto *set = new SelectionSet;
     Value value = Value::adopt(Tag::SelectionSet, set);
-    for (const std::uint64_t entity : entities)
-        set->add(entity);
+    set->add(entities);
     set->mark = ++m_selectionSets;
     return value;
 }

@@ -5,6 +5,9 @@
 #include "host/lisp/Function.h"
 #include "host/lisp/Native.h"
 
+#include <algorithm>
+#include <functional>
+
 namespace host::lisp {
 
 /// Takes objects apart whose last reference went. Chains of pairs and functions may be as long and as deep as memory
@@ -193,10 +196,44 @@ std::size_t StringObject::bytesOutside() const noexcept
     return text.capacity() > within ? Heap::blockOf(text.capacity() + 1) : 0;
 }
 
+/// What a member of a selection set takes beside its place in the queue: a node and a bucket.
+static constexpr std::size_t memoryOfMember = 40;
+
+bool SelectionSet::contains(std::uint64_t entity)
+{
+    know();
+    return members.contains(entity);
+}
+
+void SelectionSet::know()
+{
+    if (members.size() == entities.size())
+        return;
+    share.grow(entities.size() * memoryOfMember);
+    counted = entities.size();
+    members.reserve(entities.size());
+    members.insert(entities.begin(), entities.end());
+}
+
+void SelectionSet::add(std::span<const std::uint64_t> many)
+{
+    const bool areDistinct = std::ranges::adjacent_find(many, std::greater_equal()) == many.end() ||
+                             std::ranges::adjacent_find(many, std::less_equal()) == many.end();
+    if (!areDistinct || !entities.empty()) {
+        for (const std::uint64_t entity : many)
+            add(entity);
+        return;
+    }
+    share.grow(many.size() * sizeof(std::uint64_t));
+    entities.assign(many.begin(), many.end());
+    details.reset();
+}
+
 bool SelectionSet::add(std::uint64_t entity)
 {
-    // In the queue, and a node and a bucket among the members. Only what was never in it counts anew.
-    constexpr std::size_t memory = 48;
+    know();
+    // Only what was never in it counts anew.
+    constexpr std::size_t memory = sizeof(std::uint64_t) + memoryOfMember;
     if (members.size() >= counted) {
         share.grow(memory);
         ++counted;
@@ -210,6 +247,7 @@ bool SelectionSet::add(std::uint64_t entity)
 
 bool SelectionSet::remove(std::uint64_t entity)
 {
+    know();
     if (members.erase(entity) == 0)
         return false;
     for (std::size_t i = 0;; ++i) {

@@ -308,7 +308,8 @@ private:
 
 /// Entities chosen together, in order, without repetition. Shared by all values that refer to it: ssadd and ssdel
 /// change it in place. `mark` is the number that it prints with. Made by Interpreter::makeSelectionSet. Whether an
-/// entity is in takes the same time however many there are; so does adding one.
+/// entity is in takes the same time however many there are; so does adding one. The first such question about a set
+/// that was made of many costs a pass over them.
 struct SelectionSet : Object
 {
     /// To be read only; add() and remove() change it.
@@ -318,14 +319,19 @@ struct SelectionSet : Object
     std::shared_ptr<const void> details;
 
     /// Whether it is in, erased or not: the set knows numbers, not drawings.
-    bool contains(std::uint64_t entity) const { return members.contains(entity); }
+    bool contains(std::uint64_t entity);
     /// Puts it at the end; false when it was there already. Throws "out of memory" when the program has no more.
     bool add(std::uint64_t entity);
+    /// As add(), one after another; quicker into an empty set when the numbers only rise or only fall.
+    void add(std::span<const std::uint64_t> many);
     /// False when it was not there. Quick at both ends, which is where programs take entities away.
     bool remove(std::uint64_t entity);
 
 private:
-    std::unordered_set<std::uint64_t> members; ///< the same as in `entities`
+    /// Makes `members`, where nobody has asked for one yet.
+    void know();
+
+    std::unordered_set<std::uint64_t> members; ///< the same as in `entities`, or none
     std::size_t counted = 0;                   ///< for how many members there is a share: the most that there were
     HeapShare share;                           ///< what the members take outside of the object
 };
