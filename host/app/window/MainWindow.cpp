@@ -1,6 +1,7 @@
 #include "host/app/window/MainWindow.h"
 
 #include "host/app/playback/SessionRecorder.h"
+#include "host/app/window/canvas/AimTyping.h"
 #include "host/app/window/canvas/DrawingCanvas.h"
 #include "host/app/window/entry/CommandLine.h"
 #include "host/app/window/entry/CommandRunner.h"
@@ -12,6 +13,7 @@
 #include "host/app/window/frame/Menus.h"
 #include "host/app/window/frame/Panels.h"
 #include "host/app/window/frame/Preferences.h"
+#include "host/app/window/frame/StatusSwitches.h"
 #include "host/app/window/frame/TrustBar.h"
 #include "host/app/window/frame/WindowServices.h"
 #include "host/kernel/documents/ScreenSketch.h"
@@ -62,6 +64,8 @@ MainWindow::MainWindow(const WorkbenchOptions &options)
     buildServices();
     middle->insertWidget(0, new TrustBar(*m_services, centralWidget()));
     m_panels = std::make_unique<Panels>(*this, *m_services);
+    m_switches = std::make_unique<StatusSwitches>(*this, *m_services);
+    m_typing = std::make_unique<AimTyping>(*m_commandLine->input(), [this] { return canvas(); });
     buildMenus();
     connectRunner();
 
@@ -109,6 +113,7 @@ void MainWindow::connectRunner()
             [this](const std::optional<kernel::PromptRequest> &request) {
                 if (DrawingCanvas *current = canvas())
                     current->setRequest(request);
+                m_typing->restart();
             });
     connect(m_runner.get(), &CommandRunner::stateChanged, this, &MainWindow::updateState);
     connect(m_runner.get(), &CommandRunner::ended, this, [this] {
@@ -199,6 +204,7 @@ void MainWindow::keyPressEvent(QKeyEvent *event)
 void MainWindow::addTab(kernel::Document *document)
 {
     DrawingCanvas *canvas = m_tabs->add(*document);
+    m_typing->watch(*canvas);
     connect(canvas, &DrawingCanvas::answered, m_runner.get(), &CommandRunner::answer);
     connect(canvas, &DrawingCanvas::gripsTaken, this, [this](const std::vector<drawing::Vec3> &places) {
         std::vector<kernel::InputAnswer> answers;

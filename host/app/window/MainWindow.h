@@ -16,6 +16,7 @@ class QTabWidget;
 
 namespace host::app {
 
+class AimTyping;
 class CommandLine;
 class CommandRunner;
 class DrawingCanvas;
@@ -27,6 +28,7 @@ class Menus;
 class Panels;
 class SessionRecorder;
 class SettingsWindow;
+class StatusSwitches;
 class WindowServices;
 
 /// The window: drawings in tabs, one command line for all, menus and a status bar.
@@ -171,6 +173,8 @@ private:
     std::unique_ptr<Panels> m_panels;
     SettingsWindow *m_settings = nullptr; ///< owned by this
     std::unique_ptr<Menus> m_menus;
+    std::unique_ptr<StatusSwitches> m_switches;
+    std::unique_ptr<AimTyping> m_typing;
     QTimer m_reportTimer;         ///< the report is made once for changes that come together
     qsizetype m_problemsTold = 0; ///< of those of the workbench, from the first on
     bool m_wasConsoleShown = false;

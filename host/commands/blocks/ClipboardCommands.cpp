@@ -95,6 +95,17 @@ const drawing::Drawing *clipboardOf(CommandContext &context)
     return source;
 }
 
+/// What it holds, at the pointer by its base.
+Dragged hangingClipboard(CommandContext &context)
+{
+    const std::shared_ptr<const drawing::Drawing> source = context.document().session().heldClipboard();
+    const Vec3 base = source->header().point(u"$INSBASE");
+    return std::make_shared<const DragShape>(
+        DragShape{.source = source, .map = [base](const Vec3 &place) -> std::optional<drawing::Matrix> {
+                      return drawing::Matrix::translation(place - base);
+                  }});
+}
+
 /// Copies of what the clipboard holds, in the space that is current.
 Entities pasteEntities(CommandContext &context, const drawing::Drawing &source, const Vec3 &by)
 {
@@ -120,7 +131,8 @@ CommandTask pasteClip(CommandContext &context)
     if (!source)
         co_return;
     const Vec3 base = source->header().point(u"$INSBASE");
-    const PromptReply at = co_await context.neededPoint(u"Specify insertion point: "_s);
+    const PromptReply at =
+        co_await context.neededPoint(u"Specify insertion point: "_s).dragging(hangingClipboard(context));
     if (const drawing::Drawing *present = clipboardOf(context))
         pasteEntities(context, *present, at.point - base);
 }
@@ -147,7 +159,8 @@ CommandTask pasteBlock(CommandContext &context)
 {
     if (!clipboardOf(context))
         co_return;
-    const PromptReply at = co_await context.neededPoint(u"Specify insertion point: "_s);
+    const PromptReply at =
+        co_await context.neededPoint(u"Specify insertion point: "_s).dragging(hangingClipboard(context));
     const drawing::Drawing *source = clipboardOf(context);
     if (!source)
         co_return;

@@ -153,8 +153,8 @@ CommandTask insert(CommandContext &context)
     if (wanted.block.isEmpty())
         co_return;
     context.document().variables().setInternally(u"INSNAME", wanted.block);
-    const InsertPlacement placement =
-        co_await askPlacement(context, wanted.isPieces ? InsertScales::One : InsertScales::OfEachAxis);
+    const InsertScales scales = wanted.isPieces ? InsertScales::One : InsertScales::OfEachAxis;
+    const InsertPlacement placement = co_await askPlacement(context, scales, wanted.block);
     if (context.hasFailed())
         co_return;
     if (wanted.isPieces) {

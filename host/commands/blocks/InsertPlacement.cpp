@@ -1,8 +1,11 @@
 #include "host/commands/blocks/InsertPlacement.h"
 
 #include "host/commands/common/UserPlane.h"
+#include "host/drawing/records/Blocks.h"
 #include "host/kernel/documents/Document.h"
 #include "host/kernel/running/CommandContext.h"
+
+#include <cmath>
 
 using namespace Qt::StringLiterals;
 
@@ -28,10 +31,43 @@ Dialogue<double> askFactor(CommandContext &context, const QString prompt)
     co_return reply.hasValue() ? reply.real : 1.0;
 }
 
-Dialogue<double> askRotation(CommandContext &context, const std::optional<Vec3> base)
+/// What hangs at the pointer; nothing for nobody's block.
+Dragged hanging(CommandContext &context, const QString &block, DragShape::Map map)
+{
+    const bool isKnown = !block.isEmpty() && context.drawing().blocks().get(block);
+    return isKnown ? std::make_shared<const DragShape>(DragShape{.block = block, .map = std::move(map)}) : nullptr;
+}
+
+/// At the place, as it is scaled and turned so far.
+Dragged hangingByBase(CommandContext &context, const QString &block, const InsertPlacement &placement)
+{
+    const std::optional<drawing::Block> definition = context.drawing().blocks().get(block);
+    const Vec3 base = definition ? definition->basePoint : Vec3{};
+    const Matrix atOrigin = placementMatrix(context, base, placement);
+    return hanging(context, block, [=](const Vec3 &place) -> std::optional<Matrix> {
+        return Matrix::translation(place - placement.point) * atOrigin;
+    });
+}
+
+/// At its point, turned towards the place, or, before an angle is asked for, as it is.
+Dragged hangingThere(CommandContext &context, const QString &block, const InsertPlacement &placement, bool isTurned)
+{
+    const std::optional<drawing::Block> definition = context.drawing().blocks().get(block);
+    const Matrix straight = placementMatrix(context, definition ? definition->basePoint : Vec3{}, placement);
+    const UserPlane plane(context.document());
+    const Vec3 from = plane.userFromWorld(placement.point);
+    return hanging(context, block, [=](const Vec3 &place) -> std::optional<Matrix> {
+        const Vec3 away = plane.userFromWorld(place) - from;
+        const double turn = isTurned ? std::atan2(away.y, away.x) : 0.0;
+        return plane.rotation(turn, placement.point) * straight;
+    });
+}
+
+Dialogue<double> askRotation(CommandContext &context, const std::optional<Vec3> base, const Dragged shape)
 {
     const QString zero = context.shownAngle(0.0);
-    const PromptReply turn = co_await context.orientation(u"Specify rotation angle <%1>: "_s.arg(zero), {}, base, zero);
+    const PromptReply turn =
+        co_await context.orientation(u"Specify rotation angle <%1>: "_s.arg(zero), {}, base, zero).dragging(shape);
     co_return turn.hasValue() ? turn.real : 0.0;
 }
 
@@ -40,7 +76,7 @@ Dialogue<Draft> takePlacementOption(CommandContext &context, Draft draft, const 
 {
     Vec3 &scale = draft.placement.scale;
     if (option == u"Rotate"_s) {
-        draft.placement.rotation = co_await askRotation(context, {});
+        draft.placement.rotation = co_await askRotation(context, {}, nullptr);
         draft.hasRotation = true;
         co_return draft;
     }
@@ -63,9 +99,10 @@ Dialogue<double> askLike(CommandContext &context, double xScale, const QString a
     co_return reply.hasValue() ? reply.real : xScale;
 }
 
-Dialogue<Vec3> askScales(CommandContext &context, const Vec3 insertion)
+Dialogue<Vec3> askScales(CommandContext &context, const Vec3 insertion, const Dragged shape)
 {
-    const PromptReply x = co_await context.real(u"Enter X scale factor or [Corner/XYZ] <1>: "_s, {}, u"1"_s, NoZero);
+    const PromptReply x =
+        co_await context.real(u"Enter X scale factor or [Corner/XYZ] <1>: "_s, {}, u"1"_s, NoZero).dragging(shape);
     if (x.isKeyword(u"Corner")) {
         const UserPlane plane(context.document());
         const PromptReply corner = co_await context.neededPoint(u"Specify opposite corner: "_s, insertion);
@@ -89,12 +126,13 @@ Dialogue<Vec3> askScales(CommandContext &context, const Vec3 insertion)
 
 } // namespace
 
-Dialogue<InsertPlacement> askPlacement(CommandContext &context, InsertScales scales)
+Dialogue<InsertPlacement> askPlacement(CommandContext &context, InsertScales scales, QString block)
 {
     Draft draft;
     PromptReply point;
     for (;;) {
-        point = co_await context.neededPoint(u"Specify insertion point or [Scale/X/Y/Z/Rotate]: "_s);
+        point = co_await context.neededPoint(u"Specify insertion point or [Scale/X/Y/Z/Rotate]: "_s)
+                    .dragging(hangingByBase(context, block, draft.placement));
         if (point.hasValue())
             break;
         draft = co_await takePlacementOption(context, draft, point.text);
@@ -107,10 +145,13 @@ Dialogue<InsertPlacement> askPlacement(CommandContext &context, InsertScales sca
             factor = co_await askFactor(context, u"Specify scale factor <1>: "_s);
         placement.scale = {factor, factor, factor};
     } else if (!draft.hasScale) {
-        placement.scale = co_await askScales(context, point.point);
+        const Dragged still = hangingThere(context, block, placement, false);
+        placement.scale = co_await askScales(context, point.point, still);
     }
-    if (!draft.hasRotation && !context.hasFailed())
-        placement.rotation = co_await askRotation(context, point.point);
+    if (!draft.hasRotation && !context.hasFailed()) {
+        const Dragged turning = hangingThere(context, block, placement, true);
+        placement.rotation = co_await askRotation(context, point.point, turning);
+    }
     co_return placement;
 }
 

@@ -25,8 +25,9 @@ enum class InsertScales
 };
 
 /// Asks for insertion point, scales and rotation; the options in front of the point say scales and rotation beforehand,
-/// which are not asked for then.
-Dialogue<InsertPlacement> askPlacement(CommandContext &context, InsertScales scales = InsertScales::OfEachAxis);
+/// which are not asked for then. The contents of `block` hang at the pointer meanwhile; empty: nothing does.
+Dialogue<InsertPlacement> askPlacement(CommandContext &context, InsertScales scales = InsertScales::OfEachAxis,
+                                       QString block = {});
 
 /// The INSERT in the plane of the user's axes.
 drawing::FieldList insertFields(CommandContext &context, const QString &block, const InsertPlacement &placement);

@@ -20,14 +20,15 @@ Dialogue<Vec3> askDisplacement(CommandContext &context)
     co_return reply.hasValue() ? plane.displacement(reply.point) : Vec3{};
 }
 
-Dialogue<Vec3> askMovement(CommandContext &context)
+Dialogue<Vec3> askMovement(CommandContext &context, ShapeFrom shape)
 {
     const PromptReply from =
         co_await context.point(u"Specify base point or [Displacement] <Displacement>: "_s, {}, {}, u"Displacement"_s);
     if (!from.hasValue())
         co_return co_await askDisplacement(context);
     const PromptReply to =
-        co_await context.point(u"Specify second point or <use first point as displacement>: "_s, {}, from.point);
+        co_await context.point(u"Specify second point or <use first point as displacement>: "_s, {}, from.point)
+            .dragging(shape(from.point));
     co_return to.hasValue() ? to.point - from.point : UserPlane(context.document()).displacement(from.point);
 }
 

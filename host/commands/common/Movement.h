@@ -1,9 +1,9 @@
 #pragma once
 
-#include "host/drawing/math/Vec.h"
+#include "host/kernel/input/DragShape.h"
 #include "host/kernel/running/Dialogue.h"
 
-#include <QString>
+#include <functional>
 
 namespace host::kernel {
 
@@ -13,7 +13,8 @@ class CommandContext;
 Dialogue<drawing::Vec3> askDisplacement(CommandContext &context);
 
 /// How far something moves, in world coordinates: by a base point and a second point, or a displacement; an empty
-/// second point takes the first one as the displacement.
-Dialogue<drawing::Vec3> askMovement(CommandContext &context);
+/// second point takes the first one as the displacement. `shape` says what hangs at the pointer meanwhile, for a base.
+using ShapeFrom = std::function<Dragged(const drawing::Vec3 &base)>;
+Dialogue<drawing::Vec3> askMovement(CommandContext &context, ShapeFrom shape);
 
 } // namespace host::kernel

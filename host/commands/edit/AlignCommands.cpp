@@ -159,7 +159,8 @@ CommandTask move3d(CommandContext &context)
     const std::vector<drawing::RecordId> entities = editable(context, chosen.entities);
     if (entities.empty())
         co_return;
-    const Vec3 by = co_await askMovement(context);
+    const ShapeFrom shape = [&entities](const Vec3 &base) { return movedBy(entities, base); };
+    const Vec3 by = co_await askMovement(context, shape);
     transformAll(context, entities, Matrix::translation(by));
 }
 

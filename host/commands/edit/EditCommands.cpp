@@ -1,4 +1,5 @@
 #include "host/commands/Commands.h"
+#include "host/commands/common/DragShapes.h"
 #include "host/commands/common/EntityEdits.h"
 #include "host/commands/common/Movement.h"
 #include "host/commands/common/ReferenceValue.h"
@@ -35,7 +36,8 @@ CommandTask move(CommandContext &context)
     const std::vector<RecordId> entities = editable(context, chosen.entities);
     if (entities.empty())
         co_return;
-    const Vec3 by = co_await askMovement(context);
+    const ShapeFrom shape = [&entities](const Vec3 &base) { return movedBy(entities, base); };
+    const Vec3 by = co_await askMovement(context, shape);
     transformAll(context, entities, Matrix::translation(by));
 }
 
@@ -51,10 +53,11 @@ Dialogue<Copies> askCopiesInRow(CommandContext &context, const Copies &entities,
         if (count.integer < fewest && context.refuse(u"Requires an integer of 2 or more."_s))
             co_return Copies();
     } while (count.integer < fewest);
-    PromptReply to = co_await context.neededPoint(u"Specify second point or [Fit]: "_s, from);
+    const Dragged shape = movedBy(entities, from);
+    PromptReply to = co_await context.neededPoint(u"Specify second point or [Fit]: "_s, from).dragging(shape);
     const bool isFit = to.isKeyword(u"Fit");
     if (isFit)
-        to = co_await context.neededPoint(u"Specify second point: "_s, from);
+        to = co_await context.neededPoint(u"Specify second point: "_s, from).dragging(shape);
     const int steps = count.integer - 1;
     Copies made;
     if (!mayCopy(context, entities.size(), steps))
@@ -69,8 +72,10 @@ Dialogue<Copies> askCopiesInRow(CommandContext &context, const Copies &entities,
 Dialogue<bool> askCopies(CommandContext &context, const Copies &entities, Vec3 from, bool isMultiple)
 {
     const auto copyTo = [&](const Vec3 &by) { return copyAll(context, entities, Matrix::translation(by)); };
+    const Dragged shape = movedBy(entities, from);
     PromptReply to =
-        co_await context.point(u"Specify second point or [Array] <use first point as displacement>: "_s, {}, from);
+        co_await context.point(u"Specify second point or [Array] <use first point as displacement>: "_s, {}, from)
+            .dragging(shape);
     if (to.isEmpty()) {
         copyTo(UserPlane(context.document()).displacement(from));
         co_return true;
@@ -89,7 +94,8 @@ Dialogue<bool> askCopies(CommandContext &context, const Copies &entities, Vec3 f
         }
         if (context.hasFailed() || !isMultiple)
             break;
-        to = co_await context.point(u"Specify second point or [Array/Exit/Undo] <Exit>: "_s, {}, from, u"Exit"_s);
+        to = co_await context.point(u"Specify second point or [Array/Exit/Undo] <Exit>: "_s, {}, from, u"Exit"_s)
+                 .dragging(shape);
     }
     co_return true;
 }
@@ -147,15 +153,17 @@ CommandTask rotate(CommandContext &context)
     const PromptReply centre = co_await context.neededPoint(u"Specify base point: "_s);
     const QString zero = context.shownAngle(0.0);
     const QString prompt = u"Specify rotation angle or [Copy/Reference] <%1>: "_s.arg(zero);
-    PromptReply turn = co_await context.angle(prompt, {}, centre.point, zero);
+    const Dragged shape =
+        turnedBy(UserPlane(context.document()), chosen.entities, centre.point, variables.real(u"ANGBASE"));
+    PromptReply turn = co_await context.angle(prompt, {}, centre.point, zero).dragging(shape);
     const bool isCopy = turn.isKeyword(u"Copy");
     if (isCopy) {
         context.print(u"\nRotating a copy of the selected objects."_s);
-        turn = co_await context.angle(prompt, u"Reference"_s, centre.point, zero);
+        turn = co_await context.angle(prompt, u"Reference"_s, centre.point, zero).dragging(shape);
     }
     double angle = turn.hasValue() ? turn.real : 0.0;
     if (turn.isKeyword(u"Reference"))
-        angle = co_await askReferenceAngle(context, centre.point);
+        angle = co_await askReferenceAngle(context, centre.point, chosen.entities);
     apply(context, chosen.entities, isCopy, UserPlane(context.document()).rotation(angle, centre.point));
 }
 
@@ -168,15 +176,16 @@ CommandTask scale(CommandContext &context)
         co_return;
     const PromptReply centre = co_await context.neededPoint(u"Specify base point: "_s);
     const QString prompt = u"Specify scale factor or [Copy/Reference]: "_s;
-    PromptReply factor = co_await context.distance(prompt, {}, centre.point, {}, bits);
+    const Dragged shape = scaledBy(UserPlane(context.document()), chosen.entities, centre.point);
+    PromptReply factor = co_await context.distance(prompt, {}, centre.point, {}, bits).dragging(shape);
     const bool isCopy = factor.isKeyword(u"Copy");
     if (isCopy) {
         context.print(u"\nScaling a copy of the selected objects."_s);
-        factor = co_await context.distance(prompt, u"Reference"_s, centre.point, {}, bits);
+        factor = co_await context.distance(prompt, u"Reference"_s, centre.point, {}, bits).dragging(shape);
     }
     double by = factor.real;
     if (factor.isKeyword(u"Reference"))
-        by = co_await askReferenceFactor(context, centre.point);
+        by = co_await askReferenceFactor(context, centre.point, chosen.entities);
     apply(context, chosen.entities, isCopy, Matrix::scaling({by, by, by}, centre.point));
 }
 

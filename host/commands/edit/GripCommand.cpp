@@ -1,4 +1,5 @@
 #include "host/commands/Commands.h"
+#include "host/commands/common/DragShapes.h"
 #include "host/commands/common/EntityEdits.h"
 #include "host/commands/common/ReferenceValue.h"
 #include "host/commands/common/TextSizes.h"
@@ -10,6 +11,7 @@
 #include "host/kernel/input/Keywords.h"
 #include "host/kernel/running/CommandContext.h"
 #include "host/kernel/running/Dialogue.h"
+#include "host/kernel/variables/SystemVariables.h"
 
 using namespace Qt::StringLiterals;
 
@@ -69,7 +71,30 @@ struct GripEdit
     }
 };
 
-PromptRequest gripRequest(const GripEdit &edit)
+/// What the place under the pointer would make of the entities.
+Dragged gripShape(CommandContext &context, const GripEdit &edit)
+{
+    const UserPlane plane(context.document());
+    switch (edit.mode) {
+    case RotateByGrip:
+        return turnedBy(plane, edit.entities, edit.base, context.document().variables().real(u"ANGBASE"));
+    case ScaleByGrip:
+        return scaledBy(plane, edit.entities, edit.base);
+    case MirrorByGrip:
+        return mirroredIn(plane, edit.entities, edit.base);
+    default:
+        break;
+    }
+    DragShape shape = *movedBy(edit.entities, edit.base);
+    if (edit.mode == StretchByGrip)
+        shape.change = [edit](drawing::Drawing &copies, RecordId copy, RecordId, const Vec3 &by) {
+            drawing::moveGrips(
+                copies, copy, [&](const Vec3 &point) { return edit.isHot(point); }, by);
+        };
+    return std::make_shared<const DragShape>(std::move(shape));
+}
+
+PromptRequest gripRequest(CommandContext &context, const GripEdit &edit)
 {
     const GripMode &mode = gripModes[edit.mode];
     const QString prompt = QLatin1StringView(mode.prompt);
@@ -82,8 +107,7 @@ PromptRequest gripRequest(const GripEdit &edit)
         request.keywords.append(QLatin1StringView(other.word));
     request.base = edit.base;
     request.bits = edit.mode == ScaleByGrip ? NoZero | NoNegative : 0;
-    if (edit.mode == MoveByGrip)
-        request.dragged = std::make_shared<const GripEntities>(edit.entities);
+    request.dragged = gripShape(context, edit);
     return request;
 }
 
@@ -161,16 +185,18 @@ void finishAnswer(CommandContext &context, GripEdit &edit, const PromptReply &re
 Dialogue<PromptReply> askGripReference(CommandContext &context, const GripEdit &edit)
 {
     PromptReply reply;
-    reply.real = edit.mode == RotateByGrip ? co_await askReferenceAngle(context, edit.base)
-                                           : co_await askReferenceFactor(context, edit.base);
+    if (edit.mode == RotateByGrip)
+        reply.real = co_await askReferenceAngle(context, edit.base, edit.entities);
+    else
+        reply.real = co_await askReferenceFactor(context, edit.base, edit.entities);
     co_return reply;
 }
 
 /// Turns to what a word says. False for one that ends the edit.
 bool takeGripWord(CommandContext &context, GripEdit &edit, const PromptReply &reply)
 {
-    const auto *mode =
-        std::ranges::find_if(gripModes, [&](const GripMode &one) { return reply.isKeyword(QLatin1StringView(one.word).toString()); });
+    const auto *mode = std::ranges::find_if(
+        gripModes, [&](const GripMode &one) { return reply.isKeyword(QLatin1StringView(one.word).toString()); });
     if (mode != std::end(gripModes)) {
         edit.mode = std::size_t(mode - gripModes);
     } else if (reply.isKeyword(u"Copy")) {
@@ -188,7 +214,7 @@ bool takeGripWord(CommandContext &context, GripEdit &edit, const PromptReply &re
 Dialogue<bool> askGripEdit(CommandContext &context, GripEdit &edit)
 {
     for (;;) {
-        PromptReply reply = co_await context.ask(gripRequest(edit));
+        PromptReply reply = co_await context.ask(gripRequest(context, edit));
         if (reply.isEmpty()) {
             edit.mode = (edit.mode + 1) % std::size(gripModes);
         } else if (reply.isKeyword(u"Base point")) {

@@ -1,4 +1,5 @@
 #include "host/commands/Commands.h"
+#include "host/commands/common/DragShapes.h"
 #include "host/commands/common/EntityEdits.h"
 #include "host/commands/common/UserPlane.h"
 #include "host/kernel/documents/Document.h"
@@ -32,8 +33,9 @@ CommandTask mirror(CommandContext &context)
     if (chosen.entities.empty())
         co_return;
     const PromptReply first = co_await context.neededPoint(u"Specify first point of mirror line: "_s);
-    const PromptReply second = co_await context.neededPoint(u"Specify second point of mirror line: "_s, first.point);
     const UserPlane plane(context.document());
+    const PromptReply second = co_await context.neededPoint(u"Specify second point of mirror line: "_s, first.point)
+                                   .dragging(mirroredIn(plane, chosen.entities, first.point));
     const Vec3 from = plane.userFromWorld(first.point);
     const Vec3 to = plane.userFromWorld(second.point);
     if ((to - from).xy().length() == 0.0) {

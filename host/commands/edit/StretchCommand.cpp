@@ -52,6 +52,20 @@ StretchArea areaOf(const SelectionSteps &steps)
     return area;
 }
 
+/// What is shown meanwhile: what was chosen otherwise follows as a whole.
+Dragged stretchedBy(const std::vector<RecordId> &entities, const StretchArea &area, const Vec3 &base)
+{
+    DragShape shape = *movedBy(entities, base);
+    shape.isCaught = [area](RecordId id, const Vec3 &point) {
+        return !area.crossed.contains(id) || area.catches(point);
+    };
+    shape.change = [isCaught = shape.isCaught](drawing::Drawing &copies, RecordId copy, RecordId id, const Vec3 &by) {
+        drawing::stretchEntity(
+            copies, copy, [&](const Vec3 &point) { return isCaught(id, point); }, by);
+    };
+    return std::make_shared<const DragShape>(std::move(shape));
+}
+
 drawing::StretchOutcome stretchOne(CommandContext &context, RecordId id, const StretchArea &area, const Vec3 &by)
 {
     drawing::Drawing &drawing = context.drawing();
@@ -75,8 +89,9 @@ CommandTask stretch(CommandContext &context)
     const std::vector<RecordId> entities = editable(context, chosen.entities);
     if (entities.empty())
         co_return;
-    const Vec3 by = co_await askMovement(context);
     const StretchArea area = areaOf(chosen.steps);
+    const ShapeFrom shape = [&](const Vec3 &base) { return stretchedBy(entities, area, base); };
+    const Vec3 by = co_await askMovement(context, shape);
     int refused = 0;
     for (const RecordId id : entities)
         refused += stretchOne(context, id, area, by) == drawing::StretchOutcome::Refused ? 1 : 0;

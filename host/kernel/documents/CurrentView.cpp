@@ -85,6 +85,13 @@ drawing::Vec3 workedPoint(const Document &document, const drawing::Vec3 &shown)
     return view.viewHeight > 0.0 ? view.modelToSheet().inverted().point(shown) : shown;
 }
 
+drawing::Vec3 shownPoint(const Document &document, const drawing::Vec3 &worked)
+{
+    const drawing::RecordId viewport = currentViewport(document.drawing());
+    const ViewportView view = isValid(viewport) ? viewportView(document, viewport) : ViewportView();
+    return view.viewHeight > 0.0 ? view.modelToSheet().point(worked) : worked;
+}
+
 double workedLength(const Document &document, double shown)
 {
     const drawing::RecordId viewport = currentViewport(document.drawing());

@@ -20,7 +20,9 @@ bool showAtSheetScale(Document &document, double factor);
 /// The point that commands take for one that the window shows: where model space is worked on through a viewport, the
 /// point of the model that is seen there, otherwise itself.
 drawing::Vec3 workedPoint(const Document &document, const drawing::Vec3 &shown);
-/// The same for a length.
+/// The other way round: where the window shows a point that commands work with.
+drawing::Vec3 shownPoint(const Document &document, const drawing::Vec3 &worked);
+/// As workedPoint() for a length.
 double workedLength(const Document &document, double shown);
 
 /// Remembers the view for the next showFormerView(); of a viewport undoing serves for that.

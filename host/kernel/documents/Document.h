@@ -273,6 +273,8 @@ signals:
     // Whether or not the entities are others than before.
     void highlightChanged();
     void sketchChanged();
+    /// A system variable was set, by whoever.
+    void variableChanged(const QString &name);
     void impliedSelectionChanged();
     /// keptBack() is another.
     void keptBackChanged();

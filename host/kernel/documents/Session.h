@@ -122,6 +122,8 @@ public:
 
     /// What was cut or copied last, in a drawing of its own, whose insertion base is the base point; null for nothing.
     const drawing::Drawing *clipboard() const { return m_clipboard.get(); }
+    /// The same for who shows it while it may be replaced.
+    std::shared_ptr<const drawing::Drawing> heldClipboard() const { return m_clipboard; }
     void setClipboard(std::unique_ptr<drawing::Drawing> drawing) { m_clipboard = std::move(drawing); }
 
     /// A file that should have been written was not, or not whole. The user has been told; a run without one ends with
@@ -135,7 +137,7 @@ public:
 private:
     RunResult grantWishes();
 
-    std::unique_ptr<drawing::Drawing> m_clipboard;
+    std::shared_ptr<drawing::Drawing> m_clipboard;
     QSet<QString> m_undefinedCommands;
     QStringList m_notWritten; ///< told since takeNotWritten()
     QString m_home;

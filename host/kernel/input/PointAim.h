@@ -14,6 +14,17 @@ struct PointAim
     /// The direction in which the last point with a base lay from it, user coordinates, of length 1.
     drawing::Vec3 direction{1.0, 0.0, 0.0};
 
+    // What was typed beside the pointer for the next point with a base, until that is there or the prompt ends.
+    std::optional<double> lockedLength{};
+    std::optional<double> lockedAngle{}; ///< radians from the user's x axis
+
+    bool isLocked() const { return lockedLength || lockedAngle; }
+    void unlock()
+    {
+        lockedLength.reset();
+        lockedAngle.reset();
+    }
+
     /// The direction from a base (user coordinates) to a pointer (likewise), which falls back to `direction`.
     drawing::Vec3 from(const drawing::Vec3 &base, const std::optional<drawing::Vec3> &userPointer) const
     {

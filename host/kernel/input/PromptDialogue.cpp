@@ -5,6 +5,7 @@
 #include "host/kernel/input/AnswerFromValue.h"
 #include "host/kernel/input/Keywords.h"
 #include "host/kernel/input/Picker.h"
+#include "host/kernel/input/PointAim.h"
 #include "host/kernel/input/PointEntry.h"
 #include "host/kernel/lisp/LispConversion.h"
 #include "host/kernel/variables/SystemVariables.h"
@@ -91,6 +92,7 @@ bool isAngle(PromptKind kind)
 PromptDialogue::PromptDialogue(Document &document, PromptRequest request)
     : m_document(document), m_request(std::move(request))
 {
+    m_document.aim().unlock();
 }
 
 std::optional<PromptReply> PromptDialogue::offer(const InputAnswer &answer)
@@ -233,6 +235,7 @@ PromptDialogue::Reading PromptDialogue::takePoint(const Vec3 &world)
         return refuse();
     if (isOutsideLimits(world))
         return {{}, QStringLiteral("**Outside limits")};
+    m_document.aim().unlock();
     const OdGePoint3d user = m_document.worldToUser({world.x, world.y, world.z});
     keepDirection({user.x, user.y, user.z});
     m_document.variables().setInternally(u"LASTPOINT", Vec3{user.x, user.y, user.z});

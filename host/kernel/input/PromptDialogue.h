@@ -14,8 +14,8 @@ class Document;
 /// turns into the question for the second one. Points become LASTPOINT.
 ///
 /// Wherever a point may answer, so may words that put one together (see PointAssembly), and at a prompt for points with
-/// a base a number: that far from the base towards the pointer, or, where nobody has moved one, in the direction in
-/// which the last point with a base lay from it (at first along the user's x axis).
+/// a base a number: that far from the base towards the place that the pointer shows (see HandAim), or, where nobody has
+/// moved one, in the direction in which the last point with a base lay from it (at first along the user's x axis).
 ///
 /// Words of object snap (see parseSnapModes()) are for the next point, wherever it comes from, here and where entities
 /// are picked; when nothing is found, the point is refused. The kinds of OSMODE move points that are shown by hand,
@@ -73,6 +73,8 @@ private:
     QString snap(drawing::Vec3 &world, Origin origin, bool &hasMoved);
     Reading readPart(const QString &text);
     std::optional<drawing::Vec3> directDistance(const QString &text) const;
+    /// Where distances alone go from a base; both in user coordinates, of length 1.
+    drawing::Vec3 aimedDirection(const drawing::Vec3 &base) const;
     Reading takeGiven(const drawing::Vec3 &world, Origin origin);
     /// When `user` completes the point; nothing: more is asked for.
     Reading takeAssembled(const std::optional<drawing::Vec3> &user);

@@ -3,6 +3,7 @@
 #include "host/drawing/math/Finite.h"
 #include "host/kernel/documents/Document.h"
 #include "host/kernel/documents/Session.h"
+#include "host/kernel/input/HandAim.h"
 #include "host/kernel/input/ObjectSnap.h"
 #include "host/kernel/input/PointAim.h"
 #include "host/kernel/input/PointEntry.h"
@@ -21,24 +22,11 @@ namespace {
 
 using drawing::Vec3;
 
-/// Along the user's axis, turned by SNAPANG, that is nearest to the direction: what ORTHOMODE makes of it.
-Vec3 orthogonal(const Vec3 &away, double turn)
-{
-    const Vec3 x{std::cos(turn), std::sin(turn), 0.0};
-    const Vec3 y{-x.y, x.x, 0.0};
-    return std::abs(dot(away, x)) >= std::abs(dot(away, y)) ? x * dot(away, x) : y * dot(away, y);
-}
-
 QString snapPrompt(int kinds)
 {
     using namespace drawing;
     constexpr int towards = SnapPerpendicular | SnapTangent | SnapNearest | SnapParallel;
     return kinds & towards ? u" to "_s : u" of "_s;
-}
-
-bool isOrthoOn(const SystemVariables &variables)
-{
-    return variables.integer(u"ORTHOMODE") != 0;
 }
 
 } // namespace
@@ -137,11 +125,19 @@ std::optional<Vec3> PromptDialogue::directDistance(const QString &text) const
         return {};
     if (const std::optional<Vec3> locked = m_assembly.direction())
         return *base + *locked * *distance;
+    return *base + aimedDirection(*base) * *distance;
+}
+
+Vec3 PromptDialogue::aimedDirection(const Vec3 &base) const
+{
     const PointAim &aim = m_document.aim();
-    Vec3 along = aim.from(*base, aim.pointer ? std::optional(toUser(m_document, *aim.pointer)) : std::nullopt);
-    if (isOrthoOn(m_document.variables()))
-        along = normalized(orthogonal(along, m_document.variables().real(u"SNAPANG")));
-    return *base + along * *distance;
+    const HandAim hand(m_document);
+    if (aim.lockedAngle)
+        return {std::cos(*aim.lockedAngle), std::sin(*aim.lockedAngle), 0.0};
+    if (aim.pointer)
+        return aim.from(base, toUser(m_document, hand.find(*aim.pointer, request()).point));
+    const bool isOrtho = m_document.variables().integer(u"ORTHOMODE") != 0;
+    return isOrtho ? normalized(hand.straightened(aim.direction)) : aim.direction;
 }
 
 std::optional<Vec3> PromptDialogue::typedPoint(const QString &text) const
@@ -164,19 +160,17 @@ PromptDialogue::Reading PromptDialogue::takeGiven(const Vec3 &world, Origin orig
     bool isSnapped = false;
     if (const QString refusal = snap(place, origin, isSnapped); !refusal.isEmpty())
         return {{}, refusal};
-    Vec3 user = toUser(m_document, place);
-    const std::optional<Vec3> base = userBase();
-    const bool isStraightened = !isSnapped && origin == Origin::Pointer && base &&
-                                request().kind == PromptKind::Point && isOrthoOn(m_document.variables());
-    if (isStraightened)
-        user = *base + orthogonal(user - *base, m_document.variables().real(u"SNAPANG"));
-    emit m_document.session().input().pointShown(isStraightened ? toWorld(m_document, user) : place);
+    if (origin == Origin::Pointer) {
+        const HandAim hand(m_document);
+        place = isSnapped ? hand.lockedFrom(place, request()) : hand.constrained(place, request()).point;
+    }
+    emit m_document.session().input().pointShown(place);
     // What goes nowhere else stays the number it was.
-    if (!isStraightened && !m_assembly.isOpen() && !m_assembly.isDirectionLocked()) {
+    if (!m_assembly.isOpen() && !m_assembly.isDirectionLocked()) {
         askForPart();
         return takePoint(place);
     }
-    return takeAssembled(m_assembly.take(user, base));
+    return takeAssembled(m_assembly.take(toUser(m_document, place), userBase()));
 }
 
 bool PromptDialogue::isSnapped(Origin origin) const

@@ -2,6 +2,7 @@
 
 #include "host/drawing/math/Vec.h"
 #include "host/drawing/records/Record.h"
+#include "host/kernel/input/DragShape.h"
 #include "host/kernel/input/SelectionStep.h"
 
 #include <QString>
@@ -69,8 +70,7 @@ struct PromptRequest
     bool tracksPointer = false;        ///< Event: that the pointer moves is one
     bool isTransparent = false;        ///< asked by a command that was called in the middle of another prompt
     bool endsWhenRefused = false;      ///< a refused answer cancels the prompt when more was typed behind it
-    /// Point: these hang at the pointer by `base`; null for none.
-    std::shared_ptr<const std::vector<drawing::RecordId>> dragged{};
+    Dragged dragged{};                 ///< what hangs at the pointer; null for nothing
     /// What is chosen so far, of a selection that grows or by the command that asks, to be shown as such while this
     /// prompt waits; null for nothing.
     std::shared_ptr<const std::vector<drawing::RecordId>> chosen{};
@@ -89,7 +89,7 @@ struct TextAnswer
 struct PointAnswer
 {
     drawing::Vec3 point;
-    bool isByHand = false; ///< from where the pointer is, so that snaps and ORTHOMODE move it
+    bool isByHand = false; ///< from where the pointer is, so that it goes where HandAim says
 };
 /// An entity that was picked, at a point in world coordinates.
 struct EntityAnswer

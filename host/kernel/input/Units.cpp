@@ -37,6 +37,12 @@ QString UnitFormat::angle(double radians) const
     return QString::fromStdString(units::formatAngle(radians, {angleMode, anglePrecision, zeros, 0.0, false}));
 }
 
+QString UnitFormat::direction(double radians) const
+{
+    const QString size = angle(normalizedAngle(isClockwise ? angleBase - radians : radians - angleBase));
+    return angleMode == 0 ? size + u'\u00b0' : size;
+}
+
 QString UnitFormat::exactLength(double value) const
 {
     UnitFormat format = *this;

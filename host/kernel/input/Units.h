@@ -24,7 +24,9 @@ struct UnitFormat
     QString length(double value) const;
     /// The size of an angle; neither base nor direction play a part. Radians.
     QString angle(double radians) const;
-    /// The same, with no fewer digits than it takes to read back one part in 100,000.
+    /// An angle from the x axis as a direction, the way parseDirection() reads it; with the degree sign in degrees.
+    QString direction(double radians) const;
+    /// As length(), with no fewer digits than it takes to read back one part in 100,000.
     QString exactLength(double value) const;
     QString exactAngle(double radians) const;
     /// A length in any of the notations, fractions and feet included; nothing for other text.

@@ -208,7 +208,7 @@ int UserInput::dragToPoint(const QString &prompt, const drawing::Vec3 &base, std
 {
     PromptRequest request = requestFor(PromptKind::Point, prompt);
     request.base = base;
-    request.dragged = std::make_shared<const std::vector<drawing::RecordId>>(std::move(entities));
+    request.dragged = movedBy(std::move(entities), base);
     PromptReply reply;
     const int result = askFor(std::move(request), reply);
     if (reply.hasValue())

@@ -28,6 +28,12 @@ public:
         bool await_ready() const noexcept { return false; }
         void await_suspend(std::coroutine_handle<> waiting) const noexcept { m_context.m_waiting = waiting; }
         PromptReply await_resume() const { return m_context.m_reply; }
+        /// Has this hang at the pointer while the prompt waits.
+        Reply dragging(Dragged shape) const
+        {
+            m_context.m_request.dragged = std::move(shape);
+            return *this;
+        }
 
     protected:
         CommandContext &m_context;

@@ -212,6 +212,7 @@ void SystemVariables::setInternally(QStringView name, const VariableValue &value
         m_values.insert(upper, value);
     if (upper == QStringLiteral("CTAB") || upper == QStringLiteral("TILEMODE"))
         m_document.followLayout();
+    emit m_document.variableChanged(upper);
 }
 
 void SystemVariables::setInHeader(const QString &name, const HostVariable *variable, const VariableValue &value)

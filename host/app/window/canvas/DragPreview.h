@@ -1,50 +1,40 @@
 #pragma once
 
-#include "host/view/paint/ScenePainter.h"
+#include "host/app/window/canvas/StretchGhost.h"
 
-#include <QPixmap>
-
-#include <span>
+namespace host::kernel {
+class Document;
+}
 
 namespace host::app {
 
-/// Entities that hang at the pointer by a point of theirs, as a picture that is made once for a view and drawn where
-/// the pointer is. What is drawn at each move of the pointer costs the same for one entity and for all of a drawing.
+/// What hangs at the pointer while a prompt waits: entities, a block or another drawing, as they will be. What is drawn
+/// at each move of the pointer costs the same for one entity and for all of a drawing; of what is stretched, only what
+/// crosses the border of the window costs by its number, up to a limit.
 class DragPreview
 {
 public:
-    /// `base` in world coordinates is what the pointer holds.
-    DragPreview(const std::vector<drawing::RecordId> &records, drawing::Vec2 base);
+    /// Document and scene, which shows its drawing, must outlive it. `space` of the scene is where the entities are.
+    DragPreview(kernel::Document &document, view::Scene &scene, int space, kernel::Dragged shape);
 
-    const view::RecordSet &records() const { return m_records; }
-    /// Draws what can be seen when `base` is at `pointer`. The picture is made anew when view, ground or drawing have
-    /// changed since; it is never larger than two canvases each way, as no place of the pointer shows more.
-    void paint(QPainter &painter, view::Scene &scene, int space, const view::ViewTransform &view, view::Ground ground,
-               QPointF pointer);
+    /// What is on its way, of the drawing.
+    const std::vector<drawing::RecordId> &records() const { return m_shape->entities; }
+    /// With `place` for an answer; world coordinates. `view` is that of the canvas.
+    void paint(QPainter &painter, const view::ViewTransform &view, const GhostPicture::Look &look,
+               const drawing::Vec3 &place);
 
 private:
-    /// What the picture was made for.
-    struct Basis
-    {
-        drawing::Vec2 center;
-        double scale = 0.0;
-        QSizeF screen;
-        view::Ground ground = view::Ground::Black;
-        int space = 0;
-        double pixelRatio = 1.0;
-        quint64 revision = 0;
+    void sortStretched();
+    FlatMap flat(const view::ViewTransform &view, const drawing::Matrix &map) const;
 
-        bool operator==(const Basis &) const = default;
-    };
-
-    void makePicture(view::Scene &scene, const Basis &basis);
-    QRect reach(view::Scene &scene, int space, const view::ViewTransform &around) const;
-
-    view::RecordSet m_records;
-    drawing::Vec2 m_base;
-    std::optional<Basis> m_basis;
-    QPixmap m_picture;
-    QPointF m_corner; ///< of the picture, from where `base` is
+    kernel::Document &m_document;
+    view::Scene *m_scene;
+    int m_space;
+    kernel::Dragged m_shape;
+    view::RecordSet m_whole; ///< the records that follow as a whole
+    std::unique_ptr<view::Scene> m_ownScene;
+    GhostPicture m_picture;
+    std::unique_ptr<StretchGhost> m_stretched; ///< null for nothing
 };
 
 } // namespace host::app

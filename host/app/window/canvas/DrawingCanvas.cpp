@@ -1,16 +1,19 @@
 #include "host/app/window/canvas/DrawingCanvas.h"
 
+#include "host/app/window/canvas/AimMarks.h"
+#include "host/app/window/canvas/GridPainter.h"
 #include "host/app/window/canvas/PointerMarks.h"
+#include "host/app/window/canvas/SnapMenu.h"
 #include "host/drawing/records/HeaderVariables.h"
 #include "host/drawing/records/PageSetup.h"
 #include "host/kernel/documents/CurrentSpace.h"
+#include "host/kernel/documents/CurrentView.h"
 #include "host/kernel/documents/ExpressionSurroundings.h"
 #include "host/kernel/documents/ScreenSketch.h"
-#include "host/kernel/input/ObjectSnap.h"
 #include "host/kernel/input/PointAim.h"
-#include "host/kernel/input/SnapModes.h"
 #include "host/kernel/variables/SystemVariables.h"
 
+#include <QMenu>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPen>
@@ -57,6 +60,7 @@ DrawingCanvas::DrawingCanvas(kernel::Document &document, QWidget *parent)
         update();
     });
     connect(&m_document, &kernel::Document::sketchChanged, this, qOverload<>(&QWidget::update));
+    connect(&m_document, &kernel::Document::variableChanged, this, &DrawingCanvas::aimAnew);
     connect(&m_document, &kernel::Document::runEnded, this, qOverload<>(&QWidget::update));
 }
 
@@ -130,11 +134,11 @@ void DrawingCanvas::setRequest(const std::optional<kernel::PromptRequest> &reque
         setFocus();
     m_box.reset();
     m_dragged.reset();
-    updateSnap();
+    updateAim();
     m_hover.clear();
     m_hoverDelay.start();
-    if (request && request->base && request->dragged && !request->dragged->empty())
-        m_dragged.emplace(*request->dragged, request->base->xy());
+    if (request && request->dragged)
+        m_dragged.emplace(m_document, m_scene, workedSpace(), request->dragged);
     if (hadMarked || m_dragged || (m_request && m_request->chosen))
         updateMarks();
     update();
@@ -185,6 +189,7 @@ void DrawingCanvas::paintEvent(QPaintEvent *)
                               .defaultWeight = m_document.variables().integer(u"LWDEFAULT", 25)});
     if (m_picture.isProvisional())
         paintUnfinishedMark(painter, tr("simplified"), size(), m_ground);
+    paintGrid(painter, m_document, {transform(), size(), m_ground});
     paintSketch(painter);
     m_hover.paint(painter, m_scene, space(), transform(), m_ground);
     m_grips.update();
@@ -222,21 +227,41 @@ void DrawingCanvas::markNext()
         update();
 }
 
-void DrawingCanvas::updateSnap()
+void DrawingCanvas::updateAim()
 {
-    m_snap.reset();
-    const bool mayBe = m_pointer && m_request && (wantsPoint() || m_request->snaps);
-    if (!mayBe)
-        return;
-    const kernel::ObjectSnap snaps(m_document);
-    m_snap = snaps.find(world(*m_pointer), m_request->snaps.value_or(snaps.runningModes()), m_request->base);
+    m_aim.reset();
+    if (m_pointer && m_request && (wantsPoint() || m_request->snaps))
+        m_aim = kernel::HandAim(m_document).find(world(*m_pointer), *m_request);
 }
 
-void DrawingCanvas::paintSnap(QPainter &painter)
+void DrawingCanvas::aimAnew()
 {
-    if (m_snap)
-        paintSnapMark(painter, transform().toScreen(m_snap->point.xy()), m_snap->kind,
-                      kernel::snapModeName(m_snap->kind));
+    updateAim();
+    update();
+}
+
+void DrawingCanvas::showTyped(AimField field, const QString &text)
+{
+    m_typedField = field;
+    m_typed = text;
+    update();
+}
+
+void DrawingCanvas::answerAim()
+{
+    const std::optional<drawing::Vec3> last = m_document.aim().pointer;
+    if (m_request && m_request->base)
+        emit answered(kernel::PointAnswer{last.value_or(*m_request->base), true});
+}
+
+QPointF DrawingCanvas::shown(const drawing::Vec3 &worked) const
+{
+    return transform().toScreen(kernel::shownPoint(m_document, worked).xy());
+}
+
+QPointF DrawingCanvas::aimedAt() const
+{
+    return m_aim && m_aim->rule != kernel::HandRule::None ? shown(m_aim->point) : *m_pointer;
 }
 
 void DrawingCanvas::paintSketch(QPainter &painter)
@@ -254,12 +279,14 @@ void DrawingCanvas::paintOverlay(QPainter &painter)
     if (m_box) {
         const QPointF from = transform().toScreen(m_box->corner);
         paintPointerBox(painter, from, *m_pointer, m_pointer->x() < from.x() && m_box->use != BoxUse::Zoom);
-    } else if (m_request && m_request->base) {
+    } else if (m_request) {
         if (m_dragged)
-            m_dragged->paint(painter, m_scene, space(), transform(), m_ground, *m_pointer);
-        paintRubberBand(painter);
+            m_dragged->paint(painter, transform(), {size(), m_ground}, m_aim ? m_aim->point : world(*m_pointer));
+        if (m_request->base)
+            paintRubberBand(painter);
     }
-    paintSnap(painter);
+    if (m_request && m_aim)
+        paintAim(painter, m_document, *m_request, *m_aim, {transform(), size(), m_ground}, {m_typedField, m_typed});
     const bool hasBox = !wantsPoint() && !m_isZoomWindow;
     paintCrosshair(painter, *m_pointer, size(),
                    {.ground = m_ground, .pickBox = hasBox ? pickReach() : 0, .hasLines = !wantsEntities(m_request)});
@@ -267,11 +294,12 @@ void DrawingCanvas::paintOverlay(QPainter &painter)
 
 void DrawingCanvas::paintRubberBand(QPainter &painter)
 {
-    const QPointF from = transform().toScreen(m_request->base->xy());
+    const QPointF from = shown(*m_request->base);
+    const QPointF to = aimedAt();
     if (m_request->kind == PromptKind::Corner)
-        paintPointerBox(painter, from, *m_pointer, m_pointer->x() < from.x());
+        paintPointerBox(painter, from, to, to.x() < from.x());
     else
-        paintPointerBand(painter, from, *m_pointer, (m_request->bits & kernel::DashedRubberBand) != 0);
+        paintPointerBand(painter, from, to, (m_request->bits & kernel::DashedRubberBand) != 0);
 }
 
 void DrawingCanvas::showEvent(QShowEvent *)
@@ -302,6 +330,10 @@ void DrawingCanvas::mousePressEvent(QMouseEvent *event)
         setCursor(Qt::ClosedHandCursor);
     } else if (event->button() == Qt::RightButton && wantsEvents()) {
         emit answered(kernel::PointerAnswer{world(event->position()), true});
+    } else if (event->button() == Qt::RightButton && wantsPoint() && event->modifiers().testFlag(Qt::ShiftModifier)) {
+        nextPointMenu(this, [this](const QString &word) {
+            emit answered(kernel::TextAnswer{word});
+        })->popup(event->globalPosition().toPoint());
     } else if (event->button() == Qt::RightButton) {
         emit enterPressed();
     } else if (event->button() == Qt::LeftButton) {
@@ -321,7 +353,7 @@ void DrawingCanvas::mouseMoveEvent(QMouseEvent *event)
     m_document.aim().pointer = world(event->position());
     if (wantsEvents() && m_request->tracksPointer)
         emit answered(kernel::PointerAnswer{world(event->position())});
-    updateSnap();
+    updateAim();
     if (!m_hoverDelay.isActive())
         m_hoverDelay.start();
     emit pointerMoved(transform().toWorld(event->position()));

@@ -1,12 +1,12 @@
 #pragma once
 
+#include "host/app/window/canvas/AimTyping.h"
 #include "host/app/window/canvas/DragPreview.h"
 #include "host/app/window/canvas/Grips.h"
 #include "host/app/window/canvas/HoverMark.h"
 #include "host/app/window/canvas/ScenePicture.h"
-#include "host/drawing/geometry/SnapPoints.h"
 #include "host/kernel/documents/Document.h"
-#include "host/kernel/input/PromptRequest.h"
+#include "host/kernel/input/HandAim.h"
 #include "host/view/build/Scene.h"
 #include "host/view/paint/ViewTransform.h"
 
@@ -48,6 +48,14 @@ public:
     void chooseAll();
     /// Marks the next of the entities that lie on top of each other under the pointer: a click means that one then.
     void markNext();
+    const std::optional<kernel::PromptRequest> &request() const { return m_request; }
+    // While a point with a base is asked for; see AimTyping.
+    /// What its rules are made of has changed.
+    void aimAnew();
+    /// The field at the pointer that is written in, and what.
+    void showTyped(AimField field, const QString &text);
+    /// The place that the pointer shows, or showed last, is the answer.
+    void answerAim();
     /// Gives up a box that was begun. False when there was none.
     bool abandonBox();
 
@@ -117,9 +125,12 @@ private:
     /// Marks what is under the pointer, where SELECTIONPREVIEW and what is asked for say so.
     void updateHover();
     bool wantsHover() const;
-    /// Where the next point would snap to.
-    void updateSnap();
-    void paintSnap(QPainter &painter);
+    /// Where the next point would lie.
+    void updateAim();
+    /// Where a point that commands work with is on the canvas.
+    QPointF shown(const drawing::Vec3 &worked) const;
+    /// The pointer, or where the next point would lie instead.
+    QPointF aimedAt() const;
     /// What programs show for the moment.
     void paintSketch(QPainter &painter);
 
@@ -156,16 +167,18 @@ private:
     ScenePicture m_picture{m_scene};
     bool m_isCutShortTold = false;
     std::optional<kernel::PromptRequest> m_request;
-    std::optional<DragPreview> m_dragged;     ///< while the prompt has entities hang at the pointer
-    std::optional<QPointF> m_pointer;         ///< where the pointer is, while it is on the canvas
-    std::optional<drawing::SnapPoint> m_snap; ///< for the pointer's place, while a point is asked for
+    std::optional<DragPreview> m_dragged;   ///< while the prompt has something hang at the pointer
+    std::optional<QPointF> m_pointer;       ///< where the pointer is, while it is on the canvas
+    std::optional<kernel::HandPoint> m_aim; ///< for the pointer's place, while a point is asked for
+    AimField m_typedField = AimField::Length;
+    QString m_typed;                  ///< at the command line, for that field
+    std::optional<QPointF> m_panFrom; ///< while the middle button is held
     Grips m_grips{m_document};
     HoverMark m_hover;
-    QTimer m_hoverDelay;                      ///< looked once for moves that come together
-    std::optional<QPointF> m_cycled;          ///< where one of several was chosen last
+    QTimer m_hoverDelay;                         ///< looked once for moves that come together
+    std::optional<QPointF> m_cycled;             ///< where one of several was chosen last
     std::vector<drawing::RecordId> m_chosenLast; ///< which one
-    std::optional<QPointF> m_gripFrom;        ///< where the button took a grip, until it is let go
-    std::optional<QPointF> m_panFrom;         ///< while the middle button is held
+    std::optional<QPointF> m_gripFrom;           ///< where the button took a grip, until it is let go
 
     struct PendingBox
     {

@@ -106,6 +106,65 @@ void paintSnapMark(QPainter &painter, QPointF at, int kind, const QString &name)
     painter.drawText(at + QPointF(textGap, textGap + painter.fontMetrics().ascent()), name);
 }
 
+void paintAimFields(QPainter &painter, QPointF at, QSize canvas, view::Ground ground, const QList<AimFieldLook> &fields)
+{
+    constexpr double gap = 14.0;
+    constexpr double border = 4.0;
+    const QFontMetricsF metrics(painter.font(), painter.device());
+    const double height = metrics.height() + 2.0;
+    double width = 0.0;
+    for (const AimFieldLook &field : fields)
+        width += metrics.horizontalAdvance(field.text) + 3.0 * border;
+    const double left = std::max(0.0, std::min(at.x() + gap, canvas.width() - width));
+    const double top = std::max(0.0, at.y() - gap - height);
+    const bool isDark = ground == view::Ground::Black;
+    double x = left;
+    for (const AimFieldLook &field : fields) {
+        const QRectF box(std::floor(x) + 0.5, std::floor(top) + 0.5,
+                         std::ceil(metrics.horizontalAdvance(field.text) + 2.0 * border), std::ceil(height));
+        painter.setPen(field.isWritten ? QPen(QColor(0x4f, 0xa3, 0xff), 2.0) : QPen(markColor(ground), 0));
+        painter.setBrush(field.isLocked ? QColor(0xf0, 0xa0, 0x30)
+                         : isDark       ? QColor(0x2a, 0x2e, 0x33)
+                                        : QColor(0xf4, 0xf5, 0xf6));
+        painter.drawRect(box);
+        painter.setPen(field.isLocked || !isDark ? QColor(Qt::black) : QColor(Qt::white));
+        painter.drawText(box, Qt::AlignCenter, field.text);
+        x += box.width() + border;
+    }
+    painter.setBrush(Qt::NoBrush);
+}
+
+void paintTrackingRay(QPainter &painter, QPointF from, QPointF at, QSize canvas, const QString &text)
+{
+    constexpr double half = 4.0;
+    constexpr double textGap = 14.0;
+    const QPointF away = at - from;
+    const double length = std::hypot(away.x(), away.y());
+    painter.setPen(QPen(snapMarkColor, 0, Qt::DotLine));
+    // From any place on the canvas this reaches beyond it; a base far outside is not where the ray is dotted from.
+    const double reach = canvas.width() + canvas.height();
+    if (length > 0.0)
+        painter.drawLine(length < reach ? from : at - away * (reach / length), at + away * (reach / length));
+    painter.setPen(QPen(snapMarkColor, 2.0));
+    painter.drawLine(at - QPointF(half, half), at + QPointF(half, half));
+    painter.drawLine(at - QPointF(half, -half), at + QPointF(half, -half));
+    painter.drawText(at + QPointF(textGap, textGap + painter.fontMetrics().ascent()), text);
+}
+
+QIcon snapIcon(int kind, double pixelRatio)
+{
+    constexpr double side = 16.0;
+    QPixmap picture(QSizeF(side, side).toSize() * pixelRatio);
+    picture.setDevicePixelRatio(pixelRatio);
+    picture.fill(Qt::transparent);
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(snapMarkColor, 2.0));
+    const double middle = side / 2.0;
+    painter.drawPath(QTransform::fromTranslate(middle, middle).scale(snapMarkSize, snapMarkSize).map(snapSign(kind)));
+    return QIcon(picture);
+}
+
 void paintSketchLine(QPainter &painter, QPointF from, QPointF to, const SketchLook &look)
 {
     // Far outside the window the painter's numbers run over.

@@ -2,6 +2,8 @@
 
 #include "host/view/display/AciColor.h"
 
+#include <QIcon>
+#include <QList>
 #include <QPointF>
 #include <QSize>
 #include <QString>
@@ -29,8 +31,24 @@ void paintUnfinishedMark(QPainter &painter, const QString &text, QSize canvas, v
 /// The line that follows the pointer while a prompt has a base point.
 void paintPointerBand(QPainter &painter, QPointF from, QPointF pointer, bool isDashed);
 
+/// A number beside the pointer.
+struct AimFieldLook
+{
+    QString text;
+    bool isWritten = false; ///< what is typed goes there
+    bool isLocked = false;
+};
+/// Such fields in a row, above the place or wherever there is room.
+void paintAimFields(QPainter &painter, QPointF at, QSize canvas, view::Ground ground,
+                    const QList<AimFieldLook> &fields);
+
 /// Where the next point snaps to: a sign of its kind (drawing::SnapKind), and what it is called beside the pointer.
 void paintSnapMark(QPainter &painter, QPointF at, int kind, const QString &name);
+/// The same sign for menus.
+QIcon snapIcon(int kind, double pixelRatio);
+
+/// A dotted ray through both points as far as the canvas goes, a mark where the point is, and the text beside it.
+void paintTrackingRay(QPainter &painter, QPointF from, QPointF at, QSize canvas, const QString &text);
 
 /// A line that a program draws for the moment; the colour is an index of the table, or below 0 one unlike the ground.
 struct SketchLook
