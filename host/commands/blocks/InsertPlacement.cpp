@@ -105,7 +105,7 @@ Dialogue<Vec3> askScales(CommandContext &context, const Vec3 insertion, const Dr
         co_await context.real(u"Enter X scale factor or [Corner/XYZ] <1>: "_s, {}, u"1"_s, NoZero).dragging(shape);
     if (x.isKeyword(u"Corner")) {
         const UserPlane plane(context.document());
-        const PromptReply corner = co_await context.neededPoint(u"Specify opposite corner: "_s, insertion);
+        const PromptReply corner = co_await context.neededPoint(u"Specify opposite corner: "_s, insertion).asBox();
         const Vec3 size = plane.userFromWorld(corner.point) - plane.userFromWorld(insertion);
         if (size.x == 0.0 || size.y == 0.0)
             context.fail(u"Value must be nonzero."_s);

@@ -108,7 +108,8 @@ Dialogue<RectangleSize> askSize(CommandContext &context, RectangleLook &look, co
     std::optional<RectangleSize> typed;
     for (;;) {
         const PromptReply reply =
-            co_await context.neededPoint(u"Specify other corner point or [Area/Dimensions/Rotation]: "_s, corner);
+            co_await context.neededPoint(u"Specify other corner point or [Area/Dimensions/Rotation]: "_s, corner)
+                .asBox();
         if (reply.isKeyword(u"Area"))
             co_return co_await askArea(context, look);
         if (reply.isKeyword(u"Dimensions")) {

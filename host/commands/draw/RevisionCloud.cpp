@@ -169,7 +169,7 @@ Dialogue<bool> askObject(CommandContext &context, CloudLook look)
 Dialogue<bool> askRectangularCloud(CommandContext &context, CloudLook look, const Vec3 corner)
 {
     const UserPlane plane(context.document());
-    const PromptReply opposite = co_await context.neededPoint(u"Specify opposite corner: "_s, corner);
+    const PromptReply opposite = co_await context.neededPoint(u"Specify opposite corner: "_s, corner).asBox();
     const Vec3 from = plane.userFromWorld(corner);
     const Vec2 to = plane.userFromWorld(opposite.point).xy();
     CloudLine line{{from.xy(), {to.x, from.y}, to, {from.x, to.y}}, from.z, true};

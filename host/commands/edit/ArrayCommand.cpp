@@ -53,7 +53,7 @@ Dialogue<CellSteps> askCellSteps(CommandContext &context, int rows, int columns)
         request.bits = NoEmptyAnswer | AnyText | OutsideLimits;
         const PromptReply reply = co_await context.ask(request);
         if (reply.hasValue()) {
-            const PromptReply other = co_await context.neededPoint(u"Specify opposite corner: "_s, reply.point);
+            const PromptReply other = co_await context.neededPoint(u"Specify opposite corner: "_s, reply.point).asBox();
             const UserPlane plane(context.document());
             const Vec3 cell = plane.userFromWorld(other.point) - plane.userFromWorld(reply.point);
             co_return CellSteps{cell.y, cell.x, cell.y == 0.0 || (columns > 1 && cell.x == 0.0)};

@@ -32,9 +32,11 @@ struct StretchArea
     bool catches(const Vec3 &point) const
     {
         return std::ranges::any_of(polygons, [&](const drawing::Path &polygon) {
+            if (drawing::contains(polygon, point.xy()))
+                return true;
             // On the edge counts as within.
             const drawing::Outline outline{.pieces = {{.points = polygon}}};
-            return drawing::contains(polygon, point.xy()) || drawing::flatDistance(outline, point.xy()) <= 1e-9;
+            return drawing::flatDistance(outline, point.xy()) <= 1e-9;
         });
     }
 };

@@ -105,7 +105,7 @@ HandPoint HandAim::constrained(const Vec3 &place, const PromptRequest &request) 
         return {place};
     const Vec3 flat = onUserPlane(place);
     Vec3 user = toUser(m_document, flat);
-    if (request.base && request.kind != PromptKind::Corner) {
+    if (request.base && !asksForBox(request)) {
         const Vec3 base = toUser(m_document, *request.base);
         HandPoint found = directed(base, user);
         if (m_document.aim().isLocked())

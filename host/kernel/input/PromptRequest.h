@@ -70,11 +70,18 @@ struct PromptRequest
     bool tracksPointer = false;        ///< Event: that the pointer moves is one
     bool isTransparent = false;        ///< asked by a command that was called in the middle of another prompt
     bool endsWhenRefused = false;      ///< a refused answer cancels the prompt when more was typed behind it
+    bool isForBox = false;             ///< Point: a corner opposite to `base`, which nothing straightens
     Dragged dragged{};                 ///< what hangs at the pointer; null for nothing
     /// What is chosen so far, of a selection that grows or by the command that asks, to be shown as such while this
     /// prompt waits; null for nothing.
     std::shared_ptr<const std::vector<drawing::RecordId>> chosen{};
 };
+
+/// Whether `base` and the answer are opposite corners rather than ends of a line.
+inline bool asksForBox(const PromptRequest &request)
+{
+    return request.kind == PromptKind::Corner || request.isForBox;
+}
 
 // What can answer. Which of them a request takes says PromptDialogue; one that it does not take is refused with a
 // message and asked for again, like a wrong text.

@@ -35,6 +35,13 @@ public:
             return *this;
         }
 
+        /// The point is to be the corner opposite to the base.
+        Reply asBox() const
+        {
+            m_context.m_request.isForBox = true;
+            return *this;
+        }
+
     protected:
         CommandContext &m_context;
     };

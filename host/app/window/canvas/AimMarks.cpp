@@ -60,7 +60,7 @@ void paintAim(QPainter &painter, kernel::Document &document, const kernel::Promp
         return screen.view.toScreen(kernel::shownPoint(document, worked).xy());
     };
     const QPointF at = onScreen(aim.point);
-    const bool hasBand = request.base && request.kind != kernel::PromptKind::Corner && takesPoints(request.kind);
+    const bool hasBand = request.base && !asksForBox(request) && takesPoints(request.kind);
     const Vec3 away = hasBand ? kernel::toUser(document, aim.point) - kernel::toUser(document, *request.base) : Vec3{};
     if (aim.snap && (wanted & showsMarker)) {
         const QString name = (wanted & showsName) ? kernel::snapModeName(aim.snap->kind) : QString();

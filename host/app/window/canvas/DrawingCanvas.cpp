@@ -11,6 +11,7 @@
 #include "host/kernel/documents/ExpressionSurroundings.h"
 #include "host/kernel/documents/ScreenSketch.h"
 #include "host/kernel/input/PointAim.h"
+#include "host/kernel/lisp/LispConversion.h"
 #include "host/kernel/variables/SystemVariables.h"
 
 #include <QMenu>
@@ -278,7 +279,8 @@ void DrawingCanvas::paintOverlay(QPainter &painter)
         return;
     if (m_box) {
         const QPointF from = transform().toScreen(m_box->corner);
-        paintPointerBox(painter, from, *m_pointer, m_pointer->x() < from.x() && m_box->use != BoxUse::Zoom);
+        paintPointerBox(painter, QRectF(from, *m_pointer).normalized(),
+                        m_pointer->x() < from.x() && m_box->use != BoxUse::Zoom);
     } else if (m_request) {
         if (m_dragged)
             m_dragged->paint(painter, transform(), {size(), m_ground}, m_aim ? m_aim->point : world(*m_pointer));
@@ -296,10 +298,16 @@ void DrawingCanvas::paintRubberBand(QPainter &painter)
 {
     const QPointF from = shown(*m_request->base);
     const QPointF to = aimedAt();
-    if (m_request->kind == PromptKind::Corner)
-        paintPointerBox(painter, from, to, to.x() < from.x());
-    else
+    if (!asksForBox(*m_request)) {
         paintPointerBand(painter, from, to, (m_request->bits & kernel::DashedRubberBand) != 0);
+        return;
+    }
+    // Its sides lie along the user's axes.
+    const drawing::Vec3 base = kernel::toUser(m_document, *m_request->base);
+    const drawing::Vec3 corner = kernel::toUser(m_document, m_aim ? m_aim->point : world(*m_pointer));
+    const auto between = [&](double x, double y) { return shown(kernel::toWorld(m_document, {x, y, base.z})); };
+    const QPolygonF box({from, between(corner.x, base.y), to, between(base.x, corner.y)});
+    paintPointerBox(painter, box, to.x() < from.x());
 }
 
 void DrawingCanvas::showEvent(QShowEvent *)

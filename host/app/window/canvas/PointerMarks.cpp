@@ -178,14 +178,14 @@ void paintSketchLine(QPainter &painter, QPointF from, QPointF to, const SketchLo
     painter.drawLine(from, to);
 }
 
-void paintPointerBox(QPainter &painter, QPointF from, QPointF pointer, bool isCrossing)
+void paintPointerBox(QPainter &painter, const QPolygonF &box, bool isCrossing)
 {
     const QColor color = isCrossing ? QColor(0x3c, 0xb0, 0x5a) : QColor(0x3d, 0x7f, 0xc4);
     QColor tint = color;
     tint.setAlpha(50);
     painter.setPen(QPen(color, 0, isCrossing ? Qt::DashLine : Qt::SolidLine));
     painter.setBrush(tint);
-    painter.drawRect(QRectF(from, pointer).normalized());
+    painter.drawPolygon(box);
     painter.setBrush(Qt::NoBrush);
 }
 

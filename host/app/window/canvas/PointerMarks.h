@@ -4,7 +4,7 @@
 
 #include <QIcon>
 #include <QList>
-#include <QPointF>
+#include <QPolygonF>
 #include <QSize>
 #include <QString>
 
@@ -23,7 +23,7 @@ struct Crosshair
 void paintCrosshair(QPainter &painter, QPointF pointer, QSize canvas, const Crosshair &look);
 
 /// A box with a corner at the pointer. One that takes what it crosses looks unlike one that takes what lies within.
-void paintPointerBox(QPainter &painter, QPointF from, QPointF pointer, bool isCrossing);
+void paintPointerBox(QPainter &painter, const QPolygonF &box, bool isCrossing);
 
 /// Says in a corner that the picture is to be put right yet.
 void paintUnfinishedMark(QPainter &painter, const QString &text, QSize canvas, view::Ground ground);
