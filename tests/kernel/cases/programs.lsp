@@ -80,6 +80,8 @@
 (mapcar '(lambda (c) (cdr (assoc c (entget e)))) '(10 40 62)) ;= ((9.0 2.0 0.0) 4.5 3)
 (getpropertyvalue e "TextString") ;= error: bad argument value: property of CIRCLE "TextString" in (GETPROPERTYVALUE), argument 2
 (list (ispropertyreadonly e "Radius") (dumpallproperties e)) ;= (0 nil) ;> Radius = 4.5
+(entmake '((0 . "XLINE") (100 . "AcDbEntity") (100 . "AcDbXline") (10 1.0 2.0 0.0) (11 0.0 1.0 0.0))) (setq x (entlast))
+(setpropertyvalue x "basepoint/x" 5) (list (getpropertyvalue x "BasePoint") (getpropertyvalue x "Direction/Y")) ;= ((5.0 2.0 0.0) 1.0)
 
 ; Colours are asked for on the command line where there is no window
 (acad_colordlg 3) ;< red ;= 1
