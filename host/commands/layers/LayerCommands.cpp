@@ -20,12 +20,28 @@ using drawing::FieldList;
 using drawing::Layer;
 using drawing::TableKind;
 
+/// Those of the names that there are, each once: many names of many layers are not compared with each other.
+std::vector<Layer> namedLayers(const drawing::Drawing &drawing, const QStringList &names)
+{
+    std::vector<Layer> layers;
+    QSet<drawing::RecordId> taken;
+    for (const QString &name : names) {
+        const drawing::RecordId entry = drawing.tables().find(TableKind::Layer, name);
+        if (isValid(entry) && !taken.contains(entry))
+            layers.push_back(drawing::readLayer(drawing, entry));
+        taken.insert(entry);
+    }
+    return layers;
+}
+
 /// Layers whose names match a list of patterns with commas between.
 std::vector<Layer> matchingLayers(CommandContext &context, const QString &patterns)
 {
-    std::vector<Layer> layers = drawing::allLayers(context.drawing());
-    std::erase_if(layers,
-                  [&](const Layer &layer) { return !drawing::matchesWildcard(layer.name, patterns.trimmed()); });
+    const std::optional<QStringList> names = drawing::literalTexts(patterns.trimmed());
+    std::vector<Layer> layers = names ? namedLayers(context.drawing(), *names) : drawing::allLayers(context.drawing());
+    if (!names)
+        std::erase_if(layers,
+                      [&](const Layer &layer) { return !drawing::matchesWildcard(layer.name, patterns.trimmed()); });
     if (layers.empty())
         context.print(u"\nNo matching layer names found."_s);
     return layers;
@@ -260,7 +276,8 @@ std::vector<CommandRow> layerCommands()
 {
     return {{"-LAYER", layer, "Makes layers and changes their properties and states", WhenCancelled::KeepDone,
              Interrupts::Prompts},
-            {"LAYER", layer, "As -LAYER; there is no window for it", WhenCancelled::KeepDone, Interrupts::Prompts}};
+            {"LAYER", layer, "As -LAYER; entered by hand in the window it shows the layer panel",
+             WhenCancelled::KeepDone, Interrupts::Prompts}};
 }
 
 } // namespace host::kernel

@@ -26,6 +26,8 @@ struct Element
 };
 
 constexpr QChar star = u'*';
+/// What stands for anything else than itself.
+constexpr QStringView specialCharacters = u"#@.*?~[],`";
 
 /// The end of a bracketed set that starts at `position`; nothing when it does not close.
 std::optional<qsizetype> setEnd(QStringView pattern, qsizetype position)
@@ -188,6 +190,35 @@ bool matchesWildcard(QStringView text, QStringView pattern, Qt::CaseSensitivity 
 bool matchesWildcard(QLatin1StringView text, QStringView pattern, Qt::CaseSensitivity sensitivity)
 {
     return matchesAny(text, pattern, sensitivity);
+}
+
+QString literalPattern(QStringView text)
+{
+    QString pattern;
+    for (const QChar c : text) {
+        // Lists of names lose the blanks at their ends.
+        if (specialCharacters.contains(c) || (c == u' ' && pattern.isEmpty()))
+            pattern += u'`';
+        pattern += c;
+    }
+    return pattern;
+}
+
+std::optional<QStringList> literalTexts(QStringView pattern)
+{
+    QStringList texts = {QString()};
+    for (qsizetype i = 0; i < pattern.size(); ++i) {
+        const QChar c = pattern[i];
+        if (c == u',')
+            texts.append(QString());
+        else if (c == u'`' && i + 1 < pattern.size())
+            texts.last() += pattern[++i];
+        else if (specialCharacters.contains(c))
+            return std::nullopt;
+        else
+            texts.last() += c;
+    }
+    return texts;
 }
 
 } // namespace host::drawing

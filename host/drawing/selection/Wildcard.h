@@ -1,7 +1,10 @@
 #pragma once
 
 #include <QLatin1StringView>
+#include <QStringList>
 #include <QStringView>
+
+#include <optional>
 
 namespace host::drawing {
 
@@ -11,5 +14,11 @@ namespace host::drawing {
 bool matchesWildcard(QStringView text, QStringView pattern, Qt::CaseSensitivity sensitivity = Qt::CaseInsensitive);
 bool matchesWildcard(QLatin1StringView text, QStringView pattern,
                      Qt::CaseSensitivity sensitivity = Qt::CaseInsensitive);
+
+/// The pattern that matches this text and no other.
+QString literalPattern(QStringView text);
+/// The texts that a pattern lists when it is a list of texts and nothing else ("A,B`#1"), so that they can be looked
+/// up; nothing for other patterns.
+std::optional<QStringList> literalTexts(QStringView pattern);
 
 } // namespace host::drawing
