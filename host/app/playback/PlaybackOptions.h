@@ -25,6 +25,8 @@ struct PlaybackOptions
     std::chrono::milliseconds timeLimit = std::chrono::seconds(120);
     /// Told of every prompt while it waits, and of none when it is answered: for a window that shows what is asked.
     std::function<void(const std::optional<kernel::PromptRequest> &request)> showPrompt;
+    /// What a line does in a panel of the window is called through this, so that the window takes it as a person's.
+    std::function<void(const std::function<void()> &work)> workInPanel;
     /// What an independent reader complains about in a drawing file, empty when it is sound. Without it `expect-sound`
     /// fails. See DrawingAudit.
     std::function<QString(const QString &path)> audit;

@@ -21,6 +21,7 @@ constexpr VerbRow verbRows[] = {
     {"write", Verb::Write, VerbKind::Start, "wt"},
     {"let", Verb::Let, VerbKind::Start, "wr"},
     {"only-if", Verb::OnlyIf, VerbKind::Start, "r"},
+    {"panel", Verb::Panel, VerbKind::Start, "w"},
     {"expect-lisp", Verb::ExpectLisp, VerbKind::Start, "r"},
     {"expect-error", Verb::ExpectError, VerbKind::Start, "t"},
     {"expect-undo", Verb::ExpectUndo, VerbKind::Start, ""},

@@ -23,6 +23,7 @@ enum class Verb
     Write,
     Let,
     OnlyIf,
+    Panel,
     ExpectLisp,
     ExpectError,
     ExpectUndo,

@@ -79,6 +79,9 @@ private:
     QString expectLisp(const Step &step);
     QString let(const Step &step);
     QString onlyIf(const Step &step);
+    /// Shows the panel or bar of the window, which the next lines work in.
+    QString enterPanel(const Step &step);
+    QString actInPanel(const Step &step);
 
     // What the lines do where something waits; a text that is not empty is what went wrong.
     kernel::FeedResult answerPrompt(const kernel::PromptRequest &request, kernel::InputQueue &queue);
@@ -109,7 +112,8 @@ private:
     bool m_wasCancelled = false;   ///< the session cancelled a prompt of the run under way
     bool m_isAbandoned = false;    ///< whatever opens until the run ends is cancelled
     std::optional<Rehearsal> m_rehearsal;
-    QTimer m_watchdog; ///< of the time limit
+    QPointer<QWidget> m_panel; ///< of the window, that was entered last
+    QTimer m_watchdog;         ///< of the time limit
 };
 
 } // namespace host::app

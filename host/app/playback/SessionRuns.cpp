@@ -1,10 +1,12 @@
 #include "host/app/playback/DialogSteps.h"
 #include "host/app/playback/PlaybackText.h"
+#include "host/app/playback/PlaybackVerbs.h"
 #include "host/app/playback/SessionChecks.h"
 #include "host/app/playback/SessionFiles.h"
 #include "host/app/playback/SessionPlayer.h"
 #include "host/kernel/documents/Session.h"
 
+#include <QAbstractEventDispatcher>
 #include <QFileInfo>
 
 // What a session does between commands: its runs, and the lines around them.
@@ -26,6 +28,15 @@ QString withoutQuotes(const QString &printed)
     QStringView rest(printed);
     QString word;
     return printed.startsWith(u'"') && takeWord(rest, word) ? word : printed;
+}
+
+/// What a panel does may come by posted events.
+void settlePanel()
+{
+    constexpr int mostRounds = 20;
+    QAbstractEventDispatcher *events = QAbstractEventDispatcher::instance();
+    for (int round = 0; round < mostRounds && events->processEvents(QEventLoop::AllEvents); ++round) {
+    }
 }
 
 } // namespace
@@ -57,6 +68,9 @@ void SessionPlayer::runStart(const Step &step)
     case Verb::OnlyIf:
         error = onlyIf(step);
         break;
+    case Verb::Panel:
+        error = enterPanel(step);
+        break;
     case Verb::ExpectLisp:
         error = expectLisp(step);
         break;
@@ -68,10 +82,41 @@ void SessionPlayer::runStart(const Step &step)
         break;
     default:
         error = step.kind == VerbKind::Anywhere ? check(step, nullptr)
-                                                : tr("no prompt and no dialog is open that this could be meant for");
+                : m_panel && step.kind == VerbKind::Widget
+                    ? actInPanel(step)
+                    : tr("no prompt and no dialog is open that this could be meant for");
     }
     if (!error.isEmpty())
         failAt(step, error);
+}
+
+QString SessionPlayer::enterPanel(const Step &step)
+{
+    QWidget *const window = m_document.session().mainWindow();
+    m_panel = window && m_options.workInPanel ? window->findChild<QWidget *>(step.word(0)) : nullptr;
+    if (!m_panel)
+        return tr("there is no panel \"%1\"").arg(step.word(0));
+    m_options.workInPanel([this] {
+        m_panel->show();
+        m_panel->raise();
+        settlePanel();
+    });
+    return {};
+}
+
+QString SessionPlayer::actInPanel(const Step &step)
+{
+    const bool looks = QByteArrayView(rowOf(step.verb).name).startsWith("expect");
+    if (!looks) {
+        m_printedBefore = m_result.printed.size();
+        m_before = comparesRun() ? m_document.drawing().toBytes() : QByteArray();
+    }
+    QString error;
+    m_options.workInPanel([&] {
+        error = workIn(*m_panel, step);
+        settlePanel();
+    });
+    return error;
 }
 
 void SessionPlayer::runProgram(const Step &step)

@@ -1,10 +1,35 @@
 #include "host/app/window/entry/CommandRunner.h"
 
 #include "host/app/window/entry/CommandLine.h"
+#include "host/kernel/running/CommandTable.h"
 
 using namespace Qt::StringLiterals;
 
 namespace host::app {
+
+namespace {
+
+/// The panel that a command opens where a person enters it by itself; empty for other lines. Programs, scripts and
+/// sessions get the command, which asks.
+QString panelOf(const QString &text, kernel::Document &document)
+{
+    struct PanelCommand
+    {
+        QStringView command;
+        QStringView panel;
+    };
+    static constexpr PanelCommand commands[] = {{u"LAYER", u"layersPanel"}, {u"PROPERTIES", u"propertiesPanel"}};
+    const QString typed = text.trimmed();
+    if (typed.isEmpty() || typed.contains(u' ') || typed.startsWith(u'(') || document.isLispCommand(typed))
+        return {};
+    const QString plain = kernel::CommandTable::plainName(document.commandOfAlias(typed));
+    for (const PanelCommand &row : commands)
+        if (plain.compare(row.command, Qt::CaseInsensitive) == 0)
+            return row.panel.toString();
+    return {};
+}
+
+} // namespace
 
 CommandRunner::CommandRunner(kernel::Session &session, CommandLine &commandLine)
     : m_session(session), m_commandLine(commandLine), m_feeder(session.input())
@@ -34,6 +59,8 @@ void CommandRunner::enter(const QString &text)
         m_commandLine.print(tr("\nA command is running; Esc stops it.\n"));
     } else if (!document()) {
         m_commandLine.print(tr("\nNo drawing is open.\n"));
+    } else if (const QString panel = panelOf(text, *document()); queue.isEmpty() && !panel.isEmpty()) {
+        emit panelWanted(panel);
     } else {
         run([&] {
             queue.pushTyped(text);
@@ -85,6 +112,13 @@ PlaybackResult CommandRunner::play(const PlaybackScript &script, PlaybackOptions
         return {.ok = false, .line = 0, .message = tr("No session can be played now."), .printed = {}, .files = {}};
     m_isRunning = true;
     emit stateChanged();
+    // What a line does in a panel is a person's work, between two runs of the session.
+    options.workInPanel = [this](const std::function<void()> &work) {
+        m_isRunning = false;
+        emit stateChanged();
+        work();
+        m_isRunning = true;
+    };
     options.showPrompt = [this](const std::optional<kernel::PromptRequest> &request) { showRequest(request); };
     PlaybackResult result = runSession(script, *document(), options);
     m_isRunning = false;

@@ -51,6 +51,8 @@ signals:
     /// What can be done now may be another.
     void stateChanged();
     void ended();
+    /// A panel of this name was asked for by a command that a person entered.
+    void panelWanted(const QString &name);
     /// What was entered has run; what was chosen for it may still be.
     void ranTo(const host::kernel::RunResult &result);
 
