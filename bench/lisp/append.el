@@ -1,0 +1,10 @@
+;;; -*- lexical-binding: t -*-
+(defvar l nil)
+(defvar i 0)
+(defvar n 0)
+(defun run ()
+  (while (< i 10000) (setq l (cons i l) i (1+ i)))
+  (setq i 0)
+  (while (< i 200) (setq n (+ n (length (append l l))) i (1+ i))))
+(run)
+(princ n)

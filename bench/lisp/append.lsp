@@ -1,0 +1,5 @@
+(setq l nil i 0 n 0)
+(while (< i 10000) (setq l (cons i l) i (1+ i)))
+(setq i 0)
+(while (< i 200) (setq n (+ n (length (append l l))) i (1+ i)))
+(princ n)

@@ -1,0 +1,6 @@
+(define l (iota 10000))
+(define i 0)
+(define n 0)
+(define (run) (if (< i 200) (begin (set! n (+ n (length (append l l)))) (set! i (+ i 1)) (run))))
+(run)
+(display n)

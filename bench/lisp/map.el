@@ -1,0 +1,10 @@
+;;; -*- lexical-binding: t -*-
+(defvar l nil)
+(defvar i 0)
+(defvar n 0)
+(defun run ()
+  (while (< i 1000) (setq l (cons i l) i (1+ i)))
+  (setq i 0)
+  (while (< i 500) (setq n (+ n (car (mapcar (lambda (x) (+ x 1)) l))) i (1+ i))))
+(run)
+(princ n)

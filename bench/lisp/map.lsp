@@ -1,0 +1,5 @@
+(setq l nil i 0 n 0)
+(while (< i 1000) (setq l (cons i l) i (1+ i)))
+(setq i 0)
+(while (< i 500) (setq n (+ n (car (mapcar '(lambda (x) (+ x 1)) l))) i (1+ i)))
+(princ n)

@@ -1,0 +1,11 @@
+;;; -*- lexical-binding: t -*-
+(defvar l nil)
+(defvar i 0)
+(defvar n 0)
+(defun run ()
+  (while (< i 1000) (setq l (cons (concat "layer " (number-to-string i)) l) i (1+ i)))
+  (setq i 0)
+  (while (< i 20000)
+    (setq n (+ n (length (member (concat "layer " (number-to-string (% i 1000))) l))) i (1+ i))))
+(run)
+(princ n)

@@ -1,0 +1,5 @@
+(setq l nil i 0 n 0)
+(while (< i 1000) (setq l (cons (strcat "layer " (itoa i)) l) i (1+ i)))
+(setq i 0)
+(while (< i 20000) (setq n (+ n (length (member (strcat "layer " (itoa (rem i 1000))) l))) i (1+ i)))
+(princ n)

@@ -1,0 +1,10 @@
+(define i 0)
+(define n 0)
+(define (run)
+  (if (< i 300000)
+      (begin
+        (set! n (+ n (string-length (string-append "(" (number->string i) " . \"a name of some length\")"))))
+        (set! i (+ i 1))
+        (run))))
+(run)
+(display n)
