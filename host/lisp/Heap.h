@@ -123,7 +123,7 @@ extern template class SmallBlocks<stringSize>;
     else if (!ORTAKIT_ADDRESSES_ARE_WATCHED && size <= stringSize)
         SmallBlocks<stringSize>::give(block);
     else
-        ::operator delete(block, size);
+        ::operator delete(block);
 }
 
 /// Counts what something that is no Lisp object keeps for a program, until it goes.

@@ -27,29 +27,35 @@ static void mergeSort(std::vector<Item> &items, Less less)
     }
 }
 
-/// The places of the items of argument 0 in the order that function argument 1 gives.
-static std::vector<std::size_t> sortedPlaces(Arguments &args, const std::vector<Value> &items)
+/// An item of a list to be sorted, with its place there.
+struct Placed
+{
+    Value item;
+    std::size_t place = 0;
+};
+
+/// The items of argument 0 in the order that function argument 1 gives.
+static std::vector<Placed> sortedItems(Arguments &args)
 {
     Interpreter &interpreter = args.interpreter();
+    std::vector<Placed> items;
+    for (const Value &item : ListItems(args.list(0)))
+        items.push_back({item, items.size()});
     const Value function = interpreter.resolveFunction(args[1]);
-    std::vector<std::size_t> places(items.size());
-    for (std::size_t i = 0; i < places.size(); ++i)
-        places[i] = i;
-    mergeSort(places, [&](std::size_t left, std::size_t right) {
-        const Value pair[] = {items[left], items[right]};
+    mergeSort(items, [&](const Placed &left, const Placed &right) {
+        const Value pair[] = {left.item, right.item};
         return interpreter.apply(function, pair).isTrue();
     });
-    return places;
+    return items;
 }
 
 // (vl-sort list before) -> the items in the order that (before a b) gives. Stable, and every item is kept: equal ones
 // are never dropped.
 static Value sort(Arguments &args)
 {
-    const std::vector<Value> items = listToVector(args.list(0));
     ListBuilder sorted;
-    for (const std::size_t place : sortedPlaces(args, items))
-        sorted.append(items[place]);
+    for (Placed &placed : sortedItems(args))
+        sorted.append(std::move(placed.item));
     return sorted.take();
 }
 
@@ -57,8 +63,8 @@ static Value sort(Arguments &args)
 static Value sortIndices(Arguments &args)
 {
     ListBuilder indices;
-    for (const std::size_t place : sortedPlaces(args, listToVector(args.list(0))))
-        indices.append(Value::integer(static_cast<std::int32_t>(place)));
+    for (const Placed &placed : sortedItems(args))
+        indices.append(Value::integer(static_cast<std::int32_t>(placed.place)));
     return indices.take();
 }
 

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstring>
 
 namespace host::lisp {
 
@@ -38,9 +39,24 @@ static std::size_t validLength(std::string_view text, std::size_t position) noex
     return 0;
 }
 
+/// How many bytes from `position` on are characters of one byte, as nearly all are: looked at by eights.
+static std::size_t plainLength(std::string_view text, std::size_t position) noexcept
+{
+    constexpr std::uint64_t highBits = 0x8080808080808080U;
+    const std::size_t begin = position;
+    for (std::uint64_t eight = 0; text.size() - position >= sizeof eight; position += sizeof eight) {
+        std::memcpy(&eight, text.data() + position, sizeof eight);
+        if ((eight & highBits) != 0)
+            break;
+    }
+    while (position < text.size() && static_cast<unsigned char>(text[position]) < 0x80)
+        ++position;
+    return position - begin;
+}
+
 bool isValidUtf8(std::string_view text) noexcept
 {
-    for (std::size_t position = 0; position < text.size();) {
+    for (std::size_t position = plainLength(text, 0); position < text.size();) {
         const std::size_t length = validLength(text, position);
         if (length == 0)
             return false;
@@ -66,16 +82,16 @@ char32_t takeCharacter(std::string_view text, std::size_t &position) noexcept
 
 std::size_t characterCount(std::string_view text) noexcept
 {
-    std::size_t count = 0;
-    for (std::size_t position = 0; position < text.size(); ++count)
+    std::size_t count = plainLength(text, 0);
+    for (std::size_t position = count; position < text.size(); ++count)
         position += std::max<std::size_t>(1, validLength(text, position));
     return count;
 }
 
 std::size_t byteOffset(std::string_view text, std::size_t index) noexcept
 {
-    std::size_t position = 0;
-    for (; index > 0 && position < text.size(); --index)
+    std::size_t position = plainLength(text.substr(0, index), 0);
+    for (index -= position; index > 0 && position < text.size(); --index)
         position += std::max<std::size_t>(1, validLength(text, position));
     return position;
 }

@@ -58,7 +58,7 @@ private:
             return nullptr;
         const Tag tag = cell.tag();
         cell.setTag(Tag::Nil);
-        return takeApart(tag, cell.m_object);
+        return tag == Tag::Cons ? reinterpret_cast<Cons *>(cell.m_object) : takeApart(tag, cell.m_object);
     }
 
     static Head *headOf(Cons *pair) noexcept { return pair ? &pair->car.m_head : nullptr; }
@@ -262,12 +262,10 @@ bool SelectionSet::remove(std::uint64_t entity)
 
 void ListBuilder::append(Value item)
 {
-    Value pair = Value::cons(std::move(item), Value());
-    auto *added = const_cast<Cons *>(&pair.asCons());
-    if (m_last)
-        m_last->cdr = std::move(pair);
-    else
-        m_head = std::move(pair);
+    Value end;
+    auto *const added = new Cons(item, end);
+    Value pair = Value::adopt(added);
+    (m_last ? m_last->cdr : m_head).swap(pair);
     m_last = added;
 }
 
