@@ -2,6 +2,7 @@
 #include "host/lisp/Equality.h"
 #include "host/lisp/Function.h"
 #include "host/lisp/Interpreter.h"
+#include "host/lisp/ListFunctions.h"
 #include "host/lisp/Printer.h"
 #include "host/lisp/ValueFrame.h"
 #include "host/lisp/compiled/Machine.h"
@@ -141,7 +142,7 @@ Value Interpreter::callUser(const Function &function, ValueFrame &values, Locati
     if (function.mark != 0) [[unlikely]]
         return callWatched(function, values, location);
     if (m_isCompiling && m_machine->takes(function))
-        return m_machine->call(function, {values.values(), values.size()}, location);
+        return m_machine->callTaking(function, {values.values(), values.size()}, location);
     Binding binding(*this, function, values, location);
     return evalBody(function.body);
 }
@@ -179,6 +180,7 @@ Value Interpreter::callWatched(const Function &function, ValueFrame &values, Loc
 void Interpreter::setCallObserver(CallObserver &observer)
 {
     m_callObserver = &observer;
+    m_listFunctions->clear();
     for (Symbol *symbol : m_symbols.all()) {
         if (symbol->value().tag() == Tag::Function)
             symbol->value().asFunction().mark |= CallWatch::Observed;
@@ -211,12 +213,15 @@ Value Interpreter::apply(const Value &function, std::span<const Value> arguments
             throw Error("bad function: " + native.name);
         return callNative(native, arguments.data(), arguments.size());
     }
-    if (arguments.size() != callee.asFunction().parameterCount)
-        raiseArgumentCount(callee.asFunction(), arguments.size());
+    const Function &called = callee.asFunction();
+    if (arguments.size() != called.parameterCount)
+        raiseArgumentCount(called, arguments.size());
+    if (called.mark == 0 && m_isCompiling && m_machine->takes(called))
+        return m_machine->call(called, arguments, m_location);
     ValueFrame values(*this);
     for (const Value &argument : arguments)
         values.push(argument);
-    return callUser(callee.asFunction(), values, m_location);
+    return callUser(called, values, m_location);
 }
 
 Value Interpreter::resolveFunction(const Value &function)
@@ -233,13 +238,24 @@ Value Interpreter::resolveFunction(const Value &function)
             throw Error("bad function: " + toShortText(held));
         return resolveFunction(held);
     }
-    const bool isLambda = function.car().isSymbol() && &function.car().asSymbol() == m_lambdaSymbol;
+    if (!function.isCons())
+        throw Error("bad function: " + toShortText(function));
+    if (const Value *made = m_listFunctions->find(function))
+        return *made;
+    Value made = makeFunction(function);
+    m_listFunctions->keep(function, made);
+    return made;
+}
+
+Value Interpreter::makeFunction(const Value &list)
+{
+    const bool isLambda = list.car().isSymbol() && &list.car().asSymbol() == m_lambdaSymbol;
     if (isLambda)
-        return makeFunction(nullptr, function.cdr().car(), function.cdr().cdr());
+        return makeFunction(nullptr, list.cdr().car(), list.cdr().cdr());
     // A list of parameters and forms is what defun-q makes.
-    if (function.isCons() && function.car().isList())
-        return makeFunction(nullptr, function.car(), function.cdr());
-    throw Error("bad function: " + toShortText(function));
+    if (list.car().isList())
+        return makeFunction(nullptr, list.car(), list.cdr());
+    throw Error("bad function: " + toShortText(list));
 }
 
 Value Interpreter::makeFunction(Symbol *name, const Value &parameters, const Value &body)

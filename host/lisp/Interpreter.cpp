@@ -4,6 +4,7 @@
 #include "host/lisp/Arguments.h"
 #include "host/lisp/Builtins.h"
 #include "host/lisp/Function.h"
+#include "host/lisp/ListFunctions.h"
 #include "host/lisp/Paths.h"
 #include "host/lisp/Printer.h"
 #include "host/lisp/Reader.h"
@@ -26,7 +27,7 @@ std::string Arity::text() const
 
 Interpreter::Interpreter(Console &console, Settings settings)
     : m_console(console), m_settings(settings), m_stackMemory(new std::byte[valueStackSize * sizeof(Value)]),
-      m_pollCountdown(std::max(1U, settings.pollInterval))
+      m_pollCountdown(std::max(1U, settings.pollInterval)), m_listFunctions(new ListFunctions)
 {
     static_assert(alignof(Value) <= __STDCPP_DEFAULT_NEW_ALIGNMENT__);
     m_stackTop = reinterpret_cast<Value *>(m_stackMemory.get());

@@ -48,6 +48,7 @@ struct Outcome
 
 struct Function;
 class Interpreter;
+class ListFunctions;
 
 /// Hears of the calls of a program's functions, as a profiler does.
 class CallObserver
@@ -181,6 +182,8 @@ public:
     /// What apply() does first, to be done once before many calls: a symbol becomes the function it holds, a list
     /// (lambda (...) ...) or ((...) ...) a function. Fails with "no function definition" or "bad function".
     Value resolveFunction(const Value &function);
+    /// A function made anew of such a list; fails likewise.
+    Value makeFunction(const Value &list);
     /// A function of a parameter list, with "/" before the locals, and a body. `name` is null for a lambda.
     Value makeFunction(Symbol *name, const Value &parameters, const Value &body);
     /// Reads a whole text and evaluates it, throwing.
@@ -286,6 +289,7 @@ private:
     Location m_location = 0;                ///< of the list form evaluated last
 
     std::unique_ptr<compiled::Machine> m_machine;
+    std::unique_ptr<ListFunctions> m_listFunctions;
     bool m_isCompiling = true;
 
     SourceMap m_sources;

@@ -47,7 +47,7 @@ static Value quote(Interpreter &, const Value &forms)
 static Value functionForm(Interpreter &interpreter, const Value &forms)
 {
     checkCount(forms, 1, 1);
-    return forms.car().isCons() ? interpreter.resolveFunction(forms.car()) : forms.car();
+    return forms.car().isCons() ? interpreter.makeFunction(forms.car()) : forms.car();
 }
 
 // (setq sym expr [sym expr]...) -> the last value. Something else than a symbol: bad argument type: symbolp.

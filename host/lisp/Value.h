@@ -9,6 +9,7 @@
 #include <initializer_list>
 #include <iterator>
 #include <memory>
+#include <new>
 #include <span>
 #include <string>
 #include <string_view>
@@ -102,6 +103,9 @@ public:
         return *this;
     }
     ~Value() { release(); }
+
+    /// Begins a value at `place`, where none is, with what this one holds, whose life ends by it.
+    void relocate(void *place) noexcept { (new (place) Value(tag()))->m_bits = m_bits; }
 
     /// Without touching a count.
     void swap(Value &other) noexcept

@@ -180,11 +180,45 @@ std::string RandomProgram::call(int depth)
     }
 }
 
+std::string RandomProgram::callee(int depth)
+{
+    switch (m_choices.below(9)) {
+    case 0:
+        return lambda(depth);
+    case 1:
+        return "(function " + lambda(depth) + ")";
+    case 2:
+        return m_choices.oneIn(2) ? "(function " + function() + ")" : function();
+    case 3:
+        return m_choices.oneIn(3) ? variable() : "(cdr '(1 " + parameters() + " " + forms(depth) + "))";
+    case 4:
+    case 5:
+        return "'" + function();
+    default:
+        return "'" + lambda(depth);
+    }
+}
+
+std::string RandomProgram::items(int depth)
+{
+    switch (m_choices.below(6)) {
+    case 0:
+    case 1:
+        return "(list " + forms(depth) + ")";
+    case 2:
+        return "'(3 1 2.5 1)";
+    case 3:
+        return "(append " + form(depth) + " '(1 nil 2))";
+    default:
+        return form(depth);
+    }
+}
+
 std::string RandomProgram::callback(int depth)
 {
-    const std::string called = m_choices.oneIn(2) ? "'" + lambda(depth) : "'" + function();
-    const std::string items = m_choices.oneIn(2) ? "(list " + forms(depth) + ")" : form(depth);
-    switch (m_choices.below(8)) {
+    const std::string called = callee(depth);
+    const std::string items = this->items(depth);
+    switch (m_choices.below(12)) {
     case 0:
         return list("apply", {called, items});
     case 1:
@@ -192,10 +226,20 @@ std::string RandomProgram::callback(int depth)
     case 2:
         return list("mapcar", {called, items, form(depth)});
     case 3:
-        return list("vl-sort", {items, m_choices.oneIn(2) ? "'<" : called});
+        return list(m_choices.of({"vl-sort", "vl-sort-i"}), {items, m_choices.oneIn(2) ? "'<" : called});
     case 4:
-        return list(m_choices.of({"vl-some", "vl-every", "vl-remove-if", "vl-remove-if-not", "vl-member-if"}),
+    case 6:
+        return list(m_choices.of({"vl-some", "vl-every", "vl-remove-if", "vl-remove-if-not", "vl-member-if",
+                                  "vl-member-if-not"}),
                     {called, items});
+    case 7:
+        return list(m_choices.of({"vl-some", "vl-every", "mapcar"}), {called, items, this->items(depth)});
+    case 8:
+        // A function that is a list, called several times.
+        return "(progn (defun-q k " + parameters() + " " + forms(depth) + ") (list (k 1) (k 2) " +
+               list("mapcar", {"'k", items}) + "))";
+    case 9:
+        return list("mapcar", {"'" + lambda(depth), "(mapcar " + called + " " + items + ")"});
     case 5:
         return list("apply", {std::string(m_choices.of({"'+", "'list", "'strcat", "'max", "'if"})), items});
     default:

@@ -62,6 +62,8 @@ private:
     std::string loop(int depth);
     std::string call(int depth);
     std::string callback(int depth);
+    std::string callee(int depth);
+    std::string items(int depth);
     std::string ofLists(int depth);
     std::string ofTexts(int depth);
     std::string mischief(int depth);

@@ -52,13 +52,17 @@ bool Analysis::isWellFormed(const KnownBuiltin &builtin, const Value &arguments)
         return false;
     switch (builtin.shape) {
     case Shape::Quote:
+    case Shape::Function:
     case Shape::Not:
     case Shape::Increment:
     case Shape::Predicate:
     case Shape::Part:
         return *count == 1;
     case Shape::Cons:
+    case Shape::Apply:
         return *count == 2;
+    case Shape::Walk:
+        return builtin.native->arity.accepts(*count);
     case Shape::Setq:
         return *count > 0 && arePairsOfSymbols(arguments);
     case Shape::If:
@@ -114,6 +118,7 @@ bool Analysis::visitParts(const KnownBuiltin &builtin, const Value &arguments, V
     switch (builtin.shape) {
     case Shape::Quote:
     case Shape::Lambda:
+    case Shape::Function:
         return true;
     case Shape::Setq:
         for (const Value *rest = &arguments; rest->isCons(); rest = &rest->cdr().cdr()) {
@@ -134,7 +139,7 @@ bool Analysis::visitParts(const KnownBuiltin &builtin, const Value &arguments, V
 
 Effect Analysis::ownEffect(const KnownBuiltin &builtin, const Value &arguments) const
 {
-    if (builtin.shape == Shape::Callback)
+    if (builtin.shape == Shape::Callback || builtin.shape == Shape::Walk || builtin.shape == Shape::Apply)
         return Effect::Calls;
     if (builtin.shape == Shape::Foreach)
         return holdsBuiltin(arguments.car()) ? Effect::Calls : Effect::Assigns;

@@ -110,18 +110,59 @@ void FormCompiler::compileNative(const KnownBuiltin &builtin, const Value &form,
     deliver(to);
 }
 
+/// A function that stands there as '(lambda ...), (function (lambda ...)) or (lambda ...); false for all others.
+bool FormCompiler::pushLiteral(const Value &function)
+{
+    const std::optional<KnownBuiltin> maker = function.isCons() ? m_analysis.builtinOf(function) : std::nullopt;
+    if (!maker || !isGuarded({&function.car().asSymbol(), maker->native}))
+        return false;
+    if (maker->shape == Shape::Lambda)
+        return Analysis::isLiteralLambda(function, m_lambda) && pushLambda(function);
+    const bool isQuoted = maker->shape == Shape::Quote || maker->shape == Shape::Function;
+    return isQuoted && Analysis::isLiteralLambda(function.cdr().car(), m_lambda) && pushLambda(function.cdr().car());
+}
+
+/// The function, made once if it stands there, and what it is to be called with.
+const Site &FormCompiler::pushCallbackArguments(const KnownBuiltin &builtin, const Value &form)
+{
+    const bool isMade = pushLiteral(form.cdr().car());
+    pushArguments(isMade ? form.cdr().cdr() : form.cdr());
+    return newSite(builtin, form, listLength(form.cdr()));
+}
+
 void FormCompiler::compileCallback(const KnownBuiltin &builtin, const Value &form, const Destination &to)
 {
-    const Value &function = form.cdr().car();
-    const std::optional<KnownBuiltin> maker = function.isCons() ? m_analysis.builtinOf(function) : std::nullopt;
-    const bool isQuoted =
-        maker && maker->shape == Shape::Quote && isGuarded({&function.car().asSymbol(), maker->native});
-    const bool isMade =
-        isQuoted && Analysis::isLiteralLambda(function.cdr().car(), m_lambda) && pushLambda(function.cdr().car());
-    pushArguments(isMade ? form.cdr().cdr() : form.cdr());
-    const Site &site = newSite(builtin, form, listLength(form.cdr()));
-    m_assembler.begin(callNativeOperation, 1 - static_cast<int>(site.count));
+    const Site &site = pushCallbackArguments(builtin, form);
+    const bool isApply = builtin.shape == Shape::Apply;
+    m_assembler.moveDepth(isApply ? mostApplied : 0);
+    m_assembler.begin(isApply ? applyOperation : callNativeOperation,
+                      1 - static_cast<int>(site.count) - (isApply ? static_cast<int>(mostApplied) : 0));
     m_assembler.add(wordOf(site));
+    m_guarded.clear();
+    deliver(to);
+}
+
+void FormCompiler::compileWalk(const KnownBuiltin &builtin, const Value &form, const Destination &to)
+{
+    const WalkOperations &operations = walkOperations(static_cast<Walk>(builtin.detail));
+    const Label next = m_assembler.newLabel();
+    const Label end = m_assembler.newLabel();
+    const Site &site = pushCallbackArguments(builtin, form);
+    const int places = static_cast<int>(site.count);
+    m_assembler.begin(operations.begin, 0);
+    m_assembler.add(wordOf(site));
+    m_assembler.add(end);
+    m_assembler.place(next);
+    // The function and the items of a round, which its result replaces.
+    m_assembler.begin(operations.next, places);
+    m_assembler.add(wordOf(site));
+    m_assembler.add(end);
+    m_assembler.begin(operations.take, -places);
+    m_assembler.add(wordOf(site));
+    m_assembler.add(end);
+    m_assembler.add(next);
+    m_assembler.place(end);
+    m_assembler.moveDepth(1 - places);
     m_guarded.clear();
     deliver(to);
 }

@@ -45,8 +45,10 @@ static_assert(sizeof(Word) == 8);
 struct Code
 {
     std::vector<Word> words;
-    std::deque<Site> sites;    ///< that words point to
-    std::deque<Value> kept;    ///< built-ins that it was made for, and functions made of literal lambdas
+    std::deque<Site> sites; ///< that words point to
+    std::deque<Value> kept; ///< built-ins that it was made for, and functions made of literal lambdas
+    Value *onlyVariable =
+        nullptr;               ///< of a function whose one variable is a parameter: where its symbol keeps its value
     std::size_t stackNeed = 0; ///< the most places of the stack that it uses besides the arguments of its function
     HeapShare share;           ///< what all this takes
 

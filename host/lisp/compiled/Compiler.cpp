@@ -55,9 +55,9 @@ static bool loops(const Shapes &shapes, const Value &form, int depth)
     if (!known || depth == 0)
         return false;
     const Shape shape = known->shape;
-    if (shape == Shape::While || shape == Shape::Repeat || shape == Shape::Foreach)
+    if (shape == Shape::While || shape == Shape::Repeat || shape == Shape::Foreach || shape == Shape::Walk)
         return true;
-    if (shape == Shape::Quote || shape == Shape::Lambda)
+    if (shape == Shape::Quote || shape == Shape::Lambda || shape == Shape::Function)
         return false;
     const ListItems parts(form.cdr());
     return std::any_of(parts.begin(), parts.end(), [&](const Value &part) {

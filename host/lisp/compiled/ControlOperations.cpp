@@ -63,16 +63,31 @@ const Word *loop(Machine &machine, const Word *at, Value *top)
     return jumpTo(machine, at[1].target, top);
 }
 
+bool holdsAsExpected(const Word *pair)
+{
+    const Value &held = *pair[0].value;
+    return held.tag() == Tag::Native && &held.asNative() == pair[1].native;
+}
+
 const Word *guard(Machine &machine, const Word *at, Value *top)
 {
     const Word *pair = at + 3;
     const Word *const end = pair + 2 * at[2].number;
     for (; pair != end; pair += 2) {
-        const Value &held = *pair[0].value;
-        if (held.tag() != Tag::Native || &held.asNative() != pair[1].native) [[unlikely]]
+        if (!holdsAsExpected(pair)) [[unlikely]]
             return goOn(machine, at[1].target, top);
     }
     return goOn(machine, end, top);
+}
+
+/// The same of so many, which functions begin with: each costs a moment at every call.
+template <std::size_t... Pairs>
+const Word *guardOf(Machine &machine, const Word *at, Value *top)
+{
+    const Word *const pairs = at + 3;
+    if (!(holdsAsExpected(pairs + 2 * Pairs) && ...)) [[unlikely]]
+        return goOn(machine, at[1].target, top);
+    return goOn(machine, pairs + 2 * sizeof...(Pairs), top);
 }
 
 const Word *evaluate(Machine &machine, const Word *at, Value *top)
@@ -117,7 +132,7 @@ const Word *foreach (Machine &machine, const Word *at, Value * top)
     if (!list.isList()) [[unlikely]]
         machine.refuse(*at[2].site, top, 2, "listp ", list);
     machine.top = top;
-    Machine::Loop &loop = machine.loops().emplace_back();
+    Machine::Loop &loop = machine.beginLoop();
     loop.variable = at[1].symbol;
     loop.saved = at[1].symbol->value();
     loop.list.swap(list);
@@ -127,7 +142,7 @@ const Word *foreach (Machine &machine, const Word *at, Value * top)
 
 const Word *foreachNext(Machine &machine, const Word *at, Value *top)
 {
-    Machine::Loop &loop = machine.loops().back();
+    Machine::Loop &loop = machine.loop();
     if (!loop.rest->isCons()) {
         machine.endLoop();
         return jumpTo(machine, at[1].target, top);
@@ -140,6 +155,13 @@ const Word *foreachNext(Machine &machine, const Word *at, Value *top)
 
 } // namespace
 
+Operation guardOperation(std::size_t pairs)
+{
+    constexpr Operation few[] = {guardOf<>,        guardOf<0>,          guardOf<0, 1>,
+                                 guardOf<0, 1, 2>, guardOf<0, 1, 2, 3>, guardOf<0, 1, 2, 3, 4>};
+    return pairs < std::size(few) ? few[pairs] : guard;
+}
+
 const Operation pushOperation = push;
 const Operation storeOperation = store;
 const Operation copyOperation = copy;
@@ -149,7 +171,6 @@ const Operation keepValueOperation = keepValue;
 const Operation jumpOperation = jump;
 const Operation jumpKeepingOperation = jumpKeeping;
 const Operation loopOperation = loop;
-const Operation guardOperation = guard;
 const Operation evaluateOperation = evaluate;
 const Operation evaluateBodyOperation = evaluateBody;
 const Operation endOperation = end;

@@ -23,9 +23,8 @@ bool FormCompiler::compileFunction(const Value &body, std::size_t parameters)
         return false;
     // A single local has no argument on the stack.
     const bool hasOne = m_variables.size() == 1 && parameters == 1;
-    m_assembler.begin(hasOne ? bindOneOperation : bindOperation, 0);
     if (hasOne)
-        m_assembler.add(wordOf(m_variables[0]->value()));
+        m_code.onlyVariable = &m_variables[0]->value();
     compileForms(body);
     m_assembler.begin(hasOne ? returnOneOperation : returnOperation, 0);
     if (hasOne)
@@ -166,6 +165,7 @@ void FormCompiler::compileBuiltin(const KnownBuiltin &builtin, const Value &form
     case Shape::Progn:
         return compileBody(form.cdr(), to);
     case Shape::Lambda:
+    case Shape::Function:
         return compileEvaluation(form, to);
     case Shape::And:
     case Shape::Or:
@@ -180,7 +180,10 @@ void FormCompiler::compileBuiltin(const KnownBuiltin &builtin, const Value &form
     case Shape::Part:
         return compilePart(builtin, form, to);
     case Shape::Callback:
+    case Shape::Apply:
         return compileCallback(builtin, form, to);
+    case Shape::Walk:
+        return compileWalk(builtin, form, to);
     case Shape::List:
     case Shape::Plain:
         return compileNative(builtin, form, to);
@@ -196,7 +199,7 @@ FormCompiler::Detour FormCompiler::beginGuarded(const std::vector<Guard> &guards
                                                 const Destination &to)
 {
     const Detour detour{m_assembler.newLabel(), m_assembler.newLabel(), &form, to, m_assembler.depth(), false};
-    m_assembler.begin(guardOperation, 0);
+    m_assembler.begin(guardOperation(guards.size()), 0);
     m_assembler.add(detour.begin);
     m_assembler.add(wordOf(guards.size()));
     for (const Guard &guard : guards) {
@@ -245,7 +248,7 @@ void FormCompiler::compileCall(const Value &form, const Destination &to)
     }
     pushArguments(form.cdr());
     const std::size_t count = listLength(form.cdr());
-    m_assembler.begin(callOperation, -static_cast<int>(count));
+    m_assembler.begin(count == 1 ? callWithOneOperation : callOperation, -static_cast<int>(count));
     m_assembler.add(wordOf(count));
     m_assembler.add(wordOf(location));
     m_assembler.place(end);

@@ -102,6 +102,9 @@ private:
     void compilePart(const KnownBuiltin &builtin, const Value &form, const Destination &to);
     void compileNative(const KnownBuiltin &builtin, const Value &form, const Destination &to);
     void compileCallback(const KnownBuiltin &builtin, const Value &form, const Destination &to);
+    void compileWalk(const KnownBuiltin &builtin, const Value &form, const Destination &to);
+    const Site &pushCallbackArguments(const KnownBuiltin &builtin, const Value &form);
+    bool pushLiteral(const Value &function);
     void pushArguments(const Value &forms);
     bool pushLambda(const Value &form);
     void pushValue(const Value &value);

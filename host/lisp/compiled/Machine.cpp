@@ -60,27 +60,50 @@ bool Machine::takes(const Function &function)
     return function.code != nullptr;
 }
 
-Value Machine::call(const Function &function, std::span<Value> arguments, Location location)
+/// Where calls by C++ come back to.
+static const Word *endOfRun()
 {
-    // A function made of a list at each call comes here from code, again and again.
+    static const Word end = {endOperation};
+    return &end;
+}
+
+/// `put` makes the arguments on the stack.
+template <typename Put>
+Value Machine::callWith(const Function &function, std::size_t count, Location location, Put put)
+{
     m_interpreter.checkStack();
     reserveMemory();
-    checkRoom(arguments.size() + 1, location, top);
+    checkRoom(count + 1, location, top);
     const Frame *const frame = m_frame;
     Value *const lowest = top;
-    const std::size_t loops = m_loops.size();
+    const std::size_t loops = m_loopCount;
     // The stack holds functions that run as values do, so that a program may define them anew.
     auto &held = const_cast<Function &>(function);
     ++held.references;
     new (top++) Value(Value::adopt(Tag::Function, &held));
-    for (Value &argument : arguments)
-        new (top++) Value(std::move(argument));
+    put();
     try {
-        return runUntilEnd(enter(function, arguments.size(), location, nullptr, top));
+        return runUntilEnd(enter(function, count, location, endOfRun(), top));
     } catch (...) {
         unwind(frame, lowest, loops);
         throw;
     }
+}
+
+Value Machine::call(const Function &function, std::span<const Value> arguments, Location location)
+{
+    return callWith(function, arguments.size(), location, [&] {
+        for (const Value &argument : arguments)
+            new (top++) Value(argument);
+    });
+}
+
+Value Machine::callTaking(const Function &function, std::span<Value> arguments, Location location)
+{
+    return callWith(function, arguments.size(), location, [&] {
+        for (Value &argument : arguments)
+            new (top++) Value(std::move(argument));
+    });
 }
 
 std::optional<Value> Machine::evaluate(const Value &form)
@@ -100,7 +123,7 @@ Value Machine::run(const Code &code)
     checkRoom(code.stackNeed, m_interpreter.m_location, top);
     const Frame *const frame = m_frame;
     Value *const lowest = top;
-    const std::size_t loops = m_loops.size();
+    const std::size_t loops = m_loopCount;
     try {
         return runUntilEnd(code.begin());
     } catch (...) {
@@ -122,24 +145,22 @@ const Word *Machine::enter(const Function &function, std::size_t count, Location
                            Value *alive)
 {
     const Code &code = *function.code;
-    if (m_frame >= m_frameEnd || static_cast<std::size_t>(m_end - alive) < code.stackNeed) [[unlikely]]
+    if (!hasRoomFor(code, alive)) [[unlikely]]
         checkRoom(code.stackNeed, location, alive);
-    Frame *const frame =
-        new (m_frame) Frame{{m_interpreter.m_frame, &function, location}, resume, alive - count, m_loops.size()};
-    ++m_frame;
-    m_interpreter.m_frame = &frame->call;
-    top = alive;
+    pushFrame(function, count, location, resume, alive);
+    if (code.onlyVariable)
+        code.onlyVariable->swap(alive[-1]);
+    top = code.onlyVariable ? alive : bindVariables(function, alive - count, alive);
     return code.begin();
 }
 
-Value *Machine::bindVariables(Value *alive)
+/// Not by way of the frame, which was written a moment ago.
+Value *Machine::bindVariables(const Function &function, Value *values, Value *alive)
 {
-    const Frame &current = frame();
-    const std::vector<Symbol *> &variables = current.call.function->variables;
-    for (Value *const end = current.values + variables.size(); alive != end;)
+    for (Value *const end = values + function.variables.size(); alive != end;)
         new (alive++) Value();
-    for (std::size_t i = 0; i < variables.size(); ++i)
-        variables[i]->value().swap(current.values[i]);
+    for (Symbol *const variable : function.variables)
+        variable->value().swap(*values++);
     return alive;
 }
 
@@ -160,7 +181,7 @@ void Machine::unwind(const Frame *outermost, const Value *lowest, std::size_t lo
         const Value *const values = frame().values + frame().call.function->variables.size();
         while (top > values)
             (--top)->~Value();
-        while (m_loops.size() > frame().loops)
+        while (m_loopCount > frame().loops)
             endLoop();
         restoreVariables();
         top = frame().values - 1;
@@ -169,16 +190,17 @@ void Machine::unwind(const Frame *outermost, const Value *lowest, std::size_t lo
     }
     while (top > lowest)
         (--top)->~Value();
-    while (m_loops.size() > loops)
+    while (m_loopCount > loops)
         endLoop();
 }
 
 void Machine::endLoop()
 {
-    Loop &loop = m_loops.back();
-    if (loop.variable)
-        loop.variable->value().swap(loop.saved);
+    Loop &ended = loop();
+    if (ended.variable)
+        ended.variable->value().swap(ended.saved);
     m_loops.pop_back();
+    --m_loopCount;
 }
 
 void Machine::poll(Location location, Value *alive)
@@ -256,6 +278,18 @@ Value *Machine::evaluateForm(const Value &form, Value *alive)
     Value value = m_interpreter.evalList(form);
     new (alive) Value(std::move(value));
     return alive + 1;
+}
+
+void Machine::refuseMemory(const Site &site, Value *alive)
+{
+    top = alive;
+    m_interpreter.m_location = site.location;
+    try {
+        Heap::check(Heap::blockOf(sizeof(Cons)));
+    } catch (Error &error) {
+        error.function = site.native->name;
+        m_interpreter.raise(std::move(error));
+    }
 }
 
 void Machine::refuse(const Site &site, Value *alive, int argument, const char *what, const Value &value)

@@ -35,9 +35,10 @@ public:
     /// Whether the function has code by now. It gets its code at the first call, a function without name at the second;
     /// never when it has forms that only the evaluator does as they are meant.
     bool takes(const Function &function);
-    /// Calls a function that it takes, with as many arguments as it has parameters, which are moved away. `location` is
-    /// the calling form's.
-    Value call(const Function &function, std::span<Value> arguments, Location location);
+    /// Calls a function that it takes, with as many arguments as it has parameters. `location` is the calling form's.
+    Value call(const Function &function, std::span<const Value> arguments, Location location);
+    /// The same with arguments that are moved away.
+    Value callTaking(const Function &function, std::span<Value> arguments, Location location);
     /// Evaluates a form of the top level when it has loops; nothing when that is left to the evaluator.
     std::optional<Value> evaluate(const Value &form);
 
@@ -65,7 +66,6 @@ public:
     Interpreter &interpreter() noexcept { return m_interpreter; }
     Location &location() noexcept { return m_interpreter.m_location; }
     const Value &t() const noexcept { return m_interpreter.m_t; }
-    std::deque<Loop> &loops() noexcept { return m_loops; }
     Frame &frame() noexcept { return m_frame[-1]; }
 
     /// One of the steps that are counted until the console is asked.
@@ -75,22 +75,33 @@ public:
             poll(location, alive);
     }
 
-    /// Begins a call of the function at top[-count - 1], which takes that many arguments. Gives its first instruction.
-    const Word *enter(const Function &function, std::size_t count, Location location, const Word *resume, Value *alive);
-    /// Gives its variables their values, the arguments and nil; what they had before lies in the place of these.
-    Value *bindVariables(Value *alive);
-    void restoreVariables() noexcept;
-    /// Ends the call, when its variables have their values back: the result, alone on the stack behind the places of
-    /// the variables, takes the place of the function.
-    const Word *leave(Value &function, Value &result)
+    /// A tick like the other, which leaves it to the caller to poll() when it says that it is time for it.
+    bool isPollDue() noexcept { return --m_interpreter.m_pollCountdown == 0; }
+    void poll(Location location, Value *alive);
+
+    /// Whether there is room for one more call, of that code.
+    bool hasRoomFor(const Code &code, const Value *alive) const noexcept
     {
-        const Word *const resume = frame().resume;
-        popFrame();
-        function.swap(result);
-        top = &function + 1;
-        result.~Value();
-        return resume;
+        return m_frame < m_frameEnd && m_end - alive >= static_cast<std::ptrdiff_t>(code.stackNeed);
     }
+    /// Begins a call of the function at top[-count - 1], which takes that many arguments: gives its variables their
+    /// values, the arguments and nil; what they had before lies in the place of these. Gives its first instruction.
+    const Word *enter(const Function &function, std::size_t count, Location location, const Word *resume, Value *alive);
+    /// The first part of that, where there is room.
+    void pushFrame(const Function &function, std::size_t count, Location location, const Word *resume, Value *alive)
+    {
+        Frame *const frame =
+            new (m_frame++) Frame{{m_interpreter.m_frame, &function, location}, resume, alive - count, m_loopCount};
+        m_interpreter.m_frame = &frame->call;
+    }
+    /// Ends the innermost call, when its variables have their values back.
+    void popFrame() noexcept
+    {
+        const Frame &ended = *--m_frame;
+        m_interpreter.m_frame = ended.call.outer;
+        m_interpreter.m_location = ended.call.location;
+    }
+    void restoreVariables() noexcept;
 
     // What is done in more steps than an instruction should have. All give the new top.
 
@@ -106,24 +117,28 @@ public:
     Value *evaluateForm(const Value &form, Value *alive);
     /// Fails as the built-in does.
     [[noreturn]] void refuse(const Site &site, Value *alive, int argument, const char *what, const Value &value);
-    /// Ends the innermost loop.
+    /// Fails as a built-in does that finds no room for a pair.
+    void refuseMemory(const Site &site, Value *alive);
+    /// The innermost loop; a new one within it; its end.
+    Loop &loop() noexcept { return m_loops.back(); }
+    Loop &beginLoop()
+    {
+        ++m_loopCount;
+        return m_loops.emplace_back();
+    }
     void endLoop();
 
     Value *top = nullptr; ///< the first free place of the stack
 
 private:
+    template <typename Put>
+    Value callWith(const Function &function, std::size_t count, Location location, Put put);
     Value run(const Code &code);
     Value runUntilEnd(const Word *at);
     void unwind(const Frame *outermost, const Value *lowest, std::size_t loops) noexcept;
-    void popFrame() noexcept
-    {
-        const Frame &ended = *--m_frame;
-        m_interpreter.m_frame = ended.call.outer;
-        m_interpreter.m_location = ended.call.location;
-    }
+    static Value *bindVariables(const Function &function, Value *values, Value *alive);
     void reserveMemory();
     void checkRoom(std::size_t places, Location location, Value *alive);
-    void poll(Location location, Value *alive);
 
     Interpreter &m_interpreter;
     std::unique_ptr<Compiler> m_compiler;
@@ -133,6 +148,7 @@ private:
     Frame *m_frame = nullptr;    ///< behind the innermost
     Frame *m_frameEnd = nullptr; ///< likewise
     std::deque<Loop> m_loops;    ///< whose places stay
+    std::size_t m_loopCount = 0; ///< how many these are, which takes the queue some reckoning
 };
 
 } // namespace host::lisp::compiled

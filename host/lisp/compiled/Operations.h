@@ -39,6 +39,18 @@ enum class Predicate : std::uint8_t
     IsNegative
 };
 
+/// Built-ins that call a function for the items of lists.
+enum class Walk : std::uint8_t
+{
+    All,         ///< mapcar
+    Some,        ///< vl-some
+    Every,       ///< vl-every
+    Without,     ///< vl-remove-if
+    Only,        ///< vl-remove-if-not
+    FromFirst,   ///< vl-member-if
+    FromFirstNot ///< vl-member-if-not
+};
+
 /// How many words an instruction has that takes operands and gives a result or jumps.
 inline constexpr std::size_t operandWords = 5;
 
@@ -73,11 +85,24 @@ extern const Operation jumpKeepingOperation;
 extern const Operation loopOperation;
 /// target, number, as many pairs of a symbol and a native: goes to the target when one of the symbols holds something
 /// else.
-extern const Operation guardOperation;
+Operation guardOperation(std::size_t pairs);
 /// form: has the evaluator do it; puts its value onto the stack.
 extern const Operation evaluateOperation;
 /// list of forms, to be evaluated in turn.
 extern const Operation evaluateBodyOperation;
+/// The instructions of a walk, which follow each other in this order.
+struct WalkOperations
+{
+    Operation begin; ///< site, target: with the function and the lists on the stack; has the value there at the target
+    Operation next;  ///< the same: calls the function with the next items
+    Operation
+        take; ///< site, target, target: takes what it gave; to the second target, where the next items are, or the end
+};
+const WalkOperations &walkOperations(Walk kind);
+/// The most arguments that applyOperation hands over by itself.
+inline constexpr std::size_t mostApplied = 8;
+/// site: calls a function with the items of a list, both on the stack.
+extern const Operation applyOperation;
 /// The end of code that is no function's.
 extern const Operation endOperation;
 
@@ -95,17 +120,15 @@ extern const Operation foreachNextOperation;
 extern const Operation headOperation;
 /// number, location: calls what lies below so many arguments.
 extern const Operation callOperation;
+/// 1, location: the same.
+extern const Operation callWithOneOperation;
 /// site
 extern const Operation callNativeOperation;
 /// site: a list of as many values.
 extern const Operation listOperation;
-/// symbol's cell: begins a function of one variable, a parameter, which gets its value and leaves the one that it had
-/// on the stack.
-extern const Operation bindOneOperation;
-/// The same with any number of variables, those of the function under way.
-extern const Operation bindOperation;
-/// symbol's cell: ends such a function.
+/// symbol's cell: ends a function of one variable, a parameter.
 extern const Operation returnOneOperation;
+/// Ends any function.
 extern const Operation returnOperation;
 
 } // namespace host::lisp::compiled

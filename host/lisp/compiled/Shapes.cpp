@@ -31,6 +31,7 @@ constexpr ShapeRow shapeRows[] = {
     {"and", Shape::And},
     {"or", Shape::Or},
     {"lambda", Shape::Lambda},
+    {"function", Shape::Function},
     {"not", Shape::Not},
     {"null", Shape::Not},
     {"+", Shape::Arithmetic, detailOf(Arithmetic::Add)},
@@ -64,6 +65,14 @@ constexpr ShapeRow shapeRows[] = {
     {"cdddr", Shape::Part, 0x73},
     {"cons", Shape::Cons},
     {"list", Shape::List},
+    {"mapcar", Shape::Walk, detailOf(Walk::All)},
+    {"vl-some", Shape::Walk, detailOf(Walk::Some)},
+    {"vl-every", Shape::Walk, detailOf(Walk::Every)},
+    {"vl-remove-if", Shape::Walk, detailOf(Walk::Without)},
+    {"vl-remove-if-not", Shape::Walk, detailOf(Walk::Only)},
+    {"vl-member-if", Shape::Walk, detailOf(Walk::FromFirst)},
+    {"vl-member-if-not", Shape::Walk, detailOf(Walk::FromFirstNot)},
+    {"apply", Shape::Apply},
 };
 
 constexpr const char *plainNames[] = {
@@ -144,14 +153,6 @@ constexpr const char *plainNames[] = {
 };
 
 constexpr const char *callbackNames[] = {
-    "mapcar",
-    "apply",
-    "vl-some",
-    "vl-every",
-    "vl-remove-if",
-    "vl-remove-if-not",
-    "vl-member-if",
-    "vl-member-if-not",
     "vl-sort",
     "vl-sort-i",
     "vl-catch-all-apply",

@@ -25,7 +25,8 @@ enum class Shape : std::uint8_t
     Progn,
     And,
     Or,
-    Lambda, ///< a special form that evaluates nothing
+    Lambda,   ///< a special form that evaluates nothing
+    Function, ///< likewise
     Not,
     Arithmetic, ///< `detail` is an Arithmetic
     Increment,  ///< likewise, with 1
@@ -35,7 +36,9 @@ enum class Shape : std::uint8_t
     Cons,
     List,
     Plain,    ///< neither calls functions nor changes variables
-    Callback, ///< calls its first argument and may do so with anything
+    Callback, ///< calls an argument and may do so with anything
+    Walk,     ///< likewise, with items of lists; `detail` is a Walk
+    Apply,    ///< likewise
 };
 
 /// A built-in that the compiler knows.

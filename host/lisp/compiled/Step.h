@@ -11,7 +11,8 @@ namespace host::lisp::compiled {
 
 /// Goes on with an instruction behind the one at work. Where the compiler makes a jump of a call in last place, which
 /// is told it by ORTAKIT_LISP_CHAINED, one operation runs into the other; else the machine's loop calls each. It may be
-/// used for steps forward alone, so that the machine's loop comes round again at each jump back and each call.
+/// used for steps forward, for calls and for their ends, so that the machine's loop comes round again at each jump back
+/// and at the latest when the console is asked.
 [[gnu::always_inline]] inline const Word *goOn(Machine &machine, const Word *next, Value *top)
 {
 #ifdef ORTAKIT_LISP_CHAINED
