@@ -16,6 +16,7 @@
 #include "host/app/window/frame/StatusSwitches.h"
 #include "host/app/window/frame/TrustBar.h"
 #include "host/app/window/frame/WindowServices.h"
+#include "host/app/window/panels/StyleBar.h"
 #include "host/kernel/documents/ScreenSketch.h"
 #include "host/kernel/variables/SystemVariables.h"
 
@@ -67,6 +68,7 @@ MainWindow::MainWindow(const WorkbenchOptions &options)
     m_switches = std::make_unique<StatusSwitches>(*this, *m_services);
     m_typing = std::make_unique<AimTyping>(*m_commandLine->input(), [this] { return canvas(); });
     buildMenus();
+    addToolBar(new StyleBar(*m_services, this));
     connectRunner();
 
     m_workbench->session().trustedFolders().setQuestion(trustQuestion(*this));
@@ -116,6 +118,7 @@ void MainWindow::connectRunner()
                 m_typing->restart();
             });
     connect(m_runner.get(), &CommandRunner::stateChanged, this, &MainWindow::updateState);
+    connect(m_runner.get(), &CommandRunner::panelWanted, this, [this](const QString &name) { m_panels->show(name); });
     connect(m_runner.get(), &CommandRunner::ended, this, [this] {
         if (m_isCloseWanted)
             QTimer::singleShot(0, this, &QWidget::close);

@@ -36,11 +36,16 @@ std::optional<qint64> exactColour(const QString &text)
     return value;
 }
 
-int nearestWeight(double millimetres)
+std::span<const int> lineweights()
 {
     static constexpr int weights[] = {0,  5,  9,  13, 15, 18,  20,  25,  30,  35,  40,  50,
                                       53, 60, 70, 80, 90, 100, 106, 120, 140, 158, 200, 211};
-    return *std::ranges::min_element(weights, {},
+    return weights;
+}
+
+int nearestWeight(double millimetres)
+{
+    return *std::ranges::min_element(lineweights(), {},
                                      [millimetres](int weight) { return std::abs(weight - millimetres * 100.0); });
 }
 

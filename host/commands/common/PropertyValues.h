@@ -3,6 +3,7 @@
 #include <QString>
 
 #include <optional>
+#include <span>
 
 namespace host::kernel {
 
@@ -14,7 +15,9 @@ QString withoutMark(const QString &word);
 int colourNumber(const QString &text);
 /// "255,128,0" as 0xRRGGBB; nothing for other text.
 std::optional<qint64> exactColour(const QString &text);
-/// The nearest of the weights that drawings have, in hundredths of a millimetre.
+/// The weights that drawings have, in hundredths of a millimetre, the thinnest first.
+std::span<const int> lineweights();
+/// The nearest of these weights.
 int nearestWeight(double millimetres);
 
 } // namespace host::kernel

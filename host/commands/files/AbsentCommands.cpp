@@ -76,6 +76,7 @@ std::vector<CommandRow> absentCommands()
             {"MENULOAD", loadMenu, "Takes the name of a menu file; there are none here"},
             {"MENUUNLOAD", unloadMenu, "Takes the name of a menu; there are none here"},
             {"NETLOAD", loadAssembly, "Takes a file's name; programs for other hosts do not run here"},
+            {"PROPERTIES", nothing, "Shows the properties panel where it is entered by hand in the window"},
             {"RESUME", nothing, "Scripts go on by themselves", WhenCancelled::TakeBack, Interrupts::Prompts},
             {"TEXTSCR", nothing, "The command line is always in sight", WhenCancelled::TakeBack, Interrupts::Prompts}};
 }

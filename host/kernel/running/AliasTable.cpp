@@ -35,7 +35,7 @@ AliasTable firstAliases()
     return {{u"L"_s, u"LINE"_s},     {u"C"_s, u"CIRCLE"_s},   {u"PL"_s, u"PLINE"_s},   {u"E"_s, u"ERASE"_s},
             {u"M"_s, u"MOVE"_s},     {u"CO"_s, u"COPY"_s},    {u"CP"_s, u"COPY"_s},    {u"RO"_s, u"ROTATE"_s},
             {u"SC"_s, u"SCALE"_s},   {u"I"_s, u"INSERT"_s},   {u"-I"_s, u"-INSERT"_s}, {u"W"_s, u"WBLOCK"_s},
-            {u"-W"_s, u"-WBLOCK"_s}, {u"-LA"_s, u"-LAYER"_s}, {u"LA"_s, u"-LAYER"_s},  {u"Z"_s, u"ZOOM"_s},
+            {u"-W"_s, u"-WBLOCK"_s}, {u"-LA"_s, u"-LAYER"_s}, {u"LA"_s, u"LAYER"_s},   {u"Z"_s, u"ZOOM"_s},
             {u"RE"_s, u"REGEN"_s},   {u"R"_s, u"REDRAW"_s},   {u"SET"_s, u"SETVAR"_s}, {u"LT"_s, u"-LINETYPE"_s}};
 }
 

@@ -1,6 +1,8 @@
 #include "host/app/window/frame/Panels.h"
 
 #include "host/app/window/frame/WindowServices.h"
+#include "host/app/window/panels/LayerPanel.h"
+#include "host/app/window/panels/PropertiesPanel.h"
 
 #include <QAction>
 #include <QDockWidget>
@@ -13,9 +15,20 @@ namespace host::app {
 
 namespace {
 
+template <typename Panel>
+QWidget *makePanel(WindowServices &services, QWidget *parent)
+{
+    return new Panel(services, parent);
+}
+
 std::span<const PanelRow> panelRows()
 {
-    static const std::vector<PanelRow> rows = {};
+    static const std::vector<PanelRow> rows = {
+        {"propertiesPanel", QT_TRANSLATE_NOOP("Panels", "Properties"), "Ctrl+1", Qt::LeftDockWidgetArea,
+         makePanel<PropertiesPanel>},
+        {"layersPanel", QT_TRANSLATE_NOOP("Panels", "Layers"), "Ctrl+2", Qt::RightDockWidgetArea,
+         makePanel<LayerPanel>},
+    };
     return rows;
 }
 
@@ -41,6 +54,17 @@ void Panels::addTo(QMenu &menu) const
 {
     for (const QDockWidget *dock : m_docks)
         menu.addAction(dock->toggleViewAction());
+}
+
+void Panels::show(QStringView name) const
+{
+    QDockWidget *dock = find(name);
+    if (!dock)
+        return;
+    dock->show();
+    dock->raise();
+    if (dock->widget())
+        dock->widget()->setFocus();
 }
 
 QDockWidget *Panels::find(QStringView name) const

@@ -35,6 +35,8 @@ public:
     void addTo(QMenu &menu) const;
     /// Null for a name of no panel.
     QDockWidget *find(QStringView name) const;
+    /// Shows it, with the keyboard; nothing for a name of no panel.
+    void show(QStringView name) const;
 
 private:
     QList<QDockWidget *> m_docks;
