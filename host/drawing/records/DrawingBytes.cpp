@@ -28,6 +28,27 @@ int listingCode(RecordKind kind, QByteArrayView type)
     return type == "GROUP" ? memberCode : type == "SORTENTSTABLE" ? sortedCode : 0;
 }
 
+/// Whether the record may be one of these, told by its first bytes: of a million records few are looked at any closer,
+/// for a drawing that is open is copied while somebody draws in it.
+bool mayList(const RecordEntry &entry)
+{
+    const QByteArrayView bytes = entry.bytes();
+    constexpr qsizetype longestCode = 16; // "  0", with a generous margin
+    const qsizetype line = bytes.first(std::min(bytes.size(), longestCode)).indexOf('\n');
+    if (line < 0)
+        return true;
+    const QByteArrayView type = bytes.sliced(line + 1);
+    switch (entry.kind) {
+    case RecordKind::Entity:
+        return type.startsWith("LEADER") || type.isEmpty() || type.front() <= ' '; // blanks do not count
+    case RecordKind::TableEntry:
+    case RecordKind::Object:
+        return true;
+    default:
+        return false;
+    }
+}
+
 bool isGone(const Drawing &drawing, const Tag &tag)
 {
     const RecordId record = drawing.find(tag.handle().value_or(Handle{}));
@@ -92,8 +113,9 @@ bool Drawing::forEachPiece(const std::function<bool(QByteArrayView)> &take) cons
         return take(d->file.bytes);
     JoinedPieces pieces(take);
     for (RecordId id = first(); isValid(id); id = next(id)) {
-        if (listingCode(kind(id), typeName(id)) == 0) {
-            if (!pieces.add(d->entry(id).bytes()))
+        const RecordEntry &entry = d->entry(id);
+        if (!mayList(entry) || listingCode(entry.kind, typeName(id)) == 0) {
+            if (!pieces.add(entry.bytes()))
                 return false;
             continue;
         }
