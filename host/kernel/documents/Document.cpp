@@ -164,8 +164,10 @@ drawing::SaveResult Document::saveUnder(const QString &path, DrawingClaim &claim
         m_variables->storeObjectSettings();
     });
     const drawing::SaveResult result = write(path, [&] { return drawing::save(*m_drawing, path); });
-    if (result)
+    if (result) {
         claim.noteWritten(*m_drawing);
+        m_isRecovered = false;
+    }
     return result;
 }
 

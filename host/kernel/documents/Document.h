@@ -110,6 +110,12 @@ public:
     /// The damaged file that the drawing was recovered from, which it does not replace; empty for other drawings.
     const QString &damagedFile() const { return m_damagedFile; }
     void setDamagedFile(const QString &path) { m_damagedFile = path; }
+    /// It was recovered after a crash, and was not saved since.
+    bool isRecovered() const { return m_isRecovered; }
+    void setRecovered() { m_isRecovered = true; }
+    /// The copy that is kept for after a crash; empty while there is none. See Autosave.
+    const QString &copyFile() const { return m_copyFile; }
+    void setCopyFile(const QString &path) { m_copyFile = path; }
     /// File name, or "Drawing1" for a new one.
     QString title() const;
     /// Whether it differs from what was opened or saved last; undone changes do not count.
@@ -302,6 +308,8 @@ private:
     DrawingClaim m_claim;
     QString m_untitledName;
     QString m_damagedFile;
+    QString m_copyFile;
+    bool m_isRecovered = false;
     UndoSteps m_undoSteps;
     std::unique_ptr<SystemVariables> m_variables;
     std::unique_ptr<UserInput> m_userInput;

@@ -4,6 +4,7 @@
 #include "files/qt/Files.h"
 #include "host/drawing/file/NewDrawing.h"
 #include "host/drawing/file/Recovery.h"
+#include "host/drawing/records/Journal.h"
 #include "host/kernel/documents/Session.h"
 #include "host/kernel/platform/Services.h"
 
@@ -11,6 +12,13 @@
 #include <QFileInfo>
 
 namespace host::kernel {
+
+namespace {
+
+/// Lines on what was mended in a drawing.
+constexpr qsizetype longestTelling = 200;
+
+} // namespace
 
 DocumentManager::DocumentManager(Session &session) : m_session(session) {}
 
@@ -42,15 +50,43 @@ OpenOutcome DocumentManager::open(const QString &path, OpenMode mode)
 
 OpenOutcome DocumentManager::openRecovered(const QString &path)
 {
-    constexpr qsizetype longestList = 200;
     drawing::Recovered recovered = drawing::recoverFile(path);
     if (!recovered)
         return {nullptr, QStringLiteral("%1: %2").arg(path, recovered.error.message())};
     const QString name = QStringLiteral("%1 (recovered)").arg(QFileInfo(path).fileName());
     Document *document = add(std::move(recovered.drawing), {}, name);
     document->setDamagedFile(path);
-    const QStringList told = recovered.report.lines(longestList);
+    const QStringList told = recovered.report.lines(longestTelling);
     document->print(u'\n' + told.join(u'\n') + u'\n');
+    return {document, {}, told};
+}
+
+OpenOutcome DocumentManager::openCopy(const RecoveryFile &copy)
+{
+    const RecoveryNote &note = copy.note;
+    drawing::ReadResult read = drawing::Drawing::open(copy.file);
+    QStringList told;
+    if (!read && read.isDamaged) {
+        drawing::Recovered recovered = drawing::recoverFile(copy.file);
+        read.drawing = std::move(recovered.drawing);
+        told = recovered.report.lines(longestTelling);
+    }
+    if (!read)
+        return {nullptr, QStringLiteral("%1: %2").arg(copy.file, drawing::openingError(read))};
+    const bool hasPath = !note.path.isEmpty() && !documentOf(note.path);
+    DrawingClaim claim = hasPath ? DrawingClaim(note.path, OpenMode::Alone) : DrawingClaim();
+    if (claim.holder())
+        claim = DrawingClaim(note.path, OpenMode::ReadOnly);
+    if (hasPath)
+        claim.setBase(note.base);
+    read.drawing->setPath(hasPath ? note.path : QString());
+    read.drawing->setForm(note.isBinary ? drawing::FileForm::Binary : drawing::FileForm::Text);
+    read.drawing->journal().markUnsaved();
+    Document *document = add(std::move(read.drawing), std::move(claim), note.title);
+    document->setRecovered();
+    emit document->titleChanged();
+    if (!told.isEmpty())
+        document->print(u'\n' + told.join(u'\n') + u'\n');
     return {document, {}, told};
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/kernel/documents/DocumentWishes.h"
+#include "host/kernel/files/RecoveryCopy.h"
 #include "platform/kernel/CKvDocumentManager.h"
 
 #include <QObject>
@@ -41,6 +42,10 @@ public:
     /// Opens what is sound of a damaged file as a drawing that has no file yet and differs from what any file holds:
     /// "plan.dxf (recovered)". It is never saved under the path of the damaged one. What was dropped is printed in it.
     OpenOutcome openRecovered(const QString &path);
+    /// Opens what a process that was killed left of a drawing, as a changed drawing of the same path. Saving it tells
+    /// when its file has changed since; where that file is open already, it has no path, and where another process has
+    /// it open, it is for reading only. A damaged copy is opened as far as it is sound. The copy stays where it is.
+    OpenOutcome openCopy(const RecoveryFile &copy);
     /// The document whose file the path leads to, by whatever links; null when there is none.
     Document *documentOf(const QString &path) const;
     /// A new empty drawing, which becomes active.

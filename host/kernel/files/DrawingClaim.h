@@ -23,6 +23,10 @@ public:
     DrawingClaim(const QString &path, OpenMode mode);
     /// Behind the reading or writing.
     void setContent(const drawing::Drawing &drawing);
+    /// The drawing is made of a file that was so once, and not of what is there now; nothing when that is not known.
+    void setBase(const std::optional<FileStamp> &base) { m_stamp = base ? base : FileStamp(); }
+    /// How the file was when it was read or written last; nothing for a new drawing.
+    const std::optional<FileStamp> &base() const { return m_stamp; }
     /// The drawing was written to the file of this claim, which was made before; its stamp is that of the new file.
     void noteWritten(const drawing::Drawing &drawing);
 

@@ -7,6 +7,8 @@
 
 #include <optional>
 
+class QJsonObject;
+
 namespace host::drawing {
 class Drawing;
 }
@@ -45,6 +47,10 @@ public:
     static std::optional<FileStamp> of(const QString &path);
     /// The content that was read from the file, or written to it.
     void setContent(const drawing::Drawing &drawing);
+
+    // For a later run of the program. Values that are missing or wrong make a stamp that no file fits.
+    QJsonObject toJson() const;
+    static FileStamp fromJson(const QJsonObject &json);
 
     const FileIdentity &identity() const { return m_identity; }
     /// Reads the file again where its size is the same and its time does not tell.

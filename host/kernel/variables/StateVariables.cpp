@@ -164,7 +164,7 @@ VariableRows timesAndFolders()
                      return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
                  }),
         computed("ROAMABLEROOTPREFIX", logFilePath),
-        fixed("SAVEFILE", text("")),
+        computed("SAVEFILE", [](const Document &document) -> VariableValue { return document.copyFile(); }),
         ofUser("SAVEFILEPATH", text("")),
         computed("TEMPPREFIX", [](const Document &) {
             return folderValue(QString::fromStdString(files::temporaryFolder().string()));
