@@ -23,6 +23,8 @@ struct PlaybackOptions
     QString pictureFolder;
     /// The session fails when it takes longer.
     std::chrono::milliseconds timeLimit = std::chrono::seconds(120);
+    /// How long each line waits, so that a person can watch: the window lives meanwhile.
+    std::chrono::milliseconds pace{0};
     /// Told of every prompt while it waits, and of none when it is answered: for a window that shows what is asked.
     std::function<void(const std::optional<kernel::PromptRequest> &request)> showPrompt;
     /// What a line does in a panel of the window is called through this, so that the window takes it as a person's.

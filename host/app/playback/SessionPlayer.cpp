@@ -139,8 +139,18 @@ void SessionPlayer::failAt(const Step &step, const QString &message)
     m_result.line = step.line;
 }
 
+void SessionPlayer::rest()
+{
+    if (m_options.pace.count() == 0)
+        return;
+    QEventLoop loop;
+    QTimer::singleShot(m_options.pace, &loop, &QEventLoop::quit);
+    loop.exec();
+}
+
 Step SessionPlayer::take()
 {
+    rest();
     Step step = m_steps[m_position++];
     if (const QString error = fillIn(step, m_values); !error.isEmpty())
         failAt(step, error);

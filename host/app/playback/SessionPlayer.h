@@ -50,6 +50,8 @@ private:
     const Step *next() const { return m_position < m_steps.size() ? &m_steps[m_position] : nullptr; }
     /// The next step with its values filled in; the session has failed when one is missing or wrong.
     Step take();
+    /// What the options want between two lines.
+    void rest();
     bool hasFailed() const { return !m_result.message.isEmpty(); }
     /// Ends the session; only the first message counts.
     void fail(const QString &message);

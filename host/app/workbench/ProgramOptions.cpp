@@ -50,6 +50,16 @@ QString setTimeLimit(ProgramOptions &options, const QString &value)
     return {};
 }
 
+QString setPace(ProgramOptions &options, const QString &value)
+{
+    bool ok = false;
+    const double seconds = value.toDouble(&ok);
+    if (!ok || !(seconds >= 0.0) || seconds > 60.0)
+        return u"--pace takes seconds up to 60, not \"%1\""_s.arg(value);
+    options.pace = std::chrono::milliseconds(qRound64(seconds * 1000.0));
+    return {};
+}
+
 QString setMemoryLimit(ProgramOptions &options, const QString &value)
 {
     using kernel::Session;
@@ -154,6 +164,7 @@ QList<OptionRow> generalRows()
         {"--trust", Value::Needed, {Mode::Window, Mode::Run, Mode::Lisp}, addText<&ProgramOptions::trustedFolders>},
         {"--screenshot-dir", Value::Needed, {Mode::Window, Mode::Run}, setTextOption<&ProgramOptions::pictureFolder>},
         {"--session", Value::Needed, {Mode::Window}, setTextOption<&ProgramOptions::session>},
+        {"--pace", Value::Needed, {Mode::Window}, setPace},
         {"--record", Value::Needed, {Mode::Window}, setTextOption<&ProgramOptions::record>},
         {"--out", Value::Needed, {Mode::Run}, setTextOption<&ProgramOptions::outFolder>},
         {"--audit", Value::Needed, {Mode::Run}, setTextOption<&ProgramOptions::audit>},
@@ -165,6 +176,7 @@ QList<OptionRow> generalRows()
         {"--strict", Value::None, {Mode::Convert}, setFlag<&ProgramOptions::isStrict>},
         {"--binary", Value::None, {Mode::Convert}, setFlag<&ProgramOptions::isBinary>},
         {"--recover", Value::None, {Mode::Window, Mode::Run, Mode::Convert}, setFlag<&ProgramOptions::isRecovering>},
+        {"--restore", Value::None, {Mode::Window}, setFlag<&ProgramOptions::isRestoring>},
         {"--json", Value::None, {Mode::Convert, Mode::Lisp}, setFlag<&ProgramOptions::withJson>},
         {"--check", Value::None, {Mode::Lisp}, setFlag<&ProgramOptions::isCheck>},
         {"--test", Value::None, {Mode::Lisp}, setFlag<&ProgramOptions::isTest>},
@@ -320,8 +332,10 @@ A drawing whose name is that of a command is written with its folder: ./run
 Options of the window:
   --recover             open damaged drawings as far as they are sound; they have no file until they are saved under a
                         name
+  --restore             open what a program that was killed left of changed drawings, without asking
   --trust DIR           run programs of this folder and those below as well; may be given again
   --session FILE        play a recorded session in the window first
+  --pace SECONDS        how long each line of the session waits, so that you can watch it (default 0)
   --record FILE         write what you do down as a session that plays
   --screenshot-dir DIR  write a picture of the window to DIR/window.png and end
   --time-limit SECONDS  the most a session may take (default 120)

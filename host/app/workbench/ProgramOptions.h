@@ -57,6 +57,7 @@ struct ProgramOptions
     bool isForced = false;       ///< Run, Lisp, Convert: files are written whatever other programs do with them
     bool isBinary = false;       ///< Convert: a DXF file is written in the binary form
     bool isRecovering = false;   ///< Window, Run, Convert: drawings are opened as far as they are sound
+    bool isRestoring = false;    ///< Window: what a killed program left of drawings is opened without a question
     bool withJson = false;       ///< Convert; Lisp that is checked
     bool isCheck = false;        ///< Lisp: the files are read, not run
     bool isTest = false;         ///< Lisp: the tests that the files define are run
@@ -76,8 +77,9 @@ struct ProgramOptions
     QStringList readableFolders;
     /// Of each session; of a Lisp run or a conversion as a whole. Nothing: the usual one of a session, none of others.
     std::optional<std::chrono::milliseconds> timeLimit;
-    std::optional<int> memoryLimit; ///< of Lisp, in MB; Run, Lisp, Window
-    QString error;                  ///< why the arguments make no sense; empty when they do
+    std::chrono::milliseconds pace{0}; ///< Window: how long each line of a session waits
+    std::optional<int> memoryLimit;    ///< of Lisp, in MB; Run, Lisp, Window
+    QString error;                     ///< why the arguments make no sense; empty when they do
 
     /// Nobody sits in front of it.
     bool isUnattended() const { return mode != Mode::Window || !pictureFolder.isEmpty(); }

@@ -53,6 +53,11 @@ QString findToolsFolder(const QString &given)
     return firstOf(given, "ORTAKIT_TOOLS", {u"../share/ortakit/tools"_s});
 }
 
+QString findSamplesFolder()
+{
+    return firstOf({}, "ORTAKIT_SAMPLES", {u"../share/ortakit/samples"_s, u"../../../samples"_s});
+}
+
 Workbench::Workbench(const WorkbenchOptions &options, QWidget *mainWindow)
     : m_tools(readTools(findToolsFolder(options.tools))), m_session(sessionOptions(options, m_tools))
 {

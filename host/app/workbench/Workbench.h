@@ -54,5 +54,7 @@ private:
 /// one is taken whether or not it exists.
 QString findModuleFile(const QString &given);
 QString findToolsFolder(const QString &given);
+/// The folder of the samples, of the installation or the source tree; empty where there is none.
+QString findSamplesFolder();
 
 } // namespace host::app
