@@ -47,6 +47,7 @@ int playInWindow(MainWindow &window, const ProgramOptions &options)
     playback.pictureFolder = options.pictureFolder;
     playback.outFolder = options.pictureFolder;
     playback.timeLimit = options.timeLimit.value_or(playback.timeLimit);
+    playback.pace = options.pace;
     const PlaybackResult result = window.play(readPlayback(options.session), playback);
     if (result.ok)
         return ExitDone;
@@ -86,8 +87,16 @@ int runWindow(const ProgramOptions &options)
     const QString home = window.workbench().session().home();
     window.setStyleOfWindows(options.style.value_or(Preferences::load(home).style));
     window.show();
+    // A session or recording works in a drawing and meets nothing else.
+    const bool isAttended = !options.isUnattended() && options.session.isEmpty() && options.record.isEmpty();
+    if (options.isRestoring)
+        window.recover(MainWindow::Recovery::OpenAll);
+    else if (isAttended)
+        window.recover(MainWindow::Recovery::Ask);
+    using enum MainWindow::WithoutDrawings;
     window.start(options.drawings,
-                 options.isRecovering ? MainWindow::Opening::Recovering : MainWindow::Opening::AsUsual);
+                 options.isRecovering ? MainWindow::Opening::Recovering : MainWindow::Opening::AsUsual,
+                 isAttended ? StartPage : NewDrawing);
     if (!options.record.isEmpty())
         window.startRecording(options.record);
     if (!options.pictureFolder.isEmpty())

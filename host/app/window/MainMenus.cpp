@@ -27,6 +27,7 @@ void MainWindow::buildMenus()
                    .run = [this](const QString &line) { m_runner->start(line); },
                    .bodies = menuBodies(),
                    .places = {{u"@tools"_s, [this](Menus &menus, QMenu &menu) { addTools(menus, menu); }},
+                              {u"@recent"_s, [this](Menus &, QMenu &menu) { addRecent(menu); }},
                               {u"@panels"_s, [this](Menus &, QMenu &menu) { m_panels->addTo(menu); }}},
                });
     m_menus->find(currentStyle() == Style::Dark ? u"darkStyle"_s : u"lightStyle"_s)->setChecked(true);
@@ -65,6 +66,7 @@ QHash<QString, std::function<void()>> MainWindow::menuBodies()
         {u"zoomWindow"_s, withCanvas([](DrawingCanvas &current) { current.beginZoomWindow(); })},
         {u"zoomIn"_s, withCanvas([](DrawingCanvas &current) { current.zoomBy(1.5); })},
         {u"zoomOut"_s, withCanvas([](DrawingCanvas &current) { current.zoomBy(1.0 / 1.5); })},
+        {u"startPage"_s, [this] { showStartPage(); }},
         {u"console"_s, [this] { toggleConsole(); }},
         {u"blackGround"_s, [this] { setGround(view::Ground::Black); }},
         {u"whiteGround"_s, [this] { setGround(view::Ground::White); }},

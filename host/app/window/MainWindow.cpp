@@ -6,6 +6,8 @@
 #include "host/app/window/entry/CommandLine.h"
 #include "host/app/window/entry/CommandRunner.h"
 #include "host/app/window/entry/LispConsole.h"
+#include "host/app/window/files/RecentFiles.h"
+#include "host/app/window/files/StartPage.h"
 #include "host/app/window/files/TrustQuestion.h"
 #include "host/app/window/frame/DrawingStatus.h"
 #include "host/app/window/frame/DrawingTabs.h"
@@ -18,6 +20,7 @@
 #include "host/app/window/frame/WindowServices.h"
 #include "host/app/window/panels/StyleBar.h"
 #include "host/kernel/documents/ScreenSketch.h"
+#include "host/kernel/files/Autosave.h"
 #include "host/kernel/variables/SystemVariables.h"
 
 #include <QAction>
@@ -85,6 +88,8 @@ MainWindow::MainWindow(const WorkbenchOptions &options)
     connect(&m_reportTimer, &QTimer::timeout, this, &MainWindow::updateReport);
     documents.wishes().setQuestion([this] { return m_files.pathsToOpen(); });
     connect(&documents.wishes(), &kernel::DocumentWishes::quitWanted, this, [this] { m_isCloseWanted = true; });
+    startAutosave();
+    connectRecent();
     loadPreferences();
     tellProblems();
     m_commandLine->setFocus();
@@ -140,14 +145,19 @@ kernel::Document *MainWindow::document() const
     return m_workbench->documents().active();
 }
 
-void MainWindow::start(const QStringList &drawings, Opening opening)
+void MainWindow::start(const QStringList &drawings, Opening opening, WithoutDrawings wish)
 {
+    m_hasStartPage = wish == WithoutDrawings::StartPage;
     if (opening == Opening::AsUsual)
         openAll(drawings);
     else
         for (const QString &path : drawings)
             m_files.recoverFile(path);
-    if (m_tabs->count() == 0)
+    if (m_hasStartPage && m_reopensDrawings && m_tabs->count() == 0)
+        openLastTime();
+    if (m_hasStartPage)
+        missDrawings();
+    else if (m_tabs->count() == 0)
         m_workbench->documents().create();
 }
 
@@ -237,6 +247,7 @@ void MainWindow::addTab(kernel::Document *document)
         updateTitle(*document);
         updateState();
     });
+    hideStartPage();
     updateWindowTitle();
     tellProblems();
     if (m_tabs->areMany())
@@ -284,19 +295,39 @@ bool MainWindow::mayClose(int index)
 
 void MainWindow::closeTab(int index)
 {
-    if (mayClose(index))
+    if (m_startPage && m_tabs->widget(index) == m_startPage)
+        hideStartPage();
+    else if (mayClose(index))
         m_workbench->documents().close(&m_tabs->canvas(index)->document());
+}
+
+bool MainWindow::mayCloseAll()
+{
+    if (m_runner->isBusy())
+        return false;
+    QList<kernel::Document *> changed;
+    for (const auto &open : m_workbench->documents().documents())
+        if (open->isModified())
+            changed.append(open.get());
+    if (changed.size() == 1)
+        return mayClose(m_tabs->tabOf(changed.first()));
+    return m_files.askToSave(changed, [this](kernel::Document &asked) { showActive(&asked); }) ==
+           FileActions::Answer::GoOn;
 }
 
 /// All are asked about before the first is closed: who cancels keeps everything open.
 bool MainWindow::closeAllTabs()
 {
-    for (int i = 0; i < m_tabs->count(); ++i)
-        if (!mayClose(i))
-            return false;
+    if (!mayCloseAll())
+        return false;
+    kernel::DocumentManager &documents = m_workbench->documents();
+    m_lastDrawings.clear();
+    for (const auto &open : documents.documents())
+        if (!open->path().isEmpty())
+            m_lastDrawings.append(open->path());
     const DrawingTabs::Many many(*m_tabs);
-    while (m_tabs->count() > 0)
-        if (!m_workbench->documents().close(&m_tabs->canvas(0)->document()))
+    while (documents.documentCount() > 0)
+        if (!documents.close(documents.documents().front().get()))
             return false;
     return true;
 }
@@ -335,6 +366,8 @@ void MainWindow::loadPreferences()
     restoreGeometry(preferences.geometry);
     m_commandLine->setEntries(preferences.entries);
     m_console->setEntries(preferences.forms);
+    m_lastDrawings = preferences.drawings;
+    m_reopensDrawings = preferences.reopensDrawings;
     restoreState(preferences.places);
     setGround(preferences.ground);
 }
@@ -346,7 +379,9 @@ void MainWindow::savePreferences() const
                                   .geometry = saveGeometry(),
                                   .places = saveState(),
                                   .entries = m_commandLine->entries(),
-                                  .forms = m_console->entries()};
+                                  .forms = m_console->entries(),
+                                  .drawings = m_lastDrawings,
+                                  .reopensDrawings = m_reopensDrawings};
     preferences.save(m_workbench->session().home());
 }
 
@@ -376,7 +411,7 @@ void MainWindow::updateTitle(const kernel::Document &document)
 void MainWindow::updateWindowTitle()
 {
     const kernel::Document *active = document();
-    setWindowTitle(active ? u"%1[*] - Ortakit"_s.arg(active->title()) : u"Ortakit"_s);
+    setWindowTitle(active ? u"%1[*] - Ortakit"_s.arg(shownTitle(*active)) : u"Ortakit"_s);
     setWindowModified(active && active->isModified());
 }
 

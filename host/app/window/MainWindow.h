@@ -9,10 +9,16 @@
 #include <QDockWidget>
 #include <QHash>
 #include <QMainWindow>
+#include <QPointer>
 #include <QTimer>
 
 class QMenu;
 class QTabWidget;
+
+namespace host::kernel {
+class Autosave;
+struct RecoveryFile;
+} // namespace host::kernel
 
 namespace host::app {
 
@@ -26,8 +32,10 @@ class LayoutTabs;
 class LispConsole;
 class Menus;
 class Panels;
+class RecentFiles;
 class SessionRecorder;
 class SettingsWindow;
+class StartPage;
 class StatusSwitches;
 class WindowServices;
 
@@ -66,9 +74,24 @@ public:
         AsUsual,
         Recovering
     };
-    /// Opens the drawings in this order, the last one in front, or a new one when none of them could be and none is
+    /// What is there when no drawing is open.
+    enum class WithoutDrawings
+    {
+        NewDrawing, ///< at the start
+        StartPage   ///< then and later; or the drawings of last time, where the user's preferences say so
+    };
+    /// Opens the drawings in this order, the last one in front; `wish` counts when none of them could be and none is
     /// open. What cannot be read is told in a box each; of what another program has open the user says what to do.
-    void start(const QStringList &drawings, Opening opening = Opening::AsUsual);
+    void start(const QStringList &drawings, Opening opening = Opening::AsUsual,
+               WithoutDrawings wish = WithoutDrawings::NewDrawing);
+    /// What becomes of drawings that a program which was killed left.
+    enum class Recovery
+    {
+        Ask,
+        OpenAll
+    };
+    /// Opens what a killed program left of its drawings, as far as the user wants it. To be called before start().
+    void recover(Recovery wish);
     /// Runs a line as if it was entered at the command line: an answer where a prompt waits, else a command, expression
     /// or alias, an empty one repeating the last command. Refused with a line while something runs that asks nothing.
     /// Returns when what it started has ended.
@@ -124,6 +147,8 @@ private:
     /// Whether the user lets the tab's drawing go; it may have been saved for that.
     bool mayClose(int index);
     void closeTab(int index);
+    /// Whether the user lets all drawings go, in one question where several were changed.
+    bool mayCloseAll();
     /// False when the user keeps one of them: then all stay.
     bool closeAllTabs();
 
@@ -155,6 +180,21 @@ private:
     /// Runs in the active drawing what was entered there.
     void evaluate(const QString &text);
 
+    // Drawings of lately and the page that shows them, in RecentDrawings.cpp.
+    void connectRecent();
+    void addRecent(QMenu &menu);
+    void fillRecentMenu(QMenu &menu);
+    void openLastTime();
+    void showStartPage();
+    void connectStartPage(StartPage &page);
+    void hideStartPage();
+    /// Shows it again when no drawing is left.
+    void missDrawings();
+
+    // Copies for after a crash, in Recovery.cpp.
+    void startAutosave();
+    void openCopy(const kernel::RecoveryFile &copy);
+
     // In DroppedFiles.cpp.
     void openDropped(const QStringList &paths);
 
@@ -172,9 +212,15 @@ private:
     std::unique_ptr<WindowServices> m_services;
     std::unique_ptr<Panels> m_panels;
     SettingsWindow *m_settings = nullptr; ///< owned by this
+    std::unique_ptr<RecentFiles> m_recent;
+    QPointer<StartPage> m_startPage; ///< null while it is not shown
+    QStringList m_lastDrawings;      ///< those of last time; when the window closes, those that were open
+    bool m_reopensDrawings = false;
+    bool m_hasStartPage = false; ///< it is shown while no drawing is open
     std::unique_ptr<Menus> m_menus;
     std::unique_ptr<StatusSwitches> m_switches;
     std::unique_ptr<AimTyping> m_typing;
+    std::unique_ptr<kernel::Autosave> m_autosave;
     QTimer m_reportTimer;         ///< the report is made once for changes that come together
     qsizetype m_problemsTold = 0; ///< of those of the workbench, from the first on
     bool m_wasConsoleShown = false;

@@ -1,5 +1,6 @@
 #include "host/app/window/files/FileActions.h"
 
+#include "host/app/window/files/ClosingQuestion.h"
 #include "host/app/workbench/DrawingPicture.h"
 
 #include <QAbstractButton>
@@ -49,6 +50,22 @@ kernel::Document *FileActions::openFile(const QString &path)
 kernel::Document *FileActions::recoverFile(const QString &path)
 {
     const kernel::OpenOutcome outcome = m_workbench.documents().openRecovered(QFileInfo(path).absoluteFilePath());
+    if (!outcome)
+        complain(outcome.error);
+    return outcome.document;
+}
+
+kernel::Document *FileActions::openSample(const QString &path)
+{
+    const kernel::OpenOutcome outcome = m_workbench.documents().createFrom(path);
+    if (!outcome)
+        complain(outcome.error);
+    return outcome.document;
+}
+
+kernel::Document *FileActions::openCopy(const kernel::RecoveryFile &copy)
+{
+    const kernel::OpenOutcome outcome = m_workbench.documents().openCopy(copy);
     if (!outcome)
         complain(outcome.error);
     return outcome.document;
@@ -109,9 +126,13 @@ bool FileActions::save(kernel::Document &document)
 bool FileActions::saveUnder(kernel::Document &document, const QString &path, kernel::Overrule overrule)
 {
     const drawing::SaveResult result = document.saveAs(path, overrule);
-    if (!result)
-        complain(result.error);
-    return bool(result);
+    return result || saveElsewhere(document, result.error);
+}
+
+bool FileActions::saveElsewhere(kernel::Document &document, const QString &problem)
+{
+    const QString text = tr("%1\n\nThe drawing stays open.").arg(problem);
+    return choose(text, {tr("Save &as...")}) == 0 && saveAs(document);
 }
 
 /// The dialog asks about the name as it was typed, which may become that of another file: its own question is off.
@@ -196,6 +217,23 @@ FileActions::Answer FileActions::askToSave(kernel::Document &document)
     if (button == QMessageBox::No)
         return Answer::GoOn;
     return button == QMessageBox::Yes && save(document) ? Answer::GoOn : Answer::Stay;
+}
+
+FileActions::Answer FileActions::askToSave(const QList<kernel::Document *> &changed,
+                                           const std::function<void(kernel::Document &)> &show)
+{
+    if (changed.isEmpty())
+        return Answer::GoOn;
+    ClosingQuestion question(changed, &m_window);
+    const ClosingQuestion::Answer answer = question.ask();
+    if (answer != ClosingQuestion::Answer::Save)
+        return answer == ClosingQuestion::Answer::Discard ? Answer::GoOn : Answer::Stay;
+    bool areSaved = true;
+    for (kernel::Document *document : question.checked()) {
+        show(*document);
+        areSaved = save(*document) && areSaved;
+    }
+    return areSaved ? Answer::GoOn : Answer::Stay;
 }
 
 } // namespace host::app

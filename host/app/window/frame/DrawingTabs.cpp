@@ -8,6 +8,14 @@
 
 namespace host::app {
 
+QString shownTitle(const kernel::Document &document)
+{
+    QString title = document.title();
+    if (document.isRecovered())
+        title = DrawingTabs::tr("%1 (recovered)").arg(title);
+    return document.isReadOnly() ? DrawingTabs::tr("%1 (read only)").arg(title) : title;
+}
+
 DrawingTabs::Many::Many(DrawingTabs &tabs) : m_tabs(tabs)
 {
     ++m_tabs.m_many;
@@ -63,8 +71,7 @@ void DrawingTabs::updateTitle(const kernel::Document &document)
     if (index < 0)
         return;
     // An & in a file name is no mnemonic.
-    const QString title = document.title().replace(u'&', QStringLiteral("&&"));
-    const QString name = document.isReadOnly() ? tr("%1 (read only)").arg(title) : title;
+    const QString name = shownTitle(document).replace(u'&', QStringLiteral("&&"));
     const QString text = document.isModified() ? name + u'*' : name;
     if (tabText(index) != text)
         setTabText(index, text);
@@ -75,7 +82,8 @@ void DrawingTabs::setGround(view::Ground ground)
 {
     m_ground = ground;
     for (int i = 0; i < count(); ++i)
-        canvas(i)->setGround(ground);
+        if (DrawingCanvas *tab = canvas(i))
+            tab->setGround(ground);
 }
 
 } // namespace host::app

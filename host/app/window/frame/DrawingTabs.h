@@ -12,6 +12,9 @@ namespace host::app {
 
 class DrawingCanvas;
 
+/// A document's title with what is particular about it: "plan.dxf (recovered)", "plan.dxf (read only)".
+QString shownTitle(const kernel::Document &document);
+
 /// The window's drawings: a canvas for each open document, and on its tab the document's title, with what says that it
 /// was changed or is open for reading only.
 class DrawingTabs final : public QTabWidget

@@ -16,6 +16,7 @@ constexpr WhenBusy always = WhenBusy::Enabled;
 constexpr MenuRow rows[] = {
     {"&File", "&New", "new", "Ctrl+N", "Standard", "new", "Makes a new drawing"},
     {"&File", "&Open...", "open", "Ctrl+O", "Standard", "open", "Opens drawings"},
+    {"&File", "", "@recent"},
     {"&File", "&Close", "close", "Ctrl+W", "", "", "Closes the drawing in front"},
     {"&File", "-", ""},
     {"&File", "&Save", "save", "Ctrl+S", "Standard", "save", "Saves the drawing"},
@@ -60,6 +61,7 @@ constexpr MenuRow rows[] = {
     {"&View/&Views and planes", "Into the viewport", "_MSPACE"},
     {"&View/&Views and planes", "Onto the sheet", "_PSPACE"},
     {"&View", "-", ""},
+    {"&View", "&Start page", "startPage", "", "", "", "Shows recent drawings, samples and first steps"},
     {"&View", "Lisp &console", "console", "F12", "", "", "Shows a place to try Lisp at", always},
     {"&View", "", "@panels"},
     {"&View/&Toolbars", "", "@toolbars"},

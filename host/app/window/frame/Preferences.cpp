@@ -32,6 +32,8 @@ Preferences Preferences::load(const QString &folder)
     preferences.places = settings.value("places").toByteArray();
     preferences.entries = settings.value("entries").toStringList();
     preferences.forms = settings.value("forms").toStringList();
+    preferences.drawings = settings.value("drawings").toStringList();
+    preferences.reopensDrawings = settings.value("reopensDrawings").toBool();
     return preferences;
 }
 
@@ -45,6 +47,8 @@ void Preferences::save(const QString &folder) const
         settings.setValue("places", places);
         settings.setValue("entries", entries);
         settings.setValue("forms", forms);
+        settings.setValue("drawings", drawings);
+        settings.setValue("reopensDrawings", reopensDrawings);
     });
 }
 

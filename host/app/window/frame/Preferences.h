@@ -4,6 +4,7 @@
 #include "host/view/display/AciColor.h"
 
 #include <QByteArray>
+#include <QStringList>
 
 namespace host::app {
 
@@ -13,10 +14,12 @@ struct Preferences
 {
     Style style = Style::Light; ///< of all windows
     view::Ground ground = view::Ground::Black;
-    QByteArray geometry; ///< of the window; empty: as it comes
-    QByteArray places;   ///< of its panels and bars; empty likewise
-    QStringList entries; ///< of the command line, oldest first
-    QStringList forms;   ///< of the Lisp console, likewise
+    QByteArray geometry;          ///< of the window; empty: as it comes
+    QByteArray places;            ///< of its panels and bars; empty likewise
+    QStringList entries;          ///< of the command line, oldest first
+    QStringList forms;            ///< of the Lisp console, likewise
+    QStringList drawings;         ///< that were open when the window was closed last, by their paths
+    bool reopensDrawings = false; ///< when the program starts without others
 
     /// `folder` is that of the user's data. A file that is no settings file is left alone, and not read.
     static Preferences load(const QString &folder);
