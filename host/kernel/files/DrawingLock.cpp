@@ -50,14 +50,16 @@ QByteArray processSpace()
     return QFile::symLinkTarget(u"/proc/self/ns/pid"_s).section(u'/', -1).toUtf8();
 }
 
-/// When the process started, in ticks since the start of the machine; empty when that cannot be seen.
+/// When the process started, in ticks since the start of the machine; no number when it has ended, empty when that
+/// cannot be seen.
 QByteArray startOf(qint64 process)
 {
     const QByteArray status = systemText(u"/proc/%1/stat"_s.arg(process));
     // The second field is the program's name in parentheses, which may hold anything.
     const QList<QByteArray> fields = status.mid(status.lastIndexOf(')') + 2).split(' ');
     constexpr int startField = 19;
-    return fields.value(startField);
+    // One that has ended stays in the list until whoever started it has looked; it has nothing open any more.
+    return fields.value(0) == "Z" ? QByteArray("ended") : fields.value(startField);
 }
 
 QByteArray userName()
