@@ -92,7 +92,8 @@ TEST_F(NotLosingWork, OffersWhatAKilledProgramLeft)
         EXPECT_EQ(row(dialog, 0)->text(0), u"small.dxf"_s) << "the newest first";
         EXPECT_EQ(row(dialog, 0)->text(3), QDir::toNativeSeparators(drawing));
         EXPECT_EQ(row(dialog, 1)->text(3), u"never saved"_s);
-        EXPECT_TRUE(QTest::qWaitFor([&] { return !row(dialog, 1)->icon(0).isNull(); }, 10'000)) << "its picture";
+        const auto corner = [&] { return row(dialog, 1)->icon(0).pixmap(128, 96).toImage().pixelColor(2, 2); };
+        EXPECT_TRUE(QTest::qWaitFor([&] { return corner().alpha() == 255; }, 10'000)) << "its picture";
         row(dialog, 1)->setCheckState(0, Qt::Unchecked);
         click(dialog, u"recoveryOpen"_s);
     });

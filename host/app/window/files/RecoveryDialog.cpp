@@ -93,7 +93,9 @@ QTreeWidgetItem *RecoveryDialog::addRow(const kernel::RecoveryFile &file)
                                              locale.formattedDataSize(file.size), stateOfOriginal(note)});
     row->setCheckState(drawingColumn, Qt::Checked);
     row->setData(drawingColumn, Qt::UserRole, file.file);
-    row->setSizeHint(drawingColumn, recoveryPictureSize + QSize(8, 8));
+    QPixmap place(recoveryPictureSize); // of the picture that is being made
+    place.fill(Qt::transparent);
+    row->setIcon(drawingColumn, QIcon(place));
     m_pictures.want(file.file);
     return row;
 }
