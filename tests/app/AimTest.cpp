@@ -145,6 +145,12 @@ TEST_F(AimTest, OrthoAndPolarTrackingExcludeEachOther)
             [&] { click(9.0, 6.0); }});
     window->enter(u"(setq p (getpoint '(0 0)))"_s);
     EXPECT_EQ(lisp(u"(equal p '(9 6 0) 0.1)"_s), u"T"_s);
+    inTurn({[&] {
+        button("orthoSwitch").defaultAction()->trigger();
+        key(Qt::Key_Escape);
+    }});
+    window->enter(u"POINT"_s);
+    EXPECT_EQ(value(u"ORTHOMODE"), 1) << "Esc is about the command";
 }
 
 TEST_F(AimTest, KindsOfSnapAreChosenInMenus)
@@ -194,6 +200,7 @@ TEST_F(AimTest, WhatIsEditedHangsAtThePointerAsItWillBe)
         {"scaleByReference", "(command \"SCALE\" \"L\" \"\" '(0 -2) \"R\" 2 pause)", {-6.0, -2.0}, {14.0, 4.0}},
         {"mirror", "(command \"MIRROR\" \"L\" \"\" '(-2 0) pause \"N\")", {-2.0, 8.0}, {-7.0, 0.0}},
         {"stretch", "(command \"STRETCH\" \"C\" '(6 1) '(4 -1) \"\" '(0 0) pause)", {0.0, 8.0}, {3.0, 4.0}},
+        {"grip", "(command \"GRIPEDIT\" \"L\" \"\" '(5 0) \"\" pause)", {-4.0, 8.0}, {-1.5, 4.0}},
         {"insert", "(command \"-INSERT\" \"Bar\" pause 1 1 0)", {-8.0, 6.0}, {-6.0, 8.0}},
         {"insertTurned", "(command \"-INSERT\" \"Bar\" '(0 -2) 1 1 pause)", {0.0, 9.0}, {-2.0, 0.0}},
         {"paste",

@@ -157,6 +157,8 @@ void StatusSwitches::follow(kernel::Document *document)
 
 void StatusSwitches::showState()
 {
+    if (!m_whileBusy.isEmpty() && !m_services.isBusy())
+        setAgain();
     const kernel::Document *document = m_services.document();
     for (int row = 0; row < int(switchRows.size()); ++row) {
         m_actions[row]->setEnabled(document != nullptr);
@@ -185,12 +187,24 @@ void StatusSwitches::toggle(int row, bool on)
 void StatusSwitches::set(kernel::Document &document, const char *variable, int value)
 {
     const QString name = QString::fromLatin1(variable);
-    if (document.variables().integer(name) == value)
+    const int before = document.variables().integer(name);
+    if (before == value)
         return;
-    if (m_services.isBusy())
+    if (m_services.isBusy()) {
+        m_whileBusy[name] = {m_whileBusy.value(name, {before, value}).before, value};
         document.variables().set(name, value);
-    else
+    } else {
         document.runAs(name, [&] { document.variables().set(name, value); });
+    }
+}
+
+void StatusSwitches::setAgain()
+{
+    kernel::Document *document = m_services.document();
+    const QHash<QString, Change> changes = std::exchange(m_whileBusy, {});
+    for (auto change = changes.begin(); document && change != changes.end(); ++change)
+        if (document->variables().integer(change.key()) == change->before && change->before != change->wanted)
+            document->runAs(change.key(), [&] { document->variables().set(change.key(), change->wanted); });
 }
 
 QMenu *StatusSwitches::choices(int row, QToolButton *owner)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QHash>
 #include <QObject>
 #include <QTimer>
 
@@ -21,7 +22,7 @@ class WindowServices;
 /// the menu key, lists what there is to choose of a switch that has more than on and off.
 ///
 /// A switch that is set between commands is an undo step where the drawing keeps it; within a command it is part of
-/// that.
+/// that, but stays when the command is cancelled.
 class StatusSwitches final : public QObject
 {
     Q_OBJECT
@@ -35,6 +36,8 @@ private:
     /// What the person wants; what goes against it is switched off.
     void toggle(int row, bool on);
     void set(kernel::Document &document, const char *variable, int value);
+    /// What a cancelled command took back with all else that it did.
+    void setAgain();
     void follow(kernel::Document *document);
     void showState();
     /// Kinds of object snap, angles of polar tracking; null for a switch with nothing to choose.
@@ -46,6 +49,13 @@ private:
     QList<QAction *> m_actions; ///< in the order of the rows
     QTimer m_soon;              ///< what changes together is shown once
     QMetaObject::Connection m_variables;
+
+    struct Change
+    {
+        int before;
+        int wanted;
+    };
+    QHash<QString, Change> m_whileBusy; ///< by variable
 };
 
 } // namespace host::app
