@@ -3,6 +3,9 @@
 #include "host/kernel/documents/Session.h"
 
 #include <QTemporaryDir>
+#include <QTimer>
+
+#include <functional>
 
 namespace host::app::test {
 
@@ -32,5 +35,22 @@ struct HostFixture : TestFolder
 
 /// Defines (samplebox) in a document.
 void defineSampleBox(kernel::Document &document);
+
+/// What a person does bit by bit, whatever windows open meanwhile.
+struct Hands : QObject
+{
+    explicit Hands(QList<std::function<void()>> acts) : left(std::move(acts)) { goOn(); }
+    void goOn()
+    {
+        QTimer::singleShot(20, this, [this] {
+            if (left.isEmpty())
+                return;
+            const auto act = left.takeFirst();
+            goOn(); // what is done now may open a window and return late
+            act();
+        });
+    }
+    QList<std::function<void()>> left;
+};
 
 } // namespace host::app::test

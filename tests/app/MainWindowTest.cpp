@@ -225,10 +225,11 @@ TEST_F(MainWindowTest, RecordsErrorsAndWhatCannotBePlayed)
     window->stopRecording();
     const QString recorded = QString::fromUtf8(read(u"out.txt"_s));
     EXPECT_EQ(recorded.section(u'\n', 1, 2), u"command NOSUCH\nexpect-error \"Unknown command \\\"NOSUCH\\\".\""_s);
-    EXPECT_EQ(recorded.section(u'\n', 6),
-              u"lisp (setq n (sslength (ssget \"I\")))\nlisp (sssetfirst nil nil)\nlisp (progn (setq k 1) (while T))\n"
-              "# stopped with Esc, which a session cannot do here\n# in %1: command LINE\n# in %1: answer 0,0\n"
-              "# in %1: answer 1,1\n# in %1: enter\n# in %1: lisp (setq m 1)\nlisp (setq k 3)\n"_s.arg(other));
+    EXPECT_EQ(
+        recorded.section(u'\n', 6),
+        u"lisp (setq n (sslength (ssget \"I\")))\nlisp (sssetfirst nil nil)\nlisp (progn (setq k 1) (while T))\n"
+        "# stopped with Esc, which a session cannot do here\n# opened: %1\n# in %1: command LINE\n# in %1: answer 0,0\n"
+        "# in %1: answer 1,1\n# in %1: enter\n# in %1: lisp (setq m 1)\nlisp (setq k 3)\n"_s.arg(other));
     lisp(u"(setq n nil k nil)"_s);
     QString playable = recorded;
     const PlaybackResult played =
@@ -889,23 +890,6 @@ TEST_F(MainWindowTest, WheelKeepsWhatIsUnderThePointer)
     EXPECT_NEAR(onScreen(2.0, 3.0).x(), at.x(), 1e-6);
     EXPECT_NEAR(onScreen(2.0, 3.0).y(), at.y(), 1e-6);
 }
-
-/// What a person does bit by bit, whatever windows open meanwhile.
-struct Hands : QObject
-{
-    explicit Hands(QList<std::function<void()>> acts) : left(std::move(acts)) { goOn(); }
-    void goOn()
-    {
-        QTimer::singleShot(20, this, [this] {
-            if (left.isEmpty())
-                return;
-            const auto act = left.takeFirst();
-            goOn(); // what is done now may open a window and return late
-            act();
-        });
-    }
-    QList<std::function<void()>> left;
-};
 
 QWidget *part(const QString &name)
 {

@@ -94,6 +94,10 @@ QString pickMenu(QMenu &menu, const QString &text)
         QCoreApplication::sendEvent(&menu, &press);
         return {};
     }
+    if (text == u"cancel") {
+        menu.close();
+        return {};
+    }
     return tr("the menu has no entry \"%1\"; it has %2").arg(text, entries.join("; "_L1));
 }
 

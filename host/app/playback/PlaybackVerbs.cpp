@@ -57,6 +57,7 @@ constexpr VerbRow verbRows[] = {
     {"expect-visible", Verb::ExpectVisible, VerbKind::Widget, "wb"},
     {"expect-focus", Verb::ExpectFocus, VerbKind::Widget, "w"},
     {"expect-title", Verb::ExpectTitle, VerbKind::Widget, "t"},
+    {"view", Verb::View, VerbKind::Anywhere, "pp"},
     {"expect-printed", Verb::ExpectPrinted, VerbKind::Anywhere, "t"},
     {"expect-not-printed", Verb::ExpectNotPrinted, VerbKind::Anywhere, "t"},
     {"expect-modified", Verb::ExpectModified, VerbKind::Anywhere, "b"},

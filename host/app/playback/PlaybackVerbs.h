@@ -64,6 +64,7 @@ enum class Verb
     ExpectFocus,
     ExpectTitle,
     // Anywhere
+    View,
     ExpectPrinted,
     ExpectNotPrinted,
     ExpectModified,

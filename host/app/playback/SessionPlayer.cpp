@@ -274,7 +274,24 @@ CheckedState SessionPlayer::checkedState() const
 
 QString SessionPlayer::check(const Step &step, QWidget *window)
 {
+    if (step.verb == Verb::View)
+        return show(step);
     return step.verb == Verb::Screenshot ? screenshot(step, window) : checkState(step, checkedState());
+}
+
+/// The whole box is seen, whatever shape the canvas has.
+QString SessionPlayer::show(const Step &step)
+{
+    const auto &[from, to] = std::pair(step.points[0], step.points[1]);
+    kernel::ViewState view = m_document.view();
+    const double shape = view.pixels.isEmpty() ? 0.0 : double(view.pixels.height()) / view.pixels.width();
+    const double height = std::max(std::abs(to[1] - from[1]), std::abs(to[0] - from[0]) * shape);
+    if (!(height > 0.0) || !std::isfinite(height))
+        return tr("a view needs two corners");
+    view.centre = {(from[0] + to[0]) / 2.0, (from[1] + to[1]) / 2.0};
+    view.height = height;
+    m_document.setView(view);
+    return {};
 }
 
 QString SessionPlayer::screenshot(const Step &step, QWidget *window)

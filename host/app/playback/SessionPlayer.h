@@ -91,6 +91,8 @@ private:
     QString actOn(QWidget &window, Acquaintance acquaintance, const Step &step);
     CheckedState checkedState() const;
     QString check(const Step &step, QWidget *window);
+    /// What the view is told to show.
+    QString show(const Step &step);
     /// Of the window, of the main one, or of the drawing where none is to be seen.
     QString screenshot(const Step &step, QWidget *window);
 

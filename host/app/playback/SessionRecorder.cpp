@@ -63,6 +63,11 @@ SessionRecorder::SessionRecorder(kernel::Session &session, const QString &file)
     const QString path = document() ? document()->path() : QString();
     m_recorded = document();
     m_lines.append(u"drawing "_s + (path.isEmpty() ? u"new"_s : QFileInfo(file).absoluteDir().relativeFilePath(path)));
+    files::replaceFile(m_file, text().toUtf8());
+    connect(&session.documents(), &kernel::DocumentManager::opened, this,
+            [this](kernel::Document *opened) { takeDocument(u"opened"_s, *opened); });
+    connect(&session.documents(), &kernel::DocumentManager::aboutToClose, this,
+            [this](kernel::Document *closing) { takeDocument(u"closed"_s, *closing); });
     connect(&session.input(), &kernel::InputQueue::taken, this, &SessionRecorder::take);
     connect(&session.input(), &kernel::InputQueue::pointShown, this, &SessionRecorder::settlePoint);
 }
@@ -95,7 +100,31 @@ QString SessionRecorder::save()
 void SessionRecorder::add(const QString &line)
 {
     m_hasOpenPoint = false;
-    m_lines.append(placed(line));
+    if (!m_view.isEmpty())
+        append(std::exchange(m_view, {}));
+    append(placed(line));
+}
+
+void SessionRecorder::append(const QString &line)
+{
+    m_lines.append(line);
+    files::appendToFile(m_file, (line + u'\n').toUtf8());
+}
+
+void SessionRecorder::takeView()
+{
+    const kernel::ViewState &view = document()->view();
+    const double width = view.unitsPerPixel() * view.pixels.width();
+    const auto corner = [&](double side) {
+        return pointWord({view.centre.x + side * width / 2.0, view.centre.y + side * view.height / 2.0, 0.0});
+    };
+    m_view = placed(u"view %1 %2"_s.arg(corner(-1.0), corner(1.0)));
+}
+
+void SessionRecorder::takeDocument(const QString &what, const kernel::Document &document)
+{
+    m_view.clear();
+    append(u"# %1: %2"_s.arg(what, document.title()));
 }
 
 QString SessionRecorder::placed(const QString &line) const
@@ -198,8 +227,11 @@ QString SessionRecorder::lineForPoint(const kernel::PromptRequest &request, cons
 
 void SessionRecorder::settlePoint(const drawing::Vec3 &world)
 {
-    if (std::exchange(m_hasOpenPoint, false))
-        m_lines.last() = placed(u"pick "_s + pointWord(world));
+    const QString line = placed(u"pick "_s + pointWord(world));
+    if (!std::exchange(m_hasOpenPoint, false) || m_lines.last() == line)
+        return;
+    m_lines.last() = line;
+    save();
 }
 
 } // namespace host::app

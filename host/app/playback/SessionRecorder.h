@@ -21,20 +21,22 @@ namespace host::app {
 /// prompts, points as they came to be after snaps, entities by their handles, and what is done in dialogs that a run
 /// opens. What sessions cannot say becomes a comment: whatever is done in another drawing than the one that was in
 /// front at the start, presses of the right button that a program waits for, and that a program was stopped which asks
-/// nothing. What scripts and programs answer is no person's and is left out, as are the window's own dialogs.
+/// nothing; and that drawings are opened and closed. What scripts and programs answer is no person's and is left out,
+/// as are the window's own dialogs.
 class SessionRecorder final : public QObject
 {
     Q_OBJECT
 
 public:
-    /// From now on. The file is written when a run ends, and by the destructor; `session` must outlive the recorder.
+    /// From now on. Each line is written when it is known, so that what a crash leaves plays up to there; `session`
+    /// must outlive the recorder.
     SessionRecorder(kernel::Session &session, const QString &file);
     ~SessionRecorder() override;
 
     const QString &file() const { return m_file; }
     /// What was recorded so far, a line each.
     QString text() const;
-    /// Writes the file; why it could not be written, empty when it was.
+    /// Writes the whole file once more; why it could not be written, empty when it was.
     QString save();
 
     /// A Lisp text that is about to run without having been typed at a prompt.
@@ -44,6 +46,8 @@ public:
     void takeOutcome(const kernel::RunResult &result);
     /// A line for what the window does by itself, without a prompt.
     void add(const QString &line);
+    /// What is shown was chosen by hand: a line with the last of it, when something else follows.
+    void takeView();
 
 private:
     void take(const kernel::PromptRequest &request, const kernel::InputAnswer &answer);
@@ -55,6 +59,10 @@ private:
     /// A point shown by hand is known when the prompt made of it what snaps and ORTHOMODE say.
     void settlePoint(const drawing::Vec3 &world);
     bool isRunning() const;
+    /// A line as it is, in the file as well.
+    void append(const QString &line);
+    /// Another drawing was opened or one closed, which sessions are not about.
+    void takeDocument(const QString &what, const kernel::Document &document);
     /// The line, or a comment where it is about another drawing.
     QString placed(const QString &line) const;
     kernel::Document *document() const;
@@ -65,6 +73,7 @@ private:
     QPointer<kernel::Document> m_recorded; ///< which the session plays over
     qsizetype m_runStart = 0;              ///< in m_lines: of the run under way, or the last one
     QString m_lastCommand;
+    QString m_view;              ///< the line of a view that nothing followed yet
     bool m_hasOpenPoint = false; ///< the last line is a point that is not settled
     WidgetRecorder m_widgets;
 };

@@ -14,13 +14,19 @@
 #include <QFileDialog>
 #include <QGroupBox>
 #include <QLineEdit>
+#include <QMenu>
 #include <QMessageBox>
 #include <QMetaEnum>
 #include <QPlainTextEdit>
+#include <QPushButton>
 #include <QSpinBox>
 #include <QTabBar>
 #include <QTabWidget>
 #include <QTextEdit>
+#include <QTimer>
+#include <QToolButton>
+
+#include <memory>
 
 using namespace Qt::StringLiterals;
 
@@ -59,7 +65,14 @@ QString nameOfDialog(const QDialog &dialog)
     return isCommon && !isOwn && !dialog.objectName().isEmpty() ? dialog.objectName() : className;
 }
 
-/// The rows that are chosen, as a session names them.
+/// The row as a session names it: in a tree by its text.
+QString rowName(const QModelIndex &index)
+{
+    const bool isByText = index.parent().isValid() || index.model()->columnCount() == 0;
+    return isByText ? sessionWord(index.siblingAtColumn(0).data().toString()) : u"#%1"_s.arg(index.row());
+}
+
+/// The rows that are chosen.
 QString chosenRows(const QAbstractItemView &view)
 {
     QString rows;
@@ -67,9 +80,7 @@ QString chosenRows(const QAbstractItemView &view)
         const bool isFirst = index.column() == 0 || !view.selectionModel()->isSelected(index.siblingAtColumn(0));
         if (isFirst &&
             (index.column() == 0 || !view.selectionModel()->isSelected(index.siblingAtColumn(index.column() - 1))))
-            rows += u' ' + (index.parent().isValid() || view.model()->columnCount() == 0
-                                ? sessionWord(index.siblingAtColumn(0).data().toString())
-                                : u"#%1"_s.arg(index.row()));
+            rows += u' ' + rowName(index);
     }
     return rows;
 }
@@ -120,6 +131,28 @@ bool isUsed(const QWidget &widget)
     return focus && (focus == &widget || widget.isAncestorOf(focus));
 }
 
+/// What the button itself pops up; null when its click does something else.
+QMenu *menuOf(const QAbstractButton &button)
+{
+    if (const auto *push = qobject_cast<const QPushButton *>(&button))
+        return push->menu();
+    const auto *tool = qobject_cast<const QToolButton *>(&button);
+    return tool && tool->popupMode() == QToolButton::InstantPopup ? tool->menu() : nullptr;
+}
+
+/// The button that pops the menu up by itself; null when there is none.
+QAbstractButton *buttonOf(const QDialog &dialog, const QMenu &menu)
+{
+    const QList<QAbstractButton *> buttons = dialog.findChildren<QAbstractButton *>();
+    const auto found = std::ranges::find_if(buttons, [&](const auto *button) { return menuOf(*button) == &menu; });
+    return found == buttons.end() ? nullptr : *found;
+}
+
+QString captionOf(const QAction &action)
+{
+    return plainCaption(action.text().section(u'\t', 0, 0));
+}
+
 QString buttonName(const QMessageBox &message, QAbstractButton &button)
 {
     const QMessageBox::StandardButton key = message.standardButton(&button);
@@ -143,6 +176,12 @@ bool WidgetRecorder::eventFilter(QObject *object, QEvent *event)
         auto &widget = static_cast<QWidget &>(*object);
         if (widget.isWindow() && widget.isModal() && m_isWanted())
             watch(widget);
+        auto *menu = qobject_cast<QMenu *>(&widget);
+        auto *dialog = qobject_cast<QDialog *>(QApplication::activeModalWidget());
+        if (menu && !qobject_cast<QMenu *>(menu->parentWidget()) && m_watched.contains(QPointer<QWidget>(dialog)))
+            watchMenu(*dialog, *menu);
+    } else if (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::KeyPress) {
+        m_isClicked = false;
     } else if (event->type() == QEvent::MouseButtonDblClick && object->isWidgetType()) {
         auto *view = qobject_cast<QAbstractItemView *>(object->parent());
         auto *dialog = view ? qobject_cast<QDialog *>(view->window()) : nullptr;
@@ -197,6 +236,42 @@ void WidgetRecorder::watchMessage(QMessageBox &message)
             m_add(line + u"close"_s);
         goBackFrom(message);
     });
+}
+
+/// The button of a menu is told with it: a menu that is left again does nothing.
+void WidgetRecorder::watchMenu(QDialog &dialog, QMenu &menu)
+{
+    QAbstractButton *const button = buttonOf(dialog, menu);
+    if (m_isClicked && !button)
+        return watchClickedMenu(dialog, menu);
+    if (m_watched.contains(QPointer<QWidget>(&menu)))
+        return;
+    m_watched.append(&menu);
+    connect(&menu, &QMenu::triggered, this, [this, &dialog, button = QPointer(button)](QAction *action) {
+        if (!button)
+            return m_add(u"# menu %1: those of the right button are not opened again"_s.arg(captionOf(*action)));
+        flush(dialog);
+        m_pressed = &dialog;
+        m_add(u"  click "_s + sessionWord(referenceTo(dialog, *button)));
+        m_add(u"menu "_s + sessionWord(captionOf(*action)));
+    });
+}
+
+/// The click was told that a menu is opened by: something must be told of the menu as well.
+void WidgetRecorder::watchClickedMenu(QDialog &dialog, QMenu &menu)
+{
+    m_isClicked = false;
+    const auto isTold = std::make_shared<bool>(false);
+    const auto tell = [this, dialog = QPointer(&dialog), isTold](const QString &entry) {
+        if (std::exchange(*isTold, true))
+            return;
+        m_pressed = dialog;
+        m_add(u"menu "_s + sessionWord(entry));
+    };
+    connect(&menu, &QMenu::triggered, this, [tell](QAction *action) { tell(captionOf(*action)); });
+    // It is hidden before it says what was chosen.
+    connect(&menu, &QMenu::aboutToHide, this,
+            [this, tell] { QTimer::singleShot(0, this, [tell] { tell(u"cancel"_s); }); });
 }
 
 void WidgetRecorder::watchFiles(QFileDialog &dialog)
@@ -272,33 +347,39 @@ void WidgetRecorder::watchRows(QDialog &dialog, QAbstractItemView &view)
         if (isUsed(view))
             touch(dialog, view);
     });
-    connect(view.model(), &QAbstractItemModel::dataChanged, this,
-            [this, &dialog, &view](const QModelIndex &index, const QModelIndex &, const QList<int> &roles) {
-                if (!isUsed(view) || referenceTo(dialog, view).isEmpty())
-                    return;
-                const QString name = sessionWord(referenceTo(dialog, view));
-                flush(dialog);
-                if (roles.contains(Qt::CheckStateRole))
-                    m_add(u"  check-row %1 #%2 %3"_s.arg(name)
-                              .arg(index.row())
-                              .arg(index.data(Qt::CheckStateRole).toInt() == Qt::Checked ? u"yes"_s : u"no"_s));
-                else if (roles.contains(Qt::EditRole))
-                    m_add(u"  cell %1 %2 %3 %4"_s.arg(name)
-                              .arg(index.row())
-                              .arg(index.column())
-                              .arg(sessionWord(index.data(Qt::EditRole).toString())));
-            });
+    connect(
+        view.model(), &QAbstractItemModel::dataChanged, this,
+        [this, &dialog, &view](const QModelIndex &index, const QModelIndex &, const QList<int> &roles) {
+            if (!isUsed(view) || referenceTo(dialog, view).isEmpty())
+                return;
+            const QString name = sessionWord(referenceTo(dialog, view));
+            flush(dialog);
+            if (roles.contains(Qt::CheckStateRole))
+                m_add(u"  check-row %1 %2 %3"_s.arg(
+                    name, rowName(index), index.data(Qt::CheckStateRole).toInt() == Qt::Checked ? u"yes"_s : u"no"_s));
+            else if (roles.contains(Qt::EditRole) && index.parent().isValid())
+                m_add(u"# in %1 was written what a session has no cell for: %2"_s.arg(
+                    name, sessionWord(index.data(Qt::EditRole).toString())));
+            else if (roles.contains(Qt::EditRole))
+                m_add(u"  cell %1 %2 %3 %4"_s.arg(name)
+                          .arg(index.row())
+                          .arg(index.column())
+                          .arg(sessionWord(index.data(Qt::EditRole).toString())));
+        });
 }
 
 void WidgetRecorder::press(QDialog &dialog, QAbstractButton &button)
 {
     if (button.isCheckable())
         return touch(dialog, button);
+    if (menuOf(button))
+        return;
     const QString reference = referenceTo(dialog, button);
     if (reference.isEmpty())
         return;
     flush(dialog);
     m_pressed = &dialog;
+    m_isClicked = true;
     m_add(u"  click "_s + sessionWord(reference));
 }
 

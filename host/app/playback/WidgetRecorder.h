@@ -12,6 +12,7 @@ class QAbstractButton;
 class QAbstractItemView;
 class QDialog;
 class QFileDialog;
+class QMenu;
 class QMessageBox;
 
 namespace host::app {
@@ -36,6 +37,9 @@ private:
     void watchDialog(QDialog &dialog);
     void watchMessage(QMessageBox &message);
     void watchFiles(QFileDialog &dialog);
+    /// One that pops up in a dialog.
+    void watchMenu(QDialog &dialog, QMenu &menu);
+    void watchClickedMenu(QDialog &dialog, QMenu &menu);
     /// Tells of one that is closed without a button.
     void watchEnd(QDialog &dialog);
     /// A window closed: what was pressed last is in the one behind it, which opened it.
@@ -57,6 +61,7 @@ private:
     std::function<bool()> m_isWanted;
     std::function<void(const QString &)> m_add;
     QList<Touched> m_touched;           ///< in the order of the last touch
+    bool m_isClicked = false;           ///< nothing was done since a button was pressed
     QPointer<QDialog> m_pressed;        ///< in which a button was the last thing
     QList<QPointer<QWidget>> m_watched; ///< connections are made once
 };

@@ -1,5 +1,6 @@
 // What the entries of the menus do that run no line of the command line.
 
+#include "host/app/playback/SessionRecorder.h"
 #include "host/app/window/MainWindow.h"
 #include "host/app/window/canvas/DrawingCanvas.h"
 #include "host/app/window/entry/CommandLine.h"
@@ -49,14 +50,18 @@ QHash<QString, std::function<void()>> MainWindow::menuBodies()
         };
     };
     const auto exporting = [this, withDocument](const QString &extension) {
-        return withDocument([this, extension](kernel::Document &active) { m_files.exportPicture(active, extension); });
+        return withDocument([this, extension](kernel::Document &active) {
+            m_files.exportPicture(active, extension);
+            if (m_recorder)
+                m_recorder->add(u"# exporting pictures is not repeated"_s);
+        });
     };
     return {
         {u"new"_s, [this] { m_workbench->documents().create(); }},
         {u"open"_s, [this] { openAll(m_files.pathsToOpen()); }},
         {u"close"_s, [this] { closeTab(m_tabs->currentIndex()); }},
-        {u"save"_s, withDocument([this](kernel::Document &active) { m_files.save(active); })},
-        {u"saveAs"_s, withDocument([this](kernel::Document &active) { m_files.saveAs(active); })},
+        {u"save"_s, withDocument([this](kernel::Document &active) { recordSaved(m_files.save(active)); })},
+        {u"saveAs"_s, withDocument([this](kernel::Document &active) { recordSaved(m_files.saveAs(active)); })},
         {u"settings"_s, [this] { showSettings(); }},
         {u"exportPng"_s, exporting(u"png"_s)},
         {u"exportSvg"_s, exporting(u"svg"_s)},

@@ -228,6 +228,10 @@ void MainWindow::addTab(kernel::Document *document)
         QTimer::singleShot(0, this, [this, answers] { moveGrips(answers); });
     });
     connect(canvas, &DrawingCanvas::enterPressed, this, [this] { enterFromCanvas({}); });
+    connect(canvas, &DrawingCanvas::viewChosen, this, [this] {
+        if (m_recorder)
+            m_recorder->takeView();
+    });
     connect(canvas, &DrawingCanvas::keyPressed, this, [this](QKeyEvent *event) {
         m_isInCanvas = true;
         if (m_commandLine->takeKey(event))

@@ -122,6 +122,8 @@ private:
     void addTools(Menus &menus, QMenu &menu);
     /// The entry that begins and ends recording.
     void toggleRecording();
+    /// The active drawing was saved by a menu, or was not.
+    void recordSaved(bool wasSaved);
     // In windows of their own.
     void showHelp();
     void showAbout();

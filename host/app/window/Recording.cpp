@@ -1,5 +1,6 @@
 // Sessions that the window records.
 
+#include "host/app/playback/PlaybackLine.h"
 #include "host/app/playback/SessionRecorder.h"
 #include "host/app/window/MainWindow.h"
 #include "host/app/window/entry/CommandLine.h"
@@ -9,6 +10,7 @@
 #include <QAction>
 #include <QDir>
 #include <QFileDialog>
+#include <QFileInfo>
 
 using namespace Qt::StringLiterals;
 
@@ -18,8 +20,6 @@ void MainWindow::startRecording(const QString &file)
 {
     m_recorder = std::make_unique<SessionRecorder>(m_workbench->session(), file);
     connect(m_runner.get(), &CommandRunner::ranTo, m_recorder.get(), &SessionRecorder::takeOutcome);
-    // What a crash leaves is whole up to the last run.
-    connect(m_runner.get(), &CommandRunner::ended, m_recorder.get(), [this] { m_recorder->save(); });
     m_menus->find(u"record"_s)->setText(tr("Stop &recording"));
     m_commandLine->print(tr("\nRecording to %1.\n").arg(QDir::toNativeSeparators(file)));
 }
@@ -34,6 +34,12 @@ void MainWindow::stopRecording()
     m_menus->find(u"record"_s)->setText(tr("&Record session..."));
     m_commandLine->print(reason.isEmpty() ? tr("\nRecorded in %1.\n").arg(file)
                                           : tr("\nThe recording was not written: %1: %2\n").arg(file, reason));
+}
+
+void MainWindow::recordSaved(bool wasSaved)
+{
+    if (m_recorder && wasSaved)
+        m_recorder->add(u"save "_s + sessionWord(QFileInfo(document()->path()).fileName()));
 }
 
 void MainWindow::toggleRecording()

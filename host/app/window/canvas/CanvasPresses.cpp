@@ -151,7 +151,7 @@ void DrawingCanvas::finishBox(QPointF screen)
         seen.add(drawing::Vec3{opposite.x, opposite.y, 0.0});
         view::ViewTransform changed = transform();
         changed.fit(seen, 0.0);
-        setTransform(changed);
+        chooseTransform(changed);
         return;
     }
     const drawing::Vec3 from = kernel::workedPoint(m_document, {box.corner.x, box.corner.y, 0.0});

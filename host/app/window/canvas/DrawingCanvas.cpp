@@ -86,6 +86,12 @@ void DrawingCanvas::setTransform(const view::ViewTransform &transform)
     m_document.setView(view);
 }
 
+void DrawingCanvas::chooseTransform(const view::ViewTransform &transform)
+{
+    setTransform(transform);
+    emit viewChosen();
+}
+
 bool DrawingCanvas::wantsPoint() const
 {
     return m_request && takesPoints(m_request->kind);
@@ -107,18 +113,24 @@ void DrawingCanvas::setGround(view::Ground ground)
     update();
 }
 
-void DrawingCanvas::zoomExtents()
+void DrawingCanvas::showExtents()
 {
     view::ViewTransform changed = transform();
     changed.fit(m_scene.extents(space()));
     setTransform(changed);
 }
 
+void DrawingCanvas::zoomExtents()
+{
+    showExtents();
+    emit viewChosen();
+}
+
 void DrawingCanvas::zoomBy(double factor)
 {
     view::ViewTransform changed = transform();
     changed.zoomAt(QRectF(rect()).center(), factor);
-    setTransform(changed);
+    chooseTransform(changed);
 }
 
 void DrawingCanvas::beginZoomWindow()
@@ -313,7 +325,7 @@ void DrawingCanvas::paintRubberBand(QPainter &painter)
 void DrawingCanvas::showEvent(QShowEvent *)
 {
     if (!std::exchange(m_wasShown, true))
-        zoomExtents();
+        showExtents();
 }
 
 void DrawingCanvas::resizeEvent(QResizeEvent *)
@@ -325,7 +337,7 @@ void DrawingCanvas::wheelEvent(QWheelEvent *event)
 {
     view::ViewTransform changed = transform();
     changed.zoomAt(event->position(), std::pow(wheelStep, event->angleDelta().y() / 120.0));
-    setTransform(changed);
+    chooseTransform(changed);
     event->accept();
 }
 
@@ -356,7 +368,7 @@ void DrawingCanvas::mouseMoveEvent(QMouseEvent *event)
         view::ViewTransform changed = transform();
         changed.pan(event->position() - *m_panFrom);
         m_panFrom = event->position();
-        setTransform(changed);
+        chooseTransform(changed);
     }
     m_document.aim().pointer = world(event->position());
     if (wantsEvents() && m_request->tracksPointer)

@@ -77,6 +77,8 @@ signals:
     void gripsTaken(const std::vector<host::drawing::Vec3> &places);
     /// The right button.
     void enterPressed();
+    /// What is shown was chosen here: by wheel, by dragging, by a box, or by one of the functions above.
+    void viewChosen();
     /// A key that means nothing here; who takes it accepts the event, which lives until the signal returns.
     void keyPressed(QKeyEvent *event);
 
@@ -113,6 +115,9 @@ private:
     /// The document's view for this size: the document keeps it, not the canvas.
     view::ViewTransform transform() const;
     void setTransform(const view::ViewTransform &transform);
+    /// The same, by hand.
+    void chooseTransform(const view::ViewTransform &transform);
+    void showExtents();
     /// Model space or the current sheet, as a number of the scene.
     int space();
     /// What commands work on: that block, or model space through a viewport of the sheet.
