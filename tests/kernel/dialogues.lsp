@@ -195,3 +195,7 @@
   (reverse r))
 (defun lines-of (a) (entmod (append (entget a) '((101 . "Embedded Object") (10 0.0 0.0 0.0) (40 . 1.0) (71 . 1) (1 . "x\\Py")))))
 (defun said-inside () (cdr (assoc 1 (member '(101 . "Embedded Object") (entget (entnext e))))))
+; What grips move
+(defun bent () (entmake '((0 . "LWPOLYLINE") (100 . "AcDbEntity") (100 . "AcDbPolyline") (90 . 2) (70 . 0) (10 0.0 0.0) (42 . 1.0) (10 4.0 0.0))))
+(defun from-below (type) (entmake (list (cons 0 type) '(10 1.0 1.0 0.0) '(40 . 2.0) '(50 . 0.0) (cons 51 pi) '(1 . "AB") '(210 0.0 0.0 -1.0))))
+(defun vertex-3 () (cdr (assoc 10 (entget (entnext (entnext (entnext (entlast))))))))

@@ -6,6 +6,7 @@
 #include "host/app/window/entry/CommandLine.h"
 #include "host/app/window/entry/CommandRunner.h"
 #include "host/app/window/frame/DrawingTabs.h"
+#include "host/app/window/frame/EditKeys.h"
 #include "host/app/window/frame/Menus.h"
 #include "host/app/window/frame/Panels.h"
 #include "platform/kernel/CKvHelp.h"
@@ -31,6 +32,7 @@ void MainWindow::buildMenus()
                               {u"@recent"_s, [this](Menus &, QMenu &menu) { addRecent(menu); }},
                               {u"@panels"_s, [this](Menus &, QMenu &menu) { m_panels->addTo(menu); }}},
                });
+    keepEditKeysTo({m_tabs, m_commandLine}, *m_menus);
     m_menus->find(currentStyle() == Style::Dark ? u"darkStyle"_s : u"lightStyle"_s)->setChecked(true);
 }
 
@@ -67,6 +69,12 @@ QHash<QString, std::function<void()>> MainWindow::menuBodies()
         {u"exportSvg"_s, exporting(u"svg"_s)},
         {u"exportPdf"_s, exporting(u"pdf"_s)},
         {u"quit"_s, [this] { close(); }},
+        {u"eraseChosen"_s, withDocument([this](kernel::Document &active) {
+             if (!active.impliedSelection().empty())
+                 m_runner->start(u"_.ERASE"_s);
+         })},
+        {u"chooseAll"_s, withCanvas([](DrawingCanvas &current) { current.chooseAll(); })},
+        {u"markNext"_s, withCanvas([](DrawingCanvas &current) { current.markNext(); })},
         {u"zoomExtents"_s, withCanvas([](DrawingCanvas &current) { current.zoomExtents(); })},
         {u"zoomWindow"_s, withCanvas([](DrawingCanvas &current) { current.beginZoomWindow(); })},
         {u"zoomIn"_s, withCanvas([](DrawingCanvas &current) { current.zoomBy(1.5); })},

@@ -217,7 +217,7 @@ Dialogue<bool> askGripEdit(CommandContext &context, GripEdit &edit)
         PromptReply reply = co_await context.ask(gripRequest(context, edit));
         if (reply.isEmpty()) {
             edit.mode = (edit.mode + 1) % std::size(gripModes);
-        } else if (reply.isKeyword(u"Base point")) {
+        } else if (reply.isKeyword(u"Base")) {
             reply = co_await context.neededPoint(u"Specify base point: "_s);
             edit.base = reply.point;
         } else if (reply.hasValue() || reply.isKeyword(u"Reference")) {

@@ -20,9 +20,9 @@ struct Grip
 {
     Vec3 point; ///< world coordinates
     GripRole role = GripRole::Vertex;
-    int index = 0;           ///< Shape: which of its type, see moveGrips(); Middle: of the piece
-    Vec3 from{};             ///< Middle: the ends of the piece
-    Vec3 to{};               ///< likewise
+    int index = 0;            ///< Shape: which of its type, see moveGrips(); Middle: of the piece
+    Vec3 from{};              ///< Middle: the ends of the piece
+    Vec3 to{};                ///< likewise
     RecordId part = noRecord; ///< the attribute that moves in place of the reference it belongs to
 };
 
@@ -33,9 +33,9 @@ struct Grip
 std::vector<Grip> gripsOf(const Drawing &drawing, RecordId entity, std::size_t most = 200'000);
 
 /// Moves the grips of an entity that are hot, all by the same way in world coordinates: a hot Whole takes everything
-/// along; circles get the radius and ellipses the axis that reaches to the new place, arcs and round pieces of polylines
-/// run through it, elliptical arcs end in its direction; corners of viewports move their two sides. All else is as
-/// stretchEntity() has it. The picture of a dimension is to be drawn anew; its text stays where a grip puts it.
+/// along; circles get the radius and ellipses the axis that reaches to the new place, arcs and round pieces of
+/// polylines run through it, elliptical arcs end in its direction; corners of viewports move their two sides. All else
+/// is as stretchEntity() has it. The picture of a dimension is to be drawn anew; its text stays where a grip puts it.
 StretchOutcome moveGrips(Drawing &drawing, RecordId entity, const IsCaught &isHot, const Vec3 &by);
 
 } // namespace host::drawing

@@ -40,7 +40,7 @@ double bulgeThrough(Vec2 from, Vec2 through, Vec2 to)
     const Vec2 back = from - through;
     const Vec2 on = to - through;
     const double turn = std::atan2(cross(back, on), dot(back, on));
-    if (turn == 0.0 || std::abs(cross(back, on)) < 1e-12 * back.length() * on.length())
+    if (turn == 0.0 || std::abs(cross(back, on)) < 1e-8 * back.length() * on.length())
         return 0.0;
     // The angle over the chord is half of the rest of the circle.
     const double half = std::numbers::pi - std::abs(turn);
@@ -168,7 +168,8 @@ StretchOutcome moveCorner(const GripMove &move)
 {
     const Vec3 corner = move.grip.point;
     const auto isBeside = [&](double Vec3::*axis, double value) {
-        return [axis, value](const Vec3 &point) { return std::abs(point.*axis - value) < 1e-9 * (1.0 + std::abs(value)); };
+        return
+            [axis, value](const Vec3 &point) { return std::abs(point.*axis - value) < 1e-9 * (1.0 + std::abs(value)); };
     };
     const StretchOutcome across =
         stretchEntity(move.drawing, move.entity, isBeside(&Vec3::x, corner.x), {move.by.x, 0.0, 0.0});
@@ -209,9 +210,9 @@ struct ReshapeRow
 };
 
 constexpr ReshapeRow reshapeRows[] = {
-    {"ARC", reshapeArc},      {"CIRCLE", reshapeCircle}, {"ELLIPSE", reshapeEllipse},
-    {"INSERT", movePart},     {"LWPOLYLINE", bendLight}, {"MULTILEADER", moveMultiLeaderPoint},
-    {"POLYLINE", bendOld},    {"RAY", turnEndless},      {"VIEWPORT", moveCorner},
+    {"ARC", reshapeArc},    {"CIRCLE", reshapeCircle}, {"ELLIPSE", reshapeEllipse},
+    {"INSERT", movePart},   {"LWPOLYLINE", bendLight}, {"MULTILEADER", moveMultiLeaderPoint},
+    {"POLYLINE", bendOld},  {"RAY", turnEndless},      {"VIEWPORT", moveCorner},
     {"XLINE", turnEndless},
 };
 

@@ -1,6 +1,3 @@
-(defun bent () (entmake '((0 . "LWPOLYLINE") (100 . "AcDbEntity") (100 . "AcDbPolyline") (90 . 2) (70 . 0) (10 0.0 0.0) (42 . 1.0) (10 4.0 0.0))))
-(defun from-below (type) (entmake (list (cons 0 type) '(10 1.0 1.0 0.0) '(40 . 2.0) '(50 . 0.0) (cons 51 pi) '(1 . "AB") '(210 0.0 0.0 -1.0))))
-(defun vertex-3 () (cdr (assoc 10 (entget (entnext (entnext (entnext (entlast))))))))
 ; What a grip does, by the type of its entity. The last place shown is the one that the others go along with
 (line 0 0 4 0) ;! GRIPEDIT|L||4,0||4,3 ;= LINE 10=0,0,0 11=4,3,0
 (line 0 0 4 0) ;! GRIPEDIT|L||2,0||2,3 ;= LINE 10=0,3,0 11=4,3,0

@@ -23,7 +23,7 @@ int DrawingCanvas::workedSpace()
 
 drawing::RecordId DrawingCanvas::entityAt(QPointF screen)
 {
-    if (const drawing::RecordId marked = m_hover.chosenAt(screen); drawing::isValid(marked))
+    if (const drawing::RecordId marked = m_hover.chosenAt(screen); m_document.drawing().isAlive(marked))
         return marked;
     const double reach = transform().toWorldLength(pickReach());
     return view::pickAt(m_scene, workedSpace(), world(screen).xy(), kernel::workedLength(m_document, reach));
@@ -122,12 +122,13 @@ void DrawingCanvas::chooseAll()
 void DrawingCanvas::choose(const std::vector<drawing::RecordId> &entities, Choice choice)
 {
     std::vector<drawing::RecordId> chosen = m_document.impliedSelection();
-    for (const drawing::RecordId entity : entities) {
-        const auto place = std::find(chosen.begin(), chosen.end(), entity);
-        if (choice == Choice::Add && place == chosen.end())
-            chosen.push_back(entity);
-        else if (choice == Choice::Drop && place != chosen.end())
-            chosen.erase(place);
+    view::RecordSet known(entities.begin(), entities.end());
+    if (choice == Choice::Drop) {
+        std::erase_if(chosen, [&known](drawing::RecordId id) { return known.contains(id); });
+    } else {
+        known = view::RecordSet(chosen.begin(), chosen.end());
+        std::ranges::copy_if(entities, std::back_inserter(chosen),
+                             [&known](drawing::RecordId id) { return known.insert(id).second; });
     }
     m_document.setImpliedSelection(std::move(chosen));
 }

@@ -16,10 +16,10 @@ constexpr std::size_t mostGrips = 200'000;
 /// From the coordinates that commands work with to those that the window shows.
 drawing::Matrix shownFromWorked(const kernel::Document &document)
 {
-    const drawing::Vec3 origin = kernel::workedPoint(document, {});
-    const drawing::Vec3 x = kernel::workedPoint(document, {1.0, 0.0, 0.0}) - origin;
-    const drawing::Vec3 y = kernel::workedPoint(document, {0.0, 1.0, 0.0}) - origin;
-    return drawing::Matrix{x, y, {0.0, 0.0, 1.0}, origin}.inverted();
+    const drawing::Vec3 origin = kernel::shownPoint(document, {});
+    const drawing::Vec3 x = kernel::shownPoint(document, {1.0, 0.0, 0.0}) - origin;
+    const drawing::Vec3 y = kernel::shownPoint(document, {0.0, 1.0, 0.0}) - origin;
+    return {x, y, {0.0, 0.0, 1.0}, origin};
 }
 
 } // namespace
@@ -78,12 +78,16 @@ std::optional<drawing::Vec3> Grips::at(QPointF screen, const view::ViewTransform
 
 void Grips::toggle(const drawing::Vec3 &place)
 {
+    if (std::exchange(m_isTaken, false))
+        m_hot.clear();
     if (std::erase(m_hot, place) == 0)
         m_hot.push_back(place);
 }
 
 std::vector<drawing::Vec3> Grips::take(const drawing::Vec3 &place)
 {
+    if (std::exchange(m_isTaken, true))
+        m_hot.clear();
     std::erase(m_hot, place);
     m_hot.push_back(place);
     return m_hot;

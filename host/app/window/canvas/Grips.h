@@ -53,6 +53,7 @@ private:
     std::optional<Basis> m_basis;
     std::vector<drawing::Grip> m_grips;
     std::vector<drawing::Vec3> m_hot;
+    bool m_isTaken = false;   ///< the hot ones are those of the edit that was begun last
     bool m_isEditing = false; ///< the command runs that was begun by a grip
 };
 

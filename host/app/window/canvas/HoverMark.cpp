@@ -83,9 +83,12 @@ void HoverMark::paint(QPainter &painter, view::Scene &scene, int space, const vi
 {
     if (!isValid(entity()) || !scene.drawing().isAlive(entity()))
         return;
-    const Basis now{entity(),      view.center(),
-                    view.scale(),  view.screenSize(),
-                    ground,        painter.device()->devicePixelRatioF(),
+    const Basis now{entity(),
+                    view.center(),
+                    view.scale(),
+                    view.screenSize(),
+                    ground,
+                    painter.device()->devicePixelRatioF(),
                     scene.drawing().revision()};
     if (m_basis != now) {
         m_basis = now;

@@ -19,7 +19,8 @@ class HoverMark
 {
 public:
     /// Looks what is within reach of a place of the space: pixels, and drawing units about the point. Costs by what is
-    /// there, of which only a part is looked at where that is very much. True when another entity is marked than before.
+    /// there, of which only a part is looked at where that is very much. True when another entity is marked than
+    /// before.
     bool look(view::Scene &scene, int space, QPointF screen, drawing::Vec2 point, double reach);
     /// Marks nothing. True when something was marked.
     bool clear();

@@ -38,7 +38,8 @@ bool isForDrawing(const QKeyEvent &key)
     using enum QKeySequence::StandardKey;
     const auto isOne = [&key](auto... wanted) { return (key.matches(wanted) || ...); };
     const bool isShiftSpace = key.key() == Qt::Key_Space && key.modifiers() == Qt::ShiftModifier;
-    return isShiftSpace || isOne(Undo, Redo, Cut, Copy, Delete, SelectAll) || (key.matches(Paste) && !isTextOnClipboard());
+    return isShiftSpace || isOne(Undo, Redo, Cut, Copy, Delete, SelectAll) ||
+           (key.matches(Paste) && !isTextOnClipboard());
 }
 
 } // namespace
