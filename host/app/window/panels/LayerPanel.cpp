@@ -67,7 +67,7 @@ LayerPanel::LayerPanel(WindowServices &services, QWidget *parent)
     all->addWidget(madeTools());
     all->addWidget(m_table, 1);
     all->addWidget(m_message);
-    constexpr int leastLetters = 44;
+    constexpr int leastLetters = 54;
     setMinimumWidth(fontMetrics().averageCharWidth() * leastLetters);
     connect(&m_services, &WindowServices::stateChanged, this, &LayerPanel::refresh);
     connect(&m_services, &WindowServices::documentChanged, this, [this] {

@@ -50,7 +50,7 @@ PropertiesPanel::PropertiesPanel(WindowServices &services, QWidget *parent)
     all->addWidget(m_type);
     all->addWidget(m_table, 1);
     all->addWidget(m_message);
-    constexpr int leastLetters = 34;
+    constexpr int leastLetters = 42;
     setMinimumWidth(fontMetrics().averageCharWidth() * leastLetters);
     m_more.setInterval(0);
     connect(&m_more, &QTimer::timeout, this, &PropertiesPanel::goOn);
@@ -83,7 +83,7 @@ void PropertiesPanel::buildTable()
     m_table->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     m_table->verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 8);
     m_table->horizontalHeader()->setStretchLastSection(true);
-    m_table->horizontalHeader()->resizeSection(0, fontMetrics().averageCharWidth() * 20);
+    m_table->horizontalHeader()->resizeSection(0, fontMetrics().averageCharWidth() * 17);
     connect(&m_model, &QAbstractItemModel::modelReset, this, [this] {
         m_table->clearSpans();
         for (int row = 0; row < m_model.rowCount(); ++row)
