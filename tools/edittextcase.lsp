@@ -34,18 +34,23 @@
         (if (kora_state_is state (strcat "radiobutton" (itoa number))) (setq style number)))
       style)))
 
-(defun edittextcase:change (texts style / data old new changed locked kept)
-  (setq changed 0 locked 0 kept 0)
+(defun edittextcase:change (texts style / data old new changed same locked kept)
   (foreach text texts
     (setq data (entget text))
-    (cond ((edittextcase:is_locked data) (setq locked (1+ locked)))
-          ((not (kora_can_write data)) (setq kept (1+ kept)))
+    (cond ((edittextcase:is_locked data) (setq locked (cons text locked)))
+          ((not (kora_can_write data)) (setq kept (cons text kept)))
           ((= (setq old (kora_text_content data))
-              (setq new (edittextcase:converted old style (= (kora_field data 0) "MTEXT")))))
-          ((entmod (kora_with_content data new)) (setq changed (1+ changed)))))
-  (if (> kept 0)
-    (kora_alert_message (strcat (kora_number_of kept "attribute") " of several lines left alone.")))
-  (kora_done (strcat (kora_number_of changed "text") " changed.") locked))
+              (setq new (edittextcase:converted old style (= (kora_field data 0) "MTEXT"))))
+           (setq same (cons text same)))
+          ((entmod (kora_with_content data new)) (setq changed (cons text changed)))))
+  (kora_results "EDITTEXTCASE"
+    (list (list "done" "changed" (reverse changed))
+          (list "skipped" "is so already" (reverse same))
+          (list "skipped" "an attribute of several lines" (reverse kept))
+          (list "skipped" "on a locked layer" (reverse locked))))
+  (if kept
+    (kora_alert_message (strcat (kora_number_of (length kept) "attribute") " of several lines left alone.")))
+  (kora_done (strcat (kora_number_of (length changed) "text") " changed.") (length locked)))
 
 ;; An attribute is locked with the layer of its block reference as well.
 (defun edittextcase:is_locked (data / owner)

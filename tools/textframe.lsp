@@ -32,7 +32,7 @@
     (if (kora_field (entget (car framed)) 330)
       (kora_bring_to_front framed)
       (kora_alert_message "A drawing of this version cannot have a filled background.")))
-  (kora_done_with "framed" (length framed) (length free) (length texts)))
+  (kora_done_with "TEXTFRAME" "framed" (reverse framed) free texts))
 
 ;; -> the frames of earlier runs that are to go.
 (defun textframe:ask_old (old / count)

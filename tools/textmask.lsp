@@ -30,7 +30,7 @@
   (if masked
     (mapcar '(lambda (text mask) (kora_join_companion mask text textmask:application))
             (kora_bring_to_front (reverse masked)) (reverse masks)))
-  (kora_done_with "masked" (length masked) (length free) (length texts)))
+  (kora_done_with "TEXTMASK" "masked" (reverse masked) free texts))
 
 ;; -> the entity name of a new mask behind the text, nil when there is nothing to mask or it cannot be made.
 (defun textmask:make (data state / box points margin)

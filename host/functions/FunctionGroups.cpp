@@ -36,6 +36,7 @@ void addNativeFunctions(lisp::Interpreter &interpreter)
     addColourFunctions(interpreter);
     addPropertyFunctions(interpreter);
     addSettingsFunctions(interpreter);
+    addResultFunctions(interpreter);
     addObjectFunctions(interpreter);
 }
 

@@ -36,5 +36,6 @@ void addViewFunctions(lisp::Interpreter &interpreter);
 void addColourFunctions(lisp::Interpreter &interpreter);
 void addPropertyFunctions(lisp::Interpreter &interpreter);
 void addSettingsFunctions(lisp::Interpreter &interpreter);
+void addResultFunctions(lisp::Interpreter &interpreter);
 
 } // namespace host::kernel

@@ -73,9 +73,32 @@
               (strcat " " (itoa locked) (if (= locked 1) " on a locked layer was" " on locked layers were") " left alone.")
               ""))))
 
-;; (kora_done_with verb done free all) says how many texts were, say, "masked", out of those on layers that are not locked
-;; and out of all.
-(defun kora_done_with (verb done free all)
-  (kora_done (strcat (kora_number_of done "text") " " verb "."
-                     (if (< done free) (strcat " " (itoa (- free done)) " could not be " verb ".") ""))
-             (- all free)))
+;; (kora_done_with title verb done free all) says how many texts were, say, "masked", out of those on layers that are not
+;; locked and out of all, and lists them; each is a list of entities in the order of the last one.
+(defun kora_done_with (title verb done free all / count locked failed)
+  (setq count  (length done)
+        failed (kora_left_out done free)
+        locked (kora_left_out free all))
+  (kora_results title
+    (list (list "done" verb done)
+          (list "skipped" (strcat "could not be " verb) failed)
+          (list "skipped" "on a locked layer" locked)))
+  (kora_done (strcat (kora_number_of count "text") " " verb "."
+                     (if failed (strcat " " (itoa (length failed)) " could not be " verb ".") ""))
+             (length locked)))
+
+;; (kora_left_out some all) -> those of all that are not among some, which are in the same order.
+(defun kora_left_out (some all / left)
+  (foreach entity all
+    (if (eq entity (car some)) (setq some (cdr some)) (setq left (cons entity left))))
+  (reverse left))
+
+;; (kora_results title groups) has the host list what was done and what was left alone, where it has such lists; other
+;; hosts do nothing. A group is (state text entities), the state "done" or "skipped".
+(defun kora_results (title groups)
+  (if results-begin
+    (progn
+      (results-begin title)
+      (foreach group groups
+        (foreach entity (caddr group) (results-add entity (car group) (cadr group))))
+      (results-end))))

@@ -5,6 +5,7 @@
 #include "host/app/window/canvas/DrawingCanvas.h"
 #include "host/app/window/entry/CommandLine.h"
 #include "host/app/window/entry/CommandRunner.h"
+#include "host/app/window/entry/WindowDialogs.h"
 #include "host/app/window/frame/DrawingTabs.h"
 #include "host/app/window/frame/EditKeys.h"
 #include "host/app/window/frame/Menus.h"
@@ -68,6 +69,8 @@ QHash<QString, std::function<void()>> MainWindow::menuBodies()
         {u"exportPng"_s, exporting(u"png"_s)},
         {u"exportSvg"_s, exporting(u"svg"_s)},
         {u"exportPdf"_s, exporting(u"pdf"_s)},
+        {u"print"_s, [this] { m_dialogs->open(u"PLOT"_s); }},
+        {u"pageSetup"_s, [this] { m_dialogs->open(u"PAGESETUP"_s); }},
         {u"quit"_s, [this] { close(); }},
         {u"eraseChosen"_s, withDocument([this](kernel::Document &active) {
              if (!active.impliedSelection().empty())

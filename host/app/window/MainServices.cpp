@@ -5,7 +5,11 @@
 #include "host/app/window/canvas/DrawingCanvas.h"
 #include "host/app/window/entry/CommandLine.h"
 #include "host/app/window/entry/CommandRunner.h"
+#include "host/app/window/frame/Panels.h"
 #include "host/app/window/frame/WindowServices.h"
+#include "host/kernel/documents/Results.h"
+
+#include <QDockWidget>
 
 using namespace Qt::StringLiterals;
 
@@ -46,6 +50,11 @@ void MainWindow::buildServices()
             &WindowServices::documentChanged);
     connect(&m_workbench->documents(), &kernel::DocumentManager::opened, m_services.get(),
             [this](kernel::Document *opened) {
+                opened->results().setShown(true);
+                connect(&opened->results(), &kernel::Results::ended, m_services.get(), [this] {
+                    emit m_services->resultsChanged();
+                    m_panels->find(u"resultsPanel")->show();
+                });
                 connect(opened, &kernel::Document::impliedSelectionChanged, m_services.get(), [this, opened] {
                     if (opened == document())
                         emit m_services->selectionChanged();

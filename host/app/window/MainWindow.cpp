@@ -6,6 +6,7 @@
 #include "host/app/window/entry/CommandLine.h"
 #include "host/app/window/entry/CommandRunner.h"
 #include "host/app/window/entry/LispConsole.h"
+#include "host/app/window/entry/WindowDialogs.h"
 #include "host/app/window/files/RecentFiles.h"
 #include "host/app/window/files/StartPage.h"
 #include "host/app/window/files/TrustQuestion.h"
@@ -70,6 +71,8 @@ MainWindow::MainWindow(const WorkbenchOptions &options)
     m_panels = std::make_unique<Panels>(*this, *m_services);
     m_switches = std::make_unique<StatusSwitches>(*this, *m_services);
     m_typing = std::make_unique<AimTyping>(*m_commandLine->input(), [this] { return canvas(); });
+    m_dialogs = std::make_unique<WindowDialogs>(*m_services);
+    m_dialogs->connectLayouts(*m_layouts);
     buildMenus();
     addToolBar(new StyleBar(*m_services, this));
     connectRunner();
@@ -172,14 +175,17 @@ void MainWindow::enter(const QString &text)
 {
     if (m_isInCanvas)
         enterFromCanvas(text);
-    else
+    else if (!m_dialogs->open(text))
         m_runner->enter(text);
 }
 
 /// What runs may close the drawing of the canvas, and must not begin inside one of its events.
 void MainWindow::enterFromCanvas(const QString &text)
 {
-    QTimer::singleShot(0, this, [this, text] { m_runner->enter(text); });
+    QTimer::singleShot(0, this, [this, text] {
+        if (!m_dialogs->open(text))
+            m_runner->enter(text);
+    });
 }
 
 void MainWindow::moveGrips(const std::vector<kernel::InputAnswer> &answers)
@@ -218,6 +224,7 @@ void MainWindow::addTab(kernel::Document *document)
 {
     DrawingCanvas *canvas = m_tabs->add(*document);
     m_typing->watch(*canvas);
+    m_dialogs->connectCanvas(*canvas);
     connect(canvas, &DrawingCanvas::answered, m_runner.get(), &CommandRunner::answer);
     connect(canvas, &DrawingCanvas::gripsTaken, this, [this](const std::vector<drawing::Vec3> &places) {
         std::vector<kernel::InputAnswer> answers;

@@ -37,6 +37,7 @@ class SessionRecorder;
 class SettingsWindow;
 class StartPage;
 class StatusSwitches;
+class WindowDialogs;
 class WindowServices;
 
 /// The window: drawings in tabs, one command line for all, menus and a status bar.
@@ -223,6 +224,7 @@ private:
     std::unique_ptr<StatusSwitches> m_switches;
     std::unique_ptr<AimTyping> m_typing;
     std::unique_ptr<kernel::Autosave> m_autosave;
+    std::unique_ptr<WindowDialogs> m_dialogs;
     QTimer m_reportTimer;         ///< the report is made once for changes that come together
     qsizetype m_problemsTold = 0; ///< of those of the workbench, from the first on
     bool m_wasConsoleShown = false;

@@ -143,6 +143,13 @@ Dialogue<std::optional<Box>> askPlotWindow(CommandContext &context)
     co_return box;
 }
 
+drawing::PlotArea areaNamed(const QString &option)
+{
+    constexpr const char *options[] = {"Display", "Extents", "Limits", "View", "Window", "Layout"};
+    const auto found = std::ranges::find(options, option, [](const char *name) { return QString::fromLatin1(name); });
+    return drawing::PlotArea(found - std::begin(options));
+}
+
 /// The area by its option. Of a layout that is plotted whole it is nothing: its page says it.
 Dialogue<bool> askArea(CommandContext &context, PlotRequest *request)
 {
@@ -152,11 +159,13 @@ Dialogue<bool> askArea(CommandContext &context, PlotRequest *request)
     const PromptReply reply = co_await context.keyword(u"Enter plot area [%1] <%2>: "_s.arg(options, usual), {}, usual);
     const QString area = reply.text.isEmpty() ? usual : reply.text;
     const drawing::Drawing &drawing = context.drawing();
+    request->area = areaNamed(area);
     if (area == u"Window") {
         request->window = co_await askPlotWindow(context);
     } else if (area == u"View") {
         const PromptReply name = co_await context.text(u"Enter view name: "_s);
-        request->window = drawing::namedView(drawing, name.text.trimmed());
+        request->view = name.text.trimmed();
+        request->window = drawing::namedView(drawing, request->view);
         if (!request->window)
             context.fail(u"Cannot find view \"%1\"."_s.arg(name.text.trimmed()));
     } else if (area == u"Extents") {
@@ -233,7 +242,7 @@ QString usualPath(CommandContext &context, const PlotRequest &request)
                                 QString(request.layout.name).replace(unsafe, u"_"_s), request.extension);
 }
 
-Dialogue<bool> askFile(CommandContext &context, PlotRequest *request)
+Dialogue<bool> askFile(CommandContext &context, PlotRequest *request, bool isDetailed)
 {
     const QString usual = usualPath(context, *request);
     const PromptReply reply = co_await context.text(u"Enter file name <%1>: "_s.arg(usual), usual);
@@ -243,8 +252,9 @@ Dialogue<bool> askFile(CommandContext &context, PlotRequest *request)
         typed += u'.' + request->extension;
     request->path = QFileInfo(QDir::current(), typed).absoluteFilePath();
     const bool isKept = co_await isYes(context, u"Save changes to page setup?"_s, false);
-    if (isKept)
-        context.print(u"\nThe page setup stays as it is."_s);
+    const QString problem = isKept && isDetailed ? keepPageSetup(context, *request) : QString();
+    if (!problem.isEmpty())
+        context.print(u'\n' + problem);
     co_return co_await isYes(context, u"Proceed with plot"_s, true);
 }
 
@@ -285,7 +295,7 @@ CommandTask plot(CommandContext &context)
         isSaid = co_await askBriefly(context, &*request);
     if (!isSaid)
         co_return;
-    const bool isWanted = co_await askFile(context, &*request);
+    const bool isWanted = co_await askFile(context, &*request, isDetailed);
     if (!isWanted)
         co_return;
     if (const QString problem = writePlot(context, *request); !problem.isEmpty())
@@ -299,7 +309,7 @@ CommandTask plot(CommandContext &context)
 std::vector<CommandRow> plotCommands()
 {
     return {{"-PLOT", plot, "Plots a layout to a file of PDF, PNG or SVG"},
-            {"PLOT", plot, "As -PLOT; there is no window for it"}};
+            {"PLOT", plot, "Plots a layout to a file; in the window as a dialog with a preview"}};
 }
 
 } // namespace host::kernel

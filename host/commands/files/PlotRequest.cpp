@@ -1,6 +1,7 @@
 #include "host/commands/files/PlotRequest.h"
 
 #include "files/qt/VisibleText.h"
+#include "host/drawing/editing/PageSetupEdit.h"
 #include "host/drawing/references/PlotStyleFile.h"
 #include "host/kernel/documents/Document.h"
 #include "host/kernel/documents/ExpressionSurroundings.h"
@@ -65,6 +66,27 @@ std::optional<double> plotScale(const QString &typed, double unitSize)
     constexpr double largest = 1e9;
     const bool isScale = isPaper && isDrawing && scale >= least && scale <= largest;
     return isScale ? std::optional(scale) : std::nullopt;
+}
+
+QString keepPageSetup(CommandContext &context, const PlotRequest &request)
+{
+    drawing::PageSetup setup = drawing::readPageSetup(context.drawing(), request.layout);
+    if (request.paper) {
+        setup.paper = {request.paper->width(), request.paper->height()};
+        setup.margins = {};
+    }
+    setup.area = request.area.value_or(setup.area);
+    if (setup.area == drawing::PlotArea::Window && request.window)
+        setup.window = *request.window;
+    setup.view = request.view;
+    setup.scale = request.scale ? *request.scale / setup.unitSize : 0.0;
+    setup.isCentred = !request.offset;
+    setup.offset = request.offset.value_or(drawing::Vec2{});
+    setup.hasPlotStyles = request.withStyles;
+    if (!request.styles.isEmpty())
+        setup.styleSheet = request.styles;
+    setup.hasLineweights = request.withLineweights;
+    return drawing::writePageSetup(context.drawing(), request.layout, setup);
 }
 
 QString writePlot(CommandContext &context, const PlotRequest &request)

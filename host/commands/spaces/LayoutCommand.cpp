@@ -116,6 +116,18 @@ Dialogue<bool> makeCurrent(CommandContext &context)
     co_return true;
 }
 
+/// Another place among the sheets, counted from 1; the others keep their order.
+Dialogue<bool> moveOne(CommandContext &context)
+{
+    const auto layout = co_await askForLayout(context, u"Enter layout to move: "_s, offeredSheet(context));
+    if (!layout)
+        co_return false;
+    const PromptReply place = co_await context.integer(u"Enter its place among the layouts: "_s, {}, {}, NoEmptyAnswer);
+    tell(context, drawing::moveLayout(context.drawing(), *layout, place.integer),
+         u"Layout \"%1\" moved."_s.arg(layout->name));
+    co_return true;
+}
+
 Dialogue<bool> saveOne(CommandContext &context)
 {
     const QString question = u"Enter layout to save to template: "_s;
@@ -129,8 +141,8 @@ Dialogue<bool> saveOne(CommandContext &context)
 CommandTask layout(CommandContext &context)
 {
     const PromptReply option =
-        co_await context.keyword(u"Enter layout option [Copy/Delete/New/Template/Rename/SAveas/Set/?]: "_s,
-                                 u"Copy Delete New Template Rename SAveas Set ?"_s, u"Set"_s);
+        co_await context.keyword(u"Enter layout option [Copy/Delete/New/Template/Rename/SAveas/Set/Move/?]: "_s,
+                                 u"Copy Delete New Template Rename SAveas Set Move ?"_s, u"Set"_s);
     if (option.kind == ReplyKind::Cancelled)
         co_return;
     const QString what = option.hasValue() ? option.text : u"Set"_s;
@@ -144,6 +156,8 @@ CommandTask layout(CommandContext &context)
         co_await renameOne(context);
     else if (what == u"Set")
         co_await makeCurrent(context);
+    else if (what == u"Move")
+        co_await moveOne(context);
     else if (what == u"?")
         listLayouts(context);
     else if (what == u"Template")

@@ -211,6 +211,22 @@ QString copyLayout(Drawing &drawing, const LayoutTab &layout, const QString &nam
     return {};
 }
 
+QString moveLayout(Drawing &drawing, const LayoutTab &layout, qint64 place)
+{
+    if (layout.isModel())
+        return u"Model space cannot be moved."_s;
+    if (!isValid(layout.record))
+        return noMoreSheets();
+    std::vector<LayoutTab> sheets = layoutTabs(drawing);
+    std::erase_if(sheets, [&](const LayoutTab &tab) { return tab.isModel() || tab.record == layout.record; });
+    const qint64 last = qint64(sheets.size()) + 1;
+    sheets.insert(sheets.begin() + (std::clamp<qint64>(place, 1, last) - 1), layout);
+    const JournalGroup group(drawing.journal(), {});
+    for (std::size_t i = 0; i < sheets.size(); ++i)
+        setOrder(drawing, sheets[i], qint64(i) + 1);
+    return {};
+}
+
 QString renameLayout(Drawing &drawing, const LayoutTab &layout, const QString &name)
 {
     if (layout.isModel())

@@ -21,6 +21,9 @@ QString copyLayout(Drawing &drawing, const LayoutTab &layout, const QString &nam
 /// Gives a sheet another name.
 QString renameLayout(Drawing &drawing, const LayoutTab &layout, const QString &name);
 
+/// Gives a sheet another place among them, counted from 1; a number beyond either end is that end.
+QString moveLayout(Drawing &drawing, const LayoutTab &layout, qint64 place);
+
 /// Takes a sheet out with all that is on it; one stays. When it is the one in use, its neighbour comes in use, whose
 /// entities are made anew where the format has those of such a sheet: their handles change.
 QString deleteLayout(Drawing &drawing, const LayoutTab &layout);

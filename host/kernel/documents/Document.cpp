@@ -8,6 +8,7 @@
 #include "host/kernel/documents/CurrentSpace.h"
 #include "host/kernel/documents/CurrentView.h"
 #include "host/kernel/documents/ExpressionSurroundings.h"
+#include "host/kernel/documents/Results.h"
 #include "host/kernel/documents/ScreenSketch.h"
 #include "host/kernel/documents/Session.h"
 #include "host/kernel/files/DrawingBackup.h"
@@ -62,8 +63,8 @@ Document::Document(Session &session, std::unique_ptr<drawing::Drawing> drawing, 
       m_userInput(std::make_unique<UserInput>(*this)), m_selectionInput(std::make_unique<SelectionInput>(*this)),
       m_database(std::make_unique<DrawingDatabase>(*this)), m_console(std::make_unique<LispConsole>(*this)),
       m_boxes(std::make_unique<drawing::BoxCache>(*m_drawing)), m_entityMaker(std::make_unique<EntityMaker>(*this)),
-      m_aim(std::make_unique<PointAim>()), m_sketch(std::make_unique<ScreenSketch>()), m_view(viewOf(*m_drawing)),
-      m_shownLayout(currentLayout(*m_drawing))
+      m_aim(std::make_unique<PointAim>()), m_sketch(std::make_unique<ScreenSketch>()),
+      m_results(std::make_unique<Results>()), m_view(viewOf(*m_drawing)), m_shownLayout(currentLayout(*m_drawing))
 {
 }
 

@@ -44,6 +44,7 @@ class EntityMaker;
 class LispConsole;
 class LispEngine;
 struct PointAim;
+class Results;
 class ScreenSketch;
 class SelectionInput;
 class Session;
@@ -239,6 +240,9 @@ public:
     view::EntityExtents &entityExtents();
     /// What a distance alone at a prompt for points counts towards.
     PointAim &aim() { return *m_aim; }
+    /// What the last tool that lists it did and left alone.
+    Results &results() { return *m_results; }
+    const Results &results() const { return *m_results; }
     /// What programs show for the moment; who changes it emits sketchChanged().
     ScreenSketch &sketch() { return *m_sketch; }
     /// A redraw: what was drawn for the moment is gone.
@@ -323,6 +327,7 @@ private:
     std::unique_ptr<EntityMaker> m_entityMaker;
     std::unique_ptr<PointAim> m_aim;
     std::unique_ptr<ScreenSketch> m_sketch;
+    std::unique_ptr<Results> m_results;
     mutable std::unique_ptr<view::TextMeasure> m_textMeasure; ///< made when it is first asked for
     std::unique_ptr<view::EntityExtents> m_entityExtents;     ///< likewise
     std::unique_ptr<view::Scene> m_scene;                     ///< likewise

@@ -23,3 +23,6 @@
 ;! LAYOUT|? ;> Layout: Model	Block name: *Model_Space. ;? (getvar "CTAB") ;= "Model"
 ;! LAYOUT|T|nosuch ;> Cannot find file "nosuch" ;? (tabs) ;= ("Model" "Layout1")
 ;! LAYOUT|SA|Model|x ;> there is no sheet "Model" ;? (tabs) ;= ("Model" "Layout1")
+(plan) ;! LAYOUT|M|Plan|1 ;> Layout "Plan" moved. ;? (list (layoutlist) (page "Plan" 71) (page "Layout1" 71)) ;= (("Plan" "Layout1") 1 2)
+(plan) ;! LAYOUT|M|Layout1|99 ;> moved ;? (layoutlist) ;= ("Plan" "Layout1")
+(plan) ;! LAYOUT|M|Model|2 ;> Model space cannot be moved. ;? (layoutlist) ;= ("Layout1" "Plan")

@@ -16,6 +16,11 @@ drawing::Vec3 DrawingCanvas::world(QPointF screen) const
     return kernel::workedPoint(m_document, {point.x, point.y, 0.0});
 }
 
+QPointF DrawingCanvas::toScreen(const drawing::Vec3 &world) const
+{
+    return transform().toScreen(kernel::shownPoint(m_document, world).xy());
+}
+
 int DrawingCanvas::workedSpace()
 {
     return isValid(kernel::currentViewport(m_document.drawing())) ? view::Scene::modelSpace : space();

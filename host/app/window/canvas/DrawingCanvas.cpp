@@ -4,6 +4,7 @@
 #include "host/app/window/canvas/GridPainter.h"
 #include "host/app/window/canvas/PointerMarks.h"
 #include "host/app/window/canvas/SnapMenu.h"
+#include "host/app/window/canvas/ViewportMoves.h"
 #include "host/drawing/records/HeaderVariables.h"
 #include "host/drawing/records/PageSetup.h"
 #include "host/kernel/documents/CurrentSpace.h"
@@ -335,10 +336,13 @@ void DrawingCanvas::resizeEvent(QResizeEvent *)
 
 void DrawingCanvas::wheelEvent(QWheelEvent *event)
 {
-    view::ViewTransform changed = transform();
-    changed.zoomAt(event->position(), std::pow(wheelStep, event->angleDelta().y() / 120.0));
-    chooseTransform(changed);
+    const double factor = std::pow(wheelStep, event->angleDelta().y() / 120.0);
     event->accept();
+    if (zoomInViewport(m_document, sheetPoint(event->position()), factor))
+        return update();
+    view::ViewTransform changed = transform();
+    changed.zoomAt(event->position(), factor);
+    chooseTransform(changed);
 }
 
 void DrawingCanvas::mousePressEvent(QMouseEvent *event)
@@ -347,6 +351,7 @@ void DrawingCanvas::mousePressEvent(QMouseEvent *event)
     m_pointer = event->position();
     if (event->button() == Qt::MiddleButton) {
         m_panFrom = event->position();
+        m_isViewportPanned = pansInViewport(m_document, sheetPoint(event->position()));
         setCursor(Qt::ClosedHandCursor);
     } else if (event->button() == Qt::RightButton && wantsEvents()) {
         emit answered(kernel::PointerAnswer{world(event->position()), true});
@@ -364,7 +369,7 @@ void DrawingCanvas::mousePressEvent(QMouseEvent *event)
 void DrawingCanvas::mouseMoveEvent(QMouseEvent *event)
 {
     m_pointer = event->position();
-    if (m_panFrom) {
+    if (m_panFrom && !m_isViewportPanned) {
         view::ViewTransform changed = transform();
         changed.pan(event->position() - *m_panFrom);
         m_panFrom = event->position();
@@ -383,6 +388,9 @@ void DrawingCanvas::mouseMoveEvent(QMouseEvent *event)
 void DrawingCanvas::mouseReleaseEvent(QMouseEvent *event)
 {
     if (event->button() == Qt::MiddleButton) {
+        // One step for the whole way: each of them can be undone.
+        if (m_panFrom && std::exchange(m_isViewportPanned, false))
+            panInViewport(m_document, sheetPoint(*m_panFrom), sheetPoint(event->position()));
         m_panFrom.reset();
         setCursor(Qt::BlankCursor);
     }
@@ -397,6 +405,8 @@ void DrawingCanvas::mouseDoubleClickEvent(QMouseEvent *event)
 {
     if (event->button() == Qt::MiddleButton)
         zoomExtents();
+    else if (event->button() == Qt::LeftButton && !m_request && !m_document.isBusy() && !m_isZoomWindow)
+        abandonBox(), emit doubleClicked(event->position());
     else
         mousePressEvent(event);
 }

@@ -59,6 +59,15 @@ public:
     /// Gives up a box that was begun. False when there was none.
     bool abandonBox();
 
+    // Places on the screen, in pixels, and what commands work on.
+    /// Within reach of the point; invalid when there is none.
+    drawing::RecordId entityAt(QPointF screen);
+    /// On the plane z 0.
+    drawing::Vec3 world(QPointF screen) const;
+    QPointF toScreen(const drawing::Vec3 &world) const;
+    /// The point of the current space itself, whatever a viewport shows there.
+    drawing::Vec2 sheetPoint(QPointF screen) const { return transform().toWorld(screen); }
+
     /// What of the current space can be drawn.
     view::RenderReport report();
     /// Whether what was last painted is to be put right yet, while the hand rests.
@@ -79,6 +88,8 @@ signals:
     void enterPressed();
     /// What is shown was chosen here: by wheel, by dragging, by a box, or by one of the functions above.
     void viewChosen();
+    /// The left button, twice, while no prompt waits; the first press has chosen what is there.
+    void doubleClicked(const QPointF &at);
     /// A key that means nothing here; who takes it accepts the event, which lives until the signal returns.
     void keyPressed(QKeyEvent *event);
 
@@ -148,8 +159,6 @@ private:
     /// The pointer must go this far with the button held for a drag, in pixels.
     static constexpr double dragDistance = 5.0;
     // In CanvasPresses.cpp.
-    /// Within reach of the point; invalid when there is none.
-    drawing::RecordId entityAt(QPointF screen);
     /// The left button: the second corner of a box that was begun, an answer, a choice, or a first corner.
     void press(QPointF screen, Qt::KeyboardModifiers modifiers);
     void pressForPrompt(QPointF screen);
@@ -163,8 +172,6 @@ private:
     void choose(const std::vector<drawing::RecordId> &entities, Choice choice);
     void beginBox(QPointF screen, BoxUse use, Choice choice);
     void finishBox(QPointF screen);
-    /// On the plane z 0.
-    drawing::Vec3 world(QPointF screen) const;
 
     kernel::Document &m_document;
     view::Scene m_scene; ///< follows the drawing
@@ -184,6 +191,7 @@ private:
     std::optional<QPointF> m_cycled;             ///< where one of several was chosen last
     std::vector<drawing::RecordId> m_chosenLast; ///< which one
     std::optional<QPointF> m_gripFrom;           ///< where the button took a grip, until it is let go
+    bool m_isViewportPanned = false;             ///< what a viewport shows follows when it is let go
 
     struct PendingBox
     {

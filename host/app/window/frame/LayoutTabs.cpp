@@ -32,11 +32,17 @@ LayoutTabs::LayoutTabs(QWidget *parent) : QTabBar(parent)
     setUsesScrollButtons(true);
     setElideMode(Qt::ElideNone); // names are cut above: those that do not fit are scrolled to
     setFocusPolicy(Qt::NoFocus);
+    setContextMenuPolicy(Qt::CustomContextMenu);
     setAccessibleName(tr("Layouts"));
     connect(this, &QTabBar::currentChanged, this, [this](int index) {
         if (!m_isShowing && index >= 0 && index < m_names.size())
             emit chosen(m_names[index]);
     });
+}
+
+QString LayoutTabs::nameAt(const QPoint &place) const
+{
+    return m_names.value(tabAt(place));
 }
 
 void LayoutTabs::show(const kernel::Document *document)

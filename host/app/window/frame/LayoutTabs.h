@@ -19,6 +19,8 @@ public:
 
     /// Those of the document as they are now; null: none. Cheap when nothing is other than before.
     void show(const kernel::Document *document);
+    /// The layout whose tab is there; empty for none.
+    QString nameAt(const QPoint &place) const;
 
 signals:
     /// The user chose the layout of this name.

@@ -3,6 +3,7 @@
 #include "host/app/window/frame/WindowServices.h"
 #include "host/app/window/panels/LayerPanel.h"
 #include "host/app/window/panels/PropertiesPanel.h"
+#include "host/app/window/panels/ResultsPanel.h"
 
 #include <QAction>
 #include <QDockWidget>
@@ -28,6 +29,7 @@ std::span<const PanelRow> panelRows()
          makePanel<PropertiesPanel>},
         {"layersPanel", QT_TRANSLATE_NOOP("Panels", "Layers"), "Ctrl+2", Qt::RightDockWidgetArea,
          makePanel<LayerPanel>},
+        {"resultsPanel", QT_TRANSLATE_NOOP("Panels", "Results"), "", Qt::RightDockWidgetArea, makePanel<ResultsPanel>},
     };
     return rows;
 }

@@ -42,6 +42,8 @@ signals:
     /// What parts show may be other now: something ran, was undone, or began to run. Comes once for what comes together
     /// with it; whoever needs long for an answer compares Drawing::revision() first.
     void stateChanged();
+    /// A tool has listed what it did in a document.
+    void resultsChanged();
     /// Other entities are chosen in the active document.
     void selectionChanged();
 };
