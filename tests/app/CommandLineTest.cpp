@@ -1,11 +1,13 @@
 #include "host/app/window/entry/CommandLine.h"
 
 #include "host/app/window/entry/PromptText.h"
+#include "host/app/window/entry/SuggestionList.h"
 #include "tests/support/QtTestPrinters.h"
 
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPlainTextEdit>
 
 #include <gtest/gtest.h>
 
@@ -74,13 +76,103 @@ TEST_F(CommandLineTest, UpAndDownGoThroughWhatWasEntered)
         key(Qt::Key_Return);
     }
     EXPECT_EQ(entered.size(), 4);
-    line.input()->setText(u"draft"_s);
     QStringList seen;
     for (const int code : {Qt::Key_Up, Qt::Key_Up, Qt::Key_Up, Qt::Key_Down, Qt::Key_Down, Qt::Key_Down}) {
         key(code);
         seen.append(line.input()->text());
     }
-    EXPECT_EQ(seen, QStringList({u"(+ 1 2)"_s, u"LINE"_s, u"LINE"_s, u"(+ 1 2)"_s, u"draft"_s, u"draft"_s}));
+    EXPECT_EQ(seen, QStringList({u"(+ 1 2)"_s, u"LINE"_s, u"LINE"_s, u"(+ 1 2)"_s, QString(), QString()}));
+}
+
+// What is done to a line with the entries LINE, (setq a 1), ZOOM, (setq b 2), and what stands in it then: ^ is Up, v
+// Down, R Ctrl+R, < backspace, ! Esc, T Tab, N a name that is offered, other characters themselves.
+TEST_F(CommandLineTest, FindsAgainWhatWasEntered)
+{
+    const std::tuple<const char *, QString, QString> rows[] = {
+        {"of those that begin alike", u"(^^"_s, u"(setq a 1)"_s},
+        {"case does not matter, and the text stays where there is none", u"line^^"_s, u"LINE"_s},
+        {"back to what was written", u"(^^vv"_s, u"("_s},
+        {"none begins so", u"q^"_s, u"q"_s},
+        {"anywhere in it", u"Rsetq"_s, u"(setq b 2)"_s},
+        {"further back", u"RsetqRR"_s, u"(setq a 1)"_s},
+        {"not found: what was found before stays", u"Rzoomx"_s, u"ZOOM"_s},
+        {"a letter less", u"Rzoomx<<<<line"_s, u"LINE"_s},
+        {"what was written comes back", u"wRline!"_s, u"w"_s},
+        {"the arrow ends seeking and goes on from there", u"Rsetq ^v"_s, u"(setq b 2)"_s},
+    };
+    for (const auto &[name, keys, expected] : rows) {
+        line.setEntries({u"LINE"_s, u"(setq a 1)"_s, u"ZOOM"_s, u"(setq b 2)"_s});
+        line.input()->clear();
+        for (const QChar c : keys) {
+            if (c == u'R') {
+                QKeyEvent event(QEvent::KeyPress, Qt::Key_R, Qt::ControlModifier, u"\x12"_s);
+                QCoreApplication::sendEvent(line.input(), &event);
+                continue;
+            }
+            const QHash<QChar, int> codes = {
+                {u'^', Qt::Key_Up}, {u'v', Qt::Key_Down}, {u'<', Qt::Key_Backspace}, {u'!', Qt::Key_Escape}};
+            codes.contains(c) ? key(codes.value(c)) : type(c);
+        }
+        EXPECT_EQ(line.input()->text(), expected) << name;
+        key(Qt::Key_Return);
+        EXPECT_EQ(entered.takeLast(), expected) << name;
+    }
+    EXPECT_EQ(cancels, 0) << "Esc ended seeking only";
+}
+
+TEST_F(CommandLineTest, NamesAreChosenOrLeftAlone)
+{
+    line.setNames([](const QString &typed) {
+        QList<Suggestion> names;
+        for (const QString &name : {u"CIRCLE"_s, u"CIRKEL\u00dc"_s, u"COPY"_s})
+            if (name.startsWith(typed.sliced(suggestedFrom(typed)), Qt::CaseInsensitive))
+                names.append({name, u"help"_s});
+        return names;
+    });
+    line.setEntries({u"LINE"_s});
+    const std::tuple<QString, QList<int>, QString> rows[] = {
+        {u"c"_s, {}, u"c"_s},
+        {u"c"_s, {Qt::Key_Tab}, u"CIRCLE"_s},
+        {u"_cir"_s, {Qt::Key_Tab, Qt::Key_Down}, u"_CIRKEL\u00dc"_s},
+        {u"c"_s, {Qt::Key_Tab, Qt::Key_Up}, u"COPY"_s},
+        {u"c"_s, {Qt::Key_Backtab}, u"COPY"_s},
+        {u"x"_s, {Qt::Key_Tab}, u"x"_s},
+        {QString(), {Qt::Key_Up}, u"LINE"_s},
+    };
+    for (const auto &[typed, keys, expected] : rows) {
+        type(typed);
+        for (const int code : keys)
+            key(code);
+        key(Qt::Key_Return);
+        EXPECT_EQ(entered.takeLast(), expected);
+        EXPECT_EQ(line.suggestions().topLevelItemCount(), 0) << "Enter takes the list away";
+    }
+    line.setSpace(CommandLine::Space::IsText);
+    type(u"c"_s);
+    EXPECT_EQ(line.suggestions().topLevelItemCount(), 0) << "a text is nobody's name";
+}
+
+TEST_F(CommandLineTest, FindsTextInWhatWasPrinted)
+{
+    line.print(u"first wall\nthen door\nlast wall\n"_s);
+    auto *history = line.findChild<QPlainTextEdit *>(u"commandHistory"_s);
+    auto *finder = line.findChild<QLineEdit *>(u"commandFinder"_s);
+    const auto lineOf = [&] { return history->textCursor().blockNumber(); };
+    QKeyEvent find(QEvent::KeyPress, Qt::Key_F, Qt::ControlModifier, u"\x06"_s);
+    QCoreApplication::sendEvent(history, &find);
+    ASSERT_FALSE(finder->isHidden());
+    finder->setText(u"WALL"_s);
+    emit finder->textEdited(finder->text());
+    EXPECT_EQ(lineOf(), 2);
+    emit finder->returnPressed();
+    EXPECT_EQ(lineOf(), 0);
+    emit finder->returnPressed();
+    EXPECT_EQ(lineOf(), 2) << "it begins again at the end";
+    EXPECT_EQ(history->textCursor().selectedText(), u"wall"_s);
+    QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+    QCoreApplication::sendEvent(finder, &escape);
+    EXPECT_TRUE(finder->isHidden());
+    EXPECT_EQ(cancels, 0);
 }
 
 TEST_F(CommandLineTest, EscEmptiesTheLineAndCancels)

@@ -1,10 +1,15 @@
 #include "host/app/workbench/LispNames.h"
 
+#include "host/app/workbench/Suggestions.h"
 #include "tests/app/AppFixture.h"
 #include "tests/support/QtTestPrinters.h"
 
+#include <QElapsedTimer>
+#include <QFile>
+
 #include <gtest/gtest.h>
 
+using namespace host;
 using namespace host::app;
 using namespace Qt::StringLiterals;
 
@@ -77,6 +82,71 @@ TEST_F(LispNames, HaveHelp)
     EXPECT_TRUE(helpOnName(*document, u"osmode"_s).startsWith(u"system variable OSMODE\n  "_s));
     EXPECT_EQ(helpOnName(*document, u"no-such-thing"_s), QString());
     EXPECT_EQ(helpOnName(*document, QString()), QString());
+}
+
+TEST_F(LispNames, SuggestWhatMayBeMeant)
+{
+    document->run(u"(defun c:m\u00e4uerchen () 1) (defun c:zoomer () 2)"_s);
+    const std::pair<QString, QString> rows[] = {
+        {u"l"_s, u"L LAYCUR LAYDEL"_s}, // the alias itself first
+        {u"_.zoo"_s, u"ZOOM ZOOMER ZOOMFACTOR"_s},
+        {u"ZOOM"_s, u"ZOOM ZOOMER ZOOMFACTOR"_s},
+        {u"osm"_s, u"OSMODE"_s},
+        {u"m\u00c4u"_s, u"M\u00c4UERCHEN"_s},
+        {u"-pl"_s, u"-PLOT"_s},
+        {u"(wall:c"_s, u"wall:corners"_s},
+        {u"!wall:n"_s, u"wall:n"_s},
+        {u"(getvar \"osmo"_s, u"OSMODE"_s},
+        {u"10,20"_s, {}},
+        {u" "_s, {}},
+        {u""_s, {}},
+        {u"two words"_s, {}},
+    };
+    for (const auto &[typed, expected] : rows) {
+        QStringList names;
+        for (const Suggestion &each : suggestionsAt(*document, typed, 3))
+            names.append(each.name);
+        EXPECT_EQ(names.join(u' '), expected) << typed.toStdString();
+    }
+    EXPECT_EQ(suggestionsAt(*document, u"l"_s, 1).first().help, u"LINE: Draws straight segments"_s);
+    EXPECT_TRUE(suggestionsAt(*document, u"osmode"_s, 1).first().help.size() > 3);
+    EXPECT_TRUE(suggestionsAt(*document, u"(ca"_s, 9).first().help.startsWith(u"("_s));
+}
+
+TEST_F(LispNames, SuggestWithThousandsOfAliases)
+{
+    kernel::AliasTable table;
+    for (int i = 0; i < 5000; ++i)
+        table.insert(u"LX%1"_s.arg(i, 4, 10, QChar(u'0')), i == 4711 ? u"NOSUCH"_s : u"CIRCLE"_s);
+    QFile file(path(u"many.xml"_s));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(toAliasFile(table));
+    file.close();
+    const QString used = session.home() + u"/alias.xml"_s;
+    QFile::remove(used);
+    ASSERT_TRUE(QFile::copy(file.fileName(), used));
+    QElapsedTimer timer;
+    timer.start();
+    ASSERT_EQ(suggestionsAt(*document, u"lx"_s, 60).size(), 60) << "read again";
+    timer.restart();
+    for (int i = 0; i < 10; ++i)
+        EXPECT_EQ(suggestionsAt(*document, u"l"_s, 60).size(), 60);
+    EXPECT_LT(timer.elapsed(), 10 * 100) << "quick enough for each key";
+    EXPECT_EQ(suggestionsAt(*document, u"lx4711"_s, 60), QList<Suggestion>({{u"LX4711"_s, u"NOSUCH: "_s}}));
+}
+
+TEST(SuggestedKeywords, AreThoseOfThePromptAndNothingForValues)
+{
+    const QStringList keywords = {u"Arc"_s, u"LType,LT"_s, u"eXit"_s, u"2"_s};
+    const std::pair<QString, QString> rows[] = {{u"a"_s, u"Arc"_s},  {u"_AR"_s, u"Arc"_s}, {u"lt"_s, u"LType"_s},
+                                                {u"e"_s, u"eXit"_s}, {u"x"_s, {}},         {u"2"_s, {}},
+                                                {u"1,2"_s, {}},      {u""_s, {}},          {u"@3<45"_s, {}}};
+    for (const auto &[typed, expected] : rows) {
+        QStringList names;
+        for (const Suggestion &each : suggestedKeywords(keywords, typed))
+            names.append(each.name);
+        EXPECT_EQ(names.join(u' '), expected) << typed.toStdString();
+    }
 }
 
 } // namespace

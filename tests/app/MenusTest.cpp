@@ -1,5 +1,8 @@
 #include "host/app/window/MainWindow.h"
+#include "host/app/window/canvas/DrawingCanvas.h"
 #include "host/app/window/entry/CommandLine.h"
+#include "host/app/window/entry/RightButton.h"
+#include "host/app/window/frame/CommandPalette.h"
 #include "host/app/window/frame/MenuIcons.h"
 #include "host/app/window/frame/MenuTable.h"
 #include "host/kernel/running/CommandTable.h"
@@ -7,7 +10,11 @@
 #include "tests/support/QtTestPrinters.h"
 
 #include <QAction>
-#include <QMenuBar>
+#include <QElapsedTimer>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMouseEvent>
 #include <QTimer>
 #include <QToolBar>
 
@@ -105,6 +112,95 @@ TEST_F(MenusTest, ToolbarsStayHidden)
     open();
     EXPECT_FALSE(window->findChild<QToolBar *>(u"ModifyBar"_s)->isVisible());
     EXPECT_TRUE(window->findChild<QToolBar *>(u"DrawBar"_s)->isVisible());
+}
+
+TEST(FuzzyScore, PutsWhatIsMeantFirst)
+{
+    // Of each row the first text fits better than the second.
+    const std::tuple<QString, QString, QString> rows[] = {
+        {u"line"_s, u"Draw > Line"_s, u"Draw > Polyline"_s},
+        {u"lin"_s, u"Format > Linetype"_s, u"Draw > Polyline"_s},
+        {u"pol"_s, u"Draw > Polyline"_s, u"Draw > Multipoint line"_s},
+        {u"draw arc"_s, u"Draw > Arc"_s, u"Draw > Search"_s},
+        {u"\u00fcb"_s, u"\u00dcBER"_s, u"\u00dcxB"_s},
+        {u"zex"_s, u"View > Zoom extents"_s, u"Erase"_s},
+    };
+    for (const auto &[sought, better, worse] : rows)
+        EXPECT_GT(fuzzyScore(sought, better), fuzzyScore(sought, worse)) << sought.toStdString();
+    EXPECT_EQ(fuzzyScore(u"linez", u"Draw > Line"), -1);
+    EXPECT_EQ(fuzzyScore(u"arc nothing", u"Draw > Arc"), -1);
+}
+
+TEST_F(MenusTest, PaletteFindsRunsAndRemembers)
+{
+    action(u"palette"_s)->trigger();
+    auto *palette = window->findChild<CommandPalette *>(u"palette"_s);
+    auto *field = palette->findChild<QLineEdit *>(u"paletteField"_s);
+    ASSERT_TRUE(palette->isVisible());
+    EXPECT_GT(palette->shownTitles().size(), 800);
+    const auto press = [&](int code) {
+        QKeyEvent event(QEvent::KeyPress, code, Qt::NoModifier);
+        QCoreApplication::sendEvent(field, &event);
+        QCoreApplication::processEvents();
+    };
+    const std::pair<QString, QString> rows[] = {{u"line"_s, u"Draw > Line"_s},
+                                                {u"break up"_s, u"Tools > Lines > Break up"_s},
+                                                {u"DIMARC"_s, u"Dimension > Arc length"_s},
+                                                {u"osmode"_s, u"OSMODE"_s},
+                                                {u"BHATCH"_s, u"BHATCH"_s}};
+    QElapsedTimer timer;
+    timer.start();
+    for (const auto &[sought, expected] : rows) {
+        field->setText(sought);
+        EXPECT_EQ(palette->shownTitles().value(0), expected);
+    }
+    EXPECT_LT(timer.elapsed(), 5 * 100);
+    field->setText(u"break up"_s);
+    press(Qt::Key_Return);
+    EXPECT_FALSE(palette->isVisible());
+    EXPECT_EQ(lisp(u"up"_s), u"T"_s);
+    field->setText(u"redo"_s);
+    press(Qt::Key_Return); // there is nothing to redo
+    EXPECT_EQ(palette->recent(), QStringList(u"BREAKUP"_s));
+    ASSERT_TRUE(window->close());
+    open();
+    action(u"palette"_s)->trigger();
+    palette = window->findChild<CommandPalette *>(u"palette"_s);
+    EXPECT_EQ(palette->shownTitles().value(0), u"Tools > Lines > Break up"_s) << "what was run last comes first";
+}
+
+TEST_F(MenusTest, RightButtonIsEnterOrAMenuAsTheVariableSays)
+{
+    const auto at = [](bool prompt, bool options, bool chosen) {
+        return RightButtonPlace{.isPrompt = prompt, .hasOptions = options, .isChosen = chosen};
+    };
+    const std::tuple<int, RightButtonPlace, bool> rows[] = {
+        {0, at(false, false, false), false}, {1, at(false, false, false), true}, {2, at(false, false, false), false},
+        {2, at(false, false, true), true},   {3, at(true, true, false), false},  {4, at(true, false, false), true},
+        {8, at(true, false, false), false},  {8, at(true, true, false), true},   {16, at(false, false, true), false},
+    };
+    for (const auto &[bits, place, expected] : rows)
+        EXPECT_EQ(wantsShortcutMenu(bits, place), expected) << bits;
+    const auto press = [this](QEvent::Type type) {
+        QMouseEvent event(type, QPointF(50, 50), window->canvas()->mapToGlobal(QPointF(50, 50)), Qt::RightButton,
+                          Qt::RightButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(window->canvas(), &event);
+        QCoreApplication::processEvents();
+    };
+    window->enter(u"BREAKUP"_s);
+    lisp(u"(setq up nil)"_s);
+    press(QEvent::MouseButtonPress);
+    EXPECT_EQ(lisp(u"up"_s), u"nil"_s) << "held so far";
+    press(QEvent::MouseButtonRelease);
+    EXPECT_EQ(lisp(u"up"_s), u"T"_s) << "a click repeats the last command";
+    lisp(u"(setvar \"SHORTCUTMENU\" 11) (setq up nil)"_s);
+    press(QEvent::MouseButtonPress);
+    auto *menu = window->findChild<QMenu *>(u"shortcutMenu"_s);
+    ASSERT_TRUE(menu);
+    EXPECT_EQ(menu->actions().first()->text(), u"Repeat BREAKUP"_s);
+    menu->actions().first()->trigger();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(lisp(u"up"_s), u"T"_s);
 }
 
 } // namespace

@@ -14,10 +14,12 @@
 
 #include <QAction>
 #include <QApplication>
+#include <QFile>
 #include <QHash>
 #include <QMap>
 #include <QMenu>
 #include <QMessageBox>
+#include <QRegularExpression>
 
 using namespace Qt::StringLiterals;
 
@@ -88,6 +90,8 @@ QHash<QString, std::function<void()>> MainWindow::menuBodies()
         {u"whiteGround"_s, [this] { setGround(view::Ground::White); }},
         {u"lightStyle"_s, [this] { setStyleOfWindows(Style::Light); }},
         {u"darkStyle"_s, [this] { setStyleOfWindows(Style::Dark); }},
+        {u"palette"_s, [this] { showPalette(); }},
+        {u"longHistory"_s, [this] { toggleLongHistory(); }},
         {u"record"_s, [this] { toggleRecording(); }},
         {u"help"_s, [this] { showHelp(); }},
         {u"about"_s, [this] { showAbout(); }},
@@ -110,12 +114,26 @@ void MainWindow::addTools(Menus &menus, QMenu &menu)
         menu.addAction(tr("No tools were found"))->setEnabled(false);
 }
 
+/// The page of the tool that runs, by its link in the table of contents; 0, the contents, without one.
+int MainWindow::helpTopic(const QString &folder) const
+{
+    const QString running = document() ? document()->commandNames().section(u'\'', -1).remove(u"C:"_s) : QString();
+    QFile contents(folder + u"/index.html"_s);
+    for (const ToolEntry &entry : m_workbench->tools().entries) {
+        if (entry.command != running || !contents.open(QIODevice::ReadOnly))
+            continue;
+        const QRegularExpression link(u"href=\"(\\d+)\\.html\">%1<"_s.arg(QRegularExpression::escape(entry.caption)));
+        return link.match(QString::fromUtf8(contents.readAll())).captured(1).toInt();
+    }
+    return 0;
+}
+
 void MainWindow::showHelp()
 {
     const QString folder = m_workbench->session().helpFolder();
     CKvHelp *help = GetKvHelp();
     if (help && !folder.isEmpty())
-        help->Help(folder, 0, false, this, 0);
+        help->Help(folder, helpTopic(folder), false, this, 0);
     else
         m_commandLine->print(tr("\nThe help pages were not found.\n"));
 }

@@ -6,10 +6,12 @@
 #include "host/app/window/entry/CommandLine.h"
 #include "host/app/window/entry/CommandRunner.h"
 #include "host/app/window/entry/LispConsole.h"
+#include "host/app/window/entry/RightButton.h"
 #include "host/app/window/entry/WindowDialogs.h"
 #include "host/app/window/files/RecentFiles.h"
 #include "host/app/window/files/StartPage.h"
 #include "host/app/window/files/TrustQuestion.h"
+#include "host/app/window/frame/CommandPalette.h"
 #include "host/app/window/frame/DrawingStatus.h"
 #include "host/app/window/frame/DrawingTabs.h"
 #include "host/app/window/frame/LayoutTabs.h"
@@ -49,7 +51,7 @@ MainWindow::MainWindow(const WorkbenchOptions &options)
       m_tabs(new DrawingTabs(this)), m_layouts(new LayoutTabs(this)), m_commandLine(new CommandLine(this)),
       m_commandDock(new QDockWidget(tr("Command line"), this)),
       m_runner(std::make_unique<CommandRunner>(m_workbench->session(), *m_commandLine)),
-      m_status(std::make_unique<DrawingStatus>(*statusBar()))
+      m_status(std::make_unique<DrawingStatus>(*statusBar())), m_rightButton(new RightButton(this))
 {
     setObjectName(u"mainWindow"_s);
     resize(1280, 800);
@@ -115,7 +117,10 @@ MainWindow::~MainWindow()
 
 void MainWindow::connectRunner()
 {
+    connect(m_rightButton, &RightButton::clicked, this, [this] { enterFromCanvas({}); });
+    connect(m_rightButton, &RightButton::held, this, &MainWindow::showShortcutMenu);
     connect(m_commandLine, &CommandLine::entered, this, &MainWindow::enter);
+    m_commandLine->setNames([this](const QString &typed) { return namesThatFit(typed); });
     connect(m_commandLine, &CommandLine::optionPicked, this,
             [this](const QString &option) { m_runner->answer(kernel::TextAnswer{option}); });
     connect(m_commandLine, &CommandLine::cancelled, this, &MainWindow::cancel);
@@ -234,11 +239,11 @@ void MainWindow::addTab(kernel::Document *document)
         // Not within the canvas's event, as enterFromCanvas().
         QTimer::singleShot(0, this, [this, answers] { moveGrips(answers); });
     });
-    connect(canvas, &DrawingCanvas::enterPressed, this, [this] { enterFromCanvas({}); });
     connect(canvas, &DrawingCanvas::viewChosen, this, [this] {
         if (m_recorder)
             m_recorder->takeView();
     });
+    connect(canvas, &DrawingCanvas::enterPressed, this, &MainWindow::pressRightButton);
     connect(canvas, &DrawingCanvas::keyPressed, this, [this](QKeyEvent *event) {
         m_isInCanvas = true;
         if (m_commandLine->takeKey(event))
@@ -379,6 +384,7 @@ void MainWindow::loadPreferences()
     m_console->setEntries(preferences.forms);
     m_lastDrawings = preferences.drawings;
     m_reopensDrawings = preferences.reopensDrawings;
+    m_recentlyRun = preferences.recent;
     restoreState(preferences.places);
     setGround(preferences.ground);
 }
@@ -392,7 +398,8 @@ void MainWindow::savePreferences() const
                                   .entries = m_commandLine->entries(),
                                   .forms = m_console->entries(),
                                   .drawings = m_lastDrawings,
-                                  .reopensDrawings = m_reopensDrawings};
+                                  .reopensDrawings = m_reopensDrawings,
+                                  .recent = m_palette ? m_palette->recent() : m_recentlyRun};
     preferences.save(m_workbench->session().home());
 }
 

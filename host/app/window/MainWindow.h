@@ -24,6 +24,7 @@ namespace host::app {
 
 class AimTyping;
 class CommandLine;
+class CommandPalette;
 class CommandRunner;
 class DrawingCanvas;
 class DrawingStatus;
@@ -33,11 +34,14 @@ class LispConsole;
 class Menus;
 class Panels;
 class RecentFiles;
+struct PaletteRow;
+class RightButton;
 class SessionRecorder;
 class SettingsWindow;
 class StartPage;
 class StatusSwitches;
 class WindowDialogs;
+struct Suggestion;
 class WindowServices;
 
 /// The window: drawings in tabs, one command line for all, menus and a status bar.
@@ -127,6 +131,7 @@ private:
     void recordSaved(bool wasSaved);
     // In windows of their own.
     void showHelp();
+    int helpTopic(const QString &folder) const;
     void showAbout();
 
     /// What is entered, answered and cancelled goes to the runner, and its prompts to the canvas in front.
@@ -198,6 +203,21 @@ private:
     void startAutosave();
     void openCopy(const kernel::RecoveryFile &copy);
 
+    // Names, palette and long history, in Palette.cpp.
+    /// What may be meant at the command line, or as an answer of the prompt that waits.
+    QList<Suggestion> namesThatFit(const QString &typed);
+    void showPalette();
+    void addLines(QList<PaletteRow> &rows);
+    /// Gives what was printed most of the window, and back.
+    void toggleLongHistory();
+
+    // The right button on the drawing, in ShortcutMenu.cpp.
+    /// Enter or a menu, as SHORTCUTMENU has it.
+    void pressRightButton();
+    void showShortcutMenu();
+    void addPromptEntries(QMenu &menu);
+    void addRestEntries(QMenu &menu);
+
     // In DroppedFiles.cpp.
     void openDropped(const QStringList &paths);
 
@@ -225,8 +245,12 @@ private:
     std::unique_ptr<AimTyping> m_typing;
     std::unique_ptr<kernel::Autosave> m_autosave;
     std::unique_ptr<WindowDialogs> m_dialogs;
-    QTimer m_reportTimer;         ///< the report is made once for changes that come together
-    qsizetype m_problemsTold = 0; ///< of those of the workbench, from the first on
+    RightButton *m_rightButton;
+    CommandPalette *m_palette = nullptr; ///< made when it is first wanted
+    QStringList m_recentlyRun;           ///< from it, as kept
+    int m_shortHistory = 150;            ///< height of the command line's dock before it was made long
+    QTimer m_reportTimer;                ///< the report is made once for changes that come together
+    qsizetype m_problemsTold = 0;        ///< of those of the workbench, from the first on
     bool m_wasConsoleShown = false;
     bool m_isCloseWanted = false; ///< the window was to be closed while something ran
     bool m_isInCanvas = false;    ///< what is entered comes out of an event of a canvas

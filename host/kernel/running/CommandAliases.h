@@ -25,6 +25,8 @@ public:
     /// The command that `alias` (upper case) stands for as of the last refresh(), as it is written in the file; empty
     /// when it is none.
     QString command(const QString &alias) const { return m_table.value(alias); }
+    /// All of them, as of then.
+    const AliasTable &table() const { return m_table; }
 
 private:
     /// What is seen of a file without reading it.

@@ -84,7 +84,7 @@ VariableRows pointingVariables()
             ofUser("SELECTIONPREVIEW", 3, 0, 3),
             ofUser("SELECTIONPREVIEWLIMIT", 2000, 0, 32767),
             ofUser("SELECTOFFSCREEN", 2, 0, 2),
-            ofUser("SHORTCUTMENU", 11, 0, 31),
+            ofUser("SHORTCUTMENU", 27, 0, 31),
             ofUser("SHORTCUTMENUDURATION", 250, 100, 10000),
             ofUser("SNAPGRIDLEGACY", 0, 0, 1),
             ofUser("SUBOBJSELECTIONMODE", 0, 0, 5),

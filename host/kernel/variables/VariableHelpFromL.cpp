@@ -187,7 +187,7 @@ constexpr VariableHelp helpFromLRows[] = {
     {"SHADEDGE", "how faces and edges are shaded"},
     {"SHADEDIF", "how much light is scattered"},
     {"SHADOWPLANELOCATION", "the height that shadows fall on"},
-    {"SHORTCUTMENU", "menus of the right button, as bits"},
+    {"SHORTCUTMENU", "menus of the right button, as bits: at rest, for what is chosen, at prompts, with options, held"},
     {"SHORTCUTMENUDURATION", "how long the right button is held for a menu"},
     {"SHOWHIST", "the history of solids is shown"},
     {"SHOWLAYERUSAGE", "layers without entities are shown so"},

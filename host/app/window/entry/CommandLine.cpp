@@ -1,6 +1,7 @@
 #include "host/app/window/entry/CommandLine.h"
 
 #include "host/app/window/entry/PromptText.h"
+#include "host/app/window/entry/SuggestionList.h"
 
 #include <QClipboard>
 #include <QFontDatabase>
@@ -46,7 +47,11 @@ bool isForDrawing(const QKeyEvent &key)
 
 CommandLine::CommandLine(QWidget *parent)
     : QWidget(parent), m_history(new QPlainTextEdit(this)), m_promptLabel(new QLabel(this)),
-      m_input(new QLineEdit(this))
+      m_input(new QLineEdit(this)), m_finder(new QLineEdit(this)),
+      m_entries(new EntryHistory(
+          {.text = [this] { return m_input->text(); }, .show = [this](const QString &text) { m_input->setText(text); }},
+          entriesKept, this)),
+      m_suggestions(new SuggestionList(m_input))
 {
     const QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
     m_history->setObjectName(u"commandHistory"_s);
@@ -65,6 +70,8 @@ CommandLine::CommandLine(QWidget *parent)
     m_input->setObjectName(u"commandInput"_s);
     m_input->setFont(font);
     m_input->setMinimumWidth(160);
+    m_input->setAccessibleName(tr("Command line"));
+    m_history->setAccessibleName(tr("What was printed"));
     m_input->installEventFilter(this);
 
     auto *line = new QHBoxLayout;
@@ -74,10 +81,15 @@ CommandLine::CommandLine(QWidget *parent)
     layout->setContentsMargins(2, 2, 2, 2);
     layout->setSpacing(2);
     layout->addWidget(m_history, 1);
+    layout->addWidget(m_finder);
     layout->addLayout(line);
+    buildFinder();
 
     connect(m_promptLabel, &QLabel::linkActivated, this,
             [this](const QString &link) { emit optionPicked(linkAnswer(link)); });
+    connect(m_input, &QLineEdit::textEdited, this, &CommandLine::offerNames);
+    connect(m_suggestions, &SuggestionList::clickedName, this, &CommandLine::takeName);
+    connect(m_entries, &EntryHistory::seeking, this, &CommandLine::showSought);
     setFocusProxy(m_input);
     setPrompt(tr("Command:"));
 }
@@ -107,12 +119,6 @@ QString CommandLine::historyText() const
     return m_history->toPlainText();
 }
 
-void CommandLine::setEntries(const QStringList &entries)
-{
-    m_entries = entries;
-    m_recalled = m_entries.size();
-}
-
 bool CommandLine::takeKey(QKeyEvent *event)
 {
     const bool isText = !event->text().isEmpty() && event->text().front().isPrint() &&
@@ -131,16 +137,26 @@ bool CommandLine::takeKey(QKeyEvent *event)
 
 bool CommandLine::eventFilter(QObject *object, QEvent *event)
 {
+    if (object == m_input && (event->type() == QEvent::FocusOut || event->type() == QEvent::Hide))
+        m_suggestions->hide();
     if (event->type() == QEvent::KeyPress || event->type() == QEvent::ShortcutOverride) {
         auto *key = static_cast<QKeyEvent *>(event);
-        if (object == m_input ? filterInputKey(*key) : filterHistoryKey(*key))
+        if (object == m_input    ? filterInputKey(*key)
+            : object == m_finder ? filterFinderKey(*key)
+                                 : filterHistoryKey(*key))
             return true;
     }
     return QWidget::eventFilter(object, event);
 }
 
-bool CommandLine::filterInputKey(const QKeyEvent &key)
+bool CommandLine::filterInputKey(QKeyEvent &key)
 {
+    // Keys that mean something here though a menu has them too.
+    const bool isSeekKey = key.key() == Qt::Key_R && key.modifiers() == Qt::ControlModifier;
+    if (key.type() == QEvent::ShortcutOverride && isSeekKey) {
+        key.accept();
+        return true;
+    }
     if (key.type() == QEvent::ShortcutOverride)
         return m_input->text().isEmpty() && isForDrawing(key);
     return handleKey(key);
@@ -148,6 +164,12 @@ bool CommandLine::filterInputKey(const QKeyEvent &key)
 
 bool CommandLine::filterHistoryKey(QKeyEvent &key)
 {
+    if (key.type() == QEvent::KeyPress && key.matches(QKeySequence::Find)) {
+        m_finder->show();
+        m_finder->setFocus();
+        m_finder->selectAll();
+        return true;
+    }
     // What is typed on the history is meant for the line; moving about and copying is not.
     const bool isMove = key.key() == Qt::Key_Up || key.key() == Qt::Key_Down;
     return key.type() == QEvent::KeyPress && !isMove && takeKey(&key);
@@ -155,6 +177,8 @@ bool CommandLine::filterHistoryKey(QKeyEvent &key)
 
 bool CommandLine::handleKey(const QKeyEvent &event)
 {
+    if (m_entries->takeKey(event))
+        return true;
     switch (event.key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
@@ -162,15 +186,22 @@ bool CommandLine::handleKey(const QKeyEvent &event)
         return true;
     case Qt::Key_Escape:
         m_input->clear();
-        m_recalled = m_entries.size();
+        m_entries->reset();
+        m_suggestions->offer({});
         emit cancelled();
         return true;
     case Qt::Key_Up:
-        recall(-1);
+        if (!m_suggestions->hasChoice() || !chooseName(-1))
+            m_entries->recall(-1);
         return true;
     case Qt::Key_Down:
-        recall(1);
+        if (!chooseName(1))
+            m_entries->recall(1);
         return true;
+    case Qt::Key_Tab:
+        return chooseName(1);
+    case Qt::Key_Backtab:
+        return chooseName(-1);
     case Qt::Key_Space:
         if (!spaceEnters())
             return false;
@@ -194,25 +225,80 @@ void CommandLine::enter()
 {
     const QString text = m_input->text();
     m_input->clear();
-    if (!text.trimmed().isEmpty() && (m_entries.isEmpty() || m_entries.constLast() != text)) {
-        m_entries.append(text);
-        if (m_entries.size() > entriesKept)
-            m_entries.removeFirst();
-    }
-    m_recalled = m_entries.size();
-    m_draft.clear();
+    m_suggestions->offer({});
+    m_entries->add(text);
     emit entered(text);
 }
 
-void CommandLine::recall(int direction)
+// Names that fit
+
+void CommandLine::offerNames()
 {
-    const qsizetype wanted = std::clamp<qsizetype>(m_recalled + direction, 0, m_entries.size());
-    if (wanted == m_recalled)
+    m_typed = m_input->text();
+    const bool isText = m_space == Space::IsText || m_isUnfinished || m_typed.isEmpty();
+    m_suggestions->offer(isText || !m_names ? QList<Suggestion>() : m_names(m_typed));
+}
+
+void CommandLine::takeName(const QString &name)
+{
+    m_input->setText(m_typed.first(suggestedFrom(m_typed)) + name);
+}
+
+bool CommandLine::chooseName(int direction)
+{
+    const QString name = m_suggestions->choose(direction);
+    if (!name.isEmpty())
+        takeName(name);
+    return !name.isEmpty();
+}
+
+// What was entered and printed before
+
+void CommandLine::showSought(const QString &sought, bool isFound)
+{
+    m_suggestions->offer({});
+    if (sought.isNull())
+        return setPrompt(m_prompt);
+    const QString text = isFound ? tr("Search what was entered: %1") : tr("Not found: %1");
+    m_promptLabel->setText(text.arg(sought).toHtmlEscaped());
+}
+
+void CommandLine::showHistory()
+{
+    m_history->setFocus();
+}
+
+void CommandLine::buildFinder()
+{
+    m_finder->setObjectName(u"commandFinder"_s);
+    m_finder->setPlaceholderText(tr("Find"));
+    m_finder->setAccessibleName(tr("Find in what was printed"));
+    m_finder->installEventFilter(this);
+    m_finder->hide();
+    connect(m_finder, &QLineEdit::returnPressed, this, &CommandLine::findText);
+    connect(m_finder, &QLineEdit::textEdited, this, [this] {
+        m_history->moveCursor(QTextCursor::End);
+        findText();
+    });
+}
+
+void CommandLine::findText()
+{
+    if (m_history->find(m_finder->text(), QTextDocument::FindBackward))
         return;
-    if (m_recalled == m_entries.size())
-        m_draft = m_input->text();
-    m_recalled = wanted;
-    m_input->setText(wanted == m_entries.size() ? m_draft : m_entries[wanted]);
+    m_history->moveCursor(QTextCursor::End);
+    m_history->find(m_finder->text(), QTextDocument::FindBackward);
+}
+
+bool CommandLine::filterFinderKey(const QKeyEvent &key)
+{
+    if (key.key() != Qt::Key_Escape)
+        return false;
+    if (key.type() == QEvent::KeyPress) {
+        m_finder->hide();
+        m_history->setFocus();
+    }
+    return true;
 }
 
 } // namespace host::app

@@ -36,6 +36,7 @@ CommandRunner::CommandRunner(kernel::Session &session, CommandLine &commandLine)
 {
     m_session.setFeeder(&m_feeder);
     connect(&m_feeder, &WindowFeeder::requestChanged, this, [this] { showRequest(m_feeder.request()); });
+    connect(&session.input(), &kernel::InputQueue::taken, this, &CommandRunner::rememberCommand);
 }
 
 CommandRunner::~CommandRunner()
@@ -171,6 +172,16 @@ void CommandRunner::startWith(const QString &line, const std::vector<kernel::Inp
             m_session.input().push(answer);
         return kernel::RunResult();
     });
+}
+
+void CommandRunner::rememberCommand(const kernel::PromptRequest &request, const kernel::InputAnswer &answer)
+{
+    const auto *typed = std::get_if<kernel::TextAnswer>(&answer);
+    if (!typed || request.kind != kernel::PromptKind::Command)
+        return;
+    const QString name = typed->text.trimmed();
+    if (!name.isEmpty() && name.front() != u'(' && name.front() != u'!')
+        m_lastCommand = name.toUpper();
 }
 
 void CommandRunner::showRequest(const std::optional<kernel::PromptRequest> &request)

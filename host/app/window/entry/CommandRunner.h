@@ -25,6 +25,10 @@ public:
     bool isBusy() const;
     /// Answers the prompt that waits, else runs the line.
     void enter(const QString &text);
+    /// The prompt that waits for an answer.
+    const std::optional<kernel::PromptRequest> &request() const { return m_feeder.request(); }
+    /// The last command that was run by its name, as it was typed; empty before the first.
+    const QString &lastCommand() const { return m_lastCommand; }
     /// Whether a prompt waits that takes a command in the middle: it asks for no text, and for a command's sake is not
     /// one itself that was called there.
     bool takesCommand() const;
@@ -60,11 +64,13 @@ private:
     kernel::Document *document() const { return m_session.documents().active(); }
     /// `begin`, which may run something, and what the queue holds then.
     void run(const std::function<kernel::RunResult()> &begin);
+    void rememberCommand(const kernel::PromptRequest &request, const kernel::InputAnswer &answer);
     void showRequest(const std::optional<kernel::PromptRequest> &request);
 
     kernel::Session &m_session;
     CommandLine &m_commandLine;
     WindowFeeder m_feeder;
+    QString m_lastCommand;
     bool m_isRunning = false; ///< the queue is being worked off, or a session played
 };
 

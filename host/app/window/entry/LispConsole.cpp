@@ -49,7 +49,14 @@ QString wordAt(const QString &text, qsizetype position)
 LispConsole::LispConsole(Names names, QWidget *parent)
     : QWidget(parent), m_names(std::move(names)), m_output(consoleText(u"consoleOutput"_s, this)),
       m_input(consoleText(u"consoleInput"_s, this)), m_help(new QLabel(this)), m_completer(new QCompleter(this)),
-      m_candidates(new QStringListModel(m_completer))
+      m_candidates(new QStringListModel(m_completer)),
+      m_entries(new EntryHistory({.text = [this] { return m_input->toPlainText(); },
+                                  .show =
+                                      [this](const QString &text) {
+                                          m_input->setPlainText(text);
+                                          m_input->moveCursor(QTextCursor::End);
+                                      }},
+                                 consoleEntriesKept, this))
 {
     m_output->setReadOnly(true);
     m_output->setUndoRedoEnabled(false);
@@ -73,6 +80,10 @@ LispConsole::LispConsole(Names names, QWidget *parent)
     layout->addWidget(m_help);
     connect(m_input, &QPlainTextEdit::textChanged, this, &LispConsole::updateHeight);
     connect(m_input, &QPlainTextEdit::cursorPositionChanged, this, &LispConsole::updateHelp);
+    connect(m_entries, &EntryHistory::seeking, this, [this](const QString &sought, bool isFound) {
+        const QString text = isFound ? tr("Search what was entered: %1") : tr("Not found: %1");
+        sought.isNull() ? updateHelp() : showHelp(text.arg(sought));
+    });
     setFocusProxy(m_input);
     updateHeight();
 }
@@ -109,12 +120,6 @@ QString LispConsole::helpText() const
     return m_help->text();
 }
 
-void LispConsole::setEntries(const QStringList &entries)
-{
-    m_entries = entries.last(std::min(entries.size(), consoleEntriesKept));
-    m_recalled = m_entries.size();
-}
-
 bool LispConsole::eventFilter(QObject *object, QEvent *event)
 {
     const bool isKey = event->type() == QEvent::KeyPress || event->type() == QEvent::ShortcutOverride;
@@ -125,6 +130,11 @@ bool LispConsole::eventFilter(QObject *object, QEvent *event)
 
 bool LispConsole::filterKey(QKeyEvent &key)
 {
+    // Seeking is meant here, though a menu has the key too.
+    if (key.type() == QEvent::ShortcutOverride && key.key() == Qt::Key_R && key.modifiers() == Qt::ControlModifier) {
+        key.accept();
+        return true;
+    }
     // With nothing written, undoing means the drawing: the field must not claim the keys.
     if (key.type() == QEvent::ShortcutOverride)
         return m_input->document()->isEmpty() && (key.matches(QKeySequence::Undo) || key.matches(QKeySequence::Redo));
@@ -140,6 +150,8 @@ bool LispConsole::filterKey(QKeyEvent &key)
 
 bool LispConsole::handleKey(const QKeyEvent &key)
 {
+    if (m_entries->takeKey(key))
+        return true;
     switch (key.key()) {
     case Qt::Key_Return:
     case Qt::Key_Enter:
@@ -153,7 +165,7 @@ bool LispConsole::handleKey(const QKeyEvent &key)
         return true;
     case Qt::Key_Escape:
         m_input->clear();
-        m_recalled = m_entries.size();
+        m_entries->reset();
         emit cancelled();
         return true;
     default:
@@ -169,12 +181,7 @@ bool LispConsole::takeReturn()
     m_input->clear();
     if (text.trimmed().isEmpty())
         return true;
-    m_entries.removeAll(text);
-    m_entries.append(text);
-    if (m_entries.size() > consoleEntriesKept)
-        m_entries.removeFirst();
-    m_recalled = m_entries.size();
-    m_draft.clear();
+    m_entries->add(text);
     print(u"\nlisp> "_s + QString(text).replace(u'\n', u"\n    > "_s) + u'\n');
     emit entered(text);
     return true;
@@ -185,14 +192,7 @@ bool LispConsole::recall(int direction)
     const int line = m_input->textCursor().blockNumber();
     if (direction < 0 ? line > 0 : line + 1 < m_input->blockCount())
         return false;
-    const qsizetype wanted = std::clamp<qsizetype>(m_recalled + direction, 0, m_entries.size());
-    if (wanted == m_recalled)
-        return true;
-    if (m_recalled == m_entries.size())
-        m_draft = m_input->toPlainText();
-    m_recalled = wanted;
-    m_input->setPlainText(wanted == m_entries.size() ? m_draft : m_entries[wanted]);
-    m_input->moveCursor(QTextCursor::End);
+    m_entries->recall(direction);
     return true;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/app/window/entry/EntryHistory.h"
 #include "host/app/workbench/LispNames.h"
 
 #include <QStringList>
@@ -19,7 +20,8 @@ namespace host::app {
 /// whoever owns it takes what was entered and prints what came of it.
 ///
 /// Enter ends what was written once all its lists and strings are closed, and begins a new line before that. Up in the
-/// first line and Down in the last go through what was entered before, the last 200 of it. Tab completes the word in
+/// first line and Down in the last go through what was entered before, the last 200 of it; Ctrl+R seeks in that, see
+/// EntryHistory. Tab completes the word in
 /// front of the cursor, from a list where there are several. The line below says what the word at the cursor is, else
 /// what the list around it calls. Esc empties the field and is told.
 class LispConsole : public QWidget
@@ -45,8 +47,8 @@ public:
     /// Owned by this; it has the focus whenever this is given it.
     QPlainTextEdit *input() { return m_input; }
     /// Sets what Up and Down go through, oldest first.
-    void setEntries(const QStringList &entries);
-    const QStringList &entries() const { return m_entries; }
+    void setEntries(const QStringList &entries) { m_entries->setEntries(entries); }
+    const QStringList &entries() const { return m_entries->entries(); }
     /// The line about the word at the cursor.
     QString helpText() const;
 
@@ -83,9 +85,7 @@ private:
     QLabel *m_help;
     QCompleter *m_completer;
     QStringListModel *m_candidates;
-    QStringList m_entries;
-    qsizetype m_recalled = 0; ///< in m_entries; their number when none is recalled
-    QString m_draft;          ///< what was being written before recalling
+    EntryHistory *m_entries;
 };
 
 } // namespace host::app

@@ -13,7 +13,7 @@ namespace {
 constexpr WhenBusy always = WhenBusy::Enabled;
 
 // clang-format off
-constexpr MenuRow rows[] = {
+constexpr MenuRow menuTable[] = {
     {"&File", "&New", "new", "Ctrl+N", "Standard", "new", "Makes a new drawing"},
     {"&File", "&Open...", "open", "Ctrl+O", "Standard", "open", "Opens drawings"},
     {"&File", "", "@recent"},
@@ -57,7 +57,7 @@ constexpr MenuRow rows[] = {
     {"&View", "Zoom &out", "zoomOut", "Ctrl+-", "Standard", "zoomOut", "Shows more, smaller", always},
     {"&View", "&Zoom by its options", "_ZOOM"},
     {"&View", "&Pan", "_PAN", "", "Standard", "pan"},
-    {"&View", "Re&generate", "_REGEN"},
+    {"&View", "&Regenerate", "_REGEN"},
     {"&View", "-", ""},
     {"&View/&Views and planes", "Named views", "_VIEW"},
     {"&View/&Views and planes", "Look from a direction", "_VPOINT"},
@@ -81,6 +81,7 @@ constexpr MenuRow rows[] = {
     {"&View", "-", ""},
     {"&View", "&Start page", "startPage", "", "", "", "Shows recent drawings, samples and first steps"},
     {"&View", "Lisp &console", "console", "F12", "", "", "Shows a place to try Lisp at", always},
+    {"&View", "Lon&g command history", "longHistory", "F2", "", "", "Gives what was printed most of the window, and back", always},
     {"&View", "", "@panels"},
     {"&View/&Toolbars", "", "@toolbars"},
     {"&View", "-", ""},
@@ -239,6 +240,7 @@ constexpr MenuRow rows[] = {
     {"&Tools", "&Record session...", "record", "", "", "", "Writes down what you do as a session that plays", always},
 
     {"&Help", "&Contents", "help", "F1", "", "", "Shows the help pages", always},
+    {"&Help", "Co&mmands...", "palette", "Ctrl+Shift+P", "", "", "Finds commands, menu entries and system variables", always},
     {"&Help", "&About Ortakit", "about", "", "", "", "Says what this program is", always},
 };
 // clang-format on
@@ -252,7 +254,7 @@ QString MenuRow::command() const
 
 std::span<const MenuRow> menuRows()
 {
-    return rows;
+    return menuTable;
 }
 
 bool isForPrompts(const MenuRow &row)

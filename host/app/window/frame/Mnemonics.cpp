@@ -1,5 +1,6 @@
 #include "host/app/window/frame/Mnemonics.h"
 
+#include <QHash>
 #include <QSet>
 
 namespace host::app {
@@ -33,27 +34,70 @@ QList<qsizetype> candidates(const QString &caption)
     return first + others;
 }
 
+/// Gives each caption a letter of its own, where there is a way to do so for all of them.
+class LetterSharing
+{
+public:
+    LetterSharing(const QStringList &captions, QSet<QChar> taken) : m_captions(captions), m_taken(std::move(taken)) {}
+
+    /// Finds a letter for the caption; those that have one may have to take another for that.
+    bool give(qsizetype caption)
+    {
+        m_tried.clear();
+        return give(caption, m_captions.size());
+    }
+    /// Where the mnemonic of the caption goes; -1 when it has none.
+    qsizetype place(qsizetype caption) const { return m_places.value(caption, -1); }
+
+private:
+    bool give(qsizetype caption, qsizetype depth)
+    {
+        const QList<qsizetype> places = candidates(m_captions[caption]);
+        const auto letterAt = [&](qsizetype place) { return m_captions[caption][place].toLower(); };
+        for (const qsizetype place : places)
+            if (!m_taken.contains(letterAt(place)) && !m_owners.contains(letterAt(place)))
+                return take(caption, place);
+        for (const qsizetype place : places) {
+            if (depth == 0 || m_taken.contains(letterAt(place)) || m_tried.contains(letterAt(place)))
+                continue;
+            m_tried.insert(letterAt(place));
+            if (give(m_owners.value(letterAt(place)), depth - 1))
+                return take(caption, place);
+        }
+        return false;
+    }
+
+    bool take(qsizetype caption, qsizetype place)
+    {
+        m_owners.insert(m_captions[caption][place].toLower(), caption);
+        m_places.insert(caption, place);
+        m_tried.clear();
+        return true;
+    }
+
+    const QStringList &m_captions;
+    QSet<QChar> m_taken;
+    QHash<QChar, qsizetype> m_owners;
+    QHash<qsizetype, qsizetype> m_places;
+    QSet<QChar> m_tried;
+};
+
 } // namespace
 
 QStringList withMnemonics(const QStringList &captions)
 {
-    QSet<QChar> used;
+    QSet<QChar> taken;
     for (const QString &caption : captions)
         if (const qsizetype place = mnemonicPlace(caption); place >= 0)
-            used.insert(caption[place].toLower());
-    QStringList result;
-    for (QString caption : captions) {
-        if (mnemonicPlace(caption) < 0) {
-            for (const qsizetype place : candidates(caption)) {
-                if (used.contains(caption[place].toLower()))
-                    continue;
-                used.insert(caption[place].toLower());
-                caption.insert(place, u'&');
-                break;
-            }
-        }
-        result.append(caption);
-    }
+            taken.insert(caption[place].toLower());
+    LetterSharing sharing(captions, taken);
+    for (qsizetype i = 0; i < captions.size(); ++i)
+        if (mnemonicPlace(captions[i]) < 0)
+            sharing.give(i);
+    QStringList result = captions;
+    for (qsizetype i = 0; i < result.size(); ++i)
+        if (sharing.place(i) >= 0)
+            result[i].insert(sharing.place(i), u'&');
     return result;
 }
 

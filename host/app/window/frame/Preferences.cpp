@@ -34,6 +34,7 @@ Preferences Preferences::load(const QString &folder)
     preferences.forms = settings.value("forms").toStringList();
     preferences.drawings = settings.value("drawings").toStringList();
     preferences.reopensDrawings = settings.value("reopensDrawings").toBool();
+    preferences.recent = settings.value("recent").toStringList();
     return preferences;
 }
 
@@ -49,6 +50,7 @@ void Preferences::save(const QString &folder) const
         settings.setValue("forms", forms);
         settings.setValue("drawings", drawings);
         settings.setValue("reopensDrawings", reopensDrawings);
+        settings.setValue("recent", recent);
     });
 }
 

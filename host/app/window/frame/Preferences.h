@@ -20,6 +20,7 @@ struct Preferences
     QStringList forms;            ///< of the Lisp console, likewise
     QStringList drawings;         ///< that were open when the window was closed last, by their paths
     bool reopensDrawings = false; ///< when the program starts without others
+    QStringList recent;           ///< what was run from the palette, newest first
 
     /// `folder` is that of the user's data. A file that is no settings file is left alone, and not read.
     static Preferences load(const QString &folder);
