@@ -88,7 +88,7 @@ TEST_F(LispNames, SuggestWhatMayBeMeant)
 {
     document->run(u"(defun c:m\u00e4uerchen () 1) (defun c:zoomer () 2)"_s);
     const std::pair<QString, QString> rows[] = {
-        {u"l"_s, u"L LAYCUR LAYDEL"_s}, // the alias itself first
+        {u"l"_s, u"L LA LASTANGLE"_s}, // the alias itself first
         {u"_.zoo"_s, u"ZOOM ZOOMER ZOOMFACTOR"_s},
         {u"ZOOM"_s, u"ZOOM ZOOMER ZOOMFACTOR"_s},
         {u"osm"_s, u"OSMODE"_s},
@@ -120,7 +120,7 @@ TEST_F(LispNames, SuggestWithThousandsOfAliases)
         table.insert(u"LX%1"_s.arg(i, 4, 10, QChar(u'0')), i == 4711 ? u"NOSUCH"_s : u"CIRCLE"_s);
     QFile file(path(u"many.xml"_s));
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(toAliasFile(table));
+    file.write(kernel::toAliasFile(table));
     file.close();
     const QString used = session.home() + u"/alias.xml"_s;
     QFile::remove(used);

@@ -10,4 +10,4 @@
 (results-add e "maybe" "x") ;= error: bad argument value: state "maybe" in (RESULTS-ADD), argument 2
 (results-begin 5) ;= error: bad argument type: stringp 5 in (RESULTS-BEGIN), argument 1
 (progn (results-begin "many") (repeat 100000 (results-add e "done" "")) (list (results-add e "done" "") (results-end))) ;> and 99801 more ;= (nil 100001)
-(list (results-begin "gone") (results-add e "done" "erased") (entdel e) (results-end)) ;> erased ;= (T T nil 1)
+(list (results-begin "gone") (results-add e "done" "erased") (type (entdel e)) (results-end)) ;> erased ;= (T T ENAME 1)

@@ -115,6 +115,9 @@ private:
 
     static int scoreOf(const PaletteRow &row, const QString &sought)
     {
+        constexpr int whole = 1'000'000;
+        if (row.title.compare(sought, Qt::CaseInsensitive) == 0)
+            return whole;
         const int named = std::max(fuzzyScore(sought, row.title), fuzzyScore(sought, row.words));
         if (named != NoMatch)
             return named;

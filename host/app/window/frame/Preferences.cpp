@@ -34,7 +34,7 @@ Preferences Preferences::load(const QString &folder)
     preferences.forms = settings.value("forms").toStringList();
     preferences.drawings = settings.value("drawings").toStringList();
     preferences.reopensDrawings = settings.value("reopensDrawings").toBool();
-    preferences.recent = settings.value("recent").toStringList();
+    preferences.recent = settings.value("palette").toStringList();
     return preferences;
 }
 
@@ -50,7 +50,7 @@ void Preferences::save(const QString &folder) const
         settings.setValue("forms", forms);
         settings.setValue("drawings", drawings);
         settings.setValue("reopensDrawings", reopensDrawings);
-        settings.setValue("recent", recent);
+        settings.setValue("palette", recent);
     });
 }
 
