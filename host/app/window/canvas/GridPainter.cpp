@@ -87,7 +87,7 @@ void clipToLimits(QPainter &painter, const kernel::Document &document, const vie
     for (const Vec2 &corner : {low, Vec2{high.x, low.y}, high, Vec2{low.x, high.y}})
         corners.append(view.toScreen(kernel::shownPoint(document, {corner.x, corner.y, 0.0}).xy()));
     // Lines on the limits are within.
-    painter.setClipRect(corners.boundingRect().adjusted(0.0, 0.0, 1.0, 1.0));
+    painter.setClipRect(corners.boundingRect().adjusted(-1.0, -1.0, 1.0, 1.0));
 }
 
 } // namespace
