@@ -88,7 +88,7 @@ TEST_F(LispNames, SuggestWhatMayBeMeant)
 {
     document->run(u"(defun c:m\u00e4uerchen () 1) (defun c:zoomer () 2)"_s);
     const std::pair<QString, QString> rows[] = {
-        {u"l"_s, u"L LA LASTANGLE"_s}, // the alias itself first
+        {u"l"_s, u"L LA LAYCUR"_s}, // the alias itself first
         {u"_.zoo"_s, u"ZOOM ZOOMER ZOOMFACTOR"_s},
         {u"ZOOM"_s, u"ZOOM ZOOMER ZOOMFACTOR"_s},
         {u"osm"_s, u"OSMODE"_s},

@@ -28,7 +28,7 @@ void noteInterrupt(int)
 class PlainLines final : public LineReader
 {
 public:
-    Answer readLine(const QString &prompt) override
+    Answer readLine(const QString &prompt, Memory) override
     {
         if (isInteractive()) {
             std::fputs(prompt.toLocal8Bit().constData(), stdout);
@@ -73,7 +73,7 @@ public:
     EditedLines(const EditedLines &) = delete;
     EditedLines &operator=(const EditedLines &) = delete;
 
-    Answer readLine(const QString &prompt) override
+    Answer readLine(const QString &prompt, Memory memory) override
     {
         m_prompt = prompt.toLocal8Bit();
         int count = 0;
@@ -85,7 +85,8 @@ public:
             el_reset(m_edit);
             return {End::Interrupted};
         }
-        remember(line);
+        if (memory == Memory::Keeps)
+            remember(line);
         return {End::Line, QString::fromLocal8Bit(line).chopped(line[count - 1] == '\n' ? 1 : 0)};
     }
     bool isInteractive() const override { return true; }

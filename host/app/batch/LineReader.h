@@ -27,9 +27,16 @@ public:
         QString line = {}; ///< without line feed
     };
 
+    /// Whether the line is there to be recalled later: forms are, answers to their prompts are not.
+    enum class Memory
+    {
+        Keeps,
+        Forgets
+    };
+
     virtual ~LineReader() = default;
     /// Shows the prompt, where somebody sits in front of it, and waits.
-    virtual Answer readLine(const QString &prompt) = 0;
+    virtual Answer readLine(const QString &prompt, Memory memory) = 0;
     /// Somebody does.
     virtual bool isInteractive() const = 0;
 };

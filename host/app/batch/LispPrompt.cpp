@@ -30,7 +30,7 @@ public:
     {
         if (!isAttended())
             return kernel::FeedResult::NobodyThere;
-        const LineReader::Answer answer = m_lines.readLine({});
+        const LineReader::Answer answer = m_lines.readLine({}, LineReader::Memory::Forgets);
         if (answer.end == LineReader::End::Line)
             queue.pushTyped(answer.line);
         else
@@ -95,7 +95,8 @@ private:
     {
         if (&active() != m_document)
             follow(active());
-        const LineReader::Answer answer = m_lines.readLine(m_reader->isIncomplete() ? u"    > "_s : u"lisp> "_s);
+        const LineReader::Answer answer =
+            m_lines.readLine(m_reader->isIncomplete() ? u"    > "_s : u"lisp> "_s, LineReader::Memory::Keeps);
         if (answer.end == LineReader::End::Interrupted)
             return m_reader->reset();
         if (answer.end == LineReader::End::NoMore) {

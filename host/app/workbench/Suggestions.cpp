@@ -12,6 +12,7 @@
 #include <QSet>
 
 #include <algorithm>
+#include <tuple>
 
 using namespace Qt::StringLiterals;
 
@@ -85,11 +86,12 @@ private:
 
     QList<Suggestion> best(qsizetype most)
     {
-        // Whole words first, which are the shortest of all that begin alike.
-        std::ranges::sort(m_found, [this](const Found &a, const Found &b) {
-            const bool isWholeA = a.name.size() == m_word.size();
-            const bool isWholeB = b.name.size() == m_word.size();
-            return isWholeA != isWholeB ? isWholeA : a.name < b.name;
+        // Whole words first, then what does something; there are many variables that few people know.
+        const auto rank = [this](const Found &each) {
+            return std::tuple(each.name.size() != m_word.size(), each.kind == Kind::Variable);
+        };
+        std::ranges::sort(m_found, [&rank](const Found &a, const Found &b) {
+            return std::tuple(rank(a), a.name) < std::tuple(rank(b), b.name);
         });
         QList<Suggestion> suggestions;
         for (const Found &each : m_found.first(std::min(most, m_found.size())))
