@@ -16,9 +16,9 @@ drawing::Vec3 DrawingCanvas::world(QPointF screen) const
     return kernel::workedPoint(m_document, {point.x, point.y, 0.0});
 }
 
-QPointF DrawingCanvas::toScreen(const drawing::Vec3 &world) const
+QPointF DrawingCanvas::toScreen(const drawing::Vec3 &worked) const
 {
-    return transform().toScreen(kernel::shownPoint(m_document, world).xy());
+    return transform().toScreen(kernel::shownPoint(m_document, worked).xy());
 }
 
 int DrawingCanvas::workedSpace()

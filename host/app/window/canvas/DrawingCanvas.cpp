@@ -268,14 +268,9 @@ void DrawingCanvas::answerAim()
         emit answered(kernel::PointAnswer{last.value_or(*m_request->base), true});
 }
 
-QPointF DrawingCanvas::shown(const drawing::Vec3 &worked) const
-{
-    return transform().toScreen(kernel::shownPoint(m_document, worked).xy());
-}
-
 QPointF DrawingCanvas::aimedAt() const
 {
-    return m_aim && m_aim->rule != kernel::HandRule::None ? shown(m_aim->point) : *m_pointer;
+    return m_aim && m_aim->rule != kernel::HandRule::None ? toScreen(m_aim->point) : *m_pointer;
 }
 
 void DrawingCanvas::paintSketch(QPainter &painter)
@@ -309,7 +304,7 @@ void DrawingCanvas::paintOverlay(QPainter &painter)
 
 void DrawingCanvas::paintRubberBand(QPainter &painter)
 {
-    const QPointF from = shown(*m_request->base);
+    const QPointF from = toScreen(*m_request->base);
     const QPointF to = aimedAt();
     if (!asksForBox(*m_request)) {
         paintPointerBand(painter, from, to, (m_request->bits & kernel::DashedRubberBand) != 0);
@@ -318,7 +313,7 @@ void DrawingCanvas::paintRubberBand(QPainter &painter)
     // Its sides lie along the user's axes.
     const drawing::Vec3 base = kernel::toUser(m_document, *m_request->base);
     const drawing::Vec3 corner = kernel::toUser(m_document, m_aim ? m_aim->point : world(*m_pointer));
-    const auto between = [&](double x, double y) { return shown(kernel::toWorld(m_document, {x, y, base.z})); };
+    const auto between = [&](double x, double y) { return toScreen(kernel::toWorld(m_document, {x, y, base.z})); };
     const QPolygonF box({from, between(corner.x, base.y), to, between(base.x, corner.y)});
     paintPointerBox(painter, box, to.x() < from.x());
 }

@@ -64,7 +64,8 @@ public:
     drawing::RecordId entityAt(QPointF screen);
     /// On the plane z 0.
     drawing::Vec3 world(QPointF screen) const;
-    QPointF toScreen(const drawing::Vec3 &world) const;
+    /// Where a point that commands work with is on the canvas, through the viewport that is worked in.
+    QPointF toScreen(const drawing::Vec3 &worked) const;
     /// The point of the current space itself, whatever a viewport shows there.
     drawing::Vec2 sheetPoint(QPointF screen) const { return transform().toWorld(screen); }
 
@@ -143,8 +144,6 @@ private:
     bool wantsHover() const;
     /// Where the next point would lie.
     void updateAim();
-    /// Where a point that commands work with is on the canvas.
-    QPointF shown(const drawing::Vec3 &worked) const;
     /// The pointer, or where the next point would lie instead.
     QPointF aimedAt() const;
     /// What programs show for the moment.
