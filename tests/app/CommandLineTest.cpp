@@ -4,12 +4,18 @@
 #include "host/app/window/entry/SuggestionList.h"
 #include "tests/support/QtTestPrinters.h"
 
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMimeData>
 #include <QPlainTextEdit>
+#include <QScrollBar>
+#include <QUrl>
 
 #include <gtest/gtest.h>
+#include <memory>
 
 using namespace host::app;
 using namespace Qt::StringLiterals;
@@ -173,6 +179,37 @@ TEST_F(CommandLineTest, FindsTextInWhatWasPrinted)
     QCoreApplication::sendEvent(finder, &escape);
     EXPECT_TRUE(finder->isHidden());
     EXPECT_EQ(cancels, 0);
+}
+
+TEST_F(CommandLineTest, CopiedEntitiesAreNoAnswer)
+{
+    const auto paste = [&](auto &&fill) {
+        auto data = std::make_unique<QMimeData>();
+        fill(*data);
+        QGuiApplication::clipboard()->setMimeData(data.release());
+        QKeyEvent event(QEvent::KeyPress, Qt::Key_V, Qt::ControlModifier, u"\x16"_s);
+        QCoreApplication::sendEvent(line.input(), &event);
+        return line.input()->text();
+    };
+    EXPECT_EQ(paste([](QMimeData &data) { data.setText(u"1,2"_s); }), u"1,2"_s);
+    EXPECT_EQ(paste([](QMimeData &data) { data.setUrls({QUrl::fromLocalFile(u"/copied.dxf"_s)}); }), u"1,2"_s);
+    QGuiApplication::clipboard()->clear();
+}
+
+TEST_F(CommandLineTest, LastPrintedLinesStayShownInALowerHistory)
+{
+    for (int row = 0; row < 100; ++row)
+        line.print(u"row %1\n"_s.arg(row));
+    const QScrollBar *bar = line.findChild<QPlainTextEdit *>(u"commandHistory"_s)->verticalScrollBar();
+    line.resize(400, 300);
+    line.show();
+    QCoreApplication::processEvents();
+    for (const int height : {600, 150}) {
+        line.resize(400, height);
+        QCoreApplication::processEvents();
+        EXPECT_GT(bar->maximum(), 0);
+        EXPECT_EQ(bar->value(), bar->maximum()) << height;
+    }
 }
 
 TEST_F(CommandLineTest, EscEmptiesTheLineAndCancels)

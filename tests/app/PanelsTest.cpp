@@ -15,6 +15,7 @@
 #include <QDockWidget>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QKeyEvent>
 
 #include <gtest/gtest.h>
 
@@ -124,6 +125,17 @@ TEST_F(PanelsTest, CommandsEnteredByHandOpenThemAndProgramsAreAsked)
     window.document()->run(u"(defun c:layer () (setq *mine* T))"_s);
     window.enter(u"LAYER"_s);
     EXPECT_EQ(window.document()->run(u"*mine*"_s).value, u"T"_s) << "a program's command of the name goes first";
+}
+
+TEST_F(PanelsTest, RenamingKeyIsTheirsWhileTheyHaveTheFocus)
+{
+    window.start({});
+    for (const QString &name : {u"layers"_s, u"properties"_s, u"commandInput"_s}) {
+        QKeyEvent event(QEvent::ShortcutOverride, Qt::Key_F2, Qt::NoModifier);
+        event.ignore();
+        QCoreApplication::sendEvent(window.findChild<QWidget *>(name), &event);
+        EXPECT_EQ(event.isAccepted(), name != u"commandInput"_s) << name.toStdString();
+    }
 }
 
 TEST_F(PanelsTest, ManyEntitiesAreLookedThroughInPieces)

@@ -137,6 +137,8 @@ bool CommandLine::takeKey(QKeyEvent *event)
 
 bool CommandLine::eventFilter(QObject *object, QEvent *event)
 {
+    if (object == m_history && event->type() == QEvent::Resize)
+        keepEndShown();
     if (object == m_input && (event->type() == QEvent::FocusOut || event->type() == QEvent::Hide))
         m_suggestions->hide();
     if (event->type() == QEvent::KeyPress || event->type() == QEvent::ShortcutOverride) {
@@ -159,7 +161,20 @@ bool CommandLine::filterInputKey(QKeyEvent &key)
     }
     if (key.type() == QEvent::ShortcutOverride)
         return m_input->text().isEmpty() && isForDrawing(key);
-    return handleKey(key);
+    // The name of the file that holds copied entities answers no prompt.
+    const bool isFilePasted = key.matches(QKeySequence::Paste) && !isTextOnClipboard();
+    return isFilePasted || handleKey(key);
+}
+
+/// A history made lower goes on to show what was printed last, where it did so.
+void CommandLine::keepEndShown()
+{
+    QScrollBar *bar = m_history->verticalScrollBar();
+    if (bar->value() < bar->maximum())
+        return;
+    // The range is that of the new height only when the resizing is over.
+    QMetaObject::invokeMethod(
+        bar, [bar] { bar->setValue(bar->maximum()); }, Qt::QueuedConnection);
 }
 
 bool CommandLine::filterHistoryKey(QKeyEvent &key)

@@ -91,6 +91,7 @@ private:
     void findText();
     bool filterInputKey(QKeyEvent &key);
     bool filterFinderKey(const QKeyEvent &key);
+    void keepEndShown();
     bool filterHistoryKey(QKeyEvent &key);
     /// False for a key that is the line edit's own.
     bool handleKey(const QKeyEvent &event);

@@ -48,6 +48,14 @@ void LayerTable::editName(const QModelIndex &index)
     edit(name);
 }
 
+bool LayerTable::event(QEvent *event)
+{
+    // A menu has F2 too.
+    if (event->type() == QEvent::ShortcutOverride && static_cast<QKeyEvent *>(event)->key() == Qt::Key_F2)
+        event->accept();
+    return QTableView::event(event);
+}
+
 void LayerTable::keyPressEvent(QKeyEvent *event)
 {
     const QModelIndex at = currentIndex();

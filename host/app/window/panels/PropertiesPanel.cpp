@@ -110,6 +110,10 @@ void PropertiesPanel::editLine(const QModelIndex &index)
 
 bool PropertiesPanel::eventFilter(QObject *object, QEvent *event)
 {
+    const bool isOverride = event->type() == QEvent::ShortcutOverride;
+    // A menu has F2 too.
+    if (object == m_table && isOverride && static_cast<QKeyEvent *>(event)->key() == Qt::Key_F2)
+        event->accept();
     if (object != m_table || event->type() != QEvent::KeyPress)
         return QWidget::eventFilter(object, event);
     const int key = static_cast<QKeyEvent *>(event)->key();
