@@ -130,10 +130,14 @@ TEST_F(PanelsTest, CommandsEnteredByHandOpenThemAndProgramsAreAsked)
 TEST_F(PanelsTest, RenamingKeyIsTheirsWhileTheyHaveTheFocus)
 {
     window.start({});
+    window.enter(u"la"_s);
+    window.enter(u"_PROPERTIES"_s);
     for (const QString &name : {u"layers"_s, u"properties"_s, u"commandInput"_s}) {
+        auto *widget = window.findChild<QWidget *>(name);
+        ASSERT_TRUE(widget) << name.toStdString();
         QKeyEvent event(QEvent::ShortcutOverride, Qt::Key_F2, Qt::NoModifier);
         event.ignore();
-        QCoreApplication::sendEvent(window.findChild<QWidget *>(name), &event);
+        QCoreApplication::sendEvent(widget, &event);
         EXPECT_EQ(event.isAccepted(), name != u"commandInput"_s) << name.toStdString();
     }
 }

@@ -10,6 +10,7 @@
 #include "tests/app/AppFixture.h"
 #include "tests/support/ModalAnswers.h"
 
+#include <QAction>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QCoreApplication>
@@ -20,10 +21,13 @@
 #include <QMouseEvent>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QTabBar>
 #include <QTableWidget>
 #include <QWheelEvent>
 
 #include <gtest/gtest.h>
+
+#include <functional>
 
 using namespace host::app;
 using namespace host::app::test;
@@ -99,6 +103,28 @@ TEST_F(WindowEditing, TextsAreWrittenWhereTheyStand)
         if (isChanged)
             window->enter(u"U"_s);
         EXPECT_EQ(window->document()->drawing().toBytes(), before) << row.written.toStdString();
+    }
+}
+
+TEST_F(WindowEditing, WhatGoesOnTakesTheTextFirst)
+{
+    lisp(u"(command \"TEXT\" '(0 0) 10 0 \"H\" \"ZOOM\" \"C\" '(0 0) 100)"_s);
+    auto *layouts = window->findChild<QTabBar *>(u"layouts"_s);
+    const QList<std::function<void()>> ways = {
+        [&] { layouts->setCurrentIndex(1); },
+        [&] { window->findChild<QAction *>(u"_REGEN"_s)->trigger(); },
+        [&] { window->findChild<QAction *>(u"eraseChosen"_s)->trigger(); },
+    };
+    for (qsizetype i = 0; i < ways.size(); ++i) {
+        lisp(u"(setvar \"CTAB\" \"Model\")"_s);
+        doubleClick(0.0, 5.0);
+        auto *line = window->canvas()->findChild<InPlaceEdit *>();
+        ASSERT_TRUE(line) << i;
+        line->setText(u"H%1"_s.arg(i));
+        ways[i]();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        EXPECT_FALSE(window->canvas()->findChild<InPlaceEdit *>()) << i;
+        EXPECT_EQ(lisp(u"(said)"_s), u"(\"H%1\")"_s.arg(i));
     }
 }
 

@@ -29,7 +29,11 @@ void MainWindow::buildMenus()
 {
     m_menus = std::make_unique<Menus>(
         *this, Menus::Parts{
-                   .run = [this](const QString &line) { m_runner->start(line); },
+                   .run =
+                       [this](const QString &line) {
+                           takeOpenText();
+                           m_runner->start(line);
+                       },
                    .bodies = menuBodies(),
                    .places = {{u"@tools"_s, [this](Menus &menus, QMenu &menu) { addTools(menus, menu); }},
                               {u"@recent"_s, [this](Menus &, QMenu &menu) { addRecent(menu); }},
@@ -44,6 +48,7 @@ QHash<QString, std::function<void()>> MainWindow::menuBodies()
 {
     const auto withDocument = [this](const std::function<void(kernel::Document &)> &body) {
         return [this, body] {
+            takeOpenText();
             if (kernel::Document *active = document())
                 body(*active);
         };

@@ -3,6 +3,7 @@
 #include "host/app/playback/SessionRecorder.h"
 #include "host/app/window/canvas/AimTyping.h"
 #include "host/app/window/canvas/DrawingCanvas.h"
+#include "host/app/window/canvas/InPlaceEdit.h"
 #include "host/app/window/entry/CommandLine.h"
 #include "host/app/window/entry/CommandRunner.h"
 #include "host/app/window/entry/LispConsole.h"
@@ -289,8 +290,16 @@ void MainWindow::showActive(kernel::Document *document)
     updateState();
 }
 
+void MainWindow::takeOpenText()
+{
+    DrawingCanvas *shown = canvas();
+    if (auto *line = shown ? shown->findChild<InPlaceEdit *>() : nullptr)
+        line->take();
+}
+
 void MainWindow::showLayout(const QString &name)
 {
+    takeOpenText();
     kernel::Document *active = document();
     if (active && !m_runner->isBusy())
         active->runAs(u"LAYOUT"_s, [&] { active->variables().set(u"CTAB", name); });
@@ -304,6 +313,7 @@ bool MainWindow::mayClose(int index)
     DrawingCanvas *tab = m_tabs->canvas(index);
     if (!tab || m_runner->isBusy())
         return false;
+    takeOpenText();
     if (tab->document().isModified())
         m_tabs->setCurrentIndex(index);
     return m_files.askToSave(tab->document()) == FileActions::Answer::GoOn;
@@ -321,6 +331,7 @@ bool MainWindow::mayCloseAll()
 {
     if (m_runner->isBusy())
         return false;
+    takeOpenText();
     QList<kernel::Document *> changed;
     for (const auto &open : m_workbench->documents().documents())
         if (open->isModified())

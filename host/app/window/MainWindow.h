@@ -150,6 +150,8 @@ private:
     void activateTab(int index);
     /// The document became the active one: its tab is shown.
     void showActive(kernel::Document *document);
+    /// What is being written over the drawing is in it before another space is shown, a file written, a drawing closed.
+    void takeOpenText();
     /// The user chose the layout, as CTAB would.
     void showLayout(const QString &name);
     /// Whether the user lets the tab's drawing go; it may have been saved for that.

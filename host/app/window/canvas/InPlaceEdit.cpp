@@ -40,6 +40,11 @@ InPlaceEdit::InPlaceEdit(const QString &text, const QString &family, double heig
     setFocus(Qt::OtherFocusReason);
 }
 
+void InPlaceEdit::take()
+{
+    finish(true);
+}
+
 /// As wide as its text, and within the parent: what is longer scrolls.
 void InPlaceEdit::fitToText()
 {

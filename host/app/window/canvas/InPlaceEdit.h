@@ -15,6 +15,9 @@ public:
     /// covers as far as it lies within it. `family` may be empty.
     InPlaceEdit(const QString &text, const QString &family, double height, const QRectF &place, QWidget *parent);
 
+    /// As Enter does: for what goes on with the drawing while the line is there.
+    void take();
+
 signals:
     /// Once, when another text is there than at the start.
     void taken(const QString &text);
