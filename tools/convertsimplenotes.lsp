@@ -19,17 +19,28 @@
     (convertsimplenotes:run notes (kora_readstate file)))
   (kora_end))
 
-(defun convertsimplenotes:run (notes state / free used)
+(defun convertsimplenotes:run (notes state / free used made)
   (setq free (mapcar 'entget (kora_unlocked notes))
         used (vl-remove-if-not '(lambda (data) (convertsimplenotes:is_beside data (car free))) free))
   (cond
-    ((null used) (kora_done "Nothing was converted." (length notes)))
-    ((entmakex (convertsimplenotes:paragraph (convertsimplenotes:sorted used state) state))
+    ((null used)
+     (convertsimplenotes:list nil notes nil nil)
+     (kora_done "Nothing was converted." (length notes)))
+    ((setq made (entmakex (convertsimplenotes:paragraph (convertsimplenotes:sorted used state) state)))
      (foreach data used (entdel (kora_field data -1)))
+     (convertsimplenotes:list made notes free used)
      (if (< (length used) (length free))
        (kora_alert_message (strcat (kora_number_of (- (length free) (length used)) "text") " in another plane left alone.")))
      (kora_done (strcat (kora_number_of (length used) "text") " made one paragraph.") (- (length notes) (length free))))
     (T (kora_alert_message "The paragraph could not be made. The texts stay as they are."))))
+
+;; What became of the notes: those of free are not on locked layers, those of used are in the paragraph.
+(defun convertsimplenotes:list (made notes free used / unlocked)
+  (setq unlocked (mapcar '(lambda (data) (kora_field data -1)) free))
+  (kora_results "CONVERTSIMPLENOTES"
+    (list (list "done" (strcat "made of " (kora_number_of (length used) "text")) (if made (list made)))
+          (list "skipped" "in another plane" (kora_left_out (mapcar '(lambda (data) (kora_field data -1)) used) unlocked))
+          (list "skipped" "on a locked layer" (kora_left_out unlocked notes)))))
 
 ;; Whether a text lies in the plane of the first.
 (defun convertsimplenotes:is_beside (data first)

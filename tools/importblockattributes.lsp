@@ -22,7 +22,7 @@
           (kora_string_split row "\t")))
 
 ;; Takes the dialog's rows, lists of cells, into the drawing and tells how much that was; the first is the headings.
-(defun importblockattributes:apply (rows / headings mark twice changed references missing refused locked)
+(defun importblockattributes:apply (rows / headings mark twice changed references missing refused locked groups)
   (setq headings (mapcar '(lambda (cell) (strcase (kora_cell_text cell))) (car rows))
         mark     (kora_drawing_mark)
         rows     (mapcar '(lambda (cells) (mapcar 'cons headings cells))
@@ -32,6 +32,7 @@
   (if (and (member "HANDLE" headings) (or (member "BLOCKNAME" headings) (member "ROW KEY" headings)))
     (progn
       (foreach row rows (importblockattributes:take_row row))
+      (kora_results "IMPORTBLOCKATTRIBUTES" (reverse groups))
       (kora_alert_message
         (strcat (kora_number_of changed "attribute") " of " (kora_number_of references "block reference") " changed"
                 (kora_also missing " without their block reference")
@@ -57,21 +58,34 @@
   (kora_tree (vl-remove-if '(lambda (count) (= (cdr count) 1))
                            (kora_counted (vl-remove nil (mapcar 'importblockattributes:reference rows))))))
 
-;; Counts into the variables of importblockattributes:apply.
-(defun importblockattributes:take_row (row / handle entity data before)
+;; Counts into the variables of importblockattributes:apply, and lists there what became of a row.
+(defun importblockattributes:take_row (row / handle entity data before kept)
   (setq handle (importblockattributes:handle row)
         entity (if handle (handent handle))
         data   (if entity (entget entity))
-        before changed)
+        before changed
+        kept   locked)
   (cond
     ((not (and (= (kora_field data 0) "INSERT") (importblockattributes:is_of_block row data)))
-     (setq missing (1+ missing)))
+     (setq missing (1+ missing))
+     (importblockattributes:list_row "no block reference of row "))
     ((or (kora_tree_find twice (importblockattributes:reference row)) (not (importblockattributes:fits row handle)))
-     (setq refused (1+ refused)))
+     (setq refused (1+ refused))
+     (importblockattributes:list_row "of another drawing, with a changed handle or there twice, row "))
     (T
      (foreach column (kora_attribute_columns entity)
        (importblockattributes:take_text (cdr column) (cdr (assoc (car column) row)) (kora_is_locked data)))))
-  (if (> changed before) (setq references (1+ references))))
+  (if (> changed before) (setq references (1+ references)))
+  (importblockattributes:list_texts "done" (- changed before) " changed")
+  (importblockattributes:list_texts "skipped" (- locked kept) " on locked layers"))
+
+;; A row that is left out, by the handle that it has.
+(defun importblockattributes:list_row (words)
+  (setq groups (cons (list "skipped" (strcat words (cond (handle) ("without a handle"))) (list nil)) groups)))
+
+(defun importblockattributes:list_texts (state count words)
+  (if (> count 0)
+    (setq groups (cons (list state (strcat (kora_number_of count "attribute") words) (list entity)) groups))))
 
 ;; Without the column every block is right: the row's mark is there then.
 (defun importblockattributes:is_of_block (row data / name)

@@ -15,7 +15,8 @@
       (setq old (kora_chosen_blocks (kora_state_value state "blockstable"))
             new (car (kora_chosen_blocks (kora_state_value state "blockstablerep"))))
       (if (and old new)
-        (kora_finish_replacement (kora_replace_blocks old new (= (kora_state_value state "attsync") "TRUE")) state)
+        (kora_finish_replacement "REPLACEBLOCK"
+          (kora_replace_blocks old new (= (kora_state_value state "attsync") "TRUE")) state)
         (kora_alert_message "The drawing does not have these blocks."))))
   (kora_end))
 

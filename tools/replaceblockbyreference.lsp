@@ -9,7 +9,7 @@
   (if (and (setq state (kora_ask_replacement 'Dlg_replaceblocktoxref (kora_statefile "replaceblocktoxref") chosen))
            (setq old (kora_chosen_blocks (kora_state_value state "blockstable")))
            (setq new (replaceblockbyreference:attach (replaceblockbyreference:file state))))
-    (kora_finish_replacement (kora_replace_blocks old new nil) state))
+    (kora_finish_replacement "REPLACEBLOCKBYREFERENCE" (kora_replace_blocks old new nil) state))
   (kora_end))
 
 ;; -> the path of the file that was chosen.

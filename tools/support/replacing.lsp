@@ -51,21 +51,20 @@
 ;; (kora_replace_blocks names new sync) makes references to the blocks of these names references to new: those of the
 ;; layouts, and those within blocks unless new would then be in itself. References with an appearance of their own are
 ;; references to the block that they were made from. With sync they get the attributes of new. What is on locked layers
-;; stays. -> (replaced locked circular unsynced), numbers.
+;; stays. -> (replaced locked circular unsynced), lists of references.
 (defun kora_replace_blocks (names new sync / within graph replaced locked circular unsynced remade)
   (setq graph    (kora_block_graph)
         names    (kora:with_appearances (mapcar 'strcase names) graph)
-        within   (kora_blocks_within graph (kora:with_appearances (list (strcase new)) graph))
-        replaced 0 locked 0 circular 0 unsynced 0)
+        within   (kora_blocks_within graph (kora:with_appearances (list (strcase new)) graph)))
   (foreach insert (kora_space_inserts) (kora:replace_insert insert nil))
   (foreach block (mapcar 'strcase (kora_own_definitions))
     (foreach insert (kora_block_inserts block)
       (if (member block within)
-        (if (member (kora_insert_name insert) names) (setq circular (1+ circular)))
+        (if (member (kora_insert_name insert) names) (setq circular (cons insert circular)))
         (kora:replace_insert insert T))))
   (kora_take_places remade)
   (foreach pair remade (entdel (car pair)))
-  (list replaced locked circular unsynced))
+  (mapcar 'reverse (list replaced locked circular unsynced)))
 
 ;; The names with those of the nameless blocks that stand for the same blocks. graph has all names.
 (defun kora:with_appearances (names graph)
@@ -77,13 +76,13 @@
 (defun kora:replace_insert (insert nested / data synced)
   (setq data (entget insert))
   (cond ((not (member (strcase (kora_field data 2)) names)))
-        ((kora_is_locked data) (setq locked (1+ locked)))
+        ((kora_is_locked data) (setq locked (cons insert locked)))
         ((entmod (kora_with_field data 2 new))
          (kora:forget_appearance data)
-         (setq replaced (1+ replaced)
-               synced   (if sync (kora_sync_attributes insert nested) T))
-         (cond ((null synced) (setq unsynced (1+ unsynced)))
-               ((= (type synced) 'ENAME) (setq remade (cons (cons insert synced) remade)))))))
+         (setq synced (if sync (kora_sync_attributes insert nested) T))
+         (cond ((null synced) (setq unsynced (cons insert unsynced)))
+               ((= (type synced) 'ENAME) (setq remade (cons (cons insert synced) remade))))
+         (setq replaced (cons (if (= (type synced) 'ENAME) synced insert) replaced)))))
 
 ;; What an appearance of the reference's own was set to says nothing of another block.
 (defun kora:forget_appearance (data / dictionary)
@@ -95,8 +94,16 @@
   (command "_.-PURGE" "_Blocks" "*" "_No")
   (- before (length (kora_table_names "BLOCK"))))
 
-;; (kora_finish_replacement counts state) purges when the state says so, and tells what was done.
-(defun kora_finish_replacement (counts state / purged)
+;; (kora_finish_replacement title references state) lists what became of the references, as kora_replace_blocks gives
+;; them, purges when the state says so, and tells what was done.
+(defun kora_finish_replacement (title references state / counts purged)
+  (setq counts (mapcar 'length references))
+  ;; Before the purge, which can take blocks with references in them.
+  (kora_results title
+    (mapcar '(lambda (row entities) (append row (list entities)))
+            '(("done" "replaced") ("skipped" "on a locked layer") ("skipped" "within the new block")
+              ("skipped" "within a block, could not get other attributes"))
+            references))
   (if (= (kora_state_value state "purgeitems") "TRUE") (setq purged (kora_purge_blocks)))
   (kora_alert_message
     (strcat (kora_number_of (car counts) "reference") " replaced"
