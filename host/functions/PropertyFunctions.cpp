@@ -1,6 +1,8 @@
 // (getpropertyvalue) and its like: groups of entities by the names that their properties have for people.
 
-#include "host/drawing/selection/EntityProperties.h"
+#include "host/drawing/editing/TextContent.h"
+#include "host/drawing/math/Angles.h"
+#include "host/drawing/properties/EntityProperties.h"
 #include "host/functions/FunctionGroups.h"
 #include "host/kernel/documents/Document.h"
 #include "host/kernel/lisp/EntityList.h"
@@ -19,17 +21,18 @@ using lisp::Value;
 
 using drawing::EntityProperty;
 
-/// What an entity without the group has.
-Value usualValue(const EntityProperty &row)
+Value valueOf(const EntityProperty &row, const std::optional<drawing::FieldValue> &value)
 {
-    const std::optional<drawing::FieldValue> usual = row.usual ? row.usual() : std::nullopt;
-    if (!usual)
+    if (!value)
         return {};
-    if (const auto *number = std::get_if<double>(&*usual))
-        return Value::real(*number);
-    if (const auto *text = std::get_if<QString>(&*usual))
+    const bool isAngle = row.kind == drawing::PropertyKind::Angle || row.kind == drawing::PropertyKind::Direction;
+    if (const auto *number = std::get_if<double>(&*value))
+        return Value::real(isAngle ? *number * drawing::radians : *number);
+    if (const auto *point = std::get_if<drawing::Vec3>(&*value))
+        return toLisp(*point);
+    if (const auto *text = std::get_if<QString>(&*value))
         return Value::string(text->toStdString());
-    return Value::integer(std::get<qint64>(*usual));
+    return Value::integer(std::get<qint64>(*value));
 }
 
 /// A property as it was asked for: its row, and which coordinate of it.
@@ -54,6 +57,7 @@ Wanted findWanted(std::string_view type, const std::string &asked)
 /// The entity of argument 0 with its list.
 struct ListedEntity
 {
+    drawing::Drawing *drawing;
     RecordId record;
     std::string type;
     Value list;
@@ -65,7 +69,7 @@ ListedEntity entityAt(Arguments &args)
     const RecordId record = recordAt(args, 0);
     if (!document.drawing().isAlive(record))
         args.badValue(0, "entity");
-    return {record, document.drawing().typeName(record).toByteArray().toUpper().toStdString(),
+    return {&document.drawing(), record, document.drawing().typeName(record).toByteArray().toUpper().toStdString(),
             entityList(document, record, {})};
 }
 
@@ -85,17 +89,25 @@ Value coordinate(const Value &point, int axis)
     return rest->car();
 }
 
+Value wholeValue(const ListedEntity &entity, const EntityProperty &row)
+{
+    if (row.derived)
+        return valueOf(row, row.derived(*entity.drawing, entity.record));
+    const Value held = valueOfGroup(entity.list, row.code);
+    // What an entity without the group has.
+    return held.isNil() && row.usual ? valueOf(row, row.usual()) : held;
+}
+
 Value presentValue(const ListedEntity &entity, const Wanted &wanted)
 {
-    const Value held = valueOfGroup(entity.list, wanted.row->code);
-    const Value whole = held.isNil() ? usualValue(*wanted.row) : held;
-    return wanted.axis < 0 ? whole : coordinate(whole, wanted.axis);
+    const Value whole = wholeValue(entity, *wanted.row);
+    return wanted.axis < 0 || whole.isNil() ? whole : coordinate(whole, wanted.axis);
 }
 
 Wanted wantedAt(Arguments &args, const ListedEntity &entity)
 {
     const Wanted wanted = findWanted(entity.type, args.string(1));
-    if (!wanted.row)
+    if (!wanted.row || !drawing::isInVersion(entity.drawing->version(), *wanted.row))
         args.badValue(1, "property of " + entity.type);
     return wanted;
 }
@@ -116,6 +128,14 @@ Value withCoordinate(const Value &point, int axis, double value)
     return lisp::listLength(point) == 2 ? Value::point(changed.x, changed.y) : toLisp(changed);
 }
 
+/// What a paragraph says, in as many pieces as it takes. One that says it already stays as it is.
+void setContent(const ListedEntity &entity, const QString &content)
+{
+    drawing::Drawing &drawing = *entity.drawing;
+    if (drawing::contentOf(drawing, entity.record) != content)
+        drawing.setFields(entity.record, drawing::withContent(drawing.fields(entity.record), content));
+}
+
 // (setpropertyvalue entity name value) -> nil. A property that cannot be set, or not so: an error.
 Value setPropertyValue(Arguments &args)
 {
@@ -123,6 +143,10 @@ Value setPropertyValue(Arguments &args)
     const Wanted wanted = wantedAt(args, entity);
     if (wanted.row->isTold)
         args.badValue(1, "read-only property");
+    if (wanted.row->derived) {
+        setContent(entity, stringAt(args, 2));
+        return {};
+    }
     const Value value =
         wanted.axis < 0 ? args[2] : withCoordinate(presentValue(entity, {wanted.row, -1}), wanted.axis, args.real(2));
     const Value changes =
@@ -145,7 +169,7 @@ Value dumpAllProperties(Arguments &args)
     const ListedEntity entity = entityAt(args);
     QString text;
     for (const EntityProperty &row : drawing::entityProperties()) {
-        if (!drawing::hasProperty(entity.type, row))
+        if (!drawing::hasProperty(entity.type, row) || !drawing::isInVersion(entity.drawing->version(), row))
             continue;
         const Value value = presentValue(entity, {&row, -1});
         if (value.isTrue())

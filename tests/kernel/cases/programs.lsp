@@ -83,6 +83,41 @@
 (entmake '((0 . "XLINE") (100 . "AcDbEntity") (100 . "AcDbXline") (10 1.0 2.0 0.0) (11 0.0 1.0 0.0))) (setq x (entlast))
 (setpropertyvalue x "basepoint/x" 5) (list (getpropertyvalue x "BasePoint") (getpropertyvalue x "Direction/Y")) ;= ((5.0 2.0 0.0) 1.0)
 
+; Properties that are worked out
+(defun round (v) (cond ((listp v) (mapcar 'round v)) ((= (type v) 'REAL) (atof (rtos v 2 4))) (T v)))
+(defun values (e names) (mapcar '(lambda (n) (round (getpropertyvalue e n))) names))
+(entmake '((0 . "CIRCLE") (10 1.0 2.0 0.0) (40 . 4.5))) (setq e (entlast))
+(values e '("Diameter" "Circumference" "Area" "PlotStyleName")) ;= (9.0 28.2743 63.6173 "ByColor")
+(entmake '((0 . "LINE") (10 1.0 1.0 0.0) (11 1.0 4.0 4.0))) (setq e (entlast))
+(values e '("Length" "Delta" "Delta/Z" "Angle")) ;= (5.0 (0.0 3.0 4.0) 4.0 1.5708)
+(entmake '((0 . "ARC") (10 1.0 0.0 0.0) (40 . 2.0) (50 . 4.71238898) (51 . 1.57079633))) (setq e (entlast))
+(values e '("StartPoint" "EndPoint" "TotalAngle" "Length" "Area")) ;= ((1.0 -2.0 0.0) (1.0 2.0 0.0) 3.1416 6.2832 6.2832)
+(entmake '((0 . "ARC") (10 1.0 0.0 0.0) (40 . 2.0) (50 . 0.0) (51 . 1.57079633) (210 0.0 0.0 -1.0))) (setq e (entlast))
+(values e '("StartPoint" "EndPoint/X" "EndPoint/Y" "TotalAngle")) ;= ((-3.0 0.0 0.0) -1.0 2.0 1.5708)
+(setpropertyvalue e "StartPoint/X" 2.0) ;= error: bad argument value: read-only property "StartPoint/X" in (SETPROPERTYVALUE), argument 2
+(list (ispropertyreadonly e "Length") (dumpallproperties e)) ;= (1 nil) ;> TotalAngle = 1.5708
+(entmake '((0 . "LWPOLYLINE") (100 . "AcDbEntity") (100 . "AcDbPolyline") (90 . 3) (70 . 0) (10 0.0 0.0) (10 4.0 0.0) (42 . 1.0) (10 4.0 2.0))) (setq e (entlast))
+(values e '("VertexCount" "Length" "Area")) ;= (3 7.1416 5.5708)
+(entmake '((0 . "LWPOLYLINE") (100 . "AcDbEntity") (100 . "AcDbPolyline") (90 . 4) (70 . 1) (10 0.0 0.0) (10 4.0 0.0) (10 4.0 2.0) (10 0.0 0.0))) (setq e (entlast))
+(values e '("VertexCount" "Area")) ;= (4 4.0)
+(entmake '((0 . "ELLIPSE") (100 . "AcDbEntity") (100 . "AcDbEllipse") (10 0.0 0.0 0.0) (11 2.0 0.0 0.0) (40 . 0.5) (41 . 0.0) (42 . 6.283185307179586))) (setq e (entlast))
+(values e '("Area" "Length" "StartPoint")) ;= (6.2832 9.6884 nil)
+
+; Paragraphs of several pieces are one text; the same text leaves the pieces as they are
+(defun repeated (text count) (apply 'strcat (repeat-list text count)))
+(defun repeat-list (text count / l) (repeat count (setq l (cons text l))))
+(entmake (list '(0 . "MTEXT") '(100 . "AcDbEntity") '(100 . "AcDbMText") '(10 0.0 0.0 0.0) '(40 . 2.5) '(41 . 0.0) '(71 . 1) (cons 3 (repeated "ab\\P" 10)) (cons 3 "{\\C1;x}") '(1 . "end"))) (setq e (entlast))
+(defun pieces () (mapcar '(lambda (p) (strlen (cdr p))) (vl-remove-if-not '(lambda (p) (member (car p) '(1 3))) (entget e))))
+(= (getpropertyvalue e "Text") (strcat (repeated "ab\\P" 10) "{\\C1;x}end")) ;= T
+(setpropertyvalue e "Text" (getpropertyvalue e "Text")) (pieces) ;= (40 7 3)
+(setpropertyvalue e "Contents" (repeated "0123456789" 60)) (pieces) ;= (250 250 100)
+(setpropertyvalue e "Text" "short") (pieces) ;= (5)
+(setpropertyvalue e "Text" 5) ;= error: bad argument type: stringp 5 in (SETPROPERTYVALUE), argument 3
+
+; Transparency is of later versions
+(entmake '((0 . "POINT") (10 0.0 0.0 0.0))) (setq e (entlast))
+(getpropertyvalue e "Transparency") ;= 0
+
 ; Colours are asked for on the command line where there is no window
 (acad_colordlg 3) ;< red ;= 1
 (acad_colordlg 3 nil) ;< BYLAYER\n5 ;= 5 ;> Requires a color number or name

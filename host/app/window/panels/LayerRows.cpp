@@ -34,13 +34,6 @@ const drawing::Tag *extendedTag(const drawing::TagList &tags, QByteArrayView app
     return found;
 }
 
-/// The low byte is how much covers, 255 all of it; the flag in front says that it is a number.
-int transparencyPercent(qint64 stored)
-{
-    constexpr qint64 isNumber = 0x02000000;
-    return (stored & isNumber) == 0 ? 0 : int(std::lround((255 - double(stored & 255)) / 2.55));
-}
-
 LayerRow readLayerRow(const drawing::Drawing &drawing, drawing::RecordId entry)
 {
     LayerRow row{.layer = drawing::readLayer(drawing, entry), .colourBook = {}, .description = {}};
@@ -105,6 +98,12 @@ std::pair<const char *, const char *> stateNames(LayerColumn column)
 }
 
 } // namespace
+
+int transparencyPercent(qint64 stored)
+{
+    constexpr qint64 isNumber = 0x02000000;
+    return (stored & isNumber) == 0 ? 0 : int(std::lround((255 - double(stored & 255)) / 2.55));
+}
 
 QString layersText(const char *text)
 {

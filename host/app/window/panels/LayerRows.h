@@ -67,4 +67,7 @@ QString colourText(int index, const std::optional<quint32> &exact);
 /// "Default", "0.25 mm".
 QString weightText(int weight);
 
+/// Of a stored transparency: the low byte is how much covers, 255 all of it; a flag in front says that it is a number.
+int transparencyPercent(qint64 stored);
+
 } // namespace host::app

@@ -40,6 +40,9 @@ PropertyOrder checkedWord(const drawing::Drawing &drawing, PropertyKind kind, co
         return refusedOrder(QT_TRANSLATE_NOOP("Properties", "There is no linetype \"%1\"."), text);
     if (kind == PropertyKind::Weight && !isListed(weightTexts(), text))
         return refusedOrder(QT_TRANSLATE_NOOP("Properties", "\"%1\" is no lineweight."), text);
+    if (kind == PropertyKind::Transparency && transparencyWord(text).isEmpty())
+        return refusedOrder(QT_TRANSLATE_NOOP("Properties", "\"%1\" is no transparency: ByLayer, ByBlock or 0 to 90."),
+                            text);
     return {};
 }
 
@@ -61,6 +64,8 @@ QStringList generalWords(const drawing::EntityProperty &property, const QString 
         return {u"_LType"_s, text};
     case PropertyKind::Weight:
         return {u"_LWeight"_s, text.section(u' ', 0, 0)};
+    case PropertyKind::Transparency:
+        return {u"_TRansparency"_s, transparencyWord(text)};
     default:
         return {};
     }
@@ -69,7 +74,7 @@ QStringList generalWords(const drawing::EntityProperty &property, const QString 
 bool isWordKind(PropertyKind kind)
 {
     return kind == PropertyKind::Colour || kind == PropertyKind::Layer || kind == PropertyKind::Linetype ||
-           kind == PropertyKind::Weight;
+           kind == PropertyKind::Weight || kind == PropertyKind::Transparency;
 }
 
 /// What is chosen, each entity by itself: a value that one of them does not take leaves the others.

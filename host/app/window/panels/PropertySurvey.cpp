@@ -13,7 +13,6 @@ using drawing::FieldValue;
 using drawing::PropertyKind;
 
 constexpr int exactCode = 420;
-constexpr int paragraphPieces = 3;
 
 /// A look at the clock for so many entities.
 constexpr std::size_t entitiesBetweenLooks = 64;
@@ -28,21 +27,6 @@ FieldValue entityColour(const drawing::TagList &tags)
                                            : colourText(int(index), {});
 }
 
-bool isLongParagraph(const drawing::TagList &tags, const EntityProperty &property)
-{
-    return QByteArrayView(property.type) == "MTEXT" && property.code == 1 && tags.find(paragraphPieces);
-}
-
-/// The pieces in front, and the last one.
-QString longParagraph(const drawing::TagList &tags)
-{
-    QString text;
-    for (const drawing::Tag &tag : tags.own())
-        if (tag.code == paragraphPieces || tag.code == 1)
-            text += tags.decoded(tag);
-    return text;
-}
-
 void addTo(SurveyedValue &sum, const SurveyedValue &more)
 {
     sum.varies = sum.varies || more.varies || (sum.count > 0 && more.count > 0 && sum.common != more.common);
@@ -54,18 +38,21 @@ void addTo(SurveyedValue &sum, const SurveyedValue &more)
 
 } // namespace
 
-std::optional<FieldValue> propertyValue(const drawing::TagList &tags, const EntityProperty &property)
+std::optional<FieldValue> propertyValue(const drawing::Drawing &drawing, drawing::RecordId entity,
+                                        const EntityProperty &property)
 {
+    if (property.derived)
+        return property.derived(drawing, entity);
+    const drawing::TagList tags = drawing.tags(entity);
     if (property.kind == PropertyKind::Colour)
         return entityColour(tags);
-    if (isLongParagraph(tags, property))
-        return longParagraph(tags);
     const drawing::Tag *tag = tags.find(property.code);
     if (!tag)
         return property.usual ? property.usual() : std::nullopt;
     switch (property.kind) {
     case PropertyKind::Whole:
     case PropertyKind::Weight:
+    case PropertyKind::Transparency:
         return FieldValue(tag->integer().value_or(0));
     case PropertyKind::Number:
     case PropertyKind::Length:
@@ -110,12 +97,12 @@ void PropertySurvey::look(drawing::RecordId entity)
     if (!m_lockedLayers.isEmpty() && m_lockedLayers.contains(tags.text(8, QStringLiteral("0")).toCaseFolded()))
         ++m_lockedCount;
     for (std::size_t i = 0; i < properties.size(); ++i) {
-        if (!drawing::hasProperty(type, properties[i]))
+        if (!drawing::hasProperty(type, properties[i]) || !drawing::isInVersion(m_drawing.version(), properties[i]))
             continue;
         SurveyedValue &value = values[i];
-        value.isTold = value.isTold || properties[i].isTold || isLongParagraph(tags, properties[i]);
+        value.isTold = value.isTold || properties[i].isTold;
         if (!value.varies) {
-            std::optional<FieldValue> own = propertyValue(tags, properties[i]);
+            std::optional<FieldValue> own = propertyValue(m_drawing, entity, properties[i]);
             value.varies = value.count > 0 && own != value.common;
             value.common = std::move(own);
         }

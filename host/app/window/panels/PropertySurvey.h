@@ -1,7 +1,7 @@
 #pragma once
 
+#include "host/drawing/properties/EntityProperties.h"
 #include "host/drawing/records/Drawing.h"
-#include "host/drawing/selection/EntityProperties.h"
 
 #include <QByteArray>
 #include <QDeadlineTimer>
@@ -22,7 +22,8 @@ struct SurveyedValue
 };
 
 /// The property's value as the record has it, colours as colourText() has them (exact ones too), angles in degrees.
-std::optional<drawing::FieldValue> propertyValue(const drawing::TagList &tags, const drawing::EntityProperty &property);
+std::optional<drawing::FieldValue> propertyValue(const drawing::Drawing &drawing, drawing::RecordId entity,
+                                                 const drawing::EntityProperty &property);
 
 /// Looks through chosen entities for what they have in common, a piece at a time so that nobody waits for many. The
 /// drawing must not change meanwhile, and outlive it; entities that are gone are left out.

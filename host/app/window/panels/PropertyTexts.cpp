@@ -2,11 +2,13 @@
 
 #include "host/app/window/panels/LayerModel.h"
 #include "host/app/window/panels/LayerOrders.h"
+#include "host/app/window/panels/LayerRows.h"
 #include "host/app/window/panels/StateIcons.h"
 #include "host/commands/common/PropertyValues.h"
 #include "host/drawing/math/Angles.h"
 #include "host/drawing/records/Entities.h"
 #include "host/drawing/records/Tables.h"
+#include "host/kernel/documents/CurrentProperties.h"
 #include "host/kernel/documents/Document.h"
 #include "host/kernel/input/Units.h"
 #include "host/kernel/variables/SystemVariables.h"
@@ -120,6 +122,8 @@ QString valueText(const kernel::Document &document, PropertyKind kind, const Fie
         return QString::number(coordinateOf(value, axis), 'g', 10);
     case PropertyKind::Weight:
         return entityWeightText(int(field.integer()));
+    case PropertyKind::Transparency:
+        return transparencyText(field.integer());
     default:
         return field.text();
     }
@@ -199,6 +203,23 @@ QStringList weightTexts()
     for (const int weight : kernel::lineweights())
         texts.append(entityWeightText(weight));
     return texts;
+}
+
+QString transparencyText(qint64 stored)
+{
+    if (stored == 0)
+        return u"ByLayer"_s;
+    return stored == kernel::transparencyByBlock ? u"ByBlock"_s : QString::number(transparencyPercent(stored));
+}
+
+QString transparencyWord(const QString &text)
+{
+    for (const QString &word : {u"ByLayer"_s, u"ByBlock"_s})
+        if (text.trimmed().compare(word, Qt::CaseInsensitive) == 0)
+            return word;
+    bool isNumber = false;
+    const int percent = QString(text).remove(u'%').trimmed().toInt(&isNumber);
+    return isNumber && percent >= 0 && percent <= 90 ? QString::number(percent) : QString();
 }
 
 QStringList linetypeTexts(const drawing::Drawing &drawing)

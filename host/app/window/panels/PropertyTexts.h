@@ -44,6 +44,9 @@ void fillColours(QComboBox &box);
 QString entityWeightText(int weight);
 int weightOfText(const QString &text);
 QStringList weightTexts();
+/// "ByLayer", "ByBlock", "40" of what group 440 holds; and the word that CHPROP takes, empty for what is none.
+QString transparencyText(qint64 stored);
+QString transparencyWord(const QString &text);
 /// "ByLayer", "ByBlock" and those of the drawing.
 QStringList linetypeTexts(const drawing::Drawing &drawing);
 QStringList layerTexts(const drawing::Drawing &drawing);

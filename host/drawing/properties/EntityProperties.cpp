@@ -1,4 +1,6 @@
-#include "host/drawing/selection/EntityProperties.h"
+#include "host/drawing/properties/EntityProperties.h"
+
+#include "host/drawing/properties/DerivedValues.h"
 
 #include <QtGlobal>
 
@@ -60,6 +62,10 @@ constexpr EntityProperty properties[] = {
     {"", "LineWeight", 370, byLayerWeight, QT_TRANSLATE_NOOP("Properties", "Lineweight"), General, PropertyKind::Weight,
      false},
     {"", "Thickness", 39, nought, QT_TRANSLATE_NOOP("Properties", "Thickness"), General, PropertyKind::Length, false},
+    {"", "Transparency", 440, zero, QT_TRANSLATE_NOOP("Properties", "Transparency"), General,
+     PropertyKind::Transparency, false},
+    {"", "PlotStyleName", 0, nullptr, QT_TRANSLATE_NOOP("Properties", "Plot style"), General, PropertyKind::Text, true,
+     plotStyleName},
     {"", "Normal", 210, nullptr, nullptr, Misc, PropertyKind::Vector, false},
     {"3DFACE", "FirstCorner", 10, nullptr, QT_TRANSLATE_NOOP("Properties", "Corner 1"), Geometry, PropertyKind::Point,
      false},
@@ -75,6 +81,16 @@ constexpr EntityProperty properties[] = {
      PropertyKind::Direction, false},
     {"ARC", "EndAngle", 51, nullptr, QT_TRANSLATE_NOOP("Properties", "End angle"), Geometry, PropertyKind::Direction,
      false},
+    {"ARC", "StartPoint", 0, nullptr, QT_TRANSLATE_NOOP("Properties", "Start"), Geometry, PropertyKind::Point, true,
+     curveStart},
+    {"ARC", "EndPoint", 0, nullptr, QT_TRANSLATE_NOOP("Properties", "End"), Geometry, PropertyKind::Point, true,
+     curveEnd},
+    {"ARC", "TotalAngle", 0, nullptr, QT_TRANSLATE_NOOP("Properties", "Total angle"), Geometry, PropertyKind::Angle,
+     true, arcAngle},
+    {"ARC", "Length", 0, nullptr, QT_TRANSLATE_NOOP("Properties", "Arc length"), Geometry, PropertyKind::Length, true,
+     curveLength},
+    {"ARC", "Area", 0, nullptr, QT_TRANSLATE_NOOP("Properties", "Area"), Geometry, PropertyKind::Number, true,
+     curveArea},
     {"ATTDEF", "Height", 40, nullptr, QT_TRANSLATE_NOOP("Properties", "Height"), Text, PropertyKind::Length, false},
     {"ATTDEF", "Position", 10, nullptr, QT_TRANSLATE_NOOP("Properties", "Position"), Geometry, PropertyKind::Point,
      false},
@@ -92,6 +108,12 @@ constexpr EntityProperty properties[] = {
     {"ATTRIB", "TextString", 1, nullptr, QT_TRANSLATE_NOOP("Properties", "Value"), Text, PropertyKind::Text, false},
     {"CIRCLE", "Center", 10, nullptr, QT_TRANSLATE_NOOP("Properties", "Center"), Geometry, PropertyKind::Point, false},
     {"CIRCLE", "Radius", 40, nullptr, QT_TRANSLATE_NOOP("Properties", "Radius"), Geometry, PropertyKind::Length, false},
+    {"CIRCLE", "Diameter", 0, nullptr, QT_TRANSLATE_NOOP("Properties", "Diameter"), Geometry, PropertyKind::Length,
+     true, circleDiameter},
+    {"CIRCLE", "Circumference", 0, nullptr, QT_TRANSLATE_NOOP("Properties", "Circumference"), Geometry,
+     PropertyKind::Length, true, curveLength},
+    {"CIRCLE", "Area", 0, nullptr, QT_TRANSLATE_NOOP("Properties", "Area"), Geometry, PropertyKind::Number, true,
+     curveArea},
     {"DIMENSION", "DimensionStyleName", 3, standardName, QT_TRANSLATE_NOOP("Properties", "Dimension style"), Misc,
      PropertyKind::DimensionStyle, false},
     {"DIMENSION", "DimensionText", 1, nullptr, QT_TRANSLATE_NOOP("Properties", "Text override"), Text,
@@ -107,6 +129,14 @@ constexpr EntityProperty properties[] = {
      PropertyKind::Number, false},
     {"ELLIPSE", "EndParam", 42, nullptr, QT_TRANSLATE_NOOP("Properties", "End parameter"), Geometry,
      PropertyKind::Number, false},
+    {"ELLIPSE", "StartPoint", 0, nullptr, QT_TRANSLATE_NOOP("Properties", "Start"), Geometry, PropertyKind::Point, true,
+     curveStart},
+    {"ELLIPSE", "EndPoint", 0, nullptr, QT_TRANSLATE_NOOP("Properties", "End"), Geometry, PropertyKind::Point, true,
+     curveEnd},
+    {"ELLIPSE", "Length", 0, nullptr, QT_TRANSLATE_NOOP("Properties", "Length"), Geometry, PropertyKind::Length, true,
+     curveLength},
+    {"ELLIPSE", "Area", 0, nullptr, QT_TRANSLATE_NOOP("Properties", "Area"), Geometry, PropertyKind::Number, true,
+     curveArea},
     {"HATCH", "Elevation", 10, nullptr, nullptr, Geometry, PropertyKind::Point, false},
     {"HATCH", "PatternAngle", 52, nought, QT_TRANSLATE_NOOP("Properties", "Angle"), Misc, PropertyKind::Angle, false},
     {"HATCH", "PatternName", 2, nullptr, QT_TRANSLATE_NOOP("Properties", "Pattern"), Misc, PropertyKind::Text, true},
@@ -126,12 +156,25 @@ constexpr EntityProperty properties[] = {
      PropertyKind::DimensionStyle, false},
     {"LINE", "StartPoint", 10, nullptr, QT_TRANSLATE_NOOP("Properties", "Start"), Geometry, PropertyKind::Point, false},
     {"LINE", "EndPoint", 11, nullptr, QT_TRANSLATE_NOOP("Properties", "End"), Geometry, PropertyKind::Point, false},
+    {"LINE", "Delta", 0, nullptr, QT_TRANSLATE_NOOP("Properties", "Delta"), Geometry, PropertyKind::Vector, true,
+     lineDelta},
+    {"LINE", "Angle", 0, nullptr, QT_TRANSLATE_NOOP("Properties", "Angle"), Geometry, PropertyKind::Direction, true,
+     lineAngle},
+    {"LINE", "Length", 0, nullptr, QT_TRANSLATE_NOOP("Properties", "Length"), Geometry, PropertyKind::Length, true,
+     curveLength},
     {"LWPOLYLINE", "ConstantWidth", 43, nought, QT_TRANSLATE_NOOP("Properties", "Global width"), Geometry,
      PropertyKind::Length, false},
     {"LWPOLYLINE", "Elevation", 38, nought, QT_TRANSLATE_NOOP("Properties", "Elevation"), Geometry,
      PropertyKind::Length, false},
-    {"MTEXT", "Contents", 1, nullptr, nullptr, Text, PropertyKind::Text, false},
-    {"MTEXT", "Text", 1, nullptr, QT_TRANSLATE_NOOP("Properties", "Contents"), Text, PropertyKind::Text, false},
+    {"LWPOLYLINE", "VertexCount", 0, nullptr, QT_TRANSLATE_NOOP("Properties", "Vertices"), Geometry,
+     PropertyKind::Whole, true, vertexCount},
+    {"LWPOLYLINE", "Length", 0, nullptr, QT_TRANSLATE_NOOP("Properties", "Length"), Geometry, PropertyKind::Length,
+     true, curveLength},
+    {"LWPOLYLINE", "Area", 0, nullptr, QT_TRANSLATE_NOOP("Properties", "Area"), Geometry, PropertyKind::Number, true,
+     curveArea},
+    {"MTEXT", "Contents", 1, nullptr, nullptr, Text, PropertyKind::Text, false, wholeContent},
+    {"MTEXT", "Text", 1, nullptr, QT_TRANSLATE_NOOP("Properties", "Contents"), Text, PropertyKind::Text, false,
+     wholeContent},
     {"MTEXT", "TextStyleName", 7, standardName, QT_TRANSLATE_NOOP("Properties", "Style"), Text, PropertyKind::TextStyle,
      false},
     {"MTEXT", "Location", 10, nullptr, QT_TRANSLATE_NOOP("Properties", "Location"), Geometry, PropertyKind::Point,
@@ -143,6 +186,12 @@ constexpr EntityProperty properties[] = {
     {"MTEXT", "Width", 41, nought, QT_TRANSLATE_NOOP("Properties", "Width"), Text, PropertyKind::Length, false},
     {"POINT", "Position", 10, nullptr, QT_TRANSLATE_NOOP("Properties", "Position"), Geometry, PropertyKind::Point,
      false},
+    {"POLYLINE", "VertexCount", 0, nullptr, QT_TRANSLATE_NOOP("Properties", "Vertices"), Geometry, PropertyKind::Whole,
+     true, vertexCount},
+    {"POLYLINE", "Length", 0, nullptr, QT_TRANSLATE_NOOP("Properties", "Length"), Geometry, PropertyKind::Length, true,
+     curveLength},
+    {"POLYLINE", "Area", 0, nullptr, QT_TRANSLATE_NOOP("Properties", "Area"), Geometry, PropertyKind::Number, true,
+     curveArea},
     {"RAY", "BasePoint", 10, nullptr, QT_TRANSLATE_NOOP("Properties", "Start"), Geometry, PropertyKind::Point, false},
     {"RAY", "Direction", 11, nullptr, QT_TRANSLATE_NOOP("Properties", "Direction"), Geometry, PropertyKind::Vector,
      false},
@@ -160,6 +209,14 @@ constexpr EntityProperty properties[] = {
     {"SOLID", "FourthCorner", 13, nullptr, QT_TRANSLATE_NOOP("Properties", "Corner 4"), Geometry, PropertyKind::Point,
      false},
     {"SPLINE", "Degree", 71, nullptr, QT_TRANSLATE_NOOP("Properties", "Degree"), Misc, PropertyKind::Whole, true},
+    {"SPLINE", "StartPoint", 0, nullptr, QT_TRANSLATE_NOOP("Properties", "Start"), Geometry, PropertyKind::Point, true,
+     curveStart},
+    {"SPLINE", "EndPoint", 0, nullptr, QT_TRANSLATE_NOOP("Properties", "End"), Geometry, PropertyKind::Point, true,
+     curveEnd},
+    {"SPLINE", "Length", 0, nullptr, QT_TRANSLATE_NOOP("Properties", "Length"), Geometry, PropertyKind::Length, true,
+     curveLength},
+    {"SPLINE", "Area", 0, nullptr, QT_TRANSLATE_NOOP("Properties", "Area"), Geometry, PropertyKind::Number, true,
+     curveArea},
     {"TEXT", "TextString", 1, nullptr, QT_TRANSLATE_NOOP("Properties", "Contents"), Text, PropertyKind::Text, false},
     {"TEXT", "TextStyleName", 7, standardName, QT_TRANSLATE_NOOP("Properties", "Style"), Text, PropertyKind::TextStyle,
      false},
@@ -192,6 +249,11 @@ constexpr EntityProperty properties[] = {
 std::span<const EntityProperty> entityProperties()
 {
     return properties;
+}
+
+bool isInVersion(Version version, const EntityProperty &property)
+{
+    return property.kind != PropertyKind::Transparency || version >= Version::R2004;
 }
 
 bool hasProperty(QByteArrayView type, const EntityProperty &property)

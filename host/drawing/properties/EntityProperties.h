@@ -1,6 +1,6 @@
 #pragma once
 
-#include "host/drawing/tags/Tag.h"
+#include "host/drawing/records/Drawing.h"
 
 #include <QByteArrayView>
 
@@ -24,6 +24,7 @@ enum class PropertyKind
     Layer,
     Linetype,
     Weight,
+    Transparency, ///< of entities, as group 440 has it: 0 ByLayer, 0x01000000 ByBlock, 0x02000000 + what covers
     TextStyle,
     DimensionStyle
 };
@@ -48,10 +49,14 @@ struct EntityProperty
     PropertySection section;
     PropertyKind kind;
     bool isTold; ///< worked out; nobody sets it
+    /// What gives the value where no single group has it; null for all others, which have a code.
+    std::optional<FieldValue> (*derived)(const Drawing &, RecordId) = nullptr;
 };
 
 /// All of them, those of all entities first, then by types in alphabetical order.
 std::span<const EntityProperty> entityProperties();
+/// Whether drawings of this version have the property.
+bool isInVersion(Version version, const EntityProperty &property);
 /// Whether entities of this type (in upper case) have the property.
 bool hasProperty(QByteArrayView type, const EntityProperty &property);
 
