@@ -70,25 +70,35 @@
     (if (< left 0) (setq left nil)))
   (list (kora_first_word line) (kora:joined (reverse (cdr parts)) " ") (reverse lines)))
 
-(defun dimstyleimport:import (state sections / texts dimensions count)
+(defun dimstyleimport:import (state sections / texts dimensions count groups)
   (setq texts      (= (kora_state_value state "cbtextstyle") "TRUE")
         dimensions (= (kora_state_value state "cbdimensionstyle") "TRUE")
         count      0)
   (foreach section sections
-    (if (dimstyleimport:style section texts dimensions) (setq count (1+ count))))
+    (if (dimstyleimport:style section texts dimensions)
+      (setq count  (1+ count)
+            groups (cons (list "done" (strcat (car section) ": imported") '(nil)) groups))))
+  (kora_results "DIMSTYLEIMPORT" (reverse groups))
   (kora_alert_message (strcat (itoa count) (if (= count 1) " dimension style" " dimension styles") " imported.")))
+
+;; Says why a style is not imported, in a message and in the list of dimstyleimport:import. -> nil.
+(defun dimstyleimport:leave (name why message)
+  (setq groups (cons (list "skipped" (strcat name ": " why) '(nil)) groups))
+  (kora_alert_message message)
+  nil)
 
 ;; Makes or overwrites one style. -> T, nil after a message when the style stays as it was.
 (defun dimstyleimport:style (section texts dimensions / name existing fields left)
   (setq name     (car section)
         existing (tblobjname "DIMSTYLE" name))
   (cond
-    ((null (cadr section)) (kora_alert_message (strcat "The style " name " is cut off in the file.")) nil)
-    ((not (snvalid name)) (kora_alert_message (strcat name " cannot be the name of a dimension style.")) nil)
+    ((null (cadr section))
+     (dimstyleimport:leave name "cut off in the file" (strcat "The style " name " is cut off in the file.")))
+    ((not (snvalid name))
+     (dimstyleimport:leave name "not a name of a style" (strcat name " cannot be the name of a dimension style.")))
     ((and existing (not dimensions))
      (if texts (dimstyleimport:overwrite_text_style (cadr section)))
-     (kora_alert_message (strcat "The style " name " exists already and stays as it is."))
-     nil)
+     (dimstyleimport:leave name "exists already" (strcat "The style " name " exists already and stays as it is.")))
     ((progn
        (setq fields (dimstyleimport:fields section texts))
        (if existing
@@ -98,7 +108,7 @@
                           (dimstyleimport:marked fields section nil)))))
      (dimstyleimport:say_left name fields)
      T)
-    (T (kora_alert_message (strcat "The style " name " could not be made.")) nil)))
+    (T (dimstyleimport:leave name "could not be made" (strcat "The style " name " could not be made.")))))
 
 ;; fields with the annotative mark that the file says, or that an existing style loses.
 (defun dimstyleimport:marked (fields section existing / is_marked)

@@ -67,8 +67,15 @@
       (if (setq unsorted (drawordercolor:unsorted (drawordercolor:rows entities colors)))
         (drawordercolor:to_front unsorted))
       (if unsorted (drawordercolor:arrange entities colors))))
+  (kora_results "DRAWORDERCOLOR"
+    (append (mapcar '(lambda (group) (drawordercolor:result "done" "put in order, color " group)) found)
+            (mapcar '(lambda (group) (drawordercolor:result "skipped" "not in the order, color " group))
+                    (vl-remove-if '(lambda (group) (member (car group) colors)) groups))))
   (kora_alert_message (strcat (itoa (length entities)) (if (= (length entities) 1) " entity" " entities") " of "
                               (kora_number_of (length colors) "color") " put in order.")))
+
+(defun drawordercolor:result (state words group)
+  (list state (strcat words (itoa (car group))) (cdr group)))
 
 (defun drawordercolor:to_front (entities)
   (command "_.DRAWORDER" (kora_selection entities) "" "_Front"))

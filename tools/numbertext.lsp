@@ -37,12 +37,21 @@
         ((and (kora_state_is state "placement_replace") (= (kora_state_value state "search") ""))
          "There is no text to find.")))
 
-(defun numbertext:run (texts state / free points)
-  (setq free (kora_usable texts (list kora_on_locked_layer '(numbertext:is_empty "empty"))))
+(defun numbertext:run (texts state / usable free points)
+  (setq usable (kora_usable texts (list kora_on_locked_layer '(numbertext:is_empty "empty")))
+        free   usable)
   (if (kora_state_is state "placement_replace")
     (setq free (numbertext:with_search free (kora_state_value state "search"))))
   (if (setq points (numbertext:points state))
-    (numbertext:write (numbertext:sorted free state points) state)))
+    (numbertext:write (numbertext:sorted free state points) state (numbertext:left texts usable free))))
+
+;; The texts that get no number, as groups of kora_results. Those of free are usable and have the text to be replaced.
+(defun numbertext:left (texts usable free / unused locked)
+  (setq unused (kora_left_out usable texts)
+        locked (vl-remove-if-not '(lambda (text) (kora_is_locked (entget text))) unused))
+  (list (list "skipped" "without the text to find" (kora_left_out free usable))
+        (list "skipped" "empty" (kora_left_out locked unused))
+        (list "skipped" "on a locked layer" locked)))
 
 ;; Whether a text shows nothing: there is nothing to find its number by.
 (defun numbertext:is_empty (data)
@@ -108,16 +117,20 @@
 (defun numbertext:has (part search)
   (and (= (car part) 'TEXT) (vl-string-search search (vl-list->string (cdr part)))))
 
-(defun numbertext:write (texts state / number step places count data)
+;; left is what is listed beside the numbers.
+(defun numbertext:write (texts state left / number step places count label groups)
   (setq number (kora_state_real state "tx_init")
         step   (kora_state_real state "tx_step")
         places (max (numbertext:places (kora_state_value state "tx_init"))
                     (numbertext:places (kora_state_value state "tx_step")))
         count  0)
   (foreach text texts
-    (setq data (entget text))
-    (if (entmod (kora_with_content data (numbertext:content data state (numbertext:label state (+ number (* count step)) places))))
-      (setq count (1+ count))))
+    (setq label (numbertext:label state (+ number (* count step)) places))
+    (if (entmod (kora_with_content (entget text) (numbertext:content (entget text) state label)))
+      (setq count  (1+ count)
+            groups (cons (list "done" label (list text)) groups))
+      (setq groups (cons (list "skipped" "could not be changed" (list text)) groups))))
+  (kora_results "NUMBERTEXT" (append (reverse groups) left))
   (kora_alert_message (strcat (kora_number_of count "text") " numbered.")))
 
 ;; How many digits a typed number has behind its point.

@@ -73,13 +73,14 @@
   (strcat (car file) "^" (kora_replace_all "\\U+005E" "^" (cadr file))))
 
 ;; Takes what the dialog gave back, entries as it got them, into the drawing.
-(defun redefinepaths:apply (files result / tree entry changed locked failed)
+(defun redefinepaths:apply (files result / tree entry changed locked failed groups)
   (setq tree    (redefinepaths:tree files)
         changed 0 locked 0 failed 0)
   (foreach text result
     (setq entry (kora_string_split text "^")
           files (cdr (kora_tree_find tree (strcat (car entry) "^" (cadr entry)))))
     (if files (redefinepaths:change files (kora_string_join (cddr entry) "^"))))
+  (kora_results "REDEFINEPATHS" (reverse groups))
   (kora_alert_message (strcat (kora_number_of changed "path") " changed"
                               (kora_also locked " on locked layers left as they were")
                               (kora_also failed " could not be changed") ".")))
@@ -94,9 +95,22 @@
 (defun redefinepaths:change (file path / data)
   (setq data (entget (cadddr file)))
   (cond ((= path (vl-string-translate "/" "\\" (caddr file))))
-        ((and (= (car file) "RemoteText") (kora_is_locked data)) (setq locked (1+ locked)))
-        ((redefinepaths:set file (redefinepaths:spelled path (caddr file)) data) (setq changed (1+ changed)))
-        (T (setq failed (1+ failed)))))
+        ((and (= (car file) "RemoteText") (kora_is_locked data))
+         (setq locked (1+ locked))
+         (redefinepaths:list "skipped" "on a locked layer"))
+        ((redefinepaths:set file (redefinepaths:spelled path (caddr file)) data)
+         (setq changed (1+ changed))
+         (redefinepaths:list "done" (strcat (caddr file) " -> " (kora_field (entget (cadddr file)) (last file)))))
+        (T
+         (setq failed (1+ failed))
+         (redefinepaths:list "skipped" (strcat "could not be changed to " path)))))
+
+;; Says what became of the path of file. Only remote texts are something to be seen.
+(defun redefinepaths:list (state words)
+  (setq groups (cons (list state
+                           (strcat (car file) " " (cadr file) ": " words)
+                           (list (if (= (car file) "RemoteText") (cadddr file))))
+                     groups)))
 
 ;; The new path with slashes where the old one has no others.
 (defun redefinepaths:spelled (path old)

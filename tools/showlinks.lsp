@@ -113,7 +113,6 @@
 
 ;; Takes what the dialog wrote into the drawing and tells how much that was.
 (defun showlinks:apply (links / changed removed locked fields data)
-  (setq changed 0 removed 0 locked 0)
   (foreach line (kora_read_lines links)
     (setq fields (kora_string_split line "^"))
     (if (= (car fields) "REMOVE")
@@ -121,8 +120,12 @@
       (if (and (setq data (showlinks:data (car fields)))
                (/= (showlinks:written fields) (showlinks:shown (showlinks:url data))))
         (showlinks:change data (showlinks:written fields)))))
-  (kora_alert_message (strcat (kora_number_of changed "link") " changed, " (itoa removed) " removed"
-                              (kora_also locked " on locked layers left as they were") ".")))
+  (kora_results "SHOWLINKS"
+    (list (list "done" "link changed" (reverse changed))
+          (list "done" "link removed" (reverse removed))
+          (list "skipped" "on a locked layer" (reverse locked))))
+  (kora_alert_message (strcat (kora_number_of (length changed) "link") " changed, " (itoa (length removed)) " removed"
+                              (kora_also (length locked) " on locked layers left as they were") ".")))
 
 ;; What stands between the handle and the last two fields.
 (defun showlinks:written (fields)
@@ -135,11 +138,12 @@
            (showlinks:url data))
     data))
 
+;; What becomes of an entity is kept in the variables of showlinks:apply.
 (defun showlinks:change (data url)
-  (cond ((kora_is_locked data) (setq locked (1+ locked)))
+  (cond ((kora_is_locked data) (setq locked (cons (kora_field data -1) locked)))
         ((entmod (subst (list -3 (showlinks:with_url (cadr (assoc -3 data)) (showlinks:edited (showlinks:url data) url)))
                         (assoc -3 data) data))
-         (setq changed (1+ changed)))))
+         (setq changed (cons (kora_field data -1) changed)))))
 
 ;; The URL with the part changed that is another in what the dialog gave back; at both ends of it nothing changes that
 ;; the file cannot have.
@@ -170,7 +174,7 @@
           items))
 
 (defun showlinks:remove (data)
-  (cond ((kora_is_locked data) (setq locked (1+ locked)))
-        ((entmod (subst '(-3 ("PE_URL")) (assoc -3 data) data)) (setq removed (1+ removed)))))
+  (cond ((kora_is_locked data) (setq locked (cons (kora_field data -1) locked)))
+        ((entmod (subst '(-3 ("PE_URL")) (assoc -3 data) data)) (setq removed (cons (kora_field data -1) removed)))))
 
 (princ)
