@@ -10,7 +10,7 @@
 ;;; drawings have different definitions of one name (layers, linetypes, styles, blocks), the user says whether that of the
 ;;; target counts for all or the others get the name of their file and "$" in front.
 
-(defun c:mergesheets (/ *error* kora:variables entries state target sheets)
+(defun c:mergesheets (/ *error* kora:variables entries state target sheets groups)
   (kora_begin '(("CMDECHO" . 0)))
   (cond
     ((null merge-sheets) (kora_refuse "This program cannot merge sheets."))
@@ -80,12 +80,17 @@
   (cond
     ((not (wcmatch (strcase (car entry)) "*.DXF,*.DWG")) (list (list nil (car entry) (cdr entry))))
     ((= (type (setq sheets (drawing-sheets (car entry)))) 'STR)
-     (kora_refuse (strcat (car entry) " is left out: " sheets)))
+     (mergesheets:leave (car entry) (strcat "is left out: " sheets)))
     ((null (setq used (mergesheets:used sheets)))
-     (kora_refuse (strcat (car entry) " is left out: nothing is drawn on its sheets.")))
+     (mergesheets:leave (car entry) "is left out: nothing is drawn on its sheets."))
     ((cdr used)
      (mapcar '(lambda (sheet) (list (car entry) sheet (strcat (cdr entry) " " sheet))) used))
     (T (list (list (car entry) (car used) (cdr entry))))))
+
+;; Says why a file gives no sheet, and keeps it for the list in groups of c:mergesheets. -> nil.
+(defun mergesheets:leave (path why)
+  (setq groups (cons (list "skipped" (strcat path " " why) '(nil)) groups))
+  (kora_refuse (strcat path " " why)))
 
 ;; -> the name, with a number behind where another sheet has it and the user does not give one.
 (defun mergesheets:free_name (name taken state / number free typed)
@@ -114,10 +119,15 @@
     (T
      (foreach sheet sheets
        (if (not (member (car sheet) files)) (setq files (cons (car sheet) files))))
+     (kora_results "MERGESHEETS" (append (mapcar 'mergesheets:merged sheets) (reverse groups)))
      (kora_alert_message
        (strcat (kora_number_of (length sheets) "sheet") " of " (kora_number_of (length files) "drawing") " merged"
                (if target (strcat " into " target) "")
                (kora_also outcome (if (= outcome 1) " entity left out" " entities left out")) ".")))))
+
+;; -> the group of kora_results for a sheet, as merge-sheets wants it.
+(defun mergesheets:merged (sheet)
+  (list "done" (strcat (if (car sheet) (strcat (car sheet) " ") "") (cadr sheet) " -> " (caddr sheet)) '(nil)))
 
 (defun mergesheets:failed (reason)
   (kora_refuse (strcat "Nothing was merged: " reason)))

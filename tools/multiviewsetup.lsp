@@ -313,6 +313,10 @@
             model (multiviewsetup:ask_units "\nEnter number of model space units"
                                             (cond ((kora_state_real state "curscale")) (1.0))))
       (foreach entity fit (multiviewsetup:set_scale (entget entity) (/ paper model) (kora_state_is state "ps_scale")))
+      (kora_results "MULTIVIEWSETUP"
+        (list (list "done" "scaled" fit)
+              (list "skipped" "its display or border is fixed" (kora_left_out fit free))
+              (list "skipped" "on a locked layer" (kora_left_out free viewports))))
       (kora_done (strcat (kora_number_of (length fit) "viewport") " scaled to " (kora_number_text paper 8) ":"
                          (kora_number_text model 8)
                          (kora_also (- (length free) (length fit)) " with a fixed display or border left alone") ".")
