@@ -25,9 +25,8 @@
 #include <QTableWidget>
 #include <QWheelEvent>
 
-#include <gtest/gtest.h>
-
 #include <functional>
+#include <gtest/gtest.h>
 
 using namespace host::app;
 using namespace host::app::test;
