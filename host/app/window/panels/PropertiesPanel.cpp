@@ -23,7 +23,7 @@ namespace host::app {
 namespace {
 
 /// A look at entities takes no longer; the window answers in between.
-constexpr std::chrono::milliseconds propertySlice(25);
+constexpr std::chrono::milliseconds propertySlice(10);
 
 /// "LWPOLYLINE" as people say it: "Lwpolyline".
 QString shownType(const QByteArray &type)

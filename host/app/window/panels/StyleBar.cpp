@@ -19,7 +19,7 @@ namespace host::app {
 namespace {
 
 /// A look at entities takes no longer; the window answers in between.
-constexpr std::chrono::milliseconds surveySlice(25);
+constexpr std::chrono::milliseconds surveySlice(10);
 
 /// The index into entityProperties() of a property of all entities.
 std::size_t generalProperty(drawing::PropertyKind kind)
