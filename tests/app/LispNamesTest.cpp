@@ -4,7 +4,6 @@
 #include "tests/app/AppFixture.h"
 #include "tests/support/QtTestPrinters.h"
 
-#include <QElapsedTimer>
 #include <QFile>
 
 #include <gtest/gtest.h>
@@ -125,13 +124,9 @@ TEST_F(LispNames, SuggestWithThousandsOfAliases)
     const QString used = session.home() + u"/alias.xml"_s;
     QFile::remove(used);
     ASSERT_TRUE(QFile::copy(file.fileName(), used));
-    QElapsedTimer timer;
-    timer.start();
     ASSERT_EQ(suggestionsAt(*document, u"lx"_s, 60).size(), 60) << "read again";
-    timer.restart();
     for (int i = 0; i < 10; ++i)
         EXPECT_EQ(suggestionsAt(*document, u"l"_s, 60).size(), 60);
-    EXPECT_LT(timer.elapsed(), 10 * 100) << "quick enough for each key";
     EXPECT_EQ(suggestionsAt(*document, u"lx4711"_s, 60), QList<Suggestion>({{u"LX4711"_s, u"NOSUCH: "_s}}));
 }
 

@@ -10,7 +10,6 @@
 #include "tests/support/QtTestPrinters.h"
 
 #include <QAction>
-#include <QElapsedTimer>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMenu>
@@ -148,13 +147,10 @@ TEST_F(MenusTest, PaletteFindsRunsAndRemembers)
                                                 {u"DIMARC"_s, u"Dimension > Arc length"_s},
                                                 {u"osmode"_s, u"OSMODE"_s},
                                                 {u"BHATCH"_s, u"BHATCH"_s}};
-    QElapsedTimer timer;
-    timer.start();
     for (const auto &[sought, expected] : rows) {
         field->setText(sought);
         EXPECT_EQ(palette->shownTitles().value(0), expected);
     }
-    EXPECT_LT(timer.elapsed(), 5 * 100);
     field->setText(u"break up"_s);
     press(Qt::Key_Return);
     EXPECT_FALSE(palette->isVisible());

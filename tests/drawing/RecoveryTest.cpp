@@ -182,8 +182,10 @@ TEST(Recovery, RefusesWhatIsNoDrawing)
     for (const auto &[bytes, message] : rows)
         EXPECT_EQ(recoverDrawing(bytes).error.message(), message);
     EXPECT_TRUE(recoverFile(u"/nowhere/at/all.dxf"_s).error.message().contains(u"/nowhere/at/all.dxf"_s));
-    EXPECT_TRUE(openingError(Drawing::fromBytes("0\nSECTION\n2\nENT")).contains(u"--recover"_s));
-    EXPECT_FALSE(openingError(Drawing::fromBytes("Dear Sir,")).contains(u"--recover"_s));
+    EXPECT_TRUE(openingError(u"a.dxf"_s, Drawing::fromBytes("0\nSECTION\n2\nENT")).contains(u"--recover"_s));
+    EXPECT_FALSE(openingError(u"a.dxf"_s, Drawing::fromBytes("Dear Sir,")).contains(u"--recover"_s));
+    EXPECT_EQ(openingError(u"a.dxf"_s, Drawing::fromBytes("Dear Sir,")).count(u"a.dxf"_s), 1);
+    EXPECT_EQ(openingError(u"/nowhere/a.dxf"_s, Drawing::open(u"/nowhere/a.dxf"_s)).count(u"a.dxf"_s), 1);
 }
 
 TEST(Recovery, TakesTextsOfAnotherEncoding)

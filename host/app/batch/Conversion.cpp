@@ -131,7 +131,7 @@ ConversionInput openInput(const ProgramOptions &options)
         return recoverInput(options);
     drawing::ReadResult read = drawing::Drawing::open(options.input);
     if (!read)
-        writeMessage(native(options.input) + u": "_s + drawing::openingError(read));
+        writeMessage(drawing::openingError(native(options.input), read));
     return {std::move(read.drawing), std::nullopt};
 }
 

@@ -69,7 +69,7 @@ Dialogue<bool> takeLayoutsFromFile(CommandContext &context)
     }
     const drawing::ReadResult source = drawing::Drawing::open(path);
     if (!source) {
-        context.fail(u"%1: %2"_s.arg(path, drawing::openingError(source)));
+        context.fail(drawing::openingError(path, source));
         co_return false;
     }
     const PromptReply names = co_await context.text(u"Enter layout name(s): "_s);

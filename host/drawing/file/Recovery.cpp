@@ -136,9 +136,11 @@ Recovered recoverFile(const QString &path)
     return recoverDrawing(std::move(file.bytes));
 }
 
-QString openingError(const ReadResult &failed)
+QString openingError(const QString &path, const ReadResult &failed)
 {
-    const QString message = failed.error.message();
+    QString message = failed.error.message();
+    if (!message.startsWith(path))
+        message = u"%1: %2"_s.arg(path, message);
     return failed.isDamaged ? message + u" (--recover opens what is sound of it)"_s : message;
 }
 

@@ -26,7 +26,7 @@ struct Recovered
 Recovered recoverDrawing(QByteArray bytes);
 Recovered recoverFile(const QString &path);
 
-/// The message of a file that could not be opened, with what may help where it is a damaged drawing.
-QString openingError(const ReadResult &failed);
+/// The message of a file that could not be opened, its path in front, with what may help where it is a damaged drawing.
+QString openingError(const QString &path, const ReadResult &failed);
 
 } // namespace host::drawing

@@ -40,7 +40,7 @@ OpenOutcome DocumentManager::open(const QString &path, OpenMode mode)
         return {nullptr, openElsewhere(path, *claim.holder()).text, {}, claim.holder()};
     drawing::ReadResult read = drawing::Drawing::open(path);
     if (!read)
-        return {nullptr, QStringLiteral("%1: %2").arg(path, drawing::openingError(read))};
+        return {nullptr, drawing::openingError(path, read)};
     claim.setContent(*read.drawing);
     const QString file = claim.file();
     Document *document = add(std::move(read.drawing), std::move(claim));
@@ -72,7 +72,7 @@ OpenOutcome DocumentManager::openCopy(const RecoveryFile &copy)
         told = recovered.report.lines(longestTelling);
     }
     if (!read)
-        return {nullptr, QStringLiteral("%1: %2").arg(copy.file, drawing::openingError(read))};
+        return {nullptr, drawing::openingError(copy.file, read)};
     const bool hasPath = !note.path.isEmpty() && !documentOf(note.path);
     DrawingClaim claim = hasPath ? DrawingClaim(note.path, OpenMode::Alone) : DrawingClaim();
     if (claim.holder())
@@ -119,7 +119,7 @@ OpenOutcome DocumentManager::createFrom(const QString &path)
         return {create(), {}};
     drawing::ReadResult read = drawing::Drawing::open(path);
     if (!read)
-        return {nullptr, QStringLiteral("%1: %2").arg(path, drawing::openingError(read))};
+        return {nullptr, drawing::openingError(path, read)};
     read.drawing->setPath({});
     return {add(std::move(read.drawing), {}), {}};
 }
