@@ -32,6 +32,7 @@
 #include <QDockWidget>
 #include <QKeyEvent>
 #include <QPointer>
+#include <QScreen>
 #include <QStatusBar>
 #include <QTabBar>
 #include <QVBoxLayout>
@@ -55,7 +56,7 @@ MainWindow::MainWindow(const WorkbenchOptions &options)
       m_status(std::make_unique<DrawingStatus>(*statusBar())), m_rightButton(new RightButton(this))
 {
     setObjectName(u"mainWindow"_s);
-    resize(1280, 800);
+    resize(QSize(1280, 800).boundedTo(screen()->availableSize()));
     setAcceptDrops(true);
     setCentralWidget(new QWidget(this));
     auto *middle = new QVBoxLayout(centralWidget());
