@@ -1,6 +1,7 @@
 #include "host/app/window/files/ClosingQuestion.h"
 
 #include "files/qt/VisibleText.h"
+#include "host/app/window/frame/DrawingTabs.h"
 #include "host/kernel/documents/Document.h"
 
 #include <QDialogButtonBox>
@@ -21,7 +22,7 @@ QTreeWidgetItem *closingRow(const kernel::Document &document)
 {
     const QString file = document.path().isEmpty() ? ClosingQuestion::tr("not saved yet: a name is asked for")
                                                    : files::visibleText(QDir::toNativeSeparators(document.path()));
-    auto *row = new QTreeWidgetItem({files::visibleText(document.title()), file});
+    auto *row = new QTreeWidgetItem({files::visibleText(shownTitle(document)), file});
     row->setCheckState(0, Qt::Checked);
     return row;
 }

@@ -54,7 +54,7 @@ StateMark markOf(LayerColumn column, bool state)
 }
 
 LayerDelegate::LayerDelegate(std::function<QStringList()> linetypes, QObject *parent)
-    : QStyledItemDelegate(parent), m_linetypes(std::move(linetypes))
+    : BoxDelegate(parent), m_linetypes(std::move(linetypes))
 {
 }
 
@@ -62,7 +62,7 @@ void LayerDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
 {
     const QVariant state = index.data(Qt::CheckStateRole);
     if (!state.isValid())
-        return QStyledItemDelegate::paint(painter, option, index);
+        return BoxDelegate::paint(painter, option, index);
     QStyleOptionViewItem cell = option;
     initStyleOption(&cell, index);
     cell.text.clear();
@@ -81,7 +81,7 @@ QSize LayerDelegate::sizeHint(const QStyleOptionViewItem &option, const QModelIn
     const int height = option.fontMetrics.height() + 6;
     if (index.data(Qt::CheckStateRole).isValid())
         return {height + 4, height};
-    return {QStyledItemDelegate::sizeHint(option, index).width(), height};
+    return {BoxDelegate::sizeHint(option, index).width(), height};
 }
 
 QWidget *LayerDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem &option,
@@ -95,35 +95,11 @@ QWidget *LayerDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem
         return nullptr;
     }
     if (column != LayerColumn::Linetype && column != LayerColumn::Lineweight)
-        return QStyledItemDelegate::createEditor(parent, option, index);
+        return BoxDelegate::createEditor(parent, option, index);
     auto *box = new QComboBox(parent);
     box->addItems(column == LayerColumn::Linetype ? m_linetypes() : weightChoices());
     box->setAccessibleName(layersText(layerColumn(column).title));
-    connect(box, &QComboBox::activated, this, [this, box] {
-        auto *delegate = const_cast<LayerDelegate *>(this);
-        emit delegate->commitData(box);
-        emit delegate->closeEditor(box);
-    });
-    QMetaObject::invokeMethod(box, &QComboBox::showPopup, Qt::QueuedConnection);
-    return box;
-}
-
-void LayerDelegate::setEditorData(QWidget *editor, const QModelIndex &index) const
-{
-    if (auto *box = qobject_cast<QComboBox *>(editor))
-        box->setCurrentIndex(int(box->findText(index.data().toString(), Qt::MatchFixedString)));
-    else
-        QStyledItemDelegate::setEditorData(editor, index);
-}
-
-void LayerDelegate::setModelData(QWidget *editor, QAbstractItemModel *model, const QModelIndex &index) const
-{
-    if (auto *box = qobject_cast<QComboBox *>(editor)) {
-        if (box->currentIndex() >= 0)
-            model->setData(index, box->currentText());
-    } else {
-        QStyledItemDelegate::setModelData(editor, model, index);
-    }
+    return asEditor(box);
 }
 
 bool LayerDelegate::editorEvent(QEvent *event, QAbstractItemModel *model, const QStyleOptionViewItem &option,
@@ -131,7 +107,7 @@ bool LayerDelegate::editorEvent(QEvent *event, QAbstractItemModel *model, const 
 {
     const QVariant state = index.data(Qt::CheckStateRole);
     if (!state.isValid() || !(index.flags() & Qt::ItemIsUserCheckable))
-        return QStyledItemDelegate::editorEvent(event, model, option, index);
+        return BoxDelegate::editorEvent(event, model, option, index);
     if (!isTurnedOverBy(*event))
         return false;
     const bool isOn = state.toInt() == int(Qt::Checked);

@@ -1,8 +1,7 @@
 #pragma once
 
+#include "host/app/window/panels/BoxDelegate.h"
 #include "host/app/window/panels/StateIcons.h"
-
-#include <QStyledItemDelegate>
 
 #include <functional>
 
@@ -15,7 +14,7 @@ StateMark markOf(LayerColumn column, bool state);
 
 /// Paints states as pictures that a click or Space turns over, and edits what has values of its own with the lists that
 /// go with them. Which linetypes there are is asked when one is to be chosen.
-class LayerDelegate final : public QStyledItemDelegate
+class LayerDelegate final : public BoxDelegate
 {
     Q_OBJECT
 
@@ -25,8 +24,6 @@ public:
     void paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const override;
     QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override;
     QWidget *createEditor(QWidget *parent, const QStyleOptionViewItem &option, const QModelIndex &index) const override;
-    void setEditorData(QWidget *editor, const QModelIndex &index) const override;
-    void setModelData(QWidget *editor, QAbstractItemModel *model, const QModelIndex &index) const override;
     bool editorEvent(QEvent *event, QAbstractItemModel *model, const QStyleOptionViewItem &option,
                      const QModelIndex &index) override;
 

@@ -45,7 +45,7 @@ QStringList choicesFor(const drawing::Drawing &drawing, drawing::PropertyKind ki
 } // namespace
 
 PropertyDelegate::PropertyDelegate(std::function<kernel::Document *()> document, QObject *parent)
-    : QStyledItemDelegate(parent), m_document(std::move(document))
+    : BoxDelegate(parent), m_document(std::move(document))
 {
 }
 
@@ -59,7 +59,7 @@ QWidget *PropertyDelegate::createEditor(QWidget *parent, const QStyleOptionViewI
     const bool isColour = line.kind == drawing::PropertyKind::Colour;
     const QStringList choices = choicesFor(document->drawing(), line.kind);
     if (!isColour && choices.isEmpty())
-        return QStyledItemDelegate::createEditor(parent, option, index);
+        return BoxDelegate::createEditor(parent, option, index);
     auto *box = new QComboBox(parent);
     box->setAccessibleName(line.name);
     box->setMaxVisibleItems(24);
@@ -67,32 +67,16 @@ QWidget *PropertyDelegate::createEditor(QWidget *parent, const QStyleOptionViewI
         fillColours(*box);
     else
         box->addItems(choices);
-    connect(box, &QComboBox::activated, this, [this, box] {
-        auto *delegate = const_cast<PropertyDelegate *>(this);
-        emit delegate->commitData(box);
-        emit delegate->closeEditor(box);
-    });
-    QMetaObject::invokeMethod(box, &QComboBox::showPopup, Qt::QueuedConnection);
-    return box;
-}
-
-void PropertyDelegate::setEditorData(QWidget *editor, const QModelIndex &index) const
-{
-    if (auto *box = qobject_cast<QComboBox *>(editor))
-        box->setCurrentIndex(int(box->findText(index.data().toString(), Qt::MatchFixedString)));
-    else
-        QStyledItemDelegate::setEditorData(editor, index);
+    return asEditor(box);
 }
 
 void PropertyDelegate::setModelData(QWidget *editor, QAbstractItemModel *model, const QModelIndex &index) const
 {
-    auto *box = qobject_cast<QComboBox *>(editor);
-    if (!box)
-        return QStyledItemDelegate::setModelData(editor, model, index);
-    if (box->currentData().toString() == "choose"_L1)
+    const auto *box = qobject_cast<QComboBox *>(editor);
+    if (box && box->currentData().toString() == "choose"_L1)
         emit const_cast<PropertyDelegate *>(this)->colourWanted(index);
-    else if (box->currentIndex() >= 0)
-        model->setData(index, box->currentText());
+    else
+        BoxDelegate::setModelData(editor, model, index);
 }
 
 } // namespace host::app

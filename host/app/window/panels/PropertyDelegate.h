@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QStyledItemDelegate>
+#include "host/app/window/panels/BoxDelegate.h"
 
 #include <functional>
 
@@ -11,7 +11,7 @@ class Document;
 namespace host::app {
 
 /// Edits values of properties: by a list where there are names to choose from, else as a text.
-class PropertyDelegate final : public QStyledItemDelegate
+class PropertyDelegate final : public BoxDelegate
 {
     Q_OBJECT
 
@@ -19,7 +19,6 @@ public:
     PropertyDelegate(std::function<kernel::Document *()> document, QObject *parent);
 
     QWidget *createEditor(QWidget *parent, const QStyleOptionViewItem &option, const QModelIndex &index) const override;
-    void setEditorData(QWidget *editor, const QModelIndex &index) const override;
     void setModelData(QWidget *editor, QAbstractItemModel *model, const QModelIndex &index) const override;
 
 signals:
