@@ -51,6 +51,13 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
 endif()
 add_compile_definitions(QT_NO_CAST_FROM_ASCII QT_NO_FOREACH)
 
+# What users run: hardened as Debian's packages are, and the same bytes wherever the sources stand.
+add_compile_options("$<$<CONFIG:Release>:-fstack-protector-strong;-Wformat;-Werror=format-security>"
+                    "$<$<CONFIG:Release>:-U_FORTIFY_SOURCE;-D_FORTIFY_SOURCE=2>"
+                    "$<$<CONFIG:Release>:-ffile-prefix-map=${CMAKE_BINARY_DIR}=build>"
+                    "$<$<CONFIG:Release>:-ffile-prefix-map=${CMAKE_SOURCE_DIR}=.>")
+add_link_options("$<$<CONFIG:Release>:LINKER:-z,relro,-z,now>")
+
 if(ORTAKIT_SANITIZE)
     add_compile_options(-fsanitize=${ORTAKIT_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=undefined)
     add_link_options(-fsanitize=${ORTAKIT_SANITIZE})

@@ -10,21 +10,24 @@ namespace host::app {
 
 namespace {
 
-const QString helpBesideProgram = u"../share/ortakit/help"_s;
+/// Where things lie from the program's folder: in an installation, then in the build.
+const QStringList libraryPlaces = {u"" ORTAKIT_LIBDIR ""_s, u"../lib"_s};
+const QStringList dataPlaces = {u"" ORTAKIT_DATADIR ""_s, u"../share/ortakit"_s};
 
 QString besideProgram(const QString &path)
 {
     return QDir::cleanPath(QDir(QCoreApplication::applicationDirPath()).filePath(path));
 }
 
-QString firstOf(const QString &given, const char *variable, const QStringList &places)
+/// What is given, else what the variable says, else the first of the name in those places that is there.
+QString firstOf(const QString &given, const char *variable, const QStringList &places, const QString &name)
 {
     if (!given.isEmpty())
         return given;
     if (const QString value = qEnvironmentVariable(variable); !value.isEmpty())
         return value;
     for (const QString &place : places)
-        if (const QString path = besideProgram(place); QFileInfo::exists(path))
+        if (const QString path = besideProgram(place + u'/' + name); QFileInfo::exists(path))
             return path;
     return {};
 }
@@ -32,12 +35,11 @@ QString firstOf(const QString &given, const char *variable, const QStringList &p
 kernel::SessionOptions sessionOptions(const WorkbenchOptions &options, const ToolIndex &tools)
 {
     kernel::SessionOptions session{.home = options.home, .supportFolders = {}, .helpFolder = {}};
+    session.helpFolder = firstOf({}, "ORTAKIT_HELP", dataPlaces, u"help"_s);
     if (!tools.folder.isEmpty()) {
         const QDir folder(tools.folder);
         session.supportFolders = {tools.folder, folder.filePath(u"support"_s)};
     }
-    if (const QString help = besideProgram(helpBesideProgram); QFileInfo::exists(help))
-        session.helpFolder = help;
     return session;
 }
 
@@ -45,17 +47,17 @@ kernel::SessionOptions sessionOptions(const WorkbenchOptions &options, const Too
 
 QString findModuleFile(const QString &given)
 {
-    return firstOf(given, "ORTAKIT_MODULE", {u"../lib/Ortakit.so"_s, u"../lib/ortakit/Ortakit.so"_s});
+    return firstOf(given, "ORTAKIT_MODULE", libraryPlaces, u"Ortakit.so"_s);
 }
 
 QString findToolsFolder(const QString &given)
 {
-    return firstOf(given, "ORTAKIT_TOOLS", {u"../share/ortakit/tools"_s});
+    return firstOf(given, "ORTAKIT_TOOLS", dataPlaces, u"tools"_s);
 }
 
 QString findSamplesFolder()
 {
-    return firstOf({}, "ORTAKIT_SAMPLES", {u"../share/ortakit/samples"_s, u"../../../samples"_s});
+    return firstOf({}, "ORTAKIT_SAMPLES", dataPlaces, u"samples"_s);
 }
 
 Workbench::Workbench(const WorkbenchOptions &options, QWidget *mainWindow)
