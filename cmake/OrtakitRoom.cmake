@@ -75,7 +75,8 @@ endfunction()
 # ortakit_test(NAME [PCH kind] SOURCES ... LINK ...)
 #
 # One test program a room, registered with CTest as a whole: a room's tests share start-up cost and a fixture.
-# Widgets are drawn off screen and no test reads or writes the settings of the person who runs it.
+# Widgets are drawn off screen, and no test reads or writes the settings of the person who runs it or speaks another
+# language than English.
 function(ortakit_test name)
     cmake_parse_arguments(TEST "" "PCH" "SOURCES;LINK" ${ARGN})
     find_package(GTest REQUIRED)
@@ -87,5 +88,5 @@ function(ortakit_test name)
     endif()
     add_test(NAME ${name} COMMAND ${name})
     set_tests_properties(${name} PROPERTIES TIMEOUT 900 ENVIRONMENT
-        "QT_QPA_PLATFORM=offscreen;XDG_CONFIG_HOME=${CMAKE_BINARY_DIR}/test-home/config;ORTAKIT_SOURCE=${CMAKE_SOURCE_DIR};ORTAKIT_BUILD=${CMAKE_BINARY_DIR}")
+        "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8;LANGUAGE=;ORTAKIT_LANGUAGE=;XDG_CONFIG_HOME=${CMAKE_BINARY_DIR}/test-home/config;ORTAKIT_SOURCE=${CMAKE_SOURCE_DIR};ORTAKIT_BUILD=${CMAKE_BINARY_DIR}")
 endfunction()

@@ -19,6 +19,7 @@ CKvDocumentManager *documentManager()
 
 void CLispFunctionsModule::initApp()
 {
+    m_language.follow(ACTIVE_DOCUMENT());
     if (CKvDocumentManager *manager = documentManager()) {
         manager->addReactor(this);
         for (int index = 0; index < manager->documentCount(); ++index)
@@ -37,6 +38,7 @@ void CLispFunctionsModule::uninitApp()
     }
     ortakit::removeCommands();
     odedEditor()->removeReactor(&m_editorReactor);
+    m_language.leave();
 }
 
 void CLispFunctionsModule::LispDocumentReady(CKvDocument *document)
@@ -45,6 +47,8 @@ void CLispFunctionsModule::LispDocumentReady(CKvDocument *document)
     CKvLispEngine *lisp = document->lispEngine();
     if (!lisp)
         return;
+    // Before the first document nobody could tell the language.
+    m_language.follow(document);
     ortakit::defineFunctions(*lisp);
     DialogRegistry &registry = DialogRegistry::instance();
     registry.append(document);

@@ -1,11 +1,12 @@
 #pragma once
 
 #include "module/CEdReactor.h"
+#include "module/ModuleLanguage.h"
 #include "platform/kernel/CKvDocumentManager.h"
 #include "platform/rx/OdRxModule.h"
 
 /// The module as its host sees it: between initApp() and uninitApp() every document with a Lisp engine has the external
-/// Lisp functions and a record in the DialogRegistry, and editing time is counted.
+/// Lisp functions and a record in the DialogRegistry, editing time is counted, and texts are in the host's language.
 class CLispFunctionsModule : public OdRxModule, public CKvDocumentManagerReactor
 {
 public:
@@ -23,4 +24,5 @@ public:
 
 private:
     OdStaticRxObject<CEdReactor> m_editorReactor;
+    ortakit::ModuleLanguage m_language;
 };

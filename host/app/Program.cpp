@@ -6,6 +6,7 @@
 #include "host/app/window/frame/AppStyle.h"
 #include "host/app/window/frame/Preferences.h"
 #include "host/app/workbench/DrawingPicture.h"
+#include "host/app/workbench/ProgramLanguage.h"
 #include "host/app/workbench/ProgramOutput.h"
 
 #include <QApplication>
@@ -172,6 +173,7 @@ int runProgram(int argc, char **argv)
     QCoreApplication::setApplicationName(u"ortakit"_s);
     QCoreApplication::setApplicationVersion(u"" ORTAKIT_VERSION ""_s);
     keepSettingsIn(options.home.isEmpty() ? qEnvironmentVariable("ORTAKIT_HOME") : options.home);
+    kernel::useLanguage(programLanguage(options));
     applyStyle(options.style.value_or(Style::Light));
     const int status = runMode(options);
     if (!hasLostResults())

@@ -21,6 +21,7 @@ TEST(ProgramOptions, RefusesWhatMakesNoSense)
         {u"--style"_s, u"--style needs a value"_s},
         {u"--style="_s, u"--style needs a value"_s},
         {u"--style blue"_s, u"--style is light or dark, not \"blue\""_s},
+        {u"--language xx"_s, u"--language is one of en, de, fr, es, it, not \"xx\""_s},
         {u"--png"_s, u"--png has no meaning here"_s},
         {u"--out there plan.dxf"_s, u"--out has no meaning here"_s},
         {u"run"_s, u"run needs a session"_s},

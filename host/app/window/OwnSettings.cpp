@@ -3,6 +3,7 @@
 #include "host/app/window/MainWindow.h"
 #include "host/app/window/frame/WindowServices.h"
 #include "host/app/window/settings/SettingsWindow.h"
+#include "host/app/workbench/ProgramLanguage.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -25,6 +26,11 @@ QString problemWith(const QStringList &programs)
     return {};
 }
 
+QString cannotBeKept(const kernel::SettingsStore &store)
+{
+    return MainWindow::tr("This cannot be kept in %1.").arg(QDir::toNativeSeparators(store.path()));
+}
+
 } // namespace
 
 void MainWindow::showSettings()
@@ -35,7 +41,10 @@ void MainWindow::showSettings()
             const QString problem = problemWith(value.split(u';', Qt::SkipEmptyParts));
             if (!problem.isEmpty() || store.setText(programsGroup, programsName, value))
                 return problem;
-            return tr("This cannot be kept in %1.").arg(QDir::toNativeSeparators(store.path()));
+            return cannotBeKept(store);
+        };
+        const auto keepLanguage = [&store](const QString &value) {
+            return chooseLanguage(store, value.toInt()) ? QString() : cannotBeKept(store);
         };
         m_settings = new SettingsWindow(
             *m_services,
@@ -51,6 +60,7 @@ void MainWindow::showSettings()
                    setGround(value == u"1" ? view::Ground::White : view::Ground::Black);
                    return QString();
                }}},
+             {u"@language"_s, {[&store] { return QString::number(chosenLanguage(store)); }, keepLanguage}},
              {u"@programs"_s, {[&store] { return store.text(programsGroup, programsName); }, keepPrograms}}},
             this);
     }

@@ -1,6 +1,7 @@
 #include "host/app/workbench/ProgramOptions.h"
 
 #include "host/kernel/documents/Session.h"
+#include "host/kernel/languages/Languages.h"
 #include "host/lisp/checking/Finding.h"
 
 #include <QHash>
@@ -37,6 +38,19 @@ QString setStyle(ProgramOptions &options, const QString &value)
         options.style = Style::Dark;
     else
         return u"--style is light or dark, not \"%1\""_s.arg(value);
+    return {};
+}
+
+QString setLanguage(ProgramOptions &options, const QString &value)
+{
+    const kernel::Language *language = kernel::findLanguage(value);
+    if (!language) {
+        QStringList codes;
+        for (const kernel::Language &known : kernel::languages())
+            codes.append(QString::fromLatin1(known.code));
+        return u"--language is one of %1, not \"%2\""_s.arg(codes.join(u", "_s), value);
+    }
+    options.language = QString::fromLatin1(language->code);
     return {};
 }
 
@@ -157,6 +171,7 @@ QList<OptionRow> generalRows()
 {
     return {
         {"--style", Value::Needed, {}, setStyle},
+        {"--language", Value::Needed, {}, setLanguage},
         {"--home", Value::Needed, {}, setTextOption<&ProgramOptions::home>},
         {"--module", Value::Needed, {}, setTextOption<&ProgramOptions::module>},
         {"--tools", Value::Needed, {}, setTextOption<&ProgramOptions::tools>},
@@ -308,6 +323,8 @@ namespace {
 
 constexpr auto commonHelp = R"(Options for every use:
   --style light|dark   look of windows and dialogs
+  --language CODE      en, de, fr, es or it (default: $ORTAKIT_LANGUAGE; else the window's setting or the desktop's
+                       language, and English where there is no window or a session is played)
   --home DIR           folder of the user's data (default: $ORTAKIT_HOME, or the system's place for such data)
   --module FILE        the plug-in module (default: $ORTAKIT_MODULE, or the one installed with the program)
   --allow-read DIR     let drawings name files of this folder and those below; may be given again. Else they are read

@@ -70,6 +70,7 @@ struct ProgramOptions
     PictureOptions picture;      ///< Convert
     QString pictureFolder;
     std::optional<Style> style;
+    QString language; ///< the code of a language that there is; empty: not said
     QString home;
     QString module;
     QString tools;

@@ -7,6 +7,7 @@
 #include "host/kernel/documents/CurrentSpace.h"
 #include "host/kernel/documents/Document.h"
 #include "host/kernel/documents/Session.h"
+#include "host/kernel/languages/Languages.h"
 #include "host/kernel/variables/VariableRows.h"
 
 #include <QDateTime>
@@ -78,6 +79,11 @@ VariableValue fileVersion(const Document &document)
     return document.drawing().header().text(u"$ACADVER", QStringLiteral("AC1009"));
 }
 
+VariableValue language(const Document &)
+{
+    return text(currentLanguage().locale);
+}
+
 VariableValue supportPath(const Document &document)
 {
     QString all;
@@ -115,7 +121,7 @@ VariableRows programRows()
             computed("ACADPREFIX", supportPath),
             fixed("CPROFILE", text("<<Unnamed Profile>>")),
             fixed("DIASTAT", 1),
-            fixed("LOCALE", text("enu")),
+            computed("LOCALE", language),
             fixed("MENUNAME", text("ortakit")),
             fixed("PFACEVMAX", 4),
             fixed("PLATFORM",

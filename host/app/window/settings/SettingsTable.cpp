@@ -12,6 +12,8 @@ using enum SettingForm;
 constexpr SettingRow rows[] = {
     {QT_TRANSLATE_NOOP("Settings", "Window"), QT_TRANSLATE_NOOP("Settings", "Style of windows"), "@style", Choice, 0, QT_TRANSLATE_NOOP("Settings", "0=Light|1=Dark"),
      QT_TRANSLATE_NOOP("Settings", "The colours of windows and dialogs")},
+    {"Window", QT_TRANSLATE_NOOP("Settings", "Language"), "@language", Choice, 0, QT_TRANSLATE_NOOP("Settings", "0=System|1=English|2=Deutsch|3=Français|4=Español|5=Italiano"),
+     QT_TRANSLATE_NOOP("Settings", "Of windows, dialogs and prompts; it counts from the next start")},
     {"Window", QT_TRANSLATE_NOOP("Settings", "Ground of drawings"), "@ground", Choice, 0, QT_TRANSLATE_NOOP("Settings", "0=Black|1=White"),
      QT_TRANSLATE_NOOP("Settings", "What drawings lie on")},
     {"Window", QT_TRANSLATE_NOOP("Settings", "Length of the cross-hair, percent"), "CURSORSIZE", Number},
