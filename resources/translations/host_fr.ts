@@ -2049,9 +2049,9 @@ Recovered as it was on %1. It is not in its file until it is saved.
     </message>
     <message numerus="yes">
         <source>Discard what was not saved of %n drawing(s)? It cannot be brought back.</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Abandonner ce qui n&apos;a pas été enregistré de %n dessin ? Cela ne pourra pas être récupéré.</numerusform>
+            <numerusform>Abandonner ce qui n&apos;a pas été enregistré de %n dessins ? Cela ne pourra pas être récupéré.</numerusform>
         </translation>
     </message>
 </context>
