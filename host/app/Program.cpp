@@ -1,7 +1,7 @@
 #include "host/app/Program.h"
 
-#include "host/app/batch/BatchRuns.h"
 #include "host/app/playback/SessionPlayer.h"
+#include "host/app/uses/Arguments.h"
 #include "host/app/window/MainWindow.h"
 #include "host/app/window/frame/AppStyle.h"
 #include "host/app/window/frame/Preferences.h"
@@ -106,31 +106,6 @@ int runWindow(const ProgramOptions &options)
     return QApplication::exec();
 }
 
-int runLisp(const ProgramOptions &options)
-{
-    if (options.isCheck)
-        return checkLispFiles(options);
-    if (options.isTest)
-        return testLispFiles(options);
-    return options.lispFiles.isEmpty() ? promptForLisp(options) : runLispFiles(options);
-}
-
-int runMode(const ProgramOptions &options)
-{
-    switch (options.mode) {
-    case Mode::Run:
-        return runSessions(options);
-    case Mode::Lisp:
-        return runLisp(options);
-    case Mode::Convert:
-        return convertDrawing(options);
-    case Mode::Names:
-        return listNames(options);
-    default:
-        return runWindow(options);
-    }
-}
-
 /// A run with a home of its own leaves the settings of the person alone.
 void keepSettingsIn(const QString &home)
 {
@@ -154,15 +129,15 @@ int runProgram(int argc, char **argv)
         writeMessage(options.error + u" (see ortakit --help)"_s);
         return ExitUsage;
     }
-    if (options.mode == Mode::Help || options.mode == Mode::Version) {
-        writeResult(options.mode == Mode::Help ? helpText(options.helpFor) : u"ortakit " ORTAKIT_VERSION "\n"_s);
+    if (options.wish != Wish::Work) {
+        writeResult(options.wish == Wish::Help ? helpText(options) : u"ortakit " ORTAKIT_VERSION "\n"_s);
         return ExitDone;
     }
     if (!options.isUnattended() && !hasDisplay()) {
         writeMessage(u"there is no display for the window; see ortakit --help for what goes without one"_s);
         return ExitUsage;
     }
-    if (options.mode != Mode::Window || !hasDisplay())
+    if (!options.hasWindow || !hasDisplay())
         qputenv("QT_QPA_PLATFORM", "offscreen");
     if (options.isUnattended())
         qInstallMessageHandler(showToolkitMessage);
@@ -175,7 +150,7 @@ int runProgram(int argc, char **argv)
     keepSettingsIn(options.home.isEmpty() ? qEnvironmentVariable("ORTAKIT_HOME") : options.home);
     kernel::useLanguage(programLanguage(options));
     applyStyle(options.style.value_or(Style::Light));
-    const int status = runMode(options);
+    const int status = options.use->run ? options.use->run(options) : runWindow(options);
     if (!hasLostResults())
         return status;
     writeMessage(u"standard output: not all of it could be written"_s);

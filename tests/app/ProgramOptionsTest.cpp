@@ -1,5 +1,4 @@
-#include "host/app/workbench/ProgramOptions.h"
-
+#include "host/app/uses/Arguments.h"
 #include "host/app/window/frame/Mnemonics.h"
 #include "host/app/workbench/ToolIndex.h"
 #include "tests/support/QtTestPrinters.h"
@@ -18,20 +17,25 @@ TEST(ProgramOptions, RefusesWhatMakesNoSense)
 {
     const std::pair<QString, QString> rows[] = {
         {u"--wide"_s, u"there is no option --wide"_s},
+        {u"run s --fource"_s, u"there is no option --fource (did you mean --force?)"_s},
+        {u"convrt a.dxf b.png"_s, u"there is no command convrt (did you mean convert?)"_s},
+        {u"help convret"_s, u"there is no command convret (did you mean convert?)"_s},
+        {u"help quite-else"_s, u"there is no command quite-else"_s},
+        {u"help run lisp"_s, u"help takes one command"_s},
         {u"--style"_s, u"--style needs a value"_s},
         {u"--style="_s, u"--style needs a value"_s},
         {u"--style blue"_s, u"--style is light or dark, not \"blue\""_s},
-        {u"--language xx"_s, u"--language is one of en, de, fr, es, it, not \"xx\""_s},
+        {u"--language xx"_s, u"--language is en or de or fr or es or it, not \"xx\""_s},
         {u"--png"_s, u"--png has no meaning here"_s},
         {u"--out there plan.dxf"_s, u"--out has no meaning here"_s},
         {u"run"_s, u"run needs a session"_s},
         {u"lisp a.lsp --audit x"_s, u"--audit has no meaning here"_s},
         {u"run s d --png=yes"_s, u"--png takes no value"_s},
         {u"run s d --drawing x"_s, u"--drawing has no meaning here"_s},
-        {u"run s d --time-limit 0"_s, u"--time-limit takes seconds up to a day, not \"0\""_s},
-        {u"run s d --time-limit nan"_s, u"--time-limit takes seconds up to a day, not \"nan\""_s},
-        {u"lisp a.lsp --memory-limit 15"_s, u"--memory-limit takes megabytes from 16 to 1048576, not \"15\""_s},
-        {u"lisp a.lsp --memory-limit 1e3"_s, u"--memory-limit takes megabytes from 16 to 1048576, not \"1e3\""_s},
+        {u"run s d --time-limit 0"_s, u"--time-limit takes SECONDS from 0.001 to 86400, not \"0\""_s},
+        {u"run s d --time-limit nan"_s, u"--time-limit takes SECONDS from 0.001 to 86400, not \"nan\""_s},
+        {u"lisp a.lsp --memory-limit 15"_s, u"--memory-limit takes MB from 16 to 1048576, not \"15\""_s},
+        {u"lisp a.lsp --memory-limit 1e3"_s, u"--memory-limit takes MB from 16 to 1048576, not \"1e3\""_s},
         {u"convert a.dxf b.dxf --memory-limit 64"_s, u"--memory-limit has no meaning here"_s},
         {u"run s --paper A4"_s, u"--paper has no meaning here"_s},
         {u"convert a b --paper A9"_s,
@@ -45,7 +49,7 @@ TEST(ProgramOptions, RefusesWhatMakesNoSense)
          u"--scale takes millimetres on the sheet to drawing units, as 1:50, not \"half\""_s},
         {u"convert a b --size 20000x10"_s, u"--size takes pixels from 1 to 16000 as 2000x1400, not \"20000x10\""_s},
         {u"convert a b --size 20.5x10"_s, u"--size takes pixels from 1 to 16000 as 2000x1400, not \"20.5x10\""_s},
-        {u"convert a b --dpi 0"_s, u"--dpi takes dots an inch from 1 to 2400, not \"0\""_s},
+        {u"convert a b --dpi 0"_s, u"--dpi takes N from 1 to 2400, not \"0\""_s},
         {u"convert a b --ground grey"_s, u"--ground is black or white, not \"grey\""_s},
         {u"convert a b --window 1,2,3"_s, u"--window takes two corners as 0,0,420,297, not \"1,2,3\""_s},
         {u"convert a b --window 1,2,1,nan"_s, u"--window takes two corners as 0,0,420,297, not \"1,2,1,nan\""_s},
@@ -62,6 +66,29 @@ TEST(ProgramOptions, RefusesWhatMakesNoSense)
     };
     for (const auto &[arguments, error] : rows)
         EXPECT_EQ(parseArguments(arguments.split(u' ')).error, error) << arguments.toStdString();
+}
+
+/// What --help, manual pages and completions need of each row.
+TEST(ProgramOptions, AreToldWhole)
+{
+    for (const UseRow &use : allUses()) {
+        const std::string name = use.title().toStdString();
+        EXPECT_FALSE(use.usages.isEmpty()) << name;
+        for (const char *usage : use.usages)
+            EXPECT_TRUE(QString::fromLatin1(usage).startsWith(use.title())) << usage;
+        QStringList names;
+        for (const OptionRow *row : optionsOf(use)) {
+            EXPECT_TRUE(row->name[0] == '-' && *row->help) << name << row->name;
+            EXPECT_TRUE(row->value || row->kind == ValueKind::Text) << name << row->name;
+            EXPECT_EQ(row->range.has_value(), row->kind == ValueKind::Number) << name << row->name;
+            names.append(QString::fromLatin1(row->name));
+        }
+        EXPECT_EQ(names.removeDuplicates(), 0) << name;
+        ProgramOptions options;
+        options.use = &use;
+        for (const QString &line : helpText(options).split(u'\n'))
+            EXPECT_TRUE(line.size() <= 100 || line.startsWith(u' ')) << line.toStdString();
+    }
 }
 
 TEST(ProgramOptions, KnowPapers)
@@ -88,7 +115,8 @@ TEST(ProgramOptions, UnderstandsEachUse)
     const auto parse = [](const char *arguments) {
         return parseArguments(QString::fromLatin1(arguments).split(u' ', Qt::SkipEmptyParts));
     };
-    EXPECT_EQ(parse("").mode, Mode::Window);
+    EXPECT_TRUE(parse("").hasWindow);
+    EXPECT_EQ(parse("convrt.dxf").drawings, QStringList({u"convrt.dxf"_s}));
     EXPECT_EQ(parse("a.dxf b.dxf --style dark").drawings, QStringList({u"a.dxf"_s, u"b.dxf"_s}));
     EXPECT_EQ(parse("a.dxf --style dark").style, Style::Dark);
     EXPECT_EQ(parse("./run").drawings, QStringList({u"./run"_s}));
@@ -105,9 +133,12 @@ TEST(ProgramOptions, UnderstandsEachUse)
     EXPECT_EQ(parse("lisp a.lsp --memory-limit 64").memoryLimit, 64);
     EXPECT_EQ(parse("convert a.dxf b.dxf --time-limit 2").timeLimit->count(), 2000);
     EXPECT_EQ(parse("lisp a.lsp - --drawing d.dxf").lispFiles, QStringList({u"a.lsp"_s, u"-"_s}));
-    EXPECT_EQ(parse("run --help --nonsense").mode, Mode::Help);
-    EXPECT_EQ(parse("run --help").helpFor, Mode::Run);
-    EXPECT_EQ(parse("--version").mode, Mode::Version);
+    EXPECT_EQ(parse("run --help --nonsense").wish, Wish::Help);
+    EXPECT_EQ(parse("run --help").use, findUse(u"run"_s));
+    EXPECT_EQ(parse("help run").wish, Wish::Help);
+    EXPECT_EQ(parse("help run").use, findUse(u"run"_s));
+    EXPECT_EQ(parse("help").use, findUse(QString()));
+    EXPECT_EQ(parse("--version").wish, Wish::Version);
     EXPECT_FALSE(parse("a.dxf").isUnattended());
     EXPECT_TRUE(parse("a.dxf --screenshot-dir d").isUnattended());
 }

@@ -41,7 +41,6 @@ RunOutcome ToolRun::playFile(const QString &sessionPath, const QString &drawing)
 {
     const host::app::WorkbenchOptions bench = workbench();
     host::app::ProgramOptions options;
-    options.mode = host::app::Mode::Run;
     options.session = sessionPath;
     options.drawings = QStringList{drawing};
     options.outFolder = path(u"out"_s);

@@ -16,7 +16,8 @@ struct PictureOptions
     QStringList given;      ///< the options that were given, "--paper"
 };
 
-// Each reads the value of one option; the error names what is allowed, and is empty when all is well.
+// Each reads the value of one option; the error names what is allowed, and is empty when all is well. That choices and
+// numbers are what the option's row allows was checked before.
 
 /// "1:50", "2:1", or one number: millimetres on the sheet to drawing units.
 QString setScale(PictureOptions &options, const QString &value);

@@ -21,14 +21,13 @@ enum ExitStatus : int
     ExitCutShort = 5   ///< a picture was written that shows less than it should: there was more than is drawn in one go
 };
 
-enum class Mode
+struct UseRow;
+
+/// What is asked of a use.
+enum class Wish
 {
-    Window,
-    Run,
-    Lisp,
-    Convert,
-    Names,
-    Help,
+    Work,
+    Help, ///< that it is told about
     Version
 };
 
@@ -41,8 +40,9 @@ enum class Style
 /// What the program was asked to do.
 struct ProgramOptions
 {
-    Mode mode = Mode::Window;
-    Mode helpFor = Mode::Window; ///< of Help: Window means the whole program
+    Wish wish = Wish::Work;
+    const UseRow *use = nullptr; ///< the row of host/app/uses that the arguments are for
+    bool hasWindow = true;       ///< it is that of the window
     QString session;             ///< Run; in a window what is played first
     QString record;              ///< Window: what the person does is written there; empty: it is not
     QStringList drawings;        ///< Window, Run; of Run none when the session says which it is for
@@ -83,13 +83,7 @@ struct ProgramOptions
     QString error;                     ///< why the arguments make no sense; empty when they do
 
     /// Nobody sits in front of it.
-    bool isUnattended() const { return mode != Mode::Window || !pictureFolder.isEmpty(); }
+    bool isUnattended() const { return !hasWindow || !pictureFolder.isEmpty(); }
 };
-
-/// Reads the arguments behind the program's name.
-ProgramOptions parseArguments(const QStringList &arguments);
-
-/// The text of --help.
-QString helpText(Mode mode);
 
 } // namespace host::app

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "host/app/uses/Use.h"
+
+namespace host::app {
+
+// The rows of allUses(), a file a subject.
+
+UseRow windowUse();
+UseRow runUse();
+UseRow lispUse();
+UseRow convertUse();
+UseRow namesUse();
+UseRow helpUse();
+
+} // namespace host::app
