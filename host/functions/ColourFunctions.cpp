@@ -5,6 +5,7 @@
 #include "host/kernel/documents/Document.h"
 #include "host/kernel/documents/Session.h"
 #include "host/kernel/input/UserInput.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/lisp/LispConversion.h"
 #include "host/lisp/Interpreter.h"
 
@@ -20,7 +21,7 @@ std::optional<ChosenColour> askOnLine(Document &document, const ChosenColour &pr
     PromptRequest request;
     request.kind = PromptKind::String;
     request.defaultText = QString::number(present.index);
-    request.prompt = QStringLiteral("\nNew color <%1>: ").arg(request.defaultText);
+    request.prompt = Functions::tr("\nNew color <%1>: ").arg(request.defaultText);
     while (true) {
         const PromptReply reply = document.prompts().ask(request);
         if (reply.kind == ReplyKind::Cancelled)
@@ -29,7 +30,7 @@ std::optional<ChosenColour> askOnLine(Document &document, const ChosenColour &pr
             return present;
         if (const std::optional<int> number = colourNumber(reply.text, choice.hasLogical))
             return ChosenColour{.index = *number};
-        document.print(QStringLiteral("\nRequires a color number or name."));
+        document.print(Functions::tr("\nRequires a color number or name."));
     }
 }
 

@@ -6,6 +6,7 @@
 #include "host/kernel/input/AnswerFromValue.h"
 #include "host/kernel/input/Keywords.h"
 #include "host/kernel/input/SnapModes.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/lisp/LispConversion.h"
 #include "host/kernel/running/CommandRun.h"
 #include "host/kernel/running/CommandStack.h"
@@ -45,7 +46,7 @@ bool startCommand(Document &document, const QString &command)
 {
     std::unique_ptr<CommandRun> started = CommandRun::start(document, command);
     if (!started) {
-        document.print(QStringLiteral("\nUnknown command \"%1\".\n").arg(CommandTable::plainName(command)));
+        document.print(Functions::tr("\nUnknown command \"%1\".\n").arg(CommandTable::plainName(command)));
         return false;
     }
     document.setPendingCommand(std::move(started));
@@ -77,7 +78,7 @@ void tellLeftOver(Arguments &args, std::size_t index)
     QStringList texts;
     for (; index < args.size(); ++index)
         texts.append(QString::fromStdString(lisp::toText(args[index])));
-    documentOf(args).print(QStringLiteral("\nLeft over from (command): %1\n").arg(texts.join(u' ')));
+    documentOf(args).print(Functions::tr("\nLeft over from (command): %1\n").arg(texts.join(u' ')));
 }
 
 /// Runs the command that the argument at `index` names; `index` moves on to the last argument that was used. False when
@@ -118,8 +119,8 @@ bool beginsAnother(const CommandRun &waiting, const Value &argument, bool isFirs
     // Behind a dot stands a command's name and nothing else; other words may be options, snaps or ways to choose, and
     // in the middle of a call they are meant for the prompt.
     const bool isNameAlone = text.startsWith(u'.') || text.startsWith(QStringLiteral("_."));
-    return isNameAlone || (isFirst && request.kind != PromptKind::Selection && !matchKeyword(text, request.keywords) &&
-                           !parseSnapModes(text));
+    return isNameAlone ||
+           (isFirst && request.kind != PromptKind::Selection && !keywordFor(request, text) && !parseSnapModes(text));
 }
 
 enum class Ending

@@ -7,6 +7,7 @@
 #include "host/functions/OpenDialogs.h"
 #include "host/kernel/documents/Document.h"
 #include "host/kernel/documents/Session.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/lisp/LispConversion.h"
 #include "host/kernel/variables/SystemVariables.h"
 #include "host/lisp/Interpreter.h"
@@ -115,7 +116,7 @@ Value loadDialog(Arguments &args)
     const QString callersFolder = folderOfCaller(args.interpreter(), dialogs);
     const QString path = dialogFile(document, stringAt(args, 0), callersFolder);
     if (path.isEmpty()) {
-        document.print(u"\nThe dialog file \"%1\" was not found.\n"_s.arg(stringAt(args, 0)));
+        document.print(Functions::tr("\nThe dialog file \"%1\" was not found.\n").arg(stringAt(args, 0)));
         return Value::integer(-1);
     }
     const auto find = [&](const QString &name, const QString &from) {

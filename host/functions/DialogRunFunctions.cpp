@@ -3,6 +3,7 @@
 #include "host/functions/FunctionGroups.h"
 #include "host/functions/OpenDialogs.h"
 #include "host/kernel/documents/Document.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/lisp/LispConversion.h"
 #include "host/lisp/Interpreter.h"
 
@@ -31,8 +32,10 @@ void tellUnrunActions(Document &document, const dcl::Tile &tile, const QString &
     bool hasActions = false;
     dcl::forEachTile(tile, [&hasActions](const dcl::Tile &one) { hasActions |= one.has(u"action"_s); });
     if (hasActions)
-        document.print(u"\nThe actions that the file gives to the tiles of \"%1\" do not run: its folder is not "
-                       u"trusted.\n"_s.arg(name));
+        document.print(
+            Functions::tr("\nThe actions that the file gives to the tiles of \"%1\" do not run: its folder is not "
+                          "trusted.\n")
+                .arg(name));
 }
 
 // (new_dialog name number [action [point]]) -> T; nil when the file has no such dialog. The action is for tiles that
@@ -45,7 +48,7 @@ Value newDialog(Arguments &args)
     const OpenDialogs::Loaded *loaded = dialogs.loaded(args.integer(1));
     const std::optional<dcl::Tile> tile = loaded ? loaded->file.dialog(name) : std::nullopt;
     if (!tile) {
-        document.print(u"\nThere is no dialog \"%1\" in what was loaded.\n"_s.arg(name));
+        document.print(Functions::tr("\nThere is no dialog \"%1\" in what was loaded.\n").arg(name));
         return {};
     }
     const QString action = args.has(2) ? stringAt(args, 2) : QString();

@@ -2,6 +2,7 @@
 
 #include "host/kernel/documents/Document.h"
 #include "host/kernel/documents/Session.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/lisp/LispConversion.h"
 #include "host/lisp/Interpreter.h"
 
@@ -75,8 +76,8 @@ int OpenDialogs::run(lisp::Interpreter &interpreter)
     if (m_document.session().feeder()) {
         dialog.window->exec();
     } else {
-        m_document.print(
-            u"\nNobody is there to answer the dialog \"%1\": cancelled.\n"_s.arg(dialog.window->windowTitle()));
+        m_document.print(Functions::tr("\nNobody is there to answer the dialog \"%1\": cancelled.\n")
+                             .arg(dialog.window->windowTitle()));
     }
     const std::unique_ptr<OpenDialog> ended = std::move(m_open[place]);
     m_open.resize(place);
@@ -162,7 +163,7 @@ void OpenDialogs::runAction(lisp::Interpreter &interpreter, OpenDialog &dialog, 
     const QScopedValueRollback underWay(dialog.eventKey, event.key);
     // Nothing may be thrown through the event loop.
     try {
-        const QString source = u"action of \"%1\" in dialog %2"_s.arg(key, dialog.window->objectName());
+        const QString source = Functions::tr("action of \"%1\" in dialog %2").arg(key, dialog.window->objectName());
         interpreter.evalText(action.toStdString(), source.toStdString());
     } catch (...) {
         if (!dialog.error)

@@ -6,6 +6,7 @@
 #include "host/kernel/input/Picker.h"
 #include "host/kernel/input/SnapModes.h"
 #include "host/kernel/input/UserInput.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/lisp/LispConversion.h"
 #include "host/kernel/variables/SystemVariables.h"
 #include "host/lisp/Interpreter.h"
@@ -31,7 +32,7 @@ PromptReply pickEntity(Arguments &args, const QString &usualPrompt)
 // keyword when one of (initget) was entered. Esc cancels the program.
 Value entsel(Arguments &args)
 {
-    const PromptReply reply = pickEntity(args, QStringLiteral("\nSelect object: "));
+    const PromptReply reply = pickEntity(args, Functions::tr("\nSelect object: "));
     if (reply.kind == ReplyKind::Keyword)
         return toLisp(reply.text);
     if (!reply.hasValue() || reply.entities.empty())
@@ -76,7 +77,7 @@ Value nestedList(Arguments &args, const PromptReply &reply, MatrixForm form)
 // the block's coordinates to world coordinates, and the references it is in, innermost first. Otherwise as (entsel).
 Value nentsel(Arguments &args)
 {
-    const PromptReply reply = pickEntity(args, QStringLiteral("\nSelect object: "));
+    const PromptReply reply = pickEntity(args, Functions::tr("\nSelect object: "));
     if (reply.kind == ReplyKind::Keyword)
         return toLisp(reply.text);
     if (!reply.hasValue() || reply.entities.empty())
@@ -95,7 +96,7 @@ Value nentselp(Arguments &args)
         if (isValid(entity))
             reply.entities.push_back(entity);
     } else {
-        reply = pickEntity(args, QStringLiteral("\nSelect object: "));
+        reply = pickEntity(args, Functions::tr("\nSelect object: "));
     }
     if (reply.kind == ReplyKind::Keyword)
         return toLisp(reply.text);

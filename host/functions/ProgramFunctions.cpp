@@ -3,6 +3,7 @@
 #include "host/functions/FunctionGroups.h"
 #include "host/kernel/documents/Document.h"
 #include "host/kernel/documents/Session.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/lisp/LispConversion.h"
 #include "host/kernel/running/CommandStack.h"
 #include "host/kernel/running/CommandTable.h"
@@ -34,11 +35,11 @@ Value startapp(Arguments &args)
     const QString program = stringAt(args, 0);
     const QStringList given = args.has(1) ? QStringList{stringAt(args, 1)} : QStringList();
     if (!mayStartPrograms(document)) {
-        document.print(QStringLiteral("\nstartapp: %1 is not started: the user's settings do not let programs start "
-                                      "others.\n")
+        document.print(Functions::tr("\nstartapp: %1 is not started: the user's settings do not let programs start "
+                                     "others.\n")
                            .arg(program));
-        document.addKeptBack({KeptBack::Act::Start, program,
-                              QStringLiteral("the user's settings do not let programs start others"), false});
+        document.addKeptBack(
+            {KeptBack::Act::Start, program, u"the user's settings do not let programs start others"_s, false});
         return {};
     }
     qint64 process = 0;

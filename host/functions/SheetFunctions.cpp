@@ -12,6 +12,7 @@
 #include "host/functions/FunctionGroups.h"
 #include "host/kernel/documents/Document.h"
 #include "host/kernel/documents/Session.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/lisp/LispConversion.h"
 #include "host/lisp/Interpreter.h"
 
@@ -103,15 +104,15 @@ private:
         const auto interim = [](std::size_t number) { return QStringLiteral("\x01%1").arg(number); };
         for (std::size_t i = 0; i < sheets.size(); ++i) {
             if (!drawing::renameSheet(m_target, sheets[i].layout, interim(i)))
-                m_outcome.error = QStringLiteral("there is no sheet \"%1\"").arg(sheets[i].layout);
+                m_outcome.error = Functions::tr("there is no sheet \"%1\"").arg(sheets[i].layout);
             else if (!drawing::isSymbolName(sheets[i].name, m_target.version()))
-                m_outcome.error = QStringLiteral("\"%1\" cannot be the name of a sheet").arg(sheets[i].name);
+                m_outcome.error = Functions::tr("\"%1\" cannot be the name of a sheet").arg(sheets[i].name);
             if (!m_outcome.error.isEmpty())
                 return;
         }
         for (std::size_t i = 0; i < sheets.size(); ++i) {
             if (!drawing::renameSheet(m_target, interim(i), sheets[i].name))
-                m_outcome.error = QStringLiteral("there is a sheet \"%1\" already").arg(sheets[i].name);
+                m_outcome.error = Functions::tr("there is a sheet \"%1\" already").arg(sheets[i].name);
         }
     }
 
@@ -249,7 +250,7 @@ Value mergeSheets(Arguments &args)
     const auto clash = args.has(2) ? drawing::NameClash::Prefix : drawing::NameClash::Keep;
     const QString path = args.has(0) ? stringAt(args, 0) : QString();
     if (isSource(documentOf(args), sheets, path))
-        return toLisp(QStringLiteral("%1 is one of the drawings that sheets come from").arg(path));
+        return toLisp(Functions::tr("%1 is one of the drawings that sheets come from").arg(path));
     if (const auto obstacle = obstacleToWriting(path, &documentOf(args).session()); args.has(0) && obstacle)
         return toLisp(obstacle->text);
     // What fails half way must not leave half a drawing.

@@ -6,6 +6,7 @@
 #include "host/functions/FunctionGroups.h"
 #include "host/functions/OpenDialogs.h"
 #include "host/kernel/documents/Document.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/lisp/LispConversion.h"
 #include "host/lisp/Interpreter.h"
 
@@ -146,7 +147,7 @@ dcl::Slide findSlide(Document &document, const QString &text)
     const QString path = document.findFile(name.file);
     dcl::Slide none;
     if (path.isEmpty()) {
-        none.problem = u"the file was not found"_s;
+        none.problem = Functions::tr("the file was not found");
         return none;
     }
     const files::WholeBytes read = files::readWhole(path, largestSlideFile);
@@ -167,7 +168,7 @@ Value slideImage(Arguments &args)
         return {};
     const dcl::Slide slide = findSlide(documentOf(args), name);
     if (!slide.problem.isEmpty())
-        documentOf(args).print(u"\nThe slide \"%1\": %2.\n"_s.arg(name, slide.problem));
+        documentOf(args).print(Functions::tr("\nThe slide \"%1\": %2.\n").arg(name, slide.problem));
     image->drawSlide(area, slide);
     return slide.shapes.empty() && !slide.problem.isEmpty() ? Value() : args[4];
 }

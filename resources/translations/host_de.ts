@@ -52,6 +52,5287 @@
     </message>
 </context>
 <context>
+    <name>Commands</name>
+    <message>
+        <source>Specify angle vertex: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify first angle endpoint: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify second angle endpoint: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select second line: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lines are parallel.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Object selected is not a line.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select arc, circle, line, or &lt;specify vertex&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Object selected is not an arc, circle or line.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter text location (or press ENTER): </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify dimension arc line location or [Mtext/Text/Angle/Quadrant]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify quadrant: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select arc or polyline arc segment: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Object selected is not an arc or polyline arc segment.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify first point for arc length dimension: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify second point for arc length dimension: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The two points are one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify arc length dimension location, or [Mtext/Text/Angle/Partial%1]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A drawing of this version has no dimensions of arc lengths: they come with R2004.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Current attribute modes:  </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter an option to change [Invisible/Constant/Verify/Preset] &lt;done&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter attribute tag name: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A tag is needed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A tag has no blanks.</source>
+        <translation type="unfinished">Eine Bezeichnung hat keine Leerzeichen.</translation>
+    </message>
+    <message>
+        <source>Enter attribute prompt: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter attribute value: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter default attribute value: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter attribute tag name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter attribute prompt</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter default attribute value, . for none</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select an annotation object: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Requires a text.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select continued dimension: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select base dimension: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Linear, ordinate, or angular associative dimension required.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+All dimensions of the command are undone.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify feature location or [Select/Undo] &lt;Select&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify second extension line origin or [Select/Undo] &lt;Select&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify a second extension line origin or [Select] &lt;Select&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter obliquing angle (press ENTER for none): </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unknown dimension variable &quot;%1&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter new value for dimension variable &lt;%1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 does not take this value.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter dimension variable name to override: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter type of dimension editing [Home/New/Rotate/Oblique] &lt;Home&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter dimension text &lt;&lt;&gt;&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify angle for dimension text: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select dimension: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Object selected is not a dimension.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify new location for dimension text or [Left/Right/Center/Home/Angle]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter dimension variable name to override or [Clear overrides]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter new text style name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dim: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unknown dimension subcommand &quot;%1&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Nothing that was made here is left to undo.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter dimension style(s) to list &lt;*&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter a dimension style name, [?] or &lt;select dimension&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot find dimension style &quot;%1&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter name for new dimension style or [?]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no name for a dimension style.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>That name is already in use, redefine it? [Yes/No] &lt;N&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Create annotative dimension style [Yes/No] &lt;Yes&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Current dimension style: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter a dimension style option [ANnotative/Save/Restore/STatus/Variables/Apply/?] &lt;Restore&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify internal point or [Properties/Select objects/draW boundary/remove Boundaries/Advanced/DRaw order/Origin/ANnotative/hatch COlor/LAyer/Transparency]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Too many curves cross here: choose a boundary set.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Valid hatch boundary not found.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+The objects make no closed boundary.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Retain polyline boundary? [Yes/No] &lt;N&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify start point: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify next point or [Close/Undo] &lt;Close&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify start point for new boundary or &lt;Accept&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select boundary to remove: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Current hatch pattern:  </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter an option [Boundary set/Island detection/Object type] &lt;eXit&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter type of boundary object [Region/Polyline] &lt;%1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify internal point or [Advanced options]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+BOUNDARY created 1 region</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+BOUNDARY created 1 polyline</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+BOUNDARY created %1 regions</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+BOUNDARY created %1 polylines</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter pattern(s) to list &lt;*&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify angle for crosshatch lines &lt;%1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify spacing between the lines &lt;%1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Double hatch area? [Yes/No] &lt;%1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify a scale for the pattern &lt;%1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify an angle for the pattern &lt;%1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter new color or [. (for use current)] &lt;.&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no colour.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify new layer name or [. (for use current)] &lt;.&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot find layer &quot;%1&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter new transparency value (0-90) or [. (for use current)] &lt;.&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Requires a whole number from 0 to 90.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter draw order [do Not assign/send to Back/bring to Front/send beHind boundary/bring in front of bounDary] &lt;send behind boundary&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>[Use current origin/Set new origin] &lt;Use current origin&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify point: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Store as default origin? [Yes/No] &lt;N&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unknown hatch pattern &quot;%1&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter a pattern name or [?/Solid/User defined] &lt;%1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter hatching style [Ignore/Outer/Normal] &lt;%1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify candidate set for boundary [New/Everything] &lt;Everything&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Do you want island detection? [Yes/No] &lt;Y&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter an option [Boundary set/Retain boundary/Island detection/Style/Associativity/Gap tolerance/separate Hatches] &lt;eXit&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Retain derived boundaries? [Yes/No] &lt;N&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Do you want associativity? [Yes/No] &lt;Y&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify a boundary gap tolerance value &lt;%1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Create separate hatches? [Yes/No] &lt;N&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Create annotative hatch [Yes/No] &lt;N&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Annotative hatches are not made.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+A boundary needs three points.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+A drawing of this version keeps no draw order.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The hatch spacing is too dense, or the dash size too small.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+No polyline can follow the boundary: it has pieces of ellipses or splines.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select hatch object: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Object selected is not a hatch.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter hatch option [DIsassociate/Style/Properties/Origin/ANnotative/hatch COlor/LAyer/Transparency] &lt;Properties&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify first endpoint of text baseline: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify start point of text: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify center point of text: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify right endpoint of text baseline: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify middle point of text: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify top-left point of text: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify top-center point of text: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify top-right point of text: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify middle-left point of text: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify middle-center point of text: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify middle-right point of text: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify bottom-left point of text: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify bottom-center point of text: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify bottom-right point of text: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter an option [%1]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter next line of annotation text: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A text, tolerance or block reference is needed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter block name: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot find block &quot;%1&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter scale factor &lt;1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify rotation angle &lt;0&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter tolerance text: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter an annotation option [Tolerance/Copy/Block/None/Mtext] &lt;Mtext&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select an object to copy: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter first line of annotation text: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter leader format option [Spline/STraight/Arrow/None] &lt;Exit&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify leader start point: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify next point: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify next point or [Annotation/Format/Undo] &lt;Annotation&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter first line of annotation text or &lt;options&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify first leader point: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify text width &lt;0&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter first line of annotation text &lt;Mtext&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Leader start: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>To point: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter dimension text &lt;%1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify first extension line origin or &lt;select object&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify second extension line origin: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select object to dimension: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Object selected is not a line, arc, circle or piece of a polyline.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify angle of dimension line &lt;0&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify dimension line location or [%1]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify dimension line location or [Mtext/Text/Angle]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify feature location: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify leader endpoint or [Xdatum/Ydatum/Mtext/Text/Angle]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The object is not parallel to the current UCS.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select a leader type [Straight/sPline/None]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Use landing [Yes/No]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify fixed landing distance</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select a content type [Block/Mtext/None]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter the maximum points for leader or [None] &lt;%1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A leader has two points at least.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter an option [Leader type/leader lAnding/Content type/Maxpoints/First angle/Second angle/eXit options] &lt;eXit options&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter first angle constraint &lt;%1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter second angle constraint &lt;%1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify leader landing location: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter text: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify first corner of text: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify insertion point for block: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify opposite corner: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify leader arrowhead location or [leader Landing first/Content first/Options] &lt;Options&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A drawing of this version has no multileaders: they come with R2007.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify leader arrowhead location: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Object selected is not a multileader.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select a multileader: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify leaders to remove or [Add leaders]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify leader arrowhead location or [Remove leaders]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+The multileader has no leader there.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter an option [Distribute/specify Spacing/Use current spacing] &lt;Use current spacing&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify spacing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select multileaders: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No multileaders were selected.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify first point or [Options]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify second point: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select multileader to align to or [Options]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify direction: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify angle of dimension text: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Dimension text = </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter justification [%1]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter line spacing type [At least/Exactly]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter line spacing factor or distance &lt;%1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lines are 0.25x to 4x of the usual distance apart.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify total width</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify number of columns &lt;2&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify gutter width</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>So many columns do not fit into this width.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify column width</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter column type [Dynamic/Static/No columns]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A drawing of this version has no columns in texts: they come with R2007.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify column height</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify height</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify rotation angle &lt;%1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify width</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify first corner: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify opposite corner or [Height/Justify/Line spacing/Rotation/Style/Width/Columns]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Current text style:  &quot;%1&quot;  Text height:  %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MText: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No texts were selected.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+%1 texts became one paragraph.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Object selected is not a circle or arc.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify dimension line location or leader length for text: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A drawing of this version has no jogged dimensions of radii: they come with R2004.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select arc or circle: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify center location override: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify jog location: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>DIMCEN is 0: there is no centre mark.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter name of text style</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Invalid style name.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify full font name or font filename (TTF or SHX) &lt;%1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify height of text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify width factor</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify obliquing angle &lt;%1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The obliquing angle is from -85 to 85 degrees.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Display text backwards?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Display text upside-down?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Existing style.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+New style.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+&quot;%1&quot; is now the current text style.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify start point of text or [Justify/Style]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no text to go on below.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify second endpoint of text baseline: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify height &lt;%1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify rotation angle of text &lt;0&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The two endpoints are one point.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Style name: &quot;%1&quot;  Font files: %2  Height: %3  Width factor: %4</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 or [?] &lt;%2&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter text style(s) to list &lt;*&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter style name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot find text style &quot;%1&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Cannot find file &quot;%1&quot; of reference &quot;%2&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Warning: &quot;%1&quot; shows this drawing, which is left out there.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+&quot;%1&quot; loaded.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot find file &quot;%1&quot; of reference &quot;%2&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+&quot;%1&quot; is a block of this drawing now.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> %1 of its records could not be taken over.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter an option [?/Name/Select] &lt;Select&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Blocks with attributes:
+  </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter name of block to synchronize or [?]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select a block: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>That is no block reference.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ATTSYNC block %1? [Yes/No] &lt;Yes&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Block &quot;%1&quot; not found.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+%1 block references were synchronized.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter block name specification &lt;*&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter attribute tag specification &lt;*&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter attribute value specification &lt;*&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+%1 attributes selected.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter string to change: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter new string: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter type of value modification [Change/Replace] &lt;R&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter new attribute value: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify new height &lt;%1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter new layer name: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter an option [Value/Height/Layer/Next] &lt;N&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Edit attributes one at a time? [Yes/No] &lt;Y&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Edit only attributes visible on screen? [Yes/No] &lt;Y&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, . for none &lt;%2&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The block has no attributes.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter number or tag of attribute or [?] &lt;exit&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The value of %1 is constant.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no attribute &quot;%1&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Defined blocks.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+%1 user blocks.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter block name or [?]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter block(s) to list &lt;*&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be the name of a block.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Block &quot;%1&quot; cannot be redefined.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Block &quot;%1&quot; already exists. Redefine it? [Yes/No] &lt;N&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Block &quot;%1&quot; would show itself.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify insertion base point or [Annotative]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Blocks are made without annotation scales.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Create annotative block? [Yes/No] &lt;N&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter base point &lt;%1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+%1 field(s) found
+%1 field(s) updated</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify first point: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify next point or [Undo]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select polyline: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify clipping boundary or select invert option: [Select polyline/Polygonal/Rectangular/Invert clip] &lt;Rectangular&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Objects inside boundary will be hidden.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Objects outside boundary will be hidden.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>That encloses nothing.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+%1 could not be clipped.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Delete old boundary(s)? [Yes/No] &lt;Yes&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No block references were chosen.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter clipping option [ON/OFF/Delete/generate Polyline/New boundary] &lt;New&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing of that can be copied.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify base point: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The clipboard is empty.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+%1 could not be pasted.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify insertion point: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Defined groups.                            Selectable</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter group name(s) to list &lt;*&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter a group name or [?]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Group &quot;%1&quot; does not exist.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be the name of a group.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Group &quot;%1&quot; already exists.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A group needs an entity.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A drawing of this version has no groups.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter a group description: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select objects: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter a new name for group or [?]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter position number of the object to reorder %1 or [Reverse]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter new position number for the object %1: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter number of objects to reorder &lt;1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Requires a number from 0 to %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Is group selectable? [Yes/No] &lt;Y&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter a group option [?/Order/Add/Remove/Explode/REName/Selectable/Create] &lt;Create&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+%1 of its entities became ones that a drawing of this version has.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+%1 of its entities could not be taken over.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot find block or file &quot;%1&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter block name or [?] &lt;%1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify scale factor for XYZ axes &lt;1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify %1 scale factor &lt;1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter %1 scale factor &lt;use X scale factor&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter X scale factor or [Corner/XYZ] &lt;1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Value must be nonzero.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify X scale factor &lt;1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify insertion point or [Scale/X/Y/Z/Rotate]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify scale factor &lt;1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot find file &quot;%1&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The drawing cannot refer to itself.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The name &quot;%1&quot; is a block&apos;s already.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The name &quot;%1&quot; cannot be used.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no drawing.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Xref &quot;%1&quot; has already been defined.
+Using existing definition.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+%1 Xref &quot;%2&quot;: %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+No matching references found.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+&quot;%1&quot; was not detached: block &quot;%2&quot; holds it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+&quot;%1&quot; was not detached.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+&quot;%1&quot; detached.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+&quot;%1&quot; unloaded.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter xref name(s) to list &lt;*&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter xref name(s) to bind: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter xref name(s) to detach: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter xref name(s) to unload: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter xref name(s) to reload: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter xref name(s) to edit path: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Xref name: %1
+Old path: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter new path: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter name of file to attach: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter an option [?/Bind/Detach/Path/Unload/Reload/Overlay/Attach] &lt;Attach&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Nothing to write.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+%1 was written as DXF text.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+%1 was written.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter name of output file: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter name of existing block, [= (same name)/* (whole drawing)] &lt;choose entities&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Block &quot;%1&quot; not found.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify insertion base point: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+1 was on a locked layer.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+%1 were on a locked layer.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The numbers are too large.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+%1 could not be changed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+%1 could not be mirrored.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+%1 could not be copied.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Linetype &quot;%1&quot; loaded.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify displacement &lt;%1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify base point or [Displacement] &lt;Displacement&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify second point or &lt;use first point as displacement&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot find %1 &quot;%2&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 already exists. Replace it? [Yes/No] &lt;No&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify the reference angle &lt;%1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify the new angle or [Points] &lt;%1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify reference length &lt;%1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify new length or [Points] &lt;%1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>(ADD mode) </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>(SUBTRACT mode) </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Area = %1, %2 = %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Total area = %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Selected object does not have an area.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1Specify next point or [Undo]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1Specify next point or [Undo/Total] &lt;Total&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify first corner point or [Object/Add area/Subtract area] &lt;Object&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify first corner point or [Object/Subtract area]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify first corner point or [Object/Add area]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select object: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify second break point or [First point]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify first break point: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify second break point: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A whole circle or ellipse cannot be broken at one point.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The object cannot be broken there.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The lines are parallel.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The lines are one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The angle leads to no cut.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Radius is too large.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Distance is too large.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no arc of that radius.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>They do not lie in one plane.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Two different ones are needed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Only straight lines can be chamfered.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter Trim mode option [Trim/No trim]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify first chamfer distance</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify second chamfer distance</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify chamfer length on the first line</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify chamfer angle from the first line &lt;%1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify fillet radius</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter trim method [Distance/Angle]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select 2D polyline or [Radius]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select 2D polyline or [Distance/Angle/mEthod]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Requires a flat polyline.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+%1 lines were filleted</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+%1 lines were chamfered</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+%1 were too short</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+%1 were parallel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Requires a line, arc, circle or straight stretch of a polyline in the user&apos;s plane.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select second object or [Radius]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select second line or [Distance/Angle/Method]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select first object or [Undo/Polyline/Radius/Trim/Multiple]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select first line or [Undo/Polyline/Distance/Angle/Trim/mEthod/Multiple]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Nothing to undo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Current settings: Mode = %1, Radius = %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+(%1 mode) Current chamfer Dist1 = %2, Dist2 = %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The corner has no room for that.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Only the ends of open polylines, lines and arcs can be joined.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Only neighbouring stretches of a polyline make a corner.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter name of block to insert: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Align block with object?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select object to divide: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter the number of segments or [Block]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter the number of segments: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The number must be between 2 and %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select object to measure: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify length of segment or [Block]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify length of segment: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>These would be more than %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+%1 lines joined into 1 line</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+%1 arcs joined into 1 arc</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+%1 ellipses joined into 1 ellipse</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+%1 objects converted to 1 polyline</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+%1 objects converted to 1 spline</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+%1 objects discarded from the operation</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select source object or multiple objects to join at once: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select arcs to join to source or [cLose]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select objects to join: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Current length: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>, included angle: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+This object cannot be lengthened.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select an object to change or [Undo]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify new endpoint: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+The object cannot have that length.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter delta length or [Angle] &lt;%1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter delta angle &lt;%1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify total length or [Angle] &lt;%1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify total angle &lt;%1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter percentage length &lt;100.0000&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select an object to measure or [DElta/Percent/Total/DYnamic]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify offset distance or [Through/Erase/Layer] &lt;%1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Erase source object after offsetting?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter layer option for offset objects [Current/Source]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify through point</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify point on side to offset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> or [Exit/Undo] &lt;next object&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> or [Exit/Multiple/Undo] &lt;Exit&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot offset that object so far.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Select object to offset or [Exit/Undo] &lt;Exit&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot offset that object.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter property to ignore [%1]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter an option to change [Done/Ignore/Tolerance/Overlaps/Endtoend]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify tolerance</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Combine lines and arcs that overlap?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Combine lines and arcs that meet end to end?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+%1 duplicate(s) deleted</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+%1 overlapping object(s) or segment(s) deleted</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Select polyline or [Multiple]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Object selected is not a polyline.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Object selected is not a polyline</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Do you want to turn it into one?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Convert Lines, Arcs and Splines to polylines</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Splines do not become part of a polyline: %1 left out.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+%1 segments added to polyline</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter fuzz distance or [Jointype] &lt;%1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter a vertex join type [Extend/Add/Both]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+%1 segments added to %2 polylines</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify new width for all segments: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter polyline linetype generation option [ON/OFF]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter an option [Close/Open/Join/Width/Fit/Spline/Decurve/Ltype gen/Reverse/Undo]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter an option [%1/Edit vertex/Spline curve/Decurve/Reverse/Undo]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter an option [%1/Join/Width/Edit vertex/Fit/Spline/Decurve/Ltype gen/Reverse/Undo]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter an option [Next/Previous/Go/eXit] &lt;N&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Nothing would be left on one side.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify starting width for next segment</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify ending width for next segment</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify location for new vertex: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify direction of vertex tangent: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter a vertex editing option [Next/Previous/Break/Insert/Move/Regen/Straighten/%1eXit] &lt;N&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify new location for marked vertex: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+That object is on a locked layer.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Cannot %1 this object.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Cannot EXTEND this object.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Object does not intersect an edge.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Command has been completely undone.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify first fence point: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify next fence point or [Undo]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter a projection option [None/Ucs/View]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter an implied edge extension mode [Extend/No extend]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Current settings: Projection=%1, Edge=%2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Select boundary edges ...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Select cutting edges ...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select object to extend or [Fence/Crossing/Project/Edge/Undo]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select object to trim or [Fence/Crossing/Project/Edge/eRase/Undo]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify included angle: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify end point of arc or [Angle/chord Length]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify length of chord: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify end point of arc: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify center point of arc or [Angle/Direction/Radius]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify tangent direction for the start point of arc: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify radius of arc: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify second point of arc or [Center/End]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify center point of arc: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify start point of arc or [Center]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No line or arc to continue.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify start point of arc: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no such arc.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify first end point of circle&apos;s diameter: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify second end point of circle&apos;s diameter: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify first point on circle: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify second point on circle: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify third point on circle: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Circle does not exist: the points lie in one line.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify diameter of circle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify point on object for first tangent of circle: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify point on object for second tangent of circle: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Requires a line, an arc or a circle in the user&apos;s plane.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify radius of circle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Circle does not exist.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify center point for circle or [3P/2P/Ttr (tan tan radius)]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify radius of circle or [Diameter]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Circle does not exist: the points are one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify through point: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select a line object: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Requires a line, a ray or a straight part of a polyline.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter angle of xline (%1) or [Reference]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter angle of xline &lt;%1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify angle vertex point: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify angle start point: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify angle end point: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify offset distance or [Through] &lt;%1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify side to offset: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify a point or [Hor/Ver/Ang/Bisect/Offset]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Length of line: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify next point or [Close/Undo]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify a point: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify distance to other axis or [Rotation]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify rotation around major axis: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An ellipse is turned by 0 to 89.4 degrees.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify center of ellipse: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify endpoint of axis: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify other endpoint of axis: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The endpoints of the axis are one point.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify end parameter or [Angle/Included angle]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify end angle or [Parameter/Included angle]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify start parameter or [Angle]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify start angle or [Parameter]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify included angle for arc &lt;180&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify axis endpoint of ellipse or [Arc/Center]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify axis endpoint of elliptical arc or [Center]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify third point: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify fourth point or &lt;exit&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify trace width</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify first point or [Invisible]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify second point or [Invisible]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify third point or [Invisible] &lt;exit&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify fourth point or [Invisible] &lt;create three-sided face&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify start point of polyline: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify endpoint of line or [Close/Undo]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify endpoint of line or [Undo]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+All segments already undone.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter mline style name or [?]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot find multiline style &quot;%1&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Current settings: Justification = %1, Scale = %2, Style = %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify start point or [Justification/Scale/STyle]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter justification type [Top/Zero/Bottom]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter mline scale &lt;%1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter number of sides &lt;%1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A polygon has 3 to 1024 sides.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify first endpoint of edge: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify second endpoint of edge: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter an option [Inscribed in circle/Circumscribed about circle]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify radius of circle: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify center of polygon or [Edge]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The endpoints of the edge are one point.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify inside diameter of donut</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify outside diameter of donut</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify center of donut or &lt;exit&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify direction of chord for arc &lt;%1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify endpoint of arc or [CEnter/Radius]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify endpoint of arc or [Angle/Length]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify the tangent direction for the start point of arc: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify endpoint of the arc: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify endpoint of arc or [Angle]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify second point on arc: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify starting half-width &lt;%1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify ending half-width &lt;%1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify starting width &lt;%1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify ending width &lt;%1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify length of line: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify endpoint of arc or [Angle/CEnter/%1Direction/Halfwidth/Line/Radius/Second pt/Undo/Width]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify next point or [Arc/%1Halfwidth/Length/Undo/Width]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Current line-width is %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify fillet radius for rectangles</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify first chamfer distance for rectangles</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify second chamfer distance for rectangles</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify first corner point or [Chamfer/Elevation/Fillet/Thickness/Width]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify the elevation for rectangles</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify thickness for rectangles</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify line width for rectangles</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter area of rectangle in current units</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Calculate rectangle dimensions based on [Length/Width]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter rectangle width</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter rectangle length</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify rotation angle or [Pick points] &lt;%1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify other corner point or [Area/Dimensions/Rotation]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify length for rectangles</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify width for rectangles</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The corners of a rectangle lie neither above nor beside each other.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 loop rejected: it crosses itself or branches.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 loops rejected: it crosses itself or branches.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 loop rejected: it does not lie in a plane.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 loops rejected: it does not lie in a plane.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 loop rejected: it encloses nothing.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 loops rejected: it encloses nothing.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 curve rejected: it is not part of a closed loop.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 curves rejected: it is not part of a closed loop.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 object rejected: it is no curve.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 objects rejected: it is no curve.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Drawings of R12 have no regions.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+1 loop extracted.
+1 Region created.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+%1 loops extracted.
+%1 Regions created.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify minimum length of arc</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify maximum length of arc &lt;%1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify first corner point or [Arc length/Object/Rectangular/Polygonal/Freehand/Style] &lt;Object&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify start point or [Arc length/Object/Rectangular/Polygonal/Freehand/Style] &lt;Object&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select arc style [Normal/Calligraphy]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter name of shape file to load: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot read shape file &quot;%1&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter shape name: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot find shape &quot;%1&quot;. Load its file first.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify height &lt;1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Only polylines with the smoothing of splines can be converted.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify first point or [Method/Knots/Object]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify first point or [Method/Degree/Object]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter spline creation method [Fit/CV]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter knot parameterization [Chord/Square root/Uniform]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter degree of spline &lt;%1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter next point or [%1Undo]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter next point or [start Tangency/toLerance]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter next point or [%1Fit tolerance/Undo/end Tangency] &lt;start tangent&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+All points already undone.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify start tangent: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify end tangent: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify fit tolerance</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify tangent: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify first source point: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify first destination point: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify second source point: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify second destination point: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify third source point or &lt;continue&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify third destination point: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Scale objects based on alignment points? [Yes/No] &lt;N&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The points say no direction.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify first point on axis or define axis by [Xaxis/Yaxis/Zaxis/2points]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify a point on the %1 axis &lt;0,0,0&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify first point on axis: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify second point on axis: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify rotation angle or [Reference]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify the distance between columns (|||): </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Enter the distance between rows or specify unit cell (---): </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter the number of rows (---) &lt;1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter the number of columns (|||) &lt;1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>One-element array, nothing to do.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Requires a distance other than 0, or two corners of a cell.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter the number of items in the array: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify the angle to fill (+=ccw, -=cw) &lt;360&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Angle between items: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify center point of array or [Base]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify base point of objects: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify center point of array: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Requires a number of items or an angle between them.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rotate arrayed objects? [Yes/No] &lt;Y&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter the type of array [Rectangular/Polar] &lt;R&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter property to change [%1]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify change point or [Properties]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter new text style &lt;%1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify new rotation angle &lt;%1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter new text &lt;%1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter new tag &lt;%1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter new prompt &lt;%1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter new default value &lt;%1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify new text insertion point &lt;no change&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify new block insertion point &lt;no change&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify new block rotation angle &lt;%1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+%1 not changed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter object ordering option [Above objects/Under objects/Front/Back] &lt;Back&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter number of items to array: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Requires an integer of 2 or more.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify second point or [Fit]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify second point or [Array] &lt;use first point as displacement&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify second point or [Array/Exit/Undo] &lt;Exit&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify base point or [Displacement/mOde] &lt;Displacement&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter a copy mode option [Single/Multiple] &lt;Multiple&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Current positive angle in UCS:  ANGDIR=%1  ANGBASE=%2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify rotation angle or [Copy/Reference] &lt;%1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Rotating a copy of the selected objects.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify scale factor or [Copy/Reference]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Scaling a copy of the selected objects.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Requires three numbers from 0 to 255.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A drawing of this version has no such colors.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>New color [Truecolor/COlorbook] &lt;%1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Red,Green,Blue: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This program has no color books.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Requires a color number from 1 to 255 or a color name.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter new layer name &lt;%1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter new linetype name &lt;%1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot find linetype &quot;%1&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify new linetype scale &lt;%1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter new lineweight &lt;%1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A drawing of this version has no lineweights.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Requires a lineweight from 0 to 2.11.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify new thickness &lt;%1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter new transparency value &lt;ByLayer&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A drawing of this version has no transparency.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Requires an integer from 0 to 90.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify new elevation &lt;%1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+%1 of the pieces could not be made.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify stretch point or [Base point/Copy/Undo/eXit]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify move point or [Base point/Copy/Undo/eXit]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify rotation angle or [Base point/Copy/Undo/Reference/eXit]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify scale factor or [Base point/Copy/Undo/Reference/eXit]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify second point or [Base point/Copy/Undo/eXit]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> (multiple)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify grips to move: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no grip of the chosen entities.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+There is nothing to undo.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter a setting to switch off or on [%1] &lt;exit&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+%1 is %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select source object: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Current active settings:  </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select destination object(s) or [Settings]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+%1 selected.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify first point of mirror line: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify second point of mirror line: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Erase source objects? [Yes/No] &lt;N&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify first point on mirror plane: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify second point on mirror plane: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify third point on mirror plane: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify point on %1 plane &lt;%2&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify first point of mirror plane (3 points) or [Zaxis/View/XY/YZ/ZX/3points] &lt;3points&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify point on mirror plane: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify point on Z-axis (normal) of mirror plane: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify point on view plane &lt;0,0,0&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The points say no plane.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Delete source objects? [Yes/No] &lt;N&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The sheet has no viewport.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+%1 object(s) changed from MODEL space to PAPER space.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+%1 object(s) changed from PAPER space to MODEL space.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Objects were scaled by a factor of %1 to maintain visual appearance.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Only a layout has both spaces.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Select objects to stretch by crossing-window or crossing-polygon...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter name of customization file to load: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+&quot;%1&quot; was not loaded: there are no menu files here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter name of customization group to unload: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+There is no customization group &quot;%1&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter name of assembly to load: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+&quot;%1&quot; was not loaded: programs for other hosts do not run here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter an option [?/Load/Unload/Commands/Options]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter name of application file: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Programs for other hosts do not run here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter delay time (in milliseconds): </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fix any errors detected? [Yes/No] &lt;No&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Total errors found %1 fixed %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Save the drawing and open it with --recover: that mends the others.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter name of drawing to open: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter template file name or [. (for none)] &lt;.&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot find template &quot;%1&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save changes to %1? [Yes/No/Cancel] &lt;Yes&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Really want to discard all changes to drawing? [Yes/No] &lt;No&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>another version</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This drawing is of %1, and this program writes no drawing in another version: nothing was written.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter decimal places of accuracy (0 to 16) or [Objects/Binary/Version] &lt;16&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter version [%1]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This program writes whole drawings with all decimal places: nothing was written.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save drawing as, or enter file format [%1/DXF] &lt;%2&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save drawing as &lt;%1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+The rest of the script that called it is left out.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Too many scripts wait to be run: &quot;%1&quot; is left out.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter script file name: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Cannot read script &quot;%1&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Cannot read script &quot;%1&quot;: %2 (the limit is %3 MB).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No script has been run.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 [Yes/No] &lt;%2&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter a layout name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Layout &quot;%1&quot; not found.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter an output device name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no device &quot;%1&quot;: plots are files of PDF, PNG or SVG.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter paper size</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no paper size &quot;%1&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter paper units [Inches/Millimeters] &lt;Millimeters&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter drawing orientation [Portrait/Landscape] &lt;%1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Plot upside down?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Plots stand upright here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter lower left corner of window &lt;0.000000,0.000000&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter upper right corner of window: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter plot area [%1] &lt;%2&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter view name: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot find view &quot;%1&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter plot scale (Plotted Millimeters=Drawing Units) or [Fit] &lt;%1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no plot scale.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter plot offset (x,y) or [Center] &lt;Center&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Plot with plot styles?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter plot style table name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Plot with lineweights?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter shade plot setting [As displayed/Wireframe/Hidden/Visual styles/Rendered] &lt;As displayed&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Scale lineweights with plot scale?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Plot paper space first?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hide paperspace objects?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter file name &lt;%1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save changes to page setup?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Proceed with plot</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter a page setup name &lt;&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Detailed plot configuration?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Plotted to %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot find plot style table &quot;%1&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Some of what the drawing holds is not drawn, or in part.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Purge %1 &quot;%2&quot;? [Yes/No] &lt;No&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Deleting %1 &quot;%2&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter name(s) to purge &lt;*&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Verify each name to be purged? [Yes/No] &lt;Yes&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Nothing unreferenced found.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+%1 orphaned objects deleted.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+%1 entities without length deleted.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+%1 empty texts deleted.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+No unreferenced %1 found.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter type of unused objects to purge [Blocks/DEtailviewstyles/Dimstyles/Groups/LAyers/LTypes/MAterials/MUltileaderstyles/Plotstyles/SHapes/textSTyles/Mlinestyles/SEctionviewstyles/Tablestyles/Visualstyles/Regapps/Zero-length geometry/Empty text objects/Orphaned data/All]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>block</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>dimension style</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>layer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>linetype</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>material</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>multileader style</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>text style</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>table style</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>UCS</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>view</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>viewport</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>layout</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter object type to rename [Block/Dimstyle/LAyer/LType/Material/multileadersTyle/Style/Tablestyle/Ucs/VIew/VPort]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter old %1 name: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter new %1 name: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter command name: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unknown command &quot;%1&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+%1 is a command already.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Saved to %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save all the same, or under another name? [Anyway/Name/Cancel] &lt;Cancel&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save under another name? [Name/Cancel] &lt;Cancel&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing was written.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save drawing as: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 cannot be set to that value.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter mode [ON/OFF] &lt;%1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify horizontal spacing(X) &lt;%1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify vertical spacing(Y) &lt;%1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify grid spacing(X) or [ON/OFF/Snap/Aspect]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify snap spacing or [ON/OFF/Aspect/Rotate/Style/Type]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify base point &lt;%1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter snap grid style [Standard/Isometric] &lt;%1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify vertical spacing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify snap spacing or [Aspect]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter snap type [Polar/Grid] &lt;%1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter isometric plane setting [Left/Top/Right] &lt;%1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Current Isoplane: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify lower left corner or [ON/OFF] &lt;%1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify upper right corner &lt;%1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify new default elevation &lt;%1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify new default thickness &lt;%1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter default object color [Truecolor/COlorbook] &lt;%1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>New objects take colors by number or name here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Everything has been undone.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter UNDO Auto mode [ON/OFF] &lt;ON&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter an UNDO control option [All/None/One/Combine/Layer] &lt;All&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Combine zoom and pan operations? [Yes/No] &lt;Yes&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Combine layer property changes? [Yes/No] &lt;Yes&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Undo is always on.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This will undo everything. OK? [Yes/No] &lt;Yes&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter the number of operations to undo or [Auto/Control/BEgin/End/Mark/Back] &lt;1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+There is nothing to redo.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter number of actions or [All/Last]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+There is nothing to bring back.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter command name to repeat: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unknown command &quot;%1&quot;: only built-in ones are repeated.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Requires an integer between %1 and %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter denominator of smallest fraction to display (1, 2, 4, 8, 16, 32, 64, 128, or 256) &lt;%1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Requires a power of two up to 256.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Report formats: 1. Scientific  2. Decimal  3. Engineering  4. Architectural  5. Fractional</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter choice, 1 to 5</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter number of digits to right of decimal point (0 to 8)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Systems of angle measure: 1. Decimal degrees  2. Degrees/minutes/seconds  3. Grads  4. Radians  5. Surveyor&apos;s units</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter number of fractional places for display of angles (0 to 8)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter direction for angle 0 &lt;%1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Measure angles clockwise? [Yes/No] &lt;%1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 mm</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Current lineweight: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter default lineweight for new objects or [?]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+ByLayer, ByBlock, Default, or 0.00 to 2.11 mm</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>from point,</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>  to point,</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Length = %1,  Angle in XY Plane = %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Delta X = %1, Delta Y = %2, Delta Z = %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>at point,</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>base point,</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>through point,</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>center point,</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>start angle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>end angle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Center:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Major Axis:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>at point</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Constant width</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>first point</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>second point</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>third point</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>fourth point</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Control Point:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fit Point:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>alignment point,</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>start point,</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>rotation angle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>width scale</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>obliquing angle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Location:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Text style</source>
+        <translation type="unfinished">Textstil</translation>
+    </message>
+    <message>
+        <source>Text height</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>X scale factor</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Y scale factor</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Z scale factor</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>number of columns</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>number of rows</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>between columns</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>between rows</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>arc length</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>jogged radius</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>defining point:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hatch pattern</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hatch scale</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hatch angle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Scale relative to Paper space</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bounding Box: Lower Bound</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Area:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Perimeter:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Color:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Linetype:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Linetype scale</source>
+        <translation type="unfinished">Linientypfaktor</translation>
+    </message>
+    <message>
+        <source>Lineweight:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1  Layer: &quot;%2&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Space:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Model space</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Paper space</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Layout:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Handle =</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Distance = %1,  Angle in XY Plane = %2,  Angle from XY Plane = %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Delta X = %1,  Delta Y = %2,   Delta Z = %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify next point or [Close/Undo/Total] &lt;Total&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Distance = %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify second point or [Multiple points]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 days %2:%3:%4</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Current time:             </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Times for this drawing:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+  Created:                </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+  Last updated:           </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+  Total editing time:     </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+  Elapsed timer:          </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+%1 objects in %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Limits are, low</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Limits are, high</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Uses, low</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Uses, high</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Insertion base is</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Current space:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Current layer:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Current color:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Current linetype:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Current elevation:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Thickness:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A drawing of this version has no such property of layers.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>New color [Truecolor/COlorbook] &lt;7 (white)&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter loaded linetype name or [?] &lt;%1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Linetype &quot;%1&quot; not found.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>linetype &quot;%1&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter lineweight (0.0mm - 2.11mm) or [Default]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter transparency value (0-90): </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>transparency value %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter material name &lt;Global&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot find material &quot;%1&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>material &quot;%1&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter a plotting preference [Plot/No plot] &lt;Plot&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>this plot preference</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter layer description: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>this description</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This program keeps no named plot styles: nothing was changed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+No matching layer names found.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Cannot freeze layer &quot;%1&quot;. It is the current layer.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter name list of layer(s) to turn on: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter name list of layer(s) to turn off: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter name list of layer(s) to freeze: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter name list of layer(s) to thaw: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter name list of layer(s) to lock: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter name list of layer(s) to unlock: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Really want layer &quot;%1&quot; (the CURRENT layer) off? [Yes/No] &lt;No&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be the name of a layer.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot make layer &quot;%1&quot; current: it is frozen.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter name for new layer (becomes the current layer) &lt;%1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter layer name to make current or &lt;select object&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter name list for new layer(s): </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter old layer name: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter layer name(s) to list &lt;*&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Layer name  State  Color  Linetype  Lineweight</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Current layer:  &quot;%1&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter name list of layer(s) to reconcile: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+No unreconciled layers.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter name list of layer(s) for %1 &lt;%2&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter an option [?/Make/Set/New/Rename/ON/OFF/Color/Ltype/LWeight/TRansparency/MATerial/Plot/PStyle/Freeze/Thaw/LOck/Unlock/stAte/Description/rEconcile]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+States to restore: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter states to change [On/Frozen/Lock/Plot/Newvpfreeze/Color/lineType/lineWeight/plotStyle/TRansparency]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+No layer states.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Layer states: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot find layer state &quot;%1&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter new layer state name: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A drawing of this version keeps no layer states.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter name of layer state to restore or [?]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter name of layer state to edit or [?]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter name of layer state to rename or [?]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Layer state &quot;%1&quot; already exists or cannot be one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter name of layer state to delete or [?]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter name of file to import: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No layer state was taken from &quot;%1&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Layer state &quot;%1&quot; imported.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter name of layer state to export or [?]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter name of file to export: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter an option [?/Save/Restore/Edit/Name/Delete/Import/EXport]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Cannot read linetype file &quot;%1&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Cannot read linetype file &quot;%1&quot;: %2 (the limit is %3 MB).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Linetype &quot;%1&quot; not loaded: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Linetype &quot;%1&quot; not found.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter an option [?/Load/Set]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify linetype name: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter linetype(s) to load: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter name of linetype file: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+No matching linetypes found.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Linetype &quot;%1&quot; is already loaded. Reload it? [Yes/No] &lt;Yes&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter setting for layers not isolated [Off/Lock and fade] &lt;%1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>In paper space viewport use [Vpfreeze/Off] &lt;Vpfreeze&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter fade value (0-90) &lt;50&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Layer &quot;%1&quot; has been isolated.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+%1 layers have been isolated.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Current setting: Hide layers, Viewports=Vpfreeze</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Current setting: Lock layers, Fade=50</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select objects on the layer(s) to be isolated or [Settings]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing was selected.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+No layers are isolated.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Layers isolated by LAYISO command have been restored.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+There is no previous state of the layers.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Restored previous layer status.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select an object on the layer to be frozen or [Settings/Undo]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Layer &quot;%1&quot; has been frozen.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select an object on the layer to be turned off or [Settings/Undo]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Layer &quot;%1&quot; has been turned off.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter setting type for [Viewports/Block selection]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>In paper space viewport use [Vpfreeze/Freeze/Off] &lt;Vpfreeze&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter block selection nesting level [Block/Entity/None] &lt;Entity&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Layer &quot;%1&quot; is current, do you want to turn it off? [Yes/No] &lt;No&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+All layers have been turned on.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+All layers have been thawed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select an object on the layer to be locked: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select an object on the layer to be unlocked: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Layer &quot;%1&quot; has been locked.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Layer &quot;%1&quot; has been unlocked.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+One object changed to layer &quot;%1&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+%1 objects changed to layer &quot;%2&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select objects to be changed to the current layer: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select objects to be changed: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select object on destination layer or [Name]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter layer name: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select object whose layer will become current: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+%1 is now the current layer.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This command works through a viewport of a sheet: MSPACE goes into one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select an object on the layer to be isolated in viewport or [Settings/Undo]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Layer &quot;%1&quot; has been frozen in all viewports but the current one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Selected layers: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Do you wish to continue? [Yes/No] &lt;No&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select object on layer to delete or %1: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter layer name to delete: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All that is on layer(s) %1 is erased, and the layers are deleted.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+%1 layer(s) deleted with %2 object(s).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select object on layer to merge or %1: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter layer name to merge: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select object on target layer or [Name]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>You are about to merge %1 layer(s) into layer &quot;%2&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+%1 layer(s) deleted.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter variable(s) to list &lt;*&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> (read only)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+No variable has such a name.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Requires an integer.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Requires a number.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Requires a number between %1 and %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot set %1 to that value.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Requires a point.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter variable name or [?]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unknown variable name &quot;%1&quot;. Type SETVAR ? for a list of variables.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+%1 = %2 (read only)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter new value for %1 &lt;%2&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Active layouts:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Layout: %1	Block name: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+%1 active layout(s) found.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter name of layout to copy: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter layout name for copy: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Layout &quot;%1&quot; copied to &quot;%2&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter new Layout name: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Layout &quot;%1&quot; created.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter layout to rename: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter new layout name: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Layout &quot;%1&quot; renamed to &quot;%2&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter name of layout to delete: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Layout &quot;%1&quot; deleted.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter layout to make current: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter layout to move: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter its place among the layouts: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Layout &quot;%1&quot; moved.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter layout to save to template: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter layout option [Copy/Delete/New/Template/Rename/SAveas/Set/Move/?]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Layout &quot;%1&quot;: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Layout &quot;%1&quot; created.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> %1 of its entities could not be taken over.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter template file name: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter layout name(s): </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Layout &quot;%1&quot; not found in %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter file name to save layout to: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter view name to save: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be the name of a view.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Specify opposite corner: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The window has no area.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select viewport for view: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The view shows model space, and no viewport was chosen for it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter view name to restore: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter view name(s) to delete: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+No matching views found.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter view name(s) to list &lt;*&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter an option [Top/Bottom/Front/BAck/Left/Right] &lt;Top&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save current UCS with named views? [Yes/No] &lt;Yes&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Coordinate systems are not kept with views.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter an option [?/Delete/Orthographic/Restore/Save/Ucs/Window]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter an option [Current ucs/Ucs/World] &lt;Current&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter name of UCS or [?]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter angle in XY plane from X axis: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter angle from XY plane: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify a view point or [Rotate] &lt;%1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no direction from the target to itself.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter name for new viewport configuration or [?]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be the name of a viewport configuration.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter name of viewport configuration to restore or [?]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot find viewport configuration &quot;%1&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter name(s) of viewport configurations to delete &lt;none&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+No matching viewport configurations found.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter name(s) of viewport configuration(s) to list &lt;*&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The screen is divided into too many viewports already.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The window shows one view: the viewports to join cannot be picked.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter an option [Save/Restore/Delete/Join/SIngle/?/2/3/4] &lt;3&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>** Command not allowed in Model Tab **</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There are no active model space viewports.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The viewport has no area.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter viewport arrangement [Horizontal/Vertical] &lt;Vertical&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter viewport arrangement [Horizontal/Vertical/Above/Below/Left/Right] &lt;Right&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+No viewport was chosen.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Current osnap modes: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter list of object snap modes: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Invalid object snap mode.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Object snap target height (1-50 pixels) &lt;%1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Value must be between 1 and 50.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify new origin point</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify new origin point or [Zdepth] &lt;%1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify Z depth &lt;0&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify point on positive portion of X-axis</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify point on positive-Y portion of the UCS XY plane</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The three points lie on a line.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify point on positive portion of Z-axis</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The Z axis has no direction.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify rotation angle about %1 axis &lt;%2&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select object to align UCS: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No UCS can be aligned with this object.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter name to save current UCS or [?]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be the name of a UCS.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>UCS &quot;%1&quot; already exists. Replace it? [Yes/No] &lt;No&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter name of UCS to restore or [?]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter UCS name(s) to delete &lt;none&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+No matching UCS names found.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Current UCS:  %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter UCS name(s) to list &lt;*&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot;  Origin = &lt;%2&gt;, X = &lt;%3&gt;, Y = &lt;%4&gt;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Faces of solids cannot be chosen here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+No previous coordinate system saved.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify point on X-axis or &lt;accept&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify point on the XY plane or &lt;accept&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify origin of new UCS or [ZAxis/3point/OBject/Face/View/X/Y/Z] &lt;%1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Current ucs name:  %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify origin of UCS or [Face/NAmed/OBject/Previous/View/World/X/Y/Z/ZAxis] &lt;World&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter an option [Restore/Save/Delete/?]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Requires a scale factor, two corners or an option keyword.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A scale of the sheet is for viewports: MSPACE goes into one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Enter magnification or height &lt;%1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Requires a height, or a magnification (nX).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify center point: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify lower left corner point: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter a scale factor (nX or nXP): </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no dynamic zoom: use the window&apos;s wheel.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Specify corner of window, enter a scale factor (nX or nXP), or [All/Center/Dynamic/Extents/Previous/Scale/Window/Object] &lt;real time&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+No previous view saved.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify base point or displacement: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify first corner or [Fit] &lt;Fit&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter viewport configuration name or [?] &lt;*Active&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A drawing of this version has no viewports with other outlines than rectangles.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A viewport is bounded by a closed polyline, circle, ellipse, spline or region.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select object to clip viewport: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A viewport has three corners at least.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Viewport View Locking [ON/OFF]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shade plot? [As displayed/Wireframe/Hidden/Rendered] &lt;As displayed&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify corner of viewport or [ON/OFF/Fit/Shadeplot/Lock/Object/Polygonal/Restore/2/3/4] &lt;Fit&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Already in model space.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Already in paper space.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter an option [All/Select/Current/eXcept current] &lt;Current&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter name(s) of new layers frozen in all viewports: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter layer name(s) to change viewport visibility: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter a viewport visibility option [Frozen/Thawed] &lt;Thawed&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select a viewport: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No viewport was chosen.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Layers currently frozen in viewport %1:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter layer name(s) to freeze or &lt;select objects&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter layer name(s) to thaw: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter layer name(s) to reset: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Layers have the same properties in all viewports here: nothing was changed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter an option [?/Color/Ltype/LWeight/TRansparency/Freeze/Thaw/Reset/Newfrz/Vpvisdflt]: </source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Comparing</name>
+    <message>
+        <source>dates and editing time: $TD...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the next free handle: $HANDSEED</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>names of the file and of who saved it: $VERSIONGUID, $LASTSAVEDBY, ...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>extents, which follow from the entities: $EXTMIN, ...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>which objects want to hear of changes: {ACAD_REACTORS</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>version and code page: $ACADVER, $DWGCODEPAGE</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>what windows showed last: the VPORT table, $VIEWCTR, ...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>all variables of the header</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the classes section</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>all that is not drawn: dictionaries, layouts, ...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>extended data</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>which entity is drawn over which</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>DrawingStatus</name>
     <message>
         <source>DXF %1, %2</source>
@@ -68,6 +5349,769 @@
     <message>
         <source>All entities drawn</source>
         <translation>Alle Objekte gezeichnet</translation>
+    </message>
+</context>
+<context>
+    <name>DrawingTexts</name>
+    <message>
+        <source>&quot;%1&quot; cannot be the name of a block</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there is no such block</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 cannot be exploded.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Block &quot;%1&quot; is missing.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An external reference cannot be exploded.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Block &quot;%1&quot; may not be exploded.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The scales of block &quot;%1&quot; differ.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Too many entities would come of it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A drawing of this version has one sheet.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A layout cannot be called &quot;%1&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Layout &quot;%1&quot; already exists.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Model space cannot be copied.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Model space cannot be moved.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Model space cannot be renamed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Layout &quot;%1&quot; has no object in this drawing that a name could be given to.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Model space cannot be deleted.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The last layout cannot be deleted.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot find layer &quot;%1&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Layer &quot;%1&quot; is needed by every drawing.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Layer &quot;%1&quot; is the current layer.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Layer &quot;%1&quot; belongs to an external reference.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A drawing of this version keeps no page setup.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Layer &quot;%1&quot; cannot be renamed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Layer &quot;%1&quot; already exists.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be the name of a layer.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Block</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>block</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dimension style</source>
+        <translation type="unfinished">Bemaßungsstil</translation>
+    </message>
+    <message>
+        <source>dimension style</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Linetype</source>
+        <translation type="unfinished">Linientyp</translation>
+    </message>
+    <message>
+        <source>linetype</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Text style</source>
+        <translation type="unfinished">Textstil</translation>
+    </message>
+    <message>
+        <source>text style</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>UCS</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ucs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>view</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Viewport configuration</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>viewport configuration</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot find %1 &quot;%2&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 &quot;%2&quot; cannot be renamed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be a name.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 &quot;%2&quot; already exists.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Registered applications cannot be renamed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot find &quot;%1&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; already exists.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a drawing of this version has one sheet only</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be the name of a sheet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there is no sheet &quot;%1&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there is a sheet &quot;%1&quot; already</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>blocks</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>detail view styles</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>detail view style</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>dimension styles</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>groups</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>group</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>layers</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>layer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>linetypes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>materials</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>material</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>multileader styles</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>multileader style</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>plot styles</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>plot style</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>shape files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>shape file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>text styles</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>multiline styles</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>multiline style</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>section view styles</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>section view style</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>table styles</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>table style</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>visual styles</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>visual style</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>registered applications</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>registered application</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no record begins here</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the file goes on behind it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the file ends within it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>group code expected, found %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>type of a record expected, found %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>group %1 cannot be %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>line %1: %2</source>
+        <translation type="unfinished">Zeile %1: %2</translation>
+    </message>
+    <message>
+        <source>%1 has a value for group %2 that the binary form has no room for: &quot;%3&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 with the handle %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it names no version</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>its handle was another record&apos;s, it has a new one</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>its handle was none, it has a new one</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it has no name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it has no value</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it has more than one value, of which the first was taken</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it leads to all other objects, and is the first of them now</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the one that leads to all other objects was lost</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>its text was no UTF-8 and was taken for %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the one of block %1 was lost</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the file is larger than 4 GB</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>nothing in this file is a part of a drawing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: this is a folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> (--recover opens what is sound of it)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 times </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>and %1 more</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the file is sound, nothing was dropped</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>recovered: %1 dropped%2, %3 mended, %4 added</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>what was written does not read back the same</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>what would be written could not be opened again (%1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>what would be written could not be opened the same: see %1 of handle %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: the file cannot be written: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2; the old file was kept</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: this program cannot write DWG files; give the file a name ending in .dxf</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>header variable</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it stands outside of the sections</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>its name is none, and what it holds tells another</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it was there before, and goes on here</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it stands outside of its section, and was put into %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no table is open</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it stands outside of the tables</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>table entry</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it stands outside of its table</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no block is open</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it had no name, and is %1 now</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the one for the entities here was lost; it is %1 now</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>nothing is open that it could end</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>what it is a part of is not there</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it was missing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no section is open</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the drawing looks like one of %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: this is not a file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: drawings of this version have no room for such data</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2 stands for something else in this drawing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: the file is larger than 4 GB</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the drawing has no paper space</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>POLYLINE: its vertices are missing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: an entity of this type has no parts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2 expected, found %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the entity is erased</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a number</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a handle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>group 0 (the type) is missing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>this is no entity</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>this type is not known, and its subclass markers (group 100) are missing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a drawing of this version has no such entity</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>group %1 is missing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>group %1 is not a point</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>group %1 is not %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>linetype %1 is not in the drawing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>text style %1 is not in the drawing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>block %1 is not in the drawing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>group code expected, found </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>this is not a DXF file: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>this is not a DXF file: it has no sections</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the file is cut off: it ends before EOF</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the section has no name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a record without a type</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 inside a section: ENDSEC is missing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 stands in the header section</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>this is not a DXF file: section expected, found </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 stands outside of the sections</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>TABLE inside a table: ENDTAB is missing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 stands outside of the tables: TABLE is missing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>BLOCK inside a block: ENDBLK is missing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 stands outside of the blocks: BLOCK is missing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the section ends inside a table: ENDTAB is missing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the section ends inside a block: ENDBLK is missing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>tag %1 of the binary file: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the file is larger than 4 GB as text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the file is empty</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>this is a DWG file; this program reads DXF only</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>this is a UTF-16 text file, not a DXF file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>this is a packed file; unpack it first</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>this is a binary DXF file whose first bytes are damaged, as by a transfer as text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the pattern does not begin with &quot;A&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the pattern is empty</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no length</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the pattern is too long</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a text or shape is not closed, or stands in front of all dashes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a shape needs its name and its file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not understood</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>text style &quot;%1&quot; is not in the drawing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the shape file &quot;%1&quot; is not found</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>shape &quot;%1&quot; is not in the file &quot;%2&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a drawing of this version has no texts and shapes in linetypes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the name cannot be used</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it is not in the drawing&apos;s folder. READPATHS, or the option --allow-read, names folders whose files drawings may name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there are no shapes in it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the file is cut off</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it is a compiled file of another kind</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 (remote texts have at most 256 kB)</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -154,6 +6198,5705 @@ Geschrieben: %1
     </message>
 </context>
 <context>
+    <name>Functions</name>
+    <message>
+        <source>
+New color &lt;%1&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Requires a color number or name.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Unknown command &quot;%1&quot;.
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Left over from (command): %1
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+The dialog file &quot;%1&quot; was not found.
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+The actions that the file gives to the tiles of &quot;%1&quot; do not run: its folder is not trusted.
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+There is no dialog &quot;%1&quot; in what was loaded.
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Nobody is there to answer the dialog &quot;%1&quot;: cancelled.
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>action of &quot;%1&quot; in dialog %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Select object: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+startapp: %1 is not started: the user&apos;s settings do not let programs start others.
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there is no sheet &quot;%1&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; cannot be the name of a sheet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there is a sheet &quot;%1&quot; already</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is one of the drawings that sheets come from</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the file was not found</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+The slide &quot;%1&quot;: %2.
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Help</name>
+    <message>
+        <source>0: heights count</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>As -COLOR</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>As -COLOR; there is no window for it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>As -LAYDEL; there is no window for it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>As -LAYER; entered by hand in the window it shows the layer panel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>As -LAYMRG; there is no window for it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>As -LINETYPE; there is no window for it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>As -LWEIGHT; there is no window for it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>As -PAN; the middle button of the mouse moves the view too</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>As -PURGE; there is no window for it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>As -RENAME; there is no window for it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>As -UNITS; there is no window for it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>As -VIEW; there is no window for it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>As -VPOINT; there is no window for it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>As -VPORTS; there is no window for it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>As -XREF; there is no window for it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>As LAYOUT; there is no window for it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>As NEW</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>As QUIT</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Attaches drawing files as external references, and changes, binds and detaches these</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>BOUNDARY makes polylines (1) or regions (0)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Brings back what was erased last</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Brings entities in front of others or behind them</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>COPY goes on until an empty answer (0) or makes one copy (1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Changes entities by a point, or their properties</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Changes entities by their grips</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Changes layer, color, linetype and weight of entities</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Changes pattern, style and layer of a hatch</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Changes text and extension lines of dimensions</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Changes the values of a block reference&apos;s attributes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Changes the values of attributes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Changes what texts, dimensions and definitions of attributes say</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Chooses entities for the next command</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Chooses entities; they are the previous selection then</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Chooses the isometric plane</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Chooses what is similar to the chosen entities</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Closes all drawings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Closes the drawing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Closes the drawing without saving, and ends the program</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copies entities</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copies entities into rows and columns or round a point</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copies entities to the clipboard</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copies entities to the clipboard by a base point</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cuts block references off at a boundary</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cuts corners off</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Defines an attribute of a block</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Deletes layers with all that is on them</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dimensions a distance along itself</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dimensions a distance along x, y or another direction</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dimensions an angle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dimensions by subcommands until Exit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dimensions further points from the same begin</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dimensions on from the last dimension</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dimensions the diameter of a circle or arc</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dimensions the length of an arc</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dimensions the radius of a circle or arc</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dimensions the radius of a circle or arc from a nearer centre</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dimensions the x or y coordinate of a point</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Divides the screen or makes viewports on a sheet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Does again what was undone last</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Does again what was undone, several steps at once</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Draws a circle: centre and radius, two or three points, two tangents and radius</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Draws a cloud of arcs, or makes one of an entity</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Draws a line from a feature to a note</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Draws a line of up to three points with a text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Draws a point</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Draws a polygon with sides of one length</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Draws a polyline in space</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Draws a polyline of straight segments and arcs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Draws a rectangle by corners, sides or area</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Draws a smooth curve through points or along control points</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Draws an arc: three points, or start, center, end, angle, length, direction, radius</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Draws an arrow with a note as one entity</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Draws an ellipse or a part of one</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Draws faces in space</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Draws filled areas with three or four corners</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Draws filled rings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Draws lines that end at one side only</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Draws lines without ends</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Draws parallel curves</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Draws parallel lines with the current multiline style</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Draws straight segments</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Draws the window anew</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Draws wide lines</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ELLIPSE makes true ellipses (0) or polylines (1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>EXPLODE takes blocks of unequal scales</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Edits polylines: closes, joins, widens, smooths, changes vertices</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Evaluates the expressions of texts anew</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>FILLET and CHAMFER trim what they join</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Freezes and thaws layers in viewports of sheets</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Freezes layers of picked objects in all other viewports</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Freezes the layers of picked objects</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gives a multileader further arrows, or takes some away</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gives blocks, layers, styles and other named things another name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gives entities the properties of another one</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gives layers what they had before LAYISO</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gives references the attributes that their block defines</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hatches areas</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hides a command, which a point in front still runs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>INSERT asks for attributes (1) or takes their defaults (0)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>INSERT asks for attributes with a dialog (1) or on the command line (0)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Inserts a block or drawing file, as a reference or in pieces</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Loads a shape file, so that its shapes can be placed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Loads linetypes from a file and chooses the current one</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Locks or turns off all layers but those of chosen objects</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Locks the layer of a picked object</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Looks for errors in the drawing and mends them</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Looks from another direction</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Looks straight at the plane of a coordinate system</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Makes a block of entities</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Makes a command known again that UNDEFINE hid</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Makes a new drawing, from a template or empty</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Makes and changes groups of entities</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Makes and changes text styles</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Makes entities larger or smaller</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Makes layers and changes their properties and states</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Makes one paragraph of texts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Makes polylines or regions round areas</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Makes the layer of a picked object current</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Makes viewports on a sheet and switches them</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Makes, copies, renames and deletes layouts and chooses the current one</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Marks the centre of a circle or arc</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mirrors entities in a line</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mirrors entities in a plane</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Moves entities</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Moves entities between the sheet and the model that it shows</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Moves entities in space</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Moves entities to the clipboard</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Moves or turns the text of a dimension</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Moves the notes of multileaders onto a line</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Moves what is shown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Moves what lies within a window, and what is tied to it follows</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Moves, turns and scales entities by pairs of points</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Opens a drawing, where what is typed next goes on</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>PEDIT makes polylines of others without asking</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Places a shape of a loaded shape file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Places what is on the clipboard</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Places what is on the clipboard as a block</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Places what is on the clipboard where it was copied</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Plots a layout to a file of PDF, PNG or SVG</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Plots a layout to a file; in the window as a dialog with a preview</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Puts objects on the current layer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Puts objects on the layer of another one</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Puts what is on layers on another one and deletes them</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rounds corners with arcs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Runs a command again and again until it is cancelled</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Runs one subcommand of the dimension mode</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saves the drawing under a name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saves the drawing under its own name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saves, restores and deletes named views</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saves, restores, lists and applies dimension styles</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Says how near the pointer object snap looks</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Says which object snaps are always on</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Scripts go on by themselves</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sets and checks the drawing&apos;s limits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sets and switches the grid</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sets and switches the grid that points snap to</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sets how lengths and angles are shown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sets the color of new objects</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sets the elevation and thickness of new objects</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sets the lineweight of new objects</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sets the point that the drawing is inserted by</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sets variables of single dimensions</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sets, saves and restores the user coordinate system</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows more or less of the drawing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows the help pages</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows the properties panel where it is entered by hand in the window</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows, lists or sets a system variable</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Switches whether areas are filled</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Switches whether lines go along the axes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Switches whether texts are boxes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Switches whether the drawing is made anew by itself</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>TRIM and EXTEND begin with edges (0) or take all (1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>TRIM and EXTEND take edges as if they went on</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Takes a file&apos;s name; programs for other hosts do not run here</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Takes back steps; marks and groups them</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Takes back the last change of layer settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Takes back the last step</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Takes blocks, polylines, texts and dimensions apart</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Takes entities out of the drawing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Takes out of the drawing what nothing refers to</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Takes the name of a menu file; there are none here</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Takes the name of a menu; there are none here</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Takes what programs ask of it; programs for other hosts do not run here</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tells the coordinates of a point</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tells the distance and angle between points</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tells what is in the drawing and what is current</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tells what is known of entities</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tells when the drawing was made and changed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Thaws all layers</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The command line is always in sight</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The drawing is always in sight</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Turns all layers on</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Turns entities round a point</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Turns entities round an axis in space</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Turns off the layers of picked objects</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Types the last script once more</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Types what a script file holds</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unlocks the layer of a picked object</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Waits for so many milliseconds</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Works on model space through a viewport of the sheet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Works on the sheet itself</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Writes a block or entities to a drawing file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Writes a paragraph of several lines</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Writes one line of text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;(&quot; and &quot;!&quot; in texts are evaluated</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a block is being edited in place</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a double click edits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a drawing&apos;s sheet set is looked for</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a file&apos;s tab shows its layouts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a hatch is shown before it is made</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a line is drawn inside though the text is outside</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a new annotation scale is given to annotative things</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a panel for fingers</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a picture is saved in the file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a real for programs, kept with the drawing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a second unit is shown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a sheet that the printer lacks is told</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a text for programs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>addresses that programs may come from</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>after how long names are completed, in seconds</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>after how many milliseconds names are offered</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>all grips of clouds are shown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>an empty place picked begins a window</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>an expression in the status line</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>an integer for programs, kept with the drawing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>an orthographic view brings its coordinate system</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>and a foreground</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>and opened</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>angles count counterclockwise (0) or clockwise (1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>annotative things are saved for older programs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>annotative things show at every scale</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>arcs are smooth</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>areas are filled</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>areas that are hatched at once become a hatch each</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>arrays stay one thing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>arrows outside are left out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>attribute definitions may have several lines</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>attributes: none are shown (0), as they say (1), all (2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>blocks cannot be edited in place</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>boundaries of hatches are kept</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>boxes of the screen menu</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>breaches of standards are told</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>cameras are shown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>centre marks have lines</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>chains take the style of what they go on from (1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>chamfers by two distances (0) or by length and angle (1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>changed external drawings are told</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>changes of external drawings&apos; blocks are told</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>changes of variables are told</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>closed splines have no corner</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>colours of external drawings&apos; entities go by layer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>columns of new paragraphs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>commands ask for files with a dialog</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>commands may show dialogs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>commands of programs are echoed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>crashes are reported</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>cuts curves off at others</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>dark (0) or light (1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>date and time as a number: YYYYMMDD.HHMMSS</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>date and time as days of the Julian calendar</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>decimals of angles</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>decimals of angles; -1 as DIMDEC</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>decimals of dimensions</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>decimals of lengths</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>decimals of the second unit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>decimals of tolerances</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>decimals of tolerances in the second unit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>density of surfaces one way</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>density of surfaces the other way</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>depth of the spatial index</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>dialogs begin in the folder used last</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>dimensions are exploded (0), one thing (1), or follow what they measure (2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>dimensions are one thing (1) or exploded (0)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>dimensions change while they are dragged</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>drawings are checked when opened</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>drawings have tabs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>drawings may be opened in part</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>entities are shown while they are dragged</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>entities have handles: always 1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>entities may be chosen before a command</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>entities that are chosen show grips</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>erases what is there twice and makes one of lines and arcs that overlap</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>everything but the drawing is hidden</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>extension lines have a fixed length</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>external drawings are read in part</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>fields have a ground</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>folders that drawings may name files of</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>folders that programs may come from</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>frames of clipped blocks</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>frames of masks</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>frames of objects of other programs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>frames of pictures</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>frames of splines and hidden edges are shown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>frames of underlays</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>functions and variables are the drawing&apos;s own</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>further angles of polar tracking</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>gaps of boundaries that are taken as closed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>gaps where things cross others that are in front</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>gradients have one colour (1) or two (0)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>gradients lie in the middle (0) or beside it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>grips have tips</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>grips within blocks are shown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>groups and hatches with their boundary are chosen as one</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>half the size of the box of object snap, in pixels</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>half the size of the box that picks, in pixels</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>hatches follow their boundary</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>hatches may have linetypes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>hatches of the user&apos;s lines cross</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>how angles are shown: degrees, minutes, gradians, radians, surveyor&apos;s units</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>how areas are picked</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>how closely splines follow sketches</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>how clouds are drawn</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>how edges meet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>how exactly hidden lines are found</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>how external drawings&apos; names are bound: with $ (0) or as if inserted (1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>how faces and edges are shaded</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>how far TRIM and EXTEND of hatches go</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>how far apart ends may be that JOIN puts together</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>how far centre lines go beyond</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>how far extension lines go beyond the line</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>how far extension lines stay from what is measured</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>how far new entities rise above their plane</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>how far the line goes beyond extension lines</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>how far the text stands from the line</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>how far tracking lines go</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>how fit points share the knots</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>how fractions are written</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>how grips offer more than one thing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>how large points look</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>how lengths are shown: scientific, decimal, engineering, architectural, fractional</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>how lofted surfaces are shaped, as bits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>how lofted surfaces leave their sections</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>how long</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>how long smooth changes of the view take, in milliseconds</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>how long the drawing was worked on</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>how long the right button is held for a menu</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>how many corners a face may have</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>how many dimensions are shown while a grip is pulled</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>how many entities the panel of properties takes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>how many lines a hatch may have</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>how many lines of input are remembered</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>how many lines of the grid lie between two stronger ones</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>how many names are listed in order</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>how many sides POLYGON proposes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>how many turns HELIX proposes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>how many viewports may show something</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>how much</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>how much external drawings fade</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>how much light is scattered</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>how much locked layers fade</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>how much of a file may be waste before it is saved whole</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>how much the wheel zooms</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>how much what is not edited fades</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>how names are completed, as bits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>how often dragging is drawn again with regeneration</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>how often dragging is drawn again without</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>how paragraphs are shown while edited</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>how places on earth are shown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>how points look</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>how polar and object tracking work, as bits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>how programs are tested, as bits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>how sheets are turned</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>how smooth letters are plotted</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>how smooth round things are shown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>how stacked texts are aligned</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>how surfaces are smoothed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>how text and arrows share the room, in the old form</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>how texts are aligned</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>how texts are edited</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>how the dialog of hatches is shown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>how the grid is shown, as bits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>how the status line shows the pointer&apos;s place</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>how undo works, as bits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>how unknown entities are shown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>how well objects of other programs are plotted</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>how well pictures are shown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>how what is under the pointer is shown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>how wide lines end</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>how wide lines meet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>indices of layers and places are kept</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>islands are looked for</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>its colour</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>kept as it is set, for programs: nothing here depends on it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>kept for programs that ask for it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>keys that override a mode for a moment</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>layers of external drawings keep what is set here</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>layers without entities are shown so</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>layouts have tabs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>lengthens curves up to others</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>lengths are shown as they are typed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>letters are filled when plotted</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>limits are shown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>line spacing at least (1) or exactly (2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>lines are drawn smoothly</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>lines between two corners of a spline-fitted polyline</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>lines of history that the command line shows</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>lines of surfaces one way</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>lines of surfaces the other way</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>lines on round solids</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>lines where solids meet are shown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>linetypes in model space take the annotation scale</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>linetypes in viewports take the scale of the sheet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>linetypes run through the corners of polylines</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>lineweights are shown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>lineweights are shown in inches (0) or millimetres (1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>makes one curve of several that meet or lie on one line or circle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>makes regions of closed loops</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>marks and tips of object snap, polar and object tracking, as bits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>marks of centres: their size, negative with lines, 0 for none</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>marks where points were picked</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>measures areas and perimeters of corners and curves</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>measures curves and makes them longer or shorter</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>menus follow the command</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>menus of the right button, as bits: at rest, for what is chosen, at prompts, with options, held</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>milliseconds since the machine was started</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>minutes between automatic saves</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>model space is shown (1) or a layout (0)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>names may be long and have blanks</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>names of applications come with external drawings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>new drawings are imperial (0) or metric (1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>new external drawings are attached (0) or overlaid (1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>new external drawings have no path (0), a relative (1) or a full one (2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>new hatches are annotative</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>new layers are looked for</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>new layouts get a viewport</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>new texts are in capitals</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>notes are shown in the status bar</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>object snap finds hatches</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>object snap finds underlays</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>object snap takes the height of the user&apos;s plane</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>object snaps in space, as bits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>objects of other programs are hidden</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>one drawing at a time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>one text is edited (1) or several (0)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>patterns are mirrored with hatches</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>pictures are shown whole when chosen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>pictures have a ground</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>pictures of unknown entities are saved</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>plot styles go by colour (1) or name (0)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>points must be within the limits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>points typed beside the pointer are polar (0) or cartesian (1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>points typed beside the pointer are relative (0) or absolute (1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>polylines are made light: never (0), new ones (1), old ones too (2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>programs from elsewhere: loaded (0), asked for (1), refused (2); trusted folders decide here</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>prompts are not printed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>prompts are shown beside the pointer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>prompts beside the pointer, as bits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>puts points or blocks at steps along a curve</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>puts points or blocks that cut a curve into equal parts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>quick properties are shown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>regeneration on several processors</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>reversing a polyline swaps its widths</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>saving keeps a backup</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>scripts plot without questions</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>silhouettes of solids are drawn</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>sketches become lines (0), polylines (1), splines (2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>snap goes by the grid (0) or by polar tracking (1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>snap is square (0) or isometric (1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>solids are checked</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>solids keep their history</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>spline-fitted polylines are quadratic (5) or cubic (6)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>splines become polylines of lines (0) or arcs (1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>splines go by fit points (0) or control points (1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>start-up programs are loaded into every drawing (1) or the first (0)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>steps of a walk in a second</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>such settings are shown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>symbols are shown in the status bar</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>takes a part out of a curve, or cuts it in two</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>texts are kept inside</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>texts are mirrored with the drawing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>texts are read the other way</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>texts are shown as boxes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>texts hide and are hidden</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>texts inside are level</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>texts outside are level</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the address of the browser</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the angle of gradients</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the angle of hatches</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the angle of the jog of large radii</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the angle that ROTATE proposes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the angle that UCS proposes for a turn</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the arcs of clouds differ</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the area that was measured last</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the arrow at both ends</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the arrow at the first end</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the arrow at the second end</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the arrow of leaders</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the bar of navigation is shown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the base point of the drawing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the blank key ends a line of a list</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the block that INSERT proposes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the block that is edited in place</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the blocks inserted last</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the box of object snap is shown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the chamfer angle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the chamfer length</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the code page of the machine</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the colour of crossing windows</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the colour of dimension lines</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the colour of extension lines</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the colour of grips</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the colour of hidden lines</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the colour of lines where solids meet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the colour of new entities</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the colour of new hatches; &quot;.&quot; is the current one</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the colour of texts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the colour of the grip that is pulled</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the colour of the grip under the pointer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the colour of the grips of dynamic blocks</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the colour of windows of selections</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the command line is written to a file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the commands that are under way</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the control key goes through what lies above each other</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the cube of views is shown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the cube of views is shown in flat views</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the current dimension style</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the current dimension style is annotative</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the decimal separator</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the default lineweight, in hundredths of a millimetre</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the degree of new splines</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the dictionary of spelling</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the distance of dimension lines above each other</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the distance of the back clipping plane</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the distance of the front clipping plane</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the distance of the user&apos;s lines</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the distance that OFFSET proposes; negative for through a point</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the distance that was measured last</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the distances of the grid</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the drawing behaves as annotative when inserted</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the drawing has a name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the drawing may be edited in place by others</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the drawing may be written</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the drawing takes imperial (0) or metric (1) patterns</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the drawing was opened whole</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the drawing&apos;s code page</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the drawing&apos;s file name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the drawing&apos;s folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the drawing&apos;s unit of length</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the editor of paragraphs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the encoding of text files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the end direction of the arc drawn last</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the ends have arrows of their own</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the factor of a unit&apos;s parts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the factor of lengths</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the factor of the line spacing of paragraphs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the factor of the second unit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the factor of the second unit&apos;s parts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the factor that SCALE proposes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the far corner of the limits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the far corner of the virtual screen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the far corner of what the space shows</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the file of the command line</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the file of the last automatic save</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the file of the menu</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the file that says which font replaces which</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the file that was saved last</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the first chamfer distance</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the first colour of gradients</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the first extension line is left out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the first half of the line is left out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the focal length of perspective views</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the folder of automatic saves</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the folder of such files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the folder of temporary files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the folder of the user&apos;s data</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the folder of the user&apos;s documents</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the folder of what stays on this machine</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the folder that the program was started in</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the folders that files are looked for in</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the font for those that are missing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the format of angles</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the format of lengths</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the format of lengths, in the old form</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the format of the second unit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the frames of pictures, underlays and clips</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the gap between a multileader&apos;s landing and its text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the gap of centre marks</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the grid is shown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the ground of hatches</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the ground of texts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the handle that comes next</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the height of POLYSOLID</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the height of new cameras</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the height of new entities above the user&apos;s plane</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the height of new entities on sheets</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the height of texts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the height of the view</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the height that shadows fall on</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the history of solids is shown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the inner diameter that DONUT proposes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the isometric plane</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the kind of array that is proposed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the kind of gradients</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the language of the machine</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the last dialog ended with OK</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the last line of the command line</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the layer of centre marks</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the layer of new dimensions; &quot;.&quot; is the current one</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the layer of new entities</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the layer of new external drawings; &quot;.&quot; is the current one</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the layer of new hatches; &quot;.&quot; is the current one</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the least speed of smooth changes of the view</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the length of extension lines, where fixed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the length of the arcs of clouds</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the length round what was measured last</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the linetype of centre marks</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the linetype of dimension lines</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the linetype of hidden lines</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the linetype of new entities</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the linetype of the first extension line</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the linetype of the second extension line</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the linetype scale of centre marks</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the linetype scale of new entities</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the lineweight of dimension lines</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the lineweight of extension lines</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the lineweight of new entities</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the longest arc of clouds</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the lower tolerance</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the maintenance version of the drawing&apos;s format</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the material of new entities</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the menu bar is shown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the menus of viewports are shown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the middle of the view</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the most memory that Lisp may take, in megabytes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the most nodes of the spatial index</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the name of the current annotation scale</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the name of the layout that is shown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the name of the menu</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the name of the program</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the name of the project</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the name of the user&apos;s coordinate system</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the name of the user&apos;s profile</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the near corner of the limits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the near corner of the virtual screen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the near corner of what the space shows</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the number of the current viewport; 1 is the sheet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the offset of plots counts from the margin (0) or the edge (1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the operating system</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the origin of hatches</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the origin of snap and grid</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the origin of the user&apos;s coordinate system</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the outer diameter that DONUT proposes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the panel of databases is open</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the panel of external drawings is open</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the panel of layers is open</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the panel of other drawings&apos; contents is open</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the panel of properties is open</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the pattern of hatches</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the plan view follows the user&apos;s coordinate system</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the plane follows faces</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the plot style of layer 0 in new drawings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the plot style of new entities</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the plot style of new entities in new drawings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the point given last</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the pointer moves along the axes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the pointer moves in steps</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the program of such an object is started for a plot</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the radius that CIRCLE proposes; 0 for none</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the radius that FILLET takes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the release of the dialect, beginning with its number</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the ribbon is shown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the room round the text; negative with a frame</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the running object snaps, as bits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the scale of all linetypes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the scale of everything in dimensions; 0 by the sheet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the scale of hatches</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the scale of multileaders</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the scale of multilines</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the scale of new viewports</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the scale of objects of other programs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the scales of chosen annotative things are shown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the second chamfer distance</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the second colour of gradients</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the second extension line is left out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the second half of the line is left out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the shadow of an entity</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the shape that SHAPE proposes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the sheet set of the drawing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the shortest arc of clouds</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the size of a step in a walk</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the size of arrows</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the size of centre marks</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the size of grips in pixels</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the size of stacked texts, as per cent</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the size of the box that picks dimensions</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the size of the cross hairs, as per cent of the window</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the size of the drawing&apos;s window in pixels</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the size of ticks; 0 for arrows</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the size of tolerances</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the start page is shown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the status bar is shown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the status bar may have two lines</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the step along polar tracking</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the step of polar tracking</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the step of sketches</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the steps of snap</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the style of details</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the style of multilines</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the style of new multileaders</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the style of new tables</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the style of sections</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the style of texts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the symbol of the axes, as bits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the text around the number</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the text around the second unit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the text of a unit&apos;s parts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the text of the second unit&apos;s parts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the text stands above the line</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the text that hangs at the pointer where MTEXT asks</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the tint of gradients of one colour</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the tool palettes are open</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the transparency of new entities</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the transparency of new hatches; &quot;.&quot; is the current one</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the turn of snap and grid</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the turn of the view</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the unit of drawings that say none, when inserted</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the unit of the drawing that says none</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the upper tolerance</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the user places the text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the user&apos;s coordinate system is the world&apos;s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the user&apos;s name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the user&apos;s own dictionary of spelling</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the user&apos;s timer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the user&apos;s timer is on</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the value of the current annotation scale</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the version of bodies that are written</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the version of the drawing&apos;s file, as &quot;AC1032&quot;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the view is a perspective</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the viewport has layers with settings of its own</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the wheel button pans</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the width of POLYSOLID</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the width of polylines</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the width of traces</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the workspace</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the x axis of the user&apos;s coordinate system</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the y axis of the user&apos;s coordinate system</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the zone of the drawing&apos;s place</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>their distance</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>their distances</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there are menus</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ticks along the axes, in early programs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ticks of the clock, for measuring</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>tips are shown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>tips on the keys beside the pointer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>tips on what is under the pointer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>tolerances are shown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>transparency is plotted</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>transparency is shown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>typed coordinates go before object snap: never (0), always (1), not in scripts (2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>units of light</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>unknown entities are told</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>viewports keep their coordinate system</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>views are made anew when needed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>views count from the world (1) or the user&apos;s system (0)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>views keep their coordinate system</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>what TRIM and EXTEND project on</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>what a file&apos;s tab shows</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>what commands make others of is erased</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>what fills the gaps of offset polylines</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>what goes out first where there is no room</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>what happens to external drawings is logged</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>what has changed since the drawing was saved, as bits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>what is asked when a block is defined again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>what is chosen is added to what was</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>what is chosen is drawn smoothly</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>what is chosen is shown so</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>what is chosen of things that hide each other</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>what is cut off near the eye, as per cent</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>what is done after a crash</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>what is not shown under the pointer, as bits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>what is offered while one types</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>what is plotted in the background, as bits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>what is shown while a grip is pulled, as bits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>what is shown while attributes are edited</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>what is under the pointer is shown so</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>what is under way: a command (1), transparent one (2), script (4), dialog (8), Lisp (32)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>what keeps to the drawing order</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>what keeps to the order of the file, as bits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>what layouts keep ready</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>what lengths are rounded to</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>what lies above each other is offered</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>what menus echo, as bits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>what moves with the text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>what new drawings do</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>what object snap leaves out, as bits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>what orthographic settings count from</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>what relative links start from</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>what similar means, as bits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>what the picture in the file shows</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>what the program shows at its start</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>what the screen shows</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>what the second unit is rounded to</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>what the view is: perspective, clipped, ..., as bits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>what the view looks at</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>when coordinates are shown beside the pointer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>when fields are evaluated, as bits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>when it was made, in world time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>when it was saved last</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>when it was saved last, in world time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>when links to tables are checked</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>when modules of other makers are loaded, as bits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>when new layers are looked for</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>when new layers are told, as bits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>when the drawing was made</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>when the pointer snaps to the grid</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>where a hatch like another has its origin</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>where angles count from, from the x axis</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>where earlier input is offered, as bits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>where multilines lie on their points: top, middle, bottom</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>where new hatches lie in the drawing order</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>where north is, from the y axis</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>where on earth the drawing is</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>where quick properties are shown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>where the grid is of dots, as bits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>where the origin of hatches lies</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>where the sign of an arc&apos;s length stands</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>where the text stands along the line</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>where the view is seen from</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>where to look for what knows them</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>where tolerances stand beside the number</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>which changes of the view are smooth</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>which extents count</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>which islands a hatch leaves out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>which parts of solids are chosen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>which pictures in the file are kept up</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>which questions commands leave out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>which tips beside the pointer take its settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>which tool bars and panels are fixed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>which way the wheel zooms</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>why a function of Lisp failed, as a number</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>windows are dragged</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>windows of selections are filled</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>with more boundaries than this HATCH warns</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>with more entities than this no grips are shown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>words of object snap replace the running modes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>zeros of angles</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>zeros of lengths</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>zeros of the second unit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>zeros of tolerances</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>zeros of tolerances in the second unit</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Kernel</name>
+    <message>
+        <source>%1 has no file yet.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+More files that the drawing names were not read.
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+%1 was not read: %2.
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 (recovered)</source>
+        <translation type="unfinished">%1 (wiederhergestellt)</translation>
+    </message>
+    <message>
+        <source>
+Saving this drawing was broken off once. What was to be saved is in %1; the drawing&apos;s own file may have only a part of it.
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The document has no Lisp engine.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unknown command &quot;%1&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 was cancelled.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2; nothing was changed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 stays open while a session is played on it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 was not closed: it was changed since.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 was not closed: a program of it runs.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2 done, %3 skipped</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>and %1 more
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+*Cancel*
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This cannot be allowed here: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The folder cannot be trusted: everyone may write to it, or its name has a &quot;;&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The list cannot be kept in %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>its folder is not trusted</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>everyone may write to %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+TRUSTEDPATHS cannot be kept in %1.
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+%1 was not loaded: %2. TRUSTEDPATHS, or the option --trust, names folders whose programs may run.
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 was opened for reading only; save it under another name.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 was changed by another program since it was opened or saved here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is not there any more.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is the damaged file that this drawing was recovered from; save it under another name.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 leads to another file than when it was opened or saved here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is open in this program; close it first, or give another name.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is open in another program (%2).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> of </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> (need %1): </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Second point of mid: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+First point of mid: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&lt;Offset&gt;: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Base point: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Next point (Press ENTER to end tracking): </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+First tracking point: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Specify point: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Specify temporary tracking point: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Requires an integer value or option keyword.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Requires numeric value or option keyword.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Requires numeric distance, two points, or option keyword.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Requires valid numeric angle, two points, or option keyword.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Point or option keyword required.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Requires an integer value.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Requires numeric value.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Requires numeric distance or two points.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Requires valid numeric angle or two points.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Invalid option keyword.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Expects a point or %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Invalid input.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Invalid point.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Value must be nonzero.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Value must not be negative.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>**Outside limits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Specify second point: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> to </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Angle Override: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No %1 found for specified point.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Enter group name: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Remove objects: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+First point: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Specify first corner: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Next point: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Specify opposite corner: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Command has been completely undone.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Cannot find group &quot;%1&quot;.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+%1 found</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+%1 found, %2 total</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Select objects: </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>endpoint</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>midpoint</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>center</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>node</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>quadrant</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>intersection</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>insertion point</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>perpendicular</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>tangent</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>nearest point</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>quick</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>apparent intersection</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>extension</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>parallel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+The rest of what was typed ahead is left out.
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Nobody is there to answer &quot;%1&quot;: cancelled.
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>*Cancel*
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No help page.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+This link of the help page is not followed: %1
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it is no module (odrxGetAPIVersion is missing)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it was built for version %1 of the interface, this host has %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it is no module (odrxCreateModuleObject is missing)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it made no module object</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there is no memory for its module object</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot load %1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+%1 cannot run while another command is under way.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+%1: the setting cannot be written to %2.
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The command aliases in %1 cannot be read: %2 The ones before stay in use.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The numbers are too large.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+%1 has ended, nothing was changed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+** That command may not be invoked transparently **
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Resuming %1 command.
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+%1 cannot be kept.
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+The user&apos;s settings cannot be kept.
+</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Keywords</name>
+    <message>
+        <source>2points</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>3point</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>3points</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ALL</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ALl</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ANnotative</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>AUto</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Above</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Above objects</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add area</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add leaders</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Advanced</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Advanced options</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation type="unfinished">Alle</translation>
+    </message>
+    <message>
+        <source>Ang</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Angle</source>
+        <translation type="unfinished">Winkel</translation>
+    </message>
+    <message>
+        <source>Annotation</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Annotative</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Anyway</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Arc</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Arc length</source>
+        <translation type="unfinished">Bogenlänge</translation>
+    </message>
+    <message>
+        <source>Area</source>
+        <translation type="unfinished">Fläche</translation>
+    </message>
+    <message>
+        <source>Array</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Arrow</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>As</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>As displayed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Aspect</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Associativity</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>At least</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Attach</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Auto</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>BAck</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>BC</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>BEgin</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>BL</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>BOX</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>BR</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>BYBlock</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>BYLayer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Base</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Base point</source>
+        <translation type="unfinished">Basispunkt</translation>
+    </message>
+    <message>
+        <source>Below</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Binary</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bind</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bisect</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Block</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Block selection</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Blocks</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Both</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bottom</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Boundaries</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Boundary</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Boundary set</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Break</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ByBlock</source>
+        <translation type="unfinished">ByBlock</translation>
+    </message>
+    <message>
+        <source>ByLayer</source>
+        <translation type="unfinished">ByLayer</translation>
+    </message>
+    <message>
+        <source>CEnter</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>CLose</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>COlor</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>COlorbook</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>CPolygon</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>CV</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Calligraphy</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished">Abbrechen</translation>
+    </message>
+    <message>
+        <source>Center</source>
+        <translation type="unfinished">Mittelpunkt</translation>
+    </message>
+    <message>
+        <source>Chamfer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Change</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Chord</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Circumscribed about circle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Clear overrides</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished">Schließen</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation type="unfinished">Farbe</translation>
+    </message>
+    <message>
+        <source>Columns</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Combine</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Commands</source>
+        <translation type="unfinished">Befehle</translation>
+    </message>
+    <message>
+        <source>Constant</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Content</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Content first</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Content type</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Control</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Corner</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Create</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Crossing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Current</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Current ucs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>DElta</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>DEtailviewstyles</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>DIsassociate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>DRaw</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>DRaw order</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>DXF</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>DYnamic</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Decurve</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <translation type="unfinished">Vorgabe</translation>
+    </message>
+    <message>
+        <source>Degree</source>
+        <translation type="unfinished">Grad</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation type="unfinished">Beschreibung</translation>
+    </message>
+    <message>
+        <source>Detach</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Diameter</source>
+        <translation type="unfinished">Durchmesser</translation>
+    </message>
+    <message>
+        <source>Dimensions</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dimstyle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dimstyles</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Direction</source>
+        <translation type="unfinished">Richtung</translation>
+    </message>
+    <message>
+        <source>Displacement</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Display</source>
+        <translation type="unfinished">Anzeige</translation>
+    </message>
+    <message>
+        <source>Distance</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Distribute</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation type="unfinished">Erledigte</translation>
+    </message>
+    <message>
+        <source>Dynamic</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>EXport</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Edge</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Edit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Edit vertex</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Elev</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Elevation</source>
+        <translation type="unfinished">Erhebung</translation>
+    </message>
+    <message>
+        <source>Empty text objects</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>End</source>
+        <translation type="unfinished">Ende</translation>
+    </message>
+    <message>
+        <source>Endtoend</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Entity</source>
+        <translation type="unfinished">Objekt</translation>
+    </message>
+    <message>
+        <source>Erase</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Everything</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Exactly</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Exit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Explode</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Extend</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Extents</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Face</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fence</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fillet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>First</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>First angle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>First point</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fit</source>
+        <translation type="unfinished">Einpassen</translation>
+    </message>
+    <message>
+        <source>Fit tolerance</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Format</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Freehand</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Freeze</source>
+        <translation type="unfinished">Frieren</translation>
+    </message>
+    <message>
+        <source>Front</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Frozen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gap</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gap tolerance</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Go</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Grid</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Groups</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>HELP</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Halfwidth</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hatches</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation type="unfinished">Höhe</translation>
+    </message>
+    <message>
+        <source>Hidden</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hideplot</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hor</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Horizontal</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ignore</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Inches</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Included</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Included angle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Inscribed in circle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Insert</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Invert clip</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Invisible</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Island</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Island detection</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Isometric</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Join</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Jointype</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Justification</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Justify</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Knots</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>LAYOut</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>LAyer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>LAyers</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>LOck</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>LType</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>LTypes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>LWeight</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Landing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation type="unfinished">Querformat</translation>
+    </message>
+    <message>
+        <source>Last</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Layer</source>
+        <translation type="unfinished">Layer</translation>
+    </message>
+    <message>
+        <source>Layout</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Leader</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Leader type</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Length</source>
+        <translation type="unfinished">Länge</translation>
+    </message>
+    <message>
+        <source>Limits</source>
+        <translation type="unfinished">Limiten</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Line spacing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Load</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lock</source>
+        <translation type="unfinished">Sperren</translation>
+    </message>
+    <message>
+        <source>Lock and fade</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ltype</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ltype gen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MATerial</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MAterials</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MC</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MIrror</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ML</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MOve</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MR</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MUltileaderstyles</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Make</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mark</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Material</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Maxpoints</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Method</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Middle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Millimeters</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mlinestyles</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mtext</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Multiple</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Multiple points</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>NAmed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>NEW</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation type="unfinished">Name</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>New boundary</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Newfrz</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Newvpfreeze</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Next</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No columns</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No extend</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No leader</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No plot</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No trim</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>OBject</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>OFF</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ON</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Object</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Object type</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Objects</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Oblique</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Offset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation type="unfinished">Ein</translation>
+    </message>
+    <message>
+        <source>One</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Order</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Origin</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Orphaned data</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Orthographic</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Outer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Overlaps</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Overlay</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>PStyle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Parameter</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Partial</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Path</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Percent</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pick</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pick points</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Plot</source>
+        <translation type="unfinished">Plotten</translation>
+    </message>
+    <message>
+        <source>Plotstyle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Plotstyles</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Points</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Polar</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Polygonal</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Polyline</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation type="unfinished">Hochformat</translation>
+    </message>
+    <message>
+        <source>Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Previous</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Project</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Properties</source>
+        <translation type="unfinished">Eigenschaften</translation>
+    </message>
+    <message>
+        <source>QUIT</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Quadrant</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>REName</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Radius</source>
+        <translation type="unfinished">Radius</translation>
+    </message>
+    <message>
+        <source>Ratio</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rectangular</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reference</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Regapps</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Regen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Region</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reload</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove leaders</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rendered</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Restore</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Retain</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Retain boundary</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reverse</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rotate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rotated</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rotation</source>
+        <translation type="unfinished">Drehung</translation>
+    </message>
+    <message>
+        <source>SAveas</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>SCale</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>SEctionviewstyles</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>SHapes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>SIngle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>STatus</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>STraight</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>STretch</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>STyle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation type="unfinished">Skalierung</translation>
+    </message>
+    <message>
+        <source>Second</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Second angle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Second pt</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select objects</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select polyline</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Selectable</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Set</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Set new origin</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation type="unfinished">Einstellungen</translation>
+    </message>
+    <message>
+        <source>Shadeplot</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Single</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Snap</source>
+        <translation type="unfinished">Fang</translation>
+    </message>
+    <message>
+        <source>Solid</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Source</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Spacing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Spline</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Spline curve</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Square root</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Static</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Straight</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Straighten</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Style</source>
+        <translation type="unfinished">Stil</translation>
+    </message>
+    <message>
+        <source>Subtract area</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>TC</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>TL</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>TR</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>TRansparency</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tablestyle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tablestyles</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tangency</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tangent</source>
+        <translation type="unfinished">Tangente</translation>
+    </message>
+    <message>
+        <source>Template</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation type="unfinished">Text</translation>
+    </message>
+    <message>
+        <source>Thaw</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Thawed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Thickness</source>
+        <translation type="unfinished">Objekthöhe</translation>
+    </message>
+    <message>
+        <source>Through</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tolerance</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Total</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Transparency</source>
+        <translation type="unfinished">Transparenz</translation>
+    </message>
+    <message>
+        <source>Trim</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Truecolor</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ttr</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ttr (tan tan radius)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ucs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Under</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Under objects</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Uniform</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unload</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unlock</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Use</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Use current origin</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Use current spacing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>User defined</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>VIew</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>VPort</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation type="unfinished">Wert</translation>
+    </message>
+    <message>
+        <source>Variables</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ver</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Verify</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Vertical</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>View</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Viewports</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Visual styles</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Visualstyles</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Vpfreeze</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Vpvisdflt</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>WPolygon</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Width</source>
+        <translation type="unfinished">Breite</translation>
+    </message>
+    <message>
+        <source>Window</source>
+        <translation type="unfinished">Fenster</translation>
+    </message>
+    <message>
+        <source>Wireframe</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>World</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>XY</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>XYZ</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Xaxis</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Xdatum</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>YZ</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Yaxis</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ydatum</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ZAxis</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ZX</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Zaxis</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Zdepth</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Zero</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Zero-length geometry</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>beHind</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>bounDary</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>bring in front of bounDary</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>bring to Front</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>cLose</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>chord Length</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>do Not assign</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>draW</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>draW boundary</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>eRase</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>eXcept current</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>eXit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>eXit options</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>end Tangency</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>generate Polyline</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>hatch COlor</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>lAnding</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>leader Landing first</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>leader lAnding</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>lineType</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>lineWeight</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ltScale</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>mEthod</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>mOde</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>multileadersTyle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>plotStyle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>rEconcile</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>remove Boundaries</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>sPline</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>send beHind boundary</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>send to Back</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>separate Hatches</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>specify Spacing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>stAte</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>start Tangency</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>textSTyles</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>toLerance</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>Layers</name>
     <message>
         <source>Name</source>
@@ -233,6 +11976,993 @@ Geschrieben: %1
     </message>
 </context>
 <context>
+    <name>Menus</name>
+    <message>
+        <source>&amp;About Ortakit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Aiming</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Black ground</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Construction lines</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Contents</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation type="unfinished">&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>&amp;Dark style</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation type="unfinished">&amp;Löschen</translation>
+    </message>
+    <message>
+        <source>&amp;Draw</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Export</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;File</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Fit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;In space</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Insert</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Light style</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Lock display</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Make</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Modify</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;New</source>
+        <translation type="unfinished">&amp;Neu</translation>
+    </message>
+    <message>
+        <source>&amp;Next under the pointer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Open...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;PNG picture...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Pan</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Print...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Properties</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Record session...</source>
+        <translation type="unfinished">Sitzung &amp;aufzeichnen...</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Regenerate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;SVG drawing...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Start page</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Toolbars</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Tools</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Unlock display</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Upkeep</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Views and planes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&amp;Zoom by its options</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1:1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1:10</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1:100</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1:2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1:20</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1:5</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1:50</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Align</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Align multileaders</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Aligned</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Along the axes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Angle</source>
+        <translation type="unfinished">Winkel</translation>
+    </message>
+    <message>
+        <source>Arc</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Arc length</source>
+        <translation type="unfinished">Bogenlänge</translation>
+    </message>
+    <message>
+        <source>Area</source>
+        <translation type="unfinished">Fläche</translation>
+    </message>
+    <message>
+        <source>Array</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>As another one</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>At steps along a curve</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Attributes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Base point</source>
+        <translation type="unfinished">Basispunkt</translation>
+    </message>
+    <message>
+        <source>Between sheet and model</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Boundary</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Break</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bring back what was &amp;erased</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Center mark</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Chamfer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose &amp;all</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose &amp;similar</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Chooses what can be seen and changed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Circle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Clip</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Closes all drawings and the program</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Closes the drawing in front</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Co&amp;mmands...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation type="unfinished">Farbe</translation>
+    </message>
+    <message>
+        <source>Coordinates of a point</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy with &amp;base point</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dark windows</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Define an attribute</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Delete layers</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Diameter</source>
+        <translation type="unfinished">Durchmesser</translation>
+    </message>
+    <message>
+        <source>Dime&amp;nsion</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dimension style</source>
+        <translation type="unfinished">Bemaßungsstil</translation>
+    </message>
+    <message>
+        <source>Distance</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Divide a curve</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Divide the screen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Draw order</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Drawing limits</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Drawing status</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Draws on black</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Draws on white</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Edit multileaders</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Edit text and extension lines</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Elevation and thickness</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ellipse</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>End isolating</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Erase</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Erases what is chosen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Explode</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Extend</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>External reference</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>F&amp;ormat</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Face</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Filled area</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fillet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Finds commands, menu entries and system variables</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Freeze</source>
+        <translation type="unfinished">Frieren</translation>
+    </message>
+    <message>
+        <source>From the same begin</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Gives what was printed most of the window, and back</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Goes through what lies on top of each other</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Grid</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hatch</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Horizontal or vertical</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>How the layout that is shown lies on its paper</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>I&amp;n space</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>In a row</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>In&amp;quiry</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Insert a block</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Into the viewport</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Isolate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Isometric plane</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Jogged radius</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Join</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Layer, color, linetype</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Layers</source>
+        <translation type="unfinished">Layer</translation>
+    </message>
+    <message>
+        <source>Layers of &amp;objects</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Layout</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Leader</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lengthen</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Light windows</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Linetype</source>
+        <translation type="unfinished">Linientyp</translation>
+    </message>
+    <message>
+        <source>Lineweight</source>
+        <translation type="unfinished">Linienstärke</translation>
+    </message>
+    <message>
+        <source>Lisp &amp;console</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>List</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Load shapes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lock</source>
+        <translation type="unfinished">Sperren</translation>
+    </message>
+    <message>
+        <source>Lon&amp;g command history</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Look for errors</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Look from a direction</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Look straight at a plane</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Make a block</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Make current</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Makes a new drawing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Merge layers</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mirror</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mirror in a plane</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move in space</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Move the text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Multileader</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Multiline</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Named views</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>O&amp;bjects</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Object snap</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Offset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Onto the sheet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Opens drawings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ordinate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Override variables</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>P&amp;DF page...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pa&amp;ge setup...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Paragraph</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Paste as b&amp;lock</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Paste where it &amp;was</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Place a shape</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Poin&amp;ts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Point</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Polygon</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Polyline</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Polyline in space</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Prints the layout that is shown, or writes it as a page</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Purge</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Radius</source>
+        <translation type="unfinished">Radius</translation>
+    </message>
+    <message>
+        <source>Rectangle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Region</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove duplicates</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Revision cloud</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ring</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rotate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rotate round an axis</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Run a s&amp;cript</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>S&amp;ettings...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save &amp;as...</source>
+        <translation type="unfinished">Speichern &amp;unter...</translation>
+    </message>
+    <message>
+        <source>Saves the drawing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saves the drawing under another name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Says what this program is</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation type="unfinished">Skalierung</translation>
+    </message>
+    <message>
+        <source>Shows a place to try Lisp at</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows all that is drawn</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows all through the viewport that is worked through</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows less, larger</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows more, smaller</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows recent drawings, samples and first steps</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows the help pages</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shows what is in a box</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Snap to a grid</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Snaps, display, selection, units, folders and trust</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Spline</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stretch</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Synchronize attributes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>System &amp;variables</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Take back the last layer change</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation type="unfinished">Text</translation>
+    </message>
+    <message>
+        <source>Text of one line</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Text style</source>
+        <translation type="unfinished">Textstil</translation>
+    </message>
+    <message>
+        <source>Texts to a paragraph</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Thaw all</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The viewport that is worked through shows a scale of 1:1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The viewport that is worked through shows a scale of 1:10</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The viewport that is worked through shows a scale of 1:100</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The viewport that is worked through shows a scale of 1:2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The viewport that is worked through shows a scale of 1:20</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The viewport that is worked through shows a scale of 1:5</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The viewport that is worked through shows a scale of 1:50</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Times</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>To the current layer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>To the layer of another one</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Trim</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Turn all on</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Turn off</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Units</source>
+        <translation type="unfinished">Einheiten</translation>
+    </message>
+    <message>
+        <source>Unlock</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Update expressions of texts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>User coordinate system</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Viewports of &amp;a sheet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>W&amp;hite ground</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>With one end</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Without ends</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Write a block to a file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Writes down what you do as a session that plays</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Writes what is drawn as a page</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Writes what is drawn as a picture</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Writes what is drawn as lines and areas</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Zoom &amp;extents</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Zoom &amp;in</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Zoom &amp;out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Zoom &amp;window</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>Panels</name>
     <message>
         <source>Properties</source>
@@ -256,6 +12986,430 @@ Geschrieben: %1
     <message>
         <source>it took longer than %1 s</source>
         <translation>es dauerte länger als %1 s</translation>
+    </message>
+    <message>
+        <source> saying &quot;%1&quot;</source>
+        <translation type="unfinished"> mit dem Text &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>${%1} is not known</source>
+        <translation type="unfinished">${%1} ist nicht bekannt</translation>
+    </message>
+    <message>
+        <source>%1 cannot be checked</source>
+        <translation type="unfinished">%1 kann nicht angekreuzt werden</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written to</source>
+        <translation type="unfinished">in %1 kann nicht geschrieben werden</translation>
+    </message>
+    <message>
+        <source>%1 does not take &quot;%2&quot;</source>
+        <translation type="unfinished">%1 nimmt &quot;%2&quot; nicht an</translation>
+    </message>
+    <message>
+        <source>%1 does not take &quot;%2&quot;; it shows &quot;%3&quot;</source>
+        <translation type="unfinished">%1 nimmt &quot;%2&quot; nicht an; es zeigt &quot;%3&quot;</translation>
+    </message>
+    <message>
+        <source>%1 has no button &quot;%2&quot;</source>
+        <translation type="unfinished">%1 hat keine Schaltfläche &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>%1 has no cell %2, %3</source>
+        <translation type="unfinished">%1 hat keine Zelle %2, %3</translation>
+    </message>
+    <message>
+        <source>%1 has no item &quot;%2&quot;; it has %3</source>
+        <translation type="unfinished">%1 hat keinen Eintrag &quot;%2&quot;; es hat %3</translation>
+    </message>
+    <message>
+        <source>%1 has no row &quot;%2&quot;</source>
+        <translation type="unfinished">%1 hat keine Zeile &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>%1 has no tab &quot;%2&quot;</source>
+        <translation type="unfinished">%1 hat keine Registerkarte &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>%1 has no value to set</source>
+        <translation type="unfinished">%1 hat keinen Wert zum Setzen</translation>
+    </message>
+    <message>
+        <source>%1 has no widget &quot;%2&quot;; it has %3</source>
+        <translation type="unfinished">%1 hat kein Bedienelement &quot;%2&quot;; es hat %3</translation>
+    </message>
+    <message>
+        <source>%1 has the keyboard</source>
+        <translation type="unfinished">%1 hat die Tastatur</translation>
+    </message>
+    <message>
+        <source>%1 is disabled</source>
+        <translation type="unfinished">%1 ist inaktiv</translation>
+    </message>
+    <message>
+        <source>%1 is no UTF-8 text</source>
+        <translation type="unfinished">%1 ist kein UTF-8-Text</translation>
+    </message>
+    <message>
+        <source>%1 is no list, table or tree</source>
+        <translation type="unfinished">%1 ist weder Liste noch Tabelle noch Baum</translation>
+    </message>
+    <message>
+        <source>%1 is not visible</source>
+        <translation type="unfinished">%1 ist nicht sichtbar</translation>
+    </message>
+    <message>
+        <source>%1 is open</source>
+        <translation type="unfinished">%1 ist offen</translation>
+    </message>
+    <message>
+        <source>%1 is still open</source>
+        <translation type="unfinished">%1 ist noch offen</translation>
+    </message>
+    <message>
+        <source>%1 is too long for a session</source>
+        <translation type="unfinished">%1 ist zu lang für eine Sitzung</translation>
+    </message>
+    <message>
+        <source>%1 stays as it is; another button of its group must be checked</source>
+        <translation type="unfinished">%1 bleibt, wie es ist; eine andere Schaltfläche der Gruppe muss gewählt werden</translation>
+    </message>
+    <message>
+        <source>%1 takes no file name</source>
+        <translation type="unfinished">%1 nimmt keinen Dateinamen an</translation>
+    </message>
+    <message>
+        <source>%1 took &quot;%2&quot;</source>
+        <translation type="unfinished">%1 nahm &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is neither yes nor no (on, off)</source>
+        <translation type="unfinished">&quot;%1&quot; ist weder yes noch no (on, off)</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no handle</source>
+        <translation type="unfinished">&quot;%1&quot; ist keine Referenznummer</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no key</source>
+        <translation type="unfinished">&quot;%1&quot; ist keine Taste</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no point; write x,y or x,y,z</source>
+        <translation type="unfinished">&quot;%1&quot; ist kein Punkt; schreiben Sie x,y oder x,y,z</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no whole number from 0 up</source>
+        <translation type="unfinished">&quot;%1&quot; ist keine ganze Zahl ab 0</translation>
+    </message>
+    <message>
+        <source>a quote is not closed, or text follows right behind it</source>
+        <translation type="unfinished">ein Anführungszeichen ist nicht geschlossen, oder Text folgt unmittelbar dahinter</translation>
+    </message>
+    <message>
+        <source>a view needs two corners</source>
+        <translation type="unfinished">eine Ansicht braucht zwei Ecken</translation>
+    </message>
+    <message>
+        <source>cancelled at %1, </source>
+        <translation type="unfinished">abgebrochen bei %1, </translation>
+    </message>
+    <message>
+        <source>cannot read %1: %2</source>
+        <translation type="unfinished">%1 ist nicht lesbar: %2</translation>
+    </message>
+    <message>
+        <source>cell %1, %2 of %3 cannot be written to</source>
+        <translation type="unfinished">in Zelle %1, %2 von %3 kann nicht geschrieben werden</translation>
+    </message>
+    <message>
+        <source>cell %1, %2 of %3 does not take &quot;%4&quot;</source>
+        <translation type="unfinished">Zelle %1, %2 von %3 nimmt &quot;%4&quot; nicht an</translation>
+    </message>
+    <message>
+        <source>dialog %1</source>
+        <translation type="unfinished">Dialog %1</translation>
+    </message>
+    <message>
+        <source>done again, the drawing differs from what it was: %1</source>
+        <translation type="unfinished">nach dem Wiederherstellen unterscheidet sich die Zeichnung von dem, was sie war: %1</translation>
+    </message>
+    <message>
+        <source>drawing: only the first line says which drawing it is</source>
+        <translation type="unfinished">drawing: nur die erste Zeile sagt, welche Zeichnung es ist</translation>
+    </message>
+    <message>
+        <source>end: no part was begun</source>
+        <translation type="unfinished">end: kein Teil wurde begonnen</translation>
+    </message>
+    <message>
+        <source>it is disabled</source>
+        <translation type="unfinished">es ist inaktiv</translation>
+    </message>
+    <message>
+        <source>it is enabled</source>
+        <translation type="unfinished">es ist aktiv</translation>
+    </message>
+    <message>
+        <source>it is nil</source>
+        <translation type="unfinished">es ist nil</translation>
+    </message>
+    <message>
+        <source>it is not visible</source>
+        <translation type="unfinished">es ist nicht sichtbar</translation>
+    </message>
+    <message>
+        <source>it is visible</source>
+        <translation type="unfinished">es ist sichtbar</translation>
+    </message>
+    <message>
+        <source>it shows &quot;%1&quot;</source>
+        <translation type="unfinished">es zeigt &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>it stands in front of a command or lisp</source>
+        <translation type="unfinished">es steht vor einem Befehl oder vor lisp</translation>
+    </message>
+    <message>
+        <source>line %1%2 (%3): </source>
+        <translation type="unfinished">Zeile %1%2 (%3): </translation>
+    </message>
+    <message>
+        <source>line %1: %2</source>
+        <translation type="unfinished">Zeile %1: %2</translation>
+    </message>
+    <message>
+        <source>line %1: the session has cases, each of which wants the drawing opened anew</source>
+        <translation type="unfinished">Zeile %1: die Sitzung hat Fälle, für die jeweils die Zeichnung neu geöffnet werden muss</translation>
+    </message>
+    <message>
+        <source>no arguments</source>
+        <translation type="unfinished">keine Argumente</translation>
+    </message>
+    <message>
+        <source>no dialog</source>
+        <translation type="unfinished">kein Dialog</translation>
+    </message>
+    <message>
+        <source>no folder was given to write to (--out)</source>
+        <translation type="unfinished">es wurde kein Ordner zum Schreiben angegeben (--out)</translation>
+    </message>
+    <message>
+        <source>no program was given that reads drawings (--audit, or the environment&apos;s ORTAKIT_AUDIT)</source>
+        <translation type="unfinished">es wurde kein Programm angegeben, das Zeichnungen liest (--audit oder ORTAKIT_AUDIT in der Umgebung)</translation>
+    </message>
+    <message>
+        <source>no prompt and no dialog is open that this could be meant for</source>
+        <translation type="unfinished">weder eine Eingabeaufforderung noch ein Dialog ist offen, für den dies gemeint sein könnte</translation>
+    </message>
+    <message>
+        <source>nothing has the keyboard</source>
+        <translation type="unfinished">nichts hat die Tastatur</translation>
+    </message>
+    <message>
+        <source>nothing with a name</source>
+        <translation type="unfinished">nichts mit einem Namen</translation>
+    </message>
+    <message>
+        <source>part %1, line %2</source>
+        <translation type="unfinished">Teil %1, Zeile %2</translation>
+    </message>
+    <message>
+        <source>part: a part cannot be written in a part</source>
+        <translation type="unfinished">part: ein Teil kann nicht in einem Teil geschrieben werden</translation>
+    </message>
+    <message>
+        <source>part: it has no end</source>
+        <translation type="unfinished">part: es hat kein Ende</translation>
+    </message>
+    <message>
+        <source>part: the part before it has no end</source>
+        <translation type="unfinished">part: der Teil davor hat kein Ende</translation>
+    </message>
+    <message>
+        <source>part: there is a part %1 already</source>
+        <translation type="unfinished">part: einen Teil %1 gibt es schon</translation>
+    </message>
+    <message>
+        <source>play: the part %1 plays itself</source>
+        <translation type="unfinished">play: der Teil %1 spielt sich selbst ab</translation>
+    </message>
+    <message>
+        <source>play: the part %1 takes %2</source>
+        <translation type="unfinished">play: der Teil %1 nimmt %2</translation>
+    </message>
+    <message>
+        <source>play: the parts write too much</source>
+        <translation type="unfinished">play: die Teile schreiben zu viel</translation>
+    </message>
+    <message>
+        <source>play: there is no part %1</source>
+        <translation type="unfinished">play: es gibt keinen Teil %1</translation>
+    </message>
+    <message>
+        <source>play: too many parts are played one in the other</source>
+        <translation type="unfinished">play: zu viele Teile werden ineinander abgespielt</translation>
+    </message>
+    <message>
+        <source>row &quot;%1&quot; of %2 cannot be checked</source>
+        <translation type="unfinished">Zeile &quot;%1&quot; von %2 kann nicht angekreuzt werden</translation>
+    </message>
+    <message>
+        <source>row &quot;%1&quot; of %2 is not visible</source>
+        <translation type="unfinished">Zeile &quot;%1&quot; von %2 ist nicht sichtbar</translation>
+    </message>
+    <message>
+        <source>something is missing at the end of the line</source>
+        <translation type="unfinished">am Ende der Zeile fehlt etwas</translation>
+    </message>
+    <message>
+        <source>the changes are &quot;%1&quot;</source>
+        <translation type="unfinished">die Änderungen sind &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>the drawing differs from what it was: %1</source>
+        <translation type="unfinished">die Zeichnung unterscheidet sich von dem, was sie war: %1</translation>
+    </message>
+    <message>
+        <source>the drawing has no entity with the handle %1</source>
+        <translation type="unfinished">die Zeichnung hat kein Objekt mit der Referenznummer %1</translation>
+    </message>
+    <message>
+        <source>the drawing is unchanged</source>
+        <translation type="unfinished">die Zeichnung ist unverändert</translation>
+    </message>
+    <message>
+        <source>the drawing was changed</source>
+        <translation type="unfinished">die Zeichnung wurde geändert</translation>
+    </message>
+    <message>
+        <source>the error is &quot;%1&quot;</source>
+        <translation type="unfinished">der Fehler ist &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>the file does not hold it; its text is &quot;%1&quot;</source>
+        <translation type="unfinished">die Datei enthält es nicht; ihr Text ist &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>the file is there</source>
+        <translation type="unfinished">die Datei ist vorhanden</translation>
+    </message>
+    <message>
+        <source>the file&apos;s text is &quot;%1&quot;</source>
+        <translation type="unfinished">der Text der Datei ist &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>the files differ at byte %1: &quot;%2&quot; and &quot;%3&quot;</source>
+        <translation type="unfinished">die Dateien unterscheiden sich bei Byte %1: &quot;%2&quot; und &quot;%3&quot;</translation>
+    </message>
+    <message>
+        <source>the items are &quot;%1&quot;</source>
+        <translation type="unfinished">die Einträge sind &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>the line goes on (it ends in a backslash), but the session ends</source>
+        <translation type="unfinished">die Zeile geht weiter (sie endet mit einem umgekehrten Schrägstrich), aber die Sitzung endet</translation>
+    </message>
+    <message>
+        <source>the list went away while rows were selected</source>
+        <translation type="unfinished">die Liste verschwand, während Zeilen gewählt wurden</translation>
+    </message>
+    <message>
+        <source>the menu has no entry &quot;%1&quot;; it has %2</source>
+        <translation type="unfinished">das Menü hat keinen Eintrag &quot;%1&quot;; es hat %2</translation>
+    </message>
+    <message>
+        <source>the menu&apos;s entry &quot;%1&quot; is disabled</source>
+        <translation type="unfinished">der Menüeintrag &quot;%1&quot; ist inaktiv</translation>
+    </message>
+    <message>
+        <source>the order of its records</source>
+        <translation type="unfinished">die Reihenfolge ihrer Datensätze</translation>
+    </message>
+    <message>
+        <source>the prompt &quot;%1&quot;</source>
+        <translation type="unfinished">die Eingabeaufforderung &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>the reader %1 does not answer</source>
+        <translation type="unfinished">das Leseprogramm %1 antwortet nicht</translation>
+    </message>
+    <message>
+        <source>the reader takes no names with line feeds</source>
+        <translation type="unfinished">das Leseprogramm nimmt keine Namen mit Zeilenumbrüchen an</translation>
+    </message>
+    <message>
+        <source>the run before it ended without an error</source>
+        <translation type="unfinished">der Lauf davor endete ohne Fehler</translation>
+    </message>
+    <message>
+        <source>the run changed nothing</source>
+        <translation type="unfinished">der Lauf hat nichts geändert</translation>
+    </message>
+    <message>
+        <source>the run ended with &quot;%1&quot;</source>
+        <translation type="unfinished">der Lauf endete mit &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>the session ends while %1 is open</source>
+        <translation type="unfinished">die Sitzung endet, während %1 offen ist</translation>
+    </message>
+    <message>
+        <source>the session took longer than %1 s; open is %2</source>
+        <translation type="unfinished">die Sitzung dauerte länger als %1 s; offen ist %2</translation>
+    </message>
+    <message>
+        <source>the title is &quot;%1&quot;</source>
+        <translation type="unfinished">der Titel ist &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>the widget went away while it was typed into</source>
+        <translation type="unfinished">das Bedienelement verschwand, während darin geschrieben wurde</translation>
+    </message>
+    <message>
+        <source>there are %1</source>
+        <translation type="unfinished">es gibt %1</translation>
+    </message>
+    <message>
+        <source>there is %1</source>
+        <translation type="unfinished">da ist %1</translation>
+    </message>
+    <message>
+        <source>there is no panel &quot;%1&quot;</source>
+        <translation type="unfinished">es gibt kein Bedienfeld &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>there is nothing to redo</source>
+        <translation type="unfinished">es gibt nichts wiederherzustellen</translation>
+    </message>
+    <message>
+        <source>there is nothing to undo</source>
+        <translation type="unfinished">es gibt nichts rückgängig zu machen</translation>
+    </message>
+    <message>
+        <source>there was no run before it</source>
+        <translation type="unfinished">davor gab es keinen Lauf</translation>
+    </message>
+    <message>
+        <source>too much on the line: &quot;%1&quot;</source>
+        <translation type="unfinished">zu viel in der Zeile: &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>undone, the drawing differs from what it was: %1</source>
+        <translation type="unfinished">nach dem Rückgängigmachen unterscheidet sich die Zeichnung von dem, was sie war: %1</translation>
+    </message>
+    <message>
+        <source>unknown word &quot;%1&quot;</source>
+        <translation type="unfinished">unbekanntes Wort &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>what cannot be read again</source>
+        <translation type="unfinished">was nicht wieder gelesen werden kann</translation>
+    </message>
+    <message>
+        <source>what was printed is &quot;%1&quot;</source>
+        <translation type="unfinished">ausgegeben wurde &quot;%1&quot;</translation>
     </message>
 </context>
 <context>
@@ -983,57 +14137,6 @@ Geschrieben: %1
     </message>
 </context>
 <context>
-    <name>StatusSwitches</name>
-    <message>
-        <source>GRID</source>
-        <translation>RASTER</translation>
-    </message>
-    <message>
-        <source>Shows the grid</source>
-        <translation>Zeigt das Raster</translation>
-    </message>
-    <message>
-        <source>SNAP</source>
-        <translation>FANG</translation>
-    </message>
-    <message>
-        <source>Points snap to the grid</source>
-        <translation>Punkte werden am Raster gefangen</translation>
-    </message>
-    <message>
-        <source>ORTHO</source>
-        <translation>ORTHO</translation>
-    </message>
-    <message>
-        <source>Points lie along the axes from the last one</source>
-        <translation>Punkte liegen vom letzten aus entlang der Achsen</translation>
-    </message>
-    <message>
-        <source>POLAR</source>
-        <translation>POLAR</translation>
-    </message>
-    <message>
-        <source>Points lock to angles from the last one</source>
-        <translation>Punkte rasten vom letzten aus in Winkeln ein</translation>
-    </message>
-    <message>
-        <source>OSNAP</source>
-        <translation>OFANG</translation>
-    </message>
-    <message>
-        <source>Points snap to entities</source>
-        <translation>Punkte werden an Objekten gefangen</translation>
-    </message>
-    <message>
-        <source>DYN</source>
-        <translation>DYN</translation>
-    </message>
-    <message>
-        <source>Length and angle stand at the pointer; Tab locks what was typed</source>
-        <translation>Länge und Winkel stehen am Zeiger; Tab hält fest, was eingegeben wurde</translation>
-    </message>
-</context>
-<context>
     <name>Suggestions</name>
     <message>
         <source>command of a program</source>
@@ -1041,294 +14144,485 @@ Geschrieben: %1
     </message>
 </context>
 <context>
-    <name>host::app</name>
+    <name>TrustQuestion</name>
     <message>
-        <source>there is %1</source>
-        <translation>da ist %1</translation>
+        <source>&amp;Load once</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%1 has no button &quot;%2&quot;</source>
-        <translation>%1 hat keine Schaltfläche &quot;%2&quot;</translation>
+        <source>&amp;Trust this folder</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%1 took &quot;%2&quot;</source>
-        <translation>%1 nahm &quot;%2&quot;</translation>
+        <source>Load this program? It can do whatever you can.</source>
+        <translation type="unfinished"></translation>
     </message>
+</context>
+<context>
+    <name>Uses</name>
     <message>
-        <source>%1 takes no file name</source>
-        <translation>%1 nimmt keinen Dateinamen an</translation>
+        <source>%1 takes %2 from %3 to %4, not &quot;%5&quot;</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>the menu&apos;s entry &quot;%1&quot; is disabled</source>
-        <translation>der Menüeintrag &quot;%1&quot; ist inaktiv</translation>
+        <source>%1 is %2, not &quot;%3&quot;</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>the menu has no entry &quot;%1&quot;; it has %2</source>
-        <translation>das Menü hat keinen Eintrag &quot;%1&quot;; es hat %2</translation>
+        <source>or</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%1 has the keyboard</source>
-        <translation>%1 hat die Tastatur</translation>
+        <source>%1 has no meaning here</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>nothing has the keyboard</source>
-        <translation>nichts hat die Tastatur</translation>
+        <source>there is no option %1%2</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>the items are &quot;%1&quot;</source>
-        <translation>die Einträge sind &quot;%1&quot;</translation>
+        <source>%1 needs a value</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%1 is open</source>
-        <translation>%1 ist offen</translation>
+        <source>%1 takes no value</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>the title is &quot;%1&quot;</source>
-        <translation>der Titel ist &quot;%1&quot;</translation>
+        <source>there is no command %1%2</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>it is enabled</source>
-        <translation>es ist aktiv</translation>
+        <source>convert needs two files</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>it is disabled</source>
-        <translation>es ist inaktiv</translation>
+        <source>the sheet of a layout as its page setup has it; &quot;model&quot; for the page of model space; &quot;all&quot; for every sheet: a page each in a pdf, a file each as png and svg, with its name: OUT-NAME.png</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>it is visible</source>
-        <translation>es ist sichtbar</translation>
+        <source>another sheet, on which everything is to be seen: A0 to A6, B0 to B6, ANSI-A to ANSI-E, ARCH-A to ARCH-E1 or millimetres as 420x297; -landscape or -portrait behind it turns it</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>it is not visible</source>
-        <translation>es ist nicht sichtbar</translation>
+        <source>millimetres on the sheet to drawing units, in place of what the page says or as fits</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>it shows &quot;%1&quot;</source>
-        <translation>es zeigt &quot;%1&quot;</translation>
+        <source>show what lies between these corners, in drawing units</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>a quote is not closed, or text follows right behind it</source>
-        <translation>ein Anführungszeichen ist nicht geschlossen, oder Text folgt unmittelbar dahinter</translation>
+        <source>png, svg: so many pixels, 1 to 16000 each way; a sheet goes into their middle</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is neither yes nor no (on, off)</source>
-        <translation>&quot;%1&quot; ist weder yes noch no (on, off)</translation>
+        <source>png, svg: pixels an inch of the sheet</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no point; write x,y or x,y,z</source>
-        <translation>&quot;%1&quot; ist kein Punkt; schreiben Sie x,y oder x,y,z</translation>
+        <source>what it lies on</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no whole number from 0 up</source>
-        <translation>&quot;%1&quot; ist keine ganze Zahl ab 0</translation>
+        <source>only layers whose names match, as in a layer filter: &quot;walls,door*&quot;</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no handle</source>
-        <translation>&quot;%1&quot; ist keine Referenznummer</translation>
+        <source>pdf, svg: texts as areas, or as text that can be searched</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>unknown word &quot;%1&quot;</source>
-        <translation>unbekanntes Wort &quot;%1&quot;</translation>
+        <source>a table of plot styles (ctb, stb) in place of what the page names; &quot;none&quot; for none. Without a file there are monochrome, grayscale and screening 25%, 50%, 75%, 100%</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>${%1} is not known</source>
-        <translation>${%1} ist nicht bekannt</translation>
+        <source>all lines as thin as can be</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>the line goes on (it ends in a backslash), but the session ends</source>
-        <translation>die Zeile geht weiter (sie endet mit einem umgekehrten Schrägstrich), aber die Sitzung endet</translation>
+        <source>the most it may take; OUT stays as it was when it takes longer</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%1 is too long for a session</source>
-        <translation>%1 ist zu lang für eine Sitzung</translation>
+        <source>no limit</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>cannot read %1: %2</source>
-        <translation>%1 ist nicht lesbar: %2</translation>
+        <source>write OUT although another program has it open</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%1 is no UTF-8 text</source>
-        <translation>%1 ist kein UTF-8-Text</translation>
+        <source>end with status 3 when something is missing in the picture, which is written all the same</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%1 has no row &quot;%2&quot;</source>
-        <translation>%1 hat keine Zeile &quot;%2&quot;</translation>
+        <source>write a DXF file in the binary form; without it, as text</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%1 is no list, table or tree</source>
-        <translation>%1 ist weder Liste noch Tabelle noch Baum</translation>
+        <source>open a damaged IN as far as it is sound, and tell on standard error what was dropped; OUT must be another file</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>the list went away while rows were selected</source>
-        <translation>die Liste verschwand, während Zeilen gewählt wurden</translation>
+        <source>print one line of JSON: input, output, and of pictures complete, drawn, invisible, inPart and notDrawn (a number for each type) and cutShort; with --layout all of it for each of the pages, with layout and output; with --recover the same of what was dropped, mended and added</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>row &quot;%1&quot; of %2 is not visible</source>
-        <translation>Zeile &quot;%1&quot; von %2 ist nicht sichtbar</translation>
+        <source>writes a drawing as DXF, PNG, SVG or PDF</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>row &quot;%1&quot; of %2 cannot be checked</source>
-        <translation>Zeile &quot;%1&quot; von %2 kann nicht angekreuzt werden</translation>
+        <source>the drawing</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%1 has no cell %2, %3</source>
-        <translation>%1 hat keine Zelle %2, %3</translation>
+        <source>the file to write, as what its extension says</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>cell %1, %2 of %3 cannot be written to</source>
-        <translation>in Zelle %1, %2 von %3 kann nicht geschrieben werden</translation>
+        <source>Opens a drawing and writes it as what the extension of OUT says: dxf, png, svg or pdf. What a picture does not show, or only in part, is told on standard error, by type.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>cell %1, %2 of %3 does not take &quot;%4&quot;</source>
-        <translation>Zelle %1, %2 von %3 nimmt &quot;%4&quot; nicht an</translation>
+        <source>Pictures</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>what was printed is &quot;%1&quot;</source>
-        <translation>ausgegeben wurde &quot;%1&quot;</translation>
+        <source>Without the options of a sheet, png and svg show all of model space in 1600 by 1200 pixels, with the lineweights that it would have on a sheet 297 mm long; pdf shows it on A4.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>there are %1</source>
-        <translation>es gibt %1</translation>
+        <source>%1 to %2</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>what cannot be read again</source>
-        <translation>was nicht wieder gelesen werden kann</translation>
+        <source>default: %1</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>the changes are &quot;%1&quot;</source>
-        <translation>die Änderungen sind &quot;%1&quot;</translation>
+        <source>Exit status: 0 done, 1 a tool, expression or session failed or passed a limit, 2 wrong use, 3 part of a batch failed or, with --strict, of a picture is missing, 4 a file could not be read or written, 5 a picture was written, but there was more to show than is drawn in one go: a few lines of a drawing can make millions.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>there was no run before it</source>
-        <translation>davor gab es keinen Lauf</translation>
+        <source>Usage: </source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>the drawing differs from what it was: %1</source>
-        <translation>die Zeichnung unterscheidet sich von dem, was sie war: %1</translation>
+        <source>Commands:</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>no program was given that reads drawings (--audit, or the environment&apos;s ORTAKIT_AUDIT)</source>
-        <translation>es wurde kein Programm angegeben, das Zeichnungen liest (--audit oder ORTAKIT_AUDIT in der Umgebung)</translation>
+        <source>Drafting tools without their dialogs:</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>the order of its records</source>
-        <translation>die Reihenfolge ihrer Datensätze</translation>
+        <source>Options for every use:</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>the run changed nothing</source>
-        <translation>der Lauf hat nichts geändert</translation>
+        <source>there is no kind of finding &quot;%1&quot;</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>undone, the drawing differs from what it was: %1</source>
-        <translation>nach dem Rückgängigmachen unterscheidet sich die Zeichnung von dem, was sie war: %1</translation>
+        <source>lisp needs at least one file for this</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>done again, the drawing differs from what it was: %1</source>
-        <translation>nach dem Wiederherstellen unterscheidet sich die Zeichnung von dem, was sie war: %1</translation>
+        <source>--json, --only and --except go with --check</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>the drawing was changed</source>
-        <translation>die Zeichnung wurde geändert</translation>
+        <source>--filter and --junit go with --test</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>the drawing is unchanged</source>
-        <translation>die Zeichnung ist unverändert</translation>
+        <source>--profile goes with programs that are run</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>the file&apos;s text is &quot;%1&quot;</source>
-        <translation>der Text der Datei ist &quot;%1&quot;</translation>
+        <source>--check and --test do not go together</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>the file does not hold it; its text is &quot;%1&quot;</source>
-        <translation>die Datei enthält es nicht; ihr Text ist &quot;%1&quot;</translation>
+        <source>Kinds of findings:</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>the files differ at byte %1: &quot;%2&quot; and &quot;%3&quot;</source>
-        <translation>die Dateien unterscheiden sich bei Byte %1: &quot;%2&quot; und &quot;%3&quot;</translation>
+        <source>Loads the Lisp files in order and prints what they print. &quot;-&quot; reads expressions from standard input. Without --drawing a new drawing is open. Nothing asks a person: prompts are cancelled, and a dialog ends the program with status 1.
+
+What these files load must lie in a trusted folder: the installation, the folder of the user&apos;s data, those that the system variable TRUSTEDPATHS lists, and those named here.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>no folder was given to write to (--out)</source>
-        <translation>es wurde kein Ordner zum Schreiben angegeben (--out)</translation>
+        <source>the drawing to work on</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>the file is there</source>
-        <translation>die Datei ist vorhanden</translation>
+        <source>a new one</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>line %1%2 (%3): </source>
-        <translation>Zeile %1%2 (%3): </translation>
+        <source>the most all of it may take</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>line %1: %2</source>
-        <translation>Zeile %1: %2</translation>
+        <source>write files as well that another program has open, or has changed since they were opened</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>line %1: the session has cases, each of which wants the drawing opened anew</source>
-        <translation>Zeile %1: die Sitzung hat Fälle, für die jeweils die Zeichnung neu geöffnet werden muss</translation>
+        <source>tell on standard error where the time went, function by function</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%1 cannot be written to</source>
-        <translation>in %1 kann nicht geschrieben werden</translation>
+        <source>write that as folded stacks as well, of which flame graphs are drawn</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%1 does not take &quot;%2&quot;; it shows &quot;%3&quot;</source>
-        <translation>%1 nimmt &quot;%2&quot; nicht an; es zeigt &quot;%3&quot;</translation>
+        <source>Without a file</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%1 does not take &quot;%2&quot;</source>
-        <translation>%1 nimmt &quot;%2&quot; nicht an</translation>
+        <source>It is a prompt: expressions are evaluated as they are typed, and their values printed. Tab completes names, &quot;help NAME&quot; or &quot;?NAME&quot; tells about one, Ctrl+C stops what runs, Ctrl+D ends. What is piped in is evaluated form by form; errors go to standard error with their line, the forms behind one are evaluated all the same, and the status is 1 then.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%1 has no item &quot;%2&quot;; it has %3</source>
-        <translation>%1 hat keinen Eintrag &quot;%2&quot;; es hat %3</translation>
+        <source>With --check</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%1 has no tab &quot;%2&quot;</source>
-        <translation>%1 hat keine Registerkarte &quot;%2&quot;</translation>
+        <source>The files are read and not run, and what looks wrong in them is told, a line each: FILE:LINE:COLUMN: error or warning: what it is [KIND]. What one of them defines the others know. Ends with status 1 when something was told.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%1 has no value to set</source>
-        <translation>%1 hat keinen Wert zum Setzen</translation>
+        <source>read the files and tell what looks wrong in them</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>the widget went away while it was typed into</source>
-        <translation>das Bedienelement verschwand, während darin geschrieben wurde</translation>
+        <source>tell it as one line of JSON: findings, each with file, line, column, severity, kind and message, and the numbers of errors and warnings</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>&quot;%1&quot; is no key</source>
-        <translation>&quot;%1&quot; ist keine Taste</translation>
+        <source>tell only these kinds</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%1 cannot be checked</source>
-        <translation>%1 kann nicht angekreuzt werden</translation>
+        <source>tell all kinds but these</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%1 stays as it is; another button of its group must be checked</source>
-        <translation>%1 bleibt, wie es ist; eine andere Schaltfläche der Gruppe muss gewählt werden</translation>
+        <source>With --test</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%1 is not visible</source>
-        <translation>%1 ist nicht sichtbar</translation>
+        <source>The tests that the files define by (deftest name form...) are run, each in a new drawing (or DRAWING) into which its file was loaded before, and told on standard output in version 14 of the Test Anything Protocol. The time limit is that of each test. Ends with status 1 when one failed or there was none.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%1 is disabled</source>
-        <translation>%1 ist inaktiv</translation>
+        <source>run the tests that the files define</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>nothing with a name</source>
-        <translation>nichts mit einem Namen</translation>
+        <source>run only tests of such names: * stands for any characters, ? for one</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%1 has no widget &quot;%2&quot;; it has %3</source>
-        <translation>%1 hat kein Bedienelement &quot;%2&quot;; es hat %3</translation>
+        <source>write a report in JUnit&apos;s XML instead</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>dialog %1</source>
-        <translation>Dialog %1</translation>
+        <source>runs, checks or tests Lisp files, or is a prompt for Lisp</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source> saying &quot;%1&quot;</source>
-        <translation> mit dem Text &quot;%1&quot;</translation>
+        <source>a Lisp file, or - for standard input</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>names takes no word</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>help takes one command</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>lists what Lisp programs find here</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Prints what Lisp programs find here in a new drawing, a line each with tabs between its fields, sorted:
+
+  function  NAME  ARGUMENTS  WHAT IT GIVES
+  command   NAME  -          WHAT IT DOES
+  variable  NAME  KIND       WHAT IT IS
+
+Documents are made from this, and scripts/demand compares it with what programs ask for.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>tells about a command</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>which one; without it, the program as a whole</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The same as --help behind the command.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>run needs a session</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>open damaged drawings as far as they are sound, and tell on standard error what was dropped</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>write the drawings that the session changed there, under their own names; of a session with cases, what it saves itself</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>write a picture of each drawing as it is in the end to the out folder, or else beside the drawing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>an independent reader for sessions that ask one (default: the environment&apos;s ORTAKIT_AUDIT); see scripts/audit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>where pictures go that the session takes, and those of --png</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the most the session may take with one drawing; one that does not stop then ends the program</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>plays a recorded session over drawings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the recorded session</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>what it is played over</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Plays a recorded session over each drawing, one after the other, each opened afresh; without a drawing, over the one that the session says. The drawings themselves stay as they are. Prints a line for each, and of a session with cases for each of them. What a picture does not show, or only in part, is told on standard error, by type.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>look of windows and dialogs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>language of texts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>$ORTAKIT_LANGUAGE; else the window&apos;s setting or the desktop&apos;s language, and English where there is no window or a session is played</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>folder of the user&apos;s data</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>$ORTAKIT_HOME, or the system&apos;s place for such data</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the plug-in module</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>$ORTAKIT_MODULE, or the one installed with the program</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>folder of the Lisp tools</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>$ORTAKIT_TOOLS, or the one installed with the program</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>let drawings name files of this folder and those below; may be given again. Else they are read from the drawing&apos;s own folder, those below and trusted ones only</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>tell this and end</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>tell the version and end</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> (did you mean %1?)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>run programs of this folder and those below as well; may be given again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the most memory Lisp may take, more being an error of the program</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the system variable LISPHEAPMAX, which is 2048 as long as nobody changed it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>open damaged drawings as far as they are sound; they have no file until they are saved under a name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>open what a program that was killed left of changed drawings, without asking</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>play a recorded session in the window first</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>how long each line of the session waits, so that you can watch it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>write what you do down as a session that plays</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>write a picture of the window to DIR/window.png and end</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the most a session may take</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>opens drawings in a window</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a drawing to open</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Opens the drawings in a window, or works on them without one. &quot;ortakit help COMMAND&quot; tells more about a command. A drawing whose name is that of a command is written with its folder: ./run</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Options of the window</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -2413,6 +15707,54 @@ Wiederhergestellt nach dem Stand vom %1. Erst nach dem Speichern steht es in der
         <source>%1 off</source>
         <translation>%1 aus</translation>
     </message>
+    <message>
+        <source>GRID</source>
+        <translation type="unfinished">RASTER</translation>
+    </message>
+    <message>
+        <source>Shows the grid</source>
+        <translation type="unfinished">Zeigt das Raster</translation>
+    </message>
+    <message>
+        <source>SNAP</source>
+        <translation type="unfinished">FANG</translation>
+    </message>
+    <message>
+        <source>Points snap to the grid</source>
+        <translation type="unfinished">Punkte werden am Raster gefangen</translation>
+    </message>
+    <message>
+        <source>ORTHO</source>
+        <translation type="unfinished">ORTHO</translation>
+    </message>
+    <message>
+        <source>Points lie along the axes from the last one</source>
+        <translation type="unfinished">Punkte liegen vom letzten aus entlang der Achsen</translation>
+    </message>
+    <message>
+        <source>POLAR</source>
+        <translation type="unfinished">POLAR</translation>
+    </message>
+    <message>
+        <source>Points lock to angles from the last one</source>
+        <translation type="unfinished">Punkte rasten vom letzten aus in Winkeln ein</translation>
+    </message>
+    <message>
+        <source>OSNAP</source>
+        <translation type="unfinished">OFANG</translation>
+    </message>
+    <message>
+        <source>Points snap to entities</source>
+        <translation type="unfinished">Punkte werden an Objekten gefangen</translation>
+    </message>
+    <message>
+        <source>DYN</source>
+        <translation type="unfinished">DYN</translation>
+    </message>
+    <message>
+        <source>Length and angle stand at the pointer; Tab locks what was typed</source>
+        <translation type="unfinished">Länge und Winkel stehen am Zeiger; Tab hält fest, was eingegeben wurde</translation>
+    </message>
 </context>
 <context>
     <name>host::app::StyleBar</name>
@@ -2650,10 +15992,49 @@ Wiederhergestellt nach dem Stand vom %1. Erst nach dem Speichern steht es in der
     </message>
 </context>
 <context>
-    <name>kernel</name>
+    <name>host::kernel::DrawingBackup</name>
     <message>
-        <source>the drawing has no entity with the handle %1</source>
-        <translation>die Zeichnung hat kein Objekt mit der Referenznummer %1</translation>
+        <source>No backup of %1: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the backup would take the place of the drawing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>there is no folder %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>host::view::Export</name>
+    <message>
+        <source>Cannot make a picture of this size for %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot write %1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The sheet would be %1 by %2 pixels; %3 each way are the most</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no block named %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no layout named %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>it is not found</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the plot styles %1 are left out: %2</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 </TS>

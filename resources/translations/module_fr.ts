@@ -91,7 +91,7 @@
     </message>
     <message>
         <source>&amp;Name:</source>
-        <translation>&amp;Nom :</translation>
+        <translation>&amp;Nom&#xa0;:</translation>
     </message>
     <message>
         <source>...</source>
@@ -127,11 +127,11 @@
     </message>
     <message>
         <source>Wid&amp;th:</source>
-        <translation>&amp;Largeur :</translation>
+        <translation>&amp;Largeur&#xa0;:</translation>
     </message>
     <message>
         <source>Hei&amp;ght:</source>
-        <translation>&amp;Hauteur :</translation>
+        <translation>&amp;Hauteur&#xa0;:</translation>
     </message>
     <message>
         <source>Spacing</source>
@@ -139,11 +139,11 @@
     </message>
     <message>
         <source>Offset &amp;X:</source>
-        <translation>Décalage &amp;X :</translation>
+        <translation>Décalage &amp;X&#xa0;:</translation>
     </message>
     <message>
         <source>Offset &amp;Y:</source>
-        <translation>Décalage &amp;Y :</translation>
+        <translation>Décalage &amp;Y&#xa0;:</translation>
     </message>
     <message>
         <source>Position</source>
@@ -151,7 +151,7 @@
     </message>
     <message>
         <source>Pattern &amp;origin:</source>
-        <translation>&amp;Origine du motif :</translation>
+        <translation>&amp;Origine du motif&#xa0;:</translation>
     </message>
     <message>
         <source>X</source>
@@ -167,7 +167,7 @@
     </message>
     <message>
         <source>Rotation &amp;angle:</source>
-        <translation>An&amp;gle de rotation :</translation>
+        <translation>An&amp;gle de rotation&#xa0;:</translation>
     </message>
     <message>
         <source>Extracts pattern, size, position and rotation from an entity in drawing</source>
@@ -255,7 +255,7 @@
     </message>
     <message>
         <source>At the boundary copies of references are left out: they cannot be cut.</source>
-        <translation>Sur le contour, les copies de références sont omises : elles ne peuvent pas être coupées.</translation>
+        <translation>Sur le contour, les copies de références sont omises&#xa0;: elles ne peuvent pas être coupées.</translation>
     </message>
     <message>
         <source>At the boundary copies with anything but lines, arcs and polylines are left out.</source>
@@ -330,7 +330,7 @@
     </message>
     <message>
         <source>&amp;Drawing file:</source>
-        <translation>Fichier de &amp;dessin :</translation>
+        <translation>Fichier de &amp;dessin&#xa0;:</translation>
     </message>
     <message>
         <source>Drawing file that has the block</source>
@@ -346,11 +346,11 @@
     </message>
     <message>
         <source>&amp;Filter by:</source>
-        <translation>&amp;Filtrer par :</translation>
+        <translation>&amp;Filtrer par&#xa0;:</translation>
     </message>
     <message>
         <source>Regular expression; blocks whose name contains it are listed</source>
-        <translation>Expression régulière ; les blocs dont le nom la contient sont listés</translation>
+        <translation>Expression régulière&#xa0;; les blocs dont le nom la contient sont listés</translation>
     </message>
     <message>
         <source>List the blocks that programs have made without a name of their own, such as *U12</source>
@@ -406,11 +406,11 @@
     </message>
     <message>
         <source>Blocks: %1</source>
-        <translation>Blocs : %1</translation>
+        <translation>Blocs&#xa0;: %1</translation>
     </message>
     <message>
         <source>Blocks: %1 of %2</source>
-        <translation>Blocs : %1 sur %2</translation>
+        <translation>Blocs&#xa0;: %1 sur %2</translation>
     </message>
     <message>
         <source>The drawing has no blocks.</source>
@@ -430,7 +430,7 @@
     </message>
     <message>
         <source>The block &quot;%1&quot; is anonymous: it cannot be brought in from another drawing.</source>
-        <translation>Le bloc &quot;%1&quot; est anonyme : il ne peut pas être repris d&apos;un autre dessin.</translation>
+        <translation>Le bloc &quot;%1&quot; est anonyme&#xa0;: il ne peut pas être repris d&apos;un autre dessin.</translation>
     </message>
     <message>
         <source>The drawing file does not have the block &quot;%1&quot; any more.</source>
@@ -461,11 +461,11 @@
     </message>
     <message>
         <source>Si&amp;ze:</source>
-        <translation>&amp;Taille :</translation>
+        <translation>&amp;Taille&#xa0;:</translation>
     </message>
     <message>
         <source>O&amp;ffset:</source>
-        <translation>&amp;Décalage :</translation>
+        <translation>&amp;Décalage&#xa0;:</translation>
     </message>
     <message>
         <source>New symbol</source>
@@ -473,7 +473,7 @@
     </message>
     <message>
         <source>&amp;Name:</source>
-        <translation>&amp;Nom :</translation>
+        <translation>&amp;Nom&#xa0;:</translation>
     </message>
     <message>
         <source>Specify entities to use as breakline</source>
@@ -512,11 +512,11 @@
     </message>
     <message>
         <source>Back: drawn first</source>
-        <translation>Arrière : dessiné en premier</translation>
+        <translation>Arrière&#xa0;: dessiné en premier</translation>
     </message>
     <message>
         <source>Front: drawn last, over all others</source>
-        <translation>Avant : dessiné en dernier, par-dessus tout le reste</translation>
+        <translation>Avant&#xa0;: dessiné en dernier, par-dessus tout le reste</translation>
     </message>
     <message>
         <source>Draw the selected colors before all others (Alt+Home)</source>
@@ -576,7 +576,7 @@
     </message>
     <message>
         <source>&amp;Color:</source>
-        <translation>&amp;Couleur :</translation>
+        <translation>&amp;Couleur&#xa0;:</translation>
     </message>
     <message>
         <source>Add this color at the front</source>
@@ -592,7 +592,7 @@
     </message>
     <message>
         <source>&amp;Name:</source>
-        <translation>&amp;Nom :</translation>
+        <translation>&amp;Nom&#xa0;:</translation>
     </message>
     <message>
         <source>Save favorite</source>
@@ -631,7 +631,7 @@
     </message>
     <message>
         <source>Current alias:</source>
-        <translation>Alias actuels :</translation>
+        <translation>Alias actuels&#xa0;:</translation>
     </message>
     <message>
         <source>Create new alias</source>
@@ -679,7 +679,7 @@
     </message>
     <message>
         <source>The alias file could not be read whole (%1). Keep it as it is under another name, and write what the table holds in its place?</source>
-        <translation>Le fichier d&apos;alias n&apos;a pas pu être lu en entier (%1). Faut-il le garder tel quel sous un autre nom et écrire à sa place le contenu du tableau ?</translation>
+        <translation>Le fichier d&apos;alias n&apos;a pas pu être lu en entier (%1). Faut-il le garder tel quel sous un autre nom et écrire à sa place le contenu du tableau&#xa0;?</translation>
     </message>
     <message>
         <source>What %1 held before is in %2.</source>
@@ -691,11 +691,11 @@
     </message>
     <message>
         <source>Are you sure you want to remove this alias for %1?</source>
-        <translation>Voulez-vous vraiment supprimer cet alias de %1 ?</translation>
+        <translation>Voulez-vous vraiment supprimer cet alias de %1&#xa0;?</translation>
     </message>
     <message>
         <source>Are you sure you want to delete all alias?</source>
-        <translation>Voulez-vous vraiment supprimer tous les alias ?</translation>
+        <translation>Voulez-vous vraiment supprimer tous les alias&#xa0;?</translation>
     </message>
     <message>
         <source>The alias file has been saved.</source>
@@ -750,7 +750,7 @@
     </message>
     <message>
         <source>Text:</source>
-        <translation>Texte :</translation>
+        <translation>Texte&#xa0;:</translation>
     </message>
     <message>
         <source>This is a sample text for kora</source>
@@ -869,7 +869,7 @@
     </message>
     <message>
         <source>%1 already exists. Do you want to replace it?</source>
-        <translation>%1 existe déjà. Voulez-vous le remplacer ?</translation>
+        <translation>%1 existe déjà. Voulez-vous le remplacer&#xa0;?</translation>
     </message>
 </context>
 <context>
@@ -884,19 +884,19 @@
     </message>
     <message>
         <source>&amp;Name:</source>
-        <translation>&amp;Nom :</translation>
+        <translation>&amp;Nom&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;E-mail address: </source>
-        <translation>Adresse &amp;e-mail : </translation>
+        <translation>Adresse &amp;e-mail&#xa0;: </translation>
     </message>
     <message>
         <source>&amp;Phone number: </source>
-        <translation>&amp;Téléphone : </translation>
+        <translation>&amp;Téléphone&#xa0;: </translation>
     </message>
     <message>
         <source>&amp;Issue description: </source>
-        <translation>&amp;Description du problème : </translation>
+        <translation>&amp;Description du problème&#xa0;: </translation>
     </message>
     <message>
         <source>Steps to Reproduce the Issue</source>
@@ -935,7 +935,7 @@
     </message>
     <message>
         <source>&amp;Variable type:</source>
-        <translation>&amp;Type de variable :</translation>
+        <translation>&amp;Type de variable&#xa0;:</translation>
     </message>
     <message>
         <source>Select a system variable</source>
@@ -1053,11 +1053,11 @@
     </message>
     <message>
         <source>&amp;Find what:</source>
-        <translation>&amp;Rechercher :</translation>
+        <translation>&amp;Rechercher&#xa0;:</translation>
     </message>
     <message>
         <source>R&amp;eplace with:</source>
-        <translation>Re&amp;mplacer par :</translation>
+        <translation>Re&amp;mplacer par&#xa0;:</translation>
     </message>
     <message>
         <source>Replace coincidences with specified string</source>
@@ -1124,7 +1124,7 @@
     </message>
     <message>
         <source>&amp;File to import:</source>
-        <translation>&amp;Fichier à importer :</translation>
+        <translation>&amp;Fichier à importer&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Browse...</source>
@@ -1199,7 +1199,7 @@
     </message>
     <message>
         <source>&amp;Folder:</source>
-        <translation>&amp;Dossier :</translation>
+        <translation>&amp;Dossier&#xa0;:</translation>
     </message>
     <message>
         <source>Browse a folder containing lisp files</source>
@@ -1211,11 +1211,11 @@
     </message>
     <message>
         <source>Files:</source>
-        <translation>Fichiers :</translation>
+        <translation>Fichiers&#xa0;:</translation>
     </message>
     <message>
         <source>Functions:</source>
-        <translation>Fonctions :</translation>
+        <translation>Fonctions&#xa0;:</translation>
     </message>
     <message>
         <source>Loads this function</source>
@@ -1227,7 +1227,7 @@
     </message>
     <message>
         <source>&amp;Display as:</source>
-        <translation>&amp;Afficher :</translation>
+        <translation>&amp;Afficher&#xa0;:</translation>
     </message>
     <message>
         <source>Filter the function content</source>
@@ -1235,7 +1235,7 @@
     </message>
     <message>
         <source>&amp;Search:</source>
-        <translation>&amp;Rechercher :</translation>
+        <translation>&amp;Rechercher&#xa0;:</translation>
     </message>
     <message>
         <source>Search</source>
@@ -1346,11 +1346,11 @@
     </message>
     <message>
         <source>&amp;Name:</source>
-        <translation>&amp;Nom :</translation>
+        <translation>&amp;Nom&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Description:</source>
-        <translation>&amp;Description :</translation>
+        <translation>&amp;Description&#xa0;:</translation>
     </message>
     <message>
         <source>OK</source>
@@ -1402,7 +1402,7 @@
     </message>
     <message>
         <source>Linestyle already exists, you want to replace it?</source>
-        <translation>Ce type de ligne existe déjà. Voulez-vous le remplacer ?</translation>
+        <translation>Ce type de ligne existe déjà. Voulez-vous le remplacer&#xa0;?</translation>
     </message>
 </context>
 <context>
@@ -1429,7 +1429,7 @@
     </message>
     <message>
         <source>&amp;Name:</source>
-        <translation>&amp;Nom :</translation>
+        <translation>&amp;Nom&#xa0;:</translation>
     </message>
     <message>
         <source>shapeName</source>
@@ -1437,7 +1437,7 @@
     </message>
     <message>
         <source>&amp;Resolution value:</source>
-        <translation>&amp;Résolution :</translation>
+        <translation>&amp;Résolution&#xa0;:</translation>
     </message>
     <message>
         <source>OK</source>
@@ -1481,7 +1481,7 @@
     </message>
     <message>
         <source>Shape already exists, you want to replace it?</source>
-        <translation>Cette forme existe déjà. Voulez-vous la remplacer ?</translation>
+        <translation>Cette forme existe déjà. Voulez-vous la remplacer&#xa0;?</translation>
     </message>
 </context>
 <context>
@@ -1536,7 +1536,7 @@
     </message>
     <message>
         <source>&amp;Prefix:</source>
-        <translation>&amp;Préfixe :</translation>
+        <translation>&amp;Préfixe&#xa0;:</translation>
     </message>
     <message>
         <source>Stands in front of the name of each sheet</source>
@@ -1560,7 +1560,7 @@
     </message>
     <message>
         <source>Ne&amp;w drawing:</source>
-        <translation>Nou&amp;veau dessin :</translation>
+        <translation>Nou&amp;veau dessin&#xa0;:</translation>
     </message>
     <message>
         <source>Br&amp;owse...</source>
@@ -1572,7 +1572,7 @@
     </message>
     <message>
         <source>&amp;Name:</source>
-        <translation>&amp;Nom :</translation>
+        <translation>&amp;Nom&#xa0;:</translation>
     </message>
     <message>
         <source>Save favorite</source>
@@ -1687,19 +1687,19 @@
     </message>
     <message>
         <source>X:</source>
-        <translation>X :</translation>
+        <translation>X&#xa0;:</translation>
     </message>
     <message>
         <source>Y:</source>
-        <translation>Y :</translation>
+        <translation>Y&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Units:</source>
-        <translation>&amp;Unités :</translation>
+        <translation>&amp;Unités&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Layer:</source>
-        <translation>Cal&amp;que :</translation>
+        <translation>Cal&amp;que&#xa0;:</translation>
     </message>
     <message>
         <source>Layer</source>
@@ -1707,7 +1707,7 @@
     </message>
     <message>
         <source>&amp;Remove entities in same paper space:</source>
-        <translation>Supp&amp;rimer les objets de l&apos;espace papier :</translation>
+        <translation>Supp&amp;rimer les objets de l&apos;espace papier&#xa0;:</translation>
     </message>
     <message>
         <source>I&amp;nsert as external reference</source>
@@ -1735,15 +1735,15 @@
     </message>
     <message>
         <source>Array:</source>
-        <translation>Réseau :</translation>
+        <translation>Réseau&#xa0;:</translation>
     </message>
     <message>
         <source>Number of &amp;rows:</source>
-        <translation>Nombre de &amp;rangées :</translation>
+        <translation>Nombre de &amp;rangées&#xa0;:</translation>
     </message>
     <message>
         <source>Number of &amp;columns:</source>
-        <translation>Nombre de colo&amp;nnes :</translation>
+        <translation>Nombre de colo&amp;nnes&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Delete viewports</source>
@@ -1759,7 +1759,7 @@
     </message>
     <message>
         <source>Alignment format:</source>
-        <translation>Alignement :</translation>
+        <translation>Alignement&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Horizontal</source>
@@ -1779,11 +1779,11 @@
     </message>
     <message>
         <source>Escalar viewports:</source>
-        <translation>Mise à l&apos;échelle des fenêtres :</translation>
+        <translation>Mise à l&apos;échelle des fenêtres&#xa0;:</translation>
     </message>
     <message>
         <source>Scale of viewports:</source>
-        <translation>Échelle des fenêtres :</translation>
+        <translation>Échelle des fenêtres&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Model</source>
@@ -1803,7 +1803,7 @@
     </message>
     <message>
         <source>Units:</source>
-        <translation>Unités :</translation>
+        <translation>Unités&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Scientific</source>
@@ -1827,23 +1827,23 @@
     </message>
     <message>
         <source>Size:</source>
-        <translation>Taille :</translation>
+        <translation>Taille&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Width: </source>
-        <translation>&amp;Largeur : </translation>
+        <translation>&amp;Largeur&#xa0;: </translation>
     </message>
     <message>
         <source>&amp;Height:</source>
-        <translation>&amp;Hauteur :</translation>
+        <translation>&amp;Hauteur&#xa0;:</translation>
     </message>
     <message>
         <source>Scale:</source>
-        <translation>Échelle :</translation>
+        <translation>Échelle&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Scale Factor:</source>
-        <translation>&amp;Facteur d&apos;échelle :</translation>
+        <translation>&amp;Facteur d&apos;échelle&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Create Title Block</source>
@@ -1942,7 +1942,7 @@
     </message>
     <message>
         <source>&amp;Filter by:</source>
-        <translation>&amp;Filtrer par :</translation>
+        <translation>&amp;Filtrer par&#xa0;:</translation>
     </message>
     <message>
         <source>Select &amp;all</source>
@@ -1954,11 +1954,11 @@
     </message>
     <message>
         <source>&amp;Find what:</source>
-        <translation>&amp;Rechercher :</translation>
+        <translation>&amp;Rechercher&#xa0;:</translation>
     </message>
     <message>
         <source>R&amp;eplace with:</source>
-        <translation>Re&amp;mplacer par :</translation>
+        <translation>Re&amp;mplacer par&#xa0;:</translation>
     </message>
     <message>
         <source>Replace coincidences with specified string</source>
@@ -2174,11 +2174,11 @@
     </message>
     <message>
         <source>&amp;Find what:</source>
-        <translation>&amp;Rechercher :</translation>
+        <translation>&amp;Rechercher&#xa0;:</translation>
     </message>
     <message>
         <source>R&amp;eplace with:</source>
-        <translation>Re&amp;mplacer par :</translation>
+        <translation>Re&amp;mplacer par&#xa0;:</translation>
     </message>
     <message>
         <source>Replace coincidences with specified string</source>
@@ -2234,7 +2234,7 @@
     </message>
     <message>
         <source>Open this link?</source>
-        <translation>Ouvrir ce lien ?</translation>
+        <translation>Ouvrir ce lien&#xa0;?</translation>
     </message>
     <message>
         <source>It is a program, or starts one.</source>
@@ -2262,7 +2262,7 @@
     </message>
     <message>
         <source>Remove urls for selected items?</source>
-        <translation>Supprimer les URL des éléments sélectionnés ?</translation>
+        <translation>Supprimer les URL des éléments sélectionnés&#xa0;?</translation>
     </message>
     <message>
         <source>Sorting...</source>
@@ -2337,7 +2337,7 @@
     </message>
     <message>
         <source>&amp;Color:</source>
-        <translation>&amp;Couleur :</translation>
+        <translation>&amp;Couleur&#xa0;:</translation>
     </message>
     <message>
         <source>OK</source>
@@ -2388,7 +2388,7 @@
     </message>
     <message>
         <source>&amp;Color:</source>
-        <translation>&amp;Couleur :</translation>
+        <translation>&amp;Couleur&#xa0;:</translation>
     </message>
     <message>
         <source>OK</source>
@@ -2423,7 +2423,7 @@
     </message>
     <message>
         <source>Fo&amp;lder:</source>
-        <translation>&amp;Dossier :</translation>
+        <translation>&amp;Dossier&#xa0;:</translation>
     </message>
     <message>
         <source>Selects the folder of the drawings</source>
@@ -2447,7 +2447,7 @@
     </message>
     <message>
         <source>Fa&amp;vorites:</source>
-        <translation>Fa&amp;voris :</translation>
+        <translation>Fa&amp;voris&#xa0;:</translation>
     </message>
     <message>
         <source>Save favorite</source>
@@ -2471,11 +2471,11 @@
     </message>
     <message>
         <source>F&amp;ilter:</source>
-        <translation>&amp;Filtre :</translation>
+        <translation>&amp;Filtre&#xa0;:</translation>
     </message>
     <message>
         <source>Shows only drawings with this in their name; regular expressions are allowed</source>
-        <translation>N&apos;affiche que les dessins dont le nom contient ceci ; les expressions régulières sont permises</translation>
+        <translation>N&apos;affiche que les dessins dont le nom contient ceci&#xa0;; les expressions régulières sont permises</translation>
     </message>
     <message>
         <source>Writes the table to a text file</source>
@@ -2507,11 +2507,11 @@
     </message>
     <message>
         <source>Idle limit (mi&amp;n):</source>
-        <translation>Inactivité &amp;max. (min) :</translation>
+        <translation>Inactivité &amp;max. (min)&#xa0;:</translation>
     </message>
     <message>
         <source>Longer pauses are not counted; with 0 every pause is</source>
-        <translation>Les pauses plus longues ne sont pas comptées ; avec 0, toutes le sont</translation>
+        <translation>Les pauses plus longues ne sont pas comptées&#xa0;; avec 0, toutes le sont</translation>
     </message>
     <message>
         <source>Gives the selected drawings this idle limit</source>
@@ -2547,7 +2547,7 @@
     </message>
     <message>
         <source>The changes have not been written yet. Do you want to discard them?</source>
-        <translation>Les modifications n&apos;ont pas encore été écrites. Voulez-vous les abandonner ?</translation>
+        <translation>Les modifications n&apos;ont pas encore été écrites. Voulez-vous les abandonner&#xa0;?</translation>
     </message>
     <message>
         <source>Looking for drawings...</source>
@@ -2579,15 +2579,15 @@
     </message>
     <message>
         <source>, open (bold): %1</source>
-        <translation>, ouverts (en gras) : %1</translation>
+        <translation>, ouverts (en gras)&#xa0;: %1</translation>
     </message>
     <message>
         <source>Total: %1 h. Drawings: %2%3</source>
-        <translation>Total : %1 h. Dessins : %2%3</translation>
+        <translation>Total&#xa0;: %1 h. Dessins&#xa0;: %2%3</translation>
     </message>
     <message>
         <source>Are you sure you want to set the editing time of the selected drawings to 0?</source>
-        <translation>Voulez-vous vraiment remettre à 0 le temps d&apos;édition des dessins sélectionnés ?</translation>
+        <translation>Voulez-vous vraiment remettre à 0 le temps d&apos;édition des dessins sélectionnés&#xa0;?</translation>
     </message>
     <message>
         <source>Export editing time</source>
@@ -2599,7 +2599,7 @@
     </message>
     <message>
         <source>The file could not be written: %1</source>
-        <translation>Le fichier n&apos;a pas pu être écrit : %1</translation>
+        <translation>Le fichier n&apos;a pas pu être écrit&#xa0;: %1</translation>
     </message>
     <message>
         <source>Writing the drawings...</source>
@@ -2662,15 +2662,15 @@
     </message>
     <message>
         <source>Initial &amp;value:</source>
-        <translation>&amp;Valeur initiale :</translation>
+        <translation>&amp;Valeur initiale&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Increment:</source>
-        <translation>&amp;Incrément :</translation>
+        <translation>&amp;Incrément&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Digits:</source>
-        <translation>C&amp;hiffres :</translation>
+        <translation>C&amp;hiffres&#xa0;:</translation>
     </message>
     <message>
         <source>Text Format</source>
@@ -2710,11 +2710,11 @@
     </message>
     <message>
         <source>&amp;Find what:</source>
-        <translation>&amp;Rechercher :</translation>
+        <translation>&amp;Rechercher&#xa0;:</translation>
     </message>
     <message>
         <source>Replace with:</source>
-        <translation>Remplacer par :</translation>
+        <translation>Remplacer par&#xa0;:</translation>
     </message>
     <message>
         <source>OK</source>
@@ -2783,7 +2783,7 @@
         <source>
 Settings saved to: </source>
         <translation>
-Paramètres enregistrés dans : </translation>
+Paramètres enregistrés dans&#xa0;: </translation>
     </message>
     <message>
         <source> successfully.</source>
@@ -2795,7 +2795,7 @@ Paramètres enregistrés dans : </translation>
     </message>
     <message>
         <source>%1 could not be written: %2.</source>
-        <translation>%1 n&apos;a pas pu être écrit : %2.</translation>
+        <translation>%1 n&apos;a pas pu être écrit&#xa0;: %2.</translation>
     </message>
     <message>
         <source>The document could not be printed.</source>
@@ -2815,7 +2815,7 @@ Paramètres enregistrés dans : </translation>
     </message>
     <message>
         <source>Error: Xref contains circular reference</source>
-        <translation>Erreur : la référence externe contient une référence circulaire</translation>
+        <translation>Erreur&#xa0;: la référence externe contient une référence circulaire</translation>
     </message>
     <message>
         <source>Select folder</source>
@@ -2827,11 +2827,11 @@ Paramètres enregistrés dans : </translation>
     </message>
     <message>
         <source>The following characters are not valid in File names: &lt;&gt;/\&quot;:;?*|,=&apos;</source>
-        <translation>Ces caractères ne sont pas permis dans les noms de fichiers : &lt;&gt;/\&quot;:;?*|,=&apos;</translation>
+        <translation>Ces caractères ne sont pas permis dans les noms de fichiers&#xa0;: &lt;&gt;/\&quot;:;?*|,=&apos;</translation>
     </message>
     <message>
         <source>Drawing symbol &quot;%1&quot; already exists. Do you want to replace it?</source>
-        <translation>Le symbole de dessin &quot;%1&quot; existe déjà. Voulez-vous le remplacer ?</translation>
+        <translation>Le symbole de dessin &quot;%1&quot; existe déjà. Voulez-vous le remplacer&#xa0;?</translation>
     </message>
     <message>
         <source>Path can`t be empty</source>
@@ -2856,6 +2856,114 @@ Paramètres enregistrés dans : </translation>
     <message>
         <source>Cancel</source>
         <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>%1: the drawing has no room for an editing time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: the drawing is not open any more</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A tag or text of the file is too long.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An element of the file has too many attributes.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter to %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Entities that this drawing cannot hold and that were left out: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Error reading alias file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Favorite &quot;%1&quot; already exists. Do you want to replace it?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Favorite name is required.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Favorites</source>
+        <translation type="unfinished">Favoris</translation>
+    </message>
+    <message>
+        <source>No file name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select object</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify folder</source>
+        <translation type="unfinished">Spécifier un dossier</translation>
+    </message>
+    <message>
+        <source>Specify new path for Backup folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify option</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify second point</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The drawing has its own, which stays as it is: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The entities of the file expand to too much text.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There are too many copies of it already.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no block &quot;%1&quot; in %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a invalid directory.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+%1 could not be moved.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Nothing is there.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+This %1 is not what is asked for.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+This is a %1; asked for is %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>line %1: %2</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>

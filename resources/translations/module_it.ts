@@ -2856,6 +2856,114 @@ Settings saved to: </source>
         <source>Cancel</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>%1: the drawing has no room for an editing time</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: the drawing is not open any more</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A tag or text of the file is too long.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>An element of the file has too many attributes.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter to %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Entities that this drawing cannot hold and that were left out: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Error reading alias file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Favorite &quot;%1&quot; already exists. Do you want to replace it?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Favorite name is required.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Favorites</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No file name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Select object</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify new path for Backup folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify option</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Specify second point</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The drawing has its own, which stays as it is: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The entities of the file expand to too much text.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There are too many copies of it already.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no block &quot;%1&quot; in %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is a invalid directory.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+%1 could not be moved.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+Nothing is there.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+This %1 is not what is asked for.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>
+This is a %1; asked for is %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>line %1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>StyleTables</name>

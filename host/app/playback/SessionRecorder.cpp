@@ -3,6 +3,7 @@
 #include "files/qt/Files.h"
 #include "host/app/playback/PlaybackLine.h"
 #include "host/kernel/documents/Session.h"
+#include "host/kernel/input/Keywords.h"
 #include "host/kernel/input/Picker.h"
 
 #include <QDir>
@@ -52,6 +53,16 @@ QString withoutPlace(const QString &error)
 {
     static const QRegularExpression place(u" (in )?\\(.*"_s, QRegularExpression::DotMatchesEverythingOption);
     return QString(error).remove(place);
+}
+
+/// A keyword of the language as the program is told it, which every language takes.
+QString lineForText(const kernel::PromptRequest &request, const QString &text)
+{
+    if (text.isEmpty())
+        return u"enter"_s;
+    const std::optional<QString> keyword =
+        request.answers.isEmpty() ? std::nullopt : kernel::keywordFor(request, text.trimmed());
+    return u"answer "_s + sessionWord(keyword ? u'_' + *keyword : text);
 }
 
 } // namespace
@@ -194,7 +205,7 @@ void SessionRecorder::addChosen()
 QString SessionRecorder::lineFor(const kernel::PromptRequest &request, const kernel::InputAnswer &answer)
 {
     if (const auto *text = std::get_if<kernel::TextAnswer>(&answer))
-        return text->text.isEmpty() ? u"enter"_s : u"answer "_s + sessionWord(text->text);
+        return lineForText(request, text->text);
     if (const auto *point = std::get_if<kernel::PointAnswer>(&answer))
         return lineForPoint(request, *point);
     if (const auto *entity = std::get_if<kernel::EntityAnswer>(&answer))

@@ -5,6 +5,7 @@
 #include "host/app/window/entry/CommandRunner.h"
 #include "host/app/window/frame/CommandPalette.h"
 #include "host/app/workbench/Suggestions.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/running/CommandTable.h"
 #include "host/kernel/variables/SystemVariables.h"
 #include "host/kernel/variables/VariableHelp.h"
@@ -87,11 +88,12 @@ void MainWindow::addLines(QList<PaletteRow> &rows)
                      .run = [this, name] { m_runner->start(name); }});
     };
     for (const kernel::CommandRow &row : kernel::CommandTable::all())
-        add(QString::fromLatin1(row.name), QString::fromUtf8(row.help), row.interrupts == kernel::Interrupts::Prompts);
+        add(QString::fromLatin1(row.name), kernel::HelpLines::tr(row.help),
+            row.interrupts == kernel::Interrupts::Prompts);
     for (const QString &name : programCommands(*document()))
         add(name, tr("command of a program"), false);
     for (const QString &name : document()->variables().names())
-        add(name, tr("system variable: %1").arg(QString::fromLatin1(kernel::variableHelp(name))), true);
+        add(name, tr("system variable: %1").arg(kernel::HelpLines::tr(kernel::variableHelp(name))), true);
 }
 
 void MainWindow::toggleLongHistory()

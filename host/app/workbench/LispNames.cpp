@@ -1,6 +1,7 @@
 #include "host/app/workbench/LispNames.h"
 
 #include "host/kernel/documents/Document.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/running/CommandTable.h"
 #include "host/kernel/variables/SystemVariables.h"
 #include "host/kernel/variables/VariableHelp.h"
@@ -187,9 +188,9 @@ QString helpOnName(kernel::Document &document, const QString &name)
     const QString upper = name.trimmed().toUpper();
     QString text = functionHelp(document, upper);
     if (const kernel::CommandRow *command = kernel::CommandTable::find(upper); command && !upper.isEmpty())
-        text += u"command %1\n  %2\n"_s.arg(QString::fromLatin1(command->name), QString::fromUtf8(command->help));
+        text += u"command %1\n  %2\n"_s.arg(QString::fromLatin1(command->name), kernel::HelpLines::tr(command->help));
     if (document.variables().names().contains(upper))
-        text += u"system variable %1\n  %2\n"_s.arg(upper, QString::fromLatin1(kernel::variableHelp(upper)));
+        text += u"system variable %1\n  %2\n"_s.arg(upper, kernel::HelpLines::tr(kernel::variableHelp(upper)));
     return text;
 }
 

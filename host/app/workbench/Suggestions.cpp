@@ -3,6 +3,7 @@
 #include "host/app/workbench/LispNames.h"
 #include "host/kernel/documents/Document.h"
 #include "host/kernel/documents/Session.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/running/CommandTable.h"
 #include "host/kernel/variables/SystemVariables.h"
 #include "host/kernel/variables/VariableHelp.h"
@@ -37,7 +38,7 @@ qsizetype prefixLength(const QString &typed)
 QString commandHelp(const QString &name)
 {
     const kernel::CommandRow *row = kernel::CommandTable::find(name);
-    return row ? QString::fromUtf8(row->help) : QString();
+    return row ? kernel::HelpLines::tr(row->help) : QString();
 }
 
 /// All names of one place that begin alike.
@@ -107,7 +108,7 @@ private:
         case Kind::Program:
             return QCoreApplication::translate("Suggestions", "command of a program");
         case Kind::Variable:
-            return QString::fromLatin1(kernel::variableHelp(found.name));
+            return kernel::HelpLines::tr(kernel::variableHelp(found.name));
         case Kind::Alias:
             break;
         }

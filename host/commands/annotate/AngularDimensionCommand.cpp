@@ -3,6 +3,7 @@
 #include "host/commands/annotate/MeasuredObject.h"
 #include "host/drawing/annotation/DimensionData.h"
 #include "host/kernel/documents/Document.h"
+#include "host/kernel/languages/Texts.h"
 
 using namespace Qt::StringLiterals;
 
@@ -26,16 +27,18 @@ struct MeasuredAngle
 
 Dialogue<MeasuredAngle> askThreePointAngle(CommandContext &context)
 {
-    const PromptReply vertex = co_await context.neededPoint(u"Specify angle vertex: "_s);
-    const PromptReply first = co_await context.neededPoint(u"Specify first angle endpoint: "_s, vertex.point);
-    const PromptReply second = co_await context.neededPoint(u"Specify second angle endpoint: "_s, vertex.point);
+    const PromptReply vertex = co_await context.neededPoint(Commands::tr("Specify angle vertex: "));
+    const PromptReply first =
+        co_await context.neededPoint(Commands::tr("Specify first angle endpoint: "), vertex.point);
+    const PromptReply second =
+        co_await context.neededPoint(Commands::tr("Specify second angle endpoint: "), vertex.point);
     co_return MeasuredAngle{.first = first.point, .second = second.point, .vertex = vertex.point};
 }
 
 Dialogue<std::optional<MeasuredAngle>> askSecondLine(CommandContext &context, MeasuredObject first)
 {
     for (;;) {
-        const PromptReply picked = co_await context.entity(u"Select second line: "_s);
+        const PromptReply picked = co_await context.entity(Commands::tr("Select second line: "));
         if (picked.entities.empty()) {
             if (!picked.isMiss)
                 co_return std::nullopt;
@@ -50,7 +53,8 @@ Dialogue<std::optional<MeasuredAngle>> askSecondLine(CommandContext &context, Me
                                     .second = first.second,
                                     .vertex = line->first,
                                     .secondEnd = line->second};
-        if (context.refuse(isLine ? u"Lines are parallel."_s : u"Object selected is not a line."_s))
+        if (context.refuse(isLine ? Commands::tr("Lines are parallel.")
+                                  : Commands::tr("Object selected is not a line.")))
             co_return std::nullopt;
     }
 }
@@ -58,7 +62,8 @@ Dialogue<std::optional<MeasuredAngle>> askSecondLine(CommandContext &context, Me
 Dialogue<std::optional<MeasuredAngle>> askAngle(CommandContext &context)
 {
     for (;;) {
-        const PromptReply picked = co_await context.entity(u"Select arc, circle, line, or <specify vertex>: "_s);
+        const PromptReply picked =
+            co_await context.entity(Commands::tr("Select arc, circle, line, or <specify vertex>: "));
         if (picked.isMiss)
             continue;
         if (picked.entities.empty())
@@ -68,12 +73,12 @@ Dialogue<std::optional<MeasuredAngle>> askAngle(CommandContext &context)
             co_return co_await askSecondLine(context, *object);
         if (object && object->isCircle) {
             const PromptReply second =
-                co_await context.neededPoint(u"Specify second angle endpoint: "_s, object->center);
+                co_await context.neededPoint(Commands::tr("Specify second angle endpoint: "), object->center);
             co_return MeasuredAngle{.first = picked.point, .second = second.point, .vertex = object->center};
         }
         if (object)
             co_return MeasuredAngle{.first = object->first, .second = object->second, .vertex = object->center};
-        if (context.refuse(u"Object selected is not an arc, circle or line."_s))
+        if (context.refuse(Commands::tr("Object selected is not an arc, circle or line.")))
             co_return std::nullopt;
     }
 }
@@ -112,7 +117,7 @@ double angleAt(const MeasuredAngle &angle, const UserPlane &plane, const Vec3 &p
 Dialogue<bool> askTextLocation(CommandContext &context, FieldList &fields)
 {
     constexpr qint64 movedTextFlag = 128;
-    const PromptReply place = co_await context.point(u"Enter text location (or press ENTER): "_s);
+    const PromptReply place = co_await context.point(Commands::tr("Enter text location (or press ENTER): "));
     if (!place.hasValue())
         co_return false;
     const UserPlane plane(context.document());
@@ -141,12 +146,13 @@ Dialogue<bool> dimensionAngle(CommandContext &context, TextAsked asked)
     std::optional<Vec3> quadrant;
     PromptReply place;
     for (;;) {
-        const LineQuestion question{u"Specify dimension arc line location or [Mtext/Text/Angle/Quadrant]: "_s,
-                                    angle->vertex, context.shownAngle(angleAt(*angle, plane, angle->first))};
+        const LineQuestion question{
+            Commands::tr("Specify dimension arc line location or [Mtext/Text/Angle/Quadrant]: "), angle->vertex,
+            context.shownAngle(angleAt(*angle, plane, angle->first))};
         place = co_await askDimensionLine(context, question, answers);
         if (place.hasValue())
             break;
-        const PromptReply side = co_await context.neededPoint(u"Specify quadrant: "_s);
+        const PromptReply side = co_await context.neededPoint(Commands::tr("Specify quadrant: "));
         quadrant = side.point;
     }
     // The arc is where the line was wanted, on the side of the quadrant.

@@ -5,6 +5,7 @@
 #include "host/commands/annotate/NewDimension.h"
 #include "host/drawing/math/Angles.h"
 #include "host/kernel/documents/Document.h"
+#include "host/kernel/languages/Texts.h"
 
 #include <cmath>
 
@@ -71,7 +72,7 @@ FlatArc flatArc(const MeasuredObject &object, const UserPlane &plane)
 Dialogue<std::optional<MeasuredObject>> askArcPiece(CommandContext &context)
 {
     for (;;) {
-        const PromptReply picked = co_await context.entity(u"Select arc or polyline arc segment: "_s);
+        const PromptReply picked = co_await context.entity(Commands::tr("Select arc or polyline arc segment: "));
         if (picked.isMiss)
             continue;
         if (picked.entities.empty())
@@ -79,7 +80,7 @@ Dialogue<std::optional<MeasuredObject>> askArcPiece(CommandContext &context)
         const auto object = measuredObject(context.drawing(), picked.entities.front(), picked.point);
         if (object && !object->isStraight() && !object->isCircle)
             co_return object;
-        if (context.refuse(u"Object selected is not an arc or polyline arc segment."_s))
+        if (context.refuse(Commands::tr("Object selected is not an arc or polyline arc segment.")))
             co_return std::nullopt;
     }
 }
@@ -88,12 +89,14 @@ Dialogue<std::optional<MeasuredObject>> askArcPiece(CommandContext &context)
 Dialogue<bool> askPart(CommandContext &context, ArcLength &length)
 {
     const UserPlane plane(context.document());
-    const PromptReply first = co_await context.neededPoint(u"Specify first point for arc length dimension: "_s);
-    const PromptReply second = co_await context.neededPoint(u"Specify second point for arc length dimension: "_s);
+    const PromptReply first =
+        co_await context.neededPoint(Commands::tr("Specify first point for arc length dimension: "));
+    const PromptReply second =
+        co_await context.neededPoint(Commands::tr("Specify second point for arc length dimension: "));
     const double a = length.arc.offsetOf(plane.userFromWorld(first.point));
     const double b = length.arc.offsetOf(plane.userFromWorld(second.point));
     if (a == b) {
-        context.fail(u"The two points are one."_s);
+        context.fail(Commands::tr("The two points are one."));
         co_return false;
     }
     length.arc.start += std::min(a, b);
@@ -110,7 +113,7 @@ Dialogue<std::optional<Vec3>> askArcPlace(CommandContext &context, ArcLength &le
         const bool mayLead = length.arc.sweep > wholeTurn / 4.0;
         const QString leader = !mayLead ? QString() : length.hasLeader ? u"/No leader"_s : u"/Leader"_s;
         const LineQuestion question{
-            u"Specify arc length dimension location, or [Mtext/Text/Angle/Partial%1]: "_s.arg(leader),
+            Commands::tr("Specify arc length dimension location, or [Mtext/Text/Angle/Partial%1]: ").arg(leader),
             {},
             context.shownLength(length.arc.radius * length.arc.sweep)};
         const PromptReply place = co_await askDimensionLine(context, question, answers);
@@ -153,7 +156,7 @@ drawing::FieldList arcLengthFields(const ArcLength &length, const UserPlane &pla
 CommandTask arcLengthDimension(CommandContext &context)
 {
     if (context.drawing().version() < drawing::Version::R2004) {
-        context.fail(u"A drawing of this version has no dimensions of arc lengths: they come with R2004."_s);
+        context.fail(Commands::tr("A drawing of this version has no dimensions of arc lengths: they come with R2004."));
         co_return;
     }
     const std::optional<MeasuredObject> object = co_await askArcPiece(context);

@@ -1,6 +1,7 @@
 #include "host/commands/Commands.h"
 #include "host/commands/annotate/TextPlacement.h"
 #include "host/kernel/documents/Document.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/running/CommandContext.h"
 #include "host/kernel/variables/SystemVariables.h"
 
@@ -39,9 +40,9 @@ Dialogue<qint64> askModes(CommandContext &context)
     SystemVariables &variables = context.document().variables();
     qint64 flags = variables.integer(u"AFLAGS");
     for (;;) {
-        context.print(u"\nCurrent attribute modes:  "_s + modesShown(flags));
+        context.print(Commands::tr("\nCurrent attribute modes:  ") + modesShown(flags));
         const PromptReply option = co_await context.keyword(
-            u"Enter an option to change [Invisible/Constant/Verify/Preset] <done>: "_s, {}, u"done"_s);
+            Commands::tr("Enter an option to change [Invisible/Constant/Verify/Preset] <done>: "), {}, u"done"_s);
         if (!option.hasValue())
             break;
         for (const AttributeMode &mode : attributeModes)
@@ -56,11 +57,11 @@ Dialogue<qint64> askModes(CommandContext &context)
 Dialogue<QString> askTag(CommandContext &context)
 {
     for (;;) {
-        const PromptReply reply = co_await context.text(u"Enter attribute tag name: "_s);
+        const PromptReply reply = co_await context.text(Commands::tr("Enter attribute tag name: "));
         const QString tag = reply.text.trimmed().toUpper();
         if (!tag.isEmpty() && !tag.contains(u' '))
             co_return tag;
-        if (context.refuse(tag.isEmpty() ? u"A tag is needed."_s : u"A tag has no blanks."_s))
+        if (context.refuse(tag.isEmpty() ? Commands::tr("A tag is needed.") : Commands::tr("A tag has no blanks.")))
             co_return QString();
     }
 }
@@ -75,10 +76,11 @@ CommandTask defineAttribute(CommandContext &context)
     const bool isConstant = (flags & constantFlag) != 0;
     QString prompt;
     if (!isConstant) {
-        const PromptReply reply = co_await context.text(u"Enter attribute prompt: "_s);
+        const PromptReply reply = co_await context.text(Commands::tr("Enter attribute prompt: "));
         prompt = reply.hasValue() && !reply.text.isEmpty() ? reply.text : tag;
     }
-    const QString question = isConstant ? u"Enter attribute value: "_s : u"Enter default attribute value: "_s;
+    const QString question =
+        isConstant ? Commands::tr("Enter attribute value: ") : Commands::tr("Enter default attribute value: ");
     const PromptReply value = co_await context.text(question);
     const std::optional<TextPlace> start = co_await askTextStart(context);
     if (!start)

@@ -6,6 +6,7 @@
 #include "host/drawing/editing/TextContent.h"
 #include "host/kernel/documents/Document.h"
 #include "host/kernel/documents/TextSizes.h"
+#include "host/kernel/languages/Texts.h"
 
 using namespace Qt::StringLiterals;
 
@@ -39,11 +40,11 @@ Dialogue<QString> askContent(CommandContext &context, QString question, QString 
 Dialogue<QString> askDefinitionTag(CommandContext &context, QString present)
 {
     for (;;) {
-        const QString tag = co_await askContent(context, u"Enter attribute tag name"_s, present);
+        const QString tag = co_await askContent(context, Commands::tr("Enter attribute tag name"), present);
         const QString plain = tag == present ? tag : tag.trimmed().toUpper();
         if (plain == present || (!plain.isEmpty() && !plain.contains(u' ')))
             co_return plain;
-        if (context.refuse(u"A tag has no blanks."_s))
+        if (context.refuse(Commands::tr("A tag has no blanks.")))
             co_return present;
     }
 }
@@ -53,9 +54,10 @@ Dialogue<bool> editDefinition(CommandContext &context, RecordId definition)
 {
     const drawing::TagList tags = context.drawing().tags(definition);
     const QString tag = co_await askDefinitionTag(context, tags.text(2));
-    const QString prompt = co_await askContent(context, u"Enter attribute prompt"_s, tags.text(3));
+    const QString prompt = co_await askContent(context, Commands::tr("Enter attribute prompt"), tags.text(3));
     const QString present = drawing::contentOf(context.drawing(), definition);
-    const QString value = co_await askContent(context, u"Enter default attribute value, . for none"_s, present);
+    const QString value =
+        co_await askContent(context, Commands::tr("Enter default attribute value, . for none"), present);
     FieldList fields = context.drawing().fields(definition);
     if (value != present)
         fields = drawing::withContent(std::move(fields), value == u"." ? QString() : value);
@@ -71,7 +73,7 @@ Dialogue<bool> editContent(CommandContext &context, RecordId entity)
     if (drawing::contentKind(context.drawing(), entity) == ContentKind::Definition)
         co_return co_await editDefinition(context, entity);
     const QString present = drawing::contentOf(context.drawing(), entity);
-    const QString content = co_await askContent(context, u"Enter text"_s, present);
+    const QString content = co_await askContent(context, Commands::tr("Enter text"), present);
     if (content != present)
         changeFields(context, entity, drawing::withContent(context.drawing().fields(entity), content));
     co_return true;
@@ -81,14 +83,14 @@ Dialogue<bool> editContent(CommandContext &context, RecordId entity)
 CommandTask editText(CommandContext &context)
 {
     for (;;) {
-        const PromptReply picked = co_await context.entity(u"Select an annotation object: "_s);
+        const PromptReply picked = co_await context.entity(Commands::tr("Select an annotation object: "));
         if (picked.entities.empty() && !picked.isMiss)
             co_return;
         if (picked.entities.empty())
             continue;
         const RecordId entity = picked.entities.front();
         if (drawing::contentKind(context.drawing(), entity) == ContentKind::None) {
-            if (context.refuse(u"Requires a text."_s))
+            if (context.refuse(Commands::tr("Requires a text.")))
                 co_return;
             continue;
         }

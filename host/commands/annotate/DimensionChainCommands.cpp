@@ -8,6 +8,7 @@
 #include "host/drawing/records/Tables.h"
 #include "host/kernel/documents/CurrentSpace.h"
 #include "host/kernel/documents/Document.h"
+#include "host/kernel/languages/Texts.h"
 
 #include <algorithm>
 #include <numbers>
@@ -83,7 +84,8 @@ std::optional<ChainLink> lastLink(CommandContext &context)
 /// Asks for a dimension; the extension line that is nearer to the pick is the one to go on from.
 Dialogue<std::optional<ChainLink>> selectLink(CommandContext &context, Chain chain)
 {
-    const QString prompt = chain == Chain::Continued ? u"Select continued dimension: "_s : u"Select base dimension: "_s;
+    const QString prompt = chain == Chain::Continued ? Commands::tr("Select continued dimension: ")
+                                                     : Commands::tr("Select base dimension: ");
     for (;;) {
         const PromptReply picked = co_await context.entity(prompt);
         if (picked.isMiss)
@@ -99,7 +101,7 @@ Dialogue<std::optional<ChainLink>> selectLink(CommandContext &context, Chain cha
                 link.isAtFirst = !link.isAtFirst;
             co_return link;
         }
-        if (context.refuse(u"Linear, ordinate, or angular associative dimension required."_s))
+        if (context.refuse(Commands::tr("Linear, ordinate, or angular associative dimension required.")))
             co_return std::nullopt;
     }
 }
@@ -221,7 +223,7 @@ bool addToChain(CommandContext &context, ChainLink &link, Chain chain, const Vec
 void undoInChain(CommandContext &context, ChainLink &link, std::vector<ChainStep> &steps)
 {
     if (steps.empty())
-        return context.print(u"\nAll dimensions of the command are undone."_s);
+        return context.print(Commands::tr("\nAll dimensions of the command are undone."));
     const QString block = context.drawing().tags(steps.back().made).text(2);
     context.drawing().setErased(steps.back().made, true);
     if (const RecordId picture = context.drawing().blocks().find(block); isValid(picture))
@@ -238,9 +240,10 @@ Dialogue<bool> askChain(CommandContext &context, Chain chain)
     std::vector<ChainStep> steps;
     while (link) {
         const bool isOrdinate = link->data.kind == DimensionKind::Ordinate;
-        const QString what = isOrdinate ? u"feature location"_s : u"second extension line origin"_s;
-        const PromptReply next =
-            co_await context.point(u"Specify %1 or [Select/Undo] <Select>: "_s.arg(what), {}, {}, u"Select"_s);
+        const QString prompt = isOrdinate
+                                   ? Commands::tr("Specify feature location or [Select/Undo] <Select>: ")
+                                   : Commands::tr("Specify second extension line origin or [Select/Undo] <Select>: ");
+        const PromptReply next = co_await context.point(prompt, {}, {}, u"Select"_s);
         if (next.isKeyword(u"Undo"))
             undoInChain(context, *link, steps);
         else if (!next.hasValue())
@@ -279,8 +282,8 @@ Dialogue<bool> dimensionOn(CommandContext &context, Chain chain)
         link = co_await selectLink(context, chain);
     PromptReply next;
     while (link) {
-        next = co_await context.point(u"Specify a second extension line origin or [Select] <Select>: "_s, {}, {},
-                                      u"Select"_s);
+        next = co_await context.point(Commands::tr("Specify a second extension line origin or [Select] <Select>: "), {},
+                                      {}, u"Select"_s);
         if (next.hasValue())
             break;
         link = co_await selectLink(context, chain);

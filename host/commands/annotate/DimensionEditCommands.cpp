@@ -7,6 +7,7 @@
 #include "host/drawing/records/Tables.h"
 #include "host/kernel/documents/Document.h"
 #include "host/kernel/input/Units.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/variables/SystemVariables.h"
 
 #include <numbers>
@@ -65,7 +66,8 @@ void moveTextHome(FieldList &dimension)
 Dialogue<bool> obliqueDimensions(CommandContext &context)
 {
     const PromptReply chosen = co_await context.selection();
-    const PromptReply angle = co_await context.orientation(u"Enter obliquing angle (press ENTER for none): "_s, {}, {});
+    const PromptReply angle =
+        co_await context.orientation(Commands::tr("Enter obliquing angle (press ENTER for none): "), {}, {});
     const UserPlane plane(context.document());
     const double degrees = angle.hasValue() ? plane.objectDegrees(angle.real) : 0.0;
     changeDimensions(context, chosen.entities, [&](FieldList &fields) {
@@ -136,19 +138,20 @@ Dialogue<std::optional<FieldList>> askOverrides(CommandContext &context, QString
     for (QString name = firstName; !name.isEmpty();) {
         const DimensionVariable *variable = drawing::dimensionVariable(name);
         if (!variable || !isOfStyles(*variable)) {
-            if (context.refuse(u"Unknown dimension variable \"%1\"."_s.arg(name)))
+            if (context.refuse(Commands::tr("Unknown dimension variable \"%1\".").arg(name)))
                 co_return std::nullopt;
         } else {
             const QString usual = valueInUse(context, *variable);
             const PromptReply typed =
-                co_await context.text(u"Enter new value for dimension variable <%1>: "_s.arg(usual), usual);
+                co_await context.text(Commands::tr("Enter new value for dimension variable <%1>: ").arg(usual), usual);
             const auto value = typedValue(context, *variable, typed.hasValue() ? typed.text.trimmed() : usual);
             if (value)
                 overrides.push_back(fieldOfStyle(context.drawing(), *variable, *value));
-            else if (context.refuse(u"%1 does not take this value."_s.arg(QLatin1StringView(variable->name))))
+            else if (context.refuse(
+                         Commands::tr("%1 does not take this value.").arg(QLatin1StringView(variable->name))))
                 co_return std::nullopt;
         }
-        const PromptReply next = co_await context.name(u"Enter dimension variable name to override: "_s);
+        const PromptReply next = co_await context.name(Commands::tr("Enter dimension variable name to override: "));
         name = next.text.trimmed();
     }
     co_return overrides;
@@ -166,7 +169,7 @@ VariableValue variableValueOf(const Field &value)
 CommandTask dimensionEdit(CommandContext &context)
 {
     const PromptReply option = co_await context.keyword(
-        u"Enter type of dimension editing [Home/New/Rotate/Oblique] <Home>: "_s, {}, u"Home"_s);
+        Commands::tr("Enter type of dimension editing [Home/New/Rotate/Oblique] <Home>: "), {}, u"Home"_s);
     const QString chosen = option.text.isEmpty() ? u"Home"_s : option.text;
     co_await editDimensions(context, chosen);
 }
@@ -190,7 +193,7 @@ Dialogue<bool> editDimensions(CommandContext &context, QString option)
         co_return co_await obliqueDimensions(context);
     DimensionChange change = moveTextHome;
     if (option == u"New") {
-        const PromptReply text = co_await context.text(u"Enter dimension text <<>>: "_s, u"<>"_s);
+        const PromptReply text = co_await context.text(Commands::tr("Enter dimension text <<>>: "), u"<>"_s);
         const QString wanted = text.hasValue() && text.text != u"<>" ? text.text : QString();
         change = [wanted](FieldList &fields) {
             dropField(fields, 1);
@@ -198,7 +201,7 @@ Dialogue<bool> editDimensions(CommandContext &context, QString option)
                 drawing::setOwnField(fields, 1, wanted);
         };
     } else if (option == u"Rotate") {
-        const PromptReply angle = co_await context.orientation(u"Specify angle for dimension text: "_s);
+        const PromptReply angle = co_await context.orientation(Commands::tr("Specify angle for dimension text: "));
         const double degrees = angle.hasValue() ? UserPlane(context.document()).objectDegrees(angle.real) : 0.0;
         change = [degrees](FieldList &fields) {
             dropField(fields, 53);
@@ -215,15 +218,15 @@ Dialogue<bool> editDimensions(CommandContext &context, QString option)
 Dialogue<bool> placeDimensionText(CommandContext &context)
 {
     const UserPlane plane(context.document());
-    const PromptReply picked = co_await context.entity(u"Select dimension: "_s);
+    const PromptReply picked = co_await context.entity(Commands::tr("Select dimension: "));
     if (picked.entities.empty())
         co_return false;
     if (!isDimension(context.drawing(), picked.entities.front())) {
-        context.fail(u"Object selected is not a dimension."_s);
+        context.fail(Commands::tr("Object selected is not a dimension."));
         co_return false;
     }
-    const PromptReply place =
-        co_await context.neededPoint(u"Specify new location for dimension text or [Left/Right/Center/Home/Angle]: "_s);
+    const PromptReply place = co_await context.neededPoint(
+        Commands::tr("Specify new location for dimension text or [Left/Right/Center/Home/Angle]: "));
     DimensionChange change = moveTextHome;
     if (place.hasValue()) {
         change = [&](FieldList &fields) {
@@ -235,7 +238,7 @@ Dialogue<bool> placeDimensionText(CommandContext &context)
             drawing::setField(fields, 11, at);
         };
     } else if (place.isKeyword(u"Angle")) {
-        const PromptReply angle = co_await context.orientation(u"Specify angle for dimension text: "_s);
+        const PromptReply angle = co_await context.orientation(Commands::tr("Specify angle for dimension text: "));
         const double degrees = angle.hasValue() ? plane.objectDegrees(angle.real) : 0.0;
         change = [degrees](FieldList &fields) { drawing::setOwnField(fields, 53, degrees); };
     } else if (!place.isKeyword(u"Home")) {
@@ -248,8 +251,8 @@ Dialogue<bool> placeDimensionText(CommandContext &context)
 // Variables with values, or Clear, then the dimensions that get them in place of what their style says.
 Dialogue<bool> overrideDimensionVariables(CommandContext &context)
 {
-    const PromptReply first =
-        co_await context.text(u"Enter dimension variable name to override or [Clear overrides]: "_s, {}, u"Clear"_s);
+    const PromptReply first = co_await context.text(
+        Commands::tr("Enter dimension variable name to override or [Clear overrides]: "), {}, u"Clear"_s);
     FieldList overrides;
     const bool isClearing = first.isKeyword(u"Clear");
     if (!isClearing) {
@@ -274,19 +277,19 @@ Dialogue<bool> setDimensionVariable(CommandContext &context, QString name)
 {
     const DimensionVariable *variable = drawing::dimensionVariable(name);
     if (!variable || !isOfStyles(*variable)) {
-        context.refuse(u"Unknown dimension variable \"%1\"."_s.arg(name));
+        context.refuse(Commands::tr("Unknown dimension variable \"%1\".").arg(name));
         co_return false;
     }
     for (;;) {
         const QString usual = valueInUse(context, *variable);
         const PromptReply typed =
-            co_await context.text(u"Enter new value for dimension variable <%1>: "_s.arg(usual), usual);
+            co_await context.text(Commands::tr("Enter new value for dimension variable <%1>: ").arg(usual), usual);
         if (!typed.hasValue() || typed.text.trimmed().isEmpty())
             co_return true;
         const auto value = typedValue(context, *variable, typed.text.trimmed());
         if (value && context.document().variables().set(name, variableValueOf(*value)) == SetOutcome::Done)
             co_return true;
-        if (context.refuse(u"%1 does not take this value."_s.arg(QLatin1StringView(variable->name))))
+        if (context.refuse(Commands::tr("%1 does not take this value.").arg(QLatin1StringView(variable->name))))
             co_return false;
     }
 }

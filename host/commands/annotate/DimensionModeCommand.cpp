@@ -10,6 +10,7 @@
 #include "host/kernel/documents/CurrentSpace.h"
 #include "host/kernel/documents/Document.h"
 #include "host/kernel/input/Keywords.h"
+#include "host/kernel/languages/Texts.h"
 
 using namespace Qt::StringLiterals;
 
@@ -39,7 +40,7 @@ Dialogue<bool> leaderInMode(CommandContext &context)
 
 Dialogue<bool> dimensionTextStyle(CommandContext &context)
 {
-    const QString name = co_await askTextStyleName(context, u"Enter new text style name"_s);
+    const QString name = co_await askTextStyleName(context, Commands::tr("Enter new text style name"));
     co_return !name.isEmpty() && context.document().variables().set(u"DIMTXSTY", name) == SetOutcome::Done;
 }
 
@@ -162,13 +163,13 @@ Dialogue<bool> runWord(CommandContext &context, ModeWord word)
 Dialogue<ModeWord> askModeWord(CommandContext &context, ModeWord before)
 {
     for (;;) {
-        const PromptReply typed = co_await context.name(u"Dim: "_s);
+        const PromptReply typed = co_await context.name(Commands::tr("Dim: "));
         if (!typed.hasValue() || typed.text.isEmpty())
             co_return before;
         const ModeWord word = modeWord(typed.text.trimmed());
         if (word.subcommand || !word.variable.isEmpty())
             co_return word;
-        if (context.refuse(u"Unknown dimension subcommand \"%1\"."_s.arg(typed.text)))
+        if (context.refuse(Commands::tr("Unknown dimension subcommand \"%1\".").arg(typed.text)))
             co_return ModeWord{};
     }
 }
@@ -183,7 +184,7 @@ void undoInMode(CommandContext &context, std::vector<std::vector<RecordId>> &ste
 {
     drawing::Drawing &drawing = context.drawing();
     if (steps.empty())
-        return context.print(u"\nNothing that was made here is left to undo."_s);
+        return context.print(Commands::tr("\nNothing that was made here is left to undo."));
     for (const RecordId made : steps.back()) {
         const RecordId picture =
             isDimension(drawing, made) ? drawing.blocks().find(drawing.tags(made).text(2)) : drawing::noRecord;

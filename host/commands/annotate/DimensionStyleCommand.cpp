@@ -7,6 +7,7 @@
 #include "host/drawing/selection/Wildcard.h"
 #include "host/drawing/tags/ExtendedData.h"
 #include "host/kernel/documents/Document.h"
+#include "host/kernel/languages/Texts.h"
 
 using namespace Qt::StringLiterals;
 
@@ -51,7 +52,7 @@ void listDimensionStyles(CommandContext &context, const QString &pattern)
 
 Dialogue<bool> askStyleList(CommandContext &context)
 {
-    const PromptReply pattern = co_await context.text(u"Enter dimension style(s) to list <*>: "_s, u"*"_s);
+    const PromptReply pattern = co_await context.text(Commands::tr("Enter dimension style(s) to list <*>: "), u"*"_s);
     listDimensionStyles(context, pattern.hasValue() ? pattern.text.trimmed() : u"*"_s);
     co_return true;
 }
@@ -61,15 +62,15 @@ Dialogue<RecordId> askDimensionStyle(CommandContext &context)
 {
     const drawing::Tables &tables = context.drawing().tables();
     for (;;) {
-        const PromptReply name =
-            co_await context.text(u"Enter a dimension style name, [?] or <select dimension>: "_s, {}, u"?"_s);
+        const PromptReply name = co_await context.text(
+            Commands::tr("Enter a dimension style name, [?] or <select dimension>: "), {}, u"?"_s);
         if (name.isKeyword(u"?")) {
             co_await askStyleList(context);
             continue;
         }
         QString wanted = name.text.trimmed();
         if (wanted.isEmpty()) {
-            const PromptReply picked = co_await context.entity(u"Select dimension: "_s);
+            const PromptReply picked = co_await context.entity(Commands::tr("Select dimension: "));
             if (picked.entities.empty())
                 co_return drawing::noRecord;
             wanted = context.drawing().tags(picked.entities.front()).text(3);
@@ -77,7 +78,7 @@ Dialogue<RecordId> askDimensionStyle(CommandContext &context)
         const RecordId style = tables.find(TableKind::DimStyle, wanted);
         if (isValid(style))
             co_return style;
-        if (context.refuse(u"Cannot find dimension style \"%1\"."_s.arg(wanted)))
+        if (context.refuse(Commands::tr("Cannot find dimension style \"%1\".").arg(wanted)))
             co_return drawing::noRecord;
     }
 }
@@ -107,7 +108,8 @@ Dialogue<RecordId> askSavedStyle(CommandContext &context)
 {
     drawing::Drawing &drawing = context.drawing();
     for (;;) {
-        const PromptReply name = co_await context.text(u"Enter name for new dimension style or [?]: "_s, {}, u"?"_s);
+        const PromptReply name =
+            co_await context.text(Commands::tr("Enter name for new dimension style or [?]: "), {}, u"?"_s);
         if (name.isKeyword(u"?")) {
             co_await askStyleList(context);
             continue;
@@ -116,13 +118,13 @@ Dialogue<RecordId> askSavedStyle(CommandContext &context)
         if (wanted.isEmpty())
             co_return drawing::noRecord;
         if (!isStyleName(wanted)) {
-            if (context.refuse(u"\"%1\" is no name for a dimension style."_s.arg(wanted)))
+            if (context.refuse(Commands::tr("\"%1\" is no name for a dimension style.").arg(wanted)))
                 co_return drawing::noRecord;
             continue;
         }
         if (isValid(drawing.tables().find(TableKind::DimStyle, wanted))) {
-            const PromptReply again =
-                co_await context.keyword(u"That name is already in use, redefine it? [Yes/No] <N>: "_s, {}, u"N"_s);
+            const PromptReply again = co_await context.keyword(
+                Commands::tr("That name is already in use, redefine it? [Yes/No] <N>: "), {}, u"N"_s);
             if (again.text != u"Yes")
                 continue;
         }
@@ -135,7 +137,7 @@ Dialogue<RecordId> askSavedStyle(CommandContext &context)
 Dialogue<bool> makeAnnotativeStyle(CommandContext &context)
 {
     const PromptReply choice =
-        co_await context.keyword(u"Create annotative dimension style [Yes/No] <Yes>: "_s, {}, u"Yes"_s);
+        co_await context.keyword(Commands::tr("Create annotative dimension style [Yes/No] <Yes>: "), {}, u"Yes"_s);
     const RecordId saved = co_await askSavedStyle(context);
     if (isValid(saved))
         markAnnotative(context.drawing(), saved, choice.text != u"No");
@@ -165,7 +167,7 @@ Dialogue<bool> restoreStyle(CommandContext &context)
     const RecordId style = co_await askDimensionStyle(context);
     if (isValid(style)) {
         drawing::makeStyleCurrent(context.drawing(), style);
-        context.print(u"\nCurrent dimension style: "_s + context.drawing().tables().name(style));
+        context.print(Commands::tr("\nCurrent dimension style: ") + context.drawing().tables().name(style));
     }
     co_return true;
 }
@@ -173,10 +175,10 @@ Dialogue<bool> restoreStyle(CommandContext &context)
 // Save, Restore, STatus, Variables, Apply or a list of the styles.
 CommandTask dimensionStyle(CommandContext &context)
 {
-    context.print(u"\nCurrent dimension style: "_s + currentDimensionStyle(context));
+    context.print(Commands::tr("\nCurrent dimension style: ") + currentDimensionStyle(context));
     const PromptReply option = co_await context.keyword(
-        u"Enter a dimension style option [ANnotative/Save/Restore/STatus/Variables/Apply/?] <Restore>: "_s, {},
-        u"Restore"_s);
+        Commands::tr("Enter a dimension style option [ANnotative/Save/Restore/STatus/Variables/Apply/?] <Restore>: "),
+        {}, u"Restore"_s);
     co_await takeDimensionStyleOption(context, option.text);
 }
 

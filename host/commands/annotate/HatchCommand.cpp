@@ -2,6 +2,7 @@
 #include "host/commands/annotate/HatchDialogue.h"
 #include "host/commands/annotate/HatchDraft.h"
 #include "host/commands/common/KeptValues.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/running/CommandContext.h"
 
 using namespace Qt::StringLiterals;
@@ -13,19 +14,20 @@ using drawing::Vec3;
 
 namespace {
 
-constexpr const char *hatchPrompt =
+constexpr const char *hatchPrompt = QT_TRANSLATE_NOOP(
+    "Commands",
     "Specify internal point or [Properties/Select objects/draW boundary/remove Boundaries/Advanced/DRaw order/Origin/"
-    "ANnotative/hatch COlor/LAyer/Transparency]: ";
+    "ANnotative/hatch COlor/LAyer/Transparency]: ");
 
 QString hatchOptions()
 {
     return u"Properties Select draW Boundaries Advanced DRaw Origin ANnotative COlor LAyer Transparency"_s;
 }
 
-void tellNoBoundary(CommandContext &context, const BoundarySearch &search, QStringView otherwise)
+void tellNoBoundary(CommandContext &context, const BoundarySearch &search, const QString &otherwise)
 {
-    context.print(search.wasTooMuch() ? u"\nToo many curves cross here: choose a boundary set."_s
-                                      : otherwise.toString());
+    context.print(search.wasTooMuch() ? Commands::tr("\nToo many curves cross here: choose a boundary set.")
+                                      : otherwise);
 }
 
 /// Adds the boundary round a point; false when there is none, which was told.
@@ -34,7 +36,7 @@ bool addAreaAt(CommandContext &context, const HatchSettings &settings, std::vect
     BoundarySearch search(context.document(), settings.boundary);
     Boundary boundary = search.at(point);
     if (boundary.empty()) {
-        tellNoBoundary(context, search, u"\nValid hatch boundary not found.");
+        tellNoBoundary(context, search, Commands::tr("\nValid hatch boundary not found."));
         return false;
     }
     areas.push_back({std::move(boundary), point});
@@ -47,7 +49,7 @@ void addAreaOf(CommandContext &context, const HatchSettings &settings, std::vect
     BoundarySearch search(context.document(), settings.boundary);
     Boundary boundary = search.of(entities);
     if (boundary.empty())
-        return tellNoBoundary(context, search, u"\nThe objects make no closed boundary.");
+        return tellNoBoundary(context, search, Commands::tr("\nThe objects make no closed boundary."));
     areas.push_back({std::move(boundary), std::nullopt});
 }
 
@@ -55,14 +57,15 @@ void addAreaOf(CommandContext &context, const HatchSettings &settings, std::vect
 Dialogue<bool> askDrawnBoundary(CommandContext &context, HatchSettings &settings, std::vector<HatchArea> &areas)
 {
     const UserPlane plane(context.document());
-    const PromptReply retain = co_await context.keyword(u"Retain polyline boundary? [Yes/No] <N>: "_s, {}, u"No"_s);
+    const PromptReply retain =
+        co_await context.keyword(Commands::tr("Retain polyline boundary? [Yes/No] <N>: "), {}, u"No"_s);
     const bool isKept = retain.text == u"Yes";
-    PromptReply start = co_await context.neededPoint(u"Specify start point: "_s);
+    PromptReply start = co_await context.neededPoint(Commands::tr("Specify start point: "));
     while (start.hasValue()) {
         std::vector<Vec3> points = {start.point};
         for (;;) {
-            const PromptReply next = co_await context.point(u"Specify next point or [Close/Undo] <Close>: "_s, {},
-                                                            points.back(), u"Close"_s);
+            const PromptReply next = co_await context.point(
+                Commands::tr("Specify next point or [Close/Undo] <Close>: "), {}, points.back(), u"Close"_s);
             if (next.isKeyword(u"Undo")) {
                 if (points.size() > 1)
                     points.pop_back();
@@ -73,7 +76,8 @@ Dialogue<bool> askDrawnBoundary(CommandContext &context, HatchSettings &settings
             }
         }
         addDrawnArea(context, plane, points, isKept, areas);
-        start = co_await context.point(u"Specify start point for new boundary or <Accept>: "_s, {}, {}, u"Accept"_s);
+        start = co_await context.point(Commands::tr("Specify start point for new boundary or <Accept>: "), {}, {},
+                                       u"Accept"_s);
     }
     settings.isAssociative = settings.isAssociative && isKept;
     co_return true;
@@ -95,7 +99,7 @@ Dialogue<bool> askNamedHatch(CommandContext &context, HatchSettings &settings, s
 Dialogue<bool> removeBoundaries(CommandContext &context, std::vector<HatchArea> &areas)
 {
     for (;;) {
-        const PromptReply picked = co_await context.entity(u"Select boundary to remove: "_s);
+        const PromptReply picked = co_await context.entity(Commands::tr("Select boundary to remove: "));
         if (picked.entities.empty())
             co_return true;
         for (HatchArea &area : areas)
@@ -134,11 +138,11 @@ CommandTask hatch(CommandContext &context)
 {
     HatchSettings settings = currentHatchSettings(context.document());
     std::vector<HatchArea> areas;
-    context.print(u"\nCurrent hatch pattern:  "_s + settings.look.pattern);
+    context.print(Commands::tr("\nCurrent hatch pattern:  ") + settings.look.pattern);
     for (;;) {
         const bool isFirst = areas.empty();
         const PromptReply reply =
-            co_await context.point(QLatin1StringView(hatchPrompt), hatchOptions(), {}, {}, isFirst ? AnyText : 0);
+            co_await context.point(Commands::tr(hatchPrompt), hatchOptions(), {}, {}, isFirst ? AnyText : 0);
         if (reply.isEmpty())
             break;
         if (reply.hasValue()) {
@@ -162,9 +166,9 @@ CommandTask hatch(CommandContext &context)
 Dialogue<bool> askBoundaryOptions(CommandContext &context, HatchSettings &settings)
 {
     for (;;) {
-        const PromptReply option =
-            co_await context.keyword(u"Enter an option [Boundary set/Island detection/Object type] <eXit>: "_s,
-                                     u"Boundary Island Object eXit"_s, u"eXit"_s);
+        const PromptReply option = co_await context.keyword(
+            Commands::tr("Enter an option [Boundary set/Island detection/Object type] <eXit>: "),
+            u"Boundary Island Object eXit"_s, u"eXit"_s);
         if (option.text == u"Boundary") {
             co_await askBoundarySet(context, settings.boundary);
         } else if (option.text == u"Island") {
@@ -172,7 +176,7 @@ Dialogue<bool> askBoundaryOptions(CommandContext &context, HatchSettings &settin
         } else if (option.text == u"Object") {
             const QString usual = settings.makesRegions ? u"Region"_s : u"Polyline"_s;
             const PromptReply type = co_await context.keyword(
-                u"Enter type of boundary object [Region/Polyline] <%1>: "_s.arg(usual), {}, usual);
+                Commands::tr("Enter type of boundary object [Region/Polyline] <%1>: ").arg(usual), {}, usual);
             settings.makesRegions = type.text == u"Region";
             keepValue(context, u"HPBOUND", settings.makesRegions ? 0 : 1);
         } else {
@@ -189,7 +193,8 @@ CommandTask boundary(CommandContext &context)
     int polylines = 0;
     int regions = 0;
     for (;;) {
-        const PromptReply reply = co_await context.point(u"Specify internal point or [Advanced options]: "_s);
+        const PromptReply reply =
+            co_await context.point(Commands::tr("Specify internal point or [Advanced options]: "));
         if (reply.isKeyword(u"Advanced")) {
             co_await askBoundaryOptions(context, settings);
             continue;
@@ -205,8 +210,11 @@ CommandTask boundary(CommandContext &context)
             polylines += createBoundaryPolylines(context, areas.front().boundary);
     }
     const int made = regions > 0 ? regions : polylines;
-    const QString what = (regions > 0 ? u"region"_s : u"polyline"_s) + (made == 1 ? u""_s : u"s"_s);
-    context.print(u"\nBOUNDARY created %1 %2"_s.arg(made).arg(what));
+    const QString one =
+        regions > 0 ? Commands::tr("\nBOUNDARY created 1 region") : Commands::tr("\nBOUNDARY created 1 polyline");
+    const QString several =
+        regions > 0 ? Commands::tr("\nBOUNDARY created %1 regions") : Commands::tr("\nBOUNDARY created %1 polylines");
+    context.print(made == 1 ? one : several.arg(made));
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "host/drawing/records/Tables.h"
 #include "host/drawing/selection/Wildcard.h"
 #include "host/kernel/documents/CurrentProperties.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/running/CommandContext.h"
 #include "host/kernel/variables/SystemVariables.h"
 
@@ -24,7 +25,7 @@ void listPatterns(CommandContext &context, const QString &wanted)
 
 Dialogue<bool> askPatternList(CommandContext &context)
 {
-    const PromptReply wanted = co_await context.text(u"Enter pattern(s) to list <*>: "_s, u"*"_s);
+    const PromptReply wanted = co_await context.text(Commands::tr("Enter pattern(s) to list <*>: "), u"*"_s);
     listPatterns(context, wanted.hasValue() ? wanted.text.trimmed() : u"*"_s);
     co_return true;
 }
@@ -33,16 +34,16 @@ Dialogue<bool> askOwnLines(CommandContext &context, HatchLook &look)
 {
     look.pattern = u"U"_s;
     const QString angle = context.shownAngle(look.angle);
-    const PromptReply turn =
-        co_await context.orientation(u"Specify angle for crosshatch lines <%1>: "_s.arg(angle), {}, {}, angle);
+    const PromptReply turn = co_await context.orientation(
+        Commands::tr("Specify angle for crosshatch lines <%1>: ").arg(angle), {}, {}, angle);
     look.angle = turn.hasValue() ? turn.real : look.angle;
     const QString spacing = context.shownLength(look.spacing);
-    const PromptReply step = co_await context.distance(u"Specify spacing between the lines <%1>: "_s.arg(spacing), {},
-                                                       {}, spacing, NoZero | NoNegative);
+    const PromptReply step = co_await context.distance(
+        Commands::tr("Specify spacing between the lines <%1>: ").arg(spacing), {}, {}, spacing, NoZero | NoNegative);
     look.spacing = step.hasValue() ? step.real : look.spacing;
     const QString usual = look.isDouble ? u"Yes"_s : u"No"_s;
     const PromptReply both =
-        co_await context.keyword(u"Double hatch area? [Yes/No] <%1>: "_s.arg(usual.left(1)), {}, usual);
+        co_await context.keyword(Commands::tr("Double hatch area? [Yes/No] <%1>: ").arg(usual.left(1)), {}, usual);
     look.isDouble = both.hasValue() ? both.text == u"Yes" : look.isDouble;
     co_return true;
 }
@@ -50,12 +51,12 @@ Dialogue<bool> askOwnLines(CommandContext &context, HatchLook &look)
 Dialogue<bool> askScaleAndAngle(CommandContext &context, HatchLook &look)
 {
     const QString scale = context.shownLength(look.scale);
-    const PromptReply factor = co_await context.distance(u"Specify a scale for the pattern <%1>: "_s.arg(scale), {}, {},
-                                                         scale, NoZero | NoNegative);
+    const PromptReply factor = co_await context.distance(
+        Commands::tr("Specify a scale for the pattern <%1>: ").arg(scale), {}, {}, scale, NoZero | NoNegative);
     look.scale = factor.hasValue() ? factor.real : look.scale;
     const QString angle = context.shownAngle(look.angle);
     const PromptReply turn =
-        co_await context.orientation(u"Specify an angle for the pattern <%1>: "_s.arg(angle), {}, {}, angle);
+        co_await context.orientation(Commands::tr("Specify an angle for the pattern <%1>: ").arg(angle), {}, {}, angle);
     look.angle = turn.hasValue() ? turn.real : look.angle;
     co_return true;
 }
@@ -78,7 +79,8 @@ QString withoutStyleLetter(QString name, HatchLook &look)
 
 Dialogue<bool> askHatchColour(CommandContext &context, HatchSettings &settings)
 {
-    const PromptReply colour = co_await context.text(u"Enter new color or [. (for use current)] <.>: "_s, u"."_s);
+    const PromptReply colour =
+        co_await context.text(Commands::tr("Enter new color or [. (for use current)] <.>: "), u"."_s);
     const QString typed = colour.text.trimmed();
     std::erase_if(settings.entity, [](const drawing::Field &field) { return field.code == 62; });
     static const QStringList names = {u"ByBlock"_s, u"Red"_s,  u"Yellow"_s,  u"Green"_s,
@@ -92,45 +94,47 @@ Dialogue<bool> askHatchColour(CommandContext &context, HatchSettings &settings)
         index = 256, isNumber = true;
     if (isNumber && index >= 0 && index <= 256)
         settings.entity.push_back({62, index});
-    else if (!typed.isEmpty() && typed != u"." && context.refuse(u"\"%1\" is no colour."_s.arg(typed)))
+    else if (!typed.isEmpty() && typed != u"." && context.refuse(Commands::tr("\"%1\" is no colour.").arg(typed)))
         co_return false;
     co_return true;
 }
 
 Dialogue<bool> askHatchLayer(CommandContext &context, HatchSettings &settings)
 {
-    const PromptReply layer = co_await context.text(u"Specify new layer name or [. (for use current)] <.>: "_s, u"."_s);
+    const PromptReply layer =
+        co_await context.text(Commands::tr("Specify new layer name or [. (for use current)] <.>: "), u"."_s);
     const QString typed = layer.text.trimmed();
     std::erase_if(settings.entity, [](const drawing::Field &field) { return field.code == 8; });
     if (typed.isEmpty() || typed == u".")
         co_return true;
     if (isValid(context.drawing().tables().find(drawing::TableKind::Layer, typed)))
         settings.entity.push_back({8, typed});
-    else if (context.refuse(u"Cannot find layer \"%1\"."_s.arg(typed)))
+    else if (context.refuse(Commands::tr("Cannot find layer \"%1\".").arg(typed)))
         co_return false;
     co_return true;
 }
 
 Dialogue<bool> askHatchTransparency(CommandContext &context, HatchSettings &settings)
 {
-    const PromptReply value =
-        co_await context.text(u"Enter new transparency value (0-90) or [. (for use current)] <.>: "_s, u"."_s);
+    const PromptReply value = co_await context.text(
+        Commands::tr("Enter new transparency value (0-90) or [. (for use current)] <.>: "), u"."_s);
     std::erase_if(settings.entity, [](const drawing::Field &field) { return field.code == 440; });
     bool isNumber = false;
     const int percent = value.text.trimmed().toInt(&isNumber);
     if (isNumber && percent >= 0 && percent <= 90)
         settings.entity.push_back({440, transparencyValue(percent)});
     else if (!value.text.trimmed().isEmpty() && value.text.trimmed() != u"." &&
-             context.refuse(u"Requires a whole number from 0 to 90."_s))
+             context.refuse(Commands::tr("Requires a whole number from 0 to 90.")))
         co_return false;
     co_return true;
 }
 
 Dialogue<bool> askHatchOrder(CommandContext &context, HatchSettings &settings)
 {
-    const PromptReply order = co_await context.keyword(
-        u"Enter draw order [do Not assign/send to Back/bring to Front/send beHind boundary/bring in front of bounDary] <send behind boundary>: "_s,
-        u"Not Back Front beHind bounDary"_s, u"beHind"_s);
+    const PromptReply order =
+        co_await context.keyword(Commands::tr("Enter draw order [do Not assign/send to Back/bring to Front/send beHind "
+                                              "boundary/bring in front of bounDary] <send behind boundary>: "),
+                                 u"Not Back Front beHind bounDary"_s, u"beHind"_s);
     settings.order = order.text == u"Not"        ? QString()
                      : order.text == u"Back"     ? u"Back"_s
                      : order.text == u"Front"    ? u"Front"_s
@@ -141,13 +145,14 @@ Dialogue<bool> askHatchOrder(CommandContext &context, HatchSettings &settings)
 
 Dialogue<bool> askHatchOrigin(CommandContext &context, HatchSettings &settings)
 {
-    const PromptReply option = co_await context.keyword(u"[Use current origin/Set new origin] <Use current origin>: "_s,
-                                                        u"Use Set"_s, u"Use"_s);
+    const PromptReply option = co_await context.keyword(
+        Commands::tr("[Use current origin/Set new origin] <Use current origin>: "), u"Use Set"_s, u"Use"_s);
     if (option.text != u"Set")
         co_return true;
-    const PromptReply point = co_await context.neededPoint(u"Specify point: "_s);
+    const PromptReply point = co_await context.neededPoint(Commands::tr("Specify point: "));
     settings.look.origin = UserPlane(context.document()).userFromWorld(point.point).xy();
-    const PromptReply keeps = co_await context.keyword(u"Store as default origin? [Yes/No] <N>: "_s, {}, u"No"_s);
+    const PromptReply keeps =
+        co_await context.keyword(Commands::tr("Store as default origin? [Yes/No] <N>: "), {}, u"No"_s);
     if (keeps.text == u"Yes" && context.document().variables().get(u"HPORIGIN"))
         context.document().variables().setInternally(u"HPORIGIN", settings.look.origin);
     co_return true;
@@ -167,7 +172,7 @@ Dialogue<bool> askPatternOf(CommandContext &context, HatchLook &look, QString na
         co_return true;
     }
     if (!drawing::hatchPattern(name)) {
-        context.fail(u"Unknown hatch pattern \"%1\"."_s.arg(name));
+        context.fail(Commands::tr("Unknown hatch pattern \"%1\".").arg(name));
         co_return false;
     }
     look.pattern = name.toUpper();
@@ -178,7 +183,8 @@ Dialogue<bool> askHatchPattern(CommandContext &context, HatchLook &look)
 {
     for (;;) {
         const PromptReply name = co_await context.text(
-            u"Enter a pattern name or [?/Solid/User defined] <%1>: "_s.arg(look.pattern), look.pattern, u"?"_s);
+            Commands::tr("Enter a pattern name or [?/Solid/User defined] <%1>: ").arg(look.pattern), look.pattern,
+            u"?"_s);
         if (name.isKeyword(u"?")) {
             co_await askPatternList(context);
             continue;
@@ -192,8 +198,8 @@ Dialogue<bool> askIslandStyle(CommandContext &context, HatchLook &look)
 {
     static const QStringList names = {u"Normal"_s, u"Outer"_s, u"Ignore"_s};
     const QString usual = names[static_cast<int>(look.style)];
-    const PromptReply style =
-        co_await context.keyword(u"Enter hatching style [Ignore/Outer/Normal] <%1>: "_s.arg(usual), {}, usual);
+    const PromptReply style = co_await context.keyword(
+        Commands::tr("Enter hatching style [Ignore/Outer/Normal] <%1>: ").arg(usual), {}, usual);
     if (style.hasValue())
         look.style = static_cast<IslandStyle>(names.indexOf(style.text));
     co_return true;
@@ -202,7 +208,7 @@ Dialogue<bool> askIslandStyle(CommandContext &context, HatchLook &look)
 Dialogue<bool> askBoundarySet(CommandContext &context, BoundaryOptions &options)
 {
     const PromptReply set = co_await context.keyword(
-        u"Specify candidate set for boundary [New/Everything] <Everything>: "_s, {}, u"Everything"_s);
+        Commands::tr("Specify candidate set for boundary [New/Everything] <Everything>: "), {}, u"Everything"_s);
     options.candidates.clear();
     if (set.text == u"New") {
         const PromptReply chosen = co_await context.selection();
@@ -214,7 +220,7 @@ Dialogue<bool> askBoundarySet(CommandContext &context, BoundaryOptions &options)
 Dialogue<bool> askIslandDetection(CommandContext &context, BoundaryOptions &options)
 {
     const PromptReply islands =
-        co_await context.keyword(u"Do you want island detection? [Yes/No] <Y>: "_s, {}, u"Yes"_s);
+        co_await context.keyword(Commands::tr("Do you want island detection? [Yes/No] <Y>: "), {}, u"Yes"_s);
     options.islands = islands.text == u"No" ? IslandStyle::Ignore : IslandStyle::Normal;
     co_return true;
 }
@@ -224,13 +230,14 @@ Dialogue<bool> askAdvancedHatch(CommandContext &context, HatchSettings &settings
     const QString yesNo = u"Yes No"_s;
     for (;;) {
         const PromptReply option = co_await context.keyword(
-            u"Enter an option [Boundary set/Retain boundary/Island detection/Style/Associativity/Gap tolerance/separate Hatches] <eXit>: "_s,
+            Commands::tr("Enter an option [Boundary set/Retain boundary/Island detection/Style/Associativity/Gap "
+                         "tolerance/separate Hatches] <eXit>: "),
             u"Boundary Retain Island Style Associativity Gap Hatches eXit"_s, u"eXit"_s);
         if (option.text == u"Boundary") {
             co_await askBoundarySet(context, settings.boundary);
         } else if (option.text == u"Retain") {
             const PromptReply keep =
-                co_await context.keyword(u"Retain derived boundaries? [Yes/No] <N>: "_s, yesNo, u"No"_s);
+                co_await context.keyword(Commands::tr("Retain derived boundaries? [Yes/No] <N>: "), yesNo, u"No"_s);
             settings.keepsBoundary = keep.text == u"Yes";
         } else if (option.text == u"Island") {
             co_await askIslandDetection(context, settings.boundary);
@@ -239,16 +246,16 @@ Dialogue<bool> askAdvancedHatch(CommandContext &context, HatchSettings &settings
             settings.boundary.islands = settings.look.style;
         } else if (option.text == u"Associativity") {
             const PromptReply follow =
-                co_await context.keyword(u"Do you want associativity? [Yes/No] <Y>: "_s, yesNo, u"Yes"_s);
+                co_await context.keyword(Commands::tr("Do you want associativity? [Yes/No] <Y>: "), yesNo, u"Yes"_s);
             settings.isAssociative = follow.text != u"No";
         } else if (option.text == u"Gap") {
             const QString usual = context.shownLength(settings.boundary.gap);
             const PromptReply gap = co_await context.distance(
-                u"Specify a boundary gap tolerance value <%1>: "_s.arg(usual), {}, {}, usual, NoNegative);
+                Commands::tr("Specify a boundary gap tolerance value <%1>: ").arg(usual), {}, {}, usual, NoNegative);
             settings.boundary.gap = gap.hasValue() ? gap.real : settings.boundary.gap;
         } else if (option.text == u"Hatches") {
             const PromptReply separate =
-                co_await context.keyword(u"Create separate hatches? [Yes/No] <N>: "_s, yesNo, u"No"_s);
+                co_await context.keyword(Commands::tr("Create separate hatches? [Yes/No] <N>: "), yesNo, u"No"_s);
             settings.isSeparate = separate.text == u"Yes";
         } else {
             co_return true;
@@ -268,8 +275,9 @@ Dialogue<bool> askHatchProperty(CommandContext &context, HatchSettings &settings
         co_return co_await askHatchLayer(context, settings);
     if (option == u"Transparency")
         co_return co_await askHatchTransparency(context, settings);
-    const PromptReply annotative = co_await context.keyword(u"Create annotative hatch [Yes/No] <N>: "_s, {}, u"No"_s);
-    if (annotative.text == u"Yes" && context.refuse(u"Annotative hatches are not made."_s))
+    const PromptReply annotative =
+        co_await context.keyword(Commands::tr("Create annotative hatch [Yes/No] <N>: "), {}, u"No"_s);
+    if (annotative.text == u"Yes" && context.refuse(Commands::tr("Annotative hatches are not made.")))
         co_return false;
     co_return true;
 }
@@ -289,7 +297,7 @@ void addDrawnArea(CommandContext &context, const UserPlane &plane, const std::ve
         loop.loop.box.add(Vec3{from.x, from.y, 0.0});
     }
     if (loop.loop.stretches.size() < 3)
-        return context.print(u"\nA boundary needs three points."_s);
+        return context.print(Commands::tr("\nA boundary needs three points."));
     areas.push_back({{loop}, std::nullopt});
     if (isKept)
         createBoundaryPolylines(context, {loop});

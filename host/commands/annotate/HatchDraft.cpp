@@ -8,6 +8,7 @@
 #include "host/drawing/records/Reactors.h"
 #include "host/drawing/records/SortTable.h"
 #include "host/kernel/documents/CurrentSpace.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/running/CommandContext.h"
 #include "host/kernel/variables/SystemVariables.h"
 #include "host/view/display/DrawOrder.h"
@@ -38,7 +39,7 @@ std::optional<std::vector<PatternFamily>> familiesOf(CommandContext &context, co
     }
     const auto pattern = drawing::hatchPattern(look.pattern);
     if (!pattern) {
-        context.fail(u"Unknown hatch pattern \"%1\"."_s.arg(look.pattern));
+        context.fail(Commands::tr("Unknown hatch pattern \"%1\".").arg(look.pattern));
         return std::nullopt;
     }
     const bool isMetric = context.drawing().header().integer(u"$MEASUREMENT") == 1;
@@ -152,7 +153,7 @@ void orderHatch(CommandContext &context, RecordId hatch, const QString &where, c
                 place = at + 1;
     order.insert(place, hatch);
     if (!drawing::setDrawOrder(drawing, order))
-        context.print(u"\nA drawing of this version keeps no draw order."_s);
+        context.print(Commands::tr("\nA drawing of this version keeps no draw order."));
 }
 
 } // namespace
@@ -211,7 +212,7 @@ std::optional<FieldList> hatchLookFields(CommandContext &context, const HatchLoo
         return std::nullopt;
     const double most = context.document().variables().integer(u"HPMAXLINES", 1'000'000);
     if (!(scale > 0.0) || isTooDense(*families, scale, size, std::max(100.0, most))) {
-        context.fail(u"The hatch spacing is too dense, or the dash size too small."_s);
+        context.fail(Commands::tr("The hatch spacing is too dense, or the dash size too small."));
         return std::nullopt;
     }
     const UserPlane plane(context.document());
@@ -254,7 +255,8 @@ int createBoundaryPolylines(CommandContext &context, const Boundary &boundary)
         const auto polyline = loop.isText ? std::nullopt : drawing::loopPolyline(loop.loop);
         if (!polyline) {
             if (!loop.isText)
-                context.print(u"\nNo polyline can follow the boundary: it has pieces of ellipses or splines."_s);
+                context.print(
+                    Commands::tr("\nNo polyline can follow the boundary: it has pieces of ellipses or splines."));
             continue;
         }
         FieldList fields = {{0, u"LWPOLYLINE"_s}, {70, qint64(1)}};

@@ -4,6 +4,7 @@
 #include "host/drawing/math/Angles.h"
 #include "host/drawing/records/Entities.h"
 #include "host/drawing/records/Reactors.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/running/CommandContext.h"
 
 #include <cmath>
@@ -113,14 +114,14 @@ void setCommonFields(drawing::Drawing &drawing, RecordId hatch, const FieldList 
 Dialogue<RecordId> askHatch(CommandContext &context)
 {
     for (;;) {
-        const PromptReply picked = co_await context.entity(u"Select hatch object: "_s);
+        const PromptReply picked = co_await context.entity(Commands::tr("Select hatch object: "));
         if (picked.isMiss)
             continue;
         if (picked.entities.empty())
             co_return drawing::noRecord;
         if (context.drawing().isType(picked.entities.front(), "HATCH"))
             co_return editable(context, picked.entities).empty() ? drawing::noRecord : picked.entities.front();
-        if (context.refuse(u"Object selected is not a hatch."_s))
+        if (context.refuse(Commands::tr("Object selected is not a hatch.")))
             co_return drawing::noRecord;
     }
 }
@@ -132,7 +133,8 @@ CommandTask editHatch(CommandContext &context)
     if (!isValid(hatch))
         co_return;
     const PromptReply option = co_await context.keyword(
-        u"Enter hatch option [DIsassociate/Style/Properties/Origin/ANnotative/hatch COlor/LAyer/Transparency] <Properties>: "_s,
+        Commands::tr("Enter hatch option [DIsassociate/Style/Properties/Origin/ANnotative/hatch "
+                     "COlor/LAyer/Transparency] <Properties>: "),
         u"DIsassociate Style Properties Origin ANnotative COlor LAyer Transparency"_s, u"Properties"_s);
     if (option.text == u"DIsassociate") {
         disassociate(context.drawing(), hatch);

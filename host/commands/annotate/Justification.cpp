@@ -1,6 +1,7 @@
 #include "host/commands/annotate/Justification.h"
 
 #include "host/drawing/text/TextAlignment.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/running/CommandContext.h"
 
 using namespace Qt::StringLiterals;
@@ -12,24 +13,24 @@ using drawing::Vec3;
 
 namespace {
 
-constexpr const char *firstEnd = "Specify first endpoint of text baseline: ";
+constexpr const char *firstEnd = QT_TRANSLATE_NOOP("Commands", "Specify first endpoint of text baseline: ");
 
 constexpr Justification justifications[] = {
-    {"Left", "Specify start point of text: ", 0, 0},
-    {"Center", "Specify center point of text: ", 1, 0},
-    {"Right", "Specify right endpoint of text baseline: ", 2, 0},
+    {"Left", QT_TRANSLATE_NOOP("Commands", "Specify start point of text: "), 0, 0},
+    {"Center", QT_TRANSLATE_NOOP("Commands", "Specify center point of text: "), 1, 0},
+    {"Right", QT_TRANSLATE_NOOP("Commands", "Specify right endpoint of text baseline: "), 2, 0},
     {"Align", firstEnd, 3, 0},
-    {"Middle", "Specify middle point of text: ", 4, 0},
+    {"Middle", QT_TRANSLATE_NOOP("Commands", "Specify middle point of text: "), 4, 0},
     {"Fit", firstEnd, 5, 0},
-    {"TL", "Specify top-left point of text: ", 0, 3},
-    {"TC", "Specify top-center point of text: ", 1, 3},
-    {"TR", "Specify top-right point of text: ", 2, 3},
-    {"ML", "Specify middle-left point of text: ", 0, 2},
-    {"MC", "Specify middle-center point of text: ", 1, 2},
-    {"MR", "Specify middle-right point of text: ", 2, 2},
-    {"BL", "Specify bottom-left point of text: ", 0, 1},
-    {"BC", "Specify bottom-center point of text: ", 1, 1},
-    {"BR", "Specify bottom-right point of text: ", 2, 1},
+    {"TL", QT_TRANSLATE_NOOP("Commands", "Specify top-left point of text: "), 0, 3},
+    {"TC", QT_TRANSLATE_NOOP("Commands", "Specify top-center point of text: "), 1, 3},
+    {"TR", QT_TRANSLATE_NOOP("Commands", "Specify top-right point of text: "), 2, 3},
+    {"ML", QT_TRANSLATE_NOOP("Commands", "Specify middle-left point of text: "), 0, 2},
+    {"MC", QT_TRANSLATE_NOOP("Commands", "Specify middle-center point of text: "), 1, 2},
+    {"MR", QT_TRANSLATE_NOOP("Commands", "Specify middle-right point of text: "), 2, 2},
+    {"BL", QT_TRANSLATE_NOOP("Commands", "Specify bottom-left point of text: "), 0, 1},
+    {"BC", QT_TRANSLATE_NOOP("Commands", "Specify bottom-center point of text: "), 1, 1},
+    {"BR", QT_TRANSLATE_NOOP("Commands", "Specify bottom-right point of text: "), 2, 1},
 };
 
 } // namespace
@@ -67,7 +68,7 @@ Dialogue<const Justification *> askJustification(CommandContext &context)
 {
     QString options = justificationOptions();
     options.replace(u' ', u'/');
-    const PromptReply reply = co_await context.keyword(u"Enter an option [%1]: "_s.arg(options));
+    const PromptReply reply = co_await context.keyword(Commands::tr("Enter an option [%1]: ").arg(options));
     co_return reply.hasValue() ? justificationOf(reply.text) : nullptr;
 }
 

@@ -9,6 +9,7 @@
 #include "host/drawing/records/Tables.h"
 #include "host/kernel/documents/CurrentSpace.h"
 #include "host/kernel/documents/Document.h"
+#include "host/kernel/languages/Texts.h"
 
 using namespace Qt::StringLiterals;
 
@@ -120,7 +121,7 @@ void addLeaderText(CommandContext &context, RecordId leader, const LeaderDraft &
 Dialogue<QString> askLeaderText(CommandContext &context, QString firstPrompt)
 {
     QStringList lines;
-    for (QString prompt = firstPrompt;; prompt = u"Enter next line of annotation text: "_s) {
+    for (QString prompt = firstPrompt;; prompt = Commands::tr("Enter next line of annotation text: ")) {
         const PromptReply line = co_await context.text(prompt);
         if (!line.hasValue() || line.text.isEmpty())
             break;
@@ -137,7 +138,7 @@ void copyNote(CommandContext &context, RecordId leader, RecordId original, const
     const bool isNote = type == "MTEXT" || type == "TEXT" || type == "INSERT" || type == "TOLERANCE";
     const RecordId copy = isNote ? copyToCurrent(drawing, original) : drawing::noRecord;
     if (!isValid(copy))
-        return context.fail(u"A text, tolerance or block reference is needed."_s);
+        return context.fail(Commands::tr("A text, tolerance or block reference is needed."));
     const drawing::TagList tags = drawing.tags(copy);
     const bool isFlat = type == "TEXT" || type == "INSERT";
     const drawing::Matrix axes =
@@ -151,15 +152,16 @@ void copyNote(CommandContext &context, RecordId leader, RecordId original, const
 
 Dialogue<bool> addLeaderBlock(CommandContext &context, RecordId leader, Vec3 end)
 {
-    const PromptReply name = co_await context.text(u"Enter block name: "_s);
+    const PromptReply name = co_await context.text(Commands::tr("Enter block name: "));
     const QString block = name.text.trimmed();
     if (!isValid(context.drawing().blocks().find(block))) {
-        context.fail(u"Cannot find block \"%1\"."_s.arg(block));
+        context.fail(Commands::tr("Cannot find block \"%1\".").arg(block));
         co_return false;
     }
     const UserPlane plane(context.document());
-    const PromptReply scale = co_await context.real(u"Enter scale factor <1>: "_s, {}, u"1"_s, NoZero);
-    const PromptReply turn = co_await context.orientation(u"Specify rotation angle <0>: "_s, {}, end, u"0"_s);
+    const PromptReply scale = co_await context.real(Commands::tr("Enter scale factor <1>: "), {}, u"1"_s, NoZero);
+    const PromptReply turn =
+        co_await context.orientation(Commands::tr("Specify rotation angle <0>: "), {}, end, u"0"_s);
     const double factor = scale.hasValue() ? scale.real : 1.0;
     const RecordId note = context.create(plane.placed({{0, u"INSERT"_s},
                                                        {2, block},
@@ -176,7 +178,7 @@ Dialogue<bool> addLeaderBlock(CommandContext &context, RecordId leader, Vec3 end
 Dialogue<bool> addLeaderTolerance(CommandContext &context, RecordId leader, Vec3 end)
 {
     const UserPlane plane(context.document());
-    const PromptReply text = co_await context.text(u"Enter tolerance text: "_s);
+    const PromptReply text = co_await context.text(Commands::tr("Enter tolerance text: "));
     if (text.text.isEmpty())
         co_return true;
     const Vec3 along = plane.worldFromUser({1.0, 0.0, 0.0}) - plane.worldFromUser({});
@@ -192,11 +194,11 @@ Dialogue<bool> askLeaderNote(CommandContext &context, RecordId leader, LeaderDra
 {
     const Vec3 end = draft.points.back();
     const PromptReply option = co_await context.keyword(
-        u"Enter an annotation option [Tolerance/Copy/Block/None/Mtext] <Mtext>: "_s, {}, u"Mtext"_s);
+        Commands::tr("Enter an annotation option [Tolerance/Copy/Block/None/Mtext] <Mtext>: "), {}, u"Mtext"_s);
     if (option.text == u"None")
         co_return true;
     if (option.text == u"Copy") {
-        const PromptReply picked = co_await context.entity(u"Select an object to copy: "_s);
+        const PromptReply picked = co_await context.entity(Commands::tr("Select an object to copy: "));
         if (!picked.entities.empty())
             copyNote(context, leader, picked.entities.front(), end);
     } else if (option.text == u"Block") {
@@ -204,7 +206,7 @@ Dialogue<bool> askLeaderNote(CommandContext &context, RecordId leader, LeaderDra
     } else if (option.text == u"Tolerance") {
         co_await addLeaderTolerance(context, leader, end);
     } else {
-        const QString text = co_await askLeaderText(context, u"Enter first line of annotation text: "_s);
+        const QString text = co_await askLeaderText(context, Commands::tr("Enter first line of annotation text: "));
         if (!text.isEmpty())
             addLeaderText(context, leader, draft, text, 0.0);
     }
@@ -213,8 +215,8 @@ Dialogue<bool> askLeaderNote(CommandContext &context, RecordId leader, LeaderDra
 
 Dialogue<bool> askLeaderFormat(CommandContext &context, LeaderDraft &draft)
 {
-    const PromptReply format =
-        co_await context.keyword(u"Enter leader format option [Spline/STraight/Arrow/None] <Exit>: "_s, {}, u"Exit"_s);
+    const PromptReply format = co_await context.keyword(
+        Commands::tr("Enter leader format option [Spline/STraight/Arrow/None] <Exit>: "), {}, u"Exit"_s);
     if (format.text == u"Spline" || format.text == u"STraight")
         draft.isSpline = format.text == u"Spline";
     else if (format.text == u"Arrow" || format.text == u"None")
@@ -226,12 +228,12 @@ Dialogue<bool> askLeaderFormat(CommandContext &context, LeaderDraft &draft)
 Dialogue<LeaderDraft> askLeaderPoints(CommandContext &context)
 {
     LeaderDraft draft;
-    const PromptReply start = co_await context.neededPoint(u"Specify leader start point: "_s);
-    const PromptReply second = co_await context.neededPoint(u"Specify next point: "_s, start.point);
+    const PromptReply start = co_await context.neededPoint(Commands::tr("Specify leader start point: "));
+    const PromptReply second = co_await context.neededPoint(Commands::tr("Specify next point: "), start.point);
     draft.points = {start.point, second.point};
     for (;;) {
         const PromptReply next =
-            co_await context.point(u"Specify next point or [Annotation/Format/Undo] <Annotation>: "_s, {},
+            co_await context.point(Commands::tr("Specify next point or [Annotation/Format/Undo] <Annotation>: "), {},
                                    draft.points.back(), u"Annotation"_s);
         if (next.hasValue())
             draft.points.push_back(next.point);
@@ -248,7 +250,8 @@ Dialogue<LeaderDraft> askLeaderPoints(CommandContext &context)
 CommandTask leader(CommandContext &context)
 {
     const LeaderDraft draft = co_await askLeaderPoints(context);
-    const QString text = co_await askLeaderText(context, u"Enter first line of annotation text or <options>: "_s);
+    const QString text =
+        co_await askLeaderText(context, Commands::tr("Enter first line of annotation text or <options>: "));
     const RecordId made = createLeader(context, draft);
     if (!isValid(made))
         co_return;
@@ -263,19 +266,19 @@ CommandTask quickLeader(CommandContext &context)
 {
     constexpr std::size_t mostPoints = 3;
     LeaderDraft draft;
-    const PromptReply start = co_await context.neededPoint(u"Specify first leader point: "_s);
+    const PromptReply start = co_await context.neededPoint(Commands::tr("Specify first leader point: "));
     draft.points = {start.point};
     while (draft.points.size() < mostPoints) {
-        const PromptReply next = co_await context.point(u"Specify next point: "_s, {}, draft.points.back());
+        const PromptReply next = co_await context.point(Commands::tr("Specify next point: "), {}, draft.points.back());
         if (!next.hasValue())
             break;
         draft.points.push_back(next.point);
     }
     if (draft.points.size() < 2)
         co_return;
-    const PromptReply width =
-        co_await context.distance(u"Specify text width <0>: "_s, {}, draft.points.back(), u"0"_s, NoNegative);
-    const QString text = co_await askLeaderText(context, u"Enter first line of annotation text <Mtext>: "_s);
+    const PromptReply width = co_await context.distance(Commands::tr("Specify text width <0>: "), {},
+                                                        draft.points.back(), u"0"_s, NoNegative);
+    const QString text = co_await askLeaderText(context, Commands::tr("Enter first line of annotation text <Mtext>: "));
     const RecordId made = createLeader(context, draft);
     if (isValid(made) && !text.isEmpty())
         addLeaderText(context, made, draft, text, width.hasValue() ? width.real : 0.0);
@@ -286,10 +289,10 @@ CommandTask quickLeader(CommandContext &context)
 Dialogue<bool> drawDimensionLeader(CommandContext &context, QString usualText)
 {
     LeaderDraft draft;
-    const PromptReply start = co_await context.neededPoint(u"Leader start: "_s);
+    const PromptReply start = co_await context.neededPoint(Commands::tr("Leader start: "));
     draft.points = {start.point};
     for (;;) {
-        const PromptReply next = co_await context.point(u"To point: "_s, u"Undo"_s, draft.points.back());
+        const PromptReply next = co_await context.point(Commands::tr("To point: "), u"Undo"_s, draft.points.back());
         if (next.hasValue())
             draft.points.push_back(next.point);
         else if (!next.isKeyword(u"Undo"))
@@ -299,7 +302,8 @@ Dialogue<bool> drawDimensionLeader(CommandContext &context, QString usualText)
     }
     if (draft.points.size() < 2)
         co_return false;
-    const PromptReply text = co_await context.text(u"Enter dimension text <%1>: "_s.arg(usualText), usualText);
+    const PromptReply text =
+        co_await context.text(Commands::tr("Enter dimension text <%1>: ").arg(usualText), usualText);
     const bool isTyped = text.hasValue() && !text.text.isEmpty();
     const QString content = isTyped ? text.text : usualText;
     const RecordId made = createLeader(context, draft);

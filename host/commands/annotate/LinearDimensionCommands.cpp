@@ -2,6 +2,7 @@
 #include "host/commands/annotate/DimensionDialogues.h"
 #include "host/commands/annotate/MeasuredObject.h"
 #include "host/kernel/documents/Document.h"
+#include "host/kernel/languages/Texts.h"
 
 #include <numbers>
 
@@ -53,14 +54,14 @@ Dialogue<std::optional<MeasuredSpan>> askSpan(CommandContext &context)
 {
     const UserPlane plane(context.document());
     const PromptReply first =
-        co_await context.point(u"Specify first extension line origin or <select object>: "_s, {}, {});
+        co_await context.point(Commands::tr("Specify first extension line origin or <select object>: "), {}, {});
     if (first.hasValue()) {
         const PromptReply second =
-            co_await context.neededPoint(u"Specify second extension line origin: "_s, first.point);
+            co_await context.neededPoint(Commands::tr("Specify second extension line origin: "), first.point);
         co_return MeasuredSpan{.first = plane.userFromWorld(first.point), .second = plane.userFromWorld(second.point)};
     }
     for (;;) {
-        const PromptReply picked = co_await context.entity(u"Select object to dimension: "_s);
+        const PromptReply picked = co_await context.entity(Commands::tr("Select object to dimension: "));
         if (picked.entities.empty()) {
             if (!picked.isMiss)
                 co_return std::nullopt;
@@ -68,7 +69,7 @@ Dialogue<std::optional<MeasuredSpan>> askSpan(CommandContext &context)
         }
         if (const auto object = measuredObject(context.drawing(), picked.entities.front(), picked.point))
             co_return spanOf(*object, picked.point, plane);
-        if (context.refuse(u"Object selected is not a line, arc, circle or piece of a polyline."_s))
+        if (context.refuse(Commands::tr("Object selected is not a line, arc, circle or piece of a polyline.")))
             co_return std::nullopt;
     }
 }
@@ -113,7 +114,8 @@ drawing::FieldList linearFields(const UserPlane &plane, const MeasuredSpan &span
 
 Dialogue<double> askLineAngle(CommandContext &context)
 {
-    const PromptReply turn = co_await context.orientation(u"Specify angle of dimension line <0>: "_s, {}, {}, u"0"_s);
+    const PromptReply turn =
+        co_await context.orientation(Commands::tr("Specify angle of dimension line <0>: "), {}, {}, u"0"_s);
     co_return turn.hasValue() ? turn.real : 0.0;
 }
 
@@ -134,7 +136,7 @@ Dialogue<PromptReply> askLinePlace(CommandContext &context, MeasuredSpan span, s
     const UserPlane plane(context.document());
     QString options = angle ? u"Mtext/Text/Angle"_s : u"Mtext/Text/Angle/Horizontal/Vertical/Rotated"_s;
     for (;;) {
-        const LineQuestion question{u"Specify dimension line location or [%1]: "_s.arg(options),
+        const LineQuestion question{Commands::tr("Specify dimension line location or [%1]: ").arg(options),
                                     plane.worldFromUser(span.second),
                                     context.shownLength(spanAlong(span, angle.value_or(0.0)))};
         const PromptReply place = co_await askDimensionLine(context, question, answers);
@@ -155,12 +157,12 @@ Dialogue<bool> dimensionAligned(CommandContext &context, MeasuredSpan span, Text
     const UserPlane plane(context.document());
     const Vec2 along = span.second.xy() - span.first.xy();
     if (along == Vec2{}) {
-        context.fail(u"The two points are one."_s);
+        context.fail(Commands::tr("The two points are one."));
         co_return false;
     }
     DimensionAnswers answers;
     const QString measured = context.shownLength(along.length());
-    const LineQuestion question{u"Specify dimension line location or [Mtext/Text/Angle]: "_s,
+    const LineQuestion question{Commands::tr("Specify dimension line location or [Mtext/Text/Angle]: "),
                                 plane.worldFromUser(span.second), measured};
     const PromptReply place = co_await askDimensionLine(context, question, answers);
     co_await askTextBehind(context, asked, measured, answers);
@@ -217,15 +219,15 @@ Dialogue<bool> dimensionOrdinate(CommandContext &context, TextAsked asked)
     constexpr int ordinateKind = 6;
     constexpr int alongX = 64;
     const UserPlane plane(context.document());
-    const PromptReply feature = co_await context.neededPoint(u"Specify feature location: "_s);
+    const PromptReply feature = co_await context.neededPoint(Commands::tr("Specify feature location: "));
     const Vec2 at = plane.userFromWorld(feature.point).xy();
     std::optional<bool> isX;
     const auto measured = [&] { return context.shownLength(std::abs(isX.value_or(true) ? at.x : at.y)); };
     DimensionAnswers answers;
     PromptReply end;
     for (;;) {
-        const LineQuestion question{u"Specify leader endpoint or [Xdatum/Ydatum/Mtext/Text/Angle]: "_s, feature.point,
-                                    measured()};
+        const LineQuestion question{Commands::tr("Specify leader endpoint or [Xdatum/Ydatum/Mtext/Text/Angle]: "),
+                                    feature.point, measured()};
         end = co_await askDimensionLine(context, question, answers);
         if (end.hasValue())
             break;

@@ -5,6 +5,7 @@
 #include "host/drawing/math/Angles.h"
 #include "host/drawing/math/Curves.h"
 #include "host/kernel/documents/Document.h"
+#include "host/kernel/languages/Texts.h"
 
 #include <cmath>
 
@@ -122,7 +123,7 @@ bool isInUserPlane(CommandContext &context, const MeasuredObject &round)
     const Vec3 up = plane.worldFromUser({0.0, 0.0, 1.0}) - plane.worldFromUser({});
     if (std::abs(dot(up, round.plane.zAxis)) > 1.0 - 1e-6)
         return true;
-    context.fail(QStringLiteral("The object is not parallel to the current UCS."));
+    context.fail(Commands::tr("The object is not parallel to the current UCS."));
     return false;
 }
 

@@ -7,6 +7,7 @@
 #include "host/drawing/records/Blocks.h"
 #include "host/drawing/records/Entities.h"
 #include "host/kernel/documents/Document.h"
+#include "host/kernel/languages/Texts.h"
 
 #include <algorithm>
 #include <cmath>
@@ -34,7 +35,8 @@ Dialogue<bool> askLineType(CommandContext &context, MultiLeaderForm &form)
 {
     const QStringList names = {u"None"_s, u"Straight"_s, u"sPline"_s};
     const QString usual = names[std::clamp<qsizetype>(form.lineType, 0, 2)];
-    const QString chosen = co_await askUsualOption(context, u"Select a leader type [Straight/sPline/None]"_s, usual);
+    const QString chosen =
+        co_await askUsualOption(context, Commands::tr("Select a leader type [Straight/sPline/None]"), usual);
     form.lineType = names.indexOf(chosen);
     form.overrides |= OwnLineType;
     co_return true;
@@ -42,9 +44,9 @@ Dialogue<bool> askLineType(CommandContext &context, MultiLeaderForm &form)
 
 Dialogue<bool> askLanding(CommandContext &context, MultiLeaderForm &form)
 {
-    form.hasLanding = co_await askYesNo(context, u"Use landing [Yes/No]"_s, form.hasLanding);
+    form.hasLanding = co_await askYesNo(context, Commands::tr("Use landing [Yes/No]"), form.hasLanding);
     if (form.hasLanding)
-        form.landing = co_await askUsualLength(context, u"Specify fixed landing distance"_s, form.landing);
+        form.landing = co_await askUsualLength(context, Commands::tr("Specify fixed landing distance"), form.landing);
     form.overrides |= OwnLanding;
     co_return true;
 }
@@ -54,14 +56,15 @@ Dialogue<bool> askContent(CommandContext &context, MultiLeaderForm &form)
 {
     const QStringList names = {u"None"_s, u"Block"_s, u"Mtext"_s};
     const QString usual = names[std::clamp<qsizetype>(form.content, 0, 2)];
-    const QString chosen = co_await askUsualOption(context, u"Select a content type [Block/Mtext/None]"_s, usual);
+    const QString chosen =
+        co_await askUsualOption(context, Commands::tr("Select a content type [Block/Mtext/None]"), usual);
     form.overrides |= OwnContent;
     if (chosen != u"Block") {
         form.content = names.indexOf(chosen);
         co_return true;
     }
     for (;;) {
-        const PromptReply name = co_await context.text(u"Enter block name: "_s);
+        const PromptReply name = co_await context.text(Commands::tr("Enter block name: "));
         const QString block = name.text.trimmed();
         if (isValid(context.drawing().blocks().find(block))) {
             form.content = MultiLeaderForm::Block;
@@ -69,7 +72,7 @@ Dialogue<bool> askContent(CommandContext &context, MultiLeaderForm &form)
             form.overrides |= OwnBlock;
             co_return true;
         }
-        if (context.refuse(u"Cannot find block \"%1\"."_s.arg(block)))
+        if (context.refuse(Commands::tr("Cannot find block \"%1\".").arg(block)))
             co_return false;
     }
 }
@@ -78,10 +81,10 @@ Dialogue<bool> askMostPoints(CommandContext &context, MultiLeaderForm &form)
 {
     const QString usual = form.mostPoints == 0 ? u"None"_s : QString::number(form.mostPoints);
     for (;;) {
-        const PromptReply reply =
-            co_await context.integer(u"Enter the maximum points for leader or [None] <%1>: "_s.arg(usual), {}, usual);
+        const PromptReply reply = co_await context.integer(
+            Commands::tr("Enter the maximum points for leader or [None] <%1>: ").arg(usual), {}, usual);
         if (reply.hasValue() && reply.integer < 2) {
-            if (context.refuse(u"A leader has two points at least."_s))
+            if (context.refuse(Commands::tr("A leader has two points at least.")))
                 co_return false;
             continue;
         }
@@ -90,11 +93,10 @@ Dialogue<bool> askMostPoints(CommandContext &context, MultiLeaderForm &form)
     }
 }
 
-Dialogue<double> askConstraint(CommandContext &context, QString which, double usual)
+Dialogue<double> askConstraint(CommandContext &context, QString prompt, double usual)
 {
     const QString shown = context.shownAngle(usual);
-    const PromptReply reply =
-        co_await context.angle(u"Enter %1 angle constraint <%2>: "_s.arg(which, shown), {}, {}, shown);
+    const PromptReply reply = co_await context.angle(prompt.arg(shown), {}, {}, shown);
     co_return reply.hasValue() ? std::abs(reply.real) : usual;
 }
 
@@ -103,8 +105,8 @@ Dialogue<bool> askMultiLeaderOptions(CommandContext &context, MultiLeaderForm &f
 {
     for (;;) {
         const PromptReply option = co_await context.keyword(
-            u"Enter an option [Leader type/leader lAnding/Content type/Maxpoints/First angle/Second angle/"
-            "eXit options] <eXit options>: "_s,
+            Commands::tr("Enter an option [Leader type/leader lAnding/Content type/Maxpoints/First angle/Second angle/"
+                         "eXit options] <eXit options>: "),
             u"Leader lAnding Content Maxpoints First Second eXit"_s, u"eXit options"_s);
         bool goesOn = true;
         if (option.text == u"Leader")
@@ -116,9 +118,11 @@ Dialogue<bool> askMultiLeaderOptions(CommandContext &context, MultiLeaderForm &f
         else if (option.text == u"Maxpoints")
             goesOn = co_await askMostPoints(context, form);
         else if (option.text == u"First")
-            form.firstAngle = co_await askConstraint(context, u"first"_s, form.firstAngle);
+            form.firstAngle =
+                co_await askConstraint(context, Commands::tr("Enter first angle constraint <%1>: "), form.firstAngle);
         else if (option.text == u"Second")
-            form.secondAngle = co_await askConstraint(context, u"second"_s, form.secondAngle);
+            form.secondAngle =
+                co_await askConstraint(context, Commands::tr("Enter second angle constraint <%1>: "), form.secondAngle);
         else
             co_return true;
         if (!goesOn)
@@ -162,7 +166,8 @@ Dialogue<bool> askPointsBehindArrow(CommandContext &context, MultiLeaderDraft &d
     for (;;) {
         const bool isLast = qint64(draft.points.size()) == most - 1;
         const bool isEnough = draft.points.size() >= 2;
-        const QString prompt = isLast ? u"Specify leader landing location: "_s : u"Specify next point: "_s;
+        const QString prompt =
+            isLast ? Commands::tr("Specify leader landing location: ") : Commands::tr("Specify next point: ");
         const int bits = isEnough ? 0 : NoEmptyAnswer;
         const PromptReply next = co_await context.point(prompt, {}, draft.points.back(), {}, bits);
         if (!next.hasValue())
@@ -180,7 +185,7 @@ Dialogue<bool> askNoteText(CommandContext &context, MultiLeaderDraft &draft)
 {
     if (draft.form.content != MultiLeaderForm::Text)
         co_return false;
-    const PromptReply text = co_await context.text(u"Enter text: "_s);
+    const PromptReply text = co_await context.text(Commands::tr("Enter text: "));
     draft.text = text.text;
     co_return true;
 }
@@ -190,12 +195,12 @@ Dialogue<Vec3> askLandingFirst(CommandContext &context, MultiLeaderDraft &draft,
 {
     const bool isText = first == FirstPart::Content && draft.form.content == MultiLeaderForm::Text;
     const bool isBlock = first == FirstPart::Content && draft.form.content == MultiLeaderForm::Block;
-    const QString prompt = isText    ? u"Specify first corner of text: "_s
-                           : isBlock ? u"Specify insertion point for block: "_s
-                                     : u"Specify leader landing location: "_s;
+    const QString prompt = isText    ? Commands::tr("Specify first corner of text: ")
+                           : isBlock ? Commands::tr("Specify insertion point for block: ")
+                                     : Commands::tr("Specify leader landing location: ");
     const PromptReply place = co_await context.neededPoint(prompt);
     if (isText) {
-        co_await context.neededPoint(u"Specify opposite corner: "_s, place.point);
+        co_await context.neededPoint(Commands::tr("Specify opposite corner: "), place.point);
         co_await askNoteText(context, draft);
     }
     co_return place.point;
@@ -206,7 +211,8 @@ Dialogue<std::optional<FirstPart>> askFirstPart(CommandContext &context, MultiLe
 {
     for (;;) {
         const PromptReply first = co_await context.point(
-            u"Specify leader arrowhead location or [leader Landing first/Content first/Options] <Options>: "_s,
+            Commands::tr(
+                "Specify leader arrowhead location or [leader Landing first/Content first/Options] <Options>: "),
             u"Landing Content Options"_s, {}, u"Options"_s);
         if (first.hasValue()) {
             draft.points = {first.point};
@@ -225,7 +231,7 @@ bool mayHaveMultiLeaders(CommandContext &context)
 {
     if (context.drawing().version() >= drawing::Version::R2007)
         return true;
-    context.fail(u"A drawing of this version has no multileaders: they come with R2007."_s);
+    context.fail(Commands::tr("A drawing of this version has no multileaders: they come with R2007."));
     return false;
 }
 
@@ -243,7 +249,8 @@ CommandTask multiLeader(CommandContext &context)
         co_await askPointsBehindArrow(context, draft);
     } else {
         const Vec3 landing = co_await askLandingFirst(context, draft, *first);
-        const PromptReply arrow = co_await context.neededPoint(u"Specify leader arrowhead location: "_s, landing);
+        const PromptReply arrow =
+            co_await context.neededPoint(Commands::tr("Specify leader arrowhead location: "), landing);
         draft.points = {arrow.point, landing};
     }
     if (*first != FirstPart::Content)
@@ -268,7 +275,7 @@ Dialogue<RecordId> askMultiLeader(CommandContext &context, QString prompt)
         const RecordId entity = picked.entities.front();
         if (isMultiLeader(context.drawing(), entity) && !editable(context, {entity}).empty())
             co_return entity;
-        if (context.refuse(u"Object selected is not a multileader."_s))
+        if (context.refuse(Commands::tr("Object selected is not a multileader.")))
             co_return drawing::noRecord;
     }
 }
@@ -276,11 +283,11 @@ Dialogue<RecordId> askMultiLeader(CommandContext &context, QString prompt)
 // A multileader, then arrows that it gets, or places of lines that it loses.
 CommandTask editMultiLeader(CommandContext &context)
 {
-    const RecordId note = co_await askMultiLeader(context, u"Select a multileader: "_s);
+    const RecordId note = co_await askMultiLeader(context, Commands::tr("Select a multileader: "));
     bool isRemoving = false;
     while (isValid(note)) {
-        const QString prompt = isRemoving ? u"Specify leaders to remove or [Add leaders]: "_s
-                                          : u"Specify leader arrowhead location or [Remove leaders]: "_s;
+        const QString prompt = isRemoving ? Commands::tr("Specify leaders to remove or [Add leaders]: ")
+                                          : Commands::tr("Specify leader arrowhead location or [Remove leaders]: ");
         const PromptReply reply = co_await context.point(prompt, {}, {});
         if (!reply.hasValue() && !reply.isKeyword(u"Remove") && !reply.isKeyword(u"Add"))
             break;
@@ -294,7 +301,7 @@ CommandTask editMultiLeader(CommandContext &context)
         if (isDone)
             context.drawing().setFields(note, fields);
         else
-            context.print(u"\nThe multileader has no leader there."_s);
+            context.print(Commands::tr("\nThe multileader has no leader there."));
     }
 }
 
@@ -335,12 +342,12 @@ struct NoteSpacing
 Dialogue<bool> askNoteSpacing(CommandContext &context, NoteSpacing &spacing)
 {
     const PromptReply option = co_await context.keyword(
-        u"Enter an option [Distribute/specify Spacing/Use current spacing] <Use current spacing>: "_s,
+        Commands::tr("Enter an option [Distribute/specify Spacing/Use current spacing] <Use current spacing>: "),
         u"Distribute Spacing Use"_s, u"Use current spacing"_s);
     spacing.isDistributed = option.text == u"Distribute";
     spacing.distance = 0.0;
     if (option.text == u"Spacing")
-        spacing.distance = co_await askUsualLength(context, u"Specify spacing"_s, 0.0);
+        spacing.distance = co_await askUsualLength(context, Commands::tr("Specify spacing"), 0.0);
     co_return true;
 }
 
@@ -371,25 +378,25 @@ void alignNotes(CommandContext &context, const std::vector<RecordId> &entities, 
 // Multileaders, one of them that stays, and the direction of the line on which they stand from then on.
 CommandTask alignMultiLeaders(CommandContext &context)
 {
-    const PromptReply chosen = co_await context.selection(u"Select multileaders: "_s);
+    const PromptReply chosen = co_await context.selection(Commands::tr("Select multileaders: "));
     std::vector<RecordId> notes = editable(context, chosen.entities);
     std::erase_if(notes, [&](RecordId id) { return !isMultiLeader(context.drawing(), id); });
     if (notes.empty()) {
-        context.fail(u"No multileaders were selected."_s);
+        context.fail(Commands::tr("No multileaders were selected."));
         co_return;
     }
     NoteSpacing spacing;
     PromptReply picked;
     for (;;) {
         if (spacing.isDistributed) {
-            const PromptReply from = co_await context.neededPoint(u"Specify first point or [Options]: "_s);
+            const PromptReply from = co_await context.neededPoint(Commands::tr("Specify first point or [Options]: "));
             if (from.hasValue()) {
-                const PromptReply to = co_await context.neededPoint(u"Specify second point: "_s, from.point);
+                const PromptReply to = co_await context.neededPoint(Commands::tr("Specify second point: "), from.point);
                 distributeNotes(context, notes, from.point, to.point);
                 co_return;
             }
         } else {
-            picked = co_await context.entity(u"Select multileader to align to or [Options]: "_s);
+            picked = co_await context.entity(Commands::tr("Select multileader to align to or [Options]: "));
             if (picked.isMiss)
                 continue;
             if (!picked.isKeyword(u"Options"))
@@ -404,10 +411,10 @@ CommandTask alignMultiLeaders(CommandContext &context)
                           ? drawing::multiLeaderBase(context.drawing().fields(anchor))
                           : std::nullopt;
     if (!base) {
-        context.fail(u"Object selected is not a multileader."_s);
+        context.fail(Commands::tr("Object selected is not a multileader."));
         co_return;
     }
-    const PromptReply end = co_await context.neededPoint(u"Specify direction: "_s, *base);
+    const PromptReply end = co_await context.neededPoint(Commands::tr("Specify direction: "), *base);
     const Vec3 direction = drawing::normalized(end.point - *base);
     if (std::ranges::find(notes, anchor) == notes.end())
         notes.push_back(anchor);

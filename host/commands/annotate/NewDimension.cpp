@@ -9,6 +9,7 @@
 #include "host/drawing/records/Tables.h"
 #include "host/drawing/tags/GroupCodes.h"
 #include "host/kernel/documents/Document.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/variables/SystemVariables.h"
 
 #include <numbers>
@@ -166,11 +167,11 @@ Dialogue<PromptReply> askDimensionLine(CommandContext &context, LineQuestion que
     for (;;) {
         const PromptReply place = co_await context.neededPoint(question.prompt, question.base);
         if (place.isKeyword(u"Mtext") || place.isKeyword(u"Text")) {
-            const PromptReply text =
-                co_await context.text(u"Enter dimension text <%1>: "_s.arg(question.measured), question.measured);
+            const PromptReply text = co_await context.text(
+                Commands::tr("Enter dimension text <%1>: ").arg(question.measured), question.measured);
             answers.text = text.hasValue() ? text.text : QString();
         } else if (place.isKeyword(u"Angle")) {
-            const PromptReply angle = co_await context.orientation(u"Specify angle of dimension text: "_s);
+            const PromptReply angle = co_await context.orientation(Commands::tr("Specify angle of dimension text: "));
             answers.textAngle = angle.hasValue() ? std::optional(angle.real) : std::nullopt;
         } else {
             co_return place;
@@ -183,7 +184,7 @@ Dialogue<bool> askTextBehind(CommandContext &context, TextAsked asked, QString m
     if (asked == TextAsked::AsOption)
         co_return false;
     const QString usual = answers.text.isEmpty() ? measured : answers.text;
-    const PromptReply text = co_await context.text(u"Enter dimension text <%1>: "_s.arg(usual), usual);
+    const PromptReply text = co_await context.text(Commands::tr("Enter dimension text <%1>: ").arg(usual), usual);
     if (text.hasValue() && !text.text.isEmpty())
         answers.text = text.text;
     co_return true;
@@ -212,7 +213,7 @@ RecordId createDimension(CommandContext &context, FieldList fields, const Dimens
     if (const auto data = readDimension(drawing, made, drawing.tags(made))) {
         drawing::DimensionData measured = *data;
         measured.text.clear();
-        context.print(u"\nDimension text = "_s +
+        context.print(Commands::tr("\nDimension text = ") +
                       drawing::dimensionText(measured, readDimensionStyle(drawing, drawing.tags(made))));
     }
     if (context.document().variables().integer(u"DIMASSOC", 2) == 0)

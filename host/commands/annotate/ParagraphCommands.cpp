@@ -9,6 +9,7 @@
 #include "host/drawing/text/ParagraphColumns.h"
 #include "host/kernel/documents/Document.h"
 #include "host/kernel/input/Units.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/view/build/TextMeasure.h"
 
 #include <cmath>
@@ -82,8 +83,8 @@ Dialogue<qint64> askAttachment(CommandContext &context, qint64 usual)
     QStringList options;
     for (const char *option : attachments)
         options.append(QLatin1String(option));
-    const QString chosen =
-        co_await askUsualOption(context, u"Enter justification [%1]"_s.arg(options.join(u'/')), options[usual - 1]);
+    const QString chosen = co_await askUsualOption(
+        context, Commands::tr("Enter justification [%1]").arg(options.join(u'/')), options[usual - 1]);
     co_return options.indexOf(chosen) + 1;
 }
 
@@ -103,20 +104,20 @@ std::optional<double> spacingOf(CommandContext &context, QString text, double he
 /// False when the command fails with an answer.
 Dialogue<bool> askSpacing(CommandContext &context, ParagraphPlace &place)
 {
-    const QString style = co_await askUsualOption(context, u"Enter line spacing type [At least/Exactly]"_s,
+    const QString style = co_await askUsualOption(context, Commands::tr("Enter line spacing type [At least/Exactly]"),
                                                   place.spacingStyle == 2 ? u"Exactly"_s : u"At"_s);
     place.spacingStyle = style == u"Exactly" ? 2 : 1;
     for (;;) {
         const QString usual = QString::number(place.spacing) + u'x';
         const PromptReply reply =
-            co_await context.name(u"Enter line spacing factor or distance <%1>: "_s.arg(usual), usual);
+            co_await context.name(Commands::tr("Enter line spacing factor or distance <%1>: ").arg(usual), usual);
         if (!reply.hasValue() || reply.text.isEmpty())
             co_return true;
         if (const std::optional<double> factor = spacingOf(context, reply.text, place.height)) {
             place.spacing = *factor;
             co_return true;
         }
-        if (context.refuse(u"Lines are 0.25x to 4x of the usual distance apart."_s))
+        if (context.refuse(Commands::tr("Lines are 0.25x to 4x of the usual distance apart.")))
             co_return false;
     }
 }
@@ -133,15 +134,16 @@ enum class AfterOption
 Dialogue<bool> askStaticColumns(CommandContext &context, drawing::ParagraphColumns &columns, double height)
 {
     constexpr int most = 100;
-    const double total = co_await askUsualLength(context, u"Specify total width"_s, 80.0 * height, NoZero | NoNegative);
-    const PromptReply number = co_await context.integer(u"Specify number of columns <2>: "_s, {}, u"2"_s);
+    const double total =
+        co_await askUsualLength(context, Commands::tr("Specify total width"), 80.0 * height, NoZero | NoNegative);
+    const PromptReply number = co_await context.integer(Commands::tr("Specify number of columns <2>: "), {}, u"2"_s);
     columns.count = number.hasValue() ? number.integer : 2;
-    columns.gutter = co_await askUsualLength(context, u"Specify gutter width"_s, 5.0 * height);
+    columns.gutter = co_await askUsualLength(context, Commands::tr("Specify gutter width"), 5.0 * height);
     const double count = static_cast<double>(columns.count);
     columns.width = columns.count > 0 ? (total - (count - 1.0) * columns.gutter) / count : 0.0;
     if (columns.width > 0.0 && columns.count <= most)
         co_return true;
-    context.fail(u"So many columns do not fit into this width."_s);
+    context.fail(Commands::tr("So many columns do not fit into this width."));
     co_return false;
 }
 
@@ -149,8 +151,9 @@ Dialogue<bool> askDynamicColumns(CommandContext &context, drawing::ParagraphColu
 {
     columns.isDynamic = true;
     columns.isAutoHeight = true;
-    columns.width = co_await askUsualLength(context, u"Specify column width"_s, 30.0 * height, NoZero | NoNegative);
-    columns.gutter = co_await askUsualLength(context, u"Specify gutter width"_s, 5.0 * height);
+    columns.width =
+        co_await askUsualLength(context, Commands::tr("Specify column width"), 30.0 * height, NoZero | NoNegative);
+    columns.gutter = co_await askUsualLength(context, Commands::tr("Specify gutter width"), 5.0 * height);
     co_return true;
 }
 
@@ -158,12 +161,12 @@ Dialogue<bool> askDynamicColumns(CommandContext &context, drawing::ParagraphColu
 Dialogue<AfterOption> askColumns(CommandContext &context, ParagraphPlace &place)
 {
     const QString type =
-        co_await askUsualOption(context, u"Enter column type [Dynamic/Static/No columns]"_s, u"Dynamic"_s);
+        co_await askUsualOption(context, Commands::tr("Enter column type [Dynamic/Static/No columns]"), u"Dynamic"_s);
     place.columns.reset();
     if (type == u"No")
         co_return AfterOption::AskOn;
     if (context.drawing().version() < drawing::Version::R2007) {
-        context.fail(u"A drawing of this version has no columns in texts: they come with R2007."_s);
+        context.fail(Commands::tr("A drawing of this version has no columns in texts: they come with R2007."));
         co_return AfterOption::Abandon;
     }
     drawing::ParagraphColumns columns;
@@ -172,8 +175,8 @@ Dialogue<AfterOption> askColumns(CommandContext &context, ParagraphPlace &place)
         co_return AfterOption::Abandon;
     if (!isStatic)
         co_await askDynamicColumns(context, columns, place.height);
-    columns.definedHeight =
-        co_await askUsualLength(context, u"Specify column height"_s, 10.0 * place.height, NoZero | NoNegative);
+    columns.definedHeight = co_await askUsualLength(context, Commands::tr("Specify column height"), 10.0 * place.height,
+                                                    NoZero | NoNegative);
     place.columns = columns;
     co_return AfterOption::WriteText;
 }
@@ -181,8 +184,8 @@ Dialogue<AfterOption> askColumns(CommandContext &context, ParagraphPlace &place)
 Dialogue<AfterOption> takeParagraphOption(CommandContext &context, ParagraphPlace &place, QString option)
 {
     if (option == u"Height") {
-        place.height =
-            co_await askUsualLength(context, u"Specify height"_s, place.height, NoZero | NoNegative, place.at);
+        place.height = co_await askUsualLength(context, Commands::tr("Specify height"), place.height,
+                                               NoZero | NoNegative, place.at);
         keepValue(context, u"TEXTSIZE", place.height);
     } else if (option == u"Justify") {
         place.attachment = co_await askAttachment(context, place.attachment);
@@ -192,7 +195,7 @@ Dialogue<AfterOption> takeParagraphOption(CommandContext &context, ParagraphPlac
     } else if (option == u"Rotation") {
         const QString usual = context.shownAngle(place.angle);
         const PromptReply turn =
-            co_await context.orientation(u"Specify rotation angle <%1>: "_s.arg(usual), {}, place.at, usual);
+            co_await context.orientation(Commands::tr("Specify rotation angle <%1>: ").arg(usual), {}, place.at, usual);
         place.angle = turn.hasValue() ? turn.real : place.angle;
     } else if (option == u"Style") {
         if (!co_await askTextStyle(context))
@@ -200,7 +203,7 @@ Dialogue<AfterOption> takeParagraphOption(CommandContext &context, ParagraphPlac
         if (const double fixed = currentTextStyle(context).fixedHeight; fixed > 0.0)
             place.height = fixed;
     } else if (option == u"Width") {
-        place.width = co_await askUsualLength(context, u"Specify width"_s, 0.0, NoNegative, place.at);
+        place.width = co_await askUsualLength(context, Commands::tr("Specify width"), 0.0, NoNegative, place.at);
         co_return AfterOption::WriteText;
     } else {
         co_return co_await askColumns(context, place);
@@ -232,11 +235,12 @@ Dialogue<std::optional<ParagraphPlace>> askParagraphPlace(CommandContext &contex
     ParagraphPlace place;
     const double fixed = currentTextStyle(context).fixedHeight;
     place.height = fixed > 0.0 ? fixed : context.document().variables().real(u"TEXTSIZE", 0.2);
-    const PromptReply first = co_await context.neededPoint(u"Specify first corner: "_s);
+    const PromptReply first = co_await context.neededPoint(Commands::tr("Specify first corner: "));
     place.at = first.point;
     for (;;) {
         const PromptReply reply = co_await context.neededPoint(
-            u"Specify opposite corner or [Height/Justify/Line spacing/Rotation/Style/Width/Columns]: "_s, place.at);
+            Commands::tr("Specify opposite corner or [Height/Justify/Line spacing/Rotation/Style/Width/Columns]: "),
+            place.at);
         if (reply.hasValue()) {
             placeInBox(context, place, reply.point);
             co_return place;
@@ -253,14 +257,14 @@ Dialogue<std::optional<ParagraphPlace>> askParagraphPlace(CommandContext &contex
 CommandTask paragraph(CommandContext &context)
 {
     const SystemVariables &variables = context.document().variables();
-    context.print(u"\nCurrent text style:  \"%1\"  Text height:  %2"_s.arg(
-        variables.text(u"TEXTSTYLE"), context.shownLength(variables.real(u"TEXTSIZE"))));
+    context.print(Commands::tr("\nCurrent text style:  \"%1\"  Text height:  %2")
+                      .arg(variables.text(u"TEXTSTYLE"), context.shownLength(variables.real(u"TEXTSIZE"))));
     const std::optional<ParagraphPlace> place = co_await askParagraphPlace(context);
     if (!place)
         co_return;
     QStringList lines;
     for (;;) {
-        const PromptReply line = co_await context.text(u"MText: "_s);
+        const PromptReply line = co_await context.text(Commands::tr("MText: "));
         if (!line.hasValue() || line.text.isEmpty())
             break;
         lines.append(line.text);
@@ -308,7 +312,7 @@ CommandTask textsToParagraph(CommandContext &context)
     const PromptReply chosen = co_await context.selection();
     const std::vector<TextLine> lines = sortedLines(context, editable(context, chosen.entities));
     if (lines.empty()) {
-        context.fail(u"No texts were selected."_s);
+        context.fail(Commands::tr("No texts were selected."));
         co_return;
     }
     const FieldList &top = lines.front().fields;
@@ -333,7 +337,7 @@ CommandTask textsToParagraph(CommandContext &context)
         co_return;
     for (const TextLine &line : lines)
         eraseAll(context, {line.record});
-    context.print(u"\n%1 texts became one paragraph."_s.arg(lines.size()));
+    context.print(Commands::tr("\n%1 texts became one paragraph.").arg(lines.size()));
 }
 
 } // namespace

@@ -5,6 +5,7 @@
 #include "host/drawing/records/Tables.h"
 #include "host/kernel/documents/Document.h"
 #include "host/kernel/input/Units.h"
+#include "host/kernel/languages/Texts.h"
 
 using namespace Qt::StringLiterals;
 
@@ -35,7 +36,7 @@ Dialogue<std::optional<PickedRound>> askRound(CommandContext &context, QString p
         const auto object = measuredObject(context.drawing(), picked.entities.front(), picked.point);
         if (object && !object->isStraight())
             co_return PickedRound{*object, picked.point};
-        if (context.refuse(u"Object selected is not a circle or arc."_s))
+        if (context.refuse(Commands::tr("Object selected is not a circle or arc.")))
             co_return std::nullopt;
     }
 }
@@ -62,8 +63,9 @@ Dialogue<Vec3> askLeaderEnd(CommandContext &context, MeasuredObject round, Vec3 
 {
     const UserPlane plane(context.document());
     const Vec3 near = pointTowards(round, plane, pickedAt);
-    const PromptReply reply = co_await context.point(u"Specify dimension line location or leader length for text: "_s,
-                                                     {}, plane.worldFromUser(near), {}, AnyText);
+    const PromptReply reply =
+        co_await context.point(Commands::tr("Specify dimension line location or leader length for text: "), {},
+                               plane.worldFromUser(near), {}, AnyText);
     if (reply.hasValue())
         co_return reply.point;
     const auto length = UnitFormat::of(context.document().variables()).parseLength(reply.text.trimmed());
@@ -79,8 +81,8 @@ Dialogue<Vec3> askRoundPlace(CommandContext &context, PickedRound round, QString
 {
     if (co_await askTextBehind(context, asked, measured, answers))
         co_return co_await askLeaderEnd(context, round.object, round.at);
-    const LineQuestion question{u"Specify dimension line location or [Mtext/Text/Angle]: "_s, round.object.center,
-                                measured};
+    const LineQuestion question{Commands::tr("Specify dimension line location or [Mtext/Text/Angle]: "),
+                                round.object.center, measured};
     const PromptReply place = co_await askDimensionLine(context, question, answers);
     co_return place.point;
 }
@@ -100,20 +102,21 @@ CommandTask joggedDimension(CommandContext &context)
 {
     constexpr qint64 withMovedText = 9 | 128;
     if (context.drawing().version() < drawing::Version::R2004) {
-        context.fail(u"A drawing of this version has no jogged dimensions of radii: they come with R2004."_s);
+        context.fail(
+            Commands::tr("A drawing of this version has no jogged dimensions of radii: they come with R2004."));
         co_return;
     }
     const UserPlane plane(context.document());
-    const std::optional<PickedRound> round = co_await askRound(context, u"Select arc or circle: "_s);
+    const std::optional<PickedRound> round = co_await askRound(context, Commands::tr("Select arc or circle: "));
     if (!round || !isInUserPlane(context, round->object))
         co_return;
     const MeasuredObject &object = round->object;
-    const PromptReply center = co_await context.neededPoint(u"Specify center location override: "_s);
+    const PromptReply center = co_await context.neededPoint(Commands::tr("Specify center location override: "));
     DimensionAnswers answers;
-    const LineQuestion question{u"Specify dimension line location or [Mtext/Text/Angle]: "_s, center.point,
+    const LineQuestion question{Commands::tr("Specify dimension line location or [Mtext/Text/Angle]: "), center.point,
                                 context.shownLength(object.radius)};
     const PromptReply place = co_await askDimensionLine(context, question, answers);
-    const PromptReply jog = co_await context.neededPoint(u"Specify jog location: "_s);
+    const PromptReply jog = co_await context.neededPoint(Commands::tr("Specify jog location: "));
     createDimension(context,
                     {{0, u"LARGE_RADIAL_DIMENSION"_s},
                      {10, object.center},
@@ -151,7 +154,7 @@ CommandTask centerMark(CommandContext &context)
 Dialogue<bool> dimensionRound(CommandContext &context, RoundMeasure measure, TextAsked asked)
 {
     const UserPlane plane(context.document());
-    const std::optional<PickedRound> round = co_await askRound(context, u"Select arc or circle: "_s);
+    const std::optional<PickedRound> round = co_await askRound(context, Commands::tr("Select arc or circle: "));
     if (!round || !isInUserPlane(context, round->object))
         co_return false;
     const bool isRadius = measure == RoundMeasure::Radius;
@@ -173,13 +176,13 @@ Dialogue<bool> dimensionRound(CommandContext &context, RoundMeasure measure, Tex
 // An arc or circle: a cross at its centre, with lines past the circle where DIMCEN is negative.
 Dialogue<bool> markCenter(CommandContext &context)
 {
-    const std::optional<PickedRound> round = co_await askRound(context, u"Select arc or circle: "_s);
+    const std::optional<PickedRound> round = co_await askRound(context, Commands::tr("Select arc or circle: "));
     if (!round)
         co_return false;
     const double size = centerMarkSize(context);
     const double length = std::abs(size);
     if (length == 0.0) {
-        context.fail(u"DIMCEN is 0: there is no centre mark."_s);
+        context.fail(Commands::tr("DIMCEN is 0: there is no centre mark."));
         co_return false;
     }
     const UserPlane plane(context.document());

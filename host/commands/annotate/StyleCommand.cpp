@@ -4,6 +4,7 @@
 #include "host/drawing/math/Angles.h"
 #include "host/drawing/records/Tables.h"
 #include "host/kernel/documents/Document.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/view/text/StrokeFontTable.h"
 
 #include <QFileInfo>
@@ -29,11 +30,11 @@ Dialogue<TextStyle> askStyleName(CommandContext &context)
 {
     for (;;) {
         const QString usual = context.document().variables().text(u"TEXTSTYLE");
-        const QString name = co_await askTextStyleName(context, u"Enter name of text style"_s);
+        const QString name = co_await askTextStyleName(context, Commands::tr("Enter name of text style"));
         if (name.isEmpty())
             co_return TextStyle();
         if (name.contains(QRegularExpression(u"[<>/\\\\\":;?*|,=`]"_s))) {
-            if (context.refuse(u"Invalid style name."_s))
+            if (context.refuse(Commands::tr("Invalid style name.")))
                 co_return TextStyle();
             continue;
         }
@@ -65,24 +66,24 @@ bool isStrokeFont(CommandContext &context, const QString &font)
 Dialogue<TextStyle> askStyleLook(CommandContext &context, TextStyle style)
 {
     const QString font = style.fontFile + (style.bigFontFile.isEmpty() ? QString() : u',' + style.bigFontFile);
-    const PromptReply fonts =
-        co_await context.text(u"Specify full font name or font filename (TTF or SHX) <%1>: "_s.arg(font), font);
+    const PromptReply fonts = co_await context.text(
+        Commands::tr("Specify full font name or font filename (TTF or SHX) <%1>: ").arg(font), font);
     if (fonts.hasValue())
         setFonts(style, fonts.text);
-    style.fixedHeight = co_await askUsualLength(context, u"Specify height of text"_s, style.fixedHeight);
+    style.fixedHeight = co_await askUsualLength(context, Commands::tr("Specify height of text"), style.fixedHeight);
     style.widthFactor =
-        co_await askUsualLength(context, u"Specify width factor"_s, style.widthFactor, NoZero | NoNegative);
+        co_await askUsualLength(context, Commands::tr("Specify width factor"), style.widthFactor, NoZero | NoNegative);
     const QString slant = context.shownAngle(style.obliqueAngle * drawing::radians);
     const PromptReply oblique =
-        co_await context.angle(u"Specify obliquing angle <%1>: "_s.arg(slant), {}, {}, slant, SignedAngle);
+        co_await context.angle(Commands::tr("Specify obliquing angle <%1>: ").arg(slant), {}, {}, slant, SignedAngle);
     if (oblique.hasValue())
         style.obliqueAngle = std::remainder(oblique.real, 2.0 * M_PI) / drawing::radians;
     if (std::abs(style.obliqueAngle) > steepestSlant) {
-        context.fail(u"The obliquing angle is from -85 to 85 degrees."_s);
+        context.fail(Commands::tr("The obliquing angle is from -85 to 85 degrees."));
         co_return style;
     }
-    style.isBackward = co_await askYesNo(context, u"Display text backwards?"_s, style.isBackward);
-    style.isUpsideDown = co_await askYesNo(context, u"Display text upside-down?"_s, style.isUpsideDown);
+    style.isBackward = co_await askYesNo(context, Commands::tr("Display text backwards?"), style.isBackward);
+    style.isUpsideDown = co_await askYesNo(context, Commands::tr("Display text upside-down?"), style.isUpsideDown);
     if (isStrokeFont(context, style.fontFile))
         style.isVertical = co_await askYesNo(context, u"Vertical?"_s, style.isVertical);
     else
@@ -124,13 +125,13 @@ CommandTask textStyle(CommandContext &context)
     const TextStyle named = co_await askStyleName(context);
     if (named.name.isEmpty())
         co_return;
-    context.print(isValid(named.record) ? u"\nExisting style."_s : u"\nNew style."_s);
+    context.print(isValid(named.record) ? Commands::tr("\nExisting style.") : Commands::tr("\nNew style."));
     const TextStyle style = co_await askStyleLook(context, named);
     if (context.hasFailed())
         co_return;
     storeStyle(context, style);
     keepValue(context, u"TEXTSTYLE", style.name);
-    context.print(u"\n\"%1\" is now the current text style."_s.arg(style.name));
+    context.print(Commands::tr("\n\"%1\" is now the current text style.").arg(style.name));
 }
 
 } // namespace

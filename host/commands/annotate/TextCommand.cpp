@@ -1,6 +1,7 @@
 #include "host/commands/Commands.h"
 #include "host/commands/annotate/TextPlacement.h"
 #include "host/kernel/documents/Document.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/running/CommandContext.h"
 #include "host/kernel/variables/SystemVariables.h"
 
@@ -14,15 +15,15 @@ namespace {
 CommandTask text(CommandContext &context)
 {
     const SystemVariables &variables = context.document().variables();
-    context.print(u"\nCurrent text style:  \"%1\"  Text height:  %2"_s.arg(
-        variables.text(u"TEXTSTYLE"), context.shownLength(variables.real(u"TEXTSIZE"))));
+    context.print(Commands::tr("\nCurrent text style:  \"%1\"  Text height:  %2")
+                      .arg(variables.text(u"TEXTSTYLE"), context.shownLength(variables.real(u"TEXTSIZE"))));
     const std::optional<TextPlace> start = co_await askTextStart(context);
     if (!start)
         co_return;
     TextPlace place = *start;
     if (!place.isBelow)
         place = co_await askTextSize(context, place);
-    const PromptReply content = co_await context.text(u"Enter text: "_s);
+    const PromptReply content = co_await context.text(Commands::tr("Enter text: "));
     if (!content.hasValue() || content.text.isEmpty())
         co_return;
     keepTextSize(context, place);

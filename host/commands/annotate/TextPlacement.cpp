@@ -6,6 +6,7 @@
 #include "host/drawing/records/Symbols.h"
 #include "host/kernel/documents/CurrentSpace.h"
 #include "host/kernel/documents/Document.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/running/CommandContext.h"
 #include "host/kernel/variables/SystemVariables.h"
 #include "host/view/build/TextMeasure.h"
@@ -60,11 +61,11 @@ Dialogue<std::optional<TextPlace>> askTextStart(CommandContext &context)
     const QString options = u"Justify Style "_s + justificationOptions();
     PromptReply start;
     for (;;) {
-        start = co_await context.point(u"Specify start point of text or [Justify/Style]: "_s, options);
+        start = co_await context.point(Commands::tr("Specify start point of text or [Justify/Style]: "), options);
         if (start.isEmpty()) {
             std::optional<TextPlace> below = placeBelowLast(context);
             if (!below)
-                context.fail(u"There is no text to go on below."_s);
+                context.fail(Commands::tr("There is no text to go on below."));
             co_return below;
         }
         if (start.isKeyword(u"Style")) {
@@ -86,7 +87,7 @@ Dialogue<std::optional<TextPlace>> askTextStart(CommandContext &context)
     place.first = start.point;
     if (place.justification->isStretched()) {
         const PromptReply end =
-            co_await context.neededPoint(u"Specify second endpoint of text baseline: "_s, start.point);
+            co_await context.neededPoint(Commands::tr("Specify second endpoint of text baseline: "), start.point);
         place.second = end.point;
     }
     co_return place;
@@ -99,14 +100,14 @@ Dialogue<TextPlace> askTextSize(CommandContext &context, TextPlace place)
     place.height = fixed > 0.0 ? fixed : variables.real(u"TEXTSIZE");
     if (!place.justification->isAligned() && !(fixed > 0.0)) {
         const QString usual = context.shownLength(place.height);
-        const PromptReply size = co_await context.distance(u"Specify height <%1>: "_s.arg(usual), {}, place.first,
-                                                           usual, NoZero | NoNegative);
+        const PromptReply size = co_await context.distance(Commands::tr("Specify height <%1>: ").arg(usual), {},
+                                                           place.first, usual, NoZero | NoNegative);
         place.height = size.hasValue() ? size.real : place.height;
     }
     if (place.justification->isStretched())
         co_return place;
     const PromptReply turn =
-        co_await context.orientation(u"Specify rotation angle of text <0>: "_s, {}, place.first, u"0"_s);
+        co_await context.orientation(Commands::tr("Specify rotation angle of text <0>: "), {}, place.first, u"0"_s);
     place.angle = turn.hasValue() ? turn.real : 0.0;
     co_return place;
 }
@@ -119,7 +120,7 @@ FieldList placedText(CommandContext &context, FieldList fields, const TextPlace 
     Vec3 second = plane.objectFromWorld(place.second);
     second.z = first.z;
     if (place.justification->isStretched() && (second - first).length() == 0.0) {
-        context.fail(u"The two endpoints are one point."_s);
+        context.fail(Commands::tr("The two endpoints are one point."));
         return {};
     }
     const double degrees = place.justification->isStretched()

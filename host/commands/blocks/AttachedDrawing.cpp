@@ -5,6 +5,7 @@
 #include "host/drawing/records/HeaderVariables.h"
 #include "host/drawing/references/NamedFiles.h"
 #include "host/kernel/documents/Document.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/running/CommandContext.h"
 #include "host/kernel/variables/SystemVariables.h"
 #include "host/units/Units.h"
@@ -183,18 +184,19 @@ bool loadReference(CommandContext &context, const Block &block)
 {
     const QString path = fileOfReference(context, block);
     if (path.isEmpty()) {
-        context.print(u"\nCannot find file \"%1\" of reference \"%2\"."_s.arg(block.externalPath, block.name));
+        context.print(
+            Commands::tr("\nCannot find file \"%1\" of reference \"%2\".").arg(block.externalPath, block.name));
         return false;
     }
     const std::unique_ptr<Drawing> source = readAttached(context, path);
     if (!source)
         return false;
     if (showsThisDrawing(context, *source))
-        context.print(u"\nWarning: \"%1\" shows this drawing, which is left out there."_s.arg(block.name));
+        context.print(Commands::tr("\nWarning: \"%1\" shows this drawing, which is left out there.").arg(block.name));
     const bool isKept = context.document().variables().integer(u"VISRETAIN") != 0;
     drawing::refreshDependents(context.drawing(), block.name, *source,
                                isKept ? drawing::DependentLook::Kept : drawing::DependentLook::OfFile);
-    context.print(u"\n\"%1\" loaded."_s.arg(block.name));
+    context.print(Commands::tr("\n\"%1\" loaded.").arg(block.name));
     return true;
 }
 
@@ -202,16 +204,17 @@ void bindWithNested(CommandContext &context, const Block &block)
 {
     const QString path = fileOfReference(context, block);
     if (path.isEmpty())
-        return context.fail(u"Cannot find file \"%1\" of reference \"%2\"."_s.arg(block.externalPath, block.name));
+        return context.fail(
+            Commands::tr("Cannot find file \"%1\" of reference \"%2\".").arg(block.externalPath, block.name));
     const bool isPrefixed = context.document().variables().integer(u"BINDTYPE") == 0;
     Binding binding{context, isPrefixed ? drawing::BindNames::Prefixed : drawing::BindNames::Merged};
     binding.open.insert(ownFile(context));
     bindOne(binding, block, path, finderOf(context));
     if (context.hasFailed())
         return;
-    context.print(u"\n\"%1\" is a block of this drawing now."_s.arg(block.name));
+    context.print(Commands::tr("\n\"%1\" is a block of this drawing now.").arg(block.name));
     if (binding.skipped > 0)
-        context.print(u" %1 of its records could not be taken over."_s.arg(binding.skipped));
+        context.print(Commands::tr(" %1 of its records could not be taken over.").arg(binding.skipped));
 }
 
 } // namespace host::kernel

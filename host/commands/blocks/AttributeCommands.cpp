@@ -7,6 +7,7 @@
 #include "host/drawing/selection/Wildcard.h"
 #include "host/kernel/documents/CurrentSpace.h"
 #include "host/kernel/documents/Document.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/running/CommandContext.h"
 #include "host/kernel/running/Dialogue.h"
 
@@ -67,25 +68,27 @@ Dialogue<QString> askSynchronized(CommandContext &context)
 {
     PromptReply option;
     for (;;) {
-        option = co_await context.keyword(u"Enter an option [?/Name/Select] <Select>: "_s, {}, u"Select"_s);
+        option = co_await context.keyword(Commands::tr("Enter an option [?/Name/Select] <Select>: "), {}, u"Select"_s);
         if (option.text != u"?")
             break;
-        context.print(u"\nBlocks with attributes:\n  "_s + attributedBlocks(context.drawing()).join(u"\n  "_s));
+        context.print(Commands::tr("\nBlocks with attributes:\n  ") +
+                      attributedBlocks(context.drawing()).join(u"\n  "_s));
     }
     if (option.hasValue() && option.text == u"Name") {
-        const PromptReply name = co_await context.text(u"Enter name of block to synchronize or [?]: "_s, {}, u"?"_s);
+        const PromptReply name =
+            co_await context.text(Commands::tr("Enter name of block to synchronize or [?]: "), {}, u"?"_s);
         if (name.isKeyword(u"?"))
             context.print(u"\n  "_s + attributedBlocks(context.drawing()).join(u"\n  "_s));
         co_return name.hasValue() ? name.text.trimmed() : QString();
     }
-    const PromptReply picked = co_await context.entity(u"Select a block: "_s);
+    const PromptReply picked = co_await context.entity(Commands::tr("Select a block: "));
     if (picked.entities.empty() || !context.drawing().isType(picked.entities.front(), "INSERT")) {
-        context.fail(u"That is no block reference."_s);
+        context.fail(Commands::tr("That is no block reference."));
         co_return QString();
     }
     const QString name = context.drawing().tags(picked.entities.front()).text(2);
     const PromptReply wanted =
-        co_await context.keyword(u"ATTSYNC block %1? [Yes/No] <Yes>: "_s.arg(name), u"Yes No"_s, u"Yes"_s);
+        co_await context.keyword(Commands::tr("ATTSYNC block %1? [Yes/No] <Yes>: ").arg(name), u"Yes No"_s, u"Yes"_s);
     const bool isWanted = wanted.text != u"No";
     co_return isWanted ? name : QString();
 }
@@ -98,14 +101,14 @@ CommandTask syncAttributes(CommandContext &context)
         co_return;
     drawing::Drawing &drawing = context.drawing();
     if (!isValid(drawing.blocks().find(name))) {
-        context.fail(u"Block \"%1\" not found."_s.arg(name));
+        context.fail(Commands::tr("Block \"%1\" not found.").arg(name));
         co_return;
     }
     const std::vector<AttributeDefinition> definitions = attributeDefinitions(drawing, name);
     const std::vector<RecordId> references = referencesTo(drawing, name);
     for (const RecordId insert : references)
         synchronize(drawing, insert, definitions);
-    context.print(u"\n%1 block references were synchronized."_s.arg(references.size()));
+    context.print(Commands::tr("\n%1 block references were synchronized.").arg(references.size()));
 }
 
 /// Which attributes are edited, by wild-card patterns.
@@ -118,8 +121,9 @@ struct AttributeFilter
 
 Dialogue<AttributeFilter> askAttributeFilter(CommandContext &context)
 {
-    const QString prompts[] = {u"Enter block name specification <*>: "_s, u"Enter attribute tag specification <*>: "_s,
-                               u"Enter attribute value specification <*>: "_s};
+    const QString prompts[] = {Commands::tr("Enter block name specification <*>: "),
+                               Commands::tr("Enter attribute tag specification <*>: "),
+                               Commands::tr("Enter attribute value specification <*>: ")};
     QStringList patterns;
     for (const QString &prompt : prompts) {
         const PromptReply reply = co_await context.text(prompt, u"*"_s);
@@ -155,9 +159,9 @@ void setValue(drawing::Drawing &drawing, RecordId attribute, const QString &valu
 /// Replaces the first place of a string in each value.
 Dialogue<bool> replaceStrings(CommandContext &context, std::vector<RecordId> attributes)
 {
-    context.print(u"\n%1 attributes selected."_s.arg(attributes.size()));
-    const PromptReply from = co_await context.text(u"Enter string to change: "_s);
-    const PromptReply to = co_await context.text(u"Enter new string: "_s);
+    context.print(Commands::tr("\n%1 attributes selected.").arg(attributes.size()));
+    const PromptReply from = co_await context.text(Commands::tr("Enter string to change: "));
+    const PromptReply to = co_await context.text(Commands::tr("Enter new string: "));
     for (const RecordId id : attributes) {
         QString value = context.drawing().tags(id).text(1);
         const qsizetype place = from.text.isEmpty() ? 0 : value.indexOf(from.text);
@@ -172,20 +176,20 @@ Dialogue<bool> changeAttribute(CommandContext &context, RecordId attribute, QStr
 {
     FieldList fields = context.drawing().fields(attribute);
     if (option == u"Value") {
-        const PromptReply way =
-            co_await context.keyword(u"Enter type of value modification [Change/Replace] <R>: "_s, {}, u"Replace"_s);
+        const PromptReply way = co_await context.keyword(
+            Commands::tr("Enter type of value modification [Change/Replace] <R>: "), {}, u"Replace"_s);
         if (way.text == u"Change")
             co_return co_await replaceStrings(context, std::vector<RecordId>(1, attribute));
-        const PromptReply value = co_await context.text(u"Enter new attribute value: "_s);
+        const PromptReply value = co_await context.text(Commands::tr("Enter new attribute value: "));
         drawing::setField(fields, 1, value.text);
     } else if (option == u"Height") {
         const QString usual = context.shownLength(drawing::realOf(fields, 40));
-        const PromptReply size =
-            co_await context.distance(u"Specify new height <%1>: "_s.arg(usual), {}, {}, usual, NoZero | NoNegative);
+        const PromptReply size = co_await context.distance(Commands::tr("Specify new height <%1>: ").arg(usual), {}, {},
+                                                           usual, NoZero | NoNegative);
         if (size.hasValue())
             drawing::setField(fields, 40, size.real);
     } else if (option == u"Layer") {
-        const PromptReply layer = co_await context.text(u"Enter new layer name: "_s);
+        const PromptReply layer = co_await context.text(Commands::tr("Enter new layer name: "));
         if (layer.hasValue() && !layer.text.trimmed().isEmpty())
             drawing::setField(fields, 8, layer.text.trimmed());
     }
@@ -202,8 +206,8 @@ Dialogue<bool> editOneByOne(CommandContext &context, AttributeFilter filter)
     const std::vector<RecordId> references = editable(context, chosen.entities);
     for (const RecordId id : matchingAttributes(context.drawing(), references, filter)) {
         for (;;) {
-            const PromptReply option =
-                co_await context.keyword(u"Enter an option [Value/Height/Layer/Next] <N>: "_s, {}, u"Next"_s);
+            const PromptReply option = co_await context.keyword(
+                Commands::tr("Enter an option [Value/Height/Layer/Next] <N>: "), {}, u"Next"_s);
             if (!option.hasValue() || option.text == u"Next")
                 break;
             if (!co_await changeAttribute(context, id, option.text))
@@ -217,14 +221,14 @@ Dialogue<bool> editOneByOne(CommandContext &context, AttributeFilter filter)
 CommandTask editAttributes(CommandContext &context)
 {
     const PromptReply single =
-        co_await context.keyword(u"Edit attributes one at a time? [Yes/No] <Y>: "_s, {}, u"Yes"_s);
+        co_await context.keyword(Commands::tr("Edit attributes one at a time? [Yes/No] <Y>: "), {}, u"Yes"_s);
     if (single.text != u"No") {
         const AttributeFilter filter = co_await askAttributeFilter(context);
         co_await editOneByOne(context, filter);
         co_return;
     }
     const PromptReply visible =
-        co_await context.keyword(u"Edit only attributes visible on screen? [Yes/No] <Y>: "_s, {}, u"Yes"_s);
+        co_await context.keyword(Commands::tr("Edit only attributes visible on screen? [Yes/No] <Y>: "), {}, u"Yes"_s);
     const AttributeFilter filter = co_await askAttributeFilter(context);
     std::vector<RecordId> references = currentEntities(context.drawing());
     if (visible.text != u"No") {

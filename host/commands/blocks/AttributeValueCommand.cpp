@@ -6,6 +6,7 @@
 #include "host/drawing/editing/TextContent.h"
 #include "host/kernel/documents/Document.h"
 #include "host/kernel/documents/TextSizes.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/running/CommandContext.h"
 #include "host/kernel/running/Dialogue.h"
 
@@ -43,12 +44,12 @@ const BlockAttribute *attributeNamed(const std::vector<BlockAttribute> &attribut
 Dialogue<RecordId> askReference(CommandContext &context)
 {
     const drawing::Drawing &drawing = context.drawing();
-    const PromptReply picked = co_await context.entity(u"Select a block: "_s);
+    const PromptReply picked = co_await context.entity(Commands::tr("Select a block: "));
     RecordId reference = picked.entities.empty() ? drawing::noRecord : picked.entities.front();
     if (isValid(reference) && drawing.isType(reference, "ATTRIB"))
         reference = drawing.parent(reference);
     if (!isValid(reference) || !drawing.isType(reference, "INSERT")) {
-        context.fail(u"That is no block reference."_s);
+        context.fail(Commands::tr("That is no block reference."));
         co_return drawing::noRecord;
     }
     const bool isFree = !editable(context, {reference}).empty();
@@ -67,9 +68,10 @@ void setAttributeValue(CommandContext &context, RecordId attribute, const QStrin
 
 Dialogue<bool> askValue(CommandContext &context, BlockAttribute attribute)
 {
-    const PromptReply reply = co_await context.text(
-        u"%1, . for none <%2>: "_s.arg(attribute.prompt.isEmpty() ? attribute.tag : attribute.prompt, attribute.value),
-        attribute.value);
+    const PromptReply reply =
+        co_await context.text(Commands::tr("%1, . for none <%2>: ")
+                                  .arg(attribute.prompt.isEmpty() ? attribute.tag : attribute.prompt, attribute.value),
+                              attribute.value);
     if (reply.hasValue() && !reply.text.isEmpty())
         setAttributeValue(context, attribute.record, reply.text == u"." ? QString() : reply.text);
     co_return !context.hasFailed();
@@ -82,13 +84,13 @@ CommandTask editValues(CommandContext &context)
     if (!isValid(reference))
         co_return;
     if (drawing::blockAttributes(context.drawing(), reference).empty()) {
-        context.fail(u"The block has no attributes."_s);
+        context.fail(Commands::tr("The block has no attributes."));
         co_return;
     }
     for (;;) {
         const std::vector<BlockAttribute> attributes = drawing::blockAttributes(context.drawing(), reference);
         const PromptReply which =
-            co_await context.text(u"Enter number or tag of attribute or [?] <exit>: "_s, u"exit"_s, u"?"_s);
+            co_await context.text(Commands::tr("Enter number or tag of attribute or [?] <exit>: "), u"exit"_s, u"?"_s);
         if (which.isKeyword(u"?")) {
             listValues(context, attributes);
             continue;
@@ -99,7 +101,8 @@ CommandTask editValues(CommandContext &context)
         const bool mayChange = attribute && !attribute->isConstant();
         if (mayChange && !co_await askValue(context, *attribute))
             co_return;
-        const QString reason = attribute ? u"The value of %1 is constant."_s : u"There is no attribute \"%1\"."_s;
+        const QString reason =
+            attribute ? Commands::tr("The value of %1 is constant.") : Commands::tr("There is no attribute \"%1\".");
         if (!mayChange && context.refuse(reason.arg(which.text.trimmed())))
             co_return;
     }

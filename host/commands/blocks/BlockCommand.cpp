@@ -5,6 +5,7 @@
 #include "host/drawing/records/Blocks.h"
 #include "host/drawing/selection/Wildcard.h"
 #include "host/kernel/documents/Document.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/running/CommandContext.h"
 #include "host/kernel/variables/SystemVariables.h"
 
@@ -22,7 +23,7 @@ using drawing::RecordId;
 void listDefinitions(CommandContext &context, const QString &pattern)
 {
     int count = 0;
-    context.print(u"\nDefined blocks."_s);
+    context.print(Commands::tr("\nDefined blocks."));
     for (const RecordId id : context.drawing().blocks().all()) {
         const drawing::Block block = context.drawing().blocks().read(id);
         if (block.isLayout() || block.isAnonymous() || !drawing::matchesWildcard(block.name, pattern))
@@ -30,33 +31,33 @@ void listDefinitions(CommandContext &context, const QString &pattern)
         context.print(u"\n  \"%1\""_s.arg(block.name));
         ++count;
     }
-    context.print(u"\n%1 user blocks."_s.arg(count));
+    context.print(Commands::tr("\n%1 user blocks.").arg(count));
 }
 
 /// A name for a definition; empty when there is none, which was told, or when another one is to stay.
 Dialogue<QString> askDefinitionName(CommandContext &context)
 {
-    PromptReply reply = co_await context.text(u"Enter block name or [?]: "_s, {}, u"?"_s);
+    PromptReply reply = co_await context.text(Commands::tr("Enter block name or [?]: "), {}, u"?"_s);
     while (reply.isKeyword(u"?")) {
-        const PromptReply pattern = co_await context.text(u"Enter block(s) to list <*>: "_s, u"*"_s);
+        const PromptReply pattern = co_await context.text(Commands::tr("Enter block(s) to list <*>: "), u"*"_s);
         listDefinitions(context, pattern.hasValue() ? pattern.text.trimmed() : u"*"_s);
-        reply = co_await context.text(u"Enter block name or [?]: "_s, {}, u"?"_s);
+        reply = co_await context.text(Commands::tr("Enter block name or [?]: "), {}, u"?"_s);
     }
     const QString name = reply.text.trimmed();
     const bool isAnonymous = name.compare(u"*U"_s, Qt::CaseInsensitive) == 0;
     if (!isAnonymous && !drawing::isSymbolName(name, context.drawing().version())) {
-        context.fail(u"\"%1\" cannot be the name of a block."_s.arg(name));
+        context.fail(Commands::tr("\"%1\" cannot be the name of a block.").arg(name));
         co_return QString();
     }
     const std::optional<drawing::Block> present = context.drawing().blocks().get(name);
     if (present && (present->isExternal() || present->isLayout())) {
-        context.fail(u"Block \"%1\" cannot be redefined."_s.arg(name));
+        context.fail(Commands::tr("Block \"%1\" cannot be redefined.").arg(name));
         co_return QString();
     }
     if (!present || context.document().variables().integer(u"EXPERT") >= 2)
         co_return name;
     const PromptReply redefine = co_await context.keyword(
-        u"Block \"%1\" already exists. Redefine it? [Yes/No] <N>: "_s.arg(name), u"Yes No"_s, u"No"_s);
+        Commands::tr("Block \"%1\" already exists. Redefine it? [Yes/No] <N>: ").arg(name), u"Yes No"_s, u"No"_s);
     const bool isWanted = redefine.hasValue() && redefine.text == u"Yes";
     co_return isWanted ? name : QString();
 }
@@ -92,12 +93,12 @@ void defineBlock(CommandContext &context, const QString &name, const Matrix &axe
     const bool hasAttributes = std::ranges::any_of(entities, [&](RecordId id) { return drawing.isType(id, "ATTDEF"); });
     const RecordId existing = drawing.blocks().find(name);
     if (isValid(existing) && showsBlock(drawing, entities, existing))
-        return context.fail(u"Block \"%1\" would show itself."_s.arg(name));
+        return context.fail(Commands::tr("Block \"%1\" would show itself.").arg(name));
     constexpr int anonymousFlag = 1;
     const int flags = (hasAttributes ? hasAttributesFlag : 0) | (name.startsWith(u'*') ? anonymousFlag : 0);
     const RecordId block = drawing.blocks().create(name.startsWith(u'*') ? name.toUpper() : name, {}, flags);
     if (!isValid(block))
-        return context.fail(u"\"%1\" cannot be the name of a block."_s.arg(name));
+        return context.fail(Commands::tr("\"%1\" cannot be the name of a block.").arg(name));
     std::vector<RecordId> copies;
     for (const RecordId id : entities)
         if (const RecordId copy = drawing::copyEntityInto(drawing, id, block); isValid(copy))
@@ -115,11 +116,11 @@ CommandTask block(CommandContext &context)
     Matrix axes = context.document().userAxes();
     PromptReply base;
     do {
-        base = co_await context.neededPoint(u"Specify insertion base point or [Annotative]: "_s);
+        base = co_await context.neededPoint(Commands::tr("Specify insertion base point or [Annotative]: "));
         if (base.isKeyword(u"Annotative")) {
-            context.print(u"\nBlocks are made without annotation scales."_s);
+            context.print(Commands::tr("\nBlocks are made without annotation scales."));
             const PromptReply answer =
-                co_await context.keyword(u"Create annotative block? [Yes/No] <N>: "_s, u"Yes No"_s, u"No"_s);
+                co_await context.keyword(Commands::tr("Create annotative block? [Yes/No] <N>: "), u"Yes No"_s, u"No"_s);
         }
     } while (!base.hasValue());
     axes.origin = base.point;
@@ -133,7 +134,7 @@ CommandTask base(CommandContext &context)
     const drawing::Vec3 present = context.document().variables().point(u"INSBASE");
     const QString usual = u"%1,%2,%3"_s.arg(context.shownLength(present.x), context.shownLength(present.y),
                                             context.shownLength(present.z));
-    const PromptReply reply = co_await context.point(u"Enter base point <%1>: "_s.arg(usual), {}, {}, usual);
+    const PromptReply reply = co_await context.point(Commands::tr("Enter base point <%1>: ").arg(usual), {}, {}, usual);
     if (reply.hasValue())
         context.document().variables().setInternally(u"INSBASE", reply.point);
 }
@@ -144,7 +145,7 @@ CommandTask updateField(CommandContext &context)
     const PromptReply chosen = co_await context.selection();
     const auto found =
         std::ranges::count_if(chosen.entities, [&](RecordId id) { return context.drawing().isType(id, "RTEXT"); });
-    context.print(u"\n%1 field(s) found\n%1 field(s) updated"_s.arg(found));
+    context.print(Commands::tr("\n%1 field(s) found\n%1 field(s) updated").arg(found));
     if (found > 0)
         emit context.document().regenerated();
 }

@@ -5,6 +5,7 @@
 #include "host/drawing/editing/BlockClip.h"
 #include "host/drawing/geometry/EntityGeometry.h"
 #include "host/kernel/documents/Document.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/running/CommandContext.h"
 #include "host/kernel/running/Dialogue.h"
 
@@ -23,10 +24,11 @@ using drawing::Vec3;
 /// Corners in world coordinates; fewer than two for none.
 Dialogue<Path> askPolygon(CommandContext &context)
 {
-    const PromptReply first = co_await context.neededPoint(u"Specify first point: "_s);
+    const PromptReply first = co_await context.neededPoint(Commands::tr("Specify first point: "));
     Path corners = {first.point};
     for (;;) {
-        const PromptReply next = co_await context.point(u"Specify next point or [Undo]: "_s, {}, corners.back(), {});
+        const PromptReply next =
+            co_await context.point(Commands::tr("Specify next point or [Undo]: "), {}, corners.back(), {});
         if (next.hasValue())
             corners.push_back(next.point);
         else if (next.isKeyword(u"Undo") && corners.size() > 1)
@@ -42,7 +44,7 @@ Dialogue<Path> askPolygon(CommandContext &context)
 /// The line of a polyline that is picked, its arcs in straight pieces.
 Dialogue<Path> askClipPolyline(CommandContext &context)
 {
-    const PromptReply picked = co_await context.entity(u"Select polyline: "_s);
+    const PromptReply picked = co_await context.entity(Commands::tr("Select polyline: "));
     const RecordId entity = picked.entities.empty() ? drawing::noRecord : picked.entities.front();
     const bool isPolyline = isValid(entity) && context.drawing().typeName(entity).endsWith("POLYLINE");
     Path corners;
@@ -67,21 +69,21 @@ Dialogue<NewClip> askNewClip(CommandContext &context)
 {
     NewClip clip;
     PromptReply way;
-    const QString prompt = u"Specify clipping boundary or select invert option: "
-                           "[Select polyline/Polygonal/Rectangular/Invert clip] <Rectangular>: "_s;
+    const QString prompt = Commands::tr("Specify clipping boundary or select invert option: "
+                                        "[Select polyline/Polygonal/Rectangular/Invert clip] <Rectangular>: ");
     for (;;) {
         way = co_await context.keyword(prompt, {}, u"Rectangular"_s);
         if (way.text != u"Invert")
             break;
         clip.side = clip.side == ClipSide::Inside ? ClipSide::Outside : ClipSide::Inside;
-        context.print(clip.side == ClipSide::Outside ? u"\nObjects inside boundary will be hidden."_s
-                                                     : u"\nObjects outside boundary will be hidden."_s);
+        context.print(clip.side == ClipSide::Outside ? Commands::tr("\nObjects inside boundary will be hidden.")
+                                                     : Commands::tr("\nObjects outside boundary will be hidden."));
     }
     Path world;
     const bool isRectangle = !way.hasValue() || way.text == u"Rectangular";
     if (isRectangle) {
-        const PromptReply first = co_await context.neededPoint(u"Specify first corner: "_s);
-        const PromptReply other = co_await context.neededPoint(u"Specify opposite corner: "_s, first.point);
+        const PromptReply first = co_await context.neededPoint(Commands::tr("Specify first corner: "));
+        const PromptReply other = co_await context.neededPoint(Commands::tr("Specify opposite corner: "), first.point);
         world = {first.point, other.point};
     } else if (way.text == u"Polygonal") {
         world = co_await askPolygon(context);
@@ -94,7 +96,7 @@ Dialogue<NewClip> askNewClip(CommandContext &context)
     const bool isFlat =
         isRectangle && (clip.corners[0].x == clip.corners[1].x || clip.corners[0].y == clip.corners[1].y);
     if (clip.corners.empty() || isFlat)
-        context.fail(u"That encloses nothing."_s);
+        context.fail(Commands::tr("That encloses nothing."));
     co_return clip;
 }
 
@@ -106,7 +108,7 @@ void clipAll(CommandContext &context, const std::vector<RecordId> &references, c
                        ? 0
                        : 1;
     if (refused > 0)
-        context.print(u"\n%1 could not be clipped."_s.arg(refused));
+        context.print(Commands::tr("\n%1 could not be clipped.").arg(refused));
 }
 
 Dialogue<bool> newBoundary(CommandContext &context, std::vector<RecordId> references)
@@ -114,7 +116,8 @@ Dialogue<bool> newBoundary(CommandContext &context, std::vector<RecordId> refere
     const bool hasOld =
         std::ranges::any_of(references, [&](RecordId id) { return drawing::hasBlockClip(context.drawing(), id); });
     if (hasOld) {
-        const PromptReply erase = co_await context.keyword(u"Delete old boundary(s)? [Yes/No] <Yes>: "_s, {}, u"Yes"_s);
+        const PromptReply erase =
+            co_await context.keyword(Commands::tr("Delete old boundary(s)? [Yes/No] <Yes>: "), {}, u"Yes"_s);
         if (erase.text == u"No")
             co_return false;
     }
@@ -147,12 +150,12 @@ CommandTask clip(CommandContext &context)
     std::vector<RecordId> references = editable(context, chosen.entities);
     std::erase_if(references, [&](RecordId id) { return !context.drawing().isType(id, "INSERT"); });
     if (references.empty()) {
-        context.fail(u"No block references were chosen."_s);
+        context.fail(Commands::tr("No block references were chosen."));
         co_return;
     }
-    const PromptReply option =
-        co_await context.keyword(u"Enter clipping option [ON/OFF/Delete/generate Polyline/New boundary] <New>: "_s,
-                                 u"ON OFF Delete Polyline New"_s, u"New"_s);
+    const PromptReply option = co_await context.keyword(
+        Commands::tr("Enter clipping option [ON/OFF/Delete/generate Polyline/New boundary] <New>: "),
+        u"ON OFF Delete Polyline New"_s, u"New"_s);
     if (option.text == u"ON" || option.text == u"OFF") {
         for (const RecordId id : references)
             drawing::switchBlockClip(context.drawing(), id, option.text == u"ON");

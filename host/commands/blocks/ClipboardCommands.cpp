@@ -11,6 +11,7 @@
 #include "host/kernel/documents/CurrentSpace.h"
 #include "host/kernel/documents/Document.h"
 #include "host/kernel/documents/Session.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/running/CommandContext.h"
 
 #include <QClipboard>
@@ -45,7 +46,7 @@ void putOnClipboard(CommandContext &context, const Entities &entities, const Vec
 {
     std::unique_ptr<drawing::Drawing> made = drawing::wblock(context.drawing(), entities, base);
     if (!made)
-        return context.fail(u"Nothing of that can be copied."_s);
+        return context.fail(Commands::tr("Nothing of that can be copied."));
     Session &session = context.document().session();
     session.setClipboard(std::move(made));
     offerToSystem(session);
@@ -68,7 +69,7 @@ CommandTask copyClip(CommandContext &context)
 // As COPYCLIP, by a base point.
 CommandTask copyBase(CommandContext &context)
 {
-    const PromptReply base = co_await context.neededPoint(u"Specify base point: "_s);
+    const PromptReply base = co_await context.neededPoint(Commands::tr("Specify base point: "));
     const PromptReply chosen = co_await context.selection();
     if (!chosen.entities.empty())
         putOnClipboard(context, chosen.entities, base.point);
@@ -91,7 +92,7 @@ const drawing::Drawing *clipboardOf(CommandContext &context)
 {
     const drawing::Drawing *source = context.document().session().clipboard();
     if (!source)
-        context.fail(u"The clipboard is empty."_s);
+        context.fail(Commands::tr("The clipboard is empty."));
     return source;
 }
 
@@ -118,7 +119,7 @@ Entities pasteEntities(CommandContext &context, const drawing::Drawing &source, 
             made.push_back(copy);
     }
     if (copier.skipped() > 0)
-        context.print(u"\n%1 could not be pasted."_s.arg(copier.skipped()));
+        context.print(Commands::tr("\n%1 could not be pasted.").arg(copier.skipped()));
     if (by != Vec3{})
         transformAll(context, made, drawing::Matrix::translation(by));
     context.document().setPreviousSelection(made);
@@ -132,7 +133,7 @@ CommandTask pasteClip(CommandContext &context)
         co_return;
     const Vec3 base = source->header().point(u"$INSBASE");
     const PromptReply at =
-        co_await context.neededPoint(u"Specify insertion point: "_s).dragging(hangingClipboard(context));
+        co_await context.neededPoint(Commands::tr("Specify insertion point: ")).dragging(hangingClipboard(context));
     if (const drawing::Drawing *present = clipboardOf(context))
         pasteEntities(context, *present, at.point - base);
 }
@@ -160,7 +161,7 @@ CommandTask pasteBlock(CommandContext &context)
     if (!clipboardOf(context))
         co_return;
     const PromptReply at =
-        co_await context.neededPoint(u"Specify insertion point: "_s).dragging(hangingClipboard(context));
+        co_await context.neededPoint(Commands::tr("Specify insertion point: ")).dragging(hangingClipboard(context));
     const drawing::Drawing *source = clipboardOf(context);
     if (!source)
         co_return;

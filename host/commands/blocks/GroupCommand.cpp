@@ -5,6 +5,7 @@
 #include "host/drawing/editing/RenameLayer.h"
 #include "host/drawing/selection/Wildcard.h"
 #include "host/kernel/documents/Document.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/running/CommandContext.h"
 #include "host/kernel/running/Dialogue.h"
 
@@ -19,7 +20,7 @@ using drawing::RecordId;
 
 void listGroups(CommandContext &context, const QString &pattern)
 {
-    context.print(u"\nDefined groups.                            Selectable"_s);
+    context.print(Commands::tr("\nDefined groups.                            Selectable"));
     for (const EntityGroup &group : drawing::entityGroups(context.drawing()))
         if (drawing::matchesWildcard(group.name, pattern))
             context.print(u"\n  %1  %2"_s.arg(group.name.leftJustified(40), group.isSelectable ? u"Yes"_s : u"No"_s));
@@ -30,7 +31,7 @@ Dialogue<QString> askGroupName(CommandContext &context, QString prompt)
 {
     PromptReply reply = co_await context.text(prompt, {}, u"?"_s);
     while (reply.isKeyword(u"?")) {
-        const PromptReply pattern = co_await context.text(u"Enter group name(s) to list <*>: "_s, u"*"_s);
+        const PromptReply pattern = co_await context.text(Commands::tr("Enter group name(s) to list <*>: "), u"*"_s);
         listGroups(context, pattern.hasValue() ? pattern.text.trimmed() : u"*"_s);
         reply = co_await context.text(prompt, {}, u"?"_s);
     }
@@ -40,38 +41,38 @@ Dialogue<QString> askGroupName(CommandContext &context, QString prompt)
 /// A group that is there. Nothing when there is none of the name, which was told.
 Dialogue<std::optional<EntityGroup>> askGroup(CommandContext &context)
 {
-    const QString name = co_await askGroupName(context, u"Enter a group name or [?]: "_s);
+    const QString name = co_await askGroupName(context, Commands::tr("Enter a group name or [?]: "));
     std::optional<EntityGroup> group = drawing::findGroup(context.drawing(), name);
     if (!group)
-        context.fail(u"Group \"%1\" does not exist."_s.arg(name));
+        context.fail(Commands::tr("Group \"%1\" does not exist.").arg(name));
     co_return group;
 }
 
 bool isNewGroupName(CommandContext &context, const QString &name)
 {
     if (name != u"*" && !drawing::isSymbolName(name, context.drawing().version()))
-        context.fail(u"\"%1\" cannot be the name of a group."_s.arg(name));
+        context.fail(Commands::tr("\"%1\" cannot be the name of a group.").arg(name));
     else if (drawing::findGroup(context.drawing(), name))
-        context.fail(u"Group \"%1\" already exists."_s.arg(name));
+        context.fail(Commands::tr("Group \"%1\" already exists.").arg(name));
     return !context.hasFailed();
 }
 
 void makeGroup(CommandContext &context, EntityGroup group, const std::vector<RecordId> &entities)
 {
     if (entities.empty())
-        return context.fail(u"A group needs an entity."_s);
+        return context.fail(Commands::tr("A group needs an entity."));
     group.members = entities;
     if (!drawing::createGroup(context.drawing(), group))
-        context.fail(u"A drawing of this version has no groups."_s);
+        context.fail(Commands::tr("A drawing of this version has no groups."));
 }
 
 Dialogue<bool> createGroupByName(CommandContext &context)
 {
     EntityGroup group;
-    group.name = co_await askGroupName(context, u"Enter a group name or [?]: "_s);
+    group.name = co_await askGroupName(context, Commands::tr("Enter a group name or [?]: "));
     if (!isNewGroupName(context, group.name))
         co_return false;
-    const PromptReply description = co_await context.text(u"Enter a group description: "_s);
+    const PromptReply description = co_await context.text(Commands::tr("Enter a group description: "));
     group.description = description.text;
     const PromptReply chosen = co_await context.selection();
     makeGroup(context, group, chosen.entities);
@@ -82,7 +83,7 @@ Dialogue<bool> createGroupByName(CommandContext &context)
 Dialogue<bool> changeMembers(CommandContext &context, EntityGroup group, bool isAdding)
 {
     const ObjectChoice chosen =
-        co_await askObjects(context, u"Select objects: "_s, {}, ChoiceEnd::EmptyAnswer, PickReach::Alone);
+        co_await askObjects(context, Commands::tr("Select objects: "), {}, ChoiceEnd::EmptyAnswer, PickReach::Alone);
     for (const RecordId id : chosen.entities) {
         std::erase(group.members, id);
         if (isAdding)
@@ -94,7 +95,7 @@ Dialogue<bool> changeMembers(CommandContext &context, EntityGroup group, bool is
 
 Dialogue<bool> renameGroup(CommandContext &context, EntityGroup group)
 {
-    const QString name = co_await askGroupName(context, u"Enter a new name for group or [?]: "_s);
+    const QString name = co_await askGroupName(context, Commands::tr("Enter a new name for group or [?]: "));
     if (!isNewGroupName(context, name))
         co_return false;
     group.name = name;
@@ -107,21 +108,21 @@ Dialogue<bool> orderGroup(CommandContext &context, EntityGroup group)
 {
     const int last = int(group.members.size()) - 1;
     const QString range = u"(0-%1)"_s.arg(last);
-    const PromptReply from =
-        co_await context.integer(u"Enter position number of the object to reorder %1 or [Reverse]: "_s.arg(range),
-                                 u"Reverse"_s, {}, NoEmptyAnswer | NoNegative);
+    const PromptReply from = co_await context.integer(
+        Commands::tr("Enter position number of the object to reorder %1 or [Reverse]: ").arg(range), u"Reverse"_s, {},
+        NoEmptyAnswer | NoNegative);
     if (from.isKeyword(u"Reverse")) {
         std::ranges::reverse(group.members);
         drawing::changeGroup(context.drawing(), group);
         co_return true;
     }
-    const PromptReply to = co_await context.integer(u"Enter new position number for the object %1: "_s.arg(range), {},
-                                                    {}, NoEmptyAnswer | NoNegative);
-    const PromptReply count =
-        co_await context.integer(u"Enter number of objects to reorder <1>: "_s, {}, u"1"_s, NoZero | NoNegative);
+    const PromptReply to = co_await context.integer(
+        Commands::tr("Enter new position number for the object %1: ").arg(range), {}, {}, NoEmptyAnswer | NoNegative);
+    const PromptReply count = co_await context.integer(Commands::tr("Enter number of objects to reorder <1>: "), {},
+                                                       u"1"_s, NoZero | NoNegative);
     const qint64 moved = count.hasValue() ? count.integer : 1;
     if (qint64(from.integer) + moved - 1 > last || qint64(to.integer) + moved - 1 > last) {
-        context.fail(u"Requires a number from 0 to %1."_s.arg(last));
+        context.fail(Commands::tr("Requires a number from 0 to %1.").arg(last));
         co_return false;
     }
     const auto begin = group.members.begin() + from.integer;
@@ -134,7 +135,8 @@ Dialogue<bool> orderGroup(CommandContext &context, EntityGroup group)
 
 Dialogue<bool> switchSelectable(CommandContext &context, EntityGroup group)
 {
-    const PromptReply answer = co_await context.keyword(u"Is group selectable? [Yes/No] <Y>: "_s, {}, u"Yes"_s);
+    const PromptReply answer =
+        co_await context.keyword(Commands::tr("Is group selectable? [Yes/No] <Y>: "), {}, u"Yes"_s);
     group.isSelectable = answer.text != u"No";
     drawing::changeGroup(context.drawing(), group);
     co_return true;
@@ -144,10 +146,11 @@ Dialogue<bool> switchSelectable(CommandContext &context, EntityGroup group)
 CommandTask groupByOption(CommandContext &context)
 {
     PromptReply option = co_await context.keyword(
-        u"Enter a group option [?/Order/Add/Remove/Explode/REName/Selectable/Create] <Create>: "_s, {}, u"Create"_s);
+        Commands::tr("Enter a group option [?/Order/Add/Remove/Explode/REName/Selectable/Create] <Create>: "), {},
+        u"Create"_s);
     const QString wanted = option.hasValue() ? option.text : u"Create"_s;
     if (wanted == u"?") {
-        const PromptReply pattern = co_await context.text(u"Enter group name(s) to list <*>: "_s, u"*"_s);
+        const PromptReply pattern = co_await context.text(Commands::tr("Enter group name(s) to list <*>: "), u"*"_s);
         listGroups(context, pattern.hasValue() ? pattern.text.trimmed() : u"*"_s);
         co_return;
     }

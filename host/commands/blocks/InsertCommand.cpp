@@ -8,6 +8,7 @@
 #include "host/drawing/selection/Wildcard.h"
 #include "host/kernel/documents/CurrentSpace.h"
 #include "host/kernel/documents/Document.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/running/CommandContext.h"
 #include "host/kernel/variables/SystemVariables.h"
 
@@ -39,9 +40,10 @@ QString readBlock(CommandContext &context, const QString &name, const QString &p
         return u"%1: %2"_s.arg(path, source.error.message());
     const drawing::CopyResult made = drawing::insertAsBlock(*source.drawing, context.drawing(), name);
     if (made.converted > 0)
-        context.print(u"\n%1 of its entities became ones that a drawing of this version has."_s.arg(made.converted));
+        context.print(
+            Commands::tr("\n%1 of its entities became ones that a drawing of this version has.").arg(made.converted));
     if (made.skipped > 0)
-        context.print(u"\n%1 of its entities could not be taken over."_s.arg(made.skipped));
+        context.print(Commands::tr("\n%1 of its entities could not be taken over.").arg(made.skipped));
     return made.error;
 }
 
@@ -66,7 +68,7 @@ Wanted wantedBlock(CommandContext &context, QString answer)
             path = context.document().findFile(file + ending);
     wanted.isNew = !isValid(blocks.find(name));
     const QString problem =
-        path.isEmpty() ? u"Cannot find block or file \"%1\"."_s.arg(file) : readBlock(context, name, path);
+        path.isEmpty() ? Commands::tr("Cannot find block or file \"%1\".").arg(file) : readBlock(context, name, path);
     if (problem.isEmpty())
         wanted.block = name;
     else
@@ -76,7 +78,7 @@ Wanted wantedBlock(CommandContext &context, QString answer)
 
 void listBlocks(CommandContext &context, const QString &pattern)
 {
-    context.print(u"\nDefined blocks."_s);
+    context.print(Commands::tr("\nDefined blocks."));
     for (const RecordId id : context.drawing().blocks().all()) {
         const drawing::Block block = context.drawing().blocks().read(id);
         if (!block.isLayout() && !block.isAnonymous() && drawing::matchesWildcard(block.name, pattern))
@@ -119,11 +121,11 @@ Dialogue<Wanted> askBlock(CommandContext &context)
 {
     const QString last = context.document().variables().text(u"INSNAME");
     // GCC 12 destroys a temporary twice that one branch of a condition makes within a co_await.
-    const QString prompt =
-        last.isEmpty() ? u"Enter block name or [?]: "_s : u"Enter block name or [?] <%1>: "_s.arg(last);
+    const QString prompt = last.isEmpty() ? Commands::tr("Enter block name or [?]: ")
+                                          : Commands::tr("Enter block name or [?] <%1>: ").arg(last);
     PromptReply name = co_await context.text(prompt, last, u"?"_s);
     while (name.isKeyword(u"?")) {
-        const PromptReply pattern = co_await context.text(u"Enter block(s) to list <*>: "_s, u"*"_s);
+        const PromptReply pattern = co_await context.text(Commands::tr("Enter block(s) to list <*>: "), u"*"_s);
         listBlocks(context, pattern.hasValue() ? pattern.text.trimmed() : u"*"_s);
         name = co_await context.text(prompt, last, u"?"_s);
     }

@@ -3,6 +3,7 @@
 #include "host/commands/common/UserPlane.h"
 #include "host/drawing/records/Blocks.h"
 #include "host/kernel/documents/Document.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/running/CommandContext.h"
 
 #include <cmath>
@@ -67,7 +68,8 @@ Dialogue<double> askRotation(CommandContext &context, const std::optional<Vec3> 
 {
     const QString zero = context.shownAngle(0.0);
     const PromptReply turn =
-        co_await context.orientation(u"Specify rotation angle <%1>: "_s.arg(zero), {}, base, zero).dragging(shape);
+        co_await context.orientation(Commands::tr("Specify rotation angle <%1>: ").arg(zero), {}, base, zero)
+            .dragging(shape);
     co_return turn.hasValue() ? turn.real : 0.0;
 }
 
@@ -82,11 +84,11 @@ Dialogue<Draft> takePlacementOption(CommandContext &context, Draft draft, const 
     }
     draft.hasScale = true;
     if (option == u"Scale"_s) {
-        const double factor = co_await askFactor(context, u"Specify scale factor for XYZ axes <1>: "_s);
+        const double factor = co_await askFactor(context, Commands::tr("Specify scale factor for XYZ axes <1>: "));
         scale = {factor, factor, factor};
         co_return draft;
     }
-    const double factor = co_await askFactor(context, u"Specify %1 scale factor <1>: "_s.arg(option));
+    const double factor = co_await askFactor(context, Commands::tr("Specify %1 scale factor <1>: ").arg(option));
     (option == u"X"_s ? scale.x : option == u"Y"_s ? scale.y : scale.z) = factor;
     co_return draft;
 }
@@ -94,27 +96,29 @@ Dialogue<Draft> takePlacementOption(CommandContext &context, Draft draft, const 
 /// The factor of a further axis, which is that of x when it is not said.
 Dialogue<double> askLike(CommandContext &context, double xScale, const QString axis)
 {
-    const PromptReply reply =
-        co_await context.real(u"Enter %1 scale factor <use X scale factor>: "_s.arg(axis), {}, u"X"_s, NoZero);
+    const PromptReply reply = co_await context.real(
+        Commands::tr("Enter %1 scale factor <use X scale factor>: ").arg(axis), {}, u"X"_s, NoZero);
     co_return reply.hasValue() ? reply.real : xScale;
 }
 
 Dialogue<Vec3> askScales(CommandContext &context, const Vec3 insertion, const Dragged shape)
 {
     const PromptReply x =
-        co_await context.real(u"Enter X scale factor or [Corner/XYZ] <1>: "_s, {}, u"1"_s, NoZero).dragging(shape);
+        co_await context.real(Commands::tr("Enter X scale factor or [Corner/XYZ] <1>: "), {}, u"1"_s, NoZero)
+            .dragging(shape);
     if (x.isKeyword(u"Corner")) {
         const UserPlane plane(context.document());
-        const PromptReply corner = co_await context.neededPoint(u"Specify opposite corner: "_s, insertion).asBox();
+        const PromptReply corner =
+            co_await context.neededPoint(Commands::tr("Specify opposite corner: "), insertion).asBox();
         const Vec3 size = plane.userFromWorld(corner.point) - plane.userFromWorld(insertion);
         if (size.x == 0.0 || size.y == 0.0)
-            context.fail(u"Value must be nonzero."_s);
+            context.fail(Commands::tr("Value must be nonzero."));
         co_return Vec3{size.x, size.y, size.x};
     }
     Vec3 scale;
     const bool isSpatial = x.isKeyword(u"XYZ");
     if (isSpatial)
-        scale.x = co_await askFactor(context, u"Specify X scale factor <1>: "_s);
+        scale.x = co_await askFactor(context, Commands::tr("Specify X scale factor <1>: "));
     else
         scale.x = x.hasValue() ? x.real : 1.0;
     scale.y = co_await askLike(context, scale.x, u"Y"_s);
@@ -131,7 +135,7 @@ Dialogue<InsertPlacement> askPlacement(CommandContext &context, InsertScales sca
     Draft draft;
     PromptReply point;
     for (;;) {
-        point = co_await context.neededPoint(u"Specify insertion point or [Scale/X/Y/Z/Rotate]: "_s)
+        point = co_await context.neededPoint(Commands::tr("Specify insertion point or [Scale/X/Y/Z/Rotate]: "))
                     .dragging(hangingByBase(context, block, draft.placement));
         if (point.hasValue())
             break;
@@ -142,7 +146,7 @@ Dialogue<InsertPlacement> askPlacement(CommandContext &context, InsertScales sca
     if (scales == InsertScales::One) {
         double factor = placement.scale.x;
         if (!draft.hasScale)
-            factor = co_await askFactor(context, u"Specify scale factor <1>: "_s);
+            factor = co_await askFactor(context, Commands::tr("Specify scale factor <1>: "));
         placement.scale = {factor, factor, factor};
     } else if (!draft.hasScale) {
         const Dragged still = hangingThere(context, block, placement, false);

@@ -9,6 +9,7 @@
 #include "host/drawing/records/FileIndexer.h"
 #include "host/drawing/selection/Wildcard.h"
 #include "host/kernel/documents/Document.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/running/CommandContext.h"
 
 #include <QFile>
@@ -62,14 +63,14 @@ QString obstacleToReference(CommandContext &context, const NamedFile &named, con
     const QString own = context.document().path();
     const std::optional<drawing::Block> present = context.drawing().blocks().get(named.name);
     if (path.isEmpty())
-        return u"Cannot find file \"%1\"."_s.arg(named.file);
+        return Commands::tr("Cannot find file \"%1\".").arg(named.file);
     if (!own.isEmpty() && QFileInfo(path) == QFileInfo(own))
-        return u"The drawing cannot refer to itself."_s;
+        return Commands::tr("The drawing cannot refer to itself.");
     if (present && !present->isExternal())
-        return u"The name \"%1\" is a block's already."_s.arg(named.name);
+        return Commands::tr("The name \"%1\" is a block's already.").arg(named.name);
     if (!drawing::isSymbolName(named.name, context.drawing().version()))
-        return u"The name \"%1\" cannot be used."_s.arg(named.name);
-    return isDrawing(path) ? QString() : u"\"%1\" is no drawing."_s.arg(path);
+        return Commands::tr("The name \"%1\" cannot be used.").arg(named.name);
+    return isDrawing(path) ? QString() : Commands::tr("\"%1\" is no drawing.").arg(path);
 }
 
 /// The external reference to the file, made when the drawing has none of its name yet; noRecord when the command
@@ -86,12 +87,14 @@ RecordId referenceTo(CommandContext &context, const QString &typed, int flags)
     context.document().allowReading(path);
     RecordId block = blocks.find(named.name);
     if (isValid(block)) {
-        context.print(u"\nXref \"%1\" has already been defined.\nUsing existing definition."_s.arg(named.name));
+        context.print(
+            Commands::tr("\nXref \"%1\" has already been defined.\nUsing existing definition.").arg(named.name));
         return block;
     }
     block = blocks.create(named.name, {}, flags);
     setPath(context.drawing(), block, keptPath(context, path));
-    context.print(u"\n%1 Xref \"%2\": %3"_s.arg((flags & overlayFlag) ? u"Overlay"_s : u"Attach"_s, named.name, path));
+    context.print(
+        Commands::tr("\n%1 Xref \"%2\": %3").arg((flags & overlayFlag) ? u"Overlay"_s : u"Attach"_s, named.name, path));
     loadReference(context, blocks.read(block));
     return block;
 }
@@ -106,7 +109,7 @@ std::vector<drawing::Block> matchingReferences(CommandContext &context, const QS
             found.push_back(block);
     }
     if (found.empty())
-        context.print(u"\nNo matching references found."_s);
+        context.print(Commands::tr("\nNo matching references found."));
     return found;
 }
 
@@ -128,19 +131,19 @@ void detach(CommandContext &context, const drawing::Block &block)
         const bool isInBlock =
             drawing.kind(container) == drawing::RecordKind::Block && !drawing.blocks().read(container).isLayout();
         if (isInBlock)
-            return context.print(u"\n\"%1\" was not detached: block \"%2\" holds it."_s.arg(
-                block.name, drawing.blocks().name(container)));
+            return context.print(Commands::tr("\n\"%1\" was not detached: block \"%2\" holds it.")
+                                     .arg(block.name, drawing.blocks().name(container)));
     }
     if (editable(context, inserts).size() != inserts.size())
-        return context.print(u"\n\"%1\" was not detached."_s.arg(block.name));
+        return context.print(Commands::tr("\n\"%1\" was not detached.").arg(block.name));
     drawing::eraseReference(drawing, block);
-    context.print(u"\n\"%1\" detached."_s.arg(block.name));
+    context.print(Commands::tr("\n\"%1\" detached.").arg(block.name));
 }
 
 void unload(CommandContext &context, const drawing::Block &block)
 {
     context.drawing().blocks().setUnloaded(block.record, true);
-    context.print(u"\n\"%1\" unloaded."_s.arg(block.name));
+    context.print(Commands::tr("\n\"%1\" unloaded.").arg(block.name));
 }
 
 void reload(CommandContext &context, const drawing::Block &block)
@@ -162,16 +165,16 @@ struct NamesOption
 };
 
 constexpr NamesOption namesOptions[] = {
-    {u"?", "Enter xref name(s) to list <*>: ", "*", listReference},
-    {u"Bind", "Enter xref name(s) to bind: ", nullptr, bindWithNested},
-    {u"Detach", "Enter xref name(s) to detach: ", nullptr, detach},
-    {u"Unload", "Enter xref name(s) to unload: ", nullptr, unload},
-    {u"Reload", "Enter xref name(s) to reload: ", nullptr, reload},
+    {u"?", QT_TRANSLATE_NOOP("Commands", "Enter xref name(s) to list <*>: "), "*", listReference},
+    {u"Bind", QT_TRANSLATE_NOOP("Commands", "Enter xref name(s) to bind: "), nullptr, bindWithNested},
+    {u"Detach", QT_TRANSLATE_NOOP("Commands", "Enter xref name(s) to detach: "), nullptr, detach},
+    {u"Unload", QT_TRANSLATE_NOOP("Commands", "Enter xref name(s) to unload: "), nullptr, unload},
+    {u"Reload", QT_TRANSLATE_NOOP("Commands", "Enter xref name(s) to reload: "), nullptr, reload},
 };
 
 Dialogue<bool> changeNamed(CommandContext &context, const NamesOption &option)
 {
-    const PromptReply names = co_await context.text(QLatin1String(option.prompt), QLatin1String(option.usual));
+    const PromptReply names = co_await context.text(Commands::tr(option.prompt), QLatin1String(option.usual));
     if (!names.hasValue() && !option.usual)
         co_return false;
     for (const drawing::Block &block :
@@ -185,12 +188,12 @@ Dialogue<bool> changeNamed(CommandContext &context, const NamesOption &option)
 
 Dialogue<bool> changePaths(CommandContext &context)
 {
-    const PromptReply names = co_await context.text(u"Enter xref name(s) to edit path: "_s);
+    const PromptReply names = co_await context.text(Commands::tr("Enter xref name(s) to edit path: "));
     if (!names.hasValue())
         co_return false;
     for (const drawing::Block &block : matchingReferences(context, names.text)) {
-        context.print(u"\nXref name: %1\nOld path: %2"_s.arg(block.name, block.externalPath));
-        const PromptReply path = co_await context.text(u"Enter new path: "_s);
+        context.print(Commands::tr("\nXref name: %1\nOld path: %2").arg(block.name, block.externalPath));
+        const PromptReply path = co_await context.text(Commands::tr("Enter new path: "));
         if (!path.hasValue())
             continue;
         setPath(context.drawing(), block.record, path.text.trimmed());
@@ -211,7 +214,7 @@ double factorOf(CommandContext &context, RecordId block)
 
 Dialogue<bool> attach(CommandContext &context, int flags)
 {
-    const PromptReply file = co_await context.text(u"Enter name of file to attach: "_s);
+    const PromptReply file = co_await context.text(Commands::tr("Enter name of file to attach: "));
     const RecordId block = file.hasValue() ? referenceTo(context, file.text.trimmed(), flags) : drawing::noRecord;
     if (!isValid(block))
         co_return false;
@@ -228,7 +231,7 @@ Dialogue<bool> attach(CommandContext &context, int flags)
 CommandTask reference(CommandContext &context)
 {
     const PromptReply option = co_await context.keyword(
-        u"Enter an option [?/Bind/Detach/Path/Unload/Reload/Overlay/Attach] <Attach>: "_s, {}, u"Attach"_s);
+        Commands::tr("Enter an option [?/Bind/Detach/Path/Unload/Reload/Overlay/Attach] <Attach>: "), {}, u"Attach"_s);
     const QString chosen = option.hasValue() ? option.text : u"Attach"_s;
     for (const NamesOption &row : namesOptions) {
         if (row.option == chosen) {

@@ -5,6 +5,7 @@
 #include "host/drawing/file/Save.h"
 #include "host/drawing/records/Blocks.h"
 #include "host/kernel/documents/Document.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/running/CommandContext.h"
 #include "host/kernel/variables/SystemVariables.h"
 
@@ -24,14 +25,14 @@ using drawing::RecordId;
 bool writeDrawing(CommandContext &context, const std::unique_ptr<drawing::Drawing> &made, const QString &path)
 {
     if (!made) {
-        context.print(u"\nNothing to write."_s);
+        context.print(Commands::tr("\nNothing to write."));
         return false;
     }
     const bool isSymbol = path.endsWith(u".dwg"_s, Qt::CaseInsensitive);
     const drawing::SaveResult result = isSymbol ? drawing::saveSymbolCopy(*made, path) : drawing::saveCopy(*made, path);
     context.print(!result    ? u'\n' + result.error
-                  : isSymbol ? u"\n%1 was written as DXF text."_s.arg(path)
-                             : u"\n%1 was written."_s.arg(path));
+                  : isSymbol ? Commands::tr("\n%1 was written as DXF text.").arg(path)
+                             : Commands::tr("\n%1 was written.").arg(path));
     return bool(result);
 }
 
@@ -39,7 +40,7 @@ bool writeDrawing(CommandContext &context, const std::unique_ptr<drawing::Drawin
 // point. What is chosen and written goes out of the drawing; OOPS brings it back.
 CommandTask writeBlock(CommandContext &context)
 {
-    const PromptReply file = co_await context.text(u"Enter name of output file: "_s);
+    const PromptReply file = co_await context.text(Commands::tr("Enter name of output file: "));
     if (!file.hasValue() || file.text.trimmed().isEmpty())
         co_return;
     QString path = QFileInfo(QDir::current(), file.text.trimmed()).absoluteFilePath();
@@ -48,8 +49,8 @@ CommandTask writeBlock(CommandContext &context)
     const bool isWanted = co_await mayReplaceFile(context, path);
     if (!isWanted)
         co_return;
-    const PromptReply name =
-        co_await context.text(u"Enter name of existing block, [= (same name)/* (whole drawing)] <choose entities>: "_s);
+    const PromptReply name = co_await context.text(
+        Commands::tr("Enter name of existing block, [= (same name)/* (whole drawing)] <choose entities>: "));
     const QString typed = name.hasValue() ? name.text.trimmed() : QString();
     if (typed == u"*"_s) {
         writeDrawing(context,
@@ -64,10 +65,10 @@ CommandTask writeBlock(CommandContext &context)
         if (isValid(block))
             writeDrawing(context, drawing::wblock(context.drawing(), block), path);
         else
-            context.print(u"\nBlock \"%1\" not found."_s.arg(wanted));
+            context.print(Commands::tr("\nBlock \"%1\" not found.").arg(wanted));
         co_return;
     }
-    const PromptReply base = co_await context.point(u"Specify insertion base point: "_s);
+    const PromptReply base = co_await context.point(Commands::tr("Specify insertion base point: "));
     const PromptReply chosen = co_await context.selection();
     if (writeDrawing(context, drawing::wblock(context.drawing(), chosen.entities, base.point), path))
         takeOut(context, editable(context, chosen.entities));

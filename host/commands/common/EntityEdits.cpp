@@ -5,6 +5,7 @@
 #include "host/drawing/records/Dictionaries.h"
 #include "host/kernel/documents/Document.h"
 #include "host/kernel/input/SelectionQuery.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/running/CommandContext.h"
 #include "host/kernel/variables/SystemVariables.h"
 #include "host/view/build/TextMeasure.h"
@@ -22,7 +23,8 @@ std::vector<RecordId> editable(CommandContext &context, std::vector<RecordId> en
     const auto count = std::erase_if(
         entities, [&](RecordId id) { return !locked.isEmpty() && isOnLayerOf(locked, context.drawing(), id); });
     if (count > 0)
-        context.print(count == 1 ? u"\n1 was on a locked layer."_s : u"\n%1 were on a locked layer."_s.arg(count));
+        context.print(count == 1 ? Commands::tr("\n1 was on a locked layer.")
+                                 : Commands::tr("\n%1 were on a locked layer.").arg(count));
     return entities;
 }
 
@@ -74,12 +76,12 @@ void transformAll(CommandContext &context, const std::vector<RecordId> &entities
         return std::isfinite(v.x) && std::isfinite(v.y) && std::isfinite(v.z);
     });
     if (!isPossible)
-        return context.fail(u"The numbers are too large."_s);
+        return context.fail(Commands::tr("The numbers are too large."));
     int refused = 0;
     for (RecordId id : entities)
         refused += drawing::transformEntity(context.drawing(), id, matrix) ? 0 : 1;
     if (refused > 0)
-        context.print(u"\n%1 could not be changed."_s.arg(refused));
+        context.print(Commands::tr("\n%1 could not be changed.").arg(refused));
 }
 
 void mirrorAll(CommandContext &context, const std::vector<RecordId> &entities, const Matrix &matrix)
@@ -94,7 +96,7 @@ void mirrorAll(CommandContext &context, const std::vector<RecordId> &entities, c
     for (const RecordId id : entities)
         refused += drawing::mirrorEntity(context.drawing(), id, matrix, texts, lineSize) ? 0 : 1;
     if (refused > 0)
-        context.print(u"\n%1 could not be mirrored."_s.arg(refused));
+        context.print(Commands::tr("\n%1 could not be mirrored.").arg(refused));
 }
 
 std::vector<RecordId> copyAll(CommandContext &context, const std::vector<RecordId> &entities, const Matrix &matrix)
@@ -104,7 +106,7 @@ std::vector<RecordId> copyAll(CommandContext &context, const std::vector<RecordI
         if (const RecordId copy = drawing::copyEntity(context.drawing(), id); isValid(copy))
             copies.push_back(copy);
     if (copies.size() != entities.size())
-        context.print(u"\n%1 could not be copied."_s.arg(entities.size() - copies.size()));
+        context.print(Commands::tr("\n%1 could not be copied.").arg(entities.size() - copies.size()));
     transformAll(context, copies, matrix);
     return copies;
 }

@@ -3,6 +3,7 @@
 #include "host/drawing/records/HeaderVariables.h"
 #include "host/drawing/records/Tables.h"
 #include "host/kernel/documents/Document.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/running/CommandContext.h"
 
 #include <algorithm>
@@ -33,7 +34,7 @@ drawing::RecordId loadedLinetype(CommandContext &context, const QString &name)
         return drawing::noRecord;
     drawing::ShapeFiles shapes([&](const QString &file) { return context.document().findNamedFile(file); });
     if (drawing::loadLinetype(context.drawing(), *found, shapes).isEmpty())
-        context.print(u"\nLinetype \"%1\" loaded."_s.arg(found->name));
+        context.print(Commands::tr("\nLinetype \"%1\" loaded.").arg(found->name));
     return tables.find(TableKind::Linetype, name);
 }
 

@@ -1,6 +1,7 @@
 #include "host/commands/common/NamedEntries.h"
 
 #include "host/drawing/selection/Wildcard.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/running/CommandContext.h"
 
 using namespace Qt::StringLiterals;
@@ -45,7 +46,7 @@ RecordId neededEntry(CommandContext &context, TableKind kind, const QString &wha
 {
     const RecordId entry = context.drawing().tables().find(kind, name);
     if (!isValid(entry))
-        context.fail(u"Cannot find %1 \"%2\"."_s.arg(what, name));
+        context.fail(Commands::tr("Cannot find %1 \"%2\".").arg(what, name));
     return entry;
 }
 

@@ -2,6 +2,7 @@
 
 #include "host/kernel/documents/Document.h"
 #include "host/kernel/documents/Session.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/running/CommandContext.h"
 #include "host/kernel/variables/SystemVariables.h"
 
@@ -21,7 +22,7 @@ Dialogue<bool> mayReplaceFile(CommandContext &context, QString path)
     }
     if (!QFileInfo::exists(path) || document.variables().integer(u"EXPERT") >= 2)
         co_return true;
-    const QString question = u"%1 already exists. Replace it? [Yes/No] <No>: "_s.arg(path);
+    const QString question = Commands::tr("%1 already exists. Replace it? [Yes/No] <No>: ").arg(path);
     const PromptReply replace = co_await context.keyword(question, u"Yes No"_s, u"No"_s);
     co_return replace.text == u"Yes"_s;
 }

@@ -1,6 +1,7 @@
 #include "host/commands/common/ReferenceValue.h"
 
 #include "host/commands/common/DragShapes.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/running/CommandContext.h"
 
 using namespace Qt::StringLiterals;
@@ -13,16 +14,17 @@ Dialogue<double> askReferenceAngle(CommandContext &context, Vec3 base, std::vect
 {
     const QString zero = context.shownAngle(0.0);
     const PromptReply reference =
-        co_await context.orientation(u"Specify the reference angle <%1>: "_s.arg(zero), {}, {}, zero);
+        co_await context.orientation(Commands::tr("Specify the reference angle <%1>: ").arg(zero), {}, {}, zero);
     const UserPlane plane(context.document());
     const double from = reference.hasValue() ? reference.real : 0.0;
     PromptReply wanted =
-        co_await context.orientation(u"Specify the new angle or [Points] <%1>: "_s.arg(zero), {}, base, zero)
+        co_await context.orientation(Commands::tr("Specify the new angle or [Points] <%1>: ").arg(zero), {}, base, zero)
             .dragging(turnedBy(plane, dragged, base, from));
     if (wanted.isKeyword(u"Points")) {
-        const PromptReply first = co_await context.neededPoint(u"Specify first point: "_s);
-        wanted = co_await context.orientation(u"Specify second point: "_s, {}, first.point, {}, NoEmptyAnswer)
-                     .dragging(turnedBy(plane, dragged, base, from, first.point));
+        const PromptReply first = co_await context.neededPoint(Commands::tr("Specify first point: "));
+        wanted =
+            co_await context.orientation(Commands::tr("Specify second point: "), {}, first.point, {}, NoEmptyAnswer)
+                .dragging(turnedBy(plane, dragged, base, from, first.point));
     }
     co_return (wanted.hasValue() ? wanted.real : 0.0) - from;
 }
@@ -32,16 +34,17 @@ Dialogue<double> askReferenceFactor(CommandContext &context, Vec3 base, std::vec
     constexpr int bits = NoZero | NoNegative;
     const QString one = context.shownLength(1.0);
     const PromptReply reference =
-        co_await context.distance(u"Specify reference length <%1>: "_s.arg(one), {}, {}, one, bits);
+        co_await context.distance(Commands::tr("Specify reference length <%1>: ").arg(one), {}, {}, one, bits);
     const UserPlane plane(context.document());
     const double from = reference.hasValue() ? reference.real : 1.0;
     PromptReply wanted =
-        co_await context.distance(u"Specify new length or [Points] <%1>: "_s.arg(one), {}, base, one, bits)
+        co_await context.distance(Commands::tr("Specify new length or [Points] <%1>: ").arg(one), {}, base, one, bits)
             .dragging(scaledBy(plane, dragged, base, from));
     if (wanted.isKeyword(u"Points")) {
-        const PromptReply first = co_await context.neededPoint(u"Specify first point: "_s);
-        wanted = co_await context.distance(u"Specify second point: "_s, {}, first.point, {}, bits | NoEmptyAnswer)
-                     .dragging(scaledBy(plane, dragged, base, from, first.point));
+        const PromptReply first = co_await context.neededPoint(Commands::tr("Specify first point: "));
+        wanted =
+            co_await context.distance(Commands::tr("Specify second point: "), {}, first.point, {}, bits | NoEmptyAnswer)
+                .dragging(scaledBy(plane, dragged, base, from, first.point));
     }
     co_return (wanted.hasValue() ? wanted.real : 1.0) / from;
 }

@@ -2,6 +2,7 @@
 #include "host/commands/curves/PickedCurve.h"
 #include "host/drawing/solids/SolidModel.h"
 #include "host/kernel/documents/Document.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/variables/SystemVariables.h"
 
 using namespace Qt::StringLiterals;
@@ -29,18 +30,21 @@ struct AreaSession
 
     QString modeText() const
     {
-        return mode == Mode::Once ? QString() : mode == Mode::Add ? u"(ADD mode) "_s : u"(SUBTRACT mode) "_s;
+        return mode == Mode::Once  ? QString()
+               : mode == Mode::Add ? Commands::tr("(ADD mode) ")
+                                   : Commands::tr("(SUBTRACT mode) ");
     }
     void count(double area, double around, const QString &aroundName);
 };
 
 void AreaSession::count(double area, double around, const QString &aroundName)
 {
-    context.print(u"\nArea = %1, %2 = %3"_s.arg(context.shownLength(area), aroundName, context.shownLength(around)));
+    context.print(
+        Commands::tr("\nArea = %1, %2 = %3").arg(context.shownLength(area), aroundName, context.shownLength(around)));
     SystemVariables &variables = context.document().variables();
     if (mode != Mode::Once) {
         total += mode == Mode::Add ? area : -area;
-        context.print(u"\nTotal area = %1"_s.arg(context.shownLength(total)));
+        context.print(Commands::tr("\nTotal area = %1").arg(context.shownLength(total)));
     }
     variables.setInternally(u"AREA", mode == Mode::Once ? area : total);
     variables.setInternally(u"PERIMETER", around);
@@ -49,7 +53,7 @@ void AreaSession::count(double area, double around, const QString &aroundName)
 void countCurve(AreaSession &session, const EntityCurve &curve)
 {
     if (curve.isEndless() || !curve.isPlanar())
-        return session.context.print(u"\nSelected object does not have an area."_s);
+        return session.context.print(Commands::tr("\nSelected object does not have an area."));
     const bool isCircle = curve.kind() == EntityCurve::Kind::Circle;
     session.count(curve.area(), curve.length(),
                   isCircle           ? u"Circumference"_s
@@ -74,8 +78,8 @@ Dialogue<bool> measureCorners(AreaSession &session, Vec3 first)
 {
     std::vector<Vec3> corners = {first};
     for (;;) {
-        const QString prompt = corners.size() < 3 ? u"%1Specify next point or [Undo]: "_s
-                                                  : u"%1Specify next point or [Undo/Total] <Total>: "_s;
+        const QString prompt = corners.size() < 3 ? Commands::tr("%1Specify next point or [Undo]: ")
+                                                  : Commands::tr("%1Specify next point or [Undo/Total] <Total>: ");
         const PromptReply next = co_await session.context.point(prompt.arg(session.modeText()), {}, corners.back());
         if (next.isKeyword(u"Undo")) {
             if (corners.size() > 1)
@@ -101,13 +105,13 @@ void countEntity(AreaSession &session, drawing::RecordId entity)
     else if (region)
         session.count(region->area, region->perimeter, u"Perimeter"_s);
     else
-        session.context.print(u"\nSelected object does not have an area."_s);
+        session.context.print(Commands::tr("\nSelected object does not have an area."));
 }
 
 /// One curve; in the modes that sum a whole selection.
 Dialogue<bool> measureObjects(AreaSession &session)
 {
-    const QString prompt = session.modeText() + u"Select objects: "_s;
+    const QString prompt = session.modeText() + Commands::tr("Select objects: ");
     if (session.mode != AreaSession::Mode::Once) {
         const PromptReply chosen = co_await session.context.selection(prompt);
         for (const drawing::RecordId entity : chosen.entities)
@@ -128,10 +132,11 @@ CommandTask area(CommandContext &context)
     AreaSession session{context};
     for (;;) {
         const bool isOnce = session.mode == AreaSession::Mode::Once;
-        const QString prompt = isOnce ? u"Specify first corner point or [Object/Add area/Subtract area] <Object>: "_s
-                               : session.mode == AreaSession::Mode::Add
-                                   ? u"Specify first corner point or [Object/Subtract area]: "_s
-                                   : u"Specify first corner point or [Object/Add area]: "_s;
+        const QString prompt =
+            isOnce ? Commands::tr("Specify first corner point or [Object/Add area/Subtract area] <Object>: ")
+            : session.mode == AreaSession::Mode::Add
+                ? Commands::tr("Specify first corner point or [Object/Subtract area]: ")
+                : Commands::tr("Specify first corner point or [Object/Add area]: ");
         const PromptReply reply = co_await context.point(prompt, {}, {}, isOnce ? u"Object"_s : QString());
         if (reply.isEmpty() && !isOnce)
             co_return;

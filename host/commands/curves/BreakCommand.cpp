@@ -1,5 +1,6 @@
 #include "host/commands/Commands.h"
 #include "host/commands/curves/PickedCurve.h"
+#include "host/kernel/languages/Texts.h"
 
 using namespace Qt::StringLiterals;
 
@@ -45,24 +46,24 @@ std::vector<std::pair<double, double>> partsBeside(const EntityCurve &curve, dou
 // A curve, picked at the first break point unless First point is asked for, and the second; @ cuts without a gap.
 CommandTask breakCurve(CommandContext &context)
 {
-    const CurveAnswer answer = co_await askCurve(context, u"Select object: "_s, u"BREAK"_s);
+    const CurveAnswer answer = co_await askCurve(context, Commands::tr("Select object: "), u"BREAK"_s);
     if (!answer.picked)
         co_return;
     const PickedCurve &picked = *answer.picked;
     double first = picked.parameter;
     PromptReply reply =
-        co_await context.neededPoint(u"Specify second break point or [First point]: "_s, answer.reply.point);
+        co_await context.neededPoint(Commands::tr("Specify second break point or [First point]: "), answer.reply.point);
     if (!reply.hasValue()) {
-        const PromptReply begin = co_await context.neededPoint(u"Specify first break point: "_s);
+        const PromptReply begin = co_await context.neededPoint(Commands::tr("Specify first break point: "));
         first = parameterNear(context, picked.curve, begin.point);
-        reply = co_await context.neededPoint(u"Specify second break point: "_s, begin.point);
+        reply = co_await context.neededPoint(Commands::tr("Specify second break point: "), begin.point);
     }
     const double second = parameterNear(context, picked.curve, reply.point);
     const bool isSame = (picked.curve.point(first) - picked.curve.point(second)).length() <= picked.curve.tolerance();
     if (isSame && goesRound(picked.curve))
-        co_return context.fail(u"A whole circle or ellipse cannot be broken at one point."_s);
+        co_return context.fail(Commands::tr("A whole circle or ellipse cannot be broken at one point."));
     if (!replaceByParts(context, picked.entity, partsBeside(picked.curve, first, isSame ? first : second)))
-        context.fail(u"The object cannot be broken there."_s);
+        context.fail(Commands::tr("The object cannot be broken there."));
 }
 
 } // namespace

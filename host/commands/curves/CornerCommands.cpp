@@ -8,6 +8,7 @@
 #include "host/commands/curves/CornerPolylines.h"
 #include "host/drawing/math/Angles.h"
 #include "host/kernel/documents/Document.h"
+#include "host/kernel/languages/Texts.h"
 
 #include <cmath>
 
@@ -48,7 +49,6 @@ struct CornerSession
         done.back().takeBack();
         done.pop_back();
     }
-    QString verb() const { return cut.isRound ? u"filleted"_s : u"chamfered"_s; }
 };
 
 /// The ways of two lines from the point where they meet; nothing for parallels.
@@ -114,7 +114,7 @@ QString joinParallels(CommandContext &context, CornerChanges &changes, const Cor
     const UserPlane plane(context.document());
     if (!session.cut.isRound || !context.drawing().isType(first.record, "LINE") ||
         !context.drawing().isType(second.record, "LINE"))
-        return u"The lines are parallel."_s;
+        return Commands::tr("The lines are parallel.");
     const drawing::TagList tags = context.drawing().tags(first.record);
     const Vec2 from = plane.userFromWorld(tags.point(10)).xy();
     const Vec2 to = plane.userFromWorld(tags.point(11)).xy();
@@ -124,7 +124,7 @@ QString joinParallels(CommandContext &context, CornerChanges &changes, const Cor
     const Vec2 across = second.shape.point - end;
     const Vec2 foot = end + across - out * dot(across, out);
     if (!((foot - end).length() > 1e-9))
-        return u"The lines are one."_s;
+        return Commands::tr("The lines are one.");
     const double bulge = cross(out, foot - end) > 0.0 ? 1.0 : -1.0;
     if (session.isTrimming) {
         trimSide(changes, context.drawing(), plane, second, foot, out * -1.0);
@@ -143,10 +143,10 @@ QString cutStraight(CommandContext &context, CornerChanges &changes, const Corne
         return joinParallels(context, changes, session, first, second);
     const std::optional<CutEnds> ends = cutCorner(meeting->corner, meeting->first, meeting->second, session.current());
     if (!ends)
-        return u"The angle leads to no cut."_s;
+        return Commands::tr("The angle leads to no cut.");
     if (ends->firstReach > reachOf(context.drawing(), plane, first, meeting->corner, meeting->first) + 1e-9 ||
         ends->secondReach > reachOf(context.drawing(), plane, second, meeting->corner, meeting->second) + 1e-9)
-        return session.cut.isRound ? u"Radius is too large."_s : u"Distance is too large."_s;
+        return session.cut.isRound ? Commands::tr("Radius is too large.") : Commands::tr("Distance is too large.");
     if (session.isTrimming && (first.polyline || second.polyline))
         return joinPolylines(context, changes, first, second, *ends, {meeting->first, meeting->second});
     if (session.isTrimming) {
@@ -174,7 +174,7 @@ QString filletRound(CommandContext &context, CornerChanges &changes, const Corne
     const double radius = session.cut.radius;
     const std::vector<Vec2> centres = tangentCentres(first.shape, second.shape, radius);
     if (centres.empty())
-        return u"There is no arc of that radius."_s;
+        return Commands::tr("There is no arc of that radius.");
     const Vec2 centre = centres.front();
     CutEnds ends;
     ends.first = touchingPoint(first.shape, centre, radius);
@@ -190,7 +190,7 @@ QString filletRound(CommandContext &context, CornerChanges &changes, const Corne
     }
     if (!(reachOf(context.drawing(), plane, first, ends.first, kept.first) > 0.0) ||
         !(reachOf(context.drawing(), plane, second, ends.second, kept.second) > 0.0))
-        return u"Radius is too large."_s;
+        return Commands::tr("Radius is too large.");
     if (session.isTrimming && (first.polyline || second.polyline))
         return joinPolylines(context, changes, first, second, ends, kept);
     if (session.isTrimming) {
@@ -209,25 +209,25 @@ bool makeCorner(CommandContext &context, CornerSession &session, const CornerSid
     CornerChanges changes(context);
     QString problem;
     if (std::abs(first.shape.height - second.shape.height) > 1e-6)
-        problem = u"They do not lie in one plane."_s;
+        problem = Commands::tr("They do not lie in one plane.");
     else if (first.record == second.record && first.polyline && session.isTrimming &&
              (session.cut.isRound || (first.shape.isStraight && second.shape.isStraight)))
         problem = cutWithin(context, changes, session.current(), first, second);
     else if (first.record == second.record && !first.polyline)
-        problem = u"Two different ones are needed."_s;
+        problem = Commands::tr("Two different ones are needed.");
     else if (first.shape.isStraight && second.shape.isStraight)
         problem = cutStraight(context, changes, session, first, second);
     else if (session.cut.isRound)
         problem = filletRound(context, changes, session, first, second);
     else
-        problem = u"Only straight lines can be chamfered."_s;
+        problem = Commands::tr("Only straight lines can be chamfered.");
     session.done.push_back(std::move(changes));
     return problem.isEmpty() || !context.refuse(problem);
 }
 
 Dialogue<bool> askTrim(CommandContext &context, CornerSession &session)
 {
-    const QString mode = co_await askUsualOption(context, u"Enter Trim mode option [Trim/No trim]"_s,
+    const QString mode = co_await askUsualOption(context, Commands::tr("Enter Trim mode option [Trim/No trim]"),
                                                  session.isTrimming ? u"Trim"_s : u"No"_s);
     session.isTrimming = mode == u"Trim";
     keepValue(context, u"TRIMMODE", session.isTrimming ? 1 : 0);
@@ -236,9 +236,10 @@ Dialogue<bool> askTrim(CommandContext &context, CornerSession &session)
 
 Dialogue<bool> askChamferDistances(CommandContext &context, CornerSession &session)
 {
-    session.cut.first = co_await askUsualLength(context, u"Specify first chamfer distance"_s, session.cut.first);
+    session.cut.first =
+        co_await askUsualLength(context, Commands::tr("Specify first chamfer distance"), session.cut.first);
     const double usual = session.cut.first;
-    session.cut.second = co_await askUsualLength(context, u"Specify second chamfer distance"_s, usual);
+    session.cut.second = co_await askUsualLength(context, Commands::tr("Specify second chamfer distance"), usual);
     session.byAngle = false;
     keepValue(context, u"CHAMFERA", session.cut.first);
     keepValue(context, u"CHAMFERB", session.cut.second);
@@ -248,10 +249,11 @@ Dialogue<bool> askChamferDistances(CommandContext &context, CornerSession &sessi
 
 Dialogue<bool> askChamferAngle(CommandContext &context, CornerSession &session)
 {
-    session.length = co_await askUsualLength(context, u"Specify chamfer length on the first line"_s, session.length);
+    session.length =
+        co_await askUsualLength(context, Commands::tr("Specify chamfer length on the first line"), session.length);
     const QString usual = context.shownAngle(session.angle);
-    const PromptReply angle =
-        co_await context.angle(u"Specify chamfer angle from the first line <%1>: "_s.arg(usual), {}, {}, usual);
+    const PromptReply angle = co_await context.angle(
+        Commands::tr("Specify chamfer angle from the first line <%1>: ").arg(usual), {}, {}, usual);
     session.angle = angle.hasValue() ? angle.real : session.angle;
     session.byAngle = true;
     keepValue(context, u"CHAMFERC", session.length);
@@ -264,14 +266,15 @@ Dialogue<bool> askChamferAngle(CommandContext &context, CornerSession &session)
 Dialogue<bool> takeCutOption(CommandContext &context, CornerSession &session, const QString option)
 {
     if (option == u"Radius") {
-        session.cut.radius = co_await askUsualLength(context, u"Specify fillet radius"_s, session.cut.radius);
+        session.cut.radius =
+            co_await askUsualLength(context, Commands::tr("Specify fillet radius"), session.cut.radius);
         keepValue(context, u"FILLETRAD", session.cut.radius);
     } else if (option == u"Distance") {
         co_await askChamferDistances(context, session);
     } else if (option == u"Angle") {
         co_await askChamferAngle(context, session);
     } else if (option == u"mEthod") {
-        const QString method = co_await askUsualOption(context, u"Enter trim method [Distance/Angle]"_s,
+        const QString method = co_await askUsualOption(context, Commands::tr("Enter trim method [Distance/Angle]"),
                                                        session.byAngle ? u"Angle"_s : u"Distance"_s);
         session.byAngle = method == u"Angle";
         keepValue(context, u"CHAMMODE", session.byAngle ? 1 : 0);
@@ -295,8 +298,8 @@ CommandContext::Reply askSide(CommandContext &context, const QString &prompt, co
 
 Dialogue<bool> askWholePolyline(CommandContext &context, CornerSession &session)
 {
-    const QString prompt = session.cut.isRound ? u"Select 2D polyline or [Radius]: "_s
-                                               : u"Select 2D polyline or [Distance/Angle/mEthod]: "_s;
+    const QString prompt = session.cut.isRound ? Commands::tr("Select 2D polyline or [Radius]: ")
+                                               : Commands::tr("Select 2D polyline or [Distance/Angle/mEthod]: ");
     const QString options = session.cut.isRound ? u"Radius"_s : u"Distance Angle mEthod"_s;
     for (;;) {
         const PromptReply reply = co_await askSide(context, prompt, options);
@@ -310,7 +313,7 @@ Dialogue<bool> askWholePolyline(CommandContext &context, CornerSession &session)
             co_return true;
         std::optional<EditedPolyline> polyline = readPolyline(context.drawing(), reply.entities.front());
         if (!polyline || polyline->isSpatial) {
-            if (context.refuse(u"Requires a flat polyline."_s))
+            if (context.refuse(Commands::tr("Requires a flat polyline.")))
                 co_return false;
             continue;
         }
@@ -320,11 +323,13 @@ Dialogue<bool> askWholePolyline(CommandContext &context, CornerSession &session)
         CornerChanges changes(context);
         changes.store(*polyline);
         session.done.push_back(std::move(changes));
-        context.print(u"\n%1 lines were %2"_s.arg(counts.cut).arg(session.verb()));
+        context.print(
+            (session.cut.isRound ? Commands::tr("\n%1 lines were filleted") : Commands::tr("\n%1 lines were chamfered"))
+                .arg(counts.cut));
         if (counts.tooShort > 0)
-            context.print(u"\n%1 were too short"_s.arg(counts.tooShort));
+            context.print(Commands::tr("\n%1 were too short").arg(counts.tooShort));
         if (counts.parallel > 0)
-            context.print(u"\n%1 were parallel"_s.arg(counts.parallel));
+            context.print(Commands::tr("\n%1 were parallel").arg(counts.parallel));
         co_return true;
     }
 }
@@ -336,8 +341,8 @@ std::optional<CornerSide> sideOf(CommandContext &context, const PromptReply &pic
         return {};
     std::optional<CornerSide> side = cornerSide(context.drawing(), UserPlane(context.document()), picked);
     if (!side)
-        isFailed =
-            context.refuse(u"Requires a line, arc, circle or straight stretch of a polyline in the user's plane."_s);
+        isFailed = context.refuse(
+            Commands::tr("Requires a line, arc, circle or straight stretch of a polyline in the user's plane."));
     return side;
 }
 
@@ -345,8 +350,8 @@ std::optional<CornerSide> sideOf(CommandContext &context, const PromptReply &pic
 Dialogue<bool> askSecondSide(CommandContext &context, CornerSession &session, CornerSide first)
 {
     const bool isFillet = session.cut.isRound;
-    const QString prompt =
-        isFillet ? u"Select second object or [Radius]: "_s : u"Select second line or [Distance/Angle/Method]: "_s;
+    const QString prompt = isFillet ? Commands::tr("Select second object or [Radius]: ")
+                                    : Commands::tr("Select second line or [Distance/Angle/Method]: ");
     const QString options = isFillet ? u"Radius"_s : u"Distance Angle mEthod,M"_s;
     for (;;) {
         const PromptReply reply = co_await askSide(context, prompt, options);
@@ -369,8 +374,9 @@ Dialogue<bool> askSecondSide(CommandContext &context, CornerSession &session, Co
 Dialogue<bool> askCorners(CommandContext &context, CornerSession &session)
 {
     const bool isFillet = session.cut.isRound;
-    const QString prompt = isFillet ? u"Select first object or [Undo/Polyline/Radius/Trim/Multiple]: "_s
-                                    : u"Select first line or [Undo/Polyline/Distance/Angle/Trim/mEthod/Multiple]: "_s;
+    const QString prompt =
+        isFillet ? Commands::tr("Select first object or [Undo/Polyline/Radius/Trim/Multiple]: ")
+                 : Commands::tr("Select first line or [Undo/Polyline/Distance/Angle/Trim/mEthod/Multiple]: ");
     const QString options =
         isFillet ? u"Undo Polyline Radius Trim Multiple"_s : u"Undo Polyline Distance Angle Trim mEthod Multiple"_s;
     for (;;) {
@@ -380,7 +386,7 @@ Dialogue<bool> askCorners(CommandContext &context, CornerSession &session)
         bool goesOn = true;
         if (reply.isKeyword(u"Undo")) {
             if (session.done.empty())
-                context.print(u"\nNothing to undo"_s);
+                context.print(Commands::tr("\nNothing to undo"));
             else
                 session.takeBack();
             continue;
@@ -415,8 +421,8 @@ CommandTask fillet(CommandContext &context)
     CornerSession session(true);
     session.cut.radius = variables.real(u"FILLETRAD");
     session.isTrimming = variables.integer(u"TRIMMODE", 1) != 0;
-    context.print(u"\nCurrent settings: Mode = %1, Radius = %2"_s.arg(session.isTrimming ? u"TRIM"_s : u"NOTRIM"_s,
-                                                                      context.shownLength(session.cut.radius)));
+    context.print(Commands::tr("\nCurrent settings: Mode = %1, Radius = %2")
+                      .arg(session.isTrimming ? u"TRIM"_s : u"NOTRIM"_s, context.shownLength(session.cut.radius)));
     co_await askCorners(context, session);
 }
 
@@ -430,9 +436,9 @@ CommandTask chamfer(CommandContext &context)
     session.angle = variables.real(u"CHAMFERD");
     session.byAngle = variables.integer(u"CHAMMODE") != 0;
     session.isTrimming = variables.integer(u"TRIMMODE", 1) != 0;
-    context.print(u"\n(%1 mode) Current chamfer Dist1 = %2, Dist2 = %3"_s.arg(
-        session.isTrimming ? u"TRIM"_s : u"NOTRIM"_s, context.shownLength(session.cut.first),
-        context.shownLength(session.cut.second)));
+    context.print(Commands::tr("\n(%1 mode) Current chamfer Dist1 = %2, Dist2 = %3")
+                      .arg(session.isTrimming ? u"TRIM"_s : u"NOTRIM"_s, context.shownLength(session.cut.first),
+                           context.shownLength(session.cut.second)));
     co_await askCorners(context, session);
 }
 

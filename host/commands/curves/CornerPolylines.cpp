@@ -2,6 +2,7 @@
 
 #include "host/commands/common/CircleGeometry.h"
 #include "host/commands/common/UserPlane.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/running/CommandContext.h"
 
 #include <cmath>
@@ -111,7 +112,7 @@ QString filletNeighbours(CommandContext &context, CornerChanges &changes, double
         changes.store(polyline);
         return {};
     }
-    return u"Radius is too large."_s;
+    return Commands::tr("Radius is too large.");
 }
 
 /// The cut of the corner that two stretches make, which come from `start` and go to `end`; without ends where there is
@@ -128,13 +129,13 @@ StretchCut cutStretches(Vec2 start, Vec2 startEnd, Vec2 endStart, Vec2 end, cons
     const Vec2 out = end - endStart;
     const double sine = cross(in, out);
     if (!(std::abs(sine) > 1e-9 * in.length() * out.length()))
-        return {{}, u"The lines are parallel."_s};
+        return {{}, Commands::tr("The lines are parallel.")};
     const Vec2 corner = start + in * (cross(endStart - start, out) / sine);
     const Vec2 back = (start - corner) * (1.0 / (start - corner).length());
     const Vec2 on = (end - corner) * (1.0 / (end - corner).length());
     const std::optional<CutEnds> ends = cutCorner(corner, back, on, cut);
     if (!ends || ends->firstReach > (start - corner).length() || ends->secondReach > (end - corner).length())
-        return {{}, u"The corner has no room for that."_s};
+        return {{}, Commands::tr("The corner has no room for that.")};
     return {ends};
 }
 
@@ -168,7 +169,7 @@ QString joinPolylines(CommandContext &context, CornerChanges &changes, const Cor
     const std::optional<EditedPolyline> atFirst = towardsCut(context, first, ends.first, kept.first);
     const std::optional<EditedPolyline> atSecond = towardsCut(context, second, ends.second, kept.second);
     if (!atFirst || !atSecond)
-        return u"Only the ends of open polylines, lines and arcs can be joined."_s;
+        return Commands::tr("Only the ends of open polylines, lines and arcs can be joined.");
     EditedPolyline polyline = isFirst ? *atFirst : *atSecond;
     EditedPolyline rest = isFirst ? *atSecond : *atFirst;
     rest.reverse();
@@ -207,11 +208,11 @@ QString cutWithin(CommandContext &context, CornerChanges &changes, const CornerC
     if (!first.shape.isStraight || !second.shape.isStraight)
         return between == 1 ? filletNeighbours(context, changes, cut.radius, isInOrder ? first : second,
                                                isInOrder ? second : first)
-                            : u"Only neighbouring stretches of a polyline make a corner."_s;
+                            : Commands::tr("Only neighbouring stretches of a polyline make a corner.");
     if (isByEnds)
         return closeByCorner(changes, polyline, cut);
     if (between < 1 || between > 2)
-        return u"Only neighbouring stretches of a polyline make a corner."_s;
+        return Commands::tr("Only neighbouring stretches of a polyline make a corner.");
     const StretchCut made = cutStretches(vertices[before].point.xy(), vertices[(before + 1) % count].point.xy(),
                                          vertices[behind].point.xy(), vertices[(behind + 1) % count].point.xy(), cut);
     if (!made.ends)

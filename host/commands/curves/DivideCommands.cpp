@@ -4,6 +4,7 @@
 #include "host/commands/curves/PickedCurve.h"
 #include "host/drawing/math/Angles.h"
 #include "host/drawing/records/Blocks.h"
+#include "host/kernel/languages/Texts.h"
 
 using namespace Qt::StringLiterals;
 
@@ -54,36 +55,36 @@ Dialogue<std::optional<CurveMark>> askBlock(CommandContext &context)
 {
     CurveMark mark;
     for (;;) {
-        mark.block = (co_await context.name(u"Enter name of block to insert: "_s)).text;
+        mark.block = (co_await context.name(Commands::tr("Enter name of block to insert: "))).text;
         const bool isThere = isValid(context.drawing().blocks().find(mark.block));
         if (isThere && !mark.block.startsWith(u'*'))
             break;
-        if (mark.block.isEmpty() || context.refuse(u"Cannot find block \"%1\"."_s.arg(mark.block)))
+        if (mark.block.isEmpty() || context.refuse(Commands::tr("Cannot find block \"%1\".").arg(mark.block)))
             co_return std::nullopt;
     }
-    mark.isAligned = co_await askYesNo(context, u"Align block with object?"_s, true);
+    mark.isAligned = co_await askYesNo(context, Commands::tr("Align block with object?"), true);
     co_return mark;
 }
 
 // Points, or blocks, that cut a curve into as many parts of one length.
 CommandTask divide(CommandContext &context)
 {
-    const CurveAnswer answer = co_await askCurve(context, u"Select object to divide: "_s, u"DIVIDE"_s);
+    const CurveAnswer answer = co_await askCurve(context, Commands::tr("Select object to divide: "), u"DIVIDE"_s);
     if (!answer.picked || answer.picked->curve.isEndless())
         co_return;
     CurveMark mark;
-    PromptReply parts = co_await context.integer(u"Enter the number of segments or [Block]: "_s, {}, {},
+    PromptReply parts = co_await context.integer(Commands::tr("Enter the number of segments or [Block]: "), {}, {},
                                                  NoEmptyAnswer | NoZero | NoNegative);
     if (parts.isKeyword(u"Block")) {
         const std::optional<CurveMark> block = co_await askBlock(context);
         if (!block)
             co_return;
         mark = *block;
-        parts =
-            co_await context.integer(u"Enter the number of segments: "_s, {}, {}, NoEmptyAnswer | NoZero | NoNegative);
+        parts = co_await context.integer(Commands::tr("Enter the number of segments: "), {}, {},
+                                         NoEmptyAnswer | NoZero | NoNegative);
     }
     if (parts.integer < 2 || parts.integer > mostMarks)
-        co_return context.fail(u"The number must be between 2 and %1."_s.arg(mostMarks));
+        co_return context.fail(Commands::tr("The number must be between 2 and %1.").arg(mostMarks));
     const EntityCurve &curve = answer.picked->curve;
     const double length = curve.length();
     std::vector<double> distances;
@@ -95,23 +96,24 @@ CommandTask divide(CommandContext &context)
 // Points, or blocks, at steps of one length, from the end that was nearer to the pick.
 CommandTask measure(CommandContext &context)
 {
-    const CurveAnswer answer = co_await askCurve(context, u"Select object to measure: "_s, u"MEASURE"_s);
+    const CurveAnswer answer = co_await askCurve(context, Commands::tr("Select object to measure: "), u"MEASURE"_s);
     if (!answer.picked || answer.picked->curve.isEndless())
         co_return;
     constexpr int bits = NoEmptyAnswer | NoZero | NoNegative;
     CurveMark mark;
-    PromptReply step = co_await context.distance(u"Specify length of segment or [Block]: "_s, {}, {}, {}, bits);
+    PromptReply step =
+        co_await context.distance(Commands::tr("Specify length of segment or [Block]: "), {}, {}, {}, bits);
     if (step.isKeyword(u"Block")) {
         const std::optional<CurveMark> block = co_await askBlock(context);
         if (!block)
             co_return;
         mark = *block;
-        step = co_await context.distance(u"Specify length of segment: "_s, {}, {}, {}, bits);
+        step = co_await context.distance(Commands::tr("Specify length of segment: "), {}, {}, {}, bits);
     }
     const EntityCurve &curve = answer.picked->curve;
     const double length = curve.length();
     if (length / step.real > mostMarks)
-        co_return context.fail(u"These would be more than %1."_s.arg(mostMarks));
+        co_return context.fail(Commands::tr("These would be more than %1.").arg(mostMarks));
     const bool fromEnd = !curve.isClosed() && !answer.picked->isNearStart();
     std::vector<double> distances;
     for (int i = 1; i * step.real < length * (1.0 - 1e-9); ++i)

@@ -6,6 +6,7 @@
 #include "host/commands/curves/SplineJoin.h"
 #include "host/drawing/curves/BoxIndex.h"
 #include "host/drawing/curves/Carriers.h"
+#include "host/kernel/languages/Texts.h"
 
 #include <map>
 #include <numeric>
@@ -55,10 +56,10 @@ void joinOnCarrier(JoinSession &session, const CurveParts &parts)
         session.erased.push_back(parts[i].entity);
     session.joined += parts.size();
     const auto sourceKind = parts.front().curve.kind();
-    const QString kind = sourceKind == EntityCurve::Kind::Line  ? u"line"_s
-                         : sourceKind == EntityCurve::Kind::Arc ? u"arc"_s
-                                                                : u"ellipse"_s;
-    session.context.print(u"\n%1 %2s joined into 1 %2"_s.arg(parts.size()).arg(kind));
+    const QString told = sourceKind == EntityCurve::Kind::Line  ? Commands::tr("\n%1 lines joined into 1 line")
+                         : sourceKind == EntityCurve::Kind::Arc ? Commands::tr("\n%1 arcs joined into 1 arc")
+                                                                : Commands::tr("\n%1 ellipses joined into 1 ellipse");
+    session.context.print(told.arg(parts.size()));
 }
 
 /// The direction of the plane in which parts are joined: that of the first one that has a plane.
@@ -106,7 +107,7 @@ CurveParts joinToPolyline(JoinSession &session, const CurveParts &parts)
     if (stored.record != parts[numbers.front()].entity)
         session.erased.push_back(parts[numbers.front()].entity);
     session.joined += taken.size() + 1;
-    session.context.print(u"\n%1 objects converted to 1 polyline"_s.arg(taken.size() + 1));
+    session.context.print(Commands::tr("\n%1 objects converted to 1 polyline").arg(taken.size() + 1));
     return rest;
 }
 
@@ -150,7 +151,7 @@ CurveParts joinToSplines(JoinSession &session, CurveParts parts)
                 session.erased.push_back(parts[i].entity);
         }
         session.joined += isTaken.size();
-        session.context.print(u"\n%1 objects converted to 1 spline"_s.arg(isTaken.size()));
+        session.context.print(Commands::tr("\n%1 objects converted to 1 spline").arg(isTaken.size()));
         parts = std::move(rest);
     }
     return parts;
@@ -236,13 +237,14 @@ void joinAll(JoinSession &session, const CurveParts &parts, size_t chosen)
         joinGroupsOnCarriers(session, joinChains(session, parts));
     eraseAll(session.context, session.erased);
     if (session.joined < chosen)
-        session.context.print(u"\n%1 objects discarded from the operation"_s.arg(chosen - session.joined));
+        session.context.print(Commands::tr("\n%1 objects discarded from the operation").arg(chosen - session.joined));
 }
 
 // Curves joined to a source, or all with each other: on one straight line or circle across gaps, otherwise end to end.
 CommandTask join(CommandContext &context)
 {
-    PromptReply chosen = co_await context.selection(u"Select source object or multiple objects to join at once: "_s);
+    PromptReply chosen =
+        co_await context.selection(Commands::tr("Select source object or multiple objects to join at once: "));
     std::vector<RecordId> entities = editable(context, chosen.entities);
     CurveParts parts = openCurves(context, entities);
     if (parts.empty())
@@ -250,8 +252,8 @@ CommandTask join(CommandContext &context)
     if (entities.size() == 1) {
         const auto kind = parts.front().curve.kind();
         const bool isRound = kind == EntityCurve::Kind::Arc || kind == EntityCurve::Kind::Ellipse;
-        const QString prompt =
-            isRound ? u"Select arcs to join to source or [cLose]: "_s : u"Select objects to join: "_s;
+        const QString prompt = isRound ? Commands::tr("Select arcs to join to source or [cLose]: ")
+                                       : Commands::tr("Select objects to join: ");
         const PromptReply more = co_await context.selection(prompt);
         if (more.isKeyword(u"cLose"))
             co_return closeRound(context, parts.front());

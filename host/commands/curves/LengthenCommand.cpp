@@ -2,6 +2,7 @@
 #include "host/commands/common/KeptValues.h"
 #include "host/commands/curves/PickedCurve.h"
 #include "host/drawing/math/Angles.h"
+#include "host/kernel/languages/Texts.h"
 
 using namespace Qt::StringLiterals;
 
@@ -34,9 +35,10 @@ bool isArc(const EntityCurve &curve)
 
 void printMeasure(CommandContext &context, const EntityCurve &curve)
 {
-    QString text = u"\nCurrent length: %1"_s.arg(context.shownLength(curve.length()));
+    QString text = Commands::tr("\nCurrent length: %1").arg(context.shownLength(curve.length()));
     if (isArc(curve))
-        text += u", included angle: %1"_s.arg(context.shownAngle(curve.endParameter() - curve.startParameter()));
+        text +=
+            Commands::tr(", included angle: %1").arg(context.shownAngle(curve.endParameter() - curve.startParameter()));
     context.print(text);
 }
 
@@ -94,7 +96,7 @@ bool mayBeLengthened(CommandContext &context, const EntityCurve &curve)
 {
     const bool isPossible = !curve.isClosed() && !curve.isEndless();
     if (!isPossible)
-        context.print(u"\nThis object cannot be lengthened."_s);
+        context.print(Commands::tr("\nThis object cannot be lengthened."));
     return isPossible;
 }
 
@@ -104,7 +106,7 @@ Dialogue<bool> changeLengths(CommandContext &context, LengthChange change)
     std::vector<CurveStep> steps;
     for (;;) {
         const CurveAnswer answer =
-            co_await askCurve(context, u"Select an object to change or [Undo]: "_s, u"LENGTHEN"_s);
+            co_await askCurve(context, Commands::tr("Select an object to change or [Undo]: "), u"LENGTHEN"_s);
         if (answer.reply.isKeyword(u"Undo") && !steps.empty()) {
             takeBack(context, steps.back());
             steps.pop_back();
@@ -116,7 +118,7 @@ Dialogue<bool> changeLengths(CommandContext &context, LengthChange change)
         const PickedCurve &picked = *answer.picked;
         std::optional<std::pair<double, double>> range;
         if (change.kind == LengthChange::Kind::Dynamic) {
-            const PromptReply end = co_await context.neededPoint(u"Specify new endpoint: "_s);
+            const PromptReply end = co_await context.neededPoint(Commands::tr("Specify new endpoint: "));
             range = rangeToPoint(context, picked, end.point);
         } else if (const std::optional<double> length = newLength(picked.curve, change)) {
             range = rangeOfLength(picked.curve, *length, picked.isNearStart());
@@ -125,7 +127,7 @@ Dialogue<bool> changeLengths(CommandContext &context, LengthChange change)
         if (range && replaceByParts(context, picked.entity, {*range}, &step.made))
             steps.push_back(std::move(step));
         else
-            context.print(u"\nThe object cannot have that length."_s);
+            context.print(Commands::tr("\nThe object cannot have that length."));
     }
 }
 
@@ -133,12 +135,12 @@ Dialogue<LengthChange> askDelta(CommandContext &context)
 {
     const QString zero = context.shownLength(0.0);
     const PromptReply reply =
-        co_await context.distance(u"Enter delta length or [Angle] <%1>: "_s.arg(zero), {}, {}, zero);
+        co_await context.distance(Commands::tr("Enter delta length or [Angle] <%1>: ").arg(zero), {}, {}, zero);
     if (!reply.isKeyword(u"Angle"))
         co_return LengthChange{LengthChange::Kind::Delta, reply.hasValue() ? reply.real : 0.0};
     const QString none = context.shownAngle(0.0);
     const PromptReply angle =
-        co_await context.angle(u"Enter delta angle <%1>: "_s.arg(none), {}, {}, none, SignedAngle);
+        co_await context.angle(Commands::tr("Enter delta angle <%1>: ").arg(none), {}, {}, none, SignedAngle);
     co_return LengthChange{LengthChange::Kind::DeltaAngle, angle.hasValue() ? angle.real : 0.0};
 }
 
@@ -147,19 +149,20 @@ Dialogue<LengthChange> askTotal(CommandContext &context)
     constexpr int bits = NoZero | NoNegative;
     const QString one = context.shownLength(1.0);
     const PromptReply reply =
-        co_await context.distance(u"Specify total length or [Angle] <%1>: "_s.arg(one), {}, {}, one, bits);
+        co_await context.distance(Commands::tr("Specify total length or [Angle] <%1>: ").arg(one), {}, {}, one, bits);
     if (!reply.isKeyword(u"Angle"))
         co_return LengthChange{LengthChange::Kind::Total, reply.hasValue() ? reply.real : 1.0};
     const double usual = 57.0 * drawing::radians;
     const QString shown = context.shownAngle(usual);
-    const PromptReply angle = co_await context.angle(u"Specify total angle <%1>: "_s.arg(shown), {}, {}, shown, NoZero);
+    const PromptReply angle =
+        co_await context.angle(Commands::tr("Specify total angle <%1>: ").arg(shown), {}, {}, shown, NoZero);
     co_return LengthChange{LengthChange::Kind::TotalAngle, angle.hasValue() ? angle.real : usual};
 }
 
 Dialogue<LengthChange> askPercent(CommandContext &context)
 {
-    const PromptReply reply =
-        co_await context.real(u"Enter percentage length <100.0000>: "_s, {}, u"100.0000"_s, NoZero | NoNegative);
+    const PromptReply reply = co_await context.real(Commands::tr("Enter percentage length <100.0000>: "), {},
+                                                    u"100.0000"_s, NoZero | NoNegative);
     co_return LengthChange{LengthChange::Kind::Percent, reply.hasValue() ? reply.real : 100.0};
 }
 
@@ -168,7 +171,7 @@ CommandTask lengthen(CommandContext &context)
 {
     for (;;) {
         const CurveAnswer answer = co_await askCurve(
-            context, u"Select an object to measure or [DElta/Percent/Total/DYnamic]: "_s, u"LENGTHEN"_s);
+            context, Commands::tr("Select an object to measure or [DElta/Percent/Total/DYnamic]: "), u"LENGTHEN"_s);
         if (answer.picked) {
             if (!answer.picked->curve.isEndless())
                 printMeasure(context, answer.picked->curve);

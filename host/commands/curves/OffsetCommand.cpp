@@ -5,6 +5,7 @@
 #include "host/drawing/curves/Offset.h"
 #include "host/kernel/documents/CurrentSpace.h"
 #include "host/kernel/documents/Document.h"
+#include "host/kernel/languages/Texts.h"
 
 #include <QSet>
 
@@ -79,15 +80,15 @@ Dialogue<bool> askOffsetSettings(CommandContext &context, OffsetSettings &settin
     const double kept = context.document().variables().real(u"OFFSETDIST", -1.0);
     for (;;) {
         const QString usual = kept > 0.0 ? context.shownLength(kept) : u"Through"_s;
-        const PromptReply reply =
-            co_await context.distance(u"Specify offset distance or [Through/Erase/Layer] <%1>: "_s.arg(usual), {}, {},
-                                      usual, NoNegative | NoZero);
+        const PromptReply reply = co_await context.distance(
+            Commands::tr("Specify offset distance or [Through/Erase/Layer] <%1>: ").arg(usual), {}, {}, usual,
+            NoNegative | NoZero);
         if (reply.isKeyword(u"Erase")) {
-            settings.erasesSource =
-                co_await askYesNo(context, u"Erase source object after offsetting?"_s, settings.erasesSource);
+            settings.erasesSource = co_await askYesNo(context, Commands::tr("Erase source object after offsetting?"),
+                                                      settings.erasesSource);
         } else if (reply.isKeyword(u"Layer")) {
             const QString layer =
-                co_await askUsualOption(context, u"Enter layer option for offset objects [Current/Source]"_s,
+                co_await askUsualOption(context, Commands::tr("Enter layer option for offset objects [Current/Source]"),
                                         settings.onCurrentLayer ? u"Current"_s : u"Source"_s);
             settings.onCurrentLayer = layer == u"Current";
         } else {
@@ -102,7 +103,7 @@ Dialogue<bool> askOffsetSettings(CommandContext &context, OffsetSettings &settin
 void takeOffsetBack(CommandContext &context, std::vector<OffsetStep> &steps)
 {
     if (steps.empty())
-        return context.print(u"\nNothing to undo"_s);
+        return context.print(Commands::tr("\nNothing to undo"));
     eraseAll(context, steps.back().made);
     if (isValid(steps.back().erased))
         bringBack(context, {steps.back().erased});
@@ -122,8 +123,10 @@ Dialogue<OffsetNext> askSides(CommandContext &context, OffsetSettings settings, 
 {
     bool isMultiple = false;
     for (;;) {
-        const QString first = settings.isThrough ? u"Specify through point"_s : u"Specify point on side to offset"_s;
-        const QString rest = isMultiple ? u" or [Exit/Undo] <next object>: "_s : u" or [Exit/Multiple/Undo] <Exit>: "_s;
+        const QString first = settings.isThrough ? Commands::tr("Specify through point")
+                                                 : Commands::tr("Specify point on side to offset");
+        const QString rest = isMultiple ? Commands::tr(" or [Exit/Undo] <next object>: ")
+                                        : Commands::tr(" or [Exit/Multiple/Undo] <Exit>: ");
         const PromptReply reply = co_await context.point(first + rest, {}, {}, isMultiple ? u""_s : u"Exit"_s);
         if (reply.isEmpty())
             co_return isMultiple ? OffsetNext::NextObject : OffsetNext::Exit;
@@ -143,7 +146,7 @@ Dialogue<OffsetNext> askSides(CommandContext &context, OffsetSettings settings, 
         const double distance = settings.isThrough ? aside : std::copysign(settings.distance, aside);
         OffsetStep step{createParallel(context, source, *curve, distance, settings)};
         if (step.made.empty()) {
-            if (context.refuse(u"Cannot offset that object so far."_s))
+            if (context.refuse(Commands::tr("Cannot offset that object so far.")))
                 co_return OffsetNext::Abandon;
             continue;
         }
@@ -169,7 +172,7 @@ CommandTask offset(CommandContext &context)
     for (;;) {
         PromptRequest request;
         request.kind = PromptKind::Entity;
-        request.prompt = u"\nSelect object to offset or [Exit/Undo] <Exit>: "_s;
+        request.prompt = Commands::tr("\nSelect object to offset or [Exit/Undo] <Exit>: ");
         request.keywords = {u"Exit"_s, u"Undo"_s};
         const PromptReply picked = co_await context.ask(request);
         if (picked.isKeyword(u"Undo")) {
@@ -183,7 +186,7 @@ CommandTask offset(CommandContext &context)
         const RecordId source = picked.entities.front();
         const bool isCurve = EntityCurve::ofEntity(context.drawing(), source).has_value();
         if (!isCurve || context.drawing().isType(source, "LEADER")) {
-            if (context.refuse(u"Cannot offset that object."_s))
+            if (context.refuse(Commands::tr("Cannot offset that object.")))
                 co_return;
             continue;
         }

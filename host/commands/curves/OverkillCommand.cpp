@@ -5,6 +5,7 @@
 #include "host/drawing/curves/Carriers.h"
 #include "host/drawing/math/Angles.h"
 #include "host/drawing/tags/GroupCodes.h"
+#include "host/kernel/languages/Texts.h"
 
 #include <QSet>
 
@@ -195,7 +196,7 @@ Dialogue<bool> askIgnored(CommandContext &context, OverkillSettings &settings)
     QStringList names;
     for (const auto &[name, codes] : properties)
         names.append(name);
-    const QString prompt = u"Enter property to ignore [%1]"_s.arg(names.join(u'/'));
+    const QString prompt = Commands::tr("Enter property to ignore [%1]").arg(names.join(u'/'));
     const QString chosen = co_await askUsualOption(context, prompt, u"None"_s);
     for (const auto &[name, codes] : properties)
         if (name == chosen)
@@ -208,7 +209,7 @@ Dialogue<OverkillSettings> askOverkillSettings(CommandContext &context)
 {
     OverkillSettings settings;
     for (;;) {
-        const QString prompt = u"Enter an option to change [Done/Ignore/Tolerance/Overlaps/Endtoend]"_s;
+        const QString prompt = Commands::tr("Enter an option to change [Done/Ignore/Tolerance/Overlaps/Endtoend]");
         const QString option = co_await askUsualOption(context, prompt, u"Done"_s);
         if (option == u"Done")
             co_return settings;
@@ -216,14 +217,15 @@ Dialogue<OverkillSettings> askOverkillSettings(CommandContext &context)
             co_await askIgnored(context, settings);
         } else if (option == u"Tolerance") {
             constexpr double leastTolerance = 1e-9;
-            const double asked = co_await askUsualLength(context, u"Specify tolerance"_s, settings.tolerance);
+            const double asked =
+                co_await askUsualLength(context, Commands::tr("Specify tolerance"), settings.tolerance);
             settings.tolerance = std::max(asked, leastTolerance);
         } else if (option == u"Overlaps") {
-            settings.takesOverlaps =
-                co_await askYesNo(context, u"Combine lines and arcs that overlap?"_s, settings.takesOverlaps);
+            settings.takesOverlaps = co_await askYesNo(context, Commands::tr("Combine lines and arcs that overlap?"),
+                                                       settings.takesOverlaps);
         } else {
-            settings.takesEnds =
-                co_await askYesNo(context, u"Combine lines and arcs that meet end to end?"_s, settings.takesEnds);
+            settings.takesEnds = co_await askYesNo(
+                context, Commands::tr("Combine lines and arcs that meet end to end?"), settings.takesEnds);
         }
     }
 }
@@ -240,8 +242,8 @@ CommandTask overkill(CommandContext &context)
     eraseDuplicates(session, entities);
     uniteOverlaps(session, entities);
     eraseAll(context, {session.erased.begin(), session.erased.end()});
-    context.print(u"\n%1 duplicate(s) deleted"_s.arg(session.duplicates));
-    context.print(u"\n%1 overlapping object(s) or segment(s) deleted"_s.arg(session.overlaps));
+    context.print(Commands::tr("\n%1 duplicate(s) deleted").arg(session.duplicates));
+    context.print(Commands::tr("\n%1 overlapping object(s) or segment(s) deleted").arg(session.overlaps));
 }
 
 } // namespace

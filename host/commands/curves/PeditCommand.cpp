@@ -7,6 +7,7 @@
 #include "host/commands/curves/PolylineJoin.h"
 #include "host/kernel/documents/CurrentSpace.h"
 #include "host/kernel/documents/Document.h"
+#include "host/kernel/languages/Texts.h"
 
 using namespace Qt::StringLiterals;
 
@@ -91,7 +92,7 @@ Dialogue<RecordId> askPolyline(CommandContext &context, bool &isMultiple)
     for (;;) {
         PromptRequest request;
         request.kind = PromptKind::Entity;
-        request.prompt = u"\nSelect polyline or [Multiple]: "_s;
+        request.prompt = Commands::tr("\nSelect polyline or [Multiple]: ");
         request.keywords = {u"Multiple"_s, u"Last"_s};
         const PromptReply reply = co_await context.ask(request);
         isMultiple = reply.isKeyword(u"Multiple");
@@ -115,13 +116,13 @@ Dialogue<bool> askConversion(CommandContext &context, PeditSession &session, Rec
     }
     std::optional<EditedPolyline> made = polylineLike(context.drawing(), entity, userNormal(context));
     if (!made) {
-        context.fail(u"Object selected is not a polyline."_s);
+        context.fail(Commands::tr("Object selected is not a polyline."));
         co_return false;
     }
     bool isWanted = context.document().variables().integer(u"PEDITACCEPT") != 0;
     if (!isWanted) {
-        context.print(u"\nObject selected is not a polyline"_s);
-        isWanted = co_await askYesNo(context, u"Do you want to turn it into one?"_s, true);
+        context.print(Commands::tr("\nObject selected is not a polyline"));
+        isWanted = co_await askYesNo(context, Commands::tr("Do you want to turn it into one?"), true);
     }
     if (!isWanted)
         co_return false;
@@ -146,7 +147,7 @@ Dialogue<bool> askManyPolylines(CommandContext &context, PeditSession &session)
     }
     bool isWanted = !candidates.empty();
     if (isWanted && context.document().variables().integer(u"PEDITACCEPT") == 0)
-        isWanted = co_await askYesNo(context, u"Convert Lines, Arcs and Splines to polylines"_s, true);
+        isWanted = co_await askYesNo(context, Commands::tr("Convert Lines, Arcs and Splines to polylines"), true);
     session.begin();
     for (auto &[id, made] : candidates) {
         if (!isWanted)
@@ -184,8 +185,8 @@ Dialogue<bool> askJoin(CommandContext &context, PeditSession &session)
     for (const std::size_t i : taken)
         session.erase(records[i]);
     if (splines > 0)
-        context.print(u"\nSplines do not become part of a polyline: %1 left out."_s.arg(splines));
-    context.print(u"\n%1 segments added to polyline"_s.arg(taken.size()));
+        context.print(Commands::tr("\nSplines do not become part of a polyline: %1 left out.").arg(splines));
+    context.print(Commands::tr("\n%1 segments added to polyline").arg(taken.size()));
     co_return !taken.empty();
 }
 
@@ -194,14 +195,14 @@ Dialogue<JoinSettings> askFuzz(CommandContext &context)
     JoinSettings settings;
     for (;;) {
         const QString zero = context.shownLength(0.0);
-        const PromptReply fuzz = co_await context.distance(u"Enter fuzz distance or [Jointype] <%1>: "_s.arg(zero), {},
-                                                           {}, zero, NoNegative);
+        const PromptReply fuzz = co_await context.distance(
+            Commands::tr("Enter fuzz distance or [Jointype] <%1>: ").arg(zero), {}, {}, zero, NoNegative);
         if (!fuzz.isKeyword(u"Jointype")) {
             settings.fuzz = fuzz.hasValue() ? fuzz.real : 0.0;
             co_return settings;
         }
         const QString type =
-            co_await askUsualOption(context, u"Enter a vertex join type [Extend/Add/Both]"_s, u"Extend"_s);
+            co_await askUsualOption(context, Commands::tr("Enter a vertex join type [Extend/Add/Both]"), u"Extend"_s);
         settings.type = type == u"Add" ? JoinType::Add : JoinType::Extend;
     }
 }
@@ -232,7 +233,7 @@ Dialogue<bool> askJoinMany(CommandContext &context, PeditSession &session)
         joined += taken.size();
         session.polylines.push_back(std::move(polyline));
     }
-    context.print(u"\n%1 segments added to %2 polylines"_s.arg(joined).arg(session.polylines.size()));
+    context.print(Commands::tr("\n%1 segments added to %2 polylines").arg(joined).arg(session.polylines.size()));
     co_return true;
 }
 
@@ -247,8 +248,8 @@ void straightenAll(EditedPolyline &polyline)
 
 Dialogue<bool> askPolylineWidth(CommandContext &context, PeditSession &session)
 {
-    const PromptReply width =
-        co_await context.distance(u"Specify new width for all segments: "_s, {}, {}, {}, NoEmptyAnswer | NoNegative);
+    const PromptReply width = co_await context.distance(Commands::tr("Specify new width for all segments: "), {}, {},
+                                                        {}, NoEmptyAnswer | NoNegative);
     for (EditedPolyline &polyline : session.polylines)
         for (EditedVertex &vertex : polyline.vertices)
             vertex.startWidth = vertex.endWidth = width.real;
@@ -300,7 +301,7 @@ Dialogue<bool> takePeditOption(CommandContext &context, PeditSession &session, c
     } else if (option == u"Ltype") {
         const QString usual = session.polylines.front().isDashedAcross ? u"ON"_s : u"OFF"_s;
         const QString state =
-            co_await askUsualOption(context, u"Enter polyline linetype generation option [ON/OFF]"_s, usual);
+            co_await askUsualOption(context, Commands::tr("Enter polyline linetype generation option [ON/OFF]"), usual);
         for (EditedPolyline &polyline : session.polylines)
             polyline.isDashedAcross = state == u"ON";
     } else {
@@ -313,12 +314,13 @@ Dialogue<bool> takePeditOption(CommandContext &context, PeditSession &session, c
 QString peditPrompt(const PeditSession &session, bool isMultiple)
 {
     if (isMultiple)
-        return u"Enter an option [Close/Open/Join/Width/Fit/Spline/Decurve/Ltype gen/Reverse/Undo]: "_s;
+        return Commands::tr("Enter an option [Close/Open/Join/Width/Fit/Spline/Decurve/Ltype gen/Reverse/Undo]: ");
     const EditedPolyline &polyline = session.polylines.front();
     const QString close = polyline.isClosed ? u"Open"_s : u"Close"_s;
     if (polyline.isSpatial)
-        return u"Enter an option [%1/Edit vertex/Spline curve/Decurve/Reverse/Undo]: "_s.arg(close);
-    return u"Enter an option [%1/Join/Width/Edit vertex/Fit/Spline/Decurve/Ltype gen/Reverse/Undo]: "_s.arg(close);
+        return Commands::tr("Enter an option [%1/Edit vertex/Spline curve/Decurve/Reverse/Undo]: ").arg(close);
+    return Commands::tr("Enter an option [%1/Join/Width/Edit vertex/Fit/Spline/Decurve/Ltype gen/Reverse/Undo]: ")
+        .arg(close);
 }
 
 /// Close and Open both: programs close what may be closed already.
@@ -346,7 +348,7 @@ CommandTask editPolyline(CommandContext &context)
         if (option.text != u"Undo")
             co_await takePeditOption(context, session, option.text, isMultiple);
         else if (!session.undo())
-            context.print(u"\nNothing to undo"_s);
+            context.print(Commands::tr("\nNothing to undo"));
         goesOn = !session.polylines.empty();
     }
 }

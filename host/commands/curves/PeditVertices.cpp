@@ -1,6 +1,7 @@
 #include "host/commands/curves/PeditVertices.h"
 
 #include "host/commands/common/KeptValues.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/running/CommandContext.h"
 
 #include <cmath>
@@ -31,7 +32,7 @@ Dialogue<std::optional<std::size_t>> askOtherVertex(CommandContext &context, Ver
 {
     for (;;) {
         const PromptReply reply =
-            co_await context.keyword(u"Enter an option [Next/Previous/Go/eXit] <N>: "_s, {}, u"Next"_s);
+            co_await context.keyword(Commands::tr("Enter an option [Next/Previous/Go/eXit] <N>: "), {}, u"Next"_s);
         if (reply.text == u"Go")
             co_return walk.at;
         if (reply.text == u"eXit")
@@ -59,7 +60,7 @@ std::optional<EditedPolyline> breakBetween(CommandContext &context, VertexWalk &
     }
     std::vector<EditedVertex> behind(vertices.begin() + static_cast<qsizetype>(last), vertices.end());
     if ((first == 0 && behind.size() < 2) || (first == last && (first == 0 || behind.size() < 2))) {
-        context.print(u"\nNothing would be left on one side."_s);
+        context.print(Commands::tr("\nNothing would be left on one side."));
         return {};
     }
     vertices.resize(first + 1);
@@ -94,9 +95,9 @@ void straightenBetween(VertexWalk &walk, std::size_t other)
 
 Dialogue<bool> askSegmentWidths(CommandContext &context, VertexWalk &walk)
 {
-    const double start =
-        co_await askUsualLength(context, u"Specify starting width for next segment"_s, walk.marked().startWidth);
-    const double end = co_await askUsualLength(context, u"Specify ending width for next segment"_s, start);
+    const double start = co_await askUsualLength(context, Commands::tr("Specify starting width for next segment"),
+                                                 walk.marked().startWidth);
+    const double end = co_await askUsualLength(context, Commands::tr("Specify ending width for next segment"), start);
     walk.marked().startWidth = start;
     walk.marked().endWidth = end;
     co_return true;
@@ -104,7 +105,8 @@ Dialogue<bool> askSegmentWidths(CommandContext &context, VertexWalk &walk)
 
 Dialogue<bool> askNewVertex(CommandContext &context, VertexWalk &walk)
 {
-    const PromptReply place = co_await context.neededPoint(u"Specify location for new vertex: "_s, walk.world());
+    const PromptReply place =
+        co_await context.neededPoint(Commands::tr("Specify location for new vertex: "), walk.world());
     EditedVertex vertex = walk.marked();
     vertex.point = walk.polyline.fromWorld(place.point);
     vertex.bulge = 0.0;
@@ -117,8 +119,8 @@ Dialogue<bool> askNewVertex(CommandContext &context, VertexWalk &walk)
 
 Dialogue<bool> askVertexTangent(CommandContext &context, VertexWalk &walk)
 {
-    const PromptReply to =
-        co_await context.orientation(u"Specify direction of vertex tangent: "_s, {}, walk.world(), {}, NoEmptyAnswer);
+    const PromptReply to = co_await context.orientation(Commands::tr("Specify direction of vertex tangent: "), {},
+                                                        walk.world(), {}, NoEmptyAnswer);
     walk.marked().tangent = to.real;
     co_return true;
 }
@@ -130,7 +132,8 @@ Dialogue<VertexEdit> askVertexEdits(CommandContext &context, EditedPolyline poly
     VertexWalk walk{std::move(polyline)};
     const QString flat = walk.polyline.isSpatial ? u""_s : u"Tangent/Width/"_s;
     const QString prompt =
-        u"Enter a vertex editing option [Next/Previous/Break/Insert/Move/Regen/Straighten/%1eXit] <N>: "_s.arg(flat);
+        Commands::tr("Enter a vertex editing option [Next/Previous/Break/Insert/Move/Regen/Straighten/%1eXit] <N>: ")
+            .arg(flat);
     for (;;) {
         const PromptReply reply = co_await context.keyword(prompt, {}, u"Next"_s);
         const QString option = reply.hasValue() ? reply.text : u"Next"_s;
@@ -144,7 +147,7 @@ Dialogue<VertexEdit> askVertexEdits(CommandContext &context, EditedPolyline poly
             co_await askNewVertex(context, walk);
         } else if (option == u"Move") {
             const PromptReply place =
-                co_await context.neededPoint(u"Specify new location for marked vertex: "_s, walk.world());
+                co_await context.neededPoint(Commands::tr("Specify new location for marked vertex: "), walk.world());
             walk.marked().point = walk.polyline.fromWorld(place.point);
         } else if (option == u"Width") {
             co_await askSegmentWidths(context, walk);

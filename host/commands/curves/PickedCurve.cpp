@@ -3,6 +3,7 @@
 #include "host/commands/common/EntityEdits.h"
 #include "host/kernel/documents/Document.h"
 #include "host/kernel/input/SelectionQuery.h"
+#include "host/kernel/languages/Texts.h"
 
 using namespace Qt::StringLiterals;
 
@@ -41,12 +42,12 @@ std::optional<PickedCurve> pickedCurve(CommandContext &context, const PromptRepl
         return {};
     const RecordId entity = reply.entities.front();
     if (isOnLayerOf(lockedLayers(context.drawing()), context.drawing(), entity)) {
-        context.print(u"\nThat object is on a locked layer."_s);
+        context.print(Commands::tr("\nThat object is on a locked layer."));
         return {};
     }
     std::optional<PickedCurve> picked = curvePickedAt(context, entity, reply.point);
     if (!picked)
-        context.print(u"\nCannot %1 this object."_s.arg(verb));
+        context.print(Commands::tr("\nCannot %1 this object.").arg(verb));
     return picked;
 }
 

@@ -4,6 +4,7 @@
 #include "host/commands/curves/CuttingEdges.h"
 #include "host/kernel/documents/Document.h"
 #include "host/kernel/input/Picker.h"
+#include "host/kernel/languages/Texts.h"
 
 using namespace Qt::StringLiterals;
 
@@ -103,20 +104,20 @@ bool TrimSession::apply(const PickedCurve &picked)
 {
     const bool canExtend = !picked.curve.isClosed() && picked.curve.kind() != EntityCurve::Kind::Spline;
     if (isExtending && !canExtend) {
-        context.print(u"\nCannot EXTEND this object."_s);
+        context.print(Commands::tr("\nCannot EXTEND this object."));
         return false;
     }
     const std::optional<Parts> parts =
         isExtending ? partExtended(*this, picked)
                     : partsLeft(picked.curve, edges.onAndWithin(picked.entity, picked.curve), picked.parameter);
     if (!parts) {
-        context.print(u"\nObject does not intersect an edge."_s);
+        context.print(Commands::tr("\nObject does not intersect an edge."));
         return false;
     }
     drawing::FieldList before = context.drawing().fields(picked.entity);
     std::vector<RecordId> made;
     if (!replaceByParts(context, picked.entity, *parts, &made)) {
-        context.print(u"\nCannot %1 this object."_s.arg(verb()));
+        context.print(Commands::tr("\nCannot %1 this object.").arg(verb()));
         return false;
     }
     note(picked.entity, std::move(before), std::move(made));
@@ -132,7 +133,7 @@ void TrimSession::note(RecordId entity, drawing::FieldList before, std::vector<R
 void TrimSession::undo()
 {
     if (steps.empty())
-        return context.print(u"\nCommand has been completely undone."_s);
+        return context.print(Commands::tr("\nCommand has been completely undone."));
     takeBack(context, steps.back());
     steps.pop_back();
     edges.forget();
@@ -159,7 +160,7 @@ Dialogue<bool> trimByFence(TrimSession &session)
 {
     CommandContext &context = session.context;
     std::vector<Vec3> path;
-    PromptReply next = co_await context.point(u"Specify first fence point: "_s);
+    PromptReply next = co_await context.point(Commands::tr("Specify first fence point: "));
     while (next.hasValue() || next.isKeyword(u"Undo")) {
         if (next.hasValue())
             path.push_back(next.point);
@@ -167,7 +168,7 @@ Dialogue<bool> trimByFence(TrimSession &session)
             path.pop_back();
         if (path.empty())
             break;
-        next = co_await context.point(u"Specify next fence point or [Undo]: "_s, {}, path.back());
+        next = co_await context.point(Commands::tr("Specify next fence point or [Undo]: "), {}, path.back());
     }
     if (path.size() > 1)
         applyAlong(session, Picker(context.document()).inShape(ShapeKind::Fence, path), path);
@@ -177,12 +178,12 @@ Dialogue<bool> trimByFence(TrimSession &session)
 Dialogue<bool> trimByWindow(TrimSession &session)
 {
     CommandContext &context = session.context;
-    const PromptReply first = co_await context.point(u"Specify first corner: "_s);
+    const PromptReply first = co_await context.point(Commands::tr("Specify first corner: "));
     if (!first.hasValue())
         co_return false;
     PromptRequest request;
     request.kind = PromptKind::Corner;
-    request.prompt = u"Specify opposite corner: "_s;
+    request.prompt = Commands::tr("Specify opposite corner: ");
     request.base = first.point;
     const PromptReply second = co_await context.ask(request);
     if (!second.hasValue())
@@ -199,7 +200,8 @@ Dialogue<bool> askProjection(TrimSession &session)
     static const QStringList modes = {u"None"_s, u"Ucs"_s, u"View"_s};
     CommandContext &context = session.context;
     const int now = std::clamp(context.document().variables().integer(u"PROJMODE", 1), 0, 2);
-    const QString chosen = co_await askUsualOption(context, u"Enter a projection option [None/Ucs/View]"_s, modes[now]);
+    const QString chosen =
+        co_await askUsualOption(context, Commands::tr("Enter a projection option [None/Ucs/View]"), modes[now]);
     keepValue(context, u"PROJMODE", static_cast<qint32>(modes.indexOf(chosen)));
     session.readModes();
     co_return true;
@@ -210,8 +212,8 @@ Dialogue<bool> askEdgeMode(TrimSession &session)
     static const QStringList modes = {u"No extend"_s, u"Extend"_s};
     CommandContext &context = session.context;
     const int now = context.document().variables().integer(u"EDGEMODE") != 0 ? 1 : 0;
-    const QString chosen =
-        co_await askUsualOption(context, u"Enter an implied edge extension mode [Extend/No extend]"_s, modes[now]);
+    const QString chosen = co_await askUsualOption(
+        context, Commands::tr("Enter an implied edge extension mode [Extend/No extend]"), modes[now]);
     keepValue(context, u"EDGEMODE", chosen == modes[1] ? 1 : 0);
     session.readModes();
     co_return true;
@@ -251,22 +253,24 @@ void printModes(CommandContext &context)
     const SystemVariables &variables = context.document().variables();
     const int projection = std::clamp(variables.integer(u"PROJMODE", 1), 0, 2);
     const QString names[] = {u"None"_s, u"UCS"_s, u"View"_s};
-    context.print(u"\nCurrent settings: Projection=%1, Edge=%2"_s.arg(
-        names[projection], variables.integer(u"EDGEMODE") != 0 ? u"Extend"_s : u"None"_s));
+    context.print(Commands::tr("\nCurrent settings: Projection=%1, Edge=%2")
+                      .arg(names[projection], variables.integer(u"EDGEMODE") != 0 ? u"Extend"_s : u"None"_s));
 }
 
 // Cutting edges, or all there is; then curves one by one, each cut back to its edges on both sides of the pick.
 Dialogue<bool> trimOrExtend(CommandContext &context, bool isExtending)
 {
     printModes(context);
-    context.print(isExtending ? u"\nSelect boundary edges ..."_s : u"\nSelect cutting edges ..."_s);
+    context.print(isExtending ? Commands::tr("\nSelect boundary edges ...")
+                              : Commands::tr("\nSelect cutting edges ..."));
     const PromptReply chosen = co_await context.selection();
     const std::vector<RecordId> edges =
         chosen.entities.empty() ? Picker(context.document()).visible() : chosen.entities;
     TrimSession session{context, CuttingEdges(context, edges), isExtending, {}};
     session.readModes();
-    const QString prompt = isExtending ? u"Select object to extend or [Fence/Crossing/Project/Edge/Undo]: "_s
-                                       : u"Select object to trim or [Fence/Crossing/Project/Edge/eRase/Undo]: "_s;
+    const QString prompt = isExtending
+                               ? Commands::tr("Select object to extend or [Fence/Crossing/Project/Edge/Undo]: ")
+                               : Commands::tr("Select object to trim or [Fence/Crossing/Project/Edge/eRase/Undo]: ");
     for (;;) {
         const CurveAnswer answer = co_await askCurve(context, prompt, session.verb());
         if (answer.picked)

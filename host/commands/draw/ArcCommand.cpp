@@ -4,6 +4,7 @@
 #include "host/commands/common/UserPlane.h"
 #include "host/commands/draw/LastEnd.h"
 #include "host/kernel/documents/Document.h"
+#include "host/kernel/languages/Texts.h"
 
 #include <cmath>
 
@@ -92,22 +93,22 @@ Vec2 flatPoint(CommandContext &context, const PromptReply &reply)
 
 CommandContext::Reply askIncludedAngle(CommandContext &context, const Vec3 &base)
 {
-    return context.angle(u"Specify included angle: "_s, {}, base, {}, SignedAngle | NoEmptyAnswer | NoZero);
+    return context.angle(Commands::tr("Specify included angle: "), {}, base, {}, SignedAngle | NoEmptyAnswer | NoZero);
 }
 
 /// Its end, where centre and start are known.
 Dialogue<MaybeUserArc> askEndRound(CommandContext &context, Vec3 centreAt, ArcStart start)
 {
     const Vec2 centre = UserPlane(context.document()).userFromWorld(centreAt).xy();
-    const PromptReply end = co_await context.neededPoint(u"Specify end point of arc or [Angle/chord Length]: "_s,
-                                                         centreAt, u"Angle Length chord,C"_s);
+    const PromptReply end = co_await context.neededPoint(
+        Commands::tr("Specify end point of arc or [Angle/chord Length]: "), centreAt, u"Angle Length chord,C"_s);
     if (end.isKeyword(u"Angle")) {
         const PromptReply angle = co_await askIncludedAngle(context, centreAt);
         co_return arcRound(centre, start.flat, angle.real);
     }
     if (end.kind == ReplyKind::Keyword) {
-        const PromptReply chord =
-            co_await context.distance(u"Specify length of chord: "_s, {}, start.world, {}, NoEmptyAnswer | NoZero);
+        const PromptReply chord = co_await context.distance(Commands::tr("Specify length of chord: "), {}, start.world,
+                                                            {}, NoEmptyAnswer | NoZero);
         co_return arcOnChordOf(centre, start.flat, chord.real);
     }
     co_return arcRound(centre, start.flat, turnAround(centre, start.flat, flatPoint(context, end)));
@@ -115,22 +116,22 @@ Dialogue<MaybeUserArc> askEndRound(CommandContext &context, Vec3 centreAt, ArcSt
 
 Dialogue<MaybeUserArc> askBetweenEnds(CommandContext &context, ArcStart start)
 {
-    const PromptReply end = co_await context.neededPoint(u"Specify end point of arc: "_s, start.world);
+    const PromptReply end = co_await context.neededPoint(Commands::tr("Specify end point of arc: "), start.world);
     const Vec2 to = flatPoint(context, end);
-    const PromptReply reply =
-        co_await context.neededPoint(u"Specify center point of arc or [Angle/Direction/Radius]: "_s, start.world);
+    const PromptReply reply = co_await context.neededPoint(
+        Commands::tr("Specify center point of arc or [Angle/Direction/Radius]: "), start.world);
     if (reply.isKeyword(u"Angle")) {
         const PromptReply angle = co_await askIncludedAngle(context, start.world);
         co_return arcBetween(start.flat, to, angle.real);
     }
     if (reply.isKeyword(u"Direction")) {
         const PromptReply tangent = co_await context.orientation(
-            u"Specify tangent direction for the start point of arc: "_s, {}, start.world, {}, NoEmptyAnswer);
+            Commands::tr("Specify tangent direction for the start point of arc: "), {}, start.world, {}, NoEmptyAnswer);
         co_return arcAlong(start.flat, tangent.real, to);
     }
     if (reply.isKeyword(u"Radius")) {
-        const PromptReply radius =
-            co_await context.distance(u"Specify radius of arc: "_s, {}, end.point, {}, NoEmptyAnswer | NoZero);
+        const PromptReply radius = co_await context.distance(Commands::tr("Specify radius of arc: "), {}, end.point, {},
+                                                             NoEmptyAnswer | NoZero);
         co_return arcOfRadius(start.flat, to, radius.real);
     }
     const Vec2 centre = flatPoint(context, reply);
@@ -140,14 +141,15 @@ Dialogue<MaybeUserArc> askBetweenEnds(CommandContext &context, ArcStart start)
 Dialogue<MaybeUserArc> askFromStart(CommandContext &context, ArcStart start)
 {
     const PromptReply second =
-        co_await context.neededPoint(u"Specify second point of arc or [Center/End]: "_s, start.world);
+        co_await context.neededPoint(Commands::tr("Specify second point of arc or [Center/End]: "), start.world);
     if (second.isKeyword(u"Center")) {
-        const PromptReply centre = co_await context.neededPoint(u"Specify center point of arc: "_s, start.world);
+        const PromptReply centre =
+            co_await context.neededPoint(Commands::tr("Specify center point of arc: "), start.world);
         co_return co_await askEndRound(context, centre.point, start);
     }
     if (second.isKeyword(u"End"))
         co_return co_await askBetweenEnds(context, start);
-    const PromptReply end = co_await context.neededPoint(u"Specify end point of arc: "_s, second.point);
+    const PromptReply end = co_await context.neededPoint(Commands::tr("Specify end point of arc: "), second.point);
     co_return arcThrough(start.flat, flatPoint(context, second), flatPoint(context, end));
 }
 
@@ -156,7 +158,7 @@ Dialogue<MaybeUserArc> askContinued(CommandContext &context, LastEnd last)
     const UserPlane plane(context.document());
     const Vec3 from = plane.userFromWorld(last.point);
     const Vec3 along = plane.userFromWorld(last.point + last.direction) - from;
-    const PromptReply end = co_await context.neededPoint(u"Specify end point of arc: "_s, last.point);
+    const PromptReply end = co_await context.neededPoint(Commands::tr("Specify end point of arc: "), last.point);
     co_return arcAlong(from.xy(), std::atan2(along.y, along.x), flatPoint(context, end));
 }
 
@@ -180,19 +182,19 @@ void createArc(CommandContext &context, const UserArc &arc, double height)
 // An empty answer for the start goes on from what was drawn last.
 CommandTask arc(CommandContext &context)
 {
-    PromptReply first = co_await context.point(u"Specify start point of arc or [Center]: "_s);
+    PromptReply first = co_await context.point(Commands::tr("Specify start point of arc or [Center]: "));
     MaybeUserArc made;
     if (first.isEmpty()) {
         const std::optional<LastEnd> last = lastEnd(context);
         if (!last) {
-            context.fail(u"No line or arc to continue."_s);
+            context.fail(Commands::tr("No line or arc to continue."));
             co_return;
         }
         first.point = last->point;
         made = co_await askContinued(context, *last);
     } else if (first.isKeyword(u"Center")) {
-        const PromptReply centre = co_await context.neededPoint(u"Specify center point of arc: "_s);
-        first = co_await context.neededPoint(u"Specify start point of arc: "_s, centre.point);
+        const PromptReply centre = co_await context.neededPoint(Commands::tr("Specify center point of arc: "));
+        first = co_await context.neededPoint(Commands::tr("Specify start point of arc: "), centre.point);
         made = co_await askEndRound(context, centre.point, {first.point, flatPoint(context, first)});
     } else {
         made = co_await askFromStart(context, {first.point, flatPoint(context, first)});
@@ -200,7 +202,7 @@ CommandTask arc(CommandContext &context)
     if (made)
         createArc(context, *made, UserPlane(context.document()).userFromWorld(first.point).z);
     else
-        context.fail(u"There is no such arc."_s);
+        context.fail(Commands::tr("There is no such arc."));
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 #include "host/commands/common/TangentCircle.h"
 #include "host/commands/common/UserPlane.h"
 #include "host/kernel/documents/Document.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/running/CommandContext.h"
 #include "host/kernel/running/Dialogue.h"
 #include "host/kernel/variables/SystemVariables.h"
@@ -29,9 +30,10 @@ using MaybeCircle = std::optional<UserCircle>;
 Dialogue<MaybeCircle> askDiameterEnds(CommandContext &context)
 {
     const UserPlane plane(context.document());
-    const PromptReply first = co_await context.neededPoint(u"Specify first end point of circle's diameter: "_s);
+    const PromptReply first =
+        co_await context.neededPoint(Commands::tr("Specify first end point of circle's diameter: "));
     const PromptReply second =
-        co_await context.neededPoint(u"Specify second end point of circle's diameter: "_s, first.point);
+        co_await context.neededPoint(Commands::tr("Specify second end point of circle's diameter: "), first.point);
     const Vec3 from = plane.userFromWorld(first.point);
     const Vec3 to = plane.userFromWorld(second.point);
     const Vec2 middle = (from.xy() + to.xy()) * 0.5;
@@ -42,10 +44,11 @@ Dialogue<MaybeCircle> askThreePoints(CommandContext &context)
 {
     const UserPlane plane(context.document());
     std::vector<Vec3> points;
-    for (const char *which : {"first", "second", "third"}) {
+    for (const char *prompt : {QT_TRANSLATE_NOOP("Commands", "Specify first point on circle: "),
+                               QT_TRANSLATE_NOOP("Commands", "Specify second point on circle: "),
+                               QT_TRANSLATE_NOOP("Commands", "Specify third point on circle: ")}) {
         const std::optional<Vec3> base = points.empty() ? std::nullopt : std::optional(points.back());
-        const PromptReply reply =
-            co_await context.neededPoint(u"Specify %1 point on circle: "_s.arg(QLatin1String(which)), base);
+        const PromptReply reply = co_await context.neededPoint(Commands::tr(prompt), base);
         points.push_back(reply.point);
     }
     std::vector<Vec2> flat;
@@ -54,7 +57,7 @@ Dialogue<MaybeCircle> askThreePoints(CommandContext &context)
         flat.push_back(plane.userFromWorld(point).xy());
     const std::optional<Vec2> centre = circleCentre(flat[0], flat[1], flat[2]);
     if (!centre) {
-        context.fail(u"Circle does not exist: the points lie in one line."_s);
+        context.fail(Commands::tr("Circle does not exist: the points lie in one line."));
         co_return std::nullopt;
     }
     co_return UserCircle{{centre->x, centre->y, plane.userFromWorld(points.front()).z}, (flat[0] - *centre).length()};
@@ -72,7 +75,7 @@ Dialogue<double> askRadius(CommandContext &context, const QString prompt, const 
     PromptReply reply = co_await context.distance(withDefault(prompt, last), {}, base, shown(last), bits);
     double factor = 1.0;
     if (reply.isKeyword(u"Diameter")) {
-        reply = co_await context.distance(withDefault(u"Specify diameter of circle"_s, last * 2.0), {}, base,
+        reply = co_await context.distance(withDefault(Commands::tr("Specify diameter of circle"), last * 2.0), {}, base,
                                           shown(last * 2.0), bits);
         factor = 0.5;
     }
@@ -83,22 +86,23 @@ Dialogue<MaybeCircle> askTangents(CommandContext &context)
 {
     const UserPlane plane(context.document());
     std::vector<TangentLine> tangents;
-    for (const char *which : {"first", "second"}) {
-        const PromptReply picked =
-            co_await context.entity(u"Specify point on object for %1 tangent of circle: "_s.arg(QLatin1String(which)));
+    for (const char *prompt :
+         {QT_TRANSLATE_NOOP("Commands", "Specify point on object for first tangent of circle: "),
+          QT_TRANSLATE_NOOP("Commands", "Specify point on object for second tangent of circle: ")}) {
+        const PromptReply picked = co_await context.entity(Commands::tr(prompt));
         if (picked.entities.empty())
             co_return std::nullopt;
         const auto found = tangentLine(context.drawing(), picked.entities.front(), plane, picked.point);
         if (!found) {
-            context.fail(u"Requires a line, an arc or a circle in the user's plane."_s);
+            context.fail(Commands::tr("Requires a line, an arc or a circle in the user's plane."));
             co_return std::nullopt;
         }
         tangents.push_back(*found);
     }
-    const double radius = co_await askRadius(context, u"Specify radius of circle"_s, {});
+    const double radius = co_await askRadius(context, Commands::tr("Specify radius of circle"), {});
     const std::optional<Vec2> centre = tangentCentre(tangents[0], tangents[1], radius);
     if (!centre) {
-        context.fail(u"Circle does not exist."_s);
+        context.fail(Commands::tr("Circle does not exist."));
         co_return std::nullopt;
     }
     co_return UserCircle{{centre->x, centre->y, tangents[0].height}, radius};
@@ -107,14 +111,15 @@ Dialogue<MaybeCircle> askTangents(CommandContext &context)
 Dialogue<MaybeCircle> askCircle(CommandContext &context)
 {
     const PromptReply centre =
-        co_await context.neededPoint(u"Specify center point for circle or [3P/2P/Ttr (tan tan radius)]: "_s);
+        co_await context.neededPoint(Commands::tr("Specify center point for circle or [3P/2P/Ttr (tan tan radius)]: "));
     if (centre.isKeyword(u"3P"))
         co_return co_await askThreePoints(context);
     if (centre.isKeyword(u"2P"))
         co_return co_await askDiameterEnds(context);
     if (centre.isKeyword(u"Ttr"))
         co_return co_await askTangents(context);
-    const double radius = co_await askRadius(context, u"Specify radius of circle or [Diameter]"_s, centre.point);
+    const double radius =
+        co_await askRadius(context, Commands::tr("Specify radius of circle or [Diameter]"), centre.point);
     co_return UserCircle{UserPlane(context.document()).userFromWorld(centre.point), radius};
 }
 
@@ -124,7 +129,7 @@ CommandTask circle(CommandContext &context)
     if (!made)
         co_return;
     if (!(made->radius > 0.0)) {
-        context.fail(u"Circle does not exist: the points are one."_s);
+        context.fail(Commands::tr("Circle does not exist: the points are one."));
         co_return;
     }
     const UserPlane plane(context.document());

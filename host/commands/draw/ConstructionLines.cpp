@@ -2,6 +2,7 @@
 #include "host/commands/common/KeptValues.h"
 #include "host/commands/common/UserPlane.h"
 #include "host/kernel/documents/Document.h"
+#include "host/kernel/languages/Texts.h"
 
 #include <cmath>
 
@@ -24,7 +25,7 @@ void createEndless(CommandContext &context, const QString &type, const Vec3 &at,
 Dialogue<bool> askThrough(CommandContext &context, const QString type, const Vec3 from)
 {
     for (;;) {
-        const PromptReply through = co_await context.point(u"Specify through point: "_s, {}, from);
+        const PromptReply through = co_await context.point(Commands::tr("Specify through point: "), {}, from);
         if (!through.hasValue())
             co_return true;
         createEndless(context, type, from, through.point - from);
@@ -35,7 +36,7 @@ Dialogue<bool> askThrough(CommandContext &context, const QString type, const Vec
 Dialogue<bool> askParallels(CommandContext &context, const Vec3 along)
 {
     for (;;) {
-        const PromptReply through = co_await context.point(u"Specify through point: "_s);
+        const PromptReply through = co_await context.point(Commands::tr("Specify through point: "));
         if (!through.hasValue())
             co_return true;
         createEndless(context, u"XLINE"_s, through.point, along);
@@ -83,7 +84,7 @@ StraightPick nearestStretch(const drawing::TagList &tags, const Vec3 &picked)
 Dialogue<std::optional<StraightPick>> askLineObject(CommandContext &context)
 {
     for (;;) {
-        const PromptReply reply = co_await context.entity(u"Select a line object: "_s);
+        const PromptReply reply = co_await context.entity(Commands::tr("Select a line object: "));
         if (reply.entities.empty() && !reply.isMiss)
             co_return std::nullopt;
         StraightPick found;
@@ -99,7 +100,7 @@ Dialogue<std::optional<StraightPick>> askLineObject(CommandContext &context)
         }
         if (found.along.length() > 0.0)
             co_return found;
-        if (context.refuse(u"Requires a line, a ray or a straight part of a polyline."_s))
+        if (context.refuse(Commands::tr("Requires a line, a ray or a straight part of a polyline.")))
             co_return std::nullopt;
     }
 }
@@ -107,8 +108,8 @@ Dialogue<std::optional<StraightPick>> askLineObject(CommandContext &context)
 Dialogue<bool> askAngled(CommandContext &context)
 {
     const QString zero = context.shownAngle(0.0);
-    PromptReply angle =
-        co_await context.orientation(u"Enter angle of xline (%1) or [Reference]: "_s.arg(zero), {}, {}, zero);
+    PromptReply angle = co_await context.orientation(
+        Commands::tr("Enter angle of xline (%1) or [Reference]: ").arg(zero), {}, {}, zero);
     if (!angle.isKeyword(u"Reference")) {
         co_await askParallels(context, directionOf(context, angle.hasValue() ? angle.real : 0.0));
         co_return true;
@@ -118,7 +119,7 @@ Dialogue<bool> askAngled(CommandContext &context)
         co_return false;
     const UserPlane plane(context.document());
     const Vec3 along = plane.userFromWorld(line->along) - plane.userFromWorld({});
-    angle = co_await context.angle(u"Enter angle of xline <%1>: "_s.arg(zero), {}, {}, zero);
+    angle = co_await context.angle(Commands::tr("Enter angle of xline <%1>: ").arg(zero), {}, {}, zero);
     const double turn = angle.hasValue() ? angle.real : 0.0;
     co_await askParallels(context, directionOf(context, std::atan2(along.y, along.x) + turn));
     co_return true;
@@ -126,11 +127,11 @@ Dialogue<bool> askAngled(CommandContext &context)
 
 Dialogue<bool> askBisecting(CommandContext &context)
 {
-    const PromptReply vertex = co_await context.neededPoint(u"Specify angle vertex point: "_s);
-    const PromptReply start = co_await context.neededPoint(u"Specify angle start point: "_s, vertex.point);
+    const PromptReply vertex = co_await context.neededPoint(Commands::tr("Specify angle vertex point: "));
+    const PromptReply start = co_await context.neededPoint(Commands::tr("Specify angle start point: "), vertex.point);
     const Vec3 first = drawing::normalized(start.point - vertex.point);
     for (;;) {
-        const PromptReply end = co_await context.point(u"Specify angle end point: "_s, {}, vertex.point);
+        const PromptReply end = co_await context.point(Commands::tr("Specify angle end point: "), {}, vertex.point);
         if (!end.hasValue())
             co_return true;
         const Vec3 second = drawing::normalized(end.point - vertex.point);
@@ -146,8 +147,8 @@ Dialogue<bool> askOffsets(CommandContext &context)
 {
     const double kept = context.document().variables().real(u"OFFSETDIST", -1.0);
     const QString usual = kept > 0.0 ? context.shownLength(kept) : u"Through"_s;
-    const PromptReply distance = co_await context.distance(u"Specify offset distance or [Through] <%1>: "_s.arg(usual),
-                                                           {}, {}, usual, NoNegative);
+    const PromptReply distance = co_await context.distance(
+        Commands::tr("Specify offset distance or [Through] <%1>: ").arg(usual), {}, {}, usual, NoNegative);
     const bool isThrough = distance.isKeyword(u"Through") || (distance.isEmpty() && kept <= 0.0);
     const double away = distance.hasValue() ? distance.real : kept;
     keepValue(context, u"OFFSETDIST", isThrough ? -1.0 : away);
@@ -155,8 +156,9 @@ Dialogue<bool> askOffsets(CommandContext &context)
         const std::optional<StraightPick> line = co_await askLineObject(context);
         if (!line)
             co_return true;
-        const PromptReply side =
-            co_await context.neededPoint(isThrough ? u"Specify through point: "_s : u"Specify side to offset: "_s);
+        const QString sidePrompt =
+            isThrough ? Commands::tr("Specify through point: ") : Commands::tr("Specify side to offset: ");
+        const PromptReply side = co_await context.neededPoint(sidePrompt);
         const Vec3 along = drawing::normalized(line->along);
         const Vec3 across = side.point - line->point;
         const Vec3 aside = drawing::normalized(across - along * dot(across, along));
@@ -167,7 +169,8 @@ Dialogue<bool> askOffsets(CommandContext &context)
 // A point and others that the lines go through; or their direction first.
 CommandTask xline(CommandContext &context)
 {
-    const PromptReply reply = co_await context.neededPoint(u"Specify a point or [Hor/Ver/Ang/Bisect/Offset]: "_s);
+    const PromptReply reply =
+        co_await context.neededPoint(Commands::tr("Specify a point or [Hor/Ver/Ang/Bisect/Offset]: "));
     if (reply.isKeyword(u"Hor"))
         co_await askParallels(context, directionOf(context, 0.0));
     else if (reply.isKeyword(u"Ver"))
@@ -185,7 +188,7 @@ CommandTask xline(CommandContext &context)
 // The start and points that the rays go through.
 CommandTask ray(CommandContext &context)
 {
-    const PromptReply start = co_await context.neededPoint(u"Specify start point: "_s);
+    const PromptReply start = co_await context.neededPoint(Commands::tr("Specify start point: "));
     co_await askThrough(context, u"RAY"_s, start.point);
 }
 

@@ -1,5 +1,6 @@
 #include "host/commands/Commands.h"
 #include "host/commands/draw/LastEnd.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/running/CommandContext.h"
 #include "host/kernel/running/Dialogue.h"
 
@@ -22,17 +23,18 @@ RecordId createLine(CommandContext &context, const Vec3 &from, const Vec3 &to)
 /// go on from.
 Dialogue<std::vector<Vec3>> askLineStart(CommandContext &context)
 {
-    const PromptReply first = co_await context.point(u"Specify first point: "_s);
+    const PromptReply first = co_await context.point(Commands::tr("Specify first point: "));
     if (first.hasValue())
         co_return std::vector<Vec3>{first.point};
     const std::optional<LastEnd> last = lastEnd(context);
     if (!last) {
-        context.fail(u"No line or arc to continue."_s);
+        context.fail(Commands::tr("No line or arc to continue."));
         co_return std::vector<Vec3>();
     }
     if (!last->isRound)
         co_return std::vector<Vec3>{last->point};
-    const PromptReply length = co_await context.distance(u"Length of line: "_s, {}, last->point, {}, NoEmptyAnswer);
+    const PromptReply length =
+        co_await context.distance(Commands::tr("Length of line: "), {}, last->point, {}, NoEmptyAnswer);
     co_return std::vector<Vec3>{last->point, last->point + normalized(last->direction) * length.real};
 }
 
@@ -47,8 +49,8 @@ CommandTask line(CommandContext &context)
         segments.push_back(createLine(context, points[0], points[1]));
     PromptReply reply;
     for (;;) {
-        const QString shown =
-            points.size() > 2 ? u"Specify next point or [Close/Undo]: "_s : u"Specify next point or [Undo]: "_s;
+        const QString shown = points.size() > 2 ? Commands::tr("Specify next point or [Close/Undo]: ")
+                                                : Commands::tr("Specify next point or [Undo]: ");
         reply = co_await context.point(shown, {}, points.back());
         if (reply.isEmpty())
             co_return;
@@ -72,7 +74,7 @@ CommandTask line(CommandContext &context)
 // One point.
 CommandTask point(CommandContext &context)
 {
-    const PromptReply reply = co_await context.point(u"Specify a point: "_s);
+    const PromptReply reply = co_await context.point(Commands::tr("Specify a point: "));
     if (reply.hasValue())
         context.create({{0, u"POINT"_s}, {10, reply.point}});
 }

@@ -4,6 +4,7 @@
 #include "host/drawing/math/Curves.h"
 #include "host/kernel/documents/Document.h"
 #include "host/kernel/input/Units.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/running/CommandContext.h"
 #include "host/kernel/running/Dialogue.h"
 
@@ -39,15 +40,16 @@ Dialogue<MaybeEllipse> askOtherAxis(CommandContext &context, UserEllipse ellipse
 {
     const UserPlane plane(context.document());
     const Vec3 base = plane.worldFromUser(ellipse.centre);
-    const PromptReply other = co_await context.distance(u"Specify distance to other axis or [Rotation]: "_s, {}, base,
-                                                        {}, NoEmptyAnswer | NoZero | NoNegative | FlatDistance);
+    const PromptReply other =
+        co_await context.distance(Commands::tr("Specify distance to other axis or [Rotation]: "), {}, base, {},
+                                  NoEmptyAnswer | NoZero | NoNegative | FlatDistance);
     const double length = ellipse.axis.length();
     if (other.isKeyword(u"Rotation")) {
         const PromptReply turn =
-            co_await context.angle(u"Specify rotation around major axis: "_s, {}, base, {}, NoEmptyAnswer);
+            co_await context.angle(Commands::tr("Specify rotation around major axis: "), {}, base, {}, NoEmptyAnswer);
         const double tilt = std::abs(std::remainder(turn.real, M_PI));
         if (!(tilt <= largestTurn)) {
-            context.fail(u"An ellipse is turned by 0 to 89.4 degrees."_s);
+            context.fail(Commands::tr("An ellipse is turned by 0 to 89.4 degrees."));
             co_return std::nullopt;
         }
         ellipse.ratio = std::cos(tilt);
@@ -63,19 +65,20 @@ Dialogue<MaybeEllipse> askAxes(CommandContext &context, PromptReply first)
     const UserPlane plane(context.document());
     UserEllipse ellipse;
     if (first.isKeyword(u"Center")) {
-        const PromptReply centre = co_await context.neededPoint(u"Specify center of ellipse: "_s);
-        const PromptReply end = co_await context.neededPoint(u"Specify endpoint of axis: "_s, centre.point);
+        const PromptReply centre = co_await context.neededPoint(Commands::tr("Specify center of ellipse: "));
+        const PromptReply end = co_await context.neededPoint(Commands::tr("Specify endpoint of axis: "), centre.point);
         ellipse.centre = plane.userFromWorld(centre.point);
         ellipse.axis = (plane.userFromWorld(end.point) - ellipse.centre).xy();
     } else {
-        const PromptReply other = co_await context.neededPoint(u"Specify other endpoint of axis: "_s, first.point);
+        const PromptReply other =
+            co_await context.neededPoint(Commands::tr("Specify other endpoint of axis: "), first.point);
         const Vec3 from = plane.userFromWorld(first.point);
         const Vec2 middle = (from.xy() + plane.userFromWorld(other.point).xy()) * 0.5;
         ellipse.centre = {middle.x, middle.y, from.z};
         ellipse.axis = from.xy() - middle;
     }
     if (!(ellipse.axis.length() > 0.0)) {
-        context.fail(u"The endpoints of the axis are one point."_s);
+        context.fail(Commands::tr("The endpoints of the axis are one point."));
         co_return std::nullopt;
     }
     co_return co_await askOtherAxis(context, ellipse);
@@ -94,19 +97,19 @@ double parameterOfDirection(const UserEllipse &ellipse, double angle)
 }
 
 /// Asks for an end, by angle or by parameter, whichever was chosen last. Typed ones count from the first axis.
-Dialogue<EllipseEnd> askEllipseEnd(CommandContext &context, const UserEllipse &ellipse, const QString which,
-                                   bool &byParameter)
+Dialogue<EllipseEnd> askEllipseEnd(CommandContext &context, const UserEllipse &ellipse, bool isEnd, bool &byParameter)
 {
     const Vec3 base = UserPlane(context.document()).worldFromUser(ellipse.centre);
     const double axisAngle = std::atan2(ellipse.axis.y, ellipse.axis.x);
-    const QString included = which == u"end" ? u"/Included angle"_s : QString();
     for (;;) {
-        const QString prompt = byParameter ? u"Specify %1 parameter or [Angle%2]: "_s.arg(which, included)
-                                           : u"Specify %1 angle or [Parameter%2]: "_s.arg(which, included);
+        const QString prompt = isEnd ? (byParameter ? Commands::tr("Specify end parameter or [Angle/Included angle]: ")
+                                                    : Commands::tr("Specify end angle or [Parameter/Included angle]: "))
+                               : byParameter ? Commands::tr("Specify start parameter or [Angle]: ")
+                                             : Commands::tr("Specify start angle or [Parameter]: ");
         const PromptReply reply = co_await context.angle(prompt, {}, base, {}, NoEmptyAnswer);
         if (reply.isKeyword(u"Included")) {
-            const PromptReply angle = co_await context.angle(u"Specify included angle for arc <180>: "_s, {}, base,
-                                                             u"180"_s, SignedAngle | NoZero);
+            const PromptReply angle = co_await context.angle(Commands::tr("Specify included angle for arc <180>: "), {},
+                                                             base, u"180"_s, SignedAngle | NoZero);
             co_return EllipseEnd{angle.hasValue() ? angle.real : M_PI, true};
         }
         if (reply.kind == ReplyKind::Keyword) {
@@ -121,8 +124,8 @@ Dialogue<EllipseEnd> askEllipseEnd(CommandContext &context, const UserEllipse &e
 Dialogue<UserEllipse> askEllipseEnds(CommandContext &context, UserEllipse ellipse)
 {
     bool byParameter = false;
-    const EllipseEnd start = co_await askEllipseEnd(context, ellipse, u"start"_s, byParameter);
-    const EllipseEnd end = co_await askEllipseEnd(context, ellipse, u"end"_s, byParameter);
+    const EllipseEnd start = co_await askEllipseEnd(context, ellipse, false, byParameter);
+    const EllipseEnd end = co_await askEllipseEnd(context, ellipse, true, byParameter);
     ellipse.start = start.parameter;
     ellipse.end = end.parameter;
     if (end.isIncluded) {
@@ -167,10 +170,11 @@ void createEllipse(CommandContext &context, UserEllipse ellipse)
 // The ends of an axis or the centre and one end, then the other axis; of an arc where it begins and ends.
 CommandTask ellipse(CommandContext &context)
 {
-    PromptReply first = co_await context.neededPoint(u"Specify axis endpoint of ellipse or [Arc/Center]: "_s);
+    PromptReply first =
+        co_await context.neededPoint(Commands::tr("Specify axis endpoint of ellipse or [Arc/Center]: "));
     const bool isArc = first.isKeyword(u"Arc");
     if (isArc)
-        first = co_await context.neededPoint(u"Specify axis endpoint of elliptical arc or [Center]: "_s);
+        first = co_await context.neededPoint(Commands::tr("Specify axis endpoint of elliptical arc or [Center]: "));
     MaybeEllipse made = co_await askAxes(context, first);
     if (made && isArc)
         made = co_await askEllipseEnds(context, *made);

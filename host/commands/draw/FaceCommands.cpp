@@ -3,6 +3,7 @@
 #include "host/commands/common/UserPlane.h"
 #include "host/commands/draw/CurveEntity.h"
 #include "host/kernel/documents/Document.h"
+#include "host/kernel/languages/Texts.h"
 
 #include <array>
 #include <cmath>
@@ -33,14 +34,15 @@ void createFlatFace(CommandContext &context, const QString &type, const std::arr
 // third one.
 CommandTask solid(CommandContext &context)
 {
-    const PromptReply first = co_await context.neededPoint(u"Specify first point: "_s);
-    const PromptReply second = co_await context.neededPoint(u"Specify second point: "_s, first.point);
+    const PromptReply first = co_await context.neededPoint(Commands::tr("Specify first point: "));
+    const PromptReply second = co_await context.neededPoint(Commands::tr("Specify second point: "), first.point);
     std::array<Vec3, 4> corners = {first.point, second.point};
     for (;;) {
-        const PromptReply third = co_await context.point(u"Specify third point: "_s, {}, corners[1]);
+        const PromptReply third = co_await context.point(Commands::tr("Specify third point: "), {}, corners[1]);
         if (!third.hasValue())
             co_return;
-        const PromptReply fourth = co_await context.point(u"Specify fourth point or <exit>: "_s, {}, third.point);
+        const PromptReply fourth =
+            co_await context.point(Commands::tr("Specify fourth point or <exit>: "), {}, third.point);
         corners[2] = third.point;
         corners[3] = fourth.hasValue() ? fourth.point : third.point;
         createFlatFace(context, u"SOLID"_s, corners);
@@ -79,15 +81,15 @@ void createTraces(CommandContext &context, const std::vector<Vec2> &points, doub
 // A width and points, until an empty answer; the corners are known only then.
 CommandTask trace(CommandContext &context)
 {
-    const double width = co_await askUsualLength(context, u"Specify trace width"_s,
+    const double width = co_await askUsualLength(context, Commands::tr("Specify trace width"),
                                                  context.document().variables().real(u"TRACEWID", 0.05));
     keepValue(context, u"TRACEWID", width);
-    PromptReply reply = co_await context.neededPoint(u"Specify start point: "_s);
+    PromptReply reply = co_await context.neededPoint(Commands::tr("Specify start point: "));
     const UserPlane plane(context.document());
     const double height = plane.userFromWorld(reply.point).z;
     std::vector<Vec2> points = {plane.userFromWorld(reply.point).xy()};
     for (;;) {
-        reply = co_await context.point(u"Specify next point: "_s, {}, reply.point);
+        reply = co_await context.point(Commands::tr("Specify next point: "), {}, reply.point);
         if (!reply.hasValue())
             break;
         const Vec2 next = plane.userFromWorld(reply.point).xy();
@@ -141,17 +143,19 @@ void createSpaceFace(CommandContext &context, const std::array<FaceCorner, 4> &c
 // point hides the edge that starts there.
 CommandTask face(CommandContext &context)
 {
-    const MaybeCorner first = co_await askFaceCorner(context, u"Specify first point or [Invisible]: "_s, {}, true);
+    const MaybeCorner first =
+        co_await askFaceCorner(context, Commands::tr("Specify first point or [Invisible]: "), {}, true);
     const MaybeCorner second =
-        co_await askFaceCorner(context, u"Specify second point or [Invisible]: "_s, first->point, true);
+        co_await askFaceCorner(context, Commands::tr("Specify second point or [Invisible]: "), first->point, true);
     std::array<FaceCorner, 4> corners = {*first, *second};
     for (;;) {
-        const MaybeCorner third =
-            co_await askFaceCorner(context, u"Specify third point or [Invisible] <exit>: "_s, corners[1].point, false);
+        const MaybeCorner third = co_await askFaceCorner(
+            context, Commands::tr("Specify third point or [Invisible] <exit>: "), corners[1].point, false);
         if (!third)
             co_return;
         const MaybeCorner fourth = co_await askFaceCorner(
-            context, u"Specify fourth point or [Invisible] <create three-sided face>: "_s, third->point, false);
+            context, Commands::tr("Specify fourth point or [Invisible] <create three-sided face>: "), third->point,
+            false);
         corners[2] = *third;
         corners[3] = fourth.value_or(FaceCorner{third->point, third->hidesEdge});
         createSpaceFace(context, corners);
@@ -162,12 +166,12 @@ CommandTask face(CommandContext &context)
 // Points in space; Undo takes back one segment, Close goes back to the first point.
 CommandTask spacePolyline(CommandContext &context)
 {
-    PromptReply reply = co_await context.neededPoint(u"Specify start point of polyline: "_s);
+    PromptReply reply = co_await context.neededPoint(Commands::tr("Specify start point of polyline: "));
     drawing::Path path = {reply.point};
     bool isClosed = false;
     for (;;) {
-        const QString shown = path.size() > 2 ? u"Specify endpoint of line or [Close/Undo]: "_s
-                                              : u"Specify endpoint of line or [Undo]: "_s;
+        const QString shown = path.size() > 2 ? Commands::tr("Specify endpoint of line or [Close/Undo]: ")
+                                              : Commands::tr("Specify endpoint of line or [Undo]: ");
         reply = co_await context.point(shown, {}, path.back());
         if (reply.isEmpty())
             break;
@@ -180,7 +184,7 @@ CommandTask spacePolyline(CommandContext &context)
         else if (path.size() > 1)
             path.pop_back();
         else
-            context.print(u"\nAll segments already undone."_s);
+            context.print(Commands::tr("\nAll segments already undone."));
     }
     createSpacePolyline(context, path, isClosed);
 }

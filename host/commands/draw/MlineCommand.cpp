@@ -4,6 +4,7 @@
 #include "host/drawing/records/Dictionaries.h"
 #include "host/drawing/records/HeaderVariables.h"
 #include "host/kernel/documents/Document.h"
+#include "host/kernel/languages/Texts.h"
 
 using namespace Qt::StringLiterals;
 
@@ -41,7 +42,8 @@ Dialogue<bool> askMlineStyle(CommandContext &context, MlineSettings &settings)
 {
     const drawing::Dictionaries &dictionaries = context.drawing().dictionaries();
     for (;;) {
-        const PromptReply reply = co_await context.text(u"Enter mline style name or [?]: "_s, settings.style, u"?"_s);
+        const PromptReply reply =
+            co_await context.text(Commands::tr("Enter mline style name or [?]: "), settings.style, u"?"_s);
         if (reply.isKeyword(u"?")) {
             for (const auto &entry : dictionaries.entries(mlineStyles(context.drawing())))
                 context.print(u"\n  %1"_s.arg(entry.name));
@@ -53,7 +55,7 @@ Dialogue<bool> askMlineStyle(CommandContext &context, MlineSettings &settings)
             keepValue(context, u"CMLSTYLE", name);
             co_return true;
         }
-        if (context.refuse(u"Cannot find multiline style \"%1\"."_s.arg(name)))
+        if (context.refuse(Commands::tr("Cannot find multiline style \"%1\".").arg(name)))
             co_return false;
     }
 }
@@ -62,22 +64,23 @@ Dialogue<bool> askMlineStyle(CommandContext &context, MlineSettings &settings)
 Dialogue<std::optional<Vec3>> askMlineStart(CommandContext &context, MlineSettings &settings)
 {
     for (;;) {
-        context.print(u"\nCurrent settings: Justification = %1, Scale = %2, Style = %3"_s.arg(
-            QLatin1String(mlineJustifications[static_cast<int>(settings.justification)]),
-            context.shownLength(settings.scale), settings.style));
+        context.print(Commands::tr("\nCurrent settings: Justification = %1, Scale = %2, Style = %3")
+                          .arg(QLatin1String(mlineJustifications[static_cast<int>(settings.justification)]),
+                               context.shownLength(settings.scale), settings.style));
         const PromptReply reply =
-            co_await context.neededPoint(u"Specify start point or [Justification/Scale/STyle]: "_s);
+            co_await context.neededPoint(Commands::tr("Specify start point or [Justification/Scale/STyle]: "));
         if (reply.isKeyword(u"Justification")) {
             const QString usual = QLatin1String(mlineJustifications[static_cast<int>(settings.justification)]);
             const QString chosen =
-                co_await askUsualOption(context, u"Enter justification type [Top/Zero/Bottom]"_s, usual);
+                co_await askUsualOption(context, Commands::tr("Enter justification type [Top/Zero/Bottom]"), usual);
             settings.justification = chosen == u"Top"    ? MlineJustification::Top
                                      : chosen == u"Zero" ? MlineJustification::Zero
                                                          : MlineJustification::Bottom;
             keepValue(context, u"CMLJUST", static_cast<qint32>(settings.justification));
         } else if (reply.isKeyword(u"Scale")) {
             const QString usual = context.shownLength(settings.scale);
-            const PromptReply scale = co_await context.real(u"Enter mline scale <%1>: "_s.arg(usual), {}, usual);
+            const PromptReply scale =
+                co_await context.real(Commands::tr("Enter mline scale <%1>: ").arg(usual), {}, usual);
             settings.scale = scale.hasValue() ? scale.real : settings.scale;
             keepValue(context, u"CMLSCALE", settings.scale);
         } else if (reply.isKeyword(u"STyle")) {
@@ -137,7 +140,7 @@ void createMline(CommandContext &context, const MlineSettings &settings, const s
     const drawing::RecordId style =
         context.drawing().dictionaries().find(mlineStyles(context.drawing()), settings.style);
     if (!isValid(style))
-        return context.fail(u"Cannot find multiline style \"%1\"."_s.arg(settings.style));
+        return context.fail(Commands::tr("Cannot find multiline style \"%1\".").arg(settings.style));
     const UserPlane plane(context.document());
     std::vector<Vec2> flat;
     for (const Vec3 &point : points)
@@ -174,9 +177,9 @@ CommandTask mline(CommandContext &context)
     const UserPlane plane(context.document());
     bool isClosed = false;
     while (!isClosed) {
-        const QString shown = points.size() < 2   ? u"Specify next point: "_s
-                              : points.size() < 3 ? u"Specify next point or [Undo]: "_s
-                                                  : u"Specify next point or [Close/Undo]: "_s;
+        const QString shown = points.size() < 2   ? Commands::tr("Specify next point: ")
+                              : points.size() < 3 ? Commands::tr("Specify next point or [Undo]: ")
+                                                  : Commands::tr("Specify next point or [Close/Undo]: ");
         const PromptReply reply = co_await context.point(shown, {}, points.back());
         if (reply.isEmpty())
             break;

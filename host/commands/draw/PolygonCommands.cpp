@@ -4,6 +4,7 @@
 #include "host/commands/common/UserPlane.h"
 #include "host/commands/draw/PolylineDraft.h"
 #include "host/kernel/documents/Document.h"
+#include "host/kernel/languages/Texts.h"
 
 #include <cmath>
 
@@ -33,11 +34,12 @@ Dialogue<qint32> askSides(CommandContext &context)
     const qint32 usual = context.document().variables().integer(u"POLYSIDES", 4);
     const QString shown = QString::number(usual);
     for (;;) {
-        const PromptReply reply = co_await context.integer(u"Enter number of sides <%1>: "_s.arg(shown), {}, shown);
+        const PromptReply reply =
+            co_await context.integer(Commands::tr("Enter number of sides <%1>: ").arg(shown), {}, shown);
         const qint32 sides = reply.hasValue() ? reply.integer : usual;
         if (sides >= fewestSides && sides <= mostSides)
             co_return sides;
-        if (context.refuse(u"A polygon has 3 to 1024 sides."_s))
+        if (context.refuse(Commands::tr("A polygon has 3 to 1024 sides.")))
             co_return 0;
     }
 }
@@ -45,8 +47,9 @@ Dialogue<qint32> askSides(CommandContext &context)
 Dialogue<PolylineDraft> askEdge(CommandContext &context, qint32 sides)
 {
     const UserPlane plane(context.document());
-    const PromptReply first = co_await context.neededPoint(u"Specify first endpoint of edge: "_s);
-    const PromptReply second = co_await context.neededPoint(u"Specify second endpoint of edge: "_s, first.point);
+    const PromptReply first = co_await context.neededPoint(Commands::tr("Specify first endpoint of edge: "));
+    const PromptReply second =
+        co_await context.neededPoint(Commands::tr("Specify second endpoint of edge: "), first.point);
     const Vec3 from = plane.userFromWorld(first.point);
     const Vec2 edge = plane.userFromWorld(second.point).xy() - from.xy();
     const Vec2 centre = from.xy() + edge * 0.5 + turnedLeft(edge) * (0.5 / std::tan(M_PI / sides));
@@ -57,8 +60,8 @@ Dialogue<PolylineDraft> askEdge(CommandContext &context, qint32 sides)
 Dialogue<PolylineDraft> askAroundCentre(CommandContext &context, qint32 sides, const Vec3 centreAt)
 {
     const QString option = co_await askUsualOption(
-        context, u"Enter an option [Inscribed in circle/Circumscribed about circle]"_s, u"Inscribed"_s);
-    const PromptReply radius = co_await context.distance(u"Specify radius of circle: "_s, {}, centreAt, {},
+        context, Commands::tr("Enter an option [Inscribed in circle/Circumscribed about circle]"), u"Inscribed"_s);
+    const PromptReply radius = co_await context.distance(Commands::tr("Specify radius of circle: "), {}, centreAt, {},
                                                          NoEmptyAnswer | NoZero | NoNegative | FlatDistance);
     const UserPlane plane(context.document());
     const Vec3 centre = plane.userFromWorld(centreAt);
@@ -80,7 +83,7 @@ CommandTask polygon(CommandContext &context)
     const qint32 sides = co_await askSides(context);
     if (sides == 0)
         co_return;
-    const PromptReply centre = co_await context.neededPoint(u"Specify center of polygon or [Edge]: "_s);
+    const PromptReply centre = co_await context.neededPoint(Commands::tr("Specify center of polygon or [Edge]: "));
     PolylineDraft draft;
     if (centre.isKeyword(u"Edge"))
         draft = co_await askEdge(context, sides);
@@ -88,7 +91,7 @@ CommandTask polygon(CommandContext &context)
         draft = co_await askAroundCentre(context, sides, centre.point);
     keepValue(context, u"POLYSIDES", sides);
     if (draft.vertices[0].point == draft.vertices[1].point)
-        context.fail(u"The endpoints of the edge are one point."_s);
+        context.fail(Commands::tr("The endpoints of the edge are one point."));
     else
         createPolyline(context, draft);
 }
@@ -108,14 +111,14 @@ void createDonut(CommandContext &context, const Vec3 &centreAt, double inside, d
 CommandTask donut(CommandContext &context)
 {
     const SystemVariables &variables = context.document().variables();
-    const double inside =
-        co_await askUsualLength(context, u"Specify inside diameter of donut"_s, variables.real(u"DONUTID", 0.5));
-    const double outside = co_await askUsualLength(context, u"Specify outside diameter of donut"_s,
+    const double inside = co_await askUsualLength(context, Commands::tr("Specify inside diameter of donut"),
+                                                  variables.real(u"DONUTID", 0.5));
+    const double outside = co_await askUsualLength(context, Commands::tr("Specify outside diameter of donut"),
                                                    variables.real(u"DONUTOD", 1.0), NoZero | NoNegative);
     keepValue(context, u"DONUTID", inside);
     keepValue(context, u"DONUTOD", outside);
     for (;;) {
-        const PromptReply centre = co_await context.point(u"Specify center of donut or <exit>: "_s);
+        const PromptReply centre = co_await context.point(Commands::tr("Specify center of donut or <exit>: "));
         if (!centre.hasValue())
             co_return;
         createDonut(context, centre.point, inside, outside);

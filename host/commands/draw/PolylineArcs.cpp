@@ -6,6 +6,7 @@
 #include "host/commands/common/CircleGeometry.h"
 #include "host/commands/common/UserPlane.h"
 #include "host/kernel/documents/Document.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/running/CommandContext.h"
 
 #include <cmath>
@@ -50,11 +51,12 @@ public:
     CommandContext::Reply chordDirection()
     {
         const QString usual = m_context.shownAngle(m_direction);
-        return m_context.orientation(u"Specify direction of chord for arc <%1>: "_s.arg(usual), {}, m_base, usual);
+        return m_context.orientation(Commands::tr("Specify direction of chord for arc <%1>: ").arg(usual), {}, m_base,
+                                     usual);
     }
     MaybeArc impossible()
     {
-        m_context.refuse(u"There is no such arc."_s);
+        m_context.refuse(Commands::tr("There is no such arc."));
         return {};
     }
     /// The arc to a point, checked.
@@ -87,15 +89,15 @@ MaybeArc arcOnChord(ArcPrompts &prompts, double radius, double turn, double chor
 
 Dialogue<MaybeArc> askByAngle(CommandContext &context, ArcPrompts &prompts)
 {
-    const PromptReply angle = co_await prompts.angle(u"Specify included angle: "_s);
+    const PromptReply angle = co_await prompts.angle(Commands::tr("Specify included angle: "));
     const double turn = angle.real;
-    PromptReply end = co_await prompts.point(u"Specify endpoint of arc or [CEnter/Radius]: "_s);
+    PromptReply end = co_await prompts.point(Commands::tr("Specify endpoint of arc or [CEnter/Radius]: "));
     if (end.isKeyword(u"CEnter")) {
-        end = co_await context.neededPoint(u"Specify center point of arc: "_s);
+        end = co_await context.neededPoint(Commands::tr("Specify center point of arc: "));
         co_return arcAround(prompts, prompts.flat(end), turn);
     }
     if (end.isKeyword(u"Radius")) {
-        const PromptReply radius = co_await prompts.length(u"Specify radius of arc: "_s);
+        const PromptReply radius = co_await prompts.length(Commands::tr("Specify radius of arc: "));
         const PromptReply chord = co_await prompts.chordDirection();
         const double direction = chord.hasValue() ? chord.real : prompts.direction();
         co_return arcOnChord(prompts, radius.real, turn, direction);
@@ -105,15 +107,16 @@ Dialogue<MaybeArc> askByAngle(CommandContext &context, ArcPrompts &prompts)
 
 Dialogue<MaybeArc> askByCentre(CommandContext &context, ArcPrompts &prompts)
 {
-    const PromptReply given = co_await prompts.point(u"Specify center point of arc: "_s);
+    const PromptReply given = co_await prompts.point(Commands::tr("Specify center point of arc: "));
     const Vec2 centre = prompts.flat(given);
-    const PromptReply end = co_await context.neededPoint(u"Specify endpoint of arc or [Angle/Length]: "_s, given.point);
+    const PromptReply end =
+        co_await context.neededPoint(Commands::tr("Specify endpoint of arc or [Angle/Length]: "), given.point);
     if (end.isKeyword(u"Angle")) {
-        const PromptReply angle = co_await prompts.angle(u"Specify included angle: "_s);
+        const PromptReply angle = co_await prompts.angle(Commands::tr("Specify included angle: "));
         co_return arcAround(prompts, centre, angle.real);
     }
     if (end.isKeyword(u"Length")) {
-        const PromptReply chord = co_await prompts.length(u"Specify length of chord: "_s);
+        const PromptReply chord = co_await prompts.length(Commands::tr("Specify length of chord: "));
         const double sine = chord.real / 2.0 / (prompts.from() - centre).length();
         co_return std::abs(sine) <= 1.0 ? arcAround(prompts, centre, 2.0 * std::asin(sine)) : prompts.impossible();
     }
@@ -123,17 +126,17 @@ Dialogue<MaybeArc> askByCentre(CommandContext &context, ArcPrompts &prompts)
 Dialogue<MaybeArc> askByDirection(CommandContext &, ArcPrompts &prompts)
 {
     const PromptReply tangent =
-        co_await prompts.tangent(u"Specify the tangent direction for the start point of arc: "_s);
-    const PromptReply end = co_await prompts.point(u"Specify endpoint of the arc: "_s);
+        co_await prompts.tangent(Commands::tr("Specify the tangent direction for the start point of arc: "));
+    const PromptReply end = co_await prompts.point(Commands::tr("Specify endpoint of the arc: "));
     co_return prompts.arc(prompts.flat(end), bulgeAlong(prompts.from(), tangent.real, prompts.flat(end)));
 }
 
 Dialogue<MaybeArc> askByRadius(CommandContext &, ArcPrompts &prompts)
 {
-    const PromptReply radius = co_await prompts.length(u"Specify radius of arc: "_s);
-    const PromptReply end = co_await prompts.point(u"Specify endpoint of arc or [Angle]: "_s);
+    const PromptReply radius = co_await prompts.length(Commands::tr("Specify radius of arc: "));
+    const PromptReply end = co_await prompts.point(Commands::tr("Specify endpoint of arc or [Angle]: "));
     if (end.isKeyword(u"Angle")) {
-        const PromptReply angle = co_await prompts.angle(u"Specify included angle: "_s);
+        const PromptReply angle = co_await prompts.angle(Commands::tr("Specify included angle: "));
         const PromptReply chord = co_await prompts.chordDirection();
         const double direction = chord.hasValue() ? chord.real : prompts.direction();
         co_return arcOnChord(prompts, radius.real, angle.real, direction);
@@ -150,8 +153,8 @@ Dialogue<MaybeArc> askByRadius(CommandContext &, ArcPrompts &prompts)
 
 Dialogue<MaybeArc> askBySecondPoint(CommandContext &context, ArcPrompts &prompts)
 {
-    const PromptReply between = co_await prompts.point(u"Specify second point on arc: "_s);
-    const PromptReply end = co_await context.neededPoint(u"Specify end point of arc: "_s, between.point);
+    const PromptReply between = co_await prompts.point(Commands::tr("Specify second point on arc: "));
+    const PromptReply end = co_await context.neededPoint(Commands::tr("Specify end point of arc: "), between.point);
     const double bulge = bulgeThrough(prompts.from(), prompts.flat(between), prompts.flat(end));
     co_return prompts.arc(prompts.flat(end), bulge);
 }

@@ -4,6 +4,7 @@
 #include "host/commands/draw/PolylineArcs.h"
 #include "host/commands/draw/PolylineDraft.h"
 #include "host/kernel/documents/Document.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/running/CommandContext.h"
 #include "host/kernel/variables/SystemVariables.h"
 
@@ -30,13 +31,15 @@ enum class Next
 Dialogue<Next> askWidths(CommandContext &context, PolylineDraft &draft, const QString &option)
 {
     const double share = option == u"Halfwidth" ? 0.5 : 1.0;
-    const QString what = option == u"Halfwidth" ? u"half-width"_s : u"width"_s;
     double start = draft.widths.start * share;
     for (double *width : {&draft.widths.start, &draft.widths.end}) {
         const QString usual = context.shownLength(start);
-        const QString which = width == &draft.widths.start ? u"starting"_s : u"ending"_s;
-        const PromptReply reply =
-            co_await context.distance(u"Specify %1 %2 <%3>: "_s.arg(which, what, usual), {}, {}, usual, NoNegative);
+        const bool isStart = width == &draft.widths.start;
+        const QString prompt = share < 1.0 ? (isStart ? Commands::tr("Specify starting half-width <%1>: ")
+                                                      : Commands::tr("Specify ending half-width <%1>: "))
+                                           : (isStart ? Commands::tr("Specify starting width <%1>: ")
+                                                      : Commands::tr("Specify ending width <%1>: "));
+        const PromptReply reply = co_await context.distance(prompt.arg(usual), {}, {}, usual, NoNegative);
         start = reply.hasValue() ? reply.real : start;
         *width = start / share;
     }
@@ -45,7 +48,8 @@ Dialogue<Next> askWidths(CommandContext &context, PolylineDraft &draft, const QS
 
 Dialogue<Next> askLength(CommandContext &context, PolylineDraft &draft)
 {
-    const PromptReply length = co_await context.distance(u"Specify length of line: "_s, {}, {}, {}, NoEmptyAnswer);
+    const PromptReply length =
+        co_await context.distance(Commands::tr("Specify length of line: "), {}, {}, {}, NoEmptyAnswer);
     const double direction = draft.direction();
     draft.add(draft.last() + Vec2{std::cos(direction), std::sin(direction)} * length.real);
     co_return Next::GoOn;
@@ -56,7 +60,7 @@ Dialogue<Next> takePolylineOption(CommandContext &context, PolylineDraft &draft,
 {
     if (option == u"Undo") {
         if (!draft.undo())
-            context.print(u"\nAll segments already undone."_s);
+            context.print(Commands::tr("\nAll segments already undone."));
         co_return Next::GoOn;
     }
     if (option == u"Length")
@@ -72,9 +76,11 @@ Dialogue<Next> takePolylineOption(CommandContext &context, PolylineDraft &draft,
 QString promptFor(bool drawsArcs, bool mayClose)
 {
     if (drawsArcs)
-        return u"Specify endpoint of arc or [Angle/CEnter/%1Direction/Halfwidth/Line/Radius/Second pt/Undo/Width]: "_s
+        return Commands::tr(
+                   "Specify endpoint of arc or [Angle/CEnter/%1Direction/Halfwidth/Line/Radius/Second pt/Undo/Width]: ")
             .arg(mayClose ? u"CLose/"_s : QString());
-    return u"Specify next point or [Arc/%1Halfwidth/Length/Undo/Width]: "_s.arg(mayClose ? u"Close/"_s : QString());
+    return Commands::tr("Specify next point or [Arc/%1Halfwidth/Length/Undo/Width]: ")
+        .arg(mayClose ? u"Close/"_s : QString());
 }
 
 /// One answer to the polyline's prompt.
@@ -108,11 +114,11 @@ Dialogue<Next> askSegment(CommandContext &context, PolylineDraft &draft, bool &d
 // Points, and options for arcs and widths; the polyline is made when its last point is known.
 CommandTask polyline(CommandContext &context)
 {
-    const PromptReply start = co_await context.neededPoint(u"Specify start point: "_s);
+    const PromptReply start = co_await context.neededPoint(Commands::tr("Specify start point: "));
     SystemVariables &variables = context.document().variables();
     const Vec3 user = UserPlane(context.document()).userFromWorld(start.point);
     const double width = variables.real(u"PLINEWID");
-    context.print(u"\nCurrent line-width is %1"_s.arg(context.shownLength(width)));
+    context.print(Commands::tr("\nCurrent line-width is %1").arg(context.shownLength(width)));
     PolylineDraft draft;
     draft.vertices.push_back({user.xy()});
     draft.widths = {width, width};

@@ -4,6 +4,7 @@
 #include "host/commands/common/UserPlane.h"
 #include "host/commands/draw/PolylineDraft.h"
 #include "host/kernel/documents/Document.h"
+#include "host/kernel/languages/Texts.h"
 
 #include <cmath>
 
@@ -38,13 +39,16 @@ Dialogue<bool> askCorners(CommandContext &context, RectangleLook &look, bool isR
 {
     look.isRound = isRound;
     if (isRound) {
-        look.before = co_await askUsualLength(context, u"Specify fillet radius for rectangles"_s, look.before);
+        look.before =
+            co_await askUsualLength(context, Commands::tr("Specify fillet radius for rectangles"), look.before);
         look.behind = look.before;
         co_return true;
     }
-    look.before = co_await askUsualLength(context, u"Specify first chamfer distance for rectangles"_s, look.before);
+    look.before =
+        co_await askUsualLength(context, Commands::tr("Specify first chamfer distance for rectangles"), look.before);
     const double usual = look.before;
-    look.behind = co_await askUsualLength(context, u"Specify second chamfer distance for rectangles"_s, usual);
+    look.behind =
+        co_await askUsualLength(context, Commands::tr("Specify second chamfer distance for rectangles"), usual);
     co_return true;
 }
 
@@ -52,37 +56,39 @@ Dialogue<Vec3> askFirstCorner(CommandContext &context, RectangleLook &look)
 {
     for (;;) {
         const PromptReply reply = co_await context.neededPoint(
-            u"Specify first corner point or [Chamfer/Elevation/Fillet/Thickness/Width]: "_s);
+            Commands::tr("Specify first corner point or [Chamfer/Elevation/Fillet/Thickness/Width]: "));
         if (reply.isKeyword(u"Chamfer") || reply.isKeyword(u"Fillet"))
             co_await askCorners(context, look, reply.isKeyword(u"Fillet"));
         else if (reply.isKeyword(u"Elevation"))
-            look.elevation = co_await askUsualLength(context, u"Specify the elevation for rectangles"_s,
+            look.elevation = co_await askUsualLength(context, Commands::tr("Specify the elevation for rectangles"),
                                                      look.elevation.value_or(0.0), 0);
         else if (reply.isKeyword(u"Thickness"))
-            look.thickness = co_await askUsualLength(context, u"Specify thickness for rectangles"_s, look.thickness, 0);
+            look.thickness =
+                co_await askUsualLength(context, Commands::tr("Specify thickness for rectangles"), look.thickness, 0);
         else if (reply.isKeyword(u"Width"))
-            look.width = co_await askUsualLength(context, u"Specify line width for rectangles"_s, look.width);
+            look.width =
+                co_await askUsualLength(context, Commands::tr("Specify line width for rectangles"), look.width);
         else
             co_return reply.point;
     }
 }
 
-Dialogue<double> askSide(CommandContext &context, const QString which)
+Dialogue<double> askSide(CommandContext &context, const QString prompt)
 {
-    const double side =
-        co_await askUsualLength(context, u"Specify %1 for rectangles"_s.arg(which), 10.0, NoZero | NoNegative);
+    const double side = co_await askUsualLength(context, prompt, 10.0, NoZero | NoNegative);
     co_return side;
 }
 
 /// The size that has an area, with one of the sides given.
 Dialogue<RectangleSize> askArea(CommandContext &context, const RectangleLook &look)
 {
-    const double area =
-        co_await askUsualLength(context, u"Enter area of rectangle in current units"_s, 100.0, NoZero | NoNegative);
-    const QString by =
-        co_await askUsualOption(context, u"Calculate rectangle dimensions based on [Length/Width]"_s, u"Length"_s);
-    const double side =
-        co_await askUsualLength(context, u"Enter rectangle %1"_s.arg(by.toLower()), 10.0, NoZero | NoNegative);
+    const double area = co_await askUsualLength(context, Commands::tr("Enter area of rectangle in current units"),
+                                                100.0, NoZero | NoNegative);
+    const QString by = co_await askUsualOption(
+        context, Commands::tr("Calculate rectangle dimensions based on [Length/Width]"), u"Length"_s);
+    const QString sidePrompt =
+        by == u"Width" ? Commands::tr("Enter rectangle width") : Commands::tr("Enter rectangle length");
+    const double side = co_await askUsualLength(context, sidePrompt, 10.0, NoZero | NoNegative);
     const double other = (area + look.lostArea()) / side;
     co_return by == u"Width" ? RectangleSize{other, side} : RectangleSize{side, other};
 }
@@ -90,11 +96,12 @@ Dialogue<RectangleSize> askArea(CommandContext &context, const RectangleLook &lo
 Dialogue<bool> askRectangleRotation(CommandContext &context, RectangleLook &look, const Vec3 corner)
 {
     const QString usual = context.shownAngle(look.rotation);
-    PromptReply angle =
-        co_await context.orientation(u"Specify rotation angle or [Pick points] <%1>: "_s.arg(usual), {}, corner, usual);
+    PromptReply angle = co_await context.orientation(
+        Commands::tr("Specify rotation angle or [Pick points] <%1>: ").arg(usual), {}, corner, usual);
     if (angle.isKeyword(u"Pick")) {
-        const PromptReply first = co_await context.neededPoint(u"Specify first point: "_s);
-        angle = co_await context.orientation(u"Specify second point: "_s, {}, first.point, {}, NoEmptyAnswer);
+        const PromptReply first = co_await context.neededPoint(Commands::tr("Specify first point: "));
+        angle =
+            co_await context.orientation(Commands::tr("Specify second point: "), {}, first.point, {}, NoEmptyAnswer);
     }
     if (angle.hasValue())
         look.rotation = angle.real;
@@ -108,13 +115,14 @@ Dialogue<RectangleSize> askSize(CommandContext &context, RectangleLook &look, co
     std::optional<RectangleSize> typed;
     for (;;) {
         const PromptReply reply =
-            co_await context.neededPoint(u"Specify other corner point or [Area/Dimensions/Rotation]: "_s, corner)
+            co_await context
+                .neededPoint(Commands::tr("Specify other corner point or [Area/Dimensions/Rotation]: "), corner)
                 .asBox();
         if (reply.isKeyword(u"Area"))
             co_return co_await askArea(context, look);
         if (reply.isKeyword(u"Dimensions")) {
-            const double length = co_await askSide(context, u"length"_s);
-            const double width = co_await askSide(context, u"width"_s);
+            const double length = co_await askSide(context, Commands::tr("Specify length for rectangles"));
+            const double width = co_await askSide(context, Commands::tr("Specify width for rectangles"));
             typed = RectangleSize{length, width};
             continue;
         }
@@ -168,7 +176,7 @@ CommandTask rectangle(CommandContext &context)
     const Vec3 corner = co_await askFirstCorner(context, look);
     const RectangleSize size = co_await askSize(context, look, corner);
     if (size.x == 0.0 || size.y == 0.0) {
-        context.fail(u"The corners of a rectangle lie neither above nor beside each other."_s);
+        context.fail(Commands::tr("The corners of a rectangle lie neither above nor beside each other."));
         co_return;
     }
     const Vec3 user = UserPlane(context.document()).userFromWorld(corner);

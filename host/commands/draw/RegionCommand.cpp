@@ -4,6 +4,7 @@
 #include "host/commands/common/RegionDraft.h"
 #include "host/drawing/curves/BoxIndex.h"
 #include "host/kernel/documents/Document.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/running/CommandContext.h"
 #include "host/kernel/variables/SystemVariables.h"
 
@@ -48,15 +49,20 @@ struct RejectedLoops
     }
     void print(CommandContext &context) const
     {
-        const auto tell = [&](int number, const QString &what, const QString &why) {
+        const auto tell = [&](int number, const QString &one, const QString &several) {
             if (number > 0)
-                context.print(u"\n%1 %2%3 rejected: %4."_s.arg(number).arg(what, number == 1 ? u""_s : u"s"_s, why));
+                context.print(u'\n' + (number == 1 ? one : several.arg(number)));
         };
-        tell(crossing, u"loop"_s, u"it crosses itself or branches"_s);
-        tell(notFlat, u"loop"_s, u"it does not lie in a plane"_s);
-        tell(degenerate, u"loop"_s, u"it encloses nothing"_s);
-        tell(open, u"curve"_s, u"it is not part of a closed loop"_s);
-        tell(unsupported, u"object"_s, u"it is no curve"_s);
+        tell(crossing, Commands::tr("1 loop rejected: it crosses itself or branches."),
+             Commands::tr("%1 loops rejected: it crosses itself or branches."));
+        tell(notFlat, Commands::tr("1 loop rejected: it does not lie in a plane."),
+             Commands::tr("%1 loops rejected: it does not lie in a plane."));
+        tell(degenerate, Commands::tr("1 loop rejected: it encloses nothing."),
+             Commands::tr("%1 loops rejected: it encloses nothing."));
+        tell(open, Commands::tr("1 curve rejected: it is not part of a closed loop."),
+             Commands::tr("%1 curves rejected: it is not part of a closed loop."));
+        tell(unsupported, Commands::tr("1 object rejected: it is no curve."),
+             Commands::tr("%1 objects rejected: it is no curve."));
     }
 };
 
@@ -200,7 +206,7 @@ CommandTask region(CommandContext &context)
 {
     const PromptReply chosen = co_await context.selection();
     if (context.drawing().version() < drawing::Version::R13)
-        co_return context.fail(u"Drawings of R12 have no regions."_s);
+        co_return context.fail(Commands::tr("Drawings of R12 have no regions."));
     RejectedLoops rejected;
     std::vector<RecordId> used;
     int made = 0;
@@ -216,7 +222,8 @@ CommandTask region(CommandContext &context)
     if (context.document().variables().integer(u"DELOBJ", 1) != 0)
         eraseAll(context, editable(context, used));
     rejected.print(context);
-    context.print(u"\n%1 loop%2 extracted.\n%1 Region%2 created."_s.arg(made).arg(made == 1 ? u""_s : u"s"_s));
+    context.print(made == 1 ? Commands::tr("\n1 loop extracted.\n1 Region created.")
+                            : Commands::tr("\n%1 loops extracted.\n%1 Regions created.").arg(made));
 }
 
 } // namespace

@@ -5,6 +5,7 @@
 #include "host/commands/draw/PolylineDraft.h"
 #include "host/drawing/geometry/EntityGeometry.h"
 #include "host/kernel/documents/Document.h"
+#include "host/kernel/languages/Texts.h"
 
 #include <cmath>
 
@@ -156,7 +157,7 @@ CloudLine lineOfEntity(CommandContext &context, drawing::RecordId entity)
 
 Dialogue<bool> askObject(CommandContext &context, CloudLook look)
 {
-    const PromptReply picked = co_await context.entity(u"Select object: "_s);
+    const PromptReply picked = co_await context.entity(Commands::tr("Select object: "));
     if (picked.entities.empty())
         co_return false;
     const drawing::RecordId entity = picked.entities.front();
@@ -169,7 +170,8 @@ Dialogue<bool> askObject(CommandContext &context, CloudLook look)
 Dialogue<bool> askRectangularCloud(CommandContext &context, CloudLook look, const Vec3 corner)
 {
     const UserPlane plane(context.document());
-    const PromptReply opposite = co_await context.neededPoint(u"Specify opposite corner: "_s, corner).asBox();
+    const PromptReply opposite =
+        co_await context.neededPoint(Commands::tr("Specify opposite corner: "), corner).asBox();
     const Vec3 from = plane.userFromWorld(corner);
     const Vec2 to = plane.userFromWorld(opposite.point).xy();
     CloudLine line{{from.xy(), {to.x, from.y}, to, {from.x, to.y}}, from.z, true};
@@ -182,8 +184,9 @@ Dialogue<bool> askPolygonalCloud(CommandContext &context, CloudLook look, const 
     const UserPlane plane(context.document());
     std::vector<Vec3> points = {start};
     for (;;) {
-        const PromptReply reply = co_await context.point(
-            points.size() < 2 ? u"Specify next point: "_s : u"Specify next point or [Undo]: "_s, {}, points.back());
+        const QString prompt =
+            points.size() < 2 ? Commands::tr("Specify next point: ") : Commands::tr("Specify next point or [Undo]: ");
+        const PromptReply reply = co_await context.point(prompt, {}, points.back());
         if (reply.isEmpty())
             break;
         if (reply.hasValue())
@@ -202,10 +205,11 @@ Dialogue<bool> askPolygonalCloud(CommandContext &context, CloudLook look, const 
 Dialogue<PromptReply> askArcLengths(CommandContext &context, CloudLook &look)
 {
     constexpr int bits = NoZero | NoNegative;
-    look.shortest = co_await askUsualLength(context, u"Specify minimum length of arc"_s, look.shortest, bits);
+    look.shortest =
+        co_await askUsualLength(context, Commands::tr("Specify minimum length of arc"), look.shortest, bits);
     const QString usual = context.shownLength(look.shortest);
     const PromptReply longest =
-        co_await context.distance(u"Specify maximum length of arc <%1>: "_s.arg(usual),
+        co_await context.distance(Commands::tr("Specify maximum length of arc <%1>: ").arg(usual),
                                   u"Object Rectangular Polygonal Freehand Style"_s, {}, usual, bits);
     look.longest = longest.hasValue() ? std::max(longest.real, look.shortest) : look.shortest;
     keepValue(context, u"REVCLOUDMINARCLENGTH", look.shortest);
@@ -216,22 +220,27 @@ Dialogue<PromptReply> askArcLengths(CommandContext &context, CloudLook &look)
 /// What stands in front of the line: lengths, style, the way to give it. The reply that begins the line.
 Dialogue<PromptReply> askCloudStart(CommandContext &context, CloudLook &look, bool &isRectangular)
 {
-    const QString options = u"Arc length/Object/Rectangular/Polygonal/Freehand/Style"_s;
     std::optional<PromptReply> ahead;
     for (;;) {
-        const QString first = isRectangular ? u"Specify first corner point"_s : u"Specify start point"_s;
+        const QString prompt =
+            isRectangular
+                ? Commands::tr("Specify first corner point or [Arc length/Object/Rectangular/Polygonal/Freehand/Style] "
+                               "<Object>: ")
+                : Commands::tr(
+                      "Specify start point or [Arc length/Object/Rectangular/Polygonal/Freehand/Style] <Object>: ");
         PromptReply reply;
         if (ahead)
             reply = *std::exchange(ahead, {});
         else
-            reply = co_await context.point(u"%1 or [%2] <Object>: "_s.arg(first, options), {}, {}, u"Object"_s);
+            reply = co_await context.point(prompt, {}, {}, u"Object"_s);
         if (reply.isKeyword(u"Arc")) {
             const PromptReply next = co_await askArcLengths(context, look);
             if (next.kind == ReplyKind::Keyword)
                 ahead = next;
         } else if (reply.isKeyword(u"Style")) {
-            const QString style = co_await askUsualOption(context, u"Select arc style [Normal/Calligraphy]"_s,
-                                                          look.isCalligraphic ? u"Calligraphy"_s : u"Normal"_s);
+            const QString style =
+                co_await askUsualOption(context, Commands::tr("Select arc style [Normal/Calligraphy]"),
+                                        look.isCalligraphic ? u"Calligraphy"_s : u"Normal"_s);
             look.isCalligraphic = style == u"Calligraphy";
         } else if (reply.isKeyword(u"Rectangular") || reply.isKeyword(u"Polygonal") || reply.isKeyword(u"Freehand")) {
             isRectangular = reply.isKeyword(u"Rectangular");

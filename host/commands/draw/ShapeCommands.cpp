@@ -2,6 +2,7 @@
 #include "host/commands/common/UserPlane.h"
 #include "host/drawing/references/ShapeFiles.h"
 #include "host/kernel/documents/Document.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/running/CommandContext.h"
 
 using namespace Qt::StringLiterals;
@@ -29,7 +30,7 @@ bool isInDrawing(CommandContext &context, const QString &shape)
 // The file's name; its shapes can be placed and stand in linetypes from here on.
 CommandTask load(CommandContext &context)
 {
-    const PromptReply name = co_await context.text(u"Enter name of shape file to load: "_s);
+    const PromptReply name = co_await context.text(Commands::tr("Enter name of shape file to load: "));
     if (!name.hasValue())
         co_return;
     // What is named here by hand may be read wherever it lies.
@@ -40,7 +41,7 @@ CommandTask load(CommandContext &context)
         return path;
     });
     if (!typed.find(name.text.trimmed()))
-        context.fail(u"Cannot read shape file \"%1\"."_s.arg(name.text.trimmed()));
+        context.fail(Commands::tr("Cannot read shape file \"%1\".").arg(name.text.trimmed()));
     else
         drawing::shapeFileStyle(context.drawing(), name.text.trimmed());
 }
@@ -48,21 +49,22 @@ CommandTask load(CommandContext &context)
 // Name, insertion point, height, rotation.
 CommandTask shape(CommandContext &context)
 {
-    const PromptReply name = co_await context.name(u"Enter shape name: "_s);
+    const PromptReply name = co_await context.name(Commands::tr("Enter shape name: "));
     if (!name.hasValue())
         co_return;
     if (!isInDrawing(context, name.text)) {
-        context.fail(u"Cannot find shape \"%1\". Load its file first."_s.arg(name.text));
+        context.fail(Commands::tr("Cannot find shape \"%1\". Load its file first.").arg(name.text));
         co_return;
     }
-    const PromptReply at = co_await context.point(u"Specify insertion point: "_s);
+    const PromptReply at = co_await context.point(Commands::tr("Specify insertion point: "));
     if (!at.hasValue())
         co_return;
     const PromptReply size =
-        co_await context.distance(u"Specify height <1>: "_s, {}, at.point, u"1"_s, NoZero | NoNegative);
+        co_await context.distance(Commands::tr("Specify height <1>: "), {}, at.point, u"1"_s, NoZero | NoNegative);
     if (size.kind == ReplyKind::Cancelled)
         co_return;
-    const PromptReply turn = co_await context.orientation(u"Specify rotation angle <0>: "_s, {}, at.point, u"0"_s);
+    const PromptReply turn =
+        co_await context.orientation(Commands::tr("Specify rotation angle <0>: "), {}, at.point, u"0"_s);
     if (turn.kind == ReplyKind::Cancelled)
         co_return;
     const UserPlane plane(context.document());

@@ -7,6 +7,7 @@
 #include "host/drawing/math/SplineEdit.h"
 #include "host/drawing/records/PolylineFlags.h"
 #include "host/kernel/documents/Document.h"
+#include "host/kernel/languages/Texts.h"
 
 using namespace Qt::StringLiterals;
 
@@ -104,7 +105,7 @@ Dialogue<bool> convertPolylines(CommandContext &context)
     if (context.document().variables().integer(u"DELOBJ", 1) != 0)
         eraseAll(context, converted);
     if (converted.empty())
-        context.print(u"\nOnly polylines with the smoothing of splines can be converted."_s);
+        context.print(Commands::tr("\nOnly polylines with the smoothing of splines can be converted."));
     co_return !converted.empty();
 }
 
@@ -112,26 +113,28 @@ Dialogue<bool> convertPolylines(CommandContext &context)
 Dialogue<std::optional<Vec3>> askFirst(CommandContext &context, SplineDraft &draft)
 {
     for (;;) {
-        const QString prompt = draft.isFit ? u"Specify first point or [Method/Knots/Object]: "_s
-                                           : u"Specify first point or [Method/Degree/Object]: "_s;
+        const QString prompt = draft.isFit ? Commands::tr("Specify first point or [Method/Knots/Object]: ")
+                                           : Commands::tr("Specify first point or [Method/Degree/Object]: ");
         const PromptReply reply = co_await context.neededPoint(prompt);
         if (reply.isKeyword(u"Object")) {
             co_await convertPolylines(context);
             co_return std::nullopt;
         }
         if (reply.isKeyword(u"Method")) {
-            const QString method = co_await askUsualOption(context, u"Enter spline creation method [Fit/CV]"_s,
-                                                           draft.isFit ? u"Fit"_s : u"CV"_s, u"Fit CV,C"_s);
+            const QString method =
+                co_await askUsualOption(context, Commands::tr("Enter spline creation method [Fit/CV]"),
+                                        draft.isFit ? u"Fit"_s : u"CV"_s, u"Fit CV,C"_s);
             draft.isFit = method == u"Fit";
             keepValue(context, u"SPLMETHOD", draft.isFit ? 0 : 1);
         } else if (reply.isKeyword(u"Knots")) {
             const QString spacing = co_await askUsualOption(
-                context, u"Enter knot parameterization [Chord/Square root/Uniform]"_s, u"Chord"_s);
+                context, Commands::tr("Enter knot parameterization [Chord/Square root/Uniform]"), u"Chord"_s);
             draft.fit.spacing = spacingNamed(spacing);
             keepValue(context, u"SPLKNOTS", static_cast<qint32>(draft.fit.spacing));
         } else if (reply.isKeyword(u"Degree")) {
-            const PromptReply degree = co_await context.integer(u"Enter degree of spline <%1>: "_s.arg(draft.degree),
-                                                                {}, QString::number(draft.degree), NoZero);
+            const PromptReply degree =
+                co_await context.integer(Commands::tr("Enter degree of spline <%1>: ").arg(draft.degree), {},
+                                         QString::number(draft.degree), NoZero);
             draft.degree = std::clamp(degree.hasValue() ? degree.integer : draft.degree, 1, 10);
             keepValue(context, u"SPLDEGREE", draft.degree);
         } else {
@@ -153,9 +156,10 @@ Dialogue<bool> askNext(CommandContext &context, SplineDraft &draft)
     std::vector<Vec3> &points = draft.fit.points;
     const QString close = points.size() > 2 ? u"Close/"_s : u""_s;
     const QString prompt =
-        !draft.isFit        ? u"Enter next point or [%1Undo]: "_s.arg(close)
-        : points.size() < 2 ? u"Enter next point or [start Tangency/toLerance]: "_s
-                            : u"Enter next point or [%1Fit tolerance/Undo/end Tangency] <start tangent>: "_s.arg(close);
+        !draft.isFit ? Commands::tr("Enter next point or [%1Undo]: ").arg(close)
+        : points.size() < 2
+            ? Commands::tr("Enter next point or [start Tangency/toLerance]: ")
+            : Commands::tr("Enter next point or [%1Fit tolerance/Undo/end Tangency] <start tangent>: ").arg(close);
     const QString options =
         u"Close "_s.left(close.size()) + u"Undo"_s + (draft.isFit ? u" Tangency toLerance Fit"_s : u""_s);
     const PromptReply reply = co_await context.point(prompt, options, points.back());
@@ -169,16 +173,16 @@ Dialogue<bool> askNext(CommandContext &context, SplineDraft &draft)
         if (points.size() > 1)
             points.pop_back();
         else
-            context.print(u"\nAll points already undone."_s);
+            context.print(Commands::tr("\nAll points already undone."));
     } else if (reply.isKeyword(u"Tangency") && points.size() < 2) {
-        draft.fit.startTangent = co_await askTangent(context, u"Specify start tangent: "_s, points.front());
+        draft.fit.startTangent = co_await askTangent(context, Commands::tr("Specify start tangent: "), points.front());
         draft.hasAskedStart = true;
     } else if (reply.isKeyword(u"Tangency")) {
-        draft.fit.endTangent = co_await askTangent(context, u"Specify end tangent: "_s, points.back());
+        draft.fit.endTangent = co_await askTangent(context, Commands::tr("Specify end tangent: "), points.back());
         draft.hasAskedEnd = true;
         co_return false;
     } else if (reply.kind == ReplyKind::Keyword) {
-        draft.tolerance = co_await askUsualLength(context, u"Specify fit tolerance"_s, draft.tolerance);
+        draft.tolerance = co_await askUsualLength(context, Commands::tr("Specify fit tolerance"), draft.tolerance);
     } else if ((reply.point - points.back()).length() > 0.0) {
         points.push_back(reply.point);
     }
@@ -190,14 +194,14 @@ Dialogue<bool> askTangents(CommandContext &context, SplineDraft &draft)
 {
     const std::vector<Vec3> &points = draft.fit.points;
     if (draft.fit.isClosed) {
-        draft.fit.startTangent = co_await askTangent(context, u"Specify tangent: "_s, points.front());
+        draft.fit.startTangent = co_await askTangent(context, Commands::tr("Specify tangent: "), points.front());
         co_return true;
     }
     // Those who give an end with the points have had the start to give as well.
     if (!draft.hasAskedStart && !draft.hasAskedEnd)
-        draft.fit.startTangent = co_await askTangent(context, u"Specify start tangent: "_s, points.front());
+        draft.fit.startTangent = co_await askTangent(context, Commands::tr("Specify start tangent: "), points.front());
     if (!draft.hasAskedEnd)
-        draft.fit.endTangent = co_await askTangent(context, u"Specify end tangent: "_s, points.back());
+        draft.fit.endTangent = co_await askTangent(context, Commands::tr("Specify end tangent: "), points.back());
     co_return true;
 }
 

@@ -3,6 +3,7 @@
 #include "host/commands/common/Movement.h"
 #include "host/commands/common/ReferenceValue.h"
 #include "host/kernel/documents/Document.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/running/CommandContext.h"
 
 #include <cmath>
@@ -62,18 +63,24 @@ std::optional<Matrix> alignment(const PointPairs &pairs, const Matrix &user, boo
 /// Up to three pairs; an empty source point ends them.
 Dialogue<PointPairs> askPointPairs(CommandContext &context)
 {
-    static const QString ordinals[] = {u"first"_s, u"second"_s, u"third"_s};
+    struct Prompts
+    {
+        const char *from;
+        const char *to;
+    };
+    static constexpr Prompts all[] = {{QT_TRANSLATE_NOOP("Commands", "Specify first source point: "),
+                                       QT_TRANSLATE_NOOP("Commands", "Specify first destination point: ")},
+                                      {QT_TRANSLATE_NOOP("Commands", "Specify second source point: "),
+                                       QT_TRANSLATE_NOOP("Commands", "Specify second destination point: ")},
+                                      {QT_TRANSLATE_NOOP("Commands", "Specify third source point or <continue>: "),
+                                       QT_TRANSLATE_NOOP("Commands", "Specify third destination point: ")}};
     PointPairs pairs;
-    for (const QString &ordinal : ordinals) {
-        const bool isThird = pairs.from.size() == 2;
-        QString prompt = u"Specify %1 source point: "_s.arg(ordinal);
-        if (isThird)
-            prompt = u"Specify third source point or <continue>: "_s;
-        const PromptReply from = co_await context.point(prompt, {}, {}, {}, pairs.from.empty() ? NoEmptyAnswer : 0);
+    for (const Prompts &prompts : all) {
+        const PromptReply from =
+            co_await context.point(Commands::tr(prompts.from), {}, {}, {}, pairs.from.empty() ? NoEmptyAnswer : 0);
         if (!from.hasValue())
             break;
-        const PromptReply to =
-            co_await context.neededPoint(u"Specify %1 destination point: "_s.arg(ordinal), from.point);
+        const PromptReply to = co_await context.neededPoint(Commands::tr(prompts.to), from.point);
         pairs.from.push_back(from.point);
         pairs.to.push_back(to.point);
     }
@@ -90,14 +97,14 @@ CommandTask align(CommandContext &context)
     const PointPairs pairs = co_await askPointPairs(context);
     bool isScaled = false;
     if (pairs.from.size() == 2) {
-        const PromptReply scaled =
-            co_await context.keyword(u"Scale objects based on alignment points? [Yes/No] <N>: "_s, {}, u"No"_s);
+        const PromptReply scaled = co_await context.keyword(
+            Commands::tr("Scale objects based on alignment points? [Yes/No] <N>: "), {}, u"No"_s);
         isScaled = scaled.text == u"Yes";
     }
     if (const auto matrix = alignment(pairs, context.document().userAxes(), isScaled))
         transformAll(context, entities, *matrix);
     else
-        context.fail(u"The points say no direction."_s);
+        context.fail(Commands::tr("The points say no direction."));
 }
 
 /// Two points of an axis.
@@ -110,19 +117,20 @@ struct Axis
 Dialogue<Axis> askAxis(CommandContext &context)
 {
     const Matrix user = context.document().userAxes();
-    const PromptReply reply =
-        co_await context.point(u"Specify first point on axis or define axis by [Xaxis/Yaxis/Zaxis/2points]: "_s);
+    const PromptReply reply = co_await context.point(
+        Commands::tr("Specify first point on axis or define axis by [Xaxis/Yaxis/Zaxis/2points]: "));
     if (reply.kind == ReplyKind::Keyword && !reply.isKeyword(u"2points")) {
-        const PromptReply at = co_await context.point(
-            u"Specify a point on the %1 axis <0,0,0>: "_s.arg(reply.text.front()), {}, user.origin, u"0,0,0"_s);
+        const PromptReply at =
+            co_await context.point(Commands::tr("Specify a point on the %1 axis <0,0,0>: ").arg(reply.text.front()), {},
+                                   user.origin, u"0,0,0"_s);
         const Vec3 origin = at.hasValue() ? at.point : user.origin;
         const Vec3 along = reply.isKeyword(u"Xaxis") ? user.xAxis : reply.isKeyword(u"Yaxis") ? user.yAxis : user.zAxis;
         co_return Axis{origin, origin + along};
     }
     PromptReply from = reply;
     if (!from.hasValue())
-        from = co_await context.neededPoint(u"Specify first point on axis: "_s);
-    const PromptReply to = co_await context.neededPoint(u"Specify second point on axis: "_s, from.point);
+        from = co_await context.neededPoint(Commands::tr("Specify first point on axis: "));
+    const PromptReply to = co_await context.neededPoint(Commands::tr("Specify second point on axis: "), from.point);
     co_return Axis{from.point, to.point};
 }
 
@@ -141,11 +149,11 @@ CommandTask rotate3d(CommandContext &context)
         co_return;
     const Axis axis = co_await askAxis(context);
     if ((axis.to - axis.from).length() == 0.0) {
-        context.fail(u"The two points are one."_s);
+        context.fail(Commands::tr("The two points are one."));
         co_return;
     }
-    const PromptReply turn =
-        co_await context.angle(u"Specify rotation angle or [Reference]: "_s, {}, axis.from, {}, NoEmptyAnswer);
+    const PromptReply turn = co_await context.angle(Commands::tr("Specify rotation angle or [Reference]: "), {},
+                                                    axis.from, {}, NoEmptyAnswer);
     double angle = turn.real;
     if (turn.isKeyword(u"Reference"))
         angle = co_await askReferenceAngle(context, axis.from);

@@ -3,6 +3,7 @@
 #include "host/commands/common/UserPlane.h"
 #include "host/kernel/documents/Document.h"
 #include "host/kernel/input/Units.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/running/CommandContext.h"
 #include "host/kernel/running/Dialogue.h"
 #include "host/kernel/variables/SystemVariables.h"
@@ -37,8 +38,8 @@ struct CellSteps
 
 Dialogue<double> askColumnStep(CommandContext &context)
 {
-    const PromptReply reply = co_await context.distance(u"Specify the distance between columns (|||): "_s, {}, {}, {},
-                                                        NoEmptyAnswer | NoZero | FlatDistance);
+    const PromptReply reply = co_await context.distance(Commands::tr("Specify the distance between columns (|||): "),
+                                                        {}, {}, {}, NoEmptyAnswer | NoZero | FlatDistance);
     co_return reply.real;
 }
 
@@ -49,11 +50,12 @@ Dialogue<CellSteps> askCellSteps(CommandContext &context, int rows, int columns)
     if (rows > 1) {
         PromptRequest request;
         request.kind = PromptKind::Point;
-        request.prompt = u"\nEnter the distance between rows or specify unit cell (---): "_s;
+        request.prompt = Commands::tr("\nEnter the distance between rows or specify unit cell (---): ");
         request.bits = NoEmptyAnswer | AnyText | OutsideLimits;
         const PromptReply reply = co_await context.ask(request);
         if (reply.hasValue()) {
-            const PromptReply other = co_await context.neededPoint(u"Specify opposite corner: "_s, reply.point).asBox();
+            const PromptReply other =
+                co_await context.neededPoint(Commands::tr("Specify opposite corner: "), reply.point).asBox();
             const UserPlane plane(context.document());
             const Vec3 cell = plane.userFromWorld(other.point) - plane.userFromWorld(reply.point);
             co_return CellSteps{cell.y, cell.x, cell.y == 0.0 || (columns > 1 && cell.x == 0.0)};
@@ -84,15 +86,15 @@ void copyToCells(CommandContext &context, const Entities &entities, int rows, in
 
 Dialogue<bool> makeRectangular(CommandContext &context, Entities entities)
 {
-    const int rows = co_await askCellCount(context, u"Enter the number of rows (---) <1>: "_s);
-    const int columns = co_await askCellCount(context, u"Enter the number of columns (|||) <1>: "_s);
+    const int rows = co_await askCellCount(context, Commands::tr("Enter the number of rows (---) <1>: "));
+    const int columns = co_await askCellCount(context, Commands::tr("Enter the number of columns (|||) <1>: "));
     if (rows == 1 && columns == 1) {
-        context.fail(u"One-element array, nothing to do."_s);
+        context.fail(Commands::tr("One-element array, nothing to do."));
         co_return false;
     }
     const CellSteps steps = co_await askCellSteps(context, rows, columns);
     if (steps.isRefused)
-        context.fail(u"Requires a distance other than 0, or two corners of a cell."_s);
+        context.fail(Commands::tr("Requires a distance other than 0, or two corners of a cell."));
     else if (mayCopy(context, entities.size(), double(rows) * columns - 1.0))
         copyToCells(context, entities, rows, columns, steps);
     co_return !context.hasFailed();
@@ -135,17 +137,17 @@ Dialogue<std::optional<double>> askTurn(CommandContext &context, QString prompt,
 Dialogue<PolarSteps> askPolarSteps(CommandContext &context)
 {
     const PromptReply count =
-        co_await context.integer(u"Enter the number of items in the array: "_s, {}, {}, NoZero | NoNegative);
+        co_await context.integer(Commands::tr("Enter the number of items in the array: "), {}, {}, NoZero | NoNegative);
     const int items = count.hasValue() ? count.integer : 0;
     if (items == 1)
         co_return PolarSteps{1, 0.0};
     const std::optional<double> fill =
-        co_await askTurn(context, u"Specify the angle to fill (+=ccw, -=cw) <360>: "_s, u"360"_s);
+        co_await askTurn(context, Commands::tr("Specify the angle to fill (+=ccw, -=cw) <360>: "), u"360"_s);
     if (!fill)
         co_return PolarSteps{};
     if (items > 1 && *fill != 0.0)
         co_return PolarSteps{items, stepOf(*fill, items)};
-    const std::optional<double> between = co_await askTurn(context, u"Angle between items: "_s, {});
+    const std::optional<double> between = co_await askTurn(context, Commands::tr("Angle between items: "), {});
     if (!between || *between == 0.0)
         co_return PolarSteps{};
     if (items > 1)
@@ -183,20 +185,21 @@ void copyRound(CommandContext &context, const Entities &entities, const Vec3 &ce
 
 Dialogue<bool> makePolar(CommandContext &context, Entities entities)
 {
-    PromptReply centre = co_await context.neededPoint(u"Specify center point of array or [Base]: "_s);
+    PromptReply centre = co_await context.neededPoint(Commands::tr("Specify center point of array or [Base]: "));
     std::optional<Vec3> base;
     if (centre.isKeyword(u"Base")) {
-        const PromptReply given = co_await context.neededPoint(u"Specify base point of objects: "_s);
+        const PromptReply given = co_await context.neededPoint(Commands::tr("Specify base point of objects: "));
         base = given.point;
-        centre = co_await context.neededPoint(u"Specify center point of array: "_s);
+        centre = co_await context.neededPoint(Commands::tr("Specify center point of array: "));
     }
     const PolarSteps steps = co_await askPolarSteps(context);
     if (steps.items < 2 || !std::isfinite(steps.step)) {
-        context.fail(steps.items == 1 ? u"One-element array, nothing to do."_s
-                                      : u"Requires a number of items or an angle between them."_s);
+        context.fail(steps.items == 1 ? Commands::tr("One-element array, nothing to do.")
+                                      : Commands::tr("Requires a number of items or an angle between them."));
         co_return false;
     }
-    const PromptReply turns = co_await context.keyword(u"Rotate arrayed objects? [Yes/No] <Y>: "_s, {}, u"Yes"_s);
+    const PromptReply turns =
+        co_await context.keyword(Commands::tr("Rotate arrayed objects? [Yes/No] <Y>: "), {}, u"Yes"_s);
     if (turns.text != u"No")
         base.reset();
     else if (!base)
@@ -212,8 +215,8 @@ CommandTask array(CommandContext &context)
     const PromptReply chosen = co_await context.selection();
     if (chosen.entities.empty())
         co_return;
-    const PromptReply type =
-        co_await context.keyword(u"Enter the type of array [Rectangular/Polar] <R>: "_s, {}, u"Rectangular"_s);
+    const PromptReply type = co_await context.keyword(Commands::tr("Enter the type of array [Rectangular/Polar] <R>: "),
+                                                      {}, u"Rectangular"_s);
     if (type.text == u"Polar")
         co_await makePolar(context, chosen.entities);
     else

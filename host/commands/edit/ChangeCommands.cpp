@@ -3,6 +3,7 @@
 #include "host/commands/edit/ChangePoint.h"
 #include "host/commands/edit/EntityProperties.h"
 #include "host/kernel/documents/Document.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/running/CommandContext.h"
 
 using namespace Qt::StringLiterals;
@@ -18,7 +19,8 @@ using Entities = std::vector<RecordId>;
 Dialogue<bool> askProperties(CommandContext &context, Entities entities, QString options)
 {
     for (;;) {
-        const PromptReply option = co_await context.keyword(u"Enter property to change [%1]: "_s.arg(options));
+        const PromptReply option =
+            co_await context.keyword(Commands::tr("Enter property to change [%1]: ").arg(options));
         if (!option.hasValue())
             co_return true;
         const PropertyChange change = co_await askPropertyChange(context, entities, option.text);
@@ -44,7 +46,7 @@ CommandTask change(CommandContext &context)
     const Entities entities = editable(context, chosen.entities);
     if (entities.empty())
         co_return;
-    const PromptReply point = co_await context.point(u"Specify change point or [Properties]: "_s);
+    const PromptReply point = co_await context.point(Commands::tr("Specify change point or [Properties]: "));
     if (point.isKeyword(u"Properties"))
         co_await askProperties(context, entities, QString(propertyOptions()).replace(u"Color/"_s, u"Color/Elev/"_s));
     else

@@ -6,6 +6,7 @@
 #include "host/drawing/math/Angles.h"
 #include "host/drawing/records/Tables.h"
 #include "host/kernel/documents/Document.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/running/CommandContext.h"
 
 using namespace Qt::StringLiterals;
@@ -75,32 +76,31 @@ void setText(CommandContext &context, RecordId entity, int code, const drawing::
 Dialogue<bool> askNewStyle(CommandContext &context, RecordId text)
 {
     const QString usual = context.drawing().tags(text).text(7, u"Standard"_s);
-    const PromptReply style = co_await context.text(u"Enter new text style <%1>: "_s.arg(usual), usual);
+    const PromptReply style = co_await context.text(Commands::tr("Enter new text style <%1>: ").arg(usual), usual);
     const drawing::RecordId entry =
         style.hasValue() ? context.drawing().tables().find(drawing::TableKind::Style, style.text.trimmed())
                          : drawing::noRecord;
     if (isValid(entry))
         setText(context, text, 7, context.drawing().tables().name(entry));
     else if (style.hasValue())
-        context.fail(u"Cannot find text style \"%1\"."_s.arg(style.text.trimmed()));
+        context.fail(Commands::tr("Cannot find text style \"%1\".").arg(style.text.trimmed()));
     co_return !context.hasFailed();
 }
 
-Dialogue<bool> askNewRotation(CommandContext &context, RecordId entity, QString what)
+Dialogue<bool> askNewRotation(CommandContext &context, RecordId entity, QString prompt)
 {
     const double degrees = context.drawing().tags(entity).real(50);
     const QString usual = context.shownAngle(degrees * drawing::radians);
-    const PromptReply turn =
-        co_await context.orientation(u"Specify new %1 angle <%2>: "_s.arg(what, usual), {}, {}, usual);
+    const PromptReply turn = co_await context.orientation(prompt.arg(usual), {}, {}, usual);
     if (turn.hasValue())
         turnTo(context, entity, UserPlane(context.document()).objectDegrees(turn.real));
     co_return true;
 }
 
-Dialogue<bool> askNewContent(CommandContext &context, RecordId entity, QString what, int code)
+Dialogue<bool> askNewContent(CommandContext &context, RecordId entity, QString prompt, int code)
 {
     const QString usual = context.drawing().tags(entity).text(code);
-    const PromptReply content = co_await context.text(u"Enter new %1 <%2>: "_s.arg(what, usual), usual);
+    const PromptReply content = co_await context.text(prompt.arg(usual), usual);
     if (content.hasValue() && !content.text.isEmpty())
         setText(context, entity, code, content.text);
     co_return true;
@@ -112,24 +112,23 @@ Dialogue<bool> changeText(CommandContext &context, RecordId text)
     if (!co_await askNewStyle(context, text))
         co_return false;
     const QString usual = context.shownLength(context.drawing().tags(text).real(40));
-    const PromptReply height =
-        co_await context.distance(u"Specify new height <%1>: "_s.arg(usual), {}, {}, usual, NoZero | NoNegative);
+    const PromptReply height = co_await context.distance(Commands::tr("Specify new height <%1>: ").arg(usual), {}, {},
+                                                         usual, NoZero | NoNegative);
     if (height.hasValue())
         setText(context, text, 40, height.real);
-    co_await askNewRotation(context, text, u"rotation"_s);
+    co_await askNewRotation(context, text, Commands::tr("Specify new rotation angle <%1>: "));
     if (context.drawing().isType(text, "TEXT"))
-        co_return co_await askNewContent(context, text, u"text"_s, 1);
-    co_await askNewContent(context, text, u"tag"_s, 2);
-    co_await askNewContent(context, text, u"prompt"_s, 3);
-    co_return co_await askNewContent(context, text, u"default value"_s, 1);
+        co_return co_await askNewContent(context, text, Commands::tr("Enter new text <%1>: "), 1);
+    co_await askNewContent(context, text, Commands::tr("Enter new tag <%1>: "), 2);
+    co_await askNewContent(context, text, Commands::tr("Enter new prompt <%1>: "), 3);
+    co_return co_await askNewContent(context, text, Commands::tr("Enter new default value <%1>: "), 1);
 }
 
 /// A place for a text or reference: the point that is there already, or one that is asked for.
-Dialogue<bool> askNewPlace(CommandContext &context, RecordId entity, std::optional<Vec3> point, QString what)
+Dialogue<bool> askNewPlace(CommandContext &context, RecordId entity, std::optional<Vec3> point, QString prompt)
 {
     if (!point) {
-        const PromptReply at =
-            co_await context.point(u"Specify new %1 insertion point <no change>: "_s.arg(what), {}, {}, u"no change"_s);
+        const PromptReply at = co_await context.point(prompt, {}, {}, u"no change"_s);
         if (at.hasValue())
             point = at.point;
     }
@@ -150,18 +149,20 @@ Dialogue<bool> changeByPoint(CommandContext &context, const std::vector<RecordId
         } else if (type == "CIRCLE" && point) {
             changeCircle(context, entity, *point);
         } else if (type == "TEXT" || type == "ATTDEF") {
-            co_await askNewPlace(context, entity, point, u"text"_s);
+            co_await askNewPlace(context, entity, point,
+                                 Commands::tr("Specify new text insertion point <no change>: "));
             if (!co_await changeText(context, entity))
                 co_return false;
         } else if (type == "INSERT") {
-            co_await askNewPlace(context, entity, point, u"block"_s);
-            co_await askNewRotation(context, entity, u"block rotation"_s);
+            co_await askNewPlace(context, entity, point,
+                                 Commands::tr("Specify new block insertion point <no change>: "));
+            co_await askNewRotation(context, entity, Commands::tr("Specify new block rotation angle <%1>: "));
         } else {
             ++unchanged;
         }
     }
     if (unchanged > 0)
-        context.print(u"\n%1 not changed."_s.arg(unchanged));
+        context.print(Commands::tr("\n%1 not changed.").arg(unchanged));
     co_return true;
 }
 

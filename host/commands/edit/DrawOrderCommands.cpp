@@ -4,6 +4,7 @@
 #include "host/drawing/records/SortTable.h"
 #include "host/kernel/documents/CurrentSpace.h"
 #include "host/kernel/documents/Document.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/running/CommandContext.h"
 #include "host/view/display/DrawOrder.h"
 
@@ -53,9 +54,9 @@ CommandTask drawOrder(CommandContext &context)
     const PromptReply chosen = co_await context.selection();
     if (chosen.entities.empty())
         co_return;
-    const PromptReply option =
-        co_await context.keyword(u"Enter object ordering option [Above objects/Under objects/Front/Back] <Back>: "_s,
-                                 u"Above Under Front Back"_s, u"Back"_s);
+    const PromptReply option = co_await context.keyword(
+        Commands::tr("Enter object ordering option [Above objects/Under objects/Front/Back] <Back>: "),
+        u"Above Under Front Back"_s, u"Back"_s);
     const QString where = option.hasValue() ? option.text : u"Back"_s;
     Entities references;
     if (where == u"Above" || where == u"Under") {
@@ -67,7 +68,7 @@ CommandTask drawOrder(CommandContext &context)
     drawing::Drawing &drawing = context.drawing();
     const Entities all = view::drawOrder(drawing, view::readSortHandles(drawing), currentEntities(drawing));
     if (!drawing::setDrawOrder(drawing, reordered(all, chosen.entities, where, references)))
-        context.print(u"\nA drawing of this version keeps no draw order."_s);
+        context.print(Commands::tr("\nA drawing of this version keeps no draw order."));
 }
 
 } // namespace

@@ -5,6 +5,7 @@
 #include "host/commands/common/ReferenceValue.h"
 #include "host/commands/common/UserPlane.h"
 #include "host/kernel/documents/Document.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/running/CommandContext.h"
 #include "host/kernel/variables/SystemVariables.h"
 
@@ -49,15 +50,17 @@ Dialogue<Copies> askCopiesInRow(CommandContext &context, const Copies &entities,
     constexpr int fewest = 2;
     PromptReply count;
     do {
-        count = co_await context.integer(u"Enter number of items to array: "_s, {}, {}, NoEmptyAnswer | NoNegative);
-        if (count.integer < fewest && context.refuse(u"Requires an integer of 2 or more."_s))
+        count = co_await context.integer(Commands::tr("Enter number of items to array: "), {}, {},
+                                         NoEmptyAnswer | NoNegative);
+        if (count.integer < fewest && context.refuse(Commands::tr("Requires an integer of 2 or more.")))
             co_return Copies();
     } while (count.integer < fewest);
     const Dragged shape = movedBy(entities, from);
-    PromptReply to = co_await context.neededPoint(u"Specify second point or [Fit]: "_s, from).dragging(shape);
+    PromptReply to =
+        co_await context.neededPoint(Commands::tr("Specify second point or [Fit]: "), from).dragging(shape);
     const bool isFit = to.isKeyword(u"Fit");
     if (isFit)
-        to = co_await context.neededPoint(u"Specify second point: "_s, from).dragging(shape);
+        to = co_await context.neededPoint(Commands::tr("Specify second point: "), from).dragging(shape);
     const int steps = count.integer - 1;
     Copies made;
     if (!mayCopy(context, entities.size(), steps))
@@ -74,7 +77,8 @@ Dialogue<bool> askCopies(CommandContext &context, const Copies &entities, Vec3 f
     const auto copyTo = [&](const Vec3 &by) { return copyAll(context, entities, Matrix::translation(by)); };
     const Dragged shape = movedBy(entities, from);
     PromptReply to =
-        co_await context.point(u"Specify second point or [Array] <use first point as displacement>: "_s, {}, from)
+        co_await context
+            .point(Commands::tr("Specify second point or [Array] <use first point as displacement>: "), {}, from)
             .dragging(shape);
     if (to.isEmpty()) {
         copyTo(UserPlane(context.document()).displacement(from));
@@ -94,7 +98,8 @@ Dialogue<bool> askCopies(CommandContext &context, const Copies &entities, Vec3 f
         }
         if (context.hasFailed() || !isMultiple)
             break;
-        to = co_await context.point(u"Specify second point or [Array/Exit/Undo] <Exit>: "_s, {}, from, u"Exit"_s)
+        to = co_await context
+                 .point(Commands::tr("Specify second point or [Array/Exit/Undo] <Exit>: "), {}, from, u"Exit"_s)
                  .dragging(shape);
     }
     co_return true;
@@ -110,7 +115,7 @@ CommandTask copy(CommandContext &context)
     bool isForced = false;
     for (;;) {
         // "Multiple" is for this once; older programs say it though COPYMODE would do.
-        from = co_await context.point(u"Specify base point or [Displacement/mOde] <Displacement>: "_s,
+        from = co_await context.point(Commands::tr("Specify base point or [Displacement/mOde] <Displacement>: "),
                                       u"Displacement mOde Multiple"_s, {}, u"Displacement"_s);
         if (from.isKeyword(u"Multiple")) {
             isForced = true;
@@ -118,8 +123,8 @@ CommandTask copy(CommandContext &context)
         }
         if (!from.isKeyword(u"mOde"))
             break;
-        const PromptReply mode =
-            co_await context.keyword(u"Enter a copy mode option [Single/Multiple] <Multiple>: "_s, {}, u"Multiple"_s);
+        const PromptReply mode = co_await context.keyword(
+            Commands::tr("Enter a copy mode option [Single/Multiple] <Multiple>: "), {}, u"Multiple"_s);
         context.document().variables().setInternally(u"COPYMODE", mode.text == u"Single"_s ? 1 : 0);
     }
     if (from.hasValue()) {
@@ -144,21 +149,21 @@ void apply(CommandContext &context, const std::vector<RecordId> &entities, bool 
 CommandTask rotate(CommandContext &context)
 {
     const SystemVariables &variables = context.document().variables();
-    context.print(u"\nCurrent positive angle in UCS:  ANGDIR=%1  ANGBASE=%2"_s.arg(
-        variables.integer(u"ANGDIR") == 0 ? u"counterclockwise"_s : u"clockwise"_s,
-        context.shownAngle(variables.real(u"ANGBASE"))));
+    context.print(Commands::tr("\nCurrent positive angle in UCS:  ANGDIR=%1  ANGBASE=%2")
+                      .arg(variables.integer(u"ANGDIR") == 0 ? u"counterclockwise"_s : u"clockwise"_s,
+                           context.shownAngle(variables.real(u"ANGBASE"))));
     const PromptReply chosen = co_await context.selection();
     if (chosen.entities.empty())
         co_return;
-    const PromptReply centre = co_await context.neededPoint(u"Specify base point: "_s);
+    const PromptReply centre = co_await context.neededPoint(Commands::tr("Specify base point: "));
     const QString zero = context.shownAngle(0.0);
-    const QString prompt = u"Specify rotation angle or [Copy/Reference] <%1>: "_s.arg(zero);
+    const QString prompt = Commands::tr("Specify rotation angle or [Copy/Reference] <%1>: ").arg(zero);
     const Dragged shape =
         turnedBy(UserPlane(context.document()), chosen.entities, centre.point, variables.real(u"ANGBASE"));
     PromptReply turn = co_await context.angle(prompt, {}, centre.point, zero).dragging(shape);
     const bool isCopy = turn.isKeyword(u"Copy");
     if (isCopy) {
-        context.print(u"\nRotating a copy of the selected objects."_s);
+        context.print(Commands::tr("\nRotating a copy of the selected objects."));
         turn = co_await context.angle(prompt, u"Reference"_s, centre.point, zero).dragging(shape);
     }
     double angle = turn.hasValue() ? turn.real : 0.0;
@@ -174,13 +179,13 @@ CommandTask scale(CommandContext &context)
     const PromptReply chosen = co_await context.selection();
     if (chosen.entities.empty())
         co_return;
-    const PromptReply centre = co_await context.neededPoint(u"Specify base point: "_s);
-    const QString prompt = u"Specify scale factor or [Copy/Reference]: "_s;
+    const PromptReply centre = co_await context.neededPoint(Commands::tr("Specify base point: "));
+    const QString prompt = Commands::tr("Specify scale factor or [Copy/Reference]: ");
     const Dragged shape = scaledBy(UserPlane(context.document()), chosen.entities, centre.point);
     PromptReply factor = co_await context.distance(prompt, {}, centre.point, {}, bits).dragging(shape);
     const bool isCopy = factor.isKeyword(u"Copy");
     if (isCopy) {
-        context.print(u"\nScaling a copy of the selected objects."_s);
+        context.print(Commands::tr("\nScaling a copy of the selected objects."));
         factor = co_await context.distance(prompt, u"Reference"_s, centre.point, {}, bits).dragging(shape);
     }
     double by = factor.real;

@@ -9,6 +9,7 @@
 #include "host/drawing/tags/GroupCodes.h"
 #include "host/kernel/documents/CurrentProperties.h"
 #include "host/kernel/documents/Document.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/running/CommandContext.h"
 #include "host/kernel/variables/SystemVariables.h"
 
@@ -70,9 +71,9 @@ PropertyChange exactColourChange(CommandContext &context, const QString &text)
 {
     const std::optional<qint64> value = exactColour(text);
     if (!value)
-        return noChange(context, u"Requires three numbers from 0 to 255."_s);
+        return noChange(context, Commands::tr("Requires three numbers from 0 to 255."));
     if (context.drawing().version() < Version::R2004)
-        return noChange(context, u"A drawing of this version has no such colors."_s);
+        return noChange(context, Commands::tr("A drawing of this version has no such colors."));
     return {[value](FieldList &fields) {
         std::erase_if(fields, [](const drawing::Field &field) { return field.code == 430; });
         setCommonField(fields, 420, *value);
@@ -82,15 +83,16 @@ PropertyChange exactColourChange(CommandContext &context, const QString &text)
 Dialogue<PropertyChange> askColourChange(CommandContext &context, const Entities &entities)
 {
     const QString usual = commonText(entities, [&](RecordId id) { return colourShown(context, id); });
-    const PromptReply reply = co_await context.name(u"New color [Truecolor/COlorbook] <%1>: "_s.arg(usual), usual);
+    const PromptReply reply =
+        co_await context.name(Commands::tr("New color [Truecolor/COlorbook] <%1>: ").arg(usual), usual);
     if (reply.isEmpty())
         co_return PropertyChange{};
     if (reply.isKeyword(u"Truecolor")) {
-        const PromptReply exact = co_await context.name(u"Red,Green,Blue: "_s);
+        const PromptReply exact = co_await context.name(Commands::tr("Red,Green,Blue: "));
         co_return exactColourChange(context, exact.text);
     }
     if (reply.isKeyword(u"COlorbook"))
-        co_return noChange(context, u"This program has no color books."_s);
+        co_return noChange(context, Commands::tr("This program has no color books."));
     const QString typed = withoutMark(reply.text).toUpper();
     if (typed == u"BYLAYER" || typed == u"256")
         co_return colourChange(drawing::colourByLayer);
@@ -100,7 +102,7 @@ Dialogue<PropertyChange> askColourChange(CommandContext &context, const Entities
         co_return exactColourChange(context, typed);
     const int number = colourNumber(typed);
     if (number == 0)
-        co_return noChange(context, u"Requires a color number from 1 to 255 or a color name."_s);
+        co_return noChange(context, Commands::tr("Requires a color number from 1 to 255 or a color name."));
     co_return colourChange(number);
 }
 
@@ -111,8 +113,9 @@ Dialogue<PropertyChange> askNameChange(CommandContext &context, const Entities &
     const int code = isLayer ? 8 : 6;
     const QString usual = commonText(
         entities, [&](RecordId id) { return context.drawing().tags(id).text(code, isLayer ? u"0"_s : u"ByLayer"_s); });
-    const QString what = isLayer ? u"layer name"_s : u"linetype name"_s;
-    const PromptReply reply = co_await context.text(u"Enter new %1 <%2>: "_s.arg(what, usual), usual);
+    const QString prompt =
+        isLayer ? Commands::tr("Enter new layer name <%1>: ") : Commands::tr("Enter new linetype name <%1>: ");
+    const PromptReply reply = co_await context.text(prompt.arg(usual), usual);
     const QString name = isLayer ? reply.text.trimmed() : withoutMark(reply.text.trimmed());
     if (!reply.hasValue() || name.isEmpty())
         co_return PropertyChange{};
@@ -121,8 +124,8 @@ Dialogue<PropertyChange> askNameChange(CommandContext &context, const Entities &
     const bool isByLayer = !isLayer && name.compare(u"ByLayer"_s, Qt::CaseInsensitive) == 0;
     const bool isByBlock = !isLayer && name.compare(u"ByBlock"_s, Qt::CaseInsensitive) == 0;
     if (!isValid(entry) && !isByLayer && !isByBlock)
-        co_return noChange(context, isLayer ? u"Cannot find layer \"%1\"."_s.arg(name)
-                                            : u"Cannot find linetype \"%1\"."_s.arg(name));
+        co_return noChange(context, isLayer ? Commands::tr("Cannot find layer \"%1\".").arg(name)
+                                            : Commands::tr("Cannot find linetype \"%1\".").arg(name));
     const QString known = isByBlock ? u"ByBlock"_s : isByLayer ? u"ByLayer"_s : tables.name(entry);
     co_return PropertyChange{[code, known, isByLayer](FieldList &fields) {
         if (isByLayer)
@@ -146,8 +149,8 @@ Dialogue<PropertyChange> askLinetypeScale(CommandContext &context, const Entitie
 {
     const QString usual = commonText(
         entities, [&](RecordId id) { return context.shownLength(context.drawing().tags(id).real(48, 1.0)); });
-    const PromptReply reply = co_await context.distance(u"Specify new linetype scale <%1>: "_s.arg(usual), {}, {},
-                                                        usual, NoZero | NoNegative);
+    const PromptReply reply = co_await context.distance(Commands::tr("Specify new linetype scale <%1>: ").arg(usual),
+                                                        {}, {}, usual, NoZero | NoNegative);
     if (!reply.hasValue())
         co_return PropertyChange{};
     const double scale = reply.real;
@@ -164,14 +167,14 @@ Dialogue<PropertyChange> askWeightOf(CommandContext &context, const Entities &en
 {
     const QString usual =
         commonText(entities, [&](RecordId id) { return weightShown(context.drawing().tags(id).integer(370, -1)); });
-    const PromptReply reply = co_await context.real(u"Enter new lineweight <%1>: "_s.arg(usual),
+    const PromptReply reply = co_await context.real(Commands::tr("Enter new lineweight <%1>: ").arg(usual),
                                                     u"ByLayer ByBlock Default"_s, usual, NoNegative);
     if (reply.isEmpty())
         co_return PropertyChange{};
     if (context.drawing().version() < Version::R2000)
-        co_return noChange(context, u"A drawing of this version has no lineweights."_s);
+        co_return noChange(context, Commands::tr("A drawing of this version has no lineweights."));
     if (reply.hasValue() && reply.real > 2.11)
-        co_return noChange(context, u"Requires a lineweight from 0 to 2.11."_s);
+        co_return noChange(context, Commands::tr("Requires a lineweight from 0 to 2.11."));
     const qint64 weight = reply.hasValue()              ? nearestWeight(reply.real)
                           : reply.isKeyword(u"ByLayer") ? -1
                           : reply.isKeyword(u"ByBlock") ? -2
@@ -195,7 +198,8 @@ Dialogue<PropertyChange> askThickness(CommandContext &context, const Entities &e
 {
     const QString usual =
         commonText(entities, [&](RecordId id) { return context.shownLength(context.drawing().tags(id).real(39)); });
-    const PromptReply reply = co_await context.distance(u"Specify new thickness <%1>: "_s.arg(usual), {}, {}, usual);
+    const PromptReply reply =
+        co_await context.distance(Commands::tr("Specify new thickness <%1>: ").arg(usual), {}, {}, usual);
     if (!reply.hasValue())
         co_return PropertyChange{};
     const double thickness = reply.real;
@@ -207,12 +211,12 @@ Dialogue<PropertyChange> askThickness(CommandContext &context, const Entities &e
 
 Dialogue<PropertyChange> askTransparencyOf(CommandContext &context, const Entities &)
 {
-    const PromptReply reply = co_await context.integer(u"Enter new transparency value <ByLayer>: "_s,
+    const PromptReply reply = co_await context.integer(Commands::tr("Enter new transparency value <ByLayer>: "),
                                                        u"ByLayer ByBlock"_s, u"ByLayer"_s, NoNegative);
     if (context.drawing().version() < Version::R2004)
-        co_return noChange(context, u"A drawing of this version has no transparency."_s);
+        co_return noChange(context, Commands::tr("A drawing of this version has no transparency."));
     if (reply.hasValue() && reply.integer > 90)
-        co_return noChange(context, u"Requires an integer from 0 to 90."_s);
+        co_return noChange(context, Commands::tr("Requires an integer from 0 to 90."));
     std::optional<qint64> value;
     if (reply.isKeyword(u"ByBlock"))
         value = transparencyByBlock;
@@ -249,7 +253,8 @@ void setElevation(FieldList &fields, double elevation)
 Dialogue<PropertyChange> askElevation(CommandContext &context, const Entities &)
 {
     const QString usual = context.shownLength(0.0);
-    const PromptReply reply = co_await context.distance(u"Specify new elevation <%1>: "_s.arg(usual), {}, {}, usual);
+    const PromptReply reply =
+        co_await context.distance(Commands::tr("Specify new elevation <%1>: ").arg(usual), {}, {}, usual);
     const double elevation = reply.hasValue() ? reply.real : 0.0;
     co_return PropertyChange{[elevation](FieldList &fields) { setElevation(fields, elevation); }};
 }

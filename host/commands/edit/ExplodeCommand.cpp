@@ -4,6 +4,7 @@
 #include "host/commands/edit/DisplayedParts.h"
 #include "host/drawing/editing/ExplodeEntity.h"
 #include "host/kernel/documents/Document.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/running/CommandContext.h"
 #include "host/kernel/variables/SystemVariables.h"
 #include "host/view/build/EntityExtents.h"
@@ -24,7 +25,8 @@ Dialogue<Entities> askExploded(CommandContext &context)
         const PromptReply chosen = co_await context.selection();
         co_return chosen.entities;
     }
-    const ObjectChoice chosen = co_await askObjects(context, u"Select objects: "_s, {}, ChoiceEnd::FirstOfProgram);
+    const ObjectChoice chosen =
+        co_await askObjects(context, Commands::tr("Select objects: "), {}, ChoiceEnd::FirstOfProgram);
     co_return chosen.entities;
 }
 
@@ -53,7 +55,7 @@ void explodeAll(CommandContext &context, const Entities &entities)
     for (const QString &reason : told)
         context.print(u'\n' + reason);
     if (leftOut > 0)
-        context.print(u"\n%1 of the pieces could not be made."_s.arg(leftOut));
+        context.print(Commands::tr("\n%1 of the pieces could not be made.").arg(leftOut));
     if (!pieces.empty())
         context.document().setPreviousSelection(pieces);
 }

@@ -9,6 +9,7 @@
 #include "host/drawing/editing/GripPoints.h"
 #include "host/kernel/documents/Document.h"
 #include "host/kernel/input/Keywords.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/running/CommandContext.h"
 #include "host/kernel/running/Dialogue.h"
 #include "host/kernel/variables/SystemVariables.h"
@@ -34,11 +35,17 @@ struct GripMode
 };
 
 constexpr GripMode gripModes[] = {
-    {"STretch", "STRETCH", "Specify stretch point or [Base point/Copy/Undo/eXit]: ", PromptKind::Point},
-    {"MOve", "MOVE", "Specify move point or [Base point/Copy/Undo/eXit]: ", PromptKind::Point},
-    {"ROtate", "ROTATE", "Specify rotation angle or [Base point/Copy/Undo/Reference/eXit]: ", PromptKind::Angle},
-    {"SCale", "SCALE", "Specify scale factor or [Base point/Copy/Undo/Reference/eXit]: ", PromptKind::Distance},
-    {"MIrror", "MIRROR", "Specify second point or [Base point/Copy/Undo/eXit]: ", PromptKind::Point},
+    {"STretch", "STRETCH", QT_TRANSLATE_NOOP("Commands", "Specify stretch point or [Base point/Copy/Undo/eXit]: "),
+     PromptKind::Point},
+    {"MOve", "MOVE", QT_TRANSLATE_NOOP("Commands", "Specify move point or [Base point/Copy/Undo/eXit]: "),
+     PromptKind::Point},
+    {"ROtate", "ROTATE",
+     QT_TRANSLATE_NOOP("Commands", "Specify rotation angle or [Base point/Copy/Undo/Reference/eXit]: "),
+     PromptKind::Angle},
+    {"SCale", "SCALE", QT_TRANSLATE_NOOP("Commands", "Specify scale factor or [Base point/Copy/Undo/Reference/eXit]: "),
+     PromptKind::Distance},
+    {"MIrror", "MIRROR", QT_TRANSLATE_NOOP("Commands", "Specify second point or [Base point/Copy/Undo/eXit]: "),
+     PromptKind::Point},
 };
 enum GripModeIndex : std::size_t
 {
@@ -97,8 +104,8 @@ Dragged gripShape(CommandContext &context, const GripEdit &edit)
 PromptRequest gripRequest(CommandContext &context, const GripEdit &edit)
 {
     const GripMode &mode = gripModes[edit.mode];
-    const QString prompt = QLatin1StringView(mode.prompt);
-    const QString title = QLatin1StringView(mode.title) + (edit.isCopying ? u" (multiple)"_s : QString());
+    const QString prompt = Commands::tr(mode.prompt);
+    const QString title = QLatin1StringView(mode.title) + (edit.isCopying ? Commands::tr(" (multiple)") : QString());
     PromptRequest request;
     request.kind = mode.kind;
     request.prompt = u"\n** %1 **\n%2"_s.arg(title, prompt);
@@ -122,11 +129,11 @@ bool hasGripAt(const drawing::Drawing &drawing, const GripEntities &entities, co
 Dialogue<bool> askHotGrips(CommandContext &context, GripEdit &edit)
 {
     for (;;) {
-        const PromptReply reply = co_await context.point(u"Specify grips to move: "_s);
+        const PromptReply reply = co_await context.point(Commands::tr("Specify grips to move: "));
         if (!reply.hasValue())
             co_return !edit.hot.empty();
         const bool isGrip = hasGripAt(context.drawing(), edit.entities, reply.point);
-        if (!isGrip && context.refuse(u"There is no grip of the chosen entities."_s))
+        if (!isGrip && context.refuse(Commands::tr("There is no grip of the chosen entities.")))
             co_return false;
         if (isGrip)
             edit.hot.push_back(reply.point);
@@ -147,7 +154,7 @@ void stretchByGrips(CommandContext &context, const GripEdit &edit, const GripEnt
         drawDimension(drawing, id, dimensionTextSize(context, style.textStyle));
     }
     if (refused > 0)
-        context.print(u"\n%1 could not be changed."_s.arg(refused));
+        context.print(Commands::tr("\n%1 could not be changed.").arg(refused));
 }
 
 /// What the answer makes of the entities in the mode.
@@ -169,7 +176,7 @@ void applyByGrips(CommandContext &context, const GripEdit &edit, const GripEntit
     const Vec3 from = plane.userFromWorld(edit.base);
     const Vec3 to = plane.userFromWorld(reply.point);
     if ((to - from).xy().length() == 0.0)
-        return context.fail(u"The two points are one."_s);
+        return context.fail(Commands::tr("The two points are one."));
     mirrorAll(context, entities, plane.inWorld(Matrix::mirror(from, to)));
 }
 
@@ -205,7 +212,7 @@ bool takeGripWord(CommandContext &context, GripEdit &edit, const PromptReply &re
         eraseAll(context, edit.copies.back());
         edit.copies.pop_back();
     } else if (reply.isKeyword(u"Undo")) {
-        context.print(u"\nThere is nothing to undo."_s);
+        context.print(Commands::tr("\nThere is nothing to undo."));
     }
     return !reply.isKeyword(u"eXit");
 }
@@ -218,7 +225,7 @@ Dialogue<bool> askGripEdit(CommandContext &context, GripEdit &edit)
         if (reply.isEmpty()) {
             edit.mode = (edit.mode + 1) % std::size(gripModes);
         } else if (reply.isKeyword(u"Base")) {
-            reply = co_await context.neededPoint(u"Specify base point: "_s);
+            reply = co_await context.neededPoint(Commands::tr("Specify base point: "));
             edit.base = reply.point;
         } else if (reply.hasValue() || reply.isKeyword(u"Reference")) {
             if (!reply.hasValue())

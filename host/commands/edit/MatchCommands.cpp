@@ -6,6 +6,7 @@
 #include "host/kernel/documents/CurrentSpace.h"
 #include "host/kernel/documents/Document.h"
 #include "host/kernel/input/Picker.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/running/CommandContext.h"
 #include "host/kernel/variables/SystemVariables.h"
 
@@ -104,13 +105,13 @@ PropertyChange matchOf(const FieldList &source, const QSet<QString> &off)
 Dialogue<QSet<QString>> askSettings(CommandContext &context, QSet<QString> off)
 {
     for (;;) {
-        const QString prompt = u"Enter a setting to switch off or on [%1] <exit>: "_s.arg(settingNames());
+        const QString prompt = Commands::tr("Enter a setting to switch off or on [%1] <exit>: ").arg(settingNames());
         const PromptReply reply = co_await context.keyword(prompt, {}, u"exit"_s);
         if (!reply.hasValue())
             co_return off;
         if (!off.remove(reply.text))
             off.insert(reply.text);
-        context.print(u"\n%1 is %2."_s.arg(reply.text, off.contains(reply.text) ? u"off"_s : u"on"_s));
+        context.print(Commands::tr("\n%1 is %2.").arg(reply.text, off.contains(reply.text) ? u"off"_s : u"on"_s));
     }
 }
 
@@ -124,17 +125,17 @@ CommandTask matchProperties(CommandContext &context)
         source = co_await context.selection();
     else
         do
-            source = co_await context.entity(u"Select source object: "_s);
+            source = co_await context.entity(Commands::tr("Select source object: "));
         while (source.entities.empty() && source.isMiss);
     if (source.entities.empty())
         co_return;
     const FieldList fields = context.drawing().fields(source.entities.front());
     QSet<QString> off;
-    context.print(u"\nCurrent active settings:  "_s + settingNames().replace(u'/', u' '));
+    context.print(Commands::tr("\nCurrent active settings:  ") + settingNames().replace(u'/', u' '));
     const QStringList options(u"Settings"_s);
     for (bool isMore = true; isMore;) {
         const ObjectChoice choice =
-            co_await askObjects(context, u"Select destination object(s) or [Settings]: "_s, options);
+            co_await askObjects(context, Commands::tr("Select destination object(s) or [Settings]: "), options);
         changeProperties(context, editable(context, choice.entities), matchOf(fields, off));
         isMore = !choice.option.isEmpty();
         if (isMore)
@@ -161,7 +162,7 @@ CommandTask selectSimilar(CommandContext &context)
         wanted.insert(likenessOf(drawing, id));
     std::vector<RecordId> similar = Picker(context.document()).visible();
     std::erase_if(similar, [&](RecordId id) { return !wanted.contains(likenessOf(drawing, id)); });
-    context.print(u"\n%1 selected."_s.arg(similar.size()));
+    context.print(Commands::tr("\n%1 selected.").arg(similar.size()));
     context.document().setPreviousSelection(similar);
     context.document().setImpliedSelection(std::move(similar));
 }

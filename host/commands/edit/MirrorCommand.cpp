@@ -3,6 +3,7 @@
 #include "host/commands/common/EntityEdits.h"
 #include "host/commands/common/UserPlane.h"
 #include "host/kernel/documents/Document.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/running/CommandContext.h"
 #include "host/kernel/running/Dialogue.h"
 
@@ -32,18 +33,19 @@ CommandTask mirror(CommandContext &context)
     const PromptReply chosen = co_await context.selection();
     if (chosen.entities.empty())
         co_return;
-    const PromptReply first = co_await context.neededPoint(u"Specify first point of mirror line: "_s);
+    const PromptReply first = co_await context.neededPoint(Commands::tr("Specify first point of mirror line: "));
     const UserPlane plane(context.document());
-    const PromptReply second = co_await context.neededPoint(u"Specify second point of mirror line: "_s, first.point)
-                                   .dragging(mirroredIn(plane, chosen.entities, first.point));
+    const PromptReply second =
+        co_await context.neededPoint(Commands::tr("Specify second point of mirror line: "), first.point)
+            .dragging(mirroredIn(plane, chosen.entities, first.point));
     const Vec3 from = plane.userFromWorld(first.point);
     const Vec3 to = plane.userFromWorld(second.point);
     if ((to - from).xy().length() == 0.0) {
-        context.fail(u"The two points are one."_s);
+        context.fail(Commands::tr("The two points are one."));
         co_return;
     }
     const Matrix matrix = plane.inWorld(Matrix::mirror(from, to));
-    co_await finishMirror(context, chosen.entities, matrix, u"Erase source objects? [Yes/No] <N>: "_s);
+    co_await finishMirror(context, chosen.entities, matrix, Commands::tr("Erase source objects? [Yes/No] <N>: "));
 }
 
 /// Reflection in the plane through a point with this normal.
@@ -69,11 +71,13 @@ Dialogue<MirrorPlane> askThreePoints(CommandContext &context, std::optional<Vec3
     if (given) {
         first = *given;
     } else {
-        const PromptReply reply = co_await context.neededPoint(u"Specify first point on mirror plane: "_s);
+        const PromptReply reply = co_await context.neededPoint(Commands::tr("Specify first point on mirror plane: "));
         first = reply.point;
     }
-    const PromptReply second = co_await context.neededPoint(u"Specify second point on mirror plane: "_s, first);
-    const PromptReply third = co_await context.neededPoint(u"Specify third point on mirror plane: "_s, second.point);
+    const PromptReply second =
+        co_await context.neededPoint(Commands::tr("Specify second point on mirror plane: "), first);
+    const PromptReply third =
+        co_await context.neededPoint(Commands::tr("Specify third point on mirror plane: "), second.point);
     co_return MirrorPlane{first, cross(second.point - first, third.point - first)};
 }
 
@@ -82,7 +86,7 @@ Dialogue<MirrorPlane> askPlaneThrough(CommandContext &context, QString axes)
     const Matrix user = context.document().userAxes();
     const QString zero = u"0,0,0"_s;
     const PromptReply at =
-        co_await context.point(u"Specify point on %1 plane <%2>: "_s.arg(axes, zero), {}, user.origin, zero);
+        co_await context.point(Commands::tr("Specify point on %1 plane <%2>: ").arg(axes, zero), {}, user.origin, zero);
     const Vec3 normal = axes == u"XY" ? user.zAxis : axes == u"YZ" ? user.xAxis : user.yAxis;
     co_return MirrorPlane{at.hasValue() ? at.point : user.origin, normal};
 }
@@ -90,18 +94,19 @@ Dialogue<MirrorPlane> askPlaneThrough(CommandContext &context, QString axes)
 Dialogue<MirrorPlane> askMirrorPlane(CommandContext &context)
 {
     const PromptReply reply = co_await context.point(
-        u"Specify first point of mirror plane (3 points) or [Zaxis/View/XY/YZ/ZX/3points] <3points>: "_s, {}, {},
-        u"3points"_s);
+        Commands::tr("Specify first point of mirror plane (3 points) or [Zaxis/View/XY/YZ/ZX/3points] <3points>: "), {},
+        {}, u"3points"_s);
     if (reply.hasValue())
         co_return co_await askThreePoints(context, reply.point);
     if (reply.isKeyword(u"Zaxis")) {
-        const PromptReply at = co_await context.neededPoint(u"Specify point on mirror plane: "_s);
+        const PromptReply at = co_await context.neededPoint(Commands::tr("Specify point on mirror plane: "));
         const PromptReply to =
-            co_await context.neededPoint(u"Specify point on Z-axis (normal) of mirror plane: "_s, at.point);
+            co_await context.neededPoint(Commands::tr("Specify point on Z-axis (normal) of mirror plane: "), at.point);
         co_return MirrorPlane{at.point, to.point - at.point};
     }
     if (reply.isKeyword(u"View")) {
-        const PromptReply at = co_await context.point(u"Specify point on view plane <0,0,0>: "_s, {}, {}, u"0,0,0"_s);
+        const PromptReply at =
+            co_await context.point(Commands::tr("Specify point on view plane <0,0,0>: "), {}, {}, u"0,0,0"_s);
         co_return MirrorPlane{at.hasValue() ? at.point : Vec3{}, {0.0, 0.0, 1.0}};
     }
     if (reply.kind == ReplyKind::Keyword && !reply.isKeyword(u"3points"))
@@ -117,11 +122,11 @@ CommandTask mirror3d(CommandContext &context)
         co_return;
     const MirrorPlane plane = co_await askMirrorPlane(context);
     if (plane.normal.length() == 0.0) {
-        context.fail(u"The points say no plane."_s);
+        context.fail(Commands::tr("The points say no plane."));
         co_return;
     }
     const Matrix matrix = reflection(plane.origin, plane.normal);
-    co_await finishMirror(context, chosen.entities, matrix, u"Delete source objects? [Yes/No] <N>: "_s);
+    co_await finishMirror(context, chosen.entities, matrix, Commands::tr("Delete source objects? [Yes/No] <N>: "));
 }
 
 } // namespace

@@ -5,6 +5,7 @@
 #include "host/drawing/geometry/ViewportView.h"
 #include "host/kernel/documents/CurrentSpace.h"
 #include "host/kernel/documents/Document.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/running/CommandContext.h"
 #include "host/kernel/variables/SystemVariables.h"
 
@@ -57,7 +58,7 @@ void moveToOtherSpace(CommandContext &context, const Entities &entities, bool is
     drawing::Drawing &drawing = context.drawing();
     const std::vector<drawing::ViewportView> views = sheetViewports(drawing);
     if (views.empty())
-        return context.fail(u"The sheet has no viewport."_s);
+        return context.fail(Commands::tr("The sheet has no viewport."));
     const drawing::ViewportView &seen =
         isToSheet ? views.front() : viewportOf(views, drawing::spaceBox(drawing, entities));
     const drawing::Matrix toSheet = seen.modelToSheet();
@@ -71,17 +72,18 @@ void moveToOtherSpace(CommandContext &context, const Entities &entities, bool is
     eraseAll(context, gone);
     transformAll(context, moved, isToSheet ? toSheet : toSheet.inverted());
     context.document().setPreviousSelection(moved);
-    context.print(u"\n%1 object(s) changed from %2 space to %3 space."_s.arg(moved.size())
-                      .arg(isToSheet ? u"MODEL"_s : u"PAPER"_s, isToSheet ? u"PAPER"_s : u"MODEL"_s));
-    context.print(u"\nObjects were scaled by a factor of %1 to maintain visual appearance."_s.arg(
-        isToSheet ? seen.scale() : 1.0 / seen.scale()));
+    const QString told = isToSheet ? Commands::tr("\n%1 object(s) changed from MODEL space to PAPER space.")
+                                   : Commands::tr("\n%1 object(s) changed from PAPER space to MODEL space.");
+    context.print(told.arg(moved.size()));
+    context.print(Commands::tr("\nObjects were scaled by a factor of %1 to maintain visual appearance.")
+                      .arg(isToSheet ? seen.scale() : 1.0 / seen.scale()));
 }
 
 // From the sheet into the model that a viewport shows, or from there onto the sheet.
 CommandTask changeSpace(CommandContext &context)
 {
     if (context.document().variables().integer(u"TILEMODE") != 0) {
-        context.fail(u"Only a layout has both spaces."_s);
+        context.fail(Commands::tr("Only a layout has both spaces."));
         co_return;
     }
     const PromptReply chosen = co_await context.selection();

@@ -9,6 +9,7 @@
 #include "host/drawing/geometry/EntityGeometry.h"
 #include "host/drawing/geometry/TransformEntity.h"
 #include "host/kernel/documents/Document.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/running/CommandContext.h"
 
 #include <QSet>
@@ -86,8 +87,8 @@ drawing::StretchOutcome stretchOne(CommandContext &context, RecordId id, const S
 // By crossing windows or polygons: what lies within moves. What was chosen otherwise moves as a whole.
 CommandTask stretch(CommandContext &context)
 {
-    context.print(u"\nSelect objects to stretch by crossing-window or crossing-polygon..."_s);
-    const ObjectChoice chosen = co_await askObjects(context, u"Select objects: "_s);
+    context.print(Commands::tr("\nSelect objects to stretch by crossing-window or crossing-polygon..."));
+    const ObjectChoice chosen = co_await askObjects(context, Commands::tr("Select objects: "));
     const std::vector<RecordId> entities = editable(context, chosen.entities);
     if (entities.empty())
         co_return;
@@ -98,7 +99,7 @@ CommandTask stretch(CommandContext &context)
     for (const RecordId id : entities)
         refused += stretchOne(context, id, area, by) == drawing::StretchOutcome::Refused ? 1 : 0;
     if (refused > 0)
-        context.print(u"\n%1 could not be changed."_s.arg(refused));
+        context.print(Commands::tr("\n%1 could not be changed.").arg(refused));
 }
 
 } // namespace

@@ -5,6 +5,7 @@
 #include "host/kernel/documents/Document.h"
 #include "host/kernel/documents/Session.h"
 #include "host/kernel/input/InputFeeder.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/running/CommandContext.h"
 
 #include <QThread>
@@ -17,28 +18,29 @@ namespace {
 
 CommandTask loadMenu(CommandContext &context)
 {
-    const PromptReply file = co_await context.text(u"Enter name of customization file to load: "_s);
-    context.print(u"\n\"%1\" was not loaded: there are no menu files here."_s.arg(file.text));
+    const PromptReply file = co_await context.text(Commands::tr("Enter name of customization file to load: "));
+    context.print(Commands::tr("\n\"%1\" was not loaded: there are no menu files here.").arg(file.text));
 }
 
 CommandTask unloadMenu(CommandContext &context)
 {
-    const PromptReply name = co_await context.text(u"Enter name of customization group to unload: "_s);
-    context.print(u"\nThere is no customization group \"%1\"."_s.arg(name.text));
+    const PromptReply name = co_await context.text(Commands::tr("Enter name of customization group to unload: "));
+    context.print(Commands::tr("\nThere is no customization group \"%1\".").arg(name.text));
 }
 
 CommandTask loadAssembly(CommandContext &context)
 {
-    const PromptReply file = co_await context.text(u"Enter name of assembly to load: "_s);
-    context.print(u"\n\"%1\" was not loaded: programs for other hosts do not run here."_s.arg(file.text));
+    const PromptReply file = co_await context.text(Commands::tr("Enter name of assembly to load: "));
+    context.print(Commands::tr("\n\"%1\" was not loaded: programs for other hosts do not run here.").arg(file.text));
 }
 
 CommandTask loadRuntime(CommandContext &context)
 {
-    const PromptReply what = co_await context.keyword(u"Enter an option [?/Load/Unload/Commands/Options]: "_s);
+    const PromptReply what =
+        co_await context.keyword(Commands::tr("Enter an option [?/Load/Unload/Commands/Options]: "));
     if (what.text == u"Load"_s || what.text == u"Unload"_s)
-        co_await context.text(u"Enter name of application file: "_s);
-    context.print(u"\nPrograms for other hosts do not run here."_s);
+        co_await context.text(Commands::tr("Enter name of application file: "));
+    context.print(Commands::tr("\nPrograms for other hosts do not run here."));
 }
 
 CommandTask nothing(CommandContext &)
@@ -49,8 +51,8 @@ CommandTask nothing(CommandContext &)
 /// Milliseconds, in pieces between which the user may stop the run. Where nobody watches there is nothing to wait for.
 CommandTask delay(CommandContext &context)
 {
-    const PromptReply time =
-        co_await context.integer(u"Enter delay time (in milliseconds): "_s, {}, {}, NoEmptyAnswer | NoNegative);
+    const PromptReply time = co_await context.integer(Commands::tr("Enter delay time (in milliseconds): "), {}, {},
+                                                      NoEmptyAnswer | NoNegative);
     const InputFeeder *watcher = context.document().session().feeder();
     if (!watcher || !watcher->isAttended())
         co_return;

@@ -1,5 +1,6 @@
 #include "host/commands/Commands.h"
 #include "host/drawing/file/MendInPlace.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/running/CommandContext.h"
 
 #include <algorithm>
@@ -13,7 +14,8 @@ namespace {
 /// Prints what recovering the drawing would do to it, and does that where it is wanted.
 CommandTask audit(CommandContext &context)
 {
-    const PromptReply fix = co_await context.keyword(u"Fix any errors detected? [Yes/No] <No>: "_s, {}, u"No"_s);
+    const PromptReply fix =
+        co_await context.keyword(Commands::tr("Fix any errors detected? [Yes/No] <No>: "), {}, u"No"_s);
     const drawing::MendedInPlace mended = drawing::mendInPlace(context.drawing(), fix.text == u"Yes"_s);
     if (!mended.error.isEmpty()) {
         context.fail(mended.error);
@@ -23,9 +25,11 @@ CommandTask audit(CommandContext &context)
     if (!mended.report.isEmpty())
         for (const QString &line : mended.report.lines(mostTold))
             context.print(u'\n' + line);
-    context.print(u"\nTotal errors found %1 fixed %2"_s.arg(mended.found).arg(std::max(0, mended.found - mended.left)));
+    context.print(Commands::tr("\nTotal errors found %1 fixed %2")
+                      .arg(mended.found)
+                      .arg(std::max(0, mended.found - mended.left)));
     if (mended.left > 0 && fix.text == u"Yes"_s)
-        context.print(u"\nSave the drawing and open it with --recover: that mends the others."_s);
+        context.print(Commands::tr("\nSave the drawing and open it with --recover: that mends the others."));
 }
 
 } // namespace

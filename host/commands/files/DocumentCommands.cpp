@@ -4,6 +4,7 @@
 #include "host/commands/Commands.h"
 #include "host/commands/files/SaveDialogue.h"
 #include "host/kernel/documents/Session.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/running/CommandContext.h"
 #include "host/kernel/variables/SystemVariables.h"
 #include "host/lisp/Interpreter.h"
@@ -48,7 +49,7 @@ CommandTask openDrawing(CommandContext &context)
         wishesOf(context).add({DocumentWish::Kind::Open});
         co_return;
     }
-    const PromptReply file = co_await context.text(u"Enter name of drawing to open: "_s);
+    const PromptReply file = co_await context.text(Commands::tr("Enter name of drawing to open: "));
     if (!file.hasValue() || file.text.trimmed().isEmpty())
         co_return;
     if (file.text.trimmed() == u"~"_s && wishesOf(context).hasQuestion()) {
@@ -57,7 +58,7 @@ CommandTask openDrawing(CommandContext &context)
     }
     const QString path = drawingNamed(context.document(), file.text);
     if (path.isEmpty())
-        context.fail(u"Cannot find file \"%1\"."_s.arg(file.text.trimmed()));
+        context.fail(Commands::tr("Cannot find file \"%1\".").arg(file.text.trimmed()));
     else
         wishesOf(context).add({DocumentWish::Kind::Open, path});
 }
@@ -70,12 +71,13 @@ CommandTask newDrawingFrom(CommandContext &context)
         wishesOf(context).add({DocumentWish::Kind::New});
         co_return;
     }
-    const PromptReply name = co_await context.text(u"Enter template file name or [. (for none)] <.>: "_s, u"."_s);
+    const PromptReply name =
+        co_await context.text(Commands::tr("Enter template file name or [. (for none)] <.>: "), u"."_s);
     const QString typed = name.hasValue() ? name.text.trimmed() : u"."_s;
     const bool isNone = typed.isEmpty() || typed == u"."_s || typed.compare(u"none"_s, Qt::CaseInsensitive) == 0;
     const QString path = isNone ? QString() : drawingNamed(document, typed, document.session().home() + u"/Template"_s);
     if (!isNone && path.isEmpty())
-        context.fail(u"Cannot find template \"%1\"."_s.arg(typed));
+        context.fail(Commands::tr("Cannot find template \"%1\".").arg(typed));
     else
         wishesOf(context).add({DocumentWish::Kind::New, path});
 }
@@ -87,7 +89,7 @@ Dialogue<std::optional<DocumentWish>> askToClose(CommandContext &context, Docume
     DocumentWish wish{DocumentWish::Kind::Close, {}, &document};
     if (!document.isModified())
         co_return wish;
-    const QString question = u"Save changes to %1? [Yes/No/Cancel] <Yes>: "_s.arg(document.title());
+    const QString question = Commands::tr("Save changes to %1? [Yes/No/Cancel] <Yes>: ").arg(document.title());
     const PromptReply reply = co_await context.keyword(question, u"Yes No Cancel"_s, u"Yes"_s);
     if (reply.text == u"Cancel"_s)
         co_return std::nullopt;
@@ -129,8 +131,8 @@ CommandTask quit(CommandContext &context)
 {
     DocumentWish wish{DocumentWish::Kind::Quit, {}, &context.document()};
     if (context.document().isModified()) {
-        const PromptReply reply =
-            co_await context.keyword(u"Really want to discard all changes to drawing? [Yes/No] <No>: "_s, {}, u"No"_s);
+        const PromptReply reply = co_await context.keyword(
+            Commands::tr("Really want to discard all changes to drawing? [Yes/No] <No>: "), {}, u"No"_s);
         if (reply.text != u"Yes"_s)
             co_return;
         wish.changes = DocumentWish::Changes::Discard;

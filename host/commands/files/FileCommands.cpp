@@ -3,6 +3,7 @@
 #include "host/commands/files/SaveDialogue.h"
 #include "host/kernel/documents/Document.h"
 #include "host/kernel/documents/Session.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/running/CommandContext.h"
 #include "host/kernel/running/Dialogue.h"
 #include "host/kernel/variables/SystemVariables.h"
@@ -43,12 +44,13 @@ bool isOwnVersion(CommandContext &context, const QString &wanted)
     const drawing::Version own = context.drawing().version();
     const auto isOwn = [own](const FormatName &format) { return format.version == own; };
     const auto *format = std::ranges::find_if(formatNames, isOwn);
-    const QString name = format == std::end(formatNames) ? u"another version"_s : QString(format->name);
+    const QString name = format == std::end(formatNames) ? Commands::tr("another version") : QString(format->name);
     if (wanted == name)
         return true;
     context.fail(
-        u"This drawing is of %1, and this program writes no drawing in another version: nothing was written."_s.arg(
-            name));
+        Commands::tr(
+            "This drawing is of %1, and this program writes no drawing in another version: nothing was written.")
+            .arg(name));
     return false;
 }
 
@@ -57,12 +59,12 @@ bool isOwnVersion(CommandContext &context, const QString &wanted)
 Dialogue<std::optional<drawing::FileForm>> askDxfOptions(CommandContext &context)
 {
     for (;;) {
-        const PromptReply reply =
-            co_await context.integer(u"Enter decimal places of accuracy (0 to 16) or [Objects/Binary/Version] <16>: "_s,
-                                     {}, u"16"_s, NoNegative);
+        const PromptReply reply = co_await context.integer(
+            Commands::tr("Enter decimal places of accuracy (0 to 16) or [Objects/Binary/Version] <16>: "), {}, u"16"_s,
+            NoNegative);
         if (reply.isKeyword(u"Version")) {
             const PromptReply version =
-                co_await context.keyword(u"Enter version [%1]: "_s.arg(formatOptions().replace(u' ', u'/')));
+                co_await context.keyword(Commands::tr("Enter version [%1]: ").arg(formatOptions().replace(u' ', u'/')));
             if (version.hasValue() && !isOwnVersion(context, version.text))
                 co_return std::nullopt;
             continue;
@@ -70,7 +72,8 @@ Dialogue<std::optional<drawing::FileForm>> askDxfOptions(CommandContext &context
         if (reply.isKeyword(u"Binary"))
             co_return drawing::FileForm::Binary;
         if (reply.kind == ReplyKind::Keyword || (reply.hasValue() && reply.integer != 16)) {
-            context.fail(u"This program writes whole drawings with all decimal places: nothing was written."_s);
+            context.fail(
+                Commands::tr("This program writes whole drawings with all decimal places: nothing was written."));
             co_return std::nullopt;
         }
         co_return drawing::FileForm::Text;
@@ -98,9 +101,9 @@ Dialogue<std::optional<SaveTarget>> askSaveTarget(CommandContext &context, WhenE
     const Document &document = context.document();
     const QString usual = document.title();
     const QString path = document.path();
-    PromptReply reply = co_await context.text(
-        u"Save drawing as, or enter file format [%1/DXF] <%2>: "_s.arg(formatOptions().replace(u' ', u'/'), usual),
-        path, formatOptions() + u" DXF"_s);
+    PromptReply reply = co_await context.text(Commands::tr("Save drawing as, or enter file format [%1/DXF] <%2>: ")
+                                                  .arg(formatOptions().replace(u' ', u'/'), usual),
+                                              path, formatOptions() + u" DXF"_s);
     std::optional<drawing::FileForm> form = document.drawing().form();
     const bool isOwnVersionMeant = whenEmpty == WhenEmpty::OwnVersion && reply.isEmpty();
     if (reply.kind == ReplyKind::Keyword || isOwnVersionMeant) {
@@ -112,7 +115,7 @@ Dialogue<std::optional<SaveTarget>> askSaveTarget(CommandContext &context, WhenE
             form = std::nullopt;
         if (!form)
             co_return std::nullopt;
-        reply = co_await context.text(u"Save drawing as <%1>: "_s.arg(usual), path);
+        reply = co_await context.text(Commands::tr("Save drawing as <%1>: ").arg(usual), path);
     }
     const QString typed = reply.hasValue() ? reply.text.trimmed() : path;
     if (typed.isEmpty())
@@ -188,24 +191,24 @@ void pushScript(CommandContext &context, const QString &text, const QString &nam
     case InputQueue::ScriptOutcome::Taken:
         break;
     case InputQueue::ScriptOutcome::Replaced:
-        context.print(u"\nThe rest of the script that called it is left out."_s);
+        context.print(Commands::tr("\nThe rest of the script that called it is left out."));
         break;
     case InputQueue::ScriptOutcome::TooLong:
-        context.print(u"\nToo many scripts wait to be run: \"%1\" is left out."_s.arg(name));
+        context.print(Commands::tr("\nToo many scripts wait to be run: \"%1\" is left out.").arg(name));
     }
 }
 
 // File name; the lines of the file are typed from here on, before what was typed ahead.
 CommandTask script(CommandContext &context)
 {
-    const PromptReply name = co_await context.text(u"Enter script file name: "_s);
+    const PromptReply name = co_await context.text(Commands::tr("Enter script file name: "));
     const QString path = name.hasValue() ? scriptPath(context.document(), name.text.trimmed()) : QString();
     const files::WholeBytes file = files::readWhole(path, largestScript);
     if (!file) {
-        context.print(path.isEmpty()
-                          ? u"\nCannot read script \"%1\"."_s.arg(name.text)
-                          : u"\nCannot read script \"%1\": %2 (the limit is %3 MB)."_s.arg(name.text, file.reason)
-                                .arg(largestScript >> 20));
+        context.print(path.isEmpty() ? Commands::tr("\nCannot read script \"%1\".").arg(name.text)
+                                     : Commands::tr("\nCannot read script \"%1\": %2 (the limit is %3 MB).")
+                                           .arg(name.text, file.reason)
+                                           .arg(largestScript >> 20));
         co_return;
     }
     pushScript(context, QString::fromUtf8(file.bytes), name.text);
@@ -216,7 +219,7 @@ CommandTask repeatScript(CommandContext &context)
 {
     const QString last = context.document().session().input().lastScript();
     if (last.isEmpty())
-        context.fail(u"No script has been run."_s);
+        context.fail(Commands::tr("No script has been run."));
     else
         pushScript(context, last, u"RSCRIPT"_s);
     co_return;

@@ -3,6 +3,7 @@
 #include "host/drawing/geometry/EntityGeometry.h"
 #include "host/kernel/documents/CurrentSpace.h"
 #include "host/kernel/documents/Document.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/running/CommandContext.h"
 #include "host/kernel/running/Dialogue.h"
 #include "host/view/paint/PaperSizes.h"
@@ -25,7 +26,8 @@ using drawing::Vec3;
 Dialogue<bool> isYes(CommandContext &context, QString question, bool usual)
 {
     const QString shown = usual ? u"Yes"_s : u"No"_s;
-    const PromptReply reply = co_await context.keyword(u"%1 [Yes/No] <%2>: "_s.arg(question, shown), {}, shown);
+    const PromptReply reply =
+        co_await context.keyword(Commands::tr("%1 [Yes/No] <%2>: ").arg(question, shown), {}, shown);
     co_return reply.text.isEmpty() ? usual : reply.text == u"Yes"_s;
 }
 
@@ -33,7 +35,8 @@ Dialogue<bool> isYes(CommandContext &context, QString question, bool usual)
 Dialogue<QString> askListed(CommandContext &context, QString question, QString usual, QStringList choices)
 {
     for (;;) {
-        const PromptReply reply = co_await context.text(u"%1 or [?] <%2>: "_s.arg(question, usual), usual, u"?"_s);
+        const PromptReply reply =
+            co_await context.text(Commands::tr("%1 or [?] <%2>: ").arg(question, usual), usual, u"?"_s);
         if (reply.kind != ReplyKind::Keyword)
             co_return reply.hasValue() ? reply.text.trimmed() : usual;
         for (const QString &choice : choices)
@@ -63,10 +66,10 @@ Dialogue<std::optional<PlotRequest>> askLayout(CommandContext &context)
     for (const drawing::LayoutTab &tab : drawing::layoutTabs(context.drawing()))
         names.append(tab.name);
     const QString current = currentLayout(context.drawing());
-    const QString name = co_await askListed(context, u"Enter a layout name"_s, current, names);
+    const QString name = co_await askListed(context, Commands::tr("Enter a layout name"), current, names);
     const auto layout = drawing::findLayout(context.drawing(), name);
     if (!layout) {
-        context.fail(u"Layout \"%1\" not found."_s.arg(name));
+        context.fail(Commands::tr("Layout \"%1\" not found.").arg(name));
         co_return std::nullopt;
     }
     PlotRequest request;
@@ -77,10 +80,11 @@ Dialogue<std::optional<PlotRequest>> askLayout(CommandContext &context)
 /// False, with the command failed, for a device that there is not.
 Dialogue<bool> askDevice(CommandContext &context, PlotRequest *request)
 {
-    const QString device = co_await askListed(context, u"Enter an output device name"_s, u"PDF"_s, plotDevices());
+    const QString device =
+        co_await askListed(context, Commands::tr("Enter an output device name"), u"PDF"_s, plotDevices());
     request->extension = plotExtension(device);
     if (request->extension.isEmpty())
-        context.fail(u"There is no device \"%1\": plots are files of PDF, PNG or SVG."_s.arg(device));
+        context.fail(Commands::tr("There is no device \"%1\": plots are files of PDF, PNG or SVG.").arg(device));
     co_return !request->extension.isEmpty();
 }
 
@@ -95,19 +99,19 @@ Dialogue<bool> askPaper(CommandContext &context, PlotRequest *request)
 {
     const PageSetup page = drawing::readPageSetup(context.drawing(), request->layout);
     const QString usual = page.hasPaper() ? u"%1 x %2 MM"_s.arg(page.paper.x).arg(page.paper.y) : u"A4"_s;
-    const QString name = co_await askListed(context, u"Enter paper size"_s, usual, knownPapers());
+    const QString name = co_await askListed(context, Commands::tr("Enter paper size"), usual, knownPapers());
     if (name != usual)
         request->paper = view::plotterPaper(name);
     if (name != usual && !request->paper) {
-        context.fail(u"There is no paper size \"%1\"."_s.arg(name));
+        context.fail(Commands::tr("There is no paper size \"%1\".").arg(name));
         co_return false;
     }
-    const PromptReply units =
-        co_await context.keyword(u"Enter paper units [Inches/Millimeters] <Millimeters>: "_s, {}, u"Millimeters"_s);
+    const PromptReply units = co_await context.keyword(
+        Commands::tr("Enter paper units [Inches/Millimeters] <Millimeters>: "), {}, u"Millimeters"_s);
     const bool isAcross = !page.hasPaper() || page.paper.x > page.paper.y;
     const QString across = isAcross ? u"Landscape"_s : u"Portrait"_s;
-    const PromptReply held =
-        co_await context.keyword(u"Enter drawing orientation [Portrait/Landscape] <%1>: "_s.arg(across), {}, across);
+    const PromptReply held = co_await context.keyword(
+        Commands::tr("Enter drawing orientation [Portrait/Landscape] <%1>: ").arg(across), {}, across);
     const bool isWantedAcross = held.text.isEmpty() ? isAcross : held.text == u"Landscape"_s;
     if (!request->paper && isWantedAcross != isAcross && page.hasPaper())
         request->paper = QSizeF(page.paper.x, page.paper.y);
@@ -115,9 +119,9 @@ Dialogue<bool> askPaper(CommandContext &context, PlotRequest *request)
         turn(*request->paper, isWantedAcross);
     // Until the scale is known: how long a plotted unit is.
     request->scale = units.text == u"Inches"_s ? drawing::millimetresPerInch : 1.0;
-    const bool isUpsideDown = co_await isYes(context, u"Plot upside down?"_s, false);
+    const bool isUpsideDown = co_await isYes(context, Commands::tr("Plot upside down?"), false);
     if (isUpsideDown)
-        context.print(u"\nPlots stand upright here."_s);
+        context.print(Commands::tr("\nPlots stand upright here."));
     co_return true;
 }
 
@@ -135,8 +139,10 @@ Box shownArea(CommandContext &context)
 
 Dialogue<std::optional<Box>> askPlotWindow(CommandContext &context)
 {
-    const PromptReply low = co_await context.neededPoint(u"Enter lower left corner of window <0.000000,0.000000>: "_s);
-    const PromptReply high = co_await context.neededPoint(u"Enter upper right corner of window: "_s, low.point);
+    const PromptReply low =
+        co_await context.neededPoint(Commands::tr("Enter lower left corner of window <0.000000,0.000000>: "));
+    const PromptReply high =
+        co_await context.neededPoint(Commands::tr("Enter upper right corner of window: "), low.point);
     Box box;
     box.add(low.point);
     box.add(high.point);
@@ -156,18 +162,19 @@ Dialogue<bool> askArea(CommandContext &context, PlotRequest *request)
     const bool isModel = request->layout.isModel();
     const QString usual = isModel ? u"Display"_s : u"Layout"_s;
     const QString options = isModel ? u"Display/Extents/Limits/View/Window"_s : u"Display/Extents/Layout/View/Window"_s;
-    const PromptReply reply = co_await context.keyword(u"Enter plot area [%1] <%2>: "_s.arg(options, usual), {}, usual);
+    const PromptReply reply =
+        co_await context.keyword(Commands::tr("Enter plot area [%1] <%2>: ").arg(options, usual), {}, usual);
     const QString area = reply.text.isEmpty() ? usual : reply.text;
     const drawing::Drawing &drawing = context.drawing();
     request->area = areaNamed(area);
     if (area == u"Window") {
         request->window = co_await askPlotWindow(context);
     } else if (area == u"View") {
-        const PromptReply name = co_await context.text(u"Enter view name: "_s);
+        const PromptReply name = co_await context.text(Commands::tr("Enter view name: "));
         request->view = name.text.trimmed();
         request->window = drawing::namedView(drawing, request->view);
         if (!request->window)
-            context.fail(u"Cannot find view \"%1\"."_s.arg(name.text.trimmed()));
+            context.fail(Commands::tr("Cannot find view \"%1\".").arg(name.text.trimmed()));
     } else if (area == u"Extents") {
         request->window = drawing::spaceBox(drawing, drawing::layoutEntities(drawing, request->layout));
     } else if (area == u"Limits") {
@@ -191,17 +198,18 @@ Dialogue<bool> askScale(CommandContext &context, PlotRequest *request)
     const bool isFitting = page.scale <= 0.0;
     const QString usual = isFitting ? u"Fit"_s : u"%1=1"_s.arg(page.scale);
     const PromptReply reply = co_await context.text(
-        u"Enter plot scale (Plotted Millimeters=Drawing Units) or [Fit] <%1>: "_s.arg(usual), usual, u"Fit"_s);
+        Commands::tr("Enter plot scale (Plotted Millimeters=Drawing Units) or [Fit] <%1>: ").arg(usual), usual,
+        u"Fit"_s);
     request->scale.reset();
     const bool isFit = reply.kind == ReplyKind::Keyword || (!reply.hasValue() && isFitting);
     const QString typed = reply.hasValue() ? reply.text : usual;
     if (!isFit) {
         request->scale = plotScale(typed, reply.hasValue() ? unitSize : page.unitSize);
         if (!request->scale)
-            context.fail(u"\"%1\" is no plot scale."_s.arg(typed));
+            context.fail(Commands::tr("\"%1\" is no plot scale.").arg(typed));
     }
     const PromptReply offset =
-        co_await context.point(u"Enter plot offset (x,y) or [Center] <Center>: "_s, {}, {}, u"Center"_s);
+        co_await context.point(Commands::tr("Enter plot offset (x,y) or [Center] <Center>: "), {}, {}, u"Center"_s);
     if (isFit && std::exchange(request->isSheet, false) && page.area != drawing::PlotArea::Layout)
         request->window = drawing::layoutLimits(context.drawing(), request->layout);
     if (offset.hasValue())
@@ -211,25 +219,27 @@ Dialogue<bool> askScale(CommandContext &context, PlotRequest *request)
 
 Dialogue<bool> askLook(CommandContext &context, PlotRequest *request)
 {
-    request->withStyles = co_await isYes(context, u"Plot with plot styles?"_s, true);
+    request->withStyles = co_await isYes(context, Commands::tr("Plot with plot styles?"), true);
     if (request->withStyles) {
         const QString page = drawing::readPageSetup(context.drawing(), request->layout).styleSheet;
-        const QString name = co_await askListed(context, u"Enter plot style table name"_s, page, knownPlotTables());
+        const QString name =
+            co_await askListed(context, Commands::tr("Enter plot style table name"), page, knownPlotTables());
         request->withStyles = name != u".";
         request->styles = name == u"." || name == page ? QString() : name;
     }
-    request->withLineweights = co_await isYes(context, u"Plot with lineweights?"_s, true);
+    request->withLineweights = co_await isYes(context, Commands::tr("Plot with lineweights?"), true);
     if (request->layout.isModel()) {
         // Model space is plotted as lines, whatever the answer.
         co_await context.text(
-            u"Enter shade plot setting [As displayed/Wireframe/Hidden/Visual styles/Rendered] <As displayed>: "_s,
+            Commands::tr(
+                "Enter shade plot setting [As displayed/Wireframe/Hidden/Visual styles/Rendered] <As displayed>: "),
             u"As displayed"_s);
         co_return true;
     }
     // What sheets are plotted with is in their page setup; the answers are taken so that programs go on in step.
-    co_await isYes(context, u"Scale lineweights with plot scale?"_s, false);
-    co_await isYes(context, u"Plot paper space first?"_s, false);
-    co_await isYes(context, u"Hide paperspace objects?"_s, false);
+    co_await isYes(context, Commands::tr("Scale lineweights with plot scale?"), false);
+    co_await isYes(context, Commands::tr("Plot paper space first?"), false);
+    co_await isYes(context, Commands::tr("Hide paperspace objects?"), false);
     co_return true;
 }
 
@@ -245,17 +255,17 @@ QString usualPath(CommandContext &context, const PlotRequest &request)
 Dialogue<bool> askFile(CommandContext &context, PlotRequest *request, bool isDetailed)
 {
     const QString usual = usualPath(context, *request);
-    const PromptReply reply = co_await context.text(u"Enter file name <%1>: "_s.arg(usual), usual);
+    const PromptReply reply = co_await context.text(Commands::tr("Enter file name <%1>: ").arg(usual), usual);
     QString typed = reply.hasValue() ? reply.text.trimmed() : usual;
     typed.replace(u'\\', u'/');
     if (!typed.endsWith(u'.' + request->extension, Qt::CaseInsensitive))
         typed += u'.' + request->extension;
     request->path = QFileInfo(QDir::current(), typed).absoluteFilePath();
-    const bool isKept = co_await isYes(context, u"Save changes to page setup?"_s, false);
+    const bool isKept = co_await isYes(context, Commands::tr("Save changes to page setup?"), false);
     const QString problem = isKept && isDetailed ? keepPageSetup(context, *request) : QString();
     if (!problem.isEmpty())
         context.print(u'\n' + problem);
-    co_return co_await isYes(context, u"Proceed with plot"_s, true);
+    co_return co_await isYes(context, Commands::tr("Proceed with plot"), true);
 }
 
 Dialogue<bool> askDetails(CommandContext &context, PlotRequest *request)
@@ -278,13 +288,13 @@ Dialogue<bool> askDetails(CommandContext &context, PlotRequest *request)
 /// As the page setup has it.
 Dialogue<bool> askBriefly(CommandContext &context, PlotRequest *request)
 {
-    co_await context.text(u"Enter a page setup name <>: "_s);
+    co_await context.text(Commands::tr("Enter a page setup name <>: "));
     co_return co_await askDevice(context, request);
 }
 
 CommandTask plot(CommandContext &context)
 {
-    const bool isDetailed = co_await isYes(context, u"Detailed plot configuration?"_s, false);
+    const bool isDetailed = co_await isYes(context, Commands::tr("Detailed plot configuration?"), false);
     std::optional<PlotRequest> request = co_await askLayout(context);
     if (!request)
         co_return;
@@ -301,7 +311,7 @@ CommandTask plot(CommandContext &context)
     if (const QString problem = writePlot(context, *request); !problem.isEmpty())
         context.fail(problem);
     else
-        context.print(u"\nPlotted to %1."_s.arg(request->path));
+        context.print(Commands::tr("\nPlotted to %1.").arg(request->path));
 }
 
 } // namespace

@@ -6,6 +6,7 @@
 #include "host/kernel/documents/Document.h"
 #include "host/kernel/documents/ExpressionSurroundings.h"
 #include "host/kernel/documents/Session.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/running/CommandContext.h"
 #include "host/view/paint/Export.h"
 
@@ -27,7 +28,7 @@ QString choosePlotTable(CommandContext &context, const QString &name, view::Expo
     else
         reading.table = drawing::builtInPlotStyles(name);
     if (!reading.table)
-        return path.isEmpty() ? u"Cannot find plot style table \"%1\"."_s.arg(name)
+        return path.isEmpty() ? Commands::tr("Cannot find plot style table \"%1\".").arg(name)
                               : u"%1: %2"_s.arg(path, reading.error);
     how.plotStyles = std::make_shared<drawing::PlotStyleTable>(*std::move(reading.table));
     how.withPlotStyles = false;
@@ -40,7 +41,7 @@ void tellIncomplete(CommandContext &context, const view::ExportResult &written)
         if (!page.lack.isEmpty())
             context.print(u'\n' + files::visibleText(page.lack));
     if (!written.report.isWhole())
-        context.print(u"\nSome of what the drawing holds is not drawn, or in part."_s);
+        context.print(Commands::tr("\nSome of what the drawing holds is not drawn, or in part."));
 }
 
 } // namespace

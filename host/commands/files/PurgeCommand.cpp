@@ -3,6 +3,7 @@
 #include "host/drawing/editing/UnusedNames.h"
 #include "host/drawing/records/Entities.h"
 #include "host/drawing/selection/Wildcard.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/running/CommandContext.h"
 #include "host/kernel/running/Dialogue.h"
 
@@ -36,9 +37,9 @@ struct Choice
 
 Dialogue<bool> confirm(CommandContext &context, NamedKind kind, const NamedThing &thing)
 {
-    const QString one = drawing::kindName(kind).chopped(1);
+    const QString one = drawing::kindNameOfOne(kind);
     const PromptReply answer =
-        co_await context.keyword(u"Purge %1 \"%2\"? [Yes/No] <No>: "_s.arg(one, thing.name), {}, u"No"_s);
+        co_await context.keyword(Commands::tr("Purge %1 \"%2\"? [Yes/No] <No>: ").arg(one, thing.name), {}, u"No"_s);
     co_return answer.text == u"Yes"_s;
 }
 
@@ -57,7 +58,7 @@ Dialogue<bool> purgeKind(CommandContext &context, NamedKind kind, Choice &choice
             choice.staying.insert(thing.record);
             continue;
         }
-        context.print(u"\nDeleting %1 \"%2\"."_s.arg(drawing::kindName(kind).chopped(1), thing.name));
+        context.print(Commands::tr("\nDeleting %1 \"%2\".").arg(drawing::kindNameOfOne(kind), thing.name));
         doomed.push_back(thing);
         ++choice.count;
     }
@@ -68,9 +69,9 @@ Dialogue<bool> purgeKind(CommandContext &context, NamedKind kind, Choice &choice
 
 Dialogue<Choice> askChoice(CommandContext &context)
 {
-    const PromptReply names = co_await context.text(u"Enter name(s) to purge <*>: "_s, u"*"_s);
+    const PromptReply names = co_await context.text(Commands::tr("Enter name(s) to purge <*>: "), u"*"_s);
     const PromptReply verify =
-        co_await context.keyword(u"Verify each name to be purged? [Yes/No] <Yes>: "_s, {}, u"Yes"_s);
+        co_await context.keyword(Commands::tr("Verify each name to be purged? [Yes/No] <Yes>: "), {}, u"Yes"_s);
     co_return Choice{names.hasValue() ? names.text.trimmed() : u"*"_s, verify.text != u"No"_s};
 }
 
@@ -86,7 +87,7 @@ Dialogue<bool> purgeAll(CommandContext &context)
         }
     }
     if (choice.count == 0 && choice.staying.isEmpty())
-        context.print(u"\nNothing unreferenced found."_s);
+        context.print(Commands::tr("\nNothing unreferenced found."));
     co_return true;
 }
 
@@ -116,7 +117,7 @@ bool isEmptyText(const drawing::Drawing &drawing, RecordId id)
     return content.trimmed().isEmpty();
 }
 
-void purgeEntities(CommandContext &context, bool (*isWanted)(const drawing::Drawing &, RecordId), const QString &what)
+void purgeEntities(CommandContext &context, bool (*isWanted)(const drawing::Drawing &, RecordId), const QString &told)
 {
     drawing::Drawing &drawing = context.drawing();
     std::vector<RecordId> found;
@@ -125,7 +126,7 @@ void purgeEntities(CommandContext &context, bool (*isWanted)(const drawing::Draw
             found.push_back(id);
     found = editable(context, std::move(found));
     eraseAll(context, found);
-    context.print(u"\n%1 %2 deleted."_s.arg(found.size()).arg(what));
+    context.print(told.arg(found.size()));
 }
 
 /// Objects whose owner is not there any more, and what they own.
@@ -149,7 +150,7 @@ void purgeOrphans(CommandContext &context)
             drawing.setErased(id, true);
         count += int(orphans.size());
     }
-    context.print(u"\n%1 orphaned objects deleted."_s.arg(count));
+    context.print(Commands::tr("\n%1 orphaned objects deleted.").arg(count));
 }
 
 Dialogue<bool> purgeOption(CommandContext &context, const QString &option)
@@ -157,9 +158,9 @@ Dialogue<bool> purgeOption(CommandContext &context, const QString &option)
     if (option == u"All")
         co_return co_await purgeAll(context);
     if (option == u"Zero-length") {
-        purgeEntities(context, isWithoutLength, u"entities without length"_s);
+        purgeEntities(context, isWithoutLength, Commands::tr("\n%1 entities without length deleted."));
     } else if (option == u"Empty") {
-        purgeEntities(context, isEmptyText, u"empty texts"_s);
+        purgeEntities(context, isEmptyText, Commands::tr("\n%1 empty texts deleted."));
     } else if (option == u"Orphaned") {
         purgeOrphans(context);
     } else {
@@ -168,7 +169,7 @@ Dialogue<bool> purgeOption(CommandContext &context, const QString &option)
         Choice choice = co_await askChoice(context);
         co_await purgeKind(context, kind, choice);
         if (choice.count == 0 && choice.staying.isEmpty())
-            context.print(u"\nNo unreferenced %1 found."_s.arg(drawing::kindName(kind)));
+            context.print(Commands::tr("\nNo unreferenced %1 found.").arg(drawing::kindName(kind)));
     }
     co_return true;
 }
@@ -176,10 +177,10 @@ Dialogue<bool> purgeOption(CommandContext &context, const QString &option)
 // What to purge, names, and whether each is to be confirmed.
 CommandTask purge(CommandContext &context)
 {
-    const PromptReply what = co_await context.keyword(
-        u"Enter type of unused objects to purge [Blocks/DEtailviewstyles/Dimstyles/Groups/LAyers/LTypes/MAterials/"
+    const PromptReply what = co_await context.keyword(Commands::tr(
+        "Enter type of unused objects to purge [Blocks/DEtailviewstyles/Dimstyles/Groups/LAyers/LTypes/MAterials/"
         "MUltileaderstyles/Plotstyles/SHapes/textSTyles/Mlinestyles/SEctionviewstyles/Tablestyles/Visualstyles/Regapps/"
-        "Zero-length geometry/Empty text objects/Orphaned data/All]: "_s);
+        "Zero-length geometry/Empty text objects/Orphaned data/All]: "));
     if (what.hasValue())
         co_await purgeOption(context, what.text);
 }

@@ -4,6 +4,7 @@
 #include "host/kernel/documents/CommandMemory.h"
 #include "host/kernel/documents/Document.h"
 #include "host/kernel/documents/Session.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/running/CommandContext.h"
 
 using namespace Qt::StringLiterals;
@@ -23,38 +24,40 @@ struct RenameKind
 };
 
 constexpr RenameKind renameKinds[] = {
-    {u"Block", "block", TableKind::BlockRecord, {}},
-    {u"Dimstyle", "dimension style", TableKind::DimStyle, {}},
-    {u"LAyer", "layer", TableKind::Layer, {}},
-    {u"LType", "linetype", TableKind::Linetype, {}},
-    {u"Material", "material", {}, u"ACAD_MATERIAL"},
-    {u"multileadersTyle", "multileader style", {}, u"ACAD_MLEADERSTYLE"},
-    {u"Style", "text style", TableKind::Style, {}},
-    {u"Tablestyle", "table style", {}, u"ACAD_TABLESTYLE"},
-    {u"Ucs", "UCS", TableKind::Ucs, {}},
-    {u"VIew", "view", TableKind::View, {}},
-    {u"VPort", "viewport", TableKind::Viewport, {}},
-    {u"LAYOut", "layout", {}, {}},
+    {u"Block", QT_TRANSLATE_NOOP("Commands", "block"), TableKind::BlockRecord, {}},
+    {u"Dimstyle", QT_TRANSLATE_NOOP("Commands", "dimension style"), TableKind::DimStyle, {}},
+    {u"LAyer", QT_TRANSLATE_NOOP("Commands", "layer"), TableKind::Layer, {}},
+    {u"LType", QT_TRANSLATE_NOOP("Commands", "linetype"), TableKind::Linetype, {}},
+    {u"Material", QT_TRANSLATE_NOOP("Commands", "material"), {}, u"ACAD_MATERIAL"},
+    {u"multileadersTyle", QT_TRANSLATE_NOOP("Commands", "multileader style"), {}, u"ACAD_MLEADERSTYLE"},
+    {u"Style", QT_TRANSLATE_NOOP("Commands", "text style"), TableKind::Style, {}},
+    {u"Tablestyle", QT_TRANSLATE_NOOP("Commands", "table style"), {}, u"ACAD_TABLESTYLE"},
+    {u"Ucs", QT_TRANSLATE_NOOP("Commands", "UCS"), TableKind::Ucs, {}},
+    {u"VIew", QT_TRANSLATE_NOOP("Commands", "view"), TableKind::View, {}},
+    {u"VPort", QT_TRANSLATE_NOOP("Commands", "viewport"), TableKind::Viewport, {}},
+    {u"LAYOut", QT_TRANSLATE_NOOP("Commands", "layout"), {}, {}},
 };
 
 QString renameSheet(CommandContext &context, const QString &from, const QString &to)
 {
     const auto layout = drawing::findLayout(context.drawing(), from);
-    return layout ? drawing::renameLayout(context.drawing(), *layout, to) : u"Layout \"%1\" not found."_s.arg(from);
+    return layout ? drawing::renameLayout(context.drawing(), *layout, to)
+                  : Commands::tr("Layout \"%1\" not found.").arg(from);
 }
 
 CommandTask rename(CommandContext &context)
 {
     const PromptReply option = co_await context.keyword(
-        u"Enter object type to rename [Block/Dimstyle/LAyer/LType/Material/multileadersTyle/Style/Tablestyle/Ucs/VIew/"
-        "VPort]: "_s,
+        Commands::tr("Enter object type to rename "
+                     "[Block/Dimstyle/LAyer/LType/Material/multileadersTyle/Style/Tablestyle/Ucs/VIew/"
+                     "VPort]: "),
         u"Block Dimstyle LAyer LType,LT Material multileadersTyle,MU Style Tablestyle Ucs VIew VPort LAYOut,LAYO"_s);
     const auto *kind = std::ranges::find(renameKinds, QStringView(option.text), &RenameKind::option);
     if (kind == std::end(renameKinds))
         co_return;
-    const QString what = QLatin1StringView(kind->what);
-    const PromptReply from = co_await context.text(u"Enter old %1 name: "_s.arg(what));
-    const PromptReply to = co_await context.text(u"Enter new %1 name: "_s.arg(what));
+    const QString what = Commands::tr(kind->what);
+    const PromptReply from = co_await context.text(Commands::tr("Enter old %1 name: ").arg(what));
+    const PromptReply to = co_await context.text(Commands::tr("Enter new %1 name: ").arg(what));
     const QString before = from.text.trimmed();
     const QString after = to.text.trimmed();
     QString problem;
@@ -71,10 +74,10 @@ CommandTask rename(CommandContext &context)
 /// The name as the table of commands has it; empty, with the reason printed, for none.
 Dialogue<QString> askCommandName(CommandContext &context)
 {
-    const PromptReply reply = co_await context.name(u"Enter command name: "_s);
+    const PromptReply reply = co_await context.name(Commands::tr("Enter command name: "));
     const CommandRow *row = CommandTable::find(reply.text);
     if (!row)
-        context.fail(u"Unknown command \"%1\"."_s.arg(reply.text));
+        context.fail(Commands::tr("Unknown command \"%1\".").arg(reply.text));
     co_return row ? QString::fromLatin1(row->name) : QString();
 }
 
@@ -89,7 +92,7 @@ CommandTask redefine(CommandContext &context)
 {
     const QString name = co_await askCommandName(context);
     if (!name.isEmpty() && !context.document().session().undefinedCommands().remove(name))
-        context.print(u"\n%1 is a command already."_s.arg(name));
+        context.print(Commands::tr("\n%1 is a command already.").arg(name));
 }
 
 } // namespace

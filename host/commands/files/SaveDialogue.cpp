@@ -1,6 +1,7 @@
 #include "host/commands/files/SaveDialogue.h"
 
 #include "host/kernel/documents/Session.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/running/CommandContext.h"
 #include "host/kernel/variables/SystemVariables.h"
 
@@ -15,7 +16,7 @@ namespace {
 
 void tell(CommandContext &context, const drawing::SaveResult &result, const QString &path)
 {
-    context.print(result ? u"\nSaved to %1."_s.arg(path) : u'\n' + result.error);
+    context.print(result ? Commands::tr("\nSaved to %1.").arg(path) : u'\n' + result.error);
 }
 
 /// Whether a save under this path would go over another file that is not to go unasked.
@@ -26,7 +27,8 @@ bool replacesOther(const Document &document, const QString &path)
 
 CommandContext::Reply askToReplace(CommandContext &context, const QString &path)
 {
-    return context.keyword(u"%1 already exists. Replace it? [Yes/No] <No>: "_s.arg(path), u"Yes No"_s, u"No"_s);
+    return context.keyword(Commands::tr("%1 already exists. Replace it? [Yes/No] <No>: ").arg(path), u"Yes No"_s,
+                           u"No"_s);
 }
 
 /// What the user wants of a file that should not be written unasked.
@@ -45,15 +47,16 @@ Dialogue<Wish> askAboutObstacle(CommandContext &context, const WriteObstacle &ob
     // Told at once: a run that nobody watches ends at the question.
     session.tellNotWritten(obstacle.text);
     const QString options = obstacle.mayBeOverruled() ? u"Anyway Name Cancel"_s : u"Name Cancel"_s;
-    const QString prompt = obstacle.mayBeOverruled()
-                               ? u"Save all the same, or under another name? [Anyway/Name/Cancel] <Cancel>: "_s
-                               : u"Save under another name? [Name/Cancel] <Cancel>: "_s;
+    const QString prompt =
+        obstacle.mayBeOverruled()
+            ? Commands::tr("Save all the same, or under another name? [Anyway/Name/Cancel] <Cancel>: ")
+            : Commands::tr("Save under another name? [Name/Cancel] <Cancel>: ");
     const PromptReply reply = co_await context.keyword(prompt, options, u"Cancel"_s);
     const Wish wish = reply.text == u"Anyway"_s ? Wish::Write
                       : reply.text == u"Name"_s ? Wish::OtherName
                                                 : Wish::Nothing;
     if (wish == Wish::Nothing)
-        context.fail(u"Nothing was written."_s);
+        context.fail(Commands::tr("Nothing was written."));
     else
         session.forgetNotWritten(obstacle.text);
     co_return wish;
@@ -76,7 +79,7 @@ QString drawingPath(const QString &typed)
 
 Dialogue<std::optional<QString>> askName(CommandContext &context)
 {
-    const PromptReply name = co_await context.text(u"Save drawing as: "_s);
+    const PromptReply name = co_await context.text(Commands::tr("Save drawing as: "));
     const QString typed = name.hasValue() ? name.text.trimmed() : QString();
     co_return typed.isEmpty() ? std::nullopt : std::optional(drawingPath(typed));
 }

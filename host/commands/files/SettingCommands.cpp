@@ -3,6 +3,7 @@
 #include "host/commands/Commands.h"
 #include "host/commands/common/PropertyValues.h"
 #include "host/kernel/documents/Document.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/running/CommandContext.h"
 #include "host/kernel/running/Dialogue.h"
 #include "host/kernel/variables/SystemVariables.h"
@@ -16,7 +17,7 @@ namespace {
 void setSetting(CommandContext &context, QStringView variable, const VariableValue &value)
 {
     if (context.document().variables().set(variable, value) != SetOutcome::Done)
-        context.fail(u"%1 cannot be set to that value."_s.arg(variable));
+        context.fail(Commands::tr("%1 cannot be set to that value.").arg(variable));
 }
 
 /// ON or OFF, or as the variable has it; an empty answer leaves it.
@@ -25,7 +26,7 @@ Dialogue<bool> askSwitch(CommandContext &context, QString variable)
     const bool isOn = context.document().variables().integer(variable) != 0;
     const QString usual = isOn ? u"ON"_s : u"OFF"_s;
     const PromptReply reply =
-        co_await context.keyword(u"Enter mode [ON/OFF] <%1>: "_s.arg(usual), u"ON OFF 1 0"_s, usual);
+        co_await context.keyword(Commands::tr("Enter mode [ON/OFF] <%1>: ").arg(usual), u"ON OFF 1 0"_s, usual);
     if (reply.hasValue())
         setSetting(context, variable, qint32(reply.isKeyword(u"ON") || reply.isKeyword(u"1")));
     co_return true;
@@ -55,25 +56,27 @@ CommandTask regenerateAlone(CommandContext &context)
 Dialogue<drawing::Vec2> askBothSpacings(CommandContext &context, drawing::Vec2 now)
 {
     const QString shownX = context.shownLength(now.x);
-    const PromptReply x =
-        co_await context.distance(u"Specify horizontal spacing(X) <%1>: "_s.arg(shownX), {}, {}, shownX, NoNegative);
+    const PromptReply x = co_await context.distance(Commands::tr("Specify horizontal spacing(X) <%1>: ").arg(shownX),
+                                                    {}, {}, shownX, NoNegative);
     const QString shownY = context.shownLength(now.y);
-    const PromptReply y =
-        co_await context.distance(u"Specify vertical spacing(Y) <%1>: "_s.arg(shownY), {}, {}, shownY, NoNegative);
+    const PromptReply y = co_await context.distance(Commands::tr("Specify vertical spacing(Y) <%1>: ").arg(shownY), {},
+                                                    {}, shownY, NoNegative);
     co_return drawing::Vec2{x.hasValue() ? x.real : now.x, y.hasValue() ? y.real : now.y};
 }
 
 /// What a spacing is for: the grid that is shown, or the one that points snap to.
 struct SpacingSetting
 {
-    QStringView question;
+    const char *question;
     QStringView mode; ///< the variables
     QStringView unit;
 };
 
-constexpr SpacingSetting gridSpacing = {u"Specify grid spacing(X) or [ON/OFF/Snap/Aspect]", u"GRIDMODE", u"GRIDUNIT"};
-constexpr SpacingSetting snapSpacing = {u"Specify snap spacing or [ON/OFF/Aspect/Rotate/Style/Type]", u"SNAPMODE",
-                                        u"SNAPUNIT"};
+constexpr SpacingSetting gridSpacing = {
+    QT_TRANSLATE_NOOP("Commands", "Specify grid spacing(X) or [ON/OFF/Snap/Aspect]"), u"GRIDMODE", u"GRIDUNIT"};
+constexpr SpacingSetting snapSpacing = {
+    QT_TRANSLATE_NOOP("Commands", "Specify snap spacing or [ON/OFF/Aspect/Rotate/Style/Type]"), u"SNAPMODE",
+    u"SNAPUNIT"};
 
 /// A spacing, which switches it on as well, or ON, OFF, Aspect. Another option is given back.
 Dialogue<QString> askSpacing(CommandContext &context, SpacingSetting setting)
@@ -81,7 +84,7 @@ Dialogue<QString> askSpacing(CommandContext &context, SpacingSetting setting)
     drawing::Vec2 spacing = context.document().variables().point(setting.unit).xy();
     const QString shown = context.shownLength(spacing.x);
     const PromptReply reply =
-        co_await context.distance(u"%1 <%2>: "_s.arg(setting.question, shown), {}, {}, shown, NoNegative);
+        co_await context.distance(u"%1 <%2>: "_s.arg(Commands::tr(setting.question), shown), {}, {}, shown, NoNegative);
     const bool isSwitch = reply.isKeyword(u"ON") || reply.isKeyword(u"OFF");
     if (isSwitch)
         setSetting(context, setting.mode, qint32(reply.isKeyword(u"ON")));
@@ -111,9 +114,11 @@ Dialogue<bool> askSnapRotation(CommandContext &context)
     const SystemVariables &variables = context.document().variables();
     const drawing::Vec3 base = variables.point(u"SNAPBASE");
     const QString shown = u"%1,%2"_s.arg(context.shownLength(base.x), context.shownLength(base.y));
-    const PromptReply point = co_await context.point(u"Specify base point <%1>: "_s.arg(shown), {}, {}, shown);
+    const PromptReply point =
+        co_await context.point(Commands::tr("Specify base point <%1>: ").arg(shown), {}, {}, shown);
     const QString turn = context.shownAngle(variables.real(u"SNAPANG"));
-    const PromptReply angle = co_await context.angle(u"Specify rotation angle <%1>: "_s.arg(turn), {}, {}, turn);
+    const PromptReply angle =
+        co_await context.angle(Commands::tr("Specify rotation angle <%1>: ").arg(turn), {}, {}, turn);
     if (point.hasValue())
         setSetting(context, u"SNAPBASE", context.document().userAxes().inverted().point(point.point).xy());
     if (angle.hasValue())
@@ -126,10 +131,11 @@ Dialogue<bool> askSnapStyle(CommandContext &context)
 {
     const bool wasIsometric = context.document().variables().integer(u"SNAPSTYL") != 0;
     const QString usual = wasIsometric ? u"Isometric"_s : u"Standard"_s;
-    const PromptReply style =
-        co_await context.keyword(u"Enter snap grid style [Standard/Isometric] <%1>: "_s.arg(usual), {}, usual);
+    const PromptReply style = co_await context.keyword(
+        Commands::tr("Enter snap grid style [Standard/Isometric] <%1>: ").arg(usual), {}, usual);
     const bool isIsometric = style.hasValue() ? style.isKeyword(u"Isometric") : wasIsometric;
-    const QStringView question = isIsometric ? u"Specify vertical spacing" : u"Specify snap spacing or [Aspect]";
+    const char *question = isIsometric ? QT_TRANSLATE_NOOP("Commands", "Specify vertical spacing")
+                                       : QT_TRANSLATE_NOOP("Commands", "Specify snap spacing or [Aspect]");
     co_await askSpacing(context, {question, u"SNAPMODE", u"SNAPUNIT"});
     setSetting(context, u"SNAPSTYL", qint32(isIsometric));
     co_return true;
@@ -138,7 +144,8 @@ Dialogue<bool> askSnapStyle(CommandContext &context)
 Dialogue<bool> askSnapType(CommandContext &context)
 {
     const QString usual = context.document().variables().integer(u"SNAPTYPE") != 0 ? u"Polar"_s : u"Grid"_s;
-    const PromptReply type = co_await context.keyword(u"Enter snap type [Polar/Grid] <%1>: "_s.arg(usual), {}, usual);
+    const PromptReply type =
+        co_await context.keyword(Commands::tr("Enter snap type [Polar/Grid] <%1>: ").arg(usual), {}, usual);
     if (type.hasValue())
         setSetting(context, u"SNAPTYPE", qint32(type.isKeyword(u"Polar")));
     co_return true;
@@ -161,11 +168,11 @@ CommandTask isometricPlane(CommandContext &context)
     static const QStringList planes = {u"Left"_s, u"Top"_s, u"Right"_s};
     const qsizetype now = context.document().variables().integer(u"SNAPISOPAIR");
     const QString next = planes[(now + 1) % planes.size()];
-    const PromptReply reply =
-        co_await context.keyword(u"Enter isometric plane setting [Left/Top/Right] <%1>: "_s.arg(next), {}, next);
+    const PromptReply reply = co_await context.keyword(
+        Commands::tr("Enter isometric plane setting [Left/Top/Right] <%1>: ").arg(next), {}, next);
     const QString plane = reply.hasValue() ? reply.text : next;
     setSetting(context, u"SNAPISOPAIR", qint32(planes.indexOf(plane)));
-    context.print(u"\nCurrent Isoplane: "_s + plane);
+    context.print(Commands::tr("\nCurrent Isoplane: ") + plane);
 }
 
 CommandTask limits(CommandContext &context)
@@ -175,15 +182,15 @@ CommandTask limits(CommandContext &context)
         return u"%1,%2"_s.arg(context.shownLength(point.x), context.shownLength(point.y));
     };
     const QString low = shown(variables.point(u"LIMMIN"));
-    const PromptReply first =
-        co_await context.point(u"Specify lower left corner or [ON/OFF] <%1>: "_s.arg(low), {}, {}, low, OutsideLimits);
+    const PromptReply first = co_await context.point(
+        Commands::tr("Specify lower left corner or [ON/OFF] <%1>: ").arg(low), {}, {}, low, OutsideLimits);
     if (first.kind == ReplyKind::Keyword) {
         setSetting(context, u"LIMCHECK", qint32(first.isKeyword(u"ON")));
         co_return;
     }
     const QString high = shown(variables.point(u"LIMMAX"));
-    const PromptReply second =
-        co_await context.point(u"Specify upper right corner <%1>: "_s.arg(high), {}, {}, high, OutsideLimits);
+    const PromptReply second = co_await context.point(Commands::tr("Specify upper right corner <%1>: ").arg(high), {},
+                                                      {}, high, OutsideLimits);
     if (first.hasValue())
         setSetting(context, u"LIMMIN", first.point.xy());
     if (second.hasValue())
@@ -195,10 +202,10 @@ CommandTask elevation(CommandContext &context)
     const SystemVariables &variables = context.document().variables();
     const QString height = context.shownLength(variables.real(u"ELEVATION"));
     const PromptReply up =
-        co_await context.distance(u"Specify new default elevation <%1>: "_s.arg(height), {}, {}, height);
+        co_await context.distance(Commands::tr("Specify new default elevation <%1>: ").arg(height), {}, {}, height);
     const QString thickness = context.shownLength(variables.real(u"THICKNESS"));
-    const PromptReply thick =
-        co_await context.distance(u"Specify new default thickness <%1>: "_s.arg(thickness), {}, {}, thickness);
+    const PromptReply thick = co_await context.distance(
+        Commands::tr("Specify new default thickness <%1>: ").arg(thickness), {}, {}, thickness);
     if (up.hasValue())
         setSetting(context, u"ELEVATION", up.real);
     if (thick.hasValue())
@@ -209,9 +216,9 @@ CommandTask colour(CommandContext &context)
 {
     const QString now = context.document().variables().text(u"CECOLOR");
     const PromptReply reply =
-        co_await context.name(u"Enter default object color [Truecolor/COlorbook] <%1>: "_s.arg(now), now);
+        co_await context.name(Commands::tr("Enter default object color [Truecolor/COlorbook] <%1>: ").arg(now), now);
     if (reply.kind == ReplyKind::Keyword)
-        context.fail(u"New objects take colors by number or name here."_s);
+        context.fail(Commands::tr("New objects take colors by number or name here."));
     if (!reply.hasValue())
         co_return;
     const int number = colourNumber(reply.text);

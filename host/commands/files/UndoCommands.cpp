@@ -1,6 +1,7 @@
 #include "host/commands/Commands.h"
 #include "host/drawing/records/Dictionaries.h"
 #include "host/kernel/documents/Document.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/running/CommandContext.h"
 #include "host/kernel/running/Dialogue.h"
 
@@ -26,7 +27,7 @@ void takeBack(CommandContext &context, int count)
     if (!names.isEmpty())
         context.print(u'\n' + names.join(u' '));
     if (names.size() < count)
-        context.print(u"\nEverything has been undone."_s);
+        context.print(Commands::tr("\nEverything has been undone."));
 }
 
 CommandTask undoOne(CommandContext &context)
@@ -39,17 +40,17 @@ CommandTask undoOne(CommandContext &context)
 Dialogue<bool> askSetting(CommandContext &context, bool isAuto)
 {
     if (isAuto) {
-        co_await context.keyword(u"Enter UNDO Auto mode [ON/OFF] <ON>: "_s, {}, u"ON"_s);
+        co_await context.keyword(Commands::tr("Enter UNDO Auto mode [ON/OFF] <ON>: "), {}, u"ON"_s);
         co_return true;
     }
-    const PromptReply control =
-        co_await context.keyword(u"Enter an UNDO control option [All/None/One/Combine/Layer] <All>: "_s, {}, u"All"_s);
+    const PromptReply control = co_await context.keyword(
+        Commands::tr("Enter an UNDO control option [All/None/One/Combine/Layer] <All>: "), {}, u"All"_s);
     if (control.text == u"Combine"_s)
-        co_await context.keyword(u"Combine zoom and pan operations? [Yes/No] <Yes>: "_s, {}, u"Yes"_s);
+        co_await context.keyword(Commands::tr("Combine zoom and pan operations? [Yes/No] <Yes>: "), {}, u"Yes"_s);
     else if (control.text == u"Layer"_s)
-        co_await context.keyword(u"Combine layer property changes? [Yes/No] <Yes>: "_s, {}, u"Yes"_s);
+        co_await context.keyword(Commands::tr("Combine layer property changes? [Yes/No] <Yes>: "), {}, u"Yes"_s);
     else if (control.text == u"None"_s || control.text == u"One"_s)
-        context.print(u"\nUndo is always on."_s);
+        context.print(Commands::tr("\nUndo is always on."));
     co_return true;
 }
 
@@ -59,7 +60,7 @@ Dialogue<bool> goBack(CommandContext &context)
     UndoSteps &steps = context.document().undoSteps();
     if (!steps.hasMark()) {
         const PromptReply sure =
-            co_await context.keyword(u"This will undo everything. OK? [Yes/No] <Yes>: "_s, {}, u"Yes"_s);
+            co_await context.keyword(Commands::tr("This will undo everything. OK? [Yes/No] <Yes>: "), {}, u"Yes"_s);
         if (sure.text == u"No"_s)
             co_return false;
     }
@@ -71,7 +72,7 @@ Dialogue<bool> goBack(CommandContext &context)
 CommandTask undo(CommandContext &context)
 {
     const PromptReply reply = co_await context.integer(
-        u"Enter the number of operations to undo or [Auto/Control/BEgin/End/Mark/Back] <1>: "_s,
+        Commands::tr("Enter the number of operations to undo or [Auto/Control/BEgin/End/Mark/Back] <1>: "),
         u"Auto Control BEgin End Mark Back Group"_s, u"1"_s, NoNegative | NoZero);
     UndoSteps &steps = context.document().undoSteps();
     if (reply.isKeyword(u"BEgin") || reply.isKeyword(u"Group"))
@@ -91,7 +92,7 @@ CommandTask undo(CommandContext &context)
 void redoSteps(CommandContext &context, int count)
 {
     if (context.document().undoSteps().redo(count) == 0)
-        context.print(u"\nThere is nothing to redo."_s);
+        context.print(Commands::tr("\nThere is nothing to redo."));
 }
 
 CommandTask redo(CommandContext &context)
@@ -103,7 +104,7 @@ CommandTask redo(CommandContext &context)
 // A number of steps, all that were undone, or the last one.
 CommandTask redoMany(CommandContext &context)
 {
-    const PromptReply reply = co_await context.integer(u"Enter number of actions or [All/Last]: "_s, {}, {},
+    const PromptReply reply = co_await context.integer(Commands::tr("Enter number of actions or [All/Last]: "), {}, {},
                                                        NoEmptyAnswer | NoNegative | NoZero);
     redoSteps(context, reply.isKeyword(u"All")    ? std::numeric_limits<int>::max()
                        : reply.isKeyword(u"Last") ? 1
@@ -124,16 +125,16 @@ CommandTask oops(CommandContext &context)
         ++count;
     }
     if (count == 0)
-        context.print(u"\nThere is nothing to bring back."_s);
+        context.print(Commands::tr("\nThere is nothing to bring back."));
     co_return;
 }
 
 // Asks for the name of a command alone; what that asks comes next.
 CommandTask multiple(CommandContext &context)
 {
-    const PromptReply name = co_await context.name(u"Enter command name to repeat: "_s);
+    const PromptReply name = co_await context.name(Commands::tr("Enter command name to repeat: "));
     if (name.hasValue() && !context.repeat(name.text))
-        context.fail(u"Unknown command \"%1\": only built-in ones are repeated."_s.arg(name.text));
+        context.fail(Commands::tr("Unknown command \"%1\": only built-in ones are repeated.").arg(name.text));
 }
 
 } // namespace

@@ -12,6 +12,7 @@
 #include "host/drawing/text/ParagraphText.h"
 #include "host/kernel/documents/Document.h"
 #include "host/kernel/input/Units.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/running/CommandContext.h"
 #include "host/kernel/variables/SystemVariables.h"
 
@@ -90,41 +91,41 @@ void listLine(ListedSheet &sheet)
 {
     const Vec3 from = sheet.tags.point(10);
     const Vec3 to = sheet.tags.point(11);
-    sheet.point(u"from point,"_s, from);
-    sheet.point(u"  to point,"_s, to);
+    sheet.point(Commands::tr("from point,"), from);
+    sheet.point(Commands::tr("  to point,"), to);
     const Vec3 by = sheet.plane().userFromWorld(to) - sheet.plane().userFromWorld(from);
     const double turn = std::atan2(by.y, by.x);
-    sheet.line(u"Length = %1,  Angle in XY Plane = %2"_s.arg(
-        sheet.shown(by.length()), sheet.shownAngle(turn < 0.0 ? turn + 2.0 * std::numbers::pi : turn)));
-    sheet.line(
-        u"Delta X = %1, Delta Y = %2, Delta Z = %3"_s.arg(sheet.shown(by.x), sheet.shown(by.y), sheet.shown(by.z)));
+    sheet.line(Commands::tr("Length = %1,  Angle in XY Plane = %2")
+                   .arg(sheet.shown(by.length()), sheet.shownAngle(turn < 0.0 ? turn + 2.0 * std::numbers::pi : turn)));
+    sheet.line(Commands::tr("Delta X = %1, Delta Y = %2, Delta Z = %3")
+                   .arg(sheet.shown(by.x), sheet.shown(by.y), sheet.shown(by.z)));
 }
 
 void listPoint(ListedSheet &sheet)
 {
-    sheet.point(u"at point,"_s, sheet.tags.point(10));
+    sheet.point(Commands::tr("at point,"), sheet.tags.point(10));
 }
 
 void listEndless(ListedSheet &sheet)
 {
-    sheet.point(u"base point,"_s, sheet.tags.point(10));
-    sheet.point(u"through point,"_s, sheet.tags.point(10) + sheet.tags.point(11));
+    sheet.point(Commands::tr("base point,"), sheet.tags.point(10));
+    sheet.point(Commands::tr("through point,"), sheet.tags.point(10) + sheet.tags.point(11));
 }
 
 void listCircle(ListedSheet &sheet)
 {
     const double radius = sheet.tags.real(40);
-    sheet.flatPoint(u"center point,"_s, sheet.tags.point(10));
+    sheet.flatPoint(Commands::tr("center point,"), sheet.tags.point(10));
     sheet.length(u"radius"_s, radius);
     sheet.numbers(u"area"_s, std::numbers::pi * radius * radius, 2.0 * std::numbers::pi * radius, u"circumference"_s);
 }
 
 void listArc(ListedSheet &sheet)
 {
-    sheet.flatPoint(u"center point,"_s, sheet.tags.point(10));
+    sheet.flatPoint(Commands::tr("center point,"), sheet.tags.point(10));
     sheet.length(u"radius"_s, sheet.tags.real(40));
-    sheet.direction(u"start angle"_s, sheet.tags.real(50));
-    sheet.direction(u"end angle"_s, sheet.tags.real(51));
+    sheet.direction(Commands::tr("start angle"), sheet.tags.real(50));
+    sheet.direction(Commands::tr("end angle"), sheet.tags.real(51));
     if (const auto curve = sheet.curve())
         sheet.length(u"length"_s, curve->length());
 }
@@ -132,8 +133,8 @@ void listArc(ListedSheet &sheet)
 void listEllipse(ListedSheet &sheet)
 {
     const Vec3 major = sheet.tags.point(11);
-    sheet.point(u"Center:"_s, sheet.tags.point(10));
-    sheet.point(u"Major Axis:"_s, sheet.plane().worldFromUser({}) + major);
+    sheet.point(Commands::tr("Center:"), sheet.tags.point(10));
+    sheet.point(Commands::tr("Major Axis:"), sheet.plane().worldFromUser({}) + major);
     sheet.length(u"Radius Ratio"_s, sheet.tags.real(40, 1.0));
     if (const auto curve = sheet.curve())
         sheet.numbers(u"Area"_s, curve->area(), curve->length(), u"Length"_s);
@@ -144,7 +145,7 @@ void listVertices(ListedSheet &sheet, const std::vector<Vec3> &points, const std
     if (const auto curve = sheet.curve())
         sheet.numbers(u"area"_s, curve->area(), curve->length(), isClosed ? u"perimeter"_s : u"length"_s);
     for (std::size_t i = 0; i < points.size(); ++i) {
-        sheet.flatPoint(u"at point"_s, points[i]);
+        sheet.flatPoint(Commands::tr("at point"), points[i]);
         if (bulges[i] != 0.0)
             sheet.value(u"bulge"_s, sheet.shown(bulges[i]));
     }
@@ -156,7 +157,7 @@ void listLightPolyline(ListedSheet &sheet)
     const double elevation = sheet.tags.real(38);
     sheet.line(isClosed ? u"Closed"_s : u"Open"_s);
     if (sheet.tags.find(43))
-        sheet.length(u"Constant width"_s, sheet.tags.real(43));
+        sheet.length(Commands::tr("Constant width"), sheet.tags.real(43));
     std::vector<Vec3> points;
     std::vector<double> bulges;
     for (const drawing::Field &field : sheet.tags.fields()) {
@@ -189,17 +190,17 @@ void listPolyline(ListedSheet &sheet)
     if (const auto curve = sheet.curve())
         sheet.length(u"length"_s, curve->length());
     for (const Vec3 &point : points)
-        sheet.point(u"at point"_s, point);
+        sheet.point(Commands::tr("at point"), point);
 }
 
 void listCorners(ListedSheet &sheet)
 {
     const bool isFace = sheet.context.drawing().isType(sheet.record, "3DFACE");
     for (int code = 10; code < 14; ++code) {
-        const QString what = code == 10   ? u"first point"_s
-                             : code == 11 ? u"second point"_s
-                             : code == 12 ? u"third point"_s
-                                          : u"fourth point"_s;
+        const QString what = code == 10   ? Commands::tr("first point")
+                             : code == 11 ? Commands::tr("second point")
+                             : code == 12 ? Commands::tr("third point")
+                                          : Commands::tr("fourth point");
         if (isFace)
             sheet.point(what, sheet.tags.point(code));
         else
@@ -214,9 +215,9 @@ void listSpline(ListedSheet &sheet)
         sheet.length(u"Length"_s, curve->length());
     sheet.value(u"Order"_s, QString::number(spline.degree + 1));
     for (const Vec3 &point : spline.controlPoints)
-        sheet.point(u"Control Point:"_s, point);
+        sheet.point(Commands::tr("Control Point:"), point);
     for (const Vec3 &point : spline.fitPoints)
-        sheet.point(u"Fit Point:"_s, point);
+        sheet.point(Commands::tr("Fit Point:"), point);
 }
 
 void listText(ListedSheet &sheet)
@@ -228,20 +229,21 @@ void listText(ListedSheet &sheet)
         sheet.value(u"tag"_s, tags.text(2));
     if (tags.find(3))
         sheet.value(u"prompt"_s, tags.text(3));
-    sheet.flatPoint(isJustified ? u"alignment point,"_s : u"start point,"_s, tags.point(isJustified ? 11 : 10));
+    sheet.flatPoint(isJustified ? Commands::tr("alignment point,") : Commands::tr("start point,"),
+                    tags.point(isJustified ? 11 : 10));
     sheet.length(u"height"_s, tags.real(40));
     sheet.value(u"text"_s, tags.text(1));
-    sheet.direction(u"rotation angle"_s, tags.real(50));
-    sheet.length(u"width scale"_s, tags.real(41, 1.0));
-    sheet.angle(u"obliquing angle"_s, tags.real(51) * radians);
+    sheet.direction(Commands::tr("rotation angle"), tags.real(50));
+    sheet.length(Commands::tr("width scale"), tags.real(41, 1.0));
+    sheet.angle(Commands::tr("obliquing angle"), tags.real(51) * radians);
 }
 
 void listParagraph(ListedSheet &sheet)
 {
-    sheet.point(u"Location:"_s, sheet.tags.point(10));
+    sheet.point(Commands::tr("Location:"), sheet.tags.point(10));
     sheet.length(u"Width"_s, sheet.tags.real(41));
-    sheet.value(u"Text style"_s, sheet.tags.text(7, u"Standard"_s));
-    sheet.length(u"Text height"_s, sheet.tags.real(40));
+    sheet.value(Commands::tr("Text style"), sheet.tags.text(7, u"Standard"_s));
+    sheet.length(Commands::tr("Text height"), sheet.tags.real(40));
     sheet.angle(u"Rotation"_s,
                 drawing::angleInPlane(drawing::paragraphDirection(sheet.tags), sheet.tags.point(210, {0.0, 0.0, 1.0})));
     sheet.value(u"Contents"_s, drawing::paragraphContent(sheet.tags));
@@ -251,16 +253,16 @@ void listReference(ListedSheet &sheet)
 {
     const TagList &tags = sheet.tags;
     sheet.value(u"Block Name"_s, u"\"%1\""_s.arg(tags.text(2)));
-    sheet.flatPoint(u"at point,"_s, tags.point(10));
-    sheet.length(u"X scale factor"_s, tags.real(41, 1.0));
-    sheet.length(u"Y scale factor"_s, tags.real(42, 1.0));
-    sheet.direction(u"rotation angle"_s, tags.real(50));
-    sheet.length(u"Z scale factor"_s, tags.real(43, 1.0));
+    sheet.flatPoint(Commands::tr("at point,"), tags.point(10));
+    sheet.length(Commands::tr("X scale factor"), tags.real(41, 1.0));
+    sheet.length(Commands::tr("Y scale factor"), tags.real(42, 1.0));
+    sheet.direction(Commands::tr("rotation angle"), tags.real(50));
+    sheet.length(Commands::tr("Z scale factor"), tags.real(43, 1.0));
     if (tags.integer(70, 1) > 1 || tags.integer(71, 1) > 1) {
-        sheet.value(u"number of columns"_s, QString::number(tags.integer(70, 1)));
-        sheet.value(u"number of rows"_s, QString::number(tags.integer(71, 1)));
-        sheet.length(u"between columns"_s, tags.real(44));
-        sheet.length(u"between rows"_s, tags.real(45));
+        sheet.value(Commands::tr("number of columns"), QString::number(tags.integer(70, 1)));
+        sheet.value(Commands::tr("number of rows"), QString::number(tags.integer(71, 1)));
+        sheet.length(Commands::tr("between columns"), tags.real(44));
+        sheet.length(Commands::tr("between rows"), tags.real(45));
     }
     for (const RecordId child : sheet.context.drawing().children(sheet.record)) {
         const TagList attribute = sheet.context.drawing().tags(child);
@@ -270,10 +272,16 @@ void listReference(ListedSheet &sheet)
 
 void listDimension(ListedSheet &sheet)
 {
-    static const QString kinds[] = {u"rotated"_s,  u"aligned"_s,    u"angular"_s,
-                                    u"diameter"_s, u"radius"_s,     u"3 point angular"_s,
-                                    u"ordinate"_s, u"arc length"_s, u"jogged radius"_s};
-    sheet.value(u"dimension style"_s, u"\"%1\""_s.arg(sheet.tags.text(3, u"Standard"_s)));
+    static const QString kinds[] = {u"rotated"_s,
+                                    u"aligned"_s,
+                                    u"angular"_s,
+                                    u"diameter"_s,
+                                    u"radius"_s,
+                                    u"3 point angular"_s,
+                                    u"ordinate"_s,
+                                    Commands::tr("arc length"),
+                                    Commands::tr("jogged radius")};
+    sheet.value(Commands::tr("dimension style"), u"\"%1\""_s.arg(sheet.tags.text(3, u"Standard"_s)));
     const auto data = drawing::readDimension(sheet.context.drawing(), sheet.record, sheet.tags);
     if (!data)
         return;
@@ -282,7 +290,7 @@ void listDimension(ListedSheet &sheet)
     sheet.value(u"type"_s, kinds[static_cast<int>(data->kind)]);
     for (const int code : {10, 13, 14, 15})
         if (sheet.tags.find(code))
-            sheet.point(u"defining point:"_s, sheet.tags.point(code));
+            sheet.point(Commands::tr("defining point:"), sheet.tags.point(code));
     sheet.value(u"measurement"_s, isAngle ? sheet.shownAngle(data->measured()) : sheet.shown(data->measured()));
     if (!data->text.isEmpty())
         sheet.value(u"text"_s, data->text);
@@ -290,21 +298,22 @@ void listDimension(ListedSheet &sheet)
 
 void listHatch(ListedSheet &sheet)
 {
-    sheet.value(u"Hatch pattern"_s, sheet.tags.text(2));
+    sheet.value(Commands::tr("Hatch pattern"), sheet.tags.text(2));
     sheet.value(u"Associative"_s, sheet.tags.integer(71) != 0 ? u"yes"_s : u"no"_s);
     if (sheet.tags.integer(70) == 0) {
-        sheet.length(u"Hatch scale"_s, sheet.tags.real(41, 1.0));
-        sheet.angle(u"Hatch angle"_s, sheet.tags.real(52) * radians);
+        sheet.length(Commands::tr("Hatch scale"), sheet.tags.real(41, 1.0));
+        sheet.angle(Commands::tr("Hatch angle"), sheet.tags.real(52) * radians);
     }
 }
 
 void listViewport(ListedSheet &sheet)
 {
-    sheet.point(u"center point,"_s, sheet.tags.point(10));
+    sheet.point(Commands::tr("center point,"), sheet.tags.point(10));
     sheet.length(u"Width"_s, sheet.tags.real(40));
     sheet.length(u"Height"_s, sheet.tags.real(41));
     if (sheet.tags.real(45) > 0.0)
-        sheet.value(u"Scale relative to Paper space"_s, u"%1xp"_s.arg(sheet.tags.real(41) / sheet.tags.real(45)));
+        sheet.value(Commands::tr("Scale relative to Paper space"),
+                    u"%1xp"_s.arg(sheet.tags.real(41) / sheet.tags.real(45)));
 }
 
 /// Of all else where it is.
@@ -313,14 +322,14 @@ void listBox(ListedSheet &sheet)
     const drawing::Box box = drawing::entityBox(sheet.context.drawing(), sheet.record);
     if (box.isEmpty())
         return;
-    sheet.point(u"Bounding Box: Lower Bound"_s, box.low);
+    sheet.point(Commands::tr("Bounding Box: Lower Bound"), box.low);
     sheet.point(u"              Upper Bound"_s, box.high);
 }
 
 void listRegion(ListedSheet &sheet)
 {
     if (const auto region = drawing::measureRegion(drawing::readSolidModel(sheet.tags)))
-        sheet.numbers(u"Area:"_s, region->area, region->perimeter, u"Perimeter:"_s);
+        sheet.numbers(Commands::tr("Area:"), region->area, region->perimeter, Commands::tr("Perimeter:"));
     listBox(sheet);
 }
 
@@ -362,16 +371,17 @@ void listLook(ListedSheet &sheet)
     const TagList &tags = sheet.tags;
     if (const drawing::Tag *exact = tags.find(420)) {
         const qint64 value = exact->integer().value_or(0);
-        sheet.value(u"Color:"_s, u"%1,%2,%3"_s.arg(value >> 16 & 255).arg(value >> 8 & 255).arg(value & 255));
+        sheet.value(Commands::tr("Color:"),
+                    u"%1,%2,%3"_s.arg(value >> 16 & 255).arg(value >> 8 & 255).arg(value & 255));
     } else if (const qint64 colour = tags.integer(62, drawing::colourByLayer); colour != drawing::colourByLayer) {
-        sheet.value(u"Color:"_s, colour == 0 ? u"BYBLOCK"_s : QString::number(colour));
+        sheet.value(Commands::tr("Color:"), colour == 0 ? u"BYBLOCK"_s : QString::number(colour));
     }
     if (tags.find(6))
-        sheet.value(u"Linetype:"_s, u"\"%1\""_s.arg(tags.text(6)));
+        sheet.value(Commands::tr("Linetype:"), u"\"%1\""_s.arg(tags.text(6)));
     if (tags.real(48, 1.0) != 1.0)
-        sheet.length(u"Linetype scale"_s, tags.real(48));
+        sheet.length(Commands::tr("Linetype scale"), tags.real(48));
     if (const qint64 weight = tags.integer(370, -1); weight >= 0)
-        sheet.value(u"Lineweight:"_s, u"%1mm"_s.arg(double(weight) / 100.0, 0, 'f', 2));
+        sheet.value(Commands::tr("Lineweight:"), u"%1mm"_s.arg(double(weight) / 100.0, 0, 'f', 2));
     if (tags.real(39) != 0.0)
         sheet.length(u"thickness"_s, tags.real(39));
 }
@@ -384,12 +394,12 @@ QString entityListing(CommandContext &context, RecordId entity)
     ListedSheet sheet(context, entity);
     const QString layout = drawing.layouts().ofEntity(entity);
     const bool isModel = layout.compare(u"Model", Qt::CaseInsensitive) == 0;
-    sheet.line(u"%1  Layer: \"%2\""_s.arg(QString::fromLatin1(drawing.typeName(entity)).leftJustified(12),
-                                          sheet.tags.text(8, u"0"_s)));
-    sheet.value(u"Space:"_s, isModel ? u"Model space"_s : u"Paper space"_s);
+    sheet.line(Commands::tr("%1  Layer: \"%2\"")
+                   .arg(QString::fromLatin1(drawing.typeName(entity)).leftJustified(12), sheet.tags.text(8, u"0"_s)));
+    sheet.value(Commands::tr("Space:"), isModel ? Commands::tr("Model space") : Commands::tr("Paper space"));
     if (!isModel)
-        sheet.value(u"Layout:"_s, layout);
-    sheet.value(u"Handle ="_s, drawing.handle(entity).toString().toLower());
+        sheet.value(Commands::tr("Layout:"), layout);
+    sheet.value(Commands::tr("Handle ="), drawing.handle(entity).toString().toLower());
     listLook(sheet);
     const auto *kind = std::ranges::find(listedKinds, drawing.typeName(entity), &ListedKind::type);
     (kind == std::end(listedKinds) ? listBox : kind->list)(sheet);

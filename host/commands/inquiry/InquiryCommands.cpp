@@ -2,6 +2,7 @@
 #include "host/commands/common/UserPlane.h"
 #include "host/commands/inquiry/EntityListing.h"
 #include "host/kernel/documents/Document.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/running/CommandContext.h"
 #include "host/kernel/running/Dialogue.h"
 #include "host/kernel/variables/SystemVariables.h"
@@ -28,11 +29,12 @@ void tellDistance(CommandContext &context, const Vec3 &by)
 {
     const double flat = by.xy().length();
     const double angle = std::atan2(by.y, by.x);
-    context.print(u"\nDistance = %1,  Angle in XY Plane = %2,  Angle from XY Plane = %3"_s.arg(
-        context.shownLength(by.length()), context.shownAngle(angle < 0.0 ? angle + 2.0 * M_PI : angle),
-        context.shownAngle(std::atan2(by.z, flat))));
-    context.print(u"\nDelta X = %1,  Delta Y = %2,   Delta Z = %3"_s.arg(
-        context.shownLength(by.x), context.shownLength(by.y), context.shownLength(by.z)));
+    context.print(Commands::tr("\nDistance = %1,  Angle in XY Plane = %2,  Angle from XY Plane = %3")
+                      .arg(context.shownLength(by.length()),
+                           context.shownAngle(angle < 0.0 ? angle + 2.0 * M_PI : angle),
+                           context.shownAngle(std::atan2(by.z, flat))));
+    context.print(Commands::tr("\nDelta X = %1,  Delta Y = %2,   Delta Z = %3")
+                      .arg(context.shownLength(by.x), context.shownLength(by.y), context.shownLength(by.z)));
     keepDistance(context, by.length());
 }
 
@@ -41,8 +43,8 @@ Dialogue<double> askPath(CommandContext &context, Vec3 from)
 {
     std::vector<Vec3> points = {from};
     for (;;) {
-        const PromptReply next = co_await context.point(u"Specify next point or [Close/Undo/Total] <Total>: "_s, {},
-                                                        points.back(), u"Total"_s);
+        const PromptReply next = co_await context.point(
+            Commands::tr("Specify next point or [Close/Undo/Total] <Total>: "), {}, points.back(), u"Total"_s);
         const bool isClosing = next.isKeyword(u"Close");
         if (next.hasValue())
             points.push_back(next.point);
@@ -53,7 +55,7 @@ Dialogue<double> askPath(CommandContext &context, Vec3 from)
         double length = 0.0;
         for (std::size_t i = 1; i < points.size(); ++i)
             length += (points[i] - points[i - 1]).length();
-        context.print(u"\nDistance = %1"_s.arg(context.shownLength(length)));
+        context.print(Commands::tr("\nDistance = %1").arg(context.shownLength(length)));
         if (!next.hasValue() && !next.isKeyword(u"Undo"))
             co_return length;
     }
@@ -62,9 +64,9 @@ Dialogue<double> askPath(CommandContext &context, Vec3 from)
 // Two points, or a path through many.
 CommandTask distance(CommandContext &context)
 {
-    const PromptReply first = co_await context.neededPoint(u"Specify first point: "_s);
+    const PromptReply first = co_await context.neededPoint(Commands::tr("Specify first point: "));
     const PromptReply second =
-        co_await context.neededPoint(u"Specify second point or [Multiple points]: "_s, first.point);
+        co_await context.neededPoint(Commands::tr("Specify second point or [Multiple points]: "), first.point);
     if (second.hasValue()) {
         const UserPlane plane(context.document());
         tellDistance(context, plane.userFromWorld(second.point) - plane.userFromWorld(first.point));
@@ -77,7 +79,7 @@ CommandTask distance(CommandContext &context)
 // A point; it is the last point then.
 CommandTask identify(CommandContext &context)
 {
-    const PromptReply reply = co_await context.neededPoint(u"Specify point: "_s);
+    const PromptReply reply = co_await context.neededPoint(Commands::tr("Specify point: "));
     const Vec3 at = UserPlane(context.document()).userFromWorld(reply.point);
     context.print(u"\nX = %1     Y = %2     Z = %3"_s.arg(context.shownLength(at.x), context.shownLength(at.y),
                                                           context.shownLength(at.z)));

@@ -1,6 +1,7 @@
 #include "host/commands/Commands.h"
 #include "host/commands/common/ObjectChoice.h"
 #include "host/kernel/documents/Document.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/running/CommandContext.h"
 
 using namespace Qt::StringLiterals;
@@ -18,7 +19,7 @@ CommandTask selectObjects(CommandContext &context)
 // What is chosen is there for the next command, and shown so until then.
 CommandTask preselect(CommandContext &context)
 {
-    const ObjectChoice chosen = co_await askObjects(context, u"Select objects: "_s);
+    const ObjectChoice chosen = co_await askObjects(context, Commands::tr("Select objects: "));
     context.document().setImpliedSelection(chosen.entities);
 }
 

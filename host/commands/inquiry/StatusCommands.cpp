@@ -2,6 +2,7 @@
 #include "host/drawing/text/DateText.h"
 #include "host/kernel/documents/CurrentSpace.h"
 #include "host/kernel/documents/Document.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/running/CommandContext.h"
 #include "host/kernel/variables/SystemVariables.h"
 #include "platform/kernel/CKvHelp.h"
@@ -24,7 +25,8 @@ QString dateShown(double julian)
 QString spanShown(double days)
 {
     const auto seconds = static_cast<qint64>(std::clamp(days, 0.0, 1e6) * 86400.0 + 0.5);
-    return u"%1 days %2:%3:%4"_s.arg(seconds / 86400)
+    return Commands::tr("%1 days %2:%3:%4")
+        .arg(seconds / 86400)
         .arg(seconds / 3600 % 24, 2, 10, QChar(u'0'))
         .arg(seconds / 60 % 60, 2, 10, QChar(u'0'))
         .arg(seconds % 60, 2, 10, QChar(u'0'));
@@ -34,12 +36,13 @@ QString spanShown(double days)
 CommandTask tellTime(CommandContext &context)
 {
     const SystemVariables &variables = context.document().variables();
-    context.print(u"\nCurrent time:             "_s + dateShown(drawing::julianDate(QDateTime::currentDateTime())));
-    context.print(u"\nTimes for this drawing:"_s);
-    context.print(u"\n  Created:                "_s + dateShown(variables.real(u"TDCREATE")));
-    context.print(u"\n  Last updated:           "_s + dateShown(variables.real(u"TDUPDATE")));
-    context.print(u"\n  Total editing time:     "_s + spanShown(variables.real(u"TDINDWG")));
-    context.print(u"\n  Elapsed timer:          "_s + spanShown(variables.real(u"TDUSRTIMER")));
+    context.print(Commands::tr("\nCurrent time:             ") +
+                  dateShown(drawing::julianDate(QDateTime::currentDateTime())));
+    context.print(Commands::tr("\nTimes for this drawing:"));
+    context.print(Commands::tr("\n  Created:                ") + dateShown(variables.real(u"TDCREATE")));
+    context.print(Commands::tr("\n  Last updated:           ") + dateShown(variables.real(u"TDUPDATE")));
+    context.print(Commands::tr("\n  Total editing time:     ") + spanShown(variables.real(u"TDINDWG")));
+    context.print(Commands::tr("\n  Elapsed timer:          ") + spanShown(variables.real(u"TDUSRTIMER")));
     co_return;
 }
 
@@ -54,16 +57,16 @@ CommandTask tellStatus(CommandContext &context)
 {
     const SystemVariables &variables = context.document().variables();
     const QString name = context.document().path().isEmpty() ? context.document().title() : context.document().path();
-    context.print(u"\n%1 objects in %2"_s.arg(currentEntities(context.drawing()).size()).arg(name));
-    printCorner(context, u"Limits are, low"_s, variables.point(u"LIMMIN"));
-    printCorner(context, u"Limits are, high"_s, variables.point(u"LIMMAX"));
-    printCorner(context, u"Uses, low"_s, variables.point(u"EXTMIN"));
-    printCorner(context, u"Uses, high"_s, variables.point(u"EXTMAX"));
-    printCorner(context, u"Insertion base is"_s, variables.point(u"INSBASE"));
+    context.print(Commands::tr("\n%1 objects in %2").arg(currentEntities(context.drawing()).size()).arg(name));
+    printCorner(context, Commands::tr("Limits are, low"), variables.point(u"LIMMIN"));
+    printCorner(context, Commands::tr("Limits are, high"), variables.point(u"LIMMAX"));
+    printCorner(context, Commands::tr("Uses, low"), variables.point(u"EXTMIN"));
+    printCorner(context, Commands::tr("Uses, high"), variables.point(u"EXTMAX"));
+    printCorner(context, Commands::tr("Insertion base is"), variables.point(u"INSBASE"));
     const std::pair<QString, QStringView> rows[] = {
-        {u"Current space:"_s, u"CTAB"},          {u"Current layer:"_s, u"CLAYER"},
-        {u"Current color:"_s, u"CECOLOR"},       {u"Current linetype:"_s, u"CELTYPE"},
-        {u"Current elevation:"_s, u"ELEVATION"}, {u"Thickness:"_s, u"THICKNESS"},
+        {Commands::tr("Current space:"), u"CTAB"},          {Commands::tr("Current layer:"), u"CLAYER"},
+        {Commands::tr("Current color:"), u"CECOLOR"},       {Commands::tr("Current linetype:"), u"CELTYPE"},
+        {Commands::tr("Current elevation:"), u"ELEVATION"}, {Commands::tr("Thickness:"), u"THICKNESS"},
     };
     for (const auto &[what, variable] : rows)
         context.print(u"\n%1 %2"_s.arg(what.leftJustified(24), variables.display(variable)));

@@ -7,6 +7,7 @@
 #include "host/drawing/records/Tables.h"
 #include "host/drawing/selection/Wildcard.h"
 #include "host/kernel/documents/Document.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/running/CommandContext.h"
 #include "host/kernel/variables/SystemVariables.h"
 
@@ -43,7 +44,7 @@ std::vector<Layer> matchingLayers(CommandContext &context, const QString &patter
         std::erase_if(layers,
                       [&](const Layer &layer) { return !drawing::matchesWildcard(layer.name, patterns.trimmed()); });
     if (layers.empty())
-        context.print(u"\nNo matching layer names found."_s);
+        context.print(Commands::tr("\nNo matching layer names found."));
     return layers;
 }
 
@@ -65,33 +66,35 @@ struct StateOption
 void freeze(CommandContext &context, const Layer &layer)
 {
     if (isCurrent(context, layer))
-        context.print(u"\nCannot freeze layer \"%1\". It is the current layer."_s.arg(layer.name));
+        context.print(Commands::tr("\nCannot freeze layer \"%1\". It is the current layer.").arg(layer.name));
     else
         changeLayerFlag(context, layer, frozenLayer, true);
 }
 
 constexpr StateOption stateOptions[] = {
-    {u"ON", "turn on", [](CommandContext &context, const Layer &layer) { switchLayer(context, layer, true); }},
-    {u"OFF", "turn off", [](CommandContext &context, const Layer &layer) { switchLayer(context, layer, false); }},
-    {u"Freeze", "freeze", freeze},
-    {u"Thaw", "thaw",
+    {u"ON", QT_TRANSLATE_NOOP("Commands", "Enter name list of layer(s) to turn on: "),
+     [](CommandContext &context, const Layer &layer) { switchLayer(context, layer, true); }},
+    {u"OFF", QT_TRANSLATE_NOOP("Commands", "Enter name list of layer(s) to turn off: "),
+     [](CommandContext &context, const Layer &layer) { switchLayer(context, layer, false); }},
+    {u"Freeze", QT_TRANSLATE_NOOP("Commands", "Enter name list of layer(s) to freeze: "), freeze},
+    {u"Thaw", QT_TRANSLATE_NOOP("Commands", "Enter name list of layer(s) to thaw: "),
      [](CommandContext &context, const Layer &layer) { changeLayerFlag(context, layer, frozenLayer, false); }},
-    {u"LOck", "lock",
+    {u"LOck", QT_TRANSLATE_NOOP("Commands", "Enter name list of layer(s) to lock: "),
      [](CommandContext &context, const Layer &layer) { changeLayerFlag(context, layer, lockedLayer, true); }},
-    {u"Unlock", "unlock",
+    {u"Unlock", QT_TRANSLATE_NOOP("Commands", "Enter name list of layer(s) to unlock: "),
      [](CommandContext &context, const Layer &layer) { changeLayerFlag(context, layer, lockedLayer, false); }},
 };
 
 Dialogue<bool> changeStates(CommandContext &context, const StateOption &state)
 {
-    const PromptReply names =
-        co_await context.text(u"Enter name list of layer(s) to %1: "_s.arg(QLatin1String(state.prompt)));
+    const PromptReply names = co_await context.text(Commands::tr(state.prompt));
     if (!names.hasValue())
         co_return false;
     for (const Layer &layer : matchingLayers(context, names.text)) {
         if (state.option == u"OFF" && isCurrent(context, layer)) {
             const PromptReply sure = co_await context.keyword(
-                u"Really want layer \"%1\" (the CURRENT layer) off? [Yes/No] <No>: "_s.arg(layer.name), {}, u"No"_s);
+                Commands::tr("Really want layer \"%1\" (the CURRENT layer) off? [Yes/No] <No>: ").arg(layer.name), {},
+                u"No"_s);
             if (sure.text != u"Yes"_s)
                 continue;
         }
@@ -108,7 +111,7 @@ bool makeLayers(CommandContext &context, const QString &names)
         if (isValid(context.drawing().tables().find(TableKind::Layer, name)))
             continue;
         if (!drawing::isSymbolName(name, context.drawing().version())) {
-            context.refuse(u"\"%1\" cannot be the name of a layer."_s.arg(name));
+            context.refuse(Commands::tr("\"%1\" cannot be the name of a layer.").arg(name));
             return false;
         }
         context.drawing().tables().add(TableKind::Layer, name);
@@ -121,9 +124,9 @@ void setCurrentLayer(CommandContext &context, const QString &typed)
     const QString name = typed.trimmed();
     const std::optional<Layer> layer = drawing::findLayer(context.drawing(), name);
     if (!layer)
-        context.refuse(u"Cannot find layer \"%1\"."_s.arg(name));
+        context.refuse(Commands::tr("Cannot find layer \"%1\".").arg(name));
     else if (layer->isFrozen)
-        context.refuse(u"Cannot make layer \"%1\" current: it is frozen."_s.arg(layer->name));
+        context.refuse(Commands::tr("Cannot make layer \"%1\" current: it is frozen.").arg(layer->name));
     else
         context.document().variables().set(u"CLAYER", layer->name);
 }
@@ -131,8 +134,8 @@ void setCurrentLayer(CommandContext &context, const QString &typed)
 Dialogue<bool> make(CommandContext &context)
 {
     const QString current = currentLayer(context);
-    const PromptReply name =
-        co_await context.text(u"Enter name for new layer (becomes the current layer) <%1>: "_s.arg(current), current);
+    const PromptReply name = co_await context.text(
+        Commands::tr("Enter name for new layer (becomes the current layer) <%1>: ").arg(current), current);
     if (name.hasValue() && makeLayers(context, name.text))
         setCurrentLayer(context, name.text);
     co_return true;
@@ -140,13 +143,13 @@ Dialogue<bool> make(CommandContext &context)
 
 Dialogue<bool> chooseCurrent(CommandContext &context)
 {
-    const PromptReply name =
-        co_await context.text(u"Enter layer name to make current or <select object>: "_s, u"select object"_s);
+    const PromptReply name = co_await context.text(
+        Commands::tr("Enter layer name to make current or <select object>: "), u"select object"_s);
     if (name.hasValue()) {
         setCurrentLayer(context, name.text);
         co_return true;
     }
-    const PromptReply picked = co_await context.entity(u"Select object: "_s);
+    const PromptReply picked = co_await context.entity(Commands::tr("Select object: "));
     if (!picked.entities.empty())
         setCurrentLayer(context, context.drawing().tags(picked.entities.front()).text(8, u"0"_s));
     co_return true;
@@ -154,7 +157,7 @@ Dialogue<bool> chooseCurrent(CommandContext &context)
 
 Dialogue<bool> add(CommandContext &context)
 {
-    const PromptReply names = co_await context.text(u"Enter name list for new layer(s): "_s);
+    const PromptReply names = co_await context.text(Commands::tr("Enter name list for new layer(s): "));
     if (names.hasValue())
         makeLayers(context, names.text);
     co_return true;
@@ -162,10 +165,10 @@ Dialogue<bool> add(CommandContext &context)
 
 Dialogue<bool> rename(CommandContext &context)
 {
-    const PromptReply from = co_await context.text(u"Enter old layer name: "_s);
+    const PromptReply from = co_await context.text(Commands::tr("Enter old layer name: "));
     if (!from.hasValue())
         co_return false;
-    const PromptReply to = co_await context.text(u"Enter new layer name: "_s);
+    const PromptReply to = co_await context.text(Commands::tr("Enter new layer name: "));
     if (!to.hasValue())
         co_return false;
     const QString problem = drawing::renameLayer(context.drawing(), from.text.trimmed(), to.text.trimmed());
@@ -176,8 +179,8 @@ Dialogue<bool> rename(CommandContext &context)
 
 Dialogue<bool> list(CommandContext &context)
 {
-    const PromptReply names = co_await context.text(u"Enter layer name(s) to list <*>: "_s, u"*"_s);
-    context.print(u"\nLayer name  State  Color  Linetype  Lineweight"_s);
+    const PromptReply names = co_await context.text(Commands::tr("Enter layer name(s) to list <*>: "), u"*"_s);
+    context.print(Commands::tr("\nLayer name  State  Color  Linetype  Lineweight"));
     for (const Layer &layer : matchingLayers(context, names.hasValue() ? names.text : u"*"_s)) {
         QStringList states = {layer.isOff ? u"off"_s : u"on"_s};
         if (layer.isFrozen)
@@ -189,15 +192,15 @@ Dialogue<bool> list(CommandContext &context)
                           .arg(layer.colour)
                           .arg(layer.linetype, weight));
     }
-    context.print(u"\nCurrent layer:  \"%1\""_s.arg(currentLayer(context)));
+    context.print(Commands::tr("\nCurrent layer:  \"%1\"").arg(currentLayer(context)));
     co_return true;
 }
 
 /// There is no list of layers to look through here: the answer is taken so that programs go on in step.
 Dialogue<bool> reconcile(CommandContext &context)
 {
-    co_await context.text(u"Enter name list of layer(s) to reconcile: "_s);
-    context.print(u"\nNo unreconciled layers."_s);
+    co_await context.text(Commands::tr("Enter name list of layer(s) to reconcile: "));
+    context.print(Commands::tr("\nNo unreconciled layers."));
     co_return true;
 }
 
@@ -208,8 +211,8 @@ Dialogue<bool> changeProperty(CommandContext &context, const QString &option)
     if (!change.apply)
         co_return false;
     const QString current = currentLayer(context);
-    const PromptReply names =
-        co_await context.text(u"Enter name list of layer(s) for %1 <%2>: "_s.arg(change.what, current), current);
+    const PromptReply names = co_await context.text(
+        Commands::tr("Enter name list of layer(s) for %1 <%2>: ").arg(change.what, current), current);
     for (const Layer &layer : matchingLayers(context, names.hasValue() ? names.text : current))
         modify(context, layer, change.apply);
     co_return true;
@@ -239,9 +242,9 @@ Dialogue<bool> takeLayerOptions(CommandContext &context)
 {
     while (!context.hasFailed()) {
         const PromptReply option = co_await context.keyword(
-            u"Enter an option "
-            u"[?/Make/Set/New/Rename/ON/OFF/Color/Ltype/LWeight/TRansparency/MATerial/Plot/PStyle/Freeze/"
-            "Thaw/LOck/Unlock/stAte/Description/rEconcile]: "_s);
+            Commands::tr("Enter an option "
+                         "[?/Make/Set/New/Rename/ON/OFF/Color/Ltype/LWeight/TRansparency/MATerial/Plot/PStyle/Freeze/"
+                         "Thaw/LOck/Unlock/stAte/Description/rEconcile]: "));
         if (!option.hasValue())
             break;
         co_await takeLayerOption(context, option.text);
@@ -265,7 +268,7 @@ private:
 
 CommandTask layer(CommandContext &context)
 {
-    context.print(u"\nCurrent layer:  \"%1\""_s.arg(currentLayer(context)));
+    context.print(Commands::tr("\nCurrent layer:  \"%1\"").arg(currentLayer(context)));
     const LayerMemory memory(context);
     co_await takeLayerOptions(context);
 }

@@ -4,6 +4,7 @@
 #include "host/commands/common/OutputFile.h"
 #include "host/commands/layers/StoredLayerStates.h"
 #include "host/kernel/documents/Document.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/running/CommandContext.h"
 
 #include <QDir>
@@ -44,10 +45,10 @@ Dialogue<qint64> askParts(CommandContext &context, qint64 parts)
         for (const PartWord &row : partWords)
             if (parts & row.part)
                 given.append(row.word.toString());
-        context.print(u"\nStates to restore: "_s + given.join(u", "_s));
+        context.print(Commands::tr("\nStates to restore: ") + given.join(u", "_s));
         const PromptReply word = co_await context.keyword(
-            u"Enter states to change [On/Frozen/Lock/Plot/Newvpfreeze/Color/lineType/lineWeight/plotStyle/"
-            "TRansparency]: "_s);
+            Commands::tr("Enter states to change [On/Frozen/Lock/Plot/Newvpfreeze/Color/lineType/lineWeight/plotStyle/"
+                         "TRansparency]: "));
         if (!word.hasValue())
             co_return parts;
         parts ^= std::ranges::find(partWords, QStringView(word.text), &PartWord::word)->part;
@@ -57,13 +58,13 @@ Dialogue<qint64> askParts(CommandContext &context, qint64 parts)
 void listStates(CommandContext &context)
 {
     const QStringList names = layerStateNames(context.drawing());
-    context.print(names.isEmpty() ? u"\nNo layer states."_s : u"\nLayer states: "_s + names.join(u", "_s));
+    context.print(names.isEmpty() ? Commands::tr("\nNo layer states.")
+                                  : Commands::tr("\nLayer states: ") + names.join(u", "_s));
 }
 
 /// The name of a state that is there; empty when there is none, which was told.
-Dialogue<QString> askState(CommandContext &context, const QString what)
+Dialogue<QString> askState(CommandContext &context, const QString prompt)
 {
-    const QString prompt = u"Enter name of layer state to %1 or [?]: "_s.arg(what);
     PromptReply reply = co_await context.text(prompt, {}, u"?"_s);
     while (reply.isKeyword(u"?")) {
         listStates(context);
@@ -71,7 +72,7 @@ Dialogue<QString> askState(CommandContext &context, const QString what)
     }
     const QString name = reply.text.trimmed();
     if (!reply.hasValue() || !layerStateParts(context.drawing(), name)) {
-        context.refuse(u"Cannot find layer state \"%1\"."_s.arg(name));
+        context.refuse(Commands::tr("Cannot find layer state \"%1\".").arg(name));
         co_return QString();
     }
     co_return name;
@@ -79,12 +80,12 @@ Dialogue<QString> askState(CommandContext &context, const QString what)
 
 Dialogue<bool> saveState(CommandContext &context)
 {
-    const PromptReply reply = co_await context.text(u"Enter new layer state name: "_s);
+    const PromptReply reply = co_await context.text(Commands::tr("Enter new layer state name: "));
     const QString name = reply.text.trimmed();
     if (name.isEmpty())
         co_return false;
     if (context.drawing().version() < drawing::Version::R2000) {
-        context.refuse(u"A drawing of this version keeps no layer states."_s);
+        context.refuse(Commands::tr("A drawing of this version keeps no layer states."));
         co_return false;
     }
     const qint64 parts = co_await askParts(context, WholeState);
@@ -93,7 +94,7 @@ Dialogue<bool> saveState(CommandContext &context)
 
 Dialogue<bool> restoreState(CommandContext &context)
 {
-    const QString name = co_await askState(context, u"restore"_s);
+    const QString name = co_await askState(context, Commands::tr("Enter name of layer state to restore or [?]: "));
     if (!name.isEmpty())
         restoreLayerState(context.drawing(), name);
     co_return true;
@@ -101,7 +102,7 @@ Dialogue<bool> restoreState(CommandContext &context)
 
 Dialogue<bool> editState(CommandContext &context)
 {
-    const QString name = co_await askState(context, u"edit"_s);
+    const QString name = co_await askState(context, Commands::tr("Enter name of layer state to edit or [?]: "));
     if (name.isEmpty())
         co_return false;
     const qint64 parts = co_await askParts(context, *layerStateParts(context.drawing(), name));
@@ -111,18 +112,18 @@ Dialogue<bool> editState(CommandContext &context)
 
 Dialogue<bool> renameState(CommandContext &context)
 {
-    const QString name = co_await askState(context, u"rename"_s);
+    const QString name = co_await askState(context, Commands::tr("Enter name of layer state to rename or [?]: "));
     if (name.isEmpty())
         co_return false;
-    const PromptReply reply = co_await context.text(u"Enter new layer state name: "_s);
+    const PromptReply reply = co_await context.text(Commands::tr("Enter new layer state name: "));
     if (!renameLayerState(context.drawing(), name, reply.text.trimmed()))
-        context.refuse(u"Layer state \"%1\" already exists or cannot be one."_s.arg(reply.text.trimmed()));
+        context.refuse(Commands::tr("Layer state \"%1\" already exists or cannot be one.").arg(reply.text.trimmed()));
     co_return true;
 }
 
 Dialogue<bool> deleteState(CommandContext &context)
 {
-    const QString name = co_await askState(context, u"delete"_s);
+    const QString name = co_await askState(context, Commands::tr("Enter name of layer state to delete or [?]: "));
     if (!name.isEmpty())
         removeLayerState(context.drawing(), name);
     co_return true;
@@ -131,25 +132,25 @@ Dialogue<bool> deleteState(CommandContext &context)
 Dialogue<bool> importState(CommandContext &context)
 {
     constexpr qint64 largestFile = 10'000'000;
-    const PromptReply file = co_await context.text(u"Enter name of file to import: "_s);
+    const PromptReply file = co_await context.text(Commands::tr("Enter name of file to import: "));
     if (!file.hasValue())
         co_return false;
     const QString path = context.document().findFile(file.text.trimmed());
     const files::WholeBytes text = files::readWhole(path, largestFile);
     const QString name = text ? takeLayerStateText(context.drawing(), text.bytes) : QString();
     if (name.isEmpty())
-        context.refuse(u"No layer state was taken from \"%1\"."_s.arg(file.text.trimmed()));
+        context.refuse(Commands::tr("No layer state was taken from \"%1\".").arg(file.text.trimmed()));
     else
-        context.print(u"\nLayer state \"%1\" imported."_s.arg(name));
+        context.print(Commands::tr("\nLayer state \"%1\" imported.").arg(name));
     co_return true;
 }
 
 Dialogue<bool> exportState(CommandContext &context)
 {
-    const QString name = co_await askState(context, u"export"_s);
+    const QString name = co_await askState(context, Commands::tr("Enter name of layer state to export or [?]: "));
     if (name.isEmpty())
         co_return false;
-    const PromptReply file = co_await context.text(u"Enter name of file to export: "_s);
+    const PromptReply file = co_await context.text(Commands::tr("Enter name of file to export: "));
     if (!file.hasValue())
         co_return false;
     QString path = QFileInfo(QDir::current(), file.text.trimmed()).absoluteFilePath();
@@ -185,7 +186,7 @@ Dialogue<bool> askLayerStates(CommandContext &context)
 {
     while (!context.hasFailed()) {
         const PromptReply option =
-            co_await context.keyword(u"Enter an option [?/Save/Restore/Edit/Name/Delete/Import/EXport]: "_s);
+            co_await context.keyword(Commands::tr("Enter an option [?/Save/Restore/Edit/Name/Delete/Import/EXport]: "));
         if (!option.hasValue())
             break;
         co_await std::ranges::find(stateActions, QStringView(option.text), &StateAction::option)->act(context);

@@ -6,6 +6,7 @@
 #include "host/drawing/references/LinetypeSource.h"
 #include "host/drawing/selection/Wildcard.h"
 #include "host/kernel/documents/Document.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/running/CommandContext.h"
 #include "host/kernel/variables/SystemVariables.h"
 
@@ -48,10 +49,10 @@ std::vector<LinetypeDefinition> definitionsOf(CommandContext &context, const QSt
             return supplied;
     const files::WholeBytes file = files::readWhole(path, largestSource);
     if (!file) {
-        context.print(path.isEmpty()
-                          ? u"\nCannot read linetype file \"%1\"."_s.arg(typed)
-                          : u"\nCannot read linetype file \"%1\": %2 (the limit is %3 MB)."_s.arg(typed, file.reason)
-                                .arg(largestSource >> 20));
+        context.print(path.isEmpty() ? Commands::tr("\nCannot read linetype file \"%1\".").arg(typed)
+                                     : Commands::tr("\nCannot read linetype file \"%1\": %2 (the limit is %3 MB).")
+                                           .arg(typed, file.reason)
+                                           .arg(largestSource >> 20));
         return {};
     }
     const QByteArray &bytes = file.bytes;
@@ -75,8 +76,8 @@ void tellLoaded(CommandContext &context, const LinetypeDefinition &definition)
 {
     drawing::ShapeFiles shapes([&](const QString &name) { return context.document().findNamedFile(name); });
     const QString error = drawing::loadLinetype(context.drawing(), definition, shapes);
-    context.print(error.isEmpty() ? u"\nLinetype \"%1\" loaded."_s.arg(definition.name)
-                                  : u"\nLinetype \"%1\" not loaded: %2."_s.arg(definition.name, error));
+    context.print(error.isEmpty() ? Commands::tr("\nLinetype \"%1\" loaded.").arg(definition.name)
+                                  : Commands::tr("\nLinetype \"%1\" not loaded: %2.").arg(definition.name, error));
 }
 
 void setCurrentLinetype(CommandContext &context, const QString &typed)
@@ -84,7 +85,7 @@ void setCurrentLinetype(CommandContext &context, const QString &typed)
     const QString name = withoutMark(typed.trimmed());
     loadedLinetype(context, name);
     if (context.document().variables().set(u"CELTYPE", name) != SetOutcome::Done)
-        context.print(u"\nLinetype \"%1\" not found."_s.arg(name));
+        context.print(Commands::tr("\nLinetype \"%1\" not found.").arg(name));
 }
 
 void listLoaded(CommandContext &context)
@@ -98,27 +99,29 @@ void listLoaded(CommandContext &context)
 CommandTask linetype(CommandContext &context)
 {
     for (;;) {
-        const PromptReply option = co_await context.keyword(u"Enter an option [?/Load/Set]: "_s, u"? Load Set"_s);
+        const PromptReply option =
+            co_await context.keyword(Commands::tr("Enter an option [?/Load/Set]: "), u"? Load Set"_s);
         if (!option.hasValue())
             co_return;
         if (option.text == u"?"_s) {
             listLoaded(context);
         } else if (option.text == u"Set"_s) {
-            const PromptReply name = co_await context.text(u"Specify linetype name: "_s);
+            const PromptReply name = co_await context.text(Commands::tr("Specify linetype name: "));
             if (name.hasValue())
                 setCurrentLinetype(context, name.text);
         } else {
-            const PromptReply names = co_await context.text(u"Enter linetype(s) to load: "_s);
-            const PromptReply source = co_await context.text(u"Enter name of linetype file: "_s);
+            const PromptReply names = co_await context.text(Commands::tr("Enter linetype(s) to load: "));
+            const PromptReply source = co_await context.text(Commands::tr("Enter name of linetype file: "));
             if (!names.hasValue() || !source.hasValue())
                 continue;
             const auto chosen = matching(definitionsOf(context, source.text), names.text);
             if (chosen.empty())
-                context.print(u"\nNo matching linetypes found."_s);
+                context.print(Commands::tr("\nNo matching linetypes found."));
             for (const LinetypeDefinition &definition : chosen) {
                 if (isValid(context.drawing().tables().find(TableKind::Linetype, definition.name))) {
                     const PromptReply again = co_await context.keyword(
-                        u"Linetype \"%1\" is already loaded. Reload it? [Yes/No] <Yes>: "_s.arg(definition.name),
+                        Commands::tr("Linetype \"%1\" is already loaded. Reload it? [Yes/No] <Yes>: ")
+                            .arg(definition.name),
                         u"Yes No"_s, u"Yes"_s);
                     if (again.text == u"No"_s || again.kind == ReplyKind::Cancelled)
                         continue;

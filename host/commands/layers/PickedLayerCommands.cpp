@@ -8,6 +8,7 @@
 #include "host/drawing/records/Tables.h"
 #include "host/kernel/documents/CurrentSpace.h"
 #include "host/kernel/documents/Document.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/running/CommandContext.h"
 #include "host/kernel/variables/SystemVariables.h"
 
@@ -50,13 +51,15 @@ Dialogue<bool> askIsolationSettings(CommandContext &context)
     const bool before = context.document().memory().isolationTurnsOff;
     const QString usual = before ? u"Off"_s : u"Lock and fade"_s;
     const PromptReply way = co_await context.keyword(
-        u"Enter setting for layers not isolated [Off/Lock and fade] <%1>: "_s.arg(usual), u"Off Lock"_s, usual);
+        Commands::tr("Enter setting for layers not isolated [Off/Lock and fade] <%1>: ").arg(usual), u"Off Lock"_s,
+        usual);
     const bool isOff = way.text.isEmpty() ? before : way.text == u"Off"_s;
     context.document().memory().isolationTurnsOff = isOff;
     if (isOff)
-        co_await context.keyword(u"In paper space viewport use [Vpfreeze/Off] <Vpfreeze>: "_s, {}, u"Vpfreeze"_s);
+        co_await context.keyword(Commands::tr("In paper space viewport use [Vpfreeze/Off] <Vpfreeze>: "), {},
+                                 u"Vpfreeze"_s);
     else
-        co_await context.integer(u"Enter fade value (0-90) <50>: "_s, {}, u"50"_s, NoNegative);
+        co_await context.integer(Commands::tr("Enter fade value (0-90) <50>: "), {}, u"50"_s, NoNegative);
     co_return true;
 }
 
@@ -77,22 +80,24 @@ void isolateLayers(CommandContext &context, const std::vector<RecordId> &entitie
     }
     context.document().memory().beforeIsolation = before;
     rememberLayers(context, before);
-    context.print(staying.size() == 1 ? u"\nLayer \"%1\" has been isolated."_s.arg(currentLayer(context))
-                                      : u"\n%1 layers have been isolated."_s.arg(staying.size()));
+    context.print(staying.size() == 1 ? Commands::tr("\nLayer \"%1\" has been isolated.").arg(currentLayer(context))
+                                      : Commands::tr("\n%1 layers have been isolated.").arg(staying.size()));
 }
 
 CommandTask isolate(CommandContext &context)
 {
     context.print(context.document().memory().isolationTurnsOff
-                      ? u"\nCurrent setting: Hide layers, Viewports=Vpfreeze"_s
-                      : u"\nCurrent setting: Lock layers, Fade=50"_s);
-    PromptReply chosen = co_await context.selection(u"Select objects on the layer(s) to be isolated or [Settings]: "_s);
+                      ? Commands::tr("\nCurrent setting: Hide layers, Viewports=Vpfreeze")
+                      : Commands::tr("\nCurrent setting: Lock layers, Fade=50"));
+    PromptReply chosen =
+        co_await context.selection(Commands::tr("Select objects on the layer(s) to be isolated or [Settings]: "));
     while (chosen.isKeyword(u"Settings")) {
         co_await askIsolationSettings(context);
-        chosen = co_await context.selection(u"Select objects on the layer(s) to be isolated or [Settings]: "_s);
+        chosen =
+            co_await context.selection(Commands::tr("Select objects on the layer(s) to be isolated or [Settings]: "));
     }
     if (chosen.entities.empty())
-        context.fail(u"Nothing was selected."_s);
+        context.fail(Commands::tr("Nothing was selected."));
     else
         isolateLayers(context, chosen.entities);
 }
@@ -101,31 +106,32 @@ CommandTask endIsolation(CommandContext &context)
 {
     LayerStates &states = context.document().memory().beforeIsolation;
     if (states.isEmpty()) {
-        context.print(u"\nNo layers are isolated."_s);
+        context.print(Commands::tr("\nNo layers are isolated."));
         co_return;
     }
     const LayerStates before = layerStates(context);
     restoreLayers(context, std::exchange(states, {}));
     rememberLayers(context, before);
-    context.print(u"\nLayers isolated by LAYISO command have been restored."_s);
+    context.print(Commands::tr("\nLayers isolated by LAYISO command have been restored."));
 }
 
 CommandTask showPreviousLayers(CommandContext &context)
 {
     std::vector<LayerStates> &former = context.document().memory().formerLayers;
     if (former.empty()) {
-        context.print(u"\nThere is no previous state of the layers."_s);
+        context.print(Commands::tr("\nThere is no previous state of the layers."));
         co_return;
     }
     restoreLayers(context, former.back());
     former.pop_back();
-    context.print(u"\nRestored previous layer status."_s);
+    context.print(Commands::tr("\nRestored previous layer status."));
 }
 
 /// What a command that picks layers one after another does with each.
 struct Switch
 {
-    const char *what;                                               ///< as the prompt says it
+    const char *prompt;                                             ///< as it asks for an object
+    const char *done;                                               ///< what it tells then
     bool (*apply)(CommandContext &context, const Layer &layer);     ///< whether something changed
     void (*takeBack)(CommandContext &context, const Layer &before); ///< as it was
 };
@@ -144,7 +150,7 @@ bool freezePicked(CommandContext &context, const Layer &layer)
     if (leaveViewport(context, layer))
         return true;
     if (isCurrent(context, layer)) {
-        context.print(u"\nCannot freeze layer \"%1\". It is the current layer."_s.arg(layer.name));
+        context.print(Commands::tr("\nCannot freeze layer \"%1\". It is the current layer.").arg(layer.name));
         return false;
     }
     changeLayerFlag(context, layer, frozenLayer, true);
@@ -168,25 +174,32 @@ void restoreViewport(CommandContext &context, const Layer &layer)
     drawing::setLayersFrozenIn(context.drawing(), viewport, frozen);
 }
 
-constexpr Switch freezing = {"frozen", freezePicked, [](CommandContext &context, const Layer &before) {
-                                 restoreViewport(context, before);
-                                 changeLayerFlag(context, before, frozenLayer, before.isFrozen);
-                             }};
-constexpr Switch turningOff = {"turned off", turnOffPicked, [](CommandContext &context, const Layer &before) {
-                                   restoreViewport(context, before);
-                                   switchLayer(context, before, !before.isOff);
-                               }};
+constexpr Switch freezing = {
+    QT_TRANSLATE_NOOP("Commands", "Select an object on the layer to be frozen or [Settings/Undo]: "),
+    QT_TRANSLATE_NOOP("Commands", "\nLayer \"%1\" has been frozen."), freezePicked,
+    [](CommandContext &context, const Layer &before) {
+        restoreViewport(context, before);
+        changeLayerFlag(context, before, frozenLayer, before.isFrozen);
+    }};
+constexpr Switch turningOff = {
+    QT_TRANSLATE_NOOP("Commands", "Select an object on the layer to be turned off or [Settings/Undo]: "),
+    QT_TRANSLATE_NOOP("Commands", "\nLayer \"%1\" has been turned off."), turnOffPicked,
+    [](CommandContext &context, const Layer &before) {
+        restoreViewport(context, before);
+        switchLayer(context, before, !before.isOff);
+    }};
 
 /// How picks are taken is the same here whatever the settings say: the answers are taken so that programs go on in
 /// step.
 Dialogue<bool> askPickSettings(CommandContext &context)
 {
-    const PromptReply which = co_await context.keyword(u"Enter setting type for [Viewports/Block selection]: "_s);
+    const PromptReply which =
+        co_await context.keyword(Commands::tr("Enter setting type for [Viewports/Block selection]: "));
     if (which.text == u"Viewports"_s)
-        co_await context.keyword(u"In paper space viewport use [Vpfreeze/Freeze/Off] <Vpfreeze>: "_s, {},
+        co_await context.keyword(Commands::tr("In paper space viewport use [Vpfreeze/Freeze/Off] <Vpfreeze>: "), {},
                                  u"Vpfreeze"_s);
     else if (which.hasValue())
-        co_await context.keyword(u"Enter block selection nesting level [Block/Entity/None] <Entity>: "_s, {},
+        co_await context.keyword(Commands::tr("Enter block selection nesting level [Block/Entity/None] <Entity>: "), {},
                                  u"Entity"_s);
     co_return true;
 }
@@ -196,7 +209,8 @@ Dialogue<bool> mayTurnOff(CommandContext &context, Layer layer)
     if (!isCurrent(context, layer) || isValid(currentViewport(context.drawing())))
         co_return true;
     const PromptReply sure = co_await context.keyword(
-        u"Layer \"%1\" is current, do you want to turn it off? [Yes/No] <No>: "_s.arg(layer.name), {}, u"No"_s);
+        Commands::tr("Layer \"%1\" is current, do you want to turn it off? [Yes/No] <No>: ").arg(layer.name), {},
+        u"No"_s);
     co_return sure.text == u"Yes"_s;
 }
 
@@ -204,8 +218,7 @@ Dialogue<bool> switchPicked(CommandContext &context, Switch how)
 {
     std::vector<Layer> done;
     for (;;) {
-        const PromptReply reply = co_await context.entity(
-            u"Select an object on the layer to be %1 or [Settings/Undo]: "_s.arg(QLatin1StringView(how.what)));
+        const PromptReply reply = co_await context.entity(Commands::tr(how.prompt));
         if (reply.isKeyword(u"Settings")) {
             co_await askPickSettings(context);
         } else if (reply.isKeyword(u"Undo")) {
@@ -219,7 +232,7 @@ Dialogue<bool> switchPicked(CommandContext &context, Switch how)
                 isWanted = co_await mayTurnOff(context, *layer);
             if (isWanted && how.apply(context, *layer)) {
                 done.push_back(*layer);
-                context.print(u"\nLayer \"%1\" has been %2."_s.arg(layer->name, QLatin1StringView(how.what)));
+                context.print(Commands::tr(how.done).arg(layer->name));
             }
         } else if (!reply.isMiss) {
             co_return true;
@@ -256,7 +269,7 @@ CommandTask turnAllOn(CommandContext &context)
         if (layer.isOff)
             switchLayer(inside, layer, true);
     });
-    context.print(u"\nAll layers have been turned on."_s);
+    context.print(Commands::tr("\nAll layers have been turned on."));
     co_return;
 }
 
@@ -266,19 +279,22 @@ CommandTask thawAll(CommandContext &context)
         if (layer.isFrozen)
             changeLayerFlag(inside, layer, frozenLayer, false);
     });
-    context.print(u"\nAll layers have been thawed."_s);
+    context.print(Commands::tr("\nAll layers have been thawed."));
     co_return;
 }
 
 Dialogue<bool> lockPicked(CommandContext &context, bool isLocked)
 {
-    const QString what = isLocked ? u"locked"_s : u"unlocked"_s;
     const LayerStates before = layerStates(context);
-    const PromptReply reply = co_await context.entity(u"Select an object on the layer to be %1: "_s.arg(what));
+    const QString prompt = isLocked ? Commands::tr("Select an object on the layer to be locked: ")
+                                    : Commands::tr("Select an object on the layer to be unlocked: ");
+    const PromptReply reply = co_await context.entity(prompt);
     const std::optional<Layer> layer = pickedLayer(context, reply);
     if (layer) {
         changeLayerFlag(context, *layer, lockedLayer, isLocked);
-        context.print(u"\nLayer \"%1\" has been %2."_s.arg(layer->name, what));
+        context.print((isLocked ? Commands::tr("\nLayer \"%1\" has been locked.")
+                                : Commands::tr("\nLayer \"%1\" has been unlocked."))
+                          .arg(layer->name));
     }
     rememberLayers(context, before);
     co_return layer.has_value();
@@ -302,29 +318,31 @@ void putOnLayer(CommandContext &context, const std::vector<RecordId> &chosen, co
         drawing::setField(fields, 8, layer);
         context.drawing().entities().modify(entity, fields);
     }
-    context.print(entities.size() == 1 ? u"\nOne object changed to layer \"%1\"."_s.arg(layer)
-                                       : u"\n%1 objects changed to layer \"%2\"."_s.arg(entities.size()).arg(layer));
+    context.print(entities.size() == 1
+                      ? Commands::tr("\nOne object changed to layer \"%1\".").arg(layer)
+                      : Commands::tr("\n%1 objects changed to layer \"%2\".").arg(entities.size()).arg(layer));
 }
 
 CommandTask toCurrentLayer(CommandContext &context)
 {
-    const PromptReply chosen = co_await context.selection(u"Select objects to be changed to the current layer: "_s);
+    const PromptReply chosen =
+        co_await context.selection(Commands::tr("Select objects to be changed to the current layer: "));
     if (!chosen.entities.empty())
         putOnLayer(context, chosen.entities, currentLayer(context));
 }
 
 CommandTask toPickedLayer(CommandContext &context)
 {
-    const PromptReply chosen = co_await context.selection(u"Select objects to be changed: "_s);
+    const PromptReply chosen = co_await context.selection(Commands::tr("Select objects to be changed: "));
     if (chosen.entities.empty())
         co_return;
-    const PromptReply target = co_await context.entity(u"Select object on destination layer or [Name]: "_s);
+    const PromptReply target = co_await context.entity(Commands::tr("Select object on destination layer or [Name]: "));
     std::optional<Layer> layer = pickedLayer(context, target);
     if (target.kind == ReplyKind::Keyword) {
-        const PromptReply name = co_await context.text(u"Enter layer name: "_s);
+        const PromptReply name = co_await context.text(Commands::tr("Enter layer name: "));
         layer = drawing::findLayer(context.drawing(), name.text.trimmed());
         if (!layer)
-            context.fail(u"Cannot find layer \"%1\"."_s.arg(name.text.trimmed()));
+            context.fail(Commands::tr("Cannot find layer \"%1\".").arg(name.text.trimmed()));
     }
     if (layer)
         putOnLayer(context, chosen.entities, layer->name);
@@ -333,12 +351,12 @@ CommandTask toPickedLayer(CommandContext &context)
 CommandTask makePickedCurrent(CommandContext &context)
 {
     const LayerStates before = layerStates(context);
-    const PromptReply reply = co_await context.entity(u"Select object whose layer will become current: "_s);
+    const PromptReply reply = co_await context.entity(Commands::tr("Select object whose layer will become current: "));
     const std::optional<Layer> layer = pickedLayer(context, reply);
     if (layer && layer->isFrozen)
-        context.fail(u"Cannot make layer \"%1\" current: it is frozen."_s.arg(layer->name));
+        context.fail(Commands::tr("Cannot make layer \"%1\" current: it is frozen.").arg(layer->name));
     else if (layer && context.document().variables().set(u"CLAYER", layer->name) == SetOutcome::Done)
-        context.print(u"\n%1 is now the current layer."_s.arg(layer->name));
+        context.print(Commands::tr("\n%1 is now the current layer.").arg(layer->name));
     rememberLayers(context, before);
 }
 
@@ -347,12 +365,12 @@ CommandTask isolateInViewport(CommandContext &context)
 {
     const RecordId inside = currentViewport(context.drawing());
     if (!isValid(inside)) {
-        context.fail(u"This command works through a viewport of a sheet: MSPACE goes into one."_s);
+        context.fail(Commands::tr("This command works through a viewport of a sheet: MSPACE goes into one."));
         co_return;
     }
     for (;;) {
-        const PromptReply reply =
-            co_await context.entity(u"Select an object on the layer to be isolated in viewport or [Settings/Undo]: "_s);
+        const PromptReply reply = co_await context.entity(
+            Commands::tr("Select an object on the layer to be isolated in viewport or [Settings/Undo]: "));
         if (reply.isKeyword(u"Settings"))
             co_await askPickSettings(context);
         const std::optional<Layer> layer = pickedLayer(context, reply);
@@ -364,7 +382,8 @@ CommandTask isolateInViewport(CommandContext &context)
         for (const RecordId viewport : drawing::viewportsOf(context.drawing(), *sheet))
             if (viewport != inside)
                 drawing::freezeLayersIn(context.drawing(), viewport, {layer->name});
-        context.print(u"\nLayer \"%1\" has been frozen in all viewports but the current one."_s.arg(layer->name));
+        context.print(
+            Commands::tr("\nLayer \"%1\" has been frozen in all viewports but the current one.").arg(layer->name));
     }
 }
 

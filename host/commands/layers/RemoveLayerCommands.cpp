@@ -2,6 +2,7 @@
 #include "host/commands/layers/LayerStates.h"
 #include "host/drawing/editing/MergeLayers.h"
 #include "host/drawing/records/Symbols.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/running/CommandContext.h"
 #include "host/kernel/running/Dialogue.h"
 
@@ -27,19 +28,18 @@ Dialogue<QString> askLayer(CommandContext &context, QString prompt, QString name
         const PromptReply name = co_await context.text(namePrompt);
         const auto layer = drawing::findLayer(context.drawing(), name.text.trimmed());
         if (!layer)
-            context.fail(u"Cannot find layer \"%1\"."_s.arg(name.text.trimmed()));
+            context.fail(Commands::tr("Cannot find layer \"%1\".").arg(name.text.trimmed()));
         co_return layer ? layer->name : QString();
     }
 }
 
 /// Layers one after another; those that must stay are told.
-Dialogue<QStringList> askLayersToRemove(CommandContext &context, QString what)
+Dialogue<QStringList> askLayersToRemove(CommandContext &context, QString prompt, QString namePrompt)
 {
     QStringList names;
     while (!context.hasFailed()) {
         const QString options = names.isEmpty() ? u"[Name]"_s : u"[Name/Undo]"_s;
-        const QString name = co_await askLayer(context, u"Select object on layer to %1 or %2: "_s.arg(what, options),
-                                               u"Enter layer name to %1: "_s.arg(what));
+        const QString name = co_await askLayer(context, prompt.arg(options), namePrompt);
         if (name.isEmpty())
             break;
         if (name == u"*undo") {
@@ -52,7 +52,7 @@ Dialogue<QStringList> askLayersToRemove(CommandContext &context, QString what)
         else if (!names.contains(name, Qt::CaseInsensitive))
             names.append(name);
         if (!names.isEmpty())
-            context.print(u"\nSelected layers: %1."_s.arg(names.join(u',')));
+            context.print(Commands::tr("\nSelected layers: %1.").arg(names.join(u',')));
     }
     co_return names;
 }
@@ -60,39 +60,44 @@ Dialogue<QStringList> askLayersToRemove(CommandContext &context, QString what)
 Dialogue<bool> isSure(CommandContext &context, QString warning)
 {
     context.print(u"\n******** WARNING ********\n"_s + warning);
-    const PromptReply sure = co_await context.keyword(u"Do you wish to continue? [Yes/No] <No>: "_s, {}, u"No"_s);
+    const PromptReply sure =
+        co_await context.keyword(Commands::tr("Do you wish to continue? [Yes/No] <No>: "), {}, u"No"_s);
     co_return sure.text == u"Yes"_s;
 }
 
 CommandTask deleteLayers(CommandContext &context)
 {
-    const QStringList names = co_await askLayersToRemove(context, u"delete"_s);
+    const QStringList names =
+        co_await askLayersToRemove(context, Commands::tr("Select object on layer to delete or %1: "),
+                                   Commands::tr("Enter layer name to delete: "));
     if (names.isEmpty() || context.hasFailed())
         co_return;
     const bool isWanted = co_await isSure(
-        context, u"All that is on layer(s) %1 is erased, and the layers are deleted."_s.arg(names.join(u',')));
+        context,
+        Commands::tr("All that is on layer(s) %1 is erased, and the layers are deleted.").arg(names.join(u',')));
     if (!isWanted)
         co_return;
     const int count = drawing::eraseLayers(context.drawing(), names);
-    context.print(u"\n%1 layer(s) deleted with %2 object(s)."_s.arg(names.size()).arg(count));
+    context.print(Commands::tr("\n%1 layer(s) deleted with %2 object(s).").arg(names.size()).arg(count));
 }
 
 CommandTask mergeInto(CommandContext &context)
 {
-    QStringList names = co_await askLayersToRemove(context, u"merge"_s);
+    QStringList names = co_await askLayersToRemove(context, Commands::tr("Select object on layer to merge or %1: "),
+                                                   Commands::tr("Enter layer name to merge: "));
     if (names.isEmpty() || context.hasFailed())
         co_return;
-    const QString target =
-        co_await askLayer(context, u"Select object on target layer or [Name]: "_s, u"Enter layer name: "_s);
+    const QString target = co_await askLayer(context, Commands::tr("Select object on target layer or [Name]: "),
+                                             Commands::tr("Enter layer name: "));
     if (target.isEmpty() || context.hasFailed())
         co_return;
     names.removeIf([&](const QString &name) { return name.compare(target, Qt::CaseInsensitive) == 0; });
     const bool isWanted = co_await isSure(
-        context, u"You are about to merge %1 layer(s) into layer \"%2\"."_s.arg(names.size()).arg(target));
+        context, Commands::tr("You are about to merge %1 layer(s) into layer \"%2\".").arg(names.size()).arg(target));
     if (!isWanted)
         co_return;
     drawing::mergeLayers(context.drawing(), names, target);
-    context.print(u"\n%1 layer(s) deleted."_s.arg(names.size()));
+    context.print(Commands::tr("\n%1 layer(s) deleted.").arg(names.size()));
 }
 
 } // namespace

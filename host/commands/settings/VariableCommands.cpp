@@ -4,6 +4,7 @@
 #include "host/kernel/documents/Document.h"
 #include "host/kernel/input/Keywords.h"
 #include "host/kernel/input/Units.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/running/CommandContext.h"
 #include "host/kernel/running/Dialogue.h"
 #include "host/kernel/variables/HostVariables.h"
@@ -26,16 +27,16 @@ QString listedValue(const SystemVariables &variables, const QString &name)
 /// Names with wildcards, divided by commas; an empty answer means all. True when there were some.
 Dialogue<bool> listVariables(CommandContext &context)
 {
-    const PromptReply typed = co_await context.text(u"Enter variable(s) to list <*>: "_s, u"*"_s);
+    const PromptReply typed = co_await context.text(Commands::tr("Enter variable(s) to list <*>: "), u"*"_s);
     const QString pattern = typed.hasValue() ? typed.text.trimmed() : u"*"_s;
     const SystemVariables &variables = context.document().variables();
     QString lines;
     for (const QString &name : variables.names()) {
         if (drawing::matchesWildcard(name, pattern))
             lines += u"\n%1 %2%3"_s.arg(name.leftJustified(23), listedValue(variables, name),
-                                        variables.isReadOnly(name) ? u" (read only)"_s : QString());
+                                        variables.isReadOnly(name) ? Commands::tr(" (read only)") : QString());
     }
-    context.print(lines.isEmpty() ? u"\nNo variable has such a name."_s : lines);
+    context.print(lines.isEmpty() ? Commands::tr("\nNo variable has such a name.") : lines);
     co_return !lines.isEmpty();
 }
 
@@ -85,25 +86,23 @@ QString requirement(const QString &name, const VariableValue &present)
 {
     const HostVariable *row = findHostVariable(name);
     const bool hasRange = row && row->low < row->high;
-    const auto between = [&](const QString &what) {
-        const bool isOpen = !hasRange || row->high >= 1e99;
-        return isOpen ? u"Requires %1."_s.arg(what)
-                      : u"Requires %1 between %2 and %3."_s.arg(what).arg(row->low).arg(row->high);
-    };
+    const bool isOpen = !hasRange || row->high >= 1e99;
     if (std::holds_alternative<qint32>(present))
-        return between(u"an integer"_s);
+        return isOpen ? Commands::tr("Requires an integer.")
+                      : Commands::tr("Requires an integer between %1 and %2.").arg(row->low).arg(row->high);
     if (std::holds_alternative<double>(present))
-        return between(u"a number"_s);
+        return isOpen ? Commands::tr("Requires a number.")
+                      : Commands::tr("Requires a number between %1 and %2.").arg(row->low).arg(row->high);
     if (std::holds_alternative<QString>(present))
-        return u"Cannot set %1 to that value."_s.arg(name);
-    return u"Requires a point."_s;
+        return Commands::tr("Cannot set %1 to that value.").arg(name);
+    return Commands::tr("Requires a point.");
 }
 
 // Name of a variable, or ? to list them, and a new value; an empty value leaves it.
 CommandTask setVariable(CommandContext &context)
 {
     SystemVariables &variables = context.document().variables();
-    const PromptReply typedName = co_await context.name(u"Enter variable name or [?]: "_s);
+    const PromptReply typedName = co_await context.name(Commands::tr("Enter variable name or [?]: "));
     const QString name = typedName.text.trimmed().toUpper();
     if (name == u"?"_s) {
         co_await listVariables(context);
@@ -111,16 +110,17 @@ CommandTask setVariable(CommandContext &context)
     }
     const std::optional<VariableValue> present = variables.get(name);
     if (!present) {
-        context.fail(u"Unknown variable name \"%1\". Type SETVAR ? for a list of variables."_s.arg(name));
+        context.fail(Commands::tr("Unknown variable name \"%1\". Type SETVAR ? for a list of variables.").arg(name));
         co_return;
     }
     const QString shown = listedValue(variables, name);
     if (variables.isReadOnly(name)) {
-        context.print(u"\n%1 = %2 (read only)"_s.arg(name, shown));
+        context.print(Commands::tr("\n%1 = %2 (read only)").arg(name, shown));
         co_return;
     }
     while (true) {
-        const PromptReply typed = co_await context.text(u"Enter new value for %1 <%2>: "_s.arg(name, shown), shown);
+        const PromptReply typed =
+            co_await context.text(Commands::tr("Enter new value for %1 <%2>: ").arg(name, shown), shown);
         if (!typed.hasValue())
             co_return;
         const std::optional<VariableValue> value = typedValue(variables, name, *present, typed.text);

@@ -4,6 +4,7 @@
 #include "host/drawing/records/Blocks.h"
 #include "host/kernel/documents/CurrentSpace.h"
 #include "host/kernel/documents/Document.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/running/CommandContext.h"
 #include "host/kernel/running/Dialogue.h"
 
@@ -25,7 +26,7 @@ Dialogue<std::optional<LayoutTab>> askForLayout(CommandContext &context, QString
     const QString name = reply.hasValue() ? reply.text.trimmed() : currentLayout(context.drawing());
     std::optional<LayoutTab> found = drawing::findLayout(context.drawing(), name);
     if (!found)
-        context.fail(u"Layout \"%1\" not found."_s.arg(name));
+        context.fail(Commands::tr("Layout \"%1\" not found.").arg(name));
     co_return found;
 }
 
@@ -38,11 +39,11 @@ QString offeredSheet(CommandContext &context)
 void listLayouts(CommandContext &context)
 {
     const std::vector<LayoutTab> tabs = drawing::layoutTabs(context.drawing());
-    context.print(u"\nActive layouts:"_s);
+    context.print(Commands::tr("\nActive layouts:"));
     for (const LayoutTab &tab : tabs)
-        context.print(u"\nLayout: %1\tBlock name: %2."_s.arg(
-            tab.name, isValid(tab.block) ? context.drawing().blocks().name(tab.block) : u"-"_s));
-    context.print(u"\n%1 active layout(s) found."_s.arg(tabs.size()));
+        context.print(Commands::tr("\nLayout: %1\tBlock name: %2.")
+                          .arg(tab.name, isValid(tab.block) ? context.drawing().blocks().name(tab.block) : u"-"_s));
+    context.print(Commands::tr("\n%1 active layout(s) found.").arg(tabs.size()));
 }
 
 /// The outcome of an edit: a reason to end with, or a line for the user.
@@ -56,59 +57,62 @@ void tell(CommandContext &context, const QString &obstacle, const QString &done)
 
 Dialogue<bool> copyOne(CommandContext &context)
 {
-    const auto layout = co_await askForLayout(context, u"Enter name of layout to copy: "_s, offeredSheet(context));
+    const auto layout =
+        co_await askForLayout(context, Commands::tr("Enter name of layout to copy: "), offeredSheet(context));
     if (!layout)
         co_return false;
     const QString usual = drawing::freeCopyName(context.drawing(), layout->name);
-    const PromptReply name = co_await context.text(u"Enter layout name for copy: "_s, usual);
+    const PromptReply name = co_await context.text(Commands::tr("Enter layout name for copy: "), usual);
     if (name.kind == ReplyKind::Cancelled)
         co_return false;
     const QString chosen = name.hasValue() ? name.text.trimmed() : usual;
     tell(context, drawing::copyLayout(context.drawing(), *layout, chosen),
-         u"Layout \"%1\" copied to \"%2\"."_s.arg(layout->name, chosen));
+         Commands::tr("Layout \"%1\" copied to \"%2\".").arg(layout->name, chosen));
     co_return true;
 }
 
 Dialogue<bool> makeOne(CommandContext &context)
 {
     const QString usual = drawing::freeLayoutName(context.drawing());
-    const PromptReply name = co_await context.text(u"Enter new Layout name: "_s, usual);
+    const PromptReply name = co_await context.text(Commands::tr("Enter new Layout name: "), usual);
     if (name.kind == ReplyKind::Cancelled)
         co_return false;
     const QString chosen = name.hasValue() ? name.text.trimmed() : usual;
-    tell(context, drawing::newLayout(context.drawing(), chosen), u"Layout \"%1\" created."_s.arg(chosen));
+    tell(context, drawing::newLayout(context.drawing(), chosen), Commands::tr("Layout \"%1\" created.").arg(chosen));
     co_return true;
 }
 
 Dialogue<bool> renameOne(CommandContext &context)
 {
-    const auto layout = co_await askForLayout(context, u"Enter layout to rename: "_s, offeredSheet(context));
+    const auto layout = co_await askForLayout(context, Commands::tr("Enter layout to rename: "), offeredSheet(context));
     if (!layout)
         co_return false;
-    const PromptReply name = co_await context.text(u"Enter new layout name: "_s);
+    const PromptReply name = co_await context.text(Commands::tr("Enter new layout name: "));
     if (!name.hasValue())
         co_return false;
     const QString chosen = name.text.trimmed();
     tell(context, drawing::renameLayout(context.drawing(), *layout, chosen),
-         u"Layout \"%1\" renamed to \"%2\"."_s.arg(layout->name, chosen));
+         Commands::tr("Layout \"%1\" renamed to \"%2\".").arg(layout->name, chosen));
     co_return true;
 }
 
 /// Where the deleted one was current, the sheet that is in use then becomes so.
 Dialogue<bool> deleteOne(CommandContext &context)
 {
-    const auto layout = co_await askForLayout(context, u"Enter name of layout to delete: "_s, offeredSheet(context));
+    const auto layout =
+        co_await askForLayout(context, Commands::tr("Enter name of layout to delete: "), offeredSheet(context));
     if (!layout)
         co_return false;
-    tell(context, drawing::deleteLayout(context.drawing(), *layout), u"Layout \"%1\" deleted."_s.arg(layout->name));
+    tell(context, drawing::deleteLayout(context.drawing(), *layout),
+         Commands::tr("Layout \"%1\" deleted.").arg(layout->name));
     context.document().followLayout();
     co_return true;
 }
 
 Dialogue<bool> makeCurrent(CommandContext &context)
 {
-    const auto layout =
-        co_await askForLayout(context, u"Enter layout to make current: "_s, currentLayout(context.drawing()));
+    const auto layout = co_await askForLayout(context, Commands::tr("Enter layout to make current: "),
+                                              currentLayout(context.drawing()));
     if (!layout)
         co_return false;
     setCurrentLayout(context.drawing(), layout->name);
@@ -119,18 +123,19 @@ Dialogue<bool> makeCurrent(CommandContext &context)
 /// Another place among the sheets, counted from 1; the others keep their order.
 Dialogue<bool> moveOne(CommandContext &context)
 {
-    const auto layout = co_await askForLayout(context, u"Enter layout to move: "_s, offeredSheet(context));
+    const auto layout = co_await askForLayout(context, Commands::tr("Enter layout to move: "), offeredSheet(context));
     if (!layout)
         co_return false;
-    const PromptReply place = co_await context.integer(u"Enter its place among the layouts: "_s, {}, {}, NoEmptyAnswer);
+    const PromptReply place =
+        co_await context.integer(Commands::tr("Enter its place among the layouts: "), {}, {}, NoEmptyAnswer);
     tell(context, drawing::moveLayout(context.drawing(), *layout, place.integer),
-         u"Layout \"%1\" moved."_s.arg(layout->name));
+         Commands::tr("Layout \"%1\" moved.").arg(layout->name));
     co_return true;
 }
 
 Dialogue<bool> saveOne(CommandContext &context)
 {
-    const QString question = u"Enter layout to save to template: "_s;
+    const QString question = Commands::tr("Enter layout to save to template: ");
     const auto layout = co_await askForLayout(context, question, offeredSheet(context));
     if (!layout)
         co_return false;
@@ -140,9 +145,9 @@ Dialogue<bool> saveOne(CommandContext &context)
 
 CommandTask layout(CommandContext &context)
 {
-    const PromptReply option =
-        co_await context.keyword(u"Enter layout option [Copy/Delete/New/Template/Rename/SAveas/Set/Move/?]: "_s,
-                                 u"Copy Delete New Template Rename SAveas Set Move ?"_s, u"Set"_s);
+    const PromptReply option = co_await context.keyword(
+        Commands::tr("Enter layout option [Copy/Delete/New/Template/Rename/SAveas/Set/Move/?]: "),
+        u"Copy Delete New Template Rename SAveas Set Move ?"_s, u"Set"_s);
     if (option.kind == ReplyKind::Cancelled)
         co_return;
     const QString what = option.hasValue() ? option.text : u"Set"_s;

@@ -8,6 +8,7 @@
 #include "host/drawing/records/Layouts.h"
 #include "host/drawing/selection/Wildcard.h"
 #include "host/kernel/documents/Session.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/running/CommandContext.h"
 #include "host/kernel/variables/SystemVariables.h"
 
@@ -48,10 +49,10 @@ void addSheets(CommandContext &context, const drawing::Drawing &source, const st
         const drawing::MergeResult made =
             drawing::mergeSheets(source, {{sheet.name, name}}, target, {.takesModel = withoutModel});
         if (!made)
-            return context.fail(u"Layout \"%1\": %2."_s.arg(sheet.name, made.error));
-        context.print(u"\nLayout \"%1\" created."_s.arg(name));
+            return context.fail(Commands::tr("Layout \"%1\": %2.").arg(sheet.name, made.error));
+        context.print(Commands::tr("\nLayout \"%1\" created.").arg(name));
         if (made.skipped > 0)
-            context.print(u" %1 of its entities could not be taken over."_s.arg(made.skipped));
+            context.print(Commands::tr(" %1 of its entities could not be taken over.").arg(made.skipped));
     }
 }
 
@@ -59,12 +60,12 @@ void addSheets(CommandContext &context, const drawing::Drawing &source, const st
 
 Dialogue<bool> takeLayoutsFromFile(CommandContext &context)
 {
-    const PromptReply file = co_await context.text(u"Enter template file name: "_s);
+    const PromptReply file = co_await context.text(Commands::tr("Enter template file name: "));
     if (!file.hasValue())
         co_return false;
     const QString path = context.document().findFile(withDrawingEnding(file.text));
     if (path.isEmpty()) {
-        context.fail(u"Cannot find file \"%1\"."_s.arg(file.text.trimmed()));
+        context.fail(Commands::tr("Cannot find file \"%1\".").arg(file.text.trimmed()));
         co_return false;
     }
     const drawing::ReadResult source = drawing::Drawing::open(path);
@@ -72,11 +73,11 @@ Dialogue<bool> takeLayoutsFromFile(CommandContext &context)
         context.fail(drawing::openingError(path, source));
         co_return false;
     }
-    const PromptReply names = co_await context.text(u"Enter layout name(s): "_s);
+    const PromptReply names = co_await context.text(Commands::tr("Enter layout name(s): "));
     const QString pattern = names.hasValue() ? names.text.trimmed() : QString();
     const std::vector<drawing::LayoutTab> sheets = sheetsNamed(*source.drawing, pattern);
     if (sheets.empty())
-        context.fail(u"Layout \"%1\" not found in %2."_s.arg(pattern, path));
+        context.fail(Commands::tr("Layout \"%1\" not found in %2.").arg(pattern, path));
     else
         addSheets(context, *source.drawing, sheets);
     co_return !context.hasFailed();
@@ -84,7 +85,7 @@ Dialogue<bool> takeLayoutsFromFile(CommandContext &context)
 
 Dialogue<bool> saveLayoutToFile(CommandContext &context, drawing::LayoutTab layout)
 {
-    const PromptReply file = co_await context.text(u"Enter file name to save layout to: "_s);
+    const PromptReply file = co_await context.text(Commands::tr("Enter file name to save layout to: "));
     if (!file.hasValue() || file.text.trimmed().isEmpty())
         co_return false;
     const QString path = QFileInfo(QDir::current(), withDrawingEnding(file.text)).absoluteFilePath();
@@ -98,13 +99,13 @@ Dialogue<bool> saveLayoutToFile(CommandContext &context, drawing::LayoutTab layo
     const drawing::MergeResult merged =
         drawing::mergeSheets(context.drawing(), {{layout.name, layout.name}}, *made, rules);
     if (!merged) {
-        context.fail(u"Layout \"%1\": %2."_s.arg(layout.name, merged.error));
+        context.fail(Commands::tr("Layout \"%1\": %2.").arg(layout.name, merged.error));
         co_return false;
     }
     if (const drawing::SaveResult saved = drawing::saveCopy(*made, path); !saved)
         context.fail(saved.error);
     else
-        context.print(u"\n%1 was written."_s.arg(path));
+        context.print(Commands::tr("\n%1 was written.").arg(path));
     co_return !context.hasFailed();
 }
 

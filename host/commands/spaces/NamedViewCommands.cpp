@@ -9,6 +9,7 @@
 #include "host/drawing/records/Layouts.h"
 #include "host/kernel/documents/CurrentSpace.h"
 #include "host/kernel/documents/CurrentView.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/running/CommandContext.h"
 #include "host/kernel/variables/SystemVariables.h"
 
@@ -69,9 +70,9 @@ void storeView(CommandContext &context, const QString &name, const ViewState &vi
 /// A name for a view; nothing, with the command failed, for one that cannot be.
 Dialogue<std::optional<QString>> askNewName(CommandContext &context)
 {
-    const auto name = co_await askEntryName(context, TableKind::View, u"Enter view name to save: "_s);
+    const auto name = co_await askEntryName(context, TableKind::View, Commands::tr("Enter view name to save: "));
     if (name && !drawing::isSymbolName(*name, context.drawing().version())) {
-        context.fail(u"\"%1\" cannot be the name of a view."_s.arg(*name));
+        context.fail(Commands::tr("\"%1\" cannot be the name of a view.").arg(*name));
         co_return std::nullopt;
     }
     co_return name;
@@ -90,10 +91,10 @@ Dialogue<bool> saveWindow(CommandContext &context)
     const auto name = co_await askNewName(context);
     if (!name)
         co_return false;
-    const PromptReply first = co_await context.neededPoint(u"Specify first corner: "_s);
+    const PromptReply first = co_await context.neededPoint(Commands::tr("Specify first corner: "));
     PromptRequest request;
     request.kind = PromptKind::Corner;
-    request.prompt = u"\nSpecify opposite corner: "_s;
+    request.prompt = Commands::tr("\nSpecify opposite corner: ");
     request.base = first.point;
     request.bits = NoEmptyAnswer;
     const PromptReply second = co_await context.ask(request);
@@ -103,7 +104,7 @@ Dialogue<bool> saveWindow(CommandContext &context)
     view.height = std::abs(size.y);
     view.pixels = {std::max(1, int(std::min(1e6, 1000.0 * std::abs(size.x / size.y)))), 1000};
     if (!(view.height > 0.0) || size.x == 0.0)
-        context.fail(u"The window has no area."_s);
+        context.fail(Commands::tr("The window has no area."));
     else
         storeView(context, *name, view);
     co_return true;
@@ -122,9 +123,9 @@ Dialogue<bool> enterSpaceOf(CommandContext &context, qint64 flags)
     }
     if (currentSpace(drawing) == drawing::Space::Model)
         co_return true;
-    const PromptReply picked = co_await context.entity(u"Select viewport for view: "_s);
+    const PromptReply picked = co_await context.entity(Commands::tr("Select viewport for view: "));
     if (picked.entities.empty() || !drawing.isType(picked.entities.front(), "VIEWPORT")) {
-        context.fail(u"The view shows model space, and no viewport was chosen for it."_s);
+        context.fail(Commands::tr("The view shows model space, and no viewport was chosen for it."));
         co_return false;
     }
     drawing.layouts().setCurrentViewport(picked.entities.front());
@@ -133,8 +134,9 @@ Dialogue<bool> enterSpaceOf(CommandContext &context, qint64 flags)
 
 Dialogue<bool> restoreView(CommandContext &context)
 {
-    const auto name = co_await askEntryName(context, TableKind::View, u"Enter view name to restore: "_s);
-    const drawing::RecordId entry = name ? neededEntry(context, TableKind::View, u"view"_s, *name) : drawing::noRecord;
+    const auto name = co_await askEntryName(context, TableKind::View, Commands::tr("Enter view name to restore: "));
+    const drawing::RecordId entry =
+        name ? neededEntry(context, TableKind::View, Commands::tr("view"), *name) : drawing::noRecord;
     if (!isValid(entry))
         co_return false;
     const bool isThere = co_await enterSpaceOf(context, context.drawing().tags(entry).integer(70));
@@ -156,12 +158,12 @@ Dialogue<bool> restoreView(CommandContext &context)
 
 Dialogue<bool> deleteViews(CommandContext &context)
 {
-    const PromptReply names = co_await context.text(u"Enter view name(s) to delete: "_s);
+    const PromptReply names = co_await context.text(Commands::tr("Enter view name(s) to delete: "));
     if (!names.hasValue())
         co_return false;
     const std::vector<drawing::RecordId> doomed = matchingEntries(context, TableKind::View, names.text);
     if (doomed.empty())
-        context.print(u"\nNo matching views found."_s);
+        context.print(Commands::tr("\nNo matching views found."));
     for (const drawing::RecordId entry : doomed)
         context.drawing().dictionaries().setErasedWithOwned(entry, true);
     co_return true;
@@ -169,11 +171,12 @@ Dialogue<bool> deleteViews(CommandContext &context)
 
 Dialogue<bool> listViews(CommandContext &context)
 {
-    co_return co_await listEntries(
-        context, TableKind::View, u"Enter view name(s) to list <*>: "_s, [&context](drawing::RecordId entry) {
-            const drawing::TagList tags = context.drawing().tags(entry);
-            return u"\"%1\"  %2"_s.arg(tags.text(2), (tags.integer(70) & paperView) ? u"P"_s : u"M"_s);
-        });
+    co_return co_await listEntries(context, TableKind::View, Commands::tr("Enter view name(s) to list <*>: "),
+                                   [&context](drawing::RecordId entry) {
+                                       const drawing::TagList tags = context.drawing().tags(entry);
+                                       return u"\"%1\"  %2"_s.arg(tags.text(2),
+                                                                  (tags.integer(70) & paperView) ? u"P"_s : u"M"_s);
+                                   });
 }
 
 Dialogue<bool> lookFrom(CommandContext &context, QString side)
@@ -188,8 +191,8 @@ Dialogue<bool> lookFrom(CommandContext &context, QString side)
 
 Dialogue<bool> askSide(CommandContext &context)
 {
-    const PromptReply side =
-        co_await context.keyword(u"Enter an option [Top/Bottom/Front/BAck/Left/Right] <Top>: "_s, {}, u"Top"_s);
+    const PromptReply side = co_await context.keyword(
+        Commands::tr("Enter an option [Top/Bottom/Front/BAck/Left/Right] <Top>: "), {}, u"Top"_s);
     const QString chosen = side.text.isEmpty() ? u"Top"_s : side.text;
     co_return co_await lookFrom(context, chosen);
 }
@@ -197,8 +200,8 @@ Dialogue<bool> askSide(CommandContext &context)
 /// Views here never change the user's coordinate system: the answer is taken so that programs go on in step.
 Dialogue<bool> askUcsWithViews(CommandContext &context)
 {
-    co_await context.keyword(u"Save current UCS with named views? [Yes/No] <Yes>: "_s, {}, u"Yes"_s);
-    context.print(u"\nCoordinate systems are not kept with views."_s);
+    co_await context.keyword(Commands::tr("Save current UCS with named views? [Yes/No] <Yes>: "), {}, u"Yes"_s);
+    context.print(Commands::tr("\nCoordinate systems are not kept with views."));
     co_return true;
 }
 
@@ -213,7 +216,7 @@ CommandTask namedView(CommandContext &context)
         {u"?", listViews},   {u"Delete", deleteViews},  {u"Orthographic", askSide}, {u"Restore", restoreView},
         {u"Save", saveView}, {u"Ucs", askUcsWithViews}, {u"Window", saveWindow}};
     const PromptReply option = co_await context.keyword(
-        u"Enter an option [?/Delete/Orthographic/Restore/Save/Ucs/Window]: "_s,
+        Commands::tr("Enter an option [?/Delete/Orthographic/Restore/Save/Ucs/Window]: "),
         u"? Delete Orthographic Restore Save Ucs Window Top,TOP Bottom,BOTTOM Front,FRONT BAck,BACK Left,LEFT "
         u"Right,RIGHT"_s);
     for (const Action &action : actions) {
@@ -230,12 +233,12 @@ CommandTask namedView(CommandContext &context)
 CommandTask plan(CommandContext &context)
 {
     const PromptReply option =
-        co_await context.keyword(u"Enter an option [Current ucs/Ucs/World] <Current>: "_s, {}, u"Current"_s);
+        co_await context.keyword(Commands::tr("Enter an option [Current ucs/Ucs/World] <Current>: "), {}, u"Current"_s);
     Matrix axes = context.document().userAxes();
     if (option.text == u"World"_s)
         axes = {};
     if (option.text == u"Ucs"_s) {
-        const auto name = co_await askEntryName(context, TableKind::Ucs, u"Enter name of UCS or [?]: "_s);
+        const auto name = co_await askEntryName(context, TableKind::Ucs, Commands::tr("Enter name of UCS or [?]: "));
         const drawing::RecordId entry =
             name ? neededEntry(context, TableKind::Ucs, u"UCS"_s, *name) : drawing::noRecord;
         if (!isValid(entry))
@@ -251,8 +254,8 @@ CommandTask plan(CommandContext &context)
 /// From an angle in the user's x-y plane and one above it.
 Dialogue<Vec3> askTurnedDirection(CommandContext &context)
 {
-    const PromptReply around = co_await context.angle(u"Enter angle in XY plane from X axis: "_s);
-    const PromptReply above = co_await context.angle(u"Enter angle from XY plane: "_s);
+    const PromptReply around = co_await context.angle(Commands::tr("Enter angle in XY plane from X axis: "));
+    const PromptReply above = co_await context.angle(Commands::tr("Enter angle from XY plane: "));
     const double flat = std::cos(above.real);
     co_return Vec3{flat * std::cos(around.real), flat * std::sin(around.real), std::sin(above.real)};
 }
@@ -263,8 +266,8 @@ CommandTask viewPoint(CommandContext &context)
     const Vec3 present = context.document().variables().point(u"VIEWDIR");
     const QString shown = u"%1,%2,%3"_s.arg(context.shownLength(present.x), context.shownLength(present.y),
                                             context.shownLength(present.z));
-    const PromptReply reply =
-        co_await context.point(u"Specify a view point or [Rotate] <%1>: "_s.arg(shown), u"Rotate"_s, {}, shown);
+    const PromptReply reply = co_await context.point(Commands::tr("Specify a view point or [Rotate] <%1>: ").arg(shown),
+                                                     u"Rotate"_s, {}, shown);
     Matrix axes = context.document().userAxes();
     Vec3 direction = present;
     if (reply.isKeyword(u"Rotate"))
@@ -272,7 +275,7 @@ CommandTask viewPoint(CommandContext &context)
     else if (reply.hasValue())
         direction = axes.inverted().point(reply.point);
     if (direction == Vec3{}) {
-        context.fail(u"There is no direction from the target to itself."_s);
+        context.fail(Commands::tr("There is no direction from the target to itself."));
         co_return;
     }
     axes.origin = {};

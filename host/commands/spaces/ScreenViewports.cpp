@@ -6,6 +6,7 @@
 #include "host/drawing/math/Angles.h"
 #include "host/drawing/records/Dictionaries.h"
 #include "host/drawing/tags/GroupCodes.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/running/CommandContext.h"
 
 #include <QSet>
@@ -71,13 +72,13 @@ Box wholeScreen()
 
 Dialogue<bool> saveConfiguration(CommandContext &context)
 {
-    const auto name =
-        co_await askEntryName(context, TableKind::Viewport, u"Enter name for new viewport configuration or [?]: "_s);
+    const auto name = co_await askEntryName(context, TableKind::Viewport,
+                                            Commands::tr("Enter name for new viewport configuration or [?]: "));
     if (!name)
         co_return false;
     drawing::Drawing &drawing = context.drawing();
     if (!drawing::isSymbolName(*name, drawing.version())) {
-        context.fail(u"\"%1\" cannot be the name of a viewport configuration."_s.arg(*name));
+        context.fail(Commands::tr("\"%1\" cannot be the name of a viewport configuration.").arg(*name));
         co_return false;
     }
     eraseAll(drawing, screenViewports(drawing, *name));
@@ -90,13 +91,13 @@ Dialogue<bool> saveConfiguration(CommandContext &context)
 Dialogue<bool> restoreScreen(CommandContext &context)
 {
     const auto name = co_await askEntryName(context, TableKind::Viewport,
-                                            u"Enter name of viewport configuration to restore or [?]: "_s);
+                                            Commands::tr("Enter name of viewport configuration to restore or [?]: "));
     if (!name)
         co_return false;
     drawing::Drawing &drawing = context.drawing();
     const std::vector<RecordId> wanted = screenViewports(drawing, *name);
     if (wanted.empty()) {
-        context.fail(u"Cannot find viewport configuration \"%1\"."_s.arg(*name));
+        context.fail(Commands::tr("Cannot find viewport configuration \"%1\".").arg(*name));
         co_return false;
     }
     if (name->compare(inUse, Qt::CaseInsensitive) == 0)
@@ -110,13 +111,13 @@ Dialogue<bool> restoreScreen(CommandContext &context)
 Dialogue<bool> deleteConfigurations(CommandContext &context)
 {
     const PromptReply names =
-        co_await context.text(u"Enter name(s) of viewport configurations to delete <none>: "_s, u"none"_s);
+        co_await context.text(Commands::tr("Enter name(s) of viewport configurations to delete <none>: "), u"none"_s);
     if (!names.hasValue())
         co_return false;
     std::vector<RecordId> doomed = matchingEntries(context, TableKind::Viewport, names.text);
     std::erase_if(doomed, [&](RecordId entry) { return context.drawing().tables().name(entry).startsWith(u'*'); });
     if (doomed.empty())
-        context.print(u"\nNo matching viewport configurations found."_s);
+        context.print(Commands::tr("\nNo matching viewport configurations found."));
     eraseAll(context.drawing(), doomed);
     co_return true;
 }
@@ -124,7 +125,7 @@ Dialogue<bool> deleteConfigurations(CommandContext &context)
 Dialogue<bool> listConfigurations(CommandContext &context)
 {
     co_return co_await listEntries(context, TableKind::Viewport,
-                                   u"Enter name(s) of viewport configuration(s) to list <*>: "_s,
+                                   Commands::tr("Enter name(s) of viewport configuration(s) to list <*>: "),
                                    [&context](RecordId entry) {
                                        const ScreenViewport shown = readScreenViewport(context.drawing(), entry);
                                        return u"\"%1\"  %2,%3  %4,%5"_s.arg(context.drawing().tables().name(entry))
@@ -141,7 +142,7 @@ Dialogue<bool> divideScreen(CommandContext &context, int count)
     drawing::Drawing &drawing = context.drawing();
     constexpr std::size_t most = 64;
     if (screenViewports(drawing, inUse).size() + std::size_t(count) > most) {
-        context.fail(u"The screen is divided into too many viewports already."_s);
+        context.fail(Commands::tr("The screen is divided into too many viewports already."));
         co_return false;
     }
     const RecordId first = firstInUse(drawing);
@@ -167,7 +168,7 @@ void join(CommandContext &context)
 {
     constexpr std::size_t two = 2;
     if (screenViewports(context.drawing(), inUse).size() > two)
-        context.fail(u"The window shows one view: the viewports to join cannot be picked."_s);
+        context.fail(Commands::tr("The window shows one view: the viewports to join cannot be picked."));
     else
         useWholeScreen(context);
 }
@@ -198,8 +199,8 @@ ScreenViewport readScreenViewport(const drawing::Drawing &drawing, RecordId entr
 
 Dialogue<bool> askScreenViewports(CommandContext &context)
 {
-    const PromptReply reply =
-        co_await context.keyword(u"Enter an option [Save/Restore/Delete/Join/SIngle/?/2/3/4] <3>: "_s, {}, u"3"_s);
+    const PromptReply reply = co_await context.keyword(
+        Commands::tr("Enter an option [Save/Restore/Delete/Join/SIngle/?/2/3/4] <3>: "), {}, u"3"_s);
     const QString option = reply.text.isEmpty() ? u"3"_s : reply.text;
     if (option == u"Save")
         co_return co_await saveConfiguration(context);

@@ -7,6 +7,7 @@
 #include "host/drawing/records/Tables.h"
 #include "host/kernel/documents/CurrentSpace.h"
 #include "host/kernel/documents/CurrentView.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/running/CommandContext.h"
 
 using namespace Qt::StringLiterals;
@@ -77,7 +78,7 @@ std::optional<LayoutTab> neededSheet(CommandContext &context)
     if (!isModelTab(drawing))
         sheet = drawing::findLayout(drawing, drawing.layouts().currentName());
     if (!sheet)
-        context.fail(u"** Command not allowed in Model Tab **"_s);
+        context.fail(Commands::tr("** Command not allowed in Model Tab **"));
     return sheet;
 }
 
@@ -98,7 +99,7 @@ bool enterModel(CommandContext &context)
         context.drawing().layouts().setCurrentViewport(viewport);
         return true;
     }
-    context.fail(u"There are no active model space viewports."_s);
+    context.fail(Commands::tr("There are no active model space viewports."));
     return false;
 }
 
@@ -109,7 +110,7 @@ RecordId makeViewport(CommandContext &context, const Box &frame)
         return drawing::noRecord;
     const Vec3 size = frame.high - frame.low;
     if (!(size.x > 0.0 && size.y > 0.0)) {
-        context.fail(u"The viewport has no area."_s);
+        context.fail(Commands::tr("The viewport has no area."));
         return drawing::noRecord;
     }
     ensureSheetViewport(context, *sheet);
@@ -148,11 +149,12 @@ Dialogue<ViewportArrangement> askArrangement(CommandContext &context, int count)
     ViewportArrangement arrangement{count, {}};
     if (count == 2) {
         const PromptReply reply = co_await context.keyword(
-            u"Enter viewport arrangement [Horizontal/Vertical] <Vertical>: "_s, {}, u"Vertical"_s);
+            Commands::tr("Enter viewport arrangement [Horizontal/Vertical] <Vertical>: "), {}, u"Vertical"_s);
         arrangement.how = reply.text;
     } else if (count == 3) {
         const PromptReply reply = co_await context.keyword(
-            u"Enter viewport arrangement [Horizontal/Vertical/Above/Below/Left/Right] <Right>: "_s, {}, u"Right"_s);
+            Commands::tr("Enter viewport arrangement [Horizontal/Vertical/Above/Below/Left/Right] <Right>: "), {},
+            u"Right"_s);
         arrangement.how = reply.text;
     }
     co_return arrangement;
@@ -165,7 +167,7 @@ std::vector<RecordId> viewportsAmong(CommandContext &context, const std::vector<
     std::erase_if(found,
                   [&](RecordId id) { return !drawing.isType(id, "VIEWPORT") || drawing.tags(id).integer(69) == 1; });
     if (found.empty())
-        context.print(u"\nNo viewport was chosen."_s);
+        context.print(Commands::tr("\nNo viewport was chosen."));
     return editable(context, std::move(found));
 }
 

@@ -1,6 +1,7 @@
 #include "host/commands/Commands.h"
 #include "host/kernel/documents/Document.h"
 #include "host/kernel/input/SnapModes.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/running/CommandContext.h"
 #include "host/kernel/variables/SystemVariables.h"
 
@@ -16,9 +17,10 @@ CommandTask setSnapModes(CommandContext &context)
 {
     SystemVariables &variables = context.document().variables();
     const int modes = variables.integer(u"OSMODE");
-    context.print(u"\nCurrent osnap modes: "_s + snapModeWords(modes & drawing::SnapsSwitchedOff ? 0 : modes));
+    context.print(Commands::tr("\nCurrent osnap modes: ") +
+                  snapModeWords(modes & drawing::SnapsSwitchedOff ? 0 : modes));
     for (;;) {
-        const PromptReply reply = co_await context.text(u"Enter list of object snap modes: "_s);
+        const PromptReply reply = co_await context.text(Commands::tr("Enter list of object snap modes: "));
         if (reply.isEmpty() || reply.text.trimmed().isEmpty())
             co_return;
         const QString word = reply.text.trimmed().toLower();
@@ -27,7 +29,7 @@ CommandTask setSnapModes(CommandContext &context)
             variables.set(u"OSMODE", *wanted);
             co_return;
         }
-        if (context.refuse(u"Invalid object snap mode."_s))
+        if (context.refuse(Commands::tr("Invalid object snap mode.")))
             co_return;
     }
 }
@@ -38,11 +40,11 @@ CommandTask setAperture(CommandContext &context)
     SystemVariables &variables = context.document().variables();
     for (;;) {
         const PromptReply reply = co_await context.integer(
-            u"Object snap target height (1-50 pixels) <%1>: "_s.arg(variables.integer(u"APERTURE")), {},
+            Commands::tr("Object snap target height (1-50 pixels) <%1>: ").arg(variables.integer(u"APERTURE")), {},
             variables.display(u"APERTURE"));
         if (reply.isEmpty() || variables.set(u"APERTURE", reply.integer) == SetOutcome::Done)
             co_return;
-        if (context.refuse(u"Value must be between 1 and 50."_s))
+        if (context.refuse(Commands::tr("Value must be between 1 and 50.")))
             co_return;
     }
 }

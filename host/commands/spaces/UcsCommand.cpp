@@ -7,6 +7,7 @@
 #include "host/drawing/records/Tables.h"
 #include "host/kernel/documents/CurrentSpace.h"
 #include "host/kernel/documents/Document.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/running/CommandContext.h"
 #include "host/kernel/variables/SystemVariables.h"
 
@@ -48,7 +49,7 @@ AskedAxes failed(CommandContext &context, QString reason)
 AskedAxes askMoved(CommandContext &context)
 {
     Matrix axes = context.document().userAxes();
-    axes.origin = co_await pointOr(context, u"Specify new origin point"_s, axes.origin, {});
+    axes.origin = co_await pointOr(context, Commands::tr("Specify new origin point"), axes.origin, {});
     co_return axes;
 }
 
@@ -57,11 +58,11 @@ AskedAxes askMovedOrRaised(CommandContext &context)
     Matrix axes = context.document().userAxes();
     const QString shown = shownPoint(context, axes.origin);
     const PromptReply reply =
-        co_await context.point(u"Specify new origin point or [Zdepth] <%1>: "_s.arg(shown), {}, {}, shown);
+        co_await context.point(Commands::tr("Specify new origin point or [Zdepth] <%1>: ").arg(shown), {}, {}, shown);
     if (reply.hasValue())
         axes.origin = reply.point;
     if (reply.kind == ReplyKind::Keyword) {
-        const PromptReply depth = co_await context.distance(u"Specify Z depth <0>: "_s, {}, {}, u"0"_s);
+        const PromptReply depth = co_await context.distance(Commands::tr("Specify Z depth <0>: "), {}, {}, u"0"_s);
         axes.origin = axes.origin + axes.zAxis * (depth.hasValue() ? depth.real : 0.0);
     }
     co_return axes;
@@ -71,35 +72,36 @@ AskedAxes askMovedOrRaised(CommandContext &context)
 AskedAxes askBeyondOrigin(CommandContext &context, Vec3 origin)
 {
     const Matrix before = context.document().userAxes();
-    const Vec3 onX =
-        co_await pointOr(context, u"Specify point on positive portion of X-axis"_s, origin + before.xAxis, origin);
+    const Vec3 onX = co_await pointOr(context, Commands::tr("Specify point on positive portion of X-axis"),
+                                      origin + before.xAxis, origin);
     const Vec3 x = drawing::normalized(onX - origin);
-    const Vec3 onPlane = co_await pointOr(context, u"Specify point on positive-Y portion of the UCS XY plane"_s,
-                                          origin + drawing::normalized(cross(before.zAxis, x)), origin);
+    const Vec3 onPlane =
+        co_await pointOr(context, Commands::tr("Specify point on positive-Y portion of the UCS XY plane"),
+                         origin + drawing::normalized(cross(before.zAxis, x)), origin);
     const Vec3 z = cross(x, onPlane - origin);
     const std::optional<Matrix> axes = z.length() > 1e-12 * (1.0 + (onPlane - origin).length())
                                            ? axesAlong(origin, x, drawing::normalized(z))
                                            : std::nullopt;
     if (!axes)
-        co_return co_await failed(context, u"The three points lie on a line."_s);
+        co_return co_await failed(context, Commands::tr("The three points lie on a line."));
     co_return axes;
 }
 
 AskedAxes askThreePoints(CommandContext &context)
 {
     const Vec3 origin =
-        co_await pointOr(context, u"Specify new origin point"_s, context.document().userAxes().origin, {});
+        co_await pointOr(context, Commands::tr("Specify new origin point"), context.document().userAxes().origin, {});
     co_return co_await askBeyondOrigin(context, origin);
 }
 
 AskedAxes askByZAxis(CommandContext &context)
 {
     const Matrix before = context.document().userAxes();
-    const Vec3 origin = co_await pointOr(context, u"Specify new origin point"_s, before.origin, {});
-    const Vec3 onZ =
-        co_await pointOr(context, u"Specify point on positive portion of Z-axis"_s, origin + before.zAxis, origin);
+    const Vec3 origin = co_await pointOr(context, Commands::tr("Specify new origin point"), before.origin, {});
+    const Vec3 onZ = co_await pointOr(context, Commands::tr("Specify point on positive portion of Z-axis"),
+                                      origin + before.zAxis, origin);
     if (!((onZ - origin).length() > 0.0))
-        co_return co_await failed(context, u"The Z axis has no direction."_s);
+        co_return co_await failed(context, Commands::tr("The Z axis has no direction."));
     Matrix axes = Matrix::fromExtrusion(onZ - origin);
     axes.origin = origin;
     co_return axes;
@@ -110,7 +112,8 @@ AskedAxes askTurned(CommandContext &context, char axis)
     const double usual = std::numbers::pi / 2.0;
     const QString shown = context.shownAngle(usual);
     const PromptReply reply = co_await context.angle(
-        u"Specify rotation angle about %1 axis <%2>: "_s.arg(QChar::fromLatin1(axis)).arg(shown), {}, {}, shown);
+        Commands::tr("Specify rotation angle about %1 axis <%2>: ").arg(QChar::fromLatin1(axis)).arg(shown), {}, {},
+        shown);
     const Matrix turn = Matrix::rotation(reply.hasValue() ? reply.real : usual);
     // The turn is round z: the axes change places until the wanted one is there.
     Matrix shift;
@@ -123,12 +126,12 @@ AskedAxes askTurned(CommandContext &context, char axis)
 
 AskedAxes askObject(CommandContext &context)
 {
-    const PromptReply picked = co_await context.entity(u"Select object to align UCS: "_s);
+    const PromptReply picked = co_await context.entity(Commands::tr("Select object to align UCS: "));
     if (picked.entities.empty())
-        co_return co_await failed(context, u"Nothing was selected."_s);
+        co_return co_await failed(context, Commands::tr("Nothing was selected."));
     const std::optional<Matrix> axes = axesOfEntity(context.drawing(), picked.entities.front(), picked.point);
     if (!axes)
-        co_return co_await failed(context, u"No UCS can be aligned with this object."_s);
+        co_return co_await failed(context, Commands::tr("No UCS can be aligned with this object."));
     co_return axes;
 }
 
@@ -146,18 +149,19 @@ Matrix axesOfView(CommandContext &context)
 
 AskedAxes askOrthographic(CommandContext &context)
 {
-    const PromptReply side =
-        co_await context.keyword(u"Enter an option [Top/Bottom/Front/BAck/Left/Right] <Top>: "_s, {}, u"Top"_s);
+    const PromptReply side = co_await context.keyword(
+        Commands::tr("Enter an option [Top/Bottom/Front/BAck/Left/Right] <Top>: "), {}, u"Top"_s);
     co_return orthographicAxes(side.text);
 }
 
 Dialogue<bool> saveSystem(CommandContext &context)
 {
-    const auto name = co_await askEntryName(context, TableKind::Ucs, u"Enter name to save current UCS or [?]: "_s);
+    const auto name =
+        co_await askEntryName(context, TableKind::Ucs, Commands::tr("Enter name to save current UCS or [?]: "));
     if (!name)
         co_return false;
     if (!drawing::isSymbolName(*name, context.drawing().version())) {
-        context.fail(u"\"%1\" cannot be the name of a UCS."_s.arg(*name));
+        context.fail(Commands::tr("\"%1\" cannot be the name of a UCS.").arg(*name));
         co_return false;
     }
     drawing::Tables &tables = context.drawing().tables();
@@ -165,7 +169,7 @@ Dialogue<bool> saveSystem(CommandContext &context)
     constexpr int expertEnough = 4;
     if (isValid(present) && context.document().variables().integer(u"EXPERT") < expertEnough) {
         const PromptReply sure = co_await context.keyword(
-            u"UCS \"%1\" already exists. Replace it? [Yes/No] <No>: "_s.arg(*name), {}, u"No"_s);
+            Commands::tr("UCS \"%1\" already exists. Replace it? [Yes/No] <No>: ").arg(*name), {}, u"No"_s);
         if (sure.text != u"Yes"_s)
             co_return false;
     }
@@ -181,7 +185,8 @@ Dialogue<bool> saveSystem(CommandContext &context)
 
 Dialogue<bool> restoreSystem(CommandContext &context)
 {
-    const auto name = co_await askEntryName(context, TableKind::Ucs, u"Enter name of UCS to restore or [?]: "_s);
+    const auto name =
+        co_await askEntryName(context, TableKind::Ucs, Commands::tr("Enter name of UCS to restore or [?]: "));
     const drawing::RecordId entry = name ? neededEntry(context, TableKind::Ucs, u"UCS"_s, *name) : drawing::noRecord;
     if (isValid(entry))
         useSystem(context, namedSystem(context.drawing(), entry));
@@ -190,12 +195,12 @@ Dialogue<bool> restoreSystem(CommandContext &context)
 
 Dialogue<bool> deleteSystems(CommandContext &context)
 {
-    const PromptReply names = co_await context.text(u"Enter UCS name(s) to delete <none>: "_s, u"none"_s);
+    const PromptReply names = co_await context.text(Commands::tr("Enter UCS name(s) to delete <none>: "), u"none"_s);
     if (!names.hasValue())
         co_return false;
     const std::vector<drawing::RecordId> doomed = matchingEntries(context, TableKind::Ucs, names.text);
     if (doomed.empty())
-        context.print(u"\nNo matching UCS names found."_s);
+        context.print(Commands::tr("\nNo matching UCS names found."));
     for (const drawing::RecordId entry : doomed)
         context.drawing().dictionaries().setErasedWithOwned(entry, true);
     co_return true;
@@ -203,14 +208,14 @@ Dialogue<bool> deleteSystems(CommandContext &context)
 
 Dialogue<bool> listSystems(CommandContext &context)
 {
-    context.print(u"\nCurrent UCS:  %1"_s.arg(systemTitle(currentSystem(context))));
+    context.print(Commands::tr("\nCurrent UCS:  %1").arg(systemTitle(currentSystem(context))));
     co_return co_await listEntries(
-        context, TableKind::Ucs, u"Enter UCS name(s) to list <*>: "_s, [&context](drawing::RecordId entry) {
+        context, TableKind::Ucs, Commands::tr("Enter UCS name(s) to list <*>: "), [&context](drawing::RecordId entry) {
             const UserSystem system = namedSystem(context.drawing(), entry);
-            return u"\"%1\"  Origin = <%2>, X = <%3>, Y = <%4>"_s.arg(
-                system.name, shownPoint(context, system.axes.origin),
-                shownPoint(context, context.document().userAxes().origin + system.axes.xAxis),
-                shownPoint(context, context.document().userAxes().origin + system.axes.yAxis));
+            return Commands::tr("\"%1\"  Origin = <%2>, X = <%3>, Y = <%4>")
+                .arg(system.name, shownPoint(context, system.axes.origin),
+                     shownPoint(context, context.document().userAxes().origin + system.axes.xAxis),
+                     shownPoint(context, context.document().userAxes().origin + system.axes.yAxis));
         });
 }
 
@@ -231,7 +236,8 @@ constexpr AxesOption axesOptions[] = {
     {u"X", [](CommandContext &context) { return askTurned(context, 'X'); }},
     {u"Y", [](CommandContext &context) { return askTurned(context, 'Y'); }},
     {u"Z", [](CommandContext &context) { return askTurned(context, 'Z'); }},
-    {u"Face", [](CommandContext &context) { return failed(context, u"Faces of solids cannot be chosen here."_s); }},
+    {u"Face",
+     [](CommandContext &context) { return failed(context, Commands::tr("Faces of solids cannot be chosen here.")); }},
 };
 
 struct SystemOption
@@ -259,7 +265,7 @@ Dialogue<bool> takeUcsOption(CommandContext &context, QString option)
     if (option == u"View")
         useSystem(context, {axesOfView(context), {}});
     else if (option == u"Previous" && !usePreviousSystem(context))
-        context.print(u"\nNo previous coordinate system saved."_s);
+        context.print(Commands::tr("\nNo previous coordinate system saved."));
     else if (option == u"World")
         useSystem(context, {});
     co_return true;
@@ -269,14 +275,14 @@ Dialogue<bool> takeUcsOption(CommandContext &context, QString option)
 Dialogue<bool> askFromOrigin(CommandContext &context, Vec3 origin)
 {
     Matrix axes = context.document().userAxes();
-    const PromptReply onX = co_await context.point(u"Specify point on X-axis or <accept>: "_s, {}, origin);
+    const PromptReply onX = co_await context.point(Commands::tr("Specify point on X-axis or <accept>: "), {}, origin);
     if (onX.hasValue()) {
         const PromptReply onPlane =
-            co_await context.point(u"Specify point on the XY plane or <accept>: "_s, {}, origin);
+            co_await context.point(Commands::tr("Specify point on the XY plane or <accept>: "), {}, origin);
         const Vec3 near = onPlane.hasValue() ? cross(onX.point - origin, onPlane.point - origin) : axes.zAxis;
         const std::optional<Matrix> turned = axesAlong(origin, onX.point - origin, drawing::normalized(near));
         if (!turned || !(near.length() > 0.0)) {
-            context.fail(u"The three points lie on a line."_s);
+            context.fail(Commands::tr("The three points lie on a line."));
             co_return false;
         }
         axes = *turned;
@@ -291,7 +297,7 @@ Dialogue<bool> askNew(CommandContext &context)
 {
     const QString usual = shownPoint(context, context.document().userAxes().origin);
     const PromptReply reply = co_await context.point(
-        u"Specify origin of new UCS or [ZAxis/3point/OBject/Face/View/X/Y/Z] <%1>: "_s.arg(usual),
+        Commands::tr("Specify origin of new UCS or [ZAxis/3point/OBject/Face/View/X/Y/Z] <%1>: ").arg(usual),
         u"ZAxis 3point,3 OBject Entity Face View X Y Z"_s, {}, usual);
     if (reply.kind == ReplyKind::Keyword)
         co_return co_await takeUcsOption(context, reply.text);
@@ -305,9 +311,9 @@ Dialogue<bool> askNew(CommandContext &context)
 
 CommandTask ucs(CommandContext &context)
 {
-    context.print(u"\nCurrent ucs name:  %1"_s.arg(systemTitle(currentSystem(context))));
+    context.print(Commands::tr("\nCurrent ucs name:  %1").arg(systemTitle(currentSystem(context))));
     const PromptReply reply = co_await context.point(
-        u"Specify origin of UCS or [Face/NAmed/OBject/Previous/View/World/X/Y/Z/ZAxis] <World>: "_s,
+        Commands::tr("Specify origin of UCS or [Face/NAmed/OBject/Previous/View/World/X/Y/Z/ZAxis] <World>: "),
         u"Face NAmed OBject Entity Previous View World X Y Z ZAxis Origin 3point,3 New Move orthoGraphic Restore Save "
         u"Delete ?"_s,
         {}, u"World"_s);
@@ -316,7 +322,7 @@ CommandTask ucs(CommandContext &context)
     } else if (reply.isKeyword(u"New")) {
         co_await askNew(context);
     } else if (reply.isKeyword(u"NAmed")) {
-        const PromptReply named = co_await context.keyword(u"Enter an option [Restore/Save/Delete/?]: "_s);
+        const PromptReply named = co_await context.keyword(Commands::tr("Enter an option [Restore/Save/Delete/?]: "));
         if (named.hasValue() || named.kind == ReplyKind::Keyword)
             co_await takeUcsOption(context, named.text);
     } else {

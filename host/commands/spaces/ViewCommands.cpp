@@ -3,6 +3,7 @@
 #include "host/drawing/geometry/EntityGeometry.h"
 #include "host/kernel/documents/CurrentView.h"
 #include "host/kernel/input/Keywords.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/running/CommandContext.h"
 #include "host/kernel/running/Dialogue.h"
 
@@ -61,10 +62,10 @@ void zoomByFactor(CommandContext &context, const QString &text)
     Document &document = context.document();
     const std::optional<Magnification> wanted = magnification(text.trimmed());
     if (!wanted)
-        return context.fail(u"Requires a scale factor, two corners or an option keyword."_s);
+        return context.fail(Commands::tr("Requires a scale factor, two corners or an option keyword."));
     if (wanted->to == Magnification::To::Sheet) {
         if (!showAtSheetScale(document, wanted->factor))
-            context.fail(u"A scale of the sheet is for viewports: MSPACE goes into one."_s);
+            context.fail(Commands::tr("A scale of the sheet is for viewports: MSPACE goes into one."));
         return;
     }
     if (wanted->to == Magnification::To::Whole)
@@ -76,7 +77,7 @@ void zoomByFactor(CommandContext &context, const QString &text)
 
 Dialogue<bool> zoomToWindow(CommandContext &context, const Vec3 first)
 {
-    const PromptReply corner = co_await context.neededPoint(u"Specify opposite corner: "_s, first);
+    const PromptReply corner = co_await context.neededPoint(Commands::tr("Specify opposite corner: "), first);
     drawing::Box box;
     box.add(first);
     box.add(corner.point);
@@ -91,7 +92,7 @@ Dialogue<std::optional<double>> askViewHeight(CommandContext &context)
     const QString usual = context.shownLength(height);
     PromptRequest request;
     request.kind = PromptKind::Distance;
-    request.prompt = u"\nEnter magnification or height <%1>: "_s.arg(usual);
+    request.prompt = Commands::tr("\nEnter magnification or height <%1>: ").arg(usual);
     request.defaultText = usual;
     request.bits = AnyText | NoZero | NoNegative;
     const PromptReply size = co_await context.ask(request);
@@ -102,7 +103,7 @@ Dialogue<std::optional<double>> askViewHeight(CommandContext &context)
         co_return currentView(context.document()).height;
     if (factor && factor->to == Magnification::To::Shown)
         co_return height / factor->factor;
-    context.fail(u"Requires a height, or a magnification (nX)."_s);
+    context.fail(Commands::tr("Requires a height, or a magnification (nX)."));
     co_return std::nullopt;
 }
 
@@ -110,7 +111,7 @@ Dialogue<std::optional<double>> askViewHeight(CommandContext &context)
 Dialogue<bool> zoomToCentre(CommandContext &context)
 {
     const drawing::Vec2 shown = currentView(context.document()).centre;
-    const PromptReply centre = co_await context.point(u"Specify center point: "_s);
+    const PromptReply centre = co_await context.point(Commands::tr("Specify center point: "));
     const std::optional<double> height = co_await askViewHeight(context);
     if (height)
         showAt(context, centre.hasValue() ? centre.point : Vec3{shown.x, shown.y, 0.0}, *height);
@@ -120,7 +121,7 @@ Dialogue<bool> zoomToCentre(CommandContext &context)
 /// The lower left corner in place of the centre.
 Dialogue<bool> zoomToLeft(CommandContext &context)
 {
-    const PromptReply corner = co_await context.neededPoint(u"Specify lower left corner point: "_s);
+    const PromptReply corner = co_await context.neededPoint(Commands::tr("Specify lower left corner point: "));
     const std::optional<double> height = co_await askViewHeight(context);
     const QSize pixels = currentView(context.document()).pixels;
     const double aspect = pixels.isEmpty() ? 1.0 : double(pixels.width()) / pixels.height();
@@ -142,7 +143,7 @@ Dialogue<bool> zoomToObjects(CommandContext &context)
 Dialogue<bool> takeZoomOption(CommandContext &context, const QString &option)
 {
     if (option == u"Window") {
-        const PromptReply first = co_await context.neededPoint(u"Specify first corner: "_s);
+        const PromptReply first = co_await context.neededPoint(Commands::tr("Specify first corner: "));
         co_return co_await zoomToWindow(context, first.point);
     }
     if (option == u"Center")
@@ -152,12 +153,12 @@ Dialogue<bool> takeZoomOption(CommandContext &context, const QString &option)
     if (option == u"Object")
         co_return co_await zoomToObjects(context);
     if (option == u"Scale") {
-        const PromptReply factor = co_await context.name(u"Enter a scale factor (nX or nXP): "_s);
+        const PromptReply factor = co_await context.name(Commands::tr("Enter a scale factor (nX or nXP): "));
         zoomByFactor(context, factor.text);
     } else if (option == u"All" || option == u"Extents" || option == u"Vmax") {
         showBox(context.document(), option == u"All" ? wholeDrawing(context) : drawnExtents(context));
     } else if (option == u"Dynamic") {
-        context.fail(u"There is no dynamic zoom: use the window's wheel."_s);
+        context.fail(Commands::tr("There is no dynamic zoom: use the window's wheel."));
     } else {
         zoomByFactor(context, option);
     }
@@ -169,15 +170,15 @@ CommandTask zoom(CommandContext &context)
 {
     PromptRequest request;
     request.kind = PromptKind::Point;
-    request.prompt = u"\nSpecify corner of window, enter a scale factor (nX or nXP), or "
-                     "[All/Center/Dynamic/Extents/Previous/Scale/Window/Object] <real time>: "_s;
+    request.prompt = Commands::tr("\nSpecify corner of window, enter a scale factor (nX or nXP), or "
+                                  "[All/Center/Dynamic/Extents/Previous/Scale/Window/Object] <real time>: ");
     request.keywords = optionsIn(request.prompt) + QStringList{u"Left"_s, u"Vmax"_s};
     request.bits = AnyText;
     const PromptReply reply = co_await context.ask(request);
     const ViewState before = currentView(context.document());
     if (reply.isKeyword(u"Previous")) {
         if (!context.document().showEarlierView())
-            context.print(u"\nNo previous view saved."_s);
+            context.print(Commands::tr("\nNo previous view saved."));
         co_return;
     }
     if (reply.hasValue())
@@ -191,8 +192,8 @@ CommandTask zoom(CommandContext &context)
 // Two points, or one that is the displacement itself.
 CommandTask pan(CommandContext &context)
 {
-    const PromptReply from = co_await context.neededPoint(u"Specify base point or displacement: "_s);
-    const PromptReply to = co_await context.point(u"Specify second point: "_s, {}, from.point);
+    const PromptReply from = co_await context.neededPoint(Commands::tr("Specify base point or displacement: "));
+    const PromptReply to = co_await context.point(Commands::tr("Specify second point: "), {}, from.point);
     const Vec3 by = to.hasValue() ? to.point - from.point : from.point - context.document().userAxes().origin;
     const ViewState before = currentView(context.document());
     ViewState view = before;

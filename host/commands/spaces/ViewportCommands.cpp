@@ -6,6 +6,7 @@
 #include "host/drawing/records/PageSetup.h"
 #include "host/kernel/documents/CurrentSpace.h"
 #include "host/kernel/documents/Document.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/running/CommandContext.h"
 
 using namespace Qt::StringLiterals;
@@ -39,7 +40,7 @@ Dialogue<std::optional<Box>> askOppositeCorner(CommandContext &context, Vec3 fir
 {
     PromptRequest request;
     request.kind = PromptKind::Corner;
-    request.prompt = u"\nSpecify opposite corner: "_s;
+    request.prompt = Commands::tr("\nSpecify opposite corner: ");
     request.base = first;
     request.bits = NoEmptyAnswer;
     const PromptReply second = co_await context.ask(request);
@@ -51,7 +52,8 @@ Dialogue<std::optional<Box>> askOppositeCorner(CommandContext &context, Vec3 fir
 
 Dialogue<std::optional<Box>> askFrame(CommandContext &context)
 {
-    const PromptReply first = co_await context.point(u"Specify first corner or [Fit] <Fit>: "_s, {}, {}, u"Fit"_s);
+    const PromptReply first =
+        co_await context.point(Commands::tr("Specify first corner or [Fit] <Fit>: "), {}, {}, u"Fit"_s);
     if (!first.hasValue())
         co_return printableArea(context);
     co_return co_await askOppositeCorner(context, first.point);
@@ -71,11 +73,12 @@ Dialogue<bool> makeSeveral(CommandContext &context, int count)
 /// The viewports of a configuration of the screen, each in its place of the frame.
 Dialogue<bool> restoreConfiguration(CommandContext &context)
 {
-    const auto name = co_await askEntryName(context, drawing::TableKind::Viewport,
-                                            u"Enter viewport configuration name or [?] <*Active>: "_s, u"*Active"_s);
+    const auto name =
+        co_await askEntryName(context, drawing::TableKind::Viewport,
+                              Commands::tr("Enter viewport configuration name or [?] <*Active>: "), u"*Active"_s);
     const std::vector<RecordId> entries = screenViewports(context.drawing(), name.value_or(u"*Active"_s));
     if (entries.empty()) {
-        context.fail(u"Cannot find viewport configuration \"%1\"."_s.arg(name.value_or(QString())));
+        context.fail(Commands::tr("Cannot find viewport configuration \"%1\".").arg(name.value_or(QString())));
         co_return false;
     }
     const std::optional<Box> frame = co_await askFrame(context);
@@ -105,9 +108,11 @@ bool canBound(const drawing::Drawing &drawing, RecordId entity)
 void clipByEntity(CommandContext &context, RecordId entity)
 {
     if (context.drawing().version() < drawing::Version::R2000)
-        return context.fail(u"A drawing of this version has no viewports with other outlines than rectangles."_s);
+        return context.fail(
+            Commands::tr("A drawing of this version has no viewports with other outlines than rectangles."));
     if (!canBound(context.drawing(), entity))
-        return context.fail(u"A viewport is bounded by a closed polyline, circle, ellipse, spline or region."_s);
+        return context.fail(
+            Commands::tr("A viewport is bounded by a closed polyline, circle, ellipse, spline or region."));
     const RecordId made = makeViewport(context, context.document().boxes().box(entity));
     if (!isValid(made))
         return;
@@ -120,7 +125,7 @@ void clipByEntity(CommandContext &context, RecordId entity)
 
 Dialogue<bool> makeOfObject(CommandContext &context)
 {
-    const PromptReply picked = co_await context.entity(u"Select object to clip viewport: "_s);
+    const PromptReply picked = co_await context.entity(Commands::tr("Select object to clip viewport: "));
     if (!picked.entities.empty())
         clipByEntity(context, picked.entities.front());
     co_return true;
@@ -128,10 +133,11 @@ Dialogue<bool> makeOfObject(CommandContext &context)
 
 Dialogue<bool> makePolygonal(CommandContext &context)
 {
-    const PromptReply start = co_await context.neededPoint(u"Specify start point: "_s);
+    const PromptReply start = co_await context.neededPoint(Commands::tr("Specify start point: "));
     std::vector<Vec3> corners = {start.point};
     for (;;) {
-        const PromptReply next = co_await context.point(u"Specify next point or [Close/Undo]: "_s, {}, corners.back());
+        const PromptReply next =
+            co_await context.point(Commands::tr("Specify next point or [Close/Undo]: "), {}, corners.back());
         if (next.hasValue())
             corners.push_back(next.point);
         else if (next.isKeyword(u"Undo") && corners.size() > 1)
@@ -140,7 +146,7 @@ Dialogue<bool> makePolygonal(CommandContext &context)
             break;
     }
     if (corners.size() < 3) {
-        context.fail(u"A viewport has three corners at least."_s);
+        context.fail(Commands::tr("A viewport has three corners at least."));
         co_return false;
     }
     drawing::FieldList outline = {{0, u"LWPOLYLINE"_s}, {90, qint64(corners.size())}, {70, qint64(1)}};
@@ -161,7 +167,7 @@ Dialogue<bool> switchChosen(CommandContext &context, drawing::ViewportFlag flag,
 
 Dialogue<bool> lockChosen(CommandContext &context)
 {
-    const PromptReply state = co_await context.keyword(u"Viewport View Locking [ON/OFF]: "_s);
+    const PromptReply state = co_await context.keyword(Commands::tr("Viewport View Locking [ON/OFF]: "));
     co_return co_await switchChosen(context, drawing::LockedViewport, state.text == u"ON"_s);
 }
 
@@ -171,7 +177,7 @@ Dialogue<bool> shadeChosen(CommandContext &context)
     // By their first letters, as one of them has a blank.
     const QString letters = u"AWHR"_s;
     const PromptReply way = co_await context.text(
-        u"Shade plot? [As displayed/Wireframe/Hidden/Rendered] <As displayed>: "_s, u"As displayed"_s);
+        Commands::tr("Shade plot? [As displayed/Wireframe/Hidden/Rendered] <As displayed>: "), u"As displayed"_s);
     const PromptReply chosen = co_await context.selection();
     const QString word = way.text.trimmed().toUpper().remove(u'_');
     const qint64 number = word.isEmpty() ? 0 : std::max<qint64>(0, letters.indexOf(word.front()));
@@ -214,7 +220,8 @@ Dialogue<bool> askViewports(CommandContext &context)
     // Viewports stand on the sheet, whatever is worked on.
     enterSheet(context);
     const PromptReply reply = co_await context.point(
-        u"Specify corner of viewport or [ON/OFF/Fit/Shadeplot/Lock/Object/Polygonal/Restore/2/3/4] <Fit>: "_s,
+        Commands::tr(
+            "Specify corner of viewport or [ON/OFF/Fit/Shadeplot/Lock/Object/Polygonal/Restore/2/3/4] <Fit>: "),
         u"ON OFF Fit Shadeplot Hideplot Lock Object Polygonal Restore 2 3 4"_s, {}, u"Fit"_s);
     const QString option = reply.kind == ReplyKind::Keyword ? reply.text : u"Fit"_s;
     if (!reply.hasValue())
@@ -242,7 +249,7 @@ CommandTask screenOrSheet(CommandContext &context)
 CommandTask toModel(CommandContext &context)
 {
     if (isValid(currentViewport(context.drawing())))
-        context.print(u"\nAlready in model space."_s);
+        context.print(Commands::tr("\nAlready in model space."));
     else
         enterModel(context);
     co_return;
@@ -253,7 +260,7 @@ CommandTask toSheet(CommandContext &context)
     if (!neededSheet(context))
         co_return;
     if (!isValid(currentViewport(context.drawing())))
-        context.print(u"\nAlready in paper space."_s);
+        context.print(Commands::tr("\nAlready in paper space."));
     enterSheet(context);
 }
 

@@ -7,6 +7,7 @@
 #include "host/drawing/selection/Wildcard.h"
 #include "host/kernel/documents/CurrentSpace.h"
 #include "host/kernel/documents/Document.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/running/CommandContext.h"
 
 #include <QSet>
@@ -29,7 +30,7 @@ QStringList matchingNames(CommandContext &context, const QString &patterns)
         if (drawing::matchesWildcard(layer.name, patterns.trimmed()))
             names.append(layer.name);
     if (names.isEmpty())
-        context.print(u"\nNo matching layer names found."_s);
+        context.print(Commands::tr("\nNo matching layer names found."));
     return names;
 }
 
@@ -57,7 +58,7 @@ std::vector<RecordId> viewportInUse(CommandContext &context)
 Dialogue<std::vector<RecordId>> askWhere(CommandContext &context)
 {
     const PromptReply where = co_await context.keyword(
-        u"Enter an option [All/Select/Current/eXcept current] <Current>: "_s, {}, u"Current"_s);
+        Commands::tr("Enter an option [All/Select/Current/eXcept current] <Current>: "), {}, u"Current"_s);
     if (where.text == u"All"_s)
         co_return allSheetViewports(context);
     if (where.text == u"Select"_s) {
@@ -147,14 +148,15 @@ void setFrozenInNew(CommandContext &context, const QString &name, bool isFrozen)
 /// New layers, frozen in every viewport that there is and that will be.
 Dialogue<bool> makeFrozenLayers(CommandContext &context)
 {
-    const PromptReply typed = co_await context.text(u"Enter name(s) of new layers frozen in all viewports: "_s);
+    const PromptReply typed =
+        co_await context.text(Commands::tr("Enter name(s) of new layers frozen in all viewports: "));
     if (!typed.hasValue())
         co_return false;
     QStringList names;
     for (const QString &part : typed.text.split(u',', Qt::SkipEmptyParts)) {
         const QString name = part.trimmed();
         if (!drawing::isSymbolName(name, context.drawing().version())) {
-            context.refuse(u"\"%1\" cannot be the name of a layer."_s.arg(name));
+            context.refuse(Commands::tr("\"%1\" cannot be the name of a layer.").arg(name));
             co_return false;
         }
         context.drawing().tables().add(TableKind::Layer, name);
@@ -168,11 +170,12 @@ Dialogue<bool> makeFrozenLayers(CommandContext &context)
 
 Dialogue<bool> changeDefaults(CommandContext &context)
 {
-    const PromptReply typed = co_await context.text(u"Enter layer name(s) to change viewport visibility: "_s);
+    const PromptReply typed =
+        co_await context.text(Commands::tr("Enter layer name(s) to change viewport visibility: "));
     if (!typed.hasValue())
         co_return false;
-    const PromptReply state =
-        co_await context.keyword(u"Enter a viewport visibility option [Frozen/Thawed] <Thawed>: "_s, {}, u"Thawed"_s);
+    const PromptReply state = co_await context.keyword(
+        Commands::tr("Enter a viewport visibility option [Frozen/Thawed] <Thawed>: "), {}, u"Thawed"_s);
     for (const QString &name : matchingNames(context, typed.text))
         setFrozenInNew(context, name, state.text == u"Frozen"_s);
     co_return true;
@@ -180,13 +183,14 @@ Dialogue<bool> changeDefaults(CommandContext &context)
 
 Dialogue<bool> listFrozen(CommandContext &context)
 {
-    const PromptReply picked = co_await context.entity(u"Select a viewport: "_s);
+    const PromptReply picked = co_await context.entity(Commands::tr("Select a viewport: "));
     if (picked.entities.empty() || !context.drawing().isType(picked.entities.front(), "VIEWPORT")) {
-        context.refuse(u"No viewport was chosen."_s);
+        context.refuse(Commands::tr("No viewport was chosen."));
         co_return false;
     }
     const RecordId viewport = picked.entities.front();
-    context.print(u"\nLayers currently frozen in viewport %1:"_s.arg(context.drawing().tags(viewport).integer(69)));
+    context.print(
+        Commands::tr("\nLayers currently frozen in viewport %1:").arg(context.drawing().tags(viewport).integer(69)));
     for (const QString &name : drawing::layersFrozenIn(context.drawing(), viewport))
         context.print(u"\n\"%1\""_s.arg(name));
     co_return true;
@@ -197,17 +201,17 @@ Dialogue<bool> takeLayerOptionOfViewports(CommandContext &context, QString optio
     if (option == u"?")
         co_return co_await listFrozen(context);
     if (option == u"Freeze")
-        co_return co_await changeLayers(context, u"Enter layer name(s) to freeze or <select objects>: "_s,
+        co_return co_await changeLayers(context, Commands::tr("Enter layer name(s) to freeze or <select objects>: "),
                                         Change::Freeze);
     if (option == u"Thaw")
-        co_return co_await changeLayers(context, u"Enter layer name(s) to thaw: "_s, Change::Thaw);
+        co_return co_await changeLayers(context, Commands::tr("Enter layer name(s) to thaw: "), Change::Thaw);
     if (option == u"Reset")
-        co_return co_await changeLayers(context, u"Enter layer name(s) to reset: "_s, Change::Reset);
+        co_return co_await changeLayers(context, Commands::tr("Enter layer name(s) to reset: "), Change::Reset);
     if (option == u"Newfrz")
         co_return co_await makeFrozenLayers(context);
     if (option == u"Vpvisdflt")
         co_return co_await changeDefaults(context);
-    context.refuse(u"Layers have the same properties in all viewports here: nothing was changed."_s);
+    context.refuse(Commands::tr("Layers have the same properties in all viewports here: nothing was changed."));
     co_return false;
 }
 
@@ -218,7 +222,7 @@ CommandTask viewportLayers(CommandContext &context)
         co_return;
     while (!context.hasFailed()) {
         const PromptReply option = co_await context.keyword(
-            u"Enter an option [?/Color/Ltype/LWeight/TRansparency/Freeze/Thaw/Reset/Newfrz/Vpvisdflt]: "_s);
+            Commands::tr("Enter an option [?/Color/Ltype/LWeight/TRansparency/Freeze/Thaw/Reset/Newfrz/Vpvisdflt]: "));
         if (!option.hasValue())
             co_return;
         co_await takeLayerOptionOfViewports(context, option.text);

@@ -6,6 +6,7 @@
 #include "host/drawing/records/Entities.h"
 #include "host/drawing/records/HeaderVariables.h"
 #include "host/drawing/records/Journal.h"
+#include "host/drawing/tags/DrawingTexts.h"
 
 namespace host::drawing {
 
@@ -74,7 +75,7 @@ CopyResult insertAsBlock(const Drawing &source, Drawing &target, const QString &
     const JournalGroup group(target.journal(), u"insert"_s);
     const RecordId block = target.blocks().create(name, source.header().point(u"$INSBASE"));
     if (!isValid(block))
-        return {noRecord, 0, u"\"%1\" cannot be the name of a block"_s.arg(name)};
+        return {noRecord, 0, DrawingTexts::tr("\"%1\" cannot be the name of a block").arg(name)};
     DrawingCopier copier(source, target, rules);
     for (const RecordId entity : source.entities().inSpace(Space::Model))
         copier.copyEntity(entity, block);
@@ -85,12 +86,12 @@ CopyResult insertAsBlock(const Drawing &source, Drawing &target, const QString &
 CopyResult copyBlock(const Drawing &source, RecordId block, Drawing &target)
 {
     if (!source.isAlive(block) || source.kind(block) != RecordKind::Block || source.blocks().read(block).isLayout())
-        return {noRecord, 0, u"there is no such block"_s};
+        return {noRecord, 0, DrawingTexts::tr("there is no such block")};
     const JournalGroup group(target.journal(), u"block"_s);
     DrawingCopier copier(source, target);
     const RecordId copied = copier.copyBlock(block);
     if (!isValid(copied))
-        return {noRecord, 0, u"\"%1\" cannot be the name of a block"_s.arg(source.blocks().name(block))};
+        return {noRecord, 0, DrawingTexts::tr("\"%1\" cannot be the name of a block").arg(source.blocks().name(block))};
     return {copied, copier.skipped(), {}, copier.kept(), copier.converted()};
 }
 

@@ -9,6 +9,7 @@
 #include "host/drawing/records/Dictionaries.h"
 #include "host/drawing/records/Entities.h"
 #include "host/drawing/records/Journal.h"
+#include "host/drawing/tags/DrawingTexts.h"
 #include "host/drawing/tags/GroupCodes.h"
 
 namespace host::drawing {
@@ -122,7 +123,7 @@ private:
             pieces = m_rules.shown(entity);
         for (const FieldList &piece : pieces)
             place(m_place.create(piece), matrix, depth);
-        return !pieces.empty() || refuse(u"%1 cannot be exploded."_s.arg(QLatin1StringView(type)));
+        return !pieces.empty() || refuse(DrawingTexts::tr("%1 cannot be exploded.").arg(QLatin1StringView(type)));
     }
 
     bool takeReference(RecordId insert, const Matrix &matrix, int depth)
@@ -130,19 +131,19 @@ private:
         const TagList tags = m_drawing.tags(insert);
         const std::optional<Block> block = m_drawing.blocks().get(tags.text(2));
         if (!block)
-            return refuse(u"Block \"%1\" is missing."_s.arg(tags.text(2)));
+            return refuse(DrawingTexts::tr("Block \"%1\" is missing.").arg(tags.text(2)));
         if (block->isExternal())
-            return refuse(u"An external reference cannot be exploded."_s);
+            return refuse(DrawingTexts::tr("An external reference cannot be exploded."));
         if (isValid(block->tableEntry) && m_drawing.tags(block->tableEntry).integer(280, 1) == 0)
-            return refuse(u"Block \"%1\" may not be exploded."_s.arg(block->name));
+            return refuse(DrawingTexts::tr("Block \"%1\" may not be exploded.").arg(block->name));
         if (!m_rules.takesUneven && isUneven(tags))
-            return refuse(u"The scales of block \"%1\" differ."_s.arg(block->name));
+            return refuse(DrawingTexts::tr("The scales of block \"%1\" differ.").arg(block->name));
         const std::vector<RecordId> contents = m_drawing.children(block->record);
         const bool isArray = m_drawing.isType(insert, "INSERT");
         const qint64 columns = isArray ? std::clamp<qint64>(tags.integer(70, 1), 1, 32767) : 1;
         const qint64 rows = isArray ? std::clamp<qint64>(tags.integer(71, 1), 1, 32767) : 1;
         if (!m_work.take(columns * rows * static_cast<qint64>(contents.size() + 1)))
-            return refuse(u"Too many entities would come of it."_s);
+            return refuse(DrawingTexts::tr("Too many entities would come of it."));
         for (qint64 row = 0; row < rows; ++row)
             for (qint64 column = 0; column < columns; ++column)
                 placeContents(contents, matrix * insertTransform(m_drawing, tags, int(column), int(row)), depth);

@@ -7,6 +7,7 @@
 #include "host/drawing/records/Entities.h"
 #include "host/drawing/records/Journal.h"
 #include "host/drawing/records/Tables.h"
+#include "host/drawing/tags/DrawingTexts.h"
 #include "host/drawing/tags/GroupCodes.h"
 
 #include <QHash>
@@ -25,7 +26,7 @@ using LayoutCopies = QHash<quint64, Handle>;
 
 QString noMoreSheets()
 {
-    return u"A drawing of this version has one sheet."_s;
+    return DrawingTexts::tr("A drawing of this version has one sheet.");
 }
 
 RecordId layoutNames(const Drawing &drawing)
@@ -178,10 +179,10 @@ bool isInUse(const Drawing &drawing, const LayoutTab &layout)
 QString obstacleToLayoutName(const Drawing &drawing, const QString &name, const QString &own)
 {
     if (!isSymbolName(name, drawing.version()) || name != name.trimmed())
-        return u"A layout cannot be called \"%1\"."_s.arg(name);
+        return DrawingTexts::tr("A layout cannot be called \"%1\".").arg(name);
     const bool isOwn = !own.isEmpty() && own.compare(name, Qt::CaseInsensitive) == 0;
     if (!isOwn && findLayout(drawing, name))
-        return u"Layout \"%1\" already exists."_s.arg(name);
+        return DrawingTexts::tr("Layout \"%1\" already exists.").arg(name);
     return {};
 }
 
@@ -196,7 +197,7 @@ QString newLayout(Drawing &drawing, const QString &name)
 QString copyLayout(Drawing &drawing, const LayoutTab &layout, const QString &name)
 {
     if (layout.isModel())
-        return u"Model space cannot be copied."_s;
+        return DrawingTexts::tr("Model space cannot be copied.");
     if (const QString obstacle = obstacleToLayoutName(drawing, name); !obstacle.isEmpty())
         return obstacle;
     const JournalGroup group(drawing.journal(), {});
@@ -214,7 +215,7 @@ QString copyLayout(Drawing &drawing, const LayoutTab &layout, const QString &nam
 QString moveLayout(Drawing &drawing, const LayoutTab &layout, qint64 place)
 {
     if (layout.isModel())
-        return u"Model space cannot be moved."_s;
+        return DrawingTexts::tr("Model space cannot be moved.");
     if (!isValid(layout.record))
         return noMoreSheets();
     std::vector<LayoutTab> sheets = layoutTabs(drawing);
@@ -230,9 +231,10 @@ QString moveLayout(Drawing &drawing, const LayoutTab &layout, qint64 place)
 QString renameLayout(Drawing &drawing, const LayoutTab &layout, const QString &name)
 {
     if (layout.isModel())
-        return u"Model space cannot be renamed."_s;
+        return DrawingTexts::tr("Model space cannot be renamed.");
     if (!isValid(layout.record))
-        return u"Layout \"%1\" has no object in this drawing that a name could be given to."_s.arg(layout.name);
+        return DrawingTexts::tr("Layout \"%1\" has no object in this drawing that a name could be given to.")
+            .arg(layout.name);
     if (const QString obstacle = obstacleToLayoutName(drawing, name, layout.name); !obstacle.isEmpty())
         return obstacle;
     const JournalGroup group(drawing.journal(), {});
@@ -255,11 +257,11 @@ QString renameLayout(Drawing &drawing, const LayoutTab &layout, const QString &n
 QString deleteLayout(Drawing &drawing, const LayoutTab &layout)
 {
     if (layout.isModel())
-        return u"Model space cannot be deleted."_s;
+        return DrawingTexts::tr("Model space cannot be deleted.");
     std::vector<LayoutTab> others = layoutTabs(drawing);
     std::erase_if(others, [&](const LayoutTab &tab) { return tab.isModel() || tab.record == layout.record; });
     if (others.empty())
-        return u"The last layout cannot be deleted."_s;
+        return DrawingTexts::tr("The last layout cannot be deleted.");
     const JournalGroup group(drawing.journal(), {});
     if (!isInUse(drawing, layout)) {
         drawing.blocks().erase(layout.block);

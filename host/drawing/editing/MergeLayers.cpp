@@ -7,6 +7,7 @@
 #include "host/drawing/records/HeaderVariables.h"
 #include "host/drawing/records/Journal.h"
 #include "host/drawing/records/Tables.h"
+#include "host/drawing/tags/DrawingTexts.h"
 
 #include <QHash>
 
@@ -44,12 +45,13 @@ QString obstacleToRemovingLayer(const Drawing &drawing, const QString &name)
 {
     const RecordId entry = drawing.tables().find(TableKind::Layer, name);
     if (!isValid(entry))
-        return u"Cannot find layer \"%1\"."_s.arg(name);
+        return DrawingTexts::tr("Cannot find layer \"%1\".").arg(name);
     if (name == u"0" || name.compare(u"Defpoints", Qt::CaseInsensitive) == 0)
-        return u"Layer \"%1\" is needed by every drawing."_s.arg(name);
+        return DrawingTexts::tr("Layer \"%1\" is needed by every drawing.").arg(name);
     if (drawing.header().text(u"$CLAYER", u"0"_s).compare(name, Qt::CaseInsensitive) == 0)
-        return u"Layer \"%1\" is the current layer."_s.arg(name);
-    return name.contains(u'|') ? u"Layer \"%1\" belongs to an external reference."_s.arg(name) : QString();
+        return DrawingTexts::tr("Layer \"%1\" is the current layer.").arg(name);
+    return name.contains(u'|') ? DrawingTexts::tr("Layer \"%1\" belongs to an external reference.").arg(name)
+                               : QString();
 }
 
 void mergeLayers(Drawing &drawing, const QStringList &names, const QString &into)

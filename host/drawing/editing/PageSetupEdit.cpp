@@ -1,5 +1,6 @@
 #include "host/drawing/editing/PageSetupEdit.h"
 
+#include "host/drawing/tags/DrawingTexts.h"
 #include "host/drawing/tags/GroupCodes.h"
 
 #include <algorithm>
@@ -108,7 +109,7 @@ QString writePageSetup(Drawing &drawing, const LayoutTab &layout, const PageSetu
     FieldList fields = isValid(layout.record) ? drawing.fields(layout.record) : FieldList();
     PageFields page(fields);
     if (!page.isThere())
-        return u"A drawing of this version keeps no page setup."_s;
+        return DrawingTexts::tr("A drawing of this version keeps no page setup.");
     const PageSetup before = readPageSetup(drawing, layout);
     if (setup.hasPaper() && before.paper != setup.paper) {
         setPaper(page, setup);

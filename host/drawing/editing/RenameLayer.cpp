@@ -2,6 +2,7 @@
 
 #include "host/drawing/records/Journal.h"
 #include "host/drawing/records/Tables.h"
+#include "host/drawing/tags/DrawingTexts.h"
 
 #include <QRegularExpression>
 
@@ -63,15 +64,15 @@ QString renameLayer(Drawing &drawing, const QString &from, const QString &to)
 {
     const RecordId entry = drawing.tables().find(TableKind::Layer, from);
     if (!isValid(entry))
-        return u"Cannot find layer \"%1\"."_s.arg(from);
+        return DrawingTexts::tr("Cannot find layer \"%1\".").arg(from);
     const QString name = drawing.tables().name(entry);
     if (name == u"0" || name.contains(u'|'))
-        return u"Layer \"%1\" cannot be renamed."_s.arg(name);
+        return DrawingTexts::tr("Layer \"%1\" cannot be renamed.").arg(name);
     const RecordId taken = drawing.tables().find(TableKind::Layer, to);
     if (isValid(taken) && taken != entry)
-        return u"Layer \"%1\" already exists."_s.arg(to);
+        return DrawingTexts::tr("Layer \"%1\" already exists.").arg(to);
     if (!isSymbolName(to, drawing.version()))
-        return u"\"%1\" cannot be the name of a layer."_s.arg(to);
+        return DrawingTexts::tr("\"%1\" cannot be the name of a layer.").arg(to);
     const JournalGroup group(drawing.journal(), {});
     FieldList fields = drawing.fields(entry);
     setField(fields, 2, to);

@@ -4,6 +4,7 @@
 #include "host/drawing/records/Blocks.h"
 #include "host/drawing/records/Dictionaries.h"
 #include "host/drawing/records/Journal.h"
+#include "host/drawing/tags/DrawingTexts.h"
 #include "host/drawing/tags/GroupCodes.h"
 
 using namespace Qt::StringLiterals;
@@ -70,7 +71,8 @@ bool namesView(RecordKind kind, QByteArrayView type, int code)
 struct RenameRule
 {
     TableKind kind;
-    const char *what;
+    const char *what;                                                ///< as a sentence begins
+    const char *within;                                              ///< and within one
     bool (*namesIt)(RecordKind kind, QByteArrayView type, int code); ///< null: nothing but the entry has the name
     QStringList fixed;                                               ///< names that stay
 };
@@ -78,13 +80,41 @@ struct RenameRule
 const RenameRule *renameRuleOf(TableKind kind)
 {
     static const std::vector<RenameRule> rules = {
-        {TableKind::BlockRecord, "Block", namesBlock, {}},
-        {TableKind::DimStyle, "Dimension style", namesDimensionStyle, {}},
-        {TableKind::Linetype, "Linetype", namesLinetype, {u"ByLayer"_s, u"ByBlock"_s, u"Continuous"_s}},
-        {TableKind::Style, "Text style", namesTextStyle, {}},
-        {TableKind::Ucs, "UCS", namesUserSystem, {}},
-        {TableKind::View, "View", namesView, {}},
-        {TableKind::Viewport, "Viewport configuration", nullptr, {}},
+        {TableKind::BlockRecord,
+         QT_TRANSLATE_NOOP("DrawingTexts", "Block"),
+         QT_TRANSLATE_NOOP("DrawingTexts", "block"),
+         namesBlock,
+         {}},
+        {TableKind::DimStyle,
+         QT_TRANSLATE_NOOP("DrawingTexts", "Dimension style"),
+         QT_TRANSLATE_NOOP("DrawingTexts", "dimension style"),
+         namesDimensionStyle,
+         {}},
+        {TableKind::Linetype,
+         QT_TRANSLATE_NOOP("DrawingTexts", "Linetype"),
+         QT_TRANSLATE_NOOP("DrawingTexts", "linetype"),
+         namesLinetype,
+         {u"ByLayer"_s, u"ByBlock"_s, u"Continuous"_s}},
+        {TableKind::Style,
+         QT_TRANSLATE_NOOP("DrawingTexts", "Text style"),
+         QT_TRANSLATE_NOOP("DrawingTexts", "text style"),
+         namesTextStyle,
+         {}},
+        {TableKind::Ucs,
+         QT_TRANSLATE_NOOP("DrawingTexts", "UCS"),
+         QT_TRANSLATE_NOOP("DrawingTexts", "ucs"),
+         namesUserSystem,
+         {}},
+        {TableKind::View,
+         QT_TRANSLATE_NOOP("DrawingTexts", "View"),
+         QT_TRANSLATE_NOOP("DrawingTexts", "view"),
+         namesView,
+         {}},
+        {TableKind::Viewport,
+         QT_TRANSLATE_NOOP("DrawingTexts", "Viewport configuration"),
+         QT_TRANSLATE_NOOP("DrawingTexts", "viewport configuration"),
+         nullptr,
+         {}},
     };
     const auto rule = std::ranges::find(rules, kind, &RenameRule::kind);
     return rule == rules.end() ? nullptr : &*rule;
@@ -117,16 +147,16 @@ bool hasEntry(const Drawing &drawing, TableKind kind, const QString &name)
 
 QString obstacleToRenaming(const Drawing &drawing, const RenameRule &rule, const QString &from, const QString &to)
 {
-    const QString what = QLatin1StringView(rule.what);
+    const QString what = DrawingTexts::tr(rule.what);
     if (from.isEmpty() || !hasEntry(drawing, rule.kind, from))
-        return u"Cannot find %1 \"%2\"."_s.arg(what.toLower(), from);
+        return DrawingTexts::tr("Cannot find %1 \"%2\".").arg(DrawingTexts::tr(rule.within), from);
     if (from.startsWith(u'*') || from.contains(u'|') || rule.fixed.contains(from, Qt::CaseInsensitive))
-        return u"%1 \"%2\" cannot be renamed."_s.arg(what, from);
+        return DrawingTexts::tr("%1 \"%2\" cannot be renamed.").arg(what, from);
     if (!isSymbolName(to, drawing.version()))
-        return u"\"%1\" cannot be a name."_s.arg(to);
+        return DrawingTexts::tr("\"%1\" cannot be a name.").arg(to);
     const bool isOtherCase = from.compare(to, Qt::CaseInsensitive) == 0;
     if (!isOtherCase && hasEntry(drawing, rule.kind, to))
-        return u"%1 \"%2\" already exists."_s.arg(what, to);
+        return DrawingTexts::tr("%1 \"%2\" already exists.").arg(what, to);
     return {};
 }
 
@@ -138,7 +168,7 @@ QString renameEntry(Drawing &drawing, TableKind kind, const QString &from, const
         return renameLayer(drawing, from, to);
     const RenameRule *rule = renameRuleOf(kind);
     if (!rule)
-        return u"Registered applications cannot be renamed."_s;
+        return DrawingTexts::tr("Registered applications cannot be renamed.");
     if (const QString obstacle = obstacleToRenaming(drawing, *rule, from, to); !obstacle.isEmpty())
         return obstacle;
     const JournalGroup group(drawing.journal(), {});
@@ -159,12 +189,12 @@ QString renameInDictionary(Drawing &drawing, QStringView dictionary, const QStri
     const RecordId root = drawing.dictionaries().root();
     const RecordId names = isValid(root) ? drawing.dictionaries().find(root, dictionary) : noRecord;
     if (!isValid(names) || !isValid(drawing.dictionaries().find(names, from)))
-        return u"Cannot find \"%1\"."_s.arg(from);
+        return DrawingTexts::tr("Cannot find \"%1\".").arg(from);
     if (!isSymbolName(to, drawing.version()))
-        return u"\"%1\" cannot be a name."_s.arg(to);
+        return DrawingTexts::tr("\"%1\" cannot be a name.").arg(to);
     const bool isOtherCase = from.compare(to, Qt::CaseInsensitive) == 0;
     if (!isOtherCase && isValid(drawing.dictionaries().find(names, to)))
-        return u"\"%1\" already exists."_s.arg(to);
+        return DrawingTexts::tr("\"%1\" already exists.").arg(to);
     FieldList fields = drawing.fields(names);
     for (Field &field : fields)
         if (field.code == entryNameCode && field.text().compare(from, Qt::CaseInsensitive) == 0)

@@ -10,6 +10,7 @@
 #include "host/drawing/records/Journal.h"
 #include "host/drawing/records/LayoutTabs.h"
 #include "host/drawing/records/Tables.h"
+#include "host/drawing/tags/DrawingTexts.h"
 #include "host/drawing/tags/GroupCodes.h"
 
 namespace host::drawing {
@@ -166,15 +167,15 @@ private:
 QString problemOf(const Drawing &source, const std::vector<MergedSheet> &sheets, const Drawing &target)
 {
     if (target.version() < Version::R2000)
-        return u"a drawing of this version has one sheet only"_s;
+        return DrawingTexts::tr("a drawing of this version has one sheet only");
     for (const MergedSheet &sheet : sheets) {
         const std::optional<LayoutTab> tab = findLayout(source, sheet.layout);
         if (!isSymbolName(sheet.name, target.version()))
-            return u"\"%1\" cannot be the name of a sheet"_s.arg(sheet.name);
+            return DrawingTexts::tr("\"%1\" cannot be the name of a sheet").arg(sheet.name);
         if (!tab || tab->isModel())
-            return u"there is no sheet \"%1\""_s.arg(sheet.layout);
+            return DrawingTexts::tr("there is no sheet \"%1\"").arg(sheet.layout);
         if (findLayout(target, sheet.name))
-            return u"there is a sheet \"%1\" already"_s.arg(sheet.name);
+            return DrawingTexts::tr("there is a sheet \"%1\" already").arg(sheet.name);
     }
     return {};
 }

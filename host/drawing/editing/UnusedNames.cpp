@@ -6,6 +6,7 @@
 #include "host/drawing/records/Entities.h"
 #include "host/drawing/records/Journal.h"
 #include "host/drawing/records/Tables.h"
+#include "host/drawing/tags/DrawingTexts.h"
 
 #include <QSet>
 
@@ -21,7 +22,8 @@ constexpr qint64 shapeFileFlag = 1;
 struct KindRule
 {
     NamedKind kind;
-    const char *name;
+    const char *name; ///< of several
+    const char *nameOfOne;
     std::optional<TableKind> table;
     QStringView dictionary; ///< of the named objects
     QStringList staying;
@@ -43,22 +45,102 @@ const KindRule &ruleOf(NamedKind kind)
 {
     using enum NamedKind;
     static const std::vector<KindRule> rules = {
-        {Blocks, "blocks", TableKind::BlockRecord, {}, {}},
-        {DetailViewStyles, "detail view styles", {}, u"ACAD_DETAILVIEWSTYLE", {u"Metric50"_s, u"Imperial24"_s}},
-        {DimStyles, "dimension styles", TableKind::DimStyle, {}, {u"Standard"_s}},
-        {Groups, "groups", {}, u"ACAD_GROUP", {}},
-        {Layers, "layers", TableKind::Layer, {}, {u"0"_s}},
-        {Linetypes, "linetypes", TableKind::Linetype, {}, {u"ByLayer"_s, u"ByBlock"_s, u"Continuous"_s}},
-        {Materials, "materials", {}, u"ACAD_MATERIAL", {u"ByLayer"_s, u"ByBlock"_s, u"Global"_s}},
-        {MultileaderStyles, "multileader styles", {}, u"ACAD_MLEADERSTYLE", {u"Standard"_s}},
-        {PlotStyles, "plot styles", {}, u"ACAD_PLOTSTYLENAME", {u"Normal"_s}},
-        {Shapes, "shape files", TableKind::Style, {}, {}},
-        {TextStyles, "text styles", TableKind::Style, {}, {u"Standard"_s}},
-        {MultilineStyles, "multiline styles", {}, u"ACAD_MLINESTYLE", {u"Standard"_s}},
-        {SectionViewStyles, "section view styles", {}, u"ACAD_SECTIONVIEWSTYLE", {u"Metric50"_s, u"Imperial24"_s}},
-        {TableStyles, "table styles", {}, u"ACAD_TABLESTYLE", {u"Standard"_s}},
-        {VisualStyles, "visual styles", {}, u"ACAD_VISUALSTYLE", builtInVisualStyles()},
-        {Applications, "registered applications", TableKind::AppId, {}, {u"ACAD"_s}},
+        {Blocks,
+         QT_TRANSLATE_NOOP("DrawingTexts", "blocks"),
+         QT_TRANSLATE_NOOP("DrawingTexts", "block"),
+         TableKind::BlockRecord,
+         {},
+         {}},
+        {DetailViewStyles,
+         QT_TRANSLATE_NOOP("DrawingTexts", "detail view styles"),
+         QT_TRANSLATE_NOOP("DrawingTexts", "detail view style"),
+         {},
+         u"ACAD_DETAILVIEWSTYLE",
+         {u"Metric50"_s, u"Imperial24"_s}},
+        {DimStyles,
+         QT_TRANSLATE_NOOP("DrawingTexts", "dimension styles"),
+         QT_TRANSLATE_NOOP("DrawingTexts", "dimension style"),
+         TableKind::DimStyle,
+         {},
+         {u"Standard"_s}},
+        {Groups,
+         QT_TRANSLATE_NOOP("DrawingTexts", "groups"),
+         QT_TRANSLATE_NOOP("DrawingTexts", "group"),
+         {},
+         u"ACAD_GROUP",
+         {}},
+        {Layers,
+         QT_TRANSLATE_NOOP("DrawingTexts", "layers"),
+         QT_TRANSLATE_NOOP("DrawingTexts", "layer"),
+         TableKind::Layer,
+         {},
+         {u"0"_s}},
+        {Linetypes,
+         QT_TRANSLATE_NOOP("DrawingTexts", "linetypes"),
+         QT_TRANSLATE_NOOP("DrawingTexts", "linetype"),
+         TableKind::Linetype,
+         {},
+         {u"ByLayer"_s, u"ByBlock"_s, u"Continuous"_s}},
+        {Materials,
+         QT_TRANSLATE_NOOP("DrawingTexts", "materials"),
+         QT_TRANSLATE_NOOP("DrawingTexts", "material"),
+         {},
+         u"ACAD_MATERIAL",
+         {u"ByLayer"_s, u"ByBlock"_s, u"Global"_s}},
+        {MultileaderStyles,
+         QT_TRANSLATE_NOOP("DrawingTexts", "multileader styles"),
+         QT_TRANSLATE_NOOP("DrawingTexts", "multileader style"),
+         {},
+         u"ACAD_MLEADERSTYLE",
+         {u"Standard"_s}},
+        {PlotStyles,
+         QT_TRANSLATE_NOOP("DrawingTexts", "plot styles"),
+         QT_TRANSLATE_NOOP("DrawingTexts", "plot style"),
+         {},
+         u"ACAD_PLOTSTYLENAME",
+         {u"Normal"_s}},
+        {Shapes,
+         QT_TRANSLATE_NOOP("DrawingTexts", "shape files"),
+         QT_TRANSLATE_NOOP("DrawingTexts", "shape file"),
+         TableKind::Style,
+         {},
+         {}},
+        {TextStyles,
+         QT_TRANSLATE_NOOP("DrawingTexts", "text styles"),
+         QT_TRANSLATE_NOOP("DrawingTexts", "text style"),
+         TableKind::Style,
+         {},
+         {u"Standard"_s}},
+        {MultilineStyles,
+         QT_TRANSLATE_NOOP("DrawingTexts", "multiline styles"),
+         QT_TRANSLATE_NOOP("DrawingTexts", "multiline style"),
+         {},
+         u"ACAD_MLINESTYLE",
+         {u"Standard"_s}},
+        {SectionViewStyles,
+         QT_TRANSLATE_NOOP("DrawingTexts", "section view styles"),
+         QT_TRANSLATE_NOOP("DrawingTexts", "section view style"),
+         {},
+         u"ACAD_SECTIONVIEWSTYLE",
+         {u"Metric50"_s, u"Imperial24"_s}},
+        {TableStyles,
+         QT_TRANSLATE_NOOP("DrawingTexts", "table styles"),
+         QT_TRANSLATE_NOOP("DrawingTexts", "table style"),
+         {},
+         u"ACAD_TABLESTYLE",
+         {u"Standard"_s}},
+        {VisualStyles,
+         QT_TRANSLATE_NOOP("DrawingTexts", "visual styles"),
+         QT_TRANSLATE_NOOP("DrawingTexts", "visual style"),
+         {},
+         u"ACAD_VISUALSTYLE",
+         builtInVisualStyles()},
+        {Applications,
+         QT_TRANSLATE_NOOP("DrawingTexts", "registered applications"),
+         QT_TRANSLATE_NOOP("DrawingTexts", "registered application"),
+         TableKind::AppId,
+         {},
+         {u"ACAD"_s}},
     };
     return rules[static_cast<std::size_t>(kind)];
 }
@@ -224,7 +306,12 @@ std::span<const NamedKind> allNamedKinds()
 
 QString kindName(NamedKind kind)
 {
-    return QString::fromLatin1(ruleOf(kind).name);
+    return DrawingTexts::tr(ruleOf(kind).name);
+}
+
+QString kindNameOfOne(NamedKind kind)
+{
+    return DrawingTexts::tr(ruleOf(kind).nameOfOne);
 }
 
 std::vector<NamedThing> unusedNames(const Drawing &drawing, NamedKind kind,

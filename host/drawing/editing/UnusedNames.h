@@ -31,8 +31,9 @@ enum class NamedKind
 
 /// All kinds, in the order of NamedKind. What the span shows lives as long as the program.
 std::span<const NamedKind> allNamedKinds();
-/// What people call several of a kind: "text styles". English, not translated.
+/// What people call several of a kind, and one: "text styles", "text style". In the language of the program.
 QString kindName(NamedKind kind);
+QString kindNameOfOne(NamedKind kind);
 
 struct NamedThing
 {

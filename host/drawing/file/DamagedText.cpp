@@ -2,6 +2,7 @@
 
 #include "host/drawing/file/RecordTypes.h"
 #include "host/drawing/tags/Diagnostic.h"
+#include "host/drawing/tags/DrawingTexts.h"
 #include "host/drawing/tags/GroupCodes.h"
 #include "host/drawing/tags/Tag.h"
 
@@ -151,7 +152,7 @@ void DamagedTextScanner::readPreamble()
     m_found.records.push_back(preamble);
     const Position sync = findSync(m_next);
     if (sync.place != m_next.place)
-        drop(u"lines"_s, m_next, sync, u"no record begins here"_s);
+        drop(u"lines"_s, m_next, sync, DrawingTexts::tr("no record begins here"));
     m_next = sync;
 }
 
@@ -177,7 +178,8 @@ void DamagedTextScanner::readRecord()
         const bool isLast =
             m_found.records.size() <= 1 || isWord(m_found.records.back().type, "ENDSEC") || isEnd(findSync(m_next));
         m_isAtEnd = isLast;
-        return isLast ? finish(record, begin, m_next) : drop(u"EOF"_s, begin, m_next, u"the file goes on behind it"_s);
+        return isLast ? finish(record, begin, m_next)
+                      : drop(u"EOF"_s, begin, m_next, DrawingTexts::tr("the file goes on behind it"));
     }
     readTags(record, begin);
 }
@@ -187,21 +189,22 @@ void DamagedTextScanner::readTags(FoundRecord &record, const Position &begin)
     while (true) {
         const Position tagBegin = m_next;
         if (isEnd(m_next))
-            return finishDamaged(record, begin, 0, u"the file ends within it"_s);
+            return finishDamaged(record, begin, 0, DrawingTexts::tr("the file ends within it"));
         Tag tag;
         const QByteArrayView codeLine = takeLine(m_next);
         if (!parseGroupCode(codeLine.begin(), codeLine.end(), tag.code))
             return finishDamaged(record, begin, tagBegin.line,
-                                 u"group code expected, found %1"_s.arg(quotedLine(codeLine)));
+                                 DrawingTexts::tr("group code expected, found %1").arg(quotedLine(codeLine)));
         if (isEnd(m_next))
-            return finishDamaged(record, begin, 0, u"the file ends within it"_s);
+            return finishDamaged(record, begin, 0, DrawingTexts::tr("the file ends within it"));
         tag.value = takeLine(m_next);
         tag.whole = QByteArrayView(tagBegin.place, m_next.place);
         if (tag.code == 0 || (tag.code == 9 && m_isInHeader)) {
             const QByteArrayView type = tag.value.trimmed();
             if (tag.code == 0 ? !isPlausibleType(type) : !type.startsWith('$'))
-                return finishDamaged(record, begin, tagBegin.line + 1,
-                                     u"type of a record expected, found %1"_s.arg(quotedLine(tag.value)));
+                return finishDamaged(
+                    record, begin, tagBegin.line + 1,
+                    DrawingTexts::tr("type of a record expected, found %1").arg(quotedLine(tag.value)));
             m_next = tagBegin;
             return finish(record, begin, tagBegin);
         }
@@ -243,7 +246,7 @@ void DamagedTextScanner::finish(FoundRecord &record, const Position &begin, cons
         return push(record);
     const auto isReference = [](const Tag &bad) { return tagType(bad.code) == TagType::Handle; };
     const Tag &first = m_bad.front();
-    const QString why = u"group %1 cannot be %2"_s.arg(first.code).arg(quotedLine(first.value));
+    const QString why = DrawingTexts::tr("group %1 cannot be %2").arg(first.code).arg(quotedLine(first.value));
     if (isHolder(record.type) || (!record.isVariable && std::ranges::all_of(m_bad, isReference)))
         return keepSoundPart(record, begin, end, why);
     drop(QString::fromLatin1(record.type), begin, end, why);
@@ -262,7 +265,7 @@ void DamagedTextScanner::finishDamaged(FoundRecord &record, const Position &begi
     int code = 0;
     while (m_tags.size() > 1 && parseGroupCode(m_tags.back().value.begin(), m_tags.back().value.end(), code))
         m_tags.pop_back();
-    const QString reason = badLine > 0 ? u"line %1: %2"_s.arg(badLine).arg(why) : why;
+    const QString reason = badLine > 0 ? DrawingTexts::tr("line %1: %2").arg(badLine).arg(why) : why;
     if (isHolder(record.type) && !record.isVariable)
         return keepSoundPart(record, begin, sync, reason);
     drop(QString::fromLatin1(record.type), begin, sync, reason);

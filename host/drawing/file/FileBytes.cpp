@@ -1,5 +1,6 @@
 #include "host/drawing/file/FileBytes.h"
 
+#include "host/drawing/tags/DrawingTexts.h"
 #include "host/drawing/tags/GroupCodes.h"
 
 namespace host::drawing {
@@ -32,7 +33,8 @@ public:
         }
         for (const Tag &tag : m_drawing.tagsForFile(id)) {
             if (!writeTag(tag))
-                return u"%1 has a value for group %2 that the binary form has no room for: \"%3\""_s.arg(nameOf(id))
+                return DrawingTexts::tr("%1 has a value for group %2 that the binary form has no room for: \"%3\"")
+                    .arg(nameOf(id))
                     .arg(tag.code)
                     .arg(QString::fromLatin1(tag.value.first(std::min<qsizetype>(tag.value.size(), 40))));
         }
@@ -65,7 +67,7 @@ private:
     {
         const QString type = QString::fromLatin1(m_drawing.typeName(id));
         const Handle handle = m_drawing.handle(id);
-        return handle.isNull() ? type : u"%1 with the handle %2"_s.arg(type, handle.toString());
+        return handle.isNull() ? type : DrawingTexts::tr("%1 with the handle %2").arg(type, handle.toString());
     }
 
     const Drawing &m_drawing;

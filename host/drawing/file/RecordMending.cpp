@@ -1,6 +1,7 @@
 #include "host/drawing/file/RecordMending.h"
 
 #include "host/drawing/file/RecordTypes.h"
+#include "host/drawing/tags/DrawingTexts.h"
 #include "host/drawing/tags/GroupCodes.h"
 #include "host/drawing/tags/MarkerLines.h"
 
@@ -208,7 +209,7 @@ FileTraits traitsOf(std::vector<FoundRecord> &records, QByteArrayView text, Reco
         const bool isDamaged =
             record.isVariable && isWord(record.type, "$ACADVER") && !isVersion(firstValue(record, 1));
         if (isDamaged)
-            noteDropped(report, record, u"it names no version"_s);
+            noteDropped(report, record, DrawingTexts::tr("it names no version"));
         return isDamaged;
     });
     for (const FoundRecord &record : records) {
@@ -249,8 +250,8 @@ void mendHandles(std::vector<FoundRecord> &records, FileTraits &traits, Recovery
         const Handle handle = traits.takeHandle();
         replaceBytes(record, withHandle(record, handle), arena);
         noteMended(report, record,
-                   isAgain ? u"its handle was another record's, it has a new one"_s
-                           : u"its handle was none, it has a new one"_s);
+                   isAgain ? DrawingTexts::tr("its handle was another record's, it has a new one")
+                           : DrawingTexts::tr("its handle was none, it has a new one"));
         record.handle = handle.value;
     }
 }
@@ -261,7 +262,7 @@ void dropNameless(std::vector<FoundRecord> &records, RecoveryReport &report)
         const bool isNameless = !record.isVariable && typeRole(record.type) == TypeRole::Symbol &&
                                 !isWord(record.type, "STYLE") && firstValue(record, 2).isEmpty();
         if (isNameless)
-            noteDropped(report, record, u"it has no name"_s);
+            noteDropped(report, record, DrawingTexts::tr("it has no name"));
         return isNameless;
     });
 }
@@ -273,9 +274,9 @@ void mendVariables(std::vector<FoundRecord> &records, RecoveryReport &report, By
             return false;
         const OneValue found = oneValueOf(record);
         if (!found.hasValue)
-            noteDropped(report, record, u"it has no value"_s);
+            noteDropped(report, record, DrawingTexts::tr("it has no value"));
         else if (found.hasMore)
-            noteMended(report, record, u"it has more than one value, of which the first was taken"_s);
+            noteMended(report, record, DrawingTexts::tr("it has more than one value, of which the first was taken"));
         if (found.hasValue && found.hasMore)
             replaceBytes(record, found.bytes, arena);
         return !found.hasValue;
@@ -292,7 +293,7 @@ void mendRoot(std::vector<FoundRecord> &records, FileTraits &traits, RecoveryRep
     if (traits.version < Version::R13 || first == records.end() || isRoot(*first))
         return;
     if (const auto other = std::find_if(first, records.end(), isRoot); other != records.end()) {
-        noteMended(report, *other, u"it leads to all other objects, and is the first of them now"_s);
+        noteMended(report, *other, DrawingTexts::tr("it leads to all other objects, and is the first of them now"));
         std::rotate(first, other, other + 1);
         return;
     }
@@ -308,7 +309,7 @@ void mendRoot(std::vector<FoundRecord> &records, FileTraits &traits, RecoveryRep
         arena);
     root.type = QByteArrayView(root.bytes).sliced(4, 10);
     report.add({RecoveryStep::Done::Added, RecoveryStep::Unit::Line, root.line, root.line, u"DICTIONARY"_s,
-                u"the one that leads to all other objects was lost"_s});
+                DrawingTexts::tr("the one that leads to all other objects was lost")});
     records.insert(first, root);
 }
 
@@ -326,8 +327,9 @@ void mendTexts(std::vector<FoundRecord> &records, const FileTraits &traits, Reco
             mended += tag.value.isValidUtf8() ? tag.whole.toByteArray() : recoded(tag, codePage, utf8);
             return true;
         });
-        noteMended(report, record,
-                   u"its text was no UTF-8 and was taken for %1"_s.arg(QString::fromLatin1(traits.codePage)));
+        noteMended(
+            report, record,
+            DrawingTexts::tr("its text was no UTF-8 and was taken for %1").arg(QString::fromLatin1(traits.codePage)));
         replaceBytes(record, mended, arena);
     }
 }

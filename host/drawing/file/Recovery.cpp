@@ -9,6 +9,7 @@
 #include "host/drawing/records/Journal.h"
 #include "host/drawing/records/Structure.h"
 #include "host/drawing/records/Tables.h"
+#include "host/drawing/tags/DrawingTexts.h"
 
 #include <QFileInfo>
 
@@ -68,7 +69,7 @@ void completeBlocks(Drawing &drawing, RecoveryReport &report)
         fields.push_back({100, u"AcDbBlockTableRecord"_s});
         fields.push_back({2, name});
         drawing.insert(noRecord, table, RecordKind::TableEntry, fields);
-        addRecoveryStep(report, u"BLOCK_RECORD"_s, u"the one of block %1 was lost"_s.arg(name));
+        addRecoveryStep(report, u"BLOCK_RECORD"_s, DrawingTexts::tr("the one of block %1 was lost").arg(name));
     }
 }
 
@@ -88,7 +89,7 @@ void completeDrawing(Drawing &drawing, const FileTraits &traits, quint64 firstNe
 Recovered recoverDrawing(QByteArray bytes)
 {
     if (bytes.size() > largestDamagedFile)
-        return nothingRecovered(u"the file is larger than 4 GB"_s);
+        return nothingRecovered(DrawingTexts::tr("the file is larger than 4 GB"));
     if (const QString foreign = foreignContent(bytes); !foreign.isEmpty())
         return nothingRecovered(foreign);
     Recovered result;
@@ -99,7 +100,7 @@ Recovered recoverDrawing(QByteArray bytes)
     ByteArena arena;
     FoundRecords found = recordsOf(text, result.report, arena);
     if (found.records.size() < 2)
-        return nothingRecovered(u"nothing in this file is a part of a drawing"_s);
+        return nothingRecovered(DrawingTexts::tr("nothing in this file is a part of a drawing"));
     FileTraits traits = traitsOf(found.records, text, result.report);
     dropNameless(found.records, result.report);
     mendVariables(found.records, result.report, arena);
@@ -129,7 +130,7 @@ Recovered recoverDrawing(QByteArray bytes)
 Recovered recoverFile(const QString &path)
 {
     if (QFileInfo(path).isDir())
-        return nothingRecovered(u"%1: this is a folder"_s.arg(path));
+        return nothingRecovered(DrawingTexts::tr("%1: this is a folder").arg(path));
     files::WholeBytes file = files::readWhole(path, largestDamagedFile);
     if (!file)
         return nothingRecovered(u"%1: %2"_s.arg(path, file.reason));
@@ -141,7 +142,7 @@ QString openingError(const QString &path, const ReadResult &failed)
     QString message = failed.error.message();
     if (!message.startsWith(path))
         message = u"%1: %2"_s.arg(path, message);
-    return failed.isDamaged ? message + u" (--recover opens what is sound of it)"_s : message;
+    return failed.isDamaged ? message + DrawingTexts::tr(" (--recover opens what is sound of it)") : message;
 }
 
 } // namespace host::drawing

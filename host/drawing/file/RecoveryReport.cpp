@@ -1,5 +1,7 @@
 #include "host/drawing/file/RecoveryReport.h"
 
+#include "host/drawing/tags/DrawingTexts.h"
+
 namespace host::drawing {
 
 using namespace Qt::StringLiterals;
@@ -28,7 +30,7 @@ QString doneText(RecoveryStep::Done done)
 
 QString RecoveryStep::message() const
 {
-    const QString number = count > 1 ? u"%1 times "_s.arg(count) : QString();
+    const QString number = count > 1 ? DrawingTexts::tr("%1 times ").arg(count) : QString();
     return u"%1%2%3 %4: %5"_s.arg(placeOf(*this), number, what, doneText(done), why);
 }
 
@@ -82,19 +84,20 @@ QStringList RecoveryReport::lines(qsizetype limit) const
     QStringList texts;
     for (const RecoveryStep &step : m_steps) {
         if (texts.size() == limit) {
-            texts.append(u"and %1 more"_s.arg(qsizetype(m_steps.size()) - limit));
+            texts.append(DrawingTexts::tr("and %1 more").arg(qsizetype(m_steps.size()) - limit));
             break;
         }
         texts.append(step.message());
     }
     if (m_steps.empty())
-        return {u"the file is sound, nothing was dropped"_s};
+        return {DrawingTexts::tr("the file is sound, nothing was dropped")};
     QStringList types;
     const QMap<QString, qint64> all = dropped();
     for (auto type = all.begin(); type != all.end(); ++type)
         types.append(u"%1 %2"_s.arg(type.key()).arg(type.value()));
     const QString list = types.isEmpty() ? QString() : u" (%1)"_s.arg(types.join(u", "_s));
-    texts.append(u"recovered: %1 dropped%2, %3 mended, %4 added"_s.arg(count(RecoveryStep::Done::Dropped))
+    texts.append(DrawingTexts::tr("recovered: %1 dropped%2, %3 mended, %4 added")
+                     .arg(count(RecoveryStep::Done::Dropped))
                      .arg(list)
                      .arg(count(RecoveryStep::Done::Mended))
                      .arg(count(RecoveryStep::Done::Added)));

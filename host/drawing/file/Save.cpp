@@ -5,6 +5,7 @@
 #include "files/qt/Files.h"
 #include "host/drawing/file/FileBytes.h"
 #include "host/drawing/records/Journal.h"
+#include "host/drawing/tags/DrawingTexts.h"
 
 #include <QDir>
 
@@ -62,23 +63,24 @@ RecordId firstOther(const Drawing &drawing, const Drawing &readBack)
 QString whyNot(const Drawing &drawing, QByteArrayView bytes)
 {
     if (!isSameContent(drawing, bytes))
-        return u"what was written does not read back the same"_s;
+        return DrawingTexts::tr("what was written does not read back the same");
     // These bytes were opened once, or are the text of those.
     if (drawing.revision() == 0 && (drawing.form() == FileForm::Text || drawing.isBinaryFile()))
         return {};
     // Only looked at as long as the bytes are there.
     const ReadResult read = Drawing::fromBytes(QByteArray::fromRawData(bytes.data(), bytes.size()));
     if (!read)
-        return u"what would be written could not be opened again (%1)"_s.arg(read.error.message());
+        return DrawingTexts::tr("what would be written could not be opened again (%1)").arg(read.error.message());
     const RecordId other = firstOther(drawing, *read.drawing);
-    return other == noRecord ? QString()
-                             : u"what would be written could not be opened the same: see %1 of handle %2"_s.arg(
-                                   QString::fromLatin1(drawing.typeName(other)), drawing.handle(other).toString());
+    return other == noRecord
+               ? QString()
+               : DrawingTexts::tr("what would be written could not be opened the same: see %1 of handle %2")
+                     .arg(QString::fromLatin1(drawing.typeName(other)), drawing.handle(other).toString());
 }
 
 SaveResult failure(const QString &path, const QString &reason)
 {
-    return {u"%1: the file cannot be written: %2"_s.arg(QDir::toNativeSeparators(path), reason)};
+    return {DrawingTexts::tr("%1: the file cannot be written: %2").arg(QDir::toNativeSeparators(path), reason)};
 }
 
 SaveResult writeFile(const Drawing &drawing, const QString &path)
@@ -92,7 +94,7 @@ SaveResult writeFile(const Drawing &drawing, const QString &path)
         return problem.isEmpty();
     });
     if (!problem.isEmpty())
-        return {u"%1: %2; the old file was kept"_s.arg(QDir::toNativeSeparators(path), problem)};
+        return {DrawingTexts::tr("%1: %2; the old file was kept").arg(QDir::toNativeSeparators(path), problem)};
     if (!isRight || !file.commit())
         return failure(path, files::reasonText(file.reason()));
     return {};
@@ -113,7 +115,8 @@ SaveResult save(Drawing &drawing, const QString &path)
 SaveResult saveCopy(const Drawing &drawing, const QString &path)
 {
     if (path.trimmed().endsWith(u".dwg", Qt::CaseInsensitive))
-        return {u"%1: this program cannot write DWG files; give the file a name ending in .dxf"_s.arg(path)};
+        return {
+            DrawingTexts::tr("%1: this program cannot write DWG files; give the file a name ending in .dxf").arg(path)};
     return writeFile(drawing, path);
 }
 

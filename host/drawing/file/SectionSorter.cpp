@@ -2,6 +2,7 @@
 
 #include "host/drawing/file/RecordTypes.h"
 #include "host/drawing/records/FileIndexer.h"
+#include "host/drawing/tags/DrawingTexts.h"
 
 #include <QHash>
 #include <QSet>
@@ -167,7 +168,8 @@ void SectionSorter::place(const FoundRecord &record)
             enter("HEADER");
         }
         if (m_isStray)
-            note(RecoveryStep::Done::Mended, u"header variable"_s, u"it stands outside of the sections"_s);
+            note(RecoveryStep::Done::Mended, DrawingTexts::tr("header variable"),
+                 DrawingTexts::tr("it stands outside of the sections"));
         m_section->content.add(record.bytes);
     } else if (isWord(record.type, "SECTION")) {
         placeSection(record);
@@ -186,13 +188,13 @@ void SectionSorter::placeSection(const FoundRecord &record)
     closeSection();
     const QByteArrayView name = firstValue(record, 2);
     if (name.isEmpty() || isNameDamaged(name))
-        return drop(record,
-                    name.isEmpty() ? u"it has no name"_s : u"its name is none, and what it holds tells another"_s);
+        return drop(record, name.isEmpty() ? DrawingTexts::tr("it has no name")
+                                           : DrawingTexts::tr("its name is none, and what it holds tells another"));
     SortedPart &part = partNamed(m_sections, name);
     if (part.head.isEmpty())
         part.head = record.bytes;
     else
-        note(RecoveryStep::Done::Mended, u"SECTION"_s, u"it was there before, and goes on here"_s);
+        note(RecoveryStep::Done::Mended, u"SECTION"_s, DrawingTexts::tr("it was there before, and goes on here"));
     m_section = &part;
     m_isStray = false;
 }
@@ -224,7 +226,8 @@ void SectionSorter::placeWithin(const FoundRecord &record)
     }
     if (m_isStray && m_section->kind != Section::Tables)
         note(RecoveryStep::Done::Mended, u"record"_s,
-             u"it stands outside of its section, and was put into %1"_s.arg(QString::fromLatin1(m_section->name)));
+             DrawingTexts::tr("it stands outside of its section, and was put into %1")
+                 .arg(QString::fromLatin1(m_section->name)));
     switch (m_section->kind) {
     case Section::Tables:
         return placeInTables(record);
@@ -296,7 +299,7 @@ void SectionSorter::placeInTables(const FoundRecord &record)
         return openTable(record);
     if (isWord(record.type, "ENDTAB")) {
         if (!m_table)
-            return drop(record, u"no table is open"_s);
+            return drop(record, DrawingTexts::tr("no table is open"));
         if (m_table->end.isEmpty())
             m_table->end = record.bytes;
         m_table = nullptr;
@@ -304,14 +307,15 @@ void SectionSorter::placeInTables(const FoundRecord &record)
     }
     const bool isSymbol = typeRole(record.type) == TypeRole::Symbol;
     if (!isSymbol && !m_table)
-        return drop(record, u"it stands outside of the tables"_s);
+        return drop(record, DrawingTexts::tr("it stands outside of the tables"));
     if (isSymbol && (!m_table || !isWord(record.type, m_table->name))) {
         closeTable();
         m_table = &partNamed(m_section->tables, record.type);
         m_isEntryTold = true;
     }
     if (m_isEntryTold)
-        note(RecoveryStep::Done::Mended, u"table entry"_s, u"it stands outside of its table"_s);
+        note(RecoveryStep::Done::Mended, DrawingTexts::tr("table entry"),
+             DrawingTexts::tr("it stands outside of its table"));
     m_table->content.add(record.bytes);
 }
 
@@ -321,12 +325,12 @@ void SectionSorter::openTable(const FoundRecord &record)
     m_isEntryTold = false;
     const QByteArrayView name = firstValue(record, 2);
     if (name.isEmpty())
-        return drop(record, u"it has no name"_s);
+        return drop(record, DrawingTexts::tr("it has no name"));
     m_table = &partNamed(m_section->tables, name);
     if (m_table->head.isEmpty())
         m_table->head = record.bytes;
     else
-        note(RecoveryStep::Done::Mended, u"TABLE"_s, u"it was there before, and goes on here"_s);
+        note(RecoveryStep::Done::Mended, u"TABLE"_s, DrawingTexts::tr("it was there before, and goes on here"));
 }
 
 void SectionSorter::placeInBlocks(const FoundRecord &record)
@@ -336,7 +340,7 @@ void SectionSorter::placeInBlocks(const FoundRecord &record)
         return openBlock(record);
     }
     if (isWord(record.type, "ENDBLK") && !m_isBlockOpen)
-        return drop(record, u"no block is open"_s);
+        return drop(record, DrawingTexts::tr("no block is open"));
     if (isWord(record.type, "ENDBLK")) {
         closeComplex();
         m_section->content.add(record.bytes);
@@ -358,7 +362,8 @@ void SectionSorter::openBlock(const FoundRecord &record)
     m_section->content.add(made(withoutCode(record, 2)));
     const QByteArray name = freeBlockName(m_blockOwner);
     m_section->content.add(made("  2\n" + name + '\n'));
-    note(RecoveryStep::Done::Mended, u"BLOCK"_s, u"it had no name, and is %1 now"_s.arg(QString::fromLatin1(name)));
+    note(RecoveryStep::Done::Mended, u"BLOCK"_s,
+         DrawingTexts::tr("it had no name, and is %1 now").arg(QString::fromLatin1(name)));
 }
 
 /// A block for entities whose BLOCK is lost.
@@ -370,7 +375,7 @@ void SectionSorter::openLostBlock(const FoundRecord &record)
                                 "\n 70\n0\n 10\n0.0\n 20\n0.0\n 30\n0.0\n  3\n" + name + "\n  1\n\n"));
     m_isBlockOpen = true;
     note(RecoveryStep::Done::Added, u"BLOCK"_s,
-         u"the one for the entities here was lost; it is %1 now"_s.arg(QString::fromLatin1(name)));
+         DrawingTexts::tr("the one for the entities here was lost; it is %1 now").arg(QString::fromLatin1(name)));
 }
 
 /// The name of the block whose table entry is the owner, where no other block has it; otherwise one that nobody has.
@@ -415,7 +420,8 @@ bool SectionSorter::placeChild(const FoundRecord &record)
     const bool fits =
         m_complex.isOpen && (isEnd || m_complex.childType.isEmpty() || isWord(record.type, m_complex.childType));
     if (!fits) {
-        drop(record, isEnd ? u"nothing is open that it could end"_s : u"what it is a part of is not there"_s);
+        drop(record, isEnd ? DrawingTexts::tr("nothing is open that it could end")
+                           : DrawingTexts::tr("what it is a part of is not there"));
         return true;
     }
     m_section->content.add(record.bytes);
@@ -434,7 +440,7 @@ void SectionSorter::closeComplex()
 {
     if (m_complex.isOpen && m_complex.needsEnd) {
         m_section->content.add(made(newRecord("SEQEND", m_complex.handle, nullptr)));
-        note(RecoveryStep::Done::Added, u"SEQEND"_s, u"it was missing"_s);
+        note(RecoveryStep::Done::Added, u"SEQEND"_s, DrawingTexts::tr("it was missing"));
     }
     m_complex = {};
 }
@@ -442,7 +448,7 @@ void SectionSorter::closeComplex()
 void SectionSorter::closeTable()
 {
     if (m_table && m_table->end.isEmpty() && !m_isEntryTold)
-        note(RecoveryStep::Done::Added, u"ENDTAB"_s, u"it was missing"_s);
+        note(RecoveryStep::Done::Added, u"ENDTAB"_s, DrawingTexts::tr("it was missing"));
     m_table = nullptr;
 }
 
@@ -452,7 +458,7 @@ void SectionSorter::closeBlock()
     if (!m_isBlockOpen)
         return;
     m_section->content.add(made(newRecord("ENDBLK", m_blockOwner, "AcDbBlockEnd")));
-    note(RecoveryStep::Done::Added, u"ENDBLK"_s, u"it was missing"_s);
+    note(RecoveryStep::Done::Added, u"ENDBLK"_s, DrawingTexts::tr("it was missing"));
     m_isBlockOpen = false;
 }
 
@@ -469,7 +475,7 @@ void SectionSorter::closeSection()
         return;
     closeContainers();
     if (!m_isStray)
-        note(RecoveryStep::Done::Added, u"ENDSEC"_s, u"it was missing"_s);
+        note(RecoveryStep::Done::Added, u"ENDSEC"_s, DrawingTexts::tr("it was missing"));
     m_last = m_section->kind;
     m_section = nullptr;
 }
@@ -477,7 +483,7 @@ void SectionSorter::closeSection()
 void SectionSorter::endSection(const FoundRecord &record)
 {
     if (!m_section)
-        return drop(record, u"no section is open"_s);
+        return drop(record, DrawingTexts::tr("no section is open"));
     closeContainers();
     if (m_section->end.isEmpty())
         m_section->end = record.bytes;
@@ -520,7 +526,7 @@ void SectionSorter::addVersion()
     if (!isThere)
         std::rotate(m_sections.begin(), m_sections.end() - 1, m_sections.end());
     note(RecoveryStep::Done::Added, u"$ACADVER"_s,
-         u"the drawing looks like one of %1"_s.arg(QString::fromLatin1(name)));
+         DrawingTexts::tr("the drawing looks like one of %1").arg(QString::fromLatin1(name)));
 }
 
 QByteArray SectionSorter::text()
@@ -541,7 +547,7 @@ QByteArray SectionSorter::text()
     }
     append(m_endOfFile, "  0\nEOF\n");
     if (m_endOfFile.isEmpty())
-        note(RecoveryStep::Done::Added, u"EOF"_s, u"it was missing"_s);
+        note(RecoveryStep::Done::Added, u"EOF"_s, DrawingTexts::tr("it was missing"));
     text += m_tail;
     return text;
 }

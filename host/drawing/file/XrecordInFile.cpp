@@ -5,6 +5,7 @@
 #include "host/drawing/records/Dictionaries.h"
 #include "host/drawing/records/FileIndexer.h"
 #include "host/drawing/records/Structure.h"
+#include "host/drawing/tags/DrawingTexts.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -53,7 +54,7 @@ std::optional<FieldList> readXrecord(QIODevice &file, QStringView name, const Pi
     };
     const qint64 size = file.size();
     if (size >= largestDrawingFile)
-        return failed(u"the file is larger than 4 GB"_s);
+        return failed(DrawingTexts::tr("the file is larger than 4 GB"));
     if (!file.seek(0))
         return failed(file.errorString());
     // Those of other programs are not read whole only to be refused.
@@ -83,16 +84,16 @@ std::optional<FieldList> xrecordInFile(const QString &path, QStringView name, QS
 SaveResult setXrecordInFile(const QString &path, const QString &name, const FieldList &data)
 {
     if (!QFileInfo(path).isFile())
-        return {u"%1: this is not a file"_s.arg(path)};
+        return {DrawingTexts::tr("%1: this is not a file").arg(path)};
     const ReadResult read = Drawing::open(path);
     if (!read)
         return {withPath(path, read.error.message())};
     Drawing &drawing = *read.drawing;
     if (!hasMarkers(drawing))
-        return {u"%1: drawings of this version have no room for such data"_s.arg(path)};
+        return {DrawingTexts::tr("%1: drawings of this version have no room for such data").arg(path)};
     Dictionaries &dictionaries = drawing.dictionaries();
     if (!isValid(dictionaries.setXrecord(dictionaries.ensureRoot(), name, data)))
-        return {u"%1: %2 stands for something else in this drawing"_s.arg(path, name)};
+        return {DrawingTexts::tr("%1: %2 stands for something else in this drawing").arg(path, name)};
     return drawing.revision() == 0 ? SaveResult() : saveCopy(drawing, path);
 }
 

@@ -10,6 +10,7 @@
 #include "host/drawing/records/Layouts.h"
 #include "host/drawing/records/Structure.h"
 #include "host/drawing/records/Tables.h"
+#include "host/drawing/tags/DrawingTexts.h"
 #include "host/drawing/tags/GroupCodes.h"
 #include "host/drawing/tags/TagReader.h"
 
@@ -59,9 +60,9 @@ ReadResult Drawing::open(const QString &path)
     // Places in the file are kept in 32 bits.
     constexpr qint64 largest = 0xFFFFFFFELL;
     if (const QFileInfo info(path); info.isDir())
-        return {nullptr, {0, u"%1: this is a folder"_s.arg(path)}};
+        return {nullptr, {0, DrawingTexts::tr("%1: this is a folder").arg(path)}};
     else if (info.isFile() && info.size() > largest)
-        return {nullptr, {0, u"%1: the file is larger than 4 GB"_s.arg(path)}};
+        return {nullptr, {0, DrawingTexts::tr("%1: the file is larger than 4 GB").arg(path)}};
     files::WholeBytes file = files::readWhole(path, largest);
     if (!file)
         return {nullptr, {0, u"%1: %2"_s.arg(path, file.reason)}};

@@ -7,6 +7,7 @@
 #include "host/drawing/records/PolylineFlags.h"
 #include "host/drawing/records/Structure.h"
 #include "host/drawing/records/Tables.h"
+#include "host/drawing/tags/DrawingTexts.h"
 #include "host/drawing/tags/GroupCodes.h"
 
 namespace host::drawing {
@@ -92,7 +93,7 @@ Entities::Place Entities::placeIn(Space space) const
     if (isValid(owner))
         place.owner = m_drawing.handle(owner);
     else if (space == Space::Paper && hasOwners(m_drawing))
-        place.error = u"the drawing has no paper space"_s;
+        place.error = DrawingTexts::tr("the drawing has no paper space");
     return place;
 }
 
@@ -100,7 +101,7 @@ Entities::Place Entities::placeInBlock(RecordId block) const
 {
     Place place;
     if (!m_drawing.isAlive(block) || m_drawing.kind(block) != RecordKind::Block) {
-        place.error = u"there is no such block"_s;
+        place.error = DrawingTexts::tr("there is no such block");
         return place;
     }
     place.container = block;
@@ -145,7 +146,7 @@ CreateResult Entities::createAt(const Place &place, const FieldList &head, const
         std::erase_if(mainFields, [](const Field &field) { return field.code == 66; });
     const EntityBuilder main(m_drawing, mainFields);
     if (main.isGood() && main.type() == u"POLYLINE" && (!children || children->empty()))
-        return {noRecord, u"POLYLINE: its vertices are missing"_s};
+        return {noRecord, DrawingTexts::tr("POLYLINE: its vertices are missing")};
     if (!main.isGood())
         return {noRecord, main.error()};
     std::vector<EntityBuilder> parts;
@@ -175,7 +176,7 @@ QString Entities::checkChildren(const QString &type, const FieldList &head, cons
         return {};
     const QString childType = type == u"INSERT" ? u"ATTRIB"_s : u"VERTEX"_s;
     if (type != u"INSERT" && type != u"POLYLINE")
-        return u"%1: an entity of this type has no parts"_s.arg(type);
+        return DrawingTexts::tr("%1: an entity of this type has no parts").arg(type);
     const Field *flags = findField(head, 70);
     const bool is3d = type == u"POLYLINE" && flags && (flags->integer() & Flag3d) != 0;
     for (FieldList fields : *children) {
@@ -185,7 +186,7 @@ QString Entities::checkChildren(const QString &type, const FieldList &head, cons
         if (!given)
             fields.insert(fields.begin(), {0, childType});
         else if (given->text() != childType)
-            return u"%1: %2 expected, found %3"_s.arg(type, childType, given->text());
+            return DrawingTexts::tr("%1: %2 expected, found %3").arg(type, childType, given->text());
         if (is3d) {
             const Field *own = findField(fields, 70);
             setField(fields, 70, (own ? own->integer() : 0) | Flag3dVertex);
@@ -217,7 +218,7 @@ void Entities::markWithAttributes(RecordId block)
 QString Entities::modify(RecordId entity, const FieldList &fields)
 {
     if (!m_drawing.isAlive(entity))
-        return u"the entity is erased"_s;
+        return DrawingTexts::tr("the entity is erased");
     FieldList wanted = fields;
     setField(wanted, 0, QString::fromLatin1(m_drawing.typeName(entity)));
     const EntityBuilder builder(m_drawing, wanted);

@@ -4,6 +4,7 @@
 #include "host/drawing/records/EntityRules.h"
 #include "host/drawing/records/Structure.h"
 #include "host/drawing/records/Tables.h"
+#include "host/drawing/tags/DrawingTexts.h"
 #include "host/drawing/tags/GroupCodes.h"
 
 namespace host::drawing {
@@ -22,18 +23,19 @@ QString valueFault(const Field &field)
 {
     switch (tagType(field.code)) {
     case TagType::Real:
-        return isNumber(field) || (isPointCode(field.code) && isPoint(field)) ? QString() : u"a number"_s;
+        return isNumber(field) || (isPointCode(field.code) && isPoint(field)) ? QString()
+                                                                              : DrawingTexts::tr("a number");
     case TagType::Int16:
     case TagType::Int32:
     case TagType::Int64:
     case TagType::Bool:
-        return isNumber(field) ? QString() : u"a number"_s;
+        return isNumber(field) ? QString() : DrawingTexts::tr("a number");
     case TagType::Handle:
         return std::holds_alternative<Handle>(field.value) || std::holds_alternative<QString>(field.value)
                    ? QString()
-                   : u"a handle"_s;
+                   : DrawingTexts::tr("a handle");
     case TagType::Text:
-        return std::holds_alternative<QString>(field.value) ? QString() : u"a text"_s;
+        return std::holds_alternative<QString>(field.value) ? QString() : DrawingTexts::tr("a text");
     case TagType::Binary:
         break;
     }
@@ -119,17 +121,17 @@ void EntityBuilder::fail(const QString &text)
 void EntityBuilder::check()
 {
     if (m_type.isEmpty()) {
-        m_error = u"group 0 (the type) is missing"_s;
+        m_error = DrawingTexts::tr("group 0 (the type) is missing");
         return;
     }
     if (!m_rule && !mayBeEntity(m_type))
-        return fail(u"this is no entity"_s);
+        return fail(DrawingTexts::tr("this is no entity"));
     if (!m_rule && hasMarkers(m_drawing) && !has(m_fields, subclassCode))
-        return fail(u"this type is not known, and its subclass markers (group 100) are missing"_s);
+        return fail(DrawingTexts::tr("this type is not known, and its subclass markers (group 100) are missing"));
     // What drawings of R12 have, those before have as well.
     const Version version = std::max(m_drawing.version(), Version::R12);
     if (m_rule && version < m_rule->since)
-        return fail(u"a drawing of this version has no such entity"_s);
+        return fail(DrawingTexts::tr("a drawing of this version has no such entity"));
     checkValues();
     if (isGood())
         checkReferences();
@@ -140,14 +142,14 @@ void EntityBuilder::checkValues()
     for (const int code : m_rule ? m_rule->required : std::vector<int>()) {
         const Field *field = findField(m_fields, code);
         if (!field)
-            return fail(u"group %1 is missing"_s.arg(code));
+            return fail(DrawingTexts::tr("group %1 is missing").arg(code));
         if (code >= 10 && code <= 18 && !isPoint(*field))
-            return fail(u"group %1 is not a point"_s.arg(code));
+            return fail(DrawingTexts::tr("group %1 is not a point").arg(code));
     }
     for (const FieldList *fields : {&m_fields, &m_xdata}) {
         for (const Field &field : *fields) {
             if (const QString fault = valueFault(field); !fault.isEmpty())
-                return fail(u"group %1 is not %2"_s.arg(field.code).arg(fault));
+                return fail(DrawingTexts::tr("group %1 is not %2").arg(field.code).arg(fault));
         }
     }
 }
@@ -157,14 +159,14 @@ void EntityBuilder::checkReferences()
     if (const Field *linetype = findField(m_fields, 6);
         linetype && !isBuiltInLinetype(linetype->text()) &&
         !isValid(m_drawing.tables().find(TableKind::Linetype, linetype->text())))
-        return fail(u"linetype %1 is not in the drawing"_s.arg(linetype->text()));
+        return fail(DrawingTexts::tr("linetype %1 is not in the drawing").arg(linetype->text()));
     const bool isText =
         m_type == u"TEXT" || m_type == u"MTEXT" || m_type == u"ATTRIB" || m_type == u"ATTDEF" || m_type == u"RTEXT";
     if (const Field *style = isText ? findField(m_fields, 7) : nullptr;
         style && !isValid(m_drawing.tables().find(TableKind::Style, style->text())))
-        return fail(u"text style %1 is not in the drawing"_s.arg(style->text()));
+        return fail(DrawingTexts::tr("text style %1 is not in the drawing").arg(style->text()));
     if (m_type == u"INSERT" && !isValid(m_drawing.blocks().find(findField(m_fields, 2)->text())))
-        return fail(u"block %1 is not in the drawing"_s.arg(findField(m_fields, 2)->text()));
+        return fail(DrawingTexts::tr("block %1 is not in the drawing").arg(findField(m_fields, 2)->text()));
 }
 
 void EntityBuilder::complete()

@@ -1,5 +1,7 @@
 #include "host/drawing/records/FileIndexer.h"
 
+#include "host/drawing/tags/DrawingTexts.h"
+
 namespace host::drawing {
 
 using namespace Qt::StringLiterals;
@@ -111,15 +113,15 @@ bool Indexer::cut()
 
 bool Indexer::badCode(const char *begin, const char *end)
 {
-    const QString text = u"group code expected, found "_s + quotedLine(QByteArrayView(begin, end));
-    return fail(isValid(m_sectionRecord) ? text : u"this is not a DXF file: "_s + text);
+    const QString text = DrawingTexts::tr("group code expected, found ") + quotedLine(QByteArrayView(begin, end));
+    return fail(isValid(m_sectionRecord) ? text : DrawingTexts::tr("this is not a DXF file: ") + text);
 }
 
 bool Indexer::endsTooEarly()
 {
     if (!isValid(m_sectionRecord))
-        return fail(u"this is not a DXF file: it has no sections"_s);
-    return fail(u"the file is cut off: it ends before EOF"_s);
+        return fail(DrawingTexts::tr("this is not a DXF file: it has no sections"));
+    return fail(DrawingTexts::tr("the file is cut off: it ends before EOF"));
 }
 
 void Indexer::closeRecord(const char *end)
@@ -149,18 +151,19 @@ RecordId Indexer::openRecord(const char *begin, RecordKind kind, RecordId parent
 bool Indexer::startRecord(const char *begin, QByteArrayView type)
 {
     if (m_needsSectionName)
-        return fail(u"the section has no name"_s);
+        return fail(DrawingTexts::tr("the section has no name"));
     if (type.isEmpty())
-        return fail(u"a record without a type"_s);
+        return fail(DrawingTexts::tr("a record without a type"));
     if (m_section == Section::None)
         return startOutside(begin, type);
     if (isWord(type, "ENDSEC"))
         return endSection(begin);
     if (isWord(type, "SECTION") || isWord(type, "EOF"))
-        return fail(u"%1 inside a section: ENDSEC is missing"_s.arg(QString::fromLatin1(type).toUpper()));
+        return fail(
+            DrawingTexts::tr("%1 inside a section: ENDSEC is missing").arg(QString::fromLatin1(type).toUpper()));
     switch (m_section) {
     case Section::Header:
-        return fail(u"%1 stands in the header section"_s.arg(quotedLine(type)));
+        return fail(DrawingTexts::tr("%1 stands in the header section").arg(quotedLine(type)));
     case Section::Tables:
         return startInTables(begin, type);
     case Section::Blocks:
@@ -193,20 +196,20 @@ bool Indexer::startOutside(const char *begin, QByteArrayView type)
         return true;
     }
     if (!isValid(m_sectionRecord))
-        return fail(u"this is not a DXF file: section expected, found "_s + quotedLine(type));
-    return fail(u"%1 stands outside of the sections"_s.arg(quotedLine(type)));
+        return fail(DrawingTexts::tr("this is not a DXF file: section expected, found ") + quotedLine(type));
+    return fail(DrawingTexts::tr("%1 stands outside of the sections").arg(quotedLine(type)));
 }
 
 bool Indexer::startInTables(const char *begin, QByteArrayView type)
 {
     if (isWord(type, "TABLE")) {
         if (isValid(m_container))
-            return fail(u"TABLE inside a table: ENDTAB is missing"_s);
+            return fail(DrawingTexts::tr("TABLE inside a table: ENDTAB is missing"));
         m_container = openRecord(begin, RecordKind::Table, m_sectionRecord);
         return true;
     }
     if (!isValid(m_container))
-        return fail(u"%1 stands outside of the tables: TABLE is missing"_s.arg(quotedLine(type)));
+        return fail(DrawingTexts::tr("%1 stands outside of the tables: TABLE is missing").arg(quotedLine(type)));
     if (isWord(type, "ENDTAB")) {
         openRecord(begin, RecordKind::EndTable, m_container);
         m_container = noRecord;
@@ -221,13 +224,13 @@ bool Indexer::startInBlocks(const char *begin, QByteArrayView type)
 {
     if (isWord(type, "BLOCK")) {
         if (isValid(m_container))
-            return fail(u"BLOCK inside a block: ENDBLK is missing"_s);
+            return fail(DrawingTexts::tr("BLOCK inside a block: ENDBLK is missing"));
         m_container = openRecord(begin, RecordKind::Block, m_sectionRecord);
         m_complex = noRecord;
         return true;
     }
     if (!isValid(m_container))
-        return fail(u"%1 stands outside of the blocks: BLOCK is missing"_s.arg(quotedLine(type)));
+        return fail(DrawingTexts::tr("%1 stands outside of the blocks: BLOCK is missing").arg(quotedLine(type)));
     if (isWord(type, "ENDBLK")) {
         openRecord(begin, RecordKind::EndBlock, m_container);
         m_container = noRecord;
@@ -259,8 +262,9 @@ void Indexer::startEntity(const char *begin, QByteArrayView type, RecordId conta
 bool Indexer::endSection(const char *begin)
 {
     if (isValid(m_container))
-        return fail(m_section == Section::Tables ? u"the section ends inside a table: ENDTAB is missing"_s
-                                                 : u"the section ends inside a block: ENDBLK is missing"_s);
+        return fail(m_section == Section::Tables
+                        ? DrawingTexts::tr("the section ends inside a table: ENDTAB is missing")
+                        : DrawingTexts::tr("the section ends inside a block: ENDBLK is missing"));
     openRecord(begin, RecordKind::EndSection, m_sectionRecord);
     m_section = Section::None;
     m_complex = noRecord;
@@ -324,7 +328,7 @@ IndexResult indexText(const QByteArray &bytes)
 /// Binary files have no lines, so their tags are counted.
 Diagnostic atTag(qint64 tag, const QString &text)
 {
-    return {0, u"tag %1 of the binary file: %2"_s.arg(tag).arg(text)};
+    return {0, DrawingTexts::tr("tag %1 of the binary file: %2").arg(tag).arg(text)};
 }
 
 IndexResult indexBinary(QByteArray bytes)
@@ -334,7 +338,7 @@ IndexResult indexBinary(QByteArray bytes)
     if (!read.error.isEmpty())
         return {std::nullopt, atTag(read.tagCount + 1, read.error), true};
     if (quint64(read.text.size()) >= 0xFFFFFFFFULL)
-        return {std::nullopt, {0, u"the file is larger than 4 GB as text"_s}};
+        return {std::nullopt, {0, DrawingTexts::tr("the file is larger than 4 GB as text")}};
     IndexResult result = Indexer(read.text, LineEnds::LineFeed).run();
     if (result.file)
         result.file->binary = std::move(read.origin);
@@ -368,16 +372,16 @@ bool isDwg(QByteArrayView bytes)
 QString foreignContent(QByteArrayView bytes)
 {
     if (bytes.trimmed().isEmpty())
-        return u"the file is empty"_s;
+        return DrawingTexts::tr("the file is empty");
     if (isDwg(bytes))
-        return u"this is a DWG file; this program reads DXF only"_s;
+        return DrawingTexts::tr("this is a DWG file; this program reads DXF only");
     if (bytes.startsWith("\xFF\xFE") || bytes.startsWith("\xFE\xFF"))
-        return u"this is a UTF-16 text file, not a DXF file"_s;
+        return DrawingTexts::tr("this is a UTF-16 text file, not a DXF file");
     if (bytes.startsWith("\x1F\x8B") || bytes.startsWith("PK\x03\x04"))
-        return u"this is a packed file; unpack it first"_s;
+        return DrawingTexts::tr("this is a packed file; unpack it first");
     // A transfer as text takes the file's line ends for those of another system.
     if (bytes.startsWith(binaryMark().first(18)) && !bytes.startsWith(binaryMark()))
-        return u"this is a binary DXF file whose first bytes are damaged, as by a transfer as text"_s;
+        return DrawingTexts::tr("this is a binary DXF file whose first bytes are damaged, as by a transfer as text");
     return {};
 }
 
@@ -393,7 +397,7 @@ bool hasLoneCarriageReturn(QByteArrayView bytes)
 IndexResult indexFile(QByteArray bytes)
 {
     if (quint64(bytes.size()) >= 0xFFFFFFFFULL)
-        return {std::nullopt, {0, u"the file is larger than 4 GB"_s}};
+        return {std::nullopt, {0, DrawingTexts::tr("the file is larger than 4 GB")}};
     if (const QString foreign = foreignContent(bytes); !foreign.isEmpty())
         return {std::nullopt, {0, foreign}};
     return bytes.startsWith(binaryMark()) ? indexBinary(std::move(bytes)) : indexText(bytes);

@@ -2,6 +2,7 @@
 
 #include "host/drawing/records/Journal.h"
 #include "host/drawing/records/Tables.h"
+#include "host/drawing/tags/DrawingTexts.h"
 
 #include <cmath>
 
@@ -60,7 +61,7 @@ public:
     void read()
     {
         if (takeField().compare(u"A", Qt::CaseInsensitive) != 0)
-            return fail(u"the pattern does not begin with \"A\""_s);
+            return fail(DrawingTexts::tr("the pattern does not begin with \"A\""));
         while (!m_rest.isEmpty() && m_definition.error.isEmpty()) {
             m_rest = m_rest.trimmed();
             if (m_rest.startsWith(u'['))
@@ -69,7 +70,7 @@ public:
                 takeDash();
         }
         if (m_definition.error.isEmpty() && m_definition.dashes.empty())
-            fail(u"the pattern is empty"_s);
+            fail(DrawingTexts::tr("the pattern is empty"));
     }
 
 private:
@@ -89,9 +90,9 @@ private:
         const QStringView field = takeField();
         const std::optional<double> length = number(field);
         if (!length)
-            return fail(u"\"%1\" is no length"_s.arg(field.left(20)));
+            return fail(DrawingTexts::tr("\"%1\" is no length").arg(field.left(20)));
         if (m_definition.dashes.size() == mostDashes)
-            return fail(u"the pattern is too long"_s);
+            return fail(DrawingTexts::tr("the pattern is too long"));
         m_definition.dashes.push_back({.length = *length});
     }
 
@@ -102,21 +103,21 @@ private:
         const qsizetype begin = isText ? m_rest.indexOf(u'"', 2) : 0;
         const qsizetype end = begin < 0 ? -1 : m_rest.indexOf(u']', begin + 1);
         if (end < 0 || m_definition.dashes.empty())
-            return fail(u"a text or shape is not closed, or stands in front of all dashes"_s);
+            return fail(DrawingTexts::tr("a text or shape is not closed, or stands in front of all dashes"));
         DefinedDash &dash = m_definition.dashes.back();
         const QList<QStringView> fields = m_rest.sliced(begin + 1, end - begin - 1).split(u',');
         dash.text = isText ? m_rest.sliced(2, begin - 2).toString() : QString();
         dash.shape = isText ? QString() : fields[0].trimmed().toString();
         dash.style = fields.value(1).trimmed().toString();
         if (!isText && (dash.shape.isEmpty() || dash.style.isEmpty()))
-            return fail(u"a shape needs its name and its file"_s);
+            return fail(DrawingTexts::tr("a shape needs its name and its file"));
         for (qsizetype i = 2; i < fields.size(); ++i) {
             if (!readProperty(dash, fields[i]))
-                return fail(u"\"%1\" is not understood"_s.arg(fields[i].left(20)));
+                return fail(DrawingTexts::tr("\"%1\" is not understood").arg(fields[i].left(20)));
         }
         m_rest = m_rest.sliced(end + 1);
         if (const QStringView behind = takeField(); !behind.isEmpty())
-            fail(u"\"%1\" is not understood"_s.arg(behind.left(20)));
+            fail(DrawingTexts::tr("\"%1\" is not understood").arg(behind.left(20)));
     }
 
     QStringView m_rest;
@@ -135,7 +136,7 @@ DashSign textOf(const Drawing &drawing, const DefinedDash &dash)
 {
     const RecordId style = drawing.tables().find(TableKind::Style, dash.style);
     if (!isValid(style))
-        return {.error = u"text style \"%1\" is not in the drawing"_s.arg(dash.style)};
+        return {.error = DrawingTexts::tr("text style \"%1\" is not in the drawing").arg(dash.style)};
     return {.style = drawing.handle(style)};
 }
 
@@ -147,9 +148,9 @@ DashSign shapeOf(const DefinedDash &dash, ShapeFiles &shapes)
     const ShapeFile *file = shapes.find(dash.style);
     const std::optional<int> found = isNumber ? number : file ? file->numberOf(dash.shape) : std::nullopt;
     if (!found && !file)
-        return {.error = u"the shape file \"%1\" is not found"_s.arg(dash.style)};
+        return {.error = DrawingTexts::tr("the shape file \"%1\" is not found").arg(dash.style)};
     if (!found || *found <= 0)
-        return {.error = u"shape \"%1\" is not in the file \"%2\""_s.arg(dash.shape, dash.style)};
+        return {.error = DrawingTexts::tr("shape \"%1\" is not in the file \"%2\"").arg(dash.shape, dash.style)};
     return {.shape = *found};
 }
 
@@ -186,7 +187,7 @@ FieldList patternFields(Drawing &drawing, const LinetypeDefinition &definition, 
     std::vector<DashSign> signs;
     for (const DefinedDash &dash : definition.dashes) {
         if (!isPlainDash(dash) && drawing.version() < Version::R13) {
-            error = u"a drawing of this version has no texts and shapes in linetypes"_s;
+            error = DrawingTexts::tr("a drawing of this version has no texts and shapes in linetypes");
             return {};
         }
         signs.push_back(!dash.text.isEmpty()    ? textOf(drawing, dash)
@@ -259,7 +260,7 @@ std::vector<LinetypeDefinition> readLinetypeSource(QByteArrayView text)
 QString loadLinetype(Drawing &drawing, const LinetypeDefinition &definition, ShapeFiles &shapes)
 {
     const JournalGroup group(drawing.journal(), u"LTYPE"_s);
-    QString error = definition.name.isEmpty() ? u"the name cannot be used"_s : definition.error;
+    QString error = definition.name.isEmpty() ? DrawingTexts::tr("the name cannot be used") : definition.error;
     const FieldList pattern = error.isEmpty() ? patternFields(drawing, definition, shapes, error) : FieldList();
     if (!error.isEmpty())
         return error;
@@ -267,7 +268,7 @@ QString loadLinetype(Drawing &drawing, const LinetypeDefinition &definition, Sha
     if (isValid(present))
         redefine(drawing, present, pattern);
     else if (!isValid(drawing.tables().add(TableKind::Linetype, definition.name, pattern)))
-        return u"the name cannot be used"_s;
+        return DrawingTexts::tr("the name cannot be used");
     return {};
 }
 

@@ -1,5 +1,7 @@
 #include "host/drawing/references/NamedFiles.h"
 
+#include "host/drawing/tags/DrawingTexts.h"
+
 #include <QDir>
 #include <QFileInfo>
 
@@ -59,8 +61,8 @@ FileFinder namedFiles(const Drawing &drawing, ReadableFiles readable)
             refused = path;
         }
         if (!refused.isEmpty() && readable.refused)
-            readable.refused(refused, QStringLiteral("it is not in the drawing's folder. READPATHS, or the option "
-                                                     "--allow-read, names folders whose files drawings may name"));
+            readable.refused(refused, DrawingTexts::tr("it is not in the drawing's folder. READPATHS, or the option "
+                                                       "--allow-read, names folders whose files drawings may name"));
         return QString();
     };
 }

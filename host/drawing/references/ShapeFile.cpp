@@ -1,5 +1,7 @@
 #include "host/drawing/references/ShapeFile.h"
 
+#include "host/drawing/tags/DrawingTexts.h"
+
 #include <QtEndian>
 
 #include <algorithm>
@@ -60,7 +62,7 @@ public:
         if (const auto zero = m_file.codes.constFind(0); !m_file.font && zero != m_file.codes.constEnd())
             m_file.font = fontHead(*zero);
         if (m_file.codes.isEmpty())
-            m_file.error = u"there are no shapes in it"_s;
+            m_file.error = DrawingTexts::tr("there are no shapes in it");
         return std::move(m_file);
     }
 
@@ -268,7 +270,7 @@ private:
     ShapeFile finished()
     {
         if (m_file.codes.isEmpty())
-            m_file.error = u"the file is cut off"_s;
+            m_file.error = DrawingTexts::tr("the file is cut off");
         return std::move(m_file);
     }
 
@@ -297,7 +299,7 @@ ShapeFile readShapeFile(QByteArrayView bytes)
         return reader.readUnicodeFont();
     if (signature.indexOf(" bigfont ") >= 0)
         return reader.readBigFont(bytes);
-    return {.error = u"it is a compiled file of another kind"_s};
+    return {.error = DrawingTexts::tr("it is a compiled file of another kind")};
 }
 
 } // namespace host::drawing

@@ -1,5 +1,6 @@
 #include "host/drawing/tags/BinaryTags.h"
 
+#include "host/drawing/tags/DrawingTexts.h"
 #include "host/drawing/tags/TagReader.h"
 #include "host/drawing/tags/TagWriter.h"
 
@@ -172,8 +173,8 @@ QString BinaryTagReader::problem() const
 {
     int code = 0;
     const bool isWhole = readCode(code) > 0;
-    return isWhole && !isKnownCode(code) ? u"group code expected, found %1"_s.arg(code)
-                                         : u"the file is cut off: it ends before EOF"_s;
+    return isWhole && !isKnownCode(code) ? DrawingTexts::tr("group code expected, found %1").arg(code)
+                                         : DrawingTexts::tr("the file is cut off: it ends before EOF");
 }
 
 bool appendAsText(QByteArray &text, const BinaryTag &tag, CodeSize codeSize)

@@ -1,12 +1,14 @@
 #include "host/drawing/tags/Diagnostic.h"
 
+#include "host/drawing/tags/DrawingTexts.h"
+
 namespace host::drawing {
 
 using namespace Qt::StringLiterals;
 
 QString Diagnostic::message() const
 {
-    return line > 0 ? u"line %1: %2"_s.arg(line).arg(text) : text;
+    return line > 0 ? DrawingTexts::tr("line %1: %2").arg(line).arg(text) : text;
 }
 
 QString quotedLine(QByteArrayView line)

@@ -2,6 +2,7 @@
 
 #include "files/qt/Files.h"
 #include "host/drawing/references/NamedFiles.h"
+#include "host/drawing/tags/DrawingTexts.h"
 
 #include <QStringConverter>
 #include <QStringDecoder>
@@ -33,7 +34,7 @@ std::optional<QString> readNamed(const Drawing &drawing, const QString &name, co
         return std::nullopt;
     const files::WholeBytes file = files::readWhole(path, largestTextFile);
     if (!file && surroundings.unread)
-        surroundings.unread(path, QStringLiteral("%1 (remote texts have at most 256 kB)").arg(file.reason));
+        surroundings.unread(path, DrawingTexts::tr("%1 (remote texts have at most 256 kB)").arg(file.reason));
     return file ? std::optional(decoded(file.bytes, drawing.codec())) : std::nullopt;
 }
 

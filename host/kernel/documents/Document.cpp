@@ -14,6 +14,7 @@
 #include "host/kernel/files/DrawingBackup.h"
 #include "host/kernel/input/PointAim.h"
 #include "host/kernel/input/UserInput.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/lisp/EntityMaker.h"
 #include "host/kernel/lisp/LispConsole.h"
 #include "host/kernel/lisp/LispEngine.h"
@@ -125,7 +126,7 @@ void Document::closeLisp()
 drawing::SaveResult Document::save(Overrule overrule)
 {
     if (path().isEmpty())
-        return {QStringLiteral("%1 has no file yet.").arg(title())};
+        return {Kernel::tr("%1 has no file yet.").arg(title())};
     return saveAs(path(), overrule);
 }
 
@@ -328,9 +329,9 @@ void Document::tellUnread(const QString &path, const QString &reason)
     if (m_unread.contains(path) || m_unread.size() > mostTold)
         return;
     m_unread.insert(path);
-    print(m_unread.size() > mostTold ? QStringLiteral("\nMore files that the drawing names were not read.\n")
-                                     : QStringLiteral("\n%1 was not read: %2.\n")
-                                           .arg(files::visibleText(QDir::toNativeSeparators(path)), reason));
+    print(m_unread.size() > mostTold
+              ? Kernel::tr("\nMore files that the drawing names were not read.\n")
+              : Kernel::tr("\n%1 was not read: %2.\n").arg(files::visibleText(QDir::toNativeSeparators(path)), reason));
 }
 
 void Document::addKeptBack(const KeptBack &item)

@@ -152,6 +152,8 @@ public:
     void setDialogOpen(bool open) { m_isDialogOpen = open; }
     /// Names of the commands under way as CMDNAMES has them: "LINE'ZOOM".
     QString commandNames() const { return m_commandNames.join(u'\''); }
+    /// The innermost of them; empty when nothing runs.
+    QString commandName() const { return m_commandNames.isEmpty() ? QString() : m_commandNames.last(); }
 
     /// Writes the drawing; the reactors hear of it first. Of a drawing without a path, save() fails. A file that is
     /// replaced goes into the user's backup folder, where there is one; when it cannot, that is printed and the drawing

@@ -6,6 +6,7 @@
 #include "host/drawing/file/Recovery.h"
 #include "host/drawing/records/Journal.h"
 #include "host/kernel/documents/Session.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/platform/Services.h"
 
 #include <QDir>
@@ -53,7 +54,7 @@ OpenOutcome DocumentManager::openRecovered(const QString &path)
     drawing::Recovered recovered = drawing::recoverFile(path);
     if (!recovered)
         return {nullptr, QStringLiteral("%1: %2").arg(path, recovered.error.message())};
-    const QString name = QStringLiteral("%1 (recovered)").arg(QFileInfo(path).fileName());
+    const QString name = Kernel::tr("%1 (recovered)").arg(QFileInfo(path).fileName());
     Document *document = add(std::move(recovered.drawing), {}, name);
     document->setDamagedFile(path);
     const QStringList told = recovered.report.lines(longestTelling);
@@ -94,8 +95,8 @@ OpenOutcome DocumentManager::openCopy(const RecoveryFile &copy)
 void DocumentManager::tellLeftovers(Document &document, const QString &path)
 {
     for (const std::filesystem::path &copy : files::removeLeftovers(files::nativePath(path)))
-        document.print(QStringLiteral("\nSaving this drawing was broken off once. What was to be saved is in %1; the "
-                                      "drawing's own file may have only a part of it.\n")
+        document.print(Kernel::tr("\nSaving this drawing was broken off once. What was to be saved is in %1; the "
+                                  "drawing's own file may have only a part of it.\n")
                            .arg(QDir::toNativeSeparators(files::fromNativePath(copy))));
 }
 

@@ -3,6 +3,7 @@
 #include "host/kernel/documents/Document.h"
 #include "host/kernel/documents/Session.h"
 #include "host/kernel/input/UserInput.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/lisp/LispConversion.h"
 #include "host/kernel/platform/Editor.h"
 #include "host/kernel/running/CommandRun.h"
@@ -78,7 +79,7 @@ RunResult nothingRun()
 RunResult Document::run(const QString &text, const QString &sourceName)
 {
     if (!m_interpreter)
-        return failure(QStringLiteral("The document has no Lisp engine."));
+        return failure(Kernel::tr("The document has no Lisp engine."));
     m_session.editor().lispWillStart(firstLine(text));
     const Run scope(*this, QStringLiteral("LISP"));
     return report(m_interpreter->run(text.toStdString(), sourceName.toStdString()));
@@ -87,7 +88,7 @@ RunResult Document::run(const QString &text, const QString &sourceName)
 RunResult Document::loadLisp(const QString &path)
 {
     if (!m_interpreter)
-        return failure(QStringLiteral("The document has no Lisp engine."));
+        return failure(Kernel::tr("The document has no Lisp engine."));
     m_session.editor().lispWillStart(QStringLiteral("(load \"%1\")").arg(path));
     const Run scope(*this, QStringLiteral("LOAD"));
     return report(m_interpreter->loadFile(path.toStdString()));
@@ -141,14 +142,14 @@ RunResult Document::runBuiltIn(const QString &typed)
         }
         const std::unique_ptr<CommandRun> command = CommandRun::start(*this, typed);
         if (!command)
-            return failed(QStringLiteral("Unknown command \"%1\".").arg(name));
+            return failed(Kernel::tr("Unknown command \"%1\".").arg(name));
         command->runToEnd();
-        return command->isCancelled() ? failure(QStringLiteral("%1 was cancelled.").arg(name)) : RunResult();
+        return command->isCancelled() ? failure(Kernel::tr("%1 was cancelled.").arg(name)) : RunResult();
     } catch (const std::exception &exception) {
         // Nobody further out could tell it: memory that was not to be had, above all.
         m_undoSteps.takeBackTo(start);
-        return failed(QStringLiteral("%1: %2; nothing was changed.")
-                          .arg(name, QString::fromStdString(lisp::messageOf(exception))));
+        return failed(
+            Kernel::tr("%1: %2; nothing was changed.").arg(name, QString::fromStdString(lisp::messageOf(exception))));
     }
 }
 

@@ -1,6 +1,7 @@
 #include "host/kernel/documents/DocumentWishes.h"
 
 #include "host/kernel/documents/DocumentManager.h"
+#include "host/kernel/languages/Texts.h"
 
 namespace host::kernel {
 
@@ -55,12 +56,12 @@ QString DocumentWishes::close(const DocumentWish &wish, Typed more)
     if (!document)
         return {};
     if (document == m_kept)
-        return QStringLiteral("%1 stays open while a session is played on it.").arg(document->title());
+        return Kernel::tr("%1 stays open while a session is played on it.").arg(document->title());
     if (wish.changes == DocumentWish::Changes::Keep && document->isModified())
-        return QStringLiteral("%1 was not closed: it was changed since.").arg(document->title());
+        return Kernel::tr("%1 was not closed: it was changed since.").arg(document->title());
     const QString title = document->title();
     if (!m_documents.close(document))
-        return QStringLiteral("%1 was not closed: a program of it runs.").arg(title);
+        return Kernel::tr("%1 was not closed: a program of it runs.").arg(title);
     if (more == Typed::More && m_documents.documentCount() == 0)
         m_standIn = m_documents.create();
     return {};

@@ -1,6 +1,7 @@
 #include "host/kernel/documents/Results.h"
 
 #include "host/drawing/records/Drawing.h"
+#include "host/kernel/languages/Texts.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -68,7 +69,7 @@ bool Results::end()
 
 QString Results::summary() const
 {
-    return u"%1: %2 done, %3 skipped"_s.arg(m_title).arg(m_done).arg(m_skipped);
+    return Kernel::tr("%1: %2 done, %3 skipped").arg(m_title).arg(m_done).arg(m_skipped);
 }
 
 QString Results::toText(const drawing::Drawing &drawing, std::size_t most) const
@@ -80,7 +81,7 @@ QString Results::toText(const drawing::Drawing &drawing, std::size_t most) const
         text += words.join(u'\t') + u'\n';
     }
     if (const qsizetype left = m_done + m_skipped - qsizetype(std::min(most, m_rows.size())); left > 0)
-        text += u"and %1 more\n"_s.arg(left);
+        text += Kernel::tr("and %1 more\n").arg(left);
     return text;
 }
 

@@ -2,6 +2,7 @@
 
 #include "files/Leftovers.h"
 #include "files/qt/Files.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/platform/CustomBlocks.h"
 #include "host/kernel/platform/Editor.h"
 #include "host/kernel/platform/HelpService.h"
@@ -86,7 +87,7 @@ RunResult Session::runQueue()
     while (!m_input.isEmpty() && m_documents->active()) {
         if (isStopWanted()) {
             m_input.clear();
-            m_documents->active()->print(QStringLiteral("\n*Cancel*\n"));
+            m_documents->active()->print(Kernel::tr("\n*Cancel*\n"));
             result.ok = false;
             result.error = result.report = QStringLiteral("Function cancelled");
             break;

@@ -3,6 +3,7 @@
 #include "files/qt/VisibleText.h"
 #include "host/kernel/documents/Document.h"
 #include "host/kernel/documents/Session.h"
+#include "host/kernel/languages/Texts.h"
 
 #include <QDir>
 #include <QFile>
@@ -112,13 +113,13 @@ QString TrustedFolders::allow(Document &document, const KeptBack &item, Allowanc
     const List list = item.act == KeptBack::Act::Read ? List::Read : List::Run;
     const QString folder = QFileInfo(item.path).absolutePath();
     if (!item.mayBeAllowed)
-        return u"This cannot be allowed here: %1."_s.arg(item.reason);
+        return Kernel::tr("This cannot be allowed here: %1.").arg(item.reason);
     if (allowance == Allowance::Folder) {
         const QString open = list == List::Run ? openToEveryone(item.path) : QString();
         if (!open.isEmpty() || folder.contains(u';'))
-            return u"The folder cannot be trusted: everyone may write to it, or its name has a \";\"."_s;
+            return Kernel::tr("The folder cannot be trusted: everyone may write to it, or its name has a \";\".");
         if (!append(folder, list))
-            return u"The list cannot be kept in %1."_s.arg(m_session.settings().path());
+            return Kernel::tr("The list cannot be kept in %1.").arg(m_session.settings().path());
     } else if (list == List::Read) {
         document.allowReading(item.path);
     } else {
@@ -150,10 +151,11 @@ QString TrustedFolders::objection(const QString &path, const Document &document)
     const QString folder = QFileInfo(file).absolutePath();
     const bool isUsers = drawing::isBelow(folder, m_session.home()) && folder != canonical(folderOfDrawing(document));
     if (file.isEmpty() || (!isUsers && !isNamed(folder)))
-        return u"its folder is not trusted"_s;
+        return Kernel::tr("its folder is not trusted");
     const QString open = openToEveryone(file);
-    return open.isEmpty() ? QString()
-                          : u"everyone may write to %1"_s.arg(files::visibleText(QDir::toNativeSeparators(open)));
+    return open.isEmpty()
+               ? QString()
+               : Kernel::tr("everyone may write to %1").arg(files::visibleText(QDir::toNativeSeparators(open)));
 }
 
 QStringList TrustedFolders::searched() const
@@ -173,7 +175,7 @@ bool TrustedFolders::ask(Document &document, const QString &path, const QString 
     if (answer == Answer::No)
         m_refused.append(path);
     if (answer == Answer::Always && !append(folder, List::Run))
-        document.print(u"\nTRUSTEDPATHS cannot be kept in %1.\n"_s.arg(m_session.settings().path()));
+        document.print(Kernel::tr("\nTRUSTEDPATHS cannot be kept in %1.\n").arg(m_session.settings().path()));
     return answer != Answer::No;
 }
 
@@ -191,8 +193,9 @@ bool TrustedFolders::mayRun(Document &document, const QString &path, const QStri
     if (isNew && ask(document, path, reason))
         return true;
     document.print(
-        u"\n%1 was not loaded: %2. TRUSTEDPATHS, or the option --trust, names folders whose programs may run.\n"_s.arg(
-            files::visibleText(QDir::toNativeSeparators(path)), reason));
+        Kernel::tr(
+            "\n%1 was not loaded: %2. TRUSTEDPATHS, or the option --trust, names folders whose programs may run.\n")
+            .arg(files::visibleText(QDir::toNativeSeparators(path)), reason));
     document.addKeptBack({KeptBack::Act::Run, path, reason, true});
     return false;
 }

@@ -2,6 +2,7 @@
 
 #include "host/kernel/documents/Document.h"
 #include "host/kernel/documents/Session.h"
+#include "host/kernel/languages/Texts.h"
 
 #include <QDir>
 
@@ -17,16 +18,17 @@ using Kind = WriteObstacle::Kind;
 std::optional<WriteObstacle> ownObstacle(const QString &path, DrawingClaim &claim)
 {
     if (claim.isReadOnly())
-        return {{Kind::ReadOnly, u"%1 was opened for reading only; save it under another name."_s.arg(path)}};
+        return {{Kind::ReadOnly, Kernel::tr("%1 was opened for reading only; save it under another name.").arg(path)}};
     if (const std::optional<LockHolder> holder = claim.successor())
         return openElsewhere(path, *holder);
     switch (claim.change()) {
     case FileChange::None:
         break;
     case FileChange::Content:
-        return {{Kind::Changed, u"%1 was changed by another program since it was opened or saved here."_s.arg(path)}};
+        return {{Kind::Changed,
+                 Kernel::tr("%1 was changed by another program since it was opened or saved here.").arg(path)}};
     case FileChange::Gone:
-        return {{Kind::Gone, u"%1 is not there any more."_s.arg(path)}};
+        return {{Kind::Gone, Kernel::tr("%1 is not there any more.").arg(path)}};
     }
     return {};
 }
@@ -35,15 +37,19 @@ std::optional<WriteObstacle> findObstacle(const QString &path, Session *session,
 {
     const QString shown = QDir::toNativeSeparators(path);
     if (const auto identity = identityOf(path); writer && identity && identity == identityOf(writer->damagedFile()))
-        return {{Kind::Damaged, u"%1 is the damaged file that this drawing was recovered from; save it under another "
-                                "name."_s.arg(shown)}};
+        return {{Kind::Damaged,
+                 Kernel::tr("%1 is the damaged file that this drawing was recovered from; save it under another "
+                            "name.")
+                     .arg(shown)}};
     if (writer && writer->claim().isOf(path))
         return ownObstacle(shown, writer->claim());
     // A link may lead elsewhere by now; what is there is not what was opened.
     if (writer && !writer->path().isEmpty() && path == writer->path() && identityOf(path))
-        return {{Kind::Changed, u"%1 leads to another file than when it was opened or saved here."_s.arg(shown)}};
+        return {
+            {Kind::Changed, Kernel::tr("%1 leads to another file than when it was opened or saved here.").arg(shown)}};
     if (session && session->documents().documentOf(path))
-        return {{Kind::OpenHere, u"%1 is open in this program; close it first, or give another name."_s.arg(shown)}};
+        return {{Kind::OpenHere,
+                 Kernel::tr("%1 is open in this program; close it first, or give another name.").arg(shown)}};
     const QString file = canonicalFile(path);
     const std::optional<LockHolder> holder = file.isEmpty() ? std::nullopt : DrawingLock::holderOf(file);
     return holder ? std::optional(openElsewhere(shown, *holder)) : std::nullopt;
@@ -53,8 +59,9 @@ std::optional<WriteObstacle> findObstacle(const QString &path, Session *session,
 
 WriteObstacle openElsewhere(const QString &path, const LockHolder &holder)
 {
-    return {Kind::OpenElsewhere,
-            u"%1 is open in another program (%2)."_s.arg(QDir::toNativeSeparators(path), holder.description())};
+    return {
+        Kind::OpenElsewhere,
+        Kernel::tr("%1 is open in another program (%2).").arg(QDir::toNativeSeparators(path), holder.description())};
 }
 
 std::optional<WriteObstacle> obstacleToWriting(const QString &path, Session *session, Document *writer)

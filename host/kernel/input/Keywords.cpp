@@ -104,6 +104,12 @@ std::optional<QString> matchKeyword(const QString &typed, const QStringList &key
     return place < 0 ? std::nullopt : std::optional(keywordAnswer(answers.value(place, keywords[place])));
 }
 
+std::optional<QString> keywordFor(const PromptRequest &request, const QString &typed)
+{
+    const std::optional<QString> keyword = matchKeyword(typed, request.keywords, request.answers);
+    return keyword || !request.forCommand ? keyword : matchKeyword(typed, request.answers);
+}
+
 QString formatPrompt(const QString &prompt, const QStringList &keywords, const QString &defaultText)
 {
     QString shown = prompt;

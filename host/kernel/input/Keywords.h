@@ -1,5 +1,8 @@
 #pragma once
 
+#include "host/kernel/input/PromptRequest.h"
+#include "platform/Export.h"
+
 #include <QStringList>
 
 #include <optional>
@@ -14,6 +17,10 @@ std::optional<QString> matchKeyword(const QString &typed, const QStringList &key
 /// The same where the keywords are those of the user's language, and programs get the one at the same place of
 /// `answers`, which may also be typed behind a "_".
 std::optional<QString> matchKeyword(const QString &typed, const QStringList &keywords, const QStringList &answers);
+
+/// The keyword that an answer to a request means. Where a built-in command asks in another language, its English
+/// words are taken as well, without a "_" as far as they are none of the language.
+KV_EXPORT std::optional<QString> keywordFor(const PromptRequest &request, const QString &typed);
 
 /// The keywords that a prompt lists in its last brackets: "Close" and "3P" of "or [Close/3P (three points)]: ".
 QStringList optionsIn(const QString &prompt);

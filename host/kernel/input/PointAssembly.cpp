@@ -1,5 +1,7 @@
 #include "host/kernel/input/PointAssembly.h"
 
+#include "host/kernel/languages/Texts.h"
+
 #include <cmath>
 
 using namespace Qt::StringLiterals;
@@ -83,32 +85,33 @@ QString PointAssembly::prompt() const
 QString PointAssembly::promptOf(const Filter &step)
 {
     if (step.wanted != 0)
-        return u" of "_s;
+        return Kernel::tr(" of ");
     QString missing;
     for (int place = 0; place < 3; ++place)
         if (!(step.known & (1 << place)))
             missing += u"XYZ"_s.at(place);
-    return u" (need %1): "_s.arg(missing);
+    return Kernel::tr(" (need %1): ").arg(missing);
 }
 
 QString PointAssembly::promptOf(const MiddleOfTwo &step)
 {
-    return step.first ? u"\nSecond point of mid: "_s : u"\nFirst point of mid: "_s;
+    return step.first ? Kernel::tr("\nSecond point of mid: ") : Kernel::tr("\nFirst point of mid: ");
 }
 
 QString PointAssembly::promptOf(const FromBase &step)
 {
-    return step.base ? u"<Offset>: "_s : u"\nBase point: "_s;
+    return step.base ? Kernel::tr("<Offset>: ") : Kernel::tr("\nBase point: ");
 }
 
 QString PointAssembly::promptOf(const Tracking &step)
 {
-    return step.reached ? u"\nNext point (Press ENTER to end tracking): "_s : u"\nFirst tracking point: "_s;
+    return step.reached ? Kernel::tr("\nNext point (Press ENTER to end tracking): ")
+                        : Kernel::tr("\nFirst tracking point: ");
 }
 
 QString PointAssembly::promptOf(const TemporaryBase &step)
 {
-    return step.base ? u"\nSpecify point: "_s : u"\nSpecify temporary tracking point: "_s;
+    return step.base ? Kernel::tr("\nSpecify point: ") : Kernel::tr("\nSpecify temporary tracking point: ");
 }
 
 std::optional<Vec3> PointAssembly::base() const

@@ -7,6 +7,7 @@
 #include "host/kernel/input/Picker.h"
 #include "host/kernel/input/PointAim.h"
 #include "host/kernel/input/PointEntry.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/lisp/LispConversion.h"
 #include "host/kernel/variables/SystemVariables.h"
 #include "host/lisp/Interpreter.h"
@@ -24,17 +25,17 @@ QString refusalWithOptions(PromptKind kind)
 {
     switch (kind) {
     case PromptKind::Integer:
-        return QStringLiteral("Requires an integer value or option keyword.");
+        return Kernel::tr("Requires an integer value or option keyword.");
     case PromptKind::Real:
-        return QStringLiteral("Requires numeric value or option keyword.");
+        return Kernel::tr("Requires numeric value or option keyword.");
     case PromptKind::Distance:
-        return QStringLiteral("Requires numeric distance, two points, or option keyword.");
+        return Kernel::tr("Requires numeric distance, two points, or option keyword.");
     case PromptKind::Angle:
     case PromptKind::Orientation:
-        return QStringLiteral("Requires valid numeric angle, two points, or option keyword.");
+        return Kernel::tr("Requires valid numeric angle, two points, or option keyword.");
     case PromptKind::Point:
     case PromptKind::Corner:
-        return QStringLiteral("Point or option keyword required.");
+        return Kernel::tr("Point or option keyword required.");
     default:
         return {};
     }
@@ -44,29 +45,28 @@ QString refusalText(PromptKind kind)
 {
     switch (kind) {
     case PromptKind::Integer:
-        return QStringLiteral("Requires an integer value.");
+        return Kernel::tr("Requires an integer value.");
     case PromptKind::Real:
-        return QStringLiteral("Requires numeric value.");
+        return Kernel::tr("Requires numeric value.");
     case PromptKind::Distance:
-        return QStringLiteral("Requires numeric distance or two points.");
+        return Kernel::tr("Requires numeric distance or two points.");
     case PromptKind::Angle:
     case PromptKind::Orientation:
-        return QStringLiteral("Requires valid numeric angle or two points.");
+        return Kernel::tr("Requires valid numeric angle or two points.");
     case PromptKind::Keyword:
-        return QStringLiteral("Invalid option keyword.");
+        return Kernel::tr("Invalid option keyword.");
     case PromptKind::Selection:
-        return QStringLiteral("Expects a point or Window/Last/Crossing/BOX/ALL/Fence/WPolygon/CPolygon/Group/Add/"
-                              "Remove/Multiple/Previous/Undo/AUto/SIngle.");
+        return Kernel::tr("Expects a point or %1.");
     case PromptKind::Command:
     case PromptKind::String:
     case PromptKind::Event:
-        return QStringLiteral("Invalid input.");
+        return Kernel::tr("Invalid input.");
     case PromptKind::Point:
     case PromptKind::Corner:
     case PromptKind::Entity:
         break;
     }
-    return QStringLiteral("Invalid point.");
+    return Kernel::tr("Invalid point.");
 }
 
 PromptReply replyOf(ReplyKind kind, const QString &text = {})
@@ -122,7 +122,7 @@ PromptDialogue::Reading PromptDialogue::readText(const QString &text)
 {
     if (text.isEmpty())
         return readEmpty();
-    if (const auto keyword = matchKeyword(text, m_request.keywords, m_request.answers))
+    if (const auto keyword = keywordFor(m_request, text))
         return {replyOf(m_request.kind == PromptKind::Keyword ? ReplyKind::Value : ReplyKind::Keyword, *keyword), {}};
     if (takePointWord(text) || takeSnapWord(text))
         return {};
@@ -205,9 +205,9 @@ PromptDialogue::Reading PromptDialogue::checkNumber(double value, PromptReply re
     if (!std::isfinite(value))
         return refuse();
     if ((m_request.bits & NoZero) && value == 0.0)
-        return {{}, QStringLiteral("Value must be nonzero.")};
+        return {{}, Kernel::tr("Value must be nonzero.")};
     if ((m_request.bits & NoNegative) && value < 0.0)
-        return {{}, QStringLiteral("Value must not be negative.")};
+        return {{}, Kernel::tr("Value must not be negative.")};
     return {std::move(reply), {}};
 }
 
@@ -234,7 +234,7 @@ PromptDialogue::Reading PromptDialogue::takePoint(const Vec3 &world)
     if (!isFinite(world))
         return refuse();
     if (isOutsideLimits(world))
-        return {{}, QStringLiteral("**Outside limits")};
+        return {{}, Kernel::tr("**Outside limits")};
     m_document.aim().unlock();
     const OdGePoint3d user = m_document.worldToUser({world.x, world.y, world.z});
     keepDirection({user.x, user.y, user.z});
@@ -250,7 +250,7 @@ PromptDialogue::Reading PromptDialogue::takeSecondPoint(const Vec3 &world)
 {
     if (!m_request.base) {
         m_request.base = world;
-        m_request.prompt = QStringLiteral("\nSpecify second point: ");
+        m_request.prompt = Kernel::tr("\nSpecify second point: ");
         return {};
     }
     const OdGePoint3d from = m_document.worldToUser({m_request.base->x, m_request.base->y, m_request.base->z});
@@ -327,7 +327,8 @@ PromptDialogue::Reading PromptDialogue::read(const WindowAnswer &answer)
 PromptDialogue::Reading PromptDialogue::refuse() const
 {
     const QString withOptions = m_request.keywords.isEmpty() ? QString() : refusalWithOptions(m_request.kind);
-    return {{}, withOptions.isEmpty() ? refusalText(m_request.kind) : withOptions};
+    const QString refusal = withOptions.isEmpty() ? refusalText(m_request.kind) : withOptions;
+    return {{}, m_request.kind == PromptKind::Selection ? refusal.arg(m_request.keywords.join(u'/')) : refusal};
 }
 
 bool PromptDialogue::isOutsideLimits(const Vec3 &world) const

@@ -9,6 +9,7 @@
 #include "host/kernel/input/PointEntry.h"
 #include "host/kernel/input/PromptDialogue.h"
 #include "host/kernel/input/SnapModes.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/lisp/LispConversion.h"
 #include "host/kernel/variables/SystemVariables.h"
 
@@ -26,7 +27,7 @@ QString snapPrompt(int kinds)
 {
     using namespace drawing;
     constexpr int towards = SnapPerpendicular | SnapTangent | SnapNearest | SnapParallel;
-    return kinds & towards ? u" to "_s : u" of "_s;
+    return kinds & towards ? Kernel::tr(" to ") : Kernel::tr(" of ");
 }
 
 } // namespace
@@ -66,7 +67,7 @@ bool PromptDialogue::lockDirection(const QString &text)
     if (!angle)
         return false;
     m_assembly.lockDirection(*angle);
-    m_document.print(u"\nAngle Override: "_s + text.mid(1));
+    m_document.print(Kernel::tr("\nAngle Override: ") + text.mid(1));
     return true;
 }
 
@@ -196,7 +197,7 @@ QString PromptDialogue::snap(Vec3 &world, Origin origin, bool &hasMoved)
         hasMoved = true;
     } else if (wanted && *wanted != 0) {
         askForPart();
-        return u"No %1 found for specified point."_s.arg(snapModeName(*wanted));
+        return Kernel::tr("No %1 found for specified point.").arg(snapModeName(*wanted));
     }
     return {};
 }

@@ -3,6 +3,8 @@
 #include "host/drawing/records/Entities.h"
 #include "host/kernel/documents/CurrentSpace.h"
 #include "host/kernel/documents/Document.h"
+#include "host/kernel/languages/KeywordCatalogue.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/lisp/LispConversion.h"
 #include "host/kernel/variables/SystemVariables.h"
 
@@ -66,23 +68,23 @@ PromptRequest SelectionBuilder::request() const
         request.chosen = std::make_shared<const std::vector<RecordId>>(m_entities);
     if (m_isByNames) {
         request.kind = PromptKind::String;
-        request.prompt = QStringLiteral("\nEnter group name: ");
+        request.prompt = Kernel::tr("\nEnter group name: ");
         return request;
     }
     if (!m_shape) {
         request.kind = PromptKind::Selection;
-        request.prompt = m_isRemoving ? QStringLiteral("\nRemove objects: ") : m_prompt;
+        request.prompt = m_isRemoving ? Kernel::tr("\nRemove objects: ") : m_prompt;
         request.keywords = m_options + selectionWords();
-        return request;
+        return inLanguage(std::move(request), m_document.commandName());
     }
     request.kind = PromptKind::Point;
     if (m_corners.empty()) {
-        request.prompt = isPolygon() ? QStringLiteral("\nFirst point: ") : QStringLiteral("\nSpecify first corner: ");
+        request.prompt = isPolygon() ? Kernel::tr("\nFirst point: ") : Kernel::tr("\nSpecify first corner: ");
         return request;
     }
     request.base = m_corners.back();
     request.kind = isPolygon() ? PromptKind::Point : PromptKind::Corner;
-    request.prompt = isPolygon() ? QStringLiteral("\nNext point: ") : QStringLiteral("\nSpecify opposite corner: ");
+    request.prompt = isPolygon() ? Kernel::tr("\nNext point: ") : Kernel::tr("\nSpecify opposite corner: ");
     return request;
 }
 
@@ -179,7 +181,7 @@ void SelectionBuilder::addWord(const QString &word)
 void SelectionBuilder::undoStep()
 {
     if (m_before.empty())
-        return m_document.mutter(QStringLiteral("\nCommand has been completely undone."));
+        return m_document.mutter(Kernel::tr("\nCommand has been completely undone."));
     m_entities = std::move(m_before.back());
     m_before.pop_back();
     m_members.clear();
@@ -196,7 +198,7 @@ void SelectionBuilder::addGroup(const PromptReply &reply)
     if (members)
         take(*members);
     else if (m_isByNames)
-        m_document.mutter(QStringLiteral("\nCannot find group \"%1\".").arg(name));
+        m_document.mutter(Kernel::tr("\nCannot find group \"%1\".").arg(name));
 }
 
 /// With PICKADD 0 a user's pick or window takes the place of what was chosen before.
@@ -273,8 +275,8 @@ void SelectionBuilder::tellFound(int count) const
 {
     const bool isFirst = m_before.empty() || m_before.back().empty();
     if (!m_isByProgram || m_document.variables().integer(u"CMDECHO", 1) != 0)
-        m_document.mutter(isFirst ? QStringLiteral("\n%1 found").arg(count)
-                                  : QStringLiteral("\n%1 found, %2 total").arg(count).arg(m_entities.size()));
+        m_document.mutter(isFirst ? Kernel::tr("\n%1 found").arg(count)
+                                  : Kernel::tr("\n%1 found, %2 total").arg(count).arg(m_entities.size()));
 }
 
 } // namespace host::kernel

@@ -4,6 +4,7 @@
 #include "host/kernel/input/Picker.h"
 #include "host/kernel/input/PromptReply.h"
 #include "host/kernel/input/SelectionStep.h"
+#include "host/kernel/languages/Texts.h"
 
 #include <QSet>
 
@@ -75,7 +76,7 @@ private:
     Document &m_document;
     SelectionSize m_size;
     std::function<bool(drawing::RecordId)> m_accepts;
-    QString m_prompt = QStringLiteral("\nSelect objects: ");
+    QString m_prompt = Kernel::tr("\nSelect objects: ");
     QStringList m_options;
     QString m_option;
     std::vector<drawing::RecordId> m_entities;

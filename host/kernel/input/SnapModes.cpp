@@ -1,5 +1,7 @@
 #include "host/kernel/input/SnapModes.h"
 
+#include "host/kernel/languages/Texts.h"
+
 #include <QStringList>
 
 using namespace Qt::StringLiterals;
@@ -19,21 +21,21 @@ struct SnapWord
 };
 
 constexpr SnapWord snapWords[] = {
-    {"ENDPOINT", nullptr, SnapEndPoint, "endpoint"},
-    {"MIDPOINT", nullptr, SnapMidPoint, "midpoint"},
-    {"CENTER", "CENTRE", SnapCentre, "center"},
-    {"NODE", nullptr, SnapNode, "node"},
-    {"QUADRANT", nullptr, SnapQuadrant, "quadrant"},
-    {"INTERSECTION", nullptr, SnapIntersection, "intersection"},
-    {"INSERTION", nullptr, SnapInsertion, "insertion point"},
-    {"PERPENDICULAR", nullptr, SnapPerpendicular, "perpendicular"},
-    {"TANGENT", nullptr, SnapTangent, "tangent"},
-    {"NEAREST", nullptr, SnapNearest, "nearest point"},
-    {"QUICK", nullptr, SnapQuick, "quick"},
-    {"APPARENT", "APPINT", SnapApparentIntersection, "apparent intersection"},
-    {"EXTENSION", nullptr, SnapExtension, "extension"},
-    {"PARALLEL", nullptr, SnapParallel, "parallel"},
-    {"NONE", nullptr, 0, "none"},
+    {"ENDPOINT", nullptr, SnapEndPoint, QT_TRANSLATE_NOOP("Kernel", "endpoint")},
+    {"MIDPOINT", nullptr, SnapMidPoint, QT_TRANSLATE_NOOP("Kernel", "midpoint")},
+    {"CENTER", "CENTRE", SnapCentre, QT_TRANSLATE_NOOP("Kernel", "center")},
+    {"NODE", nullptr, SnapNode, QT_TRANSLATE_NOOP("Kernel", "node")},
+    {"QUADRANT", nullptr, SnapQuadrant, QT_TRANSLATE_NOOP("Kernel", "quadrant")},
+    {"INTERSECTION", nullptr, SnapIntersection, QT_TRANSLATE_NOOP("Kernel", "intersection")},
+    {"INSERTION", nullptr, SnapInsertion, QT_TRANSLATE_NOOP("Kernel", "insertion point")},
+    {"PERPENDICULAR", nullptr, SnapPerpendicular, QT_TRANSLATE_NOOP("Kernel", "perpendicular")},
+    {"TANGENT", nullptr, SnapTangent, QT_TRANSLATE_NOOP("Kernel", "tangent")},
+    {"NEAREST", nullptr, SnapNearest, QT_TRANSLATE_NOOP("Kernel", "nearest point")},
+    {"QUICK", nullptr, SnapQuick, QT_TRANSLATE_NOOP("Kernel", "quick")},
+    {"APPARENT", "APPINT", SnapApparentIntersection, QT_TRANSLATE_NOOP("Kernel", "apparent intersection")},
+    {"EXTENSION", nullptr, SnapExtension, QT_TRANSLATE_NOOP("Kernel", "extension")},
+    {"PARALLEL", nullptr, SnapParallel, QT_TRANSLATE_NOOP("Kernel", "parallel")},
+    {"NONE", nullptr, 0, QT_TRANSLATE_NOOP("Kernel", "none")},
 };
 
 bool isShortForSnap(const QString &typed, const char *word)
@@ -71,7 +73,7 @@ QString snapModeName(int kinds)
 {
     for (const SnapWord &row : snapWords)
         if (kinds & row.mode)
-            return QString::fromLatin1(row.name);
+            return Kernel::tr(row.name);
     return {};
 }
 

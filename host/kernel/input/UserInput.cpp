@@ -5,6 +5,7 @@
 #include "host/kernel/input/Keywords.h"
 #include "host/kernel/input/PromptDialogue.h"
 #include "host/kernel/input/Units.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/running/TransparentCall.h"
 #include "host/kernel/variables/SystemVariables.h"
 #include "host/lisp/Error.h"
@@ -79,7 +80,7 @@ void UserInput::dropTypedAhead()
     if (queue.isEmpty())
         return;
     queue.clear();
-    m_document.print(QStringLiteral("\nThe rest of what was typed ahead is left out.\n"));
+    m_document.print(Kernel::tr("\nThe rest of what was typed ahead is left out.\n"));
 }
 
 bool UserInput::isAnsweredSilently() const
@@ -116,7 +117,7 @@ InputAnswer UserInput::nextAnswer(const PromptRequest &request)
         const bool isFed = feeder && feeder->feed(request, session.input()) == FeedResult::Supplied;
         if (!isFed || session.input().isEmpty()) {
             m_document.print(
-                QStringLiteral("\nNobody is there to answer \"%1\": cancelled.\n").arg(request.prompt.trimmed()));
+                Kernel::tr("\nNobody is there to answer \"%1\": cancelled.\n").arg(request.prompt.trimmed()));
             return CancelAnswer{.isFinal = true};
         }
     }
@@ -127,7 +128,7 @@ void UserInput::echo(const InputAnswer &answer)
     if (const auto *text = std::get_if<TextAnswer>(&answer))
         m_document.print(text->text + u'\n');
     else if (std::holds_alternative<CancelAnswer>(answer))
-        m_document.print(QStringLiteral("*Cancel*\n"));
+        m_document.print(Kernel::tr("*Cancel*\n"));
     else
         m_document.print(QStringLiteral("\n"));
 }

@@ -1,6 +1,7 @@
 #include "host/kernel/platform/HelpService.h"
 
 #include "host/kernel/documents/Session.h"
+#include "host/kernel/languages/Texts.h"
 
 #include <QApplication>
 #include <QDesktopServices>
@@ -51,7 +52,7 @@ void HelpService::Help(const OdString &helpFile, int topic, bool keepOpen, QWidg
     const QString path = page(helpFile.isEmpty() ? m_session.helpFolder() : helpFile, topic);
     if (!m_session.mainWindow()) {
         if (Document *document = m_session.documents().active())
-            document->print(u'\n' + (path.isEmpty() ? QStringLiteral("No help page.") : path));
+            document->print(u'\n' + (path.isEmpty() ? Kernel::tr("No help page.") : path));
         return;
     }
     const bool wasOpen = m_browser && m_browser->isVisible();
@@ -93,7 +94,7 @@ void HelpService::follow(const QUrl &link)
     else if (link.scheme() == QLatin1String("http") || link.scheme() == QLatin1String("https"))
         QDesktopServices::openUrl(link);
     else if (Document *document = m_session.documents().active())
-        document->print(QStringLiteral("\nThis link of the help page is not followed: %1\n")
+        document->print(Kernel::tr("\nThis link of the help page is not followed: %1\n")
                             .arg(QString::fromLatin1(link.toEncoded())));
 }
 

@@ -1,5 +1,6 @@
 #include "host/kernel/platform/ModuleLoader.h"
 
+#include "host/kernel/languages/Texts.h"
 #include "platform/rx/OdRxModule.h"
 
 #include <QFile>
@@ -42,12 +43,12 @@ QString versionProblem(void *handle)
 {
     const auto ask = reinterpret_cast<OdRxGetAPIVersionFunction>(dlsym(handle, "odrxGetAPIVersion"));
     if (!ask)
-        return QStringLiteral("it is no module (odrxGetAPIVersion is missing)");
+        return Kernel::tr("it is no module (odrxGetAPIVersion is missing)");
     std::array<int, 4> version{};
     ask(&version[0], &version[1], &version[2], &version[3]);
     if (std::equal(version.begin(), version.end(), ModuleLoader::apiVersion))
         return {};
-    return QStringLiteral("it was built for version %1 of the interface, this host has %2")
+    return Kernel::tr("it was built for version %1 of the interface, this host has %2")
         .arg(versionText(version), versionText(std::to_array(ModuleLoader::apiVersion)));
 }
 
@@ -56,16 +57,16 @@ OdRxModule *createModule(void *handle, QString &problem)
 {
     const auto create = reinterpret_cast<OdRxCreateModuleObjectFunction>(dlsym(handle, "odrxCreateModuleObject"));
     if (!create) {
-        problem = QStringLiteral("it is no module (odrxCreateModuleObject is missing)");
+        problem = Kernel::tr("it is no module (odrxCreateModuleObject is missing)");
         return nullptr;
     }
     try {
         OdRxModule *module = create(handle);
         if (!module)
-            problem = QStringLiteral("it made no module object");
+            problem = Kernel::tr("it made no module object");
         return module;
     } catch (const std::bad_alloc &) {
-        problem = QStringLiteral("there is no memory for its module object");
+        problem = Kernel::tr("there is no memory for its module object");
         return nullptr;
     }
 }
@@ -89,7 +90,7 @@ ModuleLoader::Outcome ModuleLoader::load(const QString &path)
     const QString file = absolute(path);
     if (OdRxModule *present = module(file))
         return {present, {}};
-    const QString failure = QStringLiteral("Cannot load %1: %2");
+    const QString failure = Kernel::tr("Cannot load %1: %2");
     FileHandle opened{dlopen(QFile::encodeName(file).constData(), RTLD_NOW | RTLD_LOCAL)};
     if (!opened.handle)
         return {nullptr, failure.arg(file, QString::fromLocal8Bit(dlerror()))};

@@ -1,6 +1,7 @@
 #include "host/kernel/platform/SystemServices.h"
 
 #include "host/kernel/documents/Session.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/running/CommandRun.h"
 
 #include <QDir>
@@ -45,7 +46,7 @@ bool SystemServices::isPermitted(const OdString &command, CKvDocument &document)
     const CommandRun *pending = own.pendingCommand();
     if (!pending || pending->isDone())
         return true;
-    own.print(QStringLiteral("\n%1 cannot run while another command is under way.").arg(command.toUpper()));
+    own.print(Kernel::tr("\n%1 cannot run while another command is under way.").arg(command.toUpper()));
     return false;
 }
 
@@ -64,7 +65,7 @@ void SystemServices::setStringSetting(const OdString &globalName, const OdString
     Document *document = m_session.documents().active();
     if (m_session.settings().setText(globalName, localName, value) || !document)
         return;
-    document->print(QStringLiteral("\n%1: the setting cannot be written to %2.\n")
+    document->print(Kernel::tr("\n%1: the setting cannot be written to %2.\n")
                         .arg(globalName, QDir::toNativeSeparators(m_session.settings().path())));
 }
 

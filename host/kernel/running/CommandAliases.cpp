@@ -1,6 +1,7 @@
 #include "host/kernel/running/CommandAliases.h"
 
 #include "files/qt/Files.h"
+#include "host/kernel/languages/Texts.h"
 
 #include <QDir>
 #include <QFile>
@@ -47,7 +48,7 @@ QString CommandAliases::reread()
         m_table = std::move(reading.table);
         return {};
     }
-    return QStringLiteral("The command aliases in %1 cannot be read: %2 The ones before stay in use.")
+    return Kernel::tr("The command aliases in %1 cannot be read: %2 The ones before stay in use.")
         .arg(QDir::toNativeSeparators(m_path),
              reading.error.endsWith(u'.') ? reading.error : reading.error + QStringLiteral("."));
 }

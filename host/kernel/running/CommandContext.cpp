@@ -6,6 +6,8 @@
 #include "host/kernel/documents/Document.h"
 #include "host/kernel/input/Keywords.h"
 #include "host/kernel/input/Units.h"
+#include "host/kernel/languages/KeywordCatalogue.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/running/CommandTable.h"
 #include "host/kernel/variables/SystemVariables.h"
 
@@ -60,7 +62,7 @@ QString CommandContext::shownAngle(double angle) const
 
 CommandContext::Reply CommandContext::ask(PromptRequest request)
 {
-    m_request = std::move(request);
+    m_request = inLanguage(std::move(request), m_document.commandName());
     m_request.forCommand = true;
     m_request.chosen = m_chosen;
     return Reply(*this);
@@ -208,7 +210,7 @@ FieldList asNewEntity(Document &document, const FieldList &given)
 drawing::RecordId CommandContext::create(const FieldList &fields)
 {
     if (!isFinite(fields)) {
-        fail(QStringLiteral("The numbers are too large."));
+        fail(Kernel::tr("The numbers are too large."));
         return drawing::noRecord;
     }
     const drawing::CreateResult made = createOnCurrent(drawing(), asNewEntity(m_document, fields));

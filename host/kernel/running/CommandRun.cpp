@@ -3,6 +3,7 @@
 #include "host/kernel/documents/Document.h"
 #include "host/kernel/documents/Session.h"
 #include "host/kernel/input/UserInput.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/platform/Editor.h"
 #include "host/kernel/running/TransparentCall.h"
 #include "host/kernel/variables/SystemVariables.h"
@@ -207,7 +208,7 @@ void CommandRun::refuse()
     m_context.m_hasFailed = true;
     finish();
     m_document.undoSteps().takeBackTo(m_start);
-    m_document.print(QStringLiteral("\n%1 has ended, nothing was changed.").arg(QLatin1String(m_row->name)));
+    m_document.print(Kernel::tr("\n%1 has ended, nothing was changed.").arg(QLatin1String(m_row->name)));
 }
 
 void CommandRun::echoPrompt()

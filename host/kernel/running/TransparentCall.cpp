@@ -1,6 +1,7 @@
 #include "host/kernel/running/TransparentCall.h"
 
 #include "host/kernel/documents/Document.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/variables/SystemVariables.h"
 
 namespace host::kernel {
@@ -29,7 +30,7 @@ std::unique_ptr<CommandRun> startTransparent(Document &document, const QString &
 {
     const QString command = CommandTable::find(name) ? name : document.commandOfAlias(name);
     if (request.isTransparent || !isTransparent(document, command)) {
-        document.print(QStringLiteral("\n** That command may not be invoked transparently **\n"));
+        document.print(Kernel::tr("\n** That command may not be invoked transparently **\n"));
         return nullptr;
     }
     return CommandRun::start(document, command, CommandRun::Manner::Transparent);
@@ -47,7 +48,7 @@ void runTransparent(Document &document, const QString &name, const PromptRequest
 void tellResumed(Document &document)
 {
     if (const QString name = document.commandNames().section(u'\'', -1); !name.isEmpty())
-        document.print(QStringLiteral("\nResuming %1 command.\n").arg(name));
+        document.print(Kernel::tr("\nResuming %1 command.\n").arg(name));
 }
 
 } // namespace host::kernel

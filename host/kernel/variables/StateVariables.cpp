@@ -8,6 +8,7 @@
 #include "host/kernel/documents/Document.h"
 #include "host/kernel/documents/Session.h"
 #include "host/kernel/languages/Languages.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/variables/VariableRows.h"
 
 #include <QDateTime>
@@ -109,7 +110,7 @@ void nameFolders(Document &document, const VariableValue &value)
 {
     if (!document.session().trustedFolders().setNamed(std::get<QString>(value), list))
         document.print(
-            QStringLiteral("\n%1 cannot be kept.\n")
+            Kernel::tr("\n%1 cannot be kept.\n")
                 .arg(list == TrustedFolders::List::Run ? QLatin1String("TRUSTEDPATHS") : QLatin1String("READPATHS")));
 }
 

@@ -7,6 +7,7 @@
 #include "host/kernel/documents/CurrentSpace.h"
 #include "host/kernel/documents/Document.h"
 #include "host/kernel/documents/Session.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/platform/Editor.h"
 #include "host/kernel/variables/HostVariables.h"
 #include "host/kernel/variables/UserVariables.h"
@@ -261,7 +262,7 @@ void SystemVariables::storeObjectSettings()
         return isUnsaid || present == text || drawing.dictionaries().setVariable(entry.key(), text);
     });
     if (!m_document.session().userVariables().store())
-        m_document.print(QStringLiteral("\nThe user's settings cannot be kept.\n"));
+        m_document.print(Kernel::tr("\nThe user's settings cannot be kept.\n"));
 }
 
 qint32 SystemVariables::integer(QStringView name, qint32 otherwise) const

@@ -1,5 +1,6 @@
 #include "host/app/window/frame/MenuTable.h"
 
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/running/CommandTable.h"
 
 #include <QCoreApplication>
@@ -269,7 +270,7 @@ QString menuTip(const MenuRow &row)
     if (row.tip[0] != '\0')
         return QCoreApplication::translate("Menus", row.tip);
     const kernel::CommandRow *command = row.isLine() ? kernel::CommandTable::find(row.command()) : nullptr;
-    return command ? QString::fromUtf8(command->help) : QString();
+    return command ? kernel::HelpLines::tr(command->help) : QString();
 }
 
 } // namespace host::app

@@ -2,6 +2,7 @@
 
 #include "host/app/window/frame/WindowServices.h"
 #include "host/app/window/settings/SettingEditor.h"
+#include "host/kernel/languages/Texts.h"
 #include "host/kernel/variables/HostVariables.h"
 #include "host/kernel/variables/SystemVariables.h"
 #include "host/kernel/variables/VariableHelp.h"
@@ -35,7 +36,7 @@ QString tipOf(const SettingRow &row)
     const QString name = QString::fromLatin1(row.name);
     if (row.tip[0] != '\0' || name.startsWith(u'@'))
         return translatedSetting(row.tip);
-    return u"%1 (%2)"_s.arg(QString::fromUtf8(kernel::variableHelp(name)), name);
+    return u"%1 (%2)"_s.arg(kernel::HelpLines::tr(kernel::variableHelp(name)), name);
 }
 
 /// The value as Lisp writes one of the variable's kind; empty when it is none.
