@@ -15038,7 +15038,7 @@ Es gibt mehr zu zeigen, als auf einmal gezeichnet wird: dem Bild fehlt ein Teil 
     </message>
     <message>
         <source>&amp;Last time&apos;s drawings</source>
-        <translation>&amp;Zeichnungen vom letzten Mal</translation>
+        <translation>Zeichnungen vom &amp;letzten Mal</translation>
     </message>
     <message>
         <source>Open them at each &amp;start</source>
@@ -15046,7 +15046,7 @@ Es gibt mehr zu zeigen, als auf einmal gezeichnet wird: dem Bild fehlt ein Teil 
     </message>
     <message>
         <source>&amp;Clear the list</source>
-        <translation>&amp;Liste leeren</translation>
+        <translation>Liste lee&amp;ren</translation>
     </message>
     <message>
         <source>Start</source>

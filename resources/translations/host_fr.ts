@@ -15686,7 +15686,7 @@ Récupéré dans son état du %1. Il n&apos;est pas dans son fichier tant qu&apo
     </message>
     <message>
         <source>Un&amp;pin</source>
-        <translation>&amp;Détacher</translation>
+        <translation>Dé&amp;tacher</translation>
     </message>
     <message>
         <source>&amp;Pin</source>

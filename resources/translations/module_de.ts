@@ -1663,15 +1663,15 @@
     </message>
     <message>
         <source>C&amp;reate Viewports</source>
-        <translation>Ansichtsfenster &amp;erstellen</translation>
+        <translation>Fenster &amp;erstellen</translation>
     </message>
     <message>
         <source>&amp;Align Viewports</source>
-        <translation>Ansichtsfenster &amp;ausrichten</translation>
+        <translation>Fenster &amp;ausrichten</translation>
     </message>
     <message>
         <source>&amp;Scale Viewports</source>
-        <translation>Ansichtsfenster s&amp;kalieren</translation>
+        <translation>Fenster s&amp;kalieren</translation>
     </message>
     <message>
         <source>Block</source>
@@ -2543,7 +2543,7 @@
     </message>
     <message>
         <source>Name;Track Active;EditTime (hr)</source>
-        <translation>Name;Erfassung aktiv;Bearbeitungszeit (h)</translation>
+        <translation>Name;Erfassung aktiv;Arbeitszeit (h)</translation>
     </message>
     <message>
         <source>The changes have not been written yet. Do you want to discard them?</source>

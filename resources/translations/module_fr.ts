@@ -1663,15 +1663,15 @@
     </message>
     <message>
         <source>C&amp;reate Viewports</source>
-        <translation>Créer des &amp;fenêtres</translation>
+        <translation>Créer &amp;fenêtres</translation>
     </message>
     <message>
         <source>&amp;Align Viewports</source>
-        <translation>&amp;Aligner les fenêtres</translation>
+        <translation>&amp;Aligner fenêtres</translation>
     </message>
     <message>
         <source>&amp;Scale Viewports</source>
-        <translation>Échelle des fenê&amp;tres</translation>
+        <translation>Échelle fenê&amp;tres</translation>
     </message>
     <message>
         <source>Block</source>
@@ -2543,7 +2543,7 @@
     </message>
     <message>
         <source>Name;Track Active;EditTime (hr)</source>
-        <translation>Nom;Suivi actif;Temps d&apos;édition (h)</translation>
+        <translation>Nom;Suivi actif;Temps (h)</translation>
     </message>
     <message>
         <source>The changes have not been written yet. Do you want to discard them?</source>
