@@ -13,6 +13,7 @@
 #include <QDir>
 #include <QEventLoop>
 #include <QFileInfo>
+#include <QIcon>
 #include <QMessageLogContext>
 #include <QSettings>
 
@@ -147,6 +148,9 @@ int runProgram(int argc, char **argv)
     std::setlocale(LC_NUMERIC, "C");
     QCoreApplication::setApplicationName(u"ortakit"_s);
     QCoreApplication::setApplicationVersion(u"" ORTAKIT_VERSION ""_s);
+    // By this name a desktop finds its entry for the window.
+    QGuiApplication::setDesktopFileName(u"org.ortakit.Ortakit"_s);
+    QApplication::setWindowIcon(QIcon(u":/program/ortakit.svg"_s));
     keepSettingsIn(options.home.isEmpty() ? qEnvironmentVariable("ORTAKIT_HOME") : options.home);
     kernel::useLanguage(programLanguage(options));
     applyStyle(options.style.value_or(Style::Light));

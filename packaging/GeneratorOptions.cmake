@@ -1,0 +1,8 @@
+# Read by CPack for each generator.
+if(CPACK_GENERATOR STREQUAL "DEB")
+    set(CPACK_PACKAGING_INSTALL_PREFIX "/usr")
+    set(CPACK_DEB_COMPONENT_INSTALL ON)
+else()
+    set(CPACK_PACKAGING_INSTALL_PREFIX "/")
+    set(CPACK_ARCHIVE_COMPONENT_INSTALL OFF)
+endif()
