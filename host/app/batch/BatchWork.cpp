@@ -1,8 +1,12 @@
 #include "host/app/batch/BatchWork.h"
 
+#include "host/app/batch/UnattendedFeeder.h"
 #include "host/app/workbench/ProgramOutput.h"
 
+#include <QCoreApplication>
 #include <QDir>
+#include <QFileInfo>
+#include <QSet>
 
 using namespace Qt::StringLiterals;
 
@@ -72,6 +76,50 @@ kernel::OpenOutcome recoverToRead(Workbench &workbench, const QString &path)
     for (const QString &line : opened.recovered)
         writeMessage(u"%1: %2"_s.arg(native(path), line));
     return opened;
+}
+
+kernel::OpenOutcome openUnattended(Workbench &workbench, const QString &path, bool isRecovering)
+{
+    UnattendedFeeder nobody;
+    workbench.session().setFeeder(&nobody);
+    kernel::OpenOutcome opened;
+    if (path.isEmpty())
+        opened.document = workbench.documents().create();
+    else if (isRecovering)
+        opened = recoverToRead(workbench, path);
+    else
+        opened = openToRead(workbench, path);
+    workbench.session().setFeeder(nullptr);
+    return opened;
+}
+
+bool makeFolder(const QString &folder)
+{
+    if (folder.isEmpty() || QDir().mkpath(folder))
+        return true;
+    writeMessage(QCoreApplication::translate("Batch", "%1: the folder cannot be made").arg(native(folder)));
+    return false;
+}
+
+bool tellClashingNames(const QStringList &files)
+{
+    QSet<QString> names;
+    for (const QString &path : files) {
+        const QString name = QFileInfo(path).completeBaseName().toLower();
+        if (names.contains(name)) {
+            writeMessage(QCoreApplication::translate(
+                             "Batch", "two of the drawings are named %1: their results would have the same name")
+                             .arg(name));
+            return true;
+        }
+        names.insert(name);
+    }
+    return false;
+}
+
+QString resultPath(const QString &folder, const QString &file, const QString &extension)
+{
+    return QDir(folder).filePath(QFileInfo(file).completeBaseName() + u'.' + extension);
 }
 
 } // namespace host::app

@@ -27,10 +27,23 @@ void closeAll(Workbench &workbench);
 /// A path as people write it on this system.
 QString native(const QString &path);
 
+/// Makes the folder where it is missing; an empty name is none. False, and told, when it cannot be made.
+bool makeFolder(const QString &folder);
+
+/// Whether results of two files would go to the same one, as their names differ in folder, extension or case only;
+/// tells so.
+bool tellClashingNames(const QStringList &files);
+
+/// Where the result of a file goes: its name in the folder, with this extension.
+QString resultPath(const QString &folder, const QString &file, const QString &extension);
+
 /// A drawing that another process has open is read as it was saved; its own file is not written then.
 kernel::OpenOutcome openToRead(Workbench &workbench, const QString &path);
 
 /// What is sound of a damaged drawing; tells what was dropped.
 kernel::OpenOutcome recoverToRead(Workbench &workbench, const QString &path);
+
+/// A drawing to work on with nobody there, whom the programs that it loads could ask; an empty path is a new one.
+kernel::OpenOutcome openUnattended(Workbench &workbench, const QString &path, bool isRecovering);
 
 } // namespace host::app

@@ -1,6 +1,6 @@
+#include "host/app/batch/BatchJobs.h"
 #include "host/app/batch/BatchRuns.h"
 #include "host/app/batch/BatchWork.h"
-#include "host/app/batch/UnattendedFeeder.h"
 #include "host/app/playback/DrawingAudit.h"
 #include "host/app/playback/SessionPlayer.h"
 #include "host/app/workbench/DrawingPicture.h"
@@ -9,7 +9,6 @@
 
 #include <QDir>
 #include <QFileInfo>
-#include <QSet>
 #include <QWidget>
 
 using namespace Qt::StringLiterals;
@@ -27,15 +26,15 @@ public:
     int run();
 
 private:
-    bool prepareFolders();
-    bool hasClashingNames() const;
+    bool readScript(int &status);
     bool findDrawings();
-    int runOne(Workbench &workbench, const QString &path, const PlaybackCase &one);
+    FileWork beginWork();
+    FileResult runOne(Workbench &workbench, const QString &path, const PlaybackCase &one);
     PlaybackOptions playbackOptions();
-    int playOn(kernel::Document &document, const QString &path, const PlaybackCase &one);
-    int writeOutcome(kernel::Document &document, const QString &path, const PlaybackResult &played,
-                     const QString &title);
-    QString writeResults(kernel::Document &document, const QString &path, QStringList &files, int &status);
+    void playOn(kernel::Document &document, const QString &path, const PlaybackCase &one, FileResult &result);
+    void writeOutcome(kernel::Document &document, const QString &path, const PlaybackResult &played,
+                      FileResult &result);
+    QString writeResults(kernel::Document &document, const QString &path, FileResult &result);
     QString picturePath(const QString &drawing) const;
 
     const ProgramOptions &m_options;
@@ -44,36 +43,6 @@ private:
     std::optional<DrawingAudit> m_audit;
     qsizetype m_told = 0;
 };
-
-bool makeFolder(const QString &folder)
-{
-    if (folder.isEmpty() || QDir().mkpath(folder))
-        return true;
-    writeMessage(u"%1: the folder cannot be made"_s.arg(native(folder)));
-    return false;
-}
-
-bool SessionBatch::prepareFolders()
-{
-    return makeFolder(m_options.outFolder) && makeFolder(m_options.pictureFolder);
-}
-
-/// Whether results of two drawings would go to the same file.
-bool SessionBatch::hasClashingNames() const
-{
-    if (m_options.outFolder.isEmpty() && m_options.pictureFolder.isEmpty())
-        return false;
-    QSet<QString> names;
-    for (const QString &path : m_drawings) {
-        const QString name = QFileInfo(path).completeBaseName().toLower();
-        if (names.contains(name)) {
-            writeMessage(u"two of the drawings are named %1: their results would have the same name"_s.arg(name));
-            return true;
-        }
-        names.insert(name);
-    }
-    return false;
-}
 
 /// The drawings that were given, else the one that the session is for.
 bool SessionBatch::findDrawings()
@@ -91,49 +60,42 @@ bool SessionBatch::findDrawings()
     return !m_drawings.isEmpty();
 }
 
-int SessionBatch::run()
+bool SessionBatch::readScript(int &status)
 {
     m_script = readPlayback(m_options.session);
     for (const ScriptError &error : m_script.errors)
         writeMessage(error.line > 0 ? u"%1:%2: %3"_s.arg(native(m_options.session)).arg(error.line).arg(error.message)
                                     : error.message);
     if (!m_script.errors.isEmpty())
-        return m_script.errors.first().line > 0 ? ExitFailed : ExitFileError;
-    if (!findDrawings() || hasClashingNames())
-        return ExitUsage;
-    if (!prepareFolders())
-        return ExitFileError;
-    QWidget parentOfDialogs;
-    Workbench workbench(workbenchOptions(m_options), &parentOfDialogs);
-    setForce(workbench, m_options);
-    QList<int> statuses;
-    for (const QString &path : m_drawings)
-        for (const PlaybackCase &one : casesToPlay(m_script))
-            statuses.append(runOne(workbench, path, one));
-    const auto failed = statuses.size() - statuses.count(ExitDone);
-    if (failed == 0)
-        return ExitDone;
-    if (failed < statuses.size())
-        return ExitPartly;
-    if (statuses.count(ExitCutShort) == failed)
-        return ExitCutShort;
-    return statuses.contains(ExitFailed) ? ExitFailed : ExitFileError;
+        status = m_script.errors.first().line > 0 ? ExitFailed : ExitFileError;
+    return m_script.errors.isEmpty();
 }
 
-/// The tools that a drawing loads when it opens have nobody to ask either.
-kernel::OpenOutcome openUnattended(Workbench &workbench, const QString &path, bool isRecovering)
+int SessionBatch::run()
 {
-    UnattendedFeeder nobody;
-    workbench.session().setFeeder(&nobody);
-    kernel::OpenOutcome opened;
-    if (path.isEmpty())
-        opened.document = workbench.documents().create();
-    else if (isRecovering)
-        opened = recoverToRead(workbench, path);
-    else
-        opened = openToRead(workbench, path);
-    workbench.session().setFeeder(nullptr);
-    return opened;
+    int status = ExitDone;
+    if (!readScript(status))
+        return status;
+    const bool writesFiles = !m_options.outFolder.isEmpty() || !m_options.pictureFolder.isEmpty();
+    if (!findDrawings() || (writesFiles && tellClashingNames(m_drawings)))
+        return ExitUsage;
+    if (!makeFolder(m_options.outFolder) || !makeFolder(m_options.pictureFolder))
+        return ExitFileError;
+    return workOnFiles(m_options, m_drawings, [this] { return beginWork(); });
+}
+
+FileWork SessionBatch::beginWork()
+{
+    const auto parentOfDialogs = std::make_shared<QWidget>();
+    const auto workbench = std::make_shared<Workbench>(workbenchOptions(m_options), parentOfDialogs.get());
+    setForce(*workbench, m_options);
+    // The workbench goes before the parent of its dialogs does.
+    return [this, parentOfDialogs, workbench](const QString &path) {
+        QList<FileResult> results;
+        for (const PlaybackCase &one : casesToPlay(m_script))
+            results.append(runOne(*workbench, path, one));
+        return results;
+    };
 }
 
 /// What lines about a drawing begin with.
@@ -143,18 +105,21 @@ QString titleOf(const QString &path, const PlaybackCase &one)
     return one.name.isEmpty() ? drawing : u"%1, case %2"_s.arg(drawing, one.name);
 }
 
-int SessionBatch::runOne(Workbench &workbench, const QString &path, const PlaybackCase &one)
+FileResult SessionBatch::runOne(Workbench &workbench, const QString &path, const PlaybackCase &one)
 {
+    FileResult result{.file = path.isEmpty() ? u"new drawing"_s : path, .part = one.name};
+    const MessageKeeper keeper;
     const kernel::OpenOutcome opened = openUnattended(workbench, path, m_options.isRecovering);
     tellProblems(workbench, m_told);
-    if (!opened) {
+    if (opened) {
+        playOn(*opened.document, path, one, result);
+        closeAll(workbench);
+    } else {
         writeMessage(opened.error);
-        writeResult(u"%1: not read\n"_s.arg(native(path)));
-        return ExitFileError;
+        result.outcome = Outcome::NotRead;
     }
-    const int status = playOn(*opened.document, path, one);
-    closeAll(workbench);
-    return status;
+    result.messages = keeper.messages();
+    return result;
 }
 
 PlaybackOptions SessionBatch::playbackOptions()
@@ -173,23 +138,23 @@ PlaybackOptions SessionBatch::playbackOptions()
     return playback;
 }
 
-int SessionBatch::playOn(kernel::Document &document, const QString &path, const PlaybackCase &one)
+void SessionBatch::playOn(kernel::Document &document, const QString &path, const PlaybackCase &one, FileResult &result)
 {
     const PlaybackOptions playback = playbackOptions();
-    const QString title = titleOf(path, one);
-    const PlaybackResult result = [&] {
+    const PlaybackResult played = [&] {
         const LimitWatch watch(LimitWatch::withTimeToStop(playback.timeLimit), native(path));
         return runCase(one, document, playback);
     }();
-    if (!result.ok) {
-        writeMessage(u"%1: %2: %3"_s.arg(title, native(m_options.session), result.message));
-        writeResult(u"%1: failed\n"_s.arg(title));
-        // The next drawing has no part in it.
-        tellNotWritten(document.session());
-        return ExitFailed;
+    if (played.ok) {
+        writeOutcome(document, path, played, result);
+        if (tellNotWritten(document.session()))
+            result.outcome = Outcome::NotWritten;
+        return;
     }
-    const int status = writeOutcome(document, path, result, title);
-    return tellNotWritten(document.session()) ? ExitFileError : status;
+    writeMessage(u"%1: %2: %3"_s.arg(titleOf(path, one), native(m_options.session), played.message));
+    result.outcome = Outcome::Failed;
+    // The next drawing has no part in it.
+    tellNotWritten(document.session());
 }
 
 QString SessionBatch::picturePath(const QString &drawing) const
@@ -202,45 +167,41 @@ QString SessionBatch::picturePath(const QString &drawing) const
 }
 
 /// The drawing and its picture as they are in the end; of a session with cases nothing, each having its own end.
-QString SessionBatch::writeResults(kernel::Document &document, const QString &path, QStringList &files, int &status)
+QString SessionBatch::writeResults(kernel::Document &document, const QString &path, FileResult &result)
 {
     if (!m_script.cases.isEmpty())
         return {};
     const QString drawing = path.isEmpty() ? document.title() : path;
     if (!m_options.outFolder.isEmpty() && document.isModified()) {
-        const QString target = QDir(m_options.outFolder).filePath(QFileInfo(drawing).completeBaseName() + u".dxf"_s);
-        files.append(native(target));
+        const QString target = resultPath(m_options.outFolder, drawing, u"dxf"_s);
+        result.out.append(target);
         if (const QString error = document.saveCopy(target).error; !error.isEmpty())
             return error;
     }
     if (!m_options.withPictures)
         return {};
     const view::ExportResult picture = writeDrawingPicture(document, picturePath(drawing));
-    status = std::max(status, tellMissing(picturePath(drawing), picture.report));
-    files.append(native(picturePath(drawing)));
+    if (tellMissing(picturePath(drawing), picture.report) != ExitDone)
+        result.outcome = Outcome::CutShort;
+    result.out.append(picturePath(drawing));
     return picture.error;
 }
 
-int SessionBatch::writeOutcome(kernel::Document &document, const QString &path, const PlaybackResult &played,
-                               const QString &title)
+void SessionBatch::writeOutcome(kernel::Document &document, const QString &path, const PlaybackResult &played,
+                                FileResult &result)
 {
-    QStringList files;
-    int status = ExitDone;
-    for (const QString &file : played.files)
-        files.append(native(file));
+    result.out = played.files;
     for (const auto &[picture, report] : played.incomplete)
-        status = std::max(status, tellMissing(picture, report));
+        if (tellMissing(picture, report) != ExitDone)
+            result.outcome = Outcome::CutShort;
     const QMetaObject::Connection told = QObject::connect(&document, &kernel::Document::printed, &document,
                                                           [](const QString &text) { writeMessage(text.trimmed()); });
-    const QString error = writeResults(document, path, files, status);
+    const QString error = writeResults(document, path, result);
     QObject::disconnect(told);
-    if (!error.isEmpty()) {
-        writeMessage(error);
-        writeResult(u"%1: not written\n"_s.arg(title));
-        return ExitFileError;
-    }
-    writeResult(files.isEmpty() ? u"%1: done\n"_s.arg(title) : u"%1: done, %2\n"_s.arg(title, files.join(", "_L1)));
-    return status;
+    if (error.isEmpty())
+        return;
+    writeMessage(error);
+    result.outcome = Outcome::NotWritten;
 }
 
 } // namespace

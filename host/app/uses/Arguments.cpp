@@ -59,7 +59,7 @@ QString applyOption(ProgramOptions &options, const OptionRow &row, const QString
 
 /// Reads "--name value" or "--name=value" at `position`, which is left on its last argument. Of an option with one
 /// letter, "-j4" is as good.
-QString readOption(ProgramOptions &options, const QStringList &arguments, qsizetype &position)
+QString readOption(ProgramOptions &options, const QStringList &arguments, qsizetype &position, bool &isOfJobs)
 {
     const QString &argument = arguments[position];
     const bool isShort = !argument.startsWith("--"_L1);
@@ -68,6 +68,7 @@ QString readOption(ProgramOptions &options, const QStringList &arguments, qsizet
     for (const OptionRow *row : optionsOf(*options.use)) {
         if (name != QLatin1StringView(row->name))
             continue;
+        isOfJobs = row->isOfJobs;
         if (row->isOfPicture)
             options.picture.given.append(name);
         if (!row->value)
@@ -78,6 +79,17 @@ QString readOption(ProgramOptions &options, const QStringList &arguments, qsizet
         return applyOption(options, *row, ++position < arguments.size() ? arguments[position] : QString());
     }
     return unknownOption(*options.use, name);
+}
+
+/// The same, and keeps for workers what is for them as well.
+QString takeOption(ProgramOptions &options, const QStringList &arguments, qsizetype &position)
+{
+    const qsizetype first = position;
+    bool isOfJobs = false;
+    const QString error = readOption(options, arguments, position, isOfJobs);
+    if (!isOfJobs)
+        options.givenOptions += arguments.mid(first, position - first + 1);
+    return error;
 }
 
 /// A word in the place of a command that is no drawing either.
@@ -112,6 +124,7 @@ ProgramOptions parseArguments(const QStringList &arguments)
     options.use = &allUses().first();
     if (const UseRow *use = arguments.isEmpty() ? nullptr : findUse(arguments.first()); use && *use->name) {
         options.use = use;
+        options.commandName = use->title();
         options.hasWindow = false;
         position = 1;
     }
@@ -124,8 +137,10 @@ ProgramOptions parseArguments(const QStringList &arguments)
             words += arguments.mid(position + 1);
             break;
         }
-        if (argument.startsWith(u'-') && argument.size() > 1)
-            options.error = readOption(options, arguments, position);
+        if (position == 1 && argument == "--worker"_L1)
+            options.isWorker = true;
+        else if (argument.startsWith(u'-') && argument.size() > 1)
+            options.error = takeOption(options, arguments, position);
         else
             words.append(argument);
     }

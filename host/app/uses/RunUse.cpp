@@ -17,6 +17,7 @@ QString assignToRun(ProgramOptions &options, const QStringList &words)
         return QCoreApplication::translate("Uses", "run needs a session");
     options.session = words.first();
     options.drawings = words.mid(1);
+    options.wordsOfAll = words.first(1);
     if (options.audit.isEmpty())
         options.audit = qEnvironmentVariable("ORTAKIT_AUDIT");
     return {};
@@ -55,7 +56,9 @@ QList<OptionRow> runOptions()
         timeLimitOption(QT_TRANSLATE_NOOP("Uses", "the most the session may take with one drawing; one that does not "
                                                   "stop then ends the program"),
                         "120"),
-        memoryLimitOption()};
+        memoryLimitOption(),
+        jobsOption(),
+        jsonOption(QT_TRANSLATE_NOOP("Uses", "tell what became of each drawing as one line of JSON"))};
 }
 
 } // namespace

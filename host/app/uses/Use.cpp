@@ -33,6 +33,12 @@ QString setMemoryLimit(ProgramOptions &options, const QString &value)
     return {};
 }
 
+QString setJobs(ProgramOptions &options, const QString &value)
+{
+    options.jobs = value.toInt();
+    return {};
+}
+
 /// How many letters must be put in, taken out, changed or swapped with their neighbours to make one of the other.
 int distanceBetween(const QString &from, const QString &to)
 {
@@ -203,7 +209,22 @@ OptionRow recoverOption(const char *help)
 
 OptionRow jsonOption(const char *help)
 {
-    return {.name = "--json", .help = help, .apply = setFlag<&ProgramOptions::withJson>};
+    return {.name = "--json", .help = help, .apply = setFlag<&ProgramOptions::withJson>, .isOfJobs = true};
+}
+
+OptionRow jobsOption()
+{
+    return {.name = "-j",
+            .value = "N",
+            .help =
+                QT_TRANSLATE_NOOP("Uses", "work on so many files at a time, each in a process of its own, so that one "
+                                          "that crashes or takes too long is one file that failed; what is told and "
+                                          "its order are the same for any N"),
+            .apply = setJobs,
+            .kind = ValueKind::Number,
+            .range = ValueRange{1, 256, true},
+            .byDefault = QT_TRANSLATE_NOOP("Uses", "one process for all"),
+            .isOfJobs = true};
 }
 
 } // namespace host::app

@@ -48,6 +48,7 @@ struct OptionRow
     const char *byDefault = nullptr; ///< what holds without it, where help does not say that already
     const char *files = nullptr;     ///< patterns of a file, "*.dxf *.dwg"; null: any
     bool isOfPicture = false;        ///< says what a picture shows: noted as given
+    bool isOfJobs = false;           ///< says how work is shared out or told: workers are not given it
 };
 
 /// A word that is no option.
@@ -136,5 +137,6 @@ OptionRow memoryLimitOption();
 OptionRow forceOption(const char *help);
 OptionRow recoverOption(const char *help);
 OptionRow jsonOption(const char *help);
+OptionRow jobsOption();
 
 } // namespace host::app

@@ -18,7 +18,8 @@ enum ExitStatus : int
     ExitUsage = 2,     ///< wrong use of the program
     ExitPartly = 3,    ///< part of a batch failed; of a strict conversion, part of the drawing is missing
     ExitFileError = 4, ///< a file could not be read or written
-    ExitCutShort = 5   ///< a picture was written that shows less than it should: there was more than is drawn in one go
+    ExitCutShort = 5,  ///< a picture was written that shows less than it should: there was more than is drawn in one go
+    ExitInterrupted = 130 ///< Ctrl+C ended work that was shared out
 };
 
 struct UseRow;
@@ -42,7 +43,12 @@ struct ProgramOptions
 {
     Wish wish = Wish::Work;
     const UseRow *use = nullptr; ///< the row of host/app/uses that the arguments are for
+    QString commandName;         ///< its name; empty for the window
     bool hasWindow = true;       ///< it is that of the window
+    QStringList givenOptions;    ///< as they were given, but for those that say how work is shared out and told
+    QStringList wordsOfAll;      ///< words that are no options and for each of the files: a session
+    int jobs = 0;                ///< how many processes share the files; 0: this one works on them
+    bool isWorker = false;       ///< one of these processes
     QString session;             ///< Run; in a window what is played first
     QString record;              ///< Window: what the person does is written there; empty: it is not
     QStringList drawings;        ///< Window, Run; of Run none when the session says which it is for

@@ -1,6 +1,7 @@
 #include "host/app/workbench/ProgramOutput.h"
 
 #include <cstdio>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -9,6 +10,7 @@ namespace host::app {
 namespace {
 
 bool isResultLost = false;
+thread_local MessageKeeper *keeperOfMessages = nullptr;
 
 } // namespace
 
@@ -27,7 +29,16 @@ bool hasLostResults()
 
 void writeMessage(const QString &text)
 {
+    if (keeperOfMessages)
+        keeperOfMessages->m_messages.append(text.trimmed());
     writeMessageLines(u"ortakit: "_s + text.trimmed() + u'\n');
+}
+
+MessageKeeper::MessageKeeper() : m_outer(std::exchange(keeperOfMessages, this)) {}
+
+MessageKeeper::~MessageKeeper()
+{
+    keeperOfMessages = m_outer;
 }
 
 void writeMessageLines(const QString &text)

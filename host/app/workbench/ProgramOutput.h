@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 namespace host::app {
 
@@ -12,5 +13,23 @@ bool hasLostResults();
 void writeMessageLines(const QString &text);
 /// A line on standard error, behind the program's name.
 void writeMessage(const QString &text);
+
+/// Keeps what writeMessage() says on this thread while it lives; it is written all the same. The innermost one gets it.
+class MessageKeeper
+{
+public:
+    MessageKeeper();
+    ~MessageKeeper();
+    MessageKeeper(const MessageKeeper &) = delete;
+    MessageKeeper &operator=(const MessageKeeper &) = delete;
+
+    const QStringList &messages() const { return m_messages; }
+
+private:
+    friend void writeMessage(const QString &text);
+
+    QStringList m_messages;
+    MessageKeeper *m_outer;
+};
 
 } // namespace host::app
