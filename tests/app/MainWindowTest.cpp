@@ -6,7 +6,6 @@
 #include "host/app/window/frame/Preferences.h"
 #include "host/kernel/input/UserInput.h"
 #include "host/view/paint/ScenePainter.h"
-#include "platform/kernel/CKvHelp.h"
 #include "platform/kernel/CKvUtils.h"
 #include "tests/app/AppFixture.h"
 #include "tests/support/ModalAnswers.h"
@@ -29,7 +28,6 @@
 #include <QRegularExpression>
 #include <QTabBar>
 #include <QTabWidget>
-#include <QTextBrowser>
 #include <QTimer>
 
 #include <gtest/gtest.h>
@@ -639,43 +637,6 @@ TEST_F(MainWindowTest, TheStatusBarSaysWhatIsMissing)
         EXPECT_EQ(label->text(), text);
         EXPECT_EQ(label->textFormat(), Qt::PlainText) << "a file's names are no markup, which could read files";
         EXPECT_TRUE(Qt::mightBeRichText(label->toolTip()) && !label->toolTip().contains(u"<img"_s));
-    }
-}
-
-TEST_F(MainWindowTest, HelpStandsInFrontOfAModalDialogAndOutlivesIt)
-{
-    defineSampleBox(*window->document());
-    const auto help = [] {
-        for (QWidget *open : QApplication::topLevelWidgets())
-            if (open->objectName() == u"helpWindow")
-                return open;
-        return static_cast<QWidget *>(nullptr);
-    };
-    const QString pages = folder.path();
-    write(u"7.html"_s, "<a href='8.html'>next</a>");
-    for (int round = 0; round < 2; ++round) {
-        meanwhile([&] {
-            QWidget *box = QApplication::activeModalWidget();
-            GetKvHelp()->Help(pages, 7, false, nullptr, 0);
-            ASSERT_TRUE(box && help());
-            EXPECT_EQ(help()->parentWidget(), box) << "a modal dialog blocks all but its own windows";
-            EXPECT_TRUE(help()->isVisible());
-            box->close();
-        });
-        window->enter(u"(samplebox)"_s);
-        ASSERT_TRUE(help());
-        EXPECT_TRUE(help()->isVisible());
-        EXPECT_EQ(help()->parentWidget(), window.get());
-    }
-    auto *browser = qobject_cast<QTextBrowser *>(help());
-    const QString next = write(u"8.html"_s, "the next");
-    const std::pair<QUrl, bool> links[] = {{QUrl::fromLocalFile(write(u"home/9.html"_s, "x")), false},
-                                           {QUrl(u"ftp://a.org"_s), false},
-                                           {QUrl::fromLocalFile(next), true}};
-    for (const auto &[link, isFollowed] : links) {
-        emit browser->anchorClicked(link);
-        EXPECT_EQ(browser->source() == link, isFollowed) << link.toString().toStdString();
-        EXPECT_EQ(history().contains(link.toString()), !isFollowed);
     }
 }
 

@@ -10,16 +10,15 @@
 #include "host/app/window/frame/EditKeys.h"
 #include "host/app/window/frame/Menus.h"
 #include "host/app/window/frame/Panels.h"
-#include "platform/kernel/CKvHelp.h"
+#include "host/app/window/help/HelpKey.h"
+#include "host/app/window/help/HelpWindow.h"
 
 #include <QAction>
 #include <QApplication>
-#include <QFile>
 #include <QHash>
 #include <QMap>
 #include <QMenu>
 #include <QMessageBox>
-#include <QRegularExpression>
 
 using namespace Qt::StringLiterals;
 
@@ -98,7 +97,7 @@ QHash<QString, std::function<void()>> MainWindow::menuBodies()
         {u"palette"_s, [this] { showPalette(); }},
         {u"longHistory"_s, [this] { toggleLongHistory(); }},
         {u"record"_s, [this] { toggleRecording(); }},
-        {u"help"_s, [this] { showHelp(); }},
+        {u"help"_s, [this] { showHelp(helpKeysAt(*(focusWidget() ? focusWidget() : this))); }},
         {u"about"_s, [this] { showAbout(); }},
     };
 }
@@ -119,28 +118,30 @@ void MainWindow::addTools(Menus &menus, QMenu &menu)
         menu.addAction(tr("No tools were found"))->setEnabled(false);
 }
 
-/// The page of the tool that runs, by its link in the table of contents; 0, the contents, without one.
-int MainWindow::helpTopic(const QString &folder) const
+/// About the name that is being written, else what runs, else the place where the keyboard is.
+void MainWindow::showHelp(const HelpKeys &keys)
 {
-    const QString running = document() ? document()->commandNames().section(u'\'', -1).remove(u"C:"_s) : QString();
-    QFile contents(folder + u"/index.html"_s);
-    for (const ToolEntry &entry : m_workbench->tools().entries) {
-        if (entry.command != running || !contents.open(QIODevice::ReadOnly))
-            continue;
-        const QRegularExpression link(u"href=\"(\\d+)\\.html\">%1<"_s.arg(QRegularExpression::escape(entry.caption)));
-        return link.match(QString::fromUtf8(contents.readAll())).captured(1).toInt();
-    }
-    return 0;
+    kernel::HelpService &help = m_workbench->session().help();
+    if (m_workbench->session().helpFolder().isEmpty())
+        return m_commandLine->print(tr("\nThe help pages were not found.\n"));
+    // A built-in command is known by its name, a Lisp command by what was typed for it.
+    QString running = document() ? document()->commandNames().section(u'\'', -1) : QString();
+    if (running.isEmpty() && m_runner->isBusy())
+        running = m_runner->lastCommand().section(u' ', 0, 0).remove(u'_');
+    QStringList wanted = keys.word;
+    if (!running.isEmpty())
+        wanted.append(u"command "_s + running);
+    help.show(wanted + keys.place);
 }
 
-void MainWindow::showHelp()
+void MainWindow::buildHelp()
 {
-    const QString folder = m_workbench->session().helpFolder();
-    CKvHelp *help = GetKvHelp();
-    if (help && !folder.isEmpty())
-        help->Help(folder, helpTopic(folder), false, this, 0);
-    else
-        m_commandLine->print(tr("\nThe help pages were not found.\n"));
+    m_helpViewer = std::make_unique<WindowHelpViewer>(*this, [this](const QUrl &link) {
+        m_commandLine->print(
+            tr("\nThis link of the help page is not followed: %1\n").arg(QString::fromLatin1(link.toEncoded())));
+    });
+    m_workbench->session().help().setViewer(m_helpViewer.get());
+    new HelpKey([this](const HelpKeys &keys) { showHelp(keys); }, this);
 }
 
 void MainWindow::showAbout()

@@ -22,6 +22,8 @@
 #include "host/app/window/frame/StatusSwitches.h"
 #include "host/app/window/frame/TrustBar.h"
 #include "host/app/window/frame/WindowServices.h"
+#include "host/app/window/help/HelpKey.h"
+#include "host/app/window/help/HelpWindow.h"
 #include "host/app/window/panels/StyleBar.h"
 #include "host/kernel/documents/ScreenSketch.h"
 #include "host/kernel/files/Autosave.h"
@@ -78,6 +80,7 @@ MainWindow::MainWindow(const WorkbenchOptions &options)
     m_dialogs = std::make_unique<WindowDialogs>(*m_services);
     m_dialogs->connectLayouts(*m_layouts);
     buildMenus();
+    buildHelp();
     addToolBar(new StyleBar(*m_services, this));
     connectRunner();
 
@@ -105,6 +108,7 @@ MainWindow::MainWindow(const WorkbenchOptions &options)
 
 MainWindow::~MainWindow()
 {
+    m_workbench->session().help().setViewer(nullptr);
     m_recorder.reset();
     // Closing documents tells of changes that nobody is left to show.
     disconnect(&m_workbench->documents(), nullptr, this, nullptr);

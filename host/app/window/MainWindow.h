@@ -29,6 +29,7 @@ class CommandRunner;
 class DrawingCanvas;
 class DrawingStatus;
 class DrawingTabs;
+struct HelpKeys;
 class LayoutTabs;
 class LispConsole;
 class Menus;
@@ -41,6 +42,7 @@ class SettingsWindow;
 class StartPage;
 class StatusSwitches;
 class WindowDialogs;
+class WindowHelpViewer;
 struct Suggestion;
 class WindowServices;
 
@@ -130,8 +132,8 @@ private:
     /// The active drawing was saved by a menu, or was not.
     void recordSaved(bool wasSaved);
     // In windows of their own.
-    void showHelp();
-    int helpTopic(const QString &folder) const;
+    void buildHelp();
+    void showHelp(const HelpKeys &keys);
     void showAbout();
 
     /// What is entered, answered and cancelled goes to the runner, and its prompts to the canvas in front.
@@ -247,6 +249,7 @@ private:
     std::unique_ptr<AimTyping> m_typing;
     std::unique_ptr<kernel::Autosave> m_autosave;
     std::unique_ptr<WindowDialogs> m_dialogs;
+    std::unique_ptr<WindowHelpViewer> m_helpViewer;
     RightButton *m_rightButton;
     CommandPalette *m_palette = nullptr; ///< made when it is first wanted
     QStringList m_recentlyRun;           ///< from it, as kept

@@ -6,6 +6,7 @@
 #include "host/app/window/files/RecentFiles.h"
 #include "host/app/window/files/StartPage.h"
 #include "host/app/window/frame/DrawingTabs.h"
+#include "host/app/window/help/HelpKey.h"
 
 #include <QAction>
 #include <QDir>
@@ -100,7 +101,7 @@ void MainWindow::connectStartPage(StartPage &page)
     connect(&page, &StartPage::lastTimeWanted, this, &MainWindow::openLastTime);
     connect(&page, &StartPage::fileWanted, this, [this](const QString &path) { openAll({path}); });
     connect(&page, &StartPage::sampleWanted, this, [this](const QString &path) { m_files.openSample(path); });
-    connect(&page, &StartPage::helpWanted, this, &MainWindow::showHelp);
+    connect(&page, &StartPage::helpWanted, this, [this] { showHelp({{}, {u"window startPage"_s}}); });
     connect(&page, &StartPage::commandWanted, this, [this, create](const QString &command) {
         create();
         QTimer::singleShot(0, this, [this, command] { m_runner->start(command); });

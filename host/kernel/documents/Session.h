@@ -33,7 +33,7 @@ struct SessionOptions
     /// The folders of the installation, in order: programs are looked for there first, other files after the drawing's
     /// own folder.
     QStringList supportFolders;
-    /// Folder with the help pages (<topic>.html, index.html).
+    /// Folder with the help pages, as HelpService shows them.
     QString helpFolder;
 };
 
@@ -119,6 +119,7 @@ public:
     const QStringList &supportFolders() const { return m_supportFolders; }
     void setSupportFolders(const QStringList &folders) { m_supportFolders = folders; }
     QString helpFolder() const { return m_helpFolder; }
+    HelpService &help() { return *m_help; }
 
     /// What was cut or copied last, in a drawing of its own, whose insertion base is the base point; null for nothing.
     const drawing::Drawing *clipboard() const { return m_clipboard.get(); }

@@ -1,0 +1,1 @@
+"""The manual as a book: its documents read, made into pages, checked, printed."""
