@@ -2859,111 +2859,115 @@ Einstellungen gespeichert in: </translation>
     </message>
     <message>
         <source>%1: the drawing has no room for an editing time</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: die Zeichnung hat keinen Platz für eine Bearbeitungszeit</translation>
     </message>
     <message>
         <source>%1: the drawing is not open any more</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: die Zeichnung ist nicht mehr geöffnet</translation>
     </message>
     <message>
         <source>A tag or text of the file is too long.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Tag oder Text der Datei ist zu lang.</translation>
     </message>
     <message>
         <source>An element of the file has too many attributes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Element der Datei hat zu viele Attribute.</translation>
     </message>
     <message>
         <source>Enter to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Eingabetaste für %1</translation>
     </message>
     <message>
         <source>Entities that this drawing cannot hold and that were left out: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Objekte, die diese Zeichnung nicht aufnehmen kann und die weggelassen wurden: %1.</translation>
     </message>
     <message>
         <source>Error reading alias file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Fehler beim Lesen der Aliasdatei.</translation>
     </message>
     <message>
         <source>Favorite &quot;%1&quot; already exists. Do you want to replace it?</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Favorit &quot;%1&quot; ist bereits vorhanden. Soll er ersetzt werden?</translation>
     </message>
     <message>
         <source>Favorite name is required.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Name für den Favoriten wird gebraucht.</translation>
     </message>
     <message>
         <source>Favorites</source>
-        <translation type="unfinished">Favoriten</translation>
+        <translation>Favoriten</translation>
     </message>
     <message>
         <source>No file name</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Dateiname</translation>
     </message>
     <message>
         <source>Select object</source>
-        <translation type="unfinished"></translation>
+        <translation>Objekt wählen</translation>
     </message>
     <message>
         <source>Specify folder</source>
-        <translation type="unfinished">Ordner angeben</translation>
+        <translation>Ordner angeben</translation>
     </message>
     <message>
         <source>Specify new path for Backup folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Neuen Pfad für den Sicherungsordner angeben</translation>
     </message>
     <message>
         <source>Specify option</source>
-        <translation type="unfinished"></translation>
+        <translation>Option angeben</translation>
     </message>
     <message>
         <source>Specify second point</source>
-        <translation type="unfinished"></translation>
+        <translation>Zweiten Punkt angeben</translation>
     </message>
     <message>
         <source>The drawing has its own, which stays as it is: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Zeichnung hat Eigenes, das bleibt, wie es ist: %1.</translation>
     </message>
     <message>
         <source>The entities of the file expand to too much text.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Entitäten der Datei ergeben zu viel Text.</translation>
     </message>
     <message>
         <source>There are too many copies of it already.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt davon schon zu viele Kopien.</translation>
     </message>
     <message>
         <source>There is no block &quot;%1&quot; in %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keinen Block &quot;%1&quot; in %2.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is a invalid directory.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; ist kein gültiger Ordner.</translation>
     </message>
     <message>
         <source>
 %1 could not be moved.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 konnten nicht verschoben werden.</translation>
     </message>
     <message>
         <source>
 Nothing is there.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Dort ist nichts.</translation>
     </message>
     <message>
         <source>
 This %1 is not what is asked for.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Dieses Objekt (%1) ist nicht das gefragte.</translation>
     </message>
     <message>
         <source>
 This is a %1; asked for is %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Dies ist %1; gefragt ist %2.</translation>
     </message>
     <message>
         <source>line %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeile %1: %2</translation>
     </message>
 </context>
 <context>
