@@ -6,6 +6,7 @@
 #include <QImage>
 #include <QRegularExpression>
 #include <QTextBlock>
+#include <QTextCursor>
 
 using namespace Qt::StringLiterals;
 
@@ -108,9 +109,28 @@ void HelpBrowser::mark(const QStringList &words)
     updateMarks();
 }
 
+/// The row or heading that the page was opened at, which may stand anywhere on the screen.
+QTextCursor HelpBrowser::target() const
+{
+    const QString anchor = source().fragment();
+    for (QTextBlock block = document()->begin(); !anchor.isEmpty() && block.isValid(); block = block.next())
+        for (auto piece = block.begin(); !piece.atEnd(); ++piece)
+            if (piece.fragment().charFormat().anchorNames().contains(anchor)) {
+                QTextCursor cursor(block);
+                cursor.movePosition(QTextCursor::EndOfBlock, QTextCursor::KeepAnchor);
+                return cursor;
+            }
+    return {};
+}
+
 void HelpBrowser::updateMarks()
 {
     QList<ExtraSelection> marks;
+    if (const QTextCursor at = target(); !at.isNull()) {
+        QTextCharFormat frame;
+        frame.setBackground(isDark() ? QColor(38, 66, 92) : QColor(205, 228, 250));
+        marks.append({at, frame});
+    }
     QStringList patterns;
     for (const QString &word : m_marked)
         patterns.append(QRegularExpression::escape(word));

@@ -14,7 +14,7 @@ public:
     explicit HelpBrowser(QWidget *parent = nullptr);
 
     /// Marks these words wherever they stand at the begin of a word, on this page and those shown later; an empty list
-    /// takes the marks off.
+    /// takes the marks off. The row or heading that a link led to is marked as well.
     void mark(const QStringList &words);
 
     QVariant loadResource(int type, const QUrl &name) override;
@@ -28,6 +28,7 @@ protected:
 private:
     void follow(const QUrl &link);
     void updateMarks();
+    QTextCursor target() const;
     bool isDark() const;
 
     QStringList m_marked;
