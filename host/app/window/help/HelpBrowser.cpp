@@ -31,8 +31,7 @@ QString styleOf(const QPalette &palette)
 {
     const QColor base = palette.color(QPalette::Base);
     const QColor text = palette.color(QPalette::Text);
-    return uR"(body { line-height: 120%; }
-a { color: %1; }
+    return uR"(a { color: %1; }
 h1 { font-size: xx-large; }
 h2 { font-size: x-large; margin-top: 22px; }
 h3 { font-size: large; margin-top: 16px; }
