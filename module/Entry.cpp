@@ -5,10 +5,10 @@
 
 extern "C" KV_EXPORT void odrxGetAPIVersion(int *major, int *minor, int *majorBuild, int *minorBuild)
 {
-    *major = 26;
-    *minor = 8;
-    *majorBuild = 0;
-    *minorBuild = 54758;
+    *major = odrxApiVersion[0];
+    *minor = odrxApiVersion[1];
+    *majorBuild = odrxApiVersion[2];
+    *minorBuild = odrxApiVersion[3];
 }
 
 extern "C" KV_EXPORT OdRxModule *odrxCreateModuleObject(void *handle)

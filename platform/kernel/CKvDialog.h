@@ -5,7 +5,8 @@
 #include <QDialog>
 
 /// Base of every dialog that the host shows: follows the host's style, and is hidden rather than deleted when closed,
-/// so that its widgets keep their values until it is shown again. Its window has no button for "What's this?".
+/// so that its widgets keep their values until it is shown again. Who defines this class and the widgets compiles what
+/// Qt's moc makes of their headers, too: the module has none of it. Its window has no button for "What's this?".
 class KV_EXPORT CKvDialog : public QDialog
 {
     Q_OBJECT

@@ -18,13 +18,16 @@ public:
 
     /// Null before LispDocumentReady and after LispDocumentClosing.
     virtual CKvLispEngine *lispEngine() = 0;
-    /// Prompts of this document; nobody may be there to answer them, which then counts as a cancel.
+    /// Prompts of this document; nobody may be there to answer them, which then counts as a cancel. Null in a host
+    /// without prompts: functions that ask fail then.
     virtual CKvUserInput *userInput() = 0;
+    /// Never null, as the next one.
     virtual CKvSelectionInput *selectionInput() = 0;
     /// The drawing, which is open for as long as the document is.
     virtual OdDbDatabase *database() = 0;
-    /// The value of a system variable as text; empty for an unknown name. Names are compared without regard to case.
-    /// Numbers come with a decimal point whatever the language; OdDbDatabase::getSysVar() has them with their type.
+    /// The value of a system variable as text; empty for an unknown name, which stands for what is usual. Names are
+    /// compared without regard to case. Numbers come with a decimal point whatever the language;
+    /// OdDbDatabase::getSysVar() has them with their type.
     virtual OdString systemVariable(const OdString &name) const = 0;
     /// Turns a point of the current user coordinate system into world coordinates, and back: of the space that is
     /// current, model or paper, each of which has a system of its own. Cannot fail.

@@ -4,6 +4,11 @@
 #include "platform/kernel/OdResBuf.h"
 
 /// The Lisp engine of one document, as external functions use it.
+///
+/// What arguments and results are said of is the running call. Calls nest: a dialog runs an event loop, and a file that
+/// is loaded from it may call again; the outer call goes on when the inner one is over. A document that is evaluated in
+/// is the active one, since that is where functions look for their engine. It may be closed while a call runs, by the
+/// user of a dialog; the call then touches the engine no more, and the host keeps it until the call is over.
 class KV_EXPORT CKvLispEngine
 {
 public:
@@ -18,8 +23,8 @@ public:
     /// Unknown names are ignored.
     virtual void undefineFunction(const OdString &name) = 0;
 
-    /// The arguments of the running call in order, null when there are none. The chain belongs to the engine, which
-    /// frees what is left of it when the call ends.
+    /// The arguments of the running call in order, null when there are none, and outside of calls. The chain belongs to
+    /// the engine, which frees what is left of it when the call ends.
     virtual OdResBuf *arguments() = 0;
     /// Gives back the arguments from `first` on before the call ends. Null is allowed.
     virtual void releaseArguments(OdResBuf *first) = 0;
@@ -27,6 +32,8 @@ public:
     /// The members of the selection set that `set`, a link of type kRtPickSet among the arguments of the running call,
     /// stands for. Erased ones are among them.
     virtual OdDbObjectIdArray selectionMembers(const OdResBuf &set) const = 0;
+
+    // The result of the running call: the last one that was set counts, nil when none was. Values are copied.
 
     virtual void returnNil() = 0;
     virtual void returnTrue() = 0;

@@ -15,11 +15,11 @@ class KV_EXPORT CKvUserInput
 public:
     virtual ~CKvUserInput() = default;
 
-    /// Option bits and keywords for the next request only. Bits: 1 no empty answer, 2 no zero, 4 no negative value,
-    /// 8 points outside the limits are fine, 32 dashed rubber band, 64 two-dimensional distance, 128 any text counts
-    /// as a keyword. Of a keyword, the upper-case letters alone suffice as the answer. A keyword may be a pair of what
-    /// is shown and, behind a comma, the keyword itself: of ". for none,." the user sees ". for none", types "." and
-    /// input() gives ".".
+    /// Option bits and keywords for the next request only, whatever comes of it; formatPrompt() shows them until then.
+    /// Bits: 1 no empty answer, 2 no zero, 4 no negative value, 8 points outside the limits are fine, 32 dashed rubber
+    /// band, 64 two-dimensional distance, 128 any text counts as a keyword. Of a keyword, the upper-case letters alone
+    /// suffice as the answer. A keyword may be a pair of what is shown and, behind a comma, the keyword itself: of ".
+    /// for none,." the user sees ". for none", types "." and input() gives ".".
     virtual void initget(int bits, const QStringList &keywords) = 0;
     /// The prompt as it is shown: with its keywords, the default in angle brackets when there is one, and a colon.
     virtual OdString formatPrompt(const OdString &prompt, const OdString &defaultText) const = 0;
@@ -41,9 +41,11 @@ public:
     virtual int getPoint(const OdString &prompt, const std::optional<OdGePoint3d> &base, OdGePoint3d &value) = 0;
     /// The corner opposite to `base`.
     virtual int getCorner(const OdString &prompt, const OdGePoint3d &base, OdGePoint3d &value) = 0;
-    /// Text; an empty answer gives `value` as it came in. Without `allowSpaces` a blank ends the answer.
+    /// Text; an empty answer is 5100 with `value` as it came in, empty or not. Without `allowSpaces` a blank ends the
+    /// answer.
     virtual int getString(const OdString &prompt, bool allowSpaces, OdString &value) = 0;
-    /// One of the keywords; an empty answer gives `value` as it came in where that is not empty.
+    /// One of the keywords, which is the value here: 5100 and `value`, spelled as initget() got it. An empty answer
+    /// gives `value` as it came in where that is not empty.
     virtual int getKeyword(const OdString &prompt, OdString &value) = 0;
 
     /// The keyword that ended the last request with -5005, spelled as initget() got it.

@@ -16,7 +16,15 @@ struct OdGePoint3d
     bool operator==(const OdGePoint3d &) const = default;
 };
 
-/// One link of a result-buffer chain: a type code, a value and the links after it, which it owns.
+/// One link of a result-buffer chain: a type code, a value and the links after it, which it owns. Links are made on
+/// either side of the boundary and freed on either, so host and module share one C++ heap.
+///
+/// Which kind of value a link has follows from its type: those below say it themselves, and a group code has the kind
+/// that it has in every DXF file (40 a real, 70 an integer, 10 a point, whose y and z are in it). Who copies a chain
+/// goes by that.
+///
+/// Values of Lisp: a list is a list begin, its items and a list end. One of two or three numbers may come as a point
+/// instead, and is the same list to whoever gets it. Integers that fit are kRtShort, others kRtLong.
 ///
 /// Reading a value as another kind than the stored one gives 0, an empty string or the origin; an integer may be read
 /// as a real and the other way round (cut towards zero).

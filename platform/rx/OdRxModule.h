@@ -14,13 +14,18 @@ public:
     virtual void *sysData() = 0;
     /// Destroys the module object. Only after uninitApp().
     virtual void deleteModule() = 0;
-    /// Makes the module known to the host: functions, commands, reactors. Called once, when the host is up.
+    /// Makes the module known to the host: functions, commands, reactors. Called once, when the host is up: its
+    /// services answer, and there is a QApplication.
     virtual void initApp() = 0;
     /// Takes back what initApp() did, while documents may still be open.
     virtual void uninitApp() = 0;
     /// Full file name of the loaded module.
     virtual OdString moduleName() const = 0;
 };
+
+/// The version of the interface that these headers declare, in the order of odrxGetAPIVersion(). A host takes modules
+/// that were built for exactly its own.
+inline constexpr int odrxApiVersion[4] = {26, 8, 0, 54758};
 
 /// Signatures of the two entry points that a module exports with C linkage under these names.
 extern "C" {

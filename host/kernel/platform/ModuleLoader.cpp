@@ -46,10 +46,10 @@ QString versionProblem(void *handle)
         return Kernel::tr("it is no module (odrxGetAPIVersion is missing)");
     std::array<int, 4> version{};
     ask(&version[0], &version[1], &version[2], &version[3]);
-    if (std::equal(version.begin(), version.end(), ModuleLoader::apiVersion))
+    if (std::equal(version.begin(), version.end(), odrxApiVersion))
         return {};
     return Kernel::tr("it was built for version %1 of the interface, this host has %2")
-        .arg(versionText(version), versionText(std::to_array(ModuleLoader::apiVersion)));
+        .arg(versionText(version), versionText(std::to_array(odrxApiVersion)));
 }
 
 /// The module object, null with `problem` set when there is none.

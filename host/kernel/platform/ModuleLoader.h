@@ -16,9 +16,6 @@ namespace host::kernel {
 class KV_EXPORT ModuleLoader
 {
 public:
-    /// The interface version that a module must have been built for.
-    static constexpr int apiVersion[4] = {26, 8, 0, 54758};
-
     ModuleLoader();
     /// Unloads what is still loaded, last first.
     ~ModuleLoader();
