@@ -39,10 +39,10 @@ QSet<QString> namesAskedFor()
     return names;
 }
 
-/// The list in the document: the lines of its fenced block.
+/// The list in the document: the lines of the fenced block of its section.
 QSet<QString> namesListed(const QString &document)
 {
-    const QStringList parts = document.split(u"```"_s);
+    const QStringList parts = document.section(u"## What the file leaves to its host"_s, 1).split(u"```"_s);
     const QString block = parts.value(1).section(u'\n', 1);
     const QStringList lines = block.split(u'\n', Qt::SkipEmptyParts);
     return {lines.begin(), lines.end()};
