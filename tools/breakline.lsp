@@ -40,7 +40,7 @@
 
 ;; Writes picked entities to a symbol drawing and enters it into the state. -> T, nil when nothing was picked.
 (defun breakline:create_symbol (path file / selection box centre)
-  (princ "\nSelect entities for the break symbol: ")
+  (princ (kora_text "\nSelect entities for the break symbol: " nil))
   (if (and (setq selection (ssget))
            (setq box (kora_bounding_box (kora_selection_to_list selection))))
     (progn
@@ -50,7 +50,7 @@
       (if (findfile path) (command "_.OOPS"))
       (if (findfile path)
         (kora_writestate file (list (cons "lbtitleblock" path)))
-        (kora_alert_message (strcat "The symbol could not be written to " path "."))))
+        (kora_alert_message (kora_text "The symbol could not be written to %1." (list path)))))
     (kora_alert_message "No symbol was made: nothing was selected.")))
 
 ;; Asks for the line and the points, then cuts and draws.
@@ -71,7 +71,7 @@
 (defun breakline:pick_line (/ pick line problem done)
   (while (not done)
     (setvar "ERRNO" 0)
-    (setq pick (entsel "\nSelect line to break: "))
+    (setq pick (entsel (kora_text "\nSelect line to break: " nil)))
     (cond ((null pick) (if (= (getvar "ERRNO") 7) (kora_alert_message "Nothing found there.") (setq done T)))
           ((setq problem (breakline:problem (entget (car pick)))) (kora_alert_message problem))
           (T (setq line (car pick) done T))))
@@ -85,8 +85,10 @@
 
 ;; -> two points in world coordinates, nil when the user gives up.
 (defun breakline:ask_points (/ first second)
-  (if (setq first (getPointOrtakit "\nSpecify first break point: "))
-    (setq second (getPointOrtakit first "\nSpecify second break point or [Same]: ")))
+  (if (setq first (getPointOrtakit (kora_text "\nSpecify first break point: " nil)))
+    (progn
+      (kora_initget "Same")
+      (setq second (getpoint first (kora_text "\nSpecify second break point or [Same]: " nil)))))
   (cond ((null second) nil)
         ((= (type second) 'STR) (list (trans first 1 0) (trans first 1 0)))
         (T (list (trans first 1 0) (trans second 1 0)))))
@@ -129,7 +131,7 @@
   (cond
     ((equal reference before)
      (kora_take_back)
-     (kora_refuse (strcat "The symbol could not be read from " (car choice) ".")))
+     (kora_refuse (kora_text "The symbol could not be read from %1." (list (car choice)))))
     ((or (null box) (equal (car box) (cadr box) 1e-12))
      (kora_take_back)
      (kora_refuse "The symbol drawing is empty."))

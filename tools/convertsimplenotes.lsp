@@ -30,15 +30,15 @@
      (foreach data used (entdel (kora_field data -1)))
      (convertsimplenotes:list made notes free used)
      (if (< (length used) (length free))
-       (kora_alert_message (strcat (kora_number_of (- (length free) (length used)) "text") " in another plane left alone.")))
-     (kora_done (strcat (kora_number_of (length used) "text") " made one paragraph.") (- (length notes) (length free))))
+       (kora_alert_message (kora_text "%1 in another plane left alone." (list (kora_number_of (- (length free) (length used)) "text")))))
+     (kora_done (kora_text "%1 made one paragraph." (list (kora_number_of (length used) "text"))) (- (length notes) (length free))))
     (T (kora_alert_message "The paragraph could not be made. The texts stay as they are."))))
 
 ;; What became of the notes: those of free are not on locked layers, those of used are in the paragraph.
 (defun convertsimplenotes:list (made notes free used / unlocked)
   (setq unlocked (mapcar '(lambda (data) (kora_field data -1)) free))
   (kora_results "CONVERTSIMPLENOTES"
-    (list (list "done" (strcat "made of " (kora_number_of (length used) "text")) (if made (list made)))
+    (list (list "done" (kora_text "made of %1" (list (kora_number_of (length used) "text"))) (if made (list made)))
           (list "skipped" "in another plane" (kora_left_out (mapcar '(lambda (data) (kora_field data -1)) used) unlocked))
           (list "skipped" "on a locked layer" (kora_left_out unlocked notes)))))
 

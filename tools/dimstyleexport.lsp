@@ -11,7 +11,7 @@
   (if (and (dimstyleexport:write file)
            (kora_writestate state (list (cons "filedim" file))))
     (if (kora_show 'Dlg_ExDimensionStyle (list state)) (dimstyleexport:report (kora_readstate state)))
-    (kora_alert_message (strcat "The dimension styles could not be written to " file ".")))
+    (kora_alert_message (kora_text "The dimension styles could not be written to %1." (list file))))
   (if (findfile file) (vl-file-delete file))
   (kora_end))
 
@@ -21,8 +21,9 @@
         path  (kora_state_value state "exportfile"))
   (kora_alert_message
     (if (= count "")
-      (strcat "The dimension styles could not be written to " path ".")
-      (strcat count (if (= count "1") " dimension style was" " dimension styles were") " written to " path "."))))
+      (kora_text "The dimension styles could not be written to %1." (list path))
+      (kora_text (if (= count "1") "1 dimension style was written to %2." "%1 dimension styles were written to %2.")
+                 (list count path)))))
 
 ;; Writes all dimension styles of the drawing. -> T, nil when the file cannot be written.
 (defun dimstyleexport:write (file)

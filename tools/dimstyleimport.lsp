@@ -13,7 +13,7 @@
       (dimstyleimport:import (setq state (kora_readstate file))
                              (dimstyleimport:read (kora_state_value state "txexport")
                                                   (cdr (kora_string_split (kora_state_value state "lststyles") ",")))))
-    (kora_alert_message (strcat "The file " file " could not be written.")))
+    (kora_alert_message (kora_text "The file %1 could not be written." (list file))))
   (kora_end))
 
 ;; Tells the dialog what the drawing has, by first words as the dialog knows names; the file of the last time stays.
@@ -42,7 +42,7 @@
                  (member (strcase (kora_first_word (kora_behind_blank line))) words))
           (setq sections (cons (dimstyleimport:section (kora_behind_blank line) handle) sections))))
       (close handle))
-    (kora_alert_message (strcat "The file " path " could not be read.")))
+    (kora_alert_message (kora_text "The file %1 could not be read." (list path))))
   (reverse sections))
 
 ;; Reads a section's body. -> (name variables linetypes blocks), nil in place of the variables when the file ends within
@@ -77,13 +77,13 @@
   (foreach section sections
     (if (dimstyleimport:style section texts dimensions)
       (setq count  (1+ count)
-            groups (cons (list "done" (strcat (car section) ": imported") '(nil)) groups))))
+            groups (cons (list "done" (kora_text "%1: imported" (list (car section))) '(nil)) groups))))
   (kora_results "DIMSTYLEIMPORT" (reverse groups))
-  (kora_alert_message (strcat (itoa count) (if (= count 1) " dimension style" " dimension styles") " imported.")))
+  (kora_alert_message (kora_count count "1 dimension style imported." "%1 dimension styles imported.")))
 
 ;; Says why a style is not imported, in a message and in the list of dimstyleimport:import. -> nil.
 (defun dimstyleimport:leave (name why message)
-  (setq groups (cons (list "skipped" (strcat name ": " why) '(nil)) groups))
+  (setq groups (cons (list "skipped" (strcat name ": " (kora_text why nil)) '(nil)) groups))
   (kora_alert_message message)
   nil)
 
@@ -93,12 +93,12 @@
         existing (tblobjname "DIMSTYLE" name))
   (cond
     ((null (cadr section))
-     (dimstyleimport:leave name "cut off in the file" (strcat "The style " name " is cut off in the file.")))
+     (dimstyleimport:leave name "cut off in the file" (kora_text "The style %1 is cut off in the file." (list name))))
     ((not (snvalid name))
-     (dimstyleimport:leave name "not a name of a style" (strcat name " cannot be the name of a dimension style.")))
+     (dimstyleimport:leave name "not a name of a style" (kora_text "%1 cannot be the name of a dimension style." (list name))))
     ((and existing (not dimensions))
      (if texts (dimstyleimport:overwrite_text_style (cadr section)))
-     (dimstyleimport:leave name "exists already" (strcat "The style " name " exists already and stays as it is.")))
+     (dimstyleimport:leave name "exists already" (kora_text "The style %1 exists already and stays as it is." (list name))))
     ((progn
        (setq fields (dimstyleimport:fields section texts))
        (if existing
@@ -108,7 +108,7 @@
                           (dimstyleimport:marked fields section nil)))))
      (dimstyleimport:say_left name fields)
      T)
-    (T (dimstyleimport:leave name "could not be made" (strcat "The style " name " could not be made.")))))
+    (T (dimstyleimport:leave name "could not be made" (kora_text "The style %1 could not be made." (list name))))))
 
 ;; fields with the annotative mark that the file says, or that an existing style loses.
 (defun dimstyleimport:marked (fields section existing / is_marked)
@@ -128,8 +128,7 @@
             ((setq row (assoc (car field) kora:dim_arrows)) (setq left (cons (caddr row) left)))
             ((= (car field) 340) (setq left (cons "DIMTXSTY" left))))))
   (if left
-    (kora_alert_message (strcat "The style " name " does not say what a drawing of this version has no place for: "
-                                (kora_string_join (reverse left) ", ") "."))))
+    (kora_alert_message (kora_text "The style %1 does not say what a drawing of this version has no place for: %2." (list name (kora_string_join (reverse left) ", "))))))
 
 ;; -> the groups of a dimension style's record, DIMTXT and DIMTXSTY as well; what they refer to is made.
 (defun dimstyleimport:fields (section texts / variables value fields)
@@ -195,7 +194,7 @@
   (cond ((= name "") nil)
         ((and (null (cadr row)) (< (kora_file_version) "AC1015")) (setq left (cons (caddr row) left)) nil)
         ((null (setq block (tblobjname "BLOCK" name)))
-         (kora_alert_message (strcat "The drawing has no block " name " for " (caddr row) ", the usual arrow is used."))
+         (kora_alert_message (kora_text "The drawing has no block %1 for %2, the usual arrow is used." (list name (caddr row))))
          nil)
         ((and (>= (kora_file_version) "AC1015") (setq record (kora_field (entget block) 330))) (list (cons (car row) record)))
         ((cadr row) (list (cons (cadr row) name)))))
@@ -209,7 +208,7 @@
         ((< (kora_file_version) "AC1021") (setq left (cons (caddr row) left)) nil)
         ((tblobjname "LTYPE" name) (list (cons (car row) (tblobjname "LTYPE" name))))
         ((if (snvalid name) (dimstyleimport:make_linetype (car row) name (caddr found))))
-        (T (kora_alert_message (strcat "The linetype " name " has no definition in the file.")) nil)))
+        (T (kora_alert_message (kora_text "The linetype %1 has no definition in the file." (list name))) nil)))
 
 ;; -> the linetype's group after making it, nil when the definition is none.
 (defun dimstyleimport:make_linetype (code name lines / data entity)
@@ -227,9 +226,9 @@
   (cond ((= name "") nil)
         (style (if (and overwrite definition) (dimstyleimport:change_text_style style definition))
                style)
-        ((not (snvalid name)) (kora_alert_message (strcat name " cannot be the name of a text style.")) nil)
+        ((not (snvalid name)) (kora_alert_message (kora_text "%1 cannot be the name of a text style." (list name))) nil)
         (T (if (null definition)
-             (kora_alert_message (strcat "The text style " name " is not defined in the file and gets a plain font.")))
+             (kora_alert_message (kora_text "The text style %1 is not defined in the file and gets a plain font." (list name))))
            (kora_make_textstyle name definition))))
 
 ;; Of a dimension style that stays only the text style is taken, where the drawing has it.

@@ -68,14 +68,15 @@
         (drawordercolor:to_front unsorted))
       (if unsorted (drawordercolor:arrange entities colors))))
   (kora_results "DRAWORDERCOLOR"
-    (append (mapcar '(lambda (group) (drawordercolor:result "done" "put in order, color " group)) found)
-            (mapcar '(lambda (group) (drawordercolor:result "skipped" "not in the order, color " group))
+    (append (mapcar '(lambda (group) (drawordercolor:result "done" (kora_text "put in order, color %1" (list (itoa (car group)))) group)) found)
+            (mapcar '(lambda (group) (drawordercolor:result "skipped" (kora_text "not in the order, color %1" (list (itoa (car group)))) group))
                     (vl-remove-if '(lambda (group) (member (car group) colors)) groups))))
-  (kora_alert_message (strcat (itoa (length entities)) (if (= (length entities) 1) " entity" " entities") " of "
-                              (kora_number_of (length colors) "color") " put in order.")))
+  (kora_alert_message (kora_text "%1 of %2 put in order."
+                                 (list (kora_count (length entities) "1 entity" "%1 entities")
+                                       (kora_number_of (length colors) "color")))))
 
 (defun drawordercolor:result (state words group)
-  (list state (strcat words (itoa (car group))) (cdr group)))
+  (list state words (cdr group)))
 
 (defun drawordercolor:to_front (entities)
   (command "_.DRAWORDER" (kora_selection entities) "" "_Front"))

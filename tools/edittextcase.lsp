@@ -49,8 +49,8 @@
           (list "skipped" "an attribute of several lines" (reverse kept))
           (list "skipped" "on a locked layer" (reverse locked))))
   (if kept
-    (kora_alert_message (strcat (kora_number_of (length kept) "attribute") " of several lines left alone.")))
-  (kora_done (strcat (kora_number_of (length changed) "text") " changed.") (length locked)))
+    (kora_alert_message (kora_text "%1 of several lines left alone." (list (kora_number_of (length kept) "attribute")))))
+  (kora_done (kora_text "%1 changed." (list (kora_number_of (length changed) "text"))) (length locked)))
 
 ;; An attribute is locked with the layer of its block reference as well.
 (defun edittextcase:is_locked (data / owner)

@@ -18,14 +18,14 @@
         nameless (kora_also (- (length chosen) (length inserts)) " without a handle left out"))
   (cond
     ((null (setq rows (exportblockattributes:rows inserts)))
-     (kora_alert_message (strcat "No block reference with attributes was selected" nameless ".")))
-    ((null (setq path (getfiled "Export block attributes" (exportblockattributes:preset) "txt" 1)))
+     (kora_alert_message (kora_text "No block reference with attributes was selected%1." (list nameless))))
+    ((null (setq path (getfiled (kora_text "Export block attributes" nil) (exportblockattributes:preset) "txt" 1)))
      (kora_alert_message "Nothing was written."))
     ((kora_write_lines path (append (apply 'append (mapcar '(lambda (row) (kora_string_split row "\n")) rows)) '("")))
      (kora_writestate (kora_statefile "exportblockattributes") (list (cons "file" path)))
      (kora_alert_message
-       (strcat (kora_number_of (1- (length rows)) "block reference") " written to " path nameless ".")))
-    (T (kora_alert_message (strcat "The file " path " cannot be written. It is as it was before."))))
+       (kora_text "%1 written to %2%3." (list (kora_number_of (1- (length rows)) "block reference") path nameless))))
+    (T (kora_alert_message (kora_text "The file %1 cannot be written. It is as it was before." (list path)))))
   (kora_end))
 
 ;; The file of the last time.

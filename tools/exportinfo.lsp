@@ -12,7 +12,7 @@
       (kora_show 'Dlg_ExportInfo (list (kora_statefile "exportinfo") path))
       (vl-file-delete path)
       (kora_end))
-    (kora_alert_message (strcat "What the program is cannot be listed: " path " cannot be written.")))
+    (kora_alert_message (kora_text "What the program is cannot be listed: %1 cannot be written." (list path))))
   (princ))
 
 (defun exportinfo:lines ()

@@ -59,13 +59,13 @@
 
 (defun getblockinfo:draw (counts / corner height)
   (if (and counts
-           (setq corner (getPointOrtakit "\nSpecify upper left corner of the table: "))
+           (setq corner (getPointOrtakit (kora_text "\nSpecify upper left corner of the table: " nil)))
            (setq height (getblockinfo:ask_height)))
     (progn
       (getblockinfo:draw_table corner height
                                (cons '("Name" . "Instances")
                                      (mapcar '(lambda (count) (cons (car count) (itoa (cdr count)))) counts)))
-      (kora_alert_message (strcat "A table of " (kora_number_of (length counts) "block") " was drawn.")))
+      (kora_alert_message (kora_text "A table of %1 was drawn." (list (kora_number_of (length counts) "block")))))
     (kora_alert_message "No table was drawn.")))
 
 ;; -> the height of the texts: that of the last table unless the user says another. A style's own height is not asked.
@@ -78,7 +78,7 @@
     (kora_style_height)
     (progn
       (initgetOrtakit 6)
-      (setq kept (getDistOrtakit corner (strcat "\nSpecify text height <" (kora_real_text kept) ">: ")))
+      (setq kept (getDistOrtakit corner (kora_text "\nSpecify text height <%1>: " (list (kora_real_text kept)))))
       (if kept (kora_writestate file (list (cons "textheight" (kora_real_text kept)))))
       kept)))
 

@@ -34,10 +34,12 @@
       (foreach row rows (importblockattributes:take_row row))
       (kora_results "IMPORTBLOCKATTRIBUTES" (reverse groups))
       (kora_alert_message
-        (strcat (kora_number_of changed "attribute") " of " (kora_number_of references "block reference") " changed"
-                (kora_also missing " without their block reference")
-                (kora_also refused " refused, of another drawing, with a changed handle or one that another row has")
-                (kora_also locked " on locked layers left as they were") ".")))
+        (kora_text "%1 of %2 changed%3%4%5."
+                   (list (kora_number_of changed "attribute")
+                         (kora_number_of references "block reference")
+                         (kora_also missing " without their block reference")
+                         (kora_also refused " refused, of another drawing, with a changed handle or one that another row has")
+                         (kora_also locked " on locked layers left as they were")))))
     (kora_alert_message "The file is no table of attributes: its headings are HANDLE, BLOCKNAME and tags.")))
 
 (defun importblockattributes:is_blank (cells)
@@ -68,24 +70,24 @@
   (cond
     ((not (and (= (kora_field data 0) "INSERT") (importblockattributes:is_of_block row data)))
      (setq missing (1+ missing))
-     (importblockattributes:list_row "no block reference of row "))
+     (importblockattributes:list_row "no block reference of row %1"))
     ((or (kora_tree_find twice (importblockattributes:reference row)) (not (importblockattributes:fits row handle)))
      (setq refused (1+ refused))
-     (importblockattributes:list_row "of another drawing, with a changed handle or there twice, row "))
+     (importblockattributes:list_row "of another drawing, with a changed handle or there twice, row %1"))
     (T
      (foreach column (kora_attribute_columns entity)
        (importblockattributes:take_text (cdr column) (cdr (assoc (car column) row)) (kora_is_locked data)))))
   (if (> changed before) (setq references (1+ references)))
-  (importblockattributes:list_texts "done" (- changed before) " changed")
-  (importblockattributes:list_texts "skipped" (- locked kept) " on locked layers"))
+  (importblockattributes:list_texts "done" (- changed before) "1 attribute changed" "%1 attributes changed")
+  (importblockattributes:list_texts "skipped" (- locked kept) "1 attribute on locked layers" "%1 attributes on locked layers"))
 
 ;; A row that is left out, by the handle that it has.
 (defun importblockattributes:list_row (words)
-  (setq groups (cons (list "skipped" (strcat words (cond (handle) ("without a handle"))) (list nil)) groups)))
+  (setq groups (cons (list "skipped" (kora_text words (list (cond (handle) ((kora_text "without a handle" nil))))) (list nil)) groups)))
 
-(defun importblockattributes:list_texts (state count words)
+(defun importblockattributes:list_texts (state count one several)
   (if (> count 0)
-    (setq groups (cons (list state (strcat (kora_number_of count "attribute") words) (list entity)) groups))))
+    (setq groups (cons (list state (kora_count count one several) (list entity)) groups))))
 
 ;; Without the column every block is right: the row's mark is there then.
 (defun importblockattributes:is_of_block (row data / name)

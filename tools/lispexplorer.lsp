@@ -15,7 +15,7 @@
   (setq kora:catalogue (kora_userfile "lispexplorer.catalogue"))
   (cond
     ((not (kora_write_catalogue kora:catalogue))
-     (kora_alert_message (strcat "What is loaded cannot be shown: " kora:catalogue " cannot be written."))
+     (kora_alert_message (kora_text "What is loaded cannot be shown: %1 cannot be written." (list kora:catalogue)))
      (Dlg_LispExplorer))
     (kora:on_loaded (Dlg_LispExplorer kora:catalogue "DUMP"))
     (T (Dlg_LispExplorer kora:catalogue)))

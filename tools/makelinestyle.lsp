@@ -34,14 +34,14 @@
             name  (strcase (kora_state_value state "name")))
       (if (and (snvalid name) (not (member name '("BYLAYER" "BYBLOCK" "CONTINUOUS"))))
         (list (kora_state_value state "linetypefile") name (kora_state_value state "description"))
-        (kora_refuse (strcat "A linetype cannot be named " name "."))))))
+        (kora_refuse (kora_text "A linetype cannot be named %1." (list name)))))))
 
 ;; -> the lines of the definition, nil when the user gave up or there is no pattern in what was picked.
 (defun makelinestyle:measure (choice / entities start end axis parts texts)
   (if (and (setq entities (kora_choose "Select lines, polylines, points, texts and shapes of one pattern: " nil))
            (setq entities (kora_usable entities makelinestyle:unusable))
-           (setq start (getPointOrtakit "\nSpecify start point of the pattern: "))
-           (setq end (getPointOrtakit start "\nSpecify point where the pattern repeats: ")))
+           (setq start (getPointOrtakit (kora_text "\nSpecify start point of the pattern: " nil)))
+           (setq end (getPointOrtakit start (kora_text "\nSpecify point where the pattern repeats: " nil))))
     (progn
       (setq start (trans start 1 0)
             end   (trans end 1 0)
@@ -171,8 +171,8 @@
     ((/= (kora_field data 0) "SHAPE")
      (if (vl-string-search "\"" (kora_text_content data)) "A text with quotation marks cannot be in a linetype."))
     ((null (setq file (makelinestyle:shape_file (kora_field data 2))))
-     (strcat "The shape " (kora_field data 2) " is in no shape file of the drawing."))
-    ((wcmatch file "*[],]*") (strcat "The shape file " file " cannot be in a linetype: its name has a comma or bracket."))))
+     (kora_text "The shape %1 is in no shape file of the drawing." (list (kora_field data 2))))
+    ((wcmatch file "*[],]*") (kora_text "The shape file %1 cannot be in a linetype: its name has a comma or bracket." (list file)))))
 
 ;; -> the drawing's shape file that has the shape, by the sources that are found; of a single file no source is needed.
 (defun makelinestyle:shape_file (name / style files)
@@ -279,6 +279,6 @@
   (if (tblsearch "LTYPE" (cadr choice))
     (command "_.-LINETYPE" "_Load" (cadr choice) (car choice) "_Yes" "")
     (command "_.-LINETYPE" "_Load" (cadr choice) (car choice) ""))
-  (kora_alert_message (strcat "Linetype " (cadr choice) " was written to " (car choice) ".")))
+  (kora_alert_message (kora_text "Linetype %1 was written to %2." (list (cadr choice) (car choice)))))
 
 (princ)

@@ -25,7 +25,7 @@
             resolution (if (= text "") 128.0 (distof text 2)))
       (cond
         ((not (and (snvalid name) (makeshape:is_ascii name)))
-         (kora_refuse (strcat "A shape cannot be named " name ".")))
+         (kora_refuse (kora_text "A shape cannot be named %1." (list name))))
         ((or (null resolution) (/= resolution (fix resolution)) (not (<= 1 resolution 255)))
          (kora_refuse "The resolution must be a whole number from 1 to 255."))
         (T (list (kora_state_value state "shapefile") name (fix resolution)))))))
@@ -41,7 +41,7 @@
                                                       '((lambda (data) (null (makeshape:pieces data)))
                                                         "tilted or in space"))))
            (or (<= (length entities) 2000) (kora_refuse "A shape cannot have so many parts."))
-           (setq base (getPointOrtakit "\nSpecify insertion point of the shape: ")))
+           (setq base (getPointOrtakit (kora_text "\nSpecify insertion point of the shape: " nil))))
     (progn
       (setq pieces (apply 'append (mapcar '(lambda (entity) (makeshape:pieces (entget entity))) entities))
             box    (makeshape:box pieces)
@@ -108,7 +108,7 @@
   (setq codes (append (list 3 resolution) (makeshape:drawn pieces) (list 4 resolution 0)))
   (if (<= (length codes) 2000)
     codes
-    (kora_refuse (strcat "The shape needs " (itoa (length codes)) " bytes; 2000 are the most."))))
+    (kora_refuse (kora_text "The shape needs %1 bytes; 2000 are the most." (list (itoa (length codes)))))))
 
 ;; The codes of all pieces, in an order and direction that lift the pen as seldom as can be seen at once. The pen is at
 ;; `at`, in steps, and down when `down`; straight moves wait in `moves` until the pen changes.
@@ -232,13 +232,12 @@
         number  (makeshape:number headers (cadr choice)))
   (cond
     ((makeshape:is_font headers)
-     (kora_refuse (strcat "The file " path " is a text font. Nothing was written.")))
+     (kora_refuse (kora_text "The file %1 is a text font. Nothing was written." (list path))))
     ((null number) (kora_refuse "The file has no free number left: 255 shapes are the most."))
     ((kora_save_definition path 2 (cadr choice)
                            (cons (strcat "*" number "," (itoa (length codes)) "," (cadr choice))
                                  (makeshape:code_lines codes)))
-     (kora_alert_message (strcat "Shape " (cadr choice) ", number " number ", " (itoa (length codes))
-                                 " bytes, was written to " path ".")))))
+     (kora_alert_message (kora_text "Shape %1, number %2, %3 bytes, was written to %4." (list (cadr choice) number (itoa (length codes)) path))))))
 
 ;; Fonts have a number 0 or a word in its place.
 (defun makeshape:is_font (headers)

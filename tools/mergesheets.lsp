@@ -29,10 +29,10 @@
 ;; -> the paths of drawing files that the user adds, this drawing left out, each once.
 (defun mergesheets:ask_files (/ answer paths)
   (while (progn
-           (initget "File foLder")
-           (setq answer (getkword "\nAdd the sheets of a [File/foLder] or <go on>: ")))
+           (kora_initget "File foLder")
+           (setq answer (getkword (kora_text "\nAdd the sheets of a [File/foLder] or <go on>: " nil))))
     (foreach path (if (= answer "File")
-                    (list (getfiled "Select a drawing" (getvar "DWGPREFIX") "dxf;dwg" 0))
+                    (list (getfiled (kora_text "Select a drawing" nil) (getvar "DWGPREFIX") "dxf;dwg" 0))
                     (mergesheets:folder))
       (if (and path (not (mergesheets:is_own path)) (not (member path paths)))
         (setq paths (cons path paths)))))
@@ -40,10 +40,10 @@
 
 ;; -> the paths of the drawing files in a folder.
 (defun mergesheets:folder (/ folder files)
-  (setq folder (getstring T (strcat "\nFolder of drawings <" (getvar "DWGPREFIX") ">: "))
+  (setq folder (getstring T (kora_text "\nFolder of drawings <%1>: " (list (getvar "DWGPREFIX"))))
         folder (vl-string-right-trim "/" (vl-string-translate "\\" "/" (if (= folder "") (getvar "DWGPREFIX") folder)))
         files  (vl-remove-if-not '(lambda (name) (wcmatch (strcase name) "*.DXF,*.DWG")) (vl-directory-files folder nil 1)))
-  (if (null files) (kora_refuse (strcat "There are no drawings in " folder ".")))
+  (if (null files) (kora_refuse (kora_text "There are no drawings in %1." (list folder))))
   (mapcar '(lambda (name) (strcat folder "/" name)) (vl-sort files '<)))
 
 (defun mergesheets:is_own (path)
@@ -80,25 +80,24 @@
   (cond
     ((not (wcmatch (strcase (car entry)) "*.DXF,*.DWG")) (list (list nil (car entry) (cdr entry))))
     ((= (type (setq sheets (drawing-sheets (car entry)))) 'STR)
-     (mergesheets:leave (car entry) (strcat "is left out: " sheets)))
+     (mergesheets:leave (kora_text "%1 is left out: %2" (list (car entry) sheets))))
     ((null (setq used (mergesheets:used sheets)))
-     (mergesheets:leave (car entry) "is left out: nothing is drawn on its sheets."))
+     (mergesheets:leave (kora_text "%1 is left out: nothing is drawn on its sheets." (list (car entry)))))
     ((cdr used)
      (mapcar '(lambda (sheet) (list (car entry) sheet (strcat (cdr entry) " " sheet))) used))
     (T (list (list (car entry) (car used) (cdr entry))))))
 
 ;; Says why a file gives no sheet, and keeps it for the list in groups of c:mergesheets. -> nil.
-(defun mergesheets:leave (path why)
-  (setq groups (cons (list "skipped" (strcat path " " why) '(nil)) groups))
-  (kora_refuse (strcat path " " why)))
+(defun mergesheets:leave (why)
+  (setq groups (cons (list "skipped" why '(nil)) groups))
+  (kora_refuse why))
 
 ;; -> the name, with a number behind where another sheet has it and the user does not give one.
 (defun mergesheets:free_name (name taken state / number free typed)
   (setq free name)
   (if (and (member (strcase name) taken) (not (kora_state_is state "numberequal")))
     (progn
-      (setq typed (getstring T (strcat "\nThere is a sheet " name " already. New name <" (mergesheets:numbered name taken)
-                                       ">: ")))
+      (setq typed (getstring T (kora_text "\nThere is a sheet %1 already. New name <%2>: " (list name (mergesheets:numbered name taken)))))
       (if (and (/= typed "") (snvalid typed)) (setq free typed))))
   (mergesheets:numbered free taken))
 
@@ -121,16 +120,16 @@
        (if (not (member (car sheet) files)) (setq files (cons (car sheet) files))))
      (kora_results "MERGESHEETS" (append (mapcar 'mergesheets:merged sheets) (reverse groups)))
      (kora_alert_message
-       (strcat (kora_number_of (length sheets) "sheet") " of " (kora_number_of (length files) "drawing") " merged"
-               (if target (strcat " into " target) "")
-               (kora_also outcome (if (= outcome 1) " entity left out" " entities left out")) ".")))))
+       (kora_text (if target "%1 of %2 merged into %3%4." "%1 of %2 merged%4.")
+                  (list (kora_number_of (length sheets) "sheet") (kora_number_of (length files) "drawing") (cond (target) (""))
+                        (kora_also outcome (if (= outcome 1) " entity left out" " entities left out"))))))))
 
 ;; -> the group of kora_results for a sheet, as merge-sheets wants it.
 (defun mergesheets:merged (sheet)
   (list "done" (strcat (if (car sheet) (strcat (car sheet) " ") "") (cadr sheet) " -> " (caddr sheet)) '(nil)))
 
 (defun mergesheets:failed (reason)
-  (kora_refuse (strcat "Nothing was merged: " reason)))
+  (kora_refuse (kora_text "Nothing was merged: %1" (list reason))))
 
 ;; Names what the drawings understand differently. -> "Prefix", "Keep" or "Cancel".
 (defun mergesheets:ask_clashes (clashes / count)
@@ -139,15 +138,18 @@
     (setq count (1+ count))
     (if (<= count 10)
       (kora_alert_message
-        (strcat (cond ((car clash)) ("This drawing")) " has another " (mergesheets:noun (cadr clash)) " " (caddr clash) "."))))
-  (if (> count 10) (kora_alert_message (strcat "... and " (itoa (- count 10)) " more.")))
-  (initget "Prefix Keep Cancel")
-  (cond ((getkword "\nGive these the name of their file as a prefix, or keep those of the target? [Prefix/Keep/Cancel] <Prefix>: "))
+        (kora_text "%1 has another %2 %3."
+                   (list (cond ((car clash)) ((kora_text "This drawing" nil))) (mergesheets:noun (cadr clash)) (caddr clash))))))
+  (if (> count 10) (kora_alert_message (kora_text "... and %1 more." (list (itoa (- count 10))))))
+  (kora_initget "Prefix Keep Cancel")
+  (cond ((getkword (kora_text "\nGive these the name of their file as a prefix, or keep those of the target? [Prefix/Keep/Cancel] <Prefix>: " nil)))
         ("Prefix")))
 
 (defun mergesheets:noun (table)
-  (cond ((cdr (assoc table '(("LTYPE" . "linetype") ("STYLE" . "text style") ("DIMSTYLE" . "dimension style")
-                             ("BLOCK_RECORD" . "block")))))
+  (cond ((= table "LTYPE") (kora_text "linetype" nil))
+        ((= table "STYLE") (kora_text "text style" nil))
+        ((= table "DIMSTYLE") (kora_text "dimension style" nil))
+        ((= table "BLOCK_RECORD") (kora_text "block" nil))
         ((strcase table T))))
 
 (princ)

@@ -79,13 +79,13 @@
         place (list (kora_state_real state "titlex") (kora_state_real state "titley") 0.0))
   (cond
     ((member nil place) (kora_refuse "The origin of the title block must be two numbers."))
-    ((null (vl-file-size path)) (kora_refuse (strcat "The file " path " was not found.")))
-    ((not (snvalid name)) (kora_refuse (strcat name " cannot be the name of a block.")))
+    ((null (vl-file-size path)) (kora_refuse (kora_text "The file %1 was not found." (list path))))
+    ((not (snvalid name)) (kora_refuse (kora_text "%1 cannot be the name of a block." (list name))))
     ((not (multiviewsetup:is_layer state))
-     (kora_refuse (strcat "\"" (kora_state_value state "layer") "\" cannot be the name of a layer.")))
+     (kora_refuse (kora_text "\"%1\" cannot be the name of a layer." (list (kora_state_value state "layer")))))
     ((not (multiviewsetup:is_free name (kora_state_is state "xref"))) nil)
     (T
-     (setq doomed   (multiviewsetup:doomed (multiviewsetup:choice state "removetitles") "entities" nil)
+     (setq doomed   (multiviewsetup:doomed (multiviewsetup:choice state "removetitles") "Select entities to remove: " nil)
            redefine (multiviewsetup:ask_redefinition name state))
      (multiviewsetup:put_title state path name place doomed redefine))))
 
@@ -97,17 +97,17 @@
 (defun multiviewsetup:is_free (name reference / block)
   (setq block (tblsearch "BLOCK" name))
   (if (and block (/= reference (/= 0 (logand 4 (cond ((kora_field block 70)) (0))))))
-    (kora_refuse (strcat "The drawing has " (if reference "a block" "an external reference") " of the name " name
-                         " already."))
+    (kora_refuse (kora_text (if reference "The drawing has a block of the name %1 already."
+                              "The drawing has an external reference of the name %1 already.")
+                            (list name)))
     T))
 
 ;; -> T when the file is to be read.
 (defun multiviewsetup:ask_redefinition (name state)
   (cond ((kora_state_is state "xref") nil)
         ((null (tblsearch "BLOCK" name)) T)
-        (T (initget "Yes No")
-           (= "Yes" (getkword (strcat "\nThe drawing has a block " name
-                                      " already. Redefine it from the file? [Yes/No] <No>: "))))))
+        (T (kora_initget "Yes No")
+           (= "Yes" (getkword (kora_text "\nThe drawing has a block %1 already. Redefine it from the file? [Yes/No] <No>: " (list name)))))))
 
 ;; Inserts, and only then takes out what the title block takes the place of.
 (defun multiviewsetup:put_title (state path name place doomed redefine / before title scale count)
@@ -126,16 +126,16 @@
   (setq title (entlast))
   (cond
     ((or (equal title before) (/= (kora_field (entget title) 0) "INSERT"))
-     (kora_refuse (strcat "The title block " name " was not inserted"
-                          (if redefine ", but its block is in the drawing." "."))))
+     (kora_refuse (kora_text (if redefine "The title block %1 was not inserted, but its block is in the drawing."
+                               "The title block %1 was not inserted.")
+                             (list name))))
     (T
      (if (kora_state_is state "xref") (multiviewsetup:rescale title scale))
      (if (kora_state_is state "oplay")
        (multiviewsetup:to_layer title (kora_string_trim (kora_state_value state "layer"))))
      (if (kora_state_is state "limits") (multiviewsetup:set_limits name place (cond (scale) (1.0))))
      (setq count (multiviewsetup:erase doomed))
-     (kora_done (strcat "Title block " name " inserted"
-                        (kora_also (car count) (if (= (car count) 1) " entity removed" " entities removed")) ".")
+     (kora_done (kora_text "Title block %1 inserted%2." (list name (kora_also (car count) (if (= (car count) 1) " entity removed" " entities removed"))))
                 (cdr count))
      T)))
 
@@ -198,10 +198,10 @@
 
 ;; -> the entities that fit filter and are to go: none (0), all of the layout (1), but viewports only where the filter asks
 ;; for these, or those that the user chooses now (2). The sheet itself never goes.
-(defun multiviewsetup:doomed (choice noun filter)
+(defun multiviewsetup:doomed (choice asking filter)
   (cond ((= choice 1) (kora_layout_entities (cond (filter) ('((0 . "~VIEWPORT"))))))
         ((= choice 2) (vl-remove-if '(lambda (entity) (kora_is_sheet (entget entity)))
-                                    (kora_choose (strcat "Select " noun " to remove: ") filter)))))
+                                    (kora_choose asking filter)))))
 
 ;; -> (how many were erased . how many are on locked layers).
 (defun multiviewsetup:erase (entities / free)
@@ -215,15 +215,14 @@
   (cond
     ((= (kora_file_version) "AC1009") (kora_refuse "A drawing of this version cannot have such viewports."))
     ((null (setq grid (multiviewsetup:grid state))) nil)
-    ((progn (setq doomed (multiviewsetup:doomed (multiviewsetup:choice state "removeviewports") "viewports"
+    ((progn (setq doomed (multiviewsetup:doomed (multiviewsetup:choice state "removeviewports") "Select viewports to remove: "
                                                 '((0 . "VIEWPORT"))))
             (null (setq area (multiviewsetup:ask_area)))) nil)
     ((null (setq frames (multiviewsetup:frames grid area)))
      (kora_refuse "The area is too small for these viewports and offsets."))
     (T
      (setq count (multiviewsetup:erase doomed))
-     (kora_done (strcat (kora_number_of (kora_make_viewports frames) "viewport") " created"
-                        (kora_also (car count) " deleted") ".")
+     (kora_done (kora_text "%1 created%2." (list (kora_number_of (kora_make_viewports frames) "viewport") (kora_also (car count) " deleted")))
                 (cdr count))
      T)))
 
@@ -237,8 +236,7 @@
      (kora_refuse "Rows, columns and offsets must be numbers that are not negative."))
     ((not (and (multiviewsetup:is_count (car grid)) (multiviewsetup:is_count (cadr grid))
                (<= (* (car grid) (cadr grid)) (multiviewsetup:most))))
-     (kora_refuse (strcat "Rows and columns must be whole numbers and make no more than " (itoa (multiviewsetup:most))
-                          " viewports.")))
+     (kora_refuse (kora_text "Rows and columns must be whole numbers and make no more than %1 viewports." (list (itoa (multiviewsetup:most))))))
     (T (list (fix (car grid)) (fix (cadr grid)) (caddr grid) (cadddr grid)))))
 
 (defun multiviewsetup:is_count (number)
@@ -246,8 +244,8 @@
 
 ;; -> (lower upper), corners in world coordinates; nil when the user gives up.
 (defun multiviewsetup:ask_area (/ first second)
-  (if (and (setq first (getPointOrtakit "\nSpecify first corner of the area for viewports: "))
-           (setq second (getCornerOrtakit first "\nSpecify opposite corner: ")))
+  (if (and (setq first (getPointOrtakit (kora_text "\nSpecify first corner of the area for viewports: " nil)))
+           (setq second (getCornerOrtakit first (kora_text "\nSpecify opposite corner: " nil))))
     (progn
       (setq first  (trans first 1 0)
             second (trans second 1 0))
@@ -273,7 +271,7 @@
   (if (setq base (multiviewsetup:pick "\nSpecify base point in the base viewport: " nil nil))
     (progn
       (while (multiviewsetup:align_next base (kora_state_is state "alignver")) (setq count (1+ count)))
-      (kora_alert_message (strcat (kora_number_of count "viewport") " aligned."))))
+      (kora_alert_message (kora_text "%1 aligned." (list (kora_number_of count "viewport"))))))
   (> count 0))
 
 ;; -> T when one more viewport was aligned, nil when the user is done.
@@ -317,9 +315,7 @@
         (list (list "done" "scaled" fit)
               (list "skipped" "its display or border is fixed" (kora_left_out fit free))
               (list "skipped" "on a locked layer" (kora_left_out free viewports))))
-      (kora_done (strcat (kora_number_of (length fit) "viewport") " scaled to " (kora_number_text paper 8) ":"
-                         (kora_number_text model 8)
-                         (kora_also (- (length free) (length fit)) " with a fixed display or border left alone") ".")
+      (kora_done (kora_text "%1 scaled to %2:%3%4." (list (kora_number_of (length fit) "viewport") (kora_number_text paper 8) (kora_number_text model 8) (kora_also (- (length free) (length fit)) " with a fixed display or border left alone")))
                  (- (length viewports) (length free)))
       (if fit T))))
 
@@ -332,7 +328,7 @@
 (defun multiviewsetup:ask_units (asking preset)
   (if (<= preset 0.0) (setq preset 1.0))
   (initgetOrtakit 6)
-  (getRealOrtakit (strcat asking " <" (kora_number_text preset 12) ">: ")))
+  (getRealOrtakit (strcat (kora_text asking nil) " <" (kora_number_text preset 12) ">: ")))
 
 ;; The middle of the viewport stays where it is, and so does what is seen there.
 (defun multiviewsetup:set_scale (data scale border / height)
@@ -352,10 +348,10 @@
     ((or (member nil size) (<= (apply 'min size) 0.0))
      (kora_refuse "Width and height must be lengths greater than zero."))
     (T
-     (setq corner (cond ((getpoint "\nSpecify lower left corner of the title block <0,0>: ")) ('(0.0 0.0 0.0)))
+     (setq corner (cond ((getpoint (kora_text "\nSpecify lower left corner of the title block <0,0>: " nil))) ('(0.0 0.0 0.0)))
            size   (mapcar '(lambda (extent) (* factor extent)) size))
      (if (multiviewsetup:draw_frame corner size)
-       (progn (kora_alert_message (strcat "Title block of " (rtos (car size)) " by " (rtos (cadr size)) " created.")) T)
+       (progn (kora_alert_message (kora_text "Title block of %1 by %2 created." (list (rtos (car size)) (rtos (cadr size))))) T)
        (kora_refuse "The title block could not be created.")))))
 
 ;; -> the length that a text says, in decimal or in feet and inches; nil for none.

@@ -62,10 +62,10 @@
 (defun numbertext:points (state / first second)
   (cond
     ((kora_state_is state "sort_point")
-     (if (setq first (getPointOrtakit "\nSpecify point to number from: ")) (list first)))
+     (if (setq first (getPointOrtakit (kora_text "\nSpecify point to number from: " nil))) (list first)))
     ((kora_state_is state "sort_2points")
-     (if (and (setq first (getPointOrtakit "\nSpecify first point: "))
-              (setq second (getPointOrtakit first "\nSpecify second point: ")))
+     (if (and (setq first (getPointOrtakit (kora_text "\nSpecify first point: " nil)))
+              (setq second (getPointOrtakit first (kora_text "\nSpecify second point: " nil))))
        (if (equal first second 1e-9)
          (kora_refuse "The points are the same.")
          (list first second))))
@@ -131,7 +131,7 @@
             groups (cons (list "done" label (list text)) groups))
       (setq groups (cons (list "skipped" "could not be changed" (list text)) groups))))
   (kora_results "NUMBERTEXT" (append (reverse groups) left))
-  (kora_alert_message (strcat (kora_number_of count "text") " numbered.")))
+  (kora_alert_message (kora_text "%1 numbered." (list (kora_number_of count "text")))))
 
 ;; How many digits a typed number has behind its point.
 (defun numbertext:places (typed / point)

@@ -1,5 +1,6 @@
 ;;; The support library of the drafting tools. It is loaded before the tools.
 ;;;
+;;; support/language.lsp texts in the user's language
 ;;; support/run.lsp       a tool's run: undo step, system variables, errors
 ;;; support/state.lsp     state files and the action words of dialogs
 ;;; support/strings.lsp   splitting and trimming
@@ -33,7 +34,7 @@
 ;; By the path of the installation, whatever lies in the working folder or beside the drawing.
 (setq kora:support_folder (strcat (vl-filename-directory (findfile "ortakit.lsp")) "/support/"))
 
-(foreach file '("strings" "run" "state" "entities" "selection" "texts" "textboxes" "catalogue" "files" "dimstyles" "arrows"
+(foreach file '("language" "strings" "run" "state" "entities" "selection" "texts" "textboxes" "catalogue" "files" "dimstyles" "arrows"
                 "blocks" "attributes" "tables" "replacing" "drawing" "variables" "viewports" "outlines" "areas" "regions"
                 "strokes" "hatches" "pictures" "rooms" "patterns" "copies" "groups" "companions")
   (load (strcat kora:support_folder file ".lsp")))

@@ -88,8 +88,7 @@
 (defun patternhatch:closed_ones (entities / closed)
   (setq closed (vl-remove-if-not '(lambda (entity) (kora_outlines (entget entity) 1.0)) entities))
   (if (< (length closed) (length entities))
-    (kora_alert_message (strcat (itoa (- (length entities) (length closed)))
-                                " of those chosen cannot be a boundary: open or tilted.")))
+    (kora_alert_message (kora_text "%1 of those chosen cannot be a boundary: open or tilted." (list (itoa (- (length entities) (length closed)))))))
   closed)
 
 (defun patternhatch:pick_points (tolerance / walls point room)
@@ -116,7 +115,7 @@
 
 (defun patternhatch:pick_hatch (/ pick)
   (cond
-    ((null (setq pick (kora_asked 'entsel '("\nSelect a hatch: ")))) (kora_alert_message "Nothing was chosen."))
+    ((null (setq pick (kora_asked 'entsel (list (kora_text "\nSelect a hatch: " nil))))) (kora_alert_message "Nothing was chosen."))
     ((/= (kora_field (entget (car pick)) 0) "HATCH") (kora_alert_message "That is not a hatch."))
     (T (patternhatch:add (patternhatch:closed_ones (list (car pick)))))))
 
@@ -131,12 +130,12 @@
   (setq shown nil))
 
 (defun patternhatch:wait ()
-  (kora_asked 'getstring '("\nPress Enter to return to the dialog: ")))
+  (kora_asked 'getstring (list (kora_text "\nPress Enter to return to the dialog: " nil))))
 
 ;;; Origin, angle and pattern from the drawing
 
 (defun patternhatch:get_origin (/ point)
-  (if (setq point (kora_asked 'getPointOrtakit '("\nSpecify pattern origin: ")))
+  (if (setq point (kora_asked 'getPointOrtakit (list (kora_text "\nSpecify pattern origin: " nil))))
     (patternhatch:write_origin point)))
 
 (defun patternhatch:write_origin (point)
@@ -159,14 +158,14 @@
 
 (defun patternhatch:get_rotation (state / base turn)
   (setq base (kora:place_in state '("positionx" "positiony")))
-  (if (setq turn (kora_asked 'getAngleOrtakit (list base "\nSpecify rotation angle: ")))
+  (if (setq turn (kora_asked 'getAngleOrtakit (list base (kora_text "\nSpecify rotation angle: " nil))))
     (patternhatch:write_rotation turn)))
 
 (defun patternhatch:write_rotation (turn)
   (patternhatch:write "rotation" (/ (* 180.0 turn) pi)))
 
 (defun patternhatch:get_entity (state / pick data)
-  (setq pick (kora_asked 'entsel '("\nSelect a block or external reference that shows the pattern: "))
+  (setq pick (kora_asked 'entsel (list (kora_text "\nSelect a block or external reference that shows the pattern: " nil)))
         data (if pick (entget (car pick))))
   (cond
     ((null pick) (kora_alert_message "Nothing was chosen."))
@@ -192,7 +191,7 @@
               (if (kora_state_is state "scalefactor") scale (mapcar '* scale (kora_frame_size frame))))
       (patternhatch:write_origin (trans (kora:turned (kora_field data 10) turn (mapcar '* scale (car frame))) 0 1))
       (patternhatch:write_rotation (- turn (kora_user_axis))))
-    (kora_alert_message (strcat "The pattern " name " shows nothing, or its file cannot be read."))))
+    (kora_alert_message (kora_text "The pattern %1 shows nothing, or its file cannot be read." (list name)))))
 
 ;; The path of an external reference, nil for another block.
 (defun patternhatch:reference_path (name / block)
@@ -228,10 +227,12 @@
   (setq trimmed (caddr copies)
         left    (cadddr copies))
   (kora_alert_message
-    (strcat (itoa (cadr copies)) (if (= (cadr copies) 1) " copy " " copies ") verb
+    (strcat (if (= verb "shown")
+              (kora_count (cadr copies) "1 copy shown" "%1 copies shown")
+              (kora_count (cadr copies) "1 copy drawn" "%1 copies drawn"))
             (kora_also trimmed " of them cut at the boundary") "."
             (if (> left 0)
-              (strcat " " (itoa left) (if (= left 1) " was" " were") " left out: they cannot be cut.")
+              (strcat " " (kora_count left "1 was left out: they cannot be cut." "%1 were left out: they cannot be cut."))
               ""))))
 
 (defun patternhatch:preview (state / copies)

@@ -81,9 +81,7 @@
           files (cdr (kora_tree_find tree (strcat (car entry) "^" (cadr entry)))))
     (if files (redefinepaths:change files (kora_string_join (cddr entry) "^"))))
   (kora_results "REDEFINEPATHS" (reverse groups))
-  (kora_alert_message (strcat (kora_number_of changed "path") " changed"
-                              (kora_also locked " on locked layers left as they were")
-                              (kora_also failed " could not be changed") ".")))
+  (kora_alert_message (kora_text "%1 changed%2%3." (list (kora_number_of changed "path") (kora_also locked " on locked layers left as they were") (kora_also failed " could not be changed")))))
 
 ;; The files by type and name.
 (defun redefinepaths:tree (files / sorted)
@@ -103,12 +101,12 @@
          (redefinepaths:list "done" (strcat (caddr file) " -> " (kora_field (entget (cadddr file)) (last file)))))
         (T
          (setq failed (1+ failed))
-         (redefinepaths:list "skipped" (strcat "could not be changed to " path)))))
+         (redefinepaths:list "skipped" (kora_text "could not be changed to %1" (list path))))))
 
 ;; Says what became of the path of file. Only remote texts are something to be seen.
 (defun redefinepaths:list (state words)
   (setq groups (cons (list state
-                           (strcat (car file) " " (cadr file) ": " words)
+                           (strcat (car file) " " (cadr file) ": " (kora_text words nil))
                            (list (if (= (car file) "RemoteText") (cadddr file))))
                      groups)))
 

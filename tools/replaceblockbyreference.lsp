@@ -30,7 +30,7 @@
     ((and block (= (strcase (vl-string-translate "\\" "/" (cond ((kora_field block 1)) (""))))
                    (strcase path)))
      name)
-    (block (kora_refuse (strcat "The drawing has another block of the name " name ". Rename one of the two first.")))
+    (block (kora_refuse (kora_text "The drawing has another block of the name %1. Rename one of the two first." (list name))))
     (T
      (command "_.-XREF" "_Attach" path)
      ;; What is no drawing ends the command here.
@@ -39,6 +39,6 @@
        (progn
          (if (not (equal mark (entlast))) (entdel (entlast)))
          name)
-       (kora_refuse (strcat "The file " path " could not be attached."))))))
+       (kora_refuse (kora_text "The file %1 could not be attached." (list path)))))))
 
 (princ)

@@ -22,12 +22,12 @@
       (setq state (kora_readstate file))
       (if (= (kora_action state) "OK")
         (list (kora_state_value state "name") (kora_state_value state "source"))))
-    (kora_refuse (strcat "The file " file " could not be written."))))
+    (kora_refuse (kora_text "The file %1 could not be written." (list file)))))
 
 ;; Inserts until the user has no more points, or the block cannot be had.
 (defun selectblock:insert_many (name source / point ready)
   (setq ready (= source "active"))
-  (while (and (setq point (getPointOrtakit (strcat "\nSpecify insertion point of " name ": ")))
+  (while (and (setq point (getPointOrtakit (kora_text "\nSpecify insertion point of %1: " (list name))))
               (or ready (setq ready (selectblock:import name source))))
     (selectblock:insert name point (selectblock:ask_scale) (selectblock:ask_rotation point))))
 
@@ -43,14 +43,13 @@
 (defun selectblock:ask_scale ()
   (initgetOrtakit 2)
   (setq selectblock:scale
-         (getRealOrtakit (strcat "\nSpecify scale factor <" (kora_number_text (cond (selectblock:scale) (1.0)) 12) ">: "))))
+         (getRealOrtakit (kora_text "\nSpecify scale factor <%1>: " (list (kora_number_text (cond (selectblock:scale) (1.0)) 12))))))
 
 ;; Radians.
 (defun selectblock:ask_rotation (point)
   (initgetOrtakit 0)
   (setq selectblock:rotation
-         (getAngleOrtakit point (strcat "\nSpecify rotation angle <"
-                                        (kora_number_text (cond (selectblock:rotation) (0.0)) 12) ">: "))))
+         (getAngleOrtakit point (kora_text "\nSpecify rotation angle <%1>: " (list (kora_number_text (cond (selectblock:rotation) (0.0)) 12))))))
 
 (defun selectblock:insert (name point scale rotation)
   (if (snvalid name)
@@ -65,6 +64,6 @@
   (if (not (entmake (list '(0 . "INSERT") (cons 2 name) (cons 10 (trans point 1 0))
                           (cons 41 scale) (cons 42 scale) (cons 43 scale)
                           (cons 50 (+ rotation (angle '(0.0 0.0 0.0) (trans '(1.0 0.0 0.0) 1 0 T)))))))
-    (kora_alert_message (strcat "The block " name " could not be inserted."))))
+    (kora_alert_message (kora_text "The block %1 could not be inserted." (list name)))))
 
 (princ)

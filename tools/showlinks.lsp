@@ -16,9 +16,9 @@
         links (kora_userfile "showlinks.links"))
   (cond
     ((not (showlinks:write links (cond (chosen) ((ssget "_X" '((-3 ("PE_URL"))))))))
-     (kora_alert_message (strcat "The links cannot be listed: " links " cannot be written.")))
+     (kora_alert_message (kora_text "The links cannot be listed: %1 cannot be written." (list links))))
     ((null (kora_writestate state (list (cons "linkfile" links) '("!action!" . "START"))))
-     (kora_alert_message (strcat "The file " state " could not be written.")))
+     (kora_alert_message (kora_text "The file %1 could not be written." (list state))))
     ((showlinks:ask state links) (showlinks:apply links)))
   (vl-file-delete links)
   (kora_end))
@@ -124,8 +124,7 @@
     (list (list "done" "link changed" (reverse changed))
           (list "done" "link removed" (reverse removed))
           (list "skipped" "on a locked layer" (reverse locked))))
-  (kora_alert_message (strcat (kora_number_of (length changed) "link") " changed, " (itoa (length removed)) " removed"
-                              (kora_also (length locked) " on locked layers left as they were") ".")))
+  (kora_alert_message (kora_text "%1 changed, %2 removed%3." (list (kora_number_of (length changed) "link") (itoa (length removed)) (kora_also (length locked) " on locked layers left as they were")))))
 
 ;; What stands between the handle and the last two fields.
 (defun showlinks:written (fields)

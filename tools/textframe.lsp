@@ -39,9 +39,9 @@
   (setq count (sslength (kora_selection (mapcar 'cadr old))))
   (if old
     (progn
-      (initget "Yes No")
-      (if (/= "No" (getkword (strcat "\n" (kora_number_of count "text") (if (= count 1) " has a frame" " have frames")
-                                     " already. Replace? [Yes/No] <Yes>: ")))
+      (kora_initget "Yes No")
+      (if (/= "No" (getkword (kora_count count "\n1 text has a frame already. Replace? [Yes/No] <Yes>: "
+                                              "\n%1 texts have frames already. Replace? [Yes/No] <Yes>: ")))
         old))))
 
 ;; -> list of (text data box outline) of the texts that show something.

@@ -144,10 +144,10 @@
   (cond
     ((or (tblobjname "BLOCK" name) (not (snvalid name))))
     ((not (kora:make_block name (kora:point_of (cond ((cadr header)) (""))) entities))
-     (kora_alert_message (strcat "The block " name " could not be made.")))
+     (kora_alert_message (kora_text "The block %1 could not be made." (list name))))
     ((> left 0)
-     (kora_alert_message (strcat "The block " name " lacks " (itoa left)
-                                 (if (= left 1) " entity" " entities") " that the file or this drawing cannot have.")))))
+     (kora_alert_message (kora_text "The block %1 lacks %2 that the file or this drawing cannot have."
+                                    (list name (kora_count left "1 entity" "%1 entities")))))))
 
 ;; -> entmake's list, nil for a line that is none and for a kind that the drawing cannot have. Linetypes and text styles
 ;; that the drawing lacks are left out.

@@ -126,11 +126,11 @@
 (defun kora_save_definition (path field name definition / lines)
   (setq lines (if (vl-file-size path) (kora_file_lines path) '("")))
   (cond
-    ((null lines) (kora_refuse (strcat "The file " path " cannot be read.")))
+    ((null lines) (kora_refuse (kora_text "The file %1 cannot be read." (list path))))
     ((not (kora_has_definitions lines))
-     (kora_refuse (strcat "The file " path " does not look like a file of definitions. Nothing was written.")))
+     (kora_refuse (kora_text "The file %1 does not look like a file of definitions. Nothing was written." (list path))))
     ((kora_write_lines path (kora_put_definition lines field name definition)) T)
-    (T (kora_refuse (strcat "The file " path " cannot be written. It is as it was before.")))))
+    (T (kora_refuse (kora_text "The file %1 cannot be written. It is as it was before." (list path))))))
 
 ;; (kora_read_lines path) -> the lines of a text file of the tools, nil for a missing or empty one.
 (defun kora_read_lines (path / handle line lines)

@@ -81,14 +81,14 @@
         frame (if name (kora_block_frame name)))
   (cond
     ((null name) nil)
-    ((null frame) (kora_refuse (strcat "The block " name " shows nothing.")))
+    ((null frame) (kora_refuse (kora_text "The block %1 shows nothing." (list name))))
     (T (list 'BLOCK frame name))))
 
 ;; -> the name of the block that the drawing file is; one that the drawing has already is taken as it is. nil after a
 ;; message when the file cannot be read.
 (defun kora:block_of_file (path name / before)
   (if (tblsearch "BLOCK" name)
-    (kora_alert_message (strcat "The drawing's own block " name " is used."))
+    (kora_alert_message (kora_text "The drawing's own block %1 is used." (list name)))
     (progn
       (setq before (entlast))
       (command "_.-INSERT" (strcat name "=" path))
@@ -96,7 +96,7 @@
       (if (> (getvar "CMDACTIVE") 0) (command '(0.0 0.0 0.0) 1.0 1.0 0.0))
       (while (> (getvar "CMDACTIVE") 0) (command ""))
       (if (not (equal (entlast) before)) (entdel (entlast)))))
-  (if (tblsearch "BLOCK" name) name (kora_refuse (strcat "The drawing " path " cannot be read."))))
+  (if (tblsearch "BLOCK" name) name (kora_refuse (kora_text "The drawing %1 cannot be read." (list path)))))
 
 (defun kora:xref_pattern (path frame / before name)
   (setq before (entlast))
@@ -109,8 +109,8 @@
           (setq name (kora_field (entget (entlast)) 2))
           (entdel (entlast))))))
   (cond
-    ((null frame) (kora_refuse (strcat "The drawing " path " cannot be read, or shows nothing.")))
-    ((null name) (kora_refuse (strcat "The drawing " path " cannot be attached.")))
+    ((null frame) (kora_refuse (kora_text "The drawing %1 cannot be read, or shows nothing." (list path))))
+    ((null name) (kora_refuse (kora_text "The drawing %1 cannot be attached." (list path))))
     (T (list 'XREF frame name))))
 
 ;; (kora_file_frame path) -> the frame of what a drawing file shows, nil when it cannot be read. For that it is a block
@@ -133,15 +133,15 @@
   (cond
     ((member name '("" "SOLID")) (list 'MASK '((0.0 0.0) (1.0 1.0)) nil))
     ((setq lines (kora_hatch_pattern name)) (list 'MASK '((0.0 0.0) (1.0 1.0)) (cons name lines)))
-    (T (kora_refuse (strcat "The hatch pattern " name " is in no file of patterns.")))))
+    (T (kora_refuse (kora_text "The hatch pattern %1 is in no file of patterns." (list name))))))
 
 ;; An image is 1 wide by itself.
 (defun kora:image_pattern (path / size definition)
   (cond
     ((null (setq size (kora_picture_size path)))
-     (kora_refuse (strcat "The image " path " cannot be read, or is of a kind whose size is not known.")))
+     (kora_refuse (kora_text "The image %1 cannot be read, or is of a kind whose size is not known." (list path))))
     ((null (setq definition (kora_image_definition path size)))
-     (kora_refuse (strcat "The image " path " cannot be attached.")))
+     (kora_refuse (kora_text "The image %1 cannot be attached." (list path))))
     (T (list 'IMAGE (list '(0.0 0.0) (list 1.0 (/ (float (cadr size)) (car size)))) (cons definition size)))))
 
 ;;; Sizes
@@ -166,8 +166,7 @@
   (cond
     ((<= count 10000.0) T)
     ((> count 1000000.0)
-     (kora_refuse (strcat "That would be about " (rtos count 2 0) " copies: make them larger.")))
-    (T (initget "Yes No")
+     (kora_refuse (kora_text "That would be about %1 copies: make them larger." (list (rtos count 2 0)))))
+    (T (kora_initget "Yes No")
        (= "Yes" (kora_asked 'getkword
-                            (list (strcat "\nUp to " (rtos count 2 0)
-                                          " copies may be drawn. Go on? [Yes/No] <No>: ")))))))
+                            (list (kora_text "\nUp to %1 copies may be drawn. Go on? [Yes/No] <No>: " (list (rtos count 2 0)))))))))

@@ -106,9 +106,9 @@
             references))
   (if (= (kora_state_value state "purgeitems") "TRUE") (setq purged (kora_purge_blocks)))
   (kora_alert_message
-    (strcat (kora_number_of (car counts) "reference") " replaced"
-            (kora_also (cadr counts) " on locked layers left as they were")
-            (kora_also (caddr counts) " within the new block left as they were")
-            (kora_also (cadddr counts) " within blocks could not get other attributes")
-            (if purged (strcat "; " (kora_number_of purged "block") " purged") "")
-            ".")))
+    (kora_text "%1 replaced%2%3%4%5."
+               (list (kora_number_of (car counts) "reference")
+                     (kora_also (cadr counts) " on locked layers left as they were")
+                     (kora_also (caddr counts) " within the new block left as they were")
+                     (kora_also (cadddr counts) " within blocks could not get other attributes")
+                     (if purged (kora_text "; %1 purged" (list (kora_number_of purged "block"))) "")))))

@@ -26,7 +26,7 @@
 ;; (kora_error message) ends a tool that failed or was cancelled. A cancel needs no word.
 (defun kora_error (message)
   (if (not (member (strcase message) '("FUNCTION CANCELLED" "QUIT / EXIT ABORT" "CONSOLE BREAK")))
-    (princ (strcat "\nError: " message)))
+    (princ (kora_text "\nError: %1" (list message))))
   (kora_end))
 
 ;; (kora_take_back) leaves the drawing as it was before kora_begin, or before the last kora_take_back. Something must have
@@ -57,7 +57,7 @@
 
 ;; (kora_alert_message text) tells the user on the command line.
 (defun kora_alert_message (text)
-  (princ (strcat "\n" text))
+  (princ (strcat "\n" (kora_text text nil)))
   (princ))
 
 ;; (kora_refuse text) -> nil; tells the user why.

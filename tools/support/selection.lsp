@@ -12,7 +12,7 @@
 ;; (kora_choose asking filter) -> the entities that fit filter of those that the user chooses, in this order; nil after
 ;; a message when there are none. How many do not fit is said; a filter of nil fits all.
 (defun kora_choose (asking filter / all)
-  (princ (strcat "\n" asking))
+  (princ (strcat "\n" (kora_text asking nil)))
   (if (setq all (ssget))
     (kora:fitting all (ssget "_P" filter) "picked")
     (kora_refuse "Nothing was chosen.")))
@@ -42,8 +42,10 @@
 (defun kora:say_unused (verb all counts)
   (if counts
     (kora_alert_message
-      (strcat (itoa all) " " verb ", " (itoa (apply '+ (mapcar 'cdr counts))) " of no use: "
-              (kora_string_join (mapcar '(lambda (row) (strcat (itoa (cdr row)) " " (car row))) counts) ", ") "."))))
+      (kora_text (if (= verb "chosen") "%1 chosen, %2 of no use: %3." "%1 picked, %2 of no use: %3.")
+                 (list (itoa all) (itoa (apply '+ (mapcar 'cdr counts)))
+                       (kora_string_join (mapcar '(lambda (row) (strcat (itoa (cdr row)) " " (kora_text (car row) nil))) counts)
+                                         ", "))))))
 
 ;; (kora_other_kind kinds) -> the reason against entities of kinds other than these, "LINE,ARC".
 (defun kora_other_kind (kinds)
@@ -68,9 +70,9 @@
 ;; are on locked layers.
 (defun kora_done (text locked)
   (kora_alert_message
-    (strcat text
+    (strcat (kora_text text nil)
             (if (> locked 0)
-              (strcat " " (itoa locked) (if (= locked 1) " on a locked layer was" " on locked layers were") " left alone.")
+              (strcat " " (kora_count locked "1 on a locked layer was left alone." "%1 on locked layers were left alone."))
               ""))))
 
 ;; (kora_done_with title verb done free all) says how many texts were, say, "masked", out of those on layers that are not
@@ -83,8 +85,8 @@
     (list (list "done" verb done)
           (list "skipped" (strcat "could not be " verb) failed)
           (list "skipped" "on a locked layer" locked)))
-  (kora_done (strcat (kora_number_of count "text") " " verb "."
-                     (if failed (strcat " " (itoa (length failed)) " could not be " verb ".") ""))
+  (kora_done (strcat (kora_text (strcat "%1 " verb ".") (list (kora_number_of count "text")))
+                     (if failed (kora_text (strcat " %1 could not be " verb ".") (list (itoa (length failed)))) ""))
              (length locked)))
 
 ;; (kora_left_out some all) -> those of all that are not among some, which are in the same order.
@@ -100,5 +102,5 @@
     (progn
       (results-begin title)
       (foreach group groups
-        (foreach entity (caddr group) (results-add entity (car group) (cadr group))))
+        (foreach entity (caddr group) (results-add entity (car group) (kora_text (cadr group) nil))))
       (results-end))))

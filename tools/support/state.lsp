@@ -57,10 +57,10 @@
   (setq file (car arguments))
   (cond
     ((null (kora_writestate file '(("!call!" . "open"))))
-     (kora_refuse (strcat "The file " file " cannot be written: the dialog could not hand over what is chosen.")))
+     (kora_refuse (kora_text "The file %1 cannot be written: the dialog could not hand over what is chosen." (list file))))
     ((null (setq answer (apply dialog arguments))) nil)
     ((assoc "!call!" (kora_readstate file))
-     (kora_refuse (strcat "The file " file " could not be written: what was chosen is lost, and nothing was done.")))
+     (kora_refuse (kora_text "The file %1 could not be written: what was chosen is lost, and nothing was done." (list file))))
     (answer)))
 
 (defun kora:state_line (entry)

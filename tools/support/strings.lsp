@@ -58,11 +58,11 @@
 
 ;; (kora_number_of number noun) -> "1 block", "2 blocks".
 (defun kora_number_of (number noun)
-  (strcat (itoa number) " " noun (if (= number 1) "" "s")))
+  (kora_count number (strcat "1 " noun) (strcat "%1 " noun "s")))
 
 ;; (kora_also number text) -> ", 2 ..." for the end of a message, "" for none.
 (defun kora_also (number text)
-  (if (> number 0) (strcat ", " (itoa number) text) ""))
+  (if (> number 0) (kora_text (strcat ", %1" text) (list (itoa number))) ""))
 
 ;; (kora_literal text) -> a pattern for wcmatch that this text alone matches.
 (defun kora_literal (text / codes)

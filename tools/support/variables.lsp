@@ -69,5 +69,5 @@
       (Dlg_exportsetting path mode)
       (vl-file-delete path)
       (kora_end))
-    (kora_alert_message (strcat "The variables cannot be listed: " path " cannot be written.")))
+    (kora_alert_message (kora_text "The variables cannot be listed: %1 cannot be written." (list path))))
   (princ))

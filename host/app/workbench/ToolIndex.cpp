@@ -1,10 +1,13 @@
 #include "host/app/workbench/ToolIndex.h"
 
 #include "files/qt/Files.h"
+#include "host/kernel/languages/Languages.h"
 #include "host/lisp/Paths.h"
 
 #include <QDir>
 #include <QFile>
+#include <QHash>
+#include <QRegularExpression>
 
 #include <algorithm>
 
@@ -37,6 +40,35 @@ bool readMenuLine(const QString &line, ToolEntry &entry)
     return !entry.caption.isEmpty() && !entry.command.isEmpty();
 }
 
+/// As Lisp writes it in quotes.
+QString lispText(QString written)
+{
+    return written.replace(u"\\\""_s, u"\""_s).replace(u"\\\\"_s, u"\\"_s);
+}
+
+/// English texts of the tools with those of the language; none where there is no catalogue.
+QHash<QString, QString> toolTexts(const QDir &folder)
+{
+    QHash<QString, QString> texts;
+    QFile file;
+    const QString code = QString::fromLatin1(kernel::currentLanguage().code);
+    if (!files::openRegular(file, folder.filePath(u"languages/%1.lsp"_s.arg(code)), lisp::largestTextFile).isEmpty())
+        return texts;
+    static const QRegularExpression pair(u"^\\s*\\(\"((?:[^\"\\\\]|\\\\.)*)\" \\. \"((?:[^\"\\\\]|\\\\.)*)\"\\)$"_s,
+                                         QRegularExpression::MultilineOption);
+    for (const QRegularExpressionMatch &match : pair.globalMatch(QString::fromUtf8(file.readAll())))
+        texts.insert(lispText(match.captured(1)), lispText(match.captured(2)));
+    return texts;
+}
+
+void translate(ToolIndex &index)
+{
+    const QHash<QString, QString> texts = toolTexts(QDir(index.folder));
+    for (ToolEntry &entry : index.entries)
+        for (QString *text : {&entry.caption, &entry.tip, &entry.subject})
+            *text = texts.value(*text, *text);
+}
+
 void readTool(const QString &path, ToolIndex &index)
 {
     QFile file;
@@ -66,6 +98,7 @@ ToolIndex readTools(const QString &folder)
         names.prepend(supportLibrary);
     for (const QString &name : names)
         readTool(directory.absoluteFilePath(name), index);
+    translate(index);
     std::sort(index.entries.begin(), index.entries.end(), [](const ToolEntry &a, const ToolEntry &b) {
         return a.caption.compare(b.caption, Qt::CaseInsensitive) < 0;
     });

@@ -28,7 +28,8 @@ struct ToolIndex
 /// shows:
 ///     ;;; menu: Break line | BREAKLINE | Cuts a line open and draws a break symbol in the gap | Lines and hatches
 /// The last part may be left out.
-/// The support library is the file ortakit.lsp.
+/// The support library is the file ortakit.lsp. What people read of an entry is in the current language, as far as the
+/// catalogue of the tools has it (languages/<code>.lsp in the folder; see tools/support/language.lsp).
 ToolIndex readTools(const QString &folder);
 
 } // namespace host::app
