@@ -14053,6 +14053,37 @@ Die Einstellungen des Benutzers können nicht aufbewahrt werden.
     </message>
 </context>
 <context>
+    <name>RenderReport</name>
+    <message>
+        <source>%1 drawn</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 invisible</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>simplified</source>
+        <translation type="unfinished">vereinfacht</translation>
+    </message>
+    <message>
+        <source>skipped</source>
+        <translation type="unfinished">übersprungen</translation>
+    </message>
+    <message>
+        <source>not drawn</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>drawn in part</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>cut short: there is more than is drawn in one go</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>Settings</name>
     <message>
         <source>Window</source>

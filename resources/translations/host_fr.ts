@@ -13763,6 +13763,37 @@ The user&apos;s settings cannot be kept.
     </message>
 </context>
 <context>
+    <name>RenderReport</name>
+    <message>
+        <source>%1 drawn</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 invisible</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>simplified</source>
+        <translation type="unfinished">simplifié</translation>
+    </message>
+    <message>
+        <source>skipped</source>
+        <translation type="unfinished">ignoré</translation>
+    </message>
+    <message>
+        <source>not drawn</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>drawn in part</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>cut short: there is more than is drawn in one go</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>Settings</name>
     <message>
         <source>Window</source>

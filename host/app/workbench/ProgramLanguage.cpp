@@ -26,6 +26,9 @@ QString languageOfWindow(const QString &home)
 
 const kernel::Language &programLanguage(const ProgramOptions &options)
 {
+    // What programs read is the same everywhere.
+    if (options.withJson)
+        return kernel::languages().front();
     QString name = options.language.isEmpty() ? qEnvironmentVariable("ORTAKIT_LANGUAGE") : options.language;
     if (name.isEmpty() && !options.isUnattended() && options.session.isEmpty())
         name = languageOfWindow(options.home);

@@ -1,5 +1,6 @@
 #include "host/view/display/RenderReport.h"
 
+#include <QCoreApplication>
 #include <QStringList>
 
 namespace host::view {
@@ -50,21 +51,21 @@ qint64 RenderReport::skippedCount() const
 
 QString RenderReport::summary() const
 {
-    QStringList parts{u"%1 drawn"_s.arg(drawn)};
+    QStringList parts{QCoreApplication::translate("RenderReport", "%1 drawn").arg(drawn)};
     if (hidden > 0)
-        parts.append(u"%1 invisible"_s.arg(hidden));
-    addCounts(parts, simplified, total(simplified), u"simplified"_s);
-    addCounts(parts, skipped, skippedCount(), u"skipped"_s);
+        parts.append(QCoreApplication::translate("RenderReport", "%1 invisible").arg(hidden));
+    addCounts(parts, simplified, total(simplified), QCoreApplication::translate("RenderReport", "simplified"));
+    addCounts(parts, skipped, skippedCount(), QCoreApplication::translate("RenderReport", "skipped"));
     return parts.join(u", "_s);
 }
 
 QString RenderReport::missing() const
 {
     QStringList parts;
-    addCounts(parts, skipped, skippedCount(), u"not drawn"_s);
-    addCounts(parts, simplified, total(simplified), u"drawn in part"_s);
+    addCounts(parts, skipped, skippedCount(), QCoreApplication::translate("RenderReport", "not drawn"));
+    addCounts(parts, simplified, total(simplified), QCoreApplication::translate("RenderReport", "drawn in part"));
     if (isCutShort)
-        parts.append(u"cut short: there is more than is drawn in one go"_s);
+        parts.append(QCoreApplication::translate("RenderReport", "cut short: there is more than is drawn in one go"));
     return parts.join(u", "_s);
 }
 
