@@ -9,6 +9,57 @@
     </message>
 </context>
 <context>
+    <name>Batch</name>
+    <message>
+        <source>%1 of %2, %3 failed</source>
+        <translation>%1 von %2, %3 gescheitert</translation>
+    </message>
+    <message>
+        <source>the process that worked on it was killed or crashed</source>
+        <translation>der Prozess, der daran arbeitete, wurde beendet oder stürzte ab</translation>
+    </message>
+    <message>
+        <source>interrupted: %1 of %2 were not worked on to the end</source>
+        <translation>unterbrochen: an %1 von %2 wurde nicht zu Ende gearbeitet</translation>
+    </message>
+    <message>
+        <source>done</source>
+        <translation>erledigt</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>gescheitert</translation>
+    </message>
+    <message>
+        <source>not read</source>
+        <translation>nicht gelesen</translation>
+    </message>
+    <message>
+        <source>not written</source>
+        <translation>nicht geschrieben</translation>
+    </message>
+    <message>
+        <source>incomplete</source>
+        <translation>unvollständig</translation>
+    </message>
+    <message>
+        <source>cut short</source>
+        <translation>abgebrochen</translation>
+    </message>
+    <message>
+        <source>%1, case %2</source>
+        <translation>%1, Fall %2</translation>
+    </message>
+    <message>
+        <source>%1: the folder cannot be made</source>
+        <translation>%1: der Ordner kann nicht angelegt werden</translation>
+    </message>
+    <message>
+        <source>two of the drawings are named %1: their results would have the same name</source>
+        <translation>zwei der Zeichnungen heißen %1: ihre Ergebnisse hätten denselben Namen</translation>
+    </message>
+</context>
+<context>
     <name>CKvQtColorComboBox</name>
     <message>
         <source>ByBlock</source>
@@ -10327,14 +10378,6 @@ Niemand ist da, um &quot;%1&quot; zu beantworten: abgebrochen.
         <translation>Keine Hilfeseite.</translation>
     </message>
     <message>
-        <source>
-This link of the help page is not followed: %1
-</source>
-        <translation>
-Diesem Link der Hilfeseite wird nicht gefolgt: %1
-</translation>
-    </message>
-    <message>
         <source>it is no module (odrxGetAPIVersion is missing)</source>
         <translation>es ist kein Modul (odrxGetAPIVersion fehlt)</translation>
     </message>
@@ -14047,10 +14090,6 @@ Die Einstellungen des Benutzers können nicht aufbewahrt werden.
         <source>Choose a folder</source>
         <translation>Ordner wählen</translation>
     </message>
-    <message>
-        <source>Help</source>
-        <translation>Hilfe</translation>
-    </message>
 </context>
 <context>
     <name>RenderReport</name>
@@ -14953,6 +14992,18 @@ Daraus werden Dokumente gemacht, und scripts/demand vergleicht es mit dem, was P
         <source>Options of the window</source>
         <translation>Optionen des Fensters</translation>
     </message>
+    <message>
+        <source>tell what became of each drawing as one line of JSON</source>
+        <translation>sagt als eine Zeile JSON, was aus jeder Zeichnung wurde</translation>
+    </message>
+    <message>
+        <source>work on so many files at a time, each in a process of its own, so that one that crashes or takes too long is one file that failed; what is told and its order are the same for any N</source>
+        <translation>arbeitet an so vielen Dateien zugleich, jede in einem eigenen Prozess, sodass eine, die abstürzt oder zu lange braucht, eine gescheiterte Datei ist; was gesagt wird und die Reihenfolge sind für jedes N gleich</translation>
+    </message>
+    <message>
+        <source>one process for all</source>
+        <translation>ein Prozess für alle</translation>
+    </message>
 </context>
 <context>
     <name>host::app::ClosingQuestion</name>
@@ -15097,6 +15148,53 @@ Keine Zeichnung ist geöffnet.
     <message>
         <source>%1 (read only)</source>
         <translation>%1 (schreibgeschützt)</translation>
+    </message>
+</context>
+<context>
+    <name>host::app::HelpWindow</name>
+    <message>
+        <source>Help</source>
+        <translation>Hilfe</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation>Inhalt</translation>
+    </message>
+    <message>
+        <source>What was found</source>
+        <translation>Was gefunden wurde</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Zurück</translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation>Vorwärts</translation>
+    </message>
+    <message>
+        <source>Index</source>
+        <translation>Stichwörter</translation>
+    </message>
+    <message>
+        <source>Larger</source>
+        <translation>Größer</translation>
+    </message>
+    <message>
+        <source>Smaller</source>
+        <translation>Kleiner</translation>
+    </message>
+    <message>
+        <source>Print...</source>
+        <translation>Drucken...</translation>
+    </message>
+    <message>
+        <source>Nothing was found.</source>
+        <translation>Nichts wurde gefunden.</translation>
     </message>
 </context>
 <context>
@@ -15464,6 +15562,14 @@ Wiederhergestellt nach dem Stand vom %1. Erst nach dem Speichern steht es in der
     <message>
         <source>Choose nothing</source>
         <translation>Auswahl aufheben</translation>
+    </message>
+    <message>
+        <source>
+This link of the help page is not followed: %1
+</source>
+        <translation>
+Diesem Link der Hilfeseite wird nicht gefolgt: %1
+</translation>
     </message>
 </context>
 <context>

@@ -9,6 +9,57 @@
     </message>
 </context>
 <context>
+    <name>Batch</name>
+    <message>
+        <source>%1 of %2, %3 failed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the process that worked on it was killed or crashed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>interrupted: %1 of %2 were not worked on to the end</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>done</source>
+        <translation type="unfinished">fait</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>not read</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>not written</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>incomplete</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>cut short</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, case %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: the folder cannot be made</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>two of the drawings are named %1: their results would have the same name</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>CKvQtColorComboBox</name>
     <message>
         <source>ByBlock</source>
@@ -10051,12 +10102,6 @@ Nobody is there to answer &quot;%1&quot;: cancelled.
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>
-This link of the help page is not followed: %1
-</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>it is no module (odrxGetAPIVersion is missing)</source>
         <translation type="unfinished"></translation>
     </message>
@@ -13757,10 +13802,6 @@ The user&apos;s settings cannot be kept.
         <source>Choose a folder</source>
         <translation>Choisir un dossier</translation>
     </message>
-    <message>
-        <source>Help</source>
-        <translation>Aide</translation>
-    </message>
 </context>
 <context>
     <name>RenderReport</name>
@@ -14655,6 +14696,18 @@ Documents are made from this, and scripts/demand compares it with what programs 
         <source>Options of the window</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>tell what became of each drawing as one line of JSON</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>work on so many files at a time, each in a process of its own, so that one that crashes or takes too long is one file that failed; what is told and its order are the same for any N</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>one process for all</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>host::app::ClosingQuestion</name>
@@ -14799,6 +14852,53 @@ Aucun dessin n&apos;est ouvert.
     <message>
         <source>%1 (read only)</source>
         <translation>%1 (lecture seule)</translation>
+    </message>
+</context>
+<context>
+    <name>host::app::HelpWindow</name>
+    <message>
+        <source>Help</source>
+        <translation type="unfinished">Aide</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation type="unfinished">Rechercher</translation>
+    </message>
+    <message>
+        <source>Contents</source>
+        <translation type="unfinished">Contenu</translation>
+    </message>
+    <message>
+        <source>What was found</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Forward</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Index</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Larger</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Smaller</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Print...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing was found.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -15166,6 +15266,12 @@ Récupéré dans son état du %1. Il n&apos;est pas dans son fichier tant qu&apo
     <message>
         <source>Choose nothing</source>
         <translation>Tout désélectionner</translation>
+    </message>
+    <message>
+        <source>
+This link of the help page is not followed: %1
+</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
