@@ -20,8 +20,10 @@ class Links:
 
     def __post_init__(self):
         self.places = {}  # (document, anchor) -> address in the book
+        self.titles = {}  # of documents
         for page in self.pages:
             self.places.setdefault((page.source, ""), f"{page.name}.html")
+            self.titles.setdefault(page.source, page.title)
             for anchor in page.anchors:
                 self.places.setdefault((page.source, anchor), f"{page.name}.html#{anchor}")
 
@@ -38,7 +40,8 @@ class Links:
         target = (page.source.parent / path).resolve() if path else page.source
         place = self.places.get((target, anchor))
         if place:
-            return f'<a href="{place}">{text}</a>'
+            # Documents are called by their files where they are read as such.
+            return f'<a href="{place}">{self.titles[target] if text.endswith(".md") else text}</a>'
         if (target, "") in self.places:
             self.complain(page, f"there is no #{anchor} in {target.name}")
         elif not target.exists():

@@ -80,7 +80,7 @@ def around_of(places):
 def summary(page):
     """The first sentence of a page."""
     first = re.search(r"<p>(.*?)</p>", page.html, flags=re.S)
-    return re.split(r"(?<=[.!?:])\s", re.sub(r"</?a[^>]*>", "", first[1]).strip())[0] if first else ""
+    return re.split(r"(?<=[.!?])\s", re.sub(r"</?a[^>]*>", "", first[1]).strip())[0] if first else ""
 
 
 def contents_html(pages):
@@ -89,7 +89,8 @@ def contents_html(pages):
         if page.part != part:
             pieces.append(("</ul>\n" if part is not None else "") + f"<h2>{page.part}</h2>\n<ul>")
             part = page.part
-        pieces.append(f'<li><a href="{page.name}.html">{html.escape(plain(page.title))}</a>: {summary(page)}</li>')
+        what = f": {summary(page)}" if summary(page) and not page.parent else ""
+        pieces.append(f'<li><a href="{page.name}.html">{html.escape(plain(page.title))}</a>{what}</li>')
     return "\n".join(pieces) + '</ul>\n<p><a href="keywords.html">Index</a></p>'
 
 

@@ -189,6 +189,10 @@ class WhatIsWrong(unittest.TestCase):
         self.assertIn("<td>c|d</td>", page.html)
         self.assertEqual(list(output.sections(page))[-1], ("a.html#command-_2a_line", "A", "*LINE", "c|d"))
 
+    def test_links_to_documents_say_their_titles(self):
+        page = made_book(self.book(a="# A\n\n[b.md](b.md#more), [this](b.md)\n", b="# The other\n\n## More\n")).pages[0]
+        self.assertIn('<a href="b.html#more">The other</a>, <a href="b.html">this</a>', page.html)
+
     def test_examples_are_marked(self):
         page = made_book(self.book(a="# A\n\n```sh\nrm x\n```\n")).pages[0]
         with self.assertRaises(BookError):
