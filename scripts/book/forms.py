@@ -43,6 +43,19 @@ def texts_of_dialog(form):
     return {text.lower() for text in texts}
 
 
+def messages(form):
+    """What the dialog of a form says in sentences, without what stands for a value."""
+    own = (TOP / form).with_suffix(".cpp")
+    others = {path.with_suffix(".cpp") for path in own.parent.glob("*.ui")} - {own}
+    found = []
+    for source in sorted(set(own.parent.glob("*.cpp")) - others):
+        for call in re.findall(r'\b(?:tr|QT_TR_NOOP)\(\s*((?:"(?:[^"\\]|\\.)*"\s*)+)', source.read_text(encoding="utf-8")):
+            text = "".join(re.findall(r'"((?:[^"\\]|\\.)*)"', call)).replace('\\"', '"').strip()
+            if re.match(r"[A-Z%].* .*[.?!]$", text) and not text.endswith("..."):
+                found.append(text)
+    return found
+
+
 def bold(text):
     """What a page has in bold, as labels are compared."""
     return [plain_label(each) for each in re.findall(r"\*\*(.+?)\*\*", text, flags=re.S)]
@@ -69,6 +82,9 @@ def complaints(page):
         for label in labels(form):
             if label.lower() not in told:
                 yield f"{page.source.name}: the field \"{label}\" of {form} is not told"
+        for message in messages(form):
+            if any(piece.strip().lower() not in everything for piece in re.split(r"%\d", message)):
+                yield f"{page.source.name}: the message \"{message}\" of {form} is not told"
         for field in fields(page.text):
             if field.lower() not in known:
                 yield f"{page.source.name}: there is no \"{field}\" in {form}"

@@ -167,12 +167,13 @@ class WhatIsWrong(unittest.TestCase):
     def test_fields_and_messages_of_tools_are_compared(self):
         form = "dialogs/textmask/Dlg_QT_TextMask.ui"
         fields = "".join(f"**{label}** " for label in forms.labels(form))
-        prompt = "Select texts to mask"
+        said = " ".join(forms.messages(form)) + " Select texts to mask"
         for text, told in [
-                (fields + prompt, []),
-                (fields.replace("**Solid** ", "") + prompt, ['the field "Solid"']),
-                (fields + prompt + "\n\n| field | x |\n|---|---|\n| **Offsets** | y |\n", ['there is no "Offsets"']),
-                (fields, ['"Select texts to mask"']),
+                (fields + said, []),
+                (fields.replace("**Solid** ", "") + said, ['the field "Solid"']),
+                (fields + said + "\n\n| field | x |\n|---|---|\n| **Offsets** | y |\n", ['there is no "Offsets"']),
+                (fields + said.replace("to mask", ""), ['"Select texts to mask"']),
+                (fields + said.replace("Wrong", "Odd"), ['the message "Wrong dimension value."']),
         ]:
             path = self.book(a=f"# A\n<!-- form: {form} -->\n<!-- program: tools/textmask.lsp -->\n\n{text}\n")
             complaints = made_book(path).complaints

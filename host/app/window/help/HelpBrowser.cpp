@@ -112,13 +112,21 @@ void HelpBrowser::mark(const QStringList &words)
 QTextCursor HelpBrowser::target() const
 {
     const QString anchor = source().fragment();
-    for (QTextBlock block = document()->begin(); !anchor.isEmpty() && block.isValid(); block = block.next())
+    // That of a cell is kept with what stands in front of its text.
+    const auto isTarget = [&anchor](const QTextBlock &block) {
+        if (block.charFormat().anchorNames().contains(anchor))
+            return true;
         for (auto piece = block.begin(); !piece.atEnd(); ++piece)
-            if (piece.fragment().charFormat().anchorNames().contains(anchor)) {
-                QTextCursor cursor(block);
-                cursor.movePosition(QTextCursor::EndOfBlock, QTextCursor::KeepAnchor);
-                return cursor;
-            }
+            if (piece.fragment().charFormat().anchorNames().contains(anchor))
+                return true;
+        return false;
+    };
+    for (QTextBlock block = document()->begin(); !anchor.isEmpty() && block.isValid(); block = block.next())
+        if (isTarget(block)) {
+            QTextCursor cursor(block);
+            cursor.movePosition(QTextCursor::EndOfBlock, QTextCursor::KeepAnchor);
+            return cursor;
+        }
     return {};
 }
 
