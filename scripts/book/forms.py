@@ -73,6 +73,12 @@ def program_texts(path):
     return found
 
 
+def is_told(text, everything):
+    """Whether a page has a message, whatever stands for its values."""
+    pieces = (piece.strip(" .,<>").lower() for piece in re.split(r"%\d", text))
+    return all(piece in everything for piece in pieces)
+
+
 def complaints(page):
     """What the page of a tool says too little or too much, a sentence each."""
     told = {each.lower() for each in bold(page.text)}
@@ -83,14 +89,14 @@ def complaints(page):
             if label.lower() not in told:
                 yield f"{page.source.name}: the field \"{label}\" of {form} is not told"
         for message in messages(form):
-            if any(piece.strip().lower() not in everything for piece in re.split(r"%\d", message)):
+            if not is_told(message, everything):
                 yield f"{page.source.name}: the message \"{message}\" of {form} is not told"
         for field in fields(page.text):
             if field.lower() not in known:
                 yield f"{page.source.name}: there is no \"{field}\" in {form}"
     for program in re.findall(r"<!-- program: (\S+) -->", page.text):
         for text in program_texts(program):
-            if text.lower() not in everything:
+            if not is_told(text, everything):
                 yield f"{page.source.name}: \"{text}\" of {program} is not told"
 
 

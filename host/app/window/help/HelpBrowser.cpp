@@ -7,6 +7,7 @@
 #include <QRegularExpression>
 #include <QTextBlock>
 #include <QTextCursor>
+#include <QTextTable>
 
 using namespace Qt::StringLiterals;
 
@@ -112,10 +113,10 @@ void HelpBrowser::mark(const QStringList &words)
 QTextCursor HelpBrowser::target() const
 {
     const QString anchor = source().fragment();
-    // That of a cell is kept with what stands in front of its text.
     const auto isTarget = [&anchor](const QTextBlock &block) {
-        if (block.charFormat().anchorNames().contains(anchor))
-            return true;
+        if (const QTextTable *table = QTextCursor(block).currentTable())
+            if (table->cellAt(block.position()).format().anchorNames().contains(anchor))
+                return true;
         for (auto piece = block.begin(); !piece.atEnd(); ++piece)
             if (piece.fragment().charFormat().anchorNames().contains(anchor))
                 return true;
