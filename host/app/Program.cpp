@@ -86,8 +86,8 @@ int runWindow(const ProgramOptions &options)
                        .memoryLimit = options.memoryLimit});
     for (const QString &problem : window.workbench().problems())
         writeMessage(problem);
-    const QString home = window.workbench().session().home();
-    window.setStyleOfWindows(options.style.value_or(Preferences::load(home).style));
+    const QString preferences = Preferences::folder(window.workbench().session());
+    window.setStyleOfWindows(options.style.value_or(Preferences::load(preferences).style));
     window.show();
     // A session or recording works in a drawing and meets nothing else.
     const bool isAttended = !options.isUnattended() && options.session.isEmpty() && options.record.isEmpty();

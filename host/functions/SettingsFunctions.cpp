@@ -31,7 +31,7 @@ constexpr qsizetype longestEntry = 64 * 1024;
 
 SettingsStore registryStore(Arguments &args)
 {
-    return SettingsStore(documentOf(args).session().home() + QStringLiteral("/registry.ini"));
+    return SettingsStore(documentOf(args).session().settingsFile(QStringLiteral("registry.ini")));
 }
 
 /// Without separators at the ends, and with one kind of them.

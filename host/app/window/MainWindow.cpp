@@ -394,7 +394,7 @@ void MainWindow::tellProblems()
 
 void MainWindow::loadPreferences()
 {
-    const Preferences preferences = Preferences::load(m_workbench->session().home());
+    const Preferences preferences = Preferences::load(Preferences::folder(m_workbench->session()));
     restoreGeometry(preferences.geometry);
     m_commandLine->setEntries(preferences.entries);
     m_console->setEntries(preferences.forms);
@@ -416,7 +416,7 @@ void MainWindow::savePreferences() const
                                   .drawings = m_lastDrawings,
                                   .reopensDrawings = m_reopensDrawings,
                                   .recent = m_palette ? m_palette->recent() : m_recentlyRun};
-    preferences.save(m_workbench->session().home());
+    preferences.save(Preferences::folder(m_workbench->session()));
 }
 
 void MainWindow::updateState()

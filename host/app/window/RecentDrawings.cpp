@@ -6,6 +6,7 @@
 #include "host/app/window/files/RecentFiles.h"
 #include "host/app/window/files/StartPage.h"
 #include "host/app/window/frame/DrawingTabs.h"
+#include "host/app/window/frame/Preferences.h"
 #include "host/app/window/help/HelpKey.h"
 
 #include <QAction>
@@ -19,7 +20,7 @@ namespace host::app {
 
 void MainWindow::connectRecent()
 {
-    m_recent = std::make_unique<RecentFiles>(m_workbench->session().home());
+    m_recent = std::make_unique<RecentFiles>(Preferences::folder(m_workbench->session()));
     connect(&m_workbench->documents(), &kernel::DocumentManager::opened, this, [this](kernel::Document *document) {
         const auto note = [this, document] {
             if (!document->path().isEmpty())
@@ -83,8 +84,8 @@ void MainWindow::missDrawings()
 void MainWindow::showStartPage()
 {
     if (!m_startPage) {
-        const QString home = m_workbench->session().home();
-        m_startPage = new StartPage(*m_recent, findSamplesFolder(), FilePictures::usualFolder(home), m_tabs);
+        const QString pictures = m_workbench->session().folders().cache + u"/pictures"_s;
+        m_startPage = new StartPage(*m_recent, findSamplesFolder(), pictures, m_tabs);
         connectStartPage(*m_startPage);
         m_tabs->insertTab(0, m_startPage, tr("Start"));
     }

@@ -1,9 +1,8 @@
 #include "host/app/workbench/ProgramLanguage.h"
 
-#include "host/kernel/documents/Session.h"
+#include "host/kernel/files/UserFolders.h"
 #include "host/kernel/variables/SettingsStore.h"
 
-#include <QDir>
 #include <QLocale>
 
 using namespace Qt::StringLiterals;
@@ -17,7 +16,7 @@ const QString languageName = u"language"_s;
 
 QString languageOfWindow(const QString &home)
 {
-    const kernel::SettingsStore settings(QDir(kernel::Session::homeFolder(home)).filePath(u"settings.ini"_s));
+    const kernel::SettingsStore settings(kernel::settingsFile(kernel::userFolders(home), u"settings.ini"_s));
     const QString kept = settings.text(languageGroup, languageName);
     return kept.isEmpty() ? QLocale().name() : kept;
 }

@@ -10,15 +10,13 @@
 #include "host/kernel/running/CommandStack.h"
 
 #include <QDir>
-#include <QStandardPaths>
 
 namespace host::kernel {
 
 namespace {
 
-QString madeHomeFolder(const QString &wanted)
+QString madeHomeFolder(const QString &folder)
 {
-    const QString folder = Session::homeFolder(wanted);
     // A folder that cannot be made shows when the first file is written to it, with that file's name.
     QDir().mkpath(folder + QStringLiteral("/Template"));
     return folder;
@@ -48,15 +46,13 @@ int lispHeapSetting(const SettingsStore &settings)
 
 QString Session::homeFolder(const QString &wanted)
 {
-    QString folder = wanted.isEmpty() ? qEnvironmentVariable("ORTAKIT_HOME") : wanted;
-    if (folder.isEmpty())
-        folder = QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + QStringLiteral("/ortakit");
-    return QDir::cleanPath(QDir(folder).absolutePath());
+    return userFolders(wanted).data;
 }
 
 Session::Session(const SessionOptions &options)
-    : m_home(madeHomeFolder(options.home)), m_supportFolders(options.supportFolders), m_helpFolder(options.helpFolder),
-      m_aliases(m_home + QStringLiteral("/alias.xml")), m_settings(m_home + QStringLiteral("/settings.ini")),
+    : m_folders(userFolders(options.home)), m_home(madeHomeFolder(m_folders.data)),
+      m_supportFolders(options.supportFolders), m_helpFolder(options.helpFolder),
+      m_aliases(m_home + QStringLiteral("/alias.xml")), m_settings(settingsFile(QStringLiteral("settings.ini"))),
       m_lispHeapSetting(lispHeapSetting(m_settings)), m_editor(std::make_unique<Editor>()),
       m_commandStack(std::make_unique<CommandStack>()), m_help(std::make_unique<HelpService>(*this)),
       m_customBlocks(std::make_unique<CustomBlocks>()), m_services(std::make_unique<SystemServices>(*this)),
@@ -73,6 +69,11 @@ Session::~Session()
     m_modules.reset();
     m_documents.reset();
     installServices(m_servicesBefore);
+}
+
+QString Session::settingsFile(const QString &name) const
+{
+    return kernel::settingsFile(m_folders, name);
 }
 
 void Session::setLispHeapLimit(int megabytes)

@@ -2,6 +2,7 @@
 
 #include "host/kernel/documents/DocumentManager.h"
 #include "host/kernel/files/TrustedFolders.h"
+#include "host/kernel/files/UserFolders.h"
 #include "host/kernel/input/InputFeeder.h"
 #include "host/kernel/platform/ModuleLoader.h"
 #include "host/kernel/platform/Services.h"
@@ -26,9 +27,8 @@ class SystemServices;
 /// How a session is set up.
 struct SessionOptions
 {
-    /// Folder of the user's data (LOGFILEPATH). Empty: the environment variable ORTAKIT_HOME, else a folder of this
-    /// program below the system's place for application data. Made when it does not exist, with a folder "Template"
-    /// for drawings to start from.
+    /// Folder of all that is the user's, as userFolders() takes it; that of the data (LOGFILEPATH) is made when it does
+    /// not exist, with a folder "Template" for drawings to start from.
     QString home;
     /// The folders of the installation, in order: programs are looked for there first, other files after the drawing's
     /// own folder.
@@ -69,7 +69,7 @@ public:
     CommandAliases &aliases() { return m_aliases; }
     /// Built-in commands that a program has hidden, by their names: only a point in front ("_.LINE") runs them.
     QSet<QString> &undefinedCommands() { return m_undefinedCommands; }
-    /// What is kept between sessions, in home()/settings.ini.
+    /// What is kept between sessions, in the file of settings settings.ini.
     SettingsStore &settings() { return m_settings; }
     /// The system variables among them.
     UserVariables &userVariables() { return m_userVariables; }
@@ -115,6 +115,10 @@ public:
 
     /// Absolute, without a separator at the end.
     QString home() const { return m_home; }
+    /// The user's folders; that of the data is home().
+    const UserFolders &folders() const { return m_folders; }
+    /// The file of settings of that name, as settingsFile() of UserFolders says.
+    QString settingsFile(const QString &name) const;
     /// In the order in which they are looked through. A change counts from the next search on.
     const QStringList &supportFolders() const { return m_supportFolders; }
     void setSupportFolders(const QStringList &folders) { m_supportFolders = folders; }
@@ -141,6 +145,7 @@ private:
     std::shared_ptr<drawing::Drawing> m_clipboard;
     QSet<QString> m_undefinedCommands;
     QStringList m_notWritten; ///< told since takeNotWritten()
+    UserFolders m_folders;
     QString m_home;
     QStringList m_supportFolders;
     QString m_helpFolder;

@@ -1,7 +1,6 @@
 #include "host/app/window/files/FilePictures.h"
 
 #include "files/qt/Files.h"
-#include "host/kernel/documents/Session.h"
 #include "host/view/paint/Export.h"
 
 #include <QBuffer>
@@ -9,7 +8,6 @@
 #include <QDateTime>
 #include <QDir>
 #include <QFileInfo>
-#include <QStandardPaths>
 
 using namespace Qt::StringLiterals;
 
@@ -52,13 +50,6 @@ FilePictures::~FilePictures()
 {
     m_pool.clear();
     m_pool.waitForDone();
-}
-
-QString FilePictures::usualFolder(const QString &home)
-{
-    const bool isUsualHome = qEnvironmentVariable("ORTAKIT_HOME").isEmpty() && home == kernel::Session::homeFolder({});
-    return isUsualHome ? QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation) + u"/ortakit/pictures"_s
-                       : QDir(home).filePath(u"cache/pictures"_s);
 }
 
 void FilePictures::want(const QString &path)

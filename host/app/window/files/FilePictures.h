@@ -26,10 +26,6 @@ public:
     void want(const QString &path);
     const QSize &size() const { return m_size; }
 
-    /// Where those of the user's drawings are kept: in the system's folder for what can be made anew, or below a folder
-    /// of the user's data that is not the usual one.
-    static QString usualFolder(const QString &home);
-
 signals:
     /// Null for what is no drawing, or too large.
     void made(const QString &path, const QImage &picture);

@@ -14,14 +14,14 @@ struct RecentFile
     friend bool operator==(const RecentFile &, const RecentFile &) = default;
 };
 
-/// The drawings that were opened or saved last, in workbench.ini of the user's data folder, where programs that run
+/// The drawings that were opened or saved last, in workbench.ini of the user's settings, where programs that run
 /// side by side see each other's. Pinned ones stay, before the ten others; among both the last one comes first.
 class RecentFiles final : public QObject
 {
     Q_OBJECT
 
 public:
-    /// `folder` is that of the user's data.
+    /// `folder` is that of the file.
     explicit RecentFiles(const QString &folder, QObject *parent = nullptr);
 
     static constexpr qsizetype most = 10; ///< that are not pinned

@@ -1,8 +1,10 @@
 #include "host/app/window/frame/Preferences.h"
 
 #include "files/qt/SettingsFile.h"
+#include "host/kernel/documents/Session.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <QSettings>
 
 using namespace Qt::StringLiterals;
@@ -11,12 +13,19 @@ namespace host::app {
 
 namespace {
 
+const QString fileName = u"workbench.ini"_s;
+
 QString fileIn(const QString &folder)
 {
-    return QDir(folder).filePath(u"workbench.ini"_s);
+    return QDir(folder).filePath(fileName);
 }
 
 } // namespace
+
+QString Preferences::folder(const kernel::Session &session)
+{
+    return QFileInfo(session.settingsFile(fileName)).path();
+}
 
 Preferences Preferences::load(const QString &folder)
 {

@@ -6,9 +6,13 @@
 #include <QByteArray>
 #include <QStringList>
 
+namespace host::kernel {
+class Session;
+}
+
 namespace host::app {
 
-/// What the window keeps from one run to the next, in the file workbench.ini of the user's data folder. What the file
+/// What the window keeps from one run to the next, in the file workbench.ini of the user's settings. What the file
 /// lacks, or cannot give, is as in a new Preferences; a folder that cannot be written to is no reason to complain.
 struct Preferences
 {
@@ -22,7 +26,9 @@ struct Preferences
     bool reopensDrawings = false; ///< when the program starts without others
     QStringList recent;           ///< what was run from the palette, newest first
 
-    /// `folder` is that of the user's data. A file that is no settings file is left alone, and not read.
+    /// The folder that has that file.
+    static QString folder(const kernel::Session &session);
+    /// A file that is no settings file is left alone, and not read.
     static Preferences load(const QString &folder);
     /// What else is in the file stays. Nobody is told when it cannot be written: windows close when nobody is there.
     void save(const QString &folder) const;
