@@ -33,9 +33,12 @@
 #include <QCheckBox>
 #include <QGroupBox>
 #include <QLabel>
+#include <QLibraryInfo>
 #include <QLineEdit>
 #include <QRadioButton>
+#include <QTabWidget>
 #include <QTest>
+#include <QTranslator>
 
 namespace {
 
@@ -96,13 +99,14 @@ void PrintTo(const DialogRow &row, std::ostream *out)
     *out << row.name;
 }
 
-class EveryDialog : public testing::TestWithParam<DialogRow>
+/// A dialog as the user sees it.
+class ShownDialog
 {
 protected:
-    EveryDialog()
+    void show(const DialogRow &row)
     {
         host.setMainWindow(&window);
-        dialog.reset(GetParam().create(&window));
+        dialog.reset(row.create(&window));
         dialog->show();
         // Icons come with the showing and change what the layout has to fit.
         EXPECT_TRUE(QTest::qWaitForWindowActive(dialog.get()));
@@ -130,9 +134,44 @@ protected:
         return texts;
     }
 
+    /// The letters that several of these are reached by, with the texts.
+    QMap<QChar, QStringList> sharedMnemonics() const
+    {
+        QMap<QChar, QStringList> owners;
+        for (QString text : shownTexts()) {
+            const qsizetype mark = text.remove(u"&&"_s).indexOf(u'&');
+            if (mark >= 0)
+                owners[text.at(mark + 1).toLower()].append(text);
+        }
+        owners.removeIf([](const auto &letter) { return letter.value().size() < 2; });
+        return owners;
+    }
+
+    /// Texts that have less room than they need, of what the user sees now.
+    QStringList cutTexts() const
+    {
+        QStringList cut;
+        const auto check = [&cut](const QWidget *widget, const QString &text) {
+            const QSize lack = widget->sizeHint() - widget->size();
+            if (!text.isEmpty() && (lack.width() > 0 || lack.height() > 0))
+                cut.append(u"%1 (%2 by %3 too small)"_s.arg(text).arg(lack.width()).arg(lack.height()));
+        };
+        for (const QLabel *label : visible<QLabel>())
+            check(label, label->wordWrap() ? QString() : label->text());
+        for (const QAbstractButton *button : visible<QAbstractButton>())
+            check(button, button->text());
+        return cut;
+    }
+
     FakeHost host;
     QWidget window;
     std::unique_ptr<ToolDialog> dialog;
+};
+
+class EveryDialog : public testing::TestWithParam<DialogRow>, protected ShownDialog
+{
+protected:
+    EveryDialog() { show(GetParam()); }
 };
 
 // By its button, and with F1 wherever the user is.
@@ -173,30 +212,16 @@ TEST_P(EveryDialog, NamesAndMnemonicsDoNotClash)
         if (!name.isEmpty())
             names.insert(name);
     }
-    QMap<QChar, QStringList> owners;
-    for (QString text : shownTexts()) {
-        const qsizetype mark = text.remove(u"&&"_s).indexOf(u'&');
-        if (mark >= 0)
-            owners[text.at(mark + 1).toLower()].append(text);
-    }
-    for (auto letter = owners.cbegin(); letter != owners.cend(); ++letter)
-        EXPECT_EQ(letter->size() > 1, GetParam().sharedLetters.contains(letter.key()))
-            << letter->join(u", "_s).toStdString();
+    const QMap<QChar, QStringList> shared = sharedMnemonics();
+    for (auto letter = shared.cbegin(); letter != shared.cend(); ++letter)
+        EXPECT_TRUE(GetParam().sharedLetters.contains(letter.key())) << letter->join(u", "_s).toStdString();
+    EXPECT_EQ(shared.size(), GetParam().sharedLetters.size());
 }
 
 // A label, button or option that is narrower than its text needs is cut off.
 TEST_P(EveryDialog, NoTextIsCutOff)
 {
-    const auto check = [](const QWidget *widget, const QString &text) {
-        if (text.isEmpty())
-            return;
-        EXPECT_GE(widget->width(), widget->sizeHint().width()) << text.toStdString();
-        EXPECT_GE(widget->height(), widget->sizeHint().height()) << text.toStdString();
-    };
-    for (const QLabel *label : visible<QLabel>())
-        check(label, label->wordWrap() ? QString() : label->text());
-    for (const QAbstractButton *button : visible<QAbstractButton>())
-        check(button, button->text());
+    EXPECT_THAT(cutTexts(), testing::IsEmpty());
 }
 
 // The Tab key leads from the first widget through every one that takes the focus.
@@ -307,5 +332,79 @@ TEST_P(EveryDialog, CanBeDestroyedWhileAFieldHasTheFocus)
 
 INSTANTIATE_TEST_SUITE_P(All, EveryDialog, testing::ValuesIn(dialogRows),
                          [](const auto &test) { return std::string(test.param.name); });
+
+/// Translates what is made while it is there.
+class Translation
+{
+public:
+    explicit Translation(const QString &language)
+    {
+        add(m_toolkit, QLibraryInfo::path(QLibraryInfo::TranslationsPath) + u"/qtbase_"_s + language);
+        add(m_module, u":/translations/module_"_s + language);
+    }
+
+private:
+    static void add(QTranslator &translator, const QString &file)
+    {
+        if (translator.load(file))
+            QCoreApplication::installTranslator(&translator);
+    }
+    QTranslator m_toolkit;
+    QTranslator m_module;
+};
+
+/// A dialog in a language. The environment's ORTAKIT_PICTURES names a folder for pictures of all pages; none are made
+/// without it.
+class InEveryLanguage : public testing::TestWithParam<std::tuple<DialogRow, const char *>>, protected ShownDialog
+{
+protected:
+    InEveryLanguage() : m_translation(QString::fromLatin1(std::get<1>(GetParam()))) { show(row()); }
+
+    static const DialogRow &row() { return std::get<0>(GetParam()); }
+
+    /// Does it with each page of the dialog that there is to see.
+    void onEachPage(const std::function<void(int page)> &body)
+    {
+        int page = 0;
+        body(page);
+        for (QTabWidget *tabs : dialog->findChildren<QTabWidget *>())
+            for (int tab = 1; tab < tabs->count(); ++tab) {
+                tabs->setCurrentIndex(tab);
+                QCoreApplication::processEvents();
+                body(++page);
+            }
+    }
+
+    void takePicture(int page) const
+    {
+        const QString folder = qEnvironmentVariable("ORTAKIT_PICTURES");
+        const QString name =
+            u"%1-%2-%3.png"_s.arg(QLatin1StringView(std::get<1>(GetParam())), QLatin1StringView(row().name)).arg(page);
+        if (!folder.isEmpty())
+            EXPECT_TRUE(dialog->grab().save(folder + u'/' + name)) << name.toStdString();
+    }
+
+private:
+    Translation m_translation;
+};
+
+TEST_P(InEveryLanguage, TextsFitAndMnemonicsDiffer)
+{
+    onEachPage([this](int page) {
+        takePicture(page);
+        EXPECT_THAT(cutTexts(), testing::IsEmpty());
+        const QMap<QChar, QStringList> shared = sharedMnemonics();
+        QStringList texts;
+        for (const QStringList &same : shared)
+            texts.append(same.join(u" / "_s));
+        EXPECT_LE(shared.size(), row().sharedLetters.size()) << texts.join(u", "_s).toStdString();
+    });
+}
+
+INSTANTIATE_TEST_SUITE_P(All, InEveryLanguage,
+                         testing::Combine(testing::ValuesIn(dialogRows), testing::Values("de", "fr", "es", "it")),
+                         [](const auto &test) {
+                             return std::string(std::get<0>(test.param).name) + '_' + std::get<1>(test.param);
+                         });
 
 } // namespace

@@ -9,8 +9,11 @@
 #include "tests/kernel/Bench.h"
 #include "tests/support/CaseFile.h"
 
+#include <QTranslator>
+
 using namespace host::kernel;
 using ortakit::test::CaseRow;
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -217,6 +220,37 @@ TEST_P(CommandDialogues, areTheSameInEveryWay)
             host.lisp(helpers);
             host.playDialogue(row);
         }
+    }
+}
+
+/// A few keywords in another language, whatever the translations say.
+class GermanKeywords final : public QTranslator
+{
+public:
+    GermanKeywords() { QCoreApplication::installTranslator(this); }
+    bool isEmpty() const override { return false; }
+    QString translate(const char *context, const char *source, const char *, int) const override
+    {
+        static const QHash<QByteArray, QString> words = {
+            {"Yes", u"Ja"_s},        {"No", u"Nein"_s},      {"Close", u"Schließen"_s},  {"Undo", u"Zurück"_s},
+            {"ALL", u"ALle"_s},      {"Last", u"Letztes"_s}, {"Remove", u"Entfernen"_s}, {"Diameter", u"Durchmesser"_s},
+            {"Window", u"Fenster"_s}};
+        return context == QByteArrayView("Keywords") ? words.value(source) : QString();
+    }
+};
+
+TEST(CommandDialoguesInGerman, takeItsKeywordsAndEnglishOnes)
+{
+    const GermanKeywords keywords;
+    const std::filesystem::path folder =
+        ortakit::test::caseFiles("kernel/dialogues").front().parent_path().parent_path();
+    const auto helpers = ortakit::test::readCases(folder / "dialogues.lsp").prelude;
+    const auto file = ortakit::test::readCases(folder / "german.lsp");
+    ASSERT_FALSE(helpers.empty() || file.groups.empty());
+    for (const CaseRow &row : file.groups.front()) {
+        CaseHost host;
+        host.lisp(helpers);
+        host.playDialogue(row);
     }
 }
 
