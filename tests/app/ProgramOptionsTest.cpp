@@ -1,8 +1,10 @@
 #include "host/app/uses/Arguments.h"
 #include "host/app/window/frame/Mnemonics.h"
 #include "host/app/workbench/ToolIndex.h"
+#include "host/kernel/languages/Languages.h"
 #include "tests/support/QtTestPrinters.h"
 
+#include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 
@@ -180,6 +182,14 @@ TEST(ToolIndex, ListsToolsByTheirMenuLine)
     ASSERT_EQ(index.files.size(), 6);
     EXPECT_TRUE(index.files[0].endsWith(u"ortakit.lsp"_s));
     EXPECT_TRUE(readTools(folder.filePath(u"none"_s)).folder.isEmpty());
+
+    // Of the catalogue of the language those that are translated.
+    ASSERT_TRUE(QDir(folder.path()).mkpath(u"languages"_s));
+    write("languages/de.lsp", "'(\n(\"Zigzag\" . \"Zickzack \\\"Z\\\"\")\n(\"Lines\" . \"Linien\")\n(\"Rooms\")\n)\n");
+    host::kernel::useLanguage(*host::kernel::findLanguage(u"de"_s));
+    const ToolEntry last = readTools(folder.path()).entries.last();
+    host::kernel::useLanguage(host::kernel::languages().front());
+    EXPECT_EQ(last.caption + last.tip + last.subject, u"Zickzack \"Z\"Draws a zigzagLinien"_s);
 }
 
 } // namespace

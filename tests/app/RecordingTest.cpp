@@ -13,6 +13,7 @@
 #include <QTabWidget>
 #include <QTableWidget>
 #include <QTest>
+#include <QTranslator>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
@@ -195,6 +196,35 @@ TEST_F(RecordingTest, ViewsAreToldOnceSomethingFollows)
     EXPECT_EQ(document->view().height, 20.0) << "all of the box is seen";
     EXPECT_EQ(document->view().centre, (host::drawing::Vec2{10.0, 5.0}));
     EXPECT_FALSE(runSession(u"view 1,1 1,1"_s, *document, {}).ok);
+}
+
+/// Two keywords in another language, while it is there.
+struct OtherWords final : QTranslator
+{
+    OtherWords() { QCoreApplication::installTranslator(this); }
+    bool isEmpty() const override { return false; }
+    QString translate(const char *context, const char *source, const char *, int) const override
+    {
+        static const QHash<QByteArray, QString> words = {{"Yes", u"Ja"_s}, {"Close", u"Schließen"_s}};
+        return context == QByteArrayView("Keywords") ? words.value(source) : QString();
+    }
+};
+
+// What a person answers in another language plays in English, and the other way about.
+TEST_F(RecordingTest, KeywordsAreRecordedSoThatEveryLanguageTakesThem)
+{
+    auto words = std::make_unique<OtherWords>();
+    SessionRecorder recorder(session, path(u"out.txt"_s));
+    emit session.input().taken({}, host::kernel::TextAnswer{u"LINE"_s});
+    for (const QString &answer : {u"20,0"_s, u"21,0"_s, u"21,1"_s, u"s"_s})
+        session.input().push(host::kernel::TextAnswer{answer});
+    ASSERT_TRUE(document->runCommand(u"LINE"_s).ok);
+    EXPECT_EQ(QString::fromUtf8(read(u"out.txt"_s)).section(u'\n', 1),
+              u"command LINE\nanswer 20,0\nanswer 21,0\nanswer 21,1\nanswer _Close\n");
+    expectPlays();
+    words.reset();
+    expectPlays();
+    EXPECT_TRUE(runSession(u"expect-count LINE 11"_s, *document, {}).ok) << "two were there, three came each time";
 }
 
 TEST_F(RecordingTest, DrawingsThatComeAndGoAreComments)

@@ -2,6 +2,7 @@
 
 #include "host/app/window/MainWindow.h"
 #include "host/app/window/settings/SettingEditor.h"
+#include "host/app/workbench/ProgramLanguage.h"
 #include "host/kernel/variables/HostVariables.h"
 #include "host/kernel/variables/SystemVariables.h"
 #include "tests/app/AppFixture.h"
@@ -82,6 +83,27 @@ struct SettingsWindowTest : testing::Test, TestFolder
     std::unique_ptr<MainWindow> window;
     SettingsWindow *settings = nullptr;
 };
+
+TEST_F(SettingsWindowTest, TheLanguageCountsFromTheNextStart)
+{
+    const ProgramOptions next{.home = path(u"home"_s)};
+    auto &language = field<QComboBox>(u"@language"_s);
+    for (const auto &[choice, code] : {std::pair("2", "de"), {"5", "it"}, {"1", "en"}}) {
+        language.setCurrentIndex(language.findData(QString::fromLatin1(choice)));
+        emit language.activated(language.currentIndex());
+        EXPECT_STREQ(programLanguage(next).code, code);
+        EXPECT_STREQ(host::kernel::currentLanguage().code, "en") << "windows that are open stay";
+    }
+    ProgramOptions told = next;
+    told.language = u"fr"_s;
+    EXPECT_STREQ(programLanguage(told).code, "fr");
+    // Scripts and sessions read English, whatever a person's window speaks.
+    language.setCurrentIndex(language.findData(u"2"_s));
+    emit language.activated(language.currentIndex());
+    for (const ProgramOptions &unattended :
+         {ProgramOptions{.hasWindow = false, .home = next.home}, ProgramOptions{.session = u"s"_s, .home = next.home}})
+        EXPECT_STREQ(programLanguage(unattended).code, "en");
+}
 
 TEST_F(SettingsWindowTest, ChangesCountAtOnceAndFollowOthers)
 {

@@ -28,6 +28,7 @@
 #include "dialogs/tracktime/Dlg_QT_TrackTime.h"
 #include "platform/widgets/CKvQtColorComboBox.h"
 #include "tests/support/ModuleTest.h"
+#include "tests/support/ShownTexts.h"
 
 #include <QAbstractButton>
 #include <QCheckBox>
@@ -121,48 +122,6 @@ protected:
         return widgets;
     }
 
-    /// Texts with mnemonics that the user sees now.
-    QStringList shownTexts() const
-    {
-        QStringList texts;
-        for (const QLabel *label : visible<QLabel>())
-            texts.append(label->buddy() ? label->text() : QString());
-        for (const QAbstractButton *button : visible<QAbstractButton>())
-            texts.append(button->text());
-        for (const QGroupBox *box : visible<QGroupBox>())
-            texts.append(box->title());
-        return texts;
-    }
-
-    /// The letters that several of these are reached by, with the texts.
-    QMap<QChar, QStringList> sharedMnemonics() const
-    {
-        QMap<QChar, QStringList> owners;
-        for (QString text : shownTexts()) {
-            const qsizetype mark = text.remove(u"&&"_s).indexOf(u'&');
-            if (mark >= 0)
-                owners[text.at(mark + 1).toLower()].append(text);
-        }
-        owners.removeIf([](const auto &letter) { return letter.value().size() < 2; });
-        return owners;
-    }
-
-    /// Texts that have less room than they need, of what the user sees now.
-    QStringList cutTexts() const
-    {
-        QStringList cut;
-        const auto check = [&cut](const QWidget *widget, const QString &text) {
-            const QSize lack = widget->sizeHint() - widget->size();
-            if (!text.isEmpty() && (lack.width() > 0 || lack.height() > 0))
-                cut.append(u"%1 (%2 by %3 too small)"_s.arg(text).arg(lack.width()).arg(lack.height()));
-        };
-        for (const QLabel *label : visible<QLabel>())
-            check(label, label->wordWrap() ? QString() : label->text());
-        for (const QAbstractButton *button : visible<QAbstractButton>())
-            check(button, button->text());
-        return cut;
-    }
-
     FakeHost host;
     QWidget window;
     std::unique_ptr<ToolDialog> dialog;
@@ -212,7 +171,7 @@ TEST_P(EveryDialog, NamesAndMnemonicsDoNotClash)
         if (!name.isEmpty())
             names.insert(name);
     }
-    const QMap<QChar, QStringList> shared = sharedMnemonics();
+    const QMap<QChar, QStringList> shared = ortakit::test::sharedMnemonics(*dialog);
     for (auto letter = shared.cbegin(); letter != shared.cend(); ++letter)
         EXPECT_TRUE(GetParam().sharedLetters.contains(letter.key())) << letter->join(u", "_s).toStdString();
     EXPECT_EQ(shared.size(), GetParam().sharedLetters.size());
@@ -221,7 +180,7 @@ TEST_P(EveryDialog, NamesAndMnemonicsDoNotClash)
 // A label, button or option that is narrower than its text needs is cut off.
 TEST_P(EveryDialog, NoTextIsCutOff)
 {
-    EXPECT_THAT(cutTexts(), testing::IsEmpty());
+    EXPECT_THAT(ortakit::test::cutTexts(*dialog), testing::IsEmpty());
 }
 
 // The Tab key leads from the first widget through every one that takes the focus.
@@ -392,8 +351,8 @@ TEST_P(InEveryLanguage, TextsFitAndMnemonicsDiffer)
 {
     onEachPage([this](int page) {
         takePicture(page);
-        EXPECT_THAT(cutTexts(), testing::IsEmpty());
-        const QMap<QChar, QStringList> shared = sharedMnemonics();
+        EXPECT_THAT(ortakit::test::cutTexts(*dialog), testing::IsEmpty());
+        const QMap<QChar, QStringList> shared = ortakit::test::sharedMnemonics(*dialog);
         QStringList texts;
         for (const QStringList &same : shared)
             texts.append(same.join(u" / "_s));

@@ -68,6 +68,25 @@ TEST_F(Module, OpenDocumentsGetTheFunctionsAndLoseThem)
     EXPECT_THAT(m_host.editor().reactors(), IsEmpty());
 }
 
+TEST_F(Module, TextsAreInTheLanguageThatTheHostTells)
+{
+    const auto title = [] { return QCoreApplication::translate("DLG_QT_ConvertNotes", "Keep original T&extStyle"); };
+    m_module->initApp();
+    EXPECT_EQ(title(), u"Keep original T&extStyle") << "the application's locale is English";
+    // The first document that has an engine tells; LOCALE is as programs compare it.
+    m_first->setSystemVariable(u"locale"_s, u"DEU"_s);
+    static_cast<CLispFunctionsModule *>(m_module)->LispDocumentReady(m_first);
+    EXPECT_EQ(title(), u"Original-T&extstil beibehalten");
+    m_first->setSystemVariable(u"locale"_s, u"ENU"_s);
+    static_cast<CLispFunctionsModule *>(m_module)->LispDocumentReady(m_first);
+    EXPECT_EQ(title(), u"Keep original T&extStyle");
+    m_first->setSystemVariable(u"locale"_s, u"fr_CA"_s);
+    static_cast<CLispFunctionsModule *>(m_module)->LispDocumentReady(m_first);
+    EXPECT_NE(title(), u"Keep original T&extStyle");
+    m_module->uninitApp();
+    EXPECT_EQ(title(), u"Keep original T&extStyle") << "nothing of the module is left";
+}
+
 TEST_F(Module, BlocksAreReplacedWithTheHostsPermissionOnly)
 {
     m_module->initApp();

@@ -129,22 +129,28 @@ PrintSettings settingsOfPage(kernel::Document &document, const QString &layout)
 QString plotLine(const drawing::Drawing &drawing, const PrintSettings &settings, PlotUse use)
 {
     const auto layout = drawing::findLayout(drawing, settings.layout);
-    QStringList answers = {u"Y"_s,         settings.layout, settings.isFile() ? settings.device : u"PDF"_s,
-                           settings.paper, u"M"_s,          settings.isAcross ? u"L"_s : u"P"_s,
-                           u"N"_s,         settings.area};
+    QStringList answers = {u"_Y"_s,
+                           settings.layout,
+                           settings.isFile() ? settings.device : u"PDF"_s,
+                           settings.paper,
+                           u"_M"_s,
+                           settings.isAcross ? u"_L"_s : u"_P"_s,
+                           u"_N"_s,
+                           u'_' + settings.area};
     QStringList words;
     for (const QString &answer : std::as_const(answers))
         words += lispString(answer);
     if (settings.area == u"Window")
         words << pointText(settings.window.low.xy()) << pointText(settings.window.high.xy());
-    words << lispString(settings.scale) << (settings.offset ? pointText(*settings.offset) : lispString(u"C"_s))
-          << lispString(u"Y"_s) << lispString(settings.styles) << lispString(settings.hasLineweights ? u"Y"_s : u"N"_s);
+    words << lispString(settings.scale) << (settings.offset ? pointText(*settings.offset) : lispString(u"_C"_s))
+          << lispString(u"_Y"_s) << lispString(settings.styles)
+          << lispString(settings.hasLineweights ? u"_Y"_s : u"_N"_s);
     if (layout && layout->isModel())
-        words << lispString(u"A"_s);
+        words << lispString(u"_A"_s);
     else
-        words << lispString(u"N"_s) << lispString(u"N"_s) << lispString(u"N"_s);
-    words << lispString(settings.path) << lispString(use == PlotUse::Plot ? u"N"_s : u"Y"_s)
-          << lispString(use == PlotUse::Keep ? u"N"_s : u"Y"_s);
+        words << lispString(u"_N"_s) << lispString(u"_N"_s) << lispString(u"_N"_s);
+    words << lispString(settings.path) << lispString(use == PlotUse::Plot ? u"_N"_s : u"_Y"_s)
+          << lispString(use == PlotUse::Keep ? u"_N"_s : u"_Y"_s);
     return u"(progn (command \"_.-PLOT\" %1) (princ))"_s.arg(words.join(u' '));
 }
 
