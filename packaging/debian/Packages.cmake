@@ -10,7 +10,7 @@ set(CPACK_DEBIAN_PROGRAM_PACKAGE_SECTION graphics)
 set(CPACK_DEBIAN_PROGRAM_PACKAGE_SHLIBDEPS ON)
 # The program's own library comes with it.
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS "${CMAKE_LIBRARY_OUTPUT_DIRECTORY}")
-set(CPACK_DEBIAN_PROGRAM_PACKAGE_RECOMMENDS "fonts-dejavu-core, qt6-image-formats-plugins, qt6-wayland, xdg-utils")
+set(CPACK_DEBIAN_PROGRAM_PACKAGE_RECOMMENDS "fonts-dejavu-core, qt6-image-formats-plugins, qt6-translations-l10n, qt6-wayland, xdg-utils")
 set(CPACK_DEBIAN_PROGRAM_PACKAGE_SUGGESTS "ortakit-doc")
 set(CPACK_DEBIAN_PROGRAM_DESCRIPTION "CAD workbench for DXF drawings with Lisp tools
 Views, drafts and revises DXF drawings of every version from R12 to 2018, as
