@@ -130,15 +130,16 @@ int runProgram(int argc, char **argv)
         writeMessage(options.error + u" (see ortakit --help)"_s);
         return ExitUsage;
     }
-    if (options.wish != Wish::Work) {
-        writeResult(options.wish == Wish::Help ? helpText(options) : u"ortakit " ORTAKIT_VERSION "\n"_s);
+    if (options.wish == Wish::Version) {
+        writeResult(u"ortakit " ORTAKIT_VERSION "\n"_s);
         return ExitDone;
     }
-    if (!options.isUnattended() && !hasDisplay()) {
+    const bool isHelp = options.wish == Wish::Help;
+    if (!isHelp && !options.isUnattended() && !hasDisplay()) {
         writeMessage(u"there is no display for the window; see ortakit --help for what goes without one"_s);
         return ExitUsage;
     }
-    if (!options.hasWindow || !hasDisplay())
+    if (isHelp || !options.hasWindow || !hasDisplay())
         qputenv("QT_QPA_PLATFORM", "offscreen");
     if (options.isUnattended())
         qInstallMessageHandler(showToolkitMessage);
@@ -154,6 +155,10 @@ int runProgram(int argc, char **argv)
     keepSettingsIn(options.home.isEmpty() ? qEnvironmentVariable("ORTAKIT_HOME") : options.home);
     kernel::useLanguage(programLanguage(options));
     applyStyle(options.style.value_or(Style::Light));
+    if (isHelp) {
+        writeResult(helpText(options));
+        return ExitDone;
+    }
     const int status = options.use->run ? options.use->run(options) : runWindow(options);
     if (!hasLostResults())
         return status;

@@ -1,6 +1,7 @@
 // One file written as another.
 
 #include "files/qt/VisibleText.h"
+#include "host/app/batch/BatchJobs.h"
 #include "host/app/batch/BatchRuns.h"
 #include "host/app/batch/BatchWork.h"
 #include "host/app/batch/RecoveryTelling.h"
@@ -13,9 +14,9 @@
 #include "host/kernel/documents/Session.h"
 #include "host/kernel/files/FileStamp.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QJsonArray>
-#include <QJsonDocument>
 #include <QJsonObject>
 #include <QRegularExpression>
 #include <QSet>
@@ -52,11 +53,11 @@ struct PictureFile
     view::ExportResult written{};
 };
 
-/// One line of JSON; `files` are none where nothing was drawn.
-QByteArray conversionReport(const ProgramOptions &options, const std::vector<PictureFile> &files,
-                            const std::optional<drawing::RecoveryReport> &recovery)
+/// What is told of a conversion beside its files; `files` are none where nothing was drawn.
+QJsonObject conversionReport(const ProgramOptions &options, const std::vector<PictureFile> &files,
+                             const std::optional<drawing::RecoveryReport> &recovery)
 {
-    QJsonObject object{{u"input"_s, options.input}, {u"output"_s, options.output}};
+    QJsonObject object;
     view::RenderReport whole;
     QJsonArray pages;
     for (const PictureFile &file : files) {
@@ -73,7 +74,7 @@ QByteArray conversionReport(const ProgramOptions &options, const std::vector<Pic
         object.insert(u"pages"_s, pages);
     if (recovery)
         object.insert(u"recovered"_s, recoveryObject(*recovery));
-    return QJsonDocument(object).toJson(QJsonDocument::Compact) + '\n';
+    return object;
 }
 
 /// What is named outside is told once each.
@@ -241,36 +242,29 @@ int writePictures(const ProgramOptions &options, const drawing::Drawing &drawing
     return status;
 }
 
-} // namespace
-
-int convertDrawing(const ProgramOptions &options)
+/// What makes no sense whatever is in the drawing; empty when it does.
+QString wrongConversion(const ProgramOptions &options, const QString &extension)
 {
-    const QString extension = QFileInfo(options.output).suffix().toLower();
     const bool isPicture = pictureExtensions().contains(extension);
     // Saving knows best why a name for a DWG file is refused.
-    if (!isPicture && extension != "dxf"_L1 && extension != "dwg"_L1) {
-        writeMessage(
-            u"%1: the extension must be dxf, %2"_s.arg(native(options.output), pictureExtensions().join(", "_L1)));
-        return ExitUsage;
-    }
-    if (isPicture && options.isBinary) {
-        writeMessage(u"--binary is for DXF files"_s);
-        return ExitUsage;
-    }
-    if (const QString conflict = pictureConflict(options.picture, extension); !conflict.isEmpty()) {
-        writeMessage(conflict);
-        return ExitUsage;
-    }
-    const LimitWatch watch(options.timeLimit.value_or(std::chrono::milliseconds()), native(options.input));
-    // Looked at first: reading may take long.
-    if (!mayWrite(options, options.output))
-        return ExitFileError;
+    if (!isPicture && extension != "dxf"_L1 && extension != "dwg"_L1)
+        return QCoreApplication::translate("Batch", "%1: the extension must be dxf, %2")
+            .arg(native(options.output.isEmpty() ? extension : options.output), pictureExtensions().join(", "_L1));
+    if (isPicture && options.isBinary)
+        return QCoreApplication::translate("Batch", "--binary is for DXF files");
+    return pictureConflict(options.picture, extension);
+}
+
+/// Opens the input and writes the output, as long as nothing speaks against it; `result` has what is told.
+int convertOpened(const ProgramOptions &options, FileResult &result)
+{
     const ConversionInput input = openInput(options);
+    result.outcome = input.drawing ? Outcome::Done : Outcome::NotRead;
     if (!input.drawing)
         return ExitFileError;
     std::vector<PictureFile> pictures;
     int status = ExitDone;
-    if (isPicture) {
+    if (pictureExtensions().contains(QFileInfo(options.output).suffix().toLower())) {
         const auto layouts = chosenLayouts(*input.drawing, options.picture.layout);
         if (!layouts)
             return ExitUsage;
@@ -283,8 +277,83 @@ int convertDrawing(const ProgramOptions &options)
         writeMessage(error);
         status = ExitFileError;
     }
-    if (status != ExitFileError && options.withJson)
-        writeResult(QString::fromUtf8(conversionReport(options, pictures, input.report)));
+    if (status != ExitFileError) {
+        result.more = conversionReport(options, pictures, input.report);
+        for (const PictureFile &picture : pictures)
+            result.out.append(picture.path);
+        if (pictures.empty())
+            result.out.append(options.output);
+    }
+    return status;
+}
+
+Outcome outcomeOf(int status, Outcome reading)
+{
+    switch (status) {
+    case ExitDone:
+        return Outcome::Done;
+    case ExitPartly:
+        return Outcome::Incomplete;
+    case ExitCutShort:
+        return Outcome::CutShort;
+    case ExitFileError:
+        return reading == Outcome::NotRead ? Outcome::NotRead : Outcome::NotWritten;
+    default:
+        return Outcome::Failed;
+    }
+}
+
+/// Returns the status, which says more of a single conversion than the outcome does.
+int convertOne(const ProgramOptions &options, FileResult &result)
+{
+    const MessageKeeper keeper;
+    const LimitWatch watch(options.timeLimit.value_or(std::chrono::milliseconds()), native(options.input));
+    result.outcome = Outcome::Done;
+    // Looked at first: reading may take long.
+    const int status = mayWrite(options, options.output) ? convertOpened(options, result) : int(ExitFileError);
+    result.outcome = outcomeOf(status, result.outcome);
+    result.messages = keeper.messages();
+    return status;
+}
+
+/// Each to a file of its name in the folder.
+int convertMany(const ProgramOptions &options)
+{
+    if (!options.isWorker && tellClashingNames(options.drawings))
+        return ExitUsage;
+    if (!makeFolder(options.outFolder))
+        return ExitFileError;
+    return workOnFiles(options, options.drawings, [&options] {
+        return [&options](const QString &file) {
+            ProgramOptions one = options;
+            one.input = file;
+            one.output = resultPath(options.outFolder, file, options.extension);
+            FileResult result{.file = file};
+            convertOne(one, result);
+            return QList<FileResult>{result};
+        };
+    });
+}
+
+} // namespace
+
+int convertDrawing(const ProgramOptions &options)
+{
+    const bool isMany = !options.extension.isEmpty();
+    const QString extension = isMany ? options.extension : QFileInfo(options.output).suffix().toLower();
+    if (const QString wrong = wrongConversion(options, extension); !wrong.isEmpty()) {
+        writeMessage(wrong);
+        return ExitUsage;
+    }
+    if (isMany)
+        return convertMany(options);
+    FileResult result{.file = options.input};
+    const int status = convertOne(options, result);
+    if (options.withJson) {
+        BatchReport report(options);
+        report.add(result);
+        report.finish();
+    }
     return status;
 }
 

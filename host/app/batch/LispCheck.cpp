@@ -2,6 +2,7 @@
 
 #include "files/TextEncoding.h"
 #include "files/qt/Files.h"
+#include "host/app/batch/BatchReport.h"
 #include "host/app/batch/BatchRuns.h"
 #include "host/app/batch/BatchWork.h"
 #include "host/app/workbench/LimitWatch.h"
@@ -13,7 +14,6 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QJsonArray>
-#include <QJsonDocument>
 #include <QJsonObject>
 
 using namespace Qt::StringLiterals;
@@ -86,20 +86,33 @@ QString textOf(const std::vector<Finding> &findings)
     return text;
 }
 
-QString jsonOf(const std::vector<Finding> &findings)
+QJsonObject objectOfFinding(const Finding &finding)
 {
-    QJsonArray array;
-    for (const Finding &finding : findings)
-        array.append(QJsonObject{{u"file"_s, QString::fromStdString(finding.file)},
-                                 {u"line"_s, finding.at.line},
-                                 {u"column"_s, finding.at.column},
-                                 {u"severity"_s, isError(finding) ? u"error"_s : u"warning"_s},
-                                 {u"kind"_s, QString::fromLatin1(rowOf(finding.kind).name)},
-                                 {u"message"_s, QString::fromStdString(finding.message)}});
+    return {{u"line"_s, finding.at.line},
+            {u"column"_s, finding.at.column},
+            {u"severity"_s, isError(finding) ? u"error"_s : u"warning"_s},
+            {u"kind"_s, QString::fromLatin1(rowOf(finding.kind).name)},
+            {u"message"_s, QString::fromStdString(finding.message)}};
+}
+
+/// The findings of each file.
+int tellAsJson(const ProgramOptions &options, const std::vector<Finding> &findings)
+{
+    BatchReport report(options);
+    for (const QString &file : options.lispFiles) {
+        FileResult result{.file = file == "-"_L1 ? u"standard input"_s : native(file)};
+        QJsonArray array;
+        for (const Finding &finding : findings)
+            if (QString::fromStdString(finding.file) == result.file)
+                array.append(objectOfFinding(finding));
+        result.outcome = array.isEmpty() ? Outcome::Done : Outcome::Failed;
+        result.more.insert(u"findings"_s, array);
+        report.add(result);
+    }
     const auto errors = static_cast<int>(std::ranges::count_if(findings, isError));
-    const QJsonObject all{
-        {u"findings"_s, array}, {u"errors"_s, errors}, {u"warnings"_s, static_cast<int>(findings.size()) - errors}};
-    return QString::fromUtf8(QJsonDocument(all).toJson(QJsonDocument::Compact)) + u'\n';
+    report.addToSummary(u"errors"_s, errors);
+    report.addToSummary(u"warnings"_s, static_cast<int>(findings.size()) - errors);
+    return report.finish();
 }
 
 } // namespace
@@ -118,8 +131,10 @@ int checkLispFiles(const ProgramOptions &options)
     addTools(sources, *document, options.lispFiles);
     std::vector<Finding> findings = check(sources, nativeArities(document->interpreter()));
     std::erase_if(findings, [&options](const Finding &finding) { return !isWanted(finding, options); });
-    writeResult(options.withJson ? jsonOf(findings) : textOf(findings));
     workbench.documents().close(document);
+    if (options.withJson)
+        return tellAsJson(options, findings);
+    writeResult(textOf(findings));
     return findings.empty() ? ExitDone : ExitFailed;
 }
 

@@ -148,6 +148,8 @@ ProgramOptions parseArguments(const QStringList &arguments)
         options.error = wrongCommand(words.first());
     if (options.error.isEmpty())
         options.error = options.use->assign(options, words);
+    if (options.wish == Wish::Help && options.use)
+        options.commandName = options.use->title();
     return options;
 }
 

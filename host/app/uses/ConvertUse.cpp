@@ -38,11 +38,39 @@ QString setThin(ProgramOptions &options, const QString &)
 
 QString assignToConvert(ProgramOptions &options, const QStringList &words)
 {
+    if (options.extension.isEmpty() != options.outFolder.isEmpty())
+        return QCoreApplication::translate("Uses", "--to and --out go together");
+    if (!options.extension.isEmpty()) {
+        options.drawings = words;
+        return words.isEmpty() ? QCoreApplication::translate("Uses", "convert needs drawings") : QString();
+    }
+    if (options.jobs > 0)
+        return QCoreApplication::translate("Uses", "-j goes with --to and --out");
     if (words.size() != 2)
         return QCoreApplication::translate("Uses", "convert needs two files");
     options.input = words[0];
     options.output = words[1];
     return {};
+}
+
+UseSection manySection()
+{
+    return {.heading = QT_TRANSLATE_NOOP("Uses", "Many drawings"),
+            .text =
+                QT_TRANSLATE_NOOP("Uses", "With --to and --out all words are drawings, and each becomes a file of its "
+                                          "name in the folder. What became of them is told on standard output, a line "
+                                          "each. The time limit is that of each."),
+            .options = {{.name = "--to",
+                         .value = "dxf|png|svg|pdf",
+                         .help = QT_TRANSLATE_NOOP("Uses", "what they become"),
+                         .apply = takeText<&ProgramOptions::extension>,
+                         .kind = ValueKind::Choice},
+                        {.name = "--out",
+                         .value = "DIR",
+                         .help = QT_TRANSLATE_NOOP("Uses", "where they go"),
+                         .apply = takeText<&ProgramOptions::outFolder>,
+                         .kind = ValueKind::Folder},
+                        jobsOption()}};
 }
 
 /// What a picture shows and how.
@@ -138,9 +166,11 @@ QList<OptionRow> conversionOptions()
         recoverOption(QT_TRANSLATE_NOOP("Uses", "open a damaged IN as far as it is sound, and tell on standard error "
                                                 "what was dropped; OUT must be another file")),
         jsonOption(QT_TRANSLATE_NOOP(
-            "Uses", "print one line of JSON: input, output, and of pictures complete, drawn, invisible, inPart and "
-                    "notDrawn (a number for each type) and cutShort; with --layout all of it for each of the pages, "
-                    "with layout and output; with --recover the same of what was dropped, mended and added"))};
+            "Uses",
+            "print one line of JSON: of each drawing file, status, messages and out; of pictures complete, drawn, "
+            "invisible, inPart and notDrawn (a number for each type) and cutShort; with --layout all of it for "
+            "each of the pages, with layout and output; with --recover the same of what was dropped, mended and "
+            "added"))};
 }
 
 } // namespace
@@ -150,7 +180,8 @@ UseRow convertUse()
     return {
         .name = "convert",
         .purpose = QT_TRANSLATE_NOOP("Uses", "writes a drawing as DXF, PNG, SVG or PDF"),
-        .usages = {"convert IN OUT [--layout NAME] [--paper A3] [--scale 1:50] [OPTION...]"},
+        .usages = {"convert IN OUT [--layout NAME] [--paper A3] [--scale 1:50] [OPTION...]",
+                   "convert IN... --to EXTENSION --out DIR [-j N] [OPTION...]"},
         .operands = {{.name = "IN", .help = QT_TRANSLATE_NOOP("Uses", "the drawing"), .files = "*.dxf *.dwg"},
                      {.name = "OUT",
                       .help = QT_TRANSLATE_NOOP("Uses", "the file to write, as what its extension says"),
@@ -166,7 +197,8 @@ UseRow convertUse()
                           "Uses",
                           "Without the options of a sheet, png and svg show all of model space in 1600 by 1200 pixels, "
                           "with the lineweights that it would have on a sheet 297 mm long; pdf shows it on A4."),
-                      .options = pictureOptions()}},
+                      .options = pictureOptions()},
+                     manySection()},
         .assign = assignToConvert,
         .run = convertDrawing};
 }

@@ -85,14 +85,27 @@ QString usageHelp(const UseRow &use)
     return text + u'\n';
 }
 
+QString entriesHelp(const UseRow &use, const ProgramOptions &options)
+{
+    const auto entries = use.entries ? use.entries(options) : QList<std::pair<QString, QString>>();
+    QStringList names;
+    for (const auto &[name, text] : entries)
+        names.append(name);
+    QString text;
+    for (const auto &[name, about] : entries)
+        text += entry(name, about, columnFor(names));
+    return text.isEmpty() ? text : headingOf(use.entriesHeading) + text + u'\n';
+}
+
 QString commandsHelp(bool ofTools, const QString &heading)
 {
     QStringList names;
     for (const UseRow &row : allUses())
-        names.append(row.title());
+        if (row.isOfTool == ofTools && !row.needsSession)
+            names.append(row.title());
     QString text;
     for (const UseRow &row : allUses())
-        if (*row.name && row.isOfTool == ofTools)
+        if (*row.name && row.isOfTool == ofTools && !row.needsSession && !row.isHidden)
             text += entry(row.title(), usesText(row.purpose), columnFor(names));
     return text.isEmpty() ? text : heading + u"\n"_s + text + u'\n';
 }
@@ -110,8 +123,10 @@ QString helpText(const ProgramOptions &options)
             text += commandsHelp(false, QCoreApplication::translate("Uses", "Commands:")) +
                     commandsHelp(true, QCoreApplication::translate("Uses", "Drafting tools without their dialogs:"));
     }
-    if (use.more)
-        text += use.more(options) + u'\n';
+    text += entriesHelp(use, options);
+    if (*use.example)
+        text += QCoreApplication::translate("Uses", "Example:") + u"\n  ortakit "_s + QLatin1StringView(use.example) +
+                u"\n\n"_s;
     text += QCoreApplication::translate("Uses", "Options for every use:") + u'\n' + optionEntries(commonOptions());
     return text + u'\n' + filled(exitStatusText(), {}, 0);
 }

@@ -58,12 +58,12 @@ int runLisp(const ProgramOptions &options)
 }
 
 /// The kinds of findings, which have a table of their own.
-QString kindsHelp(const ProgramOptions &)
+QList<std::pair<QString, QString>> kindEntries(const ProgramOptions &)
 {
-    QString text = QCoreApplication::translate("Uses", "Kinds of findings:") + u'\n';
+    QList<std::pair<QString, QString>> entries;
     for (const lisp::checking::FindingKindRow &row : lisp::checking::findingKinds())
-        text += u"  %1 %2\n"_s.arg(QLatin1StringView(row.name), -18).arg(QString::fromUtf8(row.help));
-    return text;
+        entries.append({QString::fromLatin1(row.name), QString::fromUtf8(row.help)});
+    return entries;
 }
 
 UseSection lispRunSection()
@@ -175,7 +175,8 @@ UseRow lispUse()
             .sections = {lispRunSection(), lispPromptSection(), lispCheckSection(), lispTestSection()},
             .assign = assignToLisp,
             .run = runLisp,
-            .more = kindsHelp};
+            .entriesHeading = QT_TRANSLATE_NOOP("Uses", "Kinds of findings"),
+            .entries = kindEntries};
 }
 
 } // namespace host::app

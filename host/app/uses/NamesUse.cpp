@@ -1,6 +1,7 @@
 // What the program tells about itself.
 
 #include "host/app/batch/BatchRuns.h"
+#include "host/app/uses/UseForms.h"
 #include "host/app/uses/UseRows.h"
 
 #include <QCoreApplication>
@@ -14,6 +15,16 @@ namespace {
 QString assignToNames(ProgramOptions &, const QStringList &words)
 {
     return words.isEmpty() ? QString() : QCoreApplication::translate("Uses", "names takes no word");
+}
+
+QString assignToUses(ProgramOptions &options, const QStringList &words)
+{
+    const QString kind = words.value(0);
+    const bool hasFolder = kind == "man"_L1 || kind == "completions"_L1;
+    if ((!hasFolder && kind != "document"_L1) || words.size() != (hasFolder ? 2 : 1))
+        return QCoreApplication::translate("Uses", "uses takes man DIR, completions DIR or document");
+    options.lispFiles = words;
+    return {};
 }
 
 /// "help" alone tells about the program as a whole.
@@ -52,6 +63,23 @@ UseRow namesUse()
                                   "ask for.")}},
         .assign = assignToNames,
         .run = listNames};
+}
+
+UseRow usesUse()
+{
+    return {
+        .name = "uses",
+        .purpose = QT_TRANSLATE_NOOP("Uses", "writes manual pages, completions and a document about the commands"),
+        .usages = {"uses man DIR", "uses completions DIR", "uses document"},
+        .operands = {},
+        .sections = {{.heading = "",
+                      .text = QT_TRANSLATE_NOOP(
+                          "Uses", "Writes ortakit(1) and a page for each command to a folder, the completions of bash, "
+                                  "zsh and fish to their places below a folder, or the sections of docs/cli.md to "
+                                  "standard output.")}},
+        .assign = assignToUses,
+        .run = writeUses,
+        .isHidden = true};
 }
 
 UseRow helpUse()

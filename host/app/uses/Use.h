@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/app/workbench/NearestName.h"
 #include "host/app/workbench/ProgramOptions.h"
 
 #include <QList>
@@ -82,9 +83,15 @@ struct UseRow
     QString (*assign)(ProgramOptions &, const QStringList &words);
     /// Does the work with an application made, and returns the status to end with; null for the window.
     int (*run)(const ProgramOptions &);
-    /// What is added to the help when it is asked for, as a row can not know it beforehand; null: nothing.
-    QString (*more)(const ProgramOptions &) = nullptr;
-    bool isOfTool = false; ///< runs a drafting tool: listed apart
+    /// Names and what is told of them that stand behind the sections: values of an option that have a table of their
+    /// own.
+    const char *entriesHeading = "";
+    /// Gives them when they are asked for, with an application made; null: there are none.
+    QList<std::pair<QString, QString>> (*entries)(const ProgramOptions &) = nullptr;
+    const char *example = "";  ///< a command line, behind "ortakit "
+    bool isOfTool = false;     ///< runs a drafting tool: listed apart
+    bool isHidden = false;     ///< for the program's own build: told about nowhere else
+    bool needsSession = false; ///< of a tool: it asks for points and only says so
 
     QString title() const { return QString::fromLatin1(name); }
 };
@@ -100,11 +107,6 @@ QList<const OptionRow *> optionsOf(const UseRow &use);
 
 /// A text of the table in the user's language.
 QString usesText(const char *text);
-
-/// That of `names` which `wrong` was most likely meant to be; empty when none is near. Case does not count.
-QString nearestName(const QString &wrong, const QStringList &names);
-/// " (did you mean NAME?)" where one is near.
-QString suggestionFor(const QString &wrong, const QStringList &names);
 
 // Parts that rows are made of.
 

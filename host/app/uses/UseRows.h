@@ -12,5 +12,8 @@ UseRow lispUse();
 UseRow convertUse();
 UseRow namesUse();
 UseRow helpUse();
+UseRow usesUse();
+/// Drafting tools, by their names.
+QList<UseRow> toolUses();
 
 } // namespace host::app

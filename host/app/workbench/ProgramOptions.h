@@ -38,6 +38,20 @@ enum class Style
     Dark
 };
 
+/// Something to do in the dialog of a tool, or behind it.
+struct ToolStep
+{
+    enum class Kind
+    {
+        Set,   ///< a value into a field
+        Press, ///< a button
+        Answer ///< the value to a prompt
+    };
+    Kind kind;
+    QString key; ///< in lower case; of Answer empty
+    QString value;
+};
+
 /// What the program was asked to do.
 struct ProgramOptions
 {
@@ -57,7 +71,12 @@ struct ProgramOptions
     QString drawing;             ///< Lisp; empty: a new drawing
     QString input;               ///< Convert
     QString output;              ///< Convert
-    QString outFolder;           ///< Run
+    QString outFolder;           ///< Run, tools, Convert
+    QList<ToolStep> toolSteps;   ///< tools; in the order in which they are given
+    QString extension;           ///< Convert of many drawings: what they become, "pdf"; empty: of one
+    QString selection;           ///< tools: what they work on; empty: all that they can
+    QString stateFile;           ///< tools: values that a dialog saved; empty: none
+    bool isInPlace = false;      ///< tools: drawings are saved where they are
     bool withPictures = false;   ///< Run
     bool isStrict = false;       ///< Convert
     bool isForced = false;       ///< Run, Lisp, Convert: files are written whatever other programs do with them
