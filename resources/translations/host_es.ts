@@ -5,1882 +5,1955 @@
     <name>AimMarks</name>
     <message>
         <source>Polar: %1 &lt; %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Polar: %1 &lt; %2</translation>
     </message>
 </context>
 <context>
     <name>CKvQtColorComboBox</name>
     <message>
         <source>ByBlock</source>
-        <translation type="unfinished"></translation>
+        <translation>PorBloque</translation>
     </message>
     <message>
         <source>Red</source>
-        <translation type="unfinished"></translation>
+        <translation>Rojo</translation>
     </message>
     <message>
         <source>Yellow</source>
-        <translation type="unfinished"></translation>
+        <translation>Amarillo</translation>
     </message>
     <message>
         <source>Green</source>
-        <translation type="unfinished"></translation>
+        <translation>Verde</translation>
     </message>
     <message>
         <source>Cyan</source>
-        <translation type="unfinished"></translation>
+        <translation>Cian</translation>
     </message>
     <message>
         <source>Blue</source>
-        <translation type="unfinished"></translation>
+        <translation>Azul</translation>
     </message>
     <message>
         <source>Magenta</source>
-        <translation type="unfinished"></translation>
+        <translation>Magenta</translation>
     </message>
     <message>
         <source>White</source>
-        <translation type="unfinished"></translation>
+        <translation>Blanco</translation>
     </message>
     <message>
         <source>ByLayer</source>
-        <translation type="unfinished"></translation>
+        <translation>PorCapa</translation>
     </message>
     <message>
         <source>Color %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Color %1</translation>
     </message>
 </context>
 <context>
     <name>Commands</name>
     <message>
         <source>Specify angle vertex: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise vértice del ángulo: </translation>
     </message>
     <message>
         <source>Specify first angle endpoint: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise primer punto final del ángulo: </translation>
     </message>
     <message>
         <source>Specify second angle endpoint: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise segundo punto final del ángulo: </translation>
     </message>
     <message>
         <source>Select second line: </source>
-        <translation type="unfinished"></translation>
+        <translation>Designe segunda línea: </translation>
     </message>
     <message>
         <source>Lines are parallel.</source>
-        <translation type="unfinished"></translation>
+        <translation>Las líneas son paralelas.</translation>
     </message>
     <message>
         <source>Object selected is not a line.</source>
-        <translation type="unfinished"></translation>
+        <translation>El objeto designado no es una línea.</translation>
     </message>
     <message>
         <source>Select arc, circle, line, or &lt;specify vertex&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Designe arco, círculo, línea o &lt;precisar vértice&gt;: </translation>
     </message>
     <message>
         <source>Object selected is not an arc, circle or line.</source>
-        <translation type="unfinished"></translation>
+        <translation>El objeto designado no es un arco, un círculo ni una línea.</translation>
     </message>
     <message>
         <source>Enter text location (or press ENTER): </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique ubicación del texto (o pulse INTRO): </translation>
     </message>
     <message>
         <source>Specify dimension arc line location or [Mtext/Text/Angle/Quadrant]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise ubicación del arco de cota o [Mtext/Text/Angle/Quadrant]: </translation>
     </message>
     <message>
         <source>Specify quadrant: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise cuadrante: </translation>
     </message>
     <message>
         <source>Select arc or polyline arc segment: </source>
-        <translation type="unfinished"></translation>
+        <translation>Designe arco o segmento de arco de polilínea: </translation>
     </message>
     <message>
         <source>Object selected is not an arc or polyline arc segment.</source>
-        <translation type="unfinished"></translation>
+        <translation>El objeto designado no es un arco ni un segmento de arco de polilínea.</translation>
     </message>
     <message>
         <source>Specify first point for arc length dimension: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise primer punto de la cota de longitud de arco: </translation>
     </message>
     <message>
         <source>Specify second point for arc length dimension: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise segundo punto de la cota de longitud de arco: </translation>
     </message>
     <message>
         <source>The two points are one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los dos puntos son el mismo.</translation>
     </message>
     <message>
         <source>Specify arc length dimension location, or [Mtext/Text/Angle/Partial%1]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise ubicación de la cota de longitud de arco, o [Mtext/Text/Angle/Partial%1]: </translation>
     </message>
     <message>
         <source>A drawing of this version has no dimensions of arc lengths: they come with R2004.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un dibujo de esta versión no tiene cotas de longitud de arco: existen desde R2004.</translation>
     </message>
     <message>
         <source>
 Current attribute modes:  </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Modos de atributo actuales:  </translation>
     </message>
     <message>
         <source>Enter an option to change [Invisible/Constant/Verify/Preset] &lt;done&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique una opción que desee cambiar [Invisible/Constant/Verify/Preset] &lt;hecho&gt;: </translation>
     </message>
     <message>
         <source>Enter attribute tag name: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique identificador del atributo: </translation>
     </message>
     <message>
         <source>A tag is needed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se necesita un identificador.</translation>
     </message>
     <message>
         <source>A tag has no blanks.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un identificador no lleva espacios.</translation>
     </message>
     <message>
         <source>Enter attribute prompt: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique mensaje de solicitud del atributo: </translation>
     </message>
     <message>
         <source>Enter attribute value: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique valor del atributo: </translation>
     </message>
     <message>
         <source>Enter default attribute value: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique valor por defecto del atributo: </translation>
     </message>
     <message>
         <source>Enter attribute tag name</source>
-        <translation type="unfinished"></translation>
+        <translation>Indique identificador del atributo</translation>
     </message>
     <message>
         <source>Enter attribute prompt</source>
-        <translation type="unfinished"></translation>
+        <translation>Indique mensaje de solicitud del atributo</translation>
     </message>
     <message>
         <source>Enter default attribute value, . for none</source>
-        <translation type="unfinished"></translation>
+        <translation>Indique valor por defecto del atributo, . para ninguno</translation>
     </message>
     <message>
         <source>Enter text</source>
-        <translation type="unfinished"></translation>
+        <translation>Indique texto</translation>
     </message>
     <message>
         <source>Select an annotation object: </source>
-        <translation type="unfinished"></translation>
+        <translation>Designe un objeto de anotación: </translation>
     </message>
     <message>
         <source>Requires a text.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se requiere un texto.</translation>
     </message>
     <message>
         <source>Select continued dimension: </source>
-        <translation type="unfinished"></translation>
+        <translation>Designe cota que se continúa: </translation>
     </message>
     <message>
         <source>Select base dimension: </source>
-        <translation type="unfinished"></translation>
+        <translation>Designe cota de línea base: </translation>
     </message>
     <message>
         <source>Linear, ordinate, or angular associative dimension required.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se requiere una cota asociativa lineal, por coordenadas o angular.</translation>
     </message>
     <message>
         <source>
 All dimensions of the command are undone.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Se han deshecho todas las cotas del comando.</translation>
     </message>
     <message>
         <source>Specify feature location or [Select/Undo] &lt;Select&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise ubicación de la característica o [Select/Undo] &lt;Select&gt;: </translation>
     </message>
     <message>
         <source>Specify second extension line origin or [Select/Undo] &lt;Select&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise origen de la segunda línea de referencia o [Select/Undo] &lt;Select&gt;: </translation>
     </message>
     <message>
         <source>Specify a second extension line origin or [Select] &lt;Select&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise un origen de la segunda línea de referencia o [Select] &lt;Select&gt;: </translation>
     </message>
     <message>
         <source>Enter obliquing angle (press ENTER for none): </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique ángulo de oblicuidad (pulse INTRO para ninguno): </translation>
     </message>
     <message>
         <source>Unknown dimension variable &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Variable de cota desconocida &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>Enter new value for dimension variable &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nuevo valor de la variable de cota &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>%1 does not take this value.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 no admite este valor.</translation>
     </message>
     <message>
         <source>Enter dimension variable name to override: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nombre de la variable de cota que se modifica: </translation>
     </message>
     <message>
         <source>Enter type of dimension editing [Home/New/Rotate/Oblique] &lt;Home&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique tipo de edición de cotas [Home/New/Rotate/Oblique] &lt;Home&gt;: </translation>
     </message>
     <message>
         <source>Enter dimension text &lt;&lt;&gt;&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique texto de cota &lt;&lt;&gt;&gt;: </translation>
     </message>
     <message>
         <source>Specify angle for dimension text: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise ángulo del texto de cota: </translation>
     </message>
     <message>
         <source>Select dimension: </source>
-        <translation type="unfinished"></translation>
+        <translation>Designe cota: </translation>
     </message>
     <message>
         <source>Object selected is not a dimension.</source>
-        <translation type="unfinished"></translation>
+        <translation>El objeto designado no es una cota.</translation>
     </message>
     <message>
         <source>Specify new location for dimension text or [Left/Right/Center/Home/Angle]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise nueva ubicación del texto de cota o [Left/Right/Center/Home/Angle]: </translation>
     </message>
     <message>
         <source>Enter dimension variable name to override or [Clear overrides]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nombre de la variable de cota que se modifica o [Clear overrides]: </translation>
     </message>
     <message>
         <source>Enter new text style name</source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nombre del nuevo estilo de texto</translation>
     </message>
     <message>
         <source>Dim: </source>
-        <translation type="unfinished"></translation>
+        <translation>Cota: </translation>
     </message>
     <message>
         <source>Unknown dimension subcommand &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Subcomando de cota desconocido &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>
 Nothing that was made here is left to undo.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+No queda nada por deshacer de lo creado aquí.</translation>
     </message>
     <message>
         <source>Enter dimension style(s) to list &lt;*&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique estilos de cota que se listan &lt;*&gt;: </translation>
     </message>
     <message>
         <source>Enter a dimension style name, [?] or &lt;select dimension&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nombre de un estilo de cota, [?] o &lt;designar cota&gt;: </translation>
     </message>
     <message>
         <source>Cannot find dimension style &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se encuentra el estilo de cota &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>Enter name for new dimension style or [?]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nombre del nuevo estilo de cota o [?]: </translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no name for a dimension style.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; no es un nombre de estilo de cota.</translation>
     </message>
     <message>
         <source>That name is already in use, redefine it? [Yes/No] &lt;N&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Ese nombre ya se usa. ¿Redefinirlo? [Yes/No] &lt;N&gt;: </translation>
     </message>
     <message>
         <source>Create annotative dimension style [Yes/No] &lt;Yes&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Crear estilo de cota anotativo [Yes/No] &lt;Yes&gt;: </translation>
     </message>
     <message>
         <source>
 Current dimension style: </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Estilo de cota actual: </translation>
     </message>
     <message>
         <source>Enter a dimension style option [ANnotative/Save/Restore/STatus/Variables/Apply/?] &lt;Restore&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique una opción de estilo de cota [ANnotative/Save/Restore/STatus/Variables/Apply/?] &lt;Restore&gt;: </translation>
     </message>
     <message>
         <source>Specify internal point or [Properties/Select objects/draW boundary/remove Boundaries/Advanced/DRaw order/Origin/ANnotative/hatch COlor/LAyer/Transparency]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise punto interno o [Properties/Select objects/draW boundary/remove Boundaries/Advanced/DRaw order/Origin/ANnotative/hatch COlor/LAyer/Transparency]: </translation>
     </message>
     <message>
         <source>
 Too many curves cross here: choose a boundary set.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Aquí se cruzan demasiadas curvas: elija un conjunto de contornos.</translation>
     </message>
     <message>
         <source>
 Valid hatch boundary not found.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+No se ha encontrado un contorno de sombreado válido.</translation>
     </message>
     <message>
         <source>
 The objects make no closed boundary.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Los objetos no forman un contorno cerrado.</translation>
     </message>
     <message>
         <source>Retain polyline boundary? [Yes/No] &lt;N&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>¿Conservar el contorno de polilínea? [Yes/No] &lt;N&gt;: </translation>
     </message>
     <message>
         <source>Specify start point: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise punto inicial: </translation>
     </message>
     <message>
         <source>Specify next point or [Close/Undo] &lt;Close&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise punto siguiente o [Close/Undo] &lt;Close&gt;: </translation>
     </message>
     <message>
         <source>Specify start point for new boundary or &lt;Accept&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise punto inicial de un contorno nuevo o &lt;aceptar&gt;: </translation>
     </message>
     <message>
         <source>Select boundary to remove: </source>
-        <translation type="unfinished"></translation>
+        <translation>Designe contorno que se elimina: </translation>
     </message>
     <message>
         <source>
 Current hatch pattern:  </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Patrón de sombreado actual:  </translation>
     </message>
     <message>
         <source>Enter an option [Boundary set/Island detection/Object type] &lt;eXit&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique una opción [Boundary set/Island detection/Object type] &lt;eXit&gt;: </translation>
     </message>
     <message>
         <source>Enter type of boundary object [Region/Polyline] &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique tipo de objeto de contorno [Region/Polyline] &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Specify internal point or [Advanced options]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise punto interno o [Advanced options]: </translation>
     </message>
     <message>
         <source>
 BOUNDARY created 1 region</source>
-        <translation type="unfinished"></translation>
+        <translation>
+BOUNDARY ha creado 1 región</translation>
     </message>
     <message>
         <source>
 BOUNDARY created 1 polyline</source>
-        <translation type="unfinished"></translation>
+        <translation>
+BOUNDARY ha creado 1 polilínea</translation>
     </message>
     <message>
         <source>
 BOUNDARY created %1 regions</source>
-        <translation type="unfinished"></translation>
+        <translation>
+BOUNDARY ha creado %1 regiones</translation>
     </message>
     <message>
         <source>
 BOUNDARY created %1 polylines</source>
-        <translation type="unfinished"></translation>
+        <translation>
+BOUNDARY ha creado %1 polilíneas</translation>
     </message>
     <message>
         <source>Enter pattern(s) to list &lt;*&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique patrones que se listan &lt;*&gt;: </translation>
     </message>
     <message>
         <source>Specify angle for crosshatch lines &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise ángulo de las líneas de sombreado &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Specify spacing between the lines &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise separación entre las líneas &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Double hatch area? [Yes/No] &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>¿Sombreado doble? [Yes/No] &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Specify a scale for the pattern &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise escala del patrón &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Specify an angle for the pattern &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise ángulo del patrón &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Enter new color or [. (for use current)] &lt;.&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nuevo color o [. (for use current)] &lt;.&gt;: </translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no colour.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; no es un color.</translation>
     </message>
     <message>
         <source>Specify new layer name or [. (for use current)] &lt;.&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise nombre de nueva capa o [. (for use current)] &lt;.&gt;: </translation>
     </message>
     <message>
         <source>Cannot find layer &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se encuentra la capa &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>Enter new transparency value (0-90) or [. (for use current)] &lt;.&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nuevo valor de transparencia (0-90) o [. (for use current)] &lt;.&gt;: </translation>
     </message>
     <message>
         <source>Requires a whole number from 0 to 90.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se requiere un número entero de 0 a 90.</translation>
     </message>
     <message>
         <source>Enter draw order [do Not assign/send to Back/bring to Front/send beHind boundary/bring in front of bounDary] &lt;send behind boundary&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique orden de dibujo [do Not assign/send to Back/bring to Front/send beHind boundary/bring in front of bounDary] &lt;detrás del contorno&gt;: </translation>
     </message>
     <message>
         <source>[Use current origin/Set new origin] &lt;Use current origin&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>[Use current origin/Set new origin] &lt;Use current origin&gt;: </translation>
     </message>
     <message>
         <source>Specify point: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise punto: </translation>
     </message>
     <message>
         <source>Store as default origin? [Yes/No] &lt;N&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>¿Guardar como origen por defecto? [Yes/No] &lt;N&gt;: </translation>
     </message>
     <message>
         <source>Unknown hatch pattern &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Patrón de sombreado desconocido &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>Enter a pattern name or [?/Solid/User defined] &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nombre de un patrón o [?/Solid/User defined] &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Enter hatching style [Ignore/Outer/Normal] &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique estilo de sombreado [Ignore/Outer/Normal] &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Specify candidate set for boundary [New/Everything] &lt;Everything&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise conjunto de candidatos para el contorno [New/Everything] &lt;Everything&gt;: </translation>
     </message>
     <message>
         <source>Do you want island detection? [Yes/No] &lt;Y&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>¿Desea detectar islas? [Yes/No] &lt;Y&gt;: </translation>
     </message>
     <message>
         <source>Enter an option [Boundary set/Retain boundary/Island detection/Style/Associativity/Gap tolerance/separate Hatches] &lt;eXit&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique una opción [Boundary set/Retain boundary/Island detection/Style/Associativity/Gap tolerance/separate Hatches] &lt;eXit&gt;: </translation>
     </message>
     <message>
         <source>Retain derived boundaries? [Yes/No] &lt;N&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>¿Conservar los contornos obtenidos? [Yes/No] &lt;N&gt;: </translation>
     </message>
     <message>
         <source>Do you want associativity? [Yes/No] &lt;Y&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>¿Desea asociatividad? [Yes/No] &lt;Y&gt;: </translation>
     </message>
     <message>
         <source>Specify a boundary gap tolerance value &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise tolerancia de huecos del contorno &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Create separate hatches? [Yes/No] &lt;N&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>¿Crear sombreados separados? [Yes/No] &lt;N&gt;: </translation>
     </message>
     <message>
         <source>Create annotative hatch [Yes/No] &lt;N&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Crear sombreado anotativo [Yes/No] &lt;N&gt;: </translation>
     </message>
     <message>
         <source>Annotative hatches are not made.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se crean sombreados anotativos.</translation>
     </message>
     <message>
         <source>
 A boundary needs three points.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Un contorno necesita tres puntos.</translation>
     </message>
     <message>
         <source>
 A drawing of this version keeps no draw order.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Un dibujo de esta versión no guarda orden de dibujo.</translation>
     </message>
     <message>
         <source>The hatch spacing is too dense, or the dash size too small.</source>
-        <translation type="unfinished"></translation>
+        <translation>El sombreado es demasiado denso o los trazos demasiado pequeños.</translation>
     </message>
     <message>
         <source>
 No polyline can follow the boundary: it has pieces of ellipses or splines.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Ninguna polilínea puede seguir el contorno: tiene trozos de elipses o splines.</translation>
     </message>
     <message>
         <source>Select hatch object: </source>
-        <translation type="unfinished"></translation>
+        <translation>Designe objeto de sombreado: </translation>
     </message>
     <message>
         <source>Object selected is not a hatch.</source>
-        <translation type="unfinished"></translation>
+        <translation>El objeto designado no es un sombreado.</translation>
     </message>
     <message>
         <source>Enter hatch option [DIsassociate/Style/Properties/Origin/ANnotative/hatch COlor/LAyer/Transparency] &lt;Properties&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique opción de sombreado [DIsassociate/Style/Properties/Origin/ANnotative/hatch COlor/LAyer/Transparency] &lt;Properties&gt;: </translation>
     </message>
     <message>
         <source>Specify first endpoint of text baseline: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise primer punto final de la línea base del texto: </translation>
     </message>
     <message>
         <source>Specify start point of text: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise punto inicial del texto: </translation>
     </message>
     <message>
         <source>Specify center point of text: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise punto central del texto: </translation>
     </message>
     <message>
         <source>Specify right endpoint of text baseline: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise punto final derecho de la línea base del texto: </translation>
     </message>
     <message>
         <source>Specify middle point of text: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise punto medio del texto: </translation>
     </message>
     <message>
         <source>Specify top-left point of text: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise punto superior izquierdo del texto: </translation>
     </message>
     <message>
         <source>Specify top-center point of text: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise punto superior central del texto: </translation>
     </message>
     <message>
         <source>Specify top-right point of text: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise punto superior derecho del texto: </translation>
     </message>
     <message>
         <source>Specify middle-left point of text: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise punto medio izquierdo del texto: </translation>
     </message>
     <message>
         <source>Specify middle-center point of text: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise punto medio central del texto: </translation>
     </message>
     <message>
         <source>Specify middle-right point of text: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise punto medio derecho del texto: </translation>
     </message>
     <message>
         <source>Specify bottom-left point of text: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise punto inferior izquierdo del texto: </translation>
     </message>
     <message>
         <source>Specify bottom-center point of text: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise punto inferior central del texto: </translation>
     </message>
     <message>
         <source>Specify bottom-right point of text: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise punto inferior derecho del texto: </translation>
     </message>
     <message>
         <source>Enter an option [%1]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique una opción [%1]: </translation>
     </message>
     <message>
         <source>Enter next line of annotation text: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique siguiente línea del texto de anotación: </translation>
     </message>
     <message>
         <source>A text, tolerance or block reference is needed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se necesita un texto, una tolerancia o una referencia de bloque.</translation>
     </message>
     <message>
         <source>Enter block name: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nombre del bloque: </translation>
     </message>
     <message>
         <source>Cannot find block &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se encuentra el bloque &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>Enter scale factor &lt;1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique factor de escala &lt;1&gt;: </translation>
     </message>
     <message>
         <source>Specify rotation angle &lt;0&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise ángulo de rotación &lt;0&gt;: </translation>
     </message>
     <message>
         <source>Enter tolerance text: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique texto de tolerancia: </translation>
     </message>
     <message>
         <source>Enter an annotation option [Tolerance/Copy/Block/None/Mtext] &lt;Mtext&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique una opción de anotación [Tolerance/Copy/Block/None/Mtext] &lt;Mtext&gt;: </translation>
     </message>
     <message>
         <source>Select an object to copy: </source>
-        <translation type="unfinished"></translation>
+        <translation>Designe un objeto que se copia: </translation>
     </message>
     <message>
         <source>Enter first line of annotation text: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique primera línea del texto de anotación: </translation>
     </message>
     <message>
         <source>Enter leader format option [Spline/STraight/Arrow/None] &lt;Exit&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique opción de formato de la directriz [Spline/STraight/Arrow/None] &lt;Exit&gt;: </translation>
     </message>
     <message>
         <source>Specify leader start point: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise punto inicial de la directriz: </translation>
     </message>
     <message>
         <source>Specify next point: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise punto siguiente: </translation>
     </message>
     <message>
         <source>Specify next point or [Annotation/Format/Undo] &lt;Annotation&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise punto siguiente o [Annotation/Format/Undo] &lt;Annotation&gt;: </translation>
     </message>
     <message>
         <source>Enter first line of annotation text or &lt;options&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique primera línea del texto de anotación o &lt;opciones&gt;: </translation>
     </message>
     <message>
         <source>Specify first leader point: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise primer punto de la directriz: </translation>
     </message>
     <message>
         <source>Specify text width &lt;0&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise anchura del texto &lt;0&gt;: </translation>
     </message>
     <message>
         <source>Enter first line of annotation text &lt;Mtext&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique primera línea del texto de anotación &lt;Mtext&gt;: </translation>
     </message>
     <message>
         <source>Leader start: </source>
-        <translation type="unfinished"></translation>
+        <translation>Inicio de la directriz: </translation>
     </message>
     <message>
         <source>To point: </source>
-        <translation type="unfinished"></translation>
+        <translation>Al punto: </translation>
     </message>
     <message>
         <source>Enter dimension text &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique texto de cota &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Specify first extension line origin or &lt;select object&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise origen de la primera línea de referencia o &lt;designar objeto&gt;: </translation>
     </message>
     <message>
         <source>Specify second extension line origin: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise origen de la segunda línea de referencia: </translation>
     </message>
     <message>
         <source>Select object to dimension: </source>
-        <translation type="unfinished"></translation>
+        <translation>Designe objeto que se acota: </translation>
     </message>
     <message>
         <source>Object selected is not a line, arc, circle or piece of a polyline.</source>
-        <translation type="unfinished"></translation>
+        <translation>El objeto designado no es una línea, un arco, un círculo ni un tramo de polilínea.</translation>
     </message>
     <message>
         <source>Specify angle of dimension line &lt;0&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise ángulo de la línea de cota &lt;0&gt;: </translation>
     </message>
     <message>
         <source>Specify dimension line location or [%1]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise ubicación de la línea de cota o [%1]: </translation>
     </message>
     <message>
         <source>Specify dimension line location or [Mtext/Text/Angle]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise ubicación de la línea de cota o [Mtext/Text/Angle]: </translation>
     </message>
     <message>
         <source>Specify feature location: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise ubicación de la característica: </translation>
     </message>
     <message>
         <source>Specify leader endpoint or [Xdatum/Ydatum/Mtext/Text/Angle]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise punto final de la directriz o [Xdatum/Ydatum/Mtext/Text/Angle]: </translation>
     </message>
     <message>
         <source>The object is not parallel to the current UCS.</source>
-        <translation type="unfinished"></translation>
+        <translation>El objeto no es paralelo al SCP actual.</translation>
     </message>
     <message>
         <source>Select a leader type [Straight/sPline/None]</source>
-        <translation type="unfinished"></translation>
+        <translation>Designe un tipo de directriz [Straight/sPline/None]</translation>
     </message>
     <message>
         <source>Use landing [Yes/No]</source>
-        <translation type="unfinished"></translation>
+        <translation>Usar línea de conexión [Yes/No]</translation>
     </message>
     <message>
         <source>Specify fixed landing distance</source>
-        <translation type="unfinished"></translation>
+        <translation>Precise longitud fija de la línea de conexión</translation>
     </message>
     <message>
         <source>Select a content type [Block/Mtext/None]</source>
-        <translation type="unfinished"></translation>
+        <translation>Designe un tipo de contenido [Block/Mtext/None]</translation>
     </message>
     <message>
         <source>Enter the maximum points for leader or [None] &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique número máximo de puntos de la directriz o [None] &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>A leader has two points at least.</source>
-        <translation type="unfinished"></translation>
+        <translation>Una directriz tiene al menos dos puntos.</translation>
     </message>
     <message>
         <source>Enter an option [Leader type/leader lAnding/Content type/Maxpoints/First angle/Second angle/eXit options] &lt;eXit options&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique una opción [Leader type/leader lAnding/Content type/Maxpoints/First angle/Second angle/eXit options] &lt;eXit options&gt;: </translation>
     </message>
     <message>
         <source>Enter first angle constraint &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique restricción del primer ángulo &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Enter second angle constraint &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique restricción del segundo ángulo &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Specify leader landing location: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise ubicación de la línea de conexión de la directriz: </translation>
     </message>
     <message>
         <source>Enter text: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique texto: </translation>
     </message>
     <message>
         <source>Specify first corner of text: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise primera esquina del texto: </translation>
     </message>
     <message>
         <source>Specify insertion point for block: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise punto de inserción del bloque: </translation>
     </message>
     <message>
         <source>Specify opposite corner: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise esquina opuesta: </translation>
     </message>
     <message>
         <source>Specify leader arrowhead location or [leader Landing first/Content first/Options] &lt;Options&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise ubicación de la punta de flecha de la directriz o [leader Landing first/Content first/Options] &lt;Options&gt;: </translation>
     </message>
     <message>
         <source>A drawing of this version has no multileaders: they come with R2007.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un dibujo de esta versión no tiene directrices múltiples: existen desde R2007.</translation>
     </message>
     <message>
         <source>Specify leader arrowhead location: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise ubicación de la punta de flecha de la directriz: </translation>
     </message>
     <message>
         <source>Object selected is not a multileader.</source>
-        <translation type="unfinished"></translation>
+        <translation>El objeto designado no es una directriz múltiple.</translation>
     </message>
     <message>
         <source>Select a multileader: </source>
-        <translation type="unfinished"></translation>
+        <translation>Designe una directriz múltiple: </translation>
     </message>
     <message>
         <source>Specify leaders to remove or [Add leaders]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Designe directrices que se eliminan o [Add leaders]: </translation>
     </message>
     <message>
         <source>Specify leader arrowhead location or [Remove leaders]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise ubicación de la punta de flecha de la directriz o [Remove leaders]: </translation>
     </message>
     <message>
         <source>
 The multileader has no leader there.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+La directriz múltiple no tiene ahí ninguna directriz.</translation>
     </message>
     <message>
         <source>Enter an option [Distribute/specify Spacing/Use current spacing] &lt;Use current spacing&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique una opción [Distribute/specify Spacing/Use current spacing] &lt;Use current spacing&gt;: </translation>
     </message>
     <message>
         <source>Specify spacing</source>
-        <translation type="unfinished"></translation>
+        <translation>Precise separación</translation>
     </message>
     <message>
         <source>Select multileaders: </source>
-        <translation type="unfinished"></translation>
+        <translation>Designe directrices múltiples: </translation>
     </message>
     <message>
         <source>No multileaders were selected.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha designado ninguna directriz múltiple.</translation>
     </message>
     <message>
         <source>Specify first point or [Options]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise primer punto o [Options]: </translation>
     </message>
     <message>
         <source>Specify second point: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise segundo punto: </translation>
     </message>
     <message>
         <source>Select multileader to align to or [Options]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Designe directriz múltiple con la que se alinea o [Options]: </translation>
     </message>
     <message>
         <source>Specify direction: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise dirección: </translation>
     </message>
     <message>
         <source>Specify angle of dimension text: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise ángulo del texto de cota: </translation>
     </message>
     <message>
         <source>
 Dimension text = </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Texto de cota = </translation>
     </message>
     <message>
         <source>Enter justification [%1]</source>
-        <translation type="unfinished"></translation>
+        <translation>Indique justificación [%1]</translation>
     </message>
     <message>
         <source>Enter line spacing type [At least/Exactly]</source>
-        <translation type="unfinished"></translation>
+        <translation>Indique tipo de interlineado [At least/Exactly]</translation>
     </message>
     <message>
         <source>Enter line spacing factor or distance &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique factor o distancia de interlineado &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Lines are 0.25x to 4x of the usual distance apart.</source>
-        <translation type="unfinished"></translation>
+        <translation>Las líneas distan entre 0.25x y 4x de la distancia habitual.</translation>
     </message>
     <message>
         <source>Specify total width</source>
-        <translation type="unfinished"></translation>
+        <translation>Precise anchura total</translation>
     </message>
     <message>
         <source>Specify number of columns &lt;2&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise número de columnas &lt;2&gt;: </translation>
     </message>
     <message>
         <source>Specify gutter width</source>
-        <translation type="unfinished"></translation>
+        <translation>Precise anchura del medianil</translation>
     </message>
     <message>
         <source>So many columns do not fit into this width.</source>
-        <translation type="unfinished"></translation>
+        <translation>No caben tantas columnas en esta anchura.</translation>
     </message>
     <message>
         <source>Specify column width</source>
-        <translation type="unfinished"></translation>
+        <translation>Precise anchura de columna</translation>
     </message>
     <message>
         <source>Enter column type [Dynamic/Static/No columns]</source>
-        <translation type="unfinished"></translation>
+        <translation>Indique tipo de columnas [Dynamic/Static/No columns]</translation>
     </message>
     <message>
         <source>A drawing of this version has no columns in texts: they come with R2007.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un dibujo de esta versión no tiene columnas en los textos: existen desde R2007.</translation>
     </message>
     <message>
         <source>Specify column height</source>
-        <translation type="unfinished"></translation>
+        <translation>Precise altura de columna</translation>
     </message>
     <message>
         <source>Specify height</source>
-        <translation type="unfinished"></translation>
+        <translation>Precise altura</translation>
     </message>
     <message>
         <source>Specify rotation angle &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise ángulo de rotación &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Specify width</source>
-        <translation type="unfinished"></translation>
+        <translation>Precise anchura</translation>
     </message>
     <message>
         <source>Specify first corner: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise primera esquina: </translation>
     </message>
     <message>
         <source>Specify opposite corner or [Height/Justify/Line spacing/Rotation/Style/Width/Columns]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise esquina opuesta o [Height/Justify/Line spacing/Rotation/Style/Width/Columns]: </translation>
     </message>
     <message>
         <source>
 Current text style:  &quot;%1&quot;  Text height:  %2</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Estilo de texto actual:  &quot;%1&quot;  Altura de texto:  %2</translation>
     </message>
     <message>
         <source>MText: </source>
-        <translation type="unfinished"></translation>
+        <translation>TextoM: </translation>
     </message>
     <message>
         <source>No texts were selected.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha designado ningún texto.</translation>
     </message>
     <message>
         <source>
 %1 texts became one paragraph.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 textos se han convertido en un párrafo.</translation>
     </message>
     <message>
         <source>Object selected is not a circle or arc.</source>
-        <translation type="unfinished"></translation>
+        <translation>El objeto designado no es un círculo ni un arco.</translation>
     </message>
     <message>
         <source>Specify dimension line location or leader length for text: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise ubicación de la línea de cota o longitud de directriz para el texto: </translation>
     </message>
     <message>
         <source>A drawing of this version has no jogged dimensions of radii: they come with R2004.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un dibujo de esta versión no tiene cotas de radio con recodo: existen desde R2004.</translation>
     </message>
     <message>
         <source>Select arc or circle: </source>
-        <translation type="unfinished"></translation>
+        <translation>Designe arco o círculo: </translation>
     </message>
     <message>
         <source>Specify center location override: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise ubicación sustituta del centro: </translation>
     </message>
     <message>
         <source>Specify jog location: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise ubicación del recodo: </translation>
     </message>
     <message>
         <source>DIMCEN is 0: there is no centre mark.</source>
-        <translation type="unfinished"></translation>
+        <translation>DIMCEN es 0: no hay marca de centro.</translation>
     </message>
     <message>
         <source>Enter name of text style</source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nombre del estilo de texto</translation>
     </message>
     <message>
         <source>Invalid style name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre de estilo no válido.</translation>
     </message>
     <message>
         <source>Specify full font name or font filename (TTF or SHX) &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise nombre completo de fuente o archivo de fuente (TTF o SHX) &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Specify height of text</source>
-        <translation type="unfinished"></translation>
+        <translation>Precise altura del texto</translation>
     </message>
     <message>
         <source>Specify width factor</source>
-        <translation type="unfinished"></translation>
+        <translation>Precise factor de anchura</translation>
     </message>
     <message>
         <source>Specify obliquing angle &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise ángulo de oblicuidad &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>The obliquing angle is from -85 to 85 degrees.</source>
-        <translation type="unfinished"></translation>
+        <translation>El ángulo de oblicuidad va de -85 a 85 grados.</translation>
     </message>
     <message>
         <source>Display text backwards?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Mostrar texto hacia atrás?</translation>
     </message>
     <message>
         <source>Display text upside-down?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Mostrar texto cabeza abajo?</translation>
     </message>
     <message>
         <source>
 Existing style.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Estilo existente.</translation>
     </message>
     <message>
         <source>
 New style.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Estilo nuevo.</translation>
     </message>
     <message>
         <source>
 &quot;%1&quot; is now the current text style.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+&quot;%1&quot; es ahora el estilo de texto actual.</translation>
     </message>
     <message>
         <source>Specify start point of text or [Justify/Style]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise punto inicial del texto o [Justify/Style]: </translation>
     </message>
     <message>
         <source>There is no text to go on below.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay texto debajo del cual continuar.</translation>
     </message>
     <message>
         <source>Specify second endpoint of text baseline: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise segundo punto final de la línea base del texto: </translation>
     </message>
     <message>
         <source>Specify height &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise altura &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Specify rotation angle of text &lt;0&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise ángulo de rotación del texto &lt;0&gt;: </translation>
     </message>
     <message>
         <source>The two endpoints are one point.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los dos puntos finales son el mismo punto.</translation>
     </message>
     <message>
         <source>
 Style name: &quot;%1&quot;  Font files: %2  Height: %3  Width factor: %4</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Nombre de estilo: &quot;%1&quot;  Archivos de fuente: %2  Altura: %3  Factor de anchura: %4</translation>
     </message>
     <message>
         <source>%1 or [?] &lt;%2&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>%1 o [?] &lt;%2&gt;: </translation>
     </message>
     <message>
         <source>Enter text style(s) to list &lt;*&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique estilos de texto que se listan &lt;*&gt;: </translation>
     </message>
     <message>
         <source>Enter style name</source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nombre del estilo</translation>
     </message>
     <message>
         <source>Cannot find text style &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se encuentra el estilo de texto &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>
 Cannot find file &quot;%1&quot; of reference &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+No se encuentra el archivo &quot;%1&quot; de la referencia &quot;%2&quot;.</translation>
     </message>
     <message>
         <source>
 Warning: &quot;%1&quot; shows this drawing, which is left out there.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Advertencia: &quot;%1&quot; muestra este dibujo, que se omite allí.</translation>
     </message>
     <message>
         <source>
 &quot;%1&quot; loaded.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+&quot;%1&quot; cargada.</translation>
     </message>
     <message>
         <source>Cannot find file &quot;%1&quot; of reference &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se encuentra el archivo &quot;%1&quot; de la referencia &quot;%2&quot;.</translation>
     </message>
     <message>
         <source>
 &quot;%1&quot; is a block of this drawing now.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+&quot;%1&quot; es ahora un bloque de este dibujo.</translation>
     </message>
     <message>
         <source> %1 of its records could not be taken over.</source>
-        <translation type="unfinished"></translation>
+        <translation> No se han podido incorporar %1 de sus registros.</translation>
     </message>
     <message>
         <source>Enter an option [?/Name/Select] &lt;Select&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique una opción [?/Name/Select] &lt;Select&gt;: </translation>
     </message>
     <message>
         <source>
 Blocks with attributes:
   </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Bloques con atributos:
+  </translation>
     </message>
     <message>
         <source>Enter name of block to synchronize or [?]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nombre del bloque que se sincroniza o [?]: </translation>
     </message>
     <message>
         <source>Select a block: </source>
-        <translation type="unfinished"></translation>
+        <translation>Designe un bloque: </translation>
     </message>
     <message>
         <source>That is no block reference.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eso no es una referencia de bloque.</translation>
     </message>
     <message>
         <source>ATTSYNC block %1? [Yes/No] &lt;Yes&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>¿Aplicar ATTSYNC al bloque %1? [Yes/No] &lt;Yes&gt;: </translation>
     </message>
     <message>
         <source>Block &quot;%1&quot; not found.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se encuentra el bloque &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>
 %1 block references were synchronized.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 referencias de bloque sincronizadas.</translation>
     </message>
     <message>
         <source>Enter block name specification &lt;*&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique filtro de nombre de bloque &lt;*&gt;: </translation>
     </message>
     <message>
         <source>Enter attribute tag specification &lt;*&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique filtro de identificador de atributo &lt;*&gt;: </translation>
     </message>
     <message>
         <source>Enter attribute value specification &lt;*&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique filtro de valor de atributo &lt;*&gt;: </translation>
     </message>
     <message>
         <source>
 %1 attributes selected.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 atributos designados.</translation>
     </message>
     <message>
         <source>Enter string to change: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique cadena que se cambia: </translation>
     </message>
     <message>
         <source>Enter new string: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nueva cadena: </translation>
     </message>
     <message>
         <source>Enter type of value modification [Change/Replace] &lt;R&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique tipo de modificación del valor [Change/Replace] &lt;R&gt;: </translation>
     </message>
     <message>
         <source>Enter new attribute value: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nuevo valor del atributo: </translation>
     </message>
     <message>
         <source>Specify new height &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise nueva altura &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Enter new layer name: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nombre de nueva capa: </translation>
     </message>
     <message>
         <source>Enter an option [Value/Height/Layer/Next] &lt;N&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique una opción [Value/Height/Layer/Next] &lt;N&gt;: </translation>
     </message>
     <message>
         <source>Edit attributes one at a time? [Yes/No] &lt;Y&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>¿Editar los atributos uno por uno? [Yes/No] &lt;Y&gt;: </translation>
     </message>
     <message>
         <source>Edit only attributes visible on screen? [Yes/No] &lt;Y&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>¿Editar solo los atributos visibles en pantalla? [Yes/No] &lt;Y&gt;: </translation>
     </message>
     <message>
         <source>%1, . for none &lt;%2&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>%1, . para ninguno &lt;%2&gt;: </translation>
     </message>
     <message>
         <source>The block has no attributes.</source>
-        <translation type="unfinished"></translation>
+        <translation>El bloque no tiene atributos.</translation>
     </message>
     <message>
         <source>Enter number or tag of attribute or [?] &lt;exit&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique número o identificador del atributo o [?] &lt;salir&gt;: </translation>
     </message>
     <message>
         <source>The value of %1 is constant.</source>
-        <translation type="unfinished"></translation>
+        <translation>El valor de %1 es constante.</translation>
     </message>
     <message>
         <source>There is no attribute &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ningún atributo &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>
 Defined blocks.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Bloques definidos.</translation>
     </message>
     <message>
         <source>
 %1 user blocks.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 bloques de usuario.</translation>
     </message>
     <message>
         <source>Enter block name or [?]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nombre de bloque o [?]: </translation>
     </message>
     <message>
         <source>Enter block(s) to list &lt;*&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique bloques que se listan &lt;*&gt;: </translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be the name of a block.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; no puede ser el nombre de un bloque.</translation>
     </message>
     <message>
         <source>Block &quot;%1&quot; cannot be redefined.</source>
-        <translation type="unfinished"></translation>
+        <translation>El bloque &quot;%1&quot; no se puede redefinir.</translation>
     </message>
     <message>
         <source>Block &quot;%1&quot; already exists. Redefine it? [Yes/No] &lt;N&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>El bloque &quot;%1&quot; ya existe. ¿Redefinirlo? [Yes/No] &lt;N&gt;: </translation>
     </message>
     <message>
         <source>Block &quot;%1&quot; would show itself.</source>
-        <translation type="unfinished"></translation>
+        <translation>El bloque &quot;%1&quot; se mostraría a sí mismo.</translation>
     </message>
     <message>
         <source>Specify insertion base point or [Annotative]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise punto base de inserción o [Annotative]: </translation>
     </message>
     <message>
         <source>
 Blocks are made without annotation scales.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Los bloques se crean sin escalas de anotación.</translation>
     </message>
     <message>
         <source>Create annotative block? [Yes/No] &lt;N&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>¿Crear bloque anotativo? [Yes/No] &lt;N&gt;: </translation>
     </message>
     <message>
         <source>Enter base point &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique punto base &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>
 %1 field(s) found
 %1 field(s) updated</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 campo(s) encontrado(s)
+%1 campo(s) actualizado(s)</translation>
     </message>
     <message>
         <source>Specify first point: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise primer punto: </translation>
     </message>
     <message>
         <source>Specify next point or [Undo]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise punto siguiente o [Undo]: </translation>
     </message>
     <message>
         <source>Select polyline: </source>
-        <translation type="unfinished"></translation>
+        <translation>Designe polilínea: </translation>
     </message>
     <message>
         <source>Specify clipping boundary or select invert option: [Select polyline/Polygonal/Rectangular/Invert clip] &lt;Rectangular&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise contorno delimitador o elija la opción de inversión: [Select polyline/Polygonal/Rectangular/Invert clip] &lt;Rectangular&gt;: </translation>
     </message>
     <message>
         <source>
 Objects inside boundary will be hidden.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Se ocultarán los objetos del interior del contorno.</translation>
     </message>
     <message>
         <source>
 Objects outside boundary will be hidden.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Se ocultarán los objetos del exterior del contorno.</translation>
     </message>
     <message>
         <source>That encloses nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eso no encierra nada.</translation>
     </message>
     <message>
         <source>
 %1 could not be clipped.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 no se han podido delimitar.</translation>
     </message>
     <message>
         <source>Delete old boundary(s)? [Yes/No] &lt;Yes&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>¿Borrar contornos antiguos? [Yes/No] &lt;Yes&gt;: </translation>
     </message>
     <message>
         <source>No block references were chosen.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha designado ninguna referencia de bloque.</translation>
     </message>
     <message>
         <source>Enter clipping option [ON/OFF/Delete/generate Polyline/New boundary] &lt;New&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique opción de delimitación [ON/OFF/Delete/generate Polyline/New boundary] &lt;New&gt;: </translation>
     </message>
     <message>
         <source>Nothing of that can be copied.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nada de eso se puede copiar.</translation>
     </message>
     <message>
         <source>Specify base point: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise punto base: </translation>
     </message>
     <message>
         <source>The clipboard is empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>El portapapeles está vacío.</translation>
     </message>
     <message>
         <source>
 %1 could not be pasted.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 no se han podido pegar.</translation>
     </message>
     <message>
         <source>Specify insertion point: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise punto de inserción: </translation>
     </message>
     <message>
         <source>
 Defined groups.                            Selectable</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Grupos definidos.                           Seleccionable</translation>
     </message>
     <message>
         <source>Enter group name(s) to list &lt;*&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nombres de grupos que se listan &lt;*&gt;: </translation>
     </message>
     <message>
         <source>Enter a group name or [?]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nombre de un grupo o [?]: </translation>
     </message>
     <message>
         <source>Group &quot;%1&quot; does not exist.</source>
-        <translation type="unfinished"></translation>
+        <translation>El grupo &quot;%1&quot; no existe.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be the name of a group.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; no puede ser el nombre de un grupo.</translation>
     </message>
     <message>
         <source>Group &quot;%1&quot; already exists.</source>
-        <translation type="unfinished"></translation>
+        <translation>El grupo &quot;%1&quot; ya existe.</translation>
     </message>
     <message>
         <source>A group needs an entity.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un grupo necesita una entidad.</translation>
     </message>
     <message>
         <source>A drawing of this version has no groups.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un dibujo de esta versión no tiene grupos.</translation>
     </message>
     <message>
         <source>Enter a group description: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique descripción del grupo: </translation>
     </message>
     <message>
         <source>Select objects: </source>
-        <translation type="unfinished"></translation>
+        <translation>Designe objetos: </translation>
     </message>
     <message>
         <source>Enter a new name for group or [?]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nuevo nombre del grupo o [?]: </translation>
     </message>
     <message>
         <source>Enter position number of the object to reorder %1 or [Reverse]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique número de posición del objeto que se reordena %1 o [Reverse]: </translation>
     </message>
     <message>
         <source>Enter new position number for the object %1: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nuevo número de posición del objeto %1: </translation>
     </message>
     <message>
         <source>Enter number of objects to reorder &lt;1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique número de objetos que se reordenan &lt;1&gt;: </translation>
     </message>
     <message>
         <source>Requires a number from 0 to %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se requiere un número de 0 a %1.</translation>
     </message>
     <message>
         <source>Is group selectable? [Yes/No] &lt;Y&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>¿Es seleccionable el grupo? [Yes/No] &lt;Y&gt;: </translation>
     </message>
     <message>
         <source>Enter a group option [?/Order/Add/Remove/Explode/REName/Selectable/Create] &lt;Create&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique una opción de grupo [?/Order/Add/Remove/Explode/REName/Selectable/Create] &lt;Create&gt;: </translation>
     </message>
     <message>
         <source>
 %1 of its entities became ones that a drawing of this version has.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 de sus entidades se han convertido en otras que existen en un dibujo de esta versión.</translation>
     </message>
     <message>
         <source>
 %1 of its entities could not be taken over.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+No se han podido incorporar %1 de sus entidades.</translation>
     </message>
     <message>
         <source>Cannot find block or file &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se encuentra el bloque o archivo &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>Enter block name or [?] &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nombre de bloque o [?] &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Specify scale factor for XYZ axes &lt;1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise factor de escala para los ejes XYZ &lt;1&gt;: </translation>
     </message>
     <message>
         <source>Specify %1 scale factor &lt;1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise factor de escala %1 &lt;1&gt;: </translation>
     </message>
     <message>
         <source>Enter %1 scale factor &lt;use X scale factor&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique factor de escala %1 &lt;usar factor de escala X&gt;: </translation>
     </message>
     <message>
         <source>Enter X scale factor or [Corner/XYZ] &lt;1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique factor de escala X o [Corner/XYZ] &lt;1&gt;: </translation>
     </message>
     <message>
         <source>Value must be nonzero.</source>
-        <translation type="unfinished"></translation>
+        <translation>El valor debe ser distinto de cero.</translation>
     </message>
     <message>
         <source>Specify X scale factor &lt;1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise factor de escala X &lt;1&gt;: </translation>
     </message>
     <message>
         <source>Specify insertion point or [Scale/X/Y/Z/Rotate]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise punto de inserción o [Scale/X/Y/Z/Rotate]: </translation>
     </message>
     <message>
         <source>Specify scale factor &lt;1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise factor de escala &lt;1&gt;: </translation>
     </message>
     <message>
         <source>Cannot find file &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se encuentra el archivo &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>The drawing cannot refer to itself.</source>
-        <translation type="unfinished"></translation>
+        <translation>El dibujo no puede referirse a sí mismo.</translation>
     </message>
     <message>
         <source>The name &quot;%1&quot; is a block&apos;s already.</source>
-        <translation type="unfinished"></translation>
+        <translation>El nombre &quot;%1&quot; ya es de un bloque.</translation>
     </message>
     <message>
         <source>The name &quot;%1&quot; cannot be used.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede usar el nombre &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no drawing.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; no es un dibujo.</translation>
     </message>
     <message>
         <source>
 Xref &quot;%1&quot; has already been defined.
 Using existing definition.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+La RefX &quot;%1&quot; ya está definida.
+Se usa la definición existente.</translation>
     </message>
     <message>
         <source>
 %1 Xref &quot;%2&quot;: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 RefX &quot;%2&quot;: %3</translation>
     </message>
     <message>
         <source>
 No matching references found.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+No se han encontrado referencias coincidentes.</translation>
     </message>
     <message>
         <source>
 &quot;%1&quot; was not detached: block &quot;%2&quot; holds it.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+&quot;%1&quot; no se ha desenlazado: la contiene el bloque &quot;%2&quot;.</translation>
     </message>
     <message>
         <source>
 &quot;%1&quot; was not detached.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+&quot;%1&quot; no se ha desenlazado.</translation>
     </message>
     <message>
         <source>
 &quot;%1&quot; detached.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+&quot;%1&quot; desenlazada.</translation>
     </message>
     <message>
         <source>
 &quot;%1&quot; unloaded.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+&quot;%1&quot; descargada.</translation>
     </message>
     <message>
         <source>Enter xref name(s) to list &lt;*&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nombres de RefX que se listan &lt;*&gt;: </translation>
     </message>
     <message>
         <source>Enter xref name(s) to bind: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nombres de RefX que se unen: </translation>
     </message>
     <message>
         <source>Enter xref name(s) to detach: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nombres de RefX que se desenlazan: </translation>
     </message>
     <message>
         <source>Enter xref name(s) to unload: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nombres de RefX que se descargan: </translation>
     </message>
     <message>
         <source>Enter xref name(s) to reload: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nombres de RefX que se recargan: </translation>
     </message>
     <message>
         <source>Enter xref name(s) to edit path: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nombres de RefX cuya ruta se edita: </translation>
     </message>
     <message>
         <source>
 Xref name: %1
 Old path: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Nombre de RefX: %1
+Ruta antigua: %2</translation>
     </message>
     <message>
         <source>Enter new path: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nueva ruta: </translation>
     </message>
     <message>
         <source>Enter name of file to attach: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nombre del archivo que se enlaza: </translation>
     </message>
     <message>
         <source>Enter an option [?/Bind/Detach/Path/Unload/Reload/Overlay/Attach] &lt;Attach&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique una opción [?/Bind/Detach/Path/Unload/Reload/Overlay/Attach] &lt;Attach&gt;: </translation>
     </message>
     <message>
         <source>
 Nothing to write.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+No hay nada que escribir.</translation>
     </message>
     <message>
         <source>
 %1 was written as DXF text.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 se ha escrito como texto DXF.</translation>
     </message>
     <message>
         <source>
 %1 was written.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 se ha escrito.</translation>
     </message>
     <message>
         <source>Enter name of output file: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nombre del archivo de salida: </translation>
     </message>
     <message>
         <source>Enter name of existing block, [= (same name)/* (whole drawing)] &lt;choose entities&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nombre de un bloque existente, [= (same name)/* (whole drawing)] &lt;elegir entidades&gt;: </translation>
     </message>
     <message>
         <source>
 Block &quot;%1&quot; not found.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+No se encuentra el bloque &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>Specify insertion base point: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise punto base de inserción: </translation>
     </message>
     <message>
         <source>
 1 was on a locked layer.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+1 estaba en una capa bloqueada.</translation>
     </message>
     <message>
         <source>
 %1 were on a locked layer.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 estaban en una capa bloqueada.</translation>
     </message>
     <message>
         <source>The numbers are too large.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los números son demasiado grandes.</translation>
     </message>
     <message>
         <source>
 %1 could not be changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 no se han podido cambiar.</translation>
     </message>
     <message>
         <source>
 %1 could not be mirrored.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 no se han podido reflejar.</translation>
     </message>
     <message>
         <source>
 %1 could not be copied.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 no se han podido copiar.</translation>
     </message>
     <message>
         <source>
 Linetype &quot;%1&quot; loaded.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Tipo de línea &quot;%1&quot; cargado.</translation>
     </message>
     <message>
         <source>Specify displacement &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise desplazamiento &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Specify base point or [Displacement] &lt;Displacement&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise punto base o [Displacement] &lt;Displacement&gt;: </translation>
     </message>
     <message>
         <source>Specify second point or &lt;use first point as displacement&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise segundo punto o &lt;usar primer punto como desplazamiento&gt;: </translation>
     </message>
     <message>
         <source>Cannot find %1 &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se encuentra %1 &quot;%2&quot;.</translation>
     </message>
     <message>
         <source>%1 already exists. Replace it? [Yes/No] &lt;No&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ya existe. ¿Reemplazarlo? [Yes/No] &lt;No&gt;: </translation>
     </message>
     <message>
         <source>Specify the reference angle &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise ángulo de referencia &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Specify the new angle or [Points] &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise nuevo ángulo o [Points] &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Specify reference length &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise longitud de referencia &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Specify new length or [Points] &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise nueva longitud o [Points] &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>(ADD mode) </source>
-        <translation type="unfinished"></translation>
+        <translation>(modo AÑADIR) </translation>
     </message>
     <message>
         <source>(SUBTRACT mode) </source>
-        <translation type="unfinished"></translation>
+        <translation>(modo SUSTRAER) </translation>
     </message>
     <message>
         <source>
 Area = %1, %2 = %3</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Área = %1, %2 = %3</translation>
     </message>
     <message>
         <source>
 Total area = %1</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Área total = %1</translation>
     </message>
     <message>
         <source>
 Selected object does not have an area.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+El objeto designado no tiene área.</translation>
     </message>
     <message>
         <source>%1Specify next point or [Undo]: </source>
-        <translation type="unfinished"></translation>
+        <translation>%1Precise punto siguiente o [Undo]: </translation>
     </message>
     <message>
         <source>%1Specify next point or [Undo/Total] &lt;Total&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>%1Precise punto siguiente o [Undo/Total] &lt;Total&gt;: </translation>
     </message>
     <message>
         <source>Specify first corner point or [Object/Add area/Subtract area] &lt;Object&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise primera esquina o [Object/Add area/Subtract area] &lt;Object&gt;: </translation>
     </message>
     <message>
         <source>Specify first corner point or [Object/Subtract area]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise primera esquina o [Object/Subtract area]: </translation>
     </message>
     <message>
         <source>Specify first corner point or [Object/Add area]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise primera esquina o [Object/Add area]: </translation>
     </message>
     <message>
         <source>Select object: </source>
-        <translation type="unfinished"></translation>
+        <translation>Designe objeto: </translation>
     </message>
     <message>
         <source>Specify second break point or [First point]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise segundo punto de ruptura o [First point]: </translation>
     </message>
     <message>
         <source>Specify first break point: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise primer punto de ruptura: </translation>
     </message>
     <message>
         <source>Specify second break point: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise segundo punto de ruptura: </translation>
     </message>
     <message>
         <source>A whole circle or ellipse cannot be broken at one point.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un círculo o una elipse enteros no se pueden partir en un punto.</translation>
     </message>
     <message>
         <source>The object cannot be broken there.</source>
-        <translation type="unfinished"></translation>
+        <translation>El objeto no se puede partir ahí.</translation>
     </message>
     <message>
         <source>The lines are parallel.</source>
-        <translation type="unfinished"></translation>
+        <translation>Las líneas son paralelas.</translation>
     </message>
     <message>
         <source>The lines are one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Las líneas son la misma.</translation>
     </message>
     <message>
         <source>The angle leads to no cut.</source>
-        <translation type="unfinished"></translation>
+        <translation>El ángulo no conduce a ningún corte.</translation>
     </message>
     <message>
         <source>Radius is too large.</source>
-        <translation type="unfinished"></translation>
+        <translation>El radio es demasiado grande.</translation>
     </message>
     <message>
         <source>Distance is too large.</source>
-        <translation type="unfinished"></translation>
+        <translation>La distancia es demasiado grande.</translation>
     </message>
     <message>
         <source>There is no arc of that radius.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ningún arco de ese radio.</translation>
     </message>
     <message>
         <source>They do not lie in one plane.</source>
-        <translation type="unfinished"></translation>
+        <translation>No están en un mismo plano.</translation>
     </message>
     <message>
         <source>Two different ones are needed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se necesitan dos distintos.</translation>
     </message>
     <message>
         <source>Only straight lines can be chamfered.</source>
-        <translation type="unfinished"></translation>
+        <translation>Solo se pueden achaflanar líneas rectas.</translation>
     </message>
     <message>
         <source>Enter Trim mode option [Trim/No trim]</source>
-        <translation type="unfinished"></translation>
+        <translation>Indique opción del modo Recortar [Trim/No trim]</translation>
     </message>
     <message>
         <source>Specify first chamfer distance</source>
-        <translation type="unfinished"></translation>
+        <translation>Precise primera distancia de chaflán</translation>
     </message>
     <message>
         <source>Specify second chamfer distance</source>
-        <translation type="unfinished"></translation>
+        <translation>Precise segunda distancia de chaflán</translation>
     </message>
     <message>
         <source>Specify chamfer length on the first line</source>
-        <translation type="unfinished"></translation>
+        <translation>Precise longitud de chaflán en la primera línea</translation>
     </message>
     <message>
         <source>Specify chamfer angle from the first line &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise ángulo de chaflán desde la primera línea &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Specify fillet radius</source>
-        <translation type="unfinished"></translation>
+        <translation>Precise radio de empalme</translation>
     </message>
     <message>
         <source>Enter trim method [Distance/Angle]</source>
-        <translation type="unfinished"></translation>
+        <translation>Indique método de recorte [Distance/Angle]</translation>
     </message>
     <message>
         <source>Select 2D polyline or [Radius]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Designe polilínea 2D o [Radius]: </translation>
     </message>
     <message>
         <source>Select 2D polyline or [Distance/Angle/mEthod]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Designe polilínea 2D o [Distance/Angle/mEthod]: </translation>
     </message>
     <message>
         <source>Requires a flat polyline.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se requiere una polilínea plana.</translation>
     </message>
     <message>
         <source>
 %1 lines were filleted</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 líneas empalmadas</translation>
     </message>
     <message>
         <source>
 %1 lines were chamfered</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 líneas achaflanadas</translation>
     </message>
     <message>
         <source>
 %1 were too short</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 eran demasiado cortas</translation>
     </message>
     <message>
         <source>
 %1 were parallel</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 eran paralelas</translation>
     </message>
     <message>
         <source>Requires a line, arc, circle or straight stretch of a polyline in the user&apos;s plane.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se requiere una línea, un arco, un círculo o un tramo recto de polilínea en el plano del usuario.</translation>
     </message>
     <message>
         <source>Select second object or [Radius]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Designe segundo objeto o [Radius]: </translation>
     </message>
     <message>
         <source>Select second line or [Distance/Angle/Method]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Designe segunda línea o [Distance/Angle/Method]: </translation>
     </message>
     <message>
         <source>Select first object or [Undo/Polyline/Radius/Trim/Multiple]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Designe primer objeto o [Undo/Polyline/Radius/Trim/Multiple]: </translation>
     </message>
     <message>
         <source>Select first line or [Undo/Polyline/Distance/Angle/Trim/mEthod/Multiple]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Designe primera línea o [Undo/Polyline/Distance/Angle/Trim/mEthod/Multiple]: </translation>
     </message>
     <message>
         <source>
 Nothing to undo</source>
-        <translation type="unfinished"></translation>
+        <translation>
+No hay nada que deshacer</translation>
     </message>
     <message>
         <source>
 Current settings: Mode = %1, Radius = %2</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Parámetros actuales: Modo = %1, Radio = %2</translation>
     </message>
     <message>
         <source>
 (%1 mode) Current chamfer Dist1 = %2, Dist2 = %3</source>
-        <translation type="unfinished"></translation>
+        <translation>
+(Modo %1) Chaflán actual Dist1 = %2, Dist2 = %3</translation>
     </message>
     <message>
         <source>The corner has no room for that.</source>
-        <translation type="unfinished"></translation>
+        <translation>La esquina no tiene sitio para eso.</translation>
     </message>
     <message>
         <source>Only the ends of open polylines, lines and arcs can be joined.</source>
-        <translation type="unfinished"></translation>
+        <translation>Solo se pueden unir los extremos de polilíneas abiertas, líneas y arcos.</translation>
     </message>
     <message>
         <source>Only neighbouring stretches of a polyline make a corner.</source>
-        <translation type="unfinished"></translation>
+        <translation>Solo los tramos contiguos de una polilínea forman una esquina.</translation>
     </message>
     <message>
         <source>Enter name of block to insert: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nombre del bloque que se inserta: </translation>
     </message>
     <message>
         <source>Align block with object?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Alinear bloque con objeto?</translation>
     </message>
     <message>
         <source>Select object to divide: </source>
-        <translation type="unfinished"></translation>
+        <translation>Designe objeto que se divide: </translation>
     </message>
     <message>
         <source>Enter the number of segments or [Block]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique número de segmentos o [Block]: </translation>
     </message>
     <message>
         <source>Enter the number of segments: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique número de segmentos: </translation>
     </message>
     <message>
         <source>The number must be between 2 and %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>El número debe estar entre 2 y %1.</translation>
     </message>
     <message>
         <source>Select object to measure: </source>
-        <translation type="unfinished"></translation>
+        <translation>Designe objeto que se gradúa: </translation>
     </message>
     <message>
         <source>Specify length of segment or [Block]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise longitud de segmento o [Block]: </translation>
     </message>
     <message>
         <source>Specify length of segment: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise longitud de segmento: </translation>
     </message>
     <message>
         <source>These would be more than %1.</source>
@@ -5423,7 +5496,7 @@ Layers currently frozen in viewport %1:</source>
     </message>
     <message>
         <source>Cannot find layer &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se encuentra la capa &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>Layer &quot;%1&quot; is needed by every drawing.</source>
@@ -5455,7 +5528,7 @@ Layers currently frozen in viewport %1:</source>
     </message>
     <message>
         <source>Block</source>
-        <translation type="unfinished"></translation>
+        <translation>Bloque</translation>
     </message>
     <message>
         <source>block</source>
@@ -5511,7 +5584,7 @@ Layers currently frozen in viewport %1:</source>
     </message>
     <message>
         <source>Cannot find %1 &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se encuentra %1 &quot;%2&quot;.</translation>
     </message>
     <message>
         <source>%1 &quot;%2&quot; cannot be renamed.</source>
@@ -5691,7 +5764,7 @@ Layers currently frozen in viewport %1:</source>
     </message>
     <message>
         <source>line %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>línea %1: %2</translation>
     </message>
     <message>
         <source>%1 has a value for group %2 that the binary form has no room for: &quot;%3&quot;</source>
@@ -5763,7 +5836,7 @@ Layers currently frozen in viewport %1:</source>
     </message>
     <message>
         <source>and %1 more</source>
-        <translation type="unfinished"></translation>
+        <translation>y %1 más</translation>
     </message>
     <message>
         <source>the file is sound, nothing was dropped</source>
@@ -6157,7 +6230,7 @@ The drawing stays open.</source>
     </message>
     <message>
         <source>%1 already exists. Do you want to replace it?</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ya existe. ¿Desea reemplazarlo?</translation>
     </message>
     <message>
         <source>Save drawing</source>
@@ -9880,7 +9953,7 @@ Specify temporary tracking point: </source>
     </message>
     <message>
         <source>Value must be nonzero.</source>
-        <translation type="unfinished"></translation>
+        <translation>El valor debe ser distinto de cero.</translation>
     </message>
     <message>
         <source>Value must not be negative.</source>
@@ -10091,7 +10164,7 @@ This link of the help page is not followed: %1
     </message>
     <message>
         <source>The numbers are too large.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los números son demasiado grandes.</translation>
     </message>
     <message>
         <source>
@@ -10291,7 +10364,7 @@ The user&apos;s settings cannot be kept.
     </message>
     <message>
         <source>Block</source>
-        <translation type="unfinished"></translation>
+        <translation>Bloque</translation>
     </message>
     <message>
         <source>Block selection</source>
@@ -10299,7 +10372,7 @@ The user&apos;s settings cannot be kept.
     </message>
     <message>
         <source>Blocks</source>
-        <translation type="unfinished"></translation>
+        <translation>Bloques</translation>
     </message>
     <message>
         <source>Both</source>
@@ -10311,7 +10384,7 @@ The user&apos;s settings cannot be kept.
     </message>
     <message>
         <source>Boundaries</source>
-        <translation type="unfinished"></translation>
+        <translation>Contornos</translation>
     </message>
     <message>
         <source>Boundary</source>
@@ -10327,11 +10400,11 @@ The user&apos;s settings cannot be kept.
     </message>
     <message>
         <source>ByBlock</source>
-        <translation type="unfinished"></translation>
+        <translation>PorBloque</translation>
     </message>
     <message>
         <source>ByLayer</source>
-        <translation type="unfinished"></translation>
+        <translation>PorCapa</translation>
     </message>
     <message>
         <source>CEnter</source>
@@ -10359,7 +10432,7 @@ The user&apos;s settings cannot be kept.
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>Center</source>
@@ -10387,11 +10460,11 @@ The user&apos;s settings cannot be kept.
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerrar</translation>
     </message>
     <message>
         <source>Color</source>
-        <translation type="unfinished"></translation>
+        <translation>Color</translation>
     </message>
     <message>
         <source>Columns</source>
@@ -10507,7 +10580,7 @@ The user&apos;s settings cannot be kept.
     </message>
     <message>
         <source>Dimensions</source>
-        <translation type="unfinished"></translation>
+        <translation>Dimensiones</translation>
     </message>
     <message>
         <source>Dimstyle</source>
@@ -10647,7 +10720,7 @@ The user&apos;s settings cannot be kept.
     </message>
     <message>
         <source>Format</source>
-        <translation type="unfinished"></translation>
+        <translation>Formato</translation>
     </message>
     <message>
         <source>Freehand</source>
@@ -10735,7 +10808,7 @@ The user&apos;s settings cannot be kept.
     </message>
     <message>
         <source>Inches</source>
-        <translation type="unfinished"></translation>
+        <translation>Pulgadas</translation>
     </message>
     <message>
         <source>Included angle</source>
@@ -10831,7 +10904,7 @@ The user&apos;s settings cannot be kept.
     </message>
     <message>
         <source>Layer</source>
-        <translation type="unfinished"></translation>
+        <translation>Capa</translation>
     </message>
     <message>
         <source>Layout</source>
@@ -10855,7 +10928,7 @@ The user&apos;s settings cannot be kept.
     </message>
     <message>
         <source>Limits</source>
-        <translation type="unfinished"></translation>
+        <translation>Límites</translation>
     </message>
     <message>
         <source>Line</source>
@@ -10951,7 +11024,7 @@ The user&apos;s settings cannot be kept.
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre</translation>
     </message>
     <message>
         <source>New</source>
@@ -11039,15 +11112,15 @@ The user&apos;s settings cannot be kept.
     </message>
     <message>
         <source>Off</source>
-        <translation type="unfinished"></translation>
+        <translation>No</translation>
     </message>
     <message>
         <source>Offset</source>
-        <translation type="unfinished"></translation>
+        <translation>Desfase</translation>
     </message>
     <message>
         <source>On</source>
-        <translation type="unfinished"></translation>
+        <translation>Sí</translation>
     </message>
     <message>
         <source>One</source>
@@ -11059,7 +11132,7 @@ The user&apos;s settings cannot be kept.
     </message>
     <message>
         <source>Options</source>
-        <translation type="unfinished"></translation>
+        <translation>Opciones</translation>
     </message>
     <message>
         <source>Order</source>
@@ -11355,7 +11428,7 @@ The user&apos;s settings cannot be kept.
     </message>
     <message>
         <source>Spacing</source>
-        <translation type="unfinished"></translation>
+        <translation>Separación</translation>
     </message>
     <message>
         <source>Spline</source>
@@ -11387,7 +11460,7 @@ The user&apos;s settings cannot be kept.
     </message>
     <message>
         <source>Style</source>
-        <translation type="unfinished"></translation>
+        <translation>Estilo</translation>
     </message>
     <message>
         <source>Subtract area</source>
@@ -11463,7 +11536,7 @@ The user&apos;s settings cannot be kept.
     </message>
     <message>
         <source>Type</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipo</translation>
     </message>
     <message>
         <source>Ucs</source>
@@ -11894,11 +11967,11 @@ The user&apos;s settings cannot be kept.
     <name>Layers</name>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre</translation>
     </message>
     <message>
         <source>On</source>
-        <translation type="unfinished"></translation>
+        <translation>Sí</translation>
     </message>
     <message>
         <source>Freeze</source>
@@ -11914,7 +11987,7 @@ The user&apos;s settings cannot be kept.
     </message>
     <message>
         <source>Color</source>
-        <translation type="unfinished"></translation>
+        <translation>Color</translation>
     </message>
     <message>
         <source>Linetype</source>
@@ -12005,7 +12078,7 @@ The user&apos;s settings cannot be kept.
     </message>
     <message>
         <source>&amp;Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Borrar</translation>
     </message>
     <message>
         <source>&amp;Draw</source>
@@ -12109,7 +12182,7 @@ The user&apos;s settings cannot be kept.
     </message>
     <message>
         <source>&amp;Save</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Guardar</translation>
     </message>
     <message>
         <source>&amp;Start page</source>
@@ -12285,7 +12358,7 @@ The user&apos;s settings cannot be kept.
     </message>
     <message>
         <source>Color</source>
-        <translation type="unfinished"></translation>
+        <translation>Color</translation>
     </message>
     <message>
         <source>Coordinates of a point</source>
@@ -12397,7 +12470,7 @@ The user&apos;s settings cannot be kept.
     </message>
     <message>
         <source>External reference</source>
-        <translation type="unfinished"></translation>
+        <translation>Referencia externa</translation>
     </message>
     <message>
         <source>F&amp;ormat</source>
@@ -12621,7 +12694,7 @@ The user&apos;s settings cannot be kept.
     </message>
     <message>
         <source>Offset</source>
-        <translation type="unfinished"></translation>
+        <translation>Desfase</translation>
     </message>
     <message>
         <source>Onto the sheet</source>
@@ -13171,7 +13244,7 @@ The user&apos;s settings cannot be kept.
     </message>
     <message>
         <source>line %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>línea %1: %2</translation>
     </message>
     <message>
         <source>line %1: the session has cases, each of which wants the drawing opened anew</source>
@@ -13426,11 +13499,11 @@ The user&apos;s settings cannot be kept.
     </message>
     <message>
         <source>Color</source>
-        <translation type="unfinished"></translation>
+        <translation>Color</translation>
     </message>
     <message>
         <source>Layer</source>
-        <translation type="unfinished"></translation>
+        <translation>Capa</translation>
     </message>
     <message>
         <source>Linetype</source>
@@ -13586,7 +13659,7 @@ The user&apos;s settings cannot be kept.
     </message>
     <message>
         <source>Position</source>
-        <translation type="unfinished"></translation>
+        <translation>Posición</translation>
     </message>
     <message>
         <source>Prompt</source>
@@ -13650,7 +13723,7 @@ The user&apos;s settings cannot be kept.
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre</translation>
     </message>
     <message>
         <source>Scale X</source>
@@ -13686,11 +13759,11 @@ The user&apos;s settings cannot be kept.
     </message>
     <message>
         <source>Style</source>
-        <translation type="unfinished"></translation>
+        <translation>Estilo</translation>
     </message>
     <message>
         <source>Location</source>
-        <translation type="unfinished"></translation>
+        <translation>Ubicación</translation>
     </message>
     <message>
         <source>Attachment</source>
@@ -13706,7 +13779,7 @@ The user&apos;s settings cannot be kept.
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Tamaño</translation>
     </message>
     <message>
         <source>Degree</source>
@@ -13753,7 +13826,7 @@ The user&apos;s settings cannot be kept.
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Ayuda</translation>
     </message>
 </context>
 <context>
@@ -14670,7 +14743,7 @@ Documents are made from this, and scripts/demand compares it with what programs 
     </message>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivo</translation>
     </message>
     <message>
         <source>&amp;Save selected</source>
@@ -14829,7 +14902,7 @@ No drawing is open.
     </message>
     <message>
         <source>&amp;Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Borrar</translation>
     </message>
     <message>
         <source>Takes unused layers out of the drawing</source>
@@ -14917,7 +14990,7 @@ No drawing is open.
     </message>
     <message>
         <source>Select &amp;all</source>
-        <translation type="unfinished"></translation>
+        <translation>Seleccionar &amp;todo</translation>
     </message>
 </context>
 <context>
@@ -15120,7 +15193,7 @@ Recovered as it was on %1. It is not in its file until it is saved.
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>Repeat %1</source>
@@ -15178,7 +15251,7 @@ Recovered as it was on %1. It is not in its file until it is saved.
     </message>
     <message>
         <source>Preview</source>
-        <translation type="unfinished"></translation>
+        <translation>Vista previa</translation>
     </message>
     <message>
         <source>&amp;Print</source>
@@ -15206,7 +15279,7 @@ Recovered as it was on %1. It is not in its file until it is saved.
     </message>
     <message>
         <source>Limits</source>
-        <translation type="unfinished"></translation>
+        <translation>Límites</translation>
     </message>
     <message>
         <source>The layout&apos;s sheet</source>
@@ -15346,11 +15419,11 @@ Recovered as it was on %1. It is not in its file until it is saved.
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Tamaño</translation>
     </message>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivo</translation>
     </message>
     <message>
         <source>&amp;Open selected</source>
@@ -15607,7 +15680,7 @@ Recovered as it was on %1. It is not in its file until it is saved.
     </message>
     <message>
         <source>Search</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar</translation>
     </message>
     <message>
         <source>Search the settings</source>
@@ -15760,11 +15833,11 @@ Recovered as it was on %1. It is not in its file until it is saved.
     </message>
     <message>
         <source>Layer</source>
-        <translation type="unfinished"></translation>
+        <translation>Capa</translation>
     </message>
     <message>
         <source>Color</source>
-        <translation type="unfinished"></translation>
+        <translation>Color</translation>
     </message>
     <message>
         <source>Linetype</source>
@@ -15810,7 +15883,7 @@ Recovered as it was on %1. It is not in its file until it is saved.
     </message>
     <message>
         <source>A tag has no blanks.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un identificador no lleva espacios.</translation>
     </message>
     <message>
         <source>The value is constant: the block says it.</source>
@@ -15861,7 +15934,7 @@ Recovered as it was on %1. It is not in its file until it is saved.
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerrar</translation>
     </message>
     <message>
         <source>%1 things were kept back: they are named here but not in trusted folders.</source>
@@ -15911,7 +15984,7 @@ Recovered as it was on %1. It is not in its file until it is saved.
     </message>
     <message>
         <source>&amp;Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Borrar</translation>
     </message>
     <message>
         <source>Move &amp;left</source>
@@ -15931,7 +16004,7 @@ Recovered as it was on %1. It is not in its file until it is saved.
     </message>
     <message>
         <source>&amp;Name:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nombre:</translation>
     </message>
 </context>
 <context>
@@ -15984,7 +16057,7 @@ Recovered as it was on %1. It is not in its file until it is saved.
     </message>
     <message>
         <source>&amp;Color:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Color:</translation>
     </message>
 </context>
 <context>

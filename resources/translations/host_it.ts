@@ -5,1882 +5,1955 @@
     <name>AimMarks</name>
     <message>
         <source>Polar: %1 &lt; %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Polar: %1 &lt; %2</translation>
     </message>
 </context>
 <context>
     <name>CKvQtColorComboBox</name>
     <message>
         <source>ByBlock</source>
-        <translation type="unfinished"></translation>
+        <translation>DaBlocco</translation>
     </message>
     <message>
         <source>Red</source>
-        <translation type="unfinished"></translation>
+        <translation>Rosso</translation>
     </message>
     <message>
         <source>Yellow</source>
-        <translation type="unfinished"></translation>
+        <translation>Giallo</translation>
     </message>
     <message>
         <source>Green</source>
-        <translation type="unfinished"></translation>
+        <translation>Verde</translation>
     </message>
     <message>
         <source>Cyan</source>
-        <translation type="unfinished"></translation>
+        <translation>Ciano</translation>
     </message>
     <message>
         <source>Blue</source>
-        <translation type="unfinished"></translation>
+        <translation>Blu</translation>
     </message>
     <message>
         <source>Magenta</source>
-        <translation type="unfinished"></translation>
+        <translation>Magenta</translation>
     </message>
     <message>
         <source>White</source>
-        <translation type="unfinished"></translation>
+        <translation>Bianco</translation>
     </message>
     <message>
         <source>ByLayer</source>
-        <translation type="unfinished"></translation>
+        <translation>DaLayer</translation>
     </message>
     <message>
         <source>Color %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Colore %1</translation>
     </message>
 </context>
 <context>
     <name>Commands</name>
     <message>
         <source>Specify angle vertex: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare vertice dell&apos;angolo: </translation>
     </message>
     <message>
         <source>Specify first angle endpoint: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare primo estremo dell&apos;angolo: </translation>
     </message>
     <message>
         <source>Specify second angle endpoint: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare secondo estremo dell&apos;angolo: </translation>
     </message>
     <message>
         <source>Select second line: </source>
-        <translation type="unfinished"></translation>
+        <translation>Selezionare seconda linea: </translation>
     </message>
     <message>
         <source>Lines are parallel.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le linee sono parallele.</translation>
     </message>
     <message>
         <source>Object selected is not a line.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;oggetto selezionato non è una linea.</translation>
     </message>
     <message>
         <source>Select arc, circle, line, or &lt;specify vertex&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Selezionare arco, cerchio, linea o &lt;specificare vertice&gt;: </translation>
     </message>
     <message>
         <source>Object selected is not an arc, circle or line.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;oggetto selezionato non è un arco, un cerchio o una linea.</translation>
     </message>
     <message>
         <source>Enter text location (or press ENTER): </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare posizione del testo (o premere INVIO): </translation>
     </message>
     <message>
         <source>Specify dimension arc line location or [Mtext/Text/Angle/Quadrant]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare posizione dell&apos;arco di quota o [Mtext/Text/Angle/Quadrant]: </translation>
     </message>
     <message>
         <source>Specify quadrant: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare quadrante: </translation>
     </message>
     <message>
         <source>Select arc or polyline arc segment: </source>
-        <translation type="unfinished"></translation>
+        <translation>Selezionare arco o segmento d&apos;arco di polilinea: </translation>
     </message>
     <message>
         <source>Object selected is not an arc or polyline arc segment.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;oggetto selezionato non è un arco o un segmento d&apos;arco di polilinea.</translation>
     </message>
     <message>
         <source>Specify first point for arc length dimension: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare primo punto per la quota della lunghezza d&apos;arco: </translation>
     </message>
     <message>
         <source>Specify second point for arc length dimension: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare secondo punto per la quota della lunghezza d&apos;arco: </translation>
     </message>
     <message>
         <source>The two points are one.</source>
-        <translation type="unfinished"></translation>
+        <translation>I due punti coincidono.</translation>
     </message>
     <message>
         <source>Specify arc length dimension location, or [Mtext/Text/Angle/Partial%1]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare posizione della quota della lunghezza d&apos;arco, o [Mtext/Text/Angle/Partial%1]: </translation>
     </message>
     <message>
         <source>A drawing of this version has no dimensions of arc lengths: they come with R2004.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un disegno di questa versione non ha quote di lunghezza d&apos;arco: esistono da R2004.</translation>
     </message>
     <message>
         <source>
 Current attribute modes:  </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Modi attributo correnti:  </translation>
     </message>
     <message>
         <source>Enter an option to change [Invisible/Constant/Verify/Preset] &lt;done&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare un&apos;opzione da cambiare [Invisible/Constant/Verify/Preset] &lt;fatto&gt;: </translation>
     </message>
     <message>
         <source>Enter attribute tag name: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare etichetta dell&apos;attributo: </translation>
     </message>
     <message>
         <source>A tag is needed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Occorre un&apos;etichetta.</translation>
     </message>
     <message>
         <source>A tag has no blanks.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un&apos;etichetta non ha spazi.</translation>
     </message>
     <message>
         <source>Enter attribute prompt: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare messaggio di richiesta dell&apos;attributo: </translation>
     </message>
     <message>
         <source>Enter attribute value: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare valore dell&apos;attributo: </translation>
     </message>
     <message>
         <source>Enter default attribute value: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare valore di default dell&apos;attributo: </translation>
     </message>
     <message>
         <source>Enter attribute tag name</source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare etichetta dell&apos;attributo</translation>
     </message>
     <message>
         <source>Enter attribute prompt</source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare messaggio di richiesta dell&apos;attributo</translation>
     </message>
     <message>
         <source>Enter default attribute value, . for none</source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare valore di default dell&apos;attributo, . per nessuno</translation>
     </message>
     <message>
         <source>Enter text</source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare testo</translation>
     </message>
     <message>
         <source>Select an annotation object: </source>
-        <translation type="unfinished"></translation>
+        <translation>Selezionare un oggetto di annotazione: </translation>
     </message>
     <message>
         <source>Requires a text.</source>
-        <translation type="unfinished"></translation>
+        <translation>Occorre un testo.</translation>
     </message>
     <message>
         <source>Select continued dimension: </source>
-        <translation type="unfinished"></translation>
+        <translation>Selezionare quota da continuare: </translation>
     </message>
     <message>
         <source>Select base dimension: </source>
-        <translation type="unfinished"></translation>
+        <translation>Selezionare quota di base: </translation>
     </message>
     <message>
         <source>Linear, ordinate, or angular associative dimension required.</source>
-        <translation type="unfinished"></translation>
+        <translation>Occorre una quota associativa lineare, coordinata o angolare.</translation>
     </message>
     <message>
         <source>
 All dimensions of the command are undone.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Tutte le quote del comando sono state annullate.</translation>
     </message>
     <message>
         <source>Specify feature location or [Select/Undo] &lt;Select&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare posizione della funzione o [Select/Undo] &lt;Select&gt;: </translation>
     </message>
     <message>
         <source>Specify second extension line origin or [Select/Undo] &lt;Select&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare origine della seconda linea di estensione o [Select/Undo] &lt;Select&gt;: </translation>
     </message>
     <message>
         <source>Specify a second extension line origin or [Select] &lt;Select&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare un&apos;origine della seconda linea di estensione o [Select] &lt;Select&gt;: </translation>
     </message>
     <message>
         <source>Enter obliquing angle (press ENTER for none): </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare angolo di inclinazione (premere INVIO per nessuno): </translation>
     </message>
     <message>
         <source>Unknown dimension variable &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Variabile di quota sconosciuta &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>Enter new value for dimension variable &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nuovo valore della variabile di quota &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>%1 does not take this value.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 non accetta questo valore.</translation>
     </message>
     <message>
         <source>Enter dimension variable name to override: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nome della variabile di quota da sostituire: </translation>
     </message>
     <message>
         <source>Enter type of dimension editing [Home/New/Rotate/Oblique] &lt;Home&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare tipo di modifica della quota [Home/New/Rotate/Oblique] &lt;Home&gt;: </translation>
     </message>
     <message>
         <source>Enter dimension text &lt;&lt;&gt;&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare testo di quota &lt;&lt;&gt;&gt;: </translation>
     </message>
     <message>
         <source>Specify angle for dimension text: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare angolo del testo di quota: </translation>
     </message>
     <message>
         <source>Select dimension: </source>
-        <translation type="unfinished"></translation>
+        <translation>Selezionare quota: </translation>
     </message>
     <message>
         <source>Object selected is not a dimension.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;oggetto selezionato non è una quota.</translation>
     </message>
     <message>
         <source>Specify new location for dimension text or [Left/Right/Center/Home/Angle]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare nuova posizione del testo di quota o [Left/Right/Center/Home/Angle]: </translation>
     </message>
     <message>
         <source>Enter dimension variable name to override or [Clear overrides]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nome della variabile di quota da sostituire o [Clear overrides]: </translation>
     </message>
     <message>
         <source>Enter new text style name</source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nome del nuovo stile di testo</translation>
     </message>
     <message>
         <source>Dim: </source>
-        <translation type="unfinished"></translation>
+        <translation>Quota: </translation>
     </message>
     <message>
         <source>Unknown dimension subcommand &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sottocomando di quota sconosciuto &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>
 Nothing that was made here is left to undo.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Non resta nulla da annullare di quanto creato qui.</translation>
     </message>
     <message>
         <source>Enter dimension style(s) to list &lt;*&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare stili di quota da elencare &lt;*&gt;: </translation>
     </message>
     <message>
         <source>Enter a dimension style name, [?] or &lt;select dimension&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nome di uno stile di quota, [?] o &lt;selezionare quota&gt;: </translation>
     </message>
     <message>
         <source>Cannot find dimension style &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile trovare lo stile di quota &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>Enter name for new dimension style or [?]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nome del nuovo stile di quota o [?]: </translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no name for a dimension style.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; non è un nome per uno stile di quota.</translation>
     </message>
     <message>
         <source>That name is already in use, redefine it? [Yes/No] &lt;N&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Il nome è già in uso. Ridefinirlo? [Yes/No] &lt;N&gt;: </translation>
     </message>
     <message>
         <source>Create annotative dimension style [Yes/No] &lt;Yes&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Creare stile di quota annotativo [Yes/No] &lt;Yes&gt;: </translation>
     </message>
     <message>
         <source>
 Current dimension style: </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Stile di quota corrente: </translation>
     </message>
     <message>
         <source>Enter a dimension style option [ANnotative/Save/Restore/STatus/Variables/Apply/?] &lt;Restore&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare un&apos;opzione dello stile di quota [ANnotative/Save/Restore/STatus/Variables/Apply/?] &lt;Restore&gt;: </translation>
     </message>
     <message>
         <source>Specify internal point or [Properties/Select objects/draW boundary/remove Boundaries/Advanced/DRaw order/Origin/ANnotative/hatch COlor/LAyer/Transparency]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare punto interno o [Properties/Select objects/draW boundary/remove Boundaries/Advanced/DRaw order/Origin/ANnotative/hatch COlor/LAyer/Transparency]: </translation>
     </message>
     <message>
         <source>
 Too many curves cross here: choose a boundary set.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Qui si incrociano troppe curve: scegliere un gruppo di contorni.</translation>
     </message>
     <message>
         <source>
 Valid hatch boundary not found.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Contorno di tratteggio valido non trovato.</translation>
     </message>
     <message>
         <source>
 The objects make no closed boundary.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Gli oggetti non formano un contorno chiuso.</translation>
     </message>
     <message>
         <source>Retain polyline boundary? [Yes/No] &lt;N&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Mantenere il contorno a polilinea? [Yes/No] &lt;N&gt;: </translation>
     </message>
     <message>
         <source>Specify start point: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare punto iniziale: </translation>
     </message>
     <message>
         <source>Specify next point or [Close/Undo] &lt;Close&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare punto successivo o [Close/Undo] &lt;Close&gt;: </translation>
     </message>
     <message>
         <source>Specify start point for new boundary or &lt;Accept&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare punto iniziale di un nuovo contorno o &lt;accettare&gt;: </translation>
     </message>
     <message>
         <source>Select boundary to remove: </source>
-        <translation type="unfinished"></translation>
+        <translation>Selezionare contorno da rimuovere: </translation>
     </message>
     <message>
         <source>
 Current hatch pattern:  </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Modello di tratteggio corrente:  </translation>
     </message>
     <message>
         <source>Enter an option [Boundary set/Island detection/Object type] &lt;eXit&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare un&apos;opzione [Boundary set/Island detection/Object type] &lt;eXit&gt;: </translation>
     </message>
     <message>
         <source>Enter type of boundary object [Region/Polyline] &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare tipo di oggetto contorno [Region/Polyline] &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Specify internal point or [Advanced options]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare punto interno o [Advanced options]: </translation>
     </message>
     <message>
         <source>
 BOUNDARY created 1 region</source>
-        <translation type="unfinished"></translation>
+        <translation>
+BOUNDARY ha creato 1 regione</translation>
     </message>
     <message>
         <source>
 BOUNDARY created 1 polyline</source>
-        <translation type="unfinished"></translation>
+        <translation>
+BOUNDARY ha creato 1 polilinea</translation>
     </message>
     <message>
         <source>
 BOUNDARY created %1 regions</source>
-        <translation type="unfinished"></translation>
+        <translation>
+BOUNDARY ha creato %1 regioni</translation>
     </message>
     <message>
         <source>
 BOUNDARY created %1 polylines</source>
-        <translation type="unfinished"></translation>
+        <translation>
+BOUNDARY ha creato %1 polilinee</translation>
     </message>
     <message>
         <source>Enter pattern(s) to list &lt;*&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare modelli da elencare &lt;*&gt;: </translation>
     </message>
     <message>
         <source>Specify angle for crosshatch lines &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare angolo delle linee di tratteggio &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Specify spacing between the lines &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare spaziatura fra le linee &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Double hatch area? [Yes/No] &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Doppio tratteggio dell&apos;area? [Yes/No] &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Specify a scale for the pattern &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare scala del modello &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Specify an angle for the pattern &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare angolo del modello &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Enter new color or [. (for use current)] &lt;.&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nuovo colore o [. (for use current)] &lt;.&gt;: </translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no colour.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; non è un colore.</translation>
     </message>
     <message>
         <source>Specify new layer name or [. (for use current)] &lt;.&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare nome del nuovo layer o [. (for use current)] &lt;.&gt;: </translation>
     </message>
     <message>
         <source>Cannot find layer &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile trovare il layer &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>Enter new transparency value (0-90) or [. (for use current)] &lt;.&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nuovo valore di trasparenza (0-90) o [. (for use current)] &lt;.&gt;: </translation>
     </message>
     <message>
         <source>Requires a whole number from 0 to 90.</source>
-        <translation type="unfinished"></translation>
+        <translation>Occorre un numero intero da 0 a 90.</translation>
     </message>
     <message>
         <source>Enter draw order [do Not assign/send to Back/bring to Front/send beHind boundary/bring in front of bounDary] &lt;send behind boundary&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare ordine di disegno [do Not assign/send to Back/bring to Front/send beHind boundary/bring in front of bounDary] &lt;dietro il contorno&gt;: </translation>
     </message>
     <message>
         <source>[Use current origin/Set new origin] &lt;Use current origin&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>[Use current origin/Set new origin] &lt;Use current origin&gt;: </translation>
     </message>
     <message>
         <source>Specify point: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare punto: </translation>
     </message>
     <message>
         <source>Store as default origin? [Yes/No] &lt;N&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Salvare come origine di default? [Yes/No] &lt;N&gt;: </translation>
     </message>
     <message>
         <source>Unknown hatch pattern &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Modello di tratteggio sconosciuto &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>Enter a pattern name or [?/Solid/User defined] &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nome di un modello o [?/Solid/User defined] &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Enter hatching style [Ignore/Outer/Normal] &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare stile di tratteggio [Ignore/Outer/Normal] &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Specify candidate set for boundary [New/Everything] &lt;Everything&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare gruppo di candidati per il contorno [New/Everything] &lt;Everything&gt;: </translation>
     </message>
     <message>
         <source>Do you want island detection? [Yes/No] &lt;Y&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Rilevare le isole? [Yes/No] &lt;Y&gt;: </translation>
     </message>
     <message>
         <source>Enter an option [Boundary set/Retain boundary/Island detection/Style/Associativity/Gap tolerance/separate Hatches] &lt;eXit&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare un&apos;opzione [Boundary set/Retain boundary/Island detection/Style/Associativity/Gap tolerance/separate Hatches] &lt;eXit&gt;: </translation>
     </message>
     <message>
         <source>Retain derived boundaries? [Yes/No] &lt;N&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Mantenere i contorni derivati? [Yes/No] &lt;N&gt;: </translation>
     </message>
     <message>
         <source>Do you want associativity? [Yes/No] &lt;Y&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Usare l&apos;associatività? [Yes/No] &lt;Y&gt;: </translation>
     </message>
     <message>
         <source>Specify a boundary gap tolerance value &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare tolleranza di apertura del contorno &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Create separate hatches? [Yes/No] &lt;N&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Creare tratteggi separati? [Yes/No] &lt;N&gt;: </translation>
     </message>
     <message>
         <source>Create annotative hatch [Yes/No] &lt;N&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Creare tratteggio annotativo [Yes/No] &lt;N&gt;: </translation>
     </message>
     <message>
         <source>Annotative hatches are not made.</source>
-        <translation type="unfinished"></translation>
+        <translation>I tratteggi annotativi non vengono creati.</translation>
     </message>
     <message>
         <source>
 A boundary needs three points.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Un contorno richiede tre punti.</translation>
     </message>
     <message>
         <source>
 A drawing of this version keeps no draw order.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Un disegno di questa versione non conserva l&apos;ordine di disegno.</translation>
     </message>
     <message>
         <source>The hatch spacing is too dense, or the dash size too small.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il tratteggio è troppo fitto o i trattini sono troppo piccoli.</translation>
     </message>
     <message>
         <source>
 No polyline can follow the boundary: it has pieces of ellipses or splines.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Nessuna polilinea può seguire il contorno: ha parti di ellissi o spline.</translation>
     </message>
     <message>
         <source>Select hatch object: </source>
-        <translation type="unfinished"></translation>
+        <translation>Selezionare tratteggio: </translation>
     </message>
     <message>
         <source>Object selected is not a hatch.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;oggetto selezionato non è un tratteggio.</translation>
     </message>
     <message>
         <source>Enter hatch option [DIsassociate/Style/Properties/Origin/ANnotative/hatch COlor/LAyer/Transparency] &lt;Properties&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare opzione di tratteggio [DIsassociate/Style/Properties/Origin/ANnotative/hatch COlor/LAyer/Transparency] &lt;Properties&gt;: </translation>
     </message>
     <message>
         <source>Specify first endpoint of text baseline: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare primo estremo della linea di base del testo: </translation>
     </message>
     <message>
         <source>Specify start point of text: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare punto iniziale del testo: </translation>
     </message>
     <message>
         <source>Specify center point of text: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare punto centrale del testo: </translation>
     </message>
     <message>
         <source>Specify right endpoint of text baseline: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare estremo destro della linea di base del testo: </translation>
     </message>
     <message>
         <source>Specify middle point of text: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare punto medio del testo: </translation>
     </message>
     <message>
         <source>Specify top-left point of text: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare punto in alto a sinistra del testo: </translation>
     </message>
     <message>
         <source>Specify top-center point of text: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare punto in alto al centro del testo: </translation>
     </message>
     <message>
         <source>Specify top-right point of text: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare punto in alto a destra del testo: </translation>
     </message>
     <message>
         <source>Specify middle-left point of text: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare punto al medio a sinistra del testo: </translation>
     </message>
     <message>
         <source>Specify middle-center point of text: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare punto al medio al centro del testo: </translation>
     </message>
     <message>
         <source>Specify middle-right point of text: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare punto al medio a destra del testo: </translation>
     </message>
     <message>
         <source>Specify bottom-left point of text: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare punto in basso a sinistra del testo: </translation>
     </message>
     <message>
         <source>Specify bottom-center point of text: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare punto in basso al centro del testo: </translation>
     </message>
     <message>
         <source>Specify bottom-right point of text: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare punto in basso a destra del testo: </translation>
     </message>
     <message>
         <source>Enter an option [%1]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare un&apos;opzione [%1]: </translation>
     </message>
     <message>
         <source>Enter next line of annotation text: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare riga successiva del testo di annotazione: </translation>
     </message>
     <message>
         <source>A text, tolerance or block reference is needed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Occorre un testo, una tolleranza o un riferimento di blocco.</translation>
     </message>
     <message>
         <source>Enter block name: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nome del blocco: </translation>
     </message>
     <message>
         <source>Cannot find block &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile trovare il blocco &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>Enter scale factor &lt;1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare fattore di scala &lt;1&gt;: </translation>
     </message>
     <message>
         <source>Specify rotation angle &lt;0&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare angolo di rotazione &lt;0&gt;: </translation>
     </message>
     <message>
         <source>Enter tolerance text: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare testo della tolleranza: </translation>
     </message>
     <message>
         <source>Enter an annotation option [Tolerance/Copy/Block/None/Mtext] &lt;Mtext&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare un&apos;opzione di annotazione [Tolerance/Copy/Block/None/Mtext] &lt;Mtext&gt;: </translation>
     </message>
     <message>
         <source>Select an object to copy: </source>
-        <translation type="unfinished"></translation>
+        <translation>Selezionare un oggetto da copiare: </translation>
     </message>
     <message>
         <source>Enter first line of annotation text: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare prima riga del testo di annotazione: </translation>
     </message>
     <message>
         <source>Enter leader format option [Spline/STraight/Arrow/None] &lt;Exit&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare opzione di formato della direttrice [Spline/STraight/Arrow/None] &lt;Exit&gt;: </translation>
     </message>
     <message>
         <source>Specify leader start point: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare punto iniziale della direttrice: </translation>
     </message>
     <message>
         <source>Specify next point: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare punto successivo: </translation>
     </message>
     <message>
         <source>Specify next point or [Annotation/Format/Undo] &lt;Annotation&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare punto successivo o [Annotation/Format/Undo] &lt;Annotation&gt;: </translation>
     </message>
     <message>
         <source>Enter first line of annotation text or &lt;options&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare prima riga del testo di annotazione o &lt;opzioni&gt;: </translation>
     </message>
     <message>
         <source>Specify first leader point: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare primo punto della direttrice: </translation>
     </message>
     <message>
         <source>Specify text width &lt;0&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare larghezza del testo &lt;0&gt;: </translation>
     </message>
     <message>
         <source>Enter first line of annotation text &lt;Mtext&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare prima riga del testo di annotazione &lt;Mtext&gt;: </translation>
     </message>
     <message>
         <source>Leader start: </source>
-        <translation type="unfinished"></translation>
+        <translation>Inizio della direttrice: </translation>
     </message>
     <message>
         <source>To point: </source>
-        <translation type="unfinished"></translation>
+        <translation>Al punto: </translation>
     </message>
     <message>
         <source>Enter dimension text &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare testo di quota &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Specify first extension line origin or &lt;select object&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare origine della prima linea di estensione o &lt;selezionare oggetto&gt;: </translation>
     </message>
     <message>
         <source>Specify second extension line origin: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare origine della seconda linea di estensione: </translation>
     </message>
     <message>
         <source>Select object to dimension: </source>
-        <translation type="unfinished"></translation>
+        <translation>Selezionare oggetto da quotare: </translation>
     </message>
     <message>
         <source>Object selected is not a line, arc, circle or piece of a polyline.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;oggetto selezionato non è una linea, un arco, un cerchio o un tratto di polilinea.</translation>
     </message>
     <message>
         <source>Specify angle of dimension line &lt;0&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare angolo della linea di quota &lt;0&gt;: </translation>
     </message>
     <message>
         <source>Specify dimension line location or [%1]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare posizione della linea di quota o [%1]: </translation>
     </message>
     <message>
         <source>Specify dimension line location or [Mtext/Text/Angle]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare posizione della linea di quota o [Mtext/Text/Angle]: </translation>
     </message>
     <message>
         <source>Specify feature location: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare posizione della funzione: </translation>
     </message>
     <message>
         <source>Specify leader endpoint or [Xdatum/Ydatum/Mtext/Text/Angle]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare estremo della direttrice o [Xdatum/Ydatum/Mtext/Text/Angle]: </translation>
     </message>
     <message>
         <source>The object is not parallel to the current UCS.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;oggetto non è parallelo all&apos;UCS corrente.</translation>
     </message>
     <message>
         <source>Select a leader type [Straight/sPline/None]</source>
-        <translation type="unfinished"></translation>
+        <translation>Selezionare un tipo di direttrice [Straight/sPline/None]</translation>
     </message>
     <message>
         <source>Use landing [Yes/No]</source>
-        <translation type="unfinished"></translation>
+        <translation>Usare linea di collegamento [Yes/No]</translation>
     </message>
     <message>
         <source>Specify fixed landing distance</source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare distanza fissa della linea di collegamento</translation>
     </message>
     <message>
         <source>Select a content type [Block/Mtext/None]</source>
-        <translation type="unfinished"></translation>
+        <translation>Selezionare un tipo di contenuto [Block/Mtext/None]</translation>
     </message>
     <message>
         <source>Enter the maximum points for leader or [None] &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare numero massimo di punti della direttrice o [None] &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>A leader has two points at least.</source>
-        <translation type="unfinished"></translation>
+        <translation>Una direttrice ha almeno due punti.</translation>
     </message>
     <message>
         <source>Enter an option [Leader type/leader lAnding/Content type/Maxpoints/First angle/Second angle/eXit options] &lt;eXit options&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare un&apos;opzione [Leader type/leader lAnding/Content type/Maxpoints/First angle/Second angle/eXit options] &lt;eXit options&gt;: </translation>
     </message>
     <message>
         <source>Enter first angle constraint &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare vincolo del primo angolo &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Enter second angle constraint &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare vincolo del secondo angolo &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Specify leader landing location: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare posizione della linea di collegamento della direttrice: </translation>
     </message>
     <message>
         <source>Enter text: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare testo: </translation>
     </message>
     <message>
         <source>Specify first corner of text: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare primo angolo del testo: </translation>
     </message>
     <message>
         <source>Specify insertion point for block: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare punto di inserimento del blocco: </translation>
     </message>
     <message>
         <source>Specify opposite corner: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare angolo opposto: </translation>
     </message>
     <message>
         <source>Specify leader arrowhead location or [leader Landing first/Content first/Options] &lt;Options&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare posizione della punta di freccia della direttrice o [leader Landing first/Content first/Options] &lt;Options&gt;: </translation>
     </message>
     <message>
         <source>A drawing of this version has no multileaders: they come with R2007.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un disegno di questa versione non ha multidirettrici: esistono da R2007.</translation>
     </message>
     <message>
         <source>Specify leader arrowhead location: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare posizione della punta di freccia della direttrice: </translation>
     </message>
     <message>
         <source>Object selected is not a multileader.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;oggetto selezionato non è una multidirettrice.</translation>
     </message>
     <message>
         <source>Select a multileader: </source>
-        <translation type="unfinished"></translation>
+        <translation>Selezionare una multidirettrice: </translation>
     </message>
     <message>
         <source>Specify leaders to remove or [Add leaders]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare direttrici da rimuovere o [Add leaders]: </translation>
     </message>
     <message>
         <source>Specify leader arrowhead location or [Remove leaders]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare posizione della punta di freccia della direttrice o [Remove leaders]: </translation>
     </message>
     <message>
         <source>
 The multileader has no leader there.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+La multidirettrice non ha una direttrice in quel punto.</translation>
     </message>
     <message>
         <source>Enter an option [Distribute/specify Spacing/Use current spacing] &lt;Use current spacing&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare un&apos;opzione [Distribute/specify Spacing/Use current spacing] &lt;Use current spacing&gt;: </translation>
     </message>
     <message>
         <source>Specify spacing</source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare spaziatura</translation>
     </message>
     <message>
         <source>Select multileaders: </source>
-        <translation type="unfinished"></translation>
+        <translation>Selezionare multidirettrici: </translation>
     </message>
     <message>
         <source>No multileaders were selected.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessuna multidirettrice selezionata.</translation>
     </message>
     <message>
         <source>Specify first point or [Options]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare primo punto o [Options]: </translation>
     </message>
     <message>
         <source>Specify second point: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare secondo punto: </translation>
     </message>
     <message>
         <source>Select multileader to align to or [Options]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Selezionare multidirettrice a cui allineare o [Options]: </translation>
     </message>
     <message>
         <source>Specify direction: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare direzione: </translation>
     </message>
     <message>
         <source>Specify angle of dimension text: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare angolo del testo di quota: </translation>
     </message>
     <message>
         <source>
 Dimension text = </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Testo di quota = </translation>
     </message>
     <message>
         <source>Enter justification [%1]</source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare giustificazione [%1]</translation>
     </message>
     <message>
         <source>Enter line spacing type [At least/Exactly]</source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare tipo di interlinea [At least/Exactly]</translation>
     </message>
     <message>
         <source>Enter line spacing factor or distance &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare fattore o distanza di interlinea &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Lines are 0.25x to 4x of the usual distance apart.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le righe distano da 0.25x a 4x della distanza abituale.</translation>
     </message>
     <message>
         <source>Specify total width</source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare larghezza totale</translation>
     </message>
     <message>
         <source>Specify number of columns &lt;2&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare numero di colonne &lt;2&gt;: </translation>
     </message>
     <message>
         <source>Specify gutter width</source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare larghezza dello spazio fra colonne</translation>
     </message>
     <message>
         <source>So many columns do not fit into this width.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tante colonne non stanno in questa larghezza.</translation>
     </message>
     <message>
         <source>Specify column width</source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare larghezza delle colonne</translation>
     </message>
     <message>
         <source>Enter column type [Dynamic/Static/No columns]</source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare tipo di colonne [Dynamic/Static/No columns]</translation>
     </message>
     <message>
         <source>A drawing of this version has no columns in texts: they come with R2007.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un disegno di questa versione non ha colonne nei testi: esistono da R2007.</translation>
     </message>
     <message>
         <source>Specify column height</source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare altezza delle colonne</translation>
     </message>
     <message>
         <source>Specify height</source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare altezza</translation>
     </message>
     <message>
         <source>Specify rotation angle &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare angolo di rotazione &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Specify width</source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare larghezza</translation>
     </message>
     <message>
         <source>Specify first corner: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare primo angolo: </translation>
     </message>
     <message>
         <source>Specify opposite corner or [Height/Justify/Line spacing/Rotation/Style/Width/Columns]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare angolo opposto o [Height/Justify/Line spacing/Rotation/Style/Width/Columns]: </translation>
     </message>
     <message>
         <source>
 Current text style:  &quot;%1&quot;  Text height:  %2</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Stile di testo corrente:  &quot;%1&quot;  Altezza testo:  %2</translation>
     </message>
     <message>
         <source>MText: </source>
-        <translation type="unfinished"></translation>
+        <translation>TestoM: </translation>
     </message>
     <message>
         <source>No texts were selected.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessun testo selezionato.</translation>
     </message>
     <message>
         <source>
 %1 texts became one paragraph.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 testi sono diventati un paragrafo.</translation>
     </message>
     <message>
         <source>Object selected is not a circle or arc.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;oggetto selezionato non è un cerchio o un arco.</translation>
     </message>
     <message>
         <source>Specify dimension line location or leader length for text: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare posizione della linea di quota o lunghezza della direttrice per il testo: </translation>
     </message>
     <message>
         <source>A drawing of this version has no jogged dimensions of radii: they come with R2004.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un disegno di questa versione non ha quote di raggio ridotte: esistono da R2004.</translation>
     </message>
     <message>
         <source>Select arc or circle: </source>
-        <translation type="unfinished"></translation>
+        <translation>Selezionare arco o cerchio: </translation>
     </message>
     <message>
         <source>Specify center location override: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare posizione sostitutiva del centro: </translation>
     </message>
     <message>
         <source>Specify jog location: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare posizione dello spezzamento: </translation>
     </message>
     <message>
         <source>DIMCEN is 0: there is no centre mark.</source>
-        <translation type="unfinished"></translation>
+        <translation>DIMCEN è 0: non c&apos;è contrassegno del centro.</translation>
     </message>
     <message>
         <source>Enter name of text style</source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nome dello stile di testo</translation>
     </message>
     <message>
         <source>Invalid style name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nome di stile non valido.</translation>
     </message>
     <message>
         <source>Specify full font name or font filename (TTF or SHX) &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare nome completo o file del font (TTF o SHX) &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Specify height of text</source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare altezza del testo</translation>
     </message>
     <message>
         <source>Specify width factor</source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare fattore di larghezza</translation>
     </message>
     <message>
         <source>Specify obliquing angle &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare angolo di inclinazione &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>The obliquing angle is from -85 to 85 degrees.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;angolo di inclinazione va da -85 a 85 gradi.</translation>
     </message>
     <message>
         <source>Display text backwards?</source>
-        <translation type="unfinished"></translation>
+        <translation>Visualizzare il testo da destra a sinistra?</translation>
     </message>
     <message>
         <source>Display text upside-down?</source>
-        <translation type="unfinished"></translation>
+        <translation>Visualizzare il testo capovolto?</translation>
     </message>
     <message>
         <source>
 Existing style.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Stile esistente.</translation>
     </message>
     <message>
         <source>
 New style.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Nuovo stile.</translation>
     </message>
     <message>
         <source>
 &quot;%1&quot; is now the current text style.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+&quot;%1&quot; è ora lo stile di testo corrente.</translation>
     </message>
     <message>
         <source>Specify start point of text or [Justify/Style]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare punto iniziale del testo o [Justify/Style]: </translation>
     </message>
     <message>
         <source>There is no text to go on below.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non c&apos;è un testo sotto cui continuare.</translation>
     </message>
     <message>
         <source>Specify second endpoint of text baseline: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare secondo estremo della linea di base del testo: </translation>
     </message>
     <message>
         <source>Specify height &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare altezza &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Specify rotation angle of text &lt;0&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare angolo di rotazione del testo &lt;0&gt;: </translation>
     </message>
     <message>
         <source>The two endpoints are one point.</source>
-        <translation type="unfinished"></translation>
+        <translation>I due estremi coincidono.</translation>
     </message>
     <message>
         <source>
 Style name: &quot;%1&quot;  Font files: %2  Height: %3  Width factor: %4</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Nome stile: &quot;%1&quot;  File di font: %2  Altezza: %3  Fattore di larghezza: %4</translation>
     </message>
     <message>
         <source>%1 or [?] &lt;%2&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>%1 o [?] &lt;%2&gt;: </translation>
     </message>
     <message>
         <source>Enter text style(s) to list &lt;*&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare stili di testo da elencare &lt;*&gt;: </translation>
     </message>
     <message>
         <source>Enter style name</source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nome dello stile</translation>
     </message>
     <message>
         <source>Cannot find text style &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile trovare lo stile di testo &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>
 Cannot find file &quot;%1&quot; of reference &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Impossibile trovare il file &quot;%1&quot; del riferimento &quot;%2&quot;.</translation>
     </message>
     <message>
         <source>
 Warning: &quot;%1&quot; shows this drawing, which is left out there.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Avviso: &quot;%1&quot; mostra questo disegno, che là viene omesso.</translation>
     </message>
     <message>
         <source>
 &quot;%1&quot; loaded.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+&quot;%1&quot; caricato.</translation>
     </message>
     <message>
         <source>Cannot find file &quot;%1&quot; of reference &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile trovare il file &quot;%1&quot; del riferimento &quot;%2&quot;.</translation>
     </message>
     <message>
         <source>
 &quot;%1&quot; is a block of this drawing now.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+&quot;%1&quot; è ora un blocco di questo disegno.</translation>
     </message>
     <message>
         <source> %1 of its records could not be taken over.</source>
-        <translation type="unfinished"></translation>
+        <translation> %1 dei suoi record non sono stati acquisiti.</translation>
     </message>
     <message>
         <source>Enter an option [?/Name/Select] &lt;Select&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare un&apos;opzione [?/Name/Select] &lt;Select&gt;: </translation>
     </message>
     <message>
         <source>
 Blocks with attributes:
   </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Blocchi con attributi:
+  </translation>
     </message>
     <message>
         <source>Enter name of block to synchronize or [?]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nome del blocco da sincronizzare o [?]: </translation>
     </message>
     <message>
         <source>Select a block: </source>
-        <translation type="unfinished"></translation>
+        <translation>Selezionare un blocco: </translation>
     </message>
     <message>
         <source>That is no block reference.</source>
-        <translation type="unfinished"></translation>
+        <translation>Questo non è un riferimento di blocco.</translation>
     </message>
     <message>
         <source>ATTSYNC block %1? [Yes/No] &lt;Yes&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Applicare ATTSYNC al blocco %1? [Yes/No] &lt;Yes&gt;: </translation>
     </message>
     <message>
         <source>Block &quot;%1&quot; not found.</source>
-        <translation type="unfinished"></translation>
+        <translation>Blocco &quot;%1&quot; non trovato.</translation>
     </message>
     <message>
         <source>
 %1 block references were synchronized.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 riferimenti di blocco sincronizzati.</translation>
     </message>
     <message>
         <source>Enter block name specification &lt;*&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare filtro dei nomi di blocco &lt;*&gt;: </translation>
     </message>
     <message>
         <source>Enter attribute tag specification &lt;*&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare filtro delle etichette di attributo &lt;*&gt;: </translation>
     </message>
     <message>
         <source>Enter attribute value specification &lt;*&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare filtro dei valori di attributo &lt;*&gt;: </translation>
     </message>
     <message>
         <source>
 %1 attributes selected.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 attributi selezionati.</translation>
     </message>
     <message>
         <source>Enter string to change: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare stringa da cambiare: </translation>
     </message>
     <message>
         <source>Enter new string: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nuova stringa: </translation>
     </message>
     <message>
         <source>Enter type of value modification [Change/Replace] &lt;R&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare tipo di modifica del valore [Change/Replace] &lt;R&gt;: </translation>
     </message>
     <message>
         <source>Enter new attribute value: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nuovo valore dell&apos;attributo: </translation>
     </message>
     <message>
         <source>Specify new height &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare nuova altezza &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Enter new layer name: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nome del nuovo layer: </translation>
     </message>
     <message>
         <source>Enter an option [Value/Height/Layer/Next] &lt;N&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare un&apos;opzione [Value/Height/Layer/Next] &lt;N&gt;: </translation>
     </message>
     <message>
         <source>Edit attributes one at a time? [Yes/No] &lt;Y&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Modificare gli attributi uno alla volta? [Yes/No] &lt;Y&gt;: </translation>
     </message>
     <message>
         <source>Edit only attributes visible on screen? [Yes/No] &lt;Y&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Modificare solo gli attributi visibili sullo schermo? [Yes/No] &lt;Y&gt;: </translation>
     </message>
     <message>
         <source>%1, . for none &lt;%2&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>%1, . per nessuno &lt;%2&gt;: </translation>
     </message>
     <message>
         <source>The block has no attributes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il blocco non ha attributi.</translation>
     </message>
     <message>
         <source>Enter number or tag of attribute or [?] &lt;exit&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare numero o etichetta dell&apos;attributo o [?] &lt;esci&gt;: </translation>
     </message>
     <message>
         <source>The value of %1 is constant.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il valore di %1 è costante.</translation>
     </message>
     <message>
         <source>There is no attribute &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non c&apos;è nessun attributo &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>
 Defined blocks.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Blocchi definiti.</translation>
     </message>
     <message>
         <source>
 %1 user blocks.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 blocchi utente.</translation>
     </message>
     <message>
         <source>Enter block name or [?]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nome del blocco o [?]: </translation>
     </message>
     <message>
         <source>Enter block(s) to list &lt;*&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare blocchi da elencare &lt;*&gt;: </translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be the name of a block.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; non può essere il nome di un blocco.</translation>
     </message>
     <message>
         <source>Block &quot;%1&quot; cannot be redefined.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il blocco &quot;%1&quot; non può essere ridefinito.</translation>
     </message>
     <message>
         <source>Block &quot;%1&quot; already exists. Redefine it? [Yes/No] &lt;N&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Il blocco &quot;%1&quot; esiste già. Ridefinirlo? [Yes/No] &lt;N&gt;: </translation>
     </message>
     <message>
         <source>Block &quot;%1&quot; would show itself.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il blocco &quot;%1&quot; mostrerebbe se stesso.</translation>
     </message>
     <message>
         <source>Specify insertion base point or [Annotative]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare punto base di inserimento o [Annotative]: </translation>
     </message>
     <message>
         <source>
 Blocks are made without annotation scales.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+I blocchi vengono creati senza scale di annotazione.</translation>
     </message>
     <message>
         <source>Create annotative block? [Yes/No] &lt;N&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Creare blocco annotativo? [Yes/No] &lt;N&gt;: </translation>
     </message>
     <message>
         <source>Enter base point &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare punto base &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>
 %1 field(s) found
 %1 field(s) updated</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 campo/i trovato/i
+%1 campo/i aggiornato/i</translation>
     </message>
     <message>
         <source>Specify first point: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare primo punto: </translation>
     </message>
     <message>
         <source>Specify next point or [Undo]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare punto successivo o [Undo]: </translation>
     </message>
     <message>
         <source>Select polyline: </source>
-        <translation type="unfinished"></translation>
+        <translation>Selezionare polilinea: </translation>
     </message>
     <message>
         <source>Specify clipping boundary or select invert option: [Select polyline/Polygonal/Rectangular/Invert clip] &lt;Rectangular&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare contorno di ritaglio o scegliere l&apos;opzione di inversione: [Select polyline/Polygonal/Rectangular/Invert clip] &lt;Rectangular&gt;: </translation>
     </message>
     <message>
         <source>
 Objects inside boundary will be hidden.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Gli oggetti interni al contorno verranno nascosti.</translation>
     </message>
     <message>
         <source>
 Objects outside boundary will be hidden.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Gli oggetti esterni al contorno verranno nascosti.</translation>
     </message>
     <message>
         <source>That encloses nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Questo non racchiude nulla.</translation>
     </message>
     <message>
         <source>
 %1 could not be clipped.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 non sono stati ritagliati.</translation>
     </message>
     <message>
         <source>Delete old boundary(s)? [Yes/No] &lt;Yes&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Eliminare i vecchi contorni? [Yes/No] &lt;Yes&gt;: </translation>
     </message>
     <message>
         <source>No block references were chosen.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessun riferimento di blocco scelto.</translation>
     </message>
     <message>
         <source>Enter clipping option [ON/OFF/Delete/generate Polyline/New boundary] &lt;New&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare opzione di ritaglio [ON/OFF/Delete/generate Polyline/New boundary] &lt;New&gt;: </translation>
     </message>
     <message>
         <source>Nothing of that can be copied.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nulla di questo può essere copiato.</translation>
     </message>
     <message>
         <source>Specify base point: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare punto base: </translation>
     </message>
     <message>
         <source>The clipboard is empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>Gli Appunti sono vuoti.</translation>
     </message>
     <message>
         <source>
 %1 could not be pasted.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 non sono stati incollati.</translation>
     </message>
     <message>
         <source>Specify insertion point: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare punto di inserimento: </translation>
     </message>
     <message>
         <source>
 Defined groups.                            Selectable</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Gruppi definiti.                           Selezionabile</translation>
     </message>
     <message>
         <source>Enter group name(s) to list &lt;*&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nomi di gruppi da elencare &lt;*&gt;: </translation>
     </message>
     <message>
         <source>Enter a group name or [?]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nome di un gruppo o [?]: </translation>
     </message>
     <message>
         <source>Group &quot;%1&quot; does not exist.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il gruppo &quot;%1&quot; non esiste.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be the name of a group.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; non può essere il nome di un gruppo.</translation>
     </message>
     <message>
         <source>Group &quot;%1&quot; already exists.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il gruppo &quot;%1&quot; esiste già.</translation>
     </message>
     <message>
         <source>A group needs an entity.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un gruppo richiede un&apos;entità.</translation>
     </message>
     <message>
         <source>A drawing of this version has no groups.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un disegno di questa versione non ha gruppi.</translation>
     </message>
     <message>
         <source>Enter a group description: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare descrizione del gruppo: </translation>
     </message>
     <message>
         <source>Select objects: </source>
-        <translation type="unfinished"></translation>
+        <translation>Selezionare oggetti: </translation>
     </message>
     <message>
         <source>Enter a new name for group or [?]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nuovo nome del gruppo o [?]: </translation>
     </message>
     <message>
         <source>Enter position number of the object to reorder %1 or [Reverse]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare numero di posizione dell&apos;oggetto da riordinare %1 o [Reverse]: </translation>
     </message>
     <message>
         <source>Enter new position number for the object %1: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nuovo numero di posizione dell&apos;oggetto %1: </translation>
     </message>
     <message>
         <source>Enter number of objects to reorder &lt;1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare numero di oggetti da riordinare &lt;1&gt;: </translation>
     </message>
     <message>
         <source>Requires a number from 0 to %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Occorre un numero da 0 a %1.</translation>
     </message>
     <message>
         <source>Is group selectable? [Yes/No] &lt;Y&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Il gruppo è selezionabile? [Yes/No] &lt;Y&gt;: </translation>
     </message>
     <message>
         <source>Enter a group option [?/Order/Add/Remove/Explode/REName/Selectable/Create] &lt;Create&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare un&apos;opzione di gruppo [?/Order/Add/Remove/Explode/REName/Selectable/Create] &lt;Create&gt;: </translation>
     </message>
     <message>
         <source>
 %1 of its entities became ones that a drawing of this version has.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 delle sue entità sono diventate entità che un disegno di questa versione possiede.</translation>
     </message>
     <message>
         <source>
 %1 of its entities could not be taken over.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 delle sue entità non sono state acquisite.</translation>
     </message>
     <message>
         <source>Cannot find block or file &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile trovare il blocco o file &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>Enter block name or [?] &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nome del blocco o [?] &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Specify scale factor for XYZ axes &lt;1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare fattore di scala per gli assi XYZ &lt;1&gt;: </translation>
     </message>
     <message>
         <source>Specify %1 scale factor &lt;1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare fattore di scala %1 &lt;1&gt;: </translation>
     </message>
     <message>
         <source>Enter %1 scale factor &lt;use X scale factor&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare fattore di scala %1 &lt;usare fattore di scala X&gt;: </translation>
     </message>
     <message>
         <source>Enter X scale factor or [Corner/XYZ] &lt;1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare fattore di scala X o [Corner/XYZ] &lt;1&gt;: </translation>
     </message>
     <message>
         <source>Value must be nonzero.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il valore deve essere diverso da zero.</translation>
     </message>
     <message>
         <source>Specify X scale factor &lt;1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare fattore di scala X &lt;1&gt;: </translation>
     </message>
     <message>
         <source>Specify insertion point or [Scale/X/Y/Z/Rotate]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare punto di inserimento o [Scale/X/Y/Z/Rotate]: </translation>
     </message>
     <message>
         <source>Specify scale factor &lt;1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare fattore di scala &lt;1&gt;: </translation>
     </message>
     <message>
         <source>Cannot find file &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile trovare il file &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>The drawing cannot refer to itself.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il disegno non può fare riferimento a se stesso.</translation>
     </message>
     <message>
         <source>The name &quot;%1&quot; is a block&apos;s already.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il nome &quot;%1&quot; è già di un blocco.</translation>
     </message>
     <message>
         <source>The name &quot;%1&quot; cannot be used.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il nome &quot;%1&quot; non può essere usato.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no drawing.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; non è un disegno.</translation>
     </message>
     <message>
         <source>
 Xref &quot;%1&quot; has already been defined.
 Using existing definition.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+L&apos;Xrif &quot;%1&quot; è già definito.
+Viene usata la definizione esistente.</translation>
     </message>
     <message>
         <source>
 %1 Xref &quot;%2&quot;: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 Xrif &quot;%2&quot;: %3</translation>
     </message>
     <message>
         <source>
 No matching references found.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Nessun riferimento corrispondente trovato.</translation>
     </message>
     <message>
         <source>
 &quot;%1&quot; was not detached: block &quot;%2&quot; holds it.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+&quot;%1&quot; non è stato staccato: lo contiene il blocco &quot;%2&quot;.</translation>
     </message>
     <message>
         <source>
 &quot;%1&quot; was not detached.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+&quot;%1&quot; non è stato staccato.</translation>
     </message>
     <message>
         <source>
 &quot;%1&quot; detached.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+&quot;%1&quot; staccato.</translation>
     </message>
     <message>
         <source>
 &quot;%1&quot; unloaded.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+&quot;%1&quot; scaricato.</translation>
     </message>
     <message>
         <source>Enter xref name(s) to list &lt;*&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nomi di xrif da elencare &lt;*&gt;: </translation>
     </message>
     <message>
         <source>Enter xref name(s) to bind: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nomi di xrif da unire: </translation>
     </message>
     <message>
         <source>Enter xref name(s) to detach: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nomi di xrif da staccare: </translation>
     </message>
     <message>
         <source>Enter xref name(s) to unload: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nomi di xrif da scaricare: </translation>
     </message>
     <message>
         <source>Enter xref name(s) to reload: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nomi di xrif da ricaricare: </translation>
     </message>
     <message>
         <source>Enter xref name(s) to edit path: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nomi di xrif di cui modificare il percorso: </translation>
     </message>
     <message>
         <source>
 Xref name: %1
 Old path: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Nome xrif: %1
+Vecchio percorso: %2</translation>
     </message>
     <message>
         <source>Enter new path: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nuovo percorso: </translation>
     </message>
     <message>
         <source>Enter name of file to attach: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nome del file da attaccare: </translation>
     </message>
     <message>
         <source>Enter an option [?/Bind/Detach/Path/Unload/Reload/Overlay/Attach] &lt;Attach&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare un&apos;opzione [?/Bind/Detach/Path/Unload/Reload/Overlay/Attach] &lt;Attach&gt;: </translation>
     </message>
     <message>
         <source>
 Nothing to write.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Nulla da scrivere.</translation>
     </message>
     <message>
         <source>
 %1 was written as DXF text.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 è stato scritto come testo DXF.</translation>
     </message>
     <message>
         <source>
 %1 was written.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 è stato scritto.</translation>
     </message>
     <message>
         <source>Enter name of output file: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nome del file di output: </translation>
     </message>
     <message>
         <source>Enter name of existing block, [= (same name)/* (whole drawing)] &lt;choose entities&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nome di un blocco esistente, [= (same name)/* (whole drawing)] &lt;scegliere entità&gt;: </translation>
     </message>
     <message>
         <source>
 Block &quot;%1&quot; not found.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Blocco &quot;%1&quot; non trovato.</translation>
     </message>
     <message>
         <source>Specify insertion base point: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare punto base di inserimento: </translation>
     </message>
     <message>
         <source>
 1 was on a locked layer.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+1 era su un layer bloccato.</translation>
     </message>
     <message>
         <source>
 %1 were on a locked layer.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 erano su un layer bloccato.</translation>
     </message>
     <message>
         <source>The numbers are too large.</source>
-        <translation type="unfinished"></translation>
+        <translation>I numeri sono troppo grandi.</translation>
     </message>
     <message>
         <source>
 %1 could not be changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 non sono stati modificati.</translation>
     </message>
     <message>
         <source>
 %1 could not be mirrored.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 non sono stati specchiati.</translation>
     </message>
     <message>
         <source>
 %1 could not be copied.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 non sono stati copiati.</translation>
     </message>
     <message>
         <source>
 Linetype &quot;%1&quot; loaded.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Tipo di linea &quot;%1&quot; caricato.</translation>
     </message>
     <message>
         <source>Specify displacement &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare spostamento &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Specify base point or [Displacement] &lt;Displacement&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare punto base o [Displacement] &lt;Displacement&gt;: </translation>
     </message>
     <message>
         <source>Specify second point or &lt;use first point as displacement&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare secondo punto o &lt;usare primo punto come spostamento&gt;: </translation>
     </message>
     <message>
         <source>Cannot find %1 &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile trovare %1 &quot;%2&quot;.</translation>
     </message>
     <message>
         <source>%1 already exists. Replace it? [Yes/No] &lt;No&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>%1 esiste già. Sostituirlo? [Yes/No] &lt;No&gt;: </translation>
     </message>
     <message>
         <source>Specify the reference angle &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare angolo di riferimento &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Specify the new angle or [Points] &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare nuovo angolo o [Points] &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Specify reference length &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare lunghezza di riferimento &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Specify new length or [Points] &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare nuova lunghezza o [Points] &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>(ADD mode) </source>
-        <translation type="unfinished"></translation>
+        <translation>(modo AGGIUNGI) </translation>
     </message>
     <message>
         <source>(SUBTRACT mode) </source>
-        <translation type="unfinished"></translation>
+        <translation>(modo SOTTRAI) </translation>
     </message>
     <message>
         <source>
 Area = %1, %2 = %3</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Area = %1, %2 = %3</translation>
     </message>
     <message>
         <source>
 Total area = %1</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Area totale = %1</translation>
     </message>
     <message>
         <source>
 Selected object does not have an area.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+L&apos;oggetto selezionato non ha un&apos;area.</translation>
     </message>
     <message>
         <source>%1Specify next point or [Undo]: </source>
-        <translation type="unfinished"></translation>
+        <translation>%1Specificare punto successivo o [Undo]: </translation>
     </message>
     <message>
         <source>%1Specify next point or [Undo/Total] &lt;Total&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>%1Specificare punto successivo o [Undo/Total] &lt;Total&gt;: </translation>
     </message>
     <message>
         <source>Specify first corner point or [Object/Add area/Subtract area] &lt;Object&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare primo vertice o [Object/Add area/Subtract area] &lt;Object&gt;: </translation>
     </message>
     <message>
         <source>Specify first corner point or [Object/Subtract area]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare primo vertice o [Object/Subtract area]: </translation>
     </message>
     <message>
         <source>Specify first corner point or [Object/Add area]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare primo vertice o [Object/Add area]: </translation>
     </message>
     <message>
         <source>Select object: </source>
-        <translation type="unfinished"></translation>
+        <translation>Selezionare oggetto: </translation>
     </message>
     <message>
         <source>Specify second break point or [First point]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare secondo punto di interruzione o [First point]: </translation>
     </message>
     <message>
         <source>Specify first break point: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare primo punto di interruzione: </translation>
     </message>
     <message>
         <source>Specify second break point: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare secondo punto di interruzione: </translation>
     </message>
     <message>
         <source>A whole circle or ellipse cannot be broken at one point.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un cerchio o un&apos;ellisse interi non si possono spezzare in un punto.</translation>
     </message>
     <message>
         <source>The object cannot be broken there.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;oggetto non può essere spezzato in quel punto.</translation>
     </message>
     <message>
         <source>The lines are parallel.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le linee sono parallele.</translation>
     </message>
     <message>
         <source>The lines are one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le linee coincidono.</translation>
     </message>
     <message>
         <source>The angle leads to no cut.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;angolo non porta a nessun taglio.</translation>
     </message>
     <message>
         <source>Radius is too large.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il raggio è troppo grande.</translation>
     </message>
     <message>
         <source>Distance is too large.</source>
-        <translation type="unfinished"></translation>
+        <translation>La distanza è troppo grande.</translation>
     </message>
     <message>
         <source>There is no arc of that radius.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non c&apos;è nessun arco di quel raggio.</translation>
     </message>
     <message>
         <source>They do not lie in one plane.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non giacciono su un unico piano.</translation>
     </message>
     <message>
         <source>Two different ones are needed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ne occorrono due diversi.</translation>
     </message>
     <message>
         <source>Only straight lines can be chamfered.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si possono cimare solo linee rette.</translation>
     </message>
     <message>
         <source>Enter Trim mode option [Trim/No trim]</source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare opzione del modo Taglia [Trim/No trim]</translation>
     </message>
     <message>
         <source>Specify first chamfer distance</source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare prima distanza di cimatura</translation>
     </message>
     <message>
         <source>Specify second chamfer distance</source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare seconda distanza di cimatura</translation>
     </message>
     <message>
         <source>Specify chamfer length on the first line</source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare lunghezza di cimatura sulla prima linea</translation>
     </message>
     <message>
         <source>Specify chamfer angle from the first line &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare angolo di cimatura dalla prima linea &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Specify fillet radius</source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare raggio di raccordo</translation>
     </message>
     <message>
         <source>Enter trim method [Distance/Angle]</source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare metodo di taglio [Distance/Angle]</translation>
     </message>
     <message>
         <source>Select 2D polyline or [Radius]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Selezionare polilinea 2D o [Radius]: </translation>
     </message>
     <message>
         <source>Select 2D polyline or [Distance/Angle/mEthod]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Selezionare polilinea 2D o [Distance/Angle/mEthod]: </translation>
     </message>
     <message>
         <source>Requires a flat polyline.</source>
-        <translation type="unfinished"></translation>
+        <translation>Occorre una polilinea piana.</translation>
     </message>
     <message>
         <source>
 %1 lines were filleted</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 linee raccordate</translation>
     </message>
     <message>
         <source>
 %1 lines were chamfered</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 linee cimate</translation>
     </message>
     <message>
         <source>
 %1 were too short</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 erano troppo corte</translation>
     </message>
     <message>
         <source>
 %1 were parallel</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 erano parallele</translation>
     </message>
     <message>
         <source>Requires a line, arc, circle or straight stretch of a polyline in the user&apos;s plane.</source>
-        <translation type="unfinished"></translation>
+        <translation>Occorre una linea, un arco, un cerchio o un tratto retto di polilinea nel piano dell&apos;utente.</translation>
     </message>
     <message>
         <source>Select second object or [Radius]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Selezionare secondo oggetto o [Radius]: </translation>
     </message>
     <message>
         <source>Select second line or [Distance/Angle/Method]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Selezionare seconda linea o [Distance/Angle/Method]: </translation>
     </message>
     <message>
         <source>Select first object or [Undo/Polyline/Radius/Trim/Multiple]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Selezionare primo oggetto o [Undo/Polyline/Radius/Trim/Multiple]: </translation>
     </message>
     <message>
         <source>Select first line or [Undo/Polyline/Distance/Angle/Trim/mEthod/Multiple]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Selezionare prima linea o [Undo/Polyline/Distance/Angle/Trim/mEthod/Multiple]: </translation>
     </message>
     <message>
         <source>
 Nothing to undo</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Nulla da annullare</translation>
     </message>
     <message>
         <source>
 Current settings: Mode = %1, Radius = %2</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Impostazioni correnti: Modo = %1, Raggio = %2</translation>
     </message>
     <message>
         <source>
 (%1 mode) Current chamfer Dist1 = %2, Dist2 = %3</source>
-        <translation type="unfinished"></translation>
+        <translation>
+(Modo %1) Cimatura corrente Dist1 = %2, Dist2 = %3</translation>
     </message>
     <message>
         <source>The corner has no room for that.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;angolo non ha spazio per questo.</translation>
     </message>
     <message>
         <source>Only the ends of open polylines, lines and arcs can be joined.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si possono unire solo gli estremi di polilinee aperte, linee e archi.</translation>
     </message>
     <message>
         <source>Only neighbouring stretches of a polyline make a corner.</source>
-        <translation type="unfinished"></translation>
+        <translation>Solo tratti contigui di una polilinea formano un angolo.</translation>
     </message>
     <message>
         <source>Enter name of block to insert: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nome del blocco da inserire: </translation>
     </message>
     <message>
         <source>Align block with object?</source>
-        <translation type="unfinished"></translation>
+        <translation>Allineare il blocco con l&apos;oggetto?</translation>
     </message>
     <message>
         <source>Select object to divide: </source>
-        <translation type="unfinished"></translation>
+        <translation>Selezionare oggetto da dividere: </translation>
     </message>
     <message>
         <source>Enter the number of segments or [Block]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare numero di segmenti o [Block]: </translation>
     </message>
     <message>
         <source>Enter the number of segments: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare numero di segmenti: </translation>
     </message>
     <message>
         <source>The number must be between 2 and %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il numero deve essere fra 2 e %1.</translation>
     </message>
     <message>
         <source>Select object to measure: </source>
-        <translation type="unfinished"></translation>
+        <translation>Selezionare oggetto da misurare: </translation>
     </message>
     <message>
         <source>Specify length of segment or [Block]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare lunghezza del segmento o [Block]: </translation>
     </message>
     <message>
         <source>Specify length of segment: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare lunghezza del segmento: </translation>
     </message>
     <message>
         <source>These would be more than %1.</source>
@@ -5423,7 +5496,7 @@ Layers currently frozen in viewport %1:</source>
     </message>
     <message>
         <source>Cannot find layer &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile trovare il layer &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>Layer &quot;%1&quot; is needed by every drawing.</source>
@@ -5455,7 +5528,7 @@ Layers currently frozen in viewport %1:</source>
     </message>
     <message>
         <source>Block</source>
-        <translation type="unfinished"></translation>
+        <translation>Blocco</translation>
     </message>
     <message>
         <source>block</source>
@@ -5511,7 +5584,7 @@ Layers currently frozen in viewport %1:</source>
     </message>
     <message>
         <source>Cannot find %1 &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile trovare %1 &quot;%2&quot;.</translation>
     </message>
     <message>
         <source>%1 &quot;%2&quot; cannot be renamed.</source>
@@ -5691,7 +5764,7 @@ Layers currently frozen in viewport %1:</source>
     </message>
     <message>
         <source>line %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>riga %1: %2</translation>
     </message>
     <message>
         <source>%1 has a value for group %2 that the binary form has no room for: &quot;%3&quot;</source>
@@ -5763,7 +5836,7 @@ Layers currently frozen in viewport %1:</source>
     </message>
     <message>
         <source>and %1 more</source>
-        <translation type="unfinished"></translation>
+        <translation>e altri %1</translation>
     </message>
     <message>
         <source>the file is sound, nothing was dropped</source>
@@ -6157,7 +6230,7 @@ The drawing stays open.</source>
     </message>
     <message>
         <source>%1 already exists. Do you want to replace it?</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 esiste già. Sostituirlo?</translation>
     </message>
     <message>
         <source>Save drawing</source>
@@ -9880,7 +9953,7 @@ Specify temporary tracking point: </source>
     </message>
     <message>
         <source>Value must be nonzero.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il valore deve essere diverso da zero.</translation>
     </message>
     <message>
         <source>Value must not be negative.</source>
@@ -10091,7 +10164,7 @@ This link of the help page is not followed: %1
     </message>
     <message>
         <source>The numbers are too large.</source>
-        <translation type="unfinished"></translation>
+        <translation>I numeri sono troppo grandi.</translation>
     </message>
     <message>
         <source>
@@ -10291,7 +10364,7 @@ The user&apos;s settings cannot be kept.
     </message>
     <message>
         <source>Block</source>
-        <translation type="unfinished"></translation>
+        <translation>Blocco</translation>
     </message>
     <message>
         <source>Block selection</source>
@@ -10299,7 +10372,7 @@ The user&apos;s settings cannot be kept.
     </message>
     <message>
         <source>Blocks</source>
-        <translation type="unfinished"></translation>
+        <translation>Blocchi</translation>
     </message>
     <message>
         <source>Both</source>
@@ -10311,7 +10384,7 @@ The user&apos;s settings cannot be kept.
     </message>
     <message>
         <source>Boundaries</source>
-        <translation type="unfinished"></translation>
+        <translation>Contorni</translation>
     </message>
     <message>
         <source>Boundary</source>
@@ -10327,11 +10400,11 @@ The user&apos;s settings cannot be kept.
     </message>
     <message>
         <source>ByBlock</source>
-        <translation type="unfinished"></translation>
+        <translation>DaBlocco</translation>
     </message>
     <message>
         <source>ByLayer</source>
-        <translation type="unfinished"></translation>
+        <translation>DaLayer</translation>
     </message>
     <message>
         <source>CEnter</source>
@@ -10359,7 +10432,7 @@ The user&apos;s settings cannot be kept.
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annulla</translation>
     </message>
     <message>
         <source>Center</source>
@@ -10387,11 +10460,11 @@ The user&apos;s settings cannot be kept.
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Chiudi</translation>
     </message>
     <message>
         <source>Color</source>
-        <translation type="unfinished"></translation>
+        <translation>Colore</translation>
     </message>
     <message>
         <source>Columns</source>
@@ -10507,7 +10580,7 @@ The user&apos;s settings cannot be kept.
     </message>
     <message>
         <source>Dimensions</source>
-        <translation type="unfinished"></translation>
+        <translation>Dimensioni</translation>
     </message>
     <message>
         <source>Dimstyle</source>
@@ -10647,7 +10720,7 @@ The user&apos;s settings cannot be kept.
     </message>
     <message>
         <source>Format</source>
-        <translation type="unfinished"></translation>
+        <translation>Formato</translation>
     </message>
     <message>
         <source>Freehand</source>
@@ -10735,7 +10808,7 @@ The user&apos;s settings cannot be kept.
     </message>
     <message>
         <source>Inches</source>
-        <translation type="unfinished"></translation>
+        <translation>Pollici</translation>
     </message>
     <message>
         <source>Included angle</source>
@@ -10831,7 +10904,7 @@ The user&apos;s settings cannot be kept.
     </message>
     <message>
         <source>Layer</source>
-        <translation type="unfinished"></translation>
+        <translation>Layer</translation>
     </message>
     <message>
         <source>Layout</source>
@@ -10855,7 +10928,7 @@ The user&apos;s settings cannot be kept.
     </message>
     <message>
         <source>Limits</source>
-        <translation type="unfinished"></translation>
+        <translation>Limiti</translation>
     </message>
     <message>
         <source>Line</source>
@@ -10951,7 +11024,7 @@ The user&apos;s settings cannot be kept.
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nome</translation>
     </message>
     <message>
         <source>New</source>
@@ -11039,15 +11112,15 @@ The user&apos;s settings cannot be kept.
     </message>
     <message>
         <source>Off</source>
-        <translation type="unfinished"></translation>
+        <translation>No</translation>
     </message>
     <message>
         <source>Offset</source>
-        <translation type="unfinished"></translation>
+        <translation>Offset</translation>
     </message>
     <message>
         <source>On</source>
-        <translation type="unfinished"></translation>
+        <translation>Sì</translation>
     </message>
     <message>
         <source>One</source>
@@ -11059,7 +11132,7 @@ The user&apos;s settings cannot be kept.
     </message>
     <message>
         <source>Options</source>
-        <translation type="unfinished"></translation>
+        <translation>Opzioni</translation>
     </message>
     <message>
         <source>Order</source>
@@ -11355,7 +11428,7 @@ The user&apos;s settings cannot be kept.
     </message>
     <message>
         <source>Spacing</source>
-        <translation type="unfinished"></translation>
+        <translation>Spaziatura</translation>
     </message>
     <message>
         <source>Spline</source>
@@ -11387,7 +11460,7 @@ The user&apos;s settings cannot be kept.
     </message>
     <message>
         <source>Style</source>
-        <translation type="unfinished"></translation>
+        <translation>Stile</translation>
     </message>
     <message>
         <source>Subtract area</source>
@@ -11463,7 +11536,7 @@ The user&apos;s settings cannot be kept.
     </message>
     <message>
         <source>Type</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipo</translation>
     </message>
     <message>
         <source>Ucs</source>
@@ -11894,11 +11967,11 @@ The user&apos;s settings cannot be kept.
     <name>Layers</name>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nome</translation>
     </message>
     <message>
         <source>On</source>
-        <translation type="unfinished"></translation>
+        <translation>Sì</translation>
     </message>
     <message>
         <source>Freeze</source>
@@ -11914,7 +11987,7 @@ The user&apos;s settings cannot be kept.
     </message>
     <message>
         <source>Color</source>
-        <translation type="unfinished"></translation>
+        <translation>Colore</translation>
     </message>
     <message>
         <source>Linetype</source>
@@ -12005,7 +12078,7 @@ The user&apos;s settings cannot be kept.
     </message>
     <message>
         <source>&amp;Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Elimina</translation>
     </message>
     <message>
         <source>&amp;Draw</source>
@@ -12109,7 +12182,7 @@ The user&apos;s settings cannot be kept.
     </message>
     <message>
         <source>&amp;Save</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Salva</translation>
     </message>
     <message>
         <source>&amp;Start page</source>
@@ -12285,7 +12358,7 @@ The user&apos;s settings cannot be kept.
     </message>
     <message>
         <source>Color</source>
-        <translation type="unfinished"></translation>
+        <translation>Colore</translation>
     </message>
     <message>
         <source>Coordinates of a point</source>
@@ -12397,7 +12470,7 @@ The user&apos;s settings cannot be kept.
     </message>
     <message>
         <source>External reference</source>
-        <translation type="unfinished"></translation>
+        <translation>Riferimento esterno</translation>
     </message>
     <message>
         <source>F&amp;ormat</source>
@@ -12621,7 +12694,7 @@ The user&apos;s settings cannot be kept.
     </message>
     <message>
         <source>Offset</source>
-        <translation type="unfinished"></translation>
+        <translation>Offset</translation>
     </message>
     <message>
         <source>Onto the sheet</source>
@@ -13171,7 +13244,7 @@ The user&apos;s settings cannot be kept.
     </message>
     <message>
         <source>line %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>riga %1: %2</translation>
     </message>
     <message>
         <source>line %1: the session has cases, each of which wants the drawing opened anew</source>
@@ -13426,11 +13499,11 @@ The user&apos;s settings cannot be kept.
     </message>
     <message>
         <source>Color</source>
-        <translation type="unfinished"></translation>
+        <translation>Colore</translation>
     </message>
     <message>
         <source>Layer</source>
-        <translation type="unfinished"></translation>
+        <translation>Layer</translation>
     </message>
     <message>
         <source>Linetype</source>
@@ -13586,7 +13659,7 @@ The user&apos;s settings cannot be kept.
     </message>
     <message>
         <source>Position</source>
-        <translation type="unfinished"></translation>
+        <translation>Posizione</translation>
     </message>
     <message>
         <source>Prompt</source>
@@ -13650,7 +13723,7 @@ The user&apos;s settings cannot be kept.
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nome</translation>
     </message>
     <message>
         <source>Scale X</source>
@@ -13686,11 +13759,11 @@ The user&apos;s settings cannot be kept.
     </message>
     <message>
         <source>Style</source>
-        <translation type="unfinished"></translation>
+        <translation>Stile</translation>
     </message>
     <message>
         <source>Location</source>
-        <translation type="unfinished"></translation>
+        <translation>Posizione</translation>
     </message>
     <message>
         <source>Attachment</source>
@@ -13706,7 +13779,7 @@ The user&apos;s settings cannot be kept.
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Dimensione</translation>
     </message>
     <message>
         <source>Degree</source>
@@ -13753,7 +13826,7 @@ The user&apos;s settings cannot be kept.
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>?</translation>
     </message>
 </context>
 <context>
@@ -14670,7 +14743,7 @@ Documents are made from this, and scripts/demand compares it with what programs 
     </message>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>File</translation>
     </message>
     <message>
         <source>&amp;Save selected</source>
@@ -14829,7 +14902,7 @@ No drawing is open.
     </message>
     <message>
         <source>&amp;Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Elimina</translation>
     </message>
     <message>
         <source>Takes unused layers out of the drawing</source>
@@ -14917,7 +14990,7 @@ No drawing is open.
     </message>
     <message>
         <source>Select &amp;all</source>
-        <translation type="unfinished"></translation>
+        <translation>Seleziona &amp;tutto</translation>
     </message>
 </context>
 <context>
@@ -15120,7 +15193,7 @@ Recovered as it was on %1. It is not in its file until it is saved.
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annulla</translation>
     </message>
     <message>
         <source>Repeat %1</source>
@@ -15178,7 +15251,7 @@ Recovered as it was on %1. It is not in its file until it is saved.
     </message>
     <message>
         <source>Preview</source>
-        <translation type="unfinished"></translation>
+        <translation>Anteprima</translation>
     </message>
     <message>
         <source>&amp;Print</source>
@@ -15206,7 +15279,7 @@ Recovered as it was on %1. It is not in its file until it is saved.
     </message>
     <message>
         <source>Limits</source>
-        <translation type="unfinished"></translation>
+        <translation>Limiti</translation>
     </message>
     <message>
         <source>The layout&apos;s sheet</source>
@@ -15346,11 +15419,11 @@ Recovered as it was on %1. It is not in its file until it is saved.
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Dimensione</translation>
     </message>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>File</translation>
     </message>
     <message>
         <source>&amp;Open selected</source>
@@ -15607,7 +15680,7 @@ Recovered as it was on %1. It is not in its file until it is saved.
     </message>
     <message>
         <source>Search</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerca</translation>
     </message>
     <message>
         <source>Search the settings</source>
@@ -15760,11 +15833,11 @@ Recovered as it was on %1. It is not in its file until it is saved.
     </message>
     <message>
         <source>Layer</source>
-        <translation type="unfinished"></translation>
+        <translation>Layer</translation>
     </message>
     <message>
         <source>Color</source>
-        <translation type="unfinished"></translation>
+        <translation>Colore</translation>
     </message>
     <message>
         <source>Linetype</source>
@@ -15810,7 +15883,7 @@ Recovered as it was on %1. It is not in its file until it is saved.
     </message>
     <message>
         <source>A tag has no blanks.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un&apos;etichetta non ha spazi.</translation>
     </message>
     <message>
         <source>The value is constant: the block says it.</source>
@@ -15861,7 +15934,7 @@ Recovered as it was on %1. It is not in its file until it is saved.
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Chiudi</translation>
     </message>
     <message>
         <source>%1 things were kept back: they are named here but not in trusted folders.</source>
@@ -15911,7 +15984,7 @@ Recovered as it was on %1. It is not in its file until it is saved.
     </message>
     <message>
         <source>&amp;Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Elimina</translation>
     </message>
     <message>
         <source>Move &amp;left</source>
@@ -15931,7 +16004,7 @@ Recovered as it was on %1. It is not in its file until it is saved.
     </message>
     <message>
         <source>&amp;Name:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nome:</translation>
     </message>
 </context>
 <context>
@@ -15984,7 +16057,7 @@ Recovered as it was on %1. It is not in its file until it is saved.
     </message>
     <message>
         <source>&amp;Color:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Colore:</translation>
     </message>
 </context>
 <context>

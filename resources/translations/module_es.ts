@@ -5,2975 +5,2980 @@
     <name>BlockReplacementDialog</name>
     <message>
         <source>The block &quot;%1&quot; is taken for %2, as another block of the drawing is. Rename one of the two first.</source>
-        <translation type="unfinished"></translation>
+        <translation>El bloque &quot;%1&quot; se toma por %2, igual que otro bloque del dibujo. Cambie antes el nombre de uno de los dos.</translation>
     </message>
 </context>
 <context>
     <name>DLG_QT_ConvertNotes</name>
     <message>
         <source>Convert SimpleNote</source>
-        <translation type="unfinished"></translation>
+        <translation>Convertir SimpleNote</translation>
     </message>
     <message>
         <source>Format</source>
-        <translation type="unfinished"></translation>
+        <translation>Formato</translation>
     </message>
     <message>
         <source>Keep original T&amp;extStyle</source>
-        <translation type="unfinished"></translation>
+        <translation>Conservar estilo de te&amp;xto</translation>
     </message>
     <message>
         <source>Keep original &amp;LineColor</source>
-        <translation type="unfinished"></translation>
+        <translation>Conservar color de &amp;línea</translation>
     </message>
     <message>
         <source>Keep original &amp;height</source>
-        <translation type="unfinished"></translation>
+        <translation>Conservar a&amp;ltura</translation>
     </message>
     <message>
         <source>Ordering</source>
-        <translation type="unfinished"></translation>
+        <translation>Orden</translation>
     </message>
     <message>
         <source>&amp;Selection set</source>
-        <translation type="unfinished"></translation>
+        <translation>Conjunto de &amp;selección</translation>
     </message>
     <message>
         <source>&amp;Top-down</source>
-        <translation type="unfinished"></translation>
+        <translation>De a&amp;rriba abajo</translation>
     </message>
     <message>
         <source>&amp;Alphabetical</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Alfabético</translation>
     </message>
     <message>
         <source>&amp;Create word-wrap text</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Crear texto con ajuste de línea</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>Aceptar</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Ayuda</translation>
     </message>
 </context>
 <context>
     <name>DLG_QT_PatternHatch</name>
     <message>
         <source>Pattern Hatch</source>
-        <translation type="unfinished"></translation>
+        <translation>Sombreado con patrón</translation>
     </message>
     <message>
         <source>Type </source>
-        <translation type="unfinished"></translation>
+        <translation>Tipo </translation>
     </message>
     <message>
         <source>&amp;Block</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Bloque</translation>
     </message>
     <message>
         <source>&amp;Image</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Imagen</translation>
     </message>
     <message>
         <source>&amp;External reference</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Referencia externa</translation>
     </message>
     <message>
         <source>&amp;Mask</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Máscara</translation>
     </message>
     <message>
         <source>&amp;Name:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nombre:</translation>
     </message>
     <message>
         <source>...</source>
-        <translation type="unfinished"></translation>
+        <translation>...</translation>
     </message>
     <message>
         <source>Favorites</source>
-        <translation type="unfinished"></translation>
+        <translation>Favoritos</translation>
     </message>
     <message>
         <source>Save favorite</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar favorito</translation>
     </message>
     <message>
         <source>Remove favorite</source>
-        <translation type="unfinished"></translation>
+        <translation>Eliminar favorito</translation>
     </message>
     <message>
         <source>Pattern preview</source>
-        <translation type="unfinished"></translation>
+        <translation>Vista previa del patrón</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Tamaño</translation>
     </message>
     <message>
         <source>&amp;Width and height as scale factor</source>
-        <translation type="unfinished"></translation>
+        <translation>Anchura y altura como &amp;factor de escala</translation>
     </message>
     <message>
         <source>&amp;Lock aspect ratio</source>
-        <translation type="unfinished"></translation>
+        <translation>Fi&amp;jar proporción</translation>
     </message>
     <message>
         <source>Wid&amp;th:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Anchura:</translation>
     </message>
     <message>
         <source>Hei&amp;ght:</source>
-        <translation type="unfinished"></translation>
+        <translation>Alt&amp;ura:</translation>
     </message>
     <message>
         <source>Spacing</source>
-        <translation type="unfinished"></translation>
+        <translation>Separación</translation>
     </message>
     <message>
         <source>Offset &amp;X:</source>
-        <translation type="unfinished"></translation>
+        <translation>Desfase &amp;X:</translation>
     </message>
     <message>
         <source>Offset &amp;Y:</source>
-        <translation type="unfinished"></translation>
+        <translation>Desfase &amp;Y:</translation>
     </message>
     <message>
         <source>Position</source>
-        <translation type="unfinished"></translation>
+        <translation>Posición</translation>
     </message>
     <message>
         <source>Pattern &amp;origin:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Origen del patrón:</translation>
     </message>
     <message>
         <source>X</source>
-        <translation type="unfinished"></translation>
+        <translation>X</translation>
     </message>
     <message>
         <source>Specify in graphics area</source>
-        <translation type="unfinished"></translation>
+        <translation>Precisar en el área gráfica</translation>
     </message>
     <message>
         <source>Y</source>
-        <translation type="unfinished"></translation>
+        <translation>Y</translation>
     </message>
     <message>
         <source>Rotation &amp;angle:</source>
-        <translation type="unfinished"></translation>
+        <translation>Ángu&amp;lo de rotación:</translation>
     </message>
     <message>
         <source>Extracts pattern, size, position and rotation from an entity in drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>Extrae el patrón, el tamaño, la posición y la rotación de una entidad del dibujo</translation>
     </message>
     <message>
         <source>&amp;Extract from entity</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Extraer de entidad</translation>
     </message>
     <message>
         <source>Boundaries</source>
-        <translation type="unfinished"></translation>
+        <translation>Contornos</translation>
     </message>
     <message>
         <source>Specify &amp;entities</source>
-        <translation type="unfinished"></translation>
+        <translation>De&amp;signar entidades</translation>
     </message>
     <message>
         <source>&amp;Specify points</source>
-        <translation type="unfinished"></translation>
+        <translation>Designar &amp;puntos</translation>
     </message>
     <message>
         <source>&amp;Delete boundary entities</source>
-        <translation type="unfinished"></translation>
+        <translation>Borrar entidades de &amp;contorno</translation>
     </message>
     <message>
         <source>&amp;Highlight boundary entities</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Resaltar entidades de contorno</translation>
     </message>
     <message>
         <source>&amp;Extract from a hatch</source>
-        <translation type="unfinished"></translation>
+        <translation>E&amp;xtraer de un sombreado</translation>
     </message>
     <message>
         <source>Type of entities</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipo de entidades</translation>
     </message>
     <message>
         <source>&amp;Anonymous block</source>
-        <translation type="unfinished"></translation>
+        <translation>Blo&amp;que anónimo</translation>
     </message>
     <message>
         <source>E&amp;ntity group</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Grupo de entidades</translation>
     </message>
     <message>
         <source>Limits</source>
-        <translation type="unfinished"></translation>
+        <translation>Límites</translation>
     </message>
     <message>
         <source>&amp;Cut entities</source>
-        <translation type="unfinished"></translation>
+        <translation>Cor&amp;tar entidades</translation>
     </message>
     <message>
         <source>&amp;Draw surpassing entities</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Dibujar entidades excedentes</translation>
     </message>
     <message>
         <source>Tolerance for curves</source>
-        <translation type="unfinished"></translation>
+        <translation>Tolerancia para curvas</translation>
     </message>
     <message>
         <source>Previews the result in the drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>Muestra el resultado en el dibujo</translation>
     </message>
     <message>
         <source>&amp;Preview</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Vista previa</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>Aceptar</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Ayuda</translation>
     </message>
     <message>
         <source>A drawing of this version has neither images nor masks.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un dibujo de esta versión no tiene ni imágenes ni máscaras.</translation>
     </message>
     <message>
         <source>At the boundary copies of references are left out: they cannot be cut.</source>
-        <translation type="unfinished"></translation>
+        <translation>En el contorno se omiten copias de referencias: no se pueden cortar.</translation>
     </message>
     <message>
         <source>At the boundary copies with anything but lines, arcs and polylines are left out.</source>
-        <translation type="unfinished"></translation>
+        <translation>En el contorno se omiten las copias que tengan algo más que líneas, arcos y polilíneas.</translation>
     </message>
     <message>
         <source>Copies of references are clipped at the boundary, not cut.</source>
-        <translation type="unfinished"></translation>
+        <translation>Las copias de referencias se delimitan en el contorno, no se cortan.</translation>
     </message>
     <message>
         <source>Copies with texts, images or tilted entities are clipped, not cut.</source>
-        <translation type="unfinished"></translation>
+        <translation>Las copias con textos, imágenes o entidades inclinadas se delimitan, no se cortan.</translation>
     </message>
     <message>
         <source>Select image for pattern</source>
-        <translation type="unfinished"></translation>
+        <translation>Seleccionar imagen para el patrón</translation>
     </message>
     <message>
         <source>Specify Pattern </source>
-        <translation type="unfinished"></translation>
+        <translation>Precisar patrón </translation>
     </message>
     <message>
         <source>Scale must be higher than zero. </source>
-        <translation type="unfinished"></translation>
+        <translation>La escala debe ser mayor que cero. </translation>
     </message>
     <message>
         <source>The tolerance value is less than minimum. The value is reset to minimum (0.01). </source>
-        <translation type="unfinished"></translation>
+        <translation>La tolerancia es inferior al mínimo. Se restablece el valor mínimo (0.01). </translation>
     </message>
     <message>
         <source>All supported Image file (*.bmp *.gif *.jpg *.jpeg *.png *.tif *.tiff *.ecw);;</source>
-        <translation type="unfinished"></translation>
+        <translation>Todas las imágenes admitidas (*.bmp *.gif *.jpg *.jpeg *.png *.tif *.tiff *.ecw);;</translation>
     </message>
     <message>
         <source>Windows Bitmap (*.bmp);;</source>
-        <translation type="unfinished"></translation>
+        <translation>Windows Bitmap (*.bmp);;</translation>
     </message>
     <message>
         <source>Graphics Interchange Format (*.gif);;</source>
-        <translation type="unfinished"></translation>
+        <translation>Graphics Interchange Format (*.gif);;</translation>
     </message>
     <message>
         <source>JPEG File Interchange Format (*.jpg *.jpeg);;</source>
-        <translation type="unfinished"></translation>
+        <translation>JPEG File Interchange Format (*.jpg *.jpeg);;</translation>
     </message>
     <message>
         <source>Portable Netkword Graphics (*.png);;</source>
-        <translation type="unfinished"></translation>
+        <translation>Portable Network Graphics (*.png);;</translation>
     </message>
     <message>
         <source>Tagged Image File Format (*.tif *.tiff);;</source>
-        <translation type="unfinished"></translation>
+        <translation>Tagged Image File Format (*.tif *.tiff);;</translation>
     </message>
     <message>
         <source>Enhanced Compression Wavelet (*.ecw)</source>
-        <translation type="unfinished"></translation>
+        <translation>Enhanced Compression Wavelet (*.ecw)</translation>
     </message>
 </context>
 <context>
     <name>DLG_QT_SelectBlock</name>
     <message>
         <source>Select Block</source>
-        <translation type="unfinished"></translation>
+        <translation>Seleccionar bloque</translation>
     </message>
     <message>
         <source>Blocks of</source>
-        <translation type="unfinished"></translation>
+        <translation>Bloques de</translation>
     </message>
     <message>
         <source>&amp;Active drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>Dibujo &amp;activo</translation>
     </message>
     <message>
         <source>&amp;Drawing file:</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivo de &amp;dibujo:</translation>
     </message>
     <message>
         <source>Drawing file that has the block</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivo de dibujo que contiene el bloque</translation>
     </message>
     <message>
         <source>Browse the disk for the drawing that has the block</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar en el disco el dibujo que contiene el bloque</translation>
     </message>
     <message>
         <source>&amp;Browse...</source>
-        <translation type="unfinished"></translation>
+        <translation>E&amp;xaminar...</translation>
     </message>
     <message>
         <source>&amp;Filter by:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Filtrar por:</translation>
     </message>
     <message>
         <source>Regular expression; blocks whose name contains it are listed</source>
-        <translation type="unfinished"></translation>
+        <translation>Expresión regular; se listan los bloques cuyo nombre la contiene</translation>
     </message>
     <message>
         <source>List the blocks that programs have made without a name of their own, such as *U12</source>
-        <translation type="unfinished"></translation>
+        <translation>Listar los bloques que los programas han creado sin nombre propio, como *U12</translation>
     </message>
     <message>
         <source>&amp;Show anonymous blocks</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Mostrar bloques anónimos</translation>
     </message>
     <message>
         <source>Preview</source>
-        <translation type="unfinished"></translation>
+        <translation>Vista previa</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>Aceptar</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Ayuda</translation>
     </message>
     <message>
         <source>Name;Type</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre;Tipo</translation>
     </message>
     <message>
         <source>External reference</source>
-        <translation type="unfinished"></translation>
+        <translation>Referencia externa</translation>
     </message>
     <message>
         <source>Drawing files (*.dwg *.dxf)</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos de dibujo (*.dwg *.dxf)</translation>
     </message>
     <message>
         <source>Block</source>
-        <translation type="unfinished"></translation>
+        <translation>Bloque</translation>
     </message>
     <message>
         <source>Anonymous block</source>
-        <translation type="unfinished"></translation>
+        <translation>Bloque anónimo</translation>
     </message>
     <message>
         <source>Cannot find the specified file.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se encuentra el archivo especificado.</translation>
     </message>
     <message>
         <source>The drawing file cannot be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede leer el archivo de dibujo.</translation>
     </message>
     <message>
         <source>Blocks: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Bloques: %1</translation>
     </message>
     <message>
         <source>Blocks: %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Bloques: %1 de %2</translation>
     </message>
     <message>
         <source>The drawing has no blocks.</source>
-        <translation type="unfinished"></translation>
+        <translation>El dibujo no tiene bloques.</translation>
     </message>
     <message>
         <source>You must first select a block.</source>
-        <translation type="unfinished"></translation>
+        <translation>Primero debe seleccionar un bloque.</translation>
     </message>
     <message>
         <source>The name of the block holds characters that no program can take. Rename it first.</source>
-        <translation type="unfinished"></translation>
+        <translation>El nombre del bloque contiene caracteres que ningún programa acepta. Cámbielo antes.</translation>
     </message>
     <message>
         <source>The block &quot;%1&quot; is an external reference of the other drawing. Attach its drawing instead.</source>
-        <translation type="unfinished"></translation>
+        <translation>El bloque &quot;%1&quot; es una referencia externa del otro dibujo. Enlace su dibujo en su lugar.</translation>
     </message>
     <message>
         <source>The block &quot;%1&quot; is anonymous: it cannot be brought in from another drawing.</source>
-        <translation type="unfinished"></translation>
+        <translation>El bloque &quot;%1&quot; es anónimo: no se puede traer de otro dibujo.</translation>
     </message>
     <message>
         <source>The drawing file does not have the block &quot;%1&quot; any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo de dibujo ya no tiene el bloque &quot;%1&quot;.</translation>
     </message>
 </context>
 <context>
     <name>Dlg_QT_Breakline</name>
     <message>
         <source>Breakline</source>
-        <translation type="unfinished"></translation>
+        <translation>Línea de rotura</translation>
     </message>
     <message>
         <source>Specify a drawing for breakline</source>
-        <translation type="unfinished"></translation>
+        <translation>Precisar un dibujo para la línea de rotura</translation>
     </message>
     <message>
         <source>&amp;Browse...</source>
-        <translation type="unfinished"></translation>
+        <translation>E&amp;xaminar...</translation>
     </message>
     <message>
         <source>Preview</source>
-        <translation type="unfinished"></translation>
+        <translation>Vista previa</translation>
     </message>
     <message>
         <source>Sizes</source>
-        <translation type="unfinished"></translation>
+        <translation>Tamaños</translation>
     </message>
     <message>
         <source>Si&amp;ze:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tamaño:</translation>
     </message>
     <message>
         <source>O&amp;ffset:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Desfase:</translation>
     </message>
     <message>
         <source>New symbol</source>
-        <translation type="unfinished"></translation>
+        <translation>Símbolo nuevo</translation>
     </message>
     <message>
         <source>&amp;Name:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nombre:</translation>
     </message>
     <message>
         <source>Specify entities to use as breakline</source>
-        <translation type="unfinished"></translation>
+        <translation>Designar entidades como línea de rotura</translation>
     </message>
     <message>
         <source>&amp;Specify entity to use as breakline</source>
-        <translation type="unfinished"></translation>
+        <translation>De&amp;signar entidad como línea de rotura</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>Aceptar</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Ayuda</translation>
     </message>
     <message>
         <source>Drawing files (*.dwg *.dxf)</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos de dibujo (*.dwg *.dxf)</translation>
     </message>
     <message>
         <source>Cannot find the specified drawing file.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se encuentra el archivo de dibujo especificado.</translation>
     </message>
 </context>
 <context>
     <name>Dlg_QT_DrawOderColor</name>
     <message>
         <source>Draw Order by Color</source>
-        <translation type="unfinished"></translation>
+        <translation>Orden de dibujo por color</translation>
     </message>
     <message>
         <source>Back: drawn first</source>
-        <translation type="unfinished"></translation>
+        <translation>Detrás: se dibuja primero</translation>
     </message>
     <message>
         <source>Front: drawn last, over all others</source>
-        <translation type="unfinished"></translation>
+        <translation>Delante: se dibuja al final, sobre los demás</translation>
     </message>
     <message>
         <source>Draw the selected colors before all others (Alt+Home)</source>
-        <translation type="unfinished"></translation>
+        <translation>Dibujar los colores seleccionados antes que los demás (Alt+Inicio)</translation>
     </message>
     <message>
         <source>To &amp;back</source>
-        <translation type="unfinished"></translation>
+        <translation>De&amp;trás</translation>
     </message>
     <message>
         <source>Move the selected rows up by one place (Alt+Up)</source>
-        <translation type="unfinished"></translation>
+        <translation>Subir las filas seleccionadas una posición (Alt+Arriba)</translation>
     </message>
     <message>
         <source>Move &amp;up</source>
-        <translation type="unfinished"></translation>
+        <translation>S&amp;ubir</translation>
     </message>
     <message>
         <source>Move the selected rows down by one place (Alt+Down)</source>
-        <translation type="unfinished"></translation>
+        <translation>Bajar las filas seleccionadas una posición (Alt+Abajo)</translation>
     </message>
     <message>
         <source>Move &amp;down</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Bajar</translation>
     </message>
     <message>
         <source>Draw the selected colors after all others (Alt+End)</source>
-        <translation type="unfinished"></translation>
+        <translation>Dibujar los colores seleccionados después que los demás (Alt+Fin)</translation>
     </message>
     <message>
         <source>To &amp;front</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Delante</translation>
     </message>
     <message>
         <source>Turn the order around</source>
-        <translation type="unfinished"></translation>
+        <translation>Invertir el orden</translation>
     </message>
     <message>
         <source>R&amp;everse</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Invertir</translation>
     </message>
     <message>
         <source>Order the colors by their numbers</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordenar los colores por su número</translation>
     </message>
     <message>
         <source>&amp;Sort by number</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ordenar por número</translation>
     </message>
     <message>
         <source>Take the selected colors off the list (Del)</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitar de la lista los colores seleccionados (Supr)</translation>
     </message>
     <message>
         <source>&amp;Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Quitar</translation>
     </message>
     <message>
         <source>&amp;Color:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Color:</translation>
     </message>
     <message>
         <source>Add this color at the front</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir este color delante</translation>
     </message>
     <message>
         <source>&amp;Add</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Añadir</translation>
     </message>
     <message>
         <source>Favorites</source>
-        <translation type="unfinished"></translation>
+        <translation>Favoritos</translation>
     </message>
     <message>
         <source>&amp;Name:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nombre:</translation>
     </message>
     <message>
         <source>Save favorite</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar favorito</translation>
     </message>
     <message>
         <source>Remove favorite</source>
-        <translation type="unfinished"></translation>
+        <translation>Eliminar favorito</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>Aceptar</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Ayuda</translation>
     </message>
     <message>
         <source>%1 (no color)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (no es un color)</translation>
     </message>
     <message>
         <source>Color</source>
-        <translation type="unfinished"></translation>
+        <translation>Color</translation>
     </message>
 </context>
 <context>
     <name>Dlg_QT_EditAlias</name>
     <message>
         <source>Edit Alias</source>
-        <translation type="unfinished"></translation>
+        <translation>Editar alias</translation>
     </message>
     <message>
         <source>Current alias:</source>
-        <translation type="unfinished"></translation>
+        <translation>Alias actuales:</translation>
     </message>
     <message>
         <source>Create new alias</source>
-        <translation type="unfinished"></translation>
+        <translation>Crear alias nuevo</translation>
     </message>
     <message>
         <source>Remove alias</source>
-        <translation type="unfinished"></translation>
+        <translation>Eliminar alias</translation>
     </message>
     <message>
         <source>Clean alias list</source>
-        <translation type="unfinished"></translation>
+        <translation>Vaciar la lista de alias</translation>
     </message>
     <message>
         <source>Save alias</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar alias</translation>
     </message>
     <message>
         <source>Import alias from file</source>
-        <translation type="unfinished"></translation>
+        <translation>Importar alias de un archivo</translation>
     </message>
     <message>
         <source>Export alias to file</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportar alias a un archivo</translation>
     </message>
     <message>
         <source>Print alias</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprimir alias</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>Aceptar</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Ayuda</translation>
     </message>
     <message>
         <source>Command;Alias</source>
-        <translation type="unfinished"></translation>
+        <translation>Comando;Alias</translation>
     </message>
     <message>
         <source>The alias file could not be read whole (%1). Keep it as it is under another name, and write what the table holds in its place?</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo de alias no se ha podido leer entero (%1). ¿Conservarlo tal como está con otro nombre y escribir en su lugar el contenido de la tabla?</translation>
     </message>
     <message>
         <source>What %1 held before is in %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo que %1 contenía antes está en %2.</translation>
     </message>
     <message>
         <source>Select the rows of table for remove.</source>
-        <translation type="unfinished"></translation>
+        <translation>Seleccione las filas de la tabla que quiera eliminar.</translation>
     </message>
     <message>
         <source>Are you sure you want to remove this alias for %1?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Seguro que quiere eliminar este alias de %1?</translation>
     </message>
     <message>
         <source>Are you sure you want to delete all alias?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Seguro que quiere borrar todos los alias?</translation>
     </message>
     <message>
         <source>The alias file has been saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo de alias se ha guardado.</translation>
     </message>
     <message>
         <source>The alias file could not be saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha podido guardar el archivo de alias.</translation>
     </message>
     <message>
         <source>Save As</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar como</translation>
     </message>
     <message>
         <source>Alias files (*.xml);; All files (*.*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos de alias (*.xml);; Todos los archivos (*.*)</translation>
     </message>
     <message>
         <source>The alias file has been exported.</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo de alias se ha exportado.</translation>
     </message>
     <message>
         <source>The alias file could not be exported.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha podido exportar el archivo de alias.</translation>
     </message>
     <message>
         <source>Select the file to import</source>
-        <translation type="unfinished"></translation>
+        <translation>Seleccione el archivo que se va a importar</translation>
     </message>
     <message>
         <source>Alias files (*.txt);; All files (*.*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos de alias (*.txt);; Todos los archivos (*.*)</translation>
     </message>
     <message>
         <source>The alias file could not be imported.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha podido importar el archivo de alias.</translation>
     </message>
     <message>
         <source>This alias already begin used for other command.</source>
-        <translation type="unfinished"></translation>
+        <translation>Este alias ya se usa para otro comando.</translation>
     </message>
     <message>
         <source>Sorting...</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordenando...</translation>
     </message>
 </context>
 <context>
     <name>Dlg_QT_EditTextCase</name>
     <message>
         <source>EditTextCase</source>
-        <translation type="unfinished"></translation>
+        <translation>EditTextCase</translation>
     </message>
     <message>
         <source>Text:</source>
-        <translation type="unfinished"></translation>
+        <translation>Texto:</translation>
     </message>
     <message>
         <source>This is a sample text for kora</source>
-        <translation type="unfinished"></translation>
+        <translation>Este es un texto de muestra para kora</translation>
     </message>
     <message>
         <source>Style</source>
-        <translation type="unfinished"></translation>
+        <translation>Estilo</translation>
     </message>
     <message>
         <source>&amp;Sentence case</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipo &amp;oración</translation>
     </message>
     <message>
         <source>&amp;Lowercase</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Minúsculas</translation>
     </message>
     <message>
         <source>&amp;Uppercase</source>
-        <translation type="unfinished"></translation>
+        <translation>M&amp;ayúsculas</translation>
     </message>
     <message>
         <source>&amp;Title</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Título</translation>
     </message>
     <message>
         <source>T&amp;oggle case</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Invertir may./min.</translation>
     </message>
     <message>
         <source>Preview</source>
-        <translation type="unfinished"></translation>
+        <translation>Vista previa</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>Aceptar</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Ayuda</translation>
     </message>
     <message>
         <source>Sentence</source>
-        <translation type="unfinished"></translation>
+        <translation>Oración</translation>
     </message>
     <message>
         <source>Lower</source>
-        <translation type="unfinished"></translation>
+        <translation>Minúsculas</translation>
     </message>
     <message>
         <source>Upper</source>
-        <translation type="unfinished"></translation>
+        <translation>Mayúsculas</translation>
     </message>
     <message>
         <source>Title</source>
-        <translation type="unfinished"></translation>
+        <translation>Título</translation>
     </message>
     <message>
         <source>toGgle</source>
-        <translation type="unfinished"></translation>
+        <translation>iNvertir</translation>
     </message>
 </context>
 <context>
     <name>Dlg_QT_ExchangedDimensionStyle</name>
     <message>
         <source>Export Dimension Style</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportar estilo de cota</translation>
     </message>
     <message>
         <source>Available DimensionStyles</source>
-        <translation type="unfinished"></translation>
+        <translation>Estilos de cota disponibles</translation>
     </message>
     <message>
         <source>Style Variables</source>
-        <translation type="unfinished"></translation>
+        <translation>Variables del estilo</translation>
     </message>
     <message>
         <source>Options</source>
-        <translation type="unfinished"></translation>
+        <translation>Opciones</translation>
     </message>
     <message>
         <source>&amp;TextStyle name only</source>
-        <translation type="unfinished"></translation>
+        <translation>Solo nombre de estilo de &amp;texto</translation>
     </message>
     <message>
         <source>&amp;Full TextStyle information</source>
-        <translation type="unfinished"></translation>
+        <translation>In&amp;formación completa de estilo de texto</translation>
     </message>
     <message>
         <source>&amp;Export...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Exportar...</translation>
     </message>
     <message>
         <source>Export to file</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportar a archivo</translation>
     </message>
     <message>
         <source>Select Dimension Style file</source>
-        <translation type="unfinished"></translation>
+        <translation>Seleccionar archivo de estilos de cota</translation>
     </message>
     <message>
         <source>DimStyle files (*.dim)</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos de estilos de cota (*.dim)</translation>
     </message>
     <message>
         <source>No dimension style selected, please select a dimension style to export. </source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha seleccionado ningún estilo de cota. Seleccione uno para exportar. </translation>
     </message>
     <message>
         <source>Exchange Dimension Style</source>
-        <translation type="unfinished"></translation>
+        <translation>Intercambiar estilo de cota</translation>
     </message>
     <message>
         <source>%1 already exists. Do you want to replace it?</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ya existe. ¿Desea reemplazarlo?</translation>
     </message>
 </context>
 <context>
     <name>Dlg_QT_ExportInfo</name>
     <message>
         <source>Export Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportar parámetros</translation>
     </message>
     <message>
         <source>User information</source>
-        <translation type="unfinished"></translation>
+        <translation>Información del usuario</translation>
     </message>
     <message>
         <source>&amp;Name:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nombre:</translation>
     </message>
     <message>
         <source>&amp;E-mail address: </source>
-        <translation type="unfinished"></translation>
+        <translation>Correo &amp;electrónico: </translation>
     </message>
     <message>
         <source>&amp;Phone number: </source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Teléfono: </translation>
     </message>
     <message>
         <source>&amp;Issue description: </source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Descripción del problema: </translation>
     </message>
     <message>
         <source>Steps to Reproduce the Issue</source>
-        <translation type="unfinished"></translation>
+        <translation>Pasos para reproducir el problema</translation>
     </message>
     <message>
         <source>System information</source>
-        <translation type="unfinished"></translation>
+        <translation>Información del sistema</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>Aceptar</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Ayuda</translation>
     </message>
     <message>
         <source>Export information</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportar información</translation>
     </message>
     <message>
         <source>Text files (*.txt)</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos de texto (*.txt)</translation>
     </message>
 </context>
 <context>
     <name>Dlg_QT_ExportSettings</name>
     <message>
         <source>Export Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportar parámetros</translation>
     </message>
     <message>
         <source>&amp;Variable type:</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipo de &amp;variable:</translation>
     </message>
     <message>
         <source>Select a system variable</source>
-        <translation type="unfinished"></translation>
+        <translation>Seleccione una variable de sistema</translation>
     </message>
     <message>
         <source>Save modified settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar parámetros modificados</translation>
     </message>
     <message>
         <source>&amp;Export to script...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Exportar a script...</translation>
     </message>
     <message>
         <source>All,Read only,Dangerous,Standard</source>
-        <translation type="unfinished"></translation>
+        <translation>Todas,Solo lectura,Peligrosas,Estándar</translation>
     </message>
     <message>
         <source>VariableToScript</source>
-        <translation type="unfinished"></translation>
+        <translation>VariableToScript</translation>
     </message>
     <message>
         <source>ExportVariables</source>
-        <translation type="unfinished"></translation>
+        <translation>ExportVariables</translation>
     </message>
     <message>
         <source>Append to script...</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir a script...</translation>
     </message>
     <message>
         <source>Export to script...</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportar a script...</translation>
     </message>
     <message>
         <source>Append settings to an existing file</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir parámetros a un archivo existente</translation>
     </message>
     <message>
         <source>Save script file</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar archivo de script</translation>
     </message>
     <message>
         <source>Append to script file</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir a archivo de script</translation>
     </message>
     <message>
         <source>Script files (*.scr)</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos de script (*.scr)</translation>
     </message>
 </context>
 <context>
     <name>Dlg_QT_GetBlockInfo</name>
     <message>
         <source>Get Block Info</source>
-        <translation type="unfinished"></translation>
+        <translation>Información de bloques</translation>
     </message>
     <message>
         <source>Creates a table in the drawing with the block information</source>
-        <translation type="unfinished"></translation>
+        <translation>Crea en el dibujo una tabla con la información de los bloques</translation>
     </message>
     <message>
         <source>Export list to a table in &amp;drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportar lista a una tabla del &amp;dibujo</translation>
     </message>
     <message>
         <source>Saves the list to a text file</source>
-        <translation type="unfinished"></translation>
+        <translation>Guarda la lista en un archivo de texto</translation>
     </message>
     <message>
         <source>Export list to a &amp;file</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportar lista a un &amp;archivo</translation>
     </message>
     <message>
         <source>Block Information</source>
-        <translation type="unfinished"></translation>
+        <translation>Información de bloques</translation>
     </message>
     <message>
         <source>&amp;Include nested blocks</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Incluir bloques anidados</translation>
     </message>
     <message>
         <source>Name;Instances</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre;Apariciones</translation>
     </message>
     <message>
         <source>Resulting file</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivo resultante</translation>
     </message>
     <message>
         <source>Text files (*.txt)</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos de texto (*.txt)</translation>
     </message>
 </context>
 <context>
     <name>Dlg_QT_ImportBlockAttributes</name>
     <message>
         <source>Import Block Attributes</source>
-        <translation type="unfinished"></translation>
+        <translation>Importar atributos de bloque</translation>
     </message>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivo</translation>
     </message>
     <message>
         <source>Opens an attribute text file</source>
-        <translation type="unfinished"></translation>
+        <translation>Abre un archivo de texto de atributos</translation>
     </message>
     <message>
         <source>&amp;Browse...</source>
-        <translation type="unfinished"></translation>
+        <translation>E&amp;xaminar...</translation>
     </message>
     <message>
         <source>Find and replace</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar y reemplazar</translation>
     </message>
     <message>
         <source>&amp;Find what:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Buscar:</translation>
     </message>
     <message>
         <source>R&amp;eplace with:</source>
-        <translation type="unfinished"></translation>
+        <translation>R&amp;eemplazar por:</translation>
     </message>
     <message>
         <source>Replace coincidences with specified string</source>
-        <translation type="unfinished"></translation>
+        <translation>Reemplazar las coincidencias por la cadena indicada</translation>
     </message>
     <message>
         <source>&amp;Replace</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Reemplazar</translation>
     </message>
     <message>
         <source>&amp;Select all</source>
-        <translation type="unfinished"></translation>
+        <translation>Seleccionar &amp;todo</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>Aceptar</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Ayuda</translation>
     </message>
     <message>
         <source>Select the file to import</source>
-        <translation type="unfinished"></translation>
+        <translation>Seleccione el archivo que se va a importar</translation>
     </message>
     <message>
         <source>Attributes files (*.txt)</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos de atributos (*.txt)</translation>
     </message>
     <message>
         <source>The table is too large.</source>
-        <translation type="unfinished"></translation>
+        <translation>La tabla es demasiado grande.</translation>
     </message>
     <message>
         <source>Reading the attributes...</source>
-        <translation type="unfinished"></translation>
+        <translation>Leyendo los atributos...</translation>
     </message>
     <message>
         <source>Select items of table for search.</source>
-        <translation type="unfinished"></translation>
+        <translation>Seleccione elementos de la tabla para buscar.</translation>
     </message>
     <message>
         <source>Select the rows of table for import.</source>
-        <translation type="unfinished"></translation>
+        <translation>Seleccione las filas de la tabla que quiera importar.</translation>
     </message>
     <message>
         <source>Collecting the rows...</source>
-        <translation type="unfinished"></translation>
+        <translation>Recopilando las filas...</translation>
     </message>
     <message>
         <source>Sorting...</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordenando...</translation>
     </message>
 </context>
 <context>
     <name>Dlg_QT_ImportDimensionStyle</name>
     <message>
         <source>Import Dimension Style</source>
-        <translation type="unfinished"></translation>
+        <translation>Importar estilo de cota</translation>
     </message>
     <message>
         <source>&amp;File to import:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Archivo que se importa:</translation>
     </message>
     <message>
         <source>&amp;Browse...</source>
-        <translation type="unfinished"></translation>
+        <translation>E&amp;xaminar...</translation>
     </message>
     <message>
         <source>Browse for location of exported file</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar la ubicación del archivo exportado</translation>
     </message>
     <message>
         <source>Available Dimension Styles</source>
-        <translation type="unfinished"></translation>
+        <translation>Estilos de cota disponibles</translation>
     </message>
     <message>
         <source>Style variables</source>
-        <translation type="unfinished"></translation>
+        <translation>Variables del estilo</translation>
     </message>
     <message>
         <source>Options</source>
-        <translation type="unfinished"></translation>
+        <translation>Opciones</translation>
     </message>
     <message>
         <source>Overwrite existing TextStyle</source>
-        <translation type="unfinished"></translation>
+        <translation>Sobrescribir estilo de texto existente</translation>
     </message>
     <message>
         <source>Overwrite existing DimensionStyle</source>
-        <translation type="unfinished"></translation>
+        <translation>Sobrescribir estilo de cota existente</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>Aceptar</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Ayuda</translation>
     </message>
     <message>
         <source>Select Dimension Style file</source>
-        <translation type="unfinished"></translation>
+        <translation>Seleccionar archivo de estilos de cota</translation>
     </message>
     <message>
         <source>DimStyle files (*.dim)</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos de estilos de cota (*.dim)</translation>
     </message>
     <message>
         <source>No dimension style selected, please select a dimension style to import. </source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha seleccionado ningún estilo de cota. Seleccione uno para importar. </translation>
     </message>
 </context>
 <context>
     <name>Dlg_QT_LispExplorer</name>
     <message>
         <source>Lisp Explorer</source>
-        <translation type="unfinished"></translation>
+        <translation>Explorador de Lisp</translation>
     </message>
     <message>
         <source>Location</source>
-        <translation type="unfinished"></translation>
+        <translation>Ubicación</translation>
     </message>
     <message>
         <source>&amp;Library</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Biblioteca</translation>
     </message>
     <message>
         <source>L&amp;oaded</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Cargadas</translation>
     </message>
     <message>
         <source>&amp;Folder:</source>
-        <translation type="unfinished"></translation>
+        <translation>Car&amp;peta:</translation>
     </message>
     <message>
         <source>Browse a folder containing lisp files</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar una carpeta que contenga archivos Lisp</translation>
     </message>
     <message>
         <source>&amp;Browse...</source>
-        <translation type="unfinished"></translation>
+        <translation>E&amp;xaminar...</translation>
     </message>
     <message>
         <source>Files:</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos:</translation>
     </message>
     <message>
         <source>Functions:</source>
-        <translation type="unfinished"></translation>
+        <translation>Funciones:</translation>
     </message>
     <message>
         <source>Loads this function</source>
-        <translation type="unfinished"></translation>
+        <translation>Carga esta función</translation>
     </message>
     <message>
         <source>Lo&amp;ad</source>
-        <translation type="unfinished"></translation>
+        <translation>Car&amp;gar</translation>
     </message>
     <message>
         <source>&amp;Display as:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Mostrar como:</translation>
     </message>
     <message>
         <source>Filter the function content</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtrar el contenido de la función</translation>
     </message>
     <message>
         <source>&amp;Search:</source>
-        <translation type="unfinished"></translation>
+        <translation>B&amp;uscar:</translation>
     </message>
     <message>
         <source>Search</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar</translation>
     </message>
     <message>
         <source>Type</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipo</translation>
     </message>
     <message>
         <source>&amp;Commands</source>
-        <translation type="unfinished"></translation>
+        <translation>C&amp;omandos</translation>
     </message>
     <message>
         <source>&amp;Functions</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Funciones</translation>
     </message>
     <message>
         <source>&amp;Variables</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Variables</translation>
     </message>
     <message>
         <source>Saves commands, functions and variables in a text file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Guarda comandos, funciones y variables en un archivo de texto.</translation>
     </message>
     <message>
         <source>Export...</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportar...</translation>
     </message>
     <message>
         <source>; %1 more lines</source>
-        <translation type="unfinished"></translation>
+        <translation>; %1 líneas más</translation>
     </message>
     <message>
         <source>Header Only;Function Only;Both</source>
-        <translation type="unfinished"></translation>
+        <translation>Solo cabecera;Solo función;Ambas</translation>
     </message>
     <message>
         <source>Specify a folder for lisp files</source>
-        <translation type="unfinished"></translation>
+        <translation>Precisar una carpeta para archivos Lisp</translation>
     </message>
     <message>
         <source>Specify Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Precisar carpeta</translation>
     </message>
     <message>
         <source>Error</source>
-        <translation type="unfinished"></translation>
+        <translation>Error</translation>
     </message>
     <message>
         <source>No matches found for</source>
-        <translation type="unfinished"></translation>
+        <translation>Ninguna coincidencia con</translation>
     </message>
     <message>
         <source>The file has been loaded.</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo se ha cargado.</translation>
     </message>
     <message>
         <source>LispExplorer</source>
-        <translation type="unfinished"></translation>
+        <translation>LispExplorer</translation>
     </message>
     <message>
         <source>Error loading database</source>
-        <translation type="unfinished"></translation>
+        <translation>Error al cargar la base de datos</translation>
     </message>
     <message>
         <source>Name;Data type;Value</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre;Tipo de datos;Valor</translation>
     </message>
     <message>
         <source>Name;Data type;Type</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre;Tipo de datos;Tipo</translation>
     </message>
     <message>
         <source>Sorting...</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordenando...</translation>
     </message>
     <message>
         <source>Save dump file</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar archivo de volcado</translation>
     </message>
     <message>
         <source>Dump files (*.dmp)</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos de volcado (*.dmp)</translation>
     </message>
 </context>
 <context>
     <name>Dlg_QT_MakeLineStyle</name>
     <message>
         <source>Make LineStyle</source>
-        <translation type="unfinished"></translation>
+        <translation>Crear tipo de línea</translation>
     </message>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivo</translation>
     </message>
     <message>
         <source>Select the .LIN file where the new line style will be included</source>
-        <translation type="unfinished"></translation>
+        <translation>Seleccione el archivo .LIN en el que se incluirá el nuevo tipo de línea</translation>
     </message>
     <message>
         <source>&amp;Browse...</source>
-        <translation type="unfinished"></translation>
+        <translation>E&amp;xaminar...</translation>
     </message>
     <message>
         <source>Definition</source>
-        <translation type="unfinished"></translation>
+        <translation>Definición</translation>
     </message>
     <message>
         <source>&amp;Name:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nombre:</translation>
     </message>
     <message>
         <source>&amp;Description:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Descripción:</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>Aceptar</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Ayuda</translation>
     </message>
     <message>
         <source>Name;Description</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre;Descripción</translation>
     </message>
     <message>
         <source>Specify Linestyle file</source>
-        <translation type="unfinished"></translation>
+        <translation>Precisar archivo de tipos de línea</translation>
     </message>
     <message>
         <source>Linestyle files (*.lin)</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos de tipos de línea (*.lin)</translation>
     </message>
     <message>
         <source>The format of the file is not valid. </source>
-        <translation type="unfinished"></translation>
+        <translation>El formato del archivo no es válido. </translation>
     </message>
     <message>
         <source>Invalid file format</source>
-        <translation type="unfinished"></translation>
+        <translation>Formato de archivo no válido</translation>
     </message>
     <message>
         <source>Make Linestyle</source>
-        <translation type="unfinished"></translation>
+        <translation>Crear tipo de línea</translation>
     </message>
     <message>
         <source>You must select a file. </source>
-        <translation type="unfinished"></translation>
+        <translation>Debe seleccionar un archivo. </translation>
     </message>
     <message>
         <source>You must provide a name for the Linestyle. </source>
-        <translation type="unfinished"></translation>
+        <translation>Debe indicar un nombre para el tipo de línea. </translation>
     </message>
     <message>
         <source>Linestyle names cannot include blank spaces.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los nombres de tipos de línea no pueden contener espacios en blanco.</translation>
     </message>
     <message>
         <source>Linestyle already exists, you want to replace it?</source>
-        <translation type="unfinished"></translation>
+        <translation>El tipo de línea ya existe. ¿Desea reemplazarlo?</translation>
     </message>
 </context>
 <context>
     <name>Dlg_QT_MakeShape</name>
     <message>
         <source>Make shape</source>
-        <translation type="unfinished"></translation>
+        <translation>Crear forma</translation>
     </message>
     <message>
         <source>File</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivo</translation>
     </message>
     <message>
         <source>Select the .SHP file where the new shape will be included</source>
-        <translation type="unfinished"></translation>
+        <translation>Seleccione el archivo .SHP en el que se incluirá la nueva forma</translation>
     </message>
     <message>
         <source>&amp;Browse...</source>
-        <translation type="unfinished"></translation>
+        <translation>E&amp;xaminar...</translation>
     </message>
     <message>
         <source>Definition</source>
-        <translation type="unfinished"></translation>
+        <translation>Definición</translation>
     </message>
     <message>
         <source>&amp;Name:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nombre:</translation>
     </message>
     <message>
         <source>shapeName</source>
-        <translation type="unfinished"></translation>
+        <translation>nombreForma</translation>
     </message>
     <message>
         <source>&amp;Resolution value:</source>
-        <translation type="unfinished"></translation>
+        <translation>Valor de &amp;resolución:</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>Aceptar</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Ayuda</translation>
     </message>
     <message>
         <source>Number;Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Número;Nombre</translation>
     </message>
     <message>
         <source>Select shape file</source>
-        <translation type="unfinished"></translation>
+        <translation>Seleccionar archivo de formas</translation>
     </message>
     <message>
         <source>Shape files (*.shp);; All files (*.*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos de formas (*.shp);; Todos los archivos (*.*)</translation>
     </message>
     <message>
         <source>Make Shape</source>
-        <translation type="unfinished"></translation>
+        <translation>Crear forma</translation>
     </message>
     <message>
         <source>You must select a file. </source>
-        <translation type="unfinished"></translation>
+        <translation>Debe seleccionar un archivo. </translation>
     </message>
     <message>
         <source>You must provide a name for the shape. </source>
-        <translation type="unfinished"></translation>
+        <translation>Debe indicar un nombre para la forma. </translation>
     </message>
     <message>
         <source>Shape names cannot include blank spaces.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los nombres de formas no pueden contener espacios en blanco.</translation>
     </message>
     <message>
         <source>Shape already exists, you want to replace it?</source>
-        <translation type="unfinished"></translation>
+        <translation>La forma ya existe. ¿Desea reemplazarla?</translation>
     </message>
 </context>
 <context>
     <name>Dlg_QT_MergeSheets</name>
     <message>
         <source>Merge Sheets</source>
-        <translation type="unfinished"></translation>
+        <translation>Combinar planos</translation>
     </message>
     <message>
         <source>Sheets to merge</source>
-        <translation type="unfinished"></translation>
+        <translation>Planos que se combinan</translation>
     </message>
     <message>
         <source>Move the selected rows to the top (Alt+Home)</source>
-        <translation type="unfinished"></translation>
+        <translation>Mover las filas seleccionadas al principio (Alt+Inicio)</translation>
     </message>
     <message>
         <source>To &amp;top</source>
-        <translation type="unfinished"></translation>
+        <translation>Al &amp;principio</translation>
     </message>
     <message>
         <source>Move the selected rows up by one place (Alt+Up)</source>
-        <translation type="unfinished"></translation>
+        <translation>Subir las filas seleccionadas una posición (Alt+Arriba)</translation>
     </message>
     <message>
         <source>Move &amp;up</source>
-        <translation type="unfinished"></translation>
+        <translation>S&amp;ubir</translation>
     </message>
     <message>
         <source>Move the selected rows down by one place (Alt+Down)</source>
-        <translation type="unfinished"></translation>
+        <translation>Bajar las filas seleccionadas una posición (Alt+Abajo)</translation>
     </message>
     <message>
         <source>Move &amp;down</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Bajar</translation>
     </message>
     <message>
         <source>Move the selected rows to the bottom (Alt+End)</source>
-        <translation type="unfinished"></translation>
+        <translation>Mover las filas seleccionadas al final (Alt+Fin)</translation>
     </message>
     <message>
         <source>To &amp;bottom</source>
-        <translation type="unfinished"></translation>
+        <translation>Al &amp;final</translation>
     </message>
     <message>
         <source>Select &amp;all</source>
-        <translation type="unfinished"></translation>
+        <translation>Seleccionar &amp;todo</translation>
     </message>
     <message>
         <source>Names in the target</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombres en el destino</translation>
     </message>
     <message>
         <source>&amp;Prefix:</source>
-        <translation type="unfinished"></translation>
+        <translation>Prefi&amp;jo:</translation>
     </message>
     <message>
         <source>Stands in front of the name of each sheet</source>
-        <translation type="unfinished"></translation>
+        <translation>Se antepone al nombre de cada plano</translation>
     </message>
     <message>
         <source>Give sheets of the same name the names Plan, Plan (2), Plan (3)</source>
-        <translation type="unfinished"></translation>
+        <translation>Dar a los planos del mismo nombre los nombres Plan, Plan (2), Plan (3)</translation>
     </message>
     <message>
         <source>Nu&amp;mber equal names</source>
-        <translation type="unfinished"></translation>
+        <translation>Nu&amp;merar nombres iguales</translation>
     </message>
     <message>
         <source>Target</source>
-        <translation type="unfinished"></translation>
+        <translation>Destino</translation>
     </message>
     <message>
         <source>&amp;Current drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>Dibujo a&amp;ctual</translation>
     </message>
     <message>
         <source>Ne&amp;w drawing:</source>
-        <translation type="unfinished"></translation>
+        <translation>Dibu&amp;jo nuevo:</translation>
     </message>
     <message>
         <source>Br&amp;owse...</source>
-        <translation type="unfinished"></translation>
+        <translation>E&amp;xaminar...</translation>
     </message>
     <message>
         <source>Favorites</source>
-        <translation type="unfinished"></translation>
+        <translation>Favoritos</translation>
     </message>
     <message>
         <source>&amp;Name:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Nombre:</translation>
     </message>
     <message>
         <source>Save favorite</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar favorito</translation>
     </message>
     <message>
         <source>Remove favorite</source>
-        <translation type="unfinished"></translation>
+        <translation>Eliminar favorito</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>Aceptar</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Ayuda</translation>
     </message>
     <message>
         <source>A sheet must have a name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un plano debe tener un nombre.</translation>
     </message>
     <message>
         <source>A name has at most 255 characters.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un nombre tiene como máximo 255 caracteres.</translation>
     </message>
     <message>
         <source>No sheet can have the name &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ningún plano puede tener el nombre &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>Two sheets have the name &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dos planos tienen el nombre &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>Sheet;New name</source>
-        <translation type="unfinished"></translation>
+        <translation>Plano;Nombre nuevo</translation>
     </message>
     <message>
         <source>A name cannot have any of &lt; &gt; / \ &quot; : ; ? * | , = `</source>
-        <translation type="unfinished"></translation>
+        <translation>Un nombre no puede contener ninguno de &lt; &gt; / \ &quot; : ; ? * | , = `</translation>
     </message>
     <message>
         <source>%1 of %2 sheets are merged.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se han combinado %1 de %2 planos.</translation>
     </message>
     <message>
         <source>Specify the target drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>Precisar el dibujo de destino</translation>
     </message>
     <message>
         <source>Drawing files (*.dwg *.dxf)</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos de dibujo (*.dwg *.dxf)</translation>
     </message>
     <message>
         <source>Select the sheets to merge.</source>
-        <translation type="unfinished"></translation>
+        <translation>Seleccione los planos que se combinan.</translation>
     </message>
     <message>
         <source>The target cannot be the current drawing or one of its sheets.</source>
-        <translation type="unfinished"></translation>
+        <translation>El destino no puede ser el dibujo actual ni uno de sus planos.</translation>
     </message>
 </context>
 <context>
     <name>Dlg_QT_MultiViewSetup</name>
     <message>
         <source>Multiview Setup</source>
-        <translation type="unfinished"></translation>
+        <translation>Configuración de vistas múltiples</translation>
     </message>
     <message>
         <source>Work Space</source>
-        <translation type="unfinished"></translation>
+        <translation>Espacio de trabajo</translation>
     </message>
     <message>
         <source>&amp;Current Paper Space</source>
-        <translation type="unfinished"></translation>
+        <translation>Espacio &amp;papel actual</translation>
     </message>
     <message>
         <source>&amp;Model Space</source>
-        <translation type="unfinished"></translation>
+        <translation>Espacio &amp;modelo</translation>
     </message>
     <message>
         <source>&amp;Title Block</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Cajetín</translation>
     </message>
     <message>
         <source>C&amp;reate Viewports</source>
-        <translation type="unfinished"></translation>
+        <translation>C&amp;rear ventanas</translation>
     </message>
     <message>
         <source>&amp;Align Viewports</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Alinear ventanas</translation>
     </message>
     <message>
         <source>&amp;Scale Viewports</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Escalar ventanas</translation>
     </message>
     <message>
         <source>Block</source>
-        <translation type="unfinished"></translation>
+        <translation>Bloque</translation>
     </message>
     <message>
         <source>&amp;Browse...</source>
-        <translation type="unfinished"></translation>
+        <translation>E&amp;xaminar...</translation>
     </message>
     <message>
         <source>Adds a block to list</source>
-        <translation type="unfinished"></translation>
+        <translation>Añade un bloque a la lista</translation>
     </message>
     <message>
         <source>X:</source>
-        <translation type="unfinished"></translation>
+        <translation>X:</translation>
     </message>
     <message>
         <source>Y:</source>
-        <translation type="unfinished"></translation>
+        <translation>Y:</translation>
     </message>
     <message>
         <source>&amp;Units:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Unidades:</translation>
     </message>
     <message>
         <source>&amp;Layer:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Capa:</translation>
     </message>
     <message>
         <source>Layer</source>
-        <translation type="unfinished"></translation>
+        <translation>Capa</translation>
     </message>
     <message>
         <source>&amp;Remove entities in same paper space:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Borrar entidades en el mismo espacio papel:</translation>
     </message>
     <message>
         <source>I&amp;nsert as external reference</source>
-        <translation type="unfinished"></translation>
+        <translation>I&amp;nsertar como referencia externa</translation>
     </message>
     <message>
         <source>L&amp;imits</source>
-        <translation type="unfinished"></translation>
+        <translation>Lí&amp;mites</translation>
     </message>
     <message>
         <source>&amp;Insert Title Block</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Insertar cajetín</translation>
     </message>
     <message>
         <source>Inserts a tile block</source>
-        <translation type="unfinished"></translation>
+        <translation>Inserta un cajetín</translation>
     </message>
     <message>
         <source>Simp&amp;le</source>
-        <translation type="unfinished"></translation>
+        <translation>Simp&amp;le</translation>
     </message>
     <message>
         <source>A&amp;rray of Viewports</source>
-        <translation type="unfinished"></translation>
+        <translation>Matri&amp;z de ventanas</translation>
     </message>
     <message>
         <source>Array:</source>
-        <translation type="unfinished"></translation>
+        <translation>Matriz:</translation>
     </message>
     <message>
         <source>Number of &amp;rows:</source>
-        <translation type="unfinished"></translation>
+        <translation>Número de &amp;filas:</translation>
     </message>
     <message>
         <source>Number of &amp;columns:</source>
-        <translation type="unfinished"></translation>
+        <translation>Número de c&amp;olumnas:</translation>
     </message>
     <message>
         <source>&amp;Delete viewports</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Borrar ventanas</translation>
     </message>
     <message>
         <source>&amp;Create viewports</source>
-        <translation type="unfinished"></translation>
+        <translation>C&amp;rear ventanas</translation>
     </message>
     <message>
         <source>Creates a viewport</source>
-        <translation type="unfinished"></translation>
+        <translation>Crea una ventana</translation>
     </message>
     <message>
         <source>Alignment format:</source>
-        <translation type="unfinished"></translation>
+        <translation>Forma de alineación:</translation>
     </message>
     <message>
         <source>&amp;Horizontal</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Horizontal</translation>
     </message>
     <message>
         <source>&amp;Vertical</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Vertical</translation>
     </message>
     <message>
         <source>&amp;Viewports alignment</source>
-        <translation type="unfinished"></translation>
+        <translation>Alineación de &amp;ventanas</translation>
     </message>
     <message>
         <source>Modify viewports alignment</source>
-        <translation type="unfinished"></translation>
+        <translation>Modificar la alineación de ventanas</translation>
     </message>
     <message>
         <source>Escalar viewports:</source>
-        <translation type="unfinished"></translation>
+        <translation>Escalar ventanas:</translation>
     </message>
     <message>
         <source>Scale of viewports:</source>
-        <translation type="unfinished"></translation>
+        <translation>Escala de las ventanas:</translation>
     </message>
     <message>
         <source>&amp;Model</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Modelo</translation>
     </message>
     <message>
         <source>&amp;Paper</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Papel</translation>
     </message>
     <message>
         <source>Scale viewports</source>
-        <translation type="unfinished"></translation>
+        <translation>Escalar ventanas</translation>
     </message>
     <message>
         <source>Viewports scaling</source>
-        <translation type="unfinished"></translation>
+        <translation>Escala de las ventanas</translation>
     </message>
     <message>
         <source>Units:</source>
-        <translation type="unfinished"></translation>
+        <translation>Unidades:</translation>
     </message>
     <message>
         <source>&amp;Scientific</source>
-        <translation type="unfinished"></translation>
+        <translation>Ci&amp;entíficas</translation>
     </message>
     <message>
         <source>&amp;Decimal</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Decimales</translation>
     </message>
     <message>
         <source>&amp;Engineering</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ingeniería</translation>
     </message>
     <message>
         <source>&amp;Architectural</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Arquitectura</translation>
     </message>
     <message>
         <source>Me&amp;tric</source>
-        <translation type="unfinished"></translation>
+        <translation>Mé&amp;tricas</translation>
     </message>
     <message>
         <source>Size:</source>
-        <translation type="unfinished"></translation>
+        <translation>Tamaño:</translation>
     </message>
     <message>
         <source>&amp;Width: </source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;nchura: </translation>
     </message>
     <message>
         <source>&amp;Height:</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;ltura:</translation>
     </message>
     <message>
         <source>Scale:</source>
-        <translation type="unfinished"></translation>
+        <translation>Escala:</translation>
     </message>
     <message>
         <source>&amp;Scale Factor:</source>
-        <translation type="unfinished"></translation>
+        <translation>Fac&amp;tor de escala:</translation>
     </message>
     <message>
         <source>&amp;Create Title Block</source>
-        <translation type="unfinished"></translation>
+        <translation>C&amp;rear cajetín</translation>
     </message>
     <message>
         <source>Creates a tile block</source>
-        <translation type="unfinished"></translation>
+        <translation>Crea un cajetín</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerrar</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Ayuda</translation>
     </message>
     <message>
         <source>Blocks</source>
-        <translation type="unfinished"></translation>
+        <translation>Bloques</translation>
     </message>
     <message>
         <source>Scales;Factors</source>
-        <translation type="unfinished"></translation>
+        <translation>Escalas;Factores</translation>
     </message>
     <message>
         <source>Feet</source>
-        <translation type="unfinished"></translation>
+        <translation>Pies</translation>
     </message>
     <message>
         <source>Inches</source>
-        <translation type="unfinished"></translation>
+        <translation>Pulgadas</translation>
     </message>
     <message>
         <source>Meters</source>
-        <translation type="unfinished"></translation>
+        <translation>Metros</translation>
     </message>
     <message>
         <source>Milimeters</source>
-        <translation type="unfinished"></translation>
+        <translation>Milímetros</translation>
     </message>
     <message>
         <source>Do not remove entities</source>
-        <translation type="unfinished"></translation>
+        <translation>No borrar entidades</translation>
     </message>
     <message>
         <source>Remove all entities</source>
-        <translation type="unfinished"></translation>
+        <translation>Borrar todas las entidades</translation>
     </message>
     <message>
         <source>Specify entities for remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Designar entidades que se borran</translation>
     </message>
     <message>
         <source>Do not remove viewports</source>
-        <translation type="unfinished"></translation>
+        <translation>No borrar ventanas</translation>
     </message>
     <message>
         <source>Remove all viewports</source>
-        <translation type="unfinished"></translation>
+        <translation>Borrar todas las ventanas</translation>
     </message>
     <message>
         <source>Specify viewports to remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Designar ventanas que se borran</translation>
     </message>
     <message>
         <source>Specify folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Precisar carpeta</translation>
     </message>
 </context>
 <context>
     <name>Dlg_QT_RedefinePaths</name>
     <message>
         <source>Redefine Paths</source>
-        <translation type="unfinished"></translation>
+        <translation>Redefinir rutas</translation>
     </message>
     <message>
         <source>Type</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipo</translation>
     </message>
     <message>
         <source>&amp;External references</source>
-        <translation type="unfinished"></translation>
+        <translation>Referencias e&amp;xternas</translation>
     </message>
     <message>
         <source>&amp;Images</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Imágenes</translation>
     </message>
     <message>
         <source>&amp;Styles</source>
-        <translation type="unfinished"></translation>
+        <translation>E&amp;stilos</translation>
     </message>
     <message>
         <source>&amp;Rtext</source>
-        <translation type="unfinished"></translation>
+        <translation>R&amp;text</translation>
     </message>
     <message>
         <source>&amp;Filter by:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Filtrar por:</translation>
     </message>
     <message>
         <source>Select &amp;all</source>
-        <translation type="unfinished"></translation>
+        <translation>Seleccionar &amp;todo</translation>
     </message>
     <message>
         <source>Find and Replace</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar y reemplazar</translation>
     </message>
     <message>
         <source>&amp;Find what:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Buscar:</translation>
     </message>
     <message>
         <source>R&amp;eplace with:</source>
-        <translation type="unfinished"></translation>
+        <translation>R&amp;eemplazar por:</translation>
     </message>
     <message>
         <source>Replace coincidences with specified string</source>
-        <translation type="unfinished"></translation>
+        <translation>Reemplazar las coincidencias por la cadena indicada</translation>
     </message>
     <message>
         <source>&amp;Replace</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Reemplazar</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>Aceptar</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Ayuda</translation>
     </message>
     <message>
         <source>Type;Name;Path</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipo;Nombre;Ruta</translation>
     </message>
     <message>
         <source>Xref</source>
-        <translation type="unfinished"></translation>
+        <translation>RefX</translation>
     </message>
     <message>
         <source>Image</source>
-        <translation type="unfinished"></translation>
+        <translation>Imagen</translation>
     </message>
     <message>
         <source>TextStyle</source>
-        <translation type="unfinished"></translation>
+        <translation>Estilo de texto</translation>
     </message>
     <message>
         <source>RemoteText</source>
-        <translation type="unfinished"></translation>
+        <translation>Texto remoto</translation>
     </message>
     <message>
         <source>Filtering...</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtrando...</translation>
     </message>
     <message>
         <source>Select the rows of table for search.</source>
-        <translation type="unfinished"></translation>
+        <translation>Seleccione las filas de la tabla en las que se busca.</translation>
     </message>
     <message>
         <source>Sorting...</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordenando...</translation>
     </message>
 </context>
 <context>
     <name>Dlg_QT_RemoveFavorits</name>
     <message>
         <source>Delete favorites</source>
-        <translation type="unfinished"></translation>
+        <translation>Borrar favoritos</translation>
     </message>
     <message>
         <source>Delete favorite</source>
-        <translation type="unfinished"></translation>
+        <translation>Borrar favorito</translation>
     </message>
     <message>
         <source>&amp;Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Borrar</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>Aceptar</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>Remove favorites</source>
-        <translation type="unfinished"></translation>
+        <translation>Eliminar favoritos</translation>
     </message>
     <message>
         <source>Select items for remove.</source>
-        <translation type="unfinished"></translation>
+        <translation>Seleccione los elementos que quiera eliminar.</translation>
     </message>
 </context>
 <context>
     <name>Dlg_QT_ReplaceBlock</name>
     <message>
         <source>Replace Block</source>
-        <translation type="unfinished"></translation>
+        <translation>Reemplazar bloque</translation>
     </message>
     <message>
         <source>Blocks to replace</source>
-        <translation type="unfinished"></translation>
+        <translation>Bloques que se reemplazan</translation>
     </message>
     <message>
         <source>Specify blocks in the drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>Designar bloques en el dibujo</translation>
     </message>
     <message>
         <source>&amp;Specify blocks</source>
-        <translation type="unfinished"></translation>
+        <translation>De&amp;signar bloques</translation>
     </message>
     <message>
         <source>Preview</source>
-        <translation type="unfinished"></translation>
+        <translation>Vista previa</translation>
     </message>
     <message>
         <source>Replacing block</source>
-        <translation type="unfinished"></translation>
+        <translation>Bloque de reemplazo</translation>
     </message>
     <message>
         <source>&amp;Clean unreferenced items</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Limpiar elementos no referenciados</translation>
     </message>
     <message>
         <source>&amp;Update BlockAttributes for block replacements</source>
-        <translation type="unfinished"></translation>
+        <translation>Act&amp;ualizar los atributos de los bloques reemplazados</translation>
     </message>
     <message>
         <source>Apply changes</source>
-        <translation type="unfinished"></translation>
+        <translation>Aplicar cambios</translation>
     </message>
     <message>
         <source>&amp;Apply</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Aplicar</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerrar</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Ayuda</translation>
     </message>
     <message>
         <source>&quot;Block to be replaced&quot; and &quot;Replacing block&quot; must be different.</source>
-        <translation type="unfinished"></translation>
+        <translation>El &quot;bloque reemplazado&quot; y el &quot;bloque de reemplazo&quot; deben ser distintos.</translation>
     </message>
 </context>
 <context>
     <name>Dlg_QT_ReplaceBlockToXref</name>
     <message>
         <source>Replace Block by Reference</source>
-        <translation type="unfinished"></translation>
+        <translation>Reemplazar bloque por referencia</translation>
     </message>
     <message>
         <source>Blocks to replace</source>
-        <translation type="unfinished"></translation>
+        <translation>Bloques que se reemplazan</translation>
     </message>
     <message>
         <source>Specify blocks in the drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>Designar bloques en el dibujo</translation>
     </message>
     <message>
         <source>&amp;Specify blocks</source>
-        <translation type="unfinished"></translation>
+        <translation>De&amp;signar bloques</translation>
     </message>
     <message>
         <source>Preview</source>
-        <translation type="unfinished"></translation>
+        <translation>Vista previa</translation>
     </message>
     <message>
         <source>Replacing reference</source>
-        <translation type="unfinished"></translation>
+        <translation>Referencia de reemplazo</translation>
     </message>
     <message>
         <source>Browse the disk for the reference that will be used</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar en el disco la referencia que se usará</translation>
     </message>
     <message>
         <source>&amp;Browse...</source>
-        <translation type="unfinished"></translation>
+        <translation>E&amp;xaminar...</translation>
     </message>
     <message>
         <source>&amp;Clean unreferenced items</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Limpiar elementos no referenciados</translation>
     </message>
     <message>
         <source>Apply changes</source>
-        <translation type="unfinished"></translation>
+        <translation>Aplicar cambios</translation>
     </message>
     <message>
         <source>&amp;Apply</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Aplicar</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerrar</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Ayuda</translation>
     </message>
     <message>
         <source>Replace blocks</source>
-        <translation type="unfinished"></translation>
+        <translation>Reemplazar bloques</translation>
     </message>
     <message>
         <source>You must first select the replacing reference. </source>
-        <translation type="unfinished"></translation>
+        <translation>Primero debe seleccionar la referencia de reemplazo. </translation>
     </message>
 </context>
 <context>
     <name>Dlg_QT_ShowLinks</name>
     <message>
         <source>Show Links</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar vínculos</translation>
     </message>
     <message>
         <source>Find and Replace</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar y reemplazar</translation>
     </message>
     <message>
         <source>&amp;Find what:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Buscar:</translation>
     </message>
     <message>
         <source>R&amp;eplace with:</source>
-        <translation type="unfinished"></translation>
+        <translation>R&amp;eemplazar por:</translation>
     </message>
     <message>
         <source>Replace coincidences with specified string</source>
-        <translation type="unfinished"></translation>
+        <translation>Reemplazar las coincidencias por la cadena indicada</translation>
     </message>
     <message>
         <source>&amp;Replace</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Reemplazar</translation>
     </message>
     <message>
         <source>Shows selected URL</source>
-        <translation type="unfinished"></translation>
+        <translation>Muestra el URL seleccionado</translation>
     </message>
     <message>
         <source>&amp;Show URL</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Mostrar URL</translation>
     </message>
     <message>
         <source>Remove selected URL</source>
-        <translation type="unfinished"></translation>
+        <translation>Elimina el URL seleccionado</translation>
     </message>
     <message>
         <source>Remove &amp;URL</source>
-        <translation type="unfinished"></translation>
+        <translation>Eliminar &amp;URL</translation>
     </message>
     <message>
         <source>Show the entity of selected  URL</source>
-        <translation type="unfinished"></translation>
+        <translation>Muestra la entidad del URL seleccionado</translation>
     </message>
     <message>
         <source>S&amp;how Entity</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar en&amp;tidad</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerrar</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Ayuda</translation>
     </message>
     <message>
         <source>;URL Name;Entity Type;Space</source>
-        <translation type="unfinished"></translation>
+        <translation>;Nombre del URL;Tipo de entidad;Espacio</translation>
     </message>
     <message>
         <source>Select one row of table for show.</source>
-        <translation type="unfinished"></translation>
+        <translation>Seleccione la fila de la tabla que quiera mostrar.</translation>
     </message>
     <message>
         <source>Unable to display the link.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede mostrar el vínculo.</translation>
     </message>
     <message>
         <source>Open this link?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Abrir este vínculo?</translation>
     </message>
     <message>
         <source>It is a program, or starts one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es un programa, o inicia uno.</translation>
     </message>
     <message>
         <source>Warning</source>
-        <translation type="unfinished"></translation>
+        <translation>Advertencia</translation>
     </message>
     <message>
         <source>Select the rows of table for searching.</source>
-        <translation type="unfinished"></translation>
+        <translation>Seleccione las filas de la tabla en las que se busca.</translation>
     </message>
     <message>
         <source>Replace text</source>
-        <translation type="unfinished"></translation>
+        <translation>Reemplazar texto</translation>
     </message>
     <message>
         <source>The are no items selected.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay elementos seleccionados.</translation>
     </message>
     <message>
         <source>Information</source>
-        <translation type="unfinished"></translation>
+        <translation>Información</translation>
     </message>
     <message>
         <source>Remove urls for selected items?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Eliminar los URL de los elementos seleccionados?</translation>
     </message>
     <message>
         <source>Sorting...</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordenando...</translation>
     </message>
 </context>
 <context>
     <name>Dlg_QT_TextFrame</name>
     <message>
         <source>Text Frame</source>
-        <translation type="unfinished"></translation>
+        <translation>Marco de texto</translation>
     </message>
     <message>
         <source>Type</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipo</translation>
     </message>
     <message>
         <source>&amp;Slot</source>
-        <translation type="unfinished"></translation>
+        <translation>Ran&amp;ura</translation>
     </message>
     <message>
         <source>&amp;Rectangle</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Rectángulo</translation>
     </message>
     <message>
         <source>&amp;Circle</source>
-        <translation type="unfinished"></translation>
+        <translation>Cí&amp;rculo</translation>
     </message>
     <message>
         <source>Dimensions</source>
-        <translation type="unfinished"></translation>
+        <translation>Dimensiones</translation>
     </message>
     <message>
         <source>Offset</source>
-        <translation type="unfinished"></translation>
+        <translation>Desfase</translation>
     </message>
     <message>
         <source>C&amp;onstant</source>
-        <translation type="unfinished"></translation>
+        <translation>C&amp;onstante</translation>
     </message>
     <message>
         <source>&amp;Variable</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Variable</translation>
     </message>
     <message>
         <source>Maintain Constant </source>
-        <translation type="unfinished"></translation>
+        <translation>Mantener constante </translation>
     </message>
     <message>
         <source>&amp;Width</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Anchura</translation>
     </message>
     <message>
         <source>&amp;Height</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;ltura</translation>
     </message>
     <message>
         <source>&amp;Both</source>
-        <translation type="unfinished"></translation>
+        <translation>A&amp;mbas</translation>
     </message>
     <message>
         <source>Background</source>
-        <translation type="unfinished"></translation>
+        <translation>Fondo</translation>
     </message>
     <message>
         <source>&amp;Transparent</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Transparente</translation>
     </message>
     <message>
         <source>H&amp;atch</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Sombreado</translation>
     </message>
     <message>
         <source>&amp;Color:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Color:</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>Aceptar</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Ayuda</translation>
     </message>
 </context>
 <context>
     <name>Dlg_QT_TextMask</name>
     <message>
         <source>Text Mask</source>
-        <translation type="unfinished"></translation>
+        <translation>Máscara de texto</translation>
     </message>
     <message>
         <source>Dimensions</source>
-        <translation type="unfinished"></translation>
+        <translation>Dimensiones</translation>
     </message>
     <message>
         <source>Offset</source>
-        <translation type="unfinished"></translation>
+        <translation>Desfase</translation>
     </message>
     <message>
         <source>Entity type</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipo de entidad</translation>
     </message>
     <message>
         <source>&amp;Mask</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Máscara</translation>
     </message>
     <message>
         <source>3&amp;D Face</source>
-        <translation type="unfinished"></translation>
+        <translation>Cara 3&amp;D</translation>
     </message>
     <message>
         <source>&amp;Solid</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Sólido</translation>
     </message>
     <message>
         <source>Background</source>
-        <translation type="unfinished"></translation>
+        <translation>Fondo</translation>
     </message>
     <message>
         <source>&amp;Color:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Color:</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>Aceptar</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Ayuda</translation>
     </message>
     <message>
         <source>Wrong dimension value.</source>
-        <translation type="unfinished"></translation>
+        <translation>Valor de dimensión incorrecto.</translation>
     </message>
     <message>
         <source>Must be positive or zero.</source>
-        <translation type="unfinished"></translation>
+        <translation>Debe ser positivo o cero.</translation>
     </message>
 </context>
 <context>
     <name>Dlg_QT_TrackTime</name>
     <message>
         <source>Track Time</source>
-        <translation type="unfinished"></translation>
+        <translation>Control de tiempo</translation>
     </message>
     <message>
         <source>Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Carpeta</translation>
     </message>
     <message>
         <source>Fo&amp;lder:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Carpeta:</translation>
     </message>
     <message>
         <source>Selects the folder of the drawings</source>
-        <translation type="unfinished"></translation>
+        <translation>Selecciona la carpeta de los dibujos</translation>
     </message>
     <message>
         <source>&amp;Browse...</source>
-        <translation type="unfinished"></translation>
+        <translation>E&amp;xaminar...</translation>
     </message>
     <message>
         <source>Reads the drawings again</source>
-        <translation type="unfinished"></translation>
+        <translation>Vuelve a leer los dibujos</translation>
     </message>
     <message>
         <source>Re&amp;fresh</source>
-        <translation type="unfinished"></translation>
+        <translation>Actuali&amp;zar</translation>
     </message>
     <message>
         <source>Include s&amp;ub-folders</source>
-        <translation type="unfinished"></translation>
+        <translation>Incluir s&amp;ubcarpetas</translation>
     </message>
     <message>
         <source>Fa&amp;vorites:</source>
-        <translation type="unfinished"></translation>
+        <translation>Fa&amp;voritos:</translation>
     </message>
     <message>
         <source>Save favorite</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar favorito</translation>
     </message>
     <message>
         <source>&amp;Save</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Guardar</translation>
     </message>
     <message>
         <source>Remove favorite</source>
-        <translation type="unfinished"></translation>
+        <translation>Eliminar favorito</translation>
     </message>
     <message>
         <source>Re&amp;move...</source>
-        <translation type="unfinished"></translation>
+        <translation>Eli&amp;minar...</translation>
     </message>
     <message>
         <source>Drawings</source>
-        <translation type="unfinished"></translation>
+        <translation>Dibujos</translation>
     </message>
     <message>
         <source>F&amp;ilter:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Filtro:</translation>
     </message>
     <message>
         <source>Shows only drawings with this in their name; regular expressions are allowed</source>
-        <translation type="unfinished"></translation>
+        <translation>Muestra solo los dibujos con este texto en el nombre; se admiten expresiones regulares</translation>
     </message>
     <message>
         <source>Writes the table to a text file</source>
-        <translation type="unfinished"></translation>
+        <translation>Escribe la tabla en un archivo de texto</translation>
     </message>
     <message>
         <source>&amp;Export...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Exportar...</translation>
     </message>
     <message>
         <source>Selected drawings</source>
-        <translation type="unfinished"></translation>
+        <translation>Dibujos seleccionados</translation>
     </message>
     <message>
         <source>Counts the time that is worked on them</source>
-        <translation type="unfinished"></translation>
+        <translation>Cuenta el tiempo que se trabaja en ellos</translation>
     </message>
     <message>
         <source>&amp;Track</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Contar tiempo</translation>
     </message>
     <message>
         <source>Counts no more time</source>
-        <translation type="unfinished"></translation>
+        <translation>Deja de contar el tiempo</translation>
     </message>
     <message>
         <source>&amp;Do not track</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;No contar</translation>
     </message>
     <message>
         <source>Idle limit (mi&amp;n):</source>
-        <translation type="unfinished"></translation>
+        <translation>Límite de &amp;inactividad (min):</translation>
     </message>
     <message>
         <source>Longer pauses are not counted; with 0 every pause is</source>
-        <translation type="unfinished"></translation>
+        <translation>Las pausas más largas no se cuentan; con 0 se cuentan todas</translation>
     </message>
     <message>
         <source>Gives the selected drawings this idle limit</source>
-        <translation type="unfinished"></translation>
+        <translation>Da a los dibujos seleccionados este límite de inactividad</translation>
     </message>
     <message>
         <source>&amp;Apply</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Aplicar</translation>
     </message>
     <message>
         <source>Sets the editing time to 0</source>
-        <translation type="unfinished"></translation>
+        <translation>Pone a 0 el tiempo de edición</translation>
     </message>
     <message>
         <source>&amp;Reset time...</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Restablecer tiempo...</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>Aceptar</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Ayuda</translation>
     </message>
     <message>
         <source>Name;Track Active;EditTime (hr)</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre;Cuenta activa;Tiempo de edición (h)</translation>
     </message>
     <message>
         <source>The changes have not been written yet. Do you want to discard them?</source>
-        <translation type="unfinished"></translation>
+        <translation>Los cambios aún no se han escrito. ¿Desea descartarlos?</translation>
     </message>
     <message>
         <source>Looking for drawings...</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscando dibujos...</translation>
     </message>
     <message>
         <source>Reading the drawings...</source>
-        <translation type="unfinished"></translation>
+        <translation>Leyendo los dibujos...</translation>
     </message>
     <message>
         <source>Not readable</source>
-        <translation type="unfinished"></translation>
+        <translation>Ilegible</translation>
     </message>
     <message>
         <source>On</source>
-        <translation type="unfinished"></translation>
+        <translation>Sí</translation>
     </message>
     <message>
         <source>Off</source>
-        <translation type="unfinished"></translation>
+        <translation>No</translation>
     </message>
     <message>
         <source>, %1 min</source>
-        <translation type="unfinished"></translation>
+        <translation>, %1 min</translation>
     </message>
     <message>
         <source>Every pause counts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Todas las pausas cuentan.</translation>
     </message>
     <message>
         <source>, open (bold): %1</source>
-        <translation type="unfinished"></translation>
+        <translation>, abiertos (negrita): %1</translation>
     </message>
     <message>
         <source>Total: %1 h. Drawings: %2%3</source>
-        <translation type="unfinished"></translation>
+        <translation>Total: %1 h. Dibujos: %2%3</translation>
     </message>
     <message>
         <source>Are you sure you want to set the editing time of the selected drawings to 0?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Seguro que quiere poner a 0 el tiempo de edición de los dibujos seleccionados?</translation>
     </message>
     <message>
         <source>Export editing time</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportar tiempo de edición</translation>
     </message>
     <message>
         <source>Text with tabs (*.txt);; Text with semicolons (*.csv);; All files (*.*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Texto con tabuladores (*.txt);; Texto con puntos y coma (*.csv);; Todos los archivos (*.*)</translation>
     </message>
     <message>
         <source>The file could not be written: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha podido escribir el archivo: %1</translation>
     </message>
     <message>
         <source>Writing the drawings...</source>
-        <translation type="unfinished"></translation>
+        <translation>Escribiendo los dibujos...</translation>
     </message>
     <message>
         <source>and %1 more</source>
-        <translation type="unfinished"></translation>
+        <translation>y %1 más</translation>
     </message>
     <message>
         <source>Some drawings could not be changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Algunos dibujos no se han podido cambiar.</translation>
     </message>
 </context>
 <context>
     <name>Dlg_QT_numbertext</name>
     <message>
         <source>Number Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Numerar texto</translation>
     </message>
     <message>
         <source>Sorting Method</source>
-        <translation type="unfinished"></translation>
+        <translation>Método de ordenación</translation>
     </message>
     <message>
         <source>&amp;Position X</source>
-        <translation type="unfinished"></translation>
+        <translation>Posición &amp;X</translation>
     </message>
     <message>
         <source>P&amp;osition Y</source>
-        <translation type="unfinished"></translation>
+        <translation>Posición &amp;Y</translation>
     </message>
     <message>
         <source>&amp;Select order</source>
-        <translation type="unfinished"></translation>
+        <translation>Orden de &amp;selección</translation>
     </message>
     <message>
         <source>&amp;Relative to one point</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Relativo a un punto</translation>
     </message>
     <message>
         <source>R&amp;elative to two points</source>
-        <translation type="unfinished"></translation>
+        <translation>Relativo a &amp;dos puntos</translation>
     </message>
     <message>
         <source>Sorting Direction</source>
-        <translation type="unfinished"></translation>
+        <translation>Sentido de ordenación</translation>
     </message>
     <message>
         <source>&amp;Ascending</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ascendente</translation>
     </message>
     <message>
         <source>Descendin&amp;g</source>
-        <translation type="unfinished"></translation>
+        <translation>Descend&amp;ente</translation>
     </message>
     <message>
         <source>Counter</source>
-        <translation type="unfinished"></translation>
+        <translation>Contador</translation>
     </message>
     <message>
         <source>Initial &amp;value:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Valor inicial:</translation>
     </message>
     <message>
         <source>&amp;Increment:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Incremento:</translation>
     </message>
     <message>
         <source>&amp;Digits:</source>
-        <translation type="unfinished"></translation>
+        <translation>Dí&amp;gitos:</translation>
     </message>
     <message>
         <source>Text Format</source>
-        <translation type="unfinished"></translation>
+        <translation>Formato de texto</translation>
     </message>
     <message>
         <source>(Prefix)</source>
-        <translation type="unfinished"></translation>
+        <translation>(Prefijo)</translation>
     </message>
     <message>
         <source>(Suffix)</source>
-        <translation type="unfinished"></translation>
+        <translation>(Sufijo)</translation>
     </message>
     <message>
         <source>NUMBER</source>
-        <translation type="unfinished"></translation>
+        <translation>NÚMERO</translation>
     </message>
     <message>
         <source>Text Placement</source>
-        <translation type="unfinished"></translation>
+        <translation>Colocación del texto</translation>
     </message>
     <message>
         <source>S&amp;uffix</source>
-        <translation type="unfinished"></translation>
+        <translation>Su&amp;fijo</translation>
     </message>
     <message>
         <source>Repla&amp;ce</source>
-        <translation type="unfinished"></translation>
+        <translation>Ree&amp;mplazar</translation>
     </message>
     <message>
         <source>Pre&amp;fix</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Prefijo</translation>
     </message>
     <message>
         <source>O&amp;verwrite</source>
-        <translation type="unfinished"></translation>
+        <translation>S&amp;obrescribir</translation>
     </message>
     <message>
         <source>&amp;Find what:</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Buscar:</translation>
     </message>
     <message>
         <source>Replace with:</source>
-        <translation type="unfinished"></translation>
+        <translation>Reemplazar por:</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>Aceptar</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Ayuda</translation>
     </message>
 </context>
 <context>
     <name>DrawingPreview</name>
     <message>
         <source>No preview</source>
-        <translation type="unfinished"></translation>
+        <translation>Sin vista previa</translation>
     </message>
 </context>
 <context>
     <name>LispExtension</name>
     <message>
         <source>The file is too large</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo es demasiado grande</translation>
     </message>
     <message>
         <source>. for none,.</source>
         <comment>Command Option: Upper- and Lowercase letters are relevant.</comment>
-        <translation type="unfinished"></translation>
+        <translation>. para ninguno,.</translation>
     </message>
     <message>
         <source>block %1</source>
-        <translation type="unfinished"></translation>
+        <translation>bloque %1</translation>
     </message>
     <message>
         <source>layer %1</source>
-        <translation type="unfinished"></translation>
+        <translation>capa %1</translation>
     </message>
     <message>
         <source>linetype %1</source>
-        <translation type="unfinished"></translation>
+        <translation>tipo de línea %1</translation>
     </message>
     <message>
         <source>text style %1</source>
-        <translation type="unfinished"></translation>
+        <translation>estilo de texto %1</translation>
     </message>
     <message>
         <source>dimension style %1</source>
-        <translation type="unfinished"></translation>
+        <translation>estilo de cota %1</translation>
     </message>
     <message>
         <source>Specify drawing file</source>
-        <translation type="unfinished"></translation>
+        <translation>Precisar archivo de dibujo</translation>
     </message>
     <message>
         <source>Specify block</source>
-        <translation type="unfinished"></translation>
+        <translation>Precisar bloque</translation>
     </message>
     <message>
         <source>Specify state file</source>
-        <translation type="unfinished"></translation>
+        <translation>Precisar archivo de estado</translation>
     </message>
     <message>
         <source>
 Settings saved to: </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Parámetros guardados en: </translation>
     </message>
     <message>
         <source> successfully.</source>
-        <translation type="unfinished"></translation>
+        <translation> correctamente.</translation>
     </message>
     <message>
         <source>You must first select the blocks to replace. </source>
-        <translation type="unfinished"></translation>
+        <translation>Primero debe seleccionar los bloques que se reemplazan. </translation>
     </message>
     <message>
         <source>%1 could not be written: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha podido escribir %1: %2.</translation>
     </message>
     <message>
         <source>The document could not be printed.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha podido imprimir el documento.</translation>
     </message>
     <message>
         <source>Drawing files (*.dwg)</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos de dibujo (*.dwg)</translation>
     </message>
     <message>
         <source>Drawing exchange files (*.dxf)</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos de intercambio de dibujos (*.dxf)</translation>
     </message>
     <message>
         <source>Specify a drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>Precisar un dibujo</translation>
     </message>
     <message>
         <source>Error: Xref contains circular reference</source>
-        <translation type="unfinished"></translation>
+        <translation>Error: la RefX contiene una referencia circular</translation>
     </message>
     <message>
         <source>Select folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Seleccionar carpeta</translation>
     </message>
     <message>
         <source>Filename can`t be empty</source>
-        <translation type="unfinished"></translation>
+        <translation>El nombre de archivo no puede estar vacío</translation>
     </message>
     <message>
         <source>The following characters are not valid in File names: &lt;&gt;/\&quot;:;?*|,=&apos;</source>
-        <translation type="unfinished"></translation>
+        <translation>Estos caracteres no son válidos en nombres de archivo: &lt;&gt;/\&quot;:;?*|,=&apos;</translation>
     </message>
     <message>
         <source>Drawing symbol &quot;%1&quot; already exists. Do you want to replace it?</source>
-        <translation type="unfinished"></translation>
+        <translation>El símbolo de dibujo &quot;%1&quot; ya existe. ¿Desea reemplazarlo?</translation>
     </message>
     <message>
         <source>Path can`t be empty</source>
-        <translation type="unfinished"></translation>
+        <translation>La ruta no puede estar vacía</translation>
     </message>
     <message>
         <source>Cannot find the specified Path.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se encuentra la ruta especificada.</translation>
     </message>
     <message>
         <source>Cannot find the specified file.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se encuentra el archivo especificado.</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre</translation>
     </message>
     <message>
         <source>Replacing...</source>
-        <translation type="unfinished"></translation>
+        <translation>Reemplazando...</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>%1: the drawing has no room for an editing time</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: el dibujo no tiene sitio para un tiempo de edición</translation>
     </message>
     <message>
         <source>%1: the drawing is not open any more</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: el dibujo ya no está abierto</translation>
     </message>
     <message>
         <source>A tag or text of the file is too long.</source>
-        <translation type="unfinished"></translation>
+        <translation>Una etiqueta o un texto del archivo es demasiado largo.</translation>
     </message>
     <message>
         <source>An element of the file has too many attributes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un elemento del archivo tiene demasiados atributos.</translation>
     </message>
     <message>
         <source>Enter to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Intro para %1</translation>
     </message>
     <message>
         <source>Entities that this drawing cannot hold and that were left out: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Entidades que este dibujo no puede contener y que se han omitido: %1.</translation>
     </message>
     <message>
         <source>Error reading alias file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Error al leer el archivo de alias.</translation>
     </message>
     <message>
         <source>Favorite &quot;%1&quot; already exists. Do you want to replace it?</source>
-        <translation type="unfinished"></translation>
+        <translation>El favorito &quot;%1&quot; ya existe. ¿Desea reemplazarlo?</translation>
     </message>
     <message>
         <source>Favorite name is required.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se necesita un nombre de favorito.</translation>
     </message>
     <message>
         <source>Favorites</source>
-        <translation type="unfinished"></translation>
+        <translation>Favoritos</translation>
     </message>
     <message>
         <source>No file name</source>
-        <translation type="unfinished"></translation>
+        <translation>Sin nombre de archivo</translation>
     </message>
     <message>
         <source>Select object</source>
-        <translation type="unfinished"></translation>
+        <translation>Designar objeto</translation>
     </message>
     <message>
         <source>Specify folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Precisar carpeta</translation>
     </message>
     <message>
         <source>Specify new path for Backup folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Precisar nueva ruta de la carpeta de copias de seguridad</translation>
     </message>
     <message>
         <source>Specify option</source>
-        <translation type="unfinished"></translation>
+        <translation>Precisar opción</translation>
     </message>
     <message>
         <source>Specify second point</source>
-        <translation type="unfinished"></translation>
+        <translation>Precisar segundo punto</translation>
     </message>
     <message>
         <source>The drawing has its own, which stays as it is: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>El dibujo tiene el suyo propio, que se queda como está: %1.</translation>
     </message>
     <message>
         <source>The entities of the file expand to too much text.</source>
-        <translation type="unfinished"></translation>
+        <translation>Las entidades del archivo se expanden a demasiado texto.</translation>
     </message>
     <message>
         <source>There are too many copies of it already.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ya hay demasiadas copias de él.</translation>
     </message>
     <message>
         <source>There is no block &quot;%1&quot; in %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ningún bloque &quot;%1&quot; en %2.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is a invalid directory.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; no es una carpeta válida.</translation>
     </message>
     <message>
         <source>
 %1 could not be moved.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+No se ha podido desplazar %1.</translation>
     </message>
     <message>
         <source>
 Nothing is there.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Ahí no hay nada.</translation>
     </message>
     <message>
         <source>
 This %1 is not what is asked for.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Este objeto (%1) no es lo que se pide.</translation>
     </message>
     <message>
         <source>
 This is a %1; asked for is %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Esto es %1; se pide %2.</translation>
     </message>
     <message>
         <source>line %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>línea %1: %2</translation>
     </message>
 </context>
 <context>
     <name>StyleTables</name>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre</translation>
     </message>
     <message>
         <source>Variable;Value</source>
-        <translation type="unfinished"></translation>
+        <translation>Variable;Valor</translation>
     </message>
 </context>
 </TS>
