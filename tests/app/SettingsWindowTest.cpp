@@ -86,7 +86,8 @@ struct SettingsWindowTest : testing::Test, TestFolder
 
 TEST_F(SettingsWindowTest, TheLanguageCountsFromTheNextStart)
 {
-    const ProgramOptions next{.home = path(u"home"_s)};
+    ProgramOptions next;
+    next.home = path(u"home"_s);
     auto &language = field<QComboBox>(u"@language"_s);
     for (const auto &[choice, code] : {std::pair("2", "de"), {"5", "it"}, {"1", "en"}}) {
         language.setCurrentIndex(language.findData(QString::fromLatin1(choice)));
@@ -100,8 +101,11 @@ TEST_F(SettingsWindowTest, TheLanguageCountsFromTheNextStart)
     // Scripts and sessions read English, whatever a person's window speaks.
     language.setCurrentIndex(language.findData(u"2"_s));
     emit language.activated(language.currentIndex());
-    for (const ProgramOptions &unattended :
-         {ProgramOptions{.hasWindow = false, .home = next.home}, ProgramOptions{.session = u"s"_s, .home = next.home}})
+    ProgramOptions batch = next;
+    batch.hasWindow = false;
+    ProgramOptions session = next;
+    session.session = u"s"_s;
+    for (const ProgramOptions &unattended : {batch, session})
         EXPECT_STREQ(programLanguage(unattended).code, "en");
 }
 
