@@ -1,6 +1,7 @@
 """The book as one document for the printer: a title, contents with page numbers, the pages as chapters."""
 
 import html
+import os
 import re
 
 from book.contents import BOOK
@@ -41,5 +42,7 @@ def within_one(page):
 
 def write_pdf(book, folder, version, path):
     """Prints the book whose pages and pictures are in `folder`."""
+    # Fonts are cut down with a time in them otherwise: the same sources give the same bytes.
+    os.environ.setdefault("SOURCE_DATE_EPOCH", "0")
     from weasyprint import HTML
     HTML(string=printed_html(book.pages, version), base_url=str(folder) + "/").write_pdf(str(path))

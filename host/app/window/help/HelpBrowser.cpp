@@ -7,7 +7,6 @@
 #include <QRegularExpression>
 #include <QTextBlock>
 #include <QTextCursor>
-#include <QTextTable>
 
 using namespace Qt::StringLiterals;
 
@@ -54,7 +53,11 @@ HelpBrowser::HelpBrowser(QWidget *parent) : QTextBrowser(parent)
     document()->setDocumentMargin(14);
     document()->setDefaultStyleSheet(styleOf(palette()));
     connect(this, &QTextBrowser::anchorClicked, this, &HelpBrowser::follow);
-    connect(this, &QTextBrowser::sourceChanged, this, &HelpBrowser::updateMarks);
+    // source() is the page before, still.
+    connect(this, &QTextBrowser::sourceChanged, this, [this](const QUrl &page) {
+        m_anchor = page.fragment();
+        updateMarks();
+    });
 }
 
 bool HelpBrowser::isDark() const
@@ -112,17 +115,13 @@ void HelpBrowser::mark(const QStringList &words)
 /// The row or heading that the page was opened at, which may stand anywhere on the screen.
 QTextCursor HelpBrowser::target() const
 {
-    const QString anchor = source().fragment();
-    const auto isTarget = [&anchor](const QTextBlock &block) {
-        if (const QTextTable *table = QTextCursor(block).currentTable())
-            if (table->cellAt(block.position()).format().anchorNames().contains(anchor))
-                return true;
+    const auto isTarget = [this](const QTextBlock &block) {
         for (auto piece = block.begin(); !piece.atEnd(); ++piece)
-            if (piece.fragment().charFormat().anchorNames().contains(anchor))
+            if (piece.fragment().charFormat().anchorNames().contains(m_anchor))
                 return true;
         return false;
     };
-    for (QTextBlock block = document()->begin(); !anchor.isEmpty() && block.isValid(); block = block.next())
+    for (QTextBlock block = document()->begin(); !m_anchor.isEmpty() && block.isValid(); block = block.next())
         if (isTarget(block)) {
             QTextCursor cursor(block);
             cursor.movePosition(QTextCursor::EndOfBlock, QTextCursor::KeepAnchor);

@@ -32,6 +32,7 @@ private:
     bool isDark() const;
 
     QStringList m_marked;
+    QString m_anchor; ///< that the page was opened at
 };
 
 } // namespace host::app
