@@ -26,6 +26,15 @@ foreach(plugin platforms/libqxcb platforms/libqoffscreen platforms/libqminimal
     endif()
 endforeach()
 
+# What the toolkit says itself, on buttons and in its file dialogs, in the languages of the program.
+foreach(language de es fr it)
+    set(texts "${CPACK_ORTAKIT_QT_TRANSLATIONS}/qtbase_${language}.qm")
+    if(EXISTS "${texts}")
+        file(COPY "${texts}" DESTINATION "${libraries}/translations")
+        list(APPEND taken "${texts}")
+    endif()
+endforeach()
+
 file(GLOB_RECURSE copied "${plugins}/*.so")
 file(GET_RUNTIME_DEPENDENCIES
     EXECUTABLES "${root}/bin/ortakit"
@@ -47,7 +56,8 @@ execute_process(COMMAND "${patchelf}" --print-rpath "${root}/bin/ortakit" OUTPUT
                 OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
 execute_process(COMMAND "${patchelf}" --force-rpath --set-rpath "${path}" "${root}/bin/ortakit"
                 COMMAND_ERROR_IS_FATAL ANY)
-file(WRITE "${root}/bin/qt.conf" "[Paths]\nPrefix = ..\nPlugins = ${CPACK_ORTAKIT_LIBDIR}/plugins\n")
+file(WRITE "${root}/bin/qt.conf" "[Paths]\nPrefix = ..\nPlugins = ${CPACK_ORTAKIT_LIBDIR}/plugins\n"
+                                 "Translations = ${CPACK_ORTAKIT_LIBDIR}/translations\n")
 
 # The licences, and which package's sources each file was built of.
 set(table "")

@@ -10,7 +10,8 @@ set(CPACK_DEBIAN_PROGRAM_PACKAGE_SECTION graphics)
 set(CPACK_DEBIAN_PROGRAM_PACKAGE_SHLIBDEPS ON)
 # The program's own library comes with it.
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS "${CMAKE_LIBRARY_OUTPUT_DIRECTORY}")
-set(CPACK_DEBIAN_PROGRAM_PACKAGE_RECOMMENDS "fonts-dejavu-core, qt6-image-formats-plugins, qt6-translations-l10n, qt6-wayland, xdg-utils")
+set(CPACK_DEBIAN_PROGRAM_PACKAGE_RECOMMENDS
+    "fonts-dejavu-core, qt6-image-formats-plugins, qt6-translations-l10n, qt6-wayland, xdg-utils")
 set(CPACK_DEBIAN_PROGRAM_PACKAGE_SUGGESTS "ortakit-doc")
 set(CPACK_DEBIAN_PROGRAM_DESCRIPTION "CAD workbench for DXF drawings with Lisp tools
 Views, drafts and revises DXF drawings of every version from R12 to 2018, as
@@ -32,5 +33,5 @@ set(CPACK_DEBIAN_DOC_PACKAGE_NAME ortakit-doc)
 set(CPACK_DEBIAN_DOC_PACKAGE_SECTION doc)
 set(CPACK_DEBIAN_DOC_PACKAGE_ARCHITECTURE all)
 set(CPACK_DEBIAN_DOC_DESCRIPTION "CAD workbench with Lisp tools (documents)
-The Lisp reference, recorded sessions, dialog files, the command line and what
-hosts have to supply, as text in Markdown.")
+The manual for browsers, and as text in Markdown the Lisp reference, recorded
+sessions, dialog files, the command line and what hosts have to supply.")
