@@ -41,7 +41,8 @@ bool ComparedTags::counts(const Tag &tag)
     if (m_part.isEmpty() || m_part.startsWith('{')) {
         if (isBrace(tag) || isPlace(tag))
             return false;
-        return !m_part.startsWith("{ACAD_REACTORS") || !m_ignored.testFlag(Ignored::Reactors);
+        const bool isBackward = m_part.startsWith("{ACAD_REACTORS") || m_part.startsWith("{BLKREFS");
+        return !isBackward || !m_ignored.testFlag(Ignored::Reactors);
     }
     return tag.code < firstXdataCode || !m_ignored.testFlag(Ignored::Xdata);
 }

@@ -16,28 +16,6 @@ namespace host::drawing {
 
 namespace {
 
-bool isCompared(const Drawing &drawing, RecordId id, IgnoredKinds ignored)
-{
-    switch (drawing.kind(id)) {
-    case RecordKind::Variable:
-        return !isIgnoredVariable(drawing.typeName(id), ignored);
-    case RecordKind::Class:
-        return !ignored.testFlag(Ignored::Classes);
-    case RecordKind::TableEntry:
-        return !ignored.testFlag(Ignored::View) || !drawing.isType(id, "VPORT");
-    case RecordKind::Object:
-        return !ignored.testFlag(Ignored::Objects);
-    case RecordKind::Other:
-        return drawing.section(id) != Section::Thumbnail;
-    case RecordKind::Block:
-    case RecordKind::Entity:
-    case RecordKind::Child:
-        return true;
-    default:
-        return false;
-    }
-}
-
 bool isOfEntity(RecordKind kind)
 {
     return kind == RecordKind::Entity || kind == RecordKind::Child;
@@ -184,6 +162,28 @@ private:
 };
 
 } // namespace
+
+bool isCompared(const Drawing &drawing, RecordId id, IgnoredKinds ignored)
+{
+    switch (drawing.kind(id)) {
+    case RecordKind::Variable:
+        return !isIgnoredVariable(drawing.typeName(id), ignored);
+    case RecordKind::Class:
+        return !ignored.testFlag(Ignored::Classes);
+    case RecordKind::TableEntry:
+        return !ignored.testFlag(Ignored::View) || !drawing.isType(id, "VPORT");
+    case RecordKind::Object:
+        return !ignored.testFlag(Ignored::Objects);
+    case RecordKind::Other:
+        return drawing.section(id) != Section::Thumbnail;
+    case RecordKind::Block:
+    case RecordKind::Entity:
+    case RecordKind::Child:
+        return true;
+    default:
+        return false;
+    }
+}
 
 QString placeName(const Drawing &drawing, RecordId entity)
 {

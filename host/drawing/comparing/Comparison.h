@@ -49,6 +49,9 @@ struct Comparison
 /// records are the same bytes.
 Comparison compareDrawings(const Drawing &before, const Drawing &after, const ComparisonRules &rules = {});
 
+/// Whether a record is one of those that are compared, and told, with these kinds ignored.
+bool isCompared(const Drawing &drawing, RecordId record, IgnoredKinds ignored);
+
 /// Where an entity stands: "Model", the name of a layout or block, or of a vertex or attribute its entity's handle.
 QString placeName(const Drawing &drawing, RecordId entity);
 

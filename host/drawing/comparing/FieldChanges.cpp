@@ -82,12 +82,11 @@ bool ValueComparison::areSame(const FieldValue &before, const FieldValue &after)
     return before == after;
 }
 
-PlacedFields byPartAndCode(PlacedFields fields)
+void sortByPartAndCode(PlacedFields &fields)
 {
     std::ranges::stable_sort(fields, [](const PlacedField &a, const PlacedField &b) {
         return std::tie(a.part, a.field.code) < std::tie(b.part, b.field.code);
     });
-    return fields;
 }
 
 using FieldRange = std::span<const PlacedField>;
@@ -148,6 +147,19 @@ bool isUsualValue(const Drawing &drawing, RecordId entity, const FieldChange &ch
     return usual && values.areSame(usual->value, value);
 }
 
+/// Leaves out what a sort table says of entities that the other drawing does not have: that follows from these.
+template <typename Partner>
+void dropFromSortTable(const Drawing &drawing, PlacedFields &fields, Partner partnerOf)
+{
+    constexpr int entityCode = 331;
+    bool isGone = false; // and what is sorted as the entity, behind it
+    std::erase_if(fields, [&](const PlacedField &placed) {
+        if (placed.field.code == entityCode)
+            isGone = !isValid(partnerOf(drawing.find(placed.field.handle())));
+        return isGone;
+    });
+}
+
 bool isNoChange(const RecordPairs &pairs, RecordId before, RecordId after, const FieldChange &change,
                 const ValueComparison &values)
 {
@@ -178,8 +190,14 @@ bool areSameTags(const RecordPairs &pairs, RecordId before, RecordId after, cons
 std::vector<FieldChange> fieldChanges(const RecordPairs &pairs, RecordId before, RecordId after,
                                       const ValueRules &rules)
 {
-    const PlacedFields oldFields = byPartAndCode(placedFields(pairs.before(), before, rules.ignored));
-    const PlacedFields newFields = byPartAndCode(placedFields(pairs.after(), after, rules.ignored));
+    PlacedFields oldFields = placedFields(pairs.before(), before, rules.ignored);
+    PlacedFields newFields = placedFields(pairs.after(), after, rules.ignored);
+    if (pairs.before().isType(before, "SORTENTSTABLE")) {
+        dropFromSortTable(pairs.before(), oldFields, [&](RecordId id) { return pairs.ofBefore(id); });
+        dropFromSortTable(pairs.after(), newFields, [&](RecordId id) { return pairs.ofAfter(id); });
+    }
+    sortByPartAndCode(oldFields);
+    sortByPartAndCode(newFields);
     const ValueComparison values(pairs, rules.tolerance);
     std::vector<FieldChange> changes;
     FieldRange old = oldFields;

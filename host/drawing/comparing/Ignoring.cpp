@@ -16,7 +16,7 @@ constexpr IgnorableKind kindRows[] = {
     {"extents", Ignored::Extents, true,
      QT_TRANSLATE_NOOP("Comparing", "extents, which follow from the entities: $EXTMIN, ...")},
     {"reactors", Ignored::Reactors, true,
-     QT_TRANSLATE_NOOP("Comparing", "which objects want to hear of changes: {ACAD_REACTORS")},
+     QT_TRANSLATE_NOOP("Comparing", "who wants to hear of changes and who shows a block: {ACAD_REACTORS, {BLKREFS")},
     {"version", Ignored::Version, false,
      QT_TRANSLATE_NOOP("Comparing", "version and code page: $ACADVER, $DWGCODEPAGE")},
     {"view", Ignored::View, false,

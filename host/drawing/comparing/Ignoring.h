@@ -16,7 +16,7 @@ enum class Ignored
     Handles = 2,    ///< the next free handle
     Identity = 4,   ///< what programs tell files apart by, and who saved it last
     Extents = 8,    ///< what follows from the entities: extents of spaces and layouts
-    Reactors = 16,  ///< who wants to hear of changes: the {ACAD_REACTORS groups
+    Reactors = 16,  ///< who wants to hear of changes, and who shows a block: {ACAD_REACTORS and {BLKREFS
     Version = 32,   ///< of the format, with its code page
     View = 64,      ///< what windows showed last: the viewports of model space and their variables
     Header = 128,   ///< all variables of the header

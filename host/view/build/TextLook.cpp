@@ -1,7 +1,5 @@
 #include "host/view/build/TextLook.h"
 
-#include "host/drawing/records/Symbols.h"
-
 #include <numbers>
 
 namespace host::view {
@@ -36,14 +34,20 @@ double saneWithin(double value, double limit, double otherwise)
 
 } // namespace
 
+FontRequest fontRequest(const drawing::Drawing &drawing, const drawing::TextStyle &style)
+{
+    FontRequest request{
+        .name = style.fontFile.isEmpty() ? u"txt"_s : style.fontFile, .isFile = true, .bigFont = style.bigFontFile};
+    readFamily(drawing.tags(style.record), request);
+    return request;
+}
+
 TextLook readTextLook(const BuildContext &context, const QString &styleName)
 {
     TextLook look{.request = {.name = u"txt"_s, .isFile = true}};
     const auto style = drawing::findTextStyle(context.drawing, styleName.isEmpty() ? u"Standard"_s : styleName);
     if (style) {
-        look.request.name = style->fontFile.isEmpty() ? u"txt"_s : style->fontFile;
-        look.request.bigFont = style->bigFontFile;
-        readFamily(context.drawing.tags(style->record), look.request);
+        look.request = fontRequest(context.drawing, *style);
         look.widthFactor = style->widthFactor > 0.0 ? saneWithin(style->widthFactor, 100.0, 1.0) : 1.0;
         look.oblique = saneWithin(style->obliqueAngle, 85.0, 0.0) * std::numbers::pi / 180.0;
         look.generation = (style->isBackward ? 2 : 0) | (style->isUpsideDown ? 4 : 0);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "host/drawing/records/Symbols.h"
 #include "host/view/build/DisplayBuilder.h"
 
 namespace host::view {
@@ -14,6 +15,9 @@ struct TextLook
     qint64 generation = 0; ///< flags as texts have them: 2 backward, 4 upside down
     bool isVertical = false;
 };
+
+/// The font that a style asks for.
+FontRequest fontRequest(const drawing::Drawing &drawing, const drawing::TextStyle &style);
 
 /// The style of that name; a plain one when the drawing has none.
 TextLook readTextLook(const BuildContext &context, const QString &styleName);

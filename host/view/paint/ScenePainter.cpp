@@ -80,8 +80,10 @@ public:
 
     bool beginRecord(RecordId record) override
     {
-        m_isHighlighted = m_options.highlighted && m_options.highlighted->contains(record);
-        return !m_options.only || m_options.only->contains(record);
+        m_isHighlighted = m_options.look ? m_options.look->isDashed
+                                         : m_options.highlighted && m_options.highlighted->contains(record);
+        return (!m_options.only || m_options.only->contains(record)) &&
+               (!m_options.except || !m_options.except->contains(record));
     }
 
     void line(std::span<const QPointF> points, const ResolvedStyle &style) override
@@ -184,7 +186,9 @@ public:
 private:
     QRgb colourOf(const ResolvedStyle &style) const
     {
-        return m_isHighlighted ? m_options.highlight.rgb() : style.colour;
+        return m_options.look    ? m_options.look->colour.rgb()
+               : m_isHighlighted ? m_options.highlight.rgb()
+                                 : style.colour;
     }
 
     /// Small text comes out of Qt's store of glyph pictures, which is ten times as fast as filling outlines.
@@ -217,8 +221,9 @@ private:
 
     LinePen penOf(const ResolvedStyle &style) const
     {
+        const int weight = m_options.look ? m_options.look->weight : style.lineweight;
         return {.colour = colourOf(style),
-                .weight = m_options.pixelsPerMillimetre > 0.0 ? style.lineweight : 0,
+                .weight = m_options.pixelsPerMillimetre > 0.0 ? weight : 0,
                 .isHighlighted = m_isHighlighted};
     }
 

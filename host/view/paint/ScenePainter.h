@@ -26,6 +26,14 @@ public:
     virtual void end(QPainter &painter) = 0;
 };
 
+/// How all records look, in place of what they are.
+struct UniformLook
+{
+    QColor colour;
+    int weight = 0; ///< of lines, hundredths of a millimetre
+    bool isDashed = false;
+};
+
 /// Sets of records, and what hears of clips, are not owned and must outlive the painting.
 struct PaintOptions
 {
@@ -37,8 +45,10 @@ struct PaintOptions
     ClipMarks *clips = nullptr;             ///< told of clips, for painters that cannot clip
     bool plottedOnly = false;               ///< leaves out layers that are not for plotting
     const RecordSet *only = nullptr;        ///< draws no other records of the space than these
+    const RecordSet *except = nullptr;      ///< does not draw these records of the space
     const RecordSet *highlighted = nullptr; ///< records of the space drawn dashed in `highlight`
     QColor highlight{0x4f, 0xa3, 0xff};
+    std::optional<UniformLook> look{}; ///< pictures of files keep theirs; nothing is highlighted then
     /// The part of the screen to be painted, which then looks as if all was; nothing: all of it. Whole pixels.
     std::optional<QRectF> part{};
     std::int64_t work = 0; ///< granted for what is multiplied; 0: as much as goes with the painter

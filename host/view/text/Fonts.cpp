@@ -191,6 +191,16 @@ const StrokeGlyph &Fonts::glyphOf(const Face &face, char32_t letter)
     return nothing;
 }
 
+QString Fonts::standIn(int font) const
+{
+    const Face &face = faceOf(font);
+    if (face.strokes)
+        return face.own && face.own->hasOwnFile() ? QString() : u"plain"_s;
+    const QString family = familyFor(face.request.name);
+    const QString asked = fileOf(face.request.name);
+    return family.compare(asked.left(family.size()), Qt::CaseInsensitive) == 0 ? QString() : family;
+}
+
 double Fonts::width(int font, const QString &text) const
 {
     const Face &face = faceOf(font);

@@ -54,6 +54,9 @@ public:
     /// with the proportions of the one that was asked for; families that the machine lacks get a sans-serif, serif or
     /// fixed-width stand-in by the sound of their name. After 4096 different ones all others are drawn like the first.
     int find(const FontRequest &request);
+    /// What is drawn in place of a font that is not there: the stand-in's family, "plain" for the stroke font that
+    /// comes with the program; empty where the font itself is drawn.
+    QString standIn(int font) const;
     /// Advance of the text in capital heights; characters behind the first 4096 are left out.
     double width(int font, const QString &text) const;
     /// As width(), but a stroke font's last letter counts without the room behind it: what texts are aligned by.
