@@ -61,8 +61,8 @@ private:
 class BatchJobs
 {
 public:
-    BatchJobs(const ProgramOptions &options, const QStringList &files)
-        : m_options(options), m_files(files), m_report(options), m_progress(files.size())
+    BatchJobs(const ProgramOptions &options, const QStringList &files, const ResultText &text)
+        : m_options(options), m_files(files), m_report(options, text), m_progress(files.size())
     {
     }
 
@@ -230,13 +230,14 @@ int workAsWorker(const QStringList &files, const FileWork &work)
 
 } // namespace
 
-int workOnFiles(const ProgramOptions &options, const QStringList &files, const std::function<FileWork()> &begin)
+int workOnFiles(const ProgramOptions &options, const QStringList &files, const std::function<FileWork()> &begin,
+                const ResultText &text)
 {
     if (options.isWorker)
         return workAsWorker(files, begin());
     if (options.jobs > 0)
-        return BatchJobs(options, files).run();
-    BatchReport report(options);
+        return BatchJobs(options, files, text).run();
+    BatchReport report(options, text);
     const FileWork work = begin();
     for (const QString &file : files)
         for (const FileResult &result : work(file))

@@ -15,7 +15,8 @@ using FileWork = std::function<QList<FileResult>(const QString &file)>;
 /// N. `begin` makes what works, and is called only where work is done.
 ///
 /// Ctrl+C ends the workers and the work; files that were not begun have no result then. Returns the status to end
-/// with.
-int workOnFiles(const ProgramOptions &options, const QStringList &files, const std::function<FileWork()> &begin);
+/// with. `text` is what BatchReport takes it for.
+int workOnFiles(const ProgramOptions &options, const QStringList &files, const std::function<FileWork()> &begin,
+                const ResultText &text = {});
 
 } // namespace host::app

@@ -103,13 +103,16 @@ std::optional<FileResult> resultOf(const QJsonObject &object)
     return {};
 }
 
-BatchReport::BatchReport(const ProgramOptions &options) : m_command(options.commandName), m_isJson(options.withJson) {}
+BatchReport::BatchReport(const ProgramOptions &options, ResultText text)
+    : m_command(options.commandName), m_isJson(options.withJson), m_text(text ? std::move(text) : lineOf)
+{
+}
 
 void BatchReport::add(const FileResult &result, const QString &line)
 {
     m_results.append(result);
     if (!m_isJson)
-        writeResult((line.isEmpty() ? lineOf(result) : line) + u'\n');
+        writeResult((line.isEmpty() ? m_text(result) : line) + u'\n');
 }
 
 int BatchReport::status() const

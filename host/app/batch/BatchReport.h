@@ -7,6 +7,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
 #include <optional>
 
 namespace host::app {
@@ -44,13 +45,16 @@ QString wordOf(Outcome outcome);
 QJsonObject objectOf(const FileResult &result);
 std::optional<FileResult> resultOf(const QJsonObject &object);
 
+/// What stands for a result as text, without the last line end.
+using ResultText = std::function<QString(const FileResult &)>;
+
 /// What a command tells of the files that it worked on, one after the other: lines of text on standard output, or with
 /// --json one line with one object in the end, in the form that docs/report.schema.json describes.
 class BatchReport
 {
 public:
-    /// The form is what the options say.
-    explicit BatchReport(const ProgramOptions &options);
+    /// The form is what the options say. Without `text` results are told in a line that says what became of the file.
+    explicit BatchReport(const ProgramOptions &options, ResultText text = {});
 
     /// Tells of the next file. `line` stands for it as text where it is not empty.
     void add(const FileResult &result, const QString &line = {});
@@ -67,6 +71,7 @@ private:
 
     QString m_command;
     bool m_isJson;
+    ResultText m_text;
     QList<FileResult> m_results;
     QJsonObject m_summary;
 };

@@ -20,6 +20,12 @@ int checkLispFiles(const ProgramOptions &options);
 int testLispFiles(const ProgramOptions &options);
 /// Opens one file and writes it as another.
 int convertDrawing(const ProgramOptions &options);
+/// Tells what drawings are and hold.
+int tellDrawings(const ProgramOptions &options);
+/// Tells what is wrong with drawings, and writes mended ones where that is wanted.
+int auditDrawings(const ProgramOptions &options);
+/// Tells what differs in two drawings: ExitDone when nothing does, ExitFailed when something does.
+int diffDrawings(const ProgramOptions &options);
 /// Prints the functions, commands and variables that programs find in a new drawing.
 int listNames(const ProgramOptions &options);
 

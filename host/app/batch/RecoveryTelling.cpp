@@ -20,7 +20,11 @@ QJsonObject stepObject(const RecoveryStep &step)
     const QString done = step.done == RecoveryStep::Done::Dropped  ? u"dropped"_s
                          : step.done == RecoveryStep::Done::Mended ? u"mended"_s
                                                                    : u"added"_s;
-    QJsonObject object{{u"what"_s, step.what}, {u"done"_s, done}, {u"why"_s, step.why}, {u"count"_s, step.count}};
+    QJsonObject object{{u"what"_s, step.what},
+                       {u"done"_s, done},
+                       {u"why"_s, step.why},
+                       {u"count"_s, step.count},
+                       {u"text"_s, step.message()}};
     if (step.first > 0) {
         const QString unit = step.unit == RecoveryStep::Unit::Line  ? u"line"_s
                              : step.unit == RecoveryStep::Unit::Tag ? u"tag"_s

@@ -11,7 +11,7 @@ namespace host::app {
 void tellRecovery(const QString &path, const drawing::RecoveryReport &report);
 
 /// All of it: "dropped" with a number for each type, "mended", "added", and "steps" with what was done to what, why,
-/// how often and in which lines ("tag" and "byte" for a binary file).
+/// how often and in which lines ("tag" and "byte" for a binary file), and as "text" for people.
 QJsonObject recoveryObject(const drawing::RecoveryReport &report);
 
 } // namespace host::app

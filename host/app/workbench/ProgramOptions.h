@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/app/workbench/PictureOptions.h"
+#include "host/drawing/comparing/Comparison.h"
 
 #include <QString>
 #include <QStringList>
@@ -23,6 +24,16 @@ enum ExitStatus : int
 };
 
 struct UseRow;
+
+/// How two drawings are compared and shown.
+struct DiffOptions
+{
+    drawing::ComparisonRules rules{};
+    QString picture{};     ///< a file to draw the differences into; empty: none
+    QString layout{};      ///< what of the drawings that shows; empty: model space
+    bool isBrief = false;  ///< sums alone are told
+    QString changedPath{}; ///< of a version control system: whose two versions the files are; empty: they are two
+};
 
 /// What is asked of a use.
 enum class Wish
@@ -71,7 +82,7 @@ struct ProgramOptions
     QString drawing;             ///< Lisp; empty: a new drawing
     QString input;               ///< Convert
     QString output;              ///< Convert
-    QString outFolder;           ///< Run, tools, Convert
+    QString outFolder;           ///< Run, tools, Convert, Audit
     QList<ToolStep> toolSteps;   ///< tools; in the order in which they are given
     QString extension;           ///< Convert of many drawings: what they become, "pdf"; empty: of one
     QString selection;           ///< tools: what they work on; empty: all that they can
@@ -93,6 +104,9 @@ struct ProgramOptions
     QStringList onlyKinds;       ///< of findings; empty: all
     QStringList exceptKinds;     ///< likewise; empty: none
     PictureOptions picture;      ///< Convert
+    DiffOptions diff;            ///< Diff
+    bool listsRecords = false;   ///< Info: a line for each record
+    bool isFixing = false;       ///< Audit: what was mended is written
     QString pictureFolder;
     std::optional<Style> style;
     QString language; ///< the code of a language that there is; empty: not said
