@@ -43,7 +43,8 @@ const QList<UseRow> &allUses()
 {
     static const QList<UseRow> rows =
         QList<UseRow>{
-            windowUse(), runUse(), lispUse(), convertUse(), infoUse(), auditUse(), diffUse(), namesUse(), helpUse(), usesUse(),
+            windowUse(), runUse(),  lispUse(),  convertUse(), infoUse(),
+            auditUse(),  diffUse(), namesUse(), helpUse(),    usesUse(),
         } +
         toolUses();
     return rows;
