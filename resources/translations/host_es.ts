@@ -1957,2292 +1957,2381 @@ Parámetros actuales: Modo = %1, Radio = %2</translation>
     </message>
     <message>
         <source>These would be more than %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Serían más de %1.</translation>
     </message>
     <message>
         <source>
 %1 lines joined into 1 line</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 líneas unidas en 1 línea</translation>
     </message>
     <message>
         <source>
 %1 arcs joined into 1 arc</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 arcos unidos en 1 arco</translation>
     </message>
     <message>
         <source>
 %1 ellipses joined into 1 ellipse</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 elipses unidas en 1 elipse</translation>
     </message>
     <message>
         <source>
 %1 objects converted to 1 polyline</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 objetos convertidos en 1 polilínea</translation>
     </message>
     <message>
         <source>
 %1 objects converted to 1 spline</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 objetos convertidos en 1 spline</translation>
     </message>
     <message>
         <source>
 %1 objects discarded from the operation</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 objetos descartados de la operación</translation>
     </message>
     <message>
         <source>Select source object or multiple objects to join at once: </source>
-        <translation type="unfinished"></translation>
+        <translation>Designe objeto de origen o varios objetos que se unen a la vez: </translation>
     </message>
     <message>
         <source>Select arcs to join to source or [cLose]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Designe arcos que se unen al de origen o [cLose]: </translation>
     </message>
     <message>
         <source>Select objects to join: </source>
-        <translation type="unfinished"></translation>
+        <translation>Designe objetos que se unen: </translation>
     </message>
     <message>
         <source>
 Current length: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Longitud actual: %1</translation>
     </message>
     <message>
         <source>, included angle: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>, ángulo incluido: %1</translation>
     </message>
     <message>
         <source>
 This object cannot be lengthened.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Este objeto no se puede cambiar de longitud.</translation>
     </message>
     <message>
         <source>Select an object to change or [Undo]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Designe un objeto que se cambia o [Undo]: </translation>
     </message>
     <message>
         <source>Specify new endpoint: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise nuevo punto final: </translation>
     </message>
     <message>
         <source>
 The object cannot have that length.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+El objeto no puede tener esa longitud.</translation>
     </message>
     <message>
         <source>Enter delta length or [Angle] &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique incremento de longitud o [Angle] &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Enter delta angle &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique incremento de ángulo &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Specify total length or [Angle] &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise longitud total o [Angle] &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Specify total angle &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise ángulo total &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Enter percentage length &lt;100.0000&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique porcentaje de longitud &lt;100.0000&gt;: </translation>
     </message>
     <message>
         <source>Select an object to measure or [DElta/Percent/Total/DYnamic]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Designe un objeto que se mide o [DElta/Percent/Total/DYnamic]: </translation>
     </message>
     <message>
         <source>Specify offset distance or [Through/Erase/Layer] &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise distancia de desfase o [Through/Erase/Layer] &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Erase source object after offsetting?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Borrar el objeto de origen tras el desfase?</translation>
     </message>
     <message>
         <source>Enter layer option for offset objects [Current/Source]</source>
-        <translation type="unfinished"></translation>
+        <translation>Indique opción de capa para los objetos desfasados [Current/Source]</translation>
     </message>
     <message>
         <source>Specify through point</source>
-        <translation type="unfinished"></translation>
+        <translation>Precise punto por el que pasa</translation>
     </message>
     <message>
         <source>Specify point on side to offset</source>
-        <translation type="unfinished"></translation>
+        <translation>Precise punto en el lado de desfase</translation>
     </message>
     <message>
         <source> or [Exit/Undo] &lt;next object&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation> o [Exit/Undo] &lt;objeto siguiente&gt;: </translation>
     </message>
     <message>
         <source> or [Exit/Multiple/Undo] &lt;Exit&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation> o [Exit/Multiple/Undo] &lt;Exit&gt;: </translation>
     </message>
     <message>
         <source>Cannot offset that object so far.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ese objeto no se puede desfasar tanto.</translation>
     </message>
     <message>
         <source>
 Select object to offset or [Exit/Undo] &lt;Exit&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Designe objeto que se desfasa o [Exit/Undo] &lt;Exit&gt;: </translation>
     </message>
     <message>
         <source>Cannot offset that object.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ese objeto no se puede desfasar.</translation>
     </message>
     <message>
         <source>Enter property to ignore [%1]</source>
-        <translation type="unfinished"></translation>
+        <translation>Indique propiedad que se omite [%1]</translation>
     </message>
     <message>
         <source>Enter an option to change [Done/Ignore/Tolerance/Overlaps/Endtoend]</source>
-        <translation type="unfinished"></translation>
+        <translation>Indique una opción que se cambia [Done/Ignore/Tolerance/Overlaps/Endtoend]</translation>
     </message>
     <message>
         <source>Specify tolerance</source>
-        <translation type="unfinished"></translation>
+        <translation>Precise tolerancia</translation>
     </message>
     <message>
         <source>Combine lines and arcs that overlap?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Combinar líneas y arcos que se solapan?</translation>
     </message>
     <message>
         <source>Combine lines and arcs that meet end to end?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Combinar líneas y arcos que se tocan por los extremos?</translation>
     </message>
     <message>
         <source>
 %1 duplicate(s) deleted</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 duplicado(s) borrado(s)</translation>
     </message>
     <message>
         <source>
 %1 overlapping object(s) or segment(s) deleted</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 objeto(s) o segmento(s) solapado(s) borrado(s)</translation>
     </message>
     <message>
         <source>
 Select polyline or [Multiple]: </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Designe polilínea o [Multiple]: </translation>
     </message>
     <message>
         <source>Object selected is not a polyline.</source>
-        <translation type="unfinished"></translation>
+        <translation>El objeto designado no es una polilínea.</translation>
     </message>
     <message>
         <source>
 Object selected is not a polyline</source>
-        <translation type="unfinished"></translation>
+        <translation>
+El objeto designado no es una polilínea</translation>
     </message>
     <message>
         <source>Do you want to turn it into one?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Desea convertirlo en una?</translation>
     </message>
     <message>
         <source>Convert Lines, Arcs and Splines to polylines</source>
-        <translation type="unfinished"></translation>
+        <translation>Convertir líneas, arcos y splines en polilíneas</translation>
     </message>
     <message>
         <source>
 Splines do not become part of a polyline: %1 left out.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Las splines no pasan a formar parte de una polilínea: %1 omitidas.</translation>
     </message>
     <message>
         <source>
 %1 segments added to polyline</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 segmentos añadidos a la polilínea</translation>
     </message>
     <message>
         <source>Enter fuzz distance or [Jointype] &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique distancia de aproximación o [Jointype] &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Enter a vertex join type [Extend/Add/Both]</source>
-        <translation type="unfinished"></translation>
+        <translation>Indique tipo de unión de vértices [Extend/Add/Both]</translation>
     </message>
     <message>
         <source>
 %1 segments added to %2 polylines</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 segmentos añadidos a %2 polilíneas</translation>
     </message>
     <message>
         <source>Specify new width for all segments: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise nuevo grosor de todos los segmentos: </translation>
     </message>
     <message>
         <source>Enter polyline linetype generation option [ON/OFF]</source>
-        <translation type="unfinished"></translation>
+        <translation>Indique opción de generación del tipo de línea de polilíneas [ON/OFF]</translation>
     </message>
     <message>
         <source>Enter an option [Close/Open/Join/Width/Fit/Spline/Decurve/Ltype gen/Reverse/Undo]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique una opción [Close/Open/Join/Width/Fit/Spline/Decurve/Ltype gen/Reverse/Undo]: </translation>
     </message>
     <message>
         <source>Enter an option [%1/Edit vertex/Spline curve/Decurve/Reverse/Undo]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique una opción [%1/Edit vertex/Spline curve/Decurve/Reverse/Undo]: </translation>
     </message>
     <message>
         <source>Enter an option [%1/Join/Width/Edit vertex/Fit/Spline/Decurve/Ltype gen/Reverse/Undo]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique una opción [%1/Join/Width/Edit vertex/Fit/Spline/Decurve/Ltype gen/Reverse/Undo]: </translation>
     </message>
     <message>
         <source>Enter an option [Next/Previous/Go/eXit] &lt;N&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique una opción [Next/Previous/Go/eXit] &lt;N&gt;: </translation>
     </message>
     <message>
         <source>
 Nothing would be left on one side.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+No quedaría nada en uno de los lados.</translation>
     </message>
     <message>
         <source>Specify starting width for next segment</source>
-        <translation type="unfinished"></translation>
+        <translation>Precise grosor inicial del siguiente segmento</translation>
     </message>
     <message>
         <source>Specify ending width for next segment</source>
-        <translation type="unfinished"></translation>
+        <translation>Precise grosor final del siguiente segmento</translation>
     </message>
     <message>
         <source>Specify location for new vertex: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise ubicación del nuevo vértice: </translation>
     </message>
     <message>
         <source>Specify direction of vertex tangent: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise dirección de la tangente del vértice: </translation>
     </message>
     <message>
         <source>Enter a vertex editing option [Next/Previous/Break/Insert/Move/Regen/Straighten/%1eXit] &lt;N&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique una opción de edición de vértices [Next/Previous/Break/Insert/Move/Regen/Straighten/%1eXit] &lt;N&gt;: </translation>
     </message>
     <message>
         <source>Specify new location for marked vertex: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise nueva ubicación del vértice marcado: </translation>
     </message>
     <message>
         <source>
 That object is on a locked layer.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Ese objeto está en una capa bloqueada.</translation>
     </message>
     <message>
         <source>
 Cannot %1 this object.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+No se puede aplicar %1 a este objeto.</translation>
     </message>
     <message>
         <source>
 Cannot EXTEND this object.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+No se puede aplicar EXTEND a este objeto.</translation>
     </message>
     <message>
         <source>
 Object does not intersect an edge.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+El objeto no corta ninguna arista.</translation>
     </message>
     <message>
         <source>
 Command has been completely undone.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+El comando se ha deshecho por completo.</translation>
     </message>
     <message>
         <source>Specify first fence point: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise primer punto del borde: </translation>
     </message>
     <message>
         <source>Specify next fence point or [Undo]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise siguiente punto del borde o [Undo]: </translation>
     </message>
     <message>
         <source>Enter a projection option [None/Ucs/View]</source>
-        <translation type="unfinished"></translation>
+        <translation>Indique una opción de proyección [None/Ucs/View]</translation>
     </message>
     <message>
         <source>Enter an implied edge extension mode [Extend/No extend]</source>
-        <translation type="unfinished"></translation>
+        <translation>Indique un modo de alargamiento implícito de aristas [Extend/No extend]</translation>
     </message>
     <message>
         <source>
 Current settings: Projection=%1, Edge=%2</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Parámetros actuales: Proyección=%1, Arista=%2</translation>
     </message>
     <message>
         <source>
 Select boundary edges ...</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Designe aristas límite ...</translation>
     </message>
     <message>
         <source>
 Select cutting edges ...</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Designe aristas cortantes ...</translation>
     </message>
     <message>
         <source>Select object to extend or [Fence/Crossing/Project/Edge/Undo]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Designe objeto que se alarga o [Fence/Crossing/Project/Edge/Undo]: </translation>
     </message>
     <message>
         <source>Select object to trim or [Fence/Crossing/Project/Edge/eRase/Undo]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Designe objeto que se recorta o [Fence/Crossing/Project/Edge/eRase/Undo]: </translation>
     </message>
     <message>
         <source>Specify included angle: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise ángulo incluido: </translation>
     </message>
     <message>
         <source>Specify end point of arc or [Angle/chord Length]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise punto final del arco o [Angle/chord Length]: </translation>
     </message>
     <message>
         <source>Specify length of chord: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise longitud de la cuerda: </translation>
     </message>
     <message>
         <source>Specify end point of arc: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise punto final del arco: </translation>
     </message>
     <message>
         <source>Specify center point of arc or [Angle/Direction/Radius]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise centro del arco o [Angle/Direction/Radius]: </translation>
     </message>
     <message>
         <source>Specify tangent direction for the start point of arc: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise dirección tangente en el punto inicial del arco: </translation>
     </message>
     <message>
         <source>Specify radius of arc: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise radio del arco: </translation>
     </message>
     <message>
         <source>Specify second point of arc or [Center/End]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise segundo punto del arco o [Center/End]: </translation>
     </message>
     <message>
         <source>Specify center point of arc: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise centro del arco: </translation>
     </message>
     <message>
         <source>Specify start point of arc or [Center]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise punto inicial del arco o [Center]: </translation>
     </message>
     <message>
         <source>No line or arc to continue.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay línea ni arco que continuar.</translation>
     </message>
     <message>
         <source>Specify start point of arc: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise punto inicial del arco: </translation>
     </message>
     <message>
         <source>There is no such arc.</source>
-        <translation type="unfinished"></translation>
+        <translation>No existe tal arco.</translation>
     </message>
     <message>
         <source>Specify first end point of circle&apos;s diameter: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise primer punto final del diámetro del círculo: </translation>
     </message>
     <message>
         <source>Specify second end point of circle&apos;s diameter: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise segundo punto final del diámetro del círculo: </translation>
     </message>
     <message>
         <source>Specify first point on circle: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise primer punto del círculo: </translation>
     </message>
     <message>
         <source>Specify second point on circle: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise segundo punto del círculo: </translation>
     </message>
     <message>
         <source>Specify third point on circle: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise tercer punto del círculo: </translation>
     </message>
     <message>
         <source>Circle does not exist: the points lie in one line.</source>
-        <translation type="unfinished"></translation>
+        <translation>El círculo no existe: los puntos están en una recta.</translation>
     </message>
     <message>
         <source>Specify diameter of circle</source>
-        <translation type="unfinished"></translation>
+        <translation>Precise diámetro del círculo</translation>
     </message>
     <message>
         <source>Specify point on object for first tangent of circle: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise punto del objeto para la primera tangente del círculo: </translation>
     </message>
     <message>
         <source>Specify point on object for second tangent of circle: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise punto del objeto para la segunda tangente del círculo: </translation>
     </message>
     <message>
         <source>Requires a line, an arc or a circle in the user&apos;s plane.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se requiere una línea, un arco o un círculo en el plano del usuario.</translation>
     </message>
     <message>
         <source>Specify radius of circle</source>
-        <translation type="unfinished"></translation>
+        <translation>Precise radio del círculo</translation>
     </message>
     <message>
         <source>Circle does not exist.</source>
-        <translation type="unfinished"></translation>
+        <translation>El círculo no existe.</translation>
     </message>
     <message>
         <source>Specify center point for circle or [3P/2P/Ttr (tan tan radius)]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise centro del círculo o [3P/2P/Ttr (tan tan radius)]: </translation>
     </message>
     <message>
         <source>Specify radius of circle or [Diameter]</source>
-        <translation type="unfinished"></translation>
+        <translation>Precise radio del círculo o [Diameter]</translation>
     </message>
     <message>
         <source>Circle does not exist: the points are one.</source>
-        <translation type="unfinished"></translation>
+        <translation>El círculo no existe: los puntos son el mismo.</translation>
     </message>
     <message>
         <source>Specify through point: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise punto por el que pasa: </translation>
     </message>
     <message>
         <source>Select a line object: </source>
-        <translation type="unfinished"></translation>
+        <translation>Designe un objeto lineal: </translation>
     </message>
     <message>
         <source>Requires a line, a ray or a straight part of a polyline.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se requiere una línea, un rayo o un tramo recto de polilínea.</translation>
     </message>
     <message>
         <source>Enter angle of xline (%1) or [Reference]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique ángulo de la línea auxiliar (%1) o [Reference]: </translation>
     </message>
     <message>
         <source>Enter angle of xline &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique ángulo de la línea auxiliar &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Specify angle vertex point: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise vértice del ángulo: </translation>
     </message>
     <message>
         <source>Specify angle start point: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise punto inicial del ángulo: </translation>
     </message>
     <message>
         <source>Specify angle end point: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise punto final del ángulo: </translation>
     </message>
     <message>
         <source>Specify offset distance or [Through] &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise distancia de desfase o [Through] &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Specify side to offset: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise lado de desfase: </translation>
     </message>
     <message>
         <source>Specify a point or [Hor/Ver/Ang/Bisect/Offset]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise un punto o [Hor/Ver/Ang/Bisect/Offset]: </translation>
     </message>
     <message>
         <source>Length of line: </source>
-        <translation type="unfinished"></translation>
+        <translation>Longitud de línea: </translation>
     </message>
     <message>
         <source>Specify next point or [Close/Undo]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise punto siguiente o [Close/Undo]: </translation>
     </message>
     <message>
         <source>Specify a point: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise un punto: </translation>
     </message>
     <message>
         <source>Specify distance to other axis or [Rotation]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise distancia al otro eje o [Rotation]: </translation>
     </message>
     <message>
         <source>Specify rotation around major axis: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise rotación alrededor del eje mayor: </translation>
     </message>
     <message>
         <source>An ellipse is turned by 0 to 89.4 degrees.</source>
-        <translation type="unfinished"></translation>
+        <translation>Una elipse se gira de 0 a 89.4 grados.</translation>
     </message>
     <message>
         <source>Specify center of ellipse: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise centro de la elipse: </translation>
     </message>
     <message>
         <source>Specify endpoint of axis: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise punto final del eje: </translation>
     </message>
     <message>
         <source>Specify other endpoint of axis: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise otro punto final del eje: </translation>
     </message>
     <message>
         <source>The endpoints of the axis are one point.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los puntos finales del eje son el mismo punto.</translation>
     </message>
     <message>
         <source>Specify end parameter or [Angle/Included angle]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise parámetro final o [Angle/Included angle]: </translation>
     </message>
     <message>
         <source>Specify end angle or [Parameter/Included angle]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise ángulo final o [Parameter/Included angle]: </translation>
     </message>
     <message>
         <source>Specify start parameter or [Angle]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise parámetro inicial o [Angle]: </translation>
     </message>
     <message>
         <source>Specify start angle or [Parameter]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise ángulo inicial o [Parameter]: </translation>
     </message>
     <message>
         <source>Specify included angle for arc &lt;180&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise ángulo incluido del arco &lt;180&gt;: </translation>
     </message>
     <message>
         <source>Specify axis endpoint of ellipse or [Arc/Center]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise punto final de eje de la elipse o [Arc/Center]: </translation>
     </message>
     <message>
         <source>Specify axis endpoint of elliptical arc or [Center]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise punto final de eje del arco elíptico o [Center]: </translation>
     </message>
     <message>
         <source>Specify third point: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise tercer punto: </translation>
     </message>
     <message>
         <source>Specify fourth point or &lt;exit&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise cuarto punto o &lt;salir&gt;: </translation>
     </message>
     <message>
         <source>Specify trace width</source>
-        <translation type="unfinished"></translation>
+        <translation>Precise grosor del trazo</translation>
     </message>
     <message>
         <source>Specify first point or [Invisible]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise primer punto o [Invisible]: </translation>
     </message>
     <message>
         <source>Specify second point or [Invisible]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise segundo punto o [Invisible]: </translation>
     </message>
     <message>
         <source>Specify third point or [Invisible] &lt;exit&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise tercer punto o [Invisible] &lt;salir&gt;: </translation>
     </message>
     <message>
         <source>Specify fourth point or [Invisible] &lt;create three-sided face&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise cuarto punto o [Invisible] &lt;crear cara de tres lados&gt;: </translation>
     </message>
     <message>
         <source>Specify start point of polyline: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise punto inicial de la polilínea: </translation>
     </message>
     <message>
         <source>Specify endpoint of line or [Close/Undo]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise punto final de la línea o [Close/Undo]: </translation>
     </message>
     <message>
         <source>Specify endpoint of line or [Undo]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise punto final de la línea o [Undo]: </translation>
     </message>
     <message>
         <source>
 All segments already undone.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Ya se han deshecho todos los segmentos.</translation>
     </message>
     <message>
         <source>Enter mline style name or [?]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nombre de estilo de línea múltiple o [?]: </translation>
     </message>
     <message>
         <source>Cannot find multiline style &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se encuentra el estilo de línea múltiple &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>
 Current settings: Justification = %1, Scale = %2, Style = %3</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Parámetros actuales: Justificación = %1, Escala = %2, Estilo = %3</translation>
     </message>
     <message>
         <source>Specify start point or [Justification/Scale/STyle]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise punto inicial o [Justification/Scale/STyle]: </translation>
     </message>
     <message>
         <source>Enter justification type [Top/Zero/Bottom]</source>
-        <translation type="unfinished"></translation>
+        <translation>Indique tipo de justificación [Top/Zero/Bottom]</translation>
     </message>
     <message>
         <source>Enter mline scale &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique escala de línea múltiple &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Enter number of sides &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique número de lados &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>A polygon has 3 to 1024 sides.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un polígono tiene de 3 a 1024 lados.</translation>
     </message>
     <message>
         <source>Specify first endpoint of edge: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise primer punto final del lado: </translation>
     </message>
     <message>
         <source>Specify second endpoint of edge: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise segundo punto final del lado: </translation>
     </message>
     <message>
         <source>Enter an option [Inscribed in circle/Circumscribed about circle]</source>
-        <translation type="unfinished"></translation>
+        <translation>Indique una opción [Inscribed in circle/Circumscribed about circle]</translation>
     </message>
     <message>
         <source>Specify radius of circle: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise radio del círculo: </translation>
     </message>
     <message>
         <source>Specify center of polygon or [Edge]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise centro del polígono o [Edge]: </translation>
     </message>
     <message>
         <source>The endpoints of the edge are one point.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los puntos finales del lado son el mismo punto.</translation>
     </message>
     <message>
         <source>Specify inside diameter of donut</source>
-        <translation type="unfinished"></translation>
+        <translation>Precise diámetro interior de la arandela</translation>
     </message>
     <message>
         <source>Specify outside diameter of donut</source>
-        <translation type="unfinished"></translation>
+        <translation>Precise diámetro exterior de la arandela</translation>
     </message>
     <message>
         <source>Specify center of donut or &lt;exit&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise centro de la arandela o &lt;salir&gt;: </translation>
     </message>
     <message>
         <source>Specify direction of chord for arc &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise dirección de la cuerda del arco &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Specify endpoint of arc or [CEnter/Radius]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise punto final del arco o [CEnter/Radius]: </translation>
     </message>
     <message>
         <source>Specify endpoint of arc or [Angle/Length]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise punto final del arco o [Angle/Length]: </translation>
     </message>
     <message>
         <source>Specify the tangent direction for the start point of arc: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise dirección tangente en el punto inicial del arco: </translation>
     </message>
     <message>
         <source>Specify endpoint of the arc: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise punto final del arco: </translation>
     </message>
     <message>
         <source>Specify endpoint of arc or [Angle]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise punto final del arco o [Angle]: </translation>
     </message>
     <message>
         <source>Specify second point on arc: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise segundo punto del arco: </translation>
     </message>
     <message>
         <source>Specify starting half-width &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise mitad de grosor inicial &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Specify ending half-width &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise mitad de grosor final &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Specify starting width &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise grosor inicial &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Specify ending width &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise grosor final &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Specify length of line: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise longitud de la línea: </translation>
     </message>
     <message>
         <source>Specify endpoint of arc or [Angle/CEnter/%1Direction/Halfwidth/Line/Radius/Second pt/Undo/Width]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise punto final del arco o [Angle/CEnter/%1Direction/Halfwidth/Line/Radius/Second pt/Undo/Width]: </translation>
     </message>
     <message>
         <source>Specify next point or [Arc/%1Halfwidth/Length/Undo/Width]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise punto siguiente o [Arc/%1Halfwidth/Length/Undo/Width]: </translation>
     </message>
     <message>
         <source>
 Current line-width is %1</source>
-        <translation type="unfinished"></translation>
+        <translation>
+El grosor de línea actual es %1</translation>
     </message>
     <message>
         <source>Specify fillet radius for rectangles</source>
-        <translation type="unfinished"></translation>
+        <translation>Precise radio de empalme para rectángulos</translation>
     </message>
     <message>
         <source>Specify first chamfer distance for rectangles</source>
-        <translation type="unfinished"></translation>
+        <translation>Precise primera distancia de chaflán para rectángulos</translation>
     </message>
     <message>
         <source>Specify second chamfer distance for rectangles</source>
-        <translation type="unfinished"></translation>
+        <translation>Precise segunda distancia de chaflán para rectángulos</translation>
     </message>
     <message>
         <source>Specify first corner point or [Chamfer/Elevation/Fillet/Thickness/Width]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise primera esquina o [Chamfer/Elevation/Fillet/Thickness/Width]: </translation>
     </message>
     <message>
         <source>Specify the elevation for rectangles</source>
-        <translation type="unfinished"></translation>
+        <translation>Precise elevación para rectángulos</translation>
     </message>
     <message>
         <source>Specify thickness for rectangles</source>
-        <translation type="unfinished"></translation>
+        <translation>Precise altura de objeto para rectángulos</translation>
     </message>
     <message>
         <source>Specify line width for rectangles</source>
-        <translation type="unfinished"></translation>
+        <translation>Precise grosor de línea para rectángulos</translation>
     </message>
     <message>
         <source>Enter area of rectangle in current units</source>
-        <translation type="unfinished"></translation>
+        <translation>Indique área del rectángulo en las unidades actuales</translation>
     </message>
     <message>
         <source>Calculate rectangle dimensions based on [Length/Width]</source>
-        <translation type="unfinished"></translation>
+        <translation>Calcular dimensiones del rectángulo según [Length/Width]</translation>
     </message>
     <message>
         <source>Enter rectangle width</source>
-        <translation type="unfinished"></translation>
+        <translation>Indique anchura del rectángulo</translation>
     </message>
     <message>
         <source>Enter rectangle length</source>
-        <translation type="unfinished"></translation>
+        <translation>Indique longitud del rectángulo</translation>
     </message>
     <message>
         <source>Specify rotation angle or [Pick points] &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise ángulo de rotación o [Pick points] &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Specify other corner point or [Area/Dimensions/Rotation]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise otra esquina o [Area/Dimensions/Rotation]: </translation>
     </message>
     <message>
         <source>Specify length for rectangles</source>
-        <translation type="unfinished"></translation>
+        <translation>Precise longitud de los rectángulos</translation>
     </message>
     <message>
         <source>Specify width for rectangles</source>
-        <translation type="unfinished"></translation>
+        <translation>Precise anchura de los rectángulos</translation>
     </message>
     <message>
         <source>The corners of a rectangle lie neither above nor beside each other.</source>
-        <translation type="unfinished"></translation>
+        <translation>Las esquinas de un rectángulo no están ni una sobre otra ni una al lado de otra.</translation>
     </message>
     <message>
         <source>1 loop rejected: it crosses itself or branches.</source>
-        <translation type="unfinished"></translation>
+        <translation>1 bucle rechazado: se corta a sí mismo o se ramifica.</translation>
     </message>
     <message>
         <source>%1 loops rejected: it crosses itself or branches.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 bucles rechazados: se cortan a sí mismos o se ramifican.</translation>
     </message>
     <message>
         <source>1 loop rejected: it does not lie in a plane.</source>
-        <translation type="unfinished"></translation>
+        <translation>1 bucle rechazado: no está en un plano.</translation>
     </message>
     <message>
         <source>%1 loops rejected: it does not lie in a plane.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 bucles rechazados: no están en un plano.</translation>
     </message>
     <message>
         <source>1 loop rejected: it encloses nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>1 bucle rechazado: no encierra nada.</translation>
     </message>
     <message>
         <source>%1 loops rejected: it encloses nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 bucles rechazados: no encierran nada.</translation>
     </message>
     <message>
         <source>1 curve rejected: it is not part of a closed loop.</source>
-        <translation type="unfinished"></translation>
+        <translation>1 curva rechazada: no forma parte de un bucle cerrado.</translation>
     </message>
     <message>
         <source>%1 curves rejected: it is not part of a closed loop.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 curvas rechazadas: no forman parte de un bucle cerrado.</translation>
     </message>
     <message>
         <source>1 object rejected: it is no curve.</source>
-        <translation type="unfinished"></translation>
+        <translation>1 objeto rechazado: no es una curva.</translation>
     </message>
     <message>
         <source>%1 objects rejected: it is no curve.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 objetos rechazados: no son curvas.</translation>
     </message>
     <message>
         <source>Drawings of R12 have no regions.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los dibujos de R12 no tienen regiones.</translation>
     </message>
     <message>
         <source>
 1 loop extracted.
 1 Region created.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+1 bucle extraído.
+1 región creada.</translation>
     </message>
     <message>
         <source>
 %1 loops extracted.
 %1 Regions created.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 bucles extraídos.
+%1 regiones creadas.</translation>
     </message>
     <message>
         <source>Specify minimum length of arc</source>
-        <translation type="unfinished"></translation>
+        <translation>Precise longitud mínima del arco</translation>
     </message>
     <message>
         <source>Specify maximum length of arc &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise longitud máxima del arco &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Specify first corner point or [Arc length/Object/Rectangular/Polygonal/Freehand/Style] &lt;Object&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise primera esquina o [Arc length/Object/Rectangular/Polygonal/Freehand/Style] &lt;Object&gt;: </translation>
     </message>
     <message>
         <source>Specify start point or [Arc length/Object/Rectangular/Polygonal/Freehand/Style] &lt;Object&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise punto inicial o [Arc length/Object/Rectangular/Polygonal/Freehand/Style] &lt;Object&gt;: </translation>
     </message>
     <message>
         <source>Select arc style [Normal/Calligraphy]</source>
-        <translation type="unfinished"></translation>
+        <translation>Designe estilo de arco [Normal/Calligraphy]</translation>
     </message>
     <message>
         <source>Enter name of shape file to load: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nombre del archivo de formas que se carga: </translation>
     </message>
     <message>
         <source>Cannot read shape file &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede leer el archivo de formas &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>Enter shape name: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nombre de forma: </translation>
     </message>
     <message>
         <source>Cannot find shape &quot;%1&quot;. Load its file first.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se encuentra la forma &quot;%1&quot;. Cargue antes su archivo.</translation>
     </message>
     <message>
         <source>Specify height &lt;1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise altura &lt;1&gt;: </translation>
     </message>
     <message>
         <source>
 Only polylines with the smoothing of splines can be converted.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Solo se pueden convertir polilíneas suavizadas como splines.</translation>
     </message>
     <message>
         <source>Specify first point or [Method/Knots/Object]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise primer punto o [Method/Knots/Object]: </translation>
     </message>
     <message>
         <source>Specify first point or [Method/Degree/Object]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise primer punto o [Method/Degree/Object]: </translation>
     </message>
     <message>
         <source>Enter spline creation method [Fit/CV]</source>
-        <translation type="unfinished"></translation>
+        <translation>Indique método de creación de splines [Fit/CV]</translation>
     </message>
     <message>
         <source>Enter knot parameterization [Chord/Square root/Uniform]</source>
-        <translation type="unfinished"></translation>
+        <translation>Indique parametrización de nudos [Chord/Square root/Uniform]</translation>
     </message>
     <message>
         <source>Enter degree of spline &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique grado de la spline &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Enter next point or [%1Undo]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique punto siguiente o [%1Undo]: </translation>
     </message>
     <message>
         <source>Enter next point or [start Tangency/toLerance]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique punto siguiente o [start Tangency/toLerance]: </translation>
     </message>
     <message>
         <source>Enter next point or [%1Fit tolerance/Undo/end Tangency] &lt;start tangent&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique punto siguiente o [%1Fit tolerance/Undo/end Tangency] &lt;tangente inicial&gt;: </translation>
     </message>
     <message>
         <source>
 All points already undone.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Ya se han deshecho todos los puntos.</translation>
     </message>
     <message>
         <source>Specify start tangent: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise tangente inicial: </translation>
     </message>
     <message>
         <source>Specify end tangent: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise tangente final: </translation>
     </message>
     <message>
         <source>Specify fit tolerance</source>
-        <translation type="unfinished"></translation>
+        <translation>Precise tolerancia de ajuste</translation>
     </message>
     <message>
         <source>Specify tangent: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise tangente: </translation>
     </message>
     <message>
         <source>Specify first source point: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise primer punto de origen: </translation>
     </message>
     <message>
         <source>Specify first destination point: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise primer punto de destino: </translation>
     </message>
     <message>
         <source>Specify second source point: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise segundo punto de origen: </translation>
     </message>
     <message>
         <source>Specify second destination point: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise segundo punto de destino: </translation>
     </message>
     <message>
         <source>Specify third source point or &lt;continue&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise tercer punto de origen o &lt;continuar&gt;: </translation>
     </message>
     <message>
         <source>Specify third destination point: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise tercer punto de destino: </translation>
     </message>
     <message>
         <source>Scale objects based on alignment points? [Yes/No] &lt;N&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>¿Escalar objetos según los puntos de alineación? [Yes/No] &lt;N&gt;: </translation>
     </message>
     <message>
         <source>The points say no direction.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los puntos no indican ninguna dirección.</translation>
     </message>
     <message>
         <source>Specify first point on axis or define axis by [Xaxis/Yaxis/Zaxis/2points]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise primer punto del eje o defina el eje por [Xaxis/Yaxis/Zaxis/2points]: </translation>
     </message>
     <message>
         <source>Specify a point on the %1 axis &lt;0,0,0&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise un punto del eje %1 &lt;0,0,0&gt;: </translation>
     </message>
     <message>
         <source>Specify first point on axis: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise primer punto del eje: </translation>
     </message>
     <message>
         <source>Specify second point on axis: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise segundo punto del eje: </translation>
     </message>
     <message>
         <source>Specify rotation angle or [Reference]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise ángulo de rotación o [Reference]: </translation>
     </message>
     <message>
         <source>Specify the distance between columns (|||): </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise distancia entre columnas (|||): </translation>
     </message>
     <message>
         <source>
 Enter the distance between rows or specify unit cell (---): </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Indique distancia entre filas o precise celda unidad (---): </translation>
     </message>
     <message>
         <source>Enter the number of rows (---) &lt;1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique número de filas (---) &lt;1&gt;: </translation>
     </message>
     <message>
         <source>Enter the number of columns (|||) &lt;1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique número de columnas (|||) &lt;1&gt;: </translation>
     </message>
     <message>
         <source>One-element array, nothing to do.</source>
-        <translation type="unfinished"></translation>
+        <translation>Matriz de un solo elemento, nada que hacer.</translation>
     </message>
     <message>
         <source>Requires a distance other than 0, or two corners of a cell.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se requiere una distancia distinta de 0 o dos esquinas de una celda.</translation>
     </message>
     <message>
         <source>Enter the number of items in the array: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique número de elementos de la matriz: </translation>
     </message>
     <message>
         <source>Specify the angle to fill (+=ccw, -=cw) &lt;360&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise ángulo que se rellena (+=antihorario, -=horario) &lt;360&gt;: </translation>
     </message>
     <message>
         <source>Angle between items: </source>
-        <translation type="unfinished"></translation>
+        <translation>Ángulo entre elementos: </translation>
     </message>
     <message>
         <source>Specify center point of array or [Base]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise centro de la matriz o [Base]: </translation>
     </message>
     <message>
         <source>Specify base point of objects: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise punto base de los objetos: </translation>
     </message>
     <message>
         <source>Specify center point of array: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise centro de la matriz: </translation>
     </message>
     <message>
         <source>Requires a number of items or an angle between them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se requiere un número de elementos o un ángulo entre ellos.</translation>
     </message>
     <message>
         <source>Rotate arrayed objects? [Yes/No] &lt;Y&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>¿Girar los objetos de la matriz? [Yes/No] &lt;Y&gt;: </translation>
     </message>
     <message>
         <source>Enter the type of array [Rectangular/Polar] &lt;R&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique tipo de matriz [Rectangular/Polar] &lt;R&gt;: </translation>
     </message>
     <message>
         <source>Enter property to change [%1]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique propiedad que se cambia [%1]: </translation>
     </message>
     <message>
         <source>Specify change point or [Properties]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise punto de cambio o [Properties]: </translation>
     </message>
     <message>
         <source>Enter new text style &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nuevo estilo de texto &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Specify new rotation angle &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise nuevo ángulo de rotación &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Enter new text &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nuevo texto &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Enter new tag &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nuevo identificador &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Enter new prompt &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nuevo mensaje de solicitud &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Enter new default value &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nuevo valor por defecto &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Specify new text insertion point &lt;no change&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise nuevo punto de inserción del texto &lt;sin cambios&gt;: </translation>
     </message>
     <message>
         <source>Specify new block insertion point &lt;no change&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise nuevo punto de inserción del bloque &lt;sin cambios&gt;: </translation>
     </message>
     <message>
         <source>Specify new block rotation angle &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise nuevo ángulo de rotación del bloque &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>
 %1 not changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 sin cambiar.</translation>
     </message>
     <message>
         <source>Enter object ordering option [Above objects/Under objects/Front/Back] &lt;Back&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique opción de orden de objetos [Above objects/Under objects/Front/Back] &lt;Back&gt;: </translation>
     </message>
     <message>
         <source>Enter number of items to array: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique número de elementos de la matriz: </translation>
     </message>
     <message>
         <source>Requires an integer of 2 or more.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se requiere un entero de 2 o más.</translation>
     </message>
     <message>
         <source>Specify second point or [Fit]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise segundo punto o [Fit]: </translation>
     </message>
     <message>
         <source>Specify second point or [Array] &lt;use first point as displacement&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise segundo punto o [Array] &lt;usar primer punto como desplazamiento&gt;: </translation>
     </message>
     <message>
         <source>Specify second point or [Array/Exit/Undo] &lt;Exit&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise segundo punto o [Array/Exit/Undo] &lt;Exit&gt;: </translation>
     </message>
     <message>
         <source>Specify base point or [Displacement/mOde] &lt;Displacement&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise punto base o [Displacement/mOde] &lt;Displacement&gt;: </translation>
     </message>
     <message>
         <source>Enter a copy mode option [Single/Multiple] &lt;Multiple&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique una opción del modo de copia [Single/Multiple] &lt;Multiple&gt;: </translation>
     </message>
     <message>
         <source>
 Current positive angle in UCS:  ANGDIR=%1  ANGBASE=%2</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Ángulo positivo actual en el SCP:  ANGDIR=%1  ANGBASE=%2</translation>
     </message>
     <message>
         <source>Specify rotation angle or [Copy/Reference] &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise ángulo de rotación o [Copy/Reference] &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>
 Rotating a copy of the selected objects.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Se gira una copia de los objetos designados.</translation>
     </message>
     <message>
         <source>Specify scale factor or [Copy/Reference]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise factor de escala o [Copy/Reference]: </translation>
     </message>
     <message>
         <source>
 Scaling a copy of the selected objects.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Se escala una copia de los objetos designados.</translation>
     </message>
     <message>
         <source>Requires three numbers from 0 to 255.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se requieren tres números de 0 a 255.</translation>
     </message>
     <message>
         <source>A drawing of this version has no such colors.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un dibujo de esta versión no tiene esos colores.</translation>
     </message>
     <message>
         <source>New color [Truecolor/COlorbook] &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Nuevo color [Truecolor/COlorbook] &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Red,Green,Blue: </source>
-        <translation type="unfinished"></translation>
+        <translation>Rojo,Verde,Azul: </translation>
     </message>
     <message>
         <source>This program has no color books.</source>
-        <translation type="unfinished"></translation>
+        <translation>Este programa no tiene libros de colores.</translation>
     </message>
     <message>
         <source>Requires a color number from 1 to 255 or a color name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se requiere un número de color de 1 a 255 o un nombre de color.</translation>
     </message>
     <message>
         <source>Enter new layer name &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nombre de nueva capa &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Enter new linetype name &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nombre de nuevo tipo de línea &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Cannot find linetype &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se encuentra el tipo de línea &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>Specify new linetype scale &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise nueva escala de tipo de línea &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Enter new lineweight &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nuevo grosor de línea &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>A drawing of this version has no lineweights.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un dibujo de esta versión no tiene grosores de línea.</translation>
     </message>
     <message>
         <source>Requires a lineweight from 0 to 2.11.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se requiere un grosor de línea de 0 a 2.11.</translation>
     </message>
     <message>
         <source>Specify new thickness &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise nueva altura de objeto &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Enter new transparency value &lt;ByLayer&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nuevo valor de transparencia &lt;ByLayer&gt;: </translation>
     </message>
     <message>
         <source>A drawing of this version has no transparency.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un dibujo de esta versión no tiene transparencia.</translation>
     </message>
     <message>
         <source>Requires an integer from 0 to 90.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se requiere un entero de 0 a 90.</translation>
     </message>
     <message>
         <source>Specify new elevation &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise nueva elevación &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>
 %1 of the pieces could not be made.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 de los trozos no se han podido crear.</translation>
     </message>
     <message>
         <source>Specify stretch point or [Base point/Copy/Undo/eXit]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise punto de estiramiento o [Base point/Copy/Undo/eXit]: </translation>
     </message>
     <message>
         <source>Specify move point or [Base point/Copy/Undo/eXit]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise punto de desplazamiento o [Base point/Copy/Undo/eXit]: </translation>
     </message>
     <message>
         <source>Specify rotation angle or [Base point/Copy/Undo/Reference/eXit]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise ángulo de rotación o [Base point/Copy/Undo/Reference/eXit]: </translation>
     </message>
     <message>
         <source>Specify scale factor or [Base point/Copy/Undo/Reference/eXit]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise factor de escala o [Base point/Copy/Undo/Reference/eXit]: </translation>
     </message>
     <message>
         <source>Specify second point or [Base point/Copy/Undo/eXit]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise segundo punto o [Base point/Copy/Undo/eXit]: </translation>
     </message>
     <message>
         <source> (multiple)</source>
-        <translation type="unfinished"></translation>
+        <translation> (múltiple)</translation>
     </message>
     <message>
         <source>Specify grips to move: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise pinzamientos que se desplazan: </translation>
     </message>
     <message>
         <source>There is no grip of the chosen entities.</source>
-        <translation type="unfinished"></translation>
+        <translation>Las entidades elegidas no tienen ahí ningún pinzamiento.</translation>
     </message>
     <message>
         <source>
 There is nothing to undo.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+No hay nada que deshacer.</translation>
     </message>
     <message>
         <source>Enter a setting to switch off or on [%1] &lt;exit&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique un parámetro que se desactiva o activa [%1] &lt;salir&gt;: </translation>
     </message>
     <message>
         <source>
 %1 is %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 es %2.</translation>
     </message>
     <message>
         <source>Select source object: </source>
-        <translation type="unfinished"></translation>
+        <translation>Designe objeto de origen: </translation>
     </message>
     <message>
         <source>
 Current active settings:  </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Parámetros activos actuales:  </translation>
     </message>
     <message>
         <source>Select destination object(s) or [Settings]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Designe objetos de destino o [Settings]: </translation>
     </message>
     <message>
         <source>
 %1 selected.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 designados.</translation>
     </message>
     <message>
         <source>Specify first point of mirror line: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise primer punto de la línea de simetría: </translation>
     </message>
     <message>
         <source>Specify second point of mirror line: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise segundo punto de la línea de simetría: </translation>
     </message>
     <message>
         <source>Erase source objects? [Yes/No] &lt;N&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>¿Borrar objetos de origen? [Yes/No] &lt;N&gt;: </translation>
     </message>
     <message>
         <source>Specify first point on mirror plane: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise primer punto del plano de simetría: </translation>
     </message>
     <message>
         <source>Specify second point on mirror plane: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise segundo punto del plano de simetría: </translation>
     </message>
     <message>
         <source>Specify third point on mirror plane: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise tercer punto del plano de simetría: </translation>
     </message>
     <message>
         <source>Specify point on %1 plane &lt;%2&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise punto del plano %1 &lt;%2&gt;: </translation>
     </message>
     <message>
         <source>Specify first point of mirror plane (3 points) or [Zaxis/View/XY/YZ/ZX/3points] &lt;3points&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise primer punto del plano de simetría (3 puntos) o [Zaxis/View/XY/YZ/ZX/3points] &lt;3points&gt;: </translation>
     </message>
     <message>
         <source>Specify point on mirror plane: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise punto del plano de simetría: </translation>
     </message>
     <message>
         <source>Specify point on Z-axis (normal) of mirror plane: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise punto del eje Z (normal) del plano de simetría: </translation>
     </message>
     <message>
         <source>Specify point on view plane &lt;0,0,0&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise punto del plano de la vista &lt;0,0,0&gt;: </translation>
     </message>
     <message>
         <source>The points say no plane.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los puntos no indican ningún plano.</translation>
     </message>
     <message>
         <source>Delete source objects? [Yes/No] &lt;N&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>¿Borrar objetos de origen? [Yes/No] &lt;N&gt;: </translation>
     </message>
     <message>
         <source>The sheet has no viewport.</source>
-        <translation type="unfinished"></translation>
+        <translation>La presentación no tiene ninguna ventana.</translation>
     </message>
     <message>
         <source>
 %1 object(s) changed from MODEL space to PAPER space.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 objeto(s) pasado(s) del espacio MODELO al espacio PAPEL.</translation>
     </message>
     <message>
         <source>
 %1 object(s) changed from PAPER space to MODEL space.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 objeto(s) pasado(s) del espacio PAPEL al espacio MODELO.</translation>
     </message>
     <message>
         <source>
 Objects were scaled by a factor of %1 to maintain visual appearance.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Los objetos se han escalado por un factor de %1 para mantener su aspecto.</translation>
     </message>
     <message>
         <source>Only a layout has both spaces.</source>
-        <translation type="unfinished"></translation>
+        <translation>Solo una presentación tiene ambos espacios.</translation>
     </message>
     <message>
         <source>
 Select objects to stretch by crossing-window or crossing-polygon...</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Designe objetos que se estiran mediante ventana o polígono de captura...</translation>
     </message>
     <message>
         <source>Enter name of customization file to load: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nombre del archivo de personalización que se carga: </translation>
     </message>
     <message>
         <source>
 &quot;%1&quot; was not loaded: there are no menu files here.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+&quot;%1&quot; no se ha cargado: aquí no hay archivos de menú.</translation>
     </message>
     <message>
         <source>Enter name of customization group to unload: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nombre del grupo de personalización que se descarga: </translation>
     </message>
     <message>
         <source>
 There is no customization group &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+No hay ningún grupo de personalización &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>Enter name of assembly to load: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nombre del ensamblado que se carga: </translation>
     </message>
     <message>
         <source>
 &quot;%1&quot; was not loaded: programs for other hosts do not run here.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+&quot;%1&quot; no se ha cargado: aquí no se ejecutan programas para otros entornos.</translation>
     </message>
     <message>
         <source>Enter an option [?/Load/Unload/Commands/Options]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique una opción [?/Load/Unload/Commands/Options]: </translation>
     </message>
     <message>
         <source>Enter name of application file: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nombre del archivo de aplicación: </translation>
     </message>
     <message>
         <source>
 Programs for other hosts do not run here.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Aquí no se ejecutan programas para otros entornos.</translation>
     </message>
     <message>
         <source>Enter delay time (in milliseconds): </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique tiempo de espera (en milisegundos): </translation>
     </message>
     <message>
         <source>Fix any errors detected? [Yes/No] &lt;No&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>¿Corregir los errores detectados? [Yes/No] &lt;No&gt;: </translation>
     </message>
     <message>
         <source>
 Total errors found %1 fixed %2</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Total de errores encontrados %1 corregidos %2</translation>
     </message>
     <message>
         <source>
 Save the drawing and open it with --recover: that mends the others.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Guarde el dibujo y ábralo con --recover: así se reparan los demás.</translation>
     </message>
     <message>
         <source>Enter name of drawing to open: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nombre del dibujo que se abre: </translation>
     </message>
     <message>
         <source>Enter template file name or [. (for none)] &lt;.&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nombre de archivo de plantilla o [. (for none)] &lt;.&gt;: </translation>
     </message>
     <message>
         <source>Cannot find template &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se encuentra la plantilla &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>Save changes to %1? [Yes/No/Cancel] &lt;Yes&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>¿Guardar los cambios en %1? [Yes/No/Cancel] &lt;Yes&gt;: </translation>
     </message>
     <message>
         <source>Really want to discard all changes to drawing? [Yes/No] &lt;No&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>¿Seguro que quiere descartar todos los cambios del dibujo? [Yes/No] &lt;No&gt;: </translation>
     </message>
     <message>
         <source>another version</source>
-        <translation type="unfinished"></translation>
+        <translation>otra versión</translation>
     </message>
     <message>
         <source>This drawing is of %1, and this program writes no drawing in another version: nothing was written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Este dibujo es de %1, y este programa no escribe dibujos en otra versión: no se ha escrito nada.</translation>
     </message>
     <message>
         <source>Enter decimal places of accuracy (0 to 16) or [Objects/Binary/Version] &lt;16&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique decimales de precisión (0 a 16) o [Objects/Binary/Version] &lt;16&gt;: </translation>
     </message>
     <message>
         <source>Enter version [%1]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique versión [%1]: </translation>
     </message>
     <message>
         <source>This program writes whole drawings with all decimal places: nothing was written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Este programa escribe dibujos enteros con todos los decimales: no se ha escrito nada.</translation>
     </message>
     <message>
         <source>Save drawing as, or enter file format [%1/DXF] &lt;%2&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Guarde el dibujo como, o indique formato de archivo [%1/DXF] &lt;%2&gt;: </translation>
     </message>
     <message>
         <source>Save drawing as &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar dibujo como &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>
 The rest of the script that called it is left out.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Se omite el resto del script que lo llamó.</translation>
     </message>
     <message>
         <source>
 Too many scripts wait to be run: &quot;%1&quot; is left out.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Hay demasiados scripts en espera: &quot;%1&quot; se omite.</translation>
     </message>
     <message>
         <source>Enter script file name: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nombre del archivo de script: </translation>
     </message>
     <message>
         <source>
 Cannot read script &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+No se puede leer el script &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>
 Cannot read script &quot;%1&quot;: %2 (the limit is %3 MB).</source>
-        <translation type="unfinished"></translation>
+        <translation>
+No se puede leer el script &quot;%1&quot;: %2 (el límite es %3 MB).</translation>
     </message>
     <message>
         <source>No script has been run.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha ejecutado ningún script.</translation>
     </message>
     <message>
         <source>%1 [Yes/No] &lt;%2&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>%1 [Yes/No] &lt;%2&gt;: </translation>
     </message>
     <message>
         <source>Enter a layout name</source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nombre de presentación</translation>
     </message>
     <message>
         <source>Layout &quot;%1&quot; not found.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se encuentra la presentación &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>Enter an output device name</source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nombre de dispositivo de salida</translation>
     </message>
     <message>
         <source>There is no device &quot;%1&quot;: plots are files of PDF, PNG or SVG.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ningún dispositivo &quot;%1&quot;: los trazados son archivos PDF, PNG o SVG.</translation>
     </message>
     <message>
         <source>Enter paper size</source>
-        <translation type="unfinished"></translation>
+        <translation>Indique tamaño de papel</translation>
     </message>
     <message>
         <source>There is no paper size &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ningún tamaño de papel &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>Enter paper units [Inches/Millimeters] &lt;Millimeters&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique unidades de papel [Inches/Millimeters] &lt;Millimeters&gt;: </translation>
     </message>
     <message>
         <source>Enter drawing orientation [Portrait/Landscape] &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique orientación del dibujo [Portrait/Landscape] &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Plot upside down?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Trazar cabeza abajo?</translation>
     </message>
     <message>
         <source>
 Plots stand upright here.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Aquí los trazados van siempre derechos.</translation>
     </message>
     <message>
         <source>Enter lower left corner of window &lt;0.000000,0.000000&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique esquina inferior izquierda de la ventana &lt;0.000000,0.000000&gt;: </translation>
     </message>
     <message>
         <source>Enter upper right corner of window: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique esquina superior derecha de la ventana: </translation>
     </message>
     <message>
         <source>Enter plot area [%1] &lt;%2&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique área de trazado [%1] &lt;%2&gt;: </translation>
     </message>
     <message>
         <source>Enter view name: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nombre de vista: </translation>
     </message>
     <message>
         <source>Cannot find view &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se encuentra la vista &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>Enter plot scale (Plotted Millimeters=Drawing Units) or [Fit] &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique escala de trazado (milímetros trazados=unidades de dibujo) o [Fit] &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no plot scale.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; no es una escala de trazado.</translation>
     </message>
     <message>
         <source>Enter plot offset (x,y) or [Center] &lt;Center&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique desfase de trazado (x,y) o [Center] &lt;Center&gt;: </translation>
     </message>
     <message>
         <source>Plot with plot styles?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Trazar con estilos de trazado?</translation>
     </message>
     <message>
         <source>Enter plot style table name</source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nombre de tabla de estilos de trazado</translation>
     </message>
     <message>
         <source>Plot with lineweights?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Trazar con grosores de línea?</translation>
     </message>
     <message>
         <source>Enter shade plot setting [As displayed/Wireframe/Hidden/Visual styles/Rendered] &lt;As displayed&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique parámetro de trazado sombreado [As displayed/Wireframe/Hidden/Visual styles/Rendered] &lt;As displayed&gt;: </translation>
     </message>
     <message>
         <source>Scale lineweights with plot scale?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Escalar grosores de línea con la escala de trazado?</translation>
     </message>
     <message>
         <source>Plot paper space first?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Trazar primero el espacio papel?</translation>
     </message>
     <message>
         <source>Hide paperspace objects?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Ocultar objetos del espacio papel?</translation>
     </message>
     <message>
         <source>Enter file name &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nombre de archivo &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Save changes to page setup?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Guardar los cambios en la configuración de página?</translation>
     </message>
     <message>
         <source>Proceed with plot</source>
-        <translation type="unfinished"></translation>
+        <translation>Continuar con el trazado</translation>
     </message>
     <message>
         <source>Enter a page setup name &lt;&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nombre de configuración de página &lt;&gt;: </translation>
     </message>
     <message>
         <source>Detailed plot configuration?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Configuración detallada del trazado?</translation>
     </message>
     <message>
         <source>
 Plotted to %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Trazado en %1.</translation>
     </message>
     <message>
         <source>Cannot find plot style table &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se encuentra la tabla de estilos de trazado &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>
 Some of what the drawing holds is not drawn, or in part.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Parte de lo que contiene el dibujo no se dibuja, o solo parcialmente.</translation>
     </message>
     <message>
         <source>Purge %1 &quot;%2&quot;? [Yes/No] &lt;No&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>¿Limpiar %1 &quot;%2&quot;? [Yes/No] &lt;No&gt;: </translation>
     </message>
     <message>
         <source>
 Deleting %1 &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Borrando %1 &quot;%2&quot;.</translation>
     </message>
     <message>
         <source>Enter name(s) to purge &lt;*&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nombres que se limpian &lt;*&gt;: </translation>
     </message>
     <message>
         <source>Verify each name to be purged? [Yes/No] &lt;Yes&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>¿Verificar cada nombre que se limpia? [Yes/No] &lt;Yes&gt;: </translation>
     </message>
     <message>
         <source>
 Nothing unreferenced found.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+No se ha encontrado nada sin referencias.</translation>
     </message>
     <message>
         <source>
 %1 orphaned objects deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 objetos huérfanos borrados.</translation>
     </message>
     <message>
         <source>
 %1 entities without length deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 entidades sin longitud borradas.</translation>
     </message>
     <message>
         <source>
 %1 empty texts deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 textos vacíos borrados.</translation>
     </message>
     <message>
         <source>
 No unreferenced %1 found.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Sin referencias no se ha encontrado: %1.</translation>
     </message>
     <message>
         <source>Enter type of unused objects to purge [Blocks/DEtailviewstyles/Dimstyles/Groups/LAyers/LTypes/MAterials/MUltileaderstyles/Plotstyles/SHapes/textSTyles/Mlinestyles/SEctionviewstyles/Tablestyles/Visualstyles/Regapps/Zero-length geometry/Empty text objects/Orphaned data/All]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique tipo de objetos sin usar que se limpian [Blocks/DEtailviewstyles/Dimstyles/Groups/LAyers/LTypes/MAterials/MUltileaderstyles/Plotstyles/SHapes/textSTyles/Mlinestyles/SEctionviewstyles/Tablestyles/Visualstyles/Regapps/Zero-length geometry/Empty text objects/Orphaned data/All]: </translation>
     </message>
     <message>
         <source>block</source>
-        <translation type="unfinished"></translation>
+        <translation>bloque</translation>
     </message>
     <message>
         <source>dimension style</source>
-        <translation type="unfinished"></translation>
+        <translation>estilo de cota</translation>
     </message>
     <message>
         <source>layer</source>
-        <translation type="unfinished"></translation>
+        <translation>capa</translation>
     </message>
     <message>
         <source>linetype</source>
-        <translation type="unfinished"></translation>
+        <translation>tipo de línea</translation>
     </message>
     <message>
         <source>material</source>
-        <translation type="unfinished"></translation>
+        <translation>material</translation>
     </message>
     <message>
         <source>multileader style</source>
-        <translation type="unfinished"></translation>
+        <translation>estilo de directriz múltiple</translation>
     </message>
     <message>
         <source>text style</source>
-        <translation type="unfinished"></translation>
+        <translation>estilo de texto</translation>
     </message>
     <message>
         <source>table style</source>
-        <translation type="unfinished"></translation>
+        <translation>estilo de tabla</translation>
     </message>
     <message>
         <source>UCS</source>
-        <translation type="unfinished"></translation>
+        <translation>SCP</translation>
     </message>
     <message>
         <source>view</source>
-        <translation type="unfinished"></translation>
+        <translation>vista</translation>
     </message>
     <message>
         <source>viewport</source>
-        <translation type="unfinished"></translation>
+        <translation>ventana</translation>
     </message>
     <message>
         <source>layout</source>
-        <translation type="unfinished"></translation>
+        <translation>presentación</translation>
     </message>
     <message>
         <source>Enter object type to rename [Block/Dimstyle/LAyer/LType/Material/multileadersTyle/Style/Tablestyle/Ucs/VIew/VPort]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique tipo de objeto cuyo nombre se cambia [Block/Dimstyle/LAyer/LType/Material/multileadersTyle/Style/Tablestyle/Ucs/VIew/VPort]: </translation>
     </message>
     <message>
         <source>Enter old %1 name: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nombre antiguo de %1: </translation>
     </message>
     <message>
         <source>Enter new %1 name: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nombre nuevo de %1: </translation>
     </message>
     <message>
         <source>Enter command name: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nombre de comando: </translation>
     </message>
     <message>
         <source>Unknown command &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Comando desconocido &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>
 %1 is a command already.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 ya es un comando.</translation>
     </message>
     <message>
         <source>
 Saved to %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Guardado en %1.</translation>
     </message>
     <message>
         <source>Save all the same, or under another name? [Anyway/Name/Cancel] &lt;Cancel&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>¿Guardar de todos modos o con otro nombre? [Anyway/Name/Cancel] &lt;Cancel&gt;: </translation>
     </message>
     <message>
         <source>Save under another name? [Name/Cancel] &lt;Cancel&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>¿Guardar con otro nombre? [Name/Cancel] &lt;Cancel&gt;: </translation>
     </message>
     <message>
         <source>Nothing was written.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha escrito nada.</translation>
     </message>
     <message>
         <source>Save drawing as: </source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar dibujo como: </translation>
     </message>
     <message>
         <source>%1 cannot be set to that value.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 no admite ese valor.</translation>
     </message>
     <message>
         <source>Enter mode [ON/OFF] &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique modo [ON/OFF] &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Specify horizontal spacing(X) &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise separación horizontal(X) &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Specify vertical spacing(Y) &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise separación vertical(Y) &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Specify grid spacing(X) or [ON/OFF/Snap/Aspect]</source>
-        <translation type="unfinished"></translation>
+        <translation>Precise separación de la rejilla(X) o [ON/OFF/Snap/Aspect]</translation>
     </message>
     <message>
         <source>Specify snap spacing or [ON/OFF/Aspect/Rotate/Style/Type]</source>
-        <translation type="unfinished"></translation>
+        <translation>Precise separación del forzado de cursor o [ON/OFF/Aspect/Rotate/Style/Type]</translation>
     </message>
     <message>
         <source>Specify base point &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise punto base &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Enter snap grid style [Standard/Isometric] &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique estilo de la rejilla de forzado [Standard/Isometric] &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Specify vertical spacing</source>
-        <translation type="unfinished"></translation>
+        <translation>Precise separación vertical</translation>
     </message>
     <message>
         <source>Specify snap spacing or [Aspect]</source>
-        <translation type="unfinished"></translation>
+        <translation>Precise separación del forzado de cursor o [Aspect]</translation>
     </message>
     <message>
         <source>Enter snap type [Polar/Grid] &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique tipo de forzado de cursor [Polar/Grid] &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Enter isometric plane setting [Left/Top/Right] &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique plano isométrico [Left/Top/Right] &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>
 Current Isoplane: </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Plano isométrico actual: </translation>
     </message>
     <message>
         <source>Specify lower left corner or [ON/OFF] &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise esquina inferior izquierda o [ON/OFF] &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Specify upper right corner &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise esquina superior derecha &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Specify new default elevation &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise nueva elevación por defecto &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Specify new default thickness &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise nueva altura de objeto por defecto &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Enter default object color [Truecolor/COlorbook] &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique color de objetos por defecto [Truecolor/COlorbook] &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>New objects take colors by number or name here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aquí los objetos nuevos toman colores por número o nombre.</translation>
     </message>
     <message>
         <source>
 Everything has been undone.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Se ha deshecho todo.</translation>
     </message>
     <message>
         <source>Enter UNDO Auto mode [ON/OFF] &lt;ON&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique modo Auto de UNDO [ON/OFF] &lt;ON&gt;: </translation>
     </message>
     <message>
         <source>Enter an UNDO control option [All/None/One/Combine/Layer] &lt;All&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique una opción de control de UNDO [All/None/One/Combine/Layer] &lt;All&gt;: </translation>
     </message>
     <message>
         <source>Combine zoom and pan operations? [Yes/No] &lt;Yes&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>¿Combinar operaciones de zoom y encuadre? [Yes/No] &lt;Yes&gt;: </translation>
     </message>
     <message>
         <source>Combine layer property changes? [Yes/No] &lt;Yes&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>¿Combinar cambios de propiedades de capas? [Yes/No] &lt;Yes&gt;: </translation>
     </message>
     <message>
         <source>
 Undo is always on.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Deshacer está siempre activado.</translation>
     </message>
     <message>
         <source>This will undo everything. OK? [Yes/No] &lt;Yes&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Esto lo deshará todo. ¿De acuerdo? [Yes/No] &lt;Yes&gt;: </translation>
     </message>
     <message>
         <source>Enter the number of operations to undo or [Auto/Control/BEgin/End/Mark/Back] &lt;1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique número de operaciones que se deshacen o [Auto/Control/BEgin/End/Mark/Back] &lt;1&gt;: </translation>
     </message>
     <message>
         <source>
 There is nothing to redo.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+No hay nada que rehacer.</translation>
     </message>
     <message>
         <source>Enter number of actions or [All/Last]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique número de acciones o [All/Last]: </translation>
     </message>
     <message>
         <source>
 There is nothing to bring back.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+No hay nada que recuperar.</translation>
     </message>
     <message>
         <source>Enter command name to repeat: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nombre del comando que se repite: </translation>
     </message>
     <message>
         <source>Unknown command &quot;%1&quot;: only built-in ones are repeated.</source>
-        <translation type="unfinished"></translation>
+        <translation>Comando desconocido &quot;%1&quot;: solo se repiten los incorporados.</translation>
     </message>
     <message>
         <source>Requires an integer between %1 and %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se requiere un entero entre %1 y %2.</translation>
     </message>
     <message>
         <source>Enter denominator of smallest fraction to display (1, 2, 4, 8, 16, 32, 64, 128, or 256) &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique denominador de la menor fracción que se muestra (1, 2, 4, 8, 16, 32, 64, 128 o 256) &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Requires a power of two up to 256.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se requiere una potencia de dos hasta 256.</translation>
     </message>
     <message>
         <source>
 Report formats: 1. Scientific  2. Decimal  3. Engineering  4. Architectural  5. Fractional</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Formatos: 1. Científico  2. Decimal  3. Ingeniería  4. Arquitectura  5. Fraccionario</translation>
     </message>
     <message>
         <source>Enter choice, 1 to 5</source>
-        <translation type="unfinished"></translation>
+        <translation>Indique elección, 1 a 5</translation>
     </message>
     <message>
         <source>Enter number of digits to right of decimal point (0 to 8)</source>
-        <translation type="unfinished"></translation>
+        <translation>Indique número de decimales (0 a 8)</translation>
     </message>
     <message>
         <source>
 Systems of angle measure: 1. Decimal degrees  2. Degrees/minutes/seconds  3. Grads  4. Radians  5. Surveyor&apos;s units</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Sistemas de ángulos: 1. Grados decimales  2. Grados/minutos/segundos  3. Grados centesimales  4. Radianes  5. Unidades geodésicas</translation>
     </message>
     <message>
         <source>Enter number of fractional places for display of angles (0 to 8)</source>
-        <translation type="unfinished"></translation>
+        <translation>Indique número de decimales de los ángulos (0 a 8)</translation>
     </message>
     <message>
         <source>Enter direction for angle 0 &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique dirección del ángulo 0 &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Measure angles clockwise? [Yes/No] &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>¿Medir ángulos en sentido horario? [Yes/No] &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>%1 mm</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 mm</translation>
     </message>
     <message>
         <source>
 Current lineweight: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Grosor de línea actual: %1</translation>
     </message>
     <message>
         <source>Enter default lineweight for new objects or [?]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique grosor de línea por defecto de los objetos nuevos o [?]: </translation>
     </message>
     <message>
         <source>
 ByLayer, ByBlock, Default, or 0.00 to 2.11 mm</source>
-        <translation type="unfinished"></translation>
+        <translation>
+PorCapa, PorBloque, Por defecto, o de 0.00 a 2.11 mm</translation>
     </message>
     <message>
         <source>from point,</source>
-        <translation type="unfinished"></translation>
+        <translation>del punto,</translation>
     </message>
     <message>
         <source>  to point,</source>
-        <translation type="unfinished"></translation>
+        <translation>  al punto,</translation>
     </message>
     <message>
         <source>Length = %1,  Angle in XY Plane = %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Longitud = %1,  Ángulo en el plano XY = %2</translation>
     </message>
     <message>
         <source>Delta X = %1, Delta Y = %2, Delta Z = %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Incr. X = %1, Incr. Y = %2, Incr. Z = %3</translation>
     </message>
     <message>
         <source>at point,</source>
-        <translation type="unfinished"></translation>
+        <translation>en el punto,</translation>
     </message>
     <message>
         <source>base point,</source>
-        <translation type="unfinished"></translation>
+        <translation>punto base,</translation>
     </message>
     <message>
         <source>through point,</source>
-        <translation type="unfinished"></translation>
+        <translation>pasa por el punto,</translation>
     </message>
     <message>
         <source>center point,</source>
-        <translation type="unfinished"></translation>
+        <translation>centro,</translation>
     </message>
     <message>
         <source>start angle</source>
-        <translation type="unfinished"></translation>
+        <translation>ángulo inicial</translation>
     </message>
     <message>
         <source>end angle</source>
-        <translation type="unfinished"></translation>
+        <translation>ángulo final</translation>
     </message>
     <message>
         <source>Center:</source>
-        <translation type="unfinished"></translation>
+        <translation>Centro:</translation>
     </message>
     <message>
         <source>Major Axis:</source>
-        <translation type="unfinished"></translation>
+        <translation>Eje mayor:</translation>
     </message>
     <message>
         <source>at point</source>
-        <translation type="unfinished"></translation>
+        <translation>en el punto</translation>
     </message>
     <message>
         <source>Constant width</source>
-        <translation type="unfinished"></translation>
+        <translation>Grosor constante</translation>
     </message>
     <message>
         <source>first point</source>
-        <translation type="unfinished"></translation>
+        <translation>primer punto</translation>
     </message>
     <message>
         <source>second point</source>
-        <translation type="unfinished"></translation>
+        <translation>segundo punto</translation>
     </message>
     <message>
         <source>third point</source>
-        <translation type="unfinished"></translation>
+        <translation>tercer punto</translation>
     </message>
     <message>
         <source>fourth point</source>
-        <translation type="unfinished"></translation>
+        <translation>cuarto punto</translation>
     </message>
     <message>
         <source>Control Point:</source>
-        <translation type="unfinished"></translation>
+        <translation>Punto de control:</translation>
     </message>
     <message>
         <source>Fit Point:</source>
-        <translation type="unfinished"></translation>
+        <translation>Punto de ajuste:</translation>
     </message>
     <message>
         <source>alignment point,</source>
-        <translation type="unfinished"></translation>
+        <translation>punto de alineación,</translation>
     </message>
     <message>
         <source>start point,</source>
-        <translation type="unfinished"></translation>
+        <translation>punto inicial,</translation>
     </message>
     <message>
         <source>rotation angle</source>
-        <translation type="unfinished"></translation>
+        <translation>ángulo de rotación</translation>
     </message>
     <message>
         <source>width scale</source>
-        <translation type="unfinished"></translation>
+        <translation>escala de anchura</translation>
     </message>
     <message>
         <source>obliquing angle</source>
-        <translation type="unfinished"></translation>
+        <translation>ángulo de oblicuidad</translation>
     </message>
     <message>
         <source>Location:</source>
-        <translation type="unfinished"></translation>
+        <translation>Ubicación:</translation>
     </message>
     <message>
         <source>Text style</source>
-        <translation type="unfinished"></translation>
+        <translation>Estilo de texto</translation>
     </message>
     <message>
         <source>Text height</source>
-        <translation type="unfinished"></translation>
+        <translation>Altura de texto</translation>
     </message>
     <message>
         <source>X scale factor</source>
-        <translation type="unfinished"></translation>
+        <translation>Factor de escala X</translation>
     </message>
     <message>
         <source>Y scale factor</source>
-        <translation type="unfinished"></translation>
+        <translation>Factor de escala Y</translation>
     </message>
     <message>
         <source>Z scale factor</source>
-        <translation type="unfinished"></translation>
+        <translation>Factor de escala Z</translation>
     </message>
     <message>
         <source>number of columns</source>
-        <translation type="unfinished"></translation>
+        <translation>número de columnas</translation>
     </message>
     <message>
         <source>number of rows</source>
-        <translation type="unfinished"></translation>
+        <translation>número de filas</translation>
     </message>
     <message>
         <source>between columns</source>
-        <translation type="unfinished"></translation>
+        <translation>entre columnas</translation>
     </message>
     <message>
         <source>between rows</source>
-        <translation type="unfinished"></translation>
+        <translation>entre filas</translation>
     </message>
     <message>
         <source>arc length</source>
-        <translation type="unfinished"></translation>
+        <translation>longitud de arco</translation>
     </message>
     <message>
         <source>jogged radius</source>
-        <translation type="unfinished"></translation>
+        <translation>radio con recodo</translation>
     </message>
     <message>
         <source>defining point:</source>
-        <translation type="unfinished"></translation>
+        <translation>punto de definición:</translation>
     </message>
     <message>
         <source>Hatch pattern</source>
-        <translation type="unfinished"></translation>
+        <translation>Patrón de sombreado</translation>
     </message>
     <message>
         <source>Hatch scale</source>
-        <translation type="unfinished"></translation>
+        <translation>Escala de sombreado</translation>
     </message>
     <message>
         <source>Hatch angle</source>
-        <translation type="unfinished"></translation>
+        <translation>Ángulo de sombreado</translation>
     </message>
     <message>
         <source>Scale relative to Paper space</source>
-        <translation type="unfinished"></translation>
+        <translation>Escala relativa al espacio papel</translation>
     </message>
     <message>
         <source>Bounding Box: Lower Bound</source>
-        <translation type="unfinished"></translation>
+        <translation>Caja envolvente: límite inferior</translation>
     </message>
     <message>
         <source>Area:</source>
-        <translation type="unfinished"></translation>
+        <translation>Área:</translation>
     </message>
     <message>
         <source>Perimeter:</source>
-        <translation type="unfinished"></translation>
+        <translation>Perímetro:</translation>
     </message>
     <message>
         <source>Color:</source>
-        <translation type="unfinished"></translation>
+        <translation>Color:</translation>
     </message>
     <message>
         <source>Linetype:</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipo de línea:</translation>
     </message>
     <message>
         <source>Linetype scale</source>
-        <translation type="unfinished"></translation>
+        <translation>Escala de tipo de línea</translation>
     </message>
     <message>
         <source>Lineweight:</source>
-        <translation type="unfinished"></translation>
+        <translation>Grosor de línea:</translation>
     </message>
     <message>
         <source>%1  Layer: &quot;%2&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>%1  Capa: &quot;%2&quot;</translation>
     </message>
     <message>
         <source>Space:</source>
-        <translation type="unfinished"></translation>
+        <translation>Espacio:</translation>
     </message>
     <message>
         <source>Model space</source>
-        <translation type="unfinished"></translation>
+        <translation>Espacio modelo</translation>
     </message>
     <message>
         <source>Paper space</source>
-        <translation type="unfinished"></translation>
+        <translation>Espacio papel</translation>
     </message>
     <message>
         <source>Layout:</source>
-        <translation type="unfinished"></translation>
+        <translation>Presentación:</translation>
     </message>
     <message>
         <source>Handle =</source>
-        <translation type="unfinished"></translation>
+        <translation>Identificador =</translation>
     </message>
     <message>
         <source>
 Distance = %1,  Angle in XY Plane = %2,  Angle from XY Plane = %3</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Distancia = %1,  Ángulo en el plano XY = %2,  Ángulo desde el plano XY = %3</translation>
     </message>
     <message>
         <source>
 Delta X = %1,  Delta Y = %2,   Delta Z = %3</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Incr. X = %1,  Incr. Y = %2,   Incr. Z = %3</translation>
     </message>
     <message>
         <source>Specify next point or [Close/Undo/Total] &lt;Total&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise punto siguiente o [Close/Undo/Total] &lt;Total&gt;: </translation>
     </message>
     <message>
         <source>
 Distance = %1</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Distancia = %1</translation>
     </message>
     <message>
         <source>Specify second point or [Multiple points]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise segundo punto o [Multiple points]: </translation>
     </message>
     <message>
         <source>%1 days %2:%3:%4</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 días %2:%3:%4</translation>
     </message>
     <message>
         <source>
 Current time:             </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Hora actual:             </translation>
     </message>
     <message>
         <source>
 Times for this drawing:</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Tiempos de este dibujo:</translation>
     </message>
     <message>
         <source>
   Created:                </source>
-        <translation type="unfinished"></translation>
+        <translation>
+  Creado:                </translation>
     </message>
     <message>
         <source>
   Last updated:           </source>
-        <translation type="unfinished"></translation>
+        <translation>
+  Última actualización:           </translation>
     </message>
     <message>
         <source>
   Total editing time:     </source>
-        <translation type="unfinished"></translation>
+        <translation>
+  Tiempo total de edición:     </translation>
     </message>
     <message>
         <source>
   Elapsed timer:          </source>
-        <translation type="unfinished"></translation>
+        <translation>
+  Cronómetro:          </translation>
     </message>
     <message>
         <source>
 %1 objects in %2</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 objetos en %2</translation>
     </message>
     <message>
         <source>Limits are, low</source>
-        <translation type="unfinished"></translation>
+        <translation>Límites, inferior</translation>
     </message>
     <message>
         <source>Limits are, high</source>
-        <translation type="unfinished"></translation>
+        <translation>Límites, superior</translation>
     </message>
     <message>
         <source>Uses, low</source>
-        <translation type="unfinished"></translation>
+        <translation>Extensión, inferior</translation>
     </message>
     <message>
         <source>Uses, high</source>
-        <translation type="unfinished"></translation>
+        <translation>Extensión, superior</translation>
     </message>
     <message>
         <source>Insertion base is</source>
@@ -4250,1249 +4339,1306 @@ Times for this drawing:</source>
     </message>
     <message>
         <source>Current space:</source>
-        <translation type="unfinished"></translation>
+        <translation>Espacio actual:</translation>
     </message>
     <message>
         <source>Current layer:</source>
-        <translation type="unfinished"></translation>
+        <translation>Capa actual:</translation>
     </message>
     <message>
         <source>Current color:</source>
-        <translation type="unfinished"></translation>
+        <translation>Color actual:</translation>
     </message>
     <message>
         <source>Current linetype:</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipo de línea actual:</translation>
     </message>
     <message>
         <source>Current elevation:</source>
-        <translation type="unfinished"></translation>
+        <translation>Elevación actual:</translation>
     </message>
     <message>
         <source>Thickness:</source>
-        <translation type="unfinished"></translation>
+        <translation>Altura de objeto:</translation>
     </message>
     <message>
         <source>A drawing of this version has no such property of layers.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un dibujo de esta versión no tiene esa propiedad de capas.</translation>
     </message>
     <message>
         <source>New color [Truecolor/COlorbook] &lt;7 (white)&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Nuevo color [Truecolor/COlorbook] &lt;7 (blanco)&gt;: </translation>
     </message>
     <message>
         <source>Enter loaded linetype name or [?] &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nombre de tipo de línea cargado o [?] &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Linetype &quot;%1&quot; not found.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se encuentra el tipo de línea &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>linetype &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>tipo de línea &quot;%1&quot;</translation>
     </message>
     <message>
         <source>Enter lineweight (0.0mm - 2.11mm) or [Default]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique grosor de línea (0.0mm - 2.11mm) o [Default]: </translation>
     </message>
     <message>
         <source>Enter transparency value (0-90): </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique valor de transparencia (0-90): </translation>
     </message>
     <message>
         <source>transparency value %1</source>
-        <translation type="unfinished"></translation>
+        <translation>valor de transparencia %1</translation>
     </message>
     <message>
         <source>Enter material name &lt;Global&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nombre de material &lt;Global&gt;: </translation>
     </message>
     <message>
         <source>Cannot find material &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se encuentra el material &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>material &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>material &quot;%1&quot;</translation>
     </message>
     <message>
         <source>Enter a plotting preference [Plot/No plot] &lt;Plot&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique preferencia de trazado [Plot/No plot] &lt;Plot&gt;: </translation>
     </message>
     <message>
         <source>this plot preference</source>
-        <translation type="unfinished"></translation>
+        <translation>esta preferencia de trazado</translation>
     </message>
     <message>
         <source>Enter layer description: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique descripción de capa: </translation>
     </message>
     <message>
         <source>this description</source>
-        <translation type="unfinished"></translation>
+        <translation>esta descripción</translation>
     </message>
     <message>
         <source>This program keeps no named plot styles: nothing was changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Este programa no guarda estilos de trazado guardados: no se ha cambiado nada.</translation>
     </message>
     <message>
         <source>
 No matching layer names found.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+No se han encontrado nombres de capa coincidentes.</translation>
     </message>
     <message>
         <source>
 Cannot freeze layer &quot;%1&quot;. It is the current layer.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+No se puede inutilizar la capa &quot;%1&quot;. Es la capa actual.</translation>
     </message>
     <message>
         <source>Enter name list of layer(s) to turn on: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique lista de capas que se activan: </translation>
     </message>
     <message>
         <source>Enter name list of layer(s) to turn off: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique lista de capas que se desactivan: </translation>
     </message>
     <message>
         <source>Enter name list of layer(s) to freeze: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique lista de capas que se inutilizan: </translation>
     </message>
     <message>
         <source>Enter name list of layer(s) to thaw: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique lista de capas que se reutilizan: </translation>
     </message>
     <message>
         <source>Enter name list of layer(s) to lock: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique lista de capas que se bloquean: </translation>
     </message>
     <message>
         <source>Enter name list of layer(s) to unlock: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique lista de capas que se desbloquean: </translation>
     </message>
     <message>
         <source>Really want layer &quot;%1&quot; (the CURRENT layer) off? [Yes/No] &lt;No&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>¿Seguro que quiere desactivar la capa &quot;%1&quot; (la capa ACTUAL)? [Yes/No] &lt;No&gt;: </translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be the name of a layer.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; no puede ser el nombre de una capa.</translation>
     </message>
     <message>
         <source>Cannot make layer &quot;%1&quot; current: it is frozen.</source>
-        <translation type="unfinished"></translation>
+        <translation>La capa &quot;%1&quot; no puede ser la actual: está inutilizada.</translation>
     </message>
     <message>
         <source>Enter name for new layer (becomes the current layer) &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nombre de nueva capa (pasa a ser la actual) &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Enter layer name to make current or &lt;select object&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nombre de la capa que será la actual o &lt;designar objeto&gt;: </translation>
     </message>
     <message>
         <source>Enter name list for new layer(s): </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique lista de nombres de capas nuevas: </translation>
     </message>
     <message>
         <source>Enter old layer name: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nombre antiguo de capa: </translation>
     </message>
     <message>
         <source>Enter layer name(s) to list &lt;*&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nombres de capas que se listan &lt;*&gt;: </translation>
     </message>
     <message>
         <source>
 Layer name  State  Color  Linetype  Lineweight</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Nombre de capa  Estado  Color  Tipo de línea  Grosor de línea</translation>
     </message>
     <message>
         <source>
 Current layer:  &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Capa actual:  &quot;%1&quot;</translation>
     </message>
     <message>
         <source>Enter name list of layer(s) to reconcile: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique lista de capas que se reconcilian: </translation>
     </message>
     <message>
         <source>
 No unreconciled layers.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+No hay capas sin reconciliar.</translation>
     </message>
     <message>
         <source>Enter name list of layer(s) for %1 &lt;%2&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique lista de capas para %1 &lt;%2&gt;: </translation>
     </message>
     <message>
         <source>Enter an option [?/Make/Set/New/Rename/ON/OFF/Color/Ltype/LWeight/TRansparency/MATerial/Plot/PStyle/Freeze/Thaw/LOck/Unlock/stAte/Description/rEconcile]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique una opción [?/Make/Set/New/Rename/ON/OFF/Color/Ltype/LWeight/TRansparency/MATerial/Plot/PStyle/Freeze/Thaw/LOck/Unlock/stAte/Description/rEconcile]: </translation>
     </message>
     <message>
         <source>
 States to restore: </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Estados que se restablecen: </translation>
     </message>
     <message>
         <source>Enter states to change [On/Frozen/Lock/Plot/Newvpfreeze/Color/lineType/lineWeight/plotStyle/TRansparency]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique estados que se cambian [On/Frozen/Lock/Plot/Newvpfreeze/Color/lineType/lineWeight/plotStyle/TRansparency]: </translation>
     </message>
     <message>
         <source>
 No layer states.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+No hay estados de capas.</translation>
     </message>
     <message>
         <source>
 Layer states: </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Estados de capas: </translation>
     </message>
     <message>
         <source>Cannot find layer state &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se encuentra el estado de capas &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>Enter new layer state name: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nombre de nuevo estado de capas: </translation>
     </message>
     <message>
         <source>A drawing of this version keeps no layer states.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un dibujo de esta versión no guarda estados de capas.</translation>
     </message>
     <message>
         <source>Enter name of layer state to restore or [?]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nombre del estado de capas que se restablece o [?]: </translation>
     </message>
     <message>
         <source>Enter name of layer state to edit or [?]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nombre del estado de capas que se edita o [?]: </translation>
     </message>
     <message>
         <source>Enter name of layer state to rename or [?]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nombre del estado de capas que cambia de nombre o [?]: </translation>
     </message>
     <message>
         <source>Layer state &quot;%1&quot; already exists or cannot be one.</source>
-        <translation type="unfinished"></translation>
+        <translation>El estado de capas &quot;%1&quot; ya existe o no puede serlo.</translation>
     </message>
     <message>
         <source>Enter name of layer state to delete or [?]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nombre del estado de capas que se borra o [?]: </translation>
     </message>
     <message>
         <source>Enter name of file to import: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nombre del archivo que se importa: </translation>
     </message>
     <message>
         <source>No layer state was taken from &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha tomado ningún estado de capas de &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>
 Layer state &quot;%1&quot; imported.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Estado de capas &quot;%1&quot; importado.</translation>
     </message>
     <message>
         <source>Enter name of layer state to export or [?]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nombre del estado de capas que se exporta o [?]: </translation>
     </message>
     <message>
         <source>Enter name of file to export: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nombre del archivo de exportación: </translation>
     </message>
     <message>
         <source>Enter an option [?/Save/Restore/Edit/Name/Delete/Import/EXport]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique una opción [?/Save/Restore/Edit/Name/Delete/Import/EXport]: </translation>
     </message>
     <message>
         <source>
 Cannot read linetype file &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+No se puede leer el archivo de tipos de línea &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>
 Cannot read linetype file &quot;%1&quot;: %2 (the limit is %3 MB).</source>
-        <translation type="unfinished"></translation>
+        <translation>
+No se puede leer el archivo de tipos de línea &quot;%1&quot;: %2 (el límite es %3 MB).</translation>
     </message>
     <message>
         <source>
 Linetype &quot;%1&quot; not loaded: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Tipo de línea &quot;%1&quot; no cargado: %2.</translation>
     </message>
     <message>
         <source>
 Linetype &quot;%1&quot; not found.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+No se encuentra el tipo de línea &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>Enter an option [?/Load/Set]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique una opción [?/Load/Set]: </translation>
     </message>
     <message>
         <source>Specify linetype name: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise nombre de tipo de línea: </translation>
     </message>
     <message>
         <source>Enter linetype(s) to load: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique tipos de línea que se cargan: </translation>
     </message>
     <message>
         <source>Enter name of linetype file: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nombre de archivo de tipos de línea: </translation>
     </message>
     <message>
         <source>
 No matching linetypes found.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+No se han encontrado tipos de línea coincidentes.</translation>
     </message>
     <message>
         <source>Linetype &quot;%1&quot; is already loaded. Reload it? [Yes/No] &lt;Yes&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>El tipo de línea &quot;%1&quot; ya está cargado. ¿Volver a cargarlo? [Yes/No] &lt;Yes&gt;: </translation>
     </message>
     <message>
         <source>Enter setting for layers not isolated [Off/Lock and fade] &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique parámetro para las capas no aisladas [Off/Lock and fade] &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>In paper space viewport use [Vpfreeze/Off] &lt;Vpfreeze&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>En ventanas del espacio papel usar [Vpfreeze/Off] &lt;Vpfreeze&gt;: </translation>
     </message>
     <message>
         <source>Enter fade value (0-90) &lt;50&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique valor de difuminado (0-90) &lt;50&gt;: </translation>
     </message>
     <message>
         <source>
 Layer &quot;%1&quot; has been isolated.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Se ha aislado la capa &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>
 %1 layers have been isolated.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Se han aislado %1 capas.</translation>
     </message>
     <message>
         <source>
 Current setting: Hide layers, Viewports=Vpfreeze</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Parámetro actual: ocultar capas, ventanas=Vpfreeze</translation>
     </message>
     <message>
         <source>
 Current setting: Lock layers, Fade=50</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Parámetro actual: bloquear capas, difuminado=50</translation>
     </message>
     <message>
         <source>Select objects on the layer(s) to be isolated or [Settings]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Designe objetos de las capas que se aíslan o [Settings]: </translation>
     </message>
     <message>
         <source>Nothing was selected.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha designado nada.</translation>
     </message>
     <message>
         <source>
 No layers are isolated.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+No hay capas aisladas.</translation>
     </message>
     <message>
         <source>
 Layers isolated by LAYISO command have been restored.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Se han restablecido las capas aisladas con LAYISO.</translation>
     </message>
     <message>
         <source>
 There is no previous state of the layers.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+No hay un estado anterior de las capas.</translation>
     </message>
     <message>
         <source>
 Restored previous layer status.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Se ha restablecido el estado anterior de las capas.</translation>
     </message>
     <message>
         <source>Select an object on the layer to be frozen or [Settings/Undo]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Designe un objeto de la capa que se inutiliza o [Settings/Undo]: </translation>
     </message>
     <message>
         <source>
 Layer &quot;%1&quot; has been frozen.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Se ha inutilizado la capa &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>Select an object on the layer to be turned off or [Settings/Undo]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Designe un objeto de la capa que se desactiva o [Settings/Undo]: </translation>
     </message>
     <message>
         <source>
 Layer &quot;%1&quot; has been turned off.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Se ha desactivado la capa &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>Enter setting type for [Viewports/Block selection]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique tipo de parámetro para [Viewports/Block selection]: </translation>
     </message>
     <message>
         <source>In paper space viewport use [Vpfreeze/Freeze/Off] &lt;Vpfreeze&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>En ventanas del espacio papel usar [Vpfreeze/Freeze/Off] &lt;Vpfreeze&gt;: </translation>
     </message>
     <message>
         <source>Enter block selection nesting level [Block/Entity/None] &lt;Entity&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nivel de anidamiento para designar bloques [Block/Entity/None] &lt;Entity&gt;: </translation>
     </message>
     <message>
         <source>Layer &quot;%1&quot; is current, do you want to turn it off? [Yes/No] &lt;No&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>La capa &quot;%1&quot; es la actual. ¿Desea desactivarla? [Yes/No] &lt;No&gt;: </translation>
     </message>
     <message>
         <source>
 All layers have been turned on.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Se han activado todas las capas.</translation>
     </message>
     <message>
         <source>
 All layers have been thawed.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Se han reutilizado todas las capas.</translation>
     </message>
     <message>
         <source>Select an object on the layer to be locked: </source>
-        <translation type="unfinished"></translation>
+        <translation>Designe un objeto de la capa que se bloquea: </translation>
     </message>
     <message>
         <source>Select an object on the layer to be unlocked: </source>
-        <translation type="unfinished"></translation>
+        <translation>Designe un objeto de la capa que se desbloquea: </translation>
     </message>
     <message>
         <source>
 Layer &quot;%1&quot; has been locked.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Se ha bloqueado la capa &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>
 Layer &quot;%1&quot; has been unlocked.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Se ha desbloqueado la capa &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>
 One object changed to layer &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Un objeto pasado a la capa &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>
 %1 objects changed to layer &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 objetos pasados a la capa &quot;%2&quot;.</translation>
     </message>
     <message>
         <source>Select objects to be changed to the current layer: </source>
-        <translation type="unfinished"></translation>
+        <translation>Designe objetos que pasan a la capa actual: </translation>
     </message>
     <message>
         <source>Select objects to be changed: </source>
-        <translation type="unfinished"></translation>
+        <translation>Designe objetos que se cambian: </translation>
     </message>
     <message>
         <source>Select object on destination layer or [Name]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Designe objeto de la capa de destino o [Name]: </translation>
     </message>
     <message>
         <source>Enter layer name: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nombre de capa: </translation>
     </message>
     <message>
         <source>Select object whose layer will become current: </source>
-        <translation type="unfinished"></translation>
+        <translation>Designe objeto cuya capa será la actual: </translation>
     </message>
     <message>
         <source>
 %1 is now the current layer.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 es ahora la capa actual.</translation>
     </message>
     <message>
         <source>This command works through a viewport of a sheet: MSPACE goes into one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Este comando actúa a través de una ventana de presentación: MSPACE entra en una.</translation>
     </message>
     <message>
         <source>Select an object on the layer to be isolated in viewport or [Settings/Undo]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Designe un objeto de la capa que se aísla en la ventana o [Settings/Undo]: </translation>
     </message>
     <message>
         <source>
 Layer &quot;%1&quot; has been frozen in all viewports but the current one.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+La capa &quot;%1&quot; se ha inutilizado en todas las ventanas menos la actual.</translation>
     </message>
     <message>
         <source>
 Selected layers: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Capas designadas: %1.</translation>
     </message>
     <message>
         <source>Do you wish to continue? [Yes/No] &lt;No&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>¿Desea continuar? [Yes/No] &lt;No&gt;: </translation>
     </message>
     <message>
         <source>Select object on layer to delete or %1: </source>
-        <translation type="unfinished"></translation>
+        <translation>Designe objeto de la capa que se borra o %1: </translation>
     </message>
     <message>
         <source>Enter layer name to delete: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nombre de la capa que se borra: </translation>
     </message>
     <message>
         <source>All that is on layer(s) %1 is erased, and the layers are deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se borra todo lo que hay en las capas %1, y también las capas.</translation>
     </message>
     <message>
         <source>
 %1 layer(s) deleted with %2 object(s).</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 capa(s) borrada(s) con %2 objeto(s).</translation>
     </message>
     <message>
         <source>Select object on layer to merge or %1: </source>
-        <translation type="unfinished"></translation>
+        <translation>Designe objeto de la capa que se fusiona o %1: </translation>
     </message>
     <message>
         <source>Enter layer name to merge: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nombre de la capa que se fusiona: </translation>
     </message>
     <message>
         <source>Select object on target layer or [Name]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Designe objeto de la capa de destino o [Name]: </translation>
     </message>
     <message>
         <source>You are about to merge %1 layer(s) into layer &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Va a fusionar %1 capa(s) en la capa &quot;%2&quot;.</translation>
     </message>
     <message>
         <source>
 %1 layer(s) deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 capa(s) borrada(s).</translation>
     </message>
     <message>
         <source>Enter variable(s) to list &lt;*&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique variables que se listan &lt;*&gt;: </translation>
     </message>
     <message>
         <source> (read only)</source>
-        <translation type="unfinished"></translation>
+        <translation> (solo lectura)</translation>
     </message>
     <message>
         <source>
 No variable has such a name.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Ninguna variable tiene ese nombre.</translation>
     </message>
     <message>
         <source>Requires an integer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se requiere un entero.</translation>
     </message>
     <message>
         <source>Requires a number.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se requiere un número.</translation>
     </message>
     <message>
         <source>Requires a number between %1 and %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se requiere un número entre %1 y %2.</translation>
     </message>
     <message>
         <source>Cannot set %1 to that value.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede dar ese valor a %1.</translation>
     </message>
     <message>
         <source>Requires a point.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se requiere un punto.</translation>
     </message>
     <message>
         <source>Enter variable name or [?]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nombre de variable o [?]: </translation>
     </message>
     <message>
         <source>Unknown variable name &quot;%1&quot;. Type SETVAR ? for a list of variables.</source>
-        <translation type="unfinished"></translation>
+        <translation>Variable desconocida &quot;%1&quot;. Escriba SETVAR ? para ver una lista de variables.</translation>
     </message>
     <message>
         <source>
 %1 = %2 (read only)</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 = %2 (solo lectura)</translation>
     </message>
     <message>
         <source>Enter new value for %1 &lt;%2&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nuevo valor de %1 &lt;%2&gt;: </translation>
     </message>
     <message>
         <source>
 Active layouts:</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Presentaciones activas:</translation>
     </message>
     <message>
         <source>
 Layout: %1	Block name: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Presentación: %1	Nombre de bloque: %2.</translation>
     </message>
     <message>
         <source>
 %1 active layout(s) found.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 presentación(es) activa(s) encontrada(s).</translation>
     </message>
     <message>
         <source>Enter name of layout to copy: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nombre de la presentación que se copia: </translation>
     </message>
     <message>
         <source>Enter layout name for copy: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nombre de presentación para la copia: </translation>
     </message>
     <message>
         <source>Layout &quot;%1&quot; copied to &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Presentación &quot;%1&quot; copiada en &quot;%2&quot;.</translation>
     </message>
     <message>
         <source>Enter new Layout name: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nombre de nueva presentación: </translation>
     </message>
     <message>
         <source>Layout &quot;%1&quot; created.</source>
-        <translation type="unfinished"></translation>
+        <translation>Presentación &quot;%1&quot; creada.</translation>
     </message>
     <message>
         <source>Enter layout to rename: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique presentación que cambia de nombre: </translation>
     </message>
     <message>
         <source>Enter new layout name: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nuevo nombre de presentación: </translation>
     </message>
     <message>
         <source>Layout &quot;%1&quot; renamed to &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Presentación &quot;%1&quot; renombrada como &quot;%2&quot;.</translation>
     </message>
     <message>
         <source>Enter name of layout to delete: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nombre de la presentación que se borra: </translation>
     </message>
     <message>
         <source>Layout &quot;%1&quot; deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Presentación &quot;%1&quot; borrada.</translation>
     </message>
     <message>
         <source>Enter layout to make current: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique presentación que será la actual: </translation>
     </message>
     <message>
         <source>Enter layout to move: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique presentación que se desplaza: </translation>
     </message>
     <message>
         <source>Enter its place among the layouts: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique su lugar entre las presentaciones: </translation>
     </message>
     <message>
         <source>Layout &quot;%1&quot; moved.</source>
-        <translation type="unfinished"></translation>
+        <translation>Presentación &quot;%1&quot; desplazada.</translation>
     </message>
     <message>
         <source>Enter layout to save to template: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique presentación que se guarda en plantilla: </translation>
     </message>
     <message>
         <source>Enter layout option [Copy/Delete/New/Template/Rename/SAveas/Set/Move/?]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique opción de presentación [Copy/Delete/New/Template/Rename/SAveas/Set/Move/?]: </translation>
     </message>
     <message>
         <source>Layout &quot;%1&quot;: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Presentación &quot;%1&quot;: %2.</translation>
     </message>
     <message>
         <source>
 Layout &quot;%1&quot; created.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Presentación &quot;%1&quot; creada.</translation>
     </message>
     <message>
         <source> %1 of its entities could not be taken over.</source>
-        <translation type="unfinished"></translation>
+        <translation> No se han podido incorporar %1 de sus entidades.</translation>
     </message>
     <message>
         <source>Enter template file name: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nombre de archivo de plantilla: </translation>
     </message>
     <message>
         <source>Enter layout name(s): </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nombres de presentaciones: </translation>
     </message>
     <message>
         <source>Layout &quot;%1&quot; not found in %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se encuentra la presentación &quot;%1&quot; en %2.</translation>
     </message>
     <message>
         <source>Enter file name to save layout to: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nombre del archivo en el que se guarda la presentación: </translation>
     </message>
     <message>
         <source>Enter view name to save: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nombre de la vista que se guarda: </translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be the name of a view.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; no puede ser el nombre de una vista.</translation>
     </message>
     <message>
         <source>
 Specify opposite corner: </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Precise esquina opuesta: </translation>
     </message>
     <message>
         <source>The window has no area.</source>
-        <translation type="unfinished"></translation>
+        <translation>La ventana no tiene área.</translation>
     </message>
     <message>
         <source>Select viewport for view: </source>
-        <translation type="unfinished"></translation>
+        <translation>Designe ventana para la vista: </translation>
     </message>
     <message>
         <source>The view shows model space, and no viewport was chosen for it.</source>
-        <translation type="unfinished"></translation>
+        <translation>La vista muestra el espacio modelo y no se ha elegido ninguna ventana para ella.</translation>
     </message>
     <message>
         <source>Enter view name to restore: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nombre de la vista que se restablece: </translation>
     </message>
     <message>
         <source>Enter view name(s) to delete: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nombres de vistas que se borran: </translation>
     </message>
     <message>
         <source>
 No matching views found.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+No se han encontrado vistas coincidentes.</translation>
     </message>
     <message>
         <source>Enter view name(s) to list &lt;*&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nombres de vistas que se listan &lt;*&gt;: </translation>
     </message>
     <message>
         <source>Enter an option [Top/Bottom/Front/BAck/Left/Right] &lt;Top&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique una opción [Top/Bottom/Front/BAck/Left/Right] &lt;Top&gt;: </translation>
     </message>
     <message>
         <source>Save current UCS with named views? [Yes/No] &lt;Yes&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>¿Guardar el SCP actual con las vistas guardadas? [Yes/No] &lt;Yes&gt;: </translation>
     </message>
     <message>
         <source>
 Coordinate systems are not kept with views.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Los sistemas de coordenadas no se guardan con las vistas.</translation>
     </message>
     <message>
         <source>Enter an option [?/Delete/Orthographic/Restore/Save/Ucs/Window]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique una opción [?/Delete/Orthographic/Restore/Save/Ucs/Window]: </translation>
     </message>
     <message>
         <source>Enter an option [Current ucs/Ucs/World] &lt;Current&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique una opción [Current ucs/Ucs/World] &lt;Current&gt;: </translation>
     </message>
     <message>
         <source>Enter name of UCS or [?]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nombre de SCP o [?]: </translation>
     </message>
     <message>
         <source>Enter angle in XY plane from X axis: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique ángulo en el plano XY desde el eje X: </translation>
     </message>
     <message>
         <source>Enter angle from XY plane: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique ángulo desde el plano XY: </translation>
     </message>
     <message>
         <source>Specify a view point or [Rotate] &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise un punto de vista o [Rotate] &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>There is no direction from the target to itself.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay dirección del objetivo a sí mismo.</translation>
     </message>
     <message>
         <source>Enter name for new viewport configuration or [?]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nombre de nueva configuración de ventanas o [?]: </translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be the name of a viewport configuration.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; no puede ser el nombre de una configuración de ventanas.</translation>
     </message>
     <message>
         <source>Enter name of viewport configuration to restore or [?]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nombre de la configuración de ventanas que se restablece o [?]: </translation>
     </message>
     <message>
         <source>Cannot find viewport configuration &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se encuentra la configuración de ventanas &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>Enter name(s) of viewport configurations to delete &lt;none&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nombres de configuraciones de ventanas que se borran &lt;ninguna&gt;: </translation>
     </message>
     <message>
         <source>
 No matching viewport configurations found.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+No se han encontrado configuraciones de ventanas coincidentes.</translation>
     </message>
     <message>
         <source>Enter name(s) of viewport configuration(s) to list &lt;*&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nombres de configuraciones de ventanas que se listan &lt;*&gt;: </translation>
     </message>
     <message>
         <source>The screen is divided into too many viewports already.</source>
-        <translation type="unfinished"></translation>
+        <translation>La pantalla ya está dividida en demasiadas ventanas.</translation>
     </message>
     <message>
         <source>The window shows one view: the viewports to join cannot be picked.</source>
-        <translation type="unfinished"></translation>
+        <translation>La pantalla muestra una sola vista: no se pueden designar las ventanas que se unen.</translation>
     </message>
     <message>
         <source>Enter an option [Save/Restore/Delete/Join/SIngle/?/2/3/4] &lt;3&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique una opción [Save/Restore/Delete/Join/SIngle/?/2/3/4] &lt;3&gt;: </translation>
     </message>
     <message>
         <source>** Command not allowed in Model Tab **</source>
-        <translation type="unfinished"></translation>
+        <translation>** Comando no permitido en la ficha Modelo **</translation>
     </message>
     <message>
         <source>There are no active model space viewports.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ventanas del espacio modelo activas.</translation>
     </message>
     <message>
         <source>The viewport has no area.</source>
-        <translation type="unfinished"></translation>
+        <translation>La ventana no tiene área.</translation>
     </message>
     <message>
         <source>Enter viewport arrangement [Horizontal/Vertical] &lt;Vertical&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique disposición de ventanas [Horizontal/Vertical] &lt;Vertical&gt;: </translation>
     </message>
     <message>
         <source>Enter viewport arrangement [Horizontal/Vertical/Above/Below/Left/Right] &lt;Right&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique disposición de ventanas [Horizontal/Vertical/Above/Below/Left/Right] &lt;Right&gt;: </translation>
     </message>
     <message>
         <source>
 No viewport was chosen.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+No se ha elegido ninguna ventana.</translation>
     </message>
     <message>
         <source>
 Current osnap modes: </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Modos de referencia a objetos actuales: </translation>
     </message>
     <message>
         <source>Enter list of object snap modes: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique lista de modos de referencia a objetos: </translation>
     </message>
     <message>
         <source>Invalid object snap mode.</source>
-        <translation type="unfinished"></translation>
+        <translation>Modo de referencia a objetos no válido.</translation>
     </message>
     <message>
         <source>Object snap target height (1-50 pixels) &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Altura de la mira de referencia a objetos (1-50 píxeles) &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Value must be between 1 and 50.</source>
-        <translation type="unfinished"></translation>
+        <translation>El valor debe estar entre 1 y 50.</translation>
     </message>
     <message>
         <source>Specify new origin point</source>
-        <translation type="unfinished"></translation>
+        <translation>Precise nuevo punto de origen</translation>
     </message>
     <message>
         <source>Specify new origin point or [Zdepth] &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise nuevo punto de origen o [Zdepth] &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Specify Z depth &lt;0&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise profundidad Z &lt;0&gt;: </translation>
     </message>
     <message>
         <source>Specify point on positive portion of X-axis</source>
-        <translation type="unfinished"></translation>
+        <translation>Precise punto en la parte positiva del eje X</translation>
     </message>
     <message>
         <source>Specify point on positive-Y portion of the UCS XY plane</source>
-        <translation type="unfinished"></translation>
+        <translation>Precise punto en la parte Y positiva del plano XY del SCP</translation>
     </message>
     <message>
         <source>The three points lie on a line.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los tres puntos están en una recta.</translation>
     </message>
     <message>
         <source>Specify point on positive portion of Z-axis</source>
-        <translation type="unfinished"></translation>
+        <translation>Precise punto en la parte positiva del eje Z</translation>
     </message>
     <message>
         <source>The Z axis has no direction.</source>
-        <translation type="unfinished"></translation>
+        <translation>El eje Z no tiene dirección.</translation>
     </message>
     <message>
         <source>Specify rotation angle about %1 axis &lt;%2&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise ángulo de rotación alrededor del eje %1 &lt;%2&gt;: </translation>
     </message>
     <message>
         <source>Select object to align UCS: </source>
-        <translation type="unfinished"></translation>
+        <translation>Designe objeto con el que se alinea el SCP: </translation>
     </message>
     <message>
         <source>No UCS can be aligned with this object.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ningún SCP se puede alinear con este objeto.</translation>
     </message>
     <message>
         <source>Enter name to save current UCS or [?]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nombre con el que se guarda el SCP actual o [?]: </translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be the name of a UCS.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; no puede ser el nombre de un SCP.</translation>
     </message>
     <message>
         <source>UCS &quot;%1&quot; already exists. Replace it? [Yes/No] &lt;No&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>El SCP &quot;%1&quot; ya existe. ¿Reemplazarlo? [Yes/No] &lt;No&gt;: </translation>
     </message>
     <message>
         <source>Enter name of UCS to restore or [?]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nombre del SCP que se restablece o [?]: </translation>
     </message>
     <message>
         <source>Enter UCS name(s) to delete &lt;none&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nombres de SCP que se borran &lt;ninguno&gt;: </translation>
     </message>
     <message>
         <source>
 No matching UCS names found.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+No se han encontrado nombres de SCP coincidentes.</translation>
     </message>
     <message>
         <source>
 Current UCS:  %1</source>
-        <translation type="unfinished"></translation>
+        <translation>
+SCP actual:  %1</translation>
     </message>
     <message>
         <source>Enter UCS name(s) to list &lt;*&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nombres de SCP que se listan &lt;*&gt;: </translation>
     </message>
     <message>
         <source>&quot;%1&quot;  Origin = &lt;%2&gt;, X = &lt;%3&gt;, Y = &lt;%4&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot;  Origen = &lt;%2&gt;, X = &lt;%3&gt;, Y = &lt;%4&gt;</translation>
     </message>
     <message>
         <source>Faces of solids cannot be chosen here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aquí no se pueden elegir caras de sólidos.</translation>
     </message>
     <message>
         <source>
 No previous coordinate system saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+No hay un sistema de coordenadas anterior guardado.</translation>
     </message>
     <message>
         <source>Specify point on X-axis or &lt;accept&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise punto en el eje X o &lt;aceptar&gt;: </translation>
     </message>
     <message>
         <source>Specify point on the XY plane or &lt;accept&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise punto en el plano XY o &lt;aceptar&gt;: </translation>
     </message>
     <message>
         <source>Specify origin of new UCS or [ZAxis/3point/OBject/Face/View/X/Y/Z] &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise origen del nuevo SCP o [ZAxis/3point/OBject/Face/View/X/Y/Z] &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>
 Current ucs name:  %1</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Nombre del SCP actual:  %1</translation>
     </message>
     <message>
         <source>Specify origin of UCS or [Face/NAmed/OBject/Previous/View/World/X/Y/Z/ZAxis] &lt;World&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise origen del SCP o [Face/NAmed/OBject/Previous/View/World/X/Y/Z/ZAxis] &lt;World&gt;: </translation>
     </message>
     <message>
         <source>Enter an option [Restore/Save/Delete/?]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique una opción [Restore/Save/Delete/?]: </translation>
     </message>
     <message>
         <source>Requires a scale factor, two corners or an option keyword.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se requiere un factor de escala, dos esquinas o una opción.</translation>
     </message>
     <message>
         <source>A scale of the sheet is for viewports: MSPACE goes into one.</source>
-        <translation type="unfinished"></translation>
+        <translation>La escala de la presentación es para ventanas: MSPACE entra en una.</translation>
     </message>
     <message>
         <source>
 Enter magnification or height &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Indique ampliación o altura &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Requires a height, or a magnification (nX).</source>
-        <translation type="unfinished"></translation>
+        <translation>Se requiere una altura o una ampliación (nX).</translation>
     </message>
     <message>
         <source>Specify center point: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise punto central: </translation>
     </message>
     <message>
         <source>Specify lower left corner point: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise esquina inferior izquierda: </translation>
     </message>
     <message>
         <source>Enter a scale factor (nX or nXP): </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique factor de escala (nX o nXP): </translation>
     </message>
     <message>
         <source>There is no dynamic zoom: use the window&apos;s wheel.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay zoom dinámico: use la rueda del ratón.</translation>
     </message>
     <message>
         <source>
 Specify corner of window, enter a scale factor (nX or nXP), or [All/Center/Dynamic/Extents/Previous/Scale/Window/Object] &lt;real time&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Precise esquina de ventana, indique factor de escala (nX o nXP), o [All/Center/Dynamic/Extents/Previous/Scale/Window/Object] &lt;tiempo real&gt;: </translation>
     </message>
     <message>
         <source>
 No previous view saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+No hay una vista anterior guardada.</translation>
     </message>
     <message>
         <source>Specify base point or displacement: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise punto base o desplazamiento: </translation>
     </message>
     <message>
         <source>Specify first corner or [Fit] &lt;Fit&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise primera esquina o [Fit] &lt;Fit&gt;: </translation>
     </message>
     <message>
         <source>Enter viewport configuration name or [?] &lt;*Active&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nombre de configuración de ventanas o [?] &lt;*Active&gt;: </translation>
     </message>
     <message>
         <source>A drawing of this version has no viewports with other outlines than rectangles.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un dibujo de esta versión no tiene ventanas con otro contorno que el rectángulo.</translation>
     </message>
     <message>
         <source>A viewport is bounded by a closed polyline, circle, ellipse, spline or region.</source>
-        <translation type="unfinished"></translation>
+        <translation>Una ventana se delimita con una polilínea cerrada, un círculo, una elipse, una spline o una región.</translation>
     </message>
     <message>
         <source>Select object to clip viewport: </source>
-        <translation type="unfinished"></translation>
+        <translation>Designe objeto que delimita la ventana: </translation>
     </message>
     <message>
         <source>A viewport has three corners at least.</source>
-        <translation type="unfinished"></translation>
+        <translation>Una ventana tiene al menos tres esquinas.</translation>
     </message>
     <message>
         <source>Viewport View Locking [ON/OFF]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Bloqueo de vista de la ventana [ON/OFF]: </translation>
     </message>
     <message>
         <source>Shade plot? [As displayed/Wireframe/Hidden/Rendered] &lt;As displayed&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>¿Trazado sombreado? [As displayed/Wireframe/Hidden/Rendered] &lt;As displayed&gt;: </translation>
     </message>
     <message>
         <source>Specify corner of viewport or [ON/OFF/Fit/Shadeplot/Lock/Object/Polygonal/Restore/2/3/4] &lt;Fit&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Precise esquina de la ventana o [ON/OFF/Fit/Shadeplot/Lock/Object/Polygonal/Restore/2/3/4] &lt;Fit&gt;: </translation>
     </message>
     <message>
         <source>
 Already in model space.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Ya se está en el espacio modelo.</translation>
     </message>
     <message>
         <source>
 Already in paper space.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Ya se está en el espacio papel.</translation>
     </message>
     <message>
         <source>Enter an option [All/Select/Current/eXcept current] &lt;Current&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique una opción [All/Select/Current/eXcept current] &lt;Current&gt;: </translation>
     </message>
     <message>
         <source>Enter name(s) of new layers frozen in all viewports: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nombres de capas nuevas inutilizadas en todas las ventanas: </translation>
     </message>
     <message>
         <source>Enter layer name(s) to change viewport visibility: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nombres de capas cuya visibilidad en ventanas se cambia: </translation>
     </message>
     <message>
         <source>Enter a viewport visibility option [Frozen/Thawed] &lt;Thawed&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique una opción de visibilidad en ventanas [Frozen/Thawed] &lt;Thawed&gt;: </translation>
     </message>
     <message>
         <source>Select a viewport: </source>
-        <translation type="unfinished"></translation>
+        <translation>Designe una ventana: </translation>
     </message>
     <message>
         <source>No viewport was chosen.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha elegido ninguna ventana.</translation>
     </message>
     <message>
         <source>
 Layers currently frozen in viewport %1:</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Capas inutilizadas en la ventana %1:</translation>
     </message>
     <message>
         <source>Enter layer name(s) to freeze or &lt;select objects&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nombres de capas que se inutilizan o &lt;designar objetos&gt;: </translation>
     </message>
     <message>
         <source>Enter layer name(s) to thaw: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nombres de capas que se reutilizan: </translation>
     </message>
     <message>
         <source>Enter layer name(s) to reset: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique nombres de capas que se restablecen: </translation>
     </message>
     <message>
         <source>Layers have the same properties in all viewports here: nothing was changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aquí las capas tienen las mismas propiedades en todas las ventanas: no se ha cambiado nada.</translation>
     </message>
     <message>
         <source>Enter an option [?/Color/Ltype/LWeight/TRansparency/Freeze/Thaw/Reset/Newfrz/Vpvisdflt]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Indique una opción [?/Color/Ltype/LWeight/TRansparency/Freeze/Thaw/Reset/Newfrz/Vpvisdflt]: </translation>
     </message>
 </context>
 <context>
     <name>Comparing</name>
     <message>
         <source>dates and editing time: $TD...</source>
-        <translation type="unfinished"></translation>
+        <translation>fechas y tiempo de edición: $TD...</translation>
     </message>
     <message>
         <source>the next free handle: $HANDSEED</source>
-        <translation type="unfinished"></translation>
+        <translation>el siguiente identificador libre: $HANDSEED</translation>
     </message>
     <message>
         <source>names of the file and of who saved it: $VERSIONGUID, $LASTSAVEDBY, ...</source>
-        <translation type="unfinished"></translation>
+        <translation>nombres del archivo y de quien lo guardó: $VERSIONGUID, $LASTSAVEDBY, ...</translation>
     </message>
     <message>
         <source>extents, which follow from the entities: $EXTMIN, ...</source>
-        <translation type="unfinished"></translation>
+        <translation>extensión, que se deduce de las entidades: $EXTMIN, ...</translation>
     </message>
     <message>
         <source>which objects want to hear of changes: {ACAD_REACTORS</source>
-        <translation type="unfinished"></translation>
+        <translation>qué objetos quieren saber de los cambios: {ACAD_REACTORS</translation>
     </message>
     <message>
         <source>version and code page: $ACADVER, $DWGCODEPAGE</source>
-        <translation type="unfinished"></translation>
+        <translation>versión y página de códigos: $ACADVER, $DWGCODEPAGE</translation>
     </message>
     <message>
         <source>what windows showed last: the VPORT table, $VIEWCTR, ...</source>
-        <translation type="unfinished"></translation>
+        <translation>lo último que mostraron las ventanas: la tabla VPORT, $VIEWCTR, ...</translation>
     </message>
     <message>
         <source>all variables of the header</source>
-        <translation type="unfinished"></translation>
+        <translation>todas las variables de cabecera</translation>
     </message>
     <message>
         <source>the classes section</source>
-        <translation type="unfinished"></translation>
+        <translation>la sección de clases</translation>
     </message>
     <message>
         <source>all that is not drawn: dictionaries, layouts, ...</source>
-        <translation type="unfinished"></translation>
+        <translation>todo lo que no se dibuja: diccionarios, presentaciones, ...</translation>
     </message>
     <message>
         <source>extended data</source>
-        <translation type="unfinished"></translation>
+        <translation>datos extendidos</translation>
     </message>
     <message>
         <source>which entity is drawn over which</source>
-        <translation type="unfinished"></translation>
+        <translation>qué entidad se dibuja sobre cuál</translation>
     </message>
 </context>
 <context>
     <name>DrawingStatus</name>
     <message>
         <source>DXF %1, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>DXF %1, %2</translation>
     </message>
     <message>
         <source>model space</source>
-        <translation type="unfinished"></translation>
+        <translation>espacio modelo</translation>
     </message>
     <message>
         <source>paper space</source>
-        <translation type="unfinished"></translation>
+        <translation>espacio papel</translation>
     </message>
     <message>
         <source>All entities drawn</source>
-        <translation type="unfinished"></translation>
+        <translation>Todas las entidades dibujadas</translation>
     </message>
 </context>
 <context>
     <name>DrawingTexts</name>
     <message>
         <source>&quot;%1&quot; cannot be the name of a block</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; no puede ser el nombre de un bloque</translation>
     </message>
     <message>
         <source>there is no such block</source>
-        <translation type="unfinished"></translation>
+        <translation>no existe tal bloque</translation>
     </message>
     <message>
         <source>%1 cannot be exploded.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 no se puede descomponer.</translation>
     </message>
     <message>
         <source>Block &quot;%1&quot; is missing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Falta el bloque &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>An external reference cannot be exploded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Una referencia externa no se puede descomponer.</translation>
     </message>
     <message>
         <source>Block &quot;%1&quot; may not be exploded.</source>
-        <translation type="unfinished"></translation>
+        <translation>El bloque &quot;%1&quot; no admite ser descompuesto.</translation>
     </message>
     <message>
         <source>The scales of block &quot;%1&quot; differ.</source>
-        <translation type="unfinished"></translation>
+        <translation>Las escalas del bloque &quot;%1&quot; son distintas.</translation>
     </message>
     <message>
         <source>Too many entities would come of it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Resultarían demasiadas entidades.</translation>
     </message>
     <message>
         <source>A drawing of this version has one sheet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un dibujo de esta versión tiene una sola presentación.</translation>
     </message>
     <message>
         <source>A layout cannot be called &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Una presentación no puede llamarse &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>Layout &quot;%1&quot; already exists.</source>
-        <translation type="unfinished"></translation>
+        <translation>La presentación &quot;%1&quot; ya existe.</translation>
     </message>
     <message>
         <source>Model space cannot be copied.</source>
-        <translation type="unfinished"></translation>
+        <translation>El espacio modelo no se puede copiar.</translation>
     </message>
     <message>
         <source>Model space cannot be moved.</source>
-        <translation type="unfinished"></translation>
+        <translation>El espacio modelo no se puede desplazar.</translation>
     </message>
     <message>
         <source>Model space cannot be renamed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Al espacio modelo no se le puede cambiar el nombre.</translation>
     </message>
     <message>
         <source>Layout &quot;%1&quot; has no object in this drawing that a name could be given to.</source>
-        <translation type="unfinished"></translation>
+        <translation>La presentación &quot;%1&quot; no tiene en este dibujo ningún objeto al que dar un nombre.</translation>
     </message>
     <message>
         <source>Model space cannot be deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>El espacio modelo no se puede borrar.</translation>
     </message>
     <message>
         <source>The last layout cannot be deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>La última presentación no se puede borrar.</translation>
     </message>
     <message>
         <source>Cannot find layer &quot;%1&quot;.</source>
@@ -5500,31 +5646,31 @@ Layers currently frozen in viewport %1:</source>
     </message>
     <message>
         <source>Layer &quot;%1&quot; is needed by every drawing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Todo dibujo necesita la capa &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>Layer &quot;%1&quot; is the current layer.</source>
-        <translation type="unfinished"></translation>
+        <translation>La capa &quot;%1&quot; es la capa actual.</translation>
     </message>
     <message>
         <source>Layer &quot;%1&quot; belongs to an external reference.</source>
-        <translation type="unfinished"></translation>
+        <translation>La capa &quot;%1&quot; pertenece a una referencia externa.</translation>
     </message>
     <message>
         <source>A drawing of this version keeps no page setup.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un dibujo de esta versión no guarda configuración de página.</translation>
     </message>
     <message>
         <source>Layer &quot;%1&quot; cannot be renamed.</source>
-        <translation type="unfinished"></translation>
+        <translation>A la capa &quot;%1&quot; no se le puede cambiar el nombre.</translation>
     </message>
     <message>
         <source>Layer &quot;%1&quot; already exists.</source>
-        <translation type="unfinished"></translation>
+        <translation>La capa &quot;%1&quot; ya existe.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be the name of a layer.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; no puede ser el nombre de una capa.</translation>
     </message>
     <message>
         <source>Block</source>
@@ -5532,55 +5678,55 @@ Layers currently frozen in viewport %1:</source>
     </message>
     <message>
         <source>block</source>
-        <translation type="unfinished"></translation>
+        <translation>bloque</translation>
     </message>
     <message>
         <source>Dimension style</source>
-        <translation type="unfinished"></translation>
+        <translation>Estilo de cota</translation>
     </message>
     <message>
         <source>dimension style</source>
-        <translation type="unfinished"></translation>
+        <translation>estilo de cota</translation>
     </message>
     <message>
         <source>Linetype</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipo de línea</translation>
     </message>
     <message>
         <source>linetype</source>
-        <translation type="unfinished"></translation>
+        <translation>tipo de línea</translation>
     </message>
     <message>
         <source>Text style</source>
-        <translation type="unfinished"></translation>
+        <translation>Estilo de texto</translation>
     </message>
     <message>
         <source>text style</source>
-        <translation type="unfinished"></translation>
+        <translation>estilo de texto</translation>
     </message>
     <message>
         <source>UCS</source>
-        <translation type="unfinished"></translation>
+        <translation>SCP</translation>
     </message>
     <message>
         <source>ucs</source>
-        <translation type="unfinished"></translation>
+        <translation>scp</translation>
     </message>
     <message>
         <source>View</source>
-        <translation type="unfinished"></translation>
+        <translation>Vista</translation>
     </message>
     <message>
         <source>view</source>
-        <translation type="unfinished"></translation>
+        <translation>vista</translation>
     </message>
     <message>
         <source>Viewport configuration</source>
-        <translation type="unfinished"></translation>
+        <translation>Configuración de ventanas</translation>
     </message>
     <message>
         <source>viewport configuration</source>
-        <translation type="unfinished"></translation>
+        <translation>configuración de ventanas</translation>
     </message>
     <message>
         <source>Cannot find %1 &quot;%2&quot;.</source>
@@ -5588,179 +5734,179 @@ Layers currently frozen in viewport %1:</source>
     </message>
     <message>
         <source>%1 &quot;%2&quot; cannot be renamed.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 &quot;%2&quot; no puede cambiar de nombre.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be a name.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; no puede ser un nombre.</translation>
     </message>
     <message>
         <source>%1 &quot;%2&quot; already exists.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 &quot;%2&quot; ya existe.</translation>
     </message>
     <message>
         <source>Registered applications cannot be renamed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Las aplicaciones registradas no pueden cambiar de nombre.</translation>
     </message>
     <message>
         <source>Cannot find &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se encuentra &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; already exists.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; ya existe.</translation>
     </message>
     <message>
         <source>a drawing of this version has one sheet only</source>
-        <translation type="unfinished"></translation>
+        <translation>un dibujo de esta versión tiene una sola presentación</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be the name of a sheet</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; no puede ser el nombre de una presentación</translation>
     </message>
     <message>
         <source>there is no sheet &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>no hay ninguna presentación &quot;%1&quot;</translation>
     </message>
     <message>
         <source>there is a sheet &quot;%1&quot; already</source>
-        <translation type="unfinished"></translation>
+        <translation>ya hay una presentación &quot;%1&quot;</translation>
     </message>
     <message>
         <source>blocks</source>
-        <translation type="unfinished"></translation>
+        <translation>bloques</translation>
     </message>
     <message>
         <source>detail view styles</source>
-        <translation type="unfinished"></translation>
+        <translation>estilos de vista en detalle</translation>
     </message>
     <message>
         <source>detail view style</source>
-        <translation type="unfinished"></translation>
+        <translation>estilo de vista en detalle</translation>
     </message>
     <message>
         <source>dimension styles</source>
-        <translation type="unfinished"></translation>
+        <translation>estilos de cota</translation>
     </message>
     <message>
         <source>groups</source>
-        <translation type="unfinished"></translation>
+        <translation>grupos</translation>
     </message>
     <message>
         <source>group</source>
-        <translation type="unfinished"></translation>
+        <translation>grupo</translation>
     </message>
     <message>
         <source>layers</source>
-        <translation type="unfinished"></translation>
+        <translation>capas</translation>
     </message>
     <message>
         <source>layer</source>
-        <translation type="unfinished"></translation>
+        <translation>capa</translation>
     </message>
     <message>
         <source>linetypes</source>
-        <translation type="unfinished"></translation>
+        <translation>tipos de línea</translation>
     </message>
     <message>
         <source>materials</source>
-        <translation type="unfinished"></translation>
+        <translation>materiales</translation>
     </message>
     <message>
         <source>material</source>
-        <translation type="unfinished"></translation>
+        <translation>material</translation>
     </message>
     <message>
         <source>multileader styles</source>
-        <translation type="unfinished"></translation>
+        <translation>estilos de directriz múltiple</translation>
     </message>
     <message>
         <source>multileader style</source>
-        <translation type="unfinished"></translation>
+        <translation>estilo de directriz múltiple</translation>
     </message>
     <message>
         <source>plot styles</source>
-        <translation type="unfinished"></translation>
+        <translation>estilos de trazado</translation>
     </message>
     <message>
         <source>plot style</source>
-        <translation type="unfinished"></translation>
+        <translation>estilo de trazado</translation>
     </message>
     <message>
         <source>shape files</source>
-        <translation type="unfinished"></translation>
+        <translation>archivos de formas</translation>
     </message>
     <message>
         <source>shape file</source>
-        <translation type="unfinished"></translation>
+        <translation>archivo de formas</translation>
     </message>
     <message>
         <source>text styles</source>
-        <translation type="unfinished"></translation>
+        <translation>estilos de texto</translation>
     </message>
     <message>
         <source>multiline styles</source>
-        <translation type="unfinished"></translation>
+        <translation>estilos de línea múltiple</translation>
     </message>
     <message>
         <source>multiline style</source>
-        <translation type="unfinished"></translation>
+        <translation>estilo de línea múltiple</translation>
     </message>
     <message>
         <source>section view styles</source>
-        <translation type="unfinished"></translation>
+        <translation>estilos de vista en sección</translation>
     </message>
     <message>
         <source>section view style</source>
-        <translation type="unfinished"></translation>
+        <translation>estilo de vista en sección</translation>
     </message>
     <message>
         <source>table styles</source>
-        <translation type="unfinished"></translation>
+        <translation>estilos de tabla</translation>
     </message>
     <message>
         <source>table style</source>
-        <translation type="unfinished"></translation>
+        <translation>estilo de tabla</translation>
     </message>
     <message>
         <source>visual styles</source>
-        <translation type="unfinished"></translation>
+        <translation>estilos visuales</translation>
     </message>
     <message>
         <source>visual style</source>
-        <translation type="unfinished"></translation>
+        <translation>estilo visual</translation>
     </message>
     <message>
         <source>registered applications</source>
-        <translation type="unfinished"></translation>
+        <translation>aplicaciones registradas</translation>
     </message>
     <message>
         <source>registered application</source>
-        <translation type="unfinished"></translation>
+        <translation>aplicación registrada</translation>
     </message>
     <message>
         <source>no record begins here</source>
-        <translation type="unfinished"></translation>
+        <translation>aquí no empieza ningún registro</translation>
     </message>
     <message>
         <source>the file goes on behind it</source>
-        <translation type="unfinished"></translation>
+        <translation>el archivo continúa detrás</translation>
     </message>
     <message>
         <source>the file ends within it</source>
-        <translation type="unfinished"></translation>
+        <translation>el archivo termina dentro</translation>
     </message>
     <message>
         <source>group code expected, found %1</source>
-        <translation type="unfinished"></translation>
+        <translation>se esperaba un código de grupo y se encontró %1</translation>
     </message>
     <message>
         <source>type of a record expected, found %1</source>
-        <translation type="unfinished"></translation>
+        <translation>se esperaba el tipo de un registro y se encontró %1</translation>
     </message>
     <message>
         <source>group %1 cannot be %2</source>
-        <translation type="unfinished"></translation>
+        <translation>el grupo %1 no puede ser %2</translation>
     </message>
     <message>
         <source>line %1: %2</source>
@@ -5768,71 +5914,71 @@ Layers currently frozen in viewport %1:</source>
     </message>
     <message>
         <source>%1 has a value for group %2 that the binary form has no room for: &quot;%3&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 tiene un valor del grupo %2 que no cabe en la forma binaria: &quot;%3&quot;</translation>
     </message>
     <message>
         <source>%1 with the handle %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 con el identificador %2</translation>
     </message>
     <message>
         <source>it names no version</source>
-        <translation type="unfinished"></translation>
+        <translation>no indica ninguna versión</translation>
     </message>
     <message>
         <source>its handle was another record&apos;s, it has a new one</source>
-        <translation type="unfinished"></translation>
+        <translation>su identificador era de otro registro, tiene uno nuevo</translation>
     </message>
     <message>
         <source>its handle was none, it has a new one</source>
-        <translation type="unfinished"></translation>
+        <translation>su identificador no era tal, tiene uno nuevo</translation>
     </message>
     <message>
         <source>it has no name</source>
-        <translation type="unfinished"></translation>
+        <translation>no tiene nombre</translation>
     </message>
     <message>
         <source>it has no value</source>
-        <translation type="unfinished"></translation>
+        <translation>no tiene valor</translation>
     </message>
     <message>
         <source>it has more than one value, of which the first was taken</source>
-        <translation type="unfinished"></translation>
+        <translation>tiene más de un valor, del que se tomó el primero</translation>
     </message>
     <message>
         <source>it leads to all other objects, and is the first of them now</source>
-        <translation type="unfinished"></translation>
+        <translation>conduce a todos los demás objetos, y ahora es el primero de ellos</translation>
     </message>
     <message>
         <source>the one that leads to all other objects was lost</source>
-        <translation type="unfinished"></translation>
+        <translation>se perdió el que conduce a todos los demás objetos</translation>
     </message>
     <message>
         <source>its text was no UTF-8 and was taken for %1</source>
-        <translation type="unfinished"></translation>
+        <translation>su texto no era UTF-8 y se tomó por %1</translation>
     </message>
     <message>
         <source>the one of block %1 was lost</source>
-        <translation type="unfinished"></translation>
+        <translation>se perdió el del bloque %1</translation>
     </message>
     <message>
         <source>the file is larger than 4 GB</source>
-        <translation type="unfinished"></translation>
+        <translation>el archivo ocupa más de 4 GB</translation>
     </message>
     <message>
         <source>nothing in this file is a part of a drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>nada de este archivo forma parte de un dibujo</translation>
     </message>
     <message>
         <source>%1: this is a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: esto es una carpeta</translation>
     </message>
     <message>
         <source> (--recover opens what is sound of it)</source>
-        <translation type="unfinished"></translation>
+        <translation> (--recover abre lo que está sano)</translation>
     </message>
     <message>
         <source>%1 times </source>
-        <translation type="unfinished"></translation>
+        <translation>%1 veces </translation>
     </message>
     <message>
         <source>and %1 more</source>
@@ -5840,351 +5986,351 @@ Layers currently frozen in viewport %1:</source>
     </message>
     <message>
         <source>the file is sound, nothing was dropped</source>
-        <translation type="unfinished"></translation>
+        <translation>el archivo está sano, no se ha descartado nada</translation>
     </message>
     <message>
         <source>recovered: %1 dropped%2, %3 mended, %4 added</source>
-        <translation type="unfinished"></translation>
+        <translation>recuperado: %1 descartados%2, %3 reparados, %4 añadidos</translation>
     </message>
     <message>
         <source>what was written does not read back the same</source>
-        <translation type="unfinished"></translation>
+        <translation>lo escrito no se vuelve a leer igual</translation>
     </message>
     <message>
         <source>what would be written could not be opened again (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>lo que se escribiría no se podría volver a abrir (%1)</translation>
     </message>
     <message>
         <source>what would be written could not be opened the same: see %1 of handle %2</source>
-        <translation type="unfinished"></translation>
+        <translation>lo que se escribiría no se abriría igual: véase %1 del identificador %2</translation>
     </message>
     <message>
         <source>%1: the file cannot be written: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: no se puede escribir el archivo: %2</translation>
     </message>
     <message>
         <source>%1: %2; the old file was kept</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2; se ha conservado el archivo antiguo</translation>
     </message>
     <message>
         <source>%1: this program cannot write DWG files; give the file a name ending in .dxf</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: este programa no puede escribir archivos DWG; dé al archivo un nombre acabado en .dxf</translation>
     </message>
     <message>
         <source>header variable</source>
-        <translation type="unfinished"></translation>
+        <translation>variable de cabecera</translation>
     </message>
     <message>
         <source>it stands outside of the sections</source>
-        <translation type="unfinished"></translation>
+        <translation>está fuera de las secciones</translation>
     </message>
     <message>
         <source>its name is none, and what it holds tells another</source>
-        <translation type="unfinished"></translation>
+        <translation>su nombre no es tal, y su contenido revela otro</translation>
     </message>
     <message>
         <source>it was there before, and goes on here</source>
-        <translation type="unfinished"></translation>
+        <translation>ya estaba antes, y continúa aquí</translation>
     </message>
     <message>
         <source>it stands outside of its section, and was put into %1</source>
-        <translation type="unfinished"></translation>
+        <translation>está fuera de su sección, y se ha puesto en %1</translation>
     </message>
     <message>
         <source>no table is open</source>
-        <translation type="unfinished"></translation>
+        <translation>no hay ninguna tabla abierta</translation>
     </message>
     <message>
         <source>it stands outside of the tables</source>
-        <translation type="unfinished"></translation>
+        <translation>está fuera de las tablas</translation>
     </message>
     <message>
         <source>table entry</source>
-        <translation type="unfinished"></translation>
+        <translation>entrada de tabla</translation>
     </message>
     <message>
         <source>it stands outside of its table</source>
-        <translation type="unfinished"></translation>
+        <translation>está fuera de su tabla</translation>
     </message>
     <message>
         <source>no block is open</source>
-        <translation type="unfinished"></translation>
+        <translation>no hay ningún bloque abierto</translation>
     </message>
     <message>
         <source>it had no name, and is %1 now</source>
-        <translation type="unfinished"></translation>
+        <translation>no tenía nombre, y ahora es %1</translation>
     </message>
     <message>
         <source>the one for the entities here was lost; it is %1 now</source>
-        <translation type="unfinished"></translation>
+        <translation>se perdió el de las entidades de aquí; ahora es %1</translation>
     </message>
     <message>
         <source>nothing is open that it could end</source>
-        <translation type="unfinished"></translation>
+        <translation>no hay nada abierto que pudiera terminar</translation>
     </message>
     <message>
         <source>what it is a part of is not there</source>
-        <translation type="unfinished"></translation>
+        <translation>aquello de lo que forma parte no está</translation>
     </message>
     <message>
         <source>it was missing</source>
-        <translation type="unfinished"></translation>
+        <translation>faltaba</translation>
     </message>
     <message>
         <source>no section is open</source>
-        <translation type="unfinished"></translation>
+        <translation>no hay ninguna sección abierta</translation>
     </message>
     <message>
         <source>the drawing looks like one of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>el dibujo parece de %1</translation>
     </message>
     <message>
         <source>%1: this is not a file</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: esto no es un archivo</translation>
     </message>
     <message>
         <source>%1: drawings of this version have no room for such data</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: los dibujos de esta versión no tienen sitio para esos datos</translation>
     </message>
     <message>
         <source>%1: %2 stands for something else in this drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2 significa otra cosa en este dibujo</translation>
     </message>
     <message>
         <source>%1: the file is larger than 4 GB</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: el archivo ocupa más de 4 GB</translation>
     </message>
     <message>
         <source>the drawing has no paper space</source>
-        <translation type="unfinished"></translation>
+        <translation>el dibujo no tiene espacio papel</translation>
     </message>
     <message>
         <source>POLYLINE: its vertices are missing</source>
-        <translation type="unfinished"></translation>
+        <translation>POLYLINE: faltan sus vértices</translation>
     </message>
     <message>
         <source>%1: an entity of this type has no parts</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: una entidad de este tipo no tiene partes</translation>
     </message>
     <message>
         <source>%1: %2 expected, found %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: se esperaba %2 y se encontró %3</translation>
     </message>
     <message>
         <source>the entity is erased</source>
-        <translation type="unfinished"></translation>
+        <translation>la entidad está borrada</translation>
     </message>
     <message>
         <source>a number</source>
-        <translation type="unfinished"></translation>
+        <translation>un número</translation>
     </message>
     <message>
         <source>a handle</source>
-        <translation type="unfinished"></translation>
+        <translation>un identificador</translation>
     </message>
     <message>
         <source>a text</source>
-        <translation type="unfinished"></translation>
+        <translation>un texto</translation>
     </message>
     <message>
         <source>group 0 (the type) is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>falta el grupo 0 (el tipo)</translation>
     </message>
     <message>
         <source>this is no entity</source>
-        <translation type="unfinished"></translation>
+        <translation>esto no es una entidad</translation>
     </message>
     <message>
         <source>this type is not known, and its subclass markers (group 100) are missing</source>
-        <translation type="unfinished"></translation>
+        <translation>este tipo no se conoce, y faltan sus marcas de subclase (grupo 100)</translation>
     </message>
     <message>
         <source>a drawing of this version has no such entity</source>
-        <translation type="unfinished"></translation>
+        <translation>un dibujo de esta versión no tiene tal entidad</translation>
     </message>
     <message>
         <source>group %1 is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>falta el grupo %1</translation>
     </message>
     <message>
         <source>group %1 is not a point</source>
-        <translation type="unfinished"></translation>
+        <translation>el grupo %1 no es un punto</translation>
     </message>
     <message>
         <source>group %1 is not %2</source>
-        <translation type="unfinished"></translation>
+        <translation>el grupo %1 no es %2</translation>
     </message>
     <message>
         <source>linetype %1 is not in the drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>el tipo de línea %1 no está en el dibujo</translation>
     </message>
     <message>
         <source>text style %1 is not in the drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>el estilo de texto %1 no está en el dibujo</translation>
     </message>
     <message>
         <source>block %1 is not in the drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>el bloque %1 no está en el dibujo</translation>
     </message>
     <message>
         <source>group code expected, found </source>
-        <translation type="unfinished"></translation>
+        <translation>se esperaba un código de grupo y se encontró </translation>
     </message>
     <message>
         <source>this is not a DXF file: </source>
-        <translation type="unfinished"></translation>
+        <translation>esto no es un archivo DXF: </translation>
     </message>
     <message>
         <source>this is not a DXF file: it has no sections</source>
-        <translation type="unfinished"></translation>
+        <translation>esto no es un archivo DXF: no tiene secciones</translation>
     </message>
     <message>
         <source>the file is cut off: it ends before EOF</source>
-        <translation type="unfinished"></translation>
+        <translation>el archivo está cortado: termina antes de EOF</translation>
     </message>
     <message>
         <source>the section has no name</source>
-        <translation type="unfinished"></translation>
+        <translation>la sección no tiene nombre</translation>
     </message>
     <message>
         <source>a record without a type</source>
-        <translation type="unfinished"></translation>
+        <translation>un registro sin tipo</translation>
     </message>
     <message>
         <source>%1 inside a section: ENDSEC is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 dentro de una sección: falta ENDSEC</translation>
     </message>
     <message>
         <source>%1 stands in the header section</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 está en la sección de cabecera</translation>
     </message>
     <message>
         <source>this is not a DXF file: section expected, found </source>
-        <translation type="unfinished"></translation>
+        <translation>esto no es un archivo DXF: se esperaba una sección y se encontró </translation>
     </message>
     <message>
         <source>%1 stands outside of the sections</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 está fuera de las secciones</translation>
     </message>
     <message>
         <source>TABLE inside a table: ENDTAB is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>TABLE dentro de una tabla: falta ENDTAB</translation>
     </message>
     <message>
         <source>%1 stands outside of the tables: TABLE is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 está fuera de las tablas: falta TABLE</translation>
     </message>
     <message>
         <source>BLOCK inside a block: ENDBLK is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>BLOCK dentro de un bloque: falta ENDBLK</translation>
     </message>
     <message>
         <source>%1 stands outside of the blocks: BLOCK is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 está fuera de los bloques: falta BLOCK</translation>
     </message>
     <message>
         <source>the section ends inside a table: ENDTAB is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>la sección termina dentro de una tabla: falta ENDTAB</translation>
     </message>
     <message>
         <source>the section ends inside a block: ENDBLK is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>la sección termina dentro de un bloque: falta ENDBLK</translation>
     </message>
     <message>
         <source>tag %1 of the binary file: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>etiqueta %1 del archivo binario: %2</translation>
     </message>
     <message>
         <source>the file is larger than 4 GB as text</source>
-        <translation type="unfinished"></translation>
+        <translation>el archivo ocupa más de 4 GB como texto</translation>
     </message>
     <message>
         <source>the file is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>el archivo está vacío</translation>
     </message>
     <message>
         <source>this is a DWG file; this program reads DXF only</source>
-        <translation type="unfinished"></translation>
+        <translation>esto es un archivo DWG; este programa solo lee DXF</translation>
     </message>
     <message>
         <source>this is a UTF-16 text file, not a DXF file</source>
-        <translation type="unfinished"></translation>
+        <translation>esto es un archivo de texto UTF-16, no un archivo DXF</translation>
     </message>
     <message>
         <source>this is a packed file; unpack it first</source>
-        <translation type="unfinished"></translation>
+        <translation>esto es un archivo comprimido; descomprímalo antes</translation>
     </message>
     <message>
         <source>this is a binary DXF file whose first bytes are damaged, as by a transfer as text</source>
-        <translation type="unfinished"></translation>
+        <translation>esto es un archivo DXF binario cuyos primeros bytes están dañados, como al transferirlo como texto</translation>
     </message>
     <message>
         <source>the pattern does not begin with &quot;A&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>el patrón no empieza por &quot;A&quot;</translation>
     </message>
     <message>
         <source>the pattern is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>el patrón está vacío</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no length</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; no es una longitud</translation>
     </message>
     <message>
         <source>the pattern is too long</source>
-        <translation type="unfinished"></translation>
+        <translation>el patrón es demasiado largo</translation>
     </message>
     <message>
         <source>a text or shape is not closed, or stands in front of all dashes</source>
-        <translation type="unfinished"></translation>
+        <translation>un texto o una forma no está cerrado, o está antes de todos los trazos</translation>
     </message>
     <message>
         <source>a shape needs its name and its file</source>
-        <translation type="unfinished"></translation>
+        <translation>una forma necesita su nombre y su archivo</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not understood</source>
-        <translation type="unfinished"></translation>
+        <translation>no se entiende &quot;%1&quot;</translation>
     </message>
     <message>
         <source>text style &quot;%1&quot; is not in the drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>el estilo de texto &quot;%1&quot; no está en el dibujo</translation>
     </message>
     <message>
         <source>the shape file &quot;%1&quot; is not found</source>
-        <translation type="unfinished"></translation>
+        <translation>no se encuentra el archivo de formas &quot;%1&quot;</translation>
     </message>
     <message>
         <source>shape &quot;%1&quot; is not in the file &quot;%2&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>la forma &quot;%1&quot; no está en el archivo &quot;%2&quot;</translation>
     </message>
     <message>
         <source>a drawing of this version has no texts and shapes in linetypes</source>
-        <translation type="unfinished"></translation>
+        <translation>un dibujo de esta versión no tiene textos ni formas en los tipos de línea</translation>
     </message>
     <message>
         <source>the name cannot be used</source>
-        <translation type="unfinished"></translation>
+        <translation>no se puede usar el nombre</translation>
     </message>
     <message>
         <source>it is not in the drawing&apos;s folder. READPATHS, or the option --allow-read, names folders whose files drawings may name</source>
-        <translation type="unfinished"></translation>
+        <translation>no está en la carpeta del dibujo. READPATHS, o la opción --allow-read, nombra carpetas cuyos archivos pueden nombrar los dibujos</translation>
     </message>
     <message>
         <source>there are no shapes in it</source>
-        <translation type="unfinished"></translation>
+        <translation>no contiene formas</translation>
     </message>
     <message>
         <source>the file is cut off</source>
-        <translation type="unfinished"></translation>
+        <translation>el archivo está cortado</translation>
     </message>
     <message>
         <source>it is a compiled file of another kind</source>
-        <translation type="unfinished"></translation>
+        <translation>es un archivo compilado de otra clase</translation>
     </message>
     <message>
         <source>%1 (remote texts have at most 256 kB)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (los textos remotos tienen como máximo 256 kB)</translation>
     </message>
 </context>
 <context>
@@ -6329,15 +6475,15 @@ startapp: %1 is not started: the user&apos;s settings do not let programs start 
     </message>
     <message>
         <source>there is no sheet &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>no hay ninguna presentación &quot;%1&quot;</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be the name of a sheet</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; no puede ser el nombre de una presentación</translation>
     </message>
     <message>
         <source>there is a sheet &quot;%1&quot; already</source>
-        <translation type="unfinished"></translation>
+        <translation>ya hay una presentación &quot;%1&quot;</translation>
     </message>
     <message>
         <source>%1 is one of the drawings that sheets come from</source>
@@ -9755,7 +9901,7 @@ Saving this drawing was broken off once. What was to be saved is in %1; the draw
     </message>
     <message>
         <source>Unknown command &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Comando desconocido &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>%1 was cancelled.</source>
@@ -10009,12 +10155,14 @@ Next point: </source>
     <message>
         <source>
 Specify opposite corner: </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Precise esquina opuesta: </translation>
     </message>
     <message>
         <source>
 Command has been completely undone.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+El comando se ha deshecho por completo.</translation>
     </message>
     <message>
         <source>
@@ -11616,7 +11764,7 @@ The user&apos;s settings cannot be kept.
     </message>
     <message>
         <source>View</source>
-        <translation type="unfinished"></translation>
+        <translation>Vista</translation>
     </message>
     <message>
         <source>Viewports</source>
@@ -11991,7 +12139,7 @@ The user&apos;s settings cannot be kept.
     </message>
     <message>
         <source>Linetype</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipo de línea</translation>
     </message>
     <message>
         <source>Lineweight</source>
@@ -12398,7 +12546,7 @@ The user&apos;s settings cannot be kept.
     </message>
     <message>
         <source>Dimension style</source>
-        <translation type="unfinished"></translation>
+        <translation>Estilo de cota</translation>
     </message>
     <message>
         <source>Distance</source>
@@ -12598,7 +12746,7 @@ The user&apos;s settings cannot be kept.
     </message>
     <message>
         <source>Linetype</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipo de línea</translation>
     </message>
     <message>
         <source>Lineweight</source>
@@ -12898,7 +13046,7 @@ The user&apos;s settings cannot be kept.
     </message>
     <message>
         <source>Text style</source>
-        <translation type="unfinished"></translation>
+        <translation>Estilo de texto</translation>
     </message>
     <message>
         <source>Texts to a paragraph</source>
@@ -13507,11 +13655,11 @@ The user&apos;s settings cannot be kept.
     </message>
     <message>
         <source>Linetype</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipo de línea</translation>
     </message>
     <message>
         <source>Linetype scale</source>
-        <translation type="unfinished"></translation>
+        <translation>Escala de tipo de línea</translation>
     </message>
     <message>
         <source>Lineweight</source>
@@ -13523,11 +13671,11 @@ The user&apos;s settings cannot be kept.
     </message>
     <message>
         <source>Text style</source>
-        <translation type="unfinished"></translation>
+        <translation>Estilo de texto</translation>
     </message>
     <message>
         <source>Dimension style</source>
-        <translation type="unfinished"></translation>
+        <translation>Estilo de cota</translation>
     </message>
     <message>
         <source>Of what is drawn next</source>
@@ -15841,7 +15989,7 @@ Recovered as it was on %1. It is not in its file until it is saved.
     </message>
     <message>
         <source>Linetype</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipo de línea</translation>
     </message>
     <message>
         <source>Lineweight</source>

@@ -1957,2292 +1957,2381 @@ Impostazioni correnti: Modo = %1, Raggio = %2</translation>
     </message>
     <message>
         <source>These would be more than %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sarebbero più di %1.</translation>
     </message>
     <message>
         <source>
 %1 lines joined into 1 line</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 linee unite in 1 linea</translation>
     </message>
     <message>
         <source>
 %1 arcs joined into 1 arc</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 archi uniti in 1 arco</translation>
     </message>
     <message>
         <source>
 %1 ellipses joined into 1 ellipse</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 ellissi unite in 1 ellisse</translation>
     </message>
     <message>
         <source>
 %1 objects converted to 1 polyline</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 oggetti convertiti in 1 polilinea</translation>
     </message>
     <message>
         <source>
 %1 objects converted to 1 spline</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 oggetti convertiti in 1 spline</translation>
     </message>
     <message>
         <source>
 %1 objects discarded from the operation</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 oggetti esclusi dall&apos;operazione</translation>
     </message>
     <message>
         <source>Select source object or multiple objects to join at once: </source>
-        <translation type="unfinished"></translation>
+        <translation>Selezionare oggetto di origine o più oggetti da unire insieme: </translation>
     </message>
     <message>
         <source>Select arcs to join to source or [cLose]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Selezionare archi da unire all&apos;origine o [cLose]: </translation>
     </message>
     <message>
         <source>Select objects to join: </source>
-        <translation type="unfinished"></translation>
+        <translation>Selezionare oggetti da unire: </translation>
     </message>
     <message>
         <source>
 Current length: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Lunghezza corrente: %1</translation>
     </message>
     <message>
         <source>, included angle: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>, angolo inscritto: %1</translation>
     </message>
     <message>
         <source>
 This object cannot be lengthened.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Questo oggetto non può essere allungato.</translation>
     </message>
     <message>
         <source>Select an object to change or [Undo]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Selezionare un oggetto da cambiare o [Undo]: </translation>
     </message>
     <message>
         <source>Specify new endpoint: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare nuovo estremo: </translation>
     </message>
     <message>
         <source>
 The object cannot have that length.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+L&apos;oggetto non può avere quella lunghezza.</translation>
     </message>
     <message>
         <source>Enter delta length or [Angle] &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare incremento di lunghezza o [Angle] &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Enter delta angle &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare incremento dell&apos;angolo &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Specify total length or [Angle] &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare lunghezza totale o [Angle] &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Specify total angle &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare angolo totale &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Enter percentage length &lt;100.0000&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare percentuale di lunghezza &lt;100.0000&gt;: </translation>
     </message>
     <message>
         <source>Select an object to measure or [DElta/Percent/Total/DYnamic]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Selezionare un oggetto da misurare o [DElta/Percent/Total/DYnamic]: </translation>
     </message>
     <message>
         <source>Specify offset distance or [Through/Erase/Layer] &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare distanza di offset o [Through/Erase/Layer] &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Erase source object after offsetting?</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancellare l&apos;oggetto di origine dopo l&apos;offset?</translation>
     </message>
     <message>
         <source>Enter layer option for offset objects [Current/Source]</source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare opzione di layer per gli oggetti di offset [Current/Source]</translation>
     </message>
     <message>
         <source>Specify through point</source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare punto di passaggio</translation>
     </message>
     <message>
         <source>Specify point on side to offset</source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare punto sul lato di offset</translation>
     </message>
     <message>
         <source> or [Exit/Undo] &lt;next object&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation> o [Exit/Undo] &lt;oggetto successivo&gt;: </translation>
     </message>
     <message>
         <source> or [Exit/Multiple/Undo] &lt;Exit&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation> o [Exit/Multiple/Undo] &lt;Exit&gt;: </translation>
     </message>
     <message>
         <source>Cannot offset that object so far.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quell&apos;oggetto non può essere sfalsato di tanto.</translation>
     </message>
     <message>
         <source>
 Select object to offset or [Exit/Undo] &lt;Exit&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Selezionare oggetto di cui eseguire l&apos;offset o [Exit/Undo] &lt;Exit&gt;: </translation>
     </message>
     <message>
         <source>Cannot offset that object.</source>
-        <translation type="unfinished"></translation>
+        <translation>Di quell&apos;oggetto non si può eseguire l&apos;offset.</translation>
     </message>
     <message>
         <source>Enter property to ignore [%1]</source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare proprietà da ignorare [%1]</translation>
     </message>
     <message>
         <source>Enter an option to change [Done/Ignore/Tolerance/Overlaps/Endtoend]</source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare un&apos;opzione da cambiare [Done/Ignore/Tolerance/Overlaps/Endtoend]</translation>
     </message>
     <message>
         <source>Specify tolerance</source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare tolleranza</translation>
     </message>
     <message>
         <source>Combine lines and arcs that overlap?</source>
-        <translation type="unfinished"></translation>
+        <translation>Combinare linee e archi sovrapposti?</translation>
     </message>
     <message>
         <source>Combine lines and arcs that meet end to end?</source>
-        <translation type="unfinished"></translation>
+        <translation>Combinare linee e archi che si toccano agli estremi?</translation>
     </message>
     <message>
         <source>
 %1 duplicate(s) deleted</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Duplicati eliminati: %1</translation>
     </message>
     <message>
         <source>
 %1 overlapping object(s) or segment(s) deleted</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Oggetti o segmenti sovrapposti eliminati: %1</translation>
     </message>
     <message>
         <source>
 Select polyline or [Multiple]: </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Selezionare polilinea o [Multiple]: </translation>
     </message>
     <message>
         <source>Object selected is not a polyline.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;oggetto selezionato non è una polilinea.</translation>
     </message>
     <message>
         <source>
 Object selected is not a polyline</source>
-        <translation type="unfinished"></translation>
+        <translation>
+L&apos;oggetto selezionato non è una polilinea</translation>
     </message>
     <message>
         <source>Do you want to turn it into one?</source>
-        <translation type="unfinished"></translation>
+        <translation>Convertirlo in polilinea?</translation>
     </message>
     <message>
         <source>Convert Lines, Arcs and Splines to polylines</source>
-        <translation type="unfinished"></translation>
+        <translation>Convertire linee, archi e spline in polilinee</translation>
     </message>
     <message>
         <source>
 Splines do not become part of a polyline: %1 left out.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Le spline non diventano parte di una polilinea: %1 omesse.</translation>
     </message>
     <message>
         <source>
 %1 segments added to polyline</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 segmenti aggiunti alla polilinea</translation>
     </message>
     <message>
         <source>Enter fuzz distance or [Jointype] &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare distanza di approssimazione o [Jointype] &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Enter a vertex join type [Extend/Add/Both]</source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare tipo di unione dei vertici [Extend/Add/Both]</translation>
     </message>
     <message>
         <source>
 %1 segments added to %2 polylines</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 segmenti aggiunti a %2 polilinee</translation>
     </message>
     <message>
         <source>Specify new width for all segments: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare nuova larghezza per tutti i segmenti: </translation>
     </message>
     <message>
         <source>Enter polyline linetype generation option [ON/OFF]</source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare opzione di generazione del tipo di linea delle polilinee [ON/OFF]</translation>
     </message>
     <message>
         <source>Enter an option [Close/Open/Join/Width/Fit/Spline/Decurve/Ltype gen/Reverse/Undo]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare un&apos;opzione [Close/Open/Join/Width/Fit/Spline/Decurve/Ltype gen/Reverse/Undo]: </translation>
     </message>
     <message>
         <source>Enter an option [%1/Edit vertex/Spline curve/Decurve/Reverse/Undo]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare un&apos;opzione [%1/Edit vertex/Spline curve/Decurve/Reverse/Undo]: </translation>
     </message>
     <message>
         <source>Enter an option [%1/Join/Width/Edit vertex/Fit/Spline/Decurve/Ltype gen/Reverse/Undo]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare un&apos;opzione [%1/Join/Width/Edit vertex/Fit/Spline/Decurve/Ltype gen/Reverse/Undo]: </translation>
     </message>
     <message>
         <source>Enter an option [Next/Previous/Go/eXit] &lt;N&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare un&apos;opzione [Next/Previous/Go/eXit] &lt;N&gt;: </translation>
     </message>
     <message>
         <source>
 Nothing would be left on one side.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Da un lato non resterebbe nulla.</translation>
     </message>
     <message>
         <source>Specify starting width for next segment</source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare larghezza iniziale del segmento successivo</translation>
     </message>
     <message>
         <source>Specify ending width for next segment</source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare larghezza finale del segmento successivo</translation>
     </message>
     <message>
         <source>Specify location for new vertex: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare posizione del nuovo vertice: </translation>
     </message>
     <message>
         <source>Specify direction of vertex tangent: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare direzione della tangente del vertice: </translation>
     </message>
     <message>
         <source>Enter a vertex editing option [Next/Previous/Break/Insert/Move/Regen/Straighten/%1eXit] &lt;N&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare un&apos;opzione di modifica dei vertici [Next/Previous/Break/Insert/Move/Regen/Straighten/%1eXit] &lt;N&gt;: </translation>
     </message>
     <message>
         <source>Specify new location for marked vertex: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare nuova posizione del vertice contrassegnato: </translation>
     </message>
     <message>
         <source>
 That object is on a locked layer.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Quell&apos;oggetto è su un layer bloccato.</translation>
     </message>
     <message>
         <source>
 Cannot %1 this object.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Impossibile applicare %1 a questo oggetto.</translation>
     </message>
     <message>
         <source>
 Cannot EXTEND this object.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Impossibile applicare EXTEND a questo oggetto.</translation>
     </message>
     <message>
         <source>
 Object does not intersect an edge.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+L&apos;oggetto non interseca nessuno spigolo.</translation>
     </message>
     <message>
         <source>
 Command has been completely undone.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Il comando è stato completamente annullato.</translation>
     </message>
     <message>
         <source>Specify first fence point: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare primo punto dell&apos;intercetta: </translation>
     </message>
     <message>
         <source>Specify next fence point or [Undo]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare punto successivo dell&apos;intercetta o [Undo]: </translation>
     </message>
     <message>
         <source>Enter a projection option [None/Ucs/View]</source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare un&apos;opzione di proiezione [None/Ucs/View]</translation>
     </message>
     <message>
         <source>Enter an implied edge extension mode [Extend/No extend]</source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare un modo di estensione implicita degli spigoli [Extend/No extend]</translation>
     </message>
     <message>
         <source>
 Current settings: Projection=%1, Edge=%2</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Impostazioni correnti: Proiezione=%1, Spigolo=%2</translation>
     </message>
     <message>
         <source>
 Select boundary edges ...</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Selezionare spigoli di contorno ...</translation>
     </message>
     <message>
         <source>
 Select cutting edges ...</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Selezionare spigoli di taglio ...</translation>
     </message>
     <message>
         <source>Select object to extend or [Fence/Crossing/Project/Edge/Undo]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Selezionare oggetto da estendere o [Fence/Crossing/Project/Edge/Undo]: </translation>
     </message>
     <message>
         <source>Select object to trim or [Fence/Crossing/Project/Edge/eRase/Undo]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Selezionare oggetto da tagliare o [Fence/Crossing/Project/Edge/eRase/Undo]: </translation>
     </message>
     <message>
         <source>Specify included angle: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare angolo inscritto: </translation>
     </message>
     <message>
         <source>Specify end point of arc or [Angle/chord Length]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare punto finale dell&apos;arco o [Angle/chord Length]: </translation>
     </message>
     <message>
         <source>Specify length of chord: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare lunghezza della corda: </translation>
     </message>
     <message>
         <source>Specify end point of arc: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare punto finale dell&apos;arco: </translation>
     </message>
     <message>
         <source>Specify center point of arc or [Angle/Direction/Radius]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare centro dell&apos;arco o [Angle/Direction/Radius]: </translation>
     </message>
     <message>
         <source>Specify tangent direction for the start point of arc: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare direzione della tangente per il punto iniziale dell&apos;arco: </translation>
     </message>
     <message>
         <source>Specify radius of arc: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare raggio dell&apos;arco: </translation>
     </message>
     <message>
         <source>Specify second point of arc or [Center/End]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare secondo punto dell&apos;arco o [Center/End]: </translation>
     </message>
     <message>
         <source>Specify center point of arc: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare centro dell&apos;arco: </translation>
     </message>
     <message>
         <source>Specify start point of arc or [Center]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare punto iniziale dell&apos;arco o [Center]: </translation>
     </message>
     <message>
         <source>No line or arc to continue.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessuna linea o arco da continuare.</translation>
     </message>
     <message>
         <source>Specify start point of arc: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare punto iniziale dell&apos;arco: </translation>
     </message>
     <message>
         <source>There is no such arc.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un tale arco non esiste.</translation>
     </message>
     <message>
         <source>Specify first end point of circle&apos;s diameter: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare primo estremo del diametro del cerchio: </translation>
     </message>
     <message>
         <source>Specify second end point of circle&apos;s diameter: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare secondo estremo del diametro del cerchio: </translation>
     </message>
     <message>
         <source>Specify first point on circle: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare primo punto sul cerchio: </translation>
     </message>
     <message>
         <source>Specify second point on circle: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare secondo punto sul cerchio: </translation>
     </message>
     <message>
         <source>Specify third point on circle: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare terzo punto sul cerchio: </translation>
     </message>
     <message>
         <source>Circle does not exist: the points lie in one line.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il cerchio non esiste: i punti giacciono su una retta.</translation>
     </message>
     <message>
         <source>Specify diameter of circle</source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare diametro del cerchio</translation>
     </message>
     <message>
         <source>Specify point on object for first tangent of circle: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare punto sull&apos;oggetto per la prima tangente del cerchio: </translation>
     </message>
     <message>
         <source>Specify point on object for second tangent of circle: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare punto sull&apos;oggetto per la seconda tangente del cerchio: </translation>
     </message>
     <message>
         <source>Requires a line, an arc or a circle in the user&apos;s plane.</source>
-        <translation type="unfinished"></translation>
+        <translation>Occorre una linea, un arco o un cerchio nel piano dell&apos;utente.</translation>
     </message>
     <message>
         <source>Specify radius of circle</source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare raggio del cerchio</translation>
     </message>
     <message>
         <source>Circle does not exist.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il cerchio non esiste.</translation>
     </message>
     <message>
         <source>Specify center point for circle or [3P/2P/Ttr (tan tan radius)]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare centro del cerchio o [3P/2P/Ttr (tan tan radius)]: </translation>
     </message>
     <message>
         <source>Specify radius of circle or [Diameter]</source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare raggio del cerchio o [Diameter]</translation>
     </message>
     <message>
         <source>Circle does not exist: the points are one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il cerchio non esiste: i punti coincidono.</translation>
     </message>
     <message>
         <source>Specify through point: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare punto di passaggio: </translation>
     </message>
     <message>
         <source>Select a line object: </source>
-        <translation type="unfinished"></translation>
+        <translation>Selezionare un oggetto lineare: </translation>
     </message>
     <message>
         <source>Requires a line, a ray or a straight part of a polyline.</source>
-        <translation type="unfinished"></translation>
+        <translation>Occorre una linea, un raggio o un tratto retto di polilinea.</translation>
     </message>
     <message>
         <source>Enter angle of xline (%1) or [Reference]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare angolo della xlinea (%1) o [Reference]: </translation>
     </message>
     <message>
         <source>Enter angle of xline &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare angolo della xlinea &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Specify angle vertex point: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare vertice dell&apos;angolo: </translation>
     </message>
     <message>
         <source>Specify angle start point: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare punto iniziale dell&apos;angolo: </translation>
     </message>
     <message>
         <source>Specify angle end point: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare punto finale dell&apos;angolo: </translation>
     </message>
     <message>
         <source>Specify offset distance or [Through] &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare distanza di offset o [Through] &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Specify side to offset: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare lato di offset: </translation>
     </message>
     <message>
         <source>Specify a point or [Hor/Ver/Ang/Bisect/Offset]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare un punto o [Hor/Ver/Ang/Bisect/Offset]: </translation>
     </message>
     <message>
         <source>Length of line: </source>
-        <translation type="unfinished"></translation>
+        <translation>Lunghezza della linea: </translation>
     </message>
     <message>
         <source>Specify next point or [Close/Undo]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare punto successivo o [Close/Undo]: </translation>
     </message>
     <message>
         <source>Specify a point: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare un punto: </translation>
     </message>
     <message>
         <source>Specify distance to other axis or [Rotation]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare distanza dall&apos;altro asse o [Rotation]: </translation>
     </message>
     <message>
         <source>Specify rotation around major axis: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare rotazione attorno all&apos;asse maggiore: </translation>
     </message>
     <message>
         <source>An ellipse is turned by 0 to 89.4 degrees.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un&apos;ellisse viene ruotata da 0 a 89.4 gradi.</translation>
     </message>
     <message>
         <source>Specify center of ellipse: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare centro dell&apos;ellisse: </translation>
     </message>
     <message>
         <source>Specify endpoint of axis: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare estremo dell&apos;asse: </translation>
     </message>
     <message>
         <source>Specify other endpoint of axis: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare altro estremo dell&apos;asse: </translation>
     </message>
     <message>
         <source>The endpoints of the axis are one point.</source>
-        <translation type="unfinished"></translation>
+        <translation>Gli estremi dell&apos;asse coincidono.</translation>
     </message>
     <message>
         <source>Specify end parameter or [Angle/Included angle]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare parametro finale o [Angle/Included angle]: </translation>
     </message>
     <message>
         <source>Specify end angle or [Parameter/Included angle]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare angolo finale o [Parameter/Included angle]: </translation>
     </message>
     <message>
         <source>Specify start parameter or [Angle]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare parametro iniziale o [Angle]: </translation>
     </message>
     <message>
         <source>Specify start angle or [Parameter]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare angolo iniziale o [Parameter]: </translation>
     </message>
     <message>
         <source>Specify included angle for arc &lt;180&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare angolo inscritto dell&apos;arco &lt;180&gt;: </translation>
     </message>
     <message>
         <source>Specify axis endpoint of ellipse or [Arc/Center]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare estremo dell&apos;asse dell&apos;ellisse o [Arc/Center]: </translation>
     </message>
     <message>
         <source>Specify axis endpoint of elliptical arc or [Center]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare estremo dell&apos;asse dell&apos;arco ellittico o [Center]: </translation>
     </message>
     <message>
         <source>Specify third point: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare terzo punto: </translation>
     </message>
     <message>
         <source>Specify fourth point or &lt;exit&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare quarto punto o &lt;esci&gt;: </translation>
     </message>
     <message>
         <source>Specify trace width</source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare larghezza della traccia</translation>
     </message>
     <message>
         <source>Specify first point or [Invisible]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare primo punto o [Invisible]: </translation>
     </message>
     <message>
         <source>Specify second point or [Invisible]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare secondo punto o [Invisible]: </translation>
     </message>
     <message>
         <source>Specify third point or [Invisible] &lt;exit&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare terzo punto o [Invisible] &lt;esci&gt;: </translation>
     </message>
     <message>
         <source>Specify fourth point or [Invisible] &lt;create three-sided face&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare quarto punto o [Invisible] &lt;crea faccia a tre lati&gt;: </translation>
     </message>
     <message>
         <source>Specify start point of polyline: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare punto iniziale della polilinea: </translation>
     </message>
     <message>
         <source>Specify endpoint of line or [Close/Undo]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare punto finale della linea o [Close/Undo]: </translation>
     </message>
     <message>
         <source>Specify endpoint of line or [Undo]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare punto finale della linea o [Undo]: </translation>
     </message>
     <message>
         <source>
 All segments already undone.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Tutti i segmenti sono già stati annullati.</translation>
     </message>
     <message>
         <source>Enter mline style name or [?]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nome dello stile multilinea o [?]: </translation>
     </message>
     <message>
         <source>Cannot find multiline style &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile trovare lo stile multilinea &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>
 Current settings: Justification = %1, Scale = %2, Style = %3</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Impostazioni correnti: Giustificazione = %1, Scala = %2, Stile = %3</translation>
     </message>
     <message>
         <source>Specify start point or [Justification/Scale/STyle]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare punto iniziale o [Justification/Scale/STyle]: </translation>
     </message>
     <message>
         <source>Enter justification type [Top/Zero/Bottom]</source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare tipo di giustificazione [Top/Zero/Bottom]</translation>
     </message>
     <message>
         <source>Enter mline scale &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare scala della multilinea &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Enter number of sides &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare numero di lati &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>A polygon has 3 to 1024 sides.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un poligono ha da 3 a 1024 lati.</translation>
     </message>
     <message>
         <source>Specify first endpoint of edge: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare primo estremo del lato: </translation>
     </message>
     <message>
         <source>Specify second endpoint of edge: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare secondo estremo del lato: </translation>
     </message>
     <message>
         <source>Enter an option [Inscribed in circle/Circumscribed about circle]</source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare un&apos;opzione [Inscribed in circle/Circumscribed about circle]</translation>
     </message>
     <message>
         <source>Specify radius of circle: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare raggio del cerchio: </translation>
     </message>
     <message>
         <source>Specify center of polygon or [Edge]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare centro del poligono o [Edge]: </translation>
     </message>
     <message>
         <source>The endpoints of the edge are one point.</source>
-        <translation type="unfinished"></translation>
+        <translation>Gli estremi del lato coincidono.</translation>
     </message>
     <message>
         <source>Specify inside diameter of donut</source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare diametro interno dell&apos;anello</translation>
     </message>
     <message>
         <source>Specify outside diameter of donut</source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare diametro esterno dell&apos;anello</translation>
     </message>
     <message>
         <source>Specify center of donut or &lt;exit&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare centro dell&apos;anello o &lt;esci&gt;: </translation>
     </message>
     <message>
         <source>Specify direction of chord for arc &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare direzione della corda dell&apos;arco &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Specify endpoint of arc or [CEnter/Radius]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare punto finale dell&apos;arco o [CEnter/Radius]: </translation>
     </message>
     <message>
         <source>Specify endpoint of arc or [Angle/Length]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare punto finale dell&apos;arco o [Angle/Length]: </translation>
     </message>
     <message>
         <source>Specify the tangent direction for the start point of arc: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare direzione della tangente per il punto iniziale dell&apos;arco: </translation>
     </message>
     <message>
         <source>Specify endpoint of the arc: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare punto finale dell&apos;arco: </translation>
     </message>
     <message>
         <source>Specify endpoint of arc or [Angle]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare punto finale dell&apos;arco o [Angle]: </translation>
     </message>
     <message>
         <source>Specify second point on arc: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare secondo punto sull&apos;arco: </translation>
     </message>
     <message>
         <source>Specify starting half-width &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare mezza larghezza iniziale &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Specify ending half-width &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare mezza larghezza finale &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Specify starting width &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare larghezza iniziale &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Specify ending width &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare larghezza finale &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Specify length of line: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare lunghezza della linea: </translation>
     </message>
     <message>
         <source>Specify endpoint of arc or [Angle/CEnter/%1Direction/Halfwidth/Line/Radius/Second pt/Undo/Width]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare punto finale dell&apos;arco o [Angle/CEnter/%1Direction/Halfwidth/Line/Radius/Second pt/Undo/Width]: </translation>
     </message>
     <message>
         <source>Specify next point or [Arc/%1Halfwidth/Length/Undo/Width]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare punto successivo o [Arc/%1Halfwidth/Length/Undo/Width]: </translation>
     </message>
     <message>
         <source>
 Current line-width is %1</source>
-        <translation type="unfinished"></translation>
+        <translation>
+La larghezza di linea corrente è %1</translation>
     </message>
     <message>
         <source>Specify fillet radius for rectangles</source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare raggio di raccordo per i rettangoli</translation>
     </message>
     <message>
         <source>Specify first chamfer distance for rectangles</source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare prima distanza di cimatura per i rettangoli</translation>
     </message>
     <message>
         <source>Specify second chamfer distance for rectangles</source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare seconda distanza di cimatura per i rettangoli</translation>
     </message>
     <message>
         <source>Specify first corner point or [Chamfer/Elevation/Fillet/Thickness/Width]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare primo vertice o [Chamfer/Elevation/Fillet/Thickness/Width]: </translation>
     </message>
     <message>
         <source>Specify the elevation for rectangles</source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare elevazione per i rettangoli</translation>
     </message>
     <message>
         <source>Specify thickness for rectangles</source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare spessore per i rettangoli</translation>
     </message>
     <message>
         <source>Specify line width for rectangles</source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare larghezza di linea per i rettangoli</translation>
     </message>
     <message>
         <source>Enter area of rectangle in current units</source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare area del rettangolo nelle unità correnti</translation>
     </message>
     <message>
         <source>Calculate rectangle dimensions based on [Length/Width]</source>
-        <translation type="unfinished"></translation>
+        <translation>Calcolare le dimensioni del rettangolo in base a [Length/Width]</translation>
     </message>
     <message>
         <source>Enter rectangle width</source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare larghezza del rettangolo</translation>
     </message>
     <message>
         <source>Enter rectangle length</source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare lunghezza del rettangolo</translation>
     </message>
     <message>
         <source>Specify rotation angle or [Pick points] &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare angolo di rotazione o [Pick points] &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Specify other corner point or [Area/Dimensions/Rotation]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare altro vertice o [Area/Dimensions/Rotation]: </translation>
     </message>
     <message>
         <source>Specify length for rectangles</source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare lunghezza per i rettangoli</translation>
     </message>
     <message>
         <source>Specify width for rectangles</source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare larghezza per i rettangoli</translation>
     </message>
     <message>
         <source>The corners of a rectangle lie neither above nor beside each other.</source>
-        <translation type="unfinished"></translation>
+        <translation>I vertici di un rettangolo non stanno né uno sopra l&apos;altro né uno accanto all&apos;altro.</translation>
     </message>
     <message>
         <source>1 loop rejected: it crosses itself or branches.</source>
-        <translation type="unfinished"></translation>
+        <translation>1 anello rifiutato: interseca se stesso o si dirama.</translation>
     </message>
     <message>
         <source>%1 loops rejected: it crosses itself or branches.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 anelli rifiutati: intersecano se stessi o si diramano.</translation>
     </message>
     <message>
         <source>1 loop rejected: it does not lie in a plane.</source>
-        <translation type="unfinished"></translation>
+        <translation>1 anello rifiutato: non giace su un piano.</translation>
     </message>
     <message>
         <source>%1 loops rejected: it does not lie in a plane.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 anelli rifiutati: non giacciono su un piano.</translation>
     </message>
     <message>
         <source>1 loop rejected: it encloses nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>1 anello rifiutato: non racchiude nulla.</translation>
     </message>
     <message>
         <source>%1 loops rejected: it encloses nothing.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 anelli rifiutati: non racchiudono nulla.</translation>
     </message>
     <message>
         <source>1 curve rejected: it is not part of a closed loop.</source>
-        <translation type="unfinished"></translation>
+        <translation>1 curva rifiutata: non fa parte di un anello chiuso.</translation>
     </message>
     <message>
         <source>%1 curves rejected: it is not part of a closed loop.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 curve rifiutate: non fanno parte di un anello chiuso.</translation>
     </message>
     <message>
         <source>1 object rejected: it is no curve.</source>
-        <translation type="unfinished"></translation>
+        <translation>1 oggetto rifiutato: non è una curva.</translation>
     </message>
     <message>
         <source>%1 objects rejected: it is no curve.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 oggetti rifiutati: non sono curve.</translation>
     </message>
     <message>
         <source>Drawings of R12 have no regions.</source>
-        <translation type="unfinished"></translation>
+        <translation>I disegni di R12 non hanno regioni.</translation>
     </message>
     <message>
         <source>
 1 loop extracted.
 1 Region created.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+1 anello estratto.
+1 regione creata.</translation>
     </message>
     <message>
         <source>
 %1 loops extracted.
 %1 Regions created.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 anelli estratti.
+%1 regioni create.</translation>
     </message>
     <message>
         <source>Specify minimum length of arc</source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare lunghezza minima dell&apos;arco</translation>
     </message>
     <message>
         <source>Specify maximum length of arc &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare lunghezza massima dell&apos;arco &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Specify first corner point or [Arc length/Object/Rectangular/Polygonal/Freehand/Style] &lt;Object&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare primo vertice o [Arc length/Object/Rectangular/Polygonal/Freehand/Style] &lt;Object&gt;: </translation>
     </message>
     <message>
         <source>Specify start point or [Arc length/Object/Rectangular/Polygonal/Freehand/Style] &lt;Object&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare punto iniziale o [Arc length/Object/Rectangular/Polygonal/Freehand/Style] &lt;Object&gt;: </translation>
     </message>
     <message>
         <source>Select arc style [Normal/Calligraphy]</source>
-        <translation type="unfinished"></translation>
+        <translation>Selezionare stile d&apos;arco [Normal/Calligraphy]</translation>
     </message>
     <message>
         <source>Enter name of shape file to load: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nome del file di forme da caricare: </translation>
     </message>
     <message>
         <source>Cannot read shape file &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile leggere il file di forme &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>Enter shape name: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nome della forma: </translation>
     </message>
     <message>
         <source>Cannot find shape &quot;%1&quot;. Load its file first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile trovare la forma &quot;%1&quot;. Caricare prima il suo file.</translation>
     </message>
     <message>
         <source>Specify height &lt;1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare altezza &lt;1&gt;: </translation>
     </message>
     <message>
         <source>
 Only polylines with the smoothing of splines can be converted.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Si possono convertire solo polilinee con smussatura di spline.</translation>
     </message>
     <message>
         <source>Specify first point or [Method/Knots/Object]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare primo punto o [Method/Knots/Object]: </translation>
     </message>
     <message>
         <source>Specify first point or [Method/Degree/Object]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare primo punto o [Method/Degree/Object]: </translation>
     </message>
     <message>
         <source>Enter spline creation method [Fit/CV]</source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare metodo di creazione della spline [Fit/CV]</translation>
     </message>
     <message>
         <source>Enter knot parameterization [Chord/Square root/Uniform]</source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare parametrizzazione dei nodi [Chord/Square root/Uniform]</translation>
     </message>
     <message>
         <source>Enter degree of spline &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare grado della spline &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Enter next point or [%1Undo]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare punto successivo o [%1Undo]: </translation>
     </message>
     <message>
         <source>Enter next point or [start Tangency/toLerance]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare punto successivo o [start Tangency/toLerance]: </translation>
     </message>
     <message>
         <source>Enter next point or [%1Fit tolerance/Undo/end Tangency] &lt;start tangent&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare punto successivo o [%1Fit tolerance/Undo/end Tangency] &lt;tangente iniziale&gt;: </translation>
     </message>
     <message>
         <source>
 All points already undone.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Tutti i punti sono già stati annullati.</translation>
     </message>
     <message>
         <source>Specify start tangent: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare tangente iniziale: </translation>
     </message>
     <message>
         <source>Specify end tangent: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare tangente finale: </translation>
     </message>
     <message>
         <source>Specify fit tolerance</source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare tolleranza di adattamento</translation>
     </message>
     <message>
         <source>Specify tangent: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare tangente: </translation>
     </message>
     <message>
         <source>Specify first source point: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare primo punto di origine: </translation>
     </message>
     <message>
         <source>Specify first destination point: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare primo punto di destinazione: </translation>
     </message>
     <message>
         <source>Specify second source point: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare secondo punto di origine: </translation>
     </message>
     <message>
         <source>Specify second destination point: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare secondo punto di destinazione: </translation>
     </message>
     <message>
         <source>Specify third source point or &lt;continue&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare terzo punto di origine o &lt;continua&gt;: </translation>
     </message>
     <message>
         <source>Specify third destination point: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare terzo punto di destinazione: </translation>
     </message>
     <message>
         <source>Scale objects based on alignment points? [Yes/No] &lt;N&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Scalare gli oggetti in base ai punti di allineamento? [Yes/No] &lt;N&gt;: </translation>
     </message>
     <message>
         <source>The points say no direction.</source>
-        <translation type="unfinished"></translation>
+        <translation>I punti non indicano nessuna direzione.</translation>
     </message>
     <message>
         <source>Specify first point on axis or define axis by [Xaxis/Yaxis/Zaxis/2points]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare primo punto sull&apos;asse o definire l&apos;asse con [Xaxis/Yaxis/Zaxis/2points]: </translation>
     </message>
     <message>
         <source>Specify a point on the %1 axis &lt;0,0,0&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare un punto sull&apos;asse %1 &lt;0,0,0&gt;: </translation>
     </message>
     <message>
         <source>Specify first point on axis: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare primo punto sull&apos;asse: </translation>
     </message>
     <message>
         <source>Specify second point on axis: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare secondo punto sull&apos;asse: </translation>
     </message>
     <message>
         <source>Specify rotation angle or [Reference]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare angolo di rotazione o [Reference]: </translation>
     </message>
     <message>
         <source>Specify the distance between columns (|||): </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare distanza fra le colonne (|||): </translation>
     </message>
     <message>
         <source>
 Enter the distance between rows or specify unit cell (---): </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Digitare distanza fra le righe o specificare cella unità (---): </translation>
     </message>
     <message>
         <source>Enter the number of rows (---) &lt;1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare numero di righe (---) &lt;1&gt;: </translation>
     </message>
     <message>
         <source>Enter the number of columns (|||) &lt;1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare numero di colonne (|||) &lt;1&gt;: </translation>
     </message>
     <message>
         <source>One-element array, nothing to do.</source>
-        <translation type="unfinished"></translation>
+        <translation>Serie di un solo elemento, nulla da fare.</translation>
     </message>
     <message>
         <source>Requires a distance other than 0, or two corners of a cell.</source>
-        <translation type="unfinished"></translation>
+        <translation>Occorre una distanza diversa da 0 o due angoli di una cella.</translation>
     </message>
     <message>
         <source>Enter the number of items in the array: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare numero di elementi della serie: </translation>
     </message>
     <message>
         <source>Specify the angle to fill (+=ccw, -=cw) &lt;360&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare angolo da riempire (+=antiorario, -=orario) &lt;360&gt;: </translation>
     </message>
     <message>
         <source>Angle between items: </source>
-        <translation type="unfinished"></translation>
+        <translation>Angolo fra gli elementi: </translation>
     </message>
     <message>
         <source>Specify center point of array or [Base]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare centro della serie o [Base]: </translation>
     </message>
     <message>
         <source>Specify base point of objects: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare punto base degli oggetti: </translation>
     </message>
     <message>
         <source>Specify center point of array: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare centro della serie: </translation>
     </message>
     <message>
         <source>Requires a number of items or an angle between them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Occorre un numero di elementi o un angolo fra loro.</translation>
     </message>
     <message>
         <source>Rotate arrayed objects? [Yes/No] &lt;Y&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Ruotare gli oggetti in serie? [Yes/No] &lt;Y&gt;: </translation>
     </message>
     <message>
         <source>Enter the type of array [Rectangular/Polar] &lt;R&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare tipo di serie [Rectangular/Polar] &lt;R&gt;: </translation>
     </message>
     <message>
         <source>Enter property to change [%1]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare proprietà da cambiare [%1]: </translation>
     </message>
     <message>
         <source>Specify change point or [Properties]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare punto di modifica o [Properties]: </translation>
     </message>
     <message>
         <source>Enter new text style &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nuovo stile di testo &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Specify new rotation angle &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare nuovo angolo di rotazione &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Enter new text &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nuovo testo &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Enter new tag &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nuova etichetta &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Enter new prompt &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nuovo messaggio di richiesta &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Enter new default value &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nuovo valore di default &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Specify new text insertion point &lt;no change&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare nuovo punto di inserimento del testo &lt;nessuna modifica&gt;: </translation>
     </message>
     <message>
         <source>Specify new block insertion point &lt;no change&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare nuovo punto di inserimento del blocco &lt;nessuna modifica&gt;: </translation>
     </message>
     <message>
         <source>Specify new block rotation angle &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare nuovo angolo di rotazione del blocco &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>
 %1 not changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 non modificati.</translation>
     </message>
     <message>
         <source>Enter object ordering option [Above objects/Under objects/Front/Back] &lt;Back&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare opzione di ordinamento degli oggetti [Above objects/Under objects/Front/Back] &lt;Back&gt;: </translation>
     </message>
     <message>
         <source>Enter number of items to array: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare numero di elementi da disporre in serie: </translation>
     </message>
     <message>
         <source>Requires an integer of 2 or more.</source>
-        <translation type="unfinished"></translation>
+        <translation>Occorre un intero di 2 o più.</translation>
     </message>
     <message>
         <source>Specify second point or [Fit]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare secondo punto o [Fit]: </translation>
     </message>
     <message>
         <source>Specify second point or [Array] &lt;use first point as displacement&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare secondo punto o [Array] &lt;usare primo punto come spostamento&gt;: </translation>
     </message>
     <message>
         <source>Specify second point or [Array/Exit/Undo] &lt;Exit&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare secondo punto o [Array/Exit/Undo] &lt;Exit&gt;: </translation>
     </message>
     <message>
         <source>Specify base point or [Displacement/mOde] &lt;Displacement&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare punto base o [Displacement/mOde] &lt;Displacement&gt;: </translation>
     </message>
     <message>
         <source>Enter a copy mode option [Single/Multiple] &lt;Multiple&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare un&apos;opzione del modo di copia [Single/Multiple] &lt;Multiple&gt;: </translation>
     </message>
     <message>
         <source>
 Current positive angle in UCS:  ANGDIR=%1  ANGBASE=%2</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Angolo positivo corrente nell&apos;UCS:  ANGDIR=%1  ANGBASE=%2</translation>
     </message>
     <message>
         <source>Specify rotation angle or [Copy/Reference] &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare angolo di rotazione o [Copy/Reference] &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>
 Rotating a copy of the selected objects.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Rotazione di una copia degli oggetti selezionati.</translation>
     </message>
     <message>
         <source>Specify scale factor or [Copy/Reference]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare fattore di scala o [Copy/Reference]: </translation>
     </message>
     <message>
         <source>
 Scaling a copy of the selected objects.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Scalatura di una copia degli oggetti selezionati.</translation>
     </message>
     <message>
         <source>Requires three numbers from 0 to 255.</source>
-        <translation type="unfinished"></translation>
+        <translation>Occorrono tre numeri da 0 a 255.</translation>
     </message>
     <message>
         <source>A drawing of this version has no such colors.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un disegno di questa versione non ha colori simili.</translation>
     </message>
     <message>
         <source>New color [Truecolor/COlorbook] &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Nuovo colore [Truecolor/COlorbook] &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Red,Green,Blue: </source>
-        <translation type="unfinished"></translation>
+        <translation>Rosso,Verde,Blu: </translation>
     </message>
     <message>
         <source>This program has no color books.</source>
-        <translation type="unfinished"></translation>
+        <translation>Questo programma non ha libri dei colori.</translation>
     </message>
     <message>
         <source>Requires a color number from 1 to 255 or a color name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Occorre un numero di colore da 1 a 255 o un nome di colore.</translation>
     </message>
     <message>
         <source>Enter new layer name &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nome del nuovo layer &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Enter new linetype name &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nome del nuovo tipo di linea &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Cannot find linetype &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile trovare il tipo di linea &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>Specify new linetype scale &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare nuova scala del tipo di linea &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Enter new lineweight &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nuovo spessore di linea &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>A drawing of this version has no lineweights.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un disegno di questa versione non ha spessori di linea.</translation>
     </message>
     <message>
         <source>Requires a lineweight from 0 to 2.11.</source>
-        <translation type="unfinished"></translation>
+        <translation>Occorre uno spessore di linea da 0 a 2.11.</translation>
     </message>
     <message>
         <source>Specify new thickness &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare nuovo spessore &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Enter new transparency value &lt;ByLayer&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nuovo valore di trasparenza &lt;ByLayer&gt;: </translation>
     </message>
     <message>
         <source>A drawing of this version has no transparency.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un disegno di questa versione non ha trasparenza.</translation>
     </message>
     <message>
         <source>Requires an integer from 0 to 90.</source>
-        <translation type="unfinished"></translation>
+        <translation>Occorre un intero da 0 a 90.</translation>
     </message>
     <message>
         <source>Specify new elevation &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare nuova elevazione &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>
 %1 of the pieces could not be made.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 delle parti non sono state create.</translation>
     </message>
     <message>
         <source>Specify stretch point or [Base point/Copy/Undo/eXit]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare punto di stiramento o [Base point/Copy/Undo/eXit]: </translation>
     </message>
     <message>
         <source>Specify move point or [Base point/Copy/Undo/eXit]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare punto di spostamento o [Base point/Copy/Undo/eXit]: </translation>
     </message>
     <message>
         <source>Specify rotation angle or [Base point/Copy/Undo/Reference/eXit]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare angolo di rotazione o [Base point/Copy/Undo/Reference/eXit]: </translation>
     </message>
     <message>
         <source>Specify scale factor or [Base point/Copy/Undo/Reference/eXit]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare fattore di scala o [Base point/Copy/Undo/Reference/eXit]: </translation>
     </message>
     <message>
         <source>Specify second point or [Base point/Copy/Undo/eXit]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare secondo punto o [Base point/Copy/Undo/eXit]: </translation>
     </message>
     <message>
         <source> (multiple)</source>
-        <translation type="unfinished"></translation>
+        <translation> (multiplo)</translation>
     </message>
     <message>
         <source>Specify grips to move: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare grip da spostare: </translation>
     </message>
     <message>
         <source>There is no grip of the chosen entities.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le entità scelte non hanno grip in quel punto.</translation>
     </message>
     <message>
         <source>
 There is nothing to undo.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Non c&apos;è nulla da annullare.</translation>
     </message>
     <message>
         <source>Enter a setting to switch off or on [%1] &lt;exit&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare un&apos;impostazione da disattivare o attivare [%1] &lt;esci&gt;: </translation>
     </message>
     <message>
         <source>
 %1 is %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 è %2.</translation>
     </message>
     <message>
         <source>Select source object: </source>
-        <translation type="unfinished"></translation>
+        <translation>Selezionare oggetto di origine: </translation>
     </message>
     <message>
         <source>
 Current active settings:  </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Impostazioni attive correnti:  </translation>
     </message>
     <message>
         <source>Select destination object(s) or [Settings]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Selezionare oggetti di destinazione o [Settings]: </translation>
     </message>
     <message>
         <source>
 %1 selected.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 selezionati.</translation>
     </message>
     <message>
         <source>Specify first point of mirror line: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare primo punto della linea di simmetria: </translation>
     </message>
     <message>
         <source>Specify second point of mirror line: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare secondo punto della linea di simmetria: </translation>
     </message>
     <message>
         <source>Erase source objects? [Yes/No] &lt;N&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Cancellare gli oggetti di origine? [Yes/No] &lt;N&gt;: </translation>
     </message>
     <message>
         <source>Specify first point on mirror plane: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare primo punto sul piano di simmetria: </translation>
     </message>
     <message>
         <source>Specify second point on mirror plane: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare secondo punto sul piano di simmetria: </translation>
     </message>
     <message>
         <source>Specify third point on mirror plane: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare terzo punto sul piano di simmetria: </translation>
     </message>
     <message>
         <source>Specify point on %1 plane &lt;%2&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare punto sul piano %1 &lt;%2&gt;: </translation>
     </message>
     <message>
         <source>Specify first point of mirror plane (3 points) or [Zaxis/View/XY/YZ/ZX/3points] &lt;3points&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare primo punto del piano di simmetria (3 punti) o [Zaxis/View/XY/YZ/ZX/3points] &lt;3points&gt;: </translation>
     </message>
     <message>
         <source>Specify point on mirror plane: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare punto sul piano di simmetria: </translation>
     </message>
     <message>
         <source>Specify point on Z-axis (normal) of mirror plane: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare punto sull&apos;asse Z (normale) del piano di simmetria: </translation>
     </message>
     <message>
         <source>Specify point on view plane &lt;0,0,0&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare punto sul piano della vista &lt;0,0,0&gt;: </translation>
     </message>
     <message>
         <source>The points say no plane.</source>
-        <translation type="unfinished"></translation>
+        <translation>I punti non indicano nessun piano.</translation>
     </message>
     <message>
         <source>Delete source objects? [Yes/No] &lt;N&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Eliminare gli oggetti di origine? [Yes/No] &lt;N&gt;: </translation>
     </message>
     <message>
         <source>The sheet has no viewport.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il foglio non ha nessuna finestra.</translation>
     </message>
     <message>
         <source>
 %1 object(s) changed from MODEL space to PAPER space.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 oggetto/i passato/i dallo spazio MODELLO allo spazio CARTA.</translation>
     </message>
     <message>
         <source>
 %1 object(s) changed from PAPER space to MODEL space.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 oggetto/i passato/i dallo spazio CARTA allo spazio MODELLO.</translation>
     </message>
     <message>
         <source>
 Objects were scaled by a factor of %1 to maintain visual appearance.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Gli oggetti sono stati scalati di un fattore %1 per mantenere l&apos;aspetto.</translation>
     </message>
     <message>
         <source>Only a layout has both spaces.</source>
-        <translation type="unfinished"></translation>
+        <translation>Solo un layout ha entrambi gli spazi.</translation>
     </message>
     <message>
         <source>
 Select objects to stretch by crossing-window or crossing-polygon...</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Selezionare oggetti da stirare con finestra o poligono di intersezione...</translation>
     </message>
     <message>
         <source>Enter name of customization file to load: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nome del file di personalizzazione da caricare: </translation>
     </message>
     <message>
         <source>
 &quot;%1&quot; was not loaded: there are no menu files here.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+&quot;%1&quot; non è stato caricato: qui non ci sono file di menu.</translation>
     </message>
     <message>
         <source>Enter name of customization group to unload: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nome del gruppo di personalizzazione da scaricare: </translation>
     </message>
     <message>
         <source>
 There is no customization group &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Non c&apos;è nessun gruppo di personalizzazione &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>Enter name of assembly to load: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nome dell&apos;assembly da caricare: </translation>
     </message>
     <message>
         <source>
 &quot;%1&quot; was not loaded: programs for other hosts do not run here.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+&quot;%1&quot; non è stato caricato: i programmi per altri host non funzionano qui.</translation>
     </message>
     <message>
         <source>Enter an option [?/Load/Unload/Commands/Options]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare un&apos;opzione [?/Load/Unload/Commands/Options]: </translation>
     </message>
     <message>
         <source>Enter name of application file: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nome del file di applicazione: </translation>
     </message>
     <message>
         <source>
 Programs for other hosts do not run here.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+I programmi per altri host non funzionano qui.</translation>
     </message>
     <message>
         <source>Enter delay time (in milliseconds): </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare tempo di attesa (in millisecondi): </translation>
     </message>
     <message>
         <source>Fix any errors detected? [Yes/No] &lt;No&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Correggere gli errori rilevati? [Yes/No] &lt;No&gt;: </translation>
     </message>
     <message>
         <source>
 Total errors found %1 fixed %2</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Totale errori trovati %1 corretti %2</translation>
     </message>
     <message>
         <source>
 Save the drawing and open it with --recover: that mends the others.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Salvare il disegno e aprirlo con --recover: così si riparano gli altri.</translation>
     </message>
     <message>
         <source>Enter name of drawing to open: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nome del disegno da aprire: </translation>
     </message>
     <message>
         <source>Enter template file name or [. (for none)] &lt;.&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nome del file modello o [. (for none)] &lt;.&gt;: </translation>
     </message>
     <message>
         <source>Cannot find template &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile trovare il modello &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>Save changes to %1? [Yes/No/Cancel] &lt;Yes&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Salvare le modifiche a %1? [Yes/No/Cancel] &lt;Yes&gt;: </translation>
     </message>
     <message>
         <source>Really want to discard all changes to drawing? [Yes/No] &lt;No&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Scartare davvero tutte le modifiche al disegno? [Yes/No] &lt;No&gt;: </translation>
     </message>
     <message>
         <source>another version</source>
-        <translation type="unfinished"></translation>
+        <translation>un&apos;altra versione</translation>
     </message>
     <message>
         <source>This drawing is of %1, and this program writes no drawing in another version: nothing was written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Questo disegno è di %1, e questo programma non scrive disegni in un&apos;altra versione: non è stato scritto nulla.</translation>
     </message>
     <message>
         <source>Enter decimal places of accuracy (0 to 16) or [Objects/Binary/Version] &lt;16&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare cifre decimali di precisione (da 0 a 16) o [Objects/Binary/Version] &lt;16&gt;: </translation>
     </message>
     <message>
         <source>Enter version [%1]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare versione [%1]: </translation>
     </message>
     <message>
         <source>This program writes whole drawings with all decimal places: nothing was written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Questo programma scrive disegni interi con tutti i decimali: non è stato scritto nulla.</translation>
     </message>
     <message>
         <source>Save drawing as, or enter file format [%1/DXF] &lt;%2&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Salvare il disegno come, o digitare formato di file [%1/DXF] &lt;%2&gt;: </translation>
     </message>
     <message>
         <source>Save drawing as &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Salvare il disegno come &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>
 The rest of the script that called it is left out.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Il resto dello script chiamante viene omesso.</translation>
     </message>
     <message>
         <source>
 Too many scripts wait to be run: &quot;%1&quot; is left out.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Troppi script attendono l&apos;esecuzione: &quot;%1&quot; viene omesso.</translation>
     </message>
     <message>
         <source>Enter script file name: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nome del file di script: </translation>
     </message>
     <message>
         <source>
 Cannot read script &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Impossibile leggere lo script &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>
 Cannot read script &quot;%1&quot;: %2 (the limit is %3 MB).</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Impossibile leggere lo script &quot;%1&quot;: %2 (il limite è %3 MB).</translation>
     </message>
     <message>
         <source>No script has been run.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessuno script è stato eseguito.</translation>
     </message>
     <message>
         <source>%1 [Yes/No] &lt;%2&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>%1 [Yes/No] &lt;%2&gt;: </translation>
     </message>
     <message>
         <source>Enter a layout name</source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nome di un layout</translation>
     </message>
     <message>
         <source>Layout &quot;%1&quot; not found.</source>
-        <translation type="unfinished"></translation>
+        <translation>Layout &quot;%1&quot; non trovato.</translation>
     </message>
     <message>
         <source>Enter an output device name</source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nome di un dispositivo di output</translation>
     </message>
     <message>
         <source>There is no device &quot;%1&quot;: plots are files of PDF, PNG or SVG.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non c&apos;è nessun dispositivo &quot;%1&quot;: le stampe sono file PDF, PNG o SVG.</translation>
     </message>
     <message>
         <source>Enter paper size</source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare formato carta</translation>
     </message>
     <message>
         <source>There is no paper size &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non c&apos;è nessun formato carta &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>Enter paper units [Inches/Millimeters] &lt;Millimeters&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare unità della carta [Inches/Millimeters] &lt;Millimeters&gt;: </translation>
     </message>
     <message>
         <source>Enter drawing orientation [Portrait/Landscape] &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare orientamento del disegno [Portrait/Landscape] &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Plot upside down?</source>
-        <translation type="unfinished"></translation>
+        <translation>Stampare capovolto?</translation>
     </message>
     <message>
         <source>
 Plots stand upright here.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Qui le stampe sono sempre diritte.</translation>
     </message>
     <message>
         <source>Enter lower left corner of window &lt;0.000000,0.000000&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare angolo inferiore sinistro della finestra &lt;0.000000,0.000000&gt;: </translation>
     </message>
     <message>
         <source>Enter upper right corner of window: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare angolo superiore destro della finestra: </translation>
     </message>
     <message>
         <source>Enter plot area [%1] &lt;%2&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare area di stampa [%1] &lt;%2&gt;: </translation>
     </message>
     <message>
         <source>Enter view name: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nome della vista: </translation>
     </message>
     <message>
         <source>Cannot find view &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile trovare la vista &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>Enter plot scale (Plotted Millimeters=Drawing Units) or [Fit] &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare scala di stampa (millimetri stampati=unità disegno) o [Fit] &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no plot scale.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; non è una scala di stampa.</translation>
     </message>
     <message>
         <source>Enter plot offset (x,y) or [Center] &lt;Center&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare offset di stampa (x,y) o [Center] &lt;Center&gt;: </translation>
     </message>
     <message>
         <source>Plot with plot styles?</source>
-        <translation type="unfinished"></translation>
+        <translation>Stampare con stili di stampa?</translation>
     </message>
     <message>
         <source>Enter plot style table name</source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nome della tabella stili di stampa</translation>
     </message>
     <message>
         <source>Plot with lineweights?</source>
-        <translation type="unfinished"></translation>
+        <translation>Stampare con spessori di linea?</translation>
     </message>
     <message>
         <source>Enter shade plot setting [As displayed/Wireframe/Hidden/Visual styles/Rendered] &lt;As displayed&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare impostazione di stampa ombreggiata [As displayed/Wireframe/Hidden/Visual styles/Rendered] &lt;As displayed&gt;: </translation>
     </message>
     <message>
         <source>Scale lineweights with plot scale?</source>
-        <translation type="unfinished"></translation>
+        <translation>Scalare gli spessori di linea con la scala di stampa?</translation>
     </message>
     <message>
         <source>Plot paper space first?</source>
-        <translation type="unfinished"></translation>
+        <translation>Stampare prima lo spazio carta?</translation>
     </message>
     <message>
         <source>Hide paperspace objects?</source>
-        <translation type="unfinished"></translation>
+        <translation>Nascondere gli oggetti dello spazio carta?</translation>
     </message>
     <message>
         <source>Enter file name &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nome del file &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Save changes to page setup?</source>
-        <translation type="unfinished"></translation>
+        <translation>Salvare le modifiche all&apos;impostazione di pagina?</translation>
     </message>
     <message>
         <source>Proceed with plot</source>
-        <translation type="unfinished"></translation>
+        <translation>Procedere con la stampa</translation>
     </message>
     <message>
         <source>Enter a page setup name &lt;&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nome di un&apos;impostazione di pagina &lt;&gt;: </translation>
     </message>
     <message>
         <source>Detailed plot configuration?</source>
-        <translation type="unfinished"></translation>
+        <translation>Configurazione dettagliata della stampa?</translation>
     </message>
     <message>
         <source>
 Plotted to %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Stampato su %1.</translation>
     </message>
     <message>
         <source>Cannot find plot style table &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile trovare la tabella stili di stampa &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>
 Some of what the drawing holds is not drawn, or in part.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Parte del contenuto del disegno non viene disegnata, o solo parzialmente.</translation>
     </message>
     <message>
         <source>Purge %1 &quot;%2&quot;? [Yes/No] &lt;No&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Eliminare %1 &quot;%2&quot;? [Yes/No] &lt;No&gt;: </translation>
     </message>
     <message>
         <source>
 Deleting %1 &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Eliminazione di %1 &quot;%2&quot;.</translation>
     </message>
     <message>
         <source>Enter name(s) to purge &lt;*&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nomi da eliminare &lt;*&gt;: </translation>
     </message>
     <message>
         <source>Verify each name to be purged? [Yes/No] &lt;Yes&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Verificare ogni nome da eliminare? [Yes/No] &lt;Yes&gt;: </translation>
     </message>
     <message>
         <source>
 Nothing unreferenced found.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Nessun elemento senza riferimenti trovato.</translation>
     </message>
     <message>
         <source>
 %1 orphaned objects deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 oggetti orfani eliminati.</translation>
     </message>
     <message>
         <source>
 %1 entities without length deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 entità di lunghezza nulla eliminate.</translation>
     </message>
     <message>
         <source>
 %1 empty texts deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 testi vuoti eliminati.</translation>
     </message>
     <message>
         <source>
 No unreferenced %1 found.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Nessun elemento senza riferimenti trovato: %1.</translation>
     </message>
     <message>
         <source>Enter type of unused objects to purge [Blocks/DEtailviewstyles/Dimstyles/Groups/LAyers/LTypes/MAterials/MUltileaderstyles/Plotstyles/SHapes/textSTyles/Mlinestyles/SEctionviewstyles/Tablestyles/Visualstyles/Regapps/Zero-length geometry/Empty text objects/Orphaned data/All]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare tipo di oggetti inutilizzati da eliminare [Blocks/DEtailviewstyles/Dimstyles/Groups/LAyers/LTypes/MAterials/MUltileaderstyles/Plotstyles/SHapes/textSTyles/Mlinestyles/SEctionviewstyles/Tablestyles/Visualstyles/Regapps/Zero-length geometry/Empty text objects/Orphaned data/All]: </translation>
     </message>
     <message>
         <source>block</source>
-        <translation type="unfinished"></translation>
+        <translation>blocco</translation>
     </message>
     <message>
         <source>dimension style</source>
-        <translation type="unfinished"></translation>
+        <translation>stile di quota</translation>
     </message>
     <message>
         <source>layer</source>
-        <translation type="unfinished"></translation>
+        <translation>layer</translation>
     </message>
     <message>
         <source>linetype</source>
-        <translation type="unfinished"></translation>
+        <translation>tipo di linea</translation>
     </message>
     <message>
         <source>material</source>
-        <translation type="unfinished"></translation>
+        <translation>materiale</translation>
     </message>
     <message>
         <source>multileader style</source>
-        <translation type="unfinished"></translation>
+        <translation>stile multidirettrice</translation>
     </message>
     <message>
         <source>text style</source>
-        <translation type="unfinished"></translation>
+        <translation>stile di testo</translation>
     </message>
     <message>
         <source>table style</source>
-        <translation type="unfinished"></translation>
+        <translation>stile di tabella</translation>
     </message>
     <message>
         <source>UCS</source>
-        <translation type="unfinished"></translation>
+        <translation>UCS</translation>
     </message>
     <message>
         <source>view</source>
-        <translation type="unfinished"></translation>
+        <translation>vista</translation>
     </message>
     <message>
         <source>viewport</source>
-        <translation type="unfinished"></translation>
+        <translation>finestra</translation>
     </message>
     <message>
         <source>layout</source>
-        <translation type="unfinished"></translation>
+        <translation>layout</translation>
     </message>
     <message>
         <source>Enter object type to rename [Block/Dimstyle/LAyer/LType/Material/multileadersTyle/Style/Tablestyle/Ucs/VIew/VPort]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare tipo di oggetto da rinominare [Block/Dimstyle/LAyer/LType/Material/multileadersTyle/Style/Tablestyle/Ucs/VIew/VPort]: </translation>
     </message>
     <message>
         <source>Enter old %1 name: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare vecchio nome di %1: </translation>
     </message>
     <message>
         <source>Enter new %1 name: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nuovo nome di %1: </translation>
     </message>
     <message>
         <source>Enter command name: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nome del comando: </translation>
     </message>
     <message>
         <source>Unknown command &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Comando sconosciuto &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>
 %1 is a command already.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 è già un comando.</translation>
     </message>
     <message>
         <source>
 Saved to %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Salvato in %1.</translation>
     </message>
     <message>
         <source>Save all the same, or under another name? [Anyway/Name/Cancel] &lt;Cancel&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Salvare comunque o con un altro nome? [Anyway/Name/Cancel] &lt;Cancel&gt;: </translation>
     </message>
     <message>
         <source>Save under another name? [Name/Cancel] &lt;Cancel&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Salvare con un altro nome? [Name/Cancel] &lt;Cancel&gt;: </translation>
     </message>
     <message>
         <source>Nothing was written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non è stato scritto nulla.</translation>
     </message>
     <message>
         <source>Save drawing as: </source>
-        <translation type="unfinished"></translation>
+        <translation>Salvare il disegno come: </translation>
     </message>
     <message>
         <source>%1 cannot be set to that value.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 non può assumere quel valore.</translation>
     </message>
     <message>
         <source>Enter mode [ON/OFF] &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare modo [ON/OFF] &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Specify horizontal spacing(X) &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare spaziatura orizzontale(X) &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Specify vertical spacing(Y) &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare spaziatura verticale(Y) &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Specify grid spacing(X) or [ON/OFF/Snap/Aspect]</source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare spaziatura della griglia(X) o [ON/OFF/Snap/Aspect]</translation>
     </message>
     <message>
         <source>Specify snap spacing or [ON/OFF/Aspect/Rotate/Style/Type]</source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare spaziatura dello snap o [ON/OFF/Aspect/Rotate/Style/Type]</translation>
     </message>
     <message>
         <source>Specify base point &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare punto base &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Enter snap grid style [Standard/Isometric] &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare stile della griglia di snap [Standard/Isometric] &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Specify vertical spacing</source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare spaziatura verticale</translation>
     </message>
     <message>
         <source>Specify snap spacing or [Aspect]</source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare spaziatura dello snap o [Aspect]</translation>
     </message>
     <message>
         <source>Enter snap type [Polar/Grid] &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare tipo di snap [Polar/Grid] &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Enter isometric plane setting [Left/Top/Right] &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare piano isometrico [Left/Top/Right] &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>
 Current Isoplane: </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Piano isometrico corrente: </translation>
     </message>
     <message>
         <source>Specify lower left corner or [ON/OFF] &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare angolo inferiore sinistro o [ON/OFF] &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Specify upper right corner &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare angolo superiore destro &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Specify new default elevation &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare nuova elevazione di default &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Specify new default thickness &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare nuovo spessore di default &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Enter default object color [Truecolor/COlorbook] &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare colore di default degli oggetti [Truecolor/COlorbook] &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>New objects take colors by number or name here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Qui i nuovi oggetti prendono i colori per numero o nome.</translation>
     </message>
     <message>
         <source>
 Everything has been undone.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Tutto è stato annullato.</translation>
     </message>
     <message>
         <source>Enter UNDO Auto mode [ON/OFF] &lt;ON&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare modo Auto di UNDO [ON/OFF] &lt;ON&gt;: </translation>
     </message>
     <message>
         <source>Enter an UNDO control option [All/None/One/Combine/Layer] &lt;All&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare un&apos;opzione di controllo di UNDO [All/None/One/Combine/Layer] &lt;All&gt;: </translation>
     </message>
     <message>
         <source>Combine zoom and pan operations? [Yes/No] &lt;Yes&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Combinare operazioni di zoom e pan? [Yes/No] &lt;Yes&gt;: </translation>
     </message>
     <message>
         <source>Combine layer property changes? [Yes/No] &lt;Yes&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Combinare modifiche delle proprietà dei layer? [Yes/No] &lt;Yes&gt;: </translation>
     </message>
     <message>
         <source>
 Undo is always on.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+L&apos;annullamento è sempre attivo.</translation>
     </message>
     <message>
         <source>This will undo everything. OK? [Yes/No] &lt;Yes&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Questo annullerà tutto. Va bene? [Yes/No] &lt;Yes&gt;: </translation>
     </message>
     <message>
         <source>Enter the number of operations to undo or [Auto/Control/BEgin/End/Mark/Back] &lt;1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare numero di operazioni da annullare o [Auto/Control/BEgin/End/Mark/Back] &lt;1&gt;: </translation>
     </message>
     <message>
         <source>
 There is nothing to redo.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Non c&apos;è nulla da ripristinare.</translation>
     </message>
     <message>
         <source>Enter number of actions or [All/Last]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare numero di azioni o [All/Last]: </translation>
     </message>
     <message>
         <source>
 There is nothing to bring back.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Non c&apos;è nulla da recuperare.</translation>
     </message>
     <message>
         <source>Enter command name to repeat: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nome del comando da ripetere: </translation>
     </message>
     <message>
         <source>Unknown command &quot;%1&quot;: only built-in ones are repeated.</source>
-        <translation type="unfinished"></translation>
+        <translation>Comando sconosciuto &quot;%1&quot;: si ripetono solo quelli incorporati.</translation>
     </message>
     <message>
         <source>Requires an integer between %1 and %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Occorre un intero fra %1 e %2.</translation>
     </message>
     <message>
         <source>Enter denominator of smallest fraction to display (1, 2, 4, 8, 16, 32, 64, 128, or 256) &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare denominatore della frazione più piccola da visualizzare (1, 2, 4, 8, 16, 32, 64, 128 o 256) &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Requires a power of two up to 256.</source>
-        <translation type="unfinished"></translation>
+        <translation>Occorre una potenza di due fino a 256.</translation>
     </message>
     <message>
         <source>
 Report formats: 1. Scientific  2. Decimal  3. Engineering  4. Architectural  5. Fractional</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Formati: 1. Scientifico  2. Decimale  3. Ingegneria  4. Architettonico  5. Frazionario</translation>
     </message>
     <message>
         <source>Enter choice, 1 to 5</source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare scelta, da 1 a 5</translation>
     </message>
     <message>
         <source>Enter number of digits to right of decimal point (0 to 8)</source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare numero di cifre decimali (da 0 a 8)</translation>
     </message>
     <message>
         <source>
 Systems of angle measure: 1. Decimal degrees  2. Degrees/minutes/seconds  3. Grads  4. Radians  5. Surveyor&apos;s units</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Sistemi di misura angolare: 1. Gradi decimali  2. Gradi/primi/secondi  3. Gradi centesimali  4. Radianti  5. Unità topografiche</translation>
     </message>
     <message>
         <source>Enter number of fractional places for display of angles (0 to 8)</source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare numero di decimali per gli angoli (da 0 a 8)</translation>
     </message>
     <message>
         <source>Enter direction for angle 0 &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare direzione dell&apos;angolo 0 &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Measure angles clockwise? [Yes/No] &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Misurare gli angoli in senso orario? [Yes/No] &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>%1 mm</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 mm</translation>
     </message>
     <message>
         <source>
 Current lineweight: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Spessore di linea corrente: %1</translation>
     </message>
     <message>
         <source>Enter default lineweight for new objects or [?]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare spessore di linea di default per i nuovi oggetti o [?]: </translation>
     </message>
     <message>
         <source>
 ByLayer, ByBlock, Default, or 0.00 to 2.11 mm</source>
-        <translation type="unfinished"></translation>
+        <translation>
+DaLayer, DaBlocco, Default o da 0.00 a 2.11 mm</translation>
     </message>
     <message>
         <source>from point,</source>
-        <translation type="unfinished"></translation>
+        <translation>dal punto,</translation>
     </message>
     <message>
         <source>  to point,</source>
-        <translation type="unfinished"></translation>
+        <translation>  al punto,</translation>
     </message>
     <message>
         <source>Length = %1,  Angle in XY Plane = %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Lunghezza = %1,  Angolo nel piano XY = %2</translation>
     </message>
     <message>
         <source>Delta X = %1, Delta Y = %2, Delta Z = %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Delta X = %1, Delta Y = %2, Delta Z = %3</translation>
     </message>
     <message>
         <source>at point,</source>
-        <translation type="unfinished"></translation>
+        <translation>nel punto,</translation>
     </message>
     <message>
         <source>base point,</source>
-        <translation type="unfinished"></translation>
+        <translation>punto base,</translation>
     </message>
     <message>
         <source>through point,</source>
-        <translation type="unfinished"></translation>
+        <translation>passa per il punto,</translation>
     </message>
     <message>
         <source>center point,</source>
-        <translation type="unfinished"></translation>
+        <translation>punto centrale,</translation>
     </message>
     <message>
         <source>start angle</source>
-        <translation type="unfinished"></translation>
+        <translation>angolo iniziale</translation>
     </message>
     <message>
         <source>end angle</source>
-        <translation type="unfinished"></translation>
+        <translation>angolo finale</translation>
     </message>
     <message>
         <source>Center:</source>
-        <translation type="unfinished"></translation>
+        <translation>Centro:</translation>
     </message>
     <message>
         <source>Major Axis:</source>
-        <translation type="unfinished"></translation>
+        <translation>Asse maggiore:</translation>
     </message>
     <message>
         <source>at point</source>
-        <translation type="unfinished"></translation>
+        <translation>nel punto</translation>
     </message>
     <message>
         <source>Constant width</source>
-        <translation type="unfinished"></translation>
+        <translation>Larghezza costante</translation>
     </message>
     <message>
         <source>first point</source>
-        <translation type="unfinished"></translation>
+        <translation>primo punto</translation>
     </message>
     <message>
         <source>second point</source>
-        <translation type="unfinished"></translation>
+        <translation>secondo punto</translation>
     </message>
     <message>
         <source>third point</source>
-        <translation type="unfinished"></translation>
+        <translation>terzo punto</translation>
     </message>
     <message>
         <source>fourth point</source>
-        <translation type="unfinished"></translation>
+        <translation>quarto punto</translation>
     </message>
     <message>
         <source>Control Point:</source>
-        <translation type="unfinished"></translation>
+        <translation>Punto di controllo:</translation>
     </message>
     <message>
         <source>Fit Point:</source>
-        <translation type="unfinished"></translation>
+        <translation>Punto di adattamento:</translation>
     </message>
     <message>
         <source>alignment point,</source>
-        <translation type="unfinished"></translation>
+        <translation>punto di allineamento,</translation>
     </message>
     <message>
         <source>start point,</source>
-        <translation type="unfinished"></translation>
+        <translation>punto iniziale,</translation>
     </message>
     <message>
         <source>rotation angle</source>
-        <translation type="unfinished"></translation>
+        <translation>angolo di rotazione</translation>
     </message>
     <message>
         <source>width scale</source>
-        <translation type="unfinished"></translation>
+        <translation>scala di larghezza</translation>
     </message>
     <message>
         <source>obliquing angle</source>
-        <translation type="unfinished"></translation>
+        <translation>angolo di inclinazione</translation>
     </message>
     <message>
         <source>Location:</source>
-        <translation type="unfinished"></translation>
+        <translation>Posizione:</translation>
     </message>
     <message>
         <source>Text style</source>
-        <translation type="unfinished"></translation>
+        <translation>Stile di testo</translation>
     </message>
     <message>
         <source>Text height</source>
-        <translation type="unfinished"></translation>
+        <translation>Altezza testo</translation>
     </message>
     <message>
         <source>X scale factor</source>
-        <translation type="unfinished"></translation>
+        <translation>Fattore di scala X</translation>
     </message>
     <message>
         <source>Y scale factor</source>
-        <translation type="unfinished"></translation>
+        <translation>Fattore di scala Y</translation>
     </message>
     <message>
         <source>Z scale factor</source>
-        <translation type="unfinished"></translation>
+        <translation>Fattore di scala Z</translation>
     </message>
     <message>
         <source>number of columns</source>
-        <translation type="unfinished"></translation>
+        <translation>numero di colonne</translation>
     </message>
     <message>
         <source>number of rows</source>
-        <translation type="unfinished"></translation>
+        <translation>numero di righe</translation>
     </message>
     <message>
         <source>between columns</source>
-        <translation type="unfinished"></translation>
+        <translation>fra le colonne</translation>
     </message>
     <message>
         <source>between rows</source>
-        <translation type="unfinished"></translation>
+        <translation>fra le righe</translation>
     </message>
     <message>
         <source>arc length</source>
-        <translation type="unfinished"></translation>
+        <translation>lunghezza dell&apos;arco</translation>
     </message>
     <message>
         <source>jogged radius</source>
-        <translation type="unfinished"></translation>
+        <translation>raggio ridotto</translation>
     </message>
     <message>
         <source>defining point:</source>
-        <translation type="unfinished"></translation>
+        <translation>punto di definizione:</translation>
     </message>
     <message>
         <source>Hatch pattern</source>
-        <translation type="unfinished"></translation>
+        <translation>Modello di tratteggio</translation>
     </message>
     <message>
         <source>Hatch scale</source>
-        <translation type="unfinished"></translation>
+        <translation>Scala del tratteggio</translation>
     </message>
     <message>
         <source>Hatch angle</source>
-        <translation type="unfinished"></translation>
+        <translation>Angolo del tratteggio</translation>
     </message>
     <message>
         <source>Scale relative to Paper space</source>
-        <translation type="unfinished"></translation>
+        <translation>Scala relativa allo spazio carta</translation>
     </message>
     <message>
         <source>Bounding Box: Lower Bound</source>
-        <translation type="unfinished"></translation>
+        <translation>Riquadro di delimitazione: limite inferiore</translation>
     </message>
     <message>
         <source>Area:</source>
-        <translation type="unfinished"></translation>
+        <translation>Area:</translation>
     </message>
     <message>
         <source>Perimeter:</source>
-        <translation type="unfinished"></translation>
+        <translation>Perimetro:</translation>
     </message>
     <message>
         <source>Color:</source>
-        <translation type="unfinished"></translation>
+        <translation>Colore:</translation>
     </message>
     <message>
         <source>Linetype:</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipo di linea:</translation>
     </message>
     <message>
         <source>Linetype scale</source>
-        <translation type="unfinished"></translation>
+        <translation>Scala tipo di linea</translation>
     </message>
     <message>
         <source>Lineweight:</source>
-        <translation type="unfinished"></translation>
+        <translation>Spessore di linea:</translation>
     </message>
     <message>
         <source>%1  Layer: &quot;%2&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>%1  Layer: &quot;%2&quot;</translation>
     </message>
     <message>
         <source>Space:</source>
-        <translation type="unfinished"></translation>
+        <translation>Spazio:</translation>
     </message>
     <message>
         <source>Model space</source>
-        <translation type="unfinished"></translation>
+        <translation>Spazio modello</translation>
     </message>
     <message>
         <source>Paper space</source>
-        <translation type="unfinished"></translation>
+        <translation>Spazio carta</translation>
     </message>
     <message>
         <source>Layout:</source>
-        <translation type="unfinished"></translation>
+        <translation>Layout:</translation>
     </message>
     <message>
         <source>Handle =</source>
-        <translation type="unfinished"></translation>
+        <translation>Handle =</translation>
     </message>
     <message>
         <source>
 Distance = %1,  Angle in XY Plane = %2,  Angle from XY Plane = %3</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Distanza = %1,  Angolo nel piano XY = %2,  Angolo dal piano XY = %3</translation>
     </message>
     <message>
         <source>
 Delta X = %1,  Delta Y = %2,   Delta Z = %3</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Delta X = %1,  Delta Y = %2,   Delta Z = %3</translation>
     </message>
     <message>
         <source>Specify next point or [Close/Undo/Total] &lt;Total&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare punto successivo o [Close/Undo/Total] &lt;Total&gt;: </translation>
     </message>
     <message>
         <source>
 Distance = %1</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Distanza = %1</translation>
     </message>
     <message>
         <source>Specify second point or [Multiple points]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare secondo punto o [Multiple points]: </translation>
     </message>
     <message>
         <source>%1 days %2:%3:%4</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 giorni %2:%3:%4</translation>
     </message>
     <message>
         <source>
 Current time:             </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Ora corrente:             </translation>
     </message>
     <message>
         <source>
 Times for this drawing:</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Tempi per questo disegno:</translation>
     </message>
     <message>
         <source>
   Created:                </source>
-        <translation type="unfinished"></translation>
+        <translation>
+  Creato:                </translation>
     </message>
     <message>
         <source>
   Last updated:           </source>
-        <translation type="unfinished"></translation>
+        <translation>
+  Ultimo aggiornamento:           </translation>
     </message>
     <message>
         <source>
   Total editing time:     </source>
-        <translation type="unfinished"></translation>
+        <translation>
+  Tempo totale di modifica:     </translation>
     </message>
     <message>
         <source>
   Elapsed timer:          </source>
-        <translation type="unfinished"></translation>
+        <translation>
+  Cronometro:          </translation>
     </message>
     <message>
         <source>
 %1 objects in %2</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 oggetti in %2</translation>
     </message>
     <message>
         <source>Limits are, low</source>
-        <translation type="unfinished"></translation>
+        <translation>Limiti, inferiore</translation>
     </message>
     <message>
         <source>Limits are, high</source>
-        <translation type="unfinished"></translation>
+        <translation>Limiti, superiore</translation>
     </message>
     <message>
         <source>Uses, low</source>
-        <translation type="unfinished"></translation>
+        <translation>Estensioni, inferiore</translation>
     </message>
     <message>
         <source>Uses, high</source>
-        <translation type="unfinished"></translation>
+        <translation>Estensioni, superiore</translation>
     </message>
     <message>
         <source>Insertion base is</source>
@@ -4250,1249 +4339,1306 @@ Times for this drawing:</source>
     </message>
     <message>
         <source>Current space:</source>
-        <translation type="unfinished"></translation>
+        <translation>Spazio corrente:</translation>
     </message>
     <message>
         <source>Current layer:</source>
-        <translation type="unfinished"></translation>
+        <translation>Layer corrente:</translation>
     </message>
     <message>
         <source>Current color:</source>
-        <translation type="unfinished"></translation>
+        <translation>Colore corrente:</translation>
     </message>
     <message>
         <source>Current linetype:</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipo di linea corrente:</translation>
     </message>
     <message>
         <source>Current elevation:</source>
-        <translation type="unfinished"></translation>
+        <translation>Elevazione corrente:</translation>
     </message>
     <message>
         <source>Thickness:</source>
-        <translation type="unfinished"></translation>
+        <translation>Spessore:</translation>
     </message>
     <message>
         <source>A drawing of this version has no such property of layers.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un disegno di questa versione non ha tale proprietà dei layer.</translation>
     </message>
     <message>
         <source>New color [Truecolor/COlorbook] &lt;7 (white)&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Nuovo colore [Truecolor/COlorbook] &lt;7 (bianco)&gt;: </translation>
     </message>
     <message>
         <source>Enter loaded linetype name or [?] &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nome di un tipo di linea caricato o [?] &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Linetype &quot;%1&quot; not found.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipo di linea &quot;%1&quot; non trovato.</translation>
     </message>
     <message>
         <source>linetype &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>tipo di linea &quot;%1&quot;</translation>
     </message>
     <message>
         <source>Enter lineweight (0.0mm - 2.11mm) or [Default]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare spessore di linea (0.0mm - 2.11mm) o [Default]: </translation>
     </message>
     <message>
         <source>Enter transparency value (0-90): </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare valore di trasparenza (0-90): </translation>
     </message>
     <message>
         <source>transparency value %1</source>
-        <translation type="unfinished"></translation>
+        <translation>valore di trasparenza %1</translation>
     </message>
     <message>
         <source>Enter material name &lt;Global&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nome del materiale &lt;Global&gt;: </translation>
     </message>
     <message>
         <source>Cannot find material &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile trovare il materiale &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>material &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>materiale &quot;%1&quot;</translation>
     </message>
     <message>
         <source>Enter a plotting preference [Plot/No plot] &lt;Plot&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare preferenza di stampa [Plot/No plot] &lt;Plot&gt;: </translation>
     </message>
     <message>
         <source>this plot preference</source>
-        <translation type="unfinished"></translation>
+        <translation>questa preferenza di stampa</translation>
     </message>
     <message>
         <source>Enter layer description: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare descrizione del layer: </translation>
     </message>
     <message>
         <source>this description</source>
-        <translation type="unfinished"></translation>
+        <translation>questa descrizione</translation>
     </message>
     <message>
         <source>This program keeps no named plot styles: nothing was changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Questo programma non conserva stili di stampa con nome: nulla è stato modificato.</translation>
     </message>
     <message>
         <source>
 No matching layer names found.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Nessun nome di layer corrispondente trovato.</translation>
     </message>
     <message>
         <source>
 Cannot freeze layer &quot;%1&quot;. It is the current layer.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Impossibile congelare il layer &quot;%1&quot;. È il layer corrente.</translation>
     </message>
     <message>
         <source>Enter name list of layer(s) to turn on: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare elenco dei layer da attivare: </translation>
     </message>
     <message>
         <source>Enter name list of layer(s) to turn off: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare elenco dei layer da disattivare: </translation>
     </message>
     <message>
         <source>Enter name list of layer(s) to freeze: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare elenco dei layer da congelare: </translation>
     </message>
     <message>
         <source>Enter name list of layer(s) to thaw: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare elenco dei layer da scongelare: </translation>
     </message>
     <message>
         <source>Enter name list of layer(s) to lock: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare elenco dei layer da bloccare: </translation>
     </message>
     <message>
         <source>Enter name list of layer(s) to unlock: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare elenco dei layer da sbloccare: </translation>
     </message>
     <message>
         <source>Really want layer &quot;%1&quot; (the CURRENT layer) off? [Yes/No] &lt;No&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Disattivare davvero il layer &quot;%1&quot; (il layer CORRENTE)? [Yes/No] &lt;No&gt;: </translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be the name of a layer.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; non può essere il nome di un layer.</translation>
     </message>
     <message>
         <source>Cannot make layer &quot;%1&quot; current: it is frozen.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile rendere corrente il layer &quot;%1&quot;: è congelato.</translation>
     </message>
     <message>
         <source>Enter name for new layer (becomes the current layer) &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nome del nuovo layer (diventa il layer corrente) &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Enter layer name to make current or &lt;select object&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nome del layer da rendere corrente o &lt;selezionare oggetto&gt;: </translation>
     </message>
     <message>
         <source>Enter name list for new layer(s): </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare elenco di nomi dei nuovi layer: </translation>
     </message>
     <message>
         <source>Enter old layer name: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare vecchio nome del layer: </translation>
     </message>
     <message>
         <source>Enter layer name(s) to list &lt;*&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nomi di layer da elencare &lt;*&gt;: </translation>
     </message>
     <message>
         <source>
 Layer name  State  Color  Linetype  Lineweight</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Nome layer  Stato  Colore  Tipo di linea  Spessore di linea</translation>
     </message>
     <message>
         <source>
 Current layer:  &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Layer corrente:  &quot;%1&quot;</translation>
     </message>
     <message>
         <source>Enter name list of layer(s) to reconcile: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare elenco dei layer da riconciliare: </translation>
     </message>
     <message>
         <source>
 No unreconciled layers.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Nessun layer non riconciliato.</translation>
     </message>
     <message>
         <source>Enter name list of layer(s) for %1 &lt;%2&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare elenco dei layer per %1 &lt;%2&gt;: </translation>
     </message>
     <message>
         <source>Enter an option [?/Make/Set/New/Rename/ON/OFF/Color/Ltype/LWeight/TRansparency/MATerial/Plot/PStyle/Freeze/Thaw/LOck/Unlock/stAte/Description/rEconcile]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare un&apos;opzione [?/Make/Set/New/Rename/ON/OFF/Color/Ltype/LWeight/TRansparency/MATerial/Plot/PStyle/Freeze/Thaw/LOck/Unlock/stAte/Description/rEconcile]: </translation>
     </message>
     <message>
         <source>
 States to restore: </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Stati da ripristinare: </translation>
     </message>
     <message>
         <source>Enter states to change [On/Frozen/Lock/Plot/Newvpfreeze/Color/lineType/lineWeight/plotStyle/TRansparency]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare stati da cambiare [On/Frozen/Lock/Plot/Newvpfreeze/Color/lineType/lineWeight/plotStyle/TRansparency]: </translation>
     </message>
     <message>
         <source>
 No layer states.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Nessuno stato dei layer.</translation>
     </message>
     <message>
         <source>
 Layer states: </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Stati dei layer: </translation>
     </message>
     <message>
         <source>Cannot find layer state &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile trovare lo stato dei layer &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>Enter new layer state name: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nome del nuovo stato dei layer: </translation>
     </message>
     <message>
         <source>A drawing of this version keeps no layer states.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un disegno di questa versione non conserva stati dei layer.</translation>
     </message>
     <message>
         <source>Enter name of layer state to restore or [?]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nome dello stato dei layer da ripristinare o [?]: </translation>
     </message>
     <message>
         <source>Enter name of layer state to edit or [?]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nome dello stato dei layer da modificare o [?]: </translation>
     </message>
     <message>
         <source>Enter name of layer state to rename or [?]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nome dello stato dei layer da rinominare o [?]: </translation>
     </message>
     <message>
         <source>Layer state &quot;%1&quot; already exists or cannot be one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo stato dei layer &quot;%1&quot; esiste già o non può essere tale.</translation>
     </message>
     <message>
         <source>Enter name of layer state to delete or [?]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nome dello stato dei layer da eliminare o [?]: </translation>
     </message>
     <message>
         <source>Enter name of file to import: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nome del file da importare: </translation>
     </message>
     <message>
         <source>No layer state was taken from &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessuno stato dei layer è stato preso da &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>
 Layer state &quot;%1&quot; imported.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Stato dei layer &quot;%1&quot; importato.</translation>
     </message>
     <message>
         <source>Enter name of layer state to export or [?]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nome dello stato dei layer da esportare o [?]: </translation>
     </message>
     <message>
         <source>Enter name of file to export: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nome del file di esportazione: </translation>
     </message>
     <message>
         <source>Enter an option [?/Save/Restore/Edit/Name/Delete/Import/EXport]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare un&apos;opzione [?/Save/Restore/Edit/Name/Delete/Import/EXport]: </translation>
     </message>
     <message>
         <source>
 Cannot read linetype file &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Impossibile leggere il file di tipi di linea &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>
 Cannot read linetype file &quot;%1&quot;: %2 (the limit is %3 MB).</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Impossibile leggere il file di tipi di linea &quot;%1&quot;: %2 (il limite è %3 MB).</translation>
     </message>
     <message>
         <source>
 Linetype &quot;%1&quot; not loaded: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Tipo di linea &quot;%1&quot; non caricato: %2.</translation>
     </message>
     <message>
         <source>
 Linetype &quot;%1&quot; not found.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Tipo di linea &quot;%1&quot; non trovato.</translation>
     </message>
     <message>
         <source>Enter an option [?/Load/Set]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare un&apos;opzione [?/Load/Set]: </translation>
     </message>
     <message>
         <source>Specify linetype name: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare nome del tipo di linea: </translation>
     </message>
     <message>
         <source>Enter linetype(s) to load: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare tipi di linea da caricare: </translation>
     </message>
     <message>
         <source>Enter name of linetype file: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nome del file di tipi di linea: </translation>
     </message>
     <message>
         <source>
 No matching linetypes found.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Nessun tipo di linea corrispondente trovato.</translation>
     </message>
     <message>
         <source>Linetype &quot;%1&quot; is already loaded. Reload it? [Yes/No] &lt;Yes&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Il tipo di linea &quot;%1&quot; è già caricato. Ricaricarlo? [Yes/No] &lt;Yes&gt;: </translation>
     </message>
     <message>
         <source>Enter setting for layers not isolated [Off/Lock and fade] &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare impostazione per i layer non isolati [Off/Lock and fade] &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>In paper space viewport use [Vpfreeze/Off] &lt;Vpfreeze&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Nelle finestre dello spazio carta usare [Vpfreeze/Off] &lt;Vpfreeze&gt;: </translation>
     </message>
     <message>
         <source>Enter fade value (0-90) &lt;50&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare valore di dissolvenza (0-90) &lt;50&gt;: </translation>
     </message>
     <message>
         <source>
 Layer &quot;%1&quot; has been isolated.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Il layer &quot;%1&quot; è stato isolato.</translation>
     </message>
     <message>
         <source>
 %1 layers have been isolated.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 layer sono stati isolati.</translation>
     </message>
     <message>
         <source>
 Current setting: Hide layers, Viewports=Vpfreeze</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Impostazione corrente: nascondi layer, finestre=Vpfreeze</translation>
     </message>
     <message>
         <source>
 Current setting: Lock layers, Fade=50</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Impostazione corrente: blocca layer, dissolvenza=50</translation>
     </message>
     <message>
         <source>Select objects on the layer(s) to be isolated or [Settings]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Selezionare oggetti sui layer da isolare o [Settings]: </translation>
     </message>
     <message>
         <source>Nothing was selected.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nulla è stato selezionato.</translation>
     </message>
     <message>
         <source>
 No layers are isolated.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Nessun layer è isolato.</translation>
     </message>
     <message>
         <source>
 Layers isolated by LAYISO command have been restored.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+I layer isolati con il comando LAYISO sono stati ripristinati.</translation>
     </message>
     <message>
         <source>
 There is no previous state of the layers.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Non c&apos;è uno stato precedente dei layer.</translation>
     </message>
     <message>
         <source>
 Restored previous layer status.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Stato precedente dei layer ripristinato.</translation>
     </message>
     <message>
         <source>Select an object on the layer to be frozen or [Settings/Undo]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Selezionare un oggetto sul layer da congelare o [Settings/Undo]: </translation>
     </message>
     <message>
         <source>
 Layer &quot;%1&quot; has been frozen.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Il layer &quot;%1&quot; è stato congelato.</translation>
     </message>
     <message>
         <source>Select an object on the layer to be turned off or [Settings/Undo]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Selezionare un oggetto sul layer da disattivare o [Settings/Undo]: </translation>
     </message>
     <message>
         <source>
 Layer &quot;%1&quot; has been turned off.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Il layer &quot;%1&quot; è stato disattivato.</translation>
     </message>
     <message>
         <source>Enter setting type for [Viewports/Block selection]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare tipo di impostazione per [Viewports/Block selection]: </translation>
     </message>
     <message>
         <source>In paper space viewport use [Vpfreeze/Freeze/Off] &lt;Vpfreeze&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Nelle finestre dello spazio carta usare [Vpfreeze/Freeze/Off] &lt;Vpfreeze&gt;: </translation>
     </message>
     <message>
         <source>Enter block selection nesting level [Block/Entity/None] &lt;Entity&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare livello di nidificazione per la selezione di blocchi [Block/Entity/None] &lt;Entity&gt;: </translation>
     </message>
     <message>
         <source>Layer &quot;%1&quot; is current, do you want to turn it off? [Yes/No] &lt;No&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Il layer &quot;%1&quot; è corrente. Disattivarlo? [Yes/No] &lt;No&gt;: </translation>
     </message>
     <message>
         <source>
 All layers have been turned on.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Tutti i layer sono stati attivati.</translation>
     </message>
     <message>
         <source>
 All layers have been thawed.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Tutti i layer sono stati scongelati.</translation>
     </message>
     <message>
         <source>Select an object on the layer to be locked: </source>
-        <translation type="unfinished"></translation>
+        <translation>Selezionare un oggetto sul layer da bloccare: </translation>
     </message>
     <message>
         <source>Select an object on the layer to be unlocked: </source>
-        <translation type="unfinished"></translation>
+        <translation>Selezionare un oggetto sul layer da sbloccare: </translation>
     </message>
     <message>
         <source>
 Layer &quot;%1&quot; has been locked.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Il layer &quot;%1&quot; è stato bloccato.</translation>
     </message>
     <message>
         <source>
 Layer &quot;%1&quot; has been unlocked.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Il layer &quot;%1&quot; è stato sbloccato.</translation>
     </message>
     <message>
         <source>
 One object changed to layer &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Un oggetto passato al layer &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>
 %1 objects changed to layer &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 oggetti passati al layer &quot;%2&quot;.</translation>
     </message>
     <message>
         <source>Select objects to be changed to the current layer: </source>
-        <translation type="unfinished"></translation>
+        <translation>Selezionare oggetti da passare al layer corrente: </translation>
     </message>
     <message>
         <source>Select objects to be changed: </source>
-        <translation type="unfinished"></translation>
+        <translation>Selezionare oggetti da cambiare: </translation>
     </message>
     <message>
         <source>Select object on destination layer or [Name]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Selezionare oggetto sul layer di destinazione o [Name]: </translation>
     </message>
     <message>
         <source>Enter layer name: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nome del layer: </translation>
     </message>
     <message>
         <source>Select object whose layer will become current: </source>
-        <translation type="unfinished"></translation>
+        <translation>Selezionare oggetto il cui layer diventerà corrente: </translation>
     </message>
     <message>
         <source>
 %1 is now the current layer.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 è ora il layer corrente.</translation>
     </message>
     <message>
         <source>This command works through a viewport of a sheet: MSPACE goes into one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Questo comando opera attraverso una finestra di un layout: MSPACE entra in una.</translation>
     </message>
     <message>
         <source>Select an object on the layer to be isolated in viewport or [Settings/Undo]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Selezionare un oggetto sul layer da isolare nella finestra o [Settings/Undo]: </translation>
     </message>
     <message>
         <source>
 Layer &quot;%1&quot; has been frozen in all viewports but the current one.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Il layer &quot;%1&quot; è stato congelato in tutte le finestre tranne la corrente.</translation>
     </message>
     <message>
         <source>
 Selected layers: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Layer selezionati: %1.</translation>
     </message>
     <message>
         <source>Do you wish to continue? [Yes/No] &lt;No&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Continuare? [Yes/No] &lt;No&gt;: </translation>
     </message>
     <message>
         <source>Select object on layer to delete or %1: </source>
-        <translation type="unfinished"></translation>
+        <translation>Selezionare oggetto sul layer da eliminare o %1: </translation>
     </message>
     <message>
         <source>Enter layer name to delete: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nome del layer da eliminare: </translation>
     </message>
     <message>
         <source>All that is on layer(s) %1 is erased, and the layers are deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tutto ciò che è sui layer %1 viene cancellato, e i layer eliminati.</translation>
     </message>
     <message>
         <source>
 %1 layer(s) deleted with %2 object(s).</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 layer eliminato/i con %2 oggetto/i.</translation>
     </message>
     <message>
         <source>Select object on layer to merge or %1: </source>
-        <translation type="unfinished"></translation>
+        <translation>Selezionare oggetto sul layer da unire o %1: </translation>
     </message>
     <message>
         <source>Enter layer name to merge: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nome del layer da unire: </translation>
     </message>
     <message>
         <source>Select object on target layer or [Name]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Selezionare oggetto sul layer di destinazione o [Name]: </translation>
     </message>
     <message>
         <source>You are about to merge %1 layer(s) into layer &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si sta per unire %1 layer nel layer &quot;%2&quot;.</translation>
     </message>
     <message>
         <source>
 %1 layer(s) deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 layer eliminato/i.</translation>
     </message>
     <message>
         <source>Enter variable(s) to list &lt;*&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare variabili da elencare &lt;*&gt;: </translation>
     </message>
     <message>
         <source> (read only)</source>
-        <translation type="unfinished"></translation>
+        <translation> (sola lettura)</translation>
     </message>
     <message>
         <source>
 No variable has such a name.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Nessuna variabile ha questo nome.</translation>
     </message>
     <message>
         <source>Requires an integer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Occorre un intero.</translation>
     </message>
     <message>
         <source>Requires a number.</source>
-        <translation type="unfinished"></translation>
+        <translation>Occorre un numero.</translation>
     </message>
     <message>
         <source>Requires a number between %1 and %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Occorre un numero fra %1 e %2.</translation>
     </message>
     <message>
         <source>Cannot set %1 to that value.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile dare quel valore a %1.</translation>
     </message>
     <message>
         <source>Requires a point.</source>
-        <translation type="unfinished"></translation>
+        <translation>Occorre un punto.</translation>
     </message>
     <message>
         <source>Enter variable name or [?]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nome della variabile o [?]: </translation>
     </message>
     <message>
         <source>Unknown variable name &quot;%1&quot;. Type SETVAR ? for a list of variables.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nome di variabile sconosciuto &quot;%1&quot;. Digitare SETVAR ? per un elenco delle variabili.</translation>
     </message>
     <message>
         <source>
 %1 = %2 (read only)</source>
-        <translation type="unfinished"></translation>
+        <translation>
+%1 = %2 (sola lettura)</translation>
     </message>
     <message>
         <source>Enter new value for %1 &lt;%2&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nuovo valore di %1 &lt;%2&gt;: </translation>
     </message>
     <message>
         <source>
 Active layouts:</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Layout attivi:</translation>
     </message>
     <message>
         <source>
 Layout: %1	Block name: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Layout: %1	Nome del blocco: %2.</translation>
     </message>
     <message>
         <source>
 %1 active layout(s) found.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Layout attivi trovati: %1.</translation>
     </message>
     <message>
         <source>Enter name of layout to copy: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nome del layout da copiare: </translation>
     </message>
     <message>
         <source>Enter layout name for copy: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nome di layout per la copia: </translation>
     </message>
     <message>
         <source>Layout &quot;%1&quot; copied to &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Layout &quot;%1&quot; copiato in &quot;%2&quot;.</translation>
     </message>
     <message>
         <source>Enter new Layout name: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nome del nuovo layout: </translation>
     </message>
     <message>
         <source>Layout &quot;%1&quot; created.</source>
-        <translation type="unfinished"></translation>
+        <translation>Layout &quot;%1&quot; creato.</translation>
     </message>
     <message>
         <source>Enter layout to rename: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare layout da rinominare: </translation>
     </message>
     <message>
         <source>Enter new layout name: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nuovo nome del layout: </translation>
     </message>
     <message>
         <source>Layout &quot;%1&quot; renamed to &quot;%2&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Layout &quot;%1&quot; rinominato in &quot;%2&quot;.</translation>
     </message>
     <message>
         <source>Enter name of layout to delete: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nome del layout da eliminare: </translation>
     </message>
     <message>
         <source>Layout &quot;%1&quot; deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Layout &quot;%1&quot; eliminato.</translation>
     </message>
     <message>
         <source>Enter layout to make current: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare layout da rendere corrente: </translation>
     </message>
     <message>
         <source>Enter layout to move: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare layout da spostare: </translation>
     </message>
     <message>
         <source>Enter its place among the layouts: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare il suo posto fra i layout: </translation>
     </message>
     <message>
         <source>Layout &quot;%1&quot; moved.</source>
-        <translation type="unfinished"></translation>
+        <translation>Layout &quot;%1&quot; spostato.</translation>
     </message>
     <message>
         <source>Enter layout to save to template: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare layout da salvare in un modello: </translation>
     </message>
     <message>
         <source>Enter layout option [Copy/Delete/New/Template/Rename/SAveas/Set/Move/?]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare opzione di layout [Copy/Delete/New/Template/Rename/SAveas/Set/Move/?]: </translation>
     </message>
     <message>
         <source>Layout &quot;%1&quot;: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Layout &quot;%1&quot;: %2.</translation>
     </message>
     <message>
         <source>
 Layout &quot;%1&quot; created.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Layout &quot;%1&quot; creato.</translation>
     </message>
     <message>
         <source> %1 of its entities could not be taken over.</source>
-        <translation type="unfinished"></translation>
+        <translation> %1 delle sue entità non sono state acquisite.</translation>
     </message>
     <message>
         <source>Enter template file name: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nome del file modello: </translation>
     </message>
     <message>
         <source>Enter layout name(s): </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nomi dei layout: </translation>
     </message>
     <message>
         <source>Layout &quot;%1&quot; not found in %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Layout &quot;%1&quot; non trovato in %2.</translation>
     </message>
     <message>
         <source>Enter file name to save layout to: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nome del file in cui salvare il layout: </translation>
     </message>
     <message>
         <source>Enter view name to save: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nome della vista da salvare: </translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be the name of a view.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; non può essere il nome di una vista.</translation>
     </message>
     <message>
         <source>
 Specify opposite corner: </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Specificare angolo opposto: </translation>
     </message>
     <message>
         <source>The window has no area.</source>
-        <translation type="unfinished"></translation>
+        <translation>La finestra non ha area.</translation>
     </message>
     <message>
         <source>Select viewport for view: </source>
-        <translation type="unfinished"></translation>
+        <translation>Selezionare finestra per la vista: </translation>
     </message>
     <message>
         <source>The view shows model space, and no viewport was chosen for it.</source>
-        <translation type="unfinished"></translation>
+        <translation>La vista mostra lo spazio modello e nessuna finestra è stata scelta per essa.</translation>
     </message>
     <message>
         <source>Enter view name to restore: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nome della vista da ripristinare: </translation>
     </message>
     <message>
         <source>Enter view name(s) to delete: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nomi di viste da eliminare: </translation>
     </message>
     <message>
         <source>
 No matching views found.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Nessuna vista corrispondente trovata.</translation>
     </message>
     <message>
         <source>Enter view name(s) to list &lt;*&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nomi di viste da elencare &lt;*&gt;: </translation>
     </message>
     <message>
         <source>Enter an option [Top/Bottom/Front/BAck/Left/Right] &lt;Top&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare un&apos;opzione [Top/Bottom/Front/BAck/Left/Right] &lt;Top&gt;: </translation>
     </message>
     <message>
         <source>Save current UCS with named views? [Yes/No] &lt;Yes&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Salvare l&apos;UCS corrente con le viste con nome? [Yes/No] &lt;Yes&gt;: </translation>
     </message>
     <message>
         <source>
 Coordinate systems are not kept with views.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+I sistemi di coordinate non vengono conservati con le viste.</translation>
     </message>
     <message>
         <source>Enter an option [?/Delete/Orthographic/Restore/Save/Ucs/Window]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare un&apos;opzione [?/Delete/Orthographic/Restore/Save/Ucs/Window]: </translation>
     </message>
     <message>
         <source>Enter an option [Current ucs/Ucs/World] &lt;Current&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare un&apos;opzione [Current ucs/Ucs/World] &lt;Current&gt;: </translation>
     </message>
     <message>
         <source>Enter name of UCS or [?]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nome dell&apos;UCS o [?]: </translation>
     </message>
     <message>
         <source>Enter angle in XY plane from X axis: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare angolo nel piano XY dall&apos;asse X: </translation>
     </message>
     <message>
         <source>Enter angle from XY plane: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare angolo dal piano XY: </translation>
     </message>
     <message>
         <source>Specify a view point or [Rotate] &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare un punto di vista o [Rotate] &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>There is no direction from the target to itself.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non c&apos;è direzione dall&apos;obiettivo a se stesso.</translation>
     </message>
     <message>
         <source>Enter name for new viewport configuration or [?]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nome della nuova configurazione di finestre o [?]: </translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be the name of a viewport configuration.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; non può essere il nome di una configurazione di finestre.</translation>
     </message>
     <message>
         <source>Enter name of viewport configuration to restore or [?]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nome della configurazione di finestre da ripristinare o [?]: </translation>
     </message>
     <message>
         <source>Cannot find viewport configuration &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile trovare la configurazione di finestre &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>Enter name(s) of viewport configurations to delete &lt;none&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nomi di configurazioni di finestre da eliminare &lt;nessuna&gt;: </translation>
     </message>
     <message>
         <source>
 No matching viewport configurations found.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Nessuna configurazione di finestre corrispondente trovata.</translation>
     </message>
     <message>
         <source>Enter name(s) of viewport configuration(s) to list &lt;*&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nomi di configurazioni di finestre da elencare &lt;*&gt;: </translation>
     </message>
     <message>
         <source>The screen is divided into too many viewports already.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo schermo è già diviso in troppe finestre.</translation>
     </message>
     <message>
         <source>The window shows one view: the viewports to join cannot be picked.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo schermo mostra una sola vista: le finestre da unire non possono essere scelte.</translation>
     </message>
     <message>
         <source>Enter an option [Save/Restore/Delete/Join/SIngle/?/2/3/4] &lt;3&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare un&apos;opzione [Save/Restore/Delete/Join/SIngle/?/2/3/4] &lt;3&gt;: </translation>
     </message>
     <message>
         <source>** Command not allowed in Model Tab **</source>
-        <translation type="unfinished"></translation>
+        <translation>** Comando non consentito nella scheda Modello **</translation>
     </message>
     <message>
         <source>There are no active model space viewports.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non ci sono finestre dello spazio modello attive.</translation>
     </message>
     <message>
         <source>The viewport has no area.</source>
-        <translation type="unfinished"></translation>
+        <translation>La finestra non ha area.</translation>
     </message>
     <message>
         <source>Enter viewport arrangement [Horizontal/Vertical] &lt;Vertical&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare disposizione delle finestre [Horizontal/Vertical] &lt;Vertical&gt;: </translation>
     </message>
     <message>
         <source>Enter viewport arrangement [Horizontal/Vertical/Above/Below/Left/Right] &lt;Right&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare disposizione delle finestre [Horizontal/Vertical/Above/Below/Left/Right] &lt;Right&gt;: </translation>
     </message>
     <message>
         <source>
 No viewport was chosen.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Nessuna finestra scelta.</translation>
     </message>
     <message>
         <source>
 Current osnap modes: </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Modi di snap ad oggetto correnti: </translation>
     </message>
     <message>
         <source>Enter list of object snap modes: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare elenco dei modi di snap ad oggetto: </translation>
     </message>
     <message>
         <source>Invalid object snap mode.</source>
-        <translation type="unfinished"></translation>
+        <translation>Modo di snap ad oggetto non valido.</translation>
     </message>
     <message>
         <source>Object snap target height (1-50 pixels) &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Altezza del mirino di snap ad oggetto (1-50 pixel) &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Value must be between 1 and 50.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il valore deve essere fra 1 e 50.</translation>
     </message>
     <message>
         <source>Specify new origin point</source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare nuovo punto di origine</translation>
     </message>
     <message>
         <source>Specify new origin point or [Zdepth] &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare nuovo punto di origine o [Zdepth] &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Specify Z depth &lt;0&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare profondità Z &lt;0&gt;: </translation>
     </message>
     <message>
         <source>Specify point on positive portion of X-axis</source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare punto sulla parte positiva dell&apos;asse X</translation>
     </message>
     <message>
         <source>Specify point on positive-Y portion of the UCS XY plane</source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare punto sulla parte Y positiva del piano XY dell&apos;UCS</translation>
     </message>
     <message>
         <source>The three points lie on a line.</source>
-        <translation type="unfinished"></translation>
+        <translation>I tre punti giacciono su una retta.</translation>
     </message>
     <message>
         <source>Specify point on positive portion of Z-axis</source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare punto sulla parte positiva dell&apos;asse Z</translation>
     </message>
     <message>
         <source>The Z axis has no direction.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;asse Z non ha direzione.</translation>
     </message>
     <message>
         <source>Specify rotation angle about %1 axis &lt;%2&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare angolo di rotazione attorno all&apos;asse %1 &lt;%2&gt;: </translation>
     </message>
     <message>
         <source>Select object to align UCS: </source>
-        <translation type="unfinished"></translation>
+        <translation>Selezionare oggetto a cui allineare l&apos;UCS: </translation>
     </message>
     <message>
         <source>No UCS can be aligned with this object.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessun UCS può essere allineato con questo oggetto.</translation>
     </message>
     <message>
         <source>Enter name to save current UCS or [?]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nome con cui salvare l&apos;UCS corrente o [?]: </translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be the name of a UCS.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; non può essere il nome di un UCS.</translation>
     </message>
     <message>
         <source>UCS &quot;%1&quot; already exists. Replace it? [Yes/No] &lt;No&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;UCS &quot;%1&quot; esiste già. Sostituirlo? [Yes/No] &lt;No&gt;: </translation>
     </message>
     <message>
         <source>Enter name of UCS to restore or [?]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nome dell&apos;UCS da ripristinare o [?]: </translation>
     </message>
     <message>
         <source>Enter UCS name(s) to delete &lt;none&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nomi di UCS da eliminare &lt;nessuno&gt;: </translation>
     </message>
     <message>
         <source>
 No matching UCS names found.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Nessun nome di UCS corrispondente trovato.</translation>
     </message>
     <message>
         <source>
 Current UCS:  %1</source>
-        <translation type="unfinished"></translation>
+        <translation>
+UCS corrente:  %1</translation>
     </message>
     <message>
         <source>Enter UCS name(s) to list &lt;*&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nomi di UCS da elencare &lt;*&gt;: </translation>
     </message>
     <message>
         <source>&quot;%1&quot;  Origin = &lt;%2&gt;, X = &lt;%3&gt;, Y = &lt;%4&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot;  Origine = &lt;%2&gt;, X = &lt;%3&gt;, Y = &lt;%4&gt;</translation>
     </message>
     <message>
         <source>Faces of solids cannot be chosen here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Qui non si possono scegliere facce di solidi.</translation>
     </message>
     <message>
         <source>
 No previous coordinate system saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Nessun sistema di coordinate precedente salvato.</translation>
     </message>
     <message>
         <source>Specify point on X-axis or &lt;accept&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare punto sull&apos;asse X o &lt;accettare&gt;: </translation>
     </message>
     <message>
         <source>Specify point on the XY plane or &lt;accept&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare punto sul piano XY o &lt;accettare&gt;: </translation>
     </message>
     <message>
         <source>Specify origin of new UCS or [ZAxis/3point/OBject/Face/View/X/Y/Z] &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare origine del nuovo UCS o [ZAxis/3point/OBject/Face/View/X/Y/Z] &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>
 Current ucs name:  %1</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Nome UCS corrente:  %1</translation>
     </message>
     <message>
         <source>Specify origin of UCS or [Face/NAmed/OBject/Previous/View/World/X/Y/Z/ZAxis] &lt;World&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare origine dell&apos;UCS o [Face/NAmed/OBject/Previous/View/World/X/Y/Z/ZAxis] &lt;World&gt;: </translation>
     </message>
     <message>
         <source>Enter an option [Restore/Save/Delete/?]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare un&apos;opzione [Restore/Save/Delete/?]: </translation>
     </message>
     <message>
         <source>Requires a scale factor, two corners or an option keyword.</source>
-        <translation type="unfinished"></translation>
+        <translation>Occorre un fattore di scala, due angoli o un&apos;opzione.</translation>
     </message>
     <message>
         <source>A scale of the sheet is for viewports: MSPACE goes into one.</source>
-        <translation type="unfinished"></translation>
+        <translation>La scala del foglio è per le finestre: MSPACE entra in una.</translation>
     </message>
     <message>
         <source>
 Enter magnification or height &lt;%1&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Digitare ingrandimento o altezza &lt;%1&gt;: </translation>
     </message>
     <message>
         <source>Requires a height, or a magnification (nX).</source>
-        <translation type="unfinished"></translation>
+        <translation>Occorre un&apos;altezza o un ingrandimento (nX).</translation>
     </message>
     <message>
         <source>Specify center point: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare punto centrale: </translation>
     </message>
     <message>
         <source>Specify lower left corner point: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare angolo inferiore sinistro: </translation>
     </message>
     <message>
         <source>Enter a scale factor (nX or nXP): </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare fattore di scala (nX o nXP): </translation>
     </message>
     <message>
         <source>There is no dynamic zoom: use the window&apos;s wheel.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non c&apos;è zoom dinamico: usare la rotella nella finestra.</translation>
     </message>
     <message>
         <source>
 Specify corner of window, enter a scale factor (nX or nXP), or [All/Center/Dynamic/Extents/Previous/Scale/Window/Object] &lt;real time&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Specificare angolo della finestra, digitare fattore di scala (nX o nXP), o [All/Center/Dynamic/Extents/Previous/Scale/Window/Object] &lt;tempo reale&gt;: </translation>
     </message>
     <message>
         <source>
 No previous view saved.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Nessuna vista precedente salvata.</translation>
     </message>
     <message>
         <source>Specify base point or displacement: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare punto base o spostamento: </translation>
     </message>
     <message>
         <source>Specify first corner or [Fit] &lt;Fit&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare primo angolo o [Fit] &lt;Fit&gt;: </translation>
     </message>
     <message>
         <source>Enter viewport configuration name or [?] &lt;*Active&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nome della configurazione di finestre o [?] &lt;*Active&gt;: </translation>
     </message>
     <message>
         <source>A drawing of this version has no viewports with other outlines than rectangles.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un disegno di questa versione non ha finestre con contorni diversi dai rettangoli.</translation>
     </message>
     <message>
         <source>A viewport is bounded by a closed polyline, circle, ellipse, spline or region.</source>
-        <translation type="unfinished"></translation>
+        <translation>Una finestra è delimitata da una polilinea chiusa, un cerchio, un&apos;ellisse, una spline o una regione.</translation>
     </message>
     <message>
         <source>Select object to clip viewport: </source>
-        <translation type="unfinished"></translation>
+        <translation>Selezionare oggetto per ritagliare la finestra: </translation>
     </message>
     <message>
         <source>A viewport has three corners at least.</source>
-        <translation type="unfinished"></translation>
+        <translation>Una finestra ha almeno tre angoli.</translation>
     </message>
     <message>
         <source>Viewport View Locking [ON/OFF]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Blocco della vista della finestra [ON/OFF]: </translation>
     </message>
     <message>
         <source>Shade plot? [As displayed/Wireframe/Hidden/Rendered] &lt;As displayed&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Stampa ombreggiata? [As displayed/Wireframe/Hidden/Rendered] &lt;As displayed&gt;: </translation>
     </message>
     <message>
         <source>Specify corner of viewport or [ON/OFF/Fit/Shadeplot/Lock/Object/Polygonal/Restore/2/3/4] &lt;Fit&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Specificare angolo della finestra o [ON/OFF/Fit/Shadeplot/Lock/Object/Polygonal/Restore/2/3/4] &lt;Fit&gt;: </translation>
     </message>
     <message>
         <source>
 Already in model space.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Già nello spazio modello.</translation>
     </message>
     <message>
         <source>
 Already in paper space.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Già nello spazio carta.</translation>
     </message>
     <message>
         <source>Enter an option [All/Select/Current/eXcept current] &lt;Current&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare un&apos;opzione [All/Select/Current/eXcept current] &lt;Current&gt;: </translation>
     </message>
     <message>
         <source>Enter name(s) of new layers frozen in all viewports: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nomi dei nuovi layer congelati in tutte le finestre: </translation>
     </message>
     <message>
         <source>Enter layer name(s) to change viewport visibility: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nomi dei layer di cui cambiare la visibilità nelle finestre: </translation>
     </message>
     <message>
         <source>Enter a viewport visibility option [Frozen/Thawed] &lt;Thawed&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare un&apos;opzione di visibilità nelle finestre [Frozen/Thawed] &lt;Thawed&gt;: </translation>
     </message>
     <message>
         <source>Select a viewport: </source>
-        <translation type="unfinished"></translation>
+        <translation>Selezionare una finestra: </translation>
     </message>
     <message>
         <source>No viewport was chosen.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessuna finestra scelta.</translation>
     </message>
     <message>
         <source>
 Layers currently frozen in viewport %1:</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Layer congelati nella finestra %1:</translation>
     </message>
     <message>
         <source>Enter layer name(s) to freeze or &lt;select objects&gt;: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nomi dei layer da congelare o &lt;selezionare oggetti&gt;: </translation>
     </message>
     <message>
         <source>Enter layer name(s) to thaw: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nomi dei layer da scongelare: </translation>
     </message>
     <message>
         <source>Enter layer name(s) to reset: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare nomi dei layer da reimpostare: </translation>
     </message>
     <message>
         <source>Layers have the same properties in all viewports here: nothing was changed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Qui i layer hanno le stesse proprietà in tutte le finestre: nulla è stato modificato.</translation>
     </message>
     <message>
         <source>Enter an option [?/Color/Ltype/LWeight/TRansparency/Freeze/Thaw/Reset/Newfrz/Vpvisdflt]: </source>
-        <translation type="unfinished"></translation>
+        <translation>Digitare un&apos;opzione [?/Color/Ltype/LWeight/TRansparency/Freeze/Thaw/Reset/Newfrz/Vpvisdflt]: </translation>
     </message>
 </context>
 <context>
     <name>Comparing</name>
     <message>
         <source>dates and editing time: $TD...</source>
-        <translation type="unfinished"></translation>
+        <translation>date e tempo di modifica: $TD...</translation>
     </message>
     <message>
         <source>the next free handle: $HANDSEED</source>
-        <translation type="unfinished"></translation>
+        <translation>il prossimo handle libero: $HANDSEED</translation>
     </message>
     <message>
         <source>names of the file and of who saved it: $VERSIONGUID, $LASTSAVEDBY, ...</source>
-        <translation type="unfinished"></translation>
+        <translation>nomi del file e di chi lo ha salvato: $VERSIONGUID, $LASTSAVEDBY, ...</translation>
     </message>
     <message>
         <source>extents, which follow from the entities: $EXTMIN, ...</source>
-        <translation type="unfinished"></translation>
+        <translation>estensioni, che derivano dalle entità: $EXTMIN, ...</translation>
     </message>
     <message>
         <source>which objects want to hear of changes: {ACAD_REACTORS</source>
-        <translation type="unfinished"></translation>
+        <translation>quali oggetti vogliono sapere delle modifiche: {ACAD_REACTORS</translation>
     </message>
     <message>
         <source>version and code page: $ACADVER, $DWGCODEPAGE</source>
-        <translation type="unfinished"></translation>
+        <translation>versione e tabella codici: $ACADVER, $DWGCODEPAGE</translation>
     </message>
     <message>
         <source>what windows showed last: the VPORT table, $VIEWCTR, ...</source>
-        <translation type="unfinished"></translation>
+        <translation>ciò che le finestre hanno mostrato per ultimo: la tabella VPORT, $VIEWCTR, ...</translation>
     </message>
     <message>
         <source>all variables of the header</source>
-        <translation type="unfinished"></translation>
+        <translation>tutte le variabili dell&apos;intestazione</translation>
     </message>
     <message>
         <source>the classes section</source>
-        <translation type="unfinished"></translation>
+        <translation>la sezione delle classi</translation>
     </message>
     <message>
         <source>all that is not drawn: dictionaries, layouts, ...</source>
-        <translation type="unfinished"></translation>
+        <translation>tutto ciò che non viene disegnato: dizionari, layout, ...</translation>
     </message>
     <message>
         <source>extended data</source>
-        <translation type="unfinished"></translation>
+        <translation>dati estesi</translation>
     </message>
     <message>
         <source>which entity is drawn over which</source>
-        <translation type="unfinished"></translation>
+        <translation>quale entità viene disegnata sopra quale</translation>
     </message>
 </context>
 <context>
     <name>DrawingStatus</name>
     <message>
         <source>DXF %1, %2</source>
-        <translation type="unfinished"></translation>
+        <translation>DXF %1, %2</translation>
     </message>
     <message>
         <source>model space</source>
-        <translation type="unfinished"></translation>
+        <translation>spazio modello</translation>
     </message>
     <message>
         <source>paper space</source>
-        <translation type="unfinished"></translation>
+        <translation>spazio carta</translation>
     </message>
     <message>
         <source>All entities drawn</source>
-        <translation type="unfinished"></translation>
+        <translation>Tutte le entità disegnate</translation>
     </message>
 </context>
 <context>
     <name>DrawingTexts</name>
     <message>
         <source>&quot;%1&quot; cannot be the name of a block</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; non può essere il nome di un blocco</translation>
     </message>
     <message>
         <source>there is no such block</source>
-        <translation type="unfinished"></translation>
+        <translation>un tale blocco non esiste</translation>
     </message>
     <message>
         <source>%1 cannot be exploded.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 non può essere esploso.</translation>
     </message>
     <message>
         <source>Block &quot;%1&quot; is missing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il blocco &quot;%1&quot; manca.</translation>
     </message>
     <message>
         <source>An external reference cannot be exploded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un riferimento esterno non può essere esploso.</translation>
     </message>
     <message>
         <source>Block &quot;%1&quot; may not be exploded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il blocco &quot;%1&quot; non può essere esploso.</translation>
     </message>
     <message>
         <source>The scales of block &quot;%1&quot; differ.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le scale del blocco &quot;%1&quot; sono diverse.</translation>
     </message>
     <message>
         <source>Too many entities would come of it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ne risulterebbero troppe entità.</translation>
     </message>
     <message>
         <source>A drawing of this version has one sheet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un disegno di questa versione ha un solo layout.</translation>
     </message>
     <message>
         <source>A layout cannot be called &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un layout non può chiamarsi &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>Layout &quot;%1&quot; already exists.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il layout &quot;%1&quot; esiste già.</translation>
     </message>
     <message>
         <source>Model space cannot be copied.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo spazio modello non può essere copiato.</translation>
     </message>
     <message>
         <source>Model space cannot be moved.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo spazio modello non può essere spostato.</translation>
     </message>
     <message>
         <source>Model space cannot be renamed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo spazio modello non può essere rinominato.</translation>
     </message>
     <message>
         <source>Layout &quot;%1&quot; has no object in this drawing that a name could be given to.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il layout &quot;%1&quot; non ha in questo disegno un oggetto a cui dare un nome.</translation>
     </message>
     <message>
         <source>Model space cannot be deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo spazio modello non può essere eliminato.</translation>
     </message>
     <message>
         <source>The last layout cannot be deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>L&apos;ultimo layout non può essere eliminato.</translation>
     </message>
     <message>
         <source>Cannot find layer &quot;%1&quot;.</source>
@@ -5500,31 +5646,31 @@ Layers currently frozen in viewport %1:</source>
     </message>
     <message>
         <source>Layer &quot;%1&quot; is needed by every drawing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il layer &quot;%1&quot; serve in ogni disegno.</translation>
     </message>
     <message>
         <source>Layer &quot;%1&quot; is the current layer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il layer &quot;%1&quot; è il layer corrente.</translation>
     </message>
     <message>
         <source>Layer &quot;%1&quot; belongs to an external reference.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il layer &quot;%1&quot; appartiene a un riferimento esterno.</translation>
     </message>
     <message>
         <source>A drawing of this version keeps no page setup.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un disegno di questa versione non conserva impostazioni di pagina.</translation>
     </message>
     <message>
         <source>Layer &quot;%1&quot; cannot be renamed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il layer &quot;%1&quot; non può essere rinominato.</translation>
     </message>
     <message>
         <source>Layer &quot;%1&quot; already exists.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il layer &quot;%1&quot; esiste già.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be the name of a layer.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; non può essere il nome di un layer.</translation>
     </message>
     <message>
         <source>Block</source>
@@ -5532,55 +5678,55 @@ Layers currently frozen in viewport %1:</source>
     </message>
     <message>
         <source>block</source>
-        <translation type="unfinished"></translation>
+        <translation>blocco</translation>
     </message>
     <message>
         <source>Dimension style</source>
-        <translation type="unfinished"></translation>
+        <translation>Stile di quota</translation>
     </message>
     <message>
         <source>dimension style</source>
-        <translation type="unfinished"></translation>
+        <translation>stile di quota</translation>
     </message>
     <message>
         <source>Linetype</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipo di linea</translation>
     </message>
     <message>
         <source>linetype</source>
-        <translation type="unfinished"></translation>
+        <translation>tipo di linea</translation>
     </message>
     <message>
         <source>Text style</source>
-        <translation type="unfinished"></translation>
+        <translation>Stile di testo</translation>
     </message>
     <message>
         <source>text style</source>
-        <translation type="unfinished"></translation>
+        <translation>stile di testo</translation>
     </message>
     <message>
         <source>UCS</source>
-        <translation type="unfinished"></translation>
+        <translation>UCS</translation>
     </message>
     <message>
         <source>ucs</source>
-        <translation type="unfinished"></translation>
+        <translation>ucs</translation>
     </message>
     <message>
         <source>View</source>
-        <translation type="unfinished"></translation>
+        <translation>Vista</translation>
     </message>
     <message>
         <source>view</source>
-        <translation type="unfinished"></translation>
+        <translation>vista</translation>
     </message>
     <message>
         <source>Viewport configuration</source>
-        <translation type="unfinished"></translation>
+        <translation>Configurazione di finestre</translation>
     </message>
     <message>
         <source>viewport configuration</source>
-        <translation type="unfinished"></translation>
+        <translation>configurazione di finestre</translation>
     </message>
     <message>
         <source>Cannot find %1 &quot;%2&quot;.</source>
@@ -5588,179 +5734,179 @@ Layers currently frozen in viewport %1:</source>
     </message>
     <message>
         <source>%1 &quot;%2&quot; cannot be renamed.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 &quot;%2&quot;: impossibile rinominare.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be a name.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; non può essere un nome.</translation>
     </message>
     <message>
         <source>%1 &quot;%2&quot; already exists.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 &quot;%2&quot; esiste già.</translation>
     </message>
     <message>
         <source>Registered applications cannot be renamed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le applicazioni registrate non possono essere rinominate.</translation>
     </message>
     <message>
         <source>Cannot find &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile trovare &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; already exists.</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; esiste già.</translation>
     </message>
     <message>
         <source>a drawing of this version has one sheet only</source>
-        <translation type="unfinished"></translation>
+        <translation>un disegno di questa versione ha un solo layout</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be the name of a sheet</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; non può essere il nome di un layout</translation>
     </message>
     <message>
         <source>there is no sheet &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>non c&apos;è nessun layout &quot;%1&quot;</translation>
     </message>
     <message>
         <source>there is a sheet &quot;%1&quot; already</source>
-        <translation type="unfinished"></translation>
+        <translation>c&apos;è già un layout &quot;%1&quot;</translation>
     </message>
     <message>
         <source>blocks</source>
-        <translation type="unfinished"></translation>
+        <translation>blocchi</translation>
     </message>
     <message>
         <source>detail view styles</source>
-        <translation type="unfinished"></translation>
+        <translation>stili di vista di dettaglio</translation>
     </message>
     <message>
         <source>detail view style</source>
-        <translation type="unfinished"></translation>
+        <translation>stile di vista di dettaglio</translation>
     </message>
     <message>
         <source>dimension styles</source>
-        <translation type="unfinished"></translation>
+        <translation>stili di quota</translation>
     </message>
     <message>
         <source>groups</source>
-        <translation type="unfinished"></translation>
+        <translation>gruppi</translation>
     </message>
     <message>
         <source>group</source>
-        <translation type="unfinished"></translation>
+        <translation>gruppo</translation>
     </message>
     <message>
         <source>layers</source>
-        <translation type="unfinished"></translation>
+        <translation>layer</translation>
     </message>
     <message>
         <source>layer</source>
-        <translation type="unfinished"></translation>
+        <translation>layer</translation>
     </message>
     <message>
         <source>linetypes</source>
-        <translation type="unfinished"></translation>
+        <translation>tipi di linea</translation>
     </message>
     <message>
         <source>materials</source>
-        <translation type="unfinished"></translation>
+        <translation>materiali</translation>
     </message>
     <message>
         <source>material</source>
-        <translation type="unfinished"></translation>
+        <translation>materiale</translation>
     </message>
     <message>
         <source>multileader styles</source>
-        <translation type="unfinished"></translation>
+        <translation>stili multidirettrice</translation>
     </message>
     <message>
         <source>multileader style</source>
-        <translation type="unfinished"></translation>
+        <translation>stile multidirettrice</translation>
     </message>
     <message>
         <source>plot styles</source>
-        <translation type="unfinished"></translation>
+        <translation>stili di stampa</translation>
     </message>
     <message>
         <source>plot style</source>
-        <translation type="unfinished"></translation>
+        <translation>stile di stampa</translation>
     </message>
     <message>
         <source>shape files</source>
-        <translation type="unfinished"></translation>
+        <translation>file di forme</translation>
     </message>
     <message>
         <source>shape file</source>
-        <translation type="unfinished"></translation>
+        <translation>file di forme</translation>
     </message>
     <message>
         <source>text styles</source>
-        <translation type="unfinished"></translation>
+        <translation>stili di testo</translation>
     </message>
     <message>
         <source>multiline styles</source>
-        <translation type="unfinished"></translation>
+        <translation>stili multilinea</translation>
     </message>
     <message>
         <source>multiline style</source>
-        <translation type="unfinished"></translation>
+        <translation>stile multilinea</translation>
     </message>
     <message>
         <source>section view styles</source>
-        <translation type="unfinished"></translation>
+        <translation>stili di vista di sezione</translation>
     </message>
     <message>
         <source>section view style</source>
-        <translation type="unfinished"></translation>
+        <translation>stile di vista di sezione</translation>
     </message>
     <message>
         <source>table styles</source>
-        <translation type="unfinished"></translation>
+        <translation>stili di tabella</translation>
     </message>
     <message>
         <source>table style</source>
-        <translation type="unfinished"></translation>
+        <translation>stile di tabella</translation>
     </message>
     <message>
         <source>visual styles</source>
-        <translation type="unfinished"></translation>
+        <translation>stili di visualizzazione</translation>
     </message>
     <message>
         <source>visual style</source>
-        <translation type="unfinished"></translation>
+        <translation>stile di visualizzazione</translation>
     </message>
     <message>
         <source>registered applications</source>
-        <translation type="unfinished"></translation>
+        <translation>applicazioni registrate</translation>
     </message>
     <message>
         <source>registered application</source>
-        <translation type="unfinished"></translation>
+        <translation>applicazione registrata</translation>
     </message>
     <message>
         <source>no record begins here</source>
-        <translation type="unfinished"></translation>
+        <translation>qui non comincia nessun record</translation>
     </message>
     <message>
         <source>the file goes on behind it</source>
-        <translation type="unfinished"></translation>
+        <translation>il file continua dopo</translation>
     </message>
     <message>
         <source>the file ends within it</source>
-        <translation type="unfinished"></translation>
+        <translation>il file finisce al suo interno</translation>
     </message>
     <message>
         <source>group code expected, found %1</source>
-        <translation type="unfinished"></translation>
+        <translation>codice di gruppo atteso, trovato %1</translation>
     </message>
     <message>
         <source>type of a record expected, found %1</source>
-        <translation type="unfinished"></translation>
+        <translation>tipo di record atteso, trovato %1</translation>
     </message>
     <message>
         <source>group %1 cannot be %2</source>
-        <translation type="unfinished"></translation>
+        <translation>il gruppo %1 non può essere %2</translation>
     </message>
     <message>
         <source>line %1: %2</source>
@@ -5768,71 +5914,71 @@ Layers currently frozen in viewport %1:</source>
     </message>
     <message>
         <source>%1 has a value for group %2 that the binary form has no room for: &quot;%3&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ha per il gruppo %2 un valore per cui la forma binaria non ha posto: &quot;%3&quot;</translation>
     </message>
     <message>
         <source>%1 with the handle %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 con l&apos;handle %2</translation>
     </message>
     <message>
         <source>it names no version</source>
-        <translation type="unfinished"></translation>
+        <translation>non indica nessuna versione</translation>
     </message>
     <message>
         <source>its handle was another record&apos;s, it has a new one</source>
-        <translation type="unfinished"></translation>
+        <translation>il suo handle era di un altro record, ne ha uno nuovo</translation>
     </message>
     <message>
         <source>its handle was none, it has a new one</source>
-        <translation type="unfinished"></translation>
+        <translation>il suo handle non era valido, ne ha uno nuovo</translation>
     </message>
     <message>
         <source>it has no name</source>
-        <translation type="unfinished"></translation>
+        <translation>non ha nome</translation>
     </message>
     <message>
         <source>it has no value</source>
-        <translation type="unfinished"></translation>
+        <translation>non ha valore</translation>
     </message>
     <message>
         <source>it has more than one value, of which the first was taken</source>
-        <translation type="unfinished"></translation>
+        <translation>ha più di un valore, di cui è stato preso il primo</translation>
     </message>
     <message>
         <source>it leads to all other objects, and is the first of them now</source>
-        <translation type="unfinished"></translation>
+        <translation>porta a tutti gli altri oggetti, e ora è il primo di essi</translation>
     </message>
     <message>
         <source>the one that leads to all other objects was lost</source>
-        <translation type="unfinished"></translation>
+        <translation>quello che porta a tutti gli altri oggetti è andato perso</translation>
     </message>
     <message>
         <source>its text was no UTF-8 and was taken for %1</source>
-        <translation type="unfinished"></translation>
+        <translation>il suo testo non era UTF-8 ed è stato preso per %1</translation>
     </message>
     <message>
         <source>the one of block %1 was lost</source>
-        <translation type="unfinished"></translation>
+        <translation>quello del blocco %1 è andato perso</translation>
     </message>
     <message>
         <source>the file is larger than 4 GB</source>
-        <translation type="unfinished"></translation>
+        <translation>il file è più grande di 4 GB</translation>
     </message>
     <message>
         <source>nothing in this file is a part of a drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>nulla in questo file fa parte di un disegno</translation>
     </message>
     <message>
         <source>%1: this is a folder</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: questa è una cartella</translation>
     </message>
     <message>
         <source> (--recover opens what is sound of it)</source>
-        <translation type="unfinished"></translation>
+        <translation> (--recover apre ciò che è integro)</translation>
     </message>
     <message>
         <source>%1 times </source>
-        <translation type="unfinished"></translation>
+        <translation>%1 volte </translation>
     </message>
     <message>
         <source>and %1 more</source>
@@ -5840,351 +5986,351 @@ Layers currently frozen in viewport %1:</source>
     </message>
     <message>
         <source>the file is sound, nothing was dropped</source>
-        <translation type="unfinished"></translation>
+        <translation>il file è integro, nulla è stato scartato</translation>
     </message>
     <message>
         <source>recovered: %1 dropped%2, %3 mended, %4 added</source>
-        <translation type="unfinished"></translation>
+        <translation>recuperato: %1 scartati%2, %3 riparati, %4 aggiunti</translation>
     </message>
     <message>
         <source>what was written does not read back the same</source>
-        <translation type="unfinished"></translation>
+        <translation>ciò che è stato scritto non si rilegge uguale</translation>
     </message>
     <message>
         <source>what would be written could not be opened again (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>ciò che verrebbe scritto non potrebbe essere riaperto (%1)</translation>
     </message>
     <message>
         <source>what would be written could not be opened the same: see %1 of handle %2</source>
-        <translation type="unfinished"></translation>
+        <translation>ciò che verrebbe scritto non si riaprirebbe uguale: vedere %1 dell&apos;handle %2</translation>
     </message>
     <message>
         <source>%1: the file cannot be written: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: impossibile scrivere il file: %2</translation>
     </message>
     <message>
         <source>%1: %2; the old file was kept</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2; il vecchio file è stato conservato</translation>
     </message>
     <message>
         <source>%1: this program cannot write DWG files; give the file a name ending in .dxf</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: questo programma non può scrivere file DWG; dare al file un nome che termini in .dxf</translation>
     </message>
     <message>
         <source>header variable</source>
-        <translation type="unfinished"></translation>
+        <translation>variabile di intestazione</translation>
     </message>
     <message>
         <source>it stands outside of the sections</source>
-        <translation type="unfinished"></translation>
+        <translation>si trova fuori dalle sezioni</translation>
     </message>
     <message>
         <source>its name is none, and what it holds tells another</source>
-        <translation type="unfinished"></translation>
+        <translation>il suo nome non è valido, e il contenuto ne indica un altro</translation>
     </message>
     <message>
         <source>it was there before, and goes on here</source>
-        <translation type="unfinished"></translation>
+        <translation>c&apos;era già prima, e continua qui</translation>
     </message>
     <message>
         <source>it stands outside of its section, and was put into %1</source>
-        <translation type="unfinished"></translation>
+        <translation>si trova fuori dalla sua sezione, ed è stato messo in %1</translation>
     </message>
     <message>
         <source>no table is open</source>
-        <translation type="unfinished"></translation>
+        <translation>nessuna tabella è aperta</translation>
     </message>
     <message>
         <source>it stands outside of the tables</source>
-        <translation type="unfinished"></translation>
+        <translation>si trova fuori dalle tabelle</translation>
     </message>
     <message>
         <source>table entry</source>
-        <translation type="unfinished"></translation>
+        <translation>voce di tabella</translation>
     </message>
     <message>
         <source>it stands outside of its table</source>
-        <translation type="unfinished"></translation>
+        <translation>si trova fuori dalla sua tabella</translation>
     </message>
     <message>
         <source>no block is open</source>
-        <translation type="unfinished"></translation>
+        <translation>nessun blocco è aperto</translation>
     </message>
     <message>
         <source>it had no name, and is %1 now</source>
-        <translation type="unfinished"></translation>
+        <translation>non aveva nome, e ora è %1</translation>
     </message>
     <message>
         <source>the one for the entities here was lost; it is %1 now</source>
-        <translation type="unfinished"></translation>
+        <translation>quello per le entità qui è andato perso; ora è %1</translation>
     </message>
     <message>
         <source>nothing is open that it could end</source>
-        <translation type="unfinished"></translation>
+        <translation>nulla è aperto che potesse terminare</translation>
     </message>
     <message>
         <source>what it is a part of is not there</source>
-        <translation type="unfinished"></translation>
+        <translation>ciò di cui fa parte non c&apos;è</translation>
     </message>
     <message>
         <source>it was missing</source>
-        <translation type="unfinished"></translation>
+        <translation>mancava</translation>
     </message>
     <message>
         <source>no section is open</source>
-        <translation type="unfinished"></translation>
+        <translation>nessuna sezione è aperta</translation>
     </message>
     <message>
         <source>the drawing looks like one of %1</source>
-        <translation type="unfinished"></translation>
+        <translation>il disegno sembra di %1</translation>
     </message>
     <message>
         <source>%1: this is not a file</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: questo non è un file</translation>
     </message>
     <message>
         <source>%1: drawings of this version have no room for such data</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: i disegni di questa versione non hanno posto per tali dati</translation>
     </message>
     <message>
         <source>%1: %2 stands for something else in this drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2 indica qualcos&apos;altro in questo disegno</translation>
     </message>
     <message>
         <source>%1: the file is larger than 4 GB</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: il file è più grande di 4 GB</translation>
     </message>
     <message>
         <source>the drawing has no paper space</source>
-        <translation type="unfinished"></translation>
+        <translation>il disegno non ha spazio carta</translation>
     </message>
     <message>
         <source>POLYLINE: its vertices are missing</source>
-        <translation type="unfinished"></translation>
+        <translation>POLYLINE: mancano i suoi vertici</translation>
     </message>
     <message>
         <source>%1: an entity of this type has no parts</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: un&apos;entità di questo tipo non ha parti</translation>
     </message>
     <message>
         <source>%1: %2 expected, found %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: atteso %2, trovato %3</translation>
     </message>
     <message>
         <source>the entity is erased</source>
-        <translation type="unfinished"></translation>
+        <translation>l&apos;entità è cancellata</translation>
     </message>
     <message>
         <source>a number</source>
-        <translation type="unfinished"></translation>
+        <translation>un numero</translation>
     </message>
     <message>
         <source>a handle</source>
-        <translation type="unfinished"></translation>
+        <translation>un handle</translation>
     </message>
     <message>
         <source>a text</source>
-        <translation type="unfinished"></translation>
+        <translation>un testo</translation>
     </message>
     <message>
         <source>group 0 (the type) is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>manca il gruppo 0 (il tipo)</translation>
     </message>
     <message>
         <source>this is no entity</source>
-        <translation type="unfinished"></translation>
+        <translation>questa non è un&apos;entità</translation>
     </message>
     <message>
         <source>this type is not known, and its subclass markers (group 100) are missing</source>
-        <translation type="unfinished"></translation>
+        <translation>questo tipo non è noto, e mancano i suoi marcatori di sottoclasse (gruppo 100)</translation>
     </message>
     <message>
         <source>a drawing of this version has no such entity</source>
-        <translation type="unfinished"></translation>
+        <translation>un disegno di questa versione non ha una tale entità</translation>
     </message>
     <message>
         <source>group %1 is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>manca il gruppo %1</translation>
     </message>
     <message>
         <source>group %1 is not a point</source>
-        <translation type="unfinished"></translation>
+        <translation>il gruppo %1 non è un punto</translation>
     </message>
     <message>
         <source>group %1 is not %2</source>
-        <translation type="unfinished"></translation>
+        <translation>il gruppo %1 non è %2</translation>
     </message>
     <message>
         <source>linetype %1 is not in the drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>il tipo di linea %1 non è nel disegno</translation>
     </message>
     <message>
         <source>text style %1 is not in the drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>lo stile di testo %1 non è nel disegno</translation>
     </message>
     <message>
         <source>block %1 is not in the drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>il blocco %1 non è nel disegno</translation>
     </message>
     <message>
         <source>group code expected, found </source>
-        <translation type="unfinished"></translation>
+        <translation>codice di gruppo atteso, trovato </translation>
     </message>
     <message>
         <source>this is not a DXF file: </source>
-        <translation type="unfinished"></translation>
+        <translation>questo non è un file DXF: </translation>
     </message>
     <message>
         <source>this is not a DXF file: it has no sections</source>
-        <translation type="unfinished"></translation>
+        <translation>questo non è un file DXF: non ha sezioni</translation>
     </message>
     <message>
         <source>the file is cut off: it ends before EOF</source>
-        <translation type="unfinished"></translation>
+        <translation>il file è troncato: finisce prima di EOF</translation>
     </message>
     <message>
         <source>the section has no name</source>
-        <translation type="unfinished"></translation>
+        <translation>la sezione non ha nome</translation>
     </message>
     <message>
         <source>a record without a type</source>
-        <translation type="unfinished"></translation>
+        <translation>un record senza tipo</translation>
     </message>
     <message>
         <source>%1 inside a section: ENDSEC is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 dentro una sezione: manca ENDSEC</translation>
     </message>
     <message>
         <source>%1 stands in the header section</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 si trova nella sezione di intestazione</translation>
     </message>
     <message>
         <source>this is not a DXF file: section expected, found </source>
-        <translation type="unfinished"></translation>
+        <translation>questo non è un file DXF: sezione attesa, trovato </translation>
     </message>
     <message>
         <source>%1 stands outside of the sections</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 si trova fuori dalle sezioni</translation>
     </message>
     <message>
         <source>TABLE inside a table: ENDTAB is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>TABLE dentro una tabella: manca ENDTAB</translation>
     </message>
     <message>
         <source>%1 stands outside of the tables: TABLE is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 si trova fuori dalle tabelle: manca TABLE</translation>
     </message>
     <message>
         <source>BLOCK inside a block: ENDBLK is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>BLOCK dentro un blocco: manca ENDBLK</translation>
     </message>
     <message>
         <source>%1 stands outside of the blocks: BLOCK is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 si trova fuori dai blocchi: manca BLOCK</translation>
     </message>
     <message>
         <source>the section ends inside a table: ENDTAB is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>la sezione finisce dentro una tabella: manca ENDTAB</translation>
     </message>
     <message>
         <source>the section ends inside a block: ENDBLK is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>la sezione finisce dentro un blocco: manca ENDBLK</translation>
     </message>
     <message>
         <source>tag %1 of the binary file: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>tag %1 del file binario: %2</translation>
     </message>
     <message>
         <source>the file is larger than 4 GB as text</source>
-        <translation type="unfinished"></translation>
+        <translation>il file come testo è più grande di 4 GB</translation>
     </message>
     <message>
         <source>the file is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>il file è vuoto</translation>
     </message>
     <message>
         <source>this is a DWG file; this program reads DXF only</source>
-        <translation type="unfinished"></translation>
+        <translation>questo è un file DWG; questo programma legge solo DXF</translation>
     </message>
     <message>
         <source>this is a UTF-16 text file, not a DXF file</source>
-        <translation type="unfinished"></translation>
+        <translation>questo è un file di testo UTF-16, non un file DXF</translation>
     </message>
     <message>
         <source>this is a packed file; unpack it first</source>
-        <translation type="unfinished"></translation>
+        <translation>questo è un file compresso; decomprimerlo prima</translation>
     </message>
     <message>
         <source>this is a binary DXF file whose first bytes are damaged, as by a transfer as text</source>
-        <translation type="unfinished"></translation>
+        <translation>questo è un file DXF binario i cui primi byte sono danneggiati, come da un trasferimento come testo</translation>
     </message>
     <message>
         <source>the pattern does not begin with &quot;A&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>il modello non comincia con &quot;A&quot;</translation>
     </message>
     <message>
         <source>the pattern is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>il modello è vuoto</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is no length</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; non è una lunghezza</translation>
     </message>
     <message>
         <source>the pattern is too long</source>
-        <translation type="unfinished"></translation>
+        <translation>il modello è troppo lungo</translation>
     </message>
     <message>
         <source>a text or shape is not closed, or stands in front of all dashes</source>
-        <translation type="unfinished"></translation>
+        <translation>un testo o una forma non è chiuso, o precede tutti i trattini</translation>
     </message>
     <message>
         <source>a shape needs its name and its file</source>
-        <translation type="unfinished"></translation>
+        <translation>una forma richiede il suo nome e il suo file</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not understood</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; non è comprensibile</translation>
     </message>
     <message>
         <source>text style &quot;%1&quot; is not in the drawing</source>
-        <translation type="unfinished"></translation>
+        <translation>lo stile di testo &quot;%1&quot; non è nel disegno</translation>
     </message>
     <message>
         <source>the shape file &quot;%1&quot; is not found</source>
-        <translation type="unfinished"></translation>
+        <translation>il file di forme &quot;%1&quot; non è stato trovato</translation>
     </message>
     <message>
         <source>shape &quot;%1&quot; is not in the file &quot;%2&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>la forma &quot;%1&quot; non è nel file &quot;%2&quot;</translation>
     </message>
     <message>
         <source>a drawing of this version has no texts and shapes in linetypes</source>
-        <translation type="unfinished"></translation>
+        <translation>un disegno di questa versione non ha testi e forme nei tipi di linea</translation>
     </message>
     <message>
         <source>the name cannot be used</source>
-        <translation type="unfinished"></translation>
+        <translation>il nome non può essere usato</translation>
     </message>
     <message>
         <source>it is not in the drawing&apos;s folder. READPATHS, or the option --allow-read, names folders whose files drawings may name</source>
-        <translation type="unfinished"></translation>
+        <translation>non è nella cartella del disegno. READPATHS, o l&apos;opzione --allow-read, indica le cartelle i cui file possono essere nominati dai disegni</translation>
     </message>
     <message>
         <source>there are no shapes in it</source>
-        <translation type="unfinished"></translation>
+        <translation>non contiene forme</translation>
     </message>
     <message>
         <source>the file is cut off</source>
-        <translation type="unfinished"></translation>
+        <translation>il file è troncato</translation>
     </message>
     <message>
         <source>it is a compiled file of another kind</source>
-        <translation type="unfinished"></translation>
+        <translation>è un file compilato di altro genere</translation>
     </message>
     <message>
         <source>%1 (remote texts have at most 256 kB)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (i testi remoti hanno al massimo 256 kB)</translation>
     </message>
 </context>
 <context>
@@ -6329,15 +6475,15 @@ startapp: %1 is not started: the user&apos;s settings do not let programs start 
     </message>
     <message>
         <source>there is no sheet &quot;%1&quot;</source>
-        <translation type="unfinished"></translation>
+        <translation>non c&apos;è nessun layout &quot;%1&quot;</translation>
     </message>
     <message>
         <source>&quot;%1&quot; cannot be the name of a sheet</source>
-        <translation type="unfinished"></translation>
+        <translation>&quot;%1&quot; non può essere il nome di un layout</translation>
     </message>
     <message>
         <source>there is a sheet &quot;%1&quot; already</source>
-        <translation type="unfinished"></translation>
+        <translation>c&apos;è già un layout &quot;%1&quot;</translation>
     </message>
     <message>
         <source>%1 is one of the drawings that sheets come from</source>
@@ -9755,7 +9901,7 @@ Saving this drawing was broken off once. What was to be saved is in %1; the draw
     </message>
     <message>
         <source>Unknown command &quot;%1&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Comando sconosciuto &quot;%1&quot;.</translation>
     </message>
     <message>
         <source>%1 was cancelled.</source>
@@ -10009,12 +10155,14 @@ Next point: </source>
     <message>
         <source>
 Specify opposite corner: </source>
-        <translation type="unfinished"></translation>
+        <translation>
+Specificare angolo opposto: </translation>
     </message>
     <message>
         <source>
 Command has been completely undone.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Il comando è stato completamente annullato.</translation>
     </message>
     <message>
         <source>
@@ -11616,7 +11764,7 @@ The user&apos;s settings cannot be kept.
     </message>
     <message>
         <source>View</source>
-        <translation type="unfinished"></translation>
+        <translation>Vista</translation>
     </message>
     <message>
         <source>Viewports</source>
@@ -11991,7 +12139,7 @@ The user&apos;s settings cannot be kept.
     </message>
     <message>
         <source>Linetype</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipo di linea</translation>
     </message>
     <message>
         <source>Lineweight</source>
@@ -12398,7 +12546,7 @@ The user&apos;s settings cannot be kept.
     </message>
     <message>
         <source>Dimension style</source>
-        <translation type="unfinished"></translation>
+        <translation>Stile di quota</translation>
     </message>
     <message>
         <source>Distance</source>
@@ -12598,7 +12746,7 @@ The user&apos;s settings cannot be kept.
     </message>
     <message>
         <source>Linetype</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipo di linea</translation>
     </message>
     <message>
         <source>Lineweight</source>
@@ -12898,7 +13046,7 @@ The user&apos;s settings cannot be kept.
     </message>
     <message>
         <source>Text style</source>
-        <translation type="unfinished"></translation>
+        <translation>Stile di testo</translation>
     </message>
     <message>
         <source>Texts to a paragraph</source>
@@ -13507,11 +13655,11 @@ The user&apos;s settings cannot be kept.
     </message>
     <message>
         <source>Linetype</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipo di linea</translation>
     </message>
     <message>
         <source>Linetype scale</source>
-        <translation type="unfinished"></translation>
+        <translation>Scala tipo di linea</translation>
     </message>
     <message>
         <source>Lineweight</source>
@@ -13523,11 +13671,11 @@ The user&apos;s settings cannot be kept.
     </message>
     <message>
         <source>Text style</source>
-        <translation type="unfinished"></translation>
+        <translation>Stile di testo</translation>
     </message>
     <message>
         <source>Dimension style</source>
-        <translation type="unfinished"></translation>
+        <translation>Stile di quota</translation>
     </message>
     <message>
         <source>Of what is drawn next</source>
@@ -15841,7 +15989,7 @@ Recovered as it was on %1. It is not in its file until it is saved.
     </message>
     <message>
         <source>Linetype</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipo di linea</translation>
     </message>
     <message>
         <source>Lineweight</source>
