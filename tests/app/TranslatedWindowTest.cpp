@@ -42,8 +42,9 @@ struct TranslatedWindow : testing::TestWithParam<const char *>, TestFolder
     static void expectReadable(QWidget &shown, const QString &name)
     {
         const QString folder = qEnvironmentVariable("ORTAKIT_PICTURES");
-        if (!folder.isEmpty())
+        if (!folder.isEmpty()) {
             EXPECT_TRUE(shown.grab().save(u"%1/%2-%3.png"_s.arg(folder, QLatin1StringView(GetParam()), name)));
+        }
         EXPECT_THAT(ortakit::test::cutTexts(shown), testing::IsEmpty()) << name.toStdString();
         const auto shared = ortakit::test::sharedMnemonics(shown);
         for (const QStringList &texts : shared)
@@ -65,7 +66,7 @@ TEST_P(TranslatedWindow, SettingsAndPrintingFit)
     expectReadable(*dialog, u"Settings"_s);
     for (const auto purpose : {PrintDialog::Purpose::Print, PrintDialog::Purpose::SetUpPage}) {
         PrintDialog print(*window->document(), u"Model"_s, purpose, window.get());
-        print.show();
+        static_cast<QDialog &>(print).show();
         ASSERT_TRUE(QTest::qWaitForWindowExposed(&print));
         expectReadable(print, purpose == PrintDialog::Purpose::Print ? u"Print"_s : u"PageSetup"_s);
     }

@@ -339,8 +339,9 @@ protected:
         const QString folder = qEnvironmentVariable("ORTAKIT_PICTURES");
         const QString name =
             u"%1-%2-%3.png"_s.arg(QLatin1StringView(std::get<1>(GetParam())), QLatin1StringView(row().name)).arg(page);
-        if (!folder.isEmpty())
+        if (!folder.isEmpty()) {
             EXPECT_TRUE(dialog->grab().save(folder + u'/' + name)) << name.toStdString();
+        }
     }
 
 private:
