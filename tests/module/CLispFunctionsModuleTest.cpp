@@ -70,21 +70,22 @@ TEST_F(Module, OpenDocumentsGetTheFunctionsAndLoseThem)
 
 TEST_F(Module, TextsAreInTheLanguageThatTheHostTells)
 {
-    const auto title = [] { return QCoreApplication::translate("DLG_QT_ConvertNotes", "Keep original T&extStyle"); };
+    const auto text = [] { return QCoreApplication::translate("DLG_QT_ConvertNotes", "Keep original T&extStyle"); };
+    const QString english = text();
+    m_first->setSystemVariable(u"LOCALE"_s, u"DEU"_s);
     m_module->initApp();
-    EXPECT_EQ(title(), u"Keep original T&extStyle") << "the application's locale is English";
-    // The first document that has an engine tells; LOCALE is as programs compare it.
-    m_first->setSystemVariable(u"locale"_s, u"DEU"_s);
-    static_cast<CLispFunctionsModule *>(m_module)->LispDocumentReady(m_first);
-    EXPECT_EQ(title(), u"Original-T&extstil beibehalten");
-    m_first->setSystemVariable(u"locale"_s, u"ENU"_s);
-    static_cast<CLispFunctionsModule *>(m_module)->LispDocumentReady(m_first);
-    EXPECT_EQ(title(), u"Keep original T&extStyle");
-    m_first->setSystemVariable(u"locale"_s, u"fr_CA"_s);
-    static_cast<CLispFunctionsModule *>(m_module)->LispDocumentReady(m_first);
-    EXPECT_NE(title(), u"Keep original T&extStyle");
+    EXPECT_EQ(text(), u"Original-T&extstil beibehalten");
     m_module->uninitApp();
-    EXPECT_EQ(title(), u"Keep original T&extStyle") << "nothing of the module is left";
+    EXPECT_EQ(text(), english) << "nothing of the module is left";
+
+    ortakit::ModuleLanguage language;
+    const std::pair<QString, bool> rows[] = {{u"FRA"_s, true}, {u"ENU"_s, false},  {u"fr_CA"_s, true},
+                                             {u"fra"_s, true}, {QString(), false}, {u"JPN"_s, false}};
+    for (const auto &[locale, isTranslated] : rows) {
+        m_first->setSystemVariable(u"LOCALE"_s, locale);
+        language.follow(m_first);
+        EXPECT_EQ(text() != english, isTranslated) << locale.toStdString();
+    }
 }
 
 TEST_F(Module, BlocksAreReplacedWithTheHostsPermissionOnly)

@@ -148,8 +148,8 @@ void SessionRecorder::takeOutcome(const kernel::RunResult &result)
 {
     const bool wasCancelled = m_lines.indexOf(placed(u"cancel"_s), m_runStart) >= 0;
     if (!result.ok && !wasCancelled)
-        add(result.error.contains("cancelled"_L1) ? u"# stopped with Esc, which a session cannot do here"_s
-                                                  : u"expect-error "_s + sessionWord(withoutPlace(result.error)));
+        add(result.isCancelled() ? u"# stopped with Esc, which a session cannot do here"_s
+                                 : u"expect-error "_s + sessionWord(withoutPlace(result.error)));
     if (document() && !document()->impliedSelection().empty())
         add(u"lisp (sssetfirst nil nil)"_s);
 }

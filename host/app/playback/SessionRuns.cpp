@@ -194,7 +194,7 @@ void SessionPlayer::finishRun(const Step &step, const kernel::RunResult &result)
 void SessionPlayer::finishCancelled(const Step &step, const kernel::RunResult &result)
 {
     const QString where = tr("cancelled at %1, ").arg(m_rehearsal->cancelled);
-    if (!result.ok && !result.error.contains("cancel"_L1, Qt::CaseInsensitive))
+    if (!result.ok && !result.isCancelled())
         return failAt(step, where + tr("the run ended with \"%1\"").arg(result.error));
     const QByteArray bytes = m_document.drawing().toBytes();
     if (bytes != m_before)

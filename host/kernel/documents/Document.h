@@ -59,8 +59,12 @@ struct RunResult
     QString value;                 ///< the last value as Lisp prints it; empty for a built-in command
     QString error;                 ///< message, function and place in one line; empty when ok
     QString report;                ///< the same with the calls under way, a line each
+    bool wasCancelled = false;     ///< a command, by the user or because nobody was there to answer
     bool handledByProgram = false; ///< the program's own *error* took the message
     bool hasRun = true;            ///< false: there was nothing to run
+
+    /// Whether a command was cancelled or a program ended with an error that says so, which is English.
+    bool isCancelled() const { return wasCancelled || error.contains(u"cancel", Qt::CaseInsensitive); }
 };
 
 /// What a window shows of the drawing: plan view of the current space.

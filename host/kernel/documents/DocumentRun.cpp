@@ -144,7 +144,11 @@ RunResult Document::runBuiltIn(const QString &typed)
         if (!command)
             return failed(Kernel::tr("Unknown command \"%1\".").arg(name));
         command->runToEnd();
-        return command->isCancelled() ? failure(Kernel::tr("%1 was cancelled.").arg(name)) : RunResult();
+        if (!command->isCancelled())
+            return {};
+        RunResult cancelled = failure(Kernel::tr("%1 was cancelled.").arg(name));
+        cancelled.wasCancelled = true;
+        return cancelled;
     } catch (const std::exception &exception) {
         // Nobody further out could tell it: memory that was not to be had, above all.
         m_undoSteps.takeBackTo(start);
