@@ -73,6 +73,7 @@ TEST(ProgramOptions, RefusesWhatMakesNoSense)
 /// What --help, manual pages and completions need of each row.
 TEST(ProgramOptions, AreToldWhole)
 {
+    const QTemporaryDir home;
     for (const UseRow &use : allUses()) {
         const std::string name = use.title().toStdString();
         EXPECT_FALSE(use.usages.isEmpty()) << name;
@@ -88,6 +89,8 @@ TEST(ProgramOptions, AreToldWhole)
         EXPECT_EQ(names.removeDuplicates(), 0) << name;
         ProgramOptions options;
         options.use = &use;
+        options.commandName = use.title();
+        options.home = home.path();
         for (const QString &line : helpText(options).split(u'\n'))
             EXPECT_TRUE(line.size() <= 100 || line.startsWith(u' ')) << line.toStdString();
     }
