@@ -4,6 +4,8 @@
 #include "platform/rx/OdRxWin32Module.h"
 #include "tests/support/ModuleTest.h"
 
+#include <QCoreApplication>
+
 namespace {
 
 using testing::ElementsAre;
