@@ -10,7 +10,7 @@ namespace host::drawing {
 
 namespace {
 
-constexpr int entityLayerCode = 8;
+constexpr int talliedLayerCode = 8;
 
 /// "StartPoint" as "start point"; names in capitals alone stay.
 QString inWords(const QString &name)
@@ -49,7 +49,7 @@ Tallies tallied(const Comparison &comparison)
         tallies.all.add(difference.fate);
         tallies.byType[isVariable ? u"header"_s : QString::fromUtf8(drawing.typeName(record))].add(difference.fate);
         if (isDrawnKind(difference.kind))
-            tallies.byLayer[drawing.tags(record).text(entityLayerCode, u"0"_s)].add(difference.fate);
+            tallies.byLayer[drawing.tags(record).text(talliedLayerCode, u"0"_s)].add(difference.fate);
     }
     return tallies;
 }

@@ -11,7 +11,7 @@ namespace host::drawing {
 
 namespace {
 
-constexpr int nameCode = 2;
+constexpr int pairedNameCode = 2;
 constexpr int classNameCode = 1;
 
 /// The name of a record among those of its parent, in folded case.
@@ -22,7 +22,7 @@ QString pairingName(const Drawing &drawing, RecordId id)
     case RecordKind::Table:
     case RecordKind::TableEntry:
     case RecordKind::Block:
-        return QString::fromUtf8(drawing.typeName(id)) + drawing.tags(id).text(nameCode).toCaseFolded();
+        return QString::fromUtf8(drawing.typeName(id)) + drawing.tags(id).text(pairedNameCode).toCaseFolded();
     case RecordKind::Class:
         return drawing.tags(id).text(classNameCode).toCaseFolded();
     default:

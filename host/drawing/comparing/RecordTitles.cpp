@@ -121,7 +121,7 @@ QString placeWords(const Drawing &drawing, RecordId entity)
     return place == "Model"_L1 ? QString() : u"on sheet %1"_s.arg(place);
 }
 
-bool isDrawn(RecordKind kind)
+bool isDrawnKindOf(RecordKind kind)
 {
     return kind == RecordKind::Entity || kind == RecordKind::Child;
 }
@@ -140,7 +140,7 @@ QString groupLabel(RecordKind kind, QByteArrayView type, const PlacedField &plac
 
 QString groupName(RecordKind kind, QByteArrayView type, int code)
 {
-    if (isDrawn(kind)) {
+    if (isDrawnKindOf(kind)) {
         for (const EntityProperty &property : entityProperties())
             if (property.code == code && hasProperty(type, property))
                 return QString::fromLatin1(property.name);
@@ -208,7 +208,7 @@ QString RecordTitles::name(RecordId record) const
 QString RecordTitles::title(RecordId record) const
 {
     QString text = name(record);
-    if (!isDrawn(m_drawing.kind(record)))
+    if (!isDrawnKindOf(m_drawing.kind(record)))
         return text;
     const TagList tags = m_drawing.tags(record);
     text += u" on layer "_s + files::visibleText(tags.text(layerNameCode, u"0"_s));
@@ -222,7 +222,7 @@ QString RecordTitles::line(RecordId record, IgnoredKinds ignored) const
 {
     QString text = name(record);
     const RecordKind kind = m_drawing.kind(record);
-    if (isDrawn(kind))
+    if (isDrawnKindOf(kind))
         if (const QString place = placeWords(m_drawing, record); !place.isEmpty())
             text += u' ' + place;
     const bool isVariable = kind == RecordKind::Variable;

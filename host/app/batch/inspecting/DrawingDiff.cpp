@@ -130,7 +130,7 @@ int compareAndTell(const ProgramOptions &options, FileResult &result)
     return comparison.differences.empty() || !options.diff.changedPath.isEmpty() ? ExitDone : ExitFailed;
 }
 
-Outcome outcomeOf(int status)
+Outcome outcomeOfDiff(int status)
 {
     return status == ExitDone       ? Outcome::Done
            : status == ExitFailed   ? Outcome::Failed
@@ -150,7 +150,7 @@ int diffDrawings(const ProgramOptions &options)
     const int status = compareAndTell(options, result);
     if (!options.withJson)
         return status;
-    result.outcome = outcomeOf(status);
+    result.outcome = outcomeOfDiff(status);
     result.messages = keeper.messages();
     result.more.insert(u"with"_s, options.drawings[1]);
     BatchReport report(options);

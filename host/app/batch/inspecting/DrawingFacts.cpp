@@ -66,7 +66,7 @@ void insertText(QJsonObject &object, const QString &key, const QString &text)
         object.insert(key, text);
 }
 
-void addFile(QJsonObject &facts, const Drawing &drawing)
+void addFormat(QJsonObject &facts, const Drawing &drawing)
 {
     facts.insert(u"version"_s, versionWord(drawing.version()));
     facts.insert(
@@ -233,7 +233,7 @@ QJsonObject drawingFacts(const Drawing &drawing, const drawing::ReadableFiles &r
 {
     const RecordCounts counts = countRecords(drawing);
     QJsonObject facts;
-    addFile(facts, drawing);
+    addFormat(facts, drawing);
     addSummary(facts, drawing);
     addUnits(facts, drawing);
     addExtents(facts, drawing);

@@ -33,7 +33,7 @@ QString boxText(const QJsonValue &value)
     return corners.join(u'-');
 }
 
-QString listed(const QStringList &parts)
+QString firstNames(const QStringList &parts)
 {
     if (parts.size() <= longestListing)
         return parts.join(", "_L1);
@@ -42,22 +42,22 @@ QString listed(const QStringList &parts)
 }
 
 /// "3: a, b, c"; empty for none.
-QString counted(const QStringList &parts)
+QString withCount(const QStringList &parts)
 {
-    return parts.isEmpty() ? QString() : u"%1: %2"_s.arg(parts.size()).arg(listed(parts));
+    return parts.isEmpty() ? QString() : u"%1: %2"_s.arg(parts.size()).arg(firstNames(parts));
 }
 
-QString shown(const QJsonValue &value)
+QString factOf(const QJsonValue &value)
 {
     return files::visibleText(value.toString());
 }
 
 QString fileLine(const QJsonObject &facts)
 {
-    const QString code = shown(facts[u"code"]);
-    const QString version = shown(facts[u"version"]);
-    return QStringList{version.isEmpty() ? code : u"%1 (%2)"_s.arg(version, code), shown(facts[u"form"]),
-                       shown(facts[u"encoding"]),
+    const QString code = factOf(facts[u"code"]);
+    const QString version = factOf(facts[u"version"]);
+    return QStringList{version.isEmpty() ? code : u"%1 (%2)"_s.arg(version, code), factOf(facts[u"form"]),
+                       factOf(facts[u"encoding"]),
                        factText(QT_TRANSLATE_NOOP("Inspecting", "%1 bytes")).arg(facts[u"size"].toInteger())}
         .join(", "_L1);
 }
@@ -66,11 +66,11 @@ QString savedLine(const QJsonObject &facts)
 {
     QStringList parts;
     if (facts.contains(u"updated"_s))
-        parts.append(shown(facts[u"updated"]));
+        parts.append(factOf(facts[u"updated"]));
     if (facts.contains(u"savedBy"_s))
-        parts.append(factText(QT_TRANSLATE_NOOP("Inspecting", "by %1")).arg(shown(facts[u"savedBy"])));
+        parts.append(factText(QT_TRANSLATE_NOOP("Inspecting", "by %1")).arg(factOf(facts[u"savedBy"])));
     if (facts.contains(u"created"_s))
-        parts.append(factText(QT_TRANSLATE_NOOP("Inspecting", "begun %1")).arg(shown(facts[u"created"])));
+        parts.append(factText(QT_TRANSLATE_NOOP("Inspecting", "begun %1")).arg(factOf(facts[u"created"])));
     return parts.join(", "_L1);
 }
 
@@ -100,7 +100,7 @@ QString entitiesLine(const QJsonObject &entities)
 
 QString layerText(const QJsonValue &layer)
 {
-    QString text = u"%1 %2"_s.arg(shown(layer[u"name"])).arg(layer[u"entities"].toInteger());
+    QString text = u"%1 %2"_s.arg(factOf(layer[u"name"])).arg(layer[u"entities"].toInteger());
     if (!layer[u"on"].toBool())
         text += factText(QT_TRANSLATE_NOOP("Inspecting", " off"));
     if (layer[u"frozen"].toBool())
@@ -113,12 +113,12 @@ QString layerText(const QJsonValue &layer)
 QString blockText(const QJsonValue &block)
 {
     const QString inserts = u" \u00d7%1"_s.arg(block[u"inserts"].toInteger());
-    return shown(block[u"name"]) + inserts;
+    return factOf(block[u"name"]) + inserts;
 }
 
 QString layoutText(const QJsonValue &layout)
 {
-    QString text = shown(layout[u"name"]);
+    QString text = factOf(layout[u"name"]);
     const QJsonArray paper = layout[u"paper"].toArray();
     if (paper.size() == 2)
         text += u" %1\u00d7%2 mm"_s.arg(shortNumber(paper[0].toDouble()), shortNumber(paper[1].toDouble()));
@@ -127,13 +127,13 @@ QString layoutText(const QJsonValue &layout)
 
 QString foundText(const QJsonValue &file)
 {
-    QString text = shown(file[u"name"]);
+    QString text = factOf(file[u"name"]);
     if (file.toObject().contains(u"kind"_s))
-        text = shown(file[u"kind"]) + u' ' + text;
+        text = factOf(file[u"kind"]) + u' ' + text;
     if (file[u"found"].toBool())
         return text;
     return text + (file.toObject().contains(u"replacedBy"_s)
-                       ? factText(QT_TRANSLATE_NOOP("Inspecting", " (not found: %1)")).arg(shown(file[u"replacedBy"]))
+                       ? factText(QT_TRANSLATE_NOOP("Inspecting", " (not found: %1)")).arg(factOf(file[u"replacedBy"]))
                        : factText(QT_TRANSLATE_NOOP("Inspecting", " (not found)")));
 }
 
@@ -143,7 +143,7 @@ QString listLine(const QJsonValue &list, Text text)
     QStringList parts;
     for (const QJsonValue &item : list.toArray())
         parts.append(text(item));
-    return counted(parts);
+    return withCount(parts);
 }
 
 QString handlesLine(const QJsonObject &handles)
@@ -157,7 +157,7 @@ QString handlesLine(const QJsonObject &handles)
     if (const qint64 twice = handles[u"twice"].toInteger(); twice > 0)
         line += factText(QT_TRANSLATE_NOOP("Inspecting", ", %1 twice")).arg(twice);
     if (!handles[u"isNextFree"].toBool())
-        line += factText(QT_TRANSLATE_NOOP("Inspecting", ", the next one (%1) is taken")).arg(shown(handles[u"next"]));
+        line += factText(QT_TRANSLATE_NOOP("Inspecting", ", the next one (%1) is taken")).arg(factOf(handles[u"next"]));
     return line;
 }
 
@@ -165,16 +165,16 @@ QString handlesLine(const QJsonObject &handles)
 
 QString factsText(const QJsonObject &facts)
 {
-    const auto names = [](const QJsonValue &name) { return shown(name); };
-    const auto styles = [](const QJsonValue &style) { return shown(style[u"name"]); };
-    const auto classes = [](const QJsonValue &entry) { return shown(entry[u"name"]); };
+    const auto names = [](const QJsonValue &name) { return factOf(name); };
+    const auto styles = [](const QJsonValue &style) { return factOf(style[u"name"]); };
+    const auto classes = [](const QJsonValue &entry) { return factOf(entry[u"name"]); };
     const qint64 proxies = facts[u"proxies"].toInteger();
     const std::pair<const char *, QString> rows[] = {
         {QT_TRANSLATE_NOOP("Inspecting", "format"), fileLine(facts)},
-        {QT_TRANSLATE_NOOP("Inspecting", "title"), shown(facts[u"title"])},
-        {QT_TRANSLATE_NOOP("Inspecting", "author"), shown(facts[u"author"])},
+        {QT_TRANSLATE_NOOP("Inspecting", "title"), factOf(facts[u"title"])},
+        {QT_TRANSLATE_NOOP("Inspecting", "author"), factOf(facts[u"author"])},
         {QT_TRANSLATE_NOOP("Inspecting", "saved"), savedLine(facts)},
-        {QT_TRANSLATE_NOOP("Inspecting", "units"), shown(facts[u"units"]) + u", "_s + shown(facts[u"measurement"])},
+        {QT_TRANSLATE_NOOP("Inspecting", "units"), factOf(facts[u"units"]) + u", "_s + factOf(facts[u"measurement"])},
         {QT_TRANSLATE_NOOP("Inspecting", "extents"), extentsLine(facts[u"extents"].toObject())},
         {QT_TRANSLATE_NOOP("Inspecting", "entities"), entitiesLine(facts[u"entities"].toObject())},
         {QT_TRANSLATE_NOOP("Inspecting", "layers"), listLine(facts[u"layers"], layerText)},
