@@ -3,6 +3,7 @@
     = Tools                      a part of the book
     tools/breakline.md           a document, relative to docs/manual
     ../lisp.md split             each of its sections with two # is a page of its own
+    ?../cli.md                   a document that is made by a build and may not be there
 """
 
 import re
@@ -70,7 +71,9 @@ def read_pages(book=BOOK):
 
 
 def pages_of(book, part, path, how=""):
-    source = (book / path).resolve()
+    source = (book / path.lstrip("?")).resolve()
+    if path.startswith("?") and not source.is_file():
+        return []
     if not source.is_file():
         raise BookError(f"contents.txt: there is no {path}")
     text = source.read_text(encoding="utf-8")

@@ -160,6 +160,11 @@ class WhatIsWrong(unittest.TestCase):
             with self.assertRaises(BookError):
                 made_book(self.book(**documents))
         path = self.book(a="# A")
+        (path / "contents.txt").write_text("?none.md\na.md\n", encoding="utf-8")
+        self.assertEqual([page.name for page in read_pages(path)], ["a"])
+        (path / "contents.txt").write_text("none.md\n", encoding="utf-8")
+        with self.assertRaises(BookError):
+            read_pages(path)
         (path / "contents.txt").write_text("a.md\na.md\n", encoding="utf-8")
         with self.assertRaises(BookError):
             read_pages(path)
